@@ -1,0 +1,25 @@
+#include "base/clock.h"
+
+#include <utility>
+
+namespace vlk {
+
+namespace {
+std::function<QDateTime()>& heldClock()
+{
+    static std::function<QDateTime()> clock;
+    return clock;
+}
+} // namespace
+
+QDateTime now()
+{
+    return heldClock() ? heldClock()() : QDateTime::currentDateTime();
+}
+
+void setClock(std::function<QDateTime()> clock)
+{
+    heldClock() = std::move(clock);
+}
+
+} // namespace vlk

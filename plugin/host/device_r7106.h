@@ -1,0 +1,92 @@
+#pragma once
+
+// The one device object of the library: what the host told about the tracker, the identification that the
+// host reads, and the windows. It exists from the loading of the library to its end; the pointer `vlkDevice`
+// is null until Initialize. Windows are made on first use and live as long as the process: closing one only
+// hides it. Messages from outside arrive in `receive`, messages to the host leave through `send`
+// (host/requests.h has a typed function for each).
+
+#include "host/host_interface.h"
+
+#include <QObject>
+
+class VLK_Form_IO_Progress;
+class VLK_Form_Param_About;
+class VLK_Widget_Config;
+class VLK_Widget_Tmi_View;
+class VLK_Widget_Tmi_Page;
+class VLK_Widget_Tmi_Table;
+
+class VLK_Device_R7106 : public QObject
+{
+    Q_OBJECT
+
+public:
+    VLK_Device_R7106();
+
+    // What the exports do.
+    const vlk::LibraryInfo& info() const { return libraryInfo_; }
+    void initialize(vlk::HostCallback callback);
+    bool isHandle(const void* handle) const;
+    void receive(std::uint32_t id, void* p1, void* p2);
+
+    void send(vlk::Message id, void* p1 = nullptr, void* p2 = nullptr);
+
+    // Folder of telemetry files, "./Data/TMI/" until the host gives another; of configuration files likewise.
+    QString tmiFolder() const;
+    QString xmlFolder() const;
+
+    QString model() const { return modelText_; }
+    QString vendor() const { return vendorText_; }
+    QString trackerId1() const { return trackerText1_; }
+    QString trackerId2() const { return trackerText2_; }
+    quint64 capabilityMask() const { return trackerMask_; }
+    bool connected() const { return connected_; }
+    int mode() const { return hostMode_; }
+    // First three version numbers, "3.3.0".
+    QString fileVersion() const;
+
+    // Balance request code of the last configuration file read, balanceUssdSize bytes with their NUL.
+    char* balanceUssd() { return balanceUssd_; }
+
+    // Who asked for the live key: 1 the telemetry view, 0 nobody.
+    void setLiveOwner(int owner) { liveOwner_ = owner; }
+
+    // Shows a help page of the host; an empty name asks for nothing.
+    void showHelp(const QString& page);
+    // Shows a titled text in the text dialog.
+    void showText(const QString& title, const QString& html);
+
+    VLK_Form_IO_Progress* progressForm() const { return progressForm_; }
+
+private:
+    struct Dispatch;
+    friend struct Dispatch;
+
+    void attach(const vlk::ConnectInfo& info);
+    void detach();
+    void setIdentity(const vlk::IdentityInfo& info);
+    void setPaths(const vlk::Paths& paths);
+    void retranslate();
+
+    VLK_Form_IO_Progress* progressForm_ = nullptr;
+    VLK_Form_Param_About* aboutForm_ = nullptr;
+    QString pathTmi_;
+    QString pathXml_;
+    QString pathThird_;
+    QString pathFourth_;
+    vlk::LibraryInfo libraryInfo_{};
+    vlk::HostCallback hostCallback_ = nullptr;
+    int liveOwner_ = 0;
+    QString modelText_;
+    QString vendorText_;
+    bool connected_ = false;
+    QString trackerText1_;
+    QString trackerText2_;
+    quint64 trackerMask_ = 0;
+    int hostMode_ = 0;
+    char balanceUssd_[vlk::balanceUssdSize] = {};
+};
+
+// Null until the host has called Initialize.
+extern VLK_Device_R7106* vlkDevice;

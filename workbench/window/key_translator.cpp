@@ -1,0 +1,7 @@
+#include "window/key_translator.h"
+
+QString KeyTranslator::translate(const char* /*context*/, const char* key, const char* /*disambiguation*/,
+                                 int n) const
+{
+    return QTranslator::translate(nullptr, key, nullptr, n);
+}
