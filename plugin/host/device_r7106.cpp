@@ -1,5 +1,164 @@
 #include "host/device_r7106.h"
 
+#include "windows/form_io_progress.h"
+#include "windows/form_param_about.h"
+#include "windows/widget_config.h"
+
+#include <cstring>
+
 VLK_Device_R7106* vlkDevice = nullptr;
 
-VLK_Device_R7106::VLK_Device_R7106() = default;
+namespace {
+
+constexpr std::int32_t version[] = {3, 3, 0, 2};
+
+// The record keeps its 538 bytes where pointers are wider than its 4-byte field: it then holds the low half.
+std::uint32_t token(const void* address)
+{
+    return static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(address));
+}
+
+void copyText(char* field, std::size_t size, const QByteArray& text)
+{
+    std::memcpy(field, text.constData(),
+                std::min<std::size_t>(size - 1, static_cast<std::size_t>(text.size())));
+}
+
+} // namespace
+
+VLK_Device_R7106::VLK_Device_R7106()
+    : modelText_(QStringLiteral("R-7106")), vendorText_(QStringLiteral("VELTRONIKA"))
+{
+    libraryInfo_.handle = token(this);
+    copyText(libraryInfo_.modelName, sizeof libraryInfo_.modelName, modelText_.toUtf8());
+    copyText(libraryInfo_.displayName, sizeof libraryInfo_.displayName,
+             QStringLiteral("Aster R-7106").toLocal8Bit());
+    libraryInfo_.versionMajor = version[0];
+    libraryInfo_.versionMinor = version[1];
+    libraryInfo_.versionPatch = version[2];
+    libraryInfo_.versionFourth = version[3];
+    libraryInfo_.interfaceValue = vlk::interfaceValue;
+}
+
+void VLK_Device_R7106::initialize(vlk::HostCallback callback)
+{
+    hostCallback_ = callback;
+    vlkDevice = this;
+    Q_INIT_RESOURCE(plugin);
+    if (!aboutForm_)
+        aboutForm_ = new VLK_Form_Param_About;
+    if (!progressForm_)
+        progressForm_ = new VLK_Form_IO_Progress;
+}
+
+bool VLK_Device_R7106::isHandle(const void* handle) const
+{
+    return handle == this || reinterpret_cast<std::uintptr_t>(handle) == libraryInfo_.handle;
+}
+
+void VLK_Device_R7106::send(vlk::Message id, void* p1, void* p2)
+{
+    if (hostCallback_)
+        hostCallback_(this, static_cast<std::uint32_t>(id), p1, p2);
+}
+
+QString VLK_Device_R7106::tmiFolder() const
+{
+    return pathTmi_.isEmpty() ? QStringLiteral("./Data/TMI/") : pathTmi_;
+}
+
+QString VLK_Device_R7106::xmlFolder() const
+{
+    return pathXml_.isEmpty() ? QStringLiteral("./Data/XML/") : pathXml_;
+}
+
+QString VLK_Device_R7106::fileVersion() const
+{
+    return QStringLiteral("%1.%2.%3").arg(version[0]).arg(version[1]).arg(version[2]);
+}
+
+void VLK_Device_R7106::showHelp(const QString& page)
+{
+    if (page.isEmpty())
+        return;
+    // The host keeps help by model, and this library has the pages of one, whatever identity was set.
+    QString model = QStringLiteral("R-7106");
+    QString name = page;
+    send(vlk::Message::ShowHelp, &model, &name);
+}
+
+void VLK_Device_R7106::showText(const QString& title, const QString& html)
+{
+    if (!aboutForm_)
+        return;
+    aboutForm_->setTitle(title);
+    aboutForm_->setHtml(html);
+    aboutForm_->show();
+}
+
+void VLK_Device_R7106::setIdentity(const vlk::IdentityInfo& info)
+{
+    modelText_ = info.model;
+    vendorText_ = info.vendor;
+}
+
+void VLK_Device_R7106::setPaths(const vlk::Paths& paths)
+{
+    pathTmi_ = paths.pathTmi;
+    pathXml_ = paths.pathXml;
+    pathThird_ = paths.pathThird;
+    pathFourth_ = paths.pathFourth;
+}
+
+void VLK_Device_R7106::attach(const vlk::ConnectInfo& info)
+{
+    if (info.model != modelText_) {
+        detach();
+        return;
+    }
+    trackerText1_ = info.text1;
+    trackerText2_ = info.text2;
+    trackerMask_ = quint64(info.maskHigh) << 32 | info.maskLow;
+    connected_ = true;
+    balanceUssd_[0] = '\0';
+    if (configDialog_)
+        configDialog_->deviceConnected();
+}
+
+void VLK_Device_R7106::detach()
+{
+    trackerText1_.clear();
+    trackerText2_.clear();
+    trackerMask_ = 0;
+    connected_ = false;
+    balanceUssd_[0] = '\0';
+    if (configDialog_)
+        configDialog_->deviceDisconnected();
+}
+
+void VLK_Device_R7106::openConfiguration(const vlk::OpenRequest& request)
+{
+    if (!configDialog_)
+        configDialog_ = new VLK_Widget_Config;
+    if (connected_)
+        configDialog_->deviceConnected();
+    else
+        configDialog_->deviceDisconnected();
+    configDialog_->open(request, balanceUssd_);
+}
+
+void VLK_Device_R7106::retranslate()
+{
+    if (progressForm_)
+        progressForm_->retranslate();
+    if (aboutForm_)
+        aboutForm_->retranslate();
+    if (configDialog_)
+        configDialog_->retranslate();
+}
+
+void VLK_Device_R7106::closeWindows()
+{
+    if (configDialog_)
+        configDialog_->close();
+}

@@ -13,9 +13,6 @@
 class VLK_Form_IO_Progress;
 class VLK_Form_Param_About;
 class VLK_Widget_Config;
-class VLK_Widget_Tmi_View;
-class VLK_Widget_Tmi_Page;
-class VLK_Widget_Tmi_Table;
 
 class VLK_Device_R7106 : public QObject
 {
@@ -50,6 +47,7 @@ public:
     char* balanceUssd() { return balanceUssd_; }
 
     // Who asked for the live key: 1 the telemetry view, 0 nobody.
+    int liveOwner() const { return liveOwner_; }
     void setLiveOwner(int owner) { liveOwner_ = owner; }
 
     // Shows a help page of the host; an empty name asks for nothing.
@@ -57,18 +55,23 @@ public:
     // Shows a titled text in the text dialog.
     void showText(const QString& title, const QString& html);
 
+    // The progress dialog, null before Initialize.
     VLK_Form_IO_Progress* progressForm() const { return progressForm_; }
 
-private:
-    struct Dispatch;
-    friend struct Dispatch;
-
-    void attach(const vlk::ConnectInfo& info);
-    void detach();
+    // What messages do to the device itself; dispatch.cpp says which.
+    void setMode(int mode) { hostMode_ = mode; }
     void setIdentity(const vlk::IdentityInfo& info);
     void setPaths(const vlk::Paths& paths);
+    void attach(const vlk::ConnectInfo& info);
+    void detach();
+    void openConfiguration(const vlk::OpenRequest& request);
     void retranslate();
+    void closeWindows();
 
+    // Null until the first message that opens it.
+    VLK_Widget_Config* configDialog() const { return configDialog_; }
+
+private:
     VLK_Form_IO_Progress* progressForm_ = nullptr;
     VLK_Form_Param_About* aboutForm_ = nullptr;
     QString pathTmi_;
@@ -84,6 +87,7 @@ private:
     QString trackerText1_;
     QString trackerText2_;
     quint64 trackerMask_ = 0;
+    VLK_Widget_Config* configDialog_ = nullptr;
     int hostMode_ = 0;
     char balanceUssd_[vlk::balanceUssdSize] = {};
 };

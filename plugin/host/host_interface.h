@@ -212,6 +212,11 @@ inline constexpr int analogRecordLine1 = 15;
 inline constexpr int accelStatusByte = 11;
 inline constexpr int accelResultSize = 12;
 
+// What GetInterfaceValue and the library information record give.
+inline constexpr int interfaceValue = 1;
+// What GetFamilyValue gives.
+inline constexpr int familyValue = 196;
+
 // Size of the buffer that GetBalanceUssd fills.
 inline constexpr int balanceUssdSize = 255;
 

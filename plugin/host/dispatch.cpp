@@ -1,0 +1,145 @@
+// Every message that the library takes, in one table: its number and whom it calls. Parameters come from
+// outside: a null address ends the message. Numbers that the table lacks are ignored, among them those of the
+// contract that have no effect on this model.
+
+#include "host/device_r7106.h"
+#include "windows/widget_config.h"
+#include "windows/widget_config_full.h"
+
+#include <algorithm>
+#include <cstring>
+#include <iterator>
+
+namespace {
+
+using vlk::Message;
+
+struct Parameters
+{
+    void* p1;
+    void* p2;
+};
+
+using Handler = void (*)(VLK_Device_R7106& device, const Parameters& parameters);
+
+struct Entry
+{
+    Message number;
+    Handler handle;
+};
+
+template <class T, auto value>
+void answer(VLK_Device_R7106& /*device*/, const Parameters& parameters)
+{
+    if (parameters.p1)
+        *static_cast<T*>(parameters.p1) = value;
+}
+
+// Calls an operation of the device with the record at p1.
+template <auto operation, class Record>
+void withRecord(VLK_Device_R7106& device, const Parameters& parameters)
+{
+    if (parameters.p1)
+        (device.*operation)(*static_cast<const Record*>(parameters.p1));
+}
+
+template <auto operation>
+void plain(VLK_Device_R7106& device, const Parameters& /*parameters*/)
+{
+    (device.*operation)();
+}
+
+// Hands the value at p1 to an operation of the full window, whether the dialog is on show or not.
+template <auto operation, class T>
+void toConfig(VLK_Device_R7106& device, const Parameters& parameters)
+{
+    if (device.configDialog() && parameters.p1)
+        (device.configDialog()->fullWindow()->*operation)(*static_cast<const T*>(parameters.p1));
+}
+
+template <auto operation, class T>
+void toShownConfig(VLK_Device_R7106& device, const Parameters& parameters)
+{
+    if (device.configDialog() && !device.configDialog()->isHidden())
+        toConfig<operation, T>(device, parameters);
+}
+
+// Hands the byte record at p1 on as it came, null included.
+template <auto operation>
+void bytesToConfig(VLK_Device_R7106& device, const Parameters& parameters)
+{
+    if (device.configDialog())
+        (device.configDialog()->fullWindow()->*operation)(static_cast<const uchar*>(parameters.p1));
+}
+
+using Full = VLK_Widget_Config_Full;
+
+constexpr Entry table[] = {
+    {Message::GetLibraryFlag, &answer<std::int32_t, 1>},
+    {Message::GetInterfaceValue, &answer<std::int32_t, vlk::interfaceValue>},
+    {Message::GetFamilyValue, &answer<std::int32_t, vlk::familyValue>},
+    {Message::SetHostMode,
+     [](VLK_Device_R7106& device, const Parameters& parameters) {
+         if (parameters.p1)
+             device.setMode(*static_cast<const std::int32_t*>(parameters.p1));
+     }},
+    {Message::GetProtocolText,
+     [](VLK_Device_R7106&, const Parameters& parameters) {
+         if (parameters.p1)
+             *static_cast<QString*>(parameters.p1) = QStringLiteral("010");
+     }},
+    {Message::GetReservedValue, &answer<std::int32_t, 0>},
+    {Message::SetIdentity, &withRecord<&VLK_Device_R7106::setIdentity, vlk::IdentityInfo>},
+    {Message::LanguageChanged, &plain<&VLK_Device_R7106::retranslate>},
+    {Message::CloseWindows, &plain<&VLK_Device_R7106::closeWindows>},
+    {Message::SetPaths, &withRecord<&VLK_Device_R7106::setPaths, vlk::Paths>},
+    {Message::TrackerAttached, &withRecord<&VLK_Device_R7106::attach, vlk::ConnectInfo>},
+    {Message::TrackerDetached, &plain<&VLK_Device_R7106::detach>},
+    {Message::LineValues, &toShownConfig<&Full::takeLineValues, QByteArray>},
+    {Message::OpenConfiguration, &withRecord<&VLK_Device_R7106::openConfiguration, vlk::OpenRequest>},
+    {Message::SupplyValues, &bytesToConfig<&Full::takeSupply>},
+    {Message::AnalogRecord,
+     [](VLK_Device_R7106& device, const Parameters& parameters) {
+         if (device.configDialog() && !device.configDialog()->isHidden())
+             bytesToConfig<&Full::takeAnalog>(device, parameters);
+     }},
+    {Message::AccelRecord, &bytesToConfig<&Full::takeAccel>},
+    {Message::AccelCommandResult, &bytesToConfig<&Full::takeAccelResult>},
+    {Message::MonitorRearm,
+     [](VLK_Device_R7106& device, const Parameters&) {
+         if (device.configDialog())
+             device.configDialog()->fullWindow()->rearmMonitor();
+     }},
+    {Message::BtSearchStopped, &toConfig<&Full::takeBtSearchStopped, uchar>},
+    {Message::BtSearchEvent, &toConfig<&Full::takeBtSearchEvent, uchar>},
+    {Message::BtDeviceFound, &toConfig<&Full::takeBtDevice, vlk::BtDevice>},
+    {Message::CanLogProgram, &toConfig<&Full::takeCanLogProgram, std::int32_t>},
+    {Message::GetBalanceUssd,
+     [](VLK_Device_R7106& device, const Parameters& parameters) {
+         if (parameters.p1)
+             std::memcpy(parameters.p1, device.balanceUssd(), std::strlen(device.balanceUssd()) + 1);
+     }},
+    {Message::RaiseConfiguration,
+     [](VLK_Device_R7106& device, const Parameters&) {
+         if (device.configDialog() && device.configDialog()->isVisible()) {
+             device.configDialog()->raise();
+             device.configDialog()->activateWindow();
+         }
+     }},
+};
+
+static_assert(std::is_sorted(std::begin(table), std::end(table), [](const Entry& left, const Entry& right) {
+    return left.number < right.number;
+}));
+
+} // namespace
+
+void VLK_Device_R7106::receive(std::uint32_t id, void* p1, void* p2)
+{
+    const auto number = static_cast<Message>(id);
+    const auto* found =
+        std::lower_bound(std::begin(table), std::end(table), number,
+                         [](const Entry& entry, Message wanted) { return entry.number < wanted; });
+    if (found != std::end(table) && found->number == number)
+        found->handle(*this, Parameters{p1, p2});
+}

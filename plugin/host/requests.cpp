@@ -1,0 +1,34 @@
+#include "host/requests.h"
+
+#include "host/device_r7106.h"
+
+namespace vlk::requests {
+
+void detail::send(Message id, void* p1, void* p2)
+{
+    if (vlkDevice)
+        vlkDevice->send(id, p1, p2);
+}
+
+void showHelp(const QString& page)
+{
+    if (vlkDevice)
+        vlkDevice->showHelp(page);
+}
+
+QString eventText(int code)
+{
+    QString text;
+    detail::send(Message::RequestEventText, reinterpret_cast<void*>(static_cast<std::intptr_t>(code)), &text);
+    return text;
+}
+
+void liveKey(int owner)
+{
+    if (!vlkDevice)
+        return;
+    vlkDevice->setLiveOwner(owner);
+    vlkDevice->send(Message::RequestLiveKey);
+}
+
+} // namespace vlk::requests

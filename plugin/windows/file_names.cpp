@@ -1,0 +1,34 @@
+#include "windows/file_names.h"
+
+#include "base/clock.h"
+#include "host/device_r7106.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QRegularExpression>
+
+namespace vlk {
+
+QString configurationPathToWrite(const QString& part)
+{
+    return QStringLiteral("%1/vlk_%2_%3.xml")
+        .arg(QDir::currentPath(), part, now().toString(QStringLiteral("d-MM-yy-H-m")));
+}
+
+QString askConfigurationPath(QWidget* parent, const QString& objectName)
+{
+    if (!vlkDevice)
+        return {};
+    // An object's name is free text; a file name is not.
+    static const QRegularExpression forbidden(QStringLiteral("[\\\\/:*?\"<>|\\x00-\\x1f]"));
+    const QString name = QString(objectName).replace(forbidden, QStringLiteral("_"));
+    const QString suggested =
+        QStringLiteral("%1/%2(%3).xml")
+            .arg(vlkDevice->xmlFolder(), name, now().toString(QStringLiteral("dd-MM-yy hh_mm_ss")));
+    const auto text = [](const char* key) { return QCoreApplication::translate("vlk", key); };
+    return QFileDialog::getSaveFileName(parent, text("cfgwnd_003"), suggested,
+                                        QStringLiteral("%1 XML (*.xml)").arg(text("cfgwnd_004")));
+}
+
+} // namespace vlk

@@ -1,0 +1,107 @@
+#include "windows/widget_config.h"
+
+#include "ui_VLK_Designer_Widget_Config.h"
+
+#include "host/device_r7106.h"
+#include "host/requests.h"
+#include "windows/file_names.h"
+#include "windows/widget_config_full.h"
+#include "windows/widget_config_light.h"
+#include "xml/xml_section.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+VLK_Widget_Config* vlkConfigDialog = nullptr;
+
+VLK_Widget_Config::VLK_Widget_Config(QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
+      ui_(std::make_unique<Ui::VLK_Designer_Widget_Config>())
+{
+    vlkConfigDialog = this;
+    ui_->setupUi(this);
+    setWindowModality(Qt::ApplicationModal);
+    lightWindow_ = new VLK_Widget_Config_Light(this);
+    fullWindow_ = new VLK_Widget_Config_Full(this);
+    ui_->gridLayout_Light->addWidget(lightWindow_);
+    ui_->gridLayout_Full->addWidget(fullWindow_);
+    retranslate();
+}
+
+VLK_Widget_Config::~VLK_Widget_Config()
+{
+    if (vlkConfigDialog == this)
+        vlkConfigDialog = nullptr;
+}
+
+void VLK_Widget_Config::open(const vlk::OpenRequest& request, char* ussdBuffer)
+{
+    fullWindow_->setDefaults();
+    const QString path = QString::fromLocal8Bit(static_cast<const char*>(request.path));
+    QString title = vlkDevice ? vlkDevice->model() : QString();
+    if (path.isEmpty()) {
+        title += QStringLiteral(": New");
+    } else {
+        fullWindow_->loadFile(path, ussdBuffer);
+        title += request.fromFile == 1 ? QStringLiteral(": %1").arg(QFileInfo(path).fileName())
+                                       : QStringLiteral(": Device");
+    }
+    setWindowTitle(title);
+    ui_->stackedWidget->setCurrentWidget(request.showFull == 1 ? ui_->page_Full : ui_->page_Light);
+    show();
+}
+
+void VLK_Widget_Config::deviceConnected()
+{
+    lightWindow_->deviceConnected();
+    fullWindow_->deviceConnected();
+}
+
+void VLK_Widget_Config::deviceDisconnected()
+{
+    lightWindow_->deviceDisconnected();
+    fullWindow_->deviceDisconnected();
+}
+
+void VLK_Widget_Config::writeQuickToDevice()
+{
+    if (!vlkDevice)
+        return;
+    const QString path = vlk::configurationPathToWrite(vlkDevice->model());
+    saveQuickToFile(path);
+    vlk::requests::writeConfiguration(path);
+}
+
+void VLK_Widget_Config::saveQuickToFile(const QString& path)
+{
+    fullWindow_->saveFile(path);
+}
+
+void VLK_Widget_Config::switchToFull()
+{
+    // The state goes over in memory, so that a folder that cannot be written costs nothing.
+    const QString path = QDir::current().filePath(QStringLiteral("file.xml"));
+    CXmlSection root(path, "DEVICE");
+    root.clear();
+    fullWindow_->saveToXml(&root);
+    root.commit();
+    char unusedUssd[vlk::balanceUssdSize] = {};
+    fullWindow_->loadFromXml(&root, unusedUssd);
+    closeDocument(root.document(), false);
+    QFile::remove(path);
+    ui_->stackedWidget->setCurrentWidget(ui_->page_Full);
+}
+
+void VLK_Widget_Config::switchToQuick()
+{
+    ui_->stackedWidget->setCurrentWidget(ui_->page_Light);
+}
+
+void VLK_Widget_Config::retranslate()
+{
+    if (vlkDevice)
+        setWindowTitle(vlkDevice->model());
+    lightWindow_->retranslate();
+    fullWindow_->retranslate();
+}
