@@ -1,0 +1,7 @@
+#include "windows/vlk_combobox.h"
+
+void VLK_ComboBox::showPopup()
+{
+    popupText_ = currentText();
+    QComboBox::showPopup();
+}
