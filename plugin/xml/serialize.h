@@ -1,0 +1,47 @@
+#pragma once
+
+// One open document: its file and its tree. Documents are read and written in windows-1251, whatever the
+// encoding of the system. Failures are told to the log alone (vlk.xml): a file that cannot be read gives no
+// tree, and one that cannot be written stays as it was.
+//
+// An empty file name makes a document in memory: it starts empty and is never saved.
+
+#include "xml/xml_node.h"
+
+#include <QObject>
+
+#include <memory>
+
+class CSerialize : public QObject
+{
+    Q_OBJECT
+
+public:
+    // A longer file is refused unread: the largest configuration has less than a hundredth of this.
+    static constexpr qint64 maxFileSize = 8 * 1024 * 1024;
+
+    explicit CSerialize(QString fileName);
+
+    // False when there is a file with content that is not a document. A missing file is made, empty; a
+    // missing or empty file gives an empty document.
+    bool load();
+    // Replaces the file as a whole. Without a tree nothing happens.
+    void save();
+
+    // With a parent: its first child `name` for kind 0, made where there is none; always a new child of that
+    // kind for the others. Without a parent: the root, which is replaced by an empty one when it has another
+    // name.
+    CXmlNode* node(CXmlNode* parent, const QString& name, qint32 kind = CXmlNode::Element);
+    // Drops children and attributes of the root or of a child of the root; a deeper node keeps them.
+    void clearContent(CXmlNode* node);
+
+private:
+    bool parse(const QByteArray& text);
+
+    QString fileName_;
+    std::unique_ptr<CXmlNode> root_;
+};
+
+// Saves the document if `save` is set, then deletes it. Sections on it must be gone or unused by then; null
+// is allowed.
+void closeDocument(CSerialize* document, bool save);

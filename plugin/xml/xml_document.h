@@ -1,0 +1,29 @@
+#pragma once
+
+// An open document with its root section: closes the document at its end, so that no way out of a function
+// leaks it. Nothing is saved unless save() is called. With an empty path it lives in memory alone, to carry a
+// configuration from one window to another. Child sections must be gone before it.
+
+#include "xml/xml_section.h"
+
+namespace vlk {
+
+class XmlDocument
+{
+public:
+    XmlDocument(const QString& path, const QString& rootName);
+    ~XmlDocument();
+    Q_DISABLE_COPY_MOVE(XmlDocument)
+
+    // False for a file that could not be read as a document; the root has no child sections then.
+    bool isOpen() const { return root_.document() != nullptr; }
+    CXmlSection* root() { return &root_; }
+
+    // Commits the root section and writes the file.
+    void save();
+
+private:
+    CXmlSection root_;
+};
+
+} // namespace vlk

@@ -1,0 +1,62 @@
+#include "xml/xml_handler.h"
+
+#include "xml/xml_text.h"
+
+bool CXmlDefaultHandler::startDocument()
+{
+    root_.reset();
+    current_ = nullptr;
+    depth_ = 0;
+    return true;
+}
+
+bool CXmlDefaultHandler::startElement(const QString&, const QString&, const QString& qualifiedName,
+                                      const QXmlAttributes& attributes)
+{
+    if (++depth_ > maxDepth)
+        return false;
+    const QString name = vlk::unescapeName(qualifiedName);
+    sawContent_ = false;
+    if (current_) {
+        current_ = current_->addChild(name);
+    } else {
+        root_ = std::make_unique<CXmlNode>(name);
+        current_ = root_.get();
+    }
+    if (attributes.length() > 0) {
+        current_->kind = CXmlNode::Attributed;
+        current_->attributes.reserve(static_cast<std::size_t>(attributes.length()));
+        for (int i = 0; i < attributes.length(); ++i)
+            current_->addAttribute(attributes.qName(i), vlk::decodeValue(attributes.value(i)));
+        sawContent_ = true;
+    }
+    return true;
+}
+
+bool CXmlDefaultHandler::endElement(const QString&, const QString&, const QString&)
+{
+    if (!current_)
+        return false;
+    --depth_;
+    if (!sawContent_)
+        current_->kind = CXmlNode::Text;
+    current_ = current_->parent;
+    return true;
+}
+
+bool CXmlDefaultHandler::characters(const QString& text)
+{
+    sawContent_ = true;
+    const QString trimmed = text.trimmed();
+    if (trimmed.isEmpty() || !current_)
+        return true;
+    current_->value = vlk::decodeValue(trimmed);
+    current_->kind = CXmlNode::Text;
+    return true;
+}
+
+std::unique_ptr<CXmlNode> CXmlDefaultHandler::takeRoot()
+{
+    current_ = nullptr;
+    return std::move(root_);
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+// Builds the tree of a document from the events of the XML reader. Values arrive decoded by the reader and
+// are decoded once more here; names are unescaped. A document nested deeper than maxDepth is refused, which
+// keeps every walk over a tree short.
+
+#include "xml/xml_node.h"
+
+#include <QXmlDefaultHandler>
+
+#include <memory>
+
+class CXmlDefaultHandler : public QXmlDefaultHandler
+{
+public:
+    static constexpr int maxDepth = 100;
+
+    bool startDocument() override;
+    bool startElement(const QString& uri, const QString& localName, const QString& qualifiedName,
+                      const QXmlAttributes& attributes) override;
+    bool endElement(const QString& uri, const QString& localName, const QString& qualifiedName) override;
+    bool characters(const QString& text) override;
+
+    // The tree read so far; null when there was no element.
+    std::unique_ptr<CXmlNode> takeRoot();
+
+private:
+    std::unique_ptr<CXmlNode> root_;
+    CXmlNode* current_ = nullptr;
+    bool sawContent_ = false;
+    int depth_ = 0;
+};

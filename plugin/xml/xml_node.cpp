@@ -1,0 +1,46 @@
+#include "xml/xml_node.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <utility>
+
+CXmlNode::CXmlNode(QString nodeName, CXmlNode* parentNode) : name(std::move(nodeName)), parent(parentNode) {}
+
+CXmlNode* CXmlNode::child(const QString& childName) const
+{
+    const auto found = std::find_if(children.begin(), children.end(),
+                                    [&](const auto& node) { return node->name == childName; });
+    return found == children.end() ? nullptr : found->get();
+}
+
+CXmlNode* CXmlNode::addChild(const QString& childName, qint32 childKind)
+{
+    CXmlNode* const added = children.emplace_back(std::make_unique<CXmlNode>(childName, this)).get();
+    added->kind = childKind;
+    return added;
+}
+
+void CXmlNode::addAttribute(const QString& attributeName, const QString& attributeValue)
+{
+    attributes.push_back(std::make_unique<CXmlNode>(attributeName, this));
+    attributes.back()->value = attributeValue;
+}
+
+std::vector<CXmlNode*> CXmlNode::lastAttributes() const
+{
+    std::vector<CXmlNode*> unique;
+    unique.reserve(attributes.size());
+    QHash<QString, std::size_t> places;
+    places.reserve(static_cast<int>(attributes.size()));
+    for (const auto& attribute : attributes) {
+        const auto known = places.constFind(attribute->name);
+        if (known != places.constEnd()) {
+            unique[*known] = attribute.get();
+            continue;
+        }
+        places.insert(attribute->name, unique.size());
+        unique.push_back(attribute.get());
+    }
+    return unique;
+}

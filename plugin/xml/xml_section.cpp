@@ -1,0 +1,175 @@
+#include "xml/xml_section.h"
+
+#include "xml/serialize.h"
+#include "xml/xml_text.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <charconv>
+#include <cstdlib>
+
+namespace {
+
+// As far as the text is a number, without regard to the locale; larger ones keep their low 32 bits.
+int leadingInt(const QString& text)
+{
+    return static_cast<int>(std::strtoll(text.toLatin1().constData(), nullptr, 10));
+}
+
+double leadingDouble(const QString& text)
+{
+    const QByteArray bytes = text.trimmed().toLatin1();
+    const char* begin = bytes.startsWith('+') ? bytes.begin() + 1 : bytes.begin();
+    double number = 0;
+    std::from_chars(begin, bytes.end(), number);
+    return number;
+}
+
+QString asciiOnly(QString text)
+{
+    std::replace_if(
+        text.begin(), text.end(), [](QChar character) { return character.unicode() >= 0x80; },
+        QChar(QChar::ReplacementCharacter));
+    return text;
+}
+
+} // namespace
+
+CXmlSection::CXmlSection(const QString& path, const QString& rootName)
+{
+    auto document = std::make_unique<CSerialize>(path);
+    if (!document->load())
+        return;
+    node_ = document->node(nullptr, rootName);
+    document_ = document.release();
+    buildTable();
+}
+
+CXmlSection::CXmlSection(CSerialize* document, CXmlNode* node) : document_(document), node_(node)
+{
+    buildTable();
+}
+
+void CXmlSection::buildTable()
+{
+    const auto attributes = node_->lastAttributes();
+    table_.reserve(attributes.size() + node_->children.size());
+    const auto add = [this](CXmlNode* node, bool isChild) {
+        table_.push_back({vlk::sectionText(node->name), vlk::sectionText(node->value), isChild, node});
+    };
+    for (CXmlNode* attribute : attributes)
+        add(attribute, false);
+    for (const auto& child : node_->children)
+        add(child.get(), true);
+}
+
+CXmlSection* CXmlSection::section(const QString& name, int kind) const
+{
+    return child(name, kind).release();
+}
+
+CXmlSectionPtr CXmlSection::child(const QString& name, int kind) const
+{
+    if (!document_)
+        return nullptr;
+    return std::make_unique<CXmlSection>(document_, document_->node(node_, name, kind));
+}
+
+CXmlSection* CXmlSection::firstChild(const QString& name)
+{
+    scanName_ = vlk::sectionText(name);
+    scanPosition_ = 0;
+    return nextChild();
+}
+
+CXmlSection* CXmlSection::nextChild()
+{
+    while (scanPosition_ < table_.size()) {
+        const CXmlRecord& record = table_[scanPosition_++];
+        if (record.name == scanName_)
+            return record.node ? new CXmlSection(document_, record.node) : nullptr;
+    }
+    return nullptr;
+}
+
+const CXmlRecord* CXmlSection::find(const QString& name) const
+{
+    const auto found =
+        std::find_if(table_.begin(), table_.end(),
+                     [key = vlk::sectionText(name)](const CXmlRecord& record) { return record.name == key; });
+    return found == table_.end() ? nullptr : &*found;
+}
+
+int CXmlSection::getInt(const QString& name, int fallback) const
+{
+    const CXmlRecord* const record = find(name);
+    return record ? leadingInt(record->value) : fallback;
+}
+
+float CXmlSection::getFloat(const QString& name, float fallback) const
+{
+    return static_cast<float>(getDouble(name, static_cast<double>(fallback)));
+}
+
+double CXmlSection::getDouble(const QString& name, double fallback) const
+{
+    const CXmlRecord* const record = find(name);
+    return record ? leadingDouble(record->value) : fallback;
+}
+
+QString CXmlSection::getString(const QString& name, const QString& fallback) const
+{
+    const CXmlRecord* const record = find(name);
+    return record ? record->value : fallback;
+}
+
+void CXmlSection::setInt(const QString& name, int value)
+{
+    setString(name, QString::number(value));
+}
+
+void CXmlSection::setString(const QString& name, const QString& value)
+{
+    CXmlRecord* record = const_cast<CXmlRecord*>(find(name));
+    if (!record)
+        record = &table_.emplace_back(CXmlRecord{vlk::sectionText(name), {}, false, nullptr});
+    record->value = vlk::sectionText(value);
+    record->isChild = false;
+}
+
+void CXmlSection::setText(const QString& name, const char* chars)
+{
+    setString(name, QString::fromLocal8Bit(chars));
+}
+
+void CXmlSection::setChildValue(const QString& name, const QString& value)
+{
+    if (!document_)
+        return;
+    CXmlNode* const child = document_->node(node_, name);
+    child->value = vlk::sectionText(value);
+    child->kind = CXmlNode::Text;
+}
+
+void CXmlSection::commit()
+{
+    if (!node_)
+        return;
+    QHash<QString, CXmlNode*> firstChildren;
+    for (auto child = node_->children.rbegin(); child != node_->children.rend(); ++child)
+        firstChildren.insert(child->get()->name, child->get());
+    for (const CXmlRecord& record : table_) {
+        if (CXmlNode* const child = firstChildren.value(record.name))
+            child->value = asciiOnly(record.value);
+        else
+            node_->addAttribute(record.name, record.value);
+    }
+}
+
+void CXmlSection::clear()
+{
+    table_.clear();
+    if (document_)
+        document_->clearContent(node_);
+}
