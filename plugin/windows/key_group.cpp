@@ -297,7 +297,7 @@ KeyGroup& KeyGroup::resetBy(std::function<void()> action)
 
 void KeyGroup::load(CXmlSection& page) const
 {
-    const std::unique_ptr<CXmlSection> group(page.section(element_, 0));
+    const CXmlSectionPtr group = page.child(element_);
     if (!group)
         return;
     for (const Row& row : rows_) {
@@ -310,7 +310,7 @@ void KeyGroup::load(CXmlSection& page) const
 
 void KeyGroup::save(CXmlSection& page) const
 {
-    const std::unique_ptr<CXmlSection> group(page.section(element_, 3));
+    const CXmlSectionPtr group = page.child(element_, 3);
     if (!group)
         return;
     for (const Row& row : rows_)

@@ -29,7 +29,7 @@ KeySection& KeySection::add(Child child)
 
 void KeySection::load(CXmlSection* root) const
 {
-    const std::unique_ptr<CXmlSection> section(root ? root->section(name_, 0) : nullptr);
+    const CXmlSectionPtr section = root ? root->child(name_) : nullptr;
     if (!section)
         return;
     for (const Child& child : children_) {
@@ -40,11 +40,11 @@ void KeySection::load(CXmlSection* root) const
 
 void KeySection::save(CXmlSection* root) const
 {
-    const std::unique_ptr<CXmlSection> section(root ? root->section(name_, 0) : nullptr);
+    const CXmlSectionPtr section = root ? root->child(name_) : nullptr;
     if (!section)
         return;
     section->clear();
-    section->setString("page", name_);
+    section->setString(QStringLiteral("page"), name_);
     for (const Child& child : children_) {
         if (child.save)
             child.save(*section);

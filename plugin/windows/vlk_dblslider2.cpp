@@ -198,7 +198,7 @@ void VLK_DblSlider2::paintEvent(QPaintEvent* /*event*/)
 
     QPainter painter(this);
     paintTrack(painter, pixel1, pixel2);
-    painter.setPen(readable(Qt::black, QPalette::WindowText));
+    painter.setPen(readable(Qt::black, palette().color(QPalette::WindowText)));
     paintTicks(painter);
     paintHandle(painter, pixel1);
     paintHandle(painter, pixel2);
@@ -221,7 +221,8 @@ void VLK_DblSlider2::paintTrack(QPainter& painter, int pixel1, int pixel2) const
     } bars[] = {
         {0, pixel1, colorLow_}, {pixel1, pixel2, colorMiddle_}, {pixel2, paintedWidth_ - 1, colorHigh_}};
 
-    painter.setPen(readable(palette().color(QPalette::Shadow), QPalette::Light));
+    painter.setPen(readable(palette().color(QPalette::Shadow),
+                            palette().color(QPalette::Disabled, QPalette::WindowText)));
     painter.setBrush(palette().color(QPalette::Window));
     for (const auto& bar : bars) {
         const QRect area(bar.left, trackTop, bar.right - bar.left, trackHeight);
@@ -272,7 +273,7 @@ void VLK_DblSlider2::paintHandle(QPainter& painter, int pixel) const
     painter.drawLine(pixel, 3, pixel, 16);
 }
 
-QColor VLK_DblSlider2::readable(const QColor& usual, QPalette::ColorRole onDark) const
+QColor VLK_DblSlider2::readable(const QColor& usual, const QColor& onDark) const
 {
-    return palette().color(QPalette::Window).lightness() < 128 ? palette().color(onDark) : usual;
+    return palette().color(QPalette::Window).lightness() < 128 ? onDark : usual;
 }

@@ -69,9 +69,8 @@ private:
     void paintTrack(QPainter& painter, int pixel1, int pixel2) const;
     void paintTicks(QPainter& painter) const;
     void paintHandle(QPainter& painter, int pixel) const;
-    // The palette's colour where the window is dark, else the usual one: black outlines and dark grooves
-    // would vanish there.
-    QColor readable(const QColor& usual, QPalette::ColorRole onDark) const;
+    // Black lines and a dark groove would vanish on a dark window.
+    QColor readable(const QColor& usual, const QColor& onDark) const;
 
     double minimum_ = 0;
     double maximum_ = 100;

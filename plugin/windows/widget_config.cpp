@@ -7,7 +7,7 @@
 #include "windows/file_names.h"
 #include "windows/widget_config_full.h"
 #include "windows/widget_config_light.h"
-#include "xml/xml_section.h"
+#include "xml/xml_document.h"
 
 #include <QDir>
 #include <QFile>
@@ -82,13 +82,14 @@ void VLK_Widget_Config::switchToFull()
 {
     // The state goes over in memory, so that a folder that cannot be written costs nothing.
     const QString path = QDir::current().filePath(QStringLiteral("file.xml"));
-    CXmlSection root(path, "DEVICE");
-    root.clear();
-    fullWindow_->saveToXml(&root);
-    root.commit();
-    char unusedUssd[vlk::balanceUssdSize] = {};
-    fullWindow_->loadFromXml(&root, unusedUssd);
-    closeDocument(root.document(), false);
+    {
+        vlk::XmlDocument document(path, QStringLiteral("DEVICE"));
+        document.root()->clear();
+        fullWindow_->saveToXml(document.root());
+        document.root()->commit();
+        char unusedUssd[vlk::balanceUssdSize] = {};
+        fullWindow_->loadFromXml(document.root(), unusedUssd);
+    }
     QFile::remove(path);
     ui_->stackedWidget->setCurrentWidget(ui_->page_Full);
 }

@@ -9,7 +9,7 @@
 #include "windows/file_names.h"
 #include "windows/vlk_menuaction.h"
 #include "windows/widget_config.h"
-#include "xml/xml_section.h"
+#include "xml/xml_document.h"
 
 #include <QCloseEvent>
 #include <QDir>
@@ -93,17 +93,17 @@ void VLK_Widget_Config_Full::buildTabs()
 
 void VLK_Widget_Config_Full::loadFile(const QString& path, char* ussdBuffer)
 {
-    CXmlSection root(path, "DEVICE");
-    loadFromXml(&root, ussdBuffer);
-    closeDocument(root.document(), false);
+    vlk::XmlDocument document(path, QStringLiteral("DEVICE"));
+    loadFromXml(document.root(), ussdBuffer);
 }
 
 void VLK_Widget_Config_Full::loadFromXml(CXmlSection* root, char* ussdBuffer)
 {
-    const std::unique_ptr<CXmlSection> system(root->section("SYSTEM", 0));
-    const std::unique_ptr<CXmlSection> balance(system ? system->section("BALANCE", 0) : nullptr);
+    const CXmlSectionPtr system = root->child(QStringLiteral("SYSTEM"));
+    const CXmlSectionPtr balance = system ? system->child(QStringLiteral("BALANCE")) : nullptr;
     if (balance)
-        qstrncpy(ussdBuffer, balance->getString("USSD", {}).toLocal8Bit().constData(), vlk::balanceUssdSize);
+        qstrncpy(ussdBuffer, balance->getString(QStringLiteral("USSD")).toLocal8Bit().constData(),
+                 vlk::balanceUssdSize);
     pages_.forEach([root](auto& page) { page.loadFromXml(root); });
     // User parameters come last: they ask other pages for the names of what they hold.
     pages_.forEach([root](auto& page) {
@@ -114,20 +114,19 @@ void VLK_Widget_Config_Full::loadFromXml(CXmlSection* root, char* ussdBuffer)
 
 void VLK_Widget_Config_Full::saveFile(const QString& path)
 {
-    CXmlSection root(path, "DEVICE");
-    root.clear();
-    saveToXml(&root);
-    root.commit();
-    closeDocument(root.document(), true);
+    vlk::XmlDocument document(path, QStringLiteral("DEVICE"));
+    document.root()->clear();
+    saveToXml(document.root());
+    document.save();
 }
 
 void VLK_Widget_Config_Full::saveToXml(CXmlSection* root)
 {
     if (vlkDevice) {
-        root->setString("model", vlkDevice->model());
-        root->setString("version", vlkDevice->fileVersion());
-        root->setString("creator", QStringLiteral("config"));
-        root->setString("vendor", vlkDevice->vendor());
+        root->setString(QStringLiteral("model"), vlkDevice->model());
+        root->setString(QStringLiteral("version"), vlkDevice->fileVersion());
+        root->setString(QStringLiteral("creator"), QStringLiteral("config"));
+        root->setString(QStringLiteral("vendor"), vlkDevice->vendor());
     }
     pages_.forEach([root](auto& page) { page.saveToXml(root); });
     pages_.forEach([root](auto& page) {
