@@ -84,12 +84,14 @@
     <message id="wb_option_bad_mode"><translation>Wrong mode &quot;%1&quot;, there are 0, 1 and 2.</translation></message>
     <message id="wb_option_data"><translation>Data folder in place of the user's own.</translation></message>
     <message id="wb_option_empty"><translation>Empty value of --%1</translation></message>
+    <message id="wb_option_help"><translation>Show this help.</translation></message>
     <message id="wb_option_language"><translation>Language.</translation></message>
     <message id="wb_option_mode"><translation>Working mode: 0 ordinary, 1 and 2 production.</translation></message>
     <message id="wb_option_open"><translation>Open a configuration or telemetry file.</translation></message>
     <message id="wb_option_see_help"><translation>For the options see --help</translation></message>
     <message id="wb_option_tour"><translation>Do the main job without a person and leave files and pictures in the folder.</translation></message>
     <message id="wb_option_unexpected"><translation>Unexpected argument: %1</translation></message>
+    <message id="wb_option_version"><translation>Show the version.</translation></message>
     <message id="wb_plugin_foreign"><translation>The library %1 is not a device plug-in.</translation></message>
     <message id="wb_plugin_missing"><translation>The device plug-in is missing: %1</translation></message>
     <message id="wb_plugin_unloadable"><translation>The device plug-in %1 cannot be loaded: %2</translation></message>

@@ -84,12 +84,14 @@
     <message id="wb_option_bad_mode"><translation>Неверный режим «%1», есть 0, 1 и 2.</translation></message>
     <message id="wb_option_data"><translation>Папка данных вместо папки пользователя.</translation></message>
     <message id="wb_option_empty"><translation>Пустое значение ключа --%1</translation></message>
+    <message id="wb_option_help"><translation>Показать эту справку.</translation></message>
     <message id="wb_option_language"><translation>Язык.</translation></message>
     <message id="wb_option_mode"><translation>Режим работы: 0 обычный, 1 и 2 производственные.</translation></message>
     <message id="wb_option_open"><translation>Открыть файл конфигурации или телеметрии.</translation></message>
     <message id="wb_option_see_help"><translation>Список ключей: --help</translation></message>
     <message id="wb_option_tour"><translation>Выполнить основную работу без человека и оставить файлы и снимки в папке.</translation></message>
     <message id="wb_option_unexpected"><translation>Лишний аргумент: %1</translation></message>
+    <message id="wb_option_version"><translation>Показать версию.</translation></message>
     <message id="wb_plugin_foreign"><translation>Библиотека %1 не является модулем устройства.</translation></message>
     <message id="wb_plugin_missing"><translation>Модуль устройства не найден: %1</translation></message>
     <message id="wb_plugin_unloadable"><translation>Модуль устройства %1 не загружается: %2</translation></message>

@@ -2,6 +2,7 @@
 #include "window/configuration_tour.h"
 #include "window/data_folder.h"
 #include "window/installed_files.h"
+#include "window/line_icon.h"
 #include "window/settings.h"
 #include "window/tour.h"
 
@@ -62,7 +63,7 @@ int main(int argc, char* argv[])
 
     const QApplication application(argc, argv);
     nameApplication();
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/workbench/icons/vlk-workbench.svg")));
+    QApplication::setWindowIcon(vlk::applicationIcon());
 
     // A tour leaves the user's own tracker alone.
     const QTemporaryDir tourData;

@@ -31,8 +31,8 @@ constexpr OptionRow options[] = {
 void addOptions(QCommandLineParser& parser)
 {
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    parser.addHelpOption();
-    parser.addVersionOption();
+    parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, vlk::text("wb_option_help")});
+    parser.addOption({{QStringLiteral("v"), QStringLiteral("version")}, vlk::text("wb_option_version")});
     for (const OptionRow& row : options) {
         QCommandLineOption option(QLatin1String(row.name), row.key ? vlk::text(row.key) : QString(),
                                   QLatin1String(row.value));

@@ -51,7 +51,8 @@ void typeText(Notebook& book, const char* widget, const char* path, const QStrin
 
 void readTracker(Tour& tour)
 {
-    expect(tour.window().session().readConfiguration(true), QStringLiteral("the tracker gave no configuration"));
+    expect(tour.window().session().readConfiguration(true),
+           QStringLiteral("the tracker gave no configuration"));
     tour.waitFor([] { return Tour::findVisible("lineEdit_Name"); }, QStringLiteral("the Transfer page"));
 }
 
@@ -134,7 +135,8 @@ void takePictures(Tour& tour)
 {
     for (const QString& code : Languages::codes()) {
         tour.window().setLanguage(code);
-        tour.picture(QStringLiteral("transfer-%1.png").arg(code), Tour::find<QLineEdit>("lineEdit_Name")->window());
+        tour.picture(QStringLiteral("transfer-%1.png").arg(code),
+                     Tour::find<QLineEdit>("lineEdit_Name")->window());
         tour.picture(QStringLiteral("workbench-%1.png").arg(code), &tour.window());
     }
 }

@@ -17,8 +17,8 @@ FoldersDialog::FoldersDialog(const QString& telemetry, const QString& configurat
     setWindowTitle(vlk::text("wb_folders"));
     auto* form = new QFormLayout;
     telemetry_ = addFolder(form, "lineEdit_FolderTelemetry", "wb_folder_telemetry", telemetry);
-    configurations_ = addFolder(form, "lineEdit_FolderConfigurations", "wb_folder_configurations",
-                                configurations);
+    configurations_ =
+        addFolder(form, "lineEdit_FolderConfigurations", "wb_folder_configurations", configurations);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

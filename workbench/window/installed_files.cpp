@@ -25,13 +25,15 @@ QString fromExecutable(const QString& relative)
 QString pluginPath()
 {
     const QString file = QStringLiteral("VLK_Device_R-7106.so");
-    return firstExisting({fromExecutable(file), fromExecutable(QStringLiteral("../lib/vlk-workbench/") + file),
+    return firstExisting({fromExecutable(file),
+                          fromExecutable(QStringLiteral("../lib/vlk-workbench/") + file),
                           fromExecutable(QStringLiteral("../lib/") + file)});
 }
 
 QString sharedFolder(const QString& name)
 {
-    return firstExisting({fromExecutable(name), fromExecutable(QStringLiteral("../share/vlk-workbench/") + name)});
+    return firstExisting(
+        {fromExecutable(name), fromExecutable(QStringLiteral("../share/vlk-workbench/") + name)});
 }
 
 } // namespace vlk

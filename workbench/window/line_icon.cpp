@@ -7,6 +7,12 @@
 #include <QPalette>
 #include <QSvgRenderer>
 
+// In no namespace, because the macro declares a function there.
+static void initResources()
+{
+    Q_INIT_RESOURCE(workbench);
+}
+
 namespace {
 
 class LineIconEngine : public QIconEngine
@@ -38,14 +44,25 @@ private:
     QByteArray drawing_;
 };
 
+QString drawingPath(const QString& name)
+{
+    initResources();
+    return QStringLiteral(":/workbench/icons/%1.svg").arg(name);
+}
+
 } // namespace
 
 namespace vlk {
 
 QIcon lineIcon(const QString& name)
 {
-    QFile file(QStringLiteral(":/workbench/icons/") + name + QStringLiteral(".svg"));
+    QFile file(drawingPath(name));
     return file.open(QIODevice::ReadOnly) ? QIcon(new LineIconEngine(file.readAll())) : QIcon();
+}
+
+QIcon applicationIcon()
+{
+    return QIcon(drawingPath(QStringLiteral("vlk-workbench")));
 }
 
 } // namespace vlk

@@ -10,4 +10,7 @@ namespace vlk {
 // The drawing "<name>.svg"; a name without a drawing gives an icon without a picture.
 QIcon lineIcon(const QString& name);
 
+// The workbench's own, in its fixed colours.
+QIcon applicationIcon();
+
 } // namespace vlk

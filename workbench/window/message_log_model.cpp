@@ -24,7 +24,8 @@ QString MessageLogModel::cell(const LoggedMessage& message, int column) const
     case Time:
         return message.time.toString(QStringLiteral("HH:mm:ss.zzz"));
     case Way:
-        return vlk::text(message.direction == vlk::Direction::ToPlugin ? "wb_log_to_plugin" : "wb_log_to_host");
+        return vlk::text(message.direction == vlk::Direction::ToPlugin ? "wb_log_to_plugin"
+                                                                       : "wb_log_to_host");
     case Number:
         return QString::number(message.id);
     case Name: {
@@ -34,7 +35,8 @@ QString MessageLogModel::cell(const LoggedMessage& message, int column) const
     default:
         if (message.bytes.isEmpty())
             return message.words;
-        return message.words + QLatin1String(message.words.isEmpty() ? "" : " ") + vlk::hexText(message.bytes);
+        return message.words + QLatin1String(message.words.isEmpty() ? "" : " ") +
+               vlk::hexText(message.bytes);
     }
 }
 

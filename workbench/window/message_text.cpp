@@ -7,6 +7,10 @@ namespace vlk {
 
 namespace {
 
+// What findMessage relies on.
+static_assert(std::is_sorted(std::begin(messages), std::end(messages),
+                             [](const MessageInfo& a, const MessageInfo& b) { return a.number < b.number; }));
+
 template <class Record>
 const Record& as(const void* address)
 {
@@ -92,7 +96,10 @@ const RecordRow records[] = {
                      .arg(r.values[supplyElement]),
                  {}};
      }},
-    {Message::AnalogRecord, [](const void* p) -> MessageText { return {{}, rawBytes(p, analogRecordSize)}; }},
+    {Message::AnalogRecord,
+     [](const void* p) -> MessageText {
+         return {{}, rawBytes(p, analogRecordSize)};
+     }},
     {Message::AccelRecord,
      [](const void* p) -> MessageText {
          const auto& r = as<AccelValues>(p);
@@ -110,9 +117,9 @@ const RecordRow records[] = {
     {Message::BtDeviceFound,
      [](const void* p) -> MessageText {
          const auto& r = as<BtDevice>(p);
-         return {QStringLiteral("name=%1 mac=%2")
-                     .arg(quoted(r.name, sizeof r.name), quoted(r.mac, sizeof r.mac)),
-                 {}};
+         return {
+             QStringLiteral("name=%1 mac=%2").arg(quoted(r.name, sizeof r.name), quoted(r.mac, sizeof r.mac)),
+             {}};
      }},
     {Message::TachographFileRequest,
      [](const void* p) -> MessageText {

@@ -131,8 +131,8 @@ void PluginLink::openConfiguration(const QString& path, bool full, bool fromFile
 {
     const QByteArray encoded = path.toLocal8Bit();
     // As long as the path needs, and never shorter than the record's declared size.
-    const std::size_t size =
-        std::max(sizeof(vlk::OpenRequest), offsetof(vlk::OpenRequest, path) + std::size_t(encoded.size()) + 1);
+    const std::size_t size = std::max(sizeof(vlk::OpenRequest),
+                                      offsetof(vlk::OpenRequest, path) + std::size_t(encoded.size()) + 1);
     std::vector<std::int32_t> record(size / sizeof(std::int32_t) + 1);
     record[0] = full ? 1 : 0;
     record[1] = fromFile ? 1 : 0;

@@ -34,7 +34,8 @@ public:
     // One function a message that carries something.
     void setMode(int mode);
     void setPaths(const QString& telemetry, const QString& configurations);
-    void attachTracker(const QString& model, const QString& text1, const QString& text2, quint64 capabilities);
+    void attachTracker(const QString& model, const QString& text1, const QString& text2,
+                       quint64 capabilities);
     // An empty path opens a new configuration.
     void openConfiguration(const QString& path, bool full, bool fromFile);
     void openTelemetry(const QString& configuration);

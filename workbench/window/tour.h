@@ -52,8 +52,9 @@ public:
     {
         auto* widget = qobject_cast<Widget*>(findVisible(name));
         if (!widget)
-            throw TourFailure(QStringLiteral("no visible %1 named %2")
-                                  .arg(QLatin1String(Widget::staticMetaObject.className()), QLatin1String(name)));
+            throw TourFailure(
+                QStringLiteral("no visible %1 named %2")
+                    .arg(QLatin1String(Widget::staticMetaObject.className()), QLatin1String(name)));
         return widget;
     }
     // Null when there is none.

@@ -201,9 +201,9 @@ void WorkbenchWindow::connectCommands()
     };
     on(Command::ReadTracker, [this] { ask(session_.readConfiguration(fullWindow())); });
     on(Command::OpenFile, [this] {
-        const QString path = QFileDialog::getOpenFileName(
-            this, vlk::text("wb_open_caption"), settings_.configurationFolder(),
-            vlk::text("wb_type_configuration") + QStringLiteral(" (*.xml)"));
+        const QString path =
+            QFileDialog::getOpenFileName(this, vlk::text("wb_open_caption"), settings_.configurationFolder(),
+                                         vlk::text("wb_type_configuration") + QStringLiteral(" (*.xml)"));
         if (!path.isEmpty())
             openFile(path);
     });
@@ -211,9 +211,8 @@ void WorkbenchWindow::connectCommands()
     on(Command::LiveTelemetry, [this] { ask(session_.liveTelemetry()); });
     on(Command::BrowseFile, [this] { chooseAndShow(0); });
     on(Command::TableFile, [this] { chooseAndShow(1); });
-    on(Command::Cable, [this](bool attach) {
-        attach ? session_.tracker().attach() : session_.tracker().detach();
-    });
+    on(Command::Cable,
+       [this](bool attach) { attach ? session_.tracker().attach() : session_.tracker().detach(); });
     on(Command::DataFolders, [this] { chooseFolders(); });
     on(Command::BalanceCode, [this] { showBalance(); });
     on(Command::Help, [this] { showHelp(HelpPages::indexPage()); });

@@ -78,8 +78,8 @@ void WriteReportView::showSummary()
     const auto picture = report_.accepted ? QStyle::SP_DialogApplyButton : QStyle::SP_MessageBoxWarning;
     const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
     symbol_->setPixmap(style()->standardIcon(picture).pixmap(side, side));
-    summary_->setText(QStringLiteral("%1  %2").arg(time_.toString(QStringLiteral("HH:mm:ss")),
-                                                  vlk::summary(report_)));
+    summary_->setText(
+        QStringLiteral("%1  %2").arg(time_.toString(QStringLiteral("HH:mm:ss")), vlk::summary(report_)));
 }
 
 void WriteReportView::retranslate()
