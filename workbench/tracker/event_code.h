@@ -19,7 +19,6 @@ enum class EventCode : quint16 {
     MovementStart = 12,
     MovementStop = 13,
     SpeedLimitExceeded = 14,
-    SpeedNormal = 15,
     DoorOpened = 20,
     DoorClosed = 21,
     WeakShock = 30,

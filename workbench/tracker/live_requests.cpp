@@ -1,6 +1,7 @@
 #include "tracker/live_requests.h"
 
-#include "tracker/record_bytes.h"
+#include "tracker/bytes.h"
+#include "tracker/driver.h"
 
 #include <cmath>
 
@@ -61,7 +62,7 @@ void LiveRequests::addTo(Handlers& handlers)
     };
     handlers[Message::WaitStepEnd] = [](void*) -> Answers { return {Answer{}}; };
     handlers[Message::RequestLiveKey] = [this](void*) -> Answers {
-        return {Answer::record(idPair(keyNumber(present_().m)))};
+        return {Answer::record(idPair(driverOf(present_().m).key))};
     };
     handlers[Message::RequestRfid] = [this](void*) -> Answers {
         const Vehicle vehicle = present_();
@@ -95,7 +96,7 @@ Answers LiveRequests::lines(const QByteArray* list) const
             pairs += ',';
         pairs += id.trimmed() + ':' + QByteArray::number(qRound(vehicle.line(line)), 16).toUpper();
     }
-    return {Answer::bytes("LINES=" + QByteArray(1, ' ') + pairs)};
+    return {Answer::bytes("LINES: " + pairs)};
 }
 
 Answers LiveRequests::analog() const

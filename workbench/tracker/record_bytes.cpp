@@ -1,8 +1,8 @@
 #include "tracker/record_bytes.h"
 
 #include "tracker/bytes.h"
+#include "tracker/driver.h"
 #include "tracker/field_values.h"
-#include "tracker/random.h"
 
 namespace tracker {
 
@@ -13,14 +13,6 @@ constexpr quint8 packetType = 177;
 
 enum Entry : quint8 { KeyEntry = 1, CardEntry = 2, TagEntry = 3 };
 constexpr int cardWidth = 16;
-
-const char* const drivers[] = {"SOKOLOV A.", "MAKAROVA E.", "TIKHONOV V."};
-// Drivers and their loads change from day to day.
-int driverOf(const Moment& moment)
-{
-    return static_cast<int>(mix(moment.seed, static_cast<quint64>(moment.time / daySeconds)) %
-                            std::size(drivers));
-}
 
 class Block
 {
@@ -99,10 +91,10 @@ QByteArray packetBytes(const Vehicle& vehicle, PacketRoad road)
         append(number, tagNumber(vehicle.m));
         appendEntry(content, TagEntry, number);
     } else {
-        append(number, keyNumber(vehicle.m));
+        append(number, driverOf(vehicle.m).key);
         appendEntry(content, KeyEntry, number);
         QByteArray card;
-        appendText(card, drivers[driverOf(vehicle.m)], cardWidth);
+        appendText(card, driverOf(vehicle.m).surname, cardWidth);
         appendEntry(content, CardEntry, card);
     }
 
@@ -110,18 +102,6 @@ QByteArray packetBytes(const Vehicle& vehicle, PacketRoad road)
     append(packet, packetType);
     append(packet, static_cast<quint16>(content.size()));
     return packet.append(content);
-}
-
-quint64 keyNumber(const Moment& moment)
-{
-    constexpr quint64 sixBytes = 0xFFFFFFFFFFFF;
-    return mix(moment.seed, 7000 + driverOf(moment)) & sixBytes;
-}
-
-quint64 tagNumber(const Moment& moment)
-{
-    constexpr quint64 fiveBytes = 0xFFFFFFFFFF;
-    return mix(moment.seed, 8000 + moment.trip % 4) & fiveBytes;
 }
 
 } // namespace tracker

@@ -29,8 +29,4 @@ QByteArray recordBytes(const Vehicle& vehicle, const DataSet& dataSet);
 enum class PacketRoad { Archive, Question };
 QByteArray packetBytes(const Vehicle& vehicle, PacketRoad road);
 
-// The identities that the vehicle's readers see.
-quint64 keyNumber(const Moment& moment);
-quint64 tagNumber(const Moment& moment);
-
 } // namespace tracker
