@@ -63,13 +63,24 @@ class WorkbenchTest : public QObject
 private Q_SLOTS:
     void everyKeyHasATextInBothLanguages()
     {
+        // A key that ends in an underscore is the stem of a numbered family.
         const QSet<QString> used = keysOfSources();
+        const auto isStem = [](const QString& key) { return key.endsWith(QLatin1Char('_')); };
         QVERIFY(used.size() > 100);
         for (const QString& language : Languages::codes()) {
             const QSet<QString> texts = keysOfTexts(language);
-            QCOMPARE(QStringList((used - texts).values()), QStringList());
-            QCOMPARE(QStringList((texts - used).values()).filter(QRegularExpression(QStringLiteral("^wb_"))),
-                     QStringList());
+            QStringList missing;
+            for (const QString& key : used)
+                if (isStem(key) ? QStringList(texts.values()).filter(key).isEmpty() : !texts.contains(key))
+                    missing.append(key);
+            QCOMPARE(missing, QStringList());
+            QStringList unused;
+            for (const QString& text : texts)
+                if (text.startsWith(QLatin1String("wb_")) && !used.contains(text) &&
+                    std::none_of(used.begin(), used.end(),
+                                 [&](const QString& key) { return isStem(key) && text.startsWith(key); }))
+                    unused.append(text);
+            QCOMPARE(unused, QStringList());
         }
     }
 

@@ -45,15 +45,6 @@ QByteArray readWhole(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.read(largestDocument) : QByteArray();
 }
 
-bool saveWhole(const QString& path, const QByteArray& document)
-{
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(document) == document.size() && file.commit())
-        return true;
-    qCWarning(lcTrackerStore) << "cannot write" << path << file.errorString();
-    return false;
-}
-
 void compare(const ConfigurationValues& before, const ConfigurationValues& after, WriteReport& report)
 {
     for (const QString& path : after.paths()) {
@@ -69,6 +60,15 @@ void compare(const ConfigurationValues& before, const ConfigurationValues& after
 }
 
 } // namespace
+
+bool saveWhole(const QString& path, const QByteArray& document)
+{
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(document) == document.size() && file.commit())
+        return true;
+    qCWarning(lcTrackerStore) << "cannot write" << path << file.errorString();
+    return false;
+}
 
 ConfigurationStore::ConfigurationStore(const QString& folder) : folder_(folder)
 {
@@ -111,11 +111,6 @@ WriteReport ConfigurationStore::write(const QString& path)
     document_ = document;
     values_ = values;
     return report;
-}
-
-bool ConfigurationStore::copyTo(const QString& path) const
-{
-    return saveWhole(path, document_);
 }
 
 bool ConfigurationStore::take(const QByteArray& document)

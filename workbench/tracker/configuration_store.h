@@ -9,6 +9,9 @@
 
 namespace tracker {
 
+// Replaces the file as a whole, or leaves what was there and says so in the log.
+bool saveWhole(const QString& path, const QByteArray& document);
+
 class ConfigurationStore
 {
 public:
@@ -16,10 +19,8 @@ public:
 
     // Checks the file, keeps the present configuration as the backup and takes the new one.
     WriteReport write(const QString& path);
-    // Puts the present configuration into a file.
-    bool copyTo(const QString& path) const;
-
     const ConfigurationValues& values() const { return values_; }
+    const QByteArray& document() const { return document_; }
 
 private:
     bool take(const QByteArray& document);

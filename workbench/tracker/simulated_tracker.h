@@ -17,20 +17,21 @@
 
 namespace tracker {
 
-// The record format that the tracker speaks. Protocol3 is that of its configuration; the others are what
-// earlier firmware sent.
-enum class Protocol { Protocol1 = 10, Protocol2 = 20, Protocol3 = 30 };
+// The version of its records: what the configuration asks for, or one whatever it asks.
+enum class Protocol { AsConfigured = 0, Protocol1 = 10, Protocol2 = 20, Protocol3 = 30 };
 
 class SimulatedTracker : public QObject
 {
     Q_OBJECT
 
 public:
+    // Where the tracker's time comes from; the system's clock unless given.
+    using Clock = std::function<QDateTime()>;
     // Carries an answer to the plug-in; the parameters are valid during the call only.
     using Sender = std::function<void(vlk::Message id, void* p1, void* p2)>;
 
     // The folder is made when it does not exist; what the tracker keeps survives in it.
-    explicit SimulatedTracker(const QString& storeFolder, QObject* parent = nullptr);
+    explicit SimulatedTracker(const QString& storeFolder, QObject* parent = nullptr, Clock clock = {});
     ~SimulatedTracker() override;
 
     void setSender(Sender sender);
@@ -41,8 +42,8 @@ public:
 
     // For TrackerAttached.
     QString model() const;
-    QString text1() const;
-    QString text2() const;
+    QString text1() const; // firmware
+    QString text2() const; // IMEI
     quint64 capabilityMask() const;
 
     // Detaching drops the answers that are under way.
@@ -50,15 +51,20 @@ public:
     void attach();
     void detach();
 
-    // Puts the tracker's configuration into a new file of this folder and gives its path; empty on failure.
+    // Puts the tracker's configuration into a file of this folder and gives its path; empty when detached, on
+    // silence, and where nothing can be written. Faults that spoil answers spoil the file.
     QString readConfiguration(const QString& folder);
-    // Takes a written file: checks it, keeps what was there as a backup, and applies it.
+    // Takes a written file: checks it, keeps what was there as a backup, and applies it. Silence, a missing
+    // and a pulled cable refuse it.
     WriteReport writeConfiguration(const QString& path);
 
-    // Changed at will between requests.
+    // What the window switches, at will between requests.
     Faults& faults();
     Protocol protocol() const;
     void setProtocol(Protocol protocol);
+    // Every field in every record, whatever mask the configuration has.
+    bool fullDataSet() const;
+    void setFullDataSet(bool full);
 
 Q_SIGNALS:
     void attachedChanged(bool attached);

@@ -69,12 +69,7 @@ void HostSession::receive(vlk::Message id, void* p1, void* p2)
 
 void HostSession::handOver(const QString& path)
 {
-    tracker::WriteReport report;
-    report.file = path;
-    if (tracker_.attached())
-        report = tracker_.writeConfiguration(path);
-    else
-        report.reasonKey = QStringLiteral("wb_refused_detached");
+    const tracker::WriteReport report = tracker_.writeConfiguration(path);
     if (report.accepted && !QFile::remove(path))
         qCWarning(lcSession) << "cannot remove" << path;
     Q_EMIT configurationWritten(report);
