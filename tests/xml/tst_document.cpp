@@ -22,7 +22,7 @@ class TestDocument : public QObject
 private:
     QString put(const QByteArray& content)
     {
-        const QString path = folder_.filePath(QString::number(++files_) + ".xml");
+        QString path = folder_.filePath(QString::number(++files_) + ".xml");
         QFile file(path);
         if (!content.isEmpty() && (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()))
             qFatal("cannot prepare a file");
