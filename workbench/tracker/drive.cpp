@@ -86,7 +86,9 @@ Moment Drive::record(quint32 number)
     Moment result = moment(segment, segment.from + qint64(place.index) * segment.interval());
     result.number = number;
     nameRecord(result, segment, place.index, mix(mix(seed_, CodeSeed), number));
-    if (number > 0) {
+    if (number == 0) {
+        result.code = static_cast<quint16>(EventCode::Restart);
+    } else {
         const Place before = placeOf(number - 1);
         const Moment last = moment(*before.segment, before.time());
         result.segmentKm = result.at.km - last.at.km;
