@@ -73,13 +73,14 @@ private Q_SLOTS:
         BenchTracker bench;
         bench.ask(Message::StartBtSearch);
         const auto last = [&bench] { return bench.told.isEmpty() ? QByteArray() : bench.told.last().first; };
-        QTRY_COMPARE_WITH_TIMEOUT(last(), QByteArray("1"), 6000);
+        QTRY_COMPARE_WITH_TIMEOUT(last(), QByteArray("1"), 20000);
         QCOMPARE(bench.told.first().first, QByteArray("0"));
         QVERIFY(bench.told.size() > 4);
         const auto device = record<vlk::BtDevice>(bench.told[1].first);
         QCOMPARE(qstrlen(device.mac), 17U);
 
         bench.ask(Message::StartBtSearch);
+        QCOMPARE(bench.told.size(), 1);
         bench.tracker->handle(Message::CancelBtSearch, nullptr, nullptr);
         QTest::qWait(1200);
         QCOMPARE(bench.told.size(), 2);
@@ -108,12 +109,14 @@ private Q_SLOTS:
         QFETCH(int, question);
         QFETCH(int, size);
         BenchTracker bench;
+        if (size == 0) {
+            QVERIFY(bench.silent(Message::TachographQuestion, BenchTracker::plain(question)));
+            return;
+        }
         const QByteArray answer = bench.ask(Message::TachographQuestion, question).first;
         QCOMPARE(answer.size(), size);
-        if (size > 0) {
-            QCOMPARE(int(answer.at(6)), question);
-            QTEST(int(answer.at(7)), "status");
-        }
+        QCOMPARE(int(answer.at(6)), question);
+        QTEST(int(answer.at(7)), "status");
     }
 
     void makesTachographFiles_data()
@@ -143,7 +146,7 @@ private Q_SLOTS:
             QCOMPARE(bench.ask(Message::TachographFileRead, &path).first, QByteArray(1, '\0'));
             return;
         }
-        QTRY_COMPARE(bench.told.size(), 3);
+        QTRY_COMPARE_WITH_TIMEOUT(bench.told.size(), 3, 20000);
         const QByteArray ready = bench.told.last().first;
         QCOMPARE(int(ready.at(7)), 0);
         QVERIFY(QByteArray(ready.constData() + 12).endsWith(".ddd"));
@@ -176,7 +179,7 @@ private Q_SLOTS:
         BenchTracker bench;
         QSet<QString> texts;
         QSet<int> codes{50, 51, 52, 53, 54, 55};
-        const quint32 count = 20000;
+        const quint32 count = 8000;
         for (quint32 number = 0; number < count; ++number)
             bench.tracker->handle(Message::RequestRecordByNumber, &number, nullptr);
         QTRY_COMPARE_WITH_TIMEOUT(quint32(bench.told.size()), count, 60000);
@@ -184,9 +187,7 @@ private Q_SLOTS:
             codes += word(told.first, 3 + (quint8(told.first.at(3)) == 177 ? 9 : 38));
         for (const int code : codes) {
             QString text;
-            bench.tracker->detach();
-            QVERIFY(bench.tracker->handle(Message::RequestEventText,
-                                          reinterpret_cast<void*>(std::intptr_t(code)), &text));
+            QVERIFY(bench.tracker->handle(Message::RequestEventText, BenchTracker::plain(code), &text));
             QVERIFY2(!text.isEmpty() && !text.contains("wb_") && !text.contains(QString::number(code)),
                      qPrintable(text));
             texts += text;
@@ -214,14 +215,14 @@ private Q_SLOTS:
         QVERIFY(garbled != whole);
         faults = {};
         faults.delayMs = 400;
-        QVERIFY(bench.ask(Message::RequestCurrentRecord).first.isEmpty());
+        QVERIFY(bench.silent(Message::RequestCurrentRecord));
         QTRY_COMPARE(bench.told.size(), 1);
         faults = {};
         faults.silence = true;
-        QVERIFY(bench.ask(Message::RequestCurrentRecord).first.isEmpty());
+        QVERIFY(bench.silent(Message::RequestCurrentRecord));
         faults = {};
         faults.unplug = true;
-        QVERIFY(bench.ask(Message::RequestCurrentRecord).first.isEmpty());
+        QVERIFY(bench.silent(Message::RequestCurrentRecord));
         QVERIFY(!bench.tracker->attached() && !faults.unplug);
     }
 
@@ -231,7 +232,7 @@ private Q_SLOTS:
         bench.tracker->handle(Message::RequestCurrentRecord, nullptr, nullptr);
         bench.tracker->detach();
         bench.tracker->attach();
-        QVERIFY(bench.ask(Message::GuardOn).first.isEmpty());
+        QVERIFY(bench.silent(Message::GuardOn));
         // A plug-in that asks again, or makes the host detach, while it is being told.
         bench.tracker->setSender([&bench](Message id, void*, void*) {
             bench.told.append({id, {}, {}});

@@ -158,7 +158,6 @@ Moment Drive::moment(const Segment& segment, qint64 time) const
     Moment result;
     result.time = time;
     result.activity = segment.activity;
-    result.since = segment.from;
     result.trip = segment.trip;
     result.seed = seed_;
     result.speed = segment.speedAt(elapsed);
