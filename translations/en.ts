@@ -69,6 +69,7 @@
     <message id="wb_folder_telemetry"><translation>Telemetry:</translation></message>
     <message id="wb_folders"><translation>Data folders</translation></message>
     <message id="wb_folders_menu"><translation>&amp;Data folders…</translation></message>
+    <message id="wb_full_data_set"><translation>Every field in records</translation></message>
     <message id="wb_help"><translation>Help</translation></message>
     <message id="wb_help_back"><translation>Back</translation></message>
     <message id="wb_help_contents"><translation>Contents</translation></message>
@@ -131,7 +132,7 @@
     <message id="wb_read_short"><translation>Read</translation></message>
     <message id="wb_ready"><translation>Ready</translation></message>
     <message id="wb_recent"><translation>Recent files</translation></message>
-    <message id="wb_refused_detached"><translation>no tracker is attached</translation></message>
+    <message id="wb_refused_detached"><translation>The tracker is not connected.</translation></message>
     <message id="wb_refused_large"><translation>The file is too large for the tracker, bytes:</translation></message>
     <message id="wb_refused_malformed"><translation>The file is damaged, markup error:</translation></message>
     <message id="wb_refused_memory"><translation>Cannot write to the tracker's memory:</translation></message>
@@ -144,10 +145,11 @@
     <message id="wb_report_before"><translation>Before</translation></message>
     <message id="wb_report_changed"><translation>changed</translation></message>
     <message id="wb_report_copy"><translation>Copy the report</translation></message>
+    <message id="wb_report_kept"><translation>The file is kept: %1</translation></message>
     <message id="wb_report_key"><translation>Key</translation></message>
     <message id="wb_report_kind"><translation>What</translation></message>
     <message id="wb_report_none"><translation>When a configuration has been written to the tracker, its changes are listed here.</translation></message>
-    <message id="wb_report_refused"><translation>The tracker refused the configuration: %1. The file is kept: %2</translation></message>
+    <message id="wb_report_refused"><translation>Configuration not written. %1</translation></message>
     <message id="wb_report_removed"><translation>removed</translation></message>
     <message id="wb_report_same"><translation>Configuration written, nothing changed.</translation></message>
     <message id="wb_report_taken"><translation>Configuration written. Keys changed: %1, added: %2, removed: %3.</translation></message>

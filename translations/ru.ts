@@ -69,6 +69,7 @@
     <message id="wb_folder_telemetry"><translation>Телеметрия:</translation></message>
     <message id="wb_folders"><translation>Папки данных</translation></message>
     <message id="wb_folders_menu"><translation>&amp;Папки данных…</translation></message>
+    <message id="wb_full_data_set"><translation>Все поля в записях</translation></message>
     <message id="wb_help"><translation>Справка</translation></message>
     <message id="wb_help_back"><translation>Назад</translation></message>
     <message id="wb_help_contents"><translation>Содержание</translation></message>
@@ -131,7 +132,7 @@
     <message id="wb_read_short"><translation>Прочитать</translation></message>
     <message id="wb_ready"><translation>Готово к работе</translation></message>
     <message id="wb_recent"><translation>Недавние файлы</translation></message>
-    <message id="wb_refused_detached"><translation>трекер не подключён</translation></message>
+    <message id="wb_refused_detached"><translation>Трекер отключён.</translation></message>
     <message id="wb_refused_large"><translation>Файл слишком велик для трекера, байт:</translation></message>
     <message id="wb_refused_malformed"><translation>Файл повреждён, ошибка разметки:</translation></message>
     <message id="wb_refused_memory"><translation>Не удалось записать в память трекера:</translation></message>
@@ -144,10 +145,11 @@
     <message id="wb_report_before"><translation>Было</translation></message>
     <message id="wb_report_changed"><translation>изменён</translation></message>
     <message id="wb_report_copy"><translation>Копировать отчёт</translation></message>
+    <message id="wb_report_kept"><translation>Файл сохранён: %1</translation></message>
     <message id="wb_report_key"><translation>Ключ</translation></message>
     <message id="wb_report_kind"><translation>Что</translation></message>
     <message id="wb_report_none"><translation>Здесь появится список изменений, когда конфигурация будет записана в трекер.</translation></message>
-    <message id="wb_report_refused"><translation>Трекер не принял конфигурацию: %1. Файл сохранён: %2</translation></message>
+    <message id="wb_report_refused"><translation>Конфигурация не записана. %1</translation></message>
     <message id="wb_report_removed"><translation>удалён</translation></message>
     <message id="wb_report_same"><translation>Конфигурация записана, изменений нет.</translation></message>
     <message id="wb_report_taken"><translation>Конфигурация записана. Изменено ключей: %1, добавлено: %2, удалено: %3.</translation></message>

@@ -41,8 +41,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("path");
         QTest::newRow("missing") << QStringLiteral("/no/such/plugin.so");
         QTest::newRow("no library") << QStringLiteral(VLK_SOURCE "/CMakeLists.txt");
-        QTest::newRow("another library") << QLibraryInfo::location(QLibraryInfo::LibrariesPath) +
-                                                QStringLiteral("/libQt5Core.so.5");
+        QTest::newRow("another library")
+            << QLibraryInfo::location(QLibraryInfo::LibrariesPath) + QStringLiteral("/libQt5Core.so.5");
     }
     void saysWhyThereIsNoPlugin()
     {
@@ -71,7 +71,8 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(report.file));
         // The request stands in the log before what it led to, and its read file is gone.
         QCOMPARE(log.rowCount(), 2);
-        QVERIFY(log.line(0).contains(QStringLiteral("2101\tOpenConfiguration\tshowFull=1 fromFile=0 path=\"")));
+        QVERIFY(
+            log.line(0).contains(QStringLiteral("2101\tOpenConfiguration\tshowFull=1 fromFile=0 path=\"")));
         QVERIFY(log.line(1).contains(QStringLiteral("2151\tWriteConfiguration\t\"")));
         QVERIFY(!QFile::exists(log.line(0).section(QLatin1Char('"'), 1, 1)));
     }

@@ -394,7 +394,7 @@ void WorkbenchWindow::showReport(const tracker::WriteReport& report)
 {
     reportView_->setReport(report);
     tabs_->setCurrentWidget(reportView_);
-    showMessage(vlk::summary(report));
+    showMessage(vlk::summary(report).section(QLatin1Char('\n'), 0, 0));
     if (QWidget* modal = QApplication::activeModalWidget())
         WriteReportView::showDialog(report, modal);
 }
