@@ -84,6 +84,7 @@
     <message id="wb_log_copy"><translation>Copy the lines</translation></message>
     <message id="wb_log_count"><translation>%1 of %2</translation></message>
     <message id="wb_log_details"><translation>Select a message to see the whole of it</translation></message>
+    <message id="wb_log_direction"><translation>Direction</translation></message>
     <message id="wb_log_file_type"><translation>Text</translation></message>
     <message id="wb_log_filter"><translation>Filter: number, name, parameters</translation></message>
     <message id="wb_log_name"><translation>Message</translation></message>
@@ -93,7 +94,7 @@
     <message id="wb_log_time"><translation>Time</translation></message>
     <message id="wb_log_to_host"><translation>← plug-in</translation></message>
     <message id="wb_log_to_plugin"><translation>→ plug-in</translation></message>
-    <message id="wb_log_way"><translation>Direction</translation></message>
+    <message id="wb_log_way"><translation>⇄</translation></message>
     <message id="wb_menu_configuration"><translation>&amp;Configuration</translation></message>
     <message id="wb_menu_help"><translation>&amp;Help</translation></message>
     <message id="wb_menu_telemetry"><translation>&amp;Telemetry</translation></message>
@@ -101,7 +102,7 @@
     <message id="wb_mode"><translation>Mode:</translation></message>
     <message id="wb_mode_0"><translation>0: ordinary</translation></message>
     <message id="wb_mode_1"><translation>1: production</translation></message>
-    <message id="wb_mode_2"><translation>2: production, check</translation></message>
+    <message id="wb_mode_2"><translation>2: production check</translation></message>
     <message id="wb_new"><translation>&amp;New configuration</translation></message>
     <message id="wb_new_short"><translation>New</translation></message>
     <message id="wb_open"><translation>&amp;Open file…</translation></message>
@@ -169,7 +170,7 @@
     <message id="wb_type_configuration"><translation>Configuration</translation></message>
     <message id="wb_type_telemetry"><translation>Telemetry</translation></message>
     <message id="wb_unit_ms"><translation>ms</translation></message>
-    <message id="wb_window"><translation>Opens in</translation></message>
+    <message id="wb_window"><translation>Window for configurations</translation></message>
     <message id="wb_window_full"><translation>Full window</translation></message>
     <message id="wb_window_quick"><translation>Quick setup</translation></message>
 </context>

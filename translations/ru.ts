@@ -84,6 +84,7 @@
     <message id="wb_log_copy"><translation>Копировать строки</translation></message>
     <message id="wb_log_count"><translation>%1 из %2</translation></message>
     <message id="wb_log_details"><translation>Выберите сообщение, чтобы увидеть его целиком</translation></message>
+    <message id="wb_log_direction"><translation>Направление</translation></message>
     <message id="wb_log_file_type"><translation>Текст</translation></message>
     <message id="wb_log_filter"><translation>Фильтр: номер, имя, параметры</translation></message>
     <message id="wb_log_name"><translation>Сообщение</translation></message>
@@ -93,7 +94,7 @@
     <message id="wb_log_time"><translation>Время</translation></message>
     <message id="wb_log_to_host"><translation>← от модуля</translation></message>
     <message id="wb_log_to_plugin"><translation>→ модулю</translation></message>
-    <message id="wb_log_way"><translation>Направление</translation></message>
+    <message id="wb_log_way"><translation>⇄</translation></message>
     <message id="wb_menu_configuration"><translation>&amp;Конфигурация</translation></message>
     <message id="wb_menu_help"><translation>Сп&amp;равка</translation></message>
     <message id="wb_menu_telemetry"><translation>&amp;Телеметрия</translation></message>
@@ -101,7 +102,7 @@
     <message id="wb_mode"><translation>Режим:</translation></message>
     <message id="wb_mode_0"><translation>0: обычный</translation></message>
     <message id="wb_mode_1"><translation>1: производство</translation></message>
-    <message id="wb_mode_2"><translation>2: производство, контроль</translation></message>
+    <message id="wb_mode_2"><translation>2: контроль</translation></message>
     <message id="wb_new"><translation>&amp;Новая конфигурация</translation></message>
     <message id="wb_new_short"><translation>Новая</translation></message>
     <message id="wb_open"><translation>&amp;Открыть файл…</translation></message>
@@ -169,7 +170,7 @@
     <message id="wb_type_configuration"><translation>Конфигурация</translation></message>
     <message id="wb_type_telemetry"><translation>Телеметрия</translation></message>
     <message id="wb_unit_ms"><translation>мс</translation></message>
-    <message id="wb_window"><translation>Открывать в окне</translation></message>
+    <message id="wb_window"><translation>Окно для конфигурации</translation></message>
     <message id="wb_window_full"><translation>Полное окно</translation></message>
     <message id="wb_window_quick"><translation>Быстрая настройка</translation></message>
 </context>

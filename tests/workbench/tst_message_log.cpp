@@ -1,3 +1,4 @@
+#include "window/languages.h"
 #include "window/message_log_filter.h"
 #include "window/message_log_model.h"
 #include "window/message_log_view.h"
@@ -227,6 +228,8 @@ private Q_SLOTS:
 
     void savesWhatIsShown()
     {
+        Languages languages;
+        QVERIFY(languages.set(QStringLiteral("en")));
         MessageLogModel model;
         MessageLogView view(&model);
         const std::int32_t mode = 2;

@@ -132,6 +132,8 @@ private Q_SLOTS:
 
     void namesAMissingHelpPage()
     {
+        Languages languages;
+        QVERIFY(languages.set(QStringLiteral("en")));
         const HelpPages pages(QStringLiteral(VLK_SOURCE "/help"));
         QVERIFY(pages.html(QStringLiteral("en"), QStringLiteral("r-7106p99.html"))
                     .contains(QStringLiteral("r-7106p99.html")));
@@ -170,7 +172,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<bool>("damaged");
         QTest::newRow("zero bytes") << QByteArray(64, '\0') << true;
-        QTest::newRow("no ini") << QByteArray("}{ not = [an ini\nfile at all\n") << true;
+        QTest::newRow("no ini") << QByteArray("this is not a settings file\n") << true;
         QTest::newRow("wrong values") << QByteArray("[General]\nlanguage=xx\nmode=99\n") << false;
         QTest::newRow("empty") << QByteArray() << false;
     }

@@ -135,7 +135,7 @@ QWidget* TrackerPanel::buildKeys()
     keys_->horizontalHeader()->setHighlightSections(false);
     keys_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     keys_->horizontalHeader()->setStretchLastSection(true);
-    keys_->setColumnWidth(0, fontMetrics().averageCharWidth() * 30);
+    keys_->setColumnWidth(0, fontMetrics().averageCharWidth() * 26);
 
     auto* column = new QVBoxLayout(group);
     column->addWidget(filter_);
