@@ -172,6 +172,6 @@
     <message id="wb_unit_ms"><translation>ms</translation></message>
     <message id="wb_window"><translation>Window for configurations</translation></message>
     <message id="wb_window_full"><translation>Full window</translation></message>
-    <message id="wb_window_quick"><translation>Quick setup</translation></message>
+    <message id="wb_window_quick"><translation>Quick window</translation></message>
 </context>
 </TS>

@@ -172,6 +172,6 @@
     <message id="wb_unit_ms"><translation>мс</translation></message>
     <message id="wb_window"><translation>Окно для конфигурации</translation></message>
     <message id="wb_window_full"><translation>Полное окно</translation></message>
-    <message id="wb_window_quick"><translation>Быстрая настройка</translation></message>
+    <message id="wb_window_quick"><translation>Быстрое окно</translation></message>
 </context>
 </TS>
