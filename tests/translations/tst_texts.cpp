@@ -5,6 +5,8 @@
 #include <QRegularExpression>
 #include <QtTest>
 
+#include <algorithm>
+
 class TextsTest : public QObject
 {
     Q_OBJECT
@@ -19,14 +21,15 @@ private:
     using Texts = QMap<QString, QString>;
 
     QSet<QString> keys_;
+    QSet<QString> families_;
     QMap<QString, Texts> texts_; // by language
     QStringList repeated_;
 };
 
 void TextsTest::initTestCase()
 {
-    static const QRegularExpression key(
-        QStringLiteral("\"((?:cfgt\\d+|cfgwl|cfgwnd|tmizta|tmiw|tmiex|tmift\\d|wrd|abbr|wb)_[a-z0-9_]+)\""));
+    static const QRegularExpression key(QStringLiteral(
+        "[\">]((?:cfgt\\d+|cfgwl|cfgwnd|tmizta|tmiw|tmiex|tmift\\d|wrd|abbr|wb)_[a-z0-9_]+)[\"<]"));
     for (const char* folder : {"/plugin", "/workbench"}) {
         QDirIterator files(QStringLiteral(VLK_SOURCE) + QLatin1String(folder), {"*.cpp", "*.h", "*.ui"},
                            QDir::Files, QDirIterator::Subdirectories);
@@ -34,8 +37,14 @@ void TextsTest::initTestCase()
             QFile file(files.next());
             QVERIFY(file.open(QIODevice::ReadOnly));
             auto found = key.globalMatch(QString::fromUtf8(file.readAll()));
-            while (found.hasNext())
-                keys_ << found.next().captured(1);
+            while (found.hasNext()) {
+                const QString name = found.next().captured(1);
+                // "wb_event_" with a number behind it: a family that the code completes.
+                if (name.endsWith(QLatin1Char('_')))
+                    families_ << name;
+                else
+                    keys_ << name;
+            }
         }
     }
     QVERIFY(keys_.size() > 100);
@@ -76,7 +85,8 @@ void TextsTest::everyKeyHasAText()
     }
     QStringList unused;
     for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
-        if (!keys_.contains(text.key()))
+        const auto begins = [&](const QString& family) { return text.key().startsWith(family); };
+        if (!keys_.contains(text.key()) && std::none_of(families_.begin(), families_.end(), begins))
             unused << text.key();
     }
     missing.sort();
