@@ -1,0 +1,75 @@
+#pragma once
+
+// Typed reading of catalogue elements from little-endian bytes, shared by everything that carries elements:
+// records of both formats and extra packets.
+//
+// A source gives `const std::uint8_t* find(ElementIndex) const`, the first byte of an element or null if it
+// carries none of that name; what it does not carry reads as 0. Reading does not look at a record's mask.
+
+#include "dataset/catalogue/field_catalogue.h"
+
+#include <QtEndian>
+
+#include <bit>
+#include <tuple>
+
+namespace vlk {
+
+// The C++ type of a catalogue type, in the order of ValueType.
+template <ValueType type>
+using CppValue =
+    std::tuple_element_t<static_cast<std::size_t>(type),
+                         std::tuple<std::uint8_t, std::uint16_t, std::uint32_t, std::uint64_t, std::int8_t,
+                                    std::int16_t, std::int32_t, std::int64_t, float>>;
+
+template <class Source>
+class ElementValues
+{
+public:
+    // The value with its catalogue type: value<element("Speed")>() is a float.
+    template <ElementIndex index>
+    CppValue<kElements[index].type> value() const
+    {
+        constexpr ValueType type = kElements[index].type;
+        if constexpr (type == ValueType::f32)
+            return std::bit_cast<float>(static_cast<std::uint32_t>(raw(index)));
+        else
+            return static_cast<CppValue<type>>(raw(index));
+    }
+
+    // The bytes of the value as an unsigned number; of a float its bits.
+    std::uint64_t raw(ElementIndex index) const
+    {
+        const std::uint8_t* bytes = static_cast<const Source*>(this)->find(index);
+        if (bytes == nullptr)
+            return 0;
+        switch (kElements[index].width) {
+        case 1:
+            return *bytes;
+        case 2:
+            return qFromLittleEndian<quint16>(bytes);
+        case 4:
+            return qFromLittleEndian<quint32>(bytes);
+        default:
+            return qFromLittleEndian<quint64>(bytes);
+        }
+    }
+
+    // The value with the sign of its type; of a float its bits.
+    std::int64_t integer(ElementIndex index) const
+    {
+        const int unused = isSigned(kElements[index].type) ? 64 - 8 * kElements[index].width : 0;
+        return static_cast<std::int64_t>(raw(index) << unused) >> unused;
+    }
+
+    // The value as a number, whatever its type; above 53 bits it is rounded.
+    double number(ElementIndex index) const
+    {
+        const ValueType type = kElements[index].type;
+        if (type == ValueType::f32)
+            return std::bit_cast<float>(static_cast<std::uint32_t>(raw(index)));
+        return isSigned(type) ? static_cast<double>(integer(index)) : static_cast<double>(raw(index));
+    }
+};
+
+} // namespace vlk

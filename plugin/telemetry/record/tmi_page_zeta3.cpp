@@ -1,0 +1,92 @@
+#include "telemetry/record/tmi_page_zeta3.h"
+
+#include "base/clock.h"
+#include "telemetry/record/record_head.h"
+
+using namespace vlk;
+
+TmiPage_Zeta3::TmiPage_Zeta3(const FieldMask& mask) : TmiPage_Zeta3(0, 0, mask, {}) {}
+
+TmiPage_Zeta3::TmiPage_Zeta3(const void* record, qsizetype size) : TmiPage_Zeta3()
+{
+    setRecord(record, size);
+}
+
+TmiPage_Zeta3::TmiPage_Zeta3(quint8 type, quint8 ver, const FieldMask& mask, const ValueBlock& block)
+    : RecordValues(mask, block), type_(type), ver_(ver), utcOffset_(vlk::now().offsetFromUtc())
+{
+}
+
+TmiPage_Zeta3::TmiPage_Zeta3(const ExtraPacket& extra) : TmiPage_Zeta3()
+{
+    setExtra(extra);
+}
+
+void TmiPage_Zeta3::setRecord(const void* record, qsizetype size)
+{
+    const auto bytes = bytesAt(record, size);
+    const RecordHead head = readHead(bytes);
+    if (head.type == kExtraPacket) {
+        setExtra(ExtraPacket::fromRecord(bytes));
+        setPayload(behind(bytes, sizeof(head.type)));
+        return;
+    }
+    type_ = head.type;
+    ver_ = head.ver;
+    isExtra_ = false;
+    const auto payload = behind(bytes, RecordHead::kBytes);
+    setPayload(payload);
+    unpack(head.mask, head.type == kTelemetryRecord ? payload : payload.first(0));
+}
+
+void TmiPage_Zeta3::setKeyAnswer(const void* answer, qsizetype size)
+{
+    const auto bytes = bytesAt(answer, size);
+    setExtra(ExtraPacket::fromKeyAnswer(bytes));
+    setPayload(behind(bytes, 1));
+}
+
+quint8 TmiPage_Zeta3::type() const
+{
+    return isExtra_ ? extra_.type() : type_;
+}
+
+quint8 TmiPage_Zeta3::ver() const
+{
+    return isExtra_ ? extra_.stVer() : ver_;
+}
+
+quint32 TmiPage_Zeta3::number() const
+{
+    constexpr ElementIndex numPage = element("NumPage");
+    return isExtra_ ? extra_.value<numPage>() : value<numPage>();
+}
+
+QString TmiPage_Zeta3::formatText() const
+{
+    return QString::fromStdString(mask().text());
+}
+
+QByteArray TmiPage_Zeta3::maskBytes() const
+{
+    const FieldMask::Bytes& bytes = mask().bytes();
+    return QByteArray(reinterpret_cast<const char*>(bytes.data()), FieldMask::kBytes);
+}
+
+// An extra packet has neither mask nor values, and the bytes of its head are nobody's mask.
+void TmiPage_Zeta3::setExtra(const ExtraPacket& extra)
+{
+    unpack({}, {});
+    extra_ = extra;
+    isExtra_ = true;
+}
+
+// QByteArray gives memory back when it shrinks, unless it was reserved.
+void TmiPage_Zeta3::setPayload(std::span<const std::uint8_t> bytes)
+{
+    const int size = static_cast<int>(bytes.size());
+    if (payload_.capacity() < size)
+        payload_.reserve(size);
+    payload_.resize(size);
+    std::ranges::copy(bytes, payload_.begin());
+}

@@ -1,0 +1,141 @@
+// The catalogue is written by hand: its names, its groups and its sums are checked here, each fact a second
+// time and in another way.
+
+#include "dataset/catalogue/field_mask.h"
+
+#include <QRegularExpression>
+#include <QSet>
+#include <QtTest>
+
+using namespace vlk;
+
+namespace {
+
+QString name(const Element& element)
+{
+    return QString::fromLatin1(element.name.data(), static_cast<int>(element.name.size()));
+}
+
+} // namespace
+
+class TestCatalogue : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // Every name is an element of a file, so it is unique, well-formed and found again as it is spelled.
+    void names()
+    {
+        const QRegularExpression wellFormed(QStringLiteral("^[A-Z][A-Za-z0-9_]*$"));
+        QSet<QString> seen;
+        for (int i = 0; i < kElementCount; ++i) {
+            const Element& element = kElements[i];
+            QVERIFY2(wellFormed.match(name(element)).hasMatch(), qPrintable(name(element)));
+            QVERIFY2(!seen.contains(name(element)), qPrintable(name(element)));
+            seen.insert(name(element));
+            QVERIFY(findElement(element.name) == static_cast<ElementIndex>(i));
+        }
+        for (const char* unknown : {"", "Numpage", "NumPag", "NumPage ", "TiresNum31", "User8Byte_4"})
+            QVERIFY2(!findElement(unknown), unknown);
+    }
+
+    // A numbered series counts up without a gap, in the order of the bytes.
+    void series()
+    {
+        const QRegularExpression numbered(QStringLiteral("^(.*\\D)(\\d{1,2})$"));
+        QMap<QString, int> last;
+        for (const Element& element : kElements) {
+            const auto match = numbered.match(name(element));
+            if (!match.hasMatch())
+                continue;
+            const int number = match.captured(2).toInt();
+            if (number != 1 && !last.contains(match.captured(1)))
+                continue; // State2 has no State1
+            QVERIFY2(number == last.value(match.captured(1)) + 1, qPrintable(name(element)));
+            last[match.captured(1)] = number;
+        }
+        QCOMPARE(last.value(QStringLiteral("TiresTemp")), 30);
+        QCOMPARE(last.value(QStringLiteral("LevelRS485_")), 16);
+        QCOMPARE(last.value(QStringLiteral("StateIn_Imp")), 8);
+        QCOMPARE(last.value(QStringLiteral("Passager_")), 16);
+    }
+
+    // Rising mask bits, each there, and what stands together under one bit is told here once more.
+    void groups()
+    {
+        QMap<int, int> sizes{{69, 8},  {70, 2},  {72, 2},  {76, 16}, {93, 6},  {94, 12}, {95, 24},
+                             {96, 48}, {106, 3}, {108, 3}, {140, 2}, {141, 3}, {145, 3}, {181, 2},
+                             {194, 2}, {195, 2}, {196, 3}, {197, 2}, {203, 2}};
+        for (int field = 83; field <= 92; ++field)
+            sizes[field] = 2;
+        for (int field = 109; field <= 116; ++field)
+            sizes[field] = 2;
+        int next = 0;
+        for (int field = 0; field < 255; ++field) {
+            QCOMPARE(static_cast<int>(kFields[field].firstElement), next);
+            QCOMPARE(static_cast<int>(kFields[field].elementCount), sizes.value(field, 1));
+            for (int n = 0; n < sizes.value(field, 1); ++n, ++next)
+                QCOMPARE(static_cast<int>(kElements[next].field), field);
+        }
+        QCOMPARE(next, kElementCount);
+    }
+
+    // Widths of whole stretches of fields, counted apart from the table.
+    void stretches_data()
+    {
+        QTest::addColumn<int>("first");
+        QTest::addColumn<int>("last");
+        QTest::addColumn<int>("bytes");
+        QTest::newRow("all") << 0 << 254 << 734;
+        QTest::newRow("earlier format") << 0 << 121 << 404;
+        QTest::newRow("protocol 1.0") << 0 << 68 << 146;
+        QTest::newRow("high precision") << 69 << 75 << 37;
+        QTest::newRow("base stations") << 76 << 76 << 37;
+        QTest::newRow("sensors 7 to 16") << 83 << 92 << 30;
+        QTest::newRow("tyres") << 93 << 96 << 90;
+        QTest::newRow("tachograph") << 97 << 102 << 13;
+        QTest::newRow("passengers") << 109 << 116 << 16;
+        QTest::newRow("fuel flow") << 170 << 180 << 32;
+        QTest::newRow("refrigerator") << 181 << 198 << 48;
+        QTest::newRow("user parameters") << 206 << 254 << 16 + 30 + 60 + 24;
+    }
+
+    void stretches()
+    {
+        QFETCH(int, first);
+        QFETCH(int, last);
+        FieldMask mask;
+        for (int field = first; field <= last; ++field)
+            mask.set(field);
+        QTEST(mask.payloadSize(), "bytes");
+    }
+
+    void maskBits()
+    {
+        for (const auto& [field, byte, value] :
+             {std::tuple{0, 0, 0x80}, {7, 0, 0x01}, {8, 1, 0x80}, {254, 31, 0x02}}) {
+            FieldMask mask;
+            mask.set(field);
+            QCOMPARE(static_cast<int>(mask.bytes()[byte]), value);
+            QCOMPARE(mask.text().find('1'), static_cast<std::size_t>(field));
+            QVERIFY(FieldMask::fromText(mask.text()) == mask);
+            mask.set(field, false);
+            QVERIFY(mask == FieldMask());
+        }
+        FieldMask::Bytes spare{};
+        spare[31] = 0x01;
+        QCOMPARE(FieldMask(spare).payloadSize(), 0);
+        QCOMPARE(FieldMask(spare).text(), std::string(255, '0'));
+    }
+
+    void maskTexts()
+    {
+        QCOMPARE(FieldMask::fromText("").text(), std::string(255, '0'));
+        QCOMPARE(FieldMask::fromText(std::string(400, '1')).payloadSize(), 734);
+        QCOMPARE(FieldMask::fromText("19a 0-1").text().substr(0, 8), std::string("11000010"));
+        QCOMPARE(FieldMask::fromText(kDefaultMaskText).text(), std::string(kDefaultMaskText));
+    }
+};
+
+QTEST_APPLESS_MAIN(TestCatalogue)
+#include "tst_catalogue.moc"

@@ -1,0 +1,279 @@
+// Records of both formats against a walk over the mask that shares nothing with the decoder: it goes bit by
+// bit, row by row of the catalogue as it is written, and reads numbers from hexadecimal text.
+// VLK_RANDOM_RECORDS sets the number of random records.
+
+#include "telemetry/record/record_head.h"
+#include "telemetry/record/tmi_page_zeta2.h"
+#include "telemetry/record/tmi_page_zeta3.h"
+
+#include <QDir>
+#include <QtTest>
+
+#include <random>
+#include <vector>
+
+using namespace vlk;
+
+namespace {
+
+struct Expected
+{
+    bool has;
+    quint64 raw;
+};
+
+std::vector<Expected> walk(const QByteArray& record, int fieldCount)
+{
+    static constexpr int kWidths[] = {1, 2, 4, 8, 1, 2, 4, 8, 4};
+    QString bits;
+    for (const char byte : record.mid(2, 32).leftJustified(32, '\0'))
+        bits += QString::number(static_cast<uchar>(byte), 2).rightJustified(8, QLatin1Char('0'));
+    const bool known = !record.isEmpty() && static_cast<uchar>(record[0]) == 176;
+    QByteArray rest = known ? record.mid(34) : QByteArray();
+
+    std::vector<Expected> values;
+    for (const ElementRow& row : catalogue::kElementRows) {
+        const bool has = row.field < fieldCount && bits[row.field] == QLatin1Char('1');
+        quint64 raw = 0;
+        if (has) {
+            QByteArray bytes = rest.left(kWidths[static_cast<int>(row.type)]);
+            rest.remove(0, bytes.size());
+            if (bytes.size() == kWidths[static_cast<int>(row.type)]) {
+                std::reverse(bytes.begin(), bytes.end());
+                raw = bytes.toHex().toULongLong(nullptr, 16);
+            }
+        }
+        values.push_back({has, raw});
+    }
+    return values;
+}
+
+// A copy that ends where its memory ends, so that a read beyond it is seen.
+std::vector<char> exact(const QByteArray& bytes)
+{
+    return {bytes.begin(), bytes.end()};
+}
+
+template <class Page>
+QByteArray difference(const Page& page, const QByteArray& record, int fieldCount)
+{
+    const auto values = walk(record, fieldCount);
+    for (int i = 0; i < kElementCount; ++i) {
+        const auto index = static_cast<ElementIndex>(i);
+        if (page.has(index) != values[i].has || page.raw(index) != values[i].raw)
+            return QByteArray(kElements[i].name.data()) + " of " + record.toHex();
+    }
+    const auto number = static_cast<quint32>(values[element("NumPage")].raw);
+    return page.number() == number && page.payload() == record.mid(34) ? "" : "number or payload";
+}
+
+// Empty if both decoders agree with the walk.
+QByteArray difference(TmiPage_Zeta3& reused, const QByteArray& record)
+{
+    const auto bytes = exact(record);
+    reused.setRecord(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    if (reused.isExtra())
+        return reused.mask() == FieldMask() ? "" : "mask of an extra packet";
+    const QByteArray found = difference(reused, record, kFieldCount);
+    if (!found.isEmpty())
+        return found;
+    return difference(TmiPage_Zeta2(bytes.data(), static_cast<qsizetype>(bytes.size())), record,
+                      kEarlierFieldCount);
+}
+
+QByteArray recordOf(const FieldMask& mask, const QByteArray& payload)
+{
+    return QByteArray("\xb0\x1e") + TmiPage_Zeta3(mask).maskBytes() + payload;
+}
+
+class Random
+{
+public:
+    QByteArray bytes(int count)
+    {
+        QByteArray bytes(count, Qt::Uninitialized);
+        std::generate(bytes.begin(), bytes.end(), [this] { return static_cast<char>(engine_()); });
+        return bytes;
+    }
+
+    // Sparse, dense and clustered masks; the payload has what the mask asks for, or less, or more.
+    QByteArray record()
+    {
+        FieldMask mask;
+        const unsigned density = below(9);
+        const unsigned cluster = 1 + below(20);
+        for (int field = 0; field < kFieldCount;) {
+            const bool on = below(8) < density;
+            for (unsigned n = below(cluster) + 1; n > 0 && field < kFieldCount; --n)
+                mask.set(field++, on);
+        }
+        const int wanted = mask.payloadSize();
+        return recordOf(mask, bytes(below(2) == 0 ? wanted : static_cast<int>(below(wanted + 20))));
+    }
+
+    unsigned below(unsigned limit) { return static_cast<unsigned>(engine_()) % limit; }
+
+private:
+    std::mt19937 engine_{7106};
+};
+
+} // namespace
+
+class TestRecord : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void randomRecords()
+    {
+        const int count = std::max(20000, qEnvironmentVariableIntValue("VLK_RANDOM_RECORDS"));
+        Random random;
+        TmiPage_Zeta3 page;
+        for (int i = 0; i < count; ++i) {
+            const QByteArray found = difference(page, random.record());
+            QVERIFY2(found.isEmpty(), found.constData());
+        }
+    }
+
+    void seeds_data()
+    {
+        QTest::addColumn<QByteArray>("record");
+        for (const char* corpus : {"record", "earlier_record"}) {
+            const QDir dir(QStringLiteral(VLK_SOURCE "/fuzz/corpus/") + QLatin1String(corpus));
+            for (const QString& name : dir.entryList(QDir::Files)) {
+                QFile file(dir.filePath(name));
+                QVERIFY(file.open(QIODevice::ReadOnly));
+                QTest::addRow("%s/%s", corpus, qPrintable(name)) << file.readAll();
+            }
+        }
+    }
+
+    // Each seed, every prefix of it and every single bit of it turned over.
+    void seeds()
+    {
+        QFETCH(QByteArray, record);
+        TmiPage_Zeta3 page;
+        for (int size = 0; size <= record.size(); ++size) {
+            const QByteArray found = difference(page, record.left(size));
+            QVERIFY2(found.isEmpty(), found.constData());
+        }
+        for (int bit = 0; bit < record.size() * 8; ++bit) {
+            QByteArray flipped = record;
+            flipped[bit / 8] = static_cast<char>(flipped[bit / 8] ^ 1 << bit % 8);
+            const QByteArray found = difference(page, flipped);
+            QVERIFY2(found.isEmpty(), found.constData());
+        }
+    }
+
+    void sizes()
+    {
+        Random random;
+        TmiPage_Zeta3 page;
+        const FieldMask all = FieldMask::fromText(std::string(255, '1'));
+        for (int size = 0; size <= 2000; ++size) {
+            for (const QByteArray& record : {recordOf(all, random.bytes(size)), random.bytes(size)}) {
+                const QByteArray found = difference(page, record);
+                QVERIFY2(found.isEmpty(), found.constData());
+            }
+        }
+        for (const qsizetype size : {qsizetype{-1}, qsizetype{0}, qsizetype{100}}) {
+            page.setRecord(nullptr, size);
+            QVERIFY(page.type() == 0 && page.payload().isEmpty() &&
+                    TmiPage_Zeta2(nullptr, size).number() == 0);
+        }
+    }
+
+    // One element alone in a record, read with its sign and type.
+    void values_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<QByteArray>("hex");
+        QTest::addColumn<qint64>("integer");
+        QTest::addColumn<double>("number");
+        QTest::newRow("u8") << QByteArray("GSM") << QByteArray("ff") << qint64{255} << 255.0;
+        QTest::newRow("i8") << QByteArray("Temp1") << QByteArray("fb") << qint64{-5} << -5.0;
+        QTest::newRow("u16") << QByteArray("Power") << QByteArray("3930") << qint64{12345} << 12345.0;
+        QTest::newRow("i16") << QByteArray("RefrTemp1") << QByteArray("0080") << qint64{-32768} << -32768.0;
+        QTest::newRow("u32") << QByteArray("Time") << QByteArray("ffffffff") << qint64{4294967295}
+                             << 4294967295.0;
+        QTest::newRow("i32") << QByteArray("Latitude") << QByteArray("feffffff") << qint64{-2} << -2.0;
+        QTest::newRow("f32") << QByteArray("Speed") << QByteArray("00002041") << qint64{0x41200000} << 10.0;
+        QTest::newRow("u64") << QByteArray("User8Byte_3") << QByteArray("0000000000000080")
+                             << std::numeric_limits<qint64>::min() << 9223372036854775808.0;
+        QTest::newRow("i64") << QByteArray("NaviLatitude")
+                             << QByteArray("0000000000000080"
+                                           "0000000000000000")
+                             << std::numeric_limits<qint64>::min() << -9223372036854775808.0;
+    }
+
+    void values()
+    {
+        QFETCH(QByteArray, name);
+        QFETCH(QByteArray, hex);
+        const auto index = findElement(name.constData());
+        QVERIFY(index.has_value());
+        FieldMask mask;
+        mask.set(kElements[*index].field);
+        const auto bytes = exact(recordOf(mask, QByteArray::fromHex(hex)));
+        const TmiPage_Zeta3 page(bytes.data(), static_cast<qsizetype>(bytes.size()));
+        QVERIFY(page.has(*index));
+        QTEST(qint64{page.integer(*index)}, "integer");
+        QTEST(page.number(*index), "number");
+    }
+
+    void notANumberKeepsItsBits()
+    {
+        FieldMask mask;
+        mask.set(field("Speed"));
+        const QByteArray record = recordOf(mask, QByteArray::fromHex("0100a07f"));
+        const TmiPage_Zeta3 page(record.constData(), record.size());
+        QVERIFY(std::isnan(page.value<element("Speed")>()));
+        QCOMPARE(page.raw(element("Speed")), quint64{0x7fa00001});
+    }
+
+    // A group that is cut gives the values before the cut, and what would follow it is not taken from it.
+    void cutGroup()
+    {
+        FieldMask mask;
+        mask.set(field("LbsCellID"));
+        mask.set(field("TempRS485_1"));
+        const QByteArray record = recordOf(mask, QByteArray::fromHex("01000000"
+                                                                     "0200"
+                                                                     "03"));
+        const TmiPage_Zeta3 page(record.constData(), record.size());
+        QCOMPARE(page.value<element("LbsCellID")>(), 1U);
+        QCOMPARE(page.value<element("LbsLac")>(), quint16{2});
+        QCOMPARE(page.value<element("LbsMcc")>(), quint16{0});
+        QCOMPARE(page.value<element("TempRS485_1")>(), qint8{0});
+    }
+
+    void reuseKeepsTheZoneAndTheMemory()
+    {
+        TmiPage_Zeta3 page;
+        page.setUtcOffset(-5400);
+        const QByteArray full = recordOf(FieldMask::fromText(std::string(255, '1')), QByteArray(734, 'x'));
+        page.setRecord(full.constData(), full.size());
+        const void* memory = page.payload().constData();
+        QByteArray other("\x05\x1e");
+        page.setRecord(other.constData(), other.size());
+        QCOMPARE(page.type(), quint8{5});
+        QVERIFY(page.valueBlock() == TmiPage_Zeta3::ValueBlock{});
+        page.setRecord(full.constData(), full.size());
+        QCOMPARE(static_cast<const void*>(page.payload().constData()), memory);
+        QCOMPARE(page.utcOffset(), -5400);
+    }
+
+    void fromParts()
+    {
+        TmiPage_Zeta3::ValueBlock block{};
+        block[kElements[element("NumPage")].offset] = 42;
+        const TmiPage_Zeta3 page(176, 30, FieldMask::fromText("01"), block);
+        QCOMPARE(page.number(), 42U);
+        QVERIFY(!page.has(element("NumPage")) && page.has(element("Code")) && !page.isExtra());
+        QCOMPARE(page.formatText(), QStringLiteral("01") + QString(253, QLatin1Char('0')));
+        QCOMPARE(TmiPage_Zeta3(FieldMask::fromText("01")).formatText(), page.formatText());
+    }
+};
+
+QTEST_APPLESS_MAIN(TestRecord)
+#include "tst_record.moc"
