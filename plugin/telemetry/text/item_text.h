@@ -1,0 +1,22 @@
+#pragma once
+
+// The one road from a value to the text that people read, on windows and in exports.
+
+#include "telemetry/record/tmi_page_zeta3.h"
+#include "telemetry/text/item.h"
+
+namespace vlk {
+
+struct TextOptions
+{
+    // The type letters of the user parameters, in their order: 16 of one byte, 15 of two, 15 of four and 3 of
+    // eight. "u" unsigned, "s" signed, "b" binary digits, "f" floating; a slot without a letter is unsigned.
+    std::string_view userTypes;
+};
+
+// Empty if the record does not hold the item. Of an extra packet the items of its head have their texts.
+// Numbers have a decimal point and no groups whatever the locale; words are those of the installed
+// translator; times are in the zone of the page.
+QString text(const TmiPage_Zeta3& page, ItemIndex item, const TextOptions& options = {});
+
+} // namespace vlk

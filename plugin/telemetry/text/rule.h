@@ -1,0 +1,123 @@
+#pragma once
+
+// How a value becomes a text. A rule is data; item_text.cpp is the one place that follows it.
+//
+// The steps, in this order: the condition on a bit, the codes that mean no value, the range of bits, the
+// scale, the shape, the unit behind a blank.
+
+#include "telemetry/text/word.h"
+
+#include <cstdint>
+#include <limits>
+#include <span>
+
+class TmiPage_Zeta3;
+
+namespace vlk {
+
+enum class Shape : std::uint8_t {
+    decimal,       // a whole number, with the sign of its type; the default
+    fixed,         // `decimals` digits behind the point
+    general,       // up to 6 significant digits, whichever of 1234.5 and 1.2345e+06 is shorter
+    word,          // `set`, always
+    twoState,      // `set` or `clear` by the bit of the item
+    enumeration,   // a word of `names`, or what `other` says
+    zonedTime,     // "15:00:00 01.02.2025 (UTC +3)" in the zone of the record
+    localTime,     // "15:00:00 01.02.2025" in the zone of this machine
+    dateTime,      // "01.02.2025 15:00:00" in the zone of this machine
+    coordinate,    // "56 30.0000'": `by` units a degree, minutes with `decimals` digits
+    userParameter, // by its type letter
+    special,       // a function of the record
+};
+
+// The values from `first` to `last` share a word; rows of a single value leave `last` out.
+struct NamedValue
+{
+    constexpr NamedValue(std::uint8_t value, Word word) : NamedValue(value, value, word) {}
+    constexpr NamedValue(std::uint8_t first, std::uint8_t last, Word word)
+        : first(first), last(last), word(word)
+    {
+    }
+
+    std::uint8_t first;
+    std::uint8_t last;
+    Word word;
+};
+
+// A code that means that there is no value, and the text for it.
+struct NoValue
+{
+    static constexpr std::int64_t kUnused = std::numeric_limits<std::int64_t>::min();
+
+    std::int64_t code = kUnused;
+    Word text = {};
+};
+
+struct BitRange
+{
+    std::uint8_t first = 0;
+    std::uint8_t count = 0; // 0: the whole value
+};
+
+// The rule holds where this bit of the value is set or clear; elsewhere `otherwise` does, or the text is
+// empty.
+struct Condition
+{
+    static constexpr std::uint8_t kNone = 255;
+
+    std::uint8_t bit = kNone;
+    bool set = true;
+};
+
+enum class Other : std::uint8_t {
+    number,        // the number in decimal
+    word,          // `set`
+    wordAndNumber, // "<set>: <number>"
+};
+
+struct Rule
+{
+    Shape shape = Shape::decimal;
+    std::uint8_t decimals = 0;
+    Condition when = {};
+    const Rule* otherwise = nullptr;
+    NoValue none = {};
+    bool negativeIsNone = false;
+    BitRange bits = {};
+    // The value times the one, divided by the other, in double; `cut` drops the fraction.
+    double times = 1;
+    double by = 1;
+    bool cut = false;
+    Word set = {};
+    Word clear = {};
+    std::span<const NamedValue> names = {};
+    Other other = Other::number;
+    Word unit = {};
+    QString (*special)(const TmiPage_Zeta3& page) = nullptr;
+    // Shown even where the record lacks the field.
+    bool always = false;
+};
+
+constexpr Rule bit(Word set, Word clear)
+{
+    return {.shape = Shape::twoState, .set = set, .clear = clear};
+}
+
+constexpr Rule bitAt(std::uint8_t number, Word set, Word clear)
+{
+    return {.shape = Shape::twoState, .bits = {number, 1}, .set = set, .clear = clear};
+}
+
+// What no row of `names` covers is shown in decimal.
+constexpr Rule named(std::span<const NamedValue> names, BitRange bits = {})
+{
+    return {.shape = Shape::enumeration, .bits = bits, .names = names};
+}
+
+constexpr Rule namedOr(Word other, std::span<const NamedValue> names, BitRange bits = {},
+                       Other kind = Other::word)
+{
+    return {.shape = Shape::enumeration, .bits = bits, .set = other, .names = names, .other = kind};
+}
+
+} // namespace vlk
