@@ -21,10 +21,12 @@ public:
     explicit VLK_Form_TMI_Production(EventPanel* panel, QWidget* parent = nullptr);
 
     // A record, from its type byte on.
-    void takeRecord(const QByteArray& record);
+    void takeRecord(const QByteArray& record) { fill(record_.take(record)); }
     // Seconds east of UTC.
     void setUtcOffset(int seconds);
+    // -1 before the first record.
     qint64 number() const { return record_.number(); }
+    const TmiPage_Zeta3* page() const { return record_.page(); }
     void retranslate();
 
 private:
@@ -43,9 +45,10 @@ private:
     RecordOnShow record_;
     vlk::ValueRows rows_;
     std::vector<Group> groups_;
+    std::vector<QLabel*> inputTexts_;
+    std::vector<QLabel*> inputValues_;
     QLabel* levelText_;
     QProgressBar* level_;
-    QLabel* ain3Unit_;
     std::vector<QLabel*> segmentCaptions_;
-    QLabel* reliabilityUnit_;
+    std::vector<QLabel*> segmentValues_;
 };

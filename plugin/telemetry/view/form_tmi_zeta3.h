@@ -29,8 +29,9 @@ public:
 
     // Seconds east of UTC.
     void setUtcOffset(int seconds) { record_.setUtcOffset(seconds); }
+    // -1 before the first record.
     qint64 number() const { return record_.number(); }
-    void retranslate();
+    const TmiPage_Zeta3* page() const { return record_.page(); }
 
 private:
     RecordOnShow record_;

@@ -27,7 +27,9 @@ public:
 
     // Seconds east of UTC.
     void setUtcOffset(int seconds);
+    // -1 before the first record.
     qint64 number() const { return record_.number(); }
+    const TmiPage_Zeta3* page() const { return record_.page(); }
     void retranslate();
 
 private:

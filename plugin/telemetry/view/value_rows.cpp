@@ -33,6 +33,17 @@ QLabel* makeValue(const QString& name)
     return label;
 }
 
+QHBoxLayout* besideEachOther(std::initializer_list<QLabel*> labels)
+{
+    auto* layout = new QHBoxLayout;
+    for (QLabel* label : labels) {
+        label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+        layout->addWidget(label);
+    }
+    layout->addStretch();
+    return layout;
+}
+
 QStringList partsAroundValues(const QString& text)
 {
     QStringList parts = text.split(QStringLiteral("<val>"), Qt::KeepEmptyParts, Qt::CaseInsensitive);
@@ -49,8 +60,12 @@ void ValueRows::add(QGridLayout* grid, std::span<const ValueRow> rows, int colum
         QLabel* caption = makeCaption(QString(name).replace(QLatin1String("_Value"), QLatin1String("_Text")));
         QLabel* value = makeValue(name);
         grid->addWidget(caption, at, column);
-        grid->addWidget(value, at, column + 1);
-        shown_.push_back({&row, caption, value});
+        QLabel* unit = row.unit == nullptr ? nullptr : makeCaption(QString::fromLatin1(row.unit));
+        if (unit == nullptr)
+            grid->addWidget(value, at, column + 1);
+        else
+            grid->addLayout(besideEachOther({value, unit}), at, column + 1);
+        shown_.push_back({&row, caption, value, unit});
         ++at;
     }
     grid->setColumnStretch(column + 1, 1);
@@ -58,8 +73,14 @@ void ValueRows::add(QGridLayout* grid, std::span<const ValueRow> rows, int colum
 
 void ValueRows::retranslate()
 {
-    for (const Shown& shown : shown_)
-        shown.caption->setText(QCoreApplication::translate("vlk", shown.row->key));
+    for (const Shown& shown : shown_) {
+        const QStringList parts = partsAroundValues(QCoreApplication::translate("vlk", shown.row->key));
+        shown.caption->setText(parts.value(0));
+        if (shown.unit != nullptr)
+            shown.unit->setText(shown.row->unitKey != nullptr
+                                    ? QCoreApplication::translate("vlk", shown.row->unitKey)
+                                    : parts.value(1));
+    }
 }
 
 void ValueRows::fill(const TmiPage_Zeta3& page)

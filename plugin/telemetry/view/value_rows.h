@@ -7,15 +7,18 @@
 //     rows.add(grid, kRows);
 //     rows.retranslate(); rows.fill(page);
 //
-// The caption's object name is that of the value with "_Text" for "_Value". Columns keep their places while
-// values come and go; a value that the record lacks is empty.
+// The caption's object name is that of the value with "_Text" for "_Value". A unit stands behind its value;
+// its text is a key of its own, or the part of the caption's text behind the marker "<val>". Columns keep
+// their places while values come and go; a value that the record lacks is empty.
 
 #include "telemetry/text/item.h"
 
+#include <initializer_list>
 #include <span>
 #include <vector>
 
 class QGridLayout;
+class QHBoxLayout;
 class QLabel;
 class TmiPage_Zeta3;
 
@@ -26,6 +29,8 @@ struct ValueRow
     const char* value; // object name
     const char* key;   // of the caption
     ItemIndex item;
+    const char* unit = nullptr;    // object name of a label behind the value
+    const char* unitKey = nullptr; // of its text, if that is not a part of the caption's
 };
 
 class ValueRows
@@ -42,6 +47,7 @@ private:
         const ValueRow* row;
         QLabel* caption;
         QLabel* value;
+        QLabel* unit;
     };
     std::vector<Shown> shown_;
 };
@@ -50,6 +56,9 @@ private:
 // move its neighbours.
 QLabel* makeCaption(const QString& name);
 QLabel* makeValue(const QString& name);
+
+// Captions and values in one line, each as wide as its text.
+QHBoxLayout* besideEachOther(std::initializer_list<QLabel*> labels);
 
 // The parts of a text around its "<val>" markers.
 QStringList partsAroundValues(const QString& text);
