@@ -1,9 +1,101 @@
-#include "plugin/host/host_interface.h"
+#include "window/command_line.h"
+#include "window/configuration_tour.h"
+#include "window/data_folder.h"
+#include "window/installed_files.h"
+#include "window/line_icon.h"
+#include "window/settings.h"
+#include "window/tour.h"
 
 #include <QApplication>
+#include <QTextCodec>
+#include <QTimer>
+
+#include <cstdio>
+
+namespace {
+
+constexpr int failed = 1;
+
+void nameApplication()
+{
+    QCoreApplication::setApplicationName(QStringLiteral("vlk-workbench"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(VLK_VERSION));
+}
+
+// In a locale without letters beyond ASCII the paths of files with such names would not survive.
+void useUtf8InPlaceOfAscii()
+{
+    const QByteArray name = QTextCodec::codecForLocale()->name();
+    if (name == "US-ASCII" || name == "ANSI_X3.4-1968" || name == "ISO-8859-1")
+        QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+}
+
+// Help, version and complaints need no display.
+CommandLine readCommandLine(int& argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    nameApplication();
+    useUtf8InPlaceOfAscii();
+    Languages languages;
+    languages.set(CommandLine::languageOf(QCoreApplication::arguments()).value_or(Languages::ofSystem()));
+    CommandLine line = CommandLine::parse(QCoreApplication::arguments());
+    if (line.exitCode)
+        std::fprintf(*line.exitCode == 0 ? stdout : stderr, "%s\n", qPrintable(line.message.trimmed()));
+    return line;
+}
+
+bool runTour(WorkbenchWindow& window, const QString& folder)
+{
+    Tour tour(window, folder);
+    tour.add(vlk::configurationTour());
+    return tour.run();
+}
+
+} // namespace
 
 int main(int argc, char* argv[])
 {
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    const CommandLine line = readCommandLine(argc, argv);
+    if (line.exitCode)
+        return *line.exitCode;
+
     const QApplication application(argc, argv);
-    return 0;
+    nameApplication();
+    QApplication::setWindowIcon(vlk::applicationIcon());
+
+    // A tour leaves the user's own tracker alone.
+    const QTemporaryDir tourData;
+    const bool isTour = !line.tour.isEmpty();
+    const DataFolder folder(isTour && line.data.isEmpty() ? tourData.path() : line.data);
+    Languages languages;
+    if (!folder.isUsable()) {
+        languages.set(line.language.value_or(Languages::ofSystem()));
+        std::fprintf(stderr, "%s\n", qPrintable(vlk::text("wb_data_unwritable").arg(folder.error())));
+        return failed;
+    }
+    Settings settings(folder.settingsFile());
+    if (line.language)
+        settings.setLanguage(*line.language);
+    if (line.mode)
+        settings.setMode(*line.mode);
+    languages.set(settings.language());
+
+    WorkbenchWindow window(folder, settings, languages);
+    window.show();
+    const bool started = window.start(vlk::pluginPath());
+    if (folder.isTemporary())
+        window.showMessage(vlk::text("wb_data_temporary").arg(folder.error()));
+    else if (settings.wasDamaged() && started)
+        window.showMessage(vlk::text("wb_settings_damaged"));
+
+    if (isTour) {
+        const bool good = runTour(window, line.tour);
+        window.close();
+        return good ? 0 : failed;
+    }
+    if (!line.open.isEmpty() && started)
+        QTimer::singleShot(0, &window, [&] { window.openFile(line.open); });
+    return QApplication::exec();
 }

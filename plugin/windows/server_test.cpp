@@ -20,12 +20,6 @@ vlk_Socket::vlk_Socket(QObject* parent, const vlk::ServerTestLimits& limits)
     describe();
 }
 
-vlk_Socket::~vlk_Socket()
-{
-    dropLookup();
-    socket_.disconnect(this);
-}
-
 void vlk_Socket::test(const QString& address, int port)
 {
     timerTestServer_.stop();

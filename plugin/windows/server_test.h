@@ -29,7 +29,6 @@ class vlk_Socket : public QObject
 
 public:
     explicit vlk_Socket(QObject* parent = nullptr, const vlk::ServerTestLimits& limits = {});
-    ~vlk_Socket() override;
 
     // Starts a test and returns at once; one that is under way is dropped without an answer.
     void test(const QString& address, int port);

@@ -50,8 +50,16 @@ bool overwrite(const QString& path, const QByteArray& document, QString* error)
 
 bool replaceFile(const QString& path, const QByteArray& document)
 {
+    // An empty file, as the opening of a document leaves one, is nothing to lose. Without it the new one
+    // appears in a single step; over an old one it needs a name of its own for a moment.
+    const QFileInfo before(path);
+    if (before.isFile() && before.size() == 0 && before.isWritable() && !before.isSymLink())
+        QFile::remove(path);
+
+    // The commit alone does not notice that the last buffer went out in part; the flush does.
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(document) == document.size() && file.commit())
+    if (file.open(QIODevice::WriteOnly) && file.write(document) == document.size() && file.flush() &&
+        file.commit())
         return true;
     QString error;
     if (overwrite(path, document, &error))

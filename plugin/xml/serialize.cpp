@@ -11,6 +11,10 @@
 
 #include <utility>
 
+// Qt 6 drops this reader; the rules of the format are those of the reader, so it stays.
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_DEPRECATED
+
 namespace {
 
 // A configuration has no document type; one that has is refused, because its declarations could nest or
@@ -22,6 +26,25 @@ public:
 };
 
 } // namespace
+
+bool CSerialize::parse(const QByteArray& text)
+{
+    QXmlInputSource source;
+    source.setData(text);
+    CXmlDefaultHandler handler;
+    NoDocumentType noDocumentType;
+    QXmlSimpleReader reader;
+    reader.setFeature("http://xml.org/sax/features/namespaces", false);
+    reader.setFeature("http://xml.org/sax/features/namespace-prefixes", true);
+    reader.setContentHandler(&handler);
+    reader.setLexicalHandler(&noDocumentType);
+    if (!reader.parse(source))
+        return false;
+    root_ = handler.takeRoot();
+    return root_ != nullptr;
+}
+
+QT_WARNING_POP
 
 CSerialize::CSerialize(QString fileName) : fileName_(std::move(fileName)) {}
 
@@ -47,27 +70,6 @@ bool CSerialize::load()
     qCWarning(vlk::lcXml).noquote() << fileName_ << "is not a document";
     return false;
 }
-
-// Qt marks the reader for the next generation of Qt; the rules of the format are those of this reader.
-QT_WARNING_PUSH
-QT_WARNING_DISABLE_DEPRECATED
-bool CSerialize::parse(const QByteArray& text)
-{
-    QXmlInputSource source;
-    source.setData(text);
-    CXmlDefaultHandler handler;
-    NoDocumentType noDocumentType;
-    QXmlSimpleReader reader;
-    reader.setFeature("http://xml.org/sax/features/namespaces", false);
-    reader.setFeature("http://xml.org/sax/features/namespace-prefixes", true);
-    reader.setContentHandler(&handler);
-    reader.setLexicalHandler(&noDocumentType);
-    if (!reader.parse(source))
-        return false;
-    root_ = handler.takeRoot();
-    return root_ != nullptr;
-}
-QT_WARNING_POP
 
 void CSerialize::save()
 {

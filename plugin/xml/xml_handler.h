@@ -10,6 +10,8 @@
 
 #include <memory>
 
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_DEPRECATED
 class CXmlDefaultHandler : public QXmlDefaultHandler
 {
 public:
@@ -30,3 +32,4 @@ private:
     bool sawContent_ = false;
     int depth_ = 0;
 };
+QT_WARNING_POP

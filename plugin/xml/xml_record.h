@@ -12,6 +12,5 @@ struct CXmlRecord
 {
     QString name;
     QString value;
-    bool isChild = false;
     CXmlNode* node = nullptr;
 };

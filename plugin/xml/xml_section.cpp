@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <cstdlib>
 
 namespace {
@@ -23,7 +24,7 @@ double leadingDouble(const QString& text)
     const char* begin = bytes.startsWith('+') ? bytes.begin() + 1 : bytes.begin();
     double number = 0;
     std::from_chars(begin, bytes.end(), number);
-    return number;
+    return std::isfinite(number) ? number : 0;
 }
 
 QString asciiOnly(QString text)
@@ -55,13 +56,12 @@ void CXmlSection::buildTable()
 {
     const auto attributes = node_->lastAttributes();
     table_.reserve(attributes.size() + node_->children.size());
-    const auto add = [this](CXmlNode* node, bool isChild) {
-        table_.push_back({vlk::sectionText(node->name), vlk::sectionText(node->value), isChild, node});
+    const auto add = [this](CXmlNode* node) {
+        table_.push_back({vlk::sectionText(node->name), vlk::sectionText(node->value), node});
     };
-    for (CXmlNode* attribute : attributes)
-        add(attribute, false);
+    std::for_each(attributes.begin(), attributes.end(), add);
     for (const auto& child : node_->children)
-        add(child.get(), true);
+        add(child.get());
 }
 
 CXmlSection* CXmlSection::section(const QString& name, int kind) const
@@ -93,35 +93,42 @@ CXmlSection* CXmlSection::nextChild()
     return nullptr;
 }
 
-const CXmlRecord* CXmlSection::find(const QString& name) const
+std::size_t CXmlSection::position(const QString& name) const
 {
     const auto found =
         std::find_if(table_.begin(), table_.end(),
                      [key = vlk::sectionText(name)](const CXmlRecord& record) { return record.name == key; });
-    return found == table_.end() ? nullptr : &*found;
+    return static_cast<std::size_t>(found - table_.begin());
+}
+
+const QString* CXmlSection::value(const QString& name) const
+{
+    const std::size_t entry = position(name);
+    return entry < table_.size() ? &table_[entry].value : nullptr;
 }
 
 int CXmlSection::getInt(const QString& name, int fallback) const
 {
-    const CXmlRecord* const record = find(name);
-    return record ? leadingInt(record->value) : fallback;
+    const QString* const text = value(name);
+    return text ? leadingInt(*text) : fallback;
 }
 
 float CXmlSection::getFloat(const QString& name, float fallback) const
 {
-    return static_cast<float>(getDouble(name, static_cast<double>(fallback)));
+    const QString* const text = value(name);
+    return text ? static_cast<float>(leadingDouble(*text)) : fallback;
 }
 
 double CXmlSection::getDouble(const QString& name, double fallback) const
 {
-    const CXmlRecord* const record = find(name);
-    return record ? leadingDouble(record->value) : fallback;
+    const QString* const text = value(name);
+    return text ? leadingDouble(*text) : fallback;
 }
 
 QString CXmlSection::getString(const QString& name, const QString& fallback) const
 {
-    const CXmlRecord* const record = find(name);
-    return record ? record->value : fallback;
+    const QString* const text = value(name);
+    return text ? *text : fallback;
 }
 
 void CXmlSection::setInt(const QString& name, int value)
@@ -131,11 +138,10 @@ void CXmlSection::setInt(const QString& name, int value)
 
 void CXmlSection::setString(const QString& name, const QString& value)
 {
-    CXmlRecord* record = const_cast<CXmlRecord*>(find(name));
-    if (!record)
-        record = &table_.emplace_back(CXmlRecord{vlk::sectionText(name), {}, false, nullptr});
-    record->value = vlk::sectionText(value);
-    record->isChild = false;
+    const std::size_t entry = position(name);
+    if (entry == table_.size())
+        table_.push_back({vlk::sectionText(name), {}, nullptr});
+    table_[entry].value = vlk::sectionText(value);
 }
 
 void CXmlSection::setText(const QString& name, const char* chars)

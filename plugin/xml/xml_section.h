@@ -46,7 +46,7 @@ struct CXmlSection
     CXmlSection* nextChild();
 
     // The default where there is no such entry. Numbers are read as far as they go: "12abc" is 12, "abc" is
-    // 0. The decimal sign is the point in every locale.
+    // 0. The decimal sign is the point in every locale, and what is no finite number is 0.
     int getInt(const QString& name, int fallback) const;
     float getFloat(const QString& name, float fallback) const;
     double getDouble(const QString& name, double fallback) const;
@@ -70,7 +70,8 @@ struct CXmlSection
 
 private:
     void buildTable();
-    const CXmlRecord* find(const QString& name) const;
+    std::size_t position(const QString& name) const;
+    const QString* value(const QString& name) const;
 
     CSerialize* document_ = nullptr;
     CXmlNode* node_ = nullptr;

@@ -3,6 +3,7 @@
 #include "windows/server_test.h"
 
 #include <QApplication>
+#include <QHostInfo>
 #include <QLabel>
 #include <QProgressBar>
 #include <QSignalSpy>
@@ -14,7 +15,7 @@ class TestServerTest : public QObject
     Q_OBJECT
 
 private:
-    static constexpr vlk::ServerTestLimits quick{800, 100};
+    static constexpr vlk::ServerTestLimits quick{1500, 100};
     const QString here_ = "127.0.0.1";
 
     static VLK_Form_IO_Progress* dialog()
@@ -56,8 +57,9 @@ private Q_SLOTS:
         QTcpSocket* seen = server.nextPendingConnection();
         QTRY_COMPARE(seen->state(), QAbstractSocket::UnconnectedState);
         QCOMPARE(seen->bytesAvailable(), 0);
-        QTest::qWait(50);
-        QCOMPARE(answers.count(), 1); // the lookup and the disconnection both end a test
+        // The lookup and the disconnection both end a test, whichever comes last.
+        QMetaObject::invokeMethod(&tester, "slot_disconnected");
+        QCOMPARE(answers.count(), 1);
     }
 
     void failureTakesTheWholeLimit_data()
@@ -67,7 +69,6 @@ private Q_SLOTS:
         QTest::newRow("closed port") << here_ << 0;
         QTest::newRow("empty address") << QString() << 0;
         QTest::newRow("port that wraps around to an open one") << here_ << 65536;
-        QTest::newRow("negative port that wraps around") << here_ << -65536;
     }
     void failureTakesTheWholeLimit()
     {
@@ -107,12 +108,16 @@ private Q_SLOTS:
         QVERIFY(server.listen(QHostAddress::LocalHost));
         vlk_Socket tester(nullptr, quick);
         QSignalSpy answers(&tester, &vlk_Socket::testConnected);
-        // The dropped lookup gives the name that the second address has not.
+        tester.test(here_, server.serverPort());
+        QTRY_COMPARE(answers.count(), 1);
+        // The dropped test would give the name that the next address has not, and so would its late answer.
         tester.test(here_, server.serverPort());
         tester.test(QString(), server.serverPort());
-        QTRY_COMPARE(answers.count(), 1);
-        QCOMPARE(answers[0][0].toString() + answers[0][1].toString(), QString());
-        QVERIFY(!answers[0][2].toBool());
+        QHostInfo late(12345);
+        late.setHostName("late");
+        QMetaObject::invokeMethod(&tester, "printResults", Q_ARG(QHostInfo, late));
+        QTRY_COMPARE(answers.count(), 2);
+        QCOMPARE(answers[1], QVariantList({QString(), QString(), false}));
     }
 
     void answerMayStartTheNextTestOrDeleteTheTester()

@@ -25,7 +25,7 @@ struct Item
 {
     items::ItemName name;
     std::uint8_t row = 0; // in items::kItemRows
-    std::uint8_t bit = 0; // of an item with two states
+    std::uint8_t bit = 0; // that the name gives
     ElementIndex element{};
 
     constexpr const Rule& rule() const { return items::kItemRows[row].rule; }
@@ -52,9 +52,7 @@ inline constexpr std::array<Item, kItemCount> kItems = [] {
                 if (++steps > kElementCount)
                     throw "an item names an element that the catalogue does not have";
             }
-            const int bitOfRule = items::kItemRows[row].rule.bits.first;
-            all[count++] = {name, static_cast<std::uint8_t>(row),
-                            static_cast<std::uint8_t>(bit < 0 ? bitOfRule : bit),
+            all[count++] = {name, static_cast<std::uint8_t>(row), static_cast<std::uint8_t>(std::max(bit, 0)),
                             static_cast<ElementIndex>(element)};
         };
         items::forEachName(items::kItemRows[row].items, add);

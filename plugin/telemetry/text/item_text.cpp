@@ -97,7 +97,8 @@ QString shapeText(const Value& value, const Rule& rule, const Item& item, const 
     case Shape::word:
         return rule.set.text();
     case Shape::twoState:
-        return (testBit(value.raw, item.bit) ? rule.set : rule.clear).text();
+        return (testBit(value.raw, rule.bits.count == 0 ? item.bit : rule.bits.first) ? rule.set : rule.clear)
+            .text();
     case Shape::enumeration:
         return namedText(value, rule);
     case Shape::zonedTime:

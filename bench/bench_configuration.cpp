@@ -1,0 +1,125 @@
+// Reading and writing a complete configuration (10 sections, 60 groups, 720 attributes) through sections,
+// against QXmlSimpleReader with a handler that does nothing over the same file. The counter "x reader" is the
+// ratio to that.
+
+#include "xml/xml_document.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QXmlSimpleReader>
+
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+
+namespace {
+
+constexpr int sections = 10;
+constexpr int groups = 6;
+constexpr int keys = 12;
+
+QString numbered(const char* stem, int number)
+{
+    return stem + QString::number(number);
+}
+
+void saveConfiguration(const QString& path)
+{
+    vlk::XmlDocument document(path, "DEVICE");
+    document.root()->clear();
+    document.root()->setString("model", "R-7106");
+    for (int s = 0; s < sections; ++s) {
+        const auto section = document.root()->child(numbered("SECTION", s));
+        section->clear();
+        for (int g = 0; g < groups; ++g) {
+            const auto group = section->child(numbered("GROUP", g), 3);
+            for (int k = 0; k < keys; k += 2) {
+                group->setInt(numbered("number", k), 1000 * k + g);
+                group->setString(numbered("text", k), QString::fromUtf8("Датчик & бак"));
+            }
+            group->commit();
+        }
+        section->commit();
+    }
+    document.save();
+}
+
+int loadConfiguration(const QString& path)
+{
+    vlk::XmlDocument document(path, "DEVICE");
+    int sum = 0;
+    for (int s = 0; s < sections; ++s) {
+        const auto section = document.root()->child(numbered("SECTION", s));
+        for (int g = 0; g < groups; ++g) {
+            const auto group = section->child(numbered("GROUP", g));
+            for (int k = 0; k < keys; k += 2) {
+                sum += group->getInt(numbered("number", k), 0);
+                sum += group->getString(numbered("text", k)).size();
+            }
+        }
+    }
+    return sum;
+}
+
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_DEPRECATED
+bool readWithoutUse(const QString& path)
+{
+    QFile file(path);
+    QXmlInputSource source(&file);
+    QXmlDefaultHandler handler;
+    QXmlSimpleReader reader;
+    reader.setContentHandler(&handler);
+    return reader.parse(source);
+}
+QT_WARNING_POP
+
+template <typename Work>
+double secondsOf(Work work)
+{
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+const QString& configuration()
+{
+    static const QTemporaryDir folder;
+    static const QString path = [] {
+        const QString made = folder.filePath("configuration.xml");
+        saveConfiguration(made);
+        return made;
+    }();
+    return path;
+}
+
+// Work and baseline take turns, so that both see the same machine.
+template <typename Work>
+void againstReader(benchmark::State& state, Work work)
+{
+    const QString& path = configuration();
+    double own = 0;
+    double baseline = 0;
+    for (auto _ : state) {
+        const double seconds = secondsOf([&] { benchmark::DoNotOptimize(work(path)); });
+        state.SetIterationTime(seconds);
+        own += seconds;
+        baseline += secondsOf([&] { benchmark::DoNotOptimize(readWithoutUse(path)); });
+    }
+    state.counters["x reader"] = own / baseline;
+}
+
+void loadThroughSections(benchmark::State& state)
+{
+    againstReader(state, loadConfiguration);
+}
+
+void saveThroughSections(benchmark::State& state)
+{
+    againstReader(state, [](const QString& path) { return saveConfiguration(path), 0; });
+}
+
+BENCHMARK(loadThroughSections)->UseManualTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(saveThroughSections)->UseManualTime()->Unit(benchmark::kMicrosecond);
+
+} // namespace

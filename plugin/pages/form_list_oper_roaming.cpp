@@ -1,0 +1,105 @@
+#include "pages/form_list_oper_roaming.h"
+
+#include "ui_VLK_Designer_Form_List_Oper_Roaming.h"
+
+#include "pages/operator_rows.h"
+
+#include <QStyle>
+
+namespace {
+constexpr int kCodeColumn = vlk::kFirstOperatorColumn;
+}
+
+VLK_Form_List_Oper_Roaming::VLK_Form_List_Oper_Roaming(QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint),
+      ui_(std::make_unique<Ui::VLK_Designer_Form_List_Oper_Roaming>())
+{
+    ui_->setupUi(this);
+    setModal(true);
+    ui_->pushButton_Up->setIcon(style()->standardIcon(QStyle::SP_ArrowUp));
+    ui_->pushButton_Down->setIcon(style()->standardIcon(QStyle::SP_ArrowDown));
+    vlk::makeOperatorRows(ui_->treeWidget_List, kRows);
+    connect(ui_->treeWidget_List, &QTreeWidget::itemDoubleClicked, this,
+            &VLK_Form_List_Oper_Roaming::slot_itemDoubleClicket_TreeWidgetList);
+    connect(ui_->treeWidget_List, &QTreeWidget::currentItemChanged, this,
+            &VLK_Form_List_Oper_Roaming::slot_curItemChanged);
+    connect(ui_->pushButton_Up, &QPushButton::clicked, this, &VLK_Form_List_Oper_Roaming::slot_pressedBtnUp);
+    connect(ui_->pushButton_Down, &QPushButton::clicked, this,
+            &VLK_Form_List_Oper_Roaming::slot_pressedBtnDown);
+    connect(ui_->pushButton_Ok, &QPushButton::pressed, this, &QDialog::close);
+    retranslate();
+}
+
+VLK_Form_List_Oper_Roaming::~VLK_Form_List_Oper_Roaming() = default;
+
+void VLK_Form_List_Oper_Roaming::setDefaults()
+{
+    for (int row = 0; row < kRows; ++row)
+        ui_->treeWidget_List->topLevelItem(row)->setText(kCodeColumn, {});
+    ui_->checkBox_sendData->setChecked(true);
+    ui_->treeWidget_List->setCurrentItem(ui_->treeWidget_List->topLevelItem(0), kCodeColumn);
+}
+
+void VLK_Form_List_Oper_Roaming::retranslate()
+{
+    ui_->retranslateUi(this);
+    ui_->treeWidget_List->setHeaderLabels({tr("abbr_047"), tr("cfgt1_106")});
+}
+
+int VLK_Form_List_Oper_Roaming::opCode(int row) const
+{
+    return ui_->treeWidget_List->topLevelItem(row)->text(kCodeColumn).toInt();
+}
+
+void VLK_Form_List_Oper_Roaming::setOpCode(int row, int code)
+{
+    ui_->treeWidget_List->topLevelItem(row)->setText(kCodeColumn, QString::number(code));
+}
+
+int VLK_Form_List_Oper_Roaming::dontCnct() const
+{
+    return ui_->checkBox_sendData->isChecked() ? 0 : 1;
+}
+
+void VLK_Form_List_Oper_Roaming::setDontCnct(int value)
+{
+    ui_->checkBox_sendData->setChecked(value == 0);
+}
+
+void VLK_Form_List_Oper_Roaming::slot_curItemChanged(QTreeWidgetItem* current, QTreeWidgetItem* /*previous*/)
+{
+    const int row = ui_->treeWidget_List->indexOfTopLevelItem(current);
+    ui_->pushButton_Up->setEnabled(row != 0);
+    ui_->pushButton_Down->setEnabled(row != kRows - 1);
+}
+
+void VLK_Form_List_Oper_Roaming::slot_itemDoubleClicket_TreeWidgetList(QTreeWidgetItem* item, int column)
+{
+    vlk::allowEditing(item, column);
+}
+
+void VLK_Form_List_Oper_Roaming::slot_pressedBtnUp()
+{
+    moveCode(-1);
+}
+
+void VLK_Form_List_Oper_Roaming::slot_pressedBtnDown()
+{
+    moveCode(1);
+}
+
+// Swaps the current row's code with that of the row beside it, which becomes current.
+void VLK_Form_List_Oper_Roaming::moveCode(int step)
+{
+    QTreeWidgetItem* current = ui_->treeWidget_List->currentItem();
+    if (!current)
+        return;
+    QTreeWidgetItem* other =
+        ui_->treeWidget_List->topLevelItem(ui_->treeWidget_List->indexOfTopLevelItem(current) + step);
+    if (!other)
+        return;
+    const QString code = current->text(kCodeColumn);
+    current->setText(kCodeColumn, other->text(kCodeColumn));
+    other->setText(kCodeColumn, code);
+    ui_->treeWidget_List->setCurrentItem(other, kCodeColumn);
+}

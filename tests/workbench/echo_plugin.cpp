@@ -1,0 +1,72 @@
+// The smallest plug-in: OpenConfiguration copies the file into the current folder and hands the copy to the
+// host for writing, RaiseConfiguration asks for help, GetBalanceUssd gives the last path's first letters.
+
+#include "plugin/host/host_interface.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <cstring>
+
+namespace {
+
+vlk::HostCallback host = nullptr;
+int device = 0;
+QByteArray lastPath;
+
+std::uint32_t token()
+{
+    return std::uint32_t(reinterpret_cast<std::uintptr_t>(&device));
+}
+
+void call(vlk::Message id, void* p1, void* p2 = nullptr)
+{
+    host(&device, std::uint32_t(id), p1, p2);
+}
+
+} // namespace
+
+extern "C" {
+
+Q_DECL_EXPORT bool IsVlkLibraryV()
+{
+    return true;
+}
+
+Q_DECL_EXPORT void GetLibraryInfo(vlk::LibraryInfo* info)
+{
+    *info = {token(), "R-7106", "Echo", 1, 2, 3, 4, 0, 1};
+}
+
+Q_DECL_EXPORT void Initialize(vlk::HostCallback callback)
+{
+    host = callback;
+}
+
+Q_DECL_EXPORT void ReceiveMessage(void* handle, std::uint32_t id, void* p1, void* /*p2*/)
+{
+    if (reinterpret_cast<std::uintptr_t>(handle) != token())
+        return;
+    switch (vlk::Message(id)) {
+    case vlk::Message::OpenConfiguration: {
+        lastPath = static_cast<const vlk::OpenRequest*>(p1)->path;
+        QString copy = QDir::currentPath() + QStringLiteral("/vlk_echo.xml");
+        QFile::copy(QString::fromLocal8Bit(lastPath), copy);
+        call(vlk::Message::WriteConfiguration, &copy);
+        break;
+    }
+    case vlk::Message::RaiseConfiguration: {
+        QString model = QStringLiteral("R-7106");
+        QString page = QStringLiteral("r-7106p1.html");
+        call(vlk::Message::ShowHelp, &model, &page);
+        call(vlk::Message::ShowHelp, nullptr, nullptr);
+        break;
+    }
+    case vlk::Message::GetBalanceUssd:
+        std::memset(p1, 'x', vlk::balanceUssdSize);
+        break;
+    default:
+        break;
+    }
+}
+}

@@ -1,0 +1,263 @@
+#include "window/command_line.h"
+#include "window/data_folder.h"
+#include "window/help_pages.h"
+#include "window/languages.h"
+#include "window/settings.h"
+#include "window/stored_file.h"
+
+#include <QDirIterator>
+#include <QProcess>
+#include <QXmlStreamReader>
+#include <QtTest>
+
+namespace {
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString write(const QTemporaryDir& folder, const QString& name, const QByteArray& content)
+{
+    QFile file(folder.filePath(name));
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? file.fileName() : QString();
+}
+
+QSet<QString> keysOfTexts(const QString& language)
+{
+    QSet<QString> keys;
+    QXmlStreamReader reader(contentOf(QStringLiteral(VLK_SOURCE "/translations/%1.ts").arg(language)));
+    QString id;
+    while (!reader.atEnd()) {
+        if (reader.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (reader.name() == QLatin1String("message"))
+            id = reader.attributes().value(QLatin1String("id")).toString();
+        else if (reader.name() == QLatin1String("translation") && !reader.readElementText().trimmed().isEmpty())
+            keys.insert(id);
+    }
+    return keys;
+}
+
+QSet<QString> keysOfSources()
+{
+    QSet<QString> keys;
+    static const QRegularExpression key(QStringLiteral("\"(wb_[a-z0-9_]+)\""));
+    QDirIterator files(QStringLiteral(VLK_SOURCE "/workbench"), {QStringLiteral("*.cpp"), QStringLiteral("*.h")},
+                       QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString source = QString::fromUtf8(contentOf(files.next()));
+        for (auto found = key.globalMatch(source); found.hasNext();)
+            keys.insert(found.next().captured(1));
+    }
+    return keys;
+}
+
+} // namespace
+
+class WorkbenchTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyKeyHasATextInBothLanguages()
+    {
+        // A key that ends in an underscore is the stem of a numbered family.
+        const QSet<QString> used = keysOfSources();
+        const auto isStem = [](const QString& key) { return key.endsWith(QLatin1Char('_')); };
+        QVERIFY(used.size() > 100);
+        for (const QString& language : Languages::codes()) {
+            const QSet<QString> texts = keysOfTexts(language);
+            QStringList missing;
+            for (const QString& key : used)
+                if (isStem(key) ? QStringList(texts.values()).filter(key).isEmpty() : !texts.contains(key))
+                    missing.append(key);
+            QCOMPARE(missing, QStringList());
+            QStringList unused;
+            for (const QString& text : texts)
+                if (text.startsWith(QLatin1String("wb_")) && !used.contains(text) &&
+                    std::none_of(used.begin(), used.end(),
+                                 [&](const QString& key) { return isStem(key) && text.startsWith(key); }))
+                    unused.append(text);
+            QCOMPARE(unused, QStringList());
+        }
+    }
+
+    // The compiled texts, asked the way the plug-in asks: from any class, by key.
+    void translatesByKey()
+    {
+        Languages languages;
+        QVERIFY(languages.set(QStringLiteral("ru")));
+        QCOMPARE(QCoreApplication::translate("SomeClass", "wb_help_back"), QStringLiteral("Назад"));
+        QCOMPARE(vlk::text("wb_help_back"), QStringLiteral("Назад"));
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Отмена"));
+        QVERIFY(languages.set(QStringLiteral("en")));
+        QCOMPARE(vlk::text("wb_help_back"), QStringLiteral("Back"));
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Cancel"));
+        QCOMPARE(vlk::text("no_such_key"), QStringLiteral("no_such_key"));
+        QVERIFY(!languages.set(QStringLiteral("xx")));
+        QCOMPARE(languages.current(), QStringLiteral("en"));
+    }
+
+    void helpPagesExistAndTheirLinksResolve_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("page");
+        for (const QString& language : Languages::codes())
+            for (const char* page : {"index.html", "r-7106conf.html", "r-7106p1.html", "r-7106tmi.html"})
+                QTest::newRow(qPrintable(language + QLatin1Char('/') + QLatin1String(page)))
+                    << language << QString::fromLatin1(page);
+    }
+    void helpPagesExistAndTheirLinksResolve()
+    {
+        QFETCH(QString, language);
+        QFETCH(QString, page);
+        const HelpPages pages(QStringLiteral(VLK_SOURCE "/help"));
+        QVERIFY(pages.exists(language, page));
+        static const QRegularExpression link(QStringLiteral("href=\"([^\"#]*)(?:#([^\"]*))?\""));
+        for (auto found = link.globalMatch(pages.html(language, page)); found.hasNext();) {
+            const QRegularExpressionMatch match = found.next();
+            const QString target = match.captured(1).isEmpty() ? page : match.captured(1);
+            QVERIFY2(pages.exists(language, target), qPrintable(match.captured()));
+            const QString anchor = match.captured(2);
+            QVERIFY2(anchor.isEmpty() || pages.html(language, target).contains(QStringLiteral("id=\"%1\"").arg(anchor)),
+                     qPrintable(match.captured()));
+        }
+    }
+
+    void namesAMissingHelpPage()
+    {
+        const HelpPages pages(QStringLiteral(VLK_SOURCE "/help"));
+        QVERIFY(pages.html(QStringLiteral("en"), QStringLiteral("r-7106p99.html"))
+                    .contains(QStringLiteral("r-7106p99.html")));
+        // Only the file name counts, so that no page leads out of the help.
+        QVERIFY(pages.html(QStringLiteral("en"), QStringLiteral("../../CMakeLists.txt"))
+                    .contains(QStringLiteral("href=\"index.html\"")));
+    }
+
+    void remembersSettings()
+    {
+        const QTemporaryDir folder;
+        const QString file = folder.filePath(QStringLiteral("w.ini"));
+        {
+            Settings settings(file);
+            settings.setLanguage(QStringLiteral("ru"));
+            settings.setMode(2);
+            settings.setFullWindow(false);
+            settings.setFolders(QStringLiteral("/а/"), QStringLiteral("/b/"));
+            for (int n = 0; n < 15; ++n)
+                settings.addRecentFile(QStringLiteral("/f%1").arg(n));
+            settings.addRecentFile(QStringLiteral("/f9"));
+            settings.removeRecentFile(QStringLiteral("/f14"));
+        }
+        const Settings settings(file);
+        QCOMPARE(settings.language(), QStringLiteral("ru"));
+        QCOMPARE(settings.mode(), 2);
+        QVERIFY(!settings.fullWindow());
+        QCOMPARE(settings.telemetryFolder(), QStringLiteral("/а/"));
+        QCOMPARE(settings.recentFiles().size(), Settings::recentLimit - 1);
+        QCOMPARE(settings.recentFiles().mid(0, 2), QStringList({QStringLiteral("/f9"), QStringLiteral("/f13")}));
+    }
+
+    void survivesDamagedSettings_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<bool>("damaged");
+        QTest::newRow("zero bytes") << QByteArray(64, '\0') << true;
+        QTest::newRow("no ini") << QByteArray("}{ not = [an ini\nfile at all\n") << true;
+        QTest::newRow("wrong values") << QByteArray("[General]\nlanguage=xx\nmode=99\n") << false;
+        QTest::newRow("empty") << QByteArray() << false;
+    }
+    void survivesDamagedSettings()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(bool, damaged);
+        const QTemporaryDir folder;
+        const QString file = write(folder, QStringLiteral("w.ini"), content);
+        Settings settings(file);
+        QCOMPARE(settings.wasDamaged(), damaged);
+        QVERIFY(Languages::isKnown(settings.language()));
+        QCOMPARE(settings.mode(), 0);
+        QCOMPARE(QFile::exists(file + QStringLiteral(".damaged")), damaged);
+        if (damaged)
+            QCOMPARE(contentOf(file + QStringLiteral(".damaged")), content);
+    }
+
+    void knowsFilesByTheirContent_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<int>("kind");
+        const auto row = [](const char* title, const char* name, const QByteArray& content, StoredFile kind) {
+            QTest::newRow(title) << QString::fromLatin1(name) << content << int(kind);
+        };
+        const QByteArray declaration("<?xml version=\"1.0\" encoding=\"windows-1251\"?>\r\n");
+        row("configuration", "a.xml", declaration + "<DEVICE model=\"\xcf\">", StoredFile::Configuration);
+        row("telemetry", "a.xml", declaration + "<TMI model=\"R\"> \r\n", StoredFile::Telemetry);
+        row("binary telemetry", "A.TMI", QByteArray(200, '\0'), StoredFile::Telemetry);
+        row("another document", "a.xml", "<html/>", StoredFile::Unknown);
+        row("no document", "a.xml", QByteArray(5000, '\xff'), StoredFile::Unknown);
+        row("empty", "a.xml", {}, StoredFile::Unknown);
+    }
+    void knowsFilesByTheirContent()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, content);
+        QFETCH(int, kind);
+        const QTemporaryDir folder;
+        QCOMPARE(int(vlk::storedFileKind(write(folder, name, content))), kind);
+        QCOMPARE(int(vlk::storedFileKind(folder.path())), int(StoredFile::Unknown));
+    }
+
+    void makesItsDataFolder()
+    {
+        const QTemporaryDir root;
+        const DataFolder folder(root.filePath(QStringLiteral("new/папка")));
+        QVERIFY(folder.isUsable());
+        QCOMPARE(QDir::currentPath(), QFileInfo(folder.path()).canonicalFilePath());
+        QVERIFY(QFileInfo(folder.configurationFolder()).isDir());
+        // A file stands in the way.
+        const DataFolder refused(write(root, QStringLiteral("file"), "x") + QStringLiteral("/data"));
+        QVERIFY(!refused.isUsable());
+        QVERIFY(!refused.error().isEmpty());
+    }
+
+    void obeysTheCommandLine_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QString>("said");
+        const auto row = [](const char* arguments, int code, const char* said) {
+            QTest::newRow(arguments) << QString::fromUtf8(arguments).split(QLatin1Char(' ')) << code
+                                     << QString::fromUtf8(said);
+        };
+        row("--help --language en", 0, "--tour");
+        row("--help --language ru", 0, "Параметры");
+        row("--version", 0, "vlk-workbench 3.");
+        row("--nonsense --language en", 2, "nonsense");
+        row("--language de", 2, "de");
+        row("--mode 3", 2, "3");
+        row("--mode two", 2, "two");
+        row("--open /no/such/file.xml", 2, "/no/such/file.xml");
+        row("--open", 2, "open");
+        row("file.xml", 2, "file.xml");
+        row("--tour " VLK_SOURCE "/build/x --data /dev/null/data", 1, "/dev/null/data");
+    }
+    void obeysTheCommandLine()
+    {
+        QFETCH(QStringList, arguments);
+        QProcess workbench;
+        workbench.setProcessChannelMode(QProcess::MergedChannels);
+        workbench.start(QStringLiteral(VLK_WORKBENCH), arguments);
+        QVERIFY(workbench.waitForFinished(60'000));
+        QCOMPARE(workbench.exitStatus(), QProcess::NormalExit);
+        QTEST(workbench.exitCode(), "code");
+        QFETCH(QString, said);
+        const QString output = QString::fromUtf8(workbench.readAll());
+        QVERIFY2(output.contains(said), qPrintable(output));
+    }
+};
+
+QTEST_MAIN(WorkbenchTest)
+#include "tst_workbench.moc"

@@ -1,0 +1,85 @@
+#include "tracker/answer_line.h"
+
+#include <QTimer>
+
+#include <utility>
+
+namespace tracker {
+
+namespace {
+
+constexpr int answerMs = 20;
+constexpr int garbledStep = 5;
+
+} // namespace
+
+void AnswerLine::plug()
+{
+    cable_ = std::make_unique<QObject>();
+    search_ = std::make_unique<QObject>();
+}
+
+void AnswerLine::unplug()
+{
+    cable_.reset();
+    search_.reset();
+}
+
+void AnswerLine::post(const Answer& answer)
+{
+    if (!plugged())
+        return;
+    if (takeUnplug()) {
+        QTimer::singleShot(answerMs / 2, cable_.get(), [this] { Q_EMIT pulled(); });
+        return;
+    }
+    if (faults_.silence)
+        return;
+    Answer sent = answer;
+    sent.data = distorted(answer.data, answer.form);
+    const int ms = answerMs + answer.afterMs + qMax(0, faults_.delayMs);
+    QTimer::singleShot(ms, answer.ofSearch ? search_.get() : cable_.get(), [this, sent] { deliver(sent); });
+}
+
+void AnswerLine::dropSearch()
+{
+    if (plugged())
+        search_ = std::make_unique<QObject>();
+}
+
+QByteArray AnswerLine::distorted(const QByteArray& bytes, Answer::Form form) const
+{
+    QByteArray result = bytes;
+    if (faults_.garbledAnswers)
+        for (int i = 0; i < result.size(); i += garbledStep)
+            result[i] = static_cast<char>(result.at(i) ^ 0x5A);
+    if (faults_.shortAnswers) {
+        const int kept = result.size() / 2;
+        // The receiver of a record reads all of it.
+        if (form == Answer::Form::Record)
+            std::fill(result.begin() + kept, result.end(), '\0');
+        else
+            result.truncate(kept);
+    }
+    return result;
+}
+
+bool AnswerLine::takeUnplug()
+{
+    return std::exchange(faults_.unplug, false);
+}
+
+void AnswerLine::deliver(const Answer& answer)
+{
+    if (!sender_)
+        return;
+    Answer copy = answer;
+    void* p1 = nullptr;
+    if (copy.form == Answer::Form::Bytes)
+        p1 = &copy.data;
+    else if (copy.form == Answer::Form::Record)
+        p1 = copy.data.data();
+    sender_(copy.message, p1, copy.second.isEmpty() ? nullptr : copy.second.data());
+}
+
+} // namespace tracker

@@ -1,0 +1,181 @@
+#include "tracker/day_plan.h"
+
+#include "tracker/event_code.h"
+#include "tracker/random.h"
+#include "tracker/road.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tracker {
+
+namespace {
+
+constexpr double metresPerKm = 1000;
+constexpr double kmhPerMs = 3.6;
+constexpr double acceleration = 0.9;       // m/s2 of a loaded lorry
+constexpr double litresPerKm = 0.27;       // driving
+constexpr double litresPerSecond = 0.0006; // idling
+constexpr double fillBelow = 120;
+constexpr int lastDeparture = 16 * 3600; // UTC
+
+class Planner
+{
+public:
+    Planner(quint64 seed, qint64 midnight, const Odometers& begin)
+        : random_(mix(seed, static_cast<quint64>(midnight))), midnight_(midnight), now_(begin)
+    {
+    }
+
+    DayPlan plan()
+    {
+        // 1970-01-01 was a Thursday.
+        const auto weekday = (midnight_ / daySeconds + 3) % 7;
+        const bool weekend = weekday >= 5;
+        const int trips = weekend ? random_.integer(2, 4) : random_.integer(8, 10);
+        wait(Activity::Parked, (weekend ? 6 : 4) * 3600 + random_.integer(0, 1800), EventCode::ParkedTimer);
+        while (trip_ < trips && elapsed_ < lastDeparture)
+            drive();
+        wait(Activity::Parked, daySeconds - elapsed_, EventCode::ParkedTimer);
+        return {std::move(segments_), now_};
+    }
+
+private:
+    void drive()
+    {
+        ++trip_;
+        wait(Activity::Idling, random_.integer(60, 240), EventCode::IgnitionOn);
+        const double target = now_.km + random_.between(14, 42);
+        while (now_.km < target) {
+            leg(std::min(random_.between(0.5, 3.8), target - now_.km + 0.1));
+            wait(Activity::Idling, random_.integer(6, 55), EventCode::MovementStop);
+        }
+        wait(Activity::Parked, random_.integer(700, 1900), EventCode::IgnitionOff);
+        if (now_.fuel < fillBelow) {
+            wait(Activity::Filling, random_.integer(260, 420), EventCode::FillingStart);
+            wait(Activity::Parked, random_.integer(60, 180), EventCode::FillingEnd);
+        }
+    }
+
+    void leg(double km)
+    {
+        Segment segment;
+        segment.activity = Activity::Driving;
+        segment.metres = km * metresPerKm;
+        const double wanted = speedLimitAt(now_.km + km / 2) * random_.between(0.78, 1.07) / kmhPerMs;
+        // A short leg ends before the speed is reached.
+        segment.cruise = std::min(wanted, std::sqrt(segment.metres * acceleration));
+        segment.seconds =
+            static_cast<int>(std::ceil(segment.metres / segment.cruise + segment.cruise / acceleration));
+        segment.fuelDelta = -km * litresPerKm * random_.between(0.85, 1.2);
+        segment.code = static_cast<quint16>(EventCode::MovementStart);
+        add(segment);
+    }
+
+    void wait(Activity activity, int seconds, EventCode code)
+    {
+        if (seconds <= 0)
+            return;
+        Segment segment;
+        segment.activity = activity;
+        segment.seconds = seconds;
+        segment.code = static_cast<quint16>(code);
+        if (activity == Activity::Idling)
+            segment.fuelDelta = -litresPerSecond * seconds;
+        if (activity == Activity::Filling)
+            segment.fuelDelta = tankLitres * random_.between(0.9, 0.97) - now_.fuel;
+        add(segment);
+    }
+
+    void add(Segment& segment)
+    {
+        segment.from = midnight_ + elapsed_;
+        segment.trip = static_cast<quint16>(trip_);
+        segment.at = now_;
+        const bool driving = segment.activity == Activity::Driving;
+        now_.records += segment.recordCount();
+        now_.km += segment.metres / metresPerKm;
+        now_.fuel += segment.fuelDelta;
+        now_.fuelUsed += std::max(0.0, -segment.fuelDelta);
+        now_.engineSeconds += driving || segment.activity == Activity::Idling ? segment.seconds : 0;
+        now_.loadSeconds += driving ? segment.seconds : 0;
+        elapsed_ += segment.seconds;
+        segments_.push_back(segment);
+    }
+
+    Random random_;
+    qint64 midnight_;
+    Odometers now_;
+    int elapsed_ = 0;
+    int trip_ = 0;
+    std::vector<Segment> segments_;
+};
+
+} // namespace
+
+int Segment::interval() const
+{
+    switch (activity) {
+    case Activity::Driving:
+        return 10;
+    case Activity::Idling:
+        return 30;
+    case Activity::Filling:
+        return 60;
+    case Activity::Parked:
+        break;
+    }
+    return 300;
+}
+
+struct Segment::Ramps
+{
+    double since;
+    double before;
+    double length; // of one ramp
+};
+
+Segment::Ramps Segment::ramps(double elapsed) const
+{
+    const double length = cruise / acceleration;
+    const double total = metres / cruise + length;
+    const double since = std::clamp(elapsed / seconds, 0.0, 1.0) * total;
+    return {since, total - since, length};
+}
+
+double Segment::metresAt(double elapsed) const
+{
+    if (activity != Activity::Driving)
+        return 0;
+    const Ramps ramp = ramps(elapsed);
+    if (ramp.since < ramp.length)
+        return acceleration * ramp.since * ramp.since / 2;
+    if (ramp.before < ramp.length)
+        return metres - acceleration * ramp.before * ramp.before / 2;
+    return cruise * (ramp.since - ramp.length / 2);
+}
+
+double Segment::speedAt(double elapsed) const
+{
+    if (activity != Activity::Driving)
+        return 0;
+    const Ramps ramp = ramps(elapsed);
+    return std::min({cruise, acceleration * ramp.since, acceleration * ramp.before}) * kmhPerMs;
+}
+
+double Segment::accelerationAt(double elapsed) const
+{
+    if (activity != Activity::Driving)
+        return 0;
+    const Ramps ramp = ramps(elapsed);
+    if (ramp.since < ramp.length)
+        return acceleration;
+    return ramp.before < ramp.length ? -acceleration : 0;
+}
+
+DayPlan planDay(quint64 seed, qint64 midnight, const Odometers& begin)
+{
+    return Planner(seed, midnight, begin).plan();
+}
+
+} // namespace tracker

@@ -1,0 +1,63 @@
+#pragma once
+
+// One day of the vehicle: what it does from midnight to midnight UTC, leg by leg, as the seed and the state
+// in which the day begins have it. Nothing is stored: the same arguments give the same day.
+
+#include <QtGlobal>
+
+#include <vector>
+
+namespace tracker {
+
+enum class Activity { Parked, Filling, Idling, Driving };
+
+// What goes on from day to day.
+struct Odometers
+{
+    quint32 records = 0; // records made before
+    double km = 0;
+    double fuel = 300;       // litres in the tanks
+    double fuelUsed = 18420; // litres since the vehicle was new
+    double engineSeconds = 4.1e6;
+    double loadSeconds = 2.9e6; // of these, driving
+};
+
+// A stretch of time with one activity. Its records are made at its beginning and every `interval` seconds.
+struct Segment
+{
+    qint64 from = 0; // Unix seconds
+    int seconds = 0;
+    Activity activity = Activity::Parked;
+    double metres = 0;    // driven
+    double cruise = 0;    // m/s that a leg reaches between its ramps
+    double fuelDelta = 0; // litres, falling or filled
+    quint16 code = 0;     // of its first record
+    quint16 trip = 0;     // of the day, from 1
+    Odometers at;         // at its beginning
+
+    int interval() const;
+    // After so many seconds of it: metres driven, km/h, and m/s2 (negative while braking).
+    double metresAt(double elapsed) const;
+    double speedAt(double elapsed) const;
+    double accelerationAt(double elapsed) const;
+    quint32 recordCount() const { return 1 + static_cast<quint32>((seconds - 1) / interval()); }
+
+private:
+    // Seconds since the start and before the end of a leg whose ramps are exact, not rounded to a second.
+    struct Ramps;
+    Ramps ramps(double elapsed) const;
+};
+
+struct DayPlan
+{
+    std::vector<Segment> segments; // without a gap, never empty
+    Odometers end;
+};
+
+inline constexpr int daySeconds = 86400;
+// Litres that both tanks hold.
+inline constexpr double tankLitres = 400;
+
+DayPlan planDay(quint64 seed, qint64 midnight, const Odometers& begin);
+
+} // namespace tracker

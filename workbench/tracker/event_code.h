@@ -1,0 +1,41 @@
+#pragma once
+
+// Why a record was made. The words for a code are the text "wb_event_" and three digits.
+
+#include <QString>
+#include <QtGlobal>
+
+namespace tracker {
+
+enum class EventCode : quint16 {
+    Restart = 1,
+    Timer = 2,
+    Distance = 3,
+    Course = 4,
+    ParkedTimer = 5,
+    OnRequest = 6,
+    IgnitionOn = 10,
+    IgnitionOff = 11,
+    MovementStart = 12,
+    MovementStop = 13,
+    SpeedLimitExceeded = 14,
+    DoorOpened = 20,
+    DoorClosed = 21,
+    WeakShock = 30,
+    StrongShock = 31,
+    FillingStart = 40,
+    FillingEnd = 41,
+    GuardOn = 50,
+    GuardOff = 51,
+    OutputOn = 52,
+    OutputOff = 53,
+    MileageSet = 54,
+    ConfigurationChanged = 55,
+    KeyTouched = 60,
+    TagRead = 61,
+};
+
+// In the language of the application; an unknown code has words too, with its number.
+QString eventText(quint16 code);
+
+} // namespace tracker

@@ -1,0 +1,16 @@
+#pragma once
+
+// What can go wrong on the way from the tracker to the plug-in. Any of them may be switched on together.
+
+namespace tracker {
+
+struct Faults
+{
+    bool silence = false;        // requests are taken, no answer comes
+    int delayMs = 0;             // added to the tracker's own answering time
+    bool shortAnswers = false;   // byte arrays lose their second half, fixed records have it zeroed
+    bool garbledAnswers = false; // every fifth byte is wrong
+    bool unplug = false;         // the cable goes while the next answer is under way; clears itself
+};
+
+} // namespace tracker

@@ -1,0 +1,266 @@
+#include "tracker/field_values.h"
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <limits>
+
+namespace tracker {
+
+namespace {
+
+using vlk::element;
+
+// One row fills a family of like elements: `count` of them, each `stride` elements behind the one before.
+struct Row
+{
+    vlk::ElementIndex first;
+    double (*value)(const Vehicle& v, int index);
+    int count = 1;
+    int stride = 1;
+};
+
+// What the vehicle has nothing to say about.
+template <int value>
+double constant(const Vehicle& /*v*/, int /*index*/)
+{
+    return value;
+}
+constexpr auto zero = constant<0>;
+constexpr auto none8 = constant<255>;
+
+constexpr double coordinate = 600000;
+constexpr double fineCoordinate = 600000000;
+constexpr double hour = 3600;
+constexpr double gravity = 9.81;
+constexpr double milliG = 1000 / gravity;
+// Fuel flow state: a nibble each for the chambers and the engine, then the power.
+constexpr double flowRuns = 0x1211;
+constexpr double flowStands = 0x1000;
+
+constexpr Row rows[] = {
+    {element("NumPage"), [](const Vehicle& v, int) { return double(v.m.number); }},
+    {element("Code"), [](const Vehicle& v, int) { return double(v.m.code); }},
+    {element("Time"), [](const Vehicle& v, int) { return double(v.m.time); }},
+    {element("State"), [](const Vehicle& v, int) { return v.state(); }},
+    {element("Module1"), [](const Vehicle& v, int) { return v.module1(); }},
+    {element("Module2"), [](const Vehicle& v, int) { return v.module2(); }},
+    {element("GSM"), [](const Vehicle& v, int) { return v.gsmLevel(); }},
+    {element("StateNGauge"), [](const Vehicle& v, int) { return v.navigationState(); }},
+    {element("LastTime"), [](const Vehicle& v, int) { return double(v.m.fixTime); }},
+    {element("Latitude"), [](const Vehicle& v, int) { return v.m.road.latitude * coordinate; }},
+    {element("Longitude"), [](const Vehicle& v, int) { return v.m.road.longitude * coordinate; }},
+    {element("Altitude"), [](const Vehicle& v, int) { return v.m.road.altitude * 10; }},
+    {element("Speed"), [](const Vehicle& v, int) { return v.m.speed; }},
+    {element("Course"), [](const Vehicle& v, int) { return std::fmod(std::round(v.m.road.course), 360); }},
+    {element("Run"), [](const Vehicle& v, int) { return v.mileage(); }},
+    {element("Way"), [](const Vehicle& v, int) { return v.m.segmentKm; }},
+    {element("AllSeconds"), [](const Vehicle& v, int) { return double(v.m.segmentSeconds); }},
+    {element("SecondsLast"), [](const Vehicle& v, int) { return double(v.m.movingSeconds); }},
+
+    {element("Power"), [](const Vehicle& v, int) { return v.supply(); }},
+    {element("Reserv"), [](const Vehicle& v, int) { return v.backupSupply(); }},
+    {element("StateU_Ain1"), [](const Vehicle& v, int i) { return i < 3 ? v.line(i) : 0; }, 8},
+    {element("StateIn1"), [](const Vehicle& v, int i) { return i == 0 ? v.inputs() : 0; }, 2},
+    {element("StateOut1"), [](const Vehicle& v, int i) { return double(v.c.outputs >> (8 * i) & 0xFF); }, 2},
+    {element("StateIn_Imp1"), [](const Vehicle& v, int i) { return i == 0 ? v.m.at.km * 10 : 0; }, 2},
+    {element("Frequency1"), [](const Vehicle& v, int i) { return v.frequency(i); }, 2},
+    {element("Motochas"), [](const Vehicle& v, int) { return std::floor(v.m.at.engineSeconds / hour); }},
+    {element("LevelRS485_1"), [](const Vehicle& v, int i) { return v.fuelSensor(i); }, 6},
+    {element("LevelRS232"), zero},
+    {element("Temp1"), [](const Vehicle& v, int i) { return v.temperature(i); }, 8},
+
+    {element("CAN_FuelLevel"), [](const Vehicle& v, int) { return v.fuelPercent(); }},
+    {element("CAN_FuelConsumption"), [](const Vehicle& v, int) { return v.m.at.fuelUsed; }},
+    {element("CAN_EngineTurns"), [](const Vehicle& v, int) { return v.engineTurns(); }},
+    {element("CAN_Temp"), [](const Vehicle& v, int) { return v.coolant(); }},
+    {element("CAN_FullRun"), [](const Vehicle& v, int) { return 68000 + v.m.at.km; }},
+    {element("CAN_AxleLoad_1"), [](const Vehicle& v, int i) { return v.axleLoad(i); }, 5},
+    {element("CAN_PedalAccel"), [](const Vehicle& v, int) { return v.gasPedal(); }},
+    {element("CAN_PedalStop"), [](const Vehicle& v, int) { return v.brakePedal(); }},
+    {element("CAN_EngineLoad"), [](const Vehicle& v, int) { return v.engineLoad(); }},
+    {element("CAN_LevelFiltr"), [](const Vehicle& v, int) { return v.fuelPercent(); }},
+    {element("CAN_EngineTime"), [](const Vehicle& v, int) { return v.m.at.engineSeconds; }},
+    {element("CAN_TimeTO"), [](const Vehicle& v, int) { return 15000 - std::fmod(v.m.at.km, 15000); }},
+    {element("CAN_Speed"), [](const Vehicle& v, int) { return v.m.speed; }},
+
+    {element("NaviInfoGlonass"), [](const Vehicle& v, int i) { return v.satellites(i); }, 8},
+    {element("NaviHDop"), [](const Vehicle& v, int i) { return v.dilution(i); }, 2},
+    {element("NaviState"), [](const Vehicle& v, int) { return v.navigationState(); }},
+    {element("NaviLatitude"), [](const Vehicle& v, int) { return v.m.road.latitude * fineCoordinate; }},
+    {element("NaviLongitude"), [](const Vehicle& v, int) { return v.m.road.longitude * fineCoordinate; }},
+    {element("NaviAltitude"), [](const Vehicle& v, int) { return v.m.road.altitude * 1000; }},
+    {element("NaviCourse"), [](const Vehicle& v, int) { return v.m.road.course * 100; }},
+    {element("NaviSpeed"), [](const Vehicle& v, int) { return v.m.speed; }},
+
+    {element("LbsCellID"), [](const Vehicle& v, int i) { return v.cell(i); }, 3, 5},
+    {element("LbsLac"), [](const Vehicle& v, int) { return v.areaCode(); }, 3, 5},
+    {element("LbsMcc"), constant<250>, 3, 5},
+    {element("LbsMnc"), constant<1>, 3, 5},
+    {element("LbsLevel"), [](const Vehicle& v, int i) { return v.stationLevel(i); }, 3, 5},
+    {element("LbsTime"), [](const Vehicle& v, int) { return double(v.m.time); }},
+
+    {element("TempRS485_1"), [](const Vehicle& v, int i) { return i < 2 ? v.m.outside + 4 : 0; }, 6},
+    {element("LevelRS485_7"), zero, 10, 2},
+    {element("TempRS485_7"), zero, 10, 2},
+    {element("TiresNum1"), [](const Vehicle&, int i) { return double(i + 1); }, 30, 3},
+    {element("TiresPres1"), [](const Vehicle& v, int i) { return v.tyrePressure(i); }, 30, 3},
+    {element("TiresTemp1"), [](const Vehicle& v, int i) { return v.tyreTemperature(i); }, 30, 3},
+
+    {element("TahoState"), [](const Vehicle& v, int) { return v.tachographState(); }},
+    {element("TahoMode"), constant<1>},
+    {element("TahoFlags"), [](const Vehicle& v, int) { return v.driving() ? 3.0 : 1.0; }},
+    {element("TahoSpeed"), [](const Vehicle& v, int) { return v.m.speed; }},
+    {element("TahoOdometer"), [](const Vehicle& v, int) { return (68000 + v.m.at.km) * 10; }},
+    {element("TahoTime"), [](const Vehicle& v, int) { return double(v.m.time); }},
+    {element("DispCur"), [](const Vehicle& v, int) { return v.driving() ? 2.0 : 1.0; }},
+    {element("DispLastIndex"), constant<41>},
+
+    {element("AccelDelta"), [](const Vehicle& v, int) { return v.m.segmentSeconds * 100.0; }},
+    {element("AccelLinearX"), [](const Vehicle& v, int) { return v.m.acceleration * milliG; }},
+    {element("AccelLinearY"), [](const Vehicle& v, int) { return v.lateral() * 1000; }},
+    {element("AccelLinearZ"), [](const Vehicle& v, int) { return 1000 + v.shock() * 4; }},
+    {element("AccelModule"), [](const Vehicle& v, int) { return v.shock() > 20 ? v.shock() : 0; }},
+    {element("AccelAngularPlus"),
+     [](const Vehicle& v, int) { return std::max(0.0, v.m.acceleration) * milliG; }},
+    {element("AccelAngularMinus"),
+     [](const Vehicle& v, int) { return std::min(0.0, v.m.acceleration) * milliG; }},
+    {element("AccelAngularCorner"), [](const Vehicle& v, int) { return v.lateral() * 1000; }},
+    {element("Passager_1"), none8, 16},
+    {element("AinfState"), zero},
+    {element("AinfGeozoneID"), zero, 3},
+    {element("CameraState"), zero},
+
+    {element("State2"), zero},
+    {element("Module3"), constant<1>},
+    {element("StateCnct"), [](const Vehicle& v, int) { return v.connection(); }},
+    {element("StateIn3"), zero},
+    {element("StateIn_Imp3"), zero, 6},
+    {element("Frequency3"), zero, 6},
+    {element("VAccelState"), [](const Vehicle& v, int) { return v.shockState(); }},
+    {element("VAccelVertical"), [](const Vehicle& v, int) { return v.tilt() * 4; }},
+    {element("VAccelLineTang"), [](const Vehicle& v, int) { return v.tilt() / 2; }},
+    {element("VAccelLineRoll"), [](const Vehicle& v, int) { return v.lateral() * 20; }},
+    {element("VAccelAxelsX"), zero, 3},
+    {element("EcoDrvAccelMax"), [](const Vehicle& v, int) { return 1000 + v.shock() * 6; }},
+    {element("EcoDrvSpeedMax"), [](const Vehicle& v, int) { return v.m.speed; }},
+    {element("EcoDrvSpeedState"), [](const Vehicle& v, int) { return v.speedThresholds(); }},
+    {element("EcoDrvAccel1"),
+     [](const Vehicle& v,
+        int) { return v.thresholds(v.m.acceleration / gravity) + 16 * v.thresholds(-v.m.acceleration / gravity); }},
+    {element("EcoDrvAccel2"),
+     [](const Vehicle& v, int) { return v.thresholds(-v.lateral()) + 16 * v.thresholds(v.lateral()); }},
+    {element("EcoDrvAccel3"), [](const Vehicle& v, int) { return v.thresholds(v.shock() / 200); }},
+    {element("RS485Freq1"), [](const Vehicle& v, int i) { return i < 2 ? 800 + v.fuelSensor(i) / 4 : 0; },
+     16},
+    {element("HPrecisionTemp1"), [](const Vehicle& v, int i) { return v.fineTemperature(i); }, 4},
+    {element("HPrecisionHumidity1"), [](const Vehicle& v, int i) { return v.humidity(i); }, 4},
+
+    {element("FfsState"), [](const Vehicle& v, int) { return v.running() ? flowRuns : flowStands; }},
+    {element("FfsError"), zero},
+    {element("FfsFuel"), [](const Vehicle& v, int) { return v.m.at.fuelUsed * 100; }},
+    {element("FfsFuelTrip"), [](const Vehicle& v, int) { return std::fmod(v.m.at.fuelUsed, 1000) * 100; }},
+    {element("FfsSpeed"), [](const Vehicle& v, int) { return v.flow(); }},
+    {element("FfsSubmisVolume"), [](const Vehicle& v, int) { return v.m.at.fuelUsed * 260; }},
+    {element("FfsSubmisSpeed"), [](const Vehicle& v, int) { return v.flow() * 2.6; }},
+    {element("FfsSubmisTemp"), [](const Vehicle& v, int) { return v.m.outside * 10 + 60; }},
+    {element("FfsReversVolume"), [](const Vehicle& v, int) { return v.m.at.fuelUsed * 160; }},
+    {element("FfsReversSpeed"), [](const Vehicle& v, int) { return v.flow() * 1.6; }},
+    {element("FfsReversTemp"), [](const Vehicle& v, int) { return v.coolant() * 6; }},
+
+    {element("RefrState1"), [](const Vehicle& v, int) { return v.refrigeratorRuns(); }},
+    {element("RefrState2"), [](const Vehicle& v, int) { return v.refrigeratorRuns() + 1; }},
+    {element("RefrTemp1"), [](const Vehicle& v, int i) { return v.refrigeratorTemperature(i); }, 3},
+    {element("RefrSetTemp1"), constant<300>, 3},
+    {element("RefrTempAir"), [](const Vehicle& v, int) { return v.m.outside * 100; }},
+    {element("RefrTempWater"), [](const Vehicle& v, int) { return v.coolant() * 80; }},
+    {element("RefrTension"), [](const Vehicle& v, int) { return v.supply(); }},
+    {element("RefrIntensity"), [](const Vehicle& v, int) { return v.refrigeratorRuns() * 18; }},
+    {element("RefrPowerEngine"), [](const Vehicle& v, int) { return v.m.at.loadSeconds / 36; }},
+    {element("RefrPowerNetwork"), zero},
+    {element("RefrErrorCount"), zero, 7},
+    {element("RefrEngineMode"), [](const Vehicle& v, int) { return v.refrigeratorRuns(); }},
+    {element("RefrEngineTurns"), [](const Vehicle& v, int) { return v.refrigeratorRuns() * 1450; }},
+    {element("RefrCompressor"), [](const Vehicle& v, int) { return v.refrigeratorRuns() + 1; }},
+
+    {element("GeozoneInfo"),
+     [](const Vehicle& v, int) { return v.m.activity == Activity::Parked ? 1.0 : 0.0; }},
+    {element("CAN3State"), [](const Vehicle& v, int) { return v.running() ? 3.0 : 0.0; }},
+    {element("CAN3Event"), zero},
+    {element("CAN3Crash"), zero},
+    {element("CAN3FailureLamp"), zero, 2},
+    {element("MotochasLoadOn"), [](const Vehicle& v, int) { return std::floor(v.m.at.loadSeconds / hour); }},
+    {element("MotochasLoadOff"),
+     [](const Vehicle& v, int) { return std::floor((v.m.at.engineSeconds - v.m.at.loadSeconds) / hour); }},
+    {element("User1Byte_1"), [](const Vehicle& v, int i) { return v.drift(200 + i, 0, 255, 600); }, 16},
+    {element("User2Byte_1"), [](const Vehicle& v, int i) { return v.drift(220 + i, 0, 65535, 600); }, 15},
+    {element("User4Byte_1"), [](const Vehicle& v, int i) { return v.drift(240 + i, 0, 1e6, 600); }, 15},
+    {element("User8Byte_1"), [](const Vehicle& v, int i) { return v.drift(260 + i, 0, 1e12, 600); }, 3},
+};
+
+constexpr bool everyElementHasOneRow()
+{
+    std::array<int, vlk::kElementCount> uses{};
+    for (const Row& row : rows)
+        for (int i = 0; i < row.count; ++i)
+            ++uses[row.first + i * row.stride];
+    return std::all_of(uses.begin(), uses.end(), [](int count) { return count == 1; });
+}
+static_assert(everyElementHasOneRow());
+
+template <typename Integer>
+std::uint64_t limited(double value)
+{
+    using Limits = std::numeric_limits<Integer>;
+    const double whole = std::round(value);
+    // Beyond 2^53 the limits of 64 bits are not exact in a double; no value comes near them.
+    if (whole <= static_cast<double>(Limits::min()))
+        return static_cast<std::uint64_t>(Limits::min());
+    if (whole >= static_cast<double>(Limits::max()))
+        return static_cast<std::uint64_t>(Limits::max());
+    return static_cast<std::uint64_t>(static_cast<Integer>(whole));
+}
+
+std::uint64_t bitsOf(vlk::ValueType type, double value)
+{
+    using enum vlk::ValueType;
+    switch (type) {
+    case u8:
+        return limited<std::uint8_t>(value);
+    case u16:
+        return limited<std::uint16_t>(value);
+    case u32:
+        return limited<std::uint32_t>(value);
+    case u64:
+        return limited<std::uint64_t>(value);
+    case i8:
+        return limited<std::int8_t>(value);
+    case i16:
+        return limited<std::int16_t>(value);
+    case i32:
+        return limited<std::int32_t>(value);
+    case i64:
+        return limited<std::int64_t>(value);
+    case f32:
+        return std::bit_cast<std::uint32_t>(static_cast<float>(value));
+    }
+    return 0;
+}
+
+} // namespace
+
+ValueBlock valueBlock(const Vehicle& vehicle)
+{
+    ValueBlock block{};
+    for (const Row& row : rows) {
+        for (int i = 0; i < row.count; ++i) {
+            const vlk::Element& element = vlk::kElements[row.first + i * row.stride];
+            std::uint64_t bits = bitsOf(element.type, row.value(vehicle, i));
+            for (int byte = 0; byte < element.width; ++byte, bits >>= 8)
+                block[element.offset + byte] = static_cast<std::uint8_t>(bits);
+        }
+    }
+    return block;
+}
+
+} // namespace tracker

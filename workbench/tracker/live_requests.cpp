@@ -1,0 +1,118 @@
+#include "tracker/live_requests.h"
+
+#include "tracker/bytes.h"
+#include "tracker/driver.h"
+
+#include <cmath>
+
+namespace tracker {
+
+namespace {
+
+using vlk::Message;
+
+constexpr int firstLine = 21; // id of IN1 in the line list
+constexpr int lineCount = 3;
+
+vlk::IdPair idPair(quint64 number)
+{
+    return {static_cast<std::uint32_t>(number), static_cast<std::uint32_t>(number >> 32)};
+}
+
+// Shocks and movement go as squares, 1800 units being the whole.
+std::uint32_t accelWord(double percent)
+{
+    const double units = percent * 1800 / 100;
+    return static_cast<std::uint32_t>(std::lround(units * units));
+}
+
+void putWord(QByteArray& record, int offset, double value)
+{
+    const auto little = qToLittleEndian(static_cast<quint16>(qBound(0.0, std::round(value), 65535.0)));
+    record.replace(offset, sizeof little, reinterpret_cast<const char*>(&little), sizeof little);
+}
+
+} // namespace
+
+LiveRequests::LiveRequests(TrackerMemory& memory, std::function<Vehicle()> present)
+    : memory_(memory), present_(std::move(present))
+{
+}
+
+void LiveRequests::addTo(Handlers& handlers)
+{
+    handlers[Message::RequestLines] = [this](void* p1) { return lines(static_cast<const QByteArray*>(p1)); };
+    handlers[Message::RequestAnalog] = [this](void*) { return analog(); };
+    handlers[Message::RequestSupply] = [this](void*) -> Answers {
+        vlk::SupplyRecord record{};
+        record.values[vlk::supplyElement] = static_cast<std::int16_t>(std::lround(present_().supply()));
+        return {Answer::record(record)};
+    };
+    handlers[Message::RequestAccel] = [this](void*) -> Answers {
+        constexpr double degree = 3.14159265358979323846 / 180;
+        const Vehicle vehicle = present_();
+        return {Answer::record(vlk::AccelValues{accelWord(vehicle.movement()), vehicle.tilt() * degree,
+                                                accelWord(vehicle.shock())})};
+    };
+    handlers[Message::RequestAccelCommand] = [](void*) -> Answers {
+        constexpr char done = 49;
+        QByteArray record(vlk::accelResultSize, '\0');
+        record[vlk::accelStatusByte] = done;
+        return {{Answer::Form::Record, record, {}}};
+    };
+    handlers[Message::WaitStepEnd] = [](void*) -> Answers { return {Answer{}}; };
+    handlers[Message::RequestLiveKey] = [this](void*) -> Answers {
+        return {Answer::record(idPair(driverOf(present_().m).key))};
+    };
+    handlers[Message::RequestRfid] = [this](void*) -> Answers {
+        const Vehicle vehicle = present_();
+        Answer answer = Answer::record(idPair(tagNumber(vehicle.m)));
+        const double level = vehicle.drift(300, -95, -55, 10); // dBm
+        answer.second = QByteArray(1, static_cast<char>(std::lround(level)));
+        return {answer};
+    };
+    handlers[Message::SetCanLogProgram] = [this](void* p1) -> Answers {
+        if (p1)
+            memory_.setCanLogProgram(*static_cast<const std::int32_t*>(p1));
+        return {};
+    };
+    handlers[Message::RequestCanLogProgram] = [this](void*) -> Answers {
+        return {Answer::record(std::int32_t{memory_.canLogProgram()})};
+    };
+}
+
+// Seven bytes of header, then "21:HEX,22:HEX"; lines that the tracker lacks are left out.
+Answers LiveRequests::lines(const QByteArray* list) const
+{
+    if (!list)
+        return {};
+    const Vehicle vehicle = present_();
+    QByteArray pairs;
+    for (const QByteArray& id : list->split(',')) {
+        const int line = id.trimmed().toInt() - firstLine;
+        if (line < 0 || line >= lineCount)
+            continue;
+        if (!pairs.isEmpty())
+            pairs += ',';
+        pairs += id.trimmed() + ':' + QByteArray::number(qRound(vehicle.line(line)), 16).toUpper();
+    }
+    return {Answer::bytes("LINES: " + pairs)};
+}
+
+Answers LiveRequests::analog() const
+{
+    constexpr int frequencies = 11;
+    constexpr int fuelSensors = 25; // D1, three bytes each
+    constexpr int fuelSensorCount = 6;
+    const Vehicle vehicle = present_();
+    QByteArray record(vlk::analogRecordSize, '\0');
+    for (int i = 0; i < 2; ++i)
+        putWord(record, frequencies + 2 * i, vehicle.frequency(i));
+    for (int i = 0; i < lineCount; ++i)
+        putWord(record, vlk::analogRecordLine1 + 2 * i, vehicle.line(i));
+    for (int i = 0; i < fuelSensorCount; ++i)
+        putWord(record, fuelSensors + 3 * i, vehicle.fuelSensor(i));
+    return {{Answer::Form::Record, record, {}}};
+}
+
+} // namespace tracker

@@ -1,0 +1,51 @@
+#pragma once
+
+// Everything that holds for the vehicle at one second: what a record of that second is made from.
+
+#include "tracker/day_plan.h"
+#include "tracker/road.h"
+
+namespace tracker {
+
+// A record holds fields by a mask; the other two are packets with a key or a tag in them.
+enum class RecordKind { Telemetry, Key, Tag };
+
+struct Moment
+{
+    qint64 time = 0; // Unix seconds
+    quint32 number = 0;
+    quint16 code = 0;
+    RecordKind kind = RecordKind::Telemetry;
+
+    Activity activity = Activity::Parked;
+    qint64 since = 0;        // when that began
+    int trip = 0;            // of the day
+    double speed = 0;        // km/h
+    double acceleration = 0; // m/s2
+    int speedLimit = 0;      // km/h
+    RoadPoint road{};        // the last point with a fix
+    bool fix = true;
+    qint64 fixTime = 0;
+    int satellites = 0;
+    Odometers at;
+    double outside = 0; // degrees Celsius
+
+    // Against the record before.
+    double segmentKm = 0;
+    int segmentSeconds = 0;
+    int movingSeconds = 0;
+
+    quint64 seed = 0; // for what varies at random around these values
+
+    bool ignition() const { return activity == Activity::Idling || activity == Activity::Driving; }
+};
+
+// What a user has set; it holds from the second on in which it was set.
+struct Controls
+{
+    bool guard = false;
+    quint16 outputs = 0;     // bit n is output n + 1
+    double mileageShift = 0; // km, what a set mileage differs from the driven
+};
+
+} // namespace tracker

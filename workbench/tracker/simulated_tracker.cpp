@@ -1,0 +1,232 @@
+#include "tracker/simulated_tracker.h"
+
+#include "tracker/answer_line.h"
+#include "tracker/bluetooth_search.h"
+#include "tracker/configuration_store.h"
+#include "tracker/live_requests.h"
+#include "tracker/record_requests.h"
+#include "tracker/tachograph.h"
+
+#include <QDir>
+
+#include <algorithm>
+
+namespace tracker {
+
+namespace {
+
+using vlk::Message;
+
+constexpr quint64 bluetoothCapability = 0x800;
+
+// The number that answers a request by the table of messages.
+Message answerTo(Message request)
+{
+    const auto found =
+        std::find_if(std::begin(vlk::messages), std::end(vlk::messages),
+                     [request](const vlk::MessageInfo& info) { return info.number == request; });
+    return found == std::end(vlk::messages) ? Message{} : static_cast<Message>(found->answer);
+}
+
+} // namespace
+
+struct SimulatedTracker::Parts
+{
+    Parts(const QString& folder, Clock clockOrNone)
+        : clock(clockOrNone ? std::move(clockOrNone) : Clock(&QDateTime::currentDateTimeUtc)), store(folder),
+          memory(folder, now()), archive(memory), records(archive, memory, [this] { return present(); }),
+          live(memory, [this] { return vehicle(); }), tachograph([this] { return vehicle(); })
+    {
+        records.addTo(handlers);
+        live.addTo(handlers);
+        tachograph.addTo(handlers);
+        handlers[Message::StartBtSearch] = [this](void*) {
+            return searchBluetooth(store.values().number(QStringLiteral("BLUETOOTH/GLOBAL/use"), 1) != 0);
+        };
+        handlers[Message::CancelBtSearch] = [this](void*) {
+            line.dropSearch();
+            return stopBluetoothSearch();
+        };
+    }
+
+    qint64 now() const { return clock().toSecsSinceEpoch(); }
+
+    Vehicle vehicle() { return {archive.moment(now()), memory.controlsAt(now())}; }
+
+    DataSet dataSet() const
+    {
+        const ConfigurationValues& values = store.values();
+        const QString format = values.text(QStringLiteral("PROTOCOL/ZETA/format"), QStringLiteral("10"));
+        DataSet result;
+        if (protocol != Protocol::AsConfigured)
+            result.version = static_cast<int>(protocol);
+        else if (format == QLatin1String("10") || format == QLatin1String("20"))
+            result.version = format.toInt();
+        const std::string mask = values.text(QStringLiteral("PROTOCOL/ZETA/mask")).toStdString();
+        if (full)
+            result.mask = vlk::FieldMask::fromText(std::string(vlk::kFieldCount, '1'));
+        else
+            result.mask = vlk::FieldMask::fromText(mask.empty() ? vlk::kDefaultMaskText : mask);
+        return result;
+    }
+
+    RecordRequests::Present present() const { return {now(), dataSet()}; }
+
+    WriteReport write(const QString& path)
+    {
+        WriteReport refused;
+        refused.file = path;
+        if (!line.plugged() || line.faults().unplug)
+            refused.reasonKey = QStringLiteral("wb_refused_detached");
+        else if (line.faults().silence)
+            refused.reasonKey = QStringLiteral("wb_refused_silence");
+        else
+            return store.write(path);
+        return refused;
+    }
+
+    Clock clock;
+    ConfigurationStore store;
+    TrackerMemory memory;
+    RecordArchive archive;
+    RecordRequests records;
+    LiveRequests live;
+    Tachograph tachograph;
+    Handlers handlers;
+    AnswerLine line;
+    Protocol protocol = Protocol::AsConfigured;
+    bool full = false;
+};
+
+SimulatedTracker::SimulatedTracker(const QString& storeFolder, QObject* parent, Clock clock)
+    : QObject(parent), parts_(std::make_unique<Parts>(storeFolder, std::move(clock)))
+{
+    qRegisterMetaType<tracker::WriteReport>();
+    connect(&parts_->line, &AnswerLine::pulled, this, &SimulatedTracker::detach);
+}
+
+SimulatedTracker::~SimulatedTracker() = default;
+
+void SimulatedTracker::setSender(Sender sender)
+{
+    parts_->line.setSender(std::move(sender));
+}
+
+bool SimulatedTracker::handle(vlk::Message id, void* p1, void* p2)
+{
+    if (id == Message::RequestEventText) {
+        if (p2)
+            *static_cast<QString*>(p2) = eventText(static_cast<quint16>(plainValue(p1)));
+        return true;
+    }
+    if (id == Message::WriteConfiguration) {
+        if (p1)
+            writeConfiguration(*static_cast<const QString*>(p1));
+        return true;
+    }
+    const auto handler = parts_->handlers.find(id);
+    if (handler == parts_->handlers.end())
+        return false;
+    if (!attached())
+        return true;
+    for (Answer& answer : handler->second(p1)) {
+        if (answer.message == Message{})
+            answer.message = answerTo(id);
+        parts_->line.post(answer);
+    }
+    return true;
+}
+
+QString SimulatedTracker::model() const
+{
+    return QStringLiteral("R-7106");
+}
+
+QString SimulatedTracker::text1() const
+{
+    return QStringLiteral("R-7106 v3.3.0");
+}
+
+QString SimulatedTracker::text2() const
+{
+    return QStringLiteral("860000000071060");
+}
+
+quint64 SimulatedTracker::capabilityMask() const
+{
+    return bluetoothCapability;
+}
+
+bool SimulatedTracker::attached() const
+{
+    return parts_->line.plugged();
+}
+
+void SimulatedTracker::attach()
+{
+    if (attached())
+        return;
+    parts_->line.plug();
+    Q_EMIT attachedChanged(true);
+}
+
+void SimulatedTracker::detach()
+{
+    if (!attached())
+        return;
+    parts_->line.unplug();
+    Q_EMIT attachedChanged(false);
+}
+
+QString SimulatedTracker::readConfiguration(const QString& folder)
+{
+    AnswerLine& line = parts_->line;
+    if (!attached())
+        return {};
+    if (line.takeUnplug()) {
+        detach();
+        return {};
+    }
+    if (line.faults().silence || !QDir().mkpath(folder))
+        return {};
+    const QString path = QDir(folder).filePath(QStringLiteral("tracker.xml"));
+    return saveWhole(path, line.distorted(parts_->store.document())) ? path : QString();
+}
+
+WriteReport SimulatedTracker::writeConfiguration(const QString& path)
+{
+    const WriteReport report = parts_->write(path);
+    if (report.accepted && !report.sameAsBefore())
+        parts_->memory.change(parts_->now(), EventCode::ConfigurationChanged);
+    if (parts_->line.takeUnplug())
+        detach();
+    Q_EMIT configurationWritten(report);
+    return report;
+}
+
+Faults& SimulatedTracker::faults()
+{
+    return parts_->line.faults();
+}
+
+Protocol SimulatedTracker::protocol() const
+{
+    return parts_->protocol;
+}
+
+void SimulatedTracker::setProtocol(Protocol protocol)
+{
+    parts_->protocol = protocol;
+}
+
+bool SimulatedTracker::fullDataSet() const
+{
+    return parts_->full;
+}
+
+void SimulatedTracker::setFullDataSet(bool full)
+{
+    parts_->full = full;
+}
+
+} // namespace tracker

@@ -1,0 +1,79 @@
+#pragma once
+
+// The simulated tracker: one R-7106 behind the workbench. It keeps its configuration in a folder, drives an
+// endless tour whose records follow that configuration, and answers the plug-in's requests as a device
+// would: later, from the event loop, and only while it is attached.
+//
+// Everything runs on the thread of the application. Nothing is asked of a sender that is not set.
+
+#include "plugin/host/host_interface.h"
+#include "tracker/faults.h"
+#include "tracker/write_report.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+
+namespace tracker {
+
+// The version of its records: what the configuration asks for, or one whatever it asks.
+enum class Protocol { AsConfigured = 0, Protocol1 = 10, Protocol2 = 20, Protocol3 = 30 };
+
+class SimulatedTracker : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Where the tracker's time comes from; the system's clock unless given.
+    using Clock = std::function<QDateTime()>;
+    // Carries an answer to the plug-in; the parameters are valid during the call only.
+    using Sender = std::function<void(vlk::Message id, void* p1, void* p2)>;
+
+    // The folder is made when it does not exist; what the tracker keeps survives in it.
+    explicit SimulatedTracker(const QString& storeFolder, QObject* parent = nullptr, Clock clock = {});
+    ~SimulatedTracker() override;
+
+    void setSender(Sender sender);
+
+    // Takes a request of the plug-in; true when it was one for the tracker. RequestEventText fills its text
+    // at once, everything else is answered from the event loop. While detached, requests are dropped.
+    bool handle(vlk::Message id, void* p1, void* p2);
+
+    // For TrackerAttached.
+    QString model() const;
+    QString text1() const; // firmware
+    QString text2() const; // IMEI
+    quint64 capabilityMask() const;
+
+    // Detaching drops the answers that are under way.
+    bool attached() const;
+    void attach();
+    void detach();
+
+    // Puts the tracker's configuration into a file of this folder and gives its path; empty when detached, on
+    // silence, and where nothing can be written. Faults that spoil answers spoil the file.
+    QString readConfiguration(const QString& folder);
+    // Takes a written file: checks it, keeps what was there as a backup, and applies it. Silence, a missing
+    // and a pulled cable refuse it.
+    WriteReport writeConfiguration(const QString& path);
+
+    // What the window switches, at will between requests.
+    Faults& faults();
+    Protocol protocol() const;
+    void setProtocol(Protocol protocol);
+    // Every field in every record, whatever mask the configuration has.
+    bool fullDataSet() const;
+    void setFullDataSet(bool full);
+
+Q_SIGNALS:
+    void attachedChanged(bool attached);
+    // After every writeConfiguration, refused ones too.
+    void configurationWritten(const tracker::WriteReport& report);
+
+private:
+    struct Parts;
+    std::unique_ptr<Parts> parts_;
+};
+
+} // namespace tracker

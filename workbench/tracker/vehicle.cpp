@@ -1,0 +1,301 @@
+#include "tracker/vehicle.h"
+
+#include "tracker/random.h"
+
+#include <algorithm>
+
+namespace tracker {
+
+namespace {
+
+constexpr double noI8 = -128;
+constexpr double noI16 = -32768;
+constexpr double noU8 = 255;
+constexpr double noU16 = 0xFFFF;
+
+constexpr double halfHour = 1800;
+constexpr int wheels = 10;
+
+constexpr double bit(int n, bool on)
+{
+    return on ? 1 << n : 0;
+}
+
+} // namespace
+
+double Vehicle::drift(int what, double low, double high, double seconds) const
+{
+    return low + (high - low) * wave(mix(m.seed, 1000 + what), static_cast<double>(m.time) / seconds);
+}
+
+double Vehicle::parkedSeconds() const
+{
+    return running() ? 0 : static_cast<double>(m.time - m.since);
+}
+
+// Device and connection
+
+double Vehicle::state() const
+{
+    return bit(3, c.guard) + bit(6, parkedSeconds() > halfHour);
+}
+
+double Vehicle::module1() const
+{
+    return bit(0, true) + bit(5, true) + bit(6, true) + bit(7, running());
+}
+
+double Vehicle::module2() const
+{
+    return bit(3, m.speed <= 0) + bit(5, true);
+}
+
+double Vehicle::connection() const
+{
+    constexpr int gprs = 2;
+    constexpr int lte = 4;
+    return (drift(1, 0, 1, halfHour) < 0.25 ? gprs : lte) + bit(3, true) + bit(6, true) + bit(7, true);
+}
+
+double Vehicle::gsmLevel() const
+{
+    return drift(2, 11, 31, 240);
+}
+
+// Navigation
+
+double Vehicle::navigationState() const
+{
+    return bit(0, true) + bit(1, m.fix) + m.satellites * 4;
+}
+
+double Vehicle::satellites(int system) const
+{
+    const int glonass = m.satellites * 2 / 5;
+    return system == 0 ? glonass : system == 1 ? m.satellites - glonass : 0;
+}
+
+double Vehicle::dilution(int kind) const
+{
+    return (kind == 0 ? 0.6 : 1.0) * (24 - m.satellites);
+}
+
+// Cells are some two kilometres wide, and three stations are in sight.
+double Vehicle::cell(int station) const
+{
+    const auto row = static_cast<std::uint64_t>(m.road.latitude * 50);
+    const auto column = static_cast<std::uint64_t>(m.road.longitude * 28);
+    return static_cast<double>(mix(row * 1000 + column, static_cast<std::uint64_t>(station)) % 200000000);
+}
+
+double Vehicle::areaCode() const
+{
+    return 7600 + std::floor((m.road.latitude - 57.5) * 20);
+}
+
+double Vehicle::stationLevel(int station) const
+{
+    return drift(10 + station, -90, -58, 90) - station * 9;
+}
+
+// Supply and lines
+
+double Vehicle::supply() const
+{
+    return running() ? drift(20, 13650, 13950, 20) : drift(21, 12250, 12550, 7200);
+}
+
+double Vehicle::backupSupply() const
+{
+    return drift(22, 4150, 4250, 3600);
+}
+
+double Vehicle::line(int index) const
+{
+    switch (index) {
+    case 0:
+        return running() ? supply() - 120 : drift(23, 0, 60, 5);
+    case 1:
+        return inputs() >= 2 ? drift(24, 0, 80, 5) : supply() - 300;
+    default:
+        return drift(25, 4850, 5150, 40);
+    }
+}
+
+double Vehicle::inputs() const
+{
+    const double parked = parkedSeconds();
+    return bit(0, running()) + bit(1, parked > 60 && parked < 600);
+}
+
+double Vehicle::frequency(int index) const
+{
+    return index < 2 && running() ? drift(26 + index, 180, 240, 60) : 0;
+}
+
+// Fuel: the second tank empties first.
+
+double Vehicle::fuelSensor(int sensor) const
+{
+    constexpr double full = 4095;
+    constexpr double tank = tankLitres / 2;
+    if (sensor > 1)
+        return 0;
+    const double litres = sensor == 0 ? std::min(m.at.fuel, tank) : std::max(0.0, m.at.fuel - tank);
+    const double swing = driving() ? drift(30 + sensor, -25, 25, 4) : 0;
+    return std::clamp(full * litres / tank + swing, 0.0, full);
+}
+
+double Vehicle::fuelPercent() const
+{
+    constexpr double percentFlag = 0x8000;
+    return percentFlag + std::round(m.at.fuel / tankLitres * 100);
+}
+
+double Vehicle::flow() const
+{
+    return running() ? (driving() ? 60 + m.speed * 2.4 : 22) * drift(33, 0.9, 1.1, 20) : 0;
+}
+
+// Temperatures: the cooled body front and back, the cabin, the outside.
+
+double Vehicle::temperature(int sensor) const
+{
+    switch (sensor) {
+    case 0:
+        return drift(40, 1, 6, 1200);
+    case 1:
+        return drift(41, 2, 7, 1500);
+    case 2:
+        return running() ? drift(42, 19, 24, 900) : m.outside + 2;
+    case 3:
+        return m.outside;
+    default:
+        return noI8;
+    }
+}
+
+double Vehicle::fineTemperature(int sensor) const
+{
+    constexpr double unitsToADegree = 20;
+    return sensor < 2 ? drift(44 + sensor, 1.5, 6, 900) * unitsToADegree : noI16;
+}
+
+double Vehicle::humidity(int sensor) const
+{
+    return sensor < 2 ? drift(46 + sensor, 110, 170, 1200) : noU8;
+}
+
+double Vehicle::coolant() const
+{
+    return running() ? drift(48, 82, 92, 300) : std::max(m.outside, 85 - parkedSeconds() / 60);
+}
+
+// Engine, axles, tyres
+
+double Vehicle::engineTurns() const
+{
+    if (!running())
+        return 0;
+    return driving() ? 900 + m.speed * 11 + drift(50, 0, 220, 5) : drift(51, 640, 665, 4);
+}
+
+double Vehicle::engineLoad() const
+{
+    return !running() ? 0 : driving() ? drift(52, 25, 75, 8) + m.acceleration * 15 : 12;
+}
+
+double Vehicle::gasPedal() const
+{
+    return driving() ? std::max(0.0, m.acceleration * 60 + drift(53, 10, 25, 6)) : 0;
+}
+
+double Vehicle::brakePedal() const
+{
+    return std::max(0.0, -m.acceleration * 45);
+}
+
+// The load goes down trip by trip.
+double Vehicle::axleLoad(int axle) const
+{
+    constexpr double empty[] = {4900, 6100};
+    constexpr double perTrip[] = {60, 430};
+    return axle < 2 ? empty[axle] + std::max(0, 10 - m.trip) * perTrip[axle] : noU16;
+}
+
+double Vehicle::tyrePressure(int wheel) const
+{
+    return wheel < wheels ? drift(60 + wheel, 82, 86, 3600) : 0;
+}
+
+double Vehicle::tyreTemperature(int wheel) const
+{
+    constexpr double noTemperature = -127;
+    return wheel < wheels ? m.outside + (driving() ? 22 : 8) + drift(80 + wheel, 0, 3, 900) : noTemperature;
+}
+
+// Acceleration
+
+double Vehicle::lateral() const
+{
+    return driving() ? drift(100, -0.16, 0.16, 6) * m.speed / 60 : 0;
+}
+
+double Vehicle::shock() const
+{
+    return driving() ? drift(101, 2, 28, 3) : drift(102, 0.1, 0.9, 3);
+}
+
+double Vehicle::movement() const
+{
+    return driving() ? drift(103, 2.5, 8, 5) : drift(104, 0, 0.6, 5);
+}
+
+double Vehicle::tilt() const
+{
+    return driving() ? drift(105, 0, 4, 15) : drift(106, 0, 0.4, 600);
+}
+
+double Vehicle::shockState() const
+{
+    return bit(2, driving());
+}
+
+double Vehicle::speedThresholds() const
+{
+    double bits = 0;
+    for (int i = 0; i < 6; ++i)
+        bits += bit(i, m.speed > 50 + i * 10);
+    return bits;
+}
+
+double Vehicle::thresholds(double g) const
+{
+    double bits = 0;
+    for (int i = 0; i < 4; ++i)
+        bits += bit(i, g > 0.05 * (i + 1));
+    return bits;
+}
+
+// Tachograph and refrigerator
+
+double Vehicle::tachographState() const
+{
+    constexpr int rest = 0;
+    constexpr int work = 2;
+    constexpr int drive = 3;
+    constexpr int cardOfDriver1 = 4;
+    return (driving() ? drive : running() ? work : rest) + cardOfDriver1;
+}
+
+double Vehicle::refrigeratorRuns() const
+{
+    return bit(0, m.trip > 0);
+}
+
+double Vehicle::refrigeratorTemperature(int zone) const
+{
+    return zone == 0 ? drift(110, 180, 520, 900) : zone == 1 ? drift(111, 200, 560, 1100) : 0;
+}
+
+} // namespace tracker

@@ -1,0 +1,77 @@
+#pragma once
+
+// What the vehicle's sensors and buses say at a moment, in the units of the telemetry fields. Records and
+// live answers read the same values. Sensors that the vehicle lacks give the value that says so.
+
+#include "tracker/moment.h"
+
+namespace tracker {
+
+class Vehicle
+{
+public:
+    Vehicle(const Moment& moment, const Controls& controls) : m(moment), c(controls) {}
+
+    const Moment m;
+    const Controls c;
+
+    bool driving() const { return m.activity == Activity::Driving; }
+    bool running() const { return m.ignition(); }
+
+    double state() const;
+    double module1() const;
+    double module2() const;
+    double connection() const;
+    double gsmLevel() const;
+
+    double navigationState() const;
+    double mileage() const { return m.at.km + c.mileageShift; } // km
+    double satellites(int system) const;                        // in the order of the satellite fields
+    double dilution(int kind) const;                            // 0.1, horizontal and of position
+    double cell(int station) const;
+    double areaCode() const;
+    double stationLevel(int station) const; // dBm
+
+    double supply() const; // mV
+    double backupSupply() const;
+    double line(int index) const; // IN1 to IN3, mV
+    double inputs() const;
+    double frequency(int index) const;
+
+    double fuelSensor(int sensor) const; // 0 to 4095
+    double fuelPercent() const;          // with the flag that says percent
+    double flow() const;                 // 0.1 litre an hour
+
+    double temperature(int sensor) const;     // degrees
+    double fineTemperature(int sensor) const; // 0.05 degree
+    double humidity(int sensor) const;        // 0.5 percent
+    double coolant() const;                   // degrees
+
+    double engineTurns() const;
+    double engineLoad() const; // percent
+    double gasPedal() const;   // percent
+    double brakePedal() const;
+    double axleLoad(int axle) const;      // kg
+    double tyrePressure(int wheel) const; // 0.1 bar
+    double tyreTemperature(int wheel) const;
+
+    double lateral() const;  // g
+    double shock() const;    // percent of the sensors SH1 and SH2
+    double movement() const; // percent of SH3
+    double tilt() const;     // degrees, SH4
+    double shockState() const;
+    double speedThresholds() const; // a bit for each exceeded
+    double thresholds(double g) const;
+
+    double tachographState() const;
+    double refrigeratorRuns() const;
+    double refrigeratorTemperature(int zone) const; // 0.01 degree
+
+    // Between two bounds, changing smoothly within so many seconds; `what` tells curves apart.
+    double drift(int what, double low, double high, double seconds) const;
+
+private:
+    double parkedSeconds() const;
+};
+
+} // namespace tracker

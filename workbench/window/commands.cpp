@@ -1,0 +1,63 @@
+#include "window/commands.h"
+
+#include "window/languages.h"
+#include "window/line_icon.h"
+
+#include <QWidget>
+
+namespace {
+
+struct CommandRow
+{
+    Command command;
+    const char* name;
+    const char* icon;
+    const char* key;
+    const char* shortKey;
+    const char* shortcut;
+};
+
+constexpr CommandRow rows[] = {
+    {Command::ReadTracker, "action_Read", "read", "wb_read", "wb_read_short", "Ctrl+R"},
+    {Command::OpenFile, "action_Open", "open", "wb_open", "wb_open_short", "Ctrl+O"},
+    {Command::NewConfiguration, "action_New", "new", "wb_new", "wb_new_short", "Ctrl+N"},
+    {Command::LiveTelemetry, "action_Telemetry", "telemetry", "wb_telemetry", "wb_telemetry_short", "Ctrl+T"},
+    {Command::BrowseFile, "action_Browse", "browse", "wb_browse", "wb_browse_short", "Ctrl+B"},
+    {Command::TableFile, "action_Table", "table", "wb_table", "wb_table_short", "Ctrl+L"},
+    {Command::Cable, "action_Cable", "attach", "wb_cable", "wb_cable_short", "Ctrl+K"},
+    {Command::DataFolders, "action_Folders", "folders", "wb_folders_menu", "wb_folders", ""},
+    {Command::BalanceCode, "action_Balance", "balance", "wb_balance", "wb_balance", ""},
+    {Command::Help, "action_Help", "help", "wb_help_menu", "wb_help", "F1"},
+    {Command::About, "action_About", "about", "wb_about", "wb_about", ""},
+    {Command::Quit, "action_Quit", "quit", "wb_quit", "wb_quit", "Ctrl+Q"},
+};
+static_assert(std::size(rows) == std::size_t(Command::Count));
+
+} // namespace
+
+Commands::Commands(QWidget* parent)
+{
+    for (const CommandRow& row : rows) {
+        auto* action = new QAction(vlk::lineIcon(QLatin1String(row.icon)), {}, parent);
+        action->setObjectName(QLatin1String(row.name));
+        action->setShortcut(QKeySequence(QLatin1String(row.shortcut)));
+        actions_[std::size_t(row.command)] = action;
+    }
+    (*this)[Command::Cable]->setCheckable(true);
+    (*this)[Command::Quit]->setMenuRole(QAction::QuitRole);
+    (*this)[Command::About]->setMenuRole(QAction::AboutRole);
+    retranslate();
+}
+
+void Commands::retranslate()
+{
+    for (const CommandRow& row : rows) {
+        QAction* action = (*this)[row.command];
+        action->setText(vlk::text(row.key));
+        action->setIconText(vlk::text(row.shortKey));
+        QString tip = vlk::text(row.key).remove(QStringLiteral("…"));
+        if (!action->shortcut().isEmpty())
+            tip += QStringLiteral(" (%1)").arg(action->shortcut().toString(QKeySequence::NativeText));
+        action->setToolTip(tip);
+    }
+}

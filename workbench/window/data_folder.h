@@ -1,0 +1,37 @@
+#pragma once
+
+// The folder in which the workbench keeps everything: settings, the simulated tracker's memory, the data
+// folders, and the files that the plug-in writes into the process's current folder. Making it available also
+// makes it the current folder.
+//
+// Without a wanted path it is the user's folder of application data; where that cannot be written, a
+// temporary folder serves for this run and error() says why. A wanted path that cannot be written is not
+// replaced: isUsable() is false.
+
+#include <QString>
+#include <QTemporaryDir>
+
+#include <memory>
+
+class DataFolder
+{
+public:
+    explicit DataFolder(const QString& wanted = {});
+
+    bool isUsable() const { return !path_.isEmpty(); }
+    bool isTemporary() const { return temporary_ != nullptr; }
+    QString error() const { return error_; }
+
+    QString path() const { return path_; }
+    QString settingsFile() const { return path_ + QStringLiteral("/settings/workbench.ini"); }
+    QString trackerFolder() const { return path_ + QStringLiteral("/tracker"); }
+    QString telemetryFolder() const { return path_ + QStringLiteral("/Data/TMI/"); }
+    QString configurationFolder() const { return path_ + QStringLiteral("/Data/XML/"); }
+
+private:
+    bool prepare(const QString& path);
+
+    QString path_;
+    QString error_;
+    std::unique_ptr<QTemporaryDir> temporary_;
+};

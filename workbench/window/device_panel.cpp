@@ -1,0 +1,98 @@
+#include "window/device_panel.h"
+
+#include "window/host_session.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPainter>
+
+namespace {
+
+constexpr const char* modeKeys[] = {"wb_mode_0", "wb_mode_1", "wb_mode_2"};
+
+QPixmap dot(const QColor& colour, int side, qreal ratio)
+{
+    QPixmap pixmap(QSize(side, side) * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour);
+    painter.drawEllipse(QRectF(1, 1, side - 2, side - 2));
+    return pixmap;
+}
+
+} // namespace
+
+DevicePanel::DevicePanel(HostSession& session, QWidget* parent)
+    : QGroupBox(parent), session_(session), symbol_(new QLabel(this)), state_(new QLabel(this)),
+      mode_(new QComboBox(this))
+{
+    texts_.bind(static_cast<QGroupBox*>(this), "wb_device");
+    state_->setObjectName(QStringLiteral("label_DeviceState"));
+    auto* stateLine = new QHBoxLayout;
+    stateLine->addWidget(symbol_);
+    stateLine->addWidget(state_, 1);
+
+    auto* form = new QFormLayout(this);
+    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    form->addRow(stateLine);
+    model_ = addRow(form, "label_DeviceModel", "wb_device_model");
+    text1_ = addRow(form, "label_DeviceText1", "wb_device_text1");
+    text2_ = addRow(form, "label_DeviceText2", "wb_device_text2");
+    capabilities_ = addRow(form, "label_DeviceCapabilities", "wb_device_capabilities");
+    plugin_ = addRow(form, "label_Plugin", "wb_device_plugin");
+
+    mode_->setObjectName(QStringLiteral("comboBox_Mode"));
+    for (const char* key : modeKeys)
+        mode_->addItem(vlk::text(key));
+    auto* modeLabel = texts_.bind(new QLabel(this), "wb_mode");
+    modeLabel->setBuddy(mode_);
+    form->addRow(modeLabel, mode_);
+    connect(mode_, QOverload<int>::of(&QComboBox::activated), this, &DevicePanel::modeChosen);
+
+    connect(&session_.tracker(), &tracker::SimulatedTracker::attachedChanged, this, &DevicePanel::refresh);
+    refresh();
+}
+
+QLabel* DevicePanel::addRow(QFormLayout* form, const char* name, const char* key)
+{
+    auto* value = new QLabel(this);
+    value->setObjectName(QLatin1String(name));
+    value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    form->addRow(texts_.bind(new QLabel(this), key), value);
+    return value;
+}
+
+void DevicePanel::setMode(int mode)
+{
+    mode_->setCurrentIndex(mode);
+}
+
+void DevicePanel::refresh()
+{
+    const tracker::SimulatedTracker& tracker = session_.tracker();
+    const bool attached = tracker.attached();
+    symbol_->setPixmap(
+        dot(attached ? QColor(0x2e, 0x9e, 0x4f) : QColor(0xb0, 0x30, 0x30), 12, devicePixelRatioF()));
+    state_->setText(vlk::text(attached ? "wb_device_attached" : "wb_device_detached"));
+    const QString none = QStringLiteral("–");
+    model_->setText(attached ? tracker.model() : none);
+    text1_->setText(attached ? tracker.text1() : none);
+    text2_->setText(attached ? tracker.text2() : none);
+    capabilities_->setText(
+        attached ? QStringLiteral("0x%1").arg(tracker.capabilityMask(), 16, 16, QLatin1Char('0')) : none);
+    const PluginLink& link = session_.link();
+    plugin_->setText(link.isLoaded() ? QStringLiteral("%1, %2").arg(link.displayName(), link.version())
+                                     : vlk::text("wb_device_no_plugin"));
+}
+
+void DevicePanel::retranslate()
+{
+    texts_.apply();
+    for (int i = 0; i < mode_->count(); ++i)
+        mode_->setItemText(i, vlk::text(modeKeys[i]));
+    refresh();
+}

@@ -1,0 +1,62 @@
+#include "window/folders_dialog.h"
+
+#include "window/languages.h"
+#include "window/line_icon.h"
+
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+FoldersDialog::FoldersDialog(const QString& telemetry, const QString& configurations, QWidget* parent)
+    : QDialog(parent)
+{
+    setWindowTitle(vlk::text("wb_folders"));
+    auto* form = new QFormLayout;
+    telemetry_ = addFolder(form, "lineEdit_FolderTelemetry", "wb_folder_telemetry", telemetry);
+    configurations_ =
+        addFolder(form, "lineEdit_FolderConfigurations", "wb_folder_configurations", configurations);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* column = new QVBoxLayout(this);
+    column->addLayout(form);
+    column->addWidget(buttons);
+    resize(640, sizeHint().height());
+}
+
+QLineEdit* FoldersDialog::addFolder(QFormLayout* form, const char* name, const char* key,
+                                    const QString& folder)
+{
+    auto* edit = new QLineEdit(folder, this);
+    edit->setObjectName(QLatin1String(name));
+    auto* choose = new QToolButton(this);
+    choose->setIcon(vlk::lineIcon(QStringLiteral("open")));
+    choose->setToolTip(vlk::text("wb_folder_choose"));
+    choose->setAccessibleName(vlk::text("wb_folder_choose"));
+    connect(choose, &QToolButton::clicked, this, [this, edit, key] {
+        const QString chosen = QFileDialog::getExistingDirectory(this, vlk::text(key), edit->text());
+        if (!chosen.isEmpty())
+            edit->setText(chosen + QLatin1Char('/'));
+    });
+    auto* row = new QHBoxLayout;
+    row->addWidget(edit, 1);
+    row->addWidget(choose);
+    auto* label = new QLabel(vlk::text(key), this);
+    label->setBuddy(edit);
+    form->addRow(label, row);
+    return edit;
+}
+
+QString FoldersDialog::telemetry() const
+{
+    return telemetry_->text().trimmed();
+}
+
+QString FoldersDialog::configurations() const
+{
+    return configurations_->text().trimmed();
+}

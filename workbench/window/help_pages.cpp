@@ -1,0 +1,29 @@
+#include "window/help_pages.h"
+
+#include "window/languages.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+HelpPages::HelpPages(const QString& folder) : folder_(folder) {}
+
+QString HelpPages::path(const QString& language, const QString& page) const
+{
+    return QDir(folder_).filePath(language + QLatin1Char('/') + QFileInfo(page).fileName());
+}
+
+bool HelpPages::exists(const QString& language, const QString& page) const
+{
+    return QFileInfo(path(language, page)).isFile();
+}
+
+QString HelpPages::html(const QString& language, const QString& page) const
+{
+    QFile file(path(language, page));
+    if (QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly))
+        return QString::fromUtf8(file.readAll());
+    return QStringLiteral("<h1>%1</h1><p>%2</p><p><a href=\"%3\">%4</a></p>")
+        .arg(vlk::text("wb_help_missing_title"),
+             vlk::text("wb_help_missing").arg(QFileInfo(page).fileName().toHtmlEscaped()), indexPage(),
+             vlk::text("wb_help_contents"));
+}

@@ -1,0 +1,74 @@
+#include "window/help_viewer.h"
+
+#include "window/line_icon.h"
+
+#include <QToolBar>
+#include <QVBoxLayout>
+
+HelpBrowser::HelpBrowser(HelpPages pages, QString language, QWidget* parent)
+    : QTextBrowser(parent), pages_(std::move(pages)), language_(std::move(language))
+{
+    document()->setDefaultStyleSheet(QStringLiteral("h1 { font-size: x-large; margin-bottom: 8px; }"
+                                                    "h2 { font-size: large; margin-top: 14px; }"
+                                                    "td, th { padding: 3px 8px 3px 0px; }"));
+    document()->setDocumentMargin(12);
+}
+
+QVariant HelpBrowser::loadResource(int type, const QUrl& name)
+{
+    return type == QTextDocument::HtmlResource ? QVariant(pages_.html(language_, name.path())) : QVariant();
+}
+
+void HelpBrowser::setLanguage(const QString& language)
+{
+    language_ = language;
+    reload();
+}
+
+HelpViewer::HelpViewer(const HelpPages& pages, const QString& language, QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
+      browser_(new HelpBrowser(pages, language, this))
+{
+    setObjectName(QStringLiteral("dialog_Help"));
+    setModal(false);
+    browser_->setObjectName(QStringLiteral("textBrowser_Help"));
+
+    auto* bar = new QToolBar(this);
+    const auto addAction = [&](const char* icon, const char* key) {
+        return texts_.bind(bar->addAction(vlk::lineIcon(QLatin1String(icon)), QString()), key);
+    };
+    QAction* back = addAction("back", "wb_help_back");
+    QAction* forward = addAction("forward", "wb_help_forward");
+    QAction* contents = addAction("contents", "wb_help_contents");
+    back->setShortcut(QKeySequence::Back);
+    forward->setShortcut(QKeySequence::Forward);
+    back->setEnabled(false);
+    forward->setEnabled(false);
+    connect(back, &QAction::triggered, browser_, &QTextBrowser::backward);
+    connect(forward, &QAction::triggered, browser_, &QTextBrowser::forward);
+    connect(contents, &QAction::triggered, this, [this] { showPage(HelpPages::indexPage()); });
+    connect(browser_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
+    connect(browser_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(bar);
+    column->addWidget(browser_, 1);
+    texts_.bind(this, "wb_help");
+    resize(720, 560);
+}
+
+void HelpViewer::showPage(const QString& page)
+{
+    browser_->setSource(QUrl(page));
+    show();
+    raise();
+    activateWindow();
+}
+
+void HelpViewer::setLanguage(const QString& language)
+{
+    texts_.apply();
+    browser_->setLanguage(language);
+}

@@ -1,0 +1,44 @@
+#include "window/languages.h"
+
+#include "window/installed_files.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QLibraryInfo>
+#include <QLocale>
+
+QString Languages::ofSystem()
+{
+    return QLocale::system().language() == QLocale::Russian ? QStringLiteral("ru") : QStringLiteral("en");
+}
+
+Languages::Languages() = default;
+Languages::~Languages() = default;
+
+bool Languages::set(const QString& code)
+{
+    auto texts = std::make_unique<KeyTranslator>();
+    if (!texts->load(code, vlk::sharedFolder(QStringLiteral("translations"))))
+        return false;
+    auto dialogs = std::make_unique<QTranslator>();
+    const bool hasDialogs = dialogs->load(QStringLiteral("qtbase_") + code,
+                                          QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    QLocale::setDefault(QLocale(code));
+    current_ = code;
+    // The old translators go only when the new ones serve, so that no text falls back to its key between.
+    if (hasDialogs)
+        QCoreApplication::installTranslator(dialogs.get());
+    QCoreApplication::installTranslator(texts.get());
+    texts_ = std::move(texts);
+    dialogs_ = std::move(dialogs);
+    return true;
+}
+
+namespace vlk {
+
+QString text(const char* key)
+{
+    return QCoreApplication::translate("", key);
+}
+
+} // namespace vlk

@@ -1,0 +1,97 @@
+#include "window/message_log_model.h"
+
+#include "window/languages.h"
+#include "window/message_text.h"
+
+MessageLogModel::MessageLogModel(int capacity, QObject* parent)
+    : QAbstractTableModel(parent), capacity_(std::max(1, capacity))
+{
+}
+
+int MessageLogModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : int(messages_.size());
+}
+
+int MessageLogModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QString MessageLogModel::cell(const LoggedMessage& message, int column) const
+{
+    switch (column) {
+    case Time:
+        return message.time.toString(QStringLiteral("HH:mm:ss.zzz"));
+    case Way:
+        return vlk::text(message.direction == vlk::Direction::ToPlugin ? "wb_log_to_plugin"
+                                                                       : "wb_log_to_host");
+    case Number:
+        return QString::number(message.id);
+    case Name: {
+        const vlk::MessageInfo* info = vlk::findMessage(message.direction, message.id);
+        return info ? QString::fromLatin1(info->name) : QStringLiteral("?");
+    }
+    default:
+        if (message.bytes.isEmpty())
+            return message.words;
+        return message.words + QLatin1String(message.words.isEmpty() ? "" : " ") +
+               vlk::hexText(message.bytes);
+    }
+}
+
+QVariant MessageLogModel::data(const QModelIndex& index, int role) const
+{
+    const LoggedMessage& message = messages_[std::size_t(index.row())];
+    if (role == Qt::DisplayRole || (role == Qt::ToolTipRole && index.column() == Parameters))
+        return cell(message, index.column());
+    if (role == directionRole)
+        return int(message.direction);
+    return {};
+}
+
+QVariant MessageLogModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    static constexpr const char* keys[ColumnCount] = {"wb_log_time", "wb_log_way", "wb_log_number",
+                                                      "wb_log_name", "wb_log_parameters"};
+    if (orientation == Qt::Horizontal && role == Qt::DisplayRole)
+        return vlk::text(keys[section]);
+    return {};
+}
+
+QString MessageLogModel::line(int row) const
+{
+    QStringList cells;
+    for (int column = 0; column < ColumnCount; ++column)
+        cells.append(cell(messages_[std::size_t(row)], column));
+    return cells.join(QLatin1Char('\t'));
+}
+
+void MessageLogModel::append(vlk::Direction direction, quint32 id, const void* p1, const void* p2)
+{
+    vlk::MessageText text = vlk::describeMessage(direction, id, p1, p2);
+    if (int(messages_.size()) >= capacity_) {
+        const int dropped = std::max(1, capacity_ / 10);
+        beginRemoveRows({}, 0, dropped - 1);
+        messages_.erase(messages_.begin(), messages_.begin() + dropped);
+        endRemoveRows();
+    }
+    const int row = int(messages_.size());
+    beginInsertRows({}, row, row);
+    messages_.push_back({QDateTime::currentDateTime(), direction, id, text.words, text.bytes});
+    endInsertRows();
+}
+
+void MessageLogModel::clear()
+{
+    beginResetModel();
+    messages_.clear();
+    endResetModel();
+}
+
+void MessageLogModel::retranslate()
+{
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
+    if (!messages_.empty())
+        Q_EMIT dataChanged(index(0, Way), index(int(messages_.size()) - 1, Way));
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+// The message log: every message in both directions, the newest last. It holds a bounded number of entries
+// and drops the oldest tenth when it is full. Bytes are kept as they came and turned into hex when they are
+// looked at.
+
+#include "plugin/host/host_interface.h"
+
+#include <QAbstractTableModel>
+
+#include <deque>
+
+struct LoggedMessage
+{
+    QDateTime time;
+    vlk::Direction direction = vlk::Direction::ToPlugin;
+    quint32 id = 0;
+    QString words;
+    QByteArray bytes;
+};
+
+class MessageLogModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { Time, Way, Number, Name, Parameters, ColumnCount };
+    // Of a row: its vlk::Direction as an integer.
+    static constexpr int directionRole = Qt::UserRole;
+    static constexpr int defaultCapacity = 100'000;
+
+    explicit MessageLogModel(int capacity = defaultCapacity, QObject* parent = nullptr);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+    // One line, the columns divided by tabs.
+    QString line(int row) const;
+
+public Q_SLOTS:
+    // Reads the parameters before it returns.
+    void append(vlk::Direction direction, quint32 id, const void* p1, const void* p2);
+    void clear();
+    // The headings in the language in use.
+    void retranslate();
+
+private:
+    QString cell(const LoggedMessage& message, int column) const;
+
+    std::deque<LoggedMessage> messages_;
+    int capacity_;
+};

@@ -1,0 +1,205 @@
+#include "window/message_log_view.h"
+
+#include "window/line_icon.h"
+#include "window/message_log_filter.h"
+#include "window/message_log_model.h"
+
+#include <QClipboard>
+#include <QComboBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QSaveFile>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QTableView>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr const char* directionKeys[] = {"wb_log_both", "wb_log_to_plugin", "wb_log_to_host"};
+
+} // namespace
+
+MessageLogView::MessageLogView(MessageLogModel* model, QWidget* parent)
+    : QWidget(parent), model_(model), filter_(new MessageLogFilter(this)), words_(new QLineEdit(this)),
+      directions_(new QComboBox(this)), table_(new QTableView(this)), details_(new QPlainTextEdit(this)),
+      count_(new QLabel(this))
+{
+    filter_->setSourceModel(model_);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(6, 6, 6, 6);
+    buildBar();
+    buildTable();
+
+    connect(filter_, &QAbstractItemModel::rowsInserted, this, &MessageLogView::showCount);
+    connect(filter_, &QAbstractItemModel::rowsRemoved, this, &MessageLogView::showCount);
+    connect(filter_, &QAbstractItemModel::modelReset, this, &MessageLogView::showCount);
+    showCount();
+}
+
+void MessageLogView::buildBar()
+{
+    words_->setObjectName(QStringLiteral("lineEdit_LogFilter"));
+    words_->setClearButtonEnabled(true);
+    texts_.bind([this] {
+        words_->setPlaceholderText(vlk::text("wb_log_filter"));
+        words_->setAccessibleName(vlk::text("wb_log_filter"));
+    });
+    connect(words_, &QLineEdit::textChanged, this, &MessageLogView::applyFilter);
+
+    directions_->setObjectName(QStringLiteral("comboBox_LogDirection"));
+    for (const char* key : directionKeys)
+        directions_->addItem(vlk::text(key));
+    texts_.bind([this] {
+        directions_->setAccessibleName(vlk::text("wb_log_way"));
+        for (int i = 0; i < directions_->count(); ++i)
+            directions_->setItemText(i, vlk::text(directionKeys[i]));
+    });
+    connect(directions_, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &MessageLogView::applyFilter);
+
+    auto* bar = new QHBoxLayout;
+    bar->addWidget(words_, 1);
+    bar->addWidget(directions_);
+    bar->addWidget(count_);
+    const auto addButton = [&](const char* name, const char* icon, const char* key, auto act) {
+        auto* button = new QToolButton(this);
+        button->setObjectName(QLatin1String(name));
+        button->setIcon(vlk::lineIcon(QLatin1String(icon)));
+        button->setAutoRaise(true);
+        texts_.bind([button, key] {
+            button->setToolTip(vlk::text(key));
+            button->setAccessibleName(vlk::text(key));
+        });
+        connect(button, &QToolButton::clicked, this, act);
+        bar->addWidget(button);
+    };
+    addButton("toolButton_LogCopy", "copy", "wb_log_copy",
+              [this] { QGuiApplication::clipboard()->setText(shownText()); });
+    addButton("toolButton_LogSave", "save", "wb_log_save", [this] { save(); });
+    addButton("toolButton_LogClear", "clear", "wb_log_clear", [this] { model_->clear(); });
+    static_cast<QVBoxLayout*>(layout())->addLayout(bar);
+}
+
+void MessageLogView::buildTable()
+{
+    table_->setObjectName(QStringLiteral("tableView_Log"));
+    table_->setModel(filter_);
+    table_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table_->setAlternatingRowColors(true);
+    table_->setShowGrid(false);
+    table_->setWordWrap(false);
+    table_->setTabKeyNavigation(false);
+    table_->verticalHeader()->hide();
+    table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    table_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    table_->horizontalHeader()->setHighlightSections(false);
+    table_->horizontalHeader()->setStretchLastSection(true);
+    table_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    const char* const samples[] = {"00:00:00.000 ", "→ plug-in mm", "00000 m", "TachographFileRequest "};
+    for (int column = 0; column < MessageLogModel::Parameters; ++column)
+        table_->setColumnWidth(column,
+                               fontMetrics().horizontalAdvance(QString::fromUtf8(samples[column])) + 16);
+    connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &MessageLogView::showDetails);
+    connect(filter_, &QAbstractItemModel::rowsInserted, this, [this] {
+        const QScrollBar* bar = table_->verticalScrollBar();
+        if (bar->value() == bar->maximum())
+            QMetaObject::invokeMethod(table_, "scrollToBottom", Qt::QueuedConnection);
+    });
+
+    details_->setObjectName(QStringLiteral("plainTextEdit_LogDetails"));
+    details_->setReadOnly(true);
+    details_->setTabChangesFocus(true);
+    details_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    texts_.bind([this] {
+        details_->setPlaceholderText(vlk::text("wb_log_details"));
+        details_->setAccessibleName(vlk::text("wb_log_parameters"));
+    });
+
+    auto* splitter = new QSplitter(Qt::Vertical, this);
+    splitter->addWidget(table_);
+    splitter->addWidget(details_);
+    splitter->setStretchFactor(0, 5);
+    splitter->setStretchFactor(1, 1);
+    splitter->setChildrenCollapsible(false);
+    static_cast<QVBoxLayout*>(layout())->addWidget(splitter, 1);
+}
+
+void MessageLogView::applyFilter()
+{
+    filter_->setWords(words_->text());
+    filter_->setDirections(MessageLogFilter::Directions(directions_->currentIndex()));
+    showCount();
+}
+
+void MessageLogView::showCount()
+{
+    const int all = model_->rowCount();
+    const int shown = filter_->rowCount();
+    count_->setText(shown == all ? QString::number(all) : vlk::text("wb_log_count").arg(shown).arg(all));
+}
+
+void MessageLogView::showDetails()
+{
+    const QModelIndex current = filter_->mapToSource(table_->currentIndex());
+    if (!current.isValid()) {
+        details_->clear();
+        return;
+    }
+    const auto cell = [&](MessageLogModel::Column column) {
+        return current.sibling(current.row(), column).data().toString();
+    };
+    details_->setPlainText(QStringLiteral("%1 %2 %3\n%4")
+                               .arg(cell(MessageLogModel::Way), cell(MessageLogModel::Number),
+                                    cell(MessageLogModel::Name), cell(MessageLogModel::Parameters)));
+}
+
+QString MessageLogView::shownText() const
+{
+    QString text;
+    const QModelIndexList selected = table_->selectionModel()->selectedRows();
+    const bool all = selected.size() < 2;
+    for (int row = 0; row < filter_->rowCount(); ++row) {
+        const QModelIndex index = filter_->index(row, 0);
+        if (all || table_->selectionModel()->isRowSelected(row, {}))
+            text += model_->line(filter_->mapToSource(index).row()) + QLatin1Char('\n');
+    }
+    return text;
+}
+
+bool MessageLogView::saveTo(const QString& path, QString* error) const
+{
+    QSaveFile file(path);
+    const QByteArray text = shownText().toUtf8();
+    if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit())
+        return true;
+    *error = vlk::text("wb_file_unwritable").arg(path, file.errorString());
+    return false;
+}
+
+void MessageLogView::save()
+{
+    const QString path = QFileDialog::getSaveFileName(
+        this, vlk::text("wb_log_save"), QDir::home().filePath(QStringLiteral("messages.txt")),
+        vlk::text("wb_log_file_type") + QStringLiteral(" (*.txt)"));
+    QString error;
+    if (!path.isEmpty() && !saveTo(path, &error))
+        QMessageBox::warning(this, vlk::text("wb_title"), error);
+}
+
+void MessageLogView::retranslate()
+{
+    texts_.apply();
+    model_->retranslate();
+    showCount();
+    showDetails();
+}

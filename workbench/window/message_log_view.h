@@ -1,0 +1,48 @@
+#pragma once
+
+// The message log with what one does with it: filter, copy, save, clear. Follows the newest message while the
+// list stands at its end.
+
+#include "window/key_texts.h"
+
+#include <QWidget>
+
+class MessageLogFilter;
+class MessageLogModel;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QTableView;
+
+class MessageLogView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit MessageLogView(MessageLogModel* model, QWidget* parent = nullptr);
+
+    // The rows that the filter lets through, a line each; only the selected ones when some are selected.
+    QString shownText() const;
+    // False with a text for the user when the file cannot be written.
+    bool saveTo(const QString& path, QString* error) const;
+
+    void retranslate();
+
+private:
+    void buildBar();
+    void buildTable();
+    void applyFilter();
+    void showDetails();
+    void showCount();
+    void save();
+
+    MessageLogModel* model_;
+    MessageLogFilter* filter_;
+    KeyTexts texts_;
+    QLineEdit* words_;
+    QComboBox* directions_;
+    QTableView* table_;
+    QPlainTextEdit* details_;
+    QLabel* count_;
+};

@@ -1,0 +1,206 @@
+#include "window/message_text.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace vlk {
+
+namespace {
+
+// What findMessage relies on.
+static_assert(std::is_sorted(std::begin(messages), std::end(messages),
+                             [](const MessageInfo& a, const MessageInfo& b) { return a.number < b.number; }));
+
+template <class Record>
+const Record& as(const void* address)
+{
+    return *static_cast<const Record*>(address);
+}
+
+QString quoted(const QString& text)
+{
+    return QLatin1Char('"') + text + QLatin1Char('"');
+}
+
+QString quoted(const char* text, std::size_t size)
+{
+    return quoted(QString::fromLocal8Bit(text, int(qstrnlen(text, uint(size)))));
+}
+
+QString hexNumber(quint64 value, int digits)
+{
+    return QStringLiteral("0x%1").arg(value, digits, 16, QLatin1Char('0'));
+}
+
+QByteArray rawBytes(const void* address, int size)
+{
+    return {static_cast<const char*>(address), size};
+}
+
+// One record by its fields.
+using Describe = MessageText (*)(const void*);
+
+struct RecordRow
+{
+    Message message;
+    Describe describe;
+};
+
+MessageText describePair(const void* p)
+{
+    const auto& pair = as<IdPair>(p);
+    const quint64 number = quint64(pair.high) << 32 | pair.low;
+    return {QStringLiteral("id=%1 (%2)").arg(number).arg(hexNumber(number, 16)), {}};
+}
+
+const RecordRow records[] = {
+    {Message::SetIdentity,
+     [](const void* p) -> MessageText {
+         const auto& r = as<IdentityInfo>(p);
+         return {QStringLiteral("model=%1 vendor=%2").arg(quoted(r.model), quoted(r.vendor)), {}};
+     }},
+    {Message::SetPaths,
+     [](const void* p) -> MessageText {
+         const auto& r = as<Paths>(p);
+         return {QStringLiteral("pathTmi=%1 pathXml=%2 pathThird=%3 pathFourth=%4")
+                     .arg(quoted(r.pathTmi), quoted(r.pathXml), quoted(r.pathThird), quoted(r.pathFourth)),
+                 {}};
+     }},
+    {Message::TrackerAttached,
+     [](const void* p) -> MessageText {
+         const auto& r = as<ConnectInfo>(p);
+         return {QStringLiteral("model=%1 text1=%2 text2=%3 mask=%4")
+                     .arg(quoted(r.model), quoted(r.text1), quoted(r.text2),
+                          hexNumber(quint64(r.maskHigh) << 32 | r.maskLow, 16)),
+                 {}};
+     }},
+    {Message::OpenConfiguration,
+     [](const void* p) -> MessageText {
+         const auto& r = as<OpenRequest>(p);
+         return {QStringLiteral("showFull=%1 fromFile=%2 path=%3")
+                     .arg(r.showFull)
+                     .arg(r.fromFile)
+                     .arg(quoted(QString::fromLocal8Bit(r.path))),
+                 {}};
+     }},
+    {Message::LiveKey, describePair},
+    {Message::RfidNumber, describePair},
+    {Message::SupplyValues,
+     [](const void* p) -> MessageText {
+         const auto& r = as<SupplyRecord>(p);
+         QStringList values;
+         for (const std::int16_t value : r.values)
+             values.append(QString::number(value));
+         return {QStringLiteral("values={%1} supply=%2 mV")
+                     .arg(values.join(QLatin1String(", ")))
+                     .arg(r.values[supplyElement]),
+                 {}};
+     }},
+    {Message::AnalogRecord,
+     [](const void* p) -> MessageText {
+         return {{}, rawBytes(p, analogRecordSize)};
+     }},
+    {Message::AccelRecord,
+     [](const void* p) -> MessageText {
+         const auto& r = as<AccelValues>(p);
+         // Copies, because the packed members may lie unaligned.
+         const std::uint32_t movement = r.movement;
+         const double tilt = r.tilt;
+         const std::uint32_t shock = r.shock;
+         return {QStringLiteral("movement=%1 tilt=%2 shock=%3").arg(movement).arg(tilt).arg(shock), {}};
+     }},
+    {Message::AccelCommandResult,
+     [](const void* p) -> MessageText {
+         return {QStringLiteral("status=%1").arg(static_cast<const std::uint8_t*>(p)[accelStatusByte]),
+                 rawBytes(p, accelResultSize)};
+     }},
+    {Message::BtDeviceFound,
+     [](const void* p) -> MessageText {
+         const auto& r = as<BtDevice>(p);
+         return {
+             QStringLiteral("name=%1 mac=%2").arg(quoted(r.name, sizeof r.name), quoted(r.mac, sizeof r.mac)),
+             {}};
+     }},
+    {Message::TachographFileRequest,
+     [](const void* p) -> MessageText {
+         const auto& r = as<szQueryTaho>(p);
+         const std::uint32_t parameter = r.parameter;
+         return {QStringLiteral("code=%1 parameter=%2").arg(r.code).arg(parameter), {}};
+     }},
+};
+
+MessageText describeRecord(Message message, const void* p)
+{
+    const auto* row = std::find_if(std::begin(records), std::end(records),
+                                   [message](const RecordRow& r) { return r.message == message; });
+    return row == std::end(records) ? MessageText{} : row->describe(p);
+}
+
+MessageText describeParameter(Message message, Parameter kind, const void* p)
+{
+    if (kind == Parameter::None)
+        return {};
+    if (kind == Parameter::Value)
+        return {QString::number(qint64(reinterpret_cast<std::intptr_t>(p))), {}};
+    if (!p)
+        return {QStringLiteral("null"), {}};
+    switch (kind) {
+    case Parameter::ByteAddress:
+        return {QString::number(as<std::uint8_t>(p)), {}};
+    case Parameter::Int32Address:
+        return {QString::number(as<std::int32_t>(p)), {}};
+    case Parameter::FloatAddress:
+        return {QString::number(double(as<float>(p))), {}};
+    case Parameter::StringAddress:
+        return {quoted(as<QString>(p)), {}};
+    case Parameter::BytesAddress:
+        return {{}, as<QByteArray>(p)};
+    case Parameter::DateTimeAddress:
+        return {as<QDateTime>(p).toUTC().toString(Qt::ISODate), {}};
+    case Parameter::TextBuffer:
+        return {quoted(static_cast<const char*>(p), balanceUssdSize), {}};
+    case Parameter::RecordAddress:
+        return describeRecord(message, p);
+    case Parameter::None:
+    case Parameter::Value:
+        break;
+    }
+    return {};
+}
+
+} // namespace
+
+const MessageInfo* findMessage(Direction direction, quint32 id)
+{
+    const auto* row = std::lower_bound(std::begin(messages), std::end(messages), id,
+                                       [](const MessageInfo& m, quint32 n) { return quint32(m.number) < n; });
+    const bool found = row != std::end(messages) && quint32(row->number) == id && row->direction == direction;
+    return found ? row : nullptr;
+}
+
+MessageText describeMessage(Direction direction, quint32 id, const void* p1, const void* p2)
+{
+    const MessageInfo* info = findMessage(direction, id);
+    if (!info)
+        return {QStringLiteral("%1 %2").arg(hexNumber(reinterpret_cast<std::uintptr_t>(p1), 1),
+                                            hexNumber(reinterpret_cast<std::uintptr_t>(p2), 1)),
+                {}};
+    const MessageText first = describeParameter(info->number, info->p1, p1);
+    const MessageText second = describeParameter(info->number, info->p2, p2);
+    MessageText both = first;
+    if (!first.words.isEmpty() && !second.words.isEmpty())
+        both.words += QLatin1String(", ");
+    both.words += second.words;
+    both.bytes += second.bytes;
+    return both;
+}
+
+QString hexText(const QByteArray& bytes)
+{
+    QString text = QStringLiteral("[%1]").arg(bytes.size());
+    if (!bytes.isEmpty())
+        text += QLatin1Char(' ') + QString::fromLatin1(bytes.toHex(' ').toUpper());
+    return text;
+}
+
+} // namespace vlk

@@ -1,0 +1,62 @@
+#pragma once
+
+// The way to the plug-in: loads the library, keeps its handle and carries messages in both directions. One
+// link exists at a time, because the plug-in calls back through a plain function.
+//
+// Messages sent while no plug-in is loaded go nowhere.
+
+#include "plugin/host/host_interface.h"
+
+#include <QLibrary>
+#include <QObject>
+
+class PluginLink : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit PluginLink(QObject* parent = nullptr);
+    ~PluginLink() override;
+
+    // On failure error() is a text for the user.
+    bool load(const QString& path);
+    bool isLoaded() const { return receive_ != nullptr; }
+    QString error() const { return error_; }
+    QString path() const { return library_.fileName(); }
+
+    QString modelName() const;
+    QString displayName() const;
+    // "3.3.0.2"
+    QString version() const;
+
+    void send(vlk::Message id, void* p1 = nullptr, void* p2 = nullptr);
+
+    // One function a message that carries something.
+    void setMode(int mode);
+    void setPaths(const QString& telemetry, const QString& configurations);
+    void attachTracker(const QString& model, const QString& text1, const QString& text2,
+                       quint64 capabilities);
+    // An empty path opens a new configuration.
+    void openConfiguration(const QString& path, bool full, bool fromFile);
+    void openTelemetry(const QString& configuration);
+    // Kind 0 is the browser, kind 1 the table.
+    void showStoredFile(const QString& path, int kind);
+    QString balanceCode();
+
+Q_SIGNALS:
+    // A message from the plug-in, to be answered or obeyed.
+    void received(vlk::Message id, void* p1, void* p2);
+    // For the log, both directions: before the receiver sees the message, or after it when the receiver fills
+    // a parameter.
+    void passed(vlk::Direction direction, quint32 id, const void* p1, const void* p2);
+
+private:
+    static void callback(void* device, std::uint32_t id, void* p1, void* p2);
+    template <class Carry>
+    void pass(vlk::Direction direction, quint32 id, const void* p1, const void* p2, Carry carry);
+
+    QLibrary library_;
+    QString error_;
+    vlk::LibraryInfo info_{};
+    vlk::ReceiveMessageFunction receive_ = nullptr;
+};

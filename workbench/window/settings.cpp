@@ -1,0 +1,121 @@
+#include "window/settings.h"
+
+#include "window/languages.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+const QString languageKey = QStringLiteral("language");
+const QString modeKey = QStringLiteral("mode");
+const QString fullWindowKey = QStringLiteral("fullWindow");
+const QString telemetryKey = QStringLiteral("folders/telemetry");
+const QString configurationKey = QStringLiteral("folders/configuration");
+const QString recentKey = QStringLiteral("recentFiles");
+
+QString layoutKey(const QString& name)
+{
+    return QStringLiteral("layout/") + name;
+}
+
+// QSettings reads past bytes that no ini file has; they mean that the file is not what was written.
+bool isDamaged(const QString& file, const QSettings& store)
+{
+    QFile raw(file);
+    return store.status() == QSettings::FormatError ||
+           (raw.open(QIODevice::ReadOnly) && raw.readAll().contains('\0'));
+}
+
+} // namespace
+
+Settings::Settings(const QString& file) : store_(std::make_unique<QSettings>(file, QSettings::IniFormat))
+{
+    damaged_ = isDamaged(file, *store_);
+    if (!damaged_)
+        return;
+    store_.reset();
+    const QString aside = file + QStringLiteral(".damaged");
+    QFile::remove(aside);
+    QFile::rename(file, aside);
+    store_ = std::make_unique<QSettings>(file, QSettings::IniFormat);
+}
+
+QString Settings::language() const
+{
+    const QString code = store_->value(languageKey).toString();
+    return Languages::isKnown(code) ? code : Languages::ofSystem();
+}
+
+void Settings::setLanguage(const QString& code)
+{
+    store_->setValue(languageKey, code);
+}
+
+int Settings::mode() const
+{
+    const int mode = store_->value(modeKey, 0).toInt();
+    return mode >= 0 && mode <= 2 ? mode : 0;
+}
+
+void Settings::setMode(int mode)
+{
+    store_->setValue(modeKey, mode);
+}
+
+bool Settings::fullWindow() const
+{
+    return store_->value(fullWindowKey, true).toBool();
+}
+
+void Settings::setFullWindow(bool full)
+{
+    store_->setValue(fullWindowKey, full);
+}
+
+QString Settings::telemetryFolder() const
+{
+    return store_->value(telemetryKey).toString();
+}
+
+QString Settings::configurationFolder() const
+{
+    return store_->value(configurationKey).toString();
+}
+
+void Settings::setFolders(const QString& telemetry, const QString& configuration)
+{
+    store_->setValue(telemetryKey, telemetry);
+    store_->setValue(configurationKey, configuration);
+}
+
+QStringList Settings::recentFiles() const
+{
+    return store_->value(recentKey).toStringList().mid(0, recentLimit);
+}
+
+void Settings::addRecentFile(const QString& path)
+{
+    QStringList files = recentFiles();
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    files.removeAll(absolute);
+    files.prepend(absolute);
+    store_->setValue(recentKey, QStringList(files.mid(0, recentLimit)));
+}
+
+void Settings::removeRecentFile(const QString& path)
+{
+    QStringList files = recentFiles();
+    files.removeAll(path);
+    store_->setValue(recentKey, files);
+}
+
+QByteArray Settings::layout(const QString& name) const
+{
+    return store_->value(layoutKey(name)).toByteArray();
+}
+
+void Settings::setLayout(const QString& name, const QByteArray& state)
+{
+    store_->setValue(layoutKey(name), state);
+}

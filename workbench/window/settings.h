@@ -1,0 +1,51 @@
+#pragma once
+
+// What the workbench remembers from run to run, in an ini file. A damaged file is put aside under the name
+// "...ini.damaged" and the defaults hold; values that make no sense read as their defaults.
+
+#include <QByteArray>
+#include <QSettings>
+#include <QStringList>
+
+#include <memory>
+
+class Settings
+{
+public:
+    static constexpr int recentLimit = 10;
+
+    explicit Settings(const QString& file);
+
+    // The damaged file was put aside when this one was opened.
+    bool wasDamaged() const { return damaged_; }
+
+    // "ru" or "en"; the system's language until one is chosen.
+    QString language() const;
+    void setLanguage(const QString& code);
+
+    // Working mode of the plug-in, 0 to 2.
+    int mode() const;
+    void setMode(int mode);
+
+    // Whether a configuration opens in the full window or in the quick one.
+    bool fullWindow() const;
+    void setFullWindow(bool full);
+
+    // The data folders; empty until they are chosen.
+    QString telemetryFolder() const;
+    QString configurationFolder() const;
+    void setFolders(const QString& telemetry, const QString& configuration);
+
+    // Absolute paths, the last used first.
+    QStringList recentFiles() const;
+    void addRecentFile(const QString& path);
+    void removeRecentFile(const QString& path);
+
+    // Geometry and state of a window or splitter, by its object name.
+    QByteArray layout(const QString& name) const;
+    void setLayout(const QString& name, const QByteArray& state);
+
+private:
+    std::unique_ptr<QSettings> store_;
+    bool damaged_ = false;
+};

@@ -1,0 +1,26 @@
+#include "window/stored_file.h"
+
+#include <QFile>
+#include <QXmlStreamReader>
+
+namespace vlk {
+
+StoredFile storedFileKind(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return StoredFile::Unknown;
+    if (path.endsWith(QLatin1String(".tmi"), Qt::CaseInsensitive))
+        return StoredFile::Telemetry;
+    constexpr qint64 beginning = 4096;
+    QXmlStreamReader reader(file.read(beginning));
+    while (!reader.atEnd() && !reader.isStartElement())
+        reader.readNext();
+    if (!reader.isStartElement())
+        return StoredFile::Unknown;
+    if (reader.name() == QLatin1String("DEVICE"))
+        return StoredFile::Configuration;
+    return reader.name() == QLatin1String("TMI") ? StoredFile::Telemetry : StoredFile::Unknown;
+}
+
+} // namespace vlk

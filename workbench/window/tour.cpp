@@ -1,0 +1,89 @@
+#include "window/tour.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QSaveFile>
+#include <QThread>
+
+#include <cstdio>
+
+Tour::Tour(WorkbenchWindow& window, const QString& folder) : window_(window), folder_(folder)
+{
+    folder_.mkpath(QStringLiteral("."));
+}
+
+void Tour::add(const std::vector<Step>& steps)
+{
+    steps_.insert(steps_.end(), steps.begin(), steps.end());
+}
+
+bool Tour::run()
+{
+    bool good = true;
+    for (const Step& step : steps_) {
+        try {
+            step.act(*this);
+            note(QStringLiteral("ok      %1").arg(step.name));
+        } catch (const TourFailure& failure) {
+            note(QStringLiteral("FAILED  %1: %2").arg(step.name, QString::fromStdString(failure.what())));
+            good = false;
+            break;
+        }
+    }
+    try {
+        save(QStringLiteral("tour.txt"), notes_.toUtf8());
+    } catch (const TourFailure& failure) {
+        std::fprintf(stderr, "%s\n", failure.what());
+        good = false;
+    }
+    return good;
+}
+
+void Tour::note(const QString& line)
+{
+    notes_ += line + QLatin1Char('\n');
+    std::printf("%s\n", qPrintable(line));
+    std::fflush(stdout);
+}
+
+void Tour::waitFor(const std::function<bool()>& condition, const QString& what, int ms)
+{
+    QElapsedTimer timer;
+    timer.start();
+    constexpr int pauseMs = 10;
+    while (!condition()) {
+        if (timer.hasExpired(ms))
+            throw TourFailure(QStringLiteral("%1 did not come within %2 ms").arg(what).arg(ms));
+        QCoreApplication::processEvents(QEventLoop::AllEvents, pauseMs);
+        QThread::msleep(pauseMs);
+    }
+    QCoreApplication::processEvents();
+}
+
+void Tour::save(const QString& name, const QByteArray& content)
+{
+    QSaveFile file(folder_.filePath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit())
+        throw TourFailure(QStringLiteral("cannot write %1: %2").arg(file.fileName(), file.errorString()));
+}
+
+void Tour::picture(const QString& name, QWidget* widget)
+{
+    QCoreApplication::processEvents();
+    const QString path = folder_.filePath(name);
+    if (!widget->grab().save(path))
+        throw TourFailure(QStringLiteral("cannot write %1").arg(path));
+}
+
+QWidget* Tour::findVisible(const char* name)
+{
+    const QString wanted = QLatin1String(name);
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && window->objectName() == wanted)
+            return window;
+        for (QWidget* widget : window->findChildren<QWidget*>(wanted))
+            if (widget->isVisible())
+                return widget;
+    }
+    return nullptr;
+}

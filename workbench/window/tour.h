@@ -1,0 +1,68 @@
+#pragma once
+
+// The tour: the workbench does its main job without a person and leaves its files and pictures in a folder.
+// It is a list of steps that run one after another until one fails; tour.txt tells what each did.
+//
+// A step drives the windows as a person would, by the names of their widgets, and fails by throwing a
+// TourFailure with a text that says what was missing or wrong.
+
+#include "window/workbench_window.h"
+
+#include <QDir>
+
+#include <functional>
+#include <stdexcept>
+#include <vector>
+
+struct TourFailure : std::runtime_error
+{
+    explicit TourFailure(const QString& what) : std::runtime_error(what.toStdString()) {}
+};
+
+class Tour
+{
+public:
+    struct Step
+    {
+        QString name;
+        std::function<void(Tour&)> act;
+    };
+
+    // The folder is made when it does not exist.
+    Tour(WorkbenchWindow& window, const QString& folder);
+
+    void add(const std::vector<Step>& steps);
+    // True when every step did what it should.
+    bool run();
+
+    WorkbenchWindow& window() { return window_; }
+    const QDir& folder() const { return folder_; }
+
+    // A line for tour.txt and the terminal.
+    void note(const QString& line);
+    // Runs the event loop until the condition holds; fails the step after the time.
+    void waitFor(const std::function<bool()>& condition, const QString& what, int ms = 10'000);
+    // Leaves files in the folder.
+    void save(const QString& name, const QByteArray& content);
+    void picture(const QString& name, QWidget* widget);
+
+    // The visible widget of a name in any window; fails the step when there is none.
+    template <class Widget>
+    static Widget* find(const char* name)
+    {
+        auto* widget = qobject_cast<Widget*>(findVisible(name));
+        if (!widget)
+            throw TourFailure(
+                QStringLiteral("no visible %1 named %2")
+                    .arg(QLatin1String(Widget::staticMetaObject.className()), QLatin1String(name)));
+        return widget;
+    }
+    // Null when there is none.
+    static QWidget* findVisible(const char* name);
+
+private:
+    WorkbenchWindow& window_;
+    QDir folder_;
+    std::vector<Step> steps_;
+    QString notes_;
+};

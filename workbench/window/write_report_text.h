@@ -1,0 +1,18 @@
+#pragma once
+
+// What became of a written configuration, in words.
+
+#include "tracker/write_report.h"
+
+#include <QString>
+
+namespace vlk {
+
+// One sentence: taken with so many keys changed, taken without a change, or refused and why.
+QString summary(const tracker::WriteReport& report);
+
+// The summary and a line a key, for a file or the clipboard: what happened, the key, old and new value,
+// divided by tabs.
+QString plainText(const tracker::WriteReport& report);
+
+} // namespace vlk

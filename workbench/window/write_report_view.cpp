@@ -1,0 +1,107 @@
+#include "window/write_report_view.h"
+
+#include "window/line_icon.h"
+#include "window/write_report_text.h"
+
+#include <QClipboard>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QLabel>
+#include <QStyle>
+#include <QTableView>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+WriteReportView::WriteReportView(QWidget* parent)
+    : QWidget(parent), symbol_(new QLabel(this)), summary_(new QLabel(this)), copy_(new QToolButton(this)),
+      table_(new QTableView(this))
+{
+    summary_->setObjectName(QStringLiteral("label_Report"));
+    summary_->setWordWrap(true);
+    summary_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    copy_->setIcon(vlk::lineIcon(QStringLiteral("copy")));
+    copy_->setAutoRaise(true);
+    texts_.bind([this] {
+        copy_->setToolTip(vlk::text("wb_report_copy"));
+        copy_->setAccessibleName(vlk::text("wb_report_copy"));
+        table_->setAccessibleName(vlk::text("wb_tab_report"));
+    });
+    connect(copy_, &QToolButton::clicked, this,
+            [this] { QGuiApplication::clipboard()->setText(vlk::plainText(report_)); });
+
+    table_->setObjectName(QStringLiteral("tableView_Report"));
+    table_->setModel(&model_);
+    table_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table_->setAlternatingRowColors(true);
+    table_->setShowGrid(false);
+    table_->setWordWrap(false);
+    table_->setTabKeyNavigation(false);
+    table_->verticalHeader()->hide();
+    table_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+    table_->horizontalHeader()->setHighlightSections(false);
+    table_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    table_->horizontalHeader()->setStretchLastSection(true);
+    table_->setColumnWidth(WriteReportModel::Kind, fontMetrics().averageCharWidth() * 15);
+    table_->setColumnWidth(WriteReportModel::Key, fontMetrics().averageCharWidth() * 30);
+    table_->setColumnWidth(WriteReportModel::Before, fontMetrics().averageCharWidth() * 25);
+
+    auto* line = new QHBoxLayout;
+    line->addWidget(symbol_);
+    line->addWidget(summary_, 1);
+    line->addWidget(copy_);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(6, 6, 6, 6);
+    column->addLayout(line);
+    column->addWidget(table_, 1);
+    showSummary();
+}
+
+void WriteReportView::setReport(const tracker::WriteReport& report)
+{
+    report_ = report;
+    time_ = QDateTime::currentDateTime();
+    model_.setReport(report);
+    showSummary();
+}
+
+void WriteReportView::showSummary()
+{
+    const bool any = time_.isValid();
+    copy_->setEnabled(any);
+    symbol_->setVisible(any);
+    if (!any) {
+        summary_->setText(vlk::text("wb_report_none"));
+        return;
+    }
+    const auto picture = report_.accepted ? QStyle::SP_DialogApplyButton : QStyle::SP_MessageBoxWarning;
+    const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    symbol_->setPixmap(style()->standardIcon(picture).pixmap(side, side));
+    summary_->setText(
+        QStringLiteral("%1  %2").arg(time_.toString(QStringLiteral("HH:mm:ss")), vlk::summary(report_)));
+}
+
+void WriteReportView::retranslate()
+{
+    texts_.apply();
+    model_.retranslate();
+    showSummary();
+}
+
+void WriteReportView::showDialog(const tracker::WriteReport& report, QWidget* parent)
+{
+    auto* dialog = new QDialog(parent);
+    dialog->setObjectName(QStringLiteral("dialog_Report"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowTitle(vlk::text("wb_tab_report"));
+    auto* view = new WriteReportView(dialog);
+    view->setReport(report);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, dialog);
+    connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+    auto* column = new QVBoxLayout(dialog);
+    column->addWidget(view, 1);
+    column->addWidget(buttons);
+    dialog->resize(760, 360);
+    dialog->open();
+}
