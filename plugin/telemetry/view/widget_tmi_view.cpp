@@ -518,7 +518,6 @@ void VLK_Widget_Tmi_View::retranslate()
         if (form != nullptr)
             form->retranslate();
     };
-    retranslateForm(zeta3_);
     retranslateForm(zetaExt_);
     retranslateForm(production_);
     retranslateForm(tachograph_);
