@@ -6,6 +6,8 @@
 #include "pages/operators.h"
 #include "xml/xml_section.h"
 
+#include <QHeaderView>
+
 #include <utility>
 
 namespace {
@@ -15,7 +17,7 @@ struct Column
     const char* heading;
     const char* key; // in the file, followed by the row's number; empty: not stored
     const char* vlk::MobileOperator::*factoryText;
-    int width; // 0: what is left
+    int width; // at least; the last column takes what is left
 };
 
 constexpr Column kColumns[] = {
@@ -23,7 +25,7 @@ constexpr Column kColumns[] = {
     {"cfgt1_106", "sID", &vlk::MobileOperator::code, 100},
     {"cfgt1_029", "name", &vlk::MobileOperator::apn, 140},
     {"cfgt1_031", "login", &vlk::MobileOperator::login, 140},
-    {"cfgt1_033", "pass", &vlk::MobileOperator::password, 0},
+    {"cfgt1_033", "pass", &vlk::MobileOperator::password, 140},
 };
 constexpr int kColumnCount = static_cast<int>(std::size(kColumns));
 
@@ -55,10 +57,8 @@ VLK_FormAutoApnListNew::VLK_FormAutoApnListNew(QWidget* parent)
 {
     ui_->setupUi(this);
     vlk::makeOperatorRows(ui_->treeWidget_ListApn, vlk::kApnRows);
-    for (int column = 0; column < kColumnCount; ++column) {
-        if (kColumns[column].width > 0)
-            ui_->treeWidget_ListApn->setColumnWidth(column, kColumns[column].width);
-    }
+    ui_->treeWidget_ListApn->header()->setSectionResizeMode(QHeaderView::Fixed);
+    ui_->treeWidget_ListApn->header()->setMinimumSectionSize(kColumns[0].width);
     connect(ui_->treeWidget_ListApn, &QTreeWidget::itemDoubleClicked, this,
             &VLK_FormAutoApnListNew::slot_itemDoubleClicket_TreeWidgetList);
     retranslate();
@@ -116,11 +116,22 @@ void VLK_FormAutoApnListNew::retranslate()
 
 void VLK_FormAutoApnListNew::showExpanded()
 {
+    fitColumns();
     if (!ui_->treeWidget_ListApn->topLevelItem(0)->isExpanded())
         ui_->treeWidget_ListApn->expandAll();
     show();
     raise();
     activateWindow();
+}
+
+// A column has its fixed width, or more where a large font needs it.
+void VLK_FormAutoApnListNew::fitColumns()
+{
+    QTreeWidget* tree = ui_->treeWidget_ListApn;
+    for (int column = 0; column < kColumnCount; ++column) {
+        tree->resizeColumnToContents(column);
+        tree->setColumnWidth(column, qMax(tree->columnWidth(column), kColumns[column].width));
+    }
 }
 
 void VLK_FormAutoApnListNew::slot_itemDoubleClicket_TreeWidgetList(QTreeWidgetItem* item, int column)

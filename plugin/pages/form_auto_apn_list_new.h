@@ -38,6 +38,7 @@ private Q_SLOTS:
     void slot_itemDoubleClicket_TreeWidgetList(QTreeWidgetItem* item, int column);
 
 private:
+    void fitColumns();
     void saveInto(std::unique_ptr<CXmlSection> group);
 
     std::unique_ptr<Ui::VLK_Designer_FormAutoApnListNew> ui_;

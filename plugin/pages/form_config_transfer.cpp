@@ -6,6 +6,7 @@
 #include "pages/form_list_oper_roaming.h"
 #include "pages/operators.h"
 #include "pages/transfer_choices.h"
+#include "windows/aligned_columns.h"
 #include "windows/server_test.h"
 
 #include <QMessageBox>
@@ -121,6 +122,13 @@ void VLK_Form_Config_Transfer::retranslate()
     labelPeriods();
     apnList_->retranslate();
     roamingList_->retranslate();
+    vlk::alignColumns({ui_->gridLayout_Name, ui_->gridLayout_GSM_1, ui_->gridLayout_Servers,
+                       ui_->gridLayout_Main, ui_->gridLayout_Reserv_1, ui_->gridLayout_Reserv_2,
+                       ui_->gridLayout_Srv_Operation, ui_->gridLayout_Permanent_Connect,
+                       ui_->gridLayout_Periodic_Connect, ui_->gridLayout_Crypto, ui_->gridLayout_Roaming,
+                       ui_->gridLayout_RConnectPeriod, ui_->gridLayout_RPerion, ui_->gridLayout_RBlock,
+                       ui_->gridLayout_QSP},
+                      4);
 }
 
 void VLK_Form_Config_Transfer::fillLists()

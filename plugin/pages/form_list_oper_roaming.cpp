@@ -4,6 +4,7 @@
 
 #include "pages/operator_rows.h"
 
+#include <QHeaderView>
 #include <QStyle>
 
 namespace {
@@ -19,6 +20,7 @@ VLK_Form_List_Oper_Roaming::VLK_Form_List_Oper_Roaming(QWidget* parent)
     ui_->pushButton_Up->setIcon(style()->standardIcon(QStyle::SP_ArrowUp));
     ui_->pushButton_Down->setIcon(style()->standardIcon(QStyle::SP_ArrowDown));
     vlk::makeOperatorRows(ui_->treeWidget_List, kRows);
+    ui_->treeWidget_List->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     connect(ui_->treeWidget_List, &QTreeWidget::itemDoubleClicked, this,
             &VLK_Form_List_Oper_Roaming::slot_itemDoubleClicket_TreeWidgetList);
     connect(ui_->treeWidget_List, &QTreeWidget::currentItemChanged, this,

@@ -64,8 +64,7 @@ bool CSerialize::load()
     }
     if (file.size() == 0)
         return true;
-    const QByteArray text = file.read(maxFileSize + 1);
-    if (text.size() <= maxFileSize && parse(text))
+    if (file.size() <= maxFileSize && parse(file.read(file.size())))
         return true;
     qCWarning(vlk::lcXml).noquote() << fileName_ << "is not a document";
     return false;

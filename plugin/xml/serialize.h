@@ -17,8 +17,8 @@ class CSerialize : public QObject
     Q_OBJECT
 
 public:
-    // A longer file is refused unread: the largest configuration has less than a fortieth of this.
-    static constexpr qint64 maxFileSize = 4 * 1024 * 1024;
+    // Bytes. A longer file is refused unread; the largest configuration has less than a fortieth of this.
+    static constexpr qint64 maxFileSize = 4'000'000;
 
     explicit CSerialize(QString fileName);
 

@@ -165,6 +165,7 @@ void CXmlSection::commit()
     QHash<QString, CXmlNode*> firstChildren;
     for (auto child = node_->children.rbegin(); child != node_->children.rend(); ++child)
         firstChildren.insert(child->get()->name, child->get());
+    node_->attributes.reserve(node_->attributes.size() + table_.size());
     for (const CXmlRecord& record : table_) {
         if (CXmlNode* const child = firstChildren.value(record.name))
             child->value = asciiOnly(record.value);

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bitset>
 #include <iterator>
 
 namespace vlk {
@@ -62,6 +63,23 @@ const char* encoded(QChar character)
     }
 }
 
+// The characters of windows-1251, each of which is one byte. A codec call for every text would cost more than
+// all the rest of a section.
+const std::bitset<0x10000>& carriedCharacters()
+{
+    static const auto characters = [] {
+        std::bitset<0x10000> made;
+        for (int byte = 0; byte < 0x100; ++byte) {
+            const QByteArray bytes(1, static_cast<char>(byte));
+            const QString text = fromWindows1251(bytes);
+            if (text.size() == 1 && toWindows1251(text) == bytes)
+                made.set(text[0].unicode());
+        }
+        return made;
+    }();
+    return characters;
+}
+
 } // namespace
 
 QString escapeName(const QString& name)
@@ -109,16 +127,18 @@ QString decodeValue(const QString& value)
 
 QString sectionText(const QString& text)
 {
-    const auto carriedAsItStands = [](QChar character) {
-        return character.unicode() != 0 && character.unicode() < 0x80;
+    const auto stands = [](QChar character) {
+        return !character.isNull() && carriedCharacters()[character.unicode()];
     };
-    if (text.size() <= sectionTextLimit && std::all_of(text.begin(), text.end(), carriedAsItStands))
+    if (text.size() <= sectionTextLimit && std::all_of(text.begin(), text.end(), stands))
         return text;
-    // Two code units make at most one byte, so no more than this of a long text is looked at.
-    QByteArray bytes = toWindows1251(text.left(2 * sectionTextLimit));
-    const int end = bytes.indexOf('\0');
-    bytes.truncate(std::min(end < 0 ? bytes.size() : end, sectionTextLimit));
-    return fromWindows1251(bytes);
+    QString carried;
+    for (int i = 0; i < text.size() && !text[i].isNull() && carried.size() < sectionTextLimit; ++i) {
+        if (text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate())
+            ++i;
+        carried += stands(text[i]) ? text[i] : QChar('?');
+    }
+    return carried;
 }
 
 } // namespace vlk

@@ -3,9 +3,12 @@
 #include "xml/xml_node.h"
 #include "xml/xml_text.h"
 
+#include <QTextCodec>
+
 CXmlWriter::CXmlWriter(QByteArray* target) : QTextStream(target, QIODevice::WriteOnly)
 {
-    setCodec("windows-1251");
+    static QTextCodec* const windows1251 = QTextCodec::codecForName("windows-1251");
+    setCodec(windows1251);
 }
 
 void CXmlWriter::writeDocument(const CXmlNode& root)

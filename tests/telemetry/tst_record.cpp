@@ -1,6 +1,6 @@
-// Records of both formats against a walk over the mask that shares nothing with the decoder: it goes bit by
-// bit, row by row of the catalogue as it is written, and reads numbers from hexadecimal text.
-// VLK_RANDOM_RECORDS sets the number of random records.
+// Records of both formats against a walk over the mask that shares nothing with the decoder: it goes by a
+// text of bits, row by row of the catalogue as it is written, and puts numbers together from their last byte
+// on. VLK_RANDOM_RECORDS sets the number of random records.
 
 #include "telemetry/record/record_head.h"
 #include "telemetry/record/tmi_page_zeta2.h"
@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QtTest>
 
+#include <bitset>
 #include <random>
 #include <vector>
 
@@ -25,23 +26,22 @@ struct Expected
 std::vector<Expected> walk(const QByteArray& record, int fieldCount)
 {
     static constexpr int kWidths[] = {1, 2, 4, 8, 1, 2, 4, 8, 4};
-    QString bits;
+    std::string bits;
     for (const char byte : record.mid(2, 32).leftJustified(32, '\0'))
-        bits += QString::number(static_cast<uchar>(byte), 2).rightJustified(8, QLatin1Char('0'));
+        bits += std::bitset<8>(static_cast<uchar>(byte)).to_string();
     const bool known = !record.isEmpty() && static_cast<uchar>(record[0]) == 176;
-    QByteArray rest = known ? record.mid(34) : QByteArray();
+    int at = known ? 34 : record.size();
 
     std::vector<Expected> values;
+    values.reserve(kElementCount);
     for (const ElementRow& row : catalogue::kElementRows) {
-        const bool has = row.field < fieldCount && bits[row.field] == QLatin1Char('1');
+        const bool has = row.field < fieldCount && bits[row.field] == '1';
         quint64 raw = 0;
         if (has) {
-            QByteArray bytes = rest.left(kWidths[static_cast<int>(row.type)]);
-            rest.remove(0, bytes.size());
-            if (bytes.size() == kWidths[static_cast<int>(row.type)]) {
-                std::reverse(bytes.begin(), bytes.end());
-                raw = bytes.toHex().toULongLong(nullptr, 16);
-            }
+            const int width = kWidths[static_cast<int>(row.type)];
+            for (int i = width - 1; i >= 0 && at + width <= record.size(); --i)
+                raw = raw * 256 + static_cast<uchar>(record[at + i]);
+            at += width;
         }
         values.push_back({has, raw});
     }

@@ -22,7 +22,7 @@ class TestDocument : public QObject
 private:
     QString put(const QByteArray& content)
     {
-        const QString path = folder_.filePath(QString::number(++files_) + ".xml");
+        QString path = folder_.filePath(QString::number(++files_) + ".xml");
         QFile file(path);
         if (!content.isEmpty() && (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()))
             qFatal("cannot prepare a file");
@@ -47,327 +47,291 @@ private:
     int files_ = 0;
 
 private Q_SLOTS:
-    void writesEveryKind();
-    void resaves_data();
-    void resaves();
-    void escapesNames_data();
-    void escapesNames();
-    void carriesTexts_data();
-    void carriesTexts();
-    void readsNumbers_data();
-    void readsNumbers();
-    void firstEntryOfANameCounts();
-    void commitTakesTheTableBack();
-    void clearReachesOneLevel();
-    void walksLikeNamedChildren();
-    void survivesBadFiles_data();
-    void survivesBadFiles();
-    void opensWhatIsNoDocumentYet();
-    void livesInMemory();
-};
-
-void TestDocument::writesEveryKind()
-{
-    const QString path = put({});
-    XmlDocument document(path, "DEVICE");
-    CXmlSection* const root = document.root();
-    root->clear();
-    root->setString("vendor", QString::fromUtf8("Завод \"<&'>\" €"));
-    root->setInt("model", -7);
-    const auto track = root->child("TR CK");
-    track->setString("page", "first");
-    track->setString("zone", "2");
-    track->setString("page", "last");
-    const auto group = track->child("P-1", 3);
-    group->setText("note", nullptr);
-    group->child("never written");
-    group->commit();
-    const auto inner = track->child("INNER", 1);
-    inner->child("LEAF", 3);
-    track->setChildValue("Name", "a<b&c");
-    track->setChildValue("Nothing", "");
-    track->commit();
-    document.save();
-
-    QByteArray golden = declaration;
-    golden += "<DEVICE vendor=\"\xC7\xE0\xE2\xEE\xE4 &quot;&lt;&amp;&apos;&gt;&quot; \x88\" model=\"-7\">\n"
-              "\t<TR_32_CK page=\"last\" zone=\"2\">\n"
-              "\t\t<P-1 note=\"\"/>\n"
-              "\t\t<INNER>\n"
-              "\t\t\t<LEAF/>\n"
-              "\t\t</INNER>\n"
-              "\t\t<Name>a&lt;b&amp;c</Name>\n"
-              "\t\t<Nothing />\n"
-              "\t</TR_32_CK>\n"
-              "</DEVICE>\n";
-    QCOMPARE(contentOf(path), golden);
-
-    QDomDocument independent;
-    QVERIFY(independent.setContent(contentOf(path)));
-    QCOMPARE(independent.documentElement().attribute("vendor"), QString::fromUtf8("Завод \"<&'>\" €"));
-    QCOMPARE(independent.elementsByTagName("Name").at(0).toElement().text(), QString("a<b&c"));
-
-    XmlDocument again(path, "DEVICE");
-    QCOMPARE(again.root()->getString("vendor"), QString::fromUtf8("Завод \"<&'>\" €"));
-    QCOMPARE(again.root()->child("TR CK")->getString("Name"), QString("a<b&c"));
-}
-
-// What the reader makes of a file, seen in how the writer puts it back.
-void TestDocument::resaves_data()
-{
-    QTest::addColumn<QByteArray>("body");
-    QTest::addColumn<QByteArray>("written");
-
-    QTest::newRow("empty elements are text elements")
-        << QByteArray("<A/> <B></B>") << QByteArray("\t<A />\n\t<B />\n");
-    QTest::newRow("white space keeps an element") << QByteArray("<A> </A>") << QByteArray("\t<A>\n\t</A>\n");
-    QTest::newRow("an attribute keeps an element")
-        << QByteArray("<A a='1'/>") << QByteArray("\t<A a=\"1\">\n\t</A>\n");
-    QTest::newRow("children of a text element follow it")
-        << QByteArray("<A>text<B>\n</B></A>") << QByteArray("\t<A>text</A>\n\t<B>\n\t</B>\n");
-    QTest::newRow("text is trimmed, the last piece counts")
-        << QByteArray("<A> one <![CDATA[ two ]]></A>") << QByteArray("\t<A>two</A>\n");
-    QTest::newRow("one decoding after the parser")
-        << QByteArray("<A v='&amp;lt;_33_&amp;nbsp;&amp;amp;quot;'>\n</A><B>&amp;apos;_33_</B>")
-        << QByteArray("\t<A v=\"&lt;! &quot;\">\n\t</A>\n\t<B>&apos;!</B>\n");
-    QTest::newRow("names of the format") << QByteArray("<A_32_B_-9_ a_32_='1'/>")
-                                         << QByteArray("\t<A_32_B_-9_ a_32_=\"1\">\n\t</A_32_B_-9_>\n");
-    QTest::newRow("the last of two like attributes, in the place of the first")
-        << QByteArray("<A a='1' b='2' a='3'/>") << QByteArray("\t<A a=\"3\" b=\"2\">\n\t</A>\n");
-    QTest::newRow("long values of elements nobody opens")
-        << "<A v='" + QByteArray(10000, 'x') + "'/>"
-        << "\t<A v=\"" + QByteArray(10000, 'x') + "\">\n\t</A>\n";
-}
-
-void TestDocument::resaves()
-{
-    QFETCH(QByteArray, body);
-    QFETCH(QByteArray, written);
-    QCOMPARE(resaved("<DEVICE>" + body + "</DEVICE>"), declaration + "<DEVICE>\n" + written + "</DEVICE>\n");
-}
-
-void TestDocument::escapesNames_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("escaped");
-    const struct
+    void writesEveryKind()
     {
-        const char* character;
-        int code;
-    } table[] = {{" ", 32}, {"&", 38},  {">", 62}, {"<", 60},  {"\"", 34}, {"'", 39},      {"!", 33},
-                 {":", 58}, {";", 59},  {"%", 37}, {"`", 96},  {"~", 126}, {"@", 64},      {"#", 35},
-                 {"$", 36}, {"^", 94},  {"*", 42}, {"(", 40},  {")", 41},  {"-", 45},      {"+", 43},
-                 {"=", 61}, {"|", 124}, {",", 44}, {"\\", 92}, {"/", 47},  {"\u00F7", -9}, {"\u00D7", -41}};
-    for (const auto& [character, code] : table) {
-        QTest::addRow("code %d", code) << "a" + QString(character) + "b" << QString("a_%1_b").arg(code);
-    }
-    QTest::newRow("plain") << "NAME_1"
-                           << "NAME_1";
-    QTest::newRow("several") << "a b-b a"
-                             << "a_32_b_45_b_32_a";
-}
-
-void TestDocument::escapesNames()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, escaped);
-    QCOMPARE(vlk::escapeName(name), escaped);
-    QCOMPARE(vlk::unescapeName(escaped), name);
-}
-
-// A value set on an element, in the next section on it, in the file and after the way through the file.
-void TestDocument::carriesTexts_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("carried");
-    const QString cyrillic(300, QChar(0x0436));
-    QTest::newRow("254 bytes") << cyrillic.left(254) << cyrillic.left(254);
-    QTest::newRow("255 bytes") << QString(255, '1') << QString(255, '1');
-    QTest::newRow("256 bytes") << QString(256, '1') << QString(255, '1');
-    QTest::newRow("10,000 bytes") << QString(10000, 'x') << QString(255, 'x');
-    QTest::newRow("300 letters") << cyrillic << cyrillic.left(255);
-    QTest::newRow("outside the encoding") << QString::fromUtf8("∞ and 😀") << "? and ?";
-    QTest::newRow("lone surrogate") << QString(QChar(0xD83D)) + "a"
-                                    << "?a";
-    QTest::newRow("NUL ends it") << QString::fromLatin1("ab\0cd", 5) << "ab";
-    QTest::newRow("markup") << "<![CDATA[ ]]>&#1;\"'"
-                            << "<![CDATA[ ]]>&#1;\"'";
-}
-
-void TestDocument::carriesTexts()
-{
-    QFETCH(QString, text);
-    QFETCH(QString, carried);
-    const QString path = put({});
-    {
+        const QString path = put({});
         XmlDocument document(path, "DEVICE");
-        const auto group = document.root()->child("GROUP", 3);
-        group->setString("before", "1");
-        group->setString("text", text);
-        group->setString("after", "2");
-        QCOMPARE(group->getString("text"), carried);
+        CXmlSection* const root = document.root();
+        root->clear();
+        root->setString("vendor", QString::fromUtf8("Завод \"<&'>\" €"));
+        root->setInt("model", -7);
+        const auto track = root->child("TR CK");
+        track->setString("page", "first");
+        track->setString("zone", "2");
+        track->setString("page", "last");
+        const auto group = track->child("P-1", 3);
+        group->setText("note", nullptr);
+        group->child("never written");
         group->commit();
-        QCOMPARE(document.root()->child("GROUP")->getString("text"), carried);
-        document.root()->setChildValue("Name", text);
+        const auto inner = track->child("INNER", 1);
+        inner->child("LEAF", 3);
+        track->setChildValue("Name", "a<b&c");
+        track->setChildValue("Nothing", "");
+        track->commit();
         document.save();
+
+        QByteArray golden = declaration;
+        golden +=
+            "<DEVICE vendor=\"\xC7\xE0\xE2\xEE\xE4 &quot;&lt;&amp;&apos;&gt;&quot; \x88\" model=\"-7\">\n"
+            "\t<TR_32_CK page=\"last\" zone=\"2\">\n"
+            "\t\t<P-1 note=\"\"/>\n"
+            "\t\t<INNER>\n"
+            "\t\t\t<LEAF/>\n"
+            "\t\t</INNER>\n"
+            "\t\t<Name>a&lt;b&amp;c</Name>\n"
+            "\t\t<Nothing />\n"
+            "\t</TR_32_CK>\n"
+            "</DEVICE>\n";
+        QCOMPARE(contentOf(path), golden);
+
+        QDomDocument independent;
+        QVERIFY(independent.setContent(contentOf(path)));
+        QCOMPARE(independent.documentElement().attribute("vendor"), QString::fromUtf8("Завод \"<&'>\" €"));
+        QCOMPARE(independent.elementsByTagName("Name").at(0).toElement().text(), QString("a<b&c"));
+
+        XmlDocument again(path, "DEVICE");
+        QCOMPARE(again.root()->getString("vendor"), QString::fromUtf8("Завод \"<&'>\" €"));
+        QCOMPARE(again.root()->child("TR CK")->getString("Name"), QString("a<b&c"));
     }
-    XmlDocument document(path, "DEVICE");
-    const auto group = document.root()->child("GROUP");
-    QCOMPARE(group->getString("before"), QString("1"));
-    QCOMPARE(group->getString("text"), carried);
-    QCOMPARE(group->getString("after"), QString("2"));
-    QCOMPARE(document.root()->getString("Name"), carried);
-    QDomDocument independent;
-    QVERIFY(independent.setContent(contentOf(path)));
-    QCOMPARE(independent.elementsByTagName("GROUP").at(0).toElement().attribute("text"), carried);
-}
 
-void TestDocument::readsNumbers_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("whole");
-    QTest::addColumn<double>("real");
-    QTest::newRow("number") << "4000" << 4000 << 4000.0;
-    QTest::newRow("leading blanks and sign") << "  -12.5" << -12 << -12.5;
-    QTest::newRow("plus") << "+3e2x" << 3 << 300.0;
-    QTest::newRow("tail") << "12abc" << 12 << 12.0;
-    QTest::newRow("none") << "abc" << 0 << 0.0;
-    QTest::newRow("empty") << "" << 0 << 0.0;
-    QTest::newRow("comma") << "1,5" << 1 << 1.0;
-    QTest::newRow("not finite") << "inf" << 0 << 0.0;
-    QTest::newRow("32 bits") << "4294967295" << -1 << 4294967295.0;
-}
+    // What the reader makes of a file, seen in how the writer puts it back.
+    void resaves_data()
+    {
+        QTest::addColumn<QByteArray>("body");
+        QTest::addColumn<QByteArray>("written");
 
-void TestDocument::readsNumbers()
-{
-    QFETCH(QString, text);
-    setlocale(LC_NUMERIC, "ru_RU.UTF-8");
-    XmlDocument document(QString(), "DEVICE");
-    CXmlSection* const root = document.root();
-    root->setString("key", text);
-    QTEST(root->getInt("key", 99), "whole");
-    QTEST(root->getDouble("key", 99), "real");
-    QCOMPARE(root->getFloat("key", 99), static_cast<float>(root->getDouble("key", 99)));
-    QCOMPARE(root->getInt("Key", 99), 99);
-    QCOMPARE(root->getFloat("", 1.5F), 1.5F);
-    QCOMPARE(root->getString("KEY", "other"), QString("other"));
-}
+        QTest::newRow("empty elements are text elements")
+            << QByteArray("<A/> <B></B>") << QByteArray("\t<A />\n\t<B />\n");
+        QTest::newRow("white space keeps an element")
+            << QByteArray("<A> </A>") << QByteArray("\t<A>\n\t</A>\n");
+        QTest::newRow("an attribute keeps an element")
+            << QByteArray("<A a='1'/>") << QByteArray("\t<A a=\"1\">\n\t</A>\n");
+        QTest::newRow("children of a text element follow it")
+            << QByteArray("<A>text<B>\n</B></A>") << QByteArray("\t<A>text</A>\n\t<B>\n\t</B>\n");
+        QTest::newRow("text is trimmed, the last piece counts")
+            << QByteArray("<A> one <![CDATA[ two ]]></A>") << QByteArray("\t<A>two</A>\n");
+        QTest::newRow("one decoding after the parser")
+            << QByteArray("<A v='&amp;lt;_33_&amp;nbsp;&amp;amp;quot;'>\n</A><B>&amp;apos;_33_</B>")
+            << QByteArray("\t<A v=\"&lt;! &quot;\">\n\t</A>\n\t<B>&apos;!</B>\n");
+        QTest::newRow("names of the format") << QByteArray("<A_32_B_-9_ a_32_='1'/>")
+                                             << QByteArray("\t<A_32_B_-9_ a_32_=\"1\">\n\t</A_32_B_-9_>\n");
+        QTest::newRow("the last of two like attributes, in the place of the first")
+            << QByteArray("<A a='1' b='2' a='3'/>") << QByteArray("\t<A a=\"3\" b=\"2\">\n\t</A>\n");
+        QTest::newRow("long values of elements nobody opens")
+            << "<A v='" + QByteArray(10000, 'x') + "'/>"
+            << "\t<A v=\"" + QByteArray(10000, 'x') + "\">\n\t</A>\n";
+    }
 
-void TestDocument::firstEntryOfANameCounts()
-{
-    XmlDocument document(put("<DEVICE a='attribute'><a>child</a><b>1</b><b>2</b></DEVICE>"), "DEVICE");
-    QCOMPARE(document.root()->getString("a"), QString("attribute"));
-    QCOMPARE(document.root()->getInt("b", 0), 1);
-}
+    void resaves()
+    {
+        QFETCH(QByteArray, body);
+        QFETCH(QByteArray, written);
+        QCOMPARE(resaved("<DEVICE>" + body + "</DEVICE>"),
+                 declaration + "<DEVICE>\n" + written + "</DEVICE>\n");
+    }
 
-void TestDocument::commitTakesTheTableBack()
-{
-    const QString path = put(declaration + "<DEVICE a='1'>\n<b>old</b>\n<c>\xE6</c>\n</DEVICE>");
-    XmlDocument document(path, "DEVICE");
-    CXmlSection* const root = document.root();
-    root->setInt("b", 5);
-    root->setString("d", "first");
-    const CXmlSection before(root->document(), root->document()->node(nullptr, "DEVICE"));
-    root->commit();
-    QCOMPARE(before.getInt("d", 7), 7);
-    root->setString("d", "second");
-    root->commit();
-    const CXmlSection after(root->document(), root->document()->node(nullptr, "DEVICE"));
-    QCOMPARE(after.getString("d"), QString("second"));
-    document.save();
-    QCOMPARE(contentOf(path),
-             declaration + "<DEVICE a=\"1\" d=\"second\">\n\t<b>5</b>\n\t<c>?</c>\n</DEVICE>\n");
-}
+    void escapesNames()
+    {
+        const QString characters = QString::fromUtf8(" &><\"'!:;%`~@#$^*()-+=|\\÷×,/");
+        const int codes[] = {32, 38, 62, 60, 34, 39, 33, 58, 59,  37, 96, 126, 64, 35,
+                             36, 94, 42, 40, 41, 45, 43, 61, 124, 92, -9, -41, 44, 47};
+        QCOMPARE(characters.size(), int(std::size(codes)));
+        for (int i = 0; i < characters.size(); ++i) {
+            const QString name = QString("NAME_1%1b%1").arg(characters[i]);
+            const QString escaped = QString("NAME_1_%1_b_%1_").arg(codes[i]);
+            QCOMPARE(vlk::escapeName(name), escaped);
+            QCOMPARE(vlk::unescapeName(escaped), name);
+        }
+    }
 
-void TestDocument::clearReachesOneLevel()
-{
-    const QString path = put("<DEVICE a='1'><A a='1'><B a='1'/></A></DEVICE>");
-    XmlDocument document(path, "DEVICE");
-    const auto a = document.root()->child("A");
-    auto b = a->child("B");
-    b->clear();
-    QCOMPARE(b->getInt("a", 9), 9);
-    QCOMPARE(a->child("B")->getInt("a", 9), 1);
-    b.reset();
-    a->clear();
-    QVERIFY(!CXmlSectionPtr(a->firstChild("B")));
-    QCOMPARE(document.root()->child("A")->getInt("a", 9), 9);
-    document.root()->clear();
-    document.save();
-    QCOMPARE(contentOf(path), declaration + "<DEVICE>\n</DEVICE>\n");
-}
+    // A value set on an element, in the next section on it, in the file and after the way through the file.
+    void carriesTexts_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("carried");
+        const QString cyrillic(300, QChar(0x0436));
+        QTest::newRow("254 bytes") << cyrillic.left(254) << cyrillic.left(254);
+        QTest::newRow("255 bytes") << QString(255, '1') << QString(255, '1');
+        QTest::newRow("256 bytes") << QString(256, '1') << QString(255, '1');
+        QTest::newRow("10,000 bytes") << QString(10000, 'x') << QString(255, 'x');
+        QTest::newRow("300 letters") << cyrillic << cyrillic.left(255);
+        QTest::newRow("outside the encoding") << QString::fromUtf8("∞ and 😀") << "? and ?";
+        QTest::newRow("lone surrogate") << QString(QChar(0xD83D)) + "a"
+                                        << "?a";
+        QTest::newRow("NUL ends it") << QString::fromLatin1("ab\0cd", 5) << "ab";
+        QTest::newRow("markup") << "<![CDATA[ ]]>&#1;\"'"
+                                << "<![CDATA[ ]]>&#1;\"'";
+    }
 
-void TestDocument::walksLikeNamedChildren()
-{
-    XmlDocument document(put("<DEVICE><T v='0'/><D v='1'/><D v='2'/><T/><D v='3'/></DEVICE>"), "DEVICE");
-    QStringList seen;
-    for (CXmlSectionPtr row(document.root()->firstChild("D")); row; row.reset(document.root()->nextChild()))
-        seen += row->getString("v");
-    QCOMPARE(seen.join(' '), QString("1 2 3"));
-    document.root()->setInt("new", 1);
-    QVERIFY(!CXmlSectionPtr(document.root()->firstChild("new")));
-    QVERIFY(!CXmlSectionPtr(document.root()->firstChild("none")));
-}
+    void carriesTexts()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, carried);
+        const QString path = put({});
+        {
+            XmlDocument document(path, "DEVICE");
+            const auto group = document.root()->child("GROUP", 3);
+            group->setString("before", "1");
+            group->setString("text", text);
+            group->setString("after", "2");
+            QCOMPARE(group->getString("text"), carried);
+            group->commit();
+            QCOMPARE(document.root()->child("GROUP")->getString("text"), carried);
+            document.root()->setChildValue("Name", text);
+            document.save();
+        }
+        XmlDocument document(path, "DEVICE");
+        const auto group = document.root()->child("GROUP");
+        QCOMPARE(group->getString("before"), QString("1"));
+        QCOMPARE(group->getString("text"), carried);
+        QCOMPARE(group->getString("after"), QString("2"));
+        QCOMPARE(document.root()->getString("Name"), carried);
+        QDomDocument independent;
+        QVERIFY(independent.setContent(contentOf(path)));
+        QCOMPARE(independent.elementsByTagName("GROUP").at(0).toElement().attribute("text"), carried);
+    }
 
-void TestDocument::survivesBadFiles_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QByteArray binary;
-    for (int i = 0; i < 5000; ++i)
-        binary += static_cast<char>(i * i >> 3);
-    QTest::newRow("truncated") << QByteArray("<DEVICE a='1'><TRACK b='2'");
-    QTest::newRow("one blank") << QByteArray(" ");
-    QTest::newRow("no element") << declaration;
-    QTest::newRow("two roots") << QByteArray("<DEVICE/><DEVICE/>");
-    QTest::newRow("binary") << binary;
-    QTest::newRow("NULs") << QByteArray(1000, '\0');
-    QTest::newRow("100,000 levels") << QByteArray("<A>").repeated(100000) +
-                                           QByteArray("</A>").repeated(100000);
-    QTest::newRow("declared utf-16") << QByteArray("<?xml version='1.0' encoding='utf-16'?><DEVICE/>");
-    QTest::newRow("entities that grow")
-        << QByteArray("<!DOCTYPE D [<!ENTITY a 'aaaa'><!ENTITY b '&a;&a;'>]><DEVICE a='&b;'>&b;</DEVICE>");
-    QTest::newRow("declarations that nest")
-        << "<!DOCTYPE D [<!ELEMENT D " + QByteArray("(").repeated(1000000) + ">]><DEVICE/>";
-    QTest::newRow("100 MB") << "<DEVICE>" + QByteArray(100'000'000, ' ') + "</DEVICE>";
-}
+    void readsNumbers_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("whole");
+        QTest::addColumn<double>("real");
+        QTest::newRow("number") << "4000" << 4000 << 4000.0;
+        QTest::newRow("leading blanks and sign") << "  -12.5" << -12 << -12.5;
+        QTest::newRow("plus") << "+3e2x" << 3 << 300.0;
+        QTest::newRow("tail") << "12abc" << 12 << 12.0;
+        QTest::newRow("none") << "abc" << 0 << 0.0;
+        QTest::newRow("empty") << "" << 0 << 0.0;
+        QTest::newRow("comma") << "1,5" << 1 << 1.0;
+        QTest::newRow("not finite") << "inf" << 0 << 0.0;
+        QTest::newRow("32 bits") << "4294967295" << -1 << 4294967295.0;
+    }
 
-void TestDocument::survivesBadFiles()
-{
-    QFETCH(QByteArray, content);
-    const QString path = put(content);
-    XmlDocument document(path, "DEVICE");
-    CXmlSection* const root = document.root();
-    QVERIFY(!document.isOpen());
-    QVERIFY(!CXmlSectionPtr(root->section("A")));
-    QCOMPARE(root->getInt("a", 5), 5);
-    root->setInt("a", 1);
-    root->setChildValue("b", "c");
-    root->clear();
-    document.save();
-    QVERIFY(contentOf(path) == content);
-}
+    void readsNumbers()
+    {
+        QFETCH(QString, text);
+        setlocale(LC_NUMERIC, "ru_RU.UTF-8");
+        XmlDocument document(QString(), "DEVICE");
+        CXmlSection* const root = document.root();
+        root->setString("key", text);
+        QTEST(root->getInt("key", 99), "whole");
+        QTEST(root->getDouble("key", 99), "real");
+        QCOMPARE(root->getFloat("key", 99), static_cast<float>(root->getDouble("key", 99)));
+        QCOMPARE(root->getInt("Key", 99), 99);
+        QCOMPARE(root->getFloat("", 1.5F), 1.5F);
+        QCOMPARE(root->getString("KEY", "other"), QString("other"));
+    }
 
-void TestDocument::opensWhatIsNoDocumentYet()
-{
-    const QString path = put({});
-    QVERIFY(XmlDocument(path, "DEVICE").isOpen());
-    QCOMPARE(contentOf(path), QByteArray());
-    QVERIFY(XmlDocument(path, "DEVICE").isOpen());
+    void commitTakesTheTableBack()
+    {
+        const QString path = put(declaration + "<DEVICE a='1'>\n<b>old</b>\n<c>\xE6</c>\n</DEVICE>");
+        XmlDocument document(path, "DEVICE");
+        CXmlSection* const root = document.root();
+        root->setInt("b", 5);
+        root->setString("d", "first");
+        const CXmlSection before(root->document(), root->document()->node(nullptr, "DEVICE"));
+        root->commit();
+        QCOMPARE(before.getInt("d", 7), 7);
+        root->setString("d", "second");
+        root->commit();
+        const CXmlSection after(root->document(), root->document()->node(nullptr, "DEVICE"));
+        QCOMPARE(after.getString("d"), QString("second"));
+        document.save();
+        QCOMPARE(contentOf(path),
+                 declaration + "<DEVICE a=\"1\" d=\"second\">\n\t<b>5</b>\n\t<c>?</c>\n</DEVICE>\n");
+    }
 
-    const QString other = put("<FUEL a='1'/>");
-    XmlDocument document(other, "DEVICE");
-    QCOMPARE(document.root()->getInt("a", 9), 9);
-    document.save();
-    QCOMPARE(contentOf(other), declaration + "<DEVICE>\n</DEVICE>\n");
-}
+    void clearReachesOneLevel()
+    {
+        const QString path = put("<DEVICE a='1'><A a='1'><B a='1'/></A></DEVICE>");
+        XmlDocument document(path, "DEVICE");
+        const auto a = document.root()->child("A");
+        auto b = a->child("B");
+        b->clear();
+        QCOMPARE(b->getInt("a", 9), 9);
+        QCOMPARE(a->child("B")->getInt("a", 9), 1);
+        b.reset();
+        a->clear();
+        QVERIFY(!CXmlSectionPtr(a->firstChild("B")));
+        QCOMPARE(document.root()->child("A")->getInt("a", 9), 9);
+        document.root()->clear();
+        document.save();
+        QCOMPARE(contentOf(path), declaration + "<DEVICE>\n</DEVICE>\n");
+    }
 
-void TestDocument::livesInMemory()
-{
-    XmlDocument document(QString(), "DEVICE");
-    document.root()->child("A")->child("B", 3);
-    document.save();
-    QVERIFY(CXmlSectionPtr(document.root()->child("A")->firstChild("B")));
-}
+    void findsEntriesInOrder()
+    {
+        XmlDocument named(put("<DEVICE a='attribute'><a>child</a><b>1</b><b>2</b></DEVICE>"), "DEVICE");
+        QCOMPARE(named.root()->getString("a"), QString("attribute"));
+        QCOMPARE(named.root()->getInt("b", 0), 1);
+
+        XmlDocument document(put("<DEVICE><T v='0'/><D v='1'/><D v='2'/><T/><D v='3'/></DEVICE>"), "DEVICE");
+        QStringList seen;
+        for (CXmlSectionPtr row(document.root()->firstChild("D")); row;
+             row.reset(document.root()->nextChild()))
+            seen += row->getString("v");
+        QCOMPARE(seen.join(' '), QString("1 2 3"));
+        document.root()->setInt("new", 1);
+        QVERIFY(!CXmlSectionPtr(document.root()->firstChild("new")));
+        QVERIFY(!CXmlSectionPtr(document.root()->firstChild("none")));
+    }
+
+    void survivesBadFiles_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QByteArray binary;
+        for (int i = 0; i < 5000; ++i)
+            binary += static_cast<char>(i * i >> 3);
+        QTest::newRow("truncated") << QByteArray("<DEVICE a='1'><TRACK b='2'");
+        QTest::newRow("one blank") << QByteArray(" ");
+        QTest::newRow("no element") << declaration;
+        QTest::newRow("two roots") << QByteArray("<DEVICE/><DEVICE/>");
+        QTest::newRow("binary") << binary;
+        QTest::newRow("NULs") << QByteArray(1000, '\0');
+        QTest::newRow("100,000 levels")
+            << QByteArray("<A>").repeated(100000) + QByteArray("</A>").repeated(100000);
+        QTest::newRow("declared utf-16") << QByteArray("<?xml version='1.0' encoding='utf-16'?><DEVICE/>");
+        QTest::newRow("entities that grow") << QByteArray(
+            "<!DOCTYPE D [<!ENTITY a 'aaaa'><!ENTITY b '&a;&a;'>]><DEVICE a='&b;'>&b;</DEVICE>");
+        QTest::newRow("declarations that nest")
+            << "<!DOCTYPE D [<!ELEMENT D " + QByteArray("(").repeated(1000000) + ">]><DEVICE/>";
+        QTest::newRow("too long") << "<DEVICE>" + QByteArray(CSerialize::maxFileSize, ' ') + "</DEVICE>";
+    }
+
+    void survivesBadFiles()
+    {
+        QFETCH(QByteArray, content);
+        const QString path = put(content);
+        XmlDocument document(path, "DEVICE");
+        CXmlSection* const root = document.root();
+        QVERIFY(!document.isOpen());
+        QVERIFY(!CXmlSectionPtr(root->section("A")));
+        QCOMPARE(root->getInt("a", 5), 5);
+        root->setInt("a", 1);
+        root->setChildValue("b", "c");
+        root->clear();
+        document.save();
+        QVERIFY(contentOf(path) == content);
+    }
+
+    void opensWhatIsNoDocumentYet()
+    {
+        const QString path = put({});
+        QVERIFY(XmlDocument(path, "DEVICE").isOpen());
+        QCOMPARE(contentOf(path), QByteArray());
+        QVERIFY(XmlDocument(path, "DEVICE").isOpen());
+        XmlDocument inMemory(QString(), "DEVICE");
+        inMemory.root()->child("A")->child("B", 3);
+        inMemory.save();
+        QVERIFY(CXmlSectionPtr(inMemory.root()->child("A")->firstChild("B")));
+
+        const QString other = put("<FUEL a='1'/>");
+        XmlDocument document(other, "DEVICE");
+        QCOMPARE(document.root()->getInt("a", 9), 9);
+        document.save();
+        QCOMPARE(contentOf(other), declaration + "<DEVICE>\n</DEVICE>\n");
+    }
+};
 
 } // namespace
 

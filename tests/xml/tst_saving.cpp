@@ -86,147 +86,141 @@ private:
     QString path_;
 
 private Q_SLOTS:
-    void savesWhatItMay_data();
-    void savesWhatItMay();
-    void survivesAKill_data();
-    void survivesAKill();
-    void keepsLinkAndRights();
-    void leavesFoldersAlone();
-};
-
-void TestSaving::savesWhatItMay_data()
-{
-    QTest::addColumn<int>("folderRights");
-    QTest::addColumn<int>("fileRights");
-    QTest::addColumn<int>("old");
-    QTest::addColumn<int>("now");
-    QTest::addColumn<int>("diskSpace");
-    QTest::addColumn<bool>("saved");
-    const int any = 1 << 20;
-    const int open = openFolder;
-    const int closed = closedFolder;
-    QTest::newRow("over an old file") << open << 0666 << 9 << 5 << any << true;
-    QTest::newRow("over an empty file") << open << 0666 << 0 << 5 << any << true;
-    QTest::newRow("closed folder, longer") << closed << 0666 << 5 << 9 << any << true;
-    QTest::newRow("closed folder, shorter") << closed << 0666 << 9 << 5 << any << true;
-    QTest::newRow("closed folder, empty file") << closed << 0666 << 0 << 5 << any << true;
-    QTest::newRow("closed folder, closed file") << closed << 0444 << 9 << 5 << any << false;
-    QTest::newRow("closed file") << open << 0444 << 9 << 5 << any << false;
-    QTest::newRow("closed empty file") << open << 0444 << 0 << 5 << any << false;
-    QTest::newRow("disk full") << open << 0666 << 9 << 50 << 600 << false;
-    QTest::newRow("disk full, both too long") << open << 0666 << 90 << 50 << 600 << false;
-    QTest::newRow("disk full, closed folder") << closed << 0666 << 9 << 50 << 600 << false;
-    QTest::newRow("disk full, closed folder, empty file") << closed << 0666 << 0 << 50 << 600 << false;
-    QTest::newRow("disk full, closed folder, both too long") << closed << 0666 << 90 << 50 << 600 << false;
-}
-
-void TestSaving::savesWhatItMay()
-{
-    QFETCH(int, folderRights);
-    QFETCH(int, fileRights);
-    QFETCH(int, old);
-    QFETCH(int, now);
-    QFETCH(int, diskSpace);
-    QFETCH(bool, saved);
-    prepare(old, static_cast<mode_t>(folderRights), static_cast<mode_t>(fileRights));
-    const pid_t child = fork();
-    if (child == 0) {
-        becomeNobody();
-        const rlimit limit{static_cast<rlim_t>(diskSpace), static_cast<rlim_t>(diskSpace)};
-        std::signal(SIGXFSZ, SIG_IGN);
-        _exit(setrlimit(RLIMIT_FSIZE, &limit) == 0 ? (saveWith(path_, now), 0) : 3);
+    void savesWhatItMay_data()
+    {
+        QTest::addColumn<int>("folderRights");
+        QTest::addColumn<int>("fileRights");
+        QTest::addColumn<int>("old");
+        QTest::addColumn<int>("now");
+        QTest::addColumn<int>("diskSpace");
+        QTest::addColumn<bool>("saved");
+        const int any = 1 << 20;
+        const int open = openFolder;
+        const int closed = closedFolder;
+        QTest::newRow("over an old file") << open << 0666 << 9 << 5 << any << true;
+        QTest::newRow("over an empty file") << open << 0666 << 0 << 5 << any << true;
+        QTest::newRow("closed folder, longer") << closed << 0666 << 5 << 9 << any << true;
+        QTest::newRow("closed folder, shorter") << closed << 0666 << 9 << 5 << any << true;
+        QTest::newRow("closed folder, empty file") << closed << 0666 << 0 << 5 << any << true;
+        QTest::newRow("closed folder, closed file") << closed << 0444 << 9 << 5 << any << false;
+        QTest::newRow("closed file") << open << 0444 << 9 << 5 << any << false;
+        QTest::newRow("closed empty file") << open << 0444 << 0 << 5 << any << false;
+        QTest::newRow("disk full") << open << 0666 << 9 << 50 << 600 << false;
+        QTest::newRow("disk full, both too long") << open << 0666 << 90 << 50 << 600 << false;
+        QTest::newRow("disk full, closed folder") << closed << 0666 << 9 << 50 << 600 << false;
+        QTest::newRow("disk full, closed folder, empty file") << closed << 0666 << 0 << 50 << 600 << false;
+        QTest::newRow("disk full, closed folder, both too long")
+            << closed << 0666 << 90 << 50 << 600 << false;
     }
-    int status = 0;
-    QCOMPARE(waitpid(child, &status, 0), child);
-    QVERIFY(WIFEXITED(status));
-    QCOMPARE(WEXITSTATUS(status), 0);
-    QCOMPARE(content(), documentWith(saved ? now : old));
-    QCOMPARE(strays(), QStringList());
-}
 
-void TestSaving::survivesAKill_data()
-{
-    QTest::addColumn<int>("folderRights");
-    QTest::addColumn<int>("old");
-    QTest::newRow("over an old file") << int(openFolder) << 9;
-    QTest::newRow("over an empty file") << int(openFolder) << 0;
-    QTest::newRow("in place, longer") << int(closedFolder) << 9;
-    QTest::newRow("in place, shorter") << int(closedFolder) << 40;
-    QTest::newRow("in place, empty file") << int(closedFolder) << 0;
-}
-
-// The process is stopped at its 1st, 2nd, 3rd... entry to or return from the system, and killed there.
-void TestSaving::survivesAKill()
-{
-    QFETCH(int, folderRights);
-    QFETCH(int, old);
-    const int now = 20;
-    const auto isWhole = [](const QByteArray& found, int groups) {
-        return found.trimmed() == documentWith(groups).trimmed();
-    };
-    int kills = 0;
-    int keptOld = 0;
-    bool finished = false;
-    for (; !finished; ++kills) {
-        prepare(old, static_cast<mode_t>(folderRights));
+    void savesWhatItMay()
+    {
+        QFETCH(int, folderRights);
+        QFETCH(int, fileRights);
+        QFETCH(int, old);
+        QFETCH(int, now);
+        QFETCH(int, diskSpace);
+        QFETCH(bool, saved);
+        prepare(old, static_cast<mode_t>(folderRights), static_cast<mode_t>(fileRights));
         const pid_t child = fork();
         if (child == 0) {
             becomeNobody();
-            if (ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0)
-                _exit(2);
-            raise(SIGSTOP);
-            saveWith(path_, now);
-            _exit(0);
+            const rlimit limit{static_cast<rlim_t>(diskSpace), static_cast<rlim_t>(diskSpace)};
+            std::signal(SIGXFSZ, SIG_IGN);
+            _exit(setrlimit(RLIMIT_FSIZE, &limit) == 0 ? (saveWith(path_, now), 0) : 3);
         }
         int status = 0;
         QCOMPARE(waitpid(child, &status, 0), child);
-        QVERIFY2(WIFSTOPPED(status), "the system does not let a process be traced");
-        for (int step = 0; step < kills && WIFSTOPPED(status); ++step) {
-            QCOMPARE(ptrace(PTRACE_SYSCALL, child, nullptr, nullptr), 0L);
-            QCOMPARE(waitpid(child, &status, 0), child);
-        }
-        finished = WIFEXITED(status);
-        if (!finished) {
-            kill(child, SIGKILL);
-            waitpid(child, &status, 0);
-        }
-        const QByteArray found = content();
-        const bool isOld = isWhole(found, old) || (old == 0 && found == "no file");
-        keptOld += isOld ? 1 : 0;
-        QVERIFY2(isOld || isWhole(found, now), found.constData());
-        // Only between taking its name beside the old file and taking the old file's name can the new one be
-        // seen, and then it is whole.
-        const QStringList left = strays();
-        QVERIFY(left.isEmpty() || (folderRights == openFolder && old > 0 && isOld));
-        for (const QString& name : left)
-            QCOMPARE(content(name), documentWith(now));
+        QVERIFY(WIFEXITED(status));
+        QCOMPARE(WEXITSTATUS(status), 0);
+        QCOMPARE(content(), documentWith(saved ? now : old));
+        QCOMPARE(strays(), QStringList());
     }
-    QCOMPARE(content(), documentWith(now));
-    QVERIFY(keptOld > 0 && kills > keptOld);
-}
 
-void TestSaving::keepsLinkAndRights()
-{
-    prepare(3, openFolder, 0640);
-    const QString link = folder_->filePath("link.xml");
-    QVERIFY(QFile::link("file.xml", link));
-    saveWith(link, 5);
-    QVERIFY(QFileInfo(link).isSymLink());
-    QCOMPARE(content(), documentWith(5));
-    struct stat info;
-    QCOMPARE(stat(qPrintable(path_), &info), 0);
-    QCOMPARE(info.st_mode & 0777U, 0640U);
-}
+    void survivesAKill_data()
+    {
+        QTest::addColumn<int>("folderRights");
+        QTest::addColumn<int>("old");
+        QTest::newRow("over an old file") << int(openFolder) << 9;
+        QTest::newRow("over an empty file") << int(openFolder) << 0;
+        QTest::newRow("in place, longer") << int(closedFolder) << 9;
+        QTest::newRow("in place, shorter") << int(closedFolder) << 40;
+        QTest::newRow("in place, empty file") << int(closedFolder) << 0;
+    }
 
-void TestSaving::leavesFoldersAlone()
-{
-    prepare(3);
-    saveWith(folder_->path(), 5);
-    saveWith(folder_->filePath("missing/file.xml"), 5);
-    QCOMPARE(content(), documentWith(3));
-    QCOMPARE(QDir(folder_->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-             QStringList("file.xml"));
-}
+    // The process is stopped at its 1st, 2nd, 3rd... entry to or return from the system, and killed there.
+    void survivesAKill()
+    {
+        QFETCH(int, folderRights);
+        QFETCH(int, old);
+        const int now = 20;
+        const auto isWhole = [](const QByteArray& found, int groups) {
+            return found.trimmed() == documentWith(groups).trimmed();
+        };
+        int kills = 0;
+        int keptOld = 0;
+        bool finished = false;
+        for (; !finished; ++kills) {
+            prepare(old, static_cast<mode_t>(folderRights));
+            const pid_t child = fork();
+            if (child == 0) {
+                becomeNobody();
+                if (ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0)
+                    _exit(2);
+                raise(SIGSTOP);
+                saveWith(path_, now);
+                _exit(0);
+            }
+            int status = 0;
+            QCOMPARE(waitpid(child, &status, 0), child);
+            QVERIFY2(WIFSTOPPED(status), "the system does not let a process be traced");
+            for (int step = 0; step < kills && WIFSTOPPED(status); ++step) {
+                QCOMPARE(ptrace(PTRACE_SYSCALL, child, nullptr, nullptr), 0L);
+                QCOMPARE(waitpid(child, &status, 0), child);
+            }
+            finished = WIFEXITED(status);
+            if (!finished) {
+                kill(child, SIGKILL);
+                waitpid(child, &status, 0);
+            }
+            const QByteArray found = content();
+            const bool isOld = isWhole(found, old) || (old == 0 && found == "no file");
+            keptOld += isOld ? 1 : 0;
+            QVERIFY2(isOld || isWhole(found, now), found.constData());
+            // Only between taking its name beside the old file and taking the old file's name can the new one
+            // be seen, and then it is whole.
+            const QStringList left = strays();
+            QVERIFY(left.isEmpty() || (folderRights == openFolder && old > 0 && isOld));
+            for (const QString& name : left)
+                QCOMPARE(content(name), documentWith(now));
+        }
+        QCOMPARE(content(), documentWith(now));
+        QVERIFY(keptOld > 0 && kills > keptOld);
+    }
+
+    void keepsLinkAndRights()
+    {
+        prepare(3, openFolder, 0640);
+        const QString link = folder_->filePath("link.xml");
+        QVERIFY(QFile::link("file.xml", link));
+        saveWith(link, 5);
+        QVERIFY(QFileInfo(link).isSymLink());
+        QCOMPARE(content(), documentWith(5));
+        struct stat info;
+        QCOMPARE(stat(qPrintable(path_), &info), 0);
+        QCOMPARE(info.st_mode & 0777U, 0640U);
+    }
+
+    void leavesFoldersAlone()
+    {
+        prepare(3);
+        saveWith(folder_->path(), 5);
+        saveWith(folder_->filePath("missing/file.xml"), 5);
+        QCOMPARE(content(), documentWith(3));
+        QCOMPARE(QDir(folder_->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+                 QStringList("file.xml"));
+    }
+};
 
 } // namespace
 

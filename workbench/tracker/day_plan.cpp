@@ -91,13 +91,18 @@ private:
     {
         segment.from = midnight_ + elapsed_;
         segment.trip = static_cast<quint16>(trip_);
+        const bool ignition = segment.activity == Activity::Driving || segment.activity == Activity::Idling;
+        if (ignition)
+            now_.ignitionOffSince = 0;
+        else if (now_.ignitionOffSince == 0)
+            now_.ignitionOffSince = segment.from;
         segment.at = now_;
         const bool driving = segment.activity == Activity::Driving;
         now_.records += segment.recordCount();
         now_.km += segment.metres / metresPerKm;
         now_.fuel += segment.fuelDelta;
         now_.fuelUsed += std::max(0.0, -segment.fuelDelta);
-        now_.engineSeconds += driving || segment.activity == Activity::Idling ? segment.seconds : 0;
+        now_.engineSeconds += ignition ? segment.seconds : 0;
         now_.loadSeconds += driving ? segment.seconds : 0;
         elapsed_ += segment.seconds;
         segments_.push_back(segment);

@@ -19,7 +19,8 @@ struct Odometers
     double fuel = 300;       // litres in the tanks
     double fuelUsed = 18420; // litres since the vehicle was new
     double engineSeconds = 4.1e6;
-    double loadSeconds = 2.9e6; // of these, driving
+    double loadSeconds = 2.9e6;  // of these, driving
+    qint64 ignitionOffSince = 0; // Unix seconds, 0 while it is on
 };
 
 // A stretch of time with one activity. Its records are made at its beginning and every `interval` seconds.

@@ -86,7 +86,9 @@ Moment Drive::record(quint32 number)
     Moment result = moment(segment, segment.from + qint64(place.index) * segment.interval());
     result.number = number;
     nameRecord(result, segment, place.index, mix(mix(seed_, CodeSeed), number));
-    if (number > 0) {
+    if (number == 0) {
+        result.code = static_cast<quint16>(EventCode::Restart);
+    } else {
         const Place before = placeOf(number - 1);
         const Moment last = moment(*before.segment, before.time());
         result.segmentKm = result.at.km - last.at.km;
@@ -156,7 +158,6 @@ Moment Drive::moment(const Segment& segment, qint64 time) const
     Moment result;
     result.time = time;
     result.activity = segment.activity;
-    result.since = segment.from;
     result.trip = segment.trip;
     result.seed = seed_;
     result.speed = segment.speedAt(elapsed);

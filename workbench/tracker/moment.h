@@ -18,7 +18,6 @@ struct Moment
     RecordKind kind = RecordKind::Telemetry;
 
     Activity activity = Activity::Parked;
-    qint64 since = 0;        // when that began
     int trip = 0;            // of the day
     double speed = 0;        // km/h
     double acceleration = 0; // m/s2

@@ -30,7 +30,7 @@ double Vehicle::drift(int what, double low, double high, double seconds) const
 
 double Vehicle::parkedSeconds() const
 {
-    return running() ? 0 : static_cast<double>(m.time - m.since);
+    return m.at.ignitionOffSince ? static_cast<double>(m.time - m.at.ignitionOffSince) : 0;
 }
 
 // Device and connection

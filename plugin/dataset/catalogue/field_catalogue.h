@@ -103,10 +103,18 @@ inline constexpr std::array<Field, kFieldCount> kFields = [] {
     return fields;
 }();
 
-// Bytes of the first `fieldCount` fields together.
+// At n the bytes of the first n fields together.
+inline constexpr std::array<std::uint16_t, kFieldCount + 1> kBytesBefore = [] {
+    std::array<std::uint16_t, kFieldCount + 1> bytes{};
+    for (int i = 0; i < kFieldCount; ++i)
+        bytes[i + 1] = static_cast<std::uint16_t>(bytes[i] + kFields[i].width);
+    return bytes;
+}();
+
+// Bytes of a block that holds the first `fieldCount` fields.
 constexpr int blockBytes(int fieldCount)
 {
-    return kFields[fieldCount - 1].offset + kFields[fieldCount - 1].width;
+    return kBytesBefore[fieldCount];
 }
 
 inline constexpr int kBlockBytes = blockBytes(kFieldCount);

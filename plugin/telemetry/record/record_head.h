@@ -29,11 +29,18 @@ struct RecordHead
 // Bytes that never came count as 0.
 inline RecordHead readHead(std::span<const std::uint8_t> record)
 {
+    RecordHead head;
     FieldMask::Bytes mask{};
-    if (record.size() > 2)
-        std::ranges::copy(record.subspan(2, std::min(record.size() - 2, mask.size())), mask.begin());
-    return {record.empty() ? std::uint8_t{0} : record[0], record.size() < 2 ? std::uint8_t{0} : record[1],
-            FieldMask(mask)};
+    if (record.size() >= RecordHead::kBytes)
+        std::copy_n(record.begin() + 2, mask.size(), mask.begin());
+    else if (record.size() > 2)
+        std::ranges::copy(record.subspan(2), mask.begin());
+    head.mask = FieldMask(mask);
+    if (!record.empty())
+        head.type = record[0];
+    if (record.size() > 1)
+        head.ver = record[1];
+    return head;
 }
 
 // What stands behind the first `head` bytes.

@@ -31,7 +31,6 @@ protected:
     void unpack(const FieldMask& mask, std::span<const std::uint8_t> payload)
     {
         mask_ = mask;
-        block_.fill(0);
         unpackFields(mask_, fieldCount, payload, block_.data());
     }
 

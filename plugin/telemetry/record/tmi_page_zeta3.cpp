@@ -3,6 +3,8 @@
 #include "base/clock.h"
 #include "telemetry/record/record_head.h"
 
+#include <cstring>
+
 using namespace vlk;
 
 TmiPage_Zeta3::TmiPage_Zeta3(const FieldMask& mask) : TmiPage_Zeta3(0, 0, mask, {}) {}
@@ -87,6 +89,8 @@ void TmiPage_Zeta3::setPayload(std::span<const std::uint8_t> bytes)
     const int size = static_cast<int>(bytes.size());
     if (payload_.capacity() < size)
         payload_.reserve(size);
-    payload_.resize(size);
-    std::ranges::copy(bytes, payload_.begin());
+    if (payload_.size() != size)
+        payload_.resize(size);
+    if (size > 0)
+        std::memcpy(payload_.data(), bytes.data(), bytes.size());
 }

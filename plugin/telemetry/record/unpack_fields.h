@@ -9,9 +9,8 @@
 namespace vlk {
 
 // Copies the fields that the mask selects, of the first `fieldCount`, from `payload` to their places in
-// `block`. Bytes of fields that are not selected stay as they are. A payload shorter than its mask demands
-// gives the values that are whole in it, in a group too, and leaves the others. `block` has room for
-// blockBytes(fieldCount).
+// `block`, and zeroes the rest of its blockBytes(fieldCount) bytes. A payload shorter than its mask demands
+// gives the values that are whole in it, in a group too; the others are zero.
 void unpackFields(const FieldMask& mask, int fieldCount, std::span<const std::uint8_t> payload,
                   std::uint8_t* block);
 

@@ -1,0 +1,116 @@
+#pragma once
+
+// A tracker on the bench: a store of its own, a clock that stands until it is moved, and a plug-in that
+// keeps what it is told.
+
+#include "tracker/simulated_tracker.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+struct Told
+{
+    vlk::Message id;
+    QByteArray first; // of a record its bytes
+    QByteArray second;
+};
+
+// Bytes of the fixed records, by message.
+inline int recordSize(vlk::Message id)
+{
+    switch (id) {
+    case vlk::Message::SupplyValues:
+        return sizeof(vlk::SupplyRecord);
+    case vlk::Message::AnalogRecord:
+        return vlk::analogRecordSize;
+    case vlk::Message::AccelRecord:
+        return sizeof(vlk::AccelValues);
+    case vlk::Message::AccelCommandResult:
+        return vlk::accelResultSize;
+    case vlk::Message::LiveKey:
+    case vlk::Message::RfidNumber:
+        return sizeof(vlk::IdPair);
+    case vlk::Message::BtDeviceFound:
+        return sizeof(vlk::BtDevice);
+    case vlk::Message::CanLogProgram:
+        return sizeof(std::int32_t);
+    case vlk::Message::BtSearchEvent:
+    case vlk::Message::BtSearchStopped:
+    case vlk::Message::TachographFileReady:
+        return 1;
+    default:
+        return 0;
+    }
+}
+
+class BenchTracker
+{
+public:
+    explicit BenchTracker(const QString& folder = {}) : folder_(folder.isEmpty() ? own_.path() : folder)
+    {
+        restart();
+    }
+
+    void restart()
+    {
+        tracker = std::make_unique<tracker::SimulatedTracker>(
+            folder_, nullptr, [this] { return QDateTime::fromSecsSinceEpoch(now, Qt::UTC); });
+        tracker->setSender([this](vlk::Message id, void* p1, void* p2) {
+            const int size = recordSize(id);
+            const QByteArray first = !p1    ? QByteArray()
+                                     : size ? QByteArray(static_cast<char*>(p1), size)
+                                            : *static_cast<QByteArray*>(p1);
+            told.append({id, first, p2 ? QByteArray(static_cast<char*>(p2), 1) : QByteArray()});
+        });
+        tracker->attach();
+    }
+
+    // The first answer; empty when none comes in far more time than it takes.
+    Told ask(vlk::Message id, void* p1 = nullptr, int timeoutMs = 20000)
+    {
+        told.clear();
+        tracker->handle(id, p1, nullptr);
+        QElapsedTimer timer;
+        timer.start();
+        while (told.isEmpty() && timer.elapsed() < timeoutMs)
+            QTest::qWait(2);
+        return told.isEmpty() ? Told{} : told.first();
+    }
+    Told ask(vlk::Message id, int value) { return ask(id, plain(value)); }
+    // No answer comes in the time that it would take.
+    bool silent(vlk::Message id, void* p1 = nullptr) { return ask(id, p1, 200).id == vlk::Message{}; }
+    static void* plain(int value) { return reinterpret_cast<void*>(std::intptr_t(value)); }
+
+    QByteArray recordByNumber(quint32 number)
+    {
+        return ask(vlk::Message::RequestRecordByNumber, &number).first.mid(vlk::recordByNumberHeader);
+    }
+
+    QString file(const QString& name, const QByteArray& content) const
+    {
+        QFile file(own_.filePath(name));
+        file.open(QIODevice::WriteOnly);
+        file.write(content);
+        return file.fileName();
+    }
+    QByteArray configuration() const
+    {
+        QFile file(tracker->readConfiguration(own_.filePath(QStringLiteral("read"))));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    tracker::WriteReport write(const QByteArray& document)
+    {
+        return tracker->writeConfiguration(file(QStringLiteral("written.xml"), document));
+    }
+    QString folder() const { return folder_; }
+
+    std::unique_ptr<tracker::SimulatedTracker> tracker;
+    QVector<Told> told;
+    qint64 now = 1780000000; // a Thursday in the afternoon
+
+private:
+    QTemporaryDir own_;
+    QString folder_;
+};

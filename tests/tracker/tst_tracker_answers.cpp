@@ -1,0 +1,263 @@
+// What the tracker answers besides records, the faults on the way, and requests that make no sense.
+
+#include "bench_tracker.h"
+
+#include "tracker/event_code.h"
+#include "window/key_translator.h"
+
+#include <QtEndian>
+
+#include <cmath>
+
+using vlk::Message;
+
+namespace {
+
+quint16 word(const QByteArray& bytes, int offset)
+{
+    return qFromLittleEndian<quint16>(bytes.constData() + offset);
+}
+
+template <typename T>
+T record(const QByteArray& bytes)
+{
+    T value{};
+    memcpy(&value, bytes.constData(), qMin<std::size_t>(sizeof value, bytes.size()));
+    return value;
+}
+
+} // namespace
+
+class TestTrackerAnswers : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void measuresLinesAndSupply()
+    {
+        BenchTracker bench;
+        QByteArray list = "21,22,23,99,x";
+        const QByteArray lines = bench.ask(Message::RequestLines, &list).first;
+        const QList<QByteArray> pairs = lines.mid(7).split(',');
+        QCOMPARE(pairs.size(), 3);
+        const QByteArray analog = bench.ask(Message::RequestAnalog).first;
+        for (int i = 0; i < 3; ++i) {
+            QCOMPARE(pairs[i].split(':')[0].toInt(), 21 + i);
+            QCOMPARE(pairs[i].split(':')[1].toInt(nullptr, 16), int(word(analog, 15 + 2 * i)));
+        }
+        QVERIFY(word(analog, 25) > 0 && word(analog, 25) <= 4095);
+        const auto supply = record<vlk::SupplyRecord>(bench.ask(Message::RequestSupply).first);
+        QVERIFY(supply.values[vlk::supplyElement] > 12000 && supply.values[vlk::supplyElement] < 14200);
+        const auto accel = record<vlk::AccelValues>(bench.ask(Message::RequestAccel).first);
+        QVERIFY(std::sqrt(accel.movement) * 100 / 1800 < 10);
+        QVERIFY(accel.tilt >= 0 && accel.tilt < 0.1);
+        QCOMPARE(int(bench.ask(Message::RequestAccelCommand).first.at(11)), 49);
+    }
+
+    void readsKeysTagsAndTheAdapter()
+    {
+        BenchTracker bench;
+        QVERIFY(record<quint64>(bench.ask(Message::RequestLiveKey).first) > 0);
+        const Told tag = bench.ask(Message::RequestRfid);
+        QVERIFY(record<quint64>(tag.first) > 0);
+        QVERIFY(tag.second.at(0) >= -95 && tag.second.at(0) <= -55);
+        std::int32_t program = 123456;
+        bench.tracker->handle(Message::SetCanLogProgram, &program, nullptr);
+        bench.restart();
+        QCOMPARE(record<std::int32_t>(bench.ask(Message::RequestCanLogProgram).first), program);
+        QCOMPARE(int(bench.ask(Message::WaitStepEnd).id), 2265);
+    }
+
+    void searchesBluetooth()
+    {
+        BenchTracker bench;
+        bench.ask(Message::StartBtSearch);
+        const auto last = [&bench] { return bench.told.isEmpty() ? QByteArray() : bench.told.last().first; };
+        QTRY_COMPARE_WITH_TIMEOUT(last(), QByteArray("1"), 20000);
+        QCOMPARE(bench.told.first().first, QByteArray("0"));
+        QVERIFY(bench.told.size() > 4);
+        const auto device = record<vlk::BtDevice>(bench.told[1].first);
+        QCOMPARE(qstrlen(device.mac), 17U);
+
+        bench.ask(Message::StartBtSearch);
+        QCOMPARE(bench.told.size(), 1);
+        bench.tracker->handle(Message::CancelBtSearch, nullptr, nullptr);
+        QTest::qWait(1200);
+        QCOMPARE(bench.told.size(), 2);
+        QCOMPARE(int(bench.told[1].id), 2259);
+        QCOMPARE(bench.told[1].first, QByteArray("3"));
+
+        bench.write("<DEVICE model=\"R-7106\"><BLUETOOTH><GLOBAL use=\"0\"/></BLUETOOTH></DEVICE>");
+        QCOMPARE(bench.ask(Message::StartBtSearch).first, QByteArray("2"));
+    }
+
+    void answersTheTachograph_data()
+    {
+        QTest::addColumn<int>("question");
+        QTest::addColumn<int>("size"); // 0: no answer
+        QTest::addColumn<int>("status");
+        QTest::newRow("state") << 1 << 37 << 0;
+        QTest::newRow("card 1") << 3 << 175 << 0;
+        QTest::newRow("card 2") << 4 << 175 << 0x20;
+        QTest::newRow("vehicle") << 5 << 119 << 0;
+        QTest::newRow("none") << 2 << 0 << 0;
+        QTest::newRow("wild") << -7 << 0 << 0;
+    }
+
+    void answersTheTachograph()
+    {
+        QFETCH(int, question);
+        QFETCH(int, size);
+        BenchTracker bench;
+        if (size == 0) {
+            QVERIFY(bench.silent(Message::TachographQuestion, BenchTracker::plain(question)));
+            return;
+        }
+        const QByteArray answer = bench.ask(Message::TachographQuestion, question).first;
+        QCOMPARE(answer.size(), size);
+        QCOMPARE(int(answer.at(6)), question);
+        QTEST(int(answer.at(7)), "status");
+    }
+
+    void makesTachographFiles_data()
+    {
+        QTest::addColumn<int>("code");
+        QTest::addColumn<quint32>("parameter");
+        QTest::addColumn<bool>("made");
+        for (int code = 0; code < 5; ++code)
+            QTest::addRow("vehicle %d", code) << code << quint32(1779000000) << true;
+        QTest::newRow("card 1") << 5 << 0xFFFFFF01 << true;
+        QTest::newRow("card 2") << 5 << 0xFFFFFF02 << false;
+        QTest::newRow("wild") << 200 << 0U << false;
+    }
+
+    void makesTachographFiles()
+    {
+        QFETCH(int, code);
+        QFETCH(quint32, parameter);
+        QFETCH(bool, made);
+        BenchTracker bench;
+        vlk::szQueryTaho request{0, static_cast<std::uint8_t>(code), parameter};
+        const QByteArray first = bench.ask(Message::TachographFileRequest, &request).first;
+        QCOMPARE(int(first.at(6)), 0);
+        QCOMPARE(int(first.at(7)), made ? 0x10 : 0x30);
+        QString path = bench.folder() + "/file.ddd";
+        if (!made) {
+            QCOMPARE(bench.ask(Message::TachographFileRead, &path).first, QByteArray(1, '\0'));
+            return;
+        }
+        QTRY_COMPARE_WITH_TIMEOUT(bench.told.size(), 3, 20000);
+        const QByteArray ready = bench.told.last().first;
+        QCOMPARE(int(ready.at(7)), 0);
+        QVERIFY(QByteArray(ready.constData() + 12).endsWith(".ddd"));
+        QCOMPARE(bench.ask(Message::TachographFileRead, &path).first, QByteArray(1, '\1'));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray content = file.readAll();
+        QCOMPARE(quint32(content.size()), qFromLittleEndian<quint32>(ready.constData() + 8));
+        int offset = 0;
+        while (offset + 5 <= content.size())
+            offset += 5 + qFromBigEndian<quint16>(content.constData() + offset + 3);
+        QCOMPARE(offset, content.size());
+        QString nowhere;
+        QCOMPARE(bench.ask(Message::TachographFileRead, &nowhere).first, QByteArray(1, '\0'));
+    }
+
+    void hasWordsForEveryEvent_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::newRow("ru") << "ru";
+        QTest::newRow("en") << "en";
+    }
+
+    void hasWordsForEveryEvent()
+    {
+        QFETCH(QString, language);
+        KeyTranslator translator;
+        QVERIFY(translator.load(language, VLK_TEXTS));
+        QCoreApplication::installTranslator(&translator);
+        BenchTracker bench;
+        QSet<QString> texts;
+        QSet<int> codes{50, 51, 52, 53, 54, 55};
+        const quint32 count = 8000;
+        for (quint32 number = 0; number < count; ++number)
+            bench.tracker->handle(Message::RequestRecordByNumber, &number, nullptr);
+        QTRY_COMPARE_WITH_TIMEOUT(quint32(bench.told.size()), count, 60000);
+        for (const Told& told : bench.told)
+            codes += word(told.first, 3 + (quint8(told.first.at(3)) == 177 ? 9 : 38));
+        for (const int code : codes) {
+            QString text;
+            QVERIFY(bench.tracker->handle(Message::RequestEventText, BenchTracker::plain(code), &text));
+            QVERIFY2(!text.isEmpty() && !text.contains("wb_") && !text.contains(QString::number(code)),
+                     qPrintable(text));
+            texts += text;
+        }
+        QCOMPARE(texts.size(), codes.size());
+        QVERIFY(tracker::eventText(999).endsWith(" 999"));
+        QVERIFY(!tracker::eventText(999).contains("wb_"));
+        QCoreApplication::removeTranslator(&translator);
+    }
+
+    void faults()
+    {
+        BenchTracker bench;
+        const QByteArray whole = bench.ask(Message::RequestCurrentRecord).first;
+        tracker::Faults& faults = bench.tracker->faults();
+        faults.shortAnswers = true;
+        QCOMPARE(bench.ask(Message::RequestCurrentRecord).first, whole.left(whole.size() / 2));
+        const QByteArray analog = bench.ask(Message::RequestAnalog).first;
+        QVERIFY(word(analog, 15) > 0);
+        QCOMPARE(int(word(analog, 40)), 0);
+        faults = {};
+        faults.garbledAnswers = true;
+        const QByteArray garbled = bench.ask(Message::RequestCurrentRecord).first;
+        QCOMPARE(garbled.size(), whole.size());
+        QVERIFY(garbled != whole);
+        faults = {};
+        faults.delayMs = 400;
+        QVERIFY(bench.silent(Message::RequestCurrentRecord));
+        QTRY_COMPARE(bench.told.size(), 1);
+        faults = {};
+        faults.silence = true;
+        QVERIFY(bench.silent(Message::RequestCurrentRecord));
+        faults = {};
+        faults.unplug = true;
+        QVERIFY(bench.silent(Message::RequestCurrentRecord));
+        QVERIFY(!bench.tracker->attached() && !faults.unplug);
+    }
+
+    void detachingDropsWhatIsUnderWay()
+    {
+        BenchTracker bench;
+        bench.tracker->handle(Message::RequestCurrentRecord, nullptr, nullptr);
+        bench.tracker->detach();
+        bench.tracker->attach();
+        QVERIFY(bench.silent(Message::GuardOn));
+        // A plug-in that asks again, or makes the host detach, while it is being told.
+        bench.tracker->setSender([&bench](Message id, void*, void*) {
+            bench.told.append({id, {}, {}});
+            bench.tracker->handle(Message::RequestCurrentRecord, nullptr, nullptr);
+            if (bench.told.size() == 3)
+                bench.tracker->detach();
+        });
+        bench.tracker->handle(Message::RequestCurrentRecord, nullptr, nullptr);
+        QTest::qWait(300);
+        QCOMPARE(bench.told.size(), 3);
+    }
+
+    void requestsWithoutParameters()
+    {
+        BenchTracker bench;
+        for (const vlk::MessageInfo& info : vlk::messages) {
+            const bool own = bench.tracker->handle(info.number, nullptr, nullptr);
+            QCOMPARE(own, info.direction == vlk::Direction::ToHost && info.number != Message::ShowHelp);
+        }
+        QTest::qWait(100);
+        bench.tracker->setSender({});
+        bench.tracker->handle(Message::RequestCurrentRecord, nullptr, nullptr);
+        QTest::qWait(100);
+    }
+};
+
+QTEST_MAIN(TestTrackerAnswers)
+#include "tst_tracker_answers.moc"

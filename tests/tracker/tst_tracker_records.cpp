@@ -1,0 +1,313 @@
+// The records of the drive: their form by data set and protocol, their order, and whether one could believe
+// them.
+
+#include "bench_tracker.h"
+
+#include "dataset/catalogue/field_mask.h"
+
+#include <QRandomGenerator>
+#include <QSet>
+
+#include <cmath>
+
+using vlk::element;
+using vlk::Message;
+
+namespace {
+
+constexpr int head = 34;
+
+template <typename T>
+T at(const QByteArray& bytes, int offset)
+{
+    T value{};
+    if (offset >= 0 && offset + int(sizeof value) <= bytes.size())
+        memcpy(&value, bytes.constData() + offset, sizeof value);
+    return value;
+}
+
+// Of a record that holds every field.
+template <typename T>
+T value(const QByteArray& record, vlk::ElementIndex index)
+{
+    return at<T>(record, head + vlk::kElements[index].offset);
+}
+
+quint32 numberOf(const QByteArray& record)
+{
+    return at<quint32>(record, quint8(record.at(0)) == 177 ? 5 : head);
+}
+
+QByteArray dataSet(const QByteArray& format, const std::string& mask)
+{
+    return "<DEVICE model=\"R-7106\"><PROTOCOL><ZETA format=\"" + format + "\" mask=\"" +
+           QByteArray::fromStdString(mask) + "\"/></PROTOCOL></DEVICE>";
+}
+
+} // namespace
+
+class TestTrackerRecords : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void recordsHoldWhatTheConfigurationAsksFor_data()
+    {
+        QTest::addColumn<QByteArray>("format");
+        QTest::addColumn<int>("fields");
+        QTest::addColumn<int>("switched");
+        QTest::newRow("1.0") << QByteArray("10") << 69 << 0;
+        QTest::newRow("2.0") << QByteArray("20") << 122 << 0;
+        QTest::newRow("3.0") << QByteArray("30") << 255 << 0;
+        QTest::newRow("unknown") << QByteArray("7") << 255 << 0;
+        QTest::newRow("switched to 2.0") << QByteArray("30") << 122 << 20;
+    }
+
+    void recordsHoldWhatTheConfigurationAsksFor()
+    {
+        QFETCH(QByteArray, format);
+        QFETCH(int, fields);
+        QFETCH(int, switched);
+        BenchTracker bench;
+        bench.tracker->setProtocol(static_cast<tracker::Protocol>(switched));
+        QRandomGenerator random(7106);
+        for (int round = 0; round < 8; ++round) {
+            std::string text(255, '0');
+            for (char& c : text)
+                c = random.bounded(4) < round % 4 + 1 ? '1' : '0';
+            QVERIFY(bench.write(dataSet(format, text)).accepted);
+            const QByteArray record = bench.recordByNumber(70000);
+            const auto asked = vlk::FieldMask::fromText(text.substr(0, fields));
+            QCOMPARE(record.size(), head + asked.payloadSize());
+            QCOMPARE(quint8(record.at(0)), quint8(176));
+            QCOMPARE(int(record.at(1)), fields == 69 ? 10 : fields == 122 ? 20 : 30);
+            QVERIFY(memcmp(record.constData() + 2, asked.bytes().data(), vlk::FieldMask::kBytes) == 0);
+        }
+    }
+
+    void configurationWithoutDataSetGivesTheDefault()
+    {
+        BenchTracker bench;
+        QVERIFY(bench.write("<DEVICE model=\"R-7106\"/>").accepted);
+        const QByteArray record = bench.recordByNumber(70000);
+        QCOMPARE(int(record.at(1)), 10);
+        const auto mask = vlk::FieldMask::fromText(vlk::kDefaultMaskText);
+        QCOMPARE(record.size(), head + mask.payloadSize(69));
+        // The present record is filled up to the shortest frame.
+        QCOMPARE(bench.ask(Message::RequestCurrentRecord).first.size(), vlk::shortestCurrentRecord);
+    }
+
+    void everyRequestHasItsHeader_data()
+    {
+        QTest::addColumn<int>("request");
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<int>("header");
+        const auto row = [](Message request, Message answer, int header) {
+            QTest::addRow("%u", static_cast<uint>(request)) << int(request) << int(answer) << header;
+        };
+        row(Message::RequestCurrentRecord, Message::CurrentRecord, 3);
+        row(Message::RequestRecordByNumber, Message::RecordByNumber, 3);
+        row(Message::RequestRecordByTime, Message::RecordByTime, 13);
+        row(Message::RequestRecordOfPeriod, Message::RecordOfPeriod, 13);
+        row(Message::RequestExtraPacket, Message::ExtraPacket, 2);
+        row(Message::ClearServerData, Message::ClearedRecord, 3);
+    }
+
+    void everyRequestHasItsHeader()
+    {
+        QFETCH(int, request);
+        QFETCH(int, header);
+        BenchTracker bench;
+        quint32 number = 70000;
+        QDateTime time = QDateTime::fromSecsSinceEpoch(bench.now - 86400, Qt::UTC);
+        const auto id = static_cast<Message>(request);
+        void* p1 = BenchTracker::plain(1);
+        if (id == Message::RequestRecordByNumber)
+            p1 = &number;
+        else if (id == Message::RequestRecordByTime || id == Message::RequestRecordOfPeriod)
+            p1 = &time;
+        const Told told = bench.ask(id, p1);
+        QTEST(int(told.id), "answer");
+        const QByteArray record = told.first.mid(header);
+        QCOMPARE(at<quint16>(told.first, header == 2 ? 0 : 1), quint16(record.size()));
+        const auto type = quint8(record.at(0));
+        QVERIFY(id == Message::RequestExtraPacket ? type == 177 : type == 176);
+        if (header == 13)
+            QCOMPARE(at<quint32>(told.first, 3), numberOf(record));
+    }
+
+    void numbersAndTimesOutsideGiveTheNearest()
+    {
+        BenchTracker bench;
+        const quint32 newest = numberOf(bench.ask(Message::RequestCurrentRecord).first.mid(3));
+        QVERIFY2(newest >= 100000, QByteArray::number(newest).constData());
+        QCOMPARE(numberOf(bench.recordByNumber(newest + 5)), newest);
+        QCOMPARE(numberOf(bench.recordByNumber(0)), newest < 131072 ? 0 : newest - 131071);
+        for (const qint64 time : {bench.now - 200000, bench.now - 3, qint64(0), bench.now * 2}) {
+            auto when = QDateTime::fromSecsSinceEpoch(time, Qt::UTC);
+            const QByteArray before = bench.ask(Message::RequestRecordByTime, &when).first;
+            const QByteArray after = bench.ask(Message::RequestRecordOfPeriod, &when).first;
+            const auto next = at<quint32>(after, 3);
+            const auto last = at<quint32>(before, 3);
+            QVERIFY(next == last || next == last + 1);
+            if (time > 0 && time <= bench.now) {
+                QVERIFY(at<quint32>(before, 7) <= time);
+                QVERIFY(next > newest || next == last || at<quint32>(after, 7) >= time);
+            }
+        }
+    }
+
+    void theSameRecordComesAgain()
+    {
+        BenchTracker bench;
+        BenchTracker other;
+        for (const quint32 number : {0U, 1U, 4711U, 99999U, 100000U}) {
+            const QByteArray record = bench.recordByNumber(number);
+            QCOMPARE(numberOf(record), number);
+            QCOMPARE(other.recordByNumber(number), record);
+        }
+        const QByteArray record = bench.recordByNumber(50000);
+        bench.now += 5 * 86400;
+        bench.restart();
+        QCOMPARE(bench.recordByNumber(50000), record);
+        const quint32 newest = numberOf(bench.ask(Message::RequestCurrentRecord).first.mid(3));
+        bench.now += 3600;
+        QVERIFY(numberOf(bench.ask(Message::RequestCurrentRecord).first.mid(3)) >= newest + 10);
+    }
+
+    void aDayCouldBeTrue()
+    {
+        BenchTracker bench;
+        bench.tracker->setFullDataSet(true);
+        QSet<quint16> codes;
+        QByteArray before;
+        double road = 0;
+        double run = 0;
+        double filled = 0;
+        int packets = 0;
+        quint32 lastRun = 0; // when the engine ran
+        // Three days, for a filling among them.
+        const quint32 first = 60000;
+        const quint32 count = 7000;
+        // All at once, since every answer takes its time.
+        for (quint32 number = first; number < first + count; ++number)
+            bench.tracker->handle(Message::RequestRecordByNumber, &number, nullptr);
+        QTRY_COMPARE_WITH_TIMEOUT(quint32(bench.told.size()), count, 60000);
+        for (quint32 number = first; number < first + count; ++number) {
+            const QByteArray record = bench.told[int(number - first)].first.mid(vlk::recordByNumberHeader);
+            QCOMPARE(numberOf(record), number);
+            if (quint8(record.at(0)) == 177) {
+                ++packets;
+                codes += at<quint16>(record, 9);
+                const int dynamic = at<quint16>(record, 1) - record.at(4) - record.at(43) - 4;
+                QCOMPARE(record.size(), 58 + dynamic);
+                QVERIFY(record.at(58) == 1 || record.at(58) == 3);
+                continue;
+            }
+            QCOMPARE(record.size(), head + vlk::kBlockBytes);
+            codes += value<quint16>(record, element("Code"));
+            const double speed = value<float>(record, element("Speed"));
+            const bool engine = value<quint8>(record, element("Module1")) & 0x80;
+            QVERIFY(speed >= 0 && speed < 110);
+            QVERIFY(engine || speed == 0);
+            QCOMPARE(bool(value<quint8>(record, element("StateIn1")) & 1), engine);
+            // The door opens when the driver gets out, not at midnight.
+            const auto time = value<quint32>(record, element("Time"));
+            if (engine)
+                lastRun = time;
+            if (value<quint8>(record, element("StateIn1")) & 2)
+                QVERIFY(time - lastRun < 700);
+            const int supply = value<quint16>(record, element("Power"));
+            QVERIFY(engine ? supply > 13500 && supply < 14200 : supply > 12000 && supply < 12700);
+            QVERIFY(value<quint8>(record, element("GSM")) <= 31);
+            QVERIFY(value<quint16>(record, element("Course")) < 360);
+            const int satellites = value<quint8>(record, element("StateNGauge")) >> 2;
+            const bool fix = value<quint8>(record, element("StateNGauge")) & 2;
+            QVERIFY(fix ? satellites >= 6 && satellites <= 14 : satellites < 4);
+            if (!before.isEmpty()) {
+                const auto delta = [&](vlk::ElementIndex index) {
+                    return value<qint32>(record, index) - value<qint32>(before, index);
+                };
+                QVERIFY(delta(element("Time")) > 0);
+                const double way =
+                    value<float>(record, element("Run")) - value<float>(before, element("Run"));
+                QVERIFY(way >= 0);
+                run += way;
+                const double north = delta(element("Latitude")) / 600000.0 * 111.195;
+                const double east = delta(element("Longitude")) / 600000.0 * 111.195 * 0.535;
+                road += std::hypot(north, east);
+                const double fuel = value<float>(record, element("CAN_FuelConsumption")) -
+                                    value<float>(before, element("CAN_FuelConsumption"));
+                QVERIFY(fuel >= 0 && fuel < 0.5);
+                filled += std::max(0, (value<quint16>(record, element("CAN_FuelLevel")) & 0x7FFF) -
+                                          (value<quint16>(before, element("CAN_FuelLevel")) & 0x7FFF));
+            }
+            before = record;
+        }
+        QVERIFY(run > 300 && packets > 10);
+        QVERIFY2(std::abs(road / run - 1) < 0.05, qPrintable(QString("%1 of %2 km").arg(road).arg(run)));
+        QVERIFY2(filled > 40, qPrintable(QString::number(filled)));
+        QVERIFY(codes.size() >= 12);
+    }
+
+    void commandsShowFromTheNextRecordOn()
+    {
+        BenchTracker bench;
+        bench.tracker->setFullDataSet(true);
+        const auto state = [](const QByteArray& record) {
+            return value<quint8>(record, element("State")) & 0x18;
+        };
+        const auto current = [&] { return bench.ask(Message::RequestCurrentRecord).first.mid(3); };
+        const QByteArray before = current();
+        QCOMPARE(state(before), 0);
+        float km = 123456.5F;
+        bench.tracker->handle(Message::GuardOn, nullptr, nullptr);
+        bench.tracker->handle(Message::OutputOn, BenchTracker::plain(1), nullptr);
+        bench.tracker->handle(Message::OutputOn, BenchTracker::plain(3), nullptr);
+        bench.tracker->handle(Message::OutputOff, BenchTracker::plain(1), nullptr);
+        for (const int wrong : {0, -1, 17})
+            bench.tracker->handle(Message::OutputOn, BenchTracker::plain(wrong), nullptr);
+        bench.tracker->handle(Message::SetMileage, &km, nullptr);
+        bench.restart();
+        bench.tracker->setFullDataSet(true);
+        const QByteArray after = current();
+        QCOMPARE(state(after), 8);
+        QCOMPARE(int(value<quint8>(after, element("StateOut1"))), 4);
+        QCOMPARE(value<float>(after, element("Run")), km);
+        // What was recorded before stays; the first record afterwards tells of the change.
+        const quint32 newest = numberOf(before);
+        QCOMPARE(state(bench.recordByNumber(newest)), 0);
+        bench.now += 3600;
+        const QByteArray next = bench.recordByNumber(newest + 1);
+        QCOMPARE(state(next), 8);
+        QCOMPARE(int(value<quint16>(next, element("Code"))), 54);
+        bench.tracker->handle(Message::GuardOff, nullptr, nullptr);
+        QCOMPARE(state(current()), 0);
+    }
+
+    void packetsOfKeysAndTags()
+    {
+        BenchTracker bench;
+        for (const int kind : {1, 3}) {
+            const QByteArray packet = bench.ask(Message::RequestExtraPacket, kind).first.mid(2);
+            // No second head: the entries lie behind the first.
+            const int dynamic = at<quint16>(packet, 1) - packet.at(4) - 2;
+            QCOMPARE(packet.size(), 42 + dynamic);
+            QCOMPARE(int(packet.at(packet.size() - dynamic)), kind);
+        }
+        for (const int kind : {0, 2, 4})
+            QVERIFY(bench.silent(Message::RequestExtraPacket, BenchTracker::plain(kind)));
+    }
+
+    void aWrongClockDoesNoHarm()
+    {
+        BenchTracker bench;
+        bench.now = 1000;
+        QCOMPARE(numberOf(bench.ask(Message::RequestCurrentRecord).first.mid(3)), 0U);
+        bench.now = qint64(1) << 40;
+        QVERIFY(!bench.ask(Message::RequestCurrentRecord).first.isEmpty());
+    }
+};
+
+QTEST_MAIN(TestTrackerRecords)
+#include "tst_tracker_records.moc"

@@ -1,0 +1,171 @@
+// The configuration in the tracker: read, written, refused, kept over restarts and crashes.
+
+#include "bench_tracker.h"
+
+#include <QDomDocument>
+#include <QSignalSpy>
+
+using tracker::WriteReport;
+
+namespace {
+
+QByteArray device(const QByteArray& content, const QByteArray& model = "R-7106")
+{
+    return "<?xml version=\"1.0\" encoding=\"windows-1251\"?>\n<DEVICE model=\"" + model + "\">" + content +
+           "</DEVICE>";
+}
+
+QStringList lines(const QVector<tracker::KeyChange>& changes)
+{
+    QStringList result;
+    for (const auto& change : changes)
+        result += change.path + ' ' + change.before + '>' + change.after;
+    return result;
+}
+
+void cut(const QString& path, qint64 size)
+{
+    QVERIFY(QFile::resize(path, size));
+}
+
+} // namespace
+
+class TestTrackerStore : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void factoryConfigurationIsWhole()
+    {
+        const BenchTracker bench;
+        QDomDocument document;
+        QVERIFY(document.setContent(bench.configuration()));
+        QStringList sections;
+        for (auto e = document.documentElement().firstChildElement(); !e.isNull();
+             e = e.nextSiblingElement()) {
+            sections += e.tagName();
+            QCOMPARE(e.attribute("page"), e.tagName());
+            QVERIFY(e.hasChildNodes());
+        }
+        QCOMPARE(sections, QStringList({"TRANS", "PROTOCOL", "TRACK", "SYSTEM", "RS485", "TEMPSENS",
+                                        "SENSORS", "ACCEL", "OUTPUTS", "BLUETOOTH"}));
+        const auto zeta = document.documentElement().firstChildElement("PROTOCOL").firstChildElement("ZETA");
+        QCOMPARE(zeta.attribute("mask").size(), 255);
+        QCOMPARE(document.elementsByTagName("IN1").at(0).toElement().attribute("name"), QString("Зажигание"));
+    }
+
+    void reportNamesEveryDifference()
+    {
+        BenchTracker bench;
+        QSignalSpy written(bench.tracker.get(), &tracker::SimulatedTracker::configurationWritten);
+        QVERIFY(bench.write(device("<A><S x=\"1\" gone=\"2\"/><S x=\"3\"/><T>text</T></A>")).accepted);
+        const WriteReport report =
+            bench.write(device("<A><S x=\"1\" new=\"&lt;\"/><S x=\"4\"/><T>\xD2\xE5\xEA\xF1\xF2</T></A>"));
+        QVERIFY(report.accepted);
+        QCOMPARE(lines(report.changed), QStringList({"A/S[2]/x 3>4", "A/T text>Текст"}));
+        QCOMPARE(lines(report.added), QStringList({"A/S/new ><"}));
+        QCOMPARE(lines(report.removed), QStringList({"A/S/gone 2>"}));
+        QCOMPARE(written.size(), 2);
+        QVERIFY(bench.write(bench.configuration()).sameAsBefore());
+    }
+
+    void refusesWhatIsNoConfiguration_data()
+    {
+        QTest::addColumn<QByteArray>("document");
+        QTest::addColumn<QString>("reason");
+        QTest::addColumn<QString>("detail");
+        const QString malformed = "wb_refused_malformed";
+        QTest::newRow("empty") << QByteArray() << malformed << "";
+        QTest::newRow("binary") << QByteArray(1000, '\x03') << malformed << "";
+        QTest::newRow("cut off") << device("<A x=\"1\"/>").chopped(5) << malformed << "";
+        QTest::newRow("two roots") << device("") + "<A/>" << malformed << "";
+        QTest::newRow("deep") << device(QByteArray("<A>").repeated(100000)) << malformed << "";
+        QTest::newRow("calibration") << QByteArray("<FUEL model=\"R-7106\"/>") << "wb_refused_root"
+                                     << "FUEL";
+        QTest::newRow("another model") << device("", "R-7107") << "wb_refused_model"
+                                       << "R-7107";
+        QTest::newRow("no model") << QByteArray("<DEVICE/>") << "wb_refused_model"
+                                  << "";
+        QTest::newRow("large") << device(QByteArray(2 << 20, ' ')) << "wb_refused_large"
+                               << "";
+    }
+
+    void refusesWhatIsNoConfiguration()
+    {
+        QFETCH(QByteArray, document);
+        QFETCH(QString, detail);
+        BenchTracker bench;
+        const QByteArray before = bench.configuration();
+        const WriteReport report = bench.write(document);
+        QVERIFY(!report.accepted);
+        QTEST(report.reasonKey, "reason");
+        QVERIFY(detail.isEmpty() || report.detail == detail);
+        bench.restart();
+        QCOMPARE(bench.configuration(), before);
+    }
+
+    void refusesWhatCannotBeReadOrKept()
+    {
+        BenchTracker bench;
+        QCOMPARE(bench.tracker->writeConfiguration(bench.folder()).reasonKey,
+                 QString("wb_refused_unreadable"));
+        QVERIFY(QDir(bench.folder()).mkpath("configuration.backup.xml"));
+        QCOMPARE(bench.write(device("")).reasonKey, QString("wb_refused_memory"));
+        QVERIFY(bench.configuration().contains("TRANS"));
+        bench.tracker->faults().silence = true;
+        QCOMPARE(bench.write(device("")).reasonKey, QString("wb_refused_silence"));
+        QVERIFY(bench.tracker->readConfiguration(bench.folder()).isEmpty());
+        bench.tracker->detach();
+        QCOMPARE(bench.write(device("")).reasonKey, QString("wb_refused_detached"));
+        QVERIFY(bench.tracker->readConfiguration(bench.folder()).isEmpty());
+    }
+
+    // A crash leaves the file of the present whole, cut, or missing; what is read is never half.
+    void survivesCrashes_data()
+    {
+        QTest::addColumn<qint64>("present"); // bytes left of it, -1 all
+        QTest::addColumn<qint64>("backup");
+        QTest::addColumn<QByteArray>("expected");
+        QTest::newRow("clean") << qint64(-1) << qint64(-1) << QByteArray("second");
+        QTest::newRow("present cut") << qint64(90) << qint64(-1) << QByteArray("first");
+        QTest::newRow("present empty") << qint64(0) << qint64(-1) << QByteArray("first");
+        QTest::newRow("both cut") << qint64(90) << qint64(40) << QByteArray("TRANS");
+    }
+
+    void survivesCrashes()
+    {
+        QFETCH(qint64, present);
+        QFETCH(qint64, backup);
+        QFETCH(QByteArray, expected);
+        BenchTracker bench;
+        QVERIFY(bench.write(device("<A is=\"first\"/>")).accepted);
+        QVERIFY(bench.write(device("<A is=\"second\"/>")).accepted);
+        if (present >= 0)
+            cut(bench.folder() + "/configuration.xml", present);
+        if (backup >= 0)
+            cut(bench.folder() + "/configuration.backup.xml", backup);
+        bench.restart();
+        QVERIFY(bench.configuration().contains(expected));
+        QVERIFY(bench.write(device("<A is=\"third\"/>")).accepted);
+        bench.restart();
+        QVERIFY(bench.configuration().contains("third"));
+    }
+
+    void faultsSpoilTheFileThatIsRead()
+    {
+        BenchTracker bench;
+        const QByteArray whole = bench.configuration();
+        bench.tracker->faults().shortAnswers = true;
+        QCOMPARE(bench.configuration(), whole.left(whole.size() / 2));
+        bench.tracker->faults() = {};
+        bench.tracker->faults().garbledAnswers = true;
+        QVERIFY(bench.configuration() != whole);
+        bench.tracker->faults() = {};
+        bench.tracker->faults().unplug = true;
+        QVERIFY(bench.configuration().isEmpty());
+        QVERIFY(!bench.tracker->attached());
+    }
+};
+
+QTEST_MAIN(TestTrackerStore)
+#include "tst_tracker_store.moc"
