@@ -687,6 +687,7 @@
     <message id="wb_folder_telemetry"><translation>Telemetry:</translation></message>
     <message id="wb_folders"><translation>Data folders</translation></message>
     <message id="wb_folders_menu"><translation>&amp;Data folders…</translation></message>
+    <message id="wb_full_data_set"><translation>Every field in records</translation></message>
     <message id="wb_help"><translation>Help</translation></message>
     <message id="wb_help_back"><translation>Back</translation></message>
     <message id="wb_help_contents"><translation>Contents</translation></message>
@@ -701,6 +702,7 @@
     <message id="wb_log_copy"><translation>Copy the lines</translation></message>
     <message id="wb_log_count"><translation>%1 of %2</translation></message>
     <message id="wb_log_details"><translation>Select a message to see the whole of it</translation></message>
+    <message id="wb_log_direction"><translation>Direction</translation></message>
     <message id="wb_log_file_type"><translation>Text</translation></message>
     <message id="wb_log_filter"><translation>Filter: number, name, parameters</translation></message>
     <message id="wb_log_name"><translation>Message</translation></message>
@@ -710,7 +712,7 @@
     <message id="wb_log_time"><translation>Time</translation></message>
     <message id="wb_log_to_host"><translation>← plug-in</translation></message>
     <message id="wb_log_to_plugin"><translation>→ plug-in</translation></message>
-    <message id="wb_log_way"><translation>Direction</translation></message>
+    <message id="wb_log_way"><translation>⇄</translation></message>
     <message id="wb_menu_configuration"><translation>&amp;Configuration</translation></message>
     <message id="wb_menu_help"><translation>&amp;Help</translation></message>
     <message id="wb_menu_telemetry"><translation>&amp;Telemetry</translation></message>
@@ -718,7 +720,7 @@
     <message id="wb_mode"><translation>Mode:</translation></message>
     <message id="wb_mode_0"><translation>0: ordinary</translation></message>
     <message id="wb_mode_1"><translation>1: production</translation></message>
-    <message id="wb_mode_2"><translation>2: production, check</translation></message>
+    <message id="wb_mode_2"><translation>2: production check</translation></message>
     <message id="wb_new"><translation>&amp;New configuration</translation></message>
     <message id="wb_new_short"><translation>New</translation></message>
     <message id="wb_open"><translation>&amp;Open file…</translation></message>
@@ -749,7 +751,7 @@
     <message id="wb_read_short"><translation>Read</translation></message>
     <message id="wb_ready"><translation>Ready</translation></message>
     <message id="wb_recent"><translation>Recent files</translation></message>
-    <message id="wb_refused_detached"><translation>no tracker is attached</translation></message>
+    <message id="wb_refused_detached"><translation>The tracker is not connected.</translation></message>
     <message id="wb_refused_large"><translation>The file is too large for the tracker, bytes:</translation></message>
     <message id="wb_refused_malformed"><translation>The file is damaged, markup error:</translation></message>
     <message id="wb_refused_memory"><translation>Cannot write to the tracker's memory:</translation></message>
@@ -762,10 +764,11 @@
     <message id="wb_report_before"><translation>Before</translation></message>
     <message id="wb_report_changed"><translation>changed</translation></message>
     <message id="wb_report_copy"><translation>Copy the report</translation></message>
+    <message id="wb_report_kept"><translation>The file is kept: %1</translation></message>
     <message id="wb_report_key"><translation>Key</translation></message>
     <message id="wb_report_kind"><translation>What</translation></message>
     <message id="wb_report_none"><translation>When a configuration has been written to the tracker, its changes are listed here.</translation></message>
-    <message id="wb_report_refused"><translation>The tracker refused the configuration: %1. The file is kept: %2</translation></message>
+    <message id="wb_report_refused"><translation>Configuration not written. %1</translation></message>
     <message id="wb_report_removed"><translation>removed</translation></message>
     <message id="wb_report_same"><translation>Configuration written, nothing changed.</translation></message>
     <message id="wb_report_taken"><translation>Configuration written. Keys changed: %1, added: %2, removed: %3.</translation></message>
@@ -785,9 +788,9 @@
     <message id="wb_type_configuration"><translation>Configuration</translation></message>
     <message id="wb_type_telemetry"><translation>Telemetry</translation></message>
     <message id="wb_unit_ms"><translation>ms</translation></message>
-    <message id="wb_window"><translation>Opens in</translation></message>
+    <message id="wb_window"><translation>Window for configurations</translation></message>
     <message id="wb_window_full"><translation>Full window</translation></message>
-    <message id="wb_window_quick"><translation>Quick setup</translation></message>
+    <message id="wb_window_quick"><translation>Quick window</translation></message>
     <message id="wrd_001"><translation>Yes</translation></message>
     <message id="wrd_002"><translation>No</translation></message>
     <message id="wrd_003"><translation>OK</translation></message>

@@ -687,6 +687,7 @@
     <message id="wb_folder_telemetry"><translation>Телеметрия:</translation></message>
     <message id="wb_folders"><translation>Папки данных</translation></message>
     <message id="wb_folders_menu"><translation>&amp;Папки данных…</translation></message>
+    <message id="wb_full_data_set"><translation>Все поля в записях</translation></message>
     <message id="wb_help"><translation>Справка</translation></message>
     <message id="wb_help_back"><translation>Назад</translation></message>
     <message id="wb_help_contents"><translation>Содержание</translation></message>
@@ -701,6 +702,7 @@
     <message id="wb_log_copy"><translation>Копировать строки</translation></message>
     <message id="wb_log_count"><translation>%1 из %2</translation></message>
     <message id="wb_log_details"><translation>Выберите сообщение, чтобы увидеть его целиком</translation></message>
+    <message id="wb_log_direction"><translation>Направление</translation></message>
     <message id="wb_log_file_type"><translation>Текст</translation></message>
     <message id="wb_log_filter"><translation>Фильтр: номер, имя, параметры</translation></message>
     <message id="wb_log_name"><translation>Сообщение</translation></message>
@@ -710,7 +712,7 @@
     <message id="wb_log_time"><translation>Время</translation></message>
     <message id="wb_log_to_host"><translation>← от модуля</translation></message>
     <message id="wb_log_to_plugin"><translation>→ модулю</translation></message>
-    <message id="wb_log_way"><translation>Направление</translation></message>
+    <message id="wb_log_way"><translation>⇄</translation></message>
     <message id="wb_menu_configuration"><translation>&amp;Конфигурация</translation></message>
     <message id="wb_menu_help"><translation>Сп&amp;равка</translation></message>
     <message id="wb_menu_telemetry"><translation>&amp;Телеметрия</translation></message>
@@ -718,7 +720,7 @@
     <message id="wb_mode"><translation>Режим:</translation></message>
     <message id="wb_mode_0"><translation>0: обычный</translation></message>
     <message id="wb_mode_1"><translation>1: производство</translation></message>
-    <message id="wb_mode_2"><translation>2: производство, контроль</translation></message>
+    <message id="wb_mode_2"><translation>2: контроль</translation></message>
     <message id="wb_new"><translation>&amp;Новая конфигурация</translation></message>
     <message id="wb_new_short"><translation>Новая</translation></message>
     <message id="wb_open"><translation>&amp;Открыть файл…</translation></message>
@@ -749,7 +751,7 @@
     <message id="wb_read_short"><translation>Прочитать</translation></message>
     <message id="wb_ready"><translation>Готово к работе</translation></message>
     <message id="wb_recent"><translation>Недавние файлы</translation></message>
-    <message id="wb_refused_detached"><translation>трекер не подключён</translation></message>
+    <message id="wb_refused_detached"><translation>Трекер отключён.</translation></message>
     <message id="wb_refused_large"><translation>Файл слишком велик для трекера, байт:</translation></message>
     <message id="wb_refused_malformed"><translation>Файл повреждён, ошибка разметки:</translation></message>
     <message id="wb_refused_memory"><translation>Не удалось записать в память трекера:</translation></message>
@@ -762,10 +764,11 @@
     <message id="wb_report_before"><translation>Было</translation></message>
     <message id="wb_report_changed"><translation>изменён</translation></message>
     <message id="wb_report_copy"><translation>Копировать отчёт</translation></message>
+    <message id="wb_report_kept"><translation>Файл сохранён: %1</translation></message>
     <message id="wb_report_key"><translation>Ключ</translation></message>
     <message id="wb_report_kind"><translation>Что</translation></message>
     <message id="wb_report_none"><translation>Здесь появится список изменений, когда конфигурация будет записана в трекер.</translation></message>
-    <message id="wb_report_refused"><translation>Трекер не принял конфигурацию: %1. Файл сохранён: %2</translation></message>
+    <message id="wb_report_refused"><translation>Конфигурация не записана. %1</translation></message>
     <message id="wb_report_removed"><translation>удалён</translation></message>
     <message id="wb_report_same"><translation>Конфигурация записана, изменений нет.</translation></message>
     <message id="wb_report_taken"><translation>Конфигурация записана. Изменено ключей: %1, добавлено: %2, удалено: %3.</translation></message>
@@ -785,9 +788,9 @@
     <message id="wb_type_configuration"><translation>Конфигурация</translation></message>
     <message id="wb_type_telemetry"><translation>Телеметрия</translation></message>
     <message id="wb_unit_ms"><translation>мс</translation></message>
-    <message id="wb_window"><translation>Открывать в окне</translation></message>
+    <message id="wb_window"><translation>Окно для конфигурации</translation></message>
     <message id="wb_window_full"><translation>Полное окно</translation></message>
-    <message id="wb_window_quick"><translation>Быстрая настройка</translation></message>
+    <message id="wb_window_quick"><translation>Быстрое окно</translation></message>
     <message id="wrd_001"><translation>Да</translation></message>
     <message id="wrd_002"><translation>Нет</translation></message>
     <message id="wrd_003"><translation>ОК</translation></message>

@@ -163,8 +163,10 @@ void CXmlSection::commit()
     if (!node_)
         return;
     QHash<QString, CXmlNode*> firstChildren;
-    for (auto child = node_->children.rbegin(); child != node_->children.rend(); ++child)
-        firstChildren.insert(child->get()->name, child->get());
+    for (const auto& child : node_->children) {
+        if (!firstChildren.contains(child->name))
+            firstChildren.insert(child->name, child.get());
+    }
     node_->attributes.reserve(node_->attributes.size() + table_.size());
     for (const CXmlRecord& record : table_) {
         if (CXmlNode* const child = firstChildren.value(record.name))

@@ -74,7 +74,7 @@ QByteArray difference(TmiPage_Zeta3& reused, const QByteArray& record)
     reused.setRecord(bytes.data(), static_cast<qsizetype>(bytes.size()));
     if (reused.isExtra())
         return reused.mask() == FieldMask() ? "" : "mask of an extra packet";
-    const QByteArray found = difference(reused, record, kFieldCount);
+    QByteArray found = difference(reused, record, kFieldCount);
     if (!found.isEmpty())
         return found;
     return difference(TmiPage_Zeta2(bytes.data(), static_cast<qsizetype>(bytes.size())), record,

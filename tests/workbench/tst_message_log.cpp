@@ -1,3 +1,4 @@
+#include "window/languages.h"
 #include "window/message_log_filter.h"
 #include "window/message_log_model.h"
 #include "window/message_log_view.h"
@@ -53,70 +54,101 @@ private Q_SLOTS:
                             const QByteArray& bytes = {}) {
             QTest::newRow(name) << describe << QString::fromUtf8(words) << bytes;
         };
-        row("nothing", [] { return out(Message::RequestCurrentRecord); }, "");
-        row("null", [] { return out(Message::WriteConfiguration); }, "null");
-        row("integer", [] { const std::int32_t n = -5; return in(Message::SetHostMode, &n); }, "-5");
-        row("value", [] { return out(Message::OutputOn, byValue(2)); }, "2");
-        row("float", [] { const float f = 12.5F; return out(Message::SetMileage, &f); }, "12.5");
-        row("strings",
+        row(
+            "nothing", [] { return out(Message::RequestCurrentRecord); }, "");
+        row(
+            "null", [] { return out(Message::WriteConfiguration); }, "null");
+        row(
+            "integer",
+            [] {
+                const std::int32_t n = -5;
+                return in(Message::SetHostMode, &n);
+            },
+            "-5");
+        row(
+            "value", [] { return out(Message::OutputOn, byValue(2)); }, "2");
+        row(
+            "float",
+            [] {
+                const float f = 12.5F;
+                return out(Message::SetMileage, &f);
+            },
+            "12.5");
+        row(
+            "strings",
             [] {
                 const QString model = QStringLiteral("R-7106");
                 const QString page = QStringLiteral("Страница");
                 return out(Message::ShowHelp, &model, &page);
             },
             "\"R-7106\", \"Страница\"");
-        row("time",
+        row(
+            "time",
             [] {
                 const QDateTime time({2026, 3, 1}, {10, 0}, Qt::UTC);
                 return out(Message::RequestRecordByTime, &time);
             },
             "2026-03-01T10:00:00Z");
-        row("bytes", [] { const QByteArray b("\x01\xff", 2); return in(Message::CurrentRecord, &b); }, "",
-            QByteArray("\x01\xff", 2));
-        row("text buffer full to its end",
+        row(
+            "bytes",
+            [] {
+                const QByteArray b("\x01\xff", 2);
+                return in(Message::CurrentRecord, &b);
+            },
+            "", QByteArray("\x01\xff", 2));
+        row(
+            "text buffer full to its end",
             [] {
                 const QByteArray code(vlk::balanceUssdSize, '*');
                 return in(Message::GetBalanceUssd, code.constData());
             },
             QByteArray('"' + QByteArray(vlk::balanceUssdSize, '*') + '"').constData());
-        row("open request",
+        row(
+            "open request",
             [] {
                 vlk::OpenRequest request{1, 0, "/a b.xml"};
                 return in(Message::OpenConfiguration, &request);
             },
             "showFull=1 fromFile=0 path=\"/a b.xml\"");
-        row("attached",
+        row(
+            "attached",
             [] {
                 const vlk::ConnectInfo info{QStringLiteral("M"), QStringLiteral("1"), {}, {}, 0xA, 0xB};
                 return in(Message::TrackerAttached, &info);
             },
             "model=\"M\" text1=\"1\" text2=\"\" mask=0x0000000b0000000a");
-        row("64-bit number",
+        row(
+            "64-bit number",
             [] {
                 const vlk::IdPair pair{1, 1};
                 const std::uint8_t kind = 7;
                 return in(Message::RfidNumber, &pair, &kind);
             },
             "id=4294967297 (0x0000000100000001), 7");
-        row("status and bytes",
+        row(
+            "status and bytes",
             [] {
                 QByteArray record(vlk::accelResultSize, '\0');
                 record[vlk::accelStatusByte] = 49;
                 return in(Message::AccelCommandResult, record.constData());
             },
             "status=49", QByteArray(vlk::accelResultSize - 1, '\0') + char(49));
-        row("names without an end",
+        row(
+            "names without an end",
             [] {
                 vlk::BtDevice device;
                 std::memset(&device, 'n', sizeof device);
                 return in(Message::BtDeviceFound, &device);
             },
-            QByteArray("name=\"" + QByteArray(128, 'n') + "\" mac=\"" + QByteArray(128, 'n') + '"').constData());
+            QByteArray("name=\"" + QByteArray(128, 'n') + "\" mac=\"" + QByteArray(128, 'n') + '"')
+                .constData());
         // Nobody knows what lies behind these addresses.
-        row("unknown number", [] { return vlk::describeMessage(Direction::ToHost, 2999, byValue(16), nullptr); },
-            "0x10 0x0");
-        row("wrong direction", [] { return vlk::describeMessage(Direction::ToHost, 2101, byValue(1), nullptr); },
-            "0x1 0x0");
+        row(
+            "unknown number",
+            [] { return vlk::describeMessage(Direction::ToHost, 2999, byValue(16), nullptr); }, "0x10 0x0");
+        row(
+            "wrong direction",
+            [] { return vlk::describeMessage(Direction::ToHost, 2101, byValue(1), nullptr); }, "0x1 0x0");
     }
     void describesParameters()
     {
@@ -171,13 +203,15 @@ private Q_SLOTS:
         QTest::newRow("all words") << QStringLiteral("  record   request ") << both << 1;
         QTest::newRow("a word that is nowhere") << QStringLiteral("record tachograph") << both << 0;
         QTest::newRow("to the plug-in") << QString() << int(MessageLogFilter::Directions::ToPlugin) << 2;
-        QTest::newRow("to the host") << QStringLiteral("help") << int(MessageLogFilter::Directions::ToHost) << 1;
+        QTest::newRow("to the host") << QStringLiteral("help") << int(MessageLogFilter::Directions::ToHost)
+                                     << 1;
     }
     void filters()
     {
         MessageLogModel model;
         MessageLogFilter filter;
-        const QAbstractItemModelTester tester(&filter, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        const QAbstractItemModelTester tester(&filter,
+                                              QAbstractItemModelTester::FailureReportingMode::QtTest);
         filter.setSourceModel(&model);
         QFETCH(QString, words);
         QFETCH(int, directions);
@@ -194,6 +228,8 @@ private Q_SLOTS:
 
     void savesWhatIsShown()
     {
+        Languages languages;
+        QVERIFY(languages.set(QStringLiteral("en")));
         MessageLogModel model;
         MessageLogView view(&model);
         const std::int32_t mode = 2;

@@ -21,7 +21,8 @@ QByteArray contentOf(const QString& path)
 QString write(const QTemporaryDir& folder, const QString& name, const QByteArray& content)
 {
     QFile file(folder.filePath(name));
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? file.fileName() : QString();
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? file.fileName()
+                                                                                    : QString();
 }
 
 QSet<QString> keysOfTexts(const QString& language)
@@ -34,7 +35,8 @@ QSet<QString> keysOfTexts(const QString& language)
             continue;
         if (reader.name() == QLatin1String("message"))
             id = reader.attributes().value(QLatin1String("id")).toString();
-        else if (reader.name() == QLatin1String("translation") && !reader.readElementText().trimmed().isEmpty())
+        else if (reader.name() == QLatin1String("translation") &&
+                 !reader.readElementText().trimmed().isEmpty())
             keys.insert(id);
     }
     return keys;
@@ -44,8 +46,9 @@ QSet<QString> keysOfSources()
 {
     QSet<QString> keys;
     static const QRegularExpression key(QStringLiteral("\"(wb_[a-z0-9_]+)\""));
-    QDirIterator files(QStringLiteral(VLK_SOURCE "/workbench"), {QStringLiteral("*.cpp"), QStringLiteral("*.h")},
-                       QDir::Files, QDirIterator::Subdirectories);
+    QDirIterator files(QStringLiteral(VLK_SOURCE "/workbench"),
+                       {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,
+                       QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QString source = QString::fromUtf8(contentOf(files.next()));
         for (auto found = key.globalMatch(source); found.hasNext();)
@@ -121,13 +124,16 @@ private Q_SLOTS:
             const QString target = match.captured(1).isEmpty() ? page : match.captured(1);
             QVERIFY2(pages.exists(language, target), qPrintable(match.captured()));
             const QString anchor = match.captured(2);
-            QVERIFY2(anchor.isEmpty() || pages.html(language, target).contains(QStringLiteral("id=\"%1\"").arg(anchor)),
+            QVERIFY2(anchor.isEmpty() ||
+                         pages.html(language, target).contains(QStringLiteral("id=\"%1\"").arg(anchor)),
                      qPrintable(match.captured()));
         }
     }
 
     void namesAMissingHelpPage()
     {
+        Languages languages;
+        QVERIFY(languages.set(QStringLiteral("en")));
         const HelpPages pages(QStringLiteral(VLK_SOURCE "/help"));
         QVERIFY(pages.html(QStringLiteral("en"), QStringLiteral("r-7106p99.html"))
                     .contains(QStringLiteral("r-7106p99.html")));
@@ -157,7 +163,8 @@ private Q_SLOTS:
         QVERIFY(!settings.fullWindow());
         QCOMPARE(settings.telemetryFolder(), QStringLiteral("/а/"));
         QCOMPARE(settings.recentFiles().size(), Settings::recentLimit - 1);
-        QCOMPARE(settings.recentFiles().mid(0, 2), QStringList({QStringLiteral("/f9"), QStringLiteral("/f13")}));
+        QCOMPARE(settings.recentFiles().mid(0, 2),
+                 QStringList({QStringLiteral("/f9"), QStringLiteral("/f13")}));
     }
 
     void survivesDamagedSettings_data()
@@ -165,7 +172,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<bool>("damaged");
         QTest::newRow("zero bytes") << QByteArray(64, '\0') << true;
-        QTest::newRow("no ini") << QByteArray("}{ not = [an ini\nfile at all\n") << true;
+        QTest::newRow("no ini") << QByteArray("this is not a settings file\n") << true;
         QTest::newRow("wrong values") << QByteArray("[General]\nlanguage=xx\nmode=99\n") << false;
         QTest::newRow("empty") << QByteArray() << false;
     }

@@ -16,7 +16,7 @@ QString translated(const QByteArray& key)
 QString eventText(quint16 code)
 {
     const QByteArray key = "wb_event_" + QByteArray::number(code).rightJustified(3, '0');
-    const QString text = translated(key);
+    QString text = translated(key);
     if (text != QLatin1String(key))
         return text;
     return QStringLiteral("%1 %2").arg(translated("wb_event_unknown")).arg(code);

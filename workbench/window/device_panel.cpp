@@ -46,6 +46,7 @@ DevicePanel::DevicePanel(HostSession& session, QWidget* parent)
     plugin_ = addRow(form, "label_Plugin", "wb_device_plugin");
 
     mode_->setObjectName(QStringLiteral("comboBox_Mode"));
+    mode_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     for (const char* key : modeKeys)
         mode_->addItem(vlk::text(key));
     auto* modeLabel = texts_.bind(new QLabel(this), "wb_mode");

@@ -19,7 +19,8 @@ bool HostSession::start(const QString& pluginPath)
 {
     if (!link_.load(pluginPath))
         return false;
-    tellAttached(tracker_.attached());
+    if (tracker_.attached())
+        tellAttached(true);
     return true;
 }
 

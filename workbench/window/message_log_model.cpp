@@ -24,8 +24,7 @@ QString MessageLogModel::cell(const LoggedMessage& message, int column) const
     case Time:
         return message.time.toString(QStringLiteral("HH:mm:ss.zzz"));
     case Way:
-        return vlk::text(message.direction == vlk::Direction::ToPlugin ? "wb_log_to_plugin"
-                                                                       : "wb_log_to_host");
+        return message.direction == vlk::Direction::ToPlugin ? QStringLiteral("→") : QStringLiteral("←");
     case Number:
         return QString::number(message.id);
     case Name: {
@@ -92,6 +91,4 @@ void MessageLogModel::clear()
 void MessageLogModel::retranslate()
 {
     Q_EMIT headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
-    if (!messages_.empty())
-        Q_EMIT dataChanged(index(0, Way), index(int(messages_.size()) - 1, Way));
 }

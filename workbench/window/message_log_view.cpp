@@ -59,7 +59,7 @@ void MessageLogView::buildBar()
     for (const char* key : directionKeys)
         directions_->addItem(vlk::text(key));
     texts_.bind([this] {
-        directions_->setAccessibleName(vlk::text("wb_log_way"));
+        directions_->setAccessibleName(vlk::text("wb_log_direction"));
         for (int i = 0; i < directions_->count(); ++i)
             directions_->setItemText(i, vlk::text(directionKeys[i]));
     });
@@ -104,7 +104,7 @@ void MessageLogView::buildTable()
     table_->horizontalHeader()->setHighlightSections(false);
     table_->horizontalHeader()->setStretchLastSection(true);
     table_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    const char* const samples[] = {"00:00:00.000 ", "→ plug-in mm", "00000 m", "TachographFileRequest "};
+    const char* const samples[] = {"00:00:00.000 ", "⇄ m", "00000 m", "TachographFileRequest "};
     for (int column = 0; column < MessageLogModel::Parameters; ++column)
         table_->setColumnWidth(column,
                                fontMetrics().horizontalAdvance(QString::fromUtf8(samples[column])) + 16);

@@ -73,6 +73,12 @@ QWidget* TrackerPanel::buildControls()
     column->addWidget(protocolLabel);
     column->addWidget(protocol_);
 
+    auto* everything = texts_.bind(new QCheckBox(this), "wb_full_data_set");
+    everything->setObjectName(QStringLiteral("checkBox_FullDataSet"));
+    everything->setChecked(tracker_.fullDataSet());
+    connect(everything, &QCheckBox::toggled, this, [this](bool on) { tracker_.setFullDataSet(on); });
+    column->addWidget(everything);
+
     auto* faults = texts_.bind(new QGroupBox(this), "wb_faults");
     auto* list = new QVBoxLayout(faults);
     addFault(list, "checkBox_Silence", "wb_fault_silence", &Faults::silence);
@@ -129,7 +135,7 @@ QWidget* TrackerPanel::buildKeys()
     keys_->horizontalHeader()->setHighlightSections(false);
     keys_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     keys_->horizontalHeader()->setStretchLastSection(true);
-    keys_->setColumnWidth(0, fontMetrics().averageCharWidth() * 30);
+    keys_->setColumnWidth(0, fontMetrics().averageCharWidth() * 26);
 
     auto* column = new QVBoxLayout(group);
     column->addWidget(filter_);
@@ -153,7 +159,9 @@ void TrackerPanel::refresh()
 
 void TrackerPanel::showKeys()
 {
-    // A detached tracker shows nothing; what was read last stays on view.
+    // A detached tracker shows nothing; what was read last stays on view. A look must not use a fault up.
+    if (tracker_.faults().unplug)
+        return;
     const QTemporaryDir folder;
     QFile file(tracker_.readConfiguration(folder.path()));
     if (!file.open(QIODevice::ReadOnly))

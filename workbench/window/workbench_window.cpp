@@ -89,7 +89,6 @@ void WorkbenchWindow::buildPanels()
     auto* recentLayout = new QVBoxLayout(recentBox_);
     auto* hint = texts_.bind(new QLabel(recentBox_), "wb_drop_hint");
     hint->setWordWrap(true);
-    hint->setForegroundRole(QPalette::PlaceholderText);
     recentLayout->addWidget(recent_, 1);
     recentLayout->addWidget(hint);
 
@@ -115,7 +114,6 @@ void WorkbenchWindow::buildPanels()
     splitter->addWidget(tabs_);
     splitter->setStretchFactor(1, 1);
     splitter->setChildrenCollapsible(false);
-    splitter->setSizes({leftWidth, width() - leftWidth});
     auto* frame = new QWidget(this);
     auto* frameLayout = new QVBoxLayout(frame);
     frameLayout->addWidget(splitter);
@@ -173,19 +171,13 @@ void WorkbenchWindow::buildToolBar()
     texts_.bind([this] {
         windowChoice_->setItemText(0, vlk::text("wb_window_full"));
         windowChoice_->setItemText(1, vlk::text("wb_window_quick"));
+        windowChoice_->setToolTip(vlk::text("wb_window"));
+        windowChoice_->setAccessibleName(vlk::text("wb_window"));
     });
     windowChoice_->setCurrentIndex(settings_.fullWindow() ? 0 : 1);
     connect(windowChoice_, QOverload<int>::of(&QComboBox::activated), this,
             [this] { settings_.setFullWindow(fullWindow()); });
-    auto* choice = new QWidget(bar);
-    auto* choiceLayout = new QVBoxLayout(choice);
-    choiceLayout->setContentsMargins(6, 0, 6, 0);
-    choiceLayout->setSpacing(2);
-    auto* label = texts_.bind(new QLabel(choice), "wb_window");
-    label->setBuddy(windowChoice_);
-    choiceLayout->addWidget(windowChoice_);
-    choiceLayout->addWidget(label, 0, Qt::AlignHCenter);
-    bar->addWidget(choice);
+    bar->addWidget(windowChoice_);
     bar->addSeparator();
 
     add({Command::LiveTelemetry, Command::BrowseFile, Command::TableFile});
@@ -394,7 +386,7 @@ void WorkbenchWindow::showReport(const tracker::WriteReport& report)
 {
     reportView_->setReport(report);
     tabs_->setCurrentWidget(reportView_);
-    showMessage(vlk::summary(report));
+    showMessage(vlk::summary(report).section(QLatin1Char('\n'), 0, 0));
     if (QWidget* modal = QApplication::activeModalWidget())
         WriteReportView::showDialog(report, modal);
 }
@@ -433,9 +425,11 @@ void WorkbenchWindow::retranslate()
 
 void WorkbenchWindow::restoreLayout()
 {
+    statusBar()->setSizeGripEnabled(false);
     resize(1024, 600);
     restoreGeometry(settings_.layout(objectName()));
     auto* splitter = findChild<QSplitter*>(QStringLiteral("splitter_Main"));
+    splitter->setSizes({leftWidth, width() - leftWidth});
     splitter->restoreState(settings_.layout(splitter->objectName()));
 }
 

@@ -3,6 +3,8 @@
 #include "window/languages.h"
 #include "window/write_report_model.h"
 
+#include <QFile>
+
 namespace vlk {
 
 QString summary(const tracker::WriteReport& report)
@@ -10,8 +12,11 @@ QString summary(const tracker::WriteReport& report)
     if (!report.accepted) {
         QString reason = text(report.reasonKey.toLatin1().constData());
         if (!report.detail.isEmpty())
-            reason += QStringLiteral(" (%1)").arg(report.detail);
-        return text("wb_report_refused").arg(reason, report.file);
+            reason += QLatin1Char(' ') + report.detail;
+        QString refusal = text("wb_report_refused").arg(reason);
+        if (QFile::exists(report.file))
+            refusal += QLatin1Char('\n') + text("wb_report_kept").arg(report.file);
+        return refusal;
     }
     if (report.sameAsBefore())
         return text("wb_report_same");

@@ -8,7 +8,7 @@ namespace {
 
 // Open addressing, a power of two and well above twice the names, so that chains stay short.
 constexpr std::size_t kSlots = 1024;
-static_assert(kSlots > 2 * kElementCount);
+static_assert(2 * std::size(catalogue::kElementRows) < kSlots);
 
 std::size_t slotOf(std::string_view name)
 {

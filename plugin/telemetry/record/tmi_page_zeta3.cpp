@@ -21,7 +21,7 @@ TmiPage_Zeta3::TmiPage_Zeta3(quint8 type, quint8 ver, const FieldMask& mask, con
 
 TmiPage_Zeta3::TmiPage_Zeta3(const ExtraPacket& extra) : TmiPage_Zeta3()
 {
-    setExtra(extra);
+    setExtra(extra, {});
 }
 
 void TmiPage_Zeta3::setRecord(const void* record, qsizetype size)
@@ -29,8 +29,7 @@ void TmiPage_Zeta3::setRecord(const void* record, qsizetype size)
     const auto bytes = bytesAt(record, size);
     const RecordHead head = readHead(bytes);
     if (head.type == kExtraPacket) {
-        setExtra(ExtraPacket::fromRecord(bytes));
-        setPayload(behind(bytes, sizeof(head.type)));
+        setExtra(ExtraPacket::fromRecord(bytes), bytes);
         return;
     }
     type_ = head.type;
@@ -44,8 +43,7 @@ void TmiPage_Zeta3::setRecord(const void* record, qsizetype size)
 void TmiPage_Zeta3::setKeyAnswer(const void* answer, qsizetype size)
 {
     const auto bytes = bytesAt(answer, size);
-    setExtra(ExtraPacket::fromKeyAnswer(bytes));
-    setPayload(behind(bytes, 1));
+    setExtra(ExtraPacket::fromKeyAnswer(bytes), bytes);
 }
 
 quint8 TmiPage_Zeta3::type() const
@@ -76,8 +74,9 @@ QByteArray TmiPage_Zeta3::maskBytes() const
 }
 
 // An extra packet has neither mask nor values, and the bytes of its head are nobody's mask.
-void TmiPage_Zeta3::setExtra(const ExtraPacket& extra)
+void TmiPage_Zeta3::setExtra(const ExtraPacket& extra, std::span<const std::uint8_t> packet)
 {
+    setPayload(behind(packet, sizeof(type_)));
     unpack({}, {});
     extra_ = extra;
     isExtra_ = true;

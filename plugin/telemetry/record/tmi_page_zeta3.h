@@ -55,7 +55,7 @@ public:
     void setUtcOffset(qint32 seconds) { utcOffset_ = seconds; }
 
 private:
-    void setExtra(const vlk::ExtraPacket& extra);
+    void setExtra(const vlk::ExtraPacket& extra, std::span<const std::uint8_t> packet);
     void setPayload(std::span<const std::uint8_t> bytes);
 
     quint8 type_ = 0;

@@ -4,6 +4,7 @@
 #include "telemetry/text/user_parameter_text.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace vlk {
 
