@@ -167,5 +167,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestTrackerStore)
+QTEST_GUILESS_MAIN(TestTrackerStore)
 #include "tst_tracker_store.moc"
