@@ -309,5 +309,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestTrackerRecords)
+QTEST_GUILESS_MAIN(TestTrackerRecords)
 #include "tst_tracker_records.moc"

@@ -170,5 +170,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestTrackerStore)
+QTEST_GUILESS_MAIN(TestTrackerStore)
 #include "tst_tracker_store.moc"
