@@ -83,7 +83,8 @@ QByteArray difference(TmiPage_Zeta3& reused, const QByteArray& record)
 
 QByteArray recordOf(const FieldMask& mask, const QByteArray& payload)
 {
-    return QByteArray("\xb0\x1e") + TmiPage_Zeta3(mask).maskBytes() + payload;
+    return QByteArray("\xb0\x1e") +
+           QByteArray(reinterpret_cast<const char*>(mask.bytes().data()), FieldMask::kBytes) + payload;
 }
 
 class Random
