@@ -36,8 +36,10 @@ QLabel* makeValue(const QString& name)
 QHBoxLayout* besideEachOther(std::initializer_list<QLabel*> labels)
 {
     auto* layout = new QHBoxLayout;
+    layout->setSpacing(8);
     for (QLabel* label : labels) {
         label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+        label->setMinimumWidth(0);
         layout->addWidget(label);
     }
     layout->addStretch();
