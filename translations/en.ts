@@ -769,6 +769,7 @@
     <message id="wb_report_changed"><translation>changed</translation></message>
     <message id="wb_report_copy"><translation>Copy the report</translation></message>
     <message id="wb_report_kept"><translation>The file is kept: %1</translation></message>
+    <message id="wb_report_kept_sections"><translation>Sections that the file does not have stay as they were: %1</translation></message>
     <message id="wb_report_key"><translation>Key</translation></message>
     <message id="wb_report_kind"><translation>What</translation></message>
     <message id="wb_report_none"><translation>When a configuration has been written to the tracker, its changes are listed here.</translation></message>

@@ -769,6 +769,7 @@
     <message id="wb_report_changed"><translation>изменён</translation></message>
     <message id="wb_report_copy"><translation>Копировать отчёт</translation></message>
     <message id="wb_report_kept"><translation>Файл сохранён: %1</translation></message>
+    <message id="wb_report_kept_sections"><translation>Разделы, которых нет в файле, остались как были: %1</translation></message>
     <message id="wb_report_key"><translation>Ключ</translation></message>
     <message id="wb_report_kind"><translation>Что</translation></message>
     <message id="wb_report_none"><translation>Здесь появится список изменений, когда конфигурация будет записана в трекер.</translation></message>
