@@ -125,13 +125,13 @@
     <message id="tmift1_034"><translation>Speed, km/h</translation></message>
     <message id="tmift1_035"><translation>Course, °</translation></message>
     <message id="tmift1_036"><translation>Mileage, km</translation></message>
-    <message id="tmift1_037"><translation>Last segment&lt;val&gt;km, moving&lt;val&gt;of&lt;val&gt;s</translation></message>
-    <message id="tmift1_038"><translation>Segment reliability</translation></message>
+    <message id="tmift1_037"><translation>Last segment&lt;val&gt;km in&lt;val&gt;of&lt;val&gt;s</translation></message>
+    <message id="tmift1_038"><translation>Reliability</translation></message>
     <message id="tmift2_002"><translation>Voltages</translation></message>
     <message id="tmift2_006"><translation>Inputs</translation></message>
     <message id="tmift2_007"><translation>state</translation></message>
-    <message id="tmift2_022"><translation>Backup supply, V</translation></message>
-    <message id="tmift2_023"><translation>Analogue input 3&lt;val&gt;V</translation></message>
+    <message id="tmift2_022"><translation>Backup, V</translation></message>
+    <message id="tmift2_023"><translation>Input Ain3&lt;val&gt;V</translation></message>
     <message id="tmiw_001"><translation>Telemetry</translation></message>
     <message id="tmiw_002"><translation>No data</translation></message>
     <message id="tmiw_003"><translation>Record</translation></message>
