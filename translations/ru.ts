@@ -129,7 +129,7 @@
     <message id="tmift1_027"><translation>Приёмник</translation></message>
     <message id="tmift1_028"><translation>Спутников</translation></message>
     <message id="tmift1_029"><translation>Время координат</translation></message>
-    <message id="tmift1_030"><translation>Координаты достоверны</translation></message>
+    <message id="tmift1_030"><translation>Координаты верны</translation></message>
     <message id="tmift1_031"><translation>Широта</translation></message>
     <message id="tmift1_032"><translation>Долгота</translation></message>
     <message id="tmift1_033"><translation>Высота, м</translation></message>
