@@ -118,7 +118,7 @@
     <message id="tmift1_005"><translation>Соединение</translation></message>
     <message id="tmift1_009"><translation>Сервисы RCS/RFU</translation></message>
     <message id="tmift1_012"><translation>Путь, км</translation></message>
-    <message id="tmift1_013"><translation>Время прохождения, с</translation></message>
+    <message id="tmift1_013"><translation>Время в пути, с</translation></message>
     <message id="tmift1_014"><translation>Интервал, с</translation></message>
     <message id="tmift1_015"><translation>Достоверность, %</translation></message>
     <message id="tmift1_016"><translation>Последний участок пути</translation></message>

@@ -131,7 +131,8 @@ void RecordGroup::addRow(const char* captionKey, QWidget* widget)
 
 void RecordGroup::addCommand(QWidget* widget)
 {
-    grid_->addWidget(widget, startBelow(), 0, 1, kColumnsOfList, Qt::AlignLeft);
+    const int column = titles_.empty() ? 2 : 0;
+    grid_->addWidget(widget, startBelow(), column, 1, kColumnsOfList - column, Qt::AlignLeft);
 }
 
 void RecordGroup::addCaptions(std::span<const char* const> keys, int row, int column)

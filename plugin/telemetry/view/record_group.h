@@ -60,7 +60,7 @@ public:
     void addList(std::span<const ValueSeries> list, int rowsBelow = kAllRows);
     // A widget that is no label, under a caption of its own.
     void addRow(const char* captionKey, QWidget* widget);
-    // Controls across the group.
+    // Controls below the values, across the group if that has names.
     void addCommand(QWidget* widget);
     // A value that takes the room of all columns of a table.
     void addWideRow(const ValueSeries& value);
