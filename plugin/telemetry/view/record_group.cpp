@@ -14,6 +14,8 @@ namespace {
 // Of a name that the user gave.
 constexpr int kLeastCharacters = 12;
 constexpr int kMostCharacters = 24;
+constexpr int kListSpacing = 8;
+constexpr int kTableSpacing = 14;
 constexpr int kColumnsOfList = 4; // caption, title, value, room
 
 QString translated(const char* key)
@@ -52,7 +54,7 @@ RecordGroup::RecordGroup(const char* objectName, const char* titleKey, QWidget* 
 {
     setObjectName(QLatin1String(objectName));
     grid_->setContentsMargins(6, 4, 4, 6);
-    grid_->setHorizontalSpacing(8);
+    grid_->setHorizontalSpacing(kListSpacing);
     grid_->setVerticalSpacing(3);
 }
 
@@ -143,6 +145,7 @@ void RecordGroup::addCaptions(std::span<const char* const> keys, int row, int co
 
 void RecordGroup::addColumns(std::span<const ValueSeries> columns, int rowsBelow)
 {
+    grid_->setHorizontalSpacing(kTableSpacing);
     const int first = startBelow();
     const int width = static_cast<int>(columns.size()) + 2; // the number in front, room behind
     for (int i = 0; i < columns[0].count; ++i) {
@@ -239,8 +242,8 @@ void RecordGroup::fill(const TmiPage_Zeta3& page)
 
 void RecordGroup::retranslate()
 {
-    // Some styles measure a title a pixel too short; the blank takes it.
-    setTitle(translated(titleKey_) + QLatin1Char(' '));
+    // Some styles measure a title some pixels too short; the blanks take them.
+    setTitle(translated(titleKey_) + QLatin1String("  "));
     for (const Caption& caption : captions_)
         caption.label->setText(numbered(caption.key, caption.number));
     for (const Value& value : values_)
