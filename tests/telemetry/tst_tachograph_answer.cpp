@@ -184,7 +184,7 @@ void TachographAnswerTest::files()
     QCOMPARE(read.readyFile.value_or(QString()), name);
 }
 
-// A shorter answer has the first lines of a longer one, the last of its texts perhaps cut.
+// A longer answer keeps the lines of a shorter one, save a text that was cut.
 void TachographAnswerTest::everyLength()
 {
     for (const QByteArray& whole : {state(0), card(3), card(4), data(), file(0, "M_2025.ddd")}) {
@@ -192,9 +192,10 @@ void TachographAnswerTest::everyLength()
         for (int size = 0; size <= whole.size(); ++size) {
             const TachographAnswer read = tachographAnswer(whole.left(size), kNoon);
             QCOMPARE(read.subject == Subject::Nothing, size <= 6);
-            QVERIFY(read.lines.size() >= before.size());
-            for (int i = 0; i + 1 < before.size(); ++i)
-                QCOMPARE(read.lines[i], before[i]);
+            const QSet<QString> now(read.lines.begin(), read.lines.end());
+            const auto kept = std::count_if(before.begin(), before.end(),
+                                            [&](const QString& line) { return now.contains(line); });
+            QVERIFY(kept >= before.size() - 1);
             before = read.lines;
         }
         QCOMPARE(before, tachographAnswer(whole, kNoon).lines);

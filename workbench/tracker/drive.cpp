@@ -71,31 +71,30 @@ Moment Drive::at(qint64 time)
     Moment result = moment(segmentAt(time), time);
     result.number = number;
     result.code = static_cast<quint16>(EventCode::OnRequest);
-    const Place before = placeOf(number);
-    const Moment last = moment(*before.segment, before.time());
-    result.segmentKm = result.at.km - last.at.km;
-    result.segmentSeconds = static_cast<int>(time - last.time);
-    result.movingSeconds = result.speed > 0 ? result.segmentSeconds : 0;
+    measureFrom(number, result);
     return result;
 }
 
 Moment Drive::record(quint32 number)
 {
     const Place place = placeOf(number);
-    const Segment segment = *place.segment;
-    Moment result = moment(segment, segment.from + qint64(place.index) * segment.interval());
+    Moment result = moment(*place.segment, place.time());
     result.number = number;
-    nameRecord(result, segment, place.index, mix(mix(seed_, CodeSeed), number));
-    if (number == 0) {
+    nameRecord(result, *place.segment, place.index, mix(mix(seed_, CodeSeed), number));
+    if (number > 0)
+        measureFrom(number - 1, result);
+    else
         result.code = static_cast<quint16>(EventCode::Restart);
-    } else {
-        const Place before = placeOf(number - 1);
-        const Moment last = moment(*before.segment, before.time());
-        result.segmentKm = result.at.km - last.at.km;
-        result.segmentSeconds = static_cast<int>(result.time - last.time);
-        result.movingSeconds = before.segment->activity == Activity::Driving ? result.segmentSeconds : 0;
-    }
     return result;
+}
+
+void Drive::measureFrom(quint32 number, Moment& moment)
+{
+    const Place before = placeOf(number);
+    const Moment last = this->moment(*before.segment, before.time());
+    moment.segmentKm = moment.at.km - last.at.km;
+    moment.segmentSeconds = static_cast<int>(moment.time - last.time);
+    moment.movingSeconds = before.segment->activity == Activity::Driving ? moment.segmentSeconds : 0;
 }
 
 quint32 Drive::lastBefore(qint64 time)

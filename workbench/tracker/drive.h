@@ -40,6 +40,8 @@ private:
     const Segment& segmentAt(qint64 time);
     Place placeOf(quint32 number);
     Moment moment(const Segment& segment, qint64 time) const;
+    // The way and the time since that record.
+    void measureFrom(quint32 number, Moment& moment);
 
     quint64 seed_;
     qint64 midnight_;

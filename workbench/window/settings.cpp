@@ -22,6 +22,7 @@ QString layoutKey(const QString& name)
 // QSettings reads past bytes that no ini file has; they mean that the file is not what was written.
 bool isDamaged(const QString& file, const QSettings& store)
 {
+    store.allKeys(); // parses the file, which QSettings puts off
     QFile raw(file);
     return store.status() == QSettings::FormatError ||
            (raw.open(QIODevice::ReadOnly) && raw.readAll().contains('\0'));

@@ -69,7 +69,9 @@ void Tour::save(const QString& name, const QByteArray& content)
 
 void Tour::picture(const QString& name, QWidget* widget)
 {
-    QCoreApplication::processEvents();
+    // Nested layouts settle one level a pass.
+    for (int pass = 0; pass < 8; ++pass)
+        QCoreApplication::processEvents();
     const QString path = folder_.filePath(name);
     if (!widget->grab().save(path))
         throw TourFailure(QStringLiteral("cannot write %1").arg(path));

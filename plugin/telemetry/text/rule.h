@@ -2,7 +2,7 @@
 
 // How a value becomes a text. A rule is data; item_text.cpp is the one place that follows it.
 //
-// The steps, in this order: the condition on a bit, the codes that mean no value, the range of bits, the
+// The steps, in this order: the condition on a bit, the code that means no value, the range of bits, the
 // scale, the shape, the unit behind a blank.
 
 #include "telemetry/text/word.h"
@@ -20,7 +20,7 @@ enum class Shape : std::uint8_t {
     fixed,         // `decimals` digits behind the point
     general,       // up to 6 significant digits, whichever of 1234.5 and 1.2345e+06 is shorter
     word,          // `set`, always
-    twoState,      // `set` or `clear` by the bit of the item
+    twoState,      // `set` or `clear`, by the bit that the item names or the first of `bits`
     enumeration,   // a word of `names`, or what `other` says
     zonedTime,     // "15:00:00 01.02.2025 (UTC +3)" in the zone of the record
     localTime,     // "15:00:00 01.02.2025" in the zone of this machine

@@ -53,16 +53,17 @@ void readText(CXmlSection* root, const char* section, const QString& child, cons
 
 } // namespace
 
-void readTrackerSetup(const QString& path, TrackerSetup& setup)
+bool readTrackerSetup(const QString& path, TrackerSetup& setup)
 {
     // Opening a document makes the file where there is none.
     if (!QFileInfo(path).isFile())
-        return;
+        return false;
     XmlDocument document(path, QStringLiteral("DEVICE"));
     if (!document.isOpen())
-        return;
+        return false;
     CXmlSection* root = document.root();
     readText(root, "TRANS", QStringLiteral("OBJECT"), "name", setup.objectName);
+    setup.balanceUssd.clear();
     readText(root, "SYSTEM", QStringLiteral("BALANCE"), "USSD", setup.balanceUssd);
     for (const TitleSource& source : kTitleSources) {
         const auto titles = source.titles(setup.titles).first<kTitlesRead>();
@@ -70,6 +71,7 @@ void readTrackerSetup(const QString& path, TrackerSetup& setup)
             readText(root, source.section, QString::fromLatin1(source.child).arg(i + 1), source.attribute,
                      titles[i]);
     }
+    return true;
 }
 
 } // namespace vlk

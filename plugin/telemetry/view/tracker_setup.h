@@ -14,8 +14,8 @@ struct TrackerSetup
     TelemetryTitles titles;
 };
 
-// Reads the file at `path` over `setup`: what it does not hold stays as it was, and so does everything if it
-// cannot be read.
-void readTrackerSetup(const QString& path, TrackerSetup& setup);
+// Reads the file at `path` over `setup`: names that it does not hold stay as they were. False, and nothing
+// changes, if it cannot be read.
+bool readTrackerSetup(const QString& path, TrackerSetup& setup);
 
 } // namespace vlk

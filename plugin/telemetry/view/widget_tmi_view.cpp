@@ -5,14 +5,10 @@
 #include "base/clock.h"
 #include "host/device_r7106.h"
 #include "host/requests.h"
-#include "telemetry/record/record_head.h"
-#include "telemetry/record/tmi_page_zeta2.h"
 #include "telemetry/tachograph/form_tmi_taho.h"
 #include "telemetry/text/key_text.h"
 #include "telemetry/view/event_panel.h"
-#include "telemetry/view/form_tmi_production.h"
-#include "telemetry/view/form_tmi_zeta3.h"
-#include "telemetry/view/form_tmi_zetaext.h"
+#include "telemetry/view/tmi_view_texts.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -42,8 +38,8 @@ int hostMode()
 
 VLK_Widget_Tmi_View::VLK_Widget_Tmi_View(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
-      ui_(setUpUi(this)), eventPanel_(new EventPanel(this)), automatic_(this),
-      clearing_({ui_->checkBox_Server1, ui_->checkBox_Server2, ui_->checkBox_Server3})
+      ui_(setUpUi(this)), eventPanel_(new EventPanel(this)), pages_(ui_->stackedWidget, eventPanel_),
+      automatic_(this), clearing_({ui_->checkBox_Server1, ui_->checkBox_Server2, ui_->checkBox_Server3})
 {
     ui_->verticalLayout_Event->addWidget(eventPanel_);
     ui_->groupBox_Btn_Guard->hide();
@@ -98,11 +94,9 @@ void VLK_Widget_Tmi_View::connectControls()
 void VLK_Widget_Tmi_View::open(const QString& configurationPath)
 {
     setup_.objectName = TrackerSetup().objectName;
-    readTrackerSetup(configurationPath, setup_);
-    if (vlkDevice != nullptr)
+    if (readTrackerSetup(configurationPath, setup_) && vlkDevice != nullptr)
         qstrncpy(vlkDevice->balanceUssd(), setup_.balanceUssd.toLocal8Bit().constData(), balanceUssdSize);
-    if (zeta3_ != nullptr)
-        prepare(zeta3_);
+    pages_.setTracker(setup_.titles, vlkDevice != nullptr ? vlkDevice->capabilityMask() : 0);
 
     stopRequests();
     clearProgress();
@@ -112,15 +106,13 @@ void VLK_Widget_Tmi_View::open(const QString& configurationPath)
 
     ui_->spinBox_TimeOffset->setValue(now().offsetFromUtc() / kSecondsPerHour);
     timeOffset_ = ui_->spinBox_TimeOffset->value() * kSecondsPerHour;
+    pages_.setUtcOffset(timeOffset_);
     const QDateTime present = now().toUTC().addSecs(timeOffset_);
     ui_->dateTimeEdit_Show->setDateTime(present);
     ui_->dateTimeEdit_Last->setDateTime(present);
     ui_->dateTimeEdit_First->setDateTime(present.addSecs(-kSecondsPerHour));
 
-    eventPanel_->clear();
-    eventPanel_->setModesVisible(true);
-    eventPanel_->hide();
-    ui_->stackedWidget->setCurrentWidget(ui_->page_Empty);
+    pages_.showNothing();
     ui_->groupBox_Btn_Guard->hide();
     setTitle();
     show();
@@ -150,8 +142,7 @@ void VLK_Widget_Tmi_View::setManualEnabled(bool enabled)
                                ui_->pushButton_RFID};
     for (QWidget* widget : manual)
         widget->setEnabled(enabled);
-    if (zeta3_ != nullptr)
-        zeta3_->setCommandsEnabled(enabled);
+    pages_.setCommandsEnabled(enabled);
 }
 
 void VLK_Widget_Tmi_View::clearProgress()
@@ -171,91 +162,12 @@ void VLK_Widget_Tmi_View::stopRequests()
 
 void VLK_Widget_Tmi_View::takeRecord(const QByteArray& record)
 {
-    const std::optional<quint32> number = showRecord(record);
+    const std::optional<quint32> number = pages_.showRecord(record);
     if (!number)
         return;
     highestNumber_ = std::max(highestNumber_, *number);
     ui_->pushButton_Get_Next->setEnabled(*number < highestNumber_);
     ui_->pushButton_Get_Prev->setEnabled(*number != 0);
-}
-
-std::optional<quint32> VLK_Widget_Tmi_View::showRecord(const QByteArray& record)
-{
-    const RecordHead head = readHead(bytesAt(record.constData(), record.size()));
-    if (head.type == kExtraPacket)
-        return showIn(zetaExt_, ui_->page_ZetaExt, record);
-    if (head.type != kTelemetryRecord)
-        return {};
-    switch (head.ver) {
-    case kProtocol1:
-        return showNumber(ui_->page_Zeta1, 0);
-    case kProtocol2:
-        return showNumber(ui_->page_Zeta2, TmiPage_Zeta2(record.constData(), record.size()).number());
-    case kProtocol3:
-        return hostMode() == 0 ? showIn(zeta3_, ui_->page_Zeta3, record)
-                               : showIn(production_, ui_->page_Production, record);
-    default:
-        return {};
-    }
-}
-
-void VLK_Widget_Tmi_View::showPage(QWidget* page)
-{
-    ui_->stackedWidget->setCurrentWidget(page);
-    // Extra packets have no modes of their own.
-    eventPanel_->setModesVisible(page != ui_->page_ZetaExt);
-    eventPanel_->show();
-}
-
-quint32 VLK_Widget_Tmi_View::showNumber(QWidget* page, quint32 number)
-{
-    showPage(page);
-    eventPanel_->setNumberAlone(number);
-    return number;
-}
-
-template <class Form>
-Form& VLK_Widget_Tmi_View::formIn(Form*& form, QWidget* page)
-{
-    if (form == nullptr) {
-        form = new Form(eventPanel_);
-        auto* layout = new QVBoxLayout(page);
-        layout->setContentsMargins(0, 0, 0, 0);
-        layout->addWidget(form);
-        prepare(form);
-    }
-    form->setUtcOffset(timeOffset_);
-    return *form;
-}
-
-template <class Form>
-quint32 VLK_Widget_Tmi_View::showIn(Form*& form, QWidget* page, const QByteArray& record)
-{
-    formIn(form, page).takeRecord(record);
-    showPage(page);
-    return static_cast<quint32>(form->number());
-}
-
-template <class Form>
-void VLK_Widget_Tmi_View::prepare(Form* form)
-{
-    if constexpr (std::is_same_v<Form, VLK_Form_TMI_Zeta3>) {
-        form->setTitles(setup_.titles);
-        form->setCapabilityMask(vlkDevice != nullptr ? vlkDevice->capabilityMask() : 0);
-        form->setCommandsEnabled(!ui_->checkBox_Get_Auto_TMI->isChecked());
-    }
-}
-
-template <class Act>
-void VLK_Widget_Tmi_View::withShownForm(Act act)
-{
-    const QWidget* page = ui_->stackedWidget->currentWidget();
-    if (zeta3_ != nullptr && page == ui_->page_Zeta3)
-        act(*zeta3_);
-    else if (zetaExt_ != nullptr && page == ui_->page_ZetaExt)
-        act(*zetaExt_);
-    else if (production_ != nullptr && page == ui_->page_Production)
-        act(*production_);
 }
 
 void VLK_Widget_Tmi_View::takeClearedRecord(const QByteArray& record)
@@ -266,12 +178,7 @@ void VLK_Widget_Tmi_View::takeClearedRecord(const QByteArray& record)
 
 void VLK_Widget_Tmi_View::takeKeyAnswer(const QByteArray& answer)
 {
-    if (answer.isEmpty())
-        return;
-    QByteArray packet = answer;
-    packet[0] = static_cast<char>(kExtraPacket);
-    formIn(zetaExt_, ui_->page_ZetaExt).takeKeyAnswer(packet);
-    showPage(ui_->page_ZetaExt);
+    pages_.showKeyAnswer(answer);
 }
 
 void VLK_Widget_Tmi_View::takeLiveKey(quint64 key)
@@ -347,7 +254,7 @@ void VLK_Widget_Tmi_View::slot_valueChanged_TimeOffset(int hours)
     for (QDateTimeEdit* edit : {ui_->dateTimeEdit_Show, ui_->dateTimeEdit_First, ui_->dateTimeEdit_Last})
         edit->setDateTime(edit->dateTime().addSecs(offset - timeOffset_));
     timeOffset_ = offset;
-    withShownForm([offset](auto& form) { form.setUtcOffset(offset); });
+    pages_.setUtcOffset(offset);
 }
 
 void VLK_Widget_Tmi_View::slot_pressed_Help()
@@ -463,66 +370,11 @@ void VLK_Widget_Tmi_View::slot_GetTahoFile_Read(const QString& name)
 
 void VLK_Widget_Tmi_View::retranslate()
 {
-    const std::pair<QGroupBox*, const char*> groups[] = {
-        {ui_->groupBox_Btn_Get, "tmiw_003"},    {ui_->groupBox_Btn_Auto, "tmiw_007"},
-        {ui_->groupBox_Btn_Guard, "tmiw_146"},  {ui_->groupBox_Btn_Save, "tmiw_011"},
-        {ui_->groupBox_Btn_Clear, "tmiw_022"},  {ui_->groupBox_Btn_Keys, "tmiw_025"},
-        {ui_->groupBox_Btn_Device, "tmiw_142"},
-    };
-    for (const auto& [group, key] : groups)
-        group->setTitle(tr(key));
-    const std::pair<QAbstractButton*, const char*> buttons[] = {
-        {ui_->pushButton_Get_Current, "tmiw_004"},
-        {ui_->pushButton_Get_Prev, "wrd_061"},
-        {ui_->pushButton_Get_Next, "wrd_062"},
-        {ui_->pushButton_Show, "tmiw_005"},
-        {ui_->checkBox_Get_Auto_TMI, "tmiw_008"},
-        {ui_->pushButton_Func, "tmiw_010"},
-        {ui_->pushButton_SaveToFile, "tmiw_014"},
-        {ui_->pushButton_SaveToExcel, "tmiw_015"},
-        {ui_->pushButton_SaveFileToServer, "tmiw_016"},
-        {ui_->pushButton_Save_Cancel, "wrd_031"},
-        {ui_->pushButton_Clear, "tmiw_024"},
-        {ui_->pushButton_TM, "tmiw_030"},
-        {ui_->pushButton_RFID, "tmiw_030"},
-        {ui_->pushButton_Get_Current_Touch, "tmiw_140"},
-        {ui_->pushButton_Get_Current_RFID, "tmiw_141"},
-        {ui_->pushButton_Taho, "wrd_065"},
-        {ui_->pushButton_FuelSensor, "tmiw_143"},
-        {ui_->pushButton_Set_NoGuard, "tmiw_144"},
-        {ui_->pushButton_Set_Guard, "tmiw_145"},
-        {ui_->pushButton_Help, "wrd_027"},
-        {ui_->pushButton_Close, "wrd_054"},
-    };
-    for (const auto& [button, key] : buttons)
-        button->setText(tr(key));
-    const std::pair<QLabel*, const char*> labels[] = {
-        {ui_->label_NoData, "tmiw_002"}, {ui_->label_Show, "tmiw_006"}, {ui_->label_TimeOffset, "tmiw_009"},
-        {ui_->label_First, "tmiw_012"},  {ui_->label_Last, "tmiw_013"}, {ui_->label_TM, "tmiw_028"},
-        {ui_->label_RFID, "tmiw_029"},
-    };
-    for (const auto& [label, key] : labels)
-        label->setText(tr(key));
-    QCheckBox* const servers[] = {ui_->checkBox_Server1, ui_->checkBox_Server2, ui_->checkBox_Server3};
-    for (std::size_t i = 0; i < std::size(servers); ++i)
-        servers[i]->setText(QStringLiteral("%1 %2").arg(tr("tmiw_023")).arg(i + 1));
-    ui_->spinBox_TimeOffset->setSuffix(QLatin1Char(' ') + tr("abbr_001"));
-    ui_->horizontalSlider_Auto_Tmi->setAccessibleName(tr("tmiw_007"));
-    ui_->spinBox_RFID->setAccessibleName(tr("tmiw_147"));
-    ui_->spinBox_RFID->setToolTip(tr("tmiw_147"));
+    setControlTexts(*ui_);
     slot_valueChanged_horizontalSlider_Auto_Tmi(ui_->horizontalSlider_Auto_Tmi->value());
     setTitle();
 
-    eventPanel_->retranslate();
-    const auto retranslateForm = [](auto* form) {
-        if (form != nullptr)
-            form->retranslate();
-    };
-    retranslateForm(zetaExt_);
-    retranslateForm(production_);
-    retranslateForm(tachograph_);
-    withShownForm([this](const auto& form) {
-        if (form.page() != nullptr)
-            eventPanel_->setRecord(*form.page());
-    });
+    pages_.retranslate();
+    if (tachograph_ != nullptr)
+        tachograph_->retranslate();
 }

@@ -8,19 +8,16 @@
 #include "host/host_interface.h"
 #include "telemetry/view/automatic_requests.h"
 #include "telemetry/view/clearing_sequence.h"
+#include "telemetry/view/record_stack.h"
 #include "telemetry/view/tracker_setup.h"
 
 #include <QDialog>
 
 #include <memory>
-#include <optional>
 
 class EventPanel;
 class QAbstractButton;
-class VLK_Form_TMI_Production;
 class VLK_Form_TMI_Taho;
-class VLK_Form_TMI_Zeta3;
-class VLK_Form_TMI_ZetaExt;
 
 namespace Ui {
 class VLK_Designer_Widget_Tmi_View;
@@ -34,6 +31,7 @@ public:
     explicit VLK_Widget_Tmi_View(QWidget* parent = nullptr);
     ~VLK_Widget_Tmi_View() override;
 
+    using QDialog::open;
     // Starts anew with the tracker of this configuration file, and asks for the first record.
     void open(const QString& configurationPath);
     void deviceConnected() { setTitle(); }
@@ -84,30 +82,12 @@ private:
     void clearProgress();
     // Asks for a record by number; a walking button that is held down waits for each answer.
     void walkTo(quint32 number, const QAbstractButton* button);
-    // Shows the record by its type and version; nothing for one that is of no known kind.
-    std::optional<quint32> showRecord(const QByteArray& record);
-    // Shows a record in a content form and gives its number.
-    template <class Form>
-    quint32 showIn(Form*& form, QWidget* page, const QByteArray& record);
-    // For records of which nothing but the number is known.
-    quint32 showNumber(QWidget* page, quint32 number);
-    void showPage(QWidget* page);
-    // The content form of a page, made on first use, in the zone of the window.
-    template <class Form>
-    Form& formIn(Form*& form, QWidget* page);
-    // What a content form knows of the tracker.
-    template <class Form>
-    void prepare(Form* form);
-    template <class Act>
-    void withShownForm(Act act);
     void setGuardButtons(int operatingMode);
 
     std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_View> ui_;
     EventPanel* eventPanel_;
-    VLK_Form_TMI_Zeta3* zeta3_ = nullptr;
-    VLK_Form_TMI_ZetaExt* zetaExt_ = nullptr;
-    VLK_Form_TMI_Production* production_ = nullptr;
     VLK_Form_TMI_Taho* tachograph_ = nullptr;
+    RecordStack pages_;
     AutomaticRequests automatic_;
     ClearingSequence clearing_;
     vlk::TrackerSetup setup_;
