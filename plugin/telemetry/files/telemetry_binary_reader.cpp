@@ -104,8 +104,8 @@ private:
     void takeRecord(std::size_t size)
     {
         const Bytes record = behind(input_.peek(size), binary::kLengthBytes);
-        contents_.pages.push_back(
-            std::make_unique<TmiPage_Zeta3>(record.data(), static_cast<qsizetype>(record.size())));
+        contents_.pages.push_back(std::make_unique<TmiPage_Zeta3>(
+            record.data(), static_cast<qsizetype>(record.size()), utcOffset_));
         pass(size);
     }
 
@@ -156,6 +156,7 @@ private:
 
     InputBuffer input_;
     TelemetryContents contents_;
+    qint32 utcOffset_ = localOffset();
     quint16 count_ = 0;
     quint32 recordsCrc_ = 0;
     quint32 crc_ = 0;
