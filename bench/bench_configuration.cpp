@@ -3,16 +3,13 @@
 // ratio to that. Where the system has a folder in memory the file lies there, since a save waits for the
 // disk.
 
+#include "bench/side_by_side.h"
+#include "bench/xml_reader_alone.h"
 #include "xml/xml_document.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QXmlSimpleReader>
-
-#include <benchmark/benchmark.h>
-
-#include <chrono>
 
 namespace {
 
@@ -63,27 +60,6 @@ int loadConfiguration(const QString& path)
     return sum;
 }
 
-QT_WARNING_PUSH
-QT_WARNING_DISABLE_DEPRECATED
-bool readWithoutUse(const QString& path)
-{
-    QFile file(path);
-    QXmlInputSource source(&file);
-    QXmlDefaultHandler handler;
-    QXmlSimpleReader reader;
-    reader.setContentHandler(&handler);
-    return reader.parse(source);
-}
-QT_WARNING_POP
-
-template <typename Work>
-double secondsOf(Work work)
-{
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
 const QString& configuration()
 {
     const QDir memory("/dev/shm");
@@ -96,20 +72,13 @@ const QString& configuration()
     return path;
 }
 
-// Work and baseline take turns, so that both see the same machine.
 template <typename Work>
 void againstReader(benchmark::State& state, Work work)
 {
     const QString& path = configuration();
-    double own = 0;
-    double baseline = 0;
-    for (auto _ : state) {
-        const double seconds = secondsOf([&] { benchmark::DoNotOptimize(work(path)); });
-        state.SetIterationTime(seconds);
-        own += seconds;
-        baseline += secondsOf([&] { benchmark::DoNotOptimize(readWithoutUse(path)); });
-    }
-    state.counters["x reader"] = own / baseline;
+    bench::sideBySide(
+        state, "x reader", [&] { benchmark::DoNotOptimize(work(path)); },
+        [&] { benchmark::DoNotOptimize(bench::readWithoutUse(path)); });
 }
 
 void loadThroughSections(benchmark::State& state)

@@ -2,6 +2,7 @@
 // nothing over the same bytes; writing beside snprintf of the same cells into a buffer. The counters tell
 // megabytes a second and the ratio.
 
+#include "bench/side_by_side.h"
 #include "telemetry/files/csv_columns.h"
 #include "telemetry/files/telemetry_binary_reader.h"
 #include "telemetry/files/telemetry_binary_writer.h"
@@ -11,12 +12,10 @@
 
 #include <QBuffer>
 
-#include <benchmark/benchmark.h>
 #include <libxml/parser.h>
 
 #include <bit>
 #include <cstdio>
-#include <ctime>
 #include <malloc.h>
 #include <random>
 
@@ -76,24 +75,6 @@ protected:
     qint64 writeData(const char* /*data*/, qint64 size) override { return size; }
 };
 
-// Processor time of the best of a few rounds, so that a busy machine measures the same.
-double secondsOf(auto&& work)
-{
-    double best = 1e9;
-    for (int i = 0; i < 5; ++i) {
-        const std::clock_t begin = std::clock();
-        work();
-        best = std::min(best, static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC);
-    }
-    return best;
-}
-
-void report(benchmark::State& state, int bytes, double seconds, double baseline, const char* of)
-{
-    state.counters["MB_per_s"] = bytes / seconds / 1e6;
-    state.counters[of] = seconds / baseline;
-}
-
 void readXml(benchmark::State& state, int fields)
 {
     const TelemetryPages pages = pagesWith(2000, fields);
@@ -104,9 +85,8 @@ void readXml(benchmark::State& state, int fields)
         idle.initialized = XML_SAX2_MAGIC;
         xmlSAXUserParseMemory(&idle, nullptr, file.constData(), file.size());
     };
-    for ([[maybe_unused]] auto _ : state)
-        read();
-    report(state, file.size(), secondsOf(read), secondsOf(walk), "time_of_idle_sax");
+    bench::sideBySide(state, "idle_sax", read, walk);
+    state.SetBytesProcessed(state.iterations() * file.size());
 }
 
 void print(const TmiPage_Zeta3& page, ElementIndex index, const char* form, std::string_view name)
@@ -138,13 +118,16 @@ void writeXml(benchmark::State& state, int fields)
             }
         }
     };
-    for ([[maybe_unused]] auto _ : state)
-        write();
-    const int bytes = written([&](QIODevice& device) { writeTelemetryXml(device, pages, {}); }).size();
-    report(state, bytes, secondsOf(write), secondsOf(printAll), "time_of_snprintf");
+    bench::sideBySide(state, "snprintf", write, printAll);
 }
 
-// 10,000 full records, in memory that must not grow with them: 1,000 pages are written ten times.
+double bytesInUse()
+{
+    const auto info = mallinfo2();
+    return static_cast<double>(info.uordblks + info.hblkhd);
+}
+
+// 1,000 full records, a tenth of a long export. The memory in use afterwards is that before.
 void writeCsv(benchmark::State& state)
 {
     const TelemetryPages pages = pagesWith(1000, kAllFields);
@@ -158,17 +141,9 @@ void writeCsv(benchmark::State& state)
                 print(*page, column.element(), "=\"%.*s", {});
         }
     };
-    const auto before = mallinfo2();
-    for ([[maybe_unused]] auto _ : state)
-        write();
-    const auto after = mallinfo2();
-    const double seconds = secondsOf(write);
-    const int bytes = written([&](QIODevice& device) { writeTelemetryCsv(device, pages, {}, {}); }).size();
-    report(state, bytes, seconds, secondsOf(printAll), "time_of_snprintf");
-    state.counters["s_of_10000_records"] = 10 * seconds;
-    state.counters["kB_grown"] = (static_cast<double>(after.uordblks + after.hblkhd) -
-                                  static_cast<double>(before.uordblks + before.hblkhd)) /
-                                 1e3;
+    const double before = bytesInUse();
+    bench::sideBySide(state, "snprintf", write, printAll);
+    state.counters["bytes_grown"] = bytesInUse() - before;
 }
 
 // 100,000 records of 60 fields.
@@ -182,26 +157,22 @@ void readMany(benchmark::State& state, bool binary)
             writeTelemetryXml(device, pages, {});
     });
     pages.clear();
-    const auto used = [] {
-        const auto info = mallinfo2();
-        return static_cast<double>(info.uordblks + info.hblkhd);
-    };
     for ([[maybe_unused]] auto _ : state) {
-        const double before = used();
+        const double before = bytesInUse();
         const TelemetryContents contents =
             binary ? readFrom(readTelemetryBinary, file) : readFrom(readTelemetryXml, file);
         state.counters["bytes_per_record"] =
-            (used() - before) / static_cast<double>(std::max<std::size_t>(contents.pages.size(), 1));
+            (bytesInUse() - before) / static_cast<double>(std::max<std::size_t>(contents.pages.size(), 1));
     }
     state.counters["MB"] = file.size() / 1e6;
 }
 
 } // namespace
 
-BENCHMARK_CAPTURE(readXml, usual_fields, kUsualFields);
-BENCHMARK_CAPTURE(readXml, all_fields, kAllFields);
-BENCHMARK_CAPTURE(writeXml, usual_fields, kUsualFields);
-BENCHMARK_CAPTURE(writeXml, all_fields, kAllFields);
-BENCHMARK(writeCsv)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(readXml, usual_fields, kUsualFields)->UseManualTime();
+BENCHMARK_CAPTURE(readXml, all_fields, kAllFields)->UseManualTime();
+BENCHMARK_CAPTURE(writeXml, usual_fields, kUsualFields)->UseManualTime();
+BENCHMARK_CAPTURE(writeXml, all_fields, kAllFields)->UseManualTime();
+BENCHMARK(writeCsv)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(readMany, xml, false)->Unit(benchmark::kMillisecond)->Iterations(1);
 BENCHMARK_CAPTURE(readMany, binary, true)->Unit(benchmark::kMillisecond)->Iterations(1);

@@ -1,5 +1,6 @@
 #include "host/device_r7106.h"
 
+#include "telemetry/view/widget_tmi_view.h"
 #include "windows/form_io_progress.h"
 #include "windows/form_param_about.h"
 #include "windows/widget_config.h"
@@ -123,6 +124,8 @@ void VLK_Device_R7106::attach(const vlk::ConnectInfo& info)
     balanceUssd_[0] = '\0';
     if (configDialog_)
         configDialog_->deviceConnected();
+    if (telemetryView_)
+        telemetryView_->deviceConnected();
 }
 
 void VLK_Device_R7106::detach()
@@ -134,6 +137,8 @@ void VLK_Device_R7106::detach()
     balanceUssd_[0] = '\0';
     if (configDialog_)
         configDialog_->deviceDisconnected();
+    if (telemetryView_)
+        telemetryView_->deviceDisconnected();
 }
 
 void VLK_Device_R7106::openConfiguration(const vlk::OpenRequest& request)
@@ -147,6 +152,18 @@ void VLK_Device_R7106::openConfiguration(const vlk::OpenRequest& request)
     configDialog_->open(request, balanceUssd_);
 }
 
+void VLK_Device_R7106::openTelemetry(const QString& configurationPath)
+{
+    ensureTelemetryView()->open(configurationPath);
+}
+
+VLK_Widget_Tmi_View* VLK_Device_R7106::ensureTelemetryView()
+{
+    if (!telemetryView_)
+        telemetryView_ = new VLK_Widget_Tmi_View;
+    return telemetryView_;
+}
+
 void VLK_Device_R7106::retranslate()
 {
     if (progressForm_)
@@ -155,10 +172,14 @@ void VLK_Device_R7106::retranslate()
         aboutForm_->retranslate();
     if (configDialog_)
         configDialog_->retranslate();
+    if (telemetryView_)
+        telemetryView_->retranslate();
 }
 
 void VLK_Device_R7106::closeWindows()
 {
     if (configDialog_)
         configDialog_->close();
+    if (telemetryView_)
+        telemetryView_->close();
 }

@@ -13,6 +13,7 @@
 class VLK_Form_IO_Progress;
 class VLK_Form_Param_About;
 class VLK_Widget_Config;
+class VLK_Widget_Tmi_View;
 
 class VLK_Device_R7106 : public QObject
 {
@@ -65,11 +66,14 @@ public:
     void attach(const vlk::ConnectInfo& info);
     void detach();
     void openConfiguration(const vlk::OpenRequest& request);
+    void openTelemetry(const QString& configurationPath);
     void retranslate();
     void closeWindows();
 
-    // Null until the first message that opens it.
+    // Null until the first message that opens them.
     VLK_Widget_Config* configDialog() const { return configDialog_; }
+    VLK_Widget_Tmi_View* telemetryView() const { return telemetryView_; }
+    VLK_Widget_Tmi_View* ensureTelemetryView();
 
 private:
     VLK_Form_IO_Progress* progressForm_ = nullptr;
@@ -88,6 +92,7 @@ private:
     QString trackerText2_;
     quint64 trackerMask_ = 0;
     VLK_Widget_Config* configDialog_ = nullptr;
+    VLK_Widget_Tmi_View* telemetryView_ = nullptr;
     int hostMode_ = 0;
     char balanceUssd_[vlk::balanceUssdSize] = {};
 };

@@ -3,6 +3,7 @@
 // contract that have no effect on this model.
 
 #include "host/device_r7106.h"
+#include "telemetry/view/widget_tmi_view.h"
 #include "windows/widget_config.h"
 #include "windows/widget_config_full.h"
 
@@ -72,7 +73,25 @@ void bytesToConfig(VLK_Device_R7106& device, const Parameters& parameters)
         (device.configDialog()->fullWindow()->*operation)(static_cast<const uchar*>(parameters.p1));
 }
 
+// Hands the bytes at p1 to an operation of the telemetry view, whether it is on show or not: those behind the
+// first `header` ones, if there are `shortest` of them or more.
+template <auto operation, int header = 0, int shortest = 0>
+void bytesToView(VLK_Device_R7106& device, const Parameters& parameters)
+{
+    if (!device.telemetryView() || !parameters.p1)
+        return;
+    const auto& bytes = *static_cast<const QByteArray*>(parameters.p1);
+    if (bytes.size() >= shortest)
+        (device.telemetryView()->*operation)(bytes.mid(header));
+}
+
+quint64 numberOf(const vlk::IdPair& pair)
+{
+    return quint64(pair.high) << 32 | pair.low;
+}
+
 using Full = VLK_Widget_Config_Full;
+using View = VLK_Widget_Tmi_View;
 
 constexpr Entry table[] = {
     {Message::GetLibraryFlag, &answer<std::int32_t, 1>},
@@ -82,6 +101,11 @@ constexpr Entry table[] = {
      [](VLK_Device_R7106& device, const Parameters& parameters) {
          if (parameters.p1)
              device.setMode(*static_cast<const std::int32_t*>(parameters.p1));
+     }},
+    {Message::PrepareTelemetry,
+     [](VLK_Device_R7106& device, const Parameters& parameters) {
+         device.ensureTelemetryView();
+         answer<std::uint8_t, 0>(device, parameters);
      }},
     {Message::GetProtocolText,
      [](VLK_Device_R7106&, const Parameters& parameters) {
@@ -97,6 +121,12 @@ constexpr Entry table[] = {
     {Message::TrackerDetached, &plain<&VLK_Device_R7106::detach>},
     {Message::LineValues, &toShownConfig<&Full::takeLineValues, QByteArray>},
     {Message::OpenConfiguration, &withRecord<&VLK_Device_R7106::openConfiguration, vlk::OpenRequest>},
+    {Message::OpenTelemetry, &withRecord<&VLK_Device_R7106::openTelemetry, QString>},
+    {Message::LiveKey,
+     [](VLK_Device_R7106& device, const Parameters& parameters) {
+         if (device.liveOwner() == 1 && device.telemetryView() && parameters.p1)
+             device.telemetryView()->takeLiveKey(numberOf(*static_cast<const vlk::IdPair*>(parameters.p1)));
+     }},
     {Message::SupplyValues, &bytesToConfig<&Full::takeSupply>},
     {Message::AnalogRecord,
      [](VLK_Device_R7106& device, const Parameters& parameters) {
@@ -113,7 +143,28 @@ constexpr Entry table[] = {
     {Message::BtSearchStopped, &toConfig<&Full::takeBtSearchStopped, uchar>},
     {Message::BtSearchEvent, &toConfig<&Full::takeBtSearchEvent, uchar>},
     {Message::BtDeviceFound, &toConfig<&Full::takeBtDevice, vlk::BtDevice>},
+    {Message::RfidNumber,
+     [](VLK_Device_R7106& device, const Parameters& parameters) {
+         if (device.telemetryView() && parameters.p1 && parameters.p2)
+             device.telemetryView()->takeRfid(numberOf(*static_cast<const vlk::IdPair*>(parameters.p1)),
+                                              *static_cast<const qint8*>(parameters.p2));
+     }},
     {Message::CanLogProgram, &toConfig<&Full::takeCanLogProgram, std::int32_t>},
+    {Message::CurrentRecord,
+     &bytesToView<&View::takeRecord, vlk::currentRecordHeader, vlk::shortestCurrentRecord>},
+    {Message::RecordByNumber, &bytesToView<&View::takeRecord, vlk::recordByNumberHeader>},
+    {Message::RecordByTime, &bytesToView<&View::takeRecord, vlk::recordByTimeHeader>},
+    {Message::RecordOfPeriod, &bytesToView<&View::takeRecord, vlk::recordByTimeHeader>},
+    {Message::ExtraPacket, &bytesToView<&View::takeKeyAnswer, vlk::extraPacketHeader>},
+    {Message::ClearedRecord,
+     &bytesToView<&View::takeClearedRecord, vlk::currentRecordHeader, vlk::shortestCurrentRecord>},
+    {Message::TachographAnswer, &bytesToView<&View::takeTachographAnswer>},
+    {Message::TachographFileAnswer, &bytesToView<&View::takeTachographAnswer>},
+    {Message::TachographFileReady,
+     [](VLK_Device_R7106& device, const Parameters& parameters) {
+         if (device.telemetryView() && parameters.p1)
+             device.telemetryView()->takeTachographFetched(*static_cast<const uchar*>(parameters.p1) != 0);
+     }},
     {Message::GetBalanceUssd,
      [](VLK_Device_R7106& device, const Parameters& parameters) {
          if (parameters.p1)

@@ -16,7 +16,7 @@ int widestCell(const QGridLayout* grid, int wanted)
         int columns = 0;
         grid->getItemPosition(i, &row, &column, &rows, &columns);
         if (column == wanted && columns == 1)
-            width = qMax(width, grid->itemAt(i)->minimumSize().width());
+            width = qMax(width, grid->itemAt(i)->sizeHint().width());
     }
     return width;
 }

@@ -116,6 +116,8 @@ public:
 
     void* handle = nullptr;
     QVector<Sent> sent;
+    // Sees each message within the call, to read or fill what its parameters point to.
+    std::function<void(vlk::Message number, void* p1, void* p2)> onSend;
     vlk::IsVlkLibraryVFunction isVlkLibrary = nullptr;
     vlk::GetLibraryInfoFunction libraryInfo = nullptr;
     vlk::InitializeFunction initialize = nullptr;
@@ -149,6 +151,8 @@ private:
                 sent.text2 = *static_cast<QString*>(p2);
         }
         current()->sent << sent;
+        if (current()->onSend)
+            current()->onSend(sent.number, p1, p2);
     }
 
     QLibrary library_;

@@ -259,5 +259,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestTrackerAnswers)
+QTEST_GUILESS_MAIN(TestTrackerAnswers)
 #include "tst_tracker_answers.moc"

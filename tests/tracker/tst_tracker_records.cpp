@@ -88,7 +88,7 @@ private Q_SLOTS:
     void configurationWithoutDataSetGivesTheDefault()
     {
         BenchTracker bench;
-        QVERIFY(bench.write("<DEVICE model=\"R-7106\"/>").accepted);
+        QVERIFY(bench.write("<DEVICE model=\"R-7106\"><PROTOCOL/></DEVICE>").accepted);
         const QByteArray record = bench.recordByNumber(70000);
         QCOMPARE(int(record.at(1)), 10);
         const auto mask = vlk::FieldMask::fromText(vlk::kDefaultMaskText);
@@ -309,5 +309,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestTrackerRecords)
+QTEST_GUILESS_MAIN(TestTrackerRecords)
 #include "tst_tracker_records.moc"

@@ -1,9 +1,11 @@
 #include "tracker/configuration_store.h"
 
 #include <QDir>
+#include <QDomDocument>
 #include <QFile>
 #include <QLoggingCategory>
 #include <QSaveFile>
+#include <QTextStream>
 
 Q_LOGGING_CATEGORY(lcTrackerStore, "vlk.tracker.store")
 
@@ -45,6 +47,31 @@ QByteArray readWhole(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.read(largestDocument) : QByteArray();
 }
 
+// The new document with those sections of the old one behind it that it lacks: a file sets what it holds and
+// leaves the rest of the tracker alone.
+QByteArray withKeptSections(const QByteArray& taken, const QByteArray& old, QStringList& kept)
+{
+    QDomDocument document;
+    QDomDocument before;
+    if (!document.setContent(taken) || !before.setContent(old))
+        return taken;
+    QDomElement root = document.documentElement();
+    for (QDomElement section = before.documentElement().firstChildElement(); !section.isNull();
+         section = section.nextSiblingElement()) {
+        if (!root.firstChildElement(section.tagName()).isNull())
+            continue;
+        root.appendChild(document.importNode(section, true));
+        kept.append(section.tagName());
+    }
+    if (kept.isEmpty())
+        return taken;
+    QByteArray merged;
+    QTextStream stream(&merged);
+    document.save(stream, 1, QDomNode::EncodingFromDocument);
+    stream.flush();
+    return merged;
+}
+
 void compare(const ConfigurationValues& before, const ConfigurationValues& after, WriteReport& report)
 {
     for (const QString& path : after.paths()) {
@@ -64,7 +91,9 @@ void compare(const ConfigurationValues& before, const ConfigurationValues& after
 bool saveWhole(const QString& path, const QByteArray& document)
 {
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(document) == document.size() && file.commit())
+    // The commit alone does not notice that the last buffer went out in part; the flush does.
+    if (file.open(QIODevice::WriteOnly) && file.write(document) == document.size() && file.flush() &&
+        file.commit())
         return true;
     qCWarning(lcTrackerStore) << "cannot write" << path << file.errorString();
     return false;
@@ -98,11 +127,12 @@ WriteReport ConfigurationStore::write(const QString& path)
         return refuse("wb_refused_unreadable", file.errorString());
     if (file.size() > largestDocument)
         return refuse("wb_refused_large", QString::number(file.size()));
-    const QByteArray document = file.read(largestDocument);
-    const ConfigurationValues values(document);
-    const Refusal refusal = check(values);
+    const QByteArray taken = file.read(largestDocument);
+    const Refusal refusal = check(ConfigurationValues(taken));
     if (refusal.reasonKey)
         return refuse(refusal.reasonKey, refusal.detail);
+    const QByteArray document = withKeptSections(taken, document_, report.keptSections);
+    const ConfigurationValues values(document);
     if (!saveWhole(backup(), document_) || !saveWhole(current(), document))
         return refuse("wb_refused_memory", folder_);
 

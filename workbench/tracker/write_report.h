@@ -1,11 +1,12 @@
 #pragma once
 
 // What became of a configuration that was written to the tracker: taken or refused, and key by key what it
-// changed. Keys are paths such as "TRANS/SRV1/ip"; a repeated group carries its number from the second on,
-// "SENSORS/FLS[2]/table".
+// changed. Sections that the file lacks keep their values. Keys are paths such as "TRANS/SRV1/ip"; a repeated
+// group carries its number from the second on, "SENSORS/FLS[2]/table".
 
 #include <QMetaType>
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 namespace tracker {
@@ -26,6 +27,7 @@ struct WriteReport
     QVector<KeyChange> changed;
     QVector<KeyChange> added;
     QVector<KeyChange> removed;
+    QStringList keptSections; // of the tracker, which the file does not have
 
     bool sameAsBefore() const { return changed.isEmpty() && added.isEmpty() && removed.isEmpty(); }
 };

@@ -37,7 +37,7 @@ DevicePanel::DevicePanel(HostSession& session, QWidget* parent)
     stateLine->addWidget(state_, 1);
 
     auto* form = new QFormLayout(this);
-    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->addRow(stateLine);
     model_ = addRow(form, "label_DeviceModel", "wb_device_model");
     text1_ = addRow(form, "label_DeviceText1", "wb_device_text1");
@@ -47,6 +47,7 @@ DevicePanel::DevicePanel(HostSession& session, QWidget* parent)
 
     mode_->setObjectName(QStringLiteral("comboBox_Mode"));
     mode_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    mode_->setMinimumContentsLength(12);
     for (const char* key : modeKeys)
         mode_->addItem(vlk::text(key));
     auto* modeLabel = texts_.bind(new QLabel(this), "wb_mode");
@@ -93,7 +94,8 @@ void DevicePanel::refresh()
 void DevicePanel::retranslate()
 {
     texts_.apply();
-    for (int i = 0; i < mode_->count(); ++i)
-        mode_->setItemText(i, vlk::text(modeKeys[i]));
+    int mode = 0;
+    for (const char* key : modeKeys)
+        mode_->setItemText(mode++, vlk::text(key));
     refresh();
 }

@@ -18,12 +18,15 @@ QString summary(const tracker::WriteReport& report)
             refusal += QLatin1Char('\n') + text("wb_report_kept").arg(report.file);
         return refusal;
     }
-    if (report.sameAsBefore())
-        return text("wb_report_same");
-    return text("wb_report_taken")
-        .arg(report.changed.size())
-        .arg(report.added.size())
-        .arg(report.removed.size());
+    QString taken = report.sameAsBefore() ? text("wb_report_same")
+                                          : text("wb_report_taken")
+                                                .arg(report.changed.size())
+                                                .arg(report.added.size())
+                                                .arg(report.removed.size());
+    if (!report.keptSections.isEmpty())
+        taken += QLatin1Char('\n') +
+                 text("wb_report_kept_sections").arg(report.keptSections.join(QStringLiteral(", ")));
+    return taken;
 }
 
 QString plainText(const tracker::WriteReport& report)

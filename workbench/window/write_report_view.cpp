@@ -43,9 +43,9 @@ WriteReportView::WriteReportView(QWidget* parent)
     table_->horizontalHeader()->setHighlightSections(false);
     table_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     table_->horizontalHeader()->setStretchLastSection(true);
-    table_->setColumnWidth(WriteReportModel::Kind, fontMetrics().averageCharWidth() * 15);
-    table_->setColumnWidth(WriteReportModel::Key, fontMetrics().averageCharWidth() * 30);
-    table_->setColumnWidth(WriteReportModel::Before, fontMetrics().averageCharWidth() * 25);
+    table_->setColumnWidth(WriteReportModel::Kind, fontMetrics().averageCharWidth() * 11);
+    table_->setColumnWidth(WriteReportModel::Key, fontMetrics().averageCharWidth() * 25);
+    table_->setColumnWidth(WriteReportModel::Before, fontMetrics().averageCharWidth() * 23);
 
     auto* line = new QHBoxLayout;
     line->addWidget(symbol_);
@@ -102,6 +102,6 @@ void WriteReportView::showDialog(const tracker::WriteReport& report, QWidget* pa
     auto* column = new QVBoxLayout(dialog);
     column->addWidget(view, 1);
     column->addWidget(buttons);
-    dialog->resize(760, 360);
+    dialog->resize(860, 380);
     dialog->open();
 }

@@ -1,0 +1,29 @@
+#pragma once
+
+// Clears the unsent data of the servers that the user checked, one after the other: the next server's turn
+// comes with the answer for the one before it, whose box is unchecked then. An answer that nobody waits for
+// does nothing.
+
+#include <array>
+
+class QCheckBox;
+
+class ClearingSequence
+{
+public:
+    static constexpr int kIdle = 30; // the steps for the servers follow
+
+    // The boxes of servers 1 to 3.
+    explicit ClearingSequence(std::array<QCheckBox*, 3> servers) : servers_(servers) {}
+
+    void start();
+    void answered();
+    // Forgets an answer that is still to come.
+    void stop() { step_ = kIdle; }
+
+private:
+    void next();
+
+    std::array<QCheckBox*, 3> servers_;
+    int step_ = kIdle;
+};

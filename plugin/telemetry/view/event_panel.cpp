@@ -1,0 +1,128 @@
+#include "telemetry/view/event_panel.h"
+
+#include "host/requests.h"
+#include "telemetry/text/item_text.h"
+#include "telemetry/view/value_rows.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+
+using namespace vlk;
+
+namespace {
+
+// Of the words "15:00:00 01.02.2025 (UTC +10)" and "4294967295".
+constexpr auto kWidestTime = "00:00:00 00.00.0000 (UTC +00)";
+constexpr auto kWidestNumber = "0000000000";
+
+int widthOf(const QLabel* label, const char* text)
+{
+    return label->fontMetrics().horizontalAdvance(QLatin1String(text));
+}
+
+template <ElementIndex index>
+int elementOf(const TmiPage_Zeta3& page)
+{
+    return page.isExtra() ? static_cast<int>(page.extra().value<index>())
+                          : static_cast<int>(page.value<index>());
+}
+
+bool holds(const TmiPage_Zeta3& page, ElementIndex index)
+{
+    return page.isExtra() || page.has(index);
+}
+
+} // namespace
+
+EventPanel::EventPanel(QWidget* parent)
+    : QFrame(parent), group_(new QGroupBox(this)),
+      numberText_(makeCaption(QStringLiteral("label_Event_NumPage_Text"))),
+      number_(makeValue(QStringLiteral("label_Event_NumPage_Value"))),
+      timeText_(makeCaption(QStringLiteral("label_Event_DateTime_Text"))),
+      time_(makeValue(QStringLiteral("label_Event_DateTime_Value"))),
+      eventText_(makeCaption(QStringLiteral("label_Event_Code_Text"))),
+      event_(makeValue(QStringLiteral("label_Event_Code_Value"))),
+      stateText_(makeCaption(QStringLiteral("label_Event_State_Text"))),
+      guard_(makeCaption(QStringLiteral("label_Event_Mode_Guard_Value"))),
+      test_(makeCaption(QStringLiteral("label_Event_Mode_Test_Value"))),
+      alarm_(makeCaption(QStringLiteral("label_Event_Mode_Alarm_Value")))
+{
+    setObjectName(QStringLiteral("frame_TMI_Title"));
+    group_->setObjectName(QStringLiteral("groupBox_Event"));
+    auto* frame = new QVBoxLayout(this);
+    frame->setContentsMargins(0, 0, 0, 0);
+    frame->addWidget(group_);
+
+    auto* grid = new QGridLayout(group_);
+    grid->setHorizontalSpacing(12);
+    grid->addWidget(numberText_, 0, 0);
+    grid->addWidget(number_, 0, 1);
+    grid->addWidget(timeText_, 0, 2);
+    grid->addWidget(time_, 0, 3);
+    grid->addWidget(eventText_, 1, 0);
+    grid->addWidget(event_, 1, 1, 1, 4);
+    grid->addWidget(stateText_, 2, 0);
+    grid->addLayout(besideEachOther({guard_, test_, alarm_}), 2, 1, 1, 4);
+    grid->setColumnStretch(4, 1);
+    // The row of modes keeps its place while they are hidden.
+    grid->setRowMinimumHeight(2, guard_->sizeHint().height());
+    grid->setColumnMinimumWidth(1, widthOf(number_, kWidestNumber));
+    grid->setColumnMinimumWidth(3, widthOf(time_, kWidestTime));
+
+    QPalette alarming = alarm_->palette();
+    alarming.setColor(QPalette::WindowText, Qt::red);
+    alarm_->setPalette(alarming);
+    retranslate();
+}
+
+void EventPanel::setRecord(const TmiPage_Zeta3& page)
+{
+    number_->setText(text(page, item("NumPage")));
+    setTime(page);
+    event_->setText(holds(page, element("Code")) ? requests::eventText(elementOf<element("Code")>(page))
+                                                 : QString());
+    guard_->setText(text(page, item("State.mode")));
+    test_->setText(text(page, item("State.0")));
+    alarm_->setText(text(page, item("State.2")));
+    const bool hasState = holds(page, element("State"));
+    Q_EMIT signal_OperatingMode(hasState ? elementOf<element("State")>(page) >> 3 & 3 : kNoMode);
+}
+
+void EventPanel::setTime(const TmiPage_Zeta3& page)
+{
+    time_->setText(text(page, item("Time")));
+}
+
+void EventPanel::setNumberAlone(quint32 number)
+{
+    clear();
+    number_->setText(QString::number(number));
+}
+
+void EventPanel::clear()
+{
+    for (QLabel* label : {number_, time_, event_, guard_, test_, alarm_})
+        label->clear();
+    Q_EMIT signal_OperatingMode(kNoMode);
+}
+
+void EventPanel::setModesVisible(bool visible)
+{
+    for (QLabel* label : {stateText_, guard_, test_, alarm_})
+        label->setVisible(visible);
+}
+
+quint32 EventPanel::number() const
+{
+    return number_->text().toUInt();
+}
+
+void EventPanel::retranslate()
+{
+    group_->setTitle(tr("tmiw_017"));
+    numberText_->setText(tr("tmiw_018"));
+    eventText_->setText(tr("tmiw_019"));
+    timeText_->setText(tr("tmiw_020"));
+    stateText_->setText(tr("tmiw_021"));
+}

@@ -1,0 +1,201 @@
+#include "telemetry/view/form_tmi_production.h"
+
+#include "host/device_r7106.h"
+#include "telemetry/text/item_text.h"
+#include "telemetry/text/signal_level.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QProgressBar>
+
+using namespace vlk;
+
+namespace {
+
+constexpr ValueRow kModem[] = {
+    {"label_GSM_State_Value", "tmift1_019", item("Module1.modem")},
+};
+
+constexpr ValueRow kAnalog[] = {
+    {"label_Analog_Reserv_Value", "tmift2_022", item("Reserv")},
+    {"label_Analog_Ain3_Value", "tmift2_023", item("StateU_Ain3"), "label_Analog_Ain3_Unit"},
+};
+
+// The inputs have a fixed caption in front of their text.
+struct InputRow
+{
+    const char* stem;
+    const char* caption;
+    ItemIndex item;
+};
+constexpr InputRow kInputs[] = {
+    {"label_In_I1_%1", "lN1:", item("StateIn1.0")},
+    {"label_In_I2_%1", "lN2:", item("StateIn1.1")},
+};
+
+constexpr ValueRow kNavigation[] = {
+    {"label_Navi_State_Value", "tmift1_027", item("StateNGauge.0")},
+    {"label_Navi_Count_Value", "tmift1_028", item("StateNGauge.satellites")},
+    {"label_Navi_Date_Value", "tmift1_029", item("LastTime")},
+    {"label_Navi_Valid_Value", "tmift1_030", item("StateNGauge.1")},
+    {"label_Navi_Lat_Value", "tmift1_031", item("Latitude")},
+    {"label_Navi_Lon_Value", "tmift1_032", item("Longitude")},
+    {"label_Navi_Alt_Value", "tmift1_033", item("Altitude")},
+    {"label_Navi_Speed_Value", "tmift1_034", item("Speed")},
+    {"label_Navi_Course_Value", "tmift1_035", item("Course")},
+    {"label_Navi_Way_Value", "tmift1_036", item("Run")},
+};
+
+constexpr ValueRow kReliability[] = {
+    {"label_Navi_Reliability_Value", "tmift1_038", item("SecondsLast.reliability"), "label_28", "abbr_008"},
+};
+
+struct SegmentValue
+{
+    const char* stem;
+    ItemIndex item;
+};
+constexpr SegmentValue kLastSegment[] = {
+    {"label_Navi_LastWay_%1", item("Way")},
+    {"label_Navi_LastTime_%1", item("SecondsLast")},
+    {"label_Navi_AllTime_%1", item("AllSeconds")},
+};
+
+template <ElementIndex index, int lowest, int highest>
+bool isWithin(const TmiPage_Zeta3& page)
+{
+    return page.value<index>() >= lowest && page.value<index>() <= highest;
+}
+
+struct Limit
+{
+    const char* label;
+    bool (*passes)(const TmiPage_Zeta3& page);
+    int lastMode; // host modes from 1 to this one
+};
+constexpr Limit kLimits[] = {
+    {"label_Analog_Reserv_Value", &isWithin<element("Reserv"), 4100, 4500>, 2},
+    {"label_Analog_Ain3_Value", &isWithin<element("StateU_Ain3"), 4800, 5200>, 2},
+    {"label_Navi_Valid_Value",
+     [](const TmiPage_Zeta3& page) { return (page.value<element("StateNGauge")>() >> 1 & 1) != 0; }, 1},
+};
+
+QString named(const char* stem, const char* end)
+{
+    return QString::fromLatin1(stem).arg(QLatin1String(end));
+}
+
+} // namespace
+
+VLK_Form_TMI_Production::VLK_Form_TMI_Production(EventPanel* panel, QWidget* parent)
+    : QWidget(parent), record_(panel), levelText_(makeCaption(QStringLiteral("label_GSM_Level_Text"))),
+      level_(new QProgressBar(this))
+{
+    auto* modem = addGroup("groupBox_GSM", "tmift1_018");
+    rows_.add(modem, kModem);
+    level_->setObjectName(QStringLiteral("progressBar_GSM_Level_Value"));
+    level_->setRange(0, 100);
+    level_->setValue(0);
+    modem->addWidget(levelText_, modem->rowCount(), 0);
+    modem->addWidget(level_, modem->rowCount() - 1, 1);
+
+    rows_.add(addGroup("groupBox_Analog", "tmift2_002"), kAnalog);
+
+    auto* inputs = addGroup("groupBox_In", "tmift2_006");
+    for (const InputRow& row : kInputs) {
+        QLabel* caption = makeCaption(named(row.stem, "Caption"));
+        caption->setText(QLatin1String(row.caption));
+        inputTexts_.push_back(makeCaption(named(row.stem, "Text")));
+        inputValues_.push_back(makeValue(named(row.stem, "Value")));
+        const int at = inputs->rowCount();
+        inputs->addWidget(caption, at, 0);
+        inputs->addWidget(inputTexts_.back(), at, 1);
+        inputs->addWidget(inputValues_.back(), at, 2);
+    }
+    inputs->setColumnStretch(2, 1);
+
+    auto* navigation = addGroup("groupBox_Navi", "tmift1_025");
+    rows_.add(navigation, kNavigation);
+    addLastSegment(navigation);
+    rows_.add(navigation, kReliability);
+    navigation->setRowStretch(navigation->rowCount(), 1);
+
+    auto* left = new QVBoxLayout;
+    for (std::size_t i = 0; i + 1 < groups_.size(); ++i)
+        left->addWidget(groups_[i].box);
+    left->addStretch();
+    auto* layout = new QHBoxLayout(this);
+    layout->addLayout(left, 2);
+    layout->addWidget(groups_.back().box, 3);
+    retranslate();
+}
+
+QGridLayout* VLK_Form_TMI_Production::addGroup(const char* name, const char* key)
+{
+    auto* box = new QGroupBox(this);
+    box->setObjectName(QLatin1String(name));
+    groups_.push_back({box, key});
+    auto* grid = new QGridLayout(box);
+    grid->setHorizontalSpacing(12);
+    return grid;
+}
+
+void VLK_Form_TMI_Production::addLastSegment(QGridLayout* grid)
+{
+    for (const SegmentValue& segment : kLastSegment) {
+        segmentCaptions_.push_back(makeCaption(named(segment.stem, "Text")));
+        segmentValues_.push_back(makeValue(named(segment.stem, "Value")));
+    }
+    segmentCaptions_.push_back(makeCaption(QStringLiteral("label_Navi_AllTime_Sec_Text")));
+    const int at = grid->rowCount();
+    grid->addWidget(segmentCaptions_[0], at, 0);
+    grid->addLayout(besideEachOther({segmentValues_[0], segmentCaptions_[1], segmentValues_[1],
+                                     segmentCaptions_[2], segmentValues_[2], segmentCaptions_[3]}),
+                    at, 1);
+}
+
+void VLK_Form_TMI_Production::setUtcOffset(int seconds)
+{
+    if (record_.setUtcOffset(seconds))
+        fill(*record_.page());
+}
+
+void VLK_Form_TMI_Production::fill(const TmiPage_Zeta3& page)
+{
+    markLimits(page);
+    rows_.fill(page);
+    level_->setValue(signalPercent(page.value<element("GSM")>()));
+    for (std::size_t i = 0; i < std::size(kInputs); ++i)
+        inputValues_[i]->setText(text(page, kInputs[i].item));
+    for (std::size_t i = 0; i < std::size(kLastSegment); ++i)
+        segmentValues_[i]->setText(text(page, kLastSegment[i].item));
+}
+
+void VLK_Form_TMI_Production::markLimits(const TmiPage_Zeta3& page)
+{
+    const QPalette normal = findChild<QLabel*>(QStringLiteral("label_GSM_State_Text"))->palette();
+    QPalette failed = normal;
+    failed.setColor(QPalette::WindowText, Qt::red);
+    const int mode = vlkDevice != nullptr ? vlkDevice->mode() : 0;
+    for (const Limit& limit : kLimits) {
+        const bool applies = mode >= 1 && mode <= limit.lastMode;
+        findChild<QLabel*>(QLatin1String(limit.label))
+            ->setPalette(applies && !limit.passes(page) ? failed : normal);
+    }
+}
+
+void VLK_Form_TMI_Production::retranslate()
+{
+    for (const Group& group : groups_)
+        group.box->setTitle(QCoreApplication::translate("vlk", group.key));
+    rows_.retranslate();
+    levelText_->setText(tr("tmift1_020"));
+    for (QLabel* label : inputTexts_)
+        label->setText(tr("tmift2_007"));
+    const QStringList parts = partsAroundValues(tr("tmift1_037"));
+    for (std::size_t i = 0; i < segmentCaptions_.size(); ++i)
+        segmentCaptions_[i]->setText(parts.value(static_cast<int>(i)));
+    if (record_.page() != nullptr)
+        fill(*record_.page());
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+// The check of a finished tracker in the production modes: modem, inputs, navigation, and two voltages that
+// have limits. What fails its limit shows red; a value that the record lacks counts as 0 and fails.
+
+#include "telemetry/view/record_on_show.h"
+#include "telemetry/view/value_rows.h"
+
+#include <QWidget>
+
+class QGridLayout;
+class QGroupBox;
+class QProgressBar;
+
+class VLK_Form_TMI_Production : public QWidget
+{
+    Q_OBJECT
+
+public:
+    // Records go to `panel` too, if there is one.
+    explicit VLK_Form_TMI_Production(EventPanel* panel, QWidget* parent = nullptr);
+
+    // A record, from its type byte on.
+    void takeRecord(const QByteArray& record) { fill(record_.take(record)); }
+    // Seconds east of UTC.
+    void setUtcOffset(int seconds);
+    // -1 before the first record.
+    qint64 number() const { return record_.number(); }
+    const TmiPage_Zeta3* page() const { return record_.page(); }
+    void retranslate();
+
+private:
+    QGridLayout* addGroup(const char* name, const char* key);
+    // The row "distance, seconds on the way, all seconds", whose captions are parts of one text.
+    void addLastSegment(QGridLayout* grid);
+    void fill(const TmiPage_Zeta3& page);
+    void markLimits(const TmiPage_Zeta3& page);
+
+    struct Group
+    {
+        QGroupBox* box;
+        const char* key;
+    };
+
+    RecordOnShow record_;
+    vlk::ValueRows rows_;
+    std::vector<Group> groups_;
+    std::vector<QLabel*> inputTexts_;
+    std::vector<QLabel*> inputValues_;
+    QLabel* levelText_;
+    QProgressBar* level_;
+    std::vector<QLabel*> segmentCaptions_;
+    std::vector<QLabel*> segmentValues_;
+};

@@ -1,0 +1,147 @@
+#include "telemetry/view/record_stack.h"
+
+#include "host/device_r7106.h"
+#include "telemetry/record/record_head.h"
+#include "telemetry/record/tmi_page_zeta2.h"
+#include "telemetry/view/event_panel.h"
+#include "telemetry/view/form_tmi_production.h"
+#include "telemetry/view/form_tmi_zeta3.h"
+#include "telemetry/view/form_tmi_zetaext.h"
+
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+using namespace vlk;
+
+RecordStack::RecordStack(QStackedWidget* stack, EventPanel* panel) : stack_(stack), panel_(panel) {}
+
+void RecordStack::showNothing()
+{
+    stack_->setCurrentIndex(Empty);
+    panel_->clear();
+    panel_->setModesVisible(true);
+    panel_->hide();
+}
+
+std::optional<quint32> RecordStack::showRecord(const QByteArray& record)
+{
+    const RecordHead head = readHead(bytesAt(record.constData(), record.size()));
+    if (head.type == kExtraPacket)
+        return showIn(zetaExt_, ZetaExt, record);
+    if (head.type != kTelemetryRecord)
+        return {};
+    switch (head.ver) {
+    case kProtocol1:
+        return showNumber(Zeta1, 0);
+    case kProtocol2:
+        return showNumber(Zeta2, TmiPage_Zeta2(record.constData(), record.size()).number());
+    case kProtocol3:
+        if (vlkDevice != nullptr && vlkDevice->mode() != 0)
+            return showIn(production_, Production, record);
+        return showIn(zeta3_, Zeta3, record);
+    default:
+        return {};
+    }
+}
+
+void RecordStack::showKeyAnswer(const QByteArray& answer)
+{
+    if (answer.isEmpty())
+        return;
+    QByteArray packet = answer;
+    packet[0] = static_cast<char>(kExtraPacket);
+    formIn(zetaExt_, ZetaExt).takeKeyAnswer(packet);
+    showPage(ZetaExt);
+}
+
+void RecordStack::showPage(Page page)
+{
+    stack_->setCurrentIndex(page);
+    // Extra packets have no modes of their own.
+    panel_->setModesVisible(page != ZetaExt);
+    panel_->show();
+}
+
+quint32 RecordStack::showNumber(Page page, quint32 number)
+{
+    showPage(page);
+    panel_->setNumberAlone(number);
+    return number;
+}
+
+template <class Form>
+quint32 RecordStack::showIn(Form*& form, Page page, const QByteArray& record)
+{
+    formIn(form, page).takeRecord(record);
+    showPage(page);
+    return static_cast<quint32>(form->number());
+}
+
+template <class Form>
+Form& RecordStack::formIn(Form*& form, Page page)
+{
+    if (form == nullptr) {
+        form = new Form(panel_);
+        auto* layout = new QVBoxLayout(stack_->widget(page));
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(form);
+        if constexpr (std::is_same_v<Form, VLK_Form_TMI_Zeta3>)
+            prepareZeta3();
+    }
+    form->setUtcOffset(utcOffset_);
+    return *form;
+}
+
+template <class Act>
+void RecordStack::withShownForm(Act act)
+{
+    const int page = stack_->currentIndex();
+    if (page == Zeta3 && zeta3_ != nullptr)
+        act(*zeta3_);
+    else if (page == ZetaExt && zetaExt_ != nullptr)
+        act(*zetaExt_);
+    else if (page == Production && production_ != nullptr)
+        act(*production_);
+}
+
+void RecordStack::prepareZeta3()
+{
+    if (zeta3_ == nullptr)
+        return;
+    zeta3_->setTitles(titles_);
+    zeta3_->setCapabilityMask(capabilityMask_);
+    zeta3_->setCommandsEnabled(commandsEnabled_);
+}
+
+void RecordStack::setTracker(const TelemetryTitles& titles, quint64 capabilityMask)
+{
+    titles_ = titles;
+    capabilityMask_ = capabilityMask;
+    prepareZeta3();
+}
+
+void RecordStack::setCommandsEnabled(bool enabled)
+{
+    commandsEnabled_ = enabled;
+    prepareZeta3();
+}
+
+// Only the form on show may write the time in the panel; the others get the zone with their next record.
+void RecordStack::setUtcOffset(int seconds)
+{
+    utcOffset_ = seconds;
+    withShownForm([seconds](auto& form) { form.setUtcOffset(seconds); });
+}
+
+void RecordStack::retranslate()
+{
+    panel_->retranslate();
+    if (zetaExt_ != nullptr)
+        zetaExt_->retranslate();
+    if (production_ != nullptr)
+        production_->retranslate();
+    withShownForm([this](const auto& form) {
+        if (form.page() != nullptr)
+            panel_->setRecord(*form.page());
+    });
+}

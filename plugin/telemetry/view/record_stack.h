@@ -1,0 +1,62 @@
+#pragma once
+
+// The stack of pages in the view: shows each record in the content form for its type and version, and its
+// head in the event panel. Forms are made on first use.
+
+#include "telemetry/record/telemetry_titles.h"
+
+#include <QByteArray>
+
+#include <optional>
+
+class EventPanel;
+class QStackedWidget;
+class QWidget;
+class VLK_Form_TMI_Production;
+class VLK_Form_TMI_Zeta3;
+class VLK_Form_TMI_ZetaExt;
+
+class RecordStack
+{
+public:
+    // The pages of `stack`, in this order.
+    enum Page { Empty, Zeta1, Zeta2, Zeta3, ZetaExt, Production };
+
+    RecordStack(QStackedWidget* stack, EventPanel* panel);
+
+    void showNothing();
+    // A record from its type byte on. Gives its number; none, and nothing happens, if it is of no known kind.
+    std::optional<quint32> showRecord(const QByteArray& record);
+    // The answer to the question for the last key, from its type byte on.
+    void showKeyAnswer(const QByteArray& answer);
+
+    void setTracker(const vlk::TelemetryTitles& titles, quint64 capabilityMask);
+    // Whether the user may command the tracker from a form.
+    void setCommandsEnabled(bool enabled);
+    // Seconds east of UTC.
+    void setUtcOffset(int seconds);
+    void retranslate();
+
+private:
+    void showPage(Page page);
+    // For records of which nothing but the number is known.
+    quint32 showNumber(Page page, quint32 number);
+    template <class Form>
+    quint32 showIn(Form*& form, Page page, const QByteArray& record);
+    // The form of a page, in the zone of the view.
+    template <class Form>
+    Form& formIn(Form*& form, Page page);
+    template <class Act>
+    void withShownForm(Act act);
+    void prepareZeta3();
+
+    QStackedWidget* stack_;
+    EventPanel* panel_;
+    VLK_Form_TMI_Zeta3* zeta3_ = nullptr;
+    VLK_Form_TMI_ZetaExt* zetaExt_ = nullptr;
+    VLK_Form_TMI_Production* production_ = nullptr;
+    vlk::TelemetryTitles titles_;
+    quint64 capabilityMask_ = 0;
+    bool commandsEnabled_ = true;
+    int utcOffset_ = 0;
+};

@@ -1,0 +1,70 @@
+#include "telemetry/view/tmi_view_texts.h"
+
+#include "ui_VLK_Designer_Widget_Tmi_View.h"
+
+namespace {
+
+QString word(const char* key)
+{
+    return QCoreApplication::translate("vlk", key);
+}
+
+} // namespace
+
+void setControlTexts(const Ui::VLK_Designer_Widget_Tmi_View& ui)
+{
+    const std::pair<QGroupBox*, const char*> groups[] = {
+        {ui.groupBox_Btn_Get, "tmiw_003"},    {ui.groupBox_Btn_Auto, "tmiw_007"},
+        {ui.groupBox_Btn_Guard, "tmiw_146"},  {ui.groupBox_Btn_Save, "tmiw_011"},
+        {ui.groupBox_Btn_Clear, "tmiw_022"},  {ui.groupBox_Btn_Keys, "tmiw_025"},
+        {ui.groupBox_Btn_Device, "tmiw_142"},
+    };
+    for (const auto& [group, key] : groups)
+        group->setTitle(word(key));
+    const std::pair<QAbstractButton*, const char*> buttons[] = {
+        {ui.pushButton_Get_Current, "tmiw_004"},
+        {ui.pushButton_Get_Prev, "wrd_061"},
+        {ui.pushButton_Get_Next, "wrd_062"},
+        {ui.pushButton_Show, "tmiw_005"},
+        {ui.checkBox_Get_Auto_TMI, "tmiw_008"},
+        {ui.pushButton_Func, "tmiw_010"},
+        {ui.pushButton_SaveToFile, "tmiw_014"},
+        {ui.pushButton_SaveToExcel, "tmiw_015"},
+        {ui.pushButton_SaveFileToServer, "tmiw_016"},
+        {ui.pushButton_Save_Cancel, "wrd_031"},
+        {ui.pushButton_Clear, "tmiw_024"},
+        {ui.pushButton_TM, "tmiw_030"},
+        {ui.pushButton_RFID, "tmiw_030"},
+        {ui.pushButton_Get_Current_Touch, "tmiw_140"},
+        {ui.pushButton_Get_Current_RFID, "tmiw_141"},
+        {ui.pushButton_Taho, "wrd_065"},
+        {ui.pushButton_FuelSensor, "tmiw_143"},
+        {ui.pushButton_Set_NoGuard, "tmiw_144"},
+        {ui.pushButton_Set_Guard, "tmiw_145"},
+        {ui.pushButton_Help, "wrd_027"},
+        {ui.pushButton_Close, "wrd_054"},
+    };
+    for (const auto& [button, key] : buttons)
+        button->setText(word(key));
+    const std::pair<QLabel*, const char*> labels[] = {
+        {ui.label_NoData, "tmiw_002"}, {ui.label_Show, "tmiw_006"},    {ui.label_TimeOffset, "tmiw_009"},
+        {ui.label_First, "tmiw_012"},  {ui.label_Last, "tmiw_013"},    {ui.label_TM, "tmiw_028"},
+        {ui.label_RFID, "tmiw_029"},   {ui.label_Records, "tmiw_151"},
+    };
+    for (const auto& [label, key] : labels)
+        label->setText(word(key));
+    const std::pair<QWidget*, const char*> tips[] = {
+        {ui.pushButton_SaveToFile, "tmiw_148"},
+        {ui.pushButton_SaveToExcel, "tmiw_149"},
+        {ui.pushButton_SaveFileToServer, "tmiw_150"},
+        {ui.spinBox_RFID, "tmiw_147"},
+    };
+    for (const auto& [widget, key] : tips)
+        widget->setToolTip(word(key));
+    QCheckBox* const servers[] = {ui.checkBox_Server1, ui.checkBox_Server2, ui.checkBox_Server3};
+    for (std::size_t i = 0; i < std::size(servers); ++i)
+        servers[i]->setText(QStringLiteral("%1 %2").arg(word("tmiw_023")).arg(i + 1));
+    ui.spinBox_TimeOffset->setSuffix(QLatin1Char(' ') + word("abbr_001"));
+    ui.horizontalSlider_Auto_Tmi->setAccessibleName(word("tmiw_007"));
+    ui.spinBox_RFID->setAccessibleName(word("tmiw_147"));
+}

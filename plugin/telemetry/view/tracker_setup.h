@@ -1,0 +1,21 @@
+#pragma once
+
+// What the telemetry view takes from the configuration of a tracker: the vehicle's name, the balance request
+// code and the names of lines and sensors.
+
+#include "telemetry/record/telemetry_titles.h"
+
+namespace vlk {
+
+struct TrackerSetup
+{
+    QString objectName = QStringLiteral("NONAME");
+    QString balanceUssd;
+    TelemetryTitles titles;
+};
+
+// Reads the file at `path` over `setup`: names that it does not hold stay as they were. False, and nothing
+// changes, if it cannot be read.
+bool readTrackerSetup(const QString& path, TrackerSetup& setup);
+
+} // namespace vlk

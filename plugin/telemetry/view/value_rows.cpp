@@ -1,0 +1,94 @@
+#include "telemetry/view/value_rows.h"
+
+#include "telemetry/text/item_text.h"
+
+#include <QCoreApplication>
+#include <QGridLayout>
+#include <QLabel>
+
+namespace vlk {
+
+namespace {
+
+QLabel* makeLabel(const QString& name)
+{
+    auto* label = new QLabel;
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+} // namespace
+
+QLabel* makeCaption(const QString& name)
+{
+    return makeLabel(name);
+}
+
+QLabel* makeValue(const QString& name)
+{
+    QLabel* label = makeLabel(name);
+    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    label->setMinimumWidth(label->fontMetrics().averageCharWidth() * 8);
+    return label;
+}
+
+QHBoxLayout* besideEachOther(std::initializer_list<QLabel*> labels)
+{
+    auto* layout = new QHBoxLayout;
+    for (QLabel* label : labels) {
+        label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+        layout->addWidget(label);
+    }
+    layout->addStretch();
+    return layout;
+}
+
+QStringList partsAroundValues(const QString& text)
+{
+    QStringList parts = text.split(QStringLiteral("<val>"), Qt::KeepEmptyParts, Qt::CaseInsensitive);
+    for (QString& part : parts)
+        part = part.trimmed();
+    return parts;
+}
+
+void ValueRows::add(QGridLayout* grid, std::span<const ValueRow> rows, int column)
+{
+    int at = 0;
+    while (grid->itemAtPosition(at, column) != nullptr)
+        ++at;
+    for (const ValueRow& row : rows) {
+        const QString name = QString::fromLatin1(row.value);
+        QLabel* caption = makeCaption(QString(name).replace(QLatin1String("_Value"), QLatin1String("_Text")));
+        QLabel* value = makeValue(name);
+        grid->addWidget(caption, at, column);
+        QLabel* unit = row.unit == nullptr ? nullptr : makeCaption(QString::fromLatin1(row.unit));
+        if (unit == nullptr)
+            grid->addWidget(value, at, column + 1);
+        else
+            grid->addLayout(besideEachOther({value, unit}), at, column + 1);
+        shown_.push_back({&row, caption, value, unit});
+        ++at;
+    }
+    grid->setColumnStretch(column + 1, 1);
+}
+
+void ValueRows::retranslate()
+{
+    for (const Shown& shown : shown_) {
+        const QStringList parts = partsAroundValues(QCoreApplication::translate("vlk", shown.row->key));
+        shown.caption->setText(parts.value(0));
+        if (shown.unit != nullptr)
+            shown.unit->setText(shown.row->unitKey != nullptr
+                                    ? QCoreApplication::translate("vlk", shown.row->unitKey)
+                                    : parts.value(1));
+    }
+}
+
+void ValueRows::fill(const TmiPage_Zeta3& page)
+{
+    for (const Shown& shown : shown_)
+        shown.value->setText(text(page, shown.row->item));
+}
+
+} // namespace vlk

@@ -1,0 +1,380 @@
+#include "telemetry/view/widget_tmi_view.h"
+
+#include "ui_VLK_Designer_Widget_Tmi_View.h"
+
+#include "base/clock.h"
+#include "host/device_r7106.h"
+#include "host/requests.h"
+#include "telemetry/tachograph/form_tmi_taho.h"
+#include "telemetry/text/key_text.h"
+#include "telemetry/view/event_panel.h"
+#include "telemetry/view/tmi_view_texts.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+
+using namespace vlk;
+
+namespace {
+
+constexpr int kSecondsPerHour = 3600;
+constexpr int kLiveOwnerView = 1;
+enum ExtraRecord { LastTouchKey = 1, LastRfid = 3 };
+
+std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_View> setUpUi(QDialog* window)
+{
+    auto ui = std::make_unique<Ui::VLK_Designer_Widget_Tmi_View>();
+    ui->setupUi(window);
+    return ui;
+}
+
+int hostMode()
+{
+    return vlkDevice != nullptr ? vlkDevice->mode() : 0;
+}
+
+} // namespace
+
+VLK_Widget_Tmi_View::VLK_Widget_Tmi_View(QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
+      ui_(setUpUi(this)), eventPanel_(new EventPanel(this)), pages_(ui_->stackedWidget, eventPanel_),
+      automatic_(this), clearing_({ui_->checkBox_Server1, ui_->checkBox_Server2, ui_->checkBox_Server3})
+{
+    ui_->verticalLayout_Event->addWidget(eventPanel_);
+    ui_->groupBox_Btn_Guard->hide();
+    ui_->frame_Btn_Func->hide();
+    for (QDateTimeEdit* edit : {ui_->dateTimeEdit_Show, ui_->dateTimeEdit_First, ui_->dateTimeEdit_Last}) {
+        // Already shifted by the zone; the machine's own must not shift it again.
+        edit->setTimeSpec(Qt::UTC);
+    }
+    clearProgress();
+    connectControls();
+    connect(eventPanel_, &EventPanel::signal_OperatingMode, this, &VLK_Widget_Tmi_View::setGuardButtons);
+    connect(&automatic_, &AutomaticRequests::timeout, this,
+            &VLK_Widget_Tmi_View::slot_timeout_m_Timer_Auto_TMI);
+    retranslate();
+}
+
+VLK_Widget_Tmi_View::~VLK_Widget_Tmi_View() = default;
+
+void VLK_Widget_Tmi_View::connectControls()
+{
+    using View = VLK_Widget_Tmi_View;
+    const std::pair<QPushButton*, void (View::*)()> buttons[] = {
+        {ui_->pushButton_Get_Current, &View::slot_pressed_GetCurrent},
+        {ui_->pushButton_Get_Prev, &View::slot_pressed_GetPrev},
+        {ui_->pushButton_Get_Next, &View::slot_pressed_GetNext},
+        {ui_->pushButton_Get_Current_Touch, &View::slot_pressed_GetCurrent_Touch},
+        {ui_->pushButton_Get_Current_RFID, &View::slot_pressed_GetCurrent_RFID},
+        {ui_->pushButton_Help, &View::slot_pressed_Help},
+        {ui_->pushButton_Close, &View::slot_pressed_Close},
+        {ui_->pushButton_Func, &View::slot_pressed_Func},
+        {ui_->pushButton_Show, &View::slot_pressed_Show},
+        {ui_->pushButton_Clear, &View::slot_pressed_Clear},
+        {ui_->pushButton_RFID, &View::slot_pressed_RFID},
+        {ui_->pushButton_TM, &View::slot_pressed_TM},
+        {ui_->pushButton_Taho, &View::slot_pressed_Taho},
+        {ui_->pushButton_Set_Guard, &View::slot_pressed_SetGuard},
+        {ui_->pushButton_Set_NoGuard, &View::slot_pressed_SetNoGuard},
+    };
+    for (const auto& [button, slot] : buttons)
+        connect(button, &QPushButton::clicked, this, slot);
+    // Enter in a field must not press whatever button is near.
+    for (QPushButton* button : findChildren<QPushButton*>())
+        button->setAutoDefault(false);
+    connect(ui_->spinBox_TimeOffset, qOverload<int>(&QSpinBox::valueChanged), this,
+            &View::slot_valueChanged_TimeOffset);
+    connect(ui_->checkBox_Get_Auto_TMI, &QCheckBox::stateChanged, this, &View::slot_stateChanged_GetAutoTmi);
+    connect(ui_->horizontalSlider_Auto_Tmi, &QSlider::valueChanged, this,
+            &View::slot_valueChanged_horizontalSlider_Auto_Tmi);
+    connect(this, &QDialog::finished, this, &View::slot_finished_Window);
+}
+
+void VLK_Widget_Tmi_View::open(const QString& configurationPath)
+{
+    setup_.objectName = TrackerSetup().objectName;
+    if (readTrackerSetup(configurationPath, setup_) && vlkDevice != nullptr)
+        qstrncpy(vlkDevice->balanceUssd(), setup_.balanceUssd.toLocal8Bit().constData(), balanceUssdSize);
+    pages_.setTracker(setup_.titles, vlkDevice != nullptr ? vlkDevice->capabilityMask() : 0);
+
+    stopRequests();
+    clearProgress();
+    highestNumber_ = 0;
+    ui_->pushButton_Get_Prev->setEnabled(false);
+    ui_->pushButton_Get_Next->setEnabled(false);
+
+    ui_->spinBox_TimeOffset->setValue(now().offsetFromUtc() / kSecondsPerHour);
+    timeOffset_ = ui_->spinBox_TimeOffset->value() * kSecondsPerHour;
+    pages_.setUtcOffset(timeOffset_);
+    const QDateTime present = now().toUTC().addSecs(timeOffset_);
+    ui_->dateTimeEdit_Show->setDateTime(present);
+    ui_->dateTimeEdit_Last->setDateTime(present);
+    ui_->dateTimeEdit_First->setDateTime(present.addSecs(-kSecondsPerHour));
+
+    pages_.showNothing();
+    ui_->groupBox_Btn_Guard->hide();
+    setTitle();
+    show();
+    raise();
+
+    if (hostMode() == 0) {
+        requests::currentRecord();
+    } else {
+        ui_->horizontalSlider_Auto_Tmi->setValue(1);
+        ui_->checkBox_Get_Auto_TMI->setChecked(true);
+    }
+}
+
+void VLK_Widget_Tmi_View::setTitle()
+{
+    if (vlkDevice == nullptr)
+        return;
+    const QString mask = QString::number(vlkDevice->capabilityMask(), 16).toUpper();
+    setWindowTitle(
+        QStringLiteral("%1 / %2 / %3 / %4 / %5")
+            .arg(tr("tmiw_001"), vlkDevice->model(), mask, vlkDevice->trackerId2(), vlkDevice->trackerId1()));
+}
+
+void VLK_Widget_Tmi_View::setManualEnabled(bool enabled)
+{
+    QWidget* const manual[] = {ui_->groupBox_Btn_Get, ui_->groupBox_Btn_Save, ui_->pushButton_Taho,
+                               ui_->pushButton_RFID};
+    for (QWidget* widget : manual)
+        widget->setEnabled(enabled);
+    pages_.setCommandsEnabled(enabled);
+}
+
+void VLK_Widget_Tmi_View::clearProgress()
+{
+    for (QLabel* label : ui_->frame_Progress->findChildren<QLabel*>())
+        label->clear();
+    ui_->progressBar_Time->hide();
+    ui_->pushButton_Save_Cancel->hide();
+}
+
+void VLK_Widget_Tmi_View::stopRequests()
+{
+    ui_->checkBox_Get_Auto_TMI->setChecked(false);
+    automatic_.stop();
+    clearing_.stop();
+}
+
+void VLK_Widget_Tmi_View::takeRecord(const QByteArray& record)
+{
+    const std::optional<quint32> number = pages_.showRecord(record);
+    if (!number)
+        return;
+    highestNumber_ = std::max(highestNumber_, *number);
+    ui_->pushButton_Get_Next->setEnabled(*number < highestNumber_);
+    ui_->pushButton_Get_Prev->setEnabled(*number != 0);
+}
+
+void VLK_Widget_Tmi_View::takeClearedRecord(const QByteArray& record)
+{
+    takeRecord(record);
+    clearing_.answered();
+}
+
+void VLK_Widget_Tmi_View::takeKeyAnswer(const QByteArray& answer)
+{
+    pages_.showKeyAnswer(answer);
+}
+
+void VLK_Widget_Tmi_View::takeLiveKey(quint64 key)
+{
+    if (hostMode() == 1)
+        ui_->checkBox_Get_Auto_TMI->setChecked(true);
+    else
+        ui_->lineEdit_TM->setText(keyHexText(key));
+}
+
+void VLK_Widget_Tmi_View::takeRfid(quint64 number, qint8 signal)
+{
+    ui_->lineEdit_RFID->setText(QString::number(number));
+    ui_->spinBox_RFID->setValue(signal);
+}
+
+void VLK_Widget_Tmi_View::takeTachographAnswer(const QByteArray& answer)
+{
+    if (tachograph_ != nullptr)
+        tachograph_->takeAnswer(answer);
+}
+
+void VLK_Widget_Tmi_View::takeTachographFetched(bool done)
+{
+    if (tachograph_ != nullptr)
+        tachograph_->takeFetched(done);
+}
+
+// Observation can be turned into guard, and guard into observation.
+void VLK_Widget_Tmi_View::setGuardButtons(int operatingMode)
+{
+    ui_->pushButton_Set_Guard->setEnabled(operatingMode == 0);
+    ui_->pushButton_Set_NoGuard->setEnabled(operatingMode == 1);
+}
+
+void VLK_Widget_Tmi_View::walkTo(quint32 number, const QAbstractButton* button)
+{
+    if (button->isDown() && number == lastWalk_)
+        return;
+    lastWalk_ = number;
+    requests::recordByNumber(number);
+}
+
+void VLK_Widget_Tmi_View::slot_pressed_GetCurrent()
+{
+    requests::currentRecord();
+}
+
+void VLK_Widget_Tmi_View::slot_pressed_GetPrev()
+{
+    if (eventPanel_->number() != 0)
+        walkTo(eventPanel_->number() - 1, ui_->pushButton_Get_Prev);
+}
+
+void VLK_Widget_Tmi_View::slot_pressed_GetNext()
+{
+    walkTo(eventPanel_->number() + 1, ui_->pushButton_Get_Next);
+}
+
+void VLK_Widget_Tmi_View::slot_pressed_GetCurrent_Touch()
+{
+    requests::extraPacket(LastTouchKey);
+}
+
+void VLK_Widget_Tmi_View::slot_pressed_GetCurrent_RFID()
+{
+    requests::extraPacket(LastRfid);
+}
+
+void VLK_Widget_Tmi_View::slot_valueChanged_TimeOffset(int hours)
+{
+    const int offset = hours * kSecondsPerHour;
+    for (QDateTimeEdit* edit : {ui_->dateTimeEdit_Show, ui_->dateTimeEdit_First, ui_->dateTimeEdit_Last})
+        edit->setDateTime(edit->dateTime().addSecs(offset - timeOffset_));
+    timeOffset_ = offset;
+    pages_.setUtcOffset(offset);
+}
+
+void VLK_Widget_Tmi_View::slot_pressed_Help()
+{
+    requests::showHelp(QStringLiteral("r-7106tmi.html"));
+}
+
+void VLK_Widget_Tmi_View::slot_pressed_Close()
+{
+    stopRequests();
+    close();
+}
+
+void VLK_Widget_Tmi_View::slot_finished_Window(int /*result*/)
+{
+    stopRequests();
+    if (tachograph_ != nullptr)
+        tachograph_->close();
+}
+
+void VLK_Widget_Tmi_View::slot_pressed_Func()
+{
+    ui_->frame_Btn_Func->setVisible(ui_->frame_Btn_Func->isHidden());
+    ui_->pushButton_Func->setChecked(!ui_->frame_Btn_Func->isHidden());
+}
+
+void VLK_Widget_Tmi_View::slot_pressed_Show()
+{
+    requests::recordByTime(ui_->dateTimeEdit_Show->dateTime().addSecs(-timeOffset_));
+}
+
+void VLK_Widget_Tmi_View::slot_stateChanged_GetAutoTmi(int state)
+{
+    const bool on = state != Qt::Unchecked;
+    setManualEnabled(!on);
+    if (on)
+        automatic_.start(ui_->horizontalSlider_Auto_Tmi->value());
+    else
+        automatic_.stop();
+}
+
+void VLK_Widget_Tmi_View::slot_timeout_m_Timer_Auto_TMI()
+{
+    if (ui_->checkBox_Get_Auto_TMI->isChecked())
+        automatic_.next(ui_->horizontalSlider_Auto_Tmi->value());
+}
+
+void VLK_Widget_Tmi_View::slot_valueChanged_horizontalSlider_Auto_Tmi(int seconds)
+{
+    ui_->label_Auto_Tmi_Text->setText(QStringLiteral("%1 %2").arg(seconds).arg(tr("abbr_003")));
+}
+
+void VLK_Widget_Tmi_View::slot_pressed_Clear()
+{
+    clearing_.start();
+}
+
+void VLK_Widget_Tmi_View::slot_pressed_RFID()
+{
+    requests::rfid();
+}
+
+void VLK_Widget_Tmi_View::slot_pressed_TM()
+{
+    requests::liveKey(kLiveOwnerView);
+}
+
+void VLK_Widget_Tmi_View::slot_pressed_Taho()
+{
+    if (tachograph_ == nullptr) {
+        tachograph_ = new VLK_Form_TMI_Taho(this);
+        connect(tachograph_, &VLK_Form_TMI_Taho::signal_GetTahoQuest, this,
+                &VLK_Widget_Tmi_View::slot_GetTahoQuest);
+        connect(tachograph_, &VLK_Form_TMI_Taho::signal_GetTahoFile, this,
+                &VLK_Widget_Tmi_View::slot_GetTahoFile);
+        connect(tachograph_, &VLK_Form_TMI_Taho::signal_GetTahoFile_Read, this,
+                &VLK_Widget_Tmi_View::slot_GetTahoFile_Read);
+    }
+    tachograph_->open();
+}
+
+void VLK_Widget_Tmi_View::slot_pressed_SetGuard()
+{
+    requests::guardOn();
+}
+
+void VLK_Widget_Tmi_View::slot_pressed_SetNoGuard()
+{
+    requests::guardOff();
+}
+
+void VLK_Widget_Tmi_View::slot_GetTahoQuest(int question)
+{
+    requests::tachographQuestion(question);
+}
+
+void VLK_Widget_Tmi_View::slot_GetTahoFile(szQueryTaho* request)
+{
+    requests::tachographFile(*request);
+}
+
+void VLK_Widget_Tmi_View::slot_GetTahoFile_Read(const QString& name)
+{
+    if (vlkDevice == nullptr)
+        return;
+    // The name comes from the tracker: only its last part may say where the file goes.
+    const QString proposed =
+        QDir::cleanPath(vlkDevice->tmiFolder() + QLatin1Char('/') + QFileInfo(name).fileName());
+    const QString path = QFileDialog::getSaveFileName(tachograph_, tr("wrd_028"), proposed,
+                                                      QStringLiteral("%1 (*.ddd)").arg(tr("wrd_064")));
+    requests::tachographRead(path);
+}
+
+void VLK_Widget_Tmi_View::retranslate()
+{
+    setControlTexts(*ui_);
+    slot_valueChanged_horizontalSlider_Auto_Tmi(ui_->horizontalSlider_Auto_Tmi->value());
+    setTitle();
+
+    pages_.retranslate();
+    if (tachograph_ != nullptr)
+        tachograph_->retranslate();
+}

@@ -1,0 +1,97 @@
+#pragma once
+
+// The window through which a user looks at the telemetry of a connected tracker: asks for records, shows the
+// head of each in an event panel and its values in a content form, walks from record to record, polls on a
+// timer, clears the tracker's unsent data, reads keys and tags, and opens the tachograph dialog. Answers come
+// at any time, asked for or not, also while the window is hidden.
+
+#include "host/host_interface.h"
+#include "telemetry/view/automatic_requests.h"
+#include "telemetry/view/clearing_sequence.h"
+#include "telemetry/view/record_stack.h"
+#include "telemetry/view/tracker_setup.h"
+
+#include <QDialog>
+
+#include <memory>
+
+class EventPanel;
+class QAbstractButton;
+class VLK_Form_TMI_Taho;
+
+namespace Ui {
+class VLK_Designer_Widget_Tmi_View;
+}
+
+class VLK_Widget_Tmi_View : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit VLK_Widget_Tmi_View(QWidget* parent = nullptr);
+    ~VLK_Widget_Tmi_View() override;
+
+    using QDialog::open;
+    // Starts anew with the tracker of this configuration file, and asks for the first record.
+    void open(const QString& configurationPath);
+    void deviceConnected() { setTitle(); }
+    void deviceDisconnected() { close(); }
+    void retranslate();
+
+    // Answers of the host. Records come from their type byte on.
+    void takeRecord(const QByteArray& record);
+    void takeClearedRecord(const QByteArray& record);
+    void takeKeyAnswer(const QByteArray& answer);
+    void takeLiveKey(quint64 key);
+    void takeRfid(quint64 number, qint8 signal);
+    void takeTachographAnswer(const QByteArray& answer);
+    void takeTachographFetched(bool done);
+
+private Q_SLOTS:
+    void slot_pressed_GetCurrent();
+    void slot_pressed_GetPrev();
+    void slot_pressed_GetNext();
+    void slot_pressed_GetCurrent_Touch();
+    void slot_pressed_GetCurrent_RFID();
+    void slot_valueChanged_TimeOffset(int hours);
+    void slot_pressed_Help();
+    void slot_pressed_Close();
+    void slot_finished_Window(int result);
+    void slot_pressed_Func();
+    void slot_pressed_Show();
+    void slot_stateChanged_GetAutoTmi(int state);
+    void slot_timeout_m_Timer_Auto_TMI();
+    void slot_valueChanged_horizontalSlider_Auto_Tmi(int seconds);
+    void slot_pressed_Clear();
+    void slot_pressed_RFID();
+    void slot_pressed_TM();
+    void slot_pressed_Taho();
+    void slot_pressed_SetGuard();
+    void slot_pressed_SetNoGuard();
+    void slot_GetTahoQuest(int question);
+    void slot_GetTahoFile(vlk::szQueryTaho* request);
+    void slot_GetTahoFile_Read(const QString& name);
+
+private:
+    void setTitle();
+    void connectControls();
+    // Off while records are requested automatically.
+    void setManualEnabled(bool enabled);
+    void stopRequests();
+    // The area in the bottom row that shows how far a save has come.
+    void clearProgress();
+    // Asks for a record by number; a walking button that is held down waits for each answer.
+    void walkTo(quint32 number, const QAbstractButton* button);
+    void setGuardButtons(int operatingMode);
+
+    std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_View> ui_;
+    EventPanel* eventPanel_;
+    VLK_Form_TMI_Taho* tachograph_ = nullptr;
+    RecordStack pages_;
+    AutomaticRequests automatic_;
+    ClearingSequence clearing_;
+    vlk::TrackerSetup setup_;
+    int timeOffset_ = 0; // seconds east of UTC
+    quint32 highestNumber_ = 0;
+    quint32 lastWalk_ = 0;
+};
