@@ -268,7 +268,7 @@ private Q_SLOTS:
             const TmiPage_Zeta3& source = *pages[page];
             double wanted = source.isExtra() ? source.extra().number(*index) : source.number(*index);
             if (name == "CAN_TimeTO")
-                wanted = static_cast<qint16>(wanted);
+                wanted = static_cast<qint16>(source.raw(*index));
             const double scale = name == "NaviAltitude" ? 1000 : name.endsWith("Dop") ? 10 : 1;
             const double found = reader.readElementText().toDouble() * scale;
             QVERIFY2(std::isnan(wanted) || wanted == found ||
