@@ -47,7 +47,7 @@ public:
     bool finish();
 
 private:
-    static constexpr std::size_t kCapacity = 64 * 1024;
+    static constexpr std::size_t kCapacity = 65'536;
 
     static std::string_view view(const QByteArray& bytes)
     {
