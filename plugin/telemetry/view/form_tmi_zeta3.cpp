@@ -1,14 +1,155 @@
 #include "telemetry/view/form_tmi_zeta3.h"
 
+#include "host/requests.h"
+#include "telemetry/view/form_tmi_f3_tab_accel.h"
+#include "telemetry/view/form_tmi_f3_tab_fuel.h"
+#include "telemetry/view/form_tmi_f3_tab_main.h"
+#include "telemetry/view/form_tmi_f3_tab_sensors.h"
+#include "windows/vlk_menuaction.h"
 #include "windows/vlk_tabwidget.h"
 
+#include <QMenu>
+#include <QMouseEvent>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
+using namespace vlk;
+
+namespace {
+
+constexpr int kInputs = 4;
+constexpr int kOutputs = 3;
+constexpr quint64 kFourthOutput = 1U << 3;
+
+// What trackers of this model do not have.
+using Main = VLK_Form_Tmi_F3_Tab_Main;
+constexpr Main::Part kAbsent[] = {Main::Evacuation,    Main::WiFi,     Main::Iridium,
+                                  Main::OpenSensor,    Main::Motochas, Main::MotochasLoad,
+                                  Main::ComplexEvents, Main::NaviExt,  Main::Geo};
+
+} // namespace
+
 VLK_Form_TMI_Zeta3::VLK_Form_TMI_Zeta3(EventPanel* panel, QWidget* parent)
-    : QWidget(parent), record_(panel), tabWidget_(new VLK_TabWidget(this))
+    : QWidget(parent), record_(panel), tabWidget_(new VLK_TabWidget(this)), menu_(new QMenu(this)),
+      main_(new VLK_Form_Tmi_F3_Tab_Main), sensors_(new VLK_Form_Tmi_F3_Tab_Sensors)
 {
     tabWidget_->setObjectName(QStringLiteral("tabWidget"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(tabWidget_);
+
+    addTab(main_);
+    addTab(sensors_);
+    addTab(new VLK_Form_Tmi_F3_Tab_Accel);
+    addTab(new VLK_Form_Tmi_F3_Tab_Fuel);
+    hideAbsentParts();
+    retranslate();
+
+    connect(menu_, &QMenu::triggered, this, &VLK_Form_TMI_Zeta3::slot_triggered_Menu);
+    connect(main_, &Main::signal_Set_Run, this, &VLK_Form_TMI_Zeta3::slot_Set_Run);
+    connect(sensors_, &VLK_Form_Tmi_F3_Tab_Sensors::signal_SetOut_On, this,
+            &VLK_Form_TMI_Zeta3::slot_SetOut_On);
+    connect(sensors_, &VLK_Form_Tmi_F3_Tab_Sensors::signal_SetOut_Off, this,
+            &VLK_Form_TMI_Zeta3::slot_SetOut_Off);
+}
+
+void VLK_Form_TMI_Zeta3::addTab(VLK_Form_Tmi_F3_Tab* tab)
+{
+    auto* area = new QScrollArea;
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidget(tab);
+    const int index = tabWidget_->addTab(area, {});
+    menu_->addAction(new VLK_MenuAction({}, index, menu_));
+    tabs_.push_back(tab);
+}
+
+void VLK_Form_TMI_Zeta3::hideAbsentParts()
+{
+    for (const Main::Part part : kAbsent)
+        main_->setPartVisible(part, false);
+    sensors_->setInputCount(kInputs);
+    sensors_->setOutputCount(kOutputs);
+}
+
+void VLK_Form_TMI_Zeta3::setTitles(const TelemetryTitles& titles)
+{
+    sensors_->setTitles(titles);
+}
+
+void VLK_Form_TMI_Zeta3::setCapabilityMask(quint64 mask)
+{
+    sensors_->setOutputCount((mask & kFourthOutput) != 0 ? kOutputs + 1 : kOutputs);
+}
+
+void VLK_Form_TMI_Zeta3::setCommandsEnabled(bool enabled)
+{
+    main_->commands()->setEnabled(enabled);
+    sensors_->commands()->setEnabled(enabled);
+}
+
+void VLK_Form_TMI_Zeta3::setLive(bool live)
+{
+    main_->commands()->setVisible(live);
+    sensors_->commands()->setVisible(live);
+}
+
+void VLK_Form_TMI_Zeta3::fill(const TmiPage_Zeta3& page)
+{
+    for (VLK_Form_Tmi_F3_Tab* tab : tabs_)
+        tab->fill(page);
+}
+
+void VLK_Form_TMI_Zeta3::setUtcOffset(int seconds)
+{
+    if (record_.setUtcOffset(seconds))
+        fill(*record_.page());
+}
+
+void VLK_Form_TMI_Zeta3::retranslate()
+{
+    for (int i = 0; i < tabWidget_->count(); ++i) {
+        tabs_[i]->retranslate();
+        tabWidget_->setTabText(i, tabs_[i]->title());
+        menu_->actions().at(i)->setText(tabs_[i]->title());
+    }
+    if (record_.page() != nullptr)
+        fill(*record_.page());
+}
+
+void VLK_Form_TMI_Zeta3::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+}
+
+void VLK_Form_TMI_Zeta3::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::RightButton) {
+        QWidget::mousePressEvent(event);
+        return;
+    }
+    menu_->popup(event->globalPos());
+}
+
+void VLK_Form_TMI_Zeta3::slot_SetOut_On(int output)
+{
+    requests::outputOn(output);
+}
+
+void VLK_Form_TMI_Zeta3::slot_SetOut_Off(int output)
+{
+    requests::outputOff(output);
+}
+
+void VLK_Form_TMI_Zeta3::slot_Set_Run(float kilometres)
+{
+    requests::setMileage(kilometres);
+}
+
+void VLK_Form_TMI_Zeta3::slot_triggered_Menu(QAction* action)
+{
+    if (const auto* entry = qobject_cast<VLK_MenuAction*>(action))
+        tabWidget_->setCurrentIndex(entry->tabIndex());
 }

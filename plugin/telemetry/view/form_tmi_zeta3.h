@@ -1,12 +1,20 @@
 #pragma once
 
-// A telemetry record of protocol 3.0: decodes it, fills the event panel, and then its tabs.
+// The content form for telemetry records of protocol 3.0: four tabs of values, and two commands, switching an
+// output and setting the mileage. The live view gives it bytes, a browser of stored records gives it pages.
+// Its texts follow a change of language by themselves.
 
 #include "telemetry/record/telemetry_titles.h"
 #include "telemetry/view/record_on_show.h"
 
 #include <QWidget>
 
+#include <vector>
+
+class QMenu;
+class VLK_Form_Tmi_F3_Tab;
+class VLK_Form_Tmi_F3_Tab_Main;
+class VLK_Form_Tmi_F3_Tab_Sensors;
 class VLK_TabWidget;
 
 class VLK_Form_TMI_Zeta3 : public QWidget
@@ -18,25 +26,44 @@ public:
     explicit VLK_Form_TMI_Zeta3(EventPanel* panel, QWidget* parent = nullptr);
 
     // The names of lines and sensors that the tabs show beside their values.
-    void setTitles(const vlk::TelemetryTitles& titles) { titles_ = titles; }
+    void setTitles(const vlk::TelemetryTitles& titles);
     // Bit 3: the tracker has four outputs, else three.
-    void setCapabilityMask(quint64 mask) { capabilityMask_ = mask; }
+    void setCapabilityMask(quint64 mask);
     // Off while records are requested automatically: the user cannot command the tracker then.
-    void setCommandsEnabled(bool enabled) { commandsEnabled_ = enabled; }
+    void setCommandsEnabled(bool enabled);
+    // A form without a tracker shows no controls for one.
+    void setLive(bool live);
 
     // A record, from its type byte on.
-    void takeRecord(const QByteArray& record) { record_.take(record); }
+    void takeRecord(const QByteArray& record) { fill(record_.take(record)); }
+    // A record that somebody else owns and shows in the event panel.
+    void fill(const TmiPage_Zeta3& page);
 
     // Seconds east of UTC.
-    void setUtcOffset(int seconds) { record_.setUtcOffset(seconds); }
-    // -1 before the first record.
+    void setUtcOffset(int seconds);
+    // Of the records that the form took; -1 before the first one.
     qint64 number() const { return record_.number(); }
     const TmiPage_Zeta3* page() const { return record_.page(); }
 
+protected:
+    void changeEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+
+private Q_SLOTS:
+    void slot_SetOut_On(int output);
+    void slot_SetOut_Off(int output);
+    void slot_Set_Run(float kilometres);
+    void slot_triggered_Menu(QAction* action);
+
 private:
+    void addTab(VLK_Form_Tmi_F3_Tab* tab);
+    void hideAbsentParts();
+    void retranslate();
+
     RecordOnShow record_;
     VLK_TabWidget* tabWidget_;
-    vlk::TelemetryTitles titles_;
-    quint64 capabilityMask_ = 0;
-    bool commandsEnabled_ = true;
+    QMenu* menu_;
+    VLK_Form_Tmi_F3_Tab_Main* main_;
+    VLK_Form_Tmi_F3_Tab_Sensors* sensors_;
+    std::vector<VLK_Form_Tmi_F3_Tab*> tabs_;
 };

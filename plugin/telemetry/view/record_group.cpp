@@ -1,0 +1,222 @@
+#include "telemetry/view/record_group.h"
+
+#include "telemetry/text/item_text.h"
+#include "telemetry/view/value_label.h"
+#include "telemetry/view/value_width.h"
+
+#include <QCoreApplication>
+#include <QGridLayout>
+
+namespace vlk {
+
+namespace {
+
+constexpr int kTitleCharacters = 18;
+constexpr int kColumnsOfList = 4; // caption, title, value, room
+
+QString translated(const char* key)
+{
+    return QCoreApplication::translate("vlk", key);
+}
+
+QString numbered(const char* key, int number)
+{
+    QString text = translated(key);
+    if (number == 0)
+        return text;
+    const QString marker = QStringLiteral("<val>");
+    if (text.contains(marker))
+        return text.replace(marker, QString::number(number));
+    return text + QLatin1Char(' ') + QString::number(number);
+}
+
+QString numberedName(const char* name, int number)
+{
+    const QString text = QLatin1String(name);
+    return text.contains(QLatin1String("%1")) ? text.arg(number) : text;
+}
+
+QString captionName(const QString& value)
+{
+    const QLatin1String ending("_Value");
+    return value.contains(ending) ? QString(value).replace(ending, QLatin1String("_Text"))
+                                  : value + QLatin1String("_Caption");
+}
+
+} // namespace
+
+RecordGroup::RecordGroup(const char* objectName, const char* titleKey, QWidget* parent)
+    : QGroupBox(parent), titleKey_(titleKey), grid_(new QGridLayout(this))
+{
+    setObjectName(QLatin1String(objectName));
+    grid_->setContentsMargins(8, 4, 8, 6);
+    grid_->setHorizontalSpacing(10);
+    grid_->setVerticalSpacing(3);
+}
+
+int RecordGroup::startBelow() const
+{
+    return grid_->count() == 0 ? 0 : grid_->rowCount();
+}
+
+QLabel* RecordGroup::addCaption(const char* key, int number, const QString& objectName)
+{
+    auto* label = new QLabel(this);
+    label->setObjectName(objectName);
+    label->setTextFormat(Qt::PlainText);
+    captions_.push_back({label, key, number});
+    return label;
+}
+
+ValueLabel* RecordGroup::addValue(const QString& objectName, ItemIndex item)
+{
+    auto* label = new ValueLabel(objectName, this);
+    values_.push_back({label, item});
+    return label;
+}
+
+// The caption and the value of one of a series.
+RecordGroup::Row& RecordGroup::addPair(const ValueSeries& series, int number)
+{
+    const QString name = numberedName(series.value, number);
+    QLabel* caption = addCaption(series.caption, number, captionName(name));
+    rows_.push_back({series.part, {caption, addValue(name, series.item + std::max(number - 1, 0))}});
+    return rows_.back();
+}
+
+void RecordGroup::addListRow(const ValueSeries& series, int index, int row, int column)
+{
+    const int number = series.count > 1 ? index + 1 : 0;
+    Row& pair = addPair(series, number);
+    grid_->addWidget(pair.widgets[0], row, column);
+    grid_->addWidget(pair.widgets[1], row, column + 2);
+    if (series.title != nullptr) {
+        auto* title = new ValueLabel(numberedName(series.title, number), this);
+        title->setTextWidth(fontMetrics().averageCharWidth() * kTitleCharacters);
+        titles_.push_back(title);
+        pair.widgets.push_back(title);
+        grid_->addWidget(title, row, column + 1);
+    }
+}
+
+void RecordGroup::addWideRow(const ValueSeries& value)
+{
+    const int row = startBelow();
+    const Row& pair = addPair(value, 0);
+    grid_->addWidget(pair.widgets[0], row, 0);
+    grid_->addWidget(pair.widgets[1], row, 1, 1, grid_->columnCount() - 1);
+}
+
+void RecordGroup::addList(std::span<const ValueSeries> list, int rowsBelow)
+{
+    const int first = startBelow();
+    int at = 0;
+    for (const ValueSeries& series : list) {
+        for (int i = 0; i < series.count; ++i, ++at)
+            addListRow(series, i, first + at % rowsBelow, at / rowsBelow * kColumnsOfList);
+    }
+    grid_->setColumnStretch((at - 1) / rowsBelow * kColumnsOfList + 3, 1);
+}
+
+void RecordGroup::addRow(const char* captionKey, QWidget* widget)
+{
+    const int row = startBelow();
+    grid_->addWidget(addCaption(captionKey, 0, captionName(widget->objectName())), row, 0);
+    grid_->addWidget(widget, row, 2, 1, 2);
+}
+
+void RecordGroup::addCommand(QWidget* widget)
+{
+    grid_->addWidget(widget, startBelow(), 0, 1, kColumnsOfList, Qt::AlignLeft);
+}
+
+void RecordGroup::addCaptions(std::span<const char* const> keys, int row, int column)
+{
+    for (const char* key : keys)
+        grid_->addWidget(addCaption(key, 0), row, column++, Qt::AlignRight);
+}
+
+void RecordGroup::addColumns(std::span<const ValueSeries> columns, int rowsBelow)
+{
+    const int first = startBelow();
+    const int width = static_cast<int>(columns.size()) + 2; // the number in front, room behind
+    for (int i = 0; i < columns[0].count; ++i) {
+        const int row = first + 1 + i % rowsBelow;
+        int column = i / rowsBelow * width;
+        auto* number = new QLabel(QString::number(i + 1), this);
+        rows_.push_back({columns[0].part, {number}});
+        grid_->addWidget(number, row, column++, Qt::AlignRight);
+        for (const ValueSeries& series : columns) {
+            if (i % rowsBelow == 0)
+                addCaptions({&series.caption, 1}, first, column);
+            if (i < series.count) {
+                ValueLabel* value = addValue(numberedName(series.value, i + 1), series.item + i);
+                rows_.back().widgets.push_back(value);
+                grid_->addWidget(value, row, column, Qt::AlignRight);
+            }
+            ++column;
+        }
+        grid_->setColumnStretch(column, 1);
+    }
+}
+
+void RecordGroup::addCells(const char* caption, std::span<const ValueCell> cells)
+{
+    const int row = startBelow();
+    int column = 0;
+    rows_.push_back({0, {addCaption(caption, 0)}});
+    grid_->addWidget(rows_.back().widgets.front(), row, column++);
+    for (const ValueCell& cell : cells) {
+        ValueLabel* value = addValue(QLatin1String(cell.value), cell.item);
+        rows_.back().widgets.push_back(value);
+        grid_->addWidget(value, row, column++, Qt::AlignRight);
+    }
+    grid_->setColumnStretch(column, 1);
+}
+
+void RecordGroup::setTitles(std::span<const QString> titles)
+{
+    for (std::size_t i = 0; i < std::min(titles.size(), titles_.size()); ++i)
+        titles_[i]->setText(titles[i]);
+}
+
+void RecordGroup::showRow(const Row& row, bool visible)
+{
+    for (QWidget* widget : row.widgets)
+        widget->setVisible(visible);
+}
+
+void RecordGroup::setPartVisible(int part, bool visible)
+{
+    bool any = false;
+    for (const Row& row : rows_) {
+        if (row.part == part)
+            showRow(row, visible);
+        any = any || !row.widgets.front()->isHidden();
+    }
+    setHidden(!any);
+}
+
+void RecordGroup::setRowsVisible(int count)
+{
+    int at = 0;
+    for (const Row& row : rows_)
+        showRow(row, at++ < count);
+}
+
+void RecordGroup::fill(const TmiPage_Zeta3& page)
+{
+    for (const Value& value : values_)
+        value.label->setText(text(page, value.item));
+}
+
+void RecordGroup::retranslate()
+{
+    setTitle(translated(titleKey_));
+    for (const Caption& caption : captions_)
+        caption.label->setText(numbered(caption.key, caption.number));
+    for (const Value& value : values_)
+        value.label->setTextWidth(widestText(fontMetrics(), value.item));
+}
+
+} // namespace vlk
