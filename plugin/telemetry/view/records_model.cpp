@@ -39,17 +39,19 @@ QHash<QString, double> ranksOf(QStringList words)
     return ranks;
 }
 
-// Whole digits and minutes of a coordinate, and units behind a number, are no numbers for QString.
+// A coordinate is no number for QString, nor is one with a unit behind it.
 bool readNumber(const QString& text, const CsvColumn& column, const TmiPage_Zeta3& page, double& number)
 {
-    const Rule& rule = kItems[column.item].rule();
-    if (isTime(column) || rule.shape == Shape::coordinate) {
+    const Shape shape = kItems[column.item].rule().shape;
+    if (isTime(column) || shape == Shape::coordinate) {
         number = page.isExtra() ? page.extra().number(column.element()) : page.number(column.element());
         return true;
     }
-    const int end = rule.unit ? text.lastIndexOf(QLatin1Char(' ')) : text.size();
     bool isNumber = false;
-    number = text.leftRef(end).toDouble(&isNumber);
+    number = text.toDouble(&isNumber);
+    // Binary digits of a user parameter have blanks too.
+    if (!isNumber && shape != Shape::userParameter)
+        number = text.leftRef(text.lastIndexOf(QLatin1Char(' '))).toDouble(&isNumber);
     return isNumber;
 }
 
@@ -129,7 +131,8 @@ QVariant RecordsModel::data(const QModelIndex& index, int role) const
 
 QVariant RecordsModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (role != Qt::DisplayRole || section < 0)
+    const bool isText = role == Qt::DisplayRole || (role == Qt::ToolTipRole && orientation == Qt::Horizontal);
+    if (!isText || section < 0)
         return {};
     // The place in the file, as the browser counts it.
     if (orientation == Qt::Vertical)
