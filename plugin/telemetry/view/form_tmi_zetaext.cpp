@@ -58,11 +58,7 @@ VLK_Form_TMI_ZetaExt::VLK_Form_TMI_ZetaExt(EventPanel* panel, QWidget* parent)
     auto* grid = new QGridLayout(groupBox_NaviMain_);
     grid->setHorizontalSpacing(12);
     rows_.add(grid, kPlace);
-    auto* motion = new QGridLayout;
-    rows_.add(motion, kMotion);
-    motion->setRowStretch(motion->rowCount(), 1);
-    grid->addLayout(motion, 0, 2, grid->rowCount(), 1);
-    grid->setColumnStretch(2, 1);
+    rows_.add(grid, kMotion, 2);
 
     treeWidget_->setObjectName(QStringLiteral("treeWidget"));
     treeWidget_->setColumnCount(2);

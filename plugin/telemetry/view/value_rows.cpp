@@ -54,7 +54,9 @@ QStringList partsAroundValues(const QString& text)
 
 void ValueRows::add(QGridLayout* grid, std::span<const ValueRow> rows, int column)
 {
-    int at = grid->count() == 0 ? 0 : grid->rowCount();
+    int at = 0;
+    while (grid->itemAtPosition(at, column) != nullptr)
+        ++at;
     for (const ValueRow& row : rows) {
         const QString name = QString::fromLatin1(row.value);
         QLabel* caption = makeCaption(QString(name).replace(QLatin1String("_Value"), QLatin1String("_Text")));

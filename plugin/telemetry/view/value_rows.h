@@ -36,7 +36,7 @@ struct ValueRow
 class ValueRows
 {
 public:
-    // Appends the rows below what the grid holds, captions in `column`, values right of them.
+    // Appends the rows below what `column` of the grid holds, the values right of it.
     void add(QGridLayout* grid, std::span<const ValueRow> rows, int column = 0);
     void retranslate();
     void fill(const TmiPage_Zeta3& page);
