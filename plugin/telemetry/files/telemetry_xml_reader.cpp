@@ -146,23 +146,29 @@ void readPage(InputBuffer& input, std::string_view line, TelemetryPages& pages)
     }
 }
 
+void readTypes(std::string_view line, const TypeLine& row, TelemetryTitles& titles)
+{
+    const QString letters = textOf(attribute(line, "type")).leftJustified(row.count, QLatin1Char('u'));
+    for (int i = 0; i < row.count; ++i)
+        titles.userTypes[row.first + i] = letters[i];
+}
+
 void readTitle(std::string_view line, TelemetryTitles& titles)
 {
-    for (const TitleLine& row : kTitleLines) {
-        if (holdsTag(line, row.tag, " ")) {
-            titleOf(titles, row) = textOf(attribute(line, "title"));
-            return;
+    anyTag(line, [&](std::string_view rest) {
+        const auto begins = [&](const auto& row) { return rest.starts_with(row.tag); };
+        if (const auto* row = std::ranges::find_if(kTitleLines, begins); row != std::end(kTitleLines)) {
+            if (!rest.substr(row->tag.size()).starts_with(' '))
+                return false;
+            titleOf(titles, *row) = textOf(attribute(line, "title"));
+            return true;
         }
-    }
-    for (const TypeLine& row : kTypeLines) {
-        if (holdsTag(line, row.tag, "")) {
-            const QString letters =
-                textOf(attribute(line, "type")).leftJustified(row.count, QLatin1Char('u'));
-            for (int i = 0; i < row.count; ++i)
-                titles.userTypes[row.first + i] = letters[i];
-            return;
-        }
-    }
+        const auto* row = std::ranges::find_if(kTypeLines, begins);
+        if (row == std::end(kTypeLines))
+            return false;
+        readTypes(line, *row, titles);
+        return true;
+    });
 }
 
 } // namespace
