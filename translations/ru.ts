@@ -118,7 +118,7 @@
     <message id="tmift1_005"><translation>Соединение</translation></message>
     <message id="tmift1_009"><translation>Сервисы RCS/RFU</translation></message>
     <message id="tmift1_012"><translation>Путь, км</translation></message>
-    <message id="tmift1_013"><translation>Время прохождения, с</translation></message>
+    <message id="tmift1_013"><translation>Время в пути, с</translation></message>
     <message id="tmift1_014"><translation>Интервал, с</translation></message>
     <message id="tmift1_015"><translation>Достоверность, %</translation></message>
     <message id="tmift1_016"><translation>Последний участок пути</translation></message>
@@ -129,7 +129,7 @@
     <message id="tmift1_027"><translation>Приёмник</translation></message>
     <message id="tmift1_028"><translation>Спутников</translation></message>
     <message id="tmift1_029"><translation>Время координат</translation></message>
-    <message id="tmift1_030"><translation>Координаты достоверны</translation></message>
+    <message id="tmift1_030"><translation>Координаты верны</translation></message>
     <message id="tmift1_031"><translation>Широта</translation></message>
     <message id="tmift1_032"><translation>Долгота</translation></message>
     <message id="tmift1_033"><translation>Высота, м</translation></message>

@@ -2,20 +2,12 @@
 
 #include <QVBoxLayout>
 
-VLK_Form_Tmi_F3_Tab::VLK_Form_Tmi_F3_Tab(const char* titleKey, int columns, QWidget* parent)
-    : QWidget(parent), titleKey_(titleKey)
+VLK_Form_Tmi_F3_Tab::VLK_Form_Tmi_F3_Tab(const char* titleKey, QWidget* parent)
+    : QWidget(parent), titleKey_(titleKey), sideBySide_(new QHBoxLayout), layout_(new QVBoxLayout(this))
 {
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(6, 6, 6, 6);
-    auto* sideBySide = new QHBoxLayout;
-    layout->addLayout(sideBySide);
-    layout->addStretch();
-    for (int i = 0; i < columns; ++i) {
-        auto* column = new QVBoxLayout;
-        column->addStretch();
-        columns_.push_back(column);
-        sideBySide->addLayout(column, 1);
-    }
+    layout_->setContentsMargins(4, 4, 4, 4);
+    layout_->addLayout(sideBySide_);
+    layout_->addStretch();
 }
 
 QString VLK_Form_Tmi_F3_Tab::title() const
@@ -23,31 +15,109 @@ QString VLK_Form_Tmi_F3_Tab::title() const
     return tr(titleKey_);
 }
 
+vlk::RecordGroup* VLK_Form_Tmi_F3_Tab::makeGroup(const char* objectName, const char* titleKey)
+{
+    boxes_.push_back(new vlk::RecordGroup(objectName, titleKey, this));
+    return boxes_.back();
+}
+
 vlk::RecordGroup* VLK_Form_Tmi_F3_Tab::addGroup(int column, const char* objectName, const char* titleKey)
 {
-    auto* group = new vlk::RecordGroup(objectName, titleKey, this);
-    groups_.push_back(group);
-    columns_[column]->insertWidget(columns_[column]->count() - 1, group);
-    return group;
+    while (static_cast<int>(columns_.size()) <= column) {
+        columns_.push_back(new QVBoxLayout);
+        columns_.back()->addStretch();
+        sideBySide_->addLayout(columns_.back(), 1);
+    }
+    groups_.push_back({makeGroup(objectName, titleKey), column});
+    return groups_.back().box;
 }
 
 vlk::RecordGroup* VLK_Form_Tmi_F3_Tab::addWideGroup(const char* objectName, const char* titleKey)
 {
-    auto* group = new vlk::RecordGroup(objectName, titleKey, this);
-    groups_.push_back(group);
-    auto* column = qobject_cast<QVBoxLayout*>(layout());
-    column->insertWidget(column->count() - 1, group);
+    vlk::RecordGroup* group = makeGroup(objectName, titleKey);
+    layout_->insertWidget(layout_->count() - 1, group);
     return group;
+}
+
+void VLK_Form_Tmi_F3_Tab::setPartVisible(int part, bool visible)
+{
+    for (vlk::RecordGroup* group : boxes_)
+        group->setPartVisible(part, visible);
+}
+
+VLK_Form_Tmi_F3_Tab::Columns VLK_Form_Tmi_F3_Tab::placed(int columns) const
+{
+    Columns result(columns);
+    std::vector<int> heights(columns);
+    for (const bool hasRoom : {true, false}) {
+        for (const Group& group : groups_) {
+            if ((group.column < columns) != hasRoom)
+                continue;
+            const auto shortest = std::ranges::min_element(heights) - heights.begin();
+            const auto column = hasRoom ? group.column : shortest;
+            result[column].push_back(group.box);
+            if (!group.box->isHidden())
+                heights[column] += group.box->minimumSizeHint().height();
+        }
+    }
+    return result;
+}
+
+int VLK_Form_Tmi_F3_Tab::neededWidth(const Columns& columns) const
+{
+    const QMargins margins = layout_->contentsMargins();
+    int width = margins.left() + margins.right();
+    for (const std::vector<QWidget*>& column : columns) {
+        int widest = 0;
+        for (const QWidget* box : column) {
+            if (!box->isHidden())
+                widest = std::max(widest, box->minimumSizeHint().width());
+        }
+        width += widest + sideBySide_->spacing();
+    }
+    return width;
+}
+
+void VLK_Form_Tmi_F3_Tab::arrange(int width)
+{
+    width_ = width;
+    auto count = static_cast<int>(columns_.size());
+    Columns columns = placed(count);
+    while (count > 1 && neededWidth(columns) > width)
+        columns = placed(--count);
+    if (columns == shown_)
+        return;
+    for (QVBoxLayout* column : columns_) {
+        while (column->count() > 1)
+            delete column->takeAt(0);
+    }
+    for (int i = 0; i < static_cast<int>(columns_.size()); ++i) {
+        sideBySide_->setStretch(i, i < count ? 1 : 0);
+        for (int at = 0; i < count && at < static_cast<int>(columns[i].size()); ++at)
+            columns_[i]->insertWidget(at, columns[i][at]);
+    }
+    shown_ = std::move(columns);
 }
 
 void VLK_Form_Tmi_F3_Tab::fill(const TmiPage_Zeta3& page)
 {
-    for (vlk::RecordGroup* group : groups_)
+    for (vlk::RecordGroup* group : boxes_)
         group->fill(page);
 }
 
 void VLK_Form_Tmi_F3_Tab::retranslate()
 {
-    for (vlk::RecordGroup* group : groups_)
+    for (vlk::RecordGroup* group : boxes_)
         group->retranslate();
+    alignCaptions();
+    arrange(width_);
+}
+
+void VLK_Form_Tmi_F3_Tab::alignCaptions()
+{
+    std::vector<int> widths(columns_.size());
+    for (const Group& group : groups_)
+        widths[group.column] = std::max(widths[group.column], group.box->captionWidth());
+    for (const Group& group : groups_)
+        group.box->setCaptionWidth(widths[group.column]);
 }

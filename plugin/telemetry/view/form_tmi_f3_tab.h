@@ -1,7 +1,7 @@
 #pragma once
 
-// A tab of values of a telemetry record of protocol 3.0: groups side by side in columns. It knows neither a
-// window nor a tracker; whoever has a decoded record can show it.
+// A tab of values of a telemetry record of protocol 3.0: groups side by side in columns, as many of them as
+// the window has room for. It knows neither a window nor a tracker; whoever has a decoded record can show it.
 
 #include "telemetry/view/record_group.h"
 
@@ -9,6 +9,7 @@
 
 #include <vector>
 
+class QHBoxLayout;
 class QVBoxLayout;
 
 class VLK_Form_Tmi_F3_Tab : public QWidget
@@ -21,17 +22,38 @@ public:
     virtual void fill(const TmiPage_Zeta3& page);
     virtual void retranslate();
 
-protected:
-    VLK_Form_Tmi_F3_Tab(const char* titleKey, int columns, QWidget* parent);
+    // In this many pixels.
+    void arrange(int width);
 
-    // Below the groups that the column holds.
+protected:
+    VLK_Form_Tmi_F3_Tab(const char* titleKey, QWidget* parent);
+
+    // Below the other groups of its column, which are counted from 0. In a narrow window a column that has no
+    // room continues the shortest one.
     vlk::RecordGroup* addGroup(int column, const char* objectName, const char* titleKey);
-    // Below the columns.
+    // Below all columns.
     vlk::RecordGroup* addWideGroup(const char* objectName, const char* titleKey);
-    const std::vector<vlk::RecordGroup*>& groups() const { return groups_; }
+    void setPartVisible(int part, bool visible);
 
 private:
+    struct Group
+    {
+        vlk::RecordGroup* box;
+        int column;
+    };
+    using Columns = std::vector<std::vector<QWidget*>>;
+
+    vlk::RecordGroup* makeGroup(const char* objectName, const char* titleKey);
+    Columns placed(int columns) const;
+    void alignCaptions();
+    int neededWidth(const Columns& columns) const;
+
     const char* titleKey_;
+    int width_ = 0;
+    Columns shown_;
+    std::vector<vlk::RecordGroup*> boxes_;
+    std::vector<Group> groups_;
     std::vector<QVBoxLayout*> columns_;
-    std::vector<vlk::RecordGroup*> groups_;
+    QHBoxLayout* sideBySide_;
+    QVBoxLayout* layout_;
 };

@@ -45,7 +45,7 @@ constexpr ValueSeries kThresholds[] = {
 } // namespace
 
 VLK_Form_Tmi_F3_Tab_Accel::VLK_Form_Tmi_F3_Tab_Accel(QWidget* parent)
-    : VLK_Form_Tmi_F3_Tab("tmift3_001", 2, parent)
+    : VLK_Form_Tmi_F3_Tab("tmift3_001", parent)
 {
     addGroup(0, "groupBox_Accel", "tmizta_142")->addList(kDevice);
     addGroup(0, "groupBox_SH", "tmift3_002")->addList(kShocks);

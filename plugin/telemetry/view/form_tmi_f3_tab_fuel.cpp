@@ -5,11 +5,11 @@ using namespace vlk;
 namespace {
 
 constexpr ValueSeries kRs232[] = {
-    {"label_RS232_Level_Fuel_1", "tmizta_163", item("LevelRS232")},
+    {"label_RS232_Level_Fuel_1", "tmift1_056", item("LevelRS232")},
 };
 
 constexpr ValueSeries kRs485[] = {
-    {"label_RS485_Level_Fuel_%1", "tmizta_163", item("LevelRS485_1"), 16},
+    {"label_RS485_Level_Fuel_%1", "tmift1_056", item("LevelRS485_1"), 16},
     {"label_RS485_Temp_Fuel_%1", "tmift4_004", item("TempRS485_1"), 16},
     {"label_RS485_Freq_Fuel_%1", "tmift4_005", item("RS485Freq1"), 16},
 };
@@ -42,7 +42,7 @@ constexpr ValueTableRow<2> kChamberRows[] = {
 } // namespace
 
 VLK_Form_Tmi_F3_Tab_Fuel::VLK_Form_Tmi_F3_Tab_Fuel(QWidget* parent)
-    : VLK_Form_Tmi_F3_Tab("tmift4_001", 2, parent)
+    : VLK_Form_Tmi_F3_Tab("tmift4_001", parent)
 {
     addGroup(0, "groupBox_RS485_Fuel", "tmift4_003")->addColumns(kRs485);
     addGroup(1, "groupBox_RS232_Fuel", "tmift4_002")->addList(kRs232);

@@ -5,6 +5,7 @@
 
 #include <QHBoxLayout>
 #include <QInputDialog>
+#include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -125,7 +126,7 @@ constexpr ValueSeries kGeofences[] = {
 } // namespace
 
 VLK_Form_Tmi_F3_Tab_Main::VLK_Form_Tmi_F3_Tab_Main(QWidget* parent)
-    : VLK_Form_Tmi_F3_Tab("tmift1_001", 3, parent), level_(new QProgressBar), sim1_(new QRadioButton),
+    : VLK_Form_Tmi_F3_Tab("tmift1_001", parent), level_(new QProgressBar), sim1_(new QRadioButton),
       sim2_(new QRadioButton), run_(new QPushButton)
 {
     addGroup(0, "groupBox_Device", "tmift1_002")->addList(kDevice);
@@ -157,12 +158,15 @@ void VLK_Form_Tmi_F3_Tab_Main::addGsm()
     cards->setObjectName(QStringLiteral("widget_Sim_Value"));
     auto* row = new QHBoxLayout(cards);
     row->setContentsMargins(0, 0, 0, 0);
+    int number = 1;
     for (QRadioButton* card : {sim1_, sim2_}) {
-        card->setObjectName(QStringLiteral("radioButton_Sim_%1").arg(card == sim1_ ? 1 : 2));
-        card->setText(card == sim1_ ? QStringLiteral("1") : QStringLiteral("2"));
+        card->setObjectName(QStringLiteral("radioButton_Sim_%1").arg(number));
         card->setAutoExclusive(false);
         card->setEnabled(false);
+        card->setAccessibleName(QStringLiteral("SIM %1").arg(number));
         row->addWidget(card);
+        row->addWidget(new QLabel(QString::number(number)));
+        ++number;
     }
     row->addStretch();
     group->addRow("tmizta_135", cards);
@@ -182,12 +186,6 @@ void VLK_Form_Tmi_F3_Tab_Main::addNavigation()
 QWidget* VLK_Form_Tmi_F3_Tab_Main::commands() const
 {
     return run_;
-}
-
-void VLK_Form_Tmi_F3_Tab_Main::setPartVisible(Part part, bool visible)
-{
-    for (RecordGroup* group : groups())
-        group->setPartVisible(part, visible);
 }
 
 void VLK_Form_Tmi_F3_Tab_Main::fill(const TmiPage_Zeta3& page)

@@ -29,7 +29,7 @@ public:
 
     explicit VLK_Form_Tmi_F3_Tab_Main(QWidget* parent = nullptr);
 
-    void setPartVisible(Part part, bool visible);
+    using VLK_Form_Tmi_F3_Tab::setPartVisible;
     QWidget* commands() const;
     void fill(const TmiPage_Zeta3& page) override;
     void retranslate() override;

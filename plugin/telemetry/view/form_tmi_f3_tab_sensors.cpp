@@ -40,7 +40,7 @@ constexpr ValueSeries kPrecise[] = {
 } // namespace
 
 VLK_Form_Tmi_F3_Tab_Sensors::VLK_Form_Tmi_F3_Tab_Sensors(QWidget* parent)
-    : VLK_Form_Tmi_F3_Tab("tmift2_001", 3, parent), commands_(new QWidget), output_(new VLK_ComboBox),
+    : VLK_Form_Tmi_F3_Tab("tmift2_001", parent), commands_(new QWidget), output_(new VLK_ComboBox),
       on_(new QPushButton), off_(new QPushButton)
 {
     addGroup(0, "groupBox_Analog", "tmift2_002")->addList(kAnalog);

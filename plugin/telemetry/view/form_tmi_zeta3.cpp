@@ -11,6 +11,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 using namespace vlk;
@@ -26,6 +27,29 @@ using Main = VLK_Form_Tmi_F3_Tab_Main;
 constexpr Main::Part kAbsent[] = {Main::Evacuation,    Main::WiFi,     Main::Iridium,
                                   Main::OpenSensor,    Main::Motochas, Main::MotochasLoad,
                                   Main::ComplexEvents, Main::NaviExt,  Main::Geo};
+
+// Tells its tab how much room there is; that for the scroll bar is always kept, so that its coming and going
+// does not rearrange the tab.
+class TabArea : public QScrollArea
+{
+public:
+    explicit TabArea(VLK_Form_Tmi_F3_Tab* tab) : tab_(tab)
+    {
+        setWidgetResizable(true);
+        setFrameShape(QFrame::NoFrame);
+        setWidget(tab);
+    }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override
+    {
+        tab_->arrange(width() - verticalScrollBar()->sizeHint().width());
+        QScrollArea::resizeEvent(event);
+    }
+
+private:
+    VLK_Form_Tmi_F3_Tab* tab_;
+};
 
 } // namespace
 
@@ -55,11 +79,7 @@ VLK_Form_TMI_Zeta3::VLK_Form_TMI_Zeta3(EventPanel* panel, QWidget* parent)
 
 void VLK_Form_TMI_Zeta3::addTab(VLK_Form_Tmi_F3_Tab* tab)
 {
-    auto* area = new QScrollArea;
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidget(tab);
-    const int index = tabWidget_->addTab(area, {});
+    const int index = tabWidget_->addTab(new TabArea(tab), {});
     menu_->addAction(new VLK_MenuAction({}, index, menu_));
     tabs_.push_back(tab);
 }

@@ -11,7 +11,11 @@ namespace vlk {
 
 namespace {
 
-constexpr int kTitleCharacters = 18;
+// Of a name that the user gave.
+constexpr int kLeastCharacters = 12;
+constexpr int kMostCharacters = 24;
+constexpr int kListSpacing = 8;
+constexpr int kTableSpacing = 14;
 constexpr int kColumnsOfList = 4; // caption, title, value, room
 
 QString translated(const char* key)
@@ -49,8 +53,8 @@ RecordGroup::RecordGroup(const char* objectName, const char* titleKey, QWidget* 
     : QGroupBox(parent), titleKey_(titleKey), grid_(new QGridLayout(this))
 {
     setObjectName(QLatin1String(objectName));
-    grid_->setContentsMargins(8, 4, 8, 6);
-    grid_->setHorizontalSpacing(10);
+    grid_->setContentsMargins(6, 4, 4, 6);
+    grid_->setHorizontalSpacing(kListSpacing);
     grid_->setVerticalSpacing(3);
 }
 
@@ -92,10 +96,11 @@ void RecordGroup::addListRow(const ValueSeries& series, int index, int row, int 
     grid_->addWidget(pair.widgets[1], row, column + 2);
     if (series.title != nullptr) {
         auto* title = new ValueLabel(numberedName(series.title, number), this);
-        title->setTextWidth(fontMetrics().averageCharWidth() * kTitleCharacters);
+        title->setTextWidths(kLeastCharacters, kMostCharacters);
         titles_.push_back(title);
         pair.widgets.push_back(title);
         grid_->addWidget(title, row, column + 1);
+        grid_->setColumnStretch(column + 1, kMostCharacters);
     }
 }
 
@@ -110,6 +115,7 @@ void RecordGroup::addWideRow(const ValueSeries& value)
 void RecordGroup::addList(std::span<const ValueSeries> list, int rowsBelow)
 {
     const int first = startBelow();
+    isPlainList_ = rowsBelow == kAllRows;
     int at = 0;
     for (const ValueSeries& series : list) {
         for (int i = 0; i < series.count; ++i, ++at)
@@ -127,7 +133,8 @@ void RecordGroup::addRow(const char* captionKey, QWidget* widget)
 
 void RecordGroup::addCommand(QWidget* widget)
 {
-    grid_->addWidget(widget, startBelow(), 0, 1, kColumnsOfList, Qt::AlignLeft);
+    const int column = titles_.empty() ? 2 : 0;
+    grid_->addWidget(widget, startBelow(), column, 1, kColumnsOfList - column, Qt::AlignLeft);
 }
 
 void RecordGroup::addCaptions(std::span<const char* const> keys, int row, int column)
@@ -138,6 +145,7 @@ void RecordGroup::addCaptions(std::span<const char* const> keys, int row, int co
 
 void RecordGroup::addColumns(std::span<const ValueSeries> columns, int rowsBelow)
 {
+    grid_->setHorizontalSpacing(kTableSpacing);
     const int first = startBelow();
     const int width = static_cast<int>(columns.size()) + 2; // the number in front, room behind
     for (int i = 0; i < columns[0].count; ++i) {
@@ -152,7 +160,7 @@ void RecordGroup::addColumns(std::span<const ValueSeries> columns, int rowsBelow
             if (i < series.count) {
                 ValueLabel* value = addValue(numberedName(series.value, i + 1), series.item + i);
                 rows_.back().widgets.push_back(value);
-                grid_->addWidget(value, row, column, Qt::AlignRight);
+                placeInTable(value, row, column);
             }
             ++column;
         }
@@ -169,9 +177,31 @@ void RecordGroup::addCells(const char* caption, std::span<const ValueCell> cells
     for (const ValueCell& cell : cells) {
         ValueLabel* value = addValue(QLatin1String(cell.value), cell.item);
         rows_.back().widgets.push_back(value);
-        grid_->addWidget(value, row, column++, Qt::AlignRight);
+        placeInTable(value, row, column++);
     }
     grid_->setColumnStretch(column, 1);
+}
+
+void RecordGroup::placeInTable(ValueLabel* value, int row, int column)
+{
+    value->setAlignment(Qt::AlignRight);
+    grid_->addWidget(value, row, column, Qt::AlignRight);
+}
+
+int RecordGroup::captionWidth() const
+{
+    int widest = 0;
+    for (const Row& row : rows_) {
+        if (isPlainList_ && !row.widgets.front()->isHidden())
+            widest = std::max(widest, row.widgets.front()->sizeHint().width());
+    }
+    return widest;
+}
+
+void RecordGroup::setCaptionWidth(int width)
+{
+    if (isPlainList_)
+        grid_->setColumnMinimumWidth(0, width);
 }
 
 void RecordGroup::setTitles(std::span<const QString> titles)
@@ -212,7 +242,8 @@ void RecordGroup::fill(const TmiPage_Zeta3& page)
 
 void RecordGroup::retranslate()
 {
-    setTitle(translated(titleKey_));
+    // Some styles measure a title some pixels too short; the blanks take them.
+    setTitle(translated(titleKey_) + QLatin1String("  "));
     for (const Caption& caption : captions_)
         caption.label->setText(numbered(caption.key, caption.number));
     for (const Value& value : values_)

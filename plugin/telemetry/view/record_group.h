@@ -60,7 +60,7 @@ public:
     void addList(std::span<const ValueSeries> list, int rowsBelow = kAllRows);
     // A widget that is no label, under a caption of its own.
     void addRow(const char* captionKey, QWidget* widget);
-    // Controls across the group.
+    // Controls below the values, across the group if that has names.
     void addCommand(QWidget* widget);
     // A value that takes the room of all columns of a table.
     void addWideRow(const ValueSeries& value);
@@ -81,6 +81,10 @@ public:
     void setPartVisible(int part, bool visible);
     // The first rows only.
     void setRowsVisible(int count);
+
+    // Of the captions of a plain list, else 0. Lists below each other share the widest.
+    int captionWidth() const;
+    void setCaptionWidth(int width);
 
     void fill(const TmiPage_Zeta3& page);
     void retranslate();
@@ -112,9 +116,11 @@ private:
     ValueLabel* addValue(const QString& objectName, ItemIndex item);
     void addListRow(const ValueSeries& series, int index, int row, int column);
     Row& addPair(const ValueSeries& series, int number);
+    void placeInTable(ValueLabel* value, int row, int column);
     void showRow(const Row& row, bool visible);
 
     const char* titleKey_;
+    bool isPlainList_ = false;
     QGridLayout* grid_;
     std::vector<Caption> captions_;
     std::vector<Value> values_;

@@ -16,6 +16,15 @@ void ValueLabel::setTextWidth(int pixels)
     setFixedSize(pixels + 2, fontMetrics().height());
 }
 
+void ValueLabel::setTextWidths(int leastCharacters, int mostCharacters)
+{
+    const int character = fontMetrics().averageCharWidth();
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    setMinimumWidth(character * leastCharacters);
+    setMaximumWidth(character * mostCharacters);
+    setFixedHeight(fontMetrics().height());
+}
+
 bool ValueLabel::fits() const
 {
     return fontMetrics().horizontalAdvance(text()) <= width();

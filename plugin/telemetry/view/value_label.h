@@ -14,6 +14,8 @@ public:
 
     // Wide enough for texts of that many pixels.
     void setTextWidth(int pixels);
+    // Within these average characters, as much as there is room for.
+    void setTextWidths(int leastCharacters, int mostCharacters);
 
 protected:
     bool event(QEvent* event) override;

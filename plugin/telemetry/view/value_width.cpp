@@ -29,7 +29,7 @@ QStringList longTexts(const Rule& rule, const Element& element)
         texts << longestNumber(rule, element, rule.decimals);
         break;
     case Shape::general:
-        texts << QStringLiteral("-00000.00");
+        texts << QStringLiteral("-0.00000e+00");
         break;
     case Shape::word:
     case Shape::twoState:
@@ -69,12 +69,6 @@ int widestText(const QFontMetrics& font, ItemIndex item)
     for (const QString& text : longTexts(kItems[item].rule(), kElements[kItems[item].element]))
         widest = std::max(widest, font.horizontalAdvance(text));
     return widest;
-}
-
-bool isNumber(ItemIndex item)
-{
-    const Shape shape = kItems[item].rule().shape;
-    return shape == Shape::decimal || shape == Shape::fixed || shape == Shape::general;
 }
 
 } // namespace vlk

@@ -12,7 +12,4 @@ namespace vlk {
 // before the point.
 int widestText(const QFontMetrics& font, ItemIndex item);
 
-// A number, which a column aligns at its end.
-bool isNumber(ItemIndex item);
-
 } // namespace vlk
