@@ -16,8 +16,11 @@ bool isTime(const CsvColumn& column)
     return shape == Shape::zonedTime || shape == Shape::localTime || shape == Shape::dateTime;
 }
 
+// Events have words in place of their codes.
 bool isNumeric(const CsvColumn& column)
 {
+    if (column.element() == element("Code"))
+        return false;
     const Shape shape = kItems[column.item].rule().shape;
     return shape == Shape::decimal || shape == Shape::fixed || shape == Shape::general ||
            shape == Shape::coordinate || shape == Shape::userParameter;

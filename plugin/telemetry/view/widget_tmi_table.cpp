@@ -16,7 +16,24 @@ namespace {
 constexpr int kWidth = 1024;
 constexpr int kHeight = 680;
 constexpr int kWidestColumn = 260;
+constexpr int kHeadingLines = 2;
+constexpr int kCellPadding = 6;
 constexpr int kSamples = 8; // rows spread over the file that a column is measured by
+
+// Of a heading that is broken at its blanks into the lines that there are.
+int headingWidth(const QString& heading, const QFontMetrics& metrics)
+{
+    int width = metrics.horizontalAdvance(heading) / kHeadingLines;
+    for (const QString& word : heading.split(QLatin1Char(' ')))
+        width = std::max(width, metrics.horizontalAdvance(word));
+    const auto lines = [&] {
+        return metrics.boundingRect(0, 0, width, 0, Qt::TextWordWrap, heading).height() /
+               metrics.lineSpacing();
+    };
+    while (width < kWidestColumn && lines() > kHeadingLines)
+        width += metrics.averageCharWidth();
+    return width;
+}
 
 } // namespace
 
@@ -31,10 +48,16 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
     table_->setWordWrap(false);
     table_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    table_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    QHeaderView* const headings = table_->horizontalHeader();
+    headings->setDefaultAlignment(Qt::AlignCenter | static_cast<Qt::Alignment>(Qt::TextWordWrap));
+    headings->setMinimumHeight(kHeadingLines * fontMetrics().lineSpacing() + kCellPadding);
+    headings->setTextElideMode(Qt::ElideRight);
+    headings->setHighlightSections(false);
+    headings->setSortIndicator(-1, Qt::AscendingOrder);
     table_->setSortingEnabled(true);
+    table_->verticalHeader()->setHighlightSections(false);
     table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    table_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kCellPadding);
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(table_);
@@ -76,7 +99,7 @@ void VLK_Widget_Tmi_Table::fitColumns()
     const int rows = model_->rowCount();
     for (int column = 0; column < model_->columnCount(); ++column) {
         int width =
-            metrics.horizontalAdvance(model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
+            headingWidth(model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(), metrics);
         for (int sample = 0; sample < std::min(rows, kSamples); ++sample) {
             const int row = static_cast<int>(qint64{rows} * sample / kSamples);
             const QString text = model_->index(row, column).data().toString();
