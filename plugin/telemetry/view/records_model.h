@@ -25,6 +25,9 @@ public:
     void setContents(vlk::TelemetryContents contents);
     void retranslate();
 
+    // What the entries of extra packets hold: the last column, if the file has packets.
+    bool isPacketData(int column) const { return column == static_cast<int>(columns_.size()); }
+
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -34,7 +37,6 @@ public:
 private:
     struct SortKey;
 
-    bool isPacketData(int column) const { return column == static_cast<int>(columns_.size()); }
     void makeHeadings();
     // Of the file's page, counted from 0.
     QString cellText(int page, int column) const;

@@ -51,7 +51,6 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
     QHeaderView* const headings = table_->horizontalHeader();
     headings->setDefaultAlignment(Qt::AlignCenter | static_cast<Qt::Alignment>(Qt::TextWordWrap));
     headings->setMinimumHeight(kHeadingLines * fontMetrics().lineSpacing() + kCellPadding);
-    headings->setTextElideMode(Qt::ElideRight);
     headings->setHighlightSections(false);
     headings->setSortIndicator(-1, Qt::AscendingOrder);
     table_->setSortingEnabled(true);
@@ -105,6 +104,8 @@ void VLK_Widget_Tmi_Table::fitColumns()
             const QString text = model_->index(row, column).data().toString();
             width = std::max(width, metrics.horizontalAdvance(text));
         }
-        table_->setColumnWidth(column, std::min(width + margin, kWidestColumn));
+        // Packets are rare, and the rows that were looked at may hold none.
+        const bool isWide = model_->isPacketData(column);
+        table_->setColumnWidth(column, isWide ? kWidestColumn : std::min(width + margin, kWidestColumn));
     }
 }
