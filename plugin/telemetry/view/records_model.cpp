@@ -42,18 +42,24 @@ QHash<QString, double> ranksOf(QStringList words)
     return ranks;
 }
 
-// A coordinate is no number for QString, nor is one with a unit behind it.
-bool readNumber(const QString& text, const CsvColumn& column, const TmiPage_Zeta3& page, double& number)
+// Times and coordinates are ordered by what is behind their texts, which would take long to make.
+bool sortsByValue(const CsvColumn& column)
 {
-    const Shape shape = kItems[column.item].rule().shape;
-    if (isTime(column) || shape == Shape::coordinate) {
-        number = page.isExtra() ? page.extra().number(column.element()) : page.number(column.element());
-        return true;
-    }
+    return isTime(column) || kItems[column.item].rule().shape == Shape::coordinate;
+}
+
+double valueOf(const TmiPage_Zeta3& page, const CsvColumn& column)
+{
+    return page.isExtra() ? page.extra().number(column.element()) : page.number(column.element());
+}
+
+// A number with or without a unit behind it.
+bool readNumber(const QString& text, const CsvColumn& column, double& number)
+{
     bool isNumber = false;
     number = text.toDouble(&isNumber);
     // Binary digits of a user parameter have blanks too.
-    if (!isNumber && shape != Shape::userParameter)
+    if (!isNumber && kItems[column.item].rule().shape != Shape::userParameter)
         number = text.leftRef(text.lastIndexOf(QLatin1Char(' '))).toDouble(&isNumber);
     return isNumber;
 }
@@ -157,7 +163,7 @@ QString RecordsModel::cellText(int page, int column) const
     if (!holds(record, shown))
         return {};
     if (shown.element() == element("Code")) {
-        const QString event = eventText(codeOf(record));
+        QString event = eventText(codeOf(record));
         if (!event.isEmpty())
             return event;
     }
@@ -173,6 +179,14 @@ QString RecordsModel::eventText(quint16 code) const
 std::vector<RecordsModel::SortKey> RecordsModel::sortKeys(int column) const
 {
     std::vector<SortKey> keys(pages_.size());
+    const CsvColumn* const shown = isPacketData(column) ? nullptr : &columns_[column];
+    if (shown != nullptr && sortsByValue(*shown)) {
+        for (std::size_t page = 0; page < pages_.size(); ++page) {
+            if (holds(*pages_[page], *shown))
+                keys[page] = {SortKey::Number, valueOf(*pages_[page], *shown)};
+        }
+        return keys;
+    }
     QHash<QString, double> words;
     std::vector<QString> texts(pages_.size());
     for (std::size_t page = 0; page < pages_.size(); ++page) {
@@ -180,8 +194,7 @@ std::vector<RecordsModel::SortKey> RecordsModel::sortKeys(int column) const
         SortKey& key = keys[page];
         if (texts[page].isEmpty())
             continue;
-        const bool isNumber =
-            !isPacketData(column) && readNumber(texts[page], columns_[column], *pages_[page], key.value);
+        const bool isNumber = shown != nullptr && readNumber(texts[page], *shown, key.value);
         key.kind = isNumber ? SortKey::Number : SortKey::Word;
         if (!isNumber)
             words.insert(texts[page], 0);
