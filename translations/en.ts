@@ -136,8 +136,8 @@
     <message id="tmift1_034"><translation>Speed, km/h</translation></message>
     <message id="tmift1_035"><translation>Course, °</translation></message>
     <message id="tmift1_036"><translation>Mileage, km</translation></message>
-    <message id="tmift1_037"><translation>Last segment&lt;val&gt;km, moving&lt;val&gt;of&lt;val&gt;s</translation></message>
-    <message id="tmift1_038"><translation>Segment reliability</translation></message>
+    <message id="tmift1_037"><translation>Last segment&lt;val&gt;km in&lt;val&gt;of&lt;val&gt;s</translation></message>
+    <message id="tmift1_038"><translation>Reliability</translation></message>
     <message id="tmift1_040"><translation>GLONASS</translation></message>
     <message id="tmift1_041"><translation>GPS</translation></message>
     <message id="tmift1_042"><translation>Galileo</translation></message>
@@ -175,8 +175,8 @@
     <message id="tmift2_017"><translation>Sensor</translation></message>
     <message id="tmift2_018"><translation>High-precision sensors</translation></message>
     <message id="tmift2_019"><translation>Humidity</translation></message>
-    <message id="tmift2_022"><translation>Backup supply, V</translation></message>
-    <message id="tmift2_023"><translation>Analogue input 3&lt;val&gt;V</translation></message>
+    <message id="tmift2_022"><translation>Backup, V</translation></message>
+    <message id="tmift2_023"><translation>Input Ain3&lt;val&gt;V</translation></message>
     <message id="tmift3_001"><translation>Accelerometer</translation></message>
     <message id="tmift3_002"><translation>Hits and movement</translation></message>
     <message id="tmift3_003"><translation>Calibration</translation></message>

@@ -4,6 +4,7 @@
 #include "window/installed_files.h"
 #include "window/line_icon.h"
 #include "window/settings.h"
+#include "window/telemetry_tour.h"
 #include "window/tour.h"
 
 #include <QApplication>
@@ -48,6 +49,7 @@ bool runTour(WorkbenchWindow& window, const QString& folder)
 {
     Tour tour(window, folder);
     tour.add(vlk::configurationTour());
+    tour.add(vlk::telemetryTour());
     return tour.run();
 }
 

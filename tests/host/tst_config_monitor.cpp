@@ -20,12 +20,21 @@ void record(void* /*device*/, std::uint32_t id, void* p1, void* /*p2*/)
 }
 } // namespace
 
+namespace {
+// As in the library, the device and its windows last for the process.
+VLK_Device_R7106& device()
+{
+    static VLK_Device_R7106 onlyOne;
+    return onlyOne;
+}
+} // namespace
+
 class ConfigMonitorTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { device_.initialize(&record); }
+    void initTestCase() { device().initialize(&record); }
     void init();
     void pollsTheCurrentTab();
     void linesGoOnByAnswer();
@@ -38,7 +47,6 @@ private Q_SLOTS:
 private:
     QVector<Message> take() { return std::exchange(sent, {}); }
 
-    VLK_Device_R7106 device_;
     Tab tab_ = Tab::Other;
     bool active_ = true;
     int stopped_ = 0;

@@ -20,6 +20,15 @@ QString keyText(CXmlSection* root, const QString& section, const QString& group,
 
 } // namespace
 
+namespace {
+// As in the library, the device and its windows last for the process.
+VLK_Device_R7106& device()
+{
+    static VLK_Device_R7106 onlyOne;
+    return onlyOne;
+}
+} // namespace
+
 class PagesTest : public QObject
 {
     Q_OBJECT
@@ -44,13 +53,12 @@ private:
     template <class Page>
     void checkGroup(Page& page, const QString& section, const vlk::KeyGroup& group);
 
-    VLK_Device_R7106 device_;
     std::unique_ptr<VLK_Widget_Config_Full> window_;
 };
 
 void PagesTest::initTestCase()
 {
-    device_.initialize(nullptr);
+    device().initialize(nullptr);
     window_ = std::make_unique<VLK_Widget_Config_Full>();
 }
 

@@ -13,6 +13,15 @@
 
 using Values = QMap<QString, QString>; // "RULES/cnctType" to the text in the file
 
+namespace {
+// As in the library, the device and its windows last for the process.
+VLK_Device_R7106& device()
+{
+    static VLK_Device_R7106 onlyOne;
+    return onlyOne;
+}
+} // namespace
+
 class TransferTest : public QObject
 {
     Q_OBJECT
@@ -64,14 +73,13 @@ private:
     QTreeWidget* apnTree() { return get<QTreeWidget>("treeWidget_ListApn"); }
     QTreeWidget* roamingTree() { return get<QTreeWidget>("treeWidget_List"); }
 
-    VLK_Device_R7106 device_;
     QTemporaryDir folder_;
     std::unique_ptr<VLK_Form_Config_Transfer> page_;
 };
 
 void TransferTest::initTestCase()
 {
-    device_.initialize(nullptr);
+    device().initialize(nullptr);
     QVERIFY(folder_.isValid());
 }
 

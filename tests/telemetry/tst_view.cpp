@@ -437,13 +437,15 @@ void ViewTest::extraEntries()
                                 "Unknow packet|0a ff 01  (size = 3 byte)",
                                 "RFID|18446744073709551615 (0xFFFFFFFFFFFFFFFF)",
                                 "Unknow packet|01 02  (size = 5 byte)"}));
-    QCOMPARE(child<QLabel>("label_Navi_State_Value")->text(), QString("tmizta_028"));
+    // The tabs have labels of the same names.
+    QWidget* const form = ScriptedHost::window("VLK_Form_TMI_ZetaExt");
+    QCOMPARE(host_.child<QLabel>(form, "label_Navi_State_Value")->text(), QString("tmizta_028"));
     const std::pair<const char*, const char*> values[] = {
         {"label_Navi_Count_Value", "11"},   {"label_Navi_Lat_Value", "0 -0.0002'"},
         {"label_Navi_Alt_Value", "183"},    {"label_Navi_Speed_Value", "10.00"},
         {"label_Navi_Course_Value", "270"}, {"label_Navi_Way_Value", "2.50"}};
     for (const auto& [name, value] : values)
-        QCOMPARE(text(name), QString(value));
+        QCOMPARE(host_.child<QLabel>(form, name)->text(), QString(value));
     QCOMPARE(text("label_Event_Code_Value"), QString("event 35"));
     QCOMPARE(text("label_Event_Mode_Alarm_Value"), QString("tmizta_004"));
 }

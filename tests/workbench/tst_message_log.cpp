@@ -45,6 +45,8 @@ class MessageLogTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // A line edit's clear button fades; the animation deletes itself at its end.
+    void cleanupTestCase() { QTest::qWait(500); }
     void describesParameters_data()
     {
         QTest::addColumn<Describe>("describe");

@@ -14,7 +14,7 @@ namespace vlk {
 class InputBuffer
 {
 public:
-    static constexpr std::size_t kCapacity = 256 * 1024;
+    static constexpr std::size_t kCapacity = 128 * 1024;
 
     explicit InputBuffer(QIODevice& device) : device_(device), bytes_(kCapacity) {}
 

@@ -38,8 +38,6 @@ struct FileDamage
     Kind kind;
     qint64 offset; // where in the file
     qint64 bytes;  // how many
-
-    bool operator==(const FileDamage&) const = default;
 };
 
 // What a file gives. The titles come from the XML form only, the damages, in the order in which they were

@@ -12,15 +12,6 @@ using namespace vlk;
 
 namespace {
 
-// Of the words "15:00:00 01.02.2025 (UTC +10)" and "4294967295".
-constexpr auto kWidestTime = "00:00:00 00.00.0000 (UTC +00)";
-constexpr auto kWidestNumber = "0000000000";
-
-int widthOf(const QLabel* label, const char* text)
-{
-    return label->fontMetrics().horizontalAdvance(QLatin1String(text));
-}
-
 template <ElementIndex index>
 int elementOf(const TmiPage_Zeta3& page)
 {
@@ -67,8 +58,8 @@ EventPanel::EventPanel(QWidget* parent)
     grid->setColumnStretch(4, 1);
     // The row of modes keeps its place while they are hidden.
     grid->setRowMinimumHeight(2, guard_->sizeHint().height());
-    grid->setColumnMinimumWidth(1, widthOf(number_, kWidestNumber));
-    grid->setColumnMinimumWidth(3, widthOf(time_, kWidestTime));
+    grid->setColumnMinimumWidth(1, number_->fontMetrics().horizontalAdvance(QStringLiteral("0000000000")));
+    grid->setColumnMinimumWidth(3, widthOfTime(time_));
 
     QPalette alarming = alarm_->palette();
     alarming.setColor(QPalette::WindowText, Qt::red);

@@ -109,15 +109,18 @@ void VLK_Form_Tmi_F3_Tab::retranslate()
 {
     for (vlk::RecordGroup* group : boxes_)
         group->retranslate();
-    alignCaptions();
+    alignLists();
     arrange(width_);
 }
 
-void VLK_Form_Tmi_F3_Tab::alignCaptions()
+void VLK_Form_Tmi_F3_Tab::alignLists()
 {
-    std::vector<int> widths(columns_.size());
+    std::vector<vlk::RecordGroup::Widths> columns(columns_.size());
+    for (const Group& group : groups_) {
+        const auto widths = group.box->listWidths();
+        auto& widest = columns[group.column];
+        widest = {std::max(widest.captions, widths.captions), std::max(widest.values, widths.values)};
+    }
     for (const Group& group : groups_)
-        widths[group.column] = std::max(widths[group.column], group.box->captionWidth());
-    for (const Group& group : groups_)
-        group.box->setCaptionWidth(widths[group.column]);
+        group.box->setListWidths(columns[group.column]);
 }

@@ -45,7 +45,7 @@ private:
 
     vlk::RecordGroup* makeGroup(const char* objectName, const char* titleKey);
     Columns placed(int columns) const;
-    void alignCaptions();
+    void alignLists();
     int neededWidth(const Columns& columns) const;
 
     const char* titleKey_;

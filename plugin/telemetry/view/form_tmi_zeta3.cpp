@@ -5,6 +5,7 @@
 #include "telemetry/view/form_tmi_f3_tab_fuel.h"
 #include "telemetry/view/form_tmi_f3_tab_main.h"
 #include "telemetry/view/form_tmi_f3_tab_sensors.h"
+#include "windows/input_guard.h"
 #include "windows/vlk_menuaction.h"
 #include "windows/vlk_tabwidget.h"
 
@@ -82,6 +83,7 @@ void VLK_Form_TMI_Zeta3::addTab(VLK_Form_Tmi_F3_Tab* tab)
     const int index = tabWidget_->addTab(new TabArea(tab), {});
     menu_->addAction(new VLK_MenuAction({}, index, menu_));
     tabs_.push_back(tab);
+    guardInputs(tab);
 }
 
 void VLK_Form_TMI_Zeta3::hideAbsentParts()

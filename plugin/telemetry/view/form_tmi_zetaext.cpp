@@ -65,7 +65,7 @@ VLK_Form_TMI_ZetaExt::VLK_Form_TMI_ZetaExt(EventPanel* panel, QWidget* parent)
     treeWidget_->setRootIsDecorated(false);
     treeWidget_->setAlternatingRowColors(true);
     treeWidget_->header()->setDefaultAlignment(Qt::AlignCenter);
-    treeWidget_->header()->setSectionResizeMode(QHeaderView::Stretch);
+    treeWidget_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(groupBox_NaviMain_);

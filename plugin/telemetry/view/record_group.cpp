@@ -188,20 +188,24 @@ void RecordGroup::placeInTable(ValueLabel* value, int row, int column)
     grid_->addWidget(value, row, column, Qt::AlignRight);
 }
 
-int RecordGroup::captionWidth() const
+RecordGroup::Widths RecordGroup::listWidths() const
 {
-    int widest = 0;
+    Widths widest;
     for (const Row& row : rows_) {
-        if (isPlainList_ && !row.widgets.front()->isHidden())
-            widest = std::max(widest, row.widgets.front()->sizeHint().width());
+        if (!isPlainList_ || row.widgets[0]->isHidden())
+            continue;
+        widest.captions = std::max(widest.captions, row.widgets[0]->sizeHint().width());
+        widest.values = std::max(widest.values, row.widgets[1]->minimumWidth());
     }
     return widest;
 }
 
-void RecordGroup::setCaptionWidth(int width)
+void RecordGroup::setListWidths(const Widths& widths)
 {
-    if (isPlainList_)
-        grid_->setColumnMinimumWidth(0, width);
+    if (!isPlainList_)
+        return;
+    grid_->setColumnMinimumWidth(0, widths.captions);
+    grid_->setColumnMinimumWidth(2, widths.values);
 }
 
 void RecordGroup::setTitles(std::span<const QString> titles)

@@ -82,9 +82,14 @@ public:
     // The first rows only.
     void setRowsVisible(int count);
 
-    // Of the captions of a plain list, else 0. Lists below each other share the widest.
-    int captionWidth() const;
-    void setCaptionWidth(int width);
+    // Of the captions and the values of a plain list, else 0. Lists below each other share the widest.
+    struct Widths
+    {
+        int captions = 0;
+        int values = 0;
+    };
+    Widths listWidths() const;
+    void setListWidths(const Widths& widths);
 
     void fill(const TmiPage_Zeta3& page);
     void retranslate();

@@ -57,6 +57,9 @@ private:
 QLabel* makeCaption(const QString& name);
 QLabel* makeValue(const QString& name);
 
+// The width of the longest event time in the label's font.
+int widthOfTime(const QLabel* label);
+
 // Captions and values in one line, each as wide as its text.
 QHBoxLayout* besideEachOther(std::initializer_list<QLabel*> labels);
 
