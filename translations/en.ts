@@ -227,6 +227,7 @@
     <message id="tmiw_028"><translation>1-Wire key</translation></message>
     <message id="tmiw_029"><translation>RFID tag</translation></message>
     <message id="tmiw_030"><translation>Read</translation></message>
+    <message id="tmiw_031"><translation>Stored telemetry</translation></message>
     <message id="tmiw_032"><translation>Question</translation></message>
     <message id="tmiw_033"><translation>Tachograph state</translation></message>
     <message id="tmiw_034"><translation>Driver card</translation></message>

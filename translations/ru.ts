@@ -227,6 +227,7 @@
     <message id="tmiw_028"><translation>Ключ 1-Wire</translation></message>
     <message id="tmiw_029"><translation>Метка RFID</translation></message>
     <message id="tmiw_030"><translation>Считать</translation></message>
+    <message id="tmiw_031"><translation>Сохранённая телеметрия</translation></message>
     <message id="tmiw_032"><translation>Запрос</translation></message>
     <message id="tmiw_033"><translation>Состояние тахографа</translation></message>
     <message id="tmiw_034"><translation>Карта водителя</translation></message>

@@ -1,5 +1,7 @@
 #include "host/device_r7106.h"
 
+#include "telemetry/view/widget_tmi_page.h"
+#include "telemetry/view/widget_tmi_table.h"
 #include "telemetry/view/widget_tmi_view.h"
 #include "windows/form_io_progress.h"
 #include "windows/form_param_about.h"
@@ -12,6 +14,20 @@ VLK_Device_R7106* vlkDevice = nullptr;
 namespace {
 
 constexpr std::int32_t version[] = {3, 3, 0, 2};
+
+// How a stored file is to be shown.
+enum StoredFileKind : std::int32_t { Browser = 0, Table = 1 };
+
+// The window shows before it reads: a large file takes a moment.
+template <class Window>
+void showFile(Window*& window, const QString& path)
+{
+    if (window == nullptr)
+        window = new Window;
+    window->show();
+    window->raise();
+    window->open(path);
+}
 
 // The record keeps its 538 bytes where pointers are wider than its 4-byte field: it then holds the low half.
 std::uint32_t token(const void* address)
@@ -157,6 +173,14 @@ void VLK_Device_R7106::openTelemetry(const QString& configurationPath)
     ensureTelemetryView()->open(configurationPath);
 }
 
+void VLK_Device_R7106::showStoredFile(const QString& path, std::int32_t kind)
+{
+    if (kind == Browser)
+        showFile(tmiPage_, path);
+    else if (kind == Table)
+        showFile(tmiTable_, path);
+}
+
 VLK_Widget_Tmi_View* VLK_Device_R7106::ensureTelemetryView()
 {
     if (!telemetryView_)
@@ -174,6 +198,8 @@ void VLK_Device_R7106::retranslate()
         configDialog_->retranslate();
     if (telemetryView_)
         telemetryView_->retranslate();
+    if (tmiPage_)
+        tmiPage_->retranslate();
 }
 
 void VLK_Device_R7106::closeWindows()

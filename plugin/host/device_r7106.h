@@ -13,6 +13,8 @@
 class VLK_Form_IO_Progress;
 class VLK_Form_Param_About;
 class VLK_Widget_Config;
+class VLK_Widget_Tmi_Page;
+class VLK_Widget_Tmi_Table;
 class VLK_Widget_Tmi_View;
 
 class VLK_Device_R7106 : public QObject
@@ -67,6 +69,7 @@ public:
     void detach();
     void openConfiguration(const vlk::OpenRequest& request);
     void openTelemetry(const QString& configurationPath);
+    void showStoredFile(const QString& path, std::int32_t kind);
     void retranslate();
     void closeWindows();
 
@@ -93,6 +96,8 @@ private:
     quint64 trackerMask_ = 0;
     VLK_Widget_Config* configDialog_ = nullptr;
     VLK_Widget_Tmi_View* telemetryView_ = nullptr;
+    VLK_Widget_Tmi_Page* tmiPage_ = nullptr;
+    VLK_Widget_Tmi_Table* tmiTable_ = nullptr;
     int hostMode_ = 0;
     char balanceUssd_[vlk::balanceUssdSize] = {};
 };

@@ -122,6 +122,12 @@ constexpr Entry table[] = {
     {Message::LineValues, &toShownConfig<&Full::takeLineValues, QByteArray>},
     {Message::OpenConfiguration, &withRecord<&VLK_Device_R7106::openConfiguration, vlk::OpenRequest>},
     {Message::OpenTelemetry, &withRecord<&VLK_Device_R7106::openTelemetry, QString>},
+    {Message::ShowStoredFile,
+     [](VLK_Device_R7106& device, const Parameters& parameters) {
+         if (parameters.p1 && parameters.p2)
+             device.showStoredFile(*static_cast<const QString*>(parameters.p1),
+                                   *static_cast<const std::int32_t*>(parameters.p2));
+     }},
     {Message::LiveKey,
      [](VLK_Device_R7106& device, const Parameters& parameters) {
          if (device.liveOwner() == 1 && device.telemetryView() && parameters.p1)

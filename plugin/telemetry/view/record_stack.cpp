@@ -13,7 +13,10 @@
 
 using namespace vlk;
 
-RecordStack::RecordStack(QStackedWidget* stack, EventPanel* panel) : stack_(stack), panel_(panel) {}
+RecordStack::RecordStack(QStackedWidget* stack, EventPanel* panel, bool live)
+    : stack_(stack), panel_(panel), live_(live)
+{
+}
 
 void RecordStack::showNothing()
 {
@@ -42,6 +45,16 @@ std::optional<quint32> RecordStack::showRecord(const QByteArray& record)
     default:
         return {};
     }
+}
+
+void RecordStack::showDecoded(const TmiPage_Zeta3& page)
+{
+    if (page.isExtra())
+        formIn(zetaExt_, ZetaExt).fill(page);
+    else
+        formIn(zeta3_, Zeta3).fill(page);
+    panel_->setRecord(page);
+    showPage(page.isExtra() ? ZetaExt : Zeta3);
 }
 
 void RecordStack::showKeyAnswer(const QByteArray& answer)
@@ -108,6 +121,7 @@ void RecordStack::prepareZeta3()
 {
     if (zeta3_ == nullptr)
         return;
+    zeta3_->setLive(live_);
     zeta3_->setTitles(titles_);
     zeta3_->setCapabilityMask(capabilityMask_);
     zeta3_->setCommandsEnabled(commandsEnabled_);

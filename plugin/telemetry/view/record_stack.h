@@ -12,6 +12,7 @@
 class EventPanel;
 class QStackedWidget;
 class QWidget;
+class TmiPage_Zeta3;
 class VLK_Form_TMI_Production;
 class VLK_Form_TMI_Zeta3;
 class VLK_Form_TMI_ZetaExt;
@@ -22,11 +23,14 @@ public:
     // The pages of `stack`, in this order.
     enum Page { Empty, Zeta1, Zeta2, Zeta3, ZetaExt, Production };
 
-    RecordStack(QStackedWidget* stack, EventPanel* panel);
+    // Without a tracker (`live` false) no form shows a control for one.
+    RecordStack(QStackedWidget* stack, EventPanel* panel, bool live = true);
 
     void showNothing();
     // A record from its type byte on. Gives its number; none, and nothing happens, if it is of no known kind.
     std::optional<quint32> showRecord(const QByteArray& record);
+    // A record or a packet that somebody else has decoded.
+    void showDecoded(const TmiPage_Zeta3& page);
     // The answer to the question for the last key, from its type byte on.
     void showKeyAnswer(const QByteArray& answer);
 
@@ -52,6 +56,7 @@ private:
 
     QStackedWidget* stack_;
     EventPanel* panel_;
+    bool live_;
     VLK_Form_TMI_Zeta3* zeta3_ = nullptr;
     VLK_Form_TMI_ZetaExt* zetaExt_ = nullptr;
     VLK_Form_TMI_Production* production_ = nullptr;

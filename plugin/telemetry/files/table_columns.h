@@ -1,0 +1,19 @@
+#pragma once
+
+// Which columns a table of telemetry has, and what stands in its last one. Text of a cell: csv_columns.h.
+
+#include "telemetry/files/csv_columns.h"
+#include "telemetry/files/telemetry_pages.h"
+
+namespace vlk {
+
+// The columns of the fields that any of the records has. Extra packets have no mask and ask for none.
+std::vector<CsvColumn> columnsOf(const TelemetryPages& pages);
+
+// Whether the table has the column of packet data, which stands behind all others, under "tmizta_359".
+bool hasPackets(const TelemetryPages& pages);
+
+// An entry of an extra packet in that column; empty for one of an unknown type.
+QString entryText(const ExtraEntry& entry);
+
+} // namespace vlk

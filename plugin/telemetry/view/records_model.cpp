@@ -1,0 +1,243 @@
+#include "telemetry/view/records_model.h"
+
+#include "host/requests.h"
+#include "telemetry/files/title_lines.h"
+
+#include <algorithm>
+#include <numeric>
+
+using namespace vlk;
+
+namespace {
+
+bool isTime(const CsvColumn& column)
+{
+    const Shape shape = kItems[column.item].rule().shape;
+    return shape == Shape::zonedTime || shape == Shape::localTime || shape == Shape::dateTime;
+}
+
+// Events have words in place of their codes.
+bool isNumeric(const CsvColumn& column)
+{
+    if (column.element() == element("Code"))
+        return false;
+    const Shape shape = kItems[column.item].rule().shape;
+    return shape == Shape::decimal || shape == Shape::fixed || shape == Shape::general ||
+           shape == Shape::coordinate || shape == Shape::userParameter;
+}
+
+bool holds(const TmiPage_Zeta3& page, const CsvColumn& column)
+{
+    return page.isExtra() ? isInPackets(column) : page.has(column.element());
+}
+
+// In the order of the alphabet, from 0 on.
+QHash<QString, double> ranksOf(QStringList words)
+{
+    std::sort(words.begin(), words.end(),
+              [](const QString& left, const QString& right) { return left.localeAwareCompare(right) < 0; });
+    QHash<QString, double> ranks;
+    for (const QString& word : std::as_const(words))
+        ranks.insert(word, ranks.size());
+    return ranks;
+}
+
+// Times and coordinates are ordered by what is behind their texts, which would take long to make.
+bool sortsByValue(const CsvColumn& column)
+{
+    return isTime(column) || kItems[column.item].rule().shape == Shape::coordinate;
+}
+
+double valueOf(const TmiPage_Zeta3& page, const CsvColumn& column)
+{
+    return page.isExtra() ? page.extra().number(column.element()) : page.number(column.element());
+}
+
+// A number with or without a unit behind it.
+bool readNumber(const QString& text, const CsvColumn& column, double& number)
+{
+    bool isNumber = false;
+    number = text.toDouble(&isNumber);
+    // Binary digits of a user parameter have blanks too.
+    if (!isNumber && kItems[column.item].rule().shape != Shape::userParameter)
+        number = text.leftRef(text.lastIndexOf(QLatin1Char(' '))).toDouble(&isNumber);
+    return isNumber;
+}
+
+} // namespace
+
+struct RecordsModel::SortKey
+{
+    enum Kind : quint8 { Number, Word, Empty };
+
+    Kind kind = Empty;
+    double value = 0;
+};
+
+void RecordsModel::setContents(TelemetryContents contents)
+{
+    beginResetModel();
+    pages_ = std::move(contents.pages);
+    userTypes_ = typeLetters(contents.titles).toLatin1().toStdString();
+    columns_ = columnsOf(pages_);
+    hasPackets_ = hasPackets(pages_);
+    order_.resize(pages_.size());
+    std::iota(order_.begin(), order_.end(), 0);
+    cells_.clear();
+    events_.clear();
+    makeHeadings();
+    endResetModel();
+}
+
+void RecordsModel::retranslate()
+{
+    cells_.clear();
+    events_.clear();
+    makeHeadings();
+    if (rowCount() == 0 || columnCount() == 0)
+        return;
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+    Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+}
+
+void RecordsModel::makeHeadings()
+{
+    headings_.clear();
+    for (const CsvColumn& column : columns_)
+        headings_ << headingText(column);
+    if (hasPackets_)
+        headings_ << Word("tmizta_359").text();
+}
+
+int RecordsModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(order_.size());
+}
+
+int RecordsModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : headings_.size();
+}
+
+QVariant RecordsModel::data(const QModelIndex& index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    if (role == Qt::TextAlignmentRole) {
+        const bool toTheRight = !isPacketData(index.column()) && isNumeric(columns_[index.column()]);
+        return static_cast<int>(Qt::AlignVCenter | (toTheRight ? Qt::AlignRight : Qt::AlignLeft));
+    }
+    if (role != Qt::DisplayRole)
+        return {};
+    const int page = order_[index.row()];
+    const quint64 key = static_cast<quint64>(page) << 32 | static_cast<quint32>(index.column());
+    if (const QString* known = cells_.object(key))
+        return *known;
+    const QString text = cellText(page, index.column());
+    cells_.insert(key, new QString(text));
+    return text;
+}
+
+QVariant RecordsModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    const bool isText = role == Qt::DisplayRole || (role == Qt::ToolTipRole && orientation == Qt::Horizontal);
+    if (!isText || section < 0)
+        return {};
+    // The place in the file, as the browser counts it.
+    if (orientation == Qt::Vertical)
+        return section < rowCount() ? QVariant(order_[section]) : QVariant();
+    return section < headings_.size() ? headings_[section] : QVariant();
+}
+
+QString RecordsModel::cellText(int page, int column) const
+{
+    const TmiPage_Zeta3& record = *pages_[page];
+    if (isPacketData(column)) {
+        QStringList entries;
+        if (record.isExtra())
+            record.extra().forEachEntry([&](const ExtraEntry& entry) { entries << entryText(entry); });
+        entries.removeAll(QString());
+        return entries.join(QLatin1String(", "));
+    }
+    const CsvColumn& shown = columns_[column];
+    if (!holds(record, shown))
+        return {};
+    if (shown.element() == element("Code")) {
+        QString event = eventText(codeOf(record));
+        if (!event.isEmpty())
+            return event;
+    }
+    return vlk::cellText(record, shown, {userTypes_});
+}
+
+QString RecordsModel::eventText(quint16 code) const
+{
+    const auto known = events_.constFind(code);
+    return known != events_.constEnd() ? *known : *events_.insert(code, requests::eventText(code));
+}
+
+std::vector<RecordsModel::SortKey> RecordsModel::sortKeys(int column) const
+{
+    std::vector<SortKey> keys(pages_.size());
+    const CsvColumn* const shown = isPacketData(column) ? nullptr : &columns_[column];
+    if (shown != nullptr && sortsByValue(*shown)) {
+        for (std::size_t page = 0; page < pages_.size(); ++page) {
+            if (holds(*pages_[page], *shown))
+                keys[page] = {SortKey::Number, valueOf(*pages_[page], *shown)};
+        }
+        return keys;
+    }
+    QHash<QString, double> words;
+    std::vector<QString> texts(pages_.size());
+    for (std::size_t page = 0; page < pages_.size(); ++page) {
+        texts[page] = cellText(static_cast<int>(page), column);
+        SortKey& key = keys[page];
+        if (texts[page].isEmpty())
+            continue;
+        const bool isNumber = shown != nullptr && readNumber(texts[page], *shown, key.value);
+        key.kind = isNumber ? SortKey::Number : SortKey::Word;
+        if (!isNumber)
+            words.insert(texts[page], 0);
+    }
+    words = ranksOf(words.keys());
+    for (std::size_t page = 0; page < pages_.size(); ++page) {
+        if (keys[page].kind == SortKey::Word)
+            keys[page].value = words.value(texts[page]);
+    }
+    return keys;
+}
+
+void RecordsModel::sort(int column, Qt::SortOrder order)
+{
+    if (column >= columnCount())
+        return;
+    Q_EMIT layoutAboutToBeChanged({}, QAbstractItemModel::VerticalSortHint);
+    const QModelIndexList before = persistentIndexList();
+    std::vector<int> pagesBefore;
+    for (const QModelIndex& index : before)
+        pagesBefore.push_back(order_[index.row()]);
+
+    std::iota(order_.begin(), order_.end(), 0);
+    if (column >= 0) {
+        const std::vector<SortKey> keys = sortKeys(column);
+        std::ranges::stable_sort(order_, [&](int leftPage, int rightPage) {
+            const SortKey& left = keys[leftPage];
+            const SortKey& right = keys[rightPage];
+            if (left.kind == SortKey::Empty || right.kind == SortKey::Empty)
+                return left.kind < right.kind && right.kind == SortKey::Empty;
+            const auto isLess = [](const SortKey& a, const SortKey& b) {
+                return std::pair(a.kind, a.value) < std::pair(b.kind, b.value);
+            };
+            return order == Qt::AscendingOrder ? isLess(left, right) : isLess(right, left);
+        });
+    }
+
+    std::vector<int> rowOf(order_.size());
+    for (std::size_t row = 0; row < order_.size(); ++row)
+        rowOf[order_[row]] = static_cast<int>(row);
+    QModelIndexList after;
+    for (int i = 0; i < before.size(); ++i)
+        after << index(rowOf[pagesBefore[i]], before[i].column());
+    changePersistentIndexList(before, after);
+    Q_EMIT layoutChanged({}, QAbstractItemModel::VerticalSortHint);
+}

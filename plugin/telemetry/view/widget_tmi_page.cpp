@@ -1,0 +1,165 @@
+#include "telemetry/view/widget_tmi_page.h"
+
+#include "ui_VLK_Designer_Widget_Tmi_Page.h"
+
+#include "host/requests.h"
+#include "telemetry/view/event_panel.h"
+#include "telemetry/view/stored_file.h"
+
+#include <algorithm>
+#include <limits>
+
+using namespace vlk;
+
+namespace {
+
+std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_Page> setUpUi(QDialog* window)
+{
+    auto ui = std::make_unique<Ui::VLK_Designer_Widget_Tmi_Page>();
+    ui->setupUi(window);
+    return ui;
+}
+
+// The positions span the numbers of the records, gaps included. Where numbers repeat or fall, there is a
+// position for each page at least.
+int lastPosition(const TelemetryPages& pages)
+{
+    const qint64 span = qint64{pages.back()->number()} - pages.front()->number();
+    const qint64 last = std::max(span, static_cast<qint64>(pages.size()) - 1);
+    return static_cast<int>(std::min<qint64>(last, std::numeric_limits<int>::max()));
+}
+
+} // namespace
+
+VLK_Widget_Tmi_Page::VLK_Widget_Tmi_Page(QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
+      ui_(setUpUi(this)), eventPanel_(new EventPanel(this)), stack_(ui_->stackedWidget, eventPanel_, false)
+{
+    ui_->verticalLayout_Event->addWidget(eventPanel_);
+    ui_->pushButton_Go->hide();
+    connectControls();
+    stack_.showNothing();
+    retranslate();
+}
+
+VLK_Widget_Tmi_Page::~VLK_Widget_Tmi_Page() = default;
+
+void VLK_Widget_Tmi_Page::connectControls()
+{
+    using Page = VLK_Widget_Tmi_Page;
+    const std::pair<QPushButton*, void (Page::*)()> buttons[] = {
+        {ui_->pushButton_Begin, &Page::slot_Pressed_PushButton_Begin},
+        {ui_->pushButton_Get_Prev, &Page::slot_Pressed_PushButton_Get_Prev},
+        {ui_->pushButton_Get_Next, &Page::slot_Pressed_PushButton_Get_Next},
+        {ui_->pushButton_End, &Page::slot_Pressed_PushButton_End},
+        {ui_->pushButton_Go, &Page::slot_Pressed_PushButton_Go},
+        {ui_->pushButton_Close, &Page::slot_Pressed_PushButton_Close},
+        {ui_->pushButton_Help, &Page::slot_Pressed_PushButton_Help},
+    };
+    for (const auto& [button, slot] : buttons) {
+        connect(button, &QPushButton::pressed, this, slot);
+        // Enter in the spin box must not press whatever button is near.
+        button->setAutoDefault(false);
+    }
+    connect(ui_->horizontalSlider, &QSlider::valueChanged, this, &Page::slot_valueChanged_horizontalSlider);
+    connect(ui_->spinBox_Go, qOverload<int>(&QSpinBox::valueChanged), this,
+            &Page::slot_valueChanged_spinBox_Go);
+}
+
+void VLK_Widget_Tmi_Page::open(const QString& path)
+{
+    stack_.showNothing();
+    TelemetryContents contents = readStoredFile(path);
+    pages_ = std::move(contents.pages);
+    if (pages_.empty())
+        return;
+    stack_.setTracker(contents.titles, 0);
+    setRange(lastPosition(pages_));
+    showPage(0);
+}
+
+void VLK_Widget_Tmi_Page::setRange(int last)
+{
+    const QSignalBlocker quietSlider(ui_->horizontalSlider);
+    const QSignalBlocker quietSpinBox(ui_->spinBox_Go);
+    ui_->pushButton_Begin->setText(QString::number(0));
+    ui_->pushButton_End->setText(QString::number(last));
+    ui_->horizontalSlider->setRange(0, last);
+    ui_->horizontalSlider->setValue(0);
+    ui_->spinBox_Go->setRange(0, last);
+    ui_->spinBox_Go->setValue(0);
+}
+
+void VLK_Widget_Tmi_Page::showPage(std::size_t position)
+{
+    if (position >= pages_.size())
+        return;
+    const bool isFirst = position == 0;
+    const bool isLast = position + 1 == pages_.size();
+    ui_->pushButton_Begin->setEnabled(!isFirst);
+    ui_->pushButton_Get_Prev->setEnabled(!isFirst);
+    ui_->pushButton_Get_Next->setEnabled(!isLast);
+    ui_->pushButton_End->setEnabled(!isLast);
+    currentPage_ = position;
+    stack_.showDecoded(*pages_[position]);
+}
+
+void VLK_Widget_Tmi_Page::retranslate()
+{
+    setWindowTitle(tr("tmiw_031"));
+    ui_->label_NoData->setText(tr("tmiw_002"));
+    ui_->pushButton_Get_Prev->setText(tr("wrd_061"));
+    ui_->pushButton_Get_Next->setText(tr("wrd_062"));
+    ui_->pushButton_Help->setText(tr("wrd_027"));
+    ui_->pushButton_Close->setText(tr("wrd_054"));
+    ui_->horizontalSlider->setAccessibleName(tr("tmiw_003"));
+    ui_->spinBox_Go->setAccessibleName(tr("tmiw_003"));
+    stack_.retranslate();
+    showPage(currentPage_);
+}
+
+void VLK_Widget_Tmi_Page::slot_valueChanged_horizontalSlider(int position)
+{
+    ui_->spinBox_Go->setValue(position);
+    showPage(static_cast<std::size_t>(position));
+}
+
+void VLK_Widget_Tmi_Page::slot_valueChanged_spinBox_Go(int position)
+{
+    ui_->horizontalSlider->setValue(position);
+}
+
+void VLK_Widget_Tmi_Page::slot_Pressed_PushButton_Begin()
+{
+    ui_->horizontalSlider->setValue(ui_->horizontalSlider->minimum());
+}
+
+void VLK_Widget_Tmi_Page::slot_Pressed_PushButton_Get_Prev()
+{
+    ui_->horizontalSlider->setValue(ui_->horizontalSlider->value() - 1);
+}
+
+void VLK_Widget_Tmi_Page::slot_Pressed_PushButton_Get_Next()
+{
+    ui_->horizontalSlider->setValue(ui_->horizontalSlider->value() + 1);
+}
+
+void VLK_Widget_Tmi_Page::slot_Pressed_PushButton_End()
+{
+    ui_->horizontalSlider->setValue(ui_->horizontalSlider->maximum());
+}
+
+void VLK_Widget_Tmi_Page::slot_Pressed_PushButton_Go()
+{
+    ui_->horizontalSlider->setValue(ui_->spinBox_Go->value());
+}
+
+void VLK_Widget_Tmi_Page::slot_Pressed_PushButton_Close()
+{
+    close();
+}
+
+void VLK_Widget_Tmi_Page::slot_Pressed_PushButton_Help()
+{
+    requests::showHelp(QStringLiteral("r-7106tmiView.html"));
+}

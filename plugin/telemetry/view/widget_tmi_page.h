@@ -1,0 +1,53 @@
+#pragma once
+
+// The browser of stored telemetry: walks through the records and extra packets of a file with a slider and
+// shows each as the live view does, without a tracker. A position counts from 0.
+
+#include "telemetry/files/telemetry_pages.h"
+#include "telemetry/view/record_stack.h"
+
+#include <QDialog>
+
+#include <memory>
+
+class EventPanel;
+
+namespace Ui {
+class VLK_Designer_Widget_Tmi_Page;
+}
+
+class VLK_Widget_Tmi_Page : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit VLK_Widget_Tmi_Page(QWidget* parent = nullptr);
+    ~VLK_Widget_Tmi_Page() override;
+
+    // Shows the first record of an XML or binary file in place of what was on show; nothing if there is none.
+    void open(const QString& path);
+    void retranslate();
+
+private Q_SLOTS:
+    void slot_valueChanged_horizontalSlider(int position);
+    void slot_valueChanged_spinBox_Go(int position);
+    void slot_Pressed_PushButton_Begin();
+    void slot_Pressed_PushButton_Get_Prev();
+    void slot_Pressed_PushButton_Get_Next();
+    void slot_Pressed_PushButton_End();
+    void slot_Pressed_PushButton_Go();
+    void slot_Pressed_PushButton_Close();
+    void slot_Pressed_PushButton_Help();
+
+private:
+    void connectControls();
+    void setRange(int last);
+    // Positions behind the last page change nothing.
+    void showPage(std::size_t position);
+
+    std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_Page> ui_;
+    EventPanel* eventPanel_;
+    RecordStack stack_;
+    vlk::TelemetryPages pages_;
+    std::size_t currentPage_ = 0;
+};

@@ -1,0 +1,111 @@
+#include "telemetry/view/widget_tmi_table.h"
+
+#include "telemetry/view/records_model.h"
+#include "telemetry/view/stored_file.h"
+
+#include <QEvent>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QHeaderView>
+#include <QTableView>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kWidth = 1024;
+constexpr int kHeight = 680;
+constexpr int kWidestColumn = 260;
+constexpr int kHeadingLines = 2;
+constexpr int kCellPadding = 6;
+constexpr int kSamples = 8; // rows spread over the file that a column is measured by
+
+// Of a heading that is broken at its blanks into the lines that there are.
+int headingWidth(const QString& heading, const QFontMetrics& metrics)
+{
+    int width = metrics.horizontalAdvance(heading) / kHeadingLines;
+    for (const QString& word : heading.split(QLatin1Char(' ')))
+        width = std::max(width, metrics.horizontalAdvance(word));
+    const auto lines = [&] {
+        return metrics.boundingRect(0, 0, width, 0, Qt::TextWordWrap, heading).height() /
+               metrics.lineSpacing();
+    };
+    while (width < kWidestColumn && lines() > kHeadingLines)
+        width += metrics.averageCharWidth();
+    return width;
+}
+
+} // namespace
+
+VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
+      model_(new RecordsModel(this)), table_(new QTableView(this))
+{
+    table_->setObjectName(QStringLiteral("tableWidget"));
+    table_->setFrameShape(QFrame::NoFrame);
+    table_->setModel(model_);
+    table_->setAlternatingRowColors(true);
+    table_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table_->setWordWrap(false);
+    table_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    QHeaderView* const headings = table_->horizontalHeader();
+    headings->setDefaultAlignment(Qt::AlignCenter | static_cast<Qt::Alignment>(Qt::TextWordWrap));
+    headings->setMinimumHeight(kHeadingLines * fontMetrics().lineSpacing() + kCellPadding);
+    headings->setHighlightSections(false);
+    headings->setSortIndicator(-1, Qt::AscendingOrder);
+    table_->setSortingEnabled(true);
+    table_->verticalHeader()->setHighlightSections(false);
+    table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    table_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kCellPadding);
+    auto* layout = new QGridLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(table_);
+    resize(kWidth, kHeight);
+    retranslate();
+}
+
+void VLK_Widget_Tmi_Table::open(const QString& path)
+{
+    fileName_ = QFileInfo(path).fileName();
+    table_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    model_->setContents(vlk::readStoredFile(path));
+    table_->scrollToTop();
+    fitColumns();
+    retranslate();
+}
+
+void VLK_Widget_Tmi_Table::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange)
+        return;
+    model_->retranslate();
+    fitColumns();
+    retranslate();
+}
+
+void VLK_Widget_Tmi_Table::retranslate()
+{
+    setWindowTitle(fileName_.isEmpty() ? tr("tmiw_031")
+                                       : QStringLiteral("%1 - %2").arg(fileName_, tr("tmiw_031")));
+}
+
+// By the heading and some of the rows: the view would ask all of them that it can see, in every column.
+void VLK_Widget_Tmi_Table::fitColumns()
+{
+    const QFontMetrics metrics(table_->font());
+    const int margin = 4 * metrics.averageCharWidth();
+    const int rows = model_->rowCount();
+    for (int column = 0; column < model_->columnCount(); ++column) {
+        int width =
+            headingWidth(model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(), metrics);
+        for (int sample = 0; sample < std::min(rows, kSamples); ++sample) {
+            const int row = static_cast<int>(qint64{rows} * sample / kSamples);
+            const QString text = model_->index(row, column).data().toString();
+            width = std::max(width, metrics.horizontalAdvance(text));
+        }
+        // Packets are rare, and the rows that were looked at may hold none.
+        const bool isWide = model_->isPacketData(column);
+        table_->setColumnWidth(column, isWide ? kWidestColumn : std::min(width + margin, kWidestColumn));
+    }
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+// Stored telemetry as a table: a row a record, a column a value, sorted by a click on a heading.
+
+#include <QDialog>
+
+class QTableView;
+class RecordsModel;
+
+class VLK_Widget_Tmi_Table : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit VLK_Widget_Tmi_Table(QWidget* parent = nullptr);
+
+    // Shows an XML or binary file in place of what was on show; an empty table if it holds no record.
+    void open(const QString& path);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void retranslate();
+    void fitColumns();
+
+    RecordsModel* model_;
+    QTableView* table_;
+    QString fileName_;
+};
