@@ -6,9 +6,6 @@ namespace vlk {
 
 namespace {
 
-// Type and size, which the size does not count.
-constexpr int kUncounted = 3;
-
 // What an entry takes behind its type and size.
 std::size_t entryBytes(std::uint8_t type, std::uint8_t size)
 {
@@ -45,8 +42,8 @@ ExtraPacket ExtraPacket::fromRecord(std::span<const std::uint8_t> packet)
 {
     ExtraPacket extra;
     extra.takeHead(packet, kHeadBytes);
-    extra.takeArea(packet, kUncounted + extra.size(),
-                   static_cast<std::uint16_t>(extra.size() - extra.stSize() - extra.hSize() - 4));
+    extra.takeArea(packet, kUncountedBytes + extra.size(),
+                   static_cast<std::uint16_t>(extra.size() - extra.stSize() - extra.hSize() - kBesideHeads));
     return extra;
 }
 
@@ -56,10 +53,18 @@ ExtraPacket ExtraPacket::fromKeyAnswer(std::span<const std::uint8_t> packet)
     extra.takeHead(packet, kHVerAt);
     const auto areaSize = static_cast<std::uint16_t>(extra.size() - extra.stSize() - 2);
     // The area is the last bytes of the answer; of an answer cut short, what there is where it should be.
-    const std::ptrdiff_t end = std::max<std::ptrdiff_t>(std::ssize(packet), kUncounted + extra.size());
+    const std::ptrdiff_t end = std::max<std::ptrdiff_t>(std::ssize(packet), kUncountedBytes + extra.size());
     extra.takeArea(packet, end, areaSize);
     if (end >= areaSize && end - areaSize < kHVerAt)
         std::fill(extra.head_.begin() + (end - areaSize), extra.head_.end(), 0);
+    return extra;
+}
+
+ExtraPacket ExtraPacket::fromParts(std::span<const std::uint8_t> head, std::span<const std::uint8_t> area)
+{
+    ExtraPacket extra;
+    extra.takeHead(head, kHeadBytes);
+    extra.takeArea(area, std::ssize(area), static_cast<std::uint16_t>(area.size()));
     return extra;
 }
 

@@ -37,6 +37,17 @@ public:
     static constexpr int kHeadBytes = 58;
     static constexpr int kAreaBytes = 256;
 
+    // Places of the sizes and versions in the head. The size counts what follows it; the area is what neither
+    // of the heads takes, nor the two bytes in front of each.
+    static constexpr int kSizeAt = 1;
+    static constexpr int kStVerAt = 3;
+    static constexpr int kStSizeAt = 4;
+    static constexpr int kHVerAt = 42;
+    static constexpr int kHSizeAt = 43;
+    static constexpr int kUncountedBytes = 3;
+    static constexpr int kBesideHeads = 4;
+    static constexpr std::size_t kEntryHeadBytes = 2;
+
     // The elements of the head in the order of their bytes, with their places in the packet.
     struct HeadElement
     {
@@ -71,6 +82,9 @@ public:
     // head: State, outputs, counters and engine hours count as 0.
     static ExtraPacket fromKeyAnswer(std::span<const std::uint8_t> packet);
 
+    // From the parts that a telemetry file gives; the sizes in the head are not looked at.
+    static ExtraPacket fromParts(std::span<const std::uint8_t> head, std::span<const std::uint8_t> area);
+
     std::uint8_t type() const { return head_[0]; }
     std::uint16_t size() const { return qFromLittleEndian<quint16>(head_.data() + kSizeAt); }
     std::uint8_t stVer() const { return head_[kStVerAt]; }
@@ -78,6 +92,8 @@ public:
     std::uint8_t hVer() const { return head_[kHVerAt]; }
     std::uint8_t hSize() const { return head_[kHSizeAt]; }
 
+    // The first bytes of the packet, up to the area.
+    std::span<const std::uint8_t> head() const { return head_; }
     // The bytes of the entries that came, kAreaBytes at most.
     std::span<const std::uint8_t> area() const { return {area_.data(), areaSize_}; }
 
@@ -93,13 +109,6 @@ public:
     const std::uint8_t* find(ElementIndex index) const;
 
 private:
-    static constexpr int kSizeAt = 1;
-    static constexpr int kStVerAt = 3;
-    static constexpr int kStSizeAt = 4;
-    static constexpr int kHVerAt = 42;
-    static constexpr int kHSizeAt = 43;
-    static constexpr std::size_t kEntryHeadBytes = 2;
-
     // Copies what there is of the first `bytes` bytes of the packet.
     void takeHead(std::span<const std::uint8_t> packet, std::size_t bytes);
     // Copies what there is of an area of `size` bytes that ends at `end`.

@@ -1,0 +1,44 @@
+#pragma once
+
+// Reads a device in large pieces and gives it out in lines or bytes, with memory that does not grow with the
+// device. What is given out is valid until the next call.
+
+#include <QIODevice>
+
+#include <span>
+#include <string_view>
+#include <vector>
+
+namespace vlk {
+
+class InputBuffer
+{
+public:
+    static constexpr std::size_t kCapacity = 256 * 1024;
+
+    explicit InputBuffer(QIODevice& device) : device_(device), bytes_(kCapacity) {}
+
+    // The next line with its end, or as many bytes of it as `most`; then the rest of it is the next line.
+    // Empty at the end of the device.
+    std::string_view line(std::size_t most);
+
+    // The next bytes, fewer than asked for only at the end of the device. They stay where they are until
+    // skipped. kCapacity at most.
+    std::span<const std::uint8_t> peek(std::size_t count);
+    void skip(std::size_t count);
+
+    // How many bytes were given out or skipped.
+    qint64 position() const { return position_; }
+
+private:
+    void fill(std::size_t count);
+
+    QIODevice& device_;
+    std::vector<char> bytes_;
+    std::size_t begin_ = 0;
+    std::size_t end_ = 0;
+    qint64 position_ = 0;
+    bool atEnd_ = false;
+};
+
+} // namespace vlk

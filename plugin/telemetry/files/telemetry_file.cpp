@@ -1,0 +1,69 @@
+#include "telemetry/files/telemetry_file.h"
+
+#include "telemetry/files/telemetry_binary_reader.h"
+#include "telemetry/files/telemetry_binary_writer.h"
+#include "telemetry/files/telemetry_xml_reader.h"
+#include "telemetry/files/telemetry_xml_writer.h"
+#include "telemetry/record/record_head.h"
+
+#include <QFile>
+#include <QLoggingCategory>
+#include <QSaveFile>
+
+namespace vlk {
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcFiles, "vlk.files")
+
+bool write(QIODevice& device, TelemetryForm form, const TelemetryPages& pages, const TelemetryOrigin& origin,
+           const EventText& eventText)
+{
+    switch (form) {
+    case TelemetryForm::xml:
+        return writeTelemetryXml(device, pages, origin);
+    case TelemetryForm::csv:
+        return writeTelemetryCsv(device, pages, origin.titles, eventText);
+    case TelemetryForm::binary:
+        return writeTelemetryBinary(device, pages, origin);
+    }
+    return false;
+}
+
+// By the first bytes; where they say nothing, by the name.
+bool isBinary(QFile& file)
+{
+    const QByteArray start = file.peek(8);
+    if (looksBinary(bytesAt(start.constData(), start.size())))
+        return true;
+    return !start.startsWith('<') && file.fileName().endsWith(QLatin1String(".tmi"), Qt::CaseInsensitive);
+}
+
+} // namespace
+
+bool saveTelemetryFile(const QString& path, TelemetryForm form, const TelemetryPages& pages,
+                       const TelemetryOrigin& origin, const EventText& eventText)
+{
+    // The commit alone does not notice that the last buffer went out in part; the flush does.
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && write(file, form, pages, origin, eventText) && file.flush() &&
+        file.commit())
+        return true;
+    qCWarning(lcFiles).noquote() << "cannot save" << path << ':' << file.errorString();
+    return false;
+}
+
+std::optional<TelemetryContents> readTelemetryFile(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        qCWarning(lcFiles).noquote() << "cannot read" << path << ':' << file.errorString();
+        return std::nullopt;
+    }
+    TelemetryContents contents = isBinary(file) ? readTelemetryBinary(file) : readTelemetryXml(file);
+    for (const FileDamage& damage : contents.damages)
+        qCWarning(lcFiles).noquote() << path << ':' << text(damage);
+    return contents;
+}
+
+} // namespace vlk

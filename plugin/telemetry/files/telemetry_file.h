@@ -1,0 +1,22 @@
+#pragma once
+
+// Files of telemetry by their names.
+
+#include "telemetry/files/telemetry_csv_writer.h"
+
+#include <optional>
+
+namespace vlk {
+
+enum class TelemetryForm { xml, csv, binary };
+
+// True when the file at `path` now holds the pages in that form. Otherwise, on a full disk say, it holds what
+// it held before, and the log (vlk.files) says why. Only the CSV form asks for the names of events.
+bool saveTelemetryFile(const QString& path, TelemetryForm form, const TelemetryPages& pages,
+                       const TelemetryOrigin& origin, const EventText& eventText = {});
+
+// Reads an XML or binary file, whichever it is. Nothing if it cannot be opened. What is damaged in it is in
+// the contents and in the log.
+std::optional<TelemetryContents> readTelemetryFile(const QString& path);
+
+} // namespace vlk

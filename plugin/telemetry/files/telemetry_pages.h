@@ -1,0 +1,68 @@
+#pragma once
+
+// What the files of telemetry are made of and what reading them gives.
+
+#include "telemetry/record/telemetry_titles.h"
+#include "telemetry/record/tmi_page_zeta3.h"
+
+#include <memory>
+#include <vector>
+
+namespace vlk {
+
+// Records and extra packets, in the order in which they came.
+using TelemetryPages = std::vector<std::unique_ptr<TmiPage_Zeta3>>;
+
+// What a file tells of the tracker that its records come from.
+struct TelemetryOrigin
+{
+    QString model;
+    QString vendor;
+    QString trackerId;
+    qint32 timeOffset = 0; // the zone that the user chose, in seconds east of UTC
+    TelemetryTitles titles;
+};
+
+// Something that a binary file does not hold as it was written.
+struct FileDamage
+{
+    enum Kind : std::uint8_t {
+        NotThisForm,     // the file does not begin as this form does
+        HeaderChecksum,  // the header is not what was written
+        Records,         // these bytes hold no record
+        CutShort,        // the file ends within these bytes, which begin a record or the header
+        RecordsChecksum, // something behind the header is not what was written
+        RecordCount,     // the header counts other than there are
+    };
+
+    Kind kind;
+    qint64 offset; // where in the file
+    qint64 bytes;  // how many
+
+    bool operator==(const FileDamage&) const = default;
+};
+
+// What a file gives. The titles come from the XML form only, the damages, in the order in which they were
+// found, from the binary form only.
+struct TelemetryContents
+{
+    TelemetryTitles titles;
+    TelemetryPages pages;
+    std::vector<FileDamage> damages;
+};
+
+// The time of a record, or of an extra packet's head.
+inline quint32 timeOf(const TmiPage_Zeta3& page)
+{
+    constexpr ElementIndex time = element("Time");
+    return page.isExtra() ? page.extra().value<time>() : page.value<time>();
+}
+
+// The event code, likewise.
+inline quint16 codeOf(const TmiPage_Zeta3& page)
+{
+    constexpr ElementIndex code = element("Code");
+    return page.isExtra() ? page.extra().value<code>() : page.value<code>();
+}
+
+} // namespace vlk

@@ -1,0 +1,183 @@
+#include "telemetry/files/telemetry_xml_reader.h"
+
+#include "base/windows1251.h"
+#include "telemetry/files/input_buffer.h"
+#include "telemetry/files/line_parts.h"
+#include "telemetry/files/number_text.h"
+#include "telemetry/files/title_lines.h"
+#include "telemetry/files/value_reading.h"
+#include "telemetry/record/record_head.h"
+
+namespace vlk {
+
+namespace {
+
+// Longer lines are read in pieces of these lengths.
+constexpr std::size_t kLongestLine = 1023;
+constexpr std::size_t kLongestLineOfPage = 255;
+
+// Calls visit with each line up to the one that ends the page, which is taken too.
+template <class Visit>
+void forEachLineOfPage(InputBuffer& input, Visit visit)
+{
+    for (std::string_view line = input.line(kLongestLineOfPage); !line.empty();
+         line = input.line(kLongestLineOfPage)) {
+        if (endsPage(line))
+            return;
+        visit(line);
+    }
+}
+
+template <class Number>
+Number numberAttribute(std::string_view line, std::string_view name)
+{
+    return numberFrom<Number>(attribute(line, name));
+}
+
+QString textOf(std::string_view bytes)
+{
+    return fromWindows1251(QByteArray(bytes.data(), static_cast<int>(bytes.size())));
+}
+
+std::unique_ptr<TmiPage_Zeta3> readRecord(InputBuffer& input, std::string_view pageLine)
+{
+    const auto ver = numberAttribute<quint8>(pageLine, "ver");
+    const FieldMask mask = FieldMask::fromText(attribute(pageLine, "format"));
+    TmiPage_Zeta3::ValueBlock block{};
+    forEachLineOfPage(input, [&](std::string_view line) {
+        const ElementLine parts = elementLine(line);
+        if (const auto index = findElement(parts.tag))
+            readValue(*index, parts.value, block.data() + kElements[*index].offset);
+    });
+    return std::make_unique<TmiPage_Zeta3>(kTelemetryRecord, ver, mask, block);
+}
+
+// A packet in the making: the head, and the area with all that was ever put behind it, of which it keeps
+// what has room.
+struct PacketParts
+{
+    std::array<std::uint8_t, ExtraPacket::kHeadBytes> head{};
+    std::array<std::uint8_t, ExtraPacket::kAreaBytes> area{};
+    std::size_t areaSize = 0;
+
+    void put(std::size_t offset, std::span<const std::uint8_t> bytes)
+    {
+        const std::size_t at = areaSize + offset;
+        if (at < area.size())
+            std::ranges::copy(bytes.first(std::min(bytes.size(), area.size() - at)), area.begin() + at);
+    }
+};
+
+void readElement(std::string_view line, PacketParts& packet)
+{
+    const ElementLine parts = elementLine(line);
+    const auto named = [&](const ExtraPacket::HeadElement& row) {
+        return kElements[row.element].name == parts.tag;
+    };
+    const auto row = std::ranges::find_if(ExtraPacket::kElementsOfHead, named);
+    if (row != ExtraPacket::kElementsOfHead.end())
+        readValue(row->element, parts.value, packet.head.data() + row->offset);
+}
+
+// The text of a card has to fit its size in the local encoding too.
+QByteArray cardBytes(std::string_view value, int size)
+{
+    QString text = textOf(value).left(size);
+    QByteArray bytes = text.toLocal8Bit();
+    while (bytes.size() > size) {
+        text.chop(1);
+        bytes = text.toLocal8Bit();
+    }
+    return bytes;
+}
+
+void readEntry(std::string_view line, PacketParts& packet)
+{
+    const auto type = numberAttribute<quint8>(line, "type");
+    const auto size = numberAttribute<quint8>(line, "size");
+    const std::string_view value = attribute(line, "value");
+    const std::array<std::uint8_t, ExtraPacket::kEntryHeadBytes> head{type, size};
+    packet.put(0, head);
+    if (type == ExtraEntry::Card) {
+        const QByteArray bytes = cardBytes(value, size);
+        packet.put(head.size(), bytesAt(bytes.constData(), bytes.size()));
+    } else if (type == ExtraEntry::TouchKey || type == ExtraEntry::Rfid) {
+        std::array<std::uint8_t, sizeof(quint64)> bytes;
+        qToLittleEndian(numberFrom<quint64>(value), bytes.data());
+        packet.put(head.size(), bytes);
+    }
+    packet.areaSize += head.size() + size;
+}
+
+std::unique_ptr<TmiPage_Zeta3> readExtraPacket(InputBuffer& input, std::string_view pageLine)
+{
+    PacketParts packet;
+    packet.head[0] = kExtraPacket;
+    packet.head[ExtraPacket::kStVerAt] = numberAttribute<quint8>(pageLine, "stVer");
+    packet.head[ExtraPacket::kStSizeAt] = numberAttribute<quint8>(pageLine, "stSize");
+    packet.head[ExtraPacket::kHVerAt] = numberAttribute<quint8>(pageLine, "hVer");
+    packet.head[ExtraPacket::kHSizeAt] = numberAttribute<quint8>(pageLine, "hSize");
+    forEachLineOfPage(input, [&](std::string_view line) {
+        if (line.find("<Dynamic") != line.npos)
+            readEntry(line, packet);
+        else
+            readElement(line, packet);
+    });
+    const std::size_t size = packet.head[ExtraPacket::kStSizeAt] + packet.head[ExtraPacket::kHSizeAt] +
+                             ExtraPacket::kBesideHeads + packet.areaSize;
+    qToLittleEndian(static_cast<quint16>(size), packet.head.data() + ExtraPacket::kSizeAt);
+    const auto area = std::span(packet.area).first(std::min(packet.areaSize, packet.area.size()));
+    return std::make_unique<TmiPage_Zeta3>(ExtraPacket::fromParts(packet.head, area));
+}
+
+void readPage(InputBuffer& input, std::string_view line, TelemetryPages& pages)
+{
+    // The line lives in the buffer only until the next one is read.
+    const std::string pageLine(line);
+    switch (numberAttribute<quint8>(pageLine, "type")) {
+    case kTelemetryRecord:
+        pages.push_back(readRecord(input, pageLine));
+        break;
+    case kExtraPacket:
+        pages.push_back(readExtraPacket(input, pageLine));
+        break;
+    default:
+        forEachLineOfPage(input, [](std::string_view) {});
+    }
+}
+
+void readTitle(std::string_view line, TelemetryTitles& titles)
+{
+    for (const TitleLine& row : kTitleLines) {
+        if (holdsTag(line, row.tag, " ")) {
+            titleOf(titles, row) = textOf(attribute(line, "title"));
+            return;
+        }
+    }
+    for (const TypeLine& row : kTypeLines) {
+        if (holdsTag(line, row.tag, "")) {
+            const QString letters =
+                textOf(attribute(line, "type")).leftJustified(row.count, QLatin1Char('u'));
+            for (int i = 0; i < row.count; ++i)
+                titles.userTypes[row.first + i] = letters[i];
+            return;
+        }
+    }
+}
+
+} // namespace
+
+TelemetryContents readTelemetryXml(QIODevice& device)
+{
+    InputBuffer input(device);
+    TelemetryContents contents;
+    for (std::string_view line = input.line(kLongestLine); !line.empty(); line = input.line(kLongestLine)) {
+        if (startsPage(line))
+            readPage(input, line, contents.pages);
+        else
+            readTitle(line, contents.titles);
+    }
+    return contents;
+}
+
+} // namespace vlk

@@ -1,0 +1,16 @@
+#pragma once
+
+// Writes telemetry in the XML form: a line an element, in windows-1251, ending in CR LF. Titles stand in it
+// as they are, without escapes. A record gives the elements that its mask selects, and number, code and time
+// always.
+
+#include "telemetry/files/telemetry_pages.h"
+
+class QIODevice;
+
+namespace vlk {
+
+// False if a write failed.
+bool writeTelemetryXml(QIODevice& device, const TelemetryPages& pages, const TelemetryOrigin& origin);
+
+} // namespace vlk

@@ -1,0 +1,65 @@
+#include "telemetry/files/value_reading.h"
+
+#include "telemetry/files/file_form.h"
+#include "telemetry/files/number_text.h"
+
+#include <QtEndian>
+
+#include <cmath>
+#include <limits>
+
+namespace vlk {
+
+namespace {
+
+template <class Number>
+void put(std::string_view text, std::uint8_t* to)
+{
+    qToLittleEndian(numberFrom<Number>(text), to);
+}
+
+// The whole number next to the display value times its divisor, so that 1.2 is 12 again.
+template <class Number>
+void putScaled(std::string_view text, int divisor, std::uint8_t* to)
+{
+    const double scaled = std::round(numberFrom<double>(text) * divisor);
+    const bool fits =
+        scaled >= std::numeric_limits<Number>::min() && scaled <= std::numeric_limits<Number>::max();
+    qToLittleEndian(fits ? static_cast<Number>(scaled) : Number{}, to);
+}
+
+} // namespace
+
+void readValue(ElementIndex index, std::string_view text, std::uint8_t* to)
+{
+    const FileForm& form = kFileForms[index];
+    if (form.divisor != 1) {
+        if (form.type == ValueType::u8)
+            putScaled<quint8>(text, form.divisor, to);
+        else
+            putScaled<qint32>(text, form.divisor, to);
+        return;
+    }
+    switch (form.type) {
+    case ValueType::u8:
+        return put<quint8>(text, to);
+    case ValueType::u16:
+        return put<quint16>(text, to);
+    case ValueType::u32:
+        return put<quint32>(text, to);
+    case ValueType::u64:
+        return put<quint64>(text, to);
+    case ValueType::i8:
+        return put<qint8>(text, to);
+    case ValueType::i16:
+        return put<qint16>(text, to);
+    case ValueType::i32:
+        return put<qint32>(text, to);
+    case ValueType::i64:
+        return put<qint64>(text, to);
+    case ValueType::f32:
+        return put<float>(text, to);
+    }
+}
+
+} // namespace vlk
