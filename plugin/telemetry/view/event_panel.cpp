@@ -12,15 +12,6 @@ using namespace vlk;
 
 namespace {
 
-// Of the words "15:00:00 01.02.2025 (UTC +10)" and "4294967295".
-constexpr auto kWidestTime = "00:00:00 00.00.0000 (UTC +00)";
-constexpr auto kWidestNumber = "0000000000";
-
-void keepRoomFor(QLabel* label, const char* widest)
-{
-    label->setMinimumWidth(label->fontMetrics().horizontalAdvance(QLatin1String(widest)));
-}
-
 template <ElementIndex index>
 int elementOf(const TmiPage_Zeta3& page)
 {
@@ -60,15 +51,15 @@ EventPanel::EventPanel(QWidget* parent)
     grid->addWidget(number_, 0, 1);
     grid->addWidget(timeText_, 0, 2);
     grid->addWidget(time_, 0, 3);
-    grid->addWidget(stateText_, 0, 4);
-    grid->addWidget(guard_, 0, 5);
-    grid->addWidget(test_, 0, 6);
-    grid->addWidget(alarm_, 0, 7);
-    grid->setColumnStretch(8, 1);
     grid->addWidget(eventText_, 1, 0);
-    grid->addWidget(event_, 1, 1, 1, 8);
-    keepRoomFor(number_, kWidestNumber);
-    keepRoomFor(time_, kWidestTime);
+    grid->addWidget(event_, 1, 1, 1, 4);
+    grid->addWidget(stateText_, 2, 0);
+    grid->addLayout(besideEachOther({guard_, test_, alarm_}), 2, 1, 1, 4);
+    grid->setColumnStretch(4, 1);
+    // The row of modes keeps its place while they are hidden.
+    grid->setRowMinimumHeight(2, guard_->sizeHint().height());
+    grid->setColumnMinimumWidth(1, number_->fontMetrics().horizontalAdvance(QStringLiteral("0000000000")));
+    grid->setColumnMinimumWidth(3, widthOfTime(time_));
 
     QPalette alarming = alarm_->palette();
     alarming.setColor(QPalette::WindowText, Qt::red);

@@ -8,6 +8,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QProgressBar>
+#include <QScrollArea>
 
 using namespace vlk;
 
@@ -125,9 +126,17 @@ VLK_Form_TMI_Production::VLK_Form_TMI_Production(EventPanel* panel, QWidget* par
     for (std::size_t i = 0; i + 1 < groups_.size(); ++i)
         left->addWidget(groups_[i].box);
     left->addStretch();
-    auto* layout = new QHBoxLayout(this);
-    layout->addLayout(left, 2);
-    layout->addWidget(groups_.back().box, 3);
+    auto* content = new QWidget;
+    auto* columns = new QHBoxLayout(content);
+    columns->addLayout(left, 2);
+    columns->addWidget(groups_.back().box, 3);
+    auto* scroll = new QScrollArea(this);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(content);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(scroll);
     retranslate();
 }
 

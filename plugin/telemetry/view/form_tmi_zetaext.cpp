@@ -58,18 +58,14 @@ VLK_Form_TMI_ZetaExt::VLK_Form_TMI_ZetaExt(EventPanel* panel, QWidget* parent)
     auto* grid = new QGridLayout(groupBox_NaviMain_);
     grid->setHorizontalSpacing(12);
     rows_.add(grid, kPlace);
-    auto* motion = new QGridLayout;
-    rows_.add(motion, kMotion);
-    motion->setRowStretch(motion->rowCount(), 1);
-    grid->addLayout(motion, 0, 2, grid->rowCount(), 1);
-    grid->setColumnStretch(2, 1);
+    rows_.add(grid, kMotion, 2);
 
     treeWidget_->setObjectName(QStringLiteral("treeWidget"));
     treeWidget_->setColumnCount(2);
     treeWidget_->setRootIsDecorated(false);
     treeWidget_->setAlternatingRowColors(true);
     treeWidget_->header()->setDefaultAlignment(Qt::AlignCenter);
-    treeWidget_->header()->setSectionResizeMode(QHeaderView::Stretch);
+    treeWidget_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(groupBox_NaviMain_);

@@ -47,17 +47,24 @@ void setControlTexts(const Ui::VLK_Designer_Widget_Tmi_View& ui)
     for (const auto& [button, key] : buttons)
         button->setText(word(key));
     const std::pair<QLabel*, const char*> labels[] = {
-        {ui.label_NoData, "tmiw_002"}, {ui.label_Show, "tmiw_006"}, {ui.label_TimeOffset, "tmiw_009"},
-        {ui.label_First, "tmiw_012"},  {ui.label_Last, "tmiw_013"}, {ui.label_TM, "tmiw_028"},
-        {ui.label_RFID, "tmiw_029"},
+        {ui.label_NoData, "tmiw_002"}, {ui.label_Show, "tmiw_006"},    {ui.label_TimeOffset, "tmiw_009"},
+        {ui.label_First, "tmiw_012"},  {ui.label_Last, "tmiw_013"},    {ui.label_TM, "tmiw_028"},
+        {ui.label_RFID, "tmiw_029"},   {ui.label_Records, "tmiw_151"},
     };
     for (const auto& [label, key] : labels)
         label->setText(word(key));
+    const std::pair<QWidget*, const char*> tips[] = {
+        {ui.pushButton_SaveToFile, "tmiw_148"},
+        {ui.pushButton_SaveToExcel, "tmiw_149"},
+        {ui.pushButton_SaveFileToServer, "tmiw_150"},
+        {ui.spinBox_RFID, "tmiw_147"},
+    };
+    for (const auto& [widget, key] : tips)
+        widget->setToolTip(word(key));
     QCheckBox* const servers[] = {ui.checkBox_Server1, ui.checkBox_Server2, ui.checkBox_Server3};
     for (std::size_t i = 0; i < std::size(servers); ++i)
         servers[i]->setText(QStringLiteral("%1 %2").arg(word("tmiw_023")).arg(i + 1));
     ui.spinBox_TimeOffset->setSuffix(QLatin1Char(' ') + word("abbr_001"));
     ui.horizontalSlider_Auto_Tmi->setAccessibleName(word("tmiw_007"));
     ui.spinBox_RFID->setAccessibleName(word("tmiw_147"));
-    ui.spinBox_RFID->setToolTip(word("tmiw_147"));
 }

@@ -18,6 +18,21 @@ QLabel* makeLabel(const QString& name)
     return label;
 }
 
+// Times and the words of states are longer than numbers.
+int roomFor(const Rule& rule, const QLabel* label)
+{
+    constexpr int kLetters = 18;
+    switch (rule.shape) {
+    case Shape::zonedTime:
+        return widthOfTime(label);
+    case Shape::word:
+    case Shape::enumeration:
+        return label->fontMetrics().averageCharWidth() * kLetters;
+    default:
+        return label->minimumWidth();
+    }
+}
+
 } // namespace
 
 QLabel* makeCaption(const QString& name)
@@ -33,11 +48,18 @@ QLabel* makeValue(const QString& name)
     return label;
 }
 
+int widthOfTime(const QLabel* label)
+{
+    return label->fontMetrics().horizontalAdvance(QStringLiteral("00:00:00 00.00.0000 (UTC +00)"));
+}
+
 QHBoxLayout* besideEachOther(std::initializer_list<QLabel*> labels)
 {
     auto* layout = new QHBoxLayout;
+    layout->setSpacing(8);
     for (QLabel* label : labels) {
         label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+        label->setMinimumWidth(0);
         layout->addWidget(label);
     }
     layout->addStretch();
@@ -54,12 +76,15 @@ QStringList partsAroundValues(const QString& text)
 
 void ValueRows::add(QGridLayout* grid, std::span<const ValueRow> rows, int column)
 {
-    int at = grid->count() == 0 ? 0 : grid->rowCount();
+    int at = 0;
+    while (grid->itemAtPosition(at, column) != nullptr)
+        ++at;
     for (const ValueRow& row : rows) {
         const QString name = QString::fromLatin1(row.value);
         QLabel* caption = makeCaption(QString(name).replace(QLatin1String("_Value"), QLatin1String("_Text")));
         QLabel* value = makeValue(name);
         grid->addWidget(caption, at, column);
+        value->setMinimumWidth(roomFor(kItems[row.item].rule(), value));
         QLabel* unit = row.unit == nullptr ? nullptr : makeCaption(QString::fromLatin1(row.unit));
         if (unit == nullptr)
             grid->addWidget(value, at, column + 1);

@@ -36,7 +36,7 @@ struct ValueRow
 class ValueRows
 {
 public:
-    // Appends the rows below what the grid holds, captions in `column`, values right of them.
+    // Appends the rows below what `column` of the grid holds, the values right of it.
     void add(QGridLayout* grid, std::span<const ValueRow> rows, int column = 0);
     void retranslate();
     void fill(const TmiPage_Zeta3& page);
@@ -56,6 +56,9 @@ private:
 // move its neighbours.
 QLabel* makeCaption(const QString& name);
 QLabel* makeValue(const QString& name);
+
+// The width of the longest event time in the label's font.
+int widthOfTime(const QLabel* label);
 
 // Captions and values in one line, each as wide as its text.
 QHBoxLayout* besideEachOther(std::initializer_list<QLabel*> labels);
