@@ -255,27 +255,27 @@ enum class Direction : std::uint8_t { ToPlugin, ToHost };
 
 struct MessageInfo
 {
-    Message number;
     const char* name;
+    Message number;
+    std::uint32_t answer; // number that the host gives back later, 0 for none
     Direction direction;
     Parameter p1;
     Parameter p2;
-    bool fillsFirst;      // the receiver writes p1
-    bool fillsSecond;     // the receiver writes p2
-    std::uint32_t answer; // number that the host gives back later, 0 for none
+    bool fillsFirst;  // the receiver writes p1
+    bool fillsSecond; // the receiver writes p2
 };
 
 namespace detail {
 constexpr MessageInfo in(Message number, const char* name, Parameter p1 = Parameter::None,
                          Parameter p2 = Parameter::None, bool fillsFirst = false)
 {
-    return {number, name, Direction::ToPlugin, p1, p2, fillsFirst, false, 0};
+    return {name, number, 0, Direction::ToPlugin, p1, p2, fillsFirst, false};
 }
 constexpr MessageInfo out(Message number, const char* name, std::uint32_t answer = 0,
                           Parameter p1 = Parameter::None, Parameter p2 = Parameter::None,
                           bool fillsSecond = false)
 {
-    return {number, name, Direction::ToHost, p1, p2, false, fillsSecond, answer};
+    return {name, number, answer, Direction::ToHost, p1, p2, false, fillsSecond};
 }
 } // namespace detail
 

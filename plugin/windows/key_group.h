@@ -22,7 +22,7 @@
 #include <initializer_list>
 #include <vector>
 
-class CXmlSection;
+struct CXmlSection;
 class QAbstractButton;
 class QCheckBox;
 class QComboBox;

@@ -9,7 +9,7 @@
 
 #include <memory>
 
-class CXmlSection;
+struct CXmlSection;
 class VLK_Widget_Config_Full;
 class VLK_Widget_Config_Light;
 
@@ -29,6 +29,7 @@ public:
     explicit VLK_Widget_Config(QWidget* parent = nullptr);
     ~VLK_Widget_Config() override;
 
+    using QDialog::open;
     // Resets both windows, loads the request's file into them and shows the window asked for. The balance
     // request code of the file goes to `ussdBuffer`, vlk::balanceUssdSize bytes.
     void open(const vlk::OpenRequest& request, char* ussdBuffer);

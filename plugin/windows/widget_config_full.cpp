@@ -7,6 +7,7 @@
 #include "host/requests.h"
 #include "pages/form_config_transfer.h"
 #include "windows/file_names.h"
+#include "windows/input_guard.h"
 #include "windows/vlk_menuaction.h"
 #include "windows/widget_config.h"
 #include "xml/xml_document.h"
@@ -84,6 +85,7 @@ void VLK_Widget_Config_Full::buildTabs()
         area->setWidgetResizable(true);
         area->setFrameShape(QFrame::NoFrame);
         area->setWidget(&page);
+        vlk::guardInputs(&page);
         page.setTabIndex(ui_->tabWidget->addTab(area, page.title()));
         tabMenu_->addAction(new VLK_MenuAction(page.title(), page.tabIndex(), tabMenu_));
         if constexpr (requires { &Page::signal_Excess_Size; })

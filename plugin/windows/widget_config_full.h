@@ -11,7 +11,7 @@
 
 #include <memory>
 
-class CXmlSection;
+struct CXmlSection;
 class QAction;
 class QMenu;
 

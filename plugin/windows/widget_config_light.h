@@ -7,7 +7,7 @@
 
 #include <memory>
 
-class CXmlSection;
+struct CXmlSection;
 
 namespace Ui {
 class VLK_Designer_Widget_Config_Light;

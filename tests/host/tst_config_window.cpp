@@ -5,13 +5,16 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFrame>
+#include <QGroupBox>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QStackedWidget>
 #include <QTabWidget>
 #include <QTemporaryDir>
+#include <QWheelEvent>
 #include <QtTest>
 
 using vlk::Message;
@@ -33,6 +36,7 @@ private Q_SLOTS:
     void switchesBetweenTheWindows();
     void excessLocksAllButTheDataSet();
     void menuOpensTabs();
+    void wheelAndEnterChangeNothing();
     void raiseAndClose();
 
 private:
@@ -258,6 +262,23 @@ void ConfigWindowTest::menuOpensTabs()
         QCOMPARE(help[0].text2, QStringLiteral("r-7106p%1.html").arg(tab + 1));
     }
     QVERIFY(button("pushButton_First")->isHidden() && button("pushButton_Last")->isHidden());
+}
+
+void ConfigWindowTest::wheelAndEnterChangeNothing()
+{
+    auto* port = ScriptedHost::child<QSpinBox>(full(), "GPRSSrv_spinBox_Port_Main");
+    auto* key = ScriptedHost::child<QLineEdit>(full(), "lineEdit_Crypto");
+    auto* group = ScriptedHost::child<QGroupBox>(full(), "GPRSSrv_groupBox_Main");
+    group->setChecked(true);
+    const int before = port->value();
+    name()->setFocus();
+    QWheelEvent wheel(QPointF(5, 5), port->mapToGlobal(QPoint(5, 5)), {}, QPoint(0, 120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(port, &wheel);
+    QCOMPARE(port->value(), before);
+    QTest::keyClick(name(), Qt::Key_Return);
+    QCOMPARE(key->text(), QString());
+    QVERIFY(dialog()->isVisible());
 }
 
 void ConfigWindowTest::raiseAndClose()

@@ -94,7 +94,8 @@ void DevicePanel::refresh()
 void DevicePanel::retranslate()
 {
     texts_.apply();
-    for (int i = 0; i < mode_->count(); ++i)
-        mode_->setItemText(i, vlk::text(modeKeys[i]));
+    int mode = 0;
+    for (const char* key : modeKeys)
+        mode_->setItemText(mode++, vlk::text(key));
     refresh();
 }

@@ -53,6 +53,9 @@ bool PluginLink::load(const QString& path)
         return false;
     }
     libraryInfo(&info_);
+    // The record's token, zero-extended to an address.
+    const std::uintptr_t token = info_.handle;
+    std::memcpy(&handle_, &token, sizeof handle_);
     receive_ = receive;
     initialize(&PluginLink::callback);
     return true;
@@ -94,10 +97,7 @@ void PluginLink::send(vlk::Message id, void* p1, void* p2)
     if (!isLoaded())
         return;
     const auto number = static_cast<std::uint32_t>(id);
-    pass(vlk::Direction::ToPlugin, number, p1, p2, [&] {
-        // The token, zero-extended.
-        receive_(reinterpret_cast<void*>(static_cast<std::uintptr_t>(info_.handle)), number, p1, p2);
-    });
+    pass(vlk::Direction::ToPlugin, number, p1, p2, [&] { receive_(handle_, number, p1, p2); });
 }
 
 void PluginLink::callback(void* /*device*/, std::uint32_t id, void* p1, void* p2)

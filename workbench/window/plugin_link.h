@@ -58,5 +58,6 @@ private:
     QLibrary library_;
     QString error_;
     vlk::LibraryInfo info_{};
+    void* handle_ = nullptr;
     vlk::ReceiveMessageFunction receive_ = nullptr;
 };

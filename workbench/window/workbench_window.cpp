@@ -376,7 +376,7 @@ void WorkbenchWindow::showHelp(const QString& page)
     // A window over a modal dialog is only usable as its child.
     QWidget* parent = QApplication::activeModalWidget() ? QApplication::activeModalWidget() : this;
     if (help_ && help_->parentWidget() != parent)
-        delete help_;
+        help_->setParent(parent, help_->windowFlags());
     if (!help_)
         help_ = new HelpViewer(helpPages_, languages_.current(), parent);
     help_->showPage(page);

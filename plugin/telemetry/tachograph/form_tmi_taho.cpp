@@ -135,7 +135,7 @@ void VLK_Form_TMI_Taho::retranslate()
     ui_->comboBox_Card->setAccessibleName(tr("tmiw_046"));
     ui_->dateTimeEdit_File->setAccessibleName(tr("tmiw_042"));
 
-    const auto numbered = [this](const QString& text, int number) {
+    const auto numbered = [](const QString& text, int number) {
         return QStringLiteral("%1 %2 %3").arg(text, tr("abbr_047")).arg(number);
     };
     setItems(ui_->comboBox_Quest,

@@ -32,6 +32,7 @@ public:
     explicit VLK_Widget_Tmi_View(QWidget* parent = nullptr);
     ~VLK_Widget_Tmi_View() override;
 
+    using QDialog::open;
     // Starts anew with the tracker of this configuration file, and asks for the first record.
     void open(const QString& configurationPath);
     void deviceConnected() { setTitle(); }

@@ -1,0 +1,12 @@
+#pragma once
+
+// Keeps a settings page from changing behind the user's back: the wheel scrolls the page and leaves inputs
+// alone that do not have the focus, and Enter in a line does not press a button elsewhere on the page.
+
+class QWidget;
+
+namespace vlk {
+
+void guardInputs(QWidget* page);
+
+} // namespace vlk
