@@ -17,6 +17,11 @@ QDateTime now()
     return heldClock() ? heldClock()() : QDateTime::currentDateTime();
 }
 
+qint32 localOffset()
+{
+    return now().offsetFromUtc();
+}
+
 void setClock(std::function<QDateTime()> clock)
 {
     heldClock() = std::move(clock);

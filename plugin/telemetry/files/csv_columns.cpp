@@ -100,7 +100,7 @@ QString headingText(const CsvColumn& column)
         const int steps = match.captured(QStringLiteral("next")).isEmpty() ? 0 : column.number - row.first;
         const int key = match.captured(QStringLiteral("digits")).toInt() + steps;
         text += wordText(family + QStringLiteral("%1").arg(key, 3, 10, QLatin1Char('0')),
-                        match.captured(QStringLiteral("number")).isEmpty() ? QString() : number);
+                         match.captured(QStringLiteral("number")).isEmpty() ? QString() : number);
     }
     return text + pattern.midRef(done);
 }

@@ -33,13 +33,6 @@ inline bool endsPage(std::string_view line)
         line, [](std::string_view rest) { return rest.starts_with("Page") || rest.starts_with("/Page>"); });
 }
 
-inline bool holdsTag(std::string_view line, std::string_view tag, std::string_view behind)
-{
-    return anyTag(line, [&](std::string_view rest) {
-        return rest.starts_with(tag) && rest.substr(tag.size()).starts_with(behind);
-    });
-}
-
 // What stands between the next two double quotes behind the name; empty where they are missing.
 inline std::string_view attribute(std::string_view line, std::string_view name)
 {

@@ -78,34 +78,47 @@ private:
         input_.skip(header.size());
     }
 
-    // The size of the record that stands here whole, with its length; 0 if none does. A record whose length
-    // and mask disagree is still one if the file goes on behind it as it should.
+    // The size of the record that stands here whole, with its length; 0 if none does.
     std::size_t recordHere()
     {
+        const std::size_t sound = soundRecordHere();
+        return sound != 0 ? sound : oddRecordHere();
+    }
+
+    // One whose length agrees with what it holds.
+    std::size_t soundRecordHere()
+    {
         const Bytes start = input_.peek(kHeadWithLength);
-        if (!looksLikeRecord(start))
-            return start.size() > binary::kLengthBytes && start[2] == kTelemetryRecord ? oddRecord(start) : 0;
-        if (!lengthAgrees(start))
-            return oddRecord(start);
+        if (!looksLikeRecord(start) || !lengthAgrees(start))
+            return 0;
+        // Asking for more may move what `start` looks at.
         const std::size_t size = binary::kLengthBytes + lengthAt(start);
         return input_.peek(size).size() == size ? size : 0;
     }
 
-    std::size_t oddRecord(Bytes start)
+    // One of which that cannot be said, as trackers send them too: the file goes on behind it as it should.
+    std::size_t oddRecordHere()
     {
-        const std::size_t least = start[2] == kExtraPacket ? sizeof(quint8) : RecordHead::kBytes;
-        const std::size_t size = binary::kLengthBytes + lengthAt(start);
+        const Bytes start = input_.peek(kHeadWithLength);
+        if (start.size() <= binary::kLengthBytes)
+            return 0;
+        const std::uint8_t type = start[binary::kLengthBytes];
+        const std::size_t least = type == kExtraPacket ? sizeof(type) : RecordHead::kBytes;
+        const std::size_t length = lengthAt(start);
+        if ((type != kExtraPacket && type != kTelemetryRecord) || length < least)
+            return 0;
+        const std::size_t size = binary::kLengthBytes + length;
         const Bytes further = input_.peek(size + kHeadWithLength);
         const bool leadsOn =
             further.size() == size || (further.size() > size && looksLikeRecord(further.subspan(size)));
-        return size >= binary::kLengthBytes + least && leadsOn ? size : 0;
+        return leadsOn ? size : 0;
     }
 
     void takeRecord(std::size_t size)
     {
         const Bytes record = behind(input_.peek(size), binary::kLengthBytes);
-        contents_.pages.push_back(
-            std::make_unique<TmiPage_Zeta3>(record.data(), static_cast<qsizetype>(record.size())));
+        contents_.pages.push_back(std::make_unique<TmiPage_Zeta3>(
+            record.data(), static_cast<qsizetype>(record.size()), utcOffset_));
         pass(size);
     }
 
@@ -113,23 +126,22 @@ private:
     void passDamage()
     {
         const qint64 begin = input_.position();
-        const bool beginsRecord = looksLikeRecord(input_.peek(kHeadWithLength));
-        const std::size_t length = input_.peek(2).size() == 2 ? lengthAt(input_.peek(2)) : 0;
-        const bool cut = input_.peek(length + 2).size() < length + 2;
+        const bool cut = recordIsCutHere();
         do {
             pass(1);
-        } while (!input_.peek(1).empty() && !soundRecordHere());
+        } while (!input_.peek(1).empty() && soundRecordHere() == 0);
         const bool toTheEnd = input_.peek(1).empty();
-        report(toTheEnd && beginsRecord && cut ? FileDamage::CutShort : FileDamage::Records, begin,
+        report(toTheEnd && cut ? FileDamage::CutShort : FileDamage::Records, begin,
                input_.position() - begin);
     }
 
-    bool soundRecordHere()
+    bool recordIsCutHere()
     {
         const Bytes start = input_.peek(kHeadWithLength);
-        return looksLikeRecord(start) && lengthAgrees(start) &&
-               input_.peek(binary::kLengthBytes + lengthAt(start)).size() ==
-                   binary::kLengthBytes + lengthAt(start);
+        if (!looksLikeRecord(start))
+            return false;
+        const std::size_t size = binary::kLengthBytes + lengthAt(start);
+        return input_.peek(size).size() < size;
     }
 
     void compareWithHeader()
@@ -156,6 +168,7 @@ private:
 
     InputBuffer input_;
     TelemetryContents contents_;
+    qint32 utcOffset_ = localOffset();
     quint16 count_ = 0;
     quint32 recordsCrc_ = 0;
     quint32 crc_ = 0;

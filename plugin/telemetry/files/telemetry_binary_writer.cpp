@@ -69,8 +69,9 @@ std::array<std::uint8_t, binary::kHeaderBytes> header(const TelemetryPages& page
         std::memcpy(bytes.data() + at, text.constData(), text.size());
     };
     const quint32 firstTime = timeOf(*pages.front());
+    // Two digits a byte.
     const QByteArray identity =
-        scrambled(origin.trackerId.toLocal8Bit(), identityKey(firstTime)).left(binary::kIdentityBytes);
+        scrambled(origin.trackerId.toLocal8Bit().left(binary::kIdentityBytes / 2), identityKey(firstTime));
     put(binary::kMagicAt, binary::kMagic);
     put(binary::kVersionAt, binary::kVersion);
     putText(binary::kModelAt, origin.model.toLocal8Bit().left(binary::kModelBytes));

@@ -39,7 +39,7 @@ QString textOf(std::string_view bytes)
     return fromWindows1251(QByteArray(bytes.data(), static_cast<int>(bytes.size())));
 }
 
-std::unique_ptr<TmiPage_Zeta3> readRecord(InputBuffer& input, std::string_view pageLine)
+std::unique_ptr<TmiPage_Zeta3> readRecord(InputBuffer& input, std::string_view pageLine, qint32 utcOffset)
 {
     const auto ver = numberAttribute<quint8>(pageLine, "ver");
     const FieldMask mask = FieldMask::fromText(attribute(pageLine, "format"));
@@ -49,7 +49,7 @@ std::unique_ptr<TmiPage_Zeta3> readRecord(InputBuffer& input, std::string_view p
         if (const auto index = findElement(parts.tag))
             readValue(*index, parts.value, block.data() + kElements[*index].offset);
     });
-    return std::make_unique<TmiPage_Zeta3>(kTelemetryRecord, ver, mask, block);
+    return std::make_unique<TmiPage_Zeta3>(kTelemetryRecord, ver, mask, block, utcOffset);
 }
 
 // A packet in the making: the head, and the area with all that was ever put behind it, of which it keeps
@@ -109,7 +109,8 @@ void readEntry(std::string_view line, PacketParts& packet)
     packet.areaSize += head.size() + size;
 }
 
-std::unique_ptr<TmiPage_Zeta3> readExtraPacket(InputBuffer& input, std::string_view pageLine)
+std::unique_ptr<TmiPage_Zeta3> readExtraPacket(InputBuffer& input, std::string_view pageLine,
+                                               qint32 utcOffset)
 {
     PacketParts packet;
     packet.head[0] = kExtraPacket;
@@ -127,42 +128,48 @@ std::unique_ptr<TmiPage_Zeta3> readExtraPacket(InputBuffer& input, std::string_v
                              ExtraPacket::kBesideHeads + packet.areaSize;
     qToLittleEndian(static_cast<quint16>(size), packet.head.data() + ExtraPacket::kSizeAt);
     const auto area = std::span(packet.area).first(std::min(packet.areaSize, packet.area.size()));
-    return std::make_unique<TmiPage_Zeta3>(ExtraPacket::fromParts(packet.head, area));
+    return std::make_unique<TmiPage_Zeta3>(ExtraPacket::fromParts(packet.head, area), utcOffset);
 }
 
-void readPage(InputBuffer& input, std::string_view line, TelemetryPages& pages)
+void readPage(InputBuffer& input, std::string_view line, qint32 utcOffset, TelemetryPages& pages)
 {
     // The line lives in the buffer only until the next one is read.
     const std::string pageLine(line);
     switch (numberAttribute<quint8>(pageLine, "type")) {
     case kTelemetryRecord:
-        pages.push_back(readRecord(input, pageLine));
+        pages.push_back(readRecord(input, pageLine, utcOffset));
         break;
     case kExtraPacket:
-        pages.push_back(readExtraPacket(input, pageLine));
+        pages.push_back(readExtraPacket(input, pageLine, utcOffset));
         break;
     default:
         forEachLineOfPage(input, [](std::string_view) {});
     }
 }
 
+void readTypes(std::string_view line, const TypeLine& row, TelemetryTitles& titles)
+{
+    const QString letters = textOf(attribute(line, "type")).leftJustified(row.count, QLatin1Char('u'));
+    for (int i = 0; i < row.count; ++i)
+        titles.userTypes[row.first + i] = letters[i];
+}
+
 void readTitle(std::string_view line, TelemetryTitles& titles)
 {
-    for (const TitleLine& row : kTitleLines) {
-        if (holdsTag(line, row.tag, " ")) {
-            titleOf(titles, row) = textOf(attribute(line, "title"));
-            return;
+    anyTag(line, [&](std::string_view rest) {
+        const auto begins = [&](const auto& row) { return rest.starts_with(row.tag); };
+        if (const auto* row = std::ranges::find_if(kTitleLines, begins); row != std::end(kTitleLines)) {
+            if (!rest.substr(row->tag.size()).starts_with(' '))
+                return false;
+            titleOf(titles, *row) = textOf(attribute(line, "title"));
+            return true;
         }
-    }
-    for (const TypeLine& row : kTypeLines) {
-        if (holdsTag(line, row.tag, "")) {
-            const QString letters =
-                textOf(attribute(line, "type")).leftJustified(row.count, QLatin1Char('u'));
-            for (int i = 0; i < row.count; ++i)
-                titles.userTypes[row.first + i] = letters[i];
-            return;
-        }
-    }
+        const auto* row = std::ranges::find_if(kTypeLines, begins);
+        if (row == std::end(kTypeLines))
+            return false;
+        readTypes(line, *row, titles);
+        return true;
+    });
 }
 
 } // namespace
@@ -171,9 +178,10 @@ TelemetryContents readTelemetryXml(QIODevice& device)
 {
     InputBuffer input(device);
     TelemetryContents contents;
+    const qint32 utcOffset = localOffset();
     for (std::string_view line = input.line(kLongestLine); !line.empty(); line = input.line(kLongestLine)) {
         if (startsPage(line))
-            readPage(input, line, contents.pages);
+            readPage(input, line, utcOffset, contents.pages);
         else
             readTitle(line, contents.titles);
     }

@@ -60,12 +60,11 @@ void addRecord(OutputBuffer& out, const TmiPage_Zeta3& page)
 
 void addEntry(OutputBuffer& out, const ExtraEntry& entry)
 {
-    constexpr int kCardLetters = 16;
     if (entry.type < ExtraEntry::TouchKey || entry.type > ExtraEntry::Rfid)
         return;
     out << "\t\t<Dynamic type=\"" << entry.type << "\" size=\"" << entry.size << "\" value=\"";
     if (entry.type == ExtraEntry::Card)
-        out << toWindows1251(entry.text().left(kCardLetters));
+        out << toWindows1251(entry.text());
     else
         out << entry.number();
     out << "\"/>\r\n";

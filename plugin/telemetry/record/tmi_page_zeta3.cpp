@@ -1,25 +1,30 @@
 #include "telemetry/record/tmi_page_zeta3.h"
 
-#include "base/clock.h"
 #include "telemetry/record/record_head.h"
 
 #include <cstring>
 
 using namespace vlk;
 
-TmiPage_Zeta3::TmiPage_Zeta3(const FieldMask& mask) : TmiPage_Zeta3(0, 0, mask, {}) {}
+TmiPage_Zeta3::TmiPage_Zeta3(const FieldMask& mask, qint32 utcOffset)
+    : TmiPage_Zeta3(0, 0, mask, {}, utcOffset)
+{
+}
 
-TmiPage_Zeta3::TmiPage_Zeta3(const void* record, qsizetype size) : TmiPage_Zeta3()
+TmiPage_Zeta3::TmiPage_Zeta3(const void* record, qsizetype size, qint32 utcOffset)
+    : TmiPage_Zeta3(FieldMask(), utcOffset)
 {
     setRecord(record, size);
 }
 
-TmiPage_Zeta3::TmiPage_Zeta3(quint8 type, quint8 ver, const FieldMask& mask, const ValueBlock& block)
-    : RecordValues(mask, block), type_(type), ver_(ver), utcOffset_(vlk::now().offsetFromUtc())
+TmiPage_Zeta3::TmiPage_Zeta3(quint8 type, quint8 ver, const FieldMask& mask, const ValueBlock& block,
+                             qint32 utcOffset)
+    : RecordValues(mask, block), type_(type), ver_(ver), utcOffset_(utcOffset)
 {
 }
 
-TmiPage_Zeta3::TmiPage_Zeta3(const ExtraPacket& extra) : TmiPage_Zeta3()
+TmiPage_Zeta3::TmiPage_Zeta3(const ExtraPacket& extra, qint32 utcOffset)
+    : TmiPage_Zeta3(FieldMask(), utcOffset)
 {
     setExtra(extra, {});
 }

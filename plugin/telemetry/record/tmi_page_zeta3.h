@@ -10,6 +10,7 @@
 //
 // An extra packet has no mask and no such values; it is read through extra().
 
+#include "base/clock.h"
 #include "telemetry/record/extra_packet.h"
 #include "telemetry/record/record_values.h"
 
@@ -24,12 +25,13 @@ public:
     using RecordValues::number;
 
     // No values; tells which fields a mask selects.
-    explicit TmiPage_Zeta3(const vlk::FieldMask& mask = {});
+    explicit TmiPage_Zeta3(const vlk::FieldMask& mask = {}, qint32 utcOffset = vlk::localOffset());
     // From the bytes of a record, from its type byte on.
-    TmiPage_Zeta3(const void* record, qsizetype size);
+    TmiPage_Zeta3(const void* record, qsizetype size, qint32 utcOffset = vlk::localOffset());
     // From the parts that a telemetry file gives.
-    TmiPage_Zeta3(quint8 type, quint8 ver, const vlk::FieldMask& mask, const ValueBlock& block);
-    explicit TmiPage_Zeta3(const vlk::ExtraPacket& extra);
+    TmiPage_Zeta3(quint8 type, quint8 ver, const vlk::FieldMask& mask, const ValueBlock& block,
+                  qint32 utcOffset = vlk::localOffset());
+    explicit TmiPage_Zeta3(const vlk::ExtraPacket& extra, qint32 utcOffset = vlk::localOffset());
 
     // Decodes again, and keeps utcOffset(). The memory of the payload is used again.
     void setRecord(const void* record, qsizetype size);

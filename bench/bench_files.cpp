@@ -1,0 +1,207 @@
+// Reading and writing files of telemetry. Reading XML stands beside the SAX parser of libxml2 that does
+// nothing over the same bytes; writing beside snprintf of the same cells into a buffer. The counters tell
+// megabytes a second and the ratio.
+
+#include "telemetry/files/csv_columns.h"
+#include "telemetry/files/telemetry_binary_reader.h"
+#include "telemetry/files/telemetry_binary_writer.h"
+#include "telemetry/files/telemetry_csv_writer.h"
+#include "telemetry/files/telemetry_xml_reader.h"
+#include "telemetry/files/telemetry_xml_writer.h"
+
+#include <QBuffer>
+
+#include <benchmark/benchmark.h>
+#include <libxml/parser.h>
+
+#include <bit>
+#include <cstdio>
+#include <ctime>
+#include <malloc.h>
+#include <random>
+
+using namespace vlk;
+
+namespace {
+
+constexpr int kAllFields = kFieldCount;
+constexpr int kUsualFields = 60;
+
+// Records with values as they are on the road; `fields` of them, evenly spread.
+TelemetryPages pagesWith(int count, int fields)
+{
+    std::mt19937 random(7106);
+    FieldMask mask;
+    for (int i = 0; i < fields; ++i)
+        mask.set(i * kFieldCount / fields);
+    TelemetryPages pages;
+    TmiPage_Zeta3::ValueBlock block;
+    for (int i = 0; i < count; ++i) {
+        std::ranges::generate(block, [&] { return static_cast<std::uint8_t>(random()); });
+        for (const Element& element : kElements) {
+            const float plausible = static_cast<float>(random() % 100000) / 100;
+            if (element.type == ValueType::f32)
+                qToLittleEndian(std::bit_cast<quint32>(plausible), block.data() + element.offset);
+        }
+        pages.push_back(std::make_unique<TmiPage_Zeta3>(176, 30, mask, block));
+    }
+    return pages;
+}
+
+template <class Write>
+QByteArray written(Write write)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    write(buffer);
+    return buffer.data();
+}
+
+template <class Read>
+TelemetryContents readFrom(Read read, QByteArray& bytes)
+{
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    return read(buffer);
+}
+
+// Counts and forgets, so that only the writer is measured.
+class Sink : public QIODevice
+{
+public:
+    Sink() { open(QIODevice::WriteOnly | QIODevice::Unbuffered); }
+
+protected:
+    qint64 readData(char* /*data*/, qint64 /*size*/) override { return -1; }
+    qint64 writeData(const char* /*data*/, qint64 size) override { return size; }
+};
+
+// Processor time of the best of a few rounds, so that a busy machine measures the same.
+double secondsOf(auto&& work)
+{
+    double best = 1e9;
+    for (int i = 0; i < 5; ++i) {
+        const std::clock_t begin = std::clock();
+        work();
+        best = std::min(best, static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC);
+    }
+    return best;
+}
+
+void report(benchmark::State& state, int bytes, double seconds, double baseline, const char* of)
+{
+    state.counters["MB_per_s"] = bytes / seconds / 1e6;
+    state.counters[of] = seconds / baseline;
+}
+
+void readXml(benchmark::State& state, int fields)
+{
+    const TelemetryPages pages = pagesWith(2000, fields);
+    QByteArray file = written([&](QIODevice& device) { writeTelemetryXml(device, pages, {}); });
+    const auto read = [&] { benchmark::DoNotOptimize(readFrom(readTelemetryXml, file)); };
+    const auto walk = [&] {
+        xmlSAXHandler idle{};
+        idle.initialized = XML_SAX2_MAGIC;
+        xmlSAXUserParseMemory(&idle, nullptr, file.constData(), file.size());
+    };
+    for ([[maybe_unused]] auto _ : state)
+        read();
+    report(state, file.size(), secondsOf(read), secondsOf(walk), "time_of_idle_sax");
+}
+
+void print(const TmiPage_Zeta3& page, ElementIndex index, const char* form, std::string_view name)
+{
+    char buffer[512];
+    const int length = static_cast<int>(name.size());
+    int used = std::snprintf(buffer, sizeof buffer, form, length, name.data());
+    if (kElements[index].type == ValueType::f32)
+        used += std::snprintf(buffer + used, sizeof buffer - used, "%.9g", page.number(index));
+    else
+        used += std::snprintf(buffer + used, sizeof buffer - used, "%lld",
+                              static_cast<long long>(page.integer(index)));
+    std::snprintf(buffer + used, sizeof buffer - used, form, length, name.data());
+    benchmark::DoNotOptimize(buffer);
+}
+
+void writeXml(benchmark::State& state, int fields)
+{
+    const TelemetryPages pages = pagesWith(1000, fields);
+    const auto write = [&] {
+        Sink sink;
+        writeTelemetryXml(sink, pages, {});
+    };
+    const auto printAll = [&] {
+        for (const auto& page : pages) {
+            for (int i = 0; i < kElementCount; ++i) {
+                if (page->has(static_cast<ElementIndex>(i)))
+                    print(*page, static_cast<ElementIndex>(i), "\t\t<%.*s>", kElements[i].name);
+            }
+        }
+    };
+    for ([[maybe_unused]] auto _ : state)
+        write();
+    const int bytes = written([&](QIODevice& device) { writeTelemetryXml(device, pages, {}); }).size();
+    report(state, bytes, secondsOf(write), secondsOf(printAll), "time_of_snprintf");
+}
+
+// 10,000 full records, in memory that must not grow with them: 1,000 pages are written ten times.
+void writeCsv(benchmark::State& state)
+{
+    const TelemetryPages pages = pagesWith(1000, kAllFields);
+    const auto write = [&] {
+        Sink sink;
+        writeTelemetryCsv(sink, pages, {}, {});
+    };
+    const auto printAll = [&] {
+        for (const auto& page : pages) {
+            for (const CsvColumn& column : csvColumns())
+                print(*page, column.element(), "=\"%.*s", {});
+        }
+    };
+    const auto before = mallinfo2();
+    for ([[maybe_unused]] auto _ : state)
+        write();
+    const auto after = mallinfo2();
+    const double seconds = secondsOf(write);
+    const int bytes = written([&](QIODevice& device) { writeTelemetryCsv(device, pages, {}, {}); }).size();
+    report(state, bytes, seconds, secondsOf(printAll), "time_of_snprintf");
+    state.counters["s_of_10000_records"] = 10 * seconds;
+    state.counters["kB_grown"] = (static_cast<double>(after.uordblks + after.hblkhd) -
+                                  static_cast<double>(before.uordblks + before.hblkhd)) /
+                                 1e3;
+}
+
+// 100,000 records of 60 fields.
+void readMany(benchmark::State& state, bool binary)
+{
+    TelemetryPages pages = pagesWith(100'000, kUsualFields);
+    QByteArray file = written([&](QIODevice& device) {
+        if (binary)
+            writeTelemetryBinary(device, pages, {});
+        else
+            writeTelemetryXml(device, pages, {});
+    });
+    pages.clear();
+    const auto used = [] {
+        const auto info = mallinfo2();
+        return static_cast<double>(info.uordblks + info.hblkhd);
+    };
+    for ([[maybe_unused]] auto _ : state) {
+        const double before = used();
+        const TelemetryContents contents =
+            binary ? readFrom(readTelemetryBinary, file) : readFrom(readTelemetryXml, file);
+        state.counters["bytes_per_record"] =
+            (used() - before) / static_cast<double>(std::max<std::size_t>(contents.pages.size(), 1));
+    }
+    state.counters["MB"] = file.size() / 1e6;
+}
+
+} // namespace
+
+BENCHMARK_CAPTURE(readXml, usual_fields, kUsualFields);
+BENCHMARK_CAPTURE(readXml, all_fields, kAllFields);
+BENCHMARK_CAPTURE(writeXml, usual_fields, kUsualFields);
+BENCHMARK_CAPTURE(writeXml, all_fields, kAllFields);
+BENCHMARK(writeCsv)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(readMany, xml, false)->Unit(benchmark::kMillisecond)->Iterations(1);
+BENCHMARK_CAPTURE(readMany, binary, true)->Unit(benchmark::kMillisecond)->Iterations(1);

@@ -1,0 +1,105 @@
+#pragma once
+
+// Records and packets for the tests of telemetry files.
+
+#include "telemetry/files/telemetry_pages.h"
+
+#include <initializer_list>
+#include <random>
+
+namespace vlk {
+
+// A record with these elements; a float is given by its bits.
+inline std::unique_ptr<TmiPage_Zeta3>
+recordOf(std::initializer_list<std::pair<ElementIndex, std::uint64_t>> values)
+{
+    FieldMask mask;
+    TmiPage_Zeta3::ValueBlock block{};
+    for (const auto& [index, value] : values) {
+        mask.set(kElements[index].field);
+        for (int i = 0; i < kElements[index].width; ++i)
+            block[kElements[index].offset + i] = static_cast<std::uint8_t>(value >> 8 * i);
+    }
+    return std::make_unique<TmiPage_Zeta3>(176, 30, mask, block);
+}
+
+// A packet of the telemetry road: the 53 bytes of the head from its number to its engine hours, without sizes
+// and versions, then the entries.
+inline std::unique_ptr<TmiPage_Zeta3> packetOf(const QByteArray& navigation, const QByteArray& state,
+                                               const QByteArray& entries)
+{
+    const QByteArray counted = QByteArray("\x02\x25") + navigation + QByteArray("\x01\x0e") + state + entries;
+    const int size = counted.size();
+    const QByteArray packet =
+        QByteArray("\xb1") + static_cast<char>(size & 0xff) + static_cast<char>(size >> 8) + counted;
+    return std::make_unique<TmiPage_Zeta3>(packet.constData(), packet.size());
+}
+
+inline QByteArray randomBytes(std::mt19937& random, int size)
+{
+    QByteArray bytes(size, '\0');
+    std::generate(bytes.begin(), bytes.end(), [&] { return static_cast<char>(random()); });
+    return bytes;
+}
+
+// As from the tracker, with a random mask and random values; every fourth is an extra packet with a few keys.
+inline TelemetryPages randomPages(std::mt19937& random, int count)
+{
+    TelemetryPages pages;
+    for (int i = 0; i < count; ++i) {
+        if (i % 4 == 3) {
+            QByteArray entries;
+            for (unsigned key = random() % 5; key > 0; --key)
+                entries += QByteArray(random() % 2 == 0 ? "\x01\x08" : "\x03\x08") + randomBytes(random, 8);
+            entries += QByteArray("\x02\x10") + QByteArray("AB 12345").leftJustified(16, '\0');
+            pages.push_back(packetOf(randomBytes(random, 37), randomBytes(random, 14), entries));
+            continue;
+        }
+        QByteArray record = QByteArray("\xb0\x1e") + randomBytes(random, FieldMask::kBytes);
+        record[33] = static_cast<char>(record[33] & ~1);
+        FieldMask::Bytes mask;
+        std::copy_n(record.constData() + 2, mask.size(), mask.begin());
+        record += randomBytes(random, FieldMask(mask).payloadSize());
+        pages.push_back(std::make_unique<TmiPage_Zeta3>(record.constData(), record.size()));
+    }
+    return pages;
+}
+
+// The first element of which the sources hold different bytes. XML keeps that a float is no number, not
+// which.
+template <class Source>
+QString difference(const ElementValues<Source>& left, const ElementValues<Source>& right, auto isHeld)
+{
+    for (int i = 0; i < kElementCount; ++i) {
+        const auto index = static_cast<ElementIndex>(i);
+        const bool bothNaN = std::isnan(left.number(index)) && std::isnan(right.number(index));
+        if (isHeld(index) && left.raw(index) != right.raw(index) && !bothNaN)
+            return QString::fromLatin1(kElements[i].name.data(), static_cast<int>(kElements[i].name.size()));
+    }
+    return {};
+}
+
+// What is different between two lists; empty if they are the same to everyone who looks at them.
+inline QString difference(const TelemetryPages& left, const TelemetryPages& right)
+{
+    if (left.size() != right.size())
+        return QStringLiteral("%1 and %2 pages").arg(left.size()).arg(right.size());
+    const auto sizes = [](const ExtraPacket& packet) {
+        return std::tuple(packet.size(), packet.stVer(), packet.stSize(), packet.hVer(), packet.hSize());
+    };
+    for (std::size_t i = 0; i < left.size(); ++i) {
+        const TmiPage_Zeta3& a = *left[i];
+        const TmiPage_Zeta3& b = *right[i];
+        QString found = difference<ExtraPacket>(a.extra(), b.extra(), [](auto) { return true; });
+        found += difference<TmiPage_Zeta3::RecordValues>(a, b, [&](auto index) { return a.has(index); });
+        if (a.type() != b.type() || a.ver() != b.ver() || a.isExtra() != b.isExtra() || a.mask() != b.mask())
+            found += QLatin1String(" head");
+        if (sizes(a.extra()) != sizes(b.extra()) || !std::ranges::equal(a.extra().area(), b.extra().area()))
+            found += QLatin1String(" packet");
+        if (!found.isEmpty())
+            return QStringLiteral("page %1: ").arg(i) + found;
+    }
+    return {};
+}
+
+} // namespace vlk

@@ -1,0 +1,495 @@
+// Telemetry files of both forms: the bytes, the way back, and what is left of files that are damaged.
+
+#include "sample_pages.h"
+#include "telemetry/files/telemetry_binary_reader.h"
+#include "telemetry/files/telemetry_binary_writer.h"
+#include "telemetry/files/telemetry_file.h"
+#include "telemetry/files/telemetry_xml_reader.h"
+#include "telemetry/files/telemetry_xml_writer.h"
+
+#include <QBuffer>
+#include <QTemporaryDir>
+#include <QXmlStreamReader>
+#include <QtTest>
+
+#include <csignal>
+#include <sys/resource.h>
+
+using namespace vlk;
+
+namespace {
+
+constexpr quint32 kTime = 1700000000; // 2023-11-14 22:13:20
+
+const QByteArray kNavigation = QByteArray::fromHex("070000002300"
+                                                   "40f15365"
+                                                   "2b00f15365feffffff030000002a07000000002041"
+                                                   "0e0100002040");
+const QByteArray kState = QByteArray::fromHex("1803efbeadde02000000100e0000");
+
+TelemetryPages samplePages()
+{
+    TelemetryPages pages;
+    pages.push_back(recordOf({{element("Code"), 35},
+                              {element("Speed"), 0x41480000},
+                              {element("Run"), 0x49742400},
+                              {element("Temp1"), 0xFB},
+                              {element("CAN_TimeTO"), 0xFFFF},
+                              {element("NaviHDop"), 12},
+                              {element("NaviAltitude"), 0xFFFFFFFF},
+                              {element("Time"), kTime}}));
+    pages.push_back(packetOf(kNavigation, kState,
+                             QByteArray::fromHex("01087b00000000000000"
+                                                 "0903010203"
+                                                 "0210") +
+                                 QByteArray("CARD 0123456789A") +
+                                 QByteArray::fromHex("0308ffffffffffffffff")));
+    return pages;
+}
+
+TelemetryOrigin sampleOrigin()
+{
+    TelemetryOrigin origin;
+    origin.model = QStringLiteral("R-7106");
+    origin.vendor = QStringLiteral("VLK");
+    origin.trackerId = QStringLiteral("12");
+    origin.timeOffset = -7200;
+    origin.titles.inputs[0] = QString::fromUtf8("Дверь & ①");
+    origin.titles.outputs[1] = QStringLiteral("Out");
+    origin.titles.temperatures[3] = QStringLiteral("T4");
+    origin.titles.userTypes[1] = QStringLiteral("b");
+    origin.titles.userTypes[48] = QString();
+    return origin;
+}
+
+template <class Write>
+QByteArray written(Write write, const TelemetryPages& pages, const TelemetryOrigin& origin = sampleOrigin())
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    return write(buffer, pages, origin) ? buffer.data() : QByteArray("failed");
+}
+
+template <class Read>
+TelemetryContents readBack(Read read, QByteArray bytes)
+{
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    return read(buffer);
+}
+
+// Bit by bit, from the definition.
+quint32 slowCrc(const QByteArray& bytes, quint32 polynomial)
+{
+    quint32 state = ~0U;
+    for (const char byte : bytes) {
+        state ^= static_cast<quint8>(byte);
+        for (int bit = 0; bit < 8; ++bit)
+            state = state >> 1 ^ ((state & 1) != 0 ? polynomial : 0);
+    }
+    return ~state;
+}
+
+QByteArray little(quint64 number, int bytes)
+{
+    QByteArray text;
+    for (int i = 0; i < bytes; ++i)
+        text += static_cast<char>(number >> 8 * i);
+    return text;
+}
+
+QString numbers(const TelemetryPages& pages)
+{
+    QStringList list;
+    for (const auto& page : pages)
+        list += QString::number(page->number());
+    return list.join(QLatin1Char(' '));
+}
+
+QString kinds(const std::vector<FileDamage>& damages)
+{
+    QString letters;
+    for (const FileDamage& damage : damages)
+        letters += QLatin1Char("NHRCSM"[damage.kind]);
+    return letters;
+}
+
+} // namespace
+
+class TestFiles : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        qputenv("TZ", "UTC");
+        tzset();
+    }
+
+    void xmlBytes()
+    {
+        const QByteArray head =
+            "<?xml version=\"1.0\" encoding=\"windows-1251\"?>\r\n"
+            "<TMI model=\"R-7106\" modification=\"7\" vendor=\"VLK\" version=\"3.0\"> \r\n"
+            "\t<TIMEZONE offset=\"-7200\"/>\r\n"
+            "\t<IN1 title=\"\xc4\xe2\xe5\xf0\xfc & ?\"/>\r\n"
+            "\t<IN2 title=\"\"/>\r\n\t<IN3 title=\"\"/>\r\n"
+            "\t<OUT1 title=\"\"/>\r\n\t<OUT2 title=\"Out\"/>\r\n"
+            "\t<TEMP1 title=\"\"/>\r\n\t<TEMP2 title=\"\"/>\r\n\t<TEMP3 title=\"\"/>\r\n"
+            "\t<TEMP4 title=\"T4\"/>\r\n"
+            "\t<USERPARAM1 type=\"ubuuuuuuuuuuuuuu\"/>\r\n"
+            "\t<USERPARAM2 type=\"uuuuuuuuuuuuuuu\"/>\r\n"
+            "\t<USERPARAM4 type=\"uuuuuuuuuuuuuuu\"/>\r\n"
+            "\t<USERPARAM8 type=\"uuu\"/>\r\n";
+        const QByteArray none = "\t<INTERVAL count=\"0\" dtFirst=\"0\" dtLast=\"0\"/>\r\n</TMI>\r\n";
+        QCOMPARE(written(writeTelemetryXml, {}), head + none);
+
+        QByteArray mask(kFieldCount, '0');
+        for (const char* name : {"12", "14", "1", "2", "44", "67", "70", "73"})
+            mask[QByteArray(name).toInt()] = '1';
+        const QByteArray pages =
+            "\t<INTERVAL count=\"2\" dtFirst=\"14.11.2023 22:13:20\" dtLast=\"14.11.2023 22:14:24\"/>\r\n"
+            "\t<Page type=\"176\" ver=\"30\" format=\"" +
+            mask +
+            "\">\r\n\t\t<NumPage>0</NumPage>\r\n\t\t<Code>35</Code>\r\n\t\t<Time>1700000000</Time>\r\n"
+            "\t\t<Speed>12.5</Speed>\r\n\t\t<Run>1e+06</Run>\r\n\t\t<Temp1>-5</Temp1>\r\n"
+            "\t\t<CAN_TimeTO>-1</CAN_TimeTO>\r\n\t\t<NaviHDop>1.2</NaviHDop>\r\n"
+            "\t\t<NaviPDop>0</NaviPDop>\r\n\t\t<NaviAltitude>-0.001</NaviAltitude>\r\n\t</Page>\r\n"
+            "\t<Page type=\"177\" size=\"98\" stVer=\"2\" stSize=\"37\" hVer=\"1\" hSize=\"14\">\r\n"
+            "\t\t<NumPage>7</NumPage>\r\n\t\t<Code>35</Code>\r\n\t\t<Time>1700000064</Time>\r\n"
+            "\t\t<StateNGauge>43</StateNGauge>\r\n\t\t<LastTime>1700000000</LastTime>\r\n"
+            "\t\t<Latitude>-2</Latitude>\r\n\t\t<Longitude>3</Longitude>\r\n\t\t<Altitude>1834</Altitude>\r\n"
+            "\t\t<Speed>10</Speed>\r\n\t\t<Course>270</Course>\r\n\t\t<Run>2.5</Run>\r\n"
+            "\t\t<State>24</State>\r\n\t\t<StateOut1>3</StateOut1>\r\n"
+            "\t\t<StateIn_Imp1>3735928559</StateIn_Imp1>\r\n\t\t<StateIn_Imp2>2</StateIn_Imp2>\r\n"
+            "\t\t<Motochas>3600</Motochas>\r\n"
+            "\t\t<Dynamic type=\"1\" size=\"8\" value=\"123\"/>\r\n"
+            "\t\t<Dynamic type=\"2\" size=\"16\" value=\"CARD 0123456789A\"/>\r\n"
+            "\t\t<Dynamic type=\"3\" size=\"8\" value=\"18446744073709551615\"/>\r\n\t</Page>\r\n</TMI>\r\n";
+        QCOMPARE(written(writeTelemetryXml, samplePages()).split('\n'), (head + pages).split('\n'));
+
+        // The way back: the entry of an unknown type has no line, the rest is there.
+        const TelemetryContents contents = readBack(readTelemetryXml, head + pages);
+        const TelemetryPages wanted = samplePages();
+        QCOMPARE(contents.pages.size(), wanted.size());
+        QCOMPARE(contents.pages[0]->raw(element("NaviHDop")), quint64{12});
+        QCOMPARE(contents.pages[0]->valueBlock(), wanted[0]->valueBlock());
+        QCOMPARE(contents.pages[1]->extra().size(), quint16{93});
+        QCOMPARE(contents.titles.inputs[0], QString::fromUtf8("Дверь & ?"));
+        QCOMPARE(contents.titles.outputs[1] + contents.titles.temperatures[3], QStringLiteral("OutT4"));
+        QCOMPARE(contents.titles.userTypes[1] + contents.titles.userTypes[48], QStringLiteral("bu"));
+    }
+
+    void binaryBytes()
+    {
+        QCOMPARE(written(writeTelemetryBinary, {}), QByteArray());
+        // A record read from XML has no bytes of the tracker; it is packed from its values.
+        TelemetryPages pages = samplePages();
+        const QByteArray file = written(writeTelemetryBinary, pages);
+        const QByteArray mask = pages[0]->maskBytes();
+        const QByteArray payload = QByteArray::fromHex("2300") + little(kTime, 4) +
+                                   QByteArray::fromHex("00004841"
+                                                       "00247449"
+                                                       "fb"
+                                                       "ffff"
+                                                       "0c00"
+                                                       "ffffffff");
+        const QByteArray record = little(34 + payload.size(), 2) + "\xb0\x1e" + mask + payload;
+        const QByteArray packet = pages[1]->payload();
+        const QByteArray records = record + little(packet.size() + 1, 2) + "\xb1" + packet;
+        QByteArray header = QByteArray::fromHex("0100800003") + "R-7106" + little(kTime, 4) +
+                            little(kTime + 64, 4) + little(2, 2) + little(slowCrc(records, 0xEDB88320), 4) +
+                            "\x04" + QByteArray("373a").leftJustified(30, '\0');
+        QCOMPARE(header.size(), 56);
+        quint8 crc8 = 0xFF;
+        for (const char byte : header) {
+            crc8 ^= static_cast<quint8>(byte);
+            for (int bit = 0; bit < 8; ++bit)
+                crc8 = static_cast<quint8>(crc8 << 1 ^ ((crc8 & 0x80) != 0 ? 0x31 : 0));
+        }
+        header += little(crc8, 2) + QByteArray(70, '\0');
+        QCOMPARE(file.left(128).toHex(), header.toHex());
+        QCOMPARE(file.mid(128).toHex(), records.toHex());
+
+        // Longer texts are cut so that they fit, and a short model leaves zeros.
+        TelemetryOrigin origin = sampleOrigin();
+        origin.trackerId = QString(40, QLatin1Char('9'));
+        origin.model = QStringLiteral("R");
+        const QByteArray cut = written(writeTelemetryBinary, pages, origin);
+        QCOMPARE(cut.mid(5, 6), QByteArray("R").leftJustified(6, '\0'));
+        QCOMPARE(static_cast<int>(cut[25]), 28);
+        QVERIFY(cut[53] != '\0' && cut[54] == '\0');
+    }
+
+    void roundTrips()
+    {
+        std::mt19937 random(7106);
+        const TelemetryPages pages = randomPages(random, 1500);
+        const QByteArray xml = written(writeTelemetryXml, pages);
+        const TelemetryContents fromXml = readBack(readTelemetryXml, xml);
+        QCOMPARE(difference(pages, fromXml.pages), QString());
+
+        const QByteArray binary = written(writeTelemetryBinary, pages);
+        const TelemetryContents fromBinary = readBack(readTelemetryBinary, binary);
+        QCOMPARE(kinds(fromBinary.damages), QString());
+        QCOMPARE(difference(pages, fromBinary.pages), QString());
+        QCOMPARE(fromBinary.pages[5]->payload(), pages[5]->payload());
+        // Through both forms: records that were read from XML are packed again.
+        const TelemetryContents twice =
+            readBack(readTelemetryBinary, written(writeTelemetryBinary, fromXml.pages));
+        QCOMPARE(difference(pages, twice.pages), QString());
+    }
+
+    // Everything that an XML parser finds in the file is what the records hold.
+    void xmlForOthers()
+    {
+        std::mt19937 random(1);
+        const TelemetryPages pages = randomPages(random, 40);
+        TelemetryOrigin origin = sampleOrigin();
+        origin.titles.inputs[0] = QString::fromUtf8("Дверь");
+        QXmlStreamReader reader(written(writeTelemetryXml, pages, origin));
+        int page = -1;
+        int elements = 0;
+        while (!reader.atEnd()) {
+            if (reader.readNext() != QXmlStreamReader::StartElement)
+                continue;
+            const QByteArray name = reader.name().toLatin1();
+            if (name == "IN1")
+                QCOMPARE(reader.attributes().value("title").toString(), QString::fromUtf8("Дверь"));
+            if (name == "Page") {
+                ++page;
+                if (!pages[page]->isExtra())
+                    QCOMPARE(reader.attributes().value("format").toString(), pages[page]->formatText());
+            }
+            const auto index = findElement({name.constData(), static_cast<std::size_t>(name.size())});
+            if (page < 0 || !index)
+                continue;
+            const TmiPage_Zeta3& source = *pages[page];
+            double wanted = source.isExtra() ? source.extra().number(*index) : source.number(*index);
+            if (name == "CAN_TimeTO")
+                wanted = static_cast<qint16>(wanted);
+            const double scale = name == "NaviAltitude" ? 1000 : name.endsWith("Dop") ? 10 : 1;
+            const double found = reader.readElementText().toDouble() * scale;
+            QVERIFY2(std::isnan(wanted) || wanted == found ||
+                         std::abs(wanted - found) < 1e-6 * std::abs(found),
+                     name.constData());
+            ++elements;
+        }
+        QVERIFY2(reader.error() == QXmlStreamReader::NoError,
+                 qPrintable(reader.errorString() + QString::number(reader.lineNumber())));
+        QCOMPARE(page + 1, 40);
+        QVERIFY(elements > 4000);
+    }
+
+    // A page line in short is {mask}: the fields of these numbers.
+    void forgivingXml_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<QString>("found");
+
+        const QByteArray page = "<Page type=\"176\" ver=\"30\" format=\"111\">\n";
+        const QByteArray one = page + "<NumPage>1</NumPage>\n</Page>\n";
+        const QByteArray two = page + "<NumPage>2</NumPage>\n</Page>\n";
+        QTest::newRow("nothing") << QByteArray() << "";
+        QTest::newRow("binary") << QByteArray(5000, '\0') + QByteArray(5000, '\xff') << "";
+        QTest::newRow("in one line") << QByteArray(one).replace('\n', "") << "0";
+        QTest::newRow("no line end at the end") << one.chopped(1) << "1";
+        QTest::newRow("half a page") << page + "<NumPage>5</NumPage>\n<Ti"
+                                     << "5";
+        QTest::newRow("half a value") << page + "<NumPage>5"
+                                      << "0";
+        QTest::newRow("a page without its end takes the next one's first line")
+            << page + "<NumPage>1</NumPage>\n" + two + one << "1 1";
+        QTest::newRow("unknown type") << "<Page type=\"178\">\n<NumPage>9</NumPage>\n</Page>\n" + two << "2";
+        QTest::newRow("no attributes") << "<Page>\n</Page>\n" + two << "2";
+        QTest::newRow("unknown, repeated and misspelt elements")
+            << page +
+                   "<Foo>1</Foo>\n<numpage>2</numpage>\n<NumPage>3</x>\n<NumPage>4</NumPage>\n<>5</>\n</Page>"
+            << "4";
+        QTest::newRow("no numbers") << page + "<NumPage>x</NumPage>\n</Page>\n" + page +
+                                           "<NumPage>4294967296</NumPage>\n</Page>\n" + page +
+                                           "<NumPage>-1</NumPage>\n</Page>\n" + page +
+                                           "<NumPage> +7 </NumPage>\n</Page>\n"
+                                    << "0 0 0 7";
+        QTest::newRow("pieces of a long line") << page + QByteArray(252, ' ') + "<NumPage>1</NumPage>\n" +
+                                                      QByteArray(255, 'x') + "<NumPage>3</NumPage>\n</Page>\n"
+                                               << "3";
+        QTest::newRow("a line of 10 MB") << QByteArray(10'000'000, '<') + "\n" + one << "1";
+        QTest::newRow("a line of 10 MB in a page")
+            << page + QByteArray(10'000'000, '<') + "\n<NumPage>6</NumPage>\n"
+            << "6";
+        QTest::newRow("packet with wild sizes")
+            << "<Page type=\"177\" stSize=\"255\" hSize=\"255\">\n<NumPage>8</NumPage>\n"
+               "<Dynamic type=\"2\" size=\"255\" value=\"" +
+                   QByteArray(200, 'a') +
+                   "\"/>\n"
+                   "<Dynamic type=\"1\" size=\"255\" value=\"-1\"/>\n<Dynamic/>\n"
+            << "8";
+    }
+
+    void forgivingXml()
+    {
+        QFETCH(QByteArray, file);
+        QTEST(numbers(readBack(readTelemetryXml, file).pages), "found");
+    }
+
+    void values_data()
+    {
+        QTest::addColumn<QByteArray>("line");
+        QTest::addColumn<int>("index");
+        QTest::addColumn<quint64>("raw");
+
+        const auto row = [](const char* name, ElementIndex index, const char* text, quint64 raw) {
+            const QByteArray tag(name);
+            QTest::newRow(text) << "<" + tag + ">" + text + "</" + tag + ">" << static_cast<int>(index)
+                                << raw;
+        };
+        row("Temp1", element("Temp1"), "-129", 0);
+        row("Temp1", element("Temp1"), "-128", 0x80);
+        row("CAN_TimeTO", element("CAN_TimeTO"), "-1", 0xFFFF);
+        row("NaviHDop", element("NaviHDop"), "25.5", 255);
+        row("NaviHDop", element("NaviHDop"), "25.6", 0);
+        row("NaviPDop", element("NaviPDop"), "0.29999", 3);
+        row("NaviAltitude", element("NaviAltitude"), "-2147483.648", 0x80000000);
+        row("NaviAltitude", element("NaviAltitude"), "1e300", 0);
+        row("NaviAltitude", element("NaviAltitude"), "nan", 0);
+        row("Speed", element("Speed"), "12,5", 0);
+        row("Speed", element("Speed"), "1e99", 0);
+        row("Speed", element("Speed"), "-inf", 0xFF800000);
+        row("Speed", element("Speed"), "1.401298464324817e-45", 1);
+        row("User8Byte_3", element("User8Byte_3"), "18446744073709551615", ~quint64{0});
+    }
+
+    // The mask alone says whether the value is in the record.
+    void values()
+    {
+        QFETCH(QByteArray, line);
+        QFETCH(int, index);
+        const auto contents = readBack(readTelemetryXml, "<Page type=\"176\">\n" + line + "\n</Page>\n");
+        QCOMPARE(contents.pages.size(), std::size_t{1});
+        QTEST(quint64{contents.pages[0]->raw(static_cast<ElementIndex>(index))}, "raw");
+        QVERIFY(!contents.pages[0]->has(static_cast<ElementIndex>(index)));
+    }
+
+    void titles()
+    {
+        const TelemetryContents contents =
+            readBack(readTelemetryXml,
+                     "<TEMP2 title=\"a\"b\"/>\r\n<IN4 title=\"no\"/>\r\n<USERPARAM4 type=\"fs\"/>\r\n"
+                     "<USERPARAM8 type=\"bbbbbbb\"/>\r\n<OUT1 title=\"open/>\r\n");
+        QCOMPARE(contents.titles.temperatures[1], QStringLiteral("a"));
+        QCOMPARE(contents.titles.inputs[3] + contents.titles.outputs[0], QString());
+        QCOMPARE(
+            QStringList(contents.titles.userTypes.begin() + 31, contents.titles.userTypes.end()).join(""),
+            QStringLiteral("fsuuuuuuuuuuuuubbb"));
+    }
+
+    // Six records of 44 bytes, numbers 1 to 6, behind the header. What is done to the file, and what is left.
+    void damagedBinary_data()
+    {
+        QTest::addColumn<int>("at");  // change this byte
+        QTest::addColumn<int>("cut"); // and leave as many
+        QTest::addColumn<QString>("found");
+        QTest::addColumn<QString>("damages");
+
+        constexpr int head = 128;
+        constexpr int all = head + 6 * 44;
+        QTest::newRow("whole") << -1 << all << "1 2 3 4 5 6"
+                               << "";
+        QTest::newRow("magic") << 1 << all << "1 2 3 4 5 6"
+                               << "NH";
+        QTest::newRow("header") << 6 << all << "1 2 3 4 5 6"
+                                << "H";
+        QTest::newRow("a value") << head + 44 + 43 << all << "1 2 3 4 5 6"
+                                 << "S";
+        QTest::newRow("a length") << head + 44 << all << "1 3 4 5 6"
+                                  << "RSM";
+        QTest::newRow("a length far too long") << head + 45 << all << "1 3 4 5 6"
+                                               << "RSM";
+        QTest::newRow("a type") << head + 88 + 2 << all << "1 2 4 5 6"
+                                << "RSM";
+        QTest::newRow("a mask still leads on") << head + 4 << all << "1 2 3 4 5 6"
+                                               << "S";
+        QTest::newRow("the last length") << head + 5 * 44 << all << "1 2 3 4 5"
+                                         << "CSM";
+        QTest::newRow("cut in a record") << -1 << all - 1 << "1 2 3 4 5"
+                                         << "CSM";
+        QTest::newRow("cut in a length") << -1 << head + 45 << "1"
+                                         << "RSM";
+        QTest::newRow("cut behind a record") << -1 << head + 88 << "1 2"
+                                             << "SM";
+        QTest::newRow("only a header") << -1 << head << ""
+                                       << "SM";
+        QTest::newRow("half a header") << -1 << 50 << ""
+                                       << "C";
+        QTest::newRow("three bytes") << -1 << 3 << ""
+                                     << "NC";
+        QTest::newRow("empty") << -1 << 0 << ""
+                               << "";
+    }
+
+    void damagedBinary()
+    {
+        QFETCH(int, at);
+        QFETCH(int, cut);
+        TelemetryPages pages;
+        for (quint32 number = 1; number <= 6; ++number)
+            pages.push_back(recordOf({{element("NumPage"), number}, {element("Time"), kTime}}));
+        QByteArray file = written(writeTelemetryBinary, pages);
+        QCOMPARE(file.size(), 128 + 6 * 44);
+        if (at >= 0)
+            file[at] = static_cast<char>(file[at] ^ 0x40);
+        const TelemetryContents contents = readBack(readTelemetryBinary, file.left(cut));
+        QTEST(numbers(contents.pages), "found");
+        QTEST(kinds(contents.damages), "damages");
+        for (const FileDamage& damage : contents.damages)
+            QVERIFY(damage.offset >= 0 && damage.bytes >= 0 && damage.offset + damage.bytes <= file.size());
+    }
+
+    void wholeFiles()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("records.tmi"));
+        for (const TelemetryForm form : {TelemetryForm::xml, TelemetryForm::binary}) {
+            QVERIFY(saveTelemetryFile(path, form, samplePages(), sampleOrigin()));
+            const auto contents = readTelemetryFile(path);
+            QVERIFY(contents && contents->pages.size() == 2 && contents->damages.empty());
+        }
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot read"));
+        QVERIFY(!readTelemetryFile(folder.filePath(QStringLiteral("none.xml"))));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot save"));
+        QVERIFY(
+            !saveTelemetryFile(folder.filePath(QStringLiteral("none/a.xml")), TelemetryForm::xml, {}, {}));
+    }
+
+    // A disk that fills leaves the file that was there.
+    void fullDisk()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("records.xml"));
+        QVERIFY(saveTelemetryFile(path, TelemetryForm::xml, samplePages(), sampleOrigin()));
+        std::mt19937 random(3);
+        const TelemetryPages many = randomPages(random, 100);
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit before{};
+        getrlimit(RLIMIT_FSIZE, &before);
+        for (const TelemetryForm form : {TelemetryForm::xml, TelemetryForm::csv, TelemetryForm::binary}) {
+            // In the first write, between two, and in the last one.
+            for (const rlim_t room : {rlim_t{1000}, rlim_t{30'000}}) {
+                const rlimit limit{room, before.rlim_max};
+                setrlimit(RLIMIT_FSIZE, &limit);
+                QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot save"));
+                const bool saved = saveTelemetryFile(path, form, many, sampleOrigin());
+                setrlimit(RLIMIT_FSIZE, &before);
+                QVERIFY(!saved);
+            }
+        }
+        const auto contents = readTelemetryFile(path);
+        QVERIFY(contents && contents->pages.size() == 2);
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 1);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestFiles)
+#include "tst_files.moc"
