@@ -224,6 +224,8 @@
     <message id="tmiw_023"><translation>Server</translation></message>
     <message id="tmiw_024"><translation>Clear</translation></message>
     <message id="tmiw_025"><translation>Keys and tags</translation></message>
+    <message id="tmiw_026"><translation>Requesting the period</translation></message>
+    <message id="tmiw_027"><translation>Saving cancelled</translation></message>
     <message id="tmiw_028"><translation>1-Wire key</translation></message>
     <message id="tmiw_029"><translation>RFID tag</translation></message>
     <message id="tmiw_030"><translation>Read</translation></message>
@@ -314,6 +316,10 @@
     <message id="tmiw_116"><translation>The request was rejected</translation></message>
     <message id="tmiw_117"><translation>Wait until the previous one has ended</translation></message>
     <message id="tmiw_118"><translation>Read</translation></message>
+    <message id="tmiw_119"><translation>Reading records</translation></message>
+    <message id="tmiw_120"><translation>Writing the file</translation></message>
+    <message id="tmiw_121"><translation>The period must begin before it ends.</translation></message>
+    <message id="tmiw_122"><translation>This period holds fewer than two records.</translation></message>
     <message id="tmiw_140"><translation>Key</translation></message>
     <message id="tmiw_141"><translation>Tag</translation></message>
     <message id="tmiw_142"><translation>Devices</translation></message>

@@ -224,6 +224,8 @@
     <message id="tmiw_023"><translation>Сервер</translation></message>
     <message id="tmiw_024"><translation>Очистить</translation></message>
     <message id="tmiw_025"><translation>Ключи и метки</translation></message>
+    <message id="tmiw_026"><translation>Запрос границ периода</translation></message>
+    <message id="tmiw_027"><translation>Сохранение отменено</translation></message>
     <message id="tmiw_028"><translation>Ключ 1-Wire</translation></message>
     <message id="tmiw_029"><translation>Метка RFID</translation></message>
     <message id="tmiw_030"><translation>Считать</translation></message>
@@ -314,6 +316,10 @@
     <message id="tmiw_116"><translation>Запрос отклонён</translation></message>
     <message id="tmiw_117"><translation>Дождитесь окончания предыдущего</translation></message>
     <message id="tmiw_118"><translation>Прочитано</translation></message>
+    <message id="tmiw_119"><translation>Чтение записей</translation></message>
+    <message id="tmiw_120"><translation>Запись файла</translation></message>
+    <message id="tmiw_121"><translation>Начало периода должно быть раньше его конца.</translation></message>
+    <message id="tmiw_122"><translation>За этот период есть меньше двух записей.</translation></message>
     <message id="tmiw_140"><translation>Ключ</translation></message>
     <message id="tmiw_141"><translation>Метка</translation></message>
     <message id="tmiw_142"><translation>Приборы</translation></message>

@@ -39,7 +39,8 @@ int hostMode()
 VLK_Widget_Tmi_View::VLK_Widget_Tmi_View(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
       ui_(setUpUi(this)), eventPanel_(new EventPanel(this)), pages_(ui_->stackedWidget, eventPanel_),
-      automatic_(this), clearing_({ui_->checkBox_Server1, ui_->checkBox_Server2, ui_->checkBox_Server3})
+      automatic_(this), clearing_({ui_->checkBox_Server1, ui_->checkBox_Server2, ui_->checkBox_Server3}),
+      save_(this, *ui_)
 {
     ui_->verticalLayout_Event->addWidget(eventPanel_);
     ui_->groupBox_Btn_Guard->hide();
@@ -48,9 +49,11 @@ VLK_Widget_Tmi_View::VLK_Widget_Tmi_View(QWidget* parent)
         // Already shifted by the zone; the machine's own must not shift it again.
         edit->setTimeSpec(Qt::UTC);
     }
-    clearProgress();
+    save_.clearProgress();
     connectControls();
     connect(eventPanel_, &EventPanel::signal_OperatingMode, this, &VLK_Widget_Tmi_View::setGuardButtons);
+    connect(&save_, &SaveSequence::runningChanged, this,
+            [this](bool running) { setManualEnabled(!running); });
     connect(&automatic_, &AutomaticRequests::timeout, this,
             &VLK_Widget_Tmi_View::slot_timeout_m_Timer_Auto_TMI);
     retranslate();
@@ -71,6 +74,10 @@ void VLK_Widget_Tmi_View::connectControls()
         {ui_->pushButton_Close, &View::slot_pressed_Close},
         {ui_->pushButton_Func, &View::slot_pressed_Func},
         {ui_->pushButton_Show, &View::slot_pressed_Show},
+        {ui_->pushButton_SaveToFile, &View::slot_pressed_SaveToFile},
+        {ui_->pushButton_SaveToExcel, &View::slot_pressed_SaveToExcel},
+        {ui_->pushButton_SaveFileToServer, &View::slot_pressed_SaveFileToServer},
+        {ui_->pushButton_Save_Cancel, &View::slot_pressed_SaveCancel},
         {ui_->pushButton_Clear, &View::slot_pressed_Clear},
         {ui_->pushButton_RFID, &View::slot_pressed_RFID},
         {ui_->pushButton_TM, &View::slot_pressed_TM},
@@ -93,13 +100,13 @@ void VLK_Widget_Tmi_View::connectControls()
 
 void VLK_Widget_Tmi_View::open(const QString& configurationPath)
 {
+    stopRequests();
     setup_.objectName = TrackerSetup().objectName;
     if (readTrackerSetup(configurationPath, setup_) && vlkDevice != nullptr)
         qstrncpy(vlkDevice->balanceUssd(), setup_.balanceUssd.toLocal8Bit().constData(), balanceUssdSize);
     pages_.setTracker(setup_.titles, vlkDevice != nullptr ? vlkDevice->capabilityMask() : 0);
 
-    stopRequests();
-    clearProgress();
+    save_.clearProgress();
     highestNumber_ = 0;
     ui_->pushButton_Get_Prev->setEnabled(false);
     ui_->pushButton_Get_Next->setEnabled(false);
@@ -145,23 +152,20 @@ void VLK_Widget_Tmi_View::setManualEnabled(bool enabled)
     pages_.setCommandsEnabled(enabled);
 }
 
-void VLK_Widget_Tmi_View::clearProgress()
-{
-    for (QLabel* label : ui_->frame_Progress->findChildren<QLabel*>())
-        label->clear();
-    ui_->progressBar_Time->hide();
-    ui_->pushButton_Save_Cancel->hide();
-}
-
 void VLK_Widget_Tmi_View::stopRequests()
 {
     ui_->checkBox_Get_Auto_TMI->setChecked(false);
     automatic_.stop();
     clearing_.stop();
+    save_.stop();
 }
 
 void VLK_Widget_Tmi_View::takeRecord(const QByteArray& record)
 {
+    if (save_.saving()) {
+        save_.take(record);
+        return;
+    }
     const std::optional<quint32> number = pages_.showRecord(record);
     if (!number)
         return;
@@ -172,7 +176,9 @@ void VLK_Widget_Tmi_View::takeRecord(const QByteArray& record)
 
 void VLK_Widget_Tmi_View::takeClearedRecord(const QByteArray& record)
 {
-    takeRecord(record);
+    // Not one of the records that a running save has asked for.
+    if (!save_.isRunning())
+        takeRecord(record);
     clearing_.answered();
 }
 
@@ -219,11 +225,13 @@ void VLK_Widget_Tmi_View::walkTo(quint32 number, const QAbstractButton* button)
     if (button->isDown() && number == lastWalk_)
         return;
     lastWalk_ = number;
+    save_.stop();
     requests::recordByNumber(number);
 }
 
 void VLK_Widget_Tmi_View::slot_pressed_GetCurrent()
 {
+    save_.stop();
     requests::currentRecord();
 }
 
@@ -240,11 +248,13 @@ void VLK_Widget_Tmi_View::slot_pressed_GetNext()
 
 void VLK_Widget_Tmi_View::slot_pressed_GetCurrent_Touch()
 {
+    save_.stop();
     requests::extraPacket(LastTouchKey);
 }
 
 void VLK_Widget_Tmi_View::slot_pressed_GetCurrent_RFID()
 {
+    save_.stop();
     requests::extraPacket(LastRfid);
 }
 
@@ -254,6 +264,7 @@ void VLK_Widget_Tmi_View::slot_valueChanged_TimeOffset(int hours)
     for (QDateTimeEdit* edit : {ui_->dateTimeEdit_Show, ui_->dateTimeEdit_First, ui_->dateTimeEdit_Last})
         edit->setDateTime(edit->dateTime().addSecs(offset - timeOffset_));
     timeOffset_ = offset;
+    save_.setTimeOffset(offset);
     pages_.setUtcOffset(offset);
 }
 
@@ -283,12 +294,47 @@ void VLK_Widget_Tmi_View::slot_pressed_Func()
 
 void VLK_Widget_Tmi_View::slot_pressed_Show()
 {
+    save_.stop();
     requests::recordByTime(ui_->dateTimeEdit_Show->dateTime().addSecs(-timeOffset_));
+}
+
+void VLK_Widget_Tmi_View::slot_pressed_SaveToFile()
+{
+    startSave(SaveSequence::Xml);
+}
+
+void VLK_Widget_Tmi_View::slot_pressed_SaveToExcel()
+{
+    startSave(SaveSequence::Csv);
+}
+
+void VLK_Widget_Tmi_View::slot_pressed_SaveFileToServer()
+{
+    startSave(SaveSequence::Binary);
+}
+
+void VLK_Widget_Tmi_View::slot_pressed_SaveCancel()
+{
+    save_.cancel();
+}
+
+// What the file tells of the tracker is taken now, since a detached one tells nothing any more.
+void VLK_Widget_Tmi_View::startSave(SaveSequence::Mode mode)
+{
+    TelemetryOrigin origin;
+    if (vlkDevice != nullptr)
+        origin = {vlkDevice->model(), vlkDevice->vendor(), vlkDevice->trackerId1(), 0, {}};
+    origin.timeOffset = timeOffset_;
+    origin.titles = setup_.titles;
+    save_.start(mode, ui_->dateTimeEdit_First->dateTime().addSecs(-timeOffset_),
+                ui_->dateTimeEdit_Last->dateTime().addSecs(-timeOffset_), origin);
 }
 
 void VLK_Widget_Tmi_View::slot_stateChanged_GetAutoTmi(int state)
 {
     const bool on = state != Qt::Unchecked;
+    if (on)
+        save_.stop();
     setManualEnabled(!on);
     if (on)
         automatic_.start(ui_->horizontalSlider_Auto_Tmi->value());
@@ -374,6 +420,7 @@ void VLK_Widget_Tmi_View::retranslate()
     slot_valueChanged_horizontalSlider_Auto_Tmi(ui_->horizontalSlider_Auto_Tmi->value());
     setTitle();
 
+    save_.retranslate();
     pages_.retranslate();
     if (tachograph_ != nullptr)
         tachograph_->retranslate();

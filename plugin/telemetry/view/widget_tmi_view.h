@@ -2,13 +2,14 @@
 
 // The window through which a user looks at the telemetry of a connected tracker: asks for records, shows the
 // head of each in an event panel and its values in a content form, walks from record to record, polls on a
-// timer, clears the tracker's unsent data, reads keys and tags, and opens the tachograph dialog. Answers come
-// at any time, asked for or not, also while the window is hidden.
+// timer, saves a period to a file, clears the tracker's unsent data, reads keys and tags, and opens the
+// tachograph dialog. Answers come at any time, asked for or not, also while the window is hidden.
 
 #include "host/host_interface.h"
 #include "telemetry/view/automatic_requests.h"
 #include "telemetry/view/clearing_sequence.h"
 #include "telemetry/view/record_stack.h"
+#include "telemetry/view/save_sequence.h"
 #include "telemetry/view/tracker_setup.h"
 
 #include <QDialog>
@@ -59,6 +60,10 @@ private Q_SLOTS:
     void slot_finished_Window(int result);
     void slot_pressed_Func();
     void slot_pressed_Show();
+    void slot_pressed_SaveToFile();
+    void slot_pressed_SaveToExcel();
+    void slot_pressed_SaveFileToServer();
+    void slot_pressed_SaveCancel();
     void slot_stateChanged_GetAutoTmi(int state);
     void slot_timeout_m_Timer_Auto_TMI();
     void slot_valueChanged_horizontalSlider_Auto_Tmi(int seconds);
@@ -75,11 +80,10 @@ private Q_SLOTS:
 private:
     void setTitle();
     void connectControls();
-    // Off while records are requested automatically.
+    // Off while records are requested automatically, and while a period is saved.
     void setManualEnabled(bool enabled);
     void stopRequests();
-    // The area in the bottom row that shows how far a save has come.
-    void clearProgress();
+    void startSave(SaveSequence::Mode mode);
     // Asks for a record by number; a walking button that is held down waits for each answer.
     void walkTo(quint32 number, const QAbstractButton* button);
     void setGuardButtons(int operatingMode);
@@ -90,6 +94,7 @@ private:
     RecordStack pages_;
     AutomaticRequests automatic_;
     ClearingSequence clearing_;
+    SaveSequence save_;
     vlk::TrackerSetup setup_;
     int timeOffset_ = 0; // seconds east of UTC
     quint32 highestNumber_ = 0;

@@ -1,0 +1,222 @@
+#include "telemetry/view/save_sequence.h"
+
+#include "base/clock.h"
+#include "host/device_r7106.h"
+#include "host/requests.h"
+#include "telemetry/record/record_head.h"
+
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScopedValueRollback>
+#include <QtEndian>
+
+#include <optional>
+
+using namespace vlk;
+
+namespace {
+
+struct FileKind
+{
+    TelemetryForm form;
+    const char* suffix;
+};
+
+// By mode, from Xml on.
+constexpr FileKind kFileKinds[] = {
+    {TelemetryForm::xml, "xml"},
+    {TelemetryForm::csv, "csv"},
+    {TelemetryForm::binary, "tmi"},
+};
+
+const FileKind& kindOf(SaveSequence::Mode mode)
+{
+    return kFileKinds[mode - SaveSequence::Xml];
+}
+
+QString word(const char* key)
+{
+    return QCoreApplication::translate("vlk", key);
+}
+
+// None where the record is too short to have one.
+std::optional<qint64> numberOf(const QByteArray& record)
+{
+    const bool extra = record.startsWith(static_cast<char>(kExtraPacket));
+    const qsizetype at = extra ? ExtraPacket::kElementsOfHead.front().offset : RecordHead::kBytes;
+    if (record.size() < at + qsizetype{sizeof(quint32)})
+        return {};
+    return qFromLittleEndian<quint32>(record.constData() + at);
+}
+
+} // namespace
+
+void SaveSequence::start(Mode mode, const QDateTime& first, const QDateTime& last,
+                         const TelemetryOrigin& origin)
+{
+    stop();
+    saving_ = true;
+    saveCancelled_ = false;
+    if (first >= last) {
+        refuse("tmiw_121");
+        return;
+    }
+    saveMode_ = mode;
+    origin_ = origin;
+    periodEnd_ = last;
+    Q_EMIT runningChanged(true);
+    progress_.setStatus("tmiw_026");
+    saveState_ = FirstRecord;
+    saveStart_ = now();
+    requests::recordOfPeriod(first);
+}
+
+// The host may answer within a request. Such an answer waits for its turn, so that a long period takes no
+// more of the stack than a short one.
+void SaveSequence::take(const QByteArray& record)
+{
+    // Nothing is asked of the tracker while the user looks for a file name.
+    if (fileDialog_ != nullptr)
+        return;
+    arrived_.push_back(record);
+    if (stepping_)
+        return;
+    const QScopedValueRollback stepping(stepping_, true);
+    while (!arrived_.empty()) {
+        const QByteArray next = arrived_.front();
+        arrived_.erase(arrived_.begin());
+        step(next);
+    }
+}
+
+void SaveSequence::stop()
+{
+    saving_ = false;
+    if (!isRunning())
+        return;
+    if (fileDialog_ != nullptr)
+        fileDialog_->reject();
+    end();
+}
+
+void SaveSequence::step(const QByteArray& record)
+{
+    if (isRunning() && saveCancelled_) {
+        carryOutCancel();
+        return;
+    }
+    switch (saveState_) {
+    case Idle:
+        break;
+    case FirstRecord:
+        takeFirst(record);
+        break;
+    case LastRecord:
+        takeLast(record);
+        break;
+    case Collecting:
+        takeNext(record);
+        break;
+    }
+}
+
+void SaveSequence::takeFirst(const QByteArray& record)
+{
+    records_ = {record};
+    saveState_ = LastRecord;
+    requests::recordByTime(periodEnd_);
+}
+
+void SaveSequence::takeLast(const QByteArray& record)
+{
+    records_.push_back(record);
+    const auto first = numberOf(records_.front());
+    const auto last = numberOf(records_.back());
+    if (!first || !last || *last <= *first) {
+        end();
+        refuse("tmiw_122");
+        return;
+    }
+    askFileName();
+    if (!isRunning())
+        return;
+    saveTotal_ = static_cast<quint32>(*last - *first);
+    if (!fileChosen_) {
+        carryOutCancel();
+    } else if (saveTotal_ == 1) {
+        end();
+    } else {
+        saveDone_ = 2;
+        saveState_ = Collecting;
+        progress_.setStatus("tmiw_119");
+        progress_.start(saveTotal_);
+        showFetched();
+        requests::recordByNumber(static_cast<quint32>(*first + 1));
+    }
+}
+
+void SaveSequence::takeNext(const QByteArray& record)
+{
+    const auto number = numberOf(record);
+    const bool isFirstOfThem = records_.size() == 2;
+    if (!number || (!isFirstOfThem && *number <= *numberOf(records_.end()[-2])))
+        return;
+    records_.insert(records_.end() - 1, record);
+    progress_.moveBar();
+    if (*numberOf(records_.back()) - *number > 1) {
+        ++saveDone_;
+        showFetched();
+        requests::recordByNumber(static_cast<quint32>(*number + 1));
+    } else {
+        progress_.setStatus("tmiw_120");
+        end();
+    }
+}
+
+void SaveSequence::askFileName()
+{
+    const QString suffix = QLatin1String(kindOf(saveMode_).suffix);
+    QFileDialog dialog(window_, word("wrd_028"), vlkDevice != nullptr ? vlkDevice->tmiFolder() : QString(),
+                       QLatin1String("*.") + suffix);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(suffix);
+    fileDialog_ = &dialog;
+    if (dialog.exec() == QDialog::Accepted && isRunning()) {
+        saveFileName_ = dialog.selectedFiles().value(0);
+        fileChosen_ = !saveFileName_.isEmpty();
+    }
+}
+
+void SaveSequence::carryOutCancel()
+{
+    saveCancelled_ = false;
+    progress_.setStatus("tmiw_027");
+    progress_.resetBar();
+    end();
+}
+
+void SaveSequence::end()
+{
+    // Writing asks the host for words; whatever else it sends then is not part of this save any more.
+    saveState_ = Idle;
+    arrived_.clear();
+    const RecordBytes records = std::exchange(records_, {});
+    if (std::exchange(fileChosen_, false))
+        writePeriod(saveFileName_, kindOf(saveMode_).form, records, origin_);
+    progress_.clear();
+    Q_EMIT runningChanged(false);
+}
+
+void SaveSequence::refuse(const char* key)
+{
+    QMessageBox box(QMessageBox::Warning, word("wrd_004"), word(key), QMessageBox::NoButton, window_);
+    box.addButton(word("wrd_003"), QMessageBox::AcceptRole);
+    box.exec();
+}
+
+void SaveSequence::showFetched()
+{
+    progress_.setFetched(saveDone_, saveTotal_, std::max<qint64>(saveStart_.secsTo(now()), 0));
+}

@@ -1,0 +1,83 @@
+#pragma once
+
+// Saves a period of the tracker's archive to a file: asks for the first and the last record of the period by
+// their times, then for a file name, then for each record between the two by its number, and writes the file
+// when all are there. The sequence knows the records by their bytes and numbers alone, whatever their version
+// is; they are decoded when the file is written.
+//
+// A cancel takes effect with the next record. Whatever ends a save after its file name was given, a closed
+// window or a detached tracker too, the file is written with what was collected.
+
+#include "telemetry/view/period_file.h"
+#include "telemetry/view/save_progress.h"
+
+#include <QDateTime>
+#include <QObject>
+#include <QPointer>
+
+class QFileDialog;
+class QWidget;
+
+class SaveSequence : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum Mode : std::uint8_t { Xml = 50, Csv, Binary };
+
+    // Boxes and dialogs come up over `window`.
+    SaveSequence(QWidget* window, const Ui::VLK_Designer_Widget_Tmi_View& ui) : window_(window), progress_(ui)
+    {
+    }
+
+    // From `first` to `last`, in UTC; a period that does not go forward is refused with a message box.
+    void start(Mode mode, const QDateTime& first, const QDateTime& last, const vlk::TelemetryOrigin& origin);
+    void take(const QByteArray& record);
+    void cancel() { saveCancelled_ = true; }
+    // The user looks at records again: a save that runs ends here.
+    void stop();
+
+    // Arriving records belong to the sequence. Stays so after the end of a save, until stop().
+    bool saving() const { return saving_; }
+    bool isRunning() const { return saveState_ != Idle; }
+
+    // The zone of the file's times, in seconds east of UTC.
+    void setTimeOffset(int seconds) { origin_.timeOffset = seconds; }
+    void clearProgress() { progress_.clear(); }
+    void retranslate() { progress_.retranslate(); }
+
+Q_SIGNALS:
+    void runningChanged(bool running);
+
+private:
+    enum State : std::uint8_t { Idle, FirstRecord, LastRecord, Collecting };
+
+    void step(const QByteArray& record);
+    void takeFirst(const QByteArray& record);
+    void takeLast(const QByteArray& record);
+    void takeNext(const QByteArray& record);
+    void askFileName();
+    void carryOutCancel();
+    void end();
+    void refuse(const char* key);
+    void showFetched();
+
+    QWidget* window_;
+    SaveProgress progress_;
+    bool saving_ = false;
+    bool saveCancelled_ = false;
+    bool fileChosen_ = false;
+    bool stepping_ = false;
+    Mode saveMode_ = Xml;
+    State saveState_ = Idle;
+    QString saveFileName_;
+    QPointer<QFileDialog> fileDialog_;
+    QDateTime saveStart_;
+    QDateTime periodEnd_;
+    quint32 saveTotal_ = 0;
+    quint32 saveDone_ = 0;
+    vlk::TelemetryOrigin origin_;
+    vlk::RecordBytes arrived_;
+    // From the collecting on: the first record, those that came since, the last record.
+    vlk::RecordBytes records_;
+};
