@@ -1,0 +1,95 @@
+// The whole road without a person: the workbench's tour, and its written configuration read by another
+// reader.
+
+#include <QDomDocument>
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+class TourTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void everyStepDidWhatItShould();
+    void configurationIsWhole();
+    void reportNamesTheEditsAlone();
+    void picturesShowSomething();
+
+private:
+    QByteArray content(const char* name);
+
+    QTemporaryDir folder_;
+    QByteArray output_;
+    int exitCode_ = -1;
+};
+
+QByteArray TourTest::content(const char* name)
+{
+    QFile file(folder_.filePath(QString::fromLatin1(name)));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void TourTest::initTestCase()
+{
+    QVERIFY(folder_.isValid());
+    QProcess workbench;
+    workbench.setProcessChannelMode(QProcess::MergedChannels);
+    workbench.start(QStringLiteral(VLK_WORKBENCH),
+                    {"--tour", folder_.path(), "--data", folder_.filePath(QStringLiteral("data"))});
+    QVERIFY(workbench.waitForFinished(240'000));
+    output_ = workbench.readAll();
+    exitCode_ = workbench.exitCode();
+}
+
+void TourTest::everyStepDidWhatItShould()
+{
+    QVERIFY2(exitCode_ == 0, output_.constData());
+    QVERIFY2(!output_.contains("FAILED"), output_.constData());
+    QVERIFY(content("tour.txt").count("ok ") >= 15);
+}
+
+void TourTest::configurationIsWhole()
+{
+    QDomDocument document;
+    QString error;
+    QVERIFY2(document.setContent(content("configuration.xml"), &error), qPrintable(error));
+    const QDomElement root = document.documentElement();
+    QCOMPARE(root.tagName(), QStringLiteral("DEVICE"));
+    QCOMPARE(root.attribute("model"), QStringLiteral("R-7106"));
+    QCOMPARE(root.childNodes().size(), 10);
+    const QDomElement transfer = root.firstChildElement(QStringLiteral("TRANS"));
+    QCOMPARE(transfer.attribute("page"), QStringLiteral("TRANS"));
+    QCOMPARE(transfer.firstChildElement("SRV1").attribute("addr"), QStringLiteral("fleet.example.com"));
+    QCOMPARE(transfer.firstChildElement("SRV1").attribute("port"), QStringLiteral("5555"));
+    QCOMPARE(transfer.firstChildElement("AUTOAPN").attributes().size(), 40);
+}
+
+void TourTest::reportNamesTheEditsAlone()
+{
+    const QByteArray report = content("report.txt");
+    QCOMPARE(report.count('\t'), 3 * 3);
+    for (const char* key : {"TRANS/OBJECT/name", "TRANS/SRV1/addr", "TRANS/SRV1/port"})
+        QVERIFY2(report.contains(key), key);
+}
+
+void TourTest::picturesShowSomething()
+{
+    const QStringList pictures = QDir(folder_.path()).entryList({"*.png"});
+    QVERIFY(pictures.size() >= 15);
+    for (const QString& name : pictures) {
+        const QImage image(folder_.filePath(name));
+        QVERIFY2(image.width() >= 400 && image.height() >= 200, qPrintable(name));
+        QSet<QRgb> colours;
+        for (int y = 0; y < image.height(); y += 3) {
+            for (int x = 0; x < image.width(); x += 3)
+                colours << image.pixel(x, y);
+        }
+        QVERIFY2(colours.size() > 8, qPrintable(name));
+    }
+}
+
+QTEST_GUILESS_MAIN(TourTest)
+#include "tst_tour.moc"
