@@ -7,6 +7,7 @@
 #include <QDateTimeEdit>
 #include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QRegularExpression>
@@ -84,7 +85,7 @@ private:
         ScriptedHost::whenModal([this](QWidget* modal) {
             auto* dialog = qobject_cast<QFileDialog*>(modal);
             filter_ = dialog->nameFilters().join(';');
-            dialog->selectFile(file_);
+            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(file_);
             if (QFile::exists(file_)) // the dialog asks whether to replace it
                 ScriptedHost::whenModal(
                     [](QWidget* box) { qobject_cast<QMessageBox*>(box)->button(QMessageBox::Yes)->click(); });
