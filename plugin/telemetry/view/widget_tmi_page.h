@@ -24,6 +24,7 @@ public:
     explicit VLK_Widget_Tmi_Page(QWidget* parent = nullptr);
     ~VLK_Widget_Tmi_Page() override;
 
+    using QDialog::open;
     // Shows the first record of an XML or binary file in place of what was on show; nothing if there is none.
     void open(const QString& path);
     void retranslate();

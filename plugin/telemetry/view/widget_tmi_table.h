@@ -14,6 +14,7 @@ class VLK_Widget_Tmi_Table : public QDialog
 public:
     explicit VLK_Widget_Tmi_Table(QWidget* parent = nullptr);
 
+    using QDialog::open;
     // Shows an XML or binary file in place of what was on show; an empty table if it holds no record.
     void open(const QString& path);
 
