@@ -422,7 +422,7 @@
     <message id="tmizta_089"><translation>Подключено</translation></message>
     <message id="tmizta_090"><translation>Не сработал</translation></message>
     <message id="tmizta_091"><translation>Сработал</translation></message>
-    <message id="tmizta_092"><translation>Не превышен</translation></message>
+    <message id="tmizta_092"><translation>В норме</translation></message>
     <message id="tmizta_093"><translation>Нет расхода</translation></message>
     <message id="tmizta_094"><translation>Холостой ход</translation></message>
     <message id="tmizta_095"><translation>Номинальный</translation></message>
