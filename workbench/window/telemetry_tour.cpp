@@ -112,8 +112,9 @@ void production(Tour& tour)
 {
     tour.window().setMode(1);
     tour.window().session().liveTelemetry();
-    tour.waitFor([] { return Tour::findVisible(kNumber) && pageOnShow() == QLatin1String("page_Production"); },
-                 QStringLiteral("the production page"));
+    tour.waitFor(
+        [] { return Tour::findVisible(kNumber) && pageOnShow() == QLatin1String("page_Production"); },
+        QStringLiteral("the production page"));
     tour.picture(QStringLiteral("production.png"), view());
     closeTelemetry(tour);
     tour.window().setMode(0);
