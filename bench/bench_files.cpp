@@ -138,7 +138,7 @@ void writeCsv(benchmark::State& state)
     const auto printAll = [&] {
         for (const auto& page : pages) {
             for (const CsvColumn& column : csvColumns())
-                print(*page, column.element(), "=\"%.*s", {});
+                print(*page, column.element(), "=\"%.*s", "");
         }
     };
     const double before = bytesInUse();
