@@ -31,11 +31,6 @@ vlk::MessageText out(Message id, const void* p1 = nullptr, const void* p2 = null
     return vlk::describeMessage(Direction::ToHost, quint32(id), p1, p2);
 }
 
-const void* byValue(std::intptr_t value)
-{
-    return reinterpret_cast<const void*>(value);
-}
-
 } // namespace
 
 Q_DECLARE_METATYPE(Describe)
@@ -68,7 +63,7 @@ private Q_SLOTS:
             },
             "-5");
         row(
-            "value", [] { return out(Message::OutputOn, byValue(2)); }, "2");
+            "value", [] { return out(Message::OutputOn, vlk::asParameter(2)); }, "2");
         row(
             "float",
             [] {
@@ -147,10 +142,12 @@ private Q_SLOTS:
         // Nobody knows what lies behind these addresses.
         row(
             "unknown number",
-            [] { return vlk::describeMessage(Direction::ToHost, 2999, byValue(16), nullptr); }, "0x10 0x0");
+            [] { return vlk::describeMessage(Direction::ToHost, 2999, vlk::asParameter(16), nullptr); },
+            "0x10 0x0");
         row(
             "wrong direction",
-            [] { return vlk::describeMessage(Direction::ToHost, 2101, byValue(1), nullptr); }, "0x1 0x0");
+            [] { return vlk::describeMessage(Direction::ToHost, 2101, vlk::asParameter(1), nullptr); },
+            "0x1 0x0");
     }
     void describesParameters()
     {

@@ -154,7 +154,7 @@ private Q_SLOTS:
             settings.setFolders(QStringLiteral("/а/"), QStringLiteral("/b/"));
             for (int n = 0; n < 15; ++n)
                 settings.addRecentFile(QStringLiteral("/f%1").arg(n));
-            settings.addRecentFile(QStringLiteral("/f9"));
+            settings.addRecentFile(QStringLiteral("/f9"), TelemetryWindow::Table);
             settings.removeRecentFile(QStringLiteral("/f14"));
         }
         const Settings settings(file);
@@ -163,8 +163,10 @@ private Q_SLOTS:
         QVERIFY(!settings.fullWindow());
         QCOMPARE(settings.telemetryFolder(), QStringLiteral("/а/"));
         QCOMPARE(settings.recentFiles().size(), Settings::recentLimit - 1);
-        QCOMPARE(settings.recentFiles().mid(0, 2),
-                 QStringList({QStringLiteral("/f9"), QStringLiteral("/f13")}));
+        const RecentFile first = settings.recentFiles().value(0);
+        QVERIFY(first.path == QLatin1String("/f9") && first.window == TelemetryWindow::Table);
+        const RecentFile second = settings.recentFiles().value(1);
+        QVERIFY(second.path == QLatin1String("/f13") && second.window == TelemetryWindow::Browser);
     }
 
     void survivesDamagedSettings_data()

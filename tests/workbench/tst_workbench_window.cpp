@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QLabel>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QtTest>
@@ -130,11 +131,36 @@ private Q_SLOTS:
         static_cast<QObject&>(bench.window).event(&drop);
         QTRY_VERIFY2(bench.text("label_Report").contains(QStringLiteral("Keys changed: ")),
                      qPrintable(bench.text("label_Report")));
-        QCOMPARE(bench.settings.recentFiles(), QStringList(edited));
+        QCOMPARE(bench.settings.recentFiles().value(0).path, edited);
 
         QFile::remove(edited);
         QVERIFY(messageDuring([&] { bench.window.openFile(edited); }).contains(edited));
-        QCOMPARE(bench.settings.recentFiles(), QStringList());
+        QVERIFY(bench.settings.recentFiles().isEmpty());
+    }
+
+    // A recent file opens in the window that it was last shown in.
+    void reopensWhereItWasShown()
+    {
+        Bench bench;
+        const QString path = bench.root.filePath(QStringLiteral("period.xml"));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("<TMI model=\"R-7106\" >\n</TMI>\n");
+        file.close();
+        QVERIFY(bench.start());
+        QVector<int> windows;
+        connect(&bench.window.session().link(), &PluginLink::passed, this,
+                [&](vlk::Direction, quint32 id, const void*, const void* p2) {
+                    if (id == quint32(vlk::Message::ShowStoredFile))
+                        windows.append(*static_cast<const std::int32_t*>(p2));
+                });
+        auto* list = bench.window.findChild<QListWidget*>(QStringLiteral("listWidget_Recent"));
+        for (const TelemetryWindow window : {TelemetryWindow::Browser, TelemetryWindow::Table}) {
+            bench.window.openFile(path, window);
+            Q_EMIT list->itemActivated(list->item(0));
+        }
+        QCOMPARE(windows, QVector<int>({0, 0, 1, 1}));
+        QCOMPARE(list->count(), 1);
     }
 
     void remembersTheModeAndTheWindow()

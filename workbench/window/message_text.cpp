@@ -141,7 +141,7 @@ MessageText describeParameter(Message message, Parameter kind, const void* p)
     if (kind == Parameter::None)
         return {};
     if (kind == Parameter::Value)
-        return {QString::number(qint64(reinterpret_cast<std::intptr_t>(p))), {}};
+        return {QString::number(qint64(vlk::asValue(p))), {}};
     if (!p)
         return {QStringLiteral("null"), {}};
     switch (kind) {

@@ -53,9 +53,7 @@ bool PluginLink::load(const QString& path)
         return false;
     }
     libraryInfo(&info_);
-    // The record's token, zero-extended to an address.
-    const std::uintptr_t token = info_.handle;
-    std::memcpy(&handle_, &token, sizeof handle_);
+    handle_ = vlk::asParameter(info_.handle);
     receive_ = receive;
     initialize(&PluginLink::callback);
     return true;

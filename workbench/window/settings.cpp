@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace {
 
 const QString languageKey = QStringLiteral("language");
@@ -13,6 +15,7 @@ const QString fullWindowKey = QStringLiteral("fullWindow");
 const QString telemetryKey = QStringLiteral("folders/telemetry");
 const QString configurationKey = QStringLiteral("folders/configuration");
 const QString recentKey = QStringLiteral("recentFiles");
+const QString tableKey = QStringLiteral("recentFilesInTable");
 
 QString layoutKey(const QString& name)
 {
@@ -90,25 +93,45 @@ void Settings::setFolders(const QString& telemetry, const QString& configuration
     store_->setValue(configurationKey, configuration);
 }
 
-QStringList Settings::recentFiles() const
+QVector<RecentFile> Settings::recentFiles() const
 {
-    return store_->value(recentKey).toStringList().mid(0, recentLimit);
+    const QStringList paths = store_->value(recentKey).toStringList().mid(0, recentLimit);
+    const QStringList inTable = store_->value(tableKey).toStringList();
+    QVector<RecentFile> files;
+    for (const QString& path : paths)
+        files.append({path, inTable.contains(path) ? TelemetryWindow::Table : TelemetryWindow::Browser});
+    return files;
 }
 
-void Settings::addRecentFile(const QString& path)
+void Settings::setRecentFiles(const QVector<RecentFile>& files)
 {
-    QStringList files = recentFiles();
+    QStringList paths;
+    QStringList inTable;
+    for (const RecentFile& file : files.mid(0, recentLimit)) {
+        paths.append(file.path);
+        if (file.window == TelemetryWindow::Table)
+            inTable.append(file.path);
+    }
+    store_->setValue(recentKey, paths);
+    store_->setValue(tableKey, inTable);
+}
+
+void Settings::addRecentFile(const QString& path, TelemetryWindow window)
+{
     const QString absolute = QFileInfo(path).absoluteFilePath();
-    files.removeAll(absolute);
-    files.prepend(absolute);
-    store_->setValue(recentKey, QStringList(files.mid(0, recentLimit)));
+    removeRecentFile(absolute);
+    QVector<RecentFile> files = recentFiles();
+    files.prepend({absolute, window});
+    setRecentFiles(files);
 }
 
 void Settings::removeRecentFile(const QString& path)
 {
-    QStringList files = recentFiles();
-    files.removeAll(path);
-    store_->setValue(recentKey, files);
+    QVector<RecentFile> files = recentFiles();
+    const auto gone = std::remove_if(files.begin(), files.end(),
+                                     [&path](const RecentFile& file) { return file.path == path; });
+    files.erase(gone, files.end());
+    setRecentFiles(files);
 }
 
 QByteArray Settings::layout(const QString& name) const

@@ -5,9 +5,20 @@
 
 #include <QByteArray>
 #include <QSettings>
-#include <QStringList>
+#include <QString>
+#include <QVector>
 
 #include <memory>
+
+// What a file of telemetry is shown in.
+enum class TelemetryWindow { Browser = 0, Table = 1 };
+Q_DECLARE_METATYPE(TelemetryWindow)
+
+struct RecentFile
+{
+    QString path; // absolute
+    TelemetryWindow window = TelemetryWindow::Browser;
+};
 
 class Settings
 {
@@ -36,9 +47,9 @@ public:
     QString configurationFolder() const;
     void setFolders(const QString& telemetry, const QString& configuration);
 
-    // Absolute paths, the last used first.
-    QStringList recentFiles() const;
-    void addRecentFile(const QString& path);
+    // The last used first.
+    QVector<RecentFile> recentFiles() const;
+    void addRecentFile(const QString& path, TelemetryWindow window = TelemetryWindow::Browser);
     void removeRecentFile(const QString& path);
 
     // Geometry and state of a window or splitter, by its object name.
@@ -46,6 +57,8 @@ public:
     void setLayout(const QString& name, const QByteArray& state);
 
 private:
+    void setRecentFiles(const QVector<RecentFile>& files);
+
     std::unique_ptr<QSettings> store_;
     bool damaged_ = false;
 };

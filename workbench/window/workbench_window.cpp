@@ -5,7 +5,7 @@
 #include "window/folders_dialog.h"
 #include "window/installed_files.h"
 #include "window/message_log_view.h"
-#include "window/settings.h"
+#include "window/recent_files.h"
 #include "window/stored_file.h"
 #include "window/tracker_panel.h"
 #include "window/write_report_text.h"
@@ -17,9 +17,8 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
-#include <QGroupBox>
+#include <QFileInfo>
 #include <QLabel>
-#include <QListWidget>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
@@ -46,8 +45,8 @@ constexpr LanguageRow languageRows[] = {{"ru", "Русский"}, {"en", "Englis
 WorkbenchWindow::WorkbenchWindow(const DataFolder& folder, Settings& settings, Languages& languages)
     : folder_(folder), settings_(settings), languages_(languages), session_(folder.trackerFolder()),
       commands_(this), helpPages_(vlk::sharedFolder(QStringLiteral("help"))),
-      device_(new DevicePanel(session_, this)), recentBox_(new QGroupBox(this)),
-      recent_(new QListWidget(this)), tabs_(new QTabWidget(this)), logView_(new MessageLogView(&log_, this)),
+      device_(new DevicePanel(session_, this)), recent_(new RecentFiles(settings, this)),
+      tabs_(new QTabWidget(this)), logView_(new MessageLogView(&log_, this)),
       reportView_(new WriteReportView(this)), trackerPanel_(new TrackerPanel(session_.tracker(), this)),
       windowChoice_(new QComboBox(this))
 {
@@ -59,6 +58,10 @@ WorkbenchWindow::WorkbenchWindow(const DataFolder& folder, Settings& settings, L
     connect(&session_.tracker(), &tracker::SimulatedTracker::attachedChanged, this,
             &WorkbenchWindow::updateCommands);
     connect(device_, &DevicePanel::modeChosen, this, &WorkbenchWindow::setMode);
+    connect(recent_, &RecentFiles::chosen, this, [this](const QString& path, TelemetryWindow window) {
+        if (session_.link().isLoaded())
+            openFile(path, window);
+    });
 
     buildPanels();
     buildMenus();
@@ -66,7 +69,6 @@ WorkbenchWindow::WorkbenchWindow(const DataFolder& folder, Settings& settings, L
     connectCommands();
     texts_.bind(static_cast<QWidget*>(this), "wb_title");
     device_->setMode(settings_.mode());
-    showRecentFiles();
     updateCommands();
     restoreLayout();
 }
@@ -78,25 +80,11 @@ WorkbenchWindow::~WorkbenchWindow()
 
 void WorkbenchWindow::buildPanels()
 {
-    texts_.bind(recentBox_, "wb_recent");
-    recent_->setObjectName(QStringLiteral("listWidget_Recent"));
-    recent_->setFrameShape(QFrame::NoFrame);
-    recent_->setTextElideMode(Qt::ElideMiddle);
-    recent_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    texts_.bind([this] { recent_->setAccessibleName(vlk::text("wb_recent")); });
-    connect(recent_, &QListWidget::itemActivated, this,
-            [this](const QListWidgetItem* item) { openRecent(item->data(Qt::UserRole).toString()); });
-    auto* recentLayout = new QVBoxLayout(recentBox_);
-    auto* hint = texts_.bind(new QLabel(recentBox_), "wb_drop_hint");
-    hint->setWordWrap(true);
-    recentLayout->addWidget(recent_, 1);
-    recentLayout->addWidget(hint);
-
     auto* left = new QWidget(this);
     auto* leftLayout = new QVBoxLayout(left);
     leftLayout->setContentsMargins(0, 0, 0, 0);
     leftLayout->addWidget(device_);
-    leftLayout->addWidget(recentBox_, 1);
+    leftLayout->addWidget(recent_, 1);
 
     tabs_->setObjectName(QStringLiteral("tabWidget_Main"));
     for (QWidget* page : {static_cast<QWidget*>(logView_), static_cast<QWidget*>(reportView_),
@@ -130,7 +118,7 @@ void WorkbenchWindow::buildMenus()
     };
     QMenu* configuration = addMenu("wb_menu_configuration",
                                    {Command::ReadTracker, Command::OpenFile, Command::NewConfiguration});
-    recentMenu_ = texts_.bind(configuration->addMenu(QString()), "wb_recent");
+    configuration->addMenu(recent_->menu());
     configuration->addSeparator();
     configuration->addAction(commands_[Command::BalanceCode]);
     configuration->addSeparator();
@@ -201,8 +189,8 @@ void WorkbenchWindow::connectCommands()
     });
     on(Command::NewConfiguration, [this] { session_.newConfiguration(fullWindow()); });
     on(Command::LiveTelemetry, [this] { ask(session_.liveTelemetry()); });
-    on(Command::BrowseFile, [this] { chooseAndShow(0); });
-    on(Command::TableFile, [this] { chooseAndShow(1); });
+    on(Command::BrowseFile, [this] { chooseAndShow(TelemetryWindow::Browser); });
+    on(Command::TableFile, [this] { chooseAndShow(TelemetryWindow::Table); });
     on(Command::Cable,
        [this](bool attach) { attach ? session_.tracker().attach() : session_.tracker().detach(); });
     on(Command::DataFolders, [this] { chooseFolders(); });
@@ -251,21 +239,20 @@ void WorkbenchWindow::ask(bool answered)
         warn(vlk::text("wb_read_failed"));
 }
 
-void WorkbenchWindow::openFile(const QString& path)
+void WorkbenchWindow::openFile(const QString& path, TelemetryWindow window)
 {
     if (!QFileInfo(path).isFile()) {
-        settings_.removeRecentFile(path);
-        showRecentFiles();
+        recent_->remove(path);
         warn(vlk::text("wb_file_missing").arg(path));
         return;
     }
     switch (vlk::storedFileKind(path)) {
     case StoredFile::Configuration:
-        remember(path);
+        recent_->add(path, window);
         session_.openConfiguration(path, fullWindow());
         break;
     case StoredFile::Telemetry:
-        showStored(path, 0);
+        showStored(path, window);
         break;
     case StoredFile::Unknown:
         warn(vlk::text("wb_file_unknown").arg(path));
@@ -273,44 +260,19 @@ void WorkbenchWindow::openFile(const QString& path)
     }
 }
 
-void WorkbenchWindow::chooseAndShow(int kind)
+void WorkbenchWindow::chooseAndShow(TelemetryWindow window)
 {
     const QString path =
         QFileDialog::getOpenFileName(this, vlk::text("wb_browse_caption"), settings_.telemetryFolder(),
                                      vlk::text("wb_type_telemetry") + QStringLiteral(" (*.xml *.tmi)"));
     if (!path.isEmpty())
-        showStored(path, kind);
+        showStored(path, window);
 }
 
-void WorkbenchWindow::showStored(const QString& path, int kind)
+void WorkbenchWindow::showStored(const QString& path, TelemetryWindow window)
 {
-    remember(path);
-    session_.link().showStoredFile(path, kind);
-}
-
-void WorkbenchWindow::remember(const QString& path)
-{
-    settings_.addRecentFile(path);
-    showRecentFiles();
-}
-
-void WorkbenchWindow::showRecentFiles()
-{
-    recent_->clear();
-    recentMenu_->clear();
-    for (const QString& path : settings_.recentFiles()) {
-        auto* item = new QListWidgetItem(QFileInfo(path).fileName(), recent_);
-        item->setData(Qt::UserRole, path);
-        item->setToolTip(QDir::toNativeSeparators(path));
-        recentMenu_->addAction(path, this, [this, path] { openRecent(path); });
-    }
-    recentMenu_->setEnabled(!recentMenu_->isEmpty());
-}
-
-void WorkbenchWindow::openRecent(const QString& path)
-{
-    if (session_.link().isLoaded())
-        openFile(path);
+    recent_->add(path, window);
+    session_.link().showStoredFile(path, static_cast<int>(window));
 }
 
 void WorkbenchWindow::chooseFolders()
@@ -415,6 +377,7 @@ void WorkbenchWindow::retranslate()
     texts_.apply();
     commands_.retranslate();
     device_->retranslate();
+    recent_->retranslate();
     logView_->retranslate();
     reportView_->retranslate();
     trackerPanel_->retranslate();

@@ -8,6 +8,7 @@
 #include "window/host_session.h"
 #include "window/key_texts.h"
 #include "window/message_log_model.h"
+#include "window/settings.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -17,11 +18,8 @@ class DevicePanel;
 class Languages;
 class MessageLogView;
 class QComboBox;
-class QGroupBox;
-class QListWidget;
-class QMenu;
 class QTabWidget;
-class Settings;
+class RecentFiles;
 class TrackerPanel;
 class WriteReportView;
 
@@ -40,8 +38,8 @@ public:
 
     void setLanguage(const QString& code);
     void setMode(int mode);
-    // A configuration opens in the configuration window, telemetry in the browser.
-    void openFile(const QString& path);
+    // A configuration opens in the configuration window, telemetry in this one.
+    void openFile(const QString& path, TelemetryWindow window = TelemetryWindow::Browser);
     void showHelp(const QString& page);
     void showMessage(const QString& text);
 
@@ -62,11 +60,8 @@ private:
     bool fullWindow() const;
     // What the tracker is asked for; says so when it gives nothing.
     void ask(bool answered);
-    void chooseAndShow(int kind);
-    void showStored(const QString& path, int kind);
-    void remember(const QString& path);
-    void showRecentFiles();
-    void openRecent(const QString& path);
+    void chooseAndShow(TelemetryWindow window);
+    void showStored(const QString& path, TelemetryWindow window);
     void chooseFolders();
     void applyFolders();
     void showBalance();
@@ -85,12 +80,10 @@ private:
     HelpPages helpPages_;
     QPointer<HelpViewer> help_;
     DevicePanel* device_;
-    QGroupBox* recentBox_;
-    QListWidget* recent_;
+    RecentFiles* recent_;
     QTabWidget* tabs_;
     MessageLogView* logView_;
     WriteReportView* reportView_;
     TrackerPanel* trackerPanel_;
     QComboBox* windowChoice_;
-    QMenu* recentMenu_ = nullptr;
 };

@@ -1,0 +1,83 @@
+#include "window/recent_files.h"
+
+#include "window/stored_file.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int kPathRole = Qt::UserRole;
+constexpr int kWindowRole = Qt::UserRole + 1;
+
+} // namespace
+
+RecentFiles::RecentFiles(Settings& settings, QWidget* parent)
+    : QGroupBox(parent), settings_(settings), list_(new QListWidget(this)), menu_(new QMenu(this))
+{
+    texts_.bind(static_cast<QGroupBox*>(this), "wb_recent");
+    texts_.bind(menu_, "wb_recent");
+    list_->setObjectName(QStringLiteral("listWidget_Recent"));
+    list_->setFrameShape(QFrame::NoFrame);
+    list_->setTextElideMode(Qt::ElideMiddle);
+    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list_->setContextMenuPolicy(Qt::CustomContextMenu);
+    texts_.bind([this] { list_->setAccessibleName(vlk::text("wb_recent")); });
+    connect(list_, &QListWidget::itemActivated, this, [this](const QListWidgetItem* item) {
+        Q_EMIT chosen(item->data(kPathRole).toString(), item->data(kWindowRole).value<TelemetryWindow>());
+    });
+    connect(list_, &QListWidget::customContextMenuRequested, this, &RecentFiles::offerWindows);
+
+    auto* hint = texts_.bind(new QLabel(this), "wb_drop_hint");
+    hint->setWordWrap(true);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(list_, 1);
+    layout->addWidget(hint);
+    refresh();
+}
+
+void RecentFiles::add(const QString& path, TelemetryWindow window)
+{
+    settings_.addRecentFile(path, window);
+    refresh();
+}
+
+void RecentFiles::remove(const QString& path)
+{
+    settings_.removeRecentFile(path);
+    refresh();
+}
+
+void RecentFiles::refresh()
+{
+    list_->clear();
+    menu_->clear();
+    for (const RecentFile& file : settings_.recentFiles()) {
+        auto* item = new QListWidgetItem(QFileInfo(file.path).fileName(), list_);
+        item->setData(kPathRole, file.path);
+        item->setData(kWindowRole, QVariant::fromValue(file.window));
+        item->setToolTip(QDir::toNativeSeparators(file.path));
+        menu_->addAction(file.path, this, [this, file] { Q_EMIT chosen(file.path, file.window); });
+    }
+    menu_->setEnabled(!menu_->isEmpty());
+}
+
+void RecentFiles::offerWindows(const QPoint& at)
+{
+    const QListWidgetItem* item = list_->itemAt(at);
+    if (item == nullptr)
+        return;
+    const QString path = item->data(kPathRole).toString();
+    if (vlk::storedFileKind(path) != StoredFile::Telemetry)
+        return;
+    QMenu offers;
+    for (const auto& [key, window] : {std::pair("wb_browse_short", TelemetryWindow::Browser),
+                                      std::pair("wb_table_short", TelemetryWindow::Table)})
+        offers.addAction(vlk::text(key))->setData(QVariant::fromValue(window));
+    if (const QAction* action = offers.exec(list_->viewport()->mapToGlobal(at)))
+        Q_EMIT chosen(path, action->data().value<TelemetryWindow>());
+}
