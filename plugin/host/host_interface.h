@@ -27,6 +27,7 @@
 #include <QDateTime>
 #include <QString>
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 
@@ -361,5 +362,15 @@ using IsVlkLibraryVFunction = bool (*)();
 using GetLibraryInfoFunction = void (*)(LibraryInfo* info);
 using InitializeFunction = void (*)(HostCallback callback);
 using ReceiveMessageFunction = void (*)(void* handle, std::uint32_t id, void* p1, void* p2);
+
+// A plain value in the place of an address, and back. The token of a LibraryInfo becomes the handle likewise.
+inline void* asParameter(std::intptr_t value)
+{
+    return std::bit_cast<void*>(value);
+}
+inline std::intptr_t asValue(const void* parameter)
+{
+    return std::bit_cast<std::intptr_t>(parameter);
+}
 
 } // namespace vlk

@@ -19,7 +19,7 @@ void showHelp(const QString& page)
 QString eventText(int code)
 {
     QString text;
-    detail::send(Message::RequestEventText, reinterpret_cast<void*>(static_cast<std::intptr_t>(code)), &text);
+    detail::send(Message::RequestEventText, asParameter(code), &text);
     return text;
 }
 

@@ -20,7 +20,7 @@ void plain()
 template <Message id>
 void withValue(int value)
 {
-    send(id, reinterpret_cast<void*>(static_cast<std::intptr_t>(value)));
+    send(id, asParameter(value));
 }
 
 // The value lives in this frame for the length of the call, as the host expects.

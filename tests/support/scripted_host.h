@@ -42,7 +42,7 @@ public:
     {
         vlk::LibraryInfo info;
         libraryInfo(&info);
-        handle = reinterpret_cast<void*>(static_cast<std::uintptr_t>(info.handle));
+        handle = vlk::asParameter(info.handle);
         initialize(&ScriptedHost::callback);
     }
 
@@ -139,7 +139,7 @@ private:
     static void callback(void* /*device*/, std::uint32_t id, void* p1, void* p2)
     {
         using vlk::Parameter;
-        Sent sent{static_cast<vlk::Message>(id), {}, {}, reinterpret_cast<std::intptr_t>(p1)};
+        Sent sent{static_cast<vlk::Message>(id), {}, {}, vlk::asValue(p1)};
         for (const vlk::MessageInfo& info : vlk::messages) {
             if (info.number != sent.number)
                 continue;

@@ -164,7 +164,7 @@ void BrowserTest::initTestCase()
         if (message != Message::RequestEventText)
             return;
         ++eventQuestions_;
-        const auto code = reinterpret_cast<std::intptr_t>(p1);
+        const auto code = vlk::asValue(p1);
         if (code != 0)
             *static_cast<QString*>(p2) = QStringLiteral("event %1").arg(code);
     };

@@ -161,7 +161,7 @@ void ViewTest::initTestCase()
     host_.start();
     host_.onSend = [this](Message message, void* p1, void* p2) {
         if (message == Message::RequestEventText)
-            *static_cast<QString*>(p2) = QStringLiteral("event %1").arg(reinterpret_cast<std::intptr_t>(p1));
+            *static_cast<QString*>(p2) = QStringLiteral("event %1").arg(vlk::asValue(p1));
         if (message == Message::RequestRecordByNumber)
             number_ = *static_cast<quint32*>(p1);
         if (message == Message::RequestRecordByTime)

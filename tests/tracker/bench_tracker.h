@@ -81,7 +81,7 @@ public:
     Told ask(vlk::Message id, int value) { return ask(id, plain(value)); }
     // No answer comes in the time that it would take.
     bool silent(vlk::Message id, void* p1 = nullptr) { return ask(id, p1, 200).id == vlk::Message{}; }
-    static void* plain(int value) { return reinterpret_cast<void*>(std::intptr_t(value)); }
+    static void* plain(int value) { return vlk::asParameter(value); }
 
     QByteArray recordByNumber(quint32 number)
     {

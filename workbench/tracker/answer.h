@@ -42,7 +42,7 @@ using Handlers = std::map<vlk::Message, Handler>;
 
 inline int plainValue(void* p1)
 {
-    return static_cast<int>(reinterpret_cast<std::intptr_t>(p1));
+    return static_cast<int>(vlk::asValue(p1));
 }
 
 } // namespace tracker

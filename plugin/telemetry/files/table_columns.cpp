@@ -27,12 +27,11 @@ bool hasPackets(const TelemetryPages& pages)
 
 QString entryText(const ExtraEntry& entry)
 {
-    constexpr int kCardLetters = 16;
     switch (entry.type) {
     case ExtraEntry::TouchKey:
         return Word("tmizta_361").text() + QLatin1String(": ") + keyText(entry.number());
     case ExtraEntry::Card:
-        return Word("tmizta_362").text() + QLatin1String(": ") + entry.text().left(kCardLetters);
+        return Word("tmizta_362").text() + QLatin1String(": ") + entry.text();
     case ExtraEntry::Rfid:
         return Word("tmizta_120").text() + QLatin1String(" RFID: ") + keyText(entry.number());
     default:

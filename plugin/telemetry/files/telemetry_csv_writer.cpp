@@ -1,11 +1,8 @@
 #include "telemetry/files/telemetry_csv_writer.h"
 
-#include "telemetry/files/csv_columns.h"
 #include "telemetry/files/output_buffer.h"
+#include "telemetry/files/table_columns.h"
 #include "telemetry/files/title_lines.h"
-#include "telemetry/text/key_text.h"
-
-#include <algorithm>
 
 namespace vlk {
 
@@ -13,42 +10,14 @@ namespace {
 
 const QLatin1String kLineEnd("\r\n");
 
-// The fields that any of the records has.
-FieldMask unionMask(const TelemetryPages& pages)
-{
-    FieldMask::Bytes bytes{};
-    for (const auto& page : pages) {
-        if (!page->isExtra())
-            std::ranges::transform(bytes, page->mask().bytes(), bytes.begin(), std::bit_or<>());
-    }
-    return FieldMask(bytes);
-}
-
-QString entryText(const ExtraEntry& entry)
-{
-    switch (entry.type) {
-    case ExtraEntry::TouchKey:
-        return Word("tmizta_361").text() + QLatin1String(": ") + keyText(entry.number());
-    case ExtraEntry::Card:
-        return Word("tmizta_362").text() + QLatin1String(": ") + entry.text();
-    case ExtraEntry::Rfid:
-        return Word("tmizta_120").text() + QLatin1String(" RFID: ") + keyText(entry.number());
-    default:
-        return {};
-    }
-}
-
 class CsvWriter
 {
 public:
     CsvWriter(QIODevice& device, const TelemetryPages& pages, const TelemetryTitles& titles,
               const EventText& eventText)
         : out_(device), pages_(pages), eventText_(eventText),
-          userTypes_(typeLetters(titles).toLatin1().toStdString())
+          userTypes_(typeLetters(titles).toLatin1().toStdString()), columns_(columnsOf(pages))
     {
-        const FieldMask mask = unionMask(pages);
-        std::ranges::copy_if(csvColumns(), std::back_inserter(columns_),
-                             [&](const CsvColumn& column) { return mask.test(column.field()); });
     }
 
     bool write()
@@ -68,7 +37,7 @@ private:
     {
         for (const CsvColumn& column : columns_)
             row_ += headingText(column) + QLatin1Char(';');
-        if (std::ranges::any_of(pages_, [](const auto& page) { return page->isExtra(); }))
+        if (hasPackets(pages_))
             row_ += Word("tmizta_359").text() + QLatin1Char(';');
         endRow();
     }

@@ -36,17 +36,17 @@ struct Field
     quint8 at;
     quint8 width;
     Shape shape = Shape::Number;
-    const char* key = nullptr;
     Part part = Part::Whole;
-    const StateTable* states = nullptr;
     Numbered numbered = Numbered::No;
     quint8 number = 0;
     bool colon = true;
+    const char* key = nullptr;
+    const StateTable* states = nullptr;
 };
 
 constexpr Field numberAt(quint8 at, quint8 width, const char* key, Part part = Part::Whole)
 {
-    return {.at = at, .width = width, .key = key, .part = part};
+    return {.at = at, .width = width, .part = part, .key = key};
 }
 
 constexpr Field timeAt(quint8 at, const char* key)
@@ -65,9 +65,9 @@ constexpr Field stateAt(quint8 at, Part part, const StateTable& states, quint8 d
             .width = 1,
             .shape = Shape::State,
             .part = part,
-            .states = &states,
             .numbered = driver == 0 ? Numbered::No : Numbered::WithSign,
-            .number = driver};
+            .number = driver,
+            .states = &states};
 }
 
 constexpr Field numbered(Field field, quint8 number)

@@ -2,6 +2,7 @@
 
 #include "telemetry/text/item_text.h"
 #include "telemetry/text/signal_level.h"
+#include "telemetry/view/position_rows.h"
 
 #include <QHBoxLayout>
 #include <QInputDialog>
@@ -47,18 +48,8 @@ constexpr ValueSeries kJamming[] = {
     {"label_GPS_Jamming_State", "tmizta_140", item("Module2.2")},
 };
 
-constexpr ValueSeries kPosition[] = {
-    {"label_Navi_State_Value", "tmift1_027", item("StateNGauge.0")},
-    {"label_Navi_Valid_Value", "tmift1_030", item("StateNGauge.1")},
+constexpr ValueSeries kFixed[] = {
     {"label_Navi_Fixed_Value", "tmizta_141", item("Module2.3")},
-    {"label_Navi_Count_Value", "tmift1_028", item("StateNGauge.satellites")},
-    {"label_Navi_Date_Value", "tmift1_029", item("LastTime")},
-    {"label_Navi_Lat_Value", "tmift1_031", item("Latitude")},
-    {"label_Navi_Lon_Value", "tmift1_032", item("Longitude")},
-    {"label_Navi_Alt_Value", "tmift1_033", item("Altitude")},
-    {"label_Navi_Speed_Value", "tmift1_034", item("Speed")},
-    {"label_Navi_Course_Value", "tmift1_035", item("Course")},
-    {"label_Navi_Way_Value", "tmift1_036", item("Run")},
 };
 
 constexpr ValueSeries kSegment[] = {
@@ -176,7 +167,9 @@ void VLK_Form_Tmi_F3_Tab_Main::addGsm()
 void VLK_Form_Tmi_F3_Tab_Main::addNavigation()
 {
     RecordGroup* group = addGroup(1, "groupBox_Navi", "tmift1_025");
-    group->addList(kPosition);
+    group->addList(kFixRows<ValueSeries>);
+    group->addList(kFixed);
+    group->addList(kPositionRows<ValueSeries>);
     run_->setObjectName(QStringLiteral("pushButton_Run"));
     connect(run_, &QPushButton::pressed, this, &VLK_Form_Tmi_F3_Tab_Main::slot_pressed_Btn_SetRun);
     group->addCommand(run_);

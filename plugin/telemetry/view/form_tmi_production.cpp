@@ -3,6 +3,7 @@
 #include "host/device_r7106.h"
 #include "telemetry/text/item_text.h"
 #include "telemetry/text/signal_level.h"
+#include "telemetry/view/position_rows.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -33,19 +34,6 @@ struct InputRow
 constexpr InputRow kInputs[] = {
     {"label_In_I1_%1", "lN1:", item("StateIn1.0")},
     {"label_In_I2_%1", "lN2:", item("StateIn1.1")},
-};
-
-constexpr ValueRow kNavigation[] = {
-    {"label_Navi_State_Value", "tmift1_027", item("StateNGauge.0")},
-    {"label_Navi_Count_Value", "tmift1_028", item("StateNGauge.satellites")},
-    {"label_Navi_Date_Value", "tmift1_029", item("LastTime")},
-    {"label_Navi_Valid_Value", "tmift1_030", item("StateNGauge.1")},
-    {"label_Navi_Lat_Value", "tmift1_031", item("Latitude")},
-    {"label_Navi_Lon_Value", "tmift1_032", item("Longitude")},
-    {"label_Navi_Alt_Value", "tmift1_033", item("Altitude")},
-    {"label_Navi_Speed_Value", "tmift1_034", item("Speed")},
-    {"label_Navi_Course_Value", "tmift1_035", item("Course")},
-    {"label_Navi_Way_Value", "tmift1_036", item("Run")},
 };
 
 constexpr ValueRow kReliability[] = {
@@ -110,14 +98,14 @@ VLK_Form_TMI_Production::VLK_Form_TMI_Production(EventPanel* panel, QWidget* par
         inputTexts_.push_back(makeCaption(named(row.stem, "Text")));
         inputValues_.push_back(makeValue(named(row.stem, "Value")));
         const int at = inputs->rowCount();
-        inputs->addWidget(caption, at, 0);
-        inputs->addWidget(inputTexts_.back(), at, 1);
-        inputs->addWidget(inputValues_.back(), at, 2);
+        inputs->addLayout(besideEachOther({caption, inputTexts_.back()}), at, 0);
+        inputs->addWidget(inputValues_.back(), at, 1);
     }
-    inputs->setColumnStretch(2, 1);
+    inputs->setColumnStretch(1, 1);
 
     auto* navigation = addGroup("groupBox_Navi", "tmift1_025");
-    rows_.add(navigation, kNavigation);
+    rows_.add(navigation, kFixRows<ValueRow>);
+    rows_.add(navigation, kPositionRows<ValueRow>);
     addLastSegment(navigation);
     rows_.add(navigation, kReliability);
     navigation->setRowStretch(navigation->rowCount(), 1);
@@ -144,9 +132,9 @@ QGridLayout* VLK_Form_TMI_Production::addGroup(const char* name, const char* key
 {
     auto* box = new QGroupBox(this);
     box->setObjectName(QLatin1String(name));
-    groups_.push_back({box, key});
     auto* grid = new QGridLayout(box);
     grid->setHorizontalSpacing(12);
+    groups_.push_back({box, grid, key});
     return grid;
 }
 
@@ -194,6 +182,21 @@ void VLK_Form_TMI_Production::markLimits(const TmiPage_Zeta3& page)
     }
 }
 
+// The groups below each other have their values in one column.
+void VLK_Form_TMI_Production::alignValues()
+{
+    int widest = 0;
+    const std::span below(groups_.data(), groups_.size() - 1);
+    for (const Group& group : below) {
+        for (int row = 0; row < group.grid->rowCount(); ++row) {
+            if (const QLayoutItem* caption = group.grid->itemAtPosition(row, 0))
+                widest = std::max(widest, caption->sizeHint().width());
+        }
+    }
+    for (const Group& group : below)
+        group.grid->setColumnMinimumWidth(0, widest);
+}
+
 void VLK_Form_TMI_Production::retranslate()
 {
     for (const Group& group : groups_)
@@ -205,6 +208,7 @@ void VLK_Form_TMI_Production::retranslate()
     const QStringList parts = partsAroundValues(tr("tmift1_037"));
     for (std::size_t i = 0; i < segmentCaptions_.size(); ++i)
         segmentCaptions_[i]->setText(parts.value(static_cast<int>(i)));
+    alignValues();
     if (record_.page() != nullptr)
         fill(*record_.page());
 }

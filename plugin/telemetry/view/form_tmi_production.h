@@ -35,10 +35,12 @@ private:
     void addLastSegment(QGridLayout* grid);
     void fill(const TmiPage_Zeta3& page);
     void markLimits(const TmiPage_Zeta3& page);
+    void alignValues();
 
     struct Group
     {
         QGroupBox* box;
+        QGridLayout* grid;
         const char* key;
     };
 

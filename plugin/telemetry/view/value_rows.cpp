@@ -90,7 +90,7 @@ void ValueRows::add(QGridLayout* grid, std::span<const ValueRow> rows, int colum
             grid->addWidget(value, at, column + 1);
         else
             grid->addLayout(besideEachOther({value, unit}), at, column + 1);
-        shown_.push_back({&row, caption, value, unit});
+        shown_.push_back({row, caption, value, unit});
         ++at;
     }
     grid->setColumnStretch(column + 1, 1);
@@ -99,11 +99,11 @@ void ValueRows::add(QGridLayout* grid, std::span<const ValueRow> rows, int colum
 void ValueRows::retranslate()
 {
     for (const Shown& shown : shown_) {
-        const QStringList parts = partsAroundValues(QCoreApplication::translate("vlk", shown.row->key));
+        const QStringList parts = partsAroundValues(QCoreApplication::translate("vlk", shown.row.key));
         shown.caption->setText(parts.value(0));
         if (shown.unit != nullptr)
-            shown.unit->setText(shown.row->unitKey != nullptr
-                                    ? QCoreApplication::translate("vlk", shown.row->unitKey)
+            shown.unit->setText(shown.row.unitKey != nullptr
+                                    ? QCoreApplication::translate("vlk", shown.row.unitKey)
                                     : parts.value(1));
     }
 }
@@ -111,7 +111,7 @@ void ValueRows::retranslate()
 void ValueRows::fill(const TmiPage_Zeta3& page)
 {
     for (const Shown& shown : shown_)
-        shown.value->setText(text(page, shown.row->item));
+        shown.value->setText(text(page, shown.row.item));
 }
 
 } // namespace vlk

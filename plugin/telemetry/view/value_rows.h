@@ -44,7 +44,7 @@ public:
 private:
     struct Shown
     {
-        const ValueRow* row;
+        ValueRow row;
         QLabel* caption;
         QLabel* value;
         QLabel* unit;
