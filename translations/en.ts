@@ -751,6 +751,7 @@
     <message id="wb_event_060"><translation>1-Wire key touched</translation></message>
     <message id="wb_event_061"><translation>RFID tag read</translation></message>
     <message id="wb_event_unknown"><translation>Event</translation></message>
+    <message id="wb_fault_board"><translation>Bad board: supply and fix</translation></message>
     <message id="wb_fault_delay"><translation>Delay:</translation></message>
     <message id="wb_fault_garbled"><translation>Garbled answers</translation></message>
     <message id="wb_fault_short"><translation>Short answers</translation></message>

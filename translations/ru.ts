@@ -751,6 +751,7 @@
     <message id="wb_event_060"><translation>Приложен ключ 1-Wire</translation></message>
     <message id="wb_event_061"><translation>Прочитана метка RFID</translation></message>
     <message id="wb_event_unknown"><translation>Событие</translation></message>
+    <message id="wb_fault_board"><translation>Брак платы: питание и фикс</translation></message>
     <message id="wb_fault_delay"><translation>Задержка:</translation></message>
     <message id="wb_fault_garbled"><translation>Искажённые ответы</translation></message>
     <message id="wb_fault_short"><translation>Короткие ответы</translation></message>

@@ -1,6 +1,7 @@
 #include "window/command_line.h"
 #include "window/configuration_tour.h"
 #include "window/data_folder.h"
+#include "window/files_tour.h"
 #include "window/installed_files.h"
 #include "window/line_icon.h"
 #include "window/settings.h"
@@ -50,6 +51,7 @@ bool runTour(WorkbenchWindow& window, const QString& folder)
     Tour tour(window, folder);
     tour.add(vlk::configurationTour());
     tour.add(vlk::telemetryTour());
+    tour.add(vlk::filesTour());
     return tour.run();
 }
 

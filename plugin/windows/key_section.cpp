@@ -12,7 +12,7 @@ namespace {
 Q_LOGGING_CATEGORY(lcKeys, "vlk.keys")
 }
 
-KeySection& KeySection::add(KeyGroup group)
+KeySection& KeySection::add(const KeyGroup& group)
 {
     for (const QString& problem : group.problems())
         qCCritical(lcKeys, "%s/%s", qUtf8Printable(name_), qUtf8Printable(problem));

@@ -21,7 +21,7 @@ public:
     explicit KeySection(const char* name) : name_(QString::fromLatin1(name)) {}
 
     // Groups and children are walked in the order in which they were added.
-    KeySection& add(KeyGroup group);
+    KeySection& add(const KeyGroup& group);
     KeySection& add(Child child);
 
     const QString& name() const { return name_; }

@@ -184,7 +184,7 @@ void VLK_Widget_Config_Full::deviceDisconnected()
     });
 }
 
-QString VLK_Widget_Config_Full::userParamCode(QString text)
+QString VLK_Widget_Config_Full::userParamCode(const QString& text)
 {
     // "RS485, Modbus 3": the RS page knows its parameters by what follows the comma and its blank.
     QString code;
@@ -196,7 +196,7 @@ QString VLK_Widget_Config_Full::userParamCode(QString text)
     return code;
 }
 
-QString VLK_Widget_Config_Full::userParamText(QString code)
+QString VLK_Widget_Config_Full::userParamText(const QString& code)
 {
     QString text;
     if (code.isEmpty())

@@ -45,8 +45,8 @@ public:
     void deviceDisconnected();
 
     // Services for the pages.
-    QString userParamCode(QString text) override;
-    QString userParamText(QString code) override;
+    QString userParamCode(const QString& text) override;
+    QString userParamText(const QString& code) override;
     void gotoInputLines() override;
     void gotoRs() override;
     void gotoBluetooth() override;

@@ -5,12 +5,12 @@ VLK_Wnd_Config_Full::VLK_Wnd_Config_Full(QWidget* parent) : QWidget(parent)
     resize(400, 300);
 }
 
-QString VLK_Wnd_Config_Full::userParamCode(QString /*text*/)
+QString VLK_Wnd_Config_Full::userParamCode(const QString& /*text*/)
 {
     return {};
 }
 
-QString VLK_Wnd_Config_Full::userParamText(QString /*code*/)
+QString VLK_Wnd_Config_Full::userParamText(const QString& /*code*/)
 {
     return {};
 }

@@ -13,8 +13,8 @@ public:
     explicit VLK_Wnd_Config_Full(QWidget* parent = nullptr);
 
     // Stored code of a user parameter from its display text, and the way back; empty when nobody knows it.
-    virtual QString userParamCode(QString text);
-    virtual QString userParamText(QString code);
+    virtual QString userParamCode(const QString& text);
+    virtual QString userParamText(const QString& code);
     virtual void hook3();
     virtual void gotoInputLines();
     virtual void gotoRs();

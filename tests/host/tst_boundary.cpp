@@ -37,7 +37,7 @@ private:
 
 QString BoundaryTest::configuration(const QByteArray& content)
 {
-    const QString path = folder_.filePath(QStringLiteral("configuration.xml"));
+    QString path = folder_.filePath(QStringLiteral("configuration.xml"));
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return {};

@@ -167,7 +167,7 @@ private Q_SLOTS:
             QCOMPARE(other.recordByNumber(number), record);
         }
         const QByteArray record = bench.recordByNumber(50000);
-        bench.now += 5 * 86400;
+        bench.now += 5LL * 86400;
         bench.restart();
         QCOMPARE(bench.recordByNumber(50000), record);
         const quint32 newest = numberOf(bench.ask(Message::RequestCurrentRecord).first.mid(3));

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void everyStepDidWhatItShould();
     void configurationIsWhole();
     void reportNamesTheEditsAlone();
+    void samplesAreWhole();
     void picturesShowSomething();
 
 private:
@@ -48,7 +49,7 @@ void TourTest::everyStepDidWhatItShould()
 {
     QVERIFY2(exitCode_ == 0, output_.constData());
     QVERIFY2(!output_.contains("FAILED"), output_.constData());
-    QVERIFY(content("tour.txt").count("ok ") >= 15);
+    QVERIFY(content("tour.txt").count("ok ") >= 21);
 }
 
 void TourTest::configurationIsWhole()
@@ -75,13 +76,31 @@ void TourTest::reportNamesTheEditsAlone()
         QVERIFY2(report.contains(key), key);
 }
 
+// Two records saved in every form, and what a cancelled save left.
+void TourTest::samplesAreWhole()
+{
+    for (const auto& [name, least] : {std::pair("two.xml", 2), std::pair("part.xml", 150)}) {
+        QDomDocument document;
+        QString error;
+        QVERIFY2(document.setContent(content(name), &error), qPrintable(error));
+        const QDomNodeList pages = document.elementsByTagName(QStringLiteral("Page"));
+        QVERIFY(pages.size() >= least);
+        const QDomElement interval = document.documentElement().firstChildElement(QStringLiteral("INTERVAL"));
+        QCOMPARE(interval.attribute("count").toInt(), pages.size());
+    }
+    const QByteArrayList lines = content("two.csv").split('\n');
+    QVERIFY(lines.size() == 4 && lines[0].count(';') == lines[1].count(';'));
+    constexpr int identityBytes = 128;
+    QVERIFY(content("two.tmi").size() > identityBytes);
+}
+
 void TourTest::picturesShowSomething()
 {
     const QStringList pictures = QDir(folder_.path()).entryList({"*.png"});
-    QVERIFY(pictures.size() >= 15);
+    QVERIFY(pictures.size() >= 35);
     for (const QString& name : pictures) {
         const QImage image(folder_.filePath(name));
-        QVERIFY2(image.width() >= 400 && image.height() >= 200, qPrintable(name));
+        QVERIFY2(image.width() >= 200 && image.height() >= 60, qPrintable(name));
         QSet<QRgb> colours;
         for (int y = 0; y < image.height(); y += 3) {
             for (int x = 0; x < image.width(); x += 3)

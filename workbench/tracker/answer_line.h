@@ -21,6 +21,7 @@ public:
 
     void setSender(Sender sender) { sender_ = std::move(sender); }
     Faults& faults() { return faults_; }
+    const Faults& faults() const { return faults_; }
 
     bool plugged() const { return cable_ != nullptr; }
     void plug();

@@ -10,6 +10,7 @@ struct Faults
     int delayMs = 0;             // added to the tracker's own answering time
     bool shortAnswers = false;   // byte arrays lose their second half, fixed records have it zeroed
     bool garbledAnswers = false; // every fifth byte is wrong
+    bool badBoard = false;       // voltages out of their limits and no fix in the records from now on
     bool unplug = false;         // the cable goes while the next answer is under way; clears itself
 };
 

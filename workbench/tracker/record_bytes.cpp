@@ -11,6 +11,13 @@ namespace {
 constexpr quint8 recordType = 176;
 constexpr quint8 packetType = 177;
 
+// A backup battery and an input Ain3 outside of their limits, mV; a receiver that is on and has no fix.
+constexpr std::pair<vlk::ElementIndex, std::uint64_t> kBadBoard[] = {
+    {vlk::element("Reserv"), 3650},
+    {vlk::element("StateU_Ain3"), 5450},
+    {vlk::element("StateNGauge"), 1},
+};
+
 enum Entry : quint8 { KeyEntry = 1, CardEntry = 2, TagEntry = 3 };
 constexpr int cardWidth = 16;
 
@@ -18,6 +25,13 @@ class Block
 {
 public:
     explicit Block(const Vehicle& vehicle) : values_(valueBlock(vehicle)) {}
+
+    void set(vlk::ElementIndex index, std::uint64_t value)
+    {
+        const vlk::Element& element = vlk::kElements[index];
+        for (int byte = 0; byte < element.width; ++byte, value >>= 8)
+            values_[element.offset + byte] = static_cast<std::uint8_t>(value);
+    }
 
     void appendField(QByteArray& bytes, int field) const
     {
@@ -55,7 +69,11 @@ int DataSet::fieldCount() const
 
 QByteArray recordBytes(const Vehicle& vehicle, const DataSet& dataSet)
 {
-    const Block block(vehicle);
+    Block block(vehicle);
+    if (dataSet.ofBadBoard) {
+        for (const auto& [element, value] : kBadBoard)
+            block.set(element, value);
+    }
     vlk::FieldMask mask;
     QByteArray payload;
     for (int field = 0; field < dataSet.fieldCount(); ++field) {

@@ -67,6 +67,7 @@ struct SimulatedTracker::Parts
             result.mask = vlk::FieldMask::fromText(std::string(vlk::kFieldCount, '1'));
         else
             result.mask = vlk::FieldMask::fromText(mask.empty() ? vlk::kDefaultMaskText : mask);
+        result.ofBadBoard = line.faults().badBoard;
         return result;
     }
 
@@ -195,7 +196,7 @@ QString SimulatedTracker::readConfiguration(const QString& folder)
 
 WriteReport SimulatedTracker::writeConfiguration(const QString& path)
 {
-    const WriteReport report = parts_->write(path);
+    WriteReport report = parts_->write(path);
     if (report.accepted && !report.sameAsBefore())
         parts_->memory.change(parts_->now(), EventCode::ConfigurationChanged);
     if (parts_->line.takeUnplug())

@@ -68,19 +68,21 @@ constexpr int cardInside = 1;
 
 Answers stateAnswer(const Vehicle& vehicle)
 {
-    constexpr int times = 8;
-    const double drivenToday = std::fmod(vehicle.m.at.loadSeconds, 9 * 3600);
+    // Of driver 1, in minutes: driving without a break, the breaks, what he does now, driving in two weeks.
+    // Nobody sits beside him.
+    const double driven = vehicle.m.at.loadSeconds / 60;
+    const double minutes[] = {std::fmod(driven, 270), 15 + std::fmod(driven, 30), std::fmod(driven, 90),
+                              2400 + std::fmod(driven, 3000)};
     Frame frame(State, 31, statusOk);
     frame.put(8, static_cast<quint32>(vehicle.m.time));
-    frame.put(12, nibbles(vehicle.driving(), 1));
+    frame.put(12, nibbles(vehicle.driving(), vehicle.m.speed > vehicle.m.speedLimit));
     frame.put(13, nibbles(doing(vehicle), 0));
-    frame.put(14, nibbles(cardInside, 0));
+    frame.put(14, nibbles(0, cardInside));
     frame.put(15, nibbles(0, 0));
     frame.put(16, static_cast<quint32>(68000 + vehicle.m.at.km));
     frame.put(20, static_cast<quint8>(std::lround(vehicle.m.speed)));
-    // Driver 1 has the first four, in minutes; nobody sits beside him.
-    for (int i = 0; i < times; ++i)
-        frame.put(21 + 2 * i, static_cast<quint16>(i < times / 2 ? drivenToday / 60 / (i + 1) : 0));
+    for (std::size_t i = 0; i < std::size(minutes); ++i)
+        frame.put(static_cast<int>(21 + 2 * i), static_cast<quint16>(minutes[i]));
     return frame.answers();
 }
 
@@ -95,7 +97,7 @@ Answers cardAnswer(const Vehicle& vehicle, Kind kind)
     const Driver& driver = driverOf(vehicle.m);
     const QByteArray names[] = {driver.surname, driver.firstName, "FBU ROSAVTOTRANS", "YAROSLAVL"};
     Frame frame(kind, size, statusOk);
-    frame.put(8, nibbles(doing(vehicle), 0));
+    frame.put(8, nibbles(doing(vehicle), cardInside));
     frame.put(10, quint8(nationRussia));
     frame.text(11, 16, driver.card);
     frame.put(27, static_cast<quint32>(vehicle.m.at.km));

@@ -3,7 +3,6 @@
 #include "window/languages.h"
 #include "window/write_report_text.h"
 
-#include <QAbstractButton>
 #include <QFile>
 #include <QGroupBox>
 #include <QLineEdit>
@@ -34,16 +33,10 @@ Value other(const Value& present, const Value& one, const Value& two)
     return present == one ? two : one;
 }
 
-void expect(bool condition, const QString& otherwise)
-{
-    if (!condition)
-        throw TourFailure(otherwise);
-}
-
 void typeText(Notebook& book, const char* widget, const char* path, const QString& one, const QString& two)
 {
     auto* edit = Tour::find<QLineEdit>(widget);
-    expect(edit->isEnabled(), QStringLiteral("%1 is disabled").arg(QLatin1String(widget)));
+    Tour::expect(edit->isEnabled(), QStringLiteral("%1 is disabled").arg(QLatin1String(widget)));
     const QString text = other(edit->text(), one, two);
     edit->setText(text);
     book.edits.append({QLatin1String(path), text});
@@ -51,8 +44,8 @@ void typeText(Notebook& book, const char* widget, const char* path, const QStrin
 
 void readTracker(Tour& tour)
 {
-    expect(tour.window().session().readConfiguration(true),
-           QStringLiteral("the tracker gave no configuration"));
+    Tour::expect(tour.window().session().readConfiguration(true),
+                 QStringLiteral("the tracker gave no configuration"));
     tour.waitFor([] { return Tour::findVisible("lineEdit_Name"); }, QStringLiteral("the Transfer page"));
 }
 
@@ -75,14 +68,12 @@ void writeTracker(Tour& tour, Notebook& book)
     QObject::connect(
         &tour.window().session(), &HostSession::configurationWritten, &context,
         [&book](const tracker::WriteReport& r) { book.report = std::make_unique<tracker::WriteReport>(r); });
-    auto* button = Tour::find<QAbstractButton>("pushButton_LoadToDevice");
-    expect(button->isEnabled(), QStringLiteral("pushButton_LoadToDevice is disabled"));
-    button->click();
+    Tour::press("pushButton_LoadToDevice");
     tour.waitFor([&book] { return book.report != nullptr; }, QStringLiteral("the tracker's report"));
     tour.save(QStringLiteral("report.txt"), vlk::plainText(*book.report).toUtf8());
-    expect(book.report->accepted, vlk::summary(*book.report));
-    expect(!QFile::exists(book.report->file),
-           QStringLiteral("the written file was left behind: %1").arg(book.report->file));
+    Tour::expect(book.report->accepted, vlk::summary(*book.report));
+    Tour::expect(!QFile::exists(book.report->file),
+                 QStringLiteral("the written file was left behind: %1").arg(book.report->file));
     if (QWidget* dialog = Tour::findVisible("dialog_Report")) {
         tour.picture(QStringLiteral("report.png"), dialog);
         dialog->close();
@@ -104,15 +95,16 @@ void compare(const Notebook& book)
         wanted.append(edit.path + QLatin1Char('=') + edit.after);
     lines.sort();
     wanted.sort();
-    expect(lines == wanted, QStringLiteral("the tracker reports\n  %1\nbut edited was\n  %2")
-                                .arg(lines.join(QLatin1String("\n  ")), wanted.join(QLatin1String("\n  "))));
+    Tour::expect(lines == wanted,
+                 QStringLiteral("the tracker reports\n  %1\nbut edited was\n  %2")
+                     .arg(lines.join(QLatin1String("\n  ")), wanted.join(QLatin1String("\n  "))));
 }
 
 void checkTaken(Tour& tour, const Notebook& book)
 {
     const QString path = tour.window().session().tracker().readConfiguration(tour.folder().path());
     QFile file(path);
-    expect(file.open(QIODevice::ReadOnly), QStringLiteral("the tracker gave no configuration"));
+    Tour::expect(file.open(QIODevice::ReadOnly), QStringLiteral("the tracker gave no configuration"));
     tour.save(QStringLiteral("configuration.xml"), file.readAll());
     file.remove();
     compare(book);
@@ -144,7 +136,7 @@ std::vector<Tour::Step> configurationTour()
     return {
         {QStringLiteral("load the plug-in"),
          [](Tour& tour) {
-             expect(tour.window().session().link().isLoaded(), tour.window().session().link().error());
+             Tour::expect(tour.window().session().link().isLoaded(), tour.window().session().link().error());
              tour.picture(QStringLiteral("start.png"), &tour.window());
          }},
         {QStringLiteral("read the tracker's configuration"), readTracker},

@@ -1,122 +1,200 @@
 #include "window/telemetry_tour.h"
 
 #include "tracker/simulated_tracker.h"
+#include "window/live_telemetry.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QInputDialog>
 #include <QLabel>
-#include <QStackedWidget>
+#include <QLineEdit>
 #include <QTabWidget>
 #include <QTextEdit>
 
 namespace {
 
-constexpr const char* kNumber = "label_Event_NumPage_Value";
+using tracker::Protocol;
 
-void expect(bool condition, const QString& otherwise)
+tracker::SimulatedTracker& trackerOf(Tour& tour)
 {
-    if (!condition)
-        throw TourFailure(otherwise);
+    return tour.window().session().tracker();
 }
 
-QString recordNumber()
+QTabWidget* tabs()
 {
-    return Tour::find<QLabel>(kNumber)->text();
+    auto* page = live::window()->findChild<QWidget*>(QStringLiteral("page_Zeta3"));
+    auto* tabs = page->findChild<QTabWidget*>();
+    Tour::expect(tabs && tabs->count() == 4, QStringLiteral("the record has not its four tabs"));
+    return tabs;
 }
 
-QWidget* view()
+void photographTabs(Tour& tour, const QString& stem)
 {
-    return Tour::find<QLabel>(kNumber)->window();
-}
-
-QString pageOnShow()
-{
-    return view()->findChild<QStackedWidget*>(QStringLiteral("stackedWidget"))->currentWidget()->objectName();
-}
-
-void press(const char* button)
-{
-    Tour::find<QAbstractButton>(button)->click();
+    for (int tab = 0; tab < tabs()->count(); ++tab) {
+        tabs()->setCurrentIndex(tab);
+        tour.picture(QStringLiteral("%1-%2.png").arg(stem).arg(tab + 1), live::window());
+    }
+    tabs()->setCurrentIndex(0);
 }
 
 void openTelemetry(Tour& tour)
 {
     tour.window().setLanguage(QStringLiteral("ru"));
-    tour.window().session().liveTelemetry();
-    tour.waitFor([] { return Tour::findVisible(kNumber) && pageOnShow() == QLatin1String("page_Zeta3"); },
-                 QStringLiteral("a record in the telemetry window"));
-}
-
-void photographTabs(Tour& tour, const QString& stem)
-{
-    auto* page = view()->findChild<QWidget*>(QStringLiteral("page_Zeta3"));
-    auto* tabs = page->findChild<QTabWidget*>();
-    expect(tabs && tabs->count() == 4, QStringLiteral("the record has not its four tabs"));
-    for (int tab = 0; tab < tabs->count(); ++tab) {
-        tabs->setCurrentIndex(tab);
-        tour.picture(QStringLiteral("%1-%2.png").arg(stem).arg(tab + 1), view());
-    }
-    tabs->setCurrentIndex(0);
+    live::open(tour);
+    photographTabs(tour, QStringLiteral("telemetry"));
 }
 
 void everyField(Tour& tour)
 {
     tour.window().setLanguage(QStringLiteral("en"));
-    tour.window().session().tracker().setFullDataSet(true);
-    const QString before = recordNumber();
-    press("pushButton_Get_Prev");
-    tour.waitFor([&] { return recordNumber() != before; }, QStringLiteral("the record before"));
+    trackerOf(tour).setFullDataSet(true);
+    live::ask(tour, "pushButton_Get_Prev");
     photographTabs(tour, QStringLiteral("telemetry-full"));
-    tour.window().session().tracker().setFullDataSet(false);
 }
 
 void walkBack(Tour& tour)
 {
     for (int step = 0; step < 3; ++step) {
-        const qlonglong before = recordNumber().toLongLong();
-        press("pushButton_Get_Prev");
-        tour.waitFor([before] { return recordNumber().toLongLong() == before - 1; },
-                     QStringLiteral("record %1").arg(before - 1));
+        const qlonglong before = live::number().toLongLong();
+        live::ask(tour, "pushButton_Get_Prev");
+        Tour::expect(live::number().toLongLong() == before - 1,
+                     QStringLiteral("behind record %1 comes %2").arg(before).arg(live::number()));
     }
-    expect(Tour::find<QAbstractButton>("pushButton_Get_Next")->isEnabled(),
-           QStringLiteral("there is no way forward after walking back"));
+    Tour::expect(Tour::find<QAbstractButton>("pushButton_Get_Next")->isEnabled(),
+                 QStringLiteral("there is no way forward after walking back"));
 }
 
-void extraPacket(Tour& tour)
+// What a user switches shows in the present record.
+void controls(Tour& tour)
 {
-    press("pushButton_Func");
-    press("pushButton_Get_Current_RFID");
-    tour.waitFor([] { return pageOnShow() == QLatin1String("page_ZetaExt"); },
-                 QStringLiteral("an extra packet"));
-    tour.picture(QStringLiteral("telemetry-packet.png"), view());
+    constexpr int sensorsTab = 1;
+    constexpr double kilometres = 123456.75;
+    tour.whenModal([](QWidget& modal) {
+        auto* edit = modal.findChild<QDoubleSpinBox*>();
+        Tour::expect(edit != nullptr, QStringLiteral("no field for the mileage"));
+        edit->setValue(kilometres);
+        qobject_cast<QInputDialog*>(&modal)->accept();
+    });
+    Tour::press("pushButton_Run");
+    tabs()->setCurrentIndex(sensorsTab);
+    Tour::find<QComboBox>("comboBox_Out")->setCurrentIndex(1);
+    live::ask(tour, "pushButton_Get_Current");
+    const QString before = live::textOf("label_Out_Value_2");
+    const char* other =
+        before == live::textOf("label_Out_Value_1") ? "pushButton_Out_On" : "pushButton_Out_Off";
+    Tour::press(other);
+    live::ask(tour, "pushButton_Get_Prev");
+    live::ask(tour, "pushButton_Get_Current");
+    Tour::expect(live::textOf("label_Out_Value_2") != before, QStringLiteral("output 2 was not switched"));
+    tour.picture(QStringLiteral("telemetry-output.png"), live::window());
+    tabs()->setCurrentIndex(0);
+    const QString mileage = live::textOf("label_Navi_Way_Value");
+    Tour::expect(std::abs(mileage.toDouble() - kilometres) < 50,
+                 QStringLiteral("the mileage is %1").arg(mileage));
+    trackerOf(tour).setFullDataSet(false);
+}
+
+void keyAndTag(Tour& tour)
+{
+    tour.window().setLanguage(QStringLiteral("ru"));
+    live::showFunctions();
+    for (const auto& [button, field] :
+         {std::pair("pushButton_TM", "lineEdit_TM"), std::pair("pushButton_RFID", "lineEdit_RFID")}) {
+        auto* edit = Tour::find<QLineEdit>(field);
+        Tour::press(button);
+        tour.waitFor([edit] { return !edit->text().isEmpty(); },
+                     QStringLiteral("a number in %1").arg(QLatin1String(field)));
+    }
+    tour.picture(QStringLiteral("telemetry-keys.png"), live::window());
+}
+
+void extraPackets(Tour& tour)
+{
+    live::ask(tour, "pushButton_Get_Current_RFID");
+    Tour::expect(live::page() == QLatin1String("page_ZetaExt"),
+                 QStringLiteral("the tag's record is no packet"));
+    tour.picture(QStringLiteral("telemetry-packet.png"), live::window());
+    live::ask(tour, "pushButton_Get_Current_Touch");
+    tour.picture(QStringLiteral("telemetry-packet-key.png"), live::window());
 }
 
 void tachograph(Tour& tour)
 {
-    press("pushButton_Taho");
-    press("pushButton_Quest");
-    tour.waitFor([] { return !Tour::find<QTextEdit>("textEdit_Quest")->toPlainText().isEmpty(); },
+    Tour::press("pushButton_Taho");
+    auto* answer = Tour::find<QTextEdit>("textEdit_Quest");
+    QWidget* dialog = answer->window();
+    auto* question = Tour::find<QComboBox>("comboBox_Quest");
+    for (int i = 0; i < question->count(); ++i) {
+        question->setCurrentIndex(i);
+        answer->clear();
+        Tour::press("pushButton_Quest");
+        tour.waitFor([answer] { return !answer->toPlainText().isEmpty(); },
+                     QStringLiteral("an answer of the tachograph"));
+        tour.picture(QStringLiteral("tachograph-%1.png").arg(i + 1), dialog);
+    }
+    tour.window().setLanguage(QStringLiteral("en"));
+    Tour::press("pushButton_Create");
+    auto* load = Tour::find<QAbstractButton>("pushButton_Load");
+    tour.waitFor([load] { return load->isEnabled(); }, QStringLiteral("a file of the tachograph"));
+    Tour::find<QComboBox>("comboBox_Quest")->setCurrentIndex(1);
+    answer->clear();
+    Tour::press("pushButton_Quest");
+    tour.waitFor([answer] { return !answer->toPlainText().isEmpty(); },
                  QStringLiteral("an answer of the tachograph"));
-    QWidget* dialog = Tour::find<QTextEdit>("textEdit_Quest")->window();
     tour.picture(QStringLiteral("tachograph.png"), dialog);
     dialog->close();
 }
 
-void closeTelemetry(Tour& tour)
+// Records of the earlier versions have forms of their own.
+void earlierProtocols(Tour& tour)
 {
-    tour.window().session().link().send(vlk::Message::CloseWindows);
-    tour.waitFor([] { return !Tour::findVisible(kNumber); }, QStringLiteral("the end of the window"));
+    for (const auto& [protocol, form] :
+         {std::pair(Protocol::Protocol2, "page_Zeta2"), std::pair(Protocol::Protocol1, "page_Zeta1")}) {
+        trackerOf(tour).setProtocol(protocol);
+        live::ask(tour, "pushButton_Get_Current");
+        Tour::expect(live::page() == QLatin1String(form), QStringLiteral("shown is %1").arg(live::page()));
+        tour.picture(QStringLiteral("telemetry-%1.png").arg(live::page()), live::window());
+    }
+    trackerOf(tour).setProtocol(Protocol::AsConfigured);
+    live::close(tour);
+}
+
+QColor colourOf(const char* label)
+{
+    return Tour::find<QLabel>(label)->palette().color(QPalette::WindowText);
 }
 
 // In a production mode the same window shows the page with the limits of the test bench.
 void production(Tour& tour)
 {
-    tour.window().setMode(1);
-    tour.window().session().liveTelemetry();
-    tour.waitFor(
-        [] { return Tour::findVisible(kNumber) && pageOnShow() == QLatin1String("page_Production"); },
-        QStringLiteral("the production page"));
-    tour.picture(QStringLiteral("production.png"), view());
-    closeTelemetry(tour);
+    struct Case
+    {
+        int mode;
+        bool badBoard;
+        const char* language;
+    };
+    constexpr Case cases[] = {{1, false, "en"}, {1, true, "ru"}, {2, false, "ru"}, {2, true, "en"}};
+    for (const Case& c : cases) {
+        tour.window().setLanguage(QLatin1String(c.language));
+        tour.window().setMode(c.mode);
+        trackerOf(tour).faults().badBoard = c.badBoard;
+        live::open(tour);
+        Tour::expect(live::page() == QLatin1String("page_Production"),
+                     QStringLiteral("shown is %1").arg(live::page()));
+        for (const char* label :
+             {"label_Analog_Reserv_Value", "label_Analog_Ain3_Value", "label_Navi_Valid_Value"}) {
+            const bool isFix = qstrcmp(label, "label_Navi_Valid_Value") == 0;
+            Tour::expect(
+                (colourOf(label) == Qt::red) == (c.badBoard && !(isFix && c.mode == 2)),
+                QStringLiteral("%1 has the wrong colour in mode %2").arg(QLatin1String(label)).arg(c.mode));
+        }
+        tour.picture(
+            QStringLiteral("production-%1%2.png").arg(c.mode).arg(QLatin1String(c.badBoard ? "-bad" : "")),
+            live::window());
+        live::close(tour);
+    }
+    trackerOf(tour).faults().badBoard = false;
     tour.window().setMode(0);
 }
 
@@ -128,13 +206,13 @@ std::vector<Tour::Step> telemetryTour()
 {
     return {
         {QStringLiteral("open live telemetry"), openTelemetry},
-        {QStringLiteral("show the present record"),
-         [](Tour& tour) { photographTabs(tour, QStringLiteral("telemetry")); }},
         {QStringLiteral("show a record with every field"), everyField},
         {QStringLiteral("walk back"), walkBack},
-        {QStringLiteral("show an extra packet"), extraPacket},
+        {QStringLiteral("switch an output and set the mileage"), controls},
+        {QStringLiteral("read a key and a tag"), keyAndTag},
+        {QStringLiteral("show extra packets"), extraPackets},
         {QStringLiteral("ask the tachograph"), tachograph},
-        {QStringLiteral("close live telemetry"), closeTelemetry},
+        {QStringLiteral("show records of the earlier protocols"), earlierProtocols},
         {QStringLiteral("show the production page"), production},
     };
 }

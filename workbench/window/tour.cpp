@@ -1,9 +1,11 @@
 #include "window/tour.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QSaveFile>
 #include <QThread>
+#include <QTimer>
 
 #include <cstdio>
 
@@ -23,6 +25,7 @@ bool Tour::run()
     for (const Step& step : steps_) {
         try {
             step.act(*this);
+            throwFailureInModal();
             note(QStringLiteral("ok      %1").arg(step.name));
         } catch (const TourFailure& failure) {
             note(QStringLiteral("FAILED  %1: %2").arg(step.name, QString::fromStdString(failure.what())));
@@ -52,12 +55,53 @@ void Tour::waitFor(const std::function<bool()>& condition, const QString& what, 
     timer.start();
     constexpr int pauseMs = 10;
     while (!condition()) {
+        throwFailureInModal();
         if (timer.hasExpired(ms))
             throw TourFailure(QStringLiteral("%1 did not come within %2 ms").arg(what).arg(ms));
         QCoreApplication::processEvents(QEventLoop::AllEvents, pauseMs);
         QThread::msleep(pauseMs);
     }
     QCoreApplication::processEvents();
+}
+
+void Tour::whenModal(const std::function<void(QWidget&)>& act)
+{
+    constexpr int pauseMs = 20;
+    auto* timer = new QTimer(&window_);
+    QObject::connect(timer, &QTimer::timeout, timer, [this, timer, act] {
+        QWidget* modal = QApplication::activeModalWidget();
+        if (modal == nullptr)
+            return;
+        timer->stop();
+        timer->deleteLater();
+        // An exception must not pass the event loop of the dialog.
+        try {
+            act(*modal);
+        } catch (const TourFailure& failure) {
+            failureInModal_ = failure;
+            modal->close();
+        }
+    });
+    timer->start(pauseMs);
+}
+
+void Tour::throwFailureInModal()
+{
+    if (failureInModal_)
+        throw TourFailure(*std::exchange(failureInModal_, std::nullopt));
+}
+
+void Tour::press(const char* button)
+{
+    auto* found = find<QAbstractButton>(button);
+    expect(found->isEnabled(), QStringLiteral("%1 is disabled").arg(QLatin1String(button)));
+    found->click();
+}
+
+void Tour::expect(bool condition, const QString& otherwise)
+{
+    if (!condition)
+        throw TourFailure(otherwise);
 }
 
 void Tour::save(const QString& name, const QByteArray& content)

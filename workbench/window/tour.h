@@ -11,6 +11,7 @@
 #include <QDir>
 
 #include <functional>
+#include <optional>
 #include <stdexcept>
 #include <vector>
 
@@ -42,6 +43,11 @@ public:
     void note(const QString& line);
     // Runs the event loop until the condition holds; fails the step after the time.
     void waitFor(const std::function<bool()>& condition, const QString& what, int ms = 10'000);
+    // Acts on the next modal dialog, which a step opens and which holds it up; it has to close it.
+    void whenModal(const std::function<void(QWidget&)>& act);
+    // The visible button of a name; fails the step when it is disabled.
+    static void press(const char* button);
+    static void expect(bool condition, const QString& otherwise);
     // Leaves files in the folder.
     void save(const QString& name, const QByteArray& content);
     void picture(const QString& name, QWidget* widget);
@@ -61,8 +67,11 @@ public:
     static QWidget* findVisible(const char* name);
 
 private:
+    void throwFailureInModal();
+
     WorkbenchWindow& window_;
     QDir folder_;
     std::vector<Step> steps_;
     QString notes_;
+    std::optional<TourFailure> failureInModal_;
 };

@@ -84,6 +84,7 @@ QWidget* TrackerPanel::buildControls()
     addFault(list, "checkBox_Silence", "wb_fault_silence", &Faults::silence);
     addFault(list, "checkBox_Short", "wb_fault_short", &Faults::shortAnswers);
     addFault(list, "checkBox_Garbled", "wb_fault_garbled", &Faults::garbledAnswers);
+    addFault(list, "checkBox_BadBoard", "wb_fault_board", &Faults::badBoard);
     addFault(list, "checkBox_Unplug", "wb_fault_unplug", &Faults::unplug);
     delay_->setObjectName(QStringLiteral("spinBox_Delay"));
     delay_->setRange(0, longestDelayMs);

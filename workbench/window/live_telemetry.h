@@ -1,0 +1,26 @@
+#pragma once
+
+// The telemetry window as the steps of a tour drive it.
+
+#include "window/tour.h"
+
+class QStackedWidget;
+
+namespace live {
+
+void open(Tour& tour);
+void close(Tour& tour);
+
+QWidget* window();
+// Of the record on show.
+QString number();
+QString textOf(const char* label);
+// Object name of the content form on show: "page_Zeta3" and so on.
+QString page();
+
+// Asks for a record and waits until one with another number, or on another form, is there.
+void ask(Tour& tour, const char* button);
+// The row of functions at the bottom.
+void showFunctions();
+
+} // namespace live
