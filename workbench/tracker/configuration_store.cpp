@@ -7,6 +7,8 @@
 #include <QSaveFile>
 #include <QTextStream>
 
+#include <algorithm>
+
 Q_LOGGING_CATEGORY(lcTrackerStore, "vlk.tracker.store")
 
 // In no namespace, because the macro declares a function there.
@@ -84,6 +86,10 @@ void compare(const ConfigurationValues& before, const ConfigurationValues& after
     for (const QString& path : before.paths())
         if (!after.contains(path))
             report.removed.append({path, before.text(path), {}});
+    // The order of a document's attributes is not kept when sections are added to it.
+    for (auto* changes : {&report.changed, &report.added, &report.removed})
+        std::sort(changes->begin(), changes->end(),
+                  [](const KeyChange& a, const KeyChange& b) { return a.path < b.path; });
 }
 
 } // namespace

@@ -7,8 +7,10 @@
 #include "telemetry/record/record_head.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QSaveFile>
+#include <QStorageInfo>
 
 namespace vlk {
 
@@ -49,7 +51,9 @@ bool saveTelemetryFile(const QString& path, TelemetryForm form, const TelemetryP
     if (file.open(QIODevice::WriteOnly) && write(file, form, pages, origin, eventText) && file.flush() &&
         file.commit())
         return true;
-    qCWarning(lcFiles).noquote() << "cannot save" << path << ':' << file.errorString();
+    // A disk that fills in the middle of a write leaves no error text of its own.
+    qCWarning(lcFiles).noquote() << "cannot save" << path << ':' << file.errorString() << "with"
+                                 << QStorageInfo(QFileInfo(path).path()).bytesAvailable() << "bytes free";
     return false;
 }
 
