@@ -199,24 +199,20 @@ private Q_SLOTS:
     // One element alone in a record, read with its sign and type.
     void values_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QByteArray>("hex");
-        QTest::addColumn<qint64>("integer");
-        QTest::addColumn<double>("number");
-        QTest::newRow("u8") << QByteArray("GSM") << QByteArray("ff") << qint64{255} << 255.0;
-        QTest::newRow("i8") << QByteArray("Temp1") << QByteArray("fb") << qint64{-5} << -5.0;
-        QTest::newRow("u16") << QByteArray("Power") << QByteArray("3930") << qint64{12345} << 12345.0;
-        QTest::newRow("i16") << QByteArray("RefrTemp1") << QByteArray("0080") << qint64{-32768} << -32768.0;
-        QTest::newRow("u32") << QByteArray("Time") << QByteArray("ffffffff") << qint64{4294967295}
-                             << 4294967295.0;
-        QTest::newRow("i32") << QByteArray("Latitude") << QByteArray("feffffff") << qint64{-2} << -2.0;
-        QTest::newRow("f32") << QByteArray("Speed") << QByteArray("00002041") << qint64{0x41200000} << 10.0;
-        QTest::newRow("u64") << QByteArray("User8Byte_3") << QByteArray("0000000000000080")
-                             << std::numeric_limits<qint64>::min() << 9223372036854775808.0;
-        QTest::newRow("i64") << QByteArray("NaviLatitude")
-                             << QByteArray("0000000000000080"
-                                           "0000000000000000")
-                             << std::numeric_limits<qint64>::min() << -9223372036854775808.0;
+        DataTable<QByteArray, QByteArray, qint64, double>({"name", "hex", "integer", "number"})
+            .row("u8", "GSM", "ff", 255, 255.0)
+            .row("i8", "Temp1", "fb", -5, -5.0)
+            .row("u16", "Power", "3930", 12345, 12345.0)
+            .row("i16", "RefrTemp1", "0080", -32768, -32768.0)
+            .row("u32", "Time", "ffffffff", 4294967295, 4294967295.0)
+            .row("i32", "Latitude", "feffffff", -2, -2.0)
+            .row("f32", "Speed", "00002041", 0x41200000, 10.0)
+            .row("u64", "User8Byte_3", "0000000000000080", std::numeric_limits<qint64>::min(),
+                 9223372036854775808.0)
+            .row("i64", "NaviLatitude",
+                 "0000000000000080"
+                 "0000000000000000",
+                 std::numeric_limits<qint64>::min(), -9223372036854775808.0);
     }
 
     void values()
@@ -289,4 +285,5 @@ private Q_SLOTS:
 };
 
 QTEST_APPLESS_MAIN(TestRecord)
+#include "support/data_table.h"
 #include "tst_record.moc"
