@@ -1,5 +1,6 @@
 // The exports, the information record and the message table, as a host sees them.
 
+#include "support/files.h"
 #include "support/scripted_host.h"
 
 #include <QTemporaryDir>
@@ -17,7 +18,6 @@ private Q_SLOTS:
     void initTestCase()
     {
         QVERIFY(host_.isVlkLibrary && host_.libraryInfo && host_.initialize && host_.receiveMessage);
-        QVERIFY(folder_.isValid());
     }
 
     void identifiesItselfBeforeInitialize()
@@ -109,21 +109,6 @@ private Q_SLOTS:
         QCOMPARE(names.size(), int(std::size(vlk::messages)));
     }
 
-    void missingWindowsStayMissing()
-    {
-        const int before = QApplication::topLevelWidgets().size();
-        const std::int32_t unknownKind = 2;
-        const QString path = folder_.path();
-        host_.send(Message::ShowStoredFile, &path, &unknownKind);
-        vlk::IdPair pair{1, 2};
-        host_.send(Message::LiveKey, &pair);
-        const QByteArray record(200, '\0');
-        for (const Message number : {Message::CurrentRecord, Message::RecordByNumber, Message::RecordByTime,
-                                     Message::ExtraPacket, Message::TachographAnswer})
-            host_.send(number, &record);
-        QCOMPARE(QApplication::topLevelWidgets().size(), before);
-    }
-
     void balanceCodeFollowsFileAndConnection()
     {
         const QString path = configuration("<?xml version=\"1.0\" encoding=\"windows-1251\"?>"
@@ -183,12 +168,7 @@ private Q_SLOTS:
 private:
     QString configuration(const QByteArray& content)
     {
-        const QString path = folder_.filePath(QStringLiteral("configuration.xml"));
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly))
-            return {};
-        file.write(content);
-        return path;
+        return writeFile(folder_.filePath(QStringLiteral("configuration.xml")), content);
     }
 
     QString title() { return ScriptedHost::window("VLK_Widget_Config")->windowTitle(); }

@@ -1,26 +1,16 @@
 // The configuration dialog and the full window, driven through messages and widgets by name.
 
 #include "support/data_table.h"
+#include "support/files.h"
 #include "support/scripted_host.h"
+#include "support/window_parts.h"
 
-#include <QDir>
-#include <QFileDialog>
-#include <QFrame>
-#include <QGroupBox>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QSpinBox>
-#include <QStackedWidget>
-#include <QTabWidget>
-#include <QTemporaryDir>
-#include <QWheelEvent>
 #include <QtTest>
+#include <QtWidgets>
 
 using vlk::Message;
 
-class ConfigWindowTest : public QObject
+class ConfigWindowTest : public QObject, private WindowParts
 {
     Q_OBJECT
 
@@ -31,6 +21,7 @@ private Q_SLOTS:
         QDir::setCurrent(folder_.path());
         host_.start();
         host_.open({});
+        window = ScriptedHost::window("VLK_Widget_Config");
     }
 
     void init()
@@ -55,24 +46,20 @@ private Q_SLOTS:
         QFETCH(bool, file);
         QFETCH(bool, full);
         QFETCH(bool, fromFile);
-        host_.open(file ? configuration("one.xml", QStringLiteral("One")) : QString(), full, fromFile);
-        QTEST(dialog()->windowTitle(), "title");
+        host_.open(file ? configuration(QStringLiteral("One")) : QString(), full, fromFile);
+        QTEST(window->windowTitle(), "title");
         QTEST(shownPage(), "page");
-        QVERIFY(dialog()->isVisible());
-        QVERIFY(dialog()->isModal());
-        QVERIFY(dialog()->width() >= 1024 && dialog()->height() >= 600);
+        QVERIFY(window->isVisible());
+        QVERIFY(window->isModal());
+        QVERIFY(window->width() >= 1024 && window->height() >= 600);
     }
 
     void secondOpeningStartsFresh()
     {
-        host_.open(configuration("one.xml", QStringLiteral("One")));
+        host_.open(configuration(QStringLiteral("One")));
         QCOMPARE(name()->text(), QStringLiteral("One"));
 
-        QFile other(folder_.filePath(QStringLiteral("other.xml")));
-        QVERIFY(other.open(QIODevice::WriteOnly));
-        other.write("<DEVICE/>");
-        other.close();
-        host_.open(other.fileName());
+        host_.open(writeFile(folder_.filePath("other.xml"), "<DEVICE/>"));
         QCOMPARE(name()->text(), QStringLiteral("R-7106_Config"));
 
         name()->setText(QStringLiteral("Typed"));
@@ -83,11 +70,11 @@ private Q_SLOTS:
     void writeButtonFollowsTheConnection()
     {
         for (const char* write : {"pushButton_LoadToDevice", "pushButton_Light_LoadToDevice"}) {
-            QVERIFY(!button(write)->isEnabled());
+            QVERIFY(!isOn(write));
             host_.attach();
-            QVERIFY(button(write)->isEnabled());
+            QVERIFY(isOn(write));
             host_.attach(QStringLiteral("R-0000"));
-            QVERIFY(!button(write)->isEnabled());
+            QVERIFY(!isOn(write));
         }
     }
 
@@ -95,8 +82,8 @@ private Q_SLOTS:
     {
         host_.attach();
         for (const bool full : {true, false}) {
-            host_.open(configuration("one.xml", QStringLiteral("Ведомый «7»")), full);
-            button(full ? "pushButton_LoadToDevice" : "pushButton_Light_LoadToDevice")->click();
+            host_.open(configuration(QStringLiteral("Ведомый «7»")), full);
+            press(full ? "pushButton_LoadToDevice" : "pushButton_Light_LoadToDevice");
             const auto written = host_.takeSent(Message::WriteConfiguration);
             QCOMPARE(written.size(), 1);
             const QString pattern = QDir::currentPath() + (full ? "/vlk_R7106_" : "/vlk_R-7106_") +
@@ -105,22 +92,20 @@ private Q_SLOTS:
                          .match(written[0].text1)
                          .hasMatch(),
                      qPrintable(written[0].text1));
-            QFile file(written[0].text1);
-            QVERIFY(file.open(QIODevice::ReadOnly));
-            const QByteArray content = file.readAll();
+            const QByteArray content = readFile(written[0].text1);
             QVERIFY(content.startsWith(
                 "<?xml version=\"1.0\" encoding=\"windows-1251\"?>\n<DEVICE model=\"R-7106\" "
                 "version=\"3.3.0\" creator=\"config\" vendor=\"VELTRONIKA\">\n"));
             QVERIFY(content.contains("<OBJECT name=\"\xc2\xe5\xe4\xee\xec\xfb\xe9 \xab"
                                      "7\xbb\"/>"));
-            QVERIFY(file.remove());
+            QVERIFY(QFile::remove(written[0].text1));
         }
 
         // The tracker goes while its file is on the way: the button must not come back enabled.
-        QVERIFY(button("pushButton_LoadToDevice")->isEnabled());
+        QVERIFY(isOn("pushButton_LoadToDevice"));
         host_.send(Message::TrackerDetached);
-        button("pushButton_LoadToDevice")->click();
-        QVERIFY(!button("pushButton_LoadToDevice")->isEnabled());
+        press("pushButton_LoadToDevice");
+        QVERIFY(!isOn("pushButton_LoadToDevice"));
     }
 
     void savesWhereTheUserSays()
@@ -134,9 +119,9 @@ private Q_SLOTS:
             dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(target);
             static_cast<QDialog*>(dialog)->accept();
         });
-        button("pushButton_SaveToFile")->click();
+        press("pushButton_SaveToFile");
         QVERIFY(QFile::exists(target));
-        QVERIFY(button("pushButton_SaveToFile")->isEnabled());
+        QVERIFY(isOn("pushButton_SaveToFile"));
         QVERIFY2(QRegularExpression(
                      QStringLiteral("Truck 7_8\\(\\d\\d-\\d\\d-\\d\\d \\d\\d_\\d\\d_\\d\\d\\)\\.xml$"))
                      .match(suggested)
@@ -155,7 +140,7 @@ private Q_SLOTS:
         for (const char* save : {"pushButton_SaveToFile", "pushButton_Light_SaveToFile"}) {
             host_.open({}, qstrcmp(save, "pushButton_SaveToFile") == 0);
             ScriptedHost::whenModal([](QWidget* open) { open->close(); });
-            button(save)->click();
+            press(save);
         }
         QCOMPARE(QDir::current().entryList(), before);
     }
@@ -170,11 +155,11 @@ private Q_SLOTS:
                 text = box->text();
                 box->buttons().at(agree ? 0 : 1)->click();
             });
-            button("pushButton_ConfigLight")->click();
+            press("pushButton_ConfigLight");
             QVERIFY(text.contains(QStringLiteral("<br><br>")));
             QCOMPARE(shownPage(), agree ? QStringLiteral("page_Light") : QStringLiteral("page_Full"));
         }
-        button("pushButton_Light_ConfigFull")->click();
+        press("pushButton_Light_ConfigFull");
         QCOMPARE(shownPage(), QStringLiteral("page_Full"));
         QCOMPARE(name()->text(), QStringLiteral("Kept"));
         QVERIFY(!QFile::exists(QStringLiteral("file.xml")));
@@ -182,9 +167,9 @@ private Q_SLOTS:
 
     void excessLocksAllButTheDataSet()
     {
-        auto* tabs = ScriptedHost::child<QTabWidget>(full(), "tabWidget");
-        auto* frame = ScriptedHost::child<QFrame>(full(), "frame_Excess");
-        auto* menu = button("pushButton_Goto")->menu();
+        auto* tabs = child<QTabWidget>("tabWidget");
+        auto* frame = child<QFrame>("frame_Excess");
+        auto* menu = child<QPushButton>("pushButton_Goto")->menu();
         QVERIFY(QMetaObject::invokeMethod(full(), "slot_Excess_Size", Q_ARG(bool, true)));
         QVERIFY(!frame->isEnabled() && !menu->isEnabled() && !tabs->isTabEnabled(0));
         QVERIFY(QMetaObject::invokeMethod(full(), "slot_Excess_Size", Q_ARG(bool, false)));
@@ -196,30 +181,31 @@ private Q_SLOTS:
 
     void menuOpensTabs()
     {
-        auto* tabs = ScriptedHost::child<QTabWidget>(full(), "tabWidget");
-        auto* menu = button("pushButton_Goto")->menu();
+        auto* tabs = child<QTabWidget>("tabWidget");
+        auto* menu = child<QPushButton>("pushButton_Goto")->menu();
         QCOMPARE(menu->actions().size(), tabs->count());
         for (int tab = tabs->count() - 1; tab >= 0; --tab) {
             QCOMPARE(menu->actions().at(tab)->text(), tabs->tabText(tab));
             menu->actions().at(tab)->trigger();
             QCOMPARE(tabs->currentIndex(), tab);
             const bool several = tabs->count() > 1;
-            QCOMPARE(button("pushButton_Goto")->isEnabled(), several);
-            QCOMPARE(button("pushButton_PrevScreen")->isEnabled(), several && tab > 0);
-            QCOMPARE(button("pushButton_NextScreen")->isEnabled(), several && tab < tabs->count() - 1);
-            button("pushButton_Help")->click();
+            QCOMPARE(isOn("pushButton_Goto"), several);
+            QCOMPARE(isOn("pushButton_PrevScreen"), several && tab > 0);
+            QCOMPARE(isOn("pushButton_NextScreen"), several && tab < tabs->count() - 1);
+            press("pushButton_Help");
             const auto help = host_.takeSent(Message::ShowHelp);
             QCOMPARE(help.size(), 1);
             QCOMPARE(help[0].text2, QStringLiteral("r-7106p%1.html").arg(tab + 1));
         }
-        QVERIFY(button("pushButton_First")->isHidden() && button("pushButton_Last")->isHidden());
+        QVERIFY(child<QWidget>("pushButton_First")->isHidden() &&
+                child<QWidget>("pushButton_Last")->isHidden());
     }
 
     void wheelAndEnterChangeNothing()
     {
-        auto* port = ScriptedHost::child<QSpinBox>(full(), "GPRSSrv_spinBox_Port_Main");
-        auto* key = ScriptedHost::child<QLineEdit>(full(), "lineEdit_Crypto");
-        auto* group = ScriptedHost::child<QGroupBox>(full(), "GPRSSrv_groupBox_Main");
+        auto* port = child<QSpinBox>("GPRSSrv_spinBox_Port_Main");
+        auto* key = child<QLineEdit>("lineEdit_Crypto");
+        auto* group = child<QGroupBox>("GPRSSrv_groupBox_Main");
         group->setChecked(true);
         const int before = port->value();
         name()->setFocus();
@@ -229,47 +215,37 @@ private Q_SLOTS:
         QCOMPARE(port->value(), before);
         QTest::keyClick(name(), Qt::Key_Return);
         QCOMPARE(key->text(), QString());
-        QVERIFY(dialog()->isVisible());
+        QVERIFY(window->isVisible());
     }
 
     void raiseAndClose()
     {
         host_.send(Message::RaiseConfiguration);
-        QVERIFY(dialog()->isVisible());
-        button("pushButton_Close")->click();
-        QVERIFY(!dialog()->isVisible());
-        host_.send(Message::RaiseConfiguration);
-        QVERIFY(!dialog()->isVisible());
-        host_.open({}, false);
-        button("pushButton_Light_Close")->click();
-        QVERIFY(!dialog()->isVisible());
-        host_.open({});
-        host_.send(Message::CloseWindows);
-        QVERIFY(!dialog()->isVisible());
-        host_.open({});
-        full()->close();
-        QVERIFY(!dialog()->isVisible());
+        QVERIFY(window->isVisible());
+        const std::function<void()> closings[] = {
+            [this] { press("pushButton_Close"); },
+            [this] { host_.open({}, false), press("pushButton_Light_Close"); },
+            [this] { host_.send(Message::CloseWindows); }, [this] { full()->close(); }};
+        for (const auto& close : closings) {
+            host_.open({});
+            QVERIFY(window->isVisible());
+            close();
+            QVERIFY(!window->isVisible());
+            host_.send(Message::RaiseConfiguration);
+            QVERIFY(!window->isVisible());
+        }
     }
 
 private:
-    QWidget* dialog() { return ScriptedHost::window("VLK_Widget_Config"); }
     QWidget* full() { return ScriptedHost::window("VLK_Widget_Config_Full"); }
-    QPushButton* button(const char* name) { return ScriptedHost::child<QPushButton>(dialog(), name); }
-    QString shownPage()
-    {
-        return dialog()->findChild<QStackedWidget*>("stackedWidget")->currentWidget()->objectName();
-    }
-    QLineEdit* name() { return ScriptedHost::child<QLineEdit>(full(), "lineEdit_Name"); }
+    QString shownPage() { return child<QStackedWidget>("stackedWidget")->currentWidget()->objectName(); }
+    QLineEdit* name() { return child<QLineEdit>("lineEdit_Name"); }
 
-    QString configuration(const char* file, const QString& objectName)
+    QString configuration(const QString& objectName)
     {
-        QFile out(folder_.filePath(QString::fromLatin1(file)));
-        if (!out.open(QIODevice::WriteOnly))
-            return {};
-        out.write(QStringLiteral("<DEVICE><TRANS page=\"TRANS\"><OBJECT name=\"%1\"/></TRANS></DEVICE>")
-                      .arg(objectName)
-                      .toUtf8());
-        return out.fileName();
+        return writeFile(folder_.filePath("one.xml"), ("<DEVICE><TRANS page=\"TRANS\"><OBJECT name=\"" +
+                                                       objectName + "\"/></TRANS></DEVICE>")
+                                                          .toUtf8());
     }
 
     ScriptedHost host_;

@@ -8,15 +8,8 @@
 #include "support/window_parts.h"
 #include "telemetry/files/telemetry_file.h"
 
-#include <QAbstractItemModel>
-#include <QHeaderView>
-#include <QSlider>
-#include <QSpinBox>
-#include <QStackedWidget>
-#include <QTableView>
-#include <QTemporaryDir>
-#include <QTreeWidget>
 #include <QtTest>
+#include <QtWidgets>
 
 using namespace vlk;
 

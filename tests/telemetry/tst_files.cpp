@@ -445,5 +445,4 @@ private Q_SLOTS:
 };
 
 QTEST_GUILESS_MAIN(TestFiles)
-#include "support/data_table.h"
 #include "tst_files.moc"

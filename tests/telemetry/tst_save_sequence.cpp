@@ -5,15 +5,8 @@
 #include "support/data_table.h"
 #include "support/full_disk.h"
 
-#include <QCheckBox>
-#include <QDateTimeEdit>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QProgressBar>
-#include <QRegularExpression>
-#include <QSpinBox>
 #include <QtTest>
+#include <QtWidgets>
 
 using vlk::Message;
 

@@ -6,18 +6,8 @@
 #include "telemetry/text/item_text.h"
 #include "telemetry/text/signal_level.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QGroupBox>
-#include <QInputDialog>
-#include <QMenu>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QSpinBox>
-#include <QTabWidget>
-#include <QTranslator>
 #include <QtTest>
+#include <QtWidgets>
 
 #include <random>
 

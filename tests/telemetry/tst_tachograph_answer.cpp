@@ -1,5 +1,6 @@
 // Answers of a tachograph as lines. Without a translator a text shows as its key.
 
+#include "support/data_table.h"
 #include "telemetry/text/tachograph_answer.h"
 
 #include <QtTest>
@@ -59,58 +60,52 @@ QByteArray file(char code, const QByteArray& name = {})
     return kFront + '\0' + code + little(81234, 4) + name;
 }
 
-const QStringList kStateLines = {
-    "tmiw_052: <b>10:11:12 03.02.2025</b>",
-    "tmiw_053: <b>1</b>",
-    "tmiw_054: <b>2</b>",
-    "tmiw_055 abbr_047 1: <b>tmiw_059</b>",
-    "tmiw_055 abbr_047 2: <b>7</b>",
-    "tmiw_060 abbr_047 1: <b>tmiw_061</b>",
-    "tmiw_065 abbr_047 1: <b>tmiw_068</b>",
-    "tmiw_060 abbr_047 2: <b>tmiw_064</b>",
-    "tmiw_065 abbr_047 2: <b>tmiw_067</b>",
-    "tmiw_070 <b>4000000000</b>",
-    "tmiw_071: <b>255</b>",
-    "tmiw_072: <b>65528</b>",
-    "tmiw_073: <b>65529</b>",
-    "tmiw_074: <b>65530</b>",
-    "tmiw_075: <b>65531</b>",
-    "tmiw_076: <b>65532</b>",
-    "tmiw_077: <b>65533</b>",
-    "tmiw_078: <b>65534</b>",
-    "tmiw_079: <b>65535</b>",
-};
+const QStringList kStateLines = {"tmiw_052: <b>10:11:12 03.02.2025</b>",
+                                 "tmiw_053: <b>1</b>",
+                                 "tmiw_054: <b>2</b>",
+                                 "tmiw_055 abbr_047 1: <b>tmiw_059</b>",
+                                 "tmiw_055 abbr_047 2: <b>7</b>",
+                                 "tmiw_060 abbr_047 1: <b>tmiw_061</b>",
+                                 "tmiw_065 abbr_047 1: <b>tmiw_068</b>",
+                                 "tmiw_060 abbr_047 2: <b>tmiw_064</b>",
+                                 "tmiw_065 abbr_047 2: <b>tmiw_067</b>",
+                                 "tmiw_070 <b>4000000000</b>",
+                                 "tmiw_071: <b>255</b>",
+                                 "tmiw_072: <b>65528</b>",
+                                 "tmiw_073: <b>65529</b>",
+                                 "tmiw_074: <b>65530</b>",
+                                 "tmiw_075: <b>65531</b>",
+                                 "tmiw_076: <b>65532</b>",
+                                 "tmiw_077: <b>65533</b>",
+                                 "tmiw_078: <b>65534</b>",
+                                 "tmiw_079: <b>65535</b>"};
 
-const QStringList kCardLines = {
-    "tmiw_055: <b>tmiw_057</b>",
-    "tmiw_065: <b>4</b>",
-    "tmiw_081: <b>7</b>",
-    "tmiw_082: <b>RUD0000012345678</b>",
-    "tmiw_083: <b>77</b>",
-    "tmiw_084 1: <b>1</b>",
-    "tmiw_084 2: <b>2</b>",
-    "tmiw_084 3: <b>3</b>",
-    "tmiw_084 4: <b>4</b>",
-    "tmiw_085 1: <b>Ivanov</b>",
-    "tmiw_085 2: <b>&lt;b&gt;&amp;</b>",
-    "tmiw_085 3: <b>Ivanov</b>",
-    "tmiw_085 4: <b>Ivanov</b>",
-};
+const QStringList kCardLines = {"tmiw_055: <b>tmiw_057</b>",
+                                "tmiw_065: <b>4</b>",
+                                "tmiw_081: <b>7</b>",
+                                "tmiw_082: <b>RUD0000012345678</b>",
+                                "tmiw_083: <b>77</b>",
+                                "tmiw_084 1: <b>1</b>",
+                                "tmiw_084 2: <b>2</b>",
+                                "tmiw_084 3: <b>3</b>",
+                                "tmiw_084 4: <b>4</b>",
+                                "tmiw_085 1: <b>Ivanov</b>",
+                                "tmiw_085 2: <b>&lt;b&gt;&amp;</b>",
+                                "tmiw_085 3: <b>Ivanov</b>",
+                                "tmiw_085 4: <b>Ivanov</b>"};
 
-const QStringList kDataLines = {
-    "<b>tmiw_086: 65</b>",
-    "tmiw_087: <b>Maker</b>",
-    "tmiw_088: <b>X9FABCDEFGH123456</b>",
-    "tmiw_089: <b>46</b>",
-    "tmiw_090: <b>4</b>",
-    "tmiw_091: <b>A123BC77</b>",
-    "tmiw_092: <b>2</b>",
-    "tmiw_093: <b>10:11:12 04.02.2025</b>",
-    "tmiw_094: <b>10:11:12 05.02.2025</b>",
-    "tmiw_095: <b>10:11:12 06.02.2025</b>",
-    "tmiw_096: <b>SN</b>",
-    "tmiw_097: <b>v1.2.3.4.5.6.7.8</b>",
-};
+const QStringList kDataLines = {"<b>tmiw_086: 65</b>",
+                                "tmiw_087: <b>Maker</b>",
+                                "tmiw_088: <b>X9FABCDEFGH123456</b>",
+                                "tmiw_089: <b>46</b>",
+                                "tmiw_090: <b>4</b>",
+                                "tmiw_091: <b>A123BC77</b>",
+                                "tmiw_092: <b>2</b>",
+                                "tmiw_093: <b>10:11:12 04.02.2025</b>",
+                                "tmiw_094: <b>10:11:12 05.02.2025</b>",
+                                "tmiw_095: <b>10:11:12 06.02.2025</b>",
+                                "tmiw_096: <b>SN</b>",
+                                "tmiw_097: <b>v1.2.3.4.5.6.7.8</b>"};
 
 QStringList fileLines(const char* text)
 {
@@ -213,5 +208,4 @@ private Q_SLOTS:
 };
 
 QTEST_APPLESS_MAIN(TachographAnswerTest)
-#include "support/data_table.h"
 #include "tst_tachograph_answer.moc"

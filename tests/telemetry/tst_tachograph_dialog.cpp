@@ -2,12 +2,8 @@
 
 #include "opened_view.h"
 
-#include <QComboBox>
-#include <QDateTimeEdit>
-#include <QFileDialog>
-#include <QPushButton>
-#include <QTextEdit>
 #include <QtTest>
+#include <QtWidgets>
 
 using vlk::Message;
 

@@ -3,15 +3,8 @@
 #include "opened_view.h"
 #include "support/data_table.h"
 
-#include <QCheckBox>
-#include <QDateTimeEdit>
-#include <QLineEdit>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QSpinBox>
-#include <QStackedWidget>
-#include <QTreeWidget>
 #include <QtTest>
+#include <QtWidgets>
 
 using vlk::Message;
 using vlk::packetBytes;
