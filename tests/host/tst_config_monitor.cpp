@@ -129,7 +129,6 @@ private Q_SLOTS:
             .row("window not active", int(Tab::InputLines), false, true)
             .row("tracker gone", int(Tab::InputLines), true, false);
     }
-
     void endsWhenItsWindowIsNotOnTop()
     {
         QFETCH(int, tab);

@@ -40,7 +40,6 @@ private Q_SLOTS:
             .row("file", true, true, true, "R-7106: one.xml", "page_Full")
             .row("file, quick", true, false, true, "R-7106: one.xml", "page_Light");
     }
-
     void titleSaysWhereItCameFrom()
     {
         QFETCH(bool, file);

@@ -41,7 +41,6 @@ private Q_SLOTS:
                     << section.name() << group.element();
         });
     }
-
     void everyKey()
     {
         QFETCH(QString, section);

@@ -87,7 +87,6 @@ private Q_SLOTS:
                  "set comboBox_RModeSim_1 3; on checkBox_RNoSmsSim_1; on checkBox_RNoCallSim_1; "
                  "on frame_RPerion; off frame_RConnectPeriod; on frame_RBlock");
     }
-
     // Load these keys, set a widget, and see what a widget shows, whether it is on or off, what is saved.
     void behaviour()
     {
@@ -180,7 +179,6 @@ private Q_SLOTS:
             .row("answers", true, "cfgt1_109")
             .row("silent", false, "cfgt1_108");
     }
-
     void testResult()
     {
         QFETCH(bool, ok);
@@ -227,7 +225,6 @@ private Q_SLOTS:
             .row("automatic", 5, false, false, false, true)
             .row("other", 6, false, false, true, false);
     }
-
     void operators()
     {
         QFETCH(int, item);
@@ -254,7 +251,6 @@ private Q_SLOTS:
             .row("another login", "internet.mts.ru", "me", 6)
             .row("login alone", "", "me", 6);
     }
-
     void operatorOfAFile()
     {
         QFETCH(QString, apn);

@@ -61,7 +61,6 @@ private Q_SLOTS:
             .row("repeated", QVector<int>{5, 5}, 1, {"5 --xx", "5 xx--"})
             .row("falling", QVector<int>{9, 4}, 1, {"9 --xx", "4 xx--"});
     }
-
     void positions()
     {
         QFETCH(QVector<int>, numbers);
@@ -164,7 +163,6 @@ private Q_SLOTS:
             .row("no pages", readFile(write({})), "telemetry.xml")
             .row("other bytes", QByteArray(100000, '\xb0'), "telemetry.xml");
     }
-
     void unreadableFiles()
     {
         QFETCH(QByteArray, content);
@@ -221,7 +219,6 @@ private Q_SLOTS:
             .row("a value changed", changed(kFirst + 2 * kSize - 1), all)
             .row("binary, cut in a record", binary.left(kFirst + kSize + 20), {"11111"});
     }
-
     // Whole records before and behind the damage are shown, and what can be walked to is what there is.
     void damagedFiles()
     {
@@ -291,7 +288,6 @@ private Q_SLOTS:
             .row("words by alphabet", 2, {"10", "20", "2", "3"}, {"2", "10", "20", "3"})
             .row("signed, absent last", 3, {"20", "10", "2", "3"}, {"10", "20", "2", "3"});
     }
-
     // Equal values keep the order of the file in both directions.
     void sorting()
     {

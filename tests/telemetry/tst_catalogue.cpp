@@ -98,7 +98,6 @@ private Q_SLOTS:
             .row("refrigerator", 181, 198, 48)
             .row("user parameters", 206, 254, 16 + 30 + 60 + 24);
     }
-
     void stretches()
     {
         QFETCH(int, first);

@@ -104,7 +104,6 @@ private Q_SLOTS:
             .row("area before the packet", packetBytes(kSecondHead + one, 20), packetBytes(one, 20), {})
             .row("area behind the packet", packetBytes(kSecondHead + one, 0xffff, 255), {}, {});
     }
-
     void areas()
     {
         QFETCH(QByteArray, road);

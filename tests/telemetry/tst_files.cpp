@@ -311,7 +311,6 @@ private Q_SLOTS:
                      "<Dynamic type=\"1\" size=\"255\" value=\"-1\"/>\n<Dynamic/>\n",
                  "8");
     }
-
     void forgivingXml()
     {
         QFETCH(QByteArray, file);
@@ -336,7 +335,6 @@ private Q_SLOTS:
             .row("least float", "Speed", "1.401298464324817e-45", 1)
             .row("64 bits", "User8Byte_3", "18446744073709551615", ~quint64{0});
     }
-
     // The mask alone says whether the value is in the record.
     void values()
     {
@@ -387,7 +385,6 @@ private Q_SLOTS:
             .row("three bytes", -1, 3, "", "NC")
             .row("empty", -1, 0, "", "");
     }
-
     void damagedBinary()
     {
         QFETCH(int, at);

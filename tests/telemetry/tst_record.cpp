@@ -137,7 +137,6 @@ private Q_SLOTS:
         for (int batch = 0; batch * kBatch < wanted; ++batch)
             QTest::addRow("batch %d", batch) << 7106U + static_cast<unsigned>(batch);
     }
-
     void randomRecords()
     {
         QFETCH(unsigned, seed);
@@ -161,7 +160,6 @@ private Q_SLOTS:
             }
         }
     }
-
     // Each seed, every prefix of it and every single bit of it turned over.
     void seeds()
     {
@@ -214,7 +212,6 @@ private Q_SLOTS:
             .row("i64", "NaviLatitude", "00000000000000800000000000000000",
                  std::numeric_limits<qint64>::min(), -9223372036854775808.0);
     }
-
     void values()
     {
         QFETCH(QByteArray, name);

@@ -72,7 +72,6 @@ private Q_SLOTS:
             .row("highest numbers", {0xfffffffd, 0xffffffff, 0xfffffffe}, {0xfffffffe},
                  {0xfffffffd, 0xfffffffe, 0xffffffff});
     }
-
     void collecting()
     {
         QFETCH(Numbers, answers);
@@ -96,7 +95,6 @@ private Q_SLOTS:
             .row("last before first", 1, 8LL, 7LL)
             .row("nothing in it", 1, Short, 7LL);
     }
-
     void refused()
     {
         QFETCH(int, seconds);
@@ -193,7 +191,6 @@ private Q_SLOTS:
             .row("opened again", Message::OpenTelemetry)
             .row("automatic requests", Message{});
     }
-
     // The file is written once, with what came.
     void endedFromOutside()
     {

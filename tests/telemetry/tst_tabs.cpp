@@ -137,7 +137,6 @@ private Q_SLOTS:
             .row("cut", randomRecord(4).bytes().left(300))
             .row("nothing", Record().bytes());
     }
-
     void labels()
     {
         QFETCH(QByteArray, record);
@@ -172,7 +171,6 @@ private Q_SLOTS:
             .row("beyond the scale", 0, 200, "10", 100, "%p %")
             .row("absent", -1, -1, "00", 0, "");
     }
-
     void cardAndLevel()
     {
         QFETCH(int, module);
@@ -220,7 +218,6 @@ private Q_SLOTS:
             .row("fourth", 8U, 3, 4)
             .row("none", 0U, -1, 0);
     }
-
     void outputs()
     {
         QFETCH(quint32, mask);
@@ -258,7 +255,6 @@ private Q_SLOTS:
             .row("below zero", -1., true, 0.F)
             .row("cancelled", 5., false, -1.F);
     }
-
     void mileage()
     {
         QFETCH(double, typed);
@@ -329,7 +325,6 @@ private Q_SLOTS:
     {
         DataTable<int>({"width"}).row("1600", 1600).row("1020", 1020).row("700", 700).row("1300", 1300);
     }
-
     // Columns begin at the top, groups do not overlap, and no value moves when the record changes.
     void arrangement()
     {

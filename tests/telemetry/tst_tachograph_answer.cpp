@@ -131,7 +131,6 @@ private Q_SLOTS:
             .row("card 2", card(4), QStringList{"<b>tmiw_0804: tmiw_051</b>"} + kCardLines)
             .row("data", data(), kDataLines);
     }
-
     void questions()
     {
         QFETCH(QByteArray, answer);
@@ -157,7 +156,6 @@ private Q_SLOTS:
         for (const auto& [code, text] : others)
             QTest::newRow(text) << file(code, "unread") << fileLines(text) << QString();
     }
-
     void files()
     {
         QFETCH(QByteArray, answer);

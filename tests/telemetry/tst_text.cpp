@@ -218,7 +218,6 @@ private Q_SLOTS:
             });
         }
     }
-
     void values()
     {
         QFETCH(int, item);

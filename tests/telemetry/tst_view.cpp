@@ -106,7 +106,6 @@ private Q_SLOTS:
             .row("header alone", Message::RecordByTime, behind(13, {}), "page_Empty", "")
             .row("cut header", Message::RecordByTime, behind(2, {}), "page_Empty", "");
     }
-
     void records()
     {
         QFETCH(Message, message);
@@ -156,7 +155,6 @@ private Q_SLOTS:
             .row("production 1", 1, production)
             .row("production 2", 2, production);
     }
-
     void automaticRequests()
     {
         QFETCH(int, mode);
@@ -251,7 +249,6 @@ private Q_SLOTS:
             .row("mode 3", Record{{"State", 0xf8}}.bytes(), {"", "tmizta_008", "", ""}, false, false)
             .row("absent", Record{{"Code", 12}}.bytes(), {"event 12", "", "", ""}, false, false);
     }
-
     void guardFollowsTheRecord()
     {
         QFETCH(QByteArray, record);
@@ -321,7 +318,6 @@ private Q_SLOTS:
             .row("absent", 1, Record{{"GSM", 31}}.bytes(), "rav", 99)
             .row("absent in mode 2", 2, Record{{"GSM", 99}}.bytes(), "ra", 0);
     }
-
     void productionLimits()
     {
         QFETCH(int, mode);

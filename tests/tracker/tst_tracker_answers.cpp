@@ -102,7 +102,6 @@ private Q_SLOTS:
             .row("none", 2, 0, 0)
             .row("wild", -7, 0, 0);
     }
-
     void answersTheTachograph()
     {
         QFETCH(int, question);
@@ -127,7 +126,6 @@ private Q_SLOTS:
             .row("card 2", 5, 0xFFFFFF02, false)
             .row("wild", 200, 0, false);
     }
-
     void makesTachographFiles()
     {
         QFETCH(int, code);

@@ -61,7 +61,6 @@ private Q_SLOTS:
             .row("unknown", "7", 255, 0)
             .row("switched to 2.0", "30", 122, 20);
     }
-
     void recordsHoldWhatTheConfigurationAsksFor()
     {
         QFETCH(QByteArray, format);
@@ -106,7 +105,6 @@ private Q_SLOTS:
             .row("key", int(Message::RequestExtraPacket), int(Message::ExtraPacket), 2)
             .row("cleared", int(Message::ClearServerData), int(Message::ClearedRecord), 3);
     }
-
     void everyRequestHasItsHeader()
     {
         QFETCH(int, request);

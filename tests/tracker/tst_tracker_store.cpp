@@ -87,7 +87,6 @@ private Q_SLOTS:
             .row("no model", "<DEVICE/>", "wb_refused_model", "")
             .row("large", device(QByteArray(2 << 20, ' ')), "wb_refused_large", "");
     }
-
     void refusesWhatIsNoConfiguration()
     {
         QFETCH(QByteArray, document);
@@ -127,7 +126,6 @@ private Q_SLOTS:
             .row("present empty", 0, -1, "first")
             .row("both cut", 90, 40, "TRANS");
     }
-
     void survivesCrashes()
     {
         QFETCH(qint64, present);

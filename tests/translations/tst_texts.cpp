@@ -88,7 +88,6 @@ private Q_SLOTS:
     {
         DataTable<QString>({"language"}).row("Russian", "ru").row("English", "en");
     }
-
     void everyKeyHasAText()
     {
         QFETCH(QString, language);

@@ -108,7 +108,6 @@ private Q_SLOTS:
             .row("long values of elements nobody opens", "<A v='" + QByteArray(10000, 'x') + "'/>",
                  "\t<A v=\"" + QByteArray(10000, 'x') + "\">\n\t</A>\n");
     }
-
     void resaves()
     {
         QFETCH(QByteArray, body);
@@ -146,7 +145,6 @@ private Q_SLOTS:
             .row("NUL ends it", QString::fromLatin1("ab\0cd", 5), "ab")
             .row("markup", "<![CDATA[ ]]>&#1;\"'", "<![CDATA[ ]]>&#1;\"'");
     }
-
     void carriesTexts()
     {
         QFETCH(QString, text);
@@ -188,7 +186,6 @@ private Q_SLOTS:
             .row("not finite", "inf", 0, 0.0)
             .row("32 bits", "4294967295", -1, 4294967295.0);
     }
-
     void readsNumbers()
     {
         QFETCH(QString, text);
@@ -278,7 +275,6 @@ private Q_SLOTS:
                  "<!DOCTYPE D [<!ELEMENT D " + QByteArray("(").repeated(1000000) + ">]><DEVICE/>")
             .row("too long", "<DEVICE>" + QByteArray(CSerialize::maxFileSize, ' ') + "</DEVICE>");
     }
-
     void survivesBadFiles()
     {
         QFETCH(QByteArray, content);

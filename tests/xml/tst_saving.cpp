@@ -105,7 +105,6 @@ private Q_SLOTS:
             .row("disk full, closed folder, empty file", closed, 0666, 0, 50, 600, false)
             .row("disk full, closed folder, both too long", closed, 0666, 90, 50, 600, false);
     }
-
     void savesWhatItMay()
     {
         QFETCH(int, folderRights);
@@ -139,7 +138,6 @@ private Q_SLOTS:
             .row("in place, shorter", int(closedFolder), 40)
             .row("in place, empty file", int(closedFolder), 0);
     }
-
     // The process is killed before its first call of the system, after its first, after its second...
     void survivesAKill()
     {
