@@ -22,7 +22,7 @@ private Q_SLOTS:
                  "load; on Srv_Operation_frame_Permanent_Connect; off Srv_Operation_frame_Periodic_Connect; "
                  "set Srv_Operation_comboBox_TypeConnect 1; off Srv_Operation_frame_Permanent_Connect; "
                  "on Srv_Operation_frame_Periodic_Connect; saves RULES/cnctType 0")
-            .row("no currency key", "load; shows checkBox_NoCur true; saves RULES/noCur 1")
+            .row("missing flag", "load; shows checkBox_NoCur true; saves RULES/noCur 1")
             .row("block timer", "load RULES/blockTimer=300; shows Srv_Operation_spinBox_Block_H 0; "
                                 "shows Srv_Operation_spinBox_Block_M 5; saves RULES/blockTimer 300")
             .row("connection period beyond a day",

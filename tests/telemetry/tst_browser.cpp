@@ -334,7 +334,7 @@ private:
         TelemetryOrigin origin;
         origin.titles.inputs[0] = "Door";
         origin.titles.userTypes[0] = "s";
-        const QString path = folder_.filePath("telemetry.xml");
+        QString path = folder_.filePath("telemetry.xml");
         if (!saveTelemetryFile(path, form, pages, origin))
             qFatal("the test's folder cannot be written");
         return path;

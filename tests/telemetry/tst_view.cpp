@@ -48,6 +48,8 @@ private Q_SLOTS:
         for (const Message answer : {Message::CurrentRecord, Message::RecordByNumber, Message::RecordByTime,
                                      Message::ExtraPacket, Message::TachographAnswer})
             send(answer, padded(numbered(1), 200));
+        const vlk::IdPair key{1, 2};
+        host.send(Message::LiveKey, &key);
         QVERIFY(!ScriptedHost::window("VLK_Widget_Tmi_View"));
         std::uint8_t answer = 7;
         host.send(Message::PrepareTelemetry, &answer);
