@@ -9,12 +9,12 @@
 #include "telemetry/files/telemetry_csv_writer.h"
 #include "telemetry/files/telemetry_xml_reader.h"
 #include "telemetry/files/telemetry_xml_writer.h"
+#include "tests/support/records.h"
 
 #include <QBuffer>
 
 #include <libxml/parser.h>
 
-#include <bit>
 #include <cstdio>
 #include <malloc.h>
 #include <random>
@@ -34,16 +34,8 @@ TelemetryPages pagesWith(int count, int fields)
     for (int i = 0; i < fields; ++i)
         mask.set(i * kFieldCount / fields);
     TelemetryPages pages;
-    TmiPage_Zeta3::ValueBlock block;
-    for (int i = 0; i < count; ++i) {
-        std::ranges::generate(block, [&] { return static_cast<std::uint8_t>(random()); });
-        for (const Element& element : kElements) {
-            const float plausible = static_cast<float>(random() % 100000) / 100;
-            if (element.type == ValueType::f32)
-                qToLittleEndian(std::bit_cast<quint32>(plausible), block.data() + element.offset);
-        }
-        pages.push_back(std::make_unique<TmiPage_Zeta3>(176, 30, mask, block));
-    }
+    for (int i = 0; i < count; ++i)
+        pages.push_back(std::make_unique<TmiPage_Zeta3>(176, 30, mask, plausibleBlock(random)));
     return pages;
 }
 

@@ -2,6 +2,7 @@
 // The counters tell nanoseconds an item and how many times snprintf that is.
 
 #include "telemetry/text/item_text.h"
+#include "tests/support/records.h"
 
 #include <benchmark/benchmark.h>
 
@@ -17,15 +18,7 @@ namespace {
 TmiPage_Zeta3 fullPage()
 {
     std::mt19937 random(7106);
-    TmiPage_Zeta3::ValueBlock block;
-    std::ranges::generate(block, [&] { return static_cast<std::uint8_t>(random()); });
-    // Random bytes make floats that nobody ever saw.
-    for (const Element& element : kElements) {
-        const float plausible = static_cast<float>(random() % 100000) / 100;
-        if (element.type == ValueType::f32)
-            qToLittleEndian(std::bit_cast<quint32>(plausible), block.data() + element.offset);
-    }
-    return TmiPage_Zeta3(176, 30, FieldMask::fromText(std::string(kFieldCount, '1')), block);
+    return TmiPage_Zeta3(176, 30, everyField(), plausibleBlock(random));
 }
 
 bool isNumber(const Item& item)

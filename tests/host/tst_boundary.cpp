@@ -1,5 +1,6 @@
 // The exports, the information record and the message table, as a host sees them.
 
+#include "support/files.h"
 #include "support/scripted_host.h"
 
 #include <QTemporaryDir>
@@ -14,208 +15,174 @@ class BoundaryTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void identifiesItselfBeforeInitialize();
-    void answersValues();
-    void ignoresOtherHandles();
-    void survivesEveryNumberWithNullParameters();
-    void survivesOddRecords();
-    void tableIsWhole();
-    void missingWindowsStayMissing();
-    void balanceCodeFollowsFileAndConnection();
-    void identityGoesIntoTitlesAndFiles();
-    void helpKeepsTheModelOfTheLibrary();
+    void initTestCase()
+    {
+        QVERIFY(host_.isVlkLibrary && host_.libraryInfo && host_.initialize && host_.receiveMessage);
+    }
+
+    void identifiesItselfBeforeInitialize()
+    {
+        QVERIFY(host_.isVlkLibrary());
+        host_.libraryInfo(nullptr);
+
+        std::array<uchar, sizeof(vlk::LibraryInfo) + 1> buffer;
+        buffer.fill(0xee);
+        host_.libraryInfo(reinterpret_cast<vlk::LibraryInfo*>(buffer.data()));
+        QCOMPARE(buffer.back(), uchar(0xee));
+
+        const QByteArray record(reinterpret_cast<const char*>(buffer.data()), sizeof(vlk::LibraryInfo));
+        QVERIFY(record.left(4) != QByteArray(4, '\0'));
+        QCOMPARE(record.mid(4, 255), QByteArray("R-7106").leftJustified(255, '\0'));
+        QCOMPARE(record.mid(259, 255), QByteArray("Aster R-7106").leftJustified(255, '\0'));
+        const auto word = [](int value) { return QByteArray(1, char(value)) + QByteArray(3, '\0'); };
+        QCOMPARE(record.mid(514), word(3) + word(3) + word(0) + word(2) + word(0) + word(1));
+
+        host_.start();
+        vlk::LibraryInfo again;
+        host_.libraryInfo(&again);
+        QCOMPARE(QByteArray(reinterpret_cast<const char*>(&again), sizeof again), record);
+    }
+
+    void answersValues()
+    {
+        const std::pair<Message, int> values[] = {{Message::GetLibraryFlag, 1},
+                                                  {Message::GetInterfaceValue, 1},
+                                                  {Message::GetFamilyValue, 196},
+                                                  {Message::GetReservedValue, 0}};
+        for (const auto& [number, expected] : values) {
+            std::int32_t value = -7;
+            host_.send(number, &value);
+            QCOMPARE(value, expected);
+        }
+        QString text = QStringLiteral("before");
+        host_.send(Message::GetProtocolText, &text);
+        QCOMPARE(text, QStringLiteral("010"));
+    }
+
+    void ignoresOtherHandles()
+    {
+        std::int32_t value = -7;
+        const auto number = static_cast<std::uint32_t>(Message::GetFamilyValue);
+        host_.receiveMessage(nullptr, number, &value, nullptr);
+        host_.receiveMessage(&value, number, &value, nullptr);
+        host_.receiveMessage(static_cast<char*>(host_.handle) + 1, number, &value, nullptr);
+        QCOMPARE(value, -7);
+        host_.receiveMessage(host_.handle, number, &value, nullptr);
+        QCOMPARE(value, 196);
+    }
+
+    void survivesEveryNumberWithNullParameters()
+    {
+        for (std::uint32_t number = 1990; number < 2400; ++number)
+            host_.receiveMessage(host_.handle, number, nullptr, nullptr);
+        for (const std::uint32_t number : {0U, 1U, 0x7fffffffU, 0xffffffffU})
+            host_.receiveMessage(host_.handle, number, nullptr, nullptr);
+    }
+
+    void survivesOddRecords()
+    {
+        host_.open(folder_.path()); // a folder
+        host_.open(folder_.filePath(QStringLiteral("none/at/all.xml")));
+        const QByteArray longPath(1000, 'a');
+        host_.open(QString::fromLatin1(longPath));
+        for (const QByteArray& bytes : {QByteArray(), QByteArray("1234567"), QByteArray("1234567,,:21:,:")})
+            host_.send(Message::LineValues, &bytes);
+        const QByteArray record(64, '\xff');
+        for (const Message number : {Message::SupplyValues, Message::AnalogRecord, Message::AccelRecord,
+                                     Message::AccelCommandResult, Message::MonitorRearm})
+            host_.send(number, record.constData());
+        vlk::BtDevice device{};
+        std::memset(&device, 'n', sizeof device);
+        host_.send(Message::BtDeviceFound, &device);
+        host_.send(Message::CloseWindows);
+    }
+
+    void tableIsWhole()
+    {
+        QSet<std::uint32_t> numbers;
+        QSet<QByteArray> names;
+        for (const vlk::MessageInfo& info : vlk::messages) {
+            numbers << static_cast<std::uint32_t>(info.number);
+            names << info.name;
+        }
+        QCOMPARE(numbers.size(), int(std::size(vlk::messages)));
+        QCOMPARE(names.size(), int(std::size(vlk::messages)));
+    }
+
+    void balanceCodeFollowsFileAndConnection()
+    {
+        const QString path = configuration("<?xml version=\"1.0\" encoding=\"windows-1251\"?>"
+                                           "<DEVICE><SYSTEM><BALANCE USSD=\"*100#\"/></SYSTEM></DEVICE>");
+        host_.send(Message::TrackerDetached);
+        QCOMPARE(balance(), QByteArray());
+        host_.open(path);
+        QCOMPARE(balance(), QByteArray("*100#"));
+        host_.open(configuration("no document"));
+        QCOMPARE(balance(), QByteArray("*100#"));
+        host_.attach();
+        QCOMPARE(balance(), QByteArray());
+        host_.open(configuration("<DEVICE><SYSTEM><BALANCE USSD=\"" + QByteArray(400, '1') +
+                                 "\"/></SYSTEM></DEVICE>"));
+        QCOMPARE(balance(), QByteArray(254, '1'));
+        host_.send(Message::TrackerDetached);
+        QCOMPARE(balance(), QByteArray());
+    }
+
+    void identityGoesIntoTitlesAndFiles()
+    {
+        vlk::IdentityInfo other{QStringLiteral("R-1"), nullptr, QStringLiteral("OTHER")};
+        host_.send(Message::SetIdentity, &other);
+        host_.open({});
+        QCOMPARE(title(), QStringLiteral("R-1: New"));
+
+        // The tracker is compared with the identity that was set.
+        const auto canWrite = [] {
+            return ScriptedHost::child<QWidget>(ScriptedHost::window("VLK_Widget_Config"),
+                                                "pushButton_LoadToDevice")
+                ->isEnabled();
+        };
+        host_.attach(QStringLiteral("R-1"));
+        QVERIFY(canWrite());
+        host_.attach(QStringLiteral("R-7106"));
+        QVERIFY(!canWrite());
+
+        vlk::IdentityInfo own{QStringLiteral("R-7106"), nullptr, QStringLiteral("VELTRONIKA")};
+        host_.send(Message::SetIdentity, &own);
+        host_.open({});
+        QCOMPARE(title(), QStringLiteral("R-7106: New"));
+    }
+
+    void helpKeepsTheModelOfTheLibrary()
+    {
+        host_.open({});
+        host_.sent.clear();
+        ScriptedHost::child<QAbstractButton>(ScriptedHost::window("VLK_Widget_Config_Full"),
+                                             "pushButton_Help")
+            ->click();
+        const auto help = host_.takeSent(Message::ShowHelp);
+        QCOMPARE(help.size(), 1);
+        QCOMPARE(help[0].text1, QStringLiteral("R-7106"));
+        QCOMPARE(help[0].text2, QStringLiteral("r-7106p1.html"));
+    }
 
 private:
-    QString configuration(const QByteArray& content);
+    QString configuration(const QByteArray& content)
+    {
+        return writeFile(folder_.filePath(QStringLiteral("configuration.xml")), content);
+    }
+
     QString title() { return ScriptedHost::window("VLK_Widget_Config")->windowTitle(); }
-    QByteArray balance();
+
+    QByteArray balance()
+    {
+        QByteArray buffer(vlk::balanceUssdSize, 'x');
+        host_.send(Message::GetBalanceUssd, buffer.data());
+        return QByteArray(buffer.constData());
+    }
 
     ScriptedHost host_;
     QTemporaryDir folder_;
 };
-
-QString BoundaryTest::configuration(const QByteArray& content)
-{
-    QString path = folder_.filePath(QStringLiteral("configuration.xml"));
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return {};
-    file.write(content);
-    return path;
-}
-
-QByteArray BoundaryTest::balance()
-{
-    QByteArray buffer(vlk::balanceUssdSize, 'x');
-    host_.send(Message::GetBalanceUssd, buffer.data());
-    return QByteArray(buffer.constData());
-}
-
-void BoundaryTest::initTestCase()
-{
-    QVERIFY(host_.isVlkLibrary && host_.libraryInfo && host_.initialize && host_.receiveMessage);
-    QVERIFY(folder_.isValid());
-}
-
-void BoundaryTest::identifiesItselfBeforeInitialize()
-{
-    QVERIFY(host_.isVlkLibrary());
-    host_.libraryInfo(nullptr);
-
-    std::array<uchar, sizeof(vlk::LibraryInfo) + 1> buffer;
-    buffer.fill(0xee);
-    host_.libraryInfo(reinterpret_cast<vlk::LibraryInfo*>(buffer.data()));
-    QCOMPARE(buffer.back(), uchar(0xee));
-
-    const QByteArray record(reinterpret_cast<const char*>(buffer.data()), sizeof(vlk::LibraryInfo));
-    QVERIFY(record.left(4) != QByteArray(4, '\0'));
-    QCOMPARE(record.mid(4, 255), QByteArray("R-7106").leftJustified(255, '\0'));
-    QCOMPARE(record.mid(259, 255), QByteArray("Aster R-7106").leftJustified(255, '\0'));
-    const auto word = [](int value) { return QByteArray(1, char(value)) + QByteArray(3, '\0'); };
-    QCOMPARE(record.mid(514), word(3) + word(3) + word(0) + word(2) + word(0) + word(1));
-
-    host_.start();
-    vlk::LibraryInfo again;
-    host_.libraryInfo(&again);
-    QCOMPARE(QByteArray(reinterpret_cast<const char*>(&again), sizeof again), record);
-}
-
-void BoundaryTest::answersValues()
-{
-    const std::pair<Message, int> values[] = {{Message::GetLibraryFlag, 1},
-                                              {Message::GetInterfaceValue, 1},
-                                              {Message::GetFamilyValue, 196},
-                                              {Message::GetReservedValue, 0}};
-    for (const auto& [number, expected] : values) {
-        std::int32_t value = -7;
-        host_.send(number, &value);
-        QCOMPARE(value, expected);
-    }
-    QString text = QStringLiteral("before");
-    host_.send(Message::GetProtocolText, &text);
-    QCOMPARE(text, QStringLiteral("010"));
-}
-
-void BoundaryTest::ignoresOtherHandles()
-{
-    std::int32_t value = -7;
-    const auto number = static_cast<std::uint32_t>(Message::GetFamilyValue);
-    host_.receiveMessage(nullptr, number, &value, nullptr);
-    host_.receiveMessage(&value, number, &value, nullptr);
-    host_.receiveMessage(static_cast<char*>(host_.handle) + 1, number, &value, nullptr);
-    QCOMPARE(value, -7);
-    host_.receiveMessage(host_.handle, number, &value, nullptr);
-    QCOMPARE(value, 196);
-}
-
-void BoundaryTest::survivesEveryNumberWithNullParameters()
-{
-    for (std::uint32_t number = 1990; number < 2400; ++number)
-        host_.receiveMessage(host_.handle, number, nullptr, nullptr);
-    for (const std::uint32_t number : {0U, 1U, 0x7fffffffU, 0xffffffffU})
-        host_.receiveMessage(host_.handle, number, nullptr, nullptr);
-}
-
-void BoundaryTest::survivesOddRecords()
-{
-    host_.open(folder_.path()); // a folder
-    host_.open(folder_.filePath(QStringLiteral("none/at/all.xml")));
-    const QByteArray longPath(1000, 'a');
-    host_.open(QString::fromLatin1(longPath));
-    for (const QByteArray& bytes : {QByteArray(), QByteArray("1234567"), QByteArray("1234567,,:21:,:")})
-        host_.send(Message::LineValues, &bytes);
-    const QByteArray record(64, '\xff');
-    for (const Message number : {Message::SupplyValues, Message::AnalogRecord, Message::AccelRecord,
-                                 Message::AccelCommandResult, Message::MonitorRearm})
-        host_.send(number, record.constData());
-    vlk::BtDevice device{};
-    std::memset(&device, 'n', sizeof device);
-    host_.send(Message::BtDeviceFound, &device);
-    host_.send(Message::CloseWindows);
-}
-
-void BoundaryTest::tableIsWhole()
-{
-    QSet<std::uint32_t> numbers;
-    QSet<QByteArray> names;
-    for (const vlk::MessageInfo& info : vlk::messages) {
-        numbers << static_cast<std::uint32_t>(info.number);
-        names << info.name;
-    }
-    QCOMPARE(numbers.size(), int(std::size(vlk::messages)));
-    QCOMPARE(names.size(), int(std::size(vlk::messages)));
-}
-
-void BoundaryTest::missingWindowsStayMissing()
-{
-    const int before = QApplication::topLevelWidgets().size();
-    const std::int32_t unknownKind = 2;
-    const QString path = folder_.path();
-    host_.send(Message::ShowStoredFile, &path, &unknownKind);
-    vlk::IdPair pair{1, 2};
-    host_.send(Message::LiveKey, &pair);
-    const QByteArray record(200, '\0');
-    for (const Message number : {Message::CurrentRecord, Message::RecordByNumber, Message::RecordByTime,
-                                 Message::ExtraPacket, Message::TachographAnswer})
-        host_.send(number, &record);
-    QCOMPARE(QApplication::topLevelWidgets().size(), before);
-}
-
-void BoundaryTest::balanceCodeFollowsFileAndConnection()
-{
-    const QString path = configuration("<?xml version=\"1.0\" encoding=\"windows-1251\"?>"
-                                       "<DEVICE><SYSTEM><BALANCE USSD=\"*100#\"/></SYSTEM></DEVICE>");
-    host_.send(Message::TrackerDetached);
-    QCOMPARE(balance(), QByteArray());
-    host_.open(path);
-    QCOMPARE(balance(), QByteArray("*100#"));
-    host_.open(configuration("no document"));
-    QCOMPARE(balance(), QByteArray("*100#"));
-    host_.attach();
-    QCOMPARE(balance(), QByteArray());
-    host_.open(
-        configuration("<DEVICE><SYSTEM><BALANCE USSD=\"" + QByteArray(400, '1') + "\"/></SYSTEM></DEVICE>"));
-    QCOMPARE(balance(), QByteArray(254, '1'));
-    host_.send(Message::TrackerDetached);
-    QCOMPARE(balance(), QByteArray());
-}
-
-void BoundaryTest::identityGoesIntoTitlesAndFiles()
-{
-    vlk::IdentityInfo other{QStringLiteral("R-1"), nullptr, QStringLiteral("OTHER")};
-    host_.send(Message::SetIdentity, &other);
-    host_.open({});
-    QCOMPARE(title(), QStringLiteral("R-1: New"));
-
-    // The tracker is compared with the identity that was set.
-    const auto canWrite = [] {
-        return ScriptedHost::child<QWidget>(ScriptedHost::window("VLK_Widget_Config"),
-                                            "pushButton_LoadToDevice")
-            ->isEnabled();
-    };
-    host_.attach(QStringLiteral("R-1"));
-    QVERIFY(canWrite());
-    host_.attach(QStringLiteral("R-7106"));
-    QVERIFY(!canWrite());
-
-    vlk::IdentityInfo own{QStringLiteral("R-7106"), nullptr, QStringLiteral("VELTRONIKA")};
-    host_.send(Message::SetIdentity, &own);
-    host_.open({});
-    QCOMPARE(title(), QStringLiteral("R-7106: New"));
-}
-
-void BoundaryTest::helpKeepsTheModelOfTheLibrary()
-{
-    host_.open({});
-    host_.sent.clear();
-    ScriptedHost::child<QAbstractButton>(ScriptedHost::window("VLK_Widget_Config_Full"), "pushButton_Help")
-        ->click();
-    const auto help = host_.takeSent(Message::ShowHelp);
-    QCOMPARE(help.size(), 1);
-    QCOMPARE(help[0].text1, QStringLiteral("R-7106"));
-    QCOMPARE(help[0].text2, QStringLiteral("r-7106p1.html"));
-}
 
 QTEST_MAIN(BoundaryTest)
 #include "tst_boundary.moc"

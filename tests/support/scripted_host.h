@@ -16,9 +16,13 @@
 #include <cstring>
 #include <functional>
 
+Q_DECLARE_METATYPE(vlk::Message)
+
 class ScriptedHost
 {
 public:
+    static constexpr quint64 kMask = 0x0123456789abcdef; // what a tracker is capable of
+
     struct Sent
     {
         vlk::Message number;
@@ -52,10 +56,10 @@ public:
                        const_cast<void*>(p2));
     }
 
-    void attach(const QString& model = QStringLiteral("R-7106"))
+    void attach(const QString& model = QStringLiteral("R-7106"), quint64 mask = kMask)
     {
-        vlk::ConnectInfo info{
-            model, QStringLiteral("text one"), QStringLiteral("text two"), {}, 0x89abcdefU, 0x01234567U};
+        vlk::ConnectInfo info{model, QStringLiteral("text one"), QStringLiteral("text two"),
+                              {},    static_cast<quint32>(mask), static_cast<quint32>(mask >> 32)};
         send(vlk::Message::TrackerAttached, &info);
     }
 

@@ -2,36 +2,38 @@
 
 // Records and packets for the tests of telemetry files.
 
+#include "support/records.h"
 #include "telemetry/files/telemetry_pages.h"
-
-#include <initializer_list>
-#include <random>
 
 namespace vlk {
 
-// A record with these elements; a float is given by its bits.
-inline std::unique_ptr<TmiPage_Zeta3>
-recordOf(std::initializer_list<std::pair<ElementIndex, std::uint64_t>> values)
+inline std::unique_ptr<TmiPage_Zeta3> recordOf(const RecordParts& parts)
 {
-    FieldMask mask;
-    TmiPage_Zeta3::ValueBlock block{};
-    for (const auto& [index, value] : values) {
-        mask.set(kElements[index].field);
-        for (int i = 0; i < kElements[index].width; ++i)
-            block[kElements[index].offset + i] = static_cast<std::uint8_t>(value >> 8 * i);
-    }
-    return std::make_unique<TmiPage_Zeta3>(176, 30, mask, block);
+    return std::make_unique<TmiPage_Zeta3>(176, 30, parts.mask, parts.block);
 }
 
-// A packet of the telemetry road: the 53 bytes of the head from its number to its engine hours, without sizes
-// and versions, then the entries.
+// The same by indices.
+inline std::unique_ptr<TmiPage_Zeta3> recordOf(std::initializer_list<std::pair<ElementIndex, quint64>> values)
+{
+    RecordParts parts;
+    for (const auto& [index, value] : values)
+        parts.put(index, value);
+    return recordOf(parts);
+}
+
+template <class... Pages>
+TelemetryPages pagesOf(Pages... pages)
+{
+    TelemetryPages all;
+    (all.push_back(std::move(pages)), ...);
+    return all;
+}
+
+// A packet of the telemetry road; `state` is the second head behind its version and size.
 inline std::unique_ptr<TmiPage_Zeta3> packetOf(const QByteArray& navigation, const QByteArray& state,
                                                const QByteArray& entries)
 {
-    const QByteArray counted = QByteArray("\x02\x25") + navigation + QByteArray("\x01\x0e") + state + entries;
-    const int size = counted.size();
-    const QByteArray packet =
-        QByteArray("\xb1") + static_cast<char>(size & 0xff) + static_cast<char>(size >> 8) + counted;
+    const QByteArray packet = packetBytes(kSecondHead.left(2) + state + entries, -1, 37, navigation);
     return std::make_unique<TmiPage_Zeta3>(packet.constData(), packet.size());
 }
 
@@ -51,7 +53,7 @@ inline TelemetryPages randomPages(std::mt19937& random, int count)
             QByteArray entries;
             for (unsigned key = random() % 5; key > 0; --key)
                 entries += QByteArray(random() % 2 == 0 ? "\x01\x08" : "\x03\x08") + randomBytes(random, 8);
-            entries += QByteArray("\x02\x10") + QByteArray("AB 12345").leftJustified(16, '\0');
+            entries += cardEntry("AB 12345");
             pages.push_back(packetOf(randomBytes(random, 37), randomBytes(random, 14), entries));
             continue;
         }

@@ -2,6 +2,7 @@
 // time and in another way.
 
 #include "dataset/catalogue/field_mask.h"
+#include "support/data_table.h"
 
 #include <QRegularExpression>
 #include <QSet>
@@ -83,23 +84,20 @@ private Q_SLOTS:
     // Widths of whole stretches of fields, counted apart from the table.
     void stretches_data()
     {
-        QTest::addColumn<int>("first");
-        QTest::addColumn<int>("last");
-        QTest::addColumn<int>("bytes");
-        QTest::newRow("all") << 0 << 254 << 734;
-        QTest::newRow("earlier format") << 0 << 121 << 404;
-        QTest::newRow("protocol 1.0") << 0 << 68 << 146;
-        QTest::newRow("high precision") << 69 << 75 << 37;
-        QTest::newRow("base stations") << 76 << 76 << 37;
-        QTest::newRow("sensors 7 to 16") << 83 << 92 << 30;
-        QTest::newRow("tyres") << 93 << 96 << 90;
-        QTest::newRow("tachograph") << 97 << 102 << 13;
-        QTest::newRow("passengers") << 109 << 116 << 16;
-        QTest::newRow("fuel flow") << 170 << 180 << 32;
-        QTest::newRow("refrigerator") << 181 << 198 << 48;
-        QTest::newRow("user parameters") << 206 << 254 << 16 + 30 + 60 + 24;
+        DataTable<int, int, int>({"first", "last", "bytes"})
+            .row("all", 0, 254, 734)
+            .row("earlier format", 0, 121, 404)
+            .row("protocol 1.0", 0, 68, 146)
+            .row("high precision", 69, 75, 37)
+            .row("base stations", 76, 76, 37)
+            .row("sensors 7 to 16", 83, 92, 30)
+            .row("tyres", 93, 96, 90)
+            .row("tachograph", 97, 102, 13)
+            .row("passengers", 109, 116, 16)
+            .row("fuel flow", 170, 180, 32)
+            .row("refrigerator", 181, 198, 48)
+            .row("user parameters", 206, 254, 16 + 30 + 60 + 24);
     }
-
     void stretches()
     {
         QFETCH(int, first);

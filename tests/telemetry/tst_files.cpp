@@ -1,6 +1,8 @@
 // Telemetry files of both forms: the bytes, the way back, and what is left of files that are damaged.
 
 #include "sample_pages.h"
+#include "support/data_table.h"
+#include "support/full_disk.h"
 #include "telemetry/files/telemetry_binary_reader.h"
 #include "telemetry/files/telemetry_binary_writer.h"
 #include "telemetry/files/telemetry_file.h"
@@ -12,39 +14,25 @@
 #include <QXmlStreamReader>
 #include <QtTest>
 
-#include <csignal>
-#include <sys/resource.h>
-
 using namespace vlk;
 
 namespace {
 
 constexpr quint32 kTime = 1700000000; // 2023-11-14 22:13:20
 
-const QByteArray kNavigation = QByteArray::fromHex("070000002300"
-                                                   "40f15365"
-                                                   "2b00f15365feffffff030000002a07000000002041"
-                                                   "0e0100002040");
-const QByteArray kState = QByteArray::fromHex("1803efbeadde02000000100e0000");
-
 TelemetryPages samplePages()
 {
-    TelemetryPages pages;
-    pages.push_back(recordOf({{element("Code"), 35},
-                              {element("Speed"), 0x41480000},
-                              {element("Run"), 0x49742400},
-                              {element("Temp1"), 0xFB},
-                              {element("CAN_TimeTO"), 0xFFFF},
-                              {element("NaviHDop"), 12},
-                              {element("NaviAltitude"), 0xFFFFFFFF},
-                              {element("Time"), kTime}}));
-    pages.push_back(packetOf(kNavigation, kState,
-                             QByteArray::fromHex("01087b00000000000000"
-                                                 "0903010203"
-                                                 "0210") +
-                                 QByteArray("CARD 0123456789A") +
-                                 QByteArray::fromHex("0308ffffffffffffffff")));
-    return pages;
+    return pagesOf(recordOf({{"Code", 35},
+                             {"Speed", 0x41480000},
+                             {"Run", 0x49742400},
+                             {"Temp1", 0xFB},
+                             {"CAN_TimeTO", 0xFFFF},
+                             {"NaviHDop", 12},
+                             {"NaviAltitude", 0xFFFFFFFF},
+                             {"Time", kTime}}),
+                   packetOf(kNavigation, kSecondHead.mid(2),
+                            entryOf(1, 8, QByteArray::fromHex("7b00000000000000")) + entryOf(9, 3, "\1\2\3") +
+                                cardEntry("CARD 0123456789A") + entryOf(3, 8, QByteArray(8, '\xff'))));
 }
 
 TelemetryOrigin sampleOrigin()
@@ -157,11 +145,11 @@ private Q_SLOTS:
             "\t\t<CAN_TimeTO>-1</CAN_TimeTO>\r\n\t\t<NaviHDop>1.2</NaviHDop>\r\n"
             "\t\t<NaviPDop>0</NaviPDop>\r\n\t\t<NaviAltitude>-0.001</NaviAltitude>\r\n\t</Page>\r\n"
             "\t<Page type=\"177\" size=\"98\" stVer=\"2\" stSize=\"37\" hVer=\"1\" hSize=\"14\">\r\n"
-            "\t\t<NumPage>7</NumPage>\r\n\t\t<Code>35</Code>\r\n\t\t<Time>1700000064</Time>\r\n"
+            "\t\t<NumPage>305419896</NumPage>\r\n\t\t<Code>35</Code>\r\n\t\t<Time>1700000064</Time>\r\n"
             "\t\t<StateNGauge>43</StateNGauge>\r\n\t\t<LastTime>1700000000</LastTime>\r\n"
             "\t\t<Latitude>-2</Latitude>\r\n\t\t<Longitude>3</Longitude>\r\n\t\t<Altitude>1834</Altitude>\r\n"
             "\t\t<Speed>10</Speed>\r\n\t\t<Course>270</Course>\r\n\t\t<Run>2.5</Run>\r\n"
-            "\t\t<State>24</State>\r\n\t\t<StateOut1>3</StateOut1>\r\n"
+            "\t\t<State>29</State>\r\n\t\t<StateOut1>3</StateOut1>\r\n"
             "\t\t<StateIn_Imp1>3735928559</StateIn_Imp1>\r\n\t\t<StateIn_Imp2>2</StateIn_Imp2>\r\n"
             "\t\t<Motochas>3600</Motochas>\r\n"
             "\t\t<Dynamic type=\"1\" size=\"8\" value=\"123\"/>\r\n"
@@ -285,49 +273,44 @@ private Q_SLOTS:
     // A page line in short is {mask}: the fields of these numbers.
     void forgivingXml_data()
     {
-        QTest::addColumn<QByteArray>("file");
-        QTest::addColumn<QString>("found");
-
         const QByteArray page = "<Page type=\"176\" ver=\"30\" format=\"111\">\n";
         const QByteArray one = page + "<NumPage>1</NumPage>\n</Page>\n";
         const QByteArray two = page + "<NumPage>2</NumPage>\n</Page>\n";
-        QTest::newRow("nothing") << QByteArray() << "";
-        QTest::newRow("binary") << QByteArray(5000, '\0') + QByteArray(5000, '\xff') << "";
-        QTest::newRow("in one line") << QByteArray(one).replace('\n', "") << "0";
-        QTest::newRow("no line end at the end") << one.chopped(1) << "1";
-        QTest::newRow("half a page") << page + "<NumPage>5</NumPage>\n<Ti"
-                                     << "5";
-        QTest::newRow("half a value") << page + "<NumPage>5"
-                                      << "0";
-        QTest::newRow("a page without its end takes the next one's first line")
-            << page + "<NumPage>1</NumPage>\n" + two + one << "1 1";
-        QTest::newRow("unknown type") << "<Page type=\"178\">\n<NumPage>9</NumPage>\n</Page>\n" + two << "2";
-        QTest::newRow("no attributes") << "<Page>\n</Page>\n" + two << "2";
-        QTest::newRow("unknown, repeated and misspelt elements")
-            << page +
-                   "<Foo>1</Foo>\n<numpage>2</numpage>\n<NumPage>3</x>\n<NumPage>4</NumPage>\n<>5</>\n</Page>"
-            << "4";
-        QTest::newRow("no numbers") << page + "<NumPage>x</NumPage>\n</Page>\n" + page +
-                                           "<NumPage>4294967296</NumPage>\n</Page>\n" + page +
-                                           "<NumPage>-1</NumPage>\n</Page>\n" + page +
-                                           "<NumPage> +7 </NumPage>\n</Page>\n"
-                                    << "0 0 0 7";
-        QTest::newRow("pieces of a long line") << page + QByteArray(252, ' ') + "<NumPage>1</NumPage>\n" +
-                                                      QByteArray(255, 'x') + "<NumPage>3</NumPage>\n</Page>\n"
-                                               << "3";
-        QTest::newRow("a line of 10 MB") << QByteArray(10'000'000, '<') + "\n" + one << "1";
-        QTest::newRow("a line of 10 MB in a page")
-            << page + QByteArray(10'000'000, '<') + "\n<NumPage>6</NumPage>\n"
-            << "6";
-        QTest::newRow("packet with wild sizes")
-            << "<Page type=\"177\" stSize=\"255\" hSize=\"255\">\n<NumPage>8</NumPage>\n"
-               "<Dynamic type=\"2\" size=\"255\" value=\"" +
-                   QByteArray(200, 'a') +
-                   "\"/>\n"
-                   "<Dynamic type=\"1\" size=\"255\" value=\"-1\"/>\n<Dynamic/>\n"
-            << "8";
+        DataTable<QByteArray, QString>({"file", "found"})
+            .row("nothing", {}, "")
+            .row("binary", QByteArray(5000, '\0') + QByteArray(5000, '\xff'), "")
+            .row("in one line", QByteArray(one).replace('\n', ""), "0")
+            .row("no line end at the end", one.chopped(1), "1")
+            .row("half a page", page + "<NumPage>5</NumPage>\n<Ti", "5")
+            .row("half a value", page + "<NumPage>5", "0")
+            .row("a page without its end takes the next one's first line",
+                 page + "<NumPage>1</NumPage>\n" + two + one, "1 1")
+            .row("unknown type", "<Page type=\"178\">\n<NumPage>9</NumPage>\n</Page>\n" + two, "2")
+            .row("no attributes", "<Page>\n</Page>\n" + two, "2")
+            .row("unknown, repeated and misspelt elements",
+                 page + "<Foo>1</Foo>\n<numpage>2</numpage>\n<NumPage>3</x>\n<NumPage>4</NumPage>\n<>5</>\n</"
+                        "Page>",
+                 "4")
+            .row("no numbers",
+                 page + "<NumPage>x</NumPage>\n</Page>\n" + page +
+                     "<NumPage>4294967296</NumPage>\n</Page>\n" + page + "<NumPage>-1</NumPage>\n</Page>\n" +
+                     page + "<NumPage> +7 </NumPage>\n</Page>\n",
+                 "0 0 0 7")
+            .row("pieces of a long line",
+                 page + QByteArray(252, ' ') + "<NumPage>1</NumPage>\n" + QByteArray(255, 'x') +
+                     "<NumPage>3</NumPage>\n</Page>\n",
+                 "3")
+            .row("a line of 10 MB", QByteArray(10'000'000, '<') + "\n" + one, "1")
+            .row("a line of 10 MB in a page", page + QByteArray(10'000'000, '<') + "\n<NumPage>6</NumPage>\n",
+                 "6")
+            .row("packet with wild sizes",
+                 "<Page type=\"177\" stSize=\"255\" hSize=\"255\">\n<NumPage>8</NumPage>\n"
+                 "<Dynamic type=\"2\" size=\"255\" value=\"" +
+                     QByteArray(200, 'a') +
+                     "\"/>\n"
+                     "<Dynamic type=\"1\" size=\"255\" value=\"-1\"/>\n<Dynamic/>\n",
+                 "8");
     }
-
     void forgivingXml()
     {
         QFETCH(QByteArray, file);
@@ -336,40 +319,33 @@ private Q_SLOTS:
 
     void values_data()
     {
-        QTest::addColumn<QByteArray>("line");
-        QTest::addColumn<int>("index");
-        QTest::addColumn<quint64>("raw");
-
-        const auto row = [](const char* name, ElementIndex index, const char* text, quint64 raw) {
-            const QByteArray tag(name);
-            QTest::newRow(text) << "<" + tag + ">" + text + "</" + tag + ">" << static_cast<int>(index)
-                                << raw;
-        };
-        row("Temp1", element("Temp1"), "-129", 0);
-        row("Temp1", element("Temp1"), "-128", 0x80);
-        row("CAN_TimeTO", element("CAN_TimeTO"), "-1", 0xFFFF);
-        row("NaviHDop", element("NaviHDop"), "25.5", 255);
-        row("NaviHDop", element("NaviHDop"), "25.6", 0);
-        row("NaviPDop", element("NaviPDop"), "0.29999", 3);
-        row("NaviAltitude", element("NaviAltitude"), "-2147483.648", 0x80000000);
-        row("NaviAltitude", element("NaviAltitude"), "1e300", 0);
-        row("NaviAltitude", element("NaviAltitude"), "nan", 0);
-        row("Speed", element("Speed"), "12,5", 0);
-        row("Speed", element("Speed"), "1e99", 0);
-        row("Speed", element("Speed"), "-inf", 0xFF800000);
-        row("Speed", element("Speed"), "1.401298464324817e-45", 1);
-        row("User8Byte_3", element("User8Byte_3"), "18446744073709551615", ~quint64{0});
+        DataTable<QByteArray, QByteArray, quint64>({"element", "text", "raw"})
+            .row("lowest", "Temp1", "-128", 0x80)
+            .row("below the lowest", "Temp1", "-129", 0)
+            .row("signed in the file alone", "CAN_TimeTO", "-1", 0xFFFF)
+            .row("highest tenth", "NaviHDop", "25.5", 255)
+            .row("above the highest tenth", "NaviHDop", "25.6", 0)
+            .row("rounded", "NaviPDop", "0.29999", 3)
+            .row("lowest thousandth", "NaviAltitude", "-2147483.648", 0x80000000)
+            .row("wild", "NaviAltitude", "1e300", 0)
+            .row("no number", "NaviAltitude", "nan", 0)
+            .row("comma", "Speed", "12,5", 0)
+            .row("beyond a float", "Speed", "1e99", 0)
+            .row("infinite", "Speed", "-inf", 0xFF800000)
+            .row("least float", "Speed", "1.401298464324817e-45", 1)
+            .row("64 bits", "User8Byte_3", "18446744073709551615", ~quint64{0});
     }
-
     // The mask alone says whether the value is in the record.
     void values()
     {
-        QFETCH(QByteArray, line);
-        QFETCH(int, index);
-        const auto contents = readBack(readTelemetryXml, "<Page type=\"176\">\n" + line + "\n</Page>\n");
+        QFETCH(QByteArray, element);
+        QFETCH(QByteArray, text);
+        const auto contents = readBack(readTelemetryXml, "<Page type=\"176\">\n<" + element + '>' + text +
+                                                             "</" + element + ">\n</Page>\n");
         QCOMPARE(contents.pages.size(), std::size_t{1});
-        QTEST(quint64{contents.pages[0]->raw(static_cast<ElementIndex>(index))}, "raw");
-        QVERIFY(!contents.pages[0]->has(static_cast<ElementIndex>(index)));
+        const auto index = findElement(element.constData()).value();
+        QTEST(quint64{contents.pages[0]->raw(index)}, "raw");
+        QVERIFY(!contents.pages[0]->has(index));
     }
 
     void titles()
@@ -385,57 +361,37 @@ private Q_SLOTS:
             QStringLiteral("fsuuuuuuuuuuuuubbb"));
     }
 
-    // Six records of 44 bytes, numbers 1 to 6, behind the header. What is done to the file, and what is left.
+    // Six records of 44 bytes, numbers 1 to 6, behind the header: the byte to change, how many to leave,
+    // and what is read.
     void damagedBinary_data()
     {
-        QTest::addColumn<int>("at");  // change this byte
-        QTest::addColumn<int>("cut"); // and leave as many
-        QTest::addColumn<QString>("found");
-        QTest::addColumn<QString>("damages");
-
         constexpr int head = 128;
         constexpr int all = head + 6 * 44;
-        QTest::newRow("whole") << -1 << all << "1 2 3 4 5 6"
-                               << "";
-        QTest::newRow("magic") << 1 << all << "1 2 3 4 5 6"
-                               << "NH";
-        QTest::newRow("header") << 6 << all << "1 2 3 4 5 6"
-                                << "H";
-        QTest::newRow("a value") << head + 44 + 43 << all << "1 2 3 4 5 6"
-                                 << "S";
-        QTest::newRow("a length") << head + 44 << all << "1 3 4 5 6"
-                                  << "RSM";
-        QTest::newRow("a length far too long") << head + 45 << all << "1 3 4 5 6"
-                                               << "RSM";
-        QTest::newRow("a type") << head + 88 + 2 << all << "1 2 4 5 6"
-                                << "RSM";
-        QTest::newRow("a mask still leads on") << head + 4 << all << "1 2 3 4 5 6"
-                                               << "S";
-        QTest::newRow("the last length") << head + 5 * 44 << all << "1 2 3 4 5"
-                                         << "CSM";
-        QTest::newRow("cut in a record") << -1 << all - 1 << "1 2 3 4 5"
-                                         << "CSM";
-        QTest::newRow("cut in a length") << -1 << head + 45 << "1"
-                                         << "RSM";
-        QTest::newRow("cut behind a record") << -1 << head + 88 << "1 2"
-                                             << "SM";
-        QTest::newRow("only a header") << -1 << head << ""
-                                       << "SM";
-        QTest::newRow("half a header") << -1 << 50 << ""
-                                       << "C";
-        QTest::newRow("three bytes") << -1 << 3 << ""
-                                     << "NC";
-        QTest::newRow("empty") << -1 << 0 << ""
-                               << "";
+        DataTable<int, int, QString, QString>({"at", "cut", "found", "damages"})
+            .row("whole", -1, all, "1 2 3 4 5 6", "")
+            .row("magic", 1, all, "1 2 3 4 5 6", "NH")
+            .row("header", 6, all, "1 2 3 4 5 6", "H")
+            .row("a value", head + 44 + 43, all, "1 2 3 4 5 6", "S")
+            .row("a length", head + 44, all, "1 3 4 5 6", "RSM")
+            .row("a length far too long", head + 45, all, "1 3 4 5 6", "RSM")
+            .row("a type", head + 88 + 2, all, "1 2 4 5 6", "RSM")
+            .row("a mask still leads on", head + 4, all, "1 2 3 4 5 6", "S")
+            .row("the last length", head + 5 * 44, all, "1 2 3 4 5", "CSM")
+            .row("cut in a record", -1, all - 1, "1 2 3 4 5", "CSM")
+            .row("cut in a length", -1, head + 45, "1", "RSM")
+            .row("cut behind a record", -1, head + 88, "1 2", "SM")
+            .row("only a header", -1, head, "", "SM")
+            .row("half a header", -1, 50, "", "C")
+            .row("three bytes", -1, 3, "", "NC")
+            .row("empty", -1, 0, "", "");
     }
-
     void damagedBinary()
     {
         QFETCH(int, at);
         QFETCH(int, cut);
         TelemetryPages pages;
         for (quint32 number = 1; number <= 6; ++number)
-            pages.push_back(recordOf({{element("NumPage"), number}, {element("Time"), kTime}}));
+            pages.push_back(recordOf({{"NumPage", number}, {"Time", kTime}}));
         QByteArray file = written(writeTelemetryBinary, pages);
         QCOMPARE(file.size(), 128 + 6 * 44);
         if (at >= 0)
@@ -471,18 +427,12 @@ private Q_SLOTS:
         QVERIFY(saveTelemetryFile(path, TelemetryForm::xml, samplePages(), sampleOrigin()));
         std::mt19937 random(3);
         const TelemetryPages many = randomPages(random, 100);
-        std::signal(SIGXFSZ, SIG_IGN);
-        rlimit before{};
-        getrlimit(RLIMIT_FSIZE, &before);
         for (const TelemetryForm form : {TelemetryForm::xml, TelemetryForm::csv, TelemetryForm::binary}) {
             // In the first write, between two, and in the last one.
             for (const rlim_t room : {rlim_t{1000}, rlim_t{30'000}}) {
-                const rlimit limit{room, before.rlim_max};
-                setrlimit(RLIMIT_FSIZE, &limit);
                 QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot save"));
-                const bool saved = saveTelemetryFile(path, form, many, sampleOrigin());
-                setrlimit(RLIMIT_FSIZE, &before);
-                QVERIFY(!saved);
+                const FullDisk disk(room);
+                QVERIFY(!saveTelemetryFile(path, form, many, sampleOrigin()));
             }
         }
         const auto contents = readTelemetryFile(path);

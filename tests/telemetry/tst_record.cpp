@@ -2,6 +2,7 @@
 // text of bits, row by row of the catalogue as it is written, and puts numbers together from their last byte
 // on. VLK_RANDOM_RECORDS sets the number of random records, in batches of 20,000.
 
+#include "support/data_table.h"
 #include "telemetry/record/record_head.h"
 #include "telemetry/record/tmi_page_zeta2.h"
 #include "telemetry/record/tmi_page_zeta3.h"
@@ -136,7 +137,6 @@ private Q_SLOTS:
         for (int batch = 0; batch * kBatch < wanted; ++batch)
             QTest::addRow("batch %d", batch) << 7106U + static_cast<unsigned>(batch);
     }
-
     void randomRecords()
     {
         QFETCH(unsigned, seed);
@@ -160,7 +160,6 @@ private Q_SLOTS:
             }
         }
     }
-
     // Each seed, every prefix of it and every single bit of it turned over.
     void seeds()
     {
@@ -199,26 +198,20 @@ private Q_SLOTS:
     // One element alone in a record, read with its sign and type.
     void values_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QByteArray>("hex");
-        QTest::addColumn<qint64>("integer");
-        QTest::addColumn<double>("number");
-        QTest::newRow("u8") << QByteArray("GSM") << QByteArray("ff") << qint64{255} << 255.0;
-        QTest::newRow("i8") << QByteArray("Temp1") << QByteArray("fb") << qint64{-5} << -5.0;
-        QTest::newRow("u16") << QByteArray("Power") << QByteArray("3930") << qint64{12345} << 12345.0;
-        QTest::newRow("i16") << QByteArray("RefrTemp1") << QByteArray("0080") << qint64{-32768} << -32768.0;
-        QTest::newRow("u32") << QByteArray("Time") << QByteArray("ffffffff") << qint64{4294967295}
-                             << 4294967295.0;
-        QTest::newRow("i32") << QByteArray("Latitude") << QByteArray("feffffff") << qint64{-2} << -2.0;
-        QTest::newRow("f32") << QByteArray("Speed") << QByteArray("00002041") << qint64{0x41200000} << 10.0;
-        QTest::newRow("u64") << QByteArray("User8Byte_3") << QByteArray("0000000000000080")
-                             << std::numeric_limits<qint64>::min() << 9223372036854775808.0;
-        QTest::newRow("i64") << QByteArray("NaviLatitude")
-                             << QByteArray("0000000000000080"
-                                           "0000000000000000")
-                             << std::numeric_limits<qint64>::min() << -9223372036854775808.0;
+        DataTable<QByteArray, QByteArray, qint64, double>({"name", "hex", "integer", "number"})
+            .row("u8", "GSM", "ff", 255, 255.0)
+            .row("i8", "Temp1", "fb", -5, -5.0)
+            .row("u16", "Power", "3930", 12345, 12345.0)
+            .row("i16", "RefrTemp1", "0080", -32768, -32768.0)
+            .row("u32", "Time", "ffffffff", 4294967295, 4294967295.0)
+            .row("i32", "Latitude", "feffffff", -2, -2.0)
+            .row("f32", "Speed", "00002041", 0x41200000, 10.0)
+            .row("f32, not a number with a code of its own", "Speed", "0100a07f", 0x7fa00001, std::nan(""))
+            .row("u64", "User8Byte_3", "0000000000000080", std::numeric_limits<qint64>::min(),
+                 9223372036854775808.0)
+            .row("i64", "NaviLatitude", "00000000000000800000000000000000",
+                 std::numeric_limits<qint64>::min(), -9223372036854775808.0);
     }
-
     void values()
     {
         QFETCH(QByteArray, name);
@@ -232,32 +225,6 @@ private Q_SLOTS:
         QVERIFY(page.has(*index));
         QTEST(qint64{page.integer(*index)}, "integer");
         QTEST(page.number(*index), "number");
-    }
-
-    void notANumberKeepsItsBits()
-    {
-        FieldMask mask;
-        mask.set(field("Speed"));
-        const QByteArray record = recordOf(mask, QByteArray::fromHex("0100a07f"));
-        const TmiPage_Zeta3 page(record.constData(), record.size());
-        QVERIFY(std::isnan(page.value<element("Speed")>()));
-        QCOMPARE(page.raw(element("Speed")), quint64{0x7fa00001});
-    }
-
-    // A group that is cut gives the values before the cut, and what would follow it is not taken from it.
-    void cutGroup()
-    {
-        FieldMask mask;
-        mask.set(field("LbsCellID"));
-        mask.set(field("TempRS485_1"));
-        const QByteArray record = recordOf(mask, QByteArray::fromHex("01000000"
-                                                                     "0200"
-                                                                     "03"));
-        const TmiPage_Zeta3 page(record.constData(), record.size());
-        QCOMPARE(page.value<element("LbsCellID")>(), 1U);
-        QCOMPARE(page.value<element("LbsLac")>(), quint16{2});
-        QCOMPARE(page.value<element("LbsMcc")>(), quint16{0});
-        QCOMPARE(page.value<element("TempRS485_1")>(), qint8{0});
     }
 
     void reuseKeepsTheZoneAndTheMemory()

@@ -1,28 +1,18 @@
 // The four tabs of a record of protocol 3.0, as a host and a user see them: messages in, labels and messages
 // out.
 
-#include "support/scripted_host.h"
+#include "opened_view.h"
+#include "support/data_table.h"
 #include "telemetry/text/item_text.h"
 #include "telemetry/text/signal_level.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QGroupBox>
-#include <QInputDialog>
-#include <QLabel>
-#include <QMenu>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QSpinBox>
-#include <QTabWidget>
-#include <QTemporaryDir>
-#include <QTranslator>
 #include <QtTest>
+#include <QtWidgets>
 
 #include <random>
 
 using vlk::Message;
+using Record = vlk::RecordParts;
 
 namespace {
 
@@ -78,41 +68,22 @@ Ffs_Submis_Temp_Value FfsSubmisTemp             Ffs_Revers_Mode_Value FfsState.r
 Ffs_Revers_Volume_Value FfsReversVolume         Ffs_Revers_Speed_Value FfsReversSpeed
 Ffs_Revers_Temp_Value FfsReversTemp)";
 
-struct Record
-{
-    vlk::FieldMask mask = vlk::FieldMask::fromText(std::string(vlk::kFieldCount, '1'));
-    TmiPage_Zeta3::ValueBlock block{};
-
-    QByteArray bytes() const
-    {
-        QByteArray all("\xb0\x1e");
-        all.append(reinterpret_cast<const char*>(mask.bytes().data()), vlk::FieldMask::kBytes);
-        for (int i = 0; i < vlk::kFieldCount; ++i) {
-            if (mask.test(i))
-                all.append(reinterpret_cast<const char*>(block.data()) + vlk::kFields[i].offset,
-                           vlk::kFields[i].width);
-        }
-        return all;
-    }
-    std::uint8_t& byte(vlk::ElementIndex element) { return block[vlk::kElements[element].offset]; }
-};
-
 Record randomRecord(unsigned seed)
 {
     std::mt19937 random(seed);
     Record record;
+    record.mask = vlk::everyField();
     std::ranges::generate(record.block, [&] { return static_cast<std::uint8_t>(random()); });
     return record;
 }
 
+// Random values, but only the fields of these elements.
 Record sparseRecord(std::initializer_list<const char*> names)
 {
     Record record = randomRecord(3);
     record.mask = {};
-    for (const vlk::Element& element : vlk::kElements) {
-        if (std::ranges::find(names, element.name) != names.end())
-            record.mask.set(element.field);
-    }
+    for (const char* name : names)
+        record.mask.set(vlk::kElements[vlk::findElement(name).value()].field);
     return record;
 }
 
@@ -135,342 +106,276 @@ public:
 
 } // namespace
 
-class TabsTest : public QObject
+class TabsTest : public QObject, private OpenedView
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void labels_data();
-    void labels();
-    void cardAndLevel_data();
-    void cardAndLevel();
-    void absentPartsAreHidden();
-    void titles();
-    void outputs_data();
-    void outputs();
-    void automaticRequestsLockTheCommands();
-    void mileage_data();
-    void mileage();
-    void zone();
-    void menu();
-    void language();
-    void arrangement_data();
-    void arrangement();
+    void initTestCase()
+    {
+        start("<SENSORS><IN2 name=\"Door\"/></SENSORS><OUTPUTS><LINE1 nickname=\"Siren\"/></OUTPUTS>"
+              "<TEMPSENS><SENS8 nickname=\"Freezer\"/></TEMPSENS>");
+        host.onSend = [this](Message message, void* p1, void*) {
+            if (message == Message::SetMileage)
+                kilometres_ = *static_cast<float*>(p1);
+        };
+    }
+
+    void init()
+    {
+        openWith(0);
+        view_->findChild<QSpinBox*>("spinBox_TimeOffset")->setValue(3);
+        host.sent.clear();
+    }
+
+    void labels_data()
+    {
+        DataTable<QByteArray>({"record"})
+            .row("full", randomRecord(2).bytes())
+            .row("supply alone", sparseRecord({"Power"}).bytes())
+            .row("groups", sparseRecord({"LbsCellID", "AccelLinearX", "FfsState", "State"}).bytes())
+            .row("cut", randomRecord(4).bytes().left(300))
+            .row("nothing", Record().bytes());
+    }
+    void labels()
+    {
+        QFETCH(QByteArray, record);
+        sendRecord(record);
+        TmiPage_Zeta3 page(record.constData(), record.size());
+        page.setUtcOffset(3 * 3600);
+        const QStringList words =
+            QString::fromLatin1(kLabels).split(QRegularExpression("\\s+"), Qt::SkipEmptyParts);
+        int checked = 0;
+        for (int i = 0; i < words.size(); i += 2) {
+            const QStringList parts = words[i].split('*');
+            const int count = parts.size() == 2 ? parts[0].toInt() : 1;
+            const auto item =
+                std::ranges::find(vlk::kItems, words[i + 1].toStdString(),
+                                  [](const vlk::Item& each) { return std::string_view(each.name); });
+            QVERIFY2(item != vlk::kItems.end(), qPrintable(words[i + 1]));
+            for (int n = 0; n < count; ++n, ++checked) {
+                const QString name = "label_" + QString(parts.last()).replace('#', QString::number(n + 1));
+                const auto index = static_cast<vlk::ItemIndex>(item - vlk::kItems.begin() + n);
+                QVERIFY2(child(name)->text() == vlk::text(page, index), qPrintable(name));
+            }
+        }
+        QCOMPARE(checked, 268);
+    }
+
+    void cardAndLevel_data()
+    {
+        DataTable<int, int, QString, int, QString>({"module", "level", "cards", "bar", "format"})
+            .row("first card, middle", 0xef, 10, "10", 32, "%p %")
+            .row("second card, highest", 0x10, 31, "01", 99, "%p %")
+            .row("no level", 0, 99, "10", 0, "Not determined")
+            .row("beyond the scale", 0, 200, "10", 100, "%p %")
+            .row("absent", -1, -1, "00", 0, "");
+    }
+    void cardAndLevel()
+    {
+        QFETCH(int, module);
+        QFETCH(int, level);
+        show(module < 0 ? Record() : Record{{"Module1", quint64(module)}, {"GSM", quint64(level)}});
+        QString cards;
+        for (const char* name : {"radioButton_Sim_1", "radioButton_Sim_2"}) {
+            cards += child<QRadioButton>(name)->isChecked() ? '1' : '0';
+            QVERIFY(!isOn(name));
+        }
+        QTEST(cards, "cards");
+        QTEST(child<QProgressBar>("progressBar_GSM_Level_Value")->value(), "bar");
+        QTEST(child<QProgressBar>("progressBar_GSM_Level_Value")->format(), "format");
+    }
+
+    void absentPartsAreHidden()
+    {
+        for (const char* name :
+             {"label_Dev_WiFi_Value", "label_Dev_Iridium_Value", "label_Dev_Evacuation_Value",
+              "label_OpenSensor_Value", "label_ComplexEvents_Value", "label_Motochas_Value",
+              "label_Motochas_LoadOn_Value", "groupBox_NaviExt", "groupBox_Geo", "label_In_Value_5",
+              "label_In_Caption_5", "label_Out_Value_4", "label_Out_Text_16"})
+            QVERIFY2(child<QWidget>(name)->isHidden(), name);
+        for (const char* name :
+             {"label_Dev_USB_Value", "label_In_Value_4", "label_Out_Value_3", "groupBox_LBS"})
+            QVERIFY2(!child<QWidget>(name)->isHidden(), name);
+        openWith(1U << 3);
+        QVERIFY(!child("label_Out_Value_4")->isHidden() && child("label_Out_Value_5")->isHidden());
+    }
+
+    void titles()
+    {
+        QCOMPARE(text("label_In_Caption_2"), QString("Door"));
+        QCOMPARE(text("label_Out_Caption_1"), QString("Siren"));
+        QCOMPARE(text("label_TS_Caption_8"), QString("Freezer"));
+        for (const char* name : {"label_In_Caption_1", "label_In_Caption_24", "label_Out_Caption_16"})
+            QCOMPARE(text(name), QString());
+    }
+
+    void outputs_data()
+    {
+        DataTable<quint32, int, int>({"mask", "choice", "number"})
+            .row("first", 0U, 0, 1)
+            .row("third", 0U, 2, 3)
+            .row("fourth", 8U, 3, 4)
+            .row("none", 0U, -1, 0);
+    }
+    void outputs()
+    {
+        QFETCH(quint32, mask);
+        QFETCH(int, choice);
+        QFETCH(int, number);
+        openWith(mask);
+        auto* box = child<QComboBox>("comboBox_Out");
+        QCOMPARE(box->count(), mask != 0 ? 4 : 3);
+        box->setCurrentIndex(choice);
+        for (const auto& [button, message] : {std::pair("pushButton_Out_On", Message::OutputOn),
+                                              std::pair("pushButton_Out_Off", Message::OutputOff)}) {
+            host.sent.clear();
+            press(button);
+            const auto sent = host.takeSent(message);
+            QCOMPARE(sent.size(), 1);
+            QCOMPARE(int(sent[0].value), number);
+        }
+    }
+
+    void automaticRequestsLockTheCommands()
+    {
+        auto* box = view_->findChild<QCheckBox*>("checkBox_Get_Auto_TMI");
+        for (const bool automatic : {true, false}) {
+            box->setChecked(automatic);
+            for (const char* name : {"pushButton_Run", "pushButton_Out_On", "comboBox_Out"})
+                QCOMPARE(isOn(name), !automatic);
+        }
+    }
+
+    void mileage_data()
+    {
+        DataTable<double, bool, float>({"typed", "accept", "sent"})
+            .row("accepted", 1234.56, true, 1234.56F)
+            .row("beyond the highest", 2e7, true, 1e7F)
+            .row("below zero", -1., true, 0.F)
+            .row("cancelled", 5., false, -1.F);
+    }
+    void mileage()
+    {
+        QFETCH(double, typed);
+        QFETCH(bool, accept);
+        kilometres_ = -1;
+        ScriptedHost::whenModal([&](QWidget* open) {
+            auto* dialog = qobject_cast<QInputDialog*>(open);
+            QVERIFY(dialog);
+            QCOMPARE(dialog->windowTitle(), QString("Mileage, km"));
+            QCOMPARE(dialog->doubleDecimals(), 2);
+            QCOMPARE(dialog->doubleValue(), 0.);
+            dialog->setDoubleValue(typed);
+            dialog->done(accept ? QDialog::Accepted : QDialog::Rejected);
+        });
+        press("pushButton_Run");
+        QTEST(kilometres_, "sent");
+    }
+
+    void zone()
+    {
+        show(Record{{"LastTime", 0}, {"LbsTime", 0}});
+        QCOMPARE(text("label_Navi_Date_Value"), QString("03:00:00 01.01.1970 (UTC +3)"));
+        view_->findChild<QSpinBox*>("spinBox_TimeOffset")->setValue(-2);
+        for (const char* name : {"label_Navi_Date_Value", "label_LBS_Time_Value"})
+            QCOMPARE(text(name), QString("22:00:00 31.12.1969 (UTC -2)"));
+    }
+
+    void menu()
+    {
+        auto* tabs = child<QTabWidget>("tabWidget");
+        QCOMPARE(tabs->count(), 4);
+        auto* label = child("label_Navi_Lat_Value");
+        auto* menu = window->findChild<QMenu*>();
+        QTest::mouseClick(label, Qt::LeftButton);
+        QVERIFY(!menu->isVisible());
+        QTest::mouseClick(label, Qt::RightButton);
+        QVERIFY(menu->isVisible());
+        for (int i : {3, 1, 0}) {
+            QCOMPARE(menu->actions().at(i)->text(), tabs->tabText(i));
+            menu->actions().at(i)->trigger();
+            QCOMPARE(tabs->currentIndex(), i);
+        }
+        menu->close();
+    }
+
+    void language()
+    {
+        show(Record{{"Module1", 0x80}});
+        auto* box = child<QComboBox>("comboBox_Out");
+        box->setCurrentIndex(1);
+        {
+            const Texts russian(QStringLiteral("ru"));
+            QCoreApplication::processEvents();
+            QCOMPARE(text("label_Engine_Text"), QString("Работает"));
+            QCOMPARE(text("label_Navi_Lat_Text"), QString("Широта"));
+            QCOMPARE(child<QTabWidget>("tabWidget")->tabText(3), QString("Топливо"));
+            QCOMPARE(box->currentText(), QString("Выход 2"));
+            for (const QLabel* label : window->findChildren<QLabel*>())
+                QVERIFY2(!label->text().startsWith("tmi"), qPrintable(label->text()));
+        }
+        QCoreApplication::processEvents();
+        QCOMPARE(text("label_Engine_Text"), QString("Running"));
+        QCOMPARE(text("label_In_Text_2"), QString("Input 2"));
+        QCOMPARE(box->currentIndex(), 1);
+    }
+
+    void arrangement_data()
+    {
+        DataTable<int>({"width"}).row("1600", 1600).row("1020", 1020).row("700", 700).row("1300", 1300);
+    }
+    // Columns begin at the top, groups do not overlap, and no value moves when the record changes.
+    void arrangement()
+    {
+        QFETCH(int, width);
+        view_->resize(width, 700);
+        auto* tabs = child<QTabWidget>("tabWidget");
+        for (int i = 0; i < tabs->count(); ++i) {
+            tabs->setCurrentIndex(i);
+            QCoreApplication::processEvents();
+            QMap<int, QVector<QRect>> columns;
+            for (const QGroupBox* group : tabs->currentWidget()->findChildren<QGroupBox*>()) {
+                if (group->isVisible())
+                    columns[group->x()] << group->geometry();
+            }
+            QVERIFY(!columns.isEmpty());
+            for (QVector<QRect>& column : columns) {
+                std::ranges::sort(column, {}, &QRect::top);
+                QCOMPARE(column.first().top(), columns.first().first().top());
+                for (int at = 1; at < column.size(); ++at)
+                    QVERIFY(column[at - 1].bottom() < column[at].top());
+            }
+            const auto places = [&] {
+                QVector<QRect> rects;
+                for (const QLabel* label : tabs->currentWidget()->findChildren<QLabel*>())
+                    rects << QRect(label->mapTo(tabs, QPoint()), label->size());
+                return rects;
+            };
+            show(randomRecord(7));
+            const auto before = places();
+            show(sparseRecord({"Power"}));
+            QCOMPARE(places(), before);
+        }
+    }
 
 private:
-    template <class T = QLabel>
-    T* child(const QString& name) const
-    {
-        const auto found = form_->findChildren<T*>(name);
-        if (found.size() != 1)
-            qFatal("%d of %s", int(found.size()), qPrintable(name));
-        return found.first();
-    }
-    QString text(const char* name) const { return child(name)->text(); }
     void show(const Record& record)
     {
-        const QByteArray message = QByteArray(3, '\0') + record.bytes();
-        host_.send(Message::RecordByNumber, &message);
-        form_ = ScriptedHost::window("VLK_Form_TMI_Zeta3");
-        QVERIFY(form_ != nullptr);
+        sendRecord(record.bytes());
         QCoreApplication::processEvents();
     }
-    void open(quint32 mask)
+    void openWith(quint64 mask)
     {
-        vlk::ConnectInfo info{QStringLiteral("R-7106"), {}, {}, {}, mask, 0};
-        host_.send(Message::TrackerAttached, &info);
-        host_.send(Message::OpenTelemetry, &configuration_);
+        open(mask);
+        show(randomRecord(1));
+        view_ = std::exchange(window, ScriptedHost::window("VLK_Form_TMI_Zeta3"));
     }
 
-    ScriptedHost host_;
     Texts english_{QStringLiteral("en")};
-    QTemporaryDir folder_;
-    QString configuration_;
-    QWidget* form_ = nullptr;
+    QWidget* view_ = nullptr; // the window under test is the form with the tabs
     float kilometres_ = -1;
 };
-
-void TabsTest::initTestCase()
-{
-    host_.start();
-    host_.onSend = [this](Message message, void* p1, void*) {
-        if (message == Message::SetMileage)
-            kilometres_ = *static_cast<float*>(p1);
-    };
-    configuration_ = folder_.filePath("configuration.xml");
-    QFile file(configuration_);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("<?xml version=\"1.0\" encoding=\"windows-1251\"?><DEVICE>"
-               "<SENSORS><IN2 name=\"Door\"/></SENSORS><OUTPUTS><LINE1 nickname=\"Siren\"/></OUTPUTS>"
-               "<TEMPSENS><SENS8 nickname=\"Freezer\"/></TEMPSENS></DEVICE>");
-}
-
-void TabsTest::init()
-{
-    open(0);
-    show(randomRecord(1));
-    ScriptedHost::window("VLK_Widget_Tmi_View")->findChild<QSpinBox*>("spinBox_TimeOffset")->setValue(3);
-    host_.sent.clear();
-}
-
-void TabsTest::labels_data()
-{
-    QTest::addColumn<QByteArray>("record");
-    QTest::newRow("full") << randomRecord(2).bytes();
-    QTest::newRow("supply alone") << sparseRecord({"Power"}).bytes();
-    QTest::newRow("groups") << sparseRecord({"LbsCellID", "AccelLinearX", "FfsState", "State"}).bytes();
-    QTest::newRow("cut") << randomRecord(4).bytes().left(300);
-    QTest::newRow("nothing") << Record{.mask = {}}.bytes();
-}
-
-void TabsTest::labels()
-{
-    QFETCH(QByteArray, record);
-    const QByteArray message = QByteArray(3, '\0') + record;
-    host_.send(Message::RecordByNumber, &message);
-    TmiPage_Zeta3 page(record.constData(), record.size());
-    page.setUtcOffset(3 * 3600);
-    const QStringList words =
-        QString::fromLatin1(kLabels).split(QRegularExpression("\\s+"), Qt::SkipEmptyParts);
-    int checked = 0;
-    for (int i = 0; i < words.size(); i += 2) {
-        const QStringList parts = words[i].split('*');
-        const int count = parts.size() == 2 ? parts[0].toInt() : 1;
-        const auto item =
-            std::ranges::find(vlk::kItems, words[i + 1].toStdString(),
-                              [](const vlk::Item& each) { return std::string_view(each.name); });
-        QVERIFY2(item != vlk::kItems.end(), qPrintable(words[i + 1]));
-        for (int n = 0; n < count; ++n, ++checked) {
-            const QString name = "label_" + QString(parts.last()).replace('#', QString::number(n + 1));
-            const auto index = static_cast<vlk::ItemIndex>(item - vlk::kItems.begin() + n);
-            QVERIFY2(child(name)->text() == vlk::text(page, index), qPrintable(name));
-        }
-    }
-    QCOMPARE(checked, 268);
-}
-
-void TabsTest::cardAndLevel_data()
-{
-    QTest::addColumn<int>("module");
-    QTest::addColumn<int>("level");
-    QTest::addColumn<QString>("cards");
-    QTest::addColumn<int>("bar");
-    QTest::addColumn<QString>("format");
-    QTest::newRow("first card, middle") << 0xef << 10 << "10" << 32 << "%p %";
-    QTest::newRow("second card, highest") << 0x10 << 31 << "01" << 99 << "%p %";
-    QTest::newRow("no level") << 0 << 99 << "10" << 0 << "Not determined";
-    QTest::newRow("beyond the scale") << 0 << 200 << "10" << 100 << "%p %";
-    QTest::newRow("absent") << -1 << -1 << "00" << 0 << "";
-}
-
-void TabsTest::cardAndLevel()
-{
-    QFETCH(int, module);
-    QFETCH(int, level);
-    Record record = sparseRecord({});
-    if (module >= 0) {
-        record = sparseRecord({"Module1", "GSM"});
-        record.byte(vlk::element("Module1")) = static_cast<std::uint8_t>(module);
-        record.byte(vlk::element("GSM")) = static_cast<std::uint8_t>(level);
-    }
-    show(record);
-    QString cards;
-    for (const char* name : {"radioButton_Sim_1", "radioButton_Sim_2"}) {
-        cards += child<QRadioButton>(name)->isChecked() ? '1' : '0';
-        QVERIFY(!child<QRadioButton>(name)->isEnabled());
-    }
-    QTEST(cards, "cards");
-    QTEST(child<QProgressBar>("progressBar_GSM_Level_Value")->value(), "bar");
-    QTEST(child<QProgressBar>("progressBar_GSM_Level_Value")->format(), "format");
-}
-
-void TabsTest::absentPartsAreHidden()
-{
-    for (const char* name :
-         {"label_Dev_WiFi_Value", "label_Dev_Iridium_Value", "label_Dev_Evacuation_Value",
-          "label_OpenSensor_Value", "label_ComplexEvents_Value", "label_Motochas_Value",
-          "label_Motochas_LoadOn_Value", "groupBox_NaviExt", "groupBox_Geo", "label_In_Value_5",
-          "label_In_Caption_5", "label_Out_Value_4", "label_Out_Text_16"})
-        QVERIFY2(child<QWidget>(name)->isHidden(), name);
-    for (const char* name : {"label_Dev_USB_Value", "label_In_Value_4", "label_Out_Value_3", "groupBox_LBS"})
-        QVERIFY2(!child<QWidget>(name)->isHidden(), name);
-    open(1U << 3);
-    QVERIFY(!child("label_Out_Value_4")->isHidden() && child("label_Out_Value_5")->isHidden());
-}
-
-void TabsTest::titles()
-{
-    QCOMPARE(text("label_In_Caption_2"), QString("Door"));
-    QCOMPARE(text("label_Out_Caption_1"), QString("Siren"));
-    QCOMPARE(text("label_TS_Caption_8"), QString("Freezer"));
-    for (const char* name : {"label_In_Caption_1", "label_In_Caption_24", "label_Out_Caption_16"})
-        QCOMPARE(text(name), QString());
-}
-
-void TabsTest::outputs_data()
-{
-    QTest::addColumn<quint32>("mask");
-    QTest::addColumn<int>("choice");
-    QTest::addColumn<int>("number");
-    QTest::newRow("first") << 0U << 0 << 1;
-    QTest::newRow("third") << 0U << 2 << 3;
-    QTest::newRow("fourth") << 8U << 3 << 4;
-    QTest::newRow("none") << 0U << -1 << 0;
-}
-
-void TabsTest::outputs()
-{
-    QFETCH(quint32, mask);
-    QFETCH(int, choice);
-    QFETCH(int, number);
-    open(mask);
-    auto* box = child<QComboBox>("comboBox_Out");
-    QCOMPARE(box->count(), mask != 0 ? 4 : 3);
-    box->setCurrentIndex(choice);
-    for (const auto& [button, message] : {std::pair("pushButton_Out_On", Message::OutputOn),
-                                          std::pair("pushButton_Out_Off", Message::OutputOff)}) {
-        host_.sent.clear();
-        child<QPushButton>(button)->click();
-        const auto sent = host_.takeSent(message);
-        QCOMPARE(sent.size(), 1);
-        QCOMPARE(int(sent[0].value), number);
-    }
-}
-
-void TabsTest::automaticRequestsLockTheCommands()
-{
-    auto* box = ScriptedHost::window("VLK_Widget_Tmi_View")->findChild<QCheckBox*>("checkBox_Get_Auto_TMI");
-    for (const bool automatic : {true, false}) {
-        box->setChecked(automatic);
-        for (const char* name : {"pushButton_Run", "pushButton_Out_On", "comboBox_Out"})
-            QCOMPARE(child<QWidget>(name)->isEnabled(), !automatic);
-    }
-}
-
-void TabsTest::mileage_data()
-{
-    QTest::addColumn<double>("typed");
-    QTest::addColumn<bool>("accept");
-    QTest::addColumn<float>("sent");
-    QTest::newRow("accepted") << 1234.56 << true << 1234.56F;
-    QTest::newRow("beyond the highest") << 2e7 << true << 1e7F;
-    QTest::newRow("below zero") << -1. << true << 0.F;
-    QTest::newRow("cancelled") << 5. << false << -1.F;
-}
-
-void TabsTest::mileage()
-{
-    QFETCH(double, typed);
-    QFETCH(bool, accept);
-    kilometres_ = -1;
-    ScriptedHost::whenModal([&](QWidget* open) {
-        auto* dialog = qobject_cast<QInputDialog*>(open);
-        QVERIFY(dialog);
-        QCOMPARE(dialog->windowTitle(), QString("Mileage, km"));
-        QCOMPARE(dialog->doubleDecimals(), 2);
-        QCOMPARE(dialog->doubleValue(), 0.);
-        dialog->setDoubleValue(typed);
-        dialog->done(accept ? QDialog::Accepted : QDialog::Rejected);
-    });
-    child<QPushButton>("pushButton_Run")->click();
-    QTEST(kilometres_, "sent");
-}
-
-void TabsTest::zone()
-{
-    auto* view = ScriptedHost::window("VLK_Widget_Tmi_View");
-    Record record = sparseRecord({"LastTime", "LbsTime"});
-    record.block.fill(0);
-    show(record);
-    QCOMPARE(text("label_Navi_Date_Value"), QString("03:00:00 01.01.1970 (UTC +3)"));
-    view->findChild<QSpinBox*>("spinBox_TimeOffset")->setValue(-2);
-    for (const char* name : {"label_Navi_Date_Value", "label_LBS_Time_Value"})
-        QCOMPARE(text(name), QString("22:00:00 31.12.1969 (UTC -2)"));
-}
-
-void TabsTest::menu()
-{
-    auto* tabs = child<QTabWidget>("tabWidget");
-    QCOMPARE(tabs->count(), 4);
-    auto* label = child("label_Navi_Lat_Value");
-    auto* menu = form_->findChild<QMenu*>();
-    QTest::mouseClick(label, Qt::LeftButton);
-    QVERIFY(!menu->isVisible());
-    QTest::mouseClick(label, Qt::RightButton);
-    QVERIFY(menu->isVisible());
-    for (int i : {3, 1, 0}) {
-        QCOMPARE(menu->actions().at(i)->text(), tabs->tabText(i));
-        menu->actions().at(i)->trigger();
-        QCOMPARE(tabs->currentIndex(), i);
-    }
-    menu->close();
-}
-
-void TabsTest::language()
-{
-    Record record = sparseRecord({"Module1"});
-    record.byte(vlk::element("Module1")) = 0x80;
-    show(record);
-    auto* box = child<QComboBox>("comboBox_Out");
-    box->setCurrentIndex(1);
-    {
-        const Texts russian(QStringLiteral("ru"));
-        QCoreApplication::processEvents();
-        QCOMPARE(text("label_Engine_Text"), QString("Работает"));
-        QCOMPARE(text("label_Navi_Lat_Text"), QString("Широта"));
-        QCOMPARE(child<QTabWidget>("tabWidget")->tabText(3), QString("Топливо"));
-        QCOMPARE(box->currentText(), QString("Выход 2"));
-        for (const QLabel* label : form_->findChildren<QLabel*>())
-            QVERIFY2(!label->text().startsWith("tmi"), qPrintable(label->text()));
-    }
-    QCoreApplication::processEvents();
-    QCOMPARE(text("label_Engine_Text"), QString("Running"));
-    QCOMPARE(text("label_In_Text_2"), QString("Input 2"));
-    QCOMPARE(box->currentIndex(), 1);
-}
-
-void TabsTest::arrangement_data()
-{
-    QTest::addColumn<int>("width");
-    for (const int width : {1600, 1020, 700, 1300})
-        QTest::addRow("%d", width) << width;
-}
-
-// Columns begin at the top, groups do not overlap, and no value moves when the record changes.
-void TabsTest::arrangement()
-{
-    QFETCH(int, width);
-    ScriptedHost::window("VLK_Widget_Tmi_View")->resize(width, 700);
-    auto* tabs = child<QTabWidget>("tabWidget");
-    for (int i = 0; i < tabs->count(); ++i) {
-        tabs->setCurrentIndex(i);
-        QCoreApplication::processEvents();
-        QMap<int, QVector<QRect>> columns;
-        for (const QGroupBox* group : tabs->currentWidget()->findChildren<QGroupBox*>()) {
-            if (group->isVisible())
-                columns[group->x()] << group->geometry();
-        }
-        QVERIFY(!columns.isEmpty());
-        for (QVector<QRect>& column : columns) {
-            std::ranges::sort(column, {}, &QRect::top);
-            QCOMPARE(column.first().top(), columns.first().first().top());
-            for (int at = 1; at < column.size(); ++at)
-                QVERIFY(column[at - 1].bottom() < column[at].top());
-        }
-        const auto places = [&] {
-            QVector<QRect> rects;
-            for (const QLabel* label : tabs->currentWidget()->findChildren<QLabel*>())
-                rects << QRect(label->mapTo(tabs, QPoint()), label->size());
-            return rects;
-        };
-        show(randomRecord(7));
-        const auto before = places();
-        show(sparseRecord({"Power"}));
-        QCOMPARE(places(), before);
-    }
-}
 
 QTEST_MAIN(TabsTest)
 #include "tst_tabs.moc"

@@ -1,12 +1,12 @@
 // Values in, texts out. Without a translator a word shows as its key, so the tables below name keys.
 
+#include "support/brackets.h"
+#include "support/data_table.h"
+#include "support/records.h"
 #include "telemetry/text/item_text.h"
 #include "telemetry/text/key_text.h"
 #include "telemetry/text/time_text.h"
 
-#include <QFile>
-#include <QRegularExpression>
-#include <QTranslator>
 #include <QtTest>
 
 #include <bit>
@@ -164,24 +164,9 @@ quint64 rawOf(const QString& value, ValueType type)
                                               : value.toULongLong(nullptr, 0);
 }
 
-struct Values
-{
-    FieldMask mask;
-    TmiPage_Zeta3::ValueBlock block{};
-
-    void put(ElementIndex element, quint64 raw)
-    {
-        mask.set(kElements[element].field);
-        for (int i = 0; i < kElements[element].width; ++i)
-            block[kElements[element].offset + i] = static_cast<std::uint8_t>(raw >> 8 * i);
-    }
-
-    TmiPage_Zeta3 page() const { return TmiPage_Zeta3(176, 30, mask, block); }
-};
-
 QString textOf(ItemIndex item, quint64 raw, const TextOptions& options = {})
 {
-    Values values;
+    RecordParts values;
     values.put(kItems[item].element, raw);
     return text(values.page(), item, options);
 }
@@ -190,28 +175,6 @@ QStringList linesOf(const char* table)
 {
     return QString::fromLatin1(table).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
-
-// Every word that a rule can show, those of the rules behind it too.
-std::vector<Word> wordsOf(const Rule& rule)
-{
-    std::vector<Word> words{rule.none.text, rule.set, rule.clear, rule.unit};
-    for (const NamedValue& named : rule.names)
-        words.push_back(named.word);
-    if (rule.otherwise != nullptr)
-        std::ranges::copy(wordsOf(*rule.otherwise), std::back_inserter(words));
-    std::erase_if(words, [](const Word& word) { return !word; });
-    return words;
-}
-
-class Brackets : public QTranslator
-{
-public:
-    QString translate(const char*, const char* key, const char*, int) const override
-    {
-        return QLatin1Char('[') + QLatin1String(key) + QLatin1Char(']');
-    }
-    bool isEmpty() const override { return false; }
-};
 
 } // namespace
 
@@ -228,20 +191,17 @@ private Q_SLOTS:
 
     void values_data()
     {
-        QTest::addColumn<int>("item");
-        QTest::addColumn<QString>("letters");
-        QTest::addColumn<quint64>("raw");
-        QTest::addColumn<QString>("expected");
+        const DataTable<int, QString, quint64, QString> table({"item", "letters", "raw", "expected"});
         for (const QString& line : linesOf(kTexts)) {
             const QStringList cells = line.split(QStringLiteral(" |"));
             for (const QString& name : cells[0].split(QLatin1Char(' '))) {
                 const ItemIndex item = find(name.section(QLatin1Char(':'), 0, 0));
                 for (const QString& cell : cells.mid(1)) {
                     const QString value = cell.section(QLatin1Char('='), 0, 0).trimmed();
-                    QTest::addRow("%s %s", qPrintable(name), qPrintable(value))
-                        << int{item} << name.section(QLatin1Char(':'), 1).repeated(49)
-                        << rawOf(value, kElements[kItems[item].element].type)
-                        << cell.section(QLatin1Char('='), 1);
+                    table.row(qPrintable(name + ' ' + value), item,
+                              name.section(QLatin1Char(':'), 1).repeated(49),
+                              rawOf(value, kElements[kItems[item].element].type),
+                              cell.section(QLatin1Char('='), 1));
                 }
             }
         }
@@ -250,15 +210,14 @@ private Q_SLOTS:
             items::forEachName(words, [&](std::string_view, const items::ItemName& name, int bit) {
                 for (const bool set : {true, false}) {
                     const QString expected = line.section(QLatin1Char(' '), set ? 0 : 1, set ? 0 : 1);
-                    QTest::addRow("%s %s", name.text.data(), set ? "set" : "clear")
-                        << int{find(QLatin1String(name.text.data()))} << QString()
-                        << (set ? quint64{1} << bit : ~(quint64{1} << bit))
-                        << (expected == QLatin1String("-") ? QString() : expected);
+                    const QString itemName = QLatin1String(name.text.data());
+                    table.row(qPrintable(itemName + (set ? " set" : " clear")), find(itemName), {},
+                              set ? quint64{1} << bit : ~(quint64{1} << bit),
+                              expected == QLatin1String("-") ? QString() : expected);
                 }
             });
         }
     }
-
     void values()
     {
         QFETCH(int, item);
@@ -275,7 +234,7 @@ private Q_SLOTS:
             {-5400, "10:30:00 29.02.2024 (UTC -1)"}, {1800, "12:30:00 29.02.2024 (UTC +0)"},
             {-1800, "11:30:00 29.02.2024 (UTC 0)"},  {43200, "00:00:00 01.03.2024 (UTC +12)"}};
         for (const char* name : {"Time", "LastTime", "LbsTime"}) {
-            Values values;
+            RecordParts values;
             values.put(kItems[find(name)].element, 1709208000);
             TmiPage_Zeta3 page(176, 30, values.mask, values.block);
             for (const auto& [offset, expected] : rows) {
@@ -296,7 +255,7 @@ private Q_SLOTS:
 
     void severalValues()
     {
-        Values values;
+        RecordParts values;
         QCOMPARE(text(values.page(), item("SecondsLast.reliability")), QStringLiteral("0"));
         QCOMPARE(text(values.page(), item("AccelLinearX.axes")), QString());
         values.put(element("SecondsLast"), 5);
@@ -323,7 +282,7 @@ private Q_SLOTS:
     {
         std::mt19937 random(7106);
         for (int round = 0; round < 20; ++round) {
-            Values values;
+            RecordParts values;
             std::ranges::generate(values.block, std::ref(random));
             for (int field = 0; field < kFieldCount; ++field)
                 values.mask.set(field, random() % 2 != 0);
@@ -338,16 +297,11 @@ private Q_SLOTS:
 
     void extraPacket()
     {
-        QByteArray packet(58, '\0');
-        packet[0] = static_cast<char>(177);
-        packet[15] = 0x0E;
-        packet[44] = 0x08;
-        qToLittleEndian<quint32>(77, packet.data() + 5);
-        qToLittleEndian<qint32>(-33900000, packet.data() + 20);
+        const QByteArray packet = packetBytes(kSecondHead);
         const TmiPage_Zeta3 page(packet.constData(), packet.size());
         const QLatin1String rows(
-            "NumPage=77|StateNGauge.satellites=3|StateNGauge.fixOfPacket=tmizta_122|Power=|"
-            "Latitude=-56 -30.0000'|Speed=0.00|State.mode=tmizta_006|StateOut1.7=tmizta_029");
+            "NumPage=305419896|StateNGauge.satellites=10|StateNGauge.fixOfPacket=tmizta_122|Power=|"
+            "Latitude=0 -0.0002'|Speed=10.00|State.mode=tmizta_008|StateOut1.7=tmizta_029");
         for (const QString& row : QString(rows).split(QLatin1Char('|')))
             QCOMPARE(text(page, find(row.section(QLatin1Char('='), 0, 0))), row.section(QLatin1Char('='), 1));
     }
@@ -355,13 +309,11 @@ private Q_SLOTS:
     void translatorIsAskedEveryTime()
     {
         QCOMPARE(textOf(item("Temp1"), 20), QStringLiteral("20 abbr_017"));
-        Brackets brackets;
-        QCoreApplication::installTranslator(&brackets);
-        QCOMPARE(textOf(item("Temp1"), 20), QStringLiteral("20 [abbr_017]"));
-        QCOMPARE(textOf(item("TahoFlags.group1"), 192), QStringLiteral("[tmizta_052] 1"));
+        const Brackets brackets;
+        QCOMPARE(textOf(item("Temp1"), 20), QStringLiteral("20 <abbr_017>"));
+        QCOMPARE(textOf(item("TahoFlags.group1"), 192), QStringLiteral("<tmizta_052> 1"));
         QCOMPARE(textOf(item("CAN_PedalStop"), 20), QStringLiteral("20 %"));
         QCOMPARE(textOf(item("StateCnct.connection"), 2), QStringLiteral("GPRS (2G)"));
-        QCoreApplication::removeTranslator(&brackets);
     }
 
     void tablesAreSound()
@@ -385,22 +337,6 @@ private Q_SLOTS:
             }
         }
         QCOMPARE(static_cast<int>(elements.size()), kElementCount);
-    }
-
-    void everyKeyHasItsText()
-    {
-        for (const char* language : {"ru", "en"}) {
-            QFile file(QStringLiteral(VLK_SOURCE "/translations/%1.ts").arg(QLatin1String(language)));
-            QVERIFY(file.open(QIODevice::ReadOnly));
-            const QString texts = QString::fromUtf8(file.readAll());
-            for (const items::ItemRow& row : items::kItemRows) {
-                for (const Word& word : wordsOf(row.rule)) {
-                    const QString line =
-                        QStringLiteral("<message id=\"%1\"><translation>\\S").arg(QLatin1String(word.key()));
-                    QVERIFY2(!word.key() || texts.contains(QRegularExpression(line)), word.key());
-                }
-            }
-        }
     }
 };
 

@@ -3,10 +3,10 @@
 // A tracker on the bench: a store of its own, a clock that stands until it is moved, and a plug-in that
 // keeps what it is told.
 
+#include "support/files.h"
 #include "tracker/simulated_tracker.h"
 
 #include <QElapsedTimer>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -90,15 +90,12 @@ public:
 
     QString file(const QString& name, const QByteArray& content) const
     {
-        QFile file(own_.filePath(name));
-        file.open(QIODevice::WriteOnly);
-        file.write(content);
-        return file.fileName();
+        return writeFile(own_.filePath(name), content);
     }
     QByteArray configuration() const
     {
-        QFile file(tracker->readConfiguration(own_.filePath(QStringLiteral("read"))));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        const QString path = tracker->readConfiguration(own_.filePath(QStringLiteral("read")));
+        return path.isEmpty() ? QByteArray() : readFile(path);
     }
     tracker::WriteReport write(const QByteArray& document)
     {

@@ -1,6 +1,7 @@
 // What the tracker answers besides records, the faults on the way, and requests that make no sense.
 
 #include "bench_tracker.h"
+#include "support/data_table.h"
 
 #include "tracker/event_code.h"
 #include "window/key_translator.h"
@@ -93,17 +94,14 @@ private Q_SLOTS:
 
     void answersTheTachograph_data()
     {
-        QTest::addColumn<int>("question");
-        QTest::addColumn<int>("size"); // 0: no answer
-        QTest::addColumn<int>("status");
-        QTest::newRow("state") << 1 << 37 << 0;
-        QTest::newRow("card 1") << 3 << 175 << 0;
-        QTest::newRow("card 2") << 4 << 175 << 0x20;
-        QTest::newRow("vehicle") << 5 << 119 << 0;
-        QTest::newRow("none") << 2 << 0 << 0;
-        QTest::newRow("wild") << -7 << 0 << 0;
+        DataTable<int, int, int>({"question", "size", "status"})
+            .row("state", 1, 37, 0)
+            .row("card 1", 3, 175, 0)
+            .row("card 2", 4, 175, 0x20)
+            .row("vehicle", 5, 119, 0)
+            .row("none", 2, 0, 0)
+            .row("wild", -7, 0, 0);
     }
-
     void answersTheTachograph()
     {
         QFETCH(int, question);
@@ -121,16 +119,13 @@ private Q_SLOTS:
 
     void makesTachographFiles_data()
     {
-        QTest::addColumn<int>("code");
-        QTest::addColumn<quint32>("parameter");
-        QTest::addColumn<bool>("made");
+        const DataTable<int, quint32, bool> table({"code", "parameter", "made"});
         for (int code = 0; code < 5; ++code)
-            QTest::addRow("vehicle %d", code) << code << quint32(1779000000) << true;
-        QTest::newRow("card 1") << 5 << 0xFFFFFF01 << true;
-        QTest::newRow("card 2") << 5 << 0xFFFFFF02 << false;
-        QTest::newRow("wild") << 200 << 0U << false;
+            table.row(qPrintable(QString("vehicle %1").arg(code)), code, 1779000000, true);
+        table.row("card 1", 5, 0xFFFFFF01, true)
+            .row("card 2", 5, 0xFFFFFF02, false)
+            .row("wild", 200, 0, false);
     }
-
     void makesTachographFiles()
     {
         QFETCH(int, code);
@@ -151,9 +146,7 @@ private Q_SLOTS:
         QCOMPARE(int(ready.at(7)), 0);
         QVERIFY(QByteArray(ready.constData() + 12).endsWith(".ddd"));
         QCOMPARE(bench.ask(Message::TachographFileRead, &path).first, QByteArray(1, '\1'));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QByteArray content = file.readAll();
+        const QByteArray content = readFile(path);
         QCOMPARE(quint32(content.size()), qFromLittleEndian<quint32>(ready.constData() + 8));
         int offset = 0;
         while (offset + 5 <= content.size())
@@ -163,12 +156,7 @@ private Q_SLOTS:
         QCOMPARE(bench.ask(Message::TachographFileRead, &nowhere).first, QByteArray(1, '\0'));
     }
 
-    void hasWordsForEveryEvent_data()
-    {
-        QTest::addColumn<QString>("language");
-        QTest::newRow("ru") << "ru";
-        QTest::newRow("en") << "en";
-    }
+    void hasWordsForEveryEvent_data() { DataTable<QString>({"language"}).row("ru", "ru").row("en", "en"); }
 
     void hasWordsForEveryEvent()
     {

@@ -2,6 +2,7 @@
 // them.
 
 #include "bench_tracker.h"
+#include "support/data_table.h"
 
 #include "dataset/catalogue/field_mask.h"
 
@@ -53,16 +54,13 @@ class TestTrackerRecords : public QObject
 private Q_SLOTS:
     void recordsHoldWhatTheConfigurationAsksFor_data()
     {
-        QTest::addColumn<QByteArray>("format");
-        QTest::addColumn<int>("fields");
-        QTest::addColumn<int>("switched");
-        QTest::newRow("1.0") << QByteArray("10") << 69 << 0;
-        QTest::newRow("2.0") << QByteArray("20") << 122 << 0;
-        QTest::newRow("3.0") << QByteArray("30") << 255 << 0;
-        QTest::newRow("unknown") << QByteArray("7") << 255 << 0;
-        QTest::newRow("switched to 2.0") << QByteArray("30") << 122 << 20;
+        DataTable<QByteArray, int, int>({"format", "fields", "switched"})
+            .row("1.0", "10", 69, 0)
+            .row("2.0", "20", 122, 0)
+            .row("3.0", "30", 255, 0)
+            .row("unknown", "7", 255, 0)
+            .row("switched to 2.0", "30", 122, 20);
     }
-
     void recordsHoldWhatTheConfigurationAsksFor()
     {
         QFETCH(QByteArray, format);
@@ -99,20 +97,14 @@ private Q_SLOTS:
 
     void everyRequestHasItsHeader_data()
     {
-        QTest::addColumn<int>("request");
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<int>("header");
-        const auto row = [](Message request, Message answer, int header) {
-            QTest::addRow("%u", static_cast<uint>(request)) << int(request) << int(answer) << header;
-        };
-        row(Message::RequestCurrentRecord, Message::CurrentRecord, 3);
-        row(Message::RequestRecordByNumber, Message::RecordByNumber, 3);
-        row(Message::RequestRecordByTime, Message::RecordByTime, 13);
-        row(Message::RequestRecordOfPeriod, Message::RecordOfPeriod, 13);
-        row(Message::RequestExtraPacket, Message::ExtraPacket, 2);
-        row(Message::ClearServerData, Message::ClearedRecord, 3);
+        DataTable<int, int, int>({"request", "answer", "header"})
+            .row("current", int(Message::RequestCurrentRecord), int(Message::CurrentRecord), 3)
+            .row("number", int(Message::RequestRecordByNumber), int(Message::RecordByNumber), 3)
+            .row("time", int(Message::RequestRecordByTime), int(Message::RecordByTime), 13)
+            .row("period", int(Message::RequestRecordOfPeriod), int(Message::RecordOfPeriod), 13)
+            .row("key", int(Message::RequestExtraPacket), int(Message::ExtraPacket), 2)
+            .row("cleared", int(Message::ClearServerData), int(Message::ClearedRecord), 3);
     }
-
     void everyRequestHasItsHeader()
     {
         QFETCH(int, request);

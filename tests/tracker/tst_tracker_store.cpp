@@ -1,6 +1,7 @@
 // The configuration in the tracker: read, written, refused, kept over restarts and crashes.
 
 #include "bench_tracker.h"
+#include "support/data_table.h"
 
 #include <QDomDocument>
 #include <QSignalSpy>
@@ -74,25 +75,18 @@ private Q_SLOTS:
 
     void refusesWhatIsNoConfiguration_data()
     {
-        QTest::addColumn<QByteArray>("document");
-        QTest::addColumn<QString>("reason");
-        QTest::addColumn<QString>("detail");
         const QString malformed = "wb_refused_malformed";
-        QTest::newRow("empty") << QByteArray() << malformed << "";
-        QTest::newRow("binary") << QByteArray(1000, '\x03') << malformed << "";
-        QTest::newRow("cut off") << device("<A x=\"1\"/>").chopped(5) << malformed << "";
-        QTest::newRow("two roots") << device("") + "<A/>" << malformed << "";
-        QTest::newRow("deep") << device(QByteArray("<A>").repeated(100000)) << malformed << "";
-        QTest::newRow("calibration") << QByteArray("<FUEL model=\"R-7106\"/>") << "wb_refused_root"
-                                     << "FUEL";
-        QTest::newRow("another model") << device("", "R-7107") << "wb_refused_model"
-                                       << "R-7107";
-        QTest::newRow("no model") << QByteArray("<DEVICE/>") << "wb_refused_model"
-                                  << "";
-        QTest::newRow("large") << device(QByteArray(2 << 20, ' ')) << "wb_refused_large"
-                               << "";
+        DataTable<QByteArray, QString, QString>({"document", "reason", "detail"})
+            .row("empty", {}, malformed, "")
+            .row("binary", QByteArray(1000, '\x03'), malformed, "")
+            .row("cut off", device("<A x=\"1\"/>").chopped(5), malformed, "")
+            .row("two roots", device("") + "<A/>", malformed, "")
+            .row("deep", device(QByteArray("<A>").repeated(100000)), malformed, "")
+            .row("calibration", "<FUEL model=\"R-7106\"/>", "wb_refused_root", "FUEL")
+            .row("another model", device("", "R-7107"), "wb_refused_model", "R-7107")
+            .row("no model", "<DEVICE/>", "wb_refused_model", "")
+            .row("large", device(QByteArray(2 << 20, ' ')), "wb_refused_large", "");
     }
-
     void refusesWhatIsNoConfiguration()
     {
         QFETCH(QByteArray, document);
@@ -126,15 +120,12 @@ private Q_SLOTS:
     // A crash leaves the file of the present whole, cut, or missing; what is read is never half.
     void survivesCrashes_data()
     {
-        QTest::addColumn<qint64>("present"); // bytes left of it, -1 all
-        QTest::addColumn<qint64>("backup");
-        QTest::addColumn<QByteArray>("expected");
-        QTest::newRow("clean") << qint64(-1) << qint64(-1) << QByteArray("second");
-        QTest::newRow("present cut") << qint64(90) << qint64(-1) << QByteArray("first");
-        QTest::newRow("present empty") << qint64(0) << qint64(-1) << QByteArray("first");
-        QTest::newRow("both cut") << qint64(90) << qint64(40) << QByteArray("TRANS");
+        DataTable<qint64, qint64, QByteArray>({"present", "backup", "expected"})
+            .row("clean", -1, -1, "second")
+            .row("present cut", 90, -1, "first")
+            .row("present empty", 0, -1, "first")
+            .row("both cut", 90, 40, "TRANS");
     }
-
     void survivesCrashes()
     {
         QFETCH(qint64, present);

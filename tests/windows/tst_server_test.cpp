@@ -1,14 +1,12 @@
 // The server test against real servers on the loopback interface.
 
+#include "support/data_table.h"
 #include "windows/server_test.h"
 
-#include <QApplication>
 #include <QHostInfo>
-#include <QLabel>
-#include <QProgressBar>
-#include <QSignalSpy>
 #include <QTcpServer>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 
 class TestServerTest : public QObject
 {
@@ -64,11 +62,10 @@ private Q_SLOTS:
 
     void failureTakesTheWholeLimit_data()
     {
-        QTest::addColumn<QString>("address");
-        QTest::addColumn<int>("beyondPort");
-        QTest::newRow("closed port") << here_ << 0;
-        QTest::newRow("empty address") << QString() << 0;
-        QTest::newRow("port that wraps around to an open one") << here_ << 65536;
+        DataTable<QString, int>({"address", "beyondPort"})
+            .row("closed port", here_, 0)
+            .row("empty address", {}, 0)
+            .row("port that wraps around to an open one", here_, 65536);
     }
     void failureTakesTheWholeLimit()
     {

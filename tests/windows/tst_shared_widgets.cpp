@@ -1,32 +1,17 @@
 // The widgets and dialogs that windows and pages share.
 
+#include "support/brackets.h"
 #include "windows/form_io_progress.h"
 #include "windows/form_param_about.h"
 #include "windows/vlk_combobox.h"
 #include "windows/vlk_dblslider2.h"
 
-#include <QApplication>
-#include <QLabel>
-#include <QMouseEvent>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QTest>
-#include <QTextEdit>
-#include <QTranslator>
+#include <QtTest>
+#include <QtWidgets>
 
 #include <functional>
 
 namespace {
-
-// Shows every key in a made-up language.
-struct Marker : QTranslator
-{
-    QString translate(const char*, const char* key, const char*, int) const override
-    {
-        return "<" + QString(key) + ">";
-    }
-};
 
 // Does to a slider what the steps say: "range 0 5 200; value1 40; press 40; move 50; release".
 void run(VLK_DblSlider2& slider, const QString& steps)
@@ -256,8 +241,7 @@ private Q_SLOTS:
         VLK_Form_IO_Progress progress;
         VLK_Form_Param_About about;
         progress.setTitleText("kept");
-        Marker marker;
-        QApplication::installTranslator(&marker);
+        const Brackets brackets;
         progress.retranslate();
         about.retranslate();
         QCOMPARE(progress.findChild<QPushButton*>("pushButton_Break")->text(), QString("<wrd_031>"));

@@ -1,6 +1,8 @@
 // The rules of the configuration document, seen through files: golden texts written by hand, our own reader,
 // and QDomDocument as a reader that is not ours.
 
+#include "support/data_table.h"
+#include "support/files.h"
 #include "xml/serialize.h"
 #include "xml/xml_document.h"
 #include "xml/xml_text.h"
@@ -20,19 +22,11 @@ class TestDocument : public QObject
     Q_OBJECT
 
 private:
+    // Empty: a file that is not there yet.
     QString put(const QByteArray& content)
     {
-        QString path = folder_.filePath(QString::number(++files_) + ".xml");
-        QFile file(path);
-        if (!content.isEmpty() && (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()))
-            qFatal("cannot prepare a file");
-        return path;
-    }
-
-    static QByteArray contentOf(const QString& path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : "no file";
+        const QString path = folder_.filePath(QString::number(++files_) + ".xml");
+        return content.isEmpty() ? path : writeFile(path, content);
     }
 
     // What the file holds after a load and a save of everything in it.
@@ -40,7 +34,7 @@ private:
     {
         const QString path = put(content);
         closeDocument(CXmlSection(path, "DEVICE").document(), true);
-        return contentOf(path);
+        return readFile(path);
     }
 
     QTemporaryDir folder_;
@@ -82,10 +76,10 @@ private Q_SLOTS:
             "\t\t<Nothing />\n"
             "\t</TR_32_CK>\n"
             "</DEVICE>\n";
-        QCOMPARE(contentOf(path), golden);
+        QCOMPARE(readFile(path), golden);
 
         QDomDocument independent;
-        QVERIFY(independent.setContent(contentOf(path)));
+        QVERIFY(independent.setContent(readFile(path)));
         QCOMPARE(independent.documentElement().attribute("vendor"), QString::fromUtf8("Завод \"<&'>\" €"));
         QCOMPARE(independent.elementsByTagName("Name").at(0).toElement().text(), QString("a<b&c"));
 
@@ -97,31 +91,23 @@ private Q_SLOTS:
     // What the reader makes of a file, seen in how the writer puts it back.
     void resaves_data()
     {
-        QTest::addColumn<QByteArray>("body");
-        QTest::addColumn<QByteArray>("written");
-
-        QTest::newRow("empty elements are text elements")
-            << QByteArray("<A/> <B></B>") << QByteArray("\t<A />\n\t<B />\n");
-        QTest::newRow("white space keeps an element")
-            << QByteArray("<A> </A>") << QByteArray("\t<A>\n\t</A>\n");
-        QTest::newRow("an attribute keeps an element")
-            << QByteArray("<A a='1'/>") << QByteArray("\t<A a=\"1\">\n\t</A>\n");
-        QTest::newRow("children of a text element follow it")
-            << QByteArray("<A>text<B>\n</B></A>") << QByteArray("\t<A>text</A>\n\t<B>\n\t</B>\n");
-        QTest::newRow("text is trimmed, the last piece counts")
-            << QByteArray("<A> one <![CDATA[ two ]]></A>") << QByteArray("\t<A>two</A>\n");
-        QTest::newRow("one decoding after the parser")
-            << QByteArray("<A v='&amp;lt;_33_&amp;nbsp;&amp;amp;quot;'>\n</A><B>&amp;apos;_33_</B>")
-            << QByteArray("\t<A v=\"&lt;! &quot;\">\n\t</A>\n\t<B>&apos;!</B>\n");
-        QTest::newRow("names of the format") << QByteArray("<A_32_B_-9_ a_32_='1'/>")
-                                             << QByteArray("\t<A_32_B_-9_ a_32_=\"1\">\n\t</A_32_B_-9_>\n");
-        QTest::newRow("the last of two like attributes, in the place of the first")
-            << QByteArray("<A a='1' b='2' a='3'/>") << QByteArray("\t<A a=\"3\" b=\"2\">\n\t</A>\n");
-        QTest::newRow("long values of elements nobody opens")
-            << "<A v='" + QByteArray(10000, 'x') + "'/>"
-            << "\t<A v=\"" + QByteArray(10000, 'x') + "\">\n\t</A>\n";
+        DataTable<QByteArray, QByteArray>({"body", "written"})
+            .row("empty elements are text elements", "<A/> <B></B>", "\t<A />\n\t<B />\n")
+            .row("white space keeps an element", "<A> </A>", "\t<A>\n\t</A>\n")
+            .row("an attribute keeps an element", "<A a='1'/>", "\t<A a=\"1\">\n\t</A>\n")
+            .row("children of a text element follow it", "<A>text<B>\n</B></A>",
+                 "\t<A>text</A>\n\t<B>\n\t</B>\n")
+            .row("text is trimmed, the last piece counts", "<A> one <![CDATA[ two ]]></A>", "\t<A>two</A>\n")
+            .row("one decoding after the parser",
+                 "<A v='&amp;lt;_33_&amp;nbsp;&amp;amp;quot;'>\n</A><B>&amp;apos;_33_</B>",
+                 "\t<A v=\"&lt;! &quot;\">\n\t</A>\n\t<B>&apos;!</B>\n")
+            .row("names of the format", "<A_32_B_-9_ a_32_='1'/>",
+                 "\t<A_32_B_-9_ a_32_=\"1\">\n\t</A_32_B_-9_>\n")
+            .row("the last of two like attributes, in the place of the first", "<A a='1' b='2' a='3'/>",
+                 "\t<A a=\"3\" b=\"2\">\n\t</A>\n")
+            .row("long values of elements nobody opens", "<A v='" + QByteArray(10000, 'x') + "'/>",
+                 "\t<A v=\"" + QByteArray(10000, 'x') + "\">\n\t</A>\n");
     }
-
     void resaves()
     {
         QFETCH(QByteArray, body);
@@ -147,22 +133,18 @@ private Q_SLOTS:
     // A value set on an element, in the next section on it, in the file and after the way through the file.
     void carriesTexts_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("carried");
         const QString cyrillic(300, QChar(0x0436));
-        QTest::newRow("254 bytes") << cyrillic.left(254) << cyrillic.left(254);
-        QTest::newRow("255 bytes") << QString(255, '1') << QString(255, '1');
-        QTest::newRow("256 bytes") << QString(256, '1') << QString(255, '1');
-        QTest::newRow("10,000 bytes") << QString(10000, 'x') << QString(255, 'x');
-        QTest::newRow("300 letters") << cyrillic << cyrillic.left(255);
-        QTest::newRow("outside the encoding") << QString::fromUtf8("∞ and 😀") << "? and ?";
-        QTest::newRow("lone surrogate") << QString(QChar(0xD83D)) + "a"
-                                        << "?a";
-        QTest::newRow("NUL ends it") << QString::fromLatin1("ab\0cd", 5) << "ab";
-        QTest::newRow("markup") << "<![CDATA[ ]]>&#1;\"'"
-                                << "<![CDATA[ ]]>&#1;\"'";
+        DataTable<QString, QString>({"text", "carried"})
+            .row("254 bytes", cyrillic.left(254), cyrillic.left(254))
+            .row("255 bytes", QString(255, '1'), QString(255, '1'))
+            .row("256 bytes", QString(256, '1'), QString(255, '1'))
+            .row("10,000 bytes", QString(10000, 'x'), QString(255, 'x'))
+            .row("300 letters", cyrillic, cyrillic.left(255))
+            .row("outside the encoding", QString::fromUtf8("∞ and 😀"), "? and ?")
+            .row("lone surrogate", QString(QChar(0xD83D)) + "a", "?a")
+            .row("NUL ends it", QString::fromLatin1("ab\0cd", 5), "ab")
+            .row("markup", "<![CDATA[ ]]>&#1;\"'", "<![CDATA[ ]]>&#1;\"'");
     }
-
     void carriesTexts()
     {
         QFETCH(QString, text);
@@ -187,26 +169,23 @@ private Q_SLOTS:
         QCOMPARE(group->getString("after"), QString("2"));
         QCOMPARE(document.root()->getString("Name"), carried);
         QDomDocument independent;
-        QVERIFY(independent.setContent(contentOf(path)));
+        QVERIFY(independent.setContent(readFile(path)));
         QCOMPARE(independent.elementsByTagName("GROUP").at(0).toElement().attribute("text"), carried);
     }
 
     void readsNumbers_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("whole");
-        QTest::addColumn<double>("real");
-        QTest::newRow("number") << "4000" << 4000 << 4000.0;
-        QTest::newRow("leading blanks and sign") << "  -12.5" << -12 << -12.5;
-        QTest::newRow("plus") << "+3e2x" << 3 << 300.0;
-        QTest::newRow("tail") << "12abc" << 12 << 12.0;
-        QTest::newRow("none") << "abc" << 0 << 0.0;
-        QTest::newRow("empty") << "" << 0 << 0.0;
-        QTest::newRow("comma") << "1,5" << 1 << 1.0;
-        QTest::newRow("not finite") << "inf" << 0 << 0.0;
-        QTest::newRow("32 bits") << "4294967295" << -1 << 4294967295.0;
+        DataTable<QString, int, double>({"text", "whole", "real"})
+            .row("number", "4000", 4000, 4000.0)
+            .row("leading blanks and sign", "  -12.5", -12, -12.5)
+            .row("plus", "+3e2x", 3, 300.0)
+            .row("tail", "12abc", 12, 12.0)
+            .row("none", "abc", 0, 0.0)
+            .row("empty", "", 0, 0.0)
+            .row("comma", "1,5", 1, 1.0)
+            .row("not finite", "inf", 0, 0.0)
+            .row("32 bits", "4294967295", -1, 4294967295.0);
     }
-
     void readsNumbers()
     {
         QFETCH(QString, text);
@@ -237,7 +216,7 @@ private Q_SLOTS:
         const CXmlSection after(root->document(), root->document()->node(nullptr, "DEVICE"));
         QCOMPARE(after.getString("d"), QString("second"));
         document.save();
-        QCOMPARE(contentOf(path),
+        QCOMPARE(readFile(path),
                  declaration + "<DEVICE a=\"1\" d=\"second\">\n\t<b>5</b>\n\t<c>?</c>\n</DEVICE>\n");
     }
 
@@ -256,7 +235,7 @@ private Q_SLOTS:
         QCOMPARE(document.root()->child("A")->getInt("a", 9), 9);
         document.root()->clear();
         document.save();
-        QCOMPARE(contentOf(path), declaration + "<DEVICE>\n</DEVICE>\n");
+        QCOMPARE(readFile(path), declaration + "<DEVICE>\n</DEVICE>\n");
     }
 
     void findsEntriesInOrder()
@@ -278,26 +257,24 @@ private Q_SLOTS:
 
     void survivesBadFiles_data()
     {
-        QTest::addColumn<QByteArray>("content");
         QByteArray binary;
         for (int i = 0; i < 5000; ++i)
             binary += static_cast<char>(i * i >> 3);
-        QTest::newRow("truncated") << QByteArray("<DEVICE a='1'><TRACK b='2'");
-        QTest::newRow("one blank") << QByteArray(" ");
-        QTest::newRow("no element") << declaration;
-        QTest::newRow("two roots") << QByteArray("<DEVICE/><DEVICE/>");
-        QTest::newRow("binary") << binary;
-        QTest::newRow("NULs") << QByteArray(1000, '\0');
-        QTest::newRow("100,000 levels")
-            << QByteArray("<A>").repeated(100000) + QByteArray("</A>").repeated(100000);
-        QTest::newRow("declared utf-16") << QByteArray("<?xml version='1.0' encoding='utf-16'?><DEVICE/>");
-        QTest::newRow("entities that grow") << QByteArray(
-            "<!DOCTYPE D [<!ENTITY a 'aaaa'><!ENTITY b '&a;&a;'>]><DEVICE a='&b;'>&b;</DEVICE>");
-        QTest::newRow("declarations that nest")
-            << "<!DOCTYPE D [<!ELEMENT D " + QByteArray("(").repeated(1000000) + ">]><DEVICE/>";
-        QTest::newRow("too long") << "<DEVICE>" + QByteArray(CSerialize::maxFileSize, ' ') + "</DEVICE>";
+        DataTable<QByteArray>({"content"})
+            .row("truncated", "<DEVICE a='1'><TRACK b='2'")
+            .row("one blank", " ")
+            .row("no element", declaration)
+            .row("two roots", "<DEVICE/><DEVICE/>")
+            .row("binary", binary)
+            .row("NULs", QByteArray(1000, '\0'))
+            .row("100,000 levels", QByteArray("<A>").repeated(100000) + QByteArray("</A>").repeated(100000))
+            .row("declared utf-16", "<?xml version='1.0' encoding='utf-16'?><DEVICE/>")
+            .row("entities that grow",
+                 "<!DOCTYPE D [<!ENTITY a 'aaaa'><!ENTITY b '&a;&a;'>]><DEVICE a='&b;'>&b;</DEVICE>")
+            .row("declarations that nest",
+                 "<!DOCTYPE D [<!ELEMENT D " + QByteArray("(").repeated(1000000) + ">]><DEVICE/>")
+            .row("too long", "<DEVICE>" + QByteArray(CSerialize::maxFileSize, ' ') + "</DEVICE>");
     }
-
     void survivesBadFiles()
     {
         QFETCH(QByteArray, content);
@@ -311,14 +288,14 @@ private Q_SLOTS:
         root->setChildValue("b", "c");
         root->clear();
         document.save();
-        QVERIFY(contentOf(path) == content);
+        QVERIFY(readFile(path) == content);
     }
 
     void opensWhatIsNoDocumentYet()
     {
         const QString path = put({});
         QVERIFY(XmlDocument(path, "DEVICE").isOpen());
-        QCOMPARE(contentOf(path), QByteArray());
+        QVERIFY(readFile(path).isEmpty());
         QVERIFY(XmlDocument(path, "DEVICE").isOpen());
         XmlDocument inMemory(QString(), "DEVICE");
         inMemory.root()->child("A")->child("B", 3);
@@ -329,7 +306,7 @@ private Q_SLOTS:
         XmlDocument document(other, "DEVICE");
         QCOMPARE(document.root()->getInt("a", 9), 9);
         document.save();
-        QCOMPARE(contentOf(other), declaration + "<DEVICE>\n</DEVICE>\n");
+        QCOMPARE(readFile(other), declaration + "<DEVICE>\n</DEVICE>\n");
     }
 };
 

@@ -1,6 +1,8 @@
 // Saving never destroys: whatever stops it, the old document or the new one is there, whole. Each save runs
 // in a process of its own, which may lose its rights, its disk space or its life.
 
+#include "support/data_table.h"
+#include "support/files.h"
 #include "xml/xml_document.h"
 
 #include <QTemporaryDir>
@@ -63,21 +65,13 @@ private:
         folder_ = std::make_unique<QTemporaryDir>(
             (memory.exists() ? memory : QDir::temp()).filePath("tst_saving_XXXXXX"));
         path_ = folder_->filePath("file.xml");
-        QFile file(path_);
-        const QByteArray old = documentWith(groups);
-        if (!file.open(QIODevice::WriteOnly) || file.write(old) != old.size())
-            qFatal("cannot prepare a file");
-        file.close();
+        writeFile(path_, documentWith(groups));
         if (chmod(qPrintable(path_), fileRights) != 0 ||
             chmod(qPrintable(folder_->path()), folderRights) != 0)
             qFatal("cannot set rights");
     }
 
-    QByteArray content(const QString& name = "file.xml") const
-    {
-        QFile file(folder_->filePath(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : "no file";
-    }
+    QByteArray content(const QString& name = "file.xml") const { return readFile(folder_->filePath(name)); }
 
     QStringList strays() const
     {
@@ -92,31 +86,25 @@ private:
 private Q_SLOTS:
     void savesWhatItMay_data()
     {
-        QTest::addColumn<int>("folderRights");
-        QTest::addColumn<int>("fileRights");
-        QTest::addColumn<int>("old");
-        QTest::addColumn<int>("now");
-        QTest::addColumn<int>("diskSpace");
-        QTest::addColumn<bool>("saved");
         const int any = 1 << 20;
         const int open = openFolder;
         const int closed = closedFolder;
-        QTest::newRow("over an old file") << open << 0666 << 9 << 5 << any << true;
-        QTest::newRow("over an empty file") << open << 0666 << 0 << 5 << any << true;
-        QTest::newRow("closed folder, longer") << closed << 0666 << 5 << 9 << any << true;
-        QTest::newRow("closed folder, shorter") << closed << 0666 << 9 << 5 << any << true;
-        QTest::newRow("closed folder, empty file") << closed << 0666 << 0 << 5 << any << true;
-        QTest::newRow("closed folder, closed file") << closed << 0444 << 9 << 5 << any << false;
-        QTest::newRow("closed file") << open << 0444 << 9 << 5 << any << false;
-        QTest::newRow("closed empty file") << open << 0444 << 0 << 5 << any << false;
-        QTest::newRow("disk full") << open << 0666 << 9 << 50 << 600 << false;
-        QTest::newRow("disk full, both too long") << open << 0666 << 90 << 50 << 600 << false;
-        QTest::newRow("disk full, closed folder") << closed << 0666 << 9 << 50 << 600 << false;
-        QTest::newRow("disk full, closed folder, empty file") << closed << 0666 << 0 << 50 << 600 << false;
-        QTest::newRow("disk full, closed folder, both too long")
-            << closed << 0666 << 90 << 50 << 600 << false;
+        DataTable<int, int, int, int, int, bool>(
+            {"folderRights", "fileRights", "old", "now", "diskSpace", "saved"})
+            .row("over an old file", open, 0666, 9, 5, any, true)
+            .row("over an empty file", open, 0666, 0, 5, any, true)
+            .row("closed folder, longer", closed, 0666, 5, 9, any, true)
+            .row("closed folder, shorter", closed, 0666, 9, 5, any, true)
+            .row("closed folder, empty file", closed, 0666, 0, 5, any, true)
+            .row("closed folder, closed file", closed, 0444, 9, 5, any, false)
+            .row("closed file", open, 0444, 9, 5, any, false)
+            .row("closed empty file", open, 0444, 0, 5, any, false)
+            .row("disk full", open, 0666, 9, 50, 600, false)
+            .row("disk full, both too long", open, 0666, 90, 50, 600, false)
+            .row("disk full, closed folder", closed, 0666, 9, 50, 600, false)
+            .row("disk full, closed folder, empty file", closed, 0666, 0, 50, 600, false)
+            .row("disk full, closed folder, both too long", closed, 0666, 90, 50, 600, false);
     }
-
     void savesWhatItMay()
     {
         QFETCH(int, folderRights);
@@ -143,15 +131,13 @@ private Q_SLOTS:
 
     void survivesAKill_data()
     {
-        QTest::addColumn<int>("folderRights");
-        QTest::addColumn<int>("old");
-        QTest::newRow("over an old file") << int(openFolder) << 9;
-        QTest::newRow("over an empty file") << int(openFolder) << 0;
-        QTest::newRow("in place, longer") << int(closedFolder) << 9;
-        QTest::newRow("in place, shorter") << int(closedFolder) << 40;
-        QTest::newRow("in place, empty file") << int(closedFolder) << 0;
+        DataTable<int, int>({"folderRights", "old"})
+            .row("over an old file", int(openFolder), 9)
+            .row("over an empty file", int(openFolder), 0)
+            .row("in place, longer", int(closedFolder), 9)
+            .row("in place, shorter", int(closedFolder), 40)
+            .row("in place, empty file", int(closedFolder), 0);
     }
-
     // The process is killed before its first call of the system, after its first, after its second...
     void survivesAKill()
     {

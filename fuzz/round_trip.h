@@ -1,0 +1,54 @@
+#pragma once
+
+// A telemetry file, however broken: what is read from it, written and read again, is the same.
+
+#include "telemetry/files/telemetry_pages.h"
+
+#include <QBuffer>
+
+#include <cmath>
+#include <cstdlib>
+
+namespace vlk {
+
+inline bool sameValue(const TmiPage_Zeta3& a, const TmiPage_Zeta3& b, ElementIndex index)
+{
+    return !a.has(index) || a.raw(index) == b.raw(index) ||
+           (std::isnan(a.number(index)) && std::isnan(b.number(index)));
+}
+
+inline bool samePage(const TmiPage_Zeta3& a, const TmiPage_Zeta3& b)
+{
+    bool same = a.mask() == b.mask() && a.number() == b.number() && a.isExtra() == b.isExtra();
+    for (int i = 0; i < kElementCount; ++i)
+        same = same && sameValue(a, b, static_cast<ElementIndex>(i));
+    return same;
+}
+
+template <class Read>
+TelemetryContents readFrom(Read read, QByteArray bytes)
+{
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    return read(buffer);
+}
+
+// Gives what the first reading found.
+template <class Read, class Write>
+TelemetryContents roundTrip(const std::uint8_t* data, std::size_t size, Read read, Write write)
+{
+    TelemetryContents first =
+        readFrom(read, QByteArray(reinterpret_cast<const char*>(data), static_cast<int>(size)));
+    QBuffer file;
+    file.open(QIODevice::WriteOnly);
+    if (!write(file, first.pages, {}))
+        std::abort();
+    const TelemetryContents second = readFrom(read, file.data());
+    if (!second.damages.empty() ||
+        !std::ranges::equal(first.pages, second.pages,
+                            [](const auto& a, const auto& b) { return samePage(*a, *b); }))
+        std::abort();
+    return first;
+}
+
+} // namespace vlk
