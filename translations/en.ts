@@ -347,7 +347,7 @@
     <message id="tmizta_013"><translation>Off</translation></message>
     <message id="tmizta_014"><translation>Disconnected</translation></message>
     <message id="tmizta_015"><translation>Searching for a network</translation></message>
-    <message id="tmizta_016"><translation>Registered in the network</translation></message>
+    <message id="tmizta_016"><translation>Registered</translation></message>
     <message id="tmizta_017"><translation>GPRS connected</translation></message>
     <message id="tmizta_018"><translation>Inserted</translation></message>
     <message id="tmizta_019"><translation>Not inserted</translation></message>

@@ -193,7 +193,7 @@
     <message id="tmift4_001"><translation>Топливо</translation></message>
     <message id="tmift4_002"><translation>Датчик уровня RS-232</translation></message>
     <message id="tmift4_003"><translation>Датчики уровня RS-485</translation></message>
-    <message id="tmift4_004"><translation>Температура, °C</translation></message>
+    <message id="tmift4_004"><translation>Темп., °C</translation></message>
     <message id="tmift4_005"><translation>Частота, Гц</translation></message>
     <message id="tmift4_006"><translation>Камеры датчика расхода</translation></message>
     <message id="tmift4_007"><translation>Подача</translation></message>
@@ -347,7 +347,7 @@
     <message id="tmizta_013"><translation>Выключено</translation></message>
     <message id="tmizta_014"><translation>Отключено</translation></message>
     <message id="tmizta_015"><translation>Поиск сети</translation></message>
-    <message id="tmizta_016"><translation>Зарегистрирован в сети</translation></message>
+    <message id="tmizta_016"><translation>Зарегистрирован</translation></message>
     <message id="tmizta_017"><translation>GPRS подключён</translation></message>
     <message id="tmizta_018"><translation>Установлена</translation></message>
     <message id="tmizta_019"><translation>Не установлена</translation></message>
@@ -471,7 +471,7 @@
     <message id="tmizta_138"><translation>Двигатель</translation></message>
     <message id="tmizta_139"><translation>Глушение GSM</translation></message>
     <message id="tmizta_140"><translation>Глушение GPS</translation></message>
-    <message id="tmizta_141"><translation>Фиксация координат</translation></message>
+    <message id="tmizta_141"><translation>Фиксация места</translation></message>
     <message id="tmizta_142"><translation>Акселерометр</translation></message>
     <message id="tmizta_143"><translation>Bluetooth</translation></message>
     <message id="tmizta_144"><translation>Wi-Fi</translation></message>
@@ -537,7 +537,7 @@
     <message id="tmizta_204"><translation>Приращение времени, с</translation></message>
     <message id="tmizta_205"><translation>Акселерометр</translation></message>
     <message id="tmizta_206"><translation>Линейное ускорение&lt;val&gt;</translation></message>
-    <message id="tmizta_207"><translation>Длительность превышения порога, с</translation></message>
+    <message id="tmizta_207"><translation>Время выше порога, с</translation></message>
     <message id="tmizta_208"><translation>Макс. ускорение</translation></message>
     <message id="tmizta_209"><translation>Макс. торможение</translation></message>
     <message id="tmizta_210"><translation>Макс. боковое ускорение</translation></message>
@@ -591,7 +591,7 @@
     <message id="tmizta_258"><translation>Код ошибки</translation></message>
     <message id="tmizta_259"><translation>Расход всего, л</translation></message>
     <message id="tmizta_260"><translation>Расход за поездку, л</translation></message>
-    <message id="tmizta_261"><translation>Скорость потока, л/ч</translation></message>
+    <message id="tmizta_261"><translation>Расход, л/ч</translation></message>
     <message id="tmizta_262"><translation>Объём подачи, л</translation></message>
     <message id="tmizta_263"><translation>Скорость потока подачи, л/ч</translation></message>
     <message id="tmizta_264"><translation>Температура подачи, °C</translation></message>

@@ -48,16 +48,19 @@ void VLK_Form_Tmi_F3_Tab::setPartVisible(int part, bool visible)
 VLK_Form_Tmi_F3_Tab::Columns VLK_Form_Tmi_F3_Tab::placed(int columns) const
 {
     Columns result(columns);
-    std::vector<int> heights(columns);
+    std::vector<QSize> sizes(columns, QSize(0, 0));
     for (const bool hasRoom : {true, false}) {
         for (const Group& group : groups_) {
             if ((group.column < columns) != hasRoom)
                 continue;
-            const auto shortest = std::ranges::min_element(heights) - heights.begin();
-            const auto column = hasRoom ? group.column : shortest;
+            const QSize size = group.box->isHidden() ? QSize(0, 0) : group.box->minimumSizeHint();
+            const auto best = std::ranges::min_element(sizes, {}, [&size](const QSize& column) {
+                return std::pair(std::max(size.width() - column.width(), 0), column.height());
+            });
+            const auto column = hasRoom ? group.column : best - sizes.begin();
             result[column].push_back(group.box);
-            if (!group.box->isHidden())
-                heights[column] += group.box->minimumSizeHint().height();
+            sizes[column] = {std::max(sizes[column].width(), size.width()),
+                             sizes[column].height() + size.height()};
         }
     }
     return result;

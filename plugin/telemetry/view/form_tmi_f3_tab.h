@@ -28,8 +28,8 @@ public:
 protected:
     VLK_Form_Tmi_F3_Tab(const char* titleKey, QWidget* parent);
 
-    // Below the other groups of its column, which are counted from 0. In a narrow window a column that has no
-    // room continues the shortest one.
+    // Below the other groups of its column, which are counted from 0. In a narrow window the groups of a
+    // column that has no room continue the one that they widen least, of equal ones the shortest.
     vlk::RecordGroup* addGroup(int column, const char* objectName, const char* titleKey);
     // Below all columns.
     vlk::RecordGroup* addWideGroup(const char* objectName, const char* titleKey);
