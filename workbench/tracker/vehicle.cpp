@@ -42,7 +42,7 @@ double Vehicle::state() const
 
 double Vehicle::module1() const
 {
-    return bit(0, true) + bit(5, true) + bit(6, true) + bit(7, running());
+    return bit(0, true) + bit(2, true) + bit(5, true) + bit(6, true) + bit(7, running());
 }
 
 double Vehicle::module2() const
