@@ -49,7 +49,7 @@ void TourTest::everyStepDidWhatItShould()
 {
     QVERIFY2(exitCode_ == 0, output_.constData());
     QVERIFY2(!output_.contains("FAILED"), output_.constData());
-    QVERIFY(content("tour.txt").count("ok ") >= 21);
+    QVERIFY(content("tour.txt").count("ok ") >= 23);
 }
 
 void TourTest::configurationIsWhole()

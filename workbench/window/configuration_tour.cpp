@@ -3,11 +3,16 @@
 #include "window/languages.h"
 #include "window/write_report_text.h"
 
+#include <QComboBox>
 #include <QFile>
 #include <QGroupBox>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QScrollArea>
 #include <QSet>
 #include <QSpinBox>
+#include <QTabWidget>
+#include <QTcpServer>
 
 #include <memory>
 
@@ -112,12 +117,65 @@ void checkTaken(Tour& tour, const Notebook& book)
 
 void takePictures(Tour& tour)
 {
+    auto* tabs = Tour::find<QTabWidget>("tabWidget_Main");
     for (const QString& code : Languages::codes()) {
         tour.window().setLanguage(code);
         tour.picture(QStringLiteral("transfer-%1.png").arg(code),
                      Tour::find<QLineEdit>("lineEdit_Name")->window());
-        tour.picture(QStringLiteral("workbench-%1.png").arg(code), &tour.window());
+        for (int tab = tabs->count() - 1; tab >= 0; --tab) {
+            tabs->setCurrentIndex(tab);
+            tour.picture(QStringLiteral("workbench-%1-%2.png").arg(code).arg(tab + 1), &tour.window());
+        }
     }
+}
+
+// What the page opens beside itself, and its lower end, in both languages.
+void lookAround(Tour& tour)
+{
+    auto* operators = Tour::find<QComboBox>("Transfer_comboBox_GSM_Operator_1");
+    QWidget* page = operators;
+    while (qobject_cast<QScrollArea*>(page) == nullptr && page->parentWidget() != nullptr)
+        page = page->parentWidget();
+    auto* area = qobject_cast<QScrollArea*>(page);
+    Tour::expect(area != nullptr, QStringLiteral("the page does not scroll"));
+    const auto photograph = [&tour](const char* name, const QString& picture) {
+        tour.waitFor([name] { return Tour::findVisible(name); }, QLatin1String(name));
+        QWidget* window = Tour::findVisible(name)->window();
+        tour.picture(picture, window);
+        window->close();
+    };
+    for (const QString& code : Languages::codes()) {
+        tour.window().setLanguage(code);
+        // Automatic: the last but the one for the user's own access point.
+        operators->setCurrentIndex(operators->count() - 2);
+        Tour::press("pushButton_AutoAPN_1");
+        photograph("treeWidget_ListApn", QStringLiteral("operators-%1.png").arg(code));
+        Tour::press("pushButton_RListOperSim_1");
+        photograph("treeWidget_List", QStringLiteral("roaming-%1.png").arg(code));
+        Tour::press("pushButton_Help");
+        photograph("textBrowser_Help", QStringLiteral("help-%1.png").arg(code));
+        area->ensureVisible(0, area->widget()->height());
+        tour.picture(QStringLiteral("transfer-end-%1.png").arg(code), area->window());
+        area->ensureVisible(0, 0);
+    }
+}
+
+// A server of this machine, found by its address, so that no name has to be looked up.
+void testServer(Tour& tour)
+{
+    QTcpServer server;
+    Tour::expect(server.listen(QHostAddress::LocalHost), server.errorString());
+    Tour::find<QLineEdit>("GPRSSrv_lineEdit_IP_DNS_Main")->setText(server.serverAddress().toString());
+    Tour::find<QSpinBox>("GPRSSrv_spinBox_Port_Main")->setValue(server.serverPort());
+    QString answer;
+    tour.whenModal<QMessageBox>([&](QMessageBox& box) {
+        tour.picture(QStringLiteral("server-test.png"), &box);
+        answer = box.text();
+        box.accept();
+    });
+    Tour::press("GPRSSrv_toolButton_Test_Main");
+    tour.waitFor([&answer] { return !answer.isEmpty(); }, QStringLiteral("the answer of a server test"),
+                 60'000);
 }
 
 void closeWindow(Tour& tour)
@@ -144,6 +202,8 @@ std::vector<Tour::Step> configurationTour()
         {QStringLiteral("write it to the tracker"), [book](Tour& tour) { writeTracker(tour, *book); }},
         {QStringLiteral("compare what the tracker took"), [book](Tour& tour) { checkTaken(tour, *book); }},
         {QStringLiteral("take pictures in both languages"), takePictures},
+        {QStringLiteral("look at what the page opens"), lookAround},
+        {QStringLiteral("test a server"), testServer},
         {QStringLiteral("close the window"), closeWindow},
     };
 }

@@ -47,11 +47,9 @@ void startSave(Tour& tour, const char* button, const QString& name)
 {
     const QString path = tour.folder().filePath(name);
     QFile::remove(path);
-    tour.whenModal([path](QWidget& modal) {
-        auto* dialog = qobject_cast<QFileDialog*>(&modal);
-        Tour::expect(dialog != nullptr, QStringLiteral("no dialog asks for the name of %1").arg(path));
-        dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path);
-        QMetaObject::invokeMethod(dialog, "accept");
+    tour.whenModal<QFileDialog>([path](QFileDialog& dialog) {
+        dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path);
+        QMetaObject::invokeMethod(&dialog, "accept");
     });
     Tour::press(button);
 }
@@ -89,12 +87,10 @@ void refuseOneRecord(Tour& tour)
     const QDateTime time = timeOnShow();
     setPeriod(time, time.addSecs(1));
     QString told;
-    tour.whenModal([&](QWidget& modal) {
-        auto* box = qobject_cast<QMessageBox*>(&modal);
-        Tour::expect(box != nullptr, QStringLiteral("a period of one record was not refused"));
-        tour.picture(QStringLiteral("saving-refused.png"), box);
-        told = box->text();
-        box->accept();
+    tour.whenModal<QMessageBox>([&](QMessageBox& box) {
+        tour.picture(QStringLiteral("saving-refused.png"), &box);
+        told = box.text();
+        box.accept();
     });
     Tour::press("pushButton_SaveToFile");
     tour.waitFor([&] { return !told.isEmpty() && !isSaving(); }, QStringLiteral("a refusal"));

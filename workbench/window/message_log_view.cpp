@@ -63,6 +63,7 @@ void MessageLogView::buildBar()
         for (int i = 0; i < directions_->count(); ++i)
             directions_->setItemText(i, vlk::text(directionKeys[i]));
     });
+    directions_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     connect(directions_, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &MessageLogView::applyFilter);
 

@@ -5,7 +5,6 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -70,11 +69,9 @@ void controls(Tour& tour)
 {
     constexpr int sensorsTab = 1;
     constexpr double kilometres = 123456.75;
-    tour.whenModal([](QWidget& modal) {
-        auto* edit = modal.findChild<QDoubleSpinBox*>();
-        Tour::expect(edit != nullptr, QStringLiteral("no field for the mileage"));
-        edit->setValue(kilometres);
-        qobject_cast<QInputDialog*>(&modal)->accept();
+    tour.whenModal<QInputDialog>([](QInputDialog& dialog) {
+        dialog.setDoubleValue(kilometres);
+        dialog.accept();
     });
     Tour::press("pushButton_Run");
     tabs()->setCurrentIndex(sensorsTab);

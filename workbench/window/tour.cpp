@@ -64,23 +64,22 @@ void Tour::waitFor(const std::function<bool()>& condition, const QString& what, 
     QCoreApplication::processEvents();
 }
 
-void Tour::whenModal(const std::function<void(QWidget&)>& act)
+void Tour::whenActive(const std::function<bool(QWidget*)>& take)
 {
     constexpr int pauseMs = 20;
     auto* timer = new QTimer(&window_);
-    QObject::connect(timer, &QTimer::timeout, timer, [this, timer, act] {
+    QObject::connect(timer, &QTimer::timeout, timer, [this, timer, take] {
         QWidget* modal = QApplication::activeModalWidget();
-        if (modal == nullptr)
-            return;
         timer->stop();
-        timer->deleteLater();
         // An exception must not pass the event loop of the dialog.
         try {
-            act(*modal);
+            if (!take(modal))
+                return timer->start();
         } catch (const TourFailure& failure) {
             failureInModal_ = failure;
             modal->close();
         }
+        timer->deleteLater();
     });
     timer->start(pauseMs);
 }

@@ -43,8 +43,18 @@ public:
     void note(const QString& line);
     // Runs the event loop until the condition holds; fails the step after the time.
     void waitFor(const std::function<bool()>& condition, const QString& what, int ms = 10'000);
-    // Acts on the next modal dialog, which a step opens and which holds it up; it has to close it.
-    void whenModal(const std::function<void(QWidget&)>& act);
+    // Acts on the next modal dialog of the class, which a step opens and which holds it up; it has to close
+    // it.
+    template <class Dialog>
+    void whenModal(std::function<void(Dialog&)> act)
+    {
+        whenActive([act = std::move(act)](QWidget* modal) {
+            auto* dialog = qobject_cast<Dialog*>(modal);
+            if (dialog)
+                act(*dialog);
+            return dialog != nullptr;
+        });
+    }
     // The visible button of a name; fails the step when it is disabled.
     static void press(const char* button);
     static void expect(bool condition, const QString& otherwise);
@@ -67,6 +77,8 @@ public:
     static QWidget* findVisible(const char* name);
 
 private:
+    // Offers every modal dialog until one is taken.
+    void whenActive(const std::function<bool(QWidget*)>& take);
     void throwFailureInModal();
 
     WorkbenchWindow& window_;

@@ -116,6 +116,7 @@ VLK_Form_TMI_Production::VLK_Form_TMI_Production(EventPanel* panel, QWidget* par
     left->addStretch();
     auto* content = new QWidget;
     auto* columns = new QHBoxLayout(content);
+    columns->setContentsMargins(0, 0, 4, 0);
     columns->addLayout(left, 2);
     columns->addWidget(groups_.back().box, 3);
     auto* scroll = new QScrollArea(this);

@@ -1,6 +1,7 @@
 #include "telemetry/view/value_rows.h"
 
 #include "telemetry/text/item_text.h"
+#include "telemetry/view/value_width.h"
 
 #include <QCoreApplication>
 #include <QGridLayout>
@@ -16,21 +17,6 @@ QLabel* makeLabel(const QString& name)
     label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
     return label;
-}
-
-// Times and the words of states are longer than numbers.
-int roomFor(const Rule& rule, const QLabel* label)
-{
-    constexpr int kLetters = 18;
-    switch (rule.shape) {
-    case Shape::zonedTime:
-        return widthOfTime(label);
-    case Shape::word:
-    case Shape::enumeration:
-        return label->fontMetrics().averageCharWidth() * kLetters;
-    default:
-        return label->minimumWidth();
-    }
 }
 
 } // namespace
@@ -84,7 +70,6 @@ void ValueRows::add(QGridLayout* grid, std::span<const ValueRow> rows, int colum
         QLabel* caption = makeCaption(QString(name).replace(QLatin1String("_Value"), QLatin1String("_Text")));
         QLabel* value = makeValue(name);
         grid->addWidget(caption, at, column);
-        value->setMinimumWidth(roomFor(kItems[row.item].rule(), value));
         QLabel* unit = row.unit == nullptr ? nullptr : makeCaption(QString::fromLatin1(row.unit));
         if (unit == nullptr)
             grid->addWidget(value, at, column + 1);
@@ -101,7 +86,9 @@ void ValueRows::retranslate()
     for (const Shown& shown : shown_) {
         const QStringList parts = partsAroundValues(QCoreApplication::translate("vlk", shown.row.key));
         shown.caption->setText(parts.value(0));
-        if (shown.unit != nullptr)
+        if (shown.unit == nullptr)
+            shown.value->setMinimumWidth(widestText(shown.value->fontMetrics(), shown.row.item));
+        else
             shown.unit->setText(shown.row.unitKey != nullptr
                                     ? QCoreApplication::translate("vlk", shown.row.unitKey)
                                     : parts.value(1));
