@@ -95,6 +95,8 @@ int main(int argc, char* argv[])
         window.showMessage(vlk::text("wb_settings_damaged"));
 
     if (isTour) {
+        // It drives the file dialogs by the names of their widgets.
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         const bool good = runTour(window, line.tour);
         window.close();
         return good ? 0 : failed;

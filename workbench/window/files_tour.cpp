@@ -8,7 +8,6 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QSlider>
@@ -47,10 +46,7 @@ void startSave(Tour& tour, const char* button, const QString& name)
 {
     const QString path = tour.folder().filePath(name);
     QFile::remove(path);
-    tour.whenModal<QFileDialog>([path](QFileDialog& dialog) {
-        dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path);
-        QMetaObject::invokeMethod(&dialog, "accept");
-    });
+    tour.whenModal<QFileDialog>([path](QFileDialog& dialog) { Tour::giveName(dialog, path); });
     Tour::press(button);
 }
 

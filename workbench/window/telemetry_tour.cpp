@@ -1,10 +1,13 @@
 #include "window/telemetry_tour.h"
 
 #include "tracker/simulated_tracker.h"
+#include "window/languages.h"
 #include "window/live_telemetry.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QFile>
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -30,23 +33,24 @@ QTabWidget* tabs()
 
 void photographTabs(Tour& tour, const QString& stem)
 {
-    for (int tab = 0; tab < tabs()->count(); ++tab) {
-        tabs()->setCurrentIndex(tab);
-        tour.picture(QStringLiteral("%1-%2.png").arg(stem).arg(tab + 1), live::window());
+    for (const QString& code : Languages::codes()) {
+        tour.window().setLanguage(code);
+        for (int tab = 0; tab < tabs()->count(); ++tab) {
+            tabs()->setCurrentIndex(tab);
+            tour.picture(QStringLiteral("%1-%2-%3.png").arg(stem, code).arg(tab + 1), live::window());
+        }
     }
     tabs()->setCurrentIndex(0);
 }
 
 void openTelemetry(Tour& tour)
 {
-    tour.window().setLanguage(QStringLiteral("ru"));
     live::open(tour);
     photographTabs(tour, QStringLiteral("telemetry"));
 }
 
 void everyField(Tour& tour)
 {
-    tour.window().setLanguage(QStringLiteral("en"));
     trackerOf(tour).setFullDataSet(true);
     live::ask(tour, "pushButton_Get_Prev");
     photographTabs(tour, QStringLiteral("telemetry-full"));
@@ -122,24 +126,29 @@ void tachograph(Tour& tour)
     auto* answer = Tour::find<QTextEdit>("textEdit_Quest");
     QWidget* dialog = answer->window();
     auto* question = Tour::find<QComboBox>("comboBox_Quest");
-    for (int i = 0; i < question->count(); ++i) {
-        question->setCurrentIndex(i);
-        answer->clear();
-        Tour::press("pushButton_Quest");
-        tour.waitFor([answer] { return !answer->toPlainText().isEmpty(); },
-                     QStringLiteral("an answer of the tachograph"));
-        tour.picture(QStringLiteral("tachograph-%1.png").arg(i + 1), dialog);
-    }
-    tour.window().setLanguage(QStringLiteral("en"));
     Tour::press("pushButton_Create");
     auto* load = Tour::find<QAbstractButton>("pushButton_Load");
     tour.waitFor([load] { return load->isEnabled(); }, QStringLiteral("a file of the tachograph"));
-    Tour::find<QComboBox>("comboBox_Quest")->setCurrentIndex(1);
-    answer->clear();
-    Tour::press("pushButton_Quest");
-    tour.waitFor([answer] { return !answer->toPlainText().isEmpty(); },
-                 QStringLiteral("an answer of the tachograph"));
-    tour.picture(QStringLiteral("tachograph.png"), dialog);
+    for (const QString& code : Languages::codes()) {
+        tour.window().setLanguage(code);
+        for (int i = 0; i < question->count(); ++i) {
+            question->setCurrentIndex(i);
+            answer->clear();
+            Tour::press("pushButton_Quest");
+            tour.waitFor([answer] { return !answer->toPlainText().isEmpty(); },
+                         QStringLiteral("an answer of the tachograph"));
+            tour.picture(QStringLiteral("tachograph-%1-%2.png").arg(code).arg(i + 1), dialog);
+        }
+    }
+    const QString path = tour.folder().filePath(QStringLiteral("card.ddd"));
+    QFile::remove(path);
+    tour.whenModal<QFileDialog>([path](QFileDialog& fileDialog) { Tour::giveName(fileDialog, path); });
+    auto* told = Tour::find<QTextEdit>("textEdit_File");
+    const QString before = told->toPlainText();
+    Tour::press("pushButton_Load");
+    tour.waitFor([&] { return QFile::exists(path) && told->toPlainText() != before; },
+                 QStringLiteral("a file fetched from the tachograph"));
+    tour.picture(QStringLiteral("tachograph-file.png"), dialog);
     dialog->close();
 }
 

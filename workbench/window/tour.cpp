@@ -3,6 +3,8 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QSaveFile>
 #include <QThread>
 #include <QTimer>
@@ -95,6 +97,14 @@ void Tour::press(const char* button)
     auto* found = find<QAbstractButton>(button);
     expect(found->isEnabled(), QStringLiteral("%1 is disabled").arg(QLatin1String(button)));
     found->click();
+}
+
+void Tour::giveName(QFileDialog& dialog, const QString& path)
+{
+    auto* edit = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    expect(edit != nullptr, QStringLiteral("the file dialog is not Qt's own"));
+    edit->setText(path);
+    QMetaObject::invokeMethod(&dialog, "accept");
 }
 
 void Tour::expect(bool condition, const QString& otherwise)

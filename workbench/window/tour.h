@@ -15,6 +15,8 @@
 #include <stdexcept>
 #include <vector>
 
+class QFileDialog;
+
 struct TourFailure : std::runtime_error
 {
     explicit TourFailure(const QString& what) : std::runtime_error(what.toStdString()) {}
@@ -57,6 +59,8 @@ public:
     }
     // The visible button of a name; fails the step when it is disabled.
     static void press(const char* button);
+    // Types the name into a dialog of Qt's own and accepts it.
+    static void giveName(QFileDialog& dialog, const QString& path);
     static void expect(bool condition, const QString& otherwise);
     // Leaves files in the folder.
     void save(const QString& name, const QByteArray& content);
