@@ -68,6 +68,10 @@ private Q_SLOTS:
     void opening()
     {
         sendRecord(numbered(9));
+        const vlk::IdPair key{1, 2};
+        const qint8 signal = -60;
+        child<QLineEdit>("lineEdit_TM")->setText("000189ABCDEF");
+        host.send(Message::RfidNumber, &key, &signal);
         host.send(Message::CloseWindows);
         QVERIFY(window->isHidden());
         openAgain();
@@ -77,6 +81,10 @@ private Q_SLOTS:
         QVERIFY(child<QWidget>("frame_TMI_Title")->isHidden());
         QVERIFY(child<QWidget>("groupBox_Btn_Guard")->isHidden());
         QCOMPARE(text("label_Event_NumPage_Value"), QString());
+        // Nothing of another vehicle's driver is left.
+        for (const char* field : {"lineEdit_TM", "lineEdit_RFID"})
+            QCOMPARE(child<QLineEdit>(field)->text(), QString());
+        QCOMPARE(child<QSpinBox>("spinBox_RFID")->value(), -128);
         QVERIFY(!isOn("pushButton_Get_Prev") && !isOn("pushButton_Get_Next"));
         const auto time = [this](const char* name) { return child<QDateTimeEdit>(name)->dateTime(); };
         QCOMPARE(time("dateTimeEdit_First").secsTo(time("dateTimeEdit_Last")), 3600LL);

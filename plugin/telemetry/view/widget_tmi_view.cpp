@@ -120,6 +120,9 @@ void VLK_Widget_Tmi_View::open(const QString& configurationPath)
     ui_->dateTimeEdit_First->setDateTime(present.addSecs(-kSecondsPerHour));
 
     pages_.showNothing();
+    ui_->lineEdit_TM->clear();
+    ui_->lineEdit_RFID->clear();
+    ui_->spinBox_RFID->setValue(ui_->spinBox_RFID->minimum());
     ui_->groupBox_Btn_Guard->hide();
     setTitle();
     show();
