@@ -9,6 +9,11 @@ namespace {
 
 constexpr const char* kNumber = "label_Event_NumPage_Value";
 
+QWidget* form()
+{
+    return window()->findChild<QStackedWidget*>(QStringLiteral("stackedWidget"))->currentWidget();
+}
+
 } // namespace
 
 void open(Tour& tour)
@@ -36,17 +41,17 @@ QString number()
 
 QString textOf(const char* label)
 {
-    const auto* found = window()->findChild<QLabel*>(QLatin1String(label));
-    Tour::expect(found != nullptr, QStringLiteral("no label named %1").arg(QLatin1String(label)));
+    const QString name = QLatin1String(label);
+    const auto* found = form()->findChild<QLabel*>(name);
+    if (found == nullptr)
+        found = window()->findChild<QLabel*>(name);
+    Tour::expect(found != nullptr, QStringLiteral("no label named %1").arg(name));
     return found->text();
 }
 
 QString page()
 {
-    return window()
-        ->findChild<QStackedWidget*>(QStringLiteral("stackedWidget"))
-        ->currentWidget()
-        ->objectName();
+    return form()->objectName();
 }
 
 void ask(Tour& tour, const char* button)

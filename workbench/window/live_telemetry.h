@@ -4,8 +4,6 @@
 
 #include "window/tour.h"
 
-class QStackedWidget;
-
 namespace live {
 
 void open(Tour& tour);
@@ -14,6 +12,7 @@ void close(Tour& tour);
 QWidget* window();
 // Of the record on show.
 QString number();
+// Of the form on show, or beside it; the forms share names.
 QString textOf(const char* label);
 // Object name of the content form on show: "page_Zeta3" and so on.
 QString page();
