@@ -1,10 +1,10 @@
 #include "xml/replace_file.h"
 
+#include "base/whole_file.h"
 #include "xml/xml_log.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #ifdef Q_OS_UNIX
 #include <unistd.h>
@@ -56,10 +56,8 @@ bool replaceFile(const QString& path, const QByteArray& document)
     if (before.isFile() && before.size() == 0 && before.isWritable() && !before.isSymLink())
         QFile::remove(path);
 
-    // The commit alone does not notice that the last buffer went out in part; the flush does.
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(document) == document.size() && file.flush() &&
-        file.commit())
+    if (saveWhole(file, document))
         return true;
     QString error;
     if (overwrite(path, document, &error))

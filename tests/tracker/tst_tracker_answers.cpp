@@ -2,6 +2,7 @@
 
 #include "bench_tracker.h"
 #include "support/data_table.h"
+#include "support/full_disk.h"
 
 #include "tracker/event_code.h"
 #include "window/key_translator.h"
@@ -154,6 +155,8 @@ private Q_SLOTS:
         QCOMPARE(offset, content.size());
         QString nowhere;
         QCOMPARE(bench.ask(Message::TachographFileRead, &nowhere).first, QByteArray(1, '\0'));
+        const FullDisk disk(100);
+        QCOMPARE(bench.ask(Message::TachographFileRead, &path).first, QByteArray(1, '\0'));
     }
 
     void hasWordsForEveryEvent_data() { DataTable<QString>({"language"}).row("ru", "ru").row("en", "en"); }

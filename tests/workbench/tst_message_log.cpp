@@ -1,3 +1,5 @@
+#include "support/files.h"
+#include "support/full_disk.h"
 #include "window/languages.h"
 #include "window/message_log_filter.h"
 #include "window/message_log_model.h"
@@ -239,12 +241,17 @@ private Q_SLOTS:
         const QString path = folder.filePath(QStringLiteral("log.txt"));
         QString error;
         QVERIFY(view.saveTo(path, &error));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QString text = QString::fromUtf8(file.readAll());
+        const QByteArray before = readFile(path);
+        const QString text = QString::fromUtf8(before);
         QCOMPARE(text.count(QLatin1Char('\n')), 1);
         QVERIFY(text.endsWith(QStringLiteral("\t2004\tSetHostMode\t2\n")));
         QVERIFY(!view.saveTo(folder.path(), &error) && !error.isEmpty());
+        error.clear();
+        {
+            const FullDisk disk(5);
+            QVERIFY(!view.saveTo(path, &error) && !error.isEmpty());
+        }
+        QCOMPARE(readFile(path), before);
     }
 };
 

@@ -1,4 +1,5 @@
 #include "window/data_folder.h"
+#include "window/recent_files.h"
 #include "window/settings.h"
 #include "window/workbench_window.h"
 #include "window/write_report_view.h"
@@ -7,6 +8,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QtTest>
@@ -159,7 +161,9 @@ private Q_SLOTS:
             bench.window.openFile(path, window);
             Q_EMIT list->itemActivated(list->item(0));
         }
-        QCOMPARE(windows, QVector<int>({0, 0, 1, 1}));
+        // The menu makes its entries anew while one of them is under way.
+        bench.window.findChild<RecentFiles*>()->menu()->actions().constFirst()->trigger();
+        QCOMPARE(windows, QVector<int>({0, 0, 1, 1, 1}));
         QCOMPARE(list->count(), 1);
     }
 

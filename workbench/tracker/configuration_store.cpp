@@ -1,10 +1,11 @@
 #include "tracker/configuration_store.h"
 
+#include "base/whole_file.h"
+
 #include <QDir>
 #include <QDomDocument>
 #include <QFile>
 #include <QLoggingCategory>
-#include <QSaveFile>
 #include <QTextStream>
 
 #include <algorithm>
@@ -97,9 +98,7 @@ void compare(const ConfigurationValues& before, const ConfigurationValues& after
 bool saveWhole(const QString& path, const QByteArray& document)
 {
     QSaveFile file(path);
-    // The commit alone does not notice that the last buffer went out in part; the flush does.
-    if (file.open(QIODevice::WriteOnly) && file.write(document) == document.size() && file.flush() &&
-        file.commit())
+    if (vlk::saveWhole(file, document))
         return true;
     qCWarning(lcTrackerStore) << "cannot write" << path << file.errorString();
     return false;

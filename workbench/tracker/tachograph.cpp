@@ -1,10 +1,10 @@
 #include "tracker/tachograph.h"
 
+#include "base/whole_file.h"
 #include "tracker/ddd_file.h"
 #include "tracker/driver.h"
 
 #include <QDateTime>
-#include <QSaveFile>
 #include <QtEndian>
 
 #include <cmath>
@@ -191,7 +191,7 @@ Answers Tachograph::saveFile(const QString* path) const
     bool saved = false;
     if (path && !path->isEmpty() && !file_.isEmpty()) {
         QSaveFile file(*path);
-        saved = file.open(QIODevice::WriteOnly) && file.write(file_) == file_.size() && file.commit();
+        saved = vlk::saveWhole(file, file_);
     }
     return {Answer::record(static_cast<quint8>(saved))};
 }

@@ -1,5 +1,6 @@
 #include "window/message_log_view.h"
 
+#include "base/whole_file.h"
 #include "window/line_icon.h"
 #include "window/message_log_filter.h"
 #include "window/message_log_model.h"
@@ -15,7 +16,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
-#include <QSaveFile>
 #include <QScrollBar>
 #include <QSplitter>
 #include <QTableView>
@@ -180,8 +180,7 @@ QString MessageLogView::shownText() const
 bool MessageLogView::saveTo(const QString& path, QString* error) const
 {
     QSaveFile file(path);
-    const QByteArray text = shownText().toUtf8();
-    if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit())
+    if (vlk::saveWhole(file, shownText().toUtf8()))
         return true;
     *error = vlk::text("wb_file_unwritable").arg(path, file.errorString());
     return false;

@@ -1,7 +1,7 @@
 #pragma once
 
-// The tour's steps through live telemetry: the present record on its tabs, a walk back through the archive,
-// an extra packet, the tachograph and the production page.
+// The tour's steps through live telemetry: records on their tabs, a walk back through the archive, switching,
+// keys and tags with their packets, the tachograph, the earlier protocols and the production page.
 
 #include "window/tour.h"
 

@@ -1,11 +1,12 @@
 #include "window/tour.h"
 
+#include "base/whole_file.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QLineEdit>
-#include <QSaveFile>
 #include <QThread>
 #include <QTimer>
 
@@ -116,7 +117,7 @@ void Tour::expect(bool condition, const QString& otherwise)
 void Tour::save(const QString& name, const QByteArray& content)
 {
     QSaveFile file(folder_.filePath(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit())
+    if (!vlk::saveWhole(file, content))
         throw TourFailure(QStringLiteral("cannot write %1: %2").arg(file.fileName(), file.errorString()));
 }
 

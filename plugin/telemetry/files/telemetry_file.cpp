@@ -1,5 +1,6 @@
 #include "telemetry/files/telemetry_file.h"
 
+#include "base/whole_file.h"
 #include "telemetry/files/telemetry_binary_reader.h"
 #include "telemetry/files/telemetry_binary_writer.h"
 #include "telemetry/files/telemetry_xml_reader.h"
@@ -9,7 +10,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLoggingCategory>
-#include <QSaveFile>
 #include <QStorageInfo>
 
 namespace vlk {
@@ -46,10 +46,8 @@ bool isBinary(QFile& file)
 bool saveTelemetryFile(const QString& path, TelemetryForm form, const TelemetryPages& pages,
                        const TelemetryOrigin& origin, const EventText& eventText)
 {
-    // The commit alone does not notice that the last buffer went out in part; the flush does.
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && write(file, form, pages, origin, eventText) && file.flush() &&
-        file.commit())
+    if (saveWhole(file, [&](QIODevice& device) { return write(device, form, pages, origin, eventText); }))
         return true;
     // A disk that fills in the middle of a write leaves no error text of its own.
     qCWarning(lcFiles).noquote() << "cannot save" << path << ':' << file.errorString() << "with"
