@@ -277,6 +277,28 @@ private Q_SLOTS:
         QCOMPARE(state(current()), 0);
     }
 
+    // USB is there from the moment of attaching on; a server is connected only when it has an address.
+    void recordsTellWhatIsConnected()
+    {
+        BenchTracker bench;
+        bench.tracker->setFullDataSet(true);
+        const auto usb = [](const QByteArray& record) {
+            return value<quint8>(record, element("Module1")) & 2;
+        };
+        const auto servers = [&] {
+            const QByteArray record = bench.ask(Message::RequestCurrentRecord).first.mid(3);
+            return value<quint8>(record, element("StateCnct")) >> 3 & 7;
+        };
+        QVERIFY(usb(bench.ask(Message::RequestCurrentRecord).first.mid(3)));
+        QVERIFY(!usb(bench.recordByNumber(70000)));
+        QCOMPARE(servers(), 1);
+        QVERIFY(bench
+                    .write("<DEVICE model=\"R-7106\"><TRANS><SRV1 addr=\"\"/><SRV2 addr=\"0.0.0.0\"/>"
+                           "<SRV3 addr=\"gate.example.com\"/></TRANS></DEVICE>")
+                    .accepted);
+        QCOMPARE(servers(), 4);
+    }
+
     void packetsOfKeysAndTags()
     {
         BenchTracker bench;

@@ -2,6 +2,8 @@
 
 #include <QXmlStreamReader>
 
+#include <algorithm>
+
 namespace tracker {
 
 namespace {
@@ -74,6 +76,19 @@ int ConfigurationValues::number(const QString& path, int absent) const
 {
     const auto found = values_.constFind(path);
     return found == values_.constEnd() ? absent : found->toInt();
+}
+
+int differingKeys(const ConfigurationValues& one, const ConfigurationValues& other)
+{
+    const auto lacking = [](const ConfigurationValues& values, const ConfigurationValues& in) {
+        return std::count_if(values.paths().begin(), values.paths().end(),
+                             [&in](const QString& path) { return !in.contains(path); });
+    };
+    const auto differs = [&](const QString& path) {
+        return other.contains(path) && one.text(path) != other.text(path);
+    };
+    return static_cast<int>(std::count_if(one.paths().begin(), one.paths().end(), differs) +
+                            lacking(one, other) + lacking(other, one));
 }
 
 void ConfigurationValues::add(const QString& path, const QString& value)

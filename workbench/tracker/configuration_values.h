@@ -40,4 +40,7 @@ private:
     QHash<QString, QString> values_;
 };
 
+// In how many keys the two differ; a key that only one has counts.
+int differingKeys(const ConfigurationValues& one, const ConfigurationValues& other);
+
 } // namespace tracker

@@ -26,7 +26,7 @@ RecentFiles::RecentFiles(Settings& settings, QWidget* parent)
     list_->setTextElideMode(Qt::ElideMiddle);
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list_->setContextMenuPolicy(Qt::CustomContextMenu);
-    texts_.bind([this] { list_->setAccessibleName(vlk::text("wb_recent")); });
+    texts_.bind([this] { list_->setAccessibleName(vlk::plainText("wb_recent")); });
     connect(list_, &QListWidget::itemActivated, this, [this](const QListWidgetItem* item) {
         Q_EMIT chosen(item->data(kPathRole).toString(), item->data(kWindowRole).value<TelemetryWindow>());
     });

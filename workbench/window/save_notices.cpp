@@ -1,0 +1,73 @@
+#include "window/save_notices.h"
+
+#include "window/host_session.h"
+#include "window/languages.h"
+#include "window/message_box.h"
+#include "window/plugin_windows.h"
+#include "window/recent_files.h"
+#include "window/status_line.h"
+#include "window/stored_file.h"
+#include "window/trouble_text.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+// The files for the tracker lie in the current folder under names of the plug-in's own.
+bool isForTracker(const QString& path)
+{
+    const QFileInfo file(path);
+    return file.dir() == QDir::current() && file.fileName().startsWith(QLatin1String("vlk_"));
+}
+
+// The configuration's window is modal and saves when its dialog has closed; a period is saved when all of its
+// records have come.
+bool savesAtOnce(const PluginWindows& windows)
+{
+    const QVector<QWidget*> open = windows.open();
+    return std::any_of(open.begin(), open.end(), [](const QWidget* window) { return window->isModal(); });
+}
+
+} // namespace
+
+SaveNotices::SaveNotices(HostSession& session, const PluginWindows& windows, RecentFiles& recent,
+                         StatusLine& status, QWidget* mainWindow)
+    : session_(session), recent_(recent), status_(status), mainWindow_(mainWindow),
+      watch_(mainWindow, [&windows] { return savesAtOnce(windows); })
+{
+    connect(&watch_, &SaveWatch::saved, this, &SaveNotices::tellSaved);
+    connect(&watch_, &SaveWatch::failed, this, &SaveNotices::tellFailed);
+}
+
+void SaveNotices::tellSaved(const QString& path)
+{
+    const QString shown = QDir::toNativeSeparators(path);
+    const StoredFile kind = vlk::storedFileKind(path);
+    if (kind != StoredFile::Unknown)
+        recent_.add(path, TelemetryWindow::Browser);
+    QFile file(path);
+    if (kind == StoredFile::Configuration && file.open(QIODevice::ReadOnly)) {
+        const int changes = session_.edited().changesIn(file.readAll());
+        status_.tell(StatusLine::Command, [shown, changes] {
+            return vlk::text("wb_saved_changes").arg(shown, vlk::number(changes));
+        });
+    } else {
+        status_.tell(StatusLine::Command, [shown] { return vlk::text("wb_saved").arg(shown); });
+    }
+}
+
+void SaveNotices::tellFailed(const QString& path, const QString& reason)
+{
+    if (isForTracker(path)) {
+        session_.writeNotSaved(path, reason);
+        return;
+    }
+    const auto sentence = [path = QDir::toNativeSeparators(path), reason] {
+        return vlk::sentences({reason.isEmpty() ? vlk::text("wb_save_failed").arg(path)
+                                                : vlk::text("wb_save_failed_why").arg(path, reason),
+                               vlk::text("wb_do_save")});
+    };
+    status_.tell(StatusLine::Command, sentence);
+    vlk::showWarning(sentence(), mainWindow_);
+}
