@@ -739,12 +739,11 @@
     <message id="wb_do_telemetry_file"><translation>Выберите другой файл или сохраните период из трекера ещё раз.</translation></message>
     <message id="wb_drop_hint"><translation>Файл можно перетащить в это окно.</translation></message>
     <message id="wb_edited"><translation>Открыта:</translation></message>
-    <message id="wb_edited_file"><translation>файл %1</translation></message>
-    <message id="wb_edited_new"><translation>новая конфигурация</translation></message>
-    <message id="wb_edited_none"><translation>нет конфигурации</translation></message>
-    <message id="wb_edited_tracker"><translation>конфигурация трекера</translation></message>
+    <message id="wb_edited_new"><translation>новая</translation></message>
+    <message id="wb_edited_title"><translation>%1 – конфигурация: %2</translation></message>
+    <message id="wb_edited_tracker"><translation>из трекера</translation></message>
     <message id="wb_edited_unlike"><translation>%1; отличий от трекера: %2</translation></message>
-    <message id="wb_edited_written"><translation>%1; записана, отличий от прочитанного: %2</translation></message>
+    <message id="wb_edited_written"><translation>%1; записано изменений: %2</translation></message>
     <message id="wb_event_001"><translation>Включение питания</translation></message>
     <message id="wb_event_002"><translation>Точка по времени</translation></message>
     <message id="wb_event_003"><translation>Точка по расстоянию</translation></message>

@@ -28,7 +28,7 @@ struct ConfigurationProblem
     Kind kind;
     qint64 bytes;  // that there are
     qint64 line;   // where it shows, from 1
-    qint64 column; // from 1
+    qint64 column; // of the last sign that was read, from 1
     QString found; // the root or the model that is there instead
 };
 

@@ -1,8 +1,7 @@
 #include "tracker/configuration_values.h"
 
+#include <QSet>
 #include <QXmlStreamReader>
-
-#include <algorithm>
 
 namespace tracker {
 
@@ -80,15 +79,21 @@ int ConfigurationValues::number(const QString& path, int absent) const
 
 int differingKeys(const ConfigurationValues& one, const ConfigurationValues& other)
 {
-    const auto lacking = [](const ConfigurationValues& values, const ConfigurationValues& in) {
-        return std::count_if(values.paths().begin(), values.paths().end(),
-                             [&in](const QString& path) { return !in.contains(path); });
+    const auto sectionOf = [](const QString& path) { return path.section(QLatin1Char('/'), 0, 0); };
+    const auto sectionsOf = [&](const ConfigurationValues& values) {
+        QSet<QString> sections;
+        for (const QString& path : values.paths())
+            sections.insert(sectionOf(path));
+        return sections;
     };
-    const auto differs = [&](const QString& path) {
-        return other.contains(path) && one.text(path) != other.text(path);
-    };
-    return static_cast<int>(std::count_if(one.paths().begin(), one.paths().end(), differs) +
-                            lacking(one, other) + lacking(other, one));
+    const QSet<QString> shared = sectionsOf(one).intersect(sectionsOf(other));
+    int count = 0;
+    for (const QString& path : one.paths())
+        count +=
+            shared.contains(sectionOf(path)) && (!other.contains(path) || other.text(path) != one.text(path));
+    for (const QString& path : other.paths())
+        count += shared.contains(sectionOf(path)) && !one.contains(path);
+    return count;
 }
 
 void ConfigurationValues::add(const QString& path, const QString& value)

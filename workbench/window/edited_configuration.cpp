@@ -32,6 +32,10 @@ void EditedConfiguration::beginNew()
 
 void EditedConfiguration::written(const QByteArray& document)
 {
+    if (source_ == Source::New) {
+        readFromTracker(document);
+        return;
+    }
     written_ = changesIn(document);
     tracker_ = ConfigurationValues(document);
 }
@@ -41,15 +45,17 @@ void EditedConfiguration::close()
     source_ = Source::None;
 }
 
-int EditedConfiguration::changesIn(const QByteArray& document) const
+std::optional<int> EditedConfiguration::changesIn(const QByteArray& document) const
 {
+    if (source_ == Source::New || source_ == Source::None)
+        return {};
     return tracker::differingKeys(asRead_, ConfigurationValues(document));
 }
 
 QString EditedConfiguration::text() const
 {
     if (source_ == Source::None)
-        return vlk::text("wb_edited_none");
+        return QStringLiteral("–");
     if (written_)
         return vlk::text("wb_edited_written").arg(name(), vlk::number(*written_));
     if (source_ == Source::File && tracker_)
@@ -64,7 +70,7 @@ QString EditedConfiguration::name() const
     case Source::Tracker:
         return vlk::text("wb_edited_tracker");
     case Source::File:
-        return vlk::text("wb_edited_file").arg(file_);
+        return file_;
     case Source::New:
         return vlk::text("wb_edited_new");
     case Source::None:

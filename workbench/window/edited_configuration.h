@@ -21,11 +21,11 @@ public:
     void forgetTracker() { tracker_.reset(); }
 
     // Whether writing it would set every key of a tracker without having seen what it holds.
-    bool replacesUnseen() const { return source_ == Source::New && !written_; }
-    // How many keys of the document differ from what was read; all of a new one.
-    int changesIn(const QByteArray& document) const;
+    bool replacesUnseen() const { return source_ == Source::New; }
+    // How many keys of the document differ from what was read; nothing was read of a new one.
+    std::optional<int> changesIn(const QByteArray& document) const;
 
-    // "from the tracker", "file fleet.xml, settings that differ from the tracker: 3"
+    // "from the tracker", "fleet.xml; differences from the tracker: 3"; a dash while nothing is open.
     QString text() const;
     // The same in short, for a title; empty while nothing is open.
     QString name() const;

@@ -26,6 +26,9 @@ RecentFiles::RecentFiles(Settings& settings, QWidget* parent)
     list_->setTextElideMode(Qt::ElideMiddle);
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list_->setContextMenuPolicy(Qt::CustomContextMenu);
+    // It takes what room there is, and asks for three lines.
+    list_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    list_->setMinimumHeight(fontMetrics().height() * 3);
     texts_.bind([this] { list_->setAccessibleName(vlk::plainText("wb_recent")); });
     connect(list_, &QListWidget::itemActivated, this, [this](const QListWidgetItem* item) {
         Q_EMIT chosen(item->data(kPathRole).toString(), item->data(kWindowRole).value<TelemetryWindow>());

@@ -47,14 +47,13 @@ void SaveNotices::tellSaved(const QString& path)
     if (kind != StoredFile::Unknown)
         recent_.add(path, TelemetryWindow::Browser);
     QFile file(path);
-    if (kind == StoredFile::Configuration && file.open(QIODevice::ReadOnly)) {
-        const int changes = session_.edited().changesIn(file.readAll());
-        status_.tell(StatusLine::Command, [shown, changes] {
-            return vlk::text("wb_saved_changes").arg(shown, vlk::number(changes));
-        });
-    } else {
-        status_.tell(StatusLine::Command, [shown] { return vlk::text("wb_saved").arg(shown); });
-    }
+    std::optional<int> changes;
+    if (kind == StoredFile::Configuration && file.open(QIODevice::ReadOnly))
+        changes = session_.edited().changesIn(file.readAll());
+    status_.tell(StatusLine::Command, [shown, changes] {
+        return changes ? vlk::text("wb_saved_changes").arg(shown, vlk::number(*changes))
+                       : vlk::text("wb_saved").arg(shown);
+    });
 }
 
 void SaveNotices::tellFailed(const QString& path, const QString& reason)

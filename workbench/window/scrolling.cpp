@@ -1,5 +1,6 @@
 #include "window/scrolling.h"
 
+#include <QEvent>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QScrollArea>
@@ -13,15 +14,26 @@ namespace {
 // What title bar and borders take, before there are any to be asked.
 constexpr QSize frame(8, 36);
 
+// As wide as its content, up to a part of the screen; beyond that it scrolls sideways too.
 class ColumnArea : public QScrollArea
 {
 public:
     QSize minimumSizeHint() const override
     {
-        const int width = widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
-        return {width, QScrollArea::minimumSizeHint().height()};
+        const int content = widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
+        const QScreen* screen = this->screen();
+        const int most = screen ? screen->availableSize().width() * 9 / 20 : content;
+        return {qMin(content, most), QScrollArea::minimumSizeHint().height()};
     }
     QSize sizeHint() const override { return widget()->sizeHint().expandedTo(minimumSizeHint()); }
+
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        // In another language the content may need another width.
+        if (object == widget() && event->type() == QEvent::LayoutRequest)
+            updateGeometry();
+        return QScrollArea::eventFilter(object, event);
+    }
 };
 
 } // namespace
@@ -31,7 +43,6 @@ QScrollArea* scrolling(QWidget* widget)
     auto* area = new ColumnArea;
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setWidget(widget);
     return area;
 }

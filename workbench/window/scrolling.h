@@ -9,8 +9,8 @@ class QWidget;
 
 namespace vlk {
 
-// The widget in an area without a frame that scrolls it up and down where there is no room for it, and is as
-// wide as it needs.
+// The widget in an area without a frame that scrolls it where there is no room for it. It is made as wide as
+// it needs, unless the screen is small.
 QScrollArea* scrolling(QWidget* widget);
 
 // The size that a window may have of the wanted one on a screen with so much room, its frame counted in.

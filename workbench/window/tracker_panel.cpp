@@ -3,7 +3,6 @@
 #include "tracker/configuration_values.h"
 #include "tracker/simulated_tracker.h"
 #include "window/faults_panel.h"
-#include "window/scrolling.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -11,7 +10,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QScrollArea>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -37,7 +35,7 @@ TrackerPanel::TrackerPanel(tracker::SimulatedTracker& tracker, QWidget* parent)
 {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(6, 6, 6, 6);
-    row->addWidget(vlk::scrolling(buildControls()));
+    row->addWidget(buildControls());
     row->addWidget(buildKeys(), 1);
     connect(&tracker_, &tracker::SimulatedTracker::configurationWritten, this, &TrackerPanel::showKeys);
     showKeys();

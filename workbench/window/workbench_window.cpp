@@ -31,6 +31,8 @@
 
 namespace {
 
+enum Tab { LogTab, ReportTab, TrackerTab };
+constexpr const char* tabKeys[] = {"wb_tab_log", "wb_tab_report", "wb_tab_tracker"};
 constexpr int leftWidth = 290;
 constexpr QSize usualSize(1024, 600);
 
@@ -73,11 +75,10 @@ void WorkbenchWindow::buildPanels()
     tabs_->setObjectName(QStringLiteral("tabWidget_Main"));
     for (QWidget* page : {static_cast<QWidget*>(logView_), static_cast<QWidget*>(reportView_),
                           static_cast<QWidget*>(trackerPanel_)})
-        tabs_->addTab(page, QString());
+        tabs_->addTab(vlk::scrolling(page), QString());
     texts_.bind([this] {
-        int index = 0;
-        for (const char* key : {"wb_tab_log", "wb_tab_report", "wb_tab_tracker"})
-            tabs_->setTabText(index++, vlk::text(key));
+        for (const Tab tab : {LogTab, ReportTab, TrackerTab})
+            tabs_->setTabText(tab, vlk::text(tabKeys[tab]));
     });
 
     splitter_->setObjectName(QStringLiteral("splitter_Main"));
@@ -284,7 +285,7 @@ bool WorkbenchWindow::mayReplace()
 void WorkbenchWindow::showReport(const tracker::WriteReport& report)
 {
     reportView_->setReport(report);
-    tabs_->setCurrentWidget(reportView_);
+    tabs_->setCurrentIndex(ReportTab);
     status_->tell(StatusLine::Command,
                   [report] { return vlk::summary(report).section(QLatin1Char('\n'), 0, 0); });
     if (QWidget* modal = QApplication::activeModalWidget())
@@ -296,8 +297,7 @@ void WorkbenchWindow::showEdited()
     const EditedConfiguration& edited = session_.edited();
     device_->setEdited(edited.text());
     const QString title = vlk::text("wb_title");
-    setWindowTitle(edited.name().isEmpty() ? title
-                                           : QStringLiteral("%1 – %2").arg(edited.name(), title));
+    setWindowTitle(edited.name().isEmpty() ? title : vlk::text("wb_edited_title").arg(title, edited.name()));
 }
 
 void WorkbenchWindow::changeEvent(QEvent* event)
