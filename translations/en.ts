@@ -896,6 +896,7 @@
     <message id="wb_save_failed_why"><translation>The file %1 was not saved: %2.</translation></message>
     <message id="wb_saved"><translation>Saved: %1</translation></message>
     <message id="wb_saved_changes"><translation>Saved: %1. Settings that differ from what was read: %2</translation></message>
+    <message id="wb_saved_damaged"><translation>Saved: %1. Damaged records in it: %2. Check the cable and save the period again.</translation></message>
     <message id="wb_settings_damaged"><translation>The settings file was damaged and has been put aside; the default settings hold.</translation></message>
     <message id="wb_silence"><translation>No answer from the tracker since %1. Check the cable and ask again.</translation></message>
     <message id="wb_tab_log"><translation>Message &amp;log</translation></message>

@@ -708,7 +708,7 @@
     <message id="wb_answer_damaged"><translation>повреждено, не сходится длина или заголовок</translation></message>
     <message id="wb_answer_jump"><translation>время скачет с %1 на %2</translation></message>
     <message id="wb_answer_time"><translation>невозможное время %1</translation></message>
-    <message id="wb_attach"><translation>Подключить трек&amp;ер</translation></message>
+    <message id="wb_attach"><translation>Подкл&amp;ючить трекер</translation></message>
     <message id="wb_balance"><translation>Запрос баланса</translation></message>
     <message id="wb_balance_code"><translation>Код запроса баланса: &lt;b&gt;%1&lt;/b&gt;</translation></message>
     <message id="wb_balance_none"><translation>Код запроса баланса не задан: конфигурация ещё не читалась или кода в ней нет.</translation></message>
@@ -721,7 +721,7 @@
     <message id="wb_data_temporary"><translation>В папку данных нельзя писать (%1). До закрытия программы служит временная папка.</translation></message>
     <message id="wb_data_unwritable"><translation>В папку данных нельзя писать: %1</translation></message>
     <message id="wb_description"><translation>Рабочее место настройщика трекера R-7106: конфигурация, телеметрия, журнал сообщений, имитатор трекера.</translation></message>
-    <message id="wb_detach"><translation>Отключить трек&amp;ер</translation></message>
+    <message id="wb_detach"><translation>Откл&amp;ючить трекер</translation></message>
     <message id="wb_device"><translation>Устройство</translation></message>
     <message id="wb_device_attached"><translation>Трекер подключён</translation></message>
     <message id="wb_device_capabilities"><translation>Маска:</translation></message>
@@ -774,8 +774,8 @@
     <message id="wb_fault_delay"><translation>&amp;Задержка:</translation></message>
     <message id="wb_fault_garbled"><translation>&amp;Искажённые ответы</translation></message>
     <message id="wb_fault_short"><translation>К&amp;ороткие ответы</translation></message>
-    <message id="wb_fault_silence"><translation>Н&amp;е отвечает</translation></message>
-    <message id="wb_fault_unplug"><translation>О&amp;тключиться при ответе</translation></message>
+    <message id="wb_fault_silence"><translation>&amp;Не отвечает</translation></message>
+    <message id="wb_fault_unplug"><translation>Отключиться &amp;при ответе</translation></message>
     <message id="wb_faults"><translation>Неисправности</translation></message>
     <message id="wb_faults_title"><translation>Имитатор трекера</translation></message>
     <message id="wb_faults_window"><translation>&amp;Неисправности в отдельном окне</translation></message>
@@ -819,7 +819,7 @@
     <message id="wb_menu_help"><translation>Сп&amp;равка</translation></message>
     <message id="wb_menu_telemetry"><translation>&amp;Телеметрия</translation></message>
     <message id="wb_menu_tools"><translation>&amp;Сервис</translation></message>
-    <message id="wb_mode"><translation>Ре&amp;жим:</translation></message>
+    <message id="wb_mode"><translation>Р&amp;ежим:</translation></message>
     <message id="wb_mode_0"><translation>0: обычный</translation></message>
     <message id="wb_mode_1"><translation>1: производство</translation></message>
     <message id="wb_mode_2"><translation>2: контроль</translation></message>
@@ -896,6 +896,7 @@
     <message id="wb_save_failed_why"><translation>Файл %1 не сохранён: %2.</translation></message>
     <message id="wb_saved"><translation>Сохранено: %1</translation></message>
     <message id="wb_saved_changes"><translation>Сохранено: %1. Отличий от прочитанного: %2</translation></message>
+    <message id="wb_saved_damaged"><translation>Сохранено: %1. Повреждённых записей в нём: %2. Проверьте кабель и сохраните период ещё раз.</translation></message>
     <message id="wb_settings_damaged"><translation>Файл настроек был повреждён и отложен; действуют начальные настройки.</translation></message>
     <message id="wb_silence"><translation>Ответа от трекера нет с %1. Проверьте кабель и запросите ещё раз.</translation></message>
     <message id="wb_tab_log"><translation>&amp;Журнал сообщений</translation></message>

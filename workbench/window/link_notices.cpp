@@ -36,6 +36,8 @@ LinkNotices::LinkNotices(HostSession& session, PluginWindows& windows, MessageLo
 void LinkNotices::look(vlk::Direction direction, quint32 id, const void* p1)
 {
     const auto answer = static_cast<vlk::Message>(id);
+    if (answer == vlk::Message::RequestRecordOfPeriod)
+        damagedOfPeriod_ = 0;
     if (direction != vlk::Direction::ToPlugin || !vlk::RecordCheck::carriesRecord(answer) || p1 == nullptr)
         return;
     const auto problem = check_.look(answer, *static_cast<const QByteArray*>(p1));
@@ -43,6 +45,8 @@ void LinkNotices::look(vlk::Direction direction, quint32 id, const void* p1)
         setTrouble({});
         return;
     }
+    if (damagedOfPeriod_)
+        ++*damagedOfPeriod_;
     log_.markNewest(vlk::noteOn(*problem));
     setTrouble([problem, id] { return vlk::text("wb_answer_bad").arg(id).arg(vlk::noteOn(*problem)); });
 }

@@ -22,6 +22,8 @@ public:
 
     // What stands in the status line about the tracker's answers; empty while all is well.
     QString trouble() const { return trouble_ ? trouble_() : QString(); }
+    // The period that was asked for last is saved: how many of its records cannot be right.
+    int endPeriod() { return std::exchange(damagedOfPeriod_, {}).value_or(0); }
 
 Q_SIGNALS:
     void troubleChanged();
@@ -39,4 +41,5 @@ private:
     vlk::RecordCheck check_;
     AnswerWatch watch_;
     std::function<QString()> trouble_;
+    std::optional<int> damagedOfPeriod_; // none while no period is asked for
 };

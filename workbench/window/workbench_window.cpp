@@ -148,7 +148,7 @@ void WorkbenchWindow::connectNotices()
 {
     faults_ = std::make_unique<FaultsAtHand>(session_.tracker(), windows_, this);
     linkNotices_ = std::make_unique<LinkNotices>(session_, windows_, log_, *status_, this);
-    saveNotices_ = std::make_unique<SaveNotices>(session_, windows_, *recent_, *status_, this);
+    saveNotices_ = std::make_unique<SaveNotices>(session_, *linkNotices_, windows_, *recent_, *status_, this);
     connect(linkNotices_.get(), &LinkNotices::troubleChanged, this, [this] {
         device_->setTrouble(linkNotices_->trouble());
         faults_->setTrouble(linkNotices_->trouble());
