@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QTableView>
 #include <QtTest>
 
 using tracker::Faults;
@@ -184,6 +185,10 @@ private Q_SLOTS:
                  open);
         if (said == QLatin1String("Ready"))
             QCOMPARE(bench.boxes, QStringList());
+        const auto* log = bench.window.findChild<QTableView*>(QStringLiteral("tableView_Log"))->model();
+        const QModelIndexList marked = log->match(log->index(0, MessageLogModel::Parameters), Qt::DisplayRole,
+                                                  QStringLiteral("⚠"), 1, Qt::MatchStartsWith);
+        QCOMPARE(!marked.isEmpty(), step >= Live && (faults.shortAnswers || faults.garbledAnswers));
 
         // With the cause goes what was said of it, at the latest with the next answer.
         bench.tracker().setFaults({});
