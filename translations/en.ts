@@ -702,10 +702,10 @@
     <message id="wb_about"><translation>About</translation></message>
     <message id="wb_about_data"><translation>Data folder: %1</translation></message>
     <message id="wb_about_plugin"><translation>Device plug-in: %1, version %2</translation></message>
-    <message id="wb_answer_bad"><translation>Message %1 from the tracker: %2. Do not rely on the record on show; check the cable and ask again.</translation></message>
+    <message id="wb_answer_bad"><translation>Message %1 from the tracker: %2. Do not rely on the record; check the cable and ask again.</translation></message>
     <message id="wb_answer_cut"><translation>cut short after %1&#160;B</translation></message>
     <message id="wb_answer_cut_of"><translation>cut short, %1 of %2&#160;B</translation></message>
-    <message id="wb_answer_damaged"><translation>damaged, its length or header does not fit</translation></message>
+    <message id="wb_answer_damaged"><translation>damaged</translation></message>
     <message id="wb_answer_jump"><translation>the time jumps from %1 to %2</translation></message>
     <message id="wb_answer_time"><translation>impossible time %1</translation></message>
     <message id="wb_attach"><translation>Attach the trac&amp;ker</translation></message>
@@ -865,7 +865,6 @@
     <message id="wb_read_short"><translation>Read</translation></message>
     <message id="wb_ready"><translation>Ready</translation></message>
     <message id="wb_recent"><translation>&amp;Recent files</translation></message>
-    <message id="wb_refused_cancelled"><translation>The write was cancelled.</translation></message>
     <message id="wb_refused_detached"><translation>The tracker is not connected.</translation></message>
     <message id="wb_refused_large"><translation>The file is too large for the tracker, bytes:</translation></message>
     <message id="wb_refused_malformed"><translation>The file is damaged, markup error:</translation></message>
@@ -925,6 +924,7 @@
     <message id="wb_window"><translation>Window for configurations</translation></message>
     <message id="wb_window_full"><translation>Full window</translation></message>
     <message id="wb_window_quick"><translation>Quick window</translation></message>
+    <message id="wb_write_cancelled"><translation>The write was cancelled, the tracker keeps what it had.</translation></message>
     <message id="wrd_001"><translation>Yes</translation></message>
     <message id="wrd_002"><translation>No</translation></message>
     <message id="wrd_003"><translation>OK</translation></message>

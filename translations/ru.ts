@@ -702,10 +702,10 @@
     <message id="wb_about"><translation>О программе</translation></message>
     <message id="wb_about_data"><translation>Папка данных: %1</translation></message>
     <message id="wb_about_plugin"><translation>Модуль устройства: %1, версия %2</translation></message>
-    <message id="wb_answer_bad"><translation>Сообщение %1 от трекера: %2. Показанной записи верить нельзя; проверьте кабель и запросите ещё раз.</translation></message>
+    <message id="wb_answer_bad"><translation>Сообщение %1 от трекера: %2. Записи верить нельзя; проверьте кабель и запросите ещё раз.</translation></message>
     <message id="wb_answer_cut"><translation>обрывается после %1&#160;байт</translation></message>
     <message id="wb_answer_cut_of"><translation>обрывается, %1 из %2&#160;байт</translation></message>
-    <message id="wb_answer_damaged"><translation>повреждено, не сходится длина или заголовок</translation></message>
+    <message id="wb_answer_damaged"><translation>повреждено</translation></message>
     <message id="wb_answer_jump"><translation>время скачет с %1 на %2</translation></message>
     <message id="wb_answer_time"><translation>невозможное время %1</translation></message>
     <message id="wb_attach"><translation>Подкл&amp;ючить трекер</translation></message>
@@ -865,7 +865,6 @@
     <message id="wb_read_short"><translation>Прочитать</translation></message>
     <message id="wb_ready"><translation>Готово к работе</translation></message>
     <message id="wb_recent"><translation>Не&amp;давние файлы</translation></message>
-    <message id="wb_refused_cancelled"><translation>Запись отменена.</translation></message>
     <message id="wb_refused_detached"><translation>Трекер отключён.</translation></message>
     <message id="wb_refused_large"><translation>Файл слишком велик для трекера, байт:</translation></message>
     <message id="wb_refused_malformed"><translation>Файл повреждён, ошибка разметки:</translation></message>
@@ -925,6 +924,7 @@
     <message id="wb_window"><translation>Окно для конфигурации</translation></message>
     <message id="wb_window_full"><translation>Полное окно</translation></message>
     <message id="wb_window_quick"><translation>Быстрое окно</translation></message>
+    <message id="wb_write_cancelled"><translation>Запись отменена, в трекере осталось прежнее.</translation></message>
     <message id="wrd_001"><translation>Да</translation></message>
     <message id="wrd_002"><translation>Нет</translation></message>
     <message id="wrd_003"><translation>ОК</translation></message>

@@ -153,20 +153,18 @@ void HostSession::receive(vlk::Message id, void* p1, void* p2)
 
 void HostSession::handOver(const QString& path, bool ask)
 {
-    tracker::WriteReport report;
+    QFile file(path);
     if (ask && mayReplace_ && !mayReplace_()) {
-        report.reasonKey = QStringLiteral("wb_refused_cancelled");
-        report.file = path;
-        QFile::remove(path);
-    } else {
-        QFile file(path);
-        const QByteArray document = contentOf(file);
-        report = tracker_.writeConfiguration(path);
-        if (report.accepted) {
-            edited_.written(document);
-            if (!file.remove())
-                qCWarning(lcSession) << "cannot remove" << path;
-        }
+        file.remove();
+        Q_EMIT writeCancelled();
+        return;
+    }
+    const QByteArray document = contentOf(file);
+    const tracker::WriteReport report = tracker_.writeConfiguration(path);
+    if (report.accepted) {
+        edited_.written(document);
+        if (!file.remove())
+            qCWarning(lcSession) << "cannot remove" << path;
     }
     Q_EMIT configurationWritten(report);
     Q_EMIT editedChanged();

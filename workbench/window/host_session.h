@@ -47,6 +47,8 @@ Q_SIGNALS:
     void helpRequested(const QString& page);
     // The tracker took a written file or refused it, or it did not come so far.
     void configurationWritten(const tracker::WriteReport& report);
+    // The user was asked and did not want it written; its file is gone.
+    void writeCancelled();
     void editedChanged();
 
 private:

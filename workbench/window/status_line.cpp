@@ -3,15 +3,37 @@
 #include "window/languages.h"
 
 #include <QLabel>
+#include <QPainter>
 #include <QStatusBar>
+#include <QStyle>
 
-StatusLine::StatusLine(QStatusBar* bar) : QObject(bar), label_(new QLabel(bar))
+namespace {
+
+// Shows as much of its text as there is room for, and never widens the window.
+class ElidedLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+    QSize minimumSizeHint() const override { return {0, QLabel::minimumSizeHint().height()}; }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter painter(this);
+        style()->drawItemText(
+            &painter, contentsRect(), Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
+            fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width()), foregroundRole());
+    }
+};
+
+} // namespace
+
+StatusLine::StatusLine(QStatusBar* bar) : QObject(bar), label_(new ElidedLabel(bar))
 {
     label_->setObjectName(QStringLiteral("label_Status"));
-    // A long sentence must not widen the window; the tool tip holds the whole of it.
     label_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     label_->setTextFormat(Qt::PlainText);
-    label_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     bar->setSizeGripEnabled(false);
     bar->addWidget(label_, 1);
     retranslate();

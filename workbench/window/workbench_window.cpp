@@ -130,6 +130,8 @@ void WorkbenchWindow::connectSession()
     connect(&session_.link(), &PluginLink::passed, &log_, &MessageLogModel::append);
     connect(&session_, &HostSession::helpRequested, this, &WorkbenchWindow::showHelp);
     connect(&session_, &HostSession::configurationWritten, this, &WorkbenchWindow::showReport);
+    connect(&session_, &HostSession::writeCancelled, this,
+            [this] { status_->tell(StatusLine::Command, [] { return vlk::text("wb_write_cancelled"); }); });
     connect(&session_, &HostSession::editedChanged, this, &WorkbenchWindow::showEdited);
     session_.setReplaceQuestion([this] { return mayReplace(); });
     connect(&windows_, &PluginWindows::closed, this, [this](const QWidget* window) {

@@ -103,6 +103,9 @@ void WriteReportView::showDialog(const tracker::WriteReport& report, QWidget* pa
     auto* column = new QVBoxLayout(dialog);
     column->addWidget(view, 1);
     column->addWidget(buttons);
-    vlk::resizeWithin(dialog, QSize(860, 380));
+    // A refusal has no keys to show.
+    const bool keys = !report.sameAsBefore();
+    view->table_->setVisible(keys);
+    vlk::resizeWithin(dialog, keys ? QSize(860, 380) : QSize(560, dialog->heightForWidth(560)));
     dialog->open();
 }
