@@ -2,6 +2,7 @@
 // them.
 
 #include "bench_tracker.h"
+#include "check/record_check.h"
 #include "support/data_table.h"
 
 #include "dataset/catalogue/field_mask.h"
@@ -120,6 +121,9 @@ private Q_SLOTS:
             p1 = &time;
         const Told told = bench.ask(id, p1);
         QTEST(int(told.id), "answer");
+        // What the host looks for in an answer, a sound tracker has.
+        QVERIFY(vlk::RecordCheck::carriesRecord(told.id));
+        QVERIFY(!vlk::RecordCheck().look(told.id, told.first));
         const QByteArray record = told.first.mid(header);
         QCOMPARE(at<quint16>(told.first, header == 2 ? 0 : 1), quint16(record.size()));
         const auto type = quint8(record.at(0));

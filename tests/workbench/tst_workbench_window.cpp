@@ -368,6 +368,15 @@ private Q_SLOTS:
         click(&bench.window, "checkBox_Silence");
         QTest::qWait(20);
         QVERIFY(silent());
+        // Another modal window comes over it and goes.
+        {
+            QDialog above;
+            above.setModal(true);
+            above.show();
+            QTRY_COMPARE(beside->parentWidget(), &above);
+            above.close();
+            QTRY_COMPARE(beside->parentWidget(), &modal);
+        }
         modal.close();
         QVERIFY(!beside->isVisible());
         click(&bench.window, "checkBox_Silence");

@@ -8,18 +8,15 @@
 
 FaultsAtHand::FaultsAtHand(tracker::SimulatedTracker& tracker, const PluginWindows& windows,
                            QWidget* mainWindow)
-    : tracker_(tracker), mainWindow_(mainWindow)
+    : tracker_(tracker), windows_(windows), mainWindow_(mainWindow)
 {
-    connect(&windows, &PluginWindows::opened, this, [this](QWidget* window) {
-        // Its place is known when it is on the screen.
-        if (window->isModal())
-            QMetaObject::invokeMethod(
-                this, [this, opened = QPointer<QWidget>(window)] { attachTo(opened); }, Qt::QueuedConnection);
-    });
-    connect(&windows, &PluginWindows::closed, this, [this](const QWidget* window) {
+    // The place of a window is known when it is on the screen.
+    connect(&windows_, &PluginWindows::opened, this, &FaultsAtHand::follow, Qt::QueuedConnection);
+    connect(&windows_, &PluginWindows::closed, this, [this](const QWidget* window) {
         if (window_ && window_->parentWidget() == window)
             window_->hide();
     });
+    connect(&windows_, &PluginWindows::closed, this, &FaultsAtHand::follow, Qt::QueuedConnection);
 }
 
 FaultsAtHand::~FaultsAtHand()
@@ -28,9 +25,10 @@ FaultsAtHand::~FaultsAtHand()
     delete window_;
 }
 
-void FaultsAtHand::attachTo(QWidget* modal)
+void FaultsAtHand::follow()
 {
-    if (!modal || !modal->isVisible())
+    QWidget* modal = windows_.modal();
+    if (modal == nullptr)
         return;
     const QString name = QStringLiteral("shortcut_Faults");
     if (!modal->findChild<QShortcut*>(name, Qt::FindDirectChildrenOnly)) {

@@ -30,10 +30,12 @@ public:
     void retranslate();
 
 private:
-    void attachTo(QWidget* modal);
+    // Goes to the modal window in front, if there is one.
+    void follow();
     FaultsWindow* windowOf(QWidget* owner);
 
     tracker::SimulatedTracker& tracker_;
+    const PluginWindows& windows_;
     QWidget* mainWindow_;
     QPointer<FaultsWindow> window_;
     QString trouble_;

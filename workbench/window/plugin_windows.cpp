@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QEvent>
 
+#include <algorithm>
+
 PluginWindows::PluginWindows(const QWidget* mainWindow) : mainWindow_(mainWindow)
 {
     QCoreApplication::instance()->installEventFilter(this);
@@ -15,6 +17,14 @@ QVector<QWidget*> PluginWindows::open() const
         if (window)
             windows.append(window);
     return windows;
+}
+
+QWidget* PluginWindows::modal() const
+{
+    const QVector<QWidget*> windows = open();
+    const auto last = std::find_if(windows.rbegin(), windows.rend(),
+                                   [](const QWidget* window) { return window->isModal(); });
+    return last == windows.rend() ? nullptr : *last;
 }
 
 bool PluginWindows::eventFilter(QObject* object, QEvent* event)

@@ -17,6 +17,8 @@ public:
 
     // On show, in the order in which they opened.
     QVector<QWidget*> open() const;
+    // The modal one that opened last; null when there is none.
+    QWidget* modal() const;
 
 Q_SIGNALS:
     void opened(QWidget* window);

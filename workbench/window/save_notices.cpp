@@ -29,21 +29,15 @@ bool isTelemetry(const QString& path)
            path.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive);
 }
 
-// The configuration's window is modal and saves when its dialog has closed; a period is saved when all of its
-// records have come.
-bool savesAtOnce(const PluginWindows& windows)
-{
-    const QVector<QWidget*> open = windows.open();
-    return std::any_of(open.begin(), open.end(), [](const QWidget* window) { return window->isModal(); });
-}
-
 } // namespace
 
 SaveNotices::SaveNotices(HostSession& session, LinkNotices& link, const PluginWindows& windows,
                          RecentFiles& recent, StatusLine& status, QWidget* mainWindow)
     : session_(session), link_(link), recent_(recent), status_(status), mainWindow_(mainWindow),
-      watch_(mainWindow, [&windows] { return savesAtOnce(windows); })
+      watch_(mainWindow, [&windows] { return windows.modal() != nullptr; })
 {
+    // The configuration's window is modal and saves when its dialog has closed; a period is saved when all of
+    // its records have come.
     connect(&watch_, &SaveWatch::saved, this, &SaveNotices::tellSaved);
     connect(&watch_, &SaveWatch::failed, this, &SaveNotices::tellFailed);
 }

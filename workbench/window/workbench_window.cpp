@@ -134,8 +134,9 @@ void WorkbenchWindow::connectSession()
             [this] { status_->tell(StatusLine::Command, [] { return vlk::text("wb_write_cancelled"); }); });
     connect(&session_, &HostSession::editedChanged, this, &WorkbenchWindow::showEdited);
     session_.setReplaceQuestion([this] { return mayReplace(); });
+    // Its window is modal, and so are those that come up over it.
     connect(&windows_, &PluginWindows::closed, this, [this](const QWidget* window) {
-        if (window->isModal())
+        if (window->isModal() && !windows_.modal())
             session_.configurationClosed();
     });
     const auto* tracker = &session_.tracker();
