@@ -131,7 +131,7 @@ std::optional<Problem> checkConfiguration(const QByteArray& document, const QStr
         return Problem{Problem::Empty, document.size(), 1, 1, {}};
     if (document.size() > largestConfiguration)
         return Problem{Problem::TooLarge, document.size(), 1, 1, {}};
-    const auto problem = Check(document, model).run();
+    auto problem = Check(document, model).run();
     if ((!problem || problem->kind == Problem::ForeignRoot || problem->kind == Problem::ForeignModel) &&
         !(declarationIsPlain(document) && referencesArePlain(document)))
         return Problem{Problem::Damaged, document.size(), 1, 1, {}};

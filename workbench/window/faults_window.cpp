@@ -9,12 +9,13 @@
 #include <QVBoxLayout>
 
 FaultsWindow::FaultsWindow(tracker::SimulatedTracker& tracker, QWidget* owner)
-    : QDialog(owner, Qt::Tool | Qt::WindowCloseButtonHint), panel_(new FaultsPanel(tracker)),
-      trouble_(new QLabel(this))
+    : QDialog(owner, Qt::Tool | Qt::WindowCloseButtonHint | Qt::WindowDoesNotAcceptFocus),
+      panel_(new FaultsPanel(tracker)), trouble_(new QLabel(this))
 {
     setObjectName(QStringLiteral("dialog_Faults"));
     setModal(false);
-    // The window beside it keeps the keyboard.
+    // The window beside it keeps the keyboard: what it measures live ends when it is no longer the active
+    // one.
     setAttribute(Qt::WA_ShowWithoutActivating);
     texts_.bind(this, "wb_faults_title");
     trouble_->setObjectName(QStringLiteral("label_FaultsTrouble"));

@@ -15,7 +15,7 @@ namespace {
 QColor linkColour(const QPalette& palette)
 {
     constexpr int readable = 96;
-    const QColor link = palette.color(QPalette::Link);
+    QColor link = palette.color(QPalette::Link);
     const int ground = qGray(palette.color(QPalette::Base).rgb());
     if (std::abs(qGray(link.rgb()) - ground) >= readable)
         return link;
