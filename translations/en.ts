@@ -116,9 +116,9 @@
     <message id="cfgt3_018"><translation>Engine running (by supply voltage)</translation></message>
     <message id="cfgt3_019"><translation>Tachometer</translation></message>
     <message id="cfgt3_020"><translation>Limit the rate of track points by pauses</translation></message>
-    <message id="cfgt3_021"><translation>Distance from the last point at least</translation></message>
+    <message id="cfgt3_021"><translation>Distance between points at least</translation></message>
     <message id="cfgt3_022"><translation>Least distance between points</translation></message>
-    <message id="cfgt3_023"><translation>Time since the last point at least</translation></message>
+    <message id="cfgt3_023"><translation>Time between points at least</translation></message>
     <message id="cfgt3_024"><translation>Least time between points</translation></message>
     <message id="cfgt3_025"><translation>Process coordinates</translation></message>
     <message id="cfgt3_026"><translation>Reject coordinates</translation></message>

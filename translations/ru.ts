@@ -116,9 +116,9 @@
     <message id="cfgt3_018"><translation>Двигатель заведён (по напряжению питания)</translation></message>
     <message id="cfgt3_019"><translation>Тахометр</translation></message>
     <message id="cfgt3_020"><translation>При этом ограничить частоту точек трека паузами</translation></message>
-    <message id="cfgt3_021"><translation>Путь от предыдущей точки не меньше</translation></message>
+    <message id="cfgt3_021"><translation>Путь между точками не меньше</translation></message>
     <message id="cfgt3_022"><translation>Наименьший путь между точками</translation></message>
-    <message id="cfgt3_023"><translation>Время от предыдущей точки не меньше</translation></message>
+    <message id="cfgt3_023"><translation>Время между точками не меньше</translation></message>
     <message id="cfgt3_024"><translation>Наименьшее время между точками</translation></message>
     <message id="cfgt3_025"><translation>Включить обработку координат</translation></message>
     <message id="cfgt3_026"><translation>Отбрасывать координаты</translation></message>

@@ -30,8 +30,8 @@ constexpr auto kRows = rowsOf(
     flag("DST", 0).in("AllowDecretTime_checkBox").caption("cfgt4_004"),
 
     group("FUEL"), digits("sensors", "000", kFuelConditions).caption("cfgt4_043"),
-    volts("blockVolt", 8000).range(0, 30.5).in("doubleSpinBox_Fuel_Left").caption("cfgt4_036"),
-    volts("unblockVolt", 11000).range(0.5, 31).in("doubleSpinBox_Fuel_Right").caption("cfgt4_037"),
+    volts("blockVolt", 8000).range(0, 31).in("doubleSpinBox_Fuel_Left").caption("cfgt4_036"),
+    volts("unblockVolt", 11000).range(0, 31).in("doubleSpinBox_Fuel_Right").caption("cfgt4_037"),
     integer("unblockDelay", 5).range(0, 120).unit("abbr_003").in("spinBox_Fuel_Delay").caption("cfgt4_038"),
     choice("errorMode", kFuelErrors, "0").byNumber().unknownIs("0").caption("cfgt4_039"),
 
@@ -49,8 +49,8 @@ constexpr auto kRows = rowsOf(
         .caption("cfgt4_024"),
 
     group("PWRSENS"), flag("line", 0).onValue(3).in("checkBox_Power_Line").caption("cfgt4_093"),
-    volts("alarmLvl", 10500).range(6, 31.5).in("doubleSpinBox_Power_Left").caption("cfgt4_021"),
-    volts("restoreLvl", 11000).range(6.5, 32).in("doubleSpinBox_Power_Right").caption("cfgt4_022"),
+    volts("alarmLvl", 10500).range(6, 32).in("doubleSpinBox_Power_Left").caption("cfgt4_021"),
+    volts("restoreLvl", 11000).range(6, 32).in("doubleSpinBox_Power_Right").caption("cfgt4_022"),
     integer("delay", 0)
         .range(0, 255)
         .in("spinBox_Power_Delay")

@@ -16,6 +16,7 @@
 
 class VLK_Form_Config_Transfer;
 class VLK_Form_Config_Zeta3;
+class VLK_Form_Config_Track;
 class VLK_Form_Config_System;
 class VLK_Form_Config_RS;
 class VLK_Form_Config_Lines_In;
@@ -24,7 +25,7 @@ class VLK_Form_Config_Bluetooth;
 
 namespace vlk {
 
-using PageTuple = std::tuple<VLK_Form_Config_Transfer*>;
+using PageTuple = std::tuple<VLK_Form_Config_Transfer*, VLK_Form_Config_Track*, VLK_Form_Config_System*>;
 
 class ConfigPages
 {
