@@ -2,7 +2,7 @@
 
 #include "ui_VLK_Designer_Form_Config_Transfer.h"
 
-#include "host/device_r7106.h"
+#include "link/device.h"
 #include "pages/form_auto_apn_list_new.h"
 #include "pages/form_list_oper_roaming.h"
 #include "pages/operators.h"

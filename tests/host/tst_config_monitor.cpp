@@ -1,8 +1,8 @@
 // The monitor of live values: what it sends and when it stops, on a window that the test plays.
 
+#include "dialog/config_monitor.h"
 #include "support/data_table.h"
 #include "support/device.h"
-#include "windows/config_monitor.h"
 
 #include <QtTest>
 

@@ -5,8 +5,8 @@
 // as XML files with the root DEVICE; a file that does not parse changes nothing, a missing key takes its
 // default, and nothing is said of files that cannot be written.
 
-#include "windows/config_monitor.h"
-#include "windows/config_pages.h"
+#include "dialog/config_monitor.h"
+#include "dialog/config_pages.h"
 #include "windows/wnd_config_full.h"
 
 #include <memory>
@@ -52,20 +52,20 @@ public:
     void gotoBluetooth() override;
     void gotoAccel() override;
     void gotoAccelPlain() override;
-    void startAccelMonitor(bool on, int periodMs) { monitor_.startAccel(on, periodMs); }
-    void startLinesMonitor(bool on, const QByteArray& list, int periodMs)
+    void startAccelMonitor(bool on, int periodMs) override { monitor_.startAccel(on, periodMs); }
+    void startLinesMonitor(bool on, const QByteArray& list, int periodMs) override
     {
         monitor_.startLines(on, list, periodMs);
     }
-    void pollCurrentTab() { monitor_.pollCurrentTab(); }
-    void requestAccel() { monitor_.requestAccel(); }
-    void requestAccelResult() { monitor_.requestAccelResult(); }
-    void requestLines(const QByteArray& list) { monitor_.requestLines(list); }
-    void startBtSearch();
-    void cancelBtSearch();
-    void getCanLogProgram();
-    void setCanLogProgram(int value);
-    void sendSystemWaitEnd();
+    void pollCurrentTab() override { monitor_.pollCurrentTab(); }
+    void requestAccel() override { monitor_.requestAccel(); }
+    void requestAccelResult() override { monitor_.requestAccelResult(); }
+    void requestLines(const QByteArray& list) override { monitor_.requestLines(list); }
+    void startBtSearch() override;
+    void cancelBtSearch() override;
+    void getCanLogProgram() override;
+    void setCanLogProgram(int value) override;
+    void sendSystemWaitEnd() override;
 
     // Answers of the host. Byte records may be null.
     void takeLineValues(const QByteArray& text);
@@ -116,6 +116,3 @@ private:
     QMenu* tabMenu_;
     bool connected_ = false;
 };
-
-// Set by the constructor; pages reach the window through it.
-extern VLK_Widget_Config_Full* vlkConfigFull;

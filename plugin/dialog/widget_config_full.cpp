@@ -1,15 +1,15 @@
-#include "windows/widget_config_full.h"
+#include "dialog/widget_config_full.h"
 
 #include "ui_VLK_Designer_Widget_Config_Full.h"
 
 #include "base/clock.h"
-#include "host/device_r7106.h"
-#include "host/requests.h"
+#include "dialog/file_names.h"
+#include "dialog/widget_config.h"
+#include "link/device.h"
+#include "link/requests.h"
 #include "pages/form_config_transfer.h"
-#include "windows/file_names.h"
 #include "windows/input_guard.h"
 #include "windows/vlk_menuaction.h"
-#include "windows/widget_config.h"
 #include "xml/xml_document.h"
 
 #include <QCloseEvent>
@@ -21,8 +21,6 @@
 #include <QScrollArea>
 
 #include <algorithm>
-
-VLK_Widget_Config_Full* vlkConfigFull = nullptr;
 
 VLK_Widget_Config_Full::VLK_Widget_Config_Full(QWidget* parent)
     : VLK_Wnd_Config_Full(parent), ui_(std::make_unique<Ui::VLK_Designer_Widget_Config_Full>()),

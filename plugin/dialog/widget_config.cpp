@@ -1,12 +1,12 @@
-#include "windows/widget_config.h"
+#include "dialog/widget_config.h"
 
 #include "ui_VLK_Designer_Widget_Config.h"
 
-#include "host/device_r7106.h"
-#include "host/requests.h"
-#include "windows/file_names.h"
-#include "windows/widget_config_full.h"
-#include "windows/widget_config_light.h"
+#include "dialog/file_names.h"
+#include "dialog/widget_config_full.h"
+#include "dialog/widget_config_light.h"
+#include "link/device.h"
+#include "link/requests.h"
 #include "xml/xml_document.h"
 
 #include <QDir>

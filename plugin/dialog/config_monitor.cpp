@@ -1,6 +1,6 @@
-#include "windows/config_monitor.h"
+#include "dialog/config_monitor.h"
 
-#include "host/requests.h"
+#include "link/requests.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
-#include "windows/file_names.h"
+#include "dialog/file_names.h"
 
 #include "base/clock.h"
-#include "host/device_r7106.h"
+#include "link/device.h"
 
 #include <QCoreApplication>
 #include <QDir>
