@@ -112,12 +112,11 @@ void VLK_Widget_Config_Full::loadFromXml(CXmlSection* root, char* ussdBuffer)
     });
 }
 
-void VLK_Widget_Config_Full::saveFile(const QString& path)
+bool VLK_Widget_Config_Full::saveFile(const QString& path)
 {
-    vlk::XmlDocument document(path, QStringLiteral("DEVICE"));
-    document.root()->clear();
+    vlk::XmlDocument document(QString(), QStringLiteral("DEVICE"));
     saveToXml(document.root());
-    document.save();
+    return document.saveAs(path);
 }
 
 void VLK_Widget_Config_Full::saveToXml(CXmlSection* root)
@@ -377,9 +376,10 @@ void VLK_Widget_Config_Full::slot_pressed_Btn_LoadToDevice()
         return;
     const QString path = vlk::configurationPathToWrite(QStringLiteral("R7106"));
     ui_->pushButton_LoadToDevice->setEnabled(false);
-    saveFile(path);
+    const bool saved = saveFile(path);
     ui_->pushButton_LoadToDevice->setEnabled(connected_);
-    vlk::requests::writeConfiguration(path);
+    if (saved)
+        vlk::requests::writeConfiguration(path);
 }
 
 void VLK_Widget_Config_Full::slot_pressed_Btn_Help()

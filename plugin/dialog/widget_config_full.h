@@ -2,8 +2,8 @@
 
 // The full configuration window: the settings pages as tabs, the buttons at their side, the walk over the
 // pages for loading and saving, and the monitor of live values (config_monitor.h). Configurations come and go
-// as XML files with the root DEVICE; a file that does not parse changes nothing, a missing key takes its
-// default, and nothing is said of files that cannot be written.
+// as XML files with the root DEVICE; a file that does not parse changes nothing, and a missing key takes its
+// default. What could not be saved is not written to the tracker.
 
 #include "dialog/config_monitor.h"
 #include "dialog/config_pages.h"
@@ -34,7 +34,8 @@ public:
     // Reads a file into the pages, and its balance request code into `ussdBuffer` (vlk::balanceUssdSize
     // bytes), which an unusable file leaves as it is.
     void loadFile(const QString& path, char* ussdBuffer);
-    void saveFile(const QString& path);
+    // Replaces whatever the file holds. False when that failed, which the log says (base/save_log.h).
+    bool saveFile(const QString& path);
     // The walks over an open document.
     void loadFromXml(CXmlSection* root, char* ussdBuffer);
     void saveToXml(CXmlSection* root);
