@@ -4,7 +4,7 @@
 
 #include "settings/system_settings.h"
 #include "windows/aligned_columns.h"
-#include "windows/widget_config_full.h"
+#include "windows/wnd_config_full.h"
 #include "windows/zone_colors.h"
 
 #include <QMessageBox>

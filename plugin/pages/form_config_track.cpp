@@ -4,7 +4,7 @@
 
 #include "settings/track_settings.h"
 #include "windows/aligned_columns.h"
-#include "windows/widget_config_full.h"
+#include "windows/wnd_config_full.h"
 
 VLK_Form_Config_Track::VLK_Form_Config_Track(QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::VLK_Designer_Form_Config_Track>()),
