@@ -4,7 +4,7 @@
 // section SYSTEM (settings/system_settings.h). Beside them it shows the present supply voltage of an attached
 // tracker.
 
-#include "windows/page_settings.h"
+#include "windows/binder/page_settings.h"
 
 #include <QWidget>
 

@@ -3,7 +3,7 @@
 // The Track page: when the tracker writes a point, which coordinates it rejects, what it does at stops, which
 // satellites it listens to. Its settings are those of the section TRACK (settings/track_settings.h).
 
-#include "windows/page_settings.h"
+#include "windows/binder/page_settings.h"
 
 #include <QWidget>
 
