@@ -3,11 +3,11 @@
 #include "ui_VLK_Designer_Widget_Config_Full.h"
 
 #include "base/clock.h"
+#include "dialog/all_pages.h"
 #include "dialog/file_names.h"
 #include "dialog/widget_config.h"
 #include "link/device.h"
 #include "link/requests.h"
-#include "pages/form_config_transfer.h"
 #include "windows/input_guard.h"
 #include "windows/vlk_menuaction.h"
 #include "xml/xml_document.h"
