@@ -1,6 +1,6 @@
 // Every setting of every page: the windows load, show and save what the settings alone make of a file.
 
-#include "dialog/all_pages.h"
+#include "dialog/config_pages.h"
 #include "dialog/widget_config_full.h"
 #include "settings/all_settings.h"
 #include "support/device.h"
