@@ -55,9 +55,9 @@
     <message id="cfgt1_036"><translation>Connection rules</translation></message>
     <message id="cfgt1_037"><translation>Connection</translation></message>
     <message id="cfgt1_038"><translation>Check period</translation></message>
-    <message id="cfgt1_039"><translation>Send telemetry with the check</translation></message>
+    <message id="cfgt1_039"><translation>Add telemetry</translation></message>
     <message id="cfgt1_040"><translation>Connection period</translation></message>
-    <message id="cfgt1_041"><translation>Connect without new data too</translation></message>
+    <message id="cfgt1_041"><translation>Even without new data</translation></message>
     <message id="cfgt1_042"><translation>Do not send priority messages</translation></message>
     <message id="cfgt1_043"><translation>Accept server commands</translation></message>
     <message id="cfgt1_044"><translation>Pause after a failure</translation></message>
@@ -178,6 +178,7 @@
     <message id="tmift2_019"><translation>Humidity</translation></message>
     <message id="tmift2_022"><translation>Backup battery, V</translation></message>
     <message id="tmift2_023"><translation>Input AIN3&lt;val&gt;V</translation></message>
+    <message id="tmift2_024"><translation>Supply, V</translation></message>
     <message id="tmift3_001"><translation>Accelerometer</translation></message>
     <message id="tmift3_002"><translation>Shocks and movement</translation></message>
     <message id="tmift3_003"><translation>Calibration</translation></message>
@@ -320,7 +321,7 @@
     <message id="tmiw_140"><translation>Key</translation></message>
     <message id="tmiw_141"><translation>Tag</translation></message>
     <message id="tmiw_142"><translation>Equipment</translation></message>
-    <message id="tmiw_143"><translation>Fuel level sensors</translation></message>
+    <message id="tmiw_143"><translation>Calibrate</translation></message>
     <message id="tmiw_144"><translation>Guard off</translation></message>
     <message id="tmiw_145"><translation>Guard on</translation></message>
     <message id="tmiw_146"><translation>Guard</translation></message>
@@ -328,7 +329,7 @@
     <message id="tmiw_148"><translation>Save the records to an XML file</translation></message>
     <message id="tmiw_149"><translation>Save the records to a CSV table</translation></message>
     <message id="tmiw_150"><translation>Save the records to a binary TMI file</translation></message>
-    <message id="tmiw_151"><translation>Last record</translation></message>
+    <message id="tmiw_151"><translation>Last</translation></message>
     <message id="tmiw_152"><translation>Reading records</translation></message>
     <message id="tmiw_153"><translation>Writing the file</translation></message>
     <message id="tmiw_154"><translation>The period must begin before it ends.</translation></message>
@@ -752,7 +753,7 @@
     <message id="wb_event_060"><translation>1-Wire key touched</translation></message>
     <message id="wb_event_061"><translation>RFID tag read</translation></message>
     <message id="wb_event_unknown"><translation>Event</translation></message>
-    <message id="wb_fault_board"><translation>Bad board: voltages and position</translation></message>
+    <message id="wb_fault_board"><translation>Bad board</translation></message>
     <message id="wb_fault_delay"><translation>Delay:</translation></message>
     <message id="wb_fault_garbled"><translation>Garbled answers</translation></message>
     <message id="wb_fault_short"><translation>Short answers</translation></message>

@@ -55,14 +55,14 @@
     <message id="cfgt1_036"><translation>Правила соединения</translation></message>
     <message id="cfgt1_037"><translation>Соединение</translation></message>
     <message id="cfgt1_038"><translation>Период проверки</translation></message>
-    <message id="cfgt1_039"><translation>Передавать телеметрию с проверкой</translation></message>
+    <message id="cfgt1_039"><translation>Добавлять телеметрию</translation></message>
     <message id="cfgt1_040"><translation>Период соединения</translation></message>
-    <message id="cfgt1_041"><translation>Соединяться и без новых данных</translation></message>
+    <message id="cfgt1_041"><translation>Даже без новых данных</translation></message>
     <message id="cfgt1_042"><translation>Не отправлять приоритетные сообщения</translation></message>
     <message id="cfgt1_043"><translation>Принимать команды сервера</translation></message>
     <message id="cfgt1_044"><translation>Пауза после неудачи</translation></message>
     <message id="cfgt1_045"><translation>Не отправлять текущие данные</translation></message>
-    <message id="cfgt1_046"><translation>Группировать данные за</translation></message>
+    <message id="cfgt1_046"><translation>Группировать за</translation></message>
     <message id="cfgt1_047"><translation>Шифрование</translation></message>
     <message id="cfgt1_048"><translation>Ключ</translation></message>
     <message id="cfgt1_049"><translation>Создать</translation></message>
@@ -128,7 +128,7 @@
     <message id="tmift1_020"><translation>Уровень сигнала</translation></message>
     <message id="tmift1_025"><translation>Навигация</translation></message>
     <message id="tmift1_027"><translation>Приёмник</translation></message>
-    <message id="tmift1_028"><translation>Спутников</translation></message>
+    <message id="tmift1_028"><translation>Спутники</translation></message>
     <message id="tmift1_029"><translation>Время координат</translation></message>
     <message id="tmift1_030"><translation>Достоверно</translation></message>
     <message id="tmift1_031"><translation>Широта</translation></message>
@@ -178,6 +178,7 @@
     <message id="tmift2_019"><translation>Влажность</translation></message>
     <message id="tmift2_022"><translation>Резервная батарея, В</translation></message>
     <message id="tmift2_023"><translation>Вход AIN3&lt;val&gt;В</translation></message>
+    <message id="tmift2_024"><translation>Питание, В</translation></message>
     <message id="tmift3_001"><translation>Акселерометр</translation></message>
     <message id="tmift3_002"><translation>Удары и перемещение</translation></message>
     <message id="tmift3_003"><translation>Калибровка</translation></message>
@@ -320,7 +321,7 @@
     <message id="tmiw_140"><translation>Ключ</translation></message>
     <message id="tmiw_141"><translation>Метка</translation></message>
     <message id="tmiw_142"><translation>Оборудование</translation></message>
-    <message id="tmiw_143"><translation>Датчики уровня топлива</translation></message>
+    <message id="tmiw_143"><translation>Тарировать</translation></message>
     <message id="tmiw_144"><translation>Снять с охраны</translation></message>
     <message id="tmiw_145"><translation>Под охрану</translation></message>
     <message id="tmiw_146"><translation>Охрана</translation></message>
@@ -328,7 +329,7 @@
     <message id="tmiw_148"><translation>Сохранить записи в файл XML</translation></message>
     <message id="tmiw_149"><translation>Сохранить записи в таблицу CSV</translation></message>
     <message id="tmiw_150"><translation>Сохранить записи в двоичный файл TMI</translation></message>
-    <message id="tmiw_151"><translation>Последняя запись</translation></message>
+    <message id="tmiw_151"><translation>Последние</translation></message>
     <message id="tmiw_152"><translation>Чтение записей</translation></message>
     <message id="tmiw_153"><translation>Запись файла</translation></message>
     <message id="tmiw_154"><translation>Начало периода должно быть раньше его конца.</translation></message>
@@ -752,7 +753,7 @@
     <message id="wb_event_060"><translation>Приложен ключ 1-Wire</translation></message>
     <message id="wb_event_061"><translation>Прочитана метка RFID</translation></message>
     <message id="wb_event_unknown"><translation>Событие</translation></message>
-    <message id="wb_fault_board"><translation>Брак платы: напряжения и координаты</translation></message>
+    <message id="wb_fault_board"><translation>Брак платы</translation></message>
     <message id="wb_fault_delay"><translation>Задержка:</translation></message>
     <message id="wb_fault_garbled"><translation>Искажённые ответы</translation></message>
     <message id="wb_fault_short"><translation>Короткие ответы</translation></message>
