@@ -730,7 +730,7 @@
     <message id="wb_event_001"><translation>Power on</translation></message>
     <message id="wb_event_002"><translation>Point by time</translation></message>
     <message id="wb_event_003"><translation>Point by distance</translation></message>
-    <message id="wb_event_004"><translation>Point by course change angle</translation></message>
+    <message id="wb_event_004"><translation>Point by change of course</translation></message>
     <message id="wb_event_005"><translation>Point by time, parked</translation></message>
     <message id="wb_event_006"><translation>Present state on request</translation></message>
     <message id="wb_event_010"><translation>Ignition on</translation></message>

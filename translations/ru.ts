@@ -730,7 +730,7 @@
     <message id="wb_event_001"><translation>Включение питания</translation></message>
     <message id="wb_event_002"><translation>Точка по времени</translation></message>
     <message id="wb_event_003"><translation>Точка по расстоянию</translation></message>
-    <message id="wb_event_004"><translation>Точка по углу изменения курса</translation></message>
+    <message id="wb_event_004"><translation>Точка по изменению курса</translation></message>
     <message id="wb_event_005"><translation>Точка по времени на стоянке</translation></message>
     <message id="wb_event_006"><translation>Текущее состояние по запросу</translation></message>
     <message id="wb_event_010"><translation>Зажигание включено</translation></message>

@@ -7,8 +7,6 @@
 #include <QRegularExpression>
 #include <QtTest>
 
-#include <algorithm>
-
 namespace {
 
 // What no text of a language, or of both, may show. Letters match in either case, unless the pattern begins
@@ -18,7 +16,7 @@ struct Rule
     const char* name;
     const char* language;
     const char* pattern;
-    const char* exceptKeys = "";
+    const char* exceptKeys = ""; // keys that begin so may show it
 };
 
 constexpr Rule kRules[] = {
@@ -207,7 +205,7 @@ private Q_SLOTS:
             look(page.key(), *page);
         const Texts& texts = texts_[language];
         for (auto text = texts.cbegin(); text != texts.cend(); ++text)
-            look(text.key(), QString(*text).remove(QLatin1String("<b>")));
+            look(text.key(), QString(*text).remove(QLatin1String("<b>"))); // a bold value is no caption
         QVERIFY2(unknown.isEmpty(), qPrintable(unknown.join(QLatin1Char('\n'))));
         QVERIFY(count > 50);
     }
