@@ -1,6 +1,6 @@
-#include "windows/config_monitor.h"
+#include "dialog/config_monitor.h"
 
-#include "host/requests.h"
+#include "link/requests.h"
 
 #include <utility>
 
@@ -8,11 +8,18 @@ namespace {
 // Status bytes of a command that was carried out.
 constexpr int commandDone = 1;
 constexpr int commandDoneAlso = 49;
+// How long a command waits that was refused before its request returned, in milliseconds.
+constexpr int pauseMs = 100;
 } // namespace
 
 ConfigMonitor::ConfigMonitor(Window window, QObject* parent)
     : QObject(parent), window_(std::move(window)), timerAnalog_(this)
 {
+    repeat_.setSingleShot(true);
+    connect(&repeat_, &QTimer::timeout, this, [this] {
+        if (connected_ && monitorStep_ == WaitingForCommand && window_.currentTab() == Tab::Accel)
+            sendCommand();
+    });
 }
 
 void ConfigMonitor::startAccel(bool on, int periodMs)
@@ -62,10 +69,22 @@ void ConfigMonitor::requestAccel()
 
 void ConfigMonitor::requestAccelResult()
 {
-    if (awaitingAnswer_ != 0)
-        return;
+    if (awaitingAnswer_ == 0)
+        sendCommand();
+}
+
+// The answer may come within the call and ask for the next command there: that one waits, since a host which
+// refuses every command would otherwise never return from the first.
+void ConfigMonitor::sendCommand()
+{
     timerAnalog_.stop();
+    if (sending_) {
+        repeat_.start(pauseMs);
+        return;
+    }
+    sending_ = true;
     vlk::requests::accelCommand();
+    sending_ = false;
 }
 
 void ConfigMonitor::requestLines(const QByteArray& list)
@@ -96,10 +115,9 @@ void ConfigMonitor::accelCommandAnswered(int status)
     awaitingAnswer_ = 0;
     monitorStep_ = Idle;
     if (status != commandDone && status != commandDoneAlso) {
-        timerAnalog_.stop();
         // The step is set first: the answer may come before the request returns.
         monitorStep_ = WaitingForCommand;
-        vlk::requests::accelCommand();
+        sendCommand();
         return;
     }
     window_.clearAccelDisplay();

@@ -54,6 +54,7 @@ public:
 private:
     enum Step { Idle = 0, Reading = 1, WaitingForCommand = 2 };
 
+    void sendCommand();
     void end();
 
     Window window_;
@@ -61,6 +62,8 @@ private:
     int awaitingAnswer_ = 0;
     int monitorStep_ = Idle;
     QTimer timerAnalog_;
+    QTimer repeat_;
+    bool sending_ = false;
     int monitorPeriodMs_ = 3000;
     bool monitorOn_ = false;
     bool connected_ = false;

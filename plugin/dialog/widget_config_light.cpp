@@ -1,9 +1,9 @@
-#include "windows/widget_config_light.h"
+#include "dialog/widget_config_light.h"
 
 #include "ui_VLK_Designer_Widget_Config_Light.h"
 
-#include "windows/file_names.h"
-#include "windows/widget_config.h"
+#include "dialog/file_names.h"
+#include "dialog/widget_config.h"
 
 VLK_Widget_Config_Light::VLK_Widget_Config_Light(QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::VLK_Designer_Widget_Config_Light>())

@@ -1,15 +1,15 @@
-#include "windows/widget_config_full.h"
+#include "dialog/widget_config_full.h"
 
 #include "ui_VLK_Designer_Widget_Config_Full.h"
 
 #include "base/clock.h"
-#include "host/device_r7106.h"
-#include "host/requests.h"
+#include "dialog/file_names.h"
+#include "dialog/widget_config.h"
+#include "link/device.h"
+#include "link/requests.h"
 #include "pages/form_config_transfer.h"
-#include "windows/file_names.h"
 #include "windows/input_guard.h"
 #include "windows/vlk_menuaction.h"
-#include "windows/widget_config.h"
 #include "xml/xml_document.h"
 
 #include <QCloseEvent>
@@ -21,8 +21,6 @@
 #include <QScrollArea>
 
 #include <algorithm>
-
-VLK_Widget_Config_Full* vlkConfigFull = nullptr;
 
 VLK_Widget_Config_Full::VLK_Widget_Config_Full(QWidget* parent)
     : VLK_Wnd_Config_Full(parent), ui_(std::make_unique<Ui::VLK_Designer_Widget_Config_Full>()),
@@ -114,12 +112,11 @@ void VLK_Widget_Config_Full::loadFromXml(CXmlSection* root, char* ussdBuffer)
     });
 }
 
-void VLK_Widget_Config_Full::saveFile(const QString& path)
+bool VLK_Widget_Config_Full::saveFile(const QString& path)
 {
-    vlk::XmlDocument document(path, QStringLiteral("DEVICE"));
-    document.root()->clear();
+    vlk::XmlDocument document(QString(), QStringLiteral("DEVICE"));
     saveToXml(document.root());
-    document.save();
+    return document.saveAs(path);
 }
 
 void VLK_Widget_Config_Full::saveToXml(CXmlSection* root)
@@ -379,9 +376,10 @@ void VLK_Widget_Config_Full::slot_pressed_Btn_LoadToDevice()
         return;
     const QString path = vlk::configurationPathToWrite(QStringLiteral("R7106"));
     ui_->pushButton_LoadToDevice->setEnabled(false);
-    saveFile(path);
+    const bool saved = saveFile(path);
     ui_->pushButton_LoadToDevice->setEnabled(connected_);
-    vlk::requests::writeConfiguration(path);
+    if (saved)
+        vlk::requests::writeConfiguration(path);
 }
 
 void VLK_Widget_Config_Full::slot_pressed_Btn_Help()

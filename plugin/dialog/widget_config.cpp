@@ -1,16 +1,14 @@
-#include "windows/widget_config.h"
+#include "dialog/widget_config.h"
 
 #include "ui_VLK_Designer_Widget_Config.h"
 
-#include "host/device_r7106.h"
-#include "host/requests.h"
-#include "windows/file_names.h"
-#include "windows/widget_config_full.h"
-#include "windows/widget_config_light.h"
+#include "dialog/file_names.h"
+#include "dialog/widget_config_full.h"
+#include "dialog/widget_config_light.h"
+#include "link/device.h"
+#include "link/requests.h"
 #include "xml/xml_document.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 VLK_Widget_Config* vlkConfigDialog = nullptr;
@@ -69,28 +67,22 @@ void VLK_Widget_Config::writeQuickToDevice()
     if (!vlkDevice)
         return;
     const QString path = vlk::configurationPathToWrite(vlkDevice->model());
-    saveQuickToFile(path);
-    vlk::requests::writeConfiguration(path);
+    if (saveQuickToFile(path))
+        vlk::requests::writeConfiguration(path);
 }
 
-void VLK_Widget_Config::saveQuickToFile(const QString& path)
+bool VLK_Widget_Config::saveQuickToFile(const QString& path)
 {
-    fullWindow_->saveFile(path);
+    return fullWindow_->saveFile(path);
 }
 
 void VLK_Widget_Config::switchToFull()
 {
-    // The state goes over in memory, so that a folder that cannot be written costs nothing.
-    const QString path = QDir::current().filePath(QStringLiteral("file.xml"));
-    {
-        vlk::XmlDocument document(path, QStringLiteral("DEVICE"));
-        document.root()->clear();
-        fullWindow_->saveToXml(document.root());
-        document.root()->commit();
-        char unusedUssd[vlk::balanceUssdSize] = {};
-        fullWindow_->loadFromXml(document.root(), unusedUssd);
-    }
-    QFile::remove(path);
+    vlk::XmlDocument state(QString(), QStringLiteral("DEVICE"));
+    fullWindow_->saveToXml(state.root());
+    state.root()->commit();
+    char unusedUssd[vlk::balanceUssdSize] = {};
+    fullWindow_->loadFromXml(state.root(), unusedUssd);
     ui_->stackedWidget->setCurrentWidget(ui_->page_Full);
 }
 

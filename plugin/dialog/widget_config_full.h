@@ -2,11 +2,11 @@
 
 // The full configuration window: the settings pages as tabs, the buttons at their side, the walk over the
 // pages for loading and saving, and the monitor of live values (config_monitor.h). Configurations come and go
-// as XML files with the root DEVICE; a file that does not parse changes nothing, a missing key takes its
-// default, and nothing is said of files that cannot be written.
+// as XML files with the root DEVICE; a file that does not parse changes nothing, and a missing key takes its
+// default. What could not be saved is not written to the tracker.
 
-#include "windows/config_monitor.h"
-#include "windows/config_pages.h"
+#include "dialog/config_monitor.h"
+#include "dialog/config_pages.h"
 #include "windows/wnd_config_full.h"
 
 #include <memory>
@@ -34,7 +34,8 @@ public:
     // Reads a file into the pages, and its balance request code into `ussdBuffer` (vlk::balanceUssdSize
     // bytes), which an unusable file leaves as it is.
     void loadFile(const QString& path, char* ussdBuffer);
-    void saveFile(const QString& path);
+    // Replaces whatever the file holds. False when that failed, which the log says (base/save_log.h).
+    bool saveFile(const QString& path);
     // The walks over an open document.
     void loadFromXml(CXmlSection* root, char* ussdBuffer);
     void saveToXml(CXmlSection* root);
@@ -52,20 +53,20 @@ public:
     void gotoBluetooth() override;
     void gotoAccel() override;
     void gotoAccelPlain() override;
-    void startAccelMonitor(bool on, int periodMs) { monitor_.startAccel(on, periodMs); }
-    void startLinesMonitor(bool on, const QByteArray& list, int periodMs)
+    void startAccelMonitor(bool on, int periodMs) override { monitor_.startAccel(on, periodMs); }
+    void startLinesMonitor(bool on, const QByteArray& list, int periodMs) override
     {
         monitor_.startLines(on, list, periodMs);
     }
-    void pollCurrentTab() { monitor_.pollCurrentTab(); }
-    void requestAccel() { monitor_.requestAccel(); }
-    void requestAccelResult() { monitor_.requestAccelResult(); }
-    void requestLines(const QByteArray& list) { monitor_.requestLines(list); }
-    void startBtSearch();
-    void cancelBtSearch();
-    void getCanLogProgram();
-    void setCanLogProgram(int value);
-    void sendSystemWaitEnd();
+    void pollCurrentTab() override { monitor_.pollCurrentTab(); }
+    void requestAccel() override { monitor_.requestAccel(); }
+    void requestAccelResult() override { monitor_.requestAccelResult(); }
+    void requestLines(const QByteArray& list) override { monitor_.requestLines(list); }
+    void startBtSearch() override;
+    void cancelBtSearch() override;
+    void getCanLogProgram() override;
+    void setCanLogProgram(int value) override;
+    void sendSystemWaitEnd() override;
 
     // Answers of the host. Byte records may be null.
     void takeLineValues(const QByteArray& text);
@@ -116,6 +117,3 @@ private:
     QMenu* tabMenu_;
     bool connected_ = false;
 };
-
-// Set by the constructor; pages reach the window through it.
-extern VLK_Widget_Config_Full* vlkConfigFull;
