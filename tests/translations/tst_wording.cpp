@@ -73,6 +73,7 @@ constexpr Rule kRules[] = {
      "(?:км|км/ч|м|мс|с|мин|ч|сут|мВ|В|мА|Гц|об/мин|л|л/ч|кг|байта?|бит/с|дБм|°C|%)(?!\\w)"},
     {"unit's blank", "en",
      "(?-i)(?:\\d|%\\d) (?:km|km/h|m|ms|s|min|h|d|mV|V|mA|Hz|rpm|l|l/h|kg|B|bytes?|bit/s|dBm|°C|%)(?!\\w)"},
+    {"no-break space between words", "", "\\p{L}[,.]?\\x{A0}\\p{L}"},
     {"number's blank", "ru", "№[ \\d%]|\\d \\d{3}\\b"},
     {"number's blank", "en", "No\\.[ \\d%]|\\d \\d{3}\\b"},
 };
