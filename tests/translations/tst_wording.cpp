@@ -56,7 +56,7 @@ constexpr Rule kRules[] = {
     // Spelling.
     {"ё", "ru",
      "\\b(?:еще|вперед|четность|нечет|чет|(?:в|от|под)ключен|определен|сохранен|изменен|удален|завершен|"
-     "объем(?:а|ы|ов|ом)?|(?:от|под)?счет(?:а|ов|ом|чик\\w*)?|прием(?:а|ник\\w*)?)\\b"},
+     "объем(?:а|ы|ов|ом)?|(?:под)?счет(?:а|ов|ом|чик\\w*)?|прием(?:а|ник\\w*)?)\\b"},
     {"British", "en",
      "\\banalog\\b|\\btires?\\b|\\bcolors?\\b|\\bcenter|\\bgray\\b|authoriz|\\bmeters?\\b|\\bliters?\\b"},
     {"alphabet", "ru", "[а-яё][a-z]|[a-z][а-яё]|°С"},
@@ -69,10 +69,11 @@ constexpr Rule kRules[] = {
     {"exclamation", "", "!"},
     {"unit's dot", "ru", "\\bсек\\b|\\b(?:мин|сут|км|кг|мс)\\.(?!\\s*(?-i:[А-ЯЁA-Z])|\\s*$)"},
     {"unit's blank", "ru",
-     "(?-i)(?:\\d|%\\d) "
+     "(?-i)(?<!\\w)(?:\\d[\\d.,]*|%\\d) "
      "(?:км|км/ч|м|мс|с|мин|ч|сут|мВ|В|мА|Гц|об/мин|л|л/ч|кг|байта?|бит/с|дБм|°C|%)(?!\\w)"},
     {"unit's blank", "en",
-     "(?-i)(?:\\d|%\\d) (?:km|km/h|m|ms|s|min|h|d|mV|V|mA|Hz|rpm|l|l/h|kg|B|bytes?|bit/s|dBm|°C|%)(?!\\w)"},
+     "(?-i)(?<!\\w)(?:\\d[\\d.,]*|%\\d) "
+     "(?:km|km/h|m|ms|s|min|h|d|mV|V|mA|Hz|rpm|l|l/h|kg|B|bytes?|bit/s|dBm|°C|%)(?!\\w)"},
     {"no-break space between words", "", "\\p{L}[,.]?\\x{A0}\\p{L}"},
     {"number's blank", "ru", "№[ \\d%]|\\d \\d{3}\\b"},
     {"number's blank", "en", "No\\.[ \\d%]|\\d \\d{3}\\b"},
@@ -82,11 +83,13 @@ constexpr Rule kRules[] = {
 const QSet<QString> kQuoted = {
     QStringLiteral("Таррировка датчиков топлива"),
     QStringLiteral("Часовой пояс относительно Гринвича"),
+    QStringLiteral("NTP сервер №1"),
+    QStringLiteral("NTP сервер №2"),
+    QStringLiteral("NTP сервер №3"),
+    QStringLiteral("NTP сервер №4"),
     QStringLiteral("В случае утери пароля для управления по USB и GPRS доступ к устройству будет невозможен"),
     QStringLiteral("ВНИМАНИЕ!\nВ случае утери пароля для управления по USB и GPRS доступ к устройству будет "
                    "невозможен."),
-    QStringLiteral("Начало отсчета"),
-    QStringLiteral("Окончание отсчета"),
     QStringLiteral("Окно  осреднения"),
     QStringLiteral("Сбросить значения "),
     QStringLiteral("Тип высокоточного навигационного приемника"),
@@ -181,8 +184,8 @@ private Q_SLOTS:
     void quotesCaptions_data()
     {
         DataTable<QString, QString>({"language", "quotes"})
-            .row("Russian", "ru", "«([^»%]*)»|<b>([^<]*)</b>")
-            .row("English", "en", "\"([^\"%]*)\"|<b>([^<]*)</b>");
+            .row("Russian", "ru", "«(\\w[^»%]*)»|<b>([^<]*)</b>")
+            .row("English", "en", "\"(\\w[^\"%]*)\"|<b>([^<]*)</b>");
     }
     void quotesCaptions()
     {
@@ -195,7 +198,7 @@ private Q_SLOTS:
         int count = 0;
         const auto look = [&](const QString& name, QString text) {
             text.remove(pattern(QStringLiteral("<(?!/?b>)[^>]*>")));
-            for (auto found = QRegularExpression(quotes).globalMatch(text); found.hasNext(); ++count) {
+            for (auto found = pattern(quotes).globalMatch(text); found.hasNext(); ++count) {
                 const QRegularExpressionMatch match = found.next();
                 if (!captions.contains(match.captured(match.lastCapturedIndex())))
                     unknown << name + QLatin1String(": ") + match.captured();
