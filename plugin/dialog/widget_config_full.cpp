@@ -2,6 +2,7 @@
 
 #include "ui_VLK_Designer_Widget_Config_Full.h"
 
+#include "dialog/config_pages.h"
 #include "dialog/configuration_walk.h"
 #include "dialog/file_names.h"
 #include "dialog/tab_navigation.h"
