@@ -74,6 +74,7 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
         if (!setting.stored)
             values_[index] = normalise(setting, loadDefault(setting), values_[index], limits(index)).value;
     }
+    std::map<int, QString> asRead;
     std::vector<std::pair<int, CXmlSectionPtr>> late;
     for (const TableLayout::Group& group : layout.groups) {
         if (!holds(part, group.present))
@@ -85,7 +86,7 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
             if (layout.rows[row].setting->last)
                 late.emplace_back(row, elementOf(*section, group.path));
             else
-                readRow(part, row, *element, notes);
+                readRow(part, row, *element, &asRead, notes);
         }
         QStringList inside;
         for (const TableLayout::Group& other : layout.groups) {
@@ -97,16 +98,19 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
                       inside, notes);
     }
     for (const auto& [row, element] : late)
-        readRow(part, row, *element, notes);
+        readRow(part, row, *element, &asRead, notes);
     derive(part);
-    std::vector<int> bound;
-    keepBounds(part, &bound);
-    for (const int index : bound)
-        notes->push_back({ReadNote::What::value, path(index), index, {}, values_[index], Change::byRule});
+    keepBounds(part, nullptr);
+    for (const auto& [index, value] : asRead) {
+        if (values_[index] != value)
+            notes->push_back(
+                {ReadNote::What::value, path(index), index, value, values_[index], Change::byRule});
+    }
 }
 
+// `asRead` gets the value before later rows and rules move it.
 void Configuration::readRow(const Part& part, int row, const CXmlSection& element,
-                            std::vector<ReadNote>* notes)
+                            std::map<int, QString>* asRead, std::vector<ReadNote>* notes)
 {
     const TableLayout::Row& place = part.layout->rows[row];
     const Setting& setting = *place.setting;
@@ -124,6 +128,7 @@ void Configuration::readRow(const Part& part, int row, const CXmlSection& elemen
         const QString bound = QString::fromLatin1(setting.otherwise);
         taken = {bound, bound == text ? Change::none : Change::byRule};
     }
+    (*asRead)[index] = taken.value;
     assign(part, place.target, taken.value, nullptr);
     if (!found)
         notes->push_back(
