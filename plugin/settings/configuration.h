@@ -17,7 +17,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <map>
 #include <vector>
 
 struct CXmlSection;
@@ -104,8 +103,7 @@ private:
     double gapOf(const Part& part, const TableLayout::Distance& rule) const;
     void resetPart(const Part& part);
     void readPart(const Part& part, const CXmlSection& root, std::vector<ReadNote>* notes);
-    void readRow(const Part& part, int row, const CXmlSection& element, std::map<int, QString>* asRead,
-                 std::vector<ReadNote>* notes);
+    void readRow(const Part& part, int row, const CXmlSection& element, std::vector<ReadNote>* notes);
     void writePart(const Part& part, CXmlSection& root) const;
 
     void put(int index, const QString& value, std::vector<int>* changed);

@@ -74,7 +74,7 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
         if (!setting.stored)
             values_[index] = normalise(setting, loadDefault(setting), values_[index], limits(index)).value;
     }
-    std::map<int, QString> asRead;
+    std::vector<ReadNote> taken;
     std::vector<std::pair<int, CXmlSectionPtr>> late;
     for (const TableLayout::Group& group : layout.groups) {
         if (!holds(part, group.present))
@@ -86,7 +86,7 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
             if (layout.rows[row].setting->last)
                 late.emplace_back(row, elementOf(*section, group.path));
             else
-                readRow(part, row, *element, &asRead, notes);
+                readRow(part, row, *element, &taken);
         }
         QStringList inside;
         for (const TableLayout::Group& other : layout.groups) {
@@ -98,19 +98,22 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
                       inside, notes);
     }
     for (const auto& [row, element] : late)
-        readRow(part, row, *element, &asRead, notes);
+        readRow(part, row, *element, &taken);
     derive(part);
     keepBounds(part, nullptr);
-    for (const auto& [index, value] : asRead) {
-        if (values_[index] != value)
-            notes->push_back(
-                {ReadNote::What::value, path(index), index, value, values_[index], Change::byRule});
+    // What came later may have moved a value that was read before.
+    for (ReadNote& note : taken) {
+        if (const QString& held = value(note.index); held != note.value) {
+            note.value = held;
+            note.change = Change::byRule;
+        }
+        if (note.change != Change::none)
+            notes->push_back(note);
     }
 }
 
-// `asRead` gets the value before later rows and rules move it.
 void Configuration::readRow(const Part& part, int row, const CXmlSection& element,
-                            std::map<int, QString>* asRead, std::vector<ReadNote>* notes)
+                            std::vector<ReadNote>* notes)
 {
     const TableLayout::Row& place = part.layout->rows[row];
     const Setting& setting = *place.setting;
@@ -128,14 +131,9 @@ void Configuration::readRow(const Part& part, int row, const CXmlSection& elemen
         const QString bound = QString::fromLatin1(setting.otherwise);
         taken = {bound, bound == text ? Change::none : Change::byRule};
     }
-    (*asRead)[index] = taken.value;
     assign(part, place.target, taken.value, nullptr);
-    if (!found)
-        notes->push_back(
-            {ReadNote::What::value, place.path, part.first + row, {}, values_[index], Change::missing});
-    else if (taken.change != Change::none)
-        notes->push_back(
-            {ReadNote::What::value, place.path, part.first + row, text, values_[index], taken.change});
+    notes->push_back({ReadNote::What::value, place.path, part.first + row, found ? text : QString(),
+                      values_[index], found ? taken.change : Change::missing});
     pull(part, place.target, true, nullptr);
 }
 
