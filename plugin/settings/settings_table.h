@@ -170,4 +170,13 @@ consteval auto repeat(Make make)
     return all;
 }
 
+// Rows or rules that belong to repetition `number`, for repetitions that differ.
+template <class Row, std::size_t n>
+constexpr auto numbered(std::array<Row, n> rows, int number)
+{
+    for (Row& row : rows)
+        row.number = static_cast<std::uint8_t>(number);
+    return rows;
+}
+
 } // namespace vlk
