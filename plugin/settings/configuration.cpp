@@ -58,8 +58,13 @@ const QString& Configuration::value(int index) const
     static const QString none;
     if (index < 0 || index >= count())
         return none;
+    return values_[holder(index)];
+}
+
+int Configuration::holder(int index) const
+{
     const Part& part = partOf(index);
-    return values_[part.first + part.layout->rows[index - part.first].target];
+    return part.first + part.layout->rows[index - part.first].target;
 }
 
 bool Configuration::isWritten(int index) const
@@ -74,7 +79,10 @@ QString Configuration::written(int index) const
 {
     const Part& part = partOf(index);
     const TableLayout::Row& row = part.layout->rows[index - part.first];
-    return holds(part, row.free) ? value(index) : QString::fromLatin1(row.setting->otherwise);
+    if (!holds(part, row.free))
+        return QString::fromLatin1(row.setting->otherwise);
+    const QString& value = this->value(index);
+    return row.setting->blankIsZero && value.isEmpty() ? QStringLiteral("0") : value;
 }
 
 bool Configuration::holds(const Part& part, const TableLayout::Condition& condition) const
@@ -95,6 +103,16 @@ bool Configuration::holds(const SettingsTable& table, const TableLayout::Enable&
                     : std::all_of(rule.when.begin(), rule.when.end(), one);
 }
 
+double Configuration::gapOf(const SettingsTable& table, const TableLayout::Distance& rule) const
+{
+    return gapOf(partOf(table), rule);
+}
+
+double Configuration::gapOf(const Part& part, const TableLayout::Distance& rule) const
+{
+    return rule.gap + (rule.gapFrom >= 0 ? values_[part.first + rule.gapFrom].toDouble() : 0);
+}
+
 Limits Configuration::limits(int index) const
 {
     const Part& part = partOf(index);
@@ -104,6 +122,13 @@ Limits Configuration::limits(int index) const
     for (const TableLayout::RangeWhen& rule : part.layout->ranges) {
         if (rule.row == row && holds(part, rule.when))
             limits = {rule.rule->least, rule.rule->most};
+    }
+    // Each of two handles leaves the other one its room.
+    for (const TableLayout::Distance& rule : part.layout->distances) {
+        if (rule.gapFrom < 0 && row == rule.first)
+            limits.most = part.layout->rows[rule.second].setting->most - rule.gap;
+        else if (rule.gapFrom < 0 && row == rule.second)
+            limits.least = part.layout->rows[rule.first].setting->least + rule.gap;
     }
     return limits;
 }

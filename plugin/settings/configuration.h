@@ -55,7 +55,9 @@ public:
     const Setting& setting(int index) const { return *row(index).setting; }
     const QString& path(int index) const { return row(index).path; }
 
-    // The value that counts; of a link that of its target.
+    // The row that holds the value: of a link its target, else the row itself.
+    int holder(int index) const;
+    // The value that counts.
     const QString& value(int index) const;
     QString value(const QString& path) const { return value(indexOf(path)); }
     // Whether a file of this state has the key, and what it holds there.
@@ -82,6 +84,8 @@ public:
 
     // Whether the conditions of a rule of `table` hold.
     bool holds(const SettingsTable& table, const TableLayout::Enable& rule) const;
+    // The least distance that a rule of `table` keeps now, in units of the widget.
+    double gapOf(const SettingsTable& table, const TableLayout::Distance& rule) const;
     // Index of a table's first row.
     int firstOf(const SettingsTable& table) const;
 
@@ -95,6 +99,7 @@ private:
     const Part& partOf(int index) const;
     const Part& partOf(const SettingsTable& table) const;
     bool holds(const Part& part, const TableLayout::Condition& condition) const;
+    double gapOf(const Part& part, const TableLayout::Distance& rule) const;
     void resetPart(const Part& part);
     void readPart(const Part& part, const CXmlSection& root, std::vector<ReadNote>* notes);
     void readRow(const Part& part, int row, const CXmlSection& element, std::vector<ReadNote>* notes);

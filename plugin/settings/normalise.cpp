@@ -154,27 +154,12 @@ Normalised maskString(const Setting& setting, const QString& text)
     return noted(held, text, text.size() > setting.maxLength ? Change::tooLong : Change::otherForm);
 }
 
-QString translated(const DefaultText& text)
-{
-    const QString format = QString::fromUtf8(text.format);
-    return text.key ? format.arg(QCoreApplication::translate("vlk", text.key)) : format;
-}
-
 QString defaultText(const Setting& setting, double number, const DefaultText& text)
 {
-    switch (setting.kind) {
-    case Kind::flag:
-    case Kind::integer:
-    case Kind::scaled:
-    case Kind::period:
-    case Kind::bits:
-    case Kind::link:
-        return QString::number(static_cast<qint64>(number));
-    case Kind::real:
-        return QString::number(number, 'f', setting.decimals);
-    default:
-        return translated(text);
-    }
+    if (!text.format)
+        return QString::number(number, 'f', setting.kind == Kind::real ? setting.decimals : 0);
+    const QString format = QString::fromUtf8(text.format);
+    return text.key ? format.arg(QCoreApplication::translate("vlk", text.key)) : format;
 }
 
 } // namespace
@@ -218,6 +203,8 @@ Normalised normalise(const Setting& setting, const QString& text, const QString&
     case Kind::integer:
     case Kind::real:
     case Kind::scaled:
+        if (setting.blankIsZero && text.isEmpty())
+            return {text, Change::none};
         return number(setting, text, limits);
     case Kind::text:
         return setting.maxLength > 0 && text.size() > setting.maxLength

@@ -58,9 +58,10 @@ constexpr When unless(const char* path, const char* codes = "")
 }
 
 // A text of the file or one that follows the language: `format` with the translation of `key` for its %1.
+// Null where the default is a number.
 struct DefaultText
 {
-    const char* format = "";
+    const char* format = nullptr;
     const char* key = nullptr;
 };
 
@@ -115,10 +116,13 @@ struct Setting
     double step = 0; // of the widget; 0: as the form says
     std::uint8_t decimals = 0;
     std::int32_t factor = 1;
-    bool zeroIsOff = false;  // 0 for off, or a number of the range
-    bool singleRead = false; // read in single precision
-    std::int32_t on = 1;     // of a flag; other than 1: only this value is on
-    std::int32_t wrap = 0;   // of a period: what is beyond so many seconds is dropped
+    bool zeroIsOff = false;   // 0 for off, or a number of the range
+    double switchedOnAt = -1; // number that switching on brings; -1: the one that was there before
+    bool blankIsZero = false; // an empty value stays empty on show and is 0 in the file
+    bool singleRead = false;  // read in single precision
+    std::int32_t on = 1;      // of a flag; other than 1: only this value is on
+    bool inverted = false;    // of a flag: the box is checked for 0
+    std::int32_t wrap = 0;    // of a period: what is beyond so many seconds is dropped
     std::span<const Code> codes{};
     const char* offers = nullptr;   // codes of the list, "NU|NS+"; null: those with `offered`
     const char* fallback = nullptr; // what an unknown code stands for; null: the value stays
@@ -134,6 +138,7 @@ struct Setting
     const char* captionKey = nullptr;
     const char* widget = nullptr;
     const char* companion = nullptr; // check box or slider beside the widget
+    int column = 0;                  // the widget is a tree; the cell of this column in the row of the number
 
     When present{}; // else the key is neither read nor written
     When free{};    // else `otherwise` is written
@@ -176,6 +181,13 @@ struct Setting
     constexpr Setting offAtZero(const char* checkBox) const
     {
         return having(&Setting::zeroIsOff, true).having(&Setting::companion, checkBox);
+    }
+    constexpr Setting switchedOnTo(double value) const { return having(&Setting::switchedOnAt, value); }
+    constexpr Setting blankable() const { return having(&Setting::blankIsZero, true); }
+    constexpr Setting checkedForZero() const { return having(&Setting::inverted, true); }
+    constexpr Setting inCell(const char* tree, int number) const
+    {
+        return in(tree).having(&Setting::column, number);
     }
     constexpr Setting unknownIs(const char* code) const { return having(&Setting::fallback, code); }
     constexpr Setting noItemIs(const char* code) const { return having(&Setting::none, code); }

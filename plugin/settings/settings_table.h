@@ -87,7 +87,7 @@ constexpr void check(const Setting& row)
     if (row.kind == Kind::integer || row.kind == Kind::real || row.kind == Kind::scaled) {
         if (row.least > row.most)
             throw "a range is upside down";
-        if (!inRange(row, row.loadNumber) || (own && !inRange(row, row.resetNumber)))
+        if (!inRange(row, row.loadNumber) || (own && !row.resetText.format && !inRange(row, row.resetNumber)))
             throw "a default is outside its range";
     }
     if (row.kind == Kind::choice &&
@@ -103,29 +103,36 @@ constexpr void check(const Setting& row)
         throw "a period has no boxes";
 }
 
+// Compilers count the steps of a constant: names are compared by their hashes first.
+constexpr std::uint32_t hashOf(const char* name, std::uint32_t seed)
+{
+    std::uint32_t hash = seed;
+    for (; name && *name; ++name)
+        hash = (hash ^ static_cast<std::uint8_t>(*name)) * 16777619U;
+    return hash;
+}
+
 template <std::size_t n>
 constexpr void checkAll(const std::array<Setting, n>& rows)
 {
-    const Setting* group = nullptr;
+    std::array<std::uint32_t, n> keys{};
+    std::array<std::uint32_t, n> widgets{};
+    std::uint32_t group = 0;
     for (std::size_t i = 0; i < n; ++i) {
         const Setting& row = rows[i];
         check(row);
-        if (row.kind == Kind::group) {
-            if (group && same(group->key, row.key) && sameNumber(*group, row))
-                throw "two groups of one name stand side by side";
-            group = &row;
-        }
-        bool sameGroup = true;
+        const std::uint32_t number = 2166136261U + row.number * 1024U + row.inner;
+        if (row.kind == Kind::group)
+            group = hashOf(row.key, number);
+        keys[i] = row.kind == Kind::group ? group : hashOf(row.key, number ^ (group * 31U));
+        if (row.widget && row.kind != Kind::link)
+            widgets[i] = hashOf(row.widget, number + static_cast<std::uint32_t>(row.column) * 262144U);
+    }
+    for (std::size_t i = 0; i < n; ++i) {
         for (std::size_t j = i + 1; j < n; ++j) {
-            const Setting& other = rows[j];
-            sameGroup = sameGroup && other.kind != Kind::group;
-            if (sameGroup && row.kind != Kind::group && same(row.key, other.key) && sameNumber(row, other))
-                throw "a path stands twice";
-            if (row.kind == Kind::group && other.kind == Kind::group && same(row.key, other.key) &&
-                sameNumber(row, other))
-                throw "a group stands twice";
-            if (row.widget && row.kind != Kind::link && same(row.widget, other.widget) &&
-                sameNumber(row, other))
+            if (keys[i] == keys[j] && same(rows[i].key, rows[j].key) && sameNumber(rows[i], rows[j]))
+                throw "a path or a group stands twice";
+            if (widgets[i] != 0 && widgets[i] == widgets[j] && same(rows[i].widget, rows[j].widget))
                 throw "an object name stands twice";
         }
     }
@@ -135,7 +142,7 @@ constexpr void checkAll(const std::array<Setting, n>& rows)
 
 // Rows and arrays of rows in one array, checked.
 template <class... Rows>
-consteval auto rowsOf(const Rows&... rows)
+constexpr auto rowsOf(const Rows&... rows)
 {
     const auto all = tables::join(rows...);
     tables::checkAll(all);
@@ -144,7 +151,7 @@ consteval auto rowsOf(const Rows&... rows)
 
 // Rules and arrays of rules in one array.
 template <class... Rules>
-consteval auto rulesOf(const Rules&... rules)
+constexpr auto rulesOf(const Rules&... rules)
 {
     return tables::join(rules...);
 }
@@ -152,7 +159,7 @@ consteval auto rulesOf(const Rules&... rules)
 // What `make(number)` gives for 1 to `count`, each row with its number; an array inside is repeated as a
 // whole. For rows and rules alike.
 template <int count, class Make>
-consteval auto repeat(Make make)
+constexpr auto repeat(Make make)
 {
     constexpr auto one = [](const auto& made) { return tables::listOf(made); };
     using List = decltype(one(make(1)));

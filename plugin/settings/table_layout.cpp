@@ -116,6 +116,7 @@ private:
                     enable.when.push_back(condition(when, rule.number, rule.inner));
             }
             enable.any = rule.any;
+            enable.number = rule.number;
             enable.shows = rule.effect == Enable::Effect::shown;
             layout_.enables.push_back(enable);
         }

@@ -89,6 +89,7 @@ struct TableLayout
         std::vector<Condition> when;
         bool any = false;
         bool shows = false;
+        int number = 0;
     };
 
     const SettingsTable* table = nullptr;
