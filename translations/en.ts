@@ -110,14 +110,13 @@
     <message id="cfgt8_012"><translation>Line AIN3</translation></message>
     <message id="cfgt8_013"><translation>Line name</translation></message>
     <message id="cfgt8_014"><translation>Use as</translation></message>
-    <message id="cfgt8_015"><translation>Assign as the ignition line</translation></message>
+    <message id="cfgt8_015"><translation>Assign as ignition</translation></message>
     <message id="cfgt8_016"><translation>Record the restore</translation></message>
     <message id="cfgt8_017"><translation>Sensitivity threshold</translation></message>
     <message id="cfgt8_018"><translation>Ignore the threshold in motion</translation></message>
     <message id="cfgt8_019"><translation>Request the values</translation></message>
     <message id="cfgt8_020"><translation>Request automatically every</translation></message>
     <message id="cfgt8_021"><translation>Ignition</translation></message>
-    <message id="cfgt8_022"><translation>Voltages on the lines</translation></message>
     <message id="cfgt8_023"><translation>Signal analysis time</translation></message>
     <message id="cfgt8_024"><translation>Lower threshold</translation></message>
     <message id="cfgt8_025"><translation>Upper threshold</translation></message>
@@ -142,7 +141,6 @@
     <message id="cfgt8_044"><translation>Pulses per revolution</translation></message>
     <message id="cfgt8_045"><translation>By default</translation></message>
     <message id="cfgt8_046"><translation>Present</translation></message>
-    <message id="cfgt8_047"><translation>Voltage thresholds</translation></message>
     <message id="cfgt8_049"><translation>Restore</translation></message>
     <message id="cfgt8_050"><translation>Trigger</translation></message>
     <message id="cfgwnd_001"><translation>Quick setup</translation></message>

@@ -110,14 +110,13 @@
     <message id="cfgt8_012"><translation>Линия AIN3</translation></message>
     <message id="cfgt8_013"><translation>Название линии</translation></message>
     <message id="cfgt8_014"><translation>Использовать как</translation></message>
-    <message id="cfgt8_015"><translation>Назначить как линию зажигания</translation></message>
+    <message id="cfgt8_015"><translation>Назначить как зажигание</translation></message>
     <message id="cfgt8_016"><translation>Фиксировать восстановление</translation></message>
     <message id="cfgt8_017"><translation>Порог чувствительности</translation></message>
     <message id="cfgt8_018"><translation>Игнорировать порог в движении</translation></message>
     <message id="cfgt8_019"><translation>Запросить значения</translation></message>
     <message id="cfgt8_020"><translation>Запрашивать автоматически каждые</translation></message>
     <message id="cfgt8_021"><translation>Зажигание</translation></message>
-    <message id="cfgt8_022"><translation>Напряжения на линиях</translation></message>
     <message id="cfgt8_023"><translation>Время анализа сигнала</translation></message>
     <message id="cfgt8_024"><translation>Нижний порог</translation></message>
     <message id="cfgt8_025"><translation>Верхний порог</translation></message>
@@ -142,7 +141,6 @@
     <message id="cfgt8_044"><translation>Импульсов на оборот</translation></message>
     <message id="cfgt8_045"><translation>По умолчанию</translation></message>
     <message id="cfgt8_046"><translation>Текущее</translation></message>
-    <message id="cfgt8_047"><translation>Пороги напряжения</translation></message>
     <message id="cfgt8_049"><translation>Восстановление</translation></message>
     <message id="cfgt8_050"><translation>Сработка</translation></message>
     <message id="cfgwnd_001"><translation>Быстрая настройка</translation></message>

@@ -50,10 +50,13 @@ void VLK_Form_Config_Lines_In::retranslate()
 {
     ui_->retranslateUi(this);
     ui_->spinBox_AutoQuest_TimeOut->setSuffix(QLatin1Char(' ') + tr("abbr_003"));
-    for (VLK_Form_Lines_In_Settings* line : lines_)
-        line->retranslate();
     settings_.retranslate();
-    vlk::alignColumns(findChildren<QGridLayout*>(), 4);
+    QList<QGridLayout*> grids{ui_->gridLayout_In1, ui_->gridLayout_In2, ui_->gridLayout_In3};
+    for (VLK_Form_Lines_In_Settings* line : lines_) {
+        line->retranslate();
+        grids += line->grids();
+    }
+    vlk::alignColumns(grids, 4);
 }
 
 void VLK_Form_Config_Lines_In::setDefaults()

@@ -3,6 +3,7 @@
 #include "ui_VLK_Designer_Form_Lines_In_Settings.h"
 
 #include "settings/lines_in_settings.h"
+#include "windows/aligned_columns.h"
 #include "windows/page_settings.h"
 #include "windows/zone_colors.h"
 
@@ -20,9 +21,9 @@ struct UsePage
 };
 
 constexpr UsePage kPages[] = {
-    {"NU", &Form::page_NU, 10},    {"NS-", &Form::page_NB, 60},   {"NB-", &Form::page_NB, 60},
-    {"NS+", &Form::page_AIN, 90},  {"NB+", &Form::page_AIN, 90},  {"PLS", &Form::page_PLS, 180},
-    {"FRQ", &Form::page_FRQ, 60},  {"AIN", &Form::page_UI, 60},   {"TAHO", &Form::page_TAHO, 60},
+    {"NU", &Form::page_NU, 10},   {"NS-", &Form::page_NB, 60},  {"NB-", &Form::page_NB, 60},
+    {"NS+", &Form::page_AIN, 90}, {"NB+", &Form::page_AIN, 90}, {"PLS", &Form::page_PLS, 180},
+    {"FRQ", &Form::page_FRQ, 60}, {"AIN", &Form::page_UI, 60},  {"TAHO", &Form::page_TAHO, 60},
 };
 constexpr int kHeightWithoutLevels = 60;
 
@@ -61,6 +62,12 @@ void VLK_Form_Lines_In_Settings::retranslate()
                                 ui_->doubleSpinBox_FRQ_AIN_Cur, ui_->doubleSpinBox_TAHO_AIN_Cur})
         box->setSuffix(QLatin1Char(' ') + volt);
     showZones();
+    vlk::alignColumns({ui_->gridLayout_PLS, ui_->gridLayout_PLS_Work}, 4);
+}
+
+QList<QGridLayout*> VLK_Form_Lines_In_Settings::grids() const
+{
+    return {ui_->gridLayout_NB, ui_->gridLayout_AIN, ui_->gridLayout_UI};
 }
 
 void VLK_Form_Lines_In_Settings::setUse(const QString& code)

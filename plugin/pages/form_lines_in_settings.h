@@ -4,9 +4,12 @@
 // needs. Embedded once a line in the Input lines page, whose settings fill its widgets. What is its own: the
 // page on show, the zones of the threshold slider, and the line's present voltage, in volts.
 
+#include <QList>
 #include <QWidget>
 
 #include <memory>
+
+class QGridLayout;
 
 namespace vlk {
 class PageSettings;
@@ -27,6 +30,8 @@ public:
     // Those that the widgets belong to; they have to live as long as the form.
     void setSettings(vlk::PageSettings* settings) { settings_ = settings; }
     void retranslate();
+    // Those whose columns go with the columns of the page around the form.
+    QList<QGridLayout*> grids() const;
 
     // Shows the page of a use ("NB+"); an unknown one leaves the page as it is.
     void setUse(const QString& code);

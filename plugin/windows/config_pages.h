@@ -24,7 +24,7 @@ class VLK_Form_Config_Bluetooth;
 
 namespace vlk {
 
-using PageTuple = std::tuple<VLK_Form_Config_Transfer*>;
+using PageTuple = std::tuple<VLK_Form_Config_Transfer*, VLK_Form_Config_Lines_In*>;
 
 class ConfigPages
 {

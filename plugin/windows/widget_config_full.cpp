@@ -5,6 +5,7 @@
 #include "base/clock.h"
 #include "host/device_r7106.h"
 #include "host/requests.h"
+#include "pages/form_config_lines_in.h"
 #include "pages/form_config_transfer.h"
 #include "windows/file_names.h"
 #include "windows/input_guard.h"
