@@ -2,10 +2,11 @@
 
 #include "ui_VLK_Designer_Form_Config_Lines_In.h"
 
-#include "host/host_interface.h"
+#include "link/messages.h"
+#include "pages/form_lines_in_settings.h"
 #include "settings/lines_in_settings.h"
 #include "windows/aligned_columns.h"
-#include "windows/widget_config_full.h"
+#include "windows/wnd_config_full.h"
 
 #include <QtEndian>
 

@@ -4,7 +4,7 @@
 // (form_lines_in_settings.h). Its settings are those of the section SENSORS (settings/lines_in_settings.h).
 // It shows the voltages on the lines, asked for once or as long as the window's monitor runs.
 
-#include "windows/page_settings.h"
+#include "windows/binder/page_settings.h"
 
 #include <QWidget>
 
@@ -35,7 +35,7 @@ public:
     vlk::PageSettings& settings() { return settings_; }
 
     // Answers with the voltages: seven bytes of the host's and "21:1F4,22:0", line and millivolts in
-    // hexadecimal; a record with three words (host_interface.h), which may be null.
+    // hexadecimal; a record with three words (messages.h), which may be null.
     void showLineValues(const QByteArray& answer);
     void showAnalogRecord(const uchar* record);
     // The monitor has stopped.

@@ -4,7 +4,7 @@
 // TRANS (settings/transfer_settings.h). It owns the dialogs with the two lists of operators and the server
 // test; none of them outlives the window that the page stands in.
 
-#include "windows/page_settings.h"
+#include "windows/binder/page_settings.h"
 
 #include <QPointer>
 #include <QWidget>

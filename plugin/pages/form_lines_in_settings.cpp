@@ -4,7 +4,7 @@
 
 #include "settings/lines_in_settings.h"
 #include "windows/aligned_columns.h"
-#include "windows/page_settings.h"
+#include "windows/binder/page_settings.h"
 #include "windows/zone_colors.h"
 
 #include <algorithm>

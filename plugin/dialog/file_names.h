@@ -13,7 +13,7 @@ namespace vlk {
 QString configurationPathToWrite(const QString& part);
 
 // Asks the user for a file in the folder of configurations, suggesting a name made of the object's name and
-// the time. Empty when the user cancels.
+// the time. A name without a suffix gets ".xml". Empty when the user cancels.
 QString askConfigurationPath(QWidget* parent, const QString& objectName);
 
 } // namespace vlk

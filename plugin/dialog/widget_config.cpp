@@ -1,39 +1,37 @@
-#include "windows/widget_config.h"
+#include "dialog/widget_config.h"
 
 #include "ui_VLK_Designer_Widget_Config.h"
 
-#include "host/device_r7106.h"
-#include "host/requests.h"
-#include "windows/file_names.h"
-#include "windows/widget_config_full.h"
-#include "windows/widget_config_light.h"
+#include "dialog/file_names.h"
+#include "dialog/widget_config_full.h"
+#include "dialog/widget_config_light.h"
+#include "link/device.h"
+#include "link/requests.h"
 #include "xml/xml_document.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
-
-VLK_Widget_Config* vlkConfigDialog = nullptr;
 
 VLK_Widget_Config::VLK_Widget_Config(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
       ui_(std::make_unique<Ui::VLK_Designer_Widget_Config>())
 {
-    vlkConfigDialog = this;
     ui_->setupUi(this);
     setWindowModality(Qt::ApplicationModal);
     lightWindow_ = new VLK_Widget_Config_Light(this);
     fullWindow_ = new VLK_Widget_Config_Full(this);
     ui_->gridLayout_Light->addWidget(lightWindow_);
     ui_->gridLayout_Full->addWidget(fullWindow_);
+    connect(lightWindow_, &VLK_Widget_Config_Light::closeRequested, this, &QDialog::close);
+    connect(lightWindow_, &VLK_Widget_Config_Light::writeRequested, this,
+            &VLK_Widget_Config::writeQuickToDevice);
+    connect(lightWindow_, &VLK_Widget_Config_Light::saveRequested, this, &VLK_Widget_Config::saveQuickToFile);
+    connect(lightWindow_, &VLK_Widget_Config_Light::fullRequested, this, &VLK_Widget_Config::switchToFull);
+    connect(fullWindow_, &VLK_Widget_Config_Full::closeRequested, this, &QDialog::close);
+    connect(fullWindow_, &VLK_Widget_Config_Full::quickRequested, this, &VLK_Widget_Config::switchToQuick);
     retranslate();
 }
 
-VLK_Widget_Config::~VLK_Widget_Config()
-{
-    if (vlkConfigDialog == this)
-        vlkConfigDialog = nullptr;
-}
+VLK_Widget_Config::~VLK_Widget_Config() = default;
 
 void VLK_Widget_Config::open(const vlk::OpenRequest& request, char* ussdBuffer)
 {
@@ -69,28 +67,22 @@ void VLK_Widget_Config::writeQuickToDevice()
     if (!vlkDevice)
         return;
     const QString path = vlk::configurationPathToWrite(vlkDevice->model());
-    saveQuickToFile(path);
-    vlk::requests::writeConfiguration(path);
+    if (saveQuickToFile(path))
+        vlk::requests::writeConfiguration(path);
 }
 
-void VLK_Widget_Config::saveQuickToFile(const QString& path)
+bool VLK_Widget_Config::saveQuickToFile(const QString& path)
 {
-    fullWindow_->saveFile(path);
+    return fullWindow_->saveFile(path);
 }
 
 void VLK_Widget_Config::switchToFull()
 {
-    // The state goes over in memory, so that a folder that cannot be written costs nothing.
-    const QString path = QDir::current().filePath(QStringLiteral("file.xml"));
-    {
-        vlk::XmlDocument document(path, QStringLiteral("DEVICE"));
-        document.root()->clear();
-        fullWindow_->saveToXml(document.root());
-        document.root()->commit();
-        char unusedUssd[vlk::balanceUssdSize] = {};
-        fullWindow_->loadFromXml(document.root(), unusedUssd);
-    }
-    QFile::remove(path);
+    vlk::XmlDocument state(QString(), QStringLiteral("DEVICE"));
+    fullWindow_->saveToXml(state.root());
+    state.root()->commit();
+    char unusedUssd[vlk::balanceUssdSize] = {};
+    fullWindow_->loadFromXml(state.root(), unusedUssd);
     ui_->stackedWidget->setCurrentWidget(ui_->page_Full);
 }
 

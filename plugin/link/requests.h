@@ -3,7 +3,7 @@
 // What the plug-in asks of the host, one typed function a message. Nothing is sent before the host has called
 // Initialize. Answers come later as messages of their own, perhaps before the function returns.
 
-#include "host/host_interface.h"
+#include "link/messages.h"
 
 namespace vlk::requests {
 

@@ -10,6 +10,8 @@
 
 #include <functional>
 
+namespace vlk {
+
 class ConfigMonitor : public QObject
 {
     Q_OBJECT
@@ -54,6 +56,7 @@ public:
 private:
     enum Step { Idle = 0, Reading = 1, WaitingForCommand = 2 };
 
+    void sendCommand();
     void end();
 
     Window window_;
@@ -61,7 +64,11 @@ private:
     int awaitingAnswer_ = 0;
     int monitorStep_ = Idle;
     QTimer timerAnalog_;
+    QTimer repeat_;
+    bool sending_ = false;
     int monitorPeriodMs_ = 3000;
     bool monitorOn_ = false;
     bool connected_ = false;
 };
+
+} // namespace vlk

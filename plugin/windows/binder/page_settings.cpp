@@ -1,4 +1,4 @@
-#include "windows/page_settings.h"
+#include "windows/binder/page_settings.h"
 
 #include "xml/xml_section.h"
 

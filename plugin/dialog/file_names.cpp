@@ -1,7 +1,7 @@
-#include "windows/file_names.h"
+#include "dialog/file_names.h"
 
 #include "base/clock.h"
-#include "host/device_r7106.h"
+#include "link/device.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -27,8 +27,12 @@ QString askConfigurationPath(QWidget* parent, const QString& objectName)
         QStringLiteral("%1/%2(%3).xml")
             .arg(vlkDevice->xmlFolder(), name, now().toString(QStringLiteral("dd-MM-yy hh_mm_ss")));
     const auto text = [](const char* key) { return QCoreApplication::translate("vlk", key); };
-    return QFileDialog::getSaveFileName(parent, text("cfgwnd_003"), suggested,
-                                        QStringLiteral("%1 XML (*.xml)").arg(text("cfgwnd_004")));
+    QFileDialog dialog(parent, text("cfgwnd_003"), suggested,
+                       QStringLiteral("%1 XML (*.xml)").arg(text("cfgwnd_004")));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    // The dialog knows it too, so that it asks about the file that will be replaced.
+    dialog.setDefaultSuffix(QStringLiteral("xml"));
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
 } // namespace vlk

@@ -1,6 +1,8 @@
-#include "host/requests.h"
+#include "link/requests.h"
 
-#include "host/device_r7106.h"
+#include "link/device.h"
+
+vlk::Device* vlkDevice = nullptr;
 
 namespace vlk::requests {
 

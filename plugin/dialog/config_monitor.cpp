@@ -1,18 +1,27 @@
-#include "windows/config_monitor.h"
+#include "dialog/config_monitor.h"
 
-#include "host/requests.h"
+#include "link/requests.h"
 
 #include <utility>
+
+namespace vlk {
 
 namespace {
 // Status bytes of a command that was carried out.
 constexpr int commandDone = 1;
 constexpr int commandDoneAlso = 49;
+// How long a command waits that was refused before its request returned, in milliseconds.
+constexpr int pauseMs = 100;
 } // namespace
 
 ConfigMonitor::ConfigMonitor(Window window, QObject* parent)
     : QObject(parent), window_(std::move(window)), timerAnalog_(this)
 {
+    repeat_.setSingleShot(true);
+    connect(&repeat_, &QTimer::timeout, this, [this] {
+        if (connected_ && monitorStep_ == WaitingForCommand && window_.currentTab() == Tab::Accel)
+            sendCommand();
+    });
 }
 
 void ConfigMonitor::startAccel(bool on, int periodMs)
@@ -41,13 +50,13 @@ void ConfigMonitor::pollCurrentTab()
 {
     switch (window_.currentTab()) {
     case Tab::Accel:
-        vlk::requests::accel();
+        requests::accel();
         break;
     case Tab::InputLines:
-        vlk::requests::analog();
+        requests::analog();
         break;
     case Tab::System:
-        vlk::requests::supply();
+        requests::supply();
         break;
     case Tab::Other:
         break;
@@ -57,21 +66,33 @@ void ConfigMonitor::pollCurrentTab()
 void ConfigMonitor::requestAccel()
 {
     if (window_.currentTab() == Tab::Accel)
-        vlk::requests::accel();
+        requests::accel();
 }
 
 void ConfigMonitor::requestAccelResult()
 {
-    if (awaitingAnswer_ != 0)
-        return;
+    if (awaitingAnswer_ == 0)
+        sendCommand();
+}
+
+// The answer may come within the call and ask for the next command there: that one waits, since a host which
+// refuses every command would otherwise never return from the first.
+void ConfigMonitor::sendCommand()
+{
     timerAnalog_.stop();
-    vlk::requests::accelCommand();
+    if (sending_) {
+        repeat_.start(pauseMs);
+        return;
+    }
+    sending_ = true;
+    requests::accelCommand();
+    sending_ = false;
 }
 
 void ConfigMonitor::requestLines(const QByteArray& list)
 {
     if (window_.currentTab() == Tab::InputLines)
-        vlk::requests::lines(list);
+        requests::lines(list);
 }
 
 void ConfigMonitor::linesAnswered()
@@ -96,10 +117,9 @@ void ConfigMonitor::accelCommandAnswered(int status)
     awaitingAnswer_ = 0;
     monitorStep_ = Idle;
     if (status != commandDone && status != commandDoneAlso) {
-        timerAnalog_.stop();
         // The step is set first: the answer may come before the request returns.
         monitorStep_ = WaitingForCommand;
-        vlk::requests::accelCommand();
+        sendCommand();
         return;
     }
     window_.clearAccelDisplay();
@@ -124,3 +144,5 @@ void ConfigMonitor::end()
     monitorOn_ = false;
     window_.stopPages();
 }
+
+} // namespace vlk

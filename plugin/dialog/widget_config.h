@@ -3,7 +3,7 @@
 // The one window of the configuration: the quick and the full window on a stack, of which one is on show. It
 // brings a configuration in from a file, moves it between the two and takes it out to a file or to the
 // tracker. A file always goes into the full window, and into the quick window when that one is shown.
-// Failures of files are not told to the user.
+// Failures of files are told to the log alone, and what could not be saved is not written to the tracker.
 
 #include <QDialog>
 
@@ -36,7 +36,8 @@ public:
     void deviceConnected();
     void deviceDisconnected();
     void writeQuickToDevice();
-    void saveQuickToFile(const QString& path);
+    // False when that failed, which the log says (base/save_log.h).
+    bool saveQuickToFile(const QString& path);
     void switchToFull();
     void switchToQuick();
     void retranslate();
@@ -48,6 +49,3 @@ private:
     VLK_Widget_Config_Light* lightWindow_;
     VLK_Widget_Config_Full* fullWindow_;
 };
-
-// Set by the constructor; the two windows reach each other through it.
-extern VLK_Widget_Config* vlkConfigDialog;
