@@ -73,7 +73,7 @@ QList<QGridLayout*> VLK_Form_Lines_In_Settings::grids() const
 void VLK_Form_Lines_In_Settings::setUse(const QString& code)
 {
     const UsePage* use = pageOf(code);
-    if (!use)
+    if (!use || code == use_)
         return;
     use_ = code;
     QWidget* page = ui_.get()->*use->page;

@@ -16,14 +16,13 @@ constexpr Code kUses[] = {
     {.code = "TAHO", .label = "cfgt8_008"},
 };
 
-// Tenths of a millisecond. 0 is what a file gets when none of the others was chosen.
+// Tenths of a millisecond.
 constexpr Code kAnalysisTimes[] = {
     {.code = "1250", .label = "abbr_040", .format = "125 %1"},
     {.code = "2500", .label = "abbr_040", .format = "250 %1"},
     {.code = "5000", .label = "abbr_040", .format = "500 %1"},
     {.code = "10000", .label = "abbr_040", .format = "1000 %1"},
     {.code = "20000", .label = "abbr_040", .format = "2000 %1"},
-    {.code = "0", .offered = false},
 };
 
 constexpr Code kCountResets[] = {

@@ -92,7 +92,7 @@ constexpr void check(const Setting& row)
     }
     if (row.kind == Kind::choice &&
         (!knownCode(row, row.loadText.format) || (own && !knownCode(row, row.resetText.format)) ||
-         (row.fallback && !knownCode(row, row.fallback))))
+         (row.fallback && !knownCode(row, row.fallback) && !same(row.fallback, row.none))))
         throw "a default is none of the choices";
     if (row.kind == Kind::digits && std::string_view(row.loadText.format).size() > row.positions.size())
         throw "a default has more digits than there are positions";
