@@ -10,6 +10,8 @@
 // and a line in PageTuple.
 
 #include "pages/form_config_lines_in.h"
+#include "pages/form_config_system.h"
+#include "pages/form_config_track.h"
 #include "pages/form_config_transfer.h"
 
 #include <concepts>
@@ -17,7 +19,8 @@
 
 namespace vlk {
 
-using PageTuple = std::tuple<VLK_Form_Config_Transfer*, VLK_Form_Config_Lines_In*>;
+using PageTuple = std::tuple<VLK_Form_Config_Transfer*, VLK_Form_Config_Track*, VLK_Form_Config_System*,
+                             VLK_Form_Config_Lines_In*>;
 
 // deviceConnected(), deviceDisconnected()
 template <class Page>
