@@ -39,12 +39,9 @@ private Q_SLOTS:
         DataTable<int, QString, QString, QString, QString, int>(
             {"line", "item", "code", "child", "shown", "height"})
             .row("IN1 not used", 1, "cfgt8_002", "NU", "", "page_NU", 10)
-            .row("IN1 closed", 1, "cfgt8_003+", "NS+", "IN1ADIN", "page_AIN", 60)
             .row("IN1 open", 1, "cfgt8_004+", "NB+", "IN1ADIN", "page_AIN", 60)
-            .row("IN2 not used", 2, "cfgt8_002", "NU", "", "page_NU", 10)
             .row("IN2 closed", 2, "cfgt8_003-", "NS-", "IN2DIN", "page_NB", 60)
             .row("IN2 open", 2, "cfgt8_004-", "NB-", "IN2DIN", "page_NB", 60)
-            .row("IN3 not used", 3, "cfgt8_002", "NU", "", "page_NU", 10)
             .row("IN3 closed", 3, "cfgt8_003+", "NS+", "IN3ADIN", "page_AIN", 90)
             .row("IN3 open", 3, "cfgt8_004+", "NB+", "IN3ADIN", "page_AIN", 90)
             .row("IN3 analogue", 3, "cfgt8_007", "AIN", "IN3AIN", "page_UI", 60);
@@ -102,9 +99,6 @@ private Q_SLOTS:
             .row("an unknown time", {"IN2/normState=NB-", "IN2/IN2DIN/analysTime=7000"},
                  {"IN2/IN2DIN/analysTime=0"})
             .row("a threshold", {"IN3/normState=AIN", "IN3/IN3AIN/thld=700"}, {"IN3/IN3AIN/thld=700"})
-            .row("no threshold", {"IN3/normState=AIN"}, {"IN3/IN3AIN/thld=2000", "IN3/IN3AIN/trhldOff=1"})
-            .row("a threshold too high", {"IN3/normState=AIN", "IN3/IN3AIN/thld=40000"},
-                 {"IN3/IN3AIN/thld=32000"})
             .row("levels too close",
                  {"IN3/normState=NS+", "IN3/IN3ADIN/lowLvl=6000", "IN3/IN3ADIN/highLvl=6200"},
                  {"IN3/IN3ADIN/lowLvl=5700", "IN3/IN3ADIN/highLvl=6200"})
@@ -123,7 +117,7 @@ private Q_SLOTS:
         load(file);
         for (const QString& key : saves)
             QCOMPARE(key.section('=', 0, 0) + '=' + saved(key.section('=', 0, 0)), key);
-        const bool used = file.first() == "IN1/normState=NB+";
+        const bool used = file.first() != "IN1/normState=NU";
         QCOMPARE(box("Ignition", 1)->isChecked(), used);
         QCOMPARE(box("ControlRestore", 1)->isChecked(), used);
         QCOMPARE(child<QComboBox>("comboBox_NormState_In3")->currentIndex() < 0,
@@ -198,7 +192,7 @@ private Q_SLOTS:
         QVERIFY(!work->isEnabled() && !part<QWidget>(2, "groupBox_PLS_SetLine")->isEnabled());
         QVERIFY(part<QWidget>(3, "groupBox_PLS_Work")->isEnabled());
 
-        for (const QString& name : {"PLS", "FRQ", "TAHO"}) {
+        for (const QString name : {"PLS", "FRQ", "TAHO"}) {
             auto* slider = part<QSlider>(2, "horizontalSlider_" + name + "_ThldBand");
             auto* level = part<QDoubleSpinBox>(2, "doubleSpinBox_" + name + "_ThldBand");
             level->setValue(3.14);
