@@ -1,5 +1,6 @@
 #include "settings/all_settings.h"
 
+#include "settings/lines_in_settings.h"
 #include "settings/system_settings.h"
 #include "settings/track_settings.h"
 #include "settings/transfer_settings.h"
@@ -9,7 +10,7 @@ namespace vlk {
 const std::vector<const SettingsTable*>& allSettings()
 {
     static const std::vector<const SettingsTable*> tables = {&kTransferSettings, &kTrackSettings,
-                                                             &kSystemSettings};
+                                                             &kSystemSettings, &kLinesInSettings};
     return tables;
 }
 
