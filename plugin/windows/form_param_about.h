@@ -26,6 +26,7 @@ public:
 
 protected:
     void hideEvent(QHideEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private Q_SLOTS:
     void slot_pressed_Btn_Ok();
