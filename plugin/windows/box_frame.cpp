@@ -7,7 +7,7 @@ namespace vlk {
 
 void paintBoxFrame(QWidget* dialog)
 {
-    // Halfway between text and ground, which is seen on a light and on a dark desktop.
+    // Halfway between text and background, so that it can be seen on a light and on a dark desktop.
     QColor line = dialog->palette().color(QPalette::WindowText);
     line.setAlphaF(0.5);
     QPainter painter(dialog);

@@ -38,7 +38,7 @@ void VLK_Form_Param_About::retranslate()
 void VLK_Form_Param_About::hideEvent(QHideEvent* event)
 {
     QDialog::hideEvent(event);
-    // A spontaneous event is the desktop hiding the window for a while, not its end.
+    // A spontaneous event means that the desktop hides the window for a while; the texts stay then.
     if (!event->spontaneous())
         clearTexts();
 }

@@ -38,7 +38,7 @@ void vlk_Socket::test(const QString& address, int port)
     elapsed_ = 0;
     describe();
     progress_.showForm();
-    // The button of this dialog stops nothing; Esc and closing do.
+    // The button is not connected in this dialog; Esc and closing end the wait.
     progress_.setBreakVisible(false);
     timerTestServer_.start(limits_.tick);
     timer_.start(limits_.whole);

@@ -163,7 +163,7 @@ private Q_SLOTS:
             QCOMPARE(written.size(), 1);
             const QByteArray first = readFile(written[0].text1);
 
-            // Within the same minute, as far as a test can say, and into the same file.
+            // Into the same file, unless the minute has just changed.
             host_.open(configuration(QStringLiteral("Second")), full);
             const QRegularExpression told(QStringLiteral("^/.+\\.xml: .*File too large$"));
             const FullDisk disk(100);

@@ -88,7 +88,7 @@ private Q_SLOTS:
         QVERIFY(!dialog()->isVisible());
         QVERIFY(!server.hasPendingConnections());
 
-        // The server comes late; the next test starts from nothing and finds it.
+        // The next test starts anew and finds the server that listens by now.
         if (!server.isListening())
             QVERIFY(server.listen(QHostAddress::LocalHost, port));
         tester.test(here_, port);
