@@ -251,12 +251,15 @@ private Q_SLOTS:
     void retranslateStartsLists()
     {
         load({{"SRV1/addr", "a.example"}, {"SRV1/protocol", "UNDS"}, {"ROAMSIM1/mode", "3"}});
+        get<QComboBox>("Transfer_comboBox_GSM_Operator_1")->setCurrentIndex(5);
         page().retranslate();
         for (const QComboBox* list : page().findChildren<QComboBox*>())
             QCOMPARE(list->currentIndex(), 0);
         QCOMPARE(saved("SRV1/addr"), QString("a.example"));
         QVERIFY(isOn("frame_RBlock"));
         QVERIFY(!isOn("frame_RPerion"));
+        QVERIFY(!isOn("pushButton_AutoAPN_1"));
+        QCOMPARE(page().settings().binder().disagreements(), QStringList());
     }
 
 private:

@@ -243,7 +243,9 @@ void Binder::edited(int index, const QString& value)
             if (other != index)
                 showRow(other - first_);
         }
-        if (configuration_.value(index) != value)
+        // A slider or a slot may have made the edit, or a rule may have changed it.
+        const Adapter* own = adapters_[index - first_].get();
+        if (own && own->held() != configuration_.value(index))
             showRow(index - first_);
         for (const auto& handles : handles_)
             handles->show();
@@ -253,6 +255,13 @@ void Binder::edited(int index, const QString& value)
     evaluateRules();
     for (const int other : changed)
         Q_EMIT this->changed(configuration_.path(other).mid(layout_.section.size() + 1));
+}
+
+void Binder::set(int index, const QString& value)
+{
+    edited(index, value);
+    const Showing showing(showing_);
+    showRow(index - first_);
 }
 
 void Binder::take(const QString& widget)
@@ -279,8 +288,8 @@ void Binder::selectFirstItems()
 {
     for (const auto& adapter : adapters_) {
         if (dynamic_cast<ChoiceAdapter*>(adapter.get()))
-            edited(adapter->index(),
-                   QString::fromLatin1(configuration_.setting(adapter->index()).codes[0].code));
+            set(adapter->index(),
+                QString::fromLatin1(configuration_.setting(adapter->index()).codes[0].code));
     }
 }
 
