@@ -245,6 +245,7 @@
     <message id="cfgwnd_004"><translation>Configuration file</translation></message>
     <message id="cfgwnd_005"><translation>Quick setup shows only a part of the settings.</translation></message>
     <message id="cfgwnd_006"><translation>Switch to quick setup?</translation></message>
+    <message id="cfgwnd_007"><translation>Esc: stop waiting</translation></message>
     <message id="tmiex_001"><translation>Navigation</translation></message>
     <message id="tmiex_002"><translation>Receiver</translation></message>
     <message id="tmiex_003"><translation>Satellites</translation></message>

@@ -245,6 +245,7 @@
     <message id="cfgwnd_004"><translation>Файл конфигурации</translation></message>
     <message id="cfgwnd_005"><translation>В быстрой настройке видна только часть параметров.</translation></message>
     <message id="cfgwnd_006"><translation>Перейти к быстрой настройке?</translation></message>
+    <message id="cfgwnd_007"><translation>Esc: не ждать</translation></message>
     <message id="tmiex_001"><translation>Навигация</translation></message>
     <message id="tmiex_002"><translation>Приёмник</translation></message>
     <message id="tmiex_003"><translation>Спутники</translation></message>
