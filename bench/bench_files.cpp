@@ -36,7 +36,7 @@ TelemetryPages pagesWith(int count, int fields)
         mask.set(i * kFieldCount / fields);
     TelemetryPages pages;
     for (int i = 0; i < count; ++i)
-        pages.push_back(std::make_unique<TmiPage_Zeta3>(176, 30, mask, plausibleBlock(random)));
+        pages.push_back(std::make_unique<TmiPage_Zeta3>(176, 30, mask, plausibleBlock(random), 10800));
     return pages;
 }
 

@@ -17,7 +17,7 @@ std::vector<std::unique_ptr<TmiPage_Zeta3>> fullPages()
     std::mt19937 random(7106);
     std::vector<std::unique_ptr<TmiPage_Zeta3>> pages(100);
     for (auto& page : pages)
-        page = std::make_unique<TmiPage_Zeta3>(176, 30, everyField(), plausibleBlock(random));
+        page = std::make_unique<TmiPage_Zeta3>(176, 30, everyField(), plausibleBlock(random), 10800);
     return pages;
 }
 
