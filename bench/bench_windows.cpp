@@ -4,7 +4,7 @@
 #include "bench/opened_dialogs.h"
 #include "bench/side_by_side.h"
 #include "bench/xml_reader_alone.h"
-#include "windows/widget_config_full.h"
+#include "dialog/widget_config_full.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 // The configuration dialog with a whole configuration, and an empty dialog beside it.
 
 #include "bench/settle.h"
-#include "host/device_r7106.h"
-#include "windows/widget_config.h"
+#include "dialog/widget_config.h"
+#include "link/messages.h"
 
 #include <QApplication>
 #include <QDialog>

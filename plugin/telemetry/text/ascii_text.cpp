@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
@@ -66,13 +67,10 @@ AsciiText& AsciiText::addGeneral(double number)
         return *this << '0';
     if (!(size >= 1e-4 && size < 999'999))
         return *this << slowly(number, 'g', 6);
-    int decimals = 5;
-    for (double power = 10; size >= power; power *= 10)
-        --decimals;
-    for (const double power : {1.0, 0.1, 0.01, 0.001}) {
-        if (size < power)
-            ++decimals;
-    }
+    // Six digits from the first that is not zero on.
+    constexpr double kPowers[] = {0.001, 0.01, 0.1, 1, 10, 100, 1e3, 1e4, 1e5};
+    const auto reached = std::ranges::count_if(kPowers, [size](double power) { return size >= power; });
+    const int decimals = 9 - static_cast<int>(reached);
     addFixed(number, decimals);
     if (decimals > 0) {
         size_ = view().find_last_not_of('0') + 1;
