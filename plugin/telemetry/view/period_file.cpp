@@ -1,16 +1,40 @@
 #include "telemetry/view/period_file.h"
 
-#include "host/requests.h"
+#include "base/save_log.h"
+#include "base/whole_file.h"
 
-#include <QLoggingCategory>
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QStorageInfo>
 
 namespace vlk {
 
 namespace {
-Q_LOGGING_CATEGORY(lcTelemetry, "vlk.telemetry")
+
+// A disk that fills in the middle of a write leaves no error of its own.
+QString reasonOf(const QSaveFile& file)
+{
+    if (file.error() != QFileDevice::NoError)
+        return file.errorString();
+    const auto word = [](const char* key) { return QCoreApplication::translate("vlk", key); };
+    const qint64 free = QStorageInfo(QFileInfo(file.fileName()).path()).bytesAvailable();
+    return QStringLiteral("%1: %2 %3").arg(word("tmiw_183")).arg(free).arg(word("wrd_016"));
 }
 
-bool writePeriod(const QString& path, TelemetryForm form, const RecordBytes& records,
+} // namespace
+
+QString periodFileName(const QString& vehicle, const QDateTime& first, const QDateTime& last)
+{
+    // A vehicle's name is free text; a file name is not.
+    static const QRegularExpression forbidden(QStringLiteral("[\\\\/:*?\"<>|\\x00-\\x1f]"));
+    const auto text = [](const QDateTime& time) { return time.toString(QStringLiteral("yyyy-MM-dd hh-mm")); };
+    return QStringLiteral("%1 %2 - %3")
+        .arg(QString(vehicle).replace(forbidden, QStringLiteral("_")), text(first), text(last))
+        .trimmed();
+}
+
+bool writePeriod(const QString& path, PeriodWriter write, const RecordBytes& records,
                  const TelemetryOrigin& origin)
 {
     TelemetryPages pages;
@@ -19,9 +43,10 @@ bool writePeriod(const QString& path, TelemetryForm form, const RecordBytes& rec
         pages.push_back(std::make_unique<TmiPage_Zeta3>(record.constData(), record.size()));
         pages.back()->setUtcOffset(origin.timeOffset);
     }
-    if (saveTelemetryFile(path, form, pages, origin, &requests::eventText))
+    QSaveFile file(path);
+    if (saveWhole(file, [&](QIODevice& device) { return write(device, pages, origin); }))
         return true;
-    qCWarning(lcTelemetry).noquote() << "a period of" << records.size() << "records was not saved as" << path;
+    qCWarning(lcSave).noquote() << path + QLatin1String(": ") + reasonOf(file);
     return false;
 }
 
