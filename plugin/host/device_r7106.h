@@ -43,6 +43,8 @@ public:
     quint64 capabilityMask() const { return trackerMask_; }
     bool connected() const { return connected_; }
     int mode() const { return hostMode_; }
+    // Modes 1 and 2; every other one is an ordinary one.
+    bool isProduction() const { return hostMode_ == 1 || hostMode_ == 2; }
     // First three version numbers, "3.3.0".
     QString fileVersion() const;
 

@@ -5,6 +5,9 @@
 #include "host/requests.h"
 #include "telemetry/view/event_panel.h"
 #include "telemetry/view/stored_file.h"
+#include "windows/fit_to_screen.h"
+
+#include <QStyle>
 
 #include <algorithm>
 #include <limits>
@@ -37,7 +40,11 @@ VLK_Widget_Tmi_Page::VLK_Widget_Tmi_Page(QWidget* parent)
 {
     ui_->verticalLayout_Event->addWidget(eventPanel_);
     ui_->pushButton_Go->hide();
+    ui_->label_NoRecord->hide();
+    ui_->pushButton_Begin->setIcon(style()->standardIcon(QStyle::SP_MediaSkipBackward));
+    ui_->pushButton_End->setIcon(style()->standardIcon(QStyle::SP_MediaSkipForward));
     connectControls();
+    vlk::keepOnScreen(this);
     stack_.showNothing();
     retranslate();
 }
@@ -69,13 +76,16 @@ void VLK_Widget_Tmi_Page::connectControls()
 void VLK_Widget_Tmi_Page::open(const QString& path)
 {
     stack_.showNothing();
+    // A file may be large: two of them need not be in memory.
+    pages_ = TelemetryPages();
     TelemetryContents contents = readStoredFile(path);
     pages_ = std::move(contents.pages);
+    ui_->label_NoRecord->hide();
     if (pages_.empty())
         return;
     stack_.setTracker(contents.titles, 0);
     setRange(lastPosition(pages_));
-    showPage(0);
+    goTo(0);
 }
 
 void VLK_Widget_Tmi_Page::setRange(int last)
@@ -92,16 +102,31 @@ void VLK_Widget_Tmi_Page::setRange(int last)
 
 void VLK_Widget_Tmi_Page::showPage(std::size_t position)
 {
-    if (position >= pages_.size())
+    currentPage_ = position;
+    stack_.showDecoded(*pages_[position]);
+}
+
+void VLK_Widget_Tmi_Page::goTo(int position)
+{
+    if (pages_.empty())
         return;
-    const bool isFirst = position == 0;
-    const bool isLast = position + 1 == pages_.size();
+    const auto page = static_cast<std::size_t>(position);
+    const bool isFirst = page == 0;
+    const bool isLast = page + 1 >= pages_.size();
     ui_->pushButton_Begin->setEnabled(!isFirst);
     ui_->pushButton_Get_Prev->setEnabled(!isFirst);
     ui_->pushButton_Get_Next->setEnabled(!isLast);
     ui_->pushButton_End->setEnabled(!isLast);
-    currentPage_ = position;
-    stack_.showDecoded(*pages_[position]);
+    if (page < pages_.size())
+        showPage(page);
+    describePosition();
+}
+
+void VLK_Widget_Tmi_Page::describePosition()
+{
+    const auto pageCount = static_cast<int>(pages_.size());
+    ui_->label_NoRecord->setVisible(ui_->horizontalSlider->maximum() >= pageCount);
+    ui_->label_NoRecord->setText(ui_->horizontalSlider->value() < pageCount ? QString() : tr("tmiw_186"));
 }
 
 void VLK_Widget_Tmi_Page::retranslate()
@@ -114,14 +139,22 @@ void VLK_Widget_Tmi_Page::retranslate()
     ui_->pushButton_Close->setText(tr("wrd_054"));
     ui_->horizontalSlider->setAccessibleName(tr("tmiw_003"));
     ui_->spinBox_Go->setAccessibleName(tr("tmiw_003"));
+    for (const auto& [button, key] :
+         {std::pair(ui_->pushButton_Begin, "tmiw_187"), std::pair(ui_->pushButton_End, "tmiw_188")}) {
+        button->setToolTip(tr(key));
+        button->setAccessibleName(tr(key));
+    }
     stack_.retranslate();
+    if (pages_.empty())
+        return;
     showPage(currentPage_);
+    describePosition();
 }
 
 void VLK_Widget_Tmi_Page::slot_valueChanged_horizontalSlider(int position)
 {
     ui_->spinBox_Go->setValue(position);
-    showPage(static_cast<std::size_t>(position));
+    goTo(position);
 }
 
 void VLK_Widget_Tmi_Page::slot_valueChanged_spinBox_Go(int position)
@@ -136,7 +169,8 @@ void VLK_Widget_Tmi_Page::slot_Pressed_PushButton_Begin()
 
 void VLK_Widget_Tmi_Page::slot_Pressed_PushButton_Get_Prev()
 {
-    ui_->horizontalSlider->setValue(ui_->horizontalSlider->value() - 1);
+    const auto lastPage = static_cast<int>(pages_.size()) - 1;
+    ui_->horizontalSlider->setValue(std::min(ui_->horizontalSlider->value() - 1, lastPage));
 }
 
 void VLK_Widget_Tmi_Page::slot_Pressed_PushButton_Get_Next()

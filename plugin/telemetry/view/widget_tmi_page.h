@@ -43,8 +43,11 @@ private Q_SLOTS:
 private:
     void connectControls();
     void setRange(int last);
-    // Positions behind the last page change nothing.
     void showPage(std::size_t position);
+    // The file counts more positions than it has pages where numbers are missing. Those behind the last page
+    // leave on show what was, and say so.
+    void goTo(int position);
+    void describePosition();
 
     std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_Page> ui_;
     EventPanel* eventPanel_;
