@@ -344,7 +344,6 @@
     <message id="tmiw_180"><translation>XML telemetry</translation></message>
     <message id="tmiw_181"><translation>CSV table</translation></message>
     <message id="tmiw_182"><translation>Binary TMI file</translation></message>
-    <message id="tmiw_183"><translation>the file was written in part only, free on the disk</translation></message>
     <message id="tmiw_184"><translation>File not saved</translation></message>
     <message id="tmiw_186"><translation>No record at this position: numbers are missing in the file. The record shown is the one opened before.</translation></message>
     <message id="tmiw_187"><translation>To the beginning of the file</translation></message>

@@ -344,7 +344,6 @@
     <message id="tmiw_180"><translation>Телеметрия XML</translation></message>
     <message id="tmiw_181"><translation>Таблица CSV</translation></message>
     <message id="tmiw_182"><translation>Двоичный файл TMI</translation></message>
-    <message id="tmiw_183"><translation>файл записан не полностью, свободно на диске</translation></message>
     <message id="tmiw_184"><translation>Файл не сохранён</translation></message>
     <message id="tmiw_186"><translation>На этой позиции нет записи: в файле пропущены номера. Показана запись, открытая до этого.</translation></message>
     <message id="tmiw_187"><translation>В начало файла</translation></message>

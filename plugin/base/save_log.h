@@ -1,7 +1,6 @@
 #pragma once
 
-// Saves that failed. Each is a warning "PATH: REASON", and the file still holds what it held before; whoever
-// has a user in front of it, the host, tells of it.
+// Where failed saves are told, as "PATH: REASON", since the windows of the plug-in stay silent about them.
 
 #include <QLoggingCategory>
 

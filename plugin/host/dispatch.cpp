@@ -2,10 +2,10 @@
 // outside: a null address ends the message. Numbers that the table lacks are ignored, among them those of the
 // contract that have no effect on this model.
 
+#include "dialog/widget_config.h"
+#include "dialog/widget_config_full.h"
 #include "host/device_r7106.h"
 #include "telemetry/view/widget_tmi_view.h"
-#include "windows/widget_config.h"
-#include "windows/widget_config_full.h"
 
 #include <algorithm>
 #include <cstring>

@@ -11,12 +11,16 @@ XmlDocument::~XmlDocument()
     closeDocument(root_.document(), false);
 }
 
-void XmlDocument::save()
+bool XmlDocument::save()
 {
-    if (!isOpen())
-        return;
     root_.commit();
-    root_.document()->save();
+    return isOpen() && root_.document()->save();
+}
+
+bool XmlDocument::saveAs(const QString& path)
+{
+    root_.commit();
+    return isOpen() && root_.document()->saveAs(path);
 }
 
 } // namespace vlk

@@ -1,8 +1,8 @@
 // Every key of every settings page that declares its keys: loads, shows, saves and resets.
 
+#include "dialog/widget_config_full.h"
 #include "pages/form_config_transfer.h"
 #include "support/device.h"
-#include "windows/widget_config_full.h"
 #include "xml/xml_document.h"
 
 #include <QSpinBox>

@@ -3,26 +3,9 @@
 #include "base/save_log.h"
 #include "base/whole_file.h"
 
-#include <QCoreApplication>
-#include <QFileInfo>
 #include <QRegularExpression>
-#include <QStorageInfo>
 
 namespace vlk {
-
-namespace {
-
-// A disk that fills in the middle of a write leaves no error of its own.
-QString reasonOf(const QSaveFile& file)
-{
-    if (file.error() != QFileDevice::NoError)
-        return file.errorString();
-    const auto word = [](const char* key) { return QCoreApplication::translate("vlk", key); };
-    const qint64 free = QStorageInfo(QFileInfo(file.fileName()).path()).bytesAvailable();
-    return QStringLiteral("%1: %2 %3").arg(word("tmiw_183")).arg(free).arg(word("wrd_016"));
-}
-
-} // namespace
 
 QString periodFileName(const QString& vehicle, const QDateTime& first, const QDateTime& last)
 {
@@ -44,10 +27,12 @@ bool writePeriod(const QString& path, PeriodWriter write, const RecordBytes& rec
         pages.back()->setUtcOffset(origin.timeOffset);
     }
     QSaveFile file(path);
-    if (saveWhole(file, [&](QIODevice& device) { return write(device, pages, origin); }))
-        return true;
-    qCWarning(lcSave).noquote() << path + QLatin1String(": ") + reasonOf(file);
-    return false;
+    QString reason;
+    const bool saved = saveWhole(
+        file, [&](QIODevice& device) { return write(device, pages, origin); }, &reason);
+    if (!saved)
+        qCWarning(lcSave).noquote() << path + QLatin1String(": ") + reason;
+    return saved;
 }
 
 } // namespace vlk

@@ -1,8 +1,8 @@
 #include "telemetry/view/save_sequence.h"
 
 #include "base/clock.h"
-#include "host/device_r7106.h"
-#include "host/requests.h"
+#include "link/device.h"
+#include "link/requests.h"
 #include "telemetry/files/telemetry_binary_writer.h"
 #include "telemetry/files/telemetry_csv_writer.h"
 #include "telemetry/files/telemetry_xml_writer.h"

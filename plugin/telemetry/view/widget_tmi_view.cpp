@@ -3,8 +3,8 @@
 #include "ui_VLK_Designer_Widget_Tmi_View.h"
 
 #include "base/clock.h"
-#include "host/device_r7106.h"
-#include "host/requests.h"
+#include "link/device.h"
+#include "link/requests.h"
 #include "telemetry/tachograph/form_tmi_taho.h"
 #include "telemetry/text/key_text.h"
 #include "telemetry/view/event_panel.h"

@@ -5,7 +5,7 @@
 // timer, saves a period to a file, clears the tracker's unsent data, reads keys and tags, and opens the
 // tachograph dialog. Answers come at any time, asked for or not, also while the window is hidden.
 
-#include "host/host_interface.h"
+#include "link/messages.h"
 #include "telemetry/view/automatic_requests.h"
 #include "telemetry/view/clearing_sequence.h"
 #include "telemetry/view/record_stack.h"
