@@ -7,6 +7,8 @@
 #include "telemetry/view/stored_file.h"
 #include "windows/fit_to_screen.h"
 
+#include <QEvent>
+#include <QPainter>
 #include <QStyle>
 
 #include <algorithm>
@@ -41,8 +43,7 @@ VLK_Widget_Tmi_Page::VLK_Widget_Tmi_Page(QWidget* parent)
     ui_->verticalLayout_Event->addWidget(eventPanel_);
     ui_->pushButton_Go->hide();
     ui_->label_NoRecord->hide();
-    ui_->pushButton_Begin->setIcon(style()->standardIcon(QStyle::SP_MediaSkipBackward));
-    ui_->pushButton_End->setIcon(style()->standardIcon(QStyle::SP_MediaSkipForward));
+    setArrows();
     connectControls();
     vlk::keepOnScreen(this);
     stack_.showNothing();
@@ -71,6 +72,28 @@ void VLK_Widget_Tmi_Page::connectControls()
     connect(ui_->horizontalSlider, &QSlider::valueChanged, this, &Page::slot_valueChanged_horizontalSlider);
     connect(ui_->spinBox_Go, qOverload<int>(&QSpinBox::valueChanged), this,
             &Page::slot_valueChanged_spinBox_Go);
+}
+
+// The texts of the two buttons are numbers; arrows tell where they lead. Those of the style are black
+// whatever the palette is.
+void VLK_Widget_Tmi_Page::setArrows()
+{
+    for (const auto& [button, arrow] : {std::pair(ui_->pushButton_Begin, QStyle::SP_MediaSkipBackward),
+                                        std::pair(ui_->pushButton_End, QStyle::SP_MediaSkipForward)}) {
+        QPixmap pixmap = style()->standardIcon(arrow).pixmap(button->iconSize());
+        QPainter painter(&pixmap);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(pixmap.rect(), palette().color(QPalette::Active, QPalette::ButtonText));
+        painter.end();
+        button->setIcon(pixmap);
+    }
+}
+
+void VLK_Widget_Tmi_Page::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        setArrows();
 }
 
 void VLK_Widget_Tmi_Page::open(const QString& path)
