@@ -4,6 +4,8 @@
 
 #include <utility>
 
+namespace vlk {
+
 namespace {
 // Status bytes of a command that was carried out.
 constexpr int commandDone = 1;
@@ -48,13 +50,13 @@ void ConfigMonitor::pollCurrentTab()
 {
     switch (window_.currentTab()) {
     case Tab::Accel:
-        vlk::requests::accel();
+        requests::accel();
         break;
     case Tab::InputLines:
-        vlk::requests::analog();
+        requests::analog();
         break;
     case Tab::System:
-        vlk::requests::supply();
+        requests::supply();
         break;
     case Tab::Other:
         break;
@@ -64,7 +66,7 @@ void ConfigMonitor::pollCurrentTab()
 void ConfigMonitor::requestAccel()
 {
     if (window_.currentTab() == Tab::Accel)
-        vlk::requests::accel();
+        requests::accel();
 }
 
 void ConfigMonitor::requestAccelResult()
@@ -83,14 +85,14 @@ void ConfigMonitor::sendCommand()
         return;
     }
     sending_ = true;
-    vlk::requests::accelCommand();
+    requests::accelCommand();
     sending_ = false;
 }
 
 void ConfigMonitor::requestLines(const QByteArray& list)
 {
     if (window_.currentTab() == Tab::InputLines)
-        vlk::requests::lines(list);
+        requests::lines(list);
 }
 
 void ConfigMonitor::linesAnswered()
@@ -142,3 +144,5 @@ void ConfigMonitor::end()
     monitorOn_ = false;
     window_.stopPages();
 }
+
+} // namespace vlk

@@ -10,6 +10,8 @@
 
 #include <functional>
 
+namespace vlk {
+
 class ConfigMonitor : public QObject
 {
     Q_OBJECT
@@ -68,3 +70,5 @@ private:
     bool monitorOn_ = false;
     bool connected_ = false;
 };
+
+} // namespace vlk

@@ -6,34 +6,77 @@
 //     constructor(QWidget* parent), title(), tabIndex(), setTabIndex(int), retranslate(), setDefaults(),
 //     loadFromXml(CXmlSection* root), saveToXml(CXmlSection* root)
 //
-// and, where a page has live values, deviceConnected() and deviceDisconnected(). Adding a page is one line in
-// PageTuple.
+// What only some pages have is found by its name; the concepts below list it. A page is added by its header
+// and a line in PageTuple.
 
-#include <QWidget>
+#include "pages/form_config_transfer.h"
 
+#include <concepts>
 #include <tuple>
-#include <type_traits>
-
-class VLK_Form_Config_Transfer;
-class VLK_Form_Config_Zeta3;
-class VLK_Form_Config_System;
-class VLK_Form_Config_RS;
-class VLK_Form_Config_Lines_In;
-class VLK_Form_Config_Accel;
-class VLK_Form_Config_Bluetooth;
 
 namespace vlk {
 
 using PageTuple = std::tuple<VLK_Form_Config_Transfer*>;
 
+// deviceConnected(), deviceDisconnected()
+template <class Page>
+concept KnowsTheTracker = requires
+{
+    &Page::deviceConnected;
+};
+
+// loadUserParams(root), saveUserParams(root), after all pages have loaded or saved
+template <class Page>
+concept HasUserParams = requires
+{
+    &Page::loadUserParams;
+};
+
+// signal_Excess_Size(bool) locks all tabs but its own
+template <class Page>
+concept LimitsTheRecord = requires
+{
+    &Page::signal_Excess_Size;
+};
+
+// showLineValues(QByteArray), showAnalogRecord(record), stopAuto(): the input lines
+template <class Page>
+concept ShowsLines = requires
+{
+    &Page::showLineValues;
+};
+
+// setCurrentSupply(millivolts): the system
+template <class Page>
+concept ShowsSupply = requires
+{
+    &Page::setCurrentSupply;
+};
+
+// showPresentValues(AccelValues), clearPresentValues(), stopAuto(): the accelerometer
+template <class Page>
+concept ShowsAccel = requires
+{
+    &Page::showPresentValues;
+};
+
+// userParamCode(text), userParamText(code), setCanLogProgram(program): the serial line
+template <class Page>
+concept HasSerialLine = requires
+{
+    &Page::setCanLogProgram;
+};
+
+// displayToKey(text), keyToDisplay(key), onSearchStopped(byte), onSearchEvent(byte), onDeviceFound(BtDevice)
+template <class Page>
+concept FindsBluetooth = requires
+{
+    &Page::onDeviceFound;
+};
+
 class ConfigPages
 {
 public:
-    template <class Page>
-    static constexpr bool has = []<class... Known>(std::type_identity<std::tuple<Known*...>>) {
-        return (std::is_same_v<Page, Known> || ...);
-    }(std::type_identity<PageTuple>{});
-
     // Makes every page, in order, and hands each to `action`.
     template <class Action>
     void create(Action action)
@@ -41,29 +84,24 @@ public:
         std::apply([&](auto*&... page) { (createOne(page, action), ...); }, pages_);
     }
 
+    // Hands every page that `action` takes to it, in order: all to one with a parameter `auto& page`, some to
+    // one with `ShowsLines auto& page`.
     template <class Action>
     void forEach(Action action) const
     {
-        std::apply([&](auto*... page) { ((page ? action(*page) : void()), ...); }, pages_);
+        std::apply([&](auto*... page) { (handOver(page, action), ...); }, pages_);
     }
 
-    // Runs `action` on one page; does nothing where the window has no such page.
-    template <class Page, class Action>
-    void with(Action action) const
+    // Tab of the first page that `action` takes, -1 where the window has none.
+    template <class Action>
+    int tabOf(Action /*action*/) const
     {
-        if constexpr (has<Page>) {
-            if (auto* page = std::get<Page*>(pages_))
-                action(*page);
-        }
-    }
-
-    // Index of a page's tab, -1 where the window has no such page.
-    template <class Page>
-    int tabOf() const
-    {
-        int index = -1;
-        with<Page>([&](const auto& page) { index = page.tabIndex(); });
-        return index;
+        int tab = -1;
+        forEach([&](auto& page) {
+            if constexpr (std::invocable<Action, decltype(page)>)
+                tab = tab < 0 ? page.tabIndex() : tab;
+        });
+        return tab;
     }
 
 private:
@@ -72,6 +110,15 @@ private:
     {
         page = new Page(nullptr);
         action(*page);
+    }
+
+    template <class Page, class Action>
+    static void handOver(Page* page, Action& action)
+    {
+        if constexpr (std::invocable<Action&, Page&>) {
+            if (page)
+                action(*page);
+        }
     }
 
     PageTuple pages_{};

@@ -11,27 +11,27 @@
 
 #include <QFileInfo>
 
-VLK_Widget_Config* vlkConfigDialog = nullptr;
-
 VLK_Widget_Config::VLK_Widget_Config(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
       ui_(std::make_unique<Ui::VLK_Designer_Widget_Config>())
 {
-    vlkConfigDialog = this;
     ui_->setupUi(this);
     setWindowModality(Qt::ApplicationModal);
     lightWindow_ = new VLK_Widget_Config_Light(this);
     fullWindow_ = new VLK_Widget_Config_Full(this);
     ui_->gridLayout_Light->addWidget(lightWindow_);
     ui_->gridLayout_Full->addWidget(fullWindow_);
+    connect(lightWindow_, &VLK_Widget_Config_Light::closeRequested, this, &QDialog::close);
+    connect(lightWindow_, &VLK_Widget_Config_Light::writeRequested, this,
+            &VLK_Widget_Config::writeQuickToDevice);
+    connect(lightWindow_, &VLK_Widget_Config_Light::saveRequested, this, &VLK_Widget_Config::saveQuickToFile);
+    connect(lightWindow_, &VLK_Widget_Config_Light::fullRequested, this, &VLK_Widget_Config::switchToFull);
+    connect(fullWindow_, &VLK_Widget_Config_Full::closeRequested, this, &QDialog::close);
+    connect(fullWindow_, &VLK_Widget_Config_Full::quickRequested, this, &VLK_Widget_Config::switchToQuick);
     retranslate();
 }
 
-VLK_Widget_Config::~VLK_Widget_Config()
-{
-    if (vlkConfigDialog == this)
-        vlkConfigDialog = nullptr;
-}
+VLK_Widget_Config::~VLK_Widget_Config() = default;
 
 void VLK_Widget_Config::open(const vlk::OpenRequest& request, char* ussdBuffer)
 {

@@ -49,6 +49,3 @@ private:
     VLK_Widget_Config_Light* lightWindow_;
     VLK_Widget_Config_Full* fullWindow_;
 };
-
-// Set by the constructor; the two windows reach each other through it.
-extern VLK_Widget_Config* vlkConfigDialog;

@@ -1,29 +1,21 @@
 #pragma once
 
-// The full configuration window: the settings pages as tabs, the buttons at their side, the walk over the
-// pages for loading and saving, and the monitor of live values (config_monitor.h). Configurations come and go
-// as XML files with the root DEVICE; a file that does not parse changes nothing, and a missing key takes its
-// default. What could not be saved is not written to the tracker.
+// The full configuration window: the settings pages as tabs and the buttons at their side. Configurations
+// come and go as XML files with the root DEVICE; a file that does not parse changes nothing, and a missing
+// key takes its default. What could not be saved is not written to the tracker.
 
-#include "dialog/config_monitor.h"
-#include "dialog/config_pages.h"
-#include "windows/wnd_config_full.h"
+#include "dialog/page_services.h"
 
 #include <memory>
 
 struct CXmlSection;
 class QAction;
-class QMenu;
 
 namespace Ui {
 class VLK_Designer_Widget_Config_Full;
 }
 
-namespace vlk {
-struct BtDevice;
-}
-
-class VLK_Widget_Config_Full : public VLK_Wnd_Config_Full
+class VLK_Widget_Config_Full : public vlk::PageServices
 {
     Q_OBJECT
 
@@ -36,7 +28,7 @@ public:
     void loadFile(const QString& path, char* ussdBuffer);
     // Replaces whatever the file holds. False when that failed, which the log says (base/save_log.h).
     bool saveFile(const QString& path);
-    // The walks over an open document.
+    // The same with an open document.
     void loadFromXml(CXmlSection* root, char* ussdBuffer);
     void saveToXml(CXmlSection* root);
 
@@ -45,42 +37,10 @@ public:
     void deviceConnected();
     void deviceDisconnected();
 
-    // Services for the pages.
-    QString userParamCode(const QString& text) override;
-    QString userParamText(const QString& code) override;
-    void gotoInputLines() override;
-    void gotoRs() override;
-    void gotoBluetooth() override;
-    void gotoAccel() override;
-    void gotoAccelPlain() override;
-    void startAccelMonitor(bool on, int periodMs) override { monitor_.startAccel(on, periodMs); }
-    void startLinesMonitor(bool on, const QByteArray& list, int periodMs) override
-    {
-        monitor_.startLines(on, list, periodMs);
-    }
-    void pollCurrentTab() override { monitor_.pollCurrentTab(); }
-    void requestAccel() override { monitor_.requestAccel(); }
-    void requestAccelResult() override { monitor_.requestAccelResult(); }
-    void requestLines(const QByteArray& list) override { monitor_.requestLines(list); }
-    void startBtSearch() override;
-    void cancelBtSearch() override;
-    void getCanLogProgram() override;
-    void setCanLogProgram(int value) override;
-    void sendSystemWaitEnd() override;
-
-    // Answers of the host. Byte records may be null.
-    void takeLineValues(const QByteArray& text);
-    void takeSupply(const uchar* record);
-    void takeAnalog(const uchar* record);
-    void takeAccel(const uchar* record);
-    void takeAccelResult(const uchar* record);
-    void rearmMonitor() { monitor_.accelAnswered(); }
-    void takeBtSearchStopped(const uchar& event);
-    void takeBtSearchEvent(const uchar& event);
-    void takeBtDevice(const vlk::BtDevice& device);
-    void takeCanLogProgram(const std::int32_t& program);
-
-    const vlk::ConfigPages& pages() const { return pages_; }
+Q_SIGNALS:
+    void closeRequested();
+    // The user wants the quick window instead, and has been asked whether that is meant.
+    void quickRequested();
 
 public Q_SLOTS:
     void slot_timeOut_TimerAnalog();
@@ -106,14 +66,7 @@ protected:
 private:
     void connectButtons();
     void buildTabs();
-    void goTo(int index);
-    template <class Page>
-    bool isCurrent() const;
-    ConfigMonitor::Tab liveTab() const;
 
     std::unique_ptr<Ui::VLK_Designer_Widget_Config_Full> ui_;
-    vlk::ConfigPages pages_;
-    ConfigMonitor monitor_;
-    QMenu* tabMenu_;
     bool connected_ = false;
 };

@@ -3,7 +3,6 @@
 #include "ui_VLK_Designer_Widget_Config_Light.h"
 
 #include "dialog/file_names.h"
-#include "dialog/widget_config.h"
 
 VLK_Widget_Config_Light::VLK_Widget_Config_Light(QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::VLK_Designer_Widget_Config_Light>())
@@ -47,30 +46,26 @@ void VLK_Widget_Config_Light::deviceDisconnected()
 void VLK_Widget_Config_Light::slot_pressed_Btn_Light_SaveToFile()
 {
     const QString path = vlk::askConfigurationPath(this, QStringLiteral("NONAME"));
-    if (path.isEmpty() || !vlkConfigDialog)
+    if (path.isEmpty())
         return;
     ui_->pushButton_Light_SaveToFile->setEnabled(false);
-    vlkConfigDialog->saveQuickToFile(path);
+    Q_EMIT saveRequested(path);
     ui_->pushButton_Light_SaveToFile->setEnabled(true);
 }
 
 void VLK_Widget_Config_Light::slot_pressed_Btn_Light_LoadToDevice()
 {
-    if (!vlkConfigDialog)
-        return;
     ui_->pushButton_Light_LoadToDevice->setEnabled(false);
-    vlkConfigDialog->writeQuickToDevice();
+    Q_EMIT writeRequested();
     ui_->pushButton_Light_LoadToDevice->setEnabled(connected_);
 }
 
 void VLK_Widget_Config_Light::slot_pressed_Btn_Light_ConfigFull()
 {
-    if (vlkConfigDialog)
-        vlkConfigDialog->switchToFull();
+    Q_EMIT fullRequested();
 }
 
 void VLK_Widget_Config_Light::slot_pressed_Btn_Light_Close()
 {
-    if (vlkConfigDialog)
-        vlkConfigDialog->close();
+    Q_EMIT closeRequested();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-// The quick setup window: the frame with its four buttons. Writing and saving go through the dialog, where
-// the full window's pages are saved first and this window's values over them.
+// The quick setup window: the frame with its four buttons. Its signals ask the dialog to act: there the full
+// window's pages are saved first and this window's values over them.
 
 #include <QWidget>
 
@@ -24,6 +24,13 @@ public:
     void retranslate();
     void deviceConnected();
     void deviceDisconnected();
+
+Q_SIGNALS:
+    void closeRequested();
+    void writeRequested();
+    void saveRequested(const QString& path);
+    // The user wants the full window instead.
+    void fullRequested();
 
 private Q_SLOTS:
     void slot_pressed_Btn_Light_SaveToFile();

@@ -375,7 +375,9 @@ void Configuration::change(const Part& part, int row, const QString& text, std::
 {
     const int index = part.first + row;
     const Setting& setting = *part.layout->rows[row].setting;
-    const QString value = normalise(setting, text, values_[index], limits(index)).value;
+    // A list without a current item is nothing that a file could ask for.
+    const bool noItem = setting.none && text == QLatin1String(setting.none);
+    const QString value = noItem ? text : normalise(setting, text, values_[index], limits(index)).value;
     if (value == values_[index] || std::find(editing_.begin(), editing_.end(), index) != editing_.end())
         return;
     editing_.push_back(index);

@@ -52,6 +52,7 @@ public:
     // -1 for a path that no table has.
     int indexOf(const QString& path) const { return byPath_.value(path, -1); }
     const TableLayout::Row& row(int index) const;
+    const TableLayout& layout(int index) const { return *partOf(index).layout; }
     const Setting& setting(int index) const { return *row(index).setting; }
     const QString& path(int index) const { return row(index).path; }
 

@@ -52,7 +52,7 @@ Normalised number(const Setting& setting, const QString& text, Limits limits)
     if (setting.kind == Kind::real) {
         const double read = leadingDouble(text);
         shown = rounded(setting.singleRead ? static_cast<float>(read) : read, setting.decimals);
-        text.toDouble(&clean);
+        clean = std::isfinite(text.toDouble(&clean)) && clean;
     } else {
         const int read = leadingInt(text);
         clean = isWholeNumber(text);

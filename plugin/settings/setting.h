@@ -102,6 +102,7 @@ struct Setting
 
     Kind kind = Kind::text;
     const char* key = "";         // of a group its path below the section
+    const char* name = nullptr;   // in the path, where the key stands twice in one element; null: the key
     bool stored = true;           // false: lives in the window alone, the file has no such key
     const char* target = nullptr; // of a link: path of the row that holds the value
 
@@ -210,6 +211,7 @@ struct Setting
             .having(&Setting::free, condition)
             .having(&Setting::boundOnRead, bound);
     }
+    constexpr Setting named(const char* pathName) const { return having(&Setting::name, pathName); }
     // Lives in the window alone.
     constexpr Setting notStored() const { return having(&Setting::stored, false); }
 };

@@ -103,6 +103,11 @@ constexpr void check(const Setting& row)
         throw "a period has no boxes";
 }
 
+constexpr const char* pathName(const Setting& row)
+{
+    return row.name ? row.name : row.key;
+}
+
 // Compilers count the steps of a constant: names are compared by their hashes first.
 constexpr std::uint32_t hashOf(const char* name, std::uint32_t seed)
 {
@@ -124,13 +129,14 @@ constexpr void checkAll(const std::array<Setting, n>& rows)
         const std::uint32_t number = 2166136261U + row.number * 1024U + row.inner;
         if (row.kind == Kind::group)
             group = hashOf(row.key, number);
-        keys[i] = row.kind == Kind::group ? group : hashOf(row.key, number ^ (group * 31U));
+        keys[i] = row.kind == Kind::group ? group : hashOf(pathName(row), number ^ (group * 31U));
         if (row.widget && row.kind != Kind::link)
             widgets[i] = hashOf(row.widget, number + static_cast<std::uint32_t>(row.column) * 262144U);
     }
     for (std::size_t i = 0; i < n; ++i) {
         for (std::size_t j = i + 1; j < n; ++j) {
-            if (keys[i] == keys[j] && same(rows[i].key, rows[j].key) && sameNumber(rows[i], rows[j]))
+            if (keys[i] == keys[j] && same(pathName(rows[i]), pathName(rows[j])) &&
+                sameNumber(rows[i], rows[j]))
                 throw "a path or a group stands twice";
             if (widgets[i] != 0 && widgets[i] == widgets[j] && same(rows[i].widget, rows[j].widget))
                 throw "an object name stands twice";

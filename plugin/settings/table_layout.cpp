@@ -42,10 +42,11 @@ private:
             row.key = numberedName(setting.key, setting.number, setting.inner);
             row.group = static_cast<int>(layout_.groups.size()) - 1;
             row.target = static_cast<int>(layout_.rows.size());
-            QString below = row.key;
+            QString below =
+                setting.name ? numberedName(setting.name, setting.number, setting.inner) : row.key;
             if (row.group >= 0) {
                 TableLayout::Group& group = layout_.groups.back();
-                below = group.path.join(QLatin1Char('/')) + QLatin1Char('/') + row.key;
+                below = group.path.join(QLatin1Char('/')) + QLatin1Char('/') + below;
                 ++group.endRow;
             }
             row.path = layout_.section + QLatin1Char('/') + below;

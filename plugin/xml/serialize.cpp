@@ -93,13 +93,17 @@ bool CSerialize::save() const
     return fileName_.isEmpty() || saveAs(fileName_);
 }
 
+QByteArray CSerialize::text() const
+{
+    QByteArray text;
+    if (root_)
+        CXmlWriter(&text).writeDocument(*root_);
+    return text;
+}
+
 bool CSerialize::saveAs(const QString& fileName) const
 {
-    if (!root_)
-        return true;
-    QByteArray text;
-    CXmlWriter(&text).writeDocument(*root_);
-    return vlk::replaceFile(fileName, text);
+    return !root_ || vlk::replaceFile(fileName, text());
 }
 
 CXmlNode* CSerialize::node(CXmlNode* parent, const QString& name, qint32 kind)

@@ -21,6 +21,10 @@ public:
 
     explicit CSerialize(QString fileName);
 
+    // Takes a document out of its text; false, and nothing changes, when it is none.
+    bool parse(const QByteArray& text);
+    // The document as a file would hold it; empty without a tree.
+    QByteArray text() const;
     // False when there is a file with content that is not a document. A missing file is made, empty; a
     // missing or empty file gives an empty document.
     bool load();
@@ -38,8 +42,6 @@ public:
     void clearContent(CXmlNode* node);
 
 private:
-    bool parse(const QByteArray& text);
-
     QString fileName_;
     std::unique_ptr<CXmlNode> root_;
 };

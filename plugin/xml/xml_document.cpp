@@ -4,7 +4,25 @@
 
 namespace vlk {
 
+namespace {
+
+std::unique_ptr<CSerialize> parsed(const QByteArray& text)
+{
+    auto document = std::make_unique<CSerialize>(QString());
+    return document->parse(text) ? std::move(document) : nullptr;
+}
+
+} // namespace
+
 XmlDocument::XmlDocument(const QString& path, const QString& rootName) : root_(path, rootName) {}
+
+XmlDocument::XmlDocument(const QByteArray& text, const QString& rootName) : root_(parsed(text), rootName) {}
+
+QByteArray XmlDocument::text()
+{
+    root_.commit();
+    return isOpen() ? root_.document()->text() : QByteArray();
+}
 
 XmlDocument::~XmlDocument()
 {

@@ -13,6 +13,8 @@ class XmlDocument
 {
 public:
     XmlDocument(const QString& path, const QString& rootName);
+    // In memory, out of the text of a file.
+    XmlDocument(const QByteArray& text, const QString& rootName);
     ~XmlDocument();
     Q_DISABLE_COPY_MOVE(XmlDocument)
 
@@ -20,6 +22,8 @@ public:
     bool isOpen() const { return root_.document() != nullptr; }
     CXmlSection* root() { return &root_; }
 
+    // What a file would hold; commits the root section.
+    QByteArray text();
     // Commit the root section and write the file, its own or another. False when that failed.
     bool save();
     bool saveAs(const QString& path);

@@ -20,10 +20,23 @@ QString asciiOnly(QString text)
 
 } // namespace
 
-CXmlSection::CXmlSection(const QString& path, const QString& rootName)
+namespace {
+
+std::unique_ptr<CSerialize> opened(const QString& path)
 {
     auto document = std::make_unique<CSerialize>(path);
-    if (!document->load())
+    return document->load() ? std::move(document) : nullptr;
+}
+
+} // namespace
+
+CXmlSection::CXmlSection(const QString& path, const QString& rootName) : CXmlSection(opened(path), rootName)
+{
+}
+
+CXmlSection::CXmlSection(std::unique_ptr<CSerialize> document, const QString& rootName)
+{
+    if (!document)
         return;
     node_ = document->node(nullptr, rootName);
     document_ = document.release();

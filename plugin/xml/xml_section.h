@@ -33,6 +33,8 @@ struct CXmlSection
     // "DEVICE" for a configuration, "FUEL" for a calibration. An empty path makes a document in memory. The
     // document is closed with closeDocument (serialize.h), or see XmlDocument (xml_document.h).
     CXmlSection(const QString& path, const QString& rootName);
+    // The root of a document; null gives a section without one.
+    CXmlSection(std::unique_ptr<CSerialize> document, const QString& rootName);
     CXmlSection(CSerialize* document, CXmlNode* node);
 
     // Kind 0: the child of that name, made where there is none. Kind 1: a new child. Kind 3: a new child that

@@ -6,6 +6,7 @@
 
 #include <QtTest>
 
+using vlk::ConfigMonitor;
 using vlk::Message;
 using Tab = ConfigMonitor::Tab;
 

@@ -112,7 +112,7 @@ private Q_SLOTS:
         QCOMPARE(times_.size(), seconds > 0 ? 1 : 0);
         send(Message::RecordOfPeriod, first, 13);
         send(Message::RecordByTime, last, 13);
-        QCOMPARE(seen, (QStringList{"wrd_004", seconds > 0 ? "tmiw_122" : "tmiw_121", "wrd_003"}));
+        QCOMPARE(seen, (QStringList{"wrd_004", seconds > 0 ? "tmiw_155" : "tmiw_154", "wrd_003"}));
         QVERIFY(isIdle() && asked_.isEmpty());
     }
 
@@ -125,17 +125,17 @@ private Q_SLOTS:
         child<QDateTimeEdit>("dateTimeEdit_Last")->setDateTime(first.addSecs(60));
         startSave(7, 8);
         QCOMPARE(times_, (QVector<QDateTime>{first.addSecs(-10800), first.addSecs(-10740)}));
-        QCOMPARE(filter_, QString("tmiw_180 (*.xml)"));
+        QCOMPARE(filter_, QString("tmiw_179 (*.xml)"));
         QCOMPARE(proposed_, QString("Van 7_2 2025-02-01 15-00 - 2025-02-01 15-01.xml"));
         QVERIFY(readFile(file_).contains("<TMI model=\"R-7106\" ") &&
                 readFile(file_).contains("offset=\"10800\""));
         file_ = folder.filePath("period.csv");
         startSave(7, 8, "pushButton_SaveToExcel");
-        QCOMPARE(filter_, QString("tmiw_181 (*.csv)"));
+        QCOMPARE(filter_, QString("tmiw_180 (*.csv)"));
         QVERIFY(readFile(file_).count("\r\n") == 3 && readFile(file_).contains("=\"7\";"));
         file_ = folder.filePath("period.tmi");
         startSave(7, 8, "pushButton_SaveFileToServer");
-        QCOMPARE(filter_, QString("tmiw_182 (*.tmi)"));
+        QCOMPARE(filter_, QString("tmiw_181 (*.tmi)"));
         QCOMPARE(readFile(file_).mid(128),
                  QByteArray("\x2c\0", 2) + record(7) + QByteArray("\x2c\0", 2) + record(8));
     }
@@ -152,7 +152,7 @@ private Q_SLOTS:
         for (const char* name : {"ProgressBar_Time", "Packet_Cur", "Packet_Separator", "Packet_End",
                                  "Time_Cur", "Time_Separator", "Time_End"})
             shown += text((QByteArray("label_") + name).constData());
-        QVERIFY2(QRegularExpression("^tmiw_119102/30000:00:\\d\\d/00:\\d\\d:\\d\\d$").match(shown).hasMatch(),
+        QVERIFY2(QRegularExpression("^tmiw_152102/30000:00:\\d\\d/00:\\d\\d:\\d\\d$").match(shown).hasMatch(),
                  qPrintable(shown));
         for (const char* name :
              {"groupBox_Btn_Get", "pushButton_Get_Current_Touch", "pushButton_Get_Current_RFID"})
@@ -275,7 +275,7 @@ private Q_SLOTS:
         QVERIFY2(told[0].startsWith(file_ + ": ") && told[0].size() > file_.size() + 5, qPrintable(told[0]));
         QCOMPARE(readFile(file_), before);
         QVERIFY(QDir(folder.path()).entryList({"period.*.*"}).isEmpty());
-        QCOMPARE(text("label_ProgressBar_Time"), QString("tmiw_184"));
+        QCOMPARE(text("label_ProgressBar_Time"), QString("tmiw_182"));
         press("pushButton_Get_Current");
         QVERIFY(isIdle());
     }

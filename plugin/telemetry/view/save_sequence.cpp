@@ -38,9 +38,9 @@ struct FileKind
 
 // By mode, from Xml on.
 constexpr FileKind kFileKinds[] = {
-    {"tmiw_180", "xml", &writeTelemetryXml},
-    {"tmiw_181", "csv", &writeCsv},
-    {"tmiw_182", "tmi", &writeTelemetryBinary},
+    {"tmiw_179", "xml", &writeTelemetryXml},
+    {"tmiw_180", "csv", &writeCsv},
+    {"tmiw_181", "tmi", &writeTelemetryBinary},
 };
 
 const FileKind& kindOf(SaveSequence::Mode mode)
@@ -72,7 +72,7 @@ void SaveSequence::start(Mode mode, const QDateTime& first, const QDateTime& las
     saving_ = true;
     saveCancelled_ = false;
     if (first >= last) {
-        refuse("tmiw_121");
+        refuse("tmiw_154");
         return;
     }
     saveMode_ = mode;
@@ -156,7 +156,7 @@ void SaveSequence::takeLast(const QByteArray& record)
     const auto last = numberOf(records_.back());
     if (!first || !last || *last <= *first) {
         end();
-        refuse("tmiw_122");
+        refuse("tmiw_155");
         return;
     }
     askFileName();
@@ -170,7 +170,7 @@ void SaveSequence::takeLast(const QByteArray& record)
     } else {
         saveDone_ = 2;
         saveState_ = Collecting;
-        progress_.setStatus("tmiw_119");
+        progress_.setStatus("tmiw_152");
         progress_.start(saveTotal_);
         showFetched();
         requests::recordByNumber(static_cast<quint32>(*first + 1));
@@ -190,7 +190,7 @@ void SaveSequence::takeNext(const QByteArray& record)
         showFetched();
         requests::recordByNumber(static_cast<quint32>(*number + 1));
     } else {
-        progress_.setStatus("tmiw_120");
+        progress_.setStatus("tmiw_153");
         end();
     }
 }
@@ -230,7 +230,7 @@ void SaveSequence::end()
     progress_.clear();
     // Stays until the user does something else.
     if (isFailed)
-        progress_.setStatus("tmiw_184");
+        progress_.setStatus("tmiw_182");
     Q_EMIT runningChanged(false);
 }
 

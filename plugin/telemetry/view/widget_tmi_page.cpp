@@ -149,7 +149,7 @@ void VLK_Widget_Tmi_Page::describePosition()
 {
     const auto pageCount = static_cast<int>(pages_.size());
     ui_->label_NoRecord->setVisible(ui_->horizontalSlider->maximum() >= pageCount);
-    ui_->label_NoRecord->setText(ui_->horizontalSlider->value() < pageCount ? QString() : tr("tmiw_186"));
+    ui_->label_NoRecord->setText(ui_->horizontalSlider->value() < pageCount ? QString() : tr("tmiw_183"));
 }
 
 void VLK_Widget_Tmi_Page::retranslate()
@@ -163,7 +163,7 @@ void VLK_Widget_Tmi_Page::retranslate()
     ui_->horizontalSlider->setAccessibleName(tr("tmiw_003"));
     ui_->spinBox_Go->setAccessibleName(tr("tmiw_003"));
     for (const auto& [button, key] :
-         {std::pair(ui_->pushButton_Begin, "tmiw_187"), std::pair(ui_->pushButton_End, "tmiw_188")}) {
+         {std::pair(ui_->pushButton_Begin, "tmiw_184"), std::pair(ui_->pushButton_End, "tmiw_185")}) {
         button->setToolTip(tr(key));
         button->setAccessibleName(tr(key));
     }

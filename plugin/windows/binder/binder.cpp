@@ -255,6 +255,13 @@ void Binder::edited(int index, const QString& value)
         Q_EMIT this->changed(configuration_.path(other).mid(layout_.section.size() + 1));
 }
 
+void Binder::set(int index, const QString& value)
+{
+    edited(index, value);
+    const Showing showing(showing_);
+    showRow(index - first_);
+}
+
 void Binder::take(const QString& widget)
 {
     for (std::size_t row = 0; row < adapters_.size(); ++row) {
@@ -279,8 +286,8 @@ void Binder::selectFirstItems()
 {
     for (const auto& adapter : adapters_) {
         if (dynamic_cast<ChoiceAdapter*>(adapter.get()))
-            edited(adapter->index(),
-                   QString::fromLatin1(configuration_.setting(adapter->index()).codes[0].code));
+            set(adapter->index(),
+                QString::fromLatin1(configuration_.setting(adapter->index()).codes[0].code));
     }
 }
 

@@ -62,7 +62,9 @@ public:
     QWidget* find(const QString& name, int number) const;
     QLabel* labelOf(QWidget* widget) const;
     QLabel* labelBehind(QWidget* widget) const;
+    // An edit that a widget of the row shows already, and one that comes from elsewhere.
     void edited(int index, const QString& value);
+    void set(int index, const QString& value);
     // While values are shown the widgets' signals are no edits.
     bool isShowing() const { return showing_ > 0; }
 

@@ -33,8 +33,8 @@ void ChoiceAdapter::show(const QString& value)
 
 void ChoiceAdapter::take()
 {
-    if (box_->currentIndex() >= 0)
-        edited(box_->currentData().toString());
+    if (box_->currentIndex() >= 0 || setting().none)
+        edited(held());
 }
 
 QString ChoiceAdapter::held() const

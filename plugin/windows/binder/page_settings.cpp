@@ -78,8 +78,7 @@ void PageSettings::edit(const char* path, const QString& value)
 {
     const int index = indexOf(path);
     Q_ASSERT(index >= 0);
-    binder_->edited(index, value);
-    binder_->show();
+    binder_->set(index, value);
 }
 
 } // namespace vlk
