@@ -70,6 +70,7 @@ ContentArea::ContentArea(QWidget* parent) : QScrollArea(parent)
 {
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
+    setFocusPolicy(Qt::NoFocus);
 }
 
 bool ContentArea::event(QEvent* event)

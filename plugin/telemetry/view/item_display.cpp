@@ -41,11 +41,12 @@ QString positionText(const TmiPage_Zeta3& page, ItemIndex item)
     const ElementIndex index = kItems[item].element;
     const Rule& rule = kItems[item].rule();
     const qint64 units = page.isExtra() ? page.extra().integer(index) : page.integer(index);
-    const auto [degrees, rest] = std::lldiv(std::llabs(units), static_cast<qint64>(rule.by));
+    const qint64 distance = std::llabs(units);
+    const auto degree = static_cast<qint64>(rule.by);
     const auto& words = isLatitude(index) ? kNorthSouth : kEastWest;
     return QStringLiteral("%1\u00b0 %2' %3")
-        .arg(degrees)
-        .arg(static_cast<double>(rest) * 60 / rule.by, 0, 'f', rule.decimals)
+        .arg(distance / degree)
+        .arg(static_cast<double>(distance % degree) * 60 / rule.by, 0, 'f', rule.decimals)
         .arg(QCoreApplication::translate("vlk", words[units < 0 ? 1 : 0]));
 }
 

@@ -185,7 +185,6 @@ QString RecordsModel::cellText(int page, int column) const
     const CsvColumn& shown = columns_[column];
     if (isAbsent(page, column))
         return {};
-    // As the tabs and the browser have them.
     if (isTime(shown))
         return zonedTimeText(static_cast<quint32>(valueOf(record, shown)), record.utcOffset());
     if (isCoordinate(shown))

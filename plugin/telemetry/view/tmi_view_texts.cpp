@@ -61,7 +61,7 @@ void setControlTexts(const Ui::VLK_Designer_Widget_Tmi_View& ui)
     ui.spinBox_RFID->setAccessibleName(word("tmiw_147"));
 }
 
-std::array<QWidget*, 6> manualControls(const Ui::VLK_Designer_Widget_Tmi_View& ui)
+std::vector<QWidget*> manualControls(const Ui::VLK_Designer_Widget_Tmi_View& ui)
 {
     return {ui.groupBox_Btn_Get,
             ui.groupBox_Btn_Save,

@@ -7,6 +7,8 @@
 #include <QStyle>
 #include <QToolTip>
 
+#include <utility>
+
 ValueLabel::ValueLabel(const QString& objectName, QWidget* parent) : QLabel(parent)
 {
     setObjectName(objectName);
