@@ -9,6 +9,8 @@
 // What only some pages have is found by its name; the concepts below list it. A page is added by its header
 // and a line in PageTuple.
 
+#include "pages/form_config_system.h"
+#include "pages/form_config_track.h"
 #include "pages/form_config_transfer.h"
 
 #include <concepts>
@@ -16,7 +18,7 @@
 
 namespace vlk {
 
-using PageTuple = std::tuple<VLK_Form_Config_Transfer*>;
+using PageTuple = std::tuple<VLK_Form_Config_Transfer*, VLK_Form_Config_Track*, VLK_Form_Config_System*>;
 
 // deviceConnected(), deviceDisconnected()
 template <class Page>

@@ -28,7 +28,7 @@ VLK_FormAutoApnListNew::VLK_FormAutoApnListNew(QWidget* parent)
     ui_->setupUi(this);
     QTreeWidget* tree = ui_->treeWidget_ListApn;
     vlk::makeOperatorRows(tree, vlk::kApnRowCount);
-    tree->setTextElideMode(Qt::ElideRight);
+    tree->header()->setTextElideMode(Qt::ElideRight);
     tree->header()->setMinimumSectionSize(kColumns[0].width);
     tree->header()->setSectionResizeMode(QHeaderView::Fixed);
     for (std::size_t column = 0; column < std::size(kColumns); ++column) {

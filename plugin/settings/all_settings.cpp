@@ -1,12 +1,15 @@
 #include "settings/all_settings.h"
 
+#include "settings/system_settings.h"
+#include "settings/track_settings.h"
 #include "settings/transfer_settings.h"
 
 namespace vlk {
 
 const std::vector<const SettingsTable*>& allSettings()
 {
-    static const std::vector<const SettingsTable*> tables = {&kTransferSettings};
+    static const std::vector<const SettingsTable*> tables = {&kTransferSettings, &kTrackSettings,
+                                                             &kSystemSettings};
     return tables;
 }
 

@@ -110,6 +110,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QStringList>("files");
         QTest::newRow("TRANS") << QStringList{"transfer"};
+        QTest::newRow("TRACK") << QStringList{"track"};
+        QTest::newRow("SYSTEM") << QStringList{"system"};
     }
     void pages()
     {

@@ -55,9 +55,7 @@ void NumberAdapter::show(const QString& value)
 {
     const double shown = shownNumber(setting(), value);
     if (check_) {
-        // A box that was just switched on may stand at 0.
-        if (shown != 0 || box_.value() != 0)
-            setChecked(check_, shown != 0);
+        setChecked(check_, shown != 0);
         remembered_ = shown;
     }
     setLimits();
@@ -82,6 +80,8 @@ void NumberAdapter::switched(bool on)
 void NumberAdapter::take()
 {
     edited(held());
+    if (slider_)
+        slider_.setValue(box_.value());
 }
 
 QString NumberAdapter::held() const
