@@ -198,6 +198,8 @@ void VLK_Device_R7106::retranslate()
         telemetryView_->retranslate();
     if (tmiPage_)
         tmiPage_->retranslate();
+    if (tmiTable_)
+        tmiTable_->retranslate();
 }
 
 void VLK_Device_R7106::closeWindows()
