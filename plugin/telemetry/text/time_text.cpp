@@ -70,6 +70,13 @@ void addZonedTime(AsciiText& text, quint32 seconds, qint32 offset)
     text << ')';
 }
 
+QString zonedTimeText(quint32 seconds, qint32 offset)
+{
+    AsciiText text;
+    addZonedTime(text, seconds, offset);
+    return text.string();
+}
+
 QString localTimeText(quint32 seconds)
 {
     return local(seconds, addClockAndDate);
