@@ -19,8 +19,9 @@ void addDateAndClock(AsciiText& text, quint32 seconds, qint32 offset);
 void addZonedTime(AsciiText& text, quint32 seconds, qint32 offset);
 QString zonedTimeText(quint32 seconds, qint32 offset);
 
-// The first two in the zone of this machine.
+// The same as texts of their own, the first two in the zone of this machine.
 QString localTimeText(quint32 seconds);
 QString dateTimeText(quint32 seconds);
+QString zonedTimeText(quint32 seconds, qint32 offset);
 
 } // namespace vlk
