@@ -70,13 +70,6 @@ void addZonedTime(AsciiText& text, quint32 seconds, qint32 offset)
     text << ')';
 }
 
-QString zonedTimeText(quint32 seconds, qint32 offset)
-{
-    AsciiText text;
-    addZonedTime(text, seconds, offset);
-    return text.string();
-}
-
 QString localTimeText(quint32 seconds)
 {
     return textOf(addClockAndDate, seconds, LocalZone().offsetAt(seconds));
