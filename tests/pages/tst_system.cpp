@@ -1,5 +1,6 @@
 // The System page: what depends on what, driven through widgets by name and through files.
 
+#include "dialog/config_pages.h"
 #include "dialog/widget_config_full.h"
 #include "pages/form_config_system.h"
 #include "settings_page.h"
@@ -201,14 +202,13 @@ private Q_SLOTS:
             press("pushButton_TuningCur");
             return sent;
         };
-        full.pages().with<VLK_Form_Config_System>(
-            [&](auto& shown) { tabs->setCurrentIndex(shown.tabIndex()); });
+        tabs->setCurrentIndex(full.pages().tabOf([](VLK_Form_Config_System&) {}));
         QVERIFY(ask().isEmpty());
         full.deviceConnected();
         QCOMPARE(ask(), QVector<vlk::Message>{vlk::Message::RequestSupply});
         vlk::SupplyRecord answer{};
         answer.values[vlk::supplyElement] = 24870;
-        full.takeSupply(reinterpret_cast<const uchar*>(&answer));
+        full.answers().takeSupply(reinterpret_cast<const uchar*>(&answer));
         const auto* present = get<QDoubleSpinBox>("doubleSpinBox_TuningCur");
         QCOMPARE(present->value(), 24.87);
         full.setDefaults();

@@ -243,9 +243,7 @@ void Binder::edited(int index, const QString& value)
             if (other != index)
                 showRow(other - first_);
         }
-        // A slider or a slot may have made the edit, or a rule may have changed it.
-        const Adapter* own = adapters_[index - first_].get();
-        if (own && own->held() != configuration_.value(index))
+        if (configuration_.value(index) != value)
             showRow(index - first_);
         for (const auto& handles : handles_)
             handles->show();

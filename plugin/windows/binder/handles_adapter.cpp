@@ -25,8 +25,8 @@ void HandlesAdapter::take()
     const Configuration& configuration = binder_.configuration();
     const QString first = fileNumber(configuration.setting(first_), slider_->value1());
     const QString second = fileNumber(configuration.setting(second_), slider_->value2());
-    binder_.edited(second_, second);
-    binder_.edited(first_, first);
+    binder_.set(second_, second);
+    binder_.set(first_, first);
     moveHandles();
     taking_ = false;
 }

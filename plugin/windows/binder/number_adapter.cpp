@@ -16,7 +16,11 @@ NumberAdapter::NumberAdapter(Binder& binder, int index, QWidget* box, QWidget* c
     box_.onChanged(this, [this] { take(); });
     if (qobject_cast<QAbstractSlider*>(companion)) {
         slider_ = NumberBox(companion, setting());
-        slider_.onChanged(this, [this] { edited(fileNumber(setting(), slider_.value())); });
+        // The box rounds, and the slider follows what it made of it.
+        slider_.onChanged(this, [this] {
+            box_.setValue(slider_.value());
+            take();
+        });
     } else if (companion) {
         check_ = companion;
         onToggled(check_, this, [this](bool on) { switched(on); });
