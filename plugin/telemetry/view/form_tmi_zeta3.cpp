@@ -1,6 +1,6 @@
 #include "telemetry/view/form_tmi_zeta3.h"
 
-#include "host/requests.h"
+#include "link/requests.h"
 #include "telemetry/view/form_tmi_f3_tab_accel.h"
 #include "telemetry/view/form_tmi_f3_tab_fuel.h"
 #include "telemetry/view/form_tmi_f3_tab_main.h"
@@ -137,13 +137,6 @@ void VLK_Form_TMI_Zeta3::retranslate()
     }
     if (record_.page() != nullptr)
         fill(*record_.page());
-}
-
-void VLK_Form_TMI_Zeta3::changeEvent(QEvent* event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
-        retranslate();
 }
 
 void VLK_Form_TMI_Zeta3::mousePressEvent(QMouseEvent* event)

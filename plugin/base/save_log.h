@@ -1,0 +1,11 @@
+#pragma once
+
+// Where failed saves are told, as "PATH: REASON", since the windows of the plug-in stay silent about them.
+
+#include <QLoggingCategory>
+
+namespace vlk {
+
+Q_DECLARE_LOGGING_CATEGORY(lcSave)
+
+} // namespace vlk

@@ -1,0 +1,17 @@
+#include "settings/all_settings.h"
+
+#include "settings/lines_in_settings.h"
+#include "settings/system_settings.h"
+#include "settings/track_settings.h"
+#include "settings/transfer_settings.h"
+
+namespace vlk {
+
+const std::vector<const SettingsTable*>& allSettings()
+{
+    static const std::vector<const SettingsTable*> tables = {&kTransferSettings, &kTrackSettings,
+                                                             &kSystemSettings, &kLinesInSettings};
+    return tables;
+}
+
+} // namespace vlk
