@@ -1,0 +1,7 @@
+#include "base/save_log.h"
+
+namespace vlk {
+
+Q_LOGGING_CATEGORY(lcSave, "vlk.save")
+
+} // namespace vlk
