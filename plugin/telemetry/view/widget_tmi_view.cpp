@@ -3,6 +3,7 @@
 #include "ui_VLK_Designer_Widget_Tmi_View.h"
 
 #include "base/clock.h"
+#include "fuel/form_tmi_fuel_sensors.h"
 #include "host/device_r7106.h"
 #include "host/requests.h"
 #include "telemetry/tachograph/form_tmi_taho.h"
@@ -82,6 +83,7 @@ void VLK_Widget_Tmi_View::connectControls()
         {ui_->pushButton_RFID, &View::slot_pressed_RFID},
         {ui_->pushButton_TM, &View::slot_pressed_TM},
         {ui_->pushButton_Taho, &View::slot_pressed_Taho},
+        {ui_->pushButton_FuelSensor, &View::slot_pressed_FuelSensor},
         {ui_->pushButton_Set_Guard, &View::slot_pressed_SetGuard},
         {ui_->pushButton_Set_NoGuard, &View::slot_pressed_SetNoGuard},
     };
@@ -127,6 +129,8 @@ void VLK_Widget_Tmi_View::open(const QString& configurationPath)
     setTitle();
     show();
     raise();
+    if (fuelSensors_ != nullptr)
+        fuelSensors_->linkFound();
 
     if (hostMode() == 0) {
         requests::currentRecord();
@@ -149,7 +153,7 @@ void VLK_Widget_Tmi_View::setTitle()
 void VLK_Widget_Tmi_View::setManualEnabled(bool enabled)
 {
     QWidget* const manual[] = {ui_->groupBox_Btn_Get, ui_->groupBox_Btn_Save, ui_->pushButton_Taho,
-                               ui_->pushButton_RFID};
+                               ui_->pushButton_FuelSensor, ui_->pushButton_RFID};
     for (QWidget* widget : manual)
         widget->setEnabled(enabled);
     pages_.setCommandsEnabled(enabled);
@@ -202,6 +206,12 @@ void VLK_Widget_Tmi_View::takeRfid(quint64 number, qint8 signal)
 {
     ui_->lineEdit_RFID->setText(QString::number(number));
     ui_->spinBox_RFID->setValue(signal);
+}
+
+void VLK_Widget_Tmi_View::takeAnalog(const uchar* record)
+{
+    if (fuelSensors_ != nullptr)
+        fuelSensors_->onLiveRecord(record);
 }
 
 void VLK_Widget_Tmi_View::takeTachographAnswer(const QByteArray& answer)
@@ -287,6 +297,8 @@ void VLK_Widget_Tmi_View::slot_finished_Window(int /*result*/)
     stopRequests();
     if (tachograph_ != nullptr)
         tachograph_->close();
+    if (fuelSensors_ != nullptr)
+        fuelSensors_->linkLost();
 }
 
 void VLK_Widget_Tmi_View::slot_pressed_Func()
@@ -385,6 +397,17 @@ void VLK_Widget_Tmi_View::slot_pressed_Taho()
     tachograph_->open();
 }
 
+void VLK_Widget_Tmi_View::slot_pressed_FuelSensor()
+{
+    if (fuelSensors_ == nullptr)
+        fuelSensors_ = new VLK_Form_TMI_Fuel_Sensors(this);
+    // Opening empties the tables.
+    if (fuelSensors_->isVisible() && fuelSensors_->hasUnsaved())
+        fuelSensors_->raise();
+    else
+        fuelSensors_->openWindow(setup_.objectName);
+}
+
 void VLK_Widget_Tmi_View::slot_pressed_SetGuard()
 {
     requests::guardOn();
@@ -427,4 +450,13 @@ void VLK_Widget_Tmi_View::retranslate()
     pages_.retranslate();
     if (tachograph_ != nullptr)
         tachograph_->retranslate();
+    if (fuelSensors_ != nullptr)
+        fuelSensors_->retranslate();
+}
+
+void VLK_Widget_Tmi_View::closeWindows()
+{
+    close();
+    if (fuelSensors_ != nullptr)
+        fuelSensors_->close();
 }
