@@ -100,7 +100,7 @@
     <message id="cfgt6_041"><translation>Value</translation></message>
     <message id="cfgt6_042"><translation>Voltage,&#160;V</translation></message>
     <message id="cfgt6_043"><translation>Voltage,&#160;V</translation></message>
-    <message id="cfgt6_044"><translation>Level&#160;code</translation></message>
+    <message id="cfgt6_044"><translation>Level</translation></message>
     <message id="cfgt6_045"><translation>Level,&#160;code</translation></message>
     <message id="cfgt6_046"><translation>Delete</translation></message>
     <message id="cfgt6_047"><translation>Add&#160;the&#160;point&#160;to&#160;the&#160;table</translation></message>
@@ -114,10 +114,10 @@
     <message id="cfgt6_055"><translation>Form</translation></message>
     <message id="cfgt6_056"><translation>Fuel&#160;tank&#160;calibration&#160;report</translation></message>
     <message id="cfgt6_057"><translation>Fuel&#160;tank</translation></message>
-    <message id="cfgt6_058"><translation>Vehicle&#160;model&#160;</translation></message>
+    <message id="cfgt6_058"><translation>Vehicle&#160;</translation></message>
     <message id="cfgt6_059"><translation>Plate&#160;</translation></message>
     <message id="cfgt6_060"><translation>Owner&#160;</translation></message>
-    <message id="cfgt6_061"><translation>Odometer&#160;reading,&#160;km&#160;</translation></message>
+    <message id="cfgt6_061"><translation>Odometer,&#160;km&#160;</translation></message>
     <message id="cfgt6_062"><translation>Sensor</translation></message>
     <message id="cfgt6_063"><translation>Tracker</translation></message>
     <message id="cfgt6_064"><translation>Volume,&#160;l</translation></message>
@@ -911,7 +911,7 @@
     <message id="wb_table_short"><translation>Table</translation></message>
     <message id="wb_tank_box"><translation>box</translation></message>
     <message id="wb_tank_choice"><translation>Sensor&#160;in&#160;the&#160;tank</translation></message>
-    <message id="wb_tank_code"><translation>Sensor:&#160;code&#160;%1</translation></message>
+    <message id="wb_tank_code"><translation>Sensor:&#160;%1</translation></message>
     <message id="wb_tank_cylinder"><translation>lying&#160;cylinder</translation></message>
     <message id="wb_tank_drain"><translation>Drain&#160;all</translation></message>
     <message id="wb_tank_litres"><translation>In&#160;the&#160;tank:&#160;%1&#160;l</translation></message>

@@ -100,7 +100,7 @@
     <message id="cfgt6_041"><translation>Значение</translation></message>
     <message id="cfgt6_042"><translation>Напряжение,&#160;В</translation></message>
     <message id="cfgt6_043"><translation>Напряжение,&#160;В</translation></message>
-    <message id="cfgt6_044"><translation>Код&#160;уровня</translation></message>
+    <message id="cfgt6_044"><translation>Уровень</translation></message>
     <message id="cfgt6_045"><translation>Уровень,&#160;код</translation></message>
     <message id="cfgt6_046"><translation>Удалить</translation></message>
     <message id="cfgt6_047"><translation>Добавить&#160;точку&#160;в&#160;таблицу</translation></message>
@@ -114,10 +114,10 @@
     <message id="cfgt6_055"><translation>Форма</translation></message>
     <message id="cfgt6_056"><translation>Акт&#160;тарировки&#160;топливного&#160;бака</translation></message>
     <message id="cfgt6_057"><translation>Топливный&#160;бак</translation></message>
-    <message id="cfgt6_058"><translation>Марка&#160;автомобиля&#160;</translation></message>
+    <message id="cfgt6_058"><translation>Автомобиль&#160;</translation></message>
     <message id="cfgt6_059"><translation>Гос.&#160;номер&#160;</translation></message>
     <message id="cfgt6_060"><translation>Владелец&#160;</translation></message>
-    <message id="cfgt6_061"><translation>Показание&#160;одометра,&#160;км&#160;</translation></message>
+    <message id="cfgt6_061"><translation>Пробег,&#160;км&#160;</translation></message>
     <message id="cfgt6_062"><translation>Датчик</translation></message>
     <message id="cfgt6_063"><translation>Трекер</translation></message>
     <message id="cfgt6_064"><translation>Объём,&#160;л</translation></message>
@@ -911,7 +911,7 @@
     <message id="wb_table_short"><translation>Таблица</translation></message>
     <message id="wb_tank_box"><translation>прямоугольный</translation></message>
     <message id="wb_tank_choice"><translation>Датчик&#160;в&#160;баке</translation></message>
-    <message id="wb_tank_code"><translation>Датчик:&#160;код&#160;%1</translation></message>
+    <message id="wb_tank_code"><translation>Датчик:&#160;%1</translation></message>
     <message id="wb_tank_cylinder"><translation>лежачий&#160;цилиндр</translation></message>
     <message id="wb_tank_drain"><translation>Слить&#160;всё</translation></message>
     <message id="wb_tank_litres"><translation>В&#160;баке:&#160;%1&#160;л</translation></message>

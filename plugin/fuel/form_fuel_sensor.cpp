@@ -30,6 +30,21 @@ constexpr int kTopAddedValue = 32767;
 constexpr double kTopVolume = 5000;
 constexpr double kTopVolts = 35;
 
+// The columns have a width of their own, so the captions may have to be written smaller.
+void fitHeadings(QHeaderView* header, const QFont& font, const vlk::FuelCaptions& captions)
+{
+    constexpr int kPadding = 8;
+    constexpr int kSmallest = 8;
+    QFont fitting = font;
+    fitting.setPixelSize(QFontInfo(font).pixelSize());
+    const auto fits = [&](const QString& caption) {
+        return QFontMetrics(fitting).horizontalAdvance(caption) <= kColumnWidths[Value] - kPadding;
+    };
+    while (fitting.pixelSize() > kSmallest && !(fits(captions.volume) && fits(captions.value)))
+        fitting.setPixelSize(fitting.pixelSize() - 1);
+    header->setFont(fitting);
+}
+
 } // namespace
 
 VLK_Form_Fuel_Sensor::VLK_Form_Fuel_Sensor(int kind, const QString& name, const QIcon& addIcon,
@@ -119,6 +134,7 @@ void VLK_Form_Fuel_Sensor::showCaptions()
     graph_->setKind(vlk::fuelKind(kind_));
     const vlk::FuelCaptions texts = captions();
     ui_->tableWidget->setHorizontalHeaderLabels({texts.volume, texts.value, QString()});
+    fitHeadings(ui_->tableWidget->horizontalHeader(), font(), texts);
     ui_->label_Volume->setText(texts.volume);
     ui_->label_Param->setText(texts.value);
     graph_->setAccessibleName(texts.value);

@@ -14,8 +14,9 @@ VLK_FormReportFuel::VLK_FormReportFuel(QWidget* parent)
       ui_(std::make_unique<Ui::VLK_Designer_FormReportFuel>())
 {
     ui_->setupUi(this);
-    QFont font = ui_->textEdit_Report->font();
-    font.setFamily(QStringLiteral("Courier New"));
+    // At this size the lines of the form are as long as the paper is wide.
+    QFont font(QStringLiteral("Courier New"));
+    font.setPointSizeF(7.5);
     font.setStyleHint(QFont::TypeWriter);
     ui_->textEdit_Report->setFont(font);
     ui_->pushButton_Print->setAutoDefault(false);

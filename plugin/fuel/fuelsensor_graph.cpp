@@ -55,6 +55,10 @@ VLK_FuelSensor_Graph::VLK_FuelSensor_Graph(QWidget* parent) : QWidget(parent)
 {
     setMouseTracking(true);
     setMinimumSize(260, 180);
+    // The margins leave no room for more.
+    QFont labels = font();
+    labels.setPixelSize(12);
+    setFont(labels);
 }
 
 void VLK_FuelSensor_Graph::setKind(const vlk::FuelKind& kind)

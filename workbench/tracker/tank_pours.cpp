@@ -14,8 +14,8 @@ namespace {
 
 // The oldest are forgotten.
 constexpr std::size_t mostPours = 500;
-constexpr double settlingSeconds = 1.5;
-constexpr double swingSeconds = 3;
+constexpr double settlingSeconds = 1.2;
+constexpr double swingSeconds = 2;
 constexpr qint64 restAfterSeconds = 60;
 // Of the height.
 constexpr double noise = 0.0005;

@@ -5,10 +5,10 @@
 
 #include <QComboBox>
 #include <QEvent>
+#include <QGridLayout>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -25,21 +25,30 @@ TankPanel::TankPanel(tracker::SimulatedTracker& tracker, QWidget* parent)
       filling_(new QProgressBar(this)), litres_(new QLabel(this)), reading_(new QLabel(this))
 {
     texts_.bind(static_cast<QGroupBox*>(this), "wb_tanks");
-    auto* column = new QVBoxLayout(this);
-    auto* label = texts_.bind(new QLabel(this), "wb_tank_choice");
-    label->setBuddy(tank_);
+    auto* grid = new QGridLayout(this);
     tank_->setObjectName(QStringLiteral("comboBox_Tank"));
     for (const tracker::Tank& tank : tracker::tanks)
         tank_->addItem(QLatin1String(tank.sensor));
+    texts_.bind([this] { tank_->setAccessibleName(vlk::text("wb_tank_choice")); });
     filling_->setTextVisible(false);
+    filling_->setMaximumHeight(fontMetrics().height());
     reading_->setObjectName(QStringLiteral("label_TankReading"));
-    for (QWidget* widget : std::initializer_list<QWidget*>{label, tank_, shape_, filling_, litres_, reading_})
-        column->addWidget(widget);
+    // The panel must not widen the window beyond small screens.
+    for (QLabel* label : {shape_, litres_, reading_})
+        label->setMinimumWidth(1);
+    grid->addWidget(tank_, 0, 0);
+    grid->addWidget(shape_, 0, 1);
+    grid->addWidget(filling_, 1, 0, 1, 2);
+    grid->addWidget(litres_, 2, 0);
+    grid->addWidget(reading_, 2, 1);
 
-    const auto addButton = [this, column](const QString& name) {
+    constexpr int firstButtons = 3;
+    int place = 0;
+    const auto addButton = [&](const QString& name) {
         auto* button = new QPushButton(this);
         button->setObjectName(name);
-        column->addWidget(button);
+        grid->addWidget(button, firstButtons + place / 2, place % 2);
+        ++place;
         return button;
     };
     for (const int litres : pours) {
@@ -49,7 +58,6 @@ TankPanel::TankPanel(tracker::SimulatedTracker& tracker, QWidget* parent)
     }
     auto* drain = texts_.bind(addButton(QStringLiteral("pushButton_Drain")), "wb_tank_drain");
     connect(drain, &QPushButton::clicked, this, [this] { pour(-tracker::tanks[chosen()].litres); });
-    column->addStretch(1);
 
     connect(tank_, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &TankPanel::refresh);
     connect(&timer_, &QTimer::timeout, this, &TankPanel::refresh);
