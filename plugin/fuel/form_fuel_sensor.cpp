@@ -4,46 +4,21 @@
 
 #include "fuel/decimal_validator.h"
 #include "fuel/form_report_fuel.h"
-#include "fuel/fuelsensor_delegate.h"
-#include "fuel/fuelsensor_delegate_int.h"
 #include "fuel/fuelsensor_graph.h"
 #include "fuel/question.h"
 #include "fuel/table/fuel_document.h"
 #include "fuel/table/fuel_file.h"
 #include "fuel/table/fuel_log.h"
 #include "fuel/table/fuel_sensors.h"
-#include "fuel/tablewidgetitem_fuelsort.h"
 #include "xml/xml_section.h"
 
 #include <QAction>
 #include <QClipboard>
-#include <QHeaderView>
-#include <QScopedValueRollback>
 
 namespace {
 
-enum Column { Volume, Value, Marked, ColumnCount };
-
-constexpr int kColumnWidths[] = {95, 95, 20};
 constexpr double kTopAddedVolume = 3276.7;
 constexpr int kTopAddedValue = 32767;
-constexpr double kTopVolume = 5000;
-constexpr double kTopVolts = 35;
-
-// The columns have a width of their own, so the captions may have to be written smaller.
-void fitHeadings(QHeaderView* header, const QFont& font, const vlk::FuelCaptions& captions)
-{
-    constexpr int kPadding = 8;
-    constexpr int kSmallest = 8;
-    QFont fitting = font;
-    fitting.setPixelSize(QFontInfo(font).pixelSize());
-    const auto fits = [&](const QString& caption) {
-        return QFontMetrics(fitting).horizontalAdvance(caption) <= kColumnWidths[Value] - kPadding;
-    };
-    while (fitting.pixelSize() > kSmallest && !(fits(captions.volume) && fits(captions.value)))
-        fitting.setPixelSize(fitting.pixelSize() - 1);
-    header->setFont(fitting);
-}
 
 } // namespace
 
@@ -64,12 +39,12 @@ VLK_Form_Fuel_Sensor::VLK_Form_Fuel_Sensor(int kind, const QString& name, const 
     alarm.setColor(QPalette::WindowText, Qt::red);
     ui_->label_Falling->setPalette(alarm);
     setFocusProxy(ui_->lineEdit_Volume);
-    setUpTable();
     addClipboardActions();
 
     using Form = VLK_Form_Fuel_Sensor;
     connect(ui_->lineEdit_Volume, &QLineEdit::textChanged, this, &Form::slot_textChanged_LineEdit_Volume);
     connect(ui_->lineEdit_Param, &QLineEdit::textChanged, this, &Form::slot_textChanged_LineEdit_Param);
+    connect(ui_->tableWidget, &QTableWidget::cellChanged, this, &Form::slot_CellChanged_Table);
     for (const QLineEdit* edit : {ui_->lineEdit_Volume, ui_->lineEdit_Param})
         connect(edit, &QLineEdit::returnPressed, ui_->pushButton_Add, &QPushButton::click);
     const std::pair<QPushButton*, void (Form::*)()> buttons[] = {
@@ -87,20 +62,6 @@ VLK_Form_Fuel_Sensor::VLK_Form_Fuel_Sensor(int kind, const QString& name, const 
 
 VLK_Form_Fuel_Sensor::~VLK_Form_Fuel_Sensor() = default;
 
-void VLK_Form_Fuel_Sensor::setUpTable()
-{
-    QTableWidget* table = ui_->tableWidget;
-    for (int column = 0; column < ColumnCount; ++column)
-        table->setColumnWidth(column, kColumnWidths[column]);
-    table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table->horizontalHeader()->setMinimumSectionSize(0);
-    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
-    table->setTabKeyNavigation(false);
-    table->setItemDelegateForColumn(Volume, new VLK_FuelSensor_Delegate(kTopVolume, 1, table));
-    connect(table, &QTableWidget::cellChanged, this, &VLK_Form_Fuel_Sensor::slot_CellChanged_Table);
-}
-
 void VLK_Form_Fuel_Sensor::addClipboardActions()
 {
     copy_->setShortcut(QKeySequence::Copy);
@@ -117,15 +78,7 @@ void VLK_Form_Fuel_Sensor::addClipboardActions()
 void VLK_Form_Fuel_Sensor::setKind(int kind)
 {
     kind_ = kind;
-    const vlk::FuelKind& row = vlk::fuelKind(kind);
-    QTableWidget* table = ui_->tableWidget;
-    delete table->itemDelegateForColumn(Value);
-    QAbstractItemDelegate* delegate = nullptr;
-    if (row.editor == vlk::FuelKind::Editor::Decimal)
-        delegate = new VLK_FuelSensor_Delegate(kTopVolts, 2, table);
-    else if (row.editor == vlk::FuelKind::Editor::Integer)
-        delegate = new VLK_FuelSensor_Delegate_Int(table);
-    table->setItemDelegateForColumn(Value, delegate);
+    ui_->tableWidget->setKind(kind);
     showCaptions();
 }
 
@@ -133,8 +86,7 @@ void VLK_Form_Fuel_Sensor::showCaptions()
 {
     graph_->setKind(vlk::fuelKind(kind_));
     const vlk::FuelCaptions texts = captions();
-    ui_->tableWidget->setHorizontalHeaderLabels({texts.volume, texts.value, QString()});
-    fitHeadings(ui_->tableWidget->horizontalHeader(), font(), texts);
+    ui_->tableWidget->setCaptions(texts);
     ui_->label_Volume->setText(texts.volume);
     ui_->label_Param->setText(texts.value);
     graph_->setAccessibleName(texts.value);
@@ -216,64 +168,21 @@ void VLK_Form_Fuel_Sensor::addRow(const QString& volume, const QString& value)
 
 void VLK_Form_Fuel_Sensor::addRows(const vlk::FuelRows& rows)
 {
-    QTableWidget* table = ui_->tableWidget;
-    {
-        const QScopedValueRollback bulk(bulk_, true);
-        int row = table->rowCount();
-        table->setRowCount(row + static_cast<int>(rows.size()));
-        for (const vlk::FuelRow& texts : rows) {
-            for (const auto& [column, text] :
-                 {std::pair(Volume, texts.volume), std::pair(Value, texts.value)}) {
-                auto* item = new VLK_TableWidgetItem_FuelSort(vlk::withDecimalPoint(text));
-                item->setTextAlignment(Qt::AlignCenter);
-                table->setItem(row, column, item);
-            }
-            auto* mark = new QTableWidgetItem;
-            mark->setFlags(Qt::ItemIsEnabled | Qt::ItemIsUserCheckable);
-            mark->setCheckState(Qt::Unchecked);
-            table->setItem(row, Marked, mark);
-            ++row;
-        }
-    }
-    table->sortItems(Volume);
-    ui_->pushButton_Clear->setEnabled(table->rowCount() > 0);
+    ui_->tableWidget->addRows(rows);
+    ui_->pushButton_Clear->setEnabled(ui_->tableWidget->rowCount() > 0);
     rebuildPoints();
-}
-
-VLK_TableWidgetItem_FuelSort* VLK_Form_Fuel_Sensor::cell(int row, int column) const
-{
-    return static_cast<VLK_TableWidgetItem_FuelSort*>(ui_->tableWidget->item(row, column));
-}
-
-bool VLK_Form_Fuel_Sensor::isChecked(int row) const
-{
-    return ui_->tableWidget->item(row, Marked)->checkState() == Qt::Checked;
-}
-
-vlk::FuelRows VLK_Form_Fuel_Sensor::rows() const
-{
-    vlk::FuelRows rows;
-    for (int row = 0; row < ui_->tableWidget->rowCount(); ++row)
-        rows.push_back({cell(row, Volume)->text(), cell(row, Value)->text()});
-    return rows;
 }
 
 void VLK_Form_Fuel_Sensor::tableToMap(QMap<double, int>& map) const
 {
     map.clear();
-    for (const vlk::FuelRow& row : rows())
+    for (const vlk::FuelRow& row : ui_->tableWidget->rows())
         map[vlk::withDecimalPoint(row.volume).toDouble()] = vlk::withDecimalPoint(row.value).toInt();
 }
 
 void VLK_Form_Fuel_Sensor::rebuildPoints()
 {
-    points_.clear();
-    for (int row = 0; row < ui_->tableWidget->rowCount(); ++row) {
-        const auto* volume = cell(row, Volume);
-        const auto* value = cell(row, Value);
-        if (!volume->isEmpty() && !value->isEmpty())
-            points_.push_back({volume->number(), value->number()});
-    }
+    points_ = ui_->tableWidget->points();
     graph_->setPoints(points_);
     showFallingPoints();
 }
@@ -301,7 +210,7 @@ void VLK_Form_Fuel_Sensor::setDirty(bool dirty)
 
 void VLK_Form_Fuel_Sensor::saveCsv(const QString& path) const
 {
-    vlk::saveFuelFile(path, vlk::fuelCsv(captions(), rows()));
+    vlk::saveFuelFile(path, vlk::fuelCsv(captions(), ui_->tableWidget->rows()));
 }
 
 void VLK_Form_Fuel_Sensor::loadCsv(const QString& path)
@@ -319,7 +228,7 @@ void VLK_Form_Fuel_Sensor::loadCsv(const QString& path)
 
 void VLK_Form_Fuel_Sensor::saveXml(CXmlSection* section)
 {
-    vlk::putFuelTable(section, name_, ui_->lineEdit_Name->text(), rows());
+    vlk::putFuelTable(section, name_, ui_->lineEdit_Name->text(), ui_->tableWidget->rows());
     setDirty(false);
 }
 
@@ -344,7 +253,7 @@ void VLK_Form_Fuel_Sensor::printReport()
 
 void VLK_Form_Fuel_Sensor::copyTable() const
 {
-    QGuiApplication::clipboard()->setText(vlk::fuelClipboard(captions(), rows()));
+    QGuiApplication::clipboard()->setText(vlk::fuelClipboard(captions(), ui_->tableWidget->rows()));
 }
 
 void VLK_Form_Fuel_Sensor::pasteRows()
@@ -358,16 +267,11 @@ void VLK_Form_Fuel_Sensor::pasteRows()
 
 void VLK_Form_Fuel_Sensor::slot_CellChanged_Table(int /*row*/, int column)
 {
-    if (bulk_)
-        return;
-    if (column == Marked) {
-        bool any = false;
-        for (int row = 0; row < ui_->tableWidget->rowCount() && !any; ++row)
-            any = isChecked(row);
-        ui_->pushButton_Del->setEnabled(any);
+    if (column == CalibrationTable::Marked) {
+        ui_->pushButton_Del->setEnabled(ui_->tableWidget->anyMarked());
         return;
     }
-    ui_->tableWidget->sortItems(Volume);
+    ui_->tableWidget->sortByVolume();
     rebuildPoints();
 }
 
@@ -395,10 +299,7 @@ void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Del()
 {
     if (!vlk::agrees(this, tr("cfgt6_050"), "wrd_002"))
         return;
-    for (int row = ui_->tableWidget->rowCount() - 1; row >= 0; --row) {
-        if (isChecked(row))
-            ui_->tableWidget->removeRow(row);
-    }
+    ui_->tableWidget->removeMarked();
     ui_->pushButton_Del->setEnabled(false);
     const bool anyLeft = ui_->tableWidget->rowCount() > 0;
     ui_->pushButton_Clear->setEnabled(anyLeft);

@@ -18,7 +18,6 @@
 struct CXmlSection;
 class VLK_FormReportFuel;
 class VLK_FuelSensor_Graph;
-class VLK_TableWidgetItem_FuelSort;
 
 namespace Ui {
 class VLK_Designer_Form_Fuel_Sensor;
@@ -50,7 +49,6 @@ public:
     void addRow(const QString& volume, const QString& value);
     // Sorts and draws once for all of them.
     void addRows(const vlk::FuelRows& rows);
-    vlk::FuelRows rows() const;
     // Volume to value. Of like volumes the last row counts; a value with a fraction reads as 0.
     void tableToMap(QMap<double, int>& map) const;
 
@@ -78,13 +76,10 @@ private Q_SLOTS:
     void slot_pressed_Btn_Clear();
 
 private:
-    void setUpTable();
     void addClipboardActions();
     void setKind(int kind);
     void showCaptions();
     vlk::FuelCaptions captions() const;
-    VLK_TableWidgetItem_FuelSort* cell(int row, int column) const;
-    bool isChecked(int row) const;
     void copyTable() const;
     void pasteRows();
     void clearRows();
@@ -101,6 +96,5 @@ private:
     QString name_;
     int tabIndex_ = -1;
     bool dirty_ = false;
-    bool bulk_ = false; // cells change without a sort and a new curve after each
     vlk::FuelPoints points_;
 };
