@@ -3,9 +3,9 @@
 
 #include "bench/side_by_side.h"
 #include "bench/xml_reader_alone.h"
-#include "host/device_r7106.h"
-#include "windows/widget_config.h"
-#include "windows/widget_config_full.h"
+#include "dialog/widget_config.h"
+#include "dialog/widget_config_full.h"
+#include "link/messages.h"
 
 #include <QApplication>
 #include <QDialog>

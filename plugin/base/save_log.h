@@ -1,7 +1,6 @@
 #pragma once
 
-// Where files that could not be saved are told of, as "PATH: REASON", by windows that tell their user
-// nothing.
+// Where failed saves are told, as "PATH: REASON", since the windows of the plug-in stay silent about them.
 
 #include <QLoggingCategory>
 

@@ -1,22 +1,62 @@
 #pragma once
 
-// Files that are saved whole or not at all: what was there before stays until the new one is complete.
+// Files that are saved whole or not at all: what was there before stays until the new one is complete. In the
+// header alone, so that the workbench, which links nothing of the plug-in, saves in the same way.
 
 #include <QSaveFile>
 
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <unistd.h>
+#endif
+
 namespace vlk {
 
-// `write` puts the content into the file and says whether it could. On failure the file tells the error.
-template <class Write>
-bool saveWhole(QSaveFile& file, Write write)
+// True when all that was written to the file has reached the disk; `error` tells what the disk said, if it
+// said anything.
+inline bool flushToDisk(QFileDevice& file, QString* error)
 {
-    // The commit alone does not notice that the last buffer went out in part; the flush does.
-    return file.open(QIODevice::WriteOnly) && write(file) && file.flush() && file.commit();
+    if (!file.flush())
+        return false;
+#ifdef Q_OS_UNIX
+    if (fdatasync(file.handle()) != 0) {
+        *error = qt_error_string(errno);
+        return false;
+    }
+#endif
+    return true;
 }
 
-inline bool saveWhole(QSaveFile& file, const QByteArray& content)
+// The reason why a save came to nothing.
+inline QString whyNotSaved(QSaveFile& file)
 {
-    return saveWhole(file, [&content](QIODevice& device) { return device.write(content) == content.size(); });
+#ifdef Q_OS_UNIX
+    // Of a write that was done in part Qt knows no reason; a further byte, in a file that is thrown away,
+    // does.
+    if (file.isOpen() && write(file.handle(), "", 1) < 0)
+        return qt_error_string(errno);
+#endif
+    return file.errorString();
+}
+
+// `write` puts the content into the file and says whether it could. On failure `reason`, where given, says
+// why.
+template <class Write>
+bool saveWhole(QSaveFile& file, Write write, QString* reason = nullptr)
+{
+    // The commit alone notices neither that the last buffer went out in part nor that the disk refused it.
+    QString error;
+    const bool saved =
+        file.open(QIODevice::WriteOnly) && write(file) && flushToDisk(file, &error) && file.commit();
+    if (!saved && reason)
+        *reason = error.isEmpty() ? whyNotSaved(file) : error;
+    return saved;
+}
+
+inline bool saveWhole(QSaveFile& file, const QByteArray& content, QString* reason = nullptr)
+{
+    return saveWhole(
+        file, [&content](QIODevice& device) { return device.write(content) == content.size(); }, reason);
 }
 
 } // namespace vlk

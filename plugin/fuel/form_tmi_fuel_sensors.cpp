@@ -10,8 +10,8 @@
 #include "fuel/question.h"
 #include "fuel/table/fuel_document.h"
 #include "fuel/table/fuel_file.h"
-#include "host/device_r7106.h"
-#include "host/requests.h"
+#include "link/device.h"
+#include "link/requests.h"
 #include "windows/vlk_tabwidget.h"
 #include "xml/xml_document.h"
 
@@ -277,15 +277,14 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Xml()
     if (path.isEmpty())
         return;
     // Made in memory, so that nothing of what the file held before counts.
-    XmlDocument document({}, QLatin1String(fuelRoot));
+    XmlDocument document(QString{}, QLatin1String(fuelRoot));
     CXmlSection* root = document.root();
     root->setString(QStringLiteral("model"), modelText());
     root->setChildValue(QStringLiteral("objName"), ui_->lineEdit_Title->text());
     const bool wasDirty = form && form->isDirty();
     if (form)
         form->saveXml(root);
-    root->commit();
-    if (!saveFuelFile(path, fuelDocument(*root)) && wasDirty)
+    if (!document.saveAs(path) && wasDirty)
         form->setDirty(true);
 }
 

@@ -1,15 +1,13 @@
 #include "host/device_r7106.h"
 
+#include "dialog/widget_config.h"
 #include "telemetry/view/widget_tmi_page.h"
 #include "telemetry/view/widget_tmi_table.h"
 #include "telemetry/view/widget_tmi_view.h"
 #include "windows/form_io_progress.h"
 #include "windows/form_param_about.h"
-#include "windows/widget_config.h"
 
 #include <cstring>
-
-VLK_Device_R7106* vlkDevice = nullptr;
 
 namespace {
 

@@ -4,9 +4,10 @@
 // host reads, and the windows. It exists from the loading of the library to its end; the pointer `vlkDevice`
 // is null until Initialize. Windows are made on first use and live as long as the process: closing one only
 // hides it. Messages from outside arrive in `receive`, messages to the host leave through `send`
-// (host/requests.h has a typed function for each).
+// (link/requests.h has a typed function for each).
 
 #include "host/host_interface.h"
+#include "link/device.h"
 
 #include <QObject>
 
@@ -17,7 +18,7 @@ class VLK_Widget_Tmi_Page;
 class VLK_Widget_Tmi_Table;
 class VLK_Widget_Tmi_View;
 
-class VLK_Device_R7106 : public QObject
+class VLK_Device_R7106 : public QObject, public vlk::Device
 {
     Q_OBJECT
 
@@ -30,36 +31,22 @@ public:
     bool isHandle(const void* handle) const;
     void receive(std::uint32_t id, void* p1, void* p2);
 
-    void send(vlk::Message id, void* p1 = nullptr, void* p2 = nullptr);
+    void send(vlk::Message id, void* p1 = nullptr, void* p2 = nullptr) override;
+    QString tmiFolder() const override;
+    QString xmlFolder() const override;
+    QString model() const override { return modelText_; }
+    QString vendor() const override { return vendorText_; }
+    QString trackerId1() const override { return trackerText1_; }
+    QString trackerId2() const override { return trackerText2_; }
+    quint64 capabilityMask() const override { return trackerMask_; }
+    int mode() const override { return hostMode_; }
+    QString fileVersion() const override;
+    char* balanceUssd() override { return balanceUssd_; }
+    void setLiveOwner(int owner) override { liveOwner_ = owner; }
+    void showHelp(const QString& page) override;
+    void showText(const QString& title, const QString& html) override;
 
-    // Folder of telemetry files, "./Data/TMI/" until the host gives another; of configuration files likewise.
-    QString tmiFolder() const;
-    QString xmlFolder() const;
-
-    QString model() const { return modelText_; }
-    QString vendor() const { return vendorText_; }
-    QString trackerId1() const { return trackerText1_; }
-    QString trackerId2() const { return trackerText2_; }
-    quint64 capabilityMask() const { return trackerMask_; }
-    bool connected() const { return connected_; }
-    int mode() const { return hostMode_; }
-    // First three version numbers, "3.3.0".
-    QString fileVersion() const;
-
-    // Balance request code of the last configuration file read, balanceUssdSize bytes with their NUL.
-    char* balanceUssd() { return balanceUssd_; }
-
-    // Who asked for the live key: 1 the telemetry view, 0 nobody.
     int liveOwner() const { return liveOwner_; }
-    void setLiveOwner(int owner) { liveOwner_ = owner; }
-
-    // Shows a help page of the host; an empty name asks for nothing.
-    void showHelp(const QString& page);
-    // Shows a titled text in the text dialog.
-    void showText(const QString& title, const QString& html);
-
-    // The progress dialog, null before Initialize.
-    VLK_Form_IO_Progress* progressForm() const { return progressForm_; }
 
     // What messages do to the device itself; dispatch.cpp says which.
     void setMode(int mode) { hostMode_ = mode; }
@@ -101,6 +88,3 @@ private:
     int hostMode_ = 0;
     char balanceUssd_[vlk::balanceUssdSize] = {};
 };
-
-// Null until the host has called Initialize.
-extern VLK_Device_R7106* vlkDevice;

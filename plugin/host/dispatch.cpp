@@ -2,10 +2,10 @@
 // outside: a null address ends the message. Numbers that the table lacks are ignored, among them those of the
 // contract that have no effect on this model.
 
+#include "dialog/widget_config.h"
+#include "dialog/widget_config_full.h"
 #include "host/device_r7106.h"
 #include "telemetry/view/widget_tmi_view.h"
-#include "windows/widget_config.h"
-#include "windows/widget_config_full.h"
 
 #include <algorithm>
 #include <cstring>
@@ -50,12 +50,18 @@ void plain(VLK_Device_R7106& device, const Parameters& /*parameters*/)
     (device.*operation)();
 }
 
-// Hands the value at p1 to an operation of the full window, whether the dialog is on show or not.
+// Where answers of the tracker go while a configuration is open; null before the first.
+vlk::TrackerAnswers* answersOf(const VLK_Device_R7106& device)
+{
+    return device.configDialog() ? &device.configDialog()->fullWindow()->answers() : nullptr;
+}
+
+// Hands the value at p1 to the configuration, whether the dialog is on show or not.
 template <auto operation, class T>
 void toConfig(VLK_Device_R7106& device, const Parameters& parameters)
 {
-    if (device.configDialog() && parameters.p1)
-        (device.configDialog()->fullWindow()->*operation)(*static_cast<const T*>(parameters.p1));
+    if (auto* answers = answersOf(device); answers && parameters.p1)
+        (answers->*operation)(*static_cast<const T*>(parameters.p1));
 }
 
 template <auto operation, class T>
@@ -69,8 +75,8 @@ void toShownConfig(VLK_Device_R7106& device, const Parameters& parameters)
 template <auto operation>
 void bytesToConfig(VLK_Device_R7106& device, const Parameters& parameters)
 {
-    if (device.configDialog())
-        (device.configDialog()->fullWindow()->*operation)(static_cast<const uchar*>(parameters.p1));
+    if (auto* answers = answersOf(device))
+        (answers->*operation)(static_cast<const uchar*>(parameters.p1));
 }
 
 // Hands the bytes at p1 to an operation of the telemetry view, whether it is on show or not: those behind the
@@ -90,7 +96,7 @@ quint64 numberOf(const vlk::IdPair& pair)
     return quint64(pair.high) << 32 | pair.low;
 }
 
-using Full = VLK_Widget_Config_Full;
+using Answers = vlk::TrackerAnswers;
 using View = VLK_Widget_Tmi_View;
 
 constexpr Entry table[] = {
@@ -119,7 +125,7 @@ constexpr Entry table[] = {
     {Message::SetPaths, &withRecord<&VLK_Device_R7106::setPaths, vlk::Paths>},
     {Message::TrackerAttached, &withRecord<&VLK_Device_R7106::attach, vlk::ConnectInfo>},
     {Message::TrackerDetached, &plain<&VLK_Device_R7106::detach>},
-    {Message::LineValues, &toShownConfig<&Full::takeLineValues, QByteArray>},
+    {Message::LineValues, &toShownConfig<&Answers::takeLineValues, QByteArray>},
     {Message::OpenConfiguration, &withRecord<&VLK_Device_R7106::openConfiguration, vlk::OpenRequest>},
     {Message::OpenTelemetry, &withRecord<&VLK_Device_R7106::openTelemetry, QString>},
     {Message::ShowStoredFile,
@@ -133,31 +139,31 @@ constexpr Entry table[] = {
          if (device.liveOwner() == 1 && device.telemetryView() && parameters.p1)
              device.telemetryView()->takeLiveKey(numberOf(*static_cast<const vlk::IdPair*>(parameters.p1)));
      }},
-    {Message::SupplyValues, &bytesToConfig<&Full::takeSupply>},
+    {Message::SupplyValues, &bytesToConfig<&Answers::takeSupply>},
     {Message::AnalogRecord,
      [](VLK_Device_R7106& device, const Parameters& parameters) {
          if (device.telemetryView() && !device.telemetryView()->isHidden())
              device.telemetryView()->takeAnalog(static_cast<const uchar*>(parameters.p1));
          if (device.configDialog() && !device.configDialog()->isHidden())
-             bytesToConfig<&Full::takeAnalog>(device, parameters);
+             bytesToConfig<&Answers::takeAnalog>(device, parameters);
      }},
-    {Message::AccelRecord, &bytesToConfig<&Full::takeAccel>},
-    {Message::AccelCommandResult, &bytesToConfig<&Full::takeAccelResult>},
+    {Message::AccelRecord, &bytesToConfig<&Answers::takeAccel>},
+    {Message::AccelCommandResult, &bytesToConfig<&Answers::takeAccelResult>},
     {Message::MonitorRearm,
      [](VLK_Device_R7106& device, const Parameters&) {
-         if (device.configDialog())
-             device.configDialog()->fullWindow()->rearmMonitor();
+         if (auto* answers = answersOf(device))
+             answers->rearmMonitor();
      }},
-    {Message::BtSearchStopped, &toConfig<&Full::takeBtSearchStopped, uchar>},
-    {Message::BtSearchEvent, &toConfig<&Full::takeBtSearchEvent, uchar>},
-    {Message::BtDeviceFound, &toConfig<&Full::takeBtDevice, vlk::BtDevice>},
+    {Message::BtSearchStopped, &toConfig<&Answers::takeBtSearchStopped, uchar>},
+    {Message::BtSearchEvent, &toConfig<&Answers::takeBtSearchEvent, uchar>},
+    {Message::BtDeviceFound, &toConfig<&Answers::takeBtDevice, vlk::BtDevice>},
     {Message::RfidNumber,
      [](VLK_Device_R7106& device, const Parameters& parameters) {
          if (device.telemetryView() && parameters.p1 && parameters.p2)
              device.telemetryView()->takeRfid(numberOf(*static_cast<const vlk::IdPair*>(parameters.p1)),
                                               *static_cast<const qint8*>(parameters.p2));
      }},
-    {Message::CanLogProgram, &toConfig<&Full::takeCanLogProgram, std::int32_t>},
+    {Message::CanLogProgram, &toConfig<&Answers::takeCanLogProgram, std::int32_t>},
     {Message::CurrentRecord,
      &bytesToView<&View::takeRecord, vlk::currentRecordHeader, vlk::shortestCurrentRecord>},
     {Message::RecordByNumber, &bytesToView<&View::takeRecord, vlk::recordByNumberHeader>},

@@ -1,6 +1,7 @@
 #pragma once
 
-// All that a host of the plug-in VLK_Device_R-7106 needs. Qt Core alone; host and plug-in must be built with
+// All that a host of the plug-in VLK_Device_R-7106 needs; the numbers, records and the table of all messages
+// come with it from link/messages.h. Qt Core alone; host and plug-in must be built with
 // one ABI of Qt, because QString, QByteArray and QDateTime cross the boundary as they are.
 //
 // The calling order:
@@ -14,7 +15,7 @@
 //
 // Threads: every call in both directions runs on the thread of the QApplication. Nothing blocks: a request of
 // the plug-in comes with an even number, and the host answers, whenever it likes, with the next odd number
-// (`answer` in the table below). An unanswered request leaves the asking window waiting without harm.
+// (`answer` in the table of messages). An unanswered request leaves the asking window waiting without harm.
 //
 // Ownership: none passes. A parameter is a plain value that travels in the pointer, or the address of a value
 // in the caller's frame that is valid during the call only; the receiver copies what it keeps. All windows
@@ -23,90 +24,12 @@
 // There are no error codes: a wrong handle, an unknown number, a null address or a missing window end the
 // call silently.
 
-#include <QByteArray>
-#include <QDateTime>
-#include <QString>
+#include "../link/messages.h" // by a path that holds whatever folders the host's build searches
 
-#include <bit>
 #include <cstddef>
 #include <cstdint>
 
 namespace vlk {
-
-// The numbers of all messages. The table `messages` below says which way each goes and what it carries.
-enum class Message : std::uint32_t {
-    // Host to plug-in
-    GetLibraryFlag = 2001,
-    GetInterfaceValue = 2002,
-    GetFamilyValue = 2003,
-    SetHostMode = 2004,
-    PrepareTelemetry = 2005,
-    GetProtocolText = 2006,
-    GetReservedValue = 2010,
-    SetIdentity = 2026,
-    LanguageChanged = 2031,
-    CloseWindows = 2037,
-    SetPaths = 2049,
-    TrackerAttached = 2051,
-    TrackerDetached = 2052,
-    LineValues = 2081,
-    OpenConfiguration = 2101,
-    OpenTelemetry = 2102,
-    ShowStoredFile = 2103,
-    LiveKey = 2241,
-    SupplyValues = 2243,
-    AnalogRecord = 2247,
-    AccelRecord = 2249,
-    AccelCommandResult = 2253,
-    MonitorRearm = 2255,
-    BtSearchStopped = 2259,
-    BtSearchEvent = 2262,
-    BtDeviceFound = 2263,
-    RfidNumber = 2267,
-    CanLogProgram = 2271,
-    CurrentRecord = 2301,
-    RecordByNumber = 2303,
-    RecordByTime = 2305,
-    RecordOfPeriod = 2307,
-    ExtraPacket = 2312,
-    ClearedRecord = 2320,
-    TachographAnswer = 2351,
-    TachographFileAnswer = 2353,
-    TachographFileReady = 2355,
-    GetBalanceUssd = 2356,
-    RaiseConfiguration = 2373,
-
-    // Plug-in to host
-    ShowHelp = 2007,
-    RequestLines = 2080,
-    WriteConfiguration = 2151,
-    RequestLiveKey = 2240,
-    RequestSupply = 2242,
-    RequestAnalog = 2246,
-    RequestAccel = 2248,
-    RequestAccelCommand = 2252,
-    StartBtSearch = 2260,
-    CancelBtSearch = 2261,
-    WaitStepEnd = 2264,
-    RequestRfid = 2266,
-    SetCanLogProgram = 2268,
-    RequestCanLogProgram = 2270,
-    RequestCurrentRecord = 2300,
-    RequestRecordByNumber = 2302,
-    RequestRecordByTime = 2304,
-    RequestRecordOfPeriod = 2306,
-    RequestEventText = 2310,
-    RequestExtraPacket = 2311,
-    ClearServerData = 2321,
-    GuardOff = 2322,
-    GuardOn = 2323,
-    OutputOn = 2326,
-    OutputOff = 2327,
-    SetMileage = 2328,
-    TachographQuestion = 2350,
-    TachographFileRequest = 2352,
-    TachographFileRead = 2354,
-};
 
 // The library information record, 538 bytes without padding, little-endian.
 #pragma pack(push, 1)
@@ -125,234 +48,10 @@ struct LibraryInfo
     std::int32_t reserved;
     std::int32_t interfaceValue;
 };
-
-// Answer to RequestAccel.
-struct AccelValues
-{
-    std::uint32_t movement; // sqrt(movement) * 100 / 1800 is the percentage of sensor SH3
-    double tilt;            // radians, sensor SH4
-    std::uint32_t shock;    // as movement, sensors SH1 and SH2
-};
-
-// TachographFileRequest: a file code and its parameter.
-struct szQueryTaho
-{
-    std::uint8_t zero;
-    std::uint8_t code;
-    std::uint32_t parameter;
-};
 #pragma pack(pop)
 static_assert(sizeof(LibraryInfo) == 538);
 static_assert(offsetof(LibraryInfo, displayName) == 259 && offsetof(LibraryInfo, versionMajor) == 514 &&
               offsetof(LibraryInfo, interfaceValue) == 534);
-static_assert(sizeof(AccelValues) == 16 && sizeof(szQueryTaho) == 6);
-
-// TrackerAttached. A model other than the plug-in's own counts as TrackerDetached.
-struct ConnectInfo
-{
-    QString model;
-    QString text1; // identification texts of the tracker
-    QString text2;
-    void* unread[2];
-    std::uint32_t maskLow; // 64 capability bits
-    std::uint32_t maskHigh;
-};
-
-// SetIdentity. The word between the texts is not read.
-struct IdentityInfo
-{
-    QString model;
-    void* unread;
-    QString vendor;
-};
-
-// SetPaths: the folders of telemetry and configuration files, and two texts that are only kept.
-struct Paths
-{
-    QString pathTmi;
-    QString pathXml;
-    QString pathThird;
-    QString pathFourth;
-};
-
-// OpenConfiguration. The record goes on as long as its path: allocate offsetof(path) + path length + 1.
-struct OpenRequest
-{
-    std::int32_t showFull; // 1: the full window, else the quick one
-    std::int32_t fromFile; // 1: a file that the user chose, else it came from the tracker
-    char path[1024];       // local 8-bit encoding, NUL-terminated; empty: a new configuration
-};
-
-// LiveKey and RfidNumber: one 64-bit number.
-struct IdPair
-{
-    std::uint32_t low;
-    std::uint32_t high;
-};
-
-// SupplyValues: 16-bit values of which element `supplyElement` is the supply voltage in millivolts.
-inline constexpr int supplyElement = 7;
-struct SupplyRecord
-{
-    std::int16_t values[8];
-};
-
-// BtDeviceFound.
-struct BtDevice
-{
-    char name[128]; // NUL-terminated
-    char mac[128];  // NUL-terminated
-};
-
-// AnalogRecord is a plain byte record of `analogRecordSize` bytes with unsigned 16-bit little-endian values:
-// the lines IN1, IN2, IN3 in millivolts from byte 15, and the fuel sensors at the bytes that name them.
-inline constexpr int analogRecordSize = 42;
-inline constexpr int analogRecordLine1 = 15;
-
-// AccelCommandResult is a byte record; this byte is the status: 1 and 49 mean done.
-inline constexpr int accelStatusByte = 11;
-inline constexpr int accelResultSize = 12;
-
-// What GetInterfaceValue and the library information record give.
-inline constexpr int interfaceValue = 1;
-// What GetFamilyValue gives.
-inline constexpr int familyValue = 196;
-
-// Size of the buffer that GetBalanceUssd fills.
-inline constexpr int balanceUssdSize = 255;
-
-// Bytes in front of the record in the answers that carry one.
-inline constexpr int currentRecordHeader = 3;
-inline constexpr int recordByNumberHeader = 3;
-inline constexpr int recordByTimeHeader = 13;
-inline constexpr int extraPacketHeader = 2;
-// A CurrentRecord or ClearedRecord shorter than this, header included, is ignored.
-inline constexpr int shortestCurrentRecord = 101;
-
-#if QT_POINTER_SIZE == 4
-static_assert(offsetof(ConnectInfo, text1) == 4 && offsetof(ConnectInfo, text2) == 8 &&
-              offsetof(ConnectInfo, maskLow) == 20);
-static_assert(offsetof(IdentityInfo, vendor) == 8);
-static_assert(offsetof(Paths, pathXml) == 4 && offsetof(Paths, pathThird) == 8 &&
-              offsetof(Paths, pathFourth) == 12);
-#endif
-static_assert(offsetof(OpenRequest, fromFile) == 4 && offsetof(OpenRequest, path) == 8);
-
-// What a parameter is. "Address" kinds may be null, which the receiver survives.
-enum class Parameter : std::uint8_t {
-    None,
-    Value,           // an integer that travels in the pointer
-    ByteAddress,     // std::uint8_t*
-    Int32Address,    // std::int32_t* or std::uint32_t*
-    FloatAddress,    // float*
-    StringAddress,   // QString*
-    BytesAddress,    // QByteArray*
-    DateTimeAddress, // QDateTime*, UTC
-    TextBuffer,      // char*, at least balanceUssdSize bytes, filled by the receiver
-    RecordAddress,   // one of the records above, or a byte record, named by the message
-};
-
-enum class Direction : std::uint8_t { ToPlugin, ToHost };
-
-struct MessageInfo
-{
-    const char* name;
-    Message number;
-    std::uint32_t answer; // number that the host gives back later, 0 for none
-    Direction direction;
-    Parameter p1;
-    Parameter p2;
-    bool fillsFirst;  // the receiver writes p1
-    bool fillsSecond; // the receiver writes p2
-};
-
-namespace detail {
-constexpr MessageInfo in(Message number, const char* name, Parameter p1 = Parameter::None,
-                         Parameter p2 = Parameter::None, bool fillsFirst = false)
-{
-    return {name, number, 0, Direction::ToPlugin, p1, p2, fillsFirst, false};
-}
-constexpr MessageInfo out(Message number, const char* name, std::uint32_t answer = 0,
-                          Parameter p1 = Parameter::None, Parameter p2 = Parameter::None,
-                          bool fillsSecond = false)
-{
-    return {name, number, answer, Direction::ToHost, p1, p2, false, fillsSecond};
-}
-} // namespace detail
-
-// Every message once, by number.
-inline constexpr MessageInfo messages[] = {
-    detail::in(Message::GetLibraryFlag, "GetLibraryFlag", Parameter::Int32Address, Parameter::None, true),
-    detail::in(Message::GetInterfaceValue, "GetInterfaceValue", Parameter::Int32Address, Parameter::None,
-               true),
-    detail::in(Message::GetFamilyValue, "GetFamilyValue", Parameter::Int32Address, Parameter::None, true),
-    detail::in(Message::SetHostMode, "SetHostMode", Parameter::Int32Address),
-    detail::in(Message::PrepareTelemetry, "PrepareTelemetry", Parameter::ByteAddress, Parameter::None, true),
-    detail::in(Message::GetProtocolText, "GetProtocolText", Parameter::StringAddress, Parameter::None, true),
-    detail::out(Message::ShowHelp, "ShowHelp", 0, Parameter::StringAddress, Parameter::StringAddress),
-    detail::in(Message::GetReservedValue, "GetReservedValue", Parameter::Int32Address, Parameter::None, true),
-    detail::in(Message::SetIdentity, "SetIdentity", Parameter::RecordAddress),
-    detail::in(Message::LanguageChanged, "LanguageChanged"),
-    detail::in(Message::CloseWindows, "CloseWindows"),
-    detail::in(Message::SetPaths, "SetPaths", Parameter::RecordAddress),
-    detail::in(Message::TrackerAttached, "TrackerAttached", Parameter::RecordAddress),
-    detail::in(Message::TrackerDetached, "TrackerDetached"),
-    detail::out(Message::RequestLines, "RequestLines", 2081, Parameter::BytesAddress),
-    detail::in(Message::LineValues, "LineValues", Parameter::BytesAddress),
-    detail::in(Message::OpenConfiguration, "OpenConfiguration", Parameter::RecordAddress),
-    detail::in(Message::OpenTelemetry, "OpenTelemetry", Parameter::StringAddress),
-    detail::in(Message::ShowStoredFile, "ShowStoredFile", Parameter::StringAddress, Parameter::Int32Address),
-    detail::out(Message::WriteConfiguration, "WriteConfiguration", 0, Parameter::StringAddress),
-    detail::out(Message::RequestLiveKey, "RequestLiveKey", 2241),
-    detail::in(Message::LiveKey, "LiveKey", Parameter::RecordAddress),
-    detail::out(Message::RequestSupply, "RequestSupply", 2243),
-    detail::in(Message::SupplyValues, "SupplyValues", Parameter::RecordAddress),
-    detail::out(Message::RequestAnalog, "RequestAnalog", 2247),
-    detail::in(Message::AnalogRecord, "AnalogRecord", Parameter::RecordAddress),
-    detail::out(Message::RequestAccel, "RequestAccel", 2249),
-    detail::in(Message::AccelRecord, "AccelRecord", Parameter::RecordAddress),
-    detail::out(Message::RequestAccelCommand, "RequestAccelCommand", 2253),
-    detail::in(Message::AccelCommandResult, "AccelCommandResult", Parameter::RecordAddress),
-    detail::in(Message::MonitorRearm, "MonitorRearm"),
-    detail::in(Message::BtSearchStopped, "BtSearchStopped", Parameter::ByteAddress),
-    detail::out(Message::StartBtSearch, "StartBtSearch", 2262),
-    detail::out(Message::CancelBtSearch, "CancelBtSearch"),
-    detail::in(Message::BtSearchEvent, "BtSearchEvent", Parameter::ByteAddress),
-    detail::in(Message::BtDeviceFound, "BtDeviceFound", Parameter::RecordAddress),
-    detail::out(Message::WaitStepEnd, "WaitStepEnd", 2265),
-    detail::out(Message::RequestRfid, "RequestRfid", 2267),
-    detail::in(Message::RfidNumber, "RfidNumber", Parameter::RecordAddress, Parameter::ByteAddress),
-    detail::out(Message::SetCanLogProgram, "SetCanLogProgram", 0, Parameter::Int32Address),
-    detail::out(Message::RequestCanLogProgram, "RequestCanLogProgram", 2271),
-    detail::in(Message::CanLogProgram, "CanLogProgram", Parameter::Int32Address),
-    detail::out(Message::RequestCurrentRecord, "RequestCurrentRecord", 2301),
-    detail::in(Message::CurrentRecord, "CurrentRecord", Parameter::BytesAddress),
-    detail::out(Message::RequestRecordByNumber, "RequestRecordByNumber", 2303, Parameter::Int32Address),
-    detail::in(Message::RecordByNumber, "RecordByNumber", Parameter::BytesAddress),
-    detail::out(Message::RequestRecordByTime, "RequestRecordByTime", 2305, Parameter::DateTimeAddress),
-    detail::in(Message::RecordByTime, "RecordByTime", Parameter::BytesAddress),
-    detail::out(Message::RequestRecordOfPeriod, "RequestRecordOfPeriod", 2307, Parameter::DateTimeAddress),
-    detail::in(Message::RecordOfPeriod, "RecordOfPeriod", Parameter::BytesAddress),
-    detail::out(Message::RequestEventText, "RequestEventText", 0, Parameter::Value, Parameter::StringAddress,
-                true),
-    detail::out(Message::RequestExtraPacket, "RequestExtraPacket", 2312, Parameter::Value),
-    detail::in(Message::ExtraPacket, "ExtraPacket", Parameter::BytesAddress),
-    detail::in(Message::ClearedRecord, "ClearedRecord", Parameter::BytesAddress),
-    detail::out(Message::ClearServerData, "ClearServerData", 2320, Parameter::Value),
-    detail::out(Message::GuardOff, "GuardOff"),
-    detail::out(Message::GuardOn, "GuardOn"),
-    detail::out(Message::OutputOn, "OutputOn", 0, Parameter::Value),
-    detail::out(Message::OutputOff, "OutputOff", 0, Parameter::Value),
-    detail::out(Message::SetMileage, "SetMileage", 0, Parameter::FloatAddress),
-    detail::out(Message::TachographQuestion, "TachographQuestion", 2351, Parameter::Value),
-    detail::in(Message::TachographAnswer, "TachographAnswer", Parameter::BytesAddress),
-    detail::out(Message::TachographFileRequest, "TachographFileRequest", 2353, Parameter::RecordAddress),
-    detail::in(Message::TachographFileAnswer, "TachographFileAnswer", Parameter::BytesAddress),
-    detail::out(Message::TachographFileRead, "TachographFileRead", 2355, Parameter::StringAddress),
-    detail::in(Message::TachographFileReady, "TachographFileReady", Parameter::ByteAddress),
-    detail::in(Message::GetBalanceUssd, "GetBalanceUssd", Parameter::TextBuffer, Parameter::None, true),
-    detail::in(Message::RaiseConfiguration, "RaiseConfiguration"),
-};
 
 // The host's function. `device` is the address of the device object. The result is not used.
 using HostCallback = void (*)(void* device, std::uint32_t id, void* p1, void* p2);
@@ -362,15 +61,5 @@ using IsVlkLibraryVFunction = bool (*)();
 using GetLibraryInfoFunction = void (*)(LibraryInfo* info);
 using InitializeFunction = void (*)(HostCallback callback);
 using ReceiveMessageFunction = void (*)(void* handle, std::uint32_t id, void* p1, void* p2);
-
-// A plain value in the place of an address, and back. The token of a LibraryInfo becomes the handle likewise.
-inline void* asParameter(std::intptr_t value)
-{
-    return std::bit_cast<void*>(value);
-}
-inline std::intptr_t asValue(const void* parameter)
-{
-    return std::bit_cast<std::intptr_t>(parameter);
-}
 
 } // namespace vlk

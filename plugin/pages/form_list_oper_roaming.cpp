@@ -3,6 +3,7 @@
 #include "ui_VLK_Designer_Form_List_Oper_Roaming.h"
 
 #include "pages/operator_rows.h"
+#include "settings/transfer_settings.h"
 
 #include <QHeaderView>
 #include <QStyle>
@@ -19,7 +20,7 @@ VLK_Form_List_Oper_Roaming::VLK_Form_List_Oper_Roaming(QWidget* parent)
     setModal(true);
     ui_->pushButton_Up->setIcon(style()->standardIcon(QStyle::SP_ArrowUp));
     ui_->pushButton_Down->setIcon(style()->standardIcon(QStyle::SP_ArrowDown));
-    vlk::makeOperatorRows(ui_->treeWidget_List, kRows);
+    vlk::makeOperatorRows(ui_->treeWidget_List, vlk::kRoamingRows);
     ui_->treeWidget_List->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     connect(ui_->treeWidget_List, &QTreeWidget::itemDoubleClicked, this,
             &VLK_Form_List_Oper_Roaming::slot_itemDoubleClicket_TreeWidgetList);
@@ -36,9 +37,6 @@ VLK_Form_List_Oper_Roaming::~VLK_Form_List_Oper_Roaming() = default;
 
 void VLK_Form_List_Oper_Roaming::setDefaults()
 {
-    for (int row = 0; row < kRows; ++row)
-        ui_->treeWidget_List->topLevelItem(row)->setText(kCodeColumn, {});
-    ui_->checkBox_sendData->setChecked(true);
     ui_->treeWidget_List->setCurrentItem(ui_->treeWidget_List->topLevelItem(0), kCodeColumn);
 }
 
@@ -48,31 +46,11 @@ void VLK_Form_List_Oper_Roaming::retranslate()
     ui_->treeWidget_List->setHeaderLabels({tr("abbr_047"), tr("cfgt1_106")});
 }
 
-int VLK_Form_List_Oper_Roaming::opCode(int row) const
-{
-    return ui_->treeWidget_List->topLevelItem(row)->text(kCodeColumn).toInt();
-}
-
-void VLK_Form_List_Oper_Roaming::setOpCode(int row, int code)
-{
-    ui_->treeWidget_List->topLevelItem(row)->setText(kCodeColumn, QString::number(code));
-}
-
-int VLK_Form_List_Oper_Roaming::dontCnct() const
-{
-    return ui_->checkBox_sendData->isChecked() ? 0 : 1;
-}
-
-void VLK_Form_List_Oper_Roaming::setDontCnct(int value)
-{
-    ui_->checkBox_sendData->setChecked(value == 0);
-}
-
 void VLK_Form_List_Oper_Roaming::slot_curItemChanged(QTreeWidgetItem* current, QTreeWidgetItem* /*previous*/)
 {
     const int row = ui_->treeWidget_List->indexOfTopLevelItem(current);
     ui_->pushButton_Up->setEnabled(row != 0);
-    ui_->pushButton_Down->setEnabled(row != kRows - 1);
+    ui_->pushButton_Down->setEnabled(row != vlk::kRoamingRows - 1);
 }
 
 void VLK_Form_List_Oper_Roaming::slot_itemDoubleClicket_TreeWidgetList(QTreeWidgetItem* item, int column)

@@ -1,21 +1,53 @@
 #include "pages/operator_rows.h"
 
+#include <QStyledItemDelegate>
 #include <QTreeWidget>
 
 namespace vlk {
 
+namespace {
+
+// The column of numbers is narrow and fixed: the numbers shrink until they fit.
+class NumberDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->textElideMode = Qt::ElideNone;
+        constexpr double kSmallest = 6;
+        const auto* tree = qobject_cast<const QTreeView*>(option->widget);
+        const int room = (tree ? tree->columnWidth(index.column()) : option->rect.width()) - 4;
+        while (QFontMetrics(option->font).horizontalAdvance(option->text) > room &&
+               option->font.pointSizeF() > kSmallest)
+            option->font.setPointSizeF(option->font.pointSizeF() - 0.5);
+        option->fontMetrics = QFontMetrics(option->font);
+    }
+};
+
+} // namespace
+
 void makeOperatorRows(QTreeWidget* tree, int count)
 {
-    for (int row = 0; row < count; ++row) {
-        auto* item = new QTreeWidgetItem(tree, {QString::number(row + 1)});
-        item->setTextAlignment(0, Qt::AlignCenter);
-    }
+    for (int row = 0; row < count; ++row)
+        (new QTreeWidgetItem(tree))->setTextAlignment(0, Qt::AlignCenter);
+    tree->setItemDelegateForColumn(0, new NumberDelegate(tree));
+    numberOperatorRows(tree);
     // The keys that open a cell come without a double click.
     QObject::connect(tree->selectionModel(), &QItemSelectionModel::currentChanged, tree,
                      [tree](const QModelIndex& cell) {
                          if (cell.isValid())
                              allowEditing(tree->topLevelItem(cell.row()), cell.column());
                      });
+}
+
+void numberOperatorRows(QTreeWidget* tree)
+{
+    for (int row = 0; row < tree->topLevelItemCount(); ++row)
+        tree->topLevelItem(row)->setText(0, QString::number(row + 1));
 }
 
 void allowEditing(QTreeWidgetItem* item, int column)

@@ -13,6 +13,9 @@ inline constexpr int kFirstOperatorColumn = 1;
 // Makes the rows, numbered from 1.
 void makeOperatorRows(QTreeWidget* tree, int count);
 
+// Writes the numbers into the first column.
+void numberOperatorRows(QTreeWidget* tree);
+
 // Sets or clears the row's editable flag for the column that is about to be edited.
 void allowEditing(QTreeWidgetItem* item, int column);
 

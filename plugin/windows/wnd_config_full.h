@@ -1,7 +1,8 @@
 #pragma once
 
-// What settings pages and their embedded forms may ask of the window around them: names of user parameters
-// and jumps to other tabs. This base answers nothing and goes nowhere; VLK_Widget_Config_Full does.
+// What settings pages and their embedded forms may ask of the window around them: names of user parameters,
+// jumps to other tabs, live values and what else goes to the tracker. This base answers nothing and goes
+// nowhere; VLK_Widget_Config_Full does.
 
 #include <QWidget>
 
@@ -15,10 +16,28 @@ public:
     // Stored code of a user parameter from its display text, and the way back; empty when nobody knows it.
     virtual QString userParamCode(const QString& text);
     virtual QString userParamText(const QString& code);
-    virtual void hook3();
-    virtual void gotoInputLines();
-    virtual void gotoRs();
-    virtual void gotoBluetooth();
-    virtual void gotoAccel();
-    virtual void gotoAccelPlain();
+    virtual void hook3() {}
+    virtual void gotoInputLines() {}
+    virtual void gotoRs() {}
+    virtual void gotoBluetooth() {}
+    virtual void gotoAccel() {}
+    virtual void gotoAccelPlain() {}
+
+    // The monitor of live values; config_monitor.h tells how it goes on. Periods in milliseconds, lists as
+    // "21,22,23". Requests go out while the tab that they belong to is current.
+    virtual void startAccelMonitor(bool /*on*/, int /*periodMs*/) {}
+    virtual void startLinesMonitor(bool /*on*/, const QByteArray& /*list*/, int /*periodMs*/) {}
+    virtual void pollCurrentTab() {}
+    virtual void requestAccel() {}
+    virtual void requestAccelResult() {}
+    virtual void requestLines(const QByteArray& /*list*/) {}
+
+    virtual void startBtSearch() {}
+    virtual void cancelBtSearch() {}
+    virtual void getCanLogProgram() {}
+    virtual void setCanLogProgram(int /*value*/) {}
+    virtual void sendSystemWaitEnd() {}
 };
+
+// The full window, from its construction on; pages reach it through this.
+extern VLK_Wnd_Config_Full* vlkConfigFull;

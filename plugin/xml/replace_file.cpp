@@ -1,68 +1,135 @@
 #include "xml/replace_file.h"
 
+#include "base/save_log.h"
 #include "base/whole_file.h"
-#include "xml/xml_log.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
-#ifdef Q_OS_UNIX
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
 #include <unistd.h>
-#endif
 
 namespace vlk {
 
 namespace {
 
-bool writeAt(QFile& file, qint64 position, const QByteArray& bytes)
+enum class Outcome { Saved, Failed, NoRoomBeside };
+
+// The hidden name beside the file under which the new document waits for its place.
+QString nameBeside(const QFileInfo& file)
 {
-    if (!file.seek(position) || file.write(bytes) != bytes.size())
-        return false;
-#ifdef Q_OS_UNIX
-    fsync(file.handle());
-#endif
-    return true;
+    return file.dir().filePath(QStringLiteral(".%1.new").arg(file.fileName()));
+}
+
+// Where the system has no files without a name, one that is being written is called after its later name, a
+// point and six letters.
+void removeStrays(const QString& beside)
+{
+    constexpr int letters = 7;
+    const QFileInfo info(beside);
+    const QStringList names = info.dir().entryList(QDir::Files | QDir::Hidden);
+    for (const QString& name : names) {
+        if (name == info.fileName() || (name.startsWith(info.fileName() + QLatin1Char('.')) &&
+                                        name.size() == info.fileName().size() + letters))
+            QFile::remove(info.dir().filePath(name));
+    }
+}
+
+Outcome putBeside(const QFileInfo& target, const QByteArray& document, QString* reason)
+{
+    const QString beside = nameBeside(target);
+    removeStrays(beside);
+    bool opened = false;
+    QSaveFile file(beside);
+    const auto write = [&](QIODevice& device) {
+        opened = true;
+        if (target.exists())
+            file.setPermissions(target.permissions());
+        return device.write(document) == document.size();
+    };
+    if (!saveWhole(file, write, reason))
+        return opened ? Outcome::Failed : Outcome::NoRoomBeside;
+    if (std::rename(QFile::encodeName(beside).constData(),
+                    QFile::encodeName(target.filePath()).constData()) == 0)
+        return Outcome::Saved;
+    *reason = qt_error_string(errno);
+    QFile::remove(beside);
+    return Outcome::NoRoomBeside;
+}
+
+bool writeAt(QFile& file, qint64 position, const QByteArray& bytes, QString* reason)
+{
+    // Not by QFile, which knows no reason for a write that was done in part.
+    for (qint64 done = 0; done < bytes.size();) {
+        const auto more = pwrite(file.handle(), bytes.constData() + done,
+                                 static_cast<std::size_t>(bytes.size() - done), position + done);
+        if (more < 0) {
+            *reason = qt_error_string(errno);
+            return false;
+        }
+        done += more;
+    }
+    return flushToDisk(file, reason);
 }
 
 // Three steps, each of which leaves a whole document: blank lines behind the old one, which also reserve the
-// space; the new one and blank lines over both, in one write; the end cut off.
-bool overwrite(const QString& path, const QByteArray& document, QString* error)
+// space; the new one and blank lines over both, in one write; the end cut off. A step that fails is taken
+// back.
+bool overwrite(const QString& path, const QByteArray& document, QString* reason)
 {
     QFile file(path);
-    if (!QFileInfo(path).isFile() ||
-        !file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered)) {
-        *error = file.errorString();
+    const bool opened = file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered);
+    const QByteArray old = file.readAll();
+    if (!opened || old.size() != file.size()) {
+        *reason = file.errorString();
         return false;
     }
-    const QByteArray old = file.readAll();
-    bool done = old.isEmpty() || document.size() <= old.size() ||
-                writeAt(file, old.size(), QByteArray(document.size() - old.size(), '\n'));
-    if (done && !writeAt(file, 0, document.leftJustified(old.size(), '\n'))) {
-        done = false;
-        writeAt(file, 0, old);
+    const auto blank = [](int size) { return QByteArray(std::max(size, 0), '\n'); };
+    const QByteArray longer = old.isEmpty() ? QByteArray() : blank(document.size() - old.size());
+    if (!longer.isEmpty() && !writeAt(file, old.size(), longer, reason)) {
+        file.resize(old.size());
+        return false;
     }
-    if (!done)
-        *error = file.errorString();
-    return file.resize(done ? document.size() : old.size()) && done;
+    if (writeAt(file, 0, document + blank(old.size() - document.size()), reason)) {
+        if (file.resize(document.size()))
+            return true;
+        *reason = file.errorString();
+    }
+    // On a full disk the way back may stop where nothing was written over: what counts is what is there.
+    QString error;
+    writeAt(file, 0, old + longer, &error);
+    if (!file.seek(0) || !file.readAll().startsWith(old) || !flushToDisk(file, &error))
+        *reason += QStringLiteral("; what the file held is lost: %1").arg(error);
+    file.resize(old.size());
+    return false;
+}
+
+bool replace(const QString& path, const QByteArray& document, QString* reason)
+{
+    QFileInfo target(path);
+    if (target.isSymLink())
+        target.setFile(target.exists() ? target.canonicalFilePath() : target.symLinkTarget());
+    if (target.exists() && !(target.isFile() && target.isWritable())) {
+        *reason = target.isFile() ? qt_error_string(EACCES) : QStringLiteral("not a file");
+        return false;
+    }
+    const Outcome outcome = putBeside(target, document, reason);
+    if (outcome == Outcome::NoRoomBeside && target.exists())
+        return overwrite(target.filePath(), document, reason);
+    return outcome == Outcome::Saved;
 }
 
 } // namespace
 
 bool replaceFile(const QString& path, const QByteArray& document)
 {
-    // An empty file, as the opening of a document leaves one, is nothing to lose. Without it the new one
-    // appears in a single step; over an old one it needs a name of its own for a moment.
-    const QFileInfo before(path);
-    if (before.isFile() && before.size() == 0 && before.isWritable() && !before.isSymLink())
-        QFile::remove(path);
-
-    QSaveFile file(path);
-    if (saveWhole(file, document))
+    QString reason;
+    if (replace(path, document, &reason))
         return true;
-    QString error;
-    if (overwrite(path, document, &error))
-        return true;
-    qCWarning(lcXml).noquote() << "cannot save" << path << ':' << file.errorString() << ';' << error;
+    qCWarning(lcSave).noquote().nospace() << path << ": " << reason;
     return false;
 }
 

@@ -7,6 +7,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QXmlSimpleReader>
 
 #include <utility>
@@ -17,12 +18,29 @@ QT_WARNING_DISABLE_DEPRECATED
 
 namespace {
 
-// A configuration has no document type; one that has is refused, because its declarations could nest or
-// expand without bound.
-class NoDocumentType : public QXmlDefaultHandler
+// True when the document type in front of the root element has no declarations of its own.
+bool hasPlainDocumentType(const QString& text)
+{
+    static const QRegularExpression plain(
+        QStringLiteral(
+            R"(\A\s*(?:<\?.*?\?>\s*|<!--.*?-->\s*)*+<!DOCTYPE(?:[^"'\[>]++|"[^"]*+"|'[^']*+')*+>)"),
+        QRegularExpression::DotMatchesEverythingOption);
+    return plain.match(text).hasMatch();
+}
+
+// Declarations could nest or expand without bound, so a document type that may hold some is refused.
+class DocumentTypeCheck : public QXmlDefaultHandler
 {
 public:
-    bool startDTD(const QString&, const QString&, const QString&) override { return false; }
+    explicit DocumentTypeCheck(QString text) : text_(std::move(text)) {}
+
+    bool startDTD(const QString&, const QString&, const QString&) override
+    {
+        return hasPlainDocumentType(text_);
+    }
+
+private:
+    QString text_;
 };
 
 } // namespace
@@ -32,12 +50,12 @@ bool CSerialize::parse(const QByteArray& text)
     QXmlInputSource source;
     source.setData(text);
     CXmlDefaultHandler handler;
-    NoDocumentType noDocumentType;
+    DocumentTypeCheck documentType(source.data());
     QXmlSimpleReader reader;
     reader.setFeature("http://xml.org/sax/features/namespaces", false);
     reader.setFeature("http://xml.org/sax/features/namespace-prefixes", true);
     reader.setContentHandler(&handler);
-    reader.setLexicalHandler(&noDocumentType);
+    reader.setLexicalHandler(&documentType);
     if (!reader.parse(source))
         return false;
     root_ = handler.takeRoot();
@@ -70,13 +88,22 @@ bool CSerialize::load()
     return false;
 }
 
-void CSerialize::save()
+bool CSerialize::save() const
 {
-    if (!root_ || fileName_.isEmpty())
-        return;
+    return fileName_.isEmpty() || saveAs(fileName_);
+}
+
+QByteArray CSerialize::text() const
+{
     QByteArray text;
-    CXmlWriter(&text).writeDocument(*root_);
-    vlk::replaceFile(fileName_, text);
+    if (root_)
+        CXmlWriter(&text).writeDocument(*root_);
+    return text;
+}
+
+bool CSerialize::saveAs(const QString& fileName) const
+{
+    return !root_ || vlk::replaceFile(fileName, text());
 }
 
 CXmlNode* CSerialize::node(CXmlNode* parent, const QString& name, qint32 kind)
@@ -98,9 +125,9 @@ void CSerialize::clearContent(CXmlNode* node)
     node->attributes.clear();
 }
 
-void closeDocument(CSerialize* document, bool save)
+bool closeDocument(CSerialize* document, bool save)
 {
-    if (document && save)
-        document->save();
+    const bool done = !save || (document && document->save());
     delete document;
+    return done;
 }

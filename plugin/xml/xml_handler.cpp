@@ -2,6 +2,8 @@
 
 #include "xml/xml_text.h"
 
+#include <QSet>
+
 bool CXmlDefaultHandler::startDocument()
 {
     root_.reset();
@@ -26,8 +28,14 @@ bool CXmlDefaultHandler::startElement(const QString&, const QString&, const QStr
     if (attributes.length() > 0) {
         current_->kind = CXmlNode::Attributed;
         current_->attributes.reserve(static_cast<std::size_t>(attributes.length()));
-        for (int i = 0; i < attributes.length(); ++i)
-            current_->addAttribute(attributes.qName(i), vlk::decodeValue(attributes.value(i)));
+        // The reader passes a name that stands twice; the first one counts.
+        QSet<QString> seen;
+        for (int i = 0; i < attributes.length(); ++i) {
+            const auto known = seen.size();
+            seen.insert(attributes.qName(i));
+            if (seen.size() > known)
+                current_->addAttribute(attributes.qName(i), vlk::decodeValue(attributes.value(i)));
+        }
         sawContent_ = true;
     }
     return true;

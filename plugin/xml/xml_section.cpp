@@ -1,31 +1,14 @@
 #include "xml/xml_section.h"
 
+#include "base/number_text.h"
 #include "xml/serialize.h"
 #include "xml/xml_text.h"
 
 #include <QHash>
 
 #include <algorithm>
-#include <charconv>
-#include <cmath>
-#include <cstdlib>
 
 namespace {
-
-// As far as the text is a number, without regard to the locale; larger ones keep their low 32 bits.
-int leadingInt(const QString& text)
-{
-    return static_cast<int>(std::strtoll(text.toLatin1().constData(), nullptr, 10));
-}
-
-double leadingDouble(const QString& text)
-{
-    const QByteArray bytes = text.trimmed().toLatin1();
-    const char* begin = bytes.startsWith('+') ? bytes.begin() + 1 : bytes.begin();
-    double number = 0;
-    std::from_chars(begin, bytes.end(), number);
-    return std::isfinite(number) ? number : 0;
-}
 
 QString asciiOnly(QString text)
 {
@@ -37,10 +20,23 @@ QString asciiOnly(QString text)
 
 } // namespace
 
-CXmlSection::CXmlSection(const QString& path, const QString& rootName)
+namespace {
+
+std::unique_ptr<CSerialize> opened(const QString& path)
 {
     auto document = std::make_unique<CSerialize>(path);
-    if (!document->load())
+    return document->load() ? std::move(document) : nullptr;
+}
+
+} // namespace
+
+CXmlSection::CXmlSection(const QString& path, const QString& rootName) : CXmlSection(opened(path), rootName)
+{
+}
+
+CXmlSection::CXmlSection(std::unique_ptr<CSerialize> document, const QString& rootName)
+{
+    if (!document)
         return;
     node_ = document->node(nullptr, rootName);
     document_ = document.release();
@@ -55,6 +51,7 @@ CXmlSection::CXmlSection(CSerialize* document, CXmlNode* node) : document_(docum
 void CXmlSection::buildTable()
 {
     const auto attributes = node_->lastAttributes();
+    attributeCount_ = attributes.size();
     table_.reserve(attributes.size() + node_->children.size());
     const auto add = [this](CXmlNode* node) {
         table_.push_back({vlk::sectionText(node->name), vlk::sectionText(node->value), node});
@@ -93,6 +90,16 @@ CXmlSection* CXmlSection::nextChild()
     return nullptr;
 }
 
+std::vector<CXmlSection::Entry> CXmlSection::entries() const
+{
+    std::vector<Entry> all;
+    for (std::size_t i = 0; i < table_.size(); ++i) {
+        if (table_[i].node)
+            all.push_back({table_[i].name, i >= attributeCount_});
+    }
+    return all;
+}
+
 std::size_t CXmlSection::position(const QString& name) const
 {
     const auto found =
@@ -101,7 +108,7 @@ std::size_t CXmlSection::position(const QString& name) const
     return static_cast<std::size_t>(found - table_.begin());
 }
 
-const QString* CXmlSection::value(const QString& name) const
+const QString* CXmlSection::find(const QString& name) const
 {
     const std::size_t entry = position(name);
     return entry < table_.size() ? &table_[entry].value : nullptr;
@@ -109,25 +116,25 @@ const QString* CXmlSection::value(const QString& name) const
 
 int CXmlSection::getInt(const QString& name, int fallback) const
 {
-    const QString* const text = value(name);
-    return text ? leadingInt(*text) : fallback;
+    const QString* const text = find(name);
+    return text ? vlk::leadingInt(*text) : fallback;
 }
 
 float CXmlSection::getFloat(const QString& name, float fallback) const
 {
-    const QString* const text = value(name);
-    return text ? static_cast<float>(leadingDouble(*text)) : fallback;
+    const QString* const text = find(name);
+    return text ? static_cast<float>(vlk::leadingDouble(*text)) : fallback;
 }
 
 double CXmlSection::getDouble(const QString& name, double fallback) const
 {
-    const QString* const text = value(name);
-    return text ? leadingDouble(*text) : fallback;
+    const QString* const text = find(name);
+    return text ? vlk::leadingDouble(*text) : fallback;
 }
 
 QString CXmlSection::getString(const QString& name, const QString& fallback) const
 {
-    const QString* const text = value(name);
+    const QString* const text = find(name);
     return text ? *text : fallback;
 }
 

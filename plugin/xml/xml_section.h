@@ -33,6 +33,8 @@ struct CXmlSection
     // "DEVICE" for a configuration, "FUEL" for a calibration. An empty path makes a document in memory. The
     // document is closed with closeDocument (serialize.h), or see XmlDocument (xml_document.h).
     CXmlSection(const QString& path, const QString& rootName);
+    // The root of a document; null gives a section without one.
+    CXmlSection(std::unique_ptr<CSerialize> document, const QString& rootName);
     CXmlSection(CSerialize* document, CXmlNode* node);
 
     // Kind 0: the child of that name, made where there is none. Kind 1: a new child. Kind 3: a new child that
@@ -45,6 +47,15 @@ struct CXmlSection
     CXmlSection* firstChild(const QString& name);
     CXmlSection* nextChild();
 
+    struct Entry
+    {
+        QString name;
+        bool isElement;
+    };
+    // What the table held at first, attributes before children, namesakes each on its own.
+    std::vector<Entry> entries() const;
+    // The value of an entry, null where there is none.
+    const QString* find(const QString& name) const;
     // The default where there is no such entry. Numbers are read as far as they go: "12abc" is 12, "abc" is
     // 0. The decimal sign is the point in every locale, and what is no finite number is 0.
     int getInt(const QString& name, int fallback) const;
@@ -71,11 +82,11 @@ struct CXmlSection
 private:
     void buildTable();
     std::size_t position(const QString& name) const;
-    const QString* value(const QString& name) const;
 
     CSerialize* document_ = nullptr;
     CXmlNode* node_ = nullptr;
     std::vector<CXmlRecord> table_;
+    std::size_t attributeCount_ = 0;
     QString scanName_;
     std::size_t scanPosition_ = 0;
 };

@@ -1,23 +1,27 @@
 // The monitor of live values: what it sends and when it stops, on a window that the test plays.
 
+#include "dialog/config_monitor.h"
 #include "support/data_table.h"
 #include "support/device.h"
-#include "windows/config_monitor.h"
 
 #include <QtTest>
 
+using vlk::ConfigMonitor;
 using vlk::Message;
 using Tab = ConfigMonitor::Tab;
 
 namespace {
 QVector<Message> sent;
 QByteArray sentList;
+std::function<void()> answerWithinTheCall;
 
 void record(void* /*device*/, std::uint32_t id, void* p1, void* /*p2*/)
 {
     sent << static_cast<Message>(id);
     if (sent.last() == Message::RequestLines)
         sentList = *static_cast<QByteArray*>(p1);
+    if (answerWithinTheCall)
+        answerWithinTheCall();
 }
 } // namespace
 
@@ -32,6 +36,7 @@ private Q_SLOTS:
     {
         tab_ = Tab::InputLines;
         active_ = true;
+        answerWithinTheCall = nullptr;
         stopped_ = cleared_ = 0;
         monitor_ = std::make_unique<ConfigMonitor>(
             ConfigMonitor::Window{[this] { return tab_; }, [this] { return active_; }, [this] { ++stopped_; },
@@ -107,6 +112,36 @@ private Q_SLOTS:
             QVERIFY(monitor_->timer()->isActive());
         }
         QCOMPARE(cleared_, 2);
+    }
+
+    // The host answers each command before it returns, for a long time with failure.
+    void commandRefusedWithinTheCallIsRepeatedLater_data()
+    {
+        QTest::addColumn<bool>("byRearming");
+        QTest::newRow("by its answer") << false;
+        QTest::newRow("by the monitor's rearming") << true;
+    }
+    void commandRefusedWithinTheCallIsRepeatedLater()
+    {
+        QFETCH(bool, byRearming);
+        tab_ = Tab::Accel;
+        monitor_->startAccel(true, 5000);
+        take();
+        int asked = 0;
+        answerWithinTheCall = [&] {
+            ++asked;
+            if (asked == 3)
+                monitor_->accelCommandAnswered(1);
+            else if (byRearming)
+                monitor_->accelAnswered();
+            else
+                monitor_->accelCommandAnswered(0);
+        };
+        monitor_->accelCommandAnswered(0);
+        QCOMPARE(asked, 1);
+        QTRY_COMPARE(asked, 3);
+        QCOMPARE(cleared_, 1);
+        QCOMPARE(take().size(), 3);
     }
 
     void commandWaitsForItsAnswer()

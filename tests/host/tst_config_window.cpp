@@ -2,6 +2,7 @@
 
 #include "support/data_table.h"
 #include "support/files.h"
+#include "support/full_disk.h"
 #include "support/scripted_host.h"
 #include "support/window_parts.h"
 
@@ -107,17 +108,55 @@ private Q_SLOTS:
         QVERIFY(!isOn("pushButton_LoadToDevice"));
     }
 
+    void failedSaveIsNotSent()
+    {
+        host_.attach();
+        for (const bool full : {true, false}) {
+            const char* write = full ? "pushButton_LoadToDevice" : "pushButton_Light_LoadToDevice";
+            const char* save = full ? "pushButton_SaveToFile" : "pushButton_Light_SaveToFile";
+            host_.open(configuration(QStringLiteral("First")), full);
+            press(write);
+            const auto written = host_.takeSent(Message::WriteConfiguration);
+            QCOMPARE(written.size(), 1);
+            const QByteArray first = readFile(written[0].text1);
+
+            // Within the same minute, as far as a test can say, and into the same file.
+            host_.open(configuration(QStringLiteral("Second")), full);
+            const QRegularExpression told(QStringLiteral("^/.+\\.xml: .*File too large$"));
+            const FullDisk disk(100);
+            QTest::ignoreMessage(QtWarningMsg, told);
+            press(write);
+            QVERIFY(host_.takeSent(Message::WriteConfiguration).isEmpty());
+            QVERIFY(isOn(write));
+            QCOMPARE(readFile(written[0].text1), first);
+
+            answerFileDialog(folder_.filePath(QStringLiteral("new.xml")));
+            QTest::ignoreMessage(QtWarningMsg, told);
+            press(save);
+            QVERIFY(!QFile::exists(folder_.filePath(QStringLiteral("new.xml"))));
+            QVERIFY(isOn(save));
+        }
+    }
+
+    void savesWhereTheUserSays_data()
+    {
+        DataTable<QString, QByteArray>({"typed", "before"})
+            .row("a new file", "saved.xml", {})
+            .row("without a suffix", "saved", {})
+            .row("over a configuration", "saved.xml", "<DEVICE><TRANS><OBJECT name='old'/></TRANS></DEVICE>")
+            .row("over what is no XML", "saved.xml", "a list of purchases")
+            .row("over a document type", "saved.xml", "<!DOCTYPE D [<!ENTITY a 'b'>]><D/>");
+    }
     void savesWhereTheUserSays()
     {
+        QFETCH(QString, typed);
+        QFETCH(QByteArray, before);
         name()->setText(QStringLiteral("Truck 7/8"));
         const QString target = folder_.filePath(QStringLiteral("saved.xml"));
+        if (!before.isEmpty())
+            writeFile(target, before);
         QString suggested;
-        ScriptedHost::whenModal([&](QWidget* open) {
-            auto* dialog = qobject_cast<QFileDialog*>(open);
-            suggested = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text();
-            dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(target);
-            static_cast<QDialog*>(dialog)->accept();
-        });
+        answerFileDialog(folder_.filePath(typed), &suggested);
         press("pushButton_SaveToFile");
         QVERIFY(QFile::exists(target));
         QVERIFY(isOn("pushButton_SaveToFile"));
@@ -146,6 +185,7 @@ private Q_SLOTS:
 
     void switchesBetweenTheWindows()
     {
+        const QStringList before = QDir::current().entryList();
         name()->setText(QStringLiteral("Kept"));
         for (const bool agree : {false, true}) {
             QString text;
@@ -158,10 +198,13 @@ private Q_SLOTS:
             QVERIFY(text.contains(QStringLiteral("<br><br>")));
             QCOMPARE(shownPage(), agree ? QStringLiteral("page_Light") : QStringLiteral("page_Full"));
         }
+        const QString own = writeFile(folder_.filePath("file.xml"), "<DEVICE>the user's own");
         press("pushButton_Light_ConfigFull");
         QCOMPARE(shownPage(), QStringLiteral("page_Full"));
         QCOMPARE(name()->text(), QStringLiteral("Kept"));
-        QVERIFY(!QFile::exists(QStringLiteral("file.xml")));
+        QCOMPARE(readFile(own), QByteArray("<DEVICE>the user's own"));
+        QVERIFY(QFile::remove(own));
+        QCOMPARE(QDir::current().entryList(), before);
     }
 
     void excessLocksAllButTheDataSet()
@@ -239,6 +282,23 @@ private:
     QWidget* full() { return ScriptedHost::window("VLK_Widget_Config_Full"); }
     QString shownPage() { return child<QStackedWidget>("stackedWidget")->currentWidget()->objectName(); }
     QLineEdit* name() { return child<QLineEdit>("lineEdit_Name"); }
+
+    // Types a path into the file dialog that opens next, and confirms that the file may be replaced.
+    static void answerFileDialog(const QString& path, QString* suggested = nullptr)
+    {
+        ScriptedHost::whenModal([path, suggested](QWidget* open) {
+            auto* dialog = qobject_cast<QFileDialog*>(open);
+            auto* edit = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+            if (suggested)
+                *suggested = edit->text();
+            edit->setText(path);
+            if (QFile::exists(path))
+                ScriptedHost::whenModal([](QWidget* question) {
+                    qobject_cast<QMessageBox*>(question)->button(QMessageBox::Yes)->click();
+                });
+            static_cast<QDialog*>(dialog)->accept();
+        });
+    }
 
     QString configuration(const QString& objectName)
     {

@@ -1,7 +1,5 @@
 // The two lists of operators behind the Transfer page.
 
-#include "pages/form_auto_apn_list_new.h"
-#include "pages/form_list_oper_roaming.h"
 #include "transfer_page.h"
 
 #include <QtTest>
@@ -37,22 +35,6 @@ private Q_SLOTS:
         QCOMPARE(tree->topLevelItem(2)->text(1) + tree->topLevelItem(2)->text(2), QString());
         QVERIFY(!tree->topLevelItem(3)->text(2).isEmpty());
         QCOMPARE(saved("AUTOAPN/sID3"), QString());
-
-        // The quick window writes over the group that is there.
-        const QString path = filePath("quick.xml");
-        {
-            vlk::XmlDocument out(path, "DEVICE");
-            page().saveToXml(out.root());
-            apnTree()->topLevelItem(0)->setText(2, "changed");
-            const CXmlSectionPtr trans = out.root()->child("TRANS");
-            page().findChild<VLK_FormAutoApnListNew*>()->saveToXmlQuick(trans.get());
-            out.save();
-        }
-        QDomDocument document;
-        QVERIFY(document.setContent(readFile(path)));
-        QCOMPARE(document.elementsByTagName("AUTOAPN").size(), 1);
-        QCOMPARE(document.elementsByTagName("AUTOAPN").at(0).toElement().attribute("name1"),
-                 QString("changed"));
     }
 
     void numberColumnIsNotEdited()

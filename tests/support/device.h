@@ -1,10 +1,44 @@
 #pragma once
 
-#include "host/device_r7106.h"
+#include "host/host_interface.h"
+#include "link/device.h"
 
-// As in the library, the device and its windows last for the process.
-inline VLK_Device_R7106& device()
+// The device object as windows see it, without a library around it: messages go to the given callback.
+class TestDevice : public vlk::Device
 {
-    static VLK_Device_R7106 onlyOne;
+public:
+    void initialize(vlk::HostCallback callback)
+    {
+        callback_ = callback;
+        vlkDevice = this;
+    }
+
+    void send(vlk::Message id, void* p1, void* p2) override
+    {
+        if (callback_)
+            callback_(this, static_cast<std::uint32_t>(id), p1, p2);
+    }
+    QString tmiFolder() const override { return QStringLiteral("./Data/TMI/"); }
+    QString xmlFolder() const override { return QStringLiteral("./Data/XML/"); }
+    QString model() const override { return QStringLiteral("R-7106"); }
+    QString vendor() const override { return QStringLiteral("VELTRONIKA"); }
+    QString trackerId1() const override { return {}; }
+    QString trackerId2() const override { return {}; }
+    quint64 capabilityMask() const override { return 0; }
+    int mode() const override { return 0; }
+    QString fileVersion() const override { return QStringLiteral("3.3.0"); }
+    char* balanceUssd() override { return balanceUssd_; }
+    void setLiveOwner(int /*owner*/) override {}
+    void showHelp(const QString& /*page*/) override {}
+    void showText(const QString& /*title*/, const QString& /*html*/) override {}
+
+private:
+    vlk::HostCallback callback_ = nullptr;
+    char balanceUssd_[vlk::balanceUssdSize] = {};
+};
+
+inline TestDevice& device()
+{
+    static TestDevice onlyOne;
     return onlyOne;
 }

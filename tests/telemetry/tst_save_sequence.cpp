@@ -112,7 +112,7 @@ private Q_SLOTS:
         QCOMPARE(times_.size(), seconds > 0 ? 1 : 0);
         send(Message::RecordOfPeriod, first, 13);
         send(Message::RecordByTime, last, 13);
-        QCOMPARE(seen, (QStringList{"wrd_004", seconds > 0 ? "tmiw_122" : "tmiw_121", "wrd_003"}));
+        QCOMPARE(seen, (QStringList{"wrd_004", seconds > 0 ? "tmiw_155" : "tmiw_154", "wrd_003"}));
         QVERIFY(isIdle() && asked_.isEmpty());
     }
 
@@ -151,7 +151,7 @@ private Q_SLOTS:
         for (const char* name : {"ProgressBar_Time", "Packet_Cur", "Packet_Separator", "Packet_End",
                                  "Time_Cur", "Time_Separator", "Time_End"})
             shown += text((QByteArray("label_") + name).constData());
-        QVERIFY2(QRegularExpression("^tmiw_119102/30000:00:\\d\\d/00:\\d\\d:\\d\\d$").match(shown).hasMatch(),
+        QVERIFY2(QRegularExpression("^tmiw_152102/30000:00:\\d\\d/00:\\d\\d:\\d\\d$").match(shown).hasMatch(),
                  qPrintable(shown));
         QVERIFY(!isOn("groupBox_Btn_Get") && !bar->isHidden());
         // Nothing happens until the tracker answers, and that answer is not in the file.

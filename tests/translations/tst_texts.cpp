@@ -2,9 +2,9 @@
 
 #include "support/data_table.h"
 #include "telemetry/files/csv_columns.h"
+#include "translations/text_files.h"
 
 #include <QDirIterator>
-#include <QDomDocument>
 #include <QRegularExpression>
 #include <QTranslator>
 #include <QtTest>
@@ -66,22 +66,12 @@ private Q_SLOTS:
                 vlk::headingText(column);
         }
 
-        for (const char* language : {"ru", "en"}) {
-            QFile file(QStringLiteral(VLK_SOURCE "/translations/%1.ts").arg(language));
-            QVERIFY(file.open(QIODevice::ReadOnly));
-            QDomDocument document;
-            QString error;
-            QVERIFY2(document.setContent(&file, &error), qPrintable(error));
-            const QDomNodeList messages = document.elementsByTagName(QStringLiteral("message"));
-            for (int i = 0; i < messages.size(); ++i) {
-                const QDomElement message = messages.at(i).toElement();
-                const QString id = message.attribute(QStringLiteral("id"));
-                if (texts_[language].contains(id))
-                    repeated_ << QStringLiteral("%1 in %2").arg(id, language);
-                texts_[language][id] = message.firstChildElement(QStringLiteral("translation")).text();
-            }
+        QStringList repeated;
+        for (const QString& language : kLanguages) {
+            texts_[language] = readTexts(language, &repeated);
+            QVERIFY(!texts_[language].isEmpty());
         }
-        QCOMPARE(repeated_, QStringList());
+        QCOMPARE(repeated, QStringList());
     }
 
     void everyKeyHasAText_data()
@@ -108,27 +98,10 @@ private Q_SLOTS:
         QVERIFY2(unused.isEmpty(), qPrintable("no key: " + unused.join(' ')));
     }
 
-    // A text that is split at a value, or takes one, does so in every language; and English holds no
-    // Cyrillic.
-    void languagesAgree()
-    {
-        static const QRegularExpression cyrillic(QStringLiteral("[а-яА-ЯёЁ]"));
-        for (auto text = texts_["ru"].cbegin(); text != texts_["ru"].cend(); ++text) {
-            const QString english = texts_["en"].value(text.key());
-            for (const char* marker : {"<val>", "<vaL>", "%1", "%2"})
-                QVERIFY2(text->contains(QLatin1String(marker)) == english.contains(QLatin1String(marker)),
-                         qPrintable(text.key()));
-            QVERIFY2(!english.contains(cyrillic), qPrintable(text.key()));
-        }
-    }
-
 private:
-    using Texts = QMap<QString, QString>;
-
     QSet<QString> keys_;
     QSet<QString> families_;
     QMap<QString, Texts> texts_; // by language
-    QStringList repeated_;
 };
 
 QTEST_GUILESS_MAIN(TextsTest)

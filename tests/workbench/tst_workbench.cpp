@@ -107,10 +107,15 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("language");
         QTest::addColumn<QString>("page");
+        QSet<QString> pages;
         for (const QString& language : Languages::codes())
-            for (const char* page : {"index.html", "r-7106conf.html", "r-7106p1.html", "r-7106tmi.html"})
-                QTest::newRow(qPrintable(language + QLatin1Char('/') + QLatin1String(page)))
-                    << language << QString::fromLatin1(page);
+            for (const QString& page :
+                 QDir(QStringLiteral(VLK_SOURCE "/help/") + language).entryList(QDir::Files))
+                pages << page;
+        // A page of one language stands in the others too.
+        for (const QString& language : Languages::codes())
+            for (const QString& page : std::as_const(pages))
+                QTest::newRow(qPrintable(language + QLatin1Char('/') + page)) << language << page;
     }
     void helpPagesExistAndTheirLinksResolve()
     {

@@ -103,8 +103,8 @@ private Q_SLOTS:
                  "\t<A v=\"&lt;! &quot;\">\n\t</A>\n\t<B>&apos;!</B>\n")
             .row("names of the format", "<A_32_B_-9_ a_32_='1'/>",
                  "\t<A_32_B_-9_ a_32_=\"1\">\n\t</A_32_B_-9_>\n")
-            .row("the last of two like attributes, in the place of the first", "<A a='1' b='2' a='3'/>",
-                 "\t<A a=\"3\" b=\"2\">\n\t</A>\n")
+            .row("the first of like attributes", "<A a='1' b='2' a='3' b=''/>",
+                 "\t<A a=\"1\" b=\"2\">\n\t</A>\n")
             .row("long values of elements nobody opens", "<A v='" + QByteArray(10000, 'x') + "'/>",
                  "\t<A v=\"" + QByteArray(10000, 'x') + "\">\n\t</A>\n");
     }
@@ -271,6 +271,10 @@ private Q_SLOTS:
             .row("declared utf-16", "<?xml version='1.0' encoding='utf-16'?><DEVICE/>")
             .row("entities that grow",
                  "<!DOCTYPE D [<!ENTITY a 'aaaa'><!ENTITY b '&a;&a;'>]><DEVICE a='&b;'>&b;</DEVICE>")
+            .row("an empty internal subset", "<!DOCTYPE DEVICE []><DEVICE/>")
+            .row("an internal subset behind an identifier", "<!DOCTYPE DEVICE SYSTEM 'a>' [ ]><DEVICE/>")
+            .row("an internal subset behind a comment",
+                 "<!-- <!DOCTYPE DEVICE> --><!DOCTYPE DEVICE [<!ENTITY a 'b'>]><DEVICE a='&a;'/>")
             .row("declarations that nest",
                  "<!DOCTYPE D [<!ELEMENT D " + QByteArray("(").repeated(1000000) + ">]><DEVICE/>")
             .row("too long", "<DEVICE>" + QByteArray(CSerialize::maxFileSize, ' ') + "</DEVICE>");
@@ -289,6 +293,16 @@ private Q_SLOTS:
         root->clear();
         document.save();
         QVERIFY(readFile(path) == content);
+    }
+
+    void acceptsPlainDocumentTypes()
+    {
+        for (const char* type :
+             {"<!DOCTYPE DEVICE>", "<!DOCTYPE DEVICE SYSTEM \"a[b>.dtd\">",
+              "<!DOCTYPE DEVICE PUBLIC 'x' 'y'\n>", "<!-- <!DOCTYPE D [ --><?note [?>\n<!DOCTYPE DEVICE >"}) {
+            XmlDocument document(put(declaration + type + "\n<DEVICE a='1'/>"), "DEVICE");
+            QVERIFY2(document.root()->getInt("a", 9) == 1, type);
+        }
     }
 
     void opensWhatIsNoDocumentYet()

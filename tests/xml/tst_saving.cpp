@@ -2,6 +2,7 @@
 // in a process of its own, which may lose its rights, its disk space or its life.
 
 #include "support/data_table.h"
+#include "support/failing_calls.h"
 #include "support/files.h"
 #include "xml/xml_document.h"
 
@@ -16,7 +17,19 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+// How a save ended: by its result and what the log said.
+enum Outcome { Saved, Kept, Lost, Untold };
+Q_DECLARE_METATYPE(Outcome)
+
 namespace {
+
+Outcome told = Untold;
+
+void listen(QtMsgType /*type*/, const QMessageLogContext& context, const QString& text)
+{
+    if (qstrcmp(context.category, "vlk.save") == 0 && text.contains("file.xml: "))
+        told = text.contains("lost") ? Lost : Kept;
+}
 
 constexpr int nobody = 65534;
 constexpr mode_t openFolder = 0777;
@@ -32,7 +45,7 @@ QByteArray documentWith(int groups)
     return text + "</DEVICE>\n";
 }
 
-void saveWith(const QString& path, int groups)
+bool saveWith(const QString& path, int groups)
 {
     vlk::XmlDocument document(path, "DEVICE");
     document.root()->clear();
@@ -41,7 +54,7 @@ void saveWith(const QString& path, int groups)
         group->setInt("value", i);
         group->commit();
     }
-    document.save();
+    return document.save();
 }
 
 // Root may write everywhere, so the tests of rights give them up first.
@@ -71,6 +84,24 @@ private:
             qFatal("cannot set rights");
     }
 
+    // In a process that has no rights of root and is prepared by `limit`.
+    template <class Limit>
+    Outcome saveAsNobody(int groups, Limit limit)
+    {
+        const pid_t child = fork();
+        if (child == 0) {
+            becomeNobody();
+            qInstallMessageHandler(listen);
+            if (!limit())
+                _exit(Untold);
+            _exit(saveWith(path_, groups) ? Saved : told);
+        }
+        int status = 0;
+        if (waitpid(child, &status, 0) != child || !WIFEXITED(status))
+            return Untold;
+        return static_cast<Outcome>(WEXITSTATUS(status));
+    }
+
     QByteArray content(const QString& name = "file.xml") const { return readFile(folder_->filePath(name)); }
 
     QStringList strays() const
@@ -89,21 +120,21 @@ private Q_SLOTS:
         const int any = 1 << 20;
         const int open = openFolder;
         const int closed = closedFolder;
-        DataTable<int, int, int, int, int, bool>(
-            {"folderRights", "fileRights", "old", "now", "diskSpace", "saved"})
-            .row("over an old file", open, 0666, 9, 5, any, true)
-            .row("over an empty file", open, 0666, 0, 5, any, true)
-            .row("closed folder, longer", closed, 0666, 5, 9, any, true)
-            .row("closed folder, shorter", closed, 0666, 9, 5, any, true)
-            .row("closed folder, empty file", closed, 0666, 0, 5, any, true)
-            .row("closed folder, closed file", closed, 0444, 9, 5, any, false)
-            .row("closed file", open, 0444, 9, 5, any, false)
-            .row("closed empty file", open, 0444, 0, 5, any, false)
-            .row("disk full", open, 0666, 9, 50, 600, false)
-            .row("disk full, both too long", open, 0666, 90, 50, 600, false)
-            .row("disk full, closed folder", closed, 0666, 9, 50, 600, false)
-            .row("disk full, closed folder, empty file", closed, 0666, 0, 50, 600, false)
-            .row("disk full, closed folder, both too long", closed, 0666, 90, 50, 600, false);
+        DataTable<int, int, int, int, int, Outcome>(
+            {"folderRights", "fileRights", "old", "now", "diskSpace", "outcome"})
+            .row("over an old file", open, 0666, 9, 5, any, Saved)
+            .row("over an empty file", open, 0666, 0, 5, any, Saved)
+            .row("closed folder, longer", closed, 0666, 5, 9, any, Saved)
+            .row("closed folder, shorter", closed, 0666, 9, 5, any, Saved)
+            .row("closed folder, empty file", closed, 0666, 0, 5, any, Saved)
+            .row("closed folder, closed file", closed, 0444, 9, 5, any, Kept)
+            .row("closed file", open, 0444, 9, 5, any, Kept)
+            .row("closed empty file", open, 0444, 0, 5, any, Kept)
+            .row("disk full", open, 0666, 9, 50, 600, Kept)
+            .row("disk full, both too long", open, 0666, 90, 50, 600, Kept)
+            .row("disk full, closed folder", closed, 0666, 9, 50, 600, Kept)
+            .row("disk full, closed folder, empty file", closed, 0666, 0, 50, 600, Kept)
+            .row("disk full, closed folder, both too long", closed, 0666, 90, 50, 600, Kept);
     }
     void savesWhatItMay()
     {
@@ -112,20 +143,53 @@ private Q_SLOTS:
         QFETCH(int, old);
         QFETCH(int, now);
         QFETCH(int, diskSpace);
-        QFETCH(bool, saved);
+        QFETCH(Outcome, outcome);
         prepare(old, static_cast<mode_t>(folderRights), static_cast<mode_t>(fileRights));
-        const pid_t child = fork();
-        if (child == 0) {
-            becomeNobody();
-            const rlimit limit{static_cast<rlim_t>(diskSpace), static_cast<rlim_t>(diskSpace)};
-            std::signal(SIGXFSZ, SIG_IGN);
-            _exit(setrlimit(RLIMIT_FSIZE, &limit) == 0 ? (saveWith(path_, now), 0) : 3);
-        }
-        int status = 0;
-        QCOMPARE(waitpid(child, &status, 0), child);
-        QVERIFY(WIFEXITED(status));
-        QCOMPARE(WEXITSTATUS(status), 0);
-        QCOMPARE(content(), documentWith(saved ? now : old));
+        QCOMPARE(saveAsNobody(
+                     now,
+                     [&] {
+                         const rlimit limit{static_cast<rlim_t>(diskSpace), static_cast<rlim_t>(diskSpace)};
+                         std::signal(SIGXFSZ, SIG_IGN);
+                         return setrlimit(RLIMIT_FSIZE, &limit) == 0;
+                     }),
+                 outcome);
+        QCOMPARE(content(), documentWith(outcome == Saved ? now : old));
+        QCOMPARE(strays(), QStringList());
+    }
+
+    void survivesABadDisk_data()
+    {
+        const int open = openFolder;
+        const int closed = closedFolder;
+        DataTable<int, int, QByteArray, bool, bool, Outcome>(
+            {"folderRights", "now", "writes", "syncs", "truncations", "outcome"})
+            .row("no flush", open, 5, "", true, false, Kept)
+            .row("in place, half of the new one", closed, 5, "hx", false, false, Kept)
+            .row("in place, half of the reserve", closed, 50, "hX", false, false, Kept)
+            .row("in place, no way back", closed, 5, "hX", false, false, Lost)
+            .row("in place, no flush, nor on the way back", closed, 5, "", true, false, Lost)
+            .row("in place, the end stays", closed, 5, "", false, true, Kept)
+            .row("in place, the reserve stays", closed, 50, "hX", false, true, Kept);
+    }
+    void survivesABadDisk()
+    {
+        QFETCH(int, folderRights);
+        QFETCH(int, now);
+        QFETCH(QByteArray, writes);
+        QFETCH(bool, syncs);
+        QFETCH(bool, truncations);
+        QFETCH(Outcome, outcome);
+        const int old = 20;
+        prepare(old, static_cast<mode_t>(folderRights));
+        QCOMPARE(saveAsNobody(now,
+                              [&] {
+                                  failing::writes = writes.constData();
+                                  failing::syncs = syncs;
+                                  failing::truncations = truncations;
+                                  return true;
+                              }),
+                 outcome);
+        QVERIFY(outcome == Lost || content().trimmed() == documentWith(old).trimmed());
         QCOMPARE(strays(), QStringList());
     }
 
@@ -180,9 +244,11 @@ private Q_SLOTS:
             // Only between taking its name beside the old file and taking the old file's name can the new one
             // be seen, and then it is whole.
             const QStringList left = strays();
-            QVERIFY(left.isEmpty() || (folderRights == openFolder && old > 0 && isOld));
+            QVERIFY(left.isEmpty() || (folderRights == openFolder && isOld));
             for (const QString& name : left)
                 QCOMPARE(content(name), documentWith(now));
+            QVERIFY(saveWith(path_, now));
+            QCOMPARE(strays(), QStringList());
         }
         QCOMPARE(content(), documentWith(now));
         QVERIFY(keptOld > 0 && kills > keptOld);
@@ -204,8 +270,8 @@ private Q_SLOTS:
     void leavesFoldersAlone()
     {
         prepare(3);
-        saveWith(folder_->path(), 5);
-        saveWith(folder_->filePath("missing/file.xml"), 5);
+        QVERIFY(!saveWith(folder_->path(), 5));
+        QVERIFY(!saveWith(folder_->filePath("missing/file.xml"), 5));
         QCOMPARE(content(), documentWith(3));
         QCOMPARE(QDir(folder_->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
                  QStringList("file.xml"));

@@ -93,7 +93,7 @@ QWidget* TrackerPanel::buildControls()
     delay_->setObjectName(QStringLiteral("spinBox_Delay"));
     delay_->setRange(0, longestDelayMs);
     delay_->setSingleStep(100);
-    texts_.bind([this] { delay_->setSuffix(QLatin1Char(' ') + vlk::text("wb_unit_ms")); });
+    texts_.bind([this] { delay_->setSuffix(QLatin1Char(' ') + vlk::text("abbr_040")); });
     connect(delay_, QOverload<int>::of(&QSpinBox::valueChanged), this,
             [this](int ms) { tracker_.faults().delayMs = ms; });
     auto* delayLabel = texts_.bind(new QLabel(this), "wb_fault_delay");

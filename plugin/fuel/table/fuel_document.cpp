@@ -1,8 +1,7 @@
 #include "fuel/table/fuel_document.h"
 
-#include "xml/serialize.h"
+#include "xml/xml_node.h"
 #include "xml/xml_section.h"
-#include "xml/xml_writer.h"
 
 #include <algorithm>
 #include <cmath>
@@ -64,14 +63,6 @@ std::optional<FuelRows> fuelTable(CXmlSection* root)
 QString fuelTableName(const CXmlSection* root)
 {
     return root->getString(QStringLiteral("Name_A1"));
-}
-
-QByteArray fuelDocument(const CXmlSection& root)
-{
-    QByteArray text;
-    if (root.document())
-        CXmlWriter(&text).writeDocument(*root.document()->node(nullptr, QLatin1String(fuelRoot)));
-    return text;
 }
 
 } // namespace vlk

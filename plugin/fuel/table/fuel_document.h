@@ -13,8 +13,6 @@
 
 #include "fuel/table/fuel_rows.h"
 
-#include <QByteArray>
-
 #include <optional>
 
 struct CXmlSection;
@@ -29,8 +27,5 @@ void putFuelTable(CXmlSection* root, const QString& sensor, const QString& name,
 // The table in the root of a document; none when it has more than maxFuelRows rows.
 std::optional<FuelRows> fuelTable(CXmlSection* root);
 QString fuelTableName(const CXmlSection* root);
-
-// The whole document as its file holds it.
-QByteArray fuelDocument(const CXmlSection& root);
 
 } // namespace vlk

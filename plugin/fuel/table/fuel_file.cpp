@@ -37,9 +37,10 @@ QString fuelFileName(const QString& folder, const QString& sensor, const QString
 bool saveFuelFile(const QString& path, const QByteArray& content)
 {
     QSaveFile file(path);
-    if (saveWhole(file, content))
+    QString reason;
+    if (saveWhole(file, content, &reason))
         return true;
-    qCWarning(lcSave).noquote() << QStringLiteral("%1: %2").arg(path, file.errorString());
+    qCWarning(lcSave).noquote().nospace() << path << ": " << reason;
     return false;
 }
 

@@ -4,7 +4,7 @@
 // its files, and fetches the file. Its signals leave for the tracker through the telemetry view; answers come
 // back at any time.
 
-#include "host/host_interface.h"
+#include "link/messages.h"
 
 #include <QDialog>
 

@@ -1,7 +1,7 @@
 #include "telemetry/view/automatic_requests.h"
 
-#include "host/device_r7106.h"
-#include "host/requests.h"
+#include "link/device.h"
+#include "link/requests.h"
 
 #include <chrono>
 

@@ -1,6 +1,6 @@
 #include "telemetry/view/clearing_sequence.h"
 
-#include "host/requests.h"
+#include "link/requests.h"
 
 #include <QCheckBox>
 

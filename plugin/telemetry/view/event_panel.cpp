@@ -1,6 +1,6 @@
 #include "telemetry/view/event_panel.h"
 
-#include "host/requests.h"
+#include "link/requests.h"
 #include "telemetry/text/item_text.h"
 #include "telemetry/view/value_rows.h"
 

@@ -10,7 +10,7 @@ using namespace vlk;
 namespace {
 
 constexpr ValueSeries kAnalog[] = {
-    {"label_Analog_Power_Value", "tmizta_158", item("Power")},
+    {"label_Analog_Power_Value", "tmift2_024", item("Power")},
     {"label_Analog_Reserv_Value", "tmift2_022", item("Reserv")},
     {"label_Analog_Value_In_%1", "tmift2_003", item("StateU_Ain1"), 8},
 };

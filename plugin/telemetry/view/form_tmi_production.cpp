@@ -1,6 +1,6 @@
 #include "telemetry/view/form_tmi_production.h"
 
-#include "host/device_r7106.h"
+#include "link/device.h"
 #include "telemetry/text/item_text.h"
 #include "telemetry/text/signal_level.h"
 #include "telemetry/view/position_rows.h"

@@ -1,6 +1,6 @@
 #include "telemetry/view/form_tmi_zeta3.h"
 
-#include "host/requests.h"
+#include "link/requests.h"
 #include "telemetry/view/form_tmi_f3_tab_accel.h"
 #include "telemetry/view/form_tmi_f3_tab_fuel.h"
 #include "telemetry/view/form_tmi_f3_tab_main.h"

@@ -1,6 +1,6 @@
 #include "telemetry/view/period_file.h"
 
-#include "host/requests.h"
+#include "link/requests.h"
 
 #include <QLoggingCategory>
 

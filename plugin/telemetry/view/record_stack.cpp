@@ -1,6 +1,6 @@
 #include "telemetry/view/record_stack.h"
 
-#include "host/device_r7106.h"
+#include "link/device.h"
 #include "telemetry/record/record_head.h"
 #include "telemetry/record/tmi_page_zeta2.h"
 #include "telemetry/view/event_panel.h"

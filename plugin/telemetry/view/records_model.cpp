@@ -1,6 +1,6 @@
 #include "telemetry/view/records_model.h"
 
-#include "host/requests.h"
+#include "link/requests.h"
 #include "telemetry/files/title_lines.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #include "telemetry/view/save_sequence.h"
 
 #include "base/clock.h"
-#include "host/device_r7106.h"
-#include "host/requests.h"
+#include "link/device.h"
+#include "link/requests.h"
 #include "telemetry/record/record_head.h"
 
 #include <QCoreApplication>
@@ -60,7 +60,7 @@ void SaveSequence::start(Mode mode, const QDateTime& first, const QDateTime& las
     saving_ = true;
     saveCancelled_ = false;
     if (first >= last) {
-        refuse("tmiw_121");
+        refuse("tmiw_154");
         return;
     }
     saveMode_ = mode;
@@ -136,7 +136,7 @@ void SaveSequence::takeLast(const QByteArray& record)
     const auto last = numberOf(records_.back());
     if (!first || !last || *last <= *first) {
         end();
-        refuse("tmiw_122");
+        refuse("tmiw_155");
         return;
     }
     askFileName();
@@ -150,7 +150,7 @@ void SaveSequence::takeLast(const QByteArray& record)
     } else {
         saveDone_ = 2;
         saveState_ = Collecting;
-        progress_.setStatus("tmiw_119");
+        progress_.setStatus("tmiw_152");
         progress_.start(saveTotal_);
         showFetched();
         requests::recordByNumber(static_cast<quint32>(*first + 1));
@@ -170,7 +170,7 @@ void SaveSequence::takeNext(const QByteArray& record)
         showFetched();
         requests::recordByNumber(static_cast<quint32>(*number + 1));
     } else {
-        progress_.setStatus("tmiw_120");
+        progress_.setStatus("tmiw_153");
         end();
     }
 }

@@ -2,7 +2,7 @@
 
 #include "ui_VLK_Designer_Widget_Tmi_Page.h"
 
-#include "host/requests.h"
+#include "link/requests.h"
 #include "telemetry/view/event_panel.h"
 #include "telemetry/view/stored_file.h"
 

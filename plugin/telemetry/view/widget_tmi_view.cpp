@@ -4,8 +4,8 @@
 
 #include "base/clock.h"
 #include "fuel/form_tmi_fuel_sensors.h"
-#include "host/device_r7106.h"
-#include "host/requests.h"
+#include "link/device.h"
+#include "link/requests.h"
 #include "telemetry/tachograph/form_tmi_taho.h"
 #include "telemetry/text/key_text.h"
 #include "telemetry/view/event_panel.h"

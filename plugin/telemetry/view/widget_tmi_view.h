@@ -6,7 +6,7 @@
 // tachograph dialog and the calibration window. Answers come at any time, asked for or not, also while the
 // window is hidden.
 
-#include "host/host_interface.h"
+#include "link/messages.h"
 #include "telemetry/view/automatic_requests.h"
 #include "telemetry/view/clearing_sequence.h"
 #include "telemetry/view/record_stack.h"

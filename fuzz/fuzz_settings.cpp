@@ -1,0 +1,57 @@
+// Any document through the settings alone and through the windows: both make the same file of it, the widgets
+// show what it holds, and what was saved is loaded and saved as it stands.
+
+#include "dialog/config_pages.h"
+#include "dialog/widget_config_full.h"
+#include "settings/all_settings.h"
+#include "support/device.h"
+#include "support/setting_samples.h"
+
+#include <QApplication>
+#include <QLoggingCategory>
+
+#include <cstdlib>
+
+namespace {
+
+void require(bool holds)
+{
+    if (!holds)
+        std::abort();
+}
+
+QByteArray throughTheWindow(VLK_Widget_Config_Full& window, const QByteArray& file)
+{
+    window.setDefaults();
+    vlk::XmlDocument in(file, "DEVICE");
+    vlk::XmlDocument out(QString(), "DEVICE");
+    window.pages().forEach([&](auto& page) {
+        page.loadFromXml(in.root());
+        page.saveToXml(out.root());
+        require(page.settings().binder().disagreements().isEmpty());
+    });
+    return out.text();
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static QApplication application(*argc, *argv);
+    QLoggingCategory::setFilterRules("vlk.xml=false");
+    device().initialize(nullptr);
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    static VLK_Widget_Config_Full window;
+    static vlk::Configuration configuration(vlk::allSettings());
+    const QByteArray file(reinterpret_cast<const char*>(data), static_cast<int>(size));
+    const QByteArray alone = readAndWritten(configuration, file);
+    require(throughTheWindow(window, file) == alone);
+    require(readAndWritten(configuration, alone) == alone);
+    require(throughTheWindow(window, alone) == alone);
+    return 0;
+}

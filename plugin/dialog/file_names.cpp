@@ -1,0 +1,38 @@
+#include "dialog/file_names.h"
+
+#include "base/clock.h"
+#include "link/device.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QRegularExpression>
+
+namespace vlk {
+
+QString configurationPathToWrite(const QString& part)
+{
+    return QStringLiteral("%1/vlk_%2_%3.xml")
+        .arg(QDir::currentPath(), part, now().toString(QStringLiteral("d-MM-yy-H-m")));
+}
+
+QString askConfigurationPath(QWidget* parent, const QString& objectName)
+{
+    if (!vlkDevice)
+        return {};
+    // An object's name is free text; a file name is not.
+    static const QRegularExpression forbidden(QStringLiteral("[\\\\/:*?\"<>|\\x00-\\x1f]"));
+    const QString name = QString(objectName).replace(forbidden, QStringLiteral("_"));
+    const QString suggested =
+        QStringLiteral("%1/%2(%3).xml")
+            .arg(vlkDevice->xmlFolder(), name, now().toString(QStringLiteral("dd-MM-yy hh_mm_ss")));
+    const auto text = [](const char* key) { return QCoreApplication::translate("vlk", key); };
+    QFileDialog dialog(parent, text("cfgwnd_003"), suggested,
+                       QStringLiteral("%1 XML (*.xml)").arg(text("cfgwnd_004")));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    // The dialog knows it too, so that it asks about the file that will be replaced.
+    dialog.setDefaultSuffix(QStringLiteral("xml"));
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+} // namespace vlk

@@ -1,0 +1,19 @@
+#pragma once
+
+// Names of the configuration files that the windows make.
+
+#include <QString>
+
+class QWidget;
+
+namespace vlk {
+
+// In the process's current folder, named after `part` and the time: where a configuration goes for the host
+// to bring it into the tracker.
+QString configurationPathToWrite(const QString& part);
+
+// Asks the user for a file in the folder of configurations, suggesting a name made of the object's name and
+// the time. A name without a suffix gets ".xml". Empty when the user cancels.
+QString askConfigurationPath(QWidget* parent, const QString& objectName);
+
+} // namespace vlk

@@ -1,0 +1,51 @@
+#pragma once
+
+// The one window of the configuration: the quick and the full window on a stack, of which one is on show. It
+// brings a configuration in from a file, moves it between the two and takes it out to a file or to the
+// tracker. A file always goes into the full window, and into the quick window when that one is shown.
+// Failures of files are told to the log alone, and what could not be saved is not written to the tracker.
+
+#include <QDialog>
+
+#include <memory>
+
+struct CXmlSection;
+class VLK_Widget_Config_Full;
+class VLK_Widget_Config_Light;
+
+namespace Ui {
+class VLK_Designer_Widget_Config;
+}
+
+namespace vlk {
+struct OpenRequest;
+}
+
+class VLK_Widget_Config : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit VLK_Widget_Config(QWidget* parent = nullptr);
+    ~VLK_Widget_Config() override;
+
+    using QDialog::open;
+    // Resets both windows, loads the request's file into them and shows the window asked for. The balance
+    // request code of the file goes to `ussdBuffer`, vlk::balanceUssdSize bytes.
+    void open(const vlk::OpenRequest& request, char* ussdBuffer);
+    void deviceConnected();
+    void deviceDisconnected();
+    void writeQuickToDevice();
+    // False when that failed, which the log says (base/save_log.h).
+    bool saveQuickToFile(const QString& path);
+    void switchToFull();
+    void switchToQuick();
+    void retranslate();
+
+    VLK_Widget_Config_Full* fullWindow() const { return fullWindow_; }
+
+private:
+    std::unique_ptr<Ui::VLK_Designer_Widget_Config> ui_;
+    VLK_Widget_Config_Light* lightWindow_;
+    VLK_Widget_Config_Full* fullWindow_;
+};

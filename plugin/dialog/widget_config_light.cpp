@@ -1,0 +1,71 @@
+#include "dialog/widget_config_light.h"
+
+#include "ui_VLK_Designer_Widget_Config_Light.h"
+
+#include "dialog/file_names.h"
+
+VLK_Widget_Config_Light::VLK_Widget_Config_Light(QWidget* parent)
+    : QWidget(parent), ui_(std::make_unique<Ui::VLK_Designer_Widget_Config_Light>())
+{
+    ui_->setupUi(this);
+    using Slot = void (VLK_Widget_Config_Light::*)();
+    const std::pair<QPushButton*, Slot> buttons[] = {
+        {ui_->pushButton_Light_SaveToFile, &VLK_Widget_Config_Light::slot_pressed_Btn_Light_SaveToFile},
+        {ui_->pushButton_Light_LoadToDevice, &VLK_Widget_Config_Light::slot_pressed_Btn_Light_LoadToDevice},
+        {ui_->pushButton_Light_ConfigFull, &VLK_Widget_Config_Light::slot_pressed_Btn_Light_ConfigFull},
+        {ui_->pushButton_Light_Close, &VLK_Widget_Config_Light::slot_pressed_Btn_Light_Close},
+    };
+    for (const auto& [button, slot] : buttons) {
+        button->setAutoDefault(false);
+        connect(button, &QPushButton::clicked, this, slot);
+    }
+}
+
+VLK_Widget_Config_Light::~VLK_Widget_Config_Light() = default;
+
+void VLK_Widget_Config_Light::retranslate()
+{
+    ui_->pushButton_Light_SaveToFile->setText(tr("wrd_028"));
+    ui_->pushButton_Light_LoadToDevice->setText(tr("wrd_055"));
+    ui_->pushButton_Light_ConfigFull->setText(tr("cfgwnd_002"));
+    ui_->pushButton_Light_Close->setText(tr("wrd_054"));
+}
+
+void VLK_Widget_Config_Light::deviceConnected()
+{
+    connected_ = true;
+    ui_->pushButton_Light_LoadToDevice->setEnabled(true);
+}
+
+void VLK_Widget_Config_Light::deviceDisconnected()
+{
+    connected_ = false;
+    ui_->pushButton_Light_LoadToDevice->setEnabled(false);
+}
+
+void VLK_Widget_Config_Light::slot_pressed_Btn_Light_SaveToFile()
+{
+    const QString path = vlk::askConfigurationPath(this, QStringLiteral("NONAME"));
+    if (path.isEmpty())
+        return;
+    ui_->pushButton_Light_SaveToFile->setEnabled(false);
+    Q_EMIT saveRequested(path);
+    ui_->pushButton_Light_SaveToFile->setEnabled(true);
+}
+
+void VLK_Widget_Config_Light::slot_pressed_Btn_Light_LoadToDevice()
+{
+    ui_->pushButton_Light_LoadToDevice->setEnabled(false);
+    Q_EMIT writeRequested();
+    ui_->pushButton_Light_LoadToDevice->setEnabled(connected_);
+}
+
+void VLK_Widget_Config_Light::slot_pressed_Btn_Light_ConfigFull()
+{
+    Q_EMIT fullRequested();
+}
+
+void VLK_Widget_Config_Light::slot_pressed_Btn_Light_Close()
+{
+    Q_EMIT closeRequested();
+}

@@ -1,0 +1,174 @@
+#include "settings/configuration.h"
+
+#include <algorithm>
+
+namespace vlk {
+
+Configuration::Configuration(std::vector<const SettingsTable*> tables)
+{
+    for (const SettingsTable* table : tables) {
+        const TableLayout& layout = layoutOf(*table);
+        const int first = count();
+        parts_.push_back({&layout, first});
+        values_.resize(values_.size() + layout.rows.size());
+        partOfIndex_.resize(values_.size(), static_cast<int>(parts_.size()) - 1);
+        for (std::size_t row = 0; row < layout.rows.size(); ++row)
+            byPath_.insert(layout.rows[row].path, first + static_cast<int>(row));
+    }
+    // A choice that keeps its value and a row that a reset leaves alone start at their load defaults.
+    for (int i = 0; i < count(); ++i)
+        values_[i] = loadDefault(setting(i));
+    reset();
+    for (int i = 0; i < count(); ++i) {
+        if (setting(i).resets == Setting::Reset::keeps)
+            values_[i] = normalise(setting(i), loadDefault(setting(i)), {}, limits(i)).value;
+    }
+}
+
+const Configuration::Part& Configuration::partOf(int index) const
+{
+    return parts_[partOfIndex_.at(index)];
+}
+
+const Configuration::Part& Configuration::partOf(const SettingsTable& table) const
+{
+    const auto found = std::find_if(parts_.begin(), parts_.end(),
+                                    [&](const Part& part) { return part.layout->table == &table; });
+    Q_ASSERT(found != parts_.end());
+    return *found;
+}
+
+int Configuration::firstOf(const SettingsTable& table) const
+{
+    return partOf(table).first;
+}
+
+const TableLayout::Row& Configuration::row(int index) const
+{
+    const Part& part = partOf(index);
+    return part.layout->rows[index - part.first];
+}
+
+const QString& Configuration::value(int index) const
+{
+    static const QString none;
+    if (index < 0 || index >= count())
+        return none;
+    return values_[holder(index)];
+}
+
+int Configuration::holder(int index) const
+{
+    const Part& part = partOf(index);
+    return part.first + part.layout->rows[index - part.first].target;
+}
+
+bool Configuration::isWritten(int index) const
+{
+    const Part& part = partOf(index);
+    const TableLayout::Row& row = part.layout->rows[index - part.first];
+    return row.setting->stored && holds(part, row.present) &&
+           (row.group < 0 || holds(part, part.layout->groups[row.group].present));
+}
+
+QString Configuration::written(int index) const
+{
+    const Part& part = partOf(index);
+    const TableLayout::Row& row = part.layout->rows[index - part.first];
+    if (!holds(part, row.free))
+        return QString::fromLatin1(row.setting->otherwise);
+    const QString& value = this->value(index);
+    return row.setting->blankIsZero && value.isEmpty() ? QStringLiteral("0") : value;
+}
+
+bool Configuration::holds(const Part& part, const TableLayout::Condition& condition) const
+{
+    if (condition.row < 0)
+        return true;
+    const QString& value = this->value(part.first + condition.row);
+    const bool is = condition.codes.isEmpty() ? !value.isEmpty() && value != QLatin1String("0")
+                                              : condition.codes.contains(value);
+    return is != condition.negated;
+}
+
+bool Configuration::holds(const SettingsTable& table, const TableLayout::Enable& rule) const
+{
+    const Part& part = partOf(table);
+    const auto one = [&](const TableLayout::Condition& condition) { return holds(part, condition); };
+    return rule.any ? std::any_of(rule.when.begin(), rule.when.end(), one)
+                    : std::all_of(rule.when.begin(), rule.when.end(), one);
+}
+
+Limits Configuration::limits(int index) const
+{
+    const Part& part = partOf(index);
+    const int row = part.layout->rows[index - part.first].target;
+    const Setting& setting = *part.layout->rows[row].setting;
+    Limits limits{setting.least, setting.most};
+    for (const TableLayout::RangeWhen& rule : part.layout->ranges) {
+        if (rule.row == row && holds(part, rule.when))
+            limits = {rule.rule->least, rule.rule->most};
+    }
+    // Each of two handles leaves the other one its room.
+    for (const TableLayout::Distance& rule : part.layout->distances) {
+        if (rule.gapFrom < 0 && row == rule.first)
+            limits.most = part.layout->rows[rule.second].setting->most - rule.gap;
+        else if (rule.gapFrom < 0 && row == rule.second)
+            limits.least = part.layout->rows[rule.first].setting->least + rule.gap;
+    }
+    return limits;
+}
+
+const char* Configuration::unitKey(int index) const
+{
+    const Part& part = partOf(index);
+    const int row = part.layout->rows[index - part.first].target;
+    const char* unit = part.layout->rows[row].setting->unitKey;
+    for (const TableLayout::RangeWhen& rule : part.layout->ranges) {
+        if (rule.row == row && rule.rule->unit && holds(part, rule.when))
+            unit = rule.rule->unit;
+    }
+    return unit;
+}
+
+void Configuration::reset()
+{
+    for (const Part& part : parts_)
+        resetPart(part);
+}
+
+void Configuration::reset(const SettingsTable& table)
+{
+    resetPart(partOf(table));
+}
+
+void Configuration::resetPart(const Part& part)
+{
+    const int rows = static_cast<int>(part.layout->rows.size());
+    for (int row = 0; row < rows; ++row) {
+        const Setting& setting = *part.layout->rows[row].setting;
+        if (setting.resets == Setting::Reset::keeps || setting.kind == Kind::link)
+            continue;
+        const int index = part.first + row;
+        values_[index] = normalise(setting, resetValue(setting), values_[index], limits(index)).value;
+    }
+    for (const TableLayout::Distance& rule : part.layout->distances) {
+        if (rule.gapFrom >= 0)
+            keepDistances(part, rule.gapFrom, nullptr);
+    }
+    keepBounds(part, nullptr);
+}
+
+std::vector<Difference> Configuration::differences(const Configuration& other) const
+{
+    std::vector<Difference> all;
+    for (int i = 0; i < count() && i < other.count(); ++i) {
+        const QString before = isWritten(i) ? written(i) : QString();
+        const QString after = other.isWritten(i) ? other.written(i) : QString();
+        if (setting(i).stored && before != after)
+            all.push_back({i, before, after});
+    }
+    return all;
+}
+
+} // namespace vlk

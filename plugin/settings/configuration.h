@@ -1,0 +1,125 @@
+#pragma once
+
+// The values of all settings of some tables, known without a window. A value is the text that the file holds.
+// A new configuration holds what a reset gives.
+//
+// Values come from documents (read), from the user (edit) or from a reset, and go to documents (write). A
+// read takes what it finds as the windows would: a missing key is worth its load default, a number outside
+// its range is limited, an unknown code is replaced or leaves the value as it stands. Rules between settings
+// run on edits; the few that the file cannot break run always (rule.h).
+//
+// A path is "TRACK/POINTS/angle"; an index counts the rows of all tables in order.
+
+#include "settings/normalise.h"
+#include "settings/table_layout.h"
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+struct CXmlSection;
+
+namespace vlk {
+
+// A value that a read made of something else, or something in the file that no setting reads.
+struct ReadNote
+{
+    enum class What { value, foreignKey, foreignElement, doubledElement };
+
+    What what = What::value;
+    QString path;
+    int index = -1;
+    QString text;  // in the file
+    QString value; // taken
+    Change change = Change::none;
+};
+
+struct Difference
+{
+    int index;
+    QString before;
+    QString after;
+};
+
+class Configuration
+{
+public:
+    explicit Configuration(std::vector<const SettingsTable*> tables);
+
+    int count() const { return static_cast<int>(values_.size()); }
+    // -1 for a path that no table has.
+    int indexOf(const QString& path) const { return byPath_.value(path, -1); }
+    const TableLayout::Row& row(int index) const;
+    const TableLayout& layout(int index) const { return *partOf(index).layout; }
+    const Setting& setting(int index) const { return *row(index).setting; }
+    const QString& path(int index) const { return row(index).path; }
+
+    // The row that holds the value: of a link its target, else the row itself.
+    int holder(int index) const;
+    // The value that counts.
+    const QString& value(int index) const;
+    QString value(const QString& path) const { return value(indexOf(path)); }
+    // Whether a file of this state has the key, and what it holds there.
+    bool isWritten(int index) const;
+    QString written(int index) const;
+    // Range in units of the widget, and unit, as the rules have them now.
+    Limits limits(int index) const;
+    const char* unitKey(int index) const;
+
+    void reset();
+    void reset(const SettingsTable& table);
+    // `root` is the element DEVICE. A document that could not be read changes nothing.
+    std::vector<ReadNote> read(const CXmlSection& root);
+    std::vector<ReadNote> read(const CXmlSection& root, const SettingsTable& table);
+    void write(CXmlSection& root) const;
+    void write(CXmlSection& root, const SettingsTable& table) const;
+
+    // Takes an edit and runs the rules. Gives the rows whose values changed, this one first where it did.
+    std::vector<int> edit(int index, const QString& text);
+
+    // Values that this configuration and another one of the same tables write differently; a key that is not
+    // written counts as empty.
+    std::vector<Difference> differences(const Configuration& other) const;
+
+    // Whether the conditions of a rule of `table` hold.
+    bool holds(const SettingsTable& table, const TableLayout::Enable& rule) const;
+    // The least distance that a rule of `table` keeps now, in units of the widget.
+    double gapOf(const SettingsTable& table, const TableLayout::Distance& rule) const;
+    // Index of a table's first row.
+    int firstOf(const SettingsTable& table) const;
+
+private:
+    struct Part
+    {
+        const TableLayout* layout;
+        int first;
+    };
+
+    const Part& partOf(int index) const;
+    const Part& partOf(const SettingsTable& table) const;
+    bool holds(const Part& part, const TableLayout::Condition& condition) const;
+    double gapOf(const Part& part, const TableLayout::Distance& rule) const;
+    void resetPart(const Part& part);
+    void readPart(const Part& part, const CXmlSection& root, std::vector<ReadNote>* notes);
+    void readRow(const Part& part, int row, const CXmlSection& element, std::vector<ReadNote>* notes);
+    void writePart(const Part& part, CXmlSection& root) const;
+
+    void put(int index, const QString& value, std::vector<int>* changed);
+    void assign(const Part& part, int row, const QString& value, std::vector<int>* changed);
+    void keepDistances(const Part& part, int row, std::vector<int>* changed);
+    void keepBounds(const Part& part, std::vector<int>* changed);
+    void change(const Part& part, int row, const QString& text, std::vector<int>* changed);
+    void pull(const Part& part, int row, bool onRead, std::vector<int>* changed);
+    void derive(const Part& part);
+
+    std::vector<Part> parts_;
+    std::vector<int> partOfIndex_;
+    std::vector<int>
+        editing_; // rows whose edits have not ended: a rule that comes back to one is no endless one
+    std::vector<QString> values_;
+    QHash<QString, int> byPath_;
+};
+
+} // namespace vlk

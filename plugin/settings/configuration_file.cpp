@@ -1,0 +1,177 @@
+// How a configuration reads documents and writes them.
+
+#include "settings/configuration.h"
+
+#include "xml/xml_section.h"
+
+#include <utility>
+
+namespace vlk {
+
+std::vector<ReadNote> Configuration::read(const CXmlSection& root)
+{
+    std::vector<ReadNote> notes;
+    for (const Part& part : parts_)
+        readPart(part, root, &notes);
+    return notes;
+}
+
+std::vector<ReadNote> Configuration::read(const CXmlSection& root, const SettingsTable& table)
+{
+    std::vector<ReadNote> notes;
+    readPart(partOf(table), root, &notes);
+    return notes;
+}
+
+namespace {
+
+CXmlSectionPtr elementOf(const CXmlSection& section, const QStringList& path)
+{
+    CXmlSectionPtr element = section.child(path.first());
+    for (int i = 1; i < path.size() && element; ++i)
+        element = element->child(path[i]);
+    return element;
+}
+
+// What stands in `element` and is none of the known names, or twice.
+void noteStrangers(const CXmlSection& element, const QString& path, const QStringList& keys,
+                   const QStringList& elements, std::vector<ReadNote>* notes)
+{
+    QStringList seen;
+    for (const CXmlSection::Entry& entry : element.entries()) {
+        ReadNote note;
+        note.path = path + QLatin1Char('/') + entry.name;
+        if (!keys.contains(entry.name) && !(entry.isElement && elements.contains(entry.name)))
+            note.what = entry.isElement ? ReadNote::What::foreignElement : ReadNote::What::foreignKey;
+        else if (entry.isElement && seen.contains(entry.name))
+            note.what = ReadNote::What::doubledElement;
+        else {
+            if (entry.isElement)
+                seen << entry.name;
+            continue;
+        }
+        notes->push_back(note);
+    }
+}
+
+} // namespace
+
+void Configuration::readPart(const Part& part, const CXmlSection& root, std::vector<ReadNote>* notes)
+{
+    const TableLayout& layout = *part.layout;
+    const CXmlSectionPtr section = root.child(layout.section);
+    if (!section)
+        return;
+    QStringList elements;
+    for (const TableLayout::Group& group : layout.groups)
+        elements << group.path.first();
+    noteStrangers(*section, layout.section, {QStringLiteral("page")}, elements, notes);
+
+    // What lives in the window alone is not in the file: it starts anew, and links and rules fill it.
+    for (std::size_t row = 0; row < layout.rows.size(); ++row) {
+        const Setting& setting = *layout.rows[row].setting;
+        const int index = part.first + static_cast<int>(row);
+        if (!setting.stored)
+            values_[index] = normalise(setting, loadDefault(setting), values_[index], limits(index)).value;
+    }
+    std::vector<std::pair<int, CXmlSectionPtr>> late;
+    for (const TableLayout::Group& group : layout.groups) {
+        if (!holds(part, group.present))
+            continue;
+        const CXmlSectionPtr element = elementOf(*section, group.path);
+        QStringList keys;
+        for (int row = group.firstRow; row < group.endRow; ++row) {
+            keys << layout.rows[row].key;
+            if (layout.rows[row].setting->last)
+                late.emplace_back(row, elementOf(*section, group.path));
+            else
+                readRow(part, row, *element, notes);
+        }
+        QStringList inside;
+        for (const TableLayout::Group& other : layout.groups) {
+            if (other.path.size() == group.path.size() + 1 &&
+                other.path.mid(0, group.path.size()) == group.path)
+                inside << other.path.last();
+        }
+        noteStrangers(*element, layout.section + QLatin1Char('/') + group.path.join(QLatin1Char('/')), keys,
+                      inside, notes);
+    }
+    for (const auto& [row, element] : late)
+        readRow(part, row, *element, notes);
+    derive(part);
+    std::vector<int> bound;
+    keepBounds(part, &bound);
+    for (const int index : bound)
+        notes->push_back({ReadNote::What::value, path(index), index, {}, values_[index], Change::byRule});
+}
+
+void Configuration::readRow(const Part& part, int row, const CXmlSection& element,
+                            std::vector<ReadNote>* notes)
+{
+    const TableLayout::Row& place = part.layout->rows[row];
+    const Setting& setting = *place.setting;
+    if (!setting.stored || setting.kind == Kind::constant || !holds(part, place.present))
+        return;
+    const QString* found = element.find(place.key);
+    const QString missing = found ? QString() : loadDefault(setting);
+    const QString& text = found ? *found : missing;
+
+    // A link gives its value to another row, which says what the value can be.
+    const Setting& holder = *part.layout->rows[place.target].setting;
+    const int index = part.first + place.target;
+    Normalised taken = normalise(holder, text, values_[index], limits(index));
+    if (setting.boundOnRead && !holds(part, place.free)) {
+        const QString bound = QString::fromLatin1(setting.otherwise);
+        taken = {bound, bound == text ? Change::none : Change::byRule};
+    }
+    assign(part, place.target, taken.value, nullptr);
+    if (!found)
+        notes->push_back(
+            {ReadNote::What::value, place.path, part.first + row, {}, values_[index], Change::missing});
+    else if (taken.change != Change::none)
+        notes->push_back(
+            {ReadNote::What::value, place.path, part.first + row, text, values_[index], taken.change});
+    pull(part, place.target, true, nullptr);
+}
+
+void Configuration::write(CXmlSection& root) const
+{
+    for (const Part& part : parts_)
+        writePart(part, root);
+}
+
+void Configuration::write(CXmlSection& root, const SettingsTable& table) const
+{
+    writePart(partOf(table), root);
+}
+
+void Configuration::writePart(const Part& part, CXmlSection& root) const
+{
+    const TableLayout& layout = *part.layout;
+    const CXmlSectionPtr section = root.child(layout.section);
+    if (!section)
+        return;
+    if (layout.table->emptied)
+        section->clear();
+    section->setString(QStringLiteral("page"), layout.section);
+    section->commit();
+    for (const TableLayout::Group& group : layout.groups) {
+        if (!holds(part, group.present))
+            continue;
+        CXmlSectionPtr parent;
+        for (int depth = 0; depth + 1 < group.path.size(); ++depth)
+            parent = (parent ? *parent : *section).child(group.path[depth]);
+        const CXmlSectionPtr element =
+            (parent ? *parent : *section).child(group.path.last(), group.kept || group.nested ? 0 : 3);
+        if (!group.kept)
+            element->clear();
+        for (int row = group.firstRow; row < group.endRow; ++row) {
+            const int index = part.first + row;
+            if (isWritten(index))
+                element->setString(layout.rows[row].key, written(index));
+        }
+        element->commit();
+    }
+}
+
+} // namespace vlk

@@ -1,0 +1,157 @@
+// What settings do to each other: on edits, on reads, and at any time.
+
+#include "settings/configuration.h"
+
+#include <algorithm>
+
+namespace vlk {
+
+std::vector<int> Configuration::edit(int index, const QString& text)
+{
+    std::vector<int> changed;
+    const Part& part = partOf(index);
+    change(part, part.layout->rows[index - part.first].target, text, &changed);
+    keepBounds(part, &changed);
+    return changed;
+}
+
+void Configuration::change(const Part& part, int row, const QString& text, std::vector<int>* changed)
+{
+    const int index = part.first + row;
+    const Setting& setting = *part.layout->rows[row].setting;
+    // A list without a current item is nothing that a file could ask for.
+    const bool noItem = setting.none && text == QLatin1String(setting.none);
+    const QString value = noItem ? text : normalise(setting, text, values_[index], limits(index)).value;
+    if (value == values_[index] || std::find(editing_.begin(), editing_.end(), index) != editing_.end())
+        return;
+    editing_.push_back(index);
+    assign(part, row, value, changed);
+    // Another range may hold now.
+    for (const TableLayout::RangeWhen& rule : part.layout->ranges) {
+        if (rule.when.row != row)
+            continue;
+        const int ranged = part.first + rule.row;
+        const Setting& limited = *part.layout->rows[rule.row].setting;
+        put(ranged, normalise(limited, values_[ranged], values_[ranged], limits(ranged)).value, changed);
+    }
+    pull(part, row, false, changed);
+    for (const TableLayout::Presets& presets : part.layout->presets) {
+        if (presets.trigger != row)
+            continue;
+        for (const PresetRow& ready : presets.rule->rows) {
+            for (std::size_t field = 0; value == QLatin1String(ready.code) && field < presets.fields.size();
+                 ++field) {
+                if (ready.values[field])
+                    change(part, presets.fields[field], QString::fromUtf8(ready.values[field]), changed);
+            }
+        }
+    }
+    editing_.pop_back();
+}
+
+void Configuration::pull(const Part& part, int row, bool onRead, std::vector<int>* changed)
+{
+    std::vector<int> local;
+    for (const TableLayout::Pull& rule : part.layout->pulls) {
+        if (rule.when.row == row && (rule.onRead || !onRead) && holds(part, rule.when))
+            change(part, rule.set, rule.to, changed ? changed : &local);
+    }
+}
+
+void Configuration::put(int index, const QString& value, std::vector<int>* changed)
+{
+    if (values_[index] == value)
+        return;
+    values_[index] = value;
+    if (changed && std::find(changed->begin(), changed->end(), index) == changed->end())
+        changed->push_back(index);
+}
+
+// Sets a value, and moves what has to keep its distance from it.
+void Configuration::assign(const Part& part, int row, const QString& value, std::vector<int>* changed)
+{
+    put(part.first + row, value, changed);
+    keepDistances(part, row, changed);
+}
+
+void Configuration::keepDistances(const Part& part, int row, std::vector<int>* changed)
+{
+    for (const TableLayout::Distance& rule : part.layout->distances) {
+        if (row != rule.first && row != rule.second && row != rule.gapFrom)
+            continue;
+        const Setting& low = *part.layout->rows[rule.first].setting;
+        const Setting& high = *part.layout->rows[rule.second].setting;
+        const int lowIndex = part.first + rule.first;
+        const int highIndex = part.first + rule.second;
+        double first = shownNumber(low, values_[lowIndex]);
+        double second = shownNumber(high, values_[highIndex]);
+        const double gap = rule.gap + (rule.gapFrom >= 0 ? values_[part.first + rule.gapFrom].toDouble() : 0);
+        const double tiny = 1e-9;
+        if (row == rule.first) {
+            first = std::min(first, high.most - gap);
+            second = std::max(second, first + gap);
+        } else if (row == rule.second) {
+            second = std::max(second, low.least + gap);
+            first = std::min(first, second - gap);
+        } else if (second - first < gap - tiny) {
+            if (first - gap >= low.least)
+                first = second - gap;
+            else
+                second = first + gap;
+        }
+        put(lowIndex, fileNumber(low, first), changed);
+        put(highIndex, fileNumber(high, second), changed);
+    }
+}
+
+void Configuration::keepBounds(const Part& part, std::vector<int>* changed)
+{
+    for (const TableLayout::Bound& rule : part.layout->bounds) {
+        if (!holds(part, rule.when))
+            continue;
+        const int index = part.first + rule.row;
+        QString held = rule.to;
+        if (part.layout->rows[rule.row].setting->kind == Kind::digits) {
+            for (int i = 0; i < held.size() && i < values_[index].size(); ++i) {
+                if (held[i] == QLatin1Char('*'))
+                    held[i] = values_[index][i];
+            }
+        }
+        put(index, held, changed);
+    }
+}
+
+double Configuration::gapOf(const SettingsTable& table, const TableLayout::Distance& rule) const
+{
+    return gapOf(partOf(table), rule);
+}
+
+double Configuration::gapOf(const Part& part, const TableLayout::Distance& rule) const
+{
+    return rule.gap + (rule.gapFrom >= 0 ? values_[part.first + rule.gapFrom].toDouble() : 0);
+}
+
+// Settings that the file has no key for, from those that it has.
+void Configuration::derive(const Part& part)
+{
+    for (const TableLayout::Derived& rule : part.layout->derived)
+        values_[part.first + rule.row] =
+            values_[part.first + rule.from] == rule.off ? QStringLiteral("0") : QStringLiteral("1");
+    for (const TableLayout::Presets& presets : part.layout->presets) {
+        if (!presets.rule->other)
+            continue;
+        const auto agrees = [&](const PresetRow& row) {
+            for (std::size_t field = 0; field < presets.fields.size(); ++field) {
+                const char* value = row.values[field];
+                if (value && values_[part.first + presets.fields[field]] != QLatin1String(value))
+                    return false;
+            }
+            return true;
+        };
+        const auto found = std::find_if(presets.rule->rows.begin(), presets.rule->rows.end(), agrees);
+        values_[part.first + presets.trigger] =
+            QString::fromLatin1(found == presets.rule->rows.end() ? presets.rule->other : found->code);
+    }
+}
+
+} // namespace vlk

@@ -1,0 +1,239 @@
+#include "settings/normalise.h"
+
+#include "base/number_text.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+#include <string_view>
+
+namespace vlk {
+
+namespace {
+
+bool isWholeNumber(const QString& text)
+{
+    bool whole = false;
+    text.trimmed().toLongLong(&whole);
+    return whole;
+}
+
+double rounded(double number, int decimals)
+{
+    return QString::number(number, 'f', decimals).toDouble();
+}
+
+// Cut towards zero. A figure such as 2.01 lies below its decimal form in binary: without the small addition
+// the cut would lose one.
+qint64 cut(double number)
+{
+    return static_cast<qint64>(number + std::copysign(1e-6, number));
+}
+
+// Number that a string has at a position: the one digit, or 0.
+int digitAt(const QString& text, std::size_t position)
+{
+    const int index = static_cast<int>(position);
+    return index < text.size() ? std::max(0, text[index].digitValue()) : 0;
+}
+
+Normalised noted(QString value, const QString& text, Change change)
+{
+    if (value == text)
+        return {value, Change::none};
+    return {value, change};
+}
+
+Normalised number(const Setting& setting, const QString& text, Limits limits)
+{
+    double shown = 0;
+    bool clean = false;
+    if (setting.kind == Kind::real) {
+        const double read = leadingDouble(text);
+        shown = rounded(setting.singleRead ? static_cast<float>(read) : read, setting.decimals);
+        clean = std::isfinite(text.toDouble(&clean)) && clean;
+    } else {
+        const int read = leadingInt(text);
+        clean = isWholeNumber(text);
+        if (setting.zeroIsOff && read <= 0)
+            return noted(QStringLiteral("0"), text, clean ? Change::outOfRange : Change::notANumber);
+        shown = setting.kind == Kind::scaled
+                    ? rounded(static_cast<double>(read) / setting.factor, setting.decimals)
+                    : read / setting.factor;
+    }
+    const double held = std::clamp(shown, limits.least, limits.most);
+    const Change why = !clean ? Change::notANumber : held != shown ? Change::outOfRange : Change::rounded;
+    return noted(fileNumber(setting, held), text, why);
+}
+
+bool fits(const char* pattern, const QString& text)
+{
+    const std::string_view positions(pattern);
+    for (std::size_t i = 0; i < positions.size(); ++i) {
+        if (positions[i] != '*' && (positions[i] == '1') != (digitAt(text, i) != 0))
+            return false;
+    }
+    return true;
+}
+
+const Code* find(const Setting& setting, const QString& text)
+{
+    const auto is = [&](const Code& code) {
+        if (code.pattern)
+            return fits(code.pattern, text);
+        return setting.numeric ? QLatin1String(code.code) == QString::number(leadingInt(text))
+                               : QLatin1String(code.code) == text;
+    };
+    const auto found = std::find_if(setting.codes.begin(), setting.codes.end(), is);
+    if (found == setting.codes.end() || !found->means)
+        return found == setting.codes.end() ? nullptr : &*found;
+    return find(setting, QString::fromLatin1(found->means));
+}
+
+Normalised chosen(const Setting& setting, const QString& text, const QString& before)
+{
+    const Code* code = find(setting, text);
+    if (!code)
+        return noted(setting.fallback ? QString::fromLatin1(setting.fallback) : before, text,
+                     Change::unknownCode);
+    if (!offersCode(setting, *code))
+        return noted(setting.none ? QString::fromLatin1(setting.none) : before, text, Change::notOffered);
+    return noted(QString::fromLatin1(code->code), text, Change::otherForm);
+}
+
+Normalised spread(const Setting& setting, const QString& text)
+{
+    const int read = leadingInt(text);
+    int rest = read;
+    if (setting.wrap > 0)
+        rest = ((rest % setting.wrap) + setting.wrap) % setting.wrap;
+    qint64 held = 0;
+    for (const PeriodPart& part : setting.parts) {
+        held += static_cast<qint64>(std::clamp(rest / part.seconds, part.least, part.most)) * part.seconds;
+        rest %= part.seconds;
+    }
+    held = std::max(held, static_cast<qint64>(setting.least));
+    const Change why = !isWholeNumber(text)                                   ? Change::notANumber
+                       : std::abs(held - read) < setting.parts.back().seconds ? Change::rounded
+                                                                              : Change::outOfRange;
+    return noted(QString::number(held), text, why);
+}
+
+Normalised digitString(const Setting& setting, const QString& text)
+{
+    QString held;
+    for (std::size_t i = 0; i < setting.positions.size(); ++i) {
+        const Position& position = setting.positions[i];
+        const int digit = position.widget ? digitAt(text, i) : 0;
+        // A box is checked by any digit; a list has an item for each digit, and no other one counts.
+        const int taken = position.top == 1 ? std::min(digit, 1) : digit > position.top ? 0 : digit;
+        held += QLatin1Char(static_cast<char>('0' + taken));
+    }
+    return noted(held, text, Change::otherForm);
+}
+
+Normalised bitNumber(const Setting& setting, const QString& text)
+{
+    unsigned known = 0;
+    for (std::size_t i = 0; i < setting.positions.size(); ++i) {
+        if (setting.positions[i].widget)
+            known |= 1U << i;
+    }
+    const unsigned held = static_cast<unsigned>(leadingInt(text)) & known;
+    return noted(QString::number(held), text, isWholeNumber(text) ? Change::outOfRange : Change::notANumber);
+}
+
+Normalised maskString(const Setting& setting, const QString& text)
+{
+    QString held(setting.maxLength, QLatin1Char('0'));
+    for (int i = 0; i < setting.maxLength; ++i) {
+        if (digitAt(text, static_cast<std::size_t>(i)) != 0)
+            held[i] = QLatin1Char('1');
+    }
+    return noted(held, text, text.size() > setting.maxLength ? Change::tooLong : Change::otherForm);
+}
+
+QString defaultText(const Setting& setting, double number, const DefaultText& text)
+{
+    if (!text.format)
+        return QString::number(number, 'f', setting.kind == Kind::real ? setting.decimals : 0);
+    const QString format = QString::fromUtf8(text.format);
+    return text.key ? format.arg(QCoreApplication::translate("vlk", text.key)) : format;
+}
+
+} // namespace
+
+bool offersCode(const Setting& setting, const Code& code)
+{
+    if (!setting.offers)
+        return code.offered && !code.means;
+    const QString list = QLatin1Char('|') + QLatin1String(setting.offers) + QLatin1Char('|');
+    return list.contains(QLatin1Char('|') + QLatin1String(code.code) + QLatin1Char('|'));
+}
+
+double shownNumber(const Setting& setting, const QString& value)
+{
+    if (setting.kind == Kind::real)
+        return value.toDouble();
+    return static_cast<double>(value.toLongLong()) / setting.factor;
+}
+
+QString fileNumber(const Setting& setting, double shown)
+{
+    if (setting.kind == Kind::real)
+        return QString::number(shown, 'f', setting.decimals);
+    return QString::number(cut(rounded(shown, setting.decimals) * setting.factor));
+}
+
+Normalised normalise(const Setting& setting, const QString& text, const QString& before, Limits limits)
+{
+    switch (setting.kind) {
+    case Kind::group:
+    case Kind::link:
+        return {before, Change::none};
+    case Kind::constant:
+        return {QString::fromLatin1(setting.loadText.format), Change::none};
+    case Kind::flag: {
+        const int read = leadingInt(text);
+        const bool on = setting.on == 1 ? read != 0 : read == setting.on;
+        return noted(QString::number(on ? setting.on : 0), text,
+                     isWholeNumber(text) ? Change::otherForm : Change::notANumber);
+    }
+    case Kind::integer:
+    case Kind::real:
+    case Kind::scaled:
+        if (setting.blankIsZero && text.isEmpty())
+            return {text, Change::none};
+        return number(setting, text, limits);
+    case Kind::text:
+        return setting.maxLength > 0 && text.size() > setting.maxLength
+                   ? Normalised{text.left(setting.maxLength), Change::tooLong}
+                   : Normalised{text, Change::none};
+    case Kind::choice:
+        return chosen(setting, text, before);
+    case Kind::period:
+        return spread(setting, text);
+    case Kind::digits:
+        return digitString(setting, text);
+    case Kind::bits:
+        return bitNumber(setting, text);
+    case Kind::mask:
+        return maskString(setting, text);
+    }
+    return {before, Change::none};
+}
+
+QString loadDefault(const Setting& setting)
+{
+    return defaultText(setting, setting.loadNumber, setting.loadText);
+}
+
+QString resetValue(const Setting& setting)
+{
+    return setting.resets == Setting::Reset::toOwn
+               ? defaultText(setting, setting.resetNumber, setting.resetText)
+               : loadDefault(setting);
+}
+
+} // namespace vlk

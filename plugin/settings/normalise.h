@@ -1,0 +1,53 @@
+#pragma once
+
+// What a window would make of a text from a configuration file: limited to the range, rounded, cut, or
+// replaced where the text is none of the known codes. The result is again a text of the file.
+
+#include "settings/setting.h"
+
+#include <QString>
+
+namespace vlk {
+
+// Why a value differs from what the file holds.
+enum class Change {
+    none,
+    missing,     // the key is not there, the load default counts
+    notANumber,  // read as far as it is a number
+    outOfRange,  // limited
+    rounded,     // to what the widget can show
+    tooLong,     // cut
+    unknownCode, // replaced, or the value before stays
+    notOffered,  // known, but this tracker's list lacks it
+    otherForm,   // the same value, spelled otherwise
+    byRule,      // another setting forbids it
+};
+
+// In units of the widget.
+struct Limits
+{
+    double least;
+    double most;
+};
+
+struct Normalised
+{
+    QString value;
+    Change change = Change::none;
+};
+
+// `before` is what stays where the text leaves the value alone.
+Normalised normalise(const Setting& setting, const QString& text, const QString& before, Limits limits);
+
+// Texts of the two defaults in the present language, as a file would hold them.
+QString loadDefault(const Setting& setting);
+QString resetValue(const Setting& setting);
+
+// A number of the file in units of the widget, and back: rounded to the widget's decimals, not limited.
+double shownNumber(const Setting& setting, const QString& value);
+QString fileNumber(const Setting& setting, double shown);
+
+// Whether the list of a choice has the code.
+bool offersCode(const Setting& setting, const Code& code);
+
+} // namespace vlk

@@ -1,0 +1,117 @@
+#pragma once
+
+// What settings do to each other, as data. Paths are those below the section ("POINTS/angle"); the names of
+// repeated rules may hold %1 as those of settings do.
+
+#include "settings/setting.h"
+
+#include <array>
+#include <cstdint>
+#include <span>
+
+namespace vlk {
+
+// An edit that makes `when` hold sets another setting. `onRead`: a read does so too, as soon as it has read
+// the path of `when`.
+struct Pull
+{
+    When when;
+    const char* set = "";
+    const char* to = "";
+    bool onRead = false;
+    std::uint8_t number = 0;
+    std::uint8_t inner = 0;
+};
+
+// A value that the file cannot hold while `when` does: it is `to` at any time.
+struct Bound
+{
+    When when;
+    const char* path = "";
+    const char* to = ""; // '*' in a string of digits leaves its position alone
+    std::uint8_t number = 0;
+    std::uint8_t inner = 0;
+};
+
+// Two values of which the second is at least `gap` (in units of the widget), plus the value at `gapFrom`,
+// above the first. The one that is set last pushes the other one away, as far as the ranges go.
+struct Distance
+{
+    const char* first = "";
+    const char* second = "";
+    double gap = 0;
+    const char* gapFrom = nullptr;
+    const char* slider = nullptr; // widget with two handles that shows both
+    std::uint8_t number = 0;
+    std::uint8_t inner = 0;
+};
+
+// Another range and unit while `when` holds; the last rule that holds counts.
+struct RangeWhen
+{
+    When when;
+    const char* path = "";
+    double least = 0;
+    double most = 0;
+    const char* unit = nullptr;
+    std::uint8_t number = 0;
+    std::uint8_t inner = 0;
+};
+
+// Ready values of several settings. An edit of `trigger` to the code of a row sets its fields; a null value
+// leaves its field alone. After a read, `trigger` becomes the first row that agrees in all fields, or
+// `other`; without `other` a read leaves it alone.
+struct PresetRow
+{
+    const char* code;
+    std::array<const char*, 8> values{};
+};
+
+struct Presets
+{
+    const char* trigger = "";
+    std::array<const char*, 8> fields{};
+    std::span<const PresetRow> rows{};
+    const char* other = nullptr;
+};
+
+// A setting that lives in the window alone and is found at a read: on unless the text at `from` is `off`.
+struct Derived
+{
+    const char* path = "";
+    const char* from = "";
+    const char* off = "";
+    std::uint8_t number = 0;
+    std::uint8_t inner = 0;
+};
+
+// Widgets that are enabled, or on show, while the conditions hold: all of them, or `any`.
+struct Enable
+{
+    enum class Effect : std::uint8_t { enabled, shown };
+
+    const char* targets = ""; // object names with blanks between them
+    std::array<When, 4> when{};
+    bool any = false;
+    Effect effect = Effect::enabled;
+    std::uint8_t number = 0;
+    std::uint8_t inner = 0;
+};
+
+constexpr Enable enable(const char* targets, When first, When second = {}, When third = {}, When fourth = {})
+{
+    return {.targets = targets, .when = {first, second, third, fourth}};
+}
+
+constexpr Enable enableAny(const char* targets, When first, When second = {}, When third = {},
+                           When fourth = {})
+{
+    return {.targets = targets, .when = {first, second, third, fourth}, .any = true};
+}
+
+constexpr Enable show(const char* targets, When first, When second = {})
+{
+    return {.targets = targets, .when = {first, second}, .effect = Enable::Effect::shown};
+}
+
+} // namespace vlk

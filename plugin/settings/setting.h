@@ -1,0 +1,309 @@
+#pragma once
+
+// One setting of the tracker as data: where its value stands in the configuration file, what kind of value it
+// is, which values it can hold, what it is worth when the file lacks it, what a new configuration holds, and
+// which widget shows it. Rows stand in one table a page (settings_table.h); Configuration (configuration.h)
+// gives them values.
+//
+//     constexpr auto kRows = rowsOf(
+//         group("POINTS"),
+//         flag("useMaxSpeed", 0).in("Always_checkBox_MaxSpeed"),
+//         integer("maxSpeed", 100).range(1, 180).unit("abbr_024").in("Always_spinBox_MaxSpeed_Value"));
+//
+// A value is always the text that the file holds: "100", "2.5", "NB+". Ranges are in units of the widget;
+// `factor` says what one of them is in the file. Captions, units and labels are translation keys.
+//
+// In a repeated row (repeat() in settings_table.h) every name may hold %1, the number of the repetition, and
+// %2, the number of a repetition inside it.
+
+#include <cstdint>
+#include <limits>
+#include <span>
+
+namespace vlk {
+
+enum class Kind : std::uint8_t {
+    group,    // not a value: the element that the rows behind it stand in
+    constant, // always the same text, read and ignored, no widget
+    link,     // a key whose value is that of another row: several elements keep one value
+    flag,     // 0 or 1, or 0 and `on`
+    integer,  // a whole number, in the file times `factor`
+    real,     // a text with `decimals` digits behind the point
+    scaled,   // in the widget a number with `decimals`, in the file a whole number, `factor` times as much
+    text,
+    choice, // one of `codes`
+    period, // seconds over several boxes, `parts`
+    digits, // a string with a digit a position, `positions`
+    bits,   // a number with a bit a position, `positions`
+    mask,   // a long string of 0 and 1
+};
+
+// Holds while the value at `path` is one of `codes` ("NS+|NB+"), or not 0 and not empty where `codes` is
+// empty. Without a path it always holds.
+struct When
+{
+    const char* path = nullptr;
+    const char* codes = "";
+    bool negated = false;
+};
+
+constexpr When when(const char* path, const char* codes = "")
+{
+    return {path, codes, false};
+}
+
+constexpr When unless(const char* path, const char* codes = "")
+{
+    return {path, codes, true};
+}
+
+// A text of the file or one that follows the language: `format` with the translation of `key` for its %1.
+// Null where the default is a number.
+struct DefaultText
+{
+    const char* format = nullptr;
+    const char* key = nullptr;
+};
+
+// One value of a choice.
+struct Code
+{
+    const char* code;       // what the file holds
+    const char* label = ""; // text or translation key
+    const char* format = "%1";
+    const char* widget = nullptr; // of a choice over several boxes: the one of this value
+    // How the file may spell it: '1' a digit other than 0, '0' anything else, '*' whatever.
+    const char* pattern = nullptr;
+    const char* means = nullptr; // an older spelling of that code
+    bool offered = true;         // false: known in files, but not in the list
+};
+
+// One box of a period, from the largest unit down.
+struct PeriodPart
+{
+    const char* widget;
+    int seconds; // of one unit
+    int least;
+    int most;
+    const char* unit;
+};
+
+// One position of a string of digits or of a bit mask. Without a widget it is always 0.
+struct Position
+{
+    const char* widget = nullptr;
+    const char* caption = "";
+    int top = 1; // largest digit
+};
+
+struct Setting
+{
+    enum class Reset : std::uint8_t { toLoadDefault, toOwn, keeps };
+
+    Kind kind = Kind::text;
+    const char* key = "";         // of a group its path below the section
+    const char* name = nullptr;   // in the path, where the key stands twice in one element; null: the key
+    bool stored = true;           // false: lives in the window alone, the file has no such key
+    const char* target = nullptr; // of a link: path of the row that holds the value
+
+    double loadNumber = 0; // default of a number
+    DefaultText loadText{};
+    Reset resets = Reset::toLoadDefault;
+    double resetNumber = 0;
+    DefaultText resetText{};
+
+    double least = std::numeric_limits<std::int32_t>::min();
+    double most = std::numeric_limits<std::int32_t>::max();
+    double step = 0; // of the widget; 0: as the form says
+    std::uint8_t decimals = 0;
+    std::int32_t factor = 1;
+    bool zeroIsOff = false;   // 0 for off, or a number of the range
+    double switchedOnAt = -1; // number that switching on brings; -1: the one that was there before
+    bool blankIsZero = false; // an empty value stays empty on show and is 0 in the file
+    bool singleRead = false;  // read in single precision
+    std::int32_t on = 1;      // of a flag; other than 1: only this value is on
+    bool inverted = false;    // of a flag: the box is checked for 0
+    std::int32_t wrap = 0;    // of a period: what is beyond so many seconds is dropped
+    std::span<const Code> codes{};
+    const char* offers = nullptr;   // codes of the list, "NU|NS+"; null: those with `offered`
+    const char* fallback = nullptr; // what an unknown code stands for; null: the value stays
+    const char* none = nullptr;     // saved for a code that is known and not offered; null: the value stays
+    bool numeric = false;           // codes are compared as numbers
+    std::span<const PeriodPart> parts{};
+    std::span<const Position> positions{};
+    int maxLength = 0;               // characters; 0: no limit
+    const char* pattern = nullptr;   // what can be typed
+    const char* inputMask = nullptr; // form of the text, for line edits with a mask
+
+    const char* unitKey = nullptr;
+    const char* captionKey = nullptr;
+    const char* widget = nullptr;
+    const char* companion = nullptr; // check box or slider beside the widget
+    int column = 0;                  // the widget is a tree; the cell of this column in the row of the number
+
+    When present{}; // else the key is neither read nor written
+    When free{};    // else `otherwise` is written
+    const char* otherwise = "";
+    bool boundOnRead = false; // and is what a read gives
+
+    bool last = false; // read after all others
+    bool kept = false; // of a group: an element that is there keeps what else it holds
+
+    std::uint8_t number = 0;
+    std::uint8_t inner = 0;
+
+    template <class Field, class Value>
+    constexpr Setting having(Field Setting::*field, Value value) const
+    {
+        Setting changed = *this;
+        changed.*field = value;
+        return changed;
+    }
+
+    // What follows describes a row; each gives the row back.
+    constexpr Setting in(const char* name) const { return having(&Setting::widget, name); }
+    constexpr Setting beside(const char* name) const { return having(&Setting::companion, name); }
+    constexpr Setting caption(const char* text) const { return having(&Setting::captionKey, text); }
+    constexpr Setting unit(const char* text) const { return having(&Setting::unitKey, text); }
+    constexpr Setting range(double from, double to) const
+    {
+        return having(&Setting::least, from).having(&Setting::most, to);
+    }
+    constexpr Setting stepping(double width) const { return having(&Setting::step, width); }
+    constexpr Setting resetTo(double value) const
+    {
+        return having(&Setting::resets, Reset::toOwn).having(&Setting::resetNumber, value);
+    }
+    constexpr Setting resetTo(const char* text) const
+    {
+        return having(&Setting::resets, Reset::toOwn).having(&Setting::resetText, DefaultText{text});
+    }
+    constexpr Setting keepOnReset() const { return having(&Setting::resets, Reset::keeps); }
+    constexpr Setting offAtZero(const char* checkBox) const
+    {
+        return having(&Setting::zeroIsOff, true).having(&Setting::companion, checkBox);
+    }
+    constexpr Setting switchedOnTo(double value) const { return having(&Setting::switchedOnAt, value); }
+    constexpr Setting blankable() const { return having(&Setting::blankIsZero, true); }
+    constexpr Setting checkedForZero() const { return having(&Setting::inverted, true); }
+    constexpr Setting inCell(const char* tree, int number) const
+    {
+        return in(tree).having(&Setting::column, number);
+    }
+    constexpr Setting unknownIs(const char* code) const { return having(&Setting::fallback, code); }
+    constexpr Setting noItemIs(const char* code) const { return having(&Setting::none, code); }
+    constexpr Setting offering(const char* list) const { return having(&Setting::offers, list); }
+    constexpr Setting byNumber() const { return having(&Setting::numeric, true); }
+    constexpr Setting onValue(std::int32_t value) const { return having(&Setting::on, value); }
+    constexpr Setting readSingle() const { return having(&Setting::singleRead, true); }
+    constexpr Setting wrapping(std::int32_t seconds) const { return having(&Setting::wrap, seconds); }
+    constexpr Setting atLeast(double seconds) const { return having(&Setting::least, seconds); }
+    constexpr Setting upTo(int characters) const { return having(&Setting::maxLength, characters); }
+    constexpr Setting typed(const char* expression) const { return having(&Setting::pattern, expression); }
+    constexpr Setting masked(const char* mask) const { return having(&Setting::inputMask, mask); }
+    constexpr Setting readLast() const { return having(&Setting::last, true); }
+    constexpr Setting keeping() const { return having(&Setting::kept, true); }
+    constexpr Setting onlyWhen(When condition) const { return having(&Setting::present, condition); }
+    // Saved as `text` unless the condition holds; `bound`: and read as that.
+    constexpr Setting savedAs(const char* text, When condition, bool bound = false) const
+    {
+        return having(&Setting::otherwise, text)
+            .having(&Setting::free, condition)
+            .having(&Setting::boundOnRead, bound);
+    }
+    constexpr Setting named(const char* pathName) const { return having(&Setting::name, pathName); }
+    // Lives in the window alone.
+    constexpr Setting notStored() const { return having(&Setting::stored, false); }
+};
+
+constexpr Setting group(const char* path)
+{
+    return {.kind = Kind::group, .key = path};
+}
+
+constexpr Setting constant(const char* key, const char* text)
+{
+    return {.kind = Kind::constant, .key = key, .loadText = {text}};
+}
+
+// The value of `target` under another key; a missing one is worth `loadDefault`.
+constexpr Setting link(const char* key, const char* target, double loadDefault)
+{
+    return {.kind = Kind::link, .key = key, .target = target, .loadNumber = loadDefault};
+}
+
+constexpr Setting flag(const char* key, int loadDefault)
+{
+    return {.kind = Kind::flag, .key = key, .loadNumber = static_cast<double>(loadDefault)};
+}
+
+constexpr Setting integer(const char* key, int loadDefault, std::int32_t factor = 1)
+{
+    return {
+        .kind = Kind::integer, .key = key, .loadNumber = static_cast<double>(loadDefault), .factor = factor};
+}
+
+constexpr Setting real(const char* key, double loadDefault, std::uint8_t decimals)
+{
+    return {.kind = Kind::real, .key = key, .loadNumber = loadDefault, .decimals = decimals};
+}
+
+// `loadDefault` is what the file holds.
+constexpr Setting scaled(const char* key, int loadDefault, std::int32_t factor, std::uint8_t decimals)
+{
+    return {.kind = Kind::scaled,
+            .key = key,
+            .loadNumber = static_cast<double>(loadDefault),
+            .decimals = decimals,
+            .factor = factor};
+}
+
+// Whole millivolts in the file, volts in the widget.
+constexpr Setting volts(const char* key, int loadDefault)
+{
+    return scaled(key, loadDefault, 1000, 2).stepping(0.01).unit("abbr_011");
+}
+
+constexpr Setting text(const char* key, DefaultText loadDefault)
+{
+    return {.kind = Kind::text, .key = key, .loadText = loadDefault};
+}
+
+constexpr Setting text(const char* key, const char* loadDefault)
+{
+    return text(key, DefaultText{loadDefault});
+}
+
+constexpr Setting choice(const char* key, std::span<const Code> codes, const char* loadDefault)
+{
+    return {.kind = Kind::choice, .key = key, .loadText = {loadDefault}, .codes = codes};
+}
+
+constexpr Setting period(const char* key, int loadDefault, std::span<const PeriodPart> parts)
+{
+    return {.kind = Kind::period,
+            .key = key,
+            .loadNumber = static_cast<double>(loadDefault),
+            .least = 0,
+            .parts = parts};
+}
+
+constexpr Setting digits(const char* key, const char* loadDefault, std::span<const Position> positions)
+{
+    return {.kind = Kind::digits, .key = key, .loadText = {loadDefault}, .positions = positions};
+}
+
+constexpr Setting bits(const char* key, int loadDefault, std::span<const Position> positions)
+{
+    return {.kind = Kind::bits,
+            .key = key,
+            .loadNumber = static_cast<double>(loadDefault),
+            .positions = positions};
+}
+
+constexpr Setting mask(const char* key, const char* loadDefault, int length)
+{
+    return {.kind = Kind::mask, .key = key, .loadText = {loadDefault}, .maxLength = length};
+}
+
+} // namespace vlk

@@ -1,0 +1,168 @@
+#include "settings/table_layout.h"
+
+#include <map>
+#include <memory>
+
+namespace vlk {
+
+namespace {
+
+class LayoutMaker
+{
+public:
+    explicit LayoutMaker(const SettingsTable& table)
+    {
+        layout_.table = &table;
+        layout_.section = QString::fromLatin1(table.section);
+    }
+
+    TableLayout make()
+    {
+        addRows();
+        joinRows();
+        addRules();
+        return std::move(layout_);
+    }
+
+private:
+    void addRows()
+    {
+        for (const Setting& setting : layout_.table->rows) {
+            if (setting.kind == Kind::group) {
+                TableLayout::Group group;
+                group.path = numberedName(setting.key, setting.number, setting.inner).split(QLatin1Char('/'));
+                group.kept = setting.kept;
+                group.firstRow = group.endRow = static_cast<int>(layout_.rows.size());
+                layout_.groups.push_back(group);
+                groupSettings_.push_back(&setting);
+                continue;
+            }
+            TableLayout::Row row;
+            row.setting = &setting;
+            row.key = numberedName(setting.key, setting.number, setting.inner);
+            row.group = static_cast<int>(layout_.groups.size()) - 1;
+            row.target = static_cast<int>(layout_.rows.size());
+            QString below =
+                setting.name ? numberedName(setting.name, setting.number, setting.inner) : row.key;
+            if (row.group >= 0) {
+                TableLayout::Group& group = layout_.groups.back();
+                below = group.path.join(QLatin1Char('/')) + QLatin1Char('/') + below;
+                ++group.endRow;
+            }
+            row.path = layout_.section + QLatin1Char('/') + below;
+            if (layout_.byPath.contains(below))
+                layout_.problems << row.path + QStringLiteral(" stands twice");
+            layout_.byPath.insert(below, row.target);
+            layout_.rows.push_back(row);
+        }
+    }
+
+    // Conditions and links name rows that may come later.
+    void joinRows()
+    {
+        for (TableLayout::Row& row : layout_.rows) {
+            const Setting& setting = *row.setting;
+            row.present = condition(setting.present, setting.number, setting.inner);
+            row.free = condition(setting.free, setting.number, setting.inner);
+            if (setting.kind == Kind::link)
+                row.target = rowAt(setting.target, setting.number, setting.inner);
+        }
+        for (std::size_t i = 0; i < layout_.groups.size(); ++i) {
+            TableLayout::Group& group = layout_.groups[i];
+            const Setting& setting = *groupSettings_[i];
+            group.present = condition(setting.present, setting.number, setting.inner);
+            for (const TableLayout::Group& other : layout_.groups)
+                group.nested = group.nested || (other.path.size() > group.path.size() &&
+                                                other.path.mid(0, group.path.size()) == group.path);
+        }
+    }
+
+    void addRules()
+    {
+        const SettingsTable& table = *layout_.table;
+        for (const Pull& rule : table.pulls)
+            layout_.pulls.push_back({condition(rule.when, rule.number, rule.inner),
+                                     rowAt(rule.set, rule.number, rule.inner), QString::fromLatin1(rule.to),
+                                     rule.onRead});
+        for (const Bound& rule : table.bounds)
+            layout_.bounds.push_back({condition(rule.when, rule.number, rule.inner),
+                                      rowAt(rule.path, rule.number, rule.inner),
+                                      QString::fromLatin1(rule.to)});
+        for (const Distance& rule : table.distances)
+            layout_.distances.push_back({rowAt(rule.first, rule.number, rule.inner),
+                                         rowAt(rule.second, rule.number, rule.inner), rule.gap,
+                                         rule.gapFrom ? rowAt(rule.gapFrom, rule.number, rule.inner) : -1,
+                                         numberedName(rule.slider, rule.number, rule.inner)});
+        for (const RangeWhen& rule : table.ranges)
+            layout_.ranges.push_back({condition(rule.when, rule.number, rule.inner),
+                                      rowAt(rule.path, rule.number, rule.inner), &rule});
+        for (const Presets& rule : table.presets) {
+            TableLayout::Presets presets{rowAt(rule.trigger, 0, 0), {}, &rule};
+            for (const char* field : rule.fields) {
+                if (field)
+                    presets.fields.push_back(rowAt(field, 0, 0));
+            }
+            layout_.presets.push_back(presets);
+        }
+        for (const Derived& rule : table.derived)
+            layout_.derived.push_back({rowAt(rule.path, rule.number, rule.inner),
+                                       rowAt(rule.from, rule.number, rule.inner),
+                                       QString::fromLatin1(rule.off)});
+        for (const Enable& rule : table.enables) {
+            TableLayout::Enable enable;
+            enable.targets = numberedName(rule.targets, rule.number, rule.inner)
+                                 .split(QLatin1Char(' '), Qt::SkipEmptyParts);
+            for (const When& when : rule.when) {
+                if (when.path)
+                    enable.when.push_back(condition(when, rule.number, rule.inner));
+            }
+            enable.any = rule.any;
+            enable.number = rule.number;
+            enable.shows = rule.effect == Enable::Effect::shown;
+            layout_.enables.push_back(enable);
+        }
+    }
+
+    TableLayout::Condition condition(const When& when, int number, int inner)
+    {
+        if (!when.path)
+            return {};
+        return {rowAt(when.path, number, inner),
+                QString::fromLatin1(when.codes).split(QLatin1Char('|'), Qt::SkipEmptyParts), when.negated};
+    }
+
+    int rowAt(const char* path, int number, int inner)
+    {
+        const QString name = numberedName(path, number, inner);
+        const int row = layout_.rowAt(name);
+        if (row < 0)
+            layout_.problems << QStringLiteral("no row %1/%2").arg(layout_.section, name);
+        return row;
+    }
+
+    TableLayout layout_;
+    std::vector<const Setting*> groupSettings_;
+};
+
+} // namespace
+
+QString numberedName(const char* name, int number, int inner)
+{
+    QString text = QString::fromLatin1(name);
+    if (number > 0)
+        text.replace(QLatin1String("%1"), QString::number(number));
+    if (inner > 0)
+        text.replace(QLatin1String("%2"), QString::number(inner));
+    return text;
+}
+
+const TableLayout& layoutOf(const SettingsTable& table)
+{
+    static std::map<const SettingsTable*, std::unique_ptr<const TableLayout>> layouts;
+    std::unique_ptr<const TableLayout>& layout = layouts[&table];
+    if (!layout)
+        layout = std::make_unique<const TableLayout>(LayoutMaker(table).make());
+    return *layout;
+}
+
+} // namespace vlk

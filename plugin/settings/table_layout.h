@@ -1,0 +1,121 @@
+#pragma once
+
+// A table of settings with its repetitions written out: paths, object names and rules as numbers of rows,
+// made once a table. Configuration and the binder of windows walk it.
+
+#include "settings/settings_table.h"
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace vlk {
+
+struct TableLayout
+{
+    struct Condition
+    {
+        int row = -1; // -1: always holds
+        QStringList codes;
+        bool negated = false;
+    };
+
+    // A value; rows of kind `group` have none.
+    struct Row
+    {
+        const Setting* setting = nullptr;
+        QString path; // "TRACK/POINTS/angle"
+        QString key;
+        int group = -1;
+        int target = -1; // row of the value: of a link another one, else this one
+        Condition present;
+        Condition free;
+    };
+
+    struct Group
+    {
+        QStringList path; // element names below the section
+        Condition present;
+        bool kept = false;
+        bool nested = false; // another group lies in it
+        int firstRow = 0;
+        int endRow = 0;
+    };
+
+    struct Pull
+    {
+        Condition when;
+        int set = -1;
+        QString to;
+        bool onRead = false;
+    };
+    struct Bound
+    {
+        Condition when;
+        int row = -1;
+        QString to;
+    };
+    struct Distance
+    {
+        int first = -1;
+        int second = -1;
+        double gap = 0;
+        int gapFrom = -1;
+        QString slider;
+    };
+    struct RangeWhen
+    {
+        Condition when;
+        int row = -1;
+        const vlk::RangeWhen* rule = nullptr;
+    };
+    struct Presets
+    {
+        int trigger = -1;
+        std::vector<int> fields;
+        const vlk::Presets* rule = nullptr;
+    };
+    struct Derived
+    {
+        int row = -1;
+        int from = -1;
+        QString off;
+    };
+    struct Enable
+    {
+        QStringList targets;
+        std::vector<Condition> when;
+        bool any = false;
+        bool shows = false;
+        int number = 0;
+    };
+
+    const SettingsTable* table = nullptr;
+    QString section;
+    std::vector<Row> rows;
+    std::vector<Group> groups;
+    std::vector<Pull> pulls;
+    std::vector<Bound> bounds;
+    std::vector<Distance> distances;
+    std::vector<RangeWhen> ranges;
+    std::vector<Presets> presets;
+    std::vector<Derived> derived;
+    std::vector<Enable> enables;
+    QHash<QString, int> byPath; // below the section
+
+    // -1 where the table has no such path.
+    int rowAt(const QString& pathBelowSection) const { return byPath.value(pathBelowSection, -1); }
+
+    // What the rules name and the table lacks, in words; empty when all is well.
+    QStringList problems;
+};
+
+// The layout of a table, made on first use.
+const TableLayout& layoutOf(const SettingsTable& table);
+
+// A name of a repeated row with its numbers in.
+QString numberedName(const char* name, int number, int inner);
+
+} // namespace vlk

@@ -1,0 +1,114 @@
+#include "settings/value_text.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace vlk {
+
+namespace {
+
+QString translated(const char* key)
+{
+    return key && *key ? QCoreApplication::translate("vlk", key) : QString();
+}
+
+QString withUnit(const QString& number, const char* unit)
+{
+    return unit ? number + QLatin1Char(' ') + translated(unit) : number;
+}
+
+QString yesNo(bool yes)
+{
+    return translated(yes ? "wrd_001" : "wrd_002");
+}
+
+QString periodText(const Setting& setting, int seconds)
+{
+    QStringList parts;
+    for (const PeriodPart& part : setting.parts) {
+        const int count = std::min(seconds / part.seconds, part.most);
+        seconds -= count * part.seconds;
+        if (count > 0)
+            parts << withUnit(QString::number(count), part.unit);
+    }
+    return parts.isEmpty() ? withUnit(QStringLiteral("0"), setting.parts.back().unit)
+                           : parts.join(QLatin1Char(' '));
+}
+
+// The captions of the positions that are set, with the item where a position has several.
+QString positionsText(const Setting& setting, const QString& value)
+{
+    QStringList parts;
+    const unsigned bits = setting.kind == Kind::bits ? value.toUInt() : 0;
+    for (std::size_t i = 0; i < setting.positions.size(); ++i) {
+        const int digit = setting.kind == Kind::bits ? static_cast<int>((bits >> i) & 1U)
+                                                     : value.mid(static_cast<int>(i), 1).toInt();
+        if (digit == 0)
+            continue;
+        QString part = translated(setting.positions[i].caption);
+        if (static_cast<std::size_t>(digit) < setting.codes.size())
+            part += QStringLiteral(": ") + codeText(setting.codes[digit]);
+        parts << part;
+    }
+    return parts.isEmpty() ? yesNo(false) : parts.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+Caption captionParts(const char* key)
+{
+    const QString text = translated(key);
+    const int mark = text.indexOf(QLatin1String("<val>"), 0, Qt::CaseInsensitive);
+    if (mark < 0)
+        return {text, {}};
+    return {text.left(mark).trimmed(), text.mid(mark + 5).trimmed()};
+}
+
+QString captionText(const Setting& setting)
+{
+    const Caption parts = captionParts(setting.captionKey);
+    QString text = parts.after.isEmpty() ? parts.before : parts.before + QStringLiteral(" … ") + parts.after;
+    return text.replace(QLatin1String("<br>"), QLatin1String(" ")).remove(QLatin1Char('&')).simplified();
+}
+
+QString codeText(const Code& code)
+{
+    return QString::fromLatin1(code.format).arg(translated(code.label));
+}
+
+QString valueText(const Configuration& configuration, int index)
+{
+    return valueText(configuration, index, configuration.value(index));
+}
+
+QString valueText(const Configuration& configuration, int index, const QString& value)
+{
+    const Setting& setting = configuration.setting(configuration.holder(index));
+    switch (setting.kind) {
+    case Kind::flag:
+        return yesNo(value != QLatin1String("0"));
+    case Kind::integer:
+    case Kind::real:
+    case Kind::scaled:
+        if (setting.zeroIsOff && value == QLatin1String("0"))
+            return yesNo(false);
+        return withUnit(QString::number(shownNumber(setting, value), 'f', setting.decimals),
+                        configuration.unitKey(index));
+    case Kind::choice:
+        for (const Code& code : setting.codes) {
+            if (QLatin1String(code.code) == value && *code.label)
+                return codeText(code);
+        }
+        return value;
+    case Kind::period:
+        return periodText(setting, value.toInt());
+    case Kind::digits:
+    case Kind::bits:
+        return positionsText(setting, value);
+    default:
+        return value;
+    }
+}
+
+} // namespace vlk

@@ -1,0 +1,28 @@
+#pragma once
+
+// Settings as a person reads them, in the present language.
+
+#include "settings/configuration.h"
+
+#include <QString>
+
+namespace vlk {
+
+// A caption is split at its mark "<val>": what stands before the value and what stands behind it.
+struct Caption
+{
+    QString before;
+    QString after;
+};
+Caption captionParts(const char* key);
+// In one line.
+QString captionText(const Setting& setting);
+
+QString codeText(const Code& code);
+
+// The value with its unit: "100 km/h", "on", "1 d 2 h", "NB+" as its label.
+QString valueText(const Configuration& configuration, int index);
+// The same for another value of that setting, as a file holds it.
+QString valueText(const Configuration& configuration, int index, const QString& value);
+
+} // namespace vlk

@@ -1,0 +1,53 @@
+#include "windows/binder/adapter.h"
+
+#include "settings/value_text.h"
+#include "windows/binder/binder.h"
+
+#include <QAbstractButton>
+#include <QGroupBox>
+#include <QLabel>
+
+namespace vlk {
+
+Adapter::Adapter(Binder& binder, int index) : binder_(binder), index_(index) {}
+
+void Adapter::own(const QWidget* widget)
+{
+    if (widget)
+        widgets_ << widget->objectName();
+}
+
+const Setting& Adapter::setting() const
+{
+    return configuration().setting(index_);
+}
+
+const Configuration& Adapter::configuration() const
+{
+    return binder_.configuration();
+}
+
+void Adapter::edited(const QString& value)
+{
+    binder_.edited(index_, value);
+}
+
+void Adapter::caption(QWidget* widget, const char* key, const QString& suffix)
+{
+    if (!key || !*key)
+        return;
+    const Caption parts = captionParts(key);
+    const QString plain =
+        (parts.before + QLatin1Char(' ') + parts.after).simplified().remove(QLatin1Char('&'));
+    widget->setAccessibleName(suffix.isEmpty() ? plain : QStringLiteral("%1, %2").arg(plain, suffix));
+    if (QLabel* label = binder_.labelOf(widget))
+        label->setText(parts.before);
+    else if (auto* button = qobject_cast<QAbstractButton*>(widget))
+        button->setText(parts.before);
+    else if (auto* box = qobject_cast<QGroupBox*>(widget))
+        box->setTitle(parts.before);
+    if (QLabel* after = binder_.labelBehind(widget))
+        after->setText(parts.after);
+}
+
+} // namespace vlk

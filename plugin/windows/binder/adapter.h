@@ -1,0 +1,53 @@
+#pragma once
+
+// Joins one setting to the widgets that show it. There is one adapter a kind of widget; the binder makes
+// them, tells them what to show and takes their edits. Values are texts of the file.
+
+#include "settings/configuration.h"
+
+#include <QObject>
+
+class QLabel;
+class QWidget;
+
+namespace vlk {
+
+class Binder;
+
+class Adapter : public QObject
+{
+    Q_OBJECT
+
+public:
+    Adapter(Binder& binder, int index);
+
+    int index() const { return index_; }
+    // Texts, ranges and items from the row, in the present language.
+    virtual void dress() = 0;
+    virtual void show(const QString& value) = 0;
+    // Whether the widget of this name is one of its own.
+    bool owns(const QString& widget) const { return widgets_.contains(widget); }
+    // Takes what the widgets hold as an edit.
+    virtual void take() = 0;
+    // The value as the widgets hold it, for checks that they can hold what the configuration does.
+    virtual QString held() const = 0;
+
+protected:
+    // What the adapter shows, for owns().
+    void own(const QWidget* widget);
+    const Setting& setting() const;
+    const Configuration& configuration() const;
+    // Hands a value to the binder, which ignores it while it shows values itself.
+    void edited(const QString& value);
+    // The caption goes to the label of the widget, to the widget itself if it has a text, and else to screen
+    // readers alone.
+    void caption(QWidget* widget, const char* key, const QString& suffix = {});
+
+    Binder& binder_;
+
+private:
+    const int index_;
+    QStringList widgets_;
+};
+
+} // namespace vlk

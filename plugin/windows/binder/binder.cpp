@@ -1,0 +1,317 @@
+#include "windows/binder/binder.h"
+
+#include "settings/value_text.h"
+#include "windows/binder/boxes_adapter.h"
+#include "windows/binder/cell_adapter.h"
+#include "windows/binder/choice_adapter.h"
+#include "windows/binder/flag_adapter.h"
+#include "windows/binder/handles_adapter.h"
+#include "windows/binder/number_adapter.h"
+#include "windows/binder/period_adapter.h"
+#include "windows/binder/text_adapter.h"
+#include "windows/vlk_dblslider2.h"
+
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QHash>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <QTreeWidget>
+
+#include <algorithm>
+
+namespace vlk {
+
+namespace {
+
+// Counts what is being shown, so that the widgets' signals are no edits meanwhile.
+class Showing
+{
+public:
+    explicit Showing(int& depth) : depth_(depth) { ++depth_; }
+    ~Showing() { --depth_; }
+    Q_DISABLE_COPY(Showing)
+
+private:
+    int& depth_;
+};
+
+} // namespace
+
+Binder::Binder(Configuration& configuration, const SettingsTable& table)
+    : configuration_(configuration), table_(table), layout_(layoutOf(table)),
+      first_(configuration.firstOf(table)), adapters_(layout_.rows.size())
+{
+}
+
+Binder::~Binder() = default;
+
+void Binder::addForm(QWidget* form, int number)
+{
+    forms_.push_back({form, number});
+}
+
+QWidget* Binder::find(const QString& name, int number) const
+{
+    if (name.isEmpty())
+        return nullptr;
+    for (const bool numbered : {true, false}) {
+        for (const Form& form : forms_) {
+            if (!form.widget || (form.number != 0) != numbered || (numbered && form.number != number))
+                continue;
+            if (auto* widget = form.widget->findChild<QWidget*>(name))
+                return widget;
+        }
+    }
+    return nullptr;
+}
+
+QLabel* Binder::labelOf(QWidget* widget) const
+{
+    QWidget* window = widget->parentWidget();
+    for (; window && !std::any_of(forms_.begin(), forms_.end(),
+                                  [&](const Form& form) { return form.widget == window; });)
+        window = window->parentWidget();
+    if (!window)
+        return nullptr;
+    for (QLabel* label : window->findChildren<QLabel*>()) {
+        if (label->buddy() == widget)
+            return label;
+    }
+    auto* label = window->findChild<QLabel*>(QStringLiteral("label_") + widget->objectName());
+    if (label)
+        label->setBuddy(widget);
+    return label;
+}
+
+QLabel* Binder::labelBehind(QWidget* widget) const
+{
+    QWidget* parent = widget->parentWidget();
+    return parent ? parent->findChild<QLabel*>(widget->objectName() + QStringLiteral("_After")) : nullptr;
+}
+
+std::unique_ptr<Adapter> Binder::makeAdapter(int index)
+{
+    const Setting& setting = configuration_.setting(index);
+    const QString path = configuration_.path(index);
+    const auto found = [&](const char* name) {
+        const QString object = numberedName(name, setting.number, setting.inner);
+        QWidget* widget = find(object, setting.number);
+        if (!widget && !object.isEmpty())
+            problems_ << QStringLiteral("%1: no widget %2").arg(path, object);
+        return widget;
+    };
+    const auto boxesOf = [&](const auto& list) {
+        std::vector<QWidget*> boxes;
+        for (const auto& entry : list)
+            boxes.push_back(found(entry.widget));
+        return boxes;
+    };
+    const bool overBoxes =
+        setting.kind == Kind::choice && std::any_of(setting.codes.begin(), setting.codes.end(),
+                                                    [](const Code& code) { return code.widget != nullptr; });
+    if (overBoxes)
+        return std::make_unique<ExclusiveAdapter>(*this, index, boxesOf(setting.codes));
+    if (setting.kind == Kind::digits || setting.kind == Kind::bits)
+        return std::make_unique<PositionsAdapter>(*this, index, boxesOf(setting.positions));
+    if (setting.kind == Kind::period) {
+        std::vector<QSpinBox*> boxes;
+        for (QWidget* box : boxesOf(setting.parts))
+            boxes.push_back(qobject_cast<QSpinBox*>(box));
+        if (std::find(boxes.begin(), boxes.end(), nullptr) != boxes.end())
+            return nullptr;
+        return std::make_unique<PeriodAdapter>(*this, index, boxes);
+    }
+    QWidget* widget = found(setting.widget);
+    if (!widget)
+        return nullptr;
+    if (auto* tree = qobject_cast<QTreeWidget*>(widget))
+        return std::make_unique<CellAdapter>(*this, index, tree);
+    if (setting.kind == Kind::flag)
+        return std::make_unique<FlagAdapter>(*this, index, widget);
+    if (auto* box = qobject_cast<QComboBox*>(widget); box && setting.kind == Kind::choice)
+        return std::make_unique<ChoiceAdapter>(*this, index, box);
+    if (auto* edit = qobject_cast<QLineEdit*>(widget); edit && setting.kind == Kind::text)
+        return std::make_unique<TextAdapter>(*this, index, edit);
+    if (setting.kind == Kind::integer || setting.kind == Kind::real || setting.kind == Kind::scaled)
+        return std::make_unique<NumberAdapter>(*this, index, widget, found(setting.companion));
+    problems_ << QStringLiteral("%1: %2 is no widget for it").arg(path, widget->objectName());
+    return nullptr;
+}
+
+void Binder::bind()
+{
+    const Showing showing(showing_);
+    problems_ = layout_.problems;
+    for (std::size_t row = 0; row < adapters_.size(); ++row) {
+        if (!adapters_[row] && layout_.rows[row].setting->kind != Kind::link)
+            adapters_[row] = makeAdapter(first_ + static_cast<int>(row));
+    }
+    handles_.clear();
+    for (const TableLayout::Distance& rule : layout_.distances) {
+        const Setting& setting = *layout_.rows[rule.first].setting;
+        auto* slider = qobject_cast<VLK_DblSlider2*>(find(rule.slider, setting.number));
+        if (slider)
+            handles_.push_back(std::make_unique<HandlesAdapter>(*this, rule, first_ + rule.first,
+                                                                first_ + rule.second, slider));
+        else if (!rule.slider.isEmpty())
+            problems_ << QStringLiteral("no slider %1").arg(rule.slider);
+    }
+    targets_.clear();
+    for (const TableLayout::Enable& rule : layout_.enables) {
+        for (const QString& name : rule.targets) {
+            QWidget* widget = find(name, rule.number);
+            if (!widget) {
+                problems_ << QStringLiteral("no widget %1 to enable").arg(name);
+                continue;
+            }
+            const auto known = std::find_if(targets_.begin(), targets_.end(), [&](const Target& target) {
+                return target.widget == widget && target.shows == rule.shows;
+            });
+            if (known == targets_.end())
+                targets_.push_back({widget, rule.shows, {&rule}});
+            else
+                known->rules.push_back(&rule);
+        }
+    }
+}
+
+void Binder::dress()
+{
+    const Showing showing(showing_);
+    for (const auto& adapter : adapters_) {
+        if (adapter)
+            adapter->dress();
+    }
+}
+
+void Binder::show()
+{
+    {
+        const Showing showing(showing_);
+        for (std::size_t row = 0; row < adapters_.size(); ++row)
+            showRow(static_cast<int>(row));
+        for (const auto& handles : handles_)
+            handles->show();
+        for (const TableLayout::RangeWhen& rule : layout_.ranges) {
+            if (adapters_[rule.row])
+                adapters_[rule.row]->dress();
+            showRow(rule.row);
+        }
+    }
+    evaluateRules();
+}
+
+void Binder::showRow(int row)
+{
+    if (adapters_[row])
+        adapters_[row]->show(configuration_.value(first_ + row));
+}
+
+void Binder::evaluateRules()
+{
+    for (const Target& target : targets_) {
+        if (!target.widget)
+            continue;
+        const bool allowed = std::all_of(target.rules.begin(), target.rules.end(), [&](const auto* rule) {
+            return configuration_.holds(table_, *rule);
+        });
+        if (target.shows)
+            target.widget->setVisible(allowed);
+        else
+            target.widget->setEnabled(allowed);
+    }
+}
+
+void Binder::edited(int index, const QString& value)
+{
+    if (isShowing())
+        return;
+    const std::vector<int> changed = configuration_.edit(index, value);
+    {
+        const Showing showing(showing_);
+        // Ranges may follow another value.
+        for (const TableLayout::RangeWhen& rule : layout_.ranges) {
+            if (std::find(changed.begin(), changed.end(), first_ + rule.when.row) == changed.end())
+                continue;
+            if (adapters_[rule.row])
+                adapters_[rule.row]->dress();
+            showRow(rule.row);
+        }
+        for (const int other : changed) {
+            if (other != index)
+                showRow(other - first_);
+        }
+        if (configuration_.value(index) != value)
+            showRow(index - first_);
+        for (const auto& handles : handles_)
+            handles->show();
+    }
+    if (changed.empty())
+        return;
+    evaluateRules();
+    for (const int other : changed)
+        Q_EMIT this->changed(configuration_.path(other).mid(layout_.section.size() + 1));
+}
+
+void Binder::set(int index, const QString& value)
+{
+    edited(index, value);
+    const Showing showing(showing_);
+    showRow(index - first_);
+}
+
+void Binder::take(const QString& widget)
+{
+    for (std::size_t row = 0; row < adapters_.size(); ++row) {
+        if (adapters_[row] && adapters_[row]->owns(widget))
+            adapters_[row]->take();
+    }
+}
+
+void Binder::finishTyping()
+{
+    for (const Form& form : forms_) {
+        if (!form.widget)
+            continue;
+        for (QAbstractSpinBox* box : form.widget->findChildren<QAbstractSpinBox*>()) {
+            if (box->hasFocus())
+                box->interpretText();
+        }
+    }
+}
+
+void Binder::selectFirstItems()
+{
+    for (const auto& adapter : adapters_) {
+        if (dynamic_cast<ChoiceAdapter*>(adapter.get()))
+            set(adapter->index(),
+                QString::fromLatin1(configuration_.setting(adapter->index()).codes[0].code));
+    }
+}
+
+QStringList Binder::problems() const
+{
+    QStringList all = problems_;
+    for (std::size_t row = 0; row < adapters_.size(); ++row) {
+        const Setting& setting = *layout_.rows[row].setting;
+        if (adapters_[row] && !setting.captionKey && setting.codes.empty() && setting.positions.empty())
+            all << layout_.rows[row].path + QStringLiteral(": no caption");
+    }
+    return all;
+}
+
+QStringList Binder::disagreements() const
+{
+    QStringList all;
+    for (std::size_t row = 0; row < adapters_.size(); ++row) {
+        const int index = first_ + static_cast<int>(row);
+        if (adapters_[row] && adapters_[row]->held() != configuration_.value(index))
+            all << QStringLiteral("%1 is %2, shown %3")
+                       .arg(configuration_.path(index), configuration_.value(index), adapters_[row]->held());
+    }
+    return all;
+}
+
+} // namespace vlk

@@ -1,0 +1,104 @@
+#pragma once
+
+// Joins the settings of a table to the widgets of a window by their object names. It dresses the widgets from
+// the rows (texts, range, step, suffix, validator, items, accessible name), shows the values of a
+// configuration, takes edits, and enables what the table's rules allow.
+//
+// A caption goes to the label whose buddy the widget is, else to the one named label_<widget>; buttons and
+// group boxes without such a label carry it themselves. What stands behind the mark "<val>" of a caption goes
+// to the label named <widget>_After.
+
+#include "settings/configuration.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QStringList>
+
+#include <memory>
+#include <vector>
+
+class QLabel;
+class QWidget;
+
+namespace vlk {
+
+class Adapter;
+class HandlesAdapter;
+
+class Binder : public QObject
+{
+    Q_OBJECT
+
+public:
+    Binder(Configuration& configuration, const SettingsTable& table);
+    ~Binder() override;
+
+    // Names are looked up below this widget. With a number: those of the rows that have the number, before
+    // any other widget.
+    void addForm(QWidget* form, int number = 0);
+    // Joins what is not joined yet; to be called when all forms are there.
+    void bind();
+
+    // Texts and ranges anew, the values stay.
+    void dress();
+    void show();
+    void evaluateRules();
+    // Takes the state of the widget of this name as an edit.
+    void take(const QString& widget);
+    // Takes what is being typed.
+    void finishTyping();
+    // Takes the first item of every combo box as an edit.
+    void selectFirstItems();
+
+    // What is wrong between the table and the forms, in words: a row without its widget, a rule without its
+    // target. Empty when all is well.
+    QStringList problems() const;
+    // Rows whose widgets hold another value than the configuration.
+    QStringList disagreements() const;
+
+    Configuration& configuration() const { return configuration_; }
+    const SettingsTable& table() const { return table_; }
+
+    QWidget* find(const QString& name, int number) const;
+    QLabel* labelOf(QWidget* widget) const;
+    QLabel* labelBehind(QWidget* widget) const;
+    // An edit that a widget of the row shows already, and one that comes from elsewhere.
+    void edited(int index, const QString& value);
+    void set(int index, const QString& value);
+    // While values are shown the widgets' signals are no edits.
+    bool isShowing() const { return showing_ > 0; }
+
+Q_SIGNALS:
+    // A value changed by an edit of the user or by a rule that it ran. The path is that below the section.
+    void changed(const QString& path);
+
+private:
+    struct Form
+    {
+        QPointer<QWidget> widget;
+        int number;
+    };
+    // A widget that rules enable or show; all of them have to allow it.
+    struct Target
+    {
+        QPointer<QWidget> widget;
+        bool shows;
+        std::vector<const TableLayout::Enable*> rules;
+    };
+
+    std::unique_ptr<Adapter> makeAdapter(int index);
+    void showRow(int row);
+
+    Configuration& configuration_;
+    const SettingsTable& table_;
+    const TableLayout& layout_;
+    const int first_;
+    std::vector<Form> forms_;
+    std::vector<std::unique_ptr<Adapter>> adapters_; // one a row, null where a row has no widget
+    std::vector<std::unique_ptr<HandlesAdapter>> handles_;
+    std::vector<Target> targets_;
+    QStringList problems_;
+    int showing_ = 0;
+};
+
+} // namespace vlk

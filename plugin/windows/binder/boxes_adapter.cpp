@@ -1,0 +1,129 @@
+#include "windows/binder/boxes_adapter.h"
+
+#include "settings/value_text.h"
+#include "windows/binder/checkable.h"
+
+#include <QComboBox>
+#include <QRadioButton>
+#include <QSignalBlocker>
+
+#include <utility>
+
+namespace vlk {
+
+ExclusiveAdapter::ExclusiveAdapter(Binder& binder, int index, std::vector<QWidget*> boxes)
+    : Adapter(binder, index), boxes_(std::move(boxes))
+{
+    for (std::size_t i = 0; i < boxes_.size(); ++i) {
+        if (!boxes_[i])
+            continue;
+        own(boxes_[i]);
+        onToggled(boxes_[i], this, [this, i](bool on) {
+            if (on)
+                edited(QString::fromLatin1(setting().codes[i].code));
+            else if (!qobject_cast<QRadioButton*>(boxes_[i]))
+                take();
+        });
+    }
+}
+
+void ExclusiveAdapter::dress()
+{
+    for (std::size_t i = 0; i < boxes_.size(); ++i) {
+        if (boxes_[i])
+            caption(boxes_[i], setting().codes[i].label);
+    }
+}
+
+void ExclusiveAdapter::show(const QString& value)
+{
+    // The one to check comes first: among radio buttons there is always one.
+    for (std::size_t i = 0; i < boxes_.size(); ++i) {
+        if (boxes_[i] && value == QLatin1String(setting().codes[i].code))
+            setChecked(boxes_[i], true);
+    }
+    for (std::size_t i = 0; i < boxes_.size(); ++i) {
+        if (boxes_[i] && value != QLatin1String(setting().codes[i].code))
+            setChecked(boxes_[i], false);
+    }
+}
+
+void ExclusiveAdapter::take()
+{
+    edited(held());
+}
+
+QString ExclusiveAdapter::held() const
+{
+    QString none;
+    for (std::size_t i = 0; i < boxes_.size(); ++i) {
+        const QString code = QString::fromLatin1(setting().codes[i].code);
+        if (!boxes_[i])
+            none = code;
+        else if (isChecked(boxes_[i]))
+            return code;
+    }
+    return none;
+}
+
+PositionsAdapter::PositionsAdapter(Binder& binder, int index, std::vector<QWidget*> boxes)
+    : Adapter(binder, index), boxes_(std::move(boxes))
+{
+    for (QWidget* box : boxes_) {
+        own(box);
+        if (auto* list = qobject_cast<QComboBox*>(box))
+            connect(list, qOverload<int>(&QComboBox::currentIndexChanged), this, [this] { take(); });
+        else if (box)
+            onToggled(box, this, [this](bool) { take(); });
+    }
+}
+
+void PositionsAdapter::dress()
+{
+    for (std::size_t i = 0; i < boxes_.size(); ++i) {
+        if (!boxes_[i])
+            continue;
+        caption(boxes_[i], setting().positions[i].caption);
+        auto* list = qobject_cast<QComboBox*>(boxes_[i]);
+        if (!list)
+            continue;
+        const QSignalBlocker blocker(list);
+        list->clear();
+        for (const Code& code : setting().codes)
+            list->addItem(codeText(code));
+    }
+    show(configuration().value(index()));
+}
+
+void PositionsAdapter::show(const QString& value)
+{
+    const unsigned bits = setting().kind == Kind::bits ? value.toUInt() : 0;
+    for (std::size_t i = 0; i < boxes_.size(); ++i) {
+        const int digit = setting().kind == Kind::bits ? static_cast<int>((bits >> i) & 1U)
+                                                       : value.mid(static_cast<int>(i), 1).toInt();
+        if (auto* list = qobject_cast<QComboBox*>(boxes_[i]))
+            list->setCurrentIndex(digit);
+        else if (boxes_[i])
+            setChecked(boxes_[i], digit != 0);
+    }
+}
+
+int PositionsAdapter::digit(std::size_t position) const
+{
+    if (const auto* list = qobject_cast<const QComboBox*>(boxes_[position]))
+        return qMax(0, list->currentIndex());
+    return boxes_[position] && isChecked(boxes_[position]) ? 1 : 0;
+}
+
+QString PositionsAdapter::held() const
+{
+    QString digits;
+    unsigned bits = 0;
+    for (std::size_t i = 0; i < boxes_.size(); ++i) {
+        digits += QString::number(digit(i));
+        bits |= static_cast<unsigned>(digit(i)) << i;
+    }
+    return setting().kind == Kind::bits ? QString::number(bits) : digits;
+}
+
+} // namespace vlk

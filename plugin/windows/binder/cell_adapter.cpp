@@ -1,0 +1,26 @@
+#include "windows/binder/cell_adapter.h"
+
+#include <QTreeWidget>
+
+namespace vlk {
+
+CellAdapter::CellAdapter(Binder& binder, int index, QTreeWidget* tree)
+    : Adapter(binder, index), tree_(tree), row_(setting().number - 1)
+{
+    connect(tree, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* item, int column) {
+        if (column == setting().column && item == tree_->topLevelItem(row_))
+            take();
+    });
+}
+
+void CellAdapter::show(const QString& value)
+{
+    tree_->topLevelItem(row_)->setText(setting().column, value);
+}
+
+QString CellAdapter::held() const
+{
+    return tree_->topLevelItem(row_)->text(setting().column);
+}
+
+} // namespace vlk

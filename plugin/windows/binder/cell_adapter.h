@@ -1,0 +1,26 @@
+#pragma once
+
+// A text or a number in a cell of a tree of rows.
+
+#include "windows/binder/adapter.h"
+
+class QTreeWidget;
+
+namespace vlk {
+
+class CellAdapter : public Adapter
+{
+public:
+    CellAdapter(Binder& binder, int index, QTreeWidget* tree);
+
+    void dress() override {}
+    void show(const QString& value) override;
+    void take() override { edited(held()); }
+    QString held() const override;
+
+private:
+    QTreeWidget* tree_;
+    int row_;
+};
+
+} // namespace vlk

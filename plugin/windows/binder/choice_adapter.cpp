@@ -1,0 +1,47 @@
+#include "windows/binder/choice_adapter.h"
+
+#include "settings/value_text.h"
+#include "windows/binder/binder.h"
+
+#include <QComboBox>
+#include <QSignalBlocker>
+
+namespace vlk {
+
+ChoiceAdapter::ChoiceAdapter(Binder& binder, int index, QComboBox* box) : Adapter(binder, index), box_(box)
+{
+    own(box);
+    connect(box, qOverload<int>(&QComboBox::currentIndexChanged), this, [this] { take(); });
+}
+
+void ChoiceAdapter::dress()
+{
+    caption(box_, setting().captionKey);
+    const QSignalBlocker blocker(box_);
+    box_->clear();
+    for (const Code& code : setting().codes) {
+        if (offersCode(setting(), code))
+            box_->addItem(codeText(code), QString::fromLatin1(code.code));
+    }
+    show(configuration().value(index()));
+}
+
+void ChoiceAdapter::show(const QString& value)
+{
+    box_->setCurrentIndex(box_->findData(value));
+}
+
+void ChoiceAdapter::take()
+{
+    if (box_->currentIndex() >= 0 || setting().none)
+        edited(held());
+}
+
+QString ChoiceAdapter::held() const
+{
+    if (box_->currentIndex() >= 0)
+        return box_->currentData().toString();
+    return QString::fromLatin1(setting().none ? setting().none : "");
+}
+
+} // namespace vlk

@@ -1,0 +1,25 @@
+#pragma once
+
+// A choice in a combo box: the items show the labels of the codes, their data are the codes.
+
+#include "windows/binder/adapter.h"
+
+class QComboBox;
+
+namespace vlk {
+
+class ChoiceAdapter : public Adapter
+{
+public:
+    ChoiceAdapter(Binder& binder, int index, QComboBox* box);
+
+    void dress() override;
+    void show(const QString& value) override;
+    void take() override;
+    QString held() const override;
+
+private:
+    QComboBox* box_;
+};
+
+} // namespace vlk

@@ -1,0 +1,23 @@
+#pragma once
+
+// A flag in a check box, a radio button or a checkable group box.
+
+#include "windows/binder/adapter.h"
+
+namespace vlk {
+
+class FlagAdapter : public Adapter
+{
+public:
+    FlagAdapter(Binder& binder, int index, QWidget* box);
+
+    void dress() override;
+    void show(const QString& value) override;
+    void take() override { edited(held()); }
+    QString held() const override;
+
+private:
+    QWidget* box_;
+};
+
+} // namespace vlk

@@ -1,0 +1,31 @@
+#pragma once
+
+// Two values with a least distance, on a slider with two handles; each has a spin box of its own.
+
+#include "windows/binder/adapter.h"
+
+class VLK_DblSlider2;
+
+namespace vlk {
+
+class HandlesAdapter : public QObject
+{
+    Q_OBJECT
+
+public:
+    HandlesAdapter(Binder& binder, const TableLayout::Distance& rule, int first, int second,
+                   VLK_DblSlider2* slider);
+
+    void show();
+
+private:
+    double gap() const;
+
+    Binder& binder_;
+    const TableLayout::Distance& rule_;
+    int first_;
+    int second_;
+    VLK_DblSlider2* slider_;
+};
+
+} // namespace vlk

@@ -1,0 +1,92 @@
+#include "windows/binder/number_adapter.h"
+
+#include "windows/binder/binder.h"
+#include "windows/binder/checkable.h"
+
+#include <QAbstractSlider>
+#include <QCoreApplication>
+
+namespace vlk {
+
+NumberAdapter::NumberAdapter(Binder& binder, int index, QWidget* box, QWidget* companion)
+    : Adapter(binder, index), box_(box, configuration().setting(index))
+{
+    own(box);
+    own(companion);
+    box_.onChanged(this, [this] { take(); });
+    if (qobject_cast<QAbstractSlider*>(companion)) {
+        slider_ = NumberBox(companion, setting());
+        slider_.onChanged(this, [this] { edited(fileNumber(setting(), slider_.value())); });
+    } else if (companion) {
+        check_ = companion;
+        onToggled(check_, this, [this](bool on) { switched(on); });
+    }
+}
+
+void NumberAdapter::dress()
+{
+    const char* unit = configuration().unitKey(index());
+    const QString unitText = unit ? QCoreApplication::translate("vlk", unit) : QString();
+    caption(check_ ? check_ : box_.widget(), setting().captionKey, check_ ? QString() : unitText);
+    if (check_)
+        box_.widget()->setAccessibleName(check_->accessibleName());
+    box_.setSuffix(unit ? QLatin1Char(' ') + unitText : QString());
+    if (slider_)
+        slider_.widget()->setAccessibleName(box_.widget()->accessibleName());
+    setLimits();
+}
+
+bool NumberAdapter::isOn() const
+{
+    return !check_ || isChecked(check_);
+}
+
+void NumberAdapter::setLimits()
+{
+    const Limits limits = configuration().limits(index());
+    box_.setRange(isOn() ? limits.least : 0, isOn() ? limits.most : 0);
+    if (slider_)
+        slider_.setRange(limits.least, limits.most);
+    if (check_)
+        box_.widget()->setEnabled(isOn());
+}
+
+void NumberAdapter::show(const QString& value)
+{
+    const double shown = shownNumber(setting(), value);
+    if (check_) {
+        // A box that was just switched on may stand at 0.
+        if (shown != 0 || box_.value() != 0)
+            setChecked(check_, shown != 0);
+        remembered_ = shown;
+    }
+    setLimits();
+    box_.setValue(shown);
+    if (slider_)
+        slider_.setValue(shown);
+}
+
+void NumberAdapter::switched(bool on)
+{
+    if (binder_.isShowing())
+        return;
+    const double fixed = setting().switchedOnAt;
+    if (!on && fixed < 0)
+        remembered_ = box_.value();
+    const double number = on ? fixed < 0 ? remembered_ : fixed : 0;
+    setLimits();
+    box_.setValue(number);
+    take();
+}
+
+void NumberAdapter::take()
+{
+    edited(held());
+}
+
+QString NumberAdapter::held() const
+{
+    return fileNumber(setting(), isOn() ? box_.value() : 0);
+}
+
+} // namespace vlk

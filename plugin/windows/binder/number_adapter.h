@@ -1,0 +1,33 @@
+#pragma once
+
+// A number in a spin box, with a slider beside it or with a check box that switches it off. Switching off
+// sets 0 and remembers the number, switching on brings it back.
+
+#include "windows/binder/adapter.h"
+#include "windows/binder/number_box.h"
+
+namespace vlk {
+
+class NumberAdapter : public Adapter
+{
+public:
+    // `companion`: a check box or a slider, or null.
+    NumberAdapter(Binder& binder, int index, QWidget* box, QWidget* companion);
+
+    void dress() override;
+    void show(const QString& value) override;
+    void take() override;
+    QString held() const override;
+
+private:
+    bool isOn() const;
+    void setLimits();
+    void switched(bool on);
+
+    NumberBox box_;
+    NumberBox slider_;
+    QWidget* check_ = nullptr;
+    double remembered_ = 0;
+};
+
+} // namespace vlk

@@ -1,0 +1,73 @@
+#include "windows/binder/number_box.h"
+
+#include <QAbstractSlider>
+#include <QDoubleSpinBox>
+#include <QSpinBox>
+
+#include <cmath>
+#include <utility>
+
+namespace vlk {
+
+NumberBox::NumberBox(QWidget* widget, const Setting& setting) : widget_(widget), setting_(&setting)
+{
+    if (auto* box = qobject_cast<QDoubleSpinBox*>(widget)) {
+        box->setDecimals(setting.decimals);
+        if (setting.step > 0)
+            box->setSingleStep(setting.step);
+    } else if (auto* whole = qobject_cast<QSpinBox*>(widget); whole && setting.step > 0) {
+        whole->setSingleStep(static_cast<int>(setting.step));
+    }
+}
+
+double NumberBox::value() const
+{
+    if (const auto* box = qobject_cast<const QDoubleSpinBox*>(widget_))
+        return box->value();
+    if (const auto* whole = qobject_cast<const QSpinBox*>(widget_))
+        return whole->value();
+    const auto* slider = qobject_cast<const QAbstractSlider*>(widget_);
+    return slider ? static_cast<double>(slider->value()) / setting_->factor : 0;
+}
+
+void NumberBox::setValue(double value)
+{
+    if (auto* box = qobject_cast<QDoubleSpinBox*>(widget_))
+        box->setValue(value);
+    else if (auto* whole = qobject_cast<QSpinBox*>(widget_))
+        whole->setValue(static_cast<int>(value));
+    else if (auto* slider = qobject_cast<QAbstractSlider*>(widget_))
+        slider->setValue(static_cast<int>(std::lround(value * setting_->factor)));
+}
+
+void NumberBox::setRange(double least, double most)
+{
+    if (auto* box = qobject_cast<QDoubleSpinBox*>(widget_))
+        box->setRange(least, most);
+    else if (auto* whole = qobject_cast<QSpinBox*>(widget_))
+        whole->setRange(static_cast<int>(least), static_cast<int>(most));
+    else if (auto* slider = qobject_cast<QAbstractSlider*>(widget_))
+        slider->setRange(static_cast<int>(std::lround(least * setting_->factor)),
+                         static_cast<int>(std::lround(most * setting_->factor)));
+}
+
+void NumberBox::setSuffix(const QString& suffix)
+{
+    if (auto* box = qobject_cast<QDoubleSpinBox*>(widget_))
+        box->setSuffix(suffix);
+    else if (auto* whole = qobject_cast<QSpinBox*>(widget_))
+        whole->setSuffix(suffix);
+}
+
+void NumberBox::onChanged(QObject* context, std::function<void()> action) const
+{
+    const auto run = [action = std::move(action)] { action(); };
+    if (auto* box = qobject_cast<QDoubleSpinBox*>(widget_))
+        QObject::connect(box, qOverload<double>(&QDoubleSpinBox::valueChanged), context, run);
+    else if (auto* whole = qobject_cast<QSpinBox*>(widget_))
+        QObject::connect(whole, qOverload<int>(&QSpinBox::valueChanged), context, run);
+    else if (auto* slider = qobject_cast<QAbstractSlider*>(widget_))
+        QObject::connect(slider, &QAbstractSlider::valueChanged, context, run);
+}
+
+} // namespace vlk

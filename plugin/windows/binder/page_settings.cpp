@@ -1,0 +1,84 @@
+#include "windows/binder/page_settings.h"
+
+#include "xml/xml_section.h"
+
+#include <QCoreApplication>
+
+namespace vlk {
+
+PageSettings::PageSettings(const SettingsTable& table, const char* title)
+    : table_(table), titleKey_(title), configuration_({&table}),
+      binder_(std::make_unique<Binder>(configuration_, table))
+{
+    connect(binder_.get(), &Binder::changed, this, &PageSettings::changed);
+}
+
+PageSettings::~PageSettings() = default;
+
+void PageSettings::bind(std::initializer_list<QWidget*> forms)
+{
+    for (QWidget* form : forms)
+        binder_->addForm(form);
+    binder_->bind();
+}
+
+void PageSettings::bind(QWidget* page, const std::vector<QWidget*>& numbered)
+{
+    for (std::size_t i = 0; i < numbered.size(); ++i)
+        binder_->addForm(numbered[i], static_cast<int>(i) + 1);
+    bind({page});
+}
+
+void PageSettings::showAll()
+{
+    binder_->show();
+    Q_EMIT shown();
+}
+
+void PageSettings::setDefaults()
+{
+    configuration_.reset();
+    showAll();
+}
+
+void PageSettings::load(CXmlSection* root)
+{
+    if (!root)
+        return;
+    configuration_.read(*root);
+    showAll();
+}
+
+void PageSettings::save(CXmlSection* root)
+{
+    if (!root)
+        return;
+    binder_->finishTyping();
+    configuration_.write(*root);
+}
+
+void PageSettings::retranslate()
+{
+    title_ = titleKey_ ? QCoreApplication::translate("vlk", titleKey_) : QString();
+    binder_->dress();
+    showAll();
+}
+
+int PageSettings::indexOf(const char* path) const
+{
+    return configuration_.indexOf(QLatin1String(table_.section) + QLatin1Char('/') + QLatin1String(path));
+}
+
+QString PageSettings::value(const char* path) const
+{
+    return configuration_.value(indexOf(path));
+}
+
+void PageSettings::edit(const char* path, const QString& value)
+{
+    const int index = indexOf(path);
+    Q_ASSERT(index >= 0);
+    binder_->set(index, value);
+}
+
+} // namespace vlk

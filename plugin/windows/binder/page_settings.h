@@ -1,0 +1,69 @@
+#pragma once
+
+// What every settings page has: its table, the values, the binder to its widgets, its title and its place
+// among the tabs. A page forwards its operations here and adds what is its own.
+
+#include "windows/binder/binder.h"
+
+#include <initializer_list>
+#include <memory>
+#include <vector>
+
+struct CXmlSection;
+
+namespace vlk {
+
+class PageSettings : public QObject
+{
+    Q_OBJECT
+
+public:
+    // `title` is a translation key.
+    PageSettings(const SettingsTable& table, const char* title);
+    ~PageSettings() override;
+
+    // Joins the widgets of forms to the rows, once the widgets are there.
+    void bind(std::initializer_list<QWidget*> forms);
+    // `numbered`: forms of one class, of which the first holds the widgets of the rows with number 1, and so
+    // on.
+    void bind(QWidget* page, const std::vector<QWidget*>& numbered);
+
+    QString title() const { return title_; }
+    int tabIndex() const { return tabIndex_; }
+    void setTabIndex(int index) { tabIndex_ = index; }
+
+    void setDefaults();
+    // `root` is the element DEVICE.
+    void load(CXmlSection* root);
+    void save(CXmlSection* root);
+    void retranslate();
+
+    // Takes the state of a widget as an edit.
+    void take(const char* widget) { binder_->take(QString::fromLatin1(widget)); }
+    // Paths are those below the section.
+    QString value(const char* path) const;
+    int number(const char* path) const { return value(path).toInt(); }
+    void edit(const char* path, const QString& value);
+
+    Configuration& configuration() { return configuration_; }
+    Binder& binder() { return *binder_; }
+
+Q_SIGNALS:
+    // An edit of the user, or what a rule made of it.
+    void changed(const QString& path);
+    // Other values are on show after a load, a reset or a change of language.
+    void shown();
+
+private:
+    int indexOf(const char* path) const;
+    void showAll();
+
+    const SettingsTable& table_;
+    const char* const titleKey_;
+    Configuration configuration_;
+    std::unique_ptr<Binder> binder_;
+    QString title_;
+    int tabIndex_ = -1;
+};
+
+} // namespace vlk

@@ -1,0 +1,301 @@
+// The rows of the settings against the golden tables of golden/ (its README tells the form), which somebody
+// else took from the definition of the file: what both say of a key has to agree.
+
+#include "settings/all_settings.h"
+#include "settings/normalise.h"
+#include "support/files.h"
+#include "support/setting_samples.h"
+
+#include <QtTest>
+
+namespace {
+
+struct GoldenKey
+{
+    QString path;
+    QString kind;
+    QString load;
+    QString reset;
+    QString values;
+    QStringList widgets;
+};
+
+// One line, written out for each number of its range; lines of one range below each other interleave.
+class GoldenTable
+{
+public:
+    explicit GoldenTable(const QString& text)
+    {
+        const QStringList lines = text.split('\n', Qt::SkipEmptyParts).mid(1);
+        for (const QString& line : lines) {
+            if (line.startsWith('#'))
+                continue;
+            static const QRegularExpression range(R"(\{(\d+)\.\.(\d+)\})");
+            const QRegularExpressionMatch found = range.match(line);
+            if (found.captured() != run_)
+                flush();
+            run_ = found.captured();
+            pending_ << line;
+        }
+        flush();
+    }
+    const QVector<GoldenKey>& keys() const { return keys_; }
+
+private:
+    void flush()
+    {
+        const QStringList ends = QString(run_).remove('{').remove('}').split("..");
+        for (int n = ends.value(0).toInt(); n <= ends.value(1).toInt(); ++n) {
+            for (QString line : pending_) {
+                if (!run_.isEmpty())
+                    line.replace(run_, QString::number(n)).replace("{n}", QString::number(n));
+                const QStringList cells = line.split('\t');
+                keys_.append({cells[0], cells[1], cells[2], cells[3], cells.value(4),
+                              cells.value(5).split(' ', Qt::SkipEmptyParts)});
+            }
+            if (run_.isEmpty())
+                break;
+        }
+        pending_.clear();
+    }
+
+    QString run_;
+    QStringList pending_;
+    QVector<GoldenKey> keys_;
+};
+
+QString plain(QString text)
+{
+    if (text == "\"\"")
+        return {};
+    if (text.startsWith("tr:")) {
+        const QStringList parts = text.mid(3).split('|');
+        return parts.size() == 1 ? parts[0] : QString(parts[0]).replace("%1", parts[1]);
+    }
+    return text.replace("{model}", "R-7106");
+}
+
+// Words in braces stand for texts that the product chooses.
+bool isFree(const QString& text)
+{
+    return text.contains('{') && !text.contains("{model}");
+}
+
+QStringList widgetsOf(const vlk::Setting& setting)
+{
+    QStringList names;
+    const auto add = [&](const char* name) {
+        if (name && *name)
+            names << vlk::numberedName(name, setting.number, setting.inner);
+    };
+    add(setting.companion);
+    add(setting.widget);
+    for (const vlk::Code& code : setting.codes)
+        add(code.widget);
+    for (const vlk::PeriodPart& part : setting.parts)
+        add(part.widget);
+    for (const vlk::Position& position : setting.positions)
+        add(position.widget);
+    return names;
+}
+
+} // namespace
+
+class GoldenSettingsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void pages_data()
+    {
+        QTest::addColumn<QStringList>("files");
+        QTest::newRow("TRANS") << QStringList{"transfer"};
+    }
+    void pages()
+    {
+        QFETCH(QStringList, files);
+        const QString section = QTest::currentDataTag();
+        const auto& tables = vlk::allSettings();
+        const auto table = std::find_if(tables.begin(), tables.end(),
+                                        [&](const auto* known) { return known->section == section; });
+        QVERIFY2(table != tables.end(), "no rows of this section");
+        compared_ << section;
+        QVector<GoldenKey> golden;
+        for (const QString& file : files)
+            golden += GoldenTable(QString::fromUtf8(readFile(
+                                      QString(VLK_SOURCE "/tests/settings/golden/%1.tsv").arg(file))))
+                          .keys();
+        QVERIFY(!golden.isEmpty());
+
+        QStringList wrong;
+        QStringList order;
+        for (const GoldenKey& key : golden) {
+            order << key.path;
+            const int index = configuration_.indexOf(key.path);
+            if (index < 0)
+                wrong << key.path + ": no row";
+            else
+                compare(key, index, &wrong);
+        }
+        QStringList rows;
+        for (const auto& row : vlk::layoutOf(**table).rows) {
+            if (row.setting->stored)
+                rows << row.path;
+        }
+        for (const QString& path : rows) {
+            if (!order.contains(path))
+                wrong << path + ": not in the golden table";
+        }
+        QVERIFY2(wrong.isEmpty(), qPrintable('\n' + wrong.join('\n')));
+        QCOMPARE(rows, order);
+    }
+
+    // Every table of the file is compared above.
+    void everyTableIsGolden()
+    {
+        for (const vlk::SettingsTable* table : vlk::allSettings())
+            QVERIFY2(compared_.contains(table->section), table->section);
+    }
+
+private:
+    void compare(const GoldenKey& key, int index, QStringList* wrong)
+    {
+        const auto check = [&](const char* what, const QString& is, const QString& golden) {
+            if (is != golden)
+                *wrong << QString("%1: %2 is %3, golden %4").arg(key.path, what, is, golden);
+        };
+        const vlk::Setting& row = configuration_.setting(index);
+        const vlk::Setting& holder = configuration_.setting(configuration_.holder(index));
+        check("kind", kindOf(row, holder), key.kind == "index" ? "choice" : key.kind);
+        if (!isFree(key.load))
+            check("load default", loaded(index), plain(key.load));
+        configuration_.reset();
+        const bool written = configuration_.isWritten(index);
+        const QString reset = key.reset == "=" ? key.load : key.reset;
+        if (key.reset == "-")
+            check("reset", row.resets == vlk::Setting::Reset::keeps ? "-" : "resets", "-");
+        else if (!isFree(reset))
+            check("reset", written ? configuration_.written(index) : "absent", plain(reset));
+        if (!key.values.isEmpty())
+            check("values", valuesOf(holder, index, key), key.values);
+        QStringList widgets = widgetsOf(holder);
+        // A box that says whether the value counts at all is a setting of its own.
+        if (const int box = configuration_.row(index).free.row; box >= 0)
+            widgets += widgetsOf(*configuration_.layout(index).rows[box].setting);
+        for (const QString& widget : key.widgets) {
+            if (!widgets.contains(widget))
+                *wrong << key.path + ": not in " + widget;
+        }
+    }
+
+    static QString kindOf(const vlk::Setting& row, const vlk::Setting& holder)
+    {
+        switch (row.kind == vlk::Kind::link ? holder.kind : row.kind) {
+        case vlk::Kind::constant:
+            return "constant";
+        case vlk::Kind::flag:
+            return "flag";
+        case vlk::Kind::integer:
+        case vlk::Kind::scaled:
+            return "integer";
+        case vlk::Kind::real:
+            return QString("real%1").arg(holder.decimals);
+        case vlk::Kind::choice:
+            return "choice";
+        case vlk::Kind::period:
+            return "period";
+        case vlk::Kind::digits:
+            return "digits";
+        case vlk::Kind::bits:
+            return "bits";
+        case vlk::Kind::mask:
+            return "mask";
+        default:
+            return "text";
+        }
+    }
+
+    // What a save writes after a load of a file that lacks the key, the row's own conditions met.
+    QString loaded(int index)
+    {
+        configuration_.reset();
+        QVector<QPair<QString, QString>> values = presenceOf(configuration_, index);
+        vlk::XmlDocument in(documentWith(values), "DEVICE");
+        configuration_.read(*in.root());
+        return configuration_.written(index);
+    }
+
+    QString valuesOf(const vlk::Setting& row, int index, const GoldenKey& key) const
+    {
+        switch (row.kind) {
+        case vlk::Kind::flag:
+            return row.inverted ? "1|0" : QString("0|%1").arg(row.on);
+        case vlk::Kind::integer:
+        case vlk::Kind::scaled:
+        case vlk::Kind::real: {
+            // Two values that keep a distance share the scale of their handles.
+            vlk::Limits ends{row.least, row.most};
+            for (const vlk::SettingsTable* table : vlk::allSettings()) {
+                const vlk::TableLayout& layout = vlk::layoutOf(*table);
+                const int first = configuration_.firstOf(*table);
+                for (const auto& rule : layout.distances) {
+                    if (first + rule.first == index || first + rule.second == index)
+                        ends = {layout.rows[rule.first].setting->least,
+                                layout.rows[rule.second].setting->most};
+                }
+            }
+            const double factor = row.factor;
+            const QString range =
+                QString("%1..%2")
+                    .arg(QString::number(ends.least * factor, 'g', 12))
+                    .arg(key.values.endsWith("..") ? QString()
+                                                   : QString::number(ends.most * factor, 'g', 12));
+            return row.zeroIsOff ? "0|" + range : range;
+        }
+        case vlk::Kind::choice: {
+            QStringList offered;
+            QStringList known;
+            for (const vlk::Code& code : row.codes)
+                (vlk::offersCode(row, code) ? offered : known) << (*code.code ? code.code : "\"\"");
+            // The order of boxes is that of the form.
+            if (row.codes[0].widget || row.codes.back().widget) {
+                const QStringList golden = key.values.split('|');
+                std::sort(offered.begin(), offered.end(), [&](const QString& a, const QString& b) {
+                    return golden.indexOf(a) < golden.indexOf(b);
+                });
+            }
+            return offered.join('|') + (known.isEmpty() ? QString() : QString(" (%1)").arg(known.join('|')));
+        }
+        case vlk::Kind::period: {
+            QStringList parts;
+            for (const vlk::PeriodPart& part : row.parts)
+                parts << QString("%1..%2 %3")
+                             .arg(part.least)
+                             .arg(part.most)
+                             .arg(part.seconds == 60     ? "min"
+                                  : part.seconds == 3600 ? "h"
+                                                         : "d");
+            return parts.join(", ");
+        }
+        case vlk::Kind::digits: {
+            const auto boxes = std::count_if(row.positions.begin(), row.positions.end(),
+                                             [](const vlk::Position& position) { return position.widget; });
+            return QString("%1 of %2").arg(boxes).arg(row.positions.size());
+        }
+        case vlk::Kind::mask:
+            return QString::number(row.maxLength);
+        case vlk::Kind::text:
+            return row.inputMask ? QString("mask ") + row.inputMask
+                   : row.pattern ? QString("/%1/").arg(row.pattern)
+                                 : QString("max %1").arg(row.maxLength);
+        default:
+            return {};
+        }
+    }
+
+    vlk::Configuration configuration_{vlk::allSettings()};
+    QStringList compared_;
+};
+
+QTEST_GUILESS_MAIN(GoldenSettingsTest)
+#include "tst_golden_settings.moc"

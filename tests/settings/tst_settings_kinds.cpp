@@ -1,0 +1,265 @@
+// Every kind of setting and of rule, on a table of its own: what becomes of a text of the file, and what an
+// edit changes.
+
+#include "settings/value_text.h"
+#include "support/data_table.h"
+#include "support/setting_samples.h"
+
+#include <QtTest>
+
+namespace {
+
+using namespace vlk;
+
+constexpr Code kUses[] = {{.code = "NU", .label = "none"},
+                          {.code = "NB+", .label = "high"},
+                          {.code = "AIN", .label = "analogue"},
+                          {.code = "PLS", .label = "pulses", .offered = false},
+                          {.code = "OLD", .means = "AIN"}};
+constexpr Code kNumbers[] = {{.code = "0"}, {.code = "1"}, {.code = "3"}};
+constexpr Code kPatterns[] = {{.code = "11000", .pattern = "11***"},
+                              {.code = "10000", .pattern = "10**0"},
+                              {.code = "01000", .pattern = "01***"}};
+constexpr Position kBoxes[] = {{"a", "first"}, {}, {"c", "third"}};
+constexpr Position kLists[] = {{"a", "first", 2}, {}, {"c", "third", 2}};
+constexpr PeriodPart kParts[] = {{"h", 3600, 0, 71, "h"}, {"m", 60, 0, 59, "min"}};
+constexpr const char* kLong = "110";
+
+constexpr auto kRows = rowsOf(
+    group("A"), constant("mode", "1"), flag("flag", 1), flag("line", 0).onValue(3),
+    integer("whole", 5).range(1, 90), integer("minutes", 3600, 60).range(5, 100),
+    integer("offOr", 0).range(1, 300).offAtZero("box"), real("real", 2.5, 1).range(0.1, 100).readSingle(),
+    volts("volts", 8000).range(0, 31), text("text", "x").upTo(5), text("model", DefaultText{"%1 IN", "key"}),
+    choice("use", kUses, "NU").unknownIs("NU").noItemIs("N/A"), choice("number", kNumbers, "1").byNumber(),
+    choice("satellites", kPatterns, "11000"), period("period", 3600, kParts),
+    period("wrapped", 3600, kParts).wrapping(86400), period("least", 3600, kParts).atLeast(300),
+    digits("digits", "101", kBoxes), digits("lists", "201", kLists), bits("bits", 5, kBoxes),
+    mask("mask", kLong, 8), integer("blank", 0).blankable().resetTo(""),
+    text("address", "none").resetTo("").savedAs("none", when("A/server")), flag("server", 0).notStored(),
+    flag("safe", 0).savedAs("0", when("A/use", "NB+"), true),
+    integer("delay", 60).onlyWhen(when("A/use", "NB+")), integer("shared", 0).range(0, 20).notStored(),
+    volts("low", 5000).range(0, 31), volts("high", 6000).range(0, 31), integer("hysteresis", 5).range(0, 10),
+    integer("left", 20), integer("right", 30), integer("speed", 9600), integer("late", 0).readLast(),
+    digits("conditions", "000", kBoxes), choice("preset", kNumbers, "0").byNumber().notStored(),
+    text("one", ""), text("two", ""), group("A/CHILD").onlyWhen(when("A/use", "NB+|AIN")),
+    link("shared", "A/shared", 7), integer("own", 3),
+    repeat<2>([](int number) { return rowsOf(group("R%1"), integer("n%1", number)); }));
+constexpr auto kPulls =
+    rulesOf(Pull{.when = when("A/whole", "7"), .set = "A/flag", .to = "0"},
+            Pull{.when = when("A/flag", "0"), .set = "A/whole", .to = "8"},
+            Pull{.when = when("A/speed", "1"), .set = "A/late", .to = "4", .onRead = true});
+constexpr Bound kBounds[] = {{.when = unless("A/line"), .path = "A/conditions", .to = "*00"}};
+constexpr Distance kDistances[] = {
+    {.first = "A/low", .second = "A/high", .gap = 0.5},
+    {.first = "A/left", .second = "A/right", .gap = 1, .gapFrom = "A/hysteresis"}};
+constexpr RangeWhen kRanges[] = {{.when = when("A/use", "AIN"), .path = "A/shared", .least = 1, .most = 500}};
+constexpr PresetRow kReady[] = {{"0", {"a", "b"}}, {"1", {"c", nullptr}}, {"3", {"", ""}}};
+constexpr Presets kPresets[] = {
+    {.trigger = "A/preset", .fields = {"A/one", "A/two"}, .rows = kReady, .other = "3"}};
+constexpr Derived kDerived[] = {{.path = "A/server", .from = "A/address", .off = "none"}};
+constexpr SettingsTable kTable{.section = "S",
+                               .rows = kRows,
+                               .pulls = kPulls,
+                               .bounds = kBounds,
+                               .distances = kDistances,
+                               .ranges = kRanges,
+                               .presets = kPresets,
+                               .derived = kDerived};
+
+} // namespace
+
+Q_DECLARE_METATYPE(vlk::Change)
+
+class SettingsKindsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        configuration_.reset();
+        QCOMPARE(layoutOf(kTable).problems, QStringList());
+    }
+
+    void reading_data()
+    {
+        DataTable<QString, QString, QString, Change> table({"key", "text", "value", "change"});
+        table.row("constant", "mode", "7", "1", Change::none);
+        table.row("flag", "flag", "5", "1", Change::otherForm);
+        table.row("flag, no number", "flag", "yes", "0", Change::notANumber);
+        table.row("flag of another value", "line", "1", "0", Change::otherForm);
+        table.row("flag of its value", "line", "3", "3", Change::none);
+        table.row("number", "whole", "91", "90", Change::outOfRange);
+        table.row("number with a tail", "whole", "12abc", "12", Change::notANumber);
+        table.row("no number", "whole", "abc", "1", Change::notANumber);
+        table.row("nothing", "whole", "", "1", Change::notANumber);
+        table.row("seconds as minutes", "minutes", "3605", "3600", Change::rounded);
+        table.row("off", "offOr", "0", "0", Change::none);
+        table.row("less than off", "offOr", "-4", "0", Change::outOfRange);
+        table.row("on", "offOr", "301", "300", Change::outOfRange);
+        table.row("real", "real", "12.34", "12.3", Change::rounded);
+        table.row("real, no number", "real", "nan", "0.1", Change::notANumber);
+        table.row("real with a tail", "real", "2.5abc", "2.5", Change::notANumber);
+        table.row("real in single precision", "real", "1.05", "1.0", Change::rounded);
+        table.row("volts", "volts", "2010", "2010", Change::none);
+        table.row("volts between steps", "volts", "2014", "2010", Change::rounded);
+        table.row("text", "text", "123456", "12345", Change::tooLong);
+        table.row("offered", "use", "AIN", "AIN", Change::none);
+        table.row("known, not offered", "use", "PLS", "N/A", Change::notOffered);
+        table.row("unknown", "use", "XXX", "NU", Change::unknownCode);
+        table.row("older spelling", "use", "OLD", "AIN", Change::otherForm);
+        table.row("by number", "number", "03", "3", Change::otherForm);
+        table.row("leaves it as it stands", "number", "2", "1", Change::unknownCode);
+        table.row("pattern", "satellites", "01001", "01000", Change::otherForm);
+        table.row("no pattern", "satellites", "00000", "11000", Change::unknownCode);
+        table.row("period", "period", "3725", "3720", Change::rounded);
+        table.row("period beyond its boxes", "period", "999999999", "258360", Change::outOfRange);
+        table.row("period beyond a day", "wrapped", "90060", "3660", Change::outOfRange);
+        table.row("least period", "least", "60", "300", Change::outOfRange);
+        table.row("digits", "digits", "9x", "100", Change::otherForm);
+        table.row("digits of lists", "lists", "231", "201", Change::otherForm);
+        table.row("bits", "bits", "7", "5", Change::outOfRange);
+        table.row("mask", "mask", "01x9", "01010000", Change::otherForm);
+        table.row("blank", "blank", "", "", Change::none);
+        table.row("bound by another", "safe", "1", "0", Change::byRule);
+        table.row("links are read elsewhere", "speed", "1", "1", Change::none);
+    }
+    void reading()
+    {
+        QFETCH(QString, key);
+        QFETCH(QString, text);
+        const int index = configuration_.indexOf("S/A/" + key);
+        Change change = Change::none;
+        for (const ReadNote& note : read({{"S/A/" + key, text}})) {
+            if (note.index == index && note.text == text)
+                change = note.change;
+        }
+        QTEST(configuration_.value(index), "value");
+        QTEST(change, "change");
+    }
+
+    void defaults()
+    {
+        QCOMPARE(configuration_.value("S/A/blank"), QString());
+        QCOMPARE(written("S/A/blank"), QString("0"));
+        QCOMPARE(configuration_.value("S/A/address"), QString());
+        QCOMPARE(written("S/A/address"), QString("none"));
+        QCOMPARE(configuration_.value("S/R2/n2"), QString("2"));
+        QVERIFY(!isWritten("S/A/delay") && !isWritten("S/A/CHILD/own") && !isWritten("S/A/server"));
+        read({{"S/A/whole", "4"}});
+        QCOMPARE(configuration_.value("S/A/address"), QString("none"));
+        QCOMPARE(configuration_.value("S/A/model"), QString("key IN"));
+        QCOMPARE(configuration_.value("S/A/one"), QString());
+    }
+
+    void childrenFollowTheirSibling()
+    {
+        read({{"S/A/use", "AIN"}, {"S/A/CHILD/own", "9"}});
+        QCOMPARE(configuration_.value("S/A/CHILD/own"), QString("9"));
+        QCOMPARE(configuration_.value("S/A/CHILD/shared"), QString("7"));
+        QCOMPARE(configuration_.value("S/A/shared"), QString("7"));
+        QVERIFY(isWritten("S/A/CHILD/shared") && !isWritten("S/A/delay"));
+        edit("use", "NU");
+        QVERIFY(!isWritten("S/A/CHILD/own"));
+        QCOMPARE(configuration_.value("S/A/CHILD/own"), QString("9"));
+        read({{"S/A/use", "NU"}, {"S/A/CHILD/shared", "5"}});
+        QCOMPARE(configuration_.value("S/A/shared"), QString("0"));
+    }
+
+    void edits_data()
+    {
+        DataTable<QStringList, QString>({"edits", "changed"})
+            .row("nothing new", {"whole=5"}, "")
+            .row("limited", {"whole=1000"}, "whole=90")
+            .row("pulls another, once", {"whole=7"}, "whole=7 flag=0")
+            .row("pulls back", {"flag=0"}, "flag=0 whole=8")
+            .row("a preset", {"preset=1", "preset=0"}, "preset=0 one=a two=b")
+            .row("a preset that leaves a field", {"one=z", "two=y", "preset=1"}, "preset=1 one=c")
+            .row("bound at any time", {"line=3", "conditions=101", "line=0"}, "line=0 conditions=100")
+            .row("first handle pushes", {"low=5700"}, "low=5700 high=6200")
+            .row("first handle at the end", {"low=31000"}, "low=30500 high=31000")
+            .row("second handle pushes", {"high=5200"}, "high=5200 low=4700")
+            .row("second handle at the end", {"high=0"}, "high=500 low=0")
+            .row("hysteresis moves the first", {"left=25", "right=31", "hysteresis=9"},
+                 "hysteresis=9 left=21")
+            .row("a use brings its range", {"shared=20", "use=AIN", "shared=400"}, "shared=400")
+            .row("and takes it away", {"use=AIN", "shared=400", "use=NU"}, "use=NU shared=20");
+    }
+    void edits()
+    {
+        QFETCH(QStringList, edits);
+        QStringList changed;
+        for (const QString& step : edits) {
+            changed.clear();
+            const int index = configuration_.indexOf("S/A/" + step.section('=', 0, 0));
+            for (const int row : configuration_.edit(index, step.section('=', 1)))
+                changed << configuration_.row(row).key + '=' + configuration_.value(row);
+        }
+        QTEST(changed.join(' '), "changed");
+    }
+
+    void rulesAndReads()
+    {
+        // A plain read runs no rule but those that say so, and what is read last wins.
+        read({{"S/A/whole", "7"}, {"S/A/flag", "1"}, {"S/A/speed", "1"}, {"S/A/conditions", "111"}});
+        QCOMPARE(configuration_.value("S/A/flag"), QString("1"));
+        QCOMPARE(configuration_.value("S/A/conditions"), QString("100"));
+        QCOMPARE(configuration_.value("S/A/late"), QString("0"));
+        read({{"S/A/speed", "1"}, {"S/A/late", "6"}, {"S/A/one", "c"}, {"S/A/address", "host"}});
+        QCOMPARE(configuration_.value("S/A/late"), QString("6"));
+        QCOMPARE(configuration_.value("S/A/preset"), QString("1"));
+        QCOMPARE(configuration_.value("S/A/server"), QString("1"));
+    }
+
+    void texts_data()
+    {
+        DataTable<QString, QString, QString>({"key", "value", "text"})
+            .row("flag", "flag", "1", "wrd_001")
+            .row("flag of another value", "line", "3", "wrd_001")
+            .row("volts", "volts", "2010", "2.01 abbr_011")
+            .row("off", "offOr", "0", "wrd_002")
+            .row("choice", "use", "AIN", "analogue")
+            .row("unknown code", "use", "N/A", "N/A")
+            .row("period", "period", "3720", "1 h 2 min")
+            .row("digits", "digits", "101", "first, third")
+            .row("bits", "bits", "4", "third")
+            .row("text", "text", "abc", "abc");
+    }
+    void texts()
+    {
+        QFETCH(QString, key);
+        QFETCH(QString, value);
+        QTEST(valueText(configuration_, configuration_.indexOf("S/A/" + key), value), "text");
+    }
+
+    void comparing()
+    {
+        Configuration other = configuration_;
+        QVERIFY(other.differences(configuration_).empty());
+        other.edit(other.indexOf("S/A/use"), "NB+");
+        QStringList told;
+        for (const Difference& difference : configuration_.differences(other))
+            told << configuration_.row(difference.index).key + ':' + difference.before + '>' +
+                        difference.after;
+        QCOMPARE(told, QStringList({"use:NU>NB+", "delay:>60", "shared:>0", "own:>3"}));
+    }
+
+private:
+    std::vector<ReadNote> read(const QVector<QPair<QString, QString>>& values)
+    {
+        configuration_.reset();
+        XmlDocument in(documentWith(values), "DEVICE");
+        return configuration_.read(*in.root());
+    }
+    void edit(const char* key, const char* text)
+    {
+        configuration_.edit(configuration_.indexOf(QString("S/A/") + key), text);
+    }
+    QString written(const char* path) const { return configuration_.written(configuration_.indexOf(path)); }
+    bool isWritten(const char* path) const { return configuration_.isWritten(configuration_.indexOf(path)); }
+
+    Configuration configuration_{{&kTable}};
+};
+
+QTEST_GUILESS_MAIN(SettingsKindsTest)
+#include "tst_settings_kinds.moc"

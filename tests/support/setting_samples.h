@@ -1,0 +1,80 @@
+#pragma once
+
+// Texts that a file may hold for a setting, well formed and not, by its kind: ends of the range and what lies
+// beyond them, every code, strings too short and too long, what is no number. And documents that hold them.
+
+#include "settings/configuration.h"
+#include "xml/xml_document.h"
+
+inline QStringList hostileTexts()
+{
+    return {"",    "0",  "1",   "-1", "7", "abc", "2.5abc", "nan", "inf", "1e9", "99999999999999",
+            " 12", "+3", "0x10"};
+}
+
+inline QStringList samplesOf(const vlk::Setting& setting)
+{
+    QStringList texts = hostileTexts();
+    const auto add = [&](double value) {
+        texts << vlk::fileNumber(setting, value) << QString::number(value);
+    };
+    for (const double end : {setting.least, setting.most}) {
+        for (const double step : {-1.0, -0.01, 0.0, 0.04, 0.06, 1.0})
+            add(end + step);
+    }
+    add((setting.least + setting.most) / 2);
+    for (const vlk::Code& code : setting.codes)
+        texts << code.code << QString(code.code).toLower() << QString(code.code) + ' ';
+    for (const vlk::PeriodPart& part : setting.parts) {
+        for (const int count : {part.least, part.most, part.most + 1})
+            texts << QString::number(static_cast<qint64>(count) * part.seconds) << QString::number(count);
+    }
+    for (const char* digits : {"1", "0102", "111111111111111111111", "2222", "x1x1", "99"})
+        texts << digits;
+    if (setting.kind == vlk::Kind::text || setting.kind == vlk::Kind::mask)
+        texts << QString(200, '1') << "a <b> & \"c\" 'd'"
+              << "Грузовик №1"
+
+              << "%1";
+    texts.removeDuplicates();
+    return texts;
+}
+
+// A configuration file with these values, by paths such as "TRACK/POINTS/angle".
+inline QByteArray documentWith(const QVector<QPair<QString, QString>>& values)
+{
+    vlk::XmlDocument document(QString(), "DEVICE");
+    for (const auto& [path, text] : values) {
+        const QStringList names = path.split('/');
+        CXmlSectionPtr element = document.root()->child(names[0]);
+        for (int i = 1; i + 1 < names.size(); ++i)
+            element = element->child(names[i]);
+        element->setString(names.last(), text);
+        element->commit();
+    }
+    return document.text();
+}
+
+// What has to stand in a file so that a row of it is read: the values that the row and its element ask for.
+inline QVector<QPair<QString, QString>> presenceOf(const vlk::Configuration& configuration, int index)
+{
+    const vlk::TableLayout& layout = configuration.layout(index);
+    const vlk::TableLayout::Row& row = configuration.row(index);
+    QVector<QPair<QString, QString>> values;
+    for (const auto* condition : {&layout.groups[row.group].present, &row.present}) {
+        if (condition->row >= 0 && !condition->negated)
+            values.append({layout.rows[condition->row].path, condition->codes.value(0, "1")});
+    }
+    return values;
+}
+
+// What a configuration makes of a file that it loads after a reset.
+inline QByteArray readAndWritten(vlk::Configuration& configuration, const QByteArray& text)
+{
+    configuration.reset();
+    vlk::XmlDocument in(text, "DEVICE");
+    configuration.read(*in.root());
+    vlk::XmlDocument out(QString(), "DEVICE");
+    configuration.write(*out.root());
+    return out.text();
+}
