@@ -196,8 +196,9 @@ void VLK_Form_Fuel_Sensor::showFallingPoints()
         volumes << QString::number(static_cast<double>(points_[falling[i]].volume));
     if (falling.size() > kNamed)
         volumes << QStringLiteral("…");
+    const QString names = volumes.join(QStringLiteral("; "));
     ui_->label_Falling->setText(falling.empty() ? QString()
-                                                : tr("cfgt6_403").arg(volumes.join(QStringLiteral("; "))));
+                                                : tr("cfgt6_403").replace(QLatin1String("%1"), names));
 }
 
 void VLK_Form_Fuel_Sensor::setDirty(bool dirty)
