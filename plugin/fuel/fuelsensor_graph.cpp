@@ -20,7 +20,7 @@ constexpr int kBottomMargin = 50;
 constexpr int kArrow = 20; // beyond the last tick
 constexpr int kTickHalf = 5;
 constexpr int kTicks = 10;
-constexpr double kDot = 1;
+constexpr double kDot = 1; // radius
 constexpr double kRing = 5;
 constexpr double kReach = 15; // of the mouse
 
@@ -47,6 +47,26 @@ QPolygonF withoutHidden(const vlk::FuelPoints& points, auto place)
             line << at;
     }
     return line;
+}
+
+// A circle drawn once and stamped at every place, since thousands of circles take their time.
+void stampCircles(QPainter& painter, double radius, const QPen& pen, const QBrush& brush, const QPolygonF& at)
+{
+    const double scale = painter.device()->devicePixelRatioF();
+    const int side = 2 * static_cast<int>(std::ceil(radius + pen.widthF()));
+    const QPointF middle(side / 2.0, side / 2.0);
+    QPixmap circle(QSize(side, side) * scale);
+    circle.setDevicePixelRatio(scale);
+    circle.fill(Qt::transparent);
+    {
+        QPainter stamp(&circle);
+        stamp.setRenderHint(QPainter::Antialiasing);
+        stamp.setPen(pen);
+        stamp.setBrush(brush);
+        stamp.drawEllipse(middle, radius, radius);
+    }
+    for (const QPointF& place : at)
+        painter.drawPixmap(place - middle, circle);
 }
 
 } // namespace
@@ -170,15 +190,11 @@ void VLK_FuelSensor_Graph::drawCurve(QPainter& painter, const Axes& axes) const
     const QPolygonF line =
         withoutHidden(points_, [&axes](const FuelPoint& point) { return axes.place(point); });
     painter.drawPolyline(line);
-    painter.setPen(QPen(kAlarm, 2));
+    QPolygonF rings;
     for (const std::size_t index : falling_)
-        painter.drawEllipse(axes.place(points_[index]), kRing, kRing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(kAlarm);
-    for (const QPointF& dot : line)
-        painter.drawEllipse(dot, kDot, kDot);
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(kInk);
+        rings << axes.place(points_[index]);
+    stampCircles(painter, kRing, QPen(kAlarm, 2), Qt::NoBrush, rings);
+    stampCircles(painter, kDot, Qt::NoPen, kAlarm, line);
 }
 
 void VLK_FuelSensor_Graph::drawPointed(QPainter& painter, const Axes& axes) const
