@@ -85,10 +85,3 @@ inline QByteArray savedAgain(vlk::Configuration& configuration, const QByteArray
 {
     return saved.contains("=\"N/A\"") ? readAndWritten(configuration, saved) : saved;
 }
-
-// What was saved is read as it was saved. A list that lacks the code of the file has no item, which is saved
-// as "N/A"; that is a use of its own when it is read again, so such a file needs one round more.
-inline QByteArray settled(vlk::Configuration& configuration, const QByteArray& saved)
-{
-    return saved.contains("\"N/A\"") ? readAndWritten(configuration, saved) : saved;
-}

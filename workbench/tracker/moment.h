@@ -4,6 +4,7 @@
 
 #include "tracker/day_plan.h"
 #include "tracker/road.h"
+#include "tracker/tank_pours.h"
 
 #include <array>
 #include <limits>
@@ -48,6 +49,7 @@ struct Controls
     bool guard = false;
     quint16 outputs = 0;     // bit n is output n + 1
     double mileageShift = 0; // km, what a set mileage differs from the driven
+    TankValues fuelHeights;  // in the tanks into which a user has poured
 };
 
 // Later than any record.
