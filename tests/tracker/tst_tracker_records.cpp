@@ -53,6 +53,94 @@ class TestTrackerRecords : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // What a written configuration changes in the records behind it, over two days. A key or a whole element
+    // of the factory's configuration is put in another's place.
+    void recordsFollowTheConfiguration_data()
+    {
+        const QByteArray points = "angleMode=\"2\" angle=\"5\" useDist=\"1\" dist=\"250\" useTimer=\"1\" "
+                                  "moveTimer=\"12\" moveTimerSens=\"100\" stopTimer=\"300\"";
+        const QByteArray off = "angleMode=\"0\" useDist=\"0\" useTimer=\"0\"";
+        const QByteArray byTime = "angleMode=\"0\" useDist=\"0\" useTimer=\"1\" stopTimer=\"0\" ";
+        const QByteArray byWay = "angleMode=\"0\" useTimer=\"0\" useDist=\"1\" ";
+        const QByteArray in2 = "normState=\"NB-\"";
+        const QByteArray in2End = "<IN2DIN cntlRestore=\"1\"";
+        const QByteArray noSupply = "<PWRSENS line=\"0\" alarmLvl=\"10500\" restoreLvl=\"11000\" delay=\"0\"";
+        const auto supply = [](const QByteArray& alarm, const QByteArray& delay) {
+            return "<PWRSENS line=\"3\" alarmLvl=\"" + alarm + "\" restoreLvl=\"13200\" delay=\"" + delay +
+                   '"';
+        };
+        // How often the code comes in two days; 9999 is any number.
+        DataTable<QByteArray, QByteArray, int, int, int>({"from", "to", "code", "atLeast", "atMost"})
+            .row("no points by way", points, off, 3, 0, 0)
+            .row("no points by time", points, off, 2, 0, 0)
+            .row("no points when parked", points, off, 5, 0, 0)
+            .row("no points by course", points, off, 4, 0, 0)
+            .row("start is told whatever the points are", points, off, 12, 20, 300)
+            .row("no start", "useMoveSens=\"1\"", "useMoveSens=\"0\"", 12, 0, 0)
+            .row("time", points, byTime + "moveTimer=\"60\"", 2, 300, 900)
+            .row("a period of 0", points, byTime + "moveTimer=\"0\"", 2, 0, 0)
+            .row("parked", "stopTimer=\"300\"", "stopTimer=\"3600\"", 5, 10, 60)
+            .row("way", points, byWay + "dist=\"1000\"", 3, 100, 600)
+            .row("fixed angle", points, "angleMode=\"1\" angle=\"20\" useDist=\"0\" useTimer=\"0\"", 4, 20,
+                 1500)
+            .row("a wide angle", points, "angleMode=\"1\" angle=\"90\" useDist=\"0\" useTimer=\"0\"", 4, 0,
+                 60)
+            .row("no speeding", "useMaxSpeed=\"1\"", "useMaxSpeed=\"0\"", 14, 0, 0)
+            .row("speeding from 30 km/h", "maxSpeed=\"90\"", "maxSpeed=\"30\"", 14, 40, 9999)
+            .row("ignition", "ign=\"1\"", "ign=\"1\"", 10, 3, 20)
+            .row("no ignition line", "ign=\"1\"", "ign=\"0\"", 10, 0, 0)
+            .row("a line that is no ignition", "ign=\"1\"", "ign=\"0\"", 20, 3, 20)
+            .row("door", in2, in2, 22, 3, 20)
+            .row("door without its end", in2End, "<IN2DIN cntlRestore=\"0\"", 23, 0, 0)
+            .row("door that opens a closed contact", in2, "normState=\"NS-\"", 23, 3, 20)
+            .row("door not wired", in2, "normState=\"NU\"", 22, 0, 0)
+            .row("analogue input", "thld=\"500\" trhldOff=\"1\"", "thld=\"100\" trhldOff=\"0\"", 26, 50, 9999)
+            .row("analogue input that is calm", "thld=\"500\"", "thld=\"500\"", 26, 0, 0)
+            .row("no supply sensor", noSupply, noSupply, 34, 0, 0)
+            .row("supply", noSupply, supply("12900", "0"), 34, 3, 20)
+            .row("supply restored", noSupply, supply("12900", "0"), 35, 3, 20)
+            .row("supply not so low", noSupply, supply("10500", "0"), 34, 0, 0)
+            .row("supply for too short a time", noSupply, supply("12900", "90000"), 34, 0, 0)
+            .row("temperature", "max=\"8.0\"", "max=\"3.0\"", 39, 2, 9999)
+            .row("temperature within", "max=\"8.0\"", "max=\"8.0\"", 39, 0, 0)
+            .row("cold", "min=\"-25.0\"", "min=\"4.0\"", 38, 2, 9999)
+            .row("weak shocks", "sh1=\"50.0\"", "sh1=\"40.0\"", 30, 3, 9999)
+            .row("strong shocks", "sh2=\"100.0\"", "sh2=\"60.0\"", 31, 1, 9999)
+            .row("no shocks", "sh1=\"50.0\"", "sh1=\"100.0\"", 30, 0, 0)
+            .row("tilt", "sh4=\"25.00\"", "sh4=\"3.00\"", 33, 3, 9999);
+    }
+    void recordsFollowTheConfiguration()
+    {
+        QFETCH(QByteArray, from);
+        QFETCH(QByteArray, to);
+        QFETCH(int, code);
+        BenchTracker bench;
+        QByteArray document = bench.configuration();
+        QVERIFY2(document.contains(from), document.constData());
+        const quint32 newest = numberOf(bench.ask(Message::RequestCurrentRecord).first.mid(3));
+        const QByteArray before = bench.recordByNumber(newest);
+        QVERIFY(bench.write(document.replace(from, to)).accepted);
+        QCOMPARE(bench.recordByNumber(newest), before);
+        bench.now += 2LL * 86400;
+        bench.restart();
+        bench.tracker->setFullDataSet(true);
+        const quint32 last = numberOf(bench.ask(Message::RequestCurrentRecord).first.mid(3));
+        QVERIFY(last > newest);
+        bench.told.clear();
+        for (quint32 number = newest + 1; number <= last; ++number)
+            bench.tracker->handle(Message::RequestRecordByNumber, &number, nullptr);
+        QTRY_COMPARE_WITH_TIMEOUT(quint32(bench.told.size()), last - newest, 60000);
+        int count = 0;
+        for (const Told& told : qAsConst(bench.told)) {
+            const QByteArray record = told.first.mid(vlk::recordByNumberHeader);
+            if (quint8(record.at(0)) == 176)
+                count += value<quint16>(record, element("Code")) == code;
+        }
+        QFETCH(int, atLeast);
+        QFETCH(int, atMost);
+        QVERIFY2(count >= atLeast && count <= atMost, QByteArray::number(count).constData());
+    }
+
     void recordsHoldWhatTheConfigurationAsksFor_data()
     {
         DataTable<QByteArray, int, int>({"format", "fields", "switched"})
@@ -183,7 +271,7 @@ private Q_SLOTS:
         int packets = 0;
         quint32 lastRun = 0; // when the engine ran
         // Three days, for a filling among them.
-        const quint32 first = 60000;
+        const quint32 first = 64000;
         const quint32 count = 7000;
         // All at once, since every answer takes its time.
         for (quint32 number = first; number < first + count; ++number)

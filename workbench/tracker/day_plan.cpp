@@ -98,7 +98,6 @@ private:
             now_.ignitionOffSince = segment.from;
         segment.at = now_;
         const bool driving = segment.activity == Activity::Driving;
-        now_.records += segment.recordCount();
         now_.km += segment.metres / metresPerKm;
         now_.fuel += segment.fuelDelta;
         now_.fuelUsed += std::max(0.0, -segment.fuelDelta);
@@ -117,21 +116,6 @@ private:
 };
 
 } // namespace
-
-int Segment::interval() const
-{
-    switch (activity) {
-    case Activity::Driving:
-        return 10;
-    case Activity::Idling:
-        return 30;
-    case Activity::Filling:
-        return 60;
-    case Activity::Parked:
-        break;
-    }
-    return 300;
-}
 
 struct Segment::Ramps
 {

@@ -14,7 +14,6 @@ enum class Activity { Parked, Filling, Idling, Driving };
 // What goes on from day to day.
 struct Odometers
 {
-    quint32 records = 0; // records made before
     double km = 0;
     double fuel = 300;       // litres in the tanks
     double fuelUsed = 18420; // litres since the vehicle was new
@@ -23,7 +22,7 @@ struct Odometers
     qint64 ignitionOffSince = 0; // Unix seconds, 0 while it is on
 };
 
-// A stretch of time with one activity. Its records are made at its beginning and every `interval` seconds.
+// A stretch of time with one activity.
 struct Segment
 {
     qint64 from = 0; // Unix seconds
@@ -32,16 +31,14 @@ struct Segment
     double metres = 0;    // driven
     double cruise = 0;    // m/s that a leg reaches between its ramps
     double fuelDelta = 0; // litres, falling or filled
-    quint16 code = 0;     // of its first record
+    quint16 code = 0;     // what begins with it
     quint16 trip = 0;     // of the day, from 1
     Odometers at;         // at its beginning
 
-    int interval() const;
     // After so many seconds of it: metres driven, km/h, and m/s2 (negative while braking).
     double metresAt(double elapsed) const;
     double speedAt(double elapsed) const;
     double accelerationAt(double elapsed) const;
-    quint32 recordCount() const { return 1 + static_cast<quint32>((seconds - 1) / interval()); }
 
 private:
     // Seconds since the start and before the end of a leg whose ramps are exact, not rounded to a second.

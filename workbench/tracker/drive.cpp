@@ -1,6 +1,5 @@
 #include "tracker/drive.h"
 
-#include "tracker/event_code.h"
 #include "tracker/random.h"
 
 #include <algorithm>
@@ -9,149 +8,149 @@ namespace tracker {
 
 namespace {
 
-// A hundred years; a clock that is wrong by more gets the last of these days.
-constexpr int longestDays = 36525;
+// Ten years; a clock that is wrong by more gets the last of these days.
+constexpr int longestDays = 3653;
 
-enum Seed : quint64 { SatelliteSeed = 1, WeatherSeed, CodeSeed };
+// The day of the newest record, that of the one asked for, and the one before it.
+constexpr std::size_t keptDays = 4;
 
+constexpr quint64 SatelliteSeed = 1;
 constexpr double secondsPerHour = 3600;
-
-double outsideTemperature(quint64 seed, qint64 time)
-{
-    const double hours = static_cast<double>(time) / secondsPerHour;
-    const double daily = 5 * std::sin((hours / 24 - 0.4) * 2 * 3.14159265);
-    return daily - 6 + 18 * wave(mix(seed, WeatherSeed), hours / 60);
-}
-
-EventCode codeOnTheMove(quint64 chance, const Moment& moment)
-{
-    if (chance % 4000 == 0)
-        return EventCode::StrongShock;
-    if (chance % 350 == 0)
-        return EventCode::WeakShock;
-    if (moment.speed > moment.speedLimit + 3)
-        return EventCode::SpeedLimitExceeded;
-    constexpr EventCode usual[] = {EventCode::Timer, EventCode::Distance, EventCode::Course};
-    return usual[chance % std::size(usual)];
-}
-
-// What a record behind the first of its segment is for.
-void nameRecord(Moment& moment, const Segment& segment, quint32 index, quint64 chance)
-{
-    const auto set = [&moment](EventCode code, RecordKind kind = RecordKind::Telemetry) {
-        moment.code = static_cast<quint16>(code);
-        moment.kind = kind;
-    };
-    const bool startOfTrip = segment.code == static_cast<quint16>(EventCode::IgnitionOn);
-    const bool endOfTrip = segment.code == static_cast<quint16>(EventCode::IgnitionOff);
-    if (index == 0)
-        moment.code = segment.code;
-    else if (segment.activity == Activity::Driving)
-        set(codeOnTheMove(chance, moment));
-    else if (startOfTrip && index == 1)
-        set(EventCode::KeyTouched, RecordKind::Key);
-    else if (endOfTrip && index == 1 && chance % 3 == 0)
-        set(EventCode::TagRead, RecordKind::Tag);
-    else if (endOfTrip && index == 1)
-        set(EventCode::DoorOpened);
-    else if (endOfTrip && index == 2)
-        set(EventCode::DoorClosed);
-    else
-        set(segment.activity == Activity::Parked ? EventCode::ParkedTimer : EventCode::Timer);
-}
 
 } // namespace
 
-Drive::Drive(quint64 seed, qint64 midnight) : seed_(seed), midnight_(midnight), begins_{Odometers{}} {}
+Drive::Drive(quint64 seed, qint64 midnight, const SettingsHistory& settings)
+    : seed_(seed), midnight_(midnight), settings_(settings), begins_{Begin{}}
+{
+}
+
+void Drive::settingsChanged(qint64 time)
+{
+    const qint64 days = std::clamp<qint64>((time - midnight_) / daySeconds, 0, longestDays);
+    if (static_cast<qint64>(begins_.size()) > days + 1)
+        begins_.resize(static_cast<std::size_t>(days) + 1);
+    days_.clear();
+}
 
 Moment Drive::at(qint64 time)
 {
     time = std::max(time, midnight_);
     const quint32 number = lastBefore(time);
-    Moment result = moment(segmentAt(time), time);
+    Moment result = moment(dayAt(time), time);
     result.number = number;
     result.code = static_cast<quint16>(EventCode::OnRequest);
+    result.settings = settings_.latest();
     measureFrom(number, result);
     return result;
 }
 
 Moment Drive::record(quint32 number)
 {
-    const Place place = placeOf(number);
-    Moment result = moment(*place.segment, place.time());
+    qint64 time = 0;
+    const TrackPoint point = pointOf(number, time);
+    Moment result = moment(dayAt(time), time);
     result.number = number;
-    nameRecord(result, *place.segment, place.index, mix(mix(seed_, CodeSeed), number));
+    result.code = static_cast<quint16>(point.code);
+    result.kind = point.kind;
     if (number > 0)
         measureFrom(number - 1, result);
-    else
-        result.code = static_cast<quint16>(EventCode::Restart);
     return result;
 }
 
 void Drive::measureFrom(quint32 number, Moment& moment)
 {
-    const Place before = placeOf(number);
-    const Moment last = this->moment(*before.segment, before.time());
+    qint64 before = 0;
+    pointOf(number, before);
+    const Moment last = this->moment(dayAt(before), before);
     moment.segmentKm = moment.at.km - last.at.km;
     moment.segmentSeconds = static_cast<int>(moment.time - last.time);
-    moment.movingSeconds = before.segment->activity == Activity::Driving ? moment.segmentSeconds : 0;
+    moment.movingSeconds = last.activity == Activity::Driving ? moment.segmentSeconds : 0;
 }
 
 quint32 Drive::lastBefore(qint64 time)
 {
     if (time < midnight_)
         return 0;
-    const Segment& segment = segmentAt(time);
-    const qint64 elapsed = std::min<qint64>(time - segment.from, segment.seconds - 1);
-    return segment.at.records + static_cast<quint32>(elapsed / segment.interval());
+    const Day& day = dayAt(time);
+    const qint64 second = time - midnight_ - qint64(day.index) * daySeconds;
+    const auto& points = day.tracked.points;
+    const auto after = std::upper_bound(points.begin(), points.end(), second,
+                                        [](qint64 t, const TrackPoint& point) { return t < point.second; });
+    const quint32 made = begins_[day.index].trace.records + static_cast<quint32>(after - points.begin());
+    return std::max(made, 1U) - 1;
 }
 
 quint32 Drive::firstAfter(qint64 time)
 {
     const quint32 number = lastBefore(time);
-    return placeOf(number).time() < time ? number + 1 : number;
+    qint64 found = 0;
+    pointOf(number, found);
+    return found < time ? number + 1 : number;
 }
 
-const DayPlan& Drive::day(int index)
+Drive::Day Drive::make(int index) const
+{
+    const Begin& begin = begins_[index];
+    const qint64 midnight = midnight_ + qint64(index) * daySeconds;
+    Day day{index, planDay(seed_, midnight, begin.at), {}};
+    day.tracked = trackDay(seed_, midnight, day.plan, begin.trace, settings_);
+    return day;
+}
+
+const Drive::Day& Drive::day(int index)
 {
     index = std::clamp(index, 0, longestDays);
-    Day& kept = days_[index % 2];
-    if (kept.index == index)
-        return kept.plan;
-    while (static_cast<int>(begins_.size()) <= index + 1) {
-        const auto next = static_cast<qint64>(begins_.size()) - 1;
-        begins_.push_back(planDay(seed_, midnight_ + next * daySeconds, begins_.back()).end);
+    const auto kept =
+        std::find_if(days_.begin(), days_.end(), [index](const Day& day) { return day.index == index; });
+    if (kept != days_.end()) {
+        days_.splice(days_.begin(), days_, kept);
+        return days_.front();
     }
-    kept = {index, planDay(seed_, midnight_ + qint64(index) * daySeconds, begins_[index])};
-    return kept.plan;
+    Day made;
+    while (static_cast<int>(begins_.size()) <= index + 1) {
+        made = make(static_cast<int>(begins_.size()) - 1);
+        begins_.push_back({made.plan.end, made.tracked.end});
+    }
+    days_.push_front(made.index == index ? std::move(made) : make(index));
+    if (days_.size() > keptDays)
+        days_.pop_back();
+    return days_.front();
 }
 
-const Segment& Drive::segmentAt(qint64 time)
+const Drive::Day& Drive::dayAt(qint64 time)
 {
     const qint64 days = (std::max(time, midnight_) - midnight_) / daySeconds;
-    const auto& segments = day(static_cast<int>(std::min<qint64>(days, longestDays))).segments;
-    const auto after = std::upper_bound(segments.begin() + 1, segments.end(), time,
-                                        [](qint64 t, const Segment& segment) { return t < segment.from; });
-    return *(after - 1);
+    return day(static_cast<int>(std::min<qint64>(days, longestDays)));
 }
 
-Drive::Place Drive::placeOf(quint32 number)
+// A number that is not made yet is one of the newest day that can be.
+const Drive::Day& Drive::dayOf(quint32 number)
 {
-    while (begins_.back().records <= number && static_cast<int>(begins_.size()) <= longestDays)
+    while (begins_.back().trace.records <= number && static_cast<int>(begins_.size()) <= longestDays)
         day(static_cast<int>(begins_.size()) - 1);
     const auto dayAfter =
         std::upper_bound(begins_.begin() + 1, begins_.end() - 1, number,
-                         [](quint32 n, const Odometers& begin) { return n < begin.records; });
-    const auto& segments = day(static_cast<int>(dayAfter - begins_.begin()) - 1).segments;
-    const auto after =
-        std::upper_bound(segments.begin() + 1, segments.end(), number,
-                         [](quint32 n, const Segment& segment) { return n < segment.at.records; });
-    const Segment& segment = *(after - 1);
-    return {&segment, std::min(number - segment.at.records, segment.recordCount() - 1)};
+                         [](quint32 n, const Begin& begin) { return n < begin.trace.records; });
+    return day(static_cast<int>(dayAfter - begins_.begin()) - 1);
 }
 
-Moment Drive::moment(const Segment& segment, qint64 time) const
+const TrackPoint& Drive::pointOf(quint32 number, qint64& time)
 {
+    static constexpr TrackPoint none{0, EventCode::Restart, RecordKind::Telemetry};
+    const Day& day = dayOf(number);
+    const auto& points = day.tracked.points;
+    const std::size_t index = number - begins_[day.index].trace.records;
+    const TrackPoint& point = points.empty() ? none : points[std::min<std::size_t>(index, points.size() - 1)];
+    time = midnight_ + qint64(day.index) * daySeconds + point.second;
+    return point;
+}
+
+Moment Drive::moment(const Day& day, qint64 time) const
+{
+    const auto& segments = day.plan.segments;
+    const auto after = std::upper_bound(segments.begin() + 1, segments.end(), time,
+                                        [](qint64 t, const Segment& segment) { return t < segment.from; });
+    const Segment& segment = *(after - 1);
     const double elapsed = static_cast<double>(std::min<qint64>(time - segment.from, segment.seconds));
     const double part = elapsed / segment.seconds;
     Moment result;
@@ -179,6 +178,13 @@ Moment Drive::moment(const Segment& segment, qint64 time) const
     result.speedLimit = speedLimitAt(result.at.km);
     const double sky = wave(mix(seed_, SatelliteSeed), static_cast<double>(time) / 150);
     result.satellites = result.fix ? 6 + static_cast<int>(sky * 9) : 2;
+    const auto& sensed = day.tracked.sensed;
+    const qint64 second = time - midnight_ - qint64(day.index) * daySeconds;
+    const auto later =
+        std::upper_bound(sensed.begin() + 1, sensed.end(), second,
+                         [](qint64 t, const TrackedDay::Sensed& states) { return t < states.second; });
+    result.sensed = (later - 1)->states;
+    result.settings = settings_.at(time).settings;
     result.outside = outsideTemperature(seed_, time);
     return result;
 }

@@ -62,7 +62,7 @@ constexpr Row rows[] = {
     {element("Reserv"), [](const Vehicle& v, int) { return v.backupSupply(); }},
     {element("StateU_Ain1"), [](const Vehicle& v, int i) { return i < 3 ? v.line(i) : 0; }, 8},
     {element("StateIn1"), [](const Vehicle& v, int i) { return i == 0 ? v.inputs() : 0; }, 2},
-    {element("StateOut1"), [](const Vehicle& v, int i) { return double(v.c.outputs >> (8 * i) & 0xFF); }, 2},
+    {element("StateOut1"), [](const Vehicle& v, int i) { return v.outputs(i); }, 2},
     {element("StateIn_Imp1"), [](const Vehicle& v, int i) { return i == 0 ? v.m.at.km * 10 : 0; }, 2},
     {element("Frequency1"), [](const Vehicle& v, int i) { return v.frequency(i); }, 2},
     {element("Motochas"), [](const Vehicle& v, int) { return std::floor(v.m.at.engineSeconds / hour); }},

@@ -4,6 +4,8 @@
 
 #include "tracker/day_plan.h"
 #include "tracker/road.h"
+#include "tracker/sensing.h"
+#include "tracker/settings_history.h"
 #include "tracker/tank_pours.h"
 
 #include <array>
@@ -38,8 +40,12 @@ struct Moment
     int segmentSeconds = 0;
     int movingSeconds = 0;
 
+    SensorStates sensed; // when the tracker measured last
+    SettingsHistory::Settings settings;
+
     quint64 seed = 0; // for what varies at random around these values
 
+    // The key is turned; what the tracker sees of it depends on its lines.
     bool ignition() const { return activity == Activity::Idling || activity == Activity::Driving; }
 };
 

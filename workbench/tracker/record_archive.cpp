@@ -13,8 +13,8 @@ constexpr quint32 searchedBack = 8000;
 
 } // namespace
 
-RecordArchive::RecordArchive(const TrackerMemory& memory)
-    : memory_(memory), drive_(vehicleSeed, memory.firstMidnight())
+RecordArchive::RecordArchive(const TrackerMemory& memory, const SettingsHistory& settings)
+    : memory_(memory), drive_(vehicleSeed, memory.firstMidnight(), settings)
 {
 }
 

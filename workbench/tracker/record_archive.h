@@ -12,7 +12,10 @@ namespace tracker {
 class RecordArchive
 {
 public:
-    explicit RecordArchive(const TrackerMemory& memory);
+    RecordArchive(const TrackerMemory& memory, const SettingsHistory& settings);
+
+    // Records later than this are made by other settings.
+    void settingsChanged(qint64 time) { drive_.settingsChanged(time); }
 
     struct Found
     {

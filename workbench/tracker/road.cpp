@@ -43,6 +43,7 @@ struct Step
     double longitude;
     double altitude;
     int limit;
+    double course; // to the next step
 };
 
 constexpr double kmPerDegree = 111.195;
@@ -79,13 +80,18 @@ std::vector<Step> makeSteps()
         for (int i = 0; i < stepsPerSpan; ++i) {
             const double t = static_cast<double>(i) / stepsPerSpan;
             steps.push_back({0, along(&Waypoint::latitude, t), along(&Waypoint::longitude, t),
-                             along(&Waypoint::altitude, t), around[1].limit});
+                             along(&Waypoint::altitude, t), around[1].limit, 0});
         }
     }
     steps.push_back(steps.front());
-    for (std::size_t i = 1; i < steps.size(); ++i)
-        steps[i].km =
-            steps[i - 1].km + std::hypot(east(steps[i - 1], steps[i]), north(steps[i - 1], steps[i]));
+    for (std::size_t i = 1; i < steps.size(); ++i) {
+        Step& from = steps[i - 1];
+        const double eastward = east(from, steps[i]);
+        const double northward = north(from, steps[i]);
+        steps[i].km = from.km + std::hypot(eastward, northward);
+        const double course = std::atan2(eastward, northward) / degree;
+        from.course = course < 0 ? course + 360 : course;
+    }
     return steps;
 }
 
@@ -118,10 +124,9 @@ RoadPoint roadAt(double km)
     const Step& to = *(&from + 1);
     const double length = to.km - from.km;
     const double t = length > 0 ? (kmOfTour - from.km) / length : 0;
-    const double course = std::atan2(east(from, to), north(from, to)) / degree;
     return {from.latitude + (to.latitude - from.latitude) * t,
             from.longitude + (to.longitude - from.longitude) * t,
-            from.altitude + (to.altitude - from.altitude) * t, course < 0 ? course + 360 : course};
+            from.altitude + (to.altitude - from.altitude) * t, from.course};
 }
 
 int speedLimitAt(double km)

@@ -32,7 +32,8 @@ struct SimulatedTracker::Parts
 {
     Parts(const QString& folder, Clock clockOrNone)
         : clock(clockOrNone ? std::move(clockOrNone) : Clock(&QDateTime::currentDateTimeUtc)), store(folder),
-          memory(folder, now()), archive(memory), records(archive, memory, [this] { return present(); }),
+          settings(folder, WorkingSettings::of(store.values())), memory(folder, now()),
+          archive(memory, settings), records(archive, memory, [this] { return present(); }),
           live(memory, [this] { return vehicle(); }), tachograph([this] { return vehicle(); })
     {
         records.addTo(handlers);
@@ -95,12 +96,21 @@ struct SimulatedTracker::Parts
         else if (line.faults().silence)
             refused.reasonKey = QStringLiteral("wb_refused_silence");
         else
-            return store.write(path);
+            return take(path);
         return refused;
+    }
+
+    WriteReport take(const QString& path)
+    {
+        WriteReport report = store.write(path);
+        if (report.accepted && settings.change(now(), WorkingSettings::of(store.values())))
+            archive.settingsChanged(now());
+        return report;
     }
 
     Clock clock;
     ConfigurationStore store;
+    SettingsHistory settings;
     TrackerMemory memory;
     RecordArchive archive;
     RecordRequests records;

@@ -43,7 +43,7 @@ double Vehicle::state() const
 double Vehicle::module1() const
 {
     return bit(0, true) + bit(1, m.time >= links.usbSince) + bit(2, true) + bit(5, true) + bit(6, true) +
-           bit(7, running());
+           bit(7, m.settings && engineRuns(*m.settings));
 }
 
 double Vehicle::module2() const
@@ -121,17 +121,49 @@ double Vehicle::line(int index) const
     case 0:
         return running() ? supply() - 120 : drift(23, 0, 60, 5);
     case 1:
-        return inputs() >= 2 ? drift(24, 0, 80, 5) : supply() - 300;
+        return doorOpen() ? drift(24, 0, 80, 5) : supply() - 300;
     default:
+        if (m.settings && m.settings->supply.used())
+            return supply();
         // The tank at this line is full until somebody drains it.
         return c.fuelHeights[0] ? sensorValue(tanks[0], *c.fuelHeights[0]) : drift(25, 4850, 5150, 40);
     }
 }
 
+int Vehicle::triggeredLines(const WorkingSettings& settings) const
+{
+    int bits = 0;
+    for (int i = 0; i < static_cast<int>(settings.lines.size()); ++i)
+        bits |= settings.lines[i].triggered(line(i), m.sensed.lines >> i & 1) << i;
+    return bits;
+}
+
 double Vehicle::inputs() const
 {
-    const double parked = parkedSeconds();
-    return bit(0, running()) + bit(1, parked > 60 && parked < 600);
+    return m.settings ? triggeredLines(*m.settings) : 0;
+}
+
+double Vehicle::outputs(int group) const
+{
+    const bool switched = m.settings && m.sensed.outputNow(m.settings->output, m.time);
+    return (c.outputs >> (8 * group) & 0xFF) | (group == 0 && switched);
+}
+
+bool Vehicle::engineRuns(const WorkingSettings& settings) const
+{
+    constexpr int usualLevel = 13200;
+    if (settings.supply.used())
+        return supply() >= (settings.supply.ownEngineLevel ? settings.supply.engineLevel : usualLevel);
+    const int triggered = triggeredLines(settings);
+    for (int i = 0; i < static_cast<int>(settings.lines.size()); ++i)
+        if (triggered >> i & 1 && settings.lines[i].ignition)
+            return true;
+    return false;
+}
+
+bool Vehicle::doorOpen() const
+{
+    return parkedSeconds() > 60 && parkedSeconds() < 600;
 }
 
 double Vehicle::frequency(int index) const
@@ -264,7 +296,14 @@ double Vehicle::lateral() const
 
 double Vehicle::shock() const
 {
-    return driving() ? drift(101, 2, 28, 3) : drift(102, 0.1, 0.9, 3);
+    return driving() ? std::max(hit(), drift(101, 2, 28, 3)) : drift(102, 0.1, 0.9, 3);
+}
+
+// A hole in the road now and then, over ten seconds.
+double Vehicle::hit() const
+{
+    const std::uint64_t chance = mix(m.seed + 107, static_cast<std::uint64_t>(m.time) / 10);
+    return chance % 300 == 0 ? 35 + 64 * fraction(mix(chance)) : 0;
 }
 
 double Vehicle::movement() const
@@ -279,7 +318,7 @@ double Vehicle::tilt() const
 
 double Vehicle::shockState() const
 {
-    return bit(2, driving());
+    return m.sensed.shocks;
 }
 
 double Vehicle::speedThresholds() const

@@ -39,7 +39,12 @@ public:
     double supply() const; // mV
     double backupSupply() const;
     double line(int index) const; // IN1 to IN3, mV
+    // Bit n is set while IN n + 1 is triggered.
+    int triggeredLines(const WorkingSettings& settings) const;
     double inputs() const;
+    double outputs(int group) const;
+    // By the supply when the tracker has a sensor on it, by the ignition line otherwise.
+    bool engineRuns(const WorkingSettings& settings) const;
     double frequency(int index) const;
 
     // What is in a tank into which nobody has poured, in litres.
@@ -78,6 +83,8 @@ public:
 
 private:
     double parkedSeconds() const;
+    bool doorOpen() const;
+    double hit() const; // percent
 };
 
 } // namespace tracker

@@ -1,0 +1,213 @@
+#include "tracker/sensing.h"
+
+#include "tracker/vehicle.h"
+
+#include <cmath>
+
+namespace tracker {
+
+namespace {
+
+// For an output that an event switches, by the event's position in the output's actions.
+struct Action
+{
+    EventCode event;
+    int position;
+};
+
+constexpr Action actions[] = {
+    {EventCode::Line1Triggered, 0},
+    {EventCode::Line2Triggered, 1},
+    {EventCode::Line3Triggered, 2},
+    {EventCode::WeakShock, 5},
+    {EventCode::StrongShock, 6},
+    {EventCode::Movement, 7},
+    {EventCode::Tilt, 8},
+    {EventCode::SupplyLow, 9},
+    {EventCode::SupplyRestored, 10},
+    {EventCode::TemperatureLow, 11},
+    {EventCode::TemperatureHigh, 12},
+    {EventCode::TemperatureRestored, 13},
+    {EventCode::EngineStarted, 14},
+    {EventCode::EngineStopped, 15},
+    {EventCode::Line1Restored, 16},
+    {EventCode::Line2Restored, 16},
+    {EventCode::Line3Restored, 16},
+};
+
+class Sensing
+{
+public:
+    Sensing(const Vehicle& vehicle, const WorkingSettings& settings, std::vector<EventCode>& events)
+        : vehicle_(vehicle), settings_(settings), before_(vehicle.m.sensed), now_(before_), events_(events)
+    {
+    }
+
+    SensorStates result()
+    {
+        const std::size_t first = events_.size();
+        lines();
+        supply();
+        zones();
+        shocks();
+        for (std::size_t i = first; i < events_.size(); ++i)
+            switchOutput(events_[i]);
+        if (!settings_.output.use)
+            now_.output = false;
+        return now_;
+    }
+
+private:
+    static EventCode after(EventCode first, int steps)
+    {
+        return static_cast<EventCode>(static_cast<int>(first) + steps);
+    }
+
+    void lines()
+    {
+        now_.lines = static_cast<quint8>(vehicle_.triggeredLines(settings_));
+        for (int i = 0; i < static_cast<int>(settings_.lines.size()); ++i) {
+            const LineRules& line = settings_.lines[i];
+            const bool triggered = now_.lines >> i & 1;
+            if (triggered != bool(before_.lines >> i & 1))
+                lineChanged(i, line, triggered);
+        }
+        analogue();
+    }
+
+    // The state of the ignition line is always recorded under the ignition's own events.
+    void lineChanged(int index, const LineRules& line, bool triggered)
+    {
+        if (line.ignition && triggered)
+            events_.push_back(EventCode::IgnitionOn);
+        else if (line.ignition)
+            events_.push_back(EventCode::IgnitionOff);
+        else if (triggered)
+            events_.push_back(after(EventCode::Line1Triggered, 2 * index));
+        else if (line.restores)
+            events_.push_back(after(EventCode::Line1Restored, 2 * index));
+        if (line.ignition && triggered)
+            switchOutput(after(EventCode::Line1Triggered, 2 * index));
+    }
+
+    void analogue()
+    {
+        const LineRules& line = settings_.lines[2];
+        const int measured = static_cast<int>(std::lround(vehicle_.line(2)));
+        if (!line.is(LineUse::Analogue) || now_.analogue < 0) {
+            now_.analogue = measured;
+        } else if (std::abs(measured - now_.analogue) >= line.change && line.change > 0 &&
+                   !(line.stillOnly && vehicle_.driving())) {
+            now_.analogue = measured;
+            events_.push_back(EventCode::AnalogueChanged);
+        }
+    }
+
+    void supply()
+    {
+        const SupplyRules& rules = settings_.supply;
+        const double measured = vehicle_.line(2);
+        now_.engine = vehicle_.engineRuns(settings_);
+        if (rules.used() && now_.engine != before_.engine)
+            events_.push_back(now_.engine ? EventCode::EngineStarted : EventCode::EngineStopped);
+        if (!rules.used()) {
+            now_.supplyLow = false;
+            now_.supplyLowSince = 0;
+            return;
+        }
+        if (measured >= rules.restore)
+            now_.supplyLowSince = 0;
+        else if (measured <= rules.alarm && now_.supplyLowSince == 0)
+            now_.supplyLowSince = vehicle_.m.time;
+        now_.supplyLow = now_.supplyLowSince && vehicle_.m.time - now_.supplyLowSince >= rules.delay;
+        if (now_.supplyLow != before_.supplyLow)
+            events_.push_back(now_.supplyLow ? EventCode::SupplyLow : EventCode::SupplyRestored);
+    }
+
+    void zones()
+    {
+        for (int i = 0; i < static_cast<int>(settings_.zones.size()); ++i) {
+            const TemperatureZone& zone = settings_.zones[i];
+            const double measured = vehicle_.temperature(i) * 100;
+            qint8& state = now_.zones[i];
+            if (measured < zone.low)
+                state = -1;
+            else if (measured > zone.high)
+                state = 1;
+            else if ((state < 0 && measured >= zone.low + zone.hysteresis) ||
+                     (state > 0 && measured <= zone.high - zone.hysteresis))
+                state = 0;
+            if (state != before_.zones[i])
+                events_.push_back(state < 0   ? EventCode::TemperatureLow
+                                  : state > 0 ? EventCode::TemperatureHigh
+                                              : EventCode::TemperatureRestored);
+        }
+    }
+
+    // A sensor rests again below half its level.
+    void shocks()
+    {
+        const double measured[] = {vehicle_.shock(), vehicle_.shock(), vehicle_.movement(), vehicle_.tilt()};
+        constexpr EventCode raised[] = {EventCode::WeakShock, EventCode::StrongShock, EventCode::Movement,
+                                        EventCode::Tilt};
+        for (int i = 0; i < 4; ++i) {
+            const double level = settings_.shockLevels[i] / 100.0;
+            const auto bit = static_cast<quint8>(1 << i);
+            if (measured[i] >= level && level > 0)
+                now_.shocks |= bit;
+            else if (measured[i] < level / 2 || level <= 0)
+                now_.shocks &= static_cast<quint8>(~bit);
+        }
+        // A strong shock is not told as a weak one too.
+        const int news = now_.shocks & ~before_.shocks;
+        for (int i = 0; i < 4; ++i)
+            if (news >> i & 1 && !(i == 0 && news & 2))
+                events_.push_back(raised[i]);
+    }
+
+    void switchOutput(EventCode event)
+    {
+        constexpr int on = 1;
+        constexpr int off = 2;
+        for (const Action& action : actions) {
+            if (action.event != event || !settings_.output.use)
+                continue;
+            const int what = settings_.output.actions[action.position];
+            if (what == on && !now_.output)
+                now_.outputSince = vehicle_.m.time;
+            if (what == on || what == off)
+                now_.output = what == on;
+        }
+    }
+
+    const Vehicle& vehicle_;
+    const WorkingSettings& settings_;
+    const SensorStates before_;
+    SensorStates now_;
+    std::vector<EventCode>& events_;
+};
+
+} // namespace
+
+bool SensorStates::outputNow(const OutputRules& rules, qint64 time) const
+{
+    constexpr int onePulse = 1;
+    constexpr int periodic = 2;
+    const qint64 elapsed = time - outputSince;
+    if (!output || elapsed < 0)
+        return false;
+    if (rules.form == onePulse)
+        return elapsed < rules.onPeriod;
+    if (rules.form != periodic)
+        return true;
+    const qint64 period = qint64(rules.onPeriod) + rules.offPeriod;
+    const bool stopped = rules.stops && elapsed >= rules.stopsAfter;
+    return !stopped && period > 0 && elapsed % period < rules.onPeriod;
+}
+
+SensorStates sense(const Vehicle& vehicle, const WorkingSettings& settings, std::vector<EventCode>& events)
+{
+    return Sensing(vehicle, settings, events).result();
+}
+
+} // namespace tracker

@@ -1,0 +1,77 @@
+#include "tracker/settings_history.h"
+
+#include <QDir>
+
+#include <algorithm>
+#include <limits>
+
+namespace tracker {
+
+namespace {
+
+constexpr qint64 always = std::numeric_limits<qint64>::min();
+const QString arrayKey = QStringLiteral("settings");
+const QString timeKey = QStringLiteral("since");
+
+} // namespace
+
+SettingsHistory::SettingsHistory(const QString& folder, const WorkingSettings& first)
+    : file_(QDir(folder).filePath(QStringLiteral("settings.ini")))
+{
+    load();
+    if (entries_.empty()) {
+        entries_.push_back({always, std::make_shared<WorkingSettings>(first)});
+        save();
+    }
+    entries_.front().time = always;
+}
+
+bool SettingsHistory::change(qint64 time, const WorkingSettings& settings)
+{
+    if (*latest() == settings)
+        return false;
+    // A clock that went back takes what came later with it, and of two changes in a second the last holds.
+    while (entries_.back().time >= time && entries_.size() > 1)
+        entries_.pop_back();
+    if (!(*latest() == settings))
+        entries_.push_back({time, std::make_shared<WorkingSettings>(settings)});
+    save();
+    return true;
+}
+
+SettingsHistory::Period SettingsHistory::at(qint64 time) const
+{
+    const auto after = std::find_if(entries_.begin() + 1, entries_.end(),
+                                    [time](const Entry& entry) { return entry.time >= time; });
+    return {(after - 1)->settings,
+            after == entries_.end() ? std::numeric_limits<qint64>::max() : after->time};
+}
+
+void SettingsHistory::load()
+{
+    QSettings file(file_, QSettings::IniFormat);
+    const int count = file.beginReadArray(arrayKey);
+    for (int i = 0; i < count; ++i) {
+        file.setArrayIndex(i);
+        entries_.push_back({file.value(timeKey).toLongLong(),
+                            std::make_shared<WorkingSettings>(WorkingSettings::load(file))});
+    }
+    std::stable_sort(entries_.begin(), entries_.end(),
+                     [](const Entry& a, const Entry& b) { return a.time < b.time; });
+}
+
+void SettingsHistory::save() const
+{
+    QSettings file(file_, QSettings::IniFormat);
+    file.clear();
+    file.beginWriteArray(arrayKey);
+    int index = 0;
+    for (const Entry& entry : entries_) {
+        file.setArrayIndex(index++);
+        file.setValue(timeKey, entry.time);
+        entry.settings->save(file);
+    }
+    file.endArray();
+}
+
+} // namespace tracker

@@ -1,0 +1,214 @@
+#include "tracker/working_settings.h"
+
+#include "tracker/configuration_values.h"
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+
+namespace tracker {
+
+namespace {
+
+struct UseCode
+{
+    const char* code;
+    const char* element; // with the settings of the use, behind the line's name
+};
+
+constexpr UseCode lineUses[] = {{"NU", ""},      {"NS-", "DIN"},  {"NB-", "DIN"},
+                                {"NS+", "ADIN"}, {"NB+", "ADIN"}, {"AIN", "AIN"}};
+
+enum class Kind {
+    Number,
+    Hundredths, // of a number with a point
+    Digits,     // one position of a text of digits each
+    Use,        // of an input line
+    General     // 1 for the output's code "GP"
+};
+
+struct Row
+{
+    const char* path; // %1 is the number of the repetition, %2 the element of the line's use
+    int absent;
+    int& (*value)(WorkingSettings& settings, int index);
+    Kind kind = Kind::Number;
+    int count = 1; // of repetitions, or of digits
+};
+
+using S = WorkingSettings;
+
+// A use has to be read before the keys of its element.
+constexpr Row rows[] = {
+    {"TRACK/POINTS/useMoveSens", 1, [](S& s, int) -> int& { return s.track.startAndStop; }},
+    {"TRACK/POINTS/useMaxSpeed", 0, [](S& s, int) -> int& { return s.track.speeding; }},
+    {"TRACK/POINTS/maxSpeed", 100, [](S& s, int) -> int& { return s.track.maxSpeed; }},
+    {"TRACK/POINTS/angleMode", 2, [](S& s, int) -> int& { return s.track.angleMode; }},
+    {"TRACK/POINTS/angle", 5, [](S& s, int) -> int& { return s.track.angle; }},
+    {"TRACK/POINTS/useDist", 1, [](S& s, int) -> int& { return s.track.byDistance; }},
+    {"TRACK/POINTS/dist", 500, [](S& s, int) -> int& { return s.track.distance; }},
+    {"TRACK/POINTS/useTimer", 1, [](S& s, int) -> int& { return s.track.byTime; }},
+    {"TRACK/POINTS/moveTimer", 60, [](S& s, int) -> int& { return s.track.moveTime; }},
+    {"TRACK/POINTS/moveTimerSens", 0,
+     [](S& s, int i) -> int& { return i == 0 ? s.track.ignitionIsMoving : s.track.engineIsMoving; },
+     Kind::Digits, 2},
+    {"TRACK/POINTS/stopTimer", 600, [](S& s, int) -> int& { return s.track.stopTime; }},
+    {"TRACK/LIMPOINT/blockDist", 1, [](S& s, int) -> int& { return s.track.leastDistanceOn; }},
+    {"TRACK/LIMPOINT/dist", 10, [](S& s, int) -> int& { return s.track.leastDistance; }},
+    {"TRACK/LIMPOINT/blockTimer", 0, [](S& s, int) -> int& { return s.track.leastTimeOn; }},
+    {"TRACK/LIMPOINT/timer", 5, [](S& s, int) -> int& { return s.track.leastTime; }},
+    {"TRACK/MOVESENS/stopTimer", 30, [](S& s, int) -> int& { return s.track.stopAfter; }},
+
+    {"SENSORS/IN%1/normState", 0, [](S& s, int i) -> int& { return s.lines[i].use; }, Kind::Use, 3},
+    {"SENSORS/IN%1/IN%1%2/ign", 1, [](S& s, int i) -> int& { return s.lines[i].ignition; }, Kind::Number, 3},
+    {"SENSORS/IN%1/IN%1%2/cntlRestore", 1, [](S& s, int i) -> int& { return s.lines[i].restores; },
+     Kind::Number, 3},
+    {"SENSORS/IN%1/IN%1%2/lowLvl", 5000, [](S& s, int i) -> int& { return s.lines[i].low; }, Kind::Number, 3},
+    {"SENSORS/IN%1/IN%1%2/highLvl", 6000, [](S& s, int i) -> int& { return s.lines[i].high; }, Kind::Number,
+     3},
+    {"SENSORS/IN%1/IN%1%2/thld", 2000, [](S& s, int i) -> int& { return s.lines[i].change; }, Kind::Number,
+     3},
+    {"SENSORS/IN%1/IN%1%2/trhldOff", 1, [](S& s, int i) -> int& { return s.lines[i].stillOnly; },
+     Kind::Number, 3},
+
+    {"SYSTEM/PWRSENS/line", 0, [](S& s, int) -> int& { return s.supply.line; }},
+    {"SYSTEM/PWRSENS/alarmLvl", 10500, [](S& s, int) -> int& { return s.supply.alarm; }},
+    {"SYSTEM/PWRSENS/restoreLvl", 11000, [](S& s, int) -> int& { return s.supply.restore; }},
+    {"SYSTEM/PWRSENS/delay", 0, [](S& s, int) -> int& { return s.supply.delay; }},
+    {"SYSTEM/ENGSENS/useCustom", 0, [](S& s, int) -> int& { return s.supply.ownEngineLevel; }},
+    {"SYSTEM/ENGSENS/voltageLvl", 13200, [](S& s, int) -> int& { return s.supply.engineLevel; }},
+
+    {"TEMPSENS/SENS%1/min", -5000, [](S& s, int i) -> int& { return s.zones[i].low; }, Kind::Hundredths, 4},
+    {"TEMPSENS/SENS%1/max", 12000, [](S& s, int i) -> int& { return s.zones[i].high; }, Kind::Hundredths, 4},
+    {"TEMPSENS/SENS%1/hyst", 500, [](S& s, int i) -> int& { return s.zones[i].hysteresis; }, Kind::Hundredths,
+     4},
+
+    {"ACCEL/SENSORS/sh1", 5000, [](S& s, int) -> int& { return s.shockLevels[0]; }, Kind::Hundredths},
+    {"ACCEL/SENSORS/sh2", 10000, [](S& s, int) -> int& { return s.shockLevels[1]; }, Kind::Hundredths},
+    {"ACCEL/SENSORS/sh3", 200, [](S& s, int) -> int& { return s.shockLevels[2]; }, Kind::Hundredths},
+    {"ACCEL/SENSORS/sh4", 2500, [](S& s, int) -> int& { return s.shockLevels[3]; }, Kind::Hundredths},
+
+    {"OUTPUTS/LINE1/mode", 0, [](S& s, int) -> int& { return s.output.use; }, Kind::General},
+    {"OUTPUTS/LINE1/actions", 0, [](S& s, int i) -> int& { return s.output.actions[i]; }, Kind::Digits, 20},
+    {"OUTPUTS/LINE1/signalForm", 0, [](S& s, int) -> int& { return s.output.form; }},
+    {"OUTPUTS/LINE1/onPeriod", 0, [](S& s, int) -> int& { return s.output.onPeriod; }},
+    {"OUTPUTS/LINE1/offPeriod", 0, [](S& s, int) -> int& { return s.output.offPeriod; }},
+    {"OUTPUTS/LINE1/autoOff", 0, [](S& s, int) -> int& { return s.output.stops; }},
+    {"OUTPUTS/LINE1/autoOffDelay", 0, [](S& s, int) -> int& { return s.output.stopsAfter; }},
+};
+
+// A number that an int of the tracker's holds, whatever stands there.
+int hundredths(const QString& text, int absent)
+{
+    bool good = false;
+    const double number = text.toDouble(&good);
+    return good && std::abs(number) < 1e6 ? static_cast<int>(std::lround(number * 100)) : absent;
+}
+
+int useOf(const QString& code)
+{
+    const auto found = std::find_if(std::begin(lineUses), std::end(lineUses),
+                                    [&](const UseCode& use) { return code == QLatin1String(use.code); });
+    return found == std::end(lineUses) ? 0 : static_cast<int>(found - lineUses);
+}
+
+int valueOf(const Row& row, const QString& path, int index, const ConfigurationValues& values)
+{
+    const QString text = values.text(path);
+    switch (row.kind) {
+    case Kind::Hundredths:
+        return hundredths(text, row.absent);
+    case Kind::Digits:
+        return index < text.size() ? std::max(0, text.at(index).digitValue()) : row.absent;
+    case Kind::Use:
+        return useOf(text);
+    case Kind::General:
+        return text == QLatin1String("GP");
+    case Kind::Number:
+        break;
+    }
+    return values.number(path, row.absent);
+}
+
+template <typename Do>
+void walk(const Do& each)
+{
+    for (const Row& row : rows)
+        for (int i = 0; i < row.count; ++i)
+            each(row, i);
+}
+
+// Under which a value is kept; digits need their place behind it.
+QString keptName(const Row& row, int index)
+{
+    QString name = QLatin1String(row.path);
+    name.remove(QStringLiteral("/IN%1%2")).replace(QStringLiteral("%1"), QString::number(index + 1));
+    return row.kind == Kind::Digits ? name + QString::number(index) : name;
+}
+
+} // namespace
+
+double TrackRules::turn(double speed) const
+{
+    // The same sideways step off the road, be it driven fast or slowly.
+    constexpr double least = 5;
+    constexpr double most = 30;
+    constexpr double degreesTimesSpeed = 300;
+    if (angleMode == 1)
+        return angle;
+    return angleMode == 2 ? std::clamp(degreesTimesSpeed / std::max(speed, 1.0), least, most) : 0;
+}
+
+bool LineRules::triggered(double millivolts, bool before) const
+{
+    const bool high = is(LineUse::OpenPlus) || is(LineUse::ClosedMinus);
+    const bool low = is(LineUse::ClosedPlus) || is(LineUse::OpenMinus);
+    if (millivolts >= this->high)
+        return high;
+    if (millivolts <= this->low)
+        return low;
+    return before && (high || low);
+}
+
+WorkingSettings WorkingSettings::of(const ConfigurationValues& values)
+{
+    WorkingSettings result;
+    walk([&](const Row& row, int i) {
+        QString path = QLatin1String(row.path);
+        if (row.kind != Kind::Digits)
+            path.replace(QLatin1String("%1"), QString::number(i + 1));
+        if (path.contains(QLatin1String("%2")))
+            path.replace(QLatin1String("%2"), QLatin1String(lineUses[result.lines[i].use].element));
+        row.value(result, i) = valueOf(row, path, i, values);
+    });
+    return result;
+}
+
+WorkingSettings WorkingSettings::load(const QSettings& file)
+{
+    WorkingSettings result;
+    walk([&](const Row& row, int i) {
+        row.value(result, i) = file.value(keptName(row, i), row.absent).toInt();
+        if (row.kind == Kind::Use)
+            row.value(result, i) =
+                std::clamp(row.value(result, i), 0, static_cast<int>(std::size(lineUses)) - 1);
+    });
+    return result;
+}
+
+void WorkingSettings::save(QSettings& file) const
+{
+    WorkingSettings copy = *this;
+    walk([&](const Row& row, int i) { file.setValue(keptName(row, i), row.value(copy, i)); });
+}
+
+bool WorkingSettings::operator==(const WorkingSettings& other) const
+{
+    WorkingSettings one = *this;
+    WorkingSettings two = other;
+    bool same = true;
+    walk([&](const Row& row, int i) { same = same && row.value(one, i) == row.value(two, i); });
+    return same;
+}
+
+} // namespace tracker

@@ -1,0 +1,104 @@
+#pragma once
+
+// What of its configuration the tracker measures and records by: track points, input lines, supply sensor,
+// temperature zones, accelerometer levels and the output line. Missing keys have the values that the tracker
+// itself takes for them. Voltages are millivolts, times seconds, ways metres.
+
+#include <QSettings>
+
+#include <array>
+
+namespace tracker {
+
+class ConfigurationValues;
+
+struct TrackRules
+{
+    int startAndStop = 0;
+    int stopAfter = 0; // a shorter stop does not count
+    int speeding = 0;
+    int maxSpeed = 0;  // km/h
+    int angleMode = 0; // 1 by `angle`, 2 by an angle that suits the speed
+    int angle = 0;     // degrees
+    int byDistance = 0;
+    int distance = 0;
+    int byTime = 0;
+    int moveTime = 0; // 0 makes no points, neither does a stopTime of 0
+    int stopTime = 0;
+    int ignitionIsMoving = 0; // for moveTime
+    int engineIsMoving = 0;
+    // Points on the move that are too near to the last one are left out.
+    int leastDistanceOn = 0;
+    int leastDistance = 0;
+    int leastTimeOn = 0;
+    int leastTime = 0;
+
+    // Degrees that make a point at a speed in km/h, 0 for none.
+    double turn(double speed) const;
+};
+
+// In the order of the codes in lineUses.
+enum class LineUse { None, ClosedMinus, OpenMinus, ClosedPlus, OpenPlus, Analogue };
+
+struct LineRules
+{
+    int use = 0; // LineUse
+    int ignition = 0;
+    int restores = 0; // the end of a trigger is an event too
+    int low = 0;
+    int high = 0;
+    int change = 0; // of an analogue input that is an event
+    int stillOnly = 0;
+
+    bool is(LineUse wanted) const { return use == static_cast<int>(wanted); }
+    // At this voltage, after it was or was not triggered: between the levels nothing changes.
+    bool triggered(double millivolts, bool before) const;
+};
+
+struct SupplyRules
+{
+    int line = 0; // 3: AIN3 is joined to the supply, else there is no sensor
+    int alarm = 0;
+    int restore = 0;
+    int delay = 0;
+    int ownEngineLevel = 0;
+    int engineLevel = 0;
+
+    bool used() const { return line == 3; }
+};
+
+struct TemperatureZone
+{
+    int low = 0; // hundredths of a degree, as all of these
+    int high = 0;
+    int hysteresis = 0;
+};
+
+struct OutputRules
+{
+    int use = 0; // 1 for a general purpose, the only one that events switch
+    std::array<int, 20> actions{};
+    int form = 0; // 0 lasting, 1 one pulse, 2 periodic
+    int onPeriod = 0;
+    int offPeriod = 0;
+    int stops = 0; // the periodic form, by itself
+    int stopsAfter = 0;
+};
+
+struct WorkingSettings
+{
+    TrackRules track;
+    std::array<LineRules, 3> lines;
+    SupplyRules supply;
+    std::array<TemperatureZone, 4> zones;
+    std::array<int, 4> shockLevels{}; // SH1 to SH3 hundredths of a percent, SH4 of a degree
+    OutputRules output;
+
+    static WorkingSettings of(const ConfigurationValues& values);
+    // The same in the current group of a settings file.
+    static WorkingSettings load(const QSettings& file);
+    void save(QSettings& file) const;
+    bool operator==(const WorkingSettings& other) const;
+};
+
+} // namespace tracker
