@@ -141,6 +141,42 @@ private Q_SLOTS:
         QVERIFY2(count >= atLeast && count <= atMost, QByteArray::number(count).constData());
     }
 
+    // Voltages asked for live are those of the lines in the records, and an output follows its events.
+    void linesAndOutputAgreeWithTheLiveAnswers()
+    {
+        BenchTracker bench;
+        bench.tracker->setFullDataSet(true);
+        QByteArray document = bench.configuration();
+        document.replace("<PWRSENS line=\"0\" alarmLvl=\"10500\" restoreLvl=\"11000\"",
+                         "<PWRSENS line=\"3\" alarmLvl=\"12900\" restoreLvl=\"13200\"");
+        // Off with the ignition's voltage, on without it.
+        document.replace("mode=\"ZUM\" actions=\"00000000000000000000\"",
+                         "mode=\"GP\" actions=\"00000000012000000000\"");
+        QVERIFY(bench.write(document).accepted);
+        int on = 0;
+        for (int hour = 1; hour <= 24; ++hour) {
+            bench.now += 3600;
+            const QByteArray record = bench.ask(Message::RequestCurrentRecord).first.mid(3);
+            QByteArray list("21,22,23");
+            QByteArray told = "LINES: ";
+            for (int i = 0; i < 3; ++i)
+                told +=
+                    QByteArray::number(21 + i) + ':' +
+                    QByteArray::number(
+                        at<quint16>(record, head + vlk::kElements[element("StateU_Ain1")].offset + 2 * i), 16)
+                        .toUpper() +
+                    (i < 2 ? "," : "");
+            QCOMPARE(bench.ask(Message::RequestLines, &list).first, told);
+            const auto supply = value<quint16>(record, element("Power"));
+            QCOMPARE(at<quint16>(bench.ask(Message::RequestSupply).first, 14), supply);
+            QCOMPARE(value<quint16>(record, element("StateU_Ain3")), supply);
+            const bool output = value<quint8>(record, element("StateOut1")) & 1;
+            QCOMPARE(output, supply < 12900);
+            on += output;
+        }
+        QVERIFY(on > 0 && on < 24);
+    }
+
     void recordsHoldWhatTheConfigurationAsksFor_data()
     {
         DataTable<QByteArray, int, int>({"format", "fields", "switched"})
