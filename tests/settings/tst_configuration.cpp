@@ -31,8 +31,9 @@ private Q_SLOTS:
                                                    ? configuration_.setting(configuration_.holder(index))
                                                    : *row.setting)) {
             QVector<QPair<QString, QString>> values = {{row.path, sample}};
-            const QByteArray first =
-                readAndWritten(configuration_, documentWith(presenceOf(configuration_, index) + values));
+            const QByteArray first = savedAgain(
+                configuration_,
+                readAndWritten(configuration_, documentWith(presenceOf(configuration_, index) + values)));
             QCOMPARE(readAndWritten(configuration_, first), first);
 
             configuration_.reset();
