@@ -10,10 +10,14 @@ namespace tracker {
 class Vehicle
 {
 public:
-    Vehicle(const Moment& moment, const Controls& controls) : m(moment), c(controls) {}
+    Vehicle(const Moment& moment, const Controls& controls, const Links& links = {})
+        : m(moment), c(controls), links(links)
+    {
+    }
 
     const Moment m;
     const Controls c;
+    const Links links;
 
     bool driving() const { return m.activity == Activity::Driving; }
     bool running() const { return m.ignition(); }
@@ -38,7 +42,9 @@ public:
     double inputs() const;
     double frequency(int index) const;
 
-    double fuelSensor(int sensor) const; // 0 to 4095
+    // What is in a tank into which nobody has poured, in litres.
+    double fuelLeft(std::size_t tank) const;
+    double fuelSensor(int sensor) const; // D1 to D6, 0 to 4095
     double fuelPercent() const;          // with the flag that says percent
     double flow() const;                 // 0.1 litre an hour
 
