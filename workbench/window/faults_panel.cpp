@@ -80,7 +80,7 @@ void FaultsPanel::addDelay(QVBoxLayout* column)
     delay->setObjectName(QStringLiteral("spinBox_Delay"));
     delay->setRange(0, longestDelayMs);
     delay->setSingleStep(100);
-    texts_.bind([delay] { delay->setSuffix(QLatin1Char(' ') + vlk::text("wb_unit_ms")); });
+    texts_.bind([delay] { delay->setSuffix(QLatin1Char(' ') + vlk::text("abbr_040")); });
     connect(delay, QOverload<int>::of(&QSpinBox::valueChanged), this,
             [this](int ms) { change(&Faults::delayMs, ms); });
     states_.emplace_back([this, delay] { delay->setValue(tracker_.faults().delayMs); });

@@ -77,8 +77,9 @@ HostSession::Fetched HostSession::fetchConfiguration()
     if (const auto problem = vlk::checkConfiguration(reading.document, tracker_.model()))
         return {sentences({text("wb_why_answer"), vlk::reasonOf(*problem), text("wb_do_cable")}), {}, {}};
     QSaveFile file(readFiles_.filePath(QStringLiteral("tracker.xml")));
-    if (!vlk::saveWhole(file, reading.document))
-        return {sentences({text("wb_why_disk").arg(file.errorString()), text("wb_do_disk")}), {}, {}};
+    QString reason;
+    if (!vlk::saveWhole(file, reading.document, &reason))
+        return {sentences({text("wb_why_disk").arg(reason), text("wb_do_disk")}), {}, {}};
     return {{}, reading.document, file.fileName()};
 }
 
