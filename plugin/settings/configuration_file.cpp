@@ -74,6 +74,7 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
         if (!setting.stored)
             values_[index] = normalise(setting, loadDefault(setting), values_[index], limits(index)).value;
     }
+    QMap<int, QString> read;
     std::vector<std::pair<int, CXmlSectionPtr>> late;
     for (const TableLayout::Group& group : layout.groups) {
         if (!holds(part, group.present))
@@ -85,7 +86,7 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
             if (layout.rows[row].setting->last)
                 late.emplace_back(row, elementOf(*section, group.path));
             else
-                readRow(part, row, *element, notes);
+                readRow(part, row, *element, &read, notes);
         }
         QStringList inside;
         for (const TableLayout::Group& other : layout.groups) {
@@ -97,15 +98,18 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
                       inside, notes);
     }
     for (const auto& [row, element] : late)
-        readRow(part, row, *element, notes);
+        readRow(part, row, *element, &read, notes);
     derive(part);
-    std::vector<int> bound;
-    keepBounds(part, &bound);
-    for (const int index : bound)
-        notes->push_back({ReadNote::What::value, path(index), index, {}, values_[index], Change::byRule});
+    keepBounds(part, nullptr);
+    for (auto taken = read.cbegin(); taken != read.cend(); ++taken) {
+        const QString& value = values_[taken.key()];
+        if (value != *taken)
+            notes->push_back(
+                {ReadNote::What::value, path(taken.key()), taken.key(), *taken, value, Change::byRule});
+    }
 }
 
-void Configuration::readRow(const Part& part, int row, const CXmlSection& element,
+void Configuration::readRow(const Part& part, int row, const CXmlSection& element, QMap<int, QString>* read,
                             std::vector<ReadNote>* notes)
 {
     const TableLayout::Row& place = part.layout->rows[row];
@@ -125,6 +129,9 @@ void Configuration::readRow(const Part& part, int row, const CXmlSection& elemen
         taken = {bound, bound == text ? Change::none : Change::byRule};
     }
     assign(part, place.target, taken.value, nullptr);
+    if (values_[index] != taken.value)
+        taken.change = Change::byRule; // no room for it beside another one
+    read->insert(index, values_[index]);
     if (!found)
         notes->push_back(
             {ReadNote::What::value, place.path, part.first + row, {}, values_[index], Change::missing});
