@@ -110,6 +110,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<QStringList>("files");
         QTest::newRow("TRANS") << QStringList{"transfer"};
+        QTest::newRow("TEMPSENS") << QStringList{"temperature"};
+        QTest::newRow("ACCEL") << QStringList{"accel"};
+        QTest::newRow("OUTPUTS") << QStringList{"lines_out"};
     }
     void pages()
     {
