@@ -88,9 +88,7 @@ VLK_Form_Config_Accel_Virtual::Sensor VLK_Form_Config_Accel_Virtual::makeSensor(
                         named<QLineEdit>("lineEdit_CurLevel_SH%1", number)};
     sensor.levelSlider->setPageStep(kScales[index].levelPage);
     sensor.present->setRange(0, kScales[index].presentEnd);
-    sensor.present->setTickInterval(kScales[index].presentEnd / kTicks);
     sensor.presentText->setReadOnly(true);
-    sensor.presentText->setAlignment(Qt::AlignRight);
     connect(sensor.presentText, &QLineEdit::textChanged, this,
             [this, number](const QString& text) { slot_textChanged_LineEdit_CurLevel_SH(number, text); });
 
@@ -129,6 +127,9 @@ void VLK_Form_Config_Accel_Virtual::retranslate()
     ui_->retranslateUi(this);
     ui_->spinBox_Auto_TimeOut->setSuffix(QLatin1Char(' ') + tr("abbr_003"));
     settings_.retranslate();
+    int width = 0;
+    for (const Sensor& sensor : sensors_)
+        width = qMax(width, sensor.level->sizeHint().width());
     for (std::size_t i = 0; i < sensors_.size(); ++i) {
         const Sensor& sensor = sensors_[i];
         const QString name = QStringLiteral("%1 %2").arg(
@@ -136,6 +137,9 @@ void VLK_Form_Config_Accel_Virtual::retranslate()
         sensor.present->setAccessibleName(name);
         sensor.presentText->setAccessibleName(name);
         showPresent(i, numberIn(sensor.presentText->text()));
+        sensor.presentText->setFixedWidth(width);
+        for (QSlider* slider : {sensor.levelSlider, sensor.present})
+            slider->setTickInterval(slider->maximum() / kTicks);
     }
 }
 

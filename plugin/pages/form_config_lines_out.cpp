@@ -24,7 +24,7 @@ void VLK_Form_Config_Lines_Out::retranslate()
     ui_->groupBox_O1->setTitle(QStringLiteral("%1 O1").arg(tr("cfgt10_048")));
     settings_.retranslate();
     vlk::alignColumns({ui_->gridLayout_O1, ui_->gridLayout_ActivePhase, ui_->gridLayout_PassivePhase,
-                       ui_->gridLayout_TimeAutoSwitchOff},
+                       ui_->gridLayout_TimeAutoSwitchOff, ui_->gridLayout_AutoSwitch_O1},
                       2);
 }
 

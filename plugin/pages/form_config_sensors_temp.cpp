@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr int kGap = 24; // between a number and the caption of the next one
+constexpr int kGap = 12; // between what does not belong together
 
 template <class Widget>
 Widget* named(const char* name, int number)
@@ -66,6 +66,7 @@ VLK_Form_Config_Sensors_Temp::Sensor VLK_Form_Config_Sensors_Temp::makeSensor(in
     form->setObjectName(QStringLiteral("formLayout_Temp_%1").arg(number));
     form->addRow(slider);
     auto* scale = new QHBoxLayout;
+    scale->setSpacing(kGap);
     scale->addWidget(sensor.zones[0]);
     scale->addWidget(sensor.lowEnd);
     scale->addLayout(form, 1);
