@@ -10,6 +10,8 @@
 #include "xml/xml_document.h"
 
 #include <QFileInfo>
+#include <QScreen>
+#include <QStyle>
 
 VLK_Widget_Config::VLK_Widget_Config(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
@@ -47,7 +49,20 @@ void VLK_Widget_Config::open(const vlk::OpenRequest& request, char* ussdBuffer)
     }
     setWindowTitle(title);
     ui_->stackedWidget->setCurrentWidget(request.showFull == 1 ? ui_->page_Full : ui_->page_Light);
+    fitToScreen();
     show();
+    if (request.showFull == 1)
+        fullWindow_->focusFirstField();
+}
+
+// The least size counts in pixels of the screen, so that where everything is drawn larger the window still
+// finds room.
+void VLK_Widget_Config::fitToScreen()
+{
+    const QSize least = QSize(1024, 600) / devicePixelRatioF();
+    const int titleBar = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
+    setMinimumSize(least);
+    resize(size().boundedTo(screen()->availableSize() - QSize(0, titleBar)).expandedTo(least));
 }
 
 void VLK_Widget_Config::deviceConnected()

@@ -14,7 +14,6 @@
 #include "settings/table_layout.h"
 
 #include <QHash>
-#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -104,9 +103,7 @@ private:
     double gapOf(const Part& part, const TableLayout::Distance& rule) const;
     void resetPart(const Part& part);
     void readPart(const Part& part, const CXmlSection& root, std::vector<ReadNote>* notes);
-    // Adds the value that it took, by its index, to `read`.
-    void readRow(const Part& part, int row, const CXmlSection& element, QMap<int, QString>* read,
-                 std::vector<ReadNote>* notes);
+    void readRow(const Part& part, int row, const CXmlSection& element, std::vector<ReadNote>* notes);
     void writePart(const Part& part, CXmlSection& root) const;
 
     void put(int index, const QString& value, std::vector<int>* changed);

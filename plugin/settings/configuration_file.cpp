@@ -74,7 +74,7 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
         if (!setting.stored)
             values_[index] = normalise(setting, loadDefault(setting), values_[index], limits(index)).value;
     }
-    QMap<int, QString> read;
+    std::vector<ReadNote> taken;
     std::vector<std::pair<int, CXmlSectionPtr>> late;
     for (const TableLayout::Group& group : layout.groups) {
         if (!holds(part, group.present))
@@ -86,7 +86,7 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
             if (layout.rows[row].setting->last)
                 late.emplace_back(row, elementOf(*section, group.path));
             else
-                readRow(part, row, *element, &read, notes);
+                readRow(part, row, *element, &taken);
         }
         QStringList inside;
         for (const TableLayout::Group& other : layout.groups) {
@@ -98,18 +98,21 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
                       inside, notes);
     }
     for (const auto& [row, element] : late)
-        readRow(part, row, *element, &read, notes);
+        readRow(part, row, *element, &taken);
     derive(part);
     keepBounds(part, nullptr);
-    for (auto taken = read.cbegin(); taken != read.cend(); ++taken) {
-        const QString& value = values_[taken.key()];
-        if (value != *taken)
-            notes->push_back(
-                {ReadNote::What::value, path(taken.key()), taken.key(), *taken, value, Change::byRule});
+    // A value may have found no room beside another, or what came later has moved it.
+    for (ReadNote& note : taken) {
+        if (const QString& held = value(note.index); held != note.value) {
+            note.value = held;
+            note.change = Change::byRule;
+        }
+        if (note.change != Change::none)
+            notes->push_back(note);
     }
 }
 
-void Configuration::readRow(const Part& part, int row, const CXmlSection& element, QMap<int, QString>* read,
+void Configuration::readRow(const Part& part, int row, const CXmlSection& element,
                             std::vector<ReadNote>* notes)
 {
     const TableLayout::Row& place = part.layout->rows[row];
@@ -129,15 +132,8 @@ void Configuration::readRow(const Part& part, int row, const CXmlSection& elemen
         taken = {bound, bound == text ? Change::none : Change::byRule};
     }
     assign(part, place.target, taken.value, nullptr);
-    if (values_[index] != taken.value)
-        taken.change = Change::byRule; // no room for it beside another one
-    read->insert(index, values_[index]);
-    if (!found)
-        notes->push_back(
-            {ReadNote::What::value, place.path, part.first + row, {}, values_[index], Change::missing});
-    else if (taken.change != Change::none)
-        notes->push_back(
-            {ReadNote::What::value, place.path, part.first + row, text, values_[index], taken.change});
+    notes->push_back({ReadNote::What::value, place.path, part.first + row, found ? text : QString(),
+                      taken.value, found ? taken.change : Change::missing});
     pull(part, place.target, true, nullptr);
 }
 

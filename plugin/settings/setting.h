@@ -126,8 +126,8 @@ struct Setting
     std::int32_t wrap = 0;    // of a period: what is beyond so many seconds is dropped
     std::span<const Code> codes{};
     const char* offers = nullptr;   // codes of the list, "NU|NS+"; null: those with `offered`
-    const char* fallback = nullptr; // what an unknown code stands for; null: `none`
-    const char* none = nullptr; // saved for a code that is not offered; null: `fallback`, or the value stays
+    const char* fallback = nullptr; // what an unknown code stands for, or `none`; null: the value stays
+    const char* none = nullptr; // saved for a code that is not offered, or `fallback`; null: the value stays
     bool numeric = false;       // codes are compared as numbers
     std::span<const PeriodPart> parts{};
     std::span<const Position> positions{};

@@ -36,6 +36,7 @@ public:
     // Starts anew with the tracker of this configuration file, and asks for the first record.
     void open(const QString& configurationPath);
     void deviceConnected() { setTitle(); }
+    // Ends whatever runs, also in a window that is closed already.
     void deviceDisconnected() { close(); }
     void retranslate();
 
@@ -47,6 +48,9 @@ public:
     void takeRfid(quint64 number, qint8 signal);
     void takeTachographAnswer(const QByteArray& answer);
     void takeTachographFetched(bool done);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
 
 private Q_SLOTS:
     void slot_pressed_GetCurrent();
@@ -80,8 +84,9 @@ private Q_SLOTS:
 private:
     void setTitle();
     void connectControls();
-    // Off while records are requested automatically, and while a period is saved.
-    void setManualEnabled(bool enabled);
+    // What the user may not press while records are requested automatically, and while a period is saved. The
+    // tool tips say why: the text of `reasonKey`, null when the controls are free.
+    void setManualBlocked(const char* reasonKey);
     void stopRequests();
     void startSave(SaveSequence::Mode mode);
     // Asks for a record by number; a walking button that is held down waits for each answer.
@@ -99,4 +104,5 @@ private:
     int timeOffset_ = 0; // seconds east of UTC
     quint32 highestNumber_ = 0;
     quint32 lastWalk_ = 0;
+    const char* blockedBy_ = nullptr;
 };

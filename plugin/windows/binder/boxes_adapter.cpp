@@ -19,10 +19,13 @@ ExclusiveAdapter::ExclusiveAdapter(Binder& binder, int index, std::vector<QWidge
             continue;
         own(boxes_[i]);
         onToggled(boxes_[i], this, [this, i](bool on) {
-            if (on)
+            if (on) {
                 edited(QString::fromLatin1(setting().codes[i].code));
-            else if (!qobject_cast<QRadioButton*>(boxes_[i]))
+                // Check boxes do not uncheck each other.
+                show(configuration().value(this->index()));
+            } else if (!qobject_cast<QRadioButton*>(boxes_[i])) {
                 take();
+            }
         });
     }
 }
