@@ -79,6 +79,6 @@ private:
     int tabIndex_ = -1;
     bool monitoring_ = false;
     bool pending_ = false; // present values are awaited
-    QTimer query_;
+    QTimer query_{this};
     vlk::PageSettings settings_;
 };
