@@ -2,6 +2,7 @@
 #include "window/configuration_tour.h"
 #include "window/data_folder.h"
 #include "window/files_tour.h"
+#include "window/fuel_tour.h"
 #include "window/installed_files.h"
 #include "window/line_icon.h"
 #include "window/settings.h"
@@ -51,6 +52,7 @@ bool runTour(WorkbenchWindow& window, const QString& folder)
     Tour tour(window, folder);
     tour.add(vlk::configurationTour());
     tour.add(vlk::telemetryTour());
+    tour.add(vlk::fuelTour());
     tour.add(vlk::filesTour());
     return tour.run();
 }

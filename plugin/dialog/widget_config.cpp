@@ -7,11 +7,10 @@
 #include "dialog/widget_config_light.h"
 #include "link/device.h"
 #include "link/requests.h"
+#include "windows/fit_to_screen.h"
 #include "xml/xml_document.h"
 
 #include <QFileInfo>
-#include <QScreen>
-#include <QStyle>
 
 VLK_Widget_Config::VLK_Widget_Config(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
@@ -49,20 +48,12 @@ void VLK_Widget_Config::open(const vlk::OpenRequest& request, char* ussdBuffer)
     }
     setWindowTitle(title);
     ui_->stackedWidget->setCurrentWidget(request.showFull == 1 ? ui_->page_Full : ui_->page_Light);
-    fitToScreen();
+    // The least size counts in pixels of the screen, so that the window has room where everything is larger.
+    setMinimumSize(QSize(1024, 600) / devicePixelRatioF());
+    vlk::fitToScreen(this);
     show();
     if (request.showFull == 1)
         fullWindow_->focusFirstField();
-}
-
-// The least size counts in pixels of the screen, so that where everything is drawn larger the window still
-// finds room.
-void VLK_Widget_Config::fitToScreen()
-{
-    const QSize least = QSize(1024, 600) / devicePixelRatioF();
-    const int titleBar = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
-    setMinimumSize(least);
-    resize(size().boundedTo(screen()->availableSize() - QSize(0, titleBar)).expandedTo(least));
 }
 
 void VLK_Widget_Config::deviceConnected()

@@ -45,8 +45,6 @@ public:
     VLK_Widget_Config_Full* fullWindow() const { return fullWindow_; }
 
 private:
-    void fitToScreen();
-
     std::unique_ptr<Ui::VLK_Designer_Widget_Config> ui_;
     VLK_Widget_Config_Light* lightWindow_;
     VLK_Widget_Config_Full* fullWindow_;

@@ -207,5 +207,5 @@ void VLK_Device_R7106::closeWindows()
     if (configDialog_)
         configDialog_->close();
     if (telemetryView_)
-        telemetryView_->close();
+        telemetryView_->closeWindows();
 }

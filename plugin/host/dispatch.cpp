@@ -142,6 +142,8 @@ constexpr Entry table[] = {
     {Message::SupplyValues, &bytesToConfig<&Answers::takeSupply>},
     {Message::AnalogRecord,
      [](VLK_Device_R7106& device, const Parameters& parameters) {
+         if (device.telemetryView() && !device.telemetryView()->isHidden())
+             device.telemetryView()->takeAnalog(static_cast<const uchar*>(parameters.p1));
          if (device.configDialog() && !device.configDialog()->isHidden())
              bytesToConfig<&Answers::takeAnalog>(device, parameters);
      }},

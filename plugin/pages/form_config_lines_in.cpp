@@ -68,7 +68,7 @@ void VLK_Form_Config_Lines_In::setDefaults()
 
 void VLK_Form_Config_Lines_In::showUses()
 {
-    for (std::size_t line = 0; line < lines_.size(); ++line)
+    for (std::size_t line = 0; line < std::size(kUses); ++line)
         lines_[line]->setUse(settings_.value(kUses[line]));
 }
 

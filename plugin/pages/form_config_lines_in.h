@@ -55,6 +55,6 @@ private:
     void showUses();
 
     std::unique_ptr<Ui::VLK_Designer_Form_Config_Lines_In> ui_;
-    std::array<VLK_Form_Lines_In_Settings*, 3> lines_;
+    std::array<VLK_Form_Lines_In_Settings*, 3> lines_{};
     vlk::PageSettings settings_;
 };

@@ -1,8 +1,9 @@
 #pragma once
 
 // The settings of the section SENSORS: name and use of the three input lines, and below each line the element
-// that its use asks for (IN1/IN1DIN and so on). This tracker's lists offer the discrete uses, and on the
-// third line the analogue one; the elements of the other uses are known for the files of its sisters.
+// that its use asks for (IN1/IN1DIN and so on). The lists offer the discrete uses, and on the third line the
+// analogue one; the other uses (pulses, frequency, tachometer) have their rows and widgets, but no line
+// offers them.
 //
 // What several uses of a line share (ignition, restore, threshold) is one value of the line, not stored
 // itself; each element that has the key links to it.

@@ -73,10 +73,11 @@ constexpr auto kRows =
            choice("mode", kUses, "ZUM")
                .resetTo("GP")
                .offering("GP|ZUM")
+               .unknownIs("N/A")
                .noItemIs("N/A")
                .in("comboBox_UseAs_O1")
                .caption("cfgt10_022"),
-           choice("use", kUses, "GP").noItemIs("N/A").notStored(),
+           choice("use", kUses, "GP").unknownIs("N/A").noItemIs("N/A").notStored(),
            digits("actions", "00000000000000000000", kEvents).listing(kActions),
            choice("signalForm", kSignalForms, "0")
                .byNumber()

@@ -93,15 +93,12 @@ const Code* find(const Setting& setting, const QString& text)
 
 Normalised chosen(const Setting& setting, const QString& text, const QString& before, const char* offers)
 {
-    const auto first = [&](const char* wanted, const char* other) {
-        const char* taken = wanted ? wanted : other;
-        return taken ? QString::fromLatin1(taken) : before;
-    };
+    const QString fallback = setting.fallback ? QString::fromLatin1(setting.fallback) : before;
     const Code* code = find(setting, text);
     if (!code)
-        return noted(first(setting.fallback, setting.none), text, Change::unknownCode);
+        return noted(fallback, text, Change::unknownCode);
     if (!offersCode(setting, *code, offers))
-        return noted(first(setting.none, setting.fallback), text, Change::notOffered);
+        return noted(setting.none ? QString::fromLatin1(setting.none) : fallback, text, Change::notOffered);
     return noted(QString::fromLatin1(code->code), text, Change::otherForm);
 }
 

@@ -31,7 +31,8 @@ constexpr auto kRows = rowsOf(
     integer("offOr", 0).range(1, 300).offAtZero("box"), real("real", 2.5, 1).range(0.1, 100).readSingle(),
     volts("volts", 8000).range(0, 31), text("text", "x").upTo(5), text("model", DefaultText{"%1 IN", "key"}),
     choice("use", kUses, "NU").unknownIs("NU").noItemIs("N/A"), choice("number", kNumbers, "1").byNumber(),
-    choice("form", kNumbers, "0").byNumber().unknownIs("1"), choice("item", kUses, "NU").noItemIs("N/A"),
+    choice("form", kNumbers, "0").byNumber().unknownIs("1"),
+    choice("chosen", kNumbers, "1").byNumber().unknownIs("9").noItemIs("9"),
     choice("satellites", kPatterns, "11000"), period("period", 3600, kParts),
     period("wrapped", 3600, kParts).wrapping(86400), period("least", 3600, kParts).atLeast(300),
     digits("digits", "101", kBoxes), digits("lists", "201", kLists), bits("bits", 5, kBoxes),
@@ -110,11 +111,10 @@ private Q_SLOTS:
         table.row("offered", "use", "AIN", "AIN", Change::none);
         table.row("known, not offered", "use", "PLS", "N/A", Change::notOffered);
         table.row("unknown", "use", "XXX", "NU", Change::unknownCode);
-        table.row("no item for it", "item", "PLS", "N/A", Change::notOffered);
-        table.row("no item for it, unknown", "item", "XXX", "N/A", Change::unknownCode);
         table.row("older spelling", "use", "OLD", "AIN", Change::otherForm);
         table.row("by number", "number", "03", "3", Change::otherForm);
         table.row("leaves it as it stands", "number", "2", "1", Change::unknownCode);
+        table.row("unknown is no item", "chosen", "2", "9", Change::unknownCode);
         table.row("pattern", "satellites", "01001", "01000", Change::otherForm);
         table.row("no pattern", "satellites", "00000", "11000", Change::unknownCode);
         table.row("period", "period", "3725", "3720", Change::rounded);

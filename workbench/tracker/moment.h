@@ -4,6 +4,7 @@
 
 #include "tracker/day_plan.h"
 #include "tracker/road.h"
+#include "tracker/tank_pours.h"
 
 namespace tracker {
 
@@ -45,6 +46,7 @@ struct Controls
     bool guard = false;
     quint16 outputs = 0;     // bit n is output n + 1
     double mileageShift = 0; // km, what a set mileage differs from the driven
+    TankValues fuelHeights;  // in the tanks into which a user has poured
 };
 
 } // namespace tracker

@@ -230,4 +230,24 @@ void SimulatedTracker::setFullDataSet(bool full)
     parts_->full = full;
 }
 
+double SimulatedTracker::fuelIn(std::size_t tank) const
+{
+    const std::optional<double> poured = parts_->memory.pours().litresAt(parts_->now())[tank];
+    return poured ? *poured : parts_->vehicle().fuelLeft(tank);
+}
+
+double SimulatedTracker::fuelReading(std::size_t tank) const
+{
+    const Vehicle vehicle = parts_->vehicle();
+    constexpr int analogueLine = 2;
+    return tank == 0 ? vehicle.line(analogueLine) : vehicle.fuelSensor(static_cast<int>(tank) - 1);
+}
+
+void SimulatedTracker::pour(std::size_t tank, double litres)
+{
+    const double before = fuelIn(tank);
+    parts_->memory.pours().set(tank, parts_->now(), before,
+                               std::clamp(before + litres, 0.0, tanks[tank].litres));
+}
+
 } // namespace tracker

@@ -66,6 +66,12 @@ public:
     bool fullDataSet() const;
     void setFullDataSet(bool full);
 
+    // The tanks by their index: litres in them, and what their sensors say, in millivolts or as a code.
+    double fuelIn(std::size_t tank) const;
+    double fuelReading(std::size_t tank) const;
+    // More than the tank holds runs over; draining is pouring less than nothing.
+    void pour(std::size_t tank, double litres);
+
 Q_SIGNALS:
     void attachedChanged(bool attached);
     // After every writeConfiguration, refused ones too.

@@ -22,7 +22,7 @@ const QString changesKey = QStringLiteral("changes");
 } // namespace
 
 TrackerMemory::TrackerMemory(const QString& folder, qint64 now)
-    : file_(QDir(folder).filePath(QStringLiteral("memory.ini")))
+    : file_(QDir(folder).filePath(QStringLiteral("memory.ini"))), pours_(folder)
 {
     load();
     if (firstMidnight_ <= 0 || firstMidnight_ > now) {
@@ -37,6 +37,7 @@ Controls TrackerMemory::controlsAt(qint64 time) const
     for (const Change& change : changes_)
         if (change.time <= time)
             controls = change.controls;
+    controls.fuelHeights = pours_.heightsAt(time);
     return controls;
 }
 

@@ -1,7 +1,8 @@
 #pragma once
 
 // What the tracker remembers beside its configuration, in a file of the store's folder: when it was built
-// in, what a user has set on it and when, and the program of the CAN adapter. A damaged file begins anew.
+// in, what a user has set on it and when, what was poured into the tanks, and the program of the CAN adapter.
+// A damaged file begins anew.
 
 #include "tracker/event_code.h"
 #include "tracker/moment.h"
@@ -26,6 +27,8 @@ public:
     std::optional<EventCode> changeWithin(qint64 after, qint64 until) const;
     void change(qint64 time, EventCode code, const std::function<void(Controls& controls)>& set = {});
 
+    TankPours& pours() { return pours_; }
+
     int canLogProgram() const { return canLogProgram_; }
     void setCanLogProgram(int program);
 
@@ -43,6 +46,7 @@ private:
     QString file_;
     qint64 firstMidnight_ = 0;
     std::vector<Change> changes_; // by time
+    TankPours pours_;
     int canLogProgram_ = 0;
 };
 

@@ -118,7 +118,8 @@ double Vehicle::line(int index) const
     case 1:
         return inputs() >= 2 ? drift(24, 0, 80, 5) : supply() - 300;
     default:
-        return drift(25, 4850, 5150, 40);
+        // The tank at this line is full until somebody drains it.
+        return c.fuelHeights[0] ? sensorValue(tanks[0], *c.fuelHeights[0]) : drift(25, 4850, 5150, 40);
     }
 }
 
@@ -135,15 +136,30 @@ double Vehicle::frequency(int index) const
 
 // Fuel: the second tank empties first.
 
+double Vehicle::fuelLeft(std::size_t tank) const
+{
+    constexpr double half = tankLitres / 2;
+    switch (tank) {
+    case 0:
+        return tanks[0].litres;
+    case 1:
+        return std::min(m.at.fuel, half);
+    case 2:
+        return std::max(0.0, m.at.fuel - half);
+    default:
+        return 0;
+    }
+}
+
 double Vehicle::fuelSensor(int sensor) const
 {
-    constexpr double full = 4095;
-    constexpr double tank = tankLitres / 2;
-    if (sensor > 1)
-        return 0;
-    const double litres = sensor == 0 ? std::min(m.at.fuel, tank) : std::max(0.0, m.at.fuel - tank);
-    const double swing = driving() ? drift(30 + sensor, -25, 25, 4) : 0;
-    return std::clamp(full * litres / tank + swing, 0.0, full);
+    const std::size_t index = 1 + static_cast<std::size_t>(sensor);
+    const Tank& tank = tanks[index];
+    if (c.fuelHeights[index])
+        return sensorValue(tank, *c.fuelHeights[index]);
+    const double litres = fuelLeft(index);
+    const double swing = driving() && litres > 0 ? drift(30 + sensor, -25, 25, 4) : 0;
+    return std::clamp(sensorValue(tank, fuelHeight(tank, litres)) + swing, 0.0, sensorValue(tank, 1));
 }
 
 double Vehicle::fuelPercent() const

@@ -38,7 +38,9 @@ public:
     double inputs() const;
     double frequency(int index) const;
 
-    double fuelSensor(int sensor) const; // 0 to 4095
+    // What is in a tank into which nobody has poured, in litres.
+    double fuelLeft(std::size_t tank) const;
+    double fuelSensor(int sensor) const; // D1 to D6, 0 to 4095
     double fuelPercent() const;          // with the flag that says percent
     double flow() const;                 // 0.1 litre an hour
 

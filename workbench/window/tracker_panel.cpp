@@ -2,6 +2,7 @@
 
 #include "tracker/configuration_values.h"
 #include "tracker/simulated_tracker.h"
+#include "window/tank_panel.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -43,7 +44,10 @@ TrackerPanel::TrackerPanel(tracker::SimulatedTracker& tracker, QWidget* parent)
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(6, 6, 6, 6);
     row->addWidget(buildControls());
-    row->addWidget(buildKeys(), 1);
+    auto* right = new QVBoxLayout;
+    right->addWidget(new TankPanel(tracker_, this));
+    right->addWidget(buildKeys(), 1);
+    row->addLayout(right, 1);
     connect(&tracker_, &tracker::SimulatedTracker::attachedChanged, this, &TrackerPanel::refresh);
     connect(&tracker_, &tracker::SimulatedTracker::configurationWritten, this, &TrackerPanel::refresh);
     refresh();

@@ -18,8 +18,11 @@ public:
         if (word.keyNumber() < 0)
             return word.source();
         QByteArray& text = texts_[word.keyNumber()];
-        if (text.isNull())
-            text = "" + word.translated().toLocal8Bit();
+        if (text.isNull()) {
+            text = word.translated().toLocal8Bit();
+            if (text.isEmpty())
+                text = ""; // not null any more
+        }
         return {text.constData(), static_cast<std::size_t>(text.size())};
     }
 

@@ -38,10 +38,10 @@ void addClock(AsciiText& text, const Clock& clock, int digitsOfHour)
     text.addDigits(static_cast<unsigned>(clock.seconds().count()), 2);
 }
 
-QString local(quint32 seconds, void (*add)(AsciiText&, quint32, qint32))
+QString textOf(void (*add)(AsciiText&, quint32, qint32), quint32 seconds, qint32 offset)
 {
     AsciiText text;
-    add(text, seconds, LocalZone().offsetAt(seconds));
+    add(text, seconds, offset);
     return text.string();
 }
 
@@ -70,21 +70,19 @@ void addZonedTime(AsciiText& text, quint32 seconds, qint32 offset)
     text << ')';
 }
 
-QString zonedTimeText(quint32 seconds, qint32 offset)
-{
-    AsciiText text;
-    addZonedTime(text, seconds, offset);
-    return text.string();
-}
-
 QString localTimeText(quint32 seconds)
 {
-    return local(seconds, addClockAndDate);
+    return textOf(addClockAndDate, seconds, LocalZone().offsetAt(seconds));
 }
 
 QString dateTimeText(quint32 seconds)
 {
-    return local(seconds, addDateAndClock);
+    return textOf(addDateAndClock, seconds, LocalZone().offsetAt(seconds));
+}
+
+QString zonedTimeText(quint32 seconds, qint32 offset)
+{
+    return textOf(addZonedTime, seconds, offset);
 }
 
 } // namespace vlk

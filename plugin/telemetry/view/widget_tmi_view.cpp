@@ -3,6 +3,7 @@
 #include "ui_VLK_Designer_Widget_Tmi_View.h"
 
 #include "base/clock.h"
+#include "fuel/form_tmi_fuel_sensors.h"
 #include "link/device.h"
 #include "link/requests.h"
 #include "telemetry/tachograph/form_tmi_taho.h"
@@ -80,6 +81,7 @@ void VLK_Widget_Tmi_View::connectControls()
         {ui_->pushButton_RFID, &View::slot_pressed_RFID},
         {ui_->pushButton_TM, &View::slot_pressed_TM},
         {ui_->pushButton_Taho, &View::slot_pressed_Taho},
+        {ui_->pushButton_FuelSensor, &View::slot_pressed_FuelSensor},
         {ui_->pushButton_Set_Guard, &View::slot_pressed_SetGuard},
         {ui_->pushButton_Set_NoGuard, &View::slot_pressed_SetNoGuard},
     };
@@ -125,6 +127,8 @@ void VLK_Widget_Tmi_View::open(const QString& configurationPath)
     setTitle();
     show();
     raise();
+    if (fuelSensors_ != nullptr)
+        fuelSensors_->linkFound();
 
     if (vlkDevice != nullptr && vlkDevice->isProduction()) {
         ui_->horizontalSlider_Auto_Tmi->setValue(1);
@@ -212,6 +216,12 @@ void VLK_Widget_Tmi_View::takeRfid(quint64 number, qint8 signal)
     ui_->spinBox_RFID->setValue(signal);
 }
 
+void VLK_Widget_Tmi_View::takeAnalog(const uchar* record)
+{
+    if (fuelSensors_ != nullptr)
+        fuelSensors_->onLiveRecord(record);
+}
+
 void VLK_Widget_Tmi_View::takeTachographAnswer(const QByteArray& answer)
 {
     if (tachograph_ != nullptr)
@@ -295,6 +305,8 @@ void VLK_Widget_Tmi_View::slot_finished_Window(int /*result*/)
     stopRequests();
     if (tachograph_ != nullptr)
         tachograph_->close();
+    if (fuelSensors_ != nullptr)
+        fuelSensors_->linkLost();
 }
 
 void VLK_Widget_Tmi_View::slot_pressed_Func()
@@ -395,6 +407,17 @@ void VLK_Widget_Tmi_View::slot_pressed_Taho()
     tachograph_->open();
 }
 
+void VLK_Widget_Tmi_View::slot_pressed_FuelSensor()
+{
+    if (fuelSensors_ == nullptr)
+        fuelSensors_ = new VLK_Form_TMI_Fuel_Sensors(this);
+    // Opening empties the tables.
+    if (fuelSensors_->isVisible() && fuelSensors_->hasUnsaved())
+        fuelSensors_->raise();
+    else
+        fuelSensors_->openWindow(setup_.objectName);
+}
+
 void VLK_Widget_Tmi_View::slot_pressed_SetGuard()
 {
     requests::guardOn();
@@ -438,4 +461,13 @@ void VLK_Widget_Tmi_View::retranslate()
     pages_.retranslate();
     if (tachograph_ != nullptr)
         tachograph_->retranslate();
+    if (fuelSensors_ != nullptr)
+        fuelSensors_->retranslate();
+}
+
+void VLK_Widget_Tmi_View::closeWindows()
+{
+    close();
+    if (fuelSensors_ != nullptr)
+        fuelSensors_->close();
 }

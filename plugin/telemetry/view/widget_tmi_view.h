@@ -3,7 +3,8 @@
 // The window through which a user looks at the telemetry of a connected tracker: asks for records, shows the
 // head of each in an event panel and its values in a content form, walks from record to record, polls on a
 // timer, saves a period to a file, clears the tracker's unsent data, reads keys and tags, and opens the
-// tachograph dialog. Answers come at any time, asked for or not, also while the window is hidden.
+// tachograph dialog and the calibration window. Answers come at any time, asked for or not, also while the
+// window is hidden.
 
 #include "link/messages.h"
 #include "telemetry/view/automatic_requests.h"
@@ -18,6 +19,7 @@
 
 class EventPanel;
 class QAbstractButton;
+class VLK_Form_TMI_Fuel_Sensors;
 class VLK_Form_TMI_Taho;
 
 namespace Ui {
@@ -38,6 +40,8 @@ public:
     void deviceConnected() { setTitle(); }
     // Ends whatever runs, also in a window that is closed already.
     void deviceDisconnected() { close(); }
+    // As the user would close it and the calibration window, which asks where rows of it are in no file.
+    void closeWindows();
     void retranslate();
 
     // Answers of the host. Records come from their type byte on.
@@ -46,6 +50,8 @@ public:
     void takeKeyAnswer(const QByteArray& answer);
     void takeLiveKey(quint64 key);
     void takeRfid(quint64 number, qint8 signal);
+    // The byte record of the live values, or null.
+    void takeAnalog(const uchar* record);
     void takeTachographAnswer(const QByteArray& answer);
     void takeTachographFetched(bool done);
 
@@ -75,6 +81,7 @@ private Q_SLOTS:
     void slot_pressed_RFID();
     void slot_pressed_TM();
     void slot_pressed_Taho();
+    void slot_pressed_FuelSensor();
     void slot_pressed_SetGuard();
     void slot_pressed_SetNoGuard();
     void slot_GetTahoQuest(int question);
@@ -96,6 +103,7 @@ private:
     std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_View> ui_;
     EventPanel* eventPanel_;
     VLK_Form_TMI_Taho* tachograph_ = nullptr;
+    VLK_Form_TMI_Fuel_Sensors* fuelSensors_ = nullptr;
     RecordStack pages_;
     AutomaticRequests automatic_;
     ClearingSequence clearing_;

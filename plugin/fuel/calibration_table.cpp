@@ -1,0 +1,134 @@
+#include "fuel/calibration_table.h"
+
+#include "fuel/fuelsensor_delegate.h"
+#include "fuel/fuelsensor_delegate_int.h"
+#include "fuel/table/fuel_sensors.h"
+#include "fuel/tablewidgetitem_fuelsort.h"
+
+#include <QHeaderView>
+#include <QSignalBlocker>
+
+namespace {
+
+constexpr int kColumnWidths[] = {95, 95, 20};
+constexpr double kTopVolume = 5000;
+constexpr double kTopVolts = 35;
+
+// The columns have a width of their own, so captions may have to be written smaller.
+QFont fittingFont(const QFont& font, const vlk::FuelCaptions& captions)
+{
+    constexpr int kPadding = 8;
+    constexpr int kSmallest = 8;
+    QFont fitting = font;
+    fitting.setPixelSize(QFontInfo(font).pixelSize());
+    const auto fits = [&](const QString& caption) {
+        return QFontMetrics(fitting).horizontalAdvance(caption) <= kColumnWidths[0] - kPadding;
+    };
+    while (fitting.pixelSize() > kSmallest && !(fits(captions.volume) && fits(captions.value)))
+        fitting.setPixelSize(fitting.pixelSize() - 1);
+    return fitting;
+}
+
+} // namespace
+
+CalibrationTable::CalibrationTable(QWidget* parent) : QTableWidget(0, ColumnCount, parent)
+{
+    horizontalHeader()->setMinimumSectionSize(0);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setHighlightSections(false);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    verticalHeader()->hide();
+    for (int column = 0; column < ColumnCount; ++column)
+        setColumnWidth(column, kColumnWidths[column]);
+    setSelectionMode(NoSelection);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setTabKeyNavigation(false);
+    setItemDelegateForColumn(Volume, new VLK_FuelSensor_Delegate(kTopVolume, 1, this));
+}
+
+void CalibrationTable::setKind(int kind)
+{
+    using Editor = vlk::FuelKind::Editor;
+    const Editor editor = vlk::fuelKind(kind).editor;
+    delete itemDelegateForColumn(Value);
+    QAbstractItemDelegate* delegate = nullptr;
+    if (editor == Editor::Decimal)
+        delegate = new VLK_FuelSensor_Delegate(kTopVolts, 2, this);
+    else if (editor == Editor::Integer)
+        delegate = new VLK_FuelSensor_Delegate_Int(this);
+    setItemDelegateForColumn(Value, delegate);
+}
+
+void CalibrationTable::setCaptions(const vlk::FuelCaptions& captions)
+{
+    setHorizontalHeaderLabels({captions.volume, captions.value, QString()});
+    horizontalHeader()->setFont(fittingFont(font(), captions));
+}
+
+void CalibrationTable::addRows(const vlk::FuelRows& rows)
+{
+    const QSignalBlocker quiet(this);
+    int row = rowCount();
+    setRowCount(row + static_cast<int>(rows.size()));
+    for (const vlk::FuelRow& texts : rows) {
+        for (const auto& [column, text] : {std::pair(Volume, texts.volume), std::pair(Value, texts.value)}) {
+            auto* item = new VLK_TableWidgetItem_FuelSort(vlk::withDecimalPoint(text));
+            item->setTextAlignment(Qt::AlignCenter);
+            setItem(row, column, item);
+        }
+        auto* mark = new QTableWidgetItem;
+        mark->setFlags(Qt::ItemIsEnabled | Qt::ItemIsUserCheckable);
+        mark->setCheckState(Qt::Unchecked);
+        setItem(row, Marked, mark);
+        ++row;
+    }
+    sortByVolume();
+}
+
+VLK_TableWidgetItem_FuelSort* CalibrationTable::cell(int row, Column column) const
+{
+    return static_cast<VLK_TableWidgetItem_FuelSort*>(item(row, column));
+}
+
+vlk::FuelRows CalibrationTable::rows() const
+{
+    vlk::FuelRows rows;
+    for (int row = 0; row < rowCount(); ++row)
+        rows.push_back({cell(row, Volume)->text(), cell(row, Value)->text()});
+    return rows;
+}
+
+vlk::FuelPoints CalibrationTable::points() const
+{
+    vlk::FuelPoints points;
+    for (int row = 0; row < rowCount(); ++row) {
+        const auto* volume = cell(row, Volume);
+        const auto* value = cell(row, Value);
+        if (!volume->isEmpty() && !value->isEmpty())
+            points.push_back({volume->number(), value->number()});
+    }
+    return points;
+}
+
+bool CalibrationTable::isMarked(int row) const
+{
+    return item(row, Marked)->checkState() == Qt::Checked;
+}
+
+bool CalibrationTable::anyMarked() const
+{
+    for (int row = 0; row < rowCount(); ++row) {
+        if (isMarked(row))
+            return true;
+    }
+    return false;
+}
+
+void CalibrationTable::removeMarked()
+{
+    for (int row = rowCount() - 1; row >= 0; --row) {
+        if (isMarked(row))
+            removeRow(row);
+    }
+}

@@ -1,0 +1,316 @@
+#include "fuel/form_fuel_sensor.h"
+
+#include "ui_VLK_Designer_Form_Fuel_Sensor.h"
+
+#include "fuel/decimal_validator.h"
+#include "fuel/form_report_fuel.h"
+#include "fuel/fuelsensor_graph.h"
+#include "fuel/question.h"
+#include "fuel/table/fuel_document.h"
+#include "fuel/table/fuel_file.h"
+#include "fuel/table/fuel_log.h"
+#include "fuel/table/fuel_sensors.h"
+#include "xml/xml_section.h"
+
+#include <QAction>
+#include <QClipboard>
+
+namespace {
+
+constexpr double kTopAddedVolume = 3276.7;
+constexpr int kTopAddedValue = 32767;
+
+} // namespace
+
+VLK_Form_Fuel_Sensor::VLK_Form_Fuel_Sensor(int kind, const QString& name, const QIcon& addIcon,
+                                           QWidget* parent)
+    : QWidget(parent), ui_(std::make_unique<Ui::VLK_Designer_Form_Fuel_Sensor>()),
+      graph_(new VLK_FuelSensor_Graph(this)), copy_(new QAction(this)), paste_(new QAction(this)),
+      kind_(kind), name_(name)
+{
+    ui_->setupUi(this);
+    ui_->verticalLayout_Graph->addWidget(graph_);
+    ui_->pushButton_Add->setIcon(addIcon);
+    ui_->lineEdit_Volume->setValidator(new DecimalValidator(kTopAddedVolume, 1, this));
+    auto* codes = new QIntValidator(0, kTopAddedValue, this);
+    codes->setLocale(QLocale::c());
+    ui_->lineEdit_Param->setValidator(codes);
+    QPalette alarm = ui_->label_Falling->palette();
+    alarm.setColor(QPalette::WindowText, Qt::red);
+    ui_->label_Falling->setPalette(alarm);
+    setFocusProxy(ui_->lineEdit_Volume);
+    addClipboardActions();
+
+    using Form = VLK_Form_Fuel_Sensor;
+    connect(ui_->lineEdit_Volume, &QLineEdit::textChanged, this, &Form::slot_textChanged_LineEdit_Volume);
+    connect(ui_->lineEdit_Param, &QLineEdit::textChanged, this, &Form::slot_textChanged_LineEdit_Param);
+    connect(ui_->tableWidget, &QTableWidget::cellChanged, this, &Form::slot_CellChanged_Table);
+    for (const QLineEdit* edit : {ui_->lineEdit_Volume, ui_->lineEdit_Param})
+        connect(edit, &QLineEdit::returnPressed, ui_->pushButton_Add, &QPushButton::click);
+    const std::pair<QPushButton*, void (Form::*)()> buttons[] = {
+        {ui_->pushButton_Add, &Form::slot_pressed_Btn_Add},
+        {ui_->pushButton_Del, &Form::slot_pressed_Btn_Del},
+        {ui_->pushButton_Clear, &Form::slot_pressed_Btn_Clear},
+    };
+    for (const auto& [button, slot] : buttons) {
+        button->setAutoDefault(false);
+        connect(button, &QPushButton::clicked, this, slot);
+    }
+    setKind(kind);
+    retranslate();
+}
+
+VLK_Form_Fuel_Sensor::~VLK_Form_Fuel_Sensor() = default;
+
+void VLK_Form_Fuel_Sensor::addClipboardActions()
+{
+    copy_->setShortcut(QKeySequence::Copy);
+    paste_->setShortcut(QKeySequence::Paste);
+    connect(copy_, &QAction::triggered, this, &VLK_Form_Fuel_Sensor::copyTable);
+    connect(paste_, &QAction::triggered, this, &VLK_Form_Fuel_Sensor::pasteRows);
+    for (QAction* action : {copy_, paste_}) {
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        ui_->tableWidget->addAction(action);
+    }
+    ui_->tableWidget->setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+void VLK_Form_Fuel_Sensor::setKind(int kind)
+{
+    kind_ = kind;
+    ui_->tableWidget->setKind(kind);
+    showCaptions();
+}
+
+void VLK_Form_Fuel_Sensor::showCaptions()
+{
+    graph_->setKind(vlk::fuelKind(kind_));
+    const vlk::FuelCaptions texts = captions();
+    ui_->tableWidget->setCaptions(texts);
+    ui_->label_Volume->setText(texts.volume);
+    ui_->label_Param->setText(texts.value);
+    graph_->setAccessibleName(texts.value);
+}
+
+vlk::FuelCaptions VLK_Form_Fuel_Sensor::captions() const
+{
+    return {tr("cfgt6_040"), tr(vlk::fuelKind(kind_).valueCaption)};
+}
+
+void VLK_Form_Fuel_Sensor::retranslate()
+{
+    ui_->label_Name->setText(tr("cfgt6_039"));
+    ui_->pushButton_Clear->setText(tr("wrd_029"));
+    ui_->pushButton_Del->setText(tr("cfgt6_046"));
+    ui_->pushButton_Add->setToolTip(tr("cfgt6_047"));
+    ui_->pushButton_Add->setAccessibleName(tr("cfgt6_047"));
+    ui_->pushButton_Del->setToolTip(tr("cfgt6_048"));
+    ui_->pushButton_Clear->setToolTip(tr("cfgt6_049"));
+    ui_->tableWidget->setAccessibleName(tr("cfgt6_037"));
+    copy_->setText(tr("cfgt6_401"));
+    paste_->setText(tr("cfgt6_402"));
+    showCaptions();
+    showFallingPoints();
+    if (report_)
+        report_->retranslate();
+}
+
+void VLK_Form_Fuel_Sensor::setKindAndName(int kind, const QString& name)
+{
+    name_ = name;
+    setKind(kind);
+    ui_->lineEdit_Name->setText(name);
+}
+
+void VLK_Form_Fuel_Sensor::setParamEditable(bool editable)
+{
+    ui_->lineEdit_Param->setReadOnly(!editable);
+}
+
+void VLK_Form_Fuel_Sensor::setLiveValue(int raw)
+{
+    ui_->lineEdit_Param->setText(vlk::fuelKind(kind_).millivolts ? QString::number(raw / 1000.0, 'f', 2)
+                                                                 : QString::number(raw));
+}
+
+void VLK_Form_Fuel_Sensor::clearLiveValue()
+{
+    ui_->lineEdit_Param->clear();
+}
+
+void VLK_Form_Fuel_Sensor::clearAll()
+{
+    ui_->lineEdit_Name->clear();
+    ui_->lineEdit_Volume->clear();
+    clearRows();
+}
+
+void VLK_Form_Fuel_Sensor::clearRows()
+{
+    setDirty(false);
+    ui_->tableWidget->setRowCount(0);
+    ui_->pushButton_Del->setEnabled(false);
+    ui_->pushButton_Clear->setEnabled(false);
+    rebuildPoints();
+    askForVolume();
+}
+
+void VLK_Form_Fuel_Sensor::askForVolume()
+{
+    ui_->lineEdit_Volume->clear();
+    ui_->lineEdit_Volume->setFocus();
+}
+
+void VLK_Form_Fuel_Sensor::addRow(const QString& volume, const QString& value)
+{
+    addRows({{volume, value}});
+}
+
+void VLK_Form_Fuel_Sensor::addRows(const vlk::FuelRows& rows)
+{
+    ui_->tableWidget->addRows(rows);
+    ui_->pushButton_Clear->setEnabled(ui_->tableWidget->rowCount() > 0);
+    rebuildPoints();
+}
+
+void VLK_Form_Fuel_Sensor::tableToMap(QMap<double, int>& map) const
+{
+    map.clear();
+    for (const vlk::FuelRow& row : ui_->tableWidget->rows())
+        map[vlk::withDecimalPoint(row.volume).toDouble()] = vlk::withDecimalPoint(row.value).toInt();
+}
+
+void VLK_Form_Fuel_Sensor::rebuildPoints()
+{
+    points_ = ui_->tableWidget->points();
+    graph_->setPoints(points_);
+    showFallingPoints();
+}
+
+void VLK_Form_Fuel_Sensor::showFallingPoints()
+{
+    constexpr std::size_t kNamed = 8;
+    const auto falling = vlk::fallingPoints(points_);
+    QStringList volumes;
+    for (std::size_t i = 0; i < std::min(falling.size(), kNamed); ++i)
+        volumes << QString::number(static_cast<double>(points_[falling[i]].volume));
+    if (falling.size() > kNamed)
+        volumes << QStringLiteral("…");
+    const QString names = volumes.join(QStringLiteral("; "));
+    ui_->label_Falling->setText(falling.empty() ? QString()
+                                                : tr("cfgt6_403").replace(QLatin1String("%1"), names));
+}
+
+void VLK_Form_Fuel_Sensor::setDirty(bool dirty)
+{
+    if (dirty_ == dirty)
+        return;
+    dirty_ = dirty;
+    Q_EMIT signal_NeedSaved(dirty);
+}
+
+void VLK_Form_Fuel_Sensor::saveCsv(const QString& path) const
+{
+    vlk::saveFuelFile(path, vlk::fuelCsv(captions(), ui_->tableWidget->rows()));
+}
+
+void VLK_Form_Fuel_Sensor::loadCsv(const QString& path)
+{
+    const std::optional<QByteArray> content = vlk::readFuelFile(path);
+    if (!content)
+        return;
+    if (const auto rows = vlk::readFuelCsv(*content)) {
+        addRows(*rows);
+        askForVolume();
+    } else {
+        qCWarning(vlk::lcFuel).noquote() << path << "holds no calibration table";
+    }
+}
+
+void VLK_Form_Fuel_Sensor::saveXml(CXmlSection* section)
+{
+    vlk::putFuelTable(section, name_, ui_->lineEdit_Name->text(), ui_->tableWidget->rows());
+    setDirty(false);
+}
+
+void VLK_Form_Fuel_Sensor::loadXml(CXmlSection* section)
+{
+    const auto rows = vlk::fuelTable(section);
+    if (!rows) {
+        qCWarning(vlk::lcFuel) << "the document holds more rows than a calibration table";
+        return;
+    }
+    clearRows();
+    ui_->lineEdit_Name->setText(vlk::fuelTableName(section));
+    addRows(*rows);
+}
+
+void VLK_Form_Fuel_Sensor::printReport()
+{
+    if (!report_)
+        report_ = new VLK_FormReportFuel(this);
+    report_->showReport(name_, ui_->lineEdit_Name->text(), points_);
+}
+
+void VLK_Form_Fuel_Sensor::copyTable() const
+{
+    QGuiApplication::clipboard()->setText(vlk::fuelClipboard(captions(), ui_->tableWidget->rows()));
+}
+
+void VLK_Form_Fuel_Sensor::pasteRows()
+{
+    const auto rows = vlk::readFuelClipboard(QGuiApplication::clipboard()->text(), captions());
+    if (rows.empty())
+        return;
+    addRows(rows);
+    setDirty(true);
+}
+
+void VLK_Form_Fuel_Sensor::slot_CellChanged_Table(int /*row*/, int column)
+{
+    if (column == CalibrationTable::Marked) {
+        ui_->pushButton_Del->setEnabled(ui_->tableWidget->anyMarked());
+        return;
+    }
+    ui_->tableWidget->sortByVolume();
+    rebuildPoints();
+}
+
+void VLK_Form_Fuel_Sensor::slot_textChanged_LineEdit_Volume(const QString& text)
+{
+    ui_->pushButton_Add->setEnabled(!text.isEmpty() && !ui_->lineEdit_Param->text().isEmpty());
+}
+
+void VLK_Form_Fuel_Sensor::slot_textChanged_LineEdit_Param(const QString& text)
+{
+    ui_->pushButton_Add->setEnabled(!text.isEmpty() && !ui_->lineEdit_Volume->text().isEmpty());
+}
+
+void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Add()
+{
+    const vlk::FuelRow row{ui_->lineEdit_Volume->text(), ui_->lineEdit_Param->text()};
+    if (!vlk::isPoint(row))
+        return;
+    addRows({row});
+    askForVolume();
+    setDirty(true);
+}
+
+void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Del()
+{
+    if (!vlk::agrees(this, tr("cfgt6_050"), "wrd_002"))
+        return;
+    ui_->tableWidget->removeMarked();
+    ui_->pushButton_Del->setEnabled(false);
+    const bool anyLeft = ui_->tableWidget->rowCount() > 0;
+    ui_->pushButton_Clear->setEnabled(anyLeft);
+    if (!anyLeft)
+        setDirty(false);
+    rebuildPoints();
+}
+
+void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Clear()
+{
+    if (vlk::agrees(this, tr("cfgt6_051"), "wrd_002"))
+        clearRows();
+}

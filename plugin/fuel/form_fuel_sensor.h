@@ -1,0 +1,100 @@
+#pragma once
+
+// Edits the calibration table of one fuel sensor, and draws it: the user pours, types the volume, and adds it
+// with the value that the sensor shows. Rows sort by volume. Texts of files and of the caller may have a
+// comma as decimal sign; cells have a point.
+//
+// "Dirty" are rows that were added or pasted and are in no XML file yet. A change of a cell does not count,
+// nor does the removal of single rows, nor a CSV file.
+
+#include "fuel/table/fuel_text.h"
+
+#include <QIcon>
+#include <QMap>
+#include <QWidget>
+
+#include <memory>
+
+struct CXmlSection;
+class VLK_FormReportFuel;
+class VLK_FuelSensor_Graph;
+
+namespace Ui {
+class VLK_Designer_Form_Fuel_Sensor;
+}
+
+class VLK_Form_Fuel_Sensor : public QWidget
+{
+    Q_OBJECT
+
+public:
+    // The kind is an index into vlk::fuelKinds, the name a short one such as "D1", which goes into files.
+    VLK_Form_Fuel_Sensor(int kind, const QString& name, const QIcon& addIcon, QWidget* parent);
+    ~VLK_Form_Fuel_Sensor() override;
+
+    QString name() const { return name_; }
+    // Of the tab that holds the form, -1 for none.
+    int tabIndex() const { return tabIndex_; }
+    void setTabIndex(int index) { tabIndex_ = index; }
+    bool isDirty() const { return dirty_; }
+    void setKindAndName(int kind, const QString& name);
+    void setParamEditable(bool editable);
+    // What the sensor says now, in millivolts or as a code.
+    void setLiveValue(int raw);
+    // Until the next live value nothing can be added.
+    void clearLiveValue();
+    void retranslate();
+
+    void clearAll();
+    void addRow(const QString& volume, const QString& value);
+    // Sorts and draws once for all of them.
+    void addRows(const vlk::FuelRows& rows);
+    // Volume to value. Of like volumes the last row counts; a value with a fraction reads as 0.
+    void tableToMap(QMap<double, int>& map) const;
+
+    // Files that cannot be read or written change nothing; the log says so (vlk.fuel, vlk.save).
+    void saveCsv(const QString& path) const;
+    // Adds the rows of the file to those that are there.
+    void loadCsv(const QString& path);
+    // Into and from the root of a calibration document. What was put into one counts as saved; where its file
+    // could not be written, setDirty takes that back.
+    void saveXml(CXmlSection* section);
+    void loadXml(CXmlSection* section);
+    void setDirty(bool dirty);
+
+    void printReport();
+
+Q_SIGNALS:
+    void signal_NeedSaved(bool dirty);
+
+private Q_SLOTS:
+    void slot_CellChanged_Table(int row, int column);
+    void slot_textChanged_LineEdit_Volume(const QString& text);
+    void slot_textChanged_LineEdit_Param(const QString& text);
+    void slot_pressed_Btn_Add();
+    void slot_pressed_Btn_Del();
+    void slot_pressed_Btn_Clear();
+
+private:
+    void addClipboardActions();
+    void setKind(int kind);
+    void showCaptions();
+    vlk::FuelCaptions captions() const;
+    void copyTable() const;
+    void pasteRows();
+    void clearRows();
+    void askForVolume();
+    void rebuildPoints();
+    void showFallingPoints();
+
+    std::unique_ptr<Ui::VLK_Designer_Form_Fuel_Sensor> ui_;
+    VLK_FuelSensor_Graph* graph_;
+    VLK_FormReportFuel* report_ = nullptr;
+    QAction* copy_;
+    QAction* paste_;
+    int kind_;
+    QString name_;
+    int tabIndex_ = -1;
+    bool dirty_ = false;
+    vlk::FuelPoints points_;
+};

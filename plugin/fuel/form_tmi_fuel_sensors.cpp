@@ -1,0 +1,332 @@
+#include "fuel/form_tmi_fuel_sensors.h"
+
+#include "ui_VLK_Designer_Form_TMI_Fuel_Sensors.h"
+
+#include "base/clock.h"
+#include "fuel/file_dialogs.h"
+#include "fuel/fit_to_screen.h"
+#include "fuel/form_fuel_sensor.h"
+#include "fuel/plus_icon.h"
+#include "fuel/question.h"
+#include "fuel/table/fuel_document.h"
+#include "fuel/table/fuel_file.h"
+#include "link/device.h"
+#include "link/requests.h"
+#include "windows/vlk_tabwidget.h"
+#include "xml/xml_document.h"
+
+#include <QFileInfo>
+#include <QShortcut>
+#include <QtEndian>
+
+#include <chrono>
+
+using namespace vlk;
+
+namespace {
+
+constexpr auto kPause = std::chrono::milliseconds(2000);
+
+QString telemetryFolder()
+{
+    return vlkDevice ? vlkDevice->tmiFolder() : QString();
+}
+
+QString modelText()
+{
+    return vlkDevice ? vlkDevice->model() : QString();
+}
+
+QString formatted(const char* format, const char* key, const QString& sensor = {})
+{
+    QString text = QLatin1String(format);
+    text.replace(QLatin1String("%2"), sensor);
+    return text.replace(QLatin1String("%1"), fuelWord(key));
+}
+
+int groupOf(int sensor)
+{
+    return fuelGroupOf(fuelSensors[sensor].name[0]);
+}
+
+} // namespace
+
+VLK_Form_TMI_Fuel_Sensors::VLK_Form_TMI_Fuel_Sensors(QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
+      ui_(std::make_unique<Ui::VLK_Designer_Form_TMI_Fuel_Sensors>())
+{
+    ui_->setupUi(this);
+    ui_->pushButton_Help->hide();
+    buildTabs();
+
+    using Window = VLK_Form_TMI_Fuel_Sensors;
+    const std::pair<QPushButton*, void (Window::*)()> buttons[] = {
+        {ui_->pushButton_Load, &Window::slot_pressed_Btn_Load},
+        {ui_->pushButton_Save_Xml, &Window::slot_pressed_Btn_Save_Xml},
+        {ui_->pushButton_Save_Excel, &Window::slot_pressed_Btn_Save_Excel},
+        {ui_->pushButton_Print, &Window::slot_pressed_Btn_Print},
+        {ui_->pushButton_Help, &Window::slot_pressed_Btn_Help},
+        {ui_->pushButton_Exit, &Window::slot_pressed_Btn_Exit},
+    };
+    for (const auto& [button, slot] : buttons) {
+        // Enter in a field must not press whatever button is near.
+        button->setAutoDefault(false);
+        connect(button, &QPushButton::clicked, this, slot);
+    }
+    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
+            &Window::slot_pressed_Btn_Help);
+    connect(this, &QDialog::finished, this, &Window::slot_finished);
+    timer_.setSingleShot(true);
+    timer_.setInterval(kPause);
+    connect(&timer_, &QTimer::timeout, this, &Window::slot_timeout);
+    fitToScreen(this, {900, 540});
+    retranslate();
+}
+
+VLK_Form_TMI_Fuel_Sensors::~VLK_Form_TMI_Fuel_Sensors() = default;
+
+void VLK_Form_TMI_Fuel_Sensors::buildTabs()
+{
+    const QIcon icon = plusIcon();
+    for (int i = 0; i < fuelSensorCount; ++i) {
+        if (!fuelSensors[i].fitted)
+            continue;
+        const QString name = QLatin1String(fuelSensors[i].name);
+        auto* form = new VLK_Form_Fuel_Sensor(fuelSensors[i].kind, name, icon, this);
+        form->setObjectName(name);
+        forms_[i] = form;
+        connect(form, &VLK_Form_Fuel_Sensor::signal_NeedSaved, this,
+                &VLK_Form_TMI_Fuel_Sensors::slot_NeedSaved);
+        const int number = groupOf(i);
+        QTabWidget* tabs = ui_->tabWidget;
+        if (fuelGroups[number].title) {
+            VLK_TabWidget*& group = groups_[number];
+            if (!group) {
+                group = new VLK_TabWidget(this);
+                group->setTabIndex(ui_->tabWidget->addTab(group, QString()));
+                connect(group, &QTabWidget::currentChanged, this,
+                        &VLK_Form_TMI_Fuel_Sensors::slot_currentChanged_FuelType);
+            }
+            tabs = group;
+        }
+        form->setTabIndex(tabs->addTab(form, QString()));
+    }
+    connect(ui_->tabWidget, &QTabWidget::currentChanged, this,
+            &VLK_Form_TMI_Fuel_Sensors::slot_currentChanged_FuelType);
+}
+
+template <class Act>
+void VLK_Form_TMI_Fuel_Sensors::forEachForm(Act act) const
+{
+    for (int i = 0; i < fuelSensorCount; ++i) {
+        if (forms_[i])
+            act(*forms_[i], i);
+    }
+}
+
+void VLK_Form_TMI_Fuel_Sensors::retranslate()
+{
+    setWindowTitle(tr("tmiw_119"));
+    ui_->label_Title->setText(tr("tmiw_120"));
+    ui_->pushButton_Load->setText(tr("wrd_023"));
+    ui_->pushButton_Save_Xml->setText(QStringLiteral("%1 XML").arg(tr("wrd_042")));
+    ui_->pushButton_Save_Excel->setText(QStringLiteral("%1 Excel").arg(tr("wrd_042")));
+    ui_->pushButton_Print->setText(tr("wrd_030"));
+    ui_->pushButton_Exit->setText(tr("wrd_054"));
+    ui_->pushButton_Help->setText(tr("wrd_027"));
+    for (int i = 0; i < fuelGroupCount; ++i) {
+        if (groups_[i])
+            ui_->tabWidget->setTabText(groups_[i]->tabIndex(),
+                                       formatted(fuelGroups[i].format, fuelGroups[i].title));
+    }
+    forEachForm([this](VLK_Form_Fuel_Sensor& form, int sensor) {
+        form.retranslate();
+        const FuelGroup& group = fuelGroups[groupOf(sensor)];
+        QTabWidget* tabs = groups_[groupOf(sensor)];
+        (tabs ? tabs : ui_->tabWidget)
+            ->setTabText(form.tabIndex(), formatted(group.tabFormat, group.tabTitle, form.name()));
+    });
+}
+
+void VLK_Form_TMI_Fuel_Sensors::openWindow(const QString& title)
+{
+    ui_->lineEdit_Title->setText(title);
+    forEachForm([](VLK_Form_Fuel_Sensor& form, int) { form.clearAll(); });
+    show();
+    raise();
+    activateWindow();
+    if (auto* form = currentForm())
+        form->setFocus();
+    requests::analog();
+    unsavedCount_ = 0;
+    slot_currentChanged_FuelType(ui_->tabWidget->currentIndex());
+}
+
+void VLK_Form_TMI_Fuel_Sensors::onLiveRecord(const uchar* record)
+{
+    if (!record || isHidden())
+        return;
+    forEachForm([record](VLK_Form_Fuel_Sensor& form, int sensor) {
+        form.setLiveValue(qFromLittleEndian<quint16>(record + fuelSensors[sensor].liveAt));
+    });
+    timer_.start();
+}
+
+void VLK_Form_TMI_Fuel_Sensors::slot_timeout()
+{
+    timer_.stop();
+    if (!isHidden())
+        requests::analog();
+}
+
+void VLK_Form_TMI_Fuel_Sensors::linkFound()
+{
+    if (!isHidden())
+        requests::analog();
+}
+
+void VLK_Form_TMI_Fuel_Sensors::linkLost()
+{
+    if (isHidden())
+        return;
+    if (!hasUnsaved())
+        close();
+    timer_.stop();
+    forEachForm([](VLK_Form_Fuel_Sensor& form, int) { form.clearLiveValue(); });
+}
+
+VLK_Form_Fuel_Sensor* VLK_Form_TMI_Fuel_Sensors::currentForm() const
+{
+    const int shown = ui_->tabWidget->currentIndex();
+    VLK_Form_Fuel_Sensor* found = nullptr;
+    forEachForm([&](VLK_Form_Fuel_Sensor& form, int sensor) {
+        const VLK_TabWidget* group = groups_[groupOf(sensor)];
+        const bool current = group ? group->tabIndex() == shown && group->currentIndex() == form.tabIndex()
+                                   : form.tabIndex() == shown;
+        if (current)
+            found = &form;
+    });
+    return found;
+}
+
+void VLK_Form_TMI_Fuel_Sensors::select(const QString& type)
+{
+    if (type.isEmpty())
+        return;
+    const int number = fuelGroupOf(type[0].toLatin1());
+    if (number < 0)
+        return;
+    if (groups_[number])
+        ui_->tabWidget->setCurrentIndex(groups_[number]->tabIndex());
+    forEachForm([&](VLK_Form_Fuel_Sensor& form, int sensor) {
+        if (groupOf(sensor) != number || form.name() != type)
+            return;
+        QTabWidget* tabs = groups_[number];
+        (tabs ? tabs : ui_->tabWidget)->setCurrentIndex(form.tabIndex());
+    });
+}
+
+void VLK_Form_TMI_Fuel_Sensors::slot_currentChanged_FuelType(int /*index*/)
+{
+    if (const auto* form = currentForm())
+        ui_->pushButton_Save_Xml->setEnabled(form->isDirty());
+}
+
+void VLK_Form_TMI_Fuel_Sensors::slot_NeedSaved(bool on)
+{
+    ui_->pushButton_Save_Xml->setEnabled(on);
+    unsavedCount_ += on ? 1 : -1;
+}
+
+QString VLK_Form_TMI_Fuel_Sensors::proposedName(const QString& sensor) const
+{
+    return fuelFileName(telemetryFolder(), sensor, ui_->lineEdit_Title->text(), now());
+}
+
+void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Load()
+{
+    const QString path = askFuelFileToLoad(this, telemetryFolder(), QStringLiteral("xml"));
+    if (path.isEmpty())
+        return;
+    if (!QFileInfo::exists(path)) {
+        const QStringList parts = tr("tmiw_127").split(QStringLiteral("<val>"));
+        ui_->lineEdit_Title->setText(
+            QStringLiteral("%1 %2 %3")
+                .arg(parts.value(0).trimmed(), QFileInfo(path).fileName(), parts.value(1).trimmed()));
+        warn(this, tr("tmiw_128"));
+        return;
+    }
+    XmlDocument document(path, QLatin1String(fuelRoot));
+    if (!document.isOpen())
+        return;
+    if (document.root()->getString(QStringLiteral("model")) != modelText()) {
+        warn(this, tr("tmiw_128"));
+        return;
+    }
+    select(document.root()->getString(QStringLiteral("type")));
+    VLK_Form_Fuel_Sensor* form = currentForm();
+    if (form && (!form->isDirty() || agrees(this, tr("tmiw_129"), "wrd_031")))
+        form->loadXml(document.root());
+}
+
+void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Xml()
+{
+    VLK_Form_Fuel_Sensor* form = currentForm();
+    const QString path = askFuelFileToSave(this, tr("wrd_028"), proposedName(form ? form->name() : QString()),
+                                           QStringLiteral("xml"));
+    if (path.isEmpty())
+        return;
+    // Made in memory, so that nothing of what the file held before counts.
+    XmlDocument document(QString{}, QLatin1String(fuelRoot));
+    CXmlSection* root = document.root();
+    root->setString(QStringLiteral("model"), modelText());
+    root->setChildValue(QStringLiteral("objName"), ui_->lineEdit_Title->text());
+    const bool wasDirty = form && form->isDirty();
+    if (form)
+        form->saveXml(root);
+    if (!document.saveAs(path) && wasDirty)
+        form->setDirty(true);
+}
+
+void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Excel()
+{
+    const VLK_Form_Fuel_Sensor* form = currentForm();
+    if (!form)
+        return;
+    const QString path = askFuelFileToSave(this, QStringLiteral("%1 Excel").arg(tr("wrd_028")),
+                                           proposedName(form->name()), QStringLiteral("csv"));
+    if (!path.isEmpty())
+        form->saveCsv(path);
+}
+
+void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Print()
+{
+    if (auto* form = currentForm())
+        form->printReport();
+}
+
+void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Help()
+{
+    requests::showHelp(helpPage());
+}
+
+void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Exit()
+{
+    close();
+}
+
+// Every way of closing comes by here.
+void VLK_Form_TMI_Fuel_Sensors::reject()
+{
+    const auto question = [this] {
+        return QStringLiteral("%1!<br>%2 %3<br>%4")
+            .arg(tr("wrd_005"), tr("tmiw_130"), tr("tmiw_131"), tr("tmiw_132"));
+    };
+    if (!hasUnsaved() || agrees(this, question(), "wrd_031"))
+        QDialog::reject();
+}
+
+void VLK_Form_TMI_Fuel_Sensors::slot_finished(int /*result*/)
+{
+    timer_.stop();
+}

@@ -1,0 +1,71 @@
+#pragma once
+
+// The calibration window: a table for each fuel sensor of the tracker, each sensor's live value while the
+// user fills the tank, files, and the report. While it is open it asks for the live values: a question, its
+// answer, two seconds of pause. Live values come as the byte record of the message AnalogRecord.
+
+#include "fuel/table/fuel_sensors.h"
+
+#include <QDialog>
+#include <QTimer>
+
+#include <array>
+#include <memory>
+
+class CXmlSection;
+class VLK_Form_Fuel_Sensor;
+class VLK_TabWidget;
+
+namespace Ui {
+class VLK_Designer_Form_TMI_Fuel_Sensors;
+}
+
+class VLK_Form_TMI_Fuel_Sensors : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit VLK_Form_TMI_Fuel_Sensors(QWidget* parent);
+    ~VLK_Form_TMI_Fuel_Sensors() override;
+
+    // Empties all tables, shows the window and asks for the live values. `title` is the vehicle's name.
+    void openWindow(const QString& title);
+    void onLiveRecord(const uchar* record);
+    // There is a tracker to ask again, or none any more: live values are forgotten, and the window goes
+    // unless it has rows that are in no file.
+    void linkFound();
+    void linkLost();
+    bool hasUnsaved() const { return unsavedCount_ > 0; }
+    static QString helpPage() { return QStringLiteral("r-7106Fuel.html"); }
+    void retranslate();
+
+    void reject() override;
+
+private Q_SLOTS:
+    void slot_currentChanged_FuelType(int index);
+    void slot_pressed_Btn_Load();
+    void slot_pressed_Btn_Save_Xml();
+    void slot_pressed_Btn_Save_Excel();
+    void slot_pressed_Btn_Print();
+    void slot_pressed_Btn_Help();
+    void slot_pressed_Btn_Exit();
+    void slot_finished(int result);
+    void slot_timeout();
+    void slot_NeedSaved(bool on);
+
+private:
+    void buildTabs();
+    template <class Act>
+    void forEachForm(Act act) const;
+    VLK_Form_Fuel_Sensor* currentForm() const;
+    // Shows the tab of a sensor by the name that its file has, or of its group where there is no such sensor.
+    void select(const QString& type);
+    QString proposedName(const QString& sensor) const;
+
+    std::unique_ptr<Ui::VLK_Designer_Form_TMI_Fuel_Sensors> ui_;
+    // By the rows of vlk::fuelGroups and vlk::fuelSensors; null for what this model lacks.
+    std::array<VLK_TabWidget*, vlk::fuelGroupCount> groups_{};
+    std::array<VLK_Form_Fuel_Sensor*, vlk::fuelSensorCount> forms_{};
+    QTimer timer_;
+    int unsavedCount_ = 0;
+};

@@ -1,0 +1,16 @@
+#pragma once
+
+// The editor of a cell with a level code.
+
+#include <QItemDelegate>
+
+class VLK_FuelSensor_Delegate_Int : public QItemDelegate
+{
+    Q_OBJECT
+
+public:
+    using QItemDelegate::QItemDelegate;
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override;
+};

@@ -1,0 +1,28 @@
+#include "fuel/question.h"
+
+#include "fuel/table/fuel_sensors.h"
+
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace vlk {
+
+bool agrees(QWidget* parent, const QString& text, const char* noKey)
+{
+    QMessageBox box(QMessageBox::Warning, fuelWord("wrd_005"), text, QMessageBox::NoButton, parent);
+    const auto* yes = box.addButton(fuelWord("wrd_001"), QMessageBox::YesRole);
+    auto* no = box.addButton(fuelWord(noKey), QMessageBox::NoRole);
+    box.setDefaultButton(no);
+    box.setEscapeButton(no);
+    box.exec();
+    return box.clickedButton() == yes;
+}
+
+void warn(QWidget* parent, const QString& text)
+{
+    QMessageBox box(QMessageBox::Warning, fuelWord("wrd_005"), text, QMessageBox::NoButton, parent);
+    box.addButton(fuelWord("wrd_003"), QMessageBox::AcceptRole);
+    box.exec();
+}
+
+} // namespace vlk

@@ -1,0 +1,68 @@
+#include "fuel/table/fuel_document.h"
+
+#include "xml/xml_node.h"
+#include "xml/xml_section.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace vlk {
+
+namespace {
+
+const QString kTable = QStringLiteral("TABLE");
+const QString kRow = QStringLiteral("DATA");
+const QString kVolume = QStringLiteral("param_U");
+const QString kValue = QStringLiteral("param_V");
+
+// The fraction is lost; what no integer holds ends at its limits.
+int wholeLitres(const QString& volume)
+{
+    using Limits = std::numeric_limits<int>;
+    const double litres = volume.toDouble();
+    return std::isnan(litres) ? 0
+                              : static_cast<int>(std::clamp<double>(litres, Limits::min(), Limits::max()));
+}
+
+} // namespace
+
+void putFuelTable(CXmlSection* root, const QString& sensor, const QString& name, const FuelRows& rows)
+{
+    root->setString(QStringLiteral("type"), sensor);
+    root->setChildValue(QStringLiteral("Name"), name);
+    const CXmlSectionPtr table = root->child(kTable);
+    if (!table)
+        return;
+    for (const FuelRow& row : rows) {
+        const CXmlSectionPtr data = table->child(kRow, CXmlNode::Empty);
+        data->setInt(kVolume, wholeLitres(row.volume));
+        data->setString(kValue, row.value);
+        data->commit();
+    }
+    table->commit();
+}
+
+std::optional<FuelRows> fuelTable(CXmlSection* root)
+{
+    FuelRows rows;
+    const CXmlSectionPtr table = root->child(kTable);
+    if (!table)
+        return rows;
+    for (CXmlSectionPtr row(table->firstChild(kRow)); row; row.reset(table->nextChild())) {
+        if (rows.size() == maxFuelRows)
+            return {};
+        const auto text = [&row](const QString& key) {
+            return withDecimalPoint(row->getString(key, QStringLiteral("0")));
+        };
+        rows.push_back({text(kVolume), text(kValue)});
+    }
+    return rows;
+}
+
+QString fuelTableName(const CXmlSection* root)
+{
+    return root->getString(QStringLiteral("Name_A1"));
+}
+
+} // namespace vlk

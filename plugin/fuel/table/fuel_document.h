@@ -1,0 +1,31 @@
+#pragma once
+
+// The calibration document, an XML file with the root FUEL that holds the table of one sensor:
+//
+//     <FUEL model="R-7106" type="D1">
+//         <objName>...</objName> <Name>...</Name>
+//         <TABLE> <DATA param_U="10" param_V="231"/> ... </TABLE>
+//     </FUEL>
+//
+// param_U is the volume, of which the file keeps whole litres only, and param_V the text of the sensor value.
+// The name of the sensor is written as Name and read as Name_A1, so that a document written here loads
+// without one.
+
+#include "fuel/table/fuel_rows.h"
+
+#include <optional>
+
+struct CXmlSection;
+
+namespace vlk {
+
+inline constexpr auto fuelRoot = "FUEL";
+
+// Puts one sensor's table into the root of a document.
+void putFuelTable(CXmlSection* root, const QString& sensor, const QString& name, const FuelRows& rows);
+
+// The table in the root of a document; none when it has more than maxFuelRows rows.
+std::optional<FuelRows> fuelTable(CXmlSection* root);
+QString fuelTableName(const CXmlSection* root);
+
+} // namespace vlk

@@ -1,0 +1,62 @@
+#include "fuel/table/fuel_file.h"
+
+#include "base/save_log.h"
+#include "base/whole_file.h"
+#include "fuel/table/fuel_log.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+namespace vlk {
+
+Q_LOGGING_CATEGORY(lcFuel, "vlk.fuel")
+
+namespace {
+
+// Bytes. The largest table has a tenth of this.
+constexpr qint64 kLargestFile = 4'000'000;
+
+QString withoutForbidden(QString text)
+{
+    static const QRegularExpression forbidden(QStringLiteral("[\\\\/:*?\"<>|\\x00-\\x1f]"));
+    return text.remove(forbidden);
+}
+
+} // namespace
+
+QString fuelFileName(const QString& folder, const QString& sensor, const QString& title,
+                     const QDateTime& time)
+{
+    return QStringLiteral("%1/%2-%3(%4)")
+        .arg(folder, withoutForbidden(sensor), withoutForbidden(title),
+             time.toString(QStringLiteral("yyyy-MM-dd hh_mm_ss")));
+}
+
+bool saveFuelFile(const QString& path, const QByteArray& content)
+{
+    QSaveFile file(path);
+    QString reason;
+    if (saveWhole(file, content, &reason))
+        return true;
+    qCWarning(lcSave).noquote().nospace() << path << ": " << reason;
+    return false;
+}
+
+std::optional<QByteArray> readFuelFile(const QString& path)
+{
+    QFile file(path);
+    // What is no plain file may have no end, or wait for its first byte for ever.
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
+        qCWarning(lcFuel).noquote() << "cannot open" << path << ':' << file.errorString();
+        return {};
+    }
+    if (file.size() > kLargestFile) {
+        qCWarning(lcFuel).noquote() << path << "is too large for a calibration table";
+        return {};
+    }
+    return file.read(kLargestFile);
+}
+
+} // namespace vlk

@@ -1,0 +1,25 @@
+#pragma once
+
+// Calibration files on the disk: what they are called, and how they are read and saved.
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+class QDateTime;
+
+namespace vlk {
+
+// "FOLDER/D1-TITLE(2026-05-17 14_03_59)". Characters that a file name cannot hold are left out.
+QString fuelFileName(const QString& folder, const QString& sensor, const QString& title,
+                     const QDateTime& time);
+
+// True when the file at `path` now holds the content. Otherwise it holds what it held before, and the log
+// (vlk.save) says why.
+bool saveFuelFile(const QString& path, const QByteArray& content);
+
+// None when there is no such file or it is too large for a calibration; the log (vlk.fuel) says so.
+std::optional<QByteArray> readFuelFile(const QString& path);
+
+} // namespace vlk

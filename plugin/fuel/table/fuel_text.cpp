@@ -1,0 +1,161 @@
+#include "fuel/table/fuel_text.h"
+
+#include <QLocale>
+#include <QTextCodec>
+#include <QVector>
+
+#include <algorithm>
+#include <utility>
+
+namespace vlk {
+
+namespace {
+
+// The two cells of a line in the order in which they stand.
+using Cells = std::pair<QString, QString>;
+
+constexpr QChar kTab = QLatin1Char('\t');
+constexpr QChar kComma = QLatin1Char(',');
+constexpr QChar kPoint = QLatin1Char('.');
+constexpr QChar kSemicolon = QLatin1Char(';');
+
+QStringList split(const QString& line, QChar separator)
+{
+    constexpr QChar kQuote = QLatin1Char('"');
+    QStringList cells(QString{});
+    bool quoted = false;
+    for (int i = 0; i < line.size(); ++i) {
+        const QChar c = line[i];
+        if (c == kQuote && quoted && line.midRef(i + 1, 1) == kQuote)
+            cells.last() += line[++i];
+        else if (c == kQuote)
+            quoted = !quoted;
+        else if (c == separator && !quoted)
+            cells << QString();
+        else
+            cells.last() += c;
+    }
+    return cells;
+}
+
+// Spaces within a number stand between its thousands.
+QString number(const QString& cell)
+{
+    QString text = withDecimalPoint(cell.trimmed());
+    text.remove(QChar(QChar::Nbsp)).remove(QChar(0x202f));
+    return text;
+}
+
+bool isDigits(const QString& cell)
+{
+    return !cell.isEmpty() && std::all_of(cell.begin(), cell.end(), [](QChar c) { return c.isDigit(); });
+}
+
+// A comma may separate two cells, or a number from its decimals.
+QStringList splitAtCommas(const QString& line)
+{
+    const QStringList cells = split(line, kComma);
+    if (cells.size() == 4 && std::all_of(cells.begin(), cells.end(), isDigits))
+        return {cells[0] + kPoint + cells[1], cells[2] + kPoint + cells[3]};
+    if (cells.size() > 2 && std::all_of(cells.begin(), cells.begin() + 3, isDigits))
+        return {line};
+    return cells;
+}
+
+Cells cellsOf(const QString& line)
+{
+    QStringList cells;
+    if (line.contains(kSemicolon))
+        cells = split(line, kSemicolon);
+    else if (line.contains(kTab))
+        cells = split(line, kTab);
+    else
+        cells = splitAtCommas(line);
+    return {number(cells.value(0)), number(cells.value(1))};
+}
+
+FuelRow rowOf(Cells cells, bool valueFirst)
+{
+    if (valueFirst)
+        std::swap(cells.first, cells.second);
+    return {std::move(cells.first), std::move(cells.second)};
+}
+
+// Hands over line by line; stops when `take` gives false.
+template <class Take>
+void forEachLine(const QString& text, Take take)
+{
+    for (int from = 0; from < text.size();) {
+        const int end = text.indexOf(QLatin1Char('\n'), from);
+        const int length = (end < 0 ? text.size() : end) - from;
+        QString line = text.mid(from, std::min(length, maxFuelLine));
+        while (line.endsWith(QLatin1Char('\r')))
+            line.chop(1);
+        if (!take(line))
+            return;
+        from += length + 1;
+    }
+}
+
+QString decoded(const QByteArray& content)
+{
+    return QTextCodec::codecForUtfText(content, QTextCodec::codecForLocale())->toUnicode(content);
+}
+
+} // namespace
+
+QByteArray fuelCsv(const FuelCaptions& captions, const FuelRows& rows)
+{
+    QString text;
+    const auto add = [&text](const QString& value, const QString& volume) {
+        text += value + kSemicolon + volume + QLatin1String("\r\n");
+    };
+    add(captions.value, captions.volume);
+    for (const FuelRow& row : rows)
+        add(row.value, row.volume);
+    return text.toLocal8Bit();
+}
+
+std::optional<FuelRows> readFuelCsv(const QByteArray& content)
+{
+    const QString text = decoded(content);
+    if (text.contains(QChar(QChar::Null)))
+        return {};
+    FuelRows rows;
+    bool isHeading = true;
+    forEachLine(text, [&](const QString& line) {
+        if (std::exchange(isHeading, false))
+            return true;
+        FuelRow row = rowOf(cellsOf(line), true);
+        if (!row.value.isEmpty() || !row.volume.isEmpty())
+            rows.push_back(std::move(row));
+        return rows.size() <= maxFuelRows;
+    });
+    if (rows.size() > maxFuelRows)
+        return {};
+    return rows;
+}
+
+QString fuelClipboard(const FuelCaptions& captions, const FuelRows& rows)
+{
+    const QChar decimalSign = QLocale().decimalPoint();
+    QString text = captions.volume + kTab + captions.value + QLatin1Char('\n');
+    for (const FuelRow& row : rows)
+        text += QString(row.volume + kTab + row.value).replace(kPoint, decimalSign) + QLatin1Char('\n');
+    return text;
+}
+
+FuelRows readFuelClipboard(const QString& text, const FuelCaptions& captions)
+{
+    const bool valueFirst = text.startsWith(captions.value);
+    FuelRows rows;
+    forEachLine(text, [&](const QString& line) {
+        FuelRow row = rowOf(cellsOf(line), valueFirst);
+        if (isPoint(row))
+            rows.push_back(std::move(row));
+        return rows.size() <= maxFuelRows;
+    });
+    return rows.size() > maxFuelRows ? FuelRows() : rows;
+}
+
+} // namespace vlk

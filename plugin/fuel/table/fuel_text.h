@@ -1,0 +1,41 @@
+#pragma once
+
+// Calibration tables as text: the CSV file, and what the clipboard carries to and from a spreadsheet.
+//
+// A CSV file begins with a line of headings, then comes a line a row: sensor value, ";", volume, numbers with
+// a point, no quotes, CR LF, in the 8-bit encoding of the system. On the clipboard the columns stand as on
+// the screen, volume first, with tabs between them and the decimal sign of the user's locale.
+//
+// Reading takes what spreadsheets make of such a table too: a tab or a comma between the cells, a comma as
+// decimal sign, cells in quotes, a byte order mark. Only the first two cells of a line count. A line with
+// commas alone is two numbers where that can be told; where it cannot, its text stands in the first cell
+// whole, for the user to see.
+
+#include "fuel/table/fuel_rows.h"
+
+#include <QByteArray>
+
+#include <optional>
+
+namespace vlk {
+
+// The names of the columns, as the user reads them.
+struct FuelCaptions
+{
+    QString volume;
+    QString value;
+};
+
+// Of a line no more than this is looked at. Characters.
+inline constexpr int maxFuelLine = 1024;
+
+QByteArray fuelCsv(const FuelCaptions& captions, const FuelRows& rows);
+// The first line is dropped, whatever it says, and so are blank ones. None for what is no text or has more
+// than maxFuelRows rows.
+std::optional<FuelRows> readFuelCsv(const QByteArray& content);
+
+QString fuelClipboard(const FuelCaptions& captions, const FuelRows& rows);
+// The rows with two numbers. Headings may be there; when they are those of a CSV file, its order counts.
+FuelRows readFuelClipboard(const QString& text, const FuelCaptions& captions);
+
+} // namespace vlk

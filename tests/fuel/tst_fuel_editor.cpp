@@ -1,0 +1,280 @@
+// The editor of one calibration table in the dialog of an RS sensor: points by hand, files, clipboard, curve.
+
+#include "base/clock.h"
+#include "fuel/form_fuel_sensor.h"
+#include "fuel/form_fuel_view.h"
+#include "fuel/fuelsensor_graph.h"
+#include "support/data_table.h"
+#include "support/files.h"
+#include "support/window_parts.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+Q_DECLARE_METATYPE(vlk::FuelRow)
+
+class FuelEditorTest : public QObject, private WindowParts
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        dialog_ = std::make_unique<VLK_Form_Fuel_View>();
+        window = dialog_.get();
+        dialog_->setSensor(1, "D3");
+        dialog_->show();
+        dialog_->resize(900, 540);
+        graph_ = child<VLK_FuelSensor_Graph>(QString());
+        QVERIFY(QTest::qWaitForWindowExposed(window));
+    }
+    void cleanup() { dialog_.reset(); }
+
+    void addsPoints()
+    {
+        QCOMPARE(child<QLineEdit>("lineEdit_Name")->text(), QString("D3"));
+        QCOMPARE(child<QLineEdit>("lineEdit_Param")->text(), QString("0"));
+        QVERIFY(!isOn("pushButton_Add") && !isOn("pushButton_Clear") && !isOn("pushButton_Del"));
+        type("20", "8");
+        QVERIFY(isOn("pushButton_Clear") && child<QLineEdit>("lineEdit_Volume")->hasFocus());
+        QCOMPARE(child<QLineEdit>("lineEdit_Volume")->text(), QString());
+        type("10,5", "5");
+        type("10.5", "6");
+        type("7", "");
+        QVERIFY(!isOn("pushButton_Add"));
+        child<QLineEdit>("lineEdit_Volume")->clear();
+        type("", "3");
+        QCOMPARE(rows(), QString("10.5=5 10.5=6 20=8"));
+        // Fields take what their validators accept, and Enter nothing else.
+        type("0,55", "7");
+        type("1", "70000");
+        type(".", "1");
+        QCOMPARE(rows(), QString("0.5=7 10.5=5 10.5=6 20=8"));
+        QMap<double, int> map{{99, 1}};
+        dialog_->getData(map);
+        QCOMPARE(map.value(10.5), 6);
+        QVERIFY(!map.contains(99));
+    }
+
+    void editsCells()
+    {
+        dialog_->setData("title", {{10, 100}, {20, 200}, {30.5, 300}});
+        QCOMPARE(rows(), QString("10=100 20=200 30.5=300"));
+        auto* table = child<QTableWidget>("tableWidget");
+        table->item(0, 2)->setCheckState(Qt::Checked);
+        QVERIFY(isOn("pushButton_Del"));
+        editCell(0, 0, "25,5", Qt::Key_Return);
+        QCOMPARE(rows(), QString("20=200 25.5=100 30.5=300"));
+        QCOMPARE(table->item(1, 2)->checkState(), Qt::Checked);
+        editCell(0, 0, "7", Qt::Key_Escape);
+        editCell(0, 0, "6000", Qt::Key_Enter);
+        editCell(0, 1, "70000", Qt::Key_Enter);
+        QCOMPARE(rows(), QString("20=200 25.5=100 30.5=300"));
+        answerNext("wrd_002");
+        press("pushButton_Del");
+        QCOMPARE(table->rowCount(), 3);
+        answerNext("wrd_001");
+        press("pushButton_Del");
+        QCOMPARE(rows(), QString("20=200 30.5=300"));
+        QVERIFY(!isOn("pushButton_Del") && isOn("pushButton_Clear"));
+        answerNext("wrd_001");
+        press("pushButton_Clear");
+        QVERIFY(rows().isEmpty() && !isOn("pushButton_Clear"));
+        // The application's own locale is left alone.
+        QCOMPARE(QLocale().language(), QLocale::system().language());
+    }
+
+    void sortsWhatIsNoNumber()
+    {
+        form()->addRows({{"5", "1"}, {"x", "2"}, {"-1", "3"}, {"3", ""}, {"4", "4"}});
+        QCOMPARE(rows(), QString("-1=3 x=2 3= 4=4 5=1"));
+    }
+
+    void csvFiles()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("table.csv");
+        dialog_->setData("t", {{10.5, 100}, {20, 200}});
+        form()->saveCsv(path);
+        QCOMPARE(readFile(path), QByteArray("cfgt6_044;cfgt6_040\r\n100;10.5\r\n200;20\r\n"));
+        answerFile(path);
+        press("pushButton_Open");
+        QCOMPARE(rows(), QString("10.5=100 10.5=100 20=200 20=200"));
+        QVERIFY(!form()->isDirty());
+        for (const char* none : {"none.csv", "binary.csv"}) {
+            writeFile(folder.filePath("binary.csv"), QByteArray(100, '\0'));
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot open|holds no"));
+            form()->loadCsv(folder.filePath(none));
+        }
+        QCOMPARE(child<QTableWidget>("tableWidget")->rowCount(), 4);
+        vlk::setClock([] { return QDateTime({2026, 5, 7}, {14, 3, 9}); });
+        child<QLineEdit>("lineEdit_Title")->setText("v1.2/3");
+        QString proposed;
+        answerFile({}, &proposed);
+        press("pushButton_Save");
+        QCOMPARE(proposed, QString("/D3-v1.23(2026-05-07 14_03_09).csv"));
+        vlk::setClock({});
+    }
+
+    void clipboard()
+    {
+        dialog_->setData("t", {{10, 100}});
+        auto* table = child<QTableWidget>("tableWidget");
+        QApplication::setActiveWindow(window);
+        table->setFocus();
+        QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text(), QString("cfgt6_040\tcfgt6_044\n10\t100\n"));
+        QGuiApplication::clipboard()->setText("words");
+        QTest::keyClick(table, Qt::Key_V, Qt::ControlModifier);
+        QVERIFY(!form()->isDirty());
+        QGuiApplication::clipboard()->setText("5,5\t7\n1\t2\n");
+        QTest::keyClick(table, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(rows(), QString("1=2 5.5=7 10=100"));
+        QVERIFY(form()->isDirty());
+    }
+
+    void givesTheTableToItsOwner_data()
+    {
+        DataTable<bool, QString, QString, int>({"dirty", "leave", "answer", "told"})
+            .row("accept", false, "accept", "", 1)
+            .row("accept unsaved", true, "accept", "", 1)
+            .row("close", false, "close", "", 0)
+            .row("close unsaved, yes", true, "close", "wrd_001", 1)
+            .row("close unsaved, no", true, "close", "wrd_002", 0)
+            .row("Escape unsaved, yes", true, "escape", "wrd_001", 1);
+    }
+    void givesTheTableToItsOwner()
+    {
+        QFETCH(bool, dirty);
+        QFETCH(QString, leave);
+        QFETCH(QString, answer);
+        QFETCH(int, told);
+        const QSignalSpy spy(dialog_.get(), &VLK_Form_Fuel_View::signal_SetNewFuelData);
+        dialog_->setData("t", {{1, 1}});
+        if (dirty)
+            type("20", "8");
+        if (!answer.isEmpty())
+            answerNext(answer);
+        if (leave == "accept")
+            press("pushButton_Accept");
+        else if (leave == "close")
+            dialog_->close();
+        else
+            QTest::keyClick(window, Qt::Key_Escape);
+        QVERIFY(dialog_->isHidden());
+        QCOMPARE(spy.count(), told);
+        QCOMPARE(dialog_->sensorName(), QString("D3"));
+        dialog_->reset();
+        QVERIFY(rows().isEmpty() && !form()->isDirty());
+    }
+
+    // Where the points of a kind stand, whatever the size: dots are red, the last tick says the largest.
+    void drawsPoints_data()
+    {
+        DataTable<int, vlk::FuelRows, QPointF>({"kind", "rows", "last"})
+            .row("volts", 0, {{"0", "0"}, {"10", "1.5"}, {"20", "3"}}, {1, 1})
+            .row("codes far above the pixels", 1, {{"0", "0"}, {"1000", "2000"}, {"2000", "4000"}}, {1, 1})
+            .row("no volume", 1, {{"0", "10"}, {"0", "20"}}, {0, 1})
+            .row("no value", 1, {{"10", "0"}}, {1, 0});
+    }
+    void drawsPoints()
+    {
+        QFETCH(int, kind);
+        QFETCH(vlk::FuelRows, rows);
+        QFETCH(QPointF, last);
+        dialog_->setSensor(kind, "D3");
+        form()->addRows(rows);
+        const QImage image = graph_->grab().toImage();
+        const int left = kind == 0 ? 60 : 80;
+        const QPoint corner(left, graph_->height() - 50);
+        const QPoint step((graph_->width() - 40 - left) / 10, (graph_->height() - 90) / 10);
+        const QPoint end(corner.x() + qRound(last.x() * 10 * step.x()),
+                         corner.y() - qRound(last.y() * 10 * step.y()));
+        const auto isRed = [&image](const QPoint& at) {
+            const QColor colour = image.pixelColor(at);
+            return colour.red() > 180 && colour.green() < 90;
+        };
+        QVERIFY(isRed(end));
+        QVERIFY(rows.size() < 3 || isRed((corner + end) / 2));
+        QCOMPARE(image.pixelColor(2, 2), QColor(Qt::white));
+    }
+
+    void tellsOfPoints()
+    {
+        form()->addRows({{"0", "0"}, {"10", "50"}, {"20", "40"}, {"30", "100"}});
+        QVERIFY(text("label_Falling").startsWith("cfgt6_403"));
+        const QPoint last(80 + (graph_->width() - 120) / 10 * 10,
+                          graph_->height() - 50 - (graph_->height() - 90) / 10 * 10);
+        QTest::mouseMove(graph_, last + QPoint(-4, 4));
+        QTRY_COMPARE(graph_->accessibleDescription(), QString("cfgt6_040: 30.0\ncfgt6_044: 100"));
+        form()->addRow("40", "200");
+        QCOMPARE(graph_->accessibleDescription(), QString());
+        form()->clearAll();
+        QCOMPARE(text("label_Falling"), QString());
+        QVERIFY(!graph_->grab().isNull());
+    }
+
+private:
+    VLK_Form_Fuel_Sensor* form() { return child<VLK_Form_Fuel_Sensor>(QString()); }
+    // As a user does it, with Enter in the value.
+    void type(const QString& volume, const QString& value)
+    {
+        child<QLineEdit>("lineEdit_Volume")->clear();
+        QTest::keyClicks(child<QLineEdit>("lineEdit_Volume"), volume);
+        auto* edit = child<QLineEdit>("lineEdit_Param");
+        edit->clear();
+        QTest::keyClicks(edit, value);
+        QTest::keyClick(edit, Qt::Key_Return);
+    }
+    void editCell(int row, int column, const QString& text, Qt::Key key)
+    {
+        auto* table = child<QTableWidget>("tableWidget");
+        table->editItem(table->item(row, column));
+        auto* editor = table->viewport()->findChild<QLineEdit*>();
+        QVERIFY(editor);
+        editor->selectAll();
+        QTest::keyClicks(editor, text);
+        QTest::keyClick(editor, key);
+        // An editor that refuses its text stays.
+        if (editor->isVisible())
+            QTest::keyClick(editor, Qt::Key_Escape);
+        QTRY_VERIFY(!table->viewport()->findChild<QLineEdit*>());
+    }
+    QString rows()
+    {
+        QStringList texts;
+        const auto* table = child<QTableWidget>("tableWidget");
+        for (int row = 0; row < table->rowCount(); ++row)
+            texts << table->item(row, 0)->text() + '=' + table->item(row, 1)->text();
+        return texts.join(' ');
+    }
+    static void whenModal(const std::function<void(QWidget*)>& act)
+    {
+        QTimer::singleShot(50, qApp, [act] { act(QApplication::activeModalWidget()); });
+    }
+    static void answerNext(const QString& button)
+    {
+        whenModal([button](QWidget* box) {
+            for (auto* found : box->findChildren<QPushButton*>())
+                if (found->text() == button)
+                    return found->click();
+            qFatal("no button %s", qPrintable(button));
+        });
+    }
+    static void answerFile(const QString& path, QString* proposed = nullptr)
+    {
+        whenModal([=](QWidget* modal) {
+            auto* dialog = qobject_cast<QFileDialog*>(modal);
+            if (proposed)
+                *proposed = dialog->selectedFiles().value(0);
+            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
+            QMetaObject::invokeMethod(dialog, path.isEmpty() ? "reject" : "accept");
+        });
+    }
+
+    std::unique_ptr<VLK_Form_Fuel_View> dialog_;
+    VLK_FuelSensor_Graph* graph_ = nullptr;
+};
+
+QTEST_MAIN(FuelEditorTest)
+#include "tst_fuel_editor.moc"

@@ -1,0 +1,379 @@
+// The calibration window over the telemetry view, as host and user see it.
+
+#include "support/data_table.h"
+#include "support/full_disk.h"
+#include "telemetry/opened_view.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+using vlk::Message;
+
+namespace {
+
+// The record of the live values, each sensor with a value of its own: D1 1001, D2 1002...
+QByteArray liveRecord()
+{
+    QByteArray record(vlk::analogRecordSize, '\x7f');
+    const auto put = [&record](int at, quint16 value) { qToLittleEndian(value, record.data() + at); };
+    put(19, 12340);
+    for (int i = 0; i < 6; ++i)
+        put(25 + 3 * i, quint16(1001 + i));
+    return record;
+}
+
+QByteArray fuelFile(const QByteArray& type, const QByteArray& model = "R-7106",
+                    const QByteArray& root = "FUEL")
+{
+    return '<' + root + " model=\"" + model + "\" type=\"" + type +
+           "\"><Name_A1>rear</Name_A1><TABLE><DATA param_U=\"20\" param_V=\"8\"/>"
+           "<DATA param_U=\"10\" param_V=\"7,5\"/></TABLE></" +
+           root + '>';
+}
+
+} // namespace
+
+class FuelWindowTest : public QObject, private OpenedView
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        start("<TRANS><OBJECT name=\"Truck: 7\"/></TRANS>");
+        open();
+        const vlk::Paths paths{folder.path(), {}, {}, {}};
+        host.send(Message::SetPaths, &paths);
+    }
+
+    void init()
+    {
+        press("pushButton_FuelSensor");
+        fuel_.window = ScriptedHost::window("VLK_Form_TMI_Fuel_Sensors");
+        QVERIFY(fuel_.window->isVisible());
+        show("A3");
+    }
+
+    void cleanup()
+    {
+        // There is a question where rows are unsaved.
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, [] {
+            if (QWidget* box = QApplication::activeModalWidget())
+                answer(box, "wrd_001");
+        });
+        timer.start(10);
+        fuel_.window->close();
+        QVERIFY(fuel_.window->isHidden());
+    }
+
+    void opens()
+    {
+        QCOMPARE(edit("lineEdit_Title")->text(), QString("Truck: 7"));
+        auto* groups = fuel_.child<QTabWidget>("tabWidget");
+        QCOMPARE(groups->count(), 2);
+        QCOMPARE(qobject_cast<QTabWidget*>(groups->widget(0))->count(), 1);
+        QCOMPARE(qobject_cast<QTabWidget*>(groups->widget(1))->tabText(5), QString("tmiw_124 RS-485 D6"));
+        QVERIFY(fuel_.child<QWidget>("pushButton_Help")->isHidden());
+        QVERIFY(!fuel_.isOn("pushButton_Save_Xml"));
+        QVERIFY(host.takeSent(Message::RequestAnalog).size() == 1);
+        QVERIFY(fuel_.window->width() <= 1024 && fuel_.window->height() <= 600);
+        QVERIFY(fuel_.window->minimumSizeHint().height() <= 300 &&
+                fuel_.window->minimumSizeHint().width() <= 512);
+    }
+
+    // Question, answer, two seconds, question: until the window closes.
+    void asksInAChain()
+    {
+        host.sent.clear();
+        host.send(Message::AnalogRecord, nullptr);
+        host.send(Message::AnalogRecord, liveRecord().constData());
+        host.send(Message::AnalogRecord, liveRecord().constData());
+        QCOMPARE(field("A3", "lineEdit_Param")->text(), QString("12.34"));
+        QCOMPARE(field("D1", "lineEdit_Param")->text(), QString("1001"));
+        QCOMPARE(field("D6", "lineEdit_Param")->text(), QString("1006"));
+        QVERIFY(host.sent.isEmpty());
+        QTRY_VERIFY_WITH_TIMEOUT(!host.sent.isEmpty(), 4000);
+        QCOMPARE(host.takeSent(Message::RequestAnalog).size(), 1);
+        host.send(Message::AnalogRecord, liveRecord().constData());
+        fuel_.window->close();
+        QTest::qWait(2200);
+        QVERIFY(host.takeSent(Message::RequestAnalog).isEmpty());
+        host.send(Message::AnalogRecord, liveRecord().constData());
+    }
+
+    void savesAsXml()
+    {
+        add("A3", "10,5", 12340);
+        add("A3", "5", 900);
+        QVERIFY(fuel_.isOn("pushButton_Save_Xml"));
+        field("A3", "lineEdit_Name")->setText("left");
+        QString proposed;
+        const QString path = folder.filePath("saved.xml");
+        writeFile(path, "no document");
+        saveTo("pushButton_Save_Xml", path, &proposed);
+        static const QRegularExpression name(
+            "/A3-Truck 7\\(\\d{4}-\\d\\d-\\d\\d \\d\\d_\\d\\d_\\d\\d\\)\\.xml$");
+        QVERIFY2(name.match(proposed).hasMatch() && proposed.startsWith(folder.path()), qPrintable(proposed));
+        QCOMPARE(readFile(path), QByteArray("<?xml version=\"1.0\" encoding=\"windows-1251\"?>\n"
+                                            "<FUEL model=\"R-7106\" type=\"A3\">\n"
+                                            "\t<objName>Truck: 7</objName>\n"
+                                            "\t<Name>left</Name>\n"
+                                            "\t<TABLE>\n"
+                                            "\t\t<DATA param_U=\"5\" param_V=\"0.90\"/>\n"
+                                            "\t\t<DATA param_U=\"10\" param_V=\"12.34\"/>\n"
+                                            "\t</TABLE>\n"
+                                            "</FUEL>\n"));
+        QVERIFY(!fuel_.isOn("pushButton_Save_Xml"));
+        load(path);
+        QCOMPARE(rows("A3"), QString("5=0.90 10=12.34"));
+        QCOMPARE(field("A3", "lineEdit_Name")->text(), QString());
+    }
+
+    // What could not be saved stays unsaved, and the file stays as it was.
+    void keepsWhatADiskRefuses()
+    {
+        add("A3", "10", 1000);
+        const QString path = writeFile(folder.filePath("full.xml"), "as it was");
+        {
+            const FullDisk full(16);
+            QTest::ignoreMessage(QtWarningMsg,
+                                 QRegularExpression("^" + QRegularExpression::escape(path) + ": "));
+            saveTo("pushButton_Save_Xml", path);
+        }
+        QCOMPARE(readFile(path), QByteArray("as it was"));
+        QVERIFY(fuel_.isOn("pushButton_Save_Xml"));
+        expectQuestion("wrd_005!<br>tmiw_130 tmiw_131<br>tmiw_132", "wrd_031");
+        fuel_.window->close();
+        QVERIFY(fuel_.window->isVisible());
+    }
+
+    void savesAsCsv()
+    {
+        add("D2", "10,5", 7);
+        QString proposed;
+        const QString path = folder.filePath("saved.csv");
+        saveTo("pushButton_Save_Excel", path, &proposed);
+        QVERIFY(proposed.contains("/D2-Truck 7(") && proposed.endsWith(".csv"));
+        QCOMPARE(readFile(path), QByteArray("cfgt6_044;cfgt6_040\r\n1002;10.5\r\n"));
+        QVERIFY(fuel_.isOn("pushButton_Save_Xml"));
+    }
+
+    void loads_data()
+    {
+        DataTable<QByteArray, QString, QString>({"content", "sensor", "box"})
+            .row("A3", fuelFile("A3"), "A3", "")
+            .row("D4", fuelFile("D4"), "D4", "")
+            .row("no such sensor", fuelFile("D9"), "D2", "")
+            .row("group", fuelFile("D"), "D2", "")
+            .row("group that is not here", fuelFile("F1"), "A3", "")
+            .row("no type", fuelFile(""), "A3", "")
+            .row("no letter", fuelFile("\xc3\x84"), "A3", "")
+            .row("other model", fuelFile("A3", "R-1"), "", "tmiw_128")
+            .row("other root", fuelFile("A3", "R-7106", "DEVICE"), "", "tmiw_128")
+            .row("empty", "", "", "tmiw_128")
+            .row("malformed", fuelFile("A3").chopped(9), "", "")
+            .row("too long",
+                 "<FUEL model=\"R-7106\"><TABLE>" + QByteArray("<DATA/>").repeated(20'001) +
+                     "</TABLE></FUEL>",
+                 "", "")
+            .row("too large",
+                 "<FUEL model=\"R-7106\"><TABLE>" + QByteArray("<DATA/>").repeated(1'000'000) +
+                     "</TABLE></FUEL>",
+                 "", "");
+    }
+    void loads()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, sensor);
+        QFETCH(QString, box);
+        show("D2");
+        show("A3");
+        add("A3", "1", 1000);
+        saveTo("pushButton_Save_Xml", folder.filePath("out.xml"));
+        const QString path = writeFile(folder.filePath("load.xml"), content);
+        load(path, box);
+        if (sensor.isEmpty()) {
+            QCOMPARE(rows("A3"), QString("1=1.00"));
+        } else {
+            QCOMPARE(rows(sensor), QString("10=7.5 20=8"));
+            QCOMPARE(field(sensor, "lineEdit_Name")->text(), QString("rear"));
+            QVERIFY(form(sensor)->isVisible());
+        }
+        QCOMPARE(readFile(path), content);
+    }
+
+    void asksBeforeRowsAreReplaced()
+    {
+        add("A3", "1", 1000);
+        const QString path = writeFile(folder.filePath("load.xml"), fuelFile("A3"));
+        load(path, "tmiw_129", "wrd_031");
+        QCOMPARE(rows("A3"), QString("1=1.00"));
+        load(path, "tmiw_129", "wrd_001");
+        QCOMPARE(rows("A3"), QString("10=7.5 20=8"));
+        QVERIFY(!fuel_.isOn("pushButton_Save_Xml"));
+    }
+
+    // Each opening begins anew, save when rows would be lost; and tabs know what is unsaved.
+    void countsWhatIsUnsaved()
+    {
+        add("A3", "1", 1000);
+        show("D1");
+        QVERIFY(!fuel_.isOn("pushButton_Save_Xml"));
+        add("D1", "1", 1000);
+        show("A3");
+        QVERIFY(fuel_.isOn("pushButton_Save_Xml"));
+        press("pushButton_FuelSensor");
+        QCOMPARE(rows("A3"), QString("1=1.00"));
+        expectQuestion("wrd_005!<br>tmiw_130 tmiw_131<br>tmiw_132", "wrd_001");
+        QTest::keyClick(fuel_.window, Qt::Key_Escape);
+        QVERIFY(fuel_.window->isHidden());
+        press("pushButton_FuelSensor");
+        QCOMPARE(rows("A3") + rows("D1"), QString());
+        fuel_.window->close();
+        QVERIFY(fuel_.window->isHidden());
+    }
+
+    // A cable that goes takes the live values with it, not the rows; the chain goes on when the view is back.
+    void survivesTheCable()
+    {
+        add("A3", "1", 1000);
+        host.send(Message::TrackerDetached);
+        QVERIFY(window->isHidden() && fuel_.window->isVisible());
+        QCOMPARE(rows("A3"), QString("1=1.00"));
+        edit("A3", "2");
+        QVERIFY(!form("A3")->findChild<QPushButton*>("pushButton_Add")->isEnabled());
+        host.send(Message::AnalogRecord, liveRecord().constData());
+        QCOMPARE(field("A3", "lineEdit_Param")->text(), QString());
+        host.sent.clear();
+        host.attach();
+        openAgain();
+        QCOMPARE(host.takeSent(Message::RequestAnalog).size(), 1);
+        host.send(Message::AnalogRecord, liveRecord().constData());
+        QCOMPARE(field("A3", "lineEdit_Param")->text(), QString("12.34"));
+        expectQuestion("wrd_005!<br>tmiw_130 tmiw_131<br>tmiw_132", "wrd_001");
+        host.send(Message::CloseWindows);
+        QVERIFY(window->isHidden() && fuel_.window->isHidden());
+        open();
+        press("pushButton_FuelSensor");
+        host.send(Message::TrackerDetached);
+        QVERIFY(fuel_.window->isHidden());
+        host.attach();
+        openAgain();
+    }
+
+    void asksForHelpAndPrints()
+    {
+        QVERIFY(QTest::qWaitForWindowActive(fuel_.window));
+        QTest::keyClick(fuel_.window, Qt::Key_F1);
+        QCOMPARE(host.sent.last().number, Message::ShowHelp);
+        QCOMPARE(host.sent.last().text2, QString("r-7106Fuel.html"));
+        add("A3", "10", 12340);
+        field("A3", "lineEdit_Name")->setText("Tank 1");
+        fuel_.press("pushButton_Print");
+        WindowParts report;
+        report.window = ScriptedHost::window("VLK_FormReportFuel");
+        QVERIFY(report.window->isVisible());
+        const QString text = report.child<QTextEdit>("textEdit_Report")->toPlainText();
+        QVERIFY(text.contains("Tank 1") && text.contains("12.34") && text.contains("10.0"));
+
+        const QString path = folder.filePath("report.pdf");
+        ScriptedHost::whenModal([](QWidget* dialog) { qobject_cast<QDialog*>(dialog)->reject(); });
+        report.press("pushButton_Print");
+        QVERIFY(!QFile::exists(path) && report.window->isVisible());
+        ScriptedHost::whenModal([path](QWidget* dialog) {
+            ScriptedHost::child<QLineEdit>(dialog, "filename")->setText(path);
+            qobject_cast<QDialog*>(dialog)->accept();
+        });
+        report.press("pushButton_Print");
+        QVERIFY(readFile(path).startsWith("%PDF"));
+        report.window->close();
+    }
+
+    void retranslates()
+    {
+        host.send(Message::LanguageChanged);
+        QCOMPARE(fuel_.window->windowTitle(), QString("tmiw_119"));
+    }
+
+private:
+    QWidget* form(const QString& sensor) { return fuel_.child<QWidget>(sensor); }
+    QLineEdit* edit(const char* name) { return fuel_.child<QLineEdit>(name); }
+    QLineEdit* field(const QString& sensor, const char* name)
+    {
+        return form(sensor)->findChild<QLineEdit*>(name);
+    }
+    void edit(const QString& sensor, const QString& volume)
+    {
+        field(sensor, "lineEdit_Volume")->setText(volume);
+    }
+    void show(const QString& sensor)
+    {
+        auto* groups = fuel_.child<QTabWidget>("tabWidget");
+        const bool analogue = sensor.startsWith('A');
+        groups->setCurrentIndex(analogue ? 0 : 1);
+        auto* group = qobject_cast<QTabWidget*>(groups->currentWidget());
+        group->setCurrentIndex(analogue ? 0 : sensor.midRef(1).toInt() - 1);
+    }
+    // Pours, waits for the live value and adds the point.
+    void add(const QString& sensor, const QString& volume, quint16 millivolts)
+    {
+        show(sensor);
+        QByteArray record = liveRecord();
+        qToLittleEndian(millivolts, record.data() + 19);
+        host.send(Message::AnalogRecord, record.constData());
+        edit(sensor, volume);
+        form(sensor)->findChild<QPushButton*>("pushButton_Add")->click();
+    }
+    QString rows(const QString& sensor)
+    {
+        const auto* table = form(sensor)->findChild<QTableWidget*>("tableWidget");
+        QStringList rows;
+        for (int row = 0; row < table->rowCount(); ++row)
+            rows << table->item(row, 0)->text() + '=' + table->item(row, 1)->text();
+        return rows.join(' ');
+    }
+    static void answer(QWidget* box, const QString& button)
+    {
+        for (auto* found : box->findChildren<QPushButton*>())
+            if (found->text() == button)
+                return found->click();
+        qFatal("no button %s", qPrintable(button));
+    }
+    static void expectQuestion(const QString& text, const QString& button)
+    {
+        ScriptedHost::whenModal([=](QWidget* modal) {
+            QCOMPARE(qobject_cast<QMessageBox*>(modal)->text(), text);
+            answer(modal, button);
+        });
+    }
+    void saveTo(const char* button, const QString& path, QString* proposed = nullptr)
+    {
+        ScriptedHost::whenModal([=](QWidget* modal) {
+            auto* dialog = qobject_cast<QFileDialog*>(modal);
+            if (proposed)
+                *proposed = dialog->selectedFiles().value(0);
+            dialog->selectFile(path);
+            dialog->setOption(QFileDialog::DontConfirmOverwrite);
+            static_cast<QDialog*>(dialog)->done(QDialog::Accepted);
+        });
+        fuel_.press(button);
+    }
+    // With a box that comes after the file dialog.
+    void load(const QString& path, const QString& box = {}, const QString& button = "wrd_003")
+    {
+        ScriptedHost::whenModal([=](QWidget* modal) {
+            auto* dialog = qobject_cast<QFileDialog*>(modal);
+            dialog->selectFile(path);
+            if (!box.isEmpty())
+                QTimer::singleShot(50, dialog->parent(), [=] { expectQuestion(box, button); });
+            static_cast<QDialog*>(dialog)->done(QDialog::Accepted);
+        });
+        fuel_.press("pushButton_Load");
+    }
+
+    WindowParts fuel_;
+};
+
+QTEST_MAIN(FuelWindowTest)
+#include "tst_fuel_window.moc"

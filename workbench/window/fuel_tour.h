@@ -1,0 +1,11 @@
+#pragma once
+
+// The steps of the tour through a calibration: from pouring to the printed report.
+
+#include "window/tour.h"
+
+namespace vlk {
+
+std::vector<Tour::Step> fuelTour();
+
+} // namespace vlk
