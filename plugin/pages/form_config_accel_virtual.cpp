@@ -5,6 +5,7 @@
 #include "link/messages.h"
 #include "settings/accel_settings.h"
 #include "settings/value_text.h"
+#include "windows/numbered_widget.h"
 #include "windows/wnd_config_full.h"
 
 #include <QLineEdit>
@@ -33,17 +34,9 @@ double percentOf(std::uint32_t measure)
     return std::sqrt(measure) * 100 / kFullScale;
 }
 
-template <class Widget>
-Widget* named(const char* name, int number)
-{
-    auto* widget = new Widget;
-    widget->setObjectName(QString::fromLatin1(name).arg(number));
-    return widget;
-}
-
 QSlider* makeSlider(const char* name, int number)
 {
-    auto* slider = named<QSlider>(name, number);
+    auto* slider = vlk::numberedWidget<QSlider>(name, number);
     slider->setOrientation(Qt::Horizontal);
     slider->setTickPosition(QSlider::TicksBelow);
     return slider;
@@ -83,9 +76,9 @@ VLK_Form_Config_Accel_Virtual::Sensor VLK_Form_Config_Accel_Virtual::makeSensor(
 {
     const int number = static_cast<int>(index) + 1;
     const Sensor sensor{makeSlider("horizontalSlider_Level_SH%1", number),
-                        named<QDoubleSpinBox>("doubleSpinBox_Level_SH%1", number),
+                        vlk::numberedWidget<QDoubleSpinBox>("doubleSpinBox_Level_SH%1", number),
                         makeSlider("horizontalSlider_CurLevel_SH%1", number),
-                        named<QLineEdit>("lineEdit_CurLevel_SH%1", number)};
+                        vlk::numberedWidget<QLineEdit>("lineEdit_CurLevel_SH%1", number)};
     sensor.levelSlider->setPageStep(kScales[index].levelPage);
     sensor.present->setRange(0, kScales[index].presentEnd);
     sensor.presentText->setReadOnly(true);
@@ -94,7 +87,7 @@ VLK_Form_Config_Accel_Virtual::Sensor VLK_Form_Config_Accel_Virtual::makeSensor(
 
     auto* label = new QLabel;
     label->setBuddy(sensor.level);
-    auto* frame = named<QFrame>("frame_CurLevel_SH%1", number);
+    auto* frame = vlk::numberedWidget<QFrame>("frame_CurLevel_SH%1", number);
     frame->setEnabled(false);
     auto* inside = new QHBoxLayout(frame);
     inside->setContentsMargins({});

@@ -1,6 +1,7 @@
 #include "pages/form_config_sensors_temp.h"
 
 #include "settings/temperature_settings.h"
+#include "windows/numbered_widget.h"
 #include "windows/vlk_dblslider2.h"
 #include "windows/zone_colors.h"
 
@@ -15,19 +16,11 @@ namespace {
 
 constexpr int kGap = 12; // between what does not belong together
 
-template <class Widget>
-Widget* named(const char* name, int number)
-{
-    auto* widget = new Widget;
-    widget->setObjectName(QString::fromLatin1(name).arg(number));
-    return widget;
-}
-
 // A number behind its caption.
 template <class Box>
 void addNumber(QHBoxLayout* row, const char* name, int number)
 {
-    auto* box = named<Box>(name, number);
+    auto* box = vlk::numberedWidget<Box>(name, number);
     auto* label = new QLabel;
     label->setBuddy(box);
     row->addWidget(label);
@@ -54,8 +47,8 @@ VLK_Form_Config_Sensors_Temp::VLK_Form_Config_Sensors_Temp(QWidget* parent)
 
 VLK_Form_Config_Sensors_Temp::Sensor VLK_Form_Config_Sensors_Temp::makeSensor(int number)
 {
-    auto* group = named<QGroupBox>("groupBox_Temp_%1", number);
-    auto* slider = named<VLK_DblSlider2>("slider_Temp_%1", number);
+    auto* group = vlk::numberedWidget<QGroupBox>("groupBox_Temp_%1", number);
+    auto* slider = vlk::numberedWidget<VLK_DblSlider2>("slider_Temp_%1", number);
     const Sensor sensor{group, slider, new QLabel, new QLabel, {new QLabel, new QLabel}};
     auto* rows = new QVBoxLayout(group);
 
@@ -78,7 +71,7 @@ VLK_Form_Config_Sensors_Temp::Sensor VLK_Form_Config_Sensors_Temp::makeSensor(in
     addNumber<QDoubleSpinBox>(numbers, "doubleSpinBox_Left_Temp_%1", number);
     addNumber<QDoubleSpinBox>(numbers, "doubleSpinBox_Right_Temp_%1", number);
     addNumber<QSpinBox>(numbers, "spinBox_Hyst_%1", number);
-    numbers->addWidget(named<QCheckBox>("checkBox_Filtr_%1", number));
+    numbers->addWidget(vlk::numberedWidget<QCheckBox>("checkBox_Filtr_%1", number));
     numbers->addStretch();
     rows->addLayout(numbers);
     return sensor;
