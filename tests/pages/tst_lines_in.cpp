@@ -240,8 +240,9 @@ private Q_SLOTS:
     {
         VLK_Widget_Config_Full window;
         window.deviceConnected();
-        auto* quest = window.findChild<QPushButton*>("pushButton_Quest");
-        auto* again = window.findChild<QCheckBox*>("checkBox_AutoQuest");
+        auto* page = window.findChild<VLK_Form_Config_Lines_In*>();
+        auto* quest = child<QPushButton>("pushButton_Quest", page);
+        auto* again = child<QCheckBox>("checkBox_AutoQuest", page);
         sent.clear();
         quest->click();
         QCOMPARE(sent, QStringList());
@@ -249,8 +250,7 @@ private Q_SLOTS:
         quest->click();
         again->setChecked(true);
         QCOMPARE(sent, QStringList({"21,22,23", "21,22,23"}));
-        QVERIFY(!quest->isEnabled() &&
-                !window.findChild<QSpinBox*>("spinBox_AutoQuest_TimeOut")->isEnabled());
+        QVERIFY(!quest->isEnabled() && !child<QSpinBox>("spinBox_AutoQuest_TimeOut", page)->isEnabled());
         window.slot_timeOut_TimerAnalog();
         QVERIFY(!again->isChecked() && quest->isEnabled());
     }
