@@ -2,6 +2,7 @@
 // of the window; opening a table of 100,000 records beside reading the file; sorting it by a column beside
 // sorting as many numbers.
 
+#include "bench/settle.h"
 #include "bench/side_by_side.h"
 #include "telemetry/files/telemetry_file.h"
 #include "telemetry/view/widget_tmi_page.h"
@@ -16,6 +17,7 @@
 #include <algorithm>
 #include <random>
 
+using bench::settle;
 using namespace vlk;
 
 namespace {
@@ -43,12 +45,6 @@ QString fileOf(int count, const std::string& mask)
 QString manyRecords()
 {
     return fileOf(kManyRecords, std::string(60, '1'));
-}
-
-void settle()
-{
-    for (int pass = 0; pass < 3; ++pass)
-        QCoreApplication::processEvents();
 }
 
 void scrubBrowser(benchmark::State& state)

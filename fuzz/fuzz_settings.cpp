@@ -51,7 +51,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const QByteArray file(reinterpret_cast<const char*>(data), static_cast<int>(size));
     const QByteArray alone = readAndWritten(configuration, file);
     require(throughTheWindow(window, file) == alone);
-    require(readAndWritten(configuration, alone) == alone);
-    require(throughTheWindow(window, alone) == alone);
+    const QByteArray again = savedAgain(configuration, alone);
+    require(readAndWritten(configuration, again) == again);
+    require(throughTheWindow(window, alone) == again);
     return 0;
 }

@@ -1,11 +1,24 @@
-// A file of the XML form: the way around.
+// A file of the XML form: the way around, and its export as a table, in which every record has all columns.
 
 #include "round_trip.h"
+#include "telemetry/files/telemetry_csv_writer.h"
 #include "telemetry/files/telemetry_xml_reader.h"
 #include "telemetry/files/telemetry_xml_writer.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    vlk::roundTrip(data, size, vlk::readTelemetryXml, vlk::writeTelemetryXml);
+    const vlk::TelemetryContents contents =
+        vlk::roundTrip(data, size, vlk::readTelemetryXml, vlk::writeTelemetryXml);
+    QBuffer table;
+    table.open(QIODevice::ReadWrite);
+    if (!vlk::writeTelemetryCsv(table, contents.pages, contents.titles, {}))
+        std::abort();
+    table.seek(0);
+    const int columns = table.readLine().count(';');
+    for (const auto& page : contents.pages) {
+        const int cells = table.readLine().count(';');
+        if (!page->isExtra() && cells != columns && cells + 1 != columns)
+            std::abort();
+    }
     return 0;
 }

@@ -11,10 +11,15 @@
 
 namespace vlk {
 
+// XML keeps that a float is zero or no number, not with which sign or bits.
 inline bool sameValue(const TmiPage_Zeta3& a, const TmiPage_Zeta3& b, ElementIndex index)
 {
-    return !a.has(index) || a.raw(index) == b.raw(index) ||
-           (std::isnan(a.number(index)) && std::isnan(b.number(index)));
+    if (!a.has(index) || a.raw(index) == b.raw(index))
+        return true;
+    const double left = a.number(index);
+    const double right = b.number(index);
+    return kElements[index].type == ValueType::f32 &&
+           (left == right || (std::isnan(left) && std::isnan(right)));
 }
 
 inline bool samePage(const TmiPage_Zeta3& a, const TmiPage_Zeta3& b)

@@ -1,6 +1,7 @@
 #include "window/command_line.h"
 #include "window/configuration_tour.h"
 #include "window/data_folder.h"
+#include "window/display_guard.h"
 #include "window/files_tour.h"
 #include "window/fuel_tour.h"
 #include "window/installed_files.h"
@@ -10,10 +11,12 @@
 #include "window/tour.h"
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QTextCodec>
 #include <QTimer>
 
 #include <cstdio>
+#include <memory>
 
 namespace {
 
@@ -33,18 +36,37 @@ void useUtf8InPlaceOfAscii()
         QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
 }
 
-// Help, version and complaints need no display.
-CommandLine readCommandLine(int& argc, char* argv[])
+// Help, version and complaints need no display. The sentence about a missing one is found here too, because
+// it cannot be looked up while the application is in the making.
+CommandLine readCommandLine(int& argc, char* argv[], QString& noDisplay)
 {
     const QCoreApplication application(argc, argv);
     nameApplication();
     useUtf8InPlaceOfAscii();
     Languages languages;
     languages.set(CommandLine::languageOf(QCoreApplication::arguments()).value_or(Languages::ofSystem()));
+    noDisplay = vlk::text("wb_no_display");
     CommandLine line = CommandLine::parse(QCoreApplication::arguments());
     if (line.exitCode)
         std::fprintf(*line.exitCode == 0 ? stdout : stderr, "%s\n", qPrintable(line.message.trimmed()));
     return line;
+}
+
+// Without a usable data folder there is nothing to run with.
+int complain(const DataFolder& folder, bool withBox)
+{
+    const QString sentence = folder.isInUse() ? vlk::text("wb_data_in_use").arg(folder.error())
+                                              : vlk::text("wb_data_unwritable").arg(folder.error());
+    std::fprintf(stderr, "%s\n", qPrintable(sentence));
+    if (withBox)
+        QMessageBox::warning(nullptr, vlk::text("wb_title"), sentence);
+    return failed;
+}
+
+std::unique_ptr<QApplication> makeApplication(int& argc, char* argv[], const QString& noDisplay)
+{
+    const DisplayGuard guard(noDisplay, failed);
+    return std::make_unique<QApplication>(argc, argv);
 }
 
 bool runTour(WorkbenchWindow& window, const QString& folder)
@@ -63,11 +85,12 @@ int main(int argc, char* argv[])
 {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    const CommandLine line = readCommandLine(argc, argv);
+    QString noDisplay;
+    const CommandLine line = readCommandLine(argc, argv, noDisplay);
     if (line.exitCode)
         return *line.exitCode;
 
-    const QApplication application(argc, argv);
+    const auto application = makeApplication(argc, argv, noDisplay);
     nameApplication();
     QApplication::setWindowIcon(vlk::applicationIcon());
 
@@ -78,23 +101,19 @@ int main(int argc, char* argv[])
     Languages languages;
     if (!folder.isUsable()) {
         languages.set(line.language.value_or(Languages::ofSystem()));
-        std::fprintf(stderr, "%s\n", qPrintable(vlk::text("wb_data_unwritable").arg(folder.error())));
-        return failed;
+        return complain(folder, !isTour && folder.isInUse());
     }
     Settings settings(folder.settingsFile());
-    if (line.language)
-        settings.setLanguage(*line.language);
-    if (line.mode)
-        settings.setMode(*line.mode);
+    settings.setForThisRun(line.language, line.mode);
     languages.set(settings.language());
 
     WorkbenchWindow window(folder, settings, languages);
     window.show();
     const bool started = window.start(vlk::pluginPath());
     if (folder.isTemporary())
-        window.showMessage(vlk::text("wb_data_temporary").arg(folder.error()));
+        window.tellOfRun([&] { return vlk::text("wb_data_temporary").arg(folder.error()); });
     else if (settings.wasDamaged() && started)
-        window.showMessage(vlk::text("wb_settings_damaged"));
+        window.tellOfRun([] { return vlk::text("wb_settings_damaged"); });
 
     if (isTour) {
         // It drives the file dialogs by the names of their widgets.

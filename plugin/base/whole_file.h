@@ -31,8 +31,8 @@ inline bool flushToDisk(QFileDevice& file, QString* error)
 inline QString whyNotSaved(QSaveFile& file)
 {
 #ifdef Q_OS_UNIX
-    // Of a write that was done in part Qt knows no reason; a further byte, in a file that is thrown away,
-    // does.
+    // Qt gives no reason for a write that was done in part. One more byte gives it, and harms nothing in a
+    // file that is thrown away.
     if (file.isOpen() && write(file.handle(), "", 1) < 0)
         return qt_error_string(errno);
 #endif
@@ -44,7 +44,7 @@ inline QString whyNotSaved(QSaveFile& file)
 template <class Write>
 bool saveWhole(QSaveFile& file, Write write, QString* reason = nullptr)
 {
-    // The commit alone notices neither that the last buffer went out in part nor that the disk refused it.
+    // commit() alone misses a last buffer that was written in part and a disk that refused the data.
     QString error;
     const bool saved =
         file.open(QIODevice::WriteOnly) && write(file) && flushToDisk(file, &error) && file.commit();

@@ -20,7 +20,7 @@ QString askConfigurationPath(QWidget* parent, const QString& objectName)
 {
     if (!vlkDevice)
         return {};
-    // An object's name is free text; a file name is not.
+    // The object's name may hold characters that a file name must not.
     static const QRegularExpression forbidden(QStringLiteral("[\\\\/:*?\"<>|\\x00-\\x1f]"));
     const QString name = QString(objectName).replace(forbidden, QStringLiteral("_"));
     const QString suggested =
@@ -30,7 +30,7 @@ QString askConfigurationPath(QWidget* parent, const QString& objectName)
     QFileDialog dialog(parent, text("cfgwnd_003"), suggested,
                        QStringLiteral("%1 XML (*.xml)").arg(text("cfgwnd_004")));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    // The dialog knows it too, so that it asks about the file that will be replaced.
+    // Set in the dialog, so that it asks about the file with the suffix before it is replaced.
     dialog.setDefaultSuffix(QStringLiteral("xml"));
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QTabWidget>
+#include <QToolButton>
 
 namespace vlk {
 
@@ -57,6 +58,21 @@ void TabNavigation::goTo(int tab)
 void TabNavigation::goToLast()
 {
     goTo(tabs_->count() - 1);
+}
+
+void TabNavigation::focusFirstField()
+{
+    auto* area = qobject_cast<QScrollArea*>(tabs_->currentWidget());
+    QWidget* const page = area ? area->widget() : nullptr;
+    for (QWidget* next = page; next && (next = next->nextInFocusChain()) != page;) {
+        const bool field = (next->focusPolicy() & Qt::TabFocus) && !qobject_cast<QPushButton*>(next) &&
+                           !qobject_cast<QToolButton*>(next);
+        if (field && page->isAncestorOf(next) && next->isVisible() && next->isEnabled()) {
+            next->setFocus();
+            area->ensureWidgetVisible(next);
+            return;
+        }
+    }
 }
 
 void TabNavigation::update(int tab)

@@ -34,16 +34,18 @@ public:
     void retranslate();
 
     int current() const;
-    // Does nothing for an index that there is not.
+    // Ignores an index without a tab.
     void goTo(int tab);
     void goToFirst() { goTo(0); }
     void goToPrevious() { goTo(current() - 1); }
     void goToNext() { goTo(current() + 1); }
     void goToLast();
+    // Gives the focus to the first input of the current tab.
+    void focusFirstField();
 
     // Enables the buttons that lead anywhere from this tab.
     void update(int tab);
-    // Leaves the user this tab alone; unlock gives all of them back.
+    // Disables the menu and all tabs but this one; unlock enables them again.
     void lockAllBut(int tab);
     void unlock();
 

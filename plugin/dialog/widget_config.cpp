@@ -7,6 +7,7 @@
 #include "dialog/widget_config_light.h"
 #include "link/device.h"
 #include "link/requests.h"
+#include "windows/fit_to_screen.h"
 #include "xml/xml_document.h"
 
 #include <QFileInfo>
@@ -47,7 +48,12 @@ void VLK_Widget_Config::open(const vlk::OpenRequest& request, char* ussdBuffer)
     }
     setWindowTitle(title);
     ui_->stackedWidget->setCurrentWidget(request.showFull == 1 ? ui_->page_Full : ui_->page_Light);
+    // The least size counts in pixels of the screen, so that the window has room where everything is larger.
+    setMinimumSize(QSize(1024, 600) / devicePixelRatioF());
+    vlk::fitToScreen(this);
     show();
+    if (request.showFull == 1)
+        fullWindow_->focusFirstField();
 }
 
 void VLK_Widget_Config::deviceConnected()

@@ -16,6 +16,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QMouseEvent>
+#include <QShortcut>
 
 VLK_Widget_Config_Full::VLK_Widget_Config_Full(QWidget* parent)
     : PageServices(parent), ui_(std::make_unique<Ui::VLK_Designer_Widget_Config_Full>())
@@ -55,6 +56,8 @@ void VLK_Widget_Config_Full::connectButtons()
     connect(ui_->tabWidget, &QTabWidget::currentChanged, this,
             &VLK_Widget_Config_Full::slot_currentChanged_TabWidget);
     connect(navigation_->menu(), &QMenu::triggered, this, &VLK_Widget_Config_Full::slot_triggered_Menu);
+    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
+            &VLK_Widget_Config_Full::slot_pressed_Btn_Help);
     connect(answers_.monitor().timer(), &QTimer::timeout, this,
             &VLK_Widget_Config_Full::slot_timeOut_TimerAnalog);
 }
@@ -127,6 +130,11 @@ void VLK_Widget_Config_Full::deviceDisconnected()
     answers_.monitor().setConnected(false);
     ui_->pushButton_LoadToDevice->setEnabled(false);
     pages_->forEach([](vlk::KnowsTheTracker auto& page) { page.deviceDisconnected(); });
+}
+
+void VLK_Widget_Config_Full::focusFirstField()
+{
+    navigation_->focusFirstField();
 }
 
 void VLK_Widget_Config_Full::slot_timeOut_TimerAnalog()

@@ -36,6 +36,8 @@ public:
     void retranslate();
     void deviceConnected();
     void deviceDisconnected();
+    // Where the user begins: the first input of the tab on show.
+    void focusFirstField();
 
 Q_SIGNALS:
     void closeRequested();

@@ -16,7 +16,7 @@ constexpr std::int32_t version[] = {3, 3, 0, 2};
 // How a stored file is to be shown.
 enum StoredFileKind : std::int32_t { Browser = 0, Table = 1 };
 
-// The window shows before it reads: a large file takes a moment.
+// Shows the window first, because reading a large file takes a moment.
 template <class Window>
 void showFile(Window*& window, const QString& path)
 {
@@ -27,7 +27,7 @@ void showFile(Window*& window, const QString& path)
     window->open(path);
 }
 
-// The record keeps its 538 bytes where pointers are wider than its 4-byte field: it then holds the low half.
+// The record's field has 4 bytes. Where pointers are wider, it holds the low half of the address.
 std::uint32_t token(const void* address)
 {
     return static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(address));
@@ -96,7 +96,7 @@ void VLK_Device_R7106::showHelp(const QString& page)
 {
     if (page.isEmpty())
         return;
-    // The host keeps help by model, and this library has the pages of one, whatever identity was set.
+    // Always this model, whatever identity was set: the host finds the help pages by it.
     QString model = QStringLiteral("R-7106");
     QString name = page;
     send(vlk::Message::ShowHelp, &model, &name);
@@ -198,6 +198,8 @@ void VLK_Device_R7106::retranslate()
         telemetryView_->retranslate();
     if (tmiPage_)
         tmiPage_->retranslate();
+    if (tmiTable_)
+        tmiTable_->retranslate();
 }
 
 void VLK_Device_R7106::closeWindows()

@@ -23,6 +23,8 @@ public:
     virtual QString trackerId2() const = 0;
     virtual quint64 capabilityMask() const = 0;
     virtual int mode() const = 0;
+    // Modes 1 and 2; every other one is an ordinary one.
+    bool isProduction() const { return mode() == 1 || mode() == 2; }
     // First three version numbers, "3.3.0".
     virtual QString fileVersion() const = 0;
 

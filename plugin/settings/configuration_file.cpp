@@ -74,6 +74,7 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
         if (!setting.stored)
             values_[index] = normalise(setting, loadDefault(setting), values_[index], limits(index)).value;
     }
+    std::vector<ReadNote> taken;
     std::vector<std::pair<int, CXmlSectionPtr>> late;
     for (const TableLayout::Group& group : layout.groups) {
         if (!holds(part, group.present))
@@ -85,7 +86,7 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
             if (layout.rows[row].setting->last)
                 late.emplace_back(row, elementOf(*section, group.path));
             else
-                readRow(part, row, *element, notes);
+                readRow(part, row, *element, &taken);
         }
         QStringList inside;
         for (const TableLayout::Group& other : layout.groups) {
@@ -97,12 +98,18 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
                       inside, notes);
     }
     for (const auto& [row, element] : late)
-        readRow(part, row, *element, notes);
+        readRow(part, row, *element, &taken);
     derive(part);
-    std::vector<int> bound;
-    keepBounds(part, &bound);
-    for (const int index : bound)
-        notes->push_back({ReadNote::What::value, path(index), index, {}, values_[index], Change::byRule});
+    keepBounds(part, nullptr);
+    // A value may have found no room beside another, or what came later has moved it.
+    for (ReadNote& note : taken) {
+        if (const QString& held = value(note.index); held != note.value) {
+            note.value = held;
+            note.change = Change::byRule;
+        }
+        if (note.change != Change::none)
+            notes->push_back(note);
+    }
 }
 
 void Configuration::readRow(const Part& part, int row, const CXmlSection& element,
@@ -125,12 +132,8 @@ void Configuration::readRow(const Part& part, int row, const CXmlSection& elemen
         taken = {bound, bound == text ? Change::none : Change::byRule};
     }
     assign(part, place.target, taken.value, nullptr);
-    if (!found)
-        notes->push_back(
-            {ReadNote::What::value, place.path, part.first + row, {}, values_[index], Change::missing});
-    else if (taken.change != Change::none)
-        notes->push_back(
-            {ReadNote::What::value, place.path, part.first + row, text, values_[index], taken.change});
+    notes->push_back({ReadNote::What::value, place.path, part.first + row, found ? text : QString(),
+                      taken.value, found ? taken.change : Change::missing});
     pull(part, place.target, true, nullptr);
 }
 

@@ -92,7 +92,7 @@ constexpr void check(const Setting& row)
     }
     if (row.kind == Kind::choice &&
         (!knownCode(row, row.loadText.format) || (own && !knownCode(row, row.resetText.format)) ||
-         (row.fallback && !knownCode(row, row.fallback))))
+         (row.fallback && !knownCode(row, row.fallback) && !same(row.fallback, row.none))))
         throw "a default is none of the choices";
     if (row.kind == Kind::digits && std::string_view(row.loadText.format).size() > row.positions.size())
         throw "a default has more digits than there are positions";
@@ -181,6 +181,15 @@ constexpr auto repeat(Make make)
         }
     }
     return all;
+}
+
+// Rows or rules that belong to repetition `number`, for repetitions that differ.
+template <class Row, std::size_t n>
+constexpr auto numbered(std::array<Row, n> rows, int number)
+{
+    for (Row& row : rows)
+        row.number = static_cast<std::uint8_t>(number);
+    return rows;
 }
 
 } // namespace vlk

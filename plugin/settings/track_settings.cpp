@@ -5,75 +5,110 @@ namespace vlk {
 namespace {
 
 constexpr Code kAngleModes[] = {
-    {.code = "0"},
-    {.code = "1", .label = "cfgt3_007", .widget = "Additional_checkBox_Corner"},
+    {.code = "0", .label = "wrd_002"},
+    {.code = "1", .label = "cfgt3_008", .widget = "Additional_checkBox_Corner"},
     {.code = "2", .label = "cfgt3_009", .widget = "Additional_checkBox_Direction"},
 };
 
 constexpr Position kMotionSignals[] = {
-    {"checkBox_TmrFlag_In1", "cfgt3_014"},
-    {"checkBox_TmrFlag_Engine", "cfgt3_015"},
-    {"checkBox_TmrFlag_Taho", "cfgt3_016"},
+    {"checkBox_TmrFlag_In1", "cfgt3_017"},
+    {"checkBox_TmrFlag_Engine", "cfgt3_018"},
+    {"checkBox_TmrFlag_Taho", "cfgt3_019"},
 };
 
 constexpr Code kStopModes[] = {
-    {.code = "0", .label = "cfgt3_030", .widget = "Coord_Stop_radioButton_NotAverage"},
-    {.code = "1", .label = "cfgt3_031", .widget = "Coord_Stop_radioButton_Average"},
-    {.code = "3", .label = "cfgt3_032", .widget = "Coord_Stop_radioButton_Fixed"},
+    {.code = "0", .label = "cfgt3_037", .widget = "Coord_Stop_radioButton_NotAverage"},
+    {.code = "1", .label = "cfgt3_038", .widget = "Coord_Stop_radioButton_Average"},
+    {.code = "3", .label = "cfgt3_039", .widget = "Coord_Stop_radioButton_Fixed"},
 };
 
 // The two behind belong to sensors that this tracker lacks.
 constexpr Position kStopSensors[] = {
-    {"checkBox_Average_IN1", "cfgt3_034"}, {"checkBox_Average_Accel", "cfgt3_035"}, {}, {}};
+    {"checkBox_Average_IN1", "cfgt3_017"}, {"checkBox_Average_Accel", "cfgt3_041"}, {}, {}};
 
 // BeiDou counts only beside GPS without GLONASS.
 constexpr Code kSatellites[] = {
-    {.code = "11000", .label = "cfgt3_044", .widget = "radioButton_GpsGlnss", .pattern = "11***"},
-    {.code = "10001", .label = "cfgt3_045", .widget = "radioButton_GpsBeidou", .pattern = "10**1"},
-    {.code = "10000", .label = "cfgt3_042", .widget = "radioButton_Gps", .pattern = "10**0"},
-    {.code = "01000", .label = "cfgt3_043", .widget = "radioButton_Glnss", .pattern = "01***"},
+    {.code = "10000", .label = "cfgt3_047", .widget = "radioButton_Gps", .pattern = "10**0"},
+    {.code = "01000", .label = "cfgt3_048", .widget = "radioButton_Glnss", .pattern = "01***"},
+    {.code = "11000", .label = "cfgt3_049", .widget = "radioButton_GpsGlnss", .pattern = "11***"},
+    {.code = "10001", .label = "cfgt3_050", .widget = "radioButton_GpsBeidou", .pattern = "10**1"},
 };
 
 constexpr auto kRows = rowsOf(
     group("POINTS"), flag("useMoveSens", 1).in("Always_checkBox_StartStop").caption("cfgt3_003"),
     flag("useMaxSpeed", 0).in("Always_checkBox_MaxSpeed").caption("cfgt3_004"),
-    integer("maxSpeed", 100).range(1, 180).unit("abbr_024").in("Always_spinBox_MaxSpeed_Value"),
-    choice("angleMode", kAngleModes, "2").byNumber().unknownIs("0"),
-    integer("angle", 5).range(1, 90).unit("abbr_016").in("Additional_spinBox_Corner"),
-    flag("useDist", 1).in("Additional_Direction_checkBox_Metr"),
-    integer("dist", 500).range(1, 10000).unit("abbr_022").in("Additional_Direction_spinBox_Metr_Value"),
-    flag("useTimer", 1).in("Additional_Direction_checkBox_Sec"),
-    integer("moveTimer", 60).range(0, 99999).unit("abbr_003").in("Additional_Direction_spinBox_Sec_Value"),
-    digits("moveTimerSens", "000", kMotionSignals),
+    integer("maxSpeed", 100)
+        .range(1, 180)
+        .unit("abbr_024")
+        .in("Always_spinBox_MaxSpeed_Value")
+        .caption("cfgt3_005"),
+    choice("angleMode", kAngleModes, "2").byNumber().unknownIs("0").caption("cfgt3_007"),
+    integer("angle", 5).range(1, 90).unit("abbr_016").in("Additional_spinBox_Corner").caption("cfgt3_010"),
+    flag("useDist", 1).in("Additional_Direction_checkBox_Metr").caption("cfgt3_011"),
+    integer("dist", 500)
+        .range(1, 10000)
+        .unit("abbr_022")
+        .in("Additional_Direction_spinBox_Metr_Value")
+        .caption("cfgt3_012"),
+    flag("useTimer", 1).in("Additional_Direction_checkBox_Sec").caption("cfgt3_013"),
+    integer("moveTimer", 60)
+        .range(0, 99999)
+        .unit("abbr_003")
+        .in("Additional_Direction_spinBox_Sec_Value")
+        .caption("cfgt3_014"),
+    digits("moveTimerSens", "000", kMotionSignals).caption("cfgt3_016"),
     integer("stopTimer", 600)
         .range(0, 99999)
         .unit("abbr_003")
-        .in("Additional_Direction_spinBox_SecStop_Value"),
+        .in("Additional_Direction_spinBox_SecStop_Value")
+        .caption("cfgt3_015"),
 
-    group("LIMPOINT"), flag("blockDist", 1).in("Restriction_checkBox_Metr"),
-    integer("dist", 10).range(1, 200).unit("abbr_022").in("Restriction_spinBox_Metr_Value"),
-    flag("blockTimer", 0).in("Restriction_checkBox_Sec"),
-    integer("timer", 5).range(1, 99999).unit("abbr_003").in("Restriction_spinBox_Sec_Value"),
+    group("LIMPOINT"), flag("blockDist", 1).in("Restriction_checkBox_Metr").caption("cfgt3_021"),
+    integer("dist", 10)
+        .range(1, 200)
+        .unit("abbr_022")
+        .in("Restriction_spinBox_Metr_Value")
+        .caption("cfgt3_022"),
+    flag("blockTimer", 0).in("Restriction_checkBox_Sec").caption("cfgt3_023"),
+    integer("timer", 5)
+        .range(1, 99999)
+        .unit("abbr_003")
+        .in("Restriction_spinBox_Sec_Value")
+        .caption("cfgt3_024"),
 
-    group("COORDFLT"), flag("use", 1).in("checkBox_GPSreject_Use"),
-    integer("minSats", 4).range(1, 255).in("spinBox_RejectCoord_SatMin"),
+    group("COORDFLT"), flag("use", 1).in("checkBox_GPSreject_Use").caption("cfgt3_025"),
+    integer("minSats", 4).range(1, 255).in("spinBox_RejectCoord_SatMin").caption("cfgt3_029"),
     real("maxHDOP", 2.5, 1)
         .range(0.1, 100)
         .stepping(0.1)
         .readSingle()
-        .in("doubleSpinBox_RejectCoord_maxHDOP"),
-    integer("maxSpeed", 200).range(1, 1500).unit("abbr_024").in("spinBox_RejectCoord_speed"),
-    integer("maxAccel", 25).range(1, 100).unit("abbr_024").in("spinBox_RejectCoord_accel"),
-    integer("maxDist", 100).range(1, 500).unit("abbr_022").in("spinBox_RejectCoord_move"),
-    integer("maxFilterCnt", 5).range(0, 60).in("spinBox_RejectCoord_flaw"),
+        .in("doubleSpinBox_RejectCoord_maxHDOP")
+        .caption("cfgt3_030"),
+    integer("maxSpeed", 200)
+        .range(1, 1500)
+        .unit("abbr_024")
+        .in("spinBox_RejectCoord_speed")
+        .caption("cfgt3_031"),
+    integer("maxAccel", 25)
+        .range(1, 100)
+        .unit("abbr_024")
+        .in("spinBox_RejectCoord_accel")
+        .caption("cfgt3_032"),
+    integer("maxDist", 100)
+        .range(1, 500)
+        .unit("abbr_022")
+        .in("spinBox_RejectCoord_move")
+        .caption("cfgt3_033"),
+    integer("maxFilterCnt", 5).range(0, 60).in("spinBox_RejectCoord_flaw").caption("cfgt3_034"),
 
-    group("COORDAVER"), choice("mode", kStopModes, "1").byNumber(), digits("sensors", "1110", kStopSensors),
+    group("COORDAVER"), choice("mode", kStopModes, "1").byNumber().caption("cfgt3_036"),
+    digits("sensors", "1110", kStopSensors).caption("cfgt3_040"),
 
     group("MOVESENS"), constant("mode", "1"),
-    integer("stopTimer", 30).range(0, 65535).unit("abbr_003").in("spinBox_ParkingStop"),
+    integer("stopTimer", 30).range(0, 65535).unit("abbr_003").in("spinBox_ParkingStop").caption("cfgt3_043"),
 
-    group("GNSS"), choice("mode", kSatellites, "11000"),
-    integer("angle", 5).range(0, 90).unit("abbr_016").in("spinBox_AxcelMask"));
+    group("GNSS"), choice("mode", kSatellites, "11000").caption("cfgt3_046"),
+    integer("angle", 5).range(0, 90).unit("abbr_016").in("spinBox_AxcelMask").caption("cfgt3_051"));
 
 constexpr auto kEnables =
     rulesOf(enable("Always_spinBox_MaxSpeed_Value", when("POINTS/useMaxSpeed")),

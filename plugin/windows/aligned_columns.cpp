@@ -23,7 +23,7 @@ int widestCell(const QGridLayout* grid, int wanted)
 
 } // namespace
 
-void alignColumns(std::initializer_list<QGridLayout*> grids, int columns)
+void alignColumns(const QList<QGridLayout*>& grids, int columns)
 {
     for (int column = 0; column < columns - 1; ++column) {
         int width = 0;

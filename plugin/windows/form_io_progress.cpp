@@ -2,6 +2,8 @@
 
 #include "ui_VLK_Designer_Form_IO_Progress.h"
 
+#include "windows/box_frame.h"
+
 VLK_Form_IO_Progress::VLK_Form_IO_Progress(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint),
       ui_(std::make_unique<Ui::VLK_Designer_Form_IO_Progress>())
@@ -51,6 +53,11 @@ void VLK_Form_IO_Progress::setValue(int value)
     ui_->progressBar->setValue(value);
 }
 
+void VLK_Form_IO_Progress::setBreakVisible(bool visible)
+{
+    ui_->pushButton_Break->setVisible(visible);
+}
+
 void VLK_Form_IO_Progress::setCountersVisible(bool visible)
 {
     for (QLabel* label : {ui_->label_Cur, ui_->label_Slash, ui_->label_All})
@@ -97,6 +104,11 @@ void VLK_Form_IO_Progress::setTimeText(const QString& text)
     ui_->label_Time->setText(text);
 }
 
+void VLK_Form_IO_Progress::setHintText(const QString& text)
+{
+    ui_->label_Hint->setText(text);
+}
+
 void VLK_Form_IO_Progress::retranslate()
 {
     ui_->retranslateUi(this);
@@ -105,6 +117,13 @@ void VLK_Form_IO_Progress::retranslate()
 void VLK_Form_IO_Progress::reject()
 {
     slot_pressed_Btn_Break();
+    Q_EMIT dismissed();
+}
+
+void VLK_Form_IO_Progress::paintEvent(QPaintEvent* event)
+{
+    QDialog::paintEvent(event);
+    vlk::paintBoxFrame(this);
 }
 
 void VLK_Form_IO_Progress::slot_pressed_Btn_Break()
@@ -114,7 +133,7 @@ void VLK_Form_IO_Progress::slot_pressed_Btn_Break()
 
 void VLK_Form_IO_Progress::setEverythingVisible()
 {
-    ui_->pushButton_Break->setVisible(true);
+    setBreakVisible(true);
     setCountersVisible(true);
     setTimeVisible(true);
 }

@@ -31,6 +31,7 @@ public:
     void setMaximum(int maximum);
     void setValue(int value);
 
+    void setBreakVisible(bool visible);
     void setCountersVisible(bool visible);
     void setTimeVisible(bool visible);
 
@@ -41,14 +42,21 @@ public:
     void setCurText(const QString& text);
     void setAllText(const QString& text);
     void setTimeText(const QString& text);
+    // What the user may do, beside the button.
+    void setHintText(const QString& text);
 
     void retranslate();
 
 public Q_SLOTS:
     void reject() override;
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 Q_SIGNALS:
     void breakProcess();
+    // Esc or the window frame, behind breakProcess(): for a process that the button does not stop.
+    void dismissed();
 
 private Q_SLOTS:
     void slot_pressed_Btn_Break();

@@ -2,6 +2,8 @@
 
 #include "ui_VLK_Designer_Form_Param_About.h"
 
+#include "windows/box_frame.h"
+
 #include <QHideEvent>
 
 VLK_Form_Param_About::VLK_Form_Param_About(QWidget* parent)
@@ -36,9 +38,15 @@ void VLK_Form_Param_About::retranslate()
 void VLK_Form_Param_About::hideEvent(QHideEvent* event)
 {
     QDialog::hideEvent(event);
-    // A spontaneous event is the desktop hiding the window for a while, not its end.
+    // A spontaneous event means that the desktop hides the window for a while; the texts stay then.
     if (!event->spontaneous())
         clearTexts();
+}
+
+void VLK_Form_Param_About::paintEvent(QPaintEvent* event)
+{
+    QDialog::paintEvent(event);
+    vlk::paintBoxFrame(this);
 }
 
 void VLK_Form_Param_About::slot_pressed_Btn_Ok()

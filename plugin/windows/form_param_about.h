@@ -1,7 +1,7 @@
 #pragma once
 
 // The text dialog: a title above a read-only field of HTML, for help and information texts. Modal for the
-// whole application. However it is closed, it forgets its texts, so that the next opening starts empty.
+// whole application. However it is closed, its texts are cleared, so that the next opening starts empty.
 
 #include <QDialog>
 
@@ -26,6 +26,7 @@ public:
 
 protected:
     void hideEvent(QHideEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private Q_SLOTS:
     void slot_pressed_Btn_Ok();

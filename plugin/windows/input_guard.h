@@ -1,7 +1,8 @@
 #pragma once
 
 // Keeps a settings page from changing behind the user's back: the wheel scrolls the page and leaves inputs
-// alone that do not have the focus, and Enter in a line does not press a button elsewhere on the page.
+// alone that do not have the focus, Enter in a line does not press a button elsewhere on the page, and a
+// number that is typed or pasted beyond the range of its box becomes the end of the range.
 
 class QWidget;
 

@@ -17,22 +17,19 @@ vlk_Socket::vlk_Socket(QObject* parent, const vlk::ServerTestLimits& limits)
     timer_.setSingleShot(true);
     connect(&timer_, &QTimer::timeout, this, &vlk_Socket::slot_timeout_Timer);
     connect(&timerTestServer_, &QTimer::timeout, this, &vlk_Socket::slot_timeout_TimerTestServer);
+    connect(&progress_, &VLK_Form_IO_Progress::dismissed, this, &vlk_Socket::drop);
     describe();
 }
 
 void vlk_Socket::test(const QString& address, int port)
 {
-    timerTestServer_.stop();
-    timer_.stop();
+    drop();
     peerIp_.clear();
     hostName_.clear();
     ok_ = false;
     testing_ = true;
 
-    dropLookup();
     lookup_ = QHostInfo::lookupHost(address, this, &vlk_Socket::printResults);
-
-    socket_.abort();
     if (port >= 0 && port <= 65535)
         socket_.connectToHost(address, static_cast<quint16>(port));
     else
@@ -41,6 +38,8 @@ void vlk_Socket::test(const QString& address, int port)
     elapsed_ = 0;
     describe();
     progress_.showForm();
+    // The button is not connected in this dialog; Esc and closing end the wait.
+    progress_.setBreakVisible(false);
     timerTestServer_.start(limits_.tick);
     timer_.start(limits_.whole);
 }
@@ -86,6 +85,17 @@ void vlk_Socket::slot_timeout_Timer()
     finish();
 }
 
+void vlk_Socket::drop()
+{
+    testing_ = false;
+    timer_.stop();
+    timerTestServer_.stop();
+    dropLookup();
+    socket_.abort();
+    if (progress_.isVisible())
+        progress_.closeForm();
+}
+
 void vlk_Socket::slot_timeout_TimerTestServer()
 {
     ++elapsed_;
@@ -101,6 +111,7 @@ void vlk_Socket::describe()
     progress_.setFileTextRight(QStringLiteral("%1:").arg(tr("cfgt1_111")));
     progress_.setAllText(QStringLiteral("%1 %2").arg(steps).arg(tr("abbr_003")));
     progress_.setTimeText({});
+    progress_.setHintText(tr("cfgwnd_007"));
     progress_.setMinimum(0);
     progress_.setMaximum(steps);
     showElapsed();

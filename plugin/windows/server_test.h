@@ -3,7 +3,8 @@
 // Tries out a server address from the user's computer: opens a TCP connection, learns the peer's address
 // and the host name, sends and reads nothing. A progress dialog counts the seconds meanwhile. Each test
 // that ends sends testConnected once, after the dialog is closed; a refused connection, an unknown name or a
-// port outside 0 to 65535 ends with the time limit. The page that asked shows the answer.
+// port outside 0 to 65535 ends with the time limit. The page that asked shows the answer. A user who does not
+// want to wait closes the dialog, or presses Esc: that test answers nothing.
 
 #include "windows/form_io_progress.h"
 
@@ -48,6 +49,8 @@ private Q_SLOTS:
 private:
     void describe();
     void showElapsed();
+    // Ends a test that is under way without an answer.
+    void drop();
     void dropLookup();
     void finish();
 

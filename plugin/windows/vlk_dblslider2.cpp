@@ -172,7 +172,7 @@ void VLK_DblSlider2::keyPressEvent(QKeyEvent* event)
     }
 }
 
-// A slider that is disabled or hidden in the middle of a drag never hears of the release.
+// A slider that is disabled or hidden in the middle of a drag gets no release event.
 void VLK_DblSlider2::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::EnabledChange)

@@ -82,7 +82,7 @@ private:
     std::optional<QColor> colorHigh_;
     int tickPosition_ = 0;
 
-    // Left by the last painting, 0 and empty before the first: the mouse means what is seen.
+    // Set by the last painting, 0 and empty before the first. Positions of the mouse refer to it.
     int paintedWidth_ = 0;
     QRect handle1_;
     QRect handle2_;

@@ -62,7 +62,7 @@ Outcome putBeside(const QFileInfo& target, const QByteArray& document, QString* 
 
 bool writeAt(QFile& file, qint64 position, const QByteArray& bytes, QString* reason)
 {
-    // Not by QFile, which knows no reason for a write that was done in part.
+    // By pwrite, because QFile gives no reason for a write that was done in part.
     for (qint64 done = 0; done < bytes.size();) {
         const auto more = pwrite(file.handle(), bytes.constData() + done,
                                  static_cast<std::size_t>(bytes.size() - done), position + done);
@@ -98,7 +98,7 @@ bool overwrite(const QString& path, const QByteArray& document, QString* reason)
             return true;
         *reason = file.errorString();
     }
-    // On a full disk the way back may stop where nothing was written over: what counts is what is there.
+    // On a full disk writing back may fail at a place that was not overwritten, so the content is compared.
     QString error;
     writeAt(file, 0, old + longer, &error);
     if (!file.seek(0) || !file.readAll().startsWith(old) || !flushToDisk(file, &error))

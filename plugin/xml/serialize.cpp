@@ -12,7 +12,7 @@
 
 #include <utility>
 
-// Qt 6 drops this reader; the rules of the format are those of the reader, so it stays.
+// Deprecated, but the rules of the format are those of this reader.
 QT_WARNING_PUSH
 QT_WARNING_DISABLE_DEPRECATED
 

@@ -1,4 +1,4 @@
-// The monitor of live values: what it sends and when it stops, on a window that the test plays.
+// The monitor of live values: what it sends and when it stops. The test takes the place of its window.
 
 #include "dialog/config_monitor.h"
 #include "support/data_table.h"

@@ -54,6 +54,49 @@ private Q_SLOTS:
         QVERIFY(window->width() >= 1024 && window->height() >= 600);
     }
 
+    // Runs a second time with everything at twice its size, on a screen that is too small for it.
+    void opensWithinTheScreen()
+    {
+        const qreal ratio = window->devicePixelRatioF();
+        const QSize least = QSize(1024, 600) / ratio;
+        const QSize allowed = window->screen()->availableSize().expandedTo(least);
+        for (const bool full : {true, false}) {
+            host_.open({}, full);
+            QApplication::processEvents();
+            QCOMPARE(window->minimumSize(), least);
+            QVERIFY(window->width() <= allowed.width() && window->height() <= allowed.height());
+            window->resize(least);
+            QApplication::processEvents();
+            for (auto* button : window->findChildren<QPushButton*>(QRegularExpression("^pushButton_"))) {
+                if (!button->isVisible() || tabPageOf(button))
+                    continue;
+                const QRect place(button->mapTo(window, QPoint()), button->size());
+                QVERIFY2(window->rect().contains(place) &&
+                             place.height() >= button->minimumSizeHint().height(),
+                         qPrintable(button->objectName()));
+            }
+            window->resize(4000, 3000);
+            host_.open({}, full);
+            QVERIFY(window->width() <= allowed.width() && window->height() <= allowed.height());
+        }
+    }
+
+    void openedAnewItStandsOnTheFirstField()
+    {
+        QCOMPARE(window->focusWidget(), name());
+        child<QSpinBox>("GPRSSrv_spinBox_Port_Main")->setFocus();
+        host_.open(configuration(QStringLiteral("One")));
+        QCOMPARE(window->focusWidget(), name());
+    }
+
+    void helpKeyOpensTheTabsPage()
+    {
+        QTest::keyClick(name(), Qt::Key_F1);
+        const auto help = host_.takeSent(Message::ShowHelp);
+        QCOMPARE(help.size(), 1);
+        QCOMPARE(help[0].text2, QStringLiteral("r-7106p1.html"));
+    }
+
     void secondOpeningStartsFresh()
     {
         host_.open(configuration(QStringLiteral("One")));
@@ -120,7 +163,7 @@ private Q_SLOTS:
             QCOMPARE(written.size(), 1);
             const QByteArray first = readFile(written[0].text1);
 
-            // Within the same minute, as far as a test can say, and into the same file.
+            // Into the same file, unless the minute has just changed.
             host_.open(configuration(QStringLiteral("Second")), full);
             const QRegularExpression told(QStringLiteral("^/.+\\.xml: .*File too large$"));
             const FullDisk disk(100);
@@ -279,6 +322,12 @@ private Q_SLOTS:
     }
 
 private:
+    static bool tabPageOf(const QWidget* widget)
+    {
+        while (widget && !qobject_cast<const QScrollArea*>(widget))
+            widget = widget->parentWidget();
+        return widget;
+    }
     QWidget* full() { return ScriptedHost::window("VLK_Widget_Config_Full"); }
     QString shownPage() { return child<QStackedWidget>("stackedWidget")->currentWidget()->objectName(); }
     QLineEdit* name() { return child<QLineEdit>("lineEdit_Name"); }

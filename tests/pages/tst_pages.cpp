@@ -34,40 +34,42 @@ private Q_SLOTS:
         QCOMPARE(sections, tables);
     }
 
-    void everySample_data()
+    void manyFiles_data()
     {
-        QTest::addColumn<int>("index");
-        for (int i = 0; i < configuration_.count(); ++i)
-            QTest::newRow(qPrintable(configuration_.path(i))) << i;
+        QTest::addColumn<int>("round");
+        for (int round = 0; round < 120; ++round)
+            QTest::addRow("%d", round) << round;
     }
-    // A file with each sample loads into the windows and leaves them as the settings alone read and write it,
-    // and every widget shows the value that counts.
-    void everySample()
+    // Each file holds another mixture of every setting's samples. It loads into the windows and leaves them
+    // as the settings alone read and write it, and every widget shows the value that counts.
+    void manyFiles()
     {
-        QFETCH(int, index);
-        const vlk::TableLayout::Row& row = configuration_.row(index);
-        for (const QString& sample : samplesOf(configuration_.setting(configuration_.holder(index)))) {
-            const QByteArray file = documentWith(presenceOf(configuration_, index) +
-                                                 QVector<QPair<QString, QString>>{{row.path, sample}});
-            const QByteArray expected = readAndWritten(configuration_, file);
-            QCOMPARE(throughTheWindow(file), expected);
-            QCOMPARE(throughTheWindow(expected), expected);
-            forEachPage(
-                [&](auto& page) { QCOMPARE(page.settings().binder().disagreements(), QStringList()); });
+        QFETCH(int, round);
+        QVector<QPair<QString, QString>> values;
+        for (int i = 0; i < configuration_.count(); ++i) {
+            const QStringList samples = samplesOf(configuration_.setting(configuration_.holder(i)));
+            values.append({configuration_.path(i), samples.at((round + 7 * i) % samples.size())});
         }
+        const QByteArray file = documentWith(values);
+        const QByteArray expected = readAndWritten(configuration_, file);
+        QCOMPARE(throughTheWindow(file), expected);
+        forEachPage([&](auto& page) { QCOMPARE(page.settings().binder().disagreements(), QStringList()); });
+        QCOMPARE(throughTheWindow(expected), savedAgain(configuration_, expected));
     }
 
+    // But for the few settings that a reset leaves alone.
     void resetForgetsWhatWasLoaded()
     {
+        window_->setDefaults();
+        const vlk::Configuration fresh = stateOf(saved());
         QVector<QPair<QString, QString>> values;
         for (int i = 0; i < configuration_.count(); ++i)
             values.append({configuration_.path(i), samplesOf(configuration_.setting(i)).last()});
-        configuration_.reset();
-        window_->setDefaults();
-        const QByteArray fresh = saved();
         throughTheWindow(documentWith(values));
         window_->setDefaults();
-        QCOMPARE(saved(), fresh);
+        for (const vlk::Difference& difference : fresh.differences(stateOf(saved())))
+            QVERIFY2(fresh.setting(difference.index).resets == vlk::Setting::Reset::keeps,
+                     qPrintable(fresh.path(difference.index)));
         forEachPage([&](auto& page) { QCOMPARE(page.settings().binder().disagreements(), QStringList()); });
     }
 
@@ -83,6 +85,14 @@ private:
         vlk::XmlDocument out(QString(), "DEVICE");
         forEachPage([&](auto& page) { page.saveToXml(out.root()); });
         return out.text();
+    }
+
+    vlk::Configuration stateOf(const QByteArray& file) const
+    {
+        vlk::Configuration state(vlk::allSettings());
+        vlk::XmlDocument in(file, "DEVICE");
+        state.read(*in.root());
+        return state;
     }
 
     QByteArray throughTheWindow(const QByteArray& file)

@@ -33,7 +33,9 @@ private Q_SLOTS:
             QVector<QPair<QString, QString>> values = {{row.path, sample}};
             const QByteArray first =
                 readAndWritten(configuration_, documentWith(presenceOf(configuration_, index) + values));
-            QCOMPARE(readAndWritten(configuration_, first), first);
+            const QByteArray second = readAndWritten(configuration_, first);
+            QCOMPARE(second, savedAgain(configuration_, first));
+            QCOMPARE(readAndWritten(configuration_, second), second);
 
             configuration_.reset();
             vlk::XmlDocument in(documentWith(presenceOf(configuration_, index) + values), "DEVICE");

@@ -110,6 +110,12 @@ private Q_SLOTS:
     {
         QTest::addColumn<QStringList>("files");
         QTest::newRow("TRANS") << QStringList{"transfer"};
+        QTest::newRow("TRACK") << QStringList{"track"};
+        QTest::newRow("SYSTEM") << QStringList{"system"};
+        QTest::newRow("SENSORS") << QStringList{"lines_in"};
+        QTest::newRow("TEMPSENS") << QStringList{"temperature"};
+        QTest::newRow("ACCEL") << QStringList{"accel"};
+        QTest::newRow("OUTPUTS") << QStringList{"lines_out"};
     }
     void pages()
     {
@@ -222,7 +228,9 @@ private:
         QVector<QPair<QString, QString>> values = presenceOf(configuration_, index);
         vlk::XmlDocument in(documentWith(values), "DEVICE");
         configuration_.read(*in.root());
-        return configuration_.written(index);
+        // The tables have the elements of every use below every line, whatever its list offers.
+        return configuration_.isWritten(index) ? configuration_.written(index)
+                                               : vlk::loadDefault(configuration_.setting(index));
     }
 
     QString valuesOf(const vlk::Setting& row, int index, const GoldenKey& key) const
@@ -243,6 +251,15 @@ private:
                         ends = {layout.rows[rule.first].setting->least,
                                 layout.rows[rule.second].setting->most};
                 }
+            }
+            // The range that holds where the element of the key is.
+            const vlk::TableLayout& layout = configuration_.layout(index);
+            const vlk::TableLayout::Row& place = configuration_.row(index);
+            for (const auto& rule : layout.ranges) {
+                const auto& present = layout.groups[place.group].present;
+                if (rule.row == place.target && rule.when.row == present.row &&
+                    rule.when.codes == present.codes)
+                    ends = {rule.rule->least, rule.rule->most};
             }
             const double factor = row.factor;
             const QString range =

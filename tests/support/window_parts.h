@@ -1,6 +1,6 @@
 #pragma once
 
-// The parts of the window under test by their object names. A name of which there is none ends the test.
+// The parts of the window under test by their object names. An unknown name aborts the test.
 
 #include <QAbstractButton>
 #include <QLabel>

@@ -1,6 +1,7 @@
 // The windows for stored telemetry, as a host sees them: files in, widgets out.
 
 #include "sample_pages.h"
+#include "support/allocated_bytes.h"
 #include "support/brackets.h"
 #include "support/data_table.h"
 #include "support/files.h"
@@ -8,8 +9,12 @@
 #include "support/window_parts.h"
 #include "telemetry/files/telemetry_file.h"
 
+#include "telemetry/text/time_text.h"
+
 #include <QtTest>
 #include <QtWidgets>
+
+#include <numeric>
 
 using namespace vlk;
 
@@ -105,6 +110,56 @@ private Q_SLOTS:
         QCOMPARE(host_.takeSent(Message::ShowHelp).value(0).text2, QString("r-7106tmiView.html"));
         press("pushButton_Close");
         QVERIFY(window->isHidden());
+    }
+
+    // What was on show stays, a line says so, and the way back leads to the last record.
+    void positionWithoutRecord()
+    {
+        showPages(numbered({10, 11}));
+        QVERIFY(child("label_NoRecord")->isHidden());
+        showPages(numbered({10, 11, 20}));
+        const auto shown = [this] { return number() + ' ' + walkable() + ' ' + text("label_NoRecord"); };
+        QCOMPARE(shown(), QString("10 --xx "));
+        moveTo(7);
+        host_.send(Message::LanguageChanged);
+        QCOMPARE(shown(), QString("10 xx-- tmiw_183"));
+        QVERIFY(child("label_NoRecord")->isVisible());
+        press("pushButton_Get_Prev");
+        QCOMPARE(shown(), QString("20 xx-- "));
+        QCOMPARE(child<QSpinBox>("spinBox_Go")->value(), 2);
+        moveTo(10);
+        press("pushButton_Begin");
+        QCOMPARE(shown(), QString("10 --xx "));
+        press("pushButton_End");
+        QCOMPARE(child<QSpinBox>("spinBox_Go")->value(), 10);
+        QCOMPARE(shown(), QString("10 xx-- tmiw_183"));
+        QCOMPARE(child<QWidget>("pushButton_Begin")->toolTip(), QString("tmiw_184"));
+        QCOMPARE(child<QWidget>("pushButton_End")->accessibleName(), QString("tmiw_185"));
+    }
+
+    // Two large files are never in memory at once: when the second one has been read, here to no avail, the
+    // first is gone.
+    void memoryOfTheFirstFile_data()
+    {
+        DataTable<std::int32_t>({"kind"}).row("browser", Browser).row("table", Table);
+    }
+    void memoryOfTheFirstFile()
+    {
+        QFETCH(std::int32_t, kind);
+        QVector<int> numbers(3000);
+        std::iota(numbers.begin(), numbers.end(), 1);
+        const QString empty = writeFile(folder_.filePath("empty.xml"), "<TMI>");
+        const QString large = write(::numbered(numbers));
+        show(empty, kind);
+        const std::size_t before = allocatedBytes();
+        show(large, kind);
+        const std::size_t whole = allocatedBytes() - before;
+        static std::size_t atTheEnd;
+        const QtMessageHandler usual = qInstallMessageHandler(
+            [](QtMsgType, const QMessageLogContext&, const QString&) { atTheEnd = allocatedBytes(); });
+        show(empty, kind);
+        qInstallMessageHandler(usual);
+        QVERIFY2(whole > 3000 * 700 && atTheEnd < before + whole / 2, qPrintable(QString::number(whole)));
     }
 
     void packetBetweenRecords()
@@ -249,8 +304,8 @@ private Q_SLOTS:
             showPages(pagesOf(recordOf({{"NumPage", 1}, {"State", 0}})), kind);
         auto brackets = std::make_unique<Brackets>();
         host_.send(Message::LanguageChanged);
-        QCoreApplication::processEvents();
         QCOMPARE(window->windowTitle(), QString("<tmiw_031>"));
+        QVERIFY(text("label_Navi_Lat_Text").startsWith('<'));
         QCOMPARE(child<QAbstractButton>("pushButton_Get_Next")->text(), QString("<wrd_062>"));
         QCOMPARE(text("label_Event_NumPage_Text"), QString("<tmiw_018>"));
         QVERIFY(text("label_Event_Mode_Guard_Value").startsWith('<'));
@@ -259,24 +314,38 @@ private Q_SLOTS:
         QCOMPARE(table_->window()->windowTitle(), QString("telemetry.xml - <tmiw_031>"));
         brackets.reset();
         host_.send(Message::LanguageChanged);
-        QCoreApplication::processEvents();
         QCOMPARE(window->windowTitle(), QString("tmiw_031"));
     }
 
     void columns()
     {
         showPages(pagesOf(recordOf({{"NumPage", 1}, {"Code", 3}}),
-                          recordOf({{"NumPage", 2}, {"User1Byte_1", 251}}),
+                          recordOf({{"NumPage", 2},
+                                    {"Time", 1738411200},
+                                    {"Temp1", 128},
+                                    {"User1Byte_1", 251},
+                                    {"Latitude", 33900000},
+                                    {"Longitude", quint32(-300001)}}),
                           packetOf(navigationOf(9, 0), kSecondHead.mid(2), cardEntry("card"))),
                   Table);
         QStringList headings;
         for (int column = 0; column < table_->model()->columnCount(); ++column)
             headings << table_->model()->headerData(column, Qt::Horizontal).toString();
-        QCOMPARE(headings, QStringList({"tmizta_123", "tmizta_124", "tmizta_355 abbr_047 1", "tmizta_359"}));
-        QCOMPARE(row(0), QStringList({"1", "event 3", "", ""}));
-        QCOMPARE(row(1), QStringList({"2", "", "-5", ""}));
+        QCOMPARE(headings, QStringList({"tmizta_123", "tmizta_124", "tmizta_125", "tmizta_149", "tmizta_150",
+                                        "Т1", "tmizta_355 abbr_047 1", "tmizta_359"}));
+        // A dash is what the record lacks, an empty cell a sensor without a value.
+        const QString none(QChar(0x2013));
+        QCOMPARE(row(0), QStringList({"1", "event 3", none, none, none, none, none, none}));
+        TmiPage_Zeta3 inZone;
+        QCOMPARE(row(1),
+                 QStringList({"2", none, zonedTimeText(1738411200, inZone.utcOffset()),
+                              "56\u00b0 30.0000' tmiw_171", "0\u00b0 30.0001' tmiw_174", "", "-5", none}));
         // The host has no words for this event.
-        QCOMPARE(row(2), QStringList({"9", "0", "", "tmizta_362: card"}));
+        QCOMPARE(row(2).mid(0, 2), QStringList({"9", "0"}));
+        QCOMPARE(row(2).last(), QString("tmizta_362: card"));
+        const QModelIndex absent = table_->model()->index(0, 2);
+        QCOMPARE(absent.data(Qt::ToolTipRole).toString(), QString("tmiw_170"));
+        QVERIFY(absent.data(Qt::ForegroundRole).isValid());
         QCOMPARE(table_->window()->size(), QSize(1024, 680));
     }
 

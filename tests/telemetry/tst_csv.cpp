@@ -2,6 +2,7 @@
 // shows as its key, so the tables name keys.
 
 #include "sample_pages.h"
+#include "support/data_table.h"
 #include "telemetry/files/csv_columns.h"
 #include "telemetry/files/telemetry_csv_writer.h"
 
@@ -85,7 +86,7 @@ QStringList headingsOf(int field)
     return headings;
 }
 
-// A language in which doors have a marker.
+// A language in which doors have a marker and degrees their sign.
 class Marked : public QTranslator
 {
 public:
@@ -94,6 +95,8 @@ public:
     {
         if (QByteArray(key) == "tmizta_211")
             return QStringLiteral("Door <val>: in");
+        if (QByteArray(key) == "abbr_017")
+            return QString::fromUtf8("°C");
         return QByteArray(key) == "tmizta_206" ? QStringLiteral("Acc<val>eration") : QLatin1String(key);
     }
     bool isEmpty() const override { return false; }
@@ -120,7 +123,6 @@ private Q_SLOTS:
     {
         qputenv("TZ", "UTC");
         tzset();
-        QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     }
 
     void columns()
@@ -153,8 +155,16 @@ private Q_SLOTS:
 
     // Two records with different masks and a packet: the columns are those of either record, a record leaves
     // quoted blanks, a packet bare ones.
+    void rows_data()
+    {
+        DataTable<QByteArray>({"encoding"}).row("UTF-8", "UTF-8").row("windows-1251", "windows-1251");
+    }
     void rows()
     {
+        QFETCH(QByteArray, encoding);
+        QTextCodec::setCodecForLocale(QTextCodec::codecForName(encoding));
+        Marked language;
+        QCoreApplication::installTranslator(&language);
         TelemetryPages pages;
         pages.push_back(recordOf({{element("NumPage"), 7},
                                   {element("Code"), 35},
@@ -178,8 +188,8 @@ private Q_SLOTS:
                      .arg(QString::fromUtf8("Т1")));
         QCOMPARE(lines[1], QString::fromUtf8("=\"7\";=\"Стоянка\";=\"14.11.2023 22:13:20\";"
                                              "=\"\";=\"\";=\"\";=\"\";=\"00000001   00000101\";"));
-        QCOMPARE(lines[2], QStringLiteral("=\"\";=\"99\";=\"\";=\"tmizta_028\";=\"tmizta_030\";=\"10\";"
-                                          "=\"-5 abbr_017\";=\"\";"));
+        QCOMPARE(lines[2], QString::fromUtf8("=\"\";=\"99\";=\"\";=\"tmizta_028\";=\"tmizta_030\";=\"10\";"
+                                             "=\"-5 °C\";=\"\";"));
         QCOMPARE(lines[3],
                  QStringLiteral("=\"8\";=\"99\";=\"14.11.2023 22:13:20\";"
                                 "=\"tmizta_028\";=\"tmizta_122\";=\"10\";;;"

@@ -37,7 +37,7 @@ class SaveSequenceTest : public QObject, private OpenedView
 private Q_SLOTS:
     void initTestCase()
     {
-        start();
+        start("<TRANS><OBJECT name=\"Van 7/2\"/></TRANS>");
         host.onSend = [this](Message message, void* p1, void* /*p2*/) {
             if (message == Message::RequestRecordOfPeriod || message == Message::RequestRecordByTime)
                 times_ << *static_cast<QDateTime*>(p1);
@@ -125,16 +125,17 @@ private Q_SLOTS:
         child<QDateTimeEdit>("dateTimeEdit_Last")->setDateTime(first.addSecs(60));
         startSave(7, 8);
         QCOMPARE(times_, (QVector<QDateTime>{first.addSecs(-10800), first.addSecs(-10740)}));
-        QCOMPARE(filter_, QString("*.xml"));
+        QCOMPARE(filter_, QString("tmiw_179 (*.xml)"));
+        QCOMPARE(proposed_, QString("Van 7_2 2025-02-01 15-00 - 2025-02-01 15-01.xml"));
         QVERIFY(readFile(file_).contains("<TMI model=\"R-7106\" ") &&
                 readFile(file_).contains("offset=\"10800\""));
         file_ = folder.filePath("period.csv");
         startSave(7, 8, "pushButton_SaveToExcel");
-        QCOMPARE(filter_, QString("*.csv"));
+        QCOMPARE(filter_, QString("tmiw_180 (*.csv)"));
         QVERIFY(readFile(file_).count("\r\n") == 3 && readFile(file_).contains("=\"7\";"));
         file_ = folder.filePath("period.tmi");
         startSave(7, 8, "pushButton_SaveFileToServer");
-        QCOMPARE(filter_, QString("*.tmi"));
+        QCOMPARE(filter_, QString("tmiw_181 (*.tmi)"));
         QCOMPARE(readFile(file_).mid(128),
                  QByteArray("\x2c\0", 2) + record(7) + QByteArray("\x2c\0", 2) + record(8));
     }
@@ -153,7 +154,11 @@ private Q_SLOTS:
             shown += text((QByteArray("label_") + name).constData());
         QVERIFY2(QRegularExpression("^tmiw_152102/30000:00:\\d\\d/00:\\d\\d:\\d\\d$").match(shown).hasMatch(),
                  qPrintable(shown));
-        QVERIFY(!isOn("groupBox_Btn_Get") && !bar->isHidden());
+        for (const char* name :
+             {"groupBox_Btn_Get", "pushButton_Get_Current_Touch", "pushButton_Get_Current_RFID"})
+            QVERIFY(!isOn(name));
+        QVERIFY(!bar->isHidden());
+        QCOMPARE(child<QWidget>("groupBox_Btn_Save")->toolTip(), QString("tmiw_176"));
         // Nothing happens until the tracker answers, and that answer is not in the file.
         press("pushButton_Save_Cancel");
         QVERIFY(!isIdle() && !QFile::exists(file_));
@@ -197,6 +202,7 @@ private Q_SLOTS:
         QFETCH(Message, message);
         startSave(7, 20);
         send(Message::RecordByNumber, 8);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("period.xml: 3 of 14 records"));
         const QString none;
         host.send(message, &none);
         child<QCheckBox>("checkBox_Get_Auto_TMI")->setChecked(message == Message{});
@@ -232,18 +238,46 @@ private Q_SLOTS:
         QCOMPARE(saved().size(), 20000);
     }
 
-    // What was there before stays, and nothing but the log tells of it.
-    void fullDisk()
+    void failedSave_data()
     {
-        startSave(7, 8);
+        DataTable<QString, QByteArray, bool>({"file", "button", "fullDisk"})
+            .row("full disk, XML", "period.xml", "pushButton_SaveToFile", true)
+            .row("full disk, CSV", "period.csv", "pushButton_SaveToExcel", true)
+            .row("full disk, binary", "period.tmi", "pushButton_SaveFileToServer", true)
+            .row("folder gone", "gone/period.xml", "pushButton_SaveToFile", false);
+    }
+    // What was there before stays; the log of failed saves has the reason, the window says that it failed.
+    void failedSave()
+    {
+        QFETCH(QString, file);
+        QFETCH(QByteArray, button);
+        QFETCH(bool, fullDisk);
+        QDir(folder.path()).mkdir("gone");
+        file_ = folder.filePath(file);
+        if (fullDisk)
+            startSave(7, 8, button.constData());
         const QByteArray before = readFile(file_);
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("a period of 2 records was not saved"));
+        startSave(7, 9, button.constData());
+        QDir(folder.path()).rmdir("gone");
+        static QStringList told;
+        told.clear();
+        const auto tell = [](QtMsgType type, const QMessageLogContext& context, const QString& message) {
+            if (type == QtWarningMsg && QByteArray(context.category) == "vlk.save")
+                told << message;
+        };
+        const QtMessageHandler usual = qInstallMessageHandler(tell);
         {
-            const FullDisk disk(200);
-            startSave(8, 9);
+            const FullDisk disk(fullDisk ? 20 : RLIM_INFINITY);
+            send(Message::RecordByNumber, 8);
         }
+        qInstallMessageHandler(usual);
+        QCOMPARE(told.size(), 1);
+        QVERIFY2(told[0].startsWith(file_ + ": ") && told[0].size() > file_.size() + 5, qPrintable(told[0]));
         QCOMPARE(readFile(file_), before);
-        QVERIFY(isIdle() && QDir(folder.path()).entryList({"period.xml.*"}).isEmpty());
+        QVERIFY(QDir(folder.path()).entryList({"period.*.*"}).isEmpty());
+        QCOMPARE(text("label_ProgressBar_Time"), QString("tmiw_182"));
+        press("pushButton_Get_Current");
+        QVERIFY(isIdle());
     }
 
 private:
@@ -258,6 +292,7 @@ private:
         ScriptedHost::whenModal([this](QWidget* modal) {
             auto* dialog = qobject_cast<QFileDialog*>(modal);
             filter_ = dialog->nameFilters().join(';');
+            proposed_ = QFileInfo(dialog->selectedFiles().value(0)).fileName();
             dialog->findChild<QLineEdit*>("fileNameEdit")->setText(file_);
             if (QFile::exists(file_)) // the dialog asks whether to replace it
                 ScriptedHost::whenModal(
@@ -283,13 +318,15 @@ private:
         for (const QLabel* label : child<QWidget>("frame_Progress")->findChildren<QLabel*>())
             idle = idle && label->text().isEmpty();
         for (const char* name :
-             {"groupBox_Btn_Get", "groupBox_Btn_Save", "pushButton_Taho", "pushButton_RFID"})
+             {"groupBox_Btn_Get", "groupBox_Btn_Save", "pushButton_Taho", "pushButton_RFID",
+              "pushButton_Get_Current_Touch", "pushButton_Get_Current_RFID"})
             idle = idle && isOn(name);
         return idle;
     }
 
     QString file_;
     QString filter_;
+    QString proposed_;
     Numbers asked_;
     QVector<QDateTime> times_;
     bool answersAtOnce_ = false;

@@ -169,7 +169,7 @@ private Q_SLOTS:
             .row("second card, highest", 0x10, 31, "01", 99, "%p %")
             .row("no level", 0, 99, "10", 0, "Not determined")
             .row("beyond the scale", 0, 200, "10", 100, "%p %")
-            .row("absent", -1, -1, "00", 0, "");
+            .row("absent", -1, -1, "00", 0, "\u2013");
     }
     void cardAndLevel()
     {
@@ -307,7 +307,7 @@ private Q_SLOTS:
         box->setCurrentIndex(1);
         {
             const Texts russian(QStringLiteral("ru"));
-            QCoreApplication::processEvents();
+            host.send(Message::LanguageChanged);
             QCOMPARE(text("label_Engine_Text"), QString("Работает"));
             QCOMPARE(text("label_Navi_Lat_Text"), QString("Широта"));
             QCOMPARE(child<QTabWidget>("tabWidget")->tabText(3), QString("Топливо"));
@@ -315,10 +315,51 @@ private Q_SLOTS:
             for (const QLabel* label : window->findChildren<QLabel*>())
                 QVERIFY2(!label->text().startsWith("tmi"), qPrintable(label->text()));
         }
-        QCoreApplication::processEvents();
+        host.send(Message::LanguageChanged);
         QCOMPARE(text("label_Engine_Text"), QString("Running"));
         QCOMPARE(text("label_In_Text_2"), QString("Input 2"));
         QCOMPARE(box->currentIndex(), 1);
+    }
+
+    // A sensor without a value is blank; what the record lacks has a dash, which is drawn and is no text.
+    void absentValues()
+    {
+        show(Record{{"Temp1", 128}, {"Latitude", 33900000}, {"Longitude", quint32(-300001)}});
+        const std::tuple<const char*, bool, QString> values[] = {
+            {"label_TS_Value_1", false, ""},
+            {"label_TS_Value_2", true, "Not in the record"},
+            {"label_Navi_Lat_Value", true, "56\u00b0 30.0000' N"},
+            {"label_Navi_Lon_Value", true, "0\u00b0 30.0001' W"},
+            {"label_Navi_Date_Value", true, "Not in the record"},
+        };
+        for (const auto& [name, isDrawn, tip] : values) {
+            auto* label = child(name);
+            const QImage image = label->grab().toImage();
+            QImage blank = image;
+            blank.fill(image.pixel(0, 0));
+            QCOMPARE(image != blank, isDrawn);
+            QCOMPARE(label->text().isEmpty(), !QByteArray(name).contains("_L"));
+            QHelpEvent hover(QEvent::ToolTip, label->rect().center(),
+                             label->mapToGlobal(label->rect().center()));
+            QApplication::sendEvent(label, &hover);
+            QCOMPARE(QToolTip::text(), tip);
+        }
+    }
+
+    // At the width of a small screen the page stands below itself rather than being cut.
+    void productionPage()
+    {
+        const std::int32_t production = 1;
+        host.send(Message::SetHostMode, &production);
+        show(randomRecord(1));
+        const std::int32_t ordinary = 0;
+        host.send(Message::SetHostMode, &ordinary);
+        const auto* area = ScriptedHost::window("VLK_Form_TMI_Production")->findChild<QScrollArea*>();
+        for (const int width : {1024, 1600}) {
+            view_->resize(width, 600);
+            QCoreApplication::processEvents();
+            QCOMPARE(area->horizontalScrollBar()->maximum(), 0);
+        }
     }
 
     void arrangement_data()

@@ -27,6 +27,7 @@ private Q_SLOTS:
         press("pushButton_Taho");
         dialog_.window = ScriptedHost::window("VLK_Form_TMI_Taho");
         QVERIFY(dialog_.window->isVisible());
+        QVERIFY(window->screen()->availableGeometry().contains(dialog_.window->geometry()));
     }
 
     void requests()

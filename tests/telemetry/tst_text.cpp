@@ -5,11 +5,11 @@
 #include "support/records.h"
 #include "telemetry/text/item_text.h"
 #include "telemetry/text/key_text.h"
-#include "telemetry/text/time_text.h"
 
 #include <QtTest>
 
 #include <bit>
+#include <cmath>
 #include <random>
 #include <set>
 
@@ -228,29 +228,71 @@ private Q_SLOTS:
 
     void times()
     {
-        const std::pair<int, const char*> rows[] = {
-            {0, "12:00:00 29.02.2024 (UTC)"},        {10800, "15:00:00 29.02.2024 (UTC +3)"},
-            {-3600, "11:00:00 29.02.2024 (UTC -1)"}, {5400, "13:30:00 29.02.2024 (UTC +1)"},
-            {-5400, "10:30:00 29.02.2024 (UTC -1)"}, {1800, "12:30:00 29.02.2024 (UTC +0)"},
-            {-1800, "11:30:00 29.02.2024 (UTC 0)"},  {43200, "00:00:00 01.03.2024 (UTC +12)"}};
+        const std::tuple<quint32, int, const char*> rows[] = {
+            {1709208000, 0, "12:00:00 29.02.2024 (UTC)"},
+            {1709208000, 10800, "15:00:00 29.02.2024 (UTC +3)"},
+            {1709208000, -3600, "11:00:00 29.02.2024 (UTC -1)"},
+            {1709208000, 5400, "13:30:00 29.02.2024 (UTC +1)"},
+            {1709208000, -5400, "10:30:00 29.02.2024 (UTC -1)"},
+            {1709208000, 1800, "12:30:00 29.02.2024 (UTC +0)"},
+            {1709208000, -1800, "11:30:00 29.02.2024 (UTC 0)"},
+            {1709208000, 43200, "00:00:00 01.03.2024 (UTC +12)"},
+            {0xFFFFFFFF, 0, "06:28:15 07.02.2106 (UTC)"},
+            {0, -3600, "23:00:00 31.12.1969 (UTC -1)"},
+        };
         for (const char* name : {"Time", "LastTime", "LbsTime"}) {
-            RecordParts values;
-            values.put(kItems[find(name)].element, 1709208000);
-            TmiPage_Zeta3 page(176, 30, values.mask, values.block);
-            for (const auto& [offset, expected] : rows) {
+            for (const auto& [seconds, offset, expected] : rows) {
+                RecordParts values;
+                values.put(kItems[find(name)].element, seconds);
+                TmiPage_Zeta3 page = values.page();
                 page.setUtcOffset(offset);
                 QCOMPARE(text(page, find(name)), QLatin1String(expected));
             }
         }
-        QCOMPARE(zonedTimeText(0xFFFFFFFF, 0), QStringLiteral("06:28:15 07.02.2106 (UTC)"));
-        QCOMPARE(zonedTimeText(0, -3600), QStringLiteral("23:00:00 31.12.1969 (UTC -1)"));
     }
 
+    // Every number has the digits that Qt gives it, halves and signs of zero too.
+    void numbers()
+    {
+        std::mt19937_64 random(7106);
+        std::vector<double> numbers = {0.0,      -0.0,     0.125, -0.004,    1e-4,  9.9999e-5,    999999,
+                                       999999.5, 100000.5, 0.1,   9.9999995, 1e300, std::nan(""), -INFINITY};
+        for (int i = 0; i < 20'000; ++i) {
+            const double scale = std::pow(10.0, static_cast<int>(random() % 18) - 6);
+            numbers.push_back(static_cast<double>(static_cast<qint64>(random() % 2'000'001) - 1'000'000) /
+                              std::array{8.0, 1000.0, 64.0, 1e6}[i % 4] * scale);
+        }
+        for (const double number : numbers) {
+            for (const int decimals : {0, 1, 2, 3, 4, 6, 7}) {
+                AsciiText fixed;
+                fixed.addFixed(number, decimals);
+                QCOMPARE(fixed.string(), QString::number(number, 'f', decimals));
+            }
+            AsciiText general;
+            general.addGeneral(number);
+            QCOMPARE(general.string(), QString::number(number, 'g', 6));
+        }
+    }
+
+    // Of the zone that the machine has now; here it changes at 1:00 UTC on the last Sunday of March.
     void localTimes()
     {
-        const quint32 seconds = 1709208000 + 10 * 3600 + 62; // 22:01:02 UTC, here five hours later
-        QCOMPARE(textOf(item("TahoTime"), seconds), QStringLiteral("03:01:02 01.03.2024"));
-        QCOMPARE(textOf(item("Time.local"), seconds), QStringLiteral("01.03.2024 3:01:02"));
+        const char* const european = "CET-1CEST,M3.5.0,M10.5.0/3";
+        const std::tuple<const char*, quint32, const char*, const char*> rows[] = {
+            {"XYZ-5", 1709244062, "03:01:02 01.03.2024", "01.03.2024 3:01:02"},
+            {european, 1711846799, "01:59:59 31.03.2024", "31.03.2024 1:59:59"},
+            {european, 1711846800, "03:00:00 31.03.2024", "31.03.2024 3:00:00"},
+            {european, 0xFFFFFFFF, "07:28:15 07.02.2106", "07.02.2106 7:28:15"},
+            {"XYZ+4", 0, "20:00:00 31.12.1969", "31.12.1969 20:00:00"},
+        };
+        for (const auto& [name, seconds, clockFirst, dateFirst] : rows) {
+            qputenv("TZ", name);
+            const LocalZone zone;
+            for (const LocalZone* given : {&zone, static_cast<const LocalZone*>(nullptr)}) {
+                QCOMPARE(textOf(item("TahoTime"), seconds, {{}, given}), QLatin1String(clockFirst));
+                QCOMPARE(textOf(item("Time.local"), seconds, {{}, given}), QLatin1String(dateFirst));
+            }
+        }
     }
 
     void severalValues()

@@ -91,6 +91,37 @@ private Q_SLOTS:
         char ussd[vlk::balanceUssdSize];
         host.send(Message::GetBalanceUssd, ussd);
         QCOMPARE(QByteArray(ussd), QByteArray("*100#"));
+        const QString absent = folder.filePath("absent.xml");
+        host.send(Message::OpenTelemetry, &absent);
+        host.send(Message::GetBalanceUssd, ussd);
+        QCOMPARE(QByteArray(ussd), QByteArray());
+
+        // What the library does not know is an ordinary mode.
+        setMode(3);
+        takeSent();
+        openAgain();
+        QCOMPARE(takeSent(), Messages{Message::RequestCurrentRecord});
+        sendRecord(numbered(1));
+        QCOMPARE(page(), QString("page_Zeta3"));
+    }
+
+    void opensWithinTheScreen()
+    {
+        const auto isWithin = [](const QWidget* part, const QWidget* whole) {
+            return QRect(whole->mapToGlobal({}), whole->size())
+                .contains(QRect(part->mapToGlobal({}), part->size()));
+        };
+        press("pushButton_Func");
+        QCoreApplication::processEvents();
+        QVERIFY(window->screen()->availableGeometry().contains(window->geometry()));
+        for (const char* button : {"pushButton_Help", "pushButton_Close"})
+            QVERIFY(isWithin(child<QWidget>(button), window));
+        auto* area = child<QScrollArea>("scrollArea_Content");
+        auto* farthest = child<QWidget>("pushButton_FuelSensor");
+        QVERIFY(!isWithin(farthest, area->viewport())); // or the screen is larger than this test counts on
+        area->ensureWidgetVisible(farthest);
+        QVERIFY(isWithin(farthest, area->viewport()));
+        press("pushButton_Func");
     }
 
     void records_data()
@@ -178,8 +209,12 @@ private Q_SLOTS:
             box->setChecked(true);
         }
         for (const char* name :
-             {"groupBox_Btn_Get", "groupBox_Btn_Save", "pushButton_Taho", "pushButton_RFID"})
+             {"groupBox_Btn_Get", "groupBox_Btn_Save", "pushButton_Taho", "pushButton_RFID",
+              "pushButton_Get_Current_Touch", "pushButton_Get_Current_RFID"}) {
             QVERIFY2(!isOn(name), name);
+            QCOMPARE(child<QWidget>(name)->toolTip(), QString("tmiw_175"));
+        }
+        QCOMPARE(child<QWidget>("pushButton_SaveToFile")->toolTip(), QString()); // that of its group shows
         for (int i = 0; i < 6; ++i)
             QMetaObject::invokeMethod(window, "slot_timeout_m_Timer_Auto_TMI");
         QTEST(takeSent(), "expected");
@@ -187,6 +222,7 @@ private Q_SLOTS:
         QCOMPARE(takeSent(), Messages{Message::RequestCurrentRecord});
         box->setChecked(false);
         QVERIFY(isOn("groupBox_Btn_Get") && isOn("pushButton_RFID"));
+        QCOMPARE(child<QWidget>("pushButton_SaveToFile")->toolTip(), QString("tmiw_148"));
         QMetaObject::invokeMethod(window, "slot_timeout_m_Timer_Auto_TMI");
         QTest::qWait(1100);
         QCOMPARE(takeSent(), Messages{});
@@ -210,13 +246,17 @@ private Q_SLOTS:
         QVERIFY(first->isChecked());
         send(Message::ClearedRecord, answer);
         QVERIFY(!first->isChecked() && third->isChecked());
+        first->setChecked(true); // behind its turn
         QCOMPARE(host.sent.last().number, Message::ClearServerData);
         QCOMPARE(host.sent.last().value, 3);
         send(Message::ClearedRecord, answer);
         QVERIFY(!third->isChecked());
+        QCOMPARE(host.sent.last().value, 3);
         host.sent.clear();
         send(Message::ClearedRecord, answer);
         QCOMPARE(takeSent(), Messages{});
+        QVERIFY(first->isChecked());
+        first->setChecked(false);
     }
 
     void zoneMovesEditors()
@@ -366,6 +406,37 @@ private Q_SLOTS:
         host.send(Message::RfidNumber, &key, &signal);
         QCOMPARE(child<QLineEdit>("lineEdit_RFID")->text(), QString("6604705263"));
         QCOMPARE(child<QSpinBox>("spinBox_RFID")->value(), -70);
+    }
+
+    void endOfAllTimers_data()
+    {
+        DataTable<Message>({"message"})
+            .row("detached", Message::TrackerDetached)
+            .row("closed by the host", Message::CloseWindows);
+    }
+    // In a window that is hidden already too.
+    void endOfAllTimers()
+    {
+        QFETCH(Message, message);
+        sendRecord(numbered(9));
+        sendRecord(numbered(8));
+        QTest::mousePress(child<QPushButton>("pushButton_Get_Prev"), Qt::LeftButton);
+        host.send(message);
+        QVERIFY(window->isHidden());
+        auto* box = child<QCheckBox>("checkBox_Get_Auto_TMI");
+        box->setChecked(true);
+        host.send(message);
+        QVERIFY(!box->isChecked());
+        // The key that was asked for comes late.
+        setMode(1);
+        press("pushButton_TM");
+        const vlk::IdPair key{1, 2};
+        host.send(Message::LiveKey, &key);
+        QVERIFY(!box->isChecked());
+        host.sent.clear();
+        sendRecord(numbered(7));
+        QTest::qWait(400);
+        QCOMPARE(takeSent(), Messages{});
     }
 
     void detachedInTheMiddle()

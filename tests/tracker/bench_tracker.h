@@ -92,11 +92,7 @@ public:
     {
         return writeFile(own_.filePath(name), content);
     }
-    QByteArray configuration() const
-    {
-        const QString path = tracker->readConfiguration(own_.filePath(QStringLiteral("read")));
-        return path.isEmpty() ? QByteArray() : readFile(path);
-    }
+    QByteArray configuration() const { return tracker->readConfiguration().document; }
     tracker::WriteReport write(const QByteArray& document)
     {
         return tracker->writeConfiguration(file(QStringLiteral("written.xml"), document));

@@ -7,6 +7,7 @@
 #include "tracker/event_code.h"
 #include "window/key_translator.h"
 
+#include <QSignalSpy>
 #include <QtEndian>
 
 #include <cmath>
@@ -193,28 +194,25 @@ private Q_SLOTS:
     {
         BenchTracker bench;
         const QByteArray whole = bench.ask(Message::RequestCurrentRecord).first;
-        tracker::Faults& faults = bench.tracker->faults();
-        faults.shortAnswers = true;
+        bench.tracker->setFaults({.shortAnswers = true});
         QCOMPARE(bench.ask(Message::RequestCurrentRecord).first, whole.left(whole.size() / 2));
         const QByteArray analog = bench.ask(Message::RequestAnalog).first;
         QVERIFY(word(analog, 15) > 0);
         QCOMPARE(int(word(analog, 40)), 0);
-        faults = {};
-        faults.garbledAnswers = true;
+        bench.tracker->setFaults({.garbledAnswers = true});
         const QByteArray garbled = bench.ask(Message::RequestCurrentRecord).first;
         QCOMPARE(garbled.size(), whole.size());
         QVERIFY(garbled != whole);
-        faults = {};
-        faults.delayMs = 400;
+        bench.tracker->setFaults({.delayMs = 400});
         QVERIFY(bench.silent(Message::RequestCurrentRecord));
         QTRY_COMPARE(bench.told.size(), 1);
-        faults = {};
-        faults.silence = true;
+        bench.tracker->setFaults({.silence = true});
         QVERIFY(bench.silent(Message::RequestCurrentRecord));
-        faults = {};
-        faults.unplug = true;
+        QSignalSpy pulled(bench.tracker.get(), &tracker::SimulatedTracker::pulled);
+        bench.tracker->setFaults({.unplug = true});
         QVERIFY(bench.silent(Message::RequestCurrentRecord));
-        QVERIFY(!bench.tracker->attached() && !faults.unplug);
+        QVERIFY(!bench.tracker->attached() && !bench.tracker->faults().unplug);
+        QCOMPARE(pulled.size(), 1);
     }
 
     void detachingDropsWhatIsUnderWay()

@@ -2,6 +2,7 @@
 // them.
 
 #include "bench_tracker.h"
+#include "check/record_check.h"
 #include "support/data_table.h"
 
 #include "dataset/catalogue/field_mask.h"
@@ -120,6 +121,9 @@ private Q_SLOTS:
             p1 = &time;
         const Told told = bench.ask(id, p1);
         QTEST(int(told.id), "answer");
+        // What the host looks for in an answer, a sound tracker has.
+        QVERIFY(vlk::RecordCheck::carriesRecord(told.id));
+        QVERIFY(!vlk::RecordCheck().look(told.id, told.first));
         const QByteArray record = told.first.mid(header);
         QCOMPARE(at<quint16>(told.first, header == 2 ? 0 : 1), quint16(record.size()));
         const auto type = quint8(record.at(0));
@@ -275,6 +279,28 @@ private Q_SLOTS:
         QCOMPARE(int(value<quint16>(next, element("Code"))), 54);
         bench.tracker->handle(Message::GuardOff, nullptr, nullptr);
         QCOMPARE(state(current()), 0);
+    }
+
+    // USB is there from the moment of attaching on; a server is connected only when it has an address.
+    void recordsTellWhatIsConnected()
+    {
+        BenchTracker bench;
+        bench.tracker->setFullDataSet(true);
+        const auto usb = [](const QByteArray& record) {
+            return value<quint8>(record, element("Module1")) & 2;
+        };
+        const auto servers = [&] {
+            const QByteArray record = bench.ask(Message::RequestCurrentRecord).first.mid(3);
+            return value<quint8>(record, element("StateCnct")) >> 3 & 7;
+        };
+        QVERIFY(usb(bench.ask(Message::RequestCurrentRecord).first.mid(3)));
+        QVERIFY(!usb(bench.recordByNumber(70000)));
+        QCOMPARE(servers(), 1);
+        QVERIFY(bench
+                    .write("<DEVICE model=\"R-7106\"><TRANS><SRV1 addr=\"\"/><SRV2 addr=\"0.0.0.0\"/>"
+                           "<SRV3 addr=\"gate.example.com\"/></TRANS></DEVICE>")
+                    .accepted);
+        QCOMPARE(servers(), 4);
     }
 
     void packetsOfKeysAndTags()

@@ -2,6 +2,7 @@
 
 #include "bench_tracker.h"
 #include "support/data_table.h"
+#include "tracker/configuration_values.h"
 
 #include <QDomDocument>
 #include <QSignalSpy>
@@ -109,12 +110,15 @@ private Q_SLOTS:
         QVERIFY(QDir(bench.folder()).mkpath("configuration.backup.xml"));
         QCOMPARE(bench.write(device("")).reasonKey, QString("wb_refused_memory"));
         QVERIFY(bench.configuration().contains("TRANS"));
-        bench.tracker->faults().silence = true;
+        using enum tracker::Reading::Outcome;
+        bench.tracker->setFaults({.silence = true});
         QCOMPARE(bench.write(device("")).reasonKey, QString("wb_refused_silence"));
-        QVERIFY(bench.tracker->readConfiguration(bench.folder()).isEmpty());
-        bench.tracker->detach();
+        QVERIFY(bench.tracker->readConfiguration().outcome == Silent);
+        QVERIFY(bench.tracker->configuration().contains("TRANS/OBJECT/name"));
+        bench.tracker->setFaults({.unplug = true});
+        QCOMPARE(bench.write(device("")).reasonKey, QString("wb_refused_unplugged"));
         QCOMPARE(bench.write(device("")).reasonKey, QString("wb_refused_detached"));
-        QVERIFY(bench.tracker->readConfiguration(bench.folder()).isEmpty());
+        QVERIFY(bench.tracker->readConfiguration().outcome == Detached);
     }
 
     // A crash leaves the file of the present whole, cut, or missing; what is read is never half.
@@ -145,19 +149,28 @@ private Q_SLOTS:
         QVERIFY(bench.configuration().contains("third"));
     }
 
+    void countsDifferingKeys()
+    {
+        const tracker::ConfigurationValues one(device("<A x=\"1\" y=\"2\" gone=\"3\"/><B z=\"1\"/>"));
+        const tracker::ConfigurationValues other(device("<A x=\"1\" y=\"4\"><S new=\"5\"/></A><C z=\"6\"/>"));
+        QCOMPARE(tracker::differingKeys(one, other), 3); // of the section that both have
+        QCOMPARE(tracker::differingKeys(other, one), 3);
+        QCOMPARE(tracker::differingKeys(one, one), 0);
+    }
+
     void faultsSpoilTheFileThatIsRead()
     {
         BenchTracker bench;
         const QByteArray whole = bench.configuration();
-        bench.tracker->faults().shortAnswers = true;
+        bench.tracker->setFaults({.shortAnswers = true});
         QCOMPARE(bench.configuration(), whole.left(whole.size() / 2));
-        bench.tracker->faults() = {};
-        bench.tracker->faults().garbledAnswers = true;
+        bench.tracker->setFaults({.garbledAnswers = true});
         QVERIFY(bench.configuration() != whole);
-        bench.tracker->faults() = {};
-        bench.tracker->faults().unplug = true;
-        QVERIFY(bench.configuration().isEmpty());
+        QSignalSpy changed(bench.tracker.get(), &tracker::SimulatedTracker::faultsChanged);
+        bench.tracker->setFaults({.unplug = true});
+        QVERIFY(bench.tracker->readConfiguration().outcome == tracker::Reading::Outcome::Unplugged);
         QVERIFY(!bench.tracker->attached());
+        QCOMPARE(changed.size(), 2); // the fault has cleared itself
     }
 };
 

@@ -98,6 +98,25 @@ private Q_SLOTS:
         QVERIFY2(unused.isEmpty(), qPrintable("no key: " + unused.join(' ')));
     }
 
+    // Each button of the configuration dialog is reached by a letter of its own.
+    void buttonsHaveMnemonics()
+    {
+        const QStringList windows[] = {
+            {"wrd_047", "wrd_048", "cfgwnd_001", "wrd_051", "wrd_053", "wrd_052", "wrd_027", "wrd_054"},
+            {"wrd_055", "cfgwnd_002", "wrd_054"}};
+        for (const QString& language : kLanguages) {
+            for (const QStringList& keys : windows) {
+                QSet<QString> letters;
+                for (const QString& key : keys) {
+                    const QString text = texts_[language].value(key);
+                    QCOMPARE(text.count('&'), 1);
+                    letters << text.section('&', 1).left(1).toLower();
+                }
+                QCOMPARE(letters.size(), keys.size());
+            }
+        }
+    }
+
 private:
     QSet<QString> keys_;
     QSet<QString> families_;

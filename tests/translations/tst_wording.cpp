@@ -108,6 +108,13 @@ QString withoutTags(QString html)
         .replace(QLatin1String("&nbsp;"), QString(QChar::Nbsp));
 }
 
+QString withoutQuoted(QString page)
+{
+    for (const QString& text : kQuoted)
+        page.remove(text);
+    return page;
+}
+
 // A text as a button or a label shows it; a colon behind it is layout.
 QString caption(QString text)
 {
@@ -131,7 +138,7 @@ private Q_SLOTS:
             all_[language] = texts_[language];
             const Texts& help = help_[language];
             for (auto page = help.cbegin(); page != help.cend(); ++page)
-                all_[language][page.key()] = withoutTags(*page);
+                all_[language][page.key()] = withoutQuoted(withoutTags(*page));
         }
     }
 

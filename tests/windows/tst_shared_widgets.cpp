@@ -1,8 +1,10 @@
 // The widgets and dialogs that windows and pages share.
 
 #include "support/brackets.h"
+#include "support/data_table.h"
 #include "windows/form_io_progress.h"
 #include "windows/form_param_about.h"
+#include "windows/input_guard.h"
 #include "windows/vlk_combobox.h"
 #include "windows/vlk_dblslider2.h"
 
@@ -11,41 +13,38 @@
 
 #include <functional>
 
-namespace {
-
-// Does to a slider what the steps say: "range 0 5 200; value1 40; press 40; move 50; release".
-void run(VLK_DblSlider2& slider, const QString& steps)
+// A slider with a mouse; each step paints first, so that there is something to hit.
+class Slider : public VLK_DblSlider2
 {
-    const auto mouse = [&](QEvent::Type type, double x, Qt::MouseButton button) {
-        slider.grab(); // paints, so that there is something to hit
-        QMouseEvent event(type, QPointF(x, 10), button, button, {});
-        QApplication::sendEvent(&slider, &event);
-    };
-    const QMap<QString, std::function<void(double, double, double)>> verbs{
-        {"range", [&](double min, double gap, double max) { slider.setRange(min, gap, max); }},
-        {"gap", [&](double gap, double, double) { slider.setGap(gap); }},
-        {"value1", [&](double value, double, double) { slider.setValue1(value); }},
-        {"value2", [&](double value, double, double) { slider.setValue2(value); }},
-        {"ticks", [&](double position, double, double) { slider.setTickPosition(int(position)); }},
-        {"red", [&](double, double, double) { slider.setColorLow(Qt::red); }},
-        {"magenta", [&](double, double, double) { slider.setColorMiddle(Qt::magenta); }},
-        {"green", [&](double, double, double) { slider.setColorHigh(Qt::green); }},
-        {"enable", [&](double on, double, double) { slider.setEnabled(on != 0); }},
-        {"press", [&](double x, double, double) { mouse(QEvent::MouseButtonPress, x, Qt::LeftButton); }},
-        {"menu", [&](double x, double, double) { mouse(QEvent::MouseButtonPress, x, Qt::RightButton); }},
-        {"move", [&](double x, double, double) { mouse(QEvent::MouseMove, x, Qt::NoButton); }},
-        {"release", [&](double, double, double) { mouse(QEvent::MouseButtonRelease, 0, Qt::LeftButton); }},
-        {"end", [&](double, double, double) { QTest::keyClick(&slider, Qt::Key_End); }},
-        {"pagedown", [&](double, double, double) { QTest::keyClick(&slider, Qt::Key_PageDown); }},
-    };
-    for (const QString& step : steps.split("; ", Qt::SkipEmptyParts)) {
-        const QStringList words = step.split(' ');
-        QVERIFY2(verbs.contains(words[0]), qPrintable(step));
-        verbs[words[0]](words.value(1).toDouble(), words.value(2).toDouble(), words.value(3).toDouble());
+public:
+    void press(double x, Qt::MouseButton button = Qt::LeftButton)
+    {
+        mouse(QEvent::MouseButtonPress, x, button);
     }
-}
+    void move(double x) { mouse(QEvent::MouseMove, x, Qt::NoButton); }
+    void release() { mouse(QEvent::MouseButtonRelease, 0, Qt::LeftButton); }
+    void drag(double from, double to)
+    {
+        press(from);
+        move(to);
+    }
+    void paintIn(Qt::GlobalColor low, Qt::GlobalColor middle, Qt::GlobalColor high)
+    {
+        setColorLow(low);
+        setColorMiddle(middle);
+        setColorHigh(high);
+    }
 
-} // namespace
+private:
+    void mouse(QEvent::Type type, double x, Qt::MouseButton button)
+    {
+        grab();
+        QMouseEvent event(type, QPointF(x, 10), button, button, {});
+        QApplication::sendEvent(this, &event);
+    }
+};
+using Steps = std::function<void(Slider& slider)>;
+Q_DECLARE_METATYPE(Steps)
 
 class TestSharedWidgets : public QObject
 {
@@ -54,59 +53,96 @@ class TestSharedWidgets : public QObject
 private Q_SLOTS:
     void sliderMoves_data()
     {
-        QTest::addColumn<QString>("steps");
-        QTest::addColumn<QString>("signalsInOrder");
-        QTest::addColumn<QString>("values");
         // From 40 and 60 on a scale of 0 to 200 with a gap of 5, 200 pixels wide.
-        const char* rows[][4] = {
-            {"lower alone", "value1 54.5", "1=54.5", "54.5 60"},
-            {"lower pushes upper", "value1 58", "2=63 1=58", "58 63"},
-            {"lower at the right end", "value1 1000", "2=200 1=195", "195 200"},
-            {"lower below the scale", "value1 -3", "1=0", "0 60"},
-            {"lower at its present value", "value1 40", "", "40 60"},
-            {"upper alone", "value2 45", "2=45", "40 45"},
-            {"upper pushes lower", "value2 42", "1=37 2=42", "37 42"},
-            {"upper at the left end", "value2 -3", "1=0 2=5", "0 5"},
-            {"upper at its present value", "value2 60", "", "40 60"},
-            {"not numbers", "value1 nan; value2 nan; gap inf; range 0 nan 30", "", "40 60"},
-            {"range ends below both", "range 0 5 30", "1=25 2=30", "25 30"},
-            {"range begins above both", "range 100 5 200", "2=105 1=100", "100 105"},
-            {"range narrower than its gap", "range 0 50 10", "1=0 2=10", "0 10"},
-            {"empty range", "range 7 0 7", "1=7 2=7", "7 7"},
-            {"gap counts at the next move", "gap 50; value1 41", "2=91 1=41", "41 91"},
-            {"drag lower", "press 42; move 50; release; move 90", "1=50", "50 60"},
-            {"drag lower out of the widget", "press 36; move -30", "1=0", "0 60"},
-            {"drag upper against lower", "press 60; move 30", "1=25 2=30", "25 30"},
-            {"overlap goes to upper", "value2 45; press 42; move 150", "2=45 2=150", "40 150"},
-            {"press beside the handles", "press 44; move 80; press 64; move 80", "", "40 60"},
-            {"other button", "menu 40; move 80", "", "40 60"},
-            {"disabled in the middle", "press 40; enable 0; enable 1; move 20", "", "40 60"},
-            {"key before any press", "end", "2=200 1=195", "195 200"},
-            {"key moves the handle used last", "press 60; release; pagedown", "1=35 2=40", "35 40"},
-        };
-        for (const auto& [name, steps, order, values] : rows)
-            QTest::newRow(name) << QString(steps) << QString(order) << QString(values);
+        DataTable<QString, QString, Steps>({"signalsInOrder", "values", "steps"})
+            .row("lower alone", "1=54.5", "54.5 60", [](Slider& slider) { slider.setValue1(54.5); })
+            .row("lower pushes upper", "2=63 1=58", "58 63", [](Slider& slider) { slider.setValue1(58); })
+            .row("lower at the right end", "2=200 1=195", "195 200",
+                 [](Slider& slider) { slider.setValue1(1000); })
+            .row("lower below the scale", "1=0", "0 60", [](Slider& slider) { slider.setValue1(-3); })
+            .row("lower at its present value", "", "40 60", [](Slider& slider) { slider.setValue1(40); })
+            .row("upper alone", "2=45", "40 45", [](Slider& slider) { slider.setValue2(45); })
+            .row("upper pushes lower", "1=37 2=42", "37 42", [](Slider& slider) { slider.setValue2(42); })
+            .row("upper at the left end", "1=0 2=5", "0 5", [](Slider& slider) { slider.setValue2(-3); })
+            .row("upper at its present value", "", "40 60", [](Slider& slider) { slider.setValue2(60); })
+            .row("not numbers", "", "40 60",
+                 [](Slider& slider) {
+                     slider.setValue1(qQNaN());
+                     slider.setValue2(qQNaN());
+                     slider.setGap(qInf());
+                     slider.setRange(0, qQNaN(), 30);
+                 })
+            .row("range ends below both", "1=25 2=30", "25 30",
+                 [](Slider& slider) { slider.setRange(0, 5, 30); })
+            .row("range begins above both", "2=105 1=100", "100 105",
+                 [](Slider& slider) { slider.setRange(100, 5, 200); })
+            .row("range narrower than its gap", "1=0 2=10", "0 10",
+                 [](Slider& slider) { slider.setRange(0, 50, 10); })
+            .row("empty range", "1=7 2=7", "7 7", [](Slider& slider) { slider.setRange(7, 0, 7); })
+            .row("gap counts at the next move", "2=91 1=41", "41 91",
+                 [](Slider& slider) {
+                     slider.setGap(50);
+                     slider.setValue1(41);
+                 })
+            .row("drag lower", "1=50", "50 60",
+                 [](Slider& slider) {
+                     slider.drag(42, 50);
+                     slider.release();
+                     slider.move(90);
+                 })
+            .row("drag lower out of the widget", "1=0", "0 60", [](Slider& slider) { slider.drag(36, -30); })
+            .row("drag upper against lower", "1=25 2=30", "25 30",
+                 [](Slider& slider) { slider.drag(60, 30); })
+            .row("overlap goes to upper", "2=45 2=150", "40 150",
+                 [](Slider& slider) {
+                     slider.setValue2(45);
+                     slider.drag(42, 150);
+                 })
+            .row("press beside the handles", "", "40 60",
+                 [](Slider& slider) {
+                     slider.drag(44, 80);
+                     slider.drag(64, 80);
+                 })
+            .row("other button", "", "40 60",
+                 [](Slider& slider) {
+                     slider.press(40, Qt::RightButton);
+                     slider.move(80);
+                 })
+            .row("disabled in the middle", "", "40 60",
+                 [](Slider& slider) {
+                     slider.press(40);
+                     slider.setEnabled(false);
+                     slider.setEnabled(true);
+                     slider.move(20);
+                 })
+            .row("key before any press", "2=200 1=195", "195 200",
+                 [](Slider& slider) { QTest::keyClick(&slider, Qt::Key_End); })
+            .row("key moves the handle used last", "1=35 2=40", "35 40", [](Slider& slider) {
+                slider.press(60);
+                slider.release();
+                QTest::keyClick(&slider, Qt::Key_PageDown);
+            });
     }
     void sliderMoves()
     {
-        QFETCH(QString, steps);
-        VLK_DblSlider2 slider;
+        QFETCH(Steps, steps);
+        Slider slider;
         slider.resize(200, 20);
-        run(slider, "range 0 5 200; value1 40; value2 60");
+        slider.setRange(0, 5, 200);
+        slider.setValue1(40);
+        slider.setValue2(60);
         QStringList order;
         connect(&slider, &VLK_DblSlider2::value1Changed, this,
                 [&](double value) { order << QString("1=%1").arg(value); });
         connect(&slider, &VLK_DblSlider2::value2Changed, this,
                 [&](double value) { order << QString("2=%1").arg(value); });
-        run(slider, steps);
+        steps(slider);
         QTEST(order.join(' '), "signalsInOrder");
         QTEST(QString("%1 %2").arg(slider.value1()).arg(slider.value2()), "values");
     }
 
     void sliderPainting_data()
     {
-        QTest::addColumn<QString>("steps");
-        QTest::addColumn<QString>("pixels");
         // "x,y" and a letter: k line, w window, s shadow, r m g the three colours. Handles at 40 and 150.
         const QString down = "40,19k 40,16k 40,3k 40,2w 40,1k 36,1k 36,15k 36,16w 44,1k 44,15k 38,5w ";
         const QString up = "40,0k 40,3k 40,16k 40,17w 40,18k 36,18k 36,4k 36,3w 44,18k 44,4k 38,5w ";
@@ -114,24 +150,39 @@ private Q_SLOTS:
         const QString above = "0,3k 0,4w 19,1k 19,2w 79,1k 79,2w 99,3k 99,4w 199,3k 199,4w 10,0k ";
         const QString below = "0,16k 0,15w 19,18k 19,17w 79,18k 79,17w 99,16k 99,15w 199,16k 199,15w 10,19k ";
         const QString painted = "10,8w 10,9r 10,11r 10,12w 0,10r 100,9m 100,11m 180,9g 198,11g 45,5s ";
-        const std::tuple<const char*, QString, QString> rows[] = {
-            {"plain", "", down + track + "45,5s 41,0s 45,0s 46,5w 0,0w 99,0w 99,19w"},
-            {"coloured", "red; magenta; green", down + painted},
-            {"one colour", "green", "10,9s 100,10w 180,10g"},
-            {"disabled", "red; magenta; green; enable 0", down + track + "45,5w 41,0w"},
-            {"ticks above", "ticks 1", up + above + track + "45,5s 41,19s 45,19s 99,19w"},
-            {"ticks below", "ticks 2", down + below + track + "45,5s 99,0w"},
-            {"ticks on both sides", "ticks 3", down + above + below},
-            {"handles at the ends", "value1 0; value2 200", "0,10k 4,5k 5,5s 195,5k 199,10k 199,19k"},
-            {"both at the right end", "range 0 0 200; value1 200", "190,5k 195,5k 199,10k"},
-            {"empty scale", "range 5 0 5", "0,5k 4,10k 8,5k 9,5s 100,9s"},
-        };
-        for (const auto& [name, steps, pixels] : rows)
-            QTest::newRow(name) << steps << pixels;
+        DataTable<QString, Steps>({"pixels", "steps"})
+            .row("plain", down + track + "45,5s 41,0s 45,0s 46,5w 0,0w 99,0w 99,19w", [](Slider&) {})
+            .row("coloured", down + painted,
+                 [](Slider& slider) { slider.paintIn(Qt::red, Qt::magenta, Qt::green); })
+            .row("one colour", "10,9s 100,10w 180,10g",
+                 [](Slider& slider) { slider.setColorHigh(Qt::green); })
+            .row("disabled", down + track + "45,5w 41,0w",
+                 [](Slider& slider) {
+                     slider.paintIn(Qt::red, Qt::magenta, Qt::green);
+                     slider.setEnabled(false);
+                 })
+            .row("ticks above", up + above + track + "45,5s 41,19s 45,19s 99,19w",
+                 [](Slider& slider) { slider.setTickPosition(1); })
+            .row("ticks below", down + below + track + "45,5s 99,0w",
+                 [](Slider& slider) { slider.setTickPosition(2); })
+            .row("ticks on both sides", down + above + below,
+                 [](Slider& slider) { slider.setTickPosition(3); })
+            .row("handles at the ends", "0,10k 4,5k 5,5s 195,5k 199,10k 199,19k",
+                 [](Slider& slider) {
+                     slider.setValue1(0);
+                     slider.setValue2(200);
+                 })
+            .row("both at the right end", "190,5k 195,5k 199,10k",
+                 [](Slider& slider) {
+                     slider.setRange(0, 0, 200);
+                     slider.setValue1(200);
+                 })
+            .row("empty scale", "0,5k 4,10k 8,5k 9,5s 100,9s",
+                 [](Slider& slider) { slider.setRange(5, 0, 5); });
     }
     void sliderPainting()
     {
-        QFETCH(QString, steps);
+        QFETCH(Steps, steps);
         QFETCH(QString, pixels);
         for (bool dark : {false, true}) {
             const QColor window = dark ? QColor(32, 32, 32) : QColor(240, 240, 240);
@@ -139,10 +190,13 @@ private Q_SLOTS:
             palette.setColor(QPalette::Window, window);
             palette.setColor(QPalette::WindowText, dark ? Qt::white : Qt::blue);
             palette.setColor(QPalette::Shadow, Qt::darkYellow);
-            VLK_DblSlider2 slider;
+            Slider slider;
             slider.resize(200, 20);
             slider.setPalette(palette);
-            run(slider, "range 0 5 200; value1 40; value2 150; " + steps);
+            slider.setRange(0, 5, 200);
+            slider.setValue1(40);
+            slider.setValue2(150);
+            steps(slider);
             const QMap<QChar, QColor> colours{{'k', dark ? Qt::white : Qt::black},
                                               {'w', window},
                                               {'s', Qt::darkYellow},
@@ -159,6 +213,42 @@ private Q_SLOTS:
                          qPrintable(QString("%1 is %2, dark %3").arg(pixel, seen.name()).arg(dark)));
             }
         }
+    }
+
+    void typedNumbersAreLimited_data()
+    {
+        DataTable<int, QString, QString, double>({"decimals", "standing", "typed", "value"})
+            .row("within the range", 0, "", "8080", 8080)
+            .row("too large", 0, "", "99999", 65535)
+            .row("far too large", 0, "", "99999999999", 65535)
+            .row("over what was selected", 0, "4000", "70000", 65535)
+            .row("below the least on the way", 0, "", "30", 30)
+            .row("too small", 0, "", "-250", -100)
+            .row("a fraction", 2, "", "65535.5", 65535)
+            .row("no number", 0, "12", "x", 12);
+    }
+    void typedNumbersAreLimited()
+    {
+        QFETCH(int, decimals);
+        QFETCH(QString, standing);
+        QFETCH(QString, typed);
+        QWidget page;
+        QSpinBox whole(&page);
+        whole.setRange(-100, 65535);
+        QDoubleSpinBox real(&page);
+        real.setRange(-100, 65535);
+        real.setLocale(QLocale::c());
+        vlk::guardInputs(&page);
+        auto* box = decimals ? static_cast<QAbstractSpinBox*>(&real) : &whole;
+        whole.setSuffix(" km");
+        real.setSuffix(" km");
+        box->selectAll();
+        QTest::keyClicks(box, standing);
+        if (typed.size() > 1)
+            box->selectAll();
+        QTest::keyClicks(box, typed);
+        QTEST(decimals ? real.value() : whole.value(), "value");
+        QVERIFY(box->text().endsWith(" km"));
     }
 
     void comboBoxRemembersTheTextBeforeTheList()

@@ -1,14 +1,18 @@
-// The smallest plug-in: OpenConfiguration copies the file into the current folder and hands the copy to the
-// host for writing, RaiseConfiguration asks for help, GetBalanceUssd gives the last path's first letters.
+// The smallest plug-in: OpenConfiguration copies the file (a document of its own where there is none) into
+// the current folder and hands the copy to the host for writing, or tells the log that it could not;
+// RaiseConfiguration asks for help, GetBalanceUssd gives the last path's first letters.
 
 #include "plugin/host/host_interface.h"
 
 #include <QDir>
 #include <QFile>
+#include <QLoggingCategory>
 
 #include <cstring>
 
 namespace {
+
+Q_LOGGING_CATEGORY(lcSave, "vlk.save")
 
 vlk::HostCallback host = nullptr;
 int device = 0;
@@ -50,9 +54,18 @@ Q_DECL_EXPORT void ReceiveMessage(void* handle, std::uint32_t id, void* p1, void
     switch (vlk::Message(id)) {
     case vlk::Message::OpenConfiguration: {
         lastPath = static_cast<const vlk::OpenRequest*>(p1)->path;
-        QString copy = QDir::currentPath() + QStringLiteral("/vlk_echo.xml");
-        QFile::copy(QString::fromLocal8Bit(lastPath), copy);
-        call(vlk::Message::WriteConfiguration, &copy);
+        QString path = QDir::currentPath() + QStringLiteral("/vlk_echo.xml");
+        QFile read(QString::fromLocal8Bit(lastPath));
+        QFile copy(path);
+        const QByteArray document = !lastPath.isEmpty() && read.open(QIODevice::ReadOnly)
+                                        ? read.readAll()
+                                        : QByteArray("<DEVICE model=\"R-7106\"><A x=\"1\"/></DEVICE>");
+        if (!copy.open(QIODevice::WriteOnly) || copy.write(document) != document.size() || !copy.flush()) {
+            qCWarning(lcSave, "%s: %s", qPrintable(path), qPrintable(copy.errorString()));
+            break;
+        }
+        copy.close();
+        call(vlk::Message::WriteConfiguration, &path);
         break;
     }
     case vlk::Message::RaiseConfiguration: {

@@ -1,3 +1,6 @@
+#include "support/data_table.h"
+#include "support/files.h"
+#include "support/full_disk.h"
 #include "window/data_folder.h"
 #include "window/host_session.h"
 #include "window/languages.h"
@@ -7,6 +10,8 @@
 #include <QtTest>
 
 using tracker::WriteReport;
+
+Q_DECLARE_METATYPE(tracker::Faults)
 
 namespace {
 
@@ -55,7 +60,7 @@ private Q_SLOTS:
         QVERIFY(bench.session.link().error().contains(path));
         // Nothing of the session needs a plug-in to survive.
         bench.session.tracker().attach();
-        QVERIFY(bench.session.readConfiguration(true));
+        QCOMPARE(bench.session.readConfiguration(true), QString());
         QVERIFY(bench.session.link().balanceCode().isEmpty());
     }
 
@@ -67,7 +72,7 @@ private Q_SLOTS:
         MessageLogModel log;
         connect(&bench.session.link(), &PluginLink::passed, &log, &MessageLogModel::append);
 
-        QVERIFY(bench.session.readConfiguration(true));
+        QCOMPARE(bench.session.readConfiguration(true), QString());
         const WriteReport report = bench.report();
         QVERIFY(report.accepted);
         QVERIFY(report.sameAsBefore());
@@ -84,14 +89,108 @@ private Q_SLOTS:
     {
         Bench bench;
         QVERIFY(bench.start());
-        QVERIFY(bench.session.readConfiguration(true));
+        QCOMPARE(bench.session.readConfiguration(true), QString());
         bench.session.tracker().detach(); // between the plug-in's message and the tracker's turn
         const WriteReport report = bench.report();
         QVERIFY(!report.accepted);
         QCOMPARE(report.reasonKey, QStringLiteral("wb_refused_detached"));
         QVERIFY(QFile::exists(report.file));
-        QVERIFY(!bench.session.readConfiguration(true));
-        QVERIFY(!bench.session.liveTelemetry());
+    }
+
+    // What cannot be believed opens nothing, and the text says why and what to do.
+    void opensNothingFromABadAnswer_data()
+    {
+        using Table = DataTable<tracker::Faults, QStringList>;
+        Table({"faults", "said"})
+            .row("silence", {.silence = true}, {"does not answer", "Check the cable"})
+            .row("short", {.shortAnswers = true}, {"cut short after", "Check the cable"})
+            .row("garbled", {.garbledAnswers = true}, {"no configuration, or a damaged one", "line 1"})
+            .row("unplugged", {.unplug = true}, {"was unplugged", "Attach the tracker"});
+    }
+    void opensNothingFromABadAnswer()
+    {
+        QFETCH(tracker::Faults, faults);
+        QFETCH(QStringList, said);
+        Languages languages;
+        QVERIFY(languages.set(QStringLiteral("en")));
+        Bench bench;
+        QVERIFY(bench.start());
+        QVector<quint32> passed;
+        connect(&bench.session.link(), &PluginLink::passed, this,
+                [&passed](vlk::Direction, quint32 id) { passed.append(id); });
+        using Ask = QString (*)(HostSession&);
+        const std::pair<const char*, Ask> asked[] = {
+            {"not read", [](HostSession& session) { return session.readConfiguration(true); }},
+            {"Telemetry did not come", [](HostSession& session) { return session.liveTelemetry(); }}};
+        for (const auto& [what, ask] : asked) {
+            bench.session.tracker().attach();
+            bench.session.tracker().setFaults(faults);
+            const QString text = ask(bench.session);
+            for (const QString& part : said + QStringList(QLatin1String(what)))
+                QVERIFY2(text.contains(part), qPrintable(text));
+            QVERIFY2(!text.contains(QLatin1String("disk")), qPrintable(text));
+        }
+        QVERIFY(!passed.contains(2101) && !passed.contains(2102));
+        QVERIFY(bench.session.edited().name().isEmpty());
+    }
+
+    void saysThatItIsTheDisk()
+    {
+        Languages languages;
+        QVERIFY(languages.set(QStringLiteral("en")));
+        Bench bench;
+        QVERIFY(bench.start());
+        const FullDisk disk(1000);
+        QVERIFY(bench.session.readConfiguration(true).contains(QLatin1String("Make room on the disk")));
+    }
+
+    void asksBeforeItReplacesEverything()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        bool answer = false;
+        int asked = 0;
+        bench.session.setReplaceQuestion([&] {
+            ++asked;
+            return answer;
+        });
+        QSignalSpy cancelled(&bench.session, &HostSession::writeCancelled);
+        bench.session.newConfiguration(true);
+        QVERIFY(QFile::exists(QStringLiteral("vlk_echo.xml")));
+        QVERIFY(cancelled.wait());
+        QVERIFY(bench.written.isEmpty() && !QFile::exists(QStringLiteral("vlk_echo.xml")));
+        answer = true;
+        bench.session.newConfiguration(true);
+        QVERIFY(bench.report().accepted);
+        QCOMPARE(asked, 2);
+        // Now it is the tracker's own, as is one that was read.
+        QVERIFY(!bench.session.edited().replacesUnseen());
+        QCOMPARE(bench.session.readConfiguration(true), QString());
+        QVERIFY(bench.report().accepted);
+        QCOMPARE(asked, 2);
+    }
+
+    void saysWhatIsEdited()
+    {
+        Languages languages;
+        QVERIFY(languages.set(QStringLiteral("en")));
+        Bench bench;
+        QVERIFY(bench.start());
+        const auto text = [&] { return bench.session.edited().text(); };
+        QVERIFY(bench.session.readConfiguration(true).isEmpty() && bench.report().accepted);
+        QCOMPARE(text(), QStringLiteral("from the tracker; changes written: 0"));
+        QByteArray document = bench.session.tracker().readConfiguration().document;
+        document.replace("port=\"4000\"", "port=\"4001\"");
+        const QString file = writeFile(bench.root.filePath(QStringLiteral("edited.xml")), document);
+        QVERIFY(bench.session.openConfiguration(file, true).isEmpty());
+        QCOMPARE(text(), QStringLiteral("edited.xml; differences from the tracker: 1"));
+        QVERIFY(bench.report().accepted);
+        QCOMPARE(text(), QStringLiteral("edited.xml; changes written: 0"));
+        QCOMPARE(bench.session.edited().changesIn(document.replace("4001", "4002")).value(), 1);
+        bench.session.newConfiguration(true);
+        QCOMPARE(text(), QStringLiteral("new"));
+        bench.session.configurationClosed();
+        QCOMPARE(text(), QStringLiteral("–"));
     }
 
     void opensPathsOfAnyLength()
@@ -102,9 +201,10 @@ private Q_SLOTS:
         while (path.size() < 1500)
             path += QStringLiteral("/") + QString(200, QLatin1Char('d'));
         QVERIFY(QDir().mkpath(path));
-        const QString file = bench.session.tracker().readConfiguration(path);
+        const QString file = writeFile(path + QStringLiteral("/tracker.xml"),
+                                       bench.session.tracker().readConfiguration().document);
         QVERIFY(file.size() > 1024);
-        bench.session.openConfiguration(file, false);
+        QCOMPARE(bench.session.openConfiguration(file, false), QString());
         QVERIFY(bench.report().accepted);
     }
 

@@ -1,12 +1,14 @@
+#include "support/data_table.h"
 #include "window/command_line.h"
 #include "window/data_folder.h"
-#include "window/help_pages.h"
+#include "window/help_viewer.h"
 #include "window/languages.h"
 #include "window/settings.h"
 #include "window/stored_file.h"
 
 #include <QDirIterator>
 #include <QProcess>
+#include <QTextBlock>
 #include <QXmlStreamReader>
 #include <QtTest>
 
@@ -55,6 +57,18 @@ QSet<QString> keysOfSources()
             keys.insert(found.next().captured(1));
     }
     return keys;
+}
+
+// Exit code and all that it said; -1 when it crashed or did not end.
+std::pair<int, QString> run(const QStringList& arguments,
+                            const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment())
+{
+    QProcess workbench;
+    workbench.setProcessChannelMode(QProcess::MergedChannels);
+    workbench.setProcessEnvironment(environment);
+    workbench.start(QStringLiteral(VLK_WORKBENCH), arguments);
+    const bool ended = workbench.waitForFinished(60'000) && workbench.exitStatus() == QProcess::NormalExit;
+    return {ended ? workbench.exitCode() : -1, QString::fromUtf8(workbench.readAll())};
 }
 
 } // namespace
@@ -174,6 +188,25 @@ private Q_SLOTS:
         QVERIFY(second.path == QLatin1String("/f13") && second.window == TelemetryWindow::Browser);
     }
 
+    // The command line's wishes hold for the run alone, until the user chooses otherwise.
+    void forgetsWhatHoldsForOneRun()
+    {
+        const QTemporaryDir folder;
+        const QString file = folder.filePath(QStringLiteral("w.ini"));
+        const auto stored = [&file] { return Settings(file); };
+        {
+            Settings settings(file);
+            settings.setLanguage(QStringLiteral("en"));
+            settings.setForThisRun(QStringLiteral("ru"), 2);
+            QCOMPARE(settings.language(), QStringLiteral("ru"));
+            QCOMPARE(settings.mode(), 2);
+            settings.setMode(1);
+            QCOMPARE(settings.mode(), 1);
+        }
+        QCOMPARE(stored().language(), QStringLiteral("en"));
+        QCOMPARE(stored().mode(), 1);
+    }
+
     void survivesDamagedSettings_data()
     {
         QTest::addColumn<QByteArray>("content");
@@ -233,8 +266,72 @@ private Q_SLOTS:
         QVERIFY(QFileInfo(folder.configurationFolder()).isDir());
         // A file stands in the way.
         const DataFolder refused(write(root, QStringLiteral("file"), "x") + QStringLiteral("/data"));
-        QVERIFY(!refused.isUsable());
+        QVERIFY(!refused.isUsable() && !refused.isInUse());
         QVERIFY(!refused.error().isEmpty());
+    }
+
+    // A second one on the same folder says so, touches nothing and ends; behind the first one the folder is
+    // free.
+    void leavesAnotherWorkbenchAlone()
+    {
+        const QTemporaryDir root;
+        const QStringList arguments{"--language", "en",     "--data",
+                                    root.path(),  "--tour", root.filePath(QStringLiteral("tour"))};
+        auto first = std::make_unique<DataFolder>(root.path());
+        QVERIFY(first->isUsable());
+        QVERIFY(DataFolder(root.path()).isInUse());
+        const auto [code, output] = run(arguments);
+        QCOMPARE(code, 1);
+        QVERIFY2(
+            output.contains(QLatin1String("Another workbench is open on the data folder ") + root.path()),
+            qPrintable(output));
+        QVERIFY(QDir(first->trackerFolder()).isEmpty());
+        first.reset();
+        QVERIFY(DataFolder(root.path()).isUsable());
+    }
+
+    // One sentence in place of an abort.
+    void saysThatThereIsNoDisplay()
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+        environment.insert(QStringLiteral("DISPLAY"), QStringLiteral(":77777"));
+        const auto [code, output] = run({"--language", "en"}, environment);
+        QCOMPARE(code, 1);
+        QVERIFY2(output.startsWith(QLatin1String("The workbench found no display")), qPrintable(output));
+        QCOMPARE(output.count(QLatin1Char('\n')), 1);
+    }
+
+    void helpLinksCanBeRead_data()
+    {
+        DataTable<QColor, QColor>({"base", "link"})
+            .row("light", Qt::white, Qt::blue)
+            .row("dark", QColor(0x23, 0x26, 0x29), Qt::blue)
+            .row("dark with a link colour of its own", Qt::black, QColor(0x8a, 0xb4, 0xf8));
+    }
+    void helpLinksCanBeRead()
+    {
+        QFETCH(QColor, base);
+        QFETCH(QColor, link);
+        QPalette palette;
+        palette.setColor(QPalette::Base, base);
+        palette.setColor(QPalette::Link, link);
+        HelpViewer viewer(HelpPages(QStringLiteral(VLK_SOURCE "/help")), QStringLiteral("en"), nullptr);
+        viewer.showPage(HelpPages::indexPage());
+        // The theme may change while the page is on show.
+        viewer.setPalette(palette);
+        const auto* browser = viewer.findChild<QTextBrowser*>(QStringLiteral("textBrowser_Help"));
+        int links = 0;
+        for (QTextBlock block = browser->document()->begin(); block.isValid(); block = block.next())
+            for (auto part = block.begin(); !part.atEnd(); ++part) {
+                const QTextCharFormat format = part.fragment().charFormat();
+                if (format.anchorHref().isEmpty())
+                    continue;
+                ++links;
+                const int contrast = qGray(format.foreground().color().rgb()) - qGray(base.rgb());
+                QVERIFY2(std::abs(contrast) > 90, qPrintable(format.foreground().color().name()));
+            }
+        QVERIFY(links > 2);
     }
 
     void obeysTheCommandLine_data()
@@ -261,14 +358,9 @@ private Q_SLOTS:
     void obeysTheCommandLine()
     {
         QFETCH(QStringList, arguments);
-        QProcess workbench;
-        workbench.setProcessChannelMode(QProcess::MergedChannels);
-        workbench.start(QStringLiteral(VLK_WORKBENCH), arguments);
-        QVERIFY(workbench.waitForFinished(60'000));
-        QCOMPARE(workbench.exitStatus(), QProcess::NormalExit);
-        QTEST(workbench.exitCode(), "code");
         QFETCH(QString, said);
-        const QString output = QString::fromUtf8(workbench.readAll());
+        const auto [code, output] = run(arguments);
+        QTEST(code, "code");
         QVERIFY2(output.contains(said), qPrintable(output));
     }
 };

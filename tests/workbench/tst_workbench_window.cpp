@@ -1,4 +1,7 @@
+#include "support/data_table.h"
+#include "support/files.h"
 #include "window/data_folder.h"
+#include "window/folders_dialog.h"
 #include "window/recent_files.h"
 #include "window/settings.h"
 #include "window/workbench_window.h"
@@ -6,11 +9,18 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
-#include <QMenu>
+#include <QLoggingCategory>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScreen>
+#include <QShortcut>
+#include <QTabWidget>
+#include <QToolButton>
 #include <QtTest>
 
 namespace {
@@ -44,18 +54,74 @@ QStringList textsOf(const QWidget& window)
     return texts;
 }
 
-// Closes the message box that comes up next and gives its text.
+// Closes the message box that is up after an act, or comes up within it, and gives its text.
 QString messageDuring(const std::function<void()>& act)
 {
     QString text;
-    QTimer::singleShot(0, [&text] {
+    const auto close = [&text] {
         if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
             text = box->text();
             box->close();
         }
-    });
+    };
+    QTimer inside;
+    QObject::connect(&inside, &QTimer::timeout, close);
+    inside.start(0);
     act();
+    QCoreApplication::processEvents();
+    close();
     return text;
+}
+
+// Takes the next file dialog that comes up and gives it the name, or cancels it.
+void chooseNext(const QString& path)
+{
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, path] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (!dialog)
+            return;
+        timer->deleteLater();
+        dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path);
+        QMetaObject::invokeMethod(dialog, "accept");
+    });
+    timer->start(5);
+}
+
+// As the plug-in tells the log of a file that it could not save.
+void failToSave(const QString& path, const char* reason)
+{
+    const QLoggingCategory category("vlk.save");
+    qCWarning(category, "%s: %s", qPrintable(path), reason);
+}
+
+const QByteArray telemetry = "<TMI model=\"R-7106\" >\n<Page type=\"176\" ver=\"30\" format=\"1\">\n"
+                             "<NumPage>1</NumPage>\n</Page>\n</TMI>\n";
+
+// The letters behind "&" of what is on show.
+QStringList mnemonics(const QWidget& window)
+{
+    QStringList letters;
+    static const QRegularExpression letter(QStringLiteral("&([^&\\s])"));
+    const auto take = [&letters](const QString& text) {
+        const auto found = letter.match(text);
+        if (found.hasMatch())
+            letters.append(found.captured(1).toLower());
+    };
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        if (!widget->isVisible())
+            continue;
+        if (const auto* bar = qobject_cast<const QTabBar*>(widget))
+            for (int i = 0; i < bar->count(); ++i)
+                take(bar->tabText(i));
+        else if (qobject_cast<const QMenuBar*>(widget))
+            for (const QAction* action : widget->actions())
+                take(action->text());
+        else if (!qobject_cast<const QToolButton*>(widget))
+            for (const char* property : {"text", "title"})
+                take(widget->property(property).toString());
+    }
+    return letters;
 }
 
 } // namespace
@@ -116,15 +182,9 @@ private Q_SLOTS:
     {
         Bench bench;
         QVERIFY(bench.start());
-        const QString path = bench.window.session().tracker().readConfiguration(bench.root.path());
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QByteArray content = file.readAll();
+        QByteArray content = bench.window.session().tracker().readConfiguration().document;
         content.replace("port=\"4000\"", "port=\"4001\"");
-        const QString edited = bench.root.filePath(QStringLiteral("edited.xml"));
-        QFile copy(edited);
-        QVERIFY(copy.open(QIODevice::WriteOnly) && copy.write(content) == content.size());
-        copy.close();
+        const QString edited = writeFile(bench.root.filePath(QStringLiteral("edited.xml")), content);
 
         QMimeData dropped;
         dropped.setUrls({QUrl::fromLocalFile(edited)});
@@ -144,11 +204,7 @@ private Q_SLOTS:
     void reopensWhereItWasShown()
     {
         Bench bench;
-        const QString path = bench.root.filePath(QStringLiteral("period.xml"));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("<TMI model=\"R-7106\" >\n</TMI>\n");
-        file.close();
+        const QString path = writeFile(bench.root.filePath(QStringLiteral("period.xml")), telemetry);
         QVERIFY(bench.start());
         QVector<int> windows;
         connect(&bench.window.session().link(), &PluginLink::passed, this,
@@ -177,6 +233,192 @@ private Q_SLOTS:
         Q_EMIT choice->activated(1);
         QCOMPARE(bench.settings.mode(), 1);
         QVERIFY(!bench.settings.fullWindow());
+    }
+
+    // A file that cannot be shown opens nothing, is told with its reason and stays out of the recent files.
+    void namesABadFile_data()
+    {
+        DataTable<QByteArray, QStringList>({"content", "said"})
+            .row("cut configuration", "<DEVICE>\n<TRANS page=", {"cut short after 21", "line 2, column 12"})
+            .row("damaged configuration", "<DEVICE>\n<A></B>\n", {"damaged", "line 2, column 7"})
+            .row("another model", "<DEVICE model=\"X\"/>", {"another model: X"})
+            .row("another document", "<html/>", {"line 1", "<html>"})
+            .row("no document", "\x89PNG", {"no configuration", "line 1"})
+            .row("empty", "", {"holds nothing"})
+            .row("no record", "<TMI>\n</TMI>\n", {"no record"})
+            .row("half a record", telemetry.left(60), {"within its first record, after 60"});
+    }
+    void namesABadFile()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QStringList, said);
+        Bench bench;
+        QVERIFY(bench.start());
+        int opened = 0;
+        connect(&bench.window.session().link(), &PluginLink::passed, this,
+                [&opened](vlk::Direction, quint32 id) { opened += id == 2101 || id == 2103; });
+        const QString path = writeFile(bench.root.filePath(QStringLiteral("bad.xml")), content);
+        const QString text = messageDuring([&] { bench.window.openFile(path); });
+        for (const QString& part : said + QStringList(path))
+            QVERIFY2(text.contains(part), qPrintable(text));
+        QCOMPARE(bench.text("label_Status"), text);
+        QCOMPARE(opened, 0);
+        QVERIFY(bench.settings.recentFiles().isEmpty());
+        // The line clears with its cause.
+        bench.window.openFile(writeFile(path, telemetry));
+        QCOMPARE(bench.text("label_Status"), QStringLiteral("Ready"));
+        QCOMPARE(opened, 1);
+    }
+
+    void browsesTelemetryAlone()
+    {
+        Bench bench;
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        QVERIFY(bench.start());
+        for (const auto& [content, said] : {std::pair("<DEVICE/>", "it is a configuration"),
+                                            {"nonsense", "neither a configuration nor a telemetry file"}}) {
+            const QString path = writeFile(bench.root.filePath(QStringLiteral("chosen.xml")), content);
+            chooseNext(path);
+            const QString text = messageDuring([&] { bench.action("action_Browse")->trigger(); });
+            QVERIFY2(text.contains(QLatin1String(said)) && text.contains(path), qPrintable(text));
+        }
+        QVERIFY(bench.settings.recentFiles().isEmpty());
+    }
+
+    // Nothing is written of a file that could not be saved, and the reason is told.
+    void tellsOfAFailedSave()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        QVERIFY(QDir(bench.folder.path()).mkpath(QStringLiteral("vlk_echo.xml")));
+        bench.action("action_Read")->trigger();
+        QTRY_VERIFY(bench.text("label_Report").contains(QLatin1String("nothing was sent")));
+        QVERIFY(bench.text("label_Report").contains(QLatin1String("/vlk_echo.xml: ")));
+        QVERIFY(bench.text("label_Status").contains(QLatin1String("not written")));
+        const QString text =
+            messageDuring([] { failToSave(QStringLiteral("/a/period.csv"), "No space left on device"); });
+        QVERIFY2(text.contains(QLatin1String("/a/period.csv was not saved: No space left on device")),
+                 qPrintable(text));
+        QVERIFY(bench.settings.recentFiles().isEmpty());
+    }
+
+    // The plug-in's file dialog and what comes of it, at once or later.
+    void tellsOfASavedFile_data()
+    {
+        DataTable<QByteArray, bool, QString>({"content", "modal", "said"})
+            .row("configuration", "<DEVICE model=\"R-7106\"/>", true, "Saved: ")
+            .row("period, later", telemetry, false, "Saved: ")
+            .row("nothing on the disk", "", true, "was not saved");
+    }
+    void tellsOfASavedFile()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(bool, modal);
+        QFETCH(QString, said);
+        Bench bench;
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        QVERIFY(bench.start());
+        QDialog window;
+        window.setModal(modal);
+        window.show();
+        const QString name = bench.root.filePath(QStringLiteral("name"));
+        chooseNext(name);
+        const QString filter = QStringLiteral("Files (*.xml)");
+        QCOMPARE(QFileDialog::getSaveFileName(&window, {}, bench.root.path(), filter), name);
+        if (!modal)
+            QTest::qWait(50);
+        const QString saved = name + QStringLiteral(".xml");
+        const QString box = messageDuring([&] {
+            if (!content.isEmpty())
+                writeFile(saved, content);
+        });
+        QTRY_VERIFY(bench.text("label_Status").contains(said));
+        QCOMPARE(box.isEmpty(), !content.isEmpty());
+        QCOMPARE(bench.settings.recentFiles().value(0).path, content.isEmpty() ? QString() : saved);
+    }
+
+    // The faults stand in a window that belongs to the modal one and takes the mouse beside it.
+    void switchesFaultsBesideAModalWindow()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        QDialog modal;
+        modal.setModal(true);
+        modal.resize(300, 200);
+        modal.show();
+        QTRY_VERIFY(modal.findChild<QShortcut*>());
+        auto* beside = modal.findChild<QDialog*>(QStringLiteral("dialog_Faults"));
+        if (!beside || !beside->isVisible())
+            Q_EMIT modal.findChild<QShortcut*>()->activated();
+        beside = modal.findChild<QDialog*>(QStringLiteral("dialog_Faults"));
+        QTRY_VERIFY(beside && beside->isVisible());
+        const auto click = [](QWidget* window, const char* name) {
+            auto* box = window->findChild<QAbstractButton*>(QLatin1String(name));
+            const QPoint at = box->mapTo(window, QPoint(8, box->height() / 2));
+            QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, at);
+        };
+        const auto silent = [&] { return bench.window.session().tracker().faults().silence; };
+        click(beside, "checkBox_Silence");
+        QTRY_VERIFY(silent());
+        // The panel in the main window follows, and is out of reach.
+        auto* tabs = bench.window.findChild<QTabWidget*>(QStringLiteral("tabWidget_Main"));
+        tabs->setCurrentIndex(2);
+        auto* own = tabs->findChild<QAbstractButton*>(QStringLiteral("checkBox_Silence"));
+        QVERIFY(own->isChecked());
+        click(&bench.window, "checkBox_Silence");
+        QTest::qWait(20);
+        QVERIFY(silent());
+        // Another modal window comes over it and goes.
+        {
+            QDialog above;
+            above.setModal(true);
+            above.show();
+            QTRY_COMPARE(beside->parentWidget(), &above);
+            above.close();
+            QTRY_COMPARE(beside->parentWidget(), &modal);
+        }
+        modal.close();
+        QVERIFY(!beside->isVisible());
+        click(&bench.window, "checkBox_Silence");
+        QTRY_VERIFY(!silent());
+    }
+
+    void mnemonicsAreUnique()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        auto* tabs = bench.window.findChild<QTabWidget*>(QStringLiteral("tabWidget_Main"));
+        for (const QString& language : Languages::codes()) {
+            bench.window.setLanguage(language);
+            for (int tab = 0; tab < tabs->count(); ++tab) {
+                tabs->setCurrentIndex(tab);
+                QCoreApplication::processEvents();
+                QStringList letters = mnemonics(bench.window);
+                QVERIFY2(letters.size() >= (tab == 2 ? 18 : 9), qPrintable(letters.join(QLatin1Char(' '))));
+                const QStringList all = letters;
+                QVERIFY2(letters.removeDuplicates() == 0, qPrintable(all.join(QLatin1Char(' '))));
+            }
+        }
+    }
+
+    // Whatever the size of the letters, the windows fit the screen and scroll.
+    void fitsTheScreen()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+        const auto fits = [&screen](const QSize& size) { return size.boundedTo(screen) == size; };
+        for (const QString& language : Languages::codes()) {
+            bench.window.setLanguage(language);
+            QCoreApplication::processEvents();
+            QVERIFY(fits(bench.window.minimumSizeHint()));
+            QVERIFY(fits(bench.window.size()));
+            bench.window.showHelp(QStringLiteral("index.html"));
+            const FoldersDialog folders({}, {}, &bench.window);
+            WriteReportView::showDialog({}, &bench.window);
+            for (const auto* window : bench.window.findChildren<QDialog*>())
+                QVERIFY2(fits(window->size()), window->objectName().toLatin1().constData());
+        }
     }
 
     // At the size of the configuration window nothing may need more room.

@@ -1,5 +1,5 @@
-// Saving never destroys: whatever stops it, the old document or the new one is there, whole. Each save runs
-// in a process of its own, which may lose its rights, its disk space or its life.
+// A save that is stopped leaves the old document or the new one, whole. Each save runs in a process of its
+// own, without rights, on a full or bad disk, or killed in the middle.
 
 #include "support/data_table.h"
 #include "support/failing_calls.h"

@@ -2,8 +2,6 @@
 
 #include <QTimer>
 
-#include <utility>
-
 namespace tracker {
 
 namespace {
@@ -12,6 +10,14 @@ constexpr int answerMs = 20;
 constexpr int garbledStep = 5;
 
 } // namespace
+
+void AnswerLine::setFaults(const Faults& faults)
+{
+    if (faults == faults_)
+        return;
+    faults_ = faults;
+    Q_EMIT faultsChanged();
+}
 
 void AnswerLine::plug()
 {
@@ -66,7 +72,11 @@ QByteArray AnswerLine::distorted(const QByteArray& bytes, Answer::Form form) con
 
 bool AnswerLine::takeUnplug()
 {
-    return std::exchange(faults_.unplug, false);
+    Faults rest = faults_;
+    rest.unplug = false;
+    const bool taken = faults_.unplug;
+    setFaults(rest);
+    return taken;
 }
 
 void AnswerLine::deliver(const Answer& answer)

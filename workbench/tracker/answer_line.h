@@ -20,8 +20,8 @@ public:
     using Sender = std::function<void(vlk::Message id, void* p1, void* p2)>;
 
     void setSender(Sender sender) { sender_ = std::move(sender); }
-    Faults& faults() { return faults_; }
     const Faults& faults() const { return faults_; }
+    void setFaults(const Faults& faults);
 
     bool plugged() const { return cable_ != nullptr; }
     void plug();
@@ -36,6 +36,7 @@ public:
 
 Q_SIGNALS:
     void pulled();
+    void faultsChanged();
 
 private:
     void deliver(const Answer& answer);

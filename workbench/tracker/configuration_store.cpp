@@ -93,8 +93,7 @@ void compare(const ConfigurationValues& before, const ConfigurationValues& after
                   [](const KeyChange& a, const KeyChange& b) { return a.path < b.path; });
 }
 
-} // namespace
-
+// Replaces the file as a whole, or leaves what was there and says so in the log.
 bool saveWhole(const QString& path, const QByteArray& document)
 {
     QSaveFile file(path);
@@ -103,6 +102,8 @@ bool saveWhole(const QString& path, const QByteArray& document)
     qCWarning(lcTrackerStore) << "cannot write" << path << file.errorString();
     return false;
 }
+
+} // namespace
 
 ConfigurationStore::ConfigurationStore(const QString& folder) : folder_(folder)
 {

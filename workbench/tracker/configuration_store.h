@@ -9,9 +9,6 @@
 
 namespace tracker {
 
-// Replaces the file as a whole, or leaves what was there and says so in the log.
-bool saveWhole(const QString& path, const QByteArray& document);
-
 class ConfigurationStore
 {
 public:

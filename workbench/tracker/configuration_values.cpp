@@ -1,5 +1,6 @@
 #include "tracker/configuration_values.h"
 
+#include <QSet>
 #include <QXmlStreamReader>
 
 namespace tracker {
@@ -74,6 +75,25 @@ int ConfigurationValues::number(const QString& path, int absent) const
 {
     const auto found = values_.constFind(path);
     return found == values_.constEnd() ? absent : found->toInt();
+}
+
+int differingKeys(const ConfigurationValues& one, const ConfigurationValues& other)
+{
+    const auto sectionOf = [](const QString& path) { return path.section(QLatin1Char('/'), 0, 0); };
+    const auto sectionsOf = [&](const ConfigurationValues& values) {
+        QSet<QString> sections;
+        for (const QString& path : values.paths())
+            sections.insert(sectionOf(path));
+        return sections;
+    };
+    const QSet<QString> shared = sectionsOf(one).intersect(sectionsOf(other));
+    int count = 0;
+    for (const QString& path : one.paths())
+        count +=
+            shared.contains(sectionOf(path)) && (!other.contains(path) || other.text(path) != one.text(path));
+    for (const QString& path : other.paths())
+        count += shared.contains(sectionOf(path)) && !one.contains(path);
+    return count;
 }
 
 void ConfigurationValues::add(const QString& path, const QString& value)

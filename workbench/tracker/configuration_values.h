@@ -40,4 +40,8 @@ private:
     QHash<QString, QString> values_;
 };
 
+// In how many keys the two differ; a key that only one has counts. Sections that only one has are left out: a
+// file sets the sections that it has and leaves the rest alone.
+int differingKeys(const ConfigurationValues& one, const ConfigurationValues& other);
+
 } // namespace tracker

@@ -12,6 +12,8 @@ struct Faults
     bool garbledAnswers = false; // every fifth byte is wrong
     bool badBoard = false;       // voltages out of their limits and no fix in the records from now on
     bool unplug = false;         // the cable goes while the next answer is under way; clears itself
+
+    bool operator==(const Faults&) const = default;
 };
 
 } // namespace tracker

@@ -6,6 +6,9 @@
 #include "tracker/road.h"
 #include "tracker/tank_pours.h"
 
+#include <array>
+#include <limits>
+
 namespace tracker {
 
 // A record holds fields by a mask; the other two are packets with a key or a tag in them.
@@ -47,6 +50,16 @@ struct Controls
     quint16 outputs = 0;     // bit n is output n + 1
     double mileageShift = 0; // km, what a set mileage differs from the driven
     TankValues fuelHeights;  // in the tanks into which a user has poured
+};
+
+// Later than any record.
+inline constexpr qint64 noTime = std::numeric_limits<qint64>::max();
+
+// What the tracker is connected to.
+struct Links
+{
+    qint64 usbSince = noTime; // Unix seconds
+    std::array<bool, 3> servers{};
 };
 
 } // namespace tracker

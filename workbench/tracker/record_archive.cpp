@@ -24,7 +24,7 @@ RecordArchive::Found RecordArchive::byNumber(quint32 number, qint64 now, const D
     const quint32 oldest = newest < capacity ? 0 : newest - capacity + 1;
     const Moment moment = record(std::clamp(number, oldest, newest));
     const Controls controls = memory_.controlsAt(moment.time);
-    const Vehicle vehicle(moment, controls);
+    const Vehicle vehicle(moment, controls, dataSet.links);
     // Firmware of the earlier versions made no packets.
     const bool packet = moment.kind != RecordKind::Telemetry && dataSet.version == 30;
     return {moment.number, static_cast<quint32>(moment.time),
@@ -44,7 +44,7 @@ RecordArchive::Found RecordArchive::firstAfter(qint64 time, qint64 now, const Da
 QByteArray RecordArchive::current(qint64 now, const DataSet& dataSet)
 {
     const Controls controls = memory_.controlsAt(now);
-    return recordBytes(Vehicle(drive_.at(now), controls), dataSet);
+    return recordBytes(Vehicle(drive_.at(now), controls, dataSet.links), dataSet);
 }
 
 QByteArray RecordArchive::lastPacket(RecordKind kind, qint64 now)

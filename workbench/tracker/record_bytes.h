@@ -19,6 +19,7 @@ struct DataSet
     int version = 30; // 10, 20 or 30
     vlk::FieldMask mask;
     bool ofBadBoard = false; // what a tracker that fails its final check would send
+    Links links;
 
     // The earlier versions know the first fields only.
     int fieldCount() const;

@@ -7,8 +7,6 @@
 #include "tracker/record_requests.h"
 #include "tracker/tachograph.h"
 
-#include <QDir>
-
 #include <algorithm>
 
 namespace tracker {
@@ -68,7 +66,20 @@ struct SimulatedTracker::Parts
         else
             result.mask = vlk::FieldMask::fromText(mask.empty() ? vlk::kDefaultMaskText : mask);
         result.ofBadBoard = line.faults().badBoard;
+        result.links = links();
         return result;
+    }
+
+    // A server without an address cannot be connected.
+    Links links() const
+    {
+        Links links;
+        links.usbSince = line.plugged() ? attachedSince : noTime;
+        for (std::size_t i = 0; i < links.servers.size(); ++i) {
+            const QString address = store.values().text(QStringLiteral("TRANS/SRV%1/addr").arg(i + 1));
+            links.servers[i] = !address.isEmpty() && address != QLatin1String("0.0.0.0");
+        }
+        return links;
     }
 
     RecordRequests::Present present() const { return {now(), dataSet()}; }
@@ -77,8 +88,10 @@ struct SimulatedTracker::Parts
     {
         WriteReport refused;
         refused.file = path;
-        if (!line.plugged() || line.faults().unplug)
+        if (!line.plugged())
             refused.reasonKey = QStringLiteral("wb_refused_detached");
+        else if (line.faults().unplug)
+            refused.reasonKey = QStringLiteral("wb_refused_unplugged");
         else if (line.faults().silence)
             refused.reasonKey = QStringLiteral("wb_refused_silence");
         else
@@ -95,6 +108,7 @@ struct SimulatedTracker::Parts
     Tachograph tachograph;
     Handlers handlers;
     AnswerLine line;
+    qint64 attachedSince = noTime;
     Protocol protocol = Protocol::AsConfigured;
     bool full = false;
 };
@@ -103,7 +117,9 @@ SimulatedTracker::SimulatedTracker(const QString& storeFolder, QObject* parent, 
     : QObject(parent), parts_(std::make_unique<Parts>(storeFolder, std::move(clock)))
 {
     qRegisterMetaType<tracker::WriteReport>();
+    connect(&parts_->line, &AnswerLine::pulled, this, &SimulatedTracker::pulled);
     connect(&parts_->line, &AnswerLine::pulled, this, &SimulatedTracker::detach);
+    connect(&parts_->line, &AnswerLine::faultsChanged, this, &SimulatedTracker::faultsChanged);
 }
 
 SimulatedTracker::~SimulatedTracker() = default;
@@ -168,6 +184,7 @@ void SimulatedTracker::attach()
     if (attached())
         return;
     parts_->line.plug();
+    parts_->attachedSince = parts_->now();
     Q_EMIT attachedChanged(true);
 }
 
@@ -179,19 +196,23 @@ void SimulatedTracker::detach()
     Q_EMIT attachedChanged(false);
 }
 
-QString SimulatedTracker::readConfiguration(const QString& folder)
+Reading SimulatedTracker::readConfiguration()
 {
     AnswerLine& line = parts_->line;
     if (!attached())
-        return {};
+        return {Reading::Outcome::Detached, {}};
     if (line.takeUnplug()) {
         detach();
-        return {};
+        return {Reading::Outcome::Unplugged, {}};
     }
-    if (line.faults().silence || !QDir().mkpath(folder))
-        return {};
-    const QString path = QDir(folder).filePath(QStringLiteral("tracker.xml"));
-    return saveWhole(path, line.distorted(parts_->store.document())) ? path : QString();
+    if (line.faults().silence)
+        return {Reading::Outcome::Silent, {}};
+    return {Reading::Outcome::Came, line.distorted(parts_->store.document())};
+}
+
+const ConfigurationValues& SimulatedTracker::configuration() const
+{
+    return parts_->store.values();
 }
 
 WriteReport SimulatedTracker::writeConfiguration(const QString& path)
@@ -205,9 +226,14 @@ WriteReport SimulatedTracker::writeConfiguration(const QString& path)
     return report;
 }
 
-Faults& SimulatedTracker::faults()
+const Faults& SimulatedTracker::faults() const
 {
     return parts_->line.faults();
+}
+
+void SimulatedTracker::setFaults(const Faults& faults)
+{
+    parts_->line.setFaults(faults);
 }
 
 Protocol SimulatedTracker::protocol() const

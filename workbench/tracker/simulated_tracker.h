@@ -17,6 +17,22 @@
 
 namespace tracker {
 
+class ConfigurationValues;
+
+// What came when the configuration was asked for.
+struct Reading
+{
+    enum class Outcome {
+        Came,     // as a file would lie in `document`; faults that spoil answers spoil it
+        Detached, // nobody there to be asked
+        Unplugged,
+        Silent
+    };
+
+    Outcome outcome = Outcome::Came;
+    QByteArray document;
+};
+
 // The version of its records: what the configuration asks for, or one whatever it asks.
 enum class Protocol { AsConfigured = 0, Protocol1 = 10, Protocol2 = 20, Protocol3 = 30 };
 
@@ -51,15 +67,16 @@ public:
     void attach();
     void detach();
 
-    // Puts the tracker's configuration into a file of this folder and gives its path; empty when detached, on
-    // silence, and where nothing can be written. Faults that spoil answers spoil the file.
-    QString readConfiguration(const QString& folder);
+    Reading readConfiguration();
+    // The same from behind, whatever the cable does to it.
+    const ConfigurationValues& configuration() const;
     // Takes a written file: checks it, keeps what was there as a backup, and applies it. Silence, a missing
     // and a pulled cable refuse it.
     WriteReport writeConfiguration(const QString& path);
 
     // What the window switches, at will between requests.
-    Faults& faults();
+    const Faults& faults() const;
+    void setFaults(const Faults& faults);
     Protocol protocol() const;
     void setProtocol(Protocol protocol);
     // Every field in every record, whatever mask the configuration has.
@@ -74,6 +91,10 @@ public:
 
 Q_SIGNALS:
     void attachedChanged(bool attached);
+    // The fault pulled the cable while an answer was under way; attachedChanged follows.
+    void pulled();
+    // By the window, or because a fault has cleared itself.
+    void faultsChanged();
     // After every writeConfiguration, refused ones too.
     void configurationWritten(const tracker::WriteReport& report);
 

@@ -42,7 +42,8 @@ double Vehicle::state() const
 
 double Vehicle::module1() const
 {
-    return bit(0, true) + bit(2, true) + bit(5, true) + bit(6, true) + bit(7, running());
+    return bit(0, true) + bit(1, m.time >= links.usbSince) + bit(2, true) + bit(5, true) + bit(6, true) +
+           bit(7, running());
 }
 
 double Vehicle::module2() const
@@ -54,7 +55,11 @@ double Vehicle::connection() const
 {
     constexpr int gprs = 2;
     constexpr int lte = 4;
-    return (drift(1, 0, 1, halfHour) < 0.25 ? gprs : lte) + bit(3, true) + bit(6, true) + bit(7, true);
+    constexpr int firstServer = 3;
+    double servers = 0;
+    for (std::size_t i = 0; i < links.servers.size(); ++i)
+        servers += bit(firstServer + static_cast<int>(i), links.servers[i]);
+    return (drift(1, 0, 1, halfHour) < 0.25 ? gprs : lte) + servers + bit(6, true) + bit(7, true);
 }
 
 double Vehicle::gsmLevel() const

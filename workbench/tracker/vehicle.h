@@ -10,10 +10,14 @@ namespace tracker {
 class Vehicle
 {
 public:
-    Vehicle(const Moment& moment, const Controls& controls) : m(moment), c(controls) {}
+    Vehicle(const Moment& moment, const Controls& controls, const Links& links = {})
+        : m(moment), c(controls), links(links)
+    {
+    }
 
     const Moment m;
     const Controls c;
+    const Links links;
 
     bool driving() const { return m.activity == Activity::Driving; }
     bool running() const { return m.ignition(); }

@@ -25,6 +25,7 @@ constexpr CommandRow rows[] = {
     {Command::BrowseFile, "action_Browse", "browse", "wb_browse", "wb_browse_short", "Ctrl+B"},
     {Command::TableFile, "action_Table", "table", "wb_table", "wb_table_short", "Ctrl+L"},
     {Command::Cable, "action_Cable", "attach", "wb_cable", "wb_cable_short", "Ctrl+K"},
+    {Command::Faults, "action_Faults", "faults", "wb_faults_window", "wb_faults_window", "F9"},
     {Command::DataFolders, "action_Folders", "folders", "wb_folders_menu", "wb_folders", ""},
     {Command::BalanceCode, "action_Balance", "balance", "wb_balance", "wb_balance", ""},
     {Command::Help, "action_Help", "help", "wb_help_menu", "wb_help", "F1"},
@@ -54,8 +55,8 @@ void Commands::retranslate()
     for (const CommandRow& row : rows) {
         QAction* action = (*this)[row.command];
         action->setText(vlk::text(row.key));
-        action->setIconText(vlk::text(row.shortKey));
-        QString tip = vlk::text(row.key).remove(QStringLiteral("…"));
+        action->setIconText(vlk::plainText(row.shortKey));
+        QString tip = vlk::plainText(row.key).remove(QStringLiteral("…"));
         if (!action->shortcut().isEmpty())
             tip += QStringLiteral(" (%1)").arg(action->shortcut().toString(QKeySequence::NativeText));
         action->setToolTip(tip);

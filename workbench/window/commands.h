@@ -15,6 +15,7 @@ enum class Command {
     BrowseFile,
     TableFile,
     Cable,
+    Faults,
     DataFolders,
     BalanceCode,
     Help,

@@ -10,7 +10,7 @@ DataFolder::DataFolder(const QString& wanted)
         prepare(wanted);
         return;
     }
-    if (prepare(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)))
+    if (prepare(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)) || inUse_)
         return;
     temporary_ = std::make_unique<QTemporaryDir>();
     const QString reason = error_;
@@ -29,6 +29,13 @@ bool DataFolder::prepare(const QString& path)
     QTemporaryFile probe(folder.filePath(QStringLiteral("probe.XXXXXX")));
     if (!probe.open() || probe.write("x", 1) != 1 || !probe.flush()) {
         error_ += QStringLiteral(": ") + probe.errorString();
+        return false;
+    }
+    lock_ = std::make_unique<QLockFile>(folder.filePath(QStringLiteral("workbench.lock")));
+    // Held as long as its process runs, however long that is.
+    lock_->setStaleLockTime(0);
+    if (!lock_->tryLock()) {
+        inUse_ = true;
         return false;
     }
     if (!QDir::setCurrent(folder.path()))

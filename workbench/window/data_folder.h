@@ -4,10 +4,14 @@
 // folders, and the files that the plug-in writes into the process's current folder. Making it available also
 // makes it the current folder.
 //
+// One workbench has the folder at a time: where another one is at work in it, nothing is touched, isUsable()
+// is false and isInUse() is true.
+//
 // Without a wanted path it is the user's folder of application data; where that cannot be written, a
 // temporary folder serves for this run and error() says why. A wanted path that cannot be written is not
 // replaced: isUsable() is false.
 
+#include <QLockFile>
 #include <QString>
 #include <QTemporaryDir>
 
@@ -19,6 +23,7 @@ public:
     explicit DataFolder(const QString& wanted = {});
 
     bool isUsable() const { return !path_.isEmpty(); }
+    bool isInUse() const { return inUse_; }
     bool isTemporary() const { return temporary_ != nullptr; }
     QString error() const { return error_; }
 
@@ -34,4 +39,6 @@ private:
     QString path_;
     QString error_;
     std::unique_ptr<QTemporaryDir> temporary_;
+    std::unique_ptr<QLockFile> lock_;
+    bool inUse_ = false;
 };

@@ -28,7 +28,7 @@ QPixmap dot(const QColor& colour, int side, qreal ratio)
 
 DevicePanel::DevicePanel(HostSession& session, QWidget* parent)
     : QGroupBox(parent), session_(session), symbol_(new QLabel(this)), state_(new QLabel(this)),
-      mode_(new QComboBox(this))
+      trouble_(new QLabel(this)), mode_(new QComboBox(this))
 {
     texts_.bind(static_cast<QGroupBox*>(this), "wb_device");
     state_->setObjectName(QStringLiteral("label_DeviceState"));
@@ -39,11 +39,17 @@ DevicePanel::DevicePanel(HostSession& session, QWidget* parent)
     auto* form = new QFormLayout(this);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->addRow(stateLine);
+    trouble_->setObjectName(QStringLiteral("label_LinkTrouble"));
+    trouble_->setWordWrap(true);
+    trouble_->hide();
+    form->addRow(trouble_);
     model_ = addRow(form, "label_DeviceModel", "wb_device_model");
     text1_ = addRow(form, "label_DeviceText1", "wb_device_text1");
     text2_ = addRow(form, "label_DeviceText2", "wb_device_text2");
     capabilities_ = addRow(form, "label_DeviceCapabilities", "wb_device_capabilities");
     plugin_ = addRow(form, "label_Plugin", "wb_device_plugin");
+    edited_ = addRow(form, "label_Edited", "wb_edited");
+    edited_->setWordWrap(true);
 
     mode_->setObjectName(QStringLiteral("comboBox_Mode"));
     mode_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -73,12 +79,26 @@ void DevicePanel::setMode(int mode)
     mode_->setCurrentIndex(mode);
 }
 
+void DevicePanel::setEdited(const QString& text)
+{
+    edited_->setText(text);
+}
+
+void DevicePanel::setTrouble(const QString& text)
+{
+    trouble_->setText(text);
+    trouble_->setVisible(!text.isEmpty());
+    refresh();
+}
+
 void DevicePanel::refresh()
 {
     const tracker::SimulatedTracker& tracker = session_.tracker();
     const bool attached = tracker.attached();
-    symbol_->setPixmap(
-        dot(attached ? QColor(0x2e, 0x9e, 0x4f) : QColor(0xb0, 0x30, 0x30), 12, devicePixelRatioF()));
+    const QColor colour = !attached                    ? QColor(0xb0, 0x30, 0x30)
+                          : trouble_->text().isEmpty() ? QColor(0x2e, 0x9e, 0x4f)
+                                                       : QColor(0xd0, 0x8a, 0x00);
+    symbol_->setPixmap(dot(colour, 12, devicePixelRatioF()));
     state_->setText(vlk::text(attached ? "wb_device_attached" : "wb_device_detached"));
     const QString none = QStringLiteral("–");
     model_->setText(attached ? tracker.model() : none);

@@ -1,6 +1,7 @@
 #pragma once
 
-// The device at a glance: attached or not, who it is, what it can do, and the working mode of the plug-in.
+// The device at a glance: attached or not, how it answers, who it is, what it can do, which configuration is
+// open, and the working mode of the plug-in.
 
 #include "window/key_texts.h"
 
@@ -19,6 +20,10 @@ public:
     explicit DevicePanel(HostSession& session, QWidget* parent = nullptr);
 
     void setMode(int mode);
+    // What the configuration window holds.
+    void setEdited(const QString& text);
+    // What is wrong with the tracker's answers; empty while all is well.
+    void setTrouble(const QString& text);
     void refresh();
     void retranslate();
 
@@ -37,5 +42,7 @@ private:
     QLabel* text2_;
     QLabel* capabilities_;
     QLabel* plugin_;
+    QLabel* edited_;
+    QLabel* trouble_;
     QComboBox* mode_;
 };

@@ -2,6 +2,7 @@
 
 #include "window/languages.h"
 #include "window/line_icon.h"
+#include "window/scrolling.h"
 
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -25,7 +26,7 @@ FoldersDialog::FoldersDialog(const QString& telemetry, const QString& configurat
     auto* column = new QVBoxLayout(this);
     column->addLayout(form);
     column->addWidget(buttons);
-    resize(640, sizeHint().height());
+    vlk::resizeWithin(this, QSize(640, sizeHint().height()));
 }
 
 QLineEdit* FoldersDialog::addFolder(QFormLayout* form, const char* name, const char* key,

@@ -1,17 +1,53 @@
 #include "window/help_viewer.h"
 
 #include "window/line_icon.h"
+#include "window/scrolling.h"
 
+#include <QEvent>
 #include <QToolBar>
 #include <QVBoxLayout>
+
+#include <cstdlib>
+
+namespace {
+
+// One that can be read on the palette's base: many dark themes leave the link colour of the light one in it.
+QColor linkColour(const QPalette& palette)
+{
+    constexpr int readable = 96;
+    QColor link = palette.color(QPalette::Link);
+    const int ground = qGray(palette.color(QPalette::Base).rgb());
+    if (std::abs(qGray(link.rgb()) - ground) >= readable)
+        return link;
+    return ground < 128 ? QColor(0x8a, 0xb8, 0xff) : QColor(0x00, 0x4a, 0xad);
+}
+
+} // namespace
 
 HelpBrowser::HelpBrowser(HelpPages pages, QString language, QWidget* parent)
     : QTextBrowser(parent), pages_(std::move(pages)), language_(std::move(language))
 {
+    document()->setDocumentMargin(12);
+    applyStyle();
+}
+
+void HelpBrowser::applyStyle()
+{
     document()->setDefaultStyleSheet(QStringLiteral("h1 { font-size: x-large; margin-bottom: 8px; }"
                                                     "h2 { font-size: large; margin-top: 14px; }"
-                                                    "td, th { padding: 3px 8px 3px 0px; }"));
-    document()->setDocumentMargin(12);
+                                                    "td, th { padding: 3px 8px 3px 0px; }"
+                                                    "a { color: %1; }")
+                                         .arg(linkColour(palette()).name()));
+}
+
+void HelpBrowser::changeEvent(QEvent* event)
+{
+    QTextBrowser::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange)
+        return;
+    applyStyle();
+    if (!source().isEmpty())
+        reload();
 }
 
 QVariant HelpBrowser::loadResource(int type, const QUrl& name)
@@ -56,7 +92,7 @@ HelpViewer::HelpViewer(const HelpPages& pages, const QString& language, QWidget*
     column->addWidget(bar);
     column->addWidget(browser_, 1);
     texts_.bind(this, "wb_help");
-    resize(720, 560);
+    vlk::resizeWithin(this, QSize(720, 560));
 }
 
 void HelpViewer::showPage(const QString& page)

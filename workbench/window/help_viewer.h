@@ -20,7 +20,12 @@ public:
 
     void setLanguage(const QString& language);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void applyStyle();
+
     HelpPages pages_;
     QString language_;
 };

@@ -1,9 +1,43 @@
 #include "window/host_session.h"
 
+#include "base/whole_file.h"
+#include "window/languages.h"
+#include "window/trouble_text.h"
+
 #include <QFile>
 #include <QLoggingCategory>
 
 Q_LOGGING_CATEGORY(lcSession, "vlk.workbench.session")
+
+namespace {
+
+using tracker::Reading;
+using vlk::sentences;
+using vlk::text;
+
+// Nothing came, and why; empty when something did.
+QString whyNothingCame(Reading::Outcome outcome)
+{
+    switch (outcome) {
+    case Reading::Outcome::Came:
+        return {};
+    case Reading::Outcome::Detached:
+        return sentences({text("wb_why_detached"), text("wb_do_attach")});
+    case Reading::Outcome::Unplugged:
+        return sentences({text("wb_why_unplugged"), text("wb_do_attach")});
+    case Reading::Outcome::Silent:
+        return sentences({text("wb_why_silent"), text("wb_do_cable")});
+    }
+    return {};
+}
+
+// One byte more than there may be, by which a file that is too large is known.
+QByteArray contentOf(QFile& file)
+{
+    return file.open(QIODevice::ReadOnly) ? file.read(vlk::largestConfiguration + 1) : QByteArray();
+}
+
+} // namespace
 
 HostSession::HostSession(const QString& trackerFolder, QObject* parent)
     : QObject(parent), tracker_(trackerFolder)
@@ -26,30 +60,77 @@ bool HostSession::start(const QString& pluginPath)
 
 void HostSession::tellAttached(bool attached)
 {
-    if (attached)
+    if (attached) {
         link_.attachTracker(tracker_.model(), tracker_.text1(), tracker_.text2(), tracker_.capabilityMask());
-    else
-        link_.send(vlk::Message::TrackerDetached);
+        return;
+    }
+    edited_.forgetTracker();
+    link_.send(vlk::Message::TrackerDetached);
+    Q_EMIT editedChanged();
 }
 
-bool HostSession::readConfiguration(bool full)
+HostSession::Fetched HostSession::fetchConfiguration()
 {
-    const QString path = tracker_.readConfiguration(readFiles_.path());
-    if (path.isEmpty())
-        return false;
-    link_.openConfiguration(path, full, false);
-    QFile::remove(path);
-    return true;
+    const Reading reading = tracker_.readConfiguration();
+    if (reading.outcome != Reading::Outcome::Came)
+        return {whyNothingCame(reading.outcome), {}, {}};
+    if (const auto problem = vlk::checkConfiguration(reading.document, tracker_.model()))
+        return {sentences({text("wb_why_answer"), vlk::reasonOf(*problem), text("wb_do_cable")}), {}, {}};
+    QSaveFile file(readFiles_.filePath(QStringLiteral("tracker.xml")));
+    QString reason;
+    if (!vlk::saveWhole(file, reading.document, &reason))
+        return {sentences({text("wb_why_disk").arg(reason), text("wb_do_disk")}), {}, {}};
+    return {{}, reading.document, file.fileName()};
 }
 
-bool HostSession::liveTelemetry()
+QString HostSession::readConfiguration(bool full)
 {
-    const QString path = tracker_.readConfiguration(readFiles_.path());
-    if (path.isEmpty())
-        return false;
-    link_.openTelemetry(path);
-    QFile::remove(path);
-    return true;
+    const Fetched fetched = fetchConfiguration();
+    if (!fetched.failure.isEmpty())
+        return sentences({text("wb_read_failed"), fetched.failure});
+    edited_.readFromTracker(fetched.document);
+    link_.openConfiguration(fetched.path, full, false);
+    QFile::remove(fetched.path);
+    Q_EMIT editedChanged();
+    return {};
+}
+
+QString HostSession::liveTelemetry()
+{
+    const Fetched fetched = fetchConfiguration();
+    if (!fetched.failure.isEmpty())
+        return sentences({text("wb_live_failed"), fetched.failure});
+    link_.openTelemetry(fetched.path);
+    QFile::remove(fetched.path);
+    return {};
+}
+
+QString HostSession::openConfiguration(const QString& path, bool full)
+{
+    QFile file(path);
+    const QByteArray document = contentOf(file);
+    if (const auto problem = vlk::checkConfiguration(document, tracker_.model())) {
+        const QString reason =
+            file.isOpen() ? vlk::reasonOf(*problem) : text("wb_problem_unreadable").arg(file.errorString());
+        return sentences({text("wb_open_failed").arg(path), reason, text("wb_do_file")});
+    }
+    edited_.openFile(path, document);
+    link_.openConfiguration(path, full, true);
+    Q_EMIT editedChanged();
+    return {};
+}
+
+void HostSession::newConfiguration(bool full)
+{
+    edited_.beginNew();
+    link_.openConfiguration({}, full, false);
+    Q_EMIT editedChanged();
+}
+
+void HostSession::configurationClosed()
+{
+    edited_.close();
+    Q_EMIT editedChanged();
 }
 
 void HostSession::receive(vlk::Message id, void* p1, void* p2)
@@ -61,17 +142,39 @@ void HostSession::receive(vlk::Message id, void* p1, void* p2)
         // The plug-in is in the middle of its own work here; the tracker takes the file when that is done.
         if (p1)
             QMetaObject::invokeMethod(
-                this, [this, path = *static_cast<const QString*>(p1)] { handOver(path); },
+                this,
+                [this, path = *static_cast<const QString*>(p1), ask = edited_.replacesUnseen()] {
+                    handOver(path, ask);
+                },
                 Qt::QueuedConnection);
     } else if (!tracker_.handle(id, p1, p2)) {
         qCInfo(lcSession) << "message without a receiver" << quint32(id);
     }
 }
 
-void HostSession::handOver(const QString& path)
+void HostSession::handOver(const QString& path, bool ask)
 {
+    QFile file(path);
+    if (ask && mayReplace_ && !mayReplace_()) {
+        file.remove();
+        Q_EMIT writeCancelled();
+        return;
+    }
+    const QByteArray document = contentOf(file);
     const tracker::WriteReport report = tracker_.writeConfiguration(path);
-    if (report.accepted && !QFile::remove(path))
-        qCWarning(lcSession) << "cannot remove" << path;
+    if (report.accepted) {
+        edited_.written(document);
+        if (!file.remove())
+            qCWarning(lcSession) << "cannot remove" << path;
+    }
+    Q_EMIT configurationWritten(report);
+    Q_EMIT editedChanged();
+}
+
+void HostSession::writeNotSaved(const QString& path, const QString& reason)
+{
+    tracker::WriteReport report;
+    report.reasonKey = QStringLiteral("wb_refused_unsaved");
+    report.detail = QStringLiteral("%1: %2").arg(path, reason);
     Q_EMIT configurationWritten(report);
 }

@@ -41,4 +41,9 @@ QString text(const char* key)
     return QCoreApplication::translate("", key);
 }
 
+QString plainText(const char* key)
+{
+    return text(key).remove(QLatin1Char('&'));
+}
+
 } // namespace vlk

@@ -37,5 +37,7 @@ namespace vlk {
 
 // The text of a key in the language in use.
 QString text(const char* key);
+// The same without the sign of a mnemonic, for where there is none.
+QString plainText(const char* key);
 
 } // namespace vlk

@@ -18,7 +18,8 @@ QWidget* form()
 
 void open(Tour& tour)
 {
-    tour.window().session().liveTelemetry();
+    const QString failure = tour.window().session().liveTelemetry();
+    Tour::expect(failure.isEmpty(), failure);
     tour.waitFor([] { return Tour::findVisible(kNumber) && page() != QLatin1String("page_Empty"); },
                  QStringLiteral("a record in the telemetry window"));
 }

@@ -31,11 +31,16 @@ QString MessageLogModel::cell(const LoggedMessage& message, int column) const
         const vlk::MessageInfo* info = vlk::findMessage(message.direction, message.id);
         return info ? QString::fromLatin1(info->name) : QStringLiteral("?");
     }
-    default:
-        if (message.bytes.isEmpty())
-            return message.words;
-        return message.words + QLatin1String(message.words.isEmpty() ? "" : " ") +
-               vlk::hexText(message.bytes);
+    default: {
+        QStringList parts;
+        if (!message.note.isEmpty())
+            parts.append(QStringLiteral("⚠ %1;").arg(message.note));
+        if (!message.words.isEmpty())
+            parts.append(message.words);
+        if (!message.bytes.isEmpty())
+            parts.append(vlk::hexText(message.bytes));
+        return parts.join(QLatin1Char(' '));
+    }
     }
 }
 
@@ -77,8 +82,17 @@ void MessageLogModel::append(vlk::Direction direction, quint32 id, const void* p
     }
     const int row = int(messages_.size());
     beginInsertRows({}, row, row);
-    messages_.push_back({QDateTime::currentDateTime(), direction, id, text.words, text.bytes});
+    messages_.push_back({QDateTime::currentDateTime(), direction, id, text.words, text.bytes, {}});
     endInsertRows();
+}
+
+void MessageLogModel::markNewest(const QString& note)
+{
+    if (messages_.empty())
+        return;
+    messages_.back().note = note;
+    const int row = int(messages_.size()) - 1;
+    Q_EMIT dataChanged(index(row, 0), index(row, ColumnCount - 1));
 }
 
 void MessageLogModel::clear()

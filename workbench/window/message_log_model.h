@@ -17,6 +17,7 @@ struct LoggedMessage
     quint32 id = 0;
     QString words;
     QByteArray bytes;
+    QString note; // what is wrong with it, empty for most
 };
 
 class MessageLogModel : public QAbstractTableModel
@@ -35,6 +36,9 @@ public:
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+    // Says what is wrong with the message that came last.
+    void markNewest(const QString& note);
 
     // One line, the columns divided by tabs.
     QString line(int row) const;

@@ -14,10 +14,23 @@ namespace {
 constexpr int kPathRole = Qt::UserRole;
 constexpr int kWindowRole = Qt::UserRole + 1;
 
+// Takes what room there is, and asks for three lines.
+class ShortList : public QListWidget
+{
+public:
+    using QListWidget::QListWidget;
+
+    QSize minimumSizeHint() const override
+    {
+        return {QListWidget::minimumSizeHint().width(), fontMetrics().height() * 3};
+    }
+    QSize sizeHint() const override { return minimumSizeHint(); }
+};
+
 } // namespace
 
 RecentFiles::RecentFiles(Settings& settings, QWidget* parent)
-    : QGroupBox(parent), settings_(settings), list_(new QListWidget(this)), menu_(new QMenu(this))
+    : QGroupBox(parent), settings_(settings), list_(new ShortList(this)), menu_(new QMenu(this))
 {
     texts_.bind(static_cast<QGroupBox*>(this), "wb_recent");
     texts_.bind(menu_, "wb_recent");
@@ -26,7 +39,7 @@ RecentFiles::RecentFiles(Settings& settings, QWidget* parent)
     list_->setTextElideMode(Qt::ElideMiddle);
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list_->setContextMenuPolicy(Qt::CustomContextMenu);
-    texts_.bind([this] { list_->setAccessibleName(vlk::text("wb_recent")); });
+    texts_.bind([this] { list_->setAccessibleName(vlk::plainText("wb_recent")); });
     connect(list_, &QListWidget::itemActivated, this, [this](const QListWidgetItem* item) {
         Q_EMIT chosen(item->data(kPathRole).toString(), item->data(kWindowRole).value<TelemetryWindow>());
     });

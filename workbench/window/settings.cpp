@@ -45,25 +45,37 @@ Settings::Settings(const QString& file) : store_(std::make_unique<QSettings>(fil
     store_ = std::make_unique<QSettings>(file, QSettings::IniFormat);
 }
 
+void Settings::setForThisRun(std::optional<QString> language, std::optional<int> mode)
+{
+    runLanguage_ = std::move(language);
+    runMode_ = mode;
+}
+
 QString Settings::language() const
 {
+    if (runLanguage_)
+        return *runLanguage_;
     const QString code = store_->value(languageKey).toString();
     return Languages::isKnown(code) ? code : Languages::ofSystem();
 }
 
 void Settings::setLanguage(const QString& code)
 {
+    runLanguage_.reset();
     store_->setValue(languageKey, code);
 }
 
 int Settings::mode() const
 {
+    if (runMode_)
+        return *runMode_;
     const int mode = store_->value(modeKey, 0).toInt();
     return mode >= 0 && mode <= 2 ? mode : 0;
 }
 
 void Settings::setMode(int mode)
 {
+    runMode_.reset();
     store_->setValue(modeKey, mode);
 }
 

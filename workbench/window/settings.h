@@ -9,6 +9,7 @@
 #include <QVector>
 
 #include <memory>
+#include <optional>
 
 // What a file of telemetry is shown in.
 enum class TelemetryWindow { Browser = 0, Table = 1 };
@@ -38,6 +39,9 @@ public:
     int mode() const;
     void setMode(int mode);
 
+    // What the command line asks for holds until the user chooses otherwise, and is not remembered.
+    void setForThisRun(std::optional<QString> language, std::optional<int> mode);
+
     // Whether a configuration opens in the full window or in the quick one.
     bool fullWindow() const;
     void setFullWindow(bool full);
@@ -60,5 +64,7 @@ private:
     void setRecentFiles(const QVector<RecentFile>& files);
 
     std::unique_ptr<QSettings> store_;
+    std::optional<QString> runLanguage_;
+    std::optional<int> runMode_;
     bool damaged_ = false;
 };

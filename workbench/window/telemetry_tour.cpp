@@ -184,7 +184,7 @@ void production(Tour& tour)
     for (const Case& c : cases) {
         tour.window().setLanguage(QLatin1String(c.language));
         tour.window().setMode(c.mode);
-        trackerOf(tour).faults().badBoard = c.badBoard;
+        trackerOf(tour).setFaults({.badBoard = c.badBoard});
         live::open(tour);
         Tour::expect(live::page() == QLatin1String("page_Production"),
                      QStringLiteral("shown is %1").arg(live::page()));
@@ -203,7 +203,7 @@ void production(Tour& tour)
             live::window());
         live::close(tour);
     }
-    trackerOf(tour).faults().badBoard = false;
+    trackerOf(tour).setFaults({});
     tour.window().setMode(0);
 }
 

@@ -15,6 +15,8 @@
 Tour::Tour(WorkbenchWindow& window, const QString& folder) : window_(window), folder_(folder)
 {
     folder_.mkpath(QStringLiteral("."));
+    // Whatever screen there is, pictures are taken at one size.
+    window_.resize(1024, 600);
 }
 
 void Tour::add(const std::vector<Step>& steps)

@@ -2,23 +2,18 @@
 
 #include "tracker/configuration_values.h"
 #include "tracker/simulated_tracker.h"
+#include "window/faults_panel.h"
 #include "window/tank_panel.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFile>
-#include <QFormLayout>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QSpinBox>
 #include <QTableWidget>
-#include <QTemporaryDir>
 #include <QVBoxLayout>
 
-using tracker::Faults;
 using tracker::Protocol;
 
 namespace {
@@ -33,13 +28,11 @@ constexpr ProtocolRow protocols[] = {{Protocol::Protocol3, "wb_protocol_3"},
                                      {Protocol::Protocol2, "wb_protocol_2"},
                                      {Protocol::Protocol1, "wb_protocol_1"}};
 
-constexpr int longestDelayMs = 60'000;
-
 } // namespace
 
 TrackerPanel::TrackerPanel(tracker::SimulatedTracker& tracker, QWidget* parent)
-    : QWidget(parent), tracker_(tracker), cable_(new QPushButton(this)), protocol_(new QComboBox(this)),
-      delay_(new QSpinBox(this)), filter_(new QLineEdit(this)), keys_(new QTableWidget(0, 2, this))
+    : QWidget(parent), tracker_(tracker), faults_(new FaultsPanel(tracker, this)),
+      protocol_(new QComboBox(this)), filter_(new QLineEdit(this)), keys_(new QTableWidget(0, 2, this))
 {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(6, 6, 6, 6);
@@ -48,9 +41,8 @@ TrackerPanel::TrackerPanel(tracker::SimulatedTracker& tracker, QWidget* parent)
     right->addWidget(new TankPanel(tracker_, this));
     right->addWidget(buildKeys(), 1);
     row->addLayout(right, 1);
-    connect(&tracker_, &tracker::SimulatedTracker::attachedChanged, this, &TrackerPanel::refresh);
-    connect(&tracker_, &tracker::SimulatedTracker::configurationWritten, this, &TrackerPanel::refresh);
-    refresh();
+    connect(&tracker_, &tracker::SimulatedTracker::configurationWritten, this, &TrackerPanel::showKeys);
+    showKeys();
 }
 
 QWidget* TrackerPanel::buildControls()
@@ -58,11 +50,6 @@ QWidget* TrackerPanel::buildControls()
     auto* controls = new QWidget(this);
     auto* column = new QVBoxLayout(controls);
     column->setContentsMargins(0, 0, 0, 0);
-    cable_->setObjectName(QStringLiteral("pushButton_Cable"));
-    connect(cable_, &QPushButton::clicked, this,
-            [this] { tracker_.attached() ? tracker_.detach() : tracker_.attach(); });
-    column->addWidget(cable_);
-
     protocol_->setObjectName(QStringLiteral("comboBox_Protocol"));
     for (const ProtocolRow& row : protocols)
         protocol_->addItem(vlk::text(row.key));
@@ -83,36 +70,9 @@ QWidget* TrackerPanel::buildControls()
     connect(everything, &QCheckBox::toggled, this, [this](bool on) { tracker_.setFullDataSet(on); });
     column->addWidget(everything);
 
-    auto* faults = texts_.bind(new QGroupBox(this), "wb_faults");
-    auto* list = new QVBoxLayout(faults);
-    addFault(list, "checkBox_Silence", "wb_fault_silence", &Faults::silence);
-    addFault(list, "checkBox_Short", "wb_fault_short", &Faults::shortAnswers);
-    addFault(list, "checkBox_Garbled", "wb_fault_garbled", &Faults::garbledAnswers);
-    addFault(list, "checkBox_BadBoard", "wb_fault_board", &Faults::badBoard);
-    addFault(list, "checkBox_Unplug", "wb_fault_unplug", &Faults::unplug);
-    delay_->setObjectName(QStringLiteral("spinBox_Delay"));
-    delay_->setRange(0, longestDelayMs);
-    delay_->setSingleStep(100);
-    texts_.bind([this] { delay_->setSuffix(QLatin1Char(' ') + vlk::text("abbr_040")); });
-    connect(delay_, QOverload<int>::of(&QSpinBox::valueChanged), this,
-            [this](int ms) { tracker_.faults().delayMs = ms; });
-    auto* delayLabel = texts_.bind(new QLabel(this), "wb_fault_delay");
-    delayLabel->setBuddy(delay_);
-    auto* delayRow = new QFormLayout;
-    delayRow->addRow(delayLabel, delay_);
-    list->addLayout(delayRow);
-    column->addWidget(faults);
+    column->addWidget(faults_);
     column->addStretch(1);
     return controls;
-}
-
-void TrackerPanel::addFault(QVBoxLayout* column, const char* name, const char* key, bool Faults::*fault)
-{
-    auto* box = texts_.bind(new QCheckBox(this), key);
-    box->setObjectName(QLatin1String(name));
-    connect(box, &QCheckBox::toggled, this, [this, fault](bool on) { tracker_.faults().*fault = on; });
-    faultStates_.bind([this, box, fault] { box->setChecked(tracker_.faults().*fault); });
-    column->addWidget(box);
 }
 
 QWidget* TrackerPanel::buildKeys()
@@ -123,7 +83,7 @@ QWidget* TrackerPanel::buildKeys()
     texts_.bind([this] {
         filter_->setPlaceholderText(vlk::text("wb_tracker_filter"));
         filter_->setAccessibleName(vlk::text("wb_tracker_filter"));
-        keys_->setAccessibleName(vlk::text("wb_tracker_keys"));
+        keys_->setAccessibleName(vlk::plainText("wb_tracker_keys"));
         keys_->setHorizontalHeaderLabels({vlk::text("wb_report_key"), vlk::text("wb_tracker_value")});
     });
     connect(filter_, &QLineEdit::textChanged, this, &TrackerPanel::filterKeys);
@@ -148,30 +108,9 @@ QWidget* TrackerPanel::buildKeys()
     return group;
 }
 
-void TrackerPanel::showEvent(QShowEvent* event)
-{
-    QWidget::showEvent(event);
-    refresh();
-}
-
-void TrackerPanel::refresh()
-{
-    cable_->setText(vlk::text(tracker_.attached() ? "wb_detach" : "wb_attach"));
-    faultStates_.apply();
-    if (isVisible())
-        showKeys();
-}
-
 void TrackerPanel::showKeys()
 {
-    // A detached tracker shows nothing; what was read last stays on view. A look must not use a fault up.
-    if (tracker_.faults().unplug)
-        return;
-    const QTemporaryDir folder;
-    QFile file(tracker_.readConfiguration(folder.path()));
-    if (!file.open(QIODevice::ReadOnly))
-        return;
-    const tracker::ConfigurationValues values(file.readAll());
+    const tracker::ConfigurationValues& values = tracker_.configuration();
     keys_->setRowCount(int(values.paths().size()));
     for (int row = 0; row < keys_->rowCount(); ++row) {
         const QString& path = values.paths().at(row);
@@ -194,5 +133,5 @@ void TrackerPanel::filterKeys()
 void TrackerPanel::retranslate()
 {
     texts_.apply();
-    refresh();
+    faults_->retranslate();
 }

@@ -1,22 +1,19 @@
 #pragma once
 
 // The simulated tracker from behind: its cable, its record format, the faults that one can switch on, and the
-// configuration that it holds, key by key.
+// configuration that it holds, key by key, whatever its cable does to it.
 
 #include "window/key_texts.h"
 
 #include <QWidget>
 
+class FaultsPanel;
 class QComboBox;
 class QLineEdit;
-class QPushButton;
-class QSpinBox;
 class QTableWidget;
-class QVBoxLayout;
 
 namespace tracker {
 class SimulatedTracker;
-struct Faults;
 } // namespace tracker
 
 class TrackerPanel : public QWidget
@@ -28,24 +25,16 @@ public:
 
     void retranslate();
 
-protected:
-    void showEvent(QShowEvent* event) override;
-
 private:
     QWidget* buildControls();
     QWidget* buildKeys();
-    void addFault(QVBoxLayout* column, const char* name, const char* key, bool tracker::Faults::*fault);
-    void refresh();
     void showKeys();
     void filterKeys();
 
     tracker::SimulatedTracker& tracker_;
     KeyTexts texts_;
-    QPushButton* cable_;
+    FaultsPanel* faults_;
     QComboBox* protocol_;
-    QSpinBox* delay_;
     QLineEdit* filter_;
     QTableWidget* keys_;
-    // Set the boxes as the faults stand.
-    KeyTexts faultStates_;
 };

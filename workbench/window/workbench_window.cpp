@@ -1,73 +1,59 @@
 #include "window/workbench_window.h"
 
+#include "window/command_bars.h"
 #include "window/data_folder.h"
 #include "window/device_panel.h"
+#include "window/faults_at_hand.h"
+#include "window/file_opener.h"
 #include "window/folders_dialog.h"
 #include "window/installed_files.h"
+#include "window/link_notices.h"
+#include "window/message_box.h"
 #include "window/message_log_view.h"
 #include "window/recent_files.h"
-#include "window/stored_file.h"
+#include "window/save_notices.h"
+#include "window/scrolling.h"
+#include "window/status_line.h"
 #include "window/tracker_panel.h"
 #include "window/write_report_text.h"
 #include "window/write_report_view.h"
 
-#include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QComboBox>
 #include <QDir>
-#include <QFileDialog>
-#include <QFileInfo>
-#include <QLabel>
-#include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPushButton>
+#include <QScrollArea>
 #include <QSplitter>
-#include <QStatusBar>
 #include <QTabWidget>
-#include <QToolBar>
 #include <QVBoxLayout>
 
 namespace {
 
+enum Tab { LogTab, ReportTab, TrackerTab };
+constexpr const char* tabKeys[] = {"wb_tab_log", "wb_tab_report", "wb_tab_tracker"};
 constexpr int leftWidth = 290;
-
-struct LanguageRow
-{
-    const char* code;
-    const char* name; // in the language itself
-};
-
-constexpr LanguageRow languageRows[] = {{"ru", "Русский"}, {"en", "English"}};
+constexpr QSize usualSize(1024, 600);
 
 } // namespace
 
 WorkbenchWindow::WorkbenchWindow(const DataFolder& folder, Settings& settings, Languages& languages)
     : folder_(folder), settings_(settings), languages_(languages), session_(folder.trackerFolder()),
-      commands_(this), helpPages_(vlk::sharedFolder(QStringLiteral("help"))),
-      device_(new DevicePanel(session_, this)), recent_(new RecentFiles(settings, this)),
-      tabs_(new QTabWidget(this)), logView_(new MessageLogView(&log_, this)),
-      reportView_(new WriteReportView(this)), trackerPanel_(new TrackerPanel(session_.tracker(), this)),
-      windowChoice_(new QComboBox(this))
+      windows_(this), commands_(this), helpPages_(vlk::sharedFolder(QStringLiteral("help"))),
+      status_(new StatusLine(statusBar())), device_(new DevicePanel(session_, this)),
+      recent_(new RecentFiles(settings, this)), opener_(new FileOpener(session_, settings, *recent_, this)),
+      bars_(new CommandBars(this, commands_, settings, languages, recent_->menu())),
+      splitter_(new QSplitter(this)), tabs_(new QTabWidget(this)), logView_(new MessageLogView(&log_, this)),
+      reportView_(new WriteReportView(this)), trackerPanel_(new TrackerPanel(session_.tracker(), this))
 {
     setObjectName(QStringLiteral("WorkbenchWindow"));
     setAcceptDrops(true);
-    connect(&session_.link(), &PluginLink::passed, &log_, &MessageLogModel::append);
-    connect(&session_, &HostSession::helpRequested, this, &WorkbenchWindow::showHelp);
-    connect(&session_, &HostSession::configurationWritten, this, &WorkbenchWindow::showReport);
-    connect(&session_.tracker(), &tracker::SimulatedTracker::attachedChanged, this,
-            &WorkbenchWindow::updateCommands);
-    connect(device_, &DevicePanel::modeChosen, this, &WorkbenchWindow::setMode);
-    connect(recent_, &RecentFiles::chosen, this, [this](const QString& path, TelemetryWindow window) {
-        if (session_.link().isLoaded())
-            openFile(path, window);
-    });
-
     buildPanels();
-    buildMenus();
-    buildToolBar();
     connectCommands();
-    texts_.bind(static_cast<QWidget*>(this), "wb_title");
+    connectSession();
+    connectNotices();
+    showEdited();
     device_->setMode(settings_.mode());
     updateCommands();
     restoreLayout();
@@ -80,7 +66,7 @@ WorkbenchWindow::~WorkbenchWindow()
 
 void WorkbenchWindow::buildPanels()
 {
-    auto* left = new QWidget(this);
+    auto* left = new QWidget;
     auto* leftLayout = new QVBoxLayout(left);
     leftLayout->setContentsMargins(0, 0, 0, 0);
     leftLayout->addWidget(device_);
@@ -89,89 +75,21 @@ void WorkbenchWindow::buildPanels()
     tabs_->setObjectName(QStringLiteral("tabWidget_Main"));
     for (QWidget* page : {static_cast<QWidget*>(logView_), static_cast<QWidget*>(reportView_),
                           static_cast<QWidget*>(trackerPanel_)})
-        tabs_->addTab(page, QString());
+        tabs_->addTab(vlk::scrolling(page), QString());
     texts_.bind([this] {
-        int index = 0;
-        for (const char* key : {"wb_tab_log", "wb_tab_report", "wb_tab_tracker"})
-            tabs_->setTabText(index++, vlk::text(key));
+        for (const Tab tab : {LogTab, ReportTab, TrackerTab})
+            tabs_->setTabText(tab, vlk::text(tabKeys[tab]));
     });
 
-    auto* splitter = new QSplitter(this);
-    splitter->setObjectName(QStringLiteral("splitter_Main"));
-    splitter->addWidget(left);
-    splitter->addWidget(tabs_);
-    splitter->setStretchFactor(1, 1);
-    splitter->setChildrenCollapsible(false);
+    splitter_->setObjectName(QStringLiteral("splitter_Main"));
+    splitter_->addWidget(vlk::scrolling(left));
+    splitter_->addWidget(tabs_);
+    splitter_->setStretchFactor(1, 1);
+    splitter_->setChildrenCollapsible(false);
     auto* frame = new QWidget(this);
     auto* frameLayout = new QVBoxLayout(frame);
-    frameLayout->addWidget(splitter);
+    frameLayout->addWidget(splitter_);
     setCentralWidget(frame);
-}
-
-void WorkbenchWindow::buildMenus()
-{
-    const auto addMenu = [this](const char* key, std::initializer_list<Command> commands) {
-        QMenu* menu = texts_.bind(menuBar()->addMenu(QString()), key);
-        for (const Command command : commands)
-            menu->addAction(commands_[command]);
-        return menu;
-    };
-    QMenu* configuration = addMenu("wb_menu_configuration",
-                                   {Command::ReadTracker, Command::OpenFile, Command::NewConfiguration});
-    configuration->addMenu(recent_->menu());
-    configuration->addSeparator();
-    configuration->addAction(commands_[Command::BalanceCode]);
-    configuration->addSeparator();
-    configuration->addAction(commands_[Command::Quit]);
-    addMenu("wb_menu_telemetry", {Command::LiveTelemetry, Command::BrowseFile, Command::TableFile});
-    QMenu* tools = addMenu("wb_menu_tools", {Command::Cable, Command::DataFolders});
-    QMenu* language = texts_.bind(tools->addMenu(QString()), "wb_language");
-    auto* group = new QActionGroup(this);
-    for (const LanguageRow& row : languageRows) {
-        QAction* action = language->addAction(QString::fromUtf8(row.name));
-        action->setCheckable(true);
-        action->setActionGroup(group);
-        const QString code = QLatin1String(row.code);
-        action->setObjectName(QStringLiteral("action_Language_") + code);
-        connect(action, &QAction::triggered, this, [this, code] { setLanguage(code); });
-        texts_.bind([this, action, code] { action->setChecked(languages_.current() == code); });
-    }
-    addMenu("wb_menu_help", {Command::Help, Command::About});
-}
-
-void WorkbenchWindow::buildToolBar()
-{
-    auto* bar = new QToolBar(this);
-    bar->setObjectName(QStringLiteral("toolBar_Main"));
-    texts_.bind(static_cast<QWidget*>(bar), "wb_toolbar");
-    bar->setMovable(false);
-    bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    bar->setContextMenuPolicy(Qt::PreventContextMenu);
-    const auto add = [&](std::initializer_list<Command> commands) {
-        for (const Command command : commands)
-            bar->addAction(commands_[command]);
-        bar->addSeparator();
-    };
-    add({Command::ReadTracker, Command::OpenFile, Command::NewConfiguration});
-
-    windowChoice_->setObjectName(QStringLiteral("comboBox_Window"));
-    windowChoice_->addItems({QString(), QString()});
-    texts_.bind([this] {
-        windowChoice_->setItemText(0, vlk::text("wb_window_full"));
-        windowChoice_->setItemText(1, vlk::text("wb_window_quick"));
-        windowChoice_->setToolTip(vlk::text("wb_window"));
-        windowChoice_->setAccessibleName(vlk::text("wb_window"));
-    });
-    windowChoice_->setCurrentIndex(settings_.fullWindow() ? 0 : 1);
-    connect(windowChoice_, QOverload<int>::of(&QComboBox::activated), this,
-            [this] { settings_.setFullWindow(fullWindow()); });
-    bar->addWidget(windowChoice_);
-    bar->addSeparator();
-
-    add({Command::LiveTelemetry, Command::BrowseFile, Command::TableFile});
-    add({Command::Cable});
-    bar->addAction(commands_[Command::Help]);
-    addToolBar(bar);
 }
 
 void WorkbenchWindow::connectCommands()
@@ -179,25 +97,65 @@ void WorkbenchWindow::connectCommands()
     const auto on = [this](Command command, auto act) {
         connect(commands_[command], &QAction::triggered, this, act);
     };
-    on(Command::ReadTracker, [this] { ask(session_.readConfiguration(fullWindow())); });
-    on(Command::OpenFile, [this] {
-        const QString path =
-            QFileDialog::getOpenFileName(this, vlk::text("wb_open_caption"), settings_.configurationFolder(),
-                                         vlk::text("wb_type_configuration") + QStringLiteral(" (*.xml)"));
-        if (!path.isEmpty())
-            openFile(path);
+    on(Command::ReadTracker, [this] { tellOpened(session_.readConfiguration(settings_.fullWindow())); });
+    on(Command::OpenFile, [this] { opener_->chooseConfiguration(); });
+    on(Command::NewConfiguration, [this] {
+        session_.newConfiguration(settings_.fullWindow());
+        tellOpened({});
     });
-    on(Command::NewConfiguration, [this] { session_.newConfiguration(fullWindow()); });
-    on(Command::LiveTelemetry, [this] { ask(session_.liveTelemetry()); });
-    on(Command::BrowseFile, [this] { chooseAndShow(TelemetryWindow::Browser); });
-    on(Command::TableFile, [this] { chooseAndShow(TelemetryWindow::Table); });
+    on(Command::LiveTelemetry, [this] { tellOpened(session_.liveTelemetry()); });
+    on(Command::BrowseFile, [this] { opener_->chooseTelemetry(TelemetryWindow::Browser); });
+    on(Command::TableFile, [this] { opener_->chooseTelemetry(TelemetryWindow::Table); });
     on(Command::Cable,
        [this](bool attach) { attach ? session_.tracker().attach() : session_.tracker().detach(); });
+    on(Command::Faults, [this] { faults_->toggle(); });
     on(Command::DataFolders, [this] { chooseFolders(); });
     on(Command::BalanceCode, [this] { showBalance(); });
     on(Command::Help, [this] { showHelp(HelpPages::indexPage()); });
     on(Command::About, [this] { about(); });
     on(Command::Quit, [this] { close(); });
+    connect(bars_, &CommandBars::languageChosen, this, &WorkbenchWindow::setLanguage);
+    connect(device_, &DevicePanel::modeChosen, this, &WorkbenchWindow::setMode);
+    connect(recent_, &RecentFiles::chosen, this, [this](const QString& path, TelemetryWindow window) {
+        if (session_.link().isLoaded())
+            openFile(path, window);
+    });
+    connect(opener_, &FileOpener::failed, this, &WorkbenchWindow::tellOpened);
+    connect(opener_, &FileOpener::opened, this, [this] { tellOpened({}); });
+}
+
+void WorkbenchWindow::connectSession()
+{
+    // Before all that looks at a message: they mark it in the log.
+    connect(&session_.link(), &PluginLink::passed, &log_, &MessageLogModel::append);
+    connect(&session_, &HostSession::helpRequested, this, &WorkbenchWindow::showHelp);
+    connect(&session_, &HostSession::configurationWritten, this, &WorkbenchWindow::showReport);
+    connect(&session_, &HostSession::writeCancelled, this,
+            [this] { status_->tell(StatusLine::Command, [] { return vlk::text("wb_write_cancelled"); }); });
+    connect(&session_, &HostSession::editedChanged, this, &WorkbenchWindow::showEdited);
+    session_.setReplaceQuestion([this] { return mayReplace(); });
+    // Its window is modal, and so are those that come up over it.
+    connect(&windows_, &PluginWindows::closed, this, [this](const QWidget* window) {
+        if (window->isModal() && !windows_.modal())
+            session_.configurationClosed();
+    });
+    const auto* tracker = &session_.tracker();
+    connect(tracker, &tracker::SimulatedTracker::attachedChanged, this, &WorkbenchWindow::updateCommands);
+    // What a command failed for may be mended.
+    const auto clear = [this] { status_->clear(StatusLine::Command); };
+    connect(tracker, &tracker::SimulatedTracker::faultsChanged, this, clear);
+    connect(tracker, &tracker::SimulatedTracker::attachedChanged, this, clear);
+}
+
+void WorkbenchWindow::connectNotices()
+{
+    faults_ = std::make_unique<FaultsAtHand>(session_.tracker(), windows_, this);
+    linkNotices_ = std::make_unique<LinkNotices>(session_, windows_, log_, *status_, this);
+    saveNotices_ = std::make_unique<SaveNotices>(session_, *linkNotices_, windows_, *recent_, *status_, this);
+    connect(linkNotices_.get(), &LinkNotices::troubleChanged, this, [this] {
+        device_->setTrouble(linkNotices_->trouble());
+        faults_->setTrouble(linkNotices_->trouble());
+    });
 }
 
 bool WorkbenchWindow::start(const QString& pluginPath)
@@ -207,9 +165,8 @@ bool WorkbenchWindow::start(const QString& pluginPath)
         applyFolders();
         session_.link().setMode(settings_.mode());
         session_.tracker().attach();
-        showMessage(vlk::text("wb_ready"));
     } else {
-        showMessage(session_.link().error());
+        tellOfRun([this] { return session_.link().error(); });
     }
     device_->refresh();
     updateCommands();
@@ -228,51 +185,24 @@ void WorkbenchWindow::updateCommands()
     commands_[Command::Cable]->setChecked(attached);
 }
 
-bool WorkbenchWindow::fullWindow() const
+void WorkbenchWindow::tellOfRun(const std::function<QString()>& text)
 {
-    return windowChoice_->currentIndex() == 0;
+    status_->tell(StatusLine::Program, text);
 }
 
-void WorkbenchWindow::ask(bool answered)
+void WorkbenchWindow::tellOpened(const QString& failure)
 {
-    if (!answered)
-        warn(vlk::text("wb_read_failed"));
+    if (failure.isEmpty()) {
+        status_->clear(StatusLine::Command);
+        return;
+    }
+    status_->tell(StatusLine::Command, [failure] { return failure; });
+    vlk::showWarning(failure, this);
 }
 
 void WorkbenchWindow::openFile(const QString& path, TelemetryWindow window)
 {
-    if (!QFileInfo(path).isFile()) {
-        recent_->remove(path);
-        warn(vlk::text("wb_file_missing").arg(path));
-        return;
-    }
-    switch (vlk::storedFileKind(path)) {
-    case StoredFile::Configuration:
-        recent_->add(path, window);
-        session_.openConfiguration(path, fullWindow());
-        break;
-    case StoredFile::Telemetry:
-        showStored(path, window);
-        break;
-    case StoredFile::Unknown:
-        warn(vlk::text("wb_file_unknown").arg(path));
-        break;
-    }
-}
-
-void WorkbenchWindow::chooseAndShow(TelemetryWindow window)
-{
-    const QString path =
-        QFileDialog::getOpenFileName(this, vlk::text("wb_browse_caption"), settings_.telemetryFolder(),
-                                     vlk::text("wb_type_telemetry") + QStringLiteral(" (*.xml *.tmi)"));
-    if (!path.isEmpty())
-        showStored(path, window);
-}
-
-void WorkbenchWindow::showStored(const QString& path, TelemetryWindow window)
-{
-    recent_->add(path, window);
-    session_.link().showStoredFile(path, static_cast<int>(window));
+    opener_->open(path, window);
 }
 
 void WorkbenchWindow::chooseFolders()
@@ -306,7 +236,7 @@ void WorkbenchWindow::setLanguage(const QString& code)
     if (code == languages_.current())
         return;
     if (!languages_.set(code)) {
-        warn(vlk::text("wb_language_missing").arg(code));
+        tellOpened(vlk::text("wb_language_missing").arg(code));
         return;
     }
     settings_.setLanguage(code);
@@ -344,25 +274,33 @@ void WorkbenchWindow::showHelp(const QString& page)
     help_->showPage(page);
 }
 
+bool WorkbenchWindow::mayReplace()
+{
+    QMessageBox box(QMessageBox::Warning, vlk::text("wb_title"), vlk::text("wb_replace_question"),
+                    QMessageBox::Cancel, vlk::windowInFront(this));
+    box.setObjectName(QStringLiteral("messageBox_Replace"));
+    const QPushButton* write = box.addButton(vlk::text("wb_replace_write"), QMessageBox::AcceptRole);
+    box.setDefaultButton(QMessageBox::Cancel);
+    box.exec();
+    return box.clickedButton() == write;
+}
+
 void WorkbenchWindow::showReport(const tracker::WriteReport& report)
 {
     reportView_->setReport(report);
-    tabs_->setCurrentWidget(reportView_);
-    showMessage(vlk::summary(report).section(QLatin1Char('\n'), 0, 0));
+    tabs_->setCurrentIndex(ReportTab);
+    status_->tell(StatusLine::Command,
+                  [report] { return vlk::summary(report).section(QLatin1Char('\n'), 0, 0); });
     if (QWidget* modal = QApplication::activeModalWidget())
         WriteReportView::showDialog(report, modal);
 }
 
-void WorkbenchWindow::showMessage(const QString& text)
+void WorkbenchWindow::showEdited()
 {
-    statusBar()->showMessage(text);
-}
-
-void WorkbenchWindow::warn(const QString& text)
-{
-    showMessage(text);
-    QMessageBox box(QMessageBox::Warning, vlk::text("wb_title"), text, QMessageBox::Ok, this);
-    box.exec();
+    const EditedConfiguration& edited = session_.edited();
+    device_->setEdited(edited.text());
+    const QString title = vlk::text("wb_title");
+    setWindowTitle(edited.name().isEmpty() ? title : vlk::text("wb_edited_title").arg(title, edited.name()));
 }
 
 void WorkbenchWindow::changeEvent(QEvent* event)
@@ -376,31 +314,35 @@ void WorkbenchWindow::retranslate()
 {
     texts_.apply();
     commands_.retranslate();
+    bars_->retranslate();
+    status_->retranslate();
     device_->retranslate();
     recent_->retranslate();
     logView_->retranslate();
     reportView_->retranslate();
     trackerPanel_->retranslate();
+    faults_->retranslate();
+    device_->setTrouble(linkNotices_->trouble());
+    faults_->setTrouble(linkNotices_->trouble());
+    showEdited();
     if (help_)
         help_->setLanguage(languages_.current());
-    showMessage(session_.link().isLoaded() ? vlk::text("wb_ready") : session_.link().error());
 }
 
 void WorkbenchWindow::restoreLayout()
 {
-    statusBar()->setSizeGripEnabled(false);
-    resize(1024, 600);
+    resize(usualSize);
     restoreGeometry(settings_.layout(objectName()));
-    auto* splitter = findChild<QSplitter*>(QStringLiteral("splitter_Main"));
-    splitter->setSizes({leftWidth, width() - leftWidth});
-    splitter->restoreState(settings_.layout(splitter->objectName()));
+    if (!isMaximized())
+        vlk::resizeWithin(this, size());
+    splitter_->setSizes({leftWidth, width() - leftWidth});
+    splitter_->restoreState(settings_.layout(splitter_->objectName()));
 }
 
 void WorkbenchWindow::closeEvent(QCloseEvent* event)
 {
     settings_.setLayout(objectName(), saveGeometry());
-    const auto* splitter = findChild<QSplitter*>(QStringLiteral("splitter_Main"));
-    settings_.setLayout(splitter->objectName(), splitter->saveState());
+    settings_.setLayout(splitter_->objectName(), splitter_->saveState());
     session_.link().send(vlk::Message::CloseWindows);
     event->accept();
 }

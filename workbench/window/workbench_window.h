@@ -8,18 +8,27 @@
 #include "window/host_session.h"
 #include "window/key_texts.h"
 #include "window/message_log_model.h"
+#include "window/plugin_windows.h"
 #include "window/settings.h"
 
 #include <QMainWindow>
 #include <QPointer>
 
+#include <memory>
+
+class CommandBars;
 class DataFolder;
 class DevicePanel;
+class FaultsAtHand;
+class FileOpener;
 class Languages;
+class LinkNotices;
 class MessageLogView;
-class QComboBox;
+class QSplitter;
 class QTabWidget;
 class RecentFiles;
+class SaveNotices;
+class StatusLine;
 class TrackerPanel;
 class WriteReportView;
 
@@ -41,7 +50,8 @@ public:
     // A configuration opens in the configuration window, telemetry in this one.
     void openFile(const QString& path, TelemetryWindow window = TelemetryWindow::Browser);
     void showHelp(const QString& page);
-    void showMessage(const QString& text);
+    // What holds for the whole run, in the status line.
+    void tellOfRun(const std::function<QString()>& text);
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -51,24 +61,22 @@ protected:
 
 private:
     void buildPanels();
-    void buildMenus();
-    void buildToolBar();
     void connectCommands();
+    void connectSession();
+    void connectNotices();
     void retranslate();
     void restoreLayout();
 
-    bool fullWindow() const;
-    // What the tracker is asked for; says so when it gives nothing.
-    void ask(bool answered);
-    void chooseAndShow(TelemetryWindow window);
-    void showStored(const QString& path, TelemetryWindow window);
+    // The result of a command that opens a window: empty, or why it did not.
+    void tellOpened(const QString& failure);
     void chooseFolders();
     void applyFolders();
     void showBalance();
     void about();
+    bool mayReplace();
     void showReport(const tracker::WriteReport& report);
+    void showEdited();
     void updateCommands();
-    void warn(const QString& text);
 
     const DataFolder& folder_;
     Settings& settings_;
@@ -76,14 +84,21 @@ private:
     KeyTexts texts_;
     HostSession session_;
     MessageLogModel log_;
+    PluginWindows windows_;
     Commands commands_;
     HelpPages helpPages_;
     QPointer<HelpViewer> help_;
+    StatusLine* status_;
     DevicePanel* device_;
     RecentFiles* recent_;
+    FileOpener* opener_;
+    CommandBars* bars_;
+    QSplitter* splitter_;
     QTabWidget* tabs_;
     MessageLogView* logView_;
     WriteReportView* reportView_;
     TrackerPanel* trackerPanel_;
-    QComboBox* windowChoice_;
+    std::unique_ptr<FaultsAtHand> faults_;
+    std::unique_ptr<LinkNotices> linkNotices_;
+    std::unique_ptr<SaveNotices> saveNotices_;
 };

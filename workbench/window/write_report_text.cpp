@@ -1,11 +1,37 @@
 #include "window/write_report_text.h"
 
 #include "window/languages.h"
+#include "window/trouble_text.h"
 #include "window/write_report_model.h"
 
 #include <QFile>
 
 namespace vlk {
+
+namespace {
+
+struct AdviceRow
+{
+    const char* reasonKey;
+    const char* adviceKey;
+};
+
+// What to do about a refusal that a user can mend; the others say enough.
+constexpr AdviceRow advices[] = {
+    {"wb_refused_detached", "wb_do_attach"}, {"wb_refused_unplugged", "wb_do_attach"},
+    {"wb_refused_silence", "wb_do_cable"},   {"wb_refused_unsaved", "wb_do_disk"},
+    {"wb_refused_memory", "wb_do_disk"},
+};
+
+QString adviceOn(const QString& reasonKey)
+{
+    for (const AdviceRow& row : advices)
+        if (reasonKey == QLatin1String(row.reasonKey))
+            return text(row.adviceKey);
+    return {};
+}
+
+} // namespace
 
 QString summary(const tracker::WriteReport& report)
 {
@@ -13,7 +39,7 @@ QString summary(const tracker::WriteReport& report)
         QString reason = text(report.reasonKey.toLatin1().constData());
         if (!report.detail.isEmpty())
             reason += QLatin1Char(' ') + report.detail;
-        QString refusal = text("wb_report_refused").arg(reason);
+        QString refusal = sentences({text("wb_report_refused").arg(reason), adviceOn(report.reasonKey)});
         if (QFile::exists(report.file))
             refusal += QLatin1Char('\n') + text("wb_report_kept").arg(report.file);
         return refusal;

@@ -1,6 +1,7 @@
 #include "window/write_report_view.h"
 
 #include "window/line_icon.h"
+#include "window/scrolling.h"
 #include "window/write_report_text.h"
 
 #include <QClipboard>
@@ -26,7 +27,7 @@ WriteReportView::WriteReportView(QWidget* parent)
     texts_.bind([this] {
         copy_->setToolTip(vlk::text("wb_report_copy"));
         copy_->setAccessibleName(vlk::text("wb_report_copy"));
-        table_->setAccessibleName(vlk::text("wb_tab_report"));
+        table_->setAccessibleName(vlk::plainText("wb_tab_report"));
     });
     connect(copy_, &QToolButton::clicked, this,
             [this] { QGuiApplication::clipboard()->setText(vlk::plainText(report_)); });
@@ -94,7 +95,7 @@ void WriteReportView::showDialog(const tracker::WriteReport& report, QWidget* pa
     auto* dialog = new QDialog(parent);
     dialog->setObjectName(QStringLiteral("dialog_Report"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowTitle(vlk::text("wb_tab_report"));
+    dialog->setWindowTitle(vlk::plainText("wb_tab_report"));
     auto* view = new WriteReportView(dialog);
     view->setReport(report);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, dialog);
@@ -102,6 +103,9 @@ void WriteReportView::showDialog(const tracker::WriteReport& report, QWidget* pa
     auto* column = new QVBoxLayout(dialog);
     column->addWidget(view, 1);
     column->addWidget(buttons);
-    dialog->resize(860, 380);
+    // A refusal has no keys to show.
+    const bool keys = !report.sameAsBefore();
+    view->table_->setVisible(keys);
+    vlk::resizeWithin(dialog, keys ? QSize(860, 380) : QSize(560, dialog->heightForWidth(560)));
     dialog->open();
 }

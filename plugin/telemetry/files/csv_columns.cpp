@@ -57,6 +57,10 @@ constexpr std::array<CsvColumn, kCsvColumnCount> kColumns = [] {
     return columns;
 }();
 
+static_assert(std::ranges::none_of(kColumns, [](const CsvColumn& column) {
+    return kItems[column.item].rule().shape == Shape::special;
+}));
+
 // With a number it takes the place of the marker, or stands behind a text that has none; without one the text
 // ends at the marker.
 QString wordText(const QString& key, const QString& number)
@@ -68,6 +72,12 @@ QString wordText(const QString& key, const QString& number)
     if (marker < 0)
         return text + QLatin1Char(' ') + number;
     return text.left(marker) + number + text.mid(marker + static_cast<int>(kMarker.size()));
+}
+
+ItemIndex itemIn(const TmiPage_Zeta3& page, const CsvColumn& column)
+{
+    const bool isFixOfPacket = column.item == item("StateNGauge.fix") && page.isExtra();
+    return isFixOfPacket ? item("StateNGauge.fixOfPacket") : column.item;
 }
 
 } // namespace
@@ -105,11 +115,14 @@ QString headingText(const CsvColumn& column)
     return text + pattern.midRef(done);
 }
 
+TextParts cellParts(const TmiPage_Zeta3& page, const CsvColumn& column, const TextOptions& options)
+{
+    return textParts(page, itemIn(page, column), options);
+}
+
 QString cellText(const TmiPage_Zeta3& page, const CsvColumn& column, const TextOptions& options)
 {
-    constexpr ItemIndex fix = item("StateNGauge.fix");
-    const bool isFixOfPacket = column.item == fix && page.isExtra();
-    return text(page, isFixOfPacket ? item("StateNGauge.fixOfPacket") : column.item, options);
+    return text(page, itemIn(page, column), options);
 }
 
 bool isInPackets(const CsvColumn& column)

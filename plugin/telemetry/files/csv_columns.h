@@ -28,7 +28,8 @@ std::span<const CsvColumn, kCsvColumnCount> csvColumns();
 QString headingText(const CsvColumn& column);
 
 // What a record or an extra packet shows in a column; empty if it holds nothing there. In the column of the
-// event it is the code in decimal.
+// event it is the code in decimal. In parts it is for those who look words up themselves.
+TextParts cellParts(const TmiPage_Zeta3& page, const CsvColumn& column, const TextOptions& options = {});
 QString cellText(const TmiPage_Zeta3& page, const CsvColumn& column, const TextOptions& options = {});
 
 // Whether the head of an extra packet holds what the column shows.

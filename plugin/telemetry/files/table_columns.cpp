@@ -25,18 +25,32 @@ bool hasPackets(const TelemetryPages& pages)
     return std::ranges::any_of(pages, [](const auto& page) { return page->isExtra(); });
 }
 
-QString entryText(const ExtraEntry& entry)
+const Word* entryWord(const ExtraEntry& entry)
 {
+    static constexpr Word kTouchKey("tmizta_361", ": ");
+    static constexpr Word kCard("tmizta_362", ": ");
+    static constexpr Word kRfid("tmizta_120", " RFID: ");
     switch (entry.type) {
     case ExtraEntry::TouchKey:
-        return Word("tmizta_361").text() + QLatin1String(": ") + keyText(entry.number());
+        return &kTouchKey;
     case ExtraEntry::Card:
-        return Word("tmizta_362").text() + QLatin1String(": ") + entry.text();
+        return &kCard;
     case ExtraEntry::Rfid:
-        return Word("tmizta_120").text() + QLatin1String(" RFID: ") + keyText(entry.number());
+        return &kRfid;
     default:
-        return {};
+        return nullptr;
     }
+}
+
+QString entryValue(const ExtraEntry& entry)
+{
+    return entry.type == ExtraEntry::Card ? entry.text() : keyText(entry.number());
+}
+
+QString entryText(const ExtraEntry& entry)
+{
+    const Word* const word = entryWord(entry);
+    return word == nullptr ? QString() : word->text() + entryValue(entry);
 }
 
 } // namespace vlk

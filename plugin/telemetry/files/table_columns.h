@@ -13,7 +13,10 @@ std::vector<CsvColumn> columnsOf(const TelemetryPages& pages);
 // Whether the table has the column of packet data, which stands behind all others, under "tmizta_359".
 bool hasPackets(const TelemetryPages& pages);
 
-// An entry of an extra packet in that column; empty for one of an unknown type.
+// An entry of an extra packet in that column: the word in front, none for an entry of an unknown type, and
+// what follows it. Together they are its text.
+const Word* entryWord(const ExtraEntry& entry);
+QString entryValue(const ExtraEntry& entry);
 QString entryText(const ExtraEntry& entry);
 
 } // namespace vlk

@@ -1,5 +1,6 @@
 #include "telemetry/files/telemetry_csv_writer.h"
 
+#include "telemetry/files/encoded_words.h"
 #include "telemetry/files/output_buffer.h"
 #include "telemetry/files/table_columns.h"
 #include "telemetry/files/title_lines.h"
@@ -7,8 +8,6 @@
 namespace vlk {
 
 namespace {
-
-const QLatin1String kLineEnd("\r\n");
 
 class CsvWriter
 {
@@ -36,17 +35,19 @@ private:
     void addHeadings()
     {
         for (const CsvColumn& column : columns_)
-            row_ += headingText(column) + QLatin1Char(';');
-        if (hasPackets(pages_))
-            row_ += Word("tmizta_359").text() + QLatin1Char(';');
-        endRow();
+            out_ << headingText(column).toLocal8Bit() << ";";
+        if (hasPackets(pages_)) {
+            addWord("tmizta_359");
+            out_ << ";";
+        }
+        out_ << kLineEnd;
     }
 
     void addRecord(const TmiPage_Zeta3& page)
     {
         for (const CsvColumn& column : columns_)
             addCell(page, column);
-        endRow();
+        out_ << kLineEnd;
     }
 
     // Cells that no packet can have are bare; the entries follow the last cell without a separator.
@@ -56,35 +57,57 @@ private:
             if (isInPackets(column))
                 addCell(page, column);
             else
-                row_ += QLatin1Char(';');
+                out_ << ";";
         }
-        page.extra().forEachEntry([&](const ExtraEntry& entry) { row_ += entryText(entry); });
-        endRow();
+        page.extra().forEachEntry([this](const ExtraEntry& entry) { addEntry(entry); });
+        out_ << kLineEnd;
     }
 
     void addCell(const TmiPage_Zeta3& page, const CsvColumn& column)
     {
-        row_ += QLatin1String("=\"");
-        const bool isEvent =
-            column.element() == element("Code") && (page.isExtra() || page.has(column.element()));
-        const QString event = isEvent && eventText_ ? eventText_(codeOf(page)) : QString();
-        row_ += event.isEmpty() ? cellText(page, column, {userTypes_}) : event;
-        row_ += QLatin1String("\";");
+        out_ << "=\"";
+        if (column.element() != element("Code") || !addEvent(page)) {
+            const TextParts parts = cellParts(page, column, {userTypes_, &zone_});
+            if (parts.word != nullptr)
+                addWord(*parts.word);
+            out_ << parts.characters.view();
+            if (parts.unit != nullptr) {
+                out_ << " ";
+                addWord(*parts.unit);
+            }
+        }
+        out_ << "\";";
     }
 
-    void endRow()
+    // False if the event has no name.
+    bool addEvent(const TmiPage_Zeta3& page)
     {
-        row_ += kLineEnd;
-        out_ << row_.toLocal8Bit();
-        row_.resize(0);
+        if (!eventText_ || !(page.isExtra() || page.has(element("Code"))))
+            return false;
+        const QString name = eventText_(codeOf(page));
+        out_ << name.toLocal8Bit();
+        return !name.isEmpty();
     }
+
+    void addEntry(const ExtraEntry& entry)
+    {
+        if (const Word* const word = entryWord(entry)) {
+            addWord(*word);
+            out_ << entryValue(entry).toLocal8Bit();
+        }
+    }
+
+    void addWord(const Word& word) { out_ << words_.of(word) << word.suffix(); }
+
+    static constexpr std::string_view kLineEnd = "\r\n";
 
     OutputBuffer out_;
     const TelemetryPages& pages_;
     const EventText& eventText_;
     std::string userTypes_;
     std::vector<CsvColumn> columns_;
-    QString row_;
+    EncodedWords words_;
+    LocalZone zone_;
 };
 
 } // namespace

@@ -22,6 +22,21 @@ using CppValue =
                          std::tuple<std::uint8_t, std::uint16_t, std::uint32_t, std::uint64_t, std::int8_t,
                                     std::int16_t, std::int32_t, std::int64_t, float>>;
 
+// The bytes of a value, taken as an unsigned number, with the sign of its type; of a float its bits.
+constexpr std::int64_t integerOf(std::uint64_t raw, ValueType type)
+{
+    const int unused = isSigned(type) ? 64 - 8 * width(type) : 0;
+    return static_cast<std::int64_t>(raw << unused) >> unused;
+}
+
+// The value as a number, whatever its type; above 53 bits it is rounded.
+constexpr double numberOf(std::uint64_t raw, ValueType type)
+{
+    if (type == ValueType::f32)
+        return std::bit_cast<float>(static_cast<std::uint32_t>(raw));
+    return isSigned(type) ? static_cast<double>(integerOf(raw, type)) : static_cast<double>(raw);
+}
+
 template <class Source>
 class ElementValues
 {
@@ -55,21 +70,8 @@ public:
         }
     }
 
-    // The value with the sign of its type; of a float its bits.
-    std::int64_t integer(ElementIndex index) const
-    {
-        const int unused = isSigned(kElements[index].type) ? 64 - 8 * kElements[index].width : 0;
-        return static_cast<std::int64_t>(raw(index) << unused) >> unused;
-    }
-
-    // The value as a number, whatever its type; above 53 bits it is rounded.
-    double number(ElementIndex index) const
-    {
-        const ValueType type = kElements[index].type;
-        if (type == ValueType::f32)
-            return std::bit_cast<float>(static_cast<std::uint32_t>(raw(index)));
-        return isSigned(type) ? static_cast<double>(integer(index)) : static_cast<double>(raw(index));
-    }
+    std::int64_t integer(ElementIndex index) const { return integerOf(raw(index), kElements[index].type); }
+    double number(ElementIndex index) const { return numberOf(raw(index), kElements[index].type); }
 };
 
 } // namespace vlk

@@ -6,24 +6,24 @@
 
 using namespace vlk;
 
-TmiPage_Zeta3::TmiPage_Zeta3(const FieldMask& mask, qint32 utcOffset)
+TmiPage_Zeta3::TmiPage_Zeta3(const FieldMask& mask, std::optional<qint32> utcOffset)
     : TmiPage_Zeta3(0, 0, mask, {}, utcOffset)
 {
 }
 
-TmiPage_Zeta3::TmiPage_Zeta3(const void* record, qsizetype size, qint32 utcOffset)
+TmiPage_Zeta3::TmiPage_Zeta3(const void* record, qsizetype size, std::optional<qint32> utcOffset)
     : TmiPage_Zeta3(FieldMask(), utcOffset)
 {
     setRecord(record, size);
 }
 
 TmiPage_Zeta3::TmiPage_Zeta3(quint8 type, quint8 ver, const FieldMask& mask, const ValueBlock& block,
-                             qint32 utcOffset)
+                             std::optional<qint32> utcOffset)
     : RecordValues(mask, block), type_(type), ver_(ver), utcOffset_(utcOffset)
 {
 }
 
-TmiPage_Zeta3::TmiPage_Zeta3(const ExtraPacket& extra, qint32 utcOffset)
+TmiPage_Zeta3::TmiPage_Zeta3(const ExtraPacket& extra, std::optional<qint32> utcOffset)
     : TmiPage_Zeta3(FieldMask(), utcOffset)
 {
     setExtra(extra, {});

@@ -17,6 +17,8 @@
 #include <QByteArray>
 #include <QObject>
 
+#include <optional>
+
 class TmiPage_Zeta3 : public QObject, public vlk::RecordValues<vlk::kFieldCount>
 {
     Q_OBJECT
@@ -25,13 +27,13 @@ public:
     using RecordValues::number;
 
     // No values; tells which fields a mask selects.
-    explicit TmiPage_Zeta3(const vlk::FieldMask& mask = {}, qint32 utcOffset = vlk::localOffset());
+    explicit TmiPage_Zeta3(const vlk::FieldMask& mask = {}, std::optional<qint32> utcOffset = {});
     // From the bytes of a record, from its type byte on.
-    TmiPage_Zeta3(const void* record, qsizetype size, qint32 utcOffset = vlk::localOffset());
+    TmiPage_Zeta3(const void* record, qsizetype size, std::optional<qint32> utcOffset = {});
     // From the parts that a telemetry file gives.
     TmiPage_Zeta3(quint8 type, quint8 ver, const vlk::FieldMask& mask, const ValueBlock& block,
-                  qint32 utcOffset = vlk::localOffset());
-    explicit TmiPage_Zeta3(const vlk::ExtraPacket& extra, qint32 utcOffset = vlk::localOffset());
+                  std::optional<qint32> utcOffset = {});
+    explicit TmiPage_Zeta3(const vlk::ExtraPacket& extra, std::optional<qint32> utcOffset = {});
 
     // Decodes again, and keeps utcOffset(). The memory of the payload is used again.
     void setRecord(const void* record, qsizetype size);
@@ -52,8 +54,10 @@ public:
     bool isExtra() const { return isExtra_; }
     const vlk::ExtraPacket& extra() const { return extra_; }
 
-    // The zone in which times are shown, in seconds east of UTC; at first the local one.
-    qint32 utcOffset() const { return utcOffset_; }
+    // The zone in which times are shown, in seconds east of UTC: the local one, looked up each time, until
+    // another was given.
+    qint32 utcOffset() const { return hasUtcOffset() ? *utcOffset_ : vlk::localOffset(); }
+    bool hasUtcOffset() const { return utcOffset_.has_value(); }
     void setUtcOffset(qint32 seconds) { utcOffset_ = seconds; }
 
 private:
@@ -63,7 +67,7 @@ private:
     quint8 type_ = 0;
     quint8 ver_ = 0;
     bool isExtra_ = false;
-    qint32 utcOffset_;
+    std::optional<qint32> utcOffset_;
     QByteArray payload_;
     vlk::ExtraPacket extra_;
 };

@@ -4,6 +4,7 @@
 
 #include "base/clock.h"
 #include "telemetry/text/tachograph_answer.h"
+#include "windows/fit_to_screen.h"
 
 #include <array>
 
@@ -75,6 +76,7 @@ VLK_Form_TMI_Taho::VLK_Form_TMI_Taho(QWidget* parent)
     }
     connect(ui_->comboBox_File, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &VLK_Form_TMI_Taho::slot_currentIndexChanged_File);
+    vlk::keepOnScreen(this);
     retranslate();
 }
 

@@ -10,144 +10,166 @@ namespace vlk {
 
 namespace {
 
+// The bytes of an element, or some bits of it.
 struct Value
 {
-    std::uint64_t raw;    // the bytes
-    std::int64_t integer; // with the sign of the type
-    double number;
+    std::uint64_t raw;
     ValueType type;
+
+    std::int64_t integer() const { return integerOf(raw, type); }
+    double number() const { return numberOf(raw, type); }
+    bool testBit(int bit) const { return (raw >> bit & 1) != 0; }
 };
-
-template <class Source>
-Value readValue(const ElementValues<Source>& source, ElementIndex element)
-{
-    return {source.raw(element), source.integer(element), source.number(element), kElements[element].type};
-}
-
-bool testBit(std::uint64_t raw, int bit)
-{
-    return (raw >> bit & 1) != 0;
-}
 
 // A range of bits is an unsigned number of its own.
 Value cutBits(const Value& value, BitRange bits)
 {
-    const std::uint64_t raw = value.raw >> bits.first & ((std::uint64_t{1} << bits.count) - 1);
-    return {raw, static_cast<std::int64_t>(raw), static_cast<double>(raw), ValueType::u64};
+    return {value.raw >> bits.first & ((std::uint64_t{1} << bits.count) - 1), ValueType::u64};
 }
 
 double scaled(const Value& value, const Rule& rule)
 {
-    const double number = value.number * rule.times / rule.by;
+    const double number = value.number() * rule.times / rule.by;
     return rule.cut ? std::trunc(number) : number;
 }
 
-QString decimalText(const Value& value, const Rule& rule)
+void addDecimal(AsciiText& text, const Value& value, const Rule& rule)
 {
     if (rule.cut)
-        return QString::number(static_cast<qint64>(scaled(value, rule)));
-    return isSigned(value.type) ? QString::number(qint64{value.integer})
-                                : QString::number(quint64{value.raw});
+        text << static_cast<std::int64_t>(scaled(value, rule));
+    else if (isSigned(value.type))
+        text << value.integer();
+    else
+        text << value.raw;
 }
 
-QString namedText(const Value& value, const Rule& rule)
+void addNamed(TextParts& parts, const Value& value, const Rule& rule)
 {
     const auto covers = [&](const NamedValue& row) {
         return value.raw >= row.first && value.raw <= row.last;
     };
-    if (const auto row = std::ranges::find_if(rule.names, covers); row != rule.names.end())
-        return row->word.text();
-    switch (rule.other) {
-    case Other::word:
-        return rule.set.text();
-    case Other::wordAndNumber:
-        return rule.set.text() + QLatin1String(": ") + decimalText(value, rule);
-    case Other::number:
-        break;
+    if (const auto row = std::ranges::find_if(rule.names, covers); row != rule.names.end()) {
+        parts.word = &row->word;
+        return;
     }
-    return decimalText(value, rule);
+    if (rule.other != Other::number)
+        parts.word = &rule.set;
+    if (rule.other == Other::wordAndNumber)
+        parts.characters << ": ";
+    if (rule.other != Other::word)
+        addDecimal(parts.characters, value, rule);
 }
 
 // Degrees and minutes each carry the sign; whole numbers, so that no digit is lost on the way.
-QString coordinateText(const Value& value, const Rule& rule)
+void addCoordinate(AsciiText& text, const Value& value, const Rule& rule)
 {
     const auto unitsPerDegree = static_cast<std::int64_t>(rule.by);
-    const double minutes = static_cast<double>(value.integer % unitsPerDegree) * 60 / rule.by;
-    return QString::number(qint64{value.integer / unitsPerDegree}) + QLatin1Char(' ') +
-           QString::number(minutes, 'f', rule.decimals) + QLatin1Char('\'');
+    const double minutes = static_cast<double>(value.integer() % unitsPerDegree) * 60 / rule.by;
+    text << value.integer() / unitsPerDegree << ' ';
+    text.addFixed(minutes, rule.decimals) << '\'';
 }
 
-QString userText(const Value& value, ElementIndex element, const TextOptions& options)
+void addUserValue(AsciiText& text, const Value& value, ElementIndex element, const TextOptions& options)
 {
     const std::size_t slot = kElements[element].field - field("User1Byte_1");
     const char letter = slot < options.userTypes.size() ? options.userTypes[slot] : 'u';
-    return userParameterText(value.raw, kElements[element].width, letter);
+    addUserParameter(text, value.raw, kElements[element].width, letter);
 }
 
-QString shapeText(const Value& value, const Rule& rule, const Item& item, const TmiPage_Zeta3& page,
-                  const TextOptions& options)
+qint32 shownOffset(const TmiPage_Zeta3& page, const TextOptions& options)
+{
+    return page.hasUtcOffset() || options.zone == nullptr ? page.utcOffset() : options.zone->offsetNow();
+}
+
+void addShape(TextParts& parts, const Value& value, const Rule& rule, const Item& item,
+              const TmiPage_Zeta3& page, const TextOptions& options)
 {
     const auto seconds = static_cast<quint32>(value.raw);
+    const auto localOffset = [&] {
+        return options.zone != nullptr ? options.zone->offsetAt(seconds) : LocalZone().offsetAt(seconds);
+    };
     switch (rule.shape) {
     case Shape::decimal:
-        return decimalText(value, rule);
+        return addDecimal(parts.characters, value, rule);
     case Shape::fixed:
-        return QString::number(scaled(value, rule), 'f', rule.decimals);
+        parts.characters.addFixed(scaled(value, rule), rule.decimals);
+        return;
     case Shape::general:
-        return QString::number(scaled(value, rule), 'g', 6);
+        parts.characters.addGeneral(scaled(value, rule));
+        return;
     case Shape::word:
-        return rule.set.text();
+        parts.word = &rule.set;
+        return;
     case Shape::twoState:
-        return (testBit(value.raw, rule.bits.count == 0 ? item.bit : rule.bits.first) ? rule.set : rule.clear)
-            .text();
+        parts.word =
+            value.testBit(rule.bits.count == 0 ? item.bit : rule.bits.first) ? &rule.set : &rule.clear;
+        return;
     case Shape::enumeration:
-        return namedText(value, rule);
+        return addNamed(parts, value, rule);
     case Shape::zonedTime:
-        return zonedTimeText(seconds, page.utcOffset());
+        return addZonedTime(parts.characters, seconds, shownOffset(page, options));
     case Shape::localTime:
-        return localTimeText(seconds);
+        return addClockAndDate(parts.characters, seconds, localOffset());
     case Shape::dateTime:
-        return dateTimeText(seconds);
+        return addDateAndClock(parts.characters, seconds, localOffset());
     case Shape::coordinate:
-        return coordinateText(value, rule);
+        return addCoordinate(parts.characters, value, rule);
     case Shape::userParameter:
-        return userText(value, item.element, options);
+        return addUserValue(parts.characters, value, item.element, options);
     case Shape::special:
-        break;
+        return;
     }
-    return rule.special(page);
 }
 
-QString valueText(const Value& whole, const Item& item, const TmiPage_Zeta3& page, const TextOptions& options)
+void addValue(TextParts& parts, const Value& whole, const Item& item, const TmiPage_Zeta3& page,
+              const TextOptions& options)
 {
     const Rule* rule = &item.rule();
-    while (rule->when.bit != Condition::kNone && testBit(whole.raw, rule->when.bit) != rule->when.set) {
+    while (rule->when.bit != Condition::kNone && whole.testBit(rule->when.bit) != rule->when.set) {
         rule = rule->otherwise;
         if (rule == nullptr)
-            return {};
+            return;
     }
-    if (whole.integer == rule->none.code && rule->none.text)
-        return rule->none.text.text();
-    if (rule->negativeIsNone && whole.number < 0)
-        return {};
+    if (rule->none.text && whole.integer() == rule->none.code) {
+        parts.word = &rule->none.text;
+        return;
+    }
+    if (rule->negativeIsNone && whole.number() < 0)
+        return;
     // A bit of two states counts from the whole value.
     const bool ranged = rule->bits.count != 0 && rule->shape != Shape::twoState;
-    QString text = shapeText(ranged ? cutBits(whole, rule->bits) : whole, *rule, item, page, options);
+    addShape(parts, ranged ? cutBits(whole, rule->bits) : whole, *rule, item, page, options);
     if (rule->unit)
-        text += QLatin1Char(' ') + rule->unit.text();
-    return text;
+        parts.unit = &rule->unit;
 }
 
 } // namespace
 
+TextParts textParts(const TmiPage_Zeta3& page, ItemIndex index, const TextOptions& options)
+{
+    const Item& item = kItems[index];
+    const ValueType type = kElements[item.element].type;
+    TextParts parts;
+    if (page.isExtra() && page.extra().find(item.element) != nullptr)
+        addValue(parts, {page.extra().raw(item.element), type}, item, page, options);
+    else if (page.has(item.element))
+        addValue(parts, {page.raw(item.element), type}, item, page, options);
+    return parts;
+}
+
 QString text(const TmiPage_Zeta3& page, ItemIndex index, const TextOptions& options)
 {
     const Item& item = kItems[index];
-    if (page.isExtra() && page.extra().find(item.element) != nullptr)
-        return valueText(readValue(page.extra(), item.element), item, page, options);
-    if (item.rule().always || page.has(item.element))
-        return valueText(readValue<TmiPage_Zeta3::RecordValues>(page, item.element), item, page, options);
-    return {};
+    const Rule& rule = item.rule();
+    if (rule.shape == Shape::special)
+        return rule.always || page.has(item.element) ? rule.special(page) : QString();
+    const TextParts parts = textParts(page, index, options);
+    QString text = parts.word != nullptr ? parts.word->text() : QString();
+    if (!parts.characters.view().empty())
+        text += parts.characters.string();
+    if (parts.unit != nullptr)
+        text += QLatin1Char(' ') + parts.unit->text();
+    return text;
 }
 
 } // namespace vlk

@@ -4,6 +4,8 @@
 
 #include "telemetry/record/tmi_page_zeta3.h"
 #include "telemetry/text/item.h"
+#include "telemetry/text/local_zone.h"
+#include "telemetry/text/text_parts.h"
 
 namespace vlk {
 
@@ -12,11 +14,17 @@ struct TextOptions
     // The type letters of the user parameters, in their order: 16 of one byte, 15 of two, 15 of four and 3 of
     // eight. "u" unsigned, "s" signed, "b" binary digits, "f" floating; a slot without a letter is unsigned.
     std::string_view userTypes;
+    // Of local times, and of pages that have none of their own. Without it each of these looks the zone of
+    // the machine up.
+    const LocalZone* zone = nullptr;
 };
 
 // Empty if the record does not hold the item. Of an extra packet the items of its head have their texts.
 // Numbers have a decimal point and no groups whatever the locale; words are those of the installed
 // translator; times are in the zone of the page.
 QString text(const TmiPage_Zeta3& page, ItemIndex item, const TextOptions& options = {});
+
+// The same in parts, for those who look the words up themselves. Not for items of Shape::special.
+TextParts textParts(const TmiPage_Zeta3& page, ItemIndex item, const TextOptions& options = {});
 
 } // namespace vlk

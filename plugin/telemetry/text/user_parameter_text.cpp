@@ -6,15 +6,13 @@ namespace vlk {
 
 namespace {
 
-QString binaryDigits(quint64 raw, int bytes)
+void addBinaryDigits(AsciiText& text, quint64 raw, int bytes)
 {
-    QString digits;
     for (int bit = 8 * bytes - 1; bit >= 0; --bit) {
-        digits += QLatin1Char((raw >> bit & 1) != 0 ? '1' : '0');
+        text << ((raw >> bit & 1) != 0 ? '1' : '0');
         if (bit % 8 == 0 && bit != 0)
-            digits += QLatin1String("   ");
+            text << "   ";
     }
-    return digits;
 }
 
 qint64 withSign(quint64 raw, int bytes)
@@ -25,23 +23,18 @@ qint64 withSign(quint64 raw, int bytes)
 
 } // namespace
 
-QString userParameterText(quint64 raw, int bytes, char typeLetter)
+void addUserParameter(AsciiText& text, quint64 raw, int bytes, char typeLetter)
 {
-    switch (typeLetter) {
-    case 's':
-        return QString::number(withSign(raw, bytes));
-    case 'b':
-        return binaryDigits(raw, bytes);
-    case 'f':
-        if (bytes == 4)
-            return QString::number(std::bit_cast<float>(static_cast<quint32>(raw)), 'f', 6);
-        if (bytes == 8)
-            return QString::number(std::bit_cast<double>(raw), 'f', 6);
-        break;
-    default:
-        break;
-    }
-    return QString::number(raw);
+    if (typeLetter == 's')
+        text << withSign(raw, bytes);
+    else if (typeLetter == 'b')
+        addBinaryDigits(text, raw, bytes);
+    else if (typeLetter == 'f' && bytes == 4)
+        text.addFixed(std::bit_cast<float>(static_cast<quint32>(raw)), 6);
+    else if (typeLetter == 'f' && bytes == 8)
+        text.addFixed(std::bit_cast<double>(raw), 6);
+    else
+        text << raw;
 }
 
 } // namespace vlk

@@ -4,7 +4,7 @@
 // language. The key families tell them apart, so that a table names both alike:
 //
 //     Word("tmizta_012")        translated at every call, so that a change of language shows at once
-//     Word("GPRS (2G)")         stands as it is
+//     Word("GPRS (2G)")         stands as it is; ASCII only
 //     Word("tmizta_052", " 1")  the translated text and what follows it
 //     Word("")                  an empty text; Word() is no word at all
 
@@ -20,33 +20,52 @@ class Word
 public:
     constexpr Word() = default;
     constexpr Word(const char* text, const char* suffix = "")
-        : text_(text), suffix_(suffix),
-          isKey_(isOf("tmizta_", text) || isOf("wrd_", text) || isOf("abbr_", text))
+        : text_(text), suffix_(suffix), keyNumber_(keyNumberOf(text))
     {
     }
 
-    constexpr explicit operator bool() const { return text_ != nullptr; }
+    constexpr explicit operator bool() const { return text_.data() != nullptr; }
 
-    // The key, or null where there is none.
-    constexpr const char* key() const { return isKey_ ? text_ : nullptr; }
+    // Which of the kKeyNumbers keys that there can be, for tables of translated texts; -1 for what is no key.
+    static constexpr int kKeyNumbers = 3000;
+    constexpr int keyNumber() const { return keyNumber_; }
 
-    QString text() const
+    // The key, or the text that stands as it is.
+    constexpr std::string_view source() const { return text_; }
+    constexpr std::string_view suffix() const { return suffix_; }
+
+    // Without the suffix.
+    QString translated() const
     {
-        QString text = isKey_ ? QCoreApplication::translate("vlk", text_) : QString::fromLatin1(text_);
-        if (*suffix_ != '\0')
-            text += QLatin1String(suffix_);
-        return text;
+        return keyNumber_ >= 0 ? QCoreApplication::translate("vlk", text_.data()) : latin1(text_);
     }
+
+    QString text() const { return suffix_.empty() ? translated() : translated() + latin1(suffix_); }
 
 private:
-    static constexpr bool isOf(std::string_view family, std::string_view text)
+    static constexpr int keyNumberOf(std::string_view text)
     {
-        return text.starts_with(family);
+        int first = 0;
+        for (const std::string_view family : {"tmizta_", "wrd_", "abbr_"}) {
+            if (text.starts_with(family)) {
+                text.remove_prefix(family.size());
+                if (text.size() != 3)
+                    throw "a key has three digits";
+                return first + 100 * (text[0] - '0') + 10 * (text[1] - '0') + (text[2] - '0');
+            }
+            first += kKeyNumbers / 3;
+        }
+        return -1;
     }
 
-    const char* text_ = nullptr;
-    const char* suffix_ = "";
-    bool isKey_ = false;
+    static QLatin1String latin1(std::string_view text)
+    {
+        return QLatin1String(text.data(), static_cast<int>(text.size()));
+    }
+
+    std::string_view text_;
+    std::string_view suffix_;
+    int keyNumber_ = -1;
 };
 
 } // namespace vlk

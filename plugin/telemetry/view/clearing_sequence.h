@@ -1,8 +1,8 @@
 #pragma once
 
 // Clears the unsent data of the servers that the user checked, one after the other: the next server's turn
-// comes with the answer for the one before it, whose box is unchecked then. An answer that nobody waits for
-// does nothing.
+// comes with the answer for the one before it, whose box is unchecked then. A box that is checked behind its
+// turn waits for the next start. An answer that nobody waits for does nothing.
 
 #include <array>
 

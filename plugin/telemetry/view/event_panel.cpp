@@ -2,6 +2,8 @@
 
 #include "link/requests.h"
 #include "telemetry/text/item_text.h"
+#include "telemetry/view/item_display.h"
+#include "telemetry/view/value_label.h"
 #include "telemetry/view/value_rows.h"
 
 #include <QGridLayout>
@@ -19,11 +21,6 @@ int elementOf(const TmiPage_Zeta3& page)
                           : static_cast<int>(page.value<index>());
 }
 
-bool holds(const TmiPage_Zeta3& page, ElementIndex index)
-{
-    return page.isExtra() || page.has(index);
-}
-
 } // namespace
 
 EventPanel::EventPanel(QWidget* parent)
@@ -35,9 +32,9 @@ EventPanel::EventPanel(QWidget* parent)
       eventText_(makeCaption(QStringLiteral("label_Event_Code_Text"))),
       event_(makeValue(QStringLiteral("label_Event_Code_Value"))),
       stateText_(makeCaption(QStringLiteral("label_Event_State_Text"))),
-      guard_(makeCaption(QStringLiteral("label_Event_Mode_Guard_Value"))),
-      test_(makeCaption(QStringLiteral("label_Event_Mode_Test_Value"))),
-      alarm_(makeCaption(QStringLiteral("label_Event_Mode_Alarm_Value")))
+      guard_(makeValue(QStringLiteral("label_Event_Mode_Guard_Value"))),
+      test_(makeValue(QStringLiteral("label_Event_Mode_Test_Value"))),
+      alarm_(makeValue(QStringLiteral("label_Event_Mode_Alarm_Value")))
 {
     setObjectName(QStringLiteral("frame_TMI_Title"));
     group_->setObjectName(QStringLiteral("groupBox_Event"));
@@ -69,38 +66,41 @@ EventPanel::EventPanel(QWidget* parent)
 
 void EventPanel::setRecord(const TmiPage_Zeta3& page)
 {
-    number_->setText(text(page, item("NumPage")));
+    showItem(*number_, page, item("NumPage"));
     setTime(page);
-    event_->setText(holds(page, element("Code")) ? requests::eventText(elementOf<element("Code")>(page))
-                                                 : QString());
-    guard_->setText(text(page, item("State.mode")));
-    test_->setText(text(page, item("State.0")));
-    alarm_->setText(text(page, item("State.2")));
+    if (holds(page, element("Code")))
+        event_->setValue(requests::eventText(elementOf<element("Code")>(page)));
+    else
+        event_->setAbsent();
+    showItem(*guard_, page, item("State.mode"));
+    test_->setValue(text(page, item("State.0")));
+    alarm_->setValue(text(page, item("State.2")));
     const bool hasState = holds(page, element("State"));
     Q_EMIT signal_OperatingMode(hasState ? elementOf<element("State")>(page) >> 3 & 3 : kNoMode);
 }
 
 void EventPanel::setTime(const TmiPage_Zeta3& page)
 {
-    time_->setText(text(page, item("Time")));
+    showItem(*time_, page, item("Time"));
 }
 
 void EventPanel::setNumberAlone(quint32 number)
 {
     clear();
-    number_->setText(QString::number(number));
+    number_->setValue(QString::number(number));
 }
 
 void EventPanel::clear()
 {
-    for (QLabel* label : {number_, time_, event_, guard_, test_, alarm_})
-        label->clear();
+    for (ValueLabel* label : {number_, time_, event_, guard_, test_, alarm_})
+        label->setValue({});
     Q_EMIT signal_OperatingMode(kNoMode);
 }
 
 void EventPanel::setModesVisible(bool visible)
 {
-    for (QLabel* label : {stateText_, guard_, test_, alarm_})
+    stateText_->setVisible(visible);
+    for (ValueLabel* label : {guard_, test_, alarm_})
         label->setVisible(visible);
 }
 

@@ -10,6 +10,7 @@
 class QGroupBox;
 class QLabel;
 class TmiPage_Zeta3;
+class ValueLabel;
 
 class EventPanel : public QFrame
 {
@@ -41,13 +42,13 @@ Q_SIGNALS:
 private:
     QGroupBox* group_;
     QLabel* numberText_;
-    QLabel* number_;
+    ValueLabel* number_;
     QLabel* timeText_;
-    QLabel* time_;
+    ValueLabel* time_;
     QLabel* eventText_;
-    QLabel* event_;
+    ValueLabel* event_;
     QLabel* stateText_;
-    QLabel* guard_;
-    QLabel* test_;
-    QLabel* alarm_;
+    ValueLabel* guard_;
+    ValueLabel* test_;
+    ValueLabel* alarm_;
 };

@@ -2,6 +2,7 @@
 
 #include "telemetry/text/item_text.h"
 #include "telemetry/text/signal_level.h"
+#include "telemetry/view/item_display.h"
 #include "telemetry/view/position_rows.h"
 
 #include <QHBoxLayout>
@@ -188,7 +189,9 @@ void VLK_Form_Tmi_F3_Tab_Main::fill(const TmiPage_Zeta3& page)
     const QString level = text(page, item("GSM"));
     const bool isKnown = page.value<element("GSM")>() != kNoSignalLevel;
     level_->setValue(signalPercent(page.value<element("GSM")>()));
-    level_->setFormat(isKnown && !level.isEmpty() ? QStringLiteral("%p %") : level);
+    const bool isHeld = holds(page, element("GSM"));
+    level_->setFormat(!isHeld ? QString(kAbsentMark) : isKnown ? QStringLiteral("%p %") : level);
+    level_->setToolTip(isHeld ? QString() : absentTip());
 
     const bool hasCard = page.has(element("Module1"));
     const bool second = (page.value<element("Module1")>() >> 4 & 1) != 0;

@@ -1,15 +1,18 @@
 #include "telemetry/view/form_tmi_production.h"
 
 #include "link/device.h"
-#include "telemetry/text/item_text.h"
 #include "telemetry/text/signal_level.h"
+#include "telemetry/view/item_display.h"
 #include "telemetry/view/position_rows.h"
+#include "telemetry/view/value_label.h"
+#include "telemetry/view/value_width.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QProgressBar>
 #include <QScrollArea>
+#include <QScrollBar>
 
 using namespace vlk;
 
@@ -79,7 +82,7 @@ QString named(const char* stem, const char* end)
 
 VLK_Form_TMI_Production::VLK_Form_TMI_Production(EventPanel* panel, QWidget* parent)
     : QWidget(parent), record_(panel), levelText_(makeCaption(QStringLiteral("label_GSM_Level_Text"))),
-      level_(new QProgressBar(this))
+      level_(new QProgressBar(this)), scroll_(new QScrollArea(this)), columns_(new QHBoxLayout)
 {
     auto* modem = addGroup("groupBox_GSM", "tmift1_018");
     rows_.add(modem, kModem);
@@ -115,17 +118,16 @@ VLK_Form_TMI_Production::VLK_Form_TMI_Production(EventPanel* panel, QWidget* par
         left->addWidget(groups_[i].box);
     left->addStretch();
     auto* content = new QWidget;
-    auto* columns = new QHBoxLayout(content);
-    columns->setContentsMargins(0, 0, 4, 0);
-    columns->addLayout(left, 2);
-    columns->addWidget(groups_.back().box, 3);
-    auto* scroll = new QScrollArea(this);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setWidget(content);
+    content->setLayout(columns_);
+    columns_->setContentsMargins(0, 0, 4, 0);
+    columns_->addLayout(left, 2);
+    columns_->addWidget(groups_.back().box, 3);
+    scroll_->setFrameShape(QFrame::NoFrame);
+    scroll_->setWidgetResizable(true);
+    scroll_->setWidget(content);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(scroll);
+    layout->addWidget(scroll_);
     retranslate();
 }
 
@@ -165,9 +167,9 @@ void VLK_Form_TMI_Production::fill(const TmiPage_Zeta3& page)
     rows_.fill(page);
     level_->setValue(signalPercent(page.value<element("GSM")>()));
     for (std::size_t i = 0; i < std::size(kInputs); ++i)
-        inputValues_[i]->setText(text(page, kInputs[i].item));
+        showItem(*inputValues_[i], page, kInputs[i].item);
     for (std::size_t i = 0; i < std::size(kLastSegment); ++i)
-        segmentValues_[i]->setText(text(page, kLastSegment[i].item));
+        showItem(*segmentValues_[i], page, kLastSegment[i].item);
 }
 
 void VLK_Form_TMI_Production::markLimits(const TmiPage_Zeta3& page)
@@ -196,6 +198,30 @@ void VLK_Form_TMI_Production::alignValues()
     }
     for (const Group& group : below)
         group.grid->setColumnMinimumWidth(0, widest);
+
+    // Whatever the numbers are, the row of the last segment has its room.
+    int segment = 0;
+    for (std::size_t i = 0; i < std::size(kLastSegment); ++i) {
+        segment += widestText(segmentValues_[i]->fontMetrics(), kLastSegment[i].item) +
+                   segmentCaptions_[i + 1]->sizeHint().width() + 2 * kBesideSpacing;
+    }
+    groups_.back().grid->setColumnMinimumWidth(1, segment);
+}
+
+void VLK_Form_TMI_Production::arrange()
+{
+    const QMargins margins = columns_->contentsMargins();
+    int needed = margins.left() + margins.right() + columns_->spacing() +
+                 scroll_->verticalScrollBar()->sizeHint().width();
+    for (int i = 0; i < columns_->count(); ++i)
+        needed += columns_->itemAt(i)->minimumSize().width();
+    columns_->setDirection(width() < needed ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+}
+
+void VLK_Form_TMI_Production::resizeEvent(QResizeEvent* event)
+{
+    arrange();
+    QWidget::resizeEvent(event);
 }
 
 void VLK_Form_TMI_Production::retranslate()
@@ -210,6 +236,7 @@ void VLK_Form_TMI_Production::retranslate()
     for (std::size_t i = 0; i < segmentCaptions_.size(); ++i)
         segmentCaptions_[i]->setText(parts.value(static_cast<int>(i)));
     alignValues();
+    arrange();
     if (record_.page() != nullptr)
         fill(*record_.page());
 }

@@ -1,16 +1,19 @@
 #pragma once
 
 // The check of a finished tracker in the production modes: modem, inputs, navigation, and two voltages that
-// have limits. What fails its limit shows red; a value that the record lacks counts as 0 and fails.
+// have limits. What fails its limit shows red; a value that the record lacks counts as 0 and fails. Where the
+// window is too narrow for two columns, they stand below each other.
 
 #include "telemetry/view/record_on_show.h"
 #include "telemetry/view/value_rows.h"
 
 #include <QWidget>
 
+class QBoxLayout;
 class QGridLayout;
 class QGroupBox;
 class QProgressBar;
+class QScrollArea;
 
 class VLK_Form_TMI_Production : public QWidget
 {
@@ -29,6 +32,9 @@ public:
     const TmiPage_Zeta3* page() const { return record_.page(); }
     void retranslate();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     QGridLayout* addGroup(const char* name, const char* key);
     // The row "distance, seconds on the way, all seconds", whose captions are parts of one text.
@@ -36,6 +42,7 @@ private:
     void fill(const TmiPage_Zeta3& page);
     void markLimits(const TmiPage_Zeta3& page);
     void alignValues();
+    void arrange();
 
     struct Group
     {
@@ -48,9 +55,11 @@ private:
     vlk::ValueRows rows_;
     std::vector<Group> groups_;
     std::vector<QLabel*> inputTexts_;
-    std::vector<QLabel*> inputValues_;
+    std::vector<ValueLabel*> inputValues_;
     QLabel* levelText_;
     QProgressBar* level_;
     std::vector<QLabel*> segmentCaptions_;
-    std::vector<QLabel*> segmentValues_;
+    std::vector<ValueLabel*> segmentValues_;
+    QScrollArea* scroll_;
+    QBoxLayout* columns_;
 };

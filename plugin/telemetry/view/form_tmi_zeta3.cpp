@@ -139,13 +139,6 @@ void VLK_Form_TMI_Zeta3::retranslate()
         fill(*record_.page());
 }
 
-void VLK_Form_TMI_Zeta3::changeEvent(QEvent* event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
-        retranslate();
-}
-
 void VLK_Form_TMI_Zeta3::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::RightButton) {

@@ -2,7 +2,6 @@
 
 // The content form for telemetry records of protocol 3.0: four tabs of values, and two commands, switching an
 // output and setting the mileage. The live view gives it bytes, a browser of stored records gives it pages.
-// Its texts follow a change of language by themselves.
 
 #include "telemetry/record/telemetry_titles.h"
 #include "telemetry/view/record_on_show.h"
@@ -44,9 +43,9 @@ public:
     // Of the records that the form took; -1 before the first one.
     qint64 number() const { return record_.number(); }
     const TmiPage_Zeta3* page() const { return record_.page(); }
+    void retranslate();
 
 protected:
-    void changeEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
 
 private Q_SLOTS:
@@ -58,7 +57,6 @@ private Q_SLOTS:
 private:
     void addTab(VLK_Form_Tmi_F3_Tab* tab);
     void hideAbsentParts();
-    void retranslate();
 
     RecordOnShow record_;
     VLK_TabWidget* tabWidget_;

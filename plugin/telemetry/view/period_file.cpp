@@ -1,16 +1,23 @@
 #include "telemetry/view/period_file.h"
 
-#include "link/requests.h"
+#include "base/save_log.h"
+#include "base/whole_file.h"
 
-#include <QLoggingCategory>
+#include <QRegularExpression>
 
 namespace vlk {
 
-namespace {
-Q_LOGGING_CATEGORY(lcTelemetry, "vlk.telemetry")
+QString periodFileName(const QString& vehicle, const QDateTime& first, const QDateTime& last)
+{
+    // A vehicle's name is free text; a file name is not.
+    static const QRegularExpression forbidden(QStringLiteral("[\\\\/:*?\"<>|\\x00-\\x1f]"));
+    const auto text = [](const QDateTime& time) { return time.toString(QStringLiteral("yyyy-MM-dd hh-mm")); };
+    return QStringLiteral("%1 %2 - %3")
+        .arg(QString(vehicle).replace(forbidden, QStringLiteral("_")), text(first), text(last))
+        .trimmed();
 }
 
-bool writePeriod(const QString& path, TelemetryForm form, const RecordBytes& records,
+bool writePeriod(const QString& path, PeriodWriter write, const RecordBytes& records,
                  const TelemetryOrigin& origin)
 {
     TelemetryPages pages;
@@ -19,10 +26,13 @@ bool writePeriod(const QString& path, TelemetryForm form, const RecordBytes& rec
         pages.push_back(std::make_unique<TmiPage_Zeta3>(record.constData(), record.size()));
         pages.back()->setUtcOffset(origin.timeOffset);
     }
-    if (saveTelemetryFile(path, form, pages, origin, &requests::eventText))
-        return true;
-    qCWarning(lcTelemetry).noquote() << "a period of" << records.size() << "records was not saved as" << path;
-    return false;
+    QSaveFile file(path);
+    QString reason;
+    const bool saved = saveWhole(
+        file, [&](QIODevice& device) { return write(device, pages, origin); }, &reason);
+    if (!saved)
+        qCWarning(lcSave).noquote() << path + QLatin1String(": ") + reason;
+    return saved;
 }
 
 } // namespace vlk

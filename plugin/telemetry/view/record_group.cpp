@@ -1,6 +1,6 @@
 #include "telemetry/view/record_group.h"
 
-#include "telemetry/text/item_text.h"
+#include "telemetry/view/item_display.h"
 #include "telemetry/view/value_label.h"
 #include "telemetry/view/value_width.h"
 
@@ -241,7 +241,7 @@ void RecordGroup::setRowsVisible(int count)
 void RecordGroup::fill(const TmiPage_Zeta3& page)
 {
     for (const Value& value : values_)
-        value.label->setText(text(page, value.item));
+        showItem(*value.label, page, value.item);
 }
 
 void RecordGroup::retranslate()

@@ -39,7 +39,7 @@ std::optional<quint32> RecordStack::showRecord(const QByteArray& record)
     case kProtocol2:
         return showNumber(Zeta2, TmiPage_Zeta2(record.constData(), record.size()).number());
     case kProtocol3:
-        if (vlkDevice != nullptr && vlkDevice->mode() != 0)
+        if (vlkDevice != nullptr && vlkDevice->isProduction())
             return showIn(production_, Production, record);
         return showIn(zeta3_, Zeta3, record);
     default:
@@ -150,6 +150,8 @@ void RecordStack::setUtcOffset(int seconds)
 void RecordStack::retranslate()
 {
     panel_->retranslate();
+    if (zeta3_ != nullptr)
+        zeta3_->retranslate();
     if (zetaExt_ != nullptr)
         zetaExt_->retranslate();
     if (production_ != nullptr)

@@ -2,6 +2,11 @@
 
 #include "link/requests.h"
 #include "telemetry/files/title_lines.h"
+#include "telemetry/text/time_text.h"
+#include "telemetry/view/item_display.h"
+
+#include <QGuiApplication>
+#include <QPalette>
 
 #include <algorithm>
 #include <numeric>
@@ -26,9 +31,9 @@ bool isNumeric(const CsvColumn& column)
            shape == Shape::coordinate || shape == Shape::userParameter;
 }
 
-bool holds(const TmiPage_Zeta3& page, const CsvColumn& column)
+bool isCoordinate(const CsvColumn& column)
 {
-    return page.isExtra() ? isInPackets(column) : page.has(column.element());
+    return kItems[column.item].rule().shape == Shape::coordinate;
 }
 
 // In the order of the alphabet, from 0 on.
@@ -45,7 +50,7 @@ QHash<QString, double> ranksOf(QStringList words)
 // Times and coordinates are ordered by what is behind their texts, which would take long to make.
 bool sortsByValue(const CsvColumn& column)
 {
-    return isTime(column) || kItems[column.item].rule().shape == Shape::coordinate;
+    return isTime(column) || isCoordinate(column);
 }
 
 double valueOf(const TmiPage_Zeta3& page, const CsvColumn& column)
@@ -127,9 +132,21 @@ QVariant RecordsModel::data(const QModelIndex& index, int role) const
         const bool toTheRight = !isPacketData(index.column()) && isNumeric(columns_[index.column()]);
         return static_cast<int>(Qt::AlignVCenter | (toTheRight ? Qt::AlignRight : Qt::AlignLeft));
     }
+    const int page = order_[index.row()];
+    if (isAbsent(page, index.column())) {
+        switch (role) {
+        case Qt::DisplayRole:
+            return QString(kAbsentMark);
+        case Qt::ToolTipRole:
+            return absentTip();
+        case Qt::ForegroundRole:
+            return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+        default:
+            return {};
+        }
+    }
     if (role != Qt::DisplayRole)
         return {};
-    const int page = order_[index.row()];
     const quint64 key = static_cast<quint64>(page) << 32 | static_cast<quint32>(index.column());
     if (const QString* known = cells_.object(key))
         return *known;
@@ -149,6 +166,12 @@ QVariant RecordsModel::headerData(int section, Qt::Orientation orientation, int 
     return section < headings_.size() ? headings_[section] : QVariant();
 }
 
+bool RecordsModel::isAbsent(int page, int column) const
+{
+    return isPacketData(column) ? !pages_[page]->isExtra()
+                                : !holds(*pages_[page], columns_[column].element());
+}
+
 QString RecordsModel::cellText(int page, int column) const
 {
     const TmiPage_Zeta3& record = *pages_[page];
@@ -160,8 +183,12 @@ QString RecordsModel::cellText(int page, int column) const
         return entries.join(QLatin1String(", "));
     }
     const CsvColumn& shown = columns_[column];
-    if (!holds(record, shown))
+    if (isAbsent(page, column))
         return {};
+    if (isTime(shown))
+        return zonedTimeText(static_cast<quint32>(valueOf(record, shown)), record.utcOffset());
+    if (isCoordinate(shown))
+        return positionText(record, shown.item);
     if (shown.element() == element("Code")) {
         QString event = eventText(codeOf(record));
         if (!event.isEmpty())
@@ -182,7 +209,7 @@ std::vector<RecordsModel::SortKey> RecordsModel::sortKeys(int column) const
     const CsvColumn* const shown = isPacketData(column) ? nullptr : &columns_[column];
     if (shown != nullptr && sortsByValue(*shown)) {
         for (std::size_t page = 0; page < pages_.size(); ++page) {
-            if (holds(*pages_[page], *shown))
+            if (holds(*pages_[page], shown->element()))
                 keys[page] = {SortKey::Number, valueOf(*pages_[page], *shown)};
         }
         return keys;

@@ -1,8 +1,9 @@
 #pragma once
 
 // The records and extra packets of a file as a table: a row each, and the columns that their masks select,
-// with the headings and the texts that the CSV file has. A text is made when a view asks for it, so the cost
-// of a file on show does not depend on its length.
+// with the headings and the texts that the CSV file has; times are written as in the browser, positions with
+// their hemisphere. What a record lacks is a dash. A text is made when a view asks for it, so the cost of a
+// file on show does not depend on its length.
 //
 // Sorting orders numbers by size, times by time and words by alphabet; empty cells stand last in both
 // directions, and equal ones in the order of the file.
@@ -38,6 +39,7 @@ private:
     struct SortKey;
 
     void makeHeadings();
+    bool isAbsent(int page, int column) const;
     // Of the file's page, counted from 0.
     QString cellText(int page, int column) const;
     QString eventText(quint16 code) const;

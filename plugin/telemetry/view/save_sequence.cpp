@@ -3,10 +3,14 @@
 #include "base/clock.h"
 #include "link/device.h"
 #include "link/requests.h"
+#include "telemetry/files/telemetry_binary_writer.h"
+#include "telemetry/files/telemetry_csv_writer.h"
+#include "telemetry/files/telemetry_xml_writer.h"
 #include "telemetry/record/record_head.h"
 
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QLoggingCategory>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScopedValueRollback>
@@ -18,17 +22,25 @@ using namespace vlk;
 
 namespace {
 
+Q_LOGGING_CATEGORY(lcTelemetry, "vlk.telemetry")
+
+bool writeCsv(QIODevice& device, const TelemetryPages& pages, const TelemetryOrigin& origin)
+{
+    return writeTelemetryCsv(device, pages, origin.titles, &requests::eventText);
+}
+
 struct FileKind
 {
-    TelemetryForm form;
+    const char* name; // key
     const char* suffix;
+    PeriodWriter write;
 };
 
 // By mode, from Xml on.
 constexpr FileKind kFileKinds[] = {
-    {TelemetryForm::xml, "xml"},
-    {TelemetryForm::csv, "csv"},
-    {TelemetryForm::binary, "tmi"},
+    {"tmiw_179", "xml", &writeTelemetryXml},
+    {"tmiw_180", "csv", &writeCsv},
+    {"tmiw_181", "tmi", &writeTelemetryBinary},
 };
 
 const FileKind& kindOf(SaveSequence::Mode mode)
@@ -54,7 +66,7 @@ std::optional<qint64> numberOf(const QByteArray& record)
 } // namespace
 
 void SaveSequence::start(Mode mode, const QDateTime& first, const QDateTime& last,
-                         const TelemetryOrigin& origin)
+                         const TelemetryOrigin& origin, const QString& proposedName)
 {
     stop();
     saving_ = true;
@@ -65,6 +77,7 @@ void SaveSequence::start(Mode mode, const QDateTime& first, const QDateTime& las
     }
     saveMode_ = mode;
     origin_ = origin;
+    proposedName_ = proposedName;
     periodEnd_ = last;
     Q_EMIT runningChanged(true);
     progress_.setStatus("tmiw_026");
@@ -94,10 +107,17 @@ void SaveSequence::take(const QByteArray& record)
 void SaveSequence::stop()
 {
     saving_ = false;
-    if (!isRunning())
+    if (!isRunning()) {
+        // What became of the last one has been read.
+        progress_.clear();
         return;
+    }
     if (fileDialog_ != nullptr)
         fileDialog_->reject();
+    if (saveState_ == Collecting)
+        qCWarning(lcTelemetry).noquote().nospace()
+            << saveFileName_ << ": " << records_.size() << " of " << saveTotal_ + 1
+            << " records, the save was ended before the others came";
     end();
 }
 
@@ -177,11 +197,13 @@ void SaveSequence::takeNext(const QByteArray& record)
 
 void SaveSequence::askFileName()
 {
-    const QString suffix = QLatin1String(kindOf(saveMode_).suffix);
+    const FileKind& kind = kindOf(saveMode_);
+    const QString suffix = QLatin1String(kind.suffix);
     QFileDialog dialog(window_, word("wrd_028"), vlkDevice != nullptr ? vlkDevice->tmiFolder() : QString(),
-                       QLatin1String("*.") + suffix);
+                       QStringLiteral("%1 (*.%2)").arg(word(kind.name), suffix));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(suffix);
+    dialog.selectFile(proposedName_ + QLatin1Char('.') + suffix);
     fileDialog_ = &dialog;
     if (dialog.exec() == QDialog::Accepted && isRunning()) {
         saveFileName_ = dialog.selectedFiles().value(0);
@@ -203,9 +225,12 @@ void SaveSequence::end()
     saveState_ = Idle;
     arrived_.clear();
     const RecordBytes records = std::exchange(records_, {});
-    if (std::exchange(fileChosen_, false))
-        writePeriod(saveFileName_, kindOf(saveMode_).form, records, origin_);
+    const bool isFailed = std::exchange(fileChosen_, false) &&
+                          !writePeriod(saveFileName_, kindOf(saveMode_).write, records, origin_);
     progress_.clear();
+    // Stays until the user does something else.
+    if (isFailed)
+        progress_.setStatus("tmiw_182");
     Q_EMIT runningChanged(false);
 }
 

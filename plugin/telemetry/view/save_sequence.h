@@ -6,7 +6,8 @@
 // is; they are decoded when the file is written.
 //
 // A cancel takes effect with the next record. Whatever ends a save after its file name was given, a closed
-// window or a detached tracker too, the file is written with what was collected.
+// window or a detached tracker too, the file is written with what was collected. That a file could not be
+// written stands in the progress area until the user goes on.
 
 #include "telemetry/view/period_file.h"
 #include "telemetry/view/save_progress.h"
@@ -30,8 +31,10 @@ public:
     {
     }
 
-    // From `first` to `last`, in UTC; a period that does not go forward is refused with a message box.
-    void start(Mode mode, const QDateTime& first, const QDateTime& last, const vlk::TelemetryOrigin& origin);
+    // From `first` to `last`, in UTC; a period that does not go forward is refused with a message box. The
+    // proposed name of the file is without its suffix.
+    void start(Mode mode, const QDateTime& first, const QDateTime& last, const vlk::TelemetryOrigin& origin,
+               const QString& proposedName);
     void take(const QByteArray& record);
     void cancel() { saveCancelled_ = true; }
     // The user looks at records again: a save that runs ends here.
@@ -70,6 +73,7 @@ private:
     bool stepping_ = false;
     Mode saveMode_ = Xml;
     State saveState_ = Idle;
+    QString proposedName_;
     QString saveFileName_;
     QPointer<QFileDialog> fileDialog_;
     QDateTime saveStart_;

@@ -53,18 +53,38 @@ void setControlTexts(const Ui::VLK_Designer_Widget_Tmi_View& ui)
     };
     for (const auto& [label, key] : labels)
         label->setText(word(key));
-    const std::pair<QWidget*, const char*> tips[] = {
-        {ui.pushButton_SaveToFile, "tmiw_148"},
-        {ui.pushButton_SaveToExcel, "tmiw_149"},
-        {ui.pushButton_SaveFileToServer, "tmiw_150"},
-        {ui.spinBox_RFID, "tmiw_147"},
-    };
-    for (const auto& [widget, key] : tips)
-        widget->setToolTip(word(key));
     QCheckBox* const servers[] = {ui.checkBox_Server1, ui.checkBox_Server2, ui.checkBox_Server3};
     for (std::size_t i = 0; i < std::size(servers); ++i)
         servers[i]->setText(QStringLiteral("%1 %2").arg(word("tmiw_023")).arg(i + 1));
     ui.spinBox_TimeOffset->setSuffix(QLatin1Char(' ') + word("abbr_001"));
     ui.horizontalSlider_Auto_Tmi->setAccessibleName(word("tmiw_007"));
     ui.spinBox_RFID->setAccessibleName(word("tmiw_147"));
+}
+
+std::vector<QWidget*> manualControls(const Ui::VLK_Designer_Widget_Tmi_View& ui)
+{
+    return {ui.groupBox_Btn_Get,
+            ui.groupBox_Btn_Save,
+            ui.pushButton_Taho,
+            ui.pushButton_FuelSensor,
+            ui.pushButton_RFID,
+            ui.pushButton_Get_Current_Touch,
+            ui.pushButton_Get_Current_RFID};
+}
+
+void setToolTips(const Ui::VLK_Designer_Widget_Tmi_View& ui, const char* reasonKey)
+{
+    const std::pair<QWidget*, const char*> tips[] = {
+        {ui.pushButton_SaveToFile, "tmiw_148"},
+        {ui.pushButton_SaveToExcel, "tmiw_149"},
+        {ui.pushButton_SaveFileToServer, "tmiw_150"},
+        {ui.spinBox_RFID, "tmiw_147"},
+        {ui.label_Capability, "tmiw_178"},
+    };
+    const QString reason = reasonKey != nullptr ? word(reasonKey) : QString();
+    for (QWidget* control : manualControls(ui))
+        control->setToolTip(reason);
+    // Without a tool tip of its own a control shows that of its group.
+    for (const auto& [widget, key] : tips)
+        widget->setToolTip(widget->isEnabled() ? word(key) : QString());
 }

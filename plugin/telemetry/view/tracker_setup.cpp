@@ -53,17 +53,18 @@ void readText(CXmlSection* root, const char* section, const QString& child, cons
 
 } // namespace
 
-bool readTrackerSetup(const QString& path, TrackerSetup& setup)
+void readTrackerSetup(const QString& path, TrackerSetup& setup)
 {
+    setup.objectName = TrackerSetup().objectName;
+    setup.balanceUssd.clear();
     // Opening a document makes the file where there is none.
     if (!QFileInfo(path).isFile())
-        return false;
+        return;
     XmlDocument document(path, QStringLiteral("DEVICE"));
     if (!document.isOpen())
-        return false;
+        return;
     CXmlSection* root = document.root();
     readText(root, "TRANS", QStringLiteral("OBJECT"), "name", setup.objectName);
-    setup.balanceUssd.clear();
     readText(root, "SYSTEM", QStringLiteral("BALANCE"), "USSD", setup.balanceUssd);
     for (const TitleSource& source : kTitleSources) {
         const auto titles = source.titles(setup.titles).first<kTitlesRead>();
@@ -71,7 +72,6 @@ bool readTrackerSetup(const QString& path, TrackerSetup& setup)
             readText(root, source.section, QString::fromLatin1(source.child).arg(i + 1), source.attribute,
                      titles[i]);
     }
-    return true;
 }
 
 } // namespace vlk

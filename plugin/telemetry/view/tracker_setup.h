@@ -14,8 +14,8 @@ struct TrackerSetup
     TelemetryTitles titles;
 };
 
-// Reads the file at `path` over `setup`: names that it does not hold stay as they were. False, and nothing
-// changes, if it cannot be read.
-bool readTrackerSetup(const QString& path, TrackerSetup& setup);
+// Reads the file at `path` over `setup`: the vehicle and the balance request are as the file says, or none;
+// names of lines and sensors that it does not hold stay as they were.
+void readTrackerSetup(const QString& path, TrackerSetup& setup);
 
 } // namespace vlk

@@ -1,9 +1,13 @@
 #include "telemetry/view/value_label.h"
 
+#include "telemetry/view/item_display.h"
+
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QToolTip>
+
+#include <utility>
 
 ValueLabel::ValueLabel(const QString& objectName, QWidget* parent) : QLabel(parent)
 {
@@ -25,15 +29,55 @@ void ValueLabel::setTextWidths(int leastCharacters, int mostCharacters)
     setFixedHeight(fontMetrics().height());
 }
 
+void ValueLabel::setValue(const QString& value)
+{
+    if (std::exchange(isAbsent_, false)) {
+        updateGeometry();
+        update();
+    }
+    setText(value);
+}
+
+void ValueLabel::setAbsent()
+{
+    setText({});
+    if (!std::exchange(isAbsent_, true)) {
+        updateGeometry();
+        update();
+    }
+}
+
+QSize ValueLabel::sizeHint() const
+{
+    return withDash(QLabel::sizeHint());
+}
+
+QSize ValueLabel::minimumSizeHint() const
+{
+    return withDash(QLabel::minimumSizeHint());
+}
+
+QSize ValueLabel::withDash(const QSize& size) const
+{
+    return isAbsent_ ? size.expandedTo({fontMetrics().horizontalAdvance(vlk::kAbsentMark), 0}) : size;
+}
+
 bool ValueLabel::fits() const
 {
     return fontMetrics().horizontalAdvance(text()) <= width();
 }
 
+QString ValueLabel::tip() const
+{
+    if (isAbsent_)
+        return vlk::absentTip();
+    return fits() ? toolTip() : text();
+}
+
 bool ValueLabel::event(QEvent* event)
 {
-    if (event->type() == QEvent::ToolTip && !fits()) {
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+    if (event->type() == QEvent::ToolTip && !tip().isEmpty()) {
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip(), this);
         return true;
     }
     return QLabel::event(event);
@@ -42,7 +86,11 @@ bool ValueLabel::event(QEvent* event)
 void ValueLabel::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    const QString shown = fits() ? text() : fontMetrics().elidedText(text(), Qt::ElideRight, width());
+    const QString shown = isAbsent_ ? QString(vlk::kAbsentMark)
+                          : fits()  ? text()
+                                    : fontMetrics().elidedText(text(), Qt::ElideRight, width());
+    if (isAbsent_)
+        painter.setOpacity(0.5);
     style()->drawItemText(&painter, rect(), static_cast<int>(alignment()), palette(), isEnabled(), shown,
                           foregroundRole());
 }

@@ -1,6 +1,7 @@
 #include "telemetry/view/value_rows.h"
 
-#include "telemetry/text/item_text.h"
+#include "telemetry/view/item_display.h"
+#include "telemetry/view/value_label.h"
 #include "telemetry/view/value_width.h"
 
 #include <QCoreApplication>
@@ -9,9 +10,7 @@
 
 namespace vlk {
 
-namespace {
-
-QLabel* makeLabel(const QString& name)
+QLabel* makeCaption(const QString& name)
 {
     auto* label = new QLabel;
     label->setObjectName(name);
@@ -19,16 +18,9 @@ QLabel* makeLabel(const QString& name)
     return label;
 }
 
-} // namespace
-
-QLabel* makeCaption(const QString& name)
+ValueLabel* makeValue(const QString& name)
 {
-    return makeLabel(name);
-}
-
-QLabel* makeValue(const QString& name)
-{
-    QLabel* label = makeLabel(name);
+    auto* label = new ValueLabel(name);
     label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     label->setMinimumWidth(label->fontMetrics().averageCharWidth() * 8);
     return label;
@@ -42,7 +34,7 @@ int widthOfTime(const QLabel* label)
 QHBoxLayout* besideEachOther(std::initializer_list<QLabel*> labels)
 {
     auto* layout = new QHBoxLayout;
-    layout->setSpacing(8);
+    layout->setSpacing(kBesideSpacing);
     for (QLabel* label : labels) {
         label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
         label->setMinimumWidth(0);
@@ -68,7 +60,7 @@ void ValueRows::add(QGridLayout* grid, std::span<const ValueRow> rows, int colum
     for (const ValueRow& row : rows) {
         const QString name = QString::fromLatin1(row.value);
         QLabel* caption = makeCaption(QString(name).replace(QLatin1String("_Value"), QLatin1String("_Text")));
-        QLabel* value = makeValue(name);
+        ValueLabel* value = makeValue(name);
         grid->addWidget(caption, at, column);
         QLabel* unit = row.unit == nullptr ? nullptr : makeCaption(QString::fromLatin1(row.unit));
         if (unit == nullptr)
@@ -98,7 +90,7 @@ void ValueRows::retranslate()
 void ValueRows::fill(const TmiPage_Zeta3& page)
 {
     for (const Shown& shown : shown_)
-        shown.value->setText(text(page, shown.row.item));
+        showItem(*shown.value, page, shown.row.item);
 }
 
 } // namespace vlk

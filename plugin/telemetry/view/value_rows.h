@@ -9,7 +9,7 @@
 //
 // The caption's object name is that of the value with "_Text" for "_Value". A unit stands behind its value;
 // its text is a key of its own, or the part of the caption's text behind the marker "<val>". Columns keep
-// their places while values come and go; a value that the record lacks is empty.
+// their places while values come and go; a dash stands for a value that the record lacks.
 
 #include "telemetry/text/item.h"
 
@@ -20,6 +20,7 @@
 class QGridLayout;
 class QHBoxLayout;
 class QLabel;
+class ValueLabel;
 class TmiPage_Zeta3;
 
 namespace vlk {
@@ -46,7 +47,7 @@ private:
     {
         ValueRow row;
         QLabel* caption;
-        QLabel* value;
+        ValueLabel* value;
         QLabel* unit;
     };
     std::vector<Shown> shown_;
@@ -55,12 +56,13 @@ private:
 // A label for a value or a caption, named and plain. A value never asks for room, so that a long one does not
 // move its neighbours.
 QLabel* makeCaption(const QString& name);
-QLabel* makeValue(const QString& name);
+ValueLabel* makeValue(const QString& name);
 
 // The width of the longest event time in the label's font.
 int widthOfTime(const QLabel* label);
 
-// Captions and values in one line, each as wide as its text.
+// Captions and values in one line, each as wide as its text and this far apart.
+inline constexpr int kBesideSpacing = 8;
 QHBoxLayout* besideEachOther(std::initializer_list<QLabel*> labels);
 
 // The parts of a text around its "<val>" markers.

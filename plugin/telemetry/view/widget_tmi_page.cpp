@@ -5,6 +5,11 @@
 #include "link/requests.h"
 #include "telemetry/view/event_panel.h"
 #include "telemetry/view/stored_file.h"
+#include "windows/fit_to_screen.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QStyle>
 
 #include <algorithm>
 #include <limits>
@@ -37,7 +42,10 @@ VLK_Widget_Tmi_Page::VLK_Widget_Tmi_Page(QWidget* parent)
 {
     ui_->verticalLayout_Event->addWidget(eventPanel_);
     ui_->pushButton_Go->hide();
+    ui_->label_NoRecord->hide();
+    setArrows();
     connectControls();
+    vlk::keepOnScreen(this);
     stack_.showNothing();
     retranslate();
 }
@@ -66,16 +74,41 @@ void VLK_Widget_Tmi_Page::connectControls()
             &Page::slot_valueChanged_spinBox_Go);
 }
 
+// The texts of the two buttons are numbers; arrows tell where they lead. Those of the style are black
+// whatever the palette is.
+void VLK_Widget_Tmi_Page::setArrows()
+{
+    for (const auto& [button, arrow] : {std::pair(ui_->pushButton_Begin, QStyle::SP_MediaSkipBackward),
+                                        std::pair(ui_->pushButton_End, QStyle::SP_MediaSkipForward)}) {
+        QPixmap pixmap = style()->standardIcon(arrow).pixmap(button->iconSize());
+        QPainter painter(&pixmap);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(pixmap.rect(), palette().color(QPalette::Active, QPalette::ButtonText));
+        painter.end();
+        button->setIcon(pixmap);
+    }
+}
+
+void VLK_Widget_Tmi_Page::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        setArrows();
+}
+
 void VLK_Widget_Tmi_Page::open(const QString& path)
 {
     stack_.showNothing();
+    // A file may be large: two of them need not be in memory.
+    pages_ = TelemetryPages();
     TelemetryContents contents = readStoredFile(path);
     pages_ = std::move(contents.pages);
+    ui_->label_NoRecord->hide();
     if (pages_.empty())
         return;
     stack_.setTracker(contents.titles, 0);
     setRange(lastPosition(pages_));
-    showPage(0);
+    goTo(0);
 }
 
 void VLK_Widget_Tmi_Page::setRange(int last)
@@ -92,16 +125,31 @@ void VLK_Widget_Tmi_Page::setRange(int last)
 
 void VLK_Widget_Tmi_Page::showPage(std::size_t position)
 {
-    if (position >= pages_.size())
+    currentPage_ = position;
+    stack_.showDecoded(*pages_[position]);
+}
+
+void VLK_Widget_Tmi_Page::goTo(int position)
+{
+    if (pages_.empty())
         return;
-    const bool isFirst = position == 0;
-    const bool isLast = position + 1 == pages_.size();
+    const auto page = static_cast<std::size_t>(position);
+    const bool isFirst = page == 0;
+    const bool isLast = page + 1 >= pages_.size();
     ui_->pushButton_Begin->setEnabled(!isFirst);
     ui_->pushButton_Get_Prev->setEnabled(!isFirst);
     ui_->pushButton_Get_Next->setEnabled(!isLast);
     ui_->pushButton_End->setEnabled(!isLast);
-    currentPage_ = position;
-    stack_.showDecoded(*pages_[position]);
+    if (page < pages_.size())
+        showPage(page);
+    describePosition();
+}
+
+void VLK_Widget_Tmi_Page::describePosition()
+{
+    const auto pageCount = static_cast<int>(pages_.size());
+    ui_->label_NoRecord->setVisible(ui_->horizontalSlider->maximum() >= pageCount);
+    ui_->label_NoRecord->setText(ui_->horizontalSlider->value() < pageCount ? QString() : tr("tmiw_183"));
 }
 
 void VLK_Widget_Tmi_Page::retranslate()
@@ -114,14 +162,22 @@ void VLK_Widget_Tmi_Page::retranslate()
     ui_->pushButton_Close->setText(tr("wrd_054"));
     ui_->horizontalSlider->setAccessibleName(tr("tmiw_003"));
     ui_->spinBox_Go->setAccessibleName(tr("tmiw_003"));
+    for (const auto& [button, key] :
+         {std::pair(ui_->pushButton_Begin, "tmiw_184"), std::pair(ui_->pushButton_End, "tmiw_185")}) {
+        button->setToolTip(tr(key));
+        button->setAccessibleName(tr(key));
+    }
     stack_.retranslate();
+    if (pages_.empty())
+        return;
     showPage(currentPage_);
+    describePosition();
 }
 
 void VLK_Widget_Tmi_Page::slot_valueChanged_horizontalSlider(int position)
 {
     ui_->spinBox_Go->setValue(position);
-    showPage(static_cast<std::size_t>(position));
+    goTo(position);
 }
 
 void VLK_Widget_Tmi_Page::slot_valueChanged_spinBox_Go(int position)
@@ -136,7 +192,8 @@ void VLK_Widget_Tmi_Page::slot_Pressed_PushButton_Begin()
 
 void VLK_Widget_Tmi_Page::slot_Pressed_PushButton_Get_Prev()
 {
-    ui_->horizontalSlider->setValue(ui_->horizontalSlider->value() - 1);
+    const auto lastPage = static_cast<int>(pages_.size()) - 1;
+    ui_->horizontalSlider->setValue(std::min(ui_->horizontalSlider->value() - 1, lastPage));
 }
 
 void VLK_Widget_Tmi_Page::slot_Pressed_PushButton_Get_Next()

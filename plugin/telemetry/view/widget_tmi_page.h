@@ -29,6 +29,9 @@ public:
     void open(const QString& path);
     void retranslate();
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private Q_SLOTS:
     void slot_valueChanged_horizontalSlider(int position);
     void slot_valueChanged_spinBox_Go(int position);
@@ -42,9 +45,13 @@ private Q_SLOTS:
 
 private:
     void connectControls();
+    void setArrows();
     void setRange(int last);
-    // Positions behind the last page change nothing.
     void showPage(std::size_t position);
+    // The file counts more positions than it has pages where numbers are missing. Those behind the last page
+    // leave on show what was, and say so.
+    void goTo(int position);
+    void describePosition();
 
     std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_Page> ui_;
     EventPanel* eventPanel_;

@@ -2,12 +2,13 @@
 
 #include "telemetry/view/records_model.h"
 #include "telemetry/view/stored_file.h"
+#include "windows/fit_to_screen.h"
 
-#include <QEvent>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QTableView>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -61,30 +62,31 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(table_);
     resize(kWidth, kHeight);
-    retranslate();
+    showTitle();
 }
 
 void VLK_Widget_Tmi_Table::open(const QString& path)
 {
     fileName_ = QFileInfo(path).fileName();
     table_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    // A file may be large: two of them need not be in memory.
+    model_->setContents({});
     model_->setContents(vlk::readStoredFile(path));
     table_->scrollToTop();
     fitColumns();
-    retranslate();
-}
-
-void VLK_Widget_Tmi_Table::changeEvent(QEvent* event)
-{
-    QDialog::changeEvent(event);
-    if (event->type() != QEvent::LanguageChange)
-        return;
-    model_->retranslate();
-    fitColumns();
-    retranslate();
+    showTitle();
+    // Shown before it reads, the window has a frame by then.
+    QTimer::singleShot(0, this, [this] { vlk::fitToScreen(this); });
 }
 
 void VLK_Widget_Tmi_Table::retranslate()
+{
+    model_->retranslate();
+    fitColumns();
+    showTitle();
+}
+
+void VLK_Widget_Tmi_Table::showTitle()
 {
     setWindowTitle(fileName_.isEmpty() ? tr("tmiw_031")
                                        : QStringLiteral("%1 - %2").arg(fileName_, tr("tmiw_031")));

@@ -17,12 +17,10 @@ public:
     using QDialog::open;
     // Shows an XML or binary file in place of what was on show; an empty table if it holds no record.
     void open(const QString& path);
-
-protected:
-    void changeEvent(QEvent* event) override;
+    void retranslate();
 
 private:
-    void retranslate();
+    void showTitle();
     void fitColumns();
 
     RecordsModel* model_;

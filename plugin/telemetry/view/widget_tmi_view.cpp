@@ -10,6 +10,7 @@
 #include "telemetry/text/key_text.h"
 #include "telemetry/view/event_panel.h"
 #include "telemetry/view/tmi_view_texts.h"
+#include "windows/fit_to_screen.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -21,6 +22,7 @@ namespace {
 
 constexpr int kSecondsPerHour = 3600;
 constexpr int kLiveOwnerView = 1;
+constexpr int kFirstProductionMode = 1;
 enum ExtraRecord { LastTouchKey = 1, LastRfid = 3 };
 
 std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_View> setUpUi(QDialog* window)
@@ -28,11 +30,6 @@ std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_View> setUpUi(QDialog* window)
     auto ui = std::make_unique<Ui::VLK_Designer_Widget_Tmi_View>();
     ui->setupUi(window);
     return ui;
-}
-
-int hostMode()
-{
-    return vlkDevice != nullptr ? vlkDevice->mode() : 0;
 }
 
 } // namespace
@@ -52,9 +49,10 @@ VLK_Widget_Tmi_View::VLK_Widget_Tmi_View(QWidget* parent)
     }
     save_.clearProgress();
     connectControls();
+    keepOnScreen(this);
     connect(eventPanel_, &EventPanel::signal_OperatingMode, this, &VLK_Widget_Tmi_View::setGuardButtons);
     connect(&save_, &SaveSequence::runningChanged, this,
-            [this](bool running) { setManualEnabled(!running); });
+            [this](bool running) { setManualBlocked(running ? "tmiw_176" : nullptr); });
     connect(&automatic_, &AutomaticRequests::timeout, this,
             &VLK_Widget_Tmi_View::slot_timeout_m_Timer_Auto_TMI);
     retranslate();
@@ -103,8 +101,8 @@ void VLK_Widget_Tmi_View::connectControls()
 void VLK_Widget_Tmi_View::open(const QString& configurationPath)
 {
     stopRequests();
-    setup_.objectName = TrackerSetup().objectName;
-    if (readTrackerSetup(configurationPath, setup_) && vlkDevice != nullptr)
+    readTrackerSetup(configurationPath, setup_);
+    if (vlkDevice != nullptr)
         qstrncpy(vlkDevice->balanceUssd(), setup_.balanceUssd.toLocal8Bit().constData(), balanceUssdSize);
     pages_.setTracker(setup_.titles, vlkDevice != nullptr ? vlkDevice->capabilityMask() : 0);
 
@@ -132,11 +130,11 @@ void VLK_Widget_Tmi_View::open(const QString& configurationPath)
     if (fuelSensors_ != nullptr)
         fuelSensors_->linkFound();
 
-    if (hostMode() == 0) {
-        requests::currentRecord();
-    } else {
+    if (vlkDevice != nullptr && vlkDevice->isProduction()) {
         ui_->horizontalSlider_Auto_Tmi->setValue(1);
         ui_->checkBox_Get_Auto_TMI->setChecked(true);
+    } else {
+        requests::currentRecord();
     }
 }
 
@@ -148,15 +146,16 @@ void VLK_Widget_Tmi_View::setTitle()
     setWindowTitle(
         QStringLiteral("%1 / %2 / %3 / %4 / %5")
             .arg(tr("tmiw_001"), vlkDevice->model(), mask, vlkDevice->trackerId2(), vlkDevice->trackerId1()));
+    ui_->label_Capability->setText(QStringLiteral("%1: %2").arg(tr("tmiw_177"), mask));
 }
 
-void VLK_Widget_Tmi_View::setManualEnabled(bool enabled)
+void VLK_Widget_Tmi_View::setManualBlocked(const char* reasonKey)
 {
-    QWidget* const manual[] = {ui_->groupBox_Btn_Get, ui_->groupBox_Btn_Save, ui_->pushButton_Taho,
-                               ui_->pushButton_FuelSensor, ui_->pushButton_RFID};
-    for (QWidget* widget : manual)
-        widget->setEnabled(enabled);
-    pages_.setCommandsEnabled(enabled);
+    blockedBy_ = reasonKey;
+    for (QWidget* control : manualControls(*ui_))
+        control->setEnabled(reasonKey == nullptr);
+    pages_.setCommandsEnabled(reasonKey == nullptr);
+    setToolTips(*ui_, reasonKey);
 }
 
 void VLK_Widget_Tmi_View::stopRequests()
@@ -165,6 +164,15 @@ void VLK_Widget_Tmi_View::stopRequests()
     automatic_.stop();
     clearing_.stop();
     save_.stop();
+    // A button that is held down would go on pressing itself.
+    for (QPushButton* walking : {ui_->pushButton_Get_Prev, ui_->pushButton_Get_Next})
+        walking->setDown(false);
+}
+
+void VLK_Widget_Tmi_View::closeEvent(QCloseEvent* event)
+{
+    stopRequests();
+    QDialog::closeEvent(event);
 }
 
 void VLK_Widget_Tmi_View::takeRecord(const QByteArray& record)
@@ -196,10 +204,10 @@ void VLK_Widget_Tmi_View::takeKeyAnswer(const QByteArray& answer)
 
 void VLK_Widget_Tmi_View::takeLiveKey(quint64 key)
 {
-    if (hostMode() == 1)
-        ui_->checkBox_Get_Auto_TMI->setChecked(true);
-    else
+    if (vlkDevice == nullptr || vlkDevice->mode() != kFirstProductionMode)
         ui_->lineEdit_TM->setText(keyHexText(key));
+    else if (isVisible()) // the answer may come after the window was closed
+        ui_->checkBox_Get_Auto_TMI->setChecked(true);
 }
 
 void VLK_Widget_Tmi_View::takeRfid(quint64 number, qint8 signal)
@@ -341,8 +349,10 @@ void VLK_Widget_Tmi_View::startSave(SaveSequence::Mode mode)
         origin = {vlkDevice->model(), vlkDevice->vendor(), vlkDevice->trackerId1(), 0, {}};
     origin.timeOffset = timeOffset_;
     origin.titles = setup_.titles;
-    save_.start(mode, ui_->dateTimeEdit_First->dateTime().addSecs(-timeOffset_),
-                ui_->dateTimeEdit_Last->dateTime().addSecs(-timeOffset_), origin);
+    const QDateTime first = ui_->dateTimeEdit_First->dateTime();
+    const QDateTime last = ui_->dateTimeEdit_Last->dateTime();
+    save_.start(mode, first.addSecs(-timeOffset_), last.addSecs(-timeOffset_), origin,
+                periodFileName(setup_.objectName, first, last));
 }
 
 void VLK_Widget_Tmi_View::slot_stateChanged_GetAutoTmi(int state)
@@ -350,7 +360,7 @@ void VLK_Widget_Tmi_View::slot_stateChanged_GetAutoTmi(int state)
     const bool on = state != Qt::Unchecked;
     if (on)
         save_.stop();
-    setManualEnabled(!on);
+    setManualBlocked(on ? "tmiw_175" : nullptr);
     if (on)
         automatic_.start(ui_->horizontalSlider_Auto_Tmi->value());
     else
@@ -443,6 +453,7 @@ void VLK_Widget_Tmi_View::slot_GetTahoFile_Read(const QString& name)
 void VLK_Widget_Tmi_View::retranslate()
 {
     setControlTexts(*ui_);
+    setToolTips(*ui_, blockedBy_);
     slot_valueChanged_horizontalSlider_Auto_Tmi(ui_->horizontalSlider_Auto_Tmi->value());
     setTitle();
 

@@ -38,6 +38,7 @@ public:
     // Starts anew with the tracker of this configuration file, and asks for the first record.
     void open(const QString& configurationPath);
     void deviceConnected() { setTitle(); }
+    // Ends whatever runs, also in a window that is closed already.
     void deviceDisconnected() { close(); }
     // As the user would close it and the calibration window, which asks where rows of it are in no file.
     void closeWindows();
@@ -53,6 +54,9 @@ public:
     void takeAnalog(const uchar* record);
     void takeTachographAnswer(const QByteArray& answer);
     void takeTachographFetched(bool done);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
 
 private Q_SLOTS:
     void slot_pressed_GetCurrent();
@@ -87,8 +91,9 @@ private Q_SLOTS:
 private:
     void setTitle();
     void connectControls();
-    // Off while records are requested automatically, and while a period is saved.
-    void setManualEnabled(bool enabled);
+    // What the user may not press while records are requested automatically, and while a period is saved. The
+    // tool tips say why: the text of `reasonKey`, null when the controls are free.
+    void setManualBlocked(const char* reasonKey);
     void stopRequests();
     void startSave(SaveSequence::Mode mode);
     // Asks for a record by number; a walking button that is held down waits for each answer.
@@ -107,4 +112,5 @@ private:
     int timeOffset_ = 0; // seconds east of UTC
     quint32 highestNumber_ = 0;
     quint32 lastWalk_ = 0;
+    const char* blockedBy_ = nullptr;
 };

@@ -11,13 +11,24 @@ HandlesAdapter::HandlesAdapter(Binder& binder, const TableLayout::Distance& rule
 {
     const Configuration& configuration = binder.configuration();
     slider->setRange(configuration.setting(first).least, gap(), configuration.setting(second).most);
-    const auto take = [this](int index, double value) {
-        binder_.edited(index, fileNumber(binder_.configuration().setting(index), value));
-    };
-    connect(slider, &VLK_DblSlider2::value1Changed, this,
-            [this, take](double value) { take(first_, value); });
-    connect(slider, &VLK_DblSlider2::value2Changed, this,
-            [this, take](double value) { take(second_, value); });
+    connect(slider, &VLK_DblSlider2::value1Changed, this, &HandlesAdapter::take);
+    connect(slider, &VLK_DblSlider2::value2Changed, this, &HandlesAdapter::take);
+}
+
+// A handle that pushes the other one has two signals, and the first comes while the slider is still in
+// between: both values are taken at once, and the slider is left alone meanwhile.
+void HandlesAdapter::take()
+{
+    if (taking_ || binder_.isShowing())
+        return;
+    taking_ = true;
+    const Configuration& configuration = binder_.configuration();
+    const QString first = fileNumber(configuration.setting(first_), slider_->value1());
+    const QString second = fileNumber(configuration.setting(second_), slider_->value2());
+    binder_.set(second_, second);
+    binder_.set(first_, first);
+    moveHandles();
+    taking_ = false;
 }
 
 double HandlesAdapter::gap() const
@@ -26,6 +37,12 @@ double HandlesAdapter::gap() const
 }
 
 void HandlesAdapter::show()
+{
+    if (!taking_)
+        moveHandles();
+}
+
+void HandlesAdapter::moveHandles()
 {
     const Configuration& configuration = binder_.configuration();
     const auto shown = [&](int index) {

@@ -20,12 +20,15 @@ public:
 
 private:
     double gap() const;
+    void take();
+    void moveHandles();
 
     Binder& binder_;
     const TableLayout::Distance& rule_;
     int first_;
     int second_;
     VLK_DblSlider2* slider_;
+    bool taking_ = false;
 };
 
 } // namespace vlk

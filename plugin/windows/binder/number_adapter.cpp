@@ -16,7 +16,11 @@ NumberAdapter::NumberAdapter(Binder& binder, int index, QWidget* box, QWidget* c
     box_.onChanged(this, [this] { take(); });
     if (qobject_cast<QAbstractSlider*>(companion)) {
         slider_ = NumberBox(companion, setting());
-        slider_.onChanged(this, [this] { edited(fileNumber(setting(), slider_.value())); });
+        // The box rounds, and the slider follows what it made of it.
+        slider_.onChanged(this, [this] {
+            box_.setValue(slider_.value());
+            take();
+        });
     } else if (companion) {
         check_ = companion;
         onToggled(check_, this, [this](bool on) { switched(on); });
@@ -55,9 +59,7 @@ void NumberAdapter::show(const QString& value)
 {
     const double shown = shownNumber(setting(), value);
     if (check_) {
-        // A box that was just switched on may stand at 0.
-        if (shown != 0 || box_.value() != 0)
-            setChecked(check_, shown != 0);
+        setChecked(check_, shown != 0);
         remembered_ = shown;
     }
     setLimits();
@@ -82,6 +84,8 @@ void NumberAdapter::switched(bool on)
 void NumberAdapter::take()
 {
     edited(held());
+    if (slider_)
+        slider_.setValue(box_.value());
 }
 
 QString NumberAdapter::held() const

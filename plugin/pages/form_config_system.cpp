@@ -1,0 +1,93 @@
+#include "pages/form_config_system.h"
+
+#include "ui_VLK_Designer_Form_Config_System.h"
+
+#include "settings/system_settings.h"
+#include "windows/aligned_columns.h"
+#include "windows/wnd_config_full.h"
+#include "windows/zone_colors.h"
+
+#include <QMessageBox>
+
+VLK_Form_Config_System::VLK_Form_Config_System(QWidget* parent)
+    : QWidget(parent), ui_(std::make_unique<Ui::VLK_Designer_Form_Config_System>()),
+      settings_(vlk::kSystemSettings, "cfgt4_001")
+{
+    ui_->setupUi(this);
+    settings_.bind({this});
+    for (VLK_DblSlider2* slider : {ui_->slider_Power, ui_->slider_Fuel}) {
+        slider->setColorLow(vlk::kTriggerColor);
+        slider->setColorHigh(vlk::kRestoreColor);
+    }
+    using This = VLK_Form_Config_System;
+    connect(ui_->pushButton_TuningCur, &QPushButton::clicked, this, &This::slot_pressed_Btn_TuningCur);
+    connect(ui_->pushButton_Psw_Warning, &QPushButton::clicked, this, &This::slot_pressed_Btn_Psw_Warning);
+    retranslate();
+    setDefaults();
+}
+
+VLK_Form_Config_System::~VLK_Form_Config_System() = default;
+
+void VLK_Form_Config_System::retranslate()
+{
+    ui_->retranslateUi(this);
+    settings_.retranslate();
+    ui_->label_Psw_Warning->setText(QStringLiteral("%1!\n%2.").arg(tr("wrd_005").toUpper(), tr("cfgt4_008")));
+    ui_->doubleSpinBox_TuningCur->setSuffix(QLatin1Char(' ') + tr("abbr_011"));
+    const auto labelEnd = [](QLabel* label, double volts) {
+        label->setText(QStringLiteral("%1 %2").arg(volts).arg(tr("abbr_011")));
+    };
+    labelEnd(ui_->label_Power_Min, ui_->slider_Power->minimum());
+    labelEnd(ui_->label_Power_Max, ui_->slider_Power->maximum());
+    labelEnd(ui_->label_Fuel_Min, ui_->slider_Fuel->minimum());
+    labelEnd(ui_->label_Fuel_Max, ui_->slider_Fuel->maximum());
+    vlk::alignColumns({ui_->gridLayout_Psw, ui_->gridLayout_Time, ui_->gridLayout_NTP_Set,
+                       ui_->gridLayout_NTP_Srv, ui_->gridLayout_Power, ui_->gridLayout_Power_SensLevel,
+                       ui_->gridLayout_Engine, ui_->gridLayout_Fuel, ui_->gridLayout_Slider_Fuel},
+                      4);
+}
+
+void VLK_Form_Config_System::setDefaults()
+{
+    setCurrentSupply(0);
+    settings_.setDefaults();
+}
+
+void VLK_Form_Config_System::deviceConnected()
+{
+    ui_->pushButton_TuningCur->setEnabled(true);
+}
+
+void VLK_Form_Config_System::deviceDisconnected()
+{
+    ui_->pushButton_TuningCur->setEnabled(false);
+}
+
+void VLK_Form_Config_System::setCurrentSupply(int millivolts)
+{
+    ui_->doubleSpinBox_TuningCur->setValue(millivolts / 1000.0);
+}
+
+void VLK_Form_Config_System::setVoltage(const char* path, double volts)
+{
+    settings_.edit(path, QString::number(qRound(volts * 1000)));
+}
+
+void VLK_Form_Config_System::slot_valueChanged_HSlider_Tuning(int millivolts)
+{
+    settings_.edit("ENGSENS/voltageLvl", QString::number(millivolts));
+}
+
+void VLK_Form_Config_System::slot_pressed_Btn_TuningCur()
+{
+    if (vlkConfigFull)
+        vlkConfigFull->pollCurrentTab();
+}
+
+void VLK_Form_Config_System::slot_pressed_Btn_Psw_Warning()
+{
+    QMessageBox box(QMessageBox::Warning, QStringLiteral("%1!").arg(tr("wrd_005")), tr("cfgt4_090"),
+                    QMessageBox::NoButton, this);
+    box.addButton(tr("wrd_003"), QMessageBox::AcceptRole);
+    box.exec();
+}

@@ -1,0 +1,63 @@
+#pragma once
+
+// The System page: passwords, time, the supply voltage and what is told by it. Its settings are those of the
+// section SYSTEM (settings/system_settings.h). Beside them it shows the present supply voltage of an attached
+// tracker.
+
+#include "windows/binder/page_settings.h"
+
+#include <QWidget>
+
+#include <memory>
+
+namespace Ui {
+class VLK_Designer_Form_Config_System;
+}
+
+class VLK_Form_Config_System : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit VLK_Form_Config_System(QWidget* parent = nullptr);
+    ~VLK_Form_Config_System() override;
+
+    QString title() const { return settings_.title(); }
+    int tabIndex() const { return settings_.tabIndex(); }
+    void setTabIndex(int index) { settings_.setTabIndex(index); }
+    void retranslate();
+    void setDefaults();
+    void loadFromXml(CXmlSection* root) { settings_.load(root); }
+    void saveToXml(CXmlSection* root) { settings_.save(root); }
+    vlk::PageSettings& settings() { return settings_; }
+
+    void deviceConnected();
+    void deviceDisconnected();
+    void setCurrentSupply(int millivolts);
+
+public Q_SLOTS:
+    void slot_pressed_Btn_TuningCur();
+    void slot_pressed_Btn_Psw_Warning();
+    void slot_stateChanged_Tuning(int) { settings_.take("checkBox_Tuning"); }
+    void slot_valueChanged_HSlider_Tuning(int millivolts);
+    void slot_valueChanged_DSpinBox_Tuning(double volts) { setVoltage("ENGSENS/voltageLvl", volts); }
+    void slot_stateChanged_Engine_Delay(int) { settings_.take("checkBox_Engine_Delay"); }
+    void slot_stateChanged_NTP_Use(int) { settings_.take("checkBox_NTP_Use"); }
+    void slot_value1Changed_Power_Left(double volts) { setVoltage("PWRSENS/alarmLvl", volts); }
+    void slot_value2Changed_Power_Right(double volts) { setVoltage("PWRSENS/restoreLvl", volts); }
+    void slot_valueChanged_DSpinBox_Power_Left(double volts) { setVoltage("PWRSENS/alarmLvl", volts); }
+    void slot_valueChanged_DSpinBox_Power_Right(double volts) { setVoltage("PWRSENS/restoreLvl", volts); }
+    void slot_stateChanged_Power_Line(int) { settings_.take("checkBox_Power_Line"); }
+    void slot_stateChanged_Power_Delay(int) { settings_.take("checkBox_Power_Delay"); }
+    void slot_stateChanged_Fuel_Level(int) { settings_.take("checkBox_Fuel_Level"); }
+    void slot_value1Changed_Fuel_Left(double volts) { setVoltage("FUEL/blockVolt", volts); }
+    void slot_value2Changed_Fuel_Right(double volts) { setVoltage("FUEL/unblockVolt", volts); }
+    void slot_valueChanged_DSpinBox_Fuel_Left(double volts) { setVoltage("FUEL/blockVolt", volts); }
+    void slot_valueChanged_DSpinBox_Fuel_Right(double volts) { setVoltage("FUEL/unblockVolt", volts); }
+
+private:
+    void setVoltage(const char* path, double volts);
+
+    std::unique_ptr<Ui::VLK_Designer_Form_Config_System> ui_;
+    vlk::PageSettings settings_;
+};

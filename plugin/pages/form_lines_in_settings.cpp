@@ -1,0 +1,161 @@
+#include "pages/form_lines_in_settings.h"
+
+#include "ui_VLK_Designer_Form_Lines_In_Settings.h"
+
+#include "settings/lines_in_settings.h"
+#include "windows/aligned_columns.h"
+#include "windows/binder/page_settings.h"
+#include "windows/zone_colors.h"
+
+#include <algorithm>
+
+namespace {
+
+using Form = Ui::VLK_Designer_Form_Lines_In_Settings;
+
+struct UsePage
+{
+    const char* code;
+    QWidget* Form::*page;
+    int height;
+};
+
+constexpr UsePage kPages[] = {
+    {"NU", &Form::page_NU, 10},   {"NS-", &Form::page_NB, 60},  {"NB-", &Form::page_NB, 60},
+    {"NS+", &Form::page_AIN, 90}, {"NB+", &Form::page_AIN, 90}, {"PLS", &Form::page_PLS, 180},
+    {"FRQ", &Form::page_FRQ, 60}, {"AIN", &Form::page_UI, 60},  {"TAHO", &Form::page_TAHO, 60},
+};
+constexpr int kHeightWithoutLevels = 60;
+
+const UsePage* pageOf(const QString& code)
+{
+    const auto* found = std::find_if(std::begin(kPages), std::end(kPages),
+                                     [&](const UsePage& page) { return code == QLatin1String(page.code); });
+    return found == std::end(kPages) ? nullptr : found;
+}
+
+} // namespace
+
+VLK_Form_Lines_In_Settings::VLK_Form_Lines_In_Settings(QWidget* parent)
+    : QWidget(parent), ui_(std::make_unique<Form>())
+{
+    ui_->setupUi(this);
+    using This = VLK_Form_Lines_In_Settings;
+    connect(ui_->pushButton_PLS_ThldBand, &QPushButton::clicked, this, &This::slot_pressed_Btn_PLS_ThldBand);
+    connect(ui_->pushButton_FRQ_ThldBand, &QPushButton::clicked, this, &This::slot_pressed_Btn_FRQ_ThldBand);
+    connect(ui_->pushButton_TAHO_ThldBand, &QPushButton::clicked, this,
+            &This::slot_pressed_Btn_TAHO_ThldBand);
+    retranslate();
+    setUse(QStringLiteral("NU"));
+}
+
+VLK_Form_Lines_In_Settings::~VLK_Form_Lines_In_Settings() = default;
+
+void VLK_Form_Lines_In_Settings::retranslate()
+{
+    ui_->retranslateUi(this);
+    const QString volt = tr("abbr_011");
+    for (QLabel* label :
+         {ui_->label_PLS_ThldBand_Min, ui_->label_FRQ_ThldBand_Min, ui_->label_TAHO_ThldBand_Min})
+        label->setText(QStringLiteral("0 %1").arg(volt));
+    for (QDoubleSpinBox* box : {ui_->doubleSpinBox_AIN_Cur, ui_->doubleSpinBox_PLS_AIN_Cur,
+                                ui_->doubleSpinBox_FRQ_AIN_Cur, ui_->doubleSpinBox_TAHO_AIN_Cur})
+        box->setSuffix(QLatin1Char(' ') + volt);
+    showZones();
+    vlk::alignColumns({ui_->gridLayout_PLS, ui_->gridLayout_PLS_Work}, 4);
+}
+
+QList<QGridLayout*> VLK_Form_Lines_In_Settings::grids() const
+{
+    return {ui_->gridLayout_NB, ui_->gridLayout_AIN, ui_->gridLayout_UI};
+}
+
+void VLK_Form_Lines_In_Settings::setUse(const QString& code)
+{
+    const UsePage* use = pageOf(code);
+    if (!use || code == use_)
+        return;
+    use_ = code;
+    QWidget* page = ui_.get()->*use->page;
+    // Pages that are not on show take no room.
+    for (int i = 0; i < ui_->stackedWidget_Line->count(); ++i) {
+        QWidget* other = ui_->stackedWidget_Line->widget(i);
+        const auto policy = other == page ? QSizePolicy::Preferred : QSizePolicy::Ignored;
+        other->setSizePolicy(policy, policy);
+    }
+    ui_->widget_PLS->setVisible(page == ui_->page_PLS);
+    ui_->stackedWidget_Line->setCurrentWidget(page);
+    fitHeight();
+    showZones();
+}
+
+void VLK_Form_Lines_In_Settings::setLevelsVisible(bool visible)
+{
+    levelsVisible_ = visible;
+    ui_->groupBox_AIN_Right->setVisible(visible);
+    fitHeight();
+}
+
+// Large fonts need more than the usual height.
+void VLK_Form_Lines_In_Settings::fitHeight()
+{
+    const UsePage* use = pageOf(use_);
+    if (!use)
+        return;
+    QWidget* page = ui_.get()->*use->page;
+    const int usual = page == ui_->page_AIN && !levelsVisible_ ? kHeightWithoutLevels : use->height;
+    setFixedHeight(qMax(usual, page->minimumSizeHint().height()));
+}
+
+// A normally open contact triggers above the thresholds, a normally closed one below.
+void VLK_Form_Lines_In_Settings::showZones()
+{
+    const bool above = use_ == QLatin1String("NB+");
+    if (!above && use_ != QLatin1String("NS+"))
+        return;
+    ui_->slider_AIN->setColorLow(above ? vlk::kRestoreColor : vlk::kTriggerColor);
+    ui_->slider_AIN->setColorHigh(above ? vlk::kTriggerColor : vlk::kRestoreColor);
+    ui_->label_AIN_Left_Zone->setText(above ? tr("cfgt8_049") : tr("cfgt8_050"));
+    ui_->label_AIN_Right_Zone->setText(above ? tr("cfgt8_050") : tr("cfgt8_049"));
+}
+
+void VLK_Form_Lines_In_Settings::setPresentValue(double volts)
+{
+    setPresentAinValue(volts);
+    ui_->doubleSpinBox_PLS_AIN_Cur->setValue(volts);
+    ui_->doubleSpinBox_FRQ_AIN_Cur->setValue(volts);
+    ui_->doubleSpinBox_TAHO_AIN_Cur->setValue(volts);
+}
+
+void VLK_Form_Lines_In_Settings::setPresentAinValue(double volts)
+{
+    ui_->doubleSpinBox_AIN_Cur->setValue(volts);
+}
+
+void VLK_Form_Lines_In_Settings::slot_valueChanged_SpinBox_PLS_Work(int /*value*/)
+{
+    for (const char* box : {"spinBox_PLS_Start_Count", "spinBox_PLS_Start_Time", "spinBox_PLS_Stop_Count",
+                            "spinBox_PLS_Stop_Time"})
+        take(box);
+}
+
+void VLK_Form_Lines_In_Settings::slot_pressed_Btn_PLS_ThldBand()
+{
+    ui_->horizontalSlider_PLS_ThldBand->setValue(vlk::kFixationLevel);
+}
+
+void VLK_Form_Lines_In_Settings::slot_pressed_Btn_FRQ_ThldBand()
+{
+    ui_->horizontalSlider_FRQ_ThldBand->setValue(vlk::kFixationLevel);
+}
+
+void VLK_Form_Lines_In_Settings::slot_pressed_Btn_TAHO_ThldBand()
+{
+    ui_->horizontalSlider_TAHO_ThldBand->setValue(vlk::kFixationLevel);
+}
+
+void VLK_Form_Lines_In_Settings::take(const char* widget)
+{
+    if (settings_)
+        settings_->take(widget);
+}

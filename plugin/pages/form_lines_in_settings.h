@@ -1,0 +1,72 @@
+#pragma once
+
+// The settings of one input line below its name and use: a stack with one page a use, as high as that page
+// needs. Embedded once a line in the Input lines page, whose settings fill its widgets. What is its own: the
+// page on show, the zones of the threshold slider, and the line's present voltage, in volts.
+
+#include <QList>
+#include <QWidget>
+
+#include <memory>
+
+class QGridLayout;
+
+namespace vlk {
+class PageSettings;
+}
+
+namespace Ui {
+class VLK_Designer_Form_Lines_In_Settings;
+}
+
+class VLK_Form_Lines_In_Settings : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit VLK_Form_Lines_In_Settings(QWidget* parent = nullptr);
+    ~VLK_Form_Lines_In_Settings() override;
+
+    // Those that the widgets belong to; they have to live as long as the form.
+    void setSettings(vlk::PageSettings* settings) { settings_ = settings; }
+    void retranslate();
+    // Those whose columns go with the columns of the page around the form.
+    QList<QGridLayout*> grids() const;
+
+    // Shows the page of a use ("NB+"); an unknown one leaves the page as it is.
+    void setUse(const QString& code);
+    // Whether the discrete input has voltage thresholds, as at first.
+    void setLevelsVisible(bool visible);
+    // In all boxes that show the line's voltage, or in that of the discrete input alone.
+    void setPresentValue(double volts);
+    void setPresentAinValue(double volts);
+
+public Q_SLOTS:
+    void slot_value1Changed_AIN_Left(double) { take("doubleSpinBox_AIN_Left"); }
+    void slot_valueChanged_DSpinBox_AIN_Left(double) { take("doubleSpinBox_AIN_Left"); }
+    void slot_value2Changed_AIN_Right(double) { take("doubleSpinBox_AIN_Right"); }
+    void slot_valueChanged_DSpinBox_AIN_Right(double) { take("doubleSpinBox_AIN_Right"); }
+    void slot_stateChanged_PLS_MinPeriod(int) { take("checkBox_PLS_MinPeriod"); }
+    void slot_valueChanged_SpinBox_PLS_Work(int);
+    void slot_pressed_Btn_PLS_ThldBand();
+    void slot_valueChanged_Slider_PLS_ThldBand(int) { take("horizontalSlider_PLS_ThldBand"); }
+    void slot_valueChanged_DSpinBox_PLS_ThldBand(double) { take("doubleSpinBox_PLS_ThldBand"); }
+    void slot_stateChanged_FRQ_Filter(int) { take("checkBox_FRQ_Filter"); }
+    void slot_pressed_Btn_FRQ_ThldBand();
+    void slot_valueChanged_Slider_FRQ_ThldBand(int) { take("horizontalSlider_FRQ_ThldBand"); }
+    void slot_valueChanged_DSpinBox_FRQ_ThldBand(double) { take("doubleSpinBox_FRQ_ThldBand"); }
+    void slot_stateChanged_UI_Filter(int) { take("checkBox_UI_Filter"); }
+    void slot_pressed_Btn_TAHO_ThldBand();
+    void slot_valueChanged_Slider_TAHO_ThldBand(int) { take("horizontalSlider_TAHO_ThldBand"); }
+    void slot_valueChanged_DSpinBox_TAHO_ThldBand(double) { take("doubleSpinBox_TAHO_ThldBand"); }
+
+private:
+    void take(const char* widget);
+    void fitHeight();
+    void showZones();
+
+    std::unique_ptr<Ui::VLK_Designer_Form_Lines_In_Settings> ui_;
+    vlk::PageSettings* settings_ = nullptr;
+    QString use_;
+    bool levelsVisible_ = true;
+};

@@ -1,0 +1,104 @@
+#include "windows/fit_to_screen.h"
+
+#include <QEvent>
+#include <QLayout>
+#include <QScreen>
+#include <QScrollBar>
+#include <QStyle>
+#include <QWindow>
+
+#include <algorithm>
+
+namespace vlk {
+
+namespace {
+
+// Before the window system has put its frame around the window, the style's title bar stands for it.
+QMargins frameOf(const QWidget* window)
+{
+    const QMargins known = window->windowHandle() ? window->windowHandle()->frameMargins() : QMargins();
+    if (!known.isNull())
+        return known;
+    const QStyle* style = window->style();
+    const int edge = style->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, window);
+    return {edge, style->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, window), edge, edge};
+}
+
+QRect roomFor(const QWidget* window)
+{
+    return window->screen()->availableGeometry().marginsRemoved(frameOf(window));
+}
+
+class Keeper : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Show && !event->spontaneous())
+            fitToScreen(static_cast<QWidget*>(watched));
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+} // namespace
+
+void fitToScreen(QWidget* window)
+{
+    if (window->isMaximized() || window->isFullScreen())
+        return;
+    const QRect room = roomFor(window);
+    QRect place = window->geometry();
+    place.setSize(place.size().boundedTo(room.size()));
+    // A place that nobody has chosen yet is left to the window system.
+    if (!window->screen()->availableGeometry().contains(place)) {
+        place.moveBottomRight(
+            {std::min(place.right(), room.right()), std::min(place.bottom(), room.bottom())});
+        place.moveTopLeft({std::max(place.left(), room.left()), std::max(place.top(), room.top())});
+    }
+    if (place != window->geometry())
+        window->setGeometry(place);
+}
+
+void keepOnScreen(QWidget* window)
+{
+    window->installEventFilter(new Keeper(window));
+}
+
+ContentArea::ContentArea(QWidget* parent) : QScrollArea(parent)
+{
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setFocusPolicy(Qt::NoFocus);
+}
+
+bool ContentArea::event(QEvent* event)
+{
+    if (event->type() == QEvent::Show)
+        claimRoom();
+    return QScrollArea::event(event);
+}
+
+bool ContentArea::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool isHandled = QScrollArea::eventFilter(watched, event);
+    if (watched == widget() && event->type() == QEvent::LayoutRequest && isVisible())
+        claimRoom();
+    return isHandled;
+}
+
+void ContentArea::claimRoom()
+{
+    if (widget() == nullptr)
+        return;
+    const QSize others = window()->size() - size();
+    const QSize needed = (widget()->minimumSizeHint() + others).expandedTo(window()->layout()->minimumSize());
+    const QSize room = roomFor(window()).size();
+    // A scroll bar takes room of its own, which must not call for the other one.
+    const int bar = needed.height() > room.height() ? verticalScrollBar()->sizeHint().width() : 0;
+    window()->setMinimumSize((needed + QSize(bar, 0)).boundedTo(room));
+    fitToScreen(window());
+}
+
+} // namespace vlk

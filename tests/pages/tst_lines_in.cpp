@@ -1,0 +1,322 @@
+// The Input lines page with the form of a line: what depends on what, by widgets, files and answers of the
+// tracker. Without a translator the items of a list are keys: cfgt8_002 not used, 003 normally closed, 004
+// normally open, 007 analogue.
+
+#include "dialog/config_pages.h"
+#include "dialog/widget_config_full.h"
+#include "pages/form_lines_in_settings.h"
+#include "support/data_table.h"
+#include "support/device.h"
+#include "support/setting_samples.h"
+#include "windows/vlk_dblslider2.h"
+
+#include <QtTest>
+#include <QtWidgets>
+#include <QtXml>
+
+namespace {
+
+QStringList sent;
+
+void record(void* /*device*/, std::uint32_t id, void* p1, void* /*p2*/)
+{
+    if (static_cast<vlk::Message>(id) == vlk::Message::RequestLines)
+        sent << *static_cast<QByteArray*>(p1);
+}
+
+} // namespace
+
+class LinesInTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { device().initialize(&record); }
+    void init() { page_ = std::make_unique<VLK_Form_Config_Lines_In>(); }
+
+    void uses_data()
+    {
+        DataTable<int, QString, QString, QString, QString, int>(
+            {"line", "item", "code", "child", "shown", "height"})
+            .row("IN1 not used", 1, "cfgt8_002", "NU", "", "page_NU", 10)
+            .row("IN1 open", 1, "cfgt8_004+", "NB+", "IN1ADIN", "page_AIN", 60)
+            .row("IN2 closed", 2, "cfgt8_003-", "NS-", "IN2DIN", "page_NB", 60)
+            .row("IN2 open", 2, "cfgt8_004-", "NB-", "IN2DIN", "page_NB", 60)
+            .row("IN3 closed", 3, "cfgt8_003+", "NS+", "IN3ADIN", "page_AIN", 90)
+            .row("IN3 open", 3, "cfgt8_004+", "NB+", "IN3ADIN", "page_AIN", 90)
+            .row("IN3 analogue", 3, "cfgt8_007", "AIN", "IN3AIN", "page_UI", 60);
+    }
+    // The child of another use was there before.
+    void uses()
+    {
+        QFETCH(int, line);
+        QFETCH(QString, item);
+        QFETCH(QString, child);
+        const bool discrete = child.endsWith("DIN");
+        select(line, line == 2 ? "cfgt8_003-" : item == "cfgt8_003+" ? "cfgt8_004+" : "cfgt8_003+");
+        box("Ignition", line)->setChecked(true);
+        box("ControlRestore", line)->setChecked(true);
+        save();
+        select(line, item);
+
+        for (const char* row : {"Ignition", "ControlRestore"})
+            QCOMPARE(isOn(row, line), discrete);
+        QCOMPARE(box("Ignition", line)->isChecked(), discrete);
+        QVERIFY(box("ControlRestore", line)->isChecked());
+        if (line == 3) {
+            for (const char* row : {"Response", "TrhldMoveOff"})
+                QCOMPARE(isOn(row, line), child == "IN3AIN");
+        }
+        QTEST(part<QStackedWidget>(line, "stackedWidget_Line")->currentWidget()->objectName(), "shown");
+        QFETCH(int, height);
+        QVERIFY(form(line)->height() >= height);
+        const QDomElement saved = save().firstChildElement(QString("IN%1").arg(line));
+        QTEST(saved.attribute("normState"), "code");
+        QCOMPARE(saved.firstChildElement().tagName(), child);
+        QVERIFY(saved.firstChildElement().nextSiblingElement().isNull());
+    }
+
+    void oneLineIsTheIgnition()
+    {
+        select(2, "cfgt8_004-");
+        select(3, "cfgt8_004+");
+        box("Ignition", 2)->setChecked(true);
+        QVERIFY(!box("Ignition", 1)->isChecked());
+        QCOMPARE(saved("IN1/IN1ADIN/ign") + saved("IN2/IN2DIN/ign") + saved("IN3/IN3ADIN/ign"), "010");
+        box("Ignition", 2)->setChecked(false);
+        QCOMPARE(saved("IN1/IN1ADIN/ign") + saved("IN2/IN2DIN/ign") + saved("IN3/IN3ADIN/ign"), "000");
+    }
+
+    void files_data()
+    {
+        DataTable<QStringList, QStringList>({"file", "saves"})
+            .row("a use that the line lacks", {"IN3/normState=PLS", "IN3/IN3PLS/startCount=7"},
+                 {"IN3/normState=N/A", "IN3/IN3PLS/startCount=none"})
+            .row("no use", {"IN3/normState=N/A"}, {"IN3/normState=NU"})
+            .row("an unknown use", {"IN3/normState=nb+"}, {"IN3/normState=NU"})
+            .row("no levels on the first line", {"IN1/normState=NB+", "IN1/IN1ADIN/lowLvl=1000"},
+                 {"IN1/IN1ADIN/ign=1", "IN1/IN1ADIN/lowLvl=none"})
+            .row("an unknown time", {"IN2/normState=NB-", "IN2/IN2DIN/analysTime=7000"},
+                 {"IN2/IN2DIN/analysTime=0"})
+            .row("a threshold", {"IN3/normState=AIN", "IN3/IN3AIN/thld=700"}, {"IN3/IN3AIN/thld=700"})
+            .row("levels too close",
+                 {"IN3/normState=NS+", "IN3/IN3ADIN/lowLvl=6000", "IN3/IN3ADIN/highLvl=6200"},
+                 {"IN3/IN3ADIN/lowLvl=5700", "IN3/IN3ADIN/highLvl=6200"})
+            .row("filter off with a window",
+                 {"IN3/normState=AIN", "IN3/IN3AIN/filterMode=0", "IN3/IN3AIN/filterLen=12",
+                  "IN3/IN3AIN/filterLvl=3"},
+                 {"IN3/IN3AIN/filterLen=12", "IN3/IN3AIN/filterLvl=3"})
+            .row("ignition on two lines", {"IN1/normState=NB+", "IN2/normState=NB-", "IN2/IN2DIN/ign=1"},
+                 {"IN1/IN1ADIN/ign=1", "IN2/IN2DIN/ign=1"})
+            .row("a line that is not used clears its boxes", {"IN1/normState=NU"}, {"IN1/IN1ADIN/ign=none"});
+    }
+    void files()
+    {
+        QFETCH(QStringList, file);
+        QFETCH(QStringList, saves);
+        load(file);
+        for (const QString& key : saves)
+            QCOMPARE(key.section('=', 0, 0) + '=' + saved(key.section('=', 0, 0)), key);
+        const bool used = file.first() != "IN1/normState=NU";
+        QCOMPARE(box("Ignition", 1)->isChecked(), used);
+        QCOMPARE(box("ControlRestore", 1)->isChecked(), used);
+        QCOMPARE(child<QComboBox>("comboBox_NormState_In3")->currentIndex() < 0,
+                 saves.first() == "IN3/normState=N/A");
+    }
+
+    void analogueInput()
+    {
+        auto* threshold = child<QSpinBox>("spinBox_Response_In3");
+        QCOMPARE(threshold->value(), 20);
+        QCOMPARE(threshold->maximum(), 20);
+        select(3, "cfgt8_007");
+        QCOMPARE(threshold->value(), 500);
+        QCOMPARE(threshold->maximum(), 32000);
+        QCOMPARE(threshold->suffix(), " abbr_012");
+
+        auto* filter = part<QCheckBox>(3, "checkBox_UI_Filter");
+        auto* window = part<QSpinBox>(3, "spinBox_UI_Aver");
+        filter->setChecked(false);
+        QCOMPARE(saved("IN3/IN3AIN/filterLen") + saved("IN3/IN3AIN/filterLvl"), "10");
+        QVERIFY(!window->isEnabled() && !part<QSpinBox>(3, "spinBox_UI_Kalman")->isEnabled());
+        filter->setChecked(true);
+        QVERIFY(window->isEnabled());
+        QCOMPARE(window->value(), 1);
+    }
+
+    void levels()
+    {
+        auto* left = part<QDoubleSpinBox>(3, "doubleSpinBox_AIN_Left");
+        auto* right = part<QDoubleSpinBox>(3, "doubleSpinBox_AIN_Right");
+        auto* slider = part<VLK_DblSlider2>(3, "slider_AIN");
+        const auto zones = [&] {
+            return part<QLabel>(3, "label_AIN_Left_Zone")->text() +
+                   part<QLabel>(3, "label_AIN_Right_Zone")->text();
+        };
+        select(3, "cfgt8_004+");
+        QCOMPARE(zones(), "cfgt8_049cfgt8_050");
+        select(3, "cfgt8_003+");
+        QCOMPARE(zones(), "cfgt8_050cfgt8_049");
+        left->setValue(6);
+        QCOMPARE(right->value(), 6.5);
+        right->setValue(6.2);
+        QCOMPARE(left->value(), 5.7);
+        QCOMPARE(slider->value1(), 5.7);
+        slider->setValue1(10.004);
+        QCOMPARE(left->value(), 10.0);
+        QCOMPARE(right->value(), 10.5);
+        QCOMPARE(saved("IN3/IN3ADIN/lowLvl") + ' ' + saved("IN3/IN3ADIN/highLvl"), "10000 10500");
+        left->setValue(31);
+        QCOMPARE(right->value(), 31.0);
+        QCOMPARE(left->value(), 30.5);
+        QVERIFY(part<QWidget>(1, "groupBox_AIN_Right")->isHidden());
+    }
+
+    void pulses()
+    {
+        auto* use = part<QCheckBox>(2, "checkBox_PLS_MinPeriod");
+        auto* shortest = part<QDoubleSpinBox>(2, "doubleSpinBox_PLS_MinPeriod");
+        QVERIFY(!shortest->isEnabled());
+        use->setChecked(true);
+        QCOMPARE(shortest->value(), 0.1);
+        shortest->setValue(0.5);
+        use->setChecked(false);
+        QCOMPARE(shortest->value(), 0.0);
+        QVERIFY(!shortest->isEnabled());
+        use->setChecked(true);
+        QCOMPARE(shortest->value(), 0.5);
+
+        auto* work = part<QWidget>(2, "groupBox_PLS_Work");
+        QVERIFY(work->isEnabledTo(page_.get()));
+        part<QSpinBox>(2, "spinBox_PLS_Stop_Time")->setValue(0);
+        QVERIFY(!work->isEnabled() && !part<QWidget>(2, "groupBox_PLS_SetLine")->isEnabled());
+        QVERIFY(part<QWidget>(3, "groupBox_PLS_Work")->isEnabled());
+
+        for (const QString name : {"PLS", "FRQ", "TAHO"}) {
+            auto* slider = part<QSlider>(2, "horizontalSlider_" + name + "_ThldBand");
+            auto* level = part<QDoubleSpinBox>(2, "doubleSpinBox_" + name + "_ThldBand");
+            level->setValue(3.14);
+            QCOMPARE(slider->value(), 3140);
+            slider->setValue(4150);
+            QCOMPARE(level->value(), 4.15);
+            part<QPushButton>(2, "pushButton_" + name + "_ThldBand")->click();
+            QCOMPARE(level->value(), 6.0);
+        }
+    }
+
+    void voltages_data()
+    {
+        DataTable<QByteArray, QVector<double>>({"answer", "volts"})
+            .row("one", "7 bytes21:1F4", {0.5, 0, 0})
+            .row("all", "7 bytes21:2EE0,22:0,23:FFFF", {12, 0, 65.53})
+            .row("others", "7 bytes20:FFFF,22:3e8,x:1,23:zz,24:1,:,4294967296:9", {0, 1, 0})
+            .row("a pair without a colon", "7 bytes21:64,22,23:64", {0.1, 0, 0})
+            .row("nothing", "12345", {0, 0, 0});
+    }
+    void voltages()
+    {
+        QFETCH(QByteArray, answer);
+        QFETCH(QVector<double>, volts);
+        page_->showLineValues(answer);
+        for (int line = 1; line <= 3; ++line) {
+            for (const char* name : {"AIN_Cur", "PLS_AIN_Cur", "FRQ_AIN_Cur", "TAHO_AIN_Cur"})
+                QVERIFY(qAbs(present(line, name) - volts[line - 1]) < 0.006);
+        }
+    }
+
+    void analogRecord()
+    {
+        QByteArray bytes(vlk::analogRecordSize, '\0');
+        bytes.replace(15, 6, QByteArray::fromHex("e803d4300000"));
+        page_->showAnalogRecord(reinterpret_cast<const uchar*>(bytes.constData()));
+        page_->showAnalogRecord(nullptr);
+        QCOMPARE(present(1, "AIN_Cur"), 1.0);
+        QCOMPARE(present(2, "AIN_Cur"), 12.5);
+        QCOMPARE(present(1, "PLS_AIN_Cur"), 0.0);
+    }
+
+    // The window stops the monitor at the next timeout, since it is not active here.
+    void asksTheTracker()
+    {
+        VLK_Widget_Config_Full window;
+        window.deviceConnected();
+        auto* page = window.findChild<VLK_Form_Config_Lines_In*>();
+        auto* quest = child<QPushButton>("pushButton_Quest", page);
+        auto* again = child<QCheckBox>("checkBox_AutoQuest", page);
+        sent.clear();
+        quest->click();
+        QCOMPARE(sent, QStringList());
+        window.gotoInputLines();
+        quest->click();
+        again->setChecked(true);
+        QCOMPARE(sent, QStringList({"21,22,23", "21,22,23"}));
+        QVERIFY(!quest->isEnabled() && !child<QSpinBox>("spinBox_AutoQuest_TimeOut", page)->isEnabled());
+        window.slot_timeOut_TimerAnalog();
+        QVERIFY(!again->isChecked() && quest->isEnabled());
+    }
+
+private:
+    template <class T>
+    T* child(const QString& name, QWidget* below = nullptr) const
+    {
+        auto* found = (below ? below : page_.get())->findChild<T*>(name);
+        if (!found)
+            qFatal("no widget %s", qPrintable(name));
+        return found;
+    }
+    QWidget* form(int line) const { return child<QWidget>(QString("lineSettings_In%1").arg(line)); }
+    template <class T>
+    T* part(int line, const QString& name) const
+    {
+        return child<T>(name, form(line));
+    }
+    QCheckBox* box(const char* row, int line) const
+    {
+        return child<QCheckBox>(QString("checkBox_%1_In%2").arg(row).arg(line));
+    }
+    bool isOn(const char* row, int line) const
+    {
+        const bool on = child<QWidget>(QString("frame_%1_In%2").arg(row).arg(line))->isEnabled();
+        return on && child<QWidget>(QString("label_Title_%1_In%2").arg(row).arg(line))->isEnabled();
+    }
+    double present(int line, const char* name) const
+    {
+        return part<QDoubleSpinBox>(line, QString("doubleSpinBox_") + name)->value();
+    }
+    void select(int line, const QString& item)
+    {
+        auto* list = child<QComboBox>(QString("comboBox_NormState_In%1").arg(line));
+        list->setCurrentIndex(list->findText(item));
+        QCOMPARE(list->currentText(), item);
+    }
+
+    void load(const QStringList& keys)
+    {
+        QVector<QPair<QString, QString>> values;
+        for (const QString& key : keys)
+            values.append({"SENSORS/" + key.section('=', 0, 0), key.section('=', 1)});
+        vlk::XmlDocument in(documentWith(values), "DEVICE");
+        page_->loadFromXml(in.root());
+    }
+    QDomElement save()
+    {
+        vlk::XmlDocument out(QString(), "DEVICE");
+        page_->saveToXml(out.root());
+        saved_.setContent(out.text());
+        return saved_.documentElement().firstChildElement("SENSORS");
+    }
+    QString saved(const QString& key)
+    {
+        QDomElement element = save();
+        const QStringList names = key.split('/');
+        for (const QString& name : names.mid(0, names.size() - 1))
+            element = element.firstChildElement(name);
+        return element.attribute(names.last(), "none");
+    }
+
+    std::unique_ptr<VLK_Form_Config_Lines_In> page_;
+    QDomDocument saved_;
+};
+
+QTEST_MAIN(LinesInTest)
+#include "tst_lines_in.moc"

@@ -1,0 +1,235 @@
+// The System page: what depends on what, driven through widgets by name and through files.
+
+#include "dialog/config_pages.h"
+#include "dialog/widget_config_full.h"
+#include "pages/form_config_system.h"
+#include "settings_page.h"
+#include "support/data_table.h"
+#include "support/scripted_host.h"
+#include "windows/vlk_dblslider2.h"
+
+#include <QDoubleSpinBox>
+#include <QMessageBox>
+#include <QSlider>
+#include <QtTest>
+
+namespace {
+
+const char* const kBySupply = "groupBox_Power_SensLevel Settings_groupBox_Engine checkBox_Fuel_Engine "
+                              "checkBox_Fuel_Level";
+const char* const kNtp = "frame_NTP_Param_Set frame_NTP_Param_Srv";
+
+QVector<vlk::Message> sent;
+
+void record(void* /*device*/, std::uint32_t id, void* /*p1*/, void* /*p2*/)
+{
+    sent << static_cast<vlk::Message>(id);
+}
+
+} // namespace
+
+class SystemTest : public QObject, private SettingsPage<VLK_Form_Config_System>
+{
+    Q_OBJECT
+
+public:
+    SystemTest() : SettingsPage("SYSTEM") {}
+
+private Q_SLOTS:
+    void init() { open(); }
+
+    void behaviour_data()
+    {
+        const QString level = "frame_Slider_Fuel";
+        DataTable<Values, Boxes, QString, QString, Values>({"load", "boxes", "on", "off", "saves"})
+            .row("defaults", {}, {}, kNtp, QString("groupBox_Tuning %1 ").arg(kBySupply) + level,
+                 {{"PWRSENS/line", "0"}, {"FUEL/sensors", "000"}, {"ENGSENS/voltageLvl", "13200"}})
+            .row("fuel conditions without the line", {{"FUEL/sensors", "111"}}, {}, "checkBox_Fuel_In1",
+                 kBySupply + (' ' + level), {{"FUEL/sensors", "100"}})
+            .row("another line is none", {{"PWRSENS/line", "1"}}, {}, "", kBySupply, {{"PWRSENS/line", "0"}})
+            .row("all of the line", {{"PWRSENS/line", "3"}, {"FUEL/sensors", "111"}}, {},
+                 kBySupply + (' ' + level), "", {{"PWRSENS/line", "3"}, {"FUEL/sensors", "111"}})
+            .row("line taken away", {{"PWRSENS/line", "3"}, {"FUEL/sensors", "111"}},
+                 {{"checkBox_Power_Line", false}}, "checkBox_Fuel_In1", kBySupply + (' ' + level),
+                 {{"PWRSENS/line", "0"}, {"FUEL/sensors", "100"}})
+            .row("level", {}, {{"checkBox_Power_Line", true}, {"checkBox_Fuel_Level", true}}, level, "",
+                 {{"FUEL/sensors", "001"}})
+            .row("threshold by hand", {{"PWRSENS/line", "3"}}, {{"checkBox_Tuning", true}}, "groupBox_Tuning",
+                 "", {{"ENGSENS/useCustom", "1"}})
+            .row("no NTP", {}, {{"checkBox_NTP_Use", false}}, "", kNtp,
+                 {{"NTP/use", "0"}, {"NTP/usualPeriod", "720"}});
+    }
+    void behaviour()
+    {
+        QFETCH(Values, load);
+        QFETCH(Boxes, boxes);
+        QFETCH(QString, on);
+        QFETCH(QString, off);
+        QFETCH(Values, saves);
+        this->load(load);
+        check(boxes);
+        QCOMPARE(notEnabled(on, true), QStringList());
+        QCOMPARE(notEnabled(off, false), QStringList());
+        QCOMPARE(notSaved(saves), QStringList());
+    }
+
+    // Two handles and two boxes; what moves is the handle, the box or the slot.
+    void handles_data()
+    {
+        DataTable<QString, int, double, double, double>({"pair", "moved", "to", "left", "right"})
+            .row("apart", "Power", 1, 8, 8, 11)
+            .row("lower handle pushes", "Power", 1, 20, 20, 20.5)
+            .row("upper handle pushes", "Power", 2, 8, 7.5, 8)
+            .row("lower handle at the end", "Power", 1, 40, 31.5, 32)
+            .row("upper handle at the end", "Power", 2, 1, 6, 6.5)
+            .row("between two hundredths", "Power", 1, 8.127, 8.13, 11)
+            .row("fuel, lower", "Fuel", 1, 12.01, 12.01, 12.51)
+            .row("fuel, upper", "Fuel", 2, 2.03, 1.53, 2.03)
+            .row("fuel, upper at the end", "Fuel", 2, -1, 0, 0.5);
+    }
+    void handles()
+    {
+        QFETCH(QString, pair);
+        QFETCH(int, moved);
+        QFETCH(double, to);
+        QFETCH(double, left);
+        QFETCH(double, right);
+        const QString side = moved == 1 ? "Left" : "Right";
+        const QString box = QString("doubleSpinBox_%1_").arg(pair);
+        const QString slot = QString("slot_value%1Changed_%2_%3").arg(moved).arg(pair, side);
+        const QString keys[] = {pair == "Power" ? "PWRSENS/alarmLvl" : "FUEL/blockVolt",
+                                pair == "Power" ? "PWRSENS/restoreLvl" : "FUEL/unblockVolt"};
+        for (const QString road : {"handle", "box", "slot"}) {
+            page().setDefaults();
+            auto* slider = get<VLK_DblSlider2>("slider_" + pair);
+            if (road == "handle")
+                moved == 1 ? slider->setValue1(to) : slider->setValue2(to);
+            else if (road == "box")
+                get<QDoubleSpinBox>(box + side)->setValue(to);
+            else
+                QVERIFY(QMetaObject::invokeMethod(&page(), qPrintable(slot), Q_ARG(double, to)));
+            const QString seen = QString("%1: %2 %3, %4 %5")
+                                     .arg(road)
+                                     .arg(slider->value1())
+                                     .arg(slider->value2())
+                                     .arg(get<QDoubleSpinBox>(box + "Left")->value())
+                                     .arg(get<QDoubleSpinBox>(box + "Right")->value());
+            QCOMPARE(seen, QString("%1: %2 %3, %2 %3").arg(road).arg(left).arg(right));
+            QCOMPARE(
+                notSaved({{keys[0], QString::number(left * 1000)}, {keys[1], QString::number(right * 1000)}}),
+                QStringList());
+        }
+    }
+
+    void rangesOfHandles()
+    {
+        QCOMPARE(get<QDoubleSpinBox>("doubleSpinBox_Power_Left")->maximum(), 31.5);
+        QCOMPARE(get<QDoubleSpinBox>("doubleSpinBox_Power_Right")->minimum(), 6.5);
+        QCOMPARE(get<QDoubleSpinBox>("doubleSpinBox_Fuel_Left")->minimum(), 0.0);
+        QCOMPARE(get<QDoubleSpinBox>("doubleSpinBox_Fuel_Right")->maximum(), 31.0);
+    }
+
+    void sliderAndBox()
+    {
+        auto* slider = get<QSlider>("horizontalSlider_Tuning");
+        auto* box = get<QDoubleSpinBox>("doubleSpinBox_Tuning");
+        slider->setValue(12346);
+        QCOMPARE(box->value(), 12.35);
+        QCOMPARE(saved("ENGSENS/voltageLvl"), QString("12350"));
+        box->setValue(2.01);
+        QCOMPARE(slider->value(), 5000);
+        page().slot_valueChanged_HSlider_Tuning(40000);
+        QCOMPARE(saved("ENGSENS/voltageLvl"), QString("32000"));
+    }
+
+    void delays_data() { DataTable<QString>({"what"}).row("engine", "Engine").row("supply", "Power"); }
+    // Switching off remembers the number.
+    void delays()
+    {
+        QFETCH(QString, what);
+        const QString box = QString("checkBox_%1_Delay").arg(what);
+        const QString number = QString("spinBox_%1_Delay").arg(what);
+        const QString key = what == "Engine" ? "ENGSENS/delay" : "PWRSENS/delay";
+        const auto value = [&] { return get<QSpinBox>(number)->value(); };
+        const auto state = [&](bool on, int delay) {
+            return isChecked(box) == on && value() == delay &&
+                   get(number)->isEnabledTo(get(number)->parentWidget()) == on &&
+                   saved(key) == QString::number(delay);
+        };
+        QVERIFY(state(false, 0));
+        check({{box, true}});
+        QVERIFY(state(true, 0));
+        page().setDefaults();
+        QVERIFY(state(false, 0));
+        load({{key, "20"}});
+        QVERIFY(state(true, 20));
+        check({{box, false}});
+        QVERIFY(state(false, 0));
+        check({{box, true}});
+        QVERIFY(state(true, 20));
+        get<QSpinBox>(number)->setValue(300);
+        QVERIFY(state(true, 255));
+        load({{key, "0"}});
+        QVERIFY(state(false, 0));
+    }
+
+    void typing_data()
+    {
+        DataTable<QString, QString, QString>({"edit", "typed", "taken"})
+            .row("seventh character", "Settings_Psw_lineEdit_CSD", "abcdefg", "abcdef")
+            .row("blank", "Settings_Psw_lineEdit_SMS", "ab cd", "abcd")
+            .row("phone", "Settings_Psw_lineEdit_Phone", "+7(900)12+345-678901234567", "+790012345678901")
+            .row("phone with a letter first", "Settings_Psw_lineEdit_Phone", "x8", "8")
+            .row("server", "lineEdit_NTP_Srv_4", "a123456789b123456789c1234", "a123456789b123456789c12");
+    }
+    void typing()
+    {
+        QFETCH(QString, edit);
+        QFETCH(QString, typed);
+        get<QLineEdit>(edit)->clear();
+        QTest::keyClicks(get<QLineEdit>(edit), typed);
+        QTEST(textOf(edit), "taken");
+    }
+
+    void presentSupply()
+    {
+        VLK_Widget_Config_Full full;
+        device().initialize(&record);
+        window = &full;
+        auto* tabs = get<QTabWidget>("tabWidget");
+        const auto ask = [&] {
+            sent.clear();
+            press("pushButton_TuningCur");
+            return sent;
+        };
+        tabs->setCurrentIndex(full.pages().tabOf([](VLK_Form_Config_System&) {}));
+        QVERIFY(ask().isEmpty());
+        full.deviceConnected();
+        QCOMPARE(ask(), QVector<vlk::Message>{vlk::Message::RequestSupply});
+        vlk::SupplyRecord answer{};
+        answer.values[vlk::supplyElement] = 24870;
+        full.answers().takeSupply(reinterpret_cast<const uchar*>(&answer));
+        const auto* present = get<QDoubleSpinBox>("doubleSpinBox_TuningCur");
+        QCOMPARE(present->value(), 24.87);
+        full.setDefaults();
+        QCOMPARE(present->value(), 0.0);
+        QCOMPARE(ask().size(), 1);
+        full.deviceDisconnected();
+        QVERIFY(ask().isEmpty());
+    }
+
+    void warning()
+    {
+        QString text;
+        ScriptedHost::whenModal([&](QWidget* box) {
+            text = qobject_cast<QMessageBox*>(box)->text();
+            box->close();
+        });
+        press("pushButton_Psw_Warning");
+        QCOMPARE(text, QString("cfgt4_090"));
+        QCOMPARE(get<QLabel>("label_Psw_Warning")->text(), QString("WRD_005!\ncfgt4_008."));
+    }
+};
+
+QTEST_MAIN(SystemTest)
+#include "tst_system.moc"

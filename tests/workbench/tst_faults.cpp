@@ -1,0 +1,221 @@
+// Each fault of the tracker at each step of the work, over the workbench as it is with the plug-in as it is:
+// whatever goes wrong ends in a true sentence, and what went well is not doubted.
+
+#include "support/data_table.h"
+#include "support/full_disk.h"
+#include "tracker/configuration_values.h"
+#include "window/answer_watch.h"
+#include "window/data_folder.h"
+#include "window/workbench_window.h"
+
+#include <QAbstractButton>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTableView>
+#include <QtTest>
+
+using tracker::Faults;
+
+Q_DECLARE_METATYPE(Faults)
+
+namespace {
+
+enum Step { Read, Write, Live, Period };
+
+struct Bench
+{
+    Bench()
+    {
+        // Boxes are read and closed; who asks for a file name gets one.
+        QObject::connect(&person, &QTimer::timeout, &window, [this] {
+            QWidget* modal = QApplication::activeModalWidget();
+            if (auto* box = qobject_cast<QMessageBox*>(modal)) {
+                boxes.append(box->text());
+                box->close();
+            } else if (auto* dialog = qobject_cast<QFileDialog*>(modal)) {
+                dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(file());
+                QMetaObject::invokeMethod(dialog, "accept");
+            }
+        });
+        person.start(5);
+        window.show();
+        window.start(QStringLiteral(VLK_PLUGIN));
+    }
+    ~Bench() { window.close(); }
+
+    QString file() const { return root.filePath(QStringLiteral("period.xml")); }
+    QString status() const { return window.findChild<QLabel*>(QStringLiteral("label_Status"))->text(); }
+    QString everything() const { return status() + QLatin1Char('\n') + boxes.join(QLatin1Char('\n')); }
+    tracker::SimulatedTracker& tracker() { return window.session().tracker(); }
+
+    static inline const QString newName = QStringLiteral("KAMAZ 5490");
+    QString nameInTracker() { return tracker().configuration().text(QStringLiteral("TRANS/OBJECT/name")); }
+
+    void trigger(const char* action) { window.findChild<QAction*>(QLatin1String(action))->trigger(); }
+
+    static QWidget* pluginWindow(const char* name)
+    {
+        for (QWidget* candidate : QApplication::topLevelWidgets()) {
+            if (candidate->isVisible() && qstrcmp(candidate->metaObject()->className(), name) == 0)
+                return candidate;
+        }
+        return nullptr;
+    }
+    static QWidget* configuration() { return pluginWindow("VLK_Widget_Config"); }
+    static QWidget* telemetry() { return pluginWindow("VLK_Widget_Tmi_View"); }
+
+    static void press(QWidget* in, const char* button)
+    {
+        auto* found = in ? in->findChild<QAbstractButton*>(QLatin1String(button)) : nullptr;
+        if (!found)
+            qFatal("no button %s", button);
+        found->click();
+    }
+
+    // What comes before the step, with a sound tracker.
+    void prepare(Step step)
+    {
+        if (step == Write) {
+            trigger("action_Read");
+            configuration()->findChild<QLineEdit*>(QStringLiteral("lineEdit_Name"))->setText(newName);
+        }
+        if (step != Live && step != Period)
+            return;
+        trigger("action_Telemetry");
+        auto* number = telemetry()->findChild<QLabel*>(QStringLiteral("label_Event_NumPage_Value"));
+        QTRY_VERIFY(!number->text().isEmpty() && number->isVisible());
+    }
+
+    void take(Step step)
+    {
+        switch (step) {
+        case Read:
+            return trigger("action_Read");
+        case Write:
+            return press(configuration(), "pushButton_LoadToDevice");
+        case Live:
+            return press(telemetry(), "pushButton_Get_Current");
+        case Period:
+            return press(telemetry(), "pushButton_SaveToFile");
+        }
+    }
+
+    QTemporaryDir root;
+    DataFolder folder{root.path()};
+    Settings settings{folder.settingsFile()};
+    Languages languages;
+    bool english = languages.set(QStringLiteral("en"));
+    WorkbenchWindow window{folder, settings, languages};
+    QTimer person;
+    QStringList boxes;
+};
+
+} // namespace
+
+class FaultsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+
+    void everyFaultEndsInATrueSentence_data()
+    {
+        const Faults none, silence{.silence = true}, shortened{.shortAnswers = true},
+            garbled{.garbledAnswers = true}, unplug{.unplug = true}, board{.badBoard = true},
+            delay{.delayMs = 20}, late{.delayMs = AnswerWatch::patienceMs + 1000};
+        const QString ready = QStringLiteral("Ready");
+        const QString written = QStringLiteral("Configuration written");
+        const QString closed = QStringLiteral("so its telemetry window was closed");
+        const QString silent = QStringLiteral("No answer from the tracker since ");
+        // What is said is a regular expression.
+        DataTable<int, Faults, QString, bool, bool>({"step", "faults", "said", "open", "diskIsFull"})
+            .row("read", Read, none, ready, true, false)
+            .row("read, silence", Read, silence, "was not read from the tracker. The tracker does not answer",
+                 false, false)
+            .row("read, short", Read, shortened, "cannot be right. It is cut short after", false, false)
+            .row("read, garbled", Read, garbled, "cannot be right. It is no configuration", false, false)
+            .row("read, unplugged", Read, unplug, "was unplugged while it answered. Attach", false, false)
+            .row("read, delay", Read, delay, ready, true, false)
+            .row("read, bad board", Read, board, ready, true, false)
+            .row("read, full disk", Read, none, "Make room on the disk and try again", false, true)
+            .row("write", Write, none, written, true, false)
+            .row("write, silence", Write, silence, "not written. The tracker does not answer. Check", true,
+                 false)
+            .row("write, short", Write, shortened, written, true, false)
+            .row("write, garbled", Write, garbled, written, true, false)
+            .row("write, unplugged", Write, unplug, "not written. The tracker was unplugged", true, false)
+            .row("write, delay", Write, delay, written, true, false)
+            .row("write, bad board", Write, board, written, true, false)
+            .row("write, full disk", Write, none, "nothing was sent. ", true, true)
+            .row("live", Live, none, ready, true, false)
+            .row("live, silence", Live, silence, silent, true, false)
+            .row("live, short", Live, shortened, "2301 from the tracker: cut short", true, false)
+            .row("live, garbled", Live, garbled, "2301 from the tracker: damaged", true, false)
+            .row("live, unplugged", Live, unplug, closed, false, false)
+            .row("live, delay", Live, delay, ready, true, false)
+            .row("live, late", Live, late, silent, true, false)
+            .row("live, bad board", Live, board, ready, true, false)
+            .row("period", Period, none, "Saved: ", true, false)
+            .row("period, silence", Period, silence, silent, true, false)
+            .row("period, short", Period, shortened, "2307 from the tracker: cut short|Damaged records in it",
+                 true, false)
+            .row("period, garbled", Period, garbled, "period.xml. Damaged records in it: ", true, false)
+            .row("period, unplugged", Period, unplug, closed, false, false)
+            .row("period, delay", Period, delay, "Saved: ", true, false)
+            .row("period, bad board", Period, board, "Saved: ", true, false)
+            .row("period, full disk", Period, none, "period.xml was not saved: ", true, true);
+    }
+    void everyFaultEndsInATrueSentence()
+    {
+        QFETCH(int, step);
+        QFETCH(Faults, faults);
+        QFETCH(QString, said);
+        QFETCH(bool, open);
+        QFETCH(bool, diskIsFull);
+        Bench bench;
+        bench.prepare(Step(step));
+        bench.boxes.clear();
+        bool answered = false;
+        connect(&bench.window.session().link(), &PluginLink::passed, this,
+                [&answered](vlk::Direction way, quint32) { answered |= way == vlk::Direction::ToPlugin; });
+        bench.tracker().setFaults(faults);
+        std::optional<FullDisk> disk;
+        if (diskIsFull)
+            disk.emplace(1000);
+        bench.take(Step(step));
+        // A line that was there before says nothing until an answer has come.
+        const auto isSaid = [&] {
+            return bench.everything().contains(QRegularExpression(said)) &&
+                   (answered || said != QLatin1String("Ready"));
+        };
+        QTRY_VERIFY2_WITH_TIMEOUT(isSaid(), qPrintable(bench.everything()), 20'000);
+        QCOMPARE(step == Read || step == Write ? Bench::configuration() != nullptr
+                                               : Bench::telemetry() != nullptr,
+                 open);
+        if (said == QLatin1String("Ready"))
+            QCOMPARE(bench.boxes, QStringList());
+        if (step == Write)
+            QCOMPARE(bench.nameInTracker() == Bench::newName, said == QLatin1String("Configuration written"));
+        if (step == Period && open)
+            QCOMPARE(QFile::exists(bench.file()), bench.status().startsWith(QLatin1String("Saved: ")));
+        const auto* log = bench.window.findChild<QTableView*>(QStringLiteral("tableView_Log"))->model();
+        const QModelIndexList marked = log->match(log->index(0, MessageLogModel::Parameters), Qt::DisplayRole,
+                                                  QStringLiteral("⚠"), 1, Qt::MatchStartsWith);
+        QCOMPARE(!marked.isEmpty(), step >= Live && (faults.shortAnswers || faults.garbledAnswers));
+
+        disk.reset();
+        // With the cause goes what was said of it, at the latest with the next answer.
+        bench.tracker().setFaults({});
+        bench.tracker().attach();
+        if ((step == Live && open) || (step == Read && diskIsFull))
+            bench.take(Step(step));
+        if (step == Read || step == Live)
+            QTRY_COMPARE(bench.status(), QStringLiteral("Ready"));
+    }
+};
+
+QTEST_MAIN(FaultsTest)
+#include "tst_faults.moc"

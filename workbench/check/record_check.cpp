@@ -1,0 +1,156 @@
+#include "check/record_check.h"
+
+#include "dataset/catalogue/field_mask.h"
+
+#include <QtEndian>
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+namespace vlk {
+
+namespace {
+
+// The headers of the answers: one of three bytes is the low byte of the request's number and the length of
+// the record, one of thirteen has its number and time behind these, one of two is the length alone.
+struct HeaderRow
+{
+    Message answer;
+    Message request;
+    int size;
+};
+
+constexpr HeaderRow headers[] = {
+    {Message::CurrentRecord, Message::RequestCurrentRecord, currentRecordHeader},
+    {Message::ClearedRecord, Message::ClearServerData, currentRecordHeader},
+    {Message::RecordByNumber, Message::RequestRecordByNumber, recordByNumberHeader},
+    {Message::RecordByTime, Message::RequestRecordByTime, recordByTimeHeader},
+    {Message::RecordOfPeriod, Message::RequestRecordOfPeriod, recordByTimeHeader},
+    {Message::ExtraPacket, Message::RequestExtraPacket, extraPacketHeader},
+};
+
+const HeaderRow* headerOf(Message answer)
+{
+    const auto* row = std::find_if(std::begin(headers), std::end(headers),
+                                   [answer](const HeaderRow& r) { return r.answer == answer; });
+    return row == std::end(headers) ? nullptr : row;
+}
+
+constexpr quint8 recordType = 176;
+constexpr quint8 packetType = 177;
+constexpr int recordHead = 2 + FieldMask::kBytes;
+constexpr int packetCounted = 3; // type and length, which do not count themselves
+constexpr int packetTime = 11;
+
+constexpr qint64 year2000 = 946684800;
+constexpr qint64 year2100 = 4102444800;
+constexpr qint64 twoYears = qint64(2) * 366 * 86400;
+
+template <class Number>
+Number numberAt(const QByteArray& bytes, int offset)
+{
+    return qFromLittleEndian<Number>(bytes.constData() + offset);
+}
+
+// The fields that a version knows; 0 for a version that there is not.
+int fieldsOf(quint8 version)
+{
+    constexpr int first = 69;
+    return version == 10 ? first : version == 20 ? kEarlierFieldCount : version == 30 ? kFieldCount : 0;
+}
+
+// Of a record whose bytes agree with each other: its time, or none where it does not say it.
+struct Content
+{
+    bool agrees = false;
+    std::optional<qint64> time;
+};
+
+Content lookAtRecord(const QByteArray& record)
+{
+    const int fields = fieldsOf(static_cast<quint8>(record.at(1)));
+    if (fields == 0 || record.size() < recordHead)
+        return {};
+    FieldMask::Bytes bits;
+    std::memcpy(bits.data(), record.constData() + 2, bits.size());
+    const FieldMask mask(bits);
+    if (record.size() != recordHead + mask.payloadSize(fields))
+        return {};
+    constexpr int timeField = field("Time");
+    if (!mask.test(timeField))
+        return {true, {}};
+    return {true, numberAt<quint32>(record, recordHead + mask.payloadSize(timeField))};
+}
+
+Content lookAtPacket(const QByteArray& packet)
+{
+    constexpr int leastSize = packetTime + static_cast<int>(sizeof(quint32));
+    if (packet.size() < leastSize || packet.size() != packetCounted + numberAt<quint16>(packet, 1))
+        return {};
+    return {true, numberAt<quint32>(packet, packetTime)};
+}
+
+Content lookAt(const QByteArray& record)
+{
+    if (record.size() < 2)
+        return {};
+    switch (static_cast<quint8>(record.at(0))) {
+    case recordType:
+        return lookAtRecord(record);
+    case packetType:
+        return lookAtPacket(record);
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+bool RecordCheck::carriesRecord(Message answer)
+{
+    return headerOf(answer) != nullptr;
+}
+
+std::optional<AnswerProblem> RecordCheck::look(Message answer, const QByteArray& bytes)
+{
+    const HeaderRow* header = headerOf(answer);
+    if (header == nullptr)
+        return {};
+    const qint64 came = bytes.size();
+    if (came < header->size)
+        return AnswerProblem{AnswerProblem::CutShort, came, 0};
+    const bool namesRequest = header->size != extraPacketHeader;
+    if (namesRequest && static_cast<quint8>(bytes.at(0)) != static_cast<quint8>(header->request))
+        return AnswerProblem{AnswerProblem::Damaged, came, 0};
+    const int length = numberAt<quint16>(bytes, namesRequest ? 1 : 0);
+    if (came < header->size + length)
+        return AnswerProblem{AnswerProblem::CutShort, came, header->size + length};
+    // Behind a short record the frame is filled up.
+    const Content content = lookAt(bytes.mid(header->size, length));
+    if (!content.agrees)
+        return AnswerProblem{AnswerProblem::Damaged, came, 0};
+    if (!content.time)
+        return {};
+    const qint64 time = *content.time;
+    if (time < year2000 || time >= year2100)
+        return AnswerProblem{AnswerProblem::TimeOutside, came, 0, time};
+    const auto isFarFrom = [time](std::optional<qint64> other) {
+        return other && std::abs(time - *other) > twoYears;
+    };
+    const std::optional<qint64> doubted = std::exchange(doubted_, {});
+    if (isFarFrom(lastTime_) && (!doubted || isFarFrom(doubted))) {
+        doubted_ = time;
+        return AnswerProblem{AnswerProblem::TimeJumps, came, 0, time, *lastTime_};
+    }
+    lastTime_ = time;
+    return {};
+}
+
+void RecordCheck::forget()
+{
+    lastTime_.reset();
+    doubted_.reset();
+}
+
+} // namespace vlk

@@ -1,0 +1,122 @@
+#include "check/telemetry_file_check.h"
+
+#include "dataset/catalogue/field_mask.h"
+#include "telemetry/files/binary_layout.h"
+
+#include <QFile>
+#include <QtEndian>
+
+#include <cstring>
+#include <span>
+
+namespace vlk {
+
+namespace {
+
+using Kind = TelemetryFileProblem::Kind;
+
+// What was seen of the first record.
+enum class Seen { Nothing, Beginning, Pieces, Whole };
+
+// Line by line, as the form is defined: its titles make it no XML in the strict sense.
+Seen lookAtXml(QFile& file)
+{
+    constexpr qint64 longestLine = 4096;
+    Seen seen = Seen::Nothing;
+    while (!file.atEnd()) {
+        const QByteArray line = file.readLine(longestLine);
+        // Pages of other types are passed over.
+        if (line.contains("<Page type=\"176\"") || line.contains("<Page type=\"177\""))
+            seen = seen == Seen::Nothing ? Seen::Beginning : Seen::Pieces;
+        else if (line.contains("</Page>") && seen != Seen::Nothing)
+            return Seen::Whole;
+    }
+    return seen;
+}
+
+using Bytes = std::span<const uchar>;
+
+constexpr uchar recordType = 176;
+constexpr uchar packetType = 177;
+constexpr uchar version = 30;
+constexpr std::size_t recordHead = 2 + FieldMask::kBytes;
+
+// The record that begins here with its length in front; empty when it is none or not all there.
+Bytes recordAt(Bytes start)
+{
+    if (start.size() <= binary::kLengthBytes)
+        return {};
+    const std::size_t length = qFromLittleEndian<quint16>(start.data());
+    const Bytes rest = start.subspan(binary::kLengthBytes);
+    const std::size_t least = rest[0] == recordType   ? recordHead
+                              : rest[0] == packetType ? 3
+                                                      : rest.size() + 1;
+    return length >= least && length <= rest.size() ? rest.first(length) : Bytes();
+}
+
+// Whether its length is the one that its mask or its head asks for, so that it is no record by chance.
+bool lengthAgrees(Bytes record)
+{
+    if (record[0] == packetType)
+        return record.size() == 3U + qFromLittleEndian<quint16>(&record[1]);
+    FieldMask::Bytes mask;
+    std::memcpy(mask.data(), &record[2], mask.size());
+    return record[1] == version &&
+           record.size() == recordHead + static_cast<std::size_t>(FieldMask(mask).payloadSize());
+}
+
+Seen lookAtBinary(Bytes file)
+{
+    if (file.size() <= binary::kHeaderBytes)
+        return Seen::Nothing;
+    const Bytes records = file.subspan(binary::kHeaderBytes);
+    // At its own place any record counts, behind damage only one that is sound.
+    if (!recordAt(records).empty())
+        return Seen::Whole;
+    for (std::size_t at = 1; at < records.size(); ++at) {
+        const Bytes record = recordAt(records.subspan(at));
+        if (!record.empty() && lengthAgrees(record))
+            return Seen::Whole;
+    }
+    const bool isRecord =
+        records.size() > binary::kLengthBytes &&
+        (records[binary::kLengthBytes] == recordType || records[binary::kLengthBytes] == packetType);
+    return isRecord || records.size() <= binary::kLengthBytes ? Seen::Beginning : Seen::Pieces;
+}
+
+} // namespace
+
+std::optional<TelemetryFileProblem> checkTelemetryFile(const QString& path)
+{
+    QFile file(path);
+    const auto problem = [&file](Kind kind) {
+        return TelemetryFileProblem{kind, file.size(),
+                                    kind == Kind::Unreadable ? file.errorString() : QString()};
+    };
+    if (!file.open(QIODevice::ReadOnly))
+        return problem(Kind::Unreadable);
+    if (file.size() == 0)
+        return problem(Kind::Empty);
+    Seen seen = Seen::Nothing;
+    if (file.peek(1) == "<") {
+        seen = lookAtXml(file);
+    } else {
+        const uchar* bytes = file.map(0, file.size());
+        if (bytes == nullptr)
+            return problem(Kind::Unreadable);
+        seen = lookAtBinary({bytes, static_cast<std::size_t>(file.size())});
+    }
+    switch (seen) {
+    case Seen::Whole:
+        return {};
+    case Seen::Beginning:
+        return problem(Kind::CutShort);
+    case Seen::Pieces:
+        return problem(Kind::Damaged);
+    case Seen::Nothing:
+        break;
+    }
+    return problem(Kind::NoRecord);
+}
+
+} // namespace vlk

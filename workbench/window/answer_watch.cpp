@@ -1,0 +1,50 @@
+#include "window/answer_watch.h"
+
+#include <algorithm>
+
+namespace {
+
+bool asksForAnswer(quint32 id)
+{
+    return std::any_of(std::begin(vlk::messages), std::end(vlk::messages), [id](const vlk::MessageInfo& row) {
+        return quint32(row.number) == id && row.answer != 0;
+    });
+}
+
+bool isAnswer(quint32 id)
+{
+    return std::any_of(std::begin(vlk::messages), std::end(vlk::messages),
+                       [id](const vlk::MessageInfo& row) { return row.answer == id; });
+}
+
+} // namespace
+
+AnswerWatch::AnswerWatch(const PluginLink& link)
+{
+    patience_.setSingleShot(true);
+    patience_.setInterval(patienceMs);
+    connect(&link, &PluginLink::passed, this, &AnswerWatch::look);
+    connect(&patience_, &QTimer::timeout, this, [this] {
+        told_ = true;
+        Q_EMIT silent(since_);
+    });
+}
+
+void AnswerWatch::look(vlk::Direction direction, quint32 id)
+{
+    if (direction == vlk::Direction::ToPlugin) {
+        if (isAnswer(id))
+            forget();
+    } else if (asksForAnswer(id) && !since_.isValid()) {
+        since_ = QDateTime::currentDateTime();
+        patience_.start();
+    }
+}
+
+void AnswerWatch::forget()
+{
+    since_ = {};
+    patience_.stop();
+    if (std::exchange(told_, false))
+        Q_EMIT over();
+}

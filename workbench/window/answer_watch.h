@@ -1,0 +1,35 @@
+#pragma once
+
+// Listens to the messages and knows since when the tracker owes an answer. Any answer ends the wait, also one
+// to another request: it shows that the tracker is there.
+
+#include "window/plugin_link.h"
+
+#include <QDateTime>
+#include <QTimer>
+
+class AnswerWatch : public QObject
+{
+    Q_OBJECT
+
+public:
+    // An answer takes milliseconds; what takes longer than this does not come by itself.
+    static constexpr int patienceMs = 3000;
+
+    explicit AnswerWatch(const PluginLink& link);
+
+    // Nobody waits any more: the window that asked is closed, or the tracker gone.
+    void forget();
+
+Q_SIGNALS:
+    void silent(const QDateTime& since);
+    // After silent(): an answer came, or nobody waits any more.
+    void over();
+
+private:
+    void look(vlk::Direction direction, quint32 id);
+
+    QDateTime since_; // of the oldest request that waits; invalid when none does
+    QTimer patience_;
+    bool told_ = false;
+};

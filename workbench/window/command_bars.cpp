@@ -1,0 +1,103 @@
+#include "window/command_bars.h"
+
+#include "window/settings.h"
+
+#include <QActionGroup>
+#include <QComboBox>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QToolBar>
+
+namespace {
+
+struct LanguageRow
+{
+    const char* code;
+    const char* name; // in the language itself
+};
+
+constexpr LanguageRow languageRows[] = {{"ru", "Русский"}, {"en", "English"}};
+
+} // namespace
+
+CommandBars::CommandBars(QMainWindow* window, Commands& commands, Settings& settings,
+                         const Languages& languages, QMenu* recentFiles)
+    : QObject(window), window_(window), commands_(commands), settings_(settings), languages_(languages)
+{
+    buildMenus(recentFiles);
+    buildToolBar();
+}
+
+void CommandBars::buildMenus(QMenu* recentFiles)
+{
+    const auto addMenu = [this](const char* key, std::initializer_list<Command> commands) {
+        QMenu* menu = texts_.bind(window_->menuBar()->addMenu(QString()), key);
+        for (const Command command : commands)
+            menu->addAction(commands_[command]);
+        return menu;
+    };
+    QMenu* configuration = addMenu("wb_menu_configuration",
+                                   {Command::ReadTracker, Command::OpenFile, Command::NewConfiguration});
+    configuration->addMenu(recentFiles);
+    configuration->addSeparator();
+    configuration->addAction(commands_[Command::BalanceCode]);
+    configuration->addSeparator();
+    configuration->addAction(commands_[Command::Quit]);
+    addMenu("wb_menu_telemetry", {Command::LiveTelemetry, Command::BrowseFile, Command::TableFile});
+    QMenu* tools = addMenu("wb_menu_tools", {Command::Cable, Command::Faults, Command::DataFolders});
+    buildLanguages(texts_.bind(tools->addMenu(QString()), "wb_language"));
+    addMenu("wb_menu_help", {Command::Help, Command::About});
+}
+
+void CommandBars::buildLanguages(QMenu* menu)
+{
+    auto* group = new QActionGroup(this);
+    for (const LanguageRow& row : languageRows) {
+        QAction* action = menu->addAction(QString::fromUtf8(row.name));
+        action->setCheckable(true);
+        action->setActionGroup(group);
+        const QString code = QLatin1String(row.code);
+        action->setObjectName(QStringLiteral("action_Language_") + code);
+        connect(action, &QAction::triggered, this, [this, code] { Q_EMIT languageChosen(code); });
+        texts_.bind([this, action, code] { action->setChecked(languages_.current() == code); });
+    }
+}
+
+void CommandBars::buildToolBar()
+{
+    auto* bar = new QToolBar(window_);
+    bar->setObjectName(QStringLiteral("toolBar_Main"));
+    texts_.bind(static_cast<QWidget*>(bar), "wb_toolbar");
+    bar->setMovable(false);
+    bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    const auto add = [&](std::initializer_list<Command> commands) {
+        for (const Command command : commands)
+            bar->addAction(commands_[command]);
+        bar->addSeparator();
+    };
+    add({Command::ReadTracker, Command::OpenFile, Command::NewConfiguration});
+    bar->addWidget(buildWindowChoice());
+    bar->addSeparator();
+    add({Command::LiveTelemetry, Command::BrowseFile, Command::TableFile});
+    add({Command::Cable});
+    bar->addAction(commands_[Command::Help]);
+    window_->addToolBar(bar);
+}
+
+QComboBox* CommandBars::buildWindowChoice()
+{
+    auto* choice = new QComboBox(window_);
+    choice->setObjectName(QStringLiteral("comboBox_Window"));
+    choice->addItems({QString(), QString()});
+    texts_.bind([choice] {
+        choice->setItemText(0, vlk::text("wb_window_full"));
+        choice->setItemText(1, vlk::text("wb_window_quick"));
+        choice->setToolTip(vlk::text("wb_window"));
+        choice->setAccessibleName(vlk::text("wb_window"));
+    });
+    choice->setCurrentIndex(settings_.fullWindow() ? 0 : 1);
+    connect(choice, QOverload<int>::of(&QComboBox::activated), this,
+            [this](int index) { settings_.setFullWindow(index == 0); });
+    return choice;
+}

@@ -1,0 +1,80 @@
+#include "window/edited_configuration.h"
+
+#include "window/languages.h"
+#include "window/trouble_text.h"
+
+#include <QFileInfo>
+
+using tracker::ConfigurationValues;
+
+void EditedConfiguration::readFromTracker(const QByteArray& document)
+{
+    source_ = Source::Tracker;
+    asRead_ = ConfigurationValues(document);
+    tracker_ = asRead_;
+    written_.reset();
+}
+
+void EditedConfiguration::openFile(const QString& path, const QByteArray& document)
+{
+    source_ = Source::File;
+    file_ = QFileInfo(path).fileName();
+    asRead_ = ConfigurationValues(document);
+    written_.reset();
+}
+
+void EditedConfiguration::beginNew()
+{
+    source_ = Source::New;
+    asRead_ = ConfigurationValues();
+    written_.reset();
+}
+
+void EditedConfiguration::written(const QByteArray& document)
+{
+    if (source_ == Source::New) {
+        readFromTracker(document);
+        return;
+    }
+    written_ = changesIn(document);
+    tracker_ = ConfigurationValues(document);
+}
+
+void EditedConfiguration::close()
+{
+    source_ = Source::None;
+}
+
+std::optional<int> EditedConfiguration::changesIn(const QByteArray& document) const
+{
+    if (source_ == Source::New || source_ == Source::None)
+        return {};
+    return tracker::differingKeys(asRead_, ConfigurationValues(document));
+}
+
+QString EditedConfiguration::text() const
+{
+    if (source_ == Source::None)
+        return QStringLiteral("–");
+    if (written_)
+        return vlk::text("wb_edited_written").arg(name(), vlk::number(*written_));
+    if (source_ == Source::File && tracker_)
+        return vlk::text("wb_edited_unlike")
+            .arg(name(), vlk::number(tracker::differingKeys(asRead_, *tracker_)));
+    return name();
+}
+
+QString EditedConfiguration::name() const
+{
+    switch (source_) {
+    case Source::Tracker:
+        return vlk::text("wb_edited_tracker");
+    case Source::File:
+        return file_;
+    case Source::New:
+        return vlk::text("wb_edited_new");
+    case Source::None:
+        break;
+    }
+    return {};
+}

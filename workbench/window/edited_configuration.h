@@ -1,0 +1,41 @@
+#pragma once
+
+// What the configuration window holds: where it came from, and how what was written or saved from it differs
+// from what was read. The host learns of the user's edits when they are written or saved, not before.
+
+#include "tracker/configuration_values.h"
+
+#include <optional>
+
+class EditedConfiguration
+{
+public:
+    void readFromTracker(const QByteArray& document);
+    void openFile(const QString& path, const QByteArray& document);
+    void beginNew();
+    // The tracker took it.
+    void written(const QByteArray& document);
+    // The window is closed.
+    void close();
+    // The tracker is gone with what it holds.
+    void forgetTracker() { tracker_.reset(); }
+
+    // Whether writing it would set every key of a tracker without having seen what it holds.
+    bool replacesUnseen() const { return source_ == Source::New; }
+    // How many keys of the document differ from what was read; nothing was read of a new one.
+    std::optional<int> changesIn(const QByteArray& document) const;
+
+    // "from the tracker", "fleet.xml; differences from the tracker: 3"; a dash while nothing is open.
+    QString text() const;
+    // The same in short, for a title; empty while nothing is open.
+    QString name() const;
+
+private:
+    enum class Source { None, Tracker, File, New };
+
+    Source source_ = Source::None;
+    QString file_; // without its folder
+    tracker::ConfigurationValues asRead_;
+    std::optional<tracker::ConfigurationValues> tracker_; // what it held when it was heard of last
+    std::optional<int> written_;                          // changes that were written
+};

@@ -1,0 +1,36 @@
+#pragma once
+
+// The faults in a small window of their own. While a modal window of the plug-in is open, the main window
+// does not react; this one belongs to the modal window and so can be used beside it.
+
+#include "window/key_texts.h"
+
+#include <QDialog>
+
+class FaultsPanel;
+class QLabel;
+
+namespace tracker {
+class SimulatedTracker;
+} // namespace tracker
+
+class FaultsWindow : public QDialog
+{
+    Q_OBJECT
+
+public:
+    FaultsWindow(tracker::SimulatedTracker& tracker, QWidget* owner);
+
+    // What is wrong with the tracker's answers at present; empty while all is well.
+    void setTrouble(const QString& text);
+    void retranslate();
+    // Moves beside the owner, or to the corner of the screen where there is no room.
+    void place();
+    // Whether there is room for it beside a window.
+    bool fitsBeside(const QWidget& window) const;
+
+private:
+    FaultsPanel* panel_;
+    QLabel* trouble_;
+    KeyTexts texts_;
+};

@@ -1,0 +1,81 @@
+#include "window/file_opener.h"
+
+#include "check/telemetry_file_check.h"
+#include "window/host_session.h"
+#include "window/languages.h"
+#include "window/recent_files.h"
+#include "window/stored_file.h"
+#include "window/trouble_text.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+
+FileOpener::FileOpener(HostSession& session, Settings& settings, RecentFiles& recent, QWidget* mainWindow)
+    : QObject(mainWindow), session_(session), settings_(settings), recent_(recent), mainWindow_(mainWindow)
+{
+}
+
+void FileOpener::open(const QString& path, TelemetryWindow window)
+{
+    if (!QFileInfo(path).isFile()) {
+        recent_.remove(path);
+        Q_EMIT failed(vlk::text("wb_file_missing").arg(path));
+        return;
+    }
+    if (vlk::storedFileKind(path) == StoredFile::Telemetry)
+        openTelemetry(path, window);
+    else
+        openConfiguration(path, window);
+}
+
+void FileOpener::chooseConfiguration()
+{
+    const QString path = QFileDialog::getOpenFileName(
+        mainWindow_, vlk::text("wb_open_caption"), settings_.configurationFolder(),
+        vlk::text("wb_type_configuration") + QStringLiteral(" (*.xml)"));
+    if (!path.isEmpty())
+        open(path, TelemetryWindow::Browser);
+}
+
+void FileOpener::chooseTelemetry(TelemetryWindow window)
+{
+    const QString path =
+        QFileDialog::getOpenFileName(mainWindow_, vlk::text("wb_browse_caption"), settings_.telemetryFolder(),
+                                     vlk::text("wb_type_telemetry") + QStringLiteral(" (*.xml *.tmi)"));
+    if (path.isEmpty())
+        return;
+    switch (vlk::storedFileKind(path)) {
+    case StoredFile::Telemetry:
+        openTelemetry(path, window);
+        break;
+    case StoredFile::Configuration:
+        Q_EMIT failed(vlk::text("wb_file_no_telemetry").arg(path));
+        break;
+    case StoredFile::Unknown:
+        Q_EMIT failed(vlk::text("wb_file_unknown").arg(path));
+        break;
+    }
+}
+
+void FileOpener::openTelemetry(const QString& path, TelemetryWindow window)
+{
+    if (const auto problem = vlk::checkTelemetryFile(path)) {
+        Q_EMIT failed(vlk::sentences({vlk::text("wb_open_failed").arg(path), vlk::reasonOf(*problem),
+                                      vlk::text("wb_do_telemetry_file")}));
+        return;
+    }
+    recent_.add(path, window);
+    session_.link().showStoredFile(path, static_cast<int>(window));
+    Q_EMIT opened();
+}
+
+void FileOpener::openConfiguration(const QString& path, TelemetryWindow window)
+{
+    const QString failure = session_.openConfiguration(path, settings_.fullWindow());
+    if (!failure.isEmpty()) {
+        Q_EMIT failed(failure);
+        return;
+    }
+    recent_.add(path, window);
+    Q_EMIT opened();
+}

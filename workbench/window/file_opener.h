@@ -1,0 +1,41 @@
+#pragma once
+
+// Opens what the user chose, dropped or named: a configuration in the configuration window, telemetry in the
+// browser or the table. A file that cannot be shown is told with its reason and opens nothing.
+
+#include "window/settings.h"
+
+#include <QObject>
+
+class HostSession;
+class RecentFiles;
+class QWidget;
+
+class FileOpener : public QObject
+{
+    Q_OBJECT
+
+public:
+    FileOpener(HostSession& session, Settings& settings, RecentFiles& recent, QWidget* mainWindow);
+
+    void open(const QString& path, TelemetryWindow window);
+
+    // Ask for the file first.
+    void chooseConfiguration();
+    void chooseTelemetry(TelemetryWindow window);
+
+Q_SIGNALS:
+    // What the user asked for did not open: a text that says why and what to do.
+    void failed(const QString& text);
+    void opened();
+
+private:
+    // Telemetry alone will do.
+    void openTelemetry(const QString& path, TelemetryWindow window);
+    void openConfiguration(const QString& path, TelemetryWindow window);
+
+    HostSession& session_;
+    Settings& settings_;
+    RecentFiles& recent_;
+    QWidget* mainWindow_;
+};

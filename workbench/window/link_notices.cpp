@@ -1,0 +1,79 @@
+#include "window/link_notices.h"
+
+#include "window/host_session.h"
+#include "window/languages.h"
+#include "window/message_box.h"
+#include "window/message_log_model.h"
+#include "window/plugin_windows.h"
+#include "window/status_line.h"
+#include "window/trouble_text.h"
+
+LinkNotices::LinkNotices(HostSession& session, PluginWindows& windows, MessageLogModel& log,
+                         StatusLine& status, QWidget* mainWindow)
+    : session_(session), windows_(windows), log_(log), status_(status), mainWindow_(mainWindow),
+      watch_(session.link())
+{
+    using tracker::SimulatedTracker;
+    connect(&session_.link(), &PluginLink::passed, this,
+            [this](vlk::Direction direction, quint32 id, const void* p1) { look(direction, id, p1); });
+    connect(&watch_, &AnswerWatch::silent, this, [this](const QDateTime& since) {
+        setTrouble([since] { return vlk::text("wb_silence").arg(vlk::timeOfDay(since)); });
+    });
+    connect(&watch_, &AnswerWatch::over, this, [this] { setTrouble({}); });
+    connect(&session_.tracker(), &SimulatedTracker::pulled, this, &LinkNotices::tellPulled);
+    connect(&session_.tracker(), &SimulatedTracker::attachedChanged, this, [this] {
+        check_.forget();
+        watch_.forget();
+        setTrouble({});
+    });
+    // With the window goes what it was waiting for and what it showed.
+    connect(&windows_, &PluginWindows::closed, this, [this] {
+        watch_.forget();
+        setTrouble({});
+    });
+}
+
+void LinkNotices::look(vlk::Direction direction, quint32 id, const void* p1)
+{
+    const auto answer = static_cast<vlk::Message>(id);
+    if (answer == vlk::Message::RequestRecordOfPeriod)
+        damagedOfPeriod_ = 0;
+    if (direction != vlk::Direction::ToPlugin || !vlk::RecordCheck::carriesRecord(answer) || p1 == nullptr)
+        return;
+    const auto problem = check_.look(answer, *static_cast<const QByteArray*>(p1));
+    if (!problem) {
+        setTrouble({});
+        return;
+    }
+    if (damagedOfPeriod_)
+        ++*damagedOfPeriod_;
+    log_.markNewest(vlk::noteOn(*problem));
+    setTrouble([problem, id] { return vlk::text("wb_answer_bad").arg(id).arg(vlk::noteOn(*problem)); });
+}
+
+void LinkNotices::setTrouble(const std::function<QString()>& trouble)
+{
+    trouble_ = trouble;
+    if (trouble_)
+        status_.tell(StatusLine::Link, trouble_);
+    else
+        status_.clear(StatusLine::Link);
+    Q_EMIT troubleChanged();
+}
+
+void LinkNotices::tellPulled()
+{
+    // Comes before the plug-in hears of it and closes its window.
+    const QVector<QWidget*> before = windows_.open();
+    QMetaObject::invokeMethod(
+        this,
+        [this, before] {
+            const QVector<QWidget*> after = windows_.open();
+            const char* key = before.size() != after.size() ? "wb_unplugged_telemetry"
+                              : after.isEmpty()             ? "wb_unplugged"
+                                                            : "wb_unplugged_open";
+            vlk::showWarning(vlk::text(key), mainWindow_);
+            status_.tell(StatusLine::Command, [key] { return vlk::text(key); });
+        },
+        Qt::QueuedConnection);
+}

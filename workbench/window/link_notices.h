@@ -1,0 +1,45 @@
+#pragma once
+
+// What is wrong between the tracker and the plug-in, said where a user sees it: a record that cannot be right
+// is marked in the log, silence and damage stand in the status line until a right answer comes, and a pulled
+// cable is told in a box that says which windows went with it.
+
+#include "check/record_check.h"
+#include "window/answer_watch.h"
+
+class HostSession;
+class MessageLogModel;
+class PluginWindows;
+class StatusLine;
+
+class LinkNotices : public QObject
+{
+    Q_OBJECT
+
+public:
+    LinkNotices(HostSession& session, PluginWindows& windows, MessageLogModel& log, StatusLine& status,
+                QWidget* mainWindow);
+
+    // What stands in the status line about the tracker's answers; empty while all is well.
+    QString trouble() const { return trouble_ ? trouble_() : QString(); }
+    // The period that was asked for last is saved: how many of its records cannot be right.
+    int endPeriod() { return std::exchange(damagedOfPeriod_, {}).value_or(0); }
+
+Q_SIGNALS:
+    void troubleChanged();
+
+private:
+    void look(vlk::Direction direction, quint32 id, const void* p1);
+    void tellPulled();
+    void setTrouble(const std::function<QString()>& trouble);
+
+    HostSession& session_;
+    PluginWindows& windows_;
+    MessageLogModel& log_;
+    StatusLine& status_;
+    QWidget* mainWindow_;
+    vlk::RecordCheck check_;
+    AnswerWatch watch_;
+    std::function<QString()> trouble_;
+    std::optional<int> damagedOfPeriod_; // none while no period is asked for
+};

@@ -1,0 +1,34 @@
+#include "window/message_box.h"
+
+#include "window/languages.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+namespace vlk {
+
+QWidget* windowInFront(QWidget* otherwise)
+{
+    if (QWidget* modal = QApplication::activeModalWidget())
+        return modal;
+    QWidget* active = QApplication::activeWindow();
+    return active ? active : otherwise;
+}
+
+void showWarning(const QString& text, QWidget* window)
+{
+    for (const QWidget* open : QApplication::topLevelWidgets()) {
+        const auto* box = qobject_cast<const QMessageBox*>(open);
+        if (box && box->isVisible() && box->text() == text)
+            return;
+    }
+    auto* box = new QMessageBox(QMessageBox::Warning, vlk::text("wb_title"), text, QMessageBox::Ok,
+                                windowInFront(window));
+    box->setObjectName(QStringLiteral("messageBox_Warning"));
+    box->setTextFormat(Qt::PlainText);
+    box->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+} // namespace vlk

@@ -1,0 +1,20 @@
+#pragma once
+
+// Boxes of the workbench. They come up over whatever window is in front, a modal one included, and hold
+// nothing up: the caller goes on at once.
+
+#include <QString>
+
+class QWidget;
+
+namespace vlk {
+
+// A sentence or two that the user has to know. The same text does not come up twice at a time. The window is
+// where the box goes when no other one is in front.
+void showWarning(const QString& text, QWidget* window);
+
+// The window that a new one has to be a child of to be usable: the modal one in front, else the active one,
+// else the given.
+QWidget* windowInFront(QWidget* otherwise);
+
+} // namespace vlk

@@ -1,0 +1,83 @@
+#include "window/save_notices.h"
+
+#include "window/host_session.h"
+#include "window/languages.h"
+#include "window/link_notices.h"
+#include "window/message_box.h"
+#include "window/plugin_windows.h"
+#include "window/recent_files.h"
+#include "window/status_line.h"
+#include "window/stored_file.h"
+#include "window/trouble_text.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+// The files for the tracker lie in the current folder under names of the plug-in's own.
+bool isForTracker(const QString& path)
+{
+    const QFileInfo file(path);
+    return file.dir() == QDir::current() && file.fileName().startsWith(QLatin1String("vlk_"));
+}
+
+// The table form has no content that tells it from others.
+bool isTelemetry(const QString& path)
+{
+    return vlk::storedFileKind(path) == StoredFile::Telemetry ||
+           path.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive);
+}
+
+} // namespace
+
+SaveNotices::SaveNotices(HostSession& session, LinkNotices& link, const PluginWindows& windows,
+                         RecentFiles& recent, StatusLine& status, QWidget* mainWindow)
+    : session_(session), link_(link), recent_(recent), status_(status), mainWindow_(mainWindow),
+      watch_(mainWindow, [&windows] { return windows.modal() != nullptr; })
+{
+    // The configuration's window is modal and saves when its dialog has closed; a period is saved when all of
+    // its records have come.
+    connect(&watch_, &SaveWatch::saved, this, &SaveNotices::tellSaved);
+    connect(&watch_, &SaveWatch::failed, this, &SaveNotices::tellFailed);
+}
+
+void SaveNotices::tellSaved(const QString& path)
+{
+    const QString shown = QDir::toNativeSeparators(path);
+    const StoredFile kind = vlk::storedFileKind(path);
+    if (kind != StoredFile::Unknown)
+        recent_.add(path, TelemetryWindow::Browser);
+    if (kind == StoredFile::Configuration) {
+        QFile file(path);
+        const auto changes =
+            file.open(QIODevice::ReadOnly) ? session_.edited().changesIn(file.readAll()) : std::nullopt;
+        status_.tell(StatusLine::Command, [shown, changes] {
+            return changes ? vlk::text("wb_saved_changes").arg(shown, vlk::number(*changes))
+                           : vlk::text("wb_saved").arg(shown);
+        });
+    } else if (const int damaged = isTelemetry(path) ? link_.endPeriod() : 0; damaged > 0) {
+        warn([shown, damaged] { return vlk::text("wb_saved_damaged").arg(shown, vlk::number(damaged)); });
+    } else {
+        status_.tell(StatusLine::Command, [shown] { return vlk::text("wb_saved").arg(shown); });
+    }
+}
+
+void SaveNotices::tellFailed(const QString& path, const QString& reason)
+{
+    if (isForTracker(path)) {
+        session_.writeNotSaved(path, reason);
+        return;
+    }
+    warn([shown = QDir::toNativeSeparators(path), reason] {
+        return vlk::sentences({reason.isEmpty() ? vlk::text("wb_save_failed").arg(shown)
+                                                : vlk::text("wb_save_failed_why").arg(shown, reason),
+                               vlk::text("wb_do_save")});
+    });
+}
+
+void SaveNotices::warn(const std::function<QString()>& sentence)
+{
+    status_.tell(StatusLine::Command, sentence);
+    vlk::showWarning(sentence(), mainWindow_);
+}

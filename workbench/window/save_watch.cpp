@@ -1,0 +1,122 @@
+#include "window/save_watch.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QThread>
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+SaveWatch* theWatch = nullptr;
+
+// "Configuration XML (*.xml)" gives ".xml"; nothing where the filter takes any name.
+QString suffixOf(const QString& filter)
+{
+    static const QRegularExpression pattern(QStringLiteral("\\*(\\.\\w+)"));
+    return pattern.match(filter).captured(1);
+}
+
+} // namespace
+
+SaveWatch::SaveWatch(const QWidget* mainWindow, SavesAtOnce savesAtOnce)
+    : mainWindow_(mainWindow), savesAtOnce_(std::move(savesAtOnce))
+{
+    theWatch = this;
+    before_ = qInstallMessageHandler(&SaveWatch::listen);
+    QCoreApplication::instance()->installEventFilter(this);
+    connect(&folder_, &QFileSystemWatcher::directoryChanged, this, [this] { look(false); });
+}
+
+SaveWatch::~SaveWatch()
+{
+    theWatch = nullptr;
+    qInstallMessageHandler(before_);
+}
+
+void SaveWatch::listen(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (theWatch == nullptr)
+        return;
+    theWatch->before_(type, context, message);
+    if (type != QtWarningMsg || context.category == nullptr || std::strcmp(context.category, "vlk.save") != 0)
+        return;
+    // Only this thread saves. What is known of a file from here on must not be looked for on the disk.
+    if (QThread::currentThread() == theWatch->thread())
+        theWatch->noteFailure(message);
+}
+
+void SaveWatch::noteFailure(const QString& message)
+{
+    const auto isNamed = [&message](const Candidate& file) { return message.startsWith(file.path); };
+    if (std::any_of(awaited_.cbegin(), awaited_.cend(), isNamed))
+        awaited_.clear();
+    // The plug-in is in the middle of its save here.
+    const int colon = message.indexOf(QLatin1String(": "));
+    const QString path = message.left(colon);
+    const QString reason = colon < 0 ? QString() : message.mid(colon + 2);
+    QMetaObject::invokeMethod(
+        this, [this, path, reason] { Q_EMIT failed(path, reason); }, Qt::QueuedConnection);
+}
+
+bool SaveWatch::eventFilter(QObject* object, QEvent* event)
+{
+    if (event->type() != QEvent::Show)
+        return false;
+    auto* dialog = qobject_cast<QFileDialog*>(object);
+    if (dialog == nullptr || dialog->acceptMode() != QFileDialog::AcceptSave)
+        return false;
+    // The workbench's own dialogs tell of themselves.
+    if (dialog->parentWidget() && dialog->parentWidget()->window() == mainWindow_)
+        return false;
+    connect(dialog, &QFileDialog::accepted, this, [this, dialog] { follow(*dialog); });
+    return false;
+}
+
+SaveWatch::Candidate SaveWatch::present(const QString& path)
+{
+    const QFileInfo file(path);
+    return {path, file.lastModified(), file.exists() ? file.size() : -1};
+}
+
+void SaveWatch::follow(const QFileDialog& dialog)
+{
+    const QString path = dialog.selectedFiles().value(0);
+    if (path.isEmpty())
+        return;
+    awaited_ = {present(path)};
+    // A name without a suffix may get one.
+    const QString suffix = suffixOf(dialog.selectedNameFilter());
+    if (QFileInfo(path).suffix().isEmpty() && !suffix.isEmpty())
+        awaited_.append(present(path + suffix));
+    if (!folder_.directories().isEmpty())
+        folder_.removePaths(folder_.directories());
+    folder_.addPath(QFileInfo(path).path());
+    // The dialog goes before the file is saved; what is posted then comes when the plug-in is done with it.
+    connect(&dialog, &QObject::destroyed, this, [this] {
+        QMetaObject::invokeMethod(
+            this, [this] { look(savesAtOnce_()); }, Qt::QueuedConnection);
+    });
+}
+
+void SaveWatch::look(bool last)
+{
+    for (const Candidate& file : qAsConst(awaited_)) {
+        const Candidate now = present(file.path);
+        // A document that is about to be saved may stand there empty.
+        if (now.size <= 0 || (now.size == file.size && now.changed == file.changed))
+            continue;
+        awaited_.clear();
+        Q_EMIT saved(now.path);
+        return;
+    }
+    if (!last || awaited_.isEmpty())
+        return;
+    const QString path = awaited_.first().path;
+    awaited_.clear();
+    Q_EMIT failed(path, {});
+}

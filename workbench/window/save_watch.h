@@ -1,0 +1,60 @@
+#pragma once
+
+// Knows what becomes of the files that the plug-in saves, about which no message tells. A file that the user
+// named in a dialog is looked for on the disk, where it has to appear or to change; a save that failed is
+// told by the plug-in in the logging category vlk.save, as "PATH: REASON".
+//
+// One instance at a time: it listens to the log of the whole process, and passes everything on to whoever
+// listened before.
+
+#include <QDateTime>
+#include <QFileSystemWatcher>
+#include <QObject>
+#include <QVector>
+
+#include <functional>
+
+class QFileDialog;
+class QWidget;
+
+class SaveWatch : public QObject
+{
+    Q_OBJECT
+
+public:
+    // True while a window is open that saves at once when its dialog has closed; a file that is not there
+    // then will not come.
+    using SavesAtOnce = std::function<bool()>;
+
+    SaveWatch(const QWidget* mainWindow, SavesAtOnce savesAtOnce);
+    ~SaveWatch() override;
+
+Q_SIGNALS:
+    void saved(const QString& path);
+    // The path, and the reason where one is known. Comes from the event loop, when the plug-in is done.
+    void failed(const QString& path, const QString& reason);
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    // A name that the file may get, and what was there.
+    struct Candidate
+    {
+        QString path;
+        QDateTime changed;
+        qint64 size;
+    };
+
+    static void listen(QtMsgType type, const QMessageLogContext& context, const QString& message);
+    static Candidate present(const QString& path);
+    void noteFailure(const QString& message);
+    void follow(const QFileDialog& dialog);
+    void look(bool last);
+
+    const QWidget* mainWindow_;
+    SavesAtOnce savesAtOnce_;
+    QtMessageHandler before_;
+    QVector<Candidate> awaited_;
+    QFileSystemWatcher folder_;
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+// Windows that fit whatever screen there is: contents that scroll, and sizes that stay within it.
+
+#include <QSize>
+
+class QScrollArea;
+class QWidget;
+
+namespace vlk {
+
+// The widget in an area without a frame that scrolls it where there is no room for it. It is made as wide as
+// it needs, unless the screen is small.
+QScrollArea* scrolling(QWidget* widget);
+
+// The size that a window may have of the wanted one on a screen with so much room, its frame counted in.
+QSize within(QSize wanted, QSize room);
+
+// Gives a window that is about to show the wanted size, or as much of it as its screen has, and moves it into
+// the screen.
+void resizeWithin(QWidget* window, QSize wanted);
+
+} // namespace vlk

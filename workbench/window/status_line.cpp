@@ -1,0 +1,60 @@
+#include "window/status_line.h"
+
+#include "window/languages.h"
+
+#include <QLabel>
+#include <QPainter>
+#include <QStatusBar>
+#include <QStyle>
+
+namespace {
+
+// Shows as much of its text as there is room for, and never widens the window.
+class ElidedLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+    QSize minimumSizeHint() const override { return {0, QLabel::minimumSizeHint().height()}; }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter painter(this);
+        style()->drawItemText(
+            &painter, contentsRect(), Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
+            fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width()), foregroundRole());
+    }
+};
+
+} // namespace
+
+StatusLine::StatusLine(QStatusBar* bar) : QObject(bar), label_(new ElidedLabel(bar))
+{
+    label_->setObjectName(QStringLiteral("label_Status"));
+    label_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    label_->setTextFormat(Qt::PlainText);
+    bar->setSizeGripEnabled(false);
+    bar->addWidget(label_, 1);
+    retranslate();
+}
+
+void StatusLine::tell(Topic topic, const std::function<QString()>& text)
+{
+    clear(topic);
+    held_.push_back({topic, text});
+    retranslate();
+}
+
+void StatusLine::clear(Topic topic)
+{
+    std::erase_if(held_, [topic](const Held& held) { return held.topic == topic; });
+    retranslate();
+}
+
+void StatusLine::retranslate()
+{
+    const QString text = held_.empty() ? vlk::text("wb_ready") : held_.back().text();
+    label_->setText(QString(text).replace(QLatin1Char('\n'), QLatin1Char(' ')));
+    label_->setToolTip(held_.empty() ? QString() : text);
+}

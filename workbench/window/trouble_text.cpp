@@ -1,0 +1,90 @@
+#include "window/trouble_text.h"
+
+#include "window/languages.h"
+
+#include <QLocale>
+#include <QStringList>
+
+namespace vlk {
+
+namespace {
+
+QString moment(qint64 unixSeconds)
+{
+    return QDateTime::fromSecsSinceEpoch(unixSeconds).toString(QStringLiteral("dd.MM.yyyy HH:mm:ss"));
+}
+
+} // namespace
+
+QString sentences(std::initializer_list<QString> parts)
+{
+    QStringList said(parts);
+    said.removeAll(QString());
+    return said.join(QLatin1Char(' '));
+}
+
+QString reasonOf(const ConfigurationProblem& problem)
+{
+    switch (problem.kind) {
+    case ConfigurationProblem::Empty:
+        return text("wb_problem_empty");
+    case ConfigurationProblem::TooLarge:
+        return text("wb_problem_large").arg(number(problem.bytes));
+    case ConfigurationProblem::CutShort:
+        return text("wb_problem_cut")
+            .arg(number(problem.bytes), number(problem.line), number(problem.column));
+    case ConfigurationProblem::Damaged:
+        return text("wb_problem_damaged").arg(number(problem.line), number(problem.column));
+    case ConfigurationProblem::ForeignRoot:
+        return text("wb_problem_root").arg(number(problem.line), number(problem.column), problem.found);
+    case ConfigurationProblem::ForeignModel:
+        return text("wb_problem_model").arg(problem.found);
+    }
+    return {};
+}
+
+QString reasonOf(const TelemetryFileProblem& problem)
+{
+    switch (problem.kind) {
+    case TelemetryFileProblem::Unreadable:
+        return text("wb_problem_unreadable").arg(problem.reason);
+    case TelemetryFileProblem::Empty:
+        return text("wb_problem_empty");
+    case TelemetryFileProblem::CutShort:
+        return text("wb_problem_first_record").arg(number(problem.bytes));
+    case TelemetryFileProblem::Damaged:
+        return text("wb_problem_records");
+    case TelemetryFileProblem::NoRecord:
+        return text("wb_problem_no_record");
+    }
+    return {};
+}
+
+QString noteOn(const AnswerProblem& problem)
+{
+    switch (problem.kind) {
+    case AnswerProblem::CutShort:
+        return problem.expected == 0
+                   ? text("wb_answer_cut").arg(number(problem.bytes))
+                   : text("wb_answer_cut_of").arg(number(problem.bytes), number(problem.expected));
+    case AnswerProblem::Damaged:
+        return text("wb_answer_damaged");
+    case AnswerProblem::TimeOutside:
+        return text("wb_answer_time").arg(moment(problem.time));
+    case AnswerProblem::TimeJumps:
+        return text("wb_answer_jump").arg(moment(problem.before), moment(problem.time));
+    }
+    return {};
+}
+
+QString number(qint64 value)
+{
+    return QLocale().toString(value);
+}
+
+QString timeOfDay(const QDateTime& time)
+{
+    return time.toString(QStringLiteral("HH:mm:ss"));
+}
+
+} // namespace vlk

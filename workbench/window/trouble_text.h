@@ -1,0 +1,28 @@
+#pragma once
+
+// What went wrong, in words for the user: whole sentences in the language in use.
+
+#include "check/configuration_check.h"
+#include "check/record_check.h"
+#include "check/telemetry_file_check.h"
+
+#include <QDateTime>
+
+#include <initializer_list>
+
+namespace vlk {
+
+// Sentences side by side; empty ones are left out.
+QString sentences(std::initializer_list<QString> parts);
+
+// Of an answer or a file that was said to be no configuration, or to hold no telemetry: why.
+QString reasonOf(const ConfigurationProblem& problem);
+QString reasonOf(const TelemetryFileProblem& problem);
+// A few words without a full stop, for a list.
+QString noteOn(const AnswerProblem& problem);
+
+// A whole number and a moment as the language writes them.
+QString number(qint64 value);
+QString timeOfDay(const QDateTime& time);
+
+} // namespace vlk
