@@ -12,7 +12,7 @@
 #include <array>
 #include <memory>
 
-class CXmlSection;
+struct CXmlSection;
 class VLK_Form_Fuel_Sensor;
 class VLK_TabWidget;
 

@@ -1,7 +1,10 @@
 #include "settings/all_settings.h"
 
+#include "settings/accel_settings.h"
 #include "settings/lines_in_settings.h"
+#include "settings/lines_out_settings.h"
 #include "settings/system_settings.h"
+#include "settings/temperature_settings.h"
 #include "settings/track_settings.h"
 #include "settings/transfer_settings.h"
 
@@ -9,8 +12,9 @@ namespace vlk {
 
 const std::vector<const SettingsTable*>& allSettings()
 {
-    static const std::vector<const SettingsTable*> tables = {&kTransferSettings, &kTrackSettings,
-                                                             &kSystemSettings, &kLinesInSettings};
+    static const std::vector<const SettingsTable*> tables = {
+        &kTransferSettings, &kTrackSettings, &kSystemSettings,  &kTemperatureSettings,
+        &kLinesInSettings,  &kAccelSettings, &kLinesOutSettings};
     return tables;
 }
 

@@ -107,7 +107,7 @@ Limits Configuration::limits(int index) const
     Limits limits{setting.least, setting.most};
     for (const TableLayout::RangeWhen& rule : part.layout->ranges) {
         if (rule.row == row && holds(part, rule.when))
-            limits = {rule.rule->least, rule.rule->most};
+            limits = {rule.rule->least, rule.rule->most, rule.rule->offers};
     }
     // Each of two handles leaves the other one its room.
     for (const TableLayout::Distance& rule : part.layout->distances) {

@@ -101,7 +101,7 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
         readRow(part, row, *element, &taken);
     derive(part);
     keepBounds(part, nullptr);
-    // What came later may have moved a value that was read before.
+    // A value may have found no room beside another, or what came later has moved it.
     for (ReadNote& note : taken) {
         if (const QString& held = value(note.index); held != note.value) {
             note.value = held;
@@ -133,7 +133,7 @@ void Configuration::readRow(const Part& part, int row, const CXmlSection& elemen
     }
     assign(part, place.target, taken.value, nullptr);
     notes->push_back({ReadNote::What::value, place.path, part.first + row, found ? text : QString(),
-                      values_[index], found ? taken.change : Change::missing});
+                      taken.value, found ? taken.change : Change::missing});
     pull(part, place.target, true, nullptr);
 }
 

@@ -91,14 +91,14 @@ const Code* find(const Setting& setting, const QString& text)
     return find(setting, QString::fromLatin1(found->means));
 }
 
-Normalised chosen(const Setting& setting, const QString& text, const QString& before)
+Normalised chosen(const Setting& setting, const QString& text, const QString& before, const char* offers)
 {
+    const QString fallback = setting.fallback ? QString::fromLatin1(setting.fallback) : before;
     const Code* code = find(setting, text);
     if (!code)
-        return noted(setting.fallback ? QString::fromLatin1(setting.fallback) : before, text,
-                     Change::unknownCode);
-    if (!offersCode(setting, *code))
-        return noted(setting.none ? QString::fromLatin1(setting.none) : before, text, Change::notOffered);
+        return noted(fallback, text, Change::unknownCode);
+    if (!offersCode(setting, *code, offers))
+        return noted(setting.none ? QString::fromLatin1(setting.none) : fallback, text, Change::notOffered);
     return noted(QString::fromLatin1(code->code), text, Change::otherForm);
 }
 
@@ -120,15 +120,21 @@ Normalised spread(const Setting& setting, const QString& text)
     return noted(QString::number(held), text, why);
 }
 
-Normalised digitString(const Setting& setting, const QString& text)
+bool isListed(const char* codes, const QString& code)
+{
+    return QString::fromLatin1(codes).split(QLatin1Char('|')).contains(code);
+}
+
+Normalised digitString(const Setting& setting, const QString& text, const char* offers)
 {
     QString held;
     for (std::size_t i = 0; i < setting.positions.size(); ++i) {
         const Position& position = setting.positions[i];
         const int digit = position.widget ? digitAt(text, i) : 0;
         // A box is checked by any digit; a list has an item for each digit, and no other one counts.
-        const int taken = position.top == 1 ? std::min(digit, 1) : digit > position.top ? 0 : digit;
-        held += QLatin1Char(static_cast<char>('0' + taken));
+        const int known = position.top == 1 ? std::min(digit, 1) : digit > position.top ? 0 : digit;
+        const QString taken = QString::number(known);
+        held += offers && !isListed(offers, taken) ? QStringLiteral("0") : taken;
     }
     return noted(held, text, Change::otherForm);
 }
@@ -164,12 +170,11 @@ QString defaultText(const Setting& setting, double number, const DefaultText& te
 
 } // namespace
 
-bool offersCode(const Setting& setting, const Code& code)
+bool offersCode(const Setting& setting, const Code& code, const char* offers)
 {
-    if (!setting.offers)
-        return code.offered && !code.means;
-    const QString list = QLatin1Char('|') + QLatin1String(setting.offers) + QLatin1Char('|');
-    return list.contains(QLatin1Char('|') + QLatin1String(code.code) + QLatin1Char('|'));
+    if (!offers)
+        offers = setting.offers;
+    return offers ? isListed(offers, QString::fromLatin1(code.code)) : code.offered && !code.means;
 }
 
 double shownNumber(const Setting& setting, const QString& value)
@@ -211,11 +216,11 @@ Normalised normalise(const Setting& setting, const QString& text, const QString&
                    ? Normalised{text.left(setting.maxLength), Change::tooLong}
                    : Normalised{text, Change::none};
     case Kind::choice:
-        return chosen(setting, text, before);
+        return chosen(setting, text, before, limits.offers);
     case Kind::period:
         return spread(setting, text);
     case Kind::digits:
-        return digitString(setting, text);
+        return digitString(setting, text, limits.offers);
     case Kind::bits:
         return bitNumber(setting, text);
     case Kind::mask:

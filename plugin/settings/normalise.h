@@ -23,11 +23,13 @@ enum class Change {
     byRule,      // another setting forbids it
 };
 
-// In units of the widget.
+// What a value can be: a range in units of the widget; of a choice and of a string of digits the codes of the
+// list, "NU|NS+", null as the setting says.
 struct Limits
 {
     double least;
     double most;
+    const char* offers = nullptr;
 };
 
 struct Normalised
@@ -47,7 +49,7 @@ QString resetValue(const Setting& setting);
 double shownNumber(const Setting& setting, const QString& value);
 QString fileNumber(const Setting& setting, double shown);
 
-// Whether the list of a choice has the code.
-bool offersCode(const Setting& setting, const Code& code);
+// Whether the list of a setting has the code; `offers` as in Limits.
+bool offersCode(const Setting& setting, const Code& code, const char* offers = nullptr);
 
 } // namespace vlk

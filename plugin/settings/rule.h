@@ -46,7 +46,8 @@ struct Distance
     std::uint8_t inner = 0;
 };
 
-// Another range and unit while `when` holds; the last rule that holds counts.
+// Another range and unit, or a shorter list of codes, while `when` holds; the last rule that holds counts.
+// What the list lacks becomes the row's code for no item, else its fallback; a digit becomes 0.
 struct RangeWhen
 {
     When when;
@@ -54,6 +55,7 @@ struct RangeWhen
     double least = 0;
     double most = 0;
     const char* unit = nullptr;
+    const char* offers = nullptr; // "0|1"
     std::uint8_t number = 0;
     std::uint8_t inner = 0;
 };

@@ -127,8 +127,8 @@ struct Setting
     std::span<const Code> codes{};
     const char* offers = nullptr;   // codes of the list, "NU|NS+"; null: those with `offered`
     const char* fallback = nullptr; // what an unknown code stands for, or `none`; null: the value stays
-    const char* none = nullptr;     // saved for a code that is known and not offered; null: the value stays
-    bool numeric = false;           // codes are compared as numbers
+    const char* none = nullptr; // saved for a code that is not offered, or `fallback`; null: the value stays
+    bool numeric = false;       // codes are compared as numbers
     std::span<const PeriodPart> parts{};
     std::span<const Position> positions{};
     int maxLength = 0;               // characters; 0: no limit
@@ -192,6 +192,8 @@ struct Setting
     }
     constexpr Setting unknownIs(const char* code) const { return having(&Setting::fallback, code); }
     constexpr Setting noItemIs(const char* code) const { return having(&Setting::none, code); }
+    // Of digits in combo boxes: the item of each digit.
+    constexpr Setting listing(std::span<const Code> items) const { return having(&Setting::codes, items); }
     constexpr Setting offering(const char* list) const { return having(&Setting::offers, list); }
     constexpr Setting byNumber() const { return having(&Setting::numeric, true); }
     constexpr Setting onValue(std::int32_t value) const { return having(&Setting::on, value); }

@@ -65,11 +65,16 @@ Caption captionParts(const char* key)
     return {text.left(mark).trimmed(), text.mid(mark + 5).trimmed()};
 }
 
+QString inOneLine(QString caption)
+{
+    return caption.replace(QLatin1String("<br>"), QLatin1String(" ")).remove(QLatin1Char('&')).simplified();
+}
+
 QString captionText(const Setting& setting)
 {
     const Caption parts = captionParts(setting.captionKey);
-    QString text = parts.after.isEmpty() ? parts.before : parts.before + QStringLiteral(" … ") + parts.after;
-    return text.replace(QLatin1String("<br>"), QLatin1String(" ")).remove(QLatin1Char('&')).simplified();
+    return inOneLine(parts.after.isEmpty() ? parts.before
+                                           : parts.before + QStringLiteral(" … ") + parts.after);
 }
 
 QString codeText(const Code& code)

@@ -15,7 +15,8 @@ struct Caption
     QString after;
 };
 Caption captionParts(const char* key);
-// In one line.
+// Without line breaks and mnemonics.
+QString inOneLine(QString caption);
 QString captionText(const Setting& setting);
 
 QString codeText(const Code& code);

@@ -1,5 +1,6 @@
 // The editor of one calibration table in the dialog of an RS sensor: points by hand, files, clipboard, curve.
 
+#include "answers.h"
 #include "base/clock.h"
 #include "fuel/form_fuel_sensor.h"
 #include "fuel/form_fuel_view.h"
@@ -70,14 +71,14 @@ private Q_SLOTS:
         editCell(0, 0, "6000", Qt::Key_Enter);
         editCell(0, 1, "70000", Qt::Key_Enter);
         QCOMPARE(rows(), QString("20=200 25.5=100 30.5=300"));
-        answerNext("wrd_002");
+        answerBox("wrd_002");
         press("pushButton_Del");
         QCOMPARE(table->rowCount(), 3);
-        answerNext("wrd_001");
+        answerBox("wrd_001");
         press("pushButton_Del");
         QCOMPARE(rows(), QString("20=200 30.5=300"));
         QVERIFY(!isOn("pushButton_Del") && isOn("pushButton_Clear"));
-        answerNext("wrd_001");
+        answerBox("wrd_001");
         press("pushButton_Clear");
         QVERIFY(rows().isEmpty() && !isOn("pushButton_Clear"));
         // The application's own locale is left alone.
@@ -154,7 +155,7 @@ private Q_SLOTS:
         if (dirty)
             type("20", "8");
         if (!answer.isEmpty())
-            answerNext(answer);
+            answerBox(answer);
         if (leave == "accept")
             press("pushButton_Accept");
         else if (leave == "close")
@@ -240,37 +241,7 @@ private:
             QTest::keyClick(editor, Qt::Key_Escape);
         QTRY_VERIFY(!table->viewport()->findChild<QLineEdit*>());
     }
-    QString rows()
-    {
-        QStringList texts;
-        const auto* table = child<QTableWidget>("tableWidget");
-        for (int row = 0; row < table->rowCount(); ++row)
-            texts << table->item(row, 0)->text() + '=' + table->item(row, 1)->text();
-        return texts.join(' ');
-    }
-    static void whenModal(const std::function<void(QWidget*)>& act)
-    {
-        QTimer::singleShot(50, qApp, [act] { act(QApplication::activeModalWidget()); });
-    }
-    static void answerNext(const QString& button)
-    {
-        whenModal([button](QWidget* box) {
-            for (auto* found : box->findChildren<QPushButton*>())
-                if (found->text() == button)
-                    return found->click();
-            qFatal("no button %s", qPrintable(button));
-        });
-    }
-    static void answerFile(const QString& path, QString* proposed = nullptr)
-    {
-        whenModal([=](QWidget* modal) {
-            auto* dialog = qobject_cast<QFileDialog*>(modal);
-            if (proposed)
-                *proposed = dialog->selectedFiles().value(0);
-            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
-            QMetaObject::invokeMethod(dialog, path.isEmpty() ? "reject" : "accept");
-        });
-    }
+    QString rows() { return rowsOf(child<QTableWidget>("tableWidget")); }
 
     std::unique_ptr<VLK_Form_Fuel_View> dialog_;
     VLK_FuelSensor_Graph* graph_ = nullptr;

@@ -1,5 +1,6 @@
 // The calibration window over the telemetry view, as host and user see it.
 
+#include "answers.h"
 #include "support/data_table.h"
 #include "support/full_disk.h"
 #include "telemetry/opened_view.h"
@@ -10,6 +11,8 @@
 using vlk::Message;
 
 namespace {
+
+const QString kUnsaved = QStringLiteral("wrd_005!<br>tmiw_130 tmiw_131<br>tmiw_132");
 
 // The record of the live values, each sensor with a value of its own: D1 1001, D2 1002...
 QByteArray liveRecord()
@@ -56,13 +59,11 @@ private Q_SLOTS:
 
     void cleanup()
     {
-        // There is a question where rows are unsaved.
+        // Where rows are unsaved there is a question first.
         QTimer timer;
-        connect(&timer, &QTimer::timeout, [] {
-            if (QWidget* box = QApplication::activeModalWidget())
-                answer(box, "wrd_001");
-        });
-        timer.start(10);
+        connect(&timer, &QTimer::timeout,
+                [] { QApplication::activeModalWidget() ? answerBox("wrd_001") : void(); });
+        timer.start(50);
         fuel_.window->close();
         QVERIFY(fuel_.window->isHidden());
     }
@@ -143,7 +144,7 @@ private Q_SLOTS:
         }
         QCOMPARE(readFile(path), QByteArray("as it was"));
         QVERIFY(fuel_.isOn("pushButton_Save_Xml"));
-        expectQuestion("wrd_005!<br>tmiw_130 tmiw_131<br>tmiw_132", "wrd_031");
+        answerBox("wrd_031", kUnsaved);
         fuel_.window->close();
         QVERIFY(fuel_.window->isVisible());
     }
@@ -225,7 +226,7 @@ private Q_SLOTS:
         QVERIFY(fuel_.isOn("pushButton_Save_Xml"));
         press("pushButton_FuelSensor");
         QCOMPARE(rows("A3"), QString("1=1.00"));
-        expectQuestion("wrd_005!<br>tmiw_130 tmiw_131<br>tmiw_132", "wrd_001");
+        answerBox("wrd_001", kUnsaved);
         QTest::keyClick(fuel_.window, Qt::Key_Escape);
         QVERIFY(fuel_.window->isHidden());
         press("pushButton_FuelSensor");
@@ -251,7 +252,7 @@ private Q_SLOTS:
         QCOMPARE(host.takeSent(Message::RequestAnalog).size(), 1);
         host.send(Message::AnalogRecord, liveRecord().constData());
         QCOMPARE(field("A3", "lineEdit_Param")->text(), QString("12.34"));
-        expectQuestion("wrd_005!<br>tmiw_130 tmiw_131<br>tmiw_132", "wrd_001");
+        answerBox("wrd_001", kUnsaved);
         host.send(Message::CloseWindows);
         QVERIFY(window->isHidden() && fuel_.window->isHidden());
         open();
@@ -264,8 +265,7 @@ private Q_SLOTS:
 
     void asksForHelpAndPrints()
     {
-        QVERIFY(QTest::qWaitForWindowActive(fuel_.window));
-        QTest::keyClick(fuel_.window, Qt::Key_F1);
+        fuel_.press("pushButton_Help");
         QCOMPARE(host.sent.last().number, Message::ShowHelp);
         QCOMPARE(host.sent.last().text2, QString("r-7106Fuel.html"));
         add("A3", "10", 12340);
@@ -278,12 +278,12 @@ private Q_SLOTS:
         QVERIFY(text.contains("Tank 1") && text.contains("12.34") && text.contains("10.0"));
 
         const QString path = folder.filePath("report.pdf");
-        ScriptedHost::whenModal([](QWidget* dialog) { qobject_cast<QDialog*>(dialog)->reject(); });
+        whenOpen<QDialog>([](QDialog& dialog) { dialog.reject(); });
         report.press("pushButton_Print");
         QVERIFY(!QFile::exists(path) && report.window->isVisible());
-        ScriptedHost::whenModal([path](QWidget* dialog) {
-            ScriptedHost::child<QLineEdit>(dialog, "filename")->setText(path);
-            qobject_cast<QDialog*>(dialog)->accept();
+        whenOpen<QDialog>([path](QDialog& dialog) {
+            dialog.findChild<QLineEdit*>("filename")->setText(path);
+            dialog.accept();
         });
         report.press("pushButton_Print");
         QVERIFY(readFile(path).startsWith("%PDF"));
@@ -327,48 +327,19 @@ private:
     }
     QString rows(const QString& sensor)
     {
-        const auto* table = form(sensor)->findChild<QTableWidget*>("tableWidget");
-        QStringList rows;
-        for (int row = 0; row < table->rowCount(); ++row)
-            rows << table->item(row, 0)->text() + '=' + table->item(row, 1)->text();
-        return rows.join(' ');
-    }
-    static void answer(QWidget* box, const QString& button)
-    {
-        for (auto* found : box->findChildren<QPushButton*>())
-            if (found->text() == button)
-                return found->click();
-        qFatal("no button %s", qPrintable(button));
-    }
-    static void expectQuestion(const QString& text, const QString& button)
-    {
-        ScriptedHost::whenModal([=](QWidget* modal) {
-            QCOMPARE(qobject_cast<QMessageBox*>(modal)->text(), text);
-            answer(modal, button);
-        });
+        return rowsOf(form(sensor)->findChild<QTableWidget*>("tableWidget"));
     }
     void saveTo(const char* button, const QString& path, QString* proposed = nullptr)
     {
-        ScriptedHost::whenModal([=](QWidget* modal) {
-            auto* dialog = qobject_cast<QFileDialog*>(modal);
-            if (proposed)
-                *proposed = dialog->selectedFiles().value(0);
-            dialog->selectFile(path);
-            dialog->setOption(QFileDialog::DontConfirmOverwrite);
-            static_cast<QDialog*>(dialog)->done(QDialog::Accepted);
-        });
+        answerFile(path, proposed);
         fuel_.press(button);
     }
     // With a box that comes after the file dialog.
     void load(const QString& path, const QString& box = {}, const QString& button = "wrd_003")
     {
-        ScriptedHost::whenModal([=](QWidget* modal) {
-            auto* dialog = qobject_cast<QFileDialog*>(modal);
-            dialog->selectFile(path);
-            if (!box.isEmpty())
-                QTimer::singleShot(50, dialog->parent(), [=] { expectQuestion(box, button); });
-            static_cast<QDialog*>(dialog)->done(QDialog::Accepted);
-        });
+        answerFile(path);
+        if (!box.isEmpty())
+            answerBox(button, box);
         fuel_.press("pushButton_Load");
     }
 

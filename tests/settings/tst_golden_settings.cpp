@@ -113,6 +113,9 @@ private Q_SLOTS:
         QTest::newRow("TRACK") << QStringList{"track"};
         QTest::newRow("SYSTEM") << QStringList{"system"};
         QTest::newRow("SENSORS") << QStringList{"lines_in"};
+        QTest::newRow("TEMPSENS") << QStringList{"temperature"};
+        QTest::newRow("ACCEL") << QStringList{"accel"};
+        QTest::newRow("OUTPUTS") << QStringList{"lines_out"};
     }
     void pages()
     {

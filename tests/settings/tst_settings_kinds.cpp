@@ -31,6 +31,7 @@ constexpr auto kRows = rowsOf(
     integer("offOr", 0).range(1, 300).offAtZero("box"), real("real", 2.5, 1).range(0.1, 100).readSingle(),
     volts("volts", 8000).range(0, 31), text("text", "x").upTo(5), text("model", DefaultText{"%1 IN", "key"}),
     choice("use", kUses, "NU").unknownIs("NU").noItemIs("N/A"), choice("number", kNumbers, "1").byNumber(),
+    choice("form", kNumbers, "0").byNumber().unknownIs("1"),
     choice("chosen", kNumbers, "1").byNumber().unknownIs("9").noItemIs("9"),
     choice("satellites", kPatterns, "11000"), period("period", 3600, kParts),
     period("wrapped", 3600, kParts).wrapping(86400), period("least", 3600, kParts).atLeast(300),
@@ -53,7 +54,9 @@ constexpr Bound kBounds[] = {{.when = unless("A/line"), .path = "A/conditions", 
 constexpr Distance kDistances[] = {
     {.first = "A/low", .second = "A/high", .gap = 0.5},
     {.first = "A/left", .second = "A/right", .gap = 1, .gapFrom = "A/hysteresis"}};
-constexpr RangeWhen kRanges[] = {{.when = when("A/use", "AIN"), .path = "A/shared", .least = 1, .most = 500}};
+constexpr RangeWhen kRanges[] = {{.when = when("A/use", "AIN"), .path = "A/shared", .least = 1, .most = 500},
+                                 {.when = when("A/line"), .path = "A/form", .offers = "0|1"},
+                                 {.when = when("A/line"), .path = "A/lists", .offers = "0|1"}};
 constexpr PresetRow kReady[] = {{"0", {"a", "b"}}, {"1", {"c", nullptr}}, {"3", {"", ""}}};
 constexpr Presets kPresets[] = {
     {.trigger = "A/preset", .fields = {"A/one", "A/two"}, .rows = kReady, .other = "3"}};
@@ -185,7 +188,9 @@ private Q_SLOTS:
             .row("hysteresis moves the first", {"left=25", "right=31", "hysteresis=9"},
                  "hysteresis=9 left=21")
             .row("a use brings its range", {"shared=20", "use=AIN", "shared=400"}, "shared=400")
-            .row("and takes it away", {"use=AIN", "shared=400", "use=NU"}, "use=NU shared=20");
+            .row("and takes it away", {"use=AIN", "shared=400", "use=NU"}, "use=NU shared=20")
+            .row("shorter lists", {"form=3", "line=3"}, "line=3 form=1 lists=001")
+            .row("what they lack", {"line=3", "lists=102"}, "lists=100");
     }
     void edits()
     {
@@ -211,6 +216,13 @@ private Q_SLOTS:
         QCOMPARE(configuration_.value("S/A/late"), QString("6"));
         QCOMPARE(configuration_.value("S/A/preset"), QString("1"));
         QCOMPARE(configuration_.value("S/A/server"), QString("1"));
+        // Two values of the file that are too near to each other: the one that gives way is told of.
+        QStringList given;
+        for (const ReadNote& note : read({{"S/A/low", "5700"}, {"S/A/high", "5900"}})) {
+            if (note.change == Change::byRule)
+                given << note.path + ' ' + note.text + ' ' + note.value;
+        }
+        QCOMPARE(given, QStringList("S/A/low 5700 5400"));
     }
 
     void texts_data()

@@ -89,6 +89,7 @@ QComboBox* CommandBars::buildWindowChoice()
 {
     auto* choice = new QComboBox(window_);
     choice->setObjectName(QStringLiteral("comboBox_Window"));
+    choice->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     choice->addItems({QString(), QString()});
     texts_.bind([choice] {
         choice->setItemText(0, vlk::text("wb_window_full"));

@@ -115,10 +115,15 @@ void checkTaken(Tour& tour, const Notebook& book)
 void takePictures(Tour& tour)
 {
     auto* tabs = Tour::find<QTabWidget>("tabWidget_Main");
+    auto* pages = Tour::find<QTabWidget>("tabWidget");
     for (const QString& code : Languages::codes()) {
         tour.window().setLanguage(code);
         tour.picture(QStringLiteral("transfer-%1.png").arg(code),
                      Tour::find<QLineEdit>("lineEdit_Name")->window());
+        for (int page = pages->count() - 1; page >= 0; --page) {
+            pages->setCurrentIndex(page);
+            tour.picture(QStringLiteral("page-%1-%2.png").arg(code).arg(page + 1), pages->window());
+        }
         for (int tab = tabs->count() - 1; tab >= 0; --tab) {
             tabs->setCurrentIndex(tab);
             tour.picture(QStringLiteral("workbench-%1-%2.png").arg(code).arg(tab + 1), &tour.window());

@@ -168,7 +168,8 @@ QString foot(const QDateTime& time)
     return linesForThePen() + QStringLiteral("<br/><br/><div>") + tableOf(0) + kRow +
            heading("cfgt6_071", "left") + heading("cfgt6_072", "right") + kRowEnd + kRow + kRowEnd + kRow +
            cell(time.toString(QStringLiteral("dd.MM.yyyy H:mm:ss")), "align=\"left\"") +
-           cell(signature(), "align=\"right\"") + kRowEnd + kTableEnd + QStringLiteral("</div></body></html>");
+           cell(signature(), "align=\"right\"") + kRowEnd + kTableEnd +
+           QStringLiteral("</div></body></html>");
 }
 
 } // namespace

@@ -170,7 +170,7 @@ void Binder::bind()
                 return target.widget == widget && target.shows == rule.shows;
             });
             if (known == targets_.end())
-                targets_.push_back({widget, rule.shows, {&rule}});
+                targets_.push_back({widget, labelOf(widget), rule.shows, {&rule}});
             else
                 known->rules.push_back(&rule);
         }
@@ -217,10 +217,13 @@ void Binder::evaluateRules()
         const bool allowed = std::all_of(target.rules.begin(), target.rules.end(), [&](const auto* rule) {
             return configuration_.holds(table_, *rule);
         });
-        if (target.shows)
+        if (target.shows) {
             target.widget->setVisible(allowed);
-        else
-            target.widget->setEnabled(allowed);
+            continue;
+        }
+        target.widget->setEnabled(allowed);
+        if (target.label)
+            target.label->setEnabled(allowed);
     }
 }
 

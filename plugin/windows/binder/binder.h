@@ -78,10 +78,11 @@ private:
         QPointer<QWidget> widget;
         int number;
     };
-    // A widget that rules enable or show; all of them have to allow it.
+    // A widget that rules enable or show; all of them have to allow it. Its label is enabled with it.
     struct Target
     {
         QPointer<QWidget> widget;
+        QPointer<QLabel> label;
         bool shows;
         std::vector<const TableLayout::Enable*> rules;
     };

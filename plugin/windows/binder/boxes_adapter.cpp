@@ -83,6 +83,7 @@ PositionsAdapter::PositionsAdapter(Binder& binder, int index, std::vector<QWidge
 
 void PositionsAdapter::dress()
 {
+    const char* const offers = configuration().limits(index()).offers;
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         if (!boxes_[i])
             continue;
@@ -92,8 +93,10 @@ void PositionsAdapter::dress()
             continue;
         const QSignalBlocker blocker(list);
         list->clear();
-        for (const Code& code : setting().codes)
-            list->addItem(codeText(code));
+        for (const Code& code : setting().codes) {
+            if (offersCode(setting(), code, offers))
+                list->addItem(codeText(code), QString::fromLatin1(code.code));
+        }
     }
     show(configuration().value(index()));
 }
@@ -105,7 +108,7 @@ void PositionsAdapter::show(const QString& value)
         const int digit = setting().kind == Kind::bits ? static_cast<int>((bits >> i) & 1U)
                                                        : value.mid(static_cast<int>(i), 1).toInt();
         if (auto* list = qobject_cast<QComboBox*>(boxes_[i]))
-            list->setCurrentIndex(digit);
+            list->setCurrentIndex(list->findData(QString::number(digit)));
         else if (boxes_[i])
             setChecked(boxes_[i], digit != 0);
     }
@@ -114,7 +117,7 @@ void PositionsAdapter::show(const QString& value)
 int PositionsAdapter::digit(std::size_t position) const
 {
     if (const auto* list = qobject_cast<const QComboBox*>(boxes_[position]))
-        return qMax(0, list->currentIndex());
+        return list->currentData().toInt();
     return boxes_[position] && isChecked(boxes_[position]) ? 1 : 0;
 }
 

@@ -19,8 +19,9 @@ void ChoiceAdapter::dress()
     caption(box_, setting().captionKey);
     const QSignalBlocker blocker(box_);
     box_->clear();
+    const char* const offers = configuration().limits(index()).offers;
     for (const Code& code : setting().codes) {
-        if (offersCode(setting(), code))
+        if (offersCode(setting(), code, offers))
             box_->addItem(codeText(code), QString::fromLatin1(code.code));
     }
     show(configuration().value(index()));

@@ -9,7 +9,10 @@
 
 namespace vlk {
 
-NumberBox::NumberBox(QWidget* widget, const Setting& setting) : widget_(widget), setting_(&setting)
+NumberBox::NumberBox(QWidget* widget, const Setting& setting)
+    : widget_(widget),
+      counts_(setting.kind == Kind::real ? static_cast<int>(std::lround(std::pow(10, setting.decimals)))
+                                         : setting.factor)
 {
     if (auto* box = qobject_cast<QDoubleSpinBox*>(widget)) {
         box->setDecimals(setting.decimals);
@@ -17,7 +20,14 @@ NumberBox::NumberBox(QWidget* widget, const Setting& setting) : widget_(widget),
             box->setSingleStep(setting.step);
     } else if (auto* whole = qobject_cast<QSpinBox*>(widget); whole && setting.step > 0) {
         whole->setSingleStep(static_cast<int>(setting.step));
+    } else if (auto* slider = qobject_cast<QAbstractSlider*>(widget); slider && setting.step > 0) {
+        slider->setSingleStep(position(setting.step));
     }
+}
+
+int NumberBox::position(double value) const
+{
+    return static_cast<int>(std::lround(value * counts_));
 }
 
 double NumberBox::value() const
@@ -27,7 +37,7 @@ double NumberBox::value() const
     if (const auto* whole = qobject_cast<const QSpinBox*>(widget_))
         return whole->value();
     const auto* slider = qobject_cast<const QAbstractSlider*>(widget_);
-    return slider ? static_cast<double>(slider->value()) / setting_->factor : 0;
+    return slider ? static_cast<double>(slider->value()) / counts_ : 0;
 }
 
 void NumberBox::setValue(double value)
@@ -37,7 +47,7 @@ void NumberBox::setValue(double value)
     else if (auto* whole = qobject_cast<QSpinBox*>(widget_))
         whole->setValue(static_cast<int>(value));
     else if (auto* slider = qobject_cast<QAbstractSlider*>(widget_))
-        slider->setValue(static_cast<int>(std::lround(value * setting_->factor)));
+        slider->setValue(position(value));
 }
 
 void NumberBox::setRange(double least, double most)
@@ -47,8 +57,7 @@ void NumberBox::setRange(double least, double most)
     else if (auto* whole = qobject_cast<QSpinBox*>(widget_))
         whole->setRange(static_cast<int>(least), static_cast<int>(most));
     else if (auto* slider = qobject_cast<QAbstractSlider*>(widget_))
-        slider->setRange(static_cast<int>(std::lround(least * setting_->factor)),
-                         static_cast<int>(std::lround(most * setting_->factor)));
+        slider->setRange(position(least), position(most));
 }
 
 void NumberBox::setSuffix(const QString& suffix)

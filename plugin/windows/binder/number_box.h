@@ -1,7 +1,7 @@
 #pragma once
 
 // Spin boxes of both kinds and sliders under one roof. Numbers are in units of the setting's widget; a slider
-// counts units of the file.
+// counts units of the file, for a real number units of its last decimal.
 
 #include "settings/setting.h"
 
@@ -28,8 +28,10 @@ public:
     void onChanged(QObject* context, std::function<void()> action) const;
 
 private:
+    int position(double value) const;
+
     QWidget* widget_ = nullptr;
-    const Setting* setting_ = nullptr;
+    int counts_ = 1; // of a slider in one unit of the widget
 };
 
 } // namespace vlk

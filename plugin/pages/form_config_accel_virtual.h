@@ -1,0 +1,84 @@
+#pragma once
+
+// The virtual sensors that the tracker makes of its accelerometer: the level at which each triggers, and
+// beside it what an attached tracker measures now, asked for once or again and again. Its settings are those
+// of the section ACCEL (settings/accel_settings.h); what is measured is not stored.
+
+#include "windows/binder/page_settings.h"
+
+#include <QTimer>
+#include <QWidget>
+
+#include <array>
+#include <memory>
+
+class QDoubleSpinBox;
+class QLineEdit;
+class QSlider;
+
+namespace vlk {
+struct AccelValues;
+}
+
+namespace Ui {
+class VLK_Designer_Form_Config_Accel_Virtual;
+}
+
+class VLK_Form_Config_Accel_Virtual : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit VLK_Form_Config_Accel_Virtual(QWidget* parent = nullptr);
+    ~VLK_Form_Config_Accel_Virtual() override;
+
+    // Of the inner tab.
+    int tabIndex() const { return tabIndex_; }
+    void setTabIndex(int index) { tabIndex_ = index; }
+    void retranslate();
+    void setDefaults();
+    vlk::PageSettings& settings() { return settings_; }
+
+    void deviceConnected();
+    void deviceDisconnected();
+    // An answer of the tracker; without a request it is dropped.
+    void showPresentValues(const vlk::AccelValues& values);
+    void clearPresentValues();
+    void stopAuto();
+
+public Q_SLOTS:
+    // Sensors are counted from 1.
+    void slot_valueChanged_horizontalSlider_Level_SH(int sensor, int position);
+    void slot_valueChanged_doubleSpinBox_Level_SH(int sensor, double level);
+    void slot_textChanged_LineEdit_CurLevel_SH(int sensor, const QString& text);
+    void slot_stateChanged_checkBox_Auto(int state);
+    void slot_pressed_pushButton_Quest();
+    void slot_pressed_pushButton_Reset();
+    void slot_timeOut_Query();
+
+protected:
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    struct Sensor
+    {
+        QSlider* levelSlider;
+        QDoubleSpinBox* level;
+        QSlider* present;
+        QLineEdit* presentText;
+    };
+
+    Sensor makeSensor(std::size_t index);
+    void setTabOrder();
+    void showPresent(std::size_t index, const QString& number);
+    static void compare(const Sensor& sensor);
+    void compareAll();
+
+    std::unique_ptr<Ui::VLK_Designer_Form_Config_Accel_Virtual> ui_;
+    std::array<Sensor, 4> sensors_;
+    int tabIndex_ = -1;
+    bool monitoring_ = false;
+    bool pending_ = false; // present values are awaited
+    QTimer query_{this};
+    vlk::PageSettings settings_;
+};
