@@ -318,11 +318,9 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Exit()
 // Every way of closing comes by here.
 void VLK_Form_TMI_Fuel_Sensors::reject()
 {
-    const auto question = [this] {
-        return QStringLiteral("%1!<br>%2 %3<br>%4")
-            .arg(tr("wrd_005"), tr("tmiw_130"), tr("tmiw_131"), tr("tmiw_132"));
-    };
-    if (!hasUnsaved() || agrees(this, question(), "wrd_031"))
+    const QString question = QStringLiteral("%1!<br>%2 %3<br>%4")
+                                 .arg(tr("wrd_005"), tr("tmiw_130"), tr("tmiw_131"), tr("tmiw_132"));
+    if (!hasUnsaved() || agrees(this, question, "wrd_031"))
         QDialog::reject();
 }
 
