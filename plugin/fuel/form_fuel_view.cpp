@@ -3,12 +3,13 @@
 #include "ui_VLK_Designer_Form_Fuel_View.h"
 
 #include "base/clock.h"
+#include "fuel/button_row.h"
 #include "fuel/file_dialogs.h"
-#include "fuel/fit_to_screen.h"
 #include "fuel/form_fuel_sensor.h"
 #include "fuel/plus_icon.h"
 #include "fuel/question.h"
 #include "fuel/table/fuel_file.h"
+#include "windows/fit_to_screen.h"
 
 namespace {
 
@@ -43,7 +44,8 @@ VLK_Form_Fuel_View::VLK_Form_Fuel_View(QWidget* parent)
     }
     connect(form_, &VLK_Form_Fuel_Sensor::signal_NeedSaved, this, &Dialog::slot_NeedSaved);
     connect(this, &QDialog::finished, this, &Dialog::slot_finished);
-    vlk::fitToScreen(this, {860, 500});
+    resize(860, 500);
+    vlk::keepOnScreen(this);
     retranslate();
 }
 
@@ -58,6 +60,7 @@ void VLK_Form_Fuel_View::retranslate()
     ui_->pushButton_Print->setText(tr("wrd_025"));
     ui_->pushButton_Accept->setText(tr("wrd_026"));
     ui_->pushButton_Help->setText(tr("wrd_027"));
+    vlk::keepCaptions(ui_->horizontalLayout_Buttons);
     form_->retranslate();
 }
 

@@ -3,8 +3,8 @@
 #include "ui_VLK_Designer_FormReportFuel.h"
 
 #include "base/clock.h"
-#include "fuel/fit_to_screen.h"
 #include "fuel/table/fuel_report.h"
+#include "windows/fit_to_screen.h"
 
 #include <QPrintDialog>
 #include <QPrinter>
@@ -21,7 +21,8 @@ VLK_FormReportFuel::VLK_FormReportFuel(QWidget* parent)
     ui_->textEdit_Report->setFont(font);
     ui_->pushButton_Print->setAutoDefault(false);
     connect(ui_->pushButton_Print, &QPushButton::clicked, this, &VLK_FormReportFuel::slot_pressed_Btn_Print);
-    vlk::fitToScreen(this, {588, 788});
+    resize(588, 788);
+    vlk::keepOnScreen(this);
     retranslate();
 }
 

@@ -3,8 +3,8 @@
 #include "ui_VLK_Designer_Form_TMI_Fuel_Sensors.h"
 
 #include "base/clock.h"
+#include "fuel/button_row.h"
 #include "fuel/file_dialogs.h"
-#include "fuel/fit_to_screen.h"
 #include "fuel/form_fuel_sensor.h"
 #include "fuel/plus_icon.h"
 #include "fuel/question.h"
@@ -12,6 +12,7 @@
 #include "fuel/table/fuel_file.h"
 #include "link/device.h"
 #include "link/requests.h"
+#include "windows/fit_to_screen.h"
 #include "windows/vlk_tabwidget.h"
 #include "xml/xml_document.h"
 
@@ -79,7 +80,8 @@ VLK_Form_TMI_Fuel_Sensors::VLK_Form_TMI_Fuel_Sensors(QWidget* parent)
     timer_.setSingleShot(true);
     timer_.setInterval(kPause);
     connect(&timer_, &QTimer::timeout, this, &Window::slot_timeout);
-    fitToScreen(this, {900, 540});
+    resize(900, 540);
+    keepOnScreen(this);
     retranslate();
 }
 
@@ -134,6 +136,7 @@ void VLK_Form_TMI_Fuel_Sensors::retranslate()
     ui_->pushButton_Print->setText(tr("wrd_030"));
     ui_->pushButton_Exit->setText(tr("wrd_054"));
     ui_->pushButton_Help->setText(tr("wrd_027"));
+    keepCaptions(ui_->horizontalLayout_Buttons);
     for (int i = 0; i < fuelGroupCount; ++i) {
         if (groups_[i])
             ui_->tabWidget->setTabText(groups_[i]->tabIndex(),
