@@ -63,12 +63,8 @@ void setControlTexts(const Ui::VLK_Designer_Widget_Tmi_View& ui)
 
 std::vector<QWidget*> manualControls(const Ui::VLK_Designer_Widget_Tmi_View& ui)
 {
-    return {ui.groupBox_Btn_Get,
-            ui.groupBox_Btn_Save,
-            ui.pushButton_Taho,
-            ui.pushButton_FuelSensor,
-            ui.pushButton_RFID,
-            ui.pushButton_Get_Current_Touch,
+    return {ui.groupBox_Btn_Get,           ui.groupBox_Btn_Save, ui.pushButton_Taho,
+            ui.pushButton_FuelSensor,      ui.pushButton_RFID,   ui.pushButton_Get_Current_Touch,
             ui.pushButton_Get_Current_RFID};
 }
 
