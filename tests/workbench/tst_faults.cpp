@@ -175,10 +175,10 @@ private Q_SLOTS:
         QFETCH(QString, said);
         QFETCH(bool, open);
         QFETCH(bool, diskIsFull);
+        bool answered = false; // the window tells of messages to its very end
         Bench bench;
         bench.prepare(Step(step));
         bench.boxes.clear();
-        bool answered = false;
         connect(&bench.window.session().link(), &PluginLink::passed, this,
                 [&answered](vlk::Direction way, quint32) { answered |= way == vlk::Direction::ToPlugin; });
         bench.tracker().setFaults(faults);

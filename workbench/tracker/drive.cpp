@@ -8,8 +8,8 @@ namespace tracker {
 
 namespace {
 
-// Ten years; a clock that is wrong by more gets the last of these days.
-constexpr int longestDays = 3653;
+// Two years; a clock that is wrong by more gets the last of these days, since each day before it is planned.
+constexpr int longestDays = 731;
 
 // The day of the newest record, that of the one asked for, and the one before it.
 constexpr std::size_t keptDays = 4;
