@@ -62,9 +62,14 @@ void savePeriod(Tour& tour)
     tour.window().setLanguage(QStringLiteral("en"));
     live::open(tour);
     live::showFunctions();
-    live::ask(tour, "pushButton_Get_Prev");
-    const QDateTime last = timeOnShow();
-    live::ask(tour, "pushButton_Get_Prev");
+    // Two records that follow each other; packets between them have lines of another number in some forms.
+    const auto isRecord = [] { return live::page() == QLatin1String("page_Zeta3"); };
+    QDateTime last;
+    do {
+        live::ask(tour, "pushButton_Get_Prev");
+        last = isRecord() ? timeOnShow() : QDateTime();
+        live::ask(tour, "pushButton_Get_Prev");
+    } while (!last.isValid() || !isRecord());
     setPeriod(timeOnShow(), last);
     for (const auto& [button, ending] : {std::pair("pushButton_SaveToFile", "xml"),
                                          {"pushButton_SaveToExcel", "csv"},
