@@ -39,7 +39,7 @@ private Q_SLOTS:
 
             configuration_.reset();
             vlk::XmlDocument in(documentWith(presenceOf(configuration_, index) + values), "DEVICE");
-            const std::vector<vlk::ReadNote> notes = configuration_.read(*in.root());
+            const std::vector<vlk::ReadNote> notes = notesOf(in);
             const bool noted = std::any_of(notes.begin(), notes.end(), [&](const vlk::ReadNote& note) {
                 return note.index == index && note.change != vlk::Change::missing;
             });
@@ -61,7 +61,7 @@ private Q_SLOTS:
         const vlk::Configuration before = configuration_;
         for (const char* text : {"", "<DEVICE><TRANS>", "no document"}) {
             vlk::XmlDocument in(QByteArray(text), "DEVICE");
-            QVERIFY(configuration_.read(*in.root()).empty());
+            QVERIFY(notesOf(in).empty());
             QVERIFY(configuration_.differences(before).empty());
         }
     }
@@ -73,7 +73,7 @@ private Q_SLOTS:
                        "<SRV1 port=\"6000\"/><SRV9/></TRANS></DEVICE>"),
             "DEVICE");
         QStringList told;
-        for (const vlk::ReadNote& note : configuration_.read(*in.root())) {
+        for (const vlk::ReadNote& note : notesOf(in)) {
             if (note.what != vlk::ReadNote::What::value)
                 told << QString::number(static_cast<int>(note.what)) + ' ' + note.path;
         }
@@ -82,6 +82,13 @@ private Q_SLOTS:
     }
 
 private:
+    std::vector<vlk::ReadNote> notesOf(const vlk::XmlDocument& document)
+    {
+        std::vector<vlk::ReadNote> notes;
+        configuration_.read(*document.root(), &notes);
+        return notes;
+    }
+
     vlk::Configuration configuration_{vlk::allSettings()};
 };
 
