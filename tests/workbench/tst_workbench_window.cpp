@@ -213,7 +213,8 @@ private Q_SLOTS:
                         windows.append(*static_cast<const std::int32_t*>(p2));
                 });
         auto* list = bench.window.findChild<QListWidget*>(QStringLiteral("listWidget_Recent"));
-        for (const vlk::TelemetryWindow window : {vlk::TelemetryWindow::Browser, vlk::TelemetryWindow::Table}) {
+        for (const vlk::TelemetryWindow window :
+             {vlk::TelemetryWindow::Browser, vlk::TelemetryWindow::Table}) {
             bench.window.openFile(path, window);
             Q_EMIT list->itemActivated(list->item(0));
         }
