@@ -160,10 +160,8 @@ Normalised maskString(const Setting& setting, const QString& text, const QString
     QString held = setting.fields.empty() ? read : QString(setting.maxLength, QLatin1Char('0'));
     for (const MaskField& field : setting.fields) {
         const QString part = maskPart(field, read);
-        const bool on = field.always || (field.anyReads ? part.contains(QLatin1Char('1'))
-                                                        : part.startsWith(QLatin1Char('1')));
         if (field.items.empty())
-            setMaskPart(field, &held, QString(field.count, QLatin1Char(on ? '1' : '0')));
+            setMaskPart(field, &held, QString(field.count, QLatin1Char(isMaskOn(field, part) ? '1' : '0')));
         else
             setMaskPart(field, &held, maskItem(field, part) < 0 ? maskPart(field, before) : part);
     }
@@ -254,6 +252,12 @@ void setMaskPart(const MaskField& field, QString* mask, const QString& part)
 {
     for (std::size_t i = 0; i < field.count; ++i)
         mask->replace(field.positions[i], 1, part[static_cast<int>(i)]);
+}
+
+bool isMaskOn(const MaskField& field, const QString& part)
+{
+    const QLatin1Char on('1');
+    return field.always || (field.anyReads ? part.contains(on) : part.startsWith(on));
 }
 
 int maskItem(const MaskField& field, const QString& part)

@@ -20,7 +20,9 @@ enum class MaskVersion : std::uint8_t { zeta10, zeta20, zeta30 };
 
 constexpr MaskVersion versionOf(int position)
 {
-    return position < 69 ? MaskVersion::zeta10 : position < 122 ? MaskVersion::zeta20 : MaskVersion::zeta30;
+    return position < kZeta10Count         ? MaskVersion::zeta10
+           : position < kEarlierFieldCount ? MaskVersion::zeta20
+                                           : MaskVersion::zeta30;
 }
 
 struct DataSetBox
@@ -38,15 +40,17 @@ struct DataSetBox
     }
 };
 
-// A group of boxes and its place in the grid of the tab. Without a title it is a plain frame.
+// A group of boxes and its place in the grid of the tab.
 struct DataSetGroup
 {
     DataSetTab tab;
     const char* name;
-    const char* title;
+    const char* title; // null: the tab sets it
     int row;
     int column;
     int rows = 1;
+    bool inColumns =
+        false; // boxes that differ in their numbers stand below each other, each kind in a column
 };
 
 // Bytes that a field of the mask adds to a record where `part` is what its positions hold.
@@ -171,10 +175,10 @@ inline constexpr DataSetGroup kDataSetGroups[] = {
     {DataSetTab::navi, "groupBox_Geozone", "cfgt2f_048", 2, 1},
     {DataSetTab::navi, "groupBox_MNavi", "cfgt2f_041", 3, 0},
     {DataSetTab::rs, "groupBox_RS232", "cfgt2f_054", 0, 0},
-    {DataSetTab::rs, "groupBox_RS485", nullptr, 1, 0},
+    {DataSetTab::rs, "groupBox_RS485", nullptr, 1, 0, 1, true},
     {DataSetTab::accel, "groupBox_Accel", "cfgt2f_082", 0, 0},
     {DataSetTab::accel, "groupBox_EcoDrive", "cfgt2f_083", 1, 0},
-    {DataSetTab::more, "groupBox_HighPrecision", "cfgt2f_125", 0, 0},
+    {DataSetTab::more, "groupBox_HighPrecision", "cfgt2f_125", 0, 0, 1, true},
     {DataSetTab::more, "groupBox_Passager", "cfgt2f_132", 1, 0},
     {DataSetTab::more, "groupBox_Camera", "cfgt2f_134", 2, 0},
     {DataSetTab::more, "groupBox_VAccelAxels", "cfgt2f_135", 3, 0},
@@ -193,7 +197,8 @@ inline constexpr auto kDataSetBoxes = [] {
            box("checkBox_Module", 4, "cfgt2f_008"), box("checkBox_Module_2", 5, "cfgt2f_009"),
            box("checkBox_Module_3", 123, "cfgt2f_010"), box("checkBox_GSM", 6, "cfgt2f_011"),
            box("checkBox_GSM_State", 124, "cfgt2f_012"), box("checkBox_StateOut", 30, "cfgt2f_013"),
-           box("checkBox_StateOut_2", 31, "cfgt2f_025").hidden(), box("checkBox_StateIn", 28, "cfgt2f_014"),
+           boxes<1>("checkBox_StateOut_%1", 2, 31, "cfgt2f_013", "%1 %2"),
+           box("checkBox_StateIn", 28, "cfgt2f_014"),
            boxes<1>("checkBox_StateIn_%1", 2, 29, "cfgt2f_014", "%1 %2"),
            boxes<1>("checkBox_StateIn_%1", 3, 125, "cfgt2f_014", "%1 %2"),
            box("checkBox_Power", 18, "cfgt2f_015").hidden(), box("checkBox_Reserv", 19, "cfgt2f_156")),
