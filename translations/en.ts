@@ -206,6 +206,7 @@
     <message id="cfgt2f_052"><translation>Level sensor</translation></message>
     <message id="cfgt2f_053"><translation>Frequency of sensor</translation></message>
     <message id="cfgt2f_054"><translation>RS-232 level sensor</translation></message>
+    <message id="cfgt2f_055"><translation>Position without satellites</translation></message>
     <message id="cfgt2f_081"><translation>Accelerometer and driving style</translation></message>
     <message id="cfgt2f_082"><translation>Accelerometer</translation></message>
     <message id="cfgt2f_083"><translation>Driving style</translation></message>

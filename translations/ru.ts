@@ -206,6 +206,7 @@
     <message id="cfgt2f_052"><translation>Датчик уровня</translation></message>
     <message id="cfgt2f_053"><translation>Частота датчика</translation></message>
     <message id="cfgt2f_054"><translation>Датчик уровня RS-232</translation></message>
+    <message id="cfgt2f_055"><translation>Положение без спутников</translation></message>
     <message id="cfgt2f_081"><translation>Акселерометр и стиль вождения</translation></message>
     <message id="cfgt2f_082"><translation>Акселерометр</translation></message>
     <message id="cfgt2f_083"><translation>Стиль вождения</translation></message>
