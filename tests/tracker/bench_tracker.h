@@ -1,7 +1,7 @@
 #pragma once
 
-// A tracker on the bench: a store of its own, a clock that stands until it is moved, and a plug-in that
-// keeps what it is told.
+// A tracker with a store of its own, a clock that stands until it is moved, and a plug-in that keeps what it
+// is told.
 
 #include "support/files.h"
 #include "tracker/simulated_tracker.h"
@@ -83,9 +83,26 @@ public:
     bool silent(vlk::Message id, void* p1 = nullptr) { return ask(id, p1, 200).id == vlk::Message{}; }
     static void* plain(int value) { return vlk::asParameter(value); }
 
+    // Records without the headers of their answers.
+    QByteArray currentRecord()
+    {
+        return ask(vlk::Message::RequestCurrentRecord).first.mid(vlk::currentRecordHeader);
+    }
     QByteArray recordByNumber(quint32 number)
     {
         return ask(vlk::Message::RequestRecordByNumber, &number).first.mid(vlk::recordByNumberHeader);
+    }
+    // All asked for at once, since every answer takes its time.
+    QVector<QByteArray> records(quint32 first, quint32 count)
+    {
+        told.clear();
+        for (quint32 number = first; number < first + count; ++number)
+            tracker->handle(vlk::Message::RequestRecordByNumber, &number, nullptr);
+        QVector<QByteArray> records;
+        if (QTest::qWaitFor([&] { return told.size() == int(count); }, 60000))
+            for (const Told& each : qAsConst(told))
+                records += each.first.mid(vlk::recordByNumberHeader);
+        return records;
     }
 
     QString file(const QString& name, const QByteArray& content) const
