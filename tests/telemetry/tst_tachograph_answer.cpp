@@ -60,52 +60,32 @@ QByteArray file(char code, const QByteArray& name = {})
     return kFront + '\0' + code + little(81234, 4) + name;
 }
 
-const QStringList kStateLines = {"tmiw_052: <b>10:11:12 03.02.2025</b>",
-                                 "tmiw_053: <b>1</b>",
-                                 "tmiw_054: <b>2</b>",
-                                 "tmiw_055 abbr_047 1: <b>tmiw_059</b>",
-                                 "tmiw_055 abbr_047 2: <b>7</b>",
-                                 "tmiw_060 abbr_047 1: <b>tmiw_061</b>",
-                                 "tmiw_065 abbr_047 1: <b>tmiw_068</b>",
-                                 "tmiw_060 abbr_047 2: <b>tmiw_064</b>",
-                                 "tmiw_065 abbr_047 2: <b>tmiw_067</b>",
-                                 "tmiw_070 <b>4000000000</b>",
-                                 "tmiw_071: <b>255</b>",
-                                 "tmiw_072: <b>65528</b>",
-                                 "tmiw_073: <b>65529</b>",
-                                 "tmiw_074: <b>65530</b>",
-                                 "tmiw_075: <b>65531</b>",
-                                 "tmiw_076: <b>65532</b>",
-                                 "tmiw_077: <b>65533</b>",
-                                 "tmiw_078: <b>65534</b>",
-                                 "tmiw_079: <b>65535</b>"};
+// "text: value" for each line, the value of which is bold.
+QStringList linesOf(const char* texts)
+{
+    QStringList lines = QString::fromLatin1(texts).split(QStringLiteral(" | "));
+    for (QString& line : lines)
+        line = line.section(' ', 0, -2) + " <b>" + line.section(' ', -1).replace('~', ' ') + "</b>";
+    return lines;
+}
 
-const QStringList kCardLines = {"tmiw_055: <b>tmiw_057</b>",
-                                "tmiw_065: <b>4</b>",
-                                "tmiw_081: <b>7</b>",
-                                "tmiw_082: <b>RUD0000012345678</b>",
-                                "tmiw_083: <b>77</b>",
-                                "tmiw_084 1: <b>1</b>",
-                                "tmiw_084 2: <b>2</b>",
-                                "tmiw_084 3: <b>3</b>",
-                                "tmiw_084 4: <b>4</b>",
-                                "tmiw_085 1: <b>Ivanov</b>",
-                                "tmiw_085 2: <b>&lt;b&gt;&amp;</b>",
-                                "tmiw_085 3: <b>Ivanov</b>",
-                                "tmiw_085 4: <b>Ivanov</b>"};
-
-const QStringList kDataLines = {"<b>tmiw_086: 65</b>",
-                                "tmiw_087: <b>Maker</b>",
-                                "tmiw_088: <b>X9FABCDEFGH123456</b>",
-                                "tmiw_089: <b>46</b>",
-                                "tmiw_090: <b>4</b>",
-                                "tmiw_091: <b>A123BC77</b>",
-                                "tmiw_092: <b>2</b>",
-                                "tmiw_093: <b>10:11:12 04.02.2025</b>",
-                                "tmiw_094: <b>10:11:12 05.02.2025</b>",
-                                "tmiw_095: <b>10:11:12 06.02.2025</b>",
-                                "tmiw_096: <b>SN</b>",
-                                "tmiw_097: <b>v1.2.3.4.5.6.7.8</b>"};
+// Blanks that stand within a value are "~".
+const QStringList kStateLines =
+    linesOf("tmiw_052: 10:11:12~03.02.2025 | tmiw_053: 1 | tmiw_054: 2 | tmiw_055 abbr_047 1: tmiw_059 | "
+            "tmiw_055 abbr_047 2: 7 | tmiw_060 abbr_047 1: tmiw_061 | tmiw_065 abbr_047 1: tmiw_068 | "
+            "tmiw_060 abbr_047 2: tmiw_064 | tmiw_065 abbr_047 2: tmiw_067 | tmiw_070 4000000000 | "
+            "tmiw_071: 255 | tmiw_072: 65528 | tmiw_073: 65529 | tmiw_074: 65530 | tmiw_075: 65531 | "
+            "tmiw_076: 65532 | tmiw_077: 65533 | tmiw_078: 65534 | tmiw_079: 65535");
+const QStringList kCardLines =
+    linesOf("tmiw_055: tmiw_057 | tmiw_065: 4 | tmiw_081: 7 | tmiw_082: RUD0000012345678 | tmiw_083: 77 | "
+            "tmiw_084 1: 1 | tmiw_084 2: 2 | tmiw_084 3: 3 | tmiw_084 4: 4 | tmiw_085 1: Ivanov | "
+            "tmiw_085 2: &lt;b&gt;&amp; | tmiw_085 3: Ivanov | tmiw_085 4: Ivanov");
+const QStringList kDataLines =
+    QStringList("<b>tmiw_086: 65</b>") +
+    linesOf(
+        "tmiw_087: Maker | tmiw_088: X9FABCDEFGH123456 | tmiw_089: 46 | tmiw_090: 4 | tmiw_091: A123BC77 | "
+        "tmiw_092: 2 | tmiw_093: 10:11:12~04.02.2025 | tmiw_094: 10:11:12~05.02.2025 | "
+        "tmiw_095: 10:11:12~06.02.2025 | tmiw_096: SN | tmiw_097: v1.2.3.4.5.6.7.8");
 
 QStringList fileLines(const char* text)
 {
@@ -142,19 +122,16 @@ private Q_SLOTS:
 
     void files_data()
     {
-        QTest::addColumn<QByteArray>("answer");
-        QTest::addColumn<QStringList>("lines");
-        QTest::addColumn<QString>("name");
-        QTest::newRow("ready") << file(0, "M_2025.ddd") << fileLines("0) tmiw_099.") << "M_2025.ddd";
-        QTest::newRow("longest name")
-            << file(0, QByteArray(80, 'n')) << fileLines("0) tmiw_099.") << QString(72, 'n');
-        QTest::newRow("no name") << file(0) << fileLines("0) tmiw_099.") << "";
+        const DataTable<QByteArray, QStringList, QString> table({"answer", "lines", "name"});
+        table.row("ready", file(0, "M_2025.ddd"), fileLines("0) tmiw_099."), "M_2025.ddd")
+            .row("longest name", file(0, QByteArray(80, 'n')), fileLines("0) tmiw_099."), QString(72, 'n'))
+            .row("no name", file(0), fileLines("0) tmiw_099."), "");
         const std::pair<char, const char*> others[] = {
             {'\x10', "10) tmiw_100."}, {'\x20', "20) tmiw_101"}, {'\x21', "21) tmiw_102"},
             {'\x30', "30) tmiw_103"},  {'\x3c', "3C) tmiw_115"}, {'\x70', "70) tmiw_116. tmiw_117."},
             {'\x12', "12)"},           {'\x3d', "3D)"},          {'\xff', "FF)"}};
         for (const auto& [code, text] : others)
-            QTest::newRow(text) << file(code, "unread") << fileLines(text) << QString();
+            table.row(text, file(code, "unread"), fileLines(text), {});
     }
     void files()
     {

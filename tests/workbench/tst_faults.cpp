@@ -1,20 +1,14 @@
 // Each fault of the tracker at each step of the work, over the workbench as it is with the plug-in as it is:
 // whatever goes wrong ends in a true sentence, and what went well is not doubted.
 
+#include "opened_workbench.h"
 #include "support/data_table.h"
 #include "support/full_disk.h"
 #include "tracker/configuration_values.h"
 #include "window/answer_watch.h"
-#include "window/data_folder.h"
-#include "window/workbench_window.h"
 
-#include <QAbstractButton>
-#include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QTableView>
 #include <QtTest>
+#include <QtWidgets>
 
 using tracker::Faults;
 
@@ -24,7 +18,7 @@ namespace {
 
 enum Step { Read, Write, Live, Period };
 
-struct Bench
+struct Bench : OpenedWorkbench
 {
     Bench()
     {
@@ -40,20 +34,17 @@ struct Bench
             }
         });
         person.start(5);
-        window.show();
-        window.start(QStringLiteral(VLK_PLUGIN));
+        start(VLK_PLUGIN);
     }
     ~Bench() { window.close(); }
 
     QString file() const { return root.filePath(QStringLiteral("period.xml")); }
-    QString status() const { return window.findChild<QLabel*>(QStringLiteral("label_Status"))->text(); }
-    QString everything() const { return status() + QLatin1Char('\n') + boxes.join(QLatin1Char('\n')); }
+    QString status() { return text("label_Status"); }
+    QString everything() { return status() + QLatin1Char('\n') + boxes.join(QLatin1Char('\n')); }
     tracker::SimulatedTracker& tracker() { return window.session().tracker(); }
 
     static inline const QString newName = QStringLiteral("KAMAZ 5490");
     QString nameInTracker() { return tracker().configuration().text(QStringLiteral("TRANS/OBJECT/name")); }
-
-    void trigger(const char* action) { window.findChild<QAction*>(QLatin1String(action))->trigger(); }
 
     static QWidget* pluginWindow(const char* name)
     {
@@ -78,12 +69,12 @@ struct Bench
     void prepare(Step step)
     {
         if (step == Write) {
-            trigger("action_Read");
+            action("action_Read")->trigger();
             configuration()->findChild<QLineEdit*>(QStringLiteral("lineEdit_Name"))->setText(newName);
         }
         if (step != Live && step != Period)
             return;
-        trigger("action_Telemetry");
+        action("action_Telemetry")->trigger();
         auto* number = telemetry()->findChild<QLabel*>(QStringLiteral("label_Event_NumPage_Value"));
         QTRY_VERIFY(!number->text().isEmpty() && number->isVisible());
     }
@@ -92,7 +83,7 @@ struct Bench
     {
         switch (step) {
         case Read:
-            return trigger("action_Read");
+            return action("action_Read")->trigger();
         case Write:
             return press(configuration(), "pushButton_LoadToDevice");
         case Live:
@@ -102,12 +93,6 @@ struct Bench
         }
     }
 
-    QTemporaryDir root;
-    vlk::DataFolder folder{root.path()};
-    vlk::Settings settings{folder.settingsFile()};
-    vlk::Languages languages;
-    bool english = languages.set(QStringLiteral("en"));
-    vlk::WorkbenchWindow window{folder, settings, languages};
     QTimer person;
     QStringList boxes;
 };

@@ -1,6 +1,5 @@
 #include "support/data_table.h"
 #include "support/files.h"
-#include "support/full_disk.h"
 #include "window/data_folder.h"
 #include "window/host_session.h"
 #include "window/languages.h"
@@ -18,6 +17,8 @@ namespace {
 struct Bench
 {
     QTemporaryDir root;
+    vlk::Languages languages;
+    bool english = languages.set(QStringLiteral("en"));
     vlk::DataFolder folder{root.path()};
     vlk::HostSession session{folder.trackerFolder()};
     QSignalSpy written{&session, &vlk::HostSession::configurationWritten};
@@ -44,16 +45,13 @@ class HostSessionTest : public QObject
 private Q_SLOTS:
     void saysWhyThereIsNoPlugin_data()
     {
-        QTest::addColumn<QString>("path");
-        QTest::newRow("missing") << QStringLiteral("/no/such/plugin.so");
-        QTest::newRow("no library") << QStringLiteral(VLK_SOURCE "/CMakeLists.txt");
-        QTest::newRow("another library")
-            << QLibraryInfo::location(QLibraryInfo::LibrariesPath) + QStringLiteral("/libQt5Core.so.5");
+        DataTable<QString>({"path"})
+            .row("missing", "/no/such/plugin.so")
+            .row("no library", VLK_SOURCE "/CMakeLists.txt")
+            .row("another library", QLibraryInfo::location(QLibraryInfo::LibrariesPath) + "/libQt5Core.so.5");
     }
     void saysWhyThereIsNoPlugin()
     {
-        vlk::Languages languages;
-        QVERIFY(languages.set(QStringLiteral("en")));
         QFETCH(QString, path);
         Bench bench;
         QVERIFY(!bench.session.start(path));
@@ -111,8 +109,6 @@ private Q_SLOTS:
     {
         QFETCH(tracker::Faults, faults);
         QFETCH(QStringList, said);
-        vlk::Languages languages;
-        QVERIFY(languages.set(QStringLiteral("en")));
         Bench bench;
         QVERIFY(bench.start());
         QVector<quint32> passed;
@@ -132,16 +128,6 @@ private Q_SLOTS:
         }
         QVERIFY(!passed.contains(2101) && !passed.contains(2102));
         QVERIFY(bench.session.edited().name().isEmpty());
-    }
-
-    void saysThatItIsTheDisk()
-    {
-        vlk::Languages languages;
-        QVERIFY(languages.set(QStringLiteral("en")));
-        Bench bench;
-        QVERIFY(bench.start());
-        const FullDisk disk(1000);
-        QVERIFY(bench.session.readConfiguration(true).contains(QLatin1String("Make room on the disk")));
     }
 
     void asksBeforeItReplacesEverything()
@@ -172,8 +158,6 @@ private Q_SLOTS:
 
     void saysWhatIsEdited()
     {
-        vlk::Languages languages;
-        QVERIFY(languages.set(QStringLiteral("en")));
         Bench bench;
         QVERIFY(bench.start());
         const auto text = [&] { return bench.session.edited().text(); };

@@ -1,3 +1,4 @@
+#include "support/data_table.h"
 #include "support/files.h"
 #include "support/full_disk.h"
 #include "window/languages.h"
@@ -10,9 +11,6 @@
 #include <QLineEdit>
 #include <QtTest>
 
-#include <cstring>
-#include <functional>
-
 using vlk::Direction;
 using vlk::Message;
 
@@ -20,22 +18,13 @@ Q_DECLARE_METATYPE(vlk::Message)
 
 namespace {
 
-// Owns whatever a message points at while it is described.
-using Describe = std::function<vlk::MessageText()>;
-
-vlk::MessageText in(Message id, const void* p1, const void* p2 = nullptr)
+// Takes the address of what lies in the test's own memory.
+void* address(const auto& value)
 {
-    return vlk::describeMessage(Direction::ToPlugin, quint32(id), p1, p2);
-}
-
-vlk::MessageText out(Message id, const void* p1 = nullptr, const void* p2 = nullptr)
-{
-    return vlk::describeMessage(Direction::ToHost, quint32(id), p1, p2);
+    return const_cast<void*>(static_cast<const void*>(&value));
 }
 
 } // namespace
-
-Q_DECLARE_METATYPE(Describe)
 
 class MessageLogTest : public QObject
 {
@@ -46,115 +35,59 @@ private Q_SLOTS:
     void cleanupTestCase() { QTest::qWait(500); }
     void describesParameters_data()
     {
-        QTest::addColumn<Describe>("describe");
-        QTest::addColumn<QString>("words");
-        QTest::addColumn<QByteArray>("bytes");
-        const auto row = [](const char* name, const Describe& describe, const char* words,
-                            const QByteArray& bytes = {}) {
-            QTest::newRow(name) << describe << QString::fromUtf8(words) << bytes;
+        static const std::int32_t integer = -5;
+        static const float real = 12.5F;
+        static const QString model = QStringLiteral("R-7106");
+        static const QString page = QStringLiteral("Страница");
+        static const QDateTime time({2026, 3, 1}, {10, 0}, Qt::UTC);
+        static const QByteArray bytes("\x01\xff", 2);
+        static const QByteArray code(vlk::balanceUssdSize, '*');
+        static const vlk::OpenRequest request{1, 0, "/a b.xml"};
+        static const vlk::ConnectInfo info{QStringLiteral("M"), QStringLiteral("1"), {}, {}, 0xA, 0xB};
+        static const vlk::IdPair pair{1, 1};
+        static const std::uint8_t kind = 7;
+        static const QByteArray result = QByteArray(vlk::accelResultSize - 1, '\0') + char(49);
+        static const QByteArray names(sizeof(vlk::BtDevice), 'n');
+        static_assert(vlk::accelStatusByte == vlk::accelResultSize - 1);
+        using enum Direction;
+        const DataTable<bool, Message, void*, void*, QString, QByteArray> table(
+            {"toHost", "number", "first", "second", "words", "bytes"});
+        const auto row = [&](const char* name, Direction way, Message number, void* p1, const QString& words,
+                             void* p2 = nullptr, const QByteArray& shown = {}) {
+            table.row(name, way == ToHost, number, p1, p2, words, shown);
         };
-        row(
-            "nothing", [] { return out(Message::RequestCurrentRecord); }, "");
-        row(
-            "null", [] { return out(Message::WriteConfiguration); }, "null");
-        row(
-            "integer",
-            [] {
-                const std::int32_t n = -5;
-                return in(Message::SetHostMode, &n);
-            },
-            "-5");
-        row(
-            "value", [] { return out(Message::OutputOn, vlk::asParameter(2)); }, "2");
-        row(
-            "float",
-            [] {
-                const float f = 12.5F;
-                return out(Message::SetMileage, &f);
-            },
-            "12.5");
-        row(
-            "strings",
-            [] {
-                const QString model = QStringLiteral("R-7106");
-                const QString page = QStringLiteral("Страница");
-                return out(Message::ShowHelp, &model, &page);
-            },
-            "\"R-7106\", \"Страница\"");
-        row(
-            "time",
-            [] {
-                const QDateTime time({2026, 3, 1}, {10, 0}, Qt::UTC);
-                return out(Message::RequestRecordByTime, &time);
-            },
-            "2026-03-01T10:00:00Z");
-        row(
-            "bytes",
-            [] {
-                const QByteArray b("\x01\xff", 2);
-                return in(Message::CurrentRecord, &b);
-            },
-            "", QByteArray("\x01\xff", 2));
-        row(
-            "text buffer full to its end",
-            [] {
-                const QByteArray code(vlk::balanceUssdSize, '*');
-                return in(Message::GetBalanceUssd, code.constData());
-            },
-            QByteArray('"' + QByteArray(vlk::balanceUssdSize, '*') + '"').constData());
-        row(
-            "open request",
-            [] {
-                vlk::OpenRequest request{1, 0, "/a b.xml"};
-                return in(Message::OpenConfiguration, &request);
-            },
+        row("nothing", ToHost, Message::RequestCurrentRecord, nullptr, "");
+        row("null", ToHost, Message::WriteConfiguration, nullptr, "null");
+        row("integer", ToPlugin, Message::SetHostMode, address(integer), "-5");
+        row("value", ToHost, Message::OutputOn, vlk::asParameter(2), "2");
+        row("float", ToHost, Message::SetMileage, address(real), "12.5");
+        row("strings", ToHost, Message::ShowHelp, address(model), "\"R-7106\", \"Страница\"", address(page));
+        row("time", ToHost, Message::RequestRecordByTime, address(time), "2026-03-01T10:00:00Z");
+        row("bytes", ToPlugin, Message::CurrentRecord, address(bytes), "", nullptr, bytes);
+        row("text buffer full to its end", ToPlugin, Message::GetBalanceUssd, address(*code.constData()),
+            '"' + code + '"');
+        row("open request", ToPlugin, Message::OpenConfiguration, address(request),
             "showFull=1 fromFile=0 path=\"/a b.xml\"");
-        row(
-            "attached",
-            [] {
-                const vlk::ConnectInfo info{QStringLiteral("M"), QStringLiteral("1"), {}, {}, 0xA, 0xB};
-                return in(Message::TrackerAttached, &info);
-            },
+        row("attached", ToPlugin, Message::TrackerAttached, address(info),
             "model=\"M\" text1=\"1\" text2=\"\" mask=0x0000000b0000000a");
-        row(
-            "64-bit number",
-            [] {
-                const vlk::IdPair pair{1, 1};
-                const std::uint8_t kind = 7;
-                return in(Message::RfidNumber, &pair, &kind);
-            },
-            "id=4294967297 (0x0000000100000001), 7");
-        row(
-            "status and bytes",
-            [] {
-                QByteArray record(vlk::accelResultSize, '\0');
-                record[vlk::accelStatusByte] = 49;
-                return in(Message::AccelCommandResult, record.constData());
-            },
-            "status=49", QByteArray(vlk::accelResultSize - 1, '\0') + char(49));
-        row(
-            "names without an end",
-            [] {
-                vlk::BtDevice device;
-                std::memset(&device, 'n', sizeof device);
-                return in(Message::BtDeviceFound, &device);
-            },
-            QByteArray("name=\"" + QByteArray(128, 'n') + "\" mac=\"" + QByteArray(128, 'n') + '"')
-                .constData());
+        row("64-bit number", ToPlugin, Message::RfidNumber, address(pair),
+            "id=4294967297 (0x0000000100000001), 7", address(kind));
+        row("status and bytes", ToPlugin, Message::AccelCommandResult, address(*result.constData()),
+            "status=49", nullptr, result);
+        row("names without an end", ToPlugin, Message::BtDeviceFound, address(*names.constData()),
+            QString("name=\"%1\" mac=\"%1\"").arg(QString(128, 'n')));
         // Nobody knows what lies behind these addresses.
-        row(
-            "unknown number",
-            [] { return vlk::describeMessage(Direction::ToHost, 2999, vlk::asParameter(16), nullptr); },
-            "0x10 0x0");
-        row(
-            "wrong direction",
-            [] { return vlk::describeMessage(Direction::ToHost, 2101, vlk::asParameter(1), nullptr); },
-            "0x1 0x0");
+        row("unknown number", ToHost, Message(2999), vlk::asParameter(16), "0x10 0x0");
+        row("wrong direction", ToHost, Message::OpenConfiguration, vlk::asParameter(1), "0x1 0x0");
     }
     void describesParameters()
     {
-        QFETCH(Describe, describe);
-        const vlk::MessageText text = describe();
+        QFETCH(bool, toHost);
+        QFETCH(Message, number);
+        QFETCH(void*, first);
+        QFETCH(void*, second);
+        const auto text = vlk::describeMessage(toHost ? Direction::ToHost : Direction::ToPlugin,
+                                               quint32(number), first, second);
         QTEST(text.words, "words");
         QTEST(text.bytes, "bytes");
     }
@@ -193,19 +126,16 @@ private Q_SLOTS:
 
     void filters_data()
     {
-        QTest::addColumn<QString>("words");
-        QTest::addColumn<int>("directions");
-        QTest::addColumn<int>("shown");
-        const int both = int(vlk::MessageLogFilter::Directions::Both);
-        QTest::newRow("nothing") << QString() << both << 4;
-        QTest::newRow("number") << QStringLiteral("2301") << both << 1;
-        QTest::newRow("name in any case") << QStringLiteral("currentrecord") << both << 2;
-        QTest::newRow("bytes as hex") << QStringLiteral("0A FF") << both << 1;
-        QTest::newRow("all words") << QStringLiteral("  record   request ") << both << 1;
-        QTest::newRow("a word that is nowhere") << QStringLiteral("record tachograph") << both << 0;
-        QTest::newRow("to the plug-in") << QString() << int(vlk::MessageLogFilter::Directions::ToPlugin) << 2;
-        QTest::newRow("to the host") << QStringLiteral("help")
-                                     << int(vlk::MessageLogFilter::Directions::ToHost) << 1;
+        using enum vlk::MessageLogFilter::Directions;
+        DataTable<QString, int, int>({"words", "directions", "shown"})
+            .row("nothing", {}, int(Both), 4)
+            .row("number", "2301", int(Both), 1)
+            .row("name in any case", "currentrecord", int(Both), 2)
+            .row("bytes as hex", "0A FF", int(Both), 1)
+            .row("all words", "  record   request ", int(Both), 1)
+            .row("a word that is nowhere", "record tachograph", int(Both), 0)
+            .row("to the plug-in", {}, int(ToPlugin), 2)
+            .row("to the host", "help", int(ToHost), 1);
     }
     void filters()
     {

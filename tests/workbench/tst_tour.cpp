@@ -1,6 +1,8 @@
 // The whole road without a person: the workbench's tour, and its written configuration read by another
 // reader.
 
+#include "support/files.h"
+
 #include <QDomDocument>
 #include <QImage>
 #include <QProcess>
@@ -12,103 +14,91 @@ class TourTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void everyStepDidWhatItShould();
-    void configurationIsWhole();
-    void reportNamesTheEditsAlone();
-    void samplesAreWhole();
-    void picturesShowSomething();
+    void initTestCase()
+    {
+        QVERIFY(folder_.isValid());
+        QProcess workbench;
+        workbench.setProcessChannelMode(QProcess::MergedChannels);
+        workbench.start(QStringLiteral(VLK_WORKBENCH),
+                        {"--tour", folder_.path(), "--data", folder_.filePath(QStringLiteral("data"))});
+        QVERIFY(workbench.waitForFinished(240'000));
+        output_ = workbench.readAll();
+        exitCode_ = workbench.exitCode();
+    }
+
+    void everyStepDidWhatItShould()
+    {
+        QVERIFY2(exitCode_ == 0, output_.constData());
+        QVERIFY2(!output_.contains("FAILED"), output_.constData());
+        QVERIFY(content("tour.txt").count("ok ") >= 23);
+    }
+
+    void configurationIsWhole()
+    {
+        QDomDocument document;
+        QString error;
+        QVERIFY2(document.setContent(content("configuration.xml"), &error), qPrintable(error));
+        const QDomElement root = document.documentElement();
+        QCOMPARE(root.tagName(), QStringLiteral("DEVICE"));
+        QCOMPARE(root.attribute("model"), QStringLiteral("R-7106"));
+        QCOMPARE(root.childNodes().size(), 10);
+        const QDomElement transfer = root.firstChildElement(QStringLiteral("TRANS"));
+        QCOMPARE(transfer.attribute("page"), QStringLiteral("TRANS"));
+        QCOMPARE(transfer.firstChildElement("SRV1").attribute("addr"), QStringLiteral("fleet.example.com"));
+        QCOMPARE(transfer.firstChildElement("SRV1").attribute("port"), QStringLiteral("5555"));
+        QCOMPARE(transfer.firstChildElement("AUTOAPN").attributes().size(), 40);
+    }
+
+    void reportNamesTheEditsAlone()
+    {
+        const QByteArray report = content("report.txt");
+        QCOMPARE(report.count('\t'), 3 * 3);
+        for (const char* key : {"TRANS/OBJECT/name", "TRANS/SRV1/addr", "TRANS/SRV1/port"})
+            QVERIFY2(report.contains(key), key);
+    }
+
+    // Two records saved in every form, and what a cancelled save left.
+    void samplesAreWhole()
+    {
+        for (const auto& [name, least] : {std::pair("two.xml", 2), std::pair("part.xml", 150)}) {
+            QDomDocument document;
+            QString error;
+            QVERIFY2(document.setContent(content(name), &error), qPrintable(error));
+            const QDomNodeList pages = document.elementsByTagName(QStringLiteral("Page"));
+            QVERIFY(pages.size() >= least);
+            const QDomElement interval =
+                document.documentElement().firstChildElement(QStringLiteral("INTERVAL"));
+            QCOMPARE(interval.attribute("count").toInt(), pages.size());
+        }
+        const QByteArrayList lines = content("two.csv").split('\n');
+        QVERIFY(lines.size() == 4 && lines[0].count(';') == lines[1].count(';'));
+        constexpr int identityBytes = 128;
+        QVERIFY(content("two.tmi").size() > identityBytes);
+    }
+
+    void picturesShowSomething()
+    {
+        const QStringList pictures = QDir(folder_.path()).entryList({"*.png"});
+        QVERIFY(pictures.size() >= 35);
+        for (const QString& name : pictures) {
+            const QImage image(folder_.filePath(name));
+            QVERIFY2(image.width() >= 200 && image.height() >= 60, qPrintable(name));
+            QSet<QRgb> colours;
+            for (int y = 0; y < image.height(); y += 3) {
+                for (int x = 0; x < image.width(); x += 3)
+                    colours << image.pixel(x, y);
+            }
+            QVERIFY2(colours.size() > 8, qPrintable(name));
+        }
+    }
 
 private:
-    QByteArray content(const char* name);
+    QByteArray content(const char* name) const { return readFile(folder_.filePath(name)); }
 
     QTemporaryDir folder_;
     QByteArray output_;
     int exitCode_ = -1;
 };
-
-QByteArray TourTest::content(const char* name)
-{
-    QFile file(folder_.filePath(QString::fromLatin1(name)));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void TourTest::initTestCase()
-{
-    QVERIFY(folder_.isValid());
-    QProcess workbench;
-    workbench.setProcessChannelMode(QProcess::MergedChannels);
-    workbench.start(QStringLiteral(VLK_WORKBENCH),
-                    {"--tour", folder_.path(), "--data", folder_.filePath(QStringLiteral("data"))});
-    QVERIFY(workbench.waitForFinished(240'000));
-    output_ = workbench.readAll();
-    exitCode_ = workbench.exitCode();
-}
-
-void TourTest::everyStepDidWhatItShould()
-{
-    QVERIFY2(exitCode_ == 0, output_.constData());
-    QVERIFY2(!output_.contains("FAILED"), output_.constData());
-    QVERIFY(content("tour.txt").count("ok ") >= 23);
-}
-
-void TourTest::configurationIsWhole()
-{
-    QDomDocument document;
-    QString error;
-    QVERIFY2(document.setContent(content("configuration.xml"), &error), qPrintable(error));
-    const QDomElement root = document.documentElement();
-    QCOMPARE(root.tagName(), QStringLiteral("DEVICE"));
-    QCOMPARE(root.attribute("model"), QStringLiteral("R-7106"));
-    QCOMPARE(root.childNodes().size(), 10);
-    const QDomElement transfer = root.firstChildElement(QStringLiteral("TRANS"));
-    QCOMPARE(transfer.attribute("page"), QStringLiteral("TRANS"));
-    QCOMPARE(transfer.firstChildElement("SRV1").attribute("addr"), QStringLiteral("fleet.example.com"));
-    QCOMPARE(transfer.firstChildElement("SRV1").attribute("port"), QStringLiteral("5555"));
-    QCOMPARE(transfer.firstChildElement("AUTOAPN").attributes().size(), 40);
-}
-
-void TourTest::reportNamesTheEditsAlone()
-{
-    const QByteArray report = content("report.txt");
-    QCOMPARE(report.count('\t'), 3 * 3);
-    for (const char* key : {"TRANS/OBJECT/name", "TRANS/SRV1/addr", "TRANS/SRV1/port"})
-        QVERIFY2(report.contains(key), key);
-}
-
-// Two records saved in every form, and what a cancelled save left.
-void TourTest::samplesAreWhole()
-{
-    for (const auto& [name, least] : {std::pair("two.xml", 2), std::pair("part.xml", 150)}) {
-        QDomDocument document;
-        QString error;
-        QVERIFY2(document.setContent(content(name), &error), qPrintable(error));
-        const QDomNodeList pages = document.elementsByTagName(QStringLiteral("Page"));
-        QVERIFY(pages.size() >= least);
-        const QDomElement interval = document.documentElement().firstChildElement(QStringLiteral("INTERVAL"));
-        QCOMPARE(interval.attribute("count").toInt(), pages.size());
-    }
-    const QByteArrayList lines = content("two.csv").split('\n');
-    QVERIFY(lines.size() == 4 && lines[0].count(';') == lines[1].count(';'));
-    constexpr int identityBytes = 128;
-    QVERIFY(content("two.tmi").size() > identityBytes);
-}
-
-void TourTest::picturesShowSomething()
-{
-    const QStringList pictures = QDir(folder_.path()).entryList({"*.png"});
-    QVERIFY(pictures.size() >= 35);
-    for (const QString& name : pictures) {
-        const QImage image(folder_.filePath(name));
-        QVERIFY2(image.width() >= 200 && image.height() >= 60, qPrintable(name));
-        QSet<QRgb> colours;
-        for (int y = 0; y < image.height(); y += 3) {
-            for (int x = 0; x < image.width(); x += 3)
-                colours << image.pixel(x, y);
-        }
-        QVERIFY2(colours.size() > 8, qPrintable(name));
-    }
-}
 
 QTEST_GUILESS_MAIN(TourTest)
 #include "tst_tour.moc"

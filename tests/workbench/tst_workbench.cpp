@@ -1,4 +1,5 @@
 #include "support/data_table.h"
+#include "support/files.h"
 #include "window/command_line.h"
 #include "window/data_folder.h"
 #include "window/help_viewer.h"
@@ -6,58 +7,15 @@
 #include "window/settings.h"
 #include "window/stored_file.h"
 
-#include <QDirIterator>
 #include <QProcess>
 #include <QTextBlock>
-#include <QXmlStreamReader>
 #include <QtTest>
+
+Q_DECLARE_METATYPE(StoredFile)
 
 namespace {
 
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-QString write(const QTemporaryDir& folder, const QString& name, const QByteArray& content)
-{
-    QFile file(folder.filePath(name));
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? file.fileName()
-                                                                                    : QString();
-}
-
-QSet<QString> keysOfTexts(const QString& language)
-{
-    QSet<QString> keys;
-    QXmlStreamReader reader(contentOf(QStringLiteral(VLK_SOURCE "/translations/%1.ts").arg(language)));
-    QString id;
-    while (!reader.atEnd()) {
-        if (reader.readNext() != QXmlStreamReader::StartElement)
-            continue;
-        if (reader.name() == QLatin1String("message"))
-            id = reader.attributes().value(QLatin1String("id")).toString();
-        else if (reader.name() == QLatin1String("translation") &&
-                 !reader.readElementText().trimmed().isEmpty())
-            keys.insert(id);
-    }
-    return keys;
-}
-
-QSet<QString> keysOfSources()
-{
-    QSet<QString> keys;
-    static const QRegularExpression key(QStringLiteral("\"(wb_[a-z0-9_]+)\""));
-    QDirIterator files(QStringLiteral(VLK_SOURCE "/workbench"),
-                       {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,
-                       QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        const QString source = QString::fromUtf8(contentOf(files.next()));
-        for (auto found = key.globalMatch(source); found.hasNext();)
-            keys.insert(found.next().captured(1));
-    }
-    return keys;
-}
+constexpr char help[] = VLK_SOURCE "/help";
 
 // Exit code and all that it said; -1 when it crashed or did not end.
 std::pair<int, QString> run(const QStringList& arguments,
@@ -78,29 +36,6 @@ class WorkbenchTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyKeyHasATextInBothLanguages()
-    {
-        // A key that ends in an underscore is the stem of a numbered family.
-        const QSet<QString> used = keysOfSources();
-        const auto isStem = [](const QString& key) { return key.endsWith(QLatin1Char('_')); };
-        QVERIFY(used.size() > 100);
-        for (const QString& language : vlk::Languages::codes()) {
-            const QSet<QString> texts = keysOfTexts(language);
-            QStringList missing;
-            for (const QString& key : used)
-                if (isStem(key) ? QStringList(texts.values()).filter(key).isEmpty() : !texts.contains(key))
-                    missing.append(key);
-            QCOMPARE(missing, QStringList());
-            QStringList unused;
-            for (const QString& text : texts)
-                if (text.startsWith(QLatin1String("wb_")) && !used.contains(text) &&
-                    std::none_of(used.begin(), used.end(),
-                                 [&](const QString& key) { return isStem(key) && text.startsWith(key); }))
-                    unused.append(text);
-            QCOMPARE(unused, QStringList());
-        }
-    }
-
     // The compiled texts, asked the way the plug-in asks: from any class, by key.
     void translatesByKey()
     {
@@ -119,23 +54,21 @@ private Q_SLOTS:
 
     void helpPagesExistAndTheirLinksResolve_data()
     {
-        QTest::addColumn<QString>("language");
-        QTest::addColumn<QString>("page");
+        const DataTable<QString, QString> table({"language", "page"});
         QSet<QString> pages;
         for (const QString& language : vlk::Languages::codes())
-            for (const QString& page :
-                 QDir(QStringLiteral(VLK_SOURCE "/help/") + language).entryList(QDir::Files))
+            for (const QString& page : QDir(QDir(help).filePath(language)).entryList(QDir::Files))
                 pages << page;
         // A page of one language stands in the others too.
         for (const QString& language : vlk::Languages::codes())
             for (const QString& page : std::as_const(pages))
-                QTest::newRow(qPrintable(language + QLatin1Char('/') + page)) << language << page;
+                table.row(qPrintable(language + '/' + page), language, page);
     }
     void helpPagesExistAndTheirLinksResolve()
     {
         QFETCH(QString, language);
         QFETCH(QString, page);
-        const vlk::HelpPages pages(QStringLiteral(VLK_SOURCE "/help"));
+        const vlk::HelpPages pages(help);
         QVERIFY(pages.exists(language, page));
         static const QRegularExpression link(QStringLiteral("href=\"([^\"#]*)(?:#([^\"]*))?\""));
         for (auto found = link.globalMatch(pages.html(language, page)); found.hasNext();) {
@@ -153,7 +86,7 @@ private Q_SLOTS:
     {
         vlk::Languages languages;
         QVERIFY(languages.set(QStringLiteral("en")));
-        const vlk::HelpPages pages(QStringLiteral(VLK_SOURCE "/help"));
+        const vlk::HelpPages pages(help);
         QVERIFY(pages.html(QStringLiteral("en"), QStringLiteral("r-7106p99.html"))
                     .contains(QStringLiteral("r-7106p99.html")));
         // Only the file name counts, so that no page leads out of the help.
@@ -209,52 +142,45 @@ private Q_SLOTS:
 
     void survivesDamagedSettings_data()
     {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<bool>("damaged");
-        QTest::newRow("zero bytes") << QByteArray(64, '\0') << true;
-        QTest::newRow("no ini") << QByteArray("this is not a settings file\n") << true;
-        QTest::newRow("wrong values") << QByteArray("[General]\nlanguage=xx\nmode=99\n") << false;
-        QTest::newRow("empty") << QByteArray() << false;
+        DataTable<QByteArray, bool>({"content", "damaged"})
+            .row("zero bytes", QByteArray(64, '\0'), true)
+            .row("no ini", "this is not a settings file\n", true)
+            .row("wrong values", "[General]\nlanguage=xx\nmode=99\n", false)
+            .row("empty", {}, false);
     }
     void survivesDamagedSettings()
     {
         QFETCH(QByteArray, content);
         QFETCH(bool, damaged);
         const QTemporaryDir folder;
-        const QString file = write(folder, QStringLiteral("w.ini"), content);
+        const QString file = writeFile(folder.filePath("w.ini"), content);
         vlk::Settings settings(file);
         QCOMPARE(settings.wasDamaged(), damaged);
         QVERIFY(vlk::Languages::isKnown(settings.language()));
         QCOMPARE(settings.mode(), 0);
         QCOMPARE(QFile::exists(file + QStringLiteral(".damaged")), damaged);
         if (damaged)
-            QCOMPARE(contentOf(file + QStringLiteral(".damaged")), content);
+            QCOMPARE(readFile(file + QStringLiteral(".damaged")), content);
     }
 
     void knowsFilesByTheirContent_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<int>("kind");
-        const auto row = [](const char* title, const char* name, const QByteArray& content, StoredFile kind) {
-            QTest::newRow(title) << QString::fromLatin1(name) << content << int(kind);
-        };
         const QByteArray declaration("<?xml version=\"1.0\" encoding=\"windows-1251\"?>\r\n");
-        row("configuration", "a.xml", declaration + "<DEVICE model=\"\xcf\">", StoredFile::Configuration);
-        row("telemetry", "a.xml", declaration + "<TMI model=\"R\"> \r\n", StoredFile::Telemetry);
-        row("binary telemetry", "A.TMI", QByteArray(200, '\0'), StoredFile::Telemetry);
-        row("another document", "a.xml", "<html/>", StoredFile::Unknown);
-        row("no document", "a.xml", QByteArray(5000, '\xff'), StoredFile::Unknown);
-        row("empty", "a.xml", {}, StoredFile::Unknown);
+        DataTable<QString, QByteArray, StoredFile>({"name", "content", "kind"})
+            .row("configuration", "a.xml", declaration + "<DEVICE model=\"\xcf\">", StoredFile::Configuration)
+            .row("telemetry", "a.xml", declaration + "<TMI model=\"R\"> \r\n", StoredFile::Telemetry)
+            .row("binary telemetry", "A.TMI", QByteArray(200, '\0'), StoredFile::Telemetry)
+            .row("another document", "a.xml", "<html/>", StoredFile::Unknown)
+            .row("no document", "a.xml", QByteArray(5000, '\xff'), StoredFile::Unknown)
+            .row("empty", "a.xml", {}, StoredFile::Unknown);
     }
     void knowsFilesByTheirContent()
     {
         QFETCH(QString, name);
         QFETCH(QByteArray, content);
-        QFETCH(int, kind);
         const QTemporaryDir folder;
-        QCOMPARE(int(vlk::storedFileKind(write(folder, name, content))), kind);
-        QCOMPARE(int(vlk::storedFileKind(folder.path())), int(StoredFile::Unknown));
+        QTEST(vlk::storedFileKind(writeFile(folder.filePath(name), content)), "kind");
+        QCOMPARE(vlk::storedFileKind(folder.path()), StoredFile::Unknown);
     }
 
     void makesItsDataFolder()
@@ -265,7 +191,7 @@ private Q_SLOTS:
         QCOMPARE(QDir::currentPath(), QFileInfo(folder.path()).canonicalFilePath());
         QVERIFY(QFileInfo(folder.configurationFolder()).isDir());
         // A file stands in the way.
-        const vlk::DataFolder refused(write(root, QStringLiteral("file"), "x") + QStringLiteral("/data"));
+        const vlk::DataFolder refused(writeFile(root.filePath("file"), "x") + "/data");
         QVERIFY(!refused.isUsable() && !refused.isInUse());
         QVERIFY(!refused.error().isEmpty());
     }
@@ -316,8 +242,7 @@ private Q_SLOTS:
         QPalette palette;
         palette.setColor(QPalette::Base, base);
         palette.setColor(QPalette::Link, link);
-        vlk::HelpViewer viewer(vlk::HelpPages(QStringLiteral(VLK_SOURCE "/help")), QStringLiteral("en"),
-                               nullptr);
+        vlk::HelpViewer viewer(vlk::HelpPages(help), QStringLiteral("en"), nullptr);
         viewer.showPage(vlk::HelpPages::indexPage());
         // The theme may change while the page is on show.
         viewer.setPalette(palette);
@@ -337,12 +262,9 @@ private Q_SLOTS:
 
     void obeysTheCommandLine_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("code");
-        QTest::addColumn<QString>("said");
-        const auto row = [](const char* arguments, int code, const char* said) {
-            QTest::newRow(arguments) << QString::fromUtf8(arguments).split(QLatin1Char(' ')) << code
-                                     << QString::fromUtf8(said);
+        const auto row = [table = DataTable<QString, int, QString>({"arguments", "code", "said"})](
+                             const char* arguments, int code, const char* said) {
+            table.row(arguments, arguments, code, said);
         };
         row("--help --language en", 0, "--tour");
         row("--help --language ru", 0, "Параметры");
@@ -358,9 +280,9 @@ private Q_SLOTS:
     }
     void obeysTheCommandLine()
     {
-        QFETCH(QStringList, arguments);
+        QFETCH(QString, arguments);
         QFETCH(QString, said);
-        const auto [code, output] = run(arguments);
+        const auto [code, output] = run(arguments.split(' '));
         QTEST(code, "code");
         QVERIFY2(output.contains(said), qPrintable(output));
     }

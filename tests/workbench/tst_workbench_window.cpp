@@ -1,46 +1,18 @@
+#include "opened_workbench.h"
 #include "support/data_table.h"
 #include "support/files.h"
-#include "window/data_folder.h"
 #include "window/folders_dialog.h"
 #include "window/recent_files.h"
-#include "window/settings.h"
-#include "window/workbench_window.h"
 #include "window/write_report_view.h"
 
-#include <QAbstractButton>
-#include <QComboBox>
-#include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QLoggingCategory>
-#include <QMenuBar>
-#include <QMessageBox>
-#include <QMimeData>
-#include <QScreen>
-#include <QShortcut>
-#include <QTabWidget>
-#include <QToolButton>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace {
 
-struct Bench
+struct Bench : OpenedWorkbench
 {
-    QTemporaryDir root;
-    vlk::DataFolder folder{root.path()};
-    vlk::Settings settings{folder.settingsFile()};
-    vlk::Languages languages;
-    bool english = languages.set(QStringLiteral("en"));
-    vlk::WorkbenchWindow window{folder, settings, languages};
-
-    bool start()
-    {
-        window.show();
-        return window.start(QStringLiteral(VLK_ECHO_PLUGIN));
-    }
-    QAction* action(const char* name) { return window.findChild<QAction*>(QLatin1String(name)); }
-    QString text(const char* name) { return window.findChild<QLabel*>(QLatin1String(name))->text(); }
+    bool start() { return OpenedWorkbench::start(VLK_ECHO_PLUGIN); }
 };
 
 QStringList textsOf(const QWidget& window)
@@ -402,7 +374,8 @@ private Q_SLOTS:
         }
     }
 
-    // Whatever the size of the letters, the windows fit the screen and scroll.
+    // Whatever the size of the letters, the windows fit the screen and scroll; at the size of the
+    // configuration window nothing needs more room.
     void fitsTheScreen()
     {
         Bench bench;
@@ -420,13 +393,6 @@ private Q_SLOTS:
             for (const auto* window : bench.window.findChildren<QDialog*>())
                 QVERIFY2(fits(window->size()), window->objectName().toLatin1().constData());
         }
-    }
-
-    // At the size of the configuration window nothing may need more room.
-    void fitsASmallScreen()
-    {
-        Bench bench;
-        QVERIFY(bench.start());
         for (const QString& language : vlk::Languages::codes()) {
             bench.window.setLanguage(language);
             bench.window.resize(1024, 600);
