@@ -203,40 +203,30 @@ private Q_SLOTS:
         QCOMPARE(bench.ask(Message::RequestCurrentRecord).first.size(), vlk::shortestCurrentRecord);
     }
 
-    void everyRequestHasItsHeader_data()
-    {
-        DataTable<int, int, int>({"request", "answer", "header"})
-            .row("current", int(Message::RequestCurrentRecord), int(Message::CurrentRecord), 3)
-            .row("number", int(Message::RequestRecordByNumber), int(Message::RecordByNumber), 3)
-            .row("time", int(Message::RequestRecordByTime), int(Message::RecordByTime), 13)
-            .row("period", int(Message::RequestRecordOfPeriod), int(Message::RecordOfPeriod), 13)
-            .row("key", int(Message::RequestExtraPacket), int(Message::ExtraPacket), 2)
-            .row("cleared", int(Message::ClearServerData), int(Message::ClearedRecord), 3);
-    }
     void everyRequestHasItsHeader()
     {
-        QFETCH(int, request);
-        QFETCH(int, header);
         BenchTracker bench;
         quint32 number = 70000;
         QDateTime time = QDateTime::fromSecsSinceEpoch(bench.now - 86400, Qt::UTC);
-        const auto id = static_cast<Message>(request);
-        void* p1 = BenchTracker::plain(1);
-        if (id == Message::RequestRecordByNumber)
-            p1 = &number;
-        else if (id == Message::RequestRecordByTime || id == Message::RequestRecordOfPeriod)
-            p1 = &time;
-        const Told told = bench.ask(id, p1);
-        QTEST(int(told.id), "answer");
-        // What the host looks for in an answer, a sound tracker has.
-        QVERIFY(vlk::RecordCheck::carriesRecord(told.id));
-        QVERIFY(!vlk::RecordCheck().look(told.id, told.first));
-        const QByteArray record = told.first.mid(header);
-        QCOMPARE(at<quint16>(told.first, header == 2 ? 0 : 1), quint16(record.size()));
-        const auto type = quint8(record.at(0));
-        QVERIFY(id == Message::RequestExtraPacket ? type == 177 : type == 176);
-        if (header == 13)
-            QCOMPARE(at<quint32>(told.first, 3), numberOf(record));
+        const std::tuple<Message, void*, Message, int> requests[] = {
+            {Message::RequestCurrentRecord, nullptr, Message::CurrentRecord, 3},
+            {Message::RequestRecordByNumber, &number, Message::RecordByNumber, 3},
+            {Message::RequestRecordByTime, &time, Message::RecordByTime, 13},
+            {Message::RequestRecordOfPeriod, &time, Message::RecordOfPeriod, 13},
+            {Message::RequestExtraPacket, BenchTracker::plain(1), Message::ExtraPacket, 2},
+            {Message::ClearServerData, BenchTracker::plain(1), Message::ClearedRecord, 3}};
+        for (const auto& [request, p1, answer, header] : requests) {
+            const Told told = bench.ask(request, p1);
+            QCOMPARE(int(told.id), int(answer));
+            // What the host looks for in an answer, a sound tracker has.
+            QVERIFY(vlk::RecordCheck::carriesRecord(told.id));
+            QVERIFY(!vlk::RecordCheck().look(told.id, told.first));
+            const QByteArray record = told.first.mid(header);
+            QCOMPARE(at<quint16>(told.first, header == 2 ? 0 : 1), quint16(record.size()));
+            QCOMPARE(int(quint8(record.at(0))), request == Message::RequestExtraPacket ? 177 : 176);
+            if (header == 13)
+                QCOMPARE(at<quint32>(told.first, 3), numberOf(record));
+        }
     }
 
     void numbersAndTimesOutsideGiveTheNearest()

@@ -17,16 +17,28 @@
 class Slider : public VLK_DblSlider2
 {
 public:
-    void press(double x, Qt::MouseButton button = Qt::LeftButton)
+    Slider& press(double x, Qt::MouseButton button = Qt::LeftButton)
     {
-        mouse(QEvent::MouseButtonPress, x, button);
+        return mouse(QEvent::MouseButtonPress, x, button);
     }
-    void move(double x) { mouse(QEvent::MouseMove, x, Qt::NoButton); }
-    void release() { mouse(QEvent::MouseButtonRelease, 0, Qt::LeftButton); }
-    void drag(double from, double to)
+    Slider& move(double x) { return mouse(QEvent::MouseMove, x, Qt::NoButton); }
+    Slider& release() { return mouse(QEvent::MouseButtonRelease, 0, Qt::LeftButton); }
+    Slider& drag(double from, double to) { return press(from).move(to); }
+    Slider& key(Qt::Key key)
     {
-        press(from);
-        move(to);
+        QTest::keyClick(this, key);
+        return *this;
+    }
+    Slider& set(double value1, double value2)
+    {
+        setValue1(value1);
+        setValue2(value2);
+        return *this;
+    }
+    Slider& enable(bool on)
+    {
+        setEnabled(on);
+        return *this;
     }
     void paintIn(Qt::GlobalColor low, Qt::GlobalColor middle, Qt::GlobalColor high)
     {
@@ -36,11 +48,12 @@ public:
     }
 
 private:
-    void mouse(QEvent::Type type, double x, Qt::MouseButton button)
+    Slider& mouse(QEvent::Type type, double x, Qt::MouseButton button)
     {
         grab();
         QMouseEvent event(type, QPointF(x, 10), button, button, {});
         QApplication::sendEvent(this, &event);
+        return *this;
     }
 };
 using Steps = std::function<void(Slider& slider)>;
@@ -55,73 +68,38 @@ private Q_SLOTS:
     {
         // From 40 and 60 on a scale of 0 to 200 with a gap of 5, 200 pixels wide.
         DataTable<QString, QString, Steps>({"signalsInOrder", "values", "steps"})
-            .row("lower alone", "1=54.5", "54.5 60", [](Slider& slider) { slider.setValue1(54.5); })
-            .row("lower pushes upper", "2=63 1=58", "58 63", [](Slider& slider) { slider.setValue1(58); })
-            .row("lower at the right end", "2=200 1=195", "195 200",
-                 [](Slider& slider) { slider.setValue1(1000); })
-            .row("lower below the scale", "1=0", "0 60", [](Slider& slider) { slider.setValue1(-3); })
-            .row("lower at its present value", "", "40 60", [](Slider& slider) { slider.setValue1(40); })
-            .row("upper alone", "2=45", "40 45", [](Slider& slider) { slider.setValue2(45); })
-            .row("upper pushes lower", "1=37 2=42", "37 42", [](Slider& slider) { slider.setValue2(42); })
-            .row("upper at the left end", "1=0 2=5", "0 5", [](Slider& slider) { slider.setValue2(-3); })
-            .row("upper at its present value", "", "40 60", [](Slider& slider) { slider.setValue2(60); })
-            .row("not numbers", "", "40 60",
-                 [](Slider& slider) {
-                     slider.setValue1(qQNaN());
-                     slider.setValue2(qQNaN());
-                     slider.setGap(qInf());
-                     slider.setRange(0, qQNaN(), 30);
-                 })
-            .row("range ends below both", "1=25 2=30", "25 30",
-                 [](Slider& slider) { slider.setRange(0, 5, 30); })
+            .row("lower alone", "1=54.5", "54.5 60", [](Slider& s) { s.setValue1(54.5); })
+            .row("lower pushes upper", "2=63 1=58", "58 63", [](Slider& s) { s.setValue1(58); })
+            .row("lower at the right end", "2=200 1=195", "195 200", [](Slider& s) { s.setValue1(1000); })
+            .row("lower below the scale", "1=0", "0 60", [](Slider& s) { s.setValue1(-3); })
+            .row("both at their present values", "", "40 60", [](Slider& s) { s.set(40, 60); })
+            .row("upper alone", "2=45", "40 45", [](Slider& s) { s.setValue2(45); })
+            .row("upper pushes lower", "1=37 2=42", "37 42", [](Slider& s) { s.setValue2(42); })
+            .row("upper at the left end", "1=0 2=5", "0 5", [](Slider& s) { s.setValue2(-3); })
+            .row("not numbers", "", "40 60", [](Slider& s) { s.set(qQNaN(), qQNaN()).setGap(qInf()); })
+            .row("no numbers of a range", "", "40 60", [](Slider& s) { s.setRange(0, qQNaN(), 30); })
+            .row("range ends below both", "1=25 2=30", "25 30", [](Slider& s) { s.setRange(0, 5, 30); })
             .row("range begins above both", "2=105 1=100", "100 105",
-                 [](Slider& slider) { slider.setRange(100, 5, 200); })
-            .row("range narrower than its gap", "1=0 2=10", "0 10",
-                 [](Slider& slider) { slider.setRange(0, 50, 10); })
-            .row("empty range", "1=7 2=7", "7 7", [](Slider& slider) { slider.setRange(7, 0, 7); })
+                 [](Slider& s) { s.setRange(100, 5, 200); })
+            .row("range narrower than its gap", "1=0 2=10", "0 10", [](Slider& s) { s.setRange(0, 50, 10); })
+            .row("empty range", "1=7 2=7", "7 7", [](Slider& s) { s.setRange(7, 0, 7); })
             .row("gap counts at the next move", "2=91 1=41", "41 91",
-                 [](Slider& slider) {
-                     slider.setGap(50);
-                     slider.setValue1(41);
+                 [](Slider& s) {
+                     s.setGap(50);
+                     s.setValue1(41);
                  })
-            .row("drag lower", "1=50", "50 60",
-                 [](Slider& slider) {
-                     slider.drag(42, 50);
-                     slider.release();
-                     slider.move(90);
-                 })
-            .row("drag lower out of the widget", "1=0", "0 60", [](Slider& slider) { slider.drag(36, -30); })
-            .row("drag upper against lower", "1=25 2=30", "25 30",
-                 [](Slider& slider) { slider.drag(60, 30); })
+            .row("drag lower", "1=50", "50 60", [](Slider& s) { s.drag(42, 50).release().move(90); })
+            .row("drag lower out of the widget", "1=0", "0 60", [](Slider& s) { s.drag(36, -30); })
+            .row("drag upper against lower", "1=25 2=30", "25 30", [](Slider& s) { s.drag(60, 30); })
             .row("overlap goes to upper", "2=45 2=150", "40 150",
-                 [](Slider& slider) {
-                     slider.setValue2(45);
-                     slider.drag(42, 150);
-                 })
-            .row("press beside the handles", "", "40 60",
-                 [](Slider& slider) {
-                     slider.drag(44, 80);
-                     slider.drag(64, 80);
-                 })
-            .row("other button", "", "40 60",
-                 [](Slider& slider) {
-                     slider.press(40, Qt::RightButton);
-                     slider.move(80);
-                 })
+                 [](Slider& s) { s.set(40, 45).drag(42, 150); })
+            .row("press beside the handles", "", "40 60", [](Slider& s) { s.drag(44, 80).drag(64, 80); })
+            .row("other button", "", "40 60", [](Slider& s) { s.press(40, Qt::RightButton).move(80); })
             .row("disabled in the middle", "", "40 60",
-                 [](Slider& slider) {
-                     slider.press(40);
-                     slider.setEnabled(false);
-                     slider.setEnabled(true);
-                     slider.move(20);
-                 })
-            .row("key before any press", "2=200 1=195", "195 200",
-                 [](Slider& slider) { QTest::keyClick(&slider, Qt::Key_End); })
-            .row("key moves the handle used last", "1=35 2=40", "35 40", [](Slider& slider) {
-                slider.press(60);
-                slider.release();
-                QTest::keyClick(&slider, Qt::Key_PageDown);
-            });
+                 [](Slider& s) { s.press(40).enable(false).enable(true).move(20); })
+            .row("key before any press", "2=200 1=195", "195 200", [](Slider& s) { s.key(Qt::Key_End); })
+            .row("key moves the handle used last", "1=35 2=40", "35 40",
+                 [](Slider& s) { s.press(60).release().key(Qt::Key_PageDown); });
     }
     void sliderMoves()
     {
@@ -129,8 +107,7 @@ private Q_SLOTS:
         Slider slider;
         slider.resize(200, 20);
         slider.setRange(0, 5, 200);
-        slider.setValue1(40);
-        slider.setValue2(60);
+        slider.set(40, 60);
         QStringList order;
         connect(&slider, &VLK_DblSlider2::value1Changed, this,
                 [&](double value) { order << QString("1=%1").arg(value); });
@@ -152,33 +129,22 @@ private Q_SLOTS:
         const QString painted = "10,8w 10,9r 10,11r 10,12w 0,10r 100,9m 100,11m 180,9g 198,11g 45,5s ";
         DataTable<QString, Steps>({"pixels", "steps"})
             .row("plain", down + track + "45,5s 41,0s 45,0s 46,5w 0,0w 99,0w 99,19w", [](Slider&) {})
-            .row("coloured", down + painted,
-                 [](Slider& slider) { slider.paintIn(Qt::red, Qt::magenta, Qt::green); })
-            .row("one colour", "10,9s 100,10w 180,10g",
-                 [](Slider& slider) { slider.setColorHigh(Qt::green); })
+            .row("coloured", down + painted, [](Slider& s) { s.paintIn(Qt::red, Qt::magenta, Qt::green); })
+            .row("one colour", "10,9s 100,10w 180,10g", [](Slider& s) { s.setColorHigh(Qt::green); })
             .row("disabled", down + track + "45,5w 41,0w",
-                 [](Slider& slider) {
-                     slider.paintIn(Qt::red, Qt::magenta, Qt::green);
-                     slider.setEnabled(false);
-                 })
+                 [](Slider& s) { s.enable(false).paintIn(Qt::red, Qt::magenta, Qt::green); })
             .row("ticks above", up + above + track + "45,5s 41,19s 45,19s 99,19w",
-                 [](Slider& slider) { slider.setTickPosition(1); })
-            .row("ticks below", down + below + track + "45,5s 99,0w",
-                 [](Slider& slider) { slider.setTickPosition(2); })
-            .row("ticks on both sides", down + above + below,
-                 [](Slider& slider) { slider.setTickPosition(3); })
+                 [](Slider& s) { s.setTickPosition(1); })
+            .row("ticks below", down + below + track + "45,5s 99,0w", [](Slider& s) { s.setTickPosition(2); })
+            .row("ticks on both sides", down + above + below, [](Slider& s) { s.setTickPosition(3); })
             .row("handles at the ends", "0,10k 4,5k 5,5s 195,5k 199,10k 199,19k",
-                 [](Slider& slider) {
-                     slider.setValue1(0);
-                     slider.setValue2(200);
-                 })
+                 [](Slider& s) { s.set(0, 200); })
             .row("both at the right end", "190,5k 195,5k 199,10k",
-                 [](Slider& slider) {
-                     slider.setRange(0, 0, 200);
-                     slider.setValue1(200);
+                 [](Slider& s) {
+                     s.setRange(0, 0, 200);
+                     s.setValue1(200);
                  })
-            .row("empty scale", "0,5k 4,10k 8,5k 9,5s 100,9s",
-                 [](Slider& slider) { slider.setRange(5, 0, 5); });
+            .row("empty scale", "0,5k 4,10k 8,5k 9,5s 100,9s", [](Slider& s) { s.setRange(5, 0, 5); });
     }
     void sliderPainting()
     {
@@ -194,8 +160,7 @@ private Q_SLOTS:
             slider.resize(200, 20);
             slider.setPalette(palette);
             slider.setRange(0, 5, 200);
-            slider.setValue1(40);
-            slider.setValue2(150);
+            slider.set(40, 150);
             steps(slider);
             const QMap<QChar, QColor> colours{{'k', dark ? Qt::white : Qt::black},
                                               {'w', window},

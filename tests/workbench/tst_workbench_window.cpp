@@ -60,13 +60,6 @@ void chooseNext(const QString& path)
     timer->start(5);
 }
 
-// As the plug-in tells the log of a file that it could not save.
-void failToSave(const QString& path, const char* reason)
-{
-    const QLoggingCategory category("vlk.save");
-    qCWarning(category, "%s: %s", qPrintable(path), reason);
-}
-
 const QByteArray telemetry = "<TMI model=\"R-7106\" >\n<Page type=\"176\" ver=\"30\" format=\"1\">\n"
                              "<NumPage>1</NumPage>\n</Page>\n</TMI>\n";
 
@@ -268,8 +261,10 @@ private Q_SLOTS:
         QTRY_VERIFY(bench.text("label_Report").contains(QLatin1String("nothing was sent")));
         QVERIFY(bench.text("label_Report").contains(QLatin1String("/vlk_echo.xml: ")));
         QVERIFY(bench.text("label_Status").contains(QLatin1String("not written")));
+        // As the plug-in tells the log.
+        const QLoggingCategory category("vlk.save");
         const QString text =
-            messageDuring([] { failToSave(QStringLiteral("/a/period.csv"), "No space left on device"); });
+            messageDuring([&] { qCWarning(category, "/a/period.csv: No space left on device"); });
         QVERIFY2(text.contains(QLatin1String("/a/period.csv was not saved: No space left on device")),
                  qPrintable(text));
         QVERIFY(bench.settings.recentFiles().isEmpty());
