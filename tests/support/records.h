@@ -47,6 +47,15 @@ struct RecordParts
     }
 };
 
+// The lowest byte first.
+inline QByteArray little(quint64 number, int bytes)
+{
+    QByteArray text;
+    for (int i = 0; i < bytes; ++i)
+        text += static_cast<char>(number >> 8 * i);
+    return text;
+}
+
 inline FieldMask everyField()
 {
     return FieldMask::fromText(std::string(kFieldCount, '1'));

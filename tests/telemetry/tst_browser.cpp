@@ -139,27 +139,24 @@ private Q_SLOTS:
 
     // Two large files are never in memory at once: when the second one has been read, here to no avail, the
     // first is gone.
-    void memoryOfTheFirstFile_data()
-    {
-        DataTable<std::int32_t>({"kind"}).row("browser", Browser).row("table", Table);
-    }
     void memoryOfTheFirstFile()
     {
-        QFETCH(std::int32_t, kind);
         QVector<int> numbers(3000);
         std::iota(numbers.begin(), numbers.end(), 1);
         const QString empty = writeFile(folder_.filePath("empty.xml"), "<TMI>");
         const QString large = write(::numbered(numbers));
-        show(empty, kind);
-        const std::size_t before = allocatedBytes();
-        show(large, kind);
-        const std::size_t whole = allocatedBytes() - before;
-        static std::size_t atTheEnd;
-        const QtMessageHandler usual = qInstallMessageHandler(
-            [](QtMsgType, const QMessageLogContext&, const QString&) { atTheEnd = allocatedBytes(); });
-        show(empty, kind);
-        qInstallMessageHandler(usual);
-        QVERIFY2(whole > 3000 * 700 && atTheEnd < before + whole / 2, qPrintable(QString::number(whole)));
+        for (const Kind kind : {Browser, Table}) {
+            show(empty, kind);
+            const std::size_t before = allocatedBytes();
+            show(large, kind);
+            const std::size_t whole = allocatedBytes() - before;
+            static std::size_t atTheEnd;
+            const QtMessageHandler usual = qInstallMessageHandler(
+                [](QtMsgType, const QMessageLogContext&, const QString&) { atTheEnd = allocatedBytes(); });
+            show(empty, kind);
+            qInstallMessageHandler(usual);
+            QVERIFY2(whole > 3000 * 700 && atTheEnd < before + whole / 2, qPrintable(QString::number(whole)));
+        }
     }
 
     void packetBetweenRecords()

@@ -108,27 +108,13 @@ private Q_SLOTS:
         QTEST(mask.payloadSize(), "bytes");
     }
 
-    void maskBits()
+    void maskTexts()
     {
-        for (const auto& [field, byte, value] :
-             {std::tuple{0, 0, 0x80}, {7, 0, 0x01}, {8, 1, 0x80}, {254, 31, 0x02}}) {
-            FieldMask mask;
-            mask.set(field);
-            QCOMPARE(static_cast<int>(mask.bytes()[byte]), value);
-            QCOMPARE(mask.text().find('1'), static_cast<std::size_t>(field));
-            QVERIFY(FieldMask::fromText(mask.text()) == mask);
-            mask.set(field, false);
-            QVERIFY(mask == FieldMask());
-        }
+        QCOMPARE(FieldMask::fromText("").text(), std::string(255, '0'));
         FieldMask::Bytes spare{};
         spare[31] = 0x01;
         QCOMPARE(FieldMask(spare).payloadSize(), 0);
         QCOMPARE(FieldMask(spare).text(), std::string(255, '0'));
-    }
-
-    void maskTexts()
-    {
-        QCOMPARE(FieldMask::fromText("").text(), std::string(255, '0'));
         QCOMPARE(FieldMask::fromText(std::string(400, '1')).payloadSize(), 734);
         QCOMPARE(FieldMask::fromText("19a 0-1").text().substr(0, 8), std::string("11000010"));
         QCOMPARE(FieldMask::fromText(kDefaultMaskText).text(), std::string(kDefaultMaskText));

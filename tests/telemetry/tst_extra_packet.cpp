@@ -35,36 +35,21 @@ class TestExtraPacket : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // The values of both heads are those of the XML in tst_files; here, that a key's answer has the first
+    // alone.
     void heads()
     {
         const QByteArray road = packetBytes(kSecondHead);
         const QByteArray key = packetBytes(entryOf(1, 8, QByteArray(8, '\xff')));
         TmiPage_Zeta3 page(road.constData(), road.size());
         const ExtraPacket& extra = page.extra();
-        const auto sameNavigation = [&] {
-            return extra.type() == 177 && extra.stVer() == 2 && extra.stSize() == 37 &&
-                   extra.value<element("Code")>() == 35 && extra.value<element("Time")>() == 0x6553f140 &&
-                   extra.value<element("StateNGauge")>() == 0x2b &&
-                   extra.value<element("LastTime")>() == 0x6553f100 &&
-                   extra.value<element("Latitude")>() == -2 && extra.value<element("Longitude")>() == 3 &&
-                   extra.value<element("Altitude")>() == 1834 && extra.value<element("Speed")>() == 10.0F &&
-                   extra.value<element("Course")>() == 270 && extra.value<element("Run")>() == 2.5F;
-        };
-        QVERIFY(page.isExtra() && sameNavigation());
         QCOMPARE(page.number(), 0x12345678U);
         QCOMPARE(TmiPage_Zeta2(road.constData(), road.size()).number(), 0x12345678U);
         QCOMPARE(page.payload(), road.mid(1));
-        QCOMPARE(extra.size(), quint16(road.size() - 3));
-        QVERIFY(extra.hVer() == 1 && extra.hSize() == 14);
-        QCOMPARE(extra.value<element("State")>(), quint8{0x1d});
-        QCOMPARE(extra.value<element("StateOut1")>(), quint8{3});
-        QCOMPARE(extra.integer(element("StateIn_Imp1")), qint64{0xdeadbeef});
-        QCOMPARE(extra.number(element("StateIn_Imp2")), 2.0);
-        QCOMPARE(extra.value<element("Motochas")>(), 3600U);
         QCOMPARE(extra.raw(element("Power")), quint64{0});
-
         page.setKeyAnswer(key.constData(), key.size());
-        QVERIFY(page.isExtra() && sameNavigation());
+        QVERIFY(page.isExtra() && extra.type() == 177 && extra.stVer() == 2 && extra.stSize() == 37);
+        QVERIFY(extra.value<element("Code")>() == 35 && extra.value<element("Run")>() == 2.5F);
         QVERIFY(extra.hVer() == 0 && extra.hSize() == 0 && extra.raw(element("State")) == 0 &&
                 extra.raw(element("StateIn_Imp1")) == 0 && extra.raw(element("Motochas")) == 0);
         QCOMPARE(TmiPage_Zeta3(extra).number(), 0x12345678U);

@@ -104,14 +104,6 @@ quint32 slowCrc(const QByteArray& bytes, quint32 polynomial)
     return ~state;
 }
 
-QByteArray little(quint64 number, int bytes)
-{
-    QByteArray text;
-    for (int i = 0; i < bytes; ++i)
-        text += static_cast<char>(number >> 8 * i);
-    return text;
-}
-
 QString numbers(const TelemetryPages& pages)
 {
     QStringList list;
@@ -408,22 +400,6 @@ private Q_SLOTS:
         QTEST(kinds(contents.damages), "damages");
         for (const FileDamage& damage : contents.damages)
             QVERIFY(damage.offset >= 0 && damage.bytes >= 0 && damage.offset + damage.bytes <= file.size());
-    }
-
-    void wholeFiles()
-    {
-        const QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("records.tmi"));
-        for (const TelemetryForm form : {TelemetryForm::xml, TelemetryForm::binary}) {
-            QVERIFY(saveTelemetryFile(path, form, samplePages(), sampleOrigin()));
-            const auto contents = readTelemetryFile(path);
-            QVERIFY(contents && contents->pages.size() == 2 && contents->damages.empty());
-        }
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot read"));
-        QVERIFY(!readTelemetryFile(folder.filePath(QStringLiteral("none.xml"))));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot save"));
-        QVERIFY(
-            !saveTelemetryFile(folder.filePath(QStringLiteral("none/a.xml")), TelemetryForm::xml, {}, {}));
     }
 
     // The zone of the machine, and each word, is looked up as often for many records as for few.

@@ -2,12 +2,10 @@
 // text of bits, row by row of the catalogue as it is written. VLK_RANDOM_RECORDS sets the number of random
 // records, in batches of 20,000.
 
-#include "support/data_table.h"
 #include "telemetry/record/record_head.h"
 #include "telemetry/record/tmi_page_zeta2.h"
 #include "telemetry/record/tmi_page_zeta3.h"
 
-#include <QDir>
 #include <QtTest>
 
 #include <bitset>
@@ -146,32 +144,6 @@ private Q_SLOTS:
             check(page, random.record());
     }
 
-    void seeds_data()
-    {
-        QTest::addColumn<QByteArray>("record");
-        for (const char* corpus : {"record", "earlier_record"}) {
-            const QDir dir(QStringLiteral(VLK_SOURCE "/fuzz/corpus/") + QLatin1String(corpus));
-            for (const QString& name : dir.entryList(QDir::Files)) {
-                QFile file(dir.filePath(name));
-                QVERIFY(file.open(QIODevice::ReadOnly));
-                QTest::addRow("%s/%s", corpus, qPrintable(name)) << file.readAll();
-            }
-        }
-    }
-    // Each seed, every prefix of it and every single bit of it turned over.
-    void seeds()
-    {
-        QFETCH(QByteArray, record);
-        TmiPage_Zeta3 page;
-        for (int size = 0; size <= record.size(); ++size)
-            check(page, record.left(size));
-        for (int bit = 0; bit < record.size() * 8 && !QTest::currentTestFailed(); ++bit) {
-            QByteArray flipped = record;
-            flipped[bit / 8] = static_cast<char>(flipped[bit / 8] ^ 1 << bit % 8);
-            check(page, flipped);
-        }
-    }
-
     void sizes()
     {
         Random random(2000);
@@ -185,38 +157,6 @@ private Q_SLOTS:
             QVERIFY(page.type() == 0 && page.payload().isEmpty() &&
                     TmiPage_Zeta2(nullptr, size).number() == 0);
         }
-    }
-
-    // One element alone in a record, read with its sign and type.
-    void values_data()
-    {
-        DataTable<QByteArray, QByteArray, qint64, double>({"name", "hex", "integer", "number"})
-            .row("u8", "GSM", "ff", 255, 255.0)
-            .row("i8", "Temp1", "fb", -5, -5.0)
-            .row("u16", "Power", "3930", 12345, 12345.0)
-            .row("i16", "RefrTemp1", "0080", -32768, -32768.0)
-            .row("u32", "Time", "ffffffff", 4294967295, 4294967295.0)
-            .row("i32", "Latitude", "feffffff", -2, -2.0)
-            .row("f32", "Speed", "00002041", 0x41200000, 10.0)
-            .row("f32, not a number with a code of its own", "Speed", "0100a07f", 0x7fa00001, std::nan(""))
-            .row("u64", "User8Byte_3", "0000000000000080", std::numeric_limits<qint64>::min(),
-                 9223372036854775808.0)
-            .row("i64", "NaviLatitude", "00000000000000800000000000000000",
-                 std::numeric_limits<qint64>::min(), -9223372036854775808.0);
-    }
-    void values()
-    {
-        QFETCH(QByteArray, name);
-        QFETCH(QByteArray, hex);
-        const auto index = findElement(name.constData());
-        QVERIFY(index.has_value());
-        FieldMask mask;
-        mask.set(kElements[*index].field);
-        const auto bytes = exact(recordOf(mask, QByteArray::fromHex(hex)));
-        const TmiPage_Zeta3 page(bytes.data(), static_cast<qsizetype>(bytes.size()));
-        QVERIFY(page.has(*index));
-        QTEST(qint64{page.integer(*index)}, "integer");
-        QTEST(page.number(*index), "number");
     }
 
     void reuseKeepsTheZoneAndTheMemory()
@@ -233,17 +173,6 @@ private Q_SLOTS:
         page.setRecord(full.constData(), full.size());
         QCOMPARE(static_cast<const void*>(page.payload().constData()), memory);
         QCOMPARE(page.utcOffset(), -5400);
-    }
-
-    void fromParts()
-    {
-        TmiPage_Zeta3::ValueBlock block{};
-        block[kElements[element("NumPage")].offset] = 42;
-        const TmiPage_Zeta3 page(176, 30, FieldMask::fromText("01"), block);
-        QCOMPARE(page.number(), 42U);
-        QVERIFY(!page.has(element("NumPage")) && page.has(element("Code")) && !page.isExtra());
-        QCOMPARE(page.formatText(), QStringLiteral("01") + QString(253, QLatin1Char('0')));
-        QCOMPARE(TmiPage_Zeta3(FieldMask::fromText("01")).formatText(), page.formatText());
     }
 };
 

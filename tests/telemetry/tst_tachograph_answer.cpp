@@ -1,6 +1,7 @@
 // Answers of a tachograph as lines. Without a translator a text shows as its key.
 
 #include "support/data_table.h"
+#include "support/records.h"
 #include "telemetry/text/tachograph_answer.h"
 
 #include <QtTest>
@@ -12,14 +13,6 @@ namespace {
 
 const QDateTime kNoon(QDate(2025, 2, 1), QTime(12, 0));
 const QByteArray kFront(6, '\x7f');
-
-QByteArray little(quint32 value, int bytes)
-{
-    QByteArray out;
-    for (int i = 0; i < bytes; ++i)
-        out += static_cast<char>(value >> 8 * i);
-    return out;
-}
 
 QByteArray field(const char* text, int width)
 {

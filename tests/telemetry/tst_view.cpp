@@ -408,35 +408,31 @@ private Q_SLOTS:
         QCOMPARE(child<QSpinBox>("spinBox_RFID")->value(), -70);
     }
 
-    void endOfAllTimers_data()
-    {
-        DataTable<Message>({"message"})
-            .row("detached", Message::TrackerDetached)
-            .row("closed by the host", Message::CloseWindows);
-    }
     // In a window that is hidden already too.
     void endOfAllTimers()
     {
-        QFETCH(Message, message);
-        sendRecord(numbered(9));
-        sendRecord(numbered(8));
-        QTest::mousePress(child<QPushButton>("pushButton_Get_Prev"), Qt::LeftButton);
-        host.send(message);
-        QVERIFY(window->isHidden());
         auto* box = child<QCheckBox>("checkBox_Get_Auto_TMI");
-        box->setChecked(true);
-        host.send(message);
-        QVERIFY(!box->isChecked());
-        // The key that was asked for comes late.
-        setMode(1);
-        press("pushButton_TM");
-        const vlk::IdPair key{1, 2};
-        host.send(Message::LiveKey, &key);
-        QVERIFY(!box->isChecked());
-        host.sent.clear();
-        sendRecord(numbered(7));
-        QTest::qWait(400);
-        QCOMPARE(takeSent(), Messages{});
+        for (const Message message : {Message::TrackerDetached, Message::CloseWindows}) {
+            init();
+            sendRecord(numbered(9));
+            sendRecord(numbered(8));
+            QTest::mousePress(child<QPushButton>("pushButton_Get_Prev"), Qt::LeftButton);
+            host.send(message);
+            QVERIFY(window->isHidden());
+            box->setChecked(true);
+            host.send(message);
+            QVERIFY(!box->isChecked());
+            // The key that was asked for comes late.
+            setMode(1);
+            press("pushButton_TM");
+            const vlk::IdPair key{1, 2};
+            host.send(Message::LiveKey, &key);
+            QVERIFY(!box->isChecked());
+            host.sent.clear();
+            sendRecord(numbered(7));
+            QTest::qWait(400);
+            QCOMPARE(takeSent(), Messages{});
+        }
     }
 
     void detachedInTheMiddle()
@@ -462,8 +458,6 @@ private Q_SLOTS:
         for (QCheckBox* server : servers)
             server->setChecked(false);
     }
-
-    void badParameters() { sendBadParameters(); }
 
 private:
     QString page() const { return child<QStackedWidget>("stackedWidget")->currentWidget()->objectName(); }

@@ -94,29 +94,18 @@ private Q_SLOTS:
         QCOMPARE(bench.ask(Message::StartBtSearch).first, QByteArray("2"));
     }
 
-    void answersTheTachograph_data()
-    {
-        DataTable<int, int, int>({"question", "size", "status"})
-            .row("state", 1, 37, 0)
-            .row("card 1", 3, 175, 0)
-            .row("card 2", 4, 175, 0x20)
-            .row("vehicle", 5, 119, 0)
-            .row("none", 2, 0, 0)
-            .row("wild", -7, 0, 0);
-    }
     void answersTheTachograph()
     {
-        QFETCH(int, question);
-        QFETCH(int, size);
         BenchTracker bench;
-        if (size == 0) {
-            QVERIFY(bench.silent(Message::TachographQuestion, BenchTracker::plain(question)));
-            return;
+        for (const auto& [question, size, status] :
+             {std::tuple(1, 37, 0), {3, 175, 0}, {4, 175, 0x20}, {5, 119, 0}}) {
+            const QByteArray answer = bench.ask(Message::TachographQuestion, question).first;
+            QCOMPARE(answer.size(), size);
+            QCOMPARE(int(answer.at(6)), question);
+            QCOMPARE(int(answer.at(7)), status);
         }
-        const QByteArray answer = bench.ask(Message::TachographQuestion, question).first;
-        QCOMPARE(answer.size(), size);
-        QCOMPARE(int(answer.at(6)), question);
-        QTEST(int(answer.at(7)), "status");
+        for (const int none : {2, -7})
+            QVERIFY(bench.silent(Message::TachographQuestion, BenchTracker::plain(none)));
     }
 
     void makesTachographFiles_data()
@@ -160,32 +149,29 @@ private Q_SLOTS:
         QCOMPARE(bench.ask(Message::TachographFileRead, &path).first, QByteArray(1, '\0'));
     }
 
-    void hasWordsForEveryEvent_data() { DataTable<QString>({"language"}).row("ru", "ru").row("en", "en"); }
-
     void hasWordsForEveryEvent()
     {
-        QFETCH(QString, language);
-        vlk::KeyTranslator translator;
-        QVERIFY(translator.load(language, VLK_TEXTS));
-        QCoreApplication::installTranslator(&translator);
         BenchTracker bench;
-        QSet<QString> texts;
         QSet<int> codes{50, 51, 52, 53, 54, 55};
         const QVector<QByteArray> records = bench.records(0, 8000);
         QCOMPARE(records.size(), 8000);
         for (const QByteArray& record : records)
             codes += word(record, quint8(record.at(0)) == 177 ? 9 : 38);
-        for (const int code : codes) {
-            QString text;
-            QVERIFY(bench.tracker->handle(Message::RequestEventText, BenchTracker::plain(code), &text));
-            QVERIFY2(!text.isEmpty() && !text.contains("wb_") && !text.contains(QString::number(code)),
-                     qPrintable(text));
-            texts += text;
+        vlk::KeyTranslator translator;
+        for (const char* language : {"ru", "en"}) {
+            QVERIFY(translator.load(language, VLK_TEXTS));
+            QCoreApplication::installTranslator(&translator);
+            QSet<QString> texts;
+            for (const int code : codes) {
+                QString text;
+                QVERIFY(bench.tracker->handle(Message::RequestEventText, BenchTracker::plain(code), &text));
+                QVERIFY2(!text.isEmpty() && !text.contains("wb_") && !text.contains(QString::number(code)),
+                         qPrintable(text));
+                texts += text;
+            }
+            QCOMPARE(texts.size(), codes.size());
+            QVERIFY(tracker::eventText(999).endsWith(" 999") && !tracker::eventText(999).contains("wb_"));
         }
-        QCOMPARE(texts.size(), codes.size());
-        QVERIFY(tracker::eventText(999).endsWith(" 999"));
-        QVERIFY(!tracker::eventText(999).contains("wb_"));
-        QCoreApplication::removeTranslator(&translator);
     }
 
     void faults()
@@ -207,10 +193,12 @@ private Q_SLOTS:
         bench.tracker->setFaults({.silence = true});
         QVERIFY(bench.silent(Message::RequestCurrentRecord));
         QSignalSpy pulled(bench.tracker.get(), &tracker::SimulatedTracker::pulled);
+        QSignalSpy changed(bench.tracker.get(), &tracker::SimulatedTracker::faultsChanged);
         bench.tracker->setFaults({.unplug = true});
         QVERIFY(bench.silent(Message::RequestCurrentRecord));
         QVERIFY(!bench.tracker->attached() && !bench.tracker->faults().unplug);
         QCOMPARE(pulled.size(), 1);
+        QCOMPARE(changed.size(), 2); // the fault has cleared itself
     }
 
     void detachingDropsWhatIsUnderWay()

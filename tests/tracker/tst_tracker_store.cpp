@@ -157,21 +157,6 @@ private Q_SLOTS:
         QCOMPARE(tracker::differingKeys(other, one), 3);
         QCOMPARE(tracker::differingKeys(one, one), 0);
     }
-
-    void faultsSpoilTheFileThatIsRead()
-    {
-        BenchTracker bench;
-        const QByteArray whole = bench.configuration();
-        bench.tracker->setFaults({.shortAnswers = true});
-        QCOMPARE(bench.configuration(), whole.left(whole.size() / 2));
-        bench.tracker->setFaults({.garbledAnswers = true});
-        QVERIFY(bench.configuration() != whole);
-        QSignalSpy changed(bench.tracker.get(), &tracker::SimulatedTracker::faultsChanged);
-        bench.tracker->setFaults({.unplug = true});
-        QVERIFY(bench.tracker->readConfiguration().outcome == tracker::Reading::Outcome::Unplugged);
-        QVERIFY(!bench.tracker->attached());
-        QCOMPARE(changed.size(), 2); // the fault has cleared itself
-    }
 };
 
 QTEST_GUILESS_MAIN(TestTrackerStore)

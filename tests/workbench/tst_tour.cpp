@@ -57,25 +57,6 @@ private Q_SLOTS:
             QVERIFY2(report.contains(key), key);
     }
 
-    // Two records saved in every form, and what a cancelled save left.
-    void samplesAreWhole()
-    {
-        for (const auto& [name, least] : {std::pair("two.xml", 2), std::pair("part.xml", 150)}) {
-            QDomDocument document;
-            QString error;
-            QVERIFY2(document.setContent(content(name), &error), qPrintable(error));
-            const QDomNodeList pages = document.elementsByTagName(QStringLiteral("Page"));
-            QVERIFY(pages.size() >= least);
-            const QDomElement interval =
-                document.documentElement().firstChildElement(QStringLiteral("INTERVAL"));
-            QCOMPARE(interval.attribute("count").toInt(), pages.size());
-        }
-        const QByteArrayList lines = content("two.csv").split('\n');
-        QVERIFY(lines.size() == 4 && lines[0].count(';') == lines[1].count(';'));
-        constexpr int identityBytes = 128;
-        QVERIFY(content("two.tmi").size() > identityBytes);
-    }
-
     void picturesShowSomething()
     {
         const QStringList pictures = QDir(folder_.path()).entryList({"*.png"});

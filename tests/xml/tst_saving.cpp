@@ -21,6 +21,16 @@
 enum Outcome { Saved, Kept, Lost, Untold };
 Q_DECLARE_METATYPE(Outcome)
 
+// What fails on it, as failing_calls.h has it.
+struct Disk
+{
+    rlim_t room = 1 << 20;
+    const char* writes = "";
+    bool syncs = false;
+    bool truncations = false;
+};
+Q_DECLARE_METATYPE(Disk)
+
 namespace {
 
 Outcome told = Untold;
@@ -84,15 +94,19 @@ private:
             qFatal("cannot set rights");
     }
 
-    // In a process that has no rights of root and is prepared by `limit`.
-    template <class Limit>
-    Outcome saveAsNobody(int groups, Limit limit)
+    // In a process that has no rights of root.
+    Outcome saveAsNobody(int groups, const Disk& disk)
     {
         const pid_t child = fork();
         if (child == 0) {
             becomeNobody();
             qInstallMessageHandler(listen);
-            if (!limit())
+            failing::writes = disk.writes;
+            failing::syncs = disk.syncs;
+            failing::truncations = disk.truncations;
+            const rlimit limit{disk.room, disk.room};
+            std::signal(SIGXFSZ, SIG_IGN);
+            if (setrlimit(RLIMIT_FSIZE, &limit) != 0)
                 _exit(Untold);
             _exit(saveWith(path_, groups) ? Saved : told);
         }
@@ -117,24 +131,34 @@ private:
 private Q_SLOTS:
     void savesWhatItMay_data()
     {
-        const int any = 1 << 20;
         const int open = openFolder;
         const int closed = closedFolder;
-        DataTable<int, int, int, int, int, Outcome>(
-            {"folderRights", "fileRights", "old", "now", "diskSpace", "outcome"})
-            .row("over an old file", open, 0666, 9, 5, any, Saved)
-            .row("over an empty file", open, 0666, 0, 5, any, Saved)
-            .row("closed folder, longer", closed, 0666, 5, 9, any, Saved)
-            .row("closed folder, shorter", closed, 0666, 9, 5, any, Saved)
-            .row("closed folder, empty file", closed, 0666, 0, 5, any, Saved)
-            .row("closed folder, closed file", closed, 0444, 9, 5, any, Kept)
-            .row("closed file", open, 0444, 9, 5, any, Kept)
-            .row("closed empty file", open, 0444, 0, 5, any, Kept)
-            .row("disk full", open, 0666, 9, 50, 600, Kept)
-            .row("disk full, both too long", open, 0666, 90, 50, 600, Kept)
-            .row("disk full, closed folder", closed, 0666, 9, 50, 600, Kept)
-            .row("disk full, closed folder, empty file", closed, 0666, 0, 50, 600, Kept)
-            .row("disk full, closed folder, both too long", closed, 0666, 90, 50, 600, Kept);
+        const Disk good;
+        const Disk full{.room = 600};
+        const Disk unflushed{.syncs = true};
+        DataTable<int, int, int, int, Disk, Outcome>(
+            {"folderRights", "fileRights", "old", "now", "disk", "outcome"})
+            .row("over an old file", open, 0666, 9, 5, good, Saved)
+            .row("over an empty file", open, 0666, 0, 5, good, Saved)
+            .row("closed folder, longer", closed, 0666, 5, 9, good, Saved)
+            .row("closed folder, shorter", closed, 0666, 9, 5, good, Saved)
+            .row("closed folder, empty file", closed, 0666, 0, 5, good, Saved)
+            .row("closed folder, closed file", closed, 0444, 9, 5, good, Kept)
+            .row("closed file", open, 0444, 9, 5, good, Kept)
+            .row("closed empty file", open, 0444, 0, 5, good, Kept)
+            .row("disk full", open, 0666, 9, 50, full, Kept)
+            .row("disk full, both too long", open, 0666, 90, 50, full, Kept)
+            .row("disk full, closed folder", closed, 0666, 9, 50, full, Kept)
+            .row("disk full, closed folder, empty file", closed, 0666, 0, 50, full, Kept)
+            .row("disk full, closed folder, both too long", closed, 0666, 90, 50, full, Kept)
+            .row("no flush", open, 0666, 20, 5, unflushed, Kept)
+            .row("in place, no flush, nor on the way back", closed, 0666, 20, 5, unflushed, Lost)
+            .row("in place, half of the new one", closed, 0666, 20, 5, {.writes = "hx"}, Kept)
+            .row("in place, half of the reserve", closed, 0666, 20, 50, {.writes = "hX"}, Kept)
+            .row("in place, no way back", closed, 0666, 20, 5, {.writes = "hX"}, Lost)
+            .row("in place, the end stays", closed, 0666, 20, 5, {.truncations = true}, Kept)
+            .row("in place, the reserve stays", closed, 0666, 20, 50, {.writes = "hX", .truncations = true},
+                 Kept);
     }
     void savesWhatItMay()
     {
@@ -142,54 +166,17 @@ private Q_SLOTS:
         QFETCH(int, fileRights);
         QFETCH(int, old);
         QFETCH(int, now);
-        QFETCH(int, diskSpace);
+        QFETCH(Disk, disk);
         QFETCH(Outcome, outcome);
         prepare(old, static_cast<mode_t>(folderRights), static_cast<mode_t>(fileRights));
-        QCOMPARE(saveAsNobody(
-                     now,
-                     [&] {
-                         const rlimit limit{static_cast<rlim_t>(diskSpace), static_cast<rlim_t>(diskSpace)};
-                         std::signal(SIGXFSZ, SIG_IGN);
-                         return setrlimit(RLIMIT_FSIZE, &limit) == 0;
-                     }),
-                 outcome);
-        QCOMPARE(content(), documentWith(outcome == Saved ? now : old));
-        QCOMPARE(strays(), QStringList());
-    }
-
-    void survivesABadDisk_data()
-    {
-        const int open = openFolder;
-        const int closed = closedFolder;
-        DataTable<int, int, QByteArray, bool, bool, Outcome>(
-            {"folderRights", "now", "writes", "syncs", "truncations", "outcome"})
-            .row("no flush", open, 5, "", true, false, Kept)
-            .row("in place, half of the new one", closed, 5, "hx", false, false, Kept)
-            .row("in place, half of the reserve", closed, 50, "hX", false, false, Kept)
-            .row("in place, no way back", closed, 5, "hX", false, false, Lost)
-            .row("in place, no flush, nor on the way back", closed, 5, "", true, false, Lost)
-            .row("in place, the end stays", closed, 5, "", false, true, Kept)
-            .row("in place, the reserve stays", closed, 50, "hX", false, true, Kept);
-    }
-    void survivesABadDisk()
-    {
-        QFETCH(int, folderRights);
-        QFETCH(int, now);
-        QFETCH(QByteArray, writes);
-        QFETCH(bool, syncs);
-        QFETCH(bool, truncations);
-        QFETCH(Outcome, outcome);
-        const int old = 20;
-        prepare(old, static_cast<mode_t>(folderRights));
-        QCOMPARE(saveAsNobody(now,
-                              [&] {
-                                  failing::writes = writes.constData();
-                                  failing::syncs = syncs;
-                                  failing::truncations = truncations;
-                                  return true;
-                              }),
-                 outcome);
-        QVERIFY(outcome == Lost || content().trimmed() == documentWith(old).trimmed());
+        QCOMPARE(saveAsNobody(now, disk), outcome);
+        QByteArray found = content();
+        QByteArray whole = documentWith(outcome == Saved ? now : old);
+        if (*disk.writes || disk.truncations) { // blanks may be left behind the end
+            found = found.trimmed();
+            whole = whole.trimmed();
+        }
+        QVERIFY2(outcome == Lost || found == whole, found.constData());
         QCOMPARE(strays(), QStringList());
     }
 
