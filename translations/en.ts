@@ -532,7 +532,7 @@
     <message id="cfgt5_357"><translation>Sensor signal level</translation></message>
     <message id="cfgt5_358"><translation>State of the sensor</translation></message>
     <message id="cfgt5_359"><translation>Sensor battery voltage</translation></message>
-    <message id="cfgt5_360"><translation>Flow meter operating time</translation></message>
+    <message id="cfgt5_360"><translation>Flowmeter operating time</translation></message>
     <message id="cfgt5_361"><translation>Angle from the vertical</translation></message>
     <message id="cfgt5_363"><translation>Tilt about axis X</translation></message>
     <message id="cfgt5_364"><translation>Tilt about axis Y</translation></message>
