@@ -1,0 +1,84 @@
+#pragma once
+
+// One of the 32 values that the tracker reads from Modbus sensors: its widgets in a row of the form's grid,
+// and what they do to each other. The form connects them and tells others of the value.
+
+#include <QString>
+#include <QStringList>
+
+class QCheckBox;
+class QComboBox;
+class QGridLayout;
+class QSpinBox;
+class QWidget;
+class VLK_ComboBox;
+
+namespace vlk {
+
+// The texts of a row's lists, in the language of the moment.
+struct ModbusLists
+{
+    QStringList dataTypes;
+    QStringList byteOrders;
+};
+
+// What a row offers as a user parameter; without a name nothing.
+struct ModbusOffer
+{
+    QString name; // "MB3,  7,  1f": row, slave address, register address
+    QString type; // "2 bytes, unsigned"
+    int bytes = 0;
+
+    friend bool operator==(const ModbusOffer& a, const ModbusOffer& b)
+    {
+        return a.name == b.name && a.type == b.type && a.bytes == b.bytes;
+    }
+};
+
+class ModbusRow
+{
+public:
+    // Captions of the columns, in their order: translation keys.
+    static const QList<const char*>& captions();
+
+    static QStringList registerTypes();
+
+    // `number` counts from 1.
+    ModbusRow(int number, QGridLayout* grid, int gridRow);
+
+    int number() const { return number_; }
+    bool inUse() const;
+    // As switched on, with a first address, and as switched off.
+    void start(int address, bool byNumber, const ModbusLists& lists);
+    void clear();
+    // Whether the number tells the register, or address and type.
+    void setByNumber(bool byNumber);
+    void retranslate(const ModbusLists& lists);
+
+    // The number follows address and type, or they follow it.
+    void showNumber();
+    void takeNumber();
+
+    ModbusOffer offer() const;
+    // "MB3,  7,  1f, 2 bytes, unsigned": what is offered, as one text.
+    static QString composite(const ModbusOffer& offer) { return offer.name + ", " + offer.type; }
+
+    QCheckBox* const use;
+    QSpinBox* const address;
+    QSpinBox* const registerNumber;
+    QSpinBox* const registerAddress;
+    QComboBox* const registerType;
+    VLK_ComboBox* const dataType;
+    QComboBox* const byteOrder;
+    QSpinBox* const period;
+    QCheckBox* const keepValue;
+
+private:
+    void setValues(int address, int registerAddress);
+    void enable(bool byNumber);
+    QList<QWidget*> cells() const;
+
+    const int number_;
+};
+
+} // namespace vlk
