@@ -611,7 +611,7 @@
     <message id="cfgt6_074"><translation>фамилия</translation></message>
     <message id="cfgt6_101"><translation>Сначала старший байт</translation></message>
     <message id="cfgt6_102"><translation>Сначала младшее слово</translation></message>
-    <message id="cfgt6_103"><translation>Байты в словах переставлены</translation></message>
+    <message id="cfgt6_103"><translation>Байты в словах наоборот</translation></message>
     <message id="cfgt6_104"><translation>Сначала младший байт</translation></message>
     <message id="cfgt6_105"><translation>Изменение больше порога</translation></message>
     <message id="cfgt6_106"><translation>Переход через границу</translation></message>

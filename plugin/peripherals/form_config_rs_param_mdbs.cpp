@@ -1,8 +1,8 @@
 #include "peripherals/form_config_rs_param_mdbs.h"
 
 #include "peripherals/params/element_types.h"
+#include "windows/eliding_combobox.h"
 #include "windows/input_guard.h"
-#include "windows/vlk_combobox.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -75,6 +75,7 @@ VLK_Form_Config_RS_Param_Mdbs::makeTable(const char* name, const QList<const cha
     layout->addStretch();
     for (int column = 0; column < captions.size(); ++column) {
         table.labels << new QLabel;
+        table.labels.last()->setWordWrap(true);
         table.grid->addWidget(table.labels.last(), 0, column, Qt::AlignBottom);
     }
     return table;
@@ -147,10 +148,7 @@ void VLK_Form_Config_RS_Param_Mdbs::retranslate()
     for (Line& line : lines_)
         tellOf(line);
     reserveWidth(values_.grid, 4, vlk::ModbusRow::registerTypes());
-    reserveWidth(values_.grid, 5, lists_.dataTypes);
-    reserveWidth(values_.grid, 6, lists_.byteOrders);
     reserveWidth(events_.grid, 1, {QStringLiteral("MB32,  254,  ffff")});
-    reserveWidth(events_.grid, 2, conditions_);
 }
 
 void VLK_Form_Config_RS_Param_Mdbs::setDefaults()

@@ -1,5 +1,6 @@
 #include "peripherals/modbus_event_row.h"
 
+#include "windows/eliding_combobox.h"
 #include "windows/numbered_widget.h"
 
 #include <QCheckBox>
@@ -9,6 +10,10 @@
 #include <QSpinBox>
 
 namespace vlk {
+
+namespace {
+constexpr int kLeastText = 14; // characters of a condition that are always in sight
+}
 
 const QList<const char*>& ModbusEventRow::captions()
 {
@@ -20,15 +25,18 @@ const QList<const char*>& ModbusEventRow::captions()
 ModbusEventRow::ModbusEventRow(int number, QGridLayout* grid, int gridRow)
     : use(numberedWidget<QCheckBox>("checkBox_Interface_Events_Use_%1", number)),
       param(numberedWidget<QComboBox>("comboBox_Interface_Events_Param_%1", number)),
-      condition(numberedWidget<QComboBox>("comboBox_Interface_Events_Condition_%1", number)),
+      condition(numberedWidget<ElidingComboBox>("comboBox_Interface_Events_Condition_%1", number)),
       threshold(numberedWidget<QSpinBox>("spinBox_Interface_Events_Threshold_%1", number)),
       lowerBound(numberedWidget<QSpinBox>("spinBox_Interface_Events_LowerBound_%1", number)),
       upperBound(numberedWidget<QSpinBox>("spinBox_Interface_Events_UpperBound_%1", number)),
       hysteresis(numberedWidget<QSpinBox>("spinBox_Interface_Events_Hysteresis_%1", number)), number_(number)
 {
     use->setText(QString::number(number));
-    for (QSpinBox* box : numbers())
+    // So wide a range is typed, not stepped through.
+    for (QSpinBox* box : numbers()) {
         box->setRange(-2147483647, 2147483647);
+        box->setButtonSymbols(QAbstractSpinBox::NoButtons);
+    }
     int column = 0;
     for (QWidget* cell : cells())
         grid->addWidget(cell, gridRow, column++);
@@ -102,6 +110,7 @@ void ModbusEventRow::retranslate(const QStringList& conditions)
         row[i]->setAccessibleName(QStringLiteral("%1, %2").arg(caption).arg(number_));
         row[i]->setToolTip(caption);
     }
+    condition->reserve(conditions, conditions.first().left(kLeastText) + QChar(0x2026));
     for (int i = 0; i < condition->count(); ++i)
         condition->setItemText(i, conditions[i]);
 }

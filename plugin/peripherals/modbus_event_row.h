@@ -14,6 +14,8 @@ class QWidget;
 
 namespace vlk {
 
+class ElidingComboBox;
+
 class ModbusEventRow
 {
 public:
@@ -36,7 +38,7 @@ public:
 
     QCheckBox* const use;
     QComboBox* const param;
-    QComboBox* const condition;
+    ElidingComboBox* const condition;
     QSpinBox* const threshold;
     QSpinBox* const lowerBound;
     QSpinBox* const upperBound;

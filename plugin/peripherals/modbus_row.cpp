@@ -2,8 +2,8 @@
 
 #include "peripherals/modbus_register.h"
 #include "peripherals/params/element_types.h"
+#include "windows/eliding_combobox.h"
 #include "windows/numbered_widget.h"
-#include "windows/vlk_combobox.h"
 #include "windows/zone_colors.h"
 
 #include <QCheckBox>
@@ -48,8 +48,8 @@ ModbusRow::ModbusRow(int number, QGridLayout* grid, int gridRow)
       registerNumber(numberedWidget<QSpinBox>("spinBox_Modbus_Reg_Num_%1", number)),
       registerAddress(numberedWidget<QSpinBox>("spinBox_Modbus_Reg_Addr_%1", number)),
       registerType(numberedWidget<QComboBox>("comboBox_Modbus_Reg_Type_%1", number)),
-      dataType(numberedWidget<VLK_ComboBox>("comboBox_Modbus_Param_%1", number)),
-      byteOrder(numberedWidget<QComboBox>("comboBox_Modbus_OrderByte_%1", number)),
+      dataType(numberedWidget<ElidingComboBox>("comboBox_Modbus_Param_%1", number)),
+      byteOrder(numberedWidget<ElidingComboBox>("comboBox_Modbus_OrderByte_%1", number)),
       period(numberedWidget<QSpinBox>("spinBox_Modbus_Period_%1", number)),
       keepValue(numberedWidget<QCheckBox>("checkBox_Modbus_NotNull_%1", number)), number_(number)
 {
@@ -90,7 +90,7 @@ void ModbusRow::clear()
 {
     enable(false);
     setValues(1, 0);
-    for (QComboBox* box : {registerType, byteOrder, static_cast<QComboBox*>(dataType)})
+    for (QComboBox* box : std::initializer_list<QComboBox*>{registerType, dataType, byteOrder})
         box->clear();
     showNumber();
 }
@@ -134,6 +134,8 @@ void ModbusRow::retranslate(const ModbusLists& lists)
         row[i]->setAccessibleName(QStringLiteral("%1, %2").arg(caption).arg(number_));
         row[i]->setToolTip(caption);
     }
+    dataType->reserve(lists.dataTypes, lists.dataTypes.first());
+    byteOrder->reserve(lists.byteOrders, QStringLiteral("[ABCD]…"));
     if (!inUse())
         return;
     refill(registerType, registerTypes());

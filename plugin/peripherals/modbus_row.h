@@ -11,9 +11,10 @@ class QComboBox;
 class QGridLayout;
 class QSpinBox;
 class QWidget;
-class VLK_ComboBox;
 
 namespace vlk {
+
+class ElidingComboBox;
 
 // The texts of a row's lists, in the language of the moment.
 struct ModbusLists
@@ -68,8 +69,8 @@ public:
     QSpinBox* const registerNumber;
     QSpinBox* const registerAddress;
     QComboBox* const registerType;
-    VLK_ComboBox* const dataType;
-    QComboBox* const byteOrder;
+    ElidingComboBox* const dataType;
+    ElidingComboBox* const byteOrder;
     QSpinBox* const period;
     QCheckBox* const keepValue;
 
