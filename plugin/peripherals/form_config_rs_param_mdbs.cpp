@@ -19,7 +19,17 @@ namespace {
 
 constexpr int kRows = 32;
 constexpr int kEventRows = 10;
-const QString kCode = QStringLiteral("MB");
+
+QString keyOf(const vlk::ModbusRow& row)
+{
+    return QLatin1String(vlk::kModbusCode) + QString::number(row.number());
+}
+
+// "MB3,  7,  1f, 2 bytes, unsigned"
+QString composite(const vlk::UserParam& offer)
+{
+    return offer.name + QLatin1String(", ") + offer.third;
+}
 
 // Names begin with their row's number, of one digit or two.
 bool earlier(const QString& name, const QString& other)
@@ -234,12 +244,12 @@ void VLK_Form_Config_RS_Param_Mdbs::slot_toggled_Calc_NumType(bool on)
 // Tells the data set and the event rows what became of a row since they were last told.
 void VLK_Form_Config_RS_Param_Mdbs::tellOf(Line& line)
 {
-    const vlk::ModbusOffer now = line.row.offer();
-    const vlk::ModbusOffer before = std::exchange(line.offered, now);
+    const vlk::UserParam now = line.row.offer();
+    const vlk::UserParam before = std::exchange(line.offered, now);
     if (now == before)
         return;
     const bool renamed = now.name != before.name;
-    line.row.dataType->setRememberedText(now.type);
+    line.row.dataType->setRememberedText(now.third);
 
     if (onOffer_)
         withdraw(before);
@@ -278,16 +288,16 @@ void VLK_Form_Config_RS_Param_Mdbs::slot_currentIndexChanged_Interface_Events_Co
     eventRows_[static_cast<std::size_t>(row) - 1].applyCondition();
 }
 
-void VLK_Form_Config_RS_Param_Mdbs::add(const vlk::ModbusOffer& offer)
+void VLK_Form_Config_RS_Param_Mdbs::add(const vlk::UserParam& offer)
 {
-    if (!offer.name.isEmpty() && !offer.type.isEmpty())
-        Q_EMIT signal_UserParam_Add(kCode, offer.name, offer.type, offer.bytes);
+    if (!offer.name.isEmpty())
+        Q_EMIT signal_UserParam_Add(offer.code, offer.name, offer.third, offer.bytes);
 }
 
-void VLK_Form_Config_RS_Param_Mdbs::withdraw(const vlk::ModbusOffer& offer)
+void VLK_Form_Config_RS_Param_Mdbs::withdraw(const vlk::UserParam& offer)
 {
-    if (!offer.name.isEmpty() && !offer.type.isEmpty())
-        Q_EMIT signal_UserParam_Del(kCode, offer.name, offer.type, offer.bytes);
+    if (!offer.name.isEmpty())
+        Q_EMIT signal_UserParam_Del(offer.code, offer.name, offer.third, offer.bytes);
 }
 
 void VLK_Form_Config_RS_Param_Mdbs::offerAll()
@@ -304,30 +314,18 @@ void VLK_Form_Config_RS_Param_Mdbs::withdrawAll()
         withdraw(line.offered);
 }
 
-std::vector<vlk::ModbusOffer> VLK_Form_Config_RS_Param_Mdbs::offers() const
-{
-    std::vector<vlk::ModbusOffer> offers;
-    for (const Line& line : lines_) {
-        if (!line.offered.name.isEmpty())
-            offers.push_back(line.offered);
-    }
-    return offers;
-}
-
 QString VLK_Form_Config_RS_Param_Mdbs::keyOfName(const QString& text) const
 {
-    for (const Line& line : lines_) {
-        if (!line.offered.name.isEmpty() && vlk::ModbusRow::composite(line.offered) == text)
-            return kCode + QString::number(line.row.number());
-    }
-    return {};
+    const auto found = std::find_if(lines_.begin(), lines_.end(), [&](const Line& line) {
+        return !line.offered.name.isEmpty() && composite(line.offered) == text;
+    });
+    return found == lines_.end() ? QString() : keyOf(found->row);
 }
 
 QString VLK_Form_Config_RS_Param_Mdbs::nameOfKey(const QString& key) const
 {
-    for (const Line& line : lines_) {
-        if (!line.offered.name.isEmpty() && key == kCode + QString::number(line.row.number()))
-            return vlk::ModbusRow::composite(line.offered);
-    }
-    return {};
+    const auto found = std::find_if(lines_.begin(), lines_.end(), [&](const Line& line) {
+        return !line.offered.name.isEmpty() && keyOf(line.row) == key;
+    });
+    return found == lines_.end() ? QString() : composite(found->offered);
 }

@@ -34,8 +34,6 @@ public:
     // none.
     QString keyOfName(const QString& text) const;
     QString nameOfKey(const QString& key) const;
-    // What the rows in use offer, by their order.
-    std::vector<vlk::ModbusOffer> offers() const;
 
 public Q_SLOTS:
     // Rows are counted from 1.
@@ -57,7 +55,7 @@ private:
     struct Line
     {
         vlk::ModbusRow row;
-        vlk::ModbusOffer offered;
+        vlk::UserParam offered;
     };
 
     // A group of rows below the captions of its columns.
@@ -76,8 +74,8 @@ private:
     Line& line(int row) { return lines_[static_cast<std::size_t>(row) - 1]; }
     bool byNumber() const;
     void tellOf(Line& line);
-    void add(const vlk::ModbusOffer& offer);
-    void withdraw(const vlk::ModbusOffer& offer);
+    void add(const vlk::UserParam& offer);
+    void withdraw(const vlk::UserParam& offer);
     void offerEventNames();
 
     QGroupBox* choice_;

@@ -157,16 +157,17 @@ void ModbusRow::takeNumber()
     }
 }
 
-ModbusOffer ModbusRow::offer() const
+UserParam ModbusRow::offer() const
 {
     const int type = dataType->currentIndex();
     if (!inUse() || type < 0)
         return {};
-    return {QStringLiteral("%1%2, %3 %4, %5 %6")
-                .arg(QLatin1String("MB"), QString::number(number_), QString(),
-                     QString::number(address->value()), QString(),
-                     QString::number(registerAddress->value(), 16)),
-            dataType->currentText(), kElementTypes[static_cast<std::size_t>(type)].bytes};
+    const QString name =
+        QStringLiteral("%1%2, %3 %4, %5 %6")
+            .arg(QLatin1String(kModbusCode), QString::number(number_), QString(),
+                 QString::number(address->value()), QString(), QString::number(registerAddress->value(), 16));
+    return {QLatin1String(kModbusCode), name, dataType->currentText(),
+            kElementTypes[static_cast<std::size_t>(type)].bytes};
 }
 
 } // namespace vlk

@@ -3,7 +3,8 @@
 // One of the 32 values that the tracker reads from Modbus sensors: its widgets in a row of the form's grid,
 // and what they do to each other. The form connects them and tells others of the value.
 
-#include <QString>
+#include "peripherals/params/user_param.h"
+
 #include <QStringList>
 
 class QCheckBox;
@@ -16,24 +17,14 @@ namespace vlk {
 
 class ElidingComboBox;
 
+// Of the user parameters that Modbus gives.
+inline constexpr char kModbusCode[] = "MB";
+
 // The texts of a row's lists, in the language of the moment.
 struct ModbusLists
 {
     QStringList dataTypes;
     QStringList byteOrders;
-};
-
-// What a row offers as a user parameter; without a name nothing.
-struct ModbusOffer
-{
-    QString name; // "MB3,  7,  1f": row, slave address, register address
-    QString type; // "2 bytes, unsigned"
-    int bytes = 0;
-
-    friend bool operator==(const ModbusOffer& a, const ModbusOffer& b)
-    {
-        return a.name == b.name && a.type == b.type && a.bytes == b.bytes;
-    }
 };
 
 class ModbusRow
@@ -60,9 +51,9 @@ public:
     void showNumber();
     void takeNumber();
 
-    ModbusOffer offer() const;
-    // "MB3,  7,  1f, 2 bytes, unsigned": what is offered, as one text.
-    static QString composite(const ModbusOffer& offer) { return offer.name + ", " + offer.type; }
+    // The user parameter that the row is: "MB3,  7,  1f" by its number, the slave address and the register
+    // address, and "2 bytes, unsigned". Without a name while the row is off.
+    UserParam offer() const;
 
     QCheckBox* const use;
     QSpinBox* const address;
