@@ -3,6 +3,7 @@
 #include "settings/accel_settings.h"
 #include "settings/lines_in_settings.h"
 #include "settings/lines_out_settings.h"
+#include "settings/rs_settings.h"
 #include "settings/system_settings.h"
 #include "settings/temperature_settings.h"
 #include "settings/track_settings.h"
@@ -13,8 +14,8 @@ namespace vlk {
 const std::vector<const SettingsTable*>& allSettings()
 {
     static const std::vector<const SettingsTable*> tables = {
-        &kTransferSettings, &kTrackSettings, &kSystemSettings,  &kTemperatureSettings,
-        &kLinesInSettings,  &kAccelSettings, &kLinesOutSettings};
+        &kTransferSettings,    &kTrackSettings,   &kSystemSettings, &kRsSettings,
+        &kTemperatureSettings, &kLinesInSettings, &kAccelSettings,  &kLinesOutSettings};
     return tables;
 }
 
