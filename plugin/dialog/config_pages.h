@@ -16,6 +16,7 @@
 #include "pages/form_config_system.h"
 #include "pages/form_config_track.h"
 #include "pages/form_config_transfer.h"
+#include "peripherals/form_config_rs.h"
 
 #include <concepts>
 #include <tuple>
@@ -23,8 +24,8 @@
 namespace vlk {
 
 using PageTuple = std::tuple<VLK_Form_Config_Transfer*, VLK_Form_Config_Track*, VLK_Form_Config_System*,
-                             VLK_Form_Config_Sensors_Temp*, VLK_Form_Config_Lines_In*, VLK_Form_Config_Accel*,
-                             VLK_Form_Config_Lines_Out*>;
+                             VLK_Form_Config_RS*, VLK_Form_Config_Sensors_Temp*, VLK_Form_Config_Lines_In*,
+                             VLK_Form_Config_Accel*, VLK_Form_Config_Lines_Out*>;
 
 // deviceConnected(), deviceDisconnected()
 template <class Page>
@@ -38,6 +39,13 @@ template <class Page>
 concept HasUserParams = requires
 {
     &Page::loadUserParams;
+};
+
+// addUserParam(code, name, third, size), deleteUserParam(...): the free fields of the record
+template <class Page>
+concept TakesUserParams = requires
+{
+    &Page::addUserParam;
 };
 
 // signal_Excess_Size(bool) locks all tabs but its own
