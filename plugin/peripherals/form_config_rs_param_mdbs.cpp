@@ -2,7 +2,6 @@
 
 #include "peripherals/params/element_types.h"
 #include "windows/eliding_combobox.h"
-#include "windows/input_guard.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -71,7 +70,6 @@ VLK_Form_Config_RS_Param_Mdbs::VLK_Form_Config_RS_Param_Mdbs(QWidget* parent)
     makeRows();
     makeEventRows();
     connect(byType_, &QRadioButton::toggled, this, &This::slot_toggled_Calc_NumType);
-    vlk::guardInputs(this);
     retranslate();
 }
 

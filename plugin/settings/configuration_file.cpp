@@ -63,21 +63,25 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
     if (!section)
         return;
     QStringList elements;
-    for (const TableLayout::Group& group : layout.groups)
-        elements << group.path.first();
+    for (const TableLayout::Group& group : layout.groups) {
+        if (group.stored)
+            elements << group.path.first();
+    }
     noteStrangers(*section, layout.section, {QStringLiteral("page")}, elements, notes);
 
-    // What lives in the window alone is not in the file: it starts anew, and links and rules fill it.
+    // What lives in the window alone is not in the file: beside values that are, it starts anew, and links
+    // and rules fill it; a group of its own is left as it stands.
     for (std::size_t row = 0; row < layout.rows.size(); ++row) {
-        const Setting& setting = *layout.rows[row].setting;
+        const TableLayout::Row& place = layout.rows[row];
+        const Setting& setting = *place.setting;
         const int index = part.first + static_cast<int>(row);
-        if (!setting.stored)
+        if (!setting.stored && (place.group < 0 || layout.groups[place.group].stored))
             values_[index] = normalise(setting, loadDefault(setting), values_[index], limits(index)).value;
     }
     std::vector<ReadNote> taken;
     std::vector<std::pair<int, CXmlSectionPtr>> late;
     for (const TableLayout::Group& group : layout.groups) {
-        if (!holds(part, group.present))
+        if (!group.stored || !holds(part, group.present))
             continue;
         const CXmlSectionPtr element = elementOf(*section, group.path);
         QStringList keys;
@@ -159,7 +163,7 @@ void Configuration::writePart(const Part& part, CXmlSection& root) const
     section->setString(QStringLiteral("page"), layout.section);
     section->commit();
     for (const TableLayout::Group& group : layout.groups) {
-        if (!holds(part, group.present))
+        if (!group.stored || !holds(part, group.present))
             continue;
         CXmlSectionPtr parent;
         for (int depth = 0; depth + 1 < group.path.size(); ++depth)

@@ -53,7 +53,8 @@ void Configuration::pull(const Part& part, int row, bool onRead, std::vector<int
 {
     std::vector<int> local;
     for (const TableLayout::Pull& rule : part.layout->pulls) {
-        if (rule.when.row == row && (rule.onRead || !onRead) && holds(part, rule.when))
+        if (rule.when.row == row && (rule.onRead || !onRead) && holds(part, rule.when) &&
+            holds(part, rule.also))
             change(part, rule.set, rule.to, changed ? changed : &local);
     }
 }

@@ -12,13 +12,14 @@
 namespace vlk {
 
 // An edit that makes `when` hold sets another setting. `onRead`: a read does so too, as soon as it has read
-// the path of `when`.
+// the path of `when`. All of it only while `also` holds.
 struct Pull
 {
     When when;
     const char* set = "";
     const char* to = "";
     bool onRead = false;
+    When also{};
     std::uint8_t number = 0;
     std::uint8_t inner = 0;
 };

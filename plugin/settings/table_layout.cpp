@@ -1,5 +1,6 @@
 #include "settings/table_layout.h"
 
+#include <algorithm>
 #include <map>
 #include <memory>
 
@@ -74,6 +75,10 @@ private:
             for (const TableLayout::Group& other : layout_.groups)
                 group.nested = group.nested || (other.path.size() > group.path.size() &&
                                                 other.path.mid(0, group.path.size()) == group.path);
+            const auto first = layout_.rows.begin() + group.firstRow;
+            const auto end = layout_.rows.begin() + group.endRow;
+            group.stored = first == end || group.nested ||
+                           std::any_of(first, end, [](const auto& row) { return row.setting->stored; });
         }
     }
 
@@ -83,7 +88,7 @@ private:
         for (const Pull& rule : table.pulls)
             layout_.pulls.push_back({condition(rule.when, rule.number, rule.inner),
                                      rowAt(rule.set, rule.number, rule.inner), QString::fromLatin1(rule.to),
-                                     rule.onRead});
+                                     rule.onRead, condition(rule.also, rule.number, rule.inner)});
         for (const Bound& rule : table.bounds)
             layout_.bounds.push_back({condition(rule.when, rule.number, rule.inner),
                                       rowAt(rule.path, rule.number, rule.inner),

@@ -40,6 +40,7 @@ struct TableLayout
         Condition present;
         bool kept = false;
         bool nested = false; // another group lies in it
+        bool stored = true;  // false: all its rows live in the window alone, the file has no such element
         int firstRow = 0;
         int endRow = 0;
     };
@@ -50,6 +51,7 @@ struct TableLayout
         int set = -1;
         QString to;
         bool onRead = false;
+        Condition also;
     };
     struct Bound
     {
