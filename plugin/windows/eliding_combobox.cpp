@@ -1,8 +1,10 @@
 #include "windows/eliding_combobox.h"
 
 #include <QAbstractItemView>
+#include <QHelpEvent>
 #include <QStyle>
 #include <QStylePainter>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -40,19 +42,35 @@ QSize ElidingComboBox::minimumSizeHint() const
 
 void ElidingComboBox::showPopup()
 {
-    view()->setMinimumWidth(preferredWidth_);
+    const int frame = 2 * view()->frameWidth() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    view()->setMinimumWidth(view()->sizeHintForColumn(0) + frame);
     VLK_ComboBox::showPopup();
+}
+
+QString ElidingComboBox::shownText(QStyleOptionComboBox* option) const
+{
+    initStyleOption(option);
+    const QRect room =
+        style()->subControlRect(QStyle::CC_ComboBox, option, QStyle::SC_ComboBoxEditField, this);
+    return fontMetrics().elidedText(option->currentText, Qt::ElideRight, room.width() - 2);
+}
+
+bool ElidingComboBox::event(QEvent* event)
+{
+    QStyleOptionComboBox option;
+    if (event->type() != QEvent::ToolTip || shownText(&option) == currentText())
+        return VLK_ComboBox::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), currentText(), this);
+    return true;
 }
 
 void ElidingComboBox::paintEvent(QPaintEvent* /*event*/)
 {
     QStylePainter painter(this);
     QStyleOptionComboBox option;
-    initStyleOption(&option);
+    const QString text = shownText(&option);
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
-    const QRect room =
-        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
-    option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideRight, room.width() - 2);
+    option.currentText = text;
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
