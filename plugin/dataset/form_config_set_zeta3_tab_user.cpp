@@ -83,14 +83,6 @@ void VLK_Form_Config_Set_Zeta3_Tab_User::afterDefaults()
     }
 }
 
-void VLK_Form_Config_Set_Zeta3_Tab_User::fillMask30(QString& mask)
-{
-    for (const vlk::UserParamGroup& group : groups_) {
-        for (int slot = 1; slot <= group.slots().count; ++slot)
-            mask[group.slots().firstField + slot - 1] = QLatin1Char(group.text(slot).isEmpty() ? '0' : '1');
-    }
-}
-
 vlk::UserParamGroup* VLK_Form_Config_Set_Zeta3_Tab_User::groupOf(int bytes)
 {
     for (vlk::UserParamGroup& group : groups_) {
@@ -123,7 +115,6 @@ void VLK_Form_Config_Set_Zeta3_Tab_User::slot_currentIndexChanged_User(int bytes
 {
     if (vlk::UserParamGroup* group = groupOf(bytes))
         group->takeChoice(slot);
-    Q_EMIT maskChanged();
 }
 
 QString VLK_Form_Config_Set_Zeta3_Tab_User::keyOf(const QString& text) const

@@ -3,6 +3,7 @@
 
 #include "settings/all_settings.h"
 #include "settings/normalise.h"
+#include "settings/user_param_settings.h"
 #include "support/files.h"
 #include "support/setting_samples.h"
 
@@ -160,6 +161,20 @@ private Q_SLOTS:
         }
         QVERIFY2(wrong.isEmpty(), qPrintable('\n' + wrong.join('\n')));
         QCOMPARE(rows, order);
+    }
+
+    // They stand beside the data set where a tracker has the User tab; this one has not.
+    void slotsOfTheUser()
+    {
+        const vlk::Configuration slots({&vlk::kUserParamSettings});
+        const GoldenTable table(readFile(VLK_SOURCE "/tests/settings/golden/user_parameters.tsv"));
+        QStringList golden;
+        for (const GoldenKey& key : table.keys())
+            golden << key.path + '=' + plain(key.load);
+        QStringList rows;
+        for (int i = 0; i < slots.count(); ++i)
+            rows << slots.path(i) + '=' + slots.value(i);
+        QCOMPARE(rows, golden);
     }
 
     // Every table of the file is compared above.
