@@ -346,7 +346,7 @@
     <message id="cfgt5_008"><translation>CAN parameters…</translation></message>
     <message id="cfgt5_009"><translation>Modbus parameters…</translation></message>
     <message id="cfgt5_010"><translation>Vehicle</translation></message>
-    <message id="cfgt5_011"><translation>Special and agricultural machines</translation></message>
+    <message id="cfgt5_011"><translation>Special and farm machines</translation></message>
     <message id="cfgt5_012"><translation>Custom parameters</translation></message>
     <message id="cfgt5_013"><translation>Filter</translation></message>
     <message id="cfgt5_014"><translation>Parameter</translation></message>

@@ -346,7 +346,7 @@
     <message id="cfgt5_008"><translation>Параметры CAN…</translation></message>
     <message id="cfgt5_009"><translation>Параметры Modbus…</translation></message>
     <message id="cfgt5_010"><translation>Автомобиль</translation></message>
-    <message id="cfgt5_011"><translation>Специальная и сельскохозяйственная техника</translation></message>
+    <message id="cfgt5_011"><translation>Специальная и сельхозтехника</translation></message>
     <message id="cfgt5_012"><translation>Произвольные параметры</translation></message>
     <message id="cfgt5_013"><translation>Фильтр</translation></message>
     <message id="cfgt5_014"><translation>Параметр</translation></message>

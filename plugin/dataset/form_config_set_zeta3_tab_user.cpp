@@ -5,6 +5,7 @@
 #include "peripherals/params/param_catalogues.h"
 #include "peripherals/params/user_params.h"
 #include "settings/configuration.h"
+#include "windows/aligned_columns.h"
 #include "windows/wnd_config_full.h"
 
 #include <QCoreApplication>
@@ -71,8 +72,12 @@ void VLK_Form_Config_Set_Zeta3_Tab_User::retranslate()
     setTitle(tr("cfgt5_007"));
     can_->setText(tr("cfgt5_008"));
     modbus_->setText(tr("cfgt5_009"));
-    for (vlk::UserParamGroup& group : groups_)
+    QList<QGridLayout*> grids;
+    for (vlk::UserParamGroup& group : groups_) {
         group.retranslate();
+        grids << group.grid();
+    }
+    vlk::alignColumns(grids, 4);
 }
 
 void VLK_Form_Config_Set_Zeta3_Tab_User::afterDefaults()

@@ -179,7 +179,10 @@ private Q_SLOTS:
         page_->userParamAdded("MB", "MB1", "x", 2);
         QTimer::singleShot(0, this, [&] {
             QWidget* dialog = QApplication::activeModalWidget();
-            dialog->findChild<QLineEdit*>("lineEdit_Filter")->setText(filter);
+            auto* line = dialog->findChild<QLineEdit*>("lineEdit_Filter");
+            line->setText(filter);
+            QTest::keyClick(line, Qt::Key_Return);
+            QVERIFY(dialog->isVisible());
             QAbstractItemModel* model = dialog->findChild<QTreeView*>("treeView_Params")->model();
             QCOMPARE(model->rowCount(), rows);
             const auto found = check.isEmpty() ? QModelIndexList()
