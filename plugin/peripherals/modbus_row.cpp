@@ -11,6 +11,8 @@
 #include <QGridLayout>
 #include <QSpinBox>
 
+#include <algorithm>
+
 namespace vlk {
 
 namespace {
@@ -134,7 +136,10 @@ void ModbusRow::retranslate(const ModbusLists& lists)
         row[i]->setAccessibleName(QStringLiteral("%1, %2").arg(caption).arg(number_));
         row[i]->setToolTip(caption);
     }
-    dataType->reserve(lists.dataTypes, lists.dataTypes.first());
+    const auto shorter = [](const QString& a, const QString& b) { return a.size() < b.size(); };
+    dataType->reserve(lists.dataTypes,
+                      *std::max_element(lists.dataTypes.begin(), lists.dataTypes.end(), shorter));
+    // The letters in brackets say it all.
     byteOrder->reserve(lists.byteOrders, QStringLiteral("[ABCD]…"));
     if (!inUse())
         return;
