@@ -10,6 +10,10 @@
 #include "support/data_table.h"
 #include "windows/wnd_config_full.h"
 
+#include <QCheckBox>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStackedWidget>
 #include <QtTest>
 
 namespace {
