@@ -338,7 +338,7 @@
     <message id="cfgt4_092"><translation>Phone number for control</translation></message>
     <message id="cfgt4_093"><translation>Use AIN3 as the voltage sensor</translation></message>
     <message id="cfgt5_001"><translation>Not used</translation></message>
-    <message id="cfgt5_002"><translation>Reserved</translation></message>
+    <message id="cfgt5_002"><translation>Set aside</translation></message>
     <message id="cfgt5_003"><translation>One-byte parameters</translation></message>
     <message id="cfgt5_004"><translation>Two-byte parameters</translation></message>
     <message id="cfgt5_005"><translation>Four-byte parameters</translation></message>

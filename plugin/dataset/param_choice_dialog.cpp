@@ -117,11 +117,11 @@ void ParamChoiceDialog::filter(const QString& text)
     tellState();
 }
 
-// Enter in the filter goes on to the list and is no answer yet.
+// Enter goes from the filter on to the list and is no answer yet; on a button it presses that.
 void ParamChoiceDialog::keyPressEvent(QKeyEvent* event)
 {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter && filter_->hasFocus())
+    if (enter)
         list_->setFocus();
     else
         QDialog::keyPressEvent(event);
