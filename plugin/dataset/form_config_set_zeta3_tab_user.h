@@ -48,6 +48,8 @@ public Q_SLOTS:
 
 private:
     vlk::UserParamGroup* groupOf(int bytes);
+    void offer(const vlk::UserParam& param);
+    void withdraw(const vlk::UserParam& param);
     QString keyOf(const QString& text) const;
     QString textOf(const QString& key) const;
     void chooseFrom(const QString& title, QList<vlk::ParamChoice> choices);
