@@ -37,7 +37,7 @@ const char* titleOf(int bytes)
 
 } // namespace
 
-UserParamGroup::UserParamGroup(const UserParamSlots& slots, std::function<void(int)> chosen)
+UserParamGroup::UserParamGroup(const UserParamSlots& slots, const std::function<void(int)>& chosen)
     : slots_(slots), box_(new QGroupBox), grid_(new QGridLayout(box_))
 {
     box_->setObjectName(QStringLiteral("groupBox_User_%1Byte").arg(slots.bytes));

@@ -37,7 +37,7 @@ class UserParamGroup
 public:
     // Slots in columns, the first ones on the left. `chosen(slot)` is called when the choice of a slot
     // changes, counted from 1.
-    UserParamGroup(const UserParamSlots& slots, std::function<void(int slot)> chosen);
+    UserParamGroup(const UserParamSlots& slots, const std::function<void(int slot)>& chosen);
 
     QGroupBox* box() const { return box_; }
     QGridLayout* grid() const { return grid_; }
