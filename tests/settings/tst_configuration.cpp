@@ -5,6 +5,8 @@
 
 #include <QtTest>
 
+using Values = QVector<QPair<QString, QString>>;
+
 class ConfigurationTest : public QObject
 {
     Q_OBJECT
@@ -26,27 +28,29 @@ private Q_SLOTS:
     void everySample()
     {
         QFETCH(int, index);
-        const vlk::TableLayout::Row& row = configuration_.row(index);
-        for (const QString& sample : samplesOf(row.setting->kind == vlk::Kind::link
-                                                   ? configuration_.setting(configuration_.holder(index))
-                                                   : *row.setting)) {
-            QVector<QPair<QString, QString>> values = {{row.path, sample}};
-            const QByteArray first =
-                readAndWritten(configuration_, documentWith(presenceOf(configuration_, index) + values));
-            const QByteArray second = readAndWritten(configuration_, first);
-            QCOMPARE(second, savedAgain(configuration_, first));
-            QCOMPARE(readAndWritten(configuration_, second), second);
+        // With the settings of its own table alone: others play no part.
+        const vlk::SettingsTable& table = *configuration_.layout(index).table;
+        if (table_.layout(0).table != &table)
+            table_ = vlk::Configuration({&table});
+        index -= configuration_.firstOf(table);
+        const vlk::TableLayout::Row& row = table_.row(index);
+        for (const QString& sample : samplesOf(table_.setting(table_.holder(index)))) {
+            const QByteArray file = documentWith(presenceOf(table_, index) + Values{{row.path, sample}});
+            const QByteArray first = readAndWritten(table_, file);
+            const QByteArray second = readAndWritten(table_, first);
+            QCOMPARE(second, savedAgain(table_, first));
+            QCOMPARE(readAndWritten(table_, second), second);
 
-            configuration_.reset();
-            vlk::XmlDocument in(documentWith(presenceOf(configuration_, index) + values), "DEVICE");
-            const std::vector<vlk::ReadNote> notes = configuration_.read(*in.root());
+            table_.reset();
+            vlk::XmlDocument in(file, "DEVICE");
+            const std::vector<vlk::ReadNote> notes = notesOf(table_, in);
             const bool noted = std::any_of(notes.begin(), notes.end(), [&](const vlk::ReadNote& note) {
                 return note.index == index && note.change != vlk::Change::missing;
             });
-            const bool taken = !row.setting->stored || configuration_.value(index) == sample;
-            if (row.setting->kind != vlk::Kind::constant && configuration_.isWritten(index))
-                QVERIFY2(noted != taken || configuration_.written(index) != configuration_.value(index),
-                         qPrintable(row.path + " = " + sample + " became " + configuration_.value(index)));
+            const bool taken = !row.setting->stored || table_.value(index) == sample;
+            if (row.setting->kind != vlk::Kind::constant && table_.isWritten(index))
+                QVERIFY2(noted != taken || table_.written(index) != table_.value(index),
+                         qPrintable(row.path + " = " + sample + " became " + table_.value(index)));
         }
     }
 
@@ -61,7 +65,7 @@ private Q_SLOTS:
         const vlk::Configuration before = configuration_;
         for (const char* text : {"", "<DEVICE><TRANS>", "no document"}) {
             vlk::XmlDocument in(QByteArray(text), "DEVICE");
-            QVERIFY(configuration_.read(*in.root()).empty());
+            QVERIFY(notesOf(configuration_, in).empty());
             QVERIFY(configuration_.differences(before).empty());
         }
     }
@@ -73,7 +77,7 @@ private Q_SLOTS:
                        "<SRV1 port=\"6000\"/><SRV9/></TRANS></DEVICE>"),
             "DEVICE");
         QStringList told;
-        for (const vlk::ReadNote& note : configuration_.read(*in.root())) {
+        for (const vlk::ReadNote& note : notesOf(configuration_, in)) {
             if (note.what != vlk::ReadNote::What::value)
                 told << QString::number(static_cast<int>(note.what)) + ' ' + note.path;
         }
@@ -82,7 +86,15 @@ private Q_SLOTS:
     }
 
 private:
+    static std::vector<vlk::ReadNote> notesOf(vlk::Configuration& configuration, vlk::XmlDocument& document)
+    {
+        std::vector<vlk::ReadNote> notes;
+        configuration.read(*document.root(), &notes);
+        return notes;
+    }
+
     vlk::Configuration configuration_{vlk::allSettings()};
+    vlk::Configuration table_{{vlk::allSettings().front()}};
 };
 
 QTEST_GUILESS_MAIN(ConfigurationTest)
