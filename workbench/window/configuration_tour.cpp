@@ -163,15 +163,15 @@ void lookAround(vlk::Tour& tour)
 }
 
 // Every device that can own the serial line, with its form, in both languages; the one before comes back.
-void walkOwners(Tour& tour)
+void walkOwners(vlk::Tour& tour)
 {
-    auto* pages = Tour::find<QTabWidget>("tabWidget");
+    auto* pages = vlk::Tour::find<QTabWidget>("tabWidget");
     const int before = pages->currentIndex();
-    for (int page = 0; page < pages->count() && !Tour::findVisible("comboBox_RS485_Owner_1"); ++page)
+    for (int page = 0; page < pages->count() && !vlk::Tour::findVisible("comboBox_RS485_Owner_1"); ++page)
         pages->setCurrentIndex(page);
-    auto* owners = Tour::find<QComboBox>("comboBox_RS485_Owner_1");
+    auto* owners = vlk::Tour::find<QComboBox>("comboBox_RS485_Owner_1");
     const int owner = owners->currentIndex();
-    for (const QString& code : Languages::codes()) {
+    for (const QString& code : vlk::Languages::codes()) {
         tour.window().setLanguage(code);
         for (int item = 0; item < owners->count(); ++item) {
             owners->setCurrentIndex(item);
