@@ -822,6 +822,7 @@
     <message id="cfgt6_216"><translation>Averaging window</translation></message>
     <message id="cfgt6_217"><translation>Level of additional filtering</translation></message>
     <message id="cfgt6_218"><translation>Calibration</translation></message>
+    <message id="cfgt6_219"><translation>Use sensor</translation></message>
     <message id="cfgt6_230"><translation>Counter type</translation></message>
     <message id="cfgt6_233"><translation>Network address of counter %1</translation></message>
     <message id="cfgt6_234"><translation>Events at the start and end of counting</translation></message>

@@ -822,6 +822,7 @@
     <message id="cfgt6_216"><translation>Окно усреднения</translation></message>
     <message id="cfgt6_217"><translation>Уровень доп. фильтрации</translation></message>
     <message id="cfgt6_218"><translation>Тарировка</translation></message>
+    <message id="cfgt6_219"><translation>Подключить датчик</translation></message>
     <message id="cfgt6_230"><translation>Тип счётчика</translation></message>
     <message id="cfgt6_233"><translation>Сетевой адрес счётчика %1</translation></message>
     <message id="cfgt6_234"><translation>События начала и окончания подсчёта</translation></message>

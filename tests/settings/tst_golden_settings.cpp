@@ -95,9 +95,10 @@ QStringList widgetsOf(const vlk::Setting& setting)
         add(code.widget);
     for (const vlk::PeriodPart& part : setting.parts)
         add(part.widget);
-    for (const vlk::Position& position : setting.positions)
+    for (const vlk::Position& position : setting.positions) {
         for (const char* name : {position.widget, position.box})
             add(name);
+    }
     for (const vlk::MaskField& field : setting.fields)
         names << vlk::numberedName(field.widget, field.number, 0);
     return names;

@@ -163,17 +163,15 @@ void lookAround(vlk::Tour& tour)
 }
 
 // Every device that can own the serial line, with its form, in both languages; the one before comes back.
-void walkOwners(Tour& tour)
+void walkOwners(vlk::Tour& tour)
 {
-    auto* owners = Tour::find<QComboBox>("comboBox_RS485_Owner_1");
-    auto* pages = Tour::find<QTabWidget>("tabWidget");
-    QWidget* page = owners;
-    while (pages->indexOf(page) < 0 && page->parentWidget() != nullptr)
-        page = page->parentWidget();
+    auto* pages = vlk::Tour::find<QTabWidget>("tabWidget");
     const int before = pages->currentIndex();
+    for (int page = 0; page < pages->count() && !vlk::Tour::findVisible("comboBox_RS485_Owner_1"); ++page)
+        pages->setCurrentIndex(page);
+    auto* owners = vlk::Tour::find<QComboBox>("comboBox_RS485_Owner_1");
     const int owner = owners->currentIndex();
-    pages->setCurrentWidget(page);
-    for (const QString& code : Languages::codes()) {
+    for (const QString& code : vlk::Languages::codes()) {
         tour.window().setLanguage(code);
         for (int item = 0; item < owners->count(); ++item) {
             owners->setCurrentIndex(item);
