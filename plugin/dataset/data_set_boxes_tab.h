@@ -33,11 +33,13 @@ public:
     void enableFormat20(bool on) override { enable(MaskVersion::zeta20, on); }
     void enableFormat30(bool on) override { enable(MaskVersion::zeta30, on); }
 
+public Q_SLOTS:
+    // Takes over the state that the user gave a box or list.
+    void slot_stateChanged(QWidget* box);
+
 protected:
     // The box or list of this object name.
     QWidget* box(const char* name) const;
-    // Takes the state over that the user gave a box.
-    void takeState(QWidget* widget);
 
 private:
     struct Box
