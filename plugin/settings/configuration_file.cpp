@@ -25,12 +25,31 @@ std::vector<ReadNote> Configuration::read(const CXmlSection& root, const Setting
 
 namespace {
 
-CXmlSectionPtr elementOf(const CXmlSection& section, const QStringList& path)
+struct Element
 {
-    CXmlSectionPtr element = section.child(path.first());
-    for (int i = 1; i < path.size() && element; ++i)
-        element = element->child(path[i]);
+    CXmlSectionPtr section;
+    bool isThere = true; // in the file
+};
+
+Element elementOf(const CXmlSection& section, const QStringList& path)
+{
+    Element element;
+    for (const QString& name : path) {
+        const CXmlSection& parent = element.section ? *element.section : section;
+        element.isThere = element.isThere && parent.find(name);
+        element.section = parent.child(name);
+    }
     return element;
+}
+
+// The section of a table; over several sections the document itself, as `root` stands for it.
+template <class Root>
+Root* sectionOf(Root& root, const QString& name, CXmlSectionPtr& owner)
+{
+    if (!name.isEmpty())
+        owner = root.child(name);
+    Root* section = name.isEmpty() ? &root : owner.get();
+    return section && section->document() ? section : nullptr;
 }
 
 // What stands in `element` and is none of the known names, or twice.
@@ -59,46 +78,51 @@ void noteStrangers(const CXmlSection& element, const QString& path, const QStrin
 void Configuration::readPart(const Part& part, const CXmlSection& root, std::vector<ReadNote>* notes)
 {
     const TableLayout& layout = *part.layout;
-    const CXmlSectionPtr section = root.child(layout.section);
+    CXmlSectionPtr owner;
+    const CXmlSection* section = sectionOf(root, layout.section, owner);
     if (!section)
         return;
     QStringList elements;
     for (const TableLayout::Group& group : layout.groups)
         elements << group.path.first();
-    noteStrangers(*section, layout.section, {QStringLiteral("page")}, elements, notes);
+    // What a save would keep belongs to somebody else.
+    if (layout.table->emptied)
+        noteStrangers(*section, layout.section, {QStringLiteral("page")}, elements, notes);
 
     // What lives in the window alone is not in the file: it starts anew, and links and rules fill it.
     for (std::size_t row = 0; row < layout.rows.size(); ++row) {
         const Setting& setting = *layout.rows[row].setting;
         const int index = part.first + static_cast<int>(row);
-        if (!setting.stored)
+        if (!setting.stored && !setting.stays)
             values_[index] = normalise(setting, loadDefault(setting), values_[index], limits(index)).value;
     }
     std::vector<ReadNote> taken;
-    std::vector<std::pair<int, CXmlSectionPtr>> late;
+    std::vector<std::pair<int, Element>> late;
     for (const TableLayout::Group& group : layout.groups) {
-        if (!holds(part, group.present))
+        if (!holds(part, group.readable))
             continue;
-        const CXmlSectionPtr element = elementOf(*section, group.path);
+        const Element element = elementOf(*section, group.path);
         QStringList keys;
         for (int row = group.firstRow; row < group.endRow; ++row) {
             keys << layout.rows[row].key;
             if (layout.rows[row].setting->last)
                 late.emplace_back(row, elementOf(*section, group.path));
             else
-                readRow(part, row, *element, &taken);
+                readRow(part, row, *element.section, element.isThere, &taken);
         }
+        if (group.kept)
+            continue;
         QStringList inside;
         for (const TableLayout::Group& other : layout.groups) {
             if (other.path.size() == group.path.size() + 1 &&
                 other.path.mid(0, group.path.size()) == group.path)
                 inside << other.path.last();
         }
-        noteStrangers(*element, layout.section + QLatin1Char('/') + group.path.join(QLatin1Char('/')), keys,
-                      inside, notes);
+        noteStrangers(*element.section, layout.prefix() + group.path.join(QLatin1Char('/')), keys, inside,
+                      notes);
     }
     for (const auto& [row, element] : late)
-        readRow(part, row, *element, &taken);
+        readRow(part, row, *element.section, element.isThere, &taken);
     derive(part);
     keepBounds(part, nullptr);
     // A value may have found no room beside another, or what came later has moved it.
@@ -112,7 +136,7 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
     }
 }
 
-void Configuration::readRow(const Part& part, int row, const CXmlSection& element,
+void Configuration::readRow(const Part& part, int row, const CXmlSection& element, bool isThere,
                             std::vector<ReadNote>* notes)
 {
     const TableLayout::Row& place = part.layout->rows[row];
@@ -120,7 +144,12 @@ void Configuration::readRow(const Part& part, int row, const CXmlSection& elemen
     if (!setting.stored || setting.kind == Kind::constant || !holds(part, place.present))
         return;
     const QString* found = element.find(place.key);
-    const QString missing = found ? QString() : loadDefault(setting);
+    if (!found && setting.stays)
+        return;
+    const bool isAbsent = !isThere && setting.unlessThere >= 0;
+    const QString missing = found      ? QString()
+                            : isAbsent ? QString::number(setting.unlessThere)
+                                       : loadDefault(setting);
     const QString& text = found ? *found : missing;
 
     // A link gives its value to another row, which says what the value can be.
@@ -151,27 +180,34 @@ void Configuration::write(CXmlSection& root, const SettingsTable& table) const
 void Configuration::writePart(const Part& part, CXmlSection& root) const
 {
     const TableLayout& layout = *part.layout;
-    const CXmlSectionPtr section = root.child(layout.section);
+    CXmlSectionPtr owner;
+    CXmlSection* section = sectionOf(root, layout.section, owner);
     if (!section)
         return;
     if (layout.table->emptied)
         section->clear();
-    section->setString(QStringLiteral("page"), layout.section);
-    section->commit();
+    if (owner) {
+        section->setString(QStringLiteral("page"), layout.section);
+        section->commit();
+    }
     for (const TableLayout::Group& group : layout.groups) {
         if (!holds(part, group.present))
             continue;
+        const QString& name = group.path.last();
         CXmlSectionPtr parent;
         for (int depth = 0; depth + 1 < group.path.size(); ++depth)
             parent = (parent ? *parent : *section).child(group.path[depth]);
+        const bool isThere = group.kept && (parent ? *parent : *section).find(name);
         const CXmlSectionPtr element =
-            (parent ? *parent : *section).child(group.path.last(), group.kept || group.nested ? 0 : 3);
+            (parent ? *parent : *section).child(name, isThere || group.nested ? 0 : 3);
         if (!group.kept)
             element->clear();
         for (int row = group.firstRow; row < group.endRow; ++row) {
             const int index = part.first + row;
+            const TableLayout::Row& place = layout.rows[row];
+            const QString* before = place.setting->carried ? element->find(place.key) : nullptr;
             if (isWritten(index))
-                element->setString(layout.rows[row].key, written(index));
+                element->setString(place.key, written(index, before ? *before : value(index)));
         }
         element->commit();
     }

@@ -56,9 +56,9 @@ QString positionsText(const Setting& setting, const QString& value)
 
 } // namespace
 
-Caption captionParts(const char* key)
+Caption captionParts(const char* key, const char* format)
 {
-    const QString text = translated(key);
+    const QString text = QString::fromLatin1(format).arg(translated(key));
     const int mark = text.indexOf(QLatin1String("<val>"), 0, Qt::CaseInsensitive);
     if (mark < 0)
         return {text, {}};
@@ -72,7 +72,7 @@ QString inOneLine(QString caption)
 
 QString captionText(const Setting& setting)
 {
-    const Caption parts = captionParts(setting.captionKey);
+    const Caption parts = captionParts(setting.captionKey, setting.captionFormat);
     return inOneLine(parts.after.isEmpty() ? parts.before
                                            : parts.before + QStringLiteral(" … ") + parts.after);
 }

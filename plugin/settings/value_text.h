@@ -14,7 +14,7 @@ struct Caption
     QString before;
     QString after;
 };
-Caption captionParts(const char* key);
+Caption captionParts(const char* key, const char* format = "%1");
 // Without line breaks and mnemonics.
 QString inOneLine(QString caption);
 QString captionText(const Setting& setting);

@@ -1,6 +1,7 @@
 // All settings without a window: what a file does to them, whatever it holds.
 
 #include "settings/all_settings.h"
+#include "settings/quick_settings.h"
 #include "support/setting_samples.h"
 
 #include <QtTest>
@@ -14,55 +15,63 @@ private Q_SLOTS:
     {
         for (const vlk::SettingsTable* table : vlk::allSettings())
             QCOMPARE(vlk::layoutOf(*table).problems, QStringList());
+        QCOMPARE(vlk::layoutOf(vlk::kQuickSettings).problems, QStringList());
     }
 
     void everySample_data()
     {
+        QTest::addColumn<bool>("isQuick");
         QTest::addColumn<int>("index");
-        for (int i = 0; i < configuration_.count(); ++i)
-            QTest::newRow(qPrintable(configuration_.path(i))) << i;
+        for (int i = 0; i < full_.count(); ++i)
+            QTest::newRow(qPrintable(full_.path(i))) << false << i;
+        for (int i = 0; i < quick_.count(); ++i)
+            QTest::newRow(qPrintable("quick " + quick_.path(i))) << true << i;
     }
     // Whatever the file holds, what was saved is read as it was saved, and notes tell what became of it.
     void everySample()
     {
+        QFETCH(bool, isQuick);
         QFETCH(int, index);
-        const vlk::TableLayout::Row& row = configuration_.row(index);
+        vlk::Configuration& configuration = isQuick ? quick_ : full_;
+        const vlk::TableLayout::Row& row = configuration.row(index);
         for (const QString& sample : samplesOf(row.setting->kind == vlk::Kind::link
-                                                   ? configuration_.setting(configuration_.holder(index))
+                                                   ? configuration.setting(configuration.holder(index))
                                                    : *row.setting)) {
             QVector<QPair<QString, QString>> values = {{row.path, sample}};
             const QByteArray first =
-                readAndWritten(configuration_, documentWith(presenceOf(configuration_, index) + values));
-            const QByteArray second = readAndWritten(configuration_, first);
-            QCOMPARE(second, savedAgain(configuration_, first));
-            QCOMPARE(readAndWritten(configuration_, second), second);
+                readAndWritten(configuration, documentWith(presenceOf(configuration, index) + values));
+            const QByteArray second = readAndWritten(configuration, first);
+            QCOMPARE(second, savedAgain(configuration, first));
+            QCOMPARE(readAndWritten(configuration, second), second);
 
-            configuration_.reset();
-            vlk::XmlDocument in(documentWith(presenceOf(configuration_, index) + values), "DEVICE");
-            const std::vector<vlk::ReadNote> notes = configuration_.read(*in.root());
+            configuration.reset();
+            vlk::XmlDocument in(documentWith(presenceOf(configuration, index) + values), "DEVICE");
+            const std::vector<vlk::ReadNote> notes = configuration.read(*in.root());
             const bool noted = std::any_of(notes.begin(), notes.end(), [&](const vlk::ReadNote& note) {
                 return note.index == index && note.change != vlk::Change::missing;
             });
-            const bool taken = !row.setting->stored || configuration_.value(index) == sample;
-            if (row.setting->kind != vlk::Kind::constant && configuration_.isWritten(index))
-                QVERIFY2(noted != taken || configuration_.written(index) != configuration_.value(index),
-                         qPrintable(row.path + " = " + sample + " became " + configuration_.value(index)));
+            const bool taken = !row.setting->stored || configuration.value(index) == sample;
+            if (row.setting->kind != vlk::Kind::constant && configuration.isWritten(index))
+                QVERIFY2(noted != taken || configuration.written(index) != configuration.value(index),
+                         qPrintable(row.path + " = " + sample + " became " + configuration.value(index)));
         }
     }
 
     void emptyAndForeignFiles()
     {
-        for (const char* text : {"<DEVICE/>", "<DEVICE><TRANS/></DEVICE>", "<OTHER><TRANS/></OTHER>",
-                                 "<DEVICE><TRANS><SRV1><SRV1 port=\"7\"/></SRV1></TRANS></DEVICE>"}) {
-            const QByteArray first = readAndWritten(configuration_, text);
-            QCOMPARE(readAndWritten(configuration_, first), first);
-        }
-        configuration_.reset();
-        const vlk::Configuration before = configuration_;
-        for (const char* text : {"", "<DEVICE><TRANS>", "no document"}) {
-            vlk::XmlDocument in(QByteArray(text), "DEVICE");
-            QVERIFY(configuration_.read(*in.root()).empty());
-            QVERIFY(configuration_.differences(before).empty());
+        for (vlk::Configuration* configuration : {&full_, &quick_}) {
+            for (const char* text : {"<DEVICE/>", "<DEVICE><TRANS/></DEVICE>", "<OTHER><TRANS/></OTHER>",
+                                     "<DEVICE><TRANS><SRV1><SRV1 port=\"7\"/></SRV1></TRANS></DEVICE>"}) {
+                const QByteArray first = readAndWritten(*configuration, text);
+                QCOMPARE(readAndWritten(*configuration, first), first);
+            }
+            configuration->reset();
+            const vlk::Configuration before = *configuration;
+            for (const char* text : {"", "<DEVICE><TRANS>", "no document"}) {
+                vlk::XmlDocument in(QByteArray(text), "DEVICE");
+                QVERIFY(configuration->read(*in.root()).empty());
+                QVERIFY(configuration->differences(before).empty());
+            }
         }
     }
 
@@ -73,16 +82,17 @@ private Q_SLOTS:
                        "<SRV1 port=\"6000\"/><SRV9/></TRANS></DEVICE>"),
             "DEVICE");
         QStringList told;
-        for (const vlk::ReadNote& note : configuration_.read(*in.root())) {
+        for (const vlk::ReadNote& note : full_.read(*in.root())) {
             if (note.what != vlk::ReadNote::What::value)
                 told << QString::number(static_cast<int>(note.what)) + ' ' + note.path;
         }
         QCOMPARE(told, QStringList({"1 TRANS/a", "3 TRANS/SRV1", "2 TRANS/SRV9", "1 TRANS/SRV1/colour"}));
-        QCOMPARE(configuration_.value("TRANS/SRV1/port"), QString("5000"));
+        QCOMPARE(full_.value("TRANS/SRV1/port"), QString("5000"));
     }
 
 private:
-    vlk::Configuration configuration_{vlk::allSettings()};
+    vlk::Configuration full_{vlk::allSettings()};
+    vlk::Configuration quick_{{&vlk::kQuickSettings}};
 };
 
 QTEST_GUILESS_MAIN(ConfigurationTest)

@@ -12,11 +12,13 @@ ChoiceAdapter::ChoiceAdapter(Binder& binder, int index, QComboBox* box) : Adapte
 {
     own(box);
     connect(box, qOverload<int>(&QComboBox::currentIndexChanged), this, [this] { take(); });
+    // Choosing an item once more fills in what belongs to it once more.
+    connect(box, qOverload<int>(&QComboBox::activated), this, [this] { take(); });
 }
 
 void ChoiceAdapter::dress()
 {
-    caption(box_, setting().captionKey);
+    caption(box_);
     const QSignalBlocker blocker(box_);
     box_->clear();
     const char* const offers = configuration().limits(index()).offers;
@@ -36,6 +38,11 @@ void ChoiceAdapter::take()
 {
     if (box_->currentIndex() >= 0 || setting().none)
         edited(held());
+}
+
+QString ChoiceAdapter::firstItem() const
+{
+    return box_->itemData(0).toString();
 }
 
 QString ChoiceAdapter::held() const
