@@ -193,13 +193,11 @@ void Configuration::writePart(const Part& part, CXmlSection& root) const
     for (const TableLayout::Group& group : layout.groups) {
         if (!holds(part, group.present))
             continue;
-        const QString& name = group.path.last();
         CXmlSectionPtr parent;
         for (int depth = 0; depth + 1 < group.path.size(); ++depth)
             parent = (parent ? *parent : *section).child(group.path[depth]);
-        const bool isThere = group.kept && (parent ? *parent : *section).find(name);
         const CXmlSectionPtr element =
-            (parent ? *parent : *section).child(name, isThere || group.nested ? 0 : 3);
+            (parent ? *parent : *section).child(group.path.last(), group.kept || group.nested ? 0 : 3);
         if (!group.kept)
             element->clear();
         for (int row = group.firstRow; row < group.endRow; ++row) {

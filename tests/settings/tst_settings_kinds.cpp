@@ -68,8 +68,7 @@ constexpr SettingsTable kTable{.section = "S",
                                .distances = kDistances,
                                .ranges = kRanges,
                                .presets = kPresets,
-                               .derived = kDerived,
-                               .masks = kMasks};
+                               .derived = kDerived};
 
 // Over two sections, of which a save empties the second.
 constexpr auto kWideRows =
@@ -252,38 +251,35 @@ private Q_SLOTS:
         QCOMPARE(given, QStringList("S/A/low 5700 5400"));
     }
 
-    // What stands in the document beside the rows stays where the group keeps it, and goes where it does not.
+    // What a document holds already stays where a group keeps it, and goes where one does not.
     void overSeveralSections_data()
     {
-        DataTable<QString, QString>({"before", "after"})
-            .row("empty", "", "<P mask=0000/><Q page=Q owner=1><C state=a><I ign=0/></C></Q>")
-            .row("kept, carried over", "<P mask=1111 other=1/><Q other=1><D/></Q>",
-                 "<P mask=0011 other=1/><Q page=Q owner=1><C state=a><I ign=0/></C></Q>")
-            .row("settles", "<Q><C state=b><I ign=0/></C></Q>",
-                 "<P mask=0000/><Q page=Q owner=1><C state=a><I ign=0/></C></Q>")
-            .row("element without its key", "<Q><C state=b><I/></C></Q>",
-                 "<P mask=0000/><Q page=Q owner=1><C state=b><I ign=1/></C></Q>")
-            .row("not offered", "<Q><C state=c/></Q>",
-                 "<P mask=0000/><Q page=Q owner=1><C state=a><I ign=0/></C></Q>")
-            .row("read and written under other conditions", "<Q owner=1><E use=1/></Q>",
-                 "<P mask=0100/><Q page=Q owner=1><C state=a><I ign=0/></C><E use=1/></Q>")
-            .row("not readable", "<Q owner=2><E use=1/></Q>",
-                 "<P mask=0000/><Q page=Q owner=2><C state=a><I ign=0/></C></Q>");
+        const QString unused = "<Q page=Q owner=1><C state=a><I ign=0/></C></Q>";
+        DataTable<QString, QString, QString>({"file", "over", "after"})
+            .row("nothing", "", "", "<P mask=0000></P>" + unused)
+            .row("kept, carried over", "", "<P mask='1111' other='1'/><Q other='1'/>",
+                 "<P mask=0011 other=1></P>" + unused)
+            .row("settles", "<Q><C state='b'><I ign='0'/></C></Q>", "", "<P mask=0000></P>" + unused)
+            .row("element without its key", "<Q><C state='b'><I a='1'/></C></Q>", "",
+                 "<P mask=0000></P><Q page=Q owner=1><C state=b><I ign=1/></C></Q>")
+            .row("not offered", "<Q><C state='c'/></Q>", "", "<P mask=0000></P>" + unused)
+            .row("read and written under other conditions", "<Q owner='1'><E use='1'/></Q>", "",
+                 "<P mask=0100></P><Q page=Q owner=1><C state=a><I ign=0/></C><E use=1/></Q>")
+            .row("not readable", "<Q owner='2'><E use='1'/></Q>", "",
+                 "<P mask=0000></P><Q page=Q owner=2><C state=a><I ign=0/></C></Q>");
     }
     void overSeveralSections()
     {
-        QFETCH(QString, before);
-        const auto quoted = [](QString text) {
-            return text.replace(QRegularExpression("=(\\w+)"), "=\"\\1\"");
-        };
+        QFETCH(QString, file);
+        QFETCH(QString, over);
         Configuration wide({&kWide});
         QCOMPARE(layoutOf(kWide).problems, QStringList());
-        XmlDocument document(QString("<DEVICE>%1</DEVICE>").arg(quoted(before)).toLatin1(), "DEVICE");
-        wide.read(*document.root());
-        wide.write(*document.root());
-        QString after = document.text();
-        after.remove(QRegularExpression("[\\n\"]|<\\?.*\\?>|</?DEVICE>"));
-        after.replace("></P>", "/>");
+        XmlDocument in(("<DEVICE>" + file + "</DEVICE>").toLatin1(), "DEVICE");
+        XmlDocument out(("<DEVICE>" + over + "</DEVICE>").toLatin1(), "DEVICE");
+        wide.read(*in.root());
+        wide.write(*out.root());
+        QString after = out.text();
+        after.remove(QRegularExpression("[\\n\\t\"]|<\\?.*\\?>|</?DEVICE>"));
         QTEST(after, "after");
     }
 

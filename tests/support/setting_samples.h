@@ -82,11 +82,14 @@ inline QByteArray readAndWritten(vlk::Configuration& configuration, const QByteA
 }
 
 // What becomes of a saved file that is loaded and saved once more: nothing. Only a line whose use is not
-// offered is saved as "N/A", and that reads as a line that is not used; and the quick window saves Bluetooth
-// without sensors as an empty section, which reads as two of them.
+// offered is saved as "N/A", and that reads as a line that is not used; and the quick window leaves out fuel
+// level sensors that are not used, while one that is not in the file reads as used.
 inline QByteArray savedAgain(vlk::Configuration& configuration, const QByteArray& saved)
 {
-    const bool readsOtherwise =
-        saved.contains("=\"N/A\"") || saved.contains("<BLUETOOTH page=\"BLUETOOTH\">\n</");
+    bool readsOtherwise = saved.contains("=\"N/A\"");
+    if (configuration.layout(0).section.isEmpty()) {
+        for (const char* sensor : {"<FS1 ", "<FS2 ", "<SENS3 ", "<SENS4 "})
+            readsOtherwise = readsOtherwise || !saved.contains(sensor);
+    }
     return readsOtherwise ? readAndWritten(configuration, saved) : saved;
 }
