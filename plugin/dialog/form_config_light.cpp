@@ -95,8 +95,9 @@ void VLK_Form_Config_Light::retranslate()
         button->setToolTip(name);
     }
     vlk::alignColumns({ui_->gridLayout_GSM_1, ui_->gridLayout_RSim_1, ui_->gridLayout_RConnectPeriod,
-                       ui_->gridLayout_Server, ui_->gridLayout_Psw},
-                      2);
+                       ui_->gridLayout_Server, ui_->gridLayout_Track_Param, ui_->gridLayout_Lines_In,
+                       ui_->gridLayout_Psw},
+                      4);
 }
 
 void VLK_Form_Config_Light::setDefaults()
