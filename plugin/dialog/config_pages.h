@@ -9,6 +9,7 @@
 // What only some pages have is found by its name; the concepts below list it. A page is added by its header
 // and a line in PageTuple.
 
+#include "dataset/form_config_zeta3.h"
 #include "pages/form_config_accel.h"
 #include "pages/form_config_lines_in.h"
 #include "pages/form_config_lines_out.h"
@@ -22,9 +23,9 @@
 
 namespace vlk {
 
-using PageTuple = std::tuple<VLK_Form_Config_Transfer*, VLK_Form_Config_Track*, VLK_Form_Config_System*,
-                             VLK_Form_Config_Sensors_Temp*, VLK_Form_Config_Lines_In*, VLK_Form_Config_Accel*,
-                             VLK_Form_Config_Lines_Out*>;
+using PageTuple = std::tuple<VLK_Form_Config_Transfer*, VLK_Form_Config_Zeta3*, VLK_Form_Config_Track*,
+                             VLK_Form_Config_System*, VLK_Form_Config_Sensors_Temp*,
+                             VLK_Form_Config_Lines_In*, VLK_Form_Config_Accel*, VLK_Form_Config_Lines_Out*>;
 
 // deviceConnected(), deviceDisconnected()
 template <class Page>

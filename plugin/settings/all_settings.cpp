@@ -1,6 +1,7 @@
 #include "settings/all_settings.h"
 
 #include "settings/accel_settings.h"
+#include "settings/data_set_settings.h"
 #include "settings/lines_in_settings.h"
 #include "settings/lines_out_settings.h"
 #include "settings/system_settings.h"
@@ -13,8 +14,8 @@ namespace vlk {
 const std::vector<const SettingsTable*>& allSettings()
 {
     static const std::vector<const SettingsTable*> tables = {
-        &kTransferSettings, &kTrackSettings, &kSystemSettings,  &kTemperatureSettings,
-        &kLinesInSettings,  &kAccelSettings, &kLinesOutSettings};
+        &kTransferSettings,    &kDataSetSettings, &kTrackSettings, &kSystemSettings,
+        &kTemperatureSettings, &kLinesInSettings, &kAccelSettings, &kLinesOutSettings};
     return tables;
 }
 

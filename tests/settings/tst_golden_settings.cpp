@@ -96,6 +96,8 @@ QStringList widgetsOf(const vlk::Setting& setting)
         add(part.widget);
     for (const vlk::Position& position : setting.positions)
         add(position.widget);
+    for (const vlk::MaskField& field : setting.fields)
+        names << vlk::numberedName(field.widget, field.number, 0);
     return names;
 }
 
@@ -110,6 +112,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QStringList>("files");
         QTest::newRow("TRANS") << QStringList{"transfer"};
+        QTest::newRow("PROTOCOL") << QStringList{"data_set"};
         QTest::newRow("TRACK") << QStringList{"track"};
         QTest::newRow("SYSTEM") << QStringList{"system"};
         QTest::newRow("SENSORS") << QStringList{"lines_in"};
