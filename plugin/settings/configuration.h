@@ -71,8 +71,9 @@ public:
     void reset();
     void reset(const SettingsTable& table);
     // `root` is the element DEVICE. A document that could not be read changes nothing.
-    std::vector<ReadNote> read(const CXmlSection& root);
-    std::vector<ReadNote> read(const CXmlSection& root, const SettingsTable& table);
+    // Whoever wants to know what it made of the document gives room for the notes.
+    void read(const CXmlSection& root, std::vector<ReadNote>* notes = nullptr);
+    void read(const CXmlSection& root, const SettingsTable& table, std::vector<ReadNote>* notes = nullptr);
     void write(CXmlSection& root) const;
     void write(CXmlSection& root, const SettingsTable& table) const;
 

@@ -8,19 +8,15 @@
 
 namespace vlk {
 
-std::vector<ReadNote> Configuration::read(const CXmlSection& root)
+void Configuration::read(const CXmlSection& root, std::vector<ReadNote>* notes)
 {
-    std::vector<ReadNote> notes;
     for (const Part& part : parts_)
-        readPart(part, root, &notes);
-    return notes;
+        readPart(part, root, notes);
 }
 
-std::vector<ReadNote> Configuration::read(const CXmlSection& root, const SettingsTable& table)
+void Configuration::read(const CXmlSection& root, const SettingsTable& table, std::vector<ReadNote>* notes)
 {
-    std::vector<ReadNote> notes;
-    readPart(partOf(table), root, &notes);
-    return notes;
+    readPart(partOf(table), root, notes);
 }
 
 namespace {
@@ -73,6 +69,28 @@ void noteStrangers(const CXmlSection& element, const QString& path, const QStrin
     }
 }
 
+void noteStrangersIn(const CXmlSection& section, const TableLayout& layout, std::vector<ReadNote>* notes)
+{
+    QStringList elements;
+    for (const TableLayout::Group& group : layout.groups)
+        elements << group.path.first();
+    noteStrangers(section, layout.section, {QStringLiteral("page")}, elements, notes);
+}
+
+void noteStrangersIn(const CXmlSection& element, const TableLayout& layout, const TableLayout::Group& group,
+                     std::vector<ReadNote>* notes)
+{
+    QStringList keys;
+    for (int row = group.firstRow; row < group.endRow; ++row)
+        keys << layout.rows[row].key;
+    QStringList inside;
+    for (const TableLayout::Group& other : layout.groups) {
+        if (other.path.size() == group.path.size() + 1 && other.path.mid(0, group.path.size()) == group.path)
+            inside << other.path.last();
+    }
+    noteStrangers(element, layout.prefix() + group.path.join(QLatin1Char('/')), keys, inside, notes);
+}
+
 } // namespace
 
 void Configuration::readPart(const Part& part, const CXmlSection& root, std::vector<ReadNote>* notes)
@@ -82,12 +100,9 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
     const CXmlSection* section = sectionOf(root, layout.section, owner);
     if (!section)
         return;
-    QStringList elements;
-    for (const TableLayout::Group& group : layout.groups)
-        elements << group.path.first();
     // What a save would keep belongs to somebody else.
-    if (layout.table->emptied)
-        noteStrangers(*section, layout.section, {QStringLiteral("page")}, elements, notes);
+    if (notes && layout.table->emptied)
+        noteStrangersIn(*section, layout, notes);
 
     // What lives in the window alone is not in the file: it starts anew, and links and rules fill it.
     for (std::size_t row = 0; row < layout.rows.size(); ++row) {
@@ -97,32 +112,23 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
             values_[index] = normalise(setting, loadDefault(setting), values_[index], limits(index)).value;
     }
     std::vector<ReadNote> taken;
+    std::vector<ReadNote>* const takes = notes ? &taken : nullptr;
     std::vector<std::pair<int, Element>> late;
     for (const TableLayout::Group& group : layout.groups) {
         if (!holds(part, group.readable))
             continue;
         const Element element = elementOf(*section, group.path);
-        QStringList keys;
         for (int row = group.firstRow; row < group.endRow; ++row) {
-            keys << layout.rows[row].key;
             if (layout.rows[row].setting->last)
                 late.emplace_back(row, elementOf(*section, group.path));
             else
-                readRow(part, row, *element.section, element.isThere, &taken);
+                readRow(part, row, *element.section, element.isThere, takes);
         }
-        if (group.kept)
-            continue;
-        QStringList inside;
-        for (const TableLayout::Group& other : layout.groups) {
-            if (other.path.size() == group.path.size() + 1 &&
-                other.path.mid(0, group.path.size()) == group.path)
-                inside << other.path.last();
-        }
-        noteStrangers(*element.section, layout.prefix() + group.path.join(QLatin1Char('/')), keys, inside,
-                      notes);
+        if (notes && !group.kept)
+            noteStrangersIn(*element.section, layout, group, notes);
     }
     for (const auto& [row, element] : late)
-        readRow(part, row, *element.section, element.isThere, &taken);
+        readRow(part, row, *element.section, element.isThere, takes);
     derive(part);
     keepBounds(part, nullptr);
     // A value may have found no room beside another, or what came later has moved it.
@@ -161,8 +167,9 @@ void Configuration::readRow(const Part& part, int row, const CXmlSection& elemen
         taken = {bound, bound == text ? Change::none : Change::byRule};
     }
     assign(part, place.target, taken.value, nullptr);
-    notes->push_back({ReadNote::What::value, place.path, part.first + row, found ? text : QString(),
-                      taken.value, found ? taken.change : Change::missing});
+    if (notes)
+        notes->push_back({ReadNote::What::value, place.path, part.first + row, found ? text : QString(),
+                          taken.value, found ? taken.change : Change::missing});
     pull(part, place.target, true, nullptr);
 }
 

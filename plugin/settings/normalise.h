@@ -30,6 +30,8 @@ struct Limits
     double least;
     double most;
     const char* offers = nullptr;
+
+    bool operator==(const Limits&) const = default;
 };
 
 struct Normalised

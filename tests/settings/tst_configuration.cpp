@@ -6,6 +6,8 @@
 
 #include <QtTest>
 
+using Values = QVector<QPair<QString, QString>>;
+
 class ConfigurationTest : public QObject
 {
     Q_OBJECT
@@ -13,64 +15,66 @@ class ConfigurationTest : public QObject
 private Q_SLOTS:
     void tablesAreSound()
     {
-        for (const vlk::SettingsTable* table : vlk::allSettings())
+        for (const vlk::SettingsTable* table : tables())
             QCOMPARE(vlk::layoutOf(*table).problems, QStringList());
-        QCOMPARE(vlk::layoutOf(vlk::kQuickSettings).problems, QStringList());
     }
 
     void everySample_data()
     {
-        QTest::addColumn<bool>("isQuick");
+        QTest::addColumn<int>("table");
         QTest::addColumn<int>("index");
-        for (int i = 0; i < full_.count(); ++i)
-            QTest::newRow(qPrintable(full_.path(i))) << false << i;
-        for (int i = 0; i < quick_.count(); ++i)
-            QTest::newRow(qPrintable("quick " + quick_.path(i))) << true << i;
+        for (std::size_t table = 0; table < tables().size(); ++table) {
+            const vlk::TableLayout& layout = vlk::layoutOf(*tables()[table]);
+            const QString kind = layout.section.isEmpty() ? "quick " : "";
+            for (std::size_t row = 0; row < layout.rows.size(); ++row)
+                QTest::newRow(qPrintable(kind + layout.rows[row].path))
+                    << static_cast<int>(table) << static_cast<int>(row);
+        }
     }
     // Whatever the file holds, what was saved is read as it was saved, and notes tell what became of it.
     void everySample()
     {
-        QFETCH(bool, isQuick);
+        QFETCH(int, table);
         QFETCH(int, index);
-        vlk::Configuration& configuration = isQuick ? quick_ : full_;
-        const vlk::TableLayout::Row& row = configuration.row(index);
-        for (const QString& sample : samplesOf(row.setting->kind == vlk::Kind::link
-                                                   ? configuration.setting(configuration.holder(index))
-                                                   : *row.setting)) {
-            QVector<QPair<QString, QString>> values = {{row.path, sample}};
-            const QByteArray first =
-                readAndWritten(configuration, documentWith(presenceOf(configuration, index) + values));
-            const QByteArray second = readAndWritten(configuration, first);
-            QCOMPARE(second, savedAgain(configuration, first));
-            QCOMPARE(readAndWritten(configuration, second), second);
+        // With the settings of its own table alone: others play no part.
+        if (table_.layout(0).table != tables()[table])
+            table_ = vlk::Configuration({tables()[table]});
+        const vlk::TableLayout::Row& row = table_.row(index);
+        for (const QString& sample : samplesOf(table_.setting(table_.holder(index)))) {
+            const QByteArray file = documentWith(presenceOf(table_, index) + Values{{row.path, sample}});
+            const QByteArray first = readAndWritten(table_, file);
+            const QByteArray second = readAndWritten(table_, first);
+            QCOMPARE(second, savedAgain(table_, first));
+            QCOMPARE(readAndWritten(table_, second), second);
 
-            configuration.reset();
-            vlk::XmlDocument in(documentWith(presenceOf(configuration, index) + values), "DEVICE");
-            const std::vector<vlk::ReadNote> notes = configuration.read(*in.root());
+            table_.reset();
+            vlk::XmlDocument in(file, "DEVICE");
+            const std::vector<vlk::ReadNote> notes = notesOf(table_, in);
             const bool noted = std::any_of(notes.begin(), notes.end(), [&](const vlk::ReadNote& note) {
                 return note.index == index && note.change != vlk::Change::missing;
             });
-            const bool taken = !row.setting->stored || configuration.value(index) == sample;
-            if (row.setting->kind != vlk::Kind::constant && configuration.isWritten(index))
-                QVERIFY2(noted != taken || configuration.written(index) != configuration.value(index),
-                         qPrintable(row.path + " = " + sample + " became " + configuration.value(index)));
+            const bool taken = !row.setting->stored || table_.value(index) == sample;
+            if (row.setting->kind != vlk::Kind::constant && table_.isWritten(index))
+                QVERIFY2(noted != taken || table_.written(index) != table_.value(index),
+                         qPrintable(row.path + " = " + sample + " became " + table_.value(index)));
         }
     }
 
     void emptyAndForeignFiles()
     {
-        for (vlk::Configuration* configuration : {&full_, &quick_}) {
+        for (vlk::Configuration configuration :
+             {configuration_, vlk::Configuration({&vlk::kQuickSettings})}) {
             for (const char* text : {"<DEVICE/>", "<DEVICE><TRANS/></DEVICE>", "<OTHER><TRANS/></OTHER>",
                                      "<DEVICE><TRANS><SRV1><SRV1 port=\"7\"/></SRV1></TRANS></DEVICE>"}) {
-                const QByteArray first = readAndWritten(*configuration, text);
-                QCOMPARE(readAndWritten(*configuration, first), first);
+                const QByteArray first = readAndWritten(configuration, text);
+                QCOMPARE(readAndWritten(configuration, first), first);
             }
-            configuration->reset();
-            const vlk::Configuration before = *configuration;
+            configuration.reset();
+            const vlk::Configuration before = configuration;
             for (const char* text : {"", "<DEVICE><TRANS>", "no document"}) {
                 vlk::XmlDocument in(QByteArray(text), "DEVICE");
-                QVERIFY(configuration->read(*in.root()).empty());
-                QVERIFY(configuration->differences(before).empty());
+                QVERIFY(notesOf(configuration, in).empty());
+                QVERIFY(configuration.differences(before).empty());
             }
         }
     }
@@ -82,17 +86,34 @@ private Q_SLOTS:
                        "<SRV1 port=\"6000\"/><SRV9/></TRANS></DEVICE>"),
             "DEVICE");
         QStringList told;
-        for (const vlk::ReadNote& note : full_.read(*in.root())) {
+        for (const vlk::ReadNote& note : notesOf(configuration_, in)) {
             if (note.what != vlk::ReadNote::What::value)
                 told << QString::number(static_cast<int>(note.what)) + ' ' + note.path;
         }
         QCOMPARE(told, QStringList({"1 TRANS/a", "3 TRANS/SRV1", "2 TRANS/SRV9", "1 TRANS/SRV1/colour"}));
-        QCOMPARE(full_.value("TRANS/SRV1/port"), QString("5000"));
+        QCOMPARE(configuration_.value("TRANS/SRV1/port"), QString("5000"));
     }
 
 private:
-    vlk::Configuration full_{vlk::allSettings()};
-    vlk::Configuration quick_{{&vlk::kQuickSettings}};
+    // Those of the full window's pages, and that of the quick window.
+    static const std::vector<const vlk::SettingsTable*>& tables()
+    {
+        static const auto all = [] {
+            auto tables = vlk::allSettings();
+            tables.push_back(&vlk::kQuickSettings);
+            return tables;
+        }();
+        return all;
+    }
+    static std::vector<vlk::ReadNote> notesOf(vlk::Configuration& configuration, vlk::XmlDocument& document)
+    {
+        std::vector<vlk::ReadNote> notes;
+        configuration.read(*document.root(), &notes);
+        return notes;
+    }
+
+    vlk::Configuration configuration_{vlk::allSettings()};
+    vlk::Configuration table_{{vlk::allSettings().front()}};
 };
 
 QTEST_GUILESS_MAIN(ConfigurationTest)

@@ -14,6 +14,7 @@
 #include <QPointer>
 #include <QStringList>
 
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -87,7 +88,18 @@ private:
         std::vector<const TableLayout::Enable*> rules;
     };
 
+    // What a widget was dressed with: rules may give it another range.
+    struct Range
+    {
+        Limits limits;
+        const char* unit;
+
+        bool operator==(const Range&) const = default;
+    };
+
     std::unique_ptr<Adapter> makeAdapter(int index);
+    Range rangeOf(int row) const;
+    void dressRanged(int row);
     void showRow(int row);
 
     Configuration& configuration_;
@@ -98,6 +110,7 @@ private:
     std::vector<std::unique_ptr<Adapter>> adapters_; // one a row, null where a row has no widget
     std::vector<std::unique_ptr<HandlesAdapter>> handles_;
     std::vector<Target> targets_;
+    std::map<int, Range> ranges_; // of the rows that rules give ranges
     QStringList problems_;
     int showing_ = 0;
 };
