@@ -84,7 +84,7 @@ private Q_SLOTS:
     void openedAnewItStandsOnTheFirstField()
     {
         QCOMPARE(window->focusWidget(), name());
-        port("page_Full")->setFocus();
+        portOf("page_Full")->setFocus();
         host_.open(configuration(QStringLiteral("One")));
         QCOMPARE(window->focusWidget(), name());
     }
@@ -242,11 +242,11 @@ private Q_SLOTS:
             QCOMPARE(shownPage(), agree ? QStringLiteral("page_Light") : QStringLiteral("page_Full"));
         }
         const QString own = writeFile(folder_.filePath("file.xml"), "<DEVICE>the user's own");
-        QCOMPARE(port("page_Light")->value(), port("page_Full")->value());
-        port("page_Light")->setValue(1234);
+        QCOMPARE(portOf("page_Light")->value(), portOf("page_Full")->value());
+        portOf("page_Light")->setValue(1234);
         press("pushButton_Light_ConfigFull");
         QCOMPARE(shownPage(), QStringLiteral("page_Full"));
-        QCOMPARE(port("page_Full")->value(), 1234);
+        QCOMPARE(portOf("page_Full")->value(), 1234);
         QCOMPARE(name()->text(), QStringLiteral("Kept"));
         QCOMPARE(readFile(own), QByteArray("<DEVICE>the user's own"));
         QVERIFY(QFile::remove(own));
@@ -291,7 +291,7 @@ private Q_SLOTS:
 
     void wheelAndEnterChangeNothing()
     {
-        auto* port = port("page_Full");
+        auto* port = portOf("page_Full");
         auto* key = child<QLineEdit>("lineEdit_Crypto");
         auto* group = child<QGroupBox>("GPRSSrv_groupBox_Main");
         group->setChecked(true);
@@ -335,7 +335,7 @@ private:
     QString shownPage() { return child<QStackedWidget>("stackedWidget")->currentWidget()->objectName(); }
     QLineEdit* name() { return child<QLineEdit>("lineEdit_Name"); }
     // Both windows have this box; what one holds the other takes over.
-    QSpinBox* port(const char* page) const
+    QSpinBox* portOf(const char* page) const
     {
         return child<QWidget>(page)->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main");
     }
