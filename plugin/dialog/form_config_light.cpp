@@ -111,6 +111,11 @@ void VLK_Form_Config_Light::focusFirstField()
     ui_->Transfer_comboBox_GSM_Operator_1->setFocus();
 }
 
+QWidget* VLK_Form_Config_Light::lastField() const
+{
+    return ui_->pushButton_Wnd_Help_Psw;
+}
+
 void VLK_Form_Config_Light::slot_currentStrIndexChanged_Operator1(const QString& label)
 {
     for (const vlk::Code& code : vlk::kOperatorCodes) {

@@ -38,6 +38,8 @@ public:
     void saveToXml(CXmlSection* root) { settings_.save(root); }
     vlk::PageSettings& settings() { return settings_; }
     void focusFirstField();
+    // Where the order of focus leaves the form.
+    QWidget* lastField() const;
 
 public Q_SLOTS:
     void slot_currentStrIndexChanged_Operator1(const QString& label);

@@ -52,7 +52,13 @@ VLK_Form_Config_Light& VLK_Widget_Config_Light::form()
         area->setFrameShape(QFrame::NoFrame);
         area->setWidget(form_);
         ui_->gridLayout_Form->addWidget(area);
-        setTabOrder(area, ui_->pushButton_Light_LoadToDevice);
+        // Behind the form the buttons, as read.
+        QWidget* before = form_->lastField();
+        for (QWidget* button : {ui_->pushButton_Light_LoadToDevice, ui_->pushButton_Light_SaveToFile,
+                                ui_->pushButton_Light_ConfigFull, ui_->pushButton_Light_Close}) {
+            setTabOrder(before, button);
+            before = button;
+        }
     }
     return *form_;
 }
