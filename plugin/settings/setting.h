@@ -164,20 +164,18 @@ struct Setting
     // Else the key is neither read nor written. Of a group both have to hold.
     When present{};
     When presentToo{};
-    bool readOtherwise =
-        false; // of a group: it is read while these two hold, whatever says when it is written
+    bool readOtherwise = false; // of a group: read while the next two hold, whenever it is written
     When readable{};
     When readableToo{};
     When free{}; // else `otherwise` is written
     const char* otherwise = "";
     bool boundOnRead = false; // and is what a read gives
 
-    bool last = false;    // read after all others
-    bool kept = false;    // of a group: an element that is there keeps what else it holds
-    bool stays = false;   // a file without the key leaves the value as it stands
-    bool carried = false; // a save starts from what the document holds under the key, if it does
-    double unlessThere =
-        -1; // what the value counts as where the file lacks the whole element; -1: its default
+    bool last = false;       // read after all others
+    bool kept = false;       // of a group: an element that is there keeps what else it holds
+    bool stays = false;      // a file without the key leaves the value as it stands
+    bool carried = false;    // a save starts from what the document holds under the key, if it does
+    double unlessThere = -1; // default where the file lacks the whole element; -1: the same
 
     std::uint8_t number = 0;
     std::uint8_t inner = 0;

@@ -12,8 +12,6 @@ ChoiceAdapter::ChoiceAdapter(Binder& binder, int index, QComboBox* box) : Adapte
 {
     own(box);
     connect(box, qOverload<int>(&QComboBox::currentIndexChanged), this, [this] { take(); });
-    // Choosing an item once more fills in what belongs to it once more.
-    connect(box, qOverload<int>(&QComboBox::activated), this, [this] { take(); });
 }
 
 void ChoiceAdapter::dress()
