@@ -61,11 +61,12 @@ struct Wireless
     const char* address;
     const char* name;
     const char* index;
+    const char* caption; // columns have a heading; the name for screen readers tells the sensor too
 };
 
 inline constexpr Wireless kWireless[] = {
-    {3, kThirdSensor, "comboBox_BT_Type_1", "lineEdit_BT_Mac_1", "lineEdit_BT_Name_1", "3"},
-    {4, kFourthSensor, "comboBox_BT_Type_2", "lineEdit_BT_Mac_2", "lineEdit_BT_Name_2", "4"},
+    {3, kThirdSensor, "comboBox_BT_Type_1", "lineEdit_BT_Mac_1", "lineEdit_BT_Name_1", "3", "%1 3"},
+    {4, kFourthSensor, "comboBox_BT_Type_2", "lineEdit_BT_Mac_2", "lineEdit_BT_Name_2", "4", "%1 4"},
 };
 
 constexpr auto wirelessChoice(const Wireless& sensor)
@@ -87,8 +88,8 @@ constexpr auto wirelessRows(const Wireless& sensor)
                    .masked("HH:HH:HH:HH:HH:HH")
                    .onlyWhen(checked)
                    .in(sensor.address)
-                   .caption("cfgwl_034"),
-               text("name", "").onlyWhen(checked).in(sensor.name).caption("cfgwl_035"),
+                   .caption("cfgwl_034", sensor.caption),
+               text("name", "").onlyWhen(checked).in(sensor.name).caption("cfgwl_035", sensor.caption),
 
                group("BLUETOOTH/FS%1").onlyWhen(inUse, checked).readWhen(switchedOn, forSensors),
                choice("type", kSensorTypes, "1")
@@ -96,7 +97,7 @@ constexpr auto wirelessRows(const Wireless& sensor)
                    .resetTo("0")
                    .onlyWhen(checked)
                    .in(sensor.type)
-                   .caption("cfgwl_033"),
+                   .caption("cfgwl_033", sensor.caption),
                constant("idx", sensor.index), constant("thld", "50"), constant("thldOff", "0")),
         sensor.number);
 }
