@@ -9,6 +9,8 @@
 #include <QRadioButton>
 #include <QSpinBox>
 
+namespace vlk {
+
 namespace {
 
 constexpr int kPort = 7001;
@@ -62,13 +64,11 @@ void switchToFull(Tour& tour)
     tour.waitFor([] { return Tour::findVisible("lineEdit_Name"); }, QStringLiteral("the full window"));
     Tour::expect(Tour::find<QSpinBox>("GPRSSrv_spinBox_Port_Main")->value() == kPort,
                  QStringLiteral("the full window did not take the port over"));
-    tour.window().session().link().send(vlk::Message::CloseWindows);
+    tour.window().session().link().send(Message::CloseWindows);
     tour.waitFor([] { return !Tour::findVisible("lineEdit_Name"); }, QStringLiteral("the end of the window"));
 }
 
 } // namespace
-
-namespace vlk {
 
 std::vector<Tour::Step> quickTour()
 {
