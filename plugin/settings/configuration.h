@@ -63,7 +63,7 @@ public:
     QString value(const QString& path) const { return value(indexOf(path)); }
     // Whether a file of this state has the key, and what it holds there.
     bool isWritten(int index) const;
-    QString written(int index) const;
+    QString written(int index) const { return written(index, value(index)); }
     // Range in units of the widget, and unit, as the rules have them now.
     Limits limits(int index) const;
     const char* unitKey(int index) const;
@@ -101,10 +101,14 @@ private:
     const Part& partOf(int index) const;
     const Part& partOf(const SettingsTable& table) const;
     bool holds(const Part& part, const TableLayout::Condition& condition) const;
+    bool holds(const Part& part, const std::vector<TableLayout::Condition>& all) const;
+    QString written(int index, const QString& value) const;
     double gapOf(const Part& part, const TableLayout::Distance& rule) const;
     void resetPart(const Part& part);
     void readPart(const Part& part, const CXmlSection& root, std::vector<ReadNote>* notes);
-    void readRow(const Part& part, int row, const CXmlSection& element, std::vector<ReadNote>* notes);
+    // `isThere`: the file has the element.
+    void readRow(const Part& part, int row, const CXmlSection& element, bool isThere,
+                 std::vector<ReadNote>* notes);
     void writePart(const Part& part, CXmlSection& root) const;
 
     void put(int index, const QString& value, std::vector<int>* changed);
@@ -114,6 +118,7 @@ private:
     void change(const Part& part, int row, const QString& text, std::vector<int>* changed);
     void pull(const Part& part, int row, bool onRead, std::vector<int>* changed);
     void derive(const Part& part);
+    void settle(const Part& part, const TableLayout::Presets& presets);
 
     std::vector<Part> parts_;
     std::vector<int> partOfIndex_;

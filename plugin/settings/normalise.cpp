@@ -171,6 +171,39 @@ Normalised maskString(const Setting& setting, const QString& text, const QString
     return noted(held, text, why);
 }
 
+// What a line edit with an input mask makes of a text: digits fill the places of the mask, one of its signs
+// goes on behind that sign, and what fits nowhere is dropped. Places left empty hold nothing.
+Normalised maskedText(const Setting& setting, const QString& text)
+{
+    const QString mask = QString::fromLatin1(setting.inputMask);
+    constexpr QChar place('H');
+    const auto isDigit = [](QChar sign) {
+        return sign.isNumber() || (sign >= QLatin1Char('a') && sign <= QLatin1Char('f')) ||
+               (sign >= QLatin1Char('A') && sign <= QLatin1Char('F'));
+    };
+    QString held;
+    int at = 0;
+    for (int i = 0; i < text.size() && at < mask.size();) {
+        if (mask[at] != place) {
+            held += mask[at];
+            if (text[i] == mask[at++])
+                ++i;
+        } else if (isDigit(text[i])) {
+            held += text[i++];
+            ++at;
+        } else {
+            const int sign = text[i] == place ? -1 : mask.indexOf(text[i], at);
+            if (sign >= 0) {
+                held += mask.mid(at, sign + 1 - at).remove(place);
+                at = sign + 1;
+            }
+            ++i;
+        }
+    }
+    held += mask.mid(at).remove(place);
+    return noted(held, text, Change::otherForm);
+}
+
 QString defaultText(const Setting& setting, double number, const DefaultText& text)
 {
     if (!text.format)
@@ -223,6 +256,8 @@ Normalised normalise(const Setting& setting, const QString& text, const QString&
             return {text, Change::none};
         return number(setting, text, limits);
     case Kind::text:
+        if (setting.inputMask)
+            return maskedText(setting, text);
         return setting.maxLength > 0 && text.size() > setting.maxLength
                    ? Normalised{text.left(setting.maxLength), Change::tooLong}
                    : Normalised{text, Change::none};

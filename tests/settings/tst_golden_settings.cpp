@@ -3,6 +3,7 @@
 
 #include "settings/all_settings.h"
 #include "settings/normalise.h"
+#include "settings/quick_settings.h"
 #include "settings/user_param_settings.h"
 #include "support/files.h"
 #include "support/setting_samples.h"
@@ -124,12 +125,16 @@ private Q_SLOTS:
         QTest::newRow("TEMPSENS") << QStringList{"temperature"};
         QTest::newRow("ACCEL") << QStringList{"accel"};
         QTest::newRow("OUTPUTS") << QStringList{"lines_out"};
+        QTest::newRow("") << QStringList{"quick"};
     }
     void pages()
     {
         QFETCH(QStringList, files);
         const QString section = QTest::currentDataTag();
-        const auto& tables = vlk::allSettings();
+        auto tables = vlk::allSettings();
+        if (section.isEmpty())
+            tables = {&vlk::kQuickSettings};
+        configuration_ = vlk::Configuration(tables);
         const auto table = std::find_if(tables.begin(), tables.end(),
                                         [&](const auto* known) { return known->section == section; });
         QVERIFY2(table != tables.end(), "no rows of this section");
@@ -153,7 +158,9 @@ private Q_SLOTS:
         }
         QStringList rows;
         for (const auto& row : vlk::layoutOf(**table).rows) {
-            if (row.setting->stored)
+            // The quick window's list of access points has the rows of the full one's.
+            const bool isKnown = section.isEmpty() && row.path.contains("/AUTOAPN/");
+            if (row.setting->stored && row.key != "page" && !isKnown)
                 rows << row.path;
         }
         for (const QString& path : rows) {
@@ -269,22 +276,18 @@ private:
         case vlk::Kind::real: {
             // Two values that keep a distance share the scale of their handles.
             vlk::Limits ends{row.least, row.most};
-            for (const vlk::SettingsTable* table : vlk::allSettings()) {
-                const vlk::TableLayout& layout = vlk::layoutOf(*table);
-                const int first = configuration_.firstOf(*table);
-                for (const auto& rule : layout.distances) {
-                    if (first + rule.first == index || first + rule.second == index)
-                        ends = {layout.rows[rule.first].setting->least,
-                                layout.rows[rule.second].setting->most};
-                }
+            const vlk::TableLayout& layout = configuration_.layout(index);
+            const int first = configuration_.firstOf(*layout.table);
+            for (const auto& rule : layout.distances) {
+                if (first + rule.first == index || first + rule.second == index)
+                    ends = {layout.rows[rule.first].setting->least, layout.rows[rule.second].setting->most};
             }
             // The range that holds where the element of the key is.
-            const vlk::TableLayout& layout = configuration_.layout(index);
             const vlk::TableLayout::Row& place = configuration_.row(index);
             for (const auto& rule : layout.ranges) {
                 const auto& present = layout.groups[place.group].present;
-                if (rule.row == place.target && rule.when.row == present.row &&
-                    rule.when.codes == present.codes)
+                if (rule.row == place.target && !present.empty() && rule.when.row == present[0].row &&
+                    rule.when.codes == present[0].codes)
                     ends = {rule.rule->least, rule.rule->most};
             }
             const double factor = row.factor;

@@ -66,7 +66,7 @@ void PageSettings::retranslate()
 
 int PageSettings::indexOf(const char* path) const
 {
-    return configuration_.indexOf(QLatin1String(table_.section) + QLatin1Char('/') + QLatin1String(path));
+    return configuration_.indexOf(layoutOf(table_).prefix() + QLatin1String(path));
 }
 
 QString PageSettings::value(const char* path) const
