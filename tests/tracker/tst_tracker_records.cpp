@@ -278,6 +278,48 @@ private Q_SLOTS:
         QCOMPARE(bench.ask(Message::RequestCurrentRecord).first.size(), vlk::shortestCurrentRecord);
     }
 
+    // What the serial line's owner and its settings put into the fields of its devices.
+    void devicesOnTheLine_data()
+    {
+        DataTable<QByteArray, QString>({"settings", "filled"})
+            .row("nothing", "<OPTIONS owner1=\"\"/>", "")
+            .row("sensors by their addresses",
+                 "<OPTIONS owner1=\"FLDS\"/><FS2 use=\"1\" address=\"1\"/><FS3 use=\"1\" address=\"99\"/>"
+                 "<FS9 use=\"1\" address=\"1\"/><FS1 use=\"0\" address=\"1\"/>",
+                 "LevelRS485_2 LevelRS485_9")
+            .row("tyres", "<OPTIONS owner1=\"TPMS\"/><FS1 use=\"1\" address=\"1\"/>", "TiresPres1")
+            .row("refrigerator", "<OPTIONS owner1=\"REFR\"/>", "RefrTension")
+            .row("tachograph", "<OPTIONS owner1=\"TACH\"/>", "TahoOdometer")
+            .row("counters", "<OPTIONS owner1=\"PCNT\"/><PCNT type=\"PP01\" id2=\"7\"/>", "Passager_2");
+    }
+    void devicesOnTheLine()
+    {
+        QFETCH(QByteArray, settings);
+        BenchTracker bench;
+        QVERIFY(bench.write("<DEVICE model=\"R-7106\"><RS485>" + settings + "</RS485></DEVICE>").accepted);
+        bench.now += 60;
+        bench.tracker->setFullDataSet(true);
+        const QByteArray record =
+            bench.ask(Message::RequestCurrentRecord).first.mid(vlk::currentRecordHeader);
+        QStringList filled;
+        const auto look = [&](const char* name, unsigned none) {
+            const auto index = *vlk::findElement(name);
+            unsigned told = value<quint32>(record, index);
+            if (vlk::kElements[index].width < 4)
+                told &= (1U << (8 * vlk::kElements[index].width)) - 1;
+            if (told != none)
+                filled << name;
+        };
+        for (const char* name :
+             {"LevelRS485_1", "LevelRS485_2", "LevelRS485_3", "LevelRS485_9", "TiresPres1"})
+            look(name, 0);
+        look("RefrTension", 0xFFFF);
+        look("TahoOdometer", 0xFFFFFFFF);
+        look("Passager_1", 255);
+        look("Passager_2", 255);
+        QTEST(filled.join(' '), "filled");
+    }
+
     void everyRequestHasItsHeader_data()
     {
         DataTable<int, int, int>({"request", "answer", "header"})
