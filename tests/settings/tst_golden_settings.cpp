@@ -208,7 +208,7 @@ private:
         const QString reset = key.reset == "=" ? key.load : key.reset;
         // A form that is not on show is reset too.
         const bool hidden =
-            configuration_.layout(index).groups[configuration_.row(index).group].present.row >= 0 &&
+            !configuration_.layout(index).groups[configuration_.row(index).group].present.empty() &&
             reset != "absent";
         const bool written = hidden || configuration_.isWritten(index);
         if (key.reset == "-")
