@@ -74,17 +74,25 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
         if (!setting.stored)
             values_[index] = normalise(setting, loadDefault(setting), values_[index], limits(index)).value;
     }
+    readGroups(part, *section, -1, notes);
+}
+
+// Of all groups, or of those that are there for the sake of the row `owner`.
+void Configuration::readGroups(const Part& part, const CXmlSection& section, int owner,
+                               std::vector<ReadNote>* notes)
+{
+    const TableLayout& layout = *part.layout;
     std::vector<ReadNote> taken;
     std::vector<std::pair<int, CXmlSectionPtr>> late;
     for (const TableLayout::Group& group : layout.groups) {
-        if (!holds(part, group.present))
+        if ((owner >= 0 && group.present.row != owner) || !holds(part, group.present))
             continue;
-        const CXmlSectionPtr element = elementOf(*section, group.path);
+        const CXmlSectionPtr element = elementOf(section, group.path);
         QStringList keys;
         for (int row = group.firstRow; row < group.endRow; ++row) {
             keys << layout.rows[row].key;
             if (layout.rows[row].setting->last)
-                late.emplace_back(row, elementOf(*section, group.path));
+                late.emplace_back(row, elementOf(section, group.path));
             else
                 readRow(part, row, *element, &taken);
         }
@@ -131,10 +139,32 @@ void Configuration::readRow(const Part& part, int row, const CXmlSection& elemen
         const QString bound = QString::fromLatin1(setting.otherwise);
         taken = {bound, bound == text ? Change::none : Change::byRule};
     }
+    const QString before = values_[index];
     assign(part, place.target, taken.value, nullptr);
-    notes->push_back({ReadNote::What::value, place.path, part.first + row, found ? text : QString(),
+    notes->push_back({ReadNote::What::value, place.filePath, part.first + row, found ? text : QString(),
                       taken.value, found ? taken.change : Change::missing});
-    pull(part, place.target, true, nullptr);
+    pull(part, place.target, true, before, nullptr);
+}
+
+std::vector<ReadNote> Configuration::readUnder(const CXmlSection& section, const SettingsTable& table,
+                                               const QString& owner, const QString& code)
+{
+    const Part& part = partOf(table);
+    const int index = indexOf(owner);
+    std::vector<ReadNote> notes;
+    const QString present = std::exchange(values_[index], code);
+    readGroups(part, section, index - part.first, &notes);
+    values_[index] = present;
+    return notes;
+}
+
+void Configuration::writeUnder(CXmlSection& section, const SettingsTable& table, const QString& owner,
+                               const QString& code) const
+{
+    const Part& part = partOf(table);
+    Configuration assumed = *this;
+    assumed.values_[indexOf(owner)] = code;
+    assumed.writeGroups(part, section, indexOf(owner) - part.first);
 }
 
 void Configuration::write(CXmlSection& root) const
@@ -158,19 +188,27 @@ void Configuration::writePart(const Part& part, CXmlSection& root) const
         section->clear();
     section->setString(QStringLiteral("page"), layout.section);
     section->commit();
+    writeGroups(part, *section, -1);
+}
+
+void Configuration::writeGroups(const Part& part, CXmlSection& section, int owner) const
+{
+    const TableLayout& layout = *part.layout;
     for (const TableLayout::Group& group : layout.groups) {
-        if (!holds(part, group.present))
+        if ((owner >= 0 && group.present.row != owner) || !holds(part, group.present) ||
+            !isWritten(part, group))
             continue;
         CXmlSectionPtr parent;
         for (int depth = 0; depth + 1 < group.path.size(); ++depth)
-            parent = (parent ? *parent : *section).child(group.path[depth]);
+            parent = (parent ? *parent : section).child(group.path[depth]);
         const CXmlSectionPtr element =
-            (parent ? *parent : *section).child(group.path.last(), group.kept || group.nested ? 0 : 3);
+            (parent ? *parent : section).child(group.path.last(), group.kept || group.nested ? 0 : 3);
         if (!group.kept)
             element->clear();
         for (int row = group.firstRow; row < group.endRow; ++row) {
             const int index = part.first + row;
-            if (isWritten(index))
+            const TableLayout::Row& place = layout.rows[row];
+            if (place.setting->stored && holds(part, place.present))
                 element->setString(layout.rows[row].key, written(index));
         }
         element->commit();
