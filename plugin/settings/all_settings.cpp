@@ -1,6 +1,7 @@
 #include "settings/all_settings.h"
 
 #include "settings/accel_settings.h"
+#include "settings/bluetooth_settings.h"
 #include "settings/lines_in_settings.h"
 #include "settings/lines_out_settings.h"
 #include "settings/system_settings.h"
@@ -14,7 +15,7 @@ const std::vector<const SettingsTable*>& allSettings()
 {
     static const std::vector<const SettingsTable*> tables = {
         &kTransferSettings, &kTrackSettings, &kSystemSettings,  &kTemperatureSettings,
-        &kLinesInSettings,  &kAccelSettings, &kLinesOutSettings};
+        &kLinesInSettings,  &kAccelSettings, &kLinesOutSettings, &kBluetoothSettings};
     return tables;
 }
 

@@ -184,8 +184,10 @@ void Configuration::resetPart(const Part& part)
         if (setting.resets == Setting::Reset::keeps || setting.kind == Kind::link)
             continue;
         const int index = part.first + row;
-        values_[index] =
-            normalise(setting, resetValue(setting), values_[index], ownLimits(part, row)).value;
+        const QString reset = resetValue(setting);
+        values_[index] = setting.none && reset == QLatin1String(setting.none)
+                             ? reset
+                             : normalise(setting, reset, values_[index], ownLimits(part, row)).value;
     }
     for (const TableLayout::SoleList& list : part.layout->soleLists)
         keepSoles(part, list, nullptr);

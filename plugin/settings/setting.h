@@ -77,6 +77,7 @@ struct Code
     const char* code;       // what the file holds
     const char* label = ""; // text or translation key
     const char* format = "%1";
+    const char* second = nullptr; // translation key for %2 of the format
     const char* widget = nullptr; // of a choice over several boxes: the one of this value
     // How the file may spell it: '1' a digit other than 0, '0' anything else, '*' whatever.
     const char* pattern = nullptr;

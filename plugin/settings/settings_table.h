@@ -91,10 +91,12 @@ constexpr void check(const Setting& row)
         if (!inRange(row, row.loadNumber) || (own && !row.resetText.format && !inRange(row, row.resetNumber)))
             throw "a default is outside its range";
     }
-    const bool emptyList = row.none && same(row.loadText.format, row.none);
+    const auto isChoice = [&](const char* code) {
+        return knownCode(row, code) || (row.none && same(row.none, code));
+    };
     if (row.kind == Kind::choice &&
-        ((!emptyList && !knownCode(row, row.loadText.format)) || (own && !knownCode(row, row.resetText.format)) ||
-         (row.fallback && !knownCode(row, row.fallback) && !same(row.fallback, row.none))))
+        (!isChoice(row.loadText.format) || (own && !isChoice(row.resetText.format)) ||
+         (row.fallback && !isChoice(row.fallback))))
         throw "a default is none of the choices";
     if (row.kind == Kind::digits && std::string_view(row.loadText.format).size() > row.positions.size())
         throw "a default has more digits than there are positions";

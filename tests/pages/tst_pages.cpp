@@ -48,7 +48,7 @@ private Q_SLOTS:
         QVector<QPair<QString, QString>> values;
         for (int i = 0; i < configuration_.count(); ++i) {
             const QStringList samples = samplesOf(configuration_.setting(configuration_.holder(i)));
-            values.append({configuration_.path(i), samples.at((round + 7 * i) % samples.size())});
+            values.append({configuration_.row(i).filePath, samples.at((round + 7 * i) % samples.size())});
         }
         const QByteArray file = documentWith(values);
         const QByteArray expected = readAndWritten(configuration_, file);
@@ -64,7 +64,7 @@ private Q_SLOTS:
         const vlk::Configuration fresh = stateOf(saved());
         QVector<QPair<QString, QString>> values;
         for (int i = 0; i < configuration_.count(); ++i)
-            values.append({configuration_.path(i), samplesOf(configuration_.setting(i)).last()});
+            values.append({configuration_.row(i).filePath, samplesOf(configuration_.setting(i)).last()});
         throughTheWindow(documentWith(values));
         window_->setDefaults();
         for (const vlk::Difference& difference : fresh.differences(stateOf(saved())))

@@ -30,7 +30,7 @@ private Q_SLOTS:
         for (const QString& sample : samplesOf(row.setting->kind == vlk::Kind::link
                                                    ? configuration_.setting(configuration_.holder(index))
                                                    : *row.setting)) {
-            QVector<QPair<QString, QString>> values = {{row.path, sample}};
+            QVector<QPair<QString, QString>> values = {{row.filePath, sample}};
             const QByteArray first =
                 readAndWritten(configuration_, documentWith(presenceOf(configuration_, index) + values));
             const QByteArray second = readAndWritten(configuration_, first);

@@ -116,6 +116,8 @@ private Q_SLOTS:
         QTest::newRow("TEMPSENS") << QStringList{"temperature"};
         QTest::newRow("ACCEL") << QStringList{"accel"};
         QTest::newRow("OUTPUTS") << QStringList{"lines_out"};
+        QTest::newRow("BLUETOOTH") << QStringList{"bluetooth", "bt_fls", "bt_temp", "bt_ain", "bt_hs",
+                                                  "bt_as",     "bt_axs", "bt_fw",   "bt_us",  "bt_universal"};
     }
     void pages()
     {

@@ -63,7 +63,7 @@ inline QVector<QPair<QString, QString>> presenceOf(const vlk::Configuration& con
     QVector<QPair<QString, QString>> values;
     for (const auto* condition : {&layout.groups[row.group].present, &row.present}) {
         if (condition->row >= 0 && !condition->negated)
-            values.append({layout.rows[condition->row].path, condition->codes.value(0, "1")});
+            values.append({layout.rows[condition->row].filePath, condition->codes.value(0, "1")});
     }
     return values;
 }

@@ -199,8 +199,18 @@ void Binder::show()
                 adapters_[rule.row]->dress();
             showRow(rule.row);
         }
+        for (const TableLayout::SoleList& list : layout_.soleLists)
+            dressList(list);
     }
     evaluateRules();
+}
+
+void Binder::dressList(const TableLayout::SoleList& list)
+{
+    for (const TableLayout::Sole& sole : list.soles) {
+        if (adapters_[sole.row])
+            adapters_[sole.row]->dress();
+    }
 }
 
 void Binder::showRow(int row)
@@ -241,6 +251,11 @@ void Binder::edited(int index, const QString& value)
             if (adapters_[rule.row])
                 adapters_[rule.row]->dress();
             showRow(rule.row);
+        }
+        for (const TableLayout::SoleList& list : layout_.soleLists) {
+            if (std::any_of(changed.begin(), changed.end(),
+                            [&](int other) { return list.triggers[other - first_]; }))
+                dressList(list);
         }
         for (const int other : changed) {
             if (other != index)

@@ -89,6 +89,8 @@ private:
 
     std::unique_ptr<Adapter> makeAdapter(int index);
     void showRow(int row);
+    // Settings that share a list: what one holds is not in the lists of the others.
+    void dressList(const TableLayout::SoleList& list);
 
     Configuration& configuration_;
     const SettingsTable& table_;
