@@ -4,6 +4,7 @@
 #include "settings/bluetooth_settings.h"
 #include "settings/lines_in_settings.h"
 #include "settings/lines_out_settings.h"
+#include "settings/rs_settings.h"
 #include "settings/system_settings.h"
 #include "settings/temperature_settings.h"
 #include "settings/track_settings.h"
@@ -14,8 +15,9 @@ namespace vlk {
 const std::vector<const SettingsTable*>& allSettings()
 {
     static const std::vector<const SettingsTable*> tables = {
-        &kTransferSettings, &kTrackSettings, &kSystemSettings,  &kTemperatureSettings,
-        &kLinesInSettings,  &kAccelSettings, &kLinesOutSettings, &kBluetoothSettings};
+        &kTransferSettings,    &kTrackSettings,   &kSystemSettings, &kRsSettings,
+        &kTemperatureSettings, &kLinesInSettings, &kAccelSettings,  &kLinesOutSettings,
+        &kBluetoothSettings};
     return tables;
 }
 

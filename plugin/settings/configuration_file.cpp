@@ -63,15 +63,19 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
     if (!section)
         return;
     QStringList elements;
-    for (const TableLayout::Group& group : layout.groups)
-        elements << group.path.first();
+    for (const TableLayout::Group& group : layout.groups) {
+        if (group.stored)
+            elements << group.path.first();
+    }
     noteStrangers(*section, layout.section, {QStringLiteral("page")}, elements, notes);
 
-    // What lives in the window alone is not in the file: it starts anew, and links and rules fill it.
+    // What lives in the window alone is not in the file: beside values that are, it starts anew, and links
+    // and rules fill it; a group of its own is left as it stands.
     for (std::size_t row = 0; row < layout.rows.size(); ++row) {
-        const Setting& setting = *layout.rows[row].setting;
+        const TableLayout::Row& place = layout.rows[row];
+        const Setting& setting = *place.setting;
         const int index = part.first + static_cast<int>(row);
-        if (!setting.stored)
+        if (!setting.stored && (place.group < 0 || layout.groups[place.group].stored))
             values_[index] = normalise(setting, loadDefault(setting), values_[index], limits(index)).value;
     }
     readGroups(part, *section, -1, notes);
@@ -85,7 +89,7 @@ void Configuration::readGroups(const Part& part, const CXmlSection& section, int
     std::vector<ReadNote> taken;
     std::vector<std::pair<int, CXmlSectionPtr>> late;
     for (const TableLayout::Group& group : layout.groups) {
-        if ((owner >= 0 && group.present.row != owner) || !holds(part, group.present))
+        if (!group.stored || (owner >= 0 && group.present.row != owner) || !holds(part, group.present))
             continue;
         const CXmlSectionPtr element = elementOf(section, group.path);
         QStringList keys;
@@ -195,7 +199,7 @@ void Configuration::writeGroups(const Part& part, CXmlSection& section, int owne
 {
     const TableLayout& layout = *part.layout;
     for (const TableLayout::Group& group : layout.groups) {
-        if ((owner >= 0 && group.present.row != owner) || !holds(part, group.present) ||
+        if (!group.stored || (owner >= 0 && group.present.row != owner) || !holds(part, group.present) ||
             !isWritten(part, group))
             continue;
         CXmlSectionPtr parent;

@@ -59,7 +59,7 @@ void Configuration::pull(const Part& part, int row, bool onRead, const QString& 
     };
     for (const TableLayout::Pull& rule : part.layout->pulls) {
         if (rule.when.row == row && (rule.onRead || !onRead) && holds(part, rule.when) &&
-            !heldBefore(rule))
+            holds(part, rule.also) && !heldBefore(rule))
             change(part, rule.set, rule.to, changed ? changed : &local);
     }
 }

@@ -12,7 +12,8 @@
 namespace vlk {
 
 // An edit that makes `when` hold sets another setting. `onRead`: a read does so too, as soon as it has read
-// the path of `when`. `onset`: an edit only where `when` did not hold before it.
+// the path of `when`. All of it only while `also` holds; `onset`: an edit only where `when` did not hold before
+// it.
 struct Pull
 {
     When when;
@@ -20,6 +21,7 @@ struct Pull
     const char* to = "";
     bool onRead = false;
     bool onset = false;
+    When also{};
     std::uint8_t number = 0;
     std::uint8_t inner = 0;
 };

@@ -14,7 +14,9 @@
 // `factor` says what one of them is in the file. Captions, units and labels are translation keys.
 //
 // In a repeated row (repeat() in settings_table.h) every name may hold %1, the number of the repetition, and
-// %2, the number of a repetition inside it.
+// %2, the number of a repetition inside it; the text of a caption may hold %1 too. Object names may tell a
+// form of the page that is made later, or that has widgets of the same names as another one:
+// "TACH/comboBox_Type".
 
 #include <cstdint>
 #include <limits>
@@ -100,7 +102,8 @@ struct Position
 {
     const char* widget = nullptr;
     const char* caption = "";
-    int top = 1; // largest digit
+    int top = 1;               // largest digit
+    const char* box = nullptr; // check box beside a list: unchecked is 0, whatever item the list has
 };
 
 struct Setting

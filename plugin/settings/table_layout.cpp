@@ -81,6 +81,10 @@ private:
             for (const TableLayout::Group& other : layout_.groups)
                 group.nested = group.nested || (other.path.size() > group.path.size() &&
                                                 other.path.mid(0, group.path.size()) == group.path);
+            const auto first = layout_.rows.begin() + group.firstRow;
+            const auto end = layout_.rows.begin() + group.endRow;
+            group.stored = first == end || group.nested ||
+                           std::any_of(first, end, [](const auto& row) { return row.setting->stored; });
         }
     }
 
@@ -90,7 +94,8 @@ private:
         for (const Pull& rule : table.pulls)
             layout_.pulls.push_back({condition(rule.when, rule.number, rule.inner),
                                      rowAt(rule.set, rule.number, rule.inner), QString::fromLatin1(rule.to),
-                                     rule.onRead, rule.onset});
+                                     rule.onRead, rule.onset,
+                                     condition(rule.also, rule.number, rule.inner)});
         for (const Bound& rule : table.bounds)
             layout_.bounds.push_back({condition(rule.when, rule.number, rule.inner),
                                       rowAt(rule.path, rule.number, rule.inner),

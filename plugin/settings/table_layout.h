@@ -44,6 +44,7 @@ struct TableLayout
         bool kept = false;
         bool unlessEmpty = false;
         bool nested = false; // another group lies in it
+        bool stored = true;  // false: all its rows live in the window alone, the file has no such element
         int firstRow = 0;
         int endRow = 0;
     };
@@ -55,6 +56,7 @@ struct TableLayout
         QString to;
         bool onRead = false;
         bool onset = false;
+        Condition also;
     };
     struct Bound
     {

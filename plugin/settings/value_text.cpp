@@ -56,9 +56,11 @@ QString positionsText(const Setting& setting, const QString& value)
 
 } // namespace
 
-Caption captionParts(const char* key)
+Caption captionParts(const char* key, int number)
 {
-    const QString text = translated(key);
+    QString text = translated(key);
+    if (number > 0)
+        text.replace(QLatin1String("%1"), QString::number(number));
     const int mark = text.indexOf(QLatin1String("<val>"), 0, Qt::CaseInsensitive);
     if (mark < 0)
         return {text, {}};
@@ -72,7 +74,7 @@ QString inOneLine(QString caption)
 
 QString captionText(const Setting& setting)
 {
-    const Caption parts = captionParts(setting.captionKey);
+    const Caption parts = captionParts(setting.captionKey, setting.number);
     return inOneLine(parts.after.isEmpty() ? parts.before
                                            : parts.before + QStringLiteral(" … ") + parts.after);
 }

@@ -86,7 +86,7 @@ QStringList widgetsOf(const vlk::Setting& setting)
     QStringList names;
     const auto add = [&](const char* name) {
         if (name && *name)
-            names << vlk::numberedName(name, setting.number, setting.inner);
+            names << vlk::numberedName(name, setting.number, setting.inner).section('/', -1);
     };
     add(setting.companion);
     add(setting.widget);
@@ -95,7 +95,8 @@ QStringList widgetsOf(const vlk::Setting& setting)
     for (const vlk::PeriodPart& part : setting.parts)
         add(part.widget);
     for (const vlk::Position& position : setting.positions)
-        add(position.widget);
+        for (const char* name : {position.widget, position.box})
+            add(name);
     return names;
 }
 
@@ -112,6 +113,8 @@ private Q_SLOTS:
         QTest::newRow("TRANS") << QStringList{"transfer"};
         QTest::newRow("TRACK") << QStringList{"track"};
         QTest::newRow("SYSTEM") << QStringList{"system"};
+        QTest::newRow("RS485") << QStringList{"rs",      "rs_dtacan", "rs_dv01", "rs_rfid",
+                                              "rs_tach", "rs_tpms",   "rs_flds", "rs_pcnt"};
         QTest::newRow("SENSORS") << QStringList{"lines_in"};
         QTest::newRow("TEMPSENS") << QStringList{"temperature"};
         QTest::newRow("ACCEL") << QStringList{"accel"};
@@ -178,8 +181,12 @@ private:
         if (!isFree(key.load))
             check("load default", loaded(index), plain(key.load));
         configuration_.reset();
-        const bool written = configuration_.isWritten(index);
         const QString reset = key.reset == "=" ? key.load : key.reset;
+        // A form that is not on show is reset too.
+        const bool hidden =
+            configuration_.layout(index).groups[configuration_.row(index).group].present.row >= 0 &&
+            reset != "absent";
+        const bool written = hidden || configuration_.isWritten(index);
         if (key.reset == "-")
             check("reset", row.resets == vlk::Setting::Reset::keeps ? "-" : "resets", "-");
         else if (!isFree(reset))

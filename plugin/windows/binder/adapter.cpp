@@ -36,7 +36,7 @@ void Adapter::caption(QWidget* widget, const char* key, const QString& suffix)
 {
     if (!key || !*key)
         return;
-    const Caption parts = captionParts(key);
+    const Caption parts = captionParts(key, setting().number);
     const QString plain = inOneLine(parts.before + QLatin1Char(' ') + parts.after);
     widget->setAccessibleName(suffix.isEmpty() ? plain : QStringLiteral("%1, %2").arg(plain, suffix));
     if (QLabel* label = binder_.labelOf(widget))

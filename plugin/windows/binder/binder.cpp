@@ -25,6 +25,8 @@ namespace vlk {
 
 namespace {
 
+constexpr QChar kFormMark = u'/';
+
 // Counts what is being shown, so that the widgets' signals are no edits meanwhile.
 class Showing
 {
@@ -52,10 +54,28 @@ void Binder::addForm(QWidget* form, int number)
     forms_.push_back({form, number});
 }
 
+const Binder::Form* Binder::formNamed(const QString& name) const
+{
+    const auto found = std::find_if(forms_.begin(), forms_.end(), [&](const Form& form) {
+        return form.widget && form.widget->objectName() == name;
+    });
+    return found == forms_.end() ? nullptr : &*found;
+}
+
+bool Binder::isLate(const QString& name) const
+{
+    const int slash = name.indexOf(kFormMark);
+    return slash >= 0 && !formNamed(name.left(slash));
+}
+
 QWidget* Binder::find(const QString& name, int number) const
 {
     if (name.isEmpty())
         return nullptr;
+    if (const int slash = name.indexOf(kFormMark); slash >= 0) {
+        const Form* form = formNamed(name.left(slash));
+        return form ? form->widget->findChild<QWidget*>(name.mid(slash + 1)) : nullptr;
+    }
     for (const bool numbered : {true, false}) {
         for (const Form& form : forms_) {
             if (!form.widget || (form.number != 0) != numbered || (numbered && form.number != number))
@@ -98,7 +118,7 @@ std::unique_ptr<Adapter> Binder::makeAdapter(int index)
     const auto found = [&](const char* name) {
         const QString object = numberedName(name, setting.number, setting.inner);
         QWidget* widget = find(object, setting.number);
-        if (!widget && !object.isEmpty())
+        if (!widget && !object.isEmpty() && !isLate(object))
             problems_ << QStringLiteral("%1: no widget %2").arg(path, object);
         return widget;
     };
@@ -113,8 +133,12 @@ std::unique_ptr<Adapter> Binder::makeAdapter(int index)
                                                     [](const Code& code) { return code.widget != nullptr; });
     if (overBoxes)
         return std::make_unique<ExclusiveAdapter>(*this, index, boxesOf(setting.codes));
-    if (setting.kind == Kind::digits || setting.kind == Kind::bits)
-        return std::make_unique<PositionsAdapter>(*this, index, boxesOf(setting.positions));
+    if (setting.kind == Kind::digits || setting.kind == Kind::bits) {
+        std::vector<QWidget*> checks;
+        for (const Position& position : setting.positions)
+            checks.push_back(found(position.box));
+        return std::make_unique<PositionsAdapter>(*this, index, boxesOf(setting.positions), checks);
+    }
     if (setting.kind == Kind::period) {
         std::vector<QSpinBox*> boxes;
         for (QWidget* box : boxesOf(setting.parts))
@@ -163,7 +187,8 @@ void Binder::bind()
         for (const QString& name : rule.targets) {
             QWidget* widget = find(name, rule.number);
             if (!widget) {
-                problems_ << QStringLiteral("no widget %1 to enable").arg(name);
+                if (!isLate(name))
+                    problems_ << QStringLiteral("no widget %1 to enable").arg(name);
                 continue;
             }
             const auto known = std::find_if(targets_.begin(), targets_.end(), [&](const Target& target) {
@@ -316,6 +341,18 @@ QStringList Binder::problems() const
         const Setting& setting = *layout_.rows[row].setting;
         if (adapters_[row] && !setting.captionKey && setting.codes.empty() && setting.positions.empty())
             all << layout_.rows[row].path + QStringLiteral(": no caption");
+    }
+    return all;
+}
+
+QStringList Binder::waiting() const
+{
+    QStringList all;
+    for (std::size_t row = 0; row < adapters_.size(); ++row) {
+        const TableLayout::Row& place = layout_.rows[row];
+        const Setting& setting = *place.setting;
+        if (!adapters_[row] && setting.kind != Kind::link && isLate(QString::fromLatin1(setting.widget)))
+            all << place.path;
     }
     return all;
 }

@@ -36,7 +36,9 @@ public:
     // Names are looked up below this widget. With a number: those of the rows that have the number, before
     // any other widget.
     void addForm(QWidget* form, int number = 0);
-    // Joins what is not joined yet; to be called when all forms are there.
+    // Joins what is not joined yet; to be called when all forms are there, and again when one comes later.
+    // "TACH/comboBox_Type" is the widget in the form with the object name TACH; until that is there, its rows
+    // wait.
     void bind();
 
     // Texts and ranges anew, the values stay.
@@ -53,6 +55,8 @@ public:
     // What is wrong between the table and the forms, in words: a row without its widget, a rule without its
     // target. Empty when all is well.
     QStringList problems() const;
+    // Rows that wait for their form.
+    QStringList waiting() const;
     // Rows whose widgets hold another value than the configuration.
     QStringList disagreements() const;
 
@@ -60,6 +64,8 @@ public:
     const SettingsTable& table() const { return table_; }
 
     QWidget* find(const QString& name, int number) const;
+    // Whether the name tells a form that is not there yet.
+    bool isLate(const QString& name) const;
     QLabel* labelOf(QWidget* widget) const;
     QLabel* labelBehind(QWidget* widget) const;
     // An edit that a widget of the row shows already, and one that comes from elsewhere.
@@ -87,6 +93,7 @@ private:
         std::vector<const TableLayout::Enable*> rules;
     };
 
+    const Form* formNamed(const QString& name) const;
     std::unique_ptr<Adapter> makeAdapter(int index);
     void showRow(int row);
     // Settings that share a list: what one holds is not in the lists of the others.

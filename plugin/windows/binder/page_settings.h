@@ -28,6 +28,9 @@ public:
     // on.
     void bind(QWidget* page, const std::vector<QWidget*>& numbered);
 
+    // Joins a form that comes later, and shows the values in it.
+    void join(QWidget* form);
+
     QString title() const { return title_; }
     int tabIndex() const { return tabIndex_; }
     void setTabIndex(int index) { tabIndex_ = index; }
