@@ -15,9 +15,8 @@ namespace vlk {
 const std::vector<const SettingsTable*>& allSettings()
 {
     static const std::vector<const SettingsTable*> tables = {
-        &kTransferSettings,    &kTrackSettings,   &kSystemSettings, &kRsSettings,
-        &kTemperatureSettings, &kLinesInSettings, &kAccelSettings,  &kLinesOutSettings,
-        &kBluetoothSettings};
+        &kTransferSettings, &kTrackSettings, &kSystemSettings,   &kRsSettings,       &kTemperatureSettings,
+        &kLinesInSettings,  &kAccelSettings, &kLinesOutSettings, &kBluetoothSettings};
     return tables;
 }
 

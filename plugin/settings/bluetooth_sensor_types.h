@@ -28,8 +28,8 @@ struct BluetoothVendor
 // Lists of numbers that several sensors share: what one of them takes is gone for the others.
 enum class BluetoothList { none, own, fuel, temperature };
 
-// The numbers of a value: "Fuel level sensor  1" and so on, right-justified. A file may know more of them than
-// the list has.
+// The numbers of a value: "Fuel level sensor  1" and so on, right-justified. A file may know more of them
+// than the list has.
 struct BluetoothIndex
 {
     BluetoothList list = BluetoothList::none;
@@ -68,10 +68,7 @@ template <userParamType... types>
 inline constexpr userParamType supplied[] = {types...};
 
 inline constexpr BluetoothVendor fuelLevel[] = {
-    {.name = "ESCORT TD",
-     .supplies = supplied<link, signalLevel, battery>,
-     .needsName = true,
-     .named = true},
+    {.name = "ESCORT TD", .supplies = supplied<link, signalLevel, battery>, .needsName = true, .named = true},
     {.name = "GL-TV", .supplies = supplied<link, signalLevel>},
     {.name = "TECHNOTON DUT E", .supplies = supplied<link, signalLevel, state>},
     {.name = "MECHATRONICS DOMINATOR",
@@ -122,8 +119,7 @@ inline constexpr BluetoothVendor combined[] = {
 inline constexpr BluetoothVendor axleLoad[] = {
     {.name = "TECHNOTON GNOM DDE", .supplies = supplied<link, pressure, signalLevel, state>}};
 inline constexpr BluetoothVendor fuelFlowing[] = {
-    {.name = "TECHNOTON DFM",
-     .supplies = supplied<fuelFlow, link, signalLevel, state, battery, workTime>}};
+    {.name = "TECHNOTON DFM", .supplies = supplied<fuelFlow, link, signalLevel, state, battery, workTime>}};
 inline constexpr BluetoothVendor analogueInput[] = {
     {.name = "ELA AI", .supplies = supplied<link, signalLevel>, .needsName = true, .named = true}};
 inline constexpr BluetoothVendor magnetic[] = {

@@ -74,8 +74,7 @@ struct Names
         }
         return true;
     }();
-    static constexpr When indexed =
-        allIndexed ? When{} : when(typePath.data(), indexedVendors.data());
+    static constexpr When indexed = allIndexed ? When{} : when(typePath.data(), indexedVendors.data());
 
     static constexpr auto indexFormats = [] {
         std::array<Text, type.index.known> formats{};
@@ -140,8 +139,7 @@ constexpr auto rowsOfType()
         } else if constexpr (!Type::type.index.elsewhere) {
             return rowsOf(own, vendor, indexRows<i>(), more);
         } else {
-            constexpr Setting beside =
-                group("TS%1").named(Type::indexGroup.data()).ifAny().onlyWhen(chosen);
+            constexpr Setting beside = group("TS%1").named(Type::indexGroup.data()).ifAny().onlyWhen(chosen);
             constexpr std::array<Setting, Type::type.index.withType> constants = [] {
                 std::array<Setting, Type::type.index.withType> rows{};
                 std::fill(rows.begin(), rows.end(), constant("type", "0"));
@@ -164,9 +162,9 @@ constexpr auto kTypeCodes = [] {
     return codes;
 }();
 // Those with a text come first.
-constexpr std::size_t kNamedTypes = 1 + std::count_if(std::begin(kBluetoothSensorTypes),
-                                                      std::end(kBluetoothSensorTypes),
-                                                      [](const auto& type) { return type.text != nullptr; });
+constexpr std::size_t kNamedTypes =
+    1 + std::count_if(std::begin(kBluetoothSensorTypes), std::end(kBluetoothSensorTypes),
+                      [](const auto& type) { return type.text != nullptr; });
 constexpr auto kFormCodes = [] {
     auto codes = kTypeCodes;
     for (Code& code : codes)
@@ -235,8 +233,8 @@ constexpr auto sensorSoles(std::index_sequence<types...>)
     return rulesOf(solesOfType<types>()..., universal::soles);
 }
 
-constexpr auto kSoles = repeat<kBluetoothSensors>(
-    [](int) { return sensorSoles(std::make_index_sequence<kTypes>{}); });
+constexpr auto kSoles =
+    repeat<kBluetoothSensors>([](int) { return sensorSoles(std::make_index_sequence<kTypes>{}); });
 
 } // namespace
 

@@ -174,35 +174,33 @@ constexpr auto laterConditionPulls(int number)
                     number);
 }
 
-constexpr auto pulls =
-    rulesOf(laterConditionPulls(2), laterConditionPulls(3), laterConditionPulls(4),
-            repeat<kUniversalValues>([](int) {
-                constexpr When on = when("U%1P%2/group");
-                constexpr When off = unless("U%1P%2/group");
-                return rulesOf(Pull{.when = on, .set = "U%1P%2/type", .to = "FF", .onset = true},
-                               Pull{.when = on, .set = "U%1P%2/stor", .to = "1", .onset = true},
-                               Pull{.when = off, .set = "U%1P%2/stor", .to = "0"},
-                               Pull{.when = off, .set = "U%1P%2/type", .to = "00"},
-                               Pull{.when = off, .set = "U%1P%2/offset", .to = "0"},
-                               Pull{.when = off, .set = "U%1P%2/prm", .to = "1b"},
-                               Pull{.when = off, .set = "U%1P%2/be", .to = "0"},
-                               Pull{.when = off, .set = "U%1P%2/mux", .to = "1"},
-                               Pull{.when = off, .set = "U%1P%2/div", .to = "1"},
-                               Pull{.when = off, .set = "U%1P%2/shift", .to = "0"});
-            }));
+constexpr auto pulls = rulesOf(
+    laterConditionPulls(2), laterConditionPulls(3), laterConditionPulls(4), repeat<kUniversalValues>([](int) {
+        constexpr When on = when("U%1P%2/group");
+        constexpr When off = unless("U%1P%2/group");
+        return rulesOf(Pull{.when = on, .set = "U%1P%2/type", .to = "FF", .onset = true},
+                       Pull{.when = on, .set = "U%1P%2/stor", .to = "1", .onset = true},
+                       Pull{.when = off, .set = "U%1P%2/stor", .to = "0"},
+                       Pull{.when = off, .set = "U%1P%2/type", .to = "00"},
+                       Pull{.when = off, .set = "U%1P%2/offset", .to = "0"},
+                       Pull{.when = off, .set = "U%1P%2/prm", .to = "1b"},
+                       Pull{.when = off, .set = "U%1P%2/be", .to = "0"},
+                       Pull{.when = off, .set = "U%1P%2/mux", .to = "1"},
+                       Pull{.when = off, .set = "U%1P%2/div", .to = "1"},
+                       Pull{.when = off, .set = "U%1P%2/shift", .to = "0"});
+    }));
 
 constexpr RangeWhen numbersOf(const char* targets, const char* numbers)
 {
-    return {.when = when("U%1P%2/stor", targets),
-            .path = "U%1P%2/idx",
-            .offers = numbers,
-            .startsOver = true};
+    return {
+        .when = when("U%1P%2/stor", targets), .path = "U%1P%2/idx", .offers = numbers, .startsOver = true};
 }
 
 constexpr auto ranges = repeat<kUniversalValues>([](int) {
     return rulesOf(numbersOf("0", ""),
-                   numbersOf("1", "1|2|3|4|5|6|7|8|9|10|11|12|13|14|15|16|17|18|19|20|21|22|23|24|25|26|27|28|"
-                                  "29|30|31|32"),
+                   numbersOf("1",
+                             "1|2|3|4|5|6|7|8|9|10|11|12|13|14|15|16|17|18|19|20|21|22|23|24|25|26|27|28|"
+                             "29|30|31|32"),
                    numbersOf("2|3|4", "1|2|3|4|5|6|7|8|9|10|11|12|13|14|15|16"),
                    numbersOf("5", "1|2|3|4|5|6|7|8"), numbersOf("6", "1|2|3|4"), numbersOf("7|8|9", "1"));
 });
@@ -234,21 +232,21 @@ constexpr Enable joins(const char* targets, When first, When second = {}, When t
     return rule;
 }
 
-constexpr auto enables = rulesOf(
-    laterConditionEnables(2), laterConditionEnables(3), laterConditionEnables(4),
-    joins("U%1/comboBox_Condition_Operator_2", whenSame("U%1C2/group", "U%1C1/group")),
-    joins("U%1/comboBox_Condition_Operator_3", whenSame("U%1C3/group", "U%1C1/group"),
-          whenSame("U%1C3/group", "U%1C2/group")),
-    joins("U%1/comboBox_Condition_Operator_4", whenSame("U%1C4/group", "U%1C1/group"),
-          whenSame("U%1C4/group", "U%1C2/group"), whenSame("U%1C4/group", "U%1C3/group")),
-    repeat<kUniversalValues>([](int) {
-        return enable("U%1/spinBox_Parameters_Type_%2 U%1/spinBox_Parameters_Displacement_%2 "
-                      "U%1/comboBox_Parameters_Dimension_%2 U%1/comboBox_Parameters_ByteOrder_%2 "
-                      "U%1/comboBox_Parameters_SensorType_%2 U%1/comboBox_Parameters_Index_%2 "
-                      "U%1/spinBox_Parameters_Multiplier_%2 U%1/spinBox_Parameters_Divider_%2 "
-                      "U%1/spinBox_Parameters_Amendment_%2",
-                      when("U%1P%2/group"));
-    }));
+constexpr auto enables =
+    rulesOf(laterConditionEnables(2), laterConditionEnables(3), laterConditionEnables(4),
+            joins("U%1/comboBox_Condition_Operator_2", whenSame("U%1C2/group", "U%1C1/group")),
+            joins("U%1/comboBox_Condition_Operator_3", whenSame("U%1C3/group", "U%1C1/group"),
+                  whenSame("U%1C3/group", "U%1C2/group")),
+            joins("U%1/comboBox_Condition_Operator_4", whenSame("U%1C4/group", "U%1C1/group"),
+                  whenSame("U%1C4/group", "U%1C2/group"), whenSame("U%1C4/group", "U%1C3/group")),
+            repeat<kUniversalValues>([](int) {
+                return enable("U%1/spinBox_Parameters_Type_%2 U%1/spinBox_Parameters_Displacement_%2 "
+                              "U%1/comboBox_Parameters_Dimension_%2 U%1/comboBox_Parameters_ByteOrder_%2 "
+                              "U%1/comboBox_Parameters_SensorType_%2 U%1/comboBox_Parameters_Index_%2 "
+                              "U%1/spinBox_Parameters_Multiplier_%2 U%1/spinBox_Parameters_Divider_%2 "
+                              "U%1/spinBox_Parameters_Amendment_%2",
+                              when("U%1P%2/group"));
+            }));
 
 } // namespace universal
 

@@ -76,8 +76,9 @@ public:
     void write(CXmlSection& root) const;
     void write(CXmlSection& root, const SettingsTable& table) const;
 
-    // The same for no more than the elements that stand in a file while the value at `owner` is `code`, as though it
-    // were: an element that no list of this tracker offers a way to. `section` is that of the table.
+    // The same for no more than the elements that stand in a file while the value at `owner` is `code`, as
+    // though it were: an element that no list of this tracker offers a way to. `section` is that of the
+    // table.
     std::vector<ReadNote> readUnder(const CXmlSection& section, const SettingsTable& table,
                                     const QString& owner, const QString& code);
     void writeUnder(CXmlSection& section, const SettingsTable& table, const QString& owner,

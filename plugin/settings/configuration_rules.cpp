@@ -109,9 +109,9 @@ QStringList Configuration::takenFrom(const Part& part, const TableLayout::SoleLi
 {
     QStringList taken;
     for (const TableLayout::Sole& other : list.soles) {
-        const bool apart = other.holder == sole.holder ||
-                           (sole.split >= 0 &&
-                            values_[part.first + other.split] != values_[part.first + sole.split]);
+        const bool apart =
+            other.holder == sole.holder ||
+            (sole.split >= 0 && values_[part.first + other.split] != values_[part.first + sole.split]);
         if (!apart && counts(part, other))
             taken << values_[part.first + other.row];
     }

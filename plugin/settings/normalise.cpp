@@ -105,7 +105,10 @@ Normalised chosen(const Setting& setting, const QString& text, const QString& be
     if (!code)
         return noted(fallback, text, Change::unknownCode);
     if (!offersCode(setting, *code, limits))
-        return noted(setting.unofferedStays ? before : setting.none ? QString::fromLatin1(setting.none) : fallback, text, Change::notOffered);
+        return noted(setting.unofferedStays ? before
+                     : setting.none         ? QString::fromLatin1(setting.none)
+                                            : fallback,
+                     text, Change::notOffered);
     return noted(QString::fromLatin1(code->code), text, Change::otherForm);
 }
 

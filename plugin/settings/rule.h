@@ -12,16 +12,16 @@
 namespace vlk {
 
 // An edit that makes `when` hold sets another setting. `onRead`: a read does so too, as soon as it has read
-// the path of `when`. All of it only while `also` holds; `onset`: an edit only where `when` did not hold before
-// it.
+// the path of `when`. All of it only while `also` holds; `onset`: an edit only where `when` did not hold
+// before it.
 struct Pull
 {
     When when;
     const char* set = "";
     const char* to = "";
     bool onRead = false;
-    bool onset = false;
     When also{};
+    bool onset = false;
     std::uint8_t number = 0;
     std::uint8_t inner = 0;
 };

@@ -111,7 +111,7 @@ struct Setting
     enum class Reset : std::uint8_t { toLoadDefault, toOwn, keeps };
 
     Kind kind = Kind::text;
-    const char* key = "";         // of a group its path below the section
+    const char* key = ""; // of a group its path below the section
     // In the path, where the key stands twice in one element, or the element in one section; null: the key.
     const char* name = nullptr;
     bool stored = true;           // false: lives in the window alone, the file has no such key
@@ -128,21 +128,21 @@ struct Setting
     double step = 0; // of the widget; 0: as the form says
     std::uint8_t decimals = 0;
     std::int32_t factor = 1;
-    bool hexadecimal = false; // in the file two digits or more: "0F"
-    bool zeroIsOff = false;   // 0 for off, or a number of the range
+    bool hexadecimal = false;  // in the file two digits or more: "0F"
+    bool zeroIsOff = false;    // 0 for off, or a number of the range
     bool negativeIsOn = false; // and a number below 0 is not off but the least
-    double switchedOnAt = -1; // number that switching on brings; -1: the one that was there before
-    bool blankIsZero = false; // an empty value stays empty on show and is 0 in the file
-    bool singleRead = false;  // read in single precision
-    std::int32_t on = 1;      // of a flag; other than 1: only this value is on
-    bool inverted = false;    // of a flag: the box is checked for 0
-    std::int32_t wrap = 0;    // of a period: what is beyond so many seconds is dropped
+    double switchedOnAt = -1;  // number that switching on brings; -1: the one that was there before
+    bool blankIsZero = false;  // an empty value stays empty on show and is 0 in the file
+    bool singleRead = false;   // read in single precision
+    std::int32_t on = 1;       // of a flag; other than 1: only this value is on
+    bool inverted = false;     // of a flag: the box is checked for 0
+    std::int32_t wrap = 0;     // of a period: what is beyond so many seconds is dropped
     std::span<const Code> codes{};
     const char* offers = nullptr;   // codes of the list, "NU|NS+"; null: those with `offered`
     const char* fallback = nullptr; // what an unknown code stands for, or `none`; null: the value stays
-    const char* none = nullptr; // saved for a code that is not offered, or `fallback`; null: the value stays
+    const char* none = nullptr;  // saved for a code that is not offered, or `fallback`; null: the value stays
     bool unofferedStays = false; // a code that is not offered leaves the value as it stands
-    bool numeric = false;       // codes are compared as numbers
+    bool numeric = false;        // codes are compared as numbers
     std::span<const PeriodPart> parts{};
     std::span<const Position> positions{};
     int maxLength = 0;               // characters; 0: no limit
@@ -160,8 +160,8 @@ struct Setting
     const char* otherwise = "";
     bool boundOnRead = false; // and is what a read gives
 
-    bool last = false; // read after all others
-    bool kept = false; // of a group: an element that is there keeps what else it holds
+    bool last = false;        // read after all others
+    bool kept = false;        // of a group: an element that is there keeps what else it holds
     bool unlessEmpty = false; // of a group: not written while none of its keys is
 
     std::uint8_t number = 0;

@@ -94,8 +94,7 @@ private:
         for (const Pull& rule : table.pulls)
             layout_.pulls.push_back({condition(rule.when, rule.number, rule.inner),
                                      rowAt(rule.set, rule.number, rule.inner), QString::fromLatin1(rule.to),
-                                     rule.onRead, rule.onset,
-                                     condition(rule.also, rule.number, rule.inner)});
+                                     rule.onRead, condition(rule.also, rule.number, rule.inner), rule.onset});
         for (const Bound& rule : table.bounds)
             layout_.bounds.push_back({condition(rule.when, rule.number, rule.inner),
                                       rowAt(rule.path, rule.number, rule.inner),
@@ -154,11 +153,10 @@ private:
             std::find_if(lists.begin(), lists.end(), [&](const auto& known) { return known.name == name; });
         if (list == lists.end())
             list = lists.insert(lists.end(), {name, {}, std::vector<bool>(layout_.rows.size())});
-        const TableLayout::Sole sole{rowAt(rule.path, rule.number, rule.inner),
-                                     condition(rule.when, rule.number, rule.inner),
-                                     condition(rule.also, rule.number, rule.inner),
-                                     numberedName(rule.holder, rule.number, rule.inner),
-                                     rule.split ? rowAt(rule.split, rule.number, rule.inner) : -1};
+        const TableLayout::Sole sole{
+            rowAt(rule.path, rule.number, rule.inner), condition(rule.when, rule.number, rule.inner),
+            condition(rule.also, rule.number, rule.inner), numberedName(rule.holder, rule.number, rule.inner),
+            rule.split ? rowAt(rule.split, rule.number, rule.inner) : -1};
         for (const int row : {sole.row, sole.when.row, sole.also.row, sole.split}) {
             if (row >= 0)
                 list->triggers[row] = true;

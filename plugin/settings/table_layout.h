@@ -55,8 +55,8 @@ struct TableLayout
         int set = -1;
         QString to;
         bool onRead = false;
-        bool onset = false;
         Condition also;
+        bool onset = false;
     };
     struct Bound
     {
