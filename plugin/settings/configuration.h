@@ -71,16 +71,17 @@ public:
     void reset();
     void reset(const SettingsTable& table);
     // `root` is the element DEVICE. A document that could not be read changes nothing.
-    std::vector<ReadNote> read(const CXmlSection& root);
-    std::vector<ReadNote> read(const CXmlSection& root, const SettingsTable& table);
+    // Whoever wants to know what it made of the document gives room for the notes.
+    void read(const CXmlSection& root, std::vector<ReadNote>* notes = nullptr);
+    void read(const CXmlSection& root, const SettingsTable& table, std::vector<ReadNote>* notes = nullptr);
     void write(CXmlSection& root) const;
     void write(CXmlSection& root, const SettingsTable& table) const;
 
     // The same for no more than the elements that stand in a file while the value at `owner` is `code`, as
     // though it were: an element that no list of this tracker offers a way to. `section` is that of the
     // table.
-    std::vector<ReadNote> readUnder(const CXmlSection& section, const SettingsTable& table,
-                                    const QString& owner, const QString& code);
+    void readUnder(const CXmlSection& section, const SettingsTable& table, const QString& owner,
+                   const QString& code);
     void writeUnder(CXmlSection& section, const SettingsTable& table, const QString& owner,
                     const QString& code) const;
 

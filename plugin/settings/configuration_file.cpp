@@ -8,19 +8,15 @@
 
 namespace vlk {
 
-std::vector<ReadNote> Configuration::read(const CXmlSection& root)
+void Configuration::read(const CXmlSection& root, std::vector<ReadNote>* notes)
 {
-    std::vector<ReadNote> notes;
     for (const Part& part : parts_)
-        readPart(part, root, &notes);
-    return notes;
+        readPart(part, root, notes);
 }
 
-std::vector<ReadNote> Configuration::read(const CXmlSection& root, const SettingsTable& table)
+void Configuration::read(const CXmlSection& root, const SettingsTable& table, std::vector<ReadNote>* notes)
 {
-    std::vector<ReadNote> notes;
-    readPart(partOf(table), root, &notes);
-    return notes;
+    readPart(partOf(table), root, notes);
 }
 
 namespace {
@@ -54,6 +50,31 @@ void noteStrangers(const CXmlSection& element, const QString& path, const QStrin
     }
 }
 
+void noteStrangersIn(const CXmlSection& section, const TableLayout& layout, std::vector<ReadNote>* notes)
+{
+    QStringList elements;
+    for (const TableLayout::Group& group : layout.groups) {
+        if (group.stored)
+            elements << group.path.first();
+    }
+    noteStrangers(section, layout.section, {QStringLiteral("page")}, elements, notes);
+}
+
+void noteStrangersIn(const CXmlSection& element, const TableLayout& layout, const TableLayout::Group& group,
+                     std::vector<ReadNote>* notes)
+{
+    QStringList keys;
+    for (int row = group.firstRow; row < group.endRow; ++row)
+        keys << layout.rows[row].key;
+    QStringList inside;
+    for (const TableLayout::Group& other : layout.groups) {
+        if (other.path.size() == group.path.size() + 1 && other.path.mid(0, group.path.size()) == group.path)
+            inside << other.path.last();
+    }
+    noteStrangers(element, layout.section + QLatin1Char('/') + group.path.join(QLatin1Char('/')), keys,
+                  inside, notes);
+}
+
 } // namespace
 
 void Configuration::readPart(const Part& part, const CXmlSection& root, std::vector<ReadNote>* notes)
@@ -62,12 +83,8 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
     const CXmlSectionPtr section = root.child(layout.section);
     if (!section)
         return;
-    QStringList elements;
-    for (const TableLayout::Group& group : layout.groups) {
-        if (group.stored)
-            elements << group.path.first();
-    }
-    noteStrangers(*section, layout.section, {QStringLiteral("page")}, elements, notes);
+    if (notes)
+        noteStrangersIn(*section, layout, notes);
 
     // What lives in the window alone is not in the file: beside values that are, it starts anew, and links
     // and rules fill it; a group of its own is left as it stands.
@@ -87,30 +104,23 @@ void Configuration::readGroups(const Part& part, const CXmlSection& section, int
 {
     const TableLayout& layout = *part.layout;
     std::vector<ReadNote> taken;
+    std::vector<ReadNote>* const takes = notes ? &taken : nullptr;
     std::vector<std::pair<int, CXmlSectionPtr>> late;
     for (const TableLayout::Group& group : layout.groups) {
         if (!group.stored || (owner >= 0 && group.present.row != owner) || !holds(part, group.present))
             continue;
         const CXmlSectionPtr element = elementOf(section, group.path);
-        QStringList keys;
         for (int row = group.firstRow; row < group.endRow; ++row) {
-            keys << layout.rows[row].key;
             if (layout.rows[row].setting->last)
                 late.emplace_back(row, elementOf(section, group.path));
             else
-                readRow(part, row, *element, &taken);
+                readRow(part, row, *element, takes);
         }
-        QStringList inside;
-        for (const TableLayout::Group& other : layout.groups) {
-            if (other.path.size() == group.path.size() + 1 &&
-                other.path.mid(0, group.path.size()) == group.path)
-                inside << other.path.last();
-        }
-        noteStrangers(*element, layout.section + QLatin1Char('/') + group.path.join(QLatin1Char('/')), keys,
-                      inside, notes);
+        if (notes)
+            noteStrangersIn(*element, layout, group, notes);
     }
     for (const auto& [row, element] : late)
-        readRow(part, row, *element, &taken);
+        readRow(part, row, *element, takes);
     derive(part);
     keepBounds(part, nullptr);
     // A value may have found no room beside another, or what came later has moved it.
@@ -145,21 +155,20 @@ void Configuration::readRow(const Part& part, int row, const CXmlSection& elemen
     }
     const QString before = values_[index];
     assign(part, place.target, taken.value, nullptr);
-    notes->push_back({ReadNote::What::value, place.filePath, part.first + row, found ? text : QString(),
-                      taken.value, found ? taken.change : Change::missing});
+    if (notes)
+        notes->push_back({ReadNote::What::value, place.filePath, part.first + row, found ? text : QString(),
+                          taken.value, found ? taken.change : Change::missing});
     pull(part, place.target, true, before, nullptr);
 }
 
-std::vector<ReadNote> Configuration::readUnder(const CXmlSection& section, const SettingsTable& table,
-                                               const QString& owner, const QString& code)
+void Configuration::readUnder(const CXmlSection& section, const SettingsTable& table, const QString& owner,
+                              const QString& code)
 {
     const Part& part = partOf(table);
     const int index = indexOf(owner);
-    std::vector<ReadNote> notes;
     const QString present = std::exchange(values_[index], code);
-    readGroups(part, section, index - part.first, &notes);
+    readGroups(part, section, index - part.first, nullptr);
     values_[index] = present;
-    return notes;
 }
 
 void Configuration::writeUnder(CXmlSection& section, const SettingsTable& table, const QString& owner,

@@ -32,6 +32,8 @@ struct Limits
     double most;
     const char* offers = nullptr;
     QStringList taken{};
+
+    bool operator==(const Limits&) const = default;
 };
 
 struct Normalised

@@ -1,5 +1,6 @@
 #include "xml/serialize.h"
 
+#include "base/windows1251.h"
 #include "xml/replace_file.h"
 #include "xml/xml_handler.h"
 #include "xml/xml_log.h"
@@ -28,6 +29,19 @@ bool hasPlainDocumentType(const QString& text)
     return plain.match(text).hasMatch();
 }
 
+// Text whose declaration names windows-1251 is decoded here: the reader would look the codec up by name for
+// every document, which takes it as long as reading some kilobytes.
+void setContent(QXmlInputSource& source, const QByteArray& text)
+{
+    static const QRegularExpression declaration(
+        QStringLiteral(R"(\A<\?xml\s[^>]*encoding\s*=\s*["']windows-1251["'])"),
+        QRegularExpression::CaseInsensitiveOption);
+    if (declaration.match(QString::fromLatin1(text.left(100))).hasMatch())
+        source.setData(vlk::fromWindows1251(text));
+    else
+        source.setData(text);
+}
+
 // Declarations could nest or expand without bound, so a document type that may hold some is refused.
 class DocumentTypeCheck : public QXmlDefaultHandler
 {
@@ -48,7 +62,7 @@ private:
 bool CSerialize::parse(const QByteArray& text)
 {
     QXmlInputSource source;
-    source.setData(text);
+    setContent(source, text);
     CXmlDefaultHandler handler;
     DocumentTypeCheck documentType(source.data());
     QXmlSimpleReader reader;

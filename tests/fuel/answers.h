@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTest>
@@ -14,9 +15,9 @@
 
 #include <functional>
 
-// Acts once on a modal dialog of the class.
+// Acts once on a modal dialog of the class. Whoever does not know whether one comes deletes the timer.
 template <class Dialog>
-void whenOpen(std::function<void(Dialog&)> act)
+QPointer<QTimer> whenOpen(std::function<void(Dialog&)> act)
 {
     auto* timer = new QTimer(qApp);
     QObject::connect(timer, &QTimer::timeout, timer, [timer, act = std::move(act)] {
@@ -28,12 +29,13 @@ void whenOpen(std::function<void(Dialog&)> act)
         act(*dialog);
     });
     timer->start(10);
+    return timer;
 }
 
 // Presses the button of a box, which has to say the text where one is given.
-inline void answerBox(const QString& button, const QString& text = {})
+inline QPointer<QTimer> answerBox(const QString& button, const QString& text = {})
 {
-    whenOpen<QMessageBox>([=](QMessageBox& box) {
+    return whenOpen<QMessageBox>([=](QMessageBox& box) {
         if (!text.isEmpty())
             QCOMPARE(box.text(), text);
         for (auto* found : box.findChildren<QPushButton*>())

@@ -60,11 +60,9 @@ private Q_SLOTS:
     void cleanup()
     {
         // Where rows are unsaved there is a question first.
-        QTimer timer;
-        connect(&timer, &QTimer::timeout,
-                [] { QApplication::activeModalWidget() ? answerBox("wrd_001") : void(); });
-        timer.start(50);
+        const QPointer<QTimer> answer = answerBox("wrd_001");
         fuel_.window->close();
+        delete answer;
         QVERIFY(fuel_.window->isHidden());
     }
 

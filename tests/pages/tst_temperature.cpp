@@ -9,6 +9,10 @@
 #include <QFormLayout>
 #include <QtTest>
 
+// What is moved, and to how many degrees.
+using Steps = QVector<QPair<QString, double>>;
+Q_DECLARE_METATYPE(Steps)
+
 class TemperatureTest : public QObject, private SettingsPage<VLK_Form_Config_Sensors_Temp>
 {
     Q_OBJECT
@@ -21,22 +25,25 @@ private Q_SLOTS:
 
     void bounds_data()
     {
-        DataTable<QString, QString>({"steps", "bounds"})
-            .row("far enough", "left 0; right 11; hyst 10", "0 11")
-            .row("hysteresis moves the lower", "hyst 0; left 20; right 25; hyst 10", "14 25")
-            .row("hysteresis moves the upper", "hyst 0; left -50; right -40; hyst 10", "-50 -39")
-            .row("by twice the distance", "hyst 0; left -42; right -38; hyst 10", "-42 -31")
-            .row("lower pushes", "right 30; left 28", "28 34")
-            .row("upper pushes", "left 20; right 22", "16 22")
-            .row("lower at its end", "left 119", "114 120")
-            .row("upper at its end", "right -50", "-50 -44")
-            .row("no hysteresis", "hyst 0; left 119; right 0; right 116", "-1 116")
-            .row("half degrees", "left 12.34; right 40.06", "12.3 40.1");
+        DataTable<Steps, QString>({"steps", "bounds"})
+            .row("far enough", Steps{{"left", 0}, {"right", 11}, {"hyst", 10}}, "0 11")
+            .row("hysteresis moves the lower", Steps{{"hyst", 0}, {"left", 20}, {"right", 25}, {"hyst", 10}},
+                 "14 25")
+            .row("hysteresis moves the upper",
+                 Steps{{"hyst", 0}, {"left", -50}, {"right", -40}, {"hyst", 10}}, "-50 -39")
+            .row("by twice the distance", Steps{{"hyst", 0}, {"left", -42}, {"right", -38}, {"hyst", 10}},
+                 "-42 -31")
+            .row("lower pushes", Steps{{"right", 30}, {"left", 28}}, "28 34")
+            .row("upper pushes", Steps{{"left", 20}, {"right", 22}}, "16 22")
+            .row("lower at its end", Steps{{"left", 119}}, "114 120")
+            .row("upper at its end", Steps{{"right", -50}}, "-50 -44")
+            .row("no hysteresis", Steps{{"hyst", 0}, {"left", 119}, {"right", 0}, {"right", 116}}, "-1 116")
+            .row("half degrees", Steps{{"left", 12.34}, {"right", 40.06}}, "12.3 40.1");
     }
     // By the boxes, by the handles, by the slots: each sensor alone.
     void bounds()
     {
-        QFETCH(QString, steps);
+        QFETCH(Steps, steps);
         QFETCH(QString, bounds);
         const QStringList words = bounds.split(' ');
         for (const QString road : {"box", "handle", "slot"}) {
@@ -45,8 +52,8 @@ private Q_SLOTS:
             const auto* layout = page().findChild<QFormLayout*>(QString("formLayout_Temp_%1").arg(sensor));
             auto* slider = get<VLK_DblSlider2>(QString("slider_Temp_%1").arg(sensor));
             QVERIFY(layout->indexOf(slider) >= 0);
-            for (const QString& step : steps.split("; "))
-                take(road, sensor, step.section(' ', 0, 0), step.section(' ', 1).toDouble());
+            for (const auto& [what, degrees] : steps)
+                take(road, sensor, what, degrees);
             QCOMPARE(QString("%1 %2").arg(slider->value1()).arg(slider->value2()), bounds);
             QCOMPARE(QString("%1 %2").arg(box("Left", sensor)->value()).arg(box("Right", sensor)->value()),
                      bounds);

@@ -13,109 +13,162 @@ class TransferTest : public QObject, private TransferPage
 private Q_SLOTS:
     void init() { open(); }
 
-    void behaviour_data()
+    void files_data()
     {
-        DataTable<QString>({"steps"})
-            .row("connection",
-                 "load RULES/cnctType=0; shows Srv_Operation_comboBox_TypeConnect 1; saves RULES/cnctType 0; "
-                 "off Srv_Operation_frame_Permanent_Connect; on Srv_Operation_frame_Periodic_Connect; "
-                 "load; on Srv_Operation_frame_Permanent_Connect; off Srv_Operation_frame_Periodic_Connect; "
-                 "set Srv_Operation_comboBox_TypeConnect 1; off Srv_Operation_frame_Permanent_Connect; "
-                 "on Srv_Operation_frame_Periodic_Connect; saves RULES/cnctType 0")
-            .row("missing flag", "load; shows checkBox_NoCur true; saves RULES/noCur 1")
-            .row("block timer", "load RULES/blockTimer=300; shows Srv_Operation_spinBox_Block_H 0; "
-                                "shows Srv_Operation_spinBox_Block_M 5; saves RULES/blockTimer 300")
-            .row("connection period beyond a day",
-                 "load RULES/cnctTimer=90060; shows Srv_Operation_spinBox_Periodic_Connect_Period_H 1; "
-                 "saves RULES/cnctTimer 3660")
-            .row("negative connection period",
-                 "load RULES/cnctTimer=-60; shows Srv_Operation_spinBox_Periodic_Connect_Period_H 23; "
-                 "saves RULES/cnctTimer 86340")
-            .row("no group timer", "load RULES/grpTimer=0; off spinBox_GrpTimer; saves RULES/grpTimer 0")
-            .row("group timer",
-                 "load RULES/grpTimer=45; shows spinBox_GrpTimer 45; saves RULES/grpTimer 45; "
-                 "set spinBox_GrpTimer 200; set checkBox_GrpTimer false; off spinBox_GrpTimer; "
-                 "saves RULES/grpTimer 0; set checkBox_GrpTimer true; shows spinBox_GrpTimer 30; "
-                 "set spinBox_GrpTimer 301; shows spinBox_GrpTimer 300")
-            .row("roaming connection",
-                 "load ROAM/cnctTimer=7200; shows spinBox_RConnectPeriod 120; saves ROAM/cnctTimer 7200")
-            .row("roaming block",
-                 "load ROAM/blockTimer=90000; shows spinBox_RBlockH 25; saves ROAM/blockTimer 90000; "
-                 "set spinBox_RBlockH 1; set spinBox_RBlockM 0; saves ROAM/blockTimer 3600; "
-                 "set spinBox_RBlockH 0; saves ROAM/blockTimer 300")
-            .row("unknown roaming mode",
-                 "load ROAMSIM1/mode=7; shows comboBox_RModeSim_1 2; saves ROAMSIM1/mode 2")
-            .row("unknown flag", "load ROAMSIM1/dontCnct=5; shows checkBox_sendData false; saves "
-                                 "ROAMSIM1/dontCnct 1")
-            .row("a day", "load QSP/cnctTimer=86400; shows spinBox_QSP_CnctTimer_hh 0; saves QSP/cnctTimer "
-                          "86400; set spinBox_QSP_CnctTimer_dd 0; saves QSP/cnctTimer 600; "
-                          "set spinBox_QSP_CnctTimer_hh 2; set spinBox_QSP_CnctTimer_mm 0; "
-                          "saves QSP/cnctTimer 7200; set spinBox_QSP_CnctTimer_hh 0; saves QSP/cnctTimer 600")
-            .row("more than a day",
-                 "load QSP/cnctTimer=90000; shows spinBox_QSP_CnctTimer_hh 1; saves QSP/cnctTimer 90000")
-            .row("less than allowed",
-                 "load QSP/cnctTimer=60; shows spinBox_QSP_CnctTimer_mm 10; saves QSP/cnctTimer 600")
-            .row("protocol",
-                 "load SRV1/protocol=VLKB_ZETA; shows Transfer_comboBox_Protocol_Format_Main ZETA; "
-                 "saves SRV1/protocol ZETA; set Transfer_comboBox_Protocol_Format_Main -1; "
-                 "saves SRV1/protocol VLKB_ZETA")
-            .row("highest object",
-                 "load SRV1/objID=2147483647; shows Transfer_spinBox_Protocol_ObjectID_Main 2147483647; "
-                 "saves SRV1/objID 2147483647")
-            .row("server without an address",
-                 "load SRV2/addr=; shows GPRSSrv_groupBox_Reserv_1 true; saves SRV2/addr ")
-            .row("server not used",
-                 "load SRV2/addr=0.0.0.0; shows GPRSSrv_groupBox_Reserv_1 false; saves SRV2/addr 0.0.0.0")
-            .row("server taken into use",
-                 "set GPRSSrv_groupBox_Reserv_1 true; saves SRV2/addr 0.0.0.0; saves SRV2/port 4000; "
-                 "set GPRSSrv_lineEdit_IP_DNS_Reserv_1 track.example; saves SRV2/addr track.example; "
-                 "set GPRSSrv_groupBox_Reserv_1 false; shows GPRSSrv_lineEdit_IP_DNS_Reserv_1 ; "
-                 "set GPRSSrv_lineEdit_IP_DNS_Reserv_1 typed.example; saves SRV2/addr 0.0.0.0; reload; "
-                 "shows GPRSSrv_groupBox_Reserv_1 false; shows GPRSSrv_lineEdit_IP_DNS_Reserv_1 0.0.0.0")
-            .row("test needs an address",
-                 "load SRV1/addr=a.example SRV2/addr=0.0.0.0 SRV3/addr=; on GPRSSrv_toolButton_Test_Main; "
-                 "off GPRSSrv_toolButton_Test_Reserv_1; off GPRSSrv_toolButton_Test_Reserv_2; "
-                 "set GPRSSrv_lineEdit_IP_DNS_Main ; off GPRSSrv_toolButton_Test_Main; "
-                 "set GPRSSrv_groupBox_Reserv_1 true; on GPRSSrv_toolButton_Test_Reserv_1")
-            .row("roaming modes",
-                 "set comboBox_RModeSim_1 0; on checkBox_RNoSmsSim_1; on checkBox_RNoCallSim_1; "
-                 "off frame_RPerion; off frame_RConnectPeriod; on frame_RBlock; "
-                 "set comboBox_RModeSim_1 1; on checkBox_RNoSmsSim_1; on checkBox_RNoCallSim_1; "
-                 "off frame_RPerion; on frame_RConnectPeriod; on frame_RBlock; "
-                 "set comboBox_RModeSim_1 2; off checkBox_RNoSmsSim_1; off checkBox_RNoCallSim_1; "
-                 "off frame_RPerion; off frame_RConnectPeriod; off frame_RBlock; "
-                 "set comboBox_RModeSim_1 3; on checkBox_RNoSmsSim_1; on checkBox_RNoCallSim_1; "
-                 "on frame_RPerion; off frame_RConnectPeriod; on frame_RBlock");
+        DataTable<Values, Values, Values>({"loaded", "shown", "saved"})
+            .row("missing flag", Values{}, Values{{"checkBox_NoCur", "true"}}, Values{{"RULES/noCur", "1"}})
+            .row("block timer", Values{{"RULES/blockTimer", "300"}},
+                 Values{{"Srv_Operation_spinBox_Block_H", "0"}, {"Srv_Operation_spinBox_Block_M", "5"}},
+                 Values{{"RULES/blockTimer", "300"}})
+            .row("connection period beyond a day", Values{{"RULES/cnctTimer", "90060"}},
+                 Values{{"Srv_Operation_spinBox_Periodic_Connect_Period_H", "1"}},
+                 Values{{"RULES/cnctTimer", "3660"}})
+            .row("negative connection period", Values{{"RULES/cnctTimer", "-60"}},
+                 Values{{"Srv_Operation_spinBox_Periodic_Connect_Period_H", "23"}},
+                 Values{{"RULES/cnctTimer", "86340"}})
+            .row("group timer", Values{{"RULES/grpTimer", "45"}}, Values{{"spinBox_GrpTimer", "45"}},
+                 Values{{"RULES/grpTimer", "45"}})
+            .row("roaming connection", Values{{"ROAM/cnctTimer", "7200"}},
+                 Values{{"spinBox_RConnectPeriod", "120"}}, Values{{"ROAM/cnctTimer", "7200"}})
+            .row("roaming block", Values{{"ROAM/blockTimer", "90000"}}, Values{{"spinBox_RBlockH", "25"}},
+                 Values{{"ROAM/blockTimer", "90000"}})
+            .row("unknown roaming mode", Values{{"ROAMSIM1/mode", "7"}}, Values{{"comboBox_RModeSim_1", "2"}},
+                 Values{{"ROAMSIM1/mode", "2"}})
+            .row("unknown flag", Values{{"ROAMSIM1/dontCnct", "5"}}, Values{{"checkBox_sendData", "false"}},
+                 Values{{"ROAMSIM1/dontCnct", "1"}})
+            .row("a day", Values{{"QSP/cnctTimer", "86400"}}, Values{{"spinBox_QSP_CnctTimer_hh", "0"}},
+                 Values{{"QSP/cnctTimer", "86400"}})
+            .row("more than a day", Values{{"QSP/cnctTimer", "90000"}},
+                 Values{{"spinBox_QSP_CnctTimer_hh", "1"}}, Values{{"QSP/cnctTimer", "90000"}})
+            .row("less than allowed", Values{{"QSP/cnctTimer", "60"}},
+                 Values{{"spinBox_QSP_CnctTimer_mm", "10"}}, Values{{"QSP/cnctTimer", "600"}})
+            .row("highest object", Values{{"SRV1/objID", "2147483647"}},
+                 Values{{"Transfer_spinBox_Protocol_ObjectID_Main", "2147483647"}},
+                 Values{{"SRV1/objID", "2147483647"}})
+            .row("server without an address", Values{{"SRV2/addr", ""}},
+                 Values{{"GPRSSrv_groupBox_Reserv_1", "true"}}, Values{{"SRV2/addr", ""}})
+            .row("server not used", Values{{"SRV2/addr", "0.0.0.0"}},
+                 Values{{"GPRSSrv_groupBox_Reserv_1", "false"}}, Values{{"SRV2/addr", "0.0.0.0"}});
     }
-    // Load these keys, set a widget, and see what a widget shows, whether it is on or off, what is saved.
-    void behaviour()
+    void files()
     {
-        QFETCH(QString, steps);
-        for (const QString& step : steps.split("; ")) {
-            const QStringList words = step.split(' ');
-            const QByteArray object = words.value(1).toLatin1();
-            const char* const name = object.constData();
-            const QString value = words.value(2);
-            if (words[0] == "load") {
-                Values values;
-                for (const QString& word : words.mid(1))
-                    values[word.section('=', 0, 0)] = word.section('=', 1);
-                load(values);
-            } else if (words[0] == "reload") {
-                load(save());
-            } else if (words[0] == "set") {
-                QVERIFY2(get(name)->setProperty(property(name), value), qPrintable(step));
-            } else if (words[0] == "shows") {
-                const auto* list = qobject_cast<QComboBox*>(get(name));
-                const QString shown = get(name)->property(property(name)).toString();
-                QVERIFY2(shown == value || (list && list->currentText() == value),
-                         qPrintable(step + ", not " + shown));
-            } else if (words[0] == "saves") {
-                QVERIFY2(saved(name) == value, qPrintable(step + ", not " + saved(name)));
-            } else {
-                QVERIFY2(isOn(name) == (words[0] == "on"), qPrintable(step));
-            }
+        QFETCH(Values, loaded);
+        QFETCH(Values, shown);
+        load(loaded);
+        for (auto widget = shown.begin(); widget != shown.end(); ++widget)
+            QCOMPARE(get(widget.key())->property(property(widget.key())).toString(), widget.value());
+        QFETCH(Values, saved);
+        QCOMPARE(notSaved(saved), QStringList());
+    }
+
+    void connection()
+    {
+        const QString permanent = "Srv_Operation_frame_Permanent_Connect";
+        const QString periodic = "Srv_Operation_frame_Periodic_Connect";
+        load({{"RULES/cnctType", "0"}});
+        QCOMPARE(indexOf("Srv_Operation_comboBox_TypeConnect"), 1);
+        QVERIFY(!isOn(permanent) && isOn(periodic));
+        load({});
+        QVERIFY(isOn(permanent) && !isOn(periodic));
+        set("Srv_Operation_comboBox_TypeConnect", 1);
+        QVERIFY(!isOn(permanent) && isOn(periodic));
+        QCOMPARE(saved("RULES/cnctType"), QString("0"));
+    }
+
+    void groupTimer()
+    {
+        load({{"RULES/grpTimer", "0"}});
+        QVERIFY(!isOn("spinBox_GrpTimer"));
+        set("checkBox_GrpTimer", true);
+        set("spinBox_GrpTimer", 200);
+        set("checkBox_GrpTimer", false);
+        QVERIFY(!isOn("spinBox_GrpTimer"));
+        QCOMPARE(saved("RULES/grpTimer"), QString("0"));
+        set("checkBox_GrpTimer", true);
+        QCOMPARE(get<QSpinBox>("spinBox_GrpTimer")->value(), 30);
+        set("spinBox_GrpTimer", 301);
+        QCOMPARE(saved("RULES/grpTimer"), QString("300"));
+    }
+
+    void leastPeriods_data()
+    {
+        DataTable<QString, int, QString, QString>({"box", "value", "key", "saved"})
+            .row("roaming hours", "spinBox_RBlockH", 1, "ROAM/blockTimer", "3600")
+            .row("no roaming hours", "spinBox_RBlockH", 0, "ROAM/blockTimer", "300")
+            .row("hours", "spinBox_QSP_CnctTimer_hh", 2, "QSP/cnctTimer", "7200")
+            .row("no hours", "spinBox_QSP_CnctTimer_hh", 0, "QSP/cnctTimer", "600");
+    }
+    // Days and minutes at nought, hours as told: a period that is too short grows to the least one.
+    void leastPeriods()
+    {
+        set("spinBox_QSP_CnctTimer_dd", 0);
+        QCOMPARE(saved("QSP/cnctTimer"), QString("600"));
+        for (const char* hours : {"spinBox_RBlockH", "spinBox_QSP_CnctTimer_hh"})
+            set(hours, 3);
+        for (const char* minutes : {"spinBox_RBlockM", "spinBox_QSP_CnctTimer_mm"})
+            set(minutes, 0);
+        QFETCH(QString, box);
+        QFETCH(int, value);
+        set(box, value);
+        QFETCH(QString, key);
+        QTEST(saved(key), "saved");
+    }
+
+    void protocol()
+    {
+        load({{"SRV1/protocol", "VLKB_ZETA"}});
+        QCOMPARE(get<QComboBox>("Transfer_comboBox_Protocol_Format_Main")->currentText(), QString("ZETA"));
+        QCOMPARE(saved("SRV1/protocol"), QString("ZETA"));
+        set("Transfer_comboBox_Protocol_Format_Main", -1);
+        QCOMPARE(saved("SRV1/protocol"), QString("VLKB_ZETA"));
+    }
+
+    void takesAServerIntoUse()
+    {
+        set("GPRSSrv_groupBox_Reserv_1", true);
+        QCOMPARE(notSaved({{"SRV2/addr", "0.0.0.0"}, {"SRV2/port", "4000"}}), QStringList());
+        set("GPRSSrv_lineEdit_IP_DNS_Reserv_1", "track.example");
+        QCOMPARE(saved("SRV2/addr"), QString("track.example"));
+        set("GPRSSrv_groupBox_Reserv_1", false);
+        QCOMPARE(textOf("GPRSSrv_lineEdit_IP_DNS_Reserv_1"), QString());
+        set("GPRSSrv_lineEdit_IP_DNS_Reserv_1", "typed.example");
+        QCOMPARE(saved("SRV2/addr"), QString("0.0.0.0"));
+        load(save());
+        QVERIFY(!get<QGroupBox>("GPRSSrv_groupBox_Reserv_1")->isChecked());
+        QCOMPARE(textOf("GPRSSrv_lineEdit_IP_DNS_Reserv_1"), QString("0.0.0.0"));
+    }
+
+    void testNeedsAnAddress()
+    {
+        load({{"SRV1/addr", "a.example"}, {"SRV2/addr", "0.0.0.0"}, {"SRV3/addr", ""}});
+        QVERIFY(isOn("GPRSSrv_toolButton_Test_Main"));
+        QVERIFY(!isOn("GPRSSrv_toolButton_Test_Reserv_1") && !isOn("GPRSSrv_toolButton_Test_Reserv_2"));
+        set("GPRSSrv_lineEdit_IP_DNS_Main", "");
+        QVERIFY(!isOn("GPRSSrv_toolButton_Test_Main"));
+        set("GPRSSrv_groupBox_Reserv_1", true);
+        QVERIFY(isOn("GPRSSrv_toolButton_Test_Reserv_1"));
+    }
+
+    void roamingModes_data()
+    {
+        DataTable<int, QString>({"mode", "on"})
+            .row("as at home", 0, "checkBox_RNoSmsSim_1 checkBox_RNoCallSim_1 frame_RBlock")
+            .row("connections", 1,
+                 "checkBox_RNoSmsSim_1 checkBox_RNoCallSim_1 frame_RConnectPeriod frame_RBlock")
+            .row("off", 2, "")
+            .row("periods", 3, "checkBox_RNoSmsSim_1 checkBox_RNoCallSim_1 frame_RPerion frame_RBlock");
+    }
+    void roamingModes()
+    {
+        QFETCH(int, mode);
+        set("comboBox_RModeSim_1", mode);
+        QStringList on;
+        for (const char* name : {"checkBox_RNoSmsSim_1", "checkBox_RNoCallSim_1", "frame_RPerion",
+                                 "frame_RConnectPeriod", "frame_RBlock"}) {
+            if (isOn(name))
+                on << name;
         }
+        QTEST(on.join(' '), "on");
     }
 
     void objectName()
@@ -263,11 +316,12 @@ private Q_SLOTS:
     }
 
 private:
-    const char* property(const char* name)
+    const char* property(const QString& name)
     {
         return qobject_cast<QComboBox*>(get(name)) ? "currentIndex"
                                                    : get(name)->metaObject()->userProperty().name();
     }
+    void set(const QString& name, const QVariant& value) { get(name)->setProperty(property(name), value); }
 };
 
 QTEST_MAIN(TransferTest)

@@ -5,6 +5,8 @@
 
 #include <QtTest>
 
+using Values = QVector<QPair<QString, QString>>;
+
 class ConfigurationTest : public QObject
 {
     Q_OBJECT
@@ -18,44 +20,42 @@ private Q_SLOTS:
 
     void everySample_data()
     {
-        QTest::addColumn<int>("table");
         QTest::addColumn<int>("index");
-        for (std::size_t table = 0; table < vlk::allSettings().size(); ++table) {
-            const vlk::Configuration configuration({vlk::allSettings()[table]});
-            for (int i = 0; i < configuration.count(); ++i)
-                QTest::newRow(qPrintable(configuration.path(i))) << static_cast<int>(table) << i;
-        }
+        for (int i = 0; i < configuration_.count(); ++i)
+            QTest::newRow(qPrintable(configuration_.path(i))) << i;
     }
     // Whatever the file holds, what was saved is read as it was saved, and notes tell what became of it.
     void everySample()
     {
-        QFETCH(int, table);
         QFETCH(int, index);
-        vlk::Configuration configuration({vlk::allSettings()[table]});
-        const vlk::TableLayout::Row& row = configuration.row(index);
-        QStringList samples = samplesOf(configuration.setting(configuration.holder(index)));
-        // What no list offers a way to is left alone by any file.
-        readAndWritten(configuration, documentWith(presenceOf(configuration, index)));
-        if (row.setting->stored && !configuration.isWritten(index))
+        // With the settings of its own table alone: others play no part.
+        const vlk::SettingsTable& table = *configuration_.layout(index).table;
+        if (table_.layout(0).table != &table)
+            table_ = vlk::Configuration({&table});
+        index -= configuration_.firstOf(table);
+        const vlk::TableLayout::Row& row = table_.row(index);
+        QStringList samples = samplesOf(table_.setting(table_.holder(index)));
+        // What no list offers a way to is the same whatever a file holds.
+        readAndWritten(table_, documentWith(presenceOf(table_, index)));
+        if (row.setting->stored && !table_.isWritten(index))
             samples = samples.mid(0, 2);
         for (const QString& sample : samples) {
-            QVector<QPair<QString, QString>> values = {{row.filePath, sample}};
-            const QByteArray first =
-                readAndWritten(configuration, documentWith(presenceOf(configuration, index) + values));
-            const QByteArray second = readAndWritten(configuration, first);
-            QCOMPARE(second, savedAgain(configuration, first));
-            QCOMPARE(readAndWritten(configuration, second), second);
+            const QByteArray file = documentWith(presenceOf(table_, index) + Values{{row.filePath, sample}});
+            const QByteArray first = readAndWritten(table_, file);
+            const QByteArray second = readAndWritten(table_, first);
+            QCOMPARE(second, savedAgain(table_, first));
+            QCOMPARE(readAndWritten(table_, second), second);
 
-            configuration.reset();
-            vlk::XmlDocument in(documentWith(presenceOf(configuration, index) + values), "DEVICE");
-            const std::vector<vlk::ReadNote> notes = configuration.read(*in.root());
+            table_.reset();
+            vlk::XmlDocument in(file, "DEVICE");
+            const std::vector<vlk::ReadNote> notes = notesOf(table_, in);
             const bool noted = std::any_of(notes.begin(), notes.end(), [&](const vlk::ReadNote& note) {
                 return note.index == index && note.change != vlk::Change::missing;
             });
-            const bool taken = !row.setting->stored || configuration.value(index) == sample;
-            if (row.setting->kind != vlk::Kind::constant && configuration.isWritten(index))
-                QVERIFY2(noted != taken || configuration.written(index) != configuration.value(index),
-                         qPrintable(row.path + " = " + sample + " became " + configuration.value(index)));
+            const bool taken = !row.setting->stored || table_.value(index) == sample;
+            if (row.setting->kind != vlk::Kind::constant && table_.isWritten(index))
+                QVERIFY2(noted != taken || table_.written(index) != table_.value(index),
+                         qPrintable(row.path + " = " + sample + " became " + table_.value(index)));
         }
     }
 
@@ -70,7 +70,7 @@ private Q_SLOTS:
         const vlk::Configuration before = configuration_;
         for (const char* text : {"", "<DEVICE><TRANS>", "no document"}) {
             vlk::XmlDocument in(QByteArray(text), "DEVICE");
-            QVERIFY(configuration_.read(*in.root()).empty());
+            QVERIFY(notesOf(configuration_, in).empty());
             QVERIFY(configuration_.differences(before).empty());
         }
     }
@@ -82,7 +82,7 @@ private Q_SLOTS:
                        "<SRV1 port=\"6000\"/><SRV9/></TRANS></DEVICE>"),
             "DEVICE");
         QStringList told;
-        for (const vlk::ReadNote& note : configuration_.read(*in.root())) {
+        for (const vlk::ReadNote& note : notesOf(configuration_, in)) {
             if (note.what != vlk::ReadNote::What::value)
                 told << QString::number(static_cast<int>(note.what)) + ' ' + note.path;
         }
@@ -91,7 +91,15 @@ private Q_SLOTS:
     }
 
 private:
+    static std::vector<vlk::ReadNote> notesOf(vlk::Configuration& configuration, vlk::XmlDocument& document)
+    {
+        std::vector<vlk::ReadNote> notes;
+        configuration.read(*document.root(), &notes);
+        return notes;
+    }
+
     vlk::Configuration configuration_{vlk::allSettings()};
+    vlk::Configuration table_{{vlk::allSettings().front()}};
 };
 
 QTEST_GUILESS_MAIN(ConfigurationTest)

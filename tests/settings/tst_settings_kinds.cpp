@@ -380,7 +380,9 @@ private:
     {
         configuration_.reset();
         XmlDocument in(documentWith(values), "DEVICE");
-        return configuration_.read(*in.root());
+        std::vector<ReadNote> notes;
+        configuration_.read(*in.root(), &notes);
+        return notes;
     }
     void edit(const char* key, const char* text)
     {

@@ -12,6 +12,7 @@
 #include "windows/vlk_dblslider2.h"
 
 #include <QAbstractSpinBox>
+#include <QApplication>
 #include <QComboBox>
 #include <QHash>
 #include <QLabel>
@@ -209,6 +210,25 @@ void Binder::dress()
         if (adapter)
             adapter->dress();
     }
+    for (const TableLayout::RangeWhen& rule : layout_.ranges)
+        ranges_[rule.row] = rangeOf(rule.row);
+}
+
+Binder::Range Binder::rangeOf(int row) const
+{
+    return {configuration_.limits(first_ + row), configuration_.unitKey(first_ + row)};
+}
+
+// Where another range holds than the widget was dressed with.
+void Binder::dressRanged(int row)
+{
+    const Range now = rangeOf(row);
+    const auto known = ranges_.find(row);
+    if (!adapters_[row] || (known != ranges_.end() && known->second == now))
+        return;
+    ranges_[row] = now;
+    adapters_[row]->dress();
+    showRow(row);
 }
 
 void Binder::show()
@@ -219,11 +239,8 @@ void Binder::show()
             showRow(static_cast<int>(row));
         for (const auto& handles : handles_)
             handles->show();
-        for (const TableLayout::RangeWhen& rule : layout_.ranges) {
-            if (adapters_[rule.row])
-                adapters_[rule.row]->dress();
-            showRow(rule.row);
-        }
+        for (const TableLayout::RangeWhen& rule : layout_.ranges)
+            dressRanged(rule.row);
         for (const TableLayout::SoleList& list : layout_.soleLists)
             dressList(list);
     }
@@ -232,10 +249,8 @@ void Binder::show()
 
 void Binder::dressList(const TableLayout::SoleList& list)
 {
-    for (const TableLayout::Sole& sole : list.soles) {
-        if (adapters_[sole.row])
-            adapters_[sole.row]->dress();
-    }
+    for (const TableLayout::Sole& sole : list.soles)
+        dressRanged(sole.row);
 }
 
 void Binder::showRow(int row)
@@ -271,11 +286,8 @@ void Binder::edited(int index, const QString& value)
         const Showing showing(showing_);
         // Ranges may follow another value.
         for (const TableLayout::RangeWhen& rule : layout_.ranges) {
-            if (std::find(changed.begin(), changed.end(), first_ + rule.when.row) == changed.end())
-                continue;
-            if (adapters_[rule.row])
-                adapters_[rule.row]->dress();
-            showRow(rule.row);
+            if (std::find(changed.begin(), changed.end(), first_ + rule.when.row) != changed.end())
+                dressRanged(rule.row);
         }
         for (const TableLayout::SoleList& list : layout_.soleLists) {
             if (std::any_of(changed.begin(), changed.end(),
@@ -315,14 +327,10 @@ void Binder::take(const QString& widget)
 
 void Binder::finishTyping()
 {
-    for (const Form& form : forms_) {
-        if (!form.widget)
-            continue;
-        for (QAbstractSpinBox* box : form.widget->findChildren<QAbstractSpinBox*>()) {
-            if (box->hasFocus())
-                box->interpretText();
-        }
-    }
+    auto* box = qobject_cast<QAbstractSpinBox*>(QApplication::focusWidget());
+    if (box && std::any_of(forms_.begin(), forms_.end(),
+                           [box](const Form& form) { return form.widget && form.widget->isAncestorOf(box); }))
+        box->interpretText();
 }
 
 void Binder::selectFirstItems()

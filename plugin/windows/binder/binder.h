@@ -14,6 +14,7 @@
 #include <QPointer>
 #include <QStringList>
 
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -94,7 +95,18 @@ private:
     };
 
     const Form* formNamed(const QString& name) const;
+    // What a widget was dressed with: rules may give it another range.
+    struct Range
+    {
+        Limits limits;
+        const char* unit;
+
+        bool operator==(const Range&) const = default;
+    };
+
     std::unique_ptr<Adapter> makeAdapter(int index);
+    Range rangeOf(int row) const;
+    void dressRanged(int row);
     void showRow(int row);
     // Settings that share a list: what one holds is not in the lists of the others.
     void dressList(const TableLayout::SoleList& list);
@@ -107,6 +119,7 @@ private:
     std::vector<std::unique_ptr<Adapter>> adapters_; // one a row, null where a row has no widget
     std::vector<std::unique_ptr<HandlesAdapter>> handles_;
     std::vector<Target> targets_;
+    std::map<int, Range> ranges_; // of the rows that rules give ranges
     QStringList problems_;
     int showing_ = 0;
 };

@@ -55,12 +55,16 @@ void NumberBox::setValue(double value)
 
 void NumberBox::setRange(double least, double most)
 {
-    if (auto* box = qobject_cast<QDoubleSpinBox*>(widget_))
-        box->setRange(least, most);
-    else if (auto* whole = qobject_cast<QSpinBox*>(widget_))
-        whole->setRange(static_cast<int>(least), static_cast<int>(most));
-    else if (auto* slider = qobject_cast<QAbstractSlider*>(widget_))
+    // Each setting of a range lays the box out anew.
+    if (auto* box = qobject_cast<QDoubleSpinBox*>(widget_)) {
+        if (box->minimum() != least || box->maximum() != most)
+            box->setRange(least, most);
+    } else if (auto* whole = qobject_cast<QSpinBox*>(widget_)) {
+        if (whole->minimum() != static_cast<int>(least) || whole->maximum() != static_cast<int>(most))
+            whole->setRange(static_cast<int>(least), static_cast<int>(most));
+    } else if (auto* slider = qobject_cast<QAbstractSlider*>(widget_)) {
         slider->setRange(position(least), position(most));
+    }
 }
 
 void NumberBox::setSuffix(const QString& suffix)
