@@ -16,6 +16,7 @@
 #include "pages/form_config_system.h"
 #include "pages/form_config_track.h"
 #include "pages/form_config_transfer.h"
+#include "peripherals/form_config_bluetooth.h"
 
 #include <concepts>
 #include <tuple>
@@ -24,7 +25,7 @@ namespace vlk {
 
 using PageTuple = std::tuple<VLK_Form_Config_Transfer*, VLK_Form_Config_Track*, VLK_Form_Config_System*,
                              VLK_Form_Config_Sensors_Temp*, VLK_Form_Config_Lines_In*, VLK_Form_Config_Accel*,
-                             VLK_Form_Config_Lines_Out*>;
+                             VLK_Form_Config_Lines_Out*, VLK_Form_Config_Bluetooth*>;
 
 // deviceConnected(), deviceDisconnected()
 template <class Page>

@@ -74,6 +74,12 @@ struct Names
         }
         return true;
     }();
+    // The list and its label.
+    static constexpr Text indexTargets = [] {
+        const std::string_view widget = hasIndex ? type.index.widget : "";
+        return textOf({indexWidget.data(), " ", type.section, "/label_",
+                       widget.substr(std::min(widget.size(), widget.find('_') + 1))});
+    }();
     static constexpr When indexed = allIndexed ? When{} : when(typePath.data(), indexedVendors.data());
 
     static constexpr auto indexFormats = [] {
@@ -210,7 +216,27 @@ constexpr auto formPulls = [] {
 
 constexpr auto kPulls = repeat<kBluetoothSensors>([](int) { return rulesOf(formPulls, universal::pulls); });
 constexpr auto kRanges = repeat<kBluetoothSensors>([](int) { return universal::ranges; });
-constexpr auto kEnables = repeat<kBluetoothSensors>([](int) { return universal::enables; });
+
+// The number of a sensor is shown where its vendor's value takes one.
+template <std::size_t i>
+constexpr auto enablesOfType()
+{
+    using Type = Names<i>;
+    if constexpr (Type::allIndexed)
+        return std::array<Enable, 0>{};
+    else
+        return std::array{show(Type::indexTargets.data(), Type::indexed)};
+}
+
+template <std::size_t... types>
+constexpr auto sensorEnables(std::index_sequence<types...>)
+{
+    return rulesOf(enablesOfType<types>()..., universal::enables);
+}
+
+constexpr auto kEnables =
+    rulesOf(enable("groupBox_Bt_List", when("GLOBAL/use")),
+            repeat<kBluetoothSensors>([](int) { return sensorEnables(std::make_index_sequence<kTypes>{}); }));
 
 template <std::size_t i>
 constexpr auto solesOfType()

@@ -176,19 +176,23 @@ void Configuration::reset(const SettingsTable& table)
     resetPart(partOf(table));
 }
 
+void Configuration::resetRow(const Part& part, int row)
+{
+    const Setting& setting = *part.layout->rows[row].setting;
+    if (setting.resets == Setting::Reset::keeps || setting.kind == Kind::link)
+        return;
+    const int index = part.first + row;
+    const QString reset = resetValue(setting);
+    values_[index] = setting.none && reset == QLatin1String(setting.none)
+                         ? reset
+                         : normalise(setting, reset, values_[index], ownLimits(part, row)).value;
+}
+
 void Configuration::resetPart(const Part& part)
 {
     const int rows = static_cast<int>(part.layout->rows.size());
-    for (int row = 0; row < rows; ++row) {
-        const Setting& setting = *part.layout->rows[row].setting;
-        if (setting.resets == Setting::Reset::keeps || setting.kind == Kind::link)
-            continue;
-        const int index = part.first + row;
-        const QString reset = resetValue(setting);
-        values_[index] = setting.none && reset == QLatin1String(setting.none)
-                             ? reset
-                             : normalise(setting, reset, values_[index], ownLimits(part, row)).value;
-    }
+    for (int row = 0; row < rows; ++row)
+        resetRow(part, row);
     for (const TableLayout::SoleList& list : part.layout->soleLists)
         keepSoles(part, list, nullptr);
     for (const TableLayout::Distance& rule : part.layout->distances) {
@@ -196,6 +200,20 @@ void Configuration::resetPart(const Part& part)
             keepDistances(part, rule.gapFrom, nullptr);
     }
     keepBounds(part, nullptr);
+}
+
+void Configuration::resetUnder(const SettingsTable& table, const QString& owner, const QString& code)
+{
+    const Part& part = partOf(table);
+    const int ownerRow = indexOf(owner) - part.first;
+    for (const TableLayout::Group& group : part.layout->groups) {
+        if (group.present.row != ownerRow || !isOneOf(code, group.present))
+            continue;
+        for (int row = group.firstRow; row < group.endRow; ++row)
+            resetRow(part, row);
+    }
+    for (const TableLayout::SoleList& list : part.layout->soleLists)
+        keepSoles(part, list, nullptr);
 }
 
 std::vector<Difference> Configuration::differences(const Configuration& other) const

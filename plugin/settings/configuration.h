@@ -77,11 +77,12 @@ public:
     void write(CXmlSection& root) const;
     void write(CXmlSection& root, const SettingsTable& table) const;
 
-    // The same for no more than the elements that stand in a file while the value at `owner` is `code`, as
+    // Read, reset and write for no more than the elements that stand in a file while the value at `owner` is `code`, as
     // though it were: an element that no list of this tracker offers a way to. `section` is that of the
     // table.
     void readUnder(const CXmlSection& section, const SettingsTable& table, const QString& owner,
                    const QString& code);
+    void resetUnder(const SettingsTable& table, const QString& owner, const QString& code);
     void writeUnder(CXmlSection& section, const SettingsTable& table, const QString& owner,
                     const QString& code) const;
 
@@ -117,6 +118,7 @@ private:
                           const TableLayout::Sole& sole) const;
     double gapOf(const Part& part, const TableLayout::Distance& rule) const;
     void resetPart(const Part& part);
+    void resetRow(const Part& part, int row);
     void readPart(const Part& part, const CXmlSection& root, std::vector<ReadNote>* notes);
     void readGroups(const Part& part, const CXmlSection& section, int owner, std::vector<ReadNote>* notes);
     void writeGroups(const Part& part, CXmlSection& section, int owner) const;
