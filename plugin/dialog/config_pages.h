@@ -9,6 +9,7 @@
 // What only some pages have is found by its name; the concepts below list it. A page is added by its header
 // and a line in PageTuple.
 
+#include "dataset/form_config_zeta3.h"
 #include "pages/form_config_accel.h"
 #include "pages/form_config_lines_in.h"
 #include "pages/form_config_lines_out.h"
@@ -17,15 +18,17 @@
 #include "pages/form_config_track.h"
 #include "pages/form_config_transfer.h"
 #include "peripherals/form_config_bluetooth.h"
+#include "peripherals/form_config_rs.h"
 
 #include <concepts>
 #include <tuple>
 
 namespace vlk {
 
-using PageTuple = std::tuple<VLK_Form_Config_Transfer*, VLK_Form_Config_Track*, VLK_Form_Config_System*,
-                             VLK_Form_Config_Sensors_Temp*, VLK_Form_Config_Lines_In*, VLK_Form_Config_Accel*,
-                             VLK_Form_Config_Lines_Out*, VLK_Form_Config_Bluetooth*>;
+using PageTuple = std::tuple<VLK_Form_Config_Transfer*, VLK_Form_Config_Zeta3*, VLK_Form_Config_Track*,
+                             VLK_Form_Config_System*, VLK_Form_Config_RS*, VLK_Form_Config_Sensors_Temp*,
+                             VLK_Form_Config_Lines_In*, VLK_Form_Config_Accel*, VLK_Form_Config_Lines_Out*,
+                             VLK_Form_Config_Bluetooth*>;
 
 // deviceConnected(), deviceDisconnected()
 template <class Page>
@@ -39,6 +42,13 @@ template <class Page>
 concept HasUserParams = requires
 {
     &Page::loadUserParams;
+};
+
+// userParamAdded(code, name, third, size), userParamDeleted(...): the free slots of the record
+template <class Page>
+concept TakesUserParams = requires
+{
+    &Page::userParamAdded;
 };
 
 // signal_Excess_Size(bool) locks all tabs but its own

@@ -1,17 +1,15 @@
 #pragma once
 
-// The tabs of the full window and the ways to them: the buttons for the first, previous, next and last tab,
-// and a menu with an entry for each.
+// The tabs of the full window and the ways to them: their menu, and the buttons for the first, previous, next
+// and last tab.
 
-#include <QObject>
+#include "windows/tab_menu.h"
 
-class QMenu;
 class QPushButton;
-class QTabWidget;
 
 namespace vlk {
 
-class TabNavigation : public QObject
+class TabNavigation : public TabMenu
 {
     Q_OBJECT
 
@@ -27,15 +25,9 @@ public:
 
     TabNavigation(QTabWidget* tabs, const Buttons& buttons);
 
-    // Puts the page into a scroll area of its own. Gives the index of its tab.
-    int add(QWidget* page, const QString& title);
-    void setTitle(int tab, const QString& title);
     // Sets the texts of the buttons.
     void retranslate();
 
-    int current() const;
-    // Ignores an index without a tab.
-    void goTo(int tab);
     void goToFirst() { goTo(0); }
     void goToPrevious() { goTo(current() - 1); }
     void goToNext() { goTo(current() + 1); }
@@ -49,14 +41,10 @@ public:
     void lockAllBut(int tab);
     void unlock();
 
-    QMenu* menu() const { return menu_; }
-
 private:
     void setLocked(bool locked, int kept);
 
-    QTabWidget* const tabs_;
     const Buttons buttons_;
-    QMenu* const menu_;
 };
 
 } // namespace vlk

@@ -22,9 +22,9 @@ VLK_Form_Config_RS::VLK_Form_Config_RS(QWidget* parent)
 {
     ui_->setupUi(this);
     // Trackers with two devices or two interfaces have these.
-    for (QWidget* widget : std::initializer_list<QWidget*>{ui_->groupBox_RS232, ui_->label_RS485_Owner_2,
-                                                           ui_->comboBox_RS485_Owner_2,
-                                                           ui_->label_RS485_Owner_PS_2})
+    for (QWidget* widget :
+         std::initializer_list<QWidget*>{ui_->groupBox_RS232, ui_->label_RS485_Owner_2,
+                                         ui_->comboBox_RS485_Owner_2, ui_->label_RS485_Owner_PS_2})
         widget->hide();
     settings_.bind({this});
     using This = VLK_Form_Config_RS;
@@ -108,9 +108,12 @@ void VLK_Form_Config_RS::slot_currentIndexChanged_RS485_Owner_1(const QString& /
 void VLK_Form_Config_RS::slot_SetRS485_Settings(const QString& speed, const QString& parity,
                                                 const QString& stop)
 {
-    for (const auto& [box, text] : {std::pair(ui_->comboBox_RS485_Boudrate, speed),
-                                    std::pair(ui_->comboBox_RS485_Parity, parity),
-                                    std::pair(ui_->comboBox_RS485_StopBit, stop)}) {
+    // Values that come on show have their line settings with them.
+    if (settings_.binder().isShowing())
+        return;
+    for (const auto& [box, text] :
+         {std::pair(ui_->comboBox_RS485_Boudrate, speed), std::pair(ui_->comboBox_RS485_Parity, parity),
+          std::pair(ui_->comboBox_RS485_StopBit, stop)}) {
         if (const int item = box->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive); item >= 0)
             box->setCurrentIndex(item);
     }
@@ -147,11 +150,8 @@ void VLK_Form_Config_RS::takeChange(const QString& path)
     if (path != QLatin1String(kOwner))
         return;
     showForm();
-    if (!shown_)
-        return;
-    shown_->form->applyLineSettings();
-    if (shown_->entry->offerAll)
-        shown_->entry->offerAll(*shown_->form);
+    if (shown_)
+        shown_->form->applyLineSettings();
 }
 
 const VLK_Form_Config_RS::MadeForm* VLK_Form_Config_RS::madeFor(const QString& owner)
@@ -196,6 +196,8 @@ void VLK_Form_Config_RS::showForm()
     ui_->stackedWidget_RS485_Param->setCurrentWidget(ui_->page_RS485);
     ui_->formLayout_RS485->insertRow(0, shown_->form);
     shown_->form->show();
+    if (shown_->entry->offerAll)
+        shown_->entry->offerAll(*shown_->form);
 }
 
 void VLK_Form_Config_RS::showNotice()

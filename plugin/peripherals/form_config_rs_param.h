@@ -1,8 +1,8 @@
 #pragma once
 
-// What every parameter form of a device on the serial line has in common. The RS page (form_config_rs.h) keeps
-// one form a device, made when the device is chosen for the first time, shows that of the chosen device and
-// hands it these calls.
+// What every parameter form of a device on the serial line has in common. The RS page (form_config_rs.h)
+// keeps one form a device, made when the device is chosen for the first time, shows that of the chosen device
+// and hands it these calls.
 //
 // What a form keeps in the file stands in rows of the page's table (settings/rs_settings.h), which the page
 // loads, saves and resets; loadFromXml() and saveToXml() are for what a form keeps besides. `section` is the

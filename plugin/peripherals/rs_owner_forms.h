@@ -18,12 +18,12 @@ struct RsOwnerForm
 
     const char* owner; // code
     Form* (*make)(VLK_Form_Config_RS& page);
-    // Null where the class has no such operation: after the form has come on show by the user's choice, before
-    // it goes, and the names of what it offers.
-    void (*offerAll)(Form& form);
-    void (*withdrawAll)(Form& form);
-    QString (*keyOfName)(Form& form, const QString& text);
-    QString (*nameOfKey)(Form& form, const QString& key);
+    // Null where the class has no such operation: after the form has come on show, before it goes, and the
+    // names of what it offers.
+    void (*offerAll)(Form& form) = nullptr;
+    void (*withdrawAll)(Form& form) = nullptr;
+    QString (*keyOfName)(Form& form, const QString& text) = nullptr;
+    QString (*nameOfKey)(Form& form, const QString& key) = nullptr;
 };
 
 // Null for an owner without a form.

@@ -2,6 +2,7 @@
 
 #include "settings/accel_settings.h"
 #include "settings/bluetooth_settings.h"
+#include "settings/data_set_settings.h"
 #include "settings/lines_in_settings.h"
 #include "settings/lines_out_settings.h"
 #include "settings/rs_settings.h"
@@ -15,8 +16,8 @@ namespace vlk {
 const std::vector<const SettingsTable*>& allSettings()
 {
     static const std::vector<const SettingsTable*> tables = {
-        &kTransferSettings, &kTrackSettings, &kSystemSettings,   &kRsSettings,       &kTemperatureSettings,
-        &kLinesInSettings,  &kAccelSettings, &kLinesOutSettings, &kBluetoothSettings};
+        &kTransferSettings,    &kDataSetSettings, &kTrackSettings, &kSystemSettings,   &kRsSettings,
+        &kTemperatureSettings, &kLinesInSettings, &kAccelSettings, &kLinesOutSettings, &kBluetoothSettings};
     return tables;
 }
 

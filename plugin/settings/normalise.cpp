@@ -160,14 +160,25 @@ Normalised bitNumber(const Setting& setting, const QString& text)
     return noted(QString::number(held), text, isWholeNumber(text) ? Change::outOfRange : Change::notANumber);
 }
 
-Normalised maskString(const Setting& setting, const QString& text)
+Normalised maskString(const Setting& setting, const QString& text, const QString& before)
 {
-    QString held(setting.maxLength, QLatin1Char('0'));
+    QString read(setting.maxLength, QLatin1Char('0'));
     for (int i = 0; i < setting.maxLength; ++i) {
         if (digitAt(text, static_cast<std::size_t>(i)) != 0)
-            held[i] = QLatin1Char('1');
+            read[i] = QLatin1Char('1');
     }
-    return noted(held, text, text.size() > setting.maxLength ? Change::tooLong : Change::otherForm);
+    QString held = setting.fields.empty() ? read : QString(setting.maxLength, QLatin1Char('0'));
+    for (const MaskField& field : setting.fields) {
+        const QString part = maskPart(field, read);
+        if (field.items.empty())
+            setMaskPart(field, &held, QString(field.count, QLatin1Char(isMaskOn(field, part) ? '1' : '0')));
+        else
+            setMaskPart(field, &held, maskItem(field, part) < 0 ? maskPart(field, before) : part);
+    }
+    const Change why = text.size() > setting.maxLength ? Change::tooLong
+                       : held != read                  ? Change::notOffered
+                                                       : Change::otherForm;
+    return noted(held, text, why);
 }
 
 // What a line edit with an input mask makes of a text: digits fill the places of the mask, one of its signs
@@ -304,9 +315,36 @@ Normalised normalise(const Setting& setting, const QString& text, const QString&
     case Kind::bits:
         return bitNumber(setting, text);
     case Kind::mask:
-        return maskString(setting, text);
+        return maskString(setting, text, before);
     }
     return {before, Change::none};
+}
+
+QString maskPart(const MaskField& field, const QString& mask)
+{
+    QString part;
+    for (std::size_t i = 0; i < field.count; ++i)
+        part += digitAt(mask, field.positions[i]) != 0 ? QLatin1Char('1') : QLatin1Char('0');
+    return part;
+}
+
+void setMaskPart(const MaskField& field, QString* mask, const QString& part)
+{
+    for (std::size_t i = 0; i < field.count; ++i)
+        mask->replace(field.positions[i], 1, part[static_cast<int>(i)]);
+}
+
+bool isMaskOn(const MaskField& field, const QString& part)
+{
+    const QLatin1Char on('1');
+    return field.always || (field.anyReads ? part.contains(on) : part.startsWith(on));
+}
+
+int maskItem(const MaskField& field, const QString& part)
+{
+    const auto found = std::find_if(field.items.begin(), field.items.end(),
+                                    [&](const Code& item) { return part == QLatin1String(item.code); });
+    return found == field.items.end() ? -1 : static_cast<int>(found - field.items.begin());
 }
 
 QString loadDefault(const Setting& setting)

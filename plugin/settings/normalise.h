@@ -54,6 +54,13 @@ QString resetValue(const Setting& setting);
 double shownNumber(const Setting& setting, const QString& value);
 QString fileNumber(const Setting& setting, double shown);
 
+// What the positions of a field hold in a mask, "01", and the other way round; a mask that is too short reads
+// as 0. What that means for the widget: a check box is on or not, a list has an item for it, -1 for none.
+QString maskPart(const MaskField& field, const QString& mask);
+void setMaskPart(const MaskField& field, QString* mask, const QString& part);
+bool isMaskOn(const MaskField& field, const QString& part);
+int maskItem(const MaskField& field, const QString& part);
+
 // Whether the list of a setting has the code; `offers` as in Limits.
 bool offersCode(const Setting& setting, const Code& code, const char* offers = nullptr);
 bool offersCode(const Setting& setting, const Code& code, const Limits& limits);

@@ -18,6 +18,7 @@
 // form of the page that is made later, or that has widgets of the same names as another one:
 // "TACH/comboBox_Type".
 
+#include <array>
 #include <cstdint>
 #include <limits>
 #include <span>
@@ -106,6 +107,23 @@ struct Position
     const char* box = nullptr; // check box beside a list: unchecked is 0, whatever item the list has
 };
 
+// One widget of a mask and the positions that it sets: a check box all of them alike, a list each as its item
+// says.
+struct MaskField
+{
+    const char* widget = nullptr;
+    const char* caption = "";
+    const char* format = "%1"; // of the text: the caption for %1, the number for %2
+    std::uint8_t number = 0;   // for the %1 in the name of the widget
+    std::array<std::uint8_t, 4> positions{};
+    std::uint8_t count = 0; // of the positions
+    bool always = false;    // checked, whatever the file holds
+    bool anyReads = false;  // checked where any position is set; else the first one counts
+    // Of a list: what its positions hold for each item. A mask that has none of them there leaves it as it
+    // is.
+    std::span<const Code> items{};
+};
+
 struct Setting
 {
     enum class Reset : std::uint8_t { toLoadDefault, toOwn, keeps };
@@ -145,6 +163,7 @@ struct Setting
     bool numeric = false;        // codes are compared as numbers
     std::span<const PeriodPart> parts{};
     std::span<const Position> positions{};
+    std::span<const MaskField> fields{};
     int maxLength = 0;               // characters; 0: no limit
     const char* pattern = nullptr;   // what can be typed
     const char* inputMask = nullptr; // form of the text, for line edits with a mask
@@ -327,9 +346,11 @@ constexpr Setting bits(const char* key, int loadDefault, std::span<const Positio
             .positions = positions};
 }
 
-constexpr Setting mask(const char* key, const char* loadDefault, int length)
+// Positions that no field sets are always 0; a mask without fields takes them all as they come.
+constexpr Setting mask(const char* key, const char* loadDefault, int length,
+                       std::span<const MaskField> fields = {})
 {
-    return {.kind = Kind::mask, .key = key, .loadText = {loadDefault}, .maxLength = length};
+    return {.kind = Kind::mask, .key = key, .loadText = {loadDefault}, .fields = fields, .maxLength = length};
 }
 
 } // namespace vlk

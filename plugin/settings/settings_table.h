@@ -82,6 +82,20 @@ constexpr bool inRange(const Setting& row, double value)
            (value >= row.least * row.factor && value <= row.most * row.factor);
 }
 
+// Whether the fields of a mask lie inside it and share no position.
+constexpr bool fieldsFit(const Setting& row)
+{
+    std::array<bool, 256> taken{};
+    for (const MaskField& field : row.fields) {
+        for (std::size_t i = 0; i < field.count; ++i) {
+            if (field.positions[i] >= row.maxLength || taken[field.positions[i]])
+                return false;
+            taken[field.positions[i]] = true;
+        }
+    }
+    return true;
+}
+
 constexpr void check(const Setting& row)
 {
     const bool own = row.resets == Setting::Reset::toOwn;
@@ -103,6 +117,8 @@ constexpr void check(const Setting& row)
     if (row.kind == Kind::mask &&
         std::string_view(row.loadText.format).size() > static_cast<std::size_t>(row.maxLength))
         throw "a default is longer than its mask";
+    if (!fieldsFit(row))
+        throw "a field of a mask lies outside it or on another one";
     if (row.kind == Kind::period && row.parts.empty())
         throw "a period has no boxes";
 }

@@ -36,6 +36,19 @@ QString periodText(const Setting& setting, int seconds)
                            : parts.join(QLatin1Char(' '));
 }
 
+QString maskText(const Setting& setting, const QString& value)
+{
+    QStringList parts;
+    for (const MaskField& field : setting.fields) {
+        const QString part = maskPart(field, value);
+        const int item = maskItem(field, part);
+        if (part.contains(QLatin1Char('1')))
+            parts << (item < 0 ? fieldText(field)
+                               : fieldText(field) + QStringLiteral(": ") + codeText(field.items[item]));
+    }
+    return setting.fields.empty() ? value : parts.join(QStringLiteral(", "));
+}
+
 // The captions of the positions that are set, with the item where a position has several.
 QString positionsText(const Setting& setting, const QString& value)
 {
@@ -85,6 +98,12 @@ QString codeText(const Code& code)
     return code.second ? text.arg(translated(code.second)) : text;
 }
 
+QString fieldText(const MaskField& field)
+{
+    const QString text = QString::fromLatin1(field.format).arg(translated(field.caption));
+    return field.number > 0 ? text.arg(field.number) : text;
+}
+
 QString valueText(const Configuration& configuration, int index)
 {
     return valueText(configuration, index, configuration.value(index));
@@ -116,6 +135,8 @@ QString valueText(const Configuration& configuration, int index, const QString& 
     case Kind::digits:
     case Kind::bits:
         return positionsText(setting, value);
+    case Kind::mask:
+        return maskText(setting, value);
     default:
         return value;
     }

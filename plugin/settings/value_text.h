@@ -21,6 +21,7 @@ QString inOneLine(QString caption);
 QString captionText(const Setting& setting);
 
 QString codeText(const Code& code);
+QString fieldText(const MaskField& field);
 
 // The value with its unit: "100 km/h", "on", "1 d 2 h", "NB+" as its label.
 QString valueText(const Configuration& configuration, int index);

@@ -3,6 +3,7 @@
 #include "dialog/config_pages.h"
 #include "dialog/widget_config_full.h"
 #include "settings/all_settings.h"
+#include "settings/rs_settings.h"
 #include "support/device.h"
 #include "support/setting_samples.h"
 
@@ -21,11 +22,17 @@ private Q_SLOTS:
         window_ = std::make_unique<VLK_Widget_Config_Full>();
     }
 
+    // Some forms are made when their device is chosen.
     void everyRowHasItsWidget()
     {
+        window_->pages().forEach([](vlk::HasSerialLine auto& page) {
+            for (const vlk::RsOwner& owner : vlk::kRsOwners)
+                page.settings().edit("OPTIONS/owner1", owner.code);
+        });
         QStringList sections;
         forEachPage([&](auto& page) {
             QCOMPARE(page.settings().binder().problems(), QStringList());
+            QCOMPARE(page.settings().binder().waiting(), QStringList());
             sections << page.settings().binder().table().section;
         });
         QStringList tables;

@@ -97,6 +97,8 @@ QStringList widgetsOf(const vlk::Setting& setting)
     for (const vlk::Position& position : setting.positions)
         for (const char* name : {position.widget, position.box})
             add(name);
+    for (const vlk::MaskField& field : setting.fields)
+        names << vlk::numberedName(field.widget, field.number, 0);
     return names;
 }
 
@@ -111,6 +113,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QStringList>("files");
         QTest::newRow("TRANS") << QStringList{"transfer"};
+        QTest::newRow("PROTOCOL") << QStringList{"data_set"};
         QTest::newRow("TRACK") << QStringList{"track"};
         QTest::newRow("SYSTEM") << QStringList{"system"};
         QTest::newRow("RS485") << QStringList{"rs",      "rs_dtacan", "rs_dv01", "rs_rfid",

@@ -23,6 +23,18 @@ constexpr Code kPatterns[] = {{.code = "11000", .pattern = "11***"},
 constexpr Position kBoxes[] = {{"a", "first"}, {}, {"c", "third"}};
 constexpr Position kLists[] = {{"a", "first", 2}, {}, {"c", "third", 2}};
 constexpr PeriodPart kParts[] = {{"h", 3600, 0, 71, "h"}, {"m", 60, 0, 59, "min"}};
+constexpr Code kPairs[] = {{.code = "00", .label = "none"}, {.code = "01", .label = "pair"}};
+constexpr MaskField kFields[] = {
+    {.widget = "a", .caption = "first", .positions = {0}, .count = 1, .always = true},
+    {.widget = "b", .caption = "both", .positions = {1, 2}, .count = 2},
+    {.widget = "c",
+     .caption = "any",
+     .format = "%1 %2",
+     .number = 7,
+     .positions = {3, 5},
+     .count = 2,
+     .anyReads = true},
+    {.widget = "d", .caption = "list", .positions = {6, 7}, .count = 2, .items = kPairs}};
 constexpr const char* kLong = "110";
 
 constexpr auto kRows = rowsOf(
@@ -36,7 +48,8 @@ constexpr auto kRows = rowsOf(
     choice("satellites", kPatterns, "11000"), period("period", 3600, kParts),
     period("wrapped", 3600, kParts).wrapping(86400), period("least", 3600, kParts).atLeast(300),
     digits("digits", "101", kBoxes), digits("lists", "201", kLists), bits("bits", 5, kBoxes),
-    mask("mask", kLong, 8), integer("blank", 0).blankable().resetTo(""),
+    mask("mask", kLong, 8), mask("fields", "10010101", 8, kFields),
+    integer("blank", 0).blankable().resetTo(""),
     text("address", "none").resetTo("").savedAs("none", when("A/server")), flag("server", 0).notStored(),
     flag("safe", 0).savedAs("0", when("A/use", "NB+"), true),
     integer("delay", 60).onlyWhen(when("A/use", "NB+")), integer("shared", 0).range(0, 20).notStored(),
@@ -151,6 +164,10 @@ private Q_SLOTS:
         table.row("digits of lists", "lists", "231", "201", Change::otherForm);
         table.row("bits", "bits", "7", "5", Change::outOfRange);
         table.row("mask", "mask", "01x9", "01010000", Change::otherForm);
+        table.row("fields of a mask", "fields", "01001101", "11110101", Change::notOffered);
+        table.row("fields beyond the text", "fields", "0", "10000000", Change::notOffered);
+        table.row("item that a list lacks", "fields", "10010110", "10010101", Change::notOffered);
+        table.row("mask that is too long", "fields", "111101011", "11110101", Change::tooLong);
         table.row("blank", "blank", "", "", Change::none);
         table.row("bound by another", "safe", "1", "0", Change::byRule);
         table.row("links are read elsewhere", "speed", "1", "1", Change::none);
@@ -354,6 +371,7 @@ private Q_SLOTS:
             .row("period", "period", "3720", "1 h 2 min")
             .row("digits", "digits", "101", "first, third")
             .row("bits", "bits", "4", "third")
+            .row("mask", "fields", "11110101", "first, both, any 7, list: pair")
             .row("text", "text", "abc", "abc");
     }
     void texts()

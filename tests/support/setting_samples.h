@@ -36,6 +36,13 @@ inline QStringList samplesOf(const vlk::Setting& setting)
               << "Грузовик №1"
 
               << "%1";
+    // Every length matters, and so does each position on its own.
+    if (setting.kind == vlk::Kind::mask) {
+        for (const int length : {50, 122, 255, 256, 300})
+            texts << QString(length, '1') << QString("01").repeated(length).left(length);
+        for (const vlk::MaskField& field : setting.fields)
+            texts << QString(field.positions[0], '0') + '9';
+    }
     texts.removeDuplicates();
     return texts;
 }

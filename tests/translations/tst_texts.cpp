@@ -40,7 +40,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         static const QRegularExpression key(QStringLiteral(
-            "[\">]((?:cfgt\\d+|cfgwl|cfgwnd|tmizta|tmiw|tmiex|tmift\\d|wrd|abbr|wb)_[a-z0-9_]+)[\"<]"));
+            "[\">]((?:cfgt\\d+f?|cfgwl|cfgwnd|tmizta|tmiw|tmiex|tmift\\d|wrd|abbr|wb)_[a-z0-9_]+)[\"<]"));
         for (const char* folder : {"/plugin", "/workbench"}) {
             QDirIterator files(QStringLiteral(VLK_SOURCE) + QLatin1String(folder), {"*.cpp", "*.h", "*.ui"},
                                QDir::Files, QDirIterator::Subdirectories);

@@ -22,7 +22,8 @@ namespace vlk {
 inline constexpr int kElementCount = static_cast<int>(std::size(catalogue::kElementRows));
 inline constexpr int kFieldCount = catalogue::kElementRows[kElementCount - 1].field + 1;
 
-// The earlier record format knows the first fields only.
+// Fields of protocol 1.0. The earlier record format, protocol 2.0, knows some more; all are those of 3.0.
+inline constexpr int kZeta10Count = 69;
 inline constexpr int kEarlierFieldCount = 122;
 
 // Position of an element in kElements; never to be confused with a mask bit.

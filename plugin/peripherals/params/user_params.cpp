@@ -2,9 +2,9 @@
 
 #include "peripherals/params/element_types.h"
 #include "peripherals/params/param_catalogues.h"
+#include "peripherals/params/user_param.h"
 
 #include <QCoreApplication>
-#include <QStringList>
 
 using Type = userParamType;
 
@@ -43,12 +43,6 @@ QString translated(const char* key)
 }
 
 } // namespace
-
-QString vlk::userParamDisplay(const QString& code, const QString& name, const QString& third)
-{
-    const QStringList parts{code, name, third};
-    return parts.mid(0, third.isEmpty() ? 2 : 3).join(QLatin1String(", "));
-}
 
 VLK_UserParams::VLK_UserParams(QObject* parent) : QObject(parent)
 {
@@ -92,7 +86,7 @@ int VLK_UserParams::typeCodeSize(const QString& elementType) const
 
 QString VLK_UserParams::display(Type type, int index) const
 {
-    return vlk::userParamDisplay(paramCode(type), paramName(type, index));
+    return vlk::UserParam{paramCode(type), paramName(type, index), {}, paramSize(type)}.display();
 }
 
 QString VLK_UserParams::keyToDisplay(const QString& key) const

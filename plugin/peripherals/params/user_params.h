@@ -15,8 +15,6 @@
 
 namespace vlk {
 struct CatalogueRow;
-// "FS, Fuel flow 3", or with a third part "MB, MB3,  7,  1f, 2 bytes, unsigned".
-QString userParamDisplay(const QString& code, const QString& name, const QString& third = {});
 } // namespace vlk
 
 class VLK_UserParams : public QObject

@@ -6,6 +6,7 @@
 #include "windows/binder/choice_adapter.h"
 #include "windows/binder/flag_adapter.h"
 #include "windows/binder/handles_adapter.h"
+#include "windows/binder/mask_adapter.h"
 #include "windows/binder/number_adapter.h"
 #include "windows/binder/period_adapter.h"
 #include "windows/binder/text_adapter.h"
@@ -153,6 +154,8 @@ std::unique_ptr<Adapter> Binder::makeAdapter(int index)
         return nullptr;
     if (auto* tree = qobject_cast<QTreeWidget*>(widget))
         return std::make_unique<CellAdapter>(*this, index, tree);
+    if (auto* shown = dynamic_cast<MaskWidget*>(widget); shown && setting.kind == Kind::mask)
+        return std::make_unique<MaskAdapter>(*this, index, widget, shown);
     if (setting.kind == Kind::flag)
         return std::make_unique<FlagAdapter>(*this, index, widget);
     if (auto* box = qobject_cast<QComboBox*>(widget); box && setting.kind == Kind::choice)

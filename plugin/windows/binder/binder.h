@@ -94,7 +94,6 @@ private:
         std::vector<const TableLayout::Enable*> rules;
     };
 
-    const Form* formNamed(const QString& name) const;
     // What a widget was dressed with: rules may give it another range.
     struct Range
     {
@@ -104,6 +103,7 @@ private:
         bool operator==(const Range&) const = default;
     };
 
+    const Form* formNamed(const QString& name) const;
     std::unique_ptr<Adapter> makeAdapter(int index);
     Range rangeOf(int row) const;
     void dressRanged(int row);

@@ -1,0 +1,69 @@
+#pragma once
+
+// A tab of the data-set page whose boxes come from the table (dataset/catalogue/data_set_boxes.h): it makes
+// them, with their object names, in their groups, and carries out every operation for them. Checking a box
+// adds the bytes of its fields to the running size of the page.
+
+#include "dataset/catalogue/data_set_boxes.h"
+#include "dataset/form_config_set_zeta3_tab.h"
+
+#include <vector>
+
+class QGridLayout;
+class QGroupBox;
+
+namespace vlk {
+
+class DataSetBoxesTab : public VLK_Form_Config_Set_Zeta3_Tab
+{
+    Q_OBJECT
+
+public:
+    // `title` is a translation key.
+    DataSetBoxesTab(DataSetTab which, int index, const char* title, QWidget* parent = nullptr);
+
+    void retranslate() override;
+    void fillMask10(QString& mask) override { fill(MaskVersion::zeta10, mask); }
+    void fillMask20(QString& mask) override { fill(MaskVersion::zeta20, mask); }
+    void fillMask30(QString& mask) override { fill(MaskVersion::zeta30, mask); }
+    void loadMask10(QString mask) override { load(MaskVersion::zeta10, mask); }
+    void loadMask20(QString mask) override { load(MaskVersion::zeta20, mask); }
+    void loadMask30(QString mask) override { load(MaskVersion::zeta30, mask); }
+    void enableFormat10(bool on) override { enable(MaskVersion::zeta10, on); }
+    void enableFormat20(bool on) override { enable(MaskVersion::zeta20, on); }
+    void enableFormat30(bool on) override { enable(MaskVersion::zeta30, on); }
+
+protected:
+    // The box or list of this object name.
+    QWidget* box(const char* name) const;
+    // Takes the state over that the user gave a box.
+    void takeState(QWidget* widget);
+
+private:
+    struct Box
+    {
+        const DataSetBox* row;
+        QWidget* widget;
+        QString part; // what its positions hold
+    };
+    struct Group
+    {
+        const DataSetGroup* row;
+        QGroupBox* widget;
+        QGridLayout* grid;
+        std::vector<QString> columns; // the kinds of boxes that stand in them
+        int nextRow = 0;
+    };
+
+    void makeBox(const DataSetBox& row, Group& group);
+    void place(const DataSetBox& row, QWidget* widget, Group& group);
+    void fill(MaskVersion version, QString& mask) const;
+    void load(MaskVersion version, const QString& mask);
+    void enable(MaskVersion version, bool on);
+
+    const char* const titleKey_;
+    std::vector<Group> groups_;
+    std::vector<Box> boxes_;
+};
+
+} // namespace vlk

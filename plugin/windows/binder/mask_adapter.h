@@ -1,0 +1,28 @@
+#pragma once
+
+// A mask in a widget of its own kind.
+
+#include "windows/binder/adapter.h"
+#include "windows/binder/mask_widget.h"
+
+namespace vlk {
+
+class MaskAdapter : public Adapter
+{
+public:
+    // Both are the same widget.
+    MaskAdapter(Binder& binder, int index, QWidget* widget, MaskWidget* mask);
+    ~MaskAdapter() override;
+    Q_DISABLE_COPY(MaskAdapter)
+
+    void dress() override;
+    void show(const QString& value) override { mask_->showMask(value); }
+    void take() override { edited(held()); }
+    QString held() const override { return mask_->mask(); }
+
+private:
+    QWidget* widget_;
+    MaskWidget* mask_;
+};
+
+} // namespace vlk
