@@ -103,7 +103,7 @@ Normalised chosen(const Setting& setting, const QString& text, const QString& be
     const QString fallback = setting.fallback ? QString::fromLatin1(setting.fallback) : before;
     const Code* code = find(setting, text);
     if (!code)
-        return noted(fallback, text, Change::unknownCode);
+        return noted(limits.taken.contains(fallback) ? before : fallback, text, Change::unknownCode);
     if (!offersCode(setting, *code, limits))
         return noted(setting.unofferedStays ? before
                      : setting.none         ? QString::fromLatin1(setting.none)

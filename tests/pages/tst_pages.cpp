@@ -22,12 +22,17 @@ private Q_SLOTS:
         window_ = std::make_unique<VLK_Widget_Config_Full>();
     }
 
-    // Some forms are made when their device is chosen.
+    // Some forms are made when their device or type is chosen.
     void everyRowHasItsWidget()
     {
         window_->pages().forEach([](vlk::HasSerialLine auto& page) {
             for (const vlk::RsOwner& owner : vlk::kRsOwners)
                 page.settings().edit("OPTIONS/owner1", owner.code);
+        });
+        window_->pages().forEach([](vlk::FindsBluetooth auto& page) {
+            for (int form = 0; form < 4 * 10; ++form)
+                page.settings().edit(QString("SENS%1/form").arg(form / 10 + 1),
+                                     QString::number((form + 1) % 10));
         });
         QStringList sections;
         forEachPage([&](auto& page) {
@@ -60,7 +65,7 @@ private Q_SLOTS:
         const QByteArray file = documentWith(values);
         const QByteArray expected = readAndWritten(configuration_, file);
         QCOMPARE(throughTheWindow(file), expected);
-        forEachPage([&](auto& page) { QCOMPARE(page.settings().binder().disagreements(), QStringList()); });
+        forEachPage([&](auto& page) { QCOMPARE(page.settings().binder().disagreements().join(" "), QString()); });
         QCOMPARE(throughTheWindow(expected), savedAgain(configuration_, expected));
     }
 
@@ -77,7 +82,7 @@ private Q_SLOTS:
         for (const vlk::Difference& difference : fresh.differences(stateOf(saved())))
             QVERIFY2(fresh.setting(difference.index).resets == vlk::Setting::Reset::keeps,
                      qPrintable(fresh.path(difference.index)));
-        forEachPage([&](auto& page) { QCOMPARE(page.settings().binder().disagreements(), QStringList()); });
+        forEachPage([&](auto& page) { QCOMPARE(page.settings().binder().disagreements().join(" "), QString()); });
     }
 
 private:

@@ -65,6 +65,7 @@ constexpr auto kRows = rowsOf(
         return rowsOf(group("SOLE%1"), flag("on", 0), choice("list", kNumbers, "0").byNumber(),
                       choice("number", kNumbers, "0")
                           .byNumber()
+                          .unknownIs("1")
                           .noItemIs("-")
                           .resetTo("-")
                           .offering("")
@@ -224,6 +225,8 @@ private Q_SLOTS:
             .row("another list brings its first number", {"1/list=1", "1/number=3", "2/list=1"}, "3 1 -")
             .row("what holds nothing yields", {"1/list=1", "2/list=1", "1/on=1"}, "1 3 -")
             .row("what is taken is no choice", {"1/list=1", "1/on=1", "2/list=1", "2/number=1"}, "1 3 -")
+            .row("nor what stands for the unknown",
+                 {"1/list=1", "1/on=1", "2/list=1", "2/on=1", "2/number=x"}, "1 3 -")
             .row("the last one yields backwards",
                  {"1/list=1", "1/number=3", "2/list=1", "2/number=3", "1/on=1"}, "3 1 -")
             .row("none is left", {"1/list=1", "1/on=1", "2/list=1", "2/on=1", "3/on=1", "3/list=1"}, "1 3 -")

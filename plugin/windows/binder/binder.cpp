@@ -215,6 +215,10 @@ void Binder::dress()
     }
     for (const TableLayout::RangeWhen& rule : layout_.ranges)
         ranges_[rule.row] = rangeOf(rule.row);
+    for (const TableLayout::SoleList& list : layout_.soleLists) {
+        for (const TableLayout::Sole& sole : list.soles)
+            ranges_[sole.row] = rangeOf(sole.row);
+    }
 }
 
 Binder::Range Binder::rangeOf(int row) const
