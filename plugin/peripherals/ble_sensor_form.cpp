@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QSpinBox>
 
@@ -145,7 +146,7 @@ void BleSensorForm::make()
     retranslate();
 }
 
-// One pair of label and widget for every row of the type, two pairs beside each other.
+// Lists one below the other, what else the type has in pairs below them.
 void BleSensorForm::makeWidgets()
 {
     auto* grid = new QGridLayout(this);
@@ -155,39 +156,50 @@ void BleSensorForm::makeWidgets()
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(3, 1);
     const QString mine = objectName() + QLatin1Char('/');
-    int place = 0;
+    int row = 0;
+    int column = 0;
     const auto add = [&](const Setting& setting) {
-        const QString path = numberedName(setting.widget, sensor_, 0);
-        if (setting.number != sensor_ || !path.startsWith(mine))
-            return;
-        QWidget* widget = nullptr;
-        if (setting.kind == Kind::choice)
-            widget = new QComboBox;
-        else if (setting.kind == Kind::flag)
-            widget = new QCheckBox;
-        else
-            widget = new QSpinBox;
-        const QString name = path.mid(mine.size());
-        widget->setObjectName(name);
+        const QString name = numberedName(setting.widget, sensor_, 0).mid(mine.size());
         auto* label = new QLabel;
         label->setObjectName(QStringLiteral("label_") + name.section(QLatin1Char('_'), 1));
-        label->setBuddy(widget);
-        const int row = place / 2;
-        const int column = place % 2 * 2;
-        grid->addWidget(label, row, column);
-        grid->addWidget(widget, row, column + 1);
-        ++place;
+        if (setting.kind == Kind::choice) {
+            auto* list = new QComboBox;
+            list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+            list->setMaximumWidth(50 * list->fontMetrics().averageCharWidth());
+            list->setObjectName(name);
+            label->setBuddy(list);
+            grid->addWidget(label, row, 0);
+            grid->addWidget(list, row, 1, 1, 3);
+            ++row;
+        } else if (setting.kind == Kind::flag) {
+            auto* box = new QCheckBox;
+            box->setObjectName(name);
+            label->setBuddy(box);
+            auto* pair = new QHBoxLayout;
+            pair->setSpacing(6);
+            pair->addWidget(box);
+            pair->addWidget(label, 1);
+            grid->addLayout(pair, row, column, 1, 2);
+            column += 2;
+        } else {
+            auto* number = new QSpinBox;
+            number->setObjectName(name);
+            label->setBuddy(number);
+            grid->addWidget(label, row, column);
+            grid->addWidget(number, row, column + 1);
+            column += 2;
+        }
     };
     // The vendor comes first, wherever the file has its number.
-    const auto& rows = settings_.binder().table().rows;
     const QString vendorWidget = mine + QString::fromLatin1(type_.vendorWidget);
     for (const bool first : {true, false}) {
-        for (const Setting& setting : rows) {
-            if ((numberedName(setting.widget, sensor_, 0) == vendorWidget) == first)
+        for (const Setting& setting : settings_.binder().table().rows) {
+            const QString path = numberedName(setting.widget, sensor_, 0);
+            if (setting.number == sensor_ && path.startsWith(mine) && (path == vendorWidget) == first)
                 add(setting);
         }
     }
-    grid->setRowStretch((place + 1) / 2, 1);
+    grid->setRowStretch(row + 1, 1);
 }
 
 } // namespace vlk

@@ -105,8 +105,13 @@ QWidget* makeCell(Cell cell)
         return new QCheckBox;
     case Cell::spin:
         return new QSpinBox;
-    case Cell::combo:
-        return new QComboBox;
+    case Cell::combo: {
+        auto* list = new QComboBox;
+        list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        list->setMinimumContentsLength(2);
+        list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        return list;
+    }
     default:
         return new QLineEdit;
     }
@@ -134,7 +139,7 @@ QGroupBox* makeTable(const Table& table)
     int column = 0;
     for (const Column& place : table.columns) {
         grid->addWidget(makeLabel(QString::fromLatin1(place.title)), 0, ++column);
-        grid->setColumnStretch(column, place.cell == Cell::combo || place.cell == Cell::line ? 1 : 0);
+        grid->setColumnStretch(column, place.cell == Cell::line ? 1 : 0);
         for (int row = 1; row <= table.rows; ++row) {
             if (row < place.from && place.cell != Cell::check)
                 continue;

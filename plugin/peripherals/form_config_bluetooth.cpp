@@ -7,6 +7,7 @@
 #include "settings/bluetooth_settings.h"
 #include "windows/wnd_config_full.h"
 
+#include <QHeaderView>
 #include <QMenu>
 
 namespace {
@@ -39,6 +40,10 @@ VLK_Form_Config_Bluetooth::VLK_Form_Config_Bluetooth(QWidget* parent)
     ui_->setupUi(this);
     ui_->gridLayout_Device->addWidget(sensors_);
     ui_->groupBox_Bt_Device->hide();
+    QHeaderView* head = ui_->treeWidget_Bt_List->header();
+    head->setStretchLastSection(false);
+    head->setSectionResizeMode(0, QHeaderView::Stretch);
+    head->resizeSection(1, head->fontMetrics().horizontalAdvance(QStringLiteral("DD:DD:DD:DD:DD:DD:DD")));
     settings_.bind({this});
     using This = VLK_Form_Config_Bluetooth;
     connect(ui_->pushButton_Bt_Find, &QPushButton::clicked, this, &This::slot_pressed_Btn_Bt_Find);

@@ -40,17 +40,26 @@ VLK_Form_Config_Bluetooth_Device::Sensor VLK_Form_Config_Bluetooth_Device::makeS
     layout->setSpacing(6);
     sensor.grid = new QGridLayout;
     sensor.grid->setHorizontalSpacing(8);
-    int column = 0;
-    for (const auto& [label, widget] :
-         {std::pair<QLabel*, QWidget*>{vlk::numberedWidget<QLabel>("label_Type_Sens_%1", number),
-                                       vlk::numberedWidget<QComboBox>("comboBox_Type_Sens_%1", number)},
-          {vlk::numberedWidget<QLabel>("label_MacAddr_Sens_%1", number),
-           vlk::numberedWidget<QLineEdit>("lineEdit_Bt_MacAdr_Sens_%1", number)},
-          {vlk::numberedWidget<QLabel>("label_Name_Sens_%1", number), sensor.name}}) {
+    sensor.grid->setVerticalSpacing(6);
+    const std::pair<QLabel*, QWidget*> fields[] = {
+        {vlk::numberedWidget<QLabel>("label_Type_Sens_%1", number),
+         vlk::numberedWidget<QComboBox>("comboBox_Type_Sens_%1", number)},
+        {vlk::numberedWidget<QLabel>("label_MacAddr_Sens_%1", number),
+         vlk::numberedWidget<QLineEdit>("lineEdit_Bt_MacAdr_Sens_%1", number)},
+        {vlk::numberedWidget<QLabel>("label_Name_Sens_%1", number), sensor.name},
+    };
+    // Long names of types do not widen the page.
+    auto* types = static_cast<QComboBox*>(fields[0].second);
+    types->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    types->setMinimumContentsLength(12);
+    int place = 0;
+    for (const auto& [label, widget] : fields) {
         label->setBuddy(widget);
-        sensor.grid->addWidget(label, 0, column++);
-        sensor.grid->setColumnStretch(column, 1);
-        sensor.grid->addWidget(widget, 0, column++);
+        const int column = place % 2 * 2;
+        sensor.grid->addWidget(label, place / 2, column);
+        sensor.grid->addWidget(widget, place / 2, column + 1);
+        sensor.grid->setColumnStretch(column + 1, 1);
+        ++place;
     }
     layout->addLayout(sensor.grid);
     sensor.more = vlk::numberedWidget<QGroupBox>("groupBox_More_Sens_%1", number);
@@ -88,7 +97,7 @@ void VLK_Form_Config_Bluetooth_Device::retranslate()
         sensor.type->retranslate();
         grids << sensor.grid;
     }
-    vlk::alignColumns(grids, 5);
+    vlk::alignColumns(grids, 4);
 }
 
 void VLK_Form_Config_Bluetooth_Device::bind(int sensor, const QString& mac, const QString& name)
