@@ -1610,6 +1610,7 @@
     <message id="wb_event_060"><translation>1-Wire key touched</translation></message>
     <message id="wb_event_061"><translation>RFID tag read</translation></message>
     <message id="wb_event_unknown"><translation>Event</translation></message>
+    <message id="wb_fault_bluetooth"><translation>No Blue&amp;tooth</translation></message>
     <message id="wb_fault_board"><translation>&amp;Bad board</translation></message>
     <message id="wb_fault_delay"><translation>&amp;Delay:</translation></message>
     <message id="wb_fault_garbled"><translation>&amp;Garbled answers</translation></message>

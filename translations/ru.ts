@@ -1610,6 +1610,7 @@
     <message id="wb_event_060"><translation>Приложен ключ 1-Wire</translation></message>
     <message id="wb_event_061"><translation>Прочитана метка RFID</translation></message>
     <message id="wb_event_unknown"><translation>Событие</translation></message>
+    <message id="wb_fault_bluetooth"><translation>Без &amp;Bluetooth</translation></message>
     <message id="wb_fault_board"><translation>&amp;Брак платы</translation></message>
     <message id="wb_fault_delay"><translation>&amp;Задержка:</translation></message>
     <message id="wb_fault_garbled"><translation>&amp;Искажённые ответы</translation></message>
