@@ -158,21 +158,37 @@ constexpr auto rowsOfType()
     }
 }
 
-// Every type with its number, the offered ones for the list and the others for files.
-constexpr auto kTypeCodes = [] {
-    std::array<Code, kTypes + 1> codes{};
-    codes[0] = {.code = "0", .label = "wrd_002"};
-    for (const BluetoothSensorType& type : kBluetoothSensorTypes)
-        codes[static_cast<std::size_t>(type.code[0] - '0')] = {
-            .code = type.code, .label = type.text ? type.text : "", .offered = type.offered};
+constexpr int numberOf(const char* code)
+{
+    int number = 0;
+    for (; *code; ++code)
+        number = number * 10 + (*code - '0');
+    return number;
+}
+
+// No type, and the others by their numbers.
+template <std::size_t count>
+constexpr auto typeCodes(bool (*isListed)(const BluetoothSensorType&))
+{
+    std::array<Code, count + 1> codes{};
+    std::size_t size = 0;
+    codes[size++] = {.code = "0", .label = "wrd_002"};
+    for (const BluetoothSensorType& type : kBluetoothSensorTypes) {
+        if (isListed(type))
+            codes[size++] = {.code = type.code, .label = type.text ? type.text : "", .offered = type.offered};
+    }
+    std::sort(codes.begin(), codes.end(),
+              [](const Code& a, const Code& b) { return numberOf(a.code) < numberOf(b.code); });
     return codes;
-}();
-// Those with a text come first.
-constexpr std::size_t kNamedTypes =
-    1 + std::count_if(std::begin(kBluetoothSensorTypes), std::end(kBluetoothSensorTypes),
-                      [](const auto& type) { return type.text != nullptr; });
+}
+
+constexpr auto hasText = [](const BluetoothSensorType& type) { return type.text != nullptr; };
+// A file may name any type that has a text; those of the list are offered.
+constexpr auto kTypeCodes =
+    typeCodes<std::count_if(std::begin(kBluetoothSensorTypes), std::end(kBluetoothSensorTypes), hasText)>(
+        hasText);
 constexpr auto kFormCodes = [] {
-    auto codes = kTypeCodes;
+    auto codes = typeCodes<kTypes>([](const BluetoothSensorType&) { return true; });
     for (Code& code : codes)
         code.offered = true;
     return codes;
@@ -182,7 +198,7 @@ template <std::size_t... types>
 constexpr auto sensorRows(std::index_sequence<types...>)
 {
     return rowsOf(group("SENS%1"),
-                  choice("type", std::span(kTypeCodes).first(kNamedTypes), "0")
+                  choice("type", kTypeCodes, "0")
                       .byNumber()
                       .unknownIs("0")
                       .unofferedLeavesIt()

@@ -3,6 +3,7 @@
 #include "dialog/config_pages.h"
 #include "dialog/widget_config_full.h"
 #include "settings/all_settings.h"
+#include "settings/bluetooth_sensor_types.h"
 #include "settings/rs_settings.h"
 #include "support/device.h"
 #include "support/setting_samples.h"
@@ -30,9 +31,10 @@ private Q_SLOTS:
                 page.settings().edit("OPTIONS/owner1", owner.code);
         });
         window_->pages().forEach([](vlk::FindsBluetooth auto& page) {
-            for (int form = 0; form < 4 * 10; ++form)
-                page.settings().edit(QString("SENS%1/form").arg(form / 10 + 1),
-                                     QString::number((form + 1) % 10));
+            for (int sensor = 1; sensor <= vlk::kBluetoothSensors; ++sensor) {
+                for (const vlk::BluetoothSensorType& type : vlk::kBluetoothSensorTypes)
+                    page.settings().edit(QString("SENS%1/form").arg(sensor), type.code);
+            }
         });
         QStringList sections;
         forEachPage([&](auto& page) {
