@@ -54,7 +54,7 @@ void fillTabs(benchmark::State& state, bool painted)
         fill(round++);
 
     form.takeRecord(records[0]);
-    const auto labels = form.findChildren<ValueLabel*>().size();
+    const auto labels = form.findChildren<vlk::ValueLabel*>().size();
     const double texts = millisecondsOf([&](int) {
         for (int i = 0; i < labels; ++i)
             benchmark::DoNotOptimize(text(*form.page(), static_cast<ItemIndex>(i)));

@@ -219,8 +219,8 @@
     <message id="cfgt2_005"><translation>The record is larger than the limit</translation></message>
     <message id="cfgt2_006"><translation>Fields of the record</translation></message>
     <message id="cfgt2_007"><translation>Protocol of storing and sending data</translation></message>
-    <message id="cfgt2_008"><translation>&lt;p&gt;&lt;b&gt;Version of the transfer protocol&lt;/b&gt; has to be the one that the server takes. Every server takes ZETA&#160;1.0; ZETA&#160;2.0 adds satellites, base stations, temperatures of RS-485 sensors and the accelerometer; ZETA&#160;3.0 adds the state of the connections, frequencies of RS-485 sensors and high-precision sensors. Fields of a later version are grey until it is chosen: what was checked before stays checked and takes its place in the record.&lt;/p&gt;</translation></message>
-    <message id="cfgt2_009"><translation>&lt;p&gt;&lt;b&gt;Fields of the record&lt;/b&gt;: check what is needed on the server. Record number, event code and event time are in every record. What is not checked the tracker neither keeps nor sends, and nothing brings it back later.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Size of the stored record&lt;/b&gt;: every field makes the record larger, and the larger it is, the fewer records fit into the memory and the more data is sent. A record of more than 512&#160;B is nothing that the tracker takes: while it is larger, the configuration can be neither saved nor written, and the other tabs are locked. Uncheck what you do not need.&lt;/p&gt;&lt;p&gt;The right mouse button opens a list of the tabs.&lt;/p&gt;</translation></message>
+    <message id="cfgt2_008"><translation>&lt;b&gt;Version of the transfer protocol&lt;/b&gt; has to be the one that the server takes: the monitoring service names it. To the fields of ZETA&#160;1.0, ZETA&#160;2.0 adds satellites, base stations, temperatures of RS-485 sensors and the accelerometer; ZETA&#160;3.0 adds the state of the connections, frequencies of RS-485 sensors and high-precision sensors. Fields of a later version are grey until it is chosen: what was checked before stays checked and takes its place in the record.&lt;br&gt;</translation></message>
+    <message id="cfgt2_009"><translation>&lt;b&gt;Fields of the record&lt;/b&gt;: check what is needed on the server. Record number, event code and event time are in every record. What is not checked the tracker neither keeps nor sends, and nothing brings it back later.&lt;br&gt;&lt;br&gt;&lt;b&gt;Size of the stored record&lt;/b&gt;: every field makes the record larger, and the larger it is, the fewer records fit into the memory and the more data is sent. More than 512&#160;B the tracker cannot keep: while the record is larger, the configuration can be neither saved nor written, and the other tabs are locked. Uncheck what you do not need.&lt;br&gt;&lt;br&gt;The right mouse button opens a list of the tabs.</translation></message>
     <message id="cfgt2f_001"><translation>Main</translation></message>
     <message id="cfgt2f_002"><translation>Tracker</translation></message>
     <message id="cfgt2f_003"><translation>Record number</translation></message>
@@ -274,6 +274,7 @@
     <message id="cfgt2f_052"><translation>Level sensor</translation></message>
     <message id="cfgt2f_053"><translation>Frequency of sensor</translation></message>
     <message id="cfgt2f_054"><translation>RS-232 level sensor</translation></message>
+    <message id="cfgt2f_055"><translation>Position without satellites</translation></message>
     <message id="cfgt2f_081"><translation>Accelerometer and driving style</translation></message>
     <message id="cfgt2f_082"><translation>Accelerometer</translation></message>
     <message id="cfgt2f_083"><translation>Driving style</translation></message>

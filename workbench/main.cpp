@@ -38,22 +38,23 @@ void useUtf8InPlaceOfAscii()
 
 // Help, version and complaints need no display. The sentence about a missing one is found here too, because
 // it cannot be looked up while the application is in the making.
-CommandLine readCommandLine(int& argc, char* argv[], QString& noDisplay)
+vlk::CommandLine readCommandLine(int& argc, char* argv[], QString& noDisplay)
 {
     const QCoreApplication application(argc, argv);
     nameApplication();
     useUtf8InPlaceOfAscii();
-    Languages languages;
-    languages.set(CommandLine::languageOf(QCoreApplication::arguments()).value_or(Languages::ofSystem()));
+    vlk::Languages languages;
+    languages.set(
+        vlk::CommandLine::languageOf(QCoreApplication::arguments()).value_or(vlk::Languages::ofSystem()));
     noDisplay = vlk::text("wb_no_display");
-    CommandLine line = CommandLine::parse(QCoreApplication::arguments());
+    vlk::CommandLine line = vlk::CommandLine::parse(QCoreApplication::arguments());
     if (line.exitCode)
         std::fprintf(*line.exitCode == 0 ? stdout : stderr, "%s\n", qPrintable(line.message.trimmed()));
     return line;
 }
 
 // Without a usable data folder there is nothing to run with.
-int complain(const DataFolder& folder, bool withBox)
+int complain(const vlk::DataFolder& folder, bool withBox)
 {
     const QString sentence = folder.isInUse() ? vlk::text("wb_data_in_use").arg(folder.error())
                                               : vlk::text("wb_data_unwritable").arg(folder.error());
@@ -65,13 +66,13 @@ int complain(const DataFolder& folder, bool withBox)
 
 std::unique_ptr<QApplication> makeApplication(int& argc, char* argv[], const QString& noDisplay)
 {
-    const DisplayGuard guard(noDisplay, failed);
+    const vlk::DisplayGuard guard(noDisplay, failed);
     return std::make_unique<QApplication>(argc, argv);
 }
 
-bool runTour(WorkbenchWindow& window, const QString& folder)
+bool runTour(vlk::WorkbenchWindow& window, const QString& folder)
 {
-    Tour tour(window, folder);
+    vlk::Tour tour(window, folder);
     tour.add(vlk::configurationTour());
     tour.add(vlk::telemetryTour());
     tour.add(vlk::fuelTour());
@@ -86,7 +87,7 @@ int main(int argc, char* argv[])
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QString noDisplay;
-    const CommandLine line = readCommandLine(argc, argv, noDisplay);
+    const vlk::CommandLine line = readCommandLine(argc, argv, noDisplay);
     if (line.exitCode)
         return *line.exitCode;
 
@@ -97,17 +98,17 @@ int main(int argc, char* argv[])
     // A tour leaves the user's own tracker alone.
     const QTemporaryDir tourData;
     const bool isTour = !line.tour.isEmpty();
-    const DataFolder folder(isTour && line.data.isEmpty() ? tourData.path() : line.data);
-    Languages languages;
+    const vlk::DataFolder folder(isTour && line.data.isEmpty() ? tourData.path() : line.data);
+    vlk::Languages languages;
     if (!folder.isUsable()) {
-        languages.set(line.language.value_or(Languages::ofSystem()));
+        languages.set(line.language.value_or(vlk::Languages::ofSystem()));
         return complain(folder, !isTour && folder.isInUse());
     }
-    Settings settings(folder.settingsFile());
+    vlk::Settings settings(folder.settingsFile());
     settings.setForThisRun(line.language, line.mode);
     languages.set(settings.language());
 
-    WorkbenchWindow window(folder, settings, languages);
+    vlk::WorkbenchWindow window(folder, settings, languages);
     window.show();
     const bool started = window.start(vlk::pluginPath());
     if (folder.isTemporary())

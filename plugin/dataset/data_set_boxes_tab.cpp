@@ -18,6 +18,9 @@ namespace vlk {
 
 namespace {
 
+// Low, so that the longest list fits into a small window.
+constexpr int kBetweenBoxes = 1;
+
 QString translated(const char* key)
 {
     return QCoreApplication::translate("vlk", key);
@@ -42,7 +45,9 @@ MaskVersion versionAt(const MaskField& field, int position)
 DataSetBoxesTab::DataSetBoxesTab(DataSetTab which, int index, const char* title, QWidget* parent)
     : VLK_Form_Config_Set_Zeta3_Tab(index, parent), titleKey_(title)
 {
+    // The titles of the groups keep them apart.
     auto* grid = new QGridLayout(this);
+    grid->setVerticalSpacing(0);
     for (const DataSetGroup& row : kDataSetGroups) {
         if (row.tab != which)
             continue;
@@ -50,6 +55,7 @@ DataSetBoxesTab::DataSetBoxesTab(DataSetTab which, int index, const char* title,
         box->setObjectName(QString::fromLatin1(row.name));
         groups_.push_back({&row, box, new QGridLayout(box), {}});
         Group& group = groups_.back();
+        group.grid->setVerticalSpacing(kBetweenBoxes);
         bool shown = false;
         for (const DataSetBox& one : kDataSetBoxes) {
             if (one.tab != which || QLatin1String(one.group) != box->objectName())
@@ -58,7 +64,8 @@ DataSetBoxesTab::DataSetBoxesTab(DataSetTab which, int index, const char* title,
             shown = shown || one.shown;
         }
         box->setVisible(shown);
-        grid->addWidget(box, row.row, row.column, row.rows, 1);
+        grid->addWidget(box, row.row, row.column, row.rows, 1, Qt::AlignTop);
+        grid->setColumnStretch(row.column, 1);
         // What is left of the height stays empty, beside a high group below its neighbours.
         if (row.rows > 1)
             grid->setRowStretch(row.row + row.rows - 1, 1);
@@ -98,6 +105,7 @@ void DataSetBoxesTab::place(const DataSetBox& row, QWidget* widget, Group& group
             frame->setEnabled(false);
             auto* inside = new QVBoxLayout(frame);
             inside->setContentsMargins({});
+            inside->setSpacing(kBetweenBoxes);
             group.grid->addWidget(frame, group.nextRow++, 0);
         }
         frame->layout()->addWidget(widget);

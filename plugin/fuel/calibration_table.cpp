@@ -8,6 +8,8 @@
 #include <QHeaderView>
 #include <QSignalBlocker>
 
+namespace vlk {
+
 namespace {
 
 constexpr int kColumnWidths[] = {95, 95, 20};
@@ -132,3 +134,5 @@ void CalibrationTable::removeMarked()
             removeRow(row);
     }
 }
+
+} // namespace vlk

@@ -10,6 +10,8 @@
 
 class VLK_TableWidgetItem_FuelSort;
 
+namespace vlk {
+
 class CalibrationTable : public QTableWidget
 {
     Q_OBJECT
@@ -37,3 +39,5 @@ private:
     VLK_TableWidgetItem_FuelSort* cell(int row, Column column) const;
     bool isMarked(int row) const;
 };
+
+} // namespace vlk

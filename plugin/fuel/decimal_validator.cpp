@@ -2,6 +2,8 @@
 
 #include "fuel/table/fuel_rows.h"
 
+namespace vlk {
+
 DecimalValidator::DecimalValidator(double top, int decimals, QObject* parent)
     : QDoubleValidator(0, top, decimals, parent)
 {
@@ -14,3 +16,5 @@ QValidator::State DecimalValidator::validate(QString& input, int& position) cons
     input = vlk::withDecimalPoint(input);
     return QDoubleValidator::validate(input, position);
 }
+
+} // namespace vlk

@@ -4,6 +4,8 @@
 
 #include <QDoubleValidator>
 
+namespace vlk {
+
 class DecimalValidator : public QDoubleValidator
 {
     Q_OBJECT
@@ -13,3 +15,5 @@ public:
 
     State validate(QString& input, int& position) const override;
 };
+
+} // namespace vlk

@@ -31,7 +31,7 @@ VLK_Form_Fuel_Sensor::VLK_Form_Fuel_Sensor(int kind, const QString& name, const 
     ui_->setupUi(this);
     ui_->verticalLayout_Graph->addWidget(graph_);
     ui_->pushButton_Add->setIcon(addIcon);
-    ui_->lineEdit_Volume->setValidator(new DecimalValidator(kTopAddedVolume, 1, this));
+    ui_->lineEdit_Volume->setValidator(new vlk::DecimalValidator(kTopAddedVolume, 1, this));
     auto* codes = new QIntValidator(0, kTopAddedValue, this);
     codes->setLocale(QLocale::c());
     ui_->lineEdit_Param->setValidator(codes);
@@ -268,7 +268,7 @@ void VLK_Form_Fuel_Sensor::pasteRows()
 
 void VLK_Form_Fuel_Sensor::slot_CellChanged_Table(int /*row*/, int column)
 {
-    if (column == CalibrationTable::Marked) {
+    if (column == vlk::CalibrationTable::Marked) {
         ui_->pushButton_Del->setEnabled(ui_->tableWidget->anyMarked());
         return;
     }

@@ -14,7 +14,7 @@ QWidget* VLK_FuelSensor_Delegate::createEditor(QWidget* parent, const QStyleOpti
                                                const QModelIndex& /*index*/) const
 {
     auto* edit = new QLineEdit(parent);
-    edit->setValidator(new DecimalValidator(top_, decimals_, edit));
+    edit->setValidator(new vlk::DecimalValidator(top_, decimals_, edit));
     return edit;
 }
 

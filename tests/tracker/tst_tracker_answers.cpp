@@ -177,7 +177,7 @@ private Q_SLOTS:
     void hasWordsForEveryEvent()
     {
         QFETCH(QString, language);
-        KeyTranslator translator;
+        vlk::KeyTranslator translator;
         QVERIFY(translator.load(language, VLK_TEXTS));
         QCoreApplication::installTranslator(&translator);
         BenchTracker bench;

@@ -103,11 +103,11 @@ struct Bench
     }
 
     QTemporaryDir root;
-    DataFolder folder{root.path()};
-    Settings settings{folder.settingsFile()};
-    Languages languages;
+    vlk::DataFolder folder{root.path()};
+    vlk::Settings settings{folder.settingsFile()};
+    vlk::Languages languages;
     bool english = languages.set(QStringLiteral("en"));
-    WorkbenchWindow window{folder, settings, languages};
+    vlk::WorkbenchWindow window{folder, settings, languages};
     QTimer person;
     QStringList boxes;
 };
@@ -125,7 +125,7 @@ private Q_SLOTS:
     {
         const Faults none, silence{.silence = true}, shortened{.shortAnswers = true},
             garbled{.garbledAnswers = true}, unplug{.unplug = true}, board{.badBoard = true},
-            delay{.delayMs = 20}, late{.delayMs = AnswerWatch::patienceMs + 1000};
+            delay{.delayMs = 20}, late{.delayMs = vlk::AnswerWatch::patienceMs + 1000};
         const QString ready = QStringLiteral("Ready");
         const QString written = QStringLiteral("Configuration written");
         const QString closed = QStringLiteral("so its telemetry window was closed");
@@ -179,7 +179,7 @@ private Q_SLOTS:
         Bench bench;
         bench.prepare(Step(step));
         bench.boxes.clear();
-        connect(&bench.window.session().link(), &PluginLink::passed, this,
+        connect(&bench.window.session().link(), &vlk::PluginLink::passed, this,
                 [&answered](vlk::Direction way, quint32) { answered |= way == vlk::Direction::ToPlugin; });
         bench.tracker().setFaults(faults);
         std::optional<FullDisk> disk;
@@ -202,8 +202,9 @@ private Q_SLOTS:
         if (step == Period && open)
             QCOMPARE(QFile::exists(bench.file()), bench.status().startsWith(QLatin1String("Saved: ")));
         const auto* log = bench.window.findChild<QTableView*>(QStringLiteral("tableView_Log"))->model();
-        const QModelIndexList marked = log->match(log->index(0, MessageLogModel::Parameters), Qt::DisplayRole,
-                                                  QStringLiteral("⚠"), 1, Qt::MatchStartsWith);
+        const QModelIndexList marked =
+            log->match(log->index(0, vlk::MessageLogModel::Parameters), Qt::DisplayRole, QStringLiteral("⚠"),
+                       1, Qt::MatchStartsWith);
         QCOMPARE(!marked.isEmpty(), step >= Live && (faults.shortAnswers || faults.garbledAnswers));
 
         disk.reset();

@@ -18,9 +18,9 @@ namespace {
 struct Bench
 {
     QTemporaryDir root;
-    DataFolder folder{root.path()};
-    HostSession session{folder.trackerFolder()};
-    QSignalSpy written{&session, &HostSession::configurationWritten};
+    vlk::DataFolder folder{root.path()};
+    vlk::HostSession session{folder.trackerFolder()};
+    QSignalSpy written{&session, &vlk::HostSession::configurationWritten};
 
     bool start()
     {
@@ -52,7 +52,7 @@ private Q_SLOTS:
     }
     void saysWhyThereIsNoPlugin()
     {
-        Languages languages;
+        vlk::Languages languages;
         QVERIFY(languages.set(QStringLiteral("en")));
         QFETCH(QString, path);
         Bench bench;
@@ -69,8 +69,8 @@ private Q_SLOTS:
         Bench bench;
         QVERIFY(bench.start());
         QCOMPARE(bench.session.link().version(), QStringLiteral("1.2.3.4"));
-        MessageLogModel log;
-        connect(&bench.session.link(), &PluginLink::passed, &log, &MessageLogModel::append);
+        vlk::MessageLogModel log;
+        connect(&bench.session.link(), &vlk::PluginLink::passed, &log, &vlk::MessageLogModel::append);
 
         QCOMPARE(bench.session.readConfiguration(true), QString());
         const WriteReport report = bench.report();
@@ -111,17 +111,17 @@ private Q_SLOTS:
     {
         QFETCH(tracker::Faults, faults);
         QFETCH(QStringList, said);
-        Languages languages;
+        vlk::Languages languages;
         QVERIFY(languages.set(QStringLiteral("en")));
         Bench bench;
         QVERIFY(bench.start());
         QVector<quint32> passed;
-        connect(&bench.session.link(), &PluginLink::passed, this,
+        connect(&bench.session.link(), &vlk::PluginLink::passed, this,
                 [&passed](vlk::Direction, quint32 id) { passed.append(id); });
-        using Ask = QString (*)(HostSession&);
+        using Ask = QString (*)(vlk::HostSession&);
         const std::pair<const char*, Ask> asked[] = {
-            {"not read", [](HostSession& session) { return session.readConfiguration(true); }},
-            {"Telemetry did not come", [](HostSession& session) { return session.liveTelemetry(); }}};
+            {"not read", [](vlk::HostSession& session) { return session.readConfiguration(true); }},
+            {"Telemetry did not come", [](vlk::HostSession& session) { return session.liveTelemetry(); }}};
         for (const auto& [what, ask] : asked) {
             bench.session.tracker().attach();
             bench.session.tracker().setFaults(faults);
@@ -136,7 +136,7 @@ private Q_SLOTS:
 
     void saysThatItIsTheDisk()
     {
-        Languages languages;
+        vlk::Languages languages;
         QVERIFY(languages.set(QStringLiteral("en")));
         Bench bench;
         QVERIFY(bench.start());
@@ -154,7 +154,7 @@ private Q_SLOTS:
             ++asked;
             return answer;
         });
-        QSignalSpy cancelled(&bench.session, &HostSession::writeCancelled);
+        QSignalSpy cancelled(&bench.session, &vlk::HostSession::writeCancelled);
         bench.session.newConfiguration(true);
         QVERIFY(QFile::exists(QStringLiteral("vlk_echo.xml")));
         QVERIFY(cancelled.wait());
@@ -172,7 +172,7 @@ private Q_SLOTS:
 
     void saysWhatIsEdited()
     {
-        Languages languages;
+        vlk::Languages languages;
         QVERIFY(languages.set(QStringLiteral("en")));
         Bench bench;
         QVERIFY(bench.start());
@@ -212,7 +212,7 @@ private Q_SLOTS:
     {
         Bench bench;
         QVERIFY(bench.start());
-        QSignalSpy help(&bench.session, &HostSession::helpRequested);
+        QSignalSpy help(&bench.session, &vlk::HostSession::helpRequested);
         bench.session.link().send(vlk::Message::RaiseConfiguration);
         QCOMPARE(help.size(), 1);
         QCOMPARE(help.first().first().toString(), QStringLiteral("r-7106p1.html"));

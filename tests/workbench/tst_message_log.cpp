@@ -180,12 +180,12 @@ private Q_SLOTS:
 
     void keepsABoundedNumber()
     {
-        MessageLogModel model(100);
+        vlk::MessageLogModel model(100);
         const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
         for (std::int32_t n = 0; n < 250; ++n)
             model.append(Direction::ToPlugin, quint32(Message::SetHostMode), &n, nullptr);
         QVERIFY(model.rowCount() <= 100 && model.rowCount() >= 90);
-        const QModelIndex last = model.index(model.rowCount() - 1, MessageLogModel::Parameters);
+        const QModelIndex last = model.index(model.rowCount() - 1, vlk::MessageLogModel::Parameters);
         QCOMPARE(last.data().toString(), QStringLiteral("249"));
         model.clear();
         QCOMPARE(model.rowCount(), 0);
@@ -196,28 +196,28 @@ private Q_SLOTS:
         QTest::addColumn<QString>("words");
         QTest::addColumn<int>("directions");
         QTest::addColumn<int>("shown");
-        const int both = int(MessageLogFilter::Directions::Both);
+        const int both = int(vlk::MessageLogFilter::Directions::Both);
         QTest::newRow("nothing") << QString() << both << 4;
         QTest::newRow("number") << QStringLiteral("2301") << both << 1;
         QTest::newRow("name in any case") << QStringLiteral("currentrecord") << both << 2;
         QTest::newRow("bytes as hex") << QStringLiteral("0A FF") << both << 1;
         QTest::newRow("all words") << QStringLiteral("  record   request ") << both << 1;
         QTest::newRow("a word that is nowhere") << QStringLiteral("record tachograph") << both << 0;
-        QTest::newRow("to the plug-in") << QString() << int(MessageLogFilter::Directions::ToPlugin) << 2;
-        QTest::newRow("to the host") << QStringLiteral("help") << int(MessageLogFilter::Directions::ToHost)
-                                     << 1;
+        QTest::newRow("to the plug-in") << QString() << int(vlk::MessageLogFilter::Directions::ToPlugin) << 2;
+        QTest::newRow("to the host") << QStringLiteral("help")
+                                     << int(vlk::MessageLogFilter::Directions::ToHost) << 1;
     }
     void filters()
     {
-        MessageLogModel model;
-        MessageLogFilter filter;
+        vlk::MessageLogModel model;
+        vlk::MessageLogFilter filter;
         const QAbstractItemModelTester tester(&filter,
                                               QAbstractItemModelTester::FailureReportingMode::QtTest);
         filter.setSourceModel(&model);
         QFETCH(QString, words);
         QFETCH(int, directions);
         filter.setWords(words);
-        filter.setDirections(MessageLogFilter::Directions(directions));
+        filter.setDirections(vlk::MessageLogFilter::Directions(directions));
         const QByteArray record("\x0a\xff", 2);
         const std::int32_t mode = 1;
         model.append(Direction::ToHost, quint32(Message::RequestCurrentRecord), nullptr, nullptr);
@@ -229,10 +229,10 @@ private Q_SLOTS:
 
     void savesWhatIsShown()
     {
-        Languages languages;
+        vlk::Languages languages;
         QVERIFY(languages.set(QStringLiteral("en")));
-        MessageLogModel model;
-        MessageLogView view(&model);
+        vlk::MessageLogModel model;
+        vlk::MessageLogView view(&model);
         const std::int32_t mode = 2;
         model.append(Direction::ToPlugin, quint32(Message::SetHostMode), &mode, nullptr);
         model.append(Direction::ToPlugin, quint32(Message::LanguageChanged), nullptr, nullptr);

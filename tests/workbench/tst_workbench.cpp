@@ -84,7 +84,7 @@ private Q_SLOTS:
         const QSet<QString> used = keysOfSources();
         const auto isStem = [](const QString& key) { return key.endsWith(QLatin1Char('_')); };
         QVERIFY(used.size() > 100);
-        for (const QString& language : Languages::codes()) {
+        for (const QString& language : vlk::Languages::codes()) {
             const QSet<QString> texts = keysOfTexts(language);
             QStringList missing;
             for (const QString& key : used)
@@ -104,7 +104,7 @@ private Q_SLOTS:
     // The compiled texts, asked the way the plug-in asks: from any class, by key.
     void translatesByKey()
     {
-        Languages languages;
+        vlk::Languages languages;
         QVERIFY(languages.set(QStringLiteral("ru")));
         QCOMPARE(QCoreApplication::translate("SomeClass", "wb_help_back"), QStringLiteral("Назад"));
         QCOMPARE(vlk::text("wb_help_back"), QStringLiteral("Назад"));
@@ -122,12 +122,12 @@ private Q_SLOTS:
         QTest::addColumn<QString>("language");
         QTest::addColumn<QString>("page");
         QSet<QString> pages;
-        for (const QString& language : Languages::codes())
+        for (const QString& language : vlk::Languages::codes())
             for (const QString& page :
                  QDir(QStringLiteral(VLK_SOURCE "/help/") + language).entryList(QDir::Files))
                 pages << page;
         // A page of one language stands in the others too.
-        for (const QString& language : Languages::codes())
+        for (const QString& language : vlk::Languages::codes())
             for (const QString& page : std::as_const(pages))
                 QTest::newRow(qPrintable(language + QLatin1Char('/') + page)) << language << page;
     }
@@ -135,7 +135,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, language);
         QFETCH(QString, page);
-        const HelpPages pages(QStringLiteral(VLK_SOURCE "/help"));
+        const vlk::HelpPages pages(QStringLiteral(VLK_SOURCE "/help"));
         QVERIFY(pages.exists(language, page));
         static const QRegularExpression link(QStringLiteral("href=\"([^\"#]*)(?:#([^\"]*))?\""));
         for (auto found = link.globalMatch(pages.html(language, page)); found.hasNext();) {
@@ -151,9 +151,9 @@ private Q_SLOTS:
 
     void namesAMissingHelpPage()
     {
-        Languages languages;
+        vlk::Languages languages;
         QVERIFY(languages.set(QStringLiteral("en")));
-        const HelpPages pages(QStringLiteral(VLK_SOURCE "/help"));
+        const vlk::HelpPages pages(QStringLiteral(VLK_SOURCE "/help"));
         QVERIFY(pages.html(QStringLiteral("en"), QStringLiteral("r-7106p99.html"))
                     .contains(QStringLiteral("r-7106p99.html")));
         // Only the file name counts, so that no page leads out of the help.
@@ -166,26 +166,26 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         const QString file = folder.filePath(QStringLiteral("w.ini"));
         {
-            Settings settings(file);
+            vlk::Settings settings(file);
             settings.setLanguage(QStringLiteral("ru"));
             settings.setMode(2);
             settings.setFullWindow(false);
             settings.setFolders(QStringLiteral("/а/"), QStringLiteral("/b/"));
             for (int n = 0; n < 15; ++n)
                 settings.addRecentFile(QStringLiteral("/f%1").arg(n));
-            settings.addRecentFile(QStringLiteral("/f9"), TelemetryWindow::Table);
+            settings.addRecentFile(QStringLiteral("/f9"), vlk::TelemetryWindow::Table);
             settings.removeRecentFile(QStringLiteral("/f14"));
         }
-        const Settings settings(file);
+        const vlk::Settings settings(file);
         QCOMPARE(settings.language(), QStringLiteral("ru"));
         QCOMPARE(settings.mode(), 2);
         QVERIFY(!settings.fullWindow());
         QCOMPARE(settings.telemetryFolder(), QStringLiteral("/а/"));
-        QCOMPARE(settings.recentFiles().size(), Settings::recentLimit - 1);
-        const RecentFile first = settings.recentFiles().value(0);
-        QVERIFY(first.path == QLatin1String("/f9") && first.window == TelemetryWindow::Table);
-        const RecentFile second = settings.recentFiles().value(1);
-        QVERIFY(second.path == QLatin1String("/f13") && second.window == TelemetryWindow::Browser);
+        QCOMPARE(settings.recentFiles().size(), vlk::Settings::recentLimit - 1);
+        const vlk::RecentFile first = settings.recentFiles().value(0);
+        QVERIFY(first.path == QLatin1String("/f9") && first.window == vlk::TelemetryWindow::Table);
+        const vlk::RecentFile second = settings.recentFiles().value(1);
+        QVERIFY(second.path == QLatin1String("/f13") && second.window == vlk::TelemetryWindow::Browser);
     }
 
     // The command line's wishes hold for the run alone, until the user chooses otherwise.
@@ -193,9 +193,9 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         const QString file = folder.filePath(QStringLiteral("w.ini"));
-        const auto stored = [&file] { return Settings(file); };
+        const auto stored = [&file] { return vlk::Settings(file); };
         {
-            Settings settings(file);
+            vlk::Settings settings(file);
             settings.setLanguage(QStringLiteral("en"));
             settings.setForThisRun(QStringLiteral("ru"), 2);
             QCOMPARE(settings.language(), QStringLiteral("ru"));
@@ -222,9 +222,9 @@ private Q_SLOTS:
         QFETCH(bool, damaged);
         const QTemporaryDir folder;
         const QString file = write(folder, QStringLiteral("w.ini"), content);
-        Settings settings(file);
+        vlk::Settings settings(file);
         QCOMPARE(settings.wasDamaged(), damaged);
-        QVERIFY(Languages::isKnown(settings.language()));
+        QVERIFY(vlk::Languages::isKnown(settings.language()));
         QCOMPARE(settings.mode(), 0);
         QCOMPARE(QFile::exists(file + QStringLiteral(".damaged")), damaged);
         if (damaged)
@@ -260,12 +260,12 @@ private Q_SLOTS:
     void makesItsDataFolder()
     {
         const QTemporaryDir root;
-        const DataFolder folder(root.filePath(QStringLiteral("new/папка")));
+        const vlk::DataFolder folder(root.filePath(QStringLiteral("new/папка")));
         QVERIFY(folder.isUsable());
         QCOMPARE(QDir::currentPath(), QFileInfo(folder.path()).canonicalFilePath());
         QVERIFY(QFileInfo(folder.configurationFolder()).isDir());
         // A file stands in the way.
-        const DataFolder refused(write(root, QStringLiteral("file"), "x") + QStringLiteral("/data"));
+        const vlk::DataFolder refused(write(root, QStringLiteral("file"), "x") + QStringLiteral("/data"));
         QVERIFY(!refused.isUsable() && !refused.isInUse());
         QVERIFY(!refused.error().isEmpty());
     }
@@ -277,9 +277,9 @@ private Q_SLOTS:
         const QTemporaryDir root;
         const QStringList arguments{"--language", "en",     "--data",
                                     root.path(),  "--tour", root.filePath(QStringLiteral("tour"))};
-        auto first = std::make_unique<DataFolder>(root.path());
+        auto first = std::make_unique<vlk::DataFolder>(root.path());
         QVERIFY(first->isUsable());
-        QVERIFY(DataFolder(root.path()).isInUse());
+        QVERIFY(vlk::DataFolder(root.path()).isInUse());
         const auto [code, output] = run(arguments);
         QCOMPARE(code, 1);
         QVERIFY2(
@@ -287,7 +287,7 @@ private Q_SLOTS:
             qPrintable(output));
         QVERIFY(QDir(first->trackerFolder()).isEmpty());
         first.reset();
-        QVERIFY(DataFolder(root.path()).isUsable());
+        QVERIFY(vlk::DataFolder(root.path()).isUsable());
     }
 
     // One sentence in place of an abort.
@@ -316,8 +316,9 @@ private Q_SLOTS:
         QPalette palette;
         palette.setColor(QPalette::Base, base);
         palette.setColor(QPalette::Link, link);
-        HelpViewer viewer(HelpPages(QStringLiteral(VLK_SOURCE "/help")), QStringLiteral("en"), nullptr);
-        viewer.showPage(HelpPages::indexPage());
+        vlk::HelpViewer viewer(vlk::HelpPages(QStringLiteral(VLK_SOURCE "/help")), QStringLiteral("en"),
+                               nullptr);
+        viewer.showPage(vlk::HelpPages::indexPage());
         // The theme may change while the page is on show.
         viewer.setPalette(palette);
         const auto* browser = viewer.findChild<QTextBrowser*>(QStringLiteral("textBrowser_Help"));

@@ -28,11 +28,11 @@ namespace {
 struct Bench
 {
     QTemporaryDir root;
-    DataFolder folder{root.path()};
-    Settings settings{folder.settingsFile()};
-    Languages languages;
+    vlk::DataFolder folder{root.path()};
+    vlk::Settings settings{folder.settingsFile()};
+    vlk::Languages languages;
     bool english = languages.set(QStringLiteral("en"));
-    WorkbenchWindow window{folder, settings, languages};
+    vlk::WorkbenchWindow window{folder, settings, languages};
 
     bool start()
     {
@@ -207,18 +207,19 @@ private Q_SLOTS:
         const QString path = writeFile(bench.root.filePath(QStringLiteral("period.xml")), telemetry);
         QVERIFY(bench.start());
         QVector<int> windows;
-        connect(&bench.window.session().link(), &PluginLink::passed, this,
+        connect(&bench.window.session().link(), &vlk::PluginLink::passed, this,
                 [&](vlk::Direction, quint32 id, const void*, const void* p2) {
                     if (id == quint32(vlk::Message::ShowStoredFile))
                         windows.append(*static_cast<const std::int32_t*>(p2));
                 });
         auto* list = bench.window.findChild<QListWidget*>(QStringLiteral("listWidget_Recent"));
-        for (const TelemetryWindow window : {TelemetryWindow::Browser, TelemetryWindow::Table}) {
+        for (const vlk::TelemetryWindow window :
+             {vlk::TelemetryWindow::Browser, vlk::TelemetryWindow::Table}) {
             bench.window.openFile(path, window);
             Q_EMIT list->itemActivated(list->item(0));
         }
         // The menu makes its entries anew while one of them is under way.
-        bench.window.findChild<RecentFiles*>()->menu()->actions().constFirst()->trigger();
+        bench.window.findChild<vlk::RecentFiles*>()->menu()->actions().constFirst()->trigger();
         QCOMPARE(windows, QVector<int>({0, 0, 1, 1, 1}));
         QCOMPARE(list->count(), 1);
     }
@@ -255,7 +256,7 @@ private Q_SLOTS:
         Bench bench;
         QVERIFY(bench.start());
         int opened = 0;
-        connect(&bench.window.session().link(), &PluginLink::passed, this,
+        connect(&bench.window.session().link(), &vlk::PluginLink::passed, this,
                 [&opened](vlk::Direction, quint32 id) { opened += id == 2101 || id == 2103; });
         const QString path = writeFile(bench.root.filePath(QStringLiteral("bad.xml")), content);
         const QString text = messageDuring([&] { bench.window.openFile(path); });
@@ -388,7 +389,7 @@ private Q_SLOTS:
         Bench bench;
         QVERIFY(bench.start());
         auto* tabs = bench.window.findChild<QTabWidget*>(QStringLiteral("tabWidget_Main"));
-        for (const QString& language : Languages::codes()) {
+        for (const QString& language : vlk::Languages::codes()) {
             bench.window.setLanguage(language);
             for (int tab = 0; tab < tabs->count(); ++tab) {
                 tabs->setCurrentIndex(tab);
@@ -408,14 +409,14 @@ private Q_SLOTS:
         QVERIFY(bench.start());
         const QSize screen = QGuiApplication::primaryScreen()->availableSize();
         const auto fits = [&screen](const QSize& size) { return size.boundedTo(screen) == size; };
-        for (const QString& language : Languages::codes()) {
+        for (const QString& language : vlk::Languages::codes()) {
             bench.window.setLanguage(language);
             QCoreApplication::processEvents();
             QVERIFY(fits(bench.window.minimumSizeHint()));
             QVERIFY(fits(bench.window.size()));
             bench.window.showHelp(QStringLiteral("index.html"));
-            const FoldersDialog folders({}, {}, &bench.window);
-            WriteReportView::showDialog({}, &bench.window);
+            const vlk::FoldersDialog folders({}, {}, &bench.window);
+            vlk::WriteReportView::showDialog({}, &bench.window);
             for (const auto* window : bench.window.findChildren<QDialog*>())
                 QVERIFY2(fits(window->size()), window->objectName().toLatin1().constData());
         }
@@ -426,7 +427,7 @@ private Q_SLOTS:
     {
         Bench bench;
         QVERIFY(bench.start());
-        for (const QString& language : Languages::codes()) {
+        for (const QString& language : vlk::Languages::codes()) {
             bench.window.setLanguage(language);
             bench.window.resize(1024, 600);
             QCoreApplication::processEvents();

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace vlk {
+
 namespace {
 
 bool asksForAnswer(quint32 id)
@@ -48,3 +50,5 @@ void AnswerWatch::forget()
     if (std::exchange(told_, false))
         Q_EMIT over();
 }
+
+} // namespace vlk

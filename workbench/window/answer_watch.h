@@ -8,6 +8,8 @@
 #include <QDateTime>
 #include <QTimer>
 
+namespace vlk {
+
 class AnswerWatch : public QObject
 {
     Q_OBJECT
@@ -33,3 +35,5 @@ private:
     QTimer patience_;
     bool told_ = false;
 };
+
+} // namespace vlk

@@ -8,6 +8,8 @@
 #include <QMenuBar>
 #include <QToolBar>
 
+namespace vlk {
+
 namespace {
 
 struct LanguageRow
@@ -102,3 +104,5 @@ QComboBox* CommandBars::buildWindowChoice()
             [this](int index) { settings_.setFullWindow(index == 0); });
     return choice;
 }
+
+} // namespace vlk

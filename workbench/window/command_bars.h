@@ -7,10 +7,13 @@
 
 #include <QObject>
 
-class Languages;
 class QComboBox;
 class QMainWindow;
 class QMenu;
+
+namespace vlk {
+
+class Languages;
 class Settings;
 
 class CommandBars : public QObject
@@ -39,3 +42,5 @@ private:
     const Languages& languages_;
     KeyTexts texts_;
 };
+
+} // namespace vlk

@@ -5,6 +5,8 @@
 #include <QCommandLineParser>
 #include <QFileInfo>
 
+namespace vlk {
+
 namespace {
 
 struct OptionRow
@@ -108,3 +110,5 @@ CommandLine CommandLine::parse(const QStringList& arguments)
         return refuse(vlk::text("wb_file_missing").arg(line.open));
     return line;
 }
+
+} // namespace vlk

@@ -7,6 +7,8 @@
 
 #include <optional>
 
+namespace vlk {
+
 struct CommandLine
 {
     std::optional<QString> language;
@@ -25,3 +27,5 @@ struct CommandLine
     // The language that parse() would find, so that its messages can be in it.
     static std::optional<QString> languageOf(const QStringList& arguments);
 };
+
+} // namespace vlk

@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+namespace vlk {
+
 namespace {
 
 struct CommandRow
@@ -62,3 +64,5 @@ void Commands::retranslate()
         action->setToolTip(tip);
     }
 }
+
+} // namespace vlk

@@ -7,6 +7,8 @@
 
 #include <array>
 
+namespace vlk {
+
 enum class Command {
     ReadTracker,
     OpenFile,
@@ -36,3 +38,5 @@ public:
 private:
     std::array<QAction*, std::size_t(Command::Count)> actions_{};
 };
+
+} // namespace vlk

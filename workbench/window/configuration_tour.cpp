@@ -40,46 +40,46 @@ Value other(const Value& present, const Value& one, const Value& two)
 
 void typeText(Notebook& book, const char* widget, const char* path, const QString& one, const QString& two)
 {
-    auto* edit = Tour::find<QLineEdit>(widget);
-    Tour::expect(edit->isEnabled(), QStringLiteral("%1 is disabled").arg(QLatin1String(widget)));
+    auto* edit = vlk::Tour::find<QLineEdit>(widget);
+    vlk::Tour::expect(edit->isEnabled(), QStringLiteral("%1 is disabled").arg(QLatin1String(widget)));
     const QString text = other(edit->text(), one, two);
     edit->setText(text);
     book.edits.append({QLatin1String(path), text});
 }
 
-void readTracker(Tour& tour)
+void readTracker(vlk::Tour& tour)
 {
     const QString failure = tour.window().session().readConfiguration(true);
-    Tour::expect(failure.isEmpty(), failure);
-    tour.waitFor([] { return Tour::findVisible("lineEdit_Name"); }, QStringLiteral("the Transfer page"));
+    vlk::Tour::expect(failure.isEmpty(), failure);
+    tour.waitFor([] { return vlk::Tour::findVisible("lineEdit_Name"); }, QStringLiteral("the Transfer page"));
 }
 
 void editPage(Notebook& book)
 {
     typeText(book, "lineEdit_Name", "TRANS/OBJECT/name", QStringLiteral("KAMAZ 5490 A123BC"),
              QStringLiteral("KAMAZ 5490 B456CE"));
-    if (auto* group = qobject_cast<QGroupBox*>(Tour::findVisible("GPRSSrv_groupBox_Main")))
+    if (auto* group = qobject_cast<QGroupBox*>(vlk::Tour::findVisible("GPRSSrv_groupBox_Main")))
         group->setChecked(true);
     typeText(book, "GPRSSrv_lineEdit_IP_DNS_Main", "TRANS/SRV1/addr", QStringLiteral("fleet.example.com"),
              QStringLiteral("gate.example.com"));
-    auto* port = Tour::find<QSpinBox>("GPRSSrv_spinBox_Port_Main");
+    auto* port = vlk::Tour::find<QSpinBox>("GPRSSrv_spinBox_Port_Main");
     port->setValue(other(port->value(), 5555, 6666));
     book.edits.append({QStringLiteral("TRANS/SRV1/port"), QString::number(port->value())});
 }
 
-void writeTracker(Tour& tour, Notebook& book)
+void writeTracker(vlk::Tour& tour, Notebook& book)
 {
     QObject context;
     QObject::connect(
-        &tour.window().session(), &HostSession::configurationWritten, &context,
+        &tour.window().session(), &vlk::HostSession::configurationWritten, &context,
         [&book](const tracker::WriteReport& r) { book.report = std::make_unique<tracker::WriteReport>(r); });
-    Tour::press("pushButton_LoadToDevice");
+    vlk::Tour::press("pushButton_LoadToDevice");
     tour.waitFor([&book] { return book.report != nullptr; }, QStringLiteral("the tracker's report"));
     tour.save(QStringLiteral("report.txt"), vlk::plainText(*book.report).toUtf8());
-    Tour::expect(book.report->accepted, vlk::summary(*book.report));
-    Tour::expect(!QFile::exists(book.report->file),
-                 QStringLiteral("the written file was left behind: %1").arg(book.report->file));
-    if (QWidget* dialog = Tour::findVisible("dialog_Report")) {
+    vlk::Tour::expect(book.report->accepted, vlk::summary(*book.report));
+    vlk::Tour::expect(!QFile::exists(book.report->file),
+                      QStringLiteral("the written file was left behind: %1").arg(book.report->file));
+    if (QWidget* dialog = vlk::Tour::findVisible("dialog_Report")) {
         tour.picture(QStringLiteral("report.png"), dialog);
         dialog->close();
     }
@@ -100,26 +100,26 @@ void compare(const Notebook& book)
         wanted.append(edit.path + QLatin1Char('=') + edit.after);
     lines.sort();
     wanted.sort();
-    Tour::expect(lines == wanted,
-                 QStringLiteral("the tracker reports\n  %1\nbut edited was\n  %2")
-                     .arg(lines.join(QLatin1String("\n  ")), wanted.join(QLatin1String("\n  "))));
+    vlk::Tour::expect(lines == wanted,
+                      QStringLiteral("the tracker reports\n  %1\nbut edited was\n  %2")
+                          .arg(lines.join(QLatin1String("\n  ")), wanted.join(QLatin1String("\n  "))));
 }
 
-void checkTaken(Tour& tour, const Notebook& book)
+void checkTaken(vlk::Tour& tour, const Notebook& book)
 {
     tour.save(QStringLiteral("configuration.xml"),
               tour.window().session().tracker().readConfiguration().document);
     compare(book);
 }
 
-void takePictures(Tour& tour)
+void takePictures(vlk::Tour& tour)
 {
-    auto* tabs = Tour::find<QTabWidget>("tabWidget_Main");
-    auto* pages = Tour::find<QTabWidget>("tabWidget");
-    for (const QString& code : Languages::codes()) {
+    auto* tabs = vlk::Tour::find<QTabWidget>("tabWidget_Main");
+    auto* pages = vlk::Tour::find<QTabWidget>("tabWidget");
+    for (const QString& code : vlk::Languages::codes()) {
         tour.window().setLanguage(code);
         tour.picture(QStringLiteral("transfer-%1.png").arg(code),
-                     Tour::find<QLineEdit>("lineEdit_Name")->window());
+                     vlk::Tour::find<QLineEdit>("lineEdit_Name")->window());
         for (int page = pages->count() - 1; page >= 0; --page) {
             pages->setCurrentIndex(page);
             tour.picture(QStringLiteral("page-%1-%2.png").arg(code).arg(page + 1), pages->window());
@@ -132,29 +132,29 @@ void takePictures(Tour& tour)
 }
 
 // What the page opens beside itself, and its lower end, in both languages.
-void lookAround(Tour& tour)
+void lookAround(vlk::Tour& tour)
 {
-    auto* operators = Tour::find<QComboBox>("Transfer_comboBox_GSM_Operator_1");
+    auto* operators = vlk::Tour::find<QComboBox>("Transfer_comboBox_GSM_Operator_1");
     QWidget* page = operators;
     while (qobject_cast<QScrollArea*>(page) == nullptr && page->parentWidget() != nullptr)
         page = page->parentWidget();
     auto* area = qobject_cast<QScrollArea*>(page);
-    Tour::expect(area != nullptr, QStringLiteral("the page does not scroll"));
+    vlk::Tour::expect(area != nullptr, QStringLiteral("the page does not scroll"));
     const auto photograph = [&tour](const char* name, const QString& picture) {
-        tour.waitFor([name] { return Tour::findVisible(name); }, QLatin1String(name));
-        QWidget* window = Tour::findVisible(name)->window();
+        tour.waitFor([name] { return vlk::Tour::findVisible(name); }, QLatin1String(name));
+        QWidget* window = vlk::Tour::findVisible(name)->window();
         tour.picture(picture, window);
         window->close();
     };
-    for (const QString& code : Languages::codes()) {
+    for (const QString& code : vlk::Languages::codes()) {
         tour.window().setLanguage(code);
         // Automatic: the last but the one for the user's own access point.
         operators->setCurrentIndex(operators->count() - 2);
-        Tour::press("pushButton_AutoAPN_1");
+        vlk::Tour::press("pushButton_AutoAPN_1");
         photograph("treeWidget_ListApn", QStringLiteral("operators-%1.png").arg(code));
-        Tour::press("pushButton_RListOperSim_1");
+        vlk::Tour::press("pushButton_RListOperSim_1");
         photograph("treeWidget_List", QStringLiteral("roaming-%1.png").arg(code));
-        Tour::press("pushButton_Help");
+        vlk::Tour::press("pushButton_Help");
         photograph("textBrowser_Help", QStringLiteral("help-%1.png").arg(code));
         area->ensureVisible(0, area->widget()->height());
         tour.picture(QStringLiteral("transfer-end-%1.png").arg(code), area->window());
@@ -163,27 +163,28 @@ void lookAround(Tour& tour)
 }
 
 // A server of this machine, found by its address, so that no name has to be looked up.
-void testServer(Tour& tour)
+void testServer(vlk::Tour& tour)
 {
     QTcpServer server;
-    Tour::expect(server.listen(QHostAddress::LocalHost), server.errorString());
-    Tour::find<QLineEdit>("GPRSSrv_lineEdit_IP_DNS_Main")->setText(server.serverAddress().toString());
-    Tour::find<QSpinBox>("GPRSSrv_spinBox_Port_Main")->setValue(server.serverPort());
+    vlk::Tour::expect(server.listen(QHostAddress::LocalHost), server.errorString());
+    vlk::Tour::find<QLineEdit>("GPRSSrv_lineEdit_IP_DNS_Main")->setText(server.serverAddress().toString());
+    vlk::Tour::find<QSpinBox>("GPRSSrv_spinBox_Port_Main")->setValue(server.serverPort());
     QString answer;
     tour.whenModal<QMessageBox>([&](QMessageBox& box) {
         tour.picture(QStringLiteral("server-test.png"), &box);
         answer = box.text();
         box.accept();
     });
-    Tour::press("GPRSSrv_toolButton_Test_Main");
+    vlk::Tour::press("GPRSSrv_toolButton_Test_Main");
     tour.waitFor([&answer] { return !answer.isEmpty(); }, QStringLiteral("the answer of a server test"),
                  60'000);
 }
 
-void closeWindow(Tour& tour)
+void closeWindow(vlk::Tour& tour)
 {
     tour.window().session().link().send(vlk::Message::CloseWindows);
-    tour.waitFor([] { return !Tour::findVisible("lineEdit_Name"); }, QStringLiteral("the end of the window"));
+    tour.waitFor([] { return !vlk::Tour::findVisible("lineEdit_Name"); },
+                 QStringLiteral("the end of the window"));
 }
 
 } // namespace

@@ -4,6 +4,8 @@
 #include <QStandardPaths>
 #include <QTemporaryFile>
 
+namespace vlk {
+
 DataFolder::DataFolder(const QString& wanted)
 {
     if (!wanted.isEmpty()) {
@@ -44,3 +46,5 @@ bool DataFolder::prepare(const QString& path)
     error_.clear();
     return true;
 }
+
+} // namespace vlk

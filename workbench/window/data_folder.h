@@ -17,6 +17,8 @@
 
 #include <memory>
 
+namespace vlk {
+
 class DataFolder
 {
 public:
@@ -42,3 +44,5 @@ private:
     std::unique_ptr<QLockFile> lock_;
     bool inUse_ = false;
 };
+
+} // namespace vlk

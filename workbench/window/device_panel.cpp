@@ -7,6 +7,8 @@
 #include <QLabel>
 #include <QPainter>
 
+namespace vlk {
+
 namespace {
 
 constexpr const char* modeKeys[] = {"wb_mode_0", "wb_mode_1", "wb_mode_2"};
@@ -119,3 +121,5 @@ void DevicePanel::retranslate()
         mode_->setItemText(mode++, vlk::text(key));
     refresh();
 }
+
+} // namespace vlk

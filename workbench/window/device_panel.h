@@ -7,10 +7,13 @@
 
 #include <QGroupBox>
 
-class HostSession;
 class QComboBox;
 class QFormLayout;
 class QLabel;
+
+namespace vlk {
+
+class HostSession;
 
 class DevicePanel : public QGroupBox
 {
@@ -46,3 +49,5 @@ private:
     QLabel* trouble_;
     QComboBox* mode_;
 };
+
+} // namespace vlk

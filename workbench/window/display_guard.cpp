@@ -3,6 +3,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+namespace vlk {
+
 namespace {
 
 DisplayGuard* theGuard = nullptr;
@@ -35,3 +37,5 @@ void DisplayGuard::listen(QtMsgType type, const QMessageLogContext& context, con
     // Nothing of the application exists yet that could be taken down.
     std::_Exit(theGuard->exitCode_);
 }
+
+} // namespace vlk

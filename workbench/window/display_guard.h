@@ -9,6 +9,8 @@
 
 #include <vector>
 
+namespace vlk {
+
 class DisplayGuard
 {
 public:
@@ -32,3 +34,5 @@ private:
     QtMessageHandler before_;
     std::vector<Line> held_;
 };
+
+} // namespace vlk

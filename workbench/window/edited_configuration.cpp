@@ -5,6 +5,8 @@
 
 #include <QFileInfo>
 
+namespace vlk {
+
 using tracker::ConfigurationValues;
 
 void EditedConfiguration::readFromTracker(const QByteArray& document)
@@ -78,3 +80,5 @@ QString EditedConfiguration::name() const
     }
     return {};
 }
+
+} // namespace vlk

@@ -7,6 +7,8 @@
 
 #include <optional>
 
+namespace vlk {
+
 class EditedConfiguration
 {
 public:
@@ -39,3 +41,5 @@ private:
     std::optional<tracker::ConfigurationValues> tracker_; // what it held when it was heard of last
     std::optional<int> written_;                          // changes that were written
 };
+
+} // namespace vlk

@@ -6,6 +6,8 @@
 
 #include <QShortcut>
 
+namespace vlk {
+
 FaultsAtHand::FaultsAtHand(tracker::SimulatedTracker& tracker, const PluginWindows& windows,
                            QWidget* mainWindow)
     : tracker_(tracker), windows_(windows), mainWindow_(mainWindow)
@@ -81,3 +83,5 @@ void FaultsAtHand::retranslate()
     if (window_)
         window_->retranslate();
 }
+
+} // namespace vlk

@@ -6,13 +6,16 @@
 #include <QObject>
 #include <QPointer>
 
-class FaultsWindow;
-class PluginWindows;
 class QWidget;
 
 namespace tracker {
 class SimulatedTracker;
 } // namespace tracker
+
+namespace vlk {
+
+class FaultsWindow;
+class PluginWindows;
 
 class FaultsAtHand : public QObject
 {
@@ -41,3 +44,5 @@ private:
     QString trouble_;
     bool wanted_ = true; // the user has not closed it
 };
+
+} // namespace vlk

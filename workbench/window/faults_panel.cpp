@@ -10,6 +10,8 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
+namespace vlk {
+
 using tracker::Faults;
 using tracker::SimulatedTracker;
 
@@ -104,3 +106,5 @@ void FaultsPanel::retranslate()
     texts_.apply();
     refresh();
 }
+
+} // namespace vlk

@@ -16,6 +16,8 @@ class SimulatedTracker;
 struct Faults;
 } // namespace tracker
 
+namespace vlk {
+
 class FaultsPanel : public QWidget
 {
     Q_OBJECT
@@ -38,3 +40,5 @@ private:
     // Set the widgets as the faults stand.
     std::vector<std::function<void()>> states_;
 };
+
+} // namespace vlk

@@ -8,6 +8,8 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+namespace vlk {
+
 FaultsWindow::FaultsWindow(tracker::SimulatedTracker& tracker, QWidget* owner)
     : QDialog(owner, Qt::Tool | Qt::WindowCloseButtonHint | Qt::WindowDoesNotAcceptFocus),
       panel_(new FaultsPanel(tracker)), trouble_(new QLabel(this))
@@ -55,3 +57,5 @@ void FaultsWindow::place()
     else
         move(room.right() - width(), room.bottom() - height());
 }
+
+} // namespace vlk

@@ -7,12 +7,15 @@
 
 #include <QDialog>
 
-class FaultsPanel;
 class QLabel;
 
 namespace tracker {
 class SimulatedTracker;
 } // namespace tracker
+
+namespace vlk {
+
+class FaultsPanel;
 
 class FaultsWindow : public QDialog
 {
@@ -34,3 +37,5 @@ private:
     QLabel* trouble_;
     KeyTexts texts_;
 };
+
+} // namespace vlk

@@ -10,6 +10,8 @@
 #include <QFileDialog>
 #include <QFileInfo>
 
+namespace vlk {
+
 FileOpener::FileOpener(HostSession& session, Settings& settings, RecentFiles& recent, QWidget* mainWindow)
     : QObject(mainWindow), session_(session), settings_(settings), recent_(recent), mainWindow_(mainWindow)
 {
@@ -79,3 +81,5 @@ void FileOpener::openConfiguration(const QString& path, TelemetryWindow window)
     recent_.add(path, window);
     Q_EMIT opened();
 }
+
+} // namespace vlk

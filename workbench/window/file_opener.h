@@ -7,9 +7,12 @@
 
 #include <QObject>
 
+class QWidget;
+
+namespace vlk {
+
 class HostSession;
 class RecentFiles;
-class QWidget;
 
 class FileOpener : public QObject
 {
@@ -39,3 +42,5 @@ private:
     RecentFiles& recent_;
     QWidget* mainWindow_;
 };
+
+} // namespace vlk

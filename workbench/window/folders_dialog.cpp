@@ -12,6 +12,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+namespace vlk {
+
 FoldersDialog::FoldersDialog(const QString& telemetry, const QString& configurations, QWidget* parent)
     : QDialog(parent)
 {
@@ -61,3 +63,5 @@ QString FoldersDialog::configurations() const
 {
     return configurations_->text().trimmed();
 }
+
+} // namespace vlk

@@ -7,6 +7,8 @@
 class QFormLayout;
 class QLineEdit;
 
+namespace vlk {
+
 class FoldersDialog : public QDialog
 {
     Q_OBJECT
@@ -23,3 +25,5 @@ private:
     QLineEdit* telemetry_;
     QLineEdit* configurations_;
 };
+
+} // namespace vlk

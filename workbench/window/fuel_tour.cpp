@@ -25,7 +25,7 @@ constexpr int kTrackerTab = 2;
 
 QWidget* window()
 {
-    return Tour::find<QLineEdit>("lineEdit_Title")->window();
+    return vlk::Tour::find<QLineEdit>("lineEdit_Title")->window();
 }
 
 template <class Widget>
@@ -34,39 +34,39 @@ Widget* inForm(const char* name)
     const QString sensor = QLatin1String(tracker::tanks[kTank].sensor);
     auto* form = window()->findChild<QWidget*>(sensor);
     auto* widget = form ? form->findChild<Widget*>(QLatin1String(name)) : nullptr;
-    Tour::expect(widget != nullptr, QStringLiteral("no %1 for %2").arg(QLatin1String(name), sensor));
+    vlk::Tour::expect(widget != nullptr, QStringLiteral("no %1 for %2").arg(QLatin1String(name), sensor));
     return widget;
 }
 
-QString content(const Tour& tour, const QString& name)
+QString content(const vlk::Tour& tour, const QString& name)
 {
     QFile file(tour.folder().filePath(name));
-    Tour::expect(file.open(QIODevice::ReadOnly), QStringLiteral("%1 was not saved").arg(name));
+    vlk::Tour::expect(file.open(QIODevice::ReadOnly), QStringLiteral("%1 was not saved").arg(name));
     return QString::fromLatin1(file.readAll());
 }
 
-void openCalibration(Tour& tour)
+void openCalibration(vlk::Tour& tour)
 {
     live::open(tour);
     live::showFunctions();
-    Tour::press("pushButton_FuelSensor");
+    vlk::Tour::press("pushButton_FuelSensor");
     auto* groups = window()->findChild<QTabWidget*>(QStringLiteral("tabWidget"));
     groups->setCurrentIndex(1);
     qobject_cast<QTabWidget*>(groups->currentWidget())->setCurrentIndex(kTab);
-    Tour::find<QTabWidget>("tabWidget_Main")->setCurrentIndex(kTrackerTab);
-    Tour::find<QComboBox>("comboBox_Tank")->setCurrentIndex(kTank);
-    Tour::press("pushButton_Drain");
+    vlk::Tour::find<QTabWidget>("tabWidget_Main")->setCurrentIndex(kTrackerTab);
+    vlk::Tour::find<QComboBox>("comboBox_Tank")->setCurrentIndex(kTank);
+    vlk::Tour::press("pushButton_Drain");
 }
 
 // A pour, a value that has come to rest, a point.
-void calibrate(Tour& tour)
+void calibrate(vlk::Tour& tour)
 {
     const tracker::Tank& tank = tracker::tanks[kTank];
     const auto* value = inForm<QLineEdit>("lineEdit_Param");
     int litres = 0;
     for (const int pour : kPours) {
         if (pour > 0)
-            Tour::press(qPrintable(QStringLiteral("pushButton_Pour_%1").arg(pour)));
+            vlk::Tour::press(qPrintable(QStringLiteral("pushButton_Pour_%1").arg(pour)));
         litres += pour;
         const double wanted = tracker::sensorValue(tank, tracker::fuelHeight(tank, litres));
         constexpr double tolerance = 25;
@@ -78,41 +78,42 @@ void calibrate(Tour& tour)
         inForm<QLineEdit>("lineEdit_Volume")->setText(QString::number(litres));
         inForm<QAbstractButton>("pushButton_Add")->click();
     }
-    Tour::expect(inForm<QTableWidget>("tableWidget")->rowCount() == int(std::size(kPours)),
-                 QStringLiteral("the table has not all points"));
+    vlk::Tour::expect(inForm<QTableWidget>("tableWidget")->rowCount() == int(std::size(kPours)),
+                      QStringLiteral("the table has not all points"));
     tour.picture(QStringLiteral("tank.png"), &tour.window());
-    for (const QString& code : Languages::codes()) {
+    for (const QString& code : vlk::Languages::codes()) {
         tour.window().setLanguage(code);
         tour.picture(QStringLiteral("calibration-%1.png").arg(code), window());
     }
 }
 
-void save(Tour& tour, const char* button, const QString& name)
+void save(vlk::Tour& tour, const char* button, const QString& name)
 {
     const QString path = tour.folder().filePath(name);
     QFile::remove(path);
-    tour.whenModal<QFileDialog>([path](QFileDialog& dialog) { Tour::giveName(dialog, path); });
-    Tour::press(button);
+    tour.whenModal<QFileDialog>([path](QFileDialog& dialog) { vlk::Tour::giveName(dialog, path); });
+    vlk::Tour::press(button);
 }
 
-void saveTables(Tour& tour)
+void saveTables(vlk::Tour& tour)
 {
     inForm<QLineEdit>("lineEdit_Name")->setText(QStringLiteral("Tank 5"));
     save(tour, "pushButton_Save_Excel", QStringLiteral("calibration.csv"));
-    Tour::expect(content(tour, QStringLiteral("calibration.csv")).count(QStringLiteral("\r\n")) ==
-                     1 + int(std::size(kPours)),
-                 QStringLiteral("the CSV file has not a line a point"));
+    vlk::Tour::expect(content(tour, QStringLiteral("calibration.csv")).count(QStringLiteral("\r\n")) ==
+                          1 + int(std::size(kPours)),
+                      QStringLiteral("the CSV file has not a line a point"));
     save(tour, "pushButton_Save_Xml", QStringLiteral("calibration.xml"));
-    Tour::expect(content(tour, QStringLiteral("calibration.xml")).contains(QStringLiteral("param_U=\"70\"")),
-                 QStringLiteral("the XML file lacks the last point"));
+    vlk::Tour::expect(
+        content(tour, QStringLiteral("calibration.xml")).contains(QStringLiteral("param_U=\"70\"")),
+        QStringLiteral("the XML file lacks the last point"));
 }
 
 // The dialog of the toolkit has a printer that writes PDF files.
-void printReport(Tour& tour)
+void printReport(vlk::Tour& tour)
 {
-    Tour::press("pushButton_Print");
-    auto* report = Tour::find<QTextEdit>("textEdit_Report");
-    for (const QString& code : Languages::codes()) {
+    vlk::Tour::press("pushButton_Print");
+    auto* report = vlk::Tour::find<QTextEdit>("textEdit_Report");
+    for (const QString& code : vlk::Languages::codes()) {
         tour.window().setLanguage(code);
         report->window()->close();
         window()->findChild<QAbstractButton*>(QStringLiteral("pushButton_Print"))->click();
@@ -122,13 +123,13 @@ void printReport(Tour& tour)
     QFile::remove(path);
     tour.whenModal<QDialog>([path](QDialog& dialog) {
         auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("filename"));
-        Tour::expect(dialog.inherits("QPrintDialog") && name, QStringLiteral("this is no print dialog"));
+        vlk::Tour::expect(dialog.inherits("QPrintDialog") && name, QStringLiteral("this is no print dialog"));
         name->setText(path);
         dialog.accept();
     });
     report->window()->findChild<QAbstractButton*>(QStringLiteral("pushButton_Print"))->click();
-    Tour::expect(content(tour, QStringLiteral("calibration.pdf")).startsWith(QStringLiteral("%PDF")),
-                 QStringLiteral("the report is no PDF file"));
+    vlk::Tour::expect(content(tour, QStringLiteral("calibration.pdf")).startsWith(QStringLiteral("%PDF")),
+                      QStringLiteral("the report is no PDF file"));
     report->window()->close();
     window()->close();
     live::close(tour);

@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+namespace vlk {
+
 HelpPages::HelpPages(const QString& folder) : folder_(folder) {}
 
 QString HelpPages::path(const QString& language, const QString& page) const
@@ -27,3 +29,5 @@ QString HelpPages::html(const QString& language, const QString& page) const
              vlk::text("wb_help_missing").arg(QFileInfo(page).fileName().toHtmlEscaped()), indexPage(),
              vlk::text("wb_help_contents"));
 }
+
+} // namespace vlk

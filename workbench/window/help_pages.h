@@ -5,6 +5,8 @@
 
 #include <QString>
 
+namespace vlk {
+
 class HelpPages
 {
 public:
@@ -22,3 +24,5 @@ private:
 
     QString folder_;
 };
+
+} // namespace vlk

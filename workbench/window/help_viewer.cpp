@@ -9,6 +9,8 @@
 
 #include <cstdlib>
 
+namespace vlk {
+
 namespace {
 
 // One that can be read on the palette's base: many dark themes leave the link colour of the light one in it.
@@ -108,3 +110,5 @@ void HelpViewer::setLanguage(const QString& language)
     texts_.apply();
     browser_->setLanguage(language);
 }
+
+} // namespace vlk

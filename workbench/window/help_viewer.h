@@ -8,6 +8,8 @@
 #include <QDialog>
 #include <QTextBrowser>
 
+namespace vlk {
+
 // Takes its pages from HelpPages, so that links and history work on page names.
 class HelpBrowser : public QTextBrowser
 {
@@ -44,3 +46,5 @@ private:
     HelpBrowser* browser_;
     KeyTexts texts_;
 };
+
+} // namespace vlk

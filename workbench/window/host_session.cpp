@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QLoggingCategory>
 
+namespace vlk {
+
 Q_LOGGING_CATEGORY(lcSession, "vlk.workbench.session")
 
 namespace {
@@ -178,3 +180,5 @@ void HostSession::writeNotSaved(const QString& path, const QString& reason)
     report.detail = QStringLiteral("%1: %2").arg(path, reason);
     Q_EMIT configurationWritten(report);
 }
+
+} // namespace vlk

@@ -13,6 +13,8 @@
 
 #include <QTemporaryDir>
 
+namespace vlk {
+
 class HostSession : public QObject
 {
     Q_OBJECT
@@ -70,3 +72,5 @@ private:
     EditedConfiguration edited_;
     std::function<bool()> mayReplace_;
 };
+
+} // namespace vlk

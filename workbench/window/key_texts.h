@@ -8,6 +8,8 @@
 #include <functional>
 #include <vector>
 
+namespace vlk {
+
 class KeyTexts
 {
 public:
@@ -41,3 +43,5 @@ public:
 private:
     std::vector<std::function<void()>> setters_;
 };
+
+} // namespace vlk

@@ -5,6 +5,8 @@
 
 #include <QTranslator>
 
+namespace vlk {
+
 class KeyTranslator : public QTranslator
 {
     Q_OBJECT
@@ -15,3 +17,5 @@ public:
     QString translate(const char* context, const char* key, const char* disambiguation = nullptr,
                       int n = -1) const override;
 };
+
+} // namespace vlk

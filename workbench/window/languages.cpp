@@ -7,6 +7,8 @@
 #include <QLibraryInfo>
 #include <QLocale>
 
+namespace vlk {
+
 QString Languages::ofSystem()
 {
     return QLocale::system().language() == QLocale::Russian ? QStringLiteral("ru") : QStringLiteral("en");
@@ -33,8 +35,6 @@ bool Languages::set(const QString& code)
     dialogs_ = std::move(dialogs);
     return true;
 }
-
-namespace vlk {
 
 QString text(const char* key)
 {

@@ -10,6 +10,8 @@
 
 #include <memory>
 
+namespace vlk {
+
 class Languages
 {
 public:
@@ -32,8 +34,6 @@ private:
     std::unique_ptr<QTranslator> dialogs_;
     QString current_;
 };
-
-namespace vlk {
 
 // The text of a key in the language in use.
 QString text(const char* key);

@@ -8,6 +8,8 @@
 #include "window/status_line.h"
 #include "window/trouble_text.h"
 
+namespace vlk {
+
 LinkNotices::LinkNotices(HostSession& session, PluginWindows& windows, MessageLogModel& log,
                          StatusLine& status, QWidget* mainWindow)
     : session_(session), windows_(windows), log_(log), status_(status), mainWindow_(mainWindow),
@@ -77,3 +79,5 @@ void LinkNotices::tellPulled()
         },
         Qt::QueuedConnection);
 }
+
+} // namespace vlk

@@ -7,6 +7,8 @@
 #include "check/record_check.h"
 #include "window/answer_watch.h"
 
+namespace vlk {
+
 class HostSession;
 class MessageLogModel;
 class PluginWindows;
@@ -43,3 +45,5 @@ private:
     std::function<QString()> trouble_;
     std::optional<int> damagedOfPeriod_; // none while no period is asked for
 };
+
+} // namespace vlk

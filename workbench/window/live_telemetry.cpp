@@ -16,23 +16,23 @@ QWidget* form()
 
 } // namespace
 
-void open(Tour& tour)
+void open(vlk::Tour& tour)
 {
     const QString failure = tour.window().session().liveTelemetry();
-    Tour::expect(failure.isEmpty(), failure);
-    tour.waitFor([] { return Tour::findVisible(kNumber) && page() != QLatin1String("page_Empty"); },
+    vlk::Tour::expect(failure.isEmpty(), failure);
+    tour.waitFor([] { return vlk::Tour::findVisible(kNumber) && page() != QLatin1String("page_Empty"); },
                  QStringLiteral("a record in the telemetry window"));
 }
 
-void close(Tour& tour)
+void close(vlk::Tour& tour)
 {
     tour.window().session().link().send(vlk::Message::CloseWindows);
-    tour.waitFor([] { return !Tour::findVisible(kNumber); }, QStringLiteral("the end of the window"));
+    tour.waitFor([] { return !vlk::Tour::findVisible(kNumber); }, QStringLiteral("the end of the window"));
 }
 
 QWidget* window()
 {
-    return Tour::find<QLabel>(kNumber)->window();
+    return vlk::Tour::find<QLabel>(kNumber)->window();
 }
 
 QString number()
@@ -46,7 +46,7 @@ QString textOf(const char* label)
     const auto* found = form()->findChild<QLabel*>(name);
     if (found == nullptr)
         found = window()->findChild<QLabel*>(name);
-    Tour::expect(found != nullptr, QStringLiteral("no label named %1").arg(name));
+    vlk::Tour::expect(found != nullptr, QStringLiteral("no label named %1").arg(name));
     return found->text();
 }
 
@@ -55,19 +55,19 @@ QString page()
     return form()->objectName();
 }
 
-void ask(Tour& tour, const char* button)
+void ask(vlk::Tour& tour, const char* button)
 {
     const auto onShow = [] { return page() + number(); };
     const QString before = onShow();
-    Tour::press(button);
+    vlk::Tour::press(button);
     tour.waitFor([&] { return onShow() != before; },
                  QStringLiteral("the record of %1").arg(QLatin1String(button)));
 }
 
 void showFunctions()
 {
-    if (!Tour::findVisible("frame_Btn_Func"))
-        Tour::press("pushButton_Func");
+    if (!vlk::Tour::findVisible("frame_Btn_Func"))
+        vlk::Tour::press("pushButton_Func");
 }
 
 } // namespace live

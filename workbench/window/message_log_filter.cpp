@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace vlk {
+
 void MessageLogFilter::setWords(const QString& words)
 {
     words_ = words.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts);
@@ -35,3 +37,5 @@ bool MessageLogFilter::filterAcceptsRow(int row, const QModelIndex& parent) cons
         return searched.contains(word, Qt::CaseInsensitive);
     });
 }
+
+} // namespace vlk

@@ -6,6 +6,8 @@
 #include <QSortFilterProxyModel>
 #include <QStringList>
 
+namespace vlk {
+
 class MessageLogFilter : public QSortFilterProxyModel
 {
     Q_OBJECT
@@ -25,3 +27,5 @@ private:
     QStringList words_;
     Directions directions_ = Directions::Both;
 };
+
+} // namespace vlk

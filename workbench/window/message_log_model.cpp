@@ -3,6 +3,8 @@
 #include "window/languages.h"
 #include "window/message_text.h"
 
+namespace vlk {
+
 MessageLogModel::MessageLogModel(int capacity, QObject* parent)
     : QAbstractTableModel(parent), capacity_(std::max(1, capacity))
 {
@@ -106,3 +108,5 @@ void MessageLogModel::retranslate()
 {
     Q_EMIT headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
 }
+
+} // namespace vlk

@@ -10,6 +10,8 @@
 
 #include <deque>
 
+namespace vlk {
+
 struct LoggedMessage
 {
     QDateTime time;
@@ -56,3 +58,5 @@ private:
     std::deque<LoggedMessage> messages_;
     int capacity_;
 };
+
+} // namespace vlk

@@ -22,6 +22,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+namespace vlk {
+
 namespace {
 
 constexpr const char* directionKeys[] = {"wb_log_both", "wb_log_to_plugin", "wb_log_to_host"};
@@ -203,3 +205,5 @@ void MessageLogView::retranslate()
     showCount();
     showDetails();
 }
+
+} // namespace vlk

@@ -7,13 +7,16 @@
 
 #include <QWidget>
 
-class MessageLogFilter;
-class MessageLogModel;
 class QComboBox;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
 class QTableView;
+
+namespace vlk {
+
+class MessageLogFilter;
+class MessageLogModel;
 
 class MessageLogView : public QWidget
 {
@@ -46,3 +49,5 @@ private:
     QPlainTextEdit* details_;
     QLabel* count_;
 };
+
+} // namespace vlk

@@ -8,6 +8,8 @@
 #include <cstring>
 #include <vector>
 
+namespace vlk {
+
 namespace {
 
 PluginLink* theLink = nullptr;
@@ -157,3 +159,5 @@ QString PluginLink::balanceCode()
     send(vlk::Message::GetBalanceUssd, code);
     return QString::fromLocal8Bit(code, qstrnlen(code, sizeof code));
 }
+
+} // namespace vlk

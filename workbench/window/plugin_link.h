@@ -10,6 +10,8 @@
 #include <QLibrary>
 #include <QObject>
 
+namespace vlk {
+
 class PluginLink : public QObject
 {
     Q_OBJECT
@@ -61,3 +63,5 @@ private:
     void* handle_ = nullptr;
     vlk::ReceiveMessageFunction receive_ = nullptr;
 };
+
+} // namespace vlk

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace vlk {
+
 PluginWindows::PluginWindows(const QWidget* mainWindow) : mainWindow_(mainWindow)
 {
     QCoreApplication::instance()->installEventFilter(this);
@@ -47,3 +49,5 @@ bool PluginWindows::eventFilter(QObject* object, QEvent* event)
     }
     return false;
 }
+
+} // namespace vlk

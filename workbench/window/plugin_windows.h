@@ -8,6 +8,8 @@
 #include <QVector>
 #include <QWidget>
 
+namespace vlk {
+
 class PluginWindows : public QObject
 {
     Q_OBJECT
@@ -32,3 +34,5 @@ private:
     const QWidget* mainWindow_;
     QVector<QPointer<QWidget>> open_;
 };
+
+} // namespace vlk

@@ -9,6 +9,8 @@
 #include <QMenu>
 #include <QVBoxLayout>
 
+namespace vlk {
+
 namespace {
 
 constexpr int kPathRole = Qt::UserRole;
@@ -94,3 +96,5 @@ void RecentFiles::offerWindows(const QPoint& at)
     if (const QAction* action = offers.exec(list_->viewport()->mapToGlobal(at)))
         Q_EMIT chosen(path, action->data().value<TelemetryWindow>());
 }
+
+} // namespace vlk

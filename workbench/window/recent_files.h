@@ -11,6 +11,8 @@
 class QListWidget;
 class QMenu;
 
+namespace vlk {
+
 class RecentFiles : public QGroupBox
 {
     Q_OBJECT
@@ -38,3 +40,5 @@ private:
     QListWidget* list_;
     QMenu* menu_;
 };
+
+} // namespace vlk

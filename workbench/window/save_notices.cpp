@@ -13,6 +13,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+namespace vlk {
+
 namespace {
 
 // The files for the tracker lie in the current folder under names of the plug-in's own.
@@ -81,3 +83,5 @@ void SaveNotices::warn(const std::function<QString()>& sentence)
     status_.tell(StatusLine::Command, sentence);
     vlk::showWarning(sentence(), mainWindow_);
 }
+
+} // namespace vlk

@@ -6,6 +6,8 @@
 
 #include "window/save_watch.h"
 
+namespace vlk {
+
 class HostSession;
 class LinkNotices;
 class PluginWindows;
@@ -32,3 +34,5 @@ private:
     QWidget* mainWindow_;
     SaveWatch watch_;
 };
+
+} // namespace vlk

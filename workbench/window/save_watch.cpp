@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <cstring>
 
+namespace vlk {
+
 namespace {
 
 SaveWatch* theWatch = nullptr;
@@ -120,3 +122,5 @@ void SaveWatch::look(bool last)
     awaited_.clear();
     Q_EMIT failed(path, {});
 }
+
+} // namespace vlk

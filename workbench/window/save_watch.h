@@ -17,6 +17,8 @@
 class QFileDialog;
 class QWidget;
 
+namespace vlk {
+
 class SaveWatch : public QObject
 {
     Q_OBJECT
@@ -58,3 +60,5 @@ private:
     QVector<Candidate> awaited_;
     QFileSystemWatcher folder_;
 };
+
+} // namespace vlk

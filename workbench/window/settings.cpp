@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+namespace vlk {
+
 namespace {
 
 const QString languageKey = QStringLiteral("language");
@@ -155,3 +157,5 @@ void Settings::setLayout(const QString& name, const QByteArray& state)
 {
     store_->setValue(layoutKey(name), state);
 }
+
+} // namespace vlk

@@ -11,10 +11,10 @@
 #include <memory>
 #include <optional>
 
+namespace vlk {
+
 // What a file of telemetry is shown in.
 enum class TelemetryWindow { Browser = 0, Table = 1 };
-Q_DECLARE_METATYPE(TelemetryWindow)
-
 struct RecentFile
 {
     QString path; // absolute
@@ -68,3 +68,7 @@ private:
     std::optional<int> runMode_;
     bool damaged_ = false;
 };
+
+} // namespace vlk
+
+Q_DECLARE_METATYPE(vlk::TelemetryWindow)

@@ -7,6 +7,8 @@
 #include <QStatusBar>
 #include <QStyle>
 
+namespace vlk {
+
 namespace {
 
 // Shows as much of its text as there is room for, and never widens the window.
@@ -58,3 +60,5 @@ void StatusLine::retranslate()
     label_->setText(QString(text).replace(QLatin1Char('\n'), QLatin1Char(' ')));
     label_->setToolTip(held_.empty() ? QString() : text);
 }
+
+} // namespace vlk

@@ -13,6 +13,8 @@
 class QLabel;
 class QStatusBar;
 
+namespace vlk {
+
 class StatusLine : public QObject
 {
     Q_OBJECT
@@ -41,3 +43,5 @@ private:
     QLabel* label_;
     std::vector<Held> held_; // the newest last
 };
+
+} // namespace vlk

@@ -18,7 +18,7 @@ namespace {
 
 using tracker::Protocol;
 
-tracker::SimulatedTracker& trackerOf(Tour& tour)
+tracker::SimulatedTracker& trackerOf(vlk::Tour& tour)
 {
     return tour.window().session().tracker();
 }
@@ -27,13 +27,13 @@ QTabWidget* tabs()
 {
     auto* page = live::window()->findChild<QWidget*>(QStringLiteral("page_Zeta3"));
     auto* tabs = page->findChild<QTabWidget*>();
-    Tour::expect(tabs && tabs->count() == 4, QStringLiteral("the record has not its four tabs"));
+    vlk::Tour::expect(tabs && tabs->count() == 4, QStringLiteral("the record has not its four tabs"));
     return tabs;
 }
 
-void photographTabs(Tour& tour, const QString& stem)
+void photographTabs(vlk::Tour& tour, const QString& stem)
 {
-    for (const QString& code : Languages::codes()) {
+    for (const QString& code : vlk::Languages::codes()) {
         tour.window().setLanguage(code);
         for (int tab = 0; tab < tabs()->count(); ++tab) {
             tabs()->setCurrentIndex(tab);
@@ -43,33 +43,33 @@ void photographTabs(Tour& tour, const QString& stem)
     tabs()->setCurrentIndex(0);
 }
 
-void openTelemetry(Tour& tour)
+void openTelemetry(vlk::Tour& tour)
 {
     live::open(tour);
     photographTabs(tour, QStringLiteral("telemetry"));
 }
 
-void everyField(Tour& tour)
+void everyField(vlk::Tour& tour)
 {
     trackerOf(tour).setFullDataSet(true);
     live::ask(tour, "pushButton_Get_Prev");
     photographTabs(tour, QStringLiteral("telemetry-full"));
 }
 
-void walkBack(Tour& tour)
+void walkBack(vlk::Tour& tour)
 {
     for (int step = 0; step < 3; ++step) {
         const qlonglong before = live::number().toLongLong();
         live::ask(tour, "pushButton_Get_Prev");
-        Tour::expect(live::number().toLongLong() == before - 1,
-                     QStringLiteral("behind record %1 comes %2").arg(before).arg(live::number()));
+        vlk::Tour::expect(live::number().toLongLong() == before - 1,
+                          QStringLiteral("behind record %1 comes %2").arg(before).arg(live::number()));
     }
-    Tour::expect(Tour::find<QAbstractButton>("pushButton_Get_Next")->isEnabled(),
-                 QStringLiteral("there is no way forward after walking back"));
+    vlk::Tour::expect(vlk::Tour::find<QAbstractButton>("pushButton_Get_Next")->isEnabled(),
+                      QStringLiteral("there is no way forward after walking back"));
 }
 
 // What a user switches shows in the present record.
-void controls(Tour& tour)
+void controls(vlk::Tour& tour)
 {
     constexpr int sensorsTab = 1;
     constexpr double kilometres = 123456.75;
@@ -77,64 +77,65 @@ void controls(Tour& tour)
         dialog.setDoubleValue(kilometres);
         dialog.accept();
     });
-    Tour::press("pushButton_Run");
+    vlk::Tour::press("pushButton_Run");
     tabs()->setCurrentIndex(sensorsTab);
-    Tour::find<QComboBox>("comboBox_Out")->setCurrentIndex(1);
+    vlk::Tour::find<QComboBox>("comboBox_Out")->setCurrentIndex(1);
     live::ask(tour, "pushButton_Get_Current");
     const QString before = live::textOf("label_Out_Value_2");
     const char* other =
         before == live::textOf("label_Out_Value_1") ? "pushButton_Out_On" : "pushButton_Out_Off";
-    Tour::press(other);
+    vlk::Tour::press(other);
     live::ask(tour, "pushButton_Get_Prev");
     live::ask(tour, "pushButton_Get_Current");
-    Tour::expect(live::textOf("label_Out_Value_2") != before, QStringLiteral("output 2 was not switched"));
+    vlk::Tour::expect(live::textOf("label_Out_Value_2") != before,
+                      QStringLiteral("output 2 was not switched"));
     tour.picture(QStringLiteral("telemetry-output.png"), live::window());
     tabs()->setCurrentIndex(0);
     const QString mileage = live::textOf("label_Navi_Way_Value");
-    Tour::expect(std::abs(mileage.toDouble() - kilometres) < 50,
-                 QStringLiteral("the mileage is %1").arg(mileage));
+    vlk::Tour::expect(std::abs(mileage.toDouble() - kilometres) < 50,
+                      QStringLiteral("the mileage is %1").arg(mileage));
     trackerOf(tour).setFullDataSet(false);
 }
 
-void keyAndTag(Tour& tour)
+void keyAndTag(vlk::Tour& tour)
 {
     tour.window().setLanguage(QStringLiteral("ru"));
     live::showFunctions();
     for (const auto& [button, field] :
          {std::pair("pushButton_TM", "lineEdit_TM"), std::pair("pushButton_RFID", "lineEdit_RFID")}) {
-        auto* edit = Tour::find<QLineEdit>(field);
-        Tour::press(button);
+        auto* edit = vlk::Tour::find<QLineEdit>(field);
+        vlk::Tour::press(button);
         tour.waitFor([edit] { return !edit->text().isEmpty(); },
                      QStringLiteral("a number in %1").arg(QLatin1String(field)));
     }
     tour.picture(QStringLiteral("telemetry-keys.png"), live::window());
 }
 
-void extraPackets(Tour& tour)
+void extraPackets(vlk::Tour& tour)
 {
     live::ask(tour, "pushButton_Get_Current_RFID");
-    Tour::expect(live::page() == QLatin1String("page_ZetaExt"),
-                 QStringLiteral("the tag's record is no packet"));
+    vlk::Tour::expect(live::page() == QLatin1String("page_ZetaExt"),
+                      QStringLiteral("the tag's record is no packet"));
     tour.picture(QStringLiteral("telemetry-packet.png"), live::window());
     live::ask(tour, "pushButton_Get_Current_Touch");
     tour.picture(QStringLiteral("telemetry-packet-key.png"), live::window());
 }
 
-void tachograph(Tour& tour)
+void tachograph(vlk::Tour& tour)
 {
-    Tour::press("pushButton_Taho");
-    auto* answer = Tour::find<QTextEdit>("textEdit_Quest");
+    vlk::Tour::press("pushButton_Taho");
+    auto* answer = vlk::Tour::find<QTextEdit>("textEdit_Quest");
     QWidget* dialog = answer->window();
-    auto* question = Tour::find<QComboBox>("comboBox_Quest");
-    Tour::press("pushButton_Create");
-    auto* load = Tour::find<QAbstractButton>("pushButton_Load");
+    auto* question = vlk::Tour::find<QComboBox>("comboBox_Quest");
+    vlk::Tour::press("pushButton_Create");
+    auto* load = vlk::Tour::find<QAbstractButton>("pushButton_Load");
     tour.waitFor([load] { return load->isEnabled(); }, QStringLiteral("a file of the tachograph"));
-    for (const QString& code : Languages::codes()) {
+    for (const QString& code : vlk::Languages::codes()) {
         tour.window().setLanguage(code);
         for (int i = 0; i < question->count(); ++i) {
             question->setCurrentIndex(i);
             answer->clear();
-            Tour::press("pushButton_Quest");
+            vlk::Tour::press("pushButton_Quest");
             tour.waitFor([answer] { return !answer->toPlainText().isEmpty(); },
                          QStringLiteral("an answer of the tachograph"));
             tour.picture(QStringLiteral("tachograph-%1-%2.png").arg(code).arg(i + 1), dialog);
@@ -142,10 +143,10 @@ void tachograph(Tour& tour)
     }
     const QString path = tour.folder().filePath(QStringLiteral("card.ddd"));
     QFile::remove(path);
-    tour.whenModal<QFileDialog>([path](QFileDialog& fileDialog) { Tour::giveName(fileDialog, path); });
-    auto* told = Tour::find<QTextEdit>("textEdit_File");
+    tour.whenModal<QFileDialog>([path](QFileDialog& fileDialog) { vlk::Tour::giveName(fileDialog, path); });
+    auto* told = vlk::Tour::find<QTextEdit>("textEdit_File");
     const QString before = told->toPlainText();
-    Tour::press("pushButton_Load");
+    vlk::Tour::press("pushButton_Load");
     tour.waitFor([&] { return QFile::exists(path) && told->toPlainText() != before; },
                  QStringLiteral("a file fetched from the tachograph"));
     tour.picture(QStringLiteral("tachograph-file.png"), dialog);
@@ -153,13 +154,14 @@ void tachograph(Tour& tour)
 }
 
 // Records of the earlier versions have forms of their own.
-void earlierProtocols(Tour& tour)
+void earlierProtocols(vlk::Tour& tour)
 {
     for (const auto& [protocol, form] :
          {std::pair(Protocol::Protocol2, "page_Zeta2"), std::pair(Protocol::Protocol1, "page_Zeta1")}) {
         trackerOf(tour).setProtocol(protocol);
         live::ask(tour, "pushButton_Get_Current");
-        Tour::expect(live::page() == QLatin1String(form), QStringLiteral("shown is %1").arg(live::page()));
+        vlk::Tour::expect(live::page() == QLatin1String(form),
+                          QStringLiteral("shown is %1").arg(live::page()));
         tour.picture(QStringLiteral("telemetry-%1.png").arg(live::page()), live::window());
     }
     trackerOf(tour).setProtocol(Protocol::AsConfigured);
@@ -168,11 +170,11 @@ void earlierProtocols(Tour& tour)
 
 QColor colourOf(const char* label)
 {
-    return Tour::find<QLabel>(label)->palette().color(QPalette::WindowText);
+    return vlk::Tour::find<QLabel>(label)->palette().color(QPalette::WindowText);
 }
 
 // In a production mode the same window shows the page with the limits of the test bench.
-void production(Tour& tour)
+void production(vlk::Tour& tour)
 {
     struct Case
     {
@@ -186,10 +188,10 @@ void production(Tour& tour)
         tour.window().setMode(c.mode);
         trackerOf(tour).setFaults({.badBoard = c.badBoard});
         live::open(tour);
-        Tour::expect(live::page() == QLatin1String("page_Production"),
-                     QStringLiteral("shown is %1").arg(live::page()));
+        vlk::Tour::expect(live::page() == QLatin1String("page_Production"),
+                          QStringLiteral("shown is %1").arg(live::page()));
         const auto expectRed = [&c](const char* label, bool red) {
-            Tour::expect(
+            vlk::Tour::expect(
                 (colourOf(label) == Qt::red) == red,
                 QStringLiteral("%1 has the wrong colour in mode %2").arg(QLatin1String(label)).arg(c.mode));
         };

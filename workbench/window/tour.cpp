@@ -12,6 +12,8 @@
 
 #include <cstdio>
 
+namespace vlk {
+
 Tour::Tour(WorkbenchWindow& window, const QString& folder) : window_(window), folder_(folder)
 {
     folder_.mkpath(QStringLiteral("."));
@@ -145,3 +147,5 @@ QWidget* Tour::findVisible(const char* name)
     }
     return nullptr;
 }
+
+} // namespace vlk

@@ -17,6 +17,8 @@
 
 class QFileDialog;
 
+namespace vlk {
+
 struct TourFailure : std::runtime_error
 {
     explicit TourFailure(const QString& what) : std::runtime_error(what.toStdString()) {}
@@ -91,3 +93,5 @@ private:
     QString notes_;
     std::optional<TourFailure> failureInModal_;
 };
+
+} // namespace vlk

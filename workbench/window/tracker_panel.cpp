@@ -14,6 +14,8 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+namespace vlk {
+
 using tracker::Protocol;
 
 namespace {
@@ -135,3 +137,5 @@ void TrackerPanel::retranslate()
     texts_.apply();
     faults_->retranslate();
 }
+
+} // namespace vlk

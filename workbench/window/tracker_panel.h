@@ -7,7 +7,6 @@
 
 #include <QWidget>
 
-class FaultsPanel;
 class QComboBox;
 class QLineEdit;
 class QTableWidget;
@@ -15,6 +14,10 @@ class QTableWidget;
 namespace tracker {
 class SimulatedTracker;
 } // namespace tracker
+
+namespace vlk {
+
+class FaultsPanel;
 
 class TrackerPanel : public QWidget
 {
@@ -38,3 +41,5 @@ private:
     QLineEdit* filter_;
     QTableWidget* keys_;
 };
+
+} // namespace vlk

@@ -29,6 +29,8 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+namespace vlk {
+
 namespace {
 
 enum Tab { LogTab, ReportTab, TrackerTab };
@@ -362,3 +364,5 @@ void WorkbenchWindow::dropEvent(QDropEvent* event)
             return;
         }
 }
+
+} // namespace vlk

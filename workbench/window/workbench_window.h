@@ -16,6 +16,11 @@
 
 #include <memory>
 
+class QSplitter;
+class QTabWidget;
+
+namespace vlk {
+
 class CommandBars;
 class DataFolder;
 class DevicePanel;
@@ -24,8 +29,6 @@ class FileOpener;
 class Languages;
 class LinkNotices;
 class MessageLogView;
-class QSplitter;
-class QTabWidget;
 class RecentFiles;
 class SaveNotices;
 class StatusLine;
@@ -102,3 +105,5 @@ private:
     std::unique_ptr<LinkNotices> linkNotices_;
     std::unique_ptr<SaveNotices> saveNotices_;
 };
+
+} // namespace vlk

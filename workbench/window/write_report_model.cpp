@@ -2,6 +2,8 @@
 
 #include "window/languages.h"
 
+namespace vlk {
+
 void WriteReportModel::setReport(const tracker::WriteReport& report)
 {
     beginResetModel();
@@ -58,3 +60,5 @@ QVariant WriteReportModel::headerData(int section, Qt::Orientation orientation, 
         return vlk::text(keys[section]);
     return {};
 }
+
+} // namespace vlk

@@ -7,6 +7,8 @@
 
 #include <QAbstractTableModel>
 
+namespace vlk {
+
 class WriteReportModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -33,3 +35,5 @@ private:
 
     QVector<Row> rows_;
 };
+
+} // namespace vlk

@@ -15,6 +15,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+namespace vlk {
+
 WriteReportView::WriteReportView(QWidget* parent)
     : QWidget(parent), symbol_(new QLabel(this)), summary_(new QLabel(this)), copy_(new QToolButton(this)),
       table_(new QTableView(this))
@@ -109,3 +111,5 @@ void WriteReportView::showDialog(const tracker::WriteReport& report, QWidget* pa
     vlk::resizeWithin(dialog, keys ? QSize(860, 380) : QSize(560, dialog->heightForWidth(560)));
     dialog->open();
 }
+
+} // namespace vlk

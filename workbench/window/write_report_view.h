@@ -14,6 +14,8 @@ class QLabel;
 class QTableView;
 class QToolButton;
 
+namespace vlk {
+
 class WriteReportView : public QWidget
 {
     Q_OBJECT
@@ -39,3 +41,5 @@ private:
     QToolButton* copy_;
     QTableView* table_;
 };
+
+} // namespace vlk

@@ -171,7 +171,7 @@ inline constexpr DataSetGroup kDataSetGroups[] = {
     {DataSetTab::main, "groupBox_Motochas", "cfgt2f_018", 3, 1},
     {DataSetTab::navi, "groupBox_Navi", "cfgt2f_027", 0, 0, 3},
     {DataSetTab::navi, "groupBox_Accuracy", "cfgt2f_038", 0, 1},
-    {DataSetTab::navi, "groupBox_LBS", "cfgt2f_047", 1, 1},
+    {DataSetTab::navi, "groupBox_LBS", "cfgt2f_055", 1, 1},
     {DataSetTab::navi, "groupBox_Geozone", "cfgt2f_048", 2, 1},
     {DataSetTab::navi, "groupBox_MNavi", "cfgt2f_041", 3, 0},
     {DataSetTab::rs, "groupBox_RS232", "cfgt2f_054", 0, 0},

@@ -5,6 +5,8 @@
 
 #include <chrono>
 
+namespace vlk {
+
 namespace {
 constexpr int kRecordsBeforeWaitStep = 5;
 }
@@ -39,3 +41,5 @@ void AutomaticRequests::wait(int seconds)
 {
     autoTimer_.start(std::chrono::seconds(seconds));
 }
+
+} // namespace vlk

@@ -5,6 +5,8 @@
 
 #include <QTimer>
 
+namespace vlk {
+
 class AutomaticRequests : public QObject
 {
     Q_OBJECT
@@ -27,3 +29,5 @@ private:
     QTimer autoTimer_;
     int autoCount_ = 1;
 };
+
+} // namespace vlk

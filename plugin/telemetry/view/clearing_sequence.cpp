@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+namespace vlk {
+
 void ClearingSequence::start()
 {
     stop();
@@ -32,3 +34,5 @@ void ClearingSequence::next()
     step_ = kIdle + server;
     vlk::requests::clearServerData(server);
 }
+
+} // namespace vlk

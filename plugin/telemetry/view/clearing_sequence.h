@@ -8,6 +8,8 @@
 
 class QCheckBox;
 
+namespace vlk {
+
 class ClearingSequence
 {
 public:
@@ -27,3 +29,5 @@ private:
     std::array<QCheckBox*, 3> servers_;
     int step_ = kIdle;
 };
+
+} // namespace vlk

@@ -10,6 +10,8 @@
 #include <QGroupBox>
 #include <QLabel>
 
+namespace vlk {
+
 using namespace vlk;
 
 namespace {
@@ -117,3 +119,5 @@ void EventPanel::retranslate()
     timeText_->setText(tr("tmiw_020"));
     stateText_->setText(tr("tmiw_021"));
 }
+
+} // namespace vlk

@@ -10,6 +10,9 @@
 class QGroupBox;
 class QLabel;
 class TmiPage_Zeta3;
+
+namespace vlk {
+
 class ValueLabel;
 
 class EventPanel : public QFrame
@@ -52,3 +55,5 @@ private:
     ValueLabel* test_;
     ValueLabel* alarm_;
 };
+
+} // namespace vlk

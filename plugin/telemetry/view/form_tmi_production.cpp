@@ -80,7 +80,7 @@ QString named(const char* stem, const char* end)
 
 } // namespace
 
-VLK_Form_TMI_Production::VLK_Form_TMI_Production(EventPanel* panel, QWidget* parent)
+VLK_Form_TMI_Production::VLK_Form_TMI_Production(vlk::EventPanel* panel, QWidget* parent)
     : QWidget(parent), record_(panel), levelText_(makeCaption(QStringLiteral("label_GSM_Level_Text"))),
       level_(new QProgressBar(this)), scroll_(new QScrollArea(this)), columns_(new QHBoxLayout)
 {

@@ -21,7 +21,7 @@ class VLK_Form_TMI_Production : public QWidget
 
 public:
     // Records go to `panel` too, if there is one.
-    explicit VLK_Form_TMI_Production(EventPanel* panel, QWidget* parent = nullptr);
+    explicit VLK_Form_TMI_Production(vlk::EventPanel* panel, QWidget* parent = nullptr);
 
     // A record, from its type byte on.
     void takeRecord(const QByteArray& record) { fill(record_.take(record)); }
@@ -51,15 +51,15 @@ private:
         const char* key;
     };
 
-    RecordOnShow record_;
+    vlk::RecordOnShow record_;
     vlk::ValueRows rows_;
     std::vector<Group> groups_;
     std::vector<QLabel*> inputTexts_;
-    std::vector<ValueLabel*> inputValues_;
+    std::vector<vlk::ValueLabel*> inputValues_;
     QLabel* levelText_;
     QProgressBar* level_;
     std::vector<QLabel*> segmentCaptions_;
-    std::vector<ValueLabel*> segmentValues_;
+    std::vector<vlk::ValueLabel*> segmentValues_;
     QScrollArea* scroll_;
     QBoxLayout* columns_;
 };

@@ -54,7 +54,7 @@ private:
 
 } // namespace
 
-VLK_Form_TMI_Zeta3::VLK_Form_TMI_Zeta3(EventPanel* panel, QWidget* parent)
+VLK_Form_TMI_Zeta3::VLK_Form_TMI_Zeta3(vlk::EventPanel* panel, QWidget* parent)
     : QWidget(parent), record_(panel), tabWidget_(new VLK_TabWidget(this)), menu_(new QMenu(this)),
       main_(new VLK_Form_Tmi_F3_Tab_Main), sensors_(new VLK_Form_Tmi_F3_Tab_Sensors)
 {

@@ -22,7 +22,7 @@ class VLK_Form_TMI_Zeta3 : public QWidget
 
 public:
     // Records go to `panel` too, if there is one.
-    explicit VLK_Form_TMI_Zeta3(EventPanel* panel, QWidget* parent = nullptr);
+    explicit VLK_Form_TMI_Zeta3(vlk::EventPanel* panel, QWidget* parent = nullptr);
 
     // The names of lines and sensors that the tabs show beside their values.
     void setTitles(const vlk::TelemetryTitles& titles);
@@ -58,7 +58,7 @@ private:
     void addTab(VLK_Form_Tmi_F3_Tab* tab);
     void hideAbsentParts();
 
-    RecordOnShow record_;
+    vlk::RecordOnShow record_;
     VLK_TabWidget* tabWidget_;
     QMenu* menu_;
     VLK_Form_Tmi_F3_Tab_Main* main_;

@@ -50,7 +50,7 @@ QStringList columns(const ExtraEntry& entry)
 
 } // namespace
 
-VLK_Form_TMI_ZetaExt::VLK_Form_TMI_ZetaExt(EventPanel* panel, QWidget* parent)
+VLK_Form_TMI_ZetaExt::VLK_Form_TMI_ZetaExt(vlk::EventPanel* panel, QWidget* parent)
     : QWidget(parent), record_(panel), groupBox_NaviMain_(new QGroupBox(this)),
       treeWidget_(new QTreeWidget(this))
 {

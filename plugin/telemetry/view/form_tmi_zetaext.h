@@ -17,7 +17,7 @@ class VLK_Form_TMI_ZetaExt : public QWidget
 
 public:
     // Records go to `panel` too, if there is one.
-    explicit VLK_Form_TMI_ZetaExt(EventPanel* panel, QWidget* parent = nullptr);
+    explicit VLK_Form_TMI_ZetaExt(vlk::EventPanel* panel, QWidget* parent = nullptr);
 
     // A packet of the telemetry road, from its type byte on.
     void takeRecord(const QByteArray& packet) { fill(record_.take(packet)); }
@@ -33,7 +33,7 @@ public:
     void retranslate();
 
 private:
-    RecordOnShow record_;
+    vlk::RecordOnShow record_;
     vlk::ValueRows rows_;
     QGroupBox* groupBox_NaviMain_;
     QTreeWidget* treeWidget_;

@@ -5,7 +5,9 @@
 #include "telemetry/record/tmi_page_zeta3.h"
 #include "telemetry/text/item.h"
 
+namespace vlk {
 class ValueLabel;
+} // namespace vlk
 
 namespace vlk {
 

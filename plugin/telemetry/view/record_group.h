@@ -21,7 +21,9 @@
 class QGridLayout;
 class QLabel;
 class TmiPage_Zeta3;
+namespace vlk {
 class ValueLabel;
+} // namespace vlk
 
 namespace vlk {
 

@@ -3,6 +3,8 @@
 #include "base/clock.h"
 #include "telemetry/view/event_panel.h"
 
+namespace vlk {
+
 RecordOnShow::RecordOnShow(EventPanel* panel) : panel_(panel), utcOffset_(vlk::now().offsetFromUtc()) {}
 
 const TmiPage_Zeta3& RecordOnShow::take(const QByteArray& record)
@@ -49,3 +51,5 @@ TmiPage_Zeta3& RecordOnShow::pageToFill()
     }
     return *page_;
 }
+
+} // namespace vlk

@@ -8,6 +8,8 @@
 
 #include <memory>
 
+namespace vlk {
+
 class EventPanel;
 
 class RecordOnShow
@@ -36,3 +38,5 @@ private:
     int utcOffset_;
     std::unique_ptr<TmiPage_Zeta3> page_;
 };
+
+} // namespace vlk

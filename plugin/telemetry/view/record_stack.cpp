@@ -11,6 +11,8 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+namespace vlk {
+
 using namespace vlk;
 
 RecordStack::RecordStack(QStackedWidget* stack, EventPanel* panel, bool live)
@@ -161,3 +163,5 @@ void RecordStack::retranslate()
             panel_->setRecord(*form.page());
     });
 }
+
+} // namespace vlk

@@ -9,13 +9,16 @@
 
 #include <optional>
 
-class EventPanel;
 class QStackedWidget;
 class QWidget;
 class TmiPage_Zeta3;
 class VLK_Form_TMI_Production;
 class VLK_Form_TMI_Zeta3;
 class VLK_Form_TMI_ZetaExt;
+
+namespace vlk {
+
+class EventPanel;
 
 class RecordStack
 {
@@ -65,3 +68,5 @@ private:
     bool commandsEnabled_ = true;
     int utcOffset_ = 0;
 };
+
+} // namespace vlk

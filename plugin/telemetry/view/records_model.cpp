@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <numeric>
 
+namespace vlk {
+
 using namespace vlk;
 
 namespace {
@@ -268,3 +270,5 @@ void RecordsModel::sort(int column, Qt::SortOrder order)
     changePersistentIndexList(before, after);
     Q_EMIT layoutChanged({}, QAbstractItemModel::VerticalSortHint);
 }
+
+} // namespace vlk

@@ -16,6 +16,8 @@
 
 #include <string>
 
+namespace vlk {
+
 class RecordsModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -54,3 +56,5 @@ private:
     mutable QCache<quint64, QString> cells_{8192};
     mutable QHash<quint16, QString> events_;
 };
+
+} // namespace vlk

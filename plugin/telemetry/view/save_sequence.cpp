@@ -18,6 +18,8 @@
 
 #include <optional>
 
+namespace vlk {
+
 using namespace vlk;
 
 namespace {
@@ -245,3 +247,5 @@ void SaveSequence::showFetched()
 {
     progress_.setFetched(saveDone_, saveTotal_, std::max<qint64>(saveStart_.secsTo(now()), 0));
 }
+
+} // namespace vlk

@@ -19,6 +19,8 @@
 class QFileDialog;
 class QWidget;
 
+namespace vlk {
+
 class SaveSequence : public QObject
 {
     Q_OBJECT
@@ -85,3 +87,5 @@ private:
     // From the collecting on: the first record, those that came since, the last record.
     vlk::RecordBytes records_;
 };
+
+} // namespace vlk

@@ -9,6 +9,8 @@
 
 #include <utility>
 
+namespace vlk {
+
 ValueLabel::ValueLabel(const QString& objectName, QWidget* parent) : QLabel(parent)
 {
     setObjectName(objectName);
@@ -94,3 +96,5 @@ void ValueLabel::paintEvent(QPaintEvent* /*event*/)
     style()->drawItemText(&painter, rect(), static_cast<int>(alignment()), palette(), isEnabled(), shown,
                           foregroundRole());
 }
+
+} // namespace vlk

@@ -6,6 +6,8 @@
 
 #include <QLabel>
 
+namespace vlk {
+
 class ValueLabel : public QLabel
 {
     Q_OBJECT
@@ -37,3 +39,5 @@ private:
 
     bool isAbsent_ = false;
 };
+
+} // namespace vlk

@@ -20,7 +20,9 @@
 class QGridLayout;
 class QHBoxLayout;
 class QLabel;
+namespace vlk {
 class ValueLabel;
+} // namespace vlk
 class TmiPage_Zeta3;
 
 namespace vlk {

@@ -38,7 +38,8 @@ int lastPosition(const TelemetryPages& pages)
 
 VLK_Widget_Tmi_Page::VLK_Widget_Tmi_Page(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
-      ui_(setUpUi(this)), eventPanel_(new EventPanel(this)), stack_(ui_->stackedWidget, eventPanel_, false)
+      ui_(setUpUi(this)), eventPanel_(new vlk::EventPanel(this)),
+      stack_(ui_->stackedWidget, eventPanel_, false)
 {
     ui_->verticalLayout_Event->addWidget(eventPanel_);
     ui_->pushButton_Go->hide();

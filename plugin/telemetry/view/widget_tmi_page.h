@@ -10,7 +10,9 @@
 
 #include <memory>
 
+namespace vlk {
 class EventPanel;
+} // namespace vlk
 
 namespace Ui {
 class VLK_Designer_Widget_Tmi_Page;
@@ -54,8 +56,8 @@ private:
     void describePosition();
 
     std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_Page> ui_;
-    EventPanel* eventPanel_;
-    RecordStack stack_;
+    vlk::EventPanel* eventPanel_;
+    vlk::RecordStack stack_;
     vlk::TelemetryPages pages_;
     std::size_t currentPage_ = 0;
 };

@@ -40,7 +40,7 @@ int headingWidth(const QString& heading, const QFontMetrics& metrics)
 
 VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
-      model_(new RecordsModel(this)), table_(new QTableView(this))
+      model_(new vlk::RecordsModel(this)), table_(new QTableView(this))
 {
     table_->setObjectName(QStringLiteral("tableWidget"));
     table_->setFrameShape(QFrame::NoFrame);

@@ -5,7 +5,9 @@
 #include <QDialog>
 
 class QTableView;
+namespace vlk {
 class RecordsModel;
+} // namespace vlk
 
 class VLK_Widget_Tmi_Table : public QDialog
 {
@@ -23,7 +25,7 @@ private:
     void showTitle();
     void fitColumns();
 
-    RecordsModel* model_;
+    vlk::RecordsModel* model_;
     QTableView* table_;
     QString fileName_;
 };

@@ -36,7 +36,7 @@ std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_View> setUpUi(QDialog* window)
 
 VLK_Widget_Tmi_View::VLK_Widget_Tmi_View(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
-      ui_(setUpUi(this)), eventPanel_(new EventPanel(this)), pages_(ui_->stackedWidget, eventPanel_),
+      ui_(setUpUi(this)), eventPanel_(new vlk::EventPanel(this)), pages_(ui_->stackedWidget, eventPanel_),
       automatic_(this), clearing_({ui_->checkBox_Server1, ui_->checkBox_Server2, ui_->checkBox_Server3}),
       save_(this, *ui_)
 {
@@ -50,10 +50,10 @@ VLK_Widget_Tmi_View::VLK_Widget_Tmi_View(QWidget* parent)
     save_.clearProgress();
     connectControls();
     keepOnScreen(this);
-    connect(eventPanel_, &EventPanel::signal_OperatingMode, this, &VLK_Widget_Tmi_View::setGuardButtons);
-    connect(&save_, &SaveSequence::runningChanged, this,
+    connect(eventPanel_, &vlk::EventPanel::signal_OperatingMode, this, &VLK_Widget_Tmi_View::setGuardButtons);
+    connect(&save_, &vlk::SaveSequence::runningChanged, this,
             [this](bool running) { setManualBlocked(running ? "tmiw_176" : nullptr); });
-    connect(&automatic_, &AutomaticRequests::timeout, this,
+    connect(&automatic_, &vlk::AutomaticRequests::timeout, this,
             &VLK_Widget_Tmi_View::slot_timeout_m_Timer_Auto_TMI);
     retranslate();
 }
@@ -323,17 +323,17 @@ void VLK_Widget_Tmi_View::slot_pressed_Show()
 
 void VLK_Widget_Tmi_View::slot_pressed_SaveToFile()
 {
-    startSave(SaveSequence::Xml);
+    startSave(vlk::SaveSequence::Xml);
 }
 
 void VLK_Widget_Tmi_View::slot_pressed_SaveToExcel()
 {
-    startSave(SaveSequence::Csv);
+    startSave(vlk::SaveSequence::Csv);
 }
 
 void VLK_Widget_Tmi_View::slot_pressed_SaveFileToServer()
 {
-    startSave(SaveSequence::Binary);
+    startSave(vlk::SaveSequence::Binary);
 }
 
 void VLK_Widget_Tmi_View::slot_pressed_SaveCancel()
@@ -342,7 +342,7 @@ void VLK_Widget_Tmi_View::slot_pressed_SaveCancel()
 }
 
 // What the file tells of the tracker is taken now, since a detached one tells nothing any more.
-void VLK_Widget_Tmi_View::startSave(SaveSequence::Mode mode)
+void VLK_Widget_Tmi_View::startSave(vlk::SaveSequence::Mode mode)
 {
     TelemetryOrigin origin;
     if (vlkDevice != nullptr)

@@ -17,7 +17,9 @@
 
 #include <memory>
 
+namespace vlk {
 class EventPanel;
+} // namespace vlk
 class QAbstractButton;
 class VLK_Form_TMI_Fuel_Sensors;
 class VLK_Form_TMI_Taho;
@@ -95,19 +97,19 @@ private:
     // tool tips say why: the text of `reasonKey`, null when the controls are free.
     void setManualBlocked(const char* reasonKey);
     void stopRequests();
-    void startSave(SaveSequence::Mode mode);
+    void startSave(vlk::SaveSequence::Mode mode);
     // Asks for a record by number; a walking button that is held down waits for each answer.
     void walkTo(quint32 number, const QAbstractButton* button);
     void setGuardButtons(int operatingMode);
 
     std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_View> ui_;
-    EventPanel* eventPanel_;
+    vlk::EventPanel* eventPanel_;
     VLK_Form_TMI_Taho* tachograph_ = nullptr;
     VLK_Form_TMI_Fuel_Sensors* fuelSensors_ = nullptr;
-    RecordStack pages_;
-    AutomaticRequests automatic_;
-    ClearingSequence clearing_;
-    SaveSequence save_;
+    vlk::RecordStack pages_;
+    vlk::AutomaticRequests automatic_;
+    vlk::ClearingSequence clearing_;
+    vlk::SaveSequence save_;
     vlk::TrackerSetup setup_;
     int timeOffset_ = 0; // seconds east of UTC
     quint32 highestNumber_ = 0;
