@@ -61,8 +61,7 @@ constexpr Code kFuelTypes[] = {
     {.code = "1", .label = "cfgt6_024"},
     {.code = "2", .label = "cfgt6_025"},
 };
-constexpr Code kCounterFamilies[] = {{.code = "PP01", .label = "cfgt6_231"},
-                                     {.code = "ACOND", .label = "cfgt6_232"}};
+constexpr Code kCounterFamilies[] = {{.code = "PP01", .label = "PP01"}, {.code = "ACOND", .label = "ACOND"}};
 constexpr Code kCountEvents[] = {
     {.code = "0", .label = "cfgt6_235", .widget = "PCNT/radioButton_Event_No"},
     {.code = "1", .label = "cfgt6_236", .widget = "PCNT/radioButton_Event_Counter"},

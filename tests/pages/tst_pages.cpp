@@ -67,7 +67,8 @@ private Q_SLOTS:
         const QByteArray file = documentWith(values);
         const QByteArray expected = readAndWritten(configuration_, file);
         QCOMPARE(throughTheWindow(file), expected);
-        forEachPage([&](auto& page) { QCOMPARE(page.settings().binder().disagreements().join(" "), QString()); });
+        forEachPage(
+            [&](auto& page) { QCOMPARE(page.settings().binder().disagreements().join('\n'), QString()); });
         QCOMPARE(throughTheWindow(expected), savedAgain(configuration_, expected));
     }
 
@@ -84,7 +85,8 @@ private Q_SLOTS:
         for (const vlk::Difference& difference : fresh.differences(stateOf(saved())))
             QVERIFY2(fresh.setting(difference.index).resets == vlk::Setting::Reset::keeps,
                      qPrintable(fresh.path(difference.index)));
-        forEachPage([&](auto& page) { QCOMPARE(page.settings().binder().disagreements().join(" "), QString()); });
+        forEachPage(
+            [&](auto& page) { QCOMPARE(page.settings().binder().disagreements().join('\n'), QString()); });
     }
 
 private:

@@ -57,10 +57,11 @@ constexpr auto kRows = rowsOf(
     integer("left", 20), integer("right", 30), integer("speed", 9600), integer("late", 0).readLast(),
     digits("conditions", "000", kBoxes), choice("preset", kNumbers, "0").byNumber().notStored(),
     text("one", ""), text("two", ""), group("A/CHILD").onlyWhen(when("A/use", "NB+|AIN")),
-    link("shared", "A/shared", 7), integer("own", 3), group("B"), hexadecimal("byte", 255).range(0, 255),
-    text("address", "").masked("HH:HH"), integer("row", 0).range(1, 4).offAtZero("box").onUnlessZero(),
-    integer("fresh", 0), choice("kept", kUses, "NU").unknownIs("NB+").unofferedLeavesIt(),
-    choice("kind", kNumbers, "0"), group("EMPTY").ifAny(), integer("some", 1).onlyWhen(when("B/kind", "9")),
+    link("shared", "A/shared", 7), integer("own", 3), group("W"), integer("alone", 3).notStored(), group("B"),
+    hexadecimal("byte", 255).range(0, 255), text("address", "").masked("HH:HH"),
+    integer("row", 0).range(1, 4).offAtZero("box").onUnlessZero(), integer("fresh", 0),
+    choice("kept", kUses, "NU").unknownIs("NB+").unofferedLeavesIt(), choice("kind", kNumbers, "0"),
+    group("EMPTY").ifAny(), integer("some", 1).onlyWhen(when("B/kind", "9")),
     group("C").named("second C").onlyWhen(when("B/kind", "7")), integer("alone", 1), repeat<3>([](int) {
         return rowsOf(group("SOLE%1"), flag("on", 0), choice("list", kNumbers, "0").byNumber(),
                       choice("number", kNumbers, "0")
@@ -76,6 +77,7 @@ constexpr auto kPulls =
     rulesOf(Pull{.when = when("A/whole", "7"), .set = "A/flag", .to = "0"},
             Pull{.when = when("A/flag", "0"), .set = "A/whole", .to = "8"},
             Pull{.when = when("B/row"), .set = "B/fresh", .to = "1", .onset = true},
+            Pull{.when = when("A/whole", "6"), .set = "W/alone", .to = "9", .also = when("A/use", "AIN")},
             Pull{.when = when("A/speed", "1"), .set = "A/late", .to = "4", .onRead = true});
 constexpr Bound kBounds[] = {{.when = unless("A/line"), .path = "A/conditions", .to = "*00"}};
 constexpr Distance kDistances[] = {
@@ -308,6 +310,23 @@ private Q_SLOTS:
         QCOMPARE(configuration_.value("S/A/shared"), QString("0"));
     }
 
+    // A group without stored values is not in the file, and a read leaves it alone.
+    void windowGroups()
+    {
+        configuration_.edit(configuration_.indexOf("S/W/alone"), "5");
+        XmlDocument in(documentWith({{"S/W/alone", "7"}}), "DEVICE");
+        const std::vector<ReadNote> notes = configuration_.read(*in.root());
+        QVERIFY(std::any_of(notes.begin(), notes.end(), [](const ReadNote& note) {
+            return note.what == ReadNote::What::foreignElement && note.path == "S/W";
+        }));
+        QCOMPARE(configuration_.value("S/W/alone"), QString("5"));
+        XmlDocument out(QString(), "DEVICE");
+        configuration_.write(*out.root());
+        QVERIFY(!out.text().contains("<W"));
+        configuration_.reset();
+        QCOMPARE(configuration_.value("S/W/alone"), QString("3"));
+    }
+
     void edits_data()
     {
         DataTable<QStringList, QString>({"edits", "changed"})
@@ -317,6 +336,7 @@ private Q_SLOTS:
             .row("pulls back", {"flag=0"}, "flag=0 whole=8")
             .row("a preset", {"preset=1", "preset=0"}, "preset=0 one=a two=b")
             .row("a preset that leaves a field", {"one=z", "two=y", "preset=1"}, "preset=1 one=c")
+            .row("only with another", {"whole=6", "whole=5", "use=AIN", "whole=6"}, "whole=6 alone=9")
             .row("bound at any time", {"line=3", "conditions=101", "line=0"}, "line=0 conditions=100")
             .row("first handle pushes", {"low=5700"}, "low=5700 high=6200")
             .row("first handle at the end", {"low=31000"}, "low=30500 high=31000")

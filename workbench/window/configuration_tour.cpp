@@ -162,6 +162,31 @@ void lookAround(vlk::Tour& tour)
     }
 }
 
+// Every device that can own the serial line, with its form, in both languages; the one before comes back.
+void walkOwners(Tour& tour)
+{
+    auto* owners = Tour::find<QComboBox>("comboBox_RS485_Owner_1");
+    auto* pages = Tour::find<QTabWidget>("tabWidget");
+    QWidget* page = owners;
+    while (pages->indexOf(page) < 0 && page->parentWidget() != nullptr)
+        page = page->parentWidget();
+    const int before = pages->currentIndex();
+    const int owner = owners->currentIndex();
+    pages->setCurrentWidget(page);
+    for (const QString& code : Languages::codes()) {
+        tour.window().setLanguage(code);
+        for (int item = 0; item < owners->count(); ++item) {
+            owners->setCurrentIndex(item);
+            const QString name = owners->itemData(item).toString().toLower();
+            tour.picture(
+                QStringLiteral("rs-%1-%2.png").arg(code, name.isEmpty() ? QStringLiteral("none") : name),
+                pages->window());
+        }
+    }
+    owners->setCurrentIndex(owner);
+    pages->setCurrentIndex(before);
+}
+
 // A server of this machine, found by its address, so that no name has to be looked up.
 void testServer(vlk::Tour& tour)
 {
@@ -206,6 +231,7 @@ std::vector<Tour::Step> configurationTour()
         {QStringLiteral("compare what the tracker took"), [book](Tour& tour) { checkTaken(tour, *book); }},
         {QStringLiteral("take pictures in both languages"), takePictures},
         {QStringLiteral("look at what the page opens"), lookAround},
+        {QStringLiteral("walk the devices on the serial line"), walkOwners},
         {QStringLiteral("test a server"), testServer},
         {QStringLiteral("close the window"), closeWindow},
     };

@@ -70,6 +70,15 @@ bool Binder::isLate(const QString& name) const
     return slash >= 0 && !formNamed(name.left(slash));
 }
 
+bool Binder::isLate(const Setting& setting) const
+{
+    const auto isLate = [this](const char* name) { return this->isLate(QString::fromLatin1(name)); };
+    const auto anyOf = [&](const auto& boxes) {
+        return std::any_of(boxes.begin(), boxes.end(), [&](const auto& box) { return isLate(box.widget); });
+    };
+    return isLate(setting.widget) || anyOf(setting.codes) || anyOf(setting.positions) || anyOf(setting.parts);
+}
+
 QWidget* Binder::find(const QString& name, int number) const
 {
     if (name.isEmpty())
@@ -120,7 +129,7 @@ std::unique_ptr<Adapter> Binder::makeAdapter(int index)
     const auto found = [&](const char* name) {
         const QString object = numberedName(name, setting.number, setting.inner);
         QWidget* widget = find(object, setting.number);
-        if (!widget && !object.isEmpty() && !isLate(object))
+        if (!widget && !object.isEmpty())
             problems_ << QStringLiteral("%1: no widget %2").arg(path, object);
         return widget;
     };
@@ -173,7 +182,8 @@ void Binder::bind()
     const Showing showing(showing_);
     problems_ = layout_.problems;
     for (std::size_t row = 0; row < adapters_.size(); ++row) {
-        if (!adapters_[row] && layout_.rows[row].setting->kind != Kind::link)
+        const Setting& setting = *layout_.rows[row].setting;
+        if (!adapters_[row] && setting.kind != Kind::link && !isLate(setting))
             adapters_[row] = makeAdapter(first_ + static_cast<int>(row));
     }
     handles_.clear();
@@ -204,6 +214,25 @@ void Binder::bind()
                 known->rules.push_back(&rule);
         }
     }
+}
+
+void Binder::join(QWidget* form)
+{
+    std::vector<bool> before;
+    for (const auto& adapter : adapters_)
+        before.push_back(adapter != nullptr);
+    addForm(form);
+    bind();
+    {
+        const Showing showing(showing_);
+        for (std::size_t row = 0; row < adapters_.size(); ++row) {
+            if (adapters_[row] && !before[row]) {
+                adapters_[row]->dress();
+                showRow(static_cast<int>(row));
+            }
+        }
+    }
+    evaluateRules();
 }
 
 void Binder::dress()
@@ -364,10 +393,8 @@ QStringList Binder::waiting() const
 {
     QStringList all;
     for (std::size_t row = 0; row < adapters_.size(); ++row) {
-        const TableLayout::Row& place = layout_.rows[row];
-        const Setting& setting = *place.setting;
-        if (!adapters_[row] && setting.kind != Kind::link && isLate(QString::fromLatin1(setting.widget)))
-            all << place.path;
+        if (!adapters_[row] && isLate(*layout_.rows[row].setting))
+            all << layout_.rows[row].path;
     }
     return all;
 }

@@ -37,10 +37,11 @@ public:
     // Names are looked up below this widget. With a number: those of the rows that have the number, before
     // any other widget.
     void addForm(QWidget* form, int number = 0);
-    // Joins what is not joined yet; to be called when all forms are there, and again when one comes later.
-    // "TACH/comboBox_Type" is the widget in the form with the object name TACH; until that is there, its rows
-    // wait.
+    // Joins what is not joined yet; to be called when all forms are there. "TACH/comboBox_Type" is the widget
+    // in the form with the object name TACH; until that is there, its rows wait.
     void bind();
+    // Adds a form for which rows wait, and shows their values in it.
+    void join(QWidget* form);
 
     // Texts and ranges anew, the values stay.
     void dress();
@@ -65,8 +66,6 @@ public:
     const SettingsTable& table() const { return table_; }
 
     QWidget* find(const QString& name, int number) const;
-    // Whether the name tells a form that is not there yet.
-    bool isLate(const QString& name) const;
     QLabel* labelOf(QWidget* widget) const;
     QLabel* labelBehind(QWidget* widget) const;
     // An edit that a widget of the row shows already, and one that comes from elsewhere.
@@ -104,6 +103,9 @@ private:
     };
 
     const Form* formNamed(const QString& name) const;
+    // Whether the name, or one of the row's, tells a form that is not there yet.
+    bool isLate(const QString& name) const;
+    bool isLate(const Setting& setting) const;
     std::unique_ptr<Adapter> makeAdapter(int index);
     Range rangeOf(int row) const;
     void dressRanged(int row);

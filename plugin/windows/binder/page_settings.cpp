@@ -29,14 +29,6 @@ void PageSettings::bind(QWidget* page, const std::vector<QWidget*>& numbered)
     bind({page});
 }
 
-void PageSettings::join(QWidget* form)
-{
-    binder_->addForm(form);
-    binder_->bind();
-    binder_->dress();
-    binder_->show();
-}
-
 void PageSettings::showAll()
 {
     binder_->show();
