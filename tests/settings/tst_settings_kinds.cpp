@@ -315,7 +315,8 @@ private Q_SLOTS:
     {
         configuration_.edit(configuration_.indexOf("S/W/alone"), "5");
         XmlDocument in(documentWith({{"S/W/alone", "7"}}), "DEVICE");
-        const std::vector<ReadNote> notes = configuration_.read(*in.root());
+        std::vector<ReadNote> notes;
+        configuration_.read(*in.root(), &notes);
         QVERIFY(std::any_of(notes.begin(), notes.end(), [](const ReadNote& note) {
             return note.what == ReadNote::What::foreignElement && note.path == "S/W";
         }));
