@@ -72,7 +72,9 @@ bool Binder::isLate(const QString& name) const
 
 bool Binder::isLate(const Setting& setting) const
 {
-    const auto isLate = [this](const char* name) { return this->isLate(QString::fromLatin1(name)); };
+    const auto isLate = [&](const char* name) {
+        return name && this->isLate(numberedName(name, setting.number, setting.inner));
+    };
     const auto anyOf = [&](const auto& boxes) {
         return std::any_of(boxes.begin(), boxes.end(), [&](const auto& box) { return isLate(box.widget); });
     };
@@ -228,6 +230,7 @@ void Binder::join(QWidget* form)
         for (std::size_t row = 0; row < adapters_.size(); ++row) {
             if (adapters_[row] && !before[row]) {
                 adapters_[row]->dress();
+                ranges_[static_cast<int>(row)] = rangeOf(static_cast<int>(row));
                 showRow(static_cast<int>(row));
             }
         }
