@@ -4,6 +4,7 @@
 #include "bench_tracker.h"
 #include "check/record_check.h"
 #include "support/data_table.h"
+#include "tracker/vehicle.h"
 
 #include "dataset/catalogue/field_mask.h"
 
@@ -101,6 +102,9 @@ private Q_SLOTS:
             .row("supply restored", noSupply, supply("12900", "0"), 35, 3, 20)
             .row("supply not so low", noSupply, supply("10500", "0"), 34, 0, 0)
             .row("supply for too short a time", noSupply, supply("12900", "90000"), 34, 0, 0)
+            .row("engine", noSupply, supply("12900", "0"), 36, 3, 20)
+            .row("engine without records", "noEvent=\"0\" delay=\"0\"/>\n\t\t" + noSupply,
+                 "noEvent=\"1\"/>" + supply("12900", "0"), 36, 0, 0)
             .row("temperature", "max=\"8.0\"", "max=\"3.0\"", 39, 2, 9999)
             .row("temperature within", "max=\"8.0\"", "max=\"8.0\"", 39, 0, 0)
             .row("cold", "min=\"-25.0\"", "min=\"4.0\"", 38, 2, 9999)
@@ -151,7 +155,7 @@ private Q_SLOTS:
                          "<PWRSENS line=\"3\" alarmLvl=\"12900\" restoreLvl=\"13200\"");
         // Off with the ignition's voltage, on without it.
         document.replace("mode=\"ZUM\" actions=\"00000000000000000000\"",
-                         "mode=\"GP\" actions=\"00000000012000000000\"");
+                         "mode=\"GP\" onDelay=\"0\" actions=\"00000000012000000000\"");
         QVERIFY(bench.write(document).accepted);
         int on = 0;
         for (int hour = 1; hour <= 24; ++hour) {
@@ -175,6 +179,60 @@ private Q_SLOTS:
             on += output;
         }
         QVERIFY(on > 0 && on < 24);
+    }
+
+    void outputWaits_data()
+    {
+        // The supply falls while the vehicle drives, and it stops after 100 seconds. -1: the line stays off.
+        DataTable<int, int, QByteArray, int>({"delay", "whenSafe", "actions", "onAfter"})
+            .row("at once", 0, 0, "00000000010000000000", 0)
+            .row("delayed", 60, 0, "00000000010000000000", 60)
+            .row("when the vehicle stands", 0, 1, "00000000010000000000", 100)
+            .row("both", 60, 1, "00000000010000000000", 160)
+            .row("nothing", 0, 0, "00000000000000000000", -1);
+    }
+    void outputWaits()
+    {
+        QFETCH(QByteArray, actions);
+        QFETCH(int, delay);
+        QFETCH(int, whenSafe);
+        constexpr int end = 300;
+        tracker::WorkingSettings settings;
+        settings.supply = {.line = 3, .alarm = 30000, .restore = 31000};
+        settings.shockLevels = {5000, 0, 0, 0};
+        settings.output.use = 1;
+        for (int i = 0; i < actions.size(); ++i)
+            settings.output.actions[std::size_t(i)] = actions[i] - '0';
+        settings.output.delay = delay;
+        settings.output.whenSafe = whenSafe;
+        tracker::Moment moment;
+        moment.sensed.shocks = 1;
+        moment.settings = std::make_shared<tracker::WorkingSettings>(settings);
+        int onAfter = -1;
+        for (int second = 0; second < end; ++second) {
+            moment.time = 1780000000 + second;
+            moment.activity = second < 100 ? tracker::Activity::Driving : tracker::Activity::Parked;
+            std::vector<tracker::EventCode> events;
+            moment.sensed = sense(tracker::Vehicle(moment, {}), settings, events);
+            if (onAfter < 0 && moment.sensed.outputNow(settings.output, moment.time))
+                onAfter = second;
+        }
+        QTEST(onAfter, "onAfter");
+    }
+
+    void restoredShockSensorSwitchesTheOutput()
+    {
+        tracker::WorkingSettings settings;
+        settings.shockLevels = {5000, 0, 0, 0};
+        settings.output.use = 1;
+        settings.output.actions[16] = 2;
+        tracker::Moment moment;
+        moment.sensed.output = true;
+        for (const quint8 shocks : {quint8(0), quint8(1)}) {
+            moment.sensed.shocks = shocks;
+            std::vector<tracker::EventCode> events;
+            QCOMPARE(sense(tracker::Vehicle(moment, {}), settings, events).output, shocks == 0);
+        }
     }
 
     void recordsHoldWhatTheConfigurationAsksFor_data()

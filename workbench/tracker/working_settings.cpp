@@ -80,6 +80,7 @@ constexpr Row rows[] = {
     {"SYSTEM/PWRSENS/delay", 0, [](S& s, int) -> int& { return s.supply.delay; }},
     {"SYSTEM/ENGSENS/useCustom", 0, [](S& s, int) -> int& { return s.supply.ownEngineLevel; }},
     {"SYSTEM/ENGSENS/voltageLvl", 13200, [](S& s, int) -> int& { return s.supply.engineLevel; }},
+    {"SYSTEM/ENGSENS/noEvent", 0, [](S& s, int) -> int& { return s.supply.engineSilent; }},
 
     {"RS485/OPTIONS/owner1", 0, [](S& s, int) -> int& { return s.serial.owner; }, Kind::Owner},
     {"RS485/FS%1/use", 0, [](S& s, int i) -> int& { return s.serial.sensorUsed[i]; }, Kind::Number, 16},
@@ -104,6 +105,8 @@ constexpr Row rows[] = {
     {"OUTPUTS/LINE1/offPeriod", 0, [](S& s, int) -> int& { return s.output.offPeriod; }},
     {"OUTPUTS/LINE1/autoOff", 0, [](S& s, int) -> int& { return s.output.stops; }},
     {"OUTPUTS/LINE1/autoOffDelay", 0, [](S& s, int) -> int& { return s.output.stopsAfter; }},
+    {"OUTPUTS/LINE1/onDelay", 60, [](S& s, int) -> int& { return s.output.delay; }},
+    {"OUTPUTS/LINE1/safeBlock", 0, [](S& s, int) -> int& { return s.output.whenSafe; }},
 };
 
 // A number that an int of the tracker's holds, whatever stands there.

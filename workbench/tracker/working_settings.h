@@ -64,6 +64,7 @@ struct SupplyRules
     int delay = 0;
     int ownEngineLevel = 0;
     int engineLevel = 0;
+    int engineSilent = 0; // starts and stops switch the output, but make no records
 
     bool used() const { return line == 3; }
 };
@@ -84,6 +85,8 @@ struct OutputRules
     int offPeriod = 0;
     int stops = 0; // the periodic form, by itself
     int stopsAfter = 0;
+    int delay = 0;    // between the event that switches it on and the line
+    int whenSafe = 0; // it waits until the vehicle stands
 };
 
 // What owns the serial line, in the order of the codes in lineOwners: these devices fill fields of a record.
