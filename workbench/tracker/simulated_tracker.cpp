@@ -40,9 +40,8 @@ struct SimulatedTracker::Parts
         live.addTo(handlers);
         tachograph.addTo(handlers);
         handlers[Message::StartBtSearch] = [this](void*) {
-            return searchBluetooth(
-                !line.faults().noBluetooth &&
-                store.values().number(QStringLiteral("BLUETOOTH/GLOBAL/use"), 1) != 0);
+            return searchBluetooth(!line.faults().noBluetooth &&
+                                   store.values().number(QStringLiteral("BLUETOOTH/GLOBAL/use"), 1) != 0);
         };
         handlers[Message::CancelBtSearch] = [this](void*) {
             line.dropSearch();

@@ -162,28 +162,31 @@ void lookAround(vlk::Tour& tour)
     }
 }
 
-// Every device that can own the serial line, with its form, in both languages; the one before comes back.
-void walkOwners(Tour& tour)
+// Every item of a list that shows a form of its own, in both languages; the item before comes back.
+void walkItems(Tour& tour, const char* name, const char* picture)
 {
-    auto* owners = Tour::find<QComboBox>("comboBox_RS485_Owner_1");
+    auto* list = Tour::find<QComboBox>(name);
     auto* pages = Tour::find<QTabWidget>("tabWidget");
-    QWidget* page = owners;
+    QWidget* page = list;
     while (pages->indexOf(page) < 0 && page->parentWidget() != nullptr)
         page = page->parentWidget();
     const int before = pages->currentIndex();
-    const int owner = owners->currentIndex();
+    const int current = list->currentIndex();
     pages->setCurrentWidget(page);
+    if (auto* area = qobject_cast<QScrollArea*>(page))
+        area->ensureWidgetVisible(list->parentWidget());
     for (const QString& code : Languages::codes()) {
         tour.window().setLanguage(code);
-        for (int item = 0; item < owners->count(); ++item) {
-            owners->setCurrentIndex(item);
-            const QString name = owners->itemData(item).toString().toLower();
+        for (int item = 0; item < list->count(); ++item) {
+            list->setCurrentIndex(item);
+            const QString value = list->itemData(item).toString().toLower();
             tour.picture(
-                QStringLiteral("rs-%1-%2.png").arg(code, name.isEmpty() ? QStringLiteral("none") : name),
+                QStringLiteral("%1-%2-%3.png")
+                    .arg(QLatin1String(picture), code, value.isEmpty() ? QStringLiteral("none") : value),
                 pages->window());
         }
     }
-    owners->setCurrentIndex(owner);
+    list->setCurrentIndex(current);
     pages->setCurrentIndex(before);
 }
 
@@ -231,7 +234,10 @@ std::vector<Tour::Step> configurationTour()
         {QStringLiteral("compare what the tracker took"), [book](Tour& tour) { checkTaken(tour, *book); }},
         {QStringLiteral("take pictures in both languages"), takePictures},
         {QStringLiteral("look at what the page opens"), lookAround},
-        {QStringLiteral("walk the devices on the serial line"), walkOwners},
+        {QStringLiteral("walk the devices on the serial line"),
+         [](Tour& tour) { walkItems(tour, "comboBox_RS485_Owner_1", "rs"); }},
+        {QStringLiteral("walk the types of Bluetooth sensor"),
+         [](Tour& tour) { walkItems(tour, "comboBox_Type_Sens_1", "bluetooth"); }},
         {QStringLiteral("test a server"), testServer},
         {QStringLiteral("close the window"), closeWindow},
     };
