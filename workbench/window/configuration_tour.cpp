@@ -163,10 +163,10 @@ void lookAround(vlk::Tour& tour)
 }
 
 // Every item of a list that shows a form of its own, in both languages; the item before comes back.
-void walkItems(Tour& tour, const char* name, const char* picture)
+void walkItems(vlk::Tour& tour, const char* name, const char* picture)
 {
-    auto* list = Tour::find<QComboBox>(name);
-    auto* pages = Tour::find<QTabWidget>("tabWidget");
+    auto* list = vlk::Tour::find<QComboBox>(name);
+    auto* pages = vlk::Tour::find<QTabWidget>("tabWidget");
     QWidget* page = list;
     while (pages->indexOf(page) < 0 && page->parentWidget() != nullptr)
         page = page->parentWidget();
@@ -175,7 +175,7 @@ void walkItems(Tour& tour, const char* name, const char* picture)
     pages->setCurrentWidget(page);
     if (auto* area = qobject_cast<QScrollArea*>(page))
         area->ensureWidgetVisible(list->parentWidget());
-    for (const QString& code : Languages::codes()) {
+    for (const QString& code : vlk::Languages::codes()) {
         tour.window().setLanguage(code);
         for (int item = 0; item < list->count(); ++item) {
             list->setCurrentIndex(item);
