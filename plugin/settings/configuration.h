@@ -77,9 +77,9 @@ public:
     void write(CXmlSection& root) const;
     void write(CXmlSection& root, const SettingsTable& table) const;
 
-    // Read, reset and write for no more than the elements that stand in a file while the value at `owner` is `code`, as
-    // though it were: an element that no list of this tracker offers a way to. `section` is that of the
-    // table.
+    // Read, reset and write for no more than the elements that stand in a file while the value at `owner` is
+    // `code`, as though it were: an element that no list of this tracker offers a way to. `section` is that
+    // of the table.
     void readUnder(const CXmlSection& section, const SettingsTable& table, const QString& owner,
                    const QString& code);
     void resetUnder(const SettingsTable& table, const QString& owner, const QString& code);
