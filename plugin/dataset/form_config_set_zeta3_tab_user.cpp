@@ -5,6 +5,7 @@
 #include "peripherals/params/param_catalogues.h"
 #include "peripherals/params/user_params.h"
 #include "settings/configuration.h"
+#include "windows/aligned_columns.h"
 #include "windows/wnd_config_full.h"
 
 #include <QCoreApplication>
@@ -71,8 +72,12 @@ void VLK_Form_Config_Set_Zeta3_Tab_User::retranslate()
     setTitle(tr("cfgt5_007"));
     can_->setText(tr("cfgt5_008"));
     modbus_->setText(tr("cfgt5_009"));
-    for (vlk::UserParamGroup& group : groups_)
+    QList<QGridLayout*> grids;
+    for (vlk::UserParamGroup& group : groups_) {
         group.retranslate();
+        grids << group.grid();
+    }
+    vlk::alignColumns(grids, 4);
 }
 
 void VLK_Form_Config_Set_Zeta3_Tab_User::afterDefaults()
@@ -80,14 +85,6 @@ void VLK_Form_Config_Set_Zeta3_Tab_User::afterDefaults()
     for (vlk::UserParamGroup& group : groups_) {
         for (int slot = 1; slot <= group.slots().count; ++slot)
             group.choose(slot, {});
-    }
-}
-
-void VLK_Form_Config_Set_Zeta3_Tab_User::fillMask30(QString& mask)
-{
-    for (const vlk::UserParamGroup& group : groups_) {
-        for (int slot = 1; slot <= group.slots().count; ++slot)
-            mask[group.slots().firstField + slot - 1] = QLatin1Char(group.text(slot).isEmpty() ? '0' : '1');
     }
 }
 
@@ -106,8 +103,7 @@ void VLK_Form_Config_Set_Zeta3_Tab_User::userParamAdded(const QString& code, con
     const vlk::UserParam param{code, name, third, size};
     if (code == QLatin1String(vlk::kModbusCode) && !modbusRows_.contains(param))
         modbusRows_ << param;
-    if (vlk::UserParamGroup* group = groupOf(size))
-        group->add(param.display());
+    offer(param);
 }
 
 void VLK_Form_Config_Set_Zeta3_Tab_User::userParamDeleted(const QString& code, const QString& name,
@@ -115,7 +111,18 @@ void VLK_Form_Config_Set_Zeta3_Tab_User::userParamDeleted(const QString& code, c
 {
     const vlk::UserParam param{code, name, third, size};
     modbusRows_.removeAll(param);
-    if (vlk::UserParamGroup* group = groupOf(size))
+    withdraw(param);
+}
+
+void VLK_Form_Config_Set_Zeta3_Tab_User::offer(const vlk::UserParam& param)
+{
+    if (vlk::UserParamGroup* group = groupOf(param.bytes))
+        group->add(param.display());
+}
+
+void VLK_Form_Config_Set_Zeta3_Tab_User::withdraw(const vlk::UserParam& param)
+{
+    if (vlk::UserParamGroup* group = groupOf(param.bytes))
         group->remove(param.display());
 }
 
@@ -123,7 +130,6 @@ void VLK_Form_Config_Set_Zeta3_Tab_User::slot_currentIndexChanged_User(int bytes
 {
     if (vlk::UserParamGroup* group = groupOf(bytes))
         group->takeChoice(slot);
-    Q_EMIT maskChanged();
 }
 
 QString VLK_Form_Config_Set_Zeta3_Tab_User::keyOf(const QString& text) const
@@ -197,17 +203,22 @@ void VLK_Form_Config_Set_Zeta3_Tab_User::chooseModbus()
     chooseFrom(tr("cfgt5_009"), choices);
 }
 
-// Offers what the user checks and withdraws what he unchecks.
+// Offers what the user checks and withdraws what he unchecks; a Modbus row stays one in use either way.
 void VLK_Form_Config_Set_Zeta3_Tab_User::chooseFrom(const QString& title, QList<vlk::ParamChoice> choices)
 {
-    const QList<vlk::UserParam> rows = modbusRows_; // that stay rows in use
     for (vlk::ParamChoice& choice : choices) {
         const vlk::UserParamGroup* group = groupOf(choice.param.bytes);
         choice.onOffer = group && group->offers(choice.param.display());
     }
-    vlk::ParamChoiceDialog dialog(title, choices, this);
-    connect(&dialog, &vlk::ParamChoiceDialog::signal_UserParam_Add, this, &This::userParamAdded);
-    connect(&dialog, &vlk::ParamChoiceDialog::signal_UserParam_Del, this, &This::userParamDeleted);
+    using Dialog = vlk::ParamChoiceDialog;
+    Dialog dialog(title, choices, this);
+    connect(&dialog, &Dialog::signal_UserParam_Add, this,
+            [this](const QString& code, const QString& name, const QString& third, int size) {
+                offer({code, name, third, size});
+            });
+    connect(&dialog, &Dialog::signal_UserParam_Del, this,
+            [this](const QString& code, const QString& name, const QString& third, int size) {
+                withdraw({code, name, third, size});
+            });
     dialog.exec();
-    modbusRows_ = rows;
 }

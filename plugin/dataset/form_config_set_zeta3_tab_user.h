@@ -27,7 +27,6 @@ public:
     void retranslate() override;
     // Empties all slots.
     void afterDefaults() override;
-    void fillMask30(QString& mask) override;
 
     // A form offers a value, or withdraws it. Sizes other than 1, 2, 4 and 8 bytes change nothing.
     void userParamAdded(const QString& code, const QString& name, const QString& third, int size);
@@ -49,6 +48,8 @@ public Q_SLOTS:
 
 private:
     vlk::UserParamGroup* groupOf(int bytes);
+    void offer(const vlk::UserParam& param);
+    void withdraw(const vlk::UserParam& param);
     QString keyOf(const QString& text) const;
     QString textOf(const QString& key) const;
     void chooseFrom(const QString& title, QList<vlk::ParamChoice> choices);

@@ -4,6 +4,7 @@
 
 #include <QDialogButtonBox>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -43,13 +44,10 @@ ParamChoiceDialog::ParamChoiceDialog(const QString& title, const QList<ParamChoi
     state_->setWordWrap(true);
 
     auto* buttons = new QDialogButtonBox;
-    auto* apply = buttons->addButton(tr("wrd_026"), QDialogButtonBox::AcceptRole);
-    auto* cancel = buttons->addButton(tr("wrd_031"), QDialogButtonBox::RejectRole);
-    apply->setObjectName(QStringLiteral("pushButton_Apply"));
-    cancel->setObjectName(QStringLiteral("pushButton_Cancel"));
-    // Enter in the filter is no answer yet.
-    apply->setAutoDefault(false);
-    cancel->setAutoDefault(false);
+    buttons->addButton(tr("wrd_026"), QDialogButtonBox::AcceptRole)
+        ->setObjectName(QStringLiteral("pushButton_Apply"));
+    buttons->addButton(tr("wrd_031"), QDialogButtonBox::RejectRole)
+        ->setObjectName(QStringLiteral("pushButton_Cancel"));
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
@@ -117,6 +115,16 @@ void ParamChoiceDialog::filter(const QString& text)
         list_->expandAll();
     }
     tellState();
+}
+
+// Enter goes from the filter on to the list and is no answer yet; on a button it presses that.
+void ParamChoiceDialog::keyPressEvent(QKeyEvent* event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter)
+        list_->setFocus();
+    else
+        QDialog::keyPressEvent(event);
 }
 
 int ParamChoiceDialog::checkedCount() const

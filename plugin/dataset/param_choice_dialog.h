@@ -39,6 +39,9 @@ Q_SIGNALS:
     void signal_UserParam_Add(const QString& code, const QString& name, const QString& third, int size);
     void signal_UserParam_Del(const QString& code, const QString& name, const QString& third, int size);
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     void fill();
     void filter(const QString& text);

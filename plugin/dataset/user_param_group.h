@@ -11,9 +11,8 @@
 #include <functional>
 #include <vector>
 
+class QGridLayout;
 class QGroupBox;
-class QLabel;
-class QWidget;
 
 namespace vlk {
 
@@ -38,9 +37,10 @@ class UserParamGroup
 public:
     // Slots in columns, the first ones on the left. `chosen(slot)` is called when the choice of a slot
     // changes, counted from 1.
-    UserParamGroup(const UserParamSlots& slots, std::function<void(int slot)> chosen);
+    UserParamGroup(const UserParamSlots& slots, const std::function<void(int slot)>& chosen);
 
     QGroupBox* box() const { return box_; }
+    QGridLayout* grid() const { return grid_; }
     const UserParamSlots& slots() const { return slots_; }
 
     void retranslate();
@@ -64,6 +64,7 @@ private:
 
     const UserParamSlots slots_;
     QGroupBox* box_;
+    QGridLayout* grid_;
     std::vector<ElidingComboBox*> boxes_;
     QStringList offered_; // the choice of nothing among them
     QString none_;

@@ -18,6 +18,7 @@ VLK_Form_Config_RS_Param_CanLog::VLK_Form_Config_RS_Param_CanLog(QWidget* parent
     get_->setObjectName(QStringLiteral("pushButton_Programm_Get"));
     set_->setObjectName(QStringLiteral("pushButton_Programm_Set"));
     auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(8);
     for (QPushButton* button : {get_, set_}) {
         button->setAutoDefault(false);
         buttons->addWidget(button);

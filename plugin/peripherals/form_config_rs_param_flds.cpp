@@ -60,7 +60,7 @@ VLK_Form_Config_RS_Param_Flds_RS485::VLK_Form_Config_RS_Param_Flds_RS485(bool si
     whole->addLayout(type);
     whole->addLayout(table_);
     whole->addStretch(1);
-    table_->setHorizontalSpacing(12);
+    table_->setHorizontalSpacing(8);
     table_->setVerticalSpacing(6);
     addHead();
     for (int sensor = 1; sensor <= vlk::kRsFuelSensors; ++sensor)
@@ -80,11 +80,15 @@ void VLK_Form_Config_RS_Param_Flds_RS485::addHead()
     const auto head = [this](int column) {
         auto* label = new QLabel;
         label->setWordWrap(true);
+        // Seven columns are to fit beside each other.
+        QFont small = label->font();
+        small.setPointSizeF(small.pointSizeF() * 0.85);
+        label->setFont(small);
         label->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
         table_->addWidget(label, 0, column);
         heads_ << label;
     };
-    for (int column = 1; column < kLineColumn; ++column) {
+    for (int column = 0; column < kLineColumn; ++column) {
         head(column);
         table_->setColumnStretch(column, 1);
     }
@@ -145,15 +149,18 @@ void VLK_Form_Config_RS_Param_Flds_RS485::setDefaults()
 
 void VLK_Form_Config_RS_Param_Flds_RS485::retranslate()
 {
+    heads_[0]->setText(tr("cfgt6_219"));
     for (int column = 1; column < kLineColumn; ++column)
-        heads_[column - 1]->setText(vlk::captionParts(kColumns[column - 1].caption).before);
+        heads_[column]->setText(vlk::captionParts(kColumns[column - 1].caption).before);
     heads_.last()->setText(tr("cfgt6_218"));
     // The heads of the columns say what the boxes of a row are.
     for (int sensor = 1; sensor <= vlk::kRsFuelSensors; ++sensor) {
-        const QString row = table_->itemAtPosition(sensor, 0)->widget()->accessibleName();
+        auto* use = qobject_cast<QCheckBox*>(table_->itemAtPosition(sensor, 0)->widget());
+        const QString row = use->accessibleName();
+        use->setText(QString::number(sensor));
         for (int column = 1; column < kLineColumn; ++column) {
             QWidget* input = table_->itemAtPosition(sensor, column)->widget();
-            input->setAccessibleName(QStringLiteral("%1: %2").arg(row, heads_[column - 1]->text()));
+            input->setAccessibleName(QStringLiteral("%1: %2").arg(row, heads_[column]->text()));
             if (auto* box = qobject_cast<QCheckBox*>(input))
                 box->setText({});
         }

@@ -37,6 +37,23 @@ bool earlier(const QString& name, const QString& other)
     return std::pair(row(name), name) < std::pair(row(other), other);
 }
 
+// A heading that is little wider than its longest word, as the columns are narrow.
+QString brokenIntoLines(const QString& caption)
+{
+    const QStringList words = caption.simplified().split(QLatin1Char(' '));
+    int width = 0;
+    for (const QString& word : words)
+        width = std::max(width, static_cast<int>(word.size()));
+    QString text = words.first();
+    int line = text.size();
+    for (const QString& word : words.mid(1)) {
+        const bool fits = line + 1 + word.size() <= width;
+        text += QLatin1Char(fits ? ' ' : '\n') + word;
+        line = static_cast<int>(fits ? line + 1 + word.size() : word.size());
+    }
+    return text;
+}
+
 // Lists of one column are as wide as their widest text needs, whether they are filled or not.
 void reserveWidth(QGridLayout* grid, int column, const QStringList& texts)
 {
@@ -70,7 +87,7 @@ VLK_Form_Config_RS_Param_Mdbs::VLK_Form_Config_RS_Param_Mdbs(QWidget* parent)
     makeRows();
     makeEventRows();
     connect(byType_, &QRadioButton::toggled, this, &This::slot_toggled_Calc_NumType);
-    retranslate();
+    This::retranslate();
 }
 
 VLK_Form_Config_RS_Param_Mdbs::Table
@@ -83,7 +100,6 @@ VLK_Form_Config_RS_Param_Mdbs::makeTable(const char* name, const QList<const cha
     layout->addStretch();
     for (int column = 0; column < captions.size(); ++column) {
         table.labels << new QLabel;
-        table.labels.last()->setWordWrap(true);
         table.grid->addWidget(table.labels.last(), 0, column, Qt::AlignBottom);
     }
     return table;
@@ -128,7 +144,7 @@ void VLK_Form_Config_RS_Param_Mdbs::retranslate(const Table& table, const char* 
 {
     table.group->setTitle(tr(title));
     for (int i = 0; i < table.labels.size(); ++i)
-        table.labels[i]->setText(tr(table.captions[i]));
+        table.labels[i]->setText(brokenIntoLines(tr(table.captions[i])));
 }
 
 void VLK_Form_Config_RS_Param_Mdbs::retranslate()

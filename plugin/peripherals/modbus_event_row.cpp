@@ -1,12 +1,11 @@
 #include "peripherals/modbus_event_row.h"
 
+#include "peripherals/modbus_cells.h"
 #include "windows/eliding_combobox.h"
 #include "windows/numbered_widget.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QCoreApplication>
-#include <QGridLayout>
 #include <QSpinBox>
 
 namespace vlk {
@@ -37,9 +36,7 @@ ModbusEventRow::ModbusEventRow(int number, QGridLayout* grid, int gridRow)
         box->setRange(-2147483647, 2147483647);
         box->setButtonSymbols(QAbstractSpinBox::NoButtons);
     }
-    int column = 0;
-    for (QWidget* cell : cells())
-        grid->addWidget(cell, gridRow, column++);
+    placeCells(cells(), grid, gridRow);
     clear();
 }
 
@@ -104,12 +101,7 @@ bool ModbusEventRow::offerNames(const QStringList& names)
 
 void ModbusEventRow::retranslate(const QStringList& conditions)
 {
-    const QList<QWidget*> row = cells();
-    for (int i = 0; i < row.size(); ++i) {
-        const QString caption = QCoreApplication::translate("vlk", captions()[i]);
-        row[i]->setAccessibleName(QStringLiteral("%1, %2").arg(caption).arg(number_));
-        row[i]->setToolTip(caption);
-    }
+    nameCells(cells(), captions(), number_);
     condition->reserve(conditions, conditions.first().left(kLeastText) + QChar(0x2026));
     for (int i = 0; i < condition->count(); ++i)
         condition->setItemText(i, conditions[i]);

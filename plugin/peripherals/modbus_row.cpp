@@ -1,5 +1,6 @@
 #include "peripherals/modbus_row.h"
 
+#include "peripherals/modbus_cells.h"
 #include "peripherals/modbus_register.h"
 #include "peripherals/params/element_types.h"
 #include "windows/eliding_combobox.h"
@@ -8,8 +9,9 @@
 
 #include <QCheckBox>
 #include <QCoreApplication>
-#include <QGridLayout>
 #include <QSpinBox>
+
+#include <algorithm>
 
 namespace vlk {
 
@@ -61,9 +63,7 @@ ModbusRow::ModbusRow(int number, QGridLayout* grid, int gridRow)
     registerAddress->setPrefix(QStringLiteral("0x"));
     period->setRange(kFirstPeriod, 60000);
     period->setSingleStep(500);
-    int column = 0;
-    for (QWidget* cell : cells())
-        grid->addWidget(cell, gridRow, column++);
+    placeCells(cells(), grid, gridRow);
     clear();
 }
 
@@ -127,14 +127,11 @@ void ModbusRow::setByNumber(bool byNumber)
 void ModbusRow::retranslate(const ModbusLists& lists)
 {
     period->setSuffix(QLatin1Char(' ') + QCoreApplication::translate("vlk", "abbr_040"));
-    const QList<QWidget*> row = cells();
-    for (int i = 0; i < row.size(); ++i) {
-        const QString caption =
-            QCoreApplication::translate("vlk", captions()[i]).remove(QLatin1Char('\n')).simplified();
-        row[i]->setAccessibleName(QStringLiteral("%1, %2").arg(caption).arg(number_));
-        row[i]->setToolTip(caption);
-    }
-    dataType->reserve(lists.dataTypes, lists.dataTypes.first());
+    nameCells(cells(), captions(), number_);
+    const auto shorter = [](const QString& a, const QString& b) { return a.size() < b.size(); };
+    dataType->reserve(lists.dataTypes,
+                      *std::max_element(lists.dataTypes.begin(), lists.dataTypes.end(), shorter));
+    // The letters in brackets say it all.
     byteOrder->reserve(lists.byteOrders, QStringLiteral("[ABCD]…"));
     if (!inUse())
         return;

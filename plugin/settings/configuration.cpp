@@ -83,14 +83,22 @@ bool Configuration::isWritten(const Part& part, const TableLayout::Group& group)
     return false;
 }
 
-QString Configuration::written(int index) const
+QString Configuration::written(int index, const QString& value) const
 {
     const Part& part = partOf(index);
     const TableLayout::Row& row = part.layout->rows[index - part.first];
     if (!holds(part, row.free))
         return QString::fromLatin1(row.setting->otherwise);
-    const QString& value = this->value(index);
-    return row.setting->blankIsZero && value.isEmpty() ? QStringLiteral("0") : value;
+    QString text = row.setting->blankIsZero && value.isEmpty() ? QStringLiteral("0") : value;
+    for (const TableLayout::MaskPositions& rule : part.layout->masks) {
+        if (part.first + rule.row != index || !holds(part, rule.when))
+            continue;
+        for (const int position : rule.rule->positions) {
+            if (position < text.size())
+                text[position] = QLatin1Char(rule.rule->to);
+        }
+    }
+    return text;
 }
 
 bool Configuration::isOneOf(const QString& value, const TableLayout::Condition& condition)
@@ -110,12 +118,17 @@ bool Configuration::holds(const Part& part, const TableLayout::Condition& condit
     return isOneOf(value, condition);
 }
 
+bool Configuration::holds(const Part& part, const std::vector<TableLayout::Condition>& all) const
+{
+    return std::all_of(all.begin(), all.end(),
+                       [&](const TableLayout::Condition& condition) { return holds(part, condition); });
+}
+
 bool Configuration::holds(const SettingsTable& table, const TableLayout::Enable& rule) const
 {
     const Part& part = partOf(table);
     const auto one = [&](const TableLayout::Condition& condition) { return holds(part, condition); };
-    return rule.any ? std::any_of(rule.when.begin(), rule.when.end(), one)
-                    : std::all_of(rule.when.begin(), rule.when.end(), one);
+    return rule.any ? std::any_of(rule.when.begin(), rule.when.end(), one) : holds(part, rule.when);
 }
 
 Limits Configuration::limits(int index) const
@@ -207,7 +220,10 @@ void Configuration::resetUnder(const SettingsTable& table, const QString& owner,
     const Part& part = partOf(table);
     const int ownerRow = indexOf(owner) - part.first;
     for (const TableLayout::Group& group : part.layout->groups) {
-        if (group.present.row != ownerRow || !isOneOf(code, group.present))
+        const bool isOf = std::any_of(group.present.begin(), group.present.end(), [&](const auto& condition) {
+            return condition.row == ownerRow && isOneOf(code, condition);
+        });
+        if (!isOf)
             continue;
         for (int row = group.firstRow; row < group.endRow; ++row)
             resetRow(part, row);

@@ -63,7 +63,7 @@ public:
     QString value(const QString& path) const { return value(indexOf(path)); }
     // Whether a file of this state has the key, and what it holds there.
     bool isWritten(int index) const;
-    QString written(int index) const;
+    QString written(int index) const { return written(index, value(index)); }
     // Range in units of the widget, and unit, as the rules have them now.
     Limits limits(int index) const;
     const char* unitKey(int index) const;
@@ -116,13 +116,17 @@ private:
     bool counts(const Part& part, const TableLayout::Sole& sole) const;
     QStringList takenFrom(const Part& part, const TableLayout::SoleList& list,
                           const TableLayout::Sole& sole) const;
+    bool holds(const Part& part, const std::vector<TableLayout::Condition>& all) const;
+    QString written(int index, const QString& value) const;
     double gapOf(const Part& part, const TableLayout::Distance& rule) const;
     void resetPart(const Part& part);
     void resetRow(const Part& part, int row);
     void readPart(const Part& part, const CXmlSection& root, std::vector<ReadNote>* notes);
     void readGroups(const Part& part, const CXmlSection& section, int owner, std::vector<ReadNote>* notes);
     void writeGroups(const Part& part, CXmlSection& section, int owner) const;
-    void readRow(const Part& part, int row, const CXmlSection& element, std::vector<ReadNote>* notes);
+    // `isThere`: the file has the element.
+    void readRow(const Part& part, int row, const CXmlSection& element, bool isThere,
+                 std::vector<ReadNote>* notes);
     void writePart(const Part& part, CXmlSection& root) const;
 
     void put(int index, const QString& value, std::vector<int>* changed);
@@ -134,6 +138,7 @@ private:
     void change(const Part& part, int row, const QString& text, std::vector<int>* changed);
     void pull(const Part& part, int row, bool onRead, const QString& before, std::vector<int>* changed);
     void derive(const Part& part);
+    void settle(const Part& part, const TableLayout::Presets& presets);
 
     std::vector<Part> parts_;
     std::vector<int> partOfIndex_;

@@ -4,6 +4,7 @@
 
 #include "xml/xml_section.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vlk {
@@ -21,12 +22,31 @@ void Configuration::read(const CXmlSection& root, const SettingsTable& table, st
 
 namespace {
 
-CXmlSectionPtr elementOf(const CXmlSection& section, const QStringList& path)
+struct Element
 {
-    CXmlSectionPtr element = section.child(path.first());
-    for (int i = 1; i < path.size() && element; ++i)
-        element = element->child(path[i]);
+    CXmlSectionPtr section;
+    bool isThere = true; // in the file
+};
+
+Element elementOf(const CXmlSection& section, const QStringList& path)
+{
+    Element element;
+    for (const QString& name : path) {
+        const CXmlSection& parent = element.section ? *element.section : section;
+        element.isThere = element.isThere && parent.find(name);
+        element.section = parent.child(name);
+    }
     return element;
+}
+
+// The section of a table; over several sections the document itself, as `root` stands for it.
+template <class Root>
+Root* sectionOf(Root& root, const QString& name, CXmlSectionPtr& owner)
+{
+    if (!name.isEmpty())
+        owner = root.child(name);
+    Root* section = name.isEmpty() ? &root : owner.get();
+    return section && section->document() ? section : nullptr;
 }
 
 // What stands in `element` and is none of the known names, or twice.
@@ -71,8 +91,14 @@ void noteStrangersIn(const CXmlSection& element, const TableLayout& layout, cons
         if (other.path.size() == group.path.size() + 1 && other.path.mid(0, group.path.size()) == group.path)
             inside << other.path.last();
     }
-    noteStrangers(element, layout.section + QLatin1Char('/') + group.path.join(QLatin1Char('/')), keys,
-                  inside, notes);
+    noteStrangers(element, layout.prefix() + group.path.join(QLatin1Char('/')), keys, inside, notes);
+}
+
+// Whether the group is there for the sake of the row `owner`; -1: of whatever.
+bool isOf(const TableLayout::Group& group, int owner)
+{
+    return owner < 0 || std::any_of(group.present.begin(), group.present.end(),
+                                    [&](const auto& condition) { return condition.row == owner; });
 }
 
 } // namespace
@@ -80,10 +106,12 @@ void noteStrangersIn(const CXmlSection& element, const TableLayout& layout, cons
 void Configuration::readPart(const Part& part, const CXmlSection& root, std::vector<ReadNote>* notes)
 {
     const TableLayout& layout = *part.layout;
-    const CXmlSectionPtr section = root.child(layout.section);
+    CXmlSectionPtr owner;
+    const CXmlSection* section = sectionOf(root, layout.section, owner);
     if (!section)
         return;
-    if (notes)
+    // What a save would keep belongs to somebody else.
+    if (notes && layout.table->emptied)
         noteStrangersIn(*section, layout, notes);
 
     // What lives in the window alone is not in the file: beside values that are, it starts anew, and links
@@ -92,7 +120,7 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
         const TableLayout::Row& place = layout.rows[row];
         const Setting& setting = *place.setting;
         const int index = part.first + static_cast<int>(row);
-        if (!setting.stored && (place.group < 0 || layout.groups[place.group].stored))
+        if (!setting.stored && !setting.stays && (place.group < 0 || layout.groups[place.group].stored))
             values_[index] = normalise(setting, loadDefault(setting), values_[index], limits(index)).value;
     }
     readGroups(part, *section, -1, notes);
@@ -105,22 +133,22 @@ void Configuration::readGroups(const Part& part, const CXmlSection& section, int
     const TableLayout& layout = *part.layout;
     std::vector<ReadNote> taken;
     std::vector<ReadNote>* const takes = notes ? &taken : nullptr;
-    std::vector<std::pair<int, CXmlSectionPtr>> late;
+    std::vector<std::pair<int, Element>> late;
     for (const TableLayout::Group& group : layout.groups) {
-        if (!group.stored || (owner >= 0 && group.present.row != owner) || !holds(part, group.present))
+        if (!group.stored || !isOf(group, owner) || !holds(part, group.readable))
             continue;
-        const CXmlSectionPtr element = elementOf(section, group.path);
+        const Element element = elementOf(section, group.path);
         for (int row = group.firstRow; row < group.endRow; ++row) {
             if (layout.rows[row].setting->last)
                 late.emplace_back(row, elementOf(section, group.path));
             else
-                readRow(part, row, *element, takes);
+                readRow(part, row, *element.section, element.isThere, takes);
         }
-        if (notes)
-            noteStrangersIn(*element, layout, group, notes);
+        if (notes && !group.kept)
+            noteStrangersIn(*element.section, layout, group, notes);
     }
     for (const auto& [row, element] : late)
-        readRow(part, row, *element, takes);
+        readRow(part, row, *element.section, element.isThere, takes);
     derive(part);
     keepBounds(part, nullptr);
     // A value may have found no room beside another, or what came later has moved it.
@@ -134,7 +162,7 @@ void Configuration::readGroups(const Part& part, const CXmlSection& section, int
     }
 }
 
-void Configuration::readRow(const Part& part, int row, const CXmlSection& element,
+void Configuration::readRow(const Part& part, int row, const CXmlSection& element, bool isThere,
                             std::vector<ReadNote>* notes)
 {
     const TableLayout::Row& place = part.layout->rows[row];
@@ -142,7 +170,12 @@ void Configuration::readRow(const Part& part, int row, const CXmlSection& elemen
     if (!setting.stored || setting.kind == Kind::constant || !holds(part, place.present))
         return;
     const QString* found = element.find(place.key);
-    const QString missing = found ? QString() : loadDefault(setting);
+    if (!found && setting.stays)
+        return;
+    const bool isAbsent = !isThere && setting.unlessThere >= 0;
+    const QString missing = found      ? QString()
+                            : isAbsent ? QString::number(setting.unlessThere)
+                                       : loadDefault(setting);
     const QString& text = found ? *found : missing;
 
     // A link gives its value to another row, which says what the value can be.
@@ -194,13 +227,16 @@ void Configuration::write(CXmlSection& root, const SettingsTable& table) const
 void Configuration::writePart(const Part& part, CXmlSection& root) const
 {
     const TableLayout& layout = *part.layout;
-    const CXmlSectionPtr section = root.child(layout.section);
+    CXmlSectionPtr owner;
+    CXmlSection* section = sectionOf(root, layout.section, owner);
     if (!section)
         return;
     if (layout.table->emptied)
         section->clear();
-    section->setString(QStringLiteral("page"), layout.section);
-    section->commit();
+    if (owner) {
+        section->setString(QStringLiteral("page"), layout.section);
+        section->commit();
+    }
     writeGroups(part, *section, -1);
 }
 
@@ -208,8 +244,7 @@ void Configuration::writeGroups(const Part& part, CXmlSection& section, int owne
 {
     const TableLayout& layout = *part.layout;
     for (const TableLayout::Group& group : layout.groups) {
-        if (!group.stored || (owner >= 0 && group.present.row != owner) || !holds(part, group.present) ||
-            !isWritten(part, group))
+        if (!group.stored || !isOf(group, owner) || !holds(part, group.present) || !isWritten(part, group))
             continue;
         CXmlSectionPtr parent;
         for (int depth = 0; depth + 1 < group.path.size(); ++depth)
@@ -221,8 +256,9 @@ void Configuration::writeGroups(const Part& part, CXmlSection& section, int owne
         for (int row = group.firstRow; row < group.endRow; ++row) {
             const int index = part.first + row;
             const TableLayout::Row& place = layout.rows[row];
+            const QString* before = place.setting->carried ? element->find(place.key) : nullptr;
             if (place.setting->stored && holds(part, place.present))
-                element->setString(layout.rows[row].key, written(index));
+                element->setString(place.key, written(index, before ? *before : value(index)));
         }
         element->commit();
     }

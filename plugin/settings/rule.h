@@ -81,9 +81,13 @@ struct Sole
     std::uint8_t inner = 0;
 };
 
-// Ready values of several settings. An edit of `trigger` to the code of a row sets its fields; a null value
-// leaves its field alone. After a read, `trigger` becomes the first row that agrees in all fields, or
-// `other`; without `other` a read leaves it alone.
+// Ready values of several settings. An edit of `trigger` to the code of a row sets its fields, even where
+// `trigger` has that code already; a null value leaves its field alone. After a read, `trigger` becomes the
+// first row that agrees in all fields, or `other`; without `other` a read leaves it alone.
+//
+// With `settles` the fields have no other values than those of the rows: after a read, `trigger` becomes the
+// first row that agrees and that its list offers, and stays as it stands where there is none; the fields
+// become what its row says.
 struct PresetRow
 {
     const char* code;
@@ -96,14 +100,29 @@ struct Presets
     std::array<const char*, 8> fields{};
     std::span<const PresetRow> rows{};
     const char* other = nullptr;
+    bool settles = false;
+    std::uint8_t number = 0;
+    std::uint8_t inner = 0;
 };
 
-// A setting that lives in the window alone and is found at a read: on unless the text at `from` is `off`.
+// A flag that lives in the window alone and is found at a read: on while any of the conditions holds.
 struct Derived
 {
     const char* path = "";
-    const char* from = "";
-    const char* off = "";
+    std::array<When, 2> any{};
+    std::uint8_t number = 0;
+    std::uint8_t inner = 0;
+};
+
+// Positions of a string of 0 and 1, counted from 0, that a save sets to `to` while all conditions hold,
+// whatever the value has there. What comes later in the list counts more; what lies beyond the end of the
+// string is passed over.
+struct MaskPositions
+{
+    const char* path = "";
+    std::span<const int> positions{};
+    char to = '1';
+    std::array<When, 3> when{};
     std::uint8_t number = 0;
     std::uint8_t inner = 0;
 };

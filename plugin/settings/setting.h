@@ -170,18 +170,27 @@ struct Setting
 
     const char* unitKey = nullptr;
     const char* captionKey = nullptr;
+    const char* captionFormat = "%1";
     const char* widget = nullptr;
     const char* companion = nullptr; // check box or slider beside the widget
     int column = 0;                  // the widget is a tree; the cell of this column in the row of the number
 
-    When present{}; // else the key is neither read nor written
-    When free{};    // else `otherwise` is written
+    // Else the key is neither read nor written. Of a group both have to hold.
+    When present{};
+    When presentToo{};
+    bool readOtherwise = false; // of a group: read while the next two hold, whenever it is written
+    When readable{};
+    When readableToo{};
+    When free{}; // else `otherwise` is written
     const char* otherwise = "";
     bool boundOnRead = false; // and is what a read gives
 
     bool last = false;        // read after all others
     bool kept = false;        // of a group: an element that is there keeps what else it holds
     bool unlessEmpty = false; // of a group: not written while none of its keys is
+    bool stays = false;       // a file without the key leaves the value as it stands
+    bool carried = false;     // a save starts from what the document holds under the key, if it does
+    double unlessThere = -1;  // default where the file lacks the whole element; -1: the same
 
     std::uint8_t number = 0;
     std::uint8_t inner = 0;
@@ -197,7 +206,11 @@ struct Setting
     // What follows describes a row; each gives the row back.
     constexpr Setting in(const char* name) const { return having(&Setting::widget, name); }
     constexpr Setting beside(const char* name) const { return having(&Setting::companion, name); }
-    constexpr Setting caption(const char* text) const { return having(&Setting::captionKey, text); }
+    // The format holds %1 for the text, as in "%1 2".
+    constexpr Setting caption(const char* text, const char* format = "%1") const
+    {
+        return having(&Setting::captionKey, text).having(&Setting::captionFormat, format);
+    }
     constexpr Setting unit(const char* text) const { return having(&Setting::unitKey, text); }
     constexpr Setting range(double from, double to) const
     {
@@ -242,7 +255,20 @@ struct Setting
     constexpr Setting readLast() const { return having(&Setting::last, true); }
     constexpr Setting keeping() const { return having(&Setting::kept, true); }
     constexpr Setting ifAny() const { return having(&Setting::unlessEmpty, true); }
-    constexpr Setting onlyWhen(When condition) const { return having(&Setting::present, condition); }
+    constexpr Setting staying() const { return having(&Setting::stays, true); }
+    constexpr Setting carriedOver() const { return having(&Setting::carried, true); }
+    constexpr Setting withoutElement(double value) const { return having(&Setting::unlessThere, value); }
+    constexpr Setting onlyWhen(When condition, When too = {}) const
+    {
+        return having(&Setting::present, condition).having(&Setting::presentToo, too);
+    }
+    // Without a condition: always.
+    constexpr Setting readWhen(When condition = {}, When too = {}) const
+    {
+        return having(&Setting::readOtherwise, true)
+            .having(&Setting::readable, condition)
+            .having(&Setting::readableToo, too);
+    }
     // Saved as `text` unless the condition holds; `bound`: and read as that.
     constexpr Setting savedAs(const char* text, When condition, bool bound = false) const
     {

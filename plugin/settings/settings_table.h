@@ -1,8 +1,9 @@
 #pragma once
 
-// The settings of one page: its section of the file, its rows in the order of the file, and its rules. Tables
-// are constexpr; rowsOf() refuses at compile time what is wrong in them: a default outside its range or
-// choices, a path or an object name twice, two groups of one name side by side.
+// The settings of one page: its section of the file, its rows in the order of the file, and its rules. A
+// table over several sections has an empty name and begins its paths with theirs ("TRACK/POINTS/angle").
+// Tables are constexpr; rowsOf() refuses at compile time what is wrong in them: a default outside its range
+// or choices, a path or an object name twice, two groups of one name side by side.
 
 #include "settings/rule.h"
 
@@ -24,6 +25,7 @@ struct SettingsTable
     std::span<const Sole> soles{};
     std::span<const Presets> presets{};
     std::span<const Derived> derived{};
+    std::span<const MaskPositions> masks{};
     std::span<const Enable> enables{};
     bool emptied = true; // a save empties the section first
 };

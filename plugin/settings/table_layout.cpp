@@ -55,8 +55,8 @@ private:
                 row.filePath = group.path.join(QLatin1Char('/')) + QLatin1Char('/') + row.key;
                 ++group.endRow;
             }
-            row.path = layout_.section + QLatin1Char('/') + below;
-            row.filePath = layout_.section + QLatin1Char('/') + row.filePath;
+            row.path = layout_.prefix() + below;
+            row.filePath = layout_.prefix() + row.filePath;
             if (layout_.byPath.contains(below))
                 layout_.problems << row.path + QStringLiteral(" stands twice");
             layout_.byPath.insert(below, row.target);
@@ -69,7 +69,7 @@ private:
     {
         for (TableLayout::Row& row : layout_.rows) {
             const Setting& setting = *row.setting;
-            row.present = condition(setting.present, setting.number, setting.inner);
+            row.present = conditions(setting, setting.present, setting.presentToo);
             row.free = condition(setting.free, setting.number, setting.inner);
             if (setting.kind == Kind::link)
                 row.target = rowAt(setting.target, setting.number, setting.inner);
@@ -77,7 +77,10 @@ private:
         for (std::size_t i = 0; i < layout_.groups.size(); ++i) {
             TableLayout::Group& group = layout_.groups[i];
             const Setting& setting = *groupSettings_[i];
-            group.present = condition(setting.present, setting.number, setting.inner);
+            group.present = conditions(setting, setting.present, setting.presentToo);
+            group.readable = setting.readOtherwise
+                                 ? conditions(setting, setting.readable, setting.readableToo)
+                                 : group.present;
             for (const TableLayout::Group& other : layout_.groups)
                 group.nested = group.nested || (other.path.size() > group.path.size() &&
                                                 other.path.mid(0, group.path.size()) == group.path);
@@ -110,25 +113,24 @@ private:
         for (const Sole& rule : table.soles)
             addSole(rule);
         for (const Presets& rule : table.presets) {
-            TableLayout::Presets presets{rowAt(rule.trigger, 0, 0), {}, &rule};
+            TableLayout::Presets presets{rowAt(rule.trigger, rule.number, rule.inner), {}, &rule};
             for (const char* field : rule.fields) {
                 if (field)
-                    presets.fields.push_back(rowAt(field, 0, 0));
+                    presets.fields.push_back(rowAt(field, rule.number, rule.inner));
             }
             layout_.presets.push_back(presets);
         }
         for (const Derived& rule : table.derived)
-            layout_.derived.push_back({rowAt(rule.path, rule.number, rule.inner),
-                                       rowAt(rule.from, rule.number, rule.inner),
-                                       QString::fromLatin1(rule.off)});
+            layout_.derived.push_back(
+                {rowAt(rule.path, rule.number, rule.inner), conditions(rule, rule.any)});
+        for (const MaskPositions& rule : table.masks)
+            layout_.masks.push_back(
+                {rowAt(rule.path, rule.number, rule.inner), conditions(rule, rule.when), &rule});
         for (const Enable& rule : table.enables) {
             TableLayout::Enable enable;
             enable.targets = numberedName(rule.targets, rule.number, rule.inner)
                                  .split(QLatin1Char(' '), Qt::SkipEmptyParts);
-            for (const When& when : rule.when) {
-                if (when.path)
-                    enable.when.push_back(condition(when, rule.number, rule.inner));
-            }
+            enable.when = conditions(rule, rule.when);
             enable.any = rule.any;
             enable.number = rule.number;
             enable.shows = rule.effect == Enable::Effect::shown;
@@ -164,12 +166,29 @@ private:
         list->soles.push_back(sole);
     }
 
+    // Those that name a row, with the numbers of `owner`.
+    template <class Owner, std::size_t count>
+    std::vector<TableLayout::Condition> conditions(const Owner& owner, const std::array<When, count>& list)
+    {
+        std::vector<TableLayout::Condition> all;
+        for (const When& when : list) {
+            if (when.path)
+                all.push_back(condition(when, owner.number, owner.inner));
+        }
+        return all;
+    }
+
+    std::vector<TableLayout::Condition> conditions(const Setting& setting, When first, When second)
+    {
+        return conditions(setting, std::array<When, 2>{first, second});
+    }
+
     int rowAt(const char* path, int number, int inner)
     {
         const QString name = numberedName(path, number, inner);
         const int row = layout_.rowAt(name);
         if (row < 0)
-            layout_.problems << QStringLiteral("no row %1/%2").arg(layout_.section, name);
+            layout_.problems << QStringLiteral("no row %1%2").arg(layout_.prefix(), name);
         return row;
     }
 

@@ -32,7 +32,7 @@ struct TableLayout
         QString key;
         int group = -1;
         int target = -1; // row of the value: of a link another one, else this one
-        Condition present;
+        std::vector<Condition> present;
         Condition free;
     };
 
@@ -40,7 +40,8 @@ struct TableLayout
     {
         QStringList path; // element names below the section
         QString name;     // in the paths of its rows
-        Condition present;
+        std::vector<Condition> present;
+        std::vector<Condition> readable;
         bool kept = false;
         bool unlessEmpty = false;
         bool nested = false; // another group lies in it
@@ -102,8 +103,13 @@ struct TableLayout
     struct Derived
     {
         int row = -1;
-        int from = -1;
-        QString off;
+        std::vector<Condition> any;
+    };
+    struct MaskPositions
+    {
+        int row = -1;
+        std::vector<Condition> when;
+        const vlk::MaskPositions* rule = nullptr;
     };
     struct Enable
     {
@@ -125,9 +131,12 @@ struct TableLayout
     std::vector<SoleList> soleLists;
     std::vector<Presets> presets;
     std::vector<Derived> derived;
+    std::vector<MaskPositions> masks;
     std::vector<Enable> enables;
     QHash<QString, int> byPath; // below the section
 
+    // What stands in front of the paths of the rules: nothing, where they begin with a section themselves.
+    QString prefix() const { return section.isEmpty() ? QString() : section + QLatin1Char('/'); }
     // -1 where the table has no such path.
     int rowAt(const QString& pathBelowSection) const { return byPath.value(pathBelowSection, -1); }
 

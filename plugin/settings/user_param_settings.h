@@ -5,7 +5,6 @@
 // data set. Trackers without a tab for them have no such elements in their files, so the table is that tab's
 // alone.
 
-#include "dataset/catalogue/field_catalogue.h"
 #include "settings/settings_table.h"
 
 namespace vlk {
@@ -16,14 +15,13 @@ struct UserParamSlots
     const char* element;
     int bytes;
     int count;
-    int firstField; // place of the first one in the mask of the data set
 };
 
 inline constexpr std::array<UserParamSlots, 4> kUserParamSlots = {{
-    {"USRPRM1", 1, 16, field("User1Byte_1")},
-    {"USRPRM2", 2, 15, field("User2Byte_1")},
-    {"USRPRM4", 4, 15, field("User4Byte_1")},
-    {"USRPRM8", 8, 3, field("User8Byte_1")},
+    {"USRPRM1", 1, 16},
+    {"USRPRM2", 2, 15},
+    {"USRPRM4", 4, 15},
+    {"USRPRM8", 8, 3},
 }};
 
 extern const SettingsTable kUserParamSettings;

@@ -69,9 +69,9 @@ QString positionsText(const Setting& setting, const QString& value)
 
 } // namespace
 
-Caption captionParts(const char* key, int number)
+Caption captionParts(const char* key, const char* format, int number)
 {
-    QString text = translated(key);
+    QString text = QString::fromLatin1(format).arg(translated(key));
     if (number > 0)
         text.replace(QLatin1String("%1"), QString::number(number));
     const int mark = text.indexOf(QLatin1String("<val>"), 0, Qt::CaseInsensitive);
@@ -87,7 +87,7 @@ QString inOneLine(QString caption)
 
 QString captionText(const Setting& setting)
 {
-    const Caption parts = captionParts(setting.captionKey, setting.number);
+    const Caption parts = captionParts(setting.captionKey, setting.captionFormat, setting.number);
     return inOneLine(parts.after.isEmpty() ? parts.before
                                            : parts.before + QStringLiteral(" … ") + parts.after);
 }

@@ -15,7 +15,7 @@ struct Caption
     QString before;
     QString after;
 };
-Caption captionParts(const char* key, int number = 0);
+Caption captionParts(const char* key, const char* format = "%1", int number = 0);
 // Without line breaks and mnemonics.
 QString inOneLine(QString caption);
 QString captionText(const Setting& setting);

@@ -100,7 +100,7 @@ constexpr auto kEnables = rulesOf(enable("same", whenSame("A/speed", "A/late")))
 constexpr PresetRow kReady[] = {{"0", {"a", "b"}}, {"1", {"c", nullptr}}, {"3", {"", ""}}};
 constexpr Presets kPresets[] = {
     {.trigger = "A/preset", .fields = {"A/one", "A/two"}, .rows = kReady, .other = "3"}};
-constexpr Derived kDerived[] = {{.path = "A/server", .from = "A/address", .off = "none"}};
+constexpr Derived kDerived[] = {{.path = "A/server", .any = {unless("A/address", "none")}}};
 constexpr SettingsTable kTable{.section = "S",
                                .rows = kRows,
                                .pulls = kPulls,
@@ -111,6 +111,31 @@ constexpr SettingsTable kTable{.section = "S",
                                .presets = kPresets,
                                .derived = kDerived,
                                .enables = kEnables};
+
+// Over two sections, of which a save empties the second.
+constexpr auto kWideRows =
+    rowsOf(group("P").keeping(), text("mask", "0000").carriedOver().staying(), group("Q"),
+           constant("page", "Q"), flag("any", 0).notStored(), flag("one", 0).notStored(),
+           choice("use", kNumbers, "0").offering("0|1").notStored().staying(), integer("owner", 1),
+           group("Q/C"), text("state", "a"), integer("ign", 0).notStored(), group("Q/C/I"),
+           link("ign", "Q/C/ign", 1).withoutElement(0),
+           group("Q/E").onlyWhen(when("Q/any"), when("Q/one")).readWhen(when("Q/owner", "1")),
+           link("use", "Q/one", 0));
+constexpr PresetRow kSettled[] = {
+    {"0", {"a", "0"}}, {"1", {"b", "1"}}, {"3", {"c", nullptr}}, {"0", {"b", "0"}}};
+constexpr Presets kWidePresets[] = {
+    {.trigger = "Q/use", .fields = {"Q/C/state", "Q/C/ign"}, .rows = kSettled, .settles = true}};
+constexpr Derived kWideDerived[] = {{.path = "Q/any", .any = {when("Q/one"), when("Q/C/ign")}}};
+constexpr int kFirstTwo[] = {0, 1, 9};
+constexpr int kSecond[] = {1};
+constexpr MaskPositions kWideMasks[] = {
+    {.path = "P/mask", .positions = kFirstTwo, .to = '0'},
+    {.path = "P/mask", .positions = kSecond, .when = {when("Q/any"), when("Q/one")}}};
+constexpr SettingsTable kWide{.rows = kWideRows,
+                              .presets = kWidePresets,
+                              .derived = kWideDerived,
+                              .masks = kWideMasks,
+                              .emptied = false};
 
 } // namespace
 
@@ -336,6 +361,7 @@ private Q_SLOTS:
             .row("pulls another, once", {"whole=7"}, "whole=7 flag=0")
             .row("pulls back", {"flag=0"}, "flag=0 whole=8")
             .row("a preset", {"preset=1", "preset=0"}, "preset=0 one=a two=b")
+            .row("a preset once more", {"preset=1", "one=z", "preset=1"}, "one=c")
             .row("a preset that leaves a field", {"one=z", "two=y", "preset=1"}, "preset=1 one=c")
             .row("only with another", {"whole=6", "whole=5", "use=AIN", "whole=6"}, "whole=6 alone=9")
             .row("bound at any time", {"line=3", "conditions=101", "line=0"}, "line=0 conditions=100")
@@ -381,6 +407,38 @@ private Q_SLOTS:
                 given << note.path + ' ' + note.text + ' ' + note.value;
         }
         QCOMPARE(given, QStringList("S/A/low 5700 5400"));
+    }
+
+    // What a document holds already stays where a group keeps it, and goes where one does not.
+    void overSeveralSections_data()
+    {
+        const QString unused = "<Q page=Q owner=1><C state=a><I ign=0/></C></Q>";
+        DataTable<QString, QString, QString>({"file", "over", "after"})
+            .row("nothing", "", "", "<P mask=0000></P>" + unused)
+            .row("kept, carried over", "", "<P mask='1111' other='1'/><Q other='1'/>",
+                 "<P mask=0011 other=1></P>" + unused)
+            .row("settles", "<Q><C state='b'><I ign='0'/></C></Q>", "", "<P mask=0000></P>" + unused)
+            .row("element without its key", "<Q><C state='b'><I a='1'/></C></Q>", "",
+                 "<P mask=0000></P><Q page=Q owner=1><C state=b><I ign=1/></C></Q>")
+            .row("not offered", "<Q><C state='c'/></Q>", "", "<P mask=0000></P>" + unused)
+            .row("read and written under other conditions", "<Q owner='1'><E use='1'/></Q>", "",
+                 "<P mask=0100></P><Q page=Q owner=1><C state=a><I ign=0/></C><E use=1/></Q>")
+            .row("not readable", "<Q owner='2'><E use='1'/></Q>", "",
+                 "<P mask=0000></P><Q page=Q owner=2><C state=a><I ign=0/></C></Q>");
+    }
+    void overSeveralSections()
+    {
+        QFETCH(QString, file);
+        QFETCH(QString, over);
+        Configuration wide({&kWide});
+        QCOMPARE(layoutOf(kWide).problems, QStringList());
+        XmlDocument in(("<DEVICE>" + file + "</DEVICE>").toLatin1(), "DEVICE");
+        XmlDocument out(("<DEVICE>" + over + "</DEVICE>").toLatin1(), "DEVICE");
+        wide.read(*in.root());
+        wide.write(*out.root());
+        QString after = out.text();
+        after.remove(QRegularExpression("[\\n\\t\"]|<\\?.*\\?>|</?DEVICE>"));
+        QTEST(after, "after");
     }
 
     void texts_data()

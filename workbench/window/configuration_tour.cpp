@@ -165,15 +165,13 @@ void lookAround(vlk::Tour& tour)
 // Every item of a list that shows a form of its own, in both languages; the item before comes back.
 void walkItems(vlk::Tour& tour, const char* name, const char* picture)
 {
-    auto* list = vlk::Tour::find<QComboBox>(name);
     auto* pages = vlk::Tour::find<QTabWidget>("tabWidget");
-    QWidget* page = list;
-    while (pages->indexOf(page) < 0 && page->parentWidget() != nullptr)
-        page = page->parentWidget();
     const int before = pages->currentIndex();
+    for (int page = 0; page < pages->count() && !vlk::Tour::findVisible(name); ++page)
+        pages->setCurrentIndex(page);
+    auto* list = vlk::Tour::find<QComboBox>(name);
     const int current = list->currentIndex();
-    pages->setCurrentWidget(page);
-    if (auto* area = qobject_cast<QScrollArea*>(page))
+    if (auto* area = qobject_cast<QScrollArea*>(pages->currentWidget()))
         area->ensureWidgetVisible(list->parentWidget());
     for (const QString& code : vlk::Languages::codes()) {
         tour.window().setLanguage(code);

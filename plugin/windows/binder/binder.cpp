@@ -346,7 +346,7 @@ void Binder::edited(int index, const QString& value)
         return;
     evaluateRules();
     for (const int other : changed)
-        Q_EMIT this->changed(configuration_.path(other).mid(layout_.section.size() + 1));
+        Q_EMIT this->changed(configuration_.path(other).mid(layout_.prefix().size()));
 }
 
 void Binder::set(int index, const QString& value)
@@ -375,9 +375,8 @@ void Binder::finishTyping()
 void Binder::selectFirstItems()
 {
     for (const auto& adapter : adapters_) {
-        if (dynamic_cast<ChoiceAdapter*>(adapter.get()))
-            set(adapter->index(),
-                QString::fromLatin1(configuration_.setting(adapter->index()).codes[0].code));
+        if (const auto* choice = dynamic_cast<ChoiceAdapter*>(adapter.get()))
+            set(choice->index(), choice->firstItem());
     }
 }
 

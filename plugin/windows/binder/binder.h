@@ -93,6 +93,10 @@ private:
         std::vector<const TableLayout::Enable*> rules;
     };
 
+    const Form* formNamed(const QString& name) const;
+    // Whether the name, or one of the row's, tells a form that is not there yet.
+    bool isLate(const QString& name) const;
+    bool isLate(const Setting& setting) const;
     // What a widget was dressed with: rules may give it another range.
     struct Range
     {
@@ -102,10 +106,6 @@ private:
         bool operator==(const Range&) const = default;
     };
 
-    const Form* formNamed(const QString& name) const;
-    // Whether the name, or one of the row's, tells a form that is not there yet.
-    bool isLate(const QString& name) const;
-    bool isLate(const Setting& setting) const;
     std::unique_ptr<Adapter> makeAdapter(int index);
     Range rangeOf(int row) const;
     void dressRanged(int row);

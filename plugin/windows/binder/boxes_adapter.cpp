@@ -27,6 +27,9 @@ ExclusiveAdapter::ExclusiveAdapter(Binder& binder, int index, std::vector<QWidge
                 take();
             }
         });
+        // Choosing one once more fills in what belongs to it once more.
+        if (auto* button = qobject_cast<QRadioButton*>(boxes_[i]))
+            connect(button, &QRadioButton::clicked, this, [this] { take(); });
     }
 }
 
@@ -34,7 +37,7 @@ void ExclusiveAdapter::dress()
 {
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         if (boxes_[i])
-            caption(boxes_[i], setting().codes[i].label);
+            caption(boxes_[i], setting().codes[i].label, setting().codes[i].format);
     }
 }
 
@@ -98,7 +101,7 @@ void PositionsAdapter::dress()
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         if (!boxes_[i])
             continue;
-        caption(checks_[i] ? checks_[i] : boxes_[i], setting().positions[i].caption);
+        caption(checks_[i] ? checks_[i] : boxes_[i], setting().positions[i].caption, "%1");
         if (checks_[i])
             boxes_[i]->setAccessibleName(checks_[i]->accessibleName());
         auto* list = qobject_cast<QComboBox*>(boxes_[i]);

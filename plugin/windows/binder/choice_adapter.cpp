@@ -16,7 +16,7 @@ ChoiceAdapter::ChoiceAdapter(Binder& binder, int index, QComboBox* box) : Adapte
 
 void ChoiceAdapter::dress()
 {
-    caption(box_, setting().captionKey);
+    caption(box_);
     const QSignalBlocker blocker(box_);
     box_->clear();
     const Limits limits = configuration().limits(index());
@@ -36,6 +36,11 @@ void ChoiceAdapter::take()
 {
     if (box_->currentIndex() >= 0 || setting().none)
         edited(held());
+}
+
+QString ChoiceAdapter::firstItem() const
+{
+    return box_->itemData(0).toString();
 }
 
 QString ChoiceAdapter::held() const

@@ -66,7 +66,7 @@ void PageSettings::retranslate()
 
 int PageSettings::indexOf(const QString& path) const
 {
-    return configuration_.indexOf(QLatin1String(table_.section) + QLatin1Char('/') + path);
+    return configuration_.indexOf(layoutOf(table_).prefix() + path);
 }
 
 QString PageSettings::value(const QString& path) const
