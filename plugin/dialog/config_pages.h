@@ -17,6 +17,7 @@
 #include "pages/form_config_system.h"
 #include "pages/form_config_track.h"
 #include "pages/form_config_transfer.h"
+#include "peripherals/form_config_bluetooth.h"
 #include "peripherals/form_config_rs.h"
 
 #include <concepts>
@@ -26,7 +27,8 @@ namespace vlk {
 
 using PageTuple = std::tuple<VLK_Form_Config_Transfer*, VLK_Form_Config_Zeta3*, VLK_Form_Config_Track*,
                              VLK_Form_Config_System*, VLK_Form_Config_RS*, VLK_Form_Config_Sensors_Temp*,
-                             VLK_Form_Config_Lines_In*, VLK_Form_Config_Accel*, VLK_Form_Config_Lines_Out*>;
+                             VLK_Form_Config_Lines_In*, VLK_Form_Config_Accel*, VLK_Form_Config_Lines_Out*,
+                             VLK_Form_Config_Bluetooth*>;
 
 // deviceConnected(), deviceDisconnected()
 template <class Page>

@@ -1,6 +1,7 @@
 #include "settings/all_settings.h"
 
 #include "settings/accel_settings.h"
+#include "settings/bluetooth_settings.h"
 #include "settings/data_set_settings.h"
 #include "settings/lines_in_settings.h"
 #include "settings/lines_out_settings.h"
@@ -15,8 +16,8 @@ namespace vlk {
 const std::vector<const SettingsTable*>& allSettings()
 {
     static const std::vector<const SettingsTable*> tables = {
-        &kTransferSettings,    &kDataSetSettings, &kTrackSettings, &kSystemSettings,  &kRsSettings,
-        &kTemperatureSettings, &kLinesInSettings, &kAccelSettings, &kLinesOutSettings};
+        &kTransferSettings,    &kDataSetSettings, &kTrackSettings, &kSystemSettings,   &kRsSettings,
+        &kTemperatureSettings, &kLinesInSettings, &kAccelSettings, &kLinesOutSettings, &kBluetoothSettings};
     return tables;
 }
 

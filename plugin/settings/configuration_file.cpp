@@ -4,6 +4,7 @@
 
 #include "xml/xml_section.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vlk {
@@ -93,6 +94,13 @@ void noteStrangersIn(const CXmlSection& element, const TableLayout& layout, cons
     noteStrangers(element, layout.prefix() + group.path.join(QLatin1Char('/')), keys, inside, notes);
 }
 
+// Whether the group is there for the sake of the row `owner`; -1: of whatever.
+bool isOf(const TableLayout::Group& group, int owner)
+{
+    return owner < 0 || std::any_of(group.present.begin(), group.present.end(),
+                                    [&](const auto& condition) { return condition.row == owner; });
+}
+
 } // namespace
 
 void Configuration::readPart(const Part& part, const CXmlSection& root, std::vector<ReadNote>* notes)
@@ -115,16 +123,24 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
         if (!setting.stored && !setting.stays && (place.group < 0 || layout.groups[place.group].stored))
             values_[index] = normalise(setting, loadDefault(setting), values_[index], limits(index)).value;
     }
+    readGroups(part, *section, -1, notes);
+}
+
+// Of all groups, or of those that are there for the sake of the row `owner`.
+void Configuration::readGroups(const Part& part, const CXmlSection& section, int owner,
+                               std::vector<ReadNote>* notes)
+{
+    const TableLayout& layout = *part.layout;
     std::vector<ReadNote> taken;
     std::vector<ReadNote>* const takes = notes ? &taken : nullptr;
     std::vector<std::pair<int, Element>> late;
     for (const TableLayout::Group& group : layout.groups) {
-        if (!group.stored || !holds(part, group.readable))
+        if (!group.stored || !isOf(group, owner) || !holds(part, group.readable))
             continue;
-        const Element element = elementOf(*section, group.path);
+        const Element element = elementOf(section, group.path);
         for (int row = group.firstRow; row < group.endRow; ++row) {
             if (layout.rows[row].setting->last)
-                late.emplace_back(row, elementOf(*section, group.path));
+                late.emplace_back(row, elementOf(section, group.path));
             else
                 readRow(part, row, *element.section, element.isThere, takes);
         }
@@ -170,11 +186,31 @@ void Configuration::readRow(const Part& part, int row, const CXmlSection& elemen
         const QString bound = QString::fromLatin1(setting.otherwise);
         taken = {bound, bound == text ? Change::none : Change::byRule};
     }
+    const QString before = values_[index];
     assign(part, place.target, taken.value, nullptr);
     if (notes)
-        notes->push_back({ReadNote::What::value, place.path, part.first + row, found ? text : QString(),
+        notes->push_back({ReadNote::What::value, place.filePath, part.first + row, found ? text : QString(),
                           taken.value, found ? taken.change : Change::missing});
-    pull(part, place.target, true, nullptr);
+    pull(part, place.target, true, before, nullptr);
+}
+
+void Configuration::readUnder(const CXmlSection& section, const SettingsTable& table, const QString& owner,
+                              const QString& code)
+{
+    const Part& part = partOf(table);
+    const int index = indexOf(owner);
+    const QString present = std::exchange(values_[index], code);
+    readGroups(part, section, index - part.first, nullptr);
+    values_[index] = present;
+}
+
+void Configuration::writeUnder(CXmlSection& section, const SettingsTable& table, const QString& owner,
+                               const QString& code) const
+{
+    const Part& part = partOf(table);
+    Configuration assumed = *this;
+    assumed.values_[indexOf(owner)] = code;
+    assumed.writeGroups(part, section, indexOf(owner) - part.first);
 }
 
 void Configuration::write(CXmlSection& root) const
@@ -201,21 +237,27 @@ void Configuration::writePart(const Part& part, CXmlSection& root) const
         section->setString(QStringLiteral("page"), layout.section);
         section->commit();
     }
+    writeGroups(part, *section, -1);
+}
+
+void Configuration::writeGroups(const Part& part, CXmlSection& section, int owner) const
+{
+    const TableLayout& layout = *part.layout;
     for (const TableLayout::Group& group : layout.groups) {
-        if (!group.stored || !holds(part, group.present))
+        if (!group.stored || !isOf(group, owner) || !holds(part, group.present) || !isWritten(part, group))
             continue;
         CXmlSectionPtr parent;
         for (int depth = 0; depth + 1 < group.path.size(); ++depth)
-            parent = (parent ? *parent : *section).child(group.path[depth]);
+            parent = (parent ? *parent : section).child(group.path[depth]);
         const CXmlSectionPtr element =
-            (parent ? *parent : *section).child(group.path.last(), group.kept || group.nested ? 0 : 3);
+            (parent ? *parent : section).child(group.path.last(), group.kept || group.nested ? 0 : 3);
         if (!group.kept)
             element->clear();
         for (int row = group.firstRow; row < group.endRow; ++row) {
             const int index = part.first + row;
             const TableLayout::Row& place = layout.rows[row];
             const QString* before = place.setting->carried ? element->find(place.key) : nullptr;
-            if (isWritten(index))
+            if (place.setting->stored && holds(part, place.present))
                 element->setString(place.key, written(index, before ? *before : value(index)));
         }
         element->commit();

@@ -41,16 +41,17 @@ void Configuration::change(const Part& part, int row, const QString& text, std::
         std::find(editing_.begin(), editing_.end(), index) != editing_.end())
         return;
     editing_.push_back(index);
+    const QString before = values_[index];
     assign(part, row, value, changed);
     // Another range may hold now.
     for (const TableLayout::RangeWhen& rule : part.layout->ranges) {
-        if (rule.when.row != row)
+        if (rule.when.row != row || rule.rule->startsOver)
             continue;
         const int ranged = part.first + rule.row;
         const Setting& limited = *part.layout->rows[rule.row].setting;
         put(ranged, normalise(limited, values_[ranged], values_[ranged], limits(ranged)).value, changed);
     }
-    pull(part, row, false, changed);
+    pull(part, row, false, before, changed);
     for (const TableLayout::Presets& presets : ready) {
         const PresetRow* chosen = presets.trigger == row ? rowOf(presets, value) : nullptr;
         for (std::size_t field = 0; chosen && field < presets.fields.size(); ++field) {
@@ -61,12 +62,16 @@ void Configuration::change(const Part& part, int row, const QString& text, std::
     editing_.pop_back();
 }
 
-void Configuration::pull(const Part& part, int row, bool onRead, std::vector<int>* changed)
+void Configuration::pull(const Part& part, int row, bool onRead, const QString& before,
+                         std::vector<int>* changed)
 {
     std::vector<int> local;
+    const auto heldBefore = [&](const TableLayout::Pull& rule) {
+        return rule.onset && isOneOf(before, rule.when);
+    };
     for (const TableLayout::Pull& rule : part.layout->pulls) {
         if (rule.when.row == row && (rule.onRead || !onRead) && holds(part, rule.when) &&
-            holds(part, rule.also))
+            holds(part, rule.also) && !heldBefore(rule))
             change(part, rule.set, rule.to, changed ? changed : &local);
     }
 }
@@ -80,11 +85,64 @@ void Configuration::put(int index, const QString& value, std::vector<int>* chang
         changed->push_back(index);
 }
 
-// Sets a value, and moves what has to keep its distance from it.
+// Sets a value, and moves what has to keep its distance from it or cannot have the same one.
 void Configuration::assign(const Part& part, int row, const QString& value, std::vector<int>* changed)
 {
+    const bool isNew = values_[part.first + row] != value;
     put(part.first + row, value, changed);
     keepDistances(part, row, changed);
+    if (!isNew)
+        return;
+    startOver(part, row, changed);
+    for (const TableLayout::SoleList& list : part.layout->soleLists) {
+        if (list.triggers[row])
+            keepSoles(part, list, changed);
+    }
+}
+
+// Lists that follow the value of the row.
+void Configuration::startOver(const Part& part, int row, std::vector<int>* changed)
+{
+    for (const TableLayout::RangeWhen& rule : part.layout->ranges) {
+        if (rule.rule->startsOver && rule.when.row == row) {
+            const int index = part.first + rule.row;
+            put(index, firstOffered(setting(index), limits(index)), changed);
+        }
+    }
+}
+
+bool Configuration::counts(const Part& part, const TableLayout::Sole& sole) const
+{
+    return holds(part, sole.when) && holds(part, sole.also);
+}
+
+QStringList Configuration::takenFrom(const Part& part, const TableLayout::SoleList& list,
+                                     const TableLayout::Sole& sole) const
+{
+    QStringList taken;
+    for (const TableLayout::Sole& other : list.soles) {
+        const bool apart =
+            other.holder == sole.holder ||
+            (sole.split >= 0 && values_[part.first + other.split] != values_[part.first + sole.split]);
+        if (!apart && counts(part, other))
+            taken << values_[part.first + other.row];
+    }
+    return taken;
+}
+
+void Configuration::keepSoles(const Part& part, const TableLayout::SoleList& list, std::vector<int>* changed)
+{
+    for (const TableLayout::Sole& sole : list.soles) {
+        const int index = part.first + sole.row;
+        const QString value = values_[index];
+        const bool holdsNothing = setting(index).none && value == QLatin1String(setting(index).none);
+        if (counts(part, sole)) {
+            if (holdsNothing)
+                put(index, firstOffered(setting(index), limits(index)), changed);
+        } else if (!holdsNothing && takenFrom(part, list, sole).contains(value)) {
+            put(index, nextOffered(setting(index), value, limits(index)), changed);
+        }
+    }
 }
 
 void Configuration::keepDistances(const Part& part, int row, std::vector<int>* changed)

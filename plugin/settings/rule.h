@@ -12,7 +12,8 @@
 namespace vlk {
 
 // An edit that makes `when` hold sets another setting. `onRead`: a read does so too, as soon as it has read
-// the path of `when`. All of it only while `also` holds.
+// the path of `when`. All of it only while `also` holds; `onset`: an edit only where `when` did not hold
+// before it.
 struct Pull
 {
     When when;
@@ -20,6 +21,7 @@ struct Pull
     const char* to = "";
     bool onRead = false;
     When also{};
+    bool onset = false;
     std::uint8_t number = 0;
     std::uint8_t inner = 0;
 };
@@ -48,7 +50,8 @@ struct Distance
 };
 
 // Another range and unit, or a shorter list of codes, while `when` holds; the last rule that holds counts.
-// What the list lacks becomes the row's code for no item, else its fallback; a digit becomes 0.
+// What the list lacks becomes the row's code for no item, else its fallback; a digit becomes 0. `startsOver`:
+// another value at the path of `when` brings the first code of the list, whatever was chosen.
 struct RangeWhen
 {
     When when;
@@ -57,6 +60,23 @@ struct RangeWhen
     double most = 0;
     const char* unit = nullptr;
     const char* offers = nullptr; // "0|1"
+    bool startsOver = false;
+    std::uint8_t number = 0;
+    std::uint8_t inner = 0;
+};
+
+// A choice out of a list that several settings share: while `when` and `also` hold, none of the others can
+// have its code. One that holds nothing yields to the next code that is free, and one whose list was empty
+// gets the first code that is given back. Settings of the same `holder` are nothing to each other, and so are
+// those of one list whose values at `split` differ.
+struct Sole
+{
+    const char* path = "";
+    When when{};
+    When also{};
+    const char* list = "";
+    const char* holder = "";
+    const char* split = nullptr;
     std::uint8_t number = 0;
     std::uint8_t inner = 0;
 };

@@ -32,7 +32,10 @@ private:
             if (setting.kind == Kind::group) {
                 TableLayout::Group group;
                 group.path = numberedName(setting.key, setting.number, setting.inner).split(QLatin1Char('/'));
+                group.name = setting.name ? numberedName(setting.name, setting.number, setting.inner)
+                                          : group.path.join(QLatin1Char('/'));
                 group.kept = setting.kept;
+                group.unlessEmpty = setting.unlessEmpty;
                 group.firstRow = group.endRow = static_cast<int>(layout_.rows.size());
                 layout_.groups.push_back(group);
                 groupSettings_.push_back(&setting);
@@ -45,12 +48,15 @@ private:
             row.target = static_cast<int>(layout_.rows.size());
             QString below =
                 setting.name ? numberedName(setting.name, setting.number, setting.inner) : row.key;
+            row.filePath = row.key;
             if (row.group >= 0) {
                 TableLayout::Group& group = layout_.groups.back();
-                below = group.path.join(QLatin1Char('/')) + QLatin1Char('/') + below;
+                below = group.name + QLatin1Char('/') + below;
+                row.filePath = group.path.join(QLatin1Char('/')) + QLatin1Char('/') + row.key;
                 ++group.endRow;
             }
             row.path = layout_.prefix() + below;
+            row.filePath = layout_.prefix() + row.filePath;
             if (layout_.byPath.contains(below))
                 layout_.problems << row.path + QStringLiteral(" stands twice");
             layout_.byPath.insert(below, row.target);
@@ -91,7 +97,7 @@ private:
         for (const Pull& rule : table.pulls)
             layout_.pulls.push_back({condition(rule.when, rule.number, rule.inner),
                                      rowAt(rule.set, rule.number, rule.inner), QString::fromLatin1(rule.to),
-                                     rule.onRead, condition(rule.also, rule.number, rule.inner)});
+                                     rule.onRead, condition(rule.also, rule.number, rule.inner), rule.onset});
         for (const Bound& rule : table.bounds)
             layout_.bounds.push_back({condition(rule.when, rule.number, rule.inner),
                                       rowAt(rule.path, rule.number, rule.inner),
@@ -104,6 +110,8 @@ private:
         for (const RangeWhen& rule : table.ranges)
             layout_.ranges.push_back({condition(rule.when, rule.number, rule.inner),
                                       rowAt(rule.path, rule.number, rule.inner), &rule});
+        for (const Sole& rule : table.soles)
+            addSole(rule);
         for (const Presets& rule : table.presets) {
             TableLayout::Presets presets{rowAt(rule.trigger, rule.number, rule.inner), {}, &rule};
             for (const char* field : rule.fields) {
@@ -135,7 +143,27 @@ private:
         if (!when.path)
             return {};
         return {rowAt(when.path, number, inner),
-                QString::fromLatin1(when.codes).split(QLatin1Char('|'), Qt::SkipEmptyParts), when.negated};
+                QString::fromLatin1(when.codes).split(QLatin1Char('|'), Qt::SkipEmptyParts), when.negated,
+                when.other ? rowAt(when.other, number, inner) : -1};
+    }
+
+    void addSole(const Sole& rule)
+    {
+        const QString name = numberedName(rule.list, rule.number, rule.inner);
+        auto& lists = layout_.soleLists;
+        auto list =
+            std::find_if(lists.begin(), lists.end(), [&](const auto& known) { return known.name == name; });
+        if (list == lists.end())
+            list = lists.insert(lists.end(), {name, {}, std::vector<bool>(layout_.rows.size())});
+        const TableLayout::Sole sole{
+            rowAt(rule.path, rule.number, rule.inner), condition(rule.when, rule.number, rule.inner),
+            condition(rule.also, rule.number, rule.inner), numberedName(rule.holder, rule.number, rule.inner),
+            rule.split ? rowAt(rule.split, rule.number, rule.inner) : -1};
+        for (const int row : {sole.row, sole.when.row, sole.also.row, sole.split}) {
+            if (row >= 0)
+                list->triggers[row] = true;
+        }
+        list->soles.push_back(sole);
     }
 
     // Those that name a row, with the numbers of `owner`.

@@ -20,13 +20,15 @@ struct TableLayout
         int row = -1; // -1: always holds
         QStringList codes;
         bool negated = false;
+        int other = -1; // row whose value it has to be
     };
 
     // A value; rows of kind `group` have none.
     struct Row
     {
         const Setting* setting = nullptr;
-        QString path; // "TRACK/POINTS/angle"
+        QString path;     // "TRACK/POINTS/angle"; of its own, also where two rows share a place
+        QString filePath; // where it stands in the file
         QString key;
         int group = -1;
         int target = -1; // row of the value: of a link another one, else this one
@@ -37,9 +39,11 @@ struct TableLayout
     struct Group
     {
         QStringList path; // element names below the section
+        QString name;     // in the paths of its rows
         std::vector<Condition> present;
         std::vector<Condition> readable;
         bool kept = false;
+        bool unlessEmpty = false;
         bool nested = false; // another group lies in it
         bool stored = true;  // false: all its rows live in the window alone, the file has no such element
         int firstRow = 0;
@@ -53,6 +57,7 @@ struct TableLayout
         QString to;
         bool onRead = false;
         Condition also;
+        bool onset = false;
     };
     struct Bound
     {
@@ -73,6 +78,21 @@ struct TableLayout
         Condition when;
         int row = -1;
         const vlk::RangeWhen* rule = nullptr;
+    };
+    struct Sole
+    {
+        int row = -1;
+        Condition when;
+        Condition also;
+        QString holder;
+        int split = -1;
+    };
+    // The settings that share a list.
+    struct SoleList
+    {
+        QString name;
+        std::vector<Sole> soles;
+        std::vector<bool> triggers; // by row: whether its value counts for who holds what
     };
     struct Presets
     {
@@ -108,6 +128,7 @@ struct TableLayout
     std::vector<Bound> bounds;
     std::vector<Distance> distances;
     std::vector<RangeWhen> ranges;
+    std::vector<SoleList> soleLists;
     std::vector<Presets> presets;
     std::vector<Derived> derived;
     std::vector<MaskPositions> masks;

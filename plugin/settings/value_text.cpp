@@ -94,7 +94,8 @@ QString captionText(const Setting& setting)
 
 QString codeText(const Code& code)
 {
-    return QString::fromLatin1(code.format).arg(translated(code.label));
+    const QString text = QString::fromLatin1(code.format).arg(captionParts(code.label).before);
+    return code.second ? text.arg(translated(code.second)) : text;
 }
 
 QString fieldText(const MaskField& field)
@@ -119,6 +120,8 @@ QString valueText(const Configuration& configuration, int index, const QString& 
     case Kind::scaled:
         if (setting.zeroIsOff && value == QLatin1String("0"))
             return yesNo(false);
+        if (setting.hexadecimal)
+            return value;
         return withUnit(QString::number(shownNumber(setting, value), 'f', setting.decimals),
                         configuration.unitKey(index));
     case Kind::choice:

@@ -4,6 +4,7 @@
 #include "dialog/form_config_light.h"
 #include "dialog/widget_config_full.h"
 #include "settings/all_settings.h"
+#include "settings/bluetooth_sensor_types.h"
 #include "settings/quick_settings.h"
 #include "settings/rs_settings.h"
 #include "support/device.h"
@@ -25,12 +26,18 @@ private Q_SLOTS:
         quick_ = std::make_unique<VLK_Form_Config_Light>();
     }
 
-    // Some forms are made when their device is chosen.
+    // Some forms are made when their device or type is chosen.
     void everyRowHasItsWidget()
     {
         window_->pages().forEach([](vlk::HasSerialLine auto& page) {
             for (const vlk::RsOwner& owner : vlk::kRsOwners)
                 page.settings().edit("OPTIONS/owner1", owner.code);
+        });
+        window_->pages().forEach([](vlk::FindsBluetooth auto& page) {
+            for (int sensor = 1; sensor <= vlk::kBluetoothSensors; ++sensor) {
+                for (const vlk::BluetoothSensorType& type : vlk::kBluetoothSensorTypes)
+                    page.settings().edit(QString("SENS%1/form").arg(sensor), type.code);
+            }
         });
         QStringList sections;
         forEachPage([&](auto& page) {
@@ -82,7 +89,7 @@ private Q_SLOTS:
         const vlk::Configuration fresh = stateOf(saved());
         QVector<QPair<QString, QString>> values;
         for (int i = 0; i < configuration_.count(); ++i)
-            values.append({configuration_.path(i), samplesOf(configuration_.setting(i)).last()});
+            values.append({configuration_.row(i).filePath, samplesOf(configuration_.setting(i)).last()});
         throughTheWindow(documentWith(values));
         window_->setDefaults();
         for (const vlk::Difference& difference : fresh.differences(stateOf(saved())))
@@ -129,7 +136,7 @@ private:
         QVector<QPair<QString, QString>> values;
         for (int i = 0; i < configuration.count(); ++i) {
             const QStringList samples = samplesOf(configuration.setting(configuration.holder(i)));
-            values.append({configuration.path(i), samples.at((round + 7 * i) % samples.size())});
+            values.append({configuration.row(i).filePath, samples.at((round + 7 * i) % samples.size())});
         }
         if (round % 3 == 0)
             values << qMakePair(QString("RS485/OPTIONS/owner1"), QString("FLDS"))

@@ -40,8 +40,13 @@ private Q_SLOTS:
         if (table_.layout(0).table != tables()[table])
             table_ = vlk::Configuration({tables()[table]});
         const vlk::TableLayout::Row& row = table_.row(index);
-        for (const QString& sample : samplesOf(table_.setting(table_.holder(index)))) {
-            const QByteArray file = documentWith(presenceOf(table_, index) + Values{{row.path, sample}});
+        QStringList samples = samplesOf(table_.setting(table_.holder(index)));
+        // What no list offers a way to is the same whatever a file holds.
+        readAndWritten(table_, documentWith(presenceOf(table_, index)));
+        if (row.setting->stored && !table_.isWritten(index))
+            samples = samples.mid(0, 2);
+        for (const QString& sample : samples) {
+            const QByteArray file = documentWith(presenceOf(table_, index) + Values{{row.filePath, sample}});
             const QByteArray first = readAndWritten(table_, file);
             const QByteArray second = readAndWritten(table_, first);
             QCOMPARE(second, savedAgain(table_, first));

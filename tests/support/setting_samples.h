@@ -71,7 +71,7 @@ inline QVector<QPair<QString, QString>> presenceOf(const vlk::Configuration& con
     for (const auto& conditions : {layout.groups[row.group].readable, row.present}) {
         for (const auto& condition : conditions) {
             if (!condition.negated)
-                values.append({layout.rows[condition.row].path, condition.codes.value(0, "1")});
+                values.append({layout.rows[condition.row].filePath, condition.codes.value(0, "1")});
         }
     }
     return values;

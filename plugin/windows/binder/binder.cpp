@@ -72,7 +72,9 @@ bool Binder::isLate(const QString& name) const
 
 bool Binder::isLate(const Setting& setting) const
 {
-    const auto isLate = [this](const char* name) { return this->isLate(QString::fromLatin1(name)); };
+    const auto isLate = [&](const char* name) {
+        return name && this->isLate(numberedName(name, setting.number, setting.inner));
+    };
     const auto anyOf = [&](const auto& boxes) {
         return std::any_of(boxes.begin(), boxes.end(), [&](const auto& box) { return isLate(box.widget); });
     };
@@ -228,6 +230,7 @@ void Binder::join(QWidget* form)
         for (std::size_t row = 0; row < adapters_.size(); ++row) {
             if (adapters_[row] && !before[row]) {
                 adapters_[row]->dress();
+                ranges_[static_cast<int>(row)] = rangeOf(static_cast<int>(row));
                 showRow(static_cast<int>(row));
             }
         }
@@ -244,6 +247,10 @@ void Binder::dress()
     }
     for (const TableLayout::RangeWhen& rule : layout_.ranges)
         ranges_[rule.row] = rangeOf(rule.row);
+    for (const TableLayout::SoleList& list : layout_.soleLists) {
+        for (const TableLayout::Sole& sole : list.soles)
+            ranges_[sole.row] = rangeOf(sole.row);
+    }
 }
 
 Binder::Range Binder::rangeOf(int row) const
@@ -273,8 +280,16 @@ void Binder::show()
             handles->show();
         for (const TableLayout::RangeWhen& rule : layout_.ranges)
             dressRanged(rule.row);
+        for (const TableLayout::SoleList& list : layout_.soleLists)
+            dressList(list);
     }
     evaluateRules();
+}
+
+void Binder::dressList(const TableLayout::SoleList& list)
+{
+    for (const TableLayout::Sole& sole : list.soles)
+        dressRanged(sole.row);
 }
 
 void Binder::showRow(int row)
@@ -312,6 +327,11 @@ void Binder::edited(int index, const QString& value)
         for (const TableLayout::RangeWhen& rule : layout_.ranges) {
             if (std::find(changed.begin(), changed.end(), first_ + rule.when.row) != changed.end())
                 dressRanged(rule.row);
+        }
+        for (const TableLayout::SoleList& list : layout_.soleLists) {
+            if (std::any_of(changed.begin(), changed.end(),
+                            [&](int other) { return list.triggers[other - first_]; }))
+                dressList(list);
         }
         for (const int other : changed) {
             if (other != index)

@@ -110,6 +110,8 @@ private:
     Range rangeOf(int row) const;
     void dressRanged(int row);
     void showRow(int row);
+    // Settings that share a list: what one holds is not in the lists of the others.
+    void dressList(const TableLayout::SoleList& list);
 
     Configuration& configuration_;
     const SettingsTable& table_;

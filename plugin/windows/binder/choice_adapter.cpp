@@ -19,9 +19,9 @@ void ChoiceAdapter::dress()
     caption(box_);
     const QSignalBlocker blocker(box_);
     box_->clear();
-    const char* const offers = configuration().limits(index()).offers;
+    const Limits limits = configuration().limits(index());
     for (const Code& code : setting().codes) {
-        if (offersCode(setting(), code, offers))
+        if (offersCode(setting(), code, limits))
             box_->addItem(codeText(code), QString::fromLatin1(code.code));
     }
     show(configuration().value(index()));
