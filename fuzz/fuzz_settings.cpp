@@ -2,8 +2,10 @@
 // show what it holds, and what was saved is loaded and saved as it stands.
 
 #include "dialog/config_pages.h"
+#include "dialog/form_config_light.h"
 #include "dialog/widget_config_full.h"
 #include "settings/all_settings.h"
+#include "settings/quick_settings.h"
 #include "support/device.h"
 #include "support/setting_samples.h"
 
@@ -33,6 +35,27 @@ QByteArray throughTheWindow(VLK_Widget_Config_Full& window, const QByteArray& fi
     return out.text();
 }
 
+QByteArray throughTheWindow(VLK_Form_Config_Light& form, const QByteArray& file)
+{
+    form.setDefaults();
+    vlk::XmlDocument in(file, "DEVICE");
+    vlk::XmlDocument out(QString(), "DEVICE");
+    form.loadFromXml(in.root());
+    form.saveToXml(out.root());
+    require(form.settings().binder().disagreements().isEmpty());
+    return out.text();
+}
+
+template <class Window>
+void holdAgainst(Window& window, vlk::Configuration& configuration, const QByteArray& file)
+{
+    const QByteArray alone = readAndWritten(configuration, file);
+    require(throughTheWindow(window, file) == alone);
+    const QByteArray again = savedAgain(configuration, alone);
+    require(readAndWritten(configuration, again) == again);
+    require(throughTheWindow(window, alone) == again);
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
@@ -49,10 +72,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static VLK_Widget_Config_Full window;
     static vlk::Configuration configuration(vlk::allSettings());
     const QByteArray file(reinterpret_cast<const char*>(data), static_cast<int>(size));
-    const QByteArray alone = readAndWritten(configuration, file);
-    require(throughTheWindow(window, file) == alone);
-    const QByteArray again = savedAgain(configuration, alone);
-    require(readAndWritten(configuration, again) == again);
-    require(throughTheWindow(window, alone) == again);
+    holdAgainst(window, configuration, file);
+    static VLK_Form_Config_Light form;
+    static vlk::Configuration quick({&vlk::kQuickSettings});
+    holdAgainst(form, quick, file);
     return 0;
 }

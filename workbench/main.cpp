@@ -6,6 +6,7 @@
 #include "window/fuel_tour.h"
 #include "window/installed_files.h"
 #include "window/line_icon.h"
+#include "window/quick_tour.h"
 #include "window/settings.h"
 #include "window/telemetry_tour.h"
 #include "window/tour.h"
@@ -74,6 +75,7 @@ bool runTour(vlk::WorkbenchWindow& window, const QString& folder)
 {
     vlk::Tour tour(window, folder);
     tour.add(vlk::configurationTour());
+    tour.add(vlk::quickTour());
     tour.add(vlk::telemetryTour());
     tour.add(vlk::fuelTour());
     tour.add(vlk::filesTour());

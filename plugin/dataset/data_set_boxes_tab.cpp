@@ -79,14 +79,14 @@ void DataSetBoxesTab::makeBox(const DataSetBox& row, Group& group)
     if (row.field.items.empty()) {
         auto* box = new QCheckBox(group.widget);
         box->setChecked(row.field.always);
-        connect(box, &QCheckBox::toggled, this, [this, box] { takeState(box); });
+        connect(box, &QCheckBox::toggled, this, [this, box] { slot_stateChanged(box); });
         widget = box;
     } else {
         auto* list = new QComboBox(group.widget);
         for (const Code& item : row.field.items)
             list->addItem(QString(), QString::fromLatin1(item.code));
         connect(list, qOverload<int>(&QComboBox::currentIndexChanged), this,
-                [this, list] { takeState(list); });
+                [this, list] { slot_stateChanged(list); });
         widget = list;
     }
     widget->setObjectName(numberedName(row.field.widget, row.field.number, 0));
@@ -148,16 +148,16 @@ QWidget* DataSetBoxesTab::box(const char* name) const
     return findChild<QWidget*>(QString::fromLatin1(name));
 }
 
-void DataSetBoxesTab::takeState(QWidget* widget)
+void DataSetBoxesTab::slot_stateChanged(QWidget* box)
 {
-    const auto box =
-        std::find_if(boxes_.begin(), boxes_.end(), [widget](const Box& one) { return one.widget == widget; });
-    if (box == boxes_.end())
+    const auto changed =
+        std::find_if(boxes_.begin(), boxes_.end(), [box](const Box& one) { return one.widget == box; });
+    if (changed == boxes_.end())
         return;
-    const MaskField& field = box->row->field;
-    const int before = bytesOf(field, box->part.toStdString());
-    box->part = stateOf(field, widget);
-    VLK_Form_Config_Set_Zeta3::addSize(bytesOf(field, box->part.toStdString()) - before);
+    const MaskField& field = changed->row->field;
+    const int before = bytesOf(field, changed->part.toStdString());
+    changed->part = stateOf(field, box);
+    VLK_Form_Config_Set_Zeta3::addSize(bytesOf(field, changed->part.toStdString()) - before);
     Q_EMIT maskChanged();
 }
 

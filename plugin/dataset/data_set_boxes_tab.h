@@ -1,11 +1,11 @@
 #pragma once
 
-// A tab of the data-set page whose boxes come from the table (dataset/catalogue/data_set_boxes.h): it makes
+// A tab of the data-set page whose boxes come from the table (settings/data_set_boxes.h): it makes
 // them, with their object names, in their groups, and carries out every operation for them. Checking a box
 // adds the bytes of its fields to the running size of the page.
 
-#include "dataset/catalogue/data_set_boxes.h"
 #include "dataset/form_config_set_zeta3_tab.h"
+#include "settings/data_set_boxes.h"
 
 #include <vector>
 
@@ -26,18 +26,20 @@ public:
     void fillMask10(QString& mask) override { fill(MaskVersion::zeta10, mask); }
     void fillMask20(QString& mask) override { fill(MaskVersion::zeta20, mask); }
     void fillMask30(QString& mask) override { fill(MaskVersion::zeta30, mask); }
-    void loadMask10(QString mask) override { load(MaskVersion::zeta10, mask); }
-    void loadMask20(QString mask) override { load(MaskVersion::zeta20, mask); }
-    void loadMask30(QString mask) override { load(MaskVersion::zeta30, mask); }
+    void loadMask10(const QString& mask) override { load(MaskVersion::zeta10, mask); }
+    void loadMask20(const QString& mask) override { load(MaskVersion::zeta20, mask); }
+    void loadMask30(const QString& mask) override { load(MaskVersion::zeta30, mask); }
     void enableFormat10(bool on) override { enable(MaskVersion::zeta10, on); }
     void enableFormat20(bool on) override { enable(MaskVersion::zeta20, on); }
     void enableFormat30(bool on) override { enable(MaskVersion::zeta30, on); }
 
+public Q_SLOTS:
+    // Takes over the state that the user gave a box or list.
+    void slot_stateChanged(QWidget* box);
+
 protected:
     // The box or list of this object name.
     QWidget* box(const char* name) const;
-    // Takes the state over that the user gave a box.
-    void takeState(QWidget* widget);
 
 private:
     struct Box

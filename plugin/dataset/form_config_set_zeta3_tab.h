@@ -28,9 +28,9 @@ public:
     virtual void fillMask10(QString& /*mask*/) {}
     virtual void fillMask20(QString& /*mask*/) {}
     virtual void fillMask30(QString& /*mask*/) {}
-    virtual void loadMask10(QString /*mask*/) {}
-    virtual void loadMask20(QString /*mask*/) {}
-    virtual void loadMask30(QString /*mask*/) {}
+    virtual void loadMask10(const QString& /*mask*/) {}
+    virtual void loadMask20(const QString& /*mask*/) {}
+    virtual void loadMask30(const QString& /*mask*/) {}
     virtual void enableFormat10(bool /*on*/) {}
     virtual void enableFormat20(bool /*on*/) {}
     virtual void enableFormat30(bool /*on*/) {}

@@ -7,5 +7,5 @@ VLK_Form_Config_Set_Zeta3_Tab_More::VLK_Form_Config_Set_Zeta3_Tab_More(int index
 
 void VLK_Form_Config_Set_Zeta3_Tab_More::slot_currentIndexChanged_More_Tires(int /*index*/)
 {
-    takeState(box("comboBox_Tires"));
+    slot_stateChanged(box("comboBox_Tires"));
 }

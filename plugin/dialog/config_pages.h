@@ -17,6 +17,8 @@
 #include "pages/form_config_system.h"
 #include "pages/form_config_track.h"
 #include "pages/form_config_transfer.h"
+#include "peripherals/form_config_bluetooth.h"
+#include "peripherals/form_config_rs.h"
 
 #include <concepts>
 #include <tuple>
@@ -24,8 +26,9 @@
 namespace vlk {
 
 using PageTuple = std::tuple<VLK_Form_Config_Transfer*, VLK_Form_Config_Zeta3*, VLK_Form_Config_Track*,
-                             VLK_Form_Config_System*, VLK_Form_Config_Sensors_Temp*,
-                             VLK_Form_Config_Lines_In*, VLK_Form_Config_Accel*, VLK_Form_Config_Lines_Out*>;
+                             VLK_Form_Config_System*, VLK_Form_Config_RS*, VLK_Form_Config_Sensors_Temp*,
+                             VLK_Form_Config_Lines_In*, VLK_Form_Config_Accel*, VLK_Form_Config_Lines_Out*,
+                             VLK_Form_Config_Bluetooth*>;
 
 // deviceConnected(), deviceDisconnected()
 template <class Page>
@@ -39,6 +42,13 @@ template <class Page>
 concept HasUserParams = requires
 {
     &Page::loadUserParams;
+};
+
+// userParamAdded(code, name, third, size), userParamDeleted(...): the free slots of the record
+template <class Page>
+concept TakesUserParams = requires
+{
+    &Page::userParamAdded;
 };
 
 // signal_Excess_Size(bool) locks all tabs but its own

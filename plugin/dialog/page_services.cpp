@@ -124,4 +124,14 @@ void PageServices::sendSystemWaitEnd()
     requests::waitStepEnd();
 }
 
+void PageServices::addUserParam(const QString& code, const QString& name, const QString& third, int size)
+{
+    pages_->forEach([&](TakesUserParams auto& page) { page.userParamAdded(code, name, third, size); });
+}
+
+void PageServices::deleteUserParam(const QString& code, const QString& name, const QString& third, int size)
+{
+    pages_->forEach([&](TakesUserParams auto& page) { page.userParamDeleted(code, name, third, size); });
+}
+
 } // namespace vlk

@@ -42,6 +42,8 @@ public:
     void getCanLogProgram() override;
     void setCanLogProgram(int value) override;
     void sendSystemWaitEnd() override;
+    void addUserParam(const QString& code, const QString& name, const QString& third, int size) override;
+    void deleteUserParam(const QString& code, const QString& name, const QString& third, int size) override;
 
 protected:
     std::unique_ptr<ConfigPages> pages_;

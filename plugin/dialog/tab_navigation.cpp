@@ -8,8 +8,7 @@
 
 namespace vlk {
 
-TabNavigation::TabNavigation(QTabWidget* tabs, const Buttons& buttons)
-    : TabMenu(tabs), buttons_(buttons)
+TabNavigation::TabNavigation(QTabWidget* tabs, const Buttons& buttons) : TabMenu(tabs), buttons_(buttons)
 {
     buttons_.first->hide();
     buttons_.last->hide();

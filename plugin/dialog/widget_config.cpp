@@ -36,6 +36,7 @@ VLK_Widget_Config::~VLK_Widget_Config() = default;
 
 void VLK_Widget_Config::open(const vlk::OpenRequest& request, char* ussdBuffer)
 {
+    lightWindow_->setDefaults();
     fullWindow_->setDefaults();
     const QString path = QString::fromLocal8Bit(static_cast<const char*>(request.path));
     QString title = vlkDevice ? vlkDevice->model() : QString();
@@ -47,13 +48,18 @@ void VLK_Widget_Config::open(const vlk::OpenRequest& request, char* ussdBuffer)
                                        : QStringLiteral(": Device");
     }
     setWindowTitle(title);
-    ui_->stackedWidget->setCurrentWidget(request.showFull == 1 ? ui_->page_Full : ui_->page_Light);
+    const bool isFull = request.showFull == 1;
+    if (!isFull && !path.isEmpty())
+        lightWindow_->loadFile(path);
+    ui_->stackedWidget->setCurrentWidget(isFull ? ui_->page_Full : ui_->page_Light);
     // The least size counts in pixels of the screen, so that the window has room where everything is larger.
     setMinimumSize(QSize(1024, 600) / devicePixelRatioF());
     vlk::fitToScreen(this);
     show();
-    if (request.showFull == 1)
+    if (isFull)
         fullWindow_->focusFirstField();
+    else
+        lightWindow_->focusFirstField();
 }
 
 void VLK_Widget_Config::deviceConnected()
@@ -79,13 +85,21 @@ void VLK_Widget_Config::writeQuickToDevice()
 
 bool VLK_Widget_Config::saveQuickToFile(const QString& path)
 {
-    return fullWindow_->saveFile(path);
+    vlk::XmlDocument document(QString(), QStringLiteral("DEVICE"));
+    saveToXml(document.root());
+    return document.saveAs(path);
+}
+
+void VLK_Widget_Config::saveToXml(CXmlSection* root)
+{
+    fullWindow_->saveToXml(root);
+    lightWindow_->saveToXml(root);
 }
 
 void VLK_Widget_Config::switchToFull()
 {
     vlk::XmlDocument state(QString(), QStringLiteral("DEVICE"));
-    fullWindow_->saveToXml(state.root());
+    saveToXml(state.root());
     state.root()->commit();
     char unusedUssd[vlk::balanceUssdSize] = {};
     fullWindow_->loadFromXml(state.root(), unusedUssd);
@@ -94,6 +108,10 @@ void VLK_Widget_Config::switchToFull()
 
 void VLK_Widget_Config::switchToQuick()
 {
+    vlk::XmlDocument state(QString(), QStringLiteral("DEVICE"));
+    fullWindow_->saveToXml(state.root());
+    state.root()->commit();
+    lightWindow_->loadFromXml(state.root());
     ui_->stackedWidget->setCurrentWidget(ui_->page_Light);
 }
 

@@ -30,13 +30,15 @@ public:
     ~VLK_Widget_Config() override;
 
     using QDialog::open;
-    // Resets both windows, loads the request's file into them and shows the window asked for. The balance
+    // Resets both windows, loads the request's file into the full one, and into the quick one where that is
+    // shown, and shows the window asked for. The balance
     // request code of the file goes to `ussdBuffer`, vlk::balanceUssdSize bytes.
     void open(const vlk::OpenRequest& request, char* ussdBuffer);
     void deviceConnected();
     void deviceDisconnected();
     void writeQuickToDevice();
-    // False when that failed, which the log says (base/save_log.h).
+    // What the full window holds, and over it what the quick window does. False when that failed, which the
+    // log says (base/save_log.h).
     bool saveQuickToFile(const QString& path);
     void switchToFull();
     void switchToQuick();
@@ -45,6 +47,8 @@ public:
     VLK_Widget_Config_Full* fullWindow() const { return fullWindow_; }
 
 private:
+    void saveToXml(CXmlSection* root);
+
     std::unique_ptr<Ui::VLK_Designer_Widget_Config> ui_;
     VLK_Widget_Config_Light* lightWindow_;
     VLK_Widget_Config_Full* fullWindow_;

@@ -3,6 +3,13 @@
 #include "ui_VLK_Designer_Widget_Config_Light.h"
 
 #include "dialog/file_names.h"
+#include "dialog/form_config_light.h"
+#include "link/requests.h"
+#include "windows/input_guard.h"
+#include "xml/xml_document.h"
+
+#include <QScrollArea>
+#include <QShortcut>
 
 VLK_Widget_Config_Light::VLK_Widget_Config_Light(QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::VLK_Designer_Widget_Config_Light>())
@@ -19,6 +26,8 @@ VLK_Widget_Config_Light::VLK_Widget_Config_Light(QWidget* parent)
         button->setAutoDefault(false);
         connect(button, &QPushButton::clicked, this, slot);
     }
+    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
+            [] { vlk::requests::showHelp(QStringLiteral("r-7106quick.html")); });
 }
 
 VLK_Widget_Config_Light::~VLK_Widget_Config_Light() = default;
@@ -29,6 +38,63 @@ void VLK_Widget_Config_Light::retranslate()
     ui_->pushButton_Light_LoadToDevice->setText(tr("wrd_055"));
     ui_->pushButton_Light_ConfigFull->setText(tr("cfgwnd_002"));
     ui_->pushButton_Light_Close->setText(tr("wrd_054"));
+    if (form_)
+        form_->retranslate();
+}
+
+VLK_Form_Config_Light& VLK_Widget_Config_Light::form()
+{
+    if (!form_) {
+        form_ = new VLK_Form_Config_Light;
+        vlk::guardInputs(form_);
+        auto* area = new QScrollArea;
+        area->setWidgetResizable(true);
+        area->setFrameShape(QFrame::NoFrame);
+        area->setWidget(form_);
+        ui_->gridLayout_Form->addWidget(area);
+        // Behind the form the buttons, as read.
+        QWidget* before = form_->lastField();
+        for (QWidget* button : {ui_->pushButton_Light_LoadToDevice, ui_->pushButton_Light_SaveToFile,
+                                ui_->pushButton_Light_ConfigFull, ui_->pushButton_Light_Close}) {
+            setTabOrder(before, button);
+            before = button;
+        }
+    }
+    return *form_;
+}
+
+void VLK_Widget_Config_Light::showEvent(QShowEvent* event)
+{
+    form();
+    QWidget::showEvent(event);
+}
+
+// A form that is not there yet starts with its defaults.
+void VLK_Widget_Config_Light::setDefaults()
+{
+    if (form_)
+        form_->setDefaults();
+}
+
+void VLK_Widget_Config_Light::loadFile(const QString& path)
+{
+    vlk::XmlDocument document(path, QStringLiteral("DEVICE"));
+    form().loadFromXml(document.root());
+}
+
+void VLK_Widget_Config_Light::loadFromXml(CXmlSection* root)
+{
+    form().loadFromXml(root);
+}
+
+void VLK_Widget_Config_Light::saveToXml(CXmlSection* root)
+{
+    form().saveToXml(root);
+}
+
+void VLK_Widget_Config_Light::focusFirstField()
+{
+    form().focusFirstField();
 }
 
 void VLK_Widget_Config_Light::deviceConnected()

@@ -1,13 +1,14 @@
 #pragma once
 
-// The quick setup window: the frame with its four buttons. Its signals ask the dialog to act: there the full
-// window's pages are saved first and this window's values over them.
+// The quick setup window: the form in a frame with four buttons. Its signals ask the dialog to act: there the
+// full window's pages are saved first and this window's values over them.
 
 #include <QWidget>
 
 #include <memory>
 
 struct CXmlSection;
+class VLK_Form_Config_Light;
 
 namespace Ui {
 class VLK_Designer_Widget_Config_Light;
@@ -22,8 +23,16 @@ public:
     ~VLK_Widget_Config_Light() override;
 
     void retranslate();
+    void setDefaults();
+    void loadFile(const QString& path);
+    void loadFromXml(CXmlSection* root);
+    void saveToXml(CXmlSection* root);
     void deviceConnected();
     void deviceDisconnected();
+    // Where the user begins.
+    void focusFirstField();
+    // Made when it is first needed: opening the full window does not wait for it.
+    VLK_Form_Config_Light& form();
 
 Q_SIGNALS:
     void closeRequested();
@@ -31,6 +40,9 @@ Q_SIGNALS:
     void saveRequested(const QString& path);
     // The user wants the full window instead.
     void fullRequested();
+
+protected:
+    void showEvent(QShowEvent* event) override;
 
 private Q_SLOTS:
     void slot_pressed_Btn_Light_SaveToFile();
@@ -40,5 +52,6 @@ private Q_SLOTS:
 
 private:
     std::unique_ptr<Ui::VLK_Designer_Widget_Config_Light> ui_;
+    VLK_Form_Config_Light* form_ = nullptr;
     bool connected_ = false;
 };

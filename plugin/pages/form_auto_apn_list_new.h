@@ -2,7 +2,7 @@
 
 // The dialog with the table by which the tracker picks the access point of a SIM by itself: ten rows of
 // operator code, access point name, login and password, all free text. Its values are settings of the window
-// that owns it (settings/apn_rows.h).
+// that owns it (settings/shared_rows.h).
 
 #include <QDialog>
 

@@ -8,7 +8,6 @@
 #include "windows/aligned_columns.h"
 #include "windows/server_test.h"
 
-#include <QMessageBox>
 #include <QRandomGenerator>
 #include <QSignalBlocker>
 
@@ -130,10 +129,7 @@ void VLK_Form_Config_Transfer::slot_testConnected(const QString& /*peerIp*/, con
 {
     if (ok)
         serverUnderTest_ = 0;
-    QMessageBox box(QMessageBox::Warning, tr(ok ? "wrd_005" : "wrd_004"), tr(ok ? "cfgt1_109" : "cfgt1_108"),
-                    QMessageBox::NoButton, this);
-    box.addButton(tr("wrd_003"), QMessageBox::AcceptRole);
-    box.exec();
+    vlk::showServerAnswer(this, ok, tr(ok ? "cfgt1_109" : "cfgt1_108"));
     // The address that failed is what the user looks at next.
     QLineEdit* const addresses[] = {ui_->GPRSSrv_lineEdit_IP_DNS_Main, ui_->GPRSSrv_lineEdit_IP_DNS_Reserv_1,
                                     ui_->GPRSSrv_lineEdit_IP_DNS_Reserv_2};

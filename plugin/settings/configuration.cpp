@@ -71,14 +71,41 @@ bool Configuration::isWritten(int index) const
            (row.group < 0 || holds(part, part.layout->groups[row.group].present));
 }
 
-QString Configuration::written(int index) const
+bool Configuration::isWritten(const Part& part, const TableLayout::Group& group) const
+{
+    if (!group.unlessEmpty)
+        return true;
+    for (int row = group.firstRow; row < group.endRow; ++row) {
+        const TableLayout::Row& place = part.layout->rows[row];
+        if (place.setting->stored && holds(part, place.present))
+            return true;
+    }
+    return false;
+}
+
+QString Configuration::written(int index, const QString& value) const
 {
     const Part& part = partOf(index);
     const TableLayout::Row& row = part.layout->rows[index - part.first];
     if (!holds(part, row.free))
         return QString::fromLatin1(row.setting->otherwise);
-    const QString& value = this->value(index);
-    return row.setting->blankIsZero && value.isEmpty() ? QStringLiteral("0") : value;
+    QString text = row.setting->blankIsZero && value.isEmpty() ? QStringLiteral("0") : value;
+    for (const TableLayout::MaskPositions& rule : part.layout->masks) {
+        if (part.first + rule.row != index || !holds(part, rule.when))
+            continue;
+        for (const int position : rule.rule->positions) {
+            if (position < text.size())
+                text[position] = QLatin1Char(rule.rule->to);
+        }
+    }
+    return text;
+}
+
+bool Configuration::isOneOf(const QString& value, const TableLayout::Condition& condition)
+{
+    const bool is = condition.codes.isEmpty() ? !value.isEmpty() && value != QLatin1String("0")
+                                              : condition.codes.contains(value);
+    return is != condition.negated;
 }
 
 bool Configuration::holds(const Part& part, const TableLayout::Condition& condition) const
@@ -86,23 +113,43 @@ bool Configuration::holds(const Part& part, const TableLayout::Condition& condit
     if (condition.row < 0)
         return true;
     const QString& value = this->value(part.first + condition.row);
-    const bool is = condition.codes.isEmpty() ? !value.isEmpty() && value != QLatin1String("0")
-                                              : condition.codes.contains(value);
-    return is != condition.negated;
+    if (condition.other >= 0)
+        return (value == this->value(part.first + condition.other)) != condition.negated;
+    return isOneOf(value, condition);
+}
+
+bool Configuration::holds(const Part& part, const std::vector<TableLayout::Condition>& all) const
+{
+    return std::all_of(all.begin(), all.end(),
+                       [&](const TableLayout::Condition& condition) { return holds(part, condition); });
 }
 
 bool Configuration::holds(const SettingsTable& table, const TableLayout::Enable& rule) const
 {
     const Part& part = partOf(table);
     const auto one = [&](const TableLayout::Condition& condition) { return holds(part, condition); };
-    return rule.any ? std::any_of(rule.when.begin(), rule.when.end(), one)
-                    : std::all_of(rule.when.begin(), rule.when.end(), one);
+    return rule.any ? std::any_of(rule.when.begin(), rule.when.end(), one) : holds(part, rule.when);
 }
 
 Limits Configuration::limits(int index) const
 {
     const Part& part = partOf(index);
     const int row = part.layout->rows[index - part.first].target;
+    Limits limits = ownLimits(part, row);
+    for (const TableLayout::SoleList& list : part.layout->soleLists) {
+        if (!list.triggers[row])
+            continue;
+        for (const TableLayout::Sole& sole : list.soles) {
+            if (sole.row == row)
+                limits.taken = takenFrom(part, list, sole);
+        }
+    }
+    return limits;
+}
+
+// Whatever other settings of a shared list hold.
+Limits Configuration::ownLimits(const Part& part, int row) const
+{
     const Setting& setting = *part.layout->rows[row].setting;
     Limits limits{setting.least, setting.most};
     for (const TableLayout::RangeWhen& rule : part.layout->ranges) {
@@ -142,21 +189,47 @@ void Configuration::reset(const SettingsTable& table)
     resetPart(partOf(table));
 }
 
+void Configuration::resetRow(const Part& part, int row)
+{
+    const Setting& setting = *part.layout->rows[row].setting;
+    if (setting.resets == Setting::Reset::keeps || setting.kind == Kind::link)
+        return;
+    const int index = part.first + row;
+    const QString reset = resetValue(setting);
+    values_[index] = setting.none && reset == QLatin1String(setting.none)
+                         ? reset
+                         : normalise(setting, reset, values_[index], ownLimits(part, row)).value;
+}
+
 void Configuration::resetPart(const Part& part)
 {
     const int rows = static_cast<int>(part.layout->rows.size());
-    for (int row = 0; row < rows; ++row) {
-        const Setting& setting = *part.layout->rows[row].setting;
-        if (setting.resets == Setting::Reset::keeps || setting.kind == Kind::link)
-            continue;
-        const int index = part.first + row;
-        values_[index] = normalise(setting, resetValue(setting), values_[index], limits(index)).value;
-    }
+    for (int row = 0; row < rows; ++row)
+        resetRow(part, row);
+    for (const TableLayout::SoleList& list : part.layout->soleLists)
+        keepSoles(part, list, nullptr);
     for (const TableLayout::Distance& rule : part.layout->distances) {
         if (rule.gapFrom >= 0)
             keepDistances(part, rule.gapFrom, nullptr);
     }
     keepBounds(part, nullptr);
+}
+
+void Configuration::resetUnder(const SettingsTable& table, const QString& owner, const QString& code)
+{
+    const Part& part = partOf(table);
+    const int ownerRow = indexOf(owner) - part.first;
+    for (const TableLayout::Group& group : part.layout->groups) {
+        const bool isOf = std::any_of(group.present.begin(), group.present.end(), [&](const auto& condition) {
+            return condition.row == ownerRow && isOneOf(code, condition);
+        });
+        if (!isOf)
+            continue;
+        for (int row = group.firstRow; row < group.endRow; ++row)
+            resetRow(part, row);
+    }
+    for (const TableLayout::SoleList& list : part.layout->soleLists)
+        keepSoles(part, list, nullptr);
 }
 
 std::vector<Difference> Configuration::differences(const Configuration& other) const

@@ -63,7 +63,7 @@ public:
     QString value(const QString& path) const { return value(indexOf(path)); }
     // Whether a file of this state has the key, and what it holds there.
     bool isWritten(int index) const;
-    QString written(int index) const;
+    QString written(int index) const { return written(index, value(index)); }
     // Range in units of the widget, and unit, as the rules have them now.
     Limits limits(int index) const;
     const char* unitKey(int index) const;
@@ -76,6 +76,15 @@ public:
     void read(const CXmlSection& root, const SettingsTable& table, std::vector<ReadNote>* notes = nullptr);
     void write(CXmlSection& root) const;
     void write(CXmlSection& root, const SettingsTable& table) const;
+
+    // Read, reset and write for no more than the elements that stand in a file while the value at `owner` is
+    // `code`, as though it were: an element that no list of this tracker offers a way to. `section` is that
+    // of the table.
+    void readUnder(const CXmlSection& section, const SettingsTable& table, const QString& owner,
+                   const QString& code);
+    void resetUnder(const SettingsTable& table, const QString& owner, const QString& code);
+    void writeUnder(CXmlSection& section, const SettingsTable& table, const QString& owner,
+                    const QString& code) const;
 
     // Takes an edit and runs the rules. Gives the rows whose values changed, this one first where it did.
     std::vector<int> edit(int index, const QString& text);
@@ -100,20 +109,36 @@ private:
 
     const Part& partOf(int index) const;
     const Part& partOf(const SettingsTable& table) const;
+    static bool isOneOf(const QString& value, const TableLayout::Condition& condition);
     bool holds(const Part& part, const TableLayout::Condition& condition) const;
+    bool isWritten(const Part& part, const TableLayout::Group& group) const;
+    Limits ownLimits(const Part& part, int row) const;
+    bool counts(const Part& part, const TableLayout::Sole& sole) const;
+    QStringList takenFrom(const Part& part, const TableLayout::SoleList& list,
+                          const TableLayout::Sole& sole) const;
+    bool holds(const Part& part, const std::vector<TableLayout::Condition>& all) const;
+    QString written(int index, const QString& value) const;
     double gapOf(const Part& part, const TableLayout::Distance& rule) const;
     void resetPart(const Part& part);
+    void resetRow(const Part& part, int row);
     void readPart(const Part& part, const CXmlSection& root, std::vector<ReadNote>* notes);
-    void readRow(const Part& part, int row, const CXmlSection& element, std::vector<ReadNote>* notes);
+    void readGroups(const Part& part, const CXmlSection& section, int owner, std::vector<ReadNote>* notes);
+    void writeGroups(const Part& part, CXmlSection& section, int owner) const;
+    // `isThere`: the file has the element.
+    void readRow(const Part& part, int row, const CXmlSection& element, bool isThere,
+                 std::vector<ReadNote>* notes);
     void writePart(const Part& part, CXmlSection& root) const;
 
     void put(int index, const QString& value, std::vector<int>* changed);
     void assign(const Part& part, int row, const QString& value, std::vector<int>* changed);
     void keepDistances(const Part& part, int row, std::vector<int>* changed);
+    void startOver(const Part& part, int row, std::vector<int>* changed);
+    void keepSoles(const Part& part, const TableLayout::SoleList& list, std::vector<int>* changed);
     void keepBounds(const Part& part, std::vector<int>* changed);
     void change(const Part& part, int row, const QString& text, std::vector<int>* changed);
-    void pull(const Part& part, int row, bool onRead, std::vector<int>* changed);
+    void pull(const Part& part, int row, bool onRead, const QString& before, std::vector<int>* changed);
     void derive(const Part& part);
+    void settle(const Part& part, const TableLayout::Presets& presets);
 
     std::vector<Part> parts_;
     std::vector<int> partOfIndex_;

@@ -4,6 +4,7 @@
 
 #include "xml/xml_section.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vlk {
@@ -21,12 +22,31 @@ void Configuration::read(const CXmlSection& root, const SettingsTable& table, st
 
 namespace {
 
-CXmlSectionPtr elementOf(const CXmlSection& section, const QStringList& path)
+struct Element
 {
-    CXmlSectionPtr element = section.child(path.first());
-    for (int i = 1; i < path.size() && element; ++i)
-        element = element->child(path[i]);
+    CXmlSectionPtr section;
+    bool isThere = true; // in the file
+};
+
+Element elementOf(const CXmlSection& section, const QStringList& path)
+{
+    Element element;
+    for (const QString& name : path) {
+        const CXmlSection& parent = element.section ? *element.section : section;
+        element.isThere = element.isThere && parent.find(name);
+        element.section = parent.child(name);
+    }
     return element;
+}
+
+// The section of a table; over several sections the document itself, as `root` stands for it.
+template <class Root>
+Root* sectionOf(Root& root, const QString& name, CXmlSectionPtr& owner)
+{
+    if (!name.isEmpty())
+        owner = root.child(name);
+    Root* section = name.isEmpty() ? &root : owner.get();
+    return section && section->document() ? section : nullptr;
 }
 
 // What stands in `element` and is none of the known names, or twice.
@@ -53,8 +73,10 @@ void noteStrangers(const CXmlSection& element, const QString& path, const QStrin
 void noteStrangersIn(const CXmlSection& section, const TableLayout& layout, std::vector<ReadNote>* notes)
 {
     QStringList elements;
-    for (const TableLayout::Group& group : layout.groups)
-        elements << group.path.first();
+    for (const TableLayout::Group& group : layout.groups) {
+        if (group.stored)
+            elements << group.path.first();
+    }
     noteStrangers(section, layout.section, {QStringLiteral("page")}, elements, notes);
 }
 
@@ -69,8 +91,14 @@ void noteStrangersIn(const CXmlSection& element, const TableLayout& layout, cons
         if (other.path.size() == group.path.size() + 1 && other.path.mid(0, group.path.size()) == group.path)
             inside << other.path.last();
     }
-    noteStrangers(element, layout.section + QLatin1Char('/') + group.path.join(QLatin1Char('/')), keys,
-                  inside, notes);
+    noteStrangers(element, layout.prefix() + group.path.join(QLatin1Char('/')), keys, inside, notes);
+}
+
+// Whether the group is there for the sake of the row `owner`; -1: of whatever.
+bool isOf(const TableLayout::Group& group, int owner)
+{
+    return owner < 0 || std::any_of(group.present.begin(), group.present.end(),
+                                    [&](const auto& condition) { return condition.row == owner; });
 }
 
 } // namespace
@@ -78,37 +106,49 @@ void noteStrangersIn(const CXmlSection& element, const TableLayout& layout, cons
 void Configuration::readPart(const Part& part, const CXmlSection& root, std::vector<ReadNote>* notes)
 {
     const TableLayout& layout = *part.layout;
-    const CXmlSectionPtr section = root.child(layout.section);
+    CXmlSectionPtr owner;
+    const CXmlSection* section = sectionOf(root, layout.section, owner);
     if (!section)
         return;
-    if (notes)
+    // What a save would keep belongs to somebody else.
+    if (notes && layout.table->emptied)
         noteStrangersIn(*section, layout, notes);
 
-    // What lives in the window alone is not in the file: it starts anew, and links and rules fill it.
+    // What lives in the window alone is not in the file: beside values that are, it starts anew, and links
+    // and rules fill it; a group of its own is left as it stands.
     for (std::size_t row = 0; row < layout.rows.size(); ++row) {
-        const Setting& setting = *layout.rows[row].setting;
+        const TableLayout::Row& place = layout.rows[row];
+        const Setting& setting = *place.setting;
         const int index = part.first + static_cast<int>(row);
-        if (!setting.stored)
+        if (!setting.stored && !setting.stays && (place.group < 0 || layout.groups[place.group].stored))
             values_[index] = normalise(setting, loadDefault(setting), values_[index], limits(index)).value;
     }
+    readGroups(part, *section, -1, notes);
+}
+
+// Of all groups, or of those that are there for the sake of the row `owner`.
+void Configuration::readGroups(const Part& part, const CXmlSection& section, int owner,
+                               std::vector<ReadNote>* notes)
+{
+    const TableLayout& layout = *part.layout;
     std::vector<ReadNote> taken;
     std::vector<ReadNote>* const takes = notes ? &taken : nullptr;
-    std::vector<std::pair<int, CXmlSectionPtr>> late;
+    std::vector<std::pair<int, Element>> late;
     for (const TableLayout::Group& group : layout.groups) {
-        if (!holds(part, group.present))
+        if (!group.stored || !isOf(group, owner) || !holds(part, group.readable))
             continue;
-        const CXmlSectionPtr element = elementOf(*section, group.path);
+        const Element element = elementOf(section, group.path);
         for (int row = group.firstRow; row < group.endRow; ++row) {
             if (layout.rows[row].setting->last)
-                late.emplace_back(row, elementOf(*section, group.path));
+                late.emplace_back(row, elementOf(section, group.path));
             else
-                readRow(part, row, *element, takes);
+                readRow(part, row, *element.section, element.isThere, takes);
         }
-        if (notes)
-            noteStrangersIn(*element, layout, group, notes);
+        if (notes && !group.kept)
+            noteStrangersIn(*element.section, layout, group, notes);
     }
     for (const auto& [row, element] : late)
-        readRow(part, row, *element, takes);
+        readRow(part, row, *element.section, element.isThere, takes);
     derive(part);
     keepBounds(part, nullptr);
     // A value may have found no room beside another, or what came later has moved it.
@@ -122,7 +162,7 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
     }
 }
 
-void Configuration::readRow(const Part& part, int row, const CXmlSection& element,
+void Configuration::readRow(const Part& part, int row, const CXmlSection& element, bool isThere,
                             std::vector<ReadNote>* notes)
 {
     const TableLayout::Row& place = part.layout->rows[row];
@@ -130,7 +170,12 @@ void Configuration::readRow(const Part& part, int row, const CXmlSection& elemen
     if (!setting.stored || setting.kind == Kind::constant || !holds(part, place.present))
         return;
     const QString* found = element.find(place.key);
-    const QString missing = found ? QString() : loadDefault(setting);
+    if (!found && setting.stays)
+        return;
+    const bool isAbsent = !isThere && setting.unlessThere >= 0;
+    const QString missing = found      ? QString()
+                            : isAbsent ? QString::number(setting.unlessThere)
+                                       : loadDefault(setting);
     const QString& text = found ? *found : missing;
 
     // A link gives its value to another row, which says what the value can be.
@@ -141,11 +186,31 @@ void Configuration::readRow(const Part& part, int row, const CXmlSection& elemen
         const QString bound = QString::fromLatin1(setting.otherwise);
         taken = {bound, bound == text ? Change::none : Change::byRule};
     }
+    const QString before = values_[index];
     assign(part, place.target, taken.value, nullptr);
     if (notes)
-        notes->push_back({ReadNote::What::value, place.path, part.first + row, found ? text : QString(),
+        notes->push_back({ReadNote::What::value, place.filePath, part.first + row, found ? text : QString(),
                           taken.value, found ? taken.change : Change::missing});
-    pull(part, place.target, true, nullptr);
+    pull(part, place.target, true, before, nullptr);
+}
+
+void Configuration::readUnder(const CXmlSection& section, const SettingsTable& table, const QString& owner,
+                              const QString& code)
+{
+    const Part& part = partOf(table);
+    const int index = indexOf(owner);
+    const QString present = std::exchange(values_[index], code);
+    readGroups(part, section, index - part.first, nullptr);
+    values_[index] = present;
+}
+
+void Configuration::writeUnder(CXmlSection& section, const SettingsTable& table, const QString& owner,
+                               const QString& code) const
+{
+    const Part& part = partOf(table);
+    Configuration assumed = *this;
+    assumed.values_[indexOf(owner)] = code;
+    assumed.writeGroups(part, section, indexOf(owner) - part.first);
 }
 
 void Configuration::write(CXmlSection& root) const
@@ -162,27 +227,38 @@ void Configuration::write(CXmlSection& root, const SettingsTable& table) const
 void Configuration::writePart(const Part& part, CXmlSection& root) const
 {
     const TableLayout& layout = *part.layout;
-    const CXmlSectionPtr section = root.child(layout.section);
+    CXmlSectionPtr owner;
+    CXmlSection* section = sectionOf(root, layout.section, owner);
     if (!section)
         return;
     if (layout.table->emptied)
         section->clear();
-    section->setString(QStringLiteral("page"), layout.section);
-    section->commit();
+    if (owner) {
+        section->setString(QStringLiteral("page"), layout.section);
+        section->commit();
+    }
+    writeGroups(part, *section, -1);
+}
+
+void Configuration::writeGroups(const Part& part, CXmlSection& section, int owner) const
+{
+    const TableLayout& layout = *part.layout;
     for (const TableLayout::Group& group : layout.groups) {
-        if (!holds(part, group.present))
+        if (!group.stored || !isOf(group, owner) || !holds(part, group.present) || !isWritten(part, group))
             continue;
         CXmlSectionPtr parent;
         for (int depth = 0; depth + 1 < group.path.size(); ++depth)
-            parent = (parent ? *parent : *section).child(group.path[depth]);
+            parent = (parent ? *parent : section).child(group.path[depth]);
         const CXmlSectionPtr element =
-            (parent ? *parent : *section).child(group.path.last(), group.kept || group.nested ? 0 : 3);
+            (parent ? *parent : section).child(group.path.last(), group.kept || group.nested ? 0 : 3);
         if (!group.kept)
             element->clear();
         for (int row = group.firstRow; row < group.endRow; ++row) {
             const int index = part.first + row;
-            if (isWritten(index))
-                element->setString(layout.rows[row].key, written(index));
+            const TableLayout::Row& place = layout.rows[row];
+            const QString* before = place.setting->carried ? element->find(place.key) : nullptr;
+            if (place.setting->stored && holds(part, place.present))
+                element->setString(place.key, written(index, before ? *before : value(index)));
         }
         element->commit();
     }

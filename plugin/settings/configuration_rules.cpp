@@ -6,6 +6,18 @@
 
 namespace vlk {
 
+namespace {
+
+// The first row of this code, null where there is none.
+const PresetRow* rowOf(const TableLayout::Presets& presets, const QString& code)
+{
+    const auto found = std::find_if(presets.rule->rows.begin(), presets.rule->rows.end(),
+                                    [&](const PresetRow& row) { return code == QLatin1String(row.code); });
+    return found == presets.rule->rows.end() ? nullptr : &*found;
+}
+
+} // namespace
+
 std::vector<int> Configuration::edit(int index, const QString& text)
 {
     std::vector<int> changed;
@@ -22,38 +34,44 @@ void Configuration::change(const Part& part, int row, const QString& text, std::
     // A list without a current item is nothing that a file could ask for.
     const bool noItem = setting.none && text == QLatin1String(setting.none);
     const QString value = noItem ? text : normalise(setting, text, values_[index], limits(index)).value;
-    if (value == values_[index] || std::find(editing_.begin(), editing_.end(), index) != editing_.end())
+    const auto& ready = part.layout->presets;
+    const bool triggers =
+        std::any_of(ready.begin(), ready.end(), [row](const auto& rule) { return rule.trigger == row; });
+    if ((value == values_[index] && !triggers) ||
+        std::find(editing_.begin(), editing_.end(), index) != editing_.end())
         return;
     editing_.push_back(index);
+    const QString before = values_[index];
     assign(part, row, value, changed);
     // Another range may hold now.
     for (const TableLayout::RangeWhen& rule : part.layout->ranges) {
-        if (rule.when.row != row)
+        if (rule.when.row != row || rule.rule->startsOver)
             continue;
         const int ranged = part.first + rule.row;
         const Setting& limited = *part.layout->rows[rule.row].setting;
         put(ranged, normalise(limited, values_[ranged], values_[ranged], limits(ranged)).value, changed);
     }
-    pull(part, row, false, changed);
-    for (const TableLayout::Presets& presets : part.layout->presets) {
-        if (presets.trigger != row)
-            continue;
-        for (const PresetRow& ready : presets.rule->rows) {
-            for (std::size_t field = 0; value == QLatin1String(ready.code) && field < presets.fields.size();
-                 ++field) {
-                if (ready.values[field])
-                    change(part, presets.fields[field], QString::fromUtf8(ready.values[field]), changed);
-            }
+    pull(part, row, false, before, changed);
+    for (const TableLayout::Presets& presets : ready) {
+        const PresetRow* chosen = presets.trigger == row ? rowOf(presets, value) : nullptr;
+        for (std::size_t field = 0; chosen && field < presets.fields.size(); ++field) {
+            if (chosen->values[field])
+                change(part, presets.fields[field], QString::fromUtf8(chosen->values[field]), changed);
         }
     }
     editing_.pop_back();
 }
 
-void Configuration::pull(const Part& part, int row, bool onRead, std::vector<int>* changed)
+void Configuration::pull(const Part& part, int row, bool onRead, const QString& before,
+                         std::vector<int>* changed)
 {
     std::vector<int> local;
+    const auto heldBefore = [&](const TableLayout::Pull& rule) {
+        return rule.onset && isOneOf(before, rule.when);
+    };
     for (const TableLayout::Pull& rule : part.layout->pulls) {
-        if (rule.when.row == row && (rule.onRead || !onRead) && holds(part, rule.when))
+        if (rule.when.row == row && (rule.onRead || !onRead) && holds(part, rule.when) &&
+            holds(part, rule.also) && !heldBefore(rule))
             change(part, rule.set, rule.to, changed ? changed : &local);
     }
 }
@@ -67,11 +85,64 @@ void Configuration::put(int index, const QString& value, std::vector<int>* chang
         changed->push_back(index);
 }
 
-// Sets a value, and moves what has to keep its distance from it.
+// Sets a value, and moves what has to keep its distance from it or cannot have the same one.
 void Configuration::assign(const Part& part, int row, const QString& value, std::vector<int>* changed)
 {
+    const bool isNew = values_[part.first + row] != value;
     put(part.first + row, value, changed);
     keepDistances(part, row, changed);
+    if (!isNew)
+        return;
+    startOver(part, row, changed);
+    for (const TableLayout::SoleList& list : part.layout->soleLists) {
+        if (list.triggers[row])
+            keepSoles(part, list, changed);
+    }
+}
+
+// Lists that follow the value of the row.
+void Configuration::startOver(const Part& part, int row, std::vector<int>* changed)
+{
+    for (const TableLayout::RangeWhen& rule : part.layout->ranges) {
+        if (rule.rule->startsOver && rule.when.row == row) {
+            const int index = part.first + rule.row;
+            put(index, firstOffered(setting(index), limits(index)), changed);
+        }
+    }
+}
+
+bool Configuration::counts(const Part& part, const TableLayout::Sole& sole) const
+{
+    return holds(part, sole.when) && holds(part, sole.also);
+}
+
+QStringList Configuration::takenFrom(const Part& part, const TableLayout::SoleList& list,
+                                     const TableLayout::Sole& sole) const
+{
+    QStringList taken;
+    for (const TableLayout::Sole& other : list.soles) {
+        const bool apart =
+            other.holder == sole.holder ||
+            (sole.split >= 0 && values_[part.first + other.split] != values_[part.first + sole.split]);
+        if (!apart && counts(part, other))
+            taken << values_[part.first + other.row];
+    }
+    return taken;
+}
+
+void Configuration::keepSoles(const Part& part, const TableLayout::SoleList& list, std::vector<int>* changed)
+{
+    for (const TableLayout::Sole& sole : list.soles) {
+        const int index = part.first + sole.row;
+        const QString value = values_[index];
+        const bool holdsNothing = setting(index).none && value == QLatin1String(setting(index).none);
+        if (counts(part, sole)) {
+            if (holdsNothing)
+                put(index, firstOffered(setting(index), limits(index)), changed);
+        } else if (!holdsNothing && takenFrom(part, list, sole).contains(value)) {
+            put(index, nextOffered(setting(index), value, limits(index)), changed);
+        }
+    }
 }
 
 void Configuration::keepDistances(const Part& part, int row, std::vector<int>* changed)
@@ -134,23 +205,41 @@ double Configuration::gapOf(const Part& part, const TableLayout::Distance& rule)
 // Settings that the file has no key for, from those that it has.
 void Configuration::derive(const Part& part)
 {
-    for (const TableLayout::Derived& rule : part.layout->derived)
-        values_[part.first + rule.row] =
-            values_[part.first + rule.from] == rule.off ? QStringLiteral("0") : QStringLiteral("1");
+    for (const TableLayout::Derived& rule : part.layout->derived) {
+        const bool on = std::any_of(rule.any.begin(), rule.any.end(),
+                                    [&](const auto& condition) { return holds(part, condition); });
+        values_[part.first + rule.row] = QLatin1String(on ? "1" : "0");
+    }
     for (const TableLayout::Presets& presets : part.layout->presets) {
-        if (!presets.rule->other)
-            continue;
-        const auto agrees = [&](const PresetRow& row) {
-            for (std::size_t field = 0; field < presets.fields.size(); ++field) {
-                const char* value = row.values[field];
-                if (value && values_[part.first + presets.fields[field]] != QLatin1String(value))
-                    return false;
-            }
-            return true;
-        };
-        const auto found = std::find_if(presets.rule->rows.begin(), presets.rule->rows.end(), agrees);
-        values_[part.first + presets.trigger] =
-            QString::fromLatin1(found == presets.rule->rows.end() ? presets.rule->other : found->code);
+        if (presets.rule->other || presets.rule->settles)
+            settle(part, presets);
+    }
+}
+
+void Configuration::settle(const Part& part, const TableLayout::Presets& presets)
+{
+    const int trigger = part.first + presets.trigger;
+    const auto agrees = [&](const PresetRow& row) {
+        for (std::size_t field = 0; field < presets.fields.size(); ++field) {
+            const char* value = row.values[field];
+            if (value && values_[part.first + presets.fields[field]] != QLatin1String(value))
+                return false;
+        }
+        const auto& codes = setting(trigger).codes;
+        return std::any_of(codes.begin(), codes.end(), [&](const Code& code) {
+            return tables::same(code.code, row.code) &&
+                   offersCode(setting(trigger), code, limits(trigger).offers);
+        });
+    };
+    const auto found = std::find_if(presets.rule->rows.begin(), presets.rule->rows.end(), agrees);
+    if (found != presets.rule->rows.end())
+        values_[trigger] = QString::fromLatin1(found->code);
+    else if (presets.rule->other)
+        values_[trigger] = QString::fromLatin1(presets.rule->other);
+    const PresetRow* held = presets.rule->settles ? rowOf(presets, values_[trigger]) : nullptr;
+    for (std::size_t field = 0; held && field < presets.fields.size(); ++field) {
+        if (held->values[field])
+            values_[part.first + presets.fields[field]] = QString::fromUtf8(held->values[field]);
     }
 }
 

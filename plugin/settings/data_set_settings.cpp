@@ -1,7 +1,7 @@
 #include "settings/data_set_settings.h"
 
-#include "dataset/catalogue/data_set_boxes.h"
 #include "dataset/catalogue/field_mask.h"
+#include "settings/data_set_boxes.h"
 
 namespace vlk {
 

@@ -45,7 +45,12 @@ Normalised noted(QString value, const QString& text, Change change)
     return {value, change};
 }
 
-Normalised number(const Setting& setting, const QString& text, Limits limits)
+int wholeNumber(const Setting& setting, const QString& text)
+{
+    return setting.hexadecimal ? text.toInt(nullptr, 16) : leadingInt(text);
+}
+
+Normalised number(const Setting& setting, const QString& text, const Limits& limits)
 {
     double shown = 0;
     bool clean = false;
@@ -54,9 +59,11 @@ Normalised number(const Setting& setting, const QString& text, Limits limits)
         shown = rounded(setting.singleRead ? static_cast<float>(read) : read, setting.decimals);
         clean = std::isfinite(text.toDouble(&clean)) && clean;
     } else {
-        const int read = leadingInt(text);
+        const int read = wholeNumber(setting, text);
         clean = isWholeNumber(text);
-        if (setting.zeroIsOff && read <= 0)
+        if (setting.hexadecimal)
+            text.toInt(&clean, 16);
+        if (setting.zeroIsOff && (setting.negativeIsOn ? read == 0 : read <= 0))
             return noted(QStringLiteral("0"), text, clean ? Change::outOfRange : Change::notANumber);
         shown = setting.kind == Kind::scaled
                     ? rounded(static_cast<double>(read) / setting.factor, setting.decimals)
@@ -91,14 +98,17 @@ const Code* find(const Setting& setting, const QString& text)
     return find(setting, QString::fromLatin1(found->means));
 }
 
-Normalised chosen(const Setting& setting, const QString& text, const QString& before, const char* offers)
+Normalised chosen(const Setting& setting, const QString& text, const QString& before, const Limits& limits)
 {
     const QString fallback = setting.fallback ? QString::fromLatin1(setting.fallback) : before;
     const Code* code = find(setting, text);
     if (!code)
-        return noted(fallback, text, Change::unknownCode);
-    if (!offersCode(setting, *code, offers))
-        return noted(setting.none ? QString::fromLatin1(setting.none) : fallback, text, Change::notOffered);
+        return noted(limits.taken.contains(fallback) ? before : fallback, text, Change::unknownCode);
+    if (!offersCode(setting, *code, limits))
+        return noted(setting.unofferedStays ? before
+                     : setting.none         ? QString::fromLatin1(setting.none)
+                                            : fallback,
+                     text, Change::notOffered);
     return noted(QString::fromLatin1(code->code), text, Change::otherForm);
 }
 
@@ -171,8 +181,43 @@ Normalised maskString(const Setting& setting, const QString& text, const QString
     return noted(held, text, why);
 }
 
+// What a line edit with an input mask makes of a text: digits fill the places of the mask, one of its signs
+// goes on behind that sign, and what fits nowhere is dropped. Places left empty hold nothing.
+Normalised maskedText(const Setting& setting, const QString& text)
+{
+    const QString mask = QString::fromLatin1(setting.inputMask);
+    constexpr QChar place('H');
+    const auto isDigit = [](QChar sign) {
+        return sign.isNumber() || (sign >= QLatin1Char('a') && sign <= QLatin1Char('f')) ||
+               (sign >= QLatin1Char('A') && sign <= QLatin1Char('F'));
+    };
+    QString held;
+    int at = 0;
+    for (int i = 0; i < text.size() && at < mask.size();) {
+        if (mask[at] != place) {
+            held += mask[at];
+            if (text[i] == mask[at++])
+                ++i;
+        } else if (isDigit(text[i])) {
+            held += text[i++];
+            ++at;
+        } else {
+            const int sign = text[i] == place ? -1 : mask.indexOf(text[i], at);
+            if (sign >= 0) {
+                held += mask.mid(at, sign + 1 - at).remove(place);
+                at = sign + 1;
+            }
+            ++i;
+        }
+    }
+    held += mask.mid(at).remove(place);
+    return noted(held, text, Change::otherForm);
+}
+
 QString defaultText(const Setting& setting, double number, const DefaultText& text)
 {
+    if (!text.format && setting.hexadecimal)
+        return fileNumber(setting, number);
     if (!text.format)
         return QString::number(number, 'f', setting.kind == Kind::real ? setting.decimals : 0);
     const QString format = QString::fromUtf8(text.format);
@@ -192,17 +237,50 @@ double shownNumber(const Setting& setting, const QString& value)
 {
     if (setting.kind == Kind::real)
         return value.toDouble();
-    return static_cast<double>(value.toLongLong()) / setting.factor;
+    return (setting.hexadecimal ? value.toInt(nullptr, 16) : static_cast<double>(value.toLongLong())) /
+           setting.factor;
 }
 
 QString fileNumber(const Setting& setting, double shown)
 {
     if (setting.kind == Kind::real)
         return QString::number(shown, 'f', setting.decimals);
-    return QString::number(cut(rounded(shown, setting.decimals) * setting.factor));
+    const qint64 number = cut(rounded(shown, setting.decimals) * setting.factor);
+    if (setting.hexadecimal)
+        return QString::number(number, 16).toUpper().rightJustified(2, QLatin1Char('0'));
+    return QString::number(number);
 }
 
-Normalised normalise(const Setting& setting, const QString& text, const QString& before, Limits limits)
+bool offersCode(const Setting& setting, const Code& code, const Limits& limits)
+{
+    return offersCode(setting, code, limits.offers) && !limits.taken.contains(QLatin1String(code.code));
+}
+
+QString firstOffered(const Setting& setting, const Limits& limits)
+{
+    for (const Code& code : setting.codes) {
+        if (offersCode(setting, code, limits))
+            return QString::fromLatin1(code.code);
+    }
+    return QString::fromLatin1(setting.none);
+}
+
+QString nextOffered(const Setting& setting, const QString& value, const Limits& limits)
+{
+    QString found;
+    bool behind = false;
+    for (const Code& code : setting.codes) {
+        if (offersCode(setting, code, limits)) {
+            found = QString::fromLatin1(code.code);
+            if (behind)
+                break;
+        }
+        behind = behind || QLatin1String(code.code) == value;
+    }
+    return found.isEmpty() ? QString::fromLatin1(setting.none) : found;
+}
+
+Normalised normalise(const Setting& setting, const QString& text, const QString& before, const Limits& limits)
 {
     switch (setting.kind) {
     case Kind::group:
@@ -223,11 +301,13 @@ Normalised normalise(const Setting& setting, const QString& text, const QString&
             return {text, Change::none};
         return number(setting, text, limits);
     case Kind::text:
+        if (setting.inputMask)
+            return maskedText(setting, text);
         return setting.maxLength > 0 && text.size() > setting.maxLength
                    ? Normalised{text.left(setting.maxLength), Change::tooLong}
                    : Normalised{text, Change::none};
     case Kind::choice:
-        return chosen(setting, text, before, limits.offers);
+        return chosen(setting, text, before, limits);
     case Kind::period:
         return spread(setting, text);
     case Kind::digits:

@@ -6,6 +6,7 @@
 #include "settings/setting.h"
 
 #include <QString>
+#include <QStringList>
 
 namespace vlk {
 
@@ -24,12 +25,13 @@ enum class Change {
 };
 
 // What a value can be: a range in units of the widget; of a choice and of a string of digits the codes of the
-// list, "NU|NS+", null as the setting says.
+// list, "NU|NS+", null as the setting says; codes that other settings of a shared list hold.
 struct Limits
 {
     double least;
     double most;
     const char* offers = nullptr;
+    QStringList taken{};
 
     bool operator==(const Limits&) const = default;
 };
@@ -41,7 +43,8 @@ struct Normalised
 };
 
 // `before` is what stays where the text leaves the value alone.
-Normalised normalise(const Setting& setting, const QString& text, const QString& before, Limits limits);
+Normalised normalise(const Setting& setting, const QString& text, const QString& before,
+                     const Limits& limits);
 
 // Texts of the two defaults in the present language, as a file would hold them.
 QString loadDefault(const Setting& setting);
@@ -60,5 +63,10 @@ int maskItem(const MaskField& field, const QString& part);
 
 // Whether the list of a setting has the code; `offers` as in Limits.
 bool offersCode(const Setting& setting, const Code& code, const char* offers = nullptr);
+bool offersCode(const Setting& setting, const Code& code, const Limits& limits);
+// The first code of the list, and the one that comes next behind `value`, else the last one; what stands for
+// no item where the list is empty.
+QString firstOffered(const Setting& setting, const Limits& limits);
+QString nextOffered(const Setting& setting, const QString& value, const Limits& limits);
 
 } // namespace vlk

@@ -12,13 +12,16 @@
 namespace vlk {
 
 // An edit that makes `when` hold sets another setting. `onRead`: a read does so too, as soon as it has read
-// the path of `when`.
+// the path of `when`. All of it only while `also` holds; `onset`: an edit only where `when` did not hold
+// before it.
 struct Pull
 {
     When when;
     const char* set = "";
     const char* to = "";
     bool onRead = false;
+    When also{};
+    bool onset = false;
     std::uint8_t number = 0;
     std::uint8_t inner = 0;
 };
@@ -47,7 +50,8 @@ struct Distance
 };
 
 // Another range and unit, or a shorter list of codes, while `when` holds; the last rule that holds counts.
-// What the list lacks becomes the row's code for no item, else its fallback; a digit becomes 0.
+// What the list lacks becomes the row's code for no item, else its fallback; a digit becomes 0. `startsOver`:
+// another value at the path of `when` brings the first code of the list, whatever was chosen.
 struct RangeWhen
 {
     When when;
@@ -56,13 +60,34 @@ struct RangeWhen
     double most = 0;
     const char* unit = nullptr;
     const char* offers = nullptr; // "0|1"
+    bool startsOver = false;
     std::uint8_t number = 0;
     std::uint8_t inner = 0;
 };
 
-// Ready values of several settings. An edit of `trigger` to the code of a row sets its fields; a null value
-// leaves its field alone. After a read, `trigger` becomes the first row that agrees in all fields, or
-// `other`; without `other` a read leaves it alone.
+// A choice out of a list that several settings share: while `when` and `also` hold, none of the others can
+// have its code. One that holds nothing yields to the next code that is free, and one whose list was empty
+// gets the first code that is given back. Settings of the same `holder` are nothing to each other, and so are
+// those of one list whose values at `split` differ.
+struct Sole
+{
+    const char* path = "";
+    When when{};
+    When also{};
+    const char* list = "";
+    const char* holder = "";
+    const char* split = nullptr;
+    std::uint8_t number = 0;
+    std::uint8_t inner = 0;
+};
+
+// Ready values of several settings. An edit of `trigger` to the code of a row sets its fields, even where
+// `trigger` has that code already; a null value leaves its field alone. After a read, `trigger` becomes the
+// first row that agrees in all fields, or `other`; without `other` a read leaves it alone.
+//
+// With `settles` the fields have no other values than those of the rows: after a read, `trigger` becomes the
+// first row that agrees and that its list offers, and stays as it stands where there is none; the fields
+// become what its row says.
 struct PresetRow
 {
     const char* code;
@@ -75,14 +100,29 @@ struct Presets
     std::array<const char*, 8> fields{};
     std::span<const PresetRow> rows{};
     const char* other = nullptr;
+    bool settles = false;
+    std::uint8_t number = 0;
+    std::uint8_t inner = 0;
 };
 
-// A setting that lives in the window alone and is found at a read: on unless the text at `from` is `off`.
+// A flag that lives in the window alone and is found at a read: on while any of the conditions holds.
 struct Derived
 {
     const char* path = "";
-    const char* from = "";
-    const char* off = "";
+    std::array<When, 2> any{};
+    std::uint8_t number = 0;
+    std::uint8_t inner = 0;
+};
+
+// Positions of a string of 0 and 1, counted from 0, that a save sets to `to` while all conditions hold,
+// whatever the value has there. What comes later in the list counts more; what lies beyond the end of the
+// string is passed over.
+struct MaskPositions
+{
+    const char* path = "";
+    std::span<const int> positions{};
+    char to = '1';
+    std::array<When, 3> when{};
     std::uint8_t number = 0;
     std::uint8_t inner = 0;
 };

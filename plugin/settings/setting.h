@@ -14,7 +14,9 @@
 // `factor` says what one of them is in the file. Captions, units and labels are translation keys.
 //
 // In a repeated row (repeat() in settings_table.h) every name may hold %1, the number of the repetition, and
-// %2, the number of a repetition inside it.
+// %2, the number of a repetition inside it; the text of a caption may hold %1 too. Object names may tell a
+// form of the page that is made later, or that has widgets of the same names as another one:
+// "TACH/comboBox_Type".
 
 #include <array>
 #include <cstdint>
@@ -40,12 +42,13 @@ enum class Kind : std::uint8_t {
 };
 
 // Holds while the value at `path` is one of `codes` ("NS+|NB+"), or not 0 and not empty where `codes` is
-// empty. Without a path it always holds.
+// empty, or the same as that at `other`. Without a path it always holds.
 struct When
 {
     const char* path = nullptr;
     const char* codes = "";
     bool negated = false;
+    const char* other = nullptr;
 };
 
 constexpr When when(const char* path, const char* codes = "")
@@ -56,6 +59,11 @@ constexpr When when(const char* path, const char* codes = "")
 constexpr When unless(const char* path, const char* codes = "")
 {
     return {path, codes, true};
+}
+
+constexpr When whenSame(const char* path, const char* other)
+{
+    return {path, "", false, other};
 }
 
 // A text of the file or one that follows the language: `format` with the translation of `key` for its %1.
@@ -72,6 +80,7 @@ struct Code
     const char* code;       // what the file holds
     const char* label = ""; // text or translation key
     const char* format = "%1";
+    const char* second = nullptr; // translation key for %2 of the format
     const char* widget = nullptr; // of a choice over several boxes: the one of this value
     // How the file may spell it: '1' a digit other than 0, '0' anything else, '*' whatever.
     const char* pattern = nullptr;
@@ -94,7 +103,8 @@ struct Position
 {
     const char* widget = nullptr;
     const char* caption = "";
-    int top = 1; // largest digit
+    int top = 1;               // largest digit
+    const char* box = nullptr; // check box beside a list: unchecked is 0, whatever item the list has
 };
 
 // One widget of a mask and the positions that it sets: a check box all of them alike, a list each as its item
@@ -119,8 +129,9 @@ struct Setting
     enum class Reset : std::uint8_t { toLoadDefault, toOwn, keeps };
 
     Kind kind = Kind::text;
-    const char* key = "";         // of a group its path below the section
-    const char* name = nullptr;   // in the path, where the key stands twice in one element; null: the key
+    const char* key = ""; // of a group its path below the section
+    // In the path, where the key stands twice in one element, or the element in one section; null: the key.
+    const char* name = nullptr;
     bool stored = true;           // false: lives in the window alone, the file has no such key
     const char* target = nullptr; // of a link: path of the row that holds the value
 
@@ -135,18 +146,21 @@ struct Setting
     double step = 0; // of the widget; 0: as the form says
     std::uint8_t decimals = 0;
     std::int32_t factor = 1;
-    bool zeroIsOff = false;   // 0 for off, or a number of the range
-    double switchedOnAt = -1; // number that switching on brings; -1: the one that was there before
-    bool blankIsZero = false; // an empty value stays empty on show and is 0 in the file
-    bool singleRead = false;  // read in single precision
-    std::int32_t on = 1;      // of a flag; other than 1: only this value is on
-    bool inverted = false;    // of a flag: the box is checked for 0
-    std::int32_t wrap = 0;    // of a period: what is beyond so many seconds is dropped
+    bool hexadecimal = false;  // in the file two digits or more: "0F"
+    bool zeroIsOff = false;    // 0 for off, or a number of the range
+    bool negativeIsOn = false; // and a number below 0 is not off but the least
+    double switchedOnAt = -1;  // number that switching on brings; -1: the one that was there before
+    bool blankIsZero = false;  // an empty value stays empty on show and is 0 in the file
+    bool singleRead = false;   // read in single precision
+    std::int32_t on = 1;       // of a flag; other than 1: only this value is on
+    bool inverted = false;     // of a flag: the box is checked for 0
+    std::int32_t wrap = 0;     // of a period: what is beyond so many seconds is dropped
     std::span<const Code> codes{};
     const char* offers = nullptr;   // codes of the list, "NU|NS+"; null: those with `offered`
     const char* fallback = nullptr; // what an unknown code stands for, or `none`; null: the value stays
-    const char* none = nullptr; // saved for a code that is not offered, or `fallback`; null: the value stays
-    bool numeric = false;       // codes are compared as numbers
+    const char* none = nullptr;  // saved for a code that is not offered, or `fallback`; null: the value stays
+    bool unofferedStays = false; // a code that is not offered leaves the value as it stands
+    bool numeric = false;        // codes are compared as numbers
     std::span<const PeriodPart> parts{};
     std::span<const Position> positions{};
     std::span<const MaskField> fields{};
@@ -156,17 +170,27 @@ struct Setting
 
     const char* unitKey = nullptr;
     const char* captionKey = nullptr;
+    const char* captionFormat = "%1";
     const char* widget = nullptr;
     const char* companion = nullptr; // check box or slider beside the widget
     int column = 0;                  // the widget is a tree; the cell of this column in the row of the number
 
-    When present{}; // else the key is neither read nor written
-    When free{};    // else `otherwise` is written
+    // Else the key is neither read nor written. Of a group both have to hold.
+    When present{};
+    When presentToo{};
+    bool readOtherwise = false; // of a group: read while the next two hold, whenever it is written
+    When readable{};
+    When readableToo{};
+    When free{}; // else `otherwise` is written
     const char* otherwise = "";
     bool boundOnRead = false; // and is what a read gives
 
-    bool last = false; // read after all others
-    bool kept = false; // of a group: an element that is there keeps what else it holds
+    bool last = false;        // read after all others
+    bool kept = false;        // of a group: an element that is there keeps what else it holds
+    bool unlessEmpty = false; // of a group: not written while none of its keys is
+    bool stays = false;       // a file without the key leaves the value as it stands
+    bool carried = false;     // a save starts from what the document holds under the key, if it does
+    double unlessThere = -1;  // default where the file lacks the whole element; -1: the same
 
     std::uint8_t number = 0;
     std::uint8_t inner = 0;
@@ -182,7 +206,11 @@ struct Setting
     // What follows describes a row; each gives the row back.
     constexpr Setting in(const char* name) const { return having(&Setting::widget, name); }
     constexpr Setting beside(const char* name) const { return having(&Setting::companion, name); }
-    constexpr Setting caption(const char* text) const { return having(&Setting::captionKey, text); }
+    // The format holds %1 for the text, as in "%1 2".
+    constexpr Setting caption(const char* text, const char* format = "%1") const
+    {
+        return having(&Setting::captionKey, text).having(&Setting::captionFormat, format);
+    }
     constexpr Setting unit(const char* text) const { return having(&Setting::unitKey, text); }
     constexpr Setting range(double from, double to) const
     {
@@ -202,6 +230,7 @@ struct Setting
     {
         return having(&Setting::zeroIsOff, true).having(&Setting::companion, checkBox);
     }
+    constexpr Setting onUnlessZero() const { return having(&Setting::negativeIsOn, true); }
     constexpr Setting switchedOnTo(double value) const { return having(&Setting::switchedOnAt, value); }
     constexpr Setting blankable() const { return having(&Setting::blankIsZero, true); }
     constexpr Setting checkedForZero() const { return having(&Setting::inverted, true); }
@@ -214,6 +243,7 @@ struct Setting
     // Of digits in combo boxes: the item of each digit.
     constexpr Setting listing(std::span<const Code> items) const { return having(&Setting::codes, items); }
     constexpr Setting offering(const char* list) const { return having(&Setting::offers, list); }
+    constexpr Setting unofferedLeavesIt() const { return having(&Setting::unofferedStays, true); }
     constexpr Setting byNumber() const { return having(&Setting::numeric, true); }
     constexpr Setting onValue(std::int32_t value) const { return having(&Setting::on, value); }
     constexpr Setting readSingle() const { return having(&Setting::singleRead, true); }
@@ -224,7 +254,21 @@ struct Setting
     constexpr Setting masked(const char* mask) const { return having(&Setting::inputMask, mask); }
     constexpr Setting readLast() const { return having(&Setting::last, true); }
     constexpr Setting keeping() const { return having(&Setting::kept, true); }
-    constexpr Setting onlyWhen(When condition) const { return having(&Setting::present, condition); }
+    constexpr Setting ifAny() const { return having(&Setting::unlessEmpty, true); }
+    constexpr Setting staying() const { return having(&Setting::stays, true); }
+    constexpr Setting carriedOver() const { return having(&Setting::carried, true); }
+    constexpr Setting withoutElement(double value) const { return having(&Setting::unlessThere, value); }
+    constexpr Setting onlyWhen(When condition, When too = {}) const
+    {
+        return having(&Setting::present, condition).having(&Setting::presentToo, too);
+    }
+    // Without a condition: always.
+    constexpr Setting readWhen(When condition = {}, When too = {}) const
+    {
+        return having(&Setting::readOtherwise, true)
+            .having(&Setting::readable, condition)
+            .having(&Setting::readableToo, too);
+    }
     // Saved as `text` unless the condition holds; `bound`: and read as that.
     constexpr Setting savedAs(const char* text, When condition, bool bound = false) const
     {
@@ -262,6 +306,12 @@ constexpr Setting integer(const char* key, int loadDefault, std::int32_t factor 
 {
     return {
         .kind = Kind::integer, .key = key, .loadNumber = static_cast<double>(loadDefault), .factor = factor};
+}
+
+// `loadDefault` as a number; the file holds two digits of base 16.
+constexpr Setting hexadecimal(const char* key, int loadDefault)
+{
+    return integer(key, loadDefault).having(&Setting::hexadecimal, true);
 }
 
 constexpr Setting real(const char* key, double loadDefault, std::uint8_t decimals)

@@ -1,8 +1,9 @@
 #pragma once
 
-// The settings of one page: its section of the file, its rows in the order of the file, and its rules. Tables
-// are constexpr; rowsOf() refuses at compile time what is wrong in them: a default outside its range or
-// choices, a path or an object name twice, two groups of one name side by side.
+// The settings of one page: its section of the file, its rows in the order of the file, and its rules. A
+// table over several sections has an empty name and begins its paths with theirs ("TRACK/POINTS/angle").
+// Tables are constexpr; rowsOf() refuses at compile time what is wrong in them: a default outside its range
+// or choices, a path or an object name twice, two groups of one name side by side.
 
 #include "settings/rule.h"
 
@@ -21,8 +22,10 @@ struct SettingsTable
     std::span<const Bound> bounds{};
     std::span<const Distance> distances{};
     std::span<const RangeWhen> ranges{};
+    std::span<const Sole> soles{};
     std::span<const Presets> presets{};
     std::span<const Derived> derived{};
+    std::span<const MaskPositions> masks{};
     std::span<const Enable> enables{};
     bool emptied = true; // a save empties the section first
 };
@@ -104,9 +107,12 @@ constexpr void check(const Setting& row)
         if (!inRange(row, row.loadNumber) || (own && !row.resetText.format && !inRange(row, row.resetNumber)))
             throw "a default is outside its range";
     }
+    const auto isChoice = [&](const char* code) {
+        return knownCode(row, code) || (row.none && same(row.none, code));
+    };
     if (row.kind == Kind::choice &&
-        (!knownCode(row, row.loadText.format) || (own && !knownCode(row, row.resetText.format)) ||
-         (row.fallback && !knownCode(row, row.fallback) && !same(row.fallback, row.none))))
+        (!isChoice(row.loadText.format) || (own && !isChoice(row.resetText.format)) ||
+         (row.fallback && !isChoice(row.fallback))))
         throw "a default is none of the choices";
     if (row.kind == Kind::digits && std::string_view(row.loadText.format).size() > row.positions.size())
         throw "a default has more digits than there are positions";
@@ -144,7 +150,7 @@ constexpr void checkAll(const std::array<Setting, n>& rows)
         check(row);
         const std::uint32_t number = 2166136261U + row.number * 1024U + row.inner;
         if (row.kind == Kind::group)
-            group = hashOf(row.key, number);
+            group = hashOf(pathName(row), number);
         keys[i] = row.kind == Kind::group ? group : hashOf(pathName(row), number ^ (group * 31U));
         if (row.widget && row.kind != Kind::link)
             widgets[i] = hashOf(row.widget, number + static_cast<std::uint32_t>(row.column) * 262144U);

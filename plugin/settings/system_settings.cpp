@@ -1,5 +1,7 @@
 #include "settings/system_settings.h"
 
+#include "settings/shared_rows.h"
+
 namespace vlk {
 
 namespace {
@@ -15,15 +17,9 @@ constexpr Code kFuelErrors[] = {
     {.code = "1", .label = "cfgt4_041", .widget = "radioButton_Fuel_Error_Fixed"},
 };
 
-constexpr const char* kPasswordPattern = R"(^\S{0,6}$)";
-constexpr const char* kPhonePattern = R"(^[\+\d]\d{0,15}$)";
-
 // Voltages stand in the file in millivolts.
 constexpr auto kRows = rowsOf(
-    group("PASS"),
-    text("general", "").typed(kPasswordPattern).in("Settings_Psw_lineEdit_CSD").caption("cfgt4_006"),
-    text("SMS", "").typed(kPasswordPattern).in("Settings_Psw_lineEdit_SMS").caption("cfgt4_007"),
-    text("number", "").typed(kPhonePattern).in("Settings_Psw_lineEdit_Phone").caption("cfgt4_092"),
+    group("PASS"), shared::kPasswords,
 
     group("TIME"),
     integer("zone", 3).range(-12, 12).unit("abbr_001").in("TimeZone_spinBox_Value").caption("cfgt4_003"),
@@ -48,7 +44,7 @@ constexpr auto kRows = rowsOf(
         .offAtZero("checkBox_Engine_Delay")
         .caption("cfgt4_024"),
 
-    group("PWRSENS"), flag("line", 0).onValue(3).in("checkBox_Power_Line").caption("cfgt4_093"),
+    group("PWRSENS"), shared::kSupplyLine,
     volts("alarmLvl", 10500).range(6, 32).in("doubleSpinBox_Power_Left").caption("cfgt4_021"),
     volts("restoreLvl", 11000).range(6, 32).in("doubleSpinBox_Power_Right").caption("cfgt4_022"),
     integer("delay", 0)

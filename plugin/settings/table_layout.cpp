@@ -1,5 +1,6 @@
 #include "settings/table_layout.h"
 
+#include <algorithm>
 #include <map>
 #include <memory>
 
@@ -31,7 +32,10 @@ private:
             if (setting.kind == Kind::group) {
                 TableLayout::Group group;
                 group.path = numberedName(setting.key, setting.number, setting.inner).split(QLatin1Char('/'));
+                group.name = setting.name ? numberedName(setting.name, setting.number, setting.inner)
+                                          : group.path.join(QLatin1Char('/'));
                 group.kept = setting.kept;
+                group.unlessEmpty = setting.unlessEmpty;
                 group.firstRow = group.endRow = static_cast<int>(layout_.rows.size());
                 layout_.groups.push_back(group);
                 groupSettings_.push_back(&setting);
@@ -44,12 +48,15 @@ private:
             row.target = static_cast<int>(layout_.rows.size());
             QString below =
                 setting.name ? numberedName(setting.name, setting.number, setting.inner) : row.key;
+            row.filePath = row.key;
             if (row.group >= 0) {
                 TableLayout::Group& group = layout_.groups.back();
-                below = group.path.join(QLatin1Char('/')) + QLatin1Char('/') + below;
+                below = group.name + QLatin1Char('/') + below;
+                row.filePath = group.path.join(QLatin1Char('/')) + QLatin1Char('/') + row.key;
                 ++group.endRow;
             }
-            row.path = layout_.section + QLatin1Char('/') + below;
+            row.path = layout_.prefix() + below;
+            row.filePath = layout_.prefix() + row.filePath;
             if (layout_.byPath.contains(below))
                 layout_.problems << row.path + QStringLiteral(" stands twice");
             layout_.byPath.insert(below, row.target);
@@ -62,7 +69,7 @@ private:
     {
         for (TableLayout::Row& row : layout_.rows) {
             const Setting& setting = *row.setting;
-            row.present = condition(setting.present, setting.number, setting.inner);
+            row.present = conditions(setting, setting.present, setting.presentToo);
             row.free = condition(setting.free, setting.number, setting.inner);
             if (setting.kind == Kind::link)
                 row.target = rowAt(setting.target, setting.number, setting.inner);
@@ -70,10 +77,17 @@ private:
         for (std::size_t i = 0; i < layout_.groups.size(); ++i) {
             TableLayout::Group& group = layout_.groups[i];
             const Setting& setting = *groupSettings_[i];
-            group.present = condition(setting.present, setting.number, setting.inner);
+            group.present = conditions(setting, setting.present, setting.presentToo);
+            group.readable = setting.readOtherwise
+                                 ? conditions(setting, setting.readable, setting.readableToo)
+                                 : group.present;
             for (const TableLayout::Group& other : layout_.groups)
                 group.nested = group.nested || (other.path.size() > group.path.size() &&
                                                 other.path.mid(0, group.path.size()) == group.path);
+            const auto first = layout_.rows.begin() + group.firstRow;
+            const auto end = layout_.rows.begin() + group.endRow;
+            group.stored = first == end || group.nested ||
+                           std::any_of(first, end, [](const auto& row) { return row.setting->stored; });
         }
     }
 
@@ -83,7 +97,7 @@ private:
         for (const Pull& rule : table.pulls)
             layout_.pulls.push_back({condition(rule.when, rule.number, rule.inner),
                                      rowAt(rule.set, rule.number, rule.inner), QString::fromLatin1(rule.to),
-                                     rule.onRead});
+                                     rule.onRead, condition(rule.also, rule.number, rule.inner), rule.onset});
         for (const Bound& rule : table.bounds)
             layout_.bounds.push_back({condition(rule.when, rule.number, rule.inner),
                                       rowAt(rule.path, rule.number, rule.inner),
@@ -96,26 +110,27 @@ private:
         for (const RangeWhen& rule : table.ranges)
             layout_.ranges.push_back({condition(rule.when, rule.number, rule.inner),
                                       rowAt(rule.path, rule.number, rule.inner), &rule});
+        for (const Sole& rule : table.soles)
+            addSole(rule);
         for (const Presets& rule : table.presets) {
-            TableLayout::Presets presets{rowAt(rule.trigger, 0, 0), {}, &rule};
+            TableLayout::Presets presets{rowAt(rule.trigger, rule.number, rule.inner), {}, &rule};
             for (const char* field : rule.fields) {
                 if (field)
-                    presets.fields.push_back(rowAt(field, 0, 0));
+                    presets.fields.push_back(rowAt(field, rule.number, rule.inner));
             }
             layout_.presets.push_back(presets);
         }
         for (const Derived& rule : table.derived)
-            layout_.derived.push_back({rowAt(rule.path, rule.number, rule.inner),
-                                       rowAt(rule.from, rule.number, rule.inner),
-                                       QString::fromLatin1(rule.off)});
+            layout_.derived.push_back(
+                {rowAt(rule.path, rule.number, rule.inner), conditions(rule, rule.any)});
+        for (const MaskPositions& rule : table.masks)
+            layout_.masks.push_back(
+                {rowAt(rule.path, rule.number, rule.inner), conditions(rule, rule.when), &rule});
         for (const Enable& rule : table.enables) {
             TableLayout::Enable enable;
             enable.targets = numberedName(rule.targets, rule.number, rule.inner)
                                  .split(QLatin1Char(' '), Qt::SkipEmptyParts);
-            for (const When& when : rule.when) {
-                if (when.path)
-                    enable.when.push_back(condition(when, rule.number, rule.inner));
-            }
+            enable.when = conditions(rule, rule.when);
             enable.any = rule.any;
             enable.number = rule.number;
             enable.shows = rule.effect == Enable::Effect::shown;
@@ -128,7 +143,44 @@ private:
         if (!when.path)
             return {};
         return {rowAt(when.path, number, inner),
-                QString::fromLatin1(when.codes).split(QLatin1Char('|'), Qt::SkipEmptyParts), when.negated};
+                QString::fromLatin1(when.codes).split(QLatin1Char('|'), Qt::SkipEmptyParts), when.negated,
+                when.other ? rowAt(when.other, number, inner) : -1};
+    }
+
+    void addSole(const Sole& rule)
+    {
+        const QString name = numberedName(rule.list, rule.number, rule.inner);
+        auto& lists = layout_.soleLists;
+        auto list =
+            std::find_if(lists.begin(), lists.end(), [&](const auto& known) { return known.name == name; });
+        if (list == lists.end())
+            list = lists.insert(lists.end(), {name, {}, std::vector<bool>(layout_.rows.size())});
+        const TableLayout::Sole sole{
+            rowAt(rule.path, rule.number, rule.inner), condition(rule.when, rule.number, rule.inner),
+            condition(rule.also, rule.number, rule.inner), numberedName(rule.holder, rule.number, rule.inner),
+            rule.split ? rowAt(rule.split, rule.number, rule.inner) : -1};
+        for (const int row : {sole.row, sole.when.row, sole.also.row, sole.split}) {
+            if (row >= 0)
+                list->triggers[row] = true;
+        }
+        list->soles.push_back(sole);
+    }
+
+    // Those that name a row, with the numbers of `owner`.
+    template <class Owner, std::size_t count>
+    std::vector<TableLayout::Condition> conditions(const Owner& owner, const std::array<When, count>& list)
+    {
+        std::vector<TableLayout::Condition> all;
+        for (const When& when : list) {
+            if (when.path)
+                all.push_back(condition(when, owner.number, owner.inner));
+        }
+        return all;
+    }
+
+    std::vector<TableLayout::Condition> conditions(const Setting& setting, When first, When second)
+    {
+        return conditions(setting, std::array<When, 2>{first, second});
     }
 
     int rowAt(const char* path, int number, int inner)
@@ -136,7 +188,7 @@ private:
         const QString name = numberedName(path, number, inner);
         const int row = layout_.rowAt(name);
         if (row < 0)
-            layout_.problems << QStringLiteral("no row %1/%2").arg(layout_.section, name);
+            layout_.problems << QStringLiteral("no row %1%2").arg(layout_.prefix(), name);
         return row;
     }
 

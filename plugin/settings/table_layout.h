@@ -20,26 +20,32 @@ struct TableLayout
         int row = -1; // -1: always holds
         QStringList codes;
         bool negated = false;
+        int other = -1; // row whose value it has to be
     };
 
     // A value; rows of kind `group` have none.
     struct Row
     {
         const Setting* setting = nullptr;
-        QString path; // "TRACK/POINTS/angle"
+        QString path;     // "TRACK/POINTS/angle"; of its own, also where two rows share a place
+        QString filePath; // where it stands in the file
         QString key;
         int group = -1;
         int target = -1; // row of the value: of a link another one, else this one
-        Condition present;
+        std::vector<Condition> present;
         Condition free;
     };
 
     struct Group
     {
         QStringList path; // element names below the section
-        Condition present;
+        QString name;     // in the paths of its rows
+        std::vector<Condition> present;
+        std::vector<Condition> readable;
         bool kept = false;
+        bool unlessEmpty = false;
         bool nested = false; // another group lies in it
+        bool stored = true;  // false: all its rows live in the window alone, the file has no such element
         int firstRow = 0;
         int endRow = 0;
     };
@@ -50,6 +56,8 @@ struct TableLayout
         int set = -1;
         QString to;
         bool onRead = false;
+        Condition also;
+        bool onset = false;
     };
     struct Bound
     {
@@ -71,6 +79,21 @@ struct TableLayout
         int row = -1;
         const vlk::RangeWhen* rule = nullptr;
     };
+    struct Sole
+    {
+        int row = -1;
+        Condition when;
+        Condition also;
+        QString holder;
+        int split = -1;
+    };
+    // The settings that share a list.
+    struct SoleList
+    {
+        QString name;
+        std::vector<Sole> soles;
+        std::vector<bool> triggers; // by row: whether its value counts for who holds what
+    };
     struct Presets
     {
         int trigger = -1;
@@ -80,8 +103,13 @@ struct TableLayout
     struct Derived
     {
         int row = -1;
-        int from = -1;
-        QString off;
+        std::vector<Condition> any;
+    };
+    struct MaskPositions
+    {
+        int row = -1;
+        std::vector<Condition> when;
+        const vlk::MaskPositions* rule = nullptr;
     };
     struct Enable
     {
@@ -100,11 +128,15 @@ struct TableLayout
     std::vector<Bound> bounds;
     std::vector<Distance> distances;
     std::vector<RangeWhen> ranges;
+    std::vector<SoleList> soleLists;
     std::vector<Presets> presets;
     std::vector<Derived> derived;
+    std::vector<MaskPositions> masks;
     std::vector<Enable> enables;
     QHash<QString, int> byPath; // below the section
 
+    // What stands in front of the paths of the rules: nothing, where they begin with a section themselves.
+    QString prefix() const { return section.isEmpty() ? QString() : section + QLatin1Char('/'); }
     // -1 where the table has no such path.
     int rowAt(const QString& pathBelowSection) const { return byPath.value(pathBelowSection, -1); }
 

@@ -1,14 +1,10 @@
 #include "settings/track_settings.h"
 
+#include "settings/shared_rows.h"
+
 namespace vlk {
 
 namespace {
-
-constexpr Code kAngleModes[] = {
-    {.code = "0", .label = "wrd_002"},
-    {.code = "1", .label = "cfgt3_008", .widget = "Additional_checkBox_Corner"},
-    {.code = "2", .label = "cfgt3_009", .widget = "Additional_checkBox_Direction"},
-};
 
 constexpr Position kMotionSignals[] = {
     {"checkBox_TmrFlag_In1", "cfgt3_017"},
@@ -42,26 +38,8 @@ constexpr auto kRows = rowsOf(
         .unit("abbr_024")
         .in("Always_spinBox_MaxSpeed_Value")
         .caption("cfgt3_005"),
-    choice("angleMode", kAngleModes, "2").byNumber().unknownIs("0").caption("cfgt3_007"),
-    integer("angle", 5).range(1, 90).unit("abbr_016").in("Additional_spinBox_Corner").caption("cfgt3_010"),
-    flag("useDist", 1).in("Additional_Direction_checkBox_Metr").caption("cfgt3_011"),
-    integer("dist", 500)
-        .range(1, 10000)
-        .unit("abbr_022")
-        .in("Additional_Direction_spinBox_Metr_Value")
-        .caption("cfgt3_012"),
-    flag("useTimer", 1).in("Additional_Direction_checkBox_Sec").caption("cfgt3_013"),
-    integer("moveTimer", 60)
-        .range(0, 99999)
-        .unit("abbr_003")
-        .in("Additional_Direction_spinBox_Sec_Value")
-        .caption("cfgt3_014"),
-    digits("moveTimerSens", "000", kMotionSignals).caption("cfgt3_016"),
-    integer("stopTimer", 600)
-        .range(0, 99999)
-        .unit("abbr_003")
-        .in("Additional_Direction_spinBox_SecStop_Value")
-        .caption("cfgt3_015"),
+    shared::kPointsOnTheWay, shared::kUseDistance, shared::kPointsInTime, shared::kMoveTimer,
+    digits("moveTimerSens", "000", kMotionSignals).caption("cfgt3_016"), shared::kStopTimer,
 
     group("LIMPOINT"), flag("blockDist", 1).in("Restriction_checkBox_Metr").caption("cfgt3_021"),
     integer("dist", 10)

@@ -1,6 +1,6 @@
 #include "settings/transfer_settings.h"
 
-#include "settings/apn_rows.h"
+#include "settings/shared_rows.h"
 
 namespace vlk {
 
@@ -17,11 +17,7 @@ constexpr Code kProtocols[] = {
 };
 constexpr Code kTransports[] = {{.code = "TCP", .label = "TCP"}, {.code = "UDP", .label = "UDP"}};
 constexpr Code kConnectTypes[] = {{.code = "1", .label = "cfgt1_015"}, {.code = "0", .label = "cfgt1_016"}};
-constexpr Code kRoamingModes[] = {{.code = "0", .label = "cfgt1_017"},
-                                  {.code = "1", .label = "cfgt1_018"},
-                                  {.code = "2", .label = "cfgt1_019"},
-                                  {.code = "3", .label = "cfgt1_020"}};
-constexpr const char* kNoServer = "0.0.0.0";
+using shared::kNoServer;
 
 constexpr PeriodPart kPeriodicConnection[] = {
     {"Srv_Operation_spinBox_Periodic_Connect_Period_H", kHour, 0, 71, "abbr_001"},
@@ -99,14 +95,7 @@ constexpr auto kRoamingOperators = repeat<kRoamingRows>([](int) {
 constexpr auto kRows = rowsOf(
     group("OBJECT"),
     text("name", "R-7106_Config").upTo(64).typed("^.{0,64}$").in("lineEdit_Name").caption("cfgt1_005"),
-    kServerRows, group("AP1"),
-    choice("operator", kOperatorCodes, kAutomaticOperator)
-        .notStored()
-        .in("Transfer_comboBox_GSM_Operator_1")
-        .caption("cfgt1_006"),
-    text("name", "").in("Transfer_lineEdit_GSM_APN_1").caption("cfgt1_029"),
-    text("login", "").in("Transfer_lineEdit_GSM_Login_1").caption("cfgt1_031"),
-    text("pass", "").in("Transfer_lineEdit_GSM_Psw_1").caption("cfgt1_033"),
+    kServerRows, group("AP1"), shared::kAccessPoint,
     text("pin", "").upTo(8).typed("^\\d{0,8}$").in("Transfer_lineEdit_GSM_Pin1").caption("cfgt1_007"),
 
     group("RULES"), flag("noPriorMsg", 1).in("checkBox_NoToGprs").caption("cfgt1_042"),
@@ -136,12 +125,7 @@ constexpr auto kRows = rowsOf(
         .in("spinBox_GrpTimer")
         .caption("cfgt1_046"),
 
-    group("ROAM"),
-    integer("cnctTimer", 3600, kMinute)
-        .range(5, 99999)
-        .unit("abbr_002")
-        .in("spinBox_RConnectPeriod")
-        .caption("cfgt1_040"),
+    group("ROAM"), shared::kRoamingPeriod,
     integer("moveTimer", 1800, kMinute)
         .range(1, 9999)
         .unit("abbr_002")
@@ -155,8 +139,7 @@ constexpr auto kRows = rowsOf(
     period("blockTimer", 300, kRoamingBlock).atLeast(300).caption("cfgt1_044"),
     flag("archSend", 0).in("checkBox_RArchSend").caption("cfgt1_057"),
 
-    group("ROAMSIM1"),
-    choice("mode", kRoamingModes, "2").byNumber().in("comboBox_RModeSim_1").caption("cfgt1_021"),
+    group("ROAMSIM1"), shared::kRoamingMode,
     flag("noCall", 0).in("checkBox_RNoCallSim_1").caption("cfgt1_055"),
     flag("noSms", 0).in("checkBox_RNoSmsSim_1").caption("cfgt1_056"),
     flag("dontCnct", 0).checkedForZero().in("checkBox_sendData").caption("cfgt1_107"), kRoamingOperators,
@@ -170,14 +153,13 @@ constexpr auto kRows = rowsOf(
     integer("regTimer", 90).range(45, 900).unit("abbr_003").in("spinBox_RegTimer").caption("cfgt1_022"),
 
     group("QSP"), flag("use", 1).in("groupBox_QSP").caption("cfgt1_059"),
-    period("cnctTimer", kDay, kRemoteService).atLeast(600).caption("cfgt1_040"),
-    integer("idQSP", 1).range(0, 2147483647).in("spinBox_QSP_Id").caption("cfgt1_060"),
+    period("cnctTimer", kDay, kRemoteService).atLeast(600).caption("cfgt1_040"), shared::kObjectId,
     choice("transProto", kTransports, "TCP")
         .unknownIs("TCP")
         .in("comboBox_QSP_TransProto")
         .caption("cfgt1_030"),
 
-    kApnRows);
+    shared::apnRows(group("AUTOAPN")));
 
 // Switching a server on or off starts it anew; the operator fills the access point.
 constexpr auto kPulls = repeat<3>([](int) {
@@ -188,7 +170,7 @@ constexpr auto kPulls = repeat<3>([](int) {
 });
 
 constexpr auto kDerived =
-    repeat<3>([](int) { return Derived{.path = "SRV%1/use", .from = "SRV%1/addr", .off = kNoServer}; });
+    repeat<3>([](int) { return Derived{.path = "SRV%1/use", .any = {unless("SRV%1/addr", kNoServer)}}; });
 
 constexpr Presets kPresets[] = {{.trigger = "AP1/operator",
                                  .fields = {"AP1/name", "AP1/login", "AP1/pass"},

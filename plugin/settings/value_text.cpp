@@ -69,9 +69,11 @@ QString positionsText(const Setting& setting, const QString& value)
 
 } // namespace
 
-Caption captionParts(const char* key)
+Caption captionParts(const char* key, const char* format, int number)
 {
-    const QString text = translated(key);
+    QString text = QString::fromLatin1(format).arg(translated(key));
+    if (number > 0)
+        text.replace(QLatin1String("%1"), QString::number(number));
     const int mark = text.indexOf(QLatin1String("<val>"), 0, Qt::CaseInsensitive);
     if (mark < 0)
         return {text, {}};
@@ -85,14 +87,15 @@ QString inOneLine(QString caption)
 
 QString captionText(const Setting& setting)
 {
-    const Caption parts = captionParts(setting.captionKey);
+    const Caption parts = captionParts(setting.captionKey, setting.captionFormat, setting.number);
     return inOneLine(parts.after.isEmpty() ? parts.before
                                            : parts.before + QStringLiteral(" … ") + parts.after);
 }
 
 QString codeText(const Code& code)
 {
-    return QString::fromLatin1(code.format).arg(translated(code.label));
+    const QString text = QString::fromLatin1(code.format).arg(captionParts(code.label).before);
+    return code.second ? text.arg(translated(code.second)) : text;
 }
 
 QString fieldText(const MaskField& field)
@@ -117,6 +120,8 @@ QString valueText(const Configuration& configuration, int index, const QString& 
     case Kind::scaled:
         if (setting.zeroIsOff && value == QLatin1String("0"))
             return yesNo(false);
+        if (setting.hexadecimal)
+            return value;
         return withUnit(QString::number(shownNumber(setting, value), 'f', setting.decimals),
                         configuration.unitKey(index));
     case Kind::choice:

@@ -8,13 +8,14 @@
 
 namespace vlk {
 
-// A caption is split at its mark "<val>": what stands before the value and what stands behind it.
+// A caption is split at its mark "<val>": what stands before the value and what stands behind it. Its %1 is
+// the number of a repeated row.
 struct Caption
 {
     QString before;
     QString after;
 };
-Caption captionParts(const char* key);
+Caption captionParts(const char* key, const char* format = "%1", int number = 0);
 // Without line breaks and mnemonics.
 QString inOneLine(QString caption);
 QString captionText(const Setting& setting);

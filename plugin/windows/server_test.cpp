@@ -2,6 +2,7 @@
 
 #include <QHostInfo>
 #include <QLoggingCategory>
+#include <QMessageBox>
 
 Q_LOGGING_CATEGORY(lcServerTest, "vlk.servertest", QtInfoMsg)
 
@@ -139,4 +140,12 @@ void vlk_Socket::finish()
     timerTestServer_.stop();
     progress_.closeForm();
     Q_EMIT testConnected(peerIp_, hostName_, ok_);
+}
+
+void vlk::showServerAnswer(QWidget* page, bool ok, const QString& text)
+{
+    QMessageBox box(QMessageBox::Warning, vlk_Socket::tr(ok ? "wrd_005" : "wrd_004"), text,
+                    QMessageBox::NoButton, page);
+    box.addButton(vlk_Socket::tr("wrd_003"), QMessageBox::AcceptRole);
+    box.exec();
 }

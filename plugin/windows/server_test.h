@@ -22,6 +22,9 @@ struct ServerTestLimits
     int tick = 1'000;   // one step of the dialog's counter
 };
 
+// Tells the user how a test ended, in a box over `page`.
+void showServerAnswer(QWidget* page, bool ok, const QString& text);
+
 } // namespace vlk
 
 class vlk_Socket : public QObject

@@ -37,6 +37,17 @@ public:
     virtual void getCanLogProgram() {}
     virtual void setCanLogProgram(int /*value*/) {}
     virtual void sendSystemWaitEnd() {}
+
+    // A form offers a value to the record's free fields, or takes it back: code, name, an addition to the
+    // name or nothing, bytes.
+    virtual void addUserParam(const QString& /*code*/, const QString& /*name*/, const QString& /*third*/,
+                              int /*size*/)
+    {
+    }
+    virtual void deleteUserParam(const QString& /*code*/, const QString& /*name*/, const QString& /*third*/,
+                                 int /*size*/)
+    {
+    }
 };
 
 // The full window, from its construction on; pages reach it through this.

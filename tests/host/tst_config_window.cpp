@@ -84,7 +84,7 @@ private Q_SLOTS:
     void openedAnewItStandsOnTheFirstField()
     {
         QCOMPARE(window->focusWidget(), name());
-        child<QSpinBox>("GPRSSrv_spinBox_Port_Main")->setFocus();
+        portOf("page_Full")->setFocus();
         host_.open(configuration(QStringLiteral("One")));
         QCOMPARE(window->focusWidget(), name());
     }
@@ -242,8 +242,11 @@ private Q_SLOTS:
             QCOMPARE(shownPage(), agree ? QStringLiteral("page_Light") : QStringLiteral("page_Full"));
         }
         const QString own = writeFile(folder_.filePath("file.xml"), "<DEVICE>the user's own");
+        QCOMPARE(portOf("page_Light")->value(), portOf("page_Full")->value());
+        portOf("page_Light")->setValue(1234);
         press("pushButton_Light_ConfigFull");
         QCOMPARE(shownPage(), QStringLiteral("page_Full"));
+        QCOMPARE(portOf("page_Full")->value(), 1234);
         QCOMPARE(name()->text(), QStringLiteral("Kept"));
         QCOMPARE(readFile(own), QByteArray("<DEVICE>the user's own"));
         QVERIFY(QFile::remove(own));
@@ -288,7 +291,7 @@ private Q_SLOTS:
 
     void wheelAndEnterChangeNothing()
     {
-        auto* port = child<QSpinBox>("GPRSSrv_spinBox_Port_Main");
+        auto* port = portOf("page_Full");
         auto* key = child<QLineEdit>("lineEdit_Crypto");
         auto* group = child<QGroupBox>("GPRSSrv_groupBox_Main");
         group->setChecked(true);
@@ -331,6 +334,11 @@ private:
     QWidget* full() { return ScriptedHost::window("VLK_Widget_Config_Full"); }
     QString shownPage() { return child<QStackedWidget>("stackedWidget")->currentWidget()->objectName(); }
     QLineEdit* name() { return child<QLineEdit>("lineEdit_Name"); }
+    // Both windows have this box; what one holds the other takes over.
+    QSpinBox* portOf(const char* page) const
+    {
+        return child<QWidget>(page)->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main");
+    }
 
     // Types a path into the file dialog that opens next, and confirms that the file may be replaced.
     static void answerFileDialog(const QString& path, QString* suggested = nullptr)

@@ -1,8 +1,12 @@
 // Every setting of every page: the windows load, show and save what the settings alone make of a file.
 
 #include "dialog/config_pages.h"
+#include "dialog/form_config_light.h"
 #include "dialog/widget_config_full.h"
 #include "settings/all_settings.h"
+#include "settings/bluetooth_sensor_types.h"
+#include "settings/quick_settings.h"
+#include "settings/rs_settings.h"
 #include "support/device.h"
 #include "support/setting_samples.h"
 
@@ -19,19 +23,33 @@ private Q_SLOTS:
     {
         device().initialize(nullptr);
         window_ = std::make_unique<VLK_Widget_Config_Full>();
+        quick_ = std::make_unique<VLK_Form_Config_Light>();
     }
 
+    // Some forms are made when their device or type is chosen.
     void everyRowHasItsWidget()
     {
+        window_->pages().forEach([](vlk::HasSerialLine auto& page) {
+            for (const vlk::RsOwner& owner : vlk::kRsOwners)
+                page.settings().edit("OPTIONS/owner1", owner.code);
+        });
+        window_->pages().forEach([](vlk::FindsBluetooth auto& page) {
+            for (int sensor = 1; sensor <= vlk::kBluetoothSensors; ++sensor) {
+                for (const vlk::BluetoothSensorType& type : vlk::kBluetoothSensorTypes)
+                    page.settings().edit(QString("SENS%1/form").arg(sensor), type.code);
+            }
+        });
         QStringList sections;
         forEachPage([&](auto& page) {
             QCOMPARE(page.settings().binder().problems(), QStringList());
+            QCOMPARE(page.settings().binder().waiting(), QStringList());
             sections << page.settings().binder().table().section;
         });
         QStringList tables;
         for (const vlk::SettingsTable* table : vlk::allSettings())
             tables << table->section;
         QCOMPARE(sections, tables);
+        QCOMPARE(quick_->settings().binder().problems(), QStringList());
     }
 
     void manyFiles_data()
@@ -45,16 +63,23 @@ private Q_SLOTS:
     void manyFiles()
     {
         QFETCH(int, round);
-        QVector<QPair<QString, QString>> values;
-        for (int i = 0; i < configuration_.count(); ++i) {
-            const QStringList samples = samplesOf(configuration_.setting(configuration_.holder(i)));
-            values.append({configuration_.path(i), samples.at((round + 7 * i) % samples.size())});
-        }
-        const QByteArray file = documentWith(values);
+        const QByteArray file = mixtureOf(configuration_, round);
         const QByteArray expected = readAndWritten(configuration_, file);
         QCOMPARE(throughTheWindow(file), expected);
-        forEachPage([&](auto& page) { QCOMPARE(page.settings().binder().disagreements(), QStringList()); });
+        forEachPage(
+            [&](auto& page) { QCOMPARE(page.settings().binder().disagreements().join('\n'), QString()); });
         QCOMPARE(throughTheWindow(expected), savedAgain(configuration_, expected));
+    }
+
+    void manyFilesInTheQuickWindow_data() { manyFiles_data(); }
+    void manyFilesInTheQuickWindow()
+    {
+        QFETCH(int, round);
+        const QByteArray file = mixtureOf(quickSettings_, round);
+        const QByteArray expected = readAndWritten(quickSettings_, file);
+        QCOMPARE(throughTheQuickWindow(file), expected);
+        QCOMPARE(quick_->settings().binder().disagreements(), QStringList());
+        QCOMPARE(throughTheQuickWindow(expected), savedAgain(quickSettings_, expected));
     }
 
     // But for the few settings that a reset leaves alone.
@@ -64,13 +89,14 @@ private Q_SLOTS:
         const vlk::Configuration fresh = stateOf(saved());
         QVector<QPair<QString, QString>> values;
         for (int i = 0; i < configuration_.count(); ++i)
-            values.append({configuration_.path(i), samplesOf(configuration_.setting(i)).last()});
+            values.append({configuration_.row(i).filePath, samplesOf(configuration_.setting(i)).last()});
         throughTheWindow(documentWith(values));
         window_->setDefaults();
         for (const vlk::Difference& difference : fresh.differences(stateOf(saved())))
             QVERIFY2(fresh.setting(difference.index).resets == vlk::Setting::Reset::keeps,
                      qPrintable(fresh.path(difference.index)));
-        forEachPage([&](auto& page) { QCOMPARE(page.settings().binder().disagreements(), QStringList()); });
+        forEachPage(
+            [&](auto& page) { QCOMPARE(page.settings().binder().disagreements().join('\n'), QString()); });
     }
 
 private:
@@ -103,8 +129,35 @@ private:
         return saved();
     }
 
+    // Every setting with a sample, another one each round; each third round the quick window's sensors are
+    // on.
+    static QByteArray mixtureOf(const vlk::Configuration& configuration, int round)
+    {
+        QVector<QPair<QString, QString>> values;
+        for (int i = 0; i < configuration.count(); ++i) {
+            const QStringList samples = samplesOf(configuration.setting(configuration.holder(i)));
+            values.append({configuration.row(i).filePath, samples.at((round + 7 * i) % samples.size())});
+        }
+        if (round % 3 == 0)
+            values << qMakePair(QString("RS485/OPTIONS/owner1"), QString("FLDS"))
+                   << qMakePair(QString("BLUETOOTH/CHANNEL1/device"), QString("SENS"));
+        return documentWith(values);
+    }
+
+    QByteArray throughTheQuickWindow(const QByteArray& file)
+    {
+        quick_->setDefaults();
+        vlk::XmlDocument in(file, "DEVICE");
+        vlk::XmlDocument out(QString(), "DEVICE");
+        quick_->loadFromXml(in.root());
+        quick_->saveToXml(out.root());
+        return out.text();
+    }
+
     std::unique_ptr<VLK_Widget_Config_Full> window_;
+    std::unique_ptr<VLK_Form_Config_Light> quick_;
     vlk::Configuration configuration_{vlk::allSettings()};
+    vlk::Configuration quickSettings_{{&vlk::kQuickSettings}};
 };
 
 QTEST_MAIN(PagesTest)

@@ -3,6 +3,8 @@
 
 #include "settings/all_settings.h"
 #include "settings/normalise.h"
+#include "settings/quick_settings.h"
+#include "settings/user_param_settings.h"
 #include "support/files.h"
 #include "support/setting_samples.h"
 
@@ -86,7 +88,7 @@ QStringList widgetsOf(const vlk::Setting& setting)
     QStringList names;
     const auto add = [&](const char* name) {
         if (name && *name)
-            names << vlk::numberedName(name, setting.number, setting.inner);
+            names << vlk::numberedName(name, setting.number, setting.inner).section('/', -1);
     };
     add(setting.companion);
     add(setting.widget);
@@ -94,8 +96,10 @@ QStringList widgetsOf(const vlk::Setting& setting)
         add(code.widget);
     for (const vlk::PeriodPart& part : setting.parts)
         add(part.widget);
-    for (const vlk::Position& position : setting.positions)
-        add(position.widget);
+    for (const vlk::Position& position : setting.positions) {
+        for (const char* name : {position.widget, position.box})
+            add(name);
+    }
     for (const vlk::MaskField& field : setting.fields)
         names << vlk::numberedName(field.widget, field.number, 0);
     return names;
@@ -115,48 +119,77 @@ private Q_SLOTS:
         QTest::newRow("PROTOCOL") << QStringList{"data_set"};
         QTest::newRow("TRACK") << QStringList{"track"};
         QTest::newRow("SYSTEM") << QStringList{"system"};
+        QTest::newRow("RS485") << QStringList{"rs",      "rs_dtacan", "rs_dv01", "rs_rfid",
+                                              "rs_tach", "rs_tpms",   "rs_flds", "rs_pcnt"};
         QTest::newRow("SENSORS") << QStringList{"lines_in"};
         QTest::newRow("TEMPSENS") << QStringList{"temperature"};
         QTest::newRow("ACCEL") << QStringList{"accel"};
         QTest::newRow("OUTPUTS") << QStringList{"lines_out"};
+        QTest::newRow("BLUETOOTH") << QStringList{"bluetooth", "bt_fls", "bt_temp", "bt_ain", "bt_hs",
+                                                  "bt_as",     "bt_axs", "bt_fw",   "bt_us",  "bt_universal"};
+        QTest::newRow("") << QStringList{"quick"};
     }
     void pages()
     {
         QFETCH(QStringList, files);
         const QString section = QTest::currentDataTag();
-        const auto& tables = vlk::allSettings();
+        auto tables = vlk::allSettings();
+        if (section.isEmpty())
+            tables = {&vlk::kQuickSettings};
+        configuration_ = vlk::Configuration(tables);
         const auto table = std::find_if(tables.begin(), tables.end(),
                                         [&](const auto* known) { return known->section == section; });
         QVERIFY2(table != tables.end(), "no rows of this section");
         compared_ << section;
-        QVector<GoldenKey> golden;
-        for (const QString& file : files)
-            golden += GoldenTable(QString::fromUtf8(readFile(
-                                      QString(VLK_SOURCE "/tests/settings/golden/%1.tsv").arg(file))))
-                          .keys();
-        QVERIFY(!golden.isEmpty());
-
+        const vlk::TableLayout& layout = vlk::layoutOf(**table);
+        const int first = configuration_.firstOf(**table);
         QStringList wrong;
-        QStringList order;
-        for (const GoldenKey& key : golden) {
-            order << key.path;
-            const int index = configuration_.indexOf(key.path);
-            if (index < 0)
-                wrong << key.path + ": no row";
-            else
-                compare(key, index, &wrong);
+        std::vector<bool> known(layout.rows.size());
+        for (const QString& file : files) {
+            // The keys of a file are in the order of the rows. A key that several files have stands in the
+            // file of each under other conditions.
+            std::vector<std::size_t> found;
+            const GoldenTable golden(
+                QString::fromUtf8(readFile(QString(VLK_SOURCE "/tests/settings/golden/%1.tsv").arg(file))));
+            for (const GoldenKey& key : golden.keys()) {
+                const auto row =
+                    std::find_if(layout.rows.begin(), layout.rows.end(), [&](const auto& candidate) {
+                        return candidate.filePath == key.path && candidate.setting->stored &&
+                               !known[&candidate - layout.rows.data()];
+                    });
+                if (row == layout.rows.end()) {
+                    wrong << key.path + ": no row";
+                    continue;
+                }
+                found.push_back(row - layout.rows.begin());
+                known[found.back()] = true;
+                compare(key, first + static_cast<int>(found.back()), &wrong);
+            }
+            QVERIFY(!found.empty());
+            QVERIFY2(std::is_sorted(found.begin(), found.end()), qPrintable(file + ": another order"));
         }
-        QStringList rows;
-        for (const auto& row : vlk::layoutOf(**table).rows) {
-            if (row.setting->stored)
-                rows << row.path;
-        }
-        for (const QString& path : rows) {
-            if (!order.contains(path))
-                wrong << path + ": not in the golden table";
+        for (std::size_t row = 0; row < layout.rows.size(); ++row) {
+            const auto& place = layout.rows[row];
+            // The quick window's list of access points has the rows of the full one's.
+            const bool isKnown = known[row] || (section.isEmpty() && place.path.contains("/AUTOAPN/"));
+            if (place.setting->stored && place.key != "page" && !isKnown)
+                wrong << place.path + ": not in the golden table";
         }
         QVERIFY2(wrong.isEmpty(), qPrintable('\n' + wrong.join('\n')));
-        QCOMPARE(rows, order);
+    }
+
+    // They stand beside the data set where a tracker has the User tab; this one has not.
+    void slotsOfTheUser()
+    {
+        const vlk::Configuration slots({&vlk::kUserParamSettings});
+        const GoldenTable table(readFile(VLK_SOURCE "/tests/settings/golden/user_parameters.tsv"));
+        QStringList golden;
+        for (const GoldenKey& key : table.keys())
+            golden << key.path + '=' + plain(key.load);
+        QStringList rows;
+        for (int i = 0; i < slots.count(); ++i)
+            rows << slots.path(i) + '=' + slots.value(i);
+        QCOMPARE(rows, golden);
     }
 
     // Every table of the file is compared above.
@@ -179,8 +212,12 @@ private:
         if (!isFree(key.load))
             check("load default", loaded(index), plain(key.load));
         configuration_.reset();
-        const bool written = configuration_.isWritten(index);
         const QString reset = key.reset == "=" ? key.load : key.reset;
+        // A form that is not on show is reset too.
+        const bool hidden =
+            !configuration_.layout(index).groups[configuration_.row(index).group].present.empty() &&
+            reset != "absent";
+        const bool written = hidden || configuration_.isWritten(index);
         if (key.reset == "-")
             check("reset", row.resets == vlk::Setting::Reset::keeps ? "-" : "resets", "-");
         else if (!isFree(reset))
@@ -246,24 +283,22 @@ private:
         case vlk::Kind::real: {
             // Two values that keep a distance share the scale of their handles.
             vlk::Limits ends{row.least, row.most};
-            for (const vlk::SettingsTable* table : vlk::allSettings()) {
-                const vlk::TableLayout& layout = vlk::layoutOf(*table);
-                const int first = configuration_.firstOf(*table);
-                for (const auto& rule : layout.distances) {
-                    if (first + rule.first == index || first + rule.second == index)
-                        ends = {layout.rows[rule.first].setting->least,
-                                layout.rows[rule.second].setting->most};
-                }
+            const vlk::TableLayout& layout = configuration_.layout(index);
+            const int first = configuration_.firstOf(*layout.table);
+            for (const auto& rule : layout.distances) {
+                if (first + rule.first == index || first + rule.second == index)
+                    ends = {layout.rows[rule.first].setting->least, layout.rows[rule.second].setting->most};
             }
             // The range that holds where the element of the key is.
-            const vlk::TableLayout& layout = configuration_.layout(index);
             const vlk::TableLayout::Row& place = configuration_.row(index);
             for (const auto& rule : layout.ranges) {
                 const auto& present = layout.groups[place.group].present;
-                if (rule.row == place.target && rule.when.row == present.row &&
-                    rule.when.codes == present.codes)
+                if (rule.row == place.target && !present.empty() && rule.when.row == present[0].row &&
+                    rule.when.codes == present[0].codes)
                     ends = {rule.rule->least, rule.rule->most};
             }
+            if (row.hexadecimal)
+                return vlk::fileNumber(row, ends.least) + ".." + vlk::fileNumber(row, ends.most);
             const double factor = row.factor;
             const QString range =
                 QString("%1..%2")
@@ -277,6 +312,9 @@ private:
             QStringList known;
             for (const vlk::Code& code : row.codes)
                 (vlk::offersCode(row, code) ? offered : known) << (*code.code ? code.code : "\"\"");
+            // A list that another setting gives.
+            if (row.offers && !*row.offers)
+                return QString("%1|%2..%3").arg(row.none, known.first(), known.last());
             // The order of boxes is that of the form.
             if (row.codes[0].widget || row.codes.back().widget) {
                 const QStringList golden = key.values.split('|');

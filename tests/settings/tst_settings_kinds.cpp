@@ -57,31 +57,85 @@ constexpr auto kRows = rowsOf(
     integer("left", 20), integer("right", 30), integer("speed", 9600), integer("late", 0).readLast(),
     digits("conditions", "000", kBoxes), choice("preset", kNumbers, "0").byNumber().notStored(),
     text("one", ""), text("two", ""), group("A/CHILD").onlyWhen(when("A/use", "NB+|AIN")),
-    link("shared", "A/shared", 7), integer("own", 3),
+    link("shared", "A/shared", 7), integer("own", 3), group("W"), integer("alone", 3).notStored(), group("B"),
+    hexadecimal("byte", 255).range(0, 255), text("address", "").masked("HH:HH"),
+    integer("row", 0).range(1, 4).offAtZero("box").onUnlessZero(), integer("fresh", 0),
+    choice("kept", kUses, "NU").unknownIs("NB+").unofferedLeavesIt(), choice("kind", kNumbers, "0"),
+    group("EMPTY").ifAny(), integer("some", 1).onlyWhen(when("B/kind", "9")),
+    group("C").named("second C").onlyWhen(when("B/kind", "7")), integer("alone", 1), repeat<3>([](int) {
+        return rowsOf(group("SOLE%1"), flag("on", 0), choice("list", kNumbers, "0").byNumber(),
+                      choice("number", kNumbers, "0")
+                          .byNumber()
+                          .unknownIs("1")
+                          .noItemIs("-")
+                          .resetTo("-")
+                          .offering("")
+                          .unofferedLeavesIt());
+    }),
     repeat<2>([](int number) { return rowsOf(group("R%1"), integer("n%1", number)); }));
 constexpr auto kPulls =
     rulesOf(Pull{.when = when("A/whole", "7"), .set = "A/flag", .to = "0"},
             Pull{.when = when("A/flag", "0"), .set = "A/whole", .to = "8"},
+            Pull{.when = when("B/row"), .set = "B/fresh", .to = "1", .onset = true},
+            Pull{.when = when("A/whole", "6"), .set = "W/alone", .to = "9", .also = when("A/use", "AIN")},
             Pull{.when = when("A/speed", "1"), .set = "A/late", .to = "4", .onRead = true});
 constexpr Bound kBounds[] = {{.when = unless("A/line"), .path = "A/conditions", .to = "*00"}};
 constexpr Distance kDistances[] = {
     {.first = "A/low", .second = "A/high", .gap = 0.5},
     {.first = "A/left", .second = "A/right", .gap = 1, .gapFrom = "A/hysteresis"}};
-constexpr RangeWhen kRanges[] = {{.when = when("A/use", "AIN"), .path = "A/shared", .least = 1, .most = 500},
-                                 {.when = when("A/line"), .path = "A/form", .offers = "0|1"},
-                                 {.when = when("A/line"), .path = "A/lists", .offers = "0|1"}};
+constexpr auto kRanges = rulesOf(
+    RangeWhen{.when = when("A/use", "AIN"), .path = "A/shared", .least = 1, .most = 500},
+    RangeWhen{.when = when("A/line"), .path = "A/form", .offers = "0|1"},
+    RangeWhen{.when = when("A/line"), .path = "A/lists", .offers = "0|1"}, repeat<3>([](int) {
+        constexpr When list = when("SOLE%1/list", "1");
+        return rulesOf(
+            RangeWhen{.when = list, .path = "SOLE%1/number", .offers = "1|3", .startsOver = true},
+            RangeWhen{
+                .when = when("SOLE%1/list", "0"), .path = "SOLE%1/number", .offers = "", .startsOver = true});
+    }));
+constexpr auto kSoles = repeat<3>([](int) {
+    return Sole{.path = "SOLE%1/number", .when = when("SOLE%1/on"), .list = "numbers", .holder = "SOLE%1"};
+});
+constexpr auto kEnables = rulesOf(enable("same", whenSame("A/speed", "A/late")));
 constexpr PresetRow kReady[] = {{"0", {"a", "b"}}, {"1", {"c", nullptr}}, {"3", {"", ""}}};
 constexpr Presets kPresets[] = {
     {.trigger = "A/preset", .fields = {"A/one", "A/two"}, .rows = kReady, .other = "3"}};
-constexpr Derived kDerived[] = {{.path = "A/server", .from = "A/address", .off = "none"}};
+constexpr Derived kDerived[] = {{.path = "A/server", .any = {unless("A/address", "none")}}};
 constexpr SettingsTable kTable{.section = "S",
                                .rows = kRows,
                                .pulls = kPulls,
                                .bounds = kBounds,
                                .distances = kDistances,
                                .ranges = kRanges,
+                               .soles = kSoles,
                                .presets = kPresets,
-                               .derived = kDerived};
+                               .derived = kDerived,
+                               .enables = kEnables};
+
+// Over two sections, of which a save empties the second.
+constexpr auto kWideRows =
+    rowsOf(group("P").keeping(), text("mask", "0000").carriedOver().staying(), group("Q"),
+           constant("page", "Q"), flag("any", 0).notStored(), flag("one", 0).notStored(),
+           choice("use", kNumbers, "0").offering("0|1").notStored().staying(), integer("owner", 1),
+           group("Q/C"), text("state", "a"), integer("ign", 0).notStored(), group("Q/C/I"),
+           link("ign", "Q/C/ign", 1).withoutElement(0),
+           group("Q/E").onlyWhen(when("Q/any"), when("Q/one")).readWhen(when("Q/owner", "1")),
+           link("use", "Q/one", 0));
+constexpr PresetRow kSettled[] = {
+    {"0", {"a", "0"}}, {"1", {"b", "1"}}, {"3", {"c", nullptr}}, {"0", {"b", "0"}}};
+constexpr Presets kWidePresets[] = {
+    {.trigger = "Q/use", .fields = {"Q/C/state", "Q/C/ign"}, .rows = kSettled, .settles = true}};
+constexpr Derived kWideDerived[] = {{.path = "Q/any", .any = {when("Q/one"), when("Q/C/ign")}}};
+constexpr int kFirstTwo[] = {0, 1, 9};
+constexpr int kSecond[] = {1};
+constexpr MaskPositions kWideMasks[] = {
+    {.path = "P/mask", .positions = kFirstTwo, .to = '0'},
+    {.path = "P/mask", .positions = kSecond, .when = {when("Q/any"), when("Q/one")}}};
+constexpr SettingsTable kWide{.rows = kWideRows,
+                              .presets = kWidePresets,
+                              .derived = kWideDerived,
+                              .masks = kWideMasks,
+                              .emptied = false};
 
 } // namespace
 
@@ -160,6 +214,99 @@ private Q_SLOTS:
         QTEST(change, "change");
     }
 
+    void readingMore_data()
+    {
+        DataTable<QString, QString, QString, Change> table({"key", "text", "value", "change"});
+        table.row("hexadecimal", "byte", "0F", "0F", Change::none);
+        table.row("hexadecimal, short", "byte", "f", "0F", Change::rounded);
+        table.row("hexadecimal, too much", "byte", "100", "FF", Change::outOfRange);
+        table.row("not hexadecimal", "byte", "xy", "00", Change::notANumber);
+        table.row("empty mask", "address", "", ":", Change::otherForm);
+        table.row("mask, filled", "address", "0a:Bc", "0a:Bc", Change::none);
+        table.row("mask, without its signs", "address", "0aBc", "0a:Bc", Change::otherForm);
+        table.row("mask, partly", "address", "x1:b y7:", "1:b7", Change::otherForm);
+        table.row("any number but 0 is on", "row", "-4", "1", Change::outOfRange);
+        table.row("0 is off", "row", "0", "0", Change::none);
+        table.row("not offered, stays", "kept", "PLS", "NU", Change::notOffered);
+        table.row("unknown, does not", "kept", "XXX", "NB+", Change::unknownCode);
+    }
+    void readingMore()
+    {
+        QFETCH(QString, key);
+        QFETCH(QString, text);
+        const int index = configuration_.indexOf("S/B/" + key);
+        Change change = Change::none;
+        for (const ReadNote& note : read({{"S/B/" + key, text}})) {
+            if (note.index == index)
+                change = note.change;
+        }
+        QTEST(configuration_.value(index), "value");
+        QTEST(change, "change");
+    }
+
+    // Three settings with one list of two numbers.
+    void sharedLists_data()
+    {
+        DataTable<QStringList, QString>({"edits", "numbers"})
+            .row("no list", {}, "- - -")
+            .row("another list brings its first number", {"1/list=1", "1/number=3", "2/list=1"}, "3 1 -")
+            .row("what holds nothing yields", {"1/list=1", "2/list=1", "1/on=1"}, "1 3 -")
+            .row("what is taken is no choice", {"1/list=1", "1/on=1", "2/list=1", "2/number=1"}, "1 3 -")
+            .row("nor what stands for the unknown",
+                 {"1/list=1", "1/on=1", "2/list=1", "2/on=1", "2/number=x"}, "1 3 -")
+            .row("the last one yields backwards",
+                 {"1/list=1", "1/number=3", "2/list=1", "2/number=3", "1/on=1"}, "3 1 -")
+            .row("none is left", {"1/list=1", "1/on=1", "2/list=1", "2/on=1", "3/on=1", "3/list=1"}, "1 3 -")
+            .row("one is given back",
+                 {"1/list=1", "1/on=1", "2/list=1", "2/on=1", "3/on=1", "3/list=1", "2/on=0"}, "1 3 3");
+    }
+    void sharedLists()
+    {
+        QFETCH(QStringList, edits);
+        for (const QString& step : edits)
+            configuration_.edit(configuration_.indexOf("S/SOLE" + step.section('=', 0, 0)),
+                                step.section('=', 1));
+        QStringList numbers;
+        for (const char* row : {"1", "2", "3"})
+            numbers << configuration_.value(QString("S/SOLE%1/number").arg(row));
+        QTEST(numbers.join(' '), "numbers");
+    }
+
+    void moreRules()
+    {
+        const auto edit = [&](const char* path, const char* text) {
+            configuration_.edit(configuration_.indexOf(path), text);
+        };
+        edit("S/B/row", "2");
+        QCOMPARE(configuration_.value("S/B/fresh"), QString("1"));
+        edit("S/B/fresh", "5");
+        edit("S/B/row", "3");
+        QCOMPARE(configuration_.value("S/B/fresh"), QString("5"));
+        const TableLayout::Enable& same = layoutOf(kTable).enables[0];
+        QVERIFY(!configuration_.holds(kTable, same));
+        edit("S/A/late", "9600");
+        QVERIFY(configuration_.holds(kTable, same));
+    }
+
+    void elementsOfAnOwner()
+    {
+        const auto written = [](auto write) {
+            XmlDocument document(QString(), "DEVICE");
+            write(*document.root());
+            return QString::fromUtf8(document.text());
+        };
+        const QString all = written([&](CXmlSection& root) { configuration_.write(root); });
+        QVERIFY(all.contains("<B ") && !all.contains("EMPTY") && !all.contains("<C "));
+        XmlDocument in(documentWith({{"C/alone", "4"}, {"B/byte", "01"}}), "DEVICE");
+        configuration_.readUnder(*in.root(), kTable, "S/B/kind", "7");
+        QCOMPARE(configuration_.value("S/second C/alone"), QString("4"));
+        QCOMPARE(configuration_.value("S/B/byte"), QString("FF"));
+        QCOMPARE(configuration_.value("S/B/kind"), QString("0"));
+        const QString own =
+            written([&](CXmlSection& root) { configuration_.writeUnder(root, kTable, "S/B/kind", "7"); });
+        QVERIFY(own.contains("<C alone=\"4\"") && !own.contains("<B "));
+    }
+
     void defaults()
     {
         QCOMPARE(configuration_.value("S/A/blank"), QString());
@@ -188,6 +335,24 @@ private Q_SLOTS:
         QCOMPARE(configuration_.value("S/A/shared"), QString("0"));
     }
 
+    // A group without stored values is not in the file, and a read leaves it alone.
+    void windowGroups()
+    {
+        configuration_.edit(configuration_.indexOf("S/W/alone"), "5");
+        XmlDocument in(documentWith({{"S/W/alone", "7"}}), "DEVICE");
+        std::vector<ReadNote> notes;
+        configuration_.read(*in.root(), &notes);
+        QVERIFY(std::any_of(notes.begin(), notes.end(), [](const ReadNote& note) {
+            return note.what == ReadNote::What::foreignElement && note.path == "S/W";
+        }));
+        QCOMPARE(configuration_.value("S/W/alone"), QString("5"));
+        XmlDocument out(QString(), "DEVICE");
+        configuration_.write(*out.root());
+        QVERIFY(!out.text().contains("<W"));
+        configuration_.reset();
+        QCOMPARE(configuration_.value("S/W/alone"), QString("3"));
+    }
+
     void edits_data()
     {
         DataTable<QStringList, QString>({"edits", "changed"})
@@ -196,7 +361,9 @@ private Q_SLOTS:
             .row("pulls another, once", {"whole=7"}, "whole=7 flag=0")
             .row("pulls back", {"flag=0"}, "flag=0 whole=8")
             .row("a preset", {"preset=1", "preset=0"}, "preset=0 one=a two=b")
+            .row("a preset once more", {"preset=1", "one=z", "preset=1"}, "one=c")
             .row("a preset that leaves a field", {"one=z", "two=y", "preset=1"}, "preset=1 one=c")
+            .row("only with another", {"whole=6", "whole=5", "use=AIN", "whole=6"}, "whole=6 alone=9")
             .row("bound at any time", {"line=3", "conditions=101", "line=0"}, "line=0 conditions=100")
             .row("first handle pushes", {"low=5700"}, "low=5700 high=6200")
             .row("first handle at the end", {"low=31000"}, "low=30500 high=31000")
@@ -240,6 +407,38 @@ private Q_SLOTS:
                 given << note.path + ' ' + note.text + ' ' + note.value;
         }
         QCOMPARE(given, QStringList("S/A/low 5700 5400"));
+    }
+
+    // What a document holds already stays where a group keeps it, and goes where one does not.
+    void overSeveralSections_data()
+    {
+        const QString unused = "<Q page=Q owner=1><C state=a><I ign=0/></C></Q>";
+        DataTable<QString, QString, QString>({"file", "over", "after"})
+            .row("nothing", "", "", "<P mask=0000></P>" + unused)
+            .row("kept, carried over", "", "<P mask='1111' other='1'/><Q other='1'/>",
+                 "<P mask=0011 other=1></P>" + unused)
+            .row("settles", "<Q><C state='b'><I ign='0'/></C></Q>", "", "<P mask=0000></P>" + unused)
+            .row("element without its key", "<Q><C state='b'><I a='1'/></C></Q>", "",
+                 "<P mask=0000></P><Q page=Q owner=1><C state=b><I ign=1/></C></Q>")
+            .row("not offered", "<Q><C state='c'/></Q>", "", "<P mask=0000></P>" + unused)
+            .row("read and written under other conditions", "<Q owner='1'><E use='1'/></Q>", "",
+                 "<P mask=0100></P><Q page=Q owner=1><C state=a><I ign=0/></C><E use=1/></Q>")
+            .row("not readable", "<Q owner='2'><E use='1'/></Q>", "",
+                 "<P mask=0000></P><Q page=Q owner=2><C state=a><I ign=0/></C></Q>");
+    }
+    void overSeveralSections()
+    {
+        QFETCH(QString, file);
+        QFETCH(QString, over);
+        Configuration wide({&kWide});
+        QCOMPARE(layoutOf(kWide).problems, QStringList());
+        XmlDocument in(("<DEVICE>" + file + "</DEVICE>").toLatin1(), "DEVICE");
+        XmlDocument out(("<DEVICE>" + over + "</DEVICE>").toLatin1(), "DEVICE");
+        wide.read(*in.root());
+        wide.write(*out.root());
+        QString after = out.text();
+        after.remove(QRegularExpression("[\\n\\t\"]|<\\?.*\\?>|</?DEVICE>"));
+        QTEST(after, "after");
     }
 
     void texts_data()

@@ -24,13 +24,15 @@ public:
     QString vendor() const override { return QStringLiteral("VELTRONIKA"); }
     QString trackerId1() const override { return {}; }
     QString trackerId2() const override { return {}; }
-    quint64 capabilityMask() const override { return 0; }
+    quint64 capabilityMask() const override { return capabilities; }
     int mode() const override { return 0; }
     QString fileVersion() const override { return QStringLiteral("3.3.0"); }
     char* balanceUssd() override { return balanceUssd_; }
     void setLiveOwner(int /*owner*/) override {}
     void showHelp(const QString& /*page*/) override {}
     void showText(const QString& /*title*/, const QString& /*html*/) override {}
+
+    quint64 capabilities = 0;
 
 private:
     vlk::HostCallback callback_ = nullptr;

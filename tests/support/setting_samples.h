@@ -68,9 +68,11 @@ inline QVector<QPair<QString, QString>> presenceOf(const vlk::Configuration& con
     const vlk::TableLayout& layout = configuration.layout(index);
     const vlk::TableLayout::Row& row = configuration.row(index);
     QVector<QPair<QString, QString>> values;
-    for (const auto* condition : {&layout.groups[row.group].present, &row.present}) {
-        if (condition->row >= 0 && !condition->negated)
-            values.append({layout.rows[condition->row].path, condition->codes.value(0, "1")});
+    for (const auto& conditions : {layout.groups[row.group].readable, row.present}) {
+        for (const auto& condition : conditions) {
+            if (!condition.negated)
+                values.append({layout.rows[condition.row].filePath, condition.codes.value(0, "1")});
+        }
     }
     return values;
 }
@@ -87,8 +89,14 @@ inline QByteArray readAndWritten(vlk::Configuration& configuration, const QByteA
 }
 
 // What becomes of a saved file that is loaded and saved once more: nothing. Only a line whose use is not
-// offered is saved as "N/A", and that reads as a line that is not used.
+// offered is saved as "N/A", and that reads as a line that is not used; and the quick window leaves out fuel
+// level sensors that are not used, while one that is not in the file reads as used.
 inline QByteArray savedAgain(vlk::Configuration& configuration, const QByteArray& saved)
 {
-    return saved.contains("=\"N/A\"") ? readAndWritten(configuration, saved) : saved;
+    bool readsOtherwise = saved.contains("=\"N/A\"");
+    if (configuration.layout(0).section.isEmpty()) {
+        for (const char* sensor : {"<FS1 ", "<FS2 ", "<SENS3 ", "<SENS4 "})
+            readsOtherwise = readsOtherwise || !saved.contains(sensor);
+    }
+    return readsOtherwise ? readAndWritten(configuration, saved) : saved;
 }

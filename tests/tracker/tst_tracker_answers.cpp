@@ -94,6 +94,18 @@ private Q_SLOTS:
         QCOMPARE(bench.ask(Message::StartBtSearch).first, QByteArray("2"));
     }
 
+    // It tells so when it is attached, as if it had been another one.
+    void hasNoBluetooth()
+    {
+        BenchTracker bench;
+        QCOMPARE(bench.tracker->capabilityMask(), quint64(0x800));
+        QSignalSpy attached(bench.tracker.get(), &tracker::SimulatedTracker::attachedChanged);
+        bench.tracker->setFaults({.noBluetooth = true});
+        QCOMPARE(attached.size(), bench.tracker->attached() ? 2 : 0);
+        QCOMPARE(bench.tracker->capabilityMask(), quint64(0));
+        QCOMPARE(bench.ask(Message::StartBtSearch).first, QByteArray("2"));
+    }
+
     void answersTheTachograph()
     {
         BenchTracker bench;

@@ -4,6 +4,7 @@
 #include "bench_tracker.h"
 #include "check/record_check.h"
 #include "support/data_table.h"
+#include "tracker/vehicle.h"
 
 #include "dataset/catalogue/field_mask.h"
 
@@ -77,7 +78,7 @@ private Q_SLOTS:
                  "max=\"8.0\"=>max=\"3.0\"", "sh1=\"50.0\"=>sh1=\"40.0\"", "sh2=\"100.0\"=>sh2=\"60.0\"",
                  "sh4=\"25.00\"=>sh4=\"3.00\""},
                 "2:0 3:0 4:0 5:0 10:0 12:20-300 14:40+ 20:3-20 22:3-20 23:0 26:50+ 30:3+ 31:1+ 33:3+ 34:3-20 "
-                "35:3-20 39:2+")
+                "35:3-20 36:3-20 39:2+")
             .row("time",
                  {byTime + "moveTimer=\"60\"", start, "useMaxSpeed=\"1\"=>useMaxSpeed=\"0\"",
                   door + "normState=\"NS-\"", supply("10500", "0"), "min=\"-25.0\"=>min=\"4.0\"",
@@ -87,7 +88,10 @@ private Q_SLOTS:
                  {byTime + "moveTimer=\"0\"", door + "normState=\"NU\"", supply("12900", "90000")},
                  "2:0 22:0 34:0")
             .row("parked", {"stopTimer=\"300\"=>stopTimer=\"3600\""}, "5:10-60")
-            .row("way", {points + "angleMode=\"0\" useTimer=\"0\" useDist=\"1\" dist=\"1000\""}, "3:100-600")
+            .row("way, the engine without records",
+                 {points + "angleMode=\"0\" useTimer=\"0\" useDist=\"1\" dist=\"1000\"",
+                  "noEvent=\"0\" delay=\"0\"/>\n\t\t<PWRSENS=>noEvent=\"1\"/><PWRSENS", supply("12900", "0")},
+                 "3:100-600 34:3-20 36:0")
             .row("fixed angle", {byAngle + "angle=\"20\""}, "4:20-1500")
             .row("a wide angle", {byAngle + "angle=\"90\""}, "4:0-60");
     }
@@ -138,7 +142,7 @@ private Q_SLOTS:
                          "<PWRSENS line=\"3\" alarmLvl=\"12900\" restoreLvl=\"13200\"");
         // Off with the ignition's voltage, on without it.
         document.replace("mode=\"ZUM\" actions=\"00000000000000000000\"",
-                         "mode=\"GP\" actions=\"00000000012000000000\"");
+                         "mode=\"GP\" onDelay=\"0\" actions=\"00000000012000000000\"");
         QVERIFY(bench.write(document).accepted);
         int on = 0;
         for (int hour = 1; hour <= 24; ++hour) {
@@ -158,6 +162,60 @@ private Q_SLOTS:
             on += output;
         }
         QVERIFY(on > 0 && on < 24);
+    }
+
+    void outputWaits_data()
+    {
+        // The supply falls while the vehicle drives, and it stops after 100 seconds. -1: the line stays off.
+        DataTable<int, int, QByteArray, int>({"delay", "whenSafe", "actions", "onAfter"})
+            .row("at once", 0, 0, "00000000010000000000", 0)
+            .row("delayed", 60, 0, "00000000010000000000", 60)
+            .row("when the vehicle stands", 0, 1, "00000000010000000000", 100)
+            .row("both", 60, 1, "00000000010000000000", 160)
+            .row("nothing", 0, 0, "00000000000000000000", -1);
+    }
+    void outputWaits()
+    {
+        QFETCH(QByteArray, actions);
+        QFETCH(int, delay);
+        QFETCH(int, whenSafe);
+        constexpr int end = 300;
+        tracker::WorkingSettings settings;
+        settings.supply = {.line = 3, .alarm = 30000, .restore = 31000};
+        settings.shockLevels = {5000, 0, 0, 0};
+        settings.output.use = 1;
+        for (int i = 0; i < actions.size(); ++i)
+            settings.output.actions[std::size_t(i)] = actions[i] - '0';
+        settings.output.delay = delay;
+        settings.output.whenSafe = whenSafe;
+        tracker::Moment moment;
+        moment.sensed.shocks = 1;
+        moment.settings = std::make_shared<tracker::WorkingSettings>(settings);
+        int onAfter = -1;
+        for (int second = 0; second < end; ++second) {
+            moment.time = 1780000000 + second;
+            moment.activity = second < 100 ? tracker::Activity::Driving : tracker::Activity::Parked;
+            std::vector<tracker::EventCode> events;
+            moment.sensed = sense(tracker::Vehicle(moment, {}), settings, events);
+            if (onAfter < 0 && moment.sensed.outputNow(settings.output, moment.time))
+                onAfter = second;
+        }
+        QTEST(onAfter, "onAfter");
+    }
+
+    void restoredShockSensorSwitchesTheOutput()
+    {
+        tracker::WorkingSettings settings;
+        settings.shockLevels = {5000, 0, 0, 0};
+        settings.output.use = 1;
+        settings.output.actions[16] = 2;
+        tracker::Moment moment;
+        moment.sensed.output = true;
+        for (const quint8 shocks : {quint8(0), quint8(1)}) {
+            moment.sensed.shocks = shocks;
+            std::vector<tracker::EventCode> events;
+            QCOMPARE(sense(tracker::Vehicle(moment, {}), settings, events).output, shocks == 0);
+        }
     }
 
     void recordsHoldWhatTheConfigurationAsksFor_data()
@@ -201,6 +259,47 @@ private Q_SLOTS:
         QCOMPARE(record.size(), head + mask.payloadSize(69));
         // The present record is filled up to the shortest frame.
         QCOMPARE(bench.ask(Message::RequestCurrentRecord).first.size(), vlk::shortestCurrentRecord);
+    }
+
+    // What the serial line's owner and its settings put into the fields of its devices.
+    void devicesOnTheLine_data()
+    {
+        DataTable<QByteArray, QString>({"settings", "filled"})
+            .row("nothing", "<OPTIONS owner1=\"\"/>", "")
+            .row("sensors by their addresses",
+                 "<OPTIONS owner1=\"FLDS\"/><FS2 use=\"1\" address=\"1\"/><FS3 use=\"1\" address=\"99\"/>"
+                 "<FS9 use=\"1\" address=\"1\"/><FS1 use=\"0\" address=\"1\"/>",
+                 "LevelRS485_2 LevelRS485_9")
+            .row("tyres", "<OPTIONS owner1=\"TPMS\"/><FS1 use=\"1\" address=\"1\"/>", "TiresPres1")
+            .row("refrigerator", "<OPTIONS owner1=\"REFR\"/>", "RefrTension")
+            .row("tachograph", "<OPTIONS owner1=\"TACH\"/>", "TahoOdometer")
+            .row("counters", "<OPTIONS owner1=\"PCNT\"/><PCNT type=\"PP01\" id2=\"7\"/>", "Passager_2");
+    }
+    void devicesOnTheLine()
+    {
+        QFETCH(QByteArray, settings);
+        BenchTracker bench;
+        QVERIFY(bench.write("<DEVICE model=\"R-7106\"><RS485>" + settings + "</RS485></DEVICE>").accepted);
+        bench.now += 60;
+        bench.tracker->setFullDataSet(true);
+        const QByteArray record = bench.currentRecord();
+        QStringList filled;
+        const auto look = [&](const char* name, unsigned none) {
+            const auto index = *vlk::findElement(name);
+            unsigned told = value<quint32>(record, index);
+            if (vlk::kElements[index].width < 4)
+                told &= (1U << (8 * vlk::kElements[index].width)) - 1;
+            if (told != none)
+                filled << name;
+        };
+        for (const char* name :
+             {"LevelRS485_1", "LevelRS485_2", "LevelRS485_3", "LevelRS485_9", "TiresPres1"})
+            look(name, 0);
+        look("RefrTension", 0xFFFF);
+        look("TahoOdometer", 0xFFFFFFFF);
+        look("Passager_1", 255);
+        look("Passager_2", 255);
+        QTEST(filled.join(' '), "filled");
     }
 
     void everyRequestHasItsHeader()

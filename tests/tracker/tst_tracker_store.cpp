@@ -1,8 +1,11 @@
 // The configuration in the tracker: read, written, refused, kept over restarts and crashes.
 
 #include "bench_tracker.h"
+#include "settings/all_settings.h"
+#include "settings/configuration.h"
 #include "support/data_table.h"
 #include "tracker/configuration_values.h"
+#include "xml/xml_document.h"
 
 #include <QDomDocument>
 #include <QSignalSpy>
@@ -51,6 +54,15 @@ private Q_SLOTS:
         }
         QCOMPARE(sections, QStringList({"TRANS", "PROTOCOL", "TRACK", "SYSTEM", "RS485", "TEMPSENS",
                                         "SENSORS", "ACCEL", "OUTPUTS", "BLUETOOTH"}));
+        // Every setting that the windows know has a value that they take as it stands.
+        vlk::Configuration known(vlk::allSettings());
+        vlk::XmlDocument in(bench.configuration(), "DEVICE");
+        std::vector<vlk::ReadNote> notes;
+        known.read(*in.root(), &notes);
+        QStringList changed;
+        for (const vlk::ReadNote& note : notes)
+            changed << note.path + '=' + note.text;
+        QCOMPARE(changed, QStringList());
         const auto zeta = document.documentElement().firstChildElement("PROTOCOL").firstChildElement("ZETA");
         QCOMPARE(zeta.attribute("mask").size(), 255);
         QCOMPARE(document.elementsByTagName("IN1").at(0).toElement().attribute("name"), QString("Зажигание"));

@@ -1,7 +1,8 @@
 #pragma once
 
-// The search for Bluetooth devices around the tracker: it begins, finds a few one by one, and ends. With
-// Bluetooth switched off in the configuration it fails at once.
+// The search for Bluetooth devices around the tracker: it begins, finds sensors and other devices one by one,
+// some of one name, one late, and ends. Without Bluetooth, or with Bluetooth switched off in the
+// configuration, it fails at once.
 
 #include "tracker/answer.h"
 

@@ -11,6 +11,7 @@ struct Faults
     bool shortAnswers = false;   // byte arrays lose their second half, fixed records have it zeroed
     bool garbledAnswers = false; // every fifth byte is wrong
     bool badBoard = false;       // voltages out of their limits and no fix in the records from now on
+    bool noBluetooth = false;    // a tracker without Bluetooth, as it says when it is attached
     bool unplug = false;         // the cable goes while the next answer is under way; clears itself
 
     bool operator==(const Faults&) const = default;

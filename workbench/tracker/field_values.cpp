@@ -18,7 +18,30 @@ struct Row
     double (*value)(const Vehicle& v, int index);
     int count = 1;
     int stride = 1;
+    // The device on the serial line that tells it, and what stands there while another one owns the line.
+    LineOwner device = LineOwner::Other;
+    double absent = 0;
 };
+
+// What a fuel sensor of the line says, 0 where no sensor is.
+template <class Say>
+double ofSensor(const Vehicle& v, int row, Say say)
+{
+    const int sensor = v.sensorOnLine(row);
+    return sensor < 0 ? 0 : say(sensor);
+}
+double fuelOf(const Vehicle& v, int row)
+{
+    return ofSensor(v, row, [&](int sensor) { return v.fuelSensor(sensor); });
+}
+double fuelTemperatureOf(const Vehicle& v, int row)
+{
+    return ofSensor(v, row, [&](int) { return v.m.outside + 4; });
+}
+double fuelFrequencyOf(const Vehicle& v, int row)
+{
+    return ofSensor(v, row, [&](int sensor) { return 800 + v.fuelSensor(sensor) / 4; });
+}
 
 // What the vehicle has nothing to say about.
 template <int value>
@@ -27,8 +50,9 @@ double constant(const Vehicle& /*v*/, int /*index*/)
     return value;
 }
 constexpr auto zero = constant<0>;
-constexpr auto none8 = constant<255>;
 
+constexpr double noValue16 = 0xFFFF;
+constexpr double noValue32 = 0xFFFF'FFFF;
 constexpr double coordinate = 600000;
 constexpr double fineCoordinate = 600000000;
 constexpr double hour = 3600;
@@ -66,7 +90,7 @@ constexpr Row rows[] = {
     {element("StateIn_Imp1"), [](const Vehicle& v, int i) { return i == 0 ? v.m.at.km * 10 : 0; }, 2},
     {element("Frequency1"), [](const Vehicle& v, int i) { return v.frequency(i); }, 2},
     {element("Motochas"), [](const Vehicle& v, int) { return std::floor(v.m.at.engineSeconds / hour); }},
-    {element("LevelRS485_1"), [](const Vehicle& v, int i) { return v.fuelSensor(i); }, 6},
+    {element("LevelRS485_1"), fuelOf, 6},
     {element("LevelRS232"), zero},
     {element("Temp1"), [](const Vehicle& v, int i) { return v.temperature(i); }, 8},
 
@@ -100,19 +124,19 @@ constexpr Row rows[] = {
     {element("LbsLevel"), [](const Vehicle& v, int i) { return v.stationLevel(i); }, 3, 5},
     {element("LbsTime"), [](const Vehicle& v, int) { return double(v.m.time); }},
 
-    {element("TempRS485_1"), [](const Vehicle& v, int i) { return i < 2 ? v.m.outside + 4 : 0; }, 6},
-    {element("LevelRS485_7"), zero, 10, 2},
-    {element("TempRS485_7"), zero, 10, 2},
-    {element("TiresNum1"), [](const Vehicle&, int i) { return double(i + 1); }, 30, 3},
-    {element("TiresPres1"), [](const Vehicle& v, int i) { return v.tyrePressure(i); }, 30, 3},
-    {element("TiresTemp1"), [](const Vehicle& v, int i) { return v.tyreTemperature(i); }, 30, 3},
+    {element("TempRS485_1"), fuelTemperatureOf, 6},
+    {element("LevelRS485_7"), [](const Vehicle& v, int i) { return fuelOf(v, 6 + i); }, 10, 2},
+    {element("TempRS485_7"), [](const Vehicle& v, int i) { return fuelTemperatureOf(v, 6 + i); }, 10, 2},
+    {element("TiresNum1"), [](const Vehicle&, int i) { return double(i + 1); }, 30, 3, LineOwner::Tyres},
+    {element("TiresPres1"), [](const Vehicle& v, int i) { return v.tyrePressure(i); }, 30, 3, LineOwner::Tyres},
+    {element("TiresTemp1"), [](const Vehicle& v, int i) { return v.tyreTemperature(i); }, 30, 3, LineOwner::Tyres, -127},
 
-    {element("TahoState"), [](const Vehicle& v, int) { return v.tachographState(); }},
-    {element("TahoMode"), constant<1>},
-    {element("TahoFlags"), [](const Vehicle& v, int) { return v.driving() ? 3.0 : 1.0; }},
-    {element("TahoSpeed"), [](const Vehicle& v, int) { return v.m.speed; }},
-    {element("TahoOdometer"), [](const Vehicle& v, int) { return (68000 + v.m.at.km) * 10; }},
-    {element("TahoTime"), [](const Vehicle& v, int) { return double(v.m.time); }},
+    {element("TahoState"), [](const Vehicle& v, int) { return v.tachographState(); }, 1, 1, LineOwner::Tachograph},
+    {element("TahoMode"), constant<1>, 1, 1, LineOwner::Tachograph},
+    {element("TahoFlags"), [](const Vehicle& v, int) { return v.driving() ? 3.0 : 1.0; }, 1, 1, LineOwner::Tachograph},
+    {element("TahoSpeed"), [](const Vehicle& v, int) { return v.m.speed; }, 1, 1, LineOwner::Tachograph},
+    {element("TahoOdometer"), [](const Vehicle& v, int) { return (68000 + v.m.at.km) * 10; }, 1, 1, LineOwner::Tachograph, noValue32},
+    {element("TahoTime"), [](const Vehicle& v, int) { return double(v.m.time); }, 1, 1, LineOwner::Tachograph},
     {element("DispCur"), [](const Vehicle& v, int) { return v.driving() ? 2.0 : 1.0; }},
     {element("DispLastIndex"), constant<41>},
 
@@ -126,7 +150,7 @@ constexpr Row rows[] = {
     {element("AccelAngularMinus"),
      [](const Vehicle& v, int) { return std::min(0.0, v.m.acceleration) * milliG; }},
     {element("AccelAngularCorner"), [](const Vehicle& v, int) { return v.lateral() * 1000; }},
-    {element("Passager_1"), none8, 16},
+    {element("Passager_1"), [](const Vehicle& v, int i) { return v.passengers(i); }, 16},
     {element("AinfState"), zero},
     {element("AinfGeozoneID"), zero, 3},
     {element("CameraState"), zero},
@@ -151,8 +175,7 @@ constexpr Row rows[] = {
     {element("EcoDrvAccel2"),
      [](const Vehicle& v, int) { return v.thresholds(-v.lateral()) + 16 * v.thresholds(v.lateral()); }},
     {element("EcoDrvAccel3"), [](const Vehicle& v, int) { return v.thresholds(v.shock() / 200); }},
-    {element("RS485Freq1"), [](const Vehicle& v, int i) { return i < 2 ? 800 + v.fuelSensor(i) / 4 : 0; },
-     16},
+    {element("RS485Freq1"), fuelFrequencyOf, 16},
     {element("HPrecisionTemp1"), [](const Vehicle& v, int i) { return v.fineTemperature(i); }, 4},
     {element("HPrecisionHumidity1"), [](const Vehicle& v, int i) { return v.humidity(i); }, 4},
 
@@ -168,20 +191,20 @@ constexpr Row rows[] = {
     {element("FfsReversSpeed"), [](const Vehicle& v, int) { return v.flow() * 1.6; }},
     {element("FfsReversTemp"), [](const Vehicle& v, int) { return v.coolant() * 6; }},
 
-    {element("RefrState1"), [](const Vehicle& v, int) { return v.refrigeratorRuns(); }},
-    {element("RefrState2"), [](const Vehicle& v, int) { return v.refrigeratorRuns() + 1; }},
-    {element("RefrTemp1"), [](const Vehicle& v, int i) { return v.refrigeratorTemperature(i); }, 3},
-    {element("RefrSetTemp1"), constant<300>, 3},
-    {element("RefrTempAir"), [](const Vehicle& v, int) { return v.m.outside * 100; }},
-    {element("RefrTempWater"), [](const Vehicle& v, int) { return v.coolant() * 80; }},
-    {element("RefrTension"), [](const Vehicle& v, int) { return v.supply(); }},
-    {element("RefrIntensity"), [](const Vehicle& v, int) { return v.refrigeratorRuns() * 18; }},
-    {element("RefrPowerEngine"), [](const Vehicle& v, int) { return v.m.at.loadSeconds / 36; }},
-    {element("RefrPowerNetwork"), zero},
-    {element("RefrErrorCount"), zero, 7},
-    {element("RefrEngineMode"), [](const Vehicle& v, int) { return v.refrigeratorRuns(); }},
-    {element("RefrEngineTurns"), [](const Vehicle& v, int) { return v.refrigeratorRuns() * 1450; }},
-    {element("RefrCompressor"), [](const Vehicle& v, int) { return v.refrigeratorRuns() + 1; }},
+    {element("RefrState1"), [](const Vehicle& v, int) { return v.refrigeratorRuns(); }, 1, 1, LineOwner::Refrigerator},
+    {element("RefrState2"), [](const Vehicle& v, int) { return v.refrigeratorRuns() + 1; }, 1, 1, LineOwner::Refrigerator},
+    {element("RefrTemp1"), [](const Vehicle& v, int i) { return v.refrigeratorTemperature(i); }, 3, 1, LineOwner::Refrigerator},
+    {element("RefrSetTemp1"), constant<300>, 3, 1, LineOwner::Refrigerator},
+    {element("RefrTempAir"), [](const Vehicle& v, int) { return v.m.outside * 100; }, 1, 1, LineOwner::Refrigerator},
+    {element("RefrTempWater"), [](const Vehicle& v, int) { return v.coolant() * 80; }, 1, 1, LineOwner::Refrigerator},
+    {element("RefrTension"), [](const Vehicle& v, int) { return v.supply(); }, 1, 1, LineOwner::Refrigerator, noValue16},
+    {element("RefrIntensity"), [](const Vehicle& v, int) { return v.refrigeratorRuns() * 18; }, 1, 1, LineOwner::Refrigerator, noValue16},
+    {element("RefrPowerEngine"), [](const Vehicle& v, int) { return v.m.at.loadSeconds / 36; }, 1, 1, LineOwner::Refrigerator, noValue32},
+    {element("RefrPowerNetwork"), zero, 1, 1, LineOwner::Refrigerator, noValue32},
+    {element("RefrErrorCount"), zero, 7, 1, LineOwner::Refrigerator},
+    {element("RefrEngineMode"), [](const Vehicle& v, int) { return v.refrigeratorRuns(); }, 1, 1, LineOwner::Refrigerator},
+    {element("RefrEngineTurns"), [](const Vehicle& v, int) { return v.refrigeratorRuns() * 1450; }, 1, 1, LineOwner::Refrigerator, noValue16},
+    {element("RefrCompressor"), [](const Vehicle& v, int) { return v.refrigeratorRuns() + 1; }, 1, 1, LineOwner::Refrigerator},
 
     {element("GeozoneInfo"),
      [](const Vehicle& v, int) { return v.m.activity == Activity::Parked ? 1.0 : 0.0; }},
@@ -253,9 +276,10 @@ ValueBlock valueBlock(const Vehicle& vehicle)
 {
     ValueBlock block{};
     for (const Row& row : rows) {
+        const bool told = row.device == LineOwner::Other || vehicle.isOnLine(row.device);
         for (int i = 0; i < row.count; ++i) {
             const vlk::Element& element = vlk::kElements[row.first + i * row.stride];
-            std::uint64_t bits = bitsOf(element.type, row.value(vehicle, i));
+            std::uint64_t bits = bitsOf(element.type, told ? row.value(vehicle, i) : row.absent);
             for (int byte = 0; byte < element.width; ++byte, bits >>= 8)
                 block[element.offset + byte] = static_cast<std::uint8_t>(bits);
         }

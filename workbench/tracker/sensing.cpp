@@ -3,6 +3,7 @@
 #include "tracker/vehicle.h"
 
 #include <cmath>
+#include <limits>
 
 namespace tracker {
 
@@ -16,9 +17,6 @@ struct Action
 };
 
 constexpr Action actions[] = {
-    {EventCode::Line1Triggered, 0},
-    {EventCode::Line2Triggered, 1},
-    {EventCode::Line3Triggered, 2},
     {EventCode::WeakShock, 5},
     {EventCode::StrongShock, 6},
     {EventCode::Movement, 7},
@@ -28,12 +26,14 @@ constexpr Action actions[] = {
     {EventCode::TemperatureLow, 11},
     {EventCode::TemperatureHigh, 12},
     {EventCode::TemperatureRestored, 13},
-    {EventCode::EngineStarted, 14},
-    {EventCode::EngineStopped, 15},
-    {EventCode::Line1Restored, 16},
-    {EventCode::Line2Restored, 16},
-    {EventCode::Line3Restored, 16},
 };
+
+// And what switches it without a record of its own: the trigger of a line, from the first on, the engine, and
+// the restore of any line or shock sensor.
+constexpr int lineAction = 0;
+constexpr int engineStartAction = 14;
+constexpr int engineStopAction = 15;
+constexpr int restoreAction = 16;
 
 class Sensing
 {
@@ -51,13 +51,17 @@ public:
         zones();
         shocks();
         for (std::size_t i = first; i < events_.size(); ++i)
-            switchOutput(events_[i]);
+            eventSwitches(events_[i]);
         if (!settings_.output.use)
             now_.output = false;
+        if (now_.output && now_.outputSince == waiting && !vehicle_.driving())
+            now_.outputSince = vehicle_.m.time;
         return now_;
     }
 
 private:
+    static constexpr qint64 waiting = std::numeric_limits<qint64>::max();
+
     static EventCode after(EventCode first, int steps)
     {
         return static_cast<EventCode>(static_cast<int>(first) + steps);
@@ -86,8 +90,7 @@ private:
             events_.push_back(after(EventCode::Line1Triggered, 2 * index));
         else if (line.restores)
             events_.push_back(after(EventCode::Line1Restored, 2 * index));
-        if (line.ignition && triggered)
-            switchOutput(after(EventCode::Line1Triggered, 2 * index));
+        switchOutput(triggered ? lineAction + index : restoreAction);
     }
 
     void analogue()
@@ -108,8 +111,11 @@ private:
         const SupplyRules& rules = settings_.supply;
         const double measured = vehicle_.line(2);
         now_.engine = vehicle_.engineRuns(settings_);
-        if (rules.used() && now_.engine != before_.engine)
-            events_.push_back(now_.engine ? EventCode::EngineStarted : EventCode::EngineStopped);
+        if (rules.used() && now_.engine != before_.engine) {
+            if (!rules.engineSilent)
+                events_.push_back(now_.engine ? EventCode::EngineStarted : EventCode::EngineStopped);
+            switchOutput(now_.engine ? engineStartAction : engineStopAction);
+        }
         if (!rules.used()) {
             now_.supplyLow = false;
             now_.supplyLowSince = 0;
@@ -158,6 +164,8 @@ private:
             else if (measured[i] < level / 2 || level <= 0)
                 now_.shocks &= static_cast<quint8>(~bit);
         }
+        if (before_.shocks & ~now_.shocks)
+            switchOutput(restoreAction);
         // A strong shock is not told as a weak one too.
         const int news = now_.shocks & ~before_.shocks;
         for (int i = 0; i < 4; ++i)
@@ -165,19 +173,23 @@ private:
                 events_.push_back(raised[i]);
     }
 
-    void switchOutput(EventCode event)
+    void eventSwitches(EventCode event)
+    {
+        for (const Action& action : actions)
+            if (action.event == event)
+                switchOutput(action.position);
+    }
+
+    // By the digit at that position of the output's actions.
+    void switchOutput(int position)
     {
         constexpr int on = 1;
         constexpr int off = 2;
-        for (const Action& action : actions) {
-            if (action.event != event || !settings_.output.use)
-                continue;
-            const int what = settings_.output.actions[action.position];
-            if (what == on && !now_.output)
-                now_.outputSince = vehicle_.m.time;
-            if (what == on || what == off)
-                now_.output = what == on;
-        }
+        const int what = settings_.output.actions[position];
+        if (what == on && !now_.output)
+            now_.outputSince = settings_.output.whenSafe ? waiting : vehicle_.m.time;
+        if (what == on || what == off)
+            now_.output = what == on;
     }
 
     const Vehicle& vehicle_;
@@ -193,8 +205,10 @@ bool SensorStates::outputNow(const OutputRules& rules, qint64 time) const
 {
     constexpr int onePulse = 1;
     constexpr int periodic = 2;
-    const qint64 elapsed = time - outputSince;
-    if (!output || elapsed < 0)
+    if (!output || outputSince > time)
+        return false;
+    const qint64 elapsed = time - outputSince - rules.delay;
+    if (elapsed < 0)
         return false;
     if (rules.form == onePulse)
         return elapsed < rules.onPeriod;

@@ -23,7 +23,7 @@ struct SensorStates
     qint64 supplyLowSince = 0; // of the voltage, in Unix seconds; 0 while it is not low
     int analogue = -1;         // mV at the last event of IN3, -1 before the first measurement
     bool output = false;       // O1 switched on by an event
-    qint64 outputSince = 0;
+    qint64 outputSince = 0;    // later than any time while it waits for the vehicle to stand
 
     // What O1 gives then: the form of the signal.
     bool outputNow(const OutputRules& rules, qint64 time) const;

@@ -40,7 +40,8 @@ struct SimulatedTracker::Parts
         live.addTo(handlers);
         tachograph.addTo(handlers);
         handlers[Message::StartBtSearch] = [this](void*) {
-            return searchBluetooth(store.values().number(QStringLiteral("BLUETOOTH/GLOBAL/use"), 1) != 0);
+            return searchBluetooth(!line.faults().noBluetooth &&
+                                   store.values().number(QStringLiteral("BLUETOOTH/GLOBAL/use"), 1) != 0);
         };
         handlers[Message::CancelBtSearch] = [this](void*) {
             line.dropSearch();
@@ -181,7 +182,7 @@ QString SimulatedTracker::text2() const
 
 quint64 SimulatedTracker::capabilityMask() const
 {
-    return bluetoothCapability;
+    return faults().noBluetooth ? 0 : bluetoothCapability;
 }
 
 bool SimulatedTracker::attached() const
@@ -243,7 +244,13 @@ const Faults& SimulatedTracker::faults() const
 
 void SimulatedTracker::setFaults(const Faults& faults)
 {
+    const bool isOther = faults.noBluetooth != this->faults().noBluetooth;
     parts_->line.setFaults(faults);
+    // What a tracker can do it tells when it is attached.
+    if (isOther && attached()) {
+        detach();
+        attach();
+    }
 }
 
 Protocol SimulatedTracker::protocol() const

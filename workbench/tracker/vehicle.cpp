@@ -199,6 +199,31 @@ double Vehicle::fuelSensor(int sensor) const
     return std::clamp(sensorValue(tank, fuelHeight(tank, litres)) + swing, 0.0, sensorValue(tank, 1));
 }
 
+bool Vehicle::isOnLine(LineOwner device) const
+{
+    return m.settings && m.settings->serial.is(device);
+}
+
+int Vehicle::sensorOnLine(int row) const
+{
+    constexpr int sensors = 6;
+    if (!isOnLine(LineOwner::Fuel) || !m.settings->serial.sensorUsed[row])
+        return -1;
+    const int sensor = m.settings->serial.sensorAddress[row] - 1;
+    return sensor >= 0 && sensor < sensors ? sensor : -1;
+}
+
+double Vehicle::passengers(int counter) const
+{
+    constexpr double none = 255;
+    constexpr double seats = 50;
+    if (!isOnLine(LineOwner::Counters) ||
+        counter >= static_cast<int>(m.settings->serial.counterAddress.size()) ||
+        m.settings->serial.counterAddress[counter] == 0)
+        return none;
+    return std::floor(drift(400 + counter, 0, seats, 1800));
+}
+
 double Vehicle::fuelPercent() const
 {
     constexpr double percentFlag = 0x8000;

@@ -50,8 +50,15 @@ public:
     // What is in a tank into which nobody has poured, in litres.
     double fuelLeft(std::size_t tank) const;
     double fuelSensor(int sensor) const; // D1 to D6, 0 to 4095
-    double fuelPercent() const;          // with the flag that says percent
-    double flow() const;                 // 0.1 litre an hour
+    // The sensor of the vehicle, 0 to 5, that answers to the address of a row of the settings; -1 where none
+    // does. The sensors have the addresses 1 to 6.
+    int sensorOnLine(int row) const;
+    // Whether the tracker is set to this device on its serial line.
+    bool isOnLine(LineOwner device) const;
+    // Of the counters with addresses of their own: who has entered on this trip; 255 where there is none.
+    double passengers(int counter) const;
+    double fuelPercent() const; // with the flag that says percent
+    double flow() const;        // 0.1 litre an hour
 
     double temperature(int sensor) const;     // degrees
     double fineTemperature(int sensor) const; // 0.05 degree

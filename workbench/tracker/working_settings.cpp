@@ -19,11 +19,14 @@ struct UseCode
 constexpr UseCode lineUses[] = {{"NU", ""},      {"NS-", "DIN"},  {"NB-", "DIN"},
                                 {"NS+", "ADIN"}, {"NB+", "ADIN"}, {"AIN", "AIN"}};
 
+constexpr const char* lineOwners[] = {"", "FLDS", "TPMS", "REFR", "TACH", "PCNT"};
+
 enum class Kind {
     Number,
     Hundredths, // of a number with a point
     Digits,     // one position of a text of digits each
     Use,        // of an input line
+    Owner,      // of the serial line
     General     // 1 for the output's code "GP"
 };
 
@@ -77,6 +80,13 @@ constexpr Row rows[] = {
     {"SYSTEM/PWRSENS/delay", 0, [](S& s, int) -> int& { return s.supply.delay; }},
     {"SYSTEM/ENGSENS/useCustom", 0, [](S& s, int) -> int& { return s.supply.ownEngineLevel; }},
     {"SYSTEM/ENGSENS/voltageLvl", 13200, [](S& s, int) -> int& { return s.supply.engineLevel; }},
+    {"SYSTEM/ENGSENS/noEvent", 0, [](S& s, int) -> int& { return s.supply.engineSilent; }},
+
+    {"RS485/OPTIONS/owner1", 0, [](S& s, int) -> int& { return s.serial.owner; }, Kind::Owner},
+    {"RS485/FS%1/use", 0, [](S& s, int i) -> int& { return s.serial.sensorUsed[i]; }, Kind::Number, 16},
+    {"RS485/FS%1/address", 0, [](S& s, int i) -> int& { return s.serial.sensorAddress[i]; }, Kind::Number,
+     16},
+    {"RS485/PCNT/id%1", 0, [](S& s, int i) -> int& { return s.serial.counterAddress[i]; }, Kind::Number, 7},
 
     {"TEMPSENS/SENS%1/min", -5000, [](S& s, int i) -> int& { return s.zones[i].low; }, Kind::Hundredths, 4},
     {"TEMPSENS/SENS%1/max", 12000, [](S& s, int i) -> int& { return s.zones[i].high; }, Kind::Hundredths, 4},
@@ -95,6 +105,8 @@ constexpr Row rows[] = {
     {"OUTPUTS/LINE1/offPeriod", 0, [](S& s, int) -> int& { return s.output.offPeriod; }},
     {"OUTPUTS/LINE1/autoOff", 0, [](S& s, int) -> int& { return s.output.stops; }},
     {"OUTPUTS/LINE1/autoOffDelay", 0, [](S& s, int) -> int& { return s.output.stopsAfter; }},
+    {"OUTPUTS/LINE1/onDelay", 60, [](S& s, int) -> int& { return s.output.delay; }},
+    {"OUTPUTS/LINE1/safeBlock", 0, [](S& s, int) -> int& { return s.output.whenSafe; }},
 };
 
 // A number that an int of the tracker's holds, whatever stands there.
@@ -112,6 +124,13 @@ int useOf(const QString& code)
     return found == std::end(lineUses) ? 0 : static_cast<int>(found - lineUses);
 }
 
+int ownerOf(const QString& code)
+{
+    const auto* found = std::find_if(std::begin(lineOwners), std::end(lineOwners),
+                                     [&](const char* owner) { return code == QLatin1String(owner); });
+    return found == std::end(lineOwners) ? 0 : static_cast<int>(found - lineOwners);
+}
+
 int valueOf(const Row& row, const QString& path, int index, const ConfigurationValues& values)
 {
     const QString text = values.text(path);
@@ -122,6 +141,8 @@ int valueOf(const Row& row, const QString& path, int index, const ConfigurationV
         return index < text.size() ? std::max(0, text.at(index).digitValue()) : row.absent;
     case Kind::Use:
         return useOf(text);
+    case Kind::Owner:
+        return ownerOf(text);
     case Kind::General:
         return text == QLatin1String("GP");
     case Kind::Number:

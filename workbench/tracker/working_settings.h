@@ -1,7 +1,8 @@
 #pragma once
 
 // What of its configuration the tracker measures and records by: track points, input lines, supply sensor,
-// temperature zones, accelerometer levels and the output line. Missing keys have the values that the tracker
+// temperature zones, accelerometer levels, the output line and the devices on the
+// serial line. Missing keys have the values that the tracker
 // itself takes for them. Voltages are millivolts, times seconds, ways metres.
 
 #include <QSettings>
@@ -63,6 +64,7 @@ struct SupplyRules
     int delay = 0;
     int ownEngineLevel = 0;
     int engineLevel = 0;
+    int engineSilent = 0; // starts and stops switch the output, but make no records
 
     bool used() const { return line == 3; }
 };
@@ -83,6 +85,21 @@ struct OutputRules
     int offPeriod = 0;
     int stops = 0; // the periodic form, by itself
     int stopsAfter = 0;
+    int delay = 0;    // between the event that switches it on and the line
+    int whenSafe = 0; // it waits until the vehicle stands
+};
+
+// What owns the serial line, in the order of the codes in lineOwners: these devices fill fields of a record.
+enum class LineOwner { Other, Fuel, Tyres, Refrigerator, Tachograph, Counters };
+
+struct SerialLineRules
+{
+    int owner = 0; // LineOwner
+    std::array<int, 16> sensorUsed{};
+    std::array<int, 16> sensorAddress{};
+    std::array<int, 7> counterAddress{}; // 0 for none
+
+    bool is(LineOwner wanted) const { return owner == static_cast<int>(wanted); }
 };
 
 struct WorkingSettings
@@ -93,6 +110,7 @@ struct WorkingSettings
     std::array<TemperatureZone, 4> zones;
     std::array<int, 4> shockLevels{}; // SH1 to SH3 hundredths of a percent, SH4 of a degree
     OutputRules output;
+    SerialLineRules serial;
 
     static WorkingSettings of(const ConfigurationValues& values);
     // The same in the current group of a settings file.

@@ -162,6 +162,32 @@ void lookAround(vlk::Tour& tour)
     }
 }
 
+// Every item of a list that shows a form of its own, in both languages; the item before comes back.
+void walkItems(vlk::Tour& tour, const char* name, const char* picture)
+{
+    auto* pages = vlk::Tour::find<QTabWidget>("tabWidget");
+    const int before = pages->currentIndex();
+    for (int page = 0; page < pages->count() && !vlk::Tour::findVisible(name); ++page)
+        pages->setCurrentIndex(page);
+    auto* list = vlk::Tour::find<QComboBox>(name);
+    const int current = list->currentIndex();
+    if (auto* area = qobject_cast<QScrollArea*>(pages->currentWidget()))
+        area->ensureWidgetVisible(list->parentWidget());
+    for (const QString& code : vlk::Languages::codes()) {
+        tour.window().setLanguage(code);
+        for (int item = 0; item < list->count(); ++item) {
+            list->setCurrentIndex(item);
+            const QString value = list->itemData(item).toString().toLower();
+            tour.picture(
+                QStringLiteral("%1-%2-%3.png")
+                    .arg(QLatin1String(picture), code, value.isEmpty() ? QStringLiteral("none") : value),
+                pages->window());
+        }
+    }
+    list->setCurrentIndex(current);
+    pages->setCurrentIndex(before);
+}
+
 // A server of this machine, found by its address, so that no name has to be looked up.
 void testServer(vlk::Tour& tour)
 {
@@ -206,6 +232,10 @@ std::vector<Tour::Step> configurationTour()
         {QStringLiteral("compare what the tracker took"), [book](Tour& tour) { checkTaken(tour, *book); }},
         {QStringLiteral("take pictures in both languages"), takePictures},
         {QStringLiteral("look at what the page opens"), lookAround},
+        {QStringLiteral("walk the devices on the serial line"),
+         [](Tour& tour) { walkItems(tour, "comboBox_RS485_Owner_1", "rs"); }},
+        {QStringLiteral("walk the types of Bluetooth sensor"),
+         [](Tour& tour) { walkItems(tour, "comboBox_Type_Sens_1", "bluetooth"); }},
         {QStringLiteral("test a server"), testServer},
         {QStringLiteral("close the window"), closeWindow},
     };

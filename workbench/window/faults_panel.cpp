@@ -29,6 +29,7 @@ constexpr FaultRow rows[] = {
     {"checkBox_Short", "wb_fault_short", &Faults::shortAnswers},
     {"checkBox_Garbled", "wb_fault_garbled", &Faults::garbledAnswers},
     {"checkBox_BadBoard", "wb_fault_board", &Faults::badBoard},
+    {"checkBox_NoBluetooth", "wb_fault_bluetooth", &Faults::noBluetooth},
     {"checkBox_Unplug", "wb_fault_unplug", &Faults::unplug},
 };
 

@@ -32,11 +32,16 @@ void Adapter::edited(const QString& value)
     binder_.edited(index_, value);
 }
 
-void Adapter::caption(QWidget* widget, const char* key, const QString& suffix)
+void Adapter::caption(QWidget* widget, const QString& suffix)
+{
+    caption(widget, setting().captionKey, setting().captionFormat, suffix);
+}
+
+void Adapter::caption(QWidget* widget, const char* key, const char* format, const QString& suffix)
 {
     if (!key || !*key)
         return;
-    const Caption parts = captionParts(key);
+    const Caption parts = captionParts(key, format, setting().number);
     const QString plain = inOneLine(parts.before + QLatin1Char(' ') + parts.after);
     widget->setAccessibleName(suffix.isEmpty() ? plain : QStringLiteral("%1, %2").arg(plain, suffix));
     if (QLabel* label = binder_.labelOf(widget))

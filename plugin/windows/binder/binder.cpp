@@ -27,6 +27,8 @@ namespace vlk {
 
 namespace {
 
+constexpr QChar kFormMark = u'/';
+
 // Counts what is being shown, so that the widgets' signals are no edits meanwhile.
 class Showing
 {
@@ -54,10 +56,39 @@ void Binder::addForm(QWidget* form, int number)
     forms_.push_back({form, number});
 }
 
+const Binder::Form* Binder::formNamed(const QString& name) const
+{
+    const auto found = std::find_if(forms_.begin(), forms_.end(), [&](const Form& form) {
+        return form.widget && form.widget->objectName() == name;
+    });
+    return found == forms_.end() ? nullptr : &*found;
+}
+
+bool Binder::isLate(const QString& name) const
+{
+    const int slash = name.indexOf(kFormMark);
+    return slash >= 0 && !formNamed(name.left(slash));
+}
+
+bool Binder::isLate(const Setting& setting) const
+{
+    const auto isLate = [&](const char* name) {
+        return name && this->isLate(numberedName(name, setting.number, setting.inner));
+    };
+    const auto anyOf = [&](const auto& boxes) {
+        return std::any_of(boxes.begin(), boxes.end(), [&](const auto& box) { return isLate(box.widget); });
+    };
+    return isLate(setting.widget) || anyOf(setting.codes) || anyOf(setting.positions) || anyOf(setting.parts);
+}
+
 QWidget* Binder::find(const QString& name, int number) const
 {
     if (name.isEmpty())
         return nullptr;
+    if (const int slash = name.indexOf(kFormMark); slash >= 0) {
+        const Form* form = formNamed(name.left(slash));
+        return form ? form->widget->findChild<QWidget*>(name.mid(slash + 1)) : nullptr;
+    }
     for (const bool numbered : {true, false}) {
         for (const Form& form : forms_) {
             if (!form.widget || (form.number != 0) != numbered || (numbered && form.number != number))
@@ -115,8 +146,12 @@ std::unique_ptr<Adapter> Binder::makeAdapter(int index)
                                                     [](const Code& code) { return code.widget != nullptr; });
     if (overBoxes)
         return std::make_unique<ExclusiveAdapter>(*this, index, boxesOf(setting.codes));
-    if (setting.kind == Kind::digits || setting.kind == Kind::bits)
-        return std::make_unique<PositionsAdapter>(*this, index, boxesOf(setting.positions));
+    if (setting.kind == Kind::digits || setting.kind == Kind::bits) {
+        std::vector<QWidget*> checks;
+        for (const Position& position : setting.positions)
+            checks.push_back(found(position.box));
+        return std::make_unique<PositionsAdapter>(*this, index, boxesOf(setting.positions), checks);
+    }
     if (setting.kind == Kind::period) {
         std::vector<QSpinBox*> boxes;
         for (QWidget* box : boxesOf(setting.parts))
@@ -149,7 +184,8 @@ void Binder::bind()
     const Showing showing(showing_);
     problems_ = layout_.problems;
     for (std::size_t row = 0; row < adapters_.size(); ++row) {
-        if (!adapters_[row] && layout_.rows[row].setting->kind != Kind::link)
+        const Setting& setting = *layout_.rows[row].setting;
+        if (!adapters_[row] && setting.kind != Kind::link && !isLate(setting))
             adapters_[row] = makeAdapter(first_ + static_cast<int>(row));
     }
     handles_.clear();
@@ -167,7 +203,8 @@ void Binder::bind()
         for (const QString& name : rule.targets) {
             QWidget* widget = find(name, rule.number);
             if (!widget) {
-                problems_ << QStringLiteral("no widget %1 to enable").arg(name);
+                if (!isLate(name))
+                    problems_ << QStringLiteral("no widget %1 to enable").arg(name);
                 continue;
             }
             const auto known = std::find_if(targets_.begin(), targets_.end(), [&](const Target& target) {
@@ -181,6 +218,26 @@ void Binder::bind()
     }
 }
 
+void Binder::join(QWidget* form)
+{
+    std::vector<bool> before;
+    for (const auto& adapter : adapters_)
+        before.push_back(adapter != nullptr);
+    addForm(form);
+    bind();
+    {
+        const Showing showing(showing_);
+        for (std::size_t row = 0; row < adapters_.size(); ++row) {
+            if (adapters_[row] && !before[row]) {
+                adapters_[row]->dress();
+                ranges_[static_cast<int>(row)] = rangeOf(static_cast<int>(row));
+                showRow(static_cast<int>(row));
+            }
+        }
+    }
+    evaluateRules();
+}
+
 void Binder::dress()
 {
     const Showing showing(showing_);
@@ -190,6 +247,10 @@ void Binder::dress()
     }
     for (const TableLayout::RangeWhen& rule : layout_.ranges)
         ranges_[rule.row] = rangeOf(rule.row);
+    for (const TableLayout::SoleList& list : layout_.soleLists) {
+        for (const TableLayout::Sole& sole : list.soles)
+            ranges_[sole.row] = rangeOf(sole.row);
+    }
 }
 
 Binder::Range Binder::rangeOf(int row) const
@@ -219,8 +280,16 @@ void Binder::show()
             handles->show();
         for (const TableLayout::RangeWhen& rule : layout_.ranges)
             dressRanged(rule.row);
+        for (const TableLayout::SoleList& list : layout_.soleLists)
+            dressList(list);
     }
     evaluateRules();
+}
+
+void Binder::dressList(const TableLayout::SoleList& list)
+{
+    for (const TableLayout::Sole& sole : list.soles)
+        dressRanged(sole.row);
 }
 
 void Binder::showRow(int row)
@@ -259,6 +328,11 @@ void Binder::edited(int index, const QString& value)
             if (std::find(changed.begin(), changed.end(), first_ + rule.when.row) != changed.end())
                 dressRanged(rule.row);
         }
+        for (const TableLayout::SoleList& list : layout_.soleLists) {
+            if (std::any_of(changed.begin(), changed.end(),
+                            [&](int other) { return list.triggers[other - first_]; }))
+                dressList(list);
+        }
         for (const int other : changed) {
             if (other != index)
                 showRow(other - first_);
@@ -272,7 +346,7 @@ void Binder::edited(int index, const QString& value)
         return;
     evaluateRules();
     for (const int other : changed)
-        Q_EMIT this->changed(configuration_.path(other).mid(layout_.section.size() + 1));
+        Q_EMIT this->changed(configuration_.path(other).mid(layout_.prefix().size()));
 }
 
 void Binder::set(int index, const QString& value)
@@ -301,9 +375,8 @@ void Binder::finishTyping()
 void Binder::selectFirstItems()
 {
     for (const auto& adapter : adapters_) {
-        if (dynamic_cast<ChoiceAdapter*>(adapter.get()))
-            set(adapter->index(),
-                QString::fromLatin1(configuration_.setting(adapter->index()).codes[0].code));
+        if (const auto* choice = dynamic_cast<ChoiceAdapter*>(adapter.get()))
+            set(choice->index(), choice->firstItem());
     }
 }
 
@@ -314,6 +387,16 @@ QStringList Binder::problems() const
         const Setting& setting = *layout_.rows[row].setting;
         if (adapters_[row] && !setting.captionKey && setting.codes.empty() && setting.positions.empty())
             all << layout_.rows[row].path + QStringLiteral(": no caption");
+    }
+    return all;
+}
+
+QStringList Binder::waiting() const
+{
+    QStringList all;
+    for (std::size_t row = 0; row < adapters_.size(); ++row) {
+        if (!adapters_[row] && isLate(*layout_.rows[row].setting))
+            all << layout_.rows[row].path;
     }
     return all;
 }

@@ -37,8 +37,11 @@ public:
     // Names are looked up below this widget. With a number: those of the rows that have the number, before
     // any other widget.
     void addForm(QWidget* form, int number = 0);
-    // Joins what is not joined yet; to be called when all forms are there.
+    // Joins what is not joined yet; to be called when all forms are there. "TACH/comboBox_Type" is the widget
+    // in the form with the object name TACH; until that is there, its rows wait.
     void bind();
+    // Adds a form for which rows wait, and shows their values in it.
+    void join(QWidget* form);
 
     // Texts and ranges anew, the values stay.
     void dress();
@@ -54,6 +57,8 @@ public:
     // What is wrong between the table and the forms, in words: a row without its widget, a rule without its
     // target. Empty when all is well.
     QStringList problems() const;
+    // Rows that wait for their form.
+    QStringList waiting() const;
     // Rows whose widgets hold another value than the configuration.
     QStringList disagreements() const;
 
@@ -88,6 +93,10 @@ private:
         std::vector<const TableLayout::Enable*> rules;
     };
 
+    const Form* formNamed(const QString& name) const;
+    // Whether the name, or one of the row's, tells a form that is not there yet.
+    bool isLate(const QString& name) const;
+    bool isLate(const Setting& setting) const;
     // What a widget was dressed with: rules may give it another range.
     struct Range
     {
@@ -101,6 +110,8 @@ private:
     Range rangeOf(int row) const;
     void dressRanged(int row);
     void showRow(int row);
+    // Settings that share a list: what one holds is not in the lists of the others.
+    void dressList(const TableLayout::SoleList& list);
 
     Configuration& configuration_;
     const SettingsTable& table_;

@@ -27,6 +27,9 @@ ExclusiveAdapter::ExclusiveAdapter(Binder& binder, int index, std::vector<QWidge
                 take();
             }
         });
+        // Choosing one once more fills in what belongs to it once more.
+        if (auto* button = qobject_cast<QRadioButton*>(boxes_[i]))
+            connect(button, &QRadioButton::clicked, this, [this] { take(); });
     }
 }
 
@@ -34,7 +37,7 @@ void ExclusiveAdapter::dress()
 {
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         if (boxes_[i])
-            caption(boxes_[i], setting().codes[i].label);
+            caption(boxes_[i], setting().codes[i].label, setting().codes[i].format);
     }
 }
 
@@ -69,9 +72,20 @@ QString ExclusiveAdapter::held() const
     return none;
 }
 
-PositionsAdapter::PositionsAdapter(Binder& binder, int index, std::vector<QWidget*> boxes)
-    : Adapter(binder, index), boxes_(std::move(boxes))
+PositionsAdapter::PositionsAdapter(Binder& binder, int index, std::vector<QWidget*> boxes,
+                                   std::vector<QWidget*> checks)
+    : Adapter(binder, index), boxes_(std::move(boxes)), checks_(std::move(checks))
 {
+    for (std::size_t i = 0; i < checks_.size(); ++i) {
+        own(checks_[i]);
+        if (checks_[i]) {
+            onToggled(checks_[i], this, [this, i](bool on) {
+                if (boxes_[i])
+                    boxes_[i]->setEnabled(on);
+                take();
+            });
+        }
+    }
     for (QWidget* box : boxes_) {
         own(box);
         if (auto* list = qobject_cast<QComboBox*>(box))
@@ -87,7 +101,9 @@ void PositionsAdapter::dress()
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         if (!boxes_[i])
             continue;
-        caption(boxes_[i], setting().positions[i].caption);
+        caption(checks_[i] ? checks_[i] : boxes_[i], setting().positions[i].caption, "%1");
+        if (checks_[i])
+            boxes_[i]->setAccessibleName(checks_[i]->accessibleName());
         auto* list = qobject_cast<QComboBox*>(boxes_[i]);
         if (!list)
             continue;
@@ -107,8 +123,12 @@ void PositionsAdapter::show(const QString& value)
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         const int digit = setting().kind == Kind::bits ? static_cast<int>((bits >> i) & 1U)
                                                        : value.mid(static_cast<int>(i), 1).toInt();
+        if (checks_[i] && boxes_[i]) {
+            setChecked(checks_[i], digit != 0);
+            boxes_[i]->setEnabled(digit != 0);
+        }
         if (auto* list = qobject_cast<QComboBox*>(boxes_[i]))
-            list->setCurrentIndex(list->findData(QString::number(digit)));
+            list->setCurrentIndex(checks_[i] && digit == 0 ? 0 : list->findData(QString::number(digit)));
         else if (boxes_[i])
             setChecked(boxes_[i], digit != 0);
     }
@@ -116,6 +136,8 @@ void PositionsAdapter::show(const QString& value)
 
 int PositionsAdapter::digit(std::size_t position) const
 {
+    if (checks_[position] && !isChecked(checks_[position]))
+        return 0;
     if (const auto* list = qobject_cast<const QComboBox*>(boxes_[position]))
         return list->currentData().toInt();
     return boxes_[position] && isChecked(boxes_[position]) ? 1 : 0;

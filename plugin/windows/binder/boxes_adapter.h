@@ -26,7 +26,8 @@ private:
 class PositionsAdapter : public Adapter
 {
 public:
-    PositionsAdapter(Binder& binder, int index, std::vector<QWidget*> boxes);
+    // `checks`: check boxes beside lists, null for a position without one.
+    PositionsAdapter(Binder& binder, int index, std::vector<QWidget*> boxes, std::vector<QWidget*> checks);
 
     void dress() override;
     void show(const QString& value) override;
@@ -37,6 +38,7 @@ private:
     int digit(std::size_t position) const;
 
     std::vector<QWidget*> boxes_; // one a position, null for a position without one
+    std::vector<QWidget*> checks_;
 };
 
 } // namespace vlk

@@ -16,12 +16,12 @@ ChoiceAdapter::ChoiceAdapter(Binder& binder, int index, QComboBox* box) : Adapte
 
 void ChoiceAdapter::dress()
 {
-    caption(box_, setting().captionKey);
+    caption(box_);
     const QSignalBlocker blocker(box_);
     box_->clear();
-    const char* const offers = configuration().limits(index()).offers;
+    const Limits limits = configuration().limits(index());
     for (const Code& code : setting().codes) {
-        if (offersCode(setting(), code, offers))
+        if (offersCode(setting(), code, limits))
             box_->addItem(codeText(code), QString::fromLatin1(code.code));
     }
     show(configuration().value(index()));
@@ -36,6 +36,11 @@ void ChoiceAdapter::take()
 {
     if (box_->currentIndex() >= 0 || setting().none)
         edited(held());
+}
+
+QString ChoiceAdapter::firstItem() const
+{
+    return box_->itemData(0).toString();
 }
 
 QString ChoiceAdapter::held() const

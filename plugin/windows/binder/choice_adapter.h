@@ -17,6 +17,8 @@ public:
     void show(const QString& value) override;
     void take() override;
     QString held() const override;
+    // Code of the first item of the list.
+    QString firstItem() const;
 
 private:
     QComboBox* box_;

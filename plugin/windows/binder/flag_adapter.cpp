@@ -12,7 +12,7 @@ FlagAdapter::FlagAdapter(Binder& binder, int index, QWidget* box) : Adapter(bind
 
 void FlagAdapter::dress()
 {
-    caption(box_, setting().captionKey);
+    caption(box_);
 }
 
 void FlagAdapter::show(const QString& value)

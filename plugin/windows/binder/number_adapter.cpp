@@ -31,7 +31,7 @@ void NumberAdapter::dress()
 {
     const char* unit = configuration().unitKey(index());
     const QString unitText = unit ? QCoreApplication::translate("vlk", unit) : QString();
-    caption(check_ ? check_ : box_.widget(), setting().captionKey, check_ ? QString() : unitText);
+    caption(check_ ? check_ : box_.widget(), check_ ? QString() : unitText);
     if (check_)
         box_.widget()->setAccessibleName(check_->accessibleName());
     box_.setSuffix(unit ? QLatin1Char(' ') + unitText : QString());

@@ -18,8 +18,15 @@ NumberBox::NumberBox(QWidget* widget, const Setting& setting)
         box->setDecimals(setting.decimals);
         if (setting.step > 0)
             box->setSingleStep(setting.step);
-    } else if (auto* whole = qobject_cast<QSpinBox*>(widget); whole && setting.step > 0) {
-        whole->setSingleStep(static_cast<int>(setting.step));
+    } else if (auto* whole = qobject_cast<QSpinBox*>(widget)) {
+        if (setting.step > 0)
+            whole->setSingleStep(static_cast<int>(setting.step));
+        if (setting.hexadecimal) {
+            whole->setDisplayIntegerBase(16);
+            QFont capitals = whole->font();
+            capitals.setCapitalization(QFont::AllUppercase);
+            whole->setFont(capitals);
+        }
     } else if (auto* slider = qobject_cast<QAbstractSlider*>(widget); slider && setting.step > 0) {
         slider->setSingleStep(position(setting.step));
     }

@@ -64,17 +64,17 @@ void PageSettings::retranslate()
     showAll();
 }
 
-int PageSettings::indexOf(const char* path) const
+int PageSettings::indexOf(const QString& path) const
 {
-    return configuration_.indexOf(QLatin1String(table_.section) + QLatin1Char('/') + QLatin1String(path));
+    return configuration_.indexOf(layoutOf(table_).prefix() + path);
 }
 
-QString PageSettings::value(const char* path) const
+QString PageSettings::value(const QString& path) const
 {
     return configuration_.value(indexOf(path));
 }
 
-void PageSettings::edit(const char* path, const QString& value)
+void PageSettings::edit(const QString& path, const QString& value)
 {
     const int index = indexOf(path);
     Q_ASSERT(index >= 0);

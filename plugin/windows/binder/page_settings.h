@@ -28,6 +28,9 @@ public:
     // on.
     void bind(QWidget* page, const std::vector<QWidget*>& numbered);
 
+    // Joins a form that comes later, and shows the values in it.
+    void join(QWidget* form) { binder_->join(form); }
+
     QString title() const { return title_; }
     int tabIndex() const { return tabIndex_; }
     void setTabIndex(int index) { tabIndex_ = index; }
@@ -41,9 +44,11 @@ public:
     // Takes the state of a widget as an edit.
     void take(const char* widget) { binder_->take(QString::fromLatin1(widget)); }
     // Paths are those below the section.
-    QString value(const char* path) const;
-    int number(const char* path) const { return value(path).toInt(); }
-    void edit(const char* path, const QString& value);
+    QString value(const QString& path) const;
+    int number(const QString& path) const { return value(path).toInt(); }
+    void edit(const QString& path, const QString& value);
+    // Shows what came into the configuration in another way.
+    void showAll();
 
     Configuration& configuration() { return configuration_; }
     Binder& binder() { return *binder_; }
@@ -55,8 +60,7 @@ Q_SIGNALS:
     void shown();
 
 private:
-    int indexOf(const char* path) const;
-    void showAll();
+    int indexOf(const QString& path) const;
 
     const SettingsTable& table_;
     const char* const titleKey_;

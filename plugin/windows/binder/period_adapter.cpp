@@ -23,7 +23,7 @@ void PeriodAdapter::dress()
 {
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         const QString unit = QCoreApplication::translate("vlk", setting().parts[i].unit);
-        caption(boxes_[i], setting().captionKey, unit);
+        caption(boxes_[i], unit);
         boxes_[i]->setSuffix(QLatin1Char(' ') + unit);
     }
 }

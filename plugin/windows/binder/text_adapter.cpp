@@ -20,7 +20,7 @@ TextAdapter::TextAdapter(Binder& binder, int index, QLineEdit* edit) : Adapter(b
 
 void TextAdapter::dress()
 {
-    caption(edit_, setting().captionKey);
+    caption(edit_);
 }
 
 void TextAdapter::show(const QString& value)

@@ -43,14 +43,14 @@ struct DataSetBox
 // A group of boxes and its place in the grid of the tab.
 struct DataSetGroup
 {
-    DataSetTab tab;
     const char* name;
     const char* title; // null: the tab sets it
     int row;
     int column;
-    int rows = 1;
-    bool inColumns =
-        false; // boxes that differ in their numbers stand below each other, each kind in a column
+    int rows;
+    DataSetTab tab;
+    // Boxes that differ in their numbers stand below each other, each kind in a column of its own.
+    bool inColumns = false;
 };
 
 // Bytes that a field of the mask adds to a record where `part` is what its positions hold.
@@ -163,28 +163,28 @@ constexpr DataSetBox tyres()
 } // namespace data_set
 
 inline constexpr DataSetGroup kDataSetGroups[] = {
-    {DataSetTab::main, "groupBox_Main", "cfgt2f_002", 0, 0, 3},
-    {DataSetTab::main, "groupBox_Imp", "cfgt2f_016", 0, 1},
-    {DataSetTab::main, "groupBox_Temp", "cfgt2f_021", 1, 1},
-    {DataSetTab::main, "groupBox_Ain", "cfgt2f_024", 2, 1},
-    {DataSetTab::main, "groupBox_Frequency", "cfgt2f_017", 3, 0},
-    {DataSetTab::main, "groupBox_Motochas", "cfgt2f_018", 3, 1},
-    {DataSetTab::navi, "groupBox_Navi", "cfgt2f_027", 0, 0, 3},
-    {DataSetTab::navi, "groupBox_Accuracy", "cfgt2f_038", 0, 1},
-    {DataSetTab::navi, "groupBox_LBS", "cfgt2f_055", 1, 1},
-    {DataSetTab::navi, "groupBox_Geozone", "cfgt2f_048", 2, 1},
-    {DataSetTab::navi, "groupBox_MNavi", "cfgt2f_041", 3, 0},
-    {DataSetTab::rs, "groupBox_RS232", "cfgt2f_054", 0, 0},
-    {DataSetTab::rs, "groupBox_RS485", nullptr, 1, 0, 1, true},
-    {DataSetTab::accel, "groupBox_Accel", "cfgt2f_082", 0, 0},
-    {DataSetTab::accel, "groupBox_EcoDrive", "cfgt2f_083", 1, 0},
-    {DataSetTab::more, "groupBox_HighPrecision", "cfgt2f_125", 0, 0, 1, true},
-    {DataSetTab::more, "groupBox_Passager", "cfgt2f_132", 1, 0},
-    {DataSetTab::more, "groupBox_Camera", "cfgt2f_134", 2, 0},
-    {DataSetTab::more, "groupBox_VAccelAxels", "cfgt2f_135", 3, 0},
-    {DataSetTab::more, "groupBox_Disp", "cfgt2f_136", 4, 0},
-    {DataSetTab::more, "groupBox_Ainf", "cfgt2f_139", 5, 0},
-    {DataSetTab::more, "groupBox_Tires", "cfgt2f_127", 6, 0},
+    {"groupBox_Main", "cfgt2f_002", 0, 0, 3, DataSetTab::main},
+    {"groupBox_Imp", "cfgt2f_016", 0, 1, 1, DataSetTab::main},
+    {"groupBox_Temp", "cfgt2f_021", 1, 1, 1, DataSetTab::main},
+    {"groupBox_Ain", "cfgt2f_024", 2, 1, 1, DataSetTab::main},
+    {"groupBox_Frequency", "cfgt2f_017", 3, 0, 1, DataSetTab::main},
+    {"groupBox_Motochas", "cfgt2f_018", 3, 1, 1, DataSetTab::main},
+    {"groupBox_Navi", "cfgt2f_027", 0, 0, 3, DataSetTab::navi},
+    {"groupBox_Accuracy", "cfgt2f_038", 0, 1, 1, DataSetTab::navi},
+    {"groupBox_LBS", "cfgt2f_055", 1, 1, 1, DataSetTab::navi},
+    {"groupBox_Geozone", "cfgt2f_048", 2, 1, 1, DataSetTab::navi},
+    {"groupBox_MNavi", "cfgt2f_041", 3, 0, 1, DataSetTab::navi},
+    {"groupBox_RS232", "cfgt2f_054", 0, 0, 1, DataSetTab::rs},
+    {"groupBox_RS485", nullptr, 1, 0, 1, DataSetTab::rs, true},
+    {"groupBox_Accel", "cfgt2f_082", 0, 0, 1, DataSetTab::accel},
+    {"groupBox_EcoDrive", "cfgt2f_083", 1, 0, 1, DataSetTab::accel},
+    {"groupBox_HighPrecision", "cfgt2f_125", 0, 0, 1, DataSetTab::more, true},
+    {"groupBox_Passager", "cfgt2f_132", 1, 0, 1, DataSetTab::more},
+    {"groupBox_Camera", "cfgt2f_134", 2, 0, 1, DataSetTab::more},
+    {"groupBox_VAccelAxels", "cfgt2f_135", 3, 0, 1, DataSetTab::more},
+    {"groupBox_Disp", "cfgt2f_136", 4, 0, 1, DataSetTab::more},
+    {"groupBox_Ainf", "cfgt2f_139", 5, 0, 1, DataSetTab::more},
+    {"groupBox_Tires", "cfgt2f_127", 6, 0, 1, DataSetTab::more},
 };
 
 inline constexpr auto kDataSetBoxes = [] {

@@ -1,0 +1,205 @@
+#include "peripherals/ble_sensor_form.h"
+
+#include "settings/value_text.h"
+#include "windows/binder/page_settings.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSpinBox>
+
+namespace vlk {
+
+BleSensorForm::BleSensorForm(const BluetoothSensorType& type, int sensor, PageSettings& settings,
+                             QWidget* parent)
+    : QWidget(parent), type_(type), sensor_(sensor), settings_(settings),
+      vendorPath_(numberedName(type.section, sensor, 0) + QStringLiteral("/type")),
+      indexPath_(numberedName(type.section, sensor, 0) +
+                 (type.index.elsewhere ? QStringLiteral(" TS%1").arg(sensor) : QString()) +
+                 QStringLiteral("/idx"))
+{
+    setObjectName(numberedName(type.section, sensor, 0));
+}
+
+QString BleSensorForm::ownerPath() const
+{
+    return QStringLiteral("BLUETOOTH/SENS%1/type").arg(sensor_);
+}
+
+QString BleSensorForm::value(const char* path) const
+{
+    return settings_.value(numberedName(path, sensor_, 0));
+}
+
+int BleSensorForm::vendor() const
+{
+    return type_.vendors.size() > 1 ? settings_.value(vendorPath_).toInt() : 0;
+}
+
+int BleSensorForm::takenIndex() const
+{
+    const bool indexed = type_.index.list != BluetoothList::none && type_.vendors[vendor()].indexed;
+    return indexed ? settings_.value(indexPath_).toInt() : -1;
+}
+
+QString BleSensorForm::indexText(int index) const
+{
+    if (index < 0)
+        return {};
+    const Configuration& configuration = settings_.configuration();
+    return valueText(configuration, configuration.indexOf(QStringLiteral("BLUETOOTH/") + indexPath_),
+                     QString::number(index));
+}
+
+bool BleSensorForm::needsName() const
+{
+    switch (type_.naming) {
+    case BluetoothSensorType::Naming::always:
+        return true;
+    case BluetoothSensorType::Naming::never:
+        return false;
+    default:
+        return type_.vendors[vendor()].needsName;
+    }
+}
+
+void BleSensorForm::tell(bool on, int vendor)
+{
+    if (vendor < 0)
+        return;
+    const BluetoothVendor& known = type_.vendors[vendor];
+    if (on) {
+        for (const userParamType type : known.supplies)
+            Q_EMIT signal_Device_UserParam_Add(type);
+        return;
+    }
+    for (const userParamType type : known.withdraws.empty() ? known.supplies : known.withdraws)
+        Q_EMIT signal_Device_UserParam_Del(type);
+}
+
+void BleSensorForm::setActive(bool on)
+{
+    if (on == active_)
+        return;
+    active_ = on;
+    if (on) {
+        previousVendor_ = vendor();
+        previousIndex_ = takenIndex();
+        if (previousIndex_ >= 0)
+            tellIndex(-1, previousIndex_);
+    } else if (previousIndex_ >= 0) {
+        tellIndex(previousIndex_, -1);
+    }
+    tell(on, previousVendor_);
+}
+
+void BleSensorForm::tellChanges()
+{
+    if (!active_)
+        return;
+    if (const int now = vendor(); now != previousVendor_) {
+        tell(false, previousVendor_);
+        tell(true, now);
+        previousVendor_ = now;
+        if (type_.naming == BluetoothSensorType::Naming::byVendor)
+            Q_EMIT signal_SetSensorNameEnabled(type_.vendors[now].named);
+    }
+    if (const int now = takenIndex(); now != previousIndex_)
+        tellIndex(std::exchange(previousIndex_, now), now);
+}
+
+void BleSensorForm::load(CXmlSection* bluetooth)
+{
+    if (!bluetooth)
+        return;
+    settings_.configuration().readUnder(*bluetooth, settings_.binder().table(), ownerPath(),
+                                        QString::fromLatin1(type_.code));
+    settings_.showAll();
+}
+
+void BleSensorForm::save(CXmlSection* bluetooth) const
+{
+    if (bluetooth)
+        settings_.configuration().writeUnder(*bluetooth, settings_.binder().table(), ownerPath(),
+                                             QString::fromLatin1(type_.code));
+}
+
+void BleSensorForm::setDefaults()
+{
+    // What the vendor before supplied is not withdrawn.
+    if (vendor() != 0)
+        previousVendor_ = -1;
+    settings_.configuration().resetUnder(settings_.binder().table(), ownerPath(),
+                                         QString::fromLatin1(type_.code));
+    settings_.showAll();
+}
+
+void BleSensorForm::make()
+{
+    if (made_)
+        return;
+    made_ = true;
+    makeWidgets();
+    settings_.join(this);
+    retranslate();
+}
+
+// Lists one below the other, what else the type has in pairs below them.
+void BleSensorForm::makeWidgets()
+{
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(6);
+    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(3, 1);
+    const QString mine = objectName() + QLatin1Char('/');
+    int row = 0;
+    int column = 0;
+    const auto add = [&](const Setting& setting) {
+        const QString name = numberedName(setting.widget, sensor_, 0).mid(mine.size());
+        auto* label = new QLabel;
+        label->setObjectName(QStringLiteral("label_") + name.section(QLatin1Char('_'), 1));
+        if (setting.kind == Kind::choice) {
+            auto* list = new QComboBox;
+            list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+            list->setMaximumWidth(50 * list->fontMetrics().averageCharWidth());
+            list->setObjectName(name);
+            label->setBuddy(list);
+            grid->addWidget(label, row, 0);
+            grid->addWidget(list, row, 1, 1, 3);
+            ++row;
+        } else if (setting.kind == Kind::flag) {
+            auto* box = new QCheckBox;
+            box->setObjectName(name);
+            label->setBuddy(box);
+            auto* pair = new QHBoxLayout;
+            pair->setSpacing(6);
+            pair->addWidget(box);
+            pair->addWidget(label, 1);
+            grid->addLayout(pair, row, column, 1, 2);
+            column += 2;
+        } else {
+            auto* number = new QSpinBox;
+            number->setObjectName(name);
+            label->setBuddy(number);
+            grid->addWidget(label, row, column);
+            grid->addWidget(number, row, column + 1);
+            column += 2;
+        }
+    };
+    // The vendor comes first, wherever the file has its number.
+    const QString vendorWidget = mine + QString::fromLatin1(type_.vendorWidget);
+    for (const bool first : {true, false}) {
+        for (const Setting& setting : settings_.binder().table().rows) {
+            const QString path = numberedName(setting.widget, sensor_, 0);
+            if (setting.number == sensor_ && path.startsWith(mine) && (path == vendorWidget) == first)
+                add(setting);
+        }
+    }
+    grid->setRowStretch(row + 1, 1);
+}
+
+} // namespace vlk

@@ -1,0 +1,331 @@
+#include "peripherals/form_config_ble_devtype_uni.h"
+
+#include "settings/value_text.h"
+#include "windows/binder/page_settings.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace {
+
+using Form = VLK_Form_Config_Ble_DevType_Uni;
+
+constexpr int kParameter = 1;
+
+// The kinds of numbers, by the value of the row's target.
+struct NumberSignals
+{
+    void (Form::*add)(const QString&);
+    void (Form::*del)(const QString&);
+};
+constexpr NumberSignals kNumberSignals[Form::kKinds] = {
+    {nullptr, nullptr},
+    {&Form::signal_Device_Index_Add_Uni, &Form::signal_Device_Index_Del_Uni},
+    {&Form::signal_Device_Index_Add_FlsL, &Form::signal_Device_Index_Del_FlsL},
+    {&Form::signal_Device_Index_Add_FlsT, &Form::signal_Device_Index_Del_FlsT},
+    {&Form::signal_Device_Index_Add_FlsF, &Form::signal_Device_Index_Del_FlsF},
+    {&Form::signal_Device_Index_Add_TmpT, &Form::signal_Device_Index_Del_TmpT},
+    {&Form::signal_Device_Index_Add_TmpH, &Form::signal_Device_Index_Del_TmpH},
+};
+
+int kindOf(int target)
+{
+    return target < Form::kKinds ? target : 0;
+}
+
+enum class Cell { check, spin, combo, line };
+
+// The columns of both tables: the head's text, and the stem of the widgets below it.
+struct Column
+{
+    const char* title;
+    const char* head;
+    Cell cell;
+    const char* widget;
+    int from = 1; // first row that has a widget; before it the row is always on
+};
+constexpr Column kConditions[] = {
+    {"label_Condition_Title_Use", "cfgt17_032", Cell::check, "checkBox_Condition_Use_%1", 2},
+    {"label_Condition_Title_Group", "cfgt17_058", Cell::spin, "spinBox_Condition_Group_%1"},
+    {"label_Condition_Title_Operator", "cfgt17_059", Cell::combo, "comboBox_Condition_Operator_%1", 2},
+    {"label_Condition_Title_Type", "cfgt17_060", Cell::spin, "spinBox_Condition_Type_%1"},
+    {"label_Condition_Title_Displacement", "cfgt17_061", Cell::spin, "spinBox_Condition_Displacement_%1"},
+    {"label_Condition_Title_Mask", "cfgt17_062", Cell::line, "lineEdit_Condition_Mask_%1"},
+};
+constexpr Column kValues[] = {
+    {"label_Parameters_Title_Use", "cfgt17_032", Cell::check, "checkBox_Parameters_Use_%1"},
+    {"label_Parameters_Title_Group", "cfgt17_058", Cell::spin, "spinBox_Parameters_Group_%1"},
+    {"label_Parameters_Title_Type", "cfgt17_060", Cell::spin, "spinBox_Parameters_Type_%1"},
+    {"label_Parameters_Title_Displacement", "cfgt17_061", Cell::spin, "spinBox_Parameters_Displacement_%1"},
+    {"label_Parameters_Title_Dimension", "cfgt17_033", Cell::combo, "comboBox_Parameters_Dimension_%1"},
+    {"label_Parameters_Title_ByteOrder", "cfgt17_067", Cell::combo, "comboBox_Parameters_ByteOrder_%1"},
+    {"label_Parameters_Title_SensorType", "cfgt17_040", Cell::combo, "comboBox_Parameters_SensorType_%1"},
+    {"label_Parameters_Title_Index", "cfgt17_068", Cell::combo, "comboBox_Parameters_Index_%1"},
+    {"label_Parameters_Title_Multiplier", "cfgt17_069", Cell::spin, "spinBox_Parameters_Multiplier_%1"},
+    {"label_Parameters_Title_Divider", "cfgt17_070", Cell::spin, "spinBox_Parameters_Divider_%1"},
+    {"label_Parameters_Title_Amendment", "cfgt17_071", Cell::spin, "spinBox_Parameters_Amendment_%1"},
+};
+// The check against an example message: hidden, nothing fills its results.
+constexpr Column kConditionTests[] = {
+    {"label_Condition_Test_Title_Use", "cfgt17_064", Cell::check, "checkBox_Condition_Test_Use_%1"}};
+constexpr Column kValueTests[] = {
+    {"label_Parameters_Test_Title_Use", "cfgt17_064", Cell::check, "checkBox_Parameters_Test_Use_%1"}};
+
+struct Table
+{
+    const char* group;
+    const char* title;
+    const char* numberTitle;
+    std::span<const Column> columns;
+    int rows;
+    const char* result = nullptr; // labels of a table of tests
+};
+constexpr Table kTables[] = {
+    {"groupBox_Condition", "cfgt17_057", "label_Condition_Title_RowNum", kConditions,
+     vlk::kUniversalConditions},
+    {"groupBox_Parameters", "cfgt17_066", "label_Parameters_Title_RowNum", kValues, vlk::kUniversalValues},
+    {"groupBox_Condition_Test", "cfgt17_063", "label_Condition_Test_Title_Rez", kConditionTests,
+     vlk::kUniversalConditions, "label_Condition_Test_Rez_%1"},
+    {"groupBox_Parameters_Test", "cfgt17_063", "label_Parameters_Test_Title_Rez", kValueTests,
+     vlk::kUniversalValues, "label_Parameters_Test_Rez_%1"},
+};
+
+QWidget* makeCell(Cell cell)
+{
+    switch (cell) {
+    case Cell::check:
+        return new QCheckBox;
+    case Cell::spin:
+        return new QSpinBox;
+    case Cell::combo: {
+        auto* list = new QComboBox;
+        list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        list->setMinimumContentsLength(2);
+        list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        return list;
+    }
+    default:
+        return new QLineEdit;
+    }
+}
+
+QLabel* makeLabel(const QString& name, const QString& text = {})
+{
+    auto* label = new QLabel(text);
+    label->setObjectName(name);
+    return label;
+}
+
+QGroupBox* makeTable(const Table& table)
+{
+    auto* box = new QGroupBox;
+    box->setObjectName(QString::fromLatin1(table.group));
+    auto* grid = new QGridLayout(box);
+    grid->setHorizontalSpacing(6);
+    grid->setVerticalSpacing(4);
+    grid->addWidget(makeLabel(QString::fromLatin1(table.numberTitle)), 0, 0);
+    for (int row = 1; row <= table.rows; ++row)
+        grid->addWidget(table.result ? makeLabel(QString::fromLatin1(table.result).arg(row))
+                                     : new QLabel(QString::number(row)),
+                        row, 0);
+    int column = 0;
+    for (const Column& place : table.columns) {
+        grid->addWidget(makeLabel(QString::fromLatin1(place.title)), 0, ++column);
+        grid->setColumnStretch(column, place.cell == Cell::line ? 1 : 0);
+        for (int row = 1; row <= table.rows; ++row) {
+            if (row < place.from && place.cell != Cell::check)
+                continue;
+            QWidget* cell = makeCell(place.cell);
+            cell->setObjectName(QString::fromLatin1(place.widget).arg(row));
+            grid->addWidget(cell, row, column);
+            if (row < place.from) {
+                static_cast<QCheckBox*>(cell)->setChecked(true);
+                cell->setEnabled(false);
+            }
+        }
+    }
+    return box;
+}
+
+} // namespace
+
+void VLK_Form_Config_Ble_DevType_Uni::makeWidgets()
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    for (const Table& table : kTables) {
+        QGroupBox* box = makeTable(table);
+        layout->addWidget(box);
+        if (!table.result)
+            continue;
+        box->hide();
+        for (int row = 1; row <= table.rows; ++row) {
+            auto* result = box->findChild<QLabel*>(QString::fromLatin1(table.result).arg(row));
+            auto* use =
+                box->findChild<QCheckBox*>(QString::fromLatin1(table.columns.front().widget).arg(row));
+            result->setEnabled(false);
+            connect(use, &QCheckBox::toggled, result, &QLabel::setEnabled);
+        }
+    }
+    layout->addStretch();
+}
+
+// The heads of the columns stand for the texts of the boxes below them; screen readers get the row too.
+void VLK_Form_Config_Ble_DevType_Uni::retranslate()
+{
+    if (!isMade())
+        return;
+    const auto setText = [this](const char* label, const char* key) {
+        findChild<QLabel*>(QString::fromLatin1(label))->setText(tr(key));
+    };
+    for (const Table& table : kTables) {
+        findChild<QGroupBox*>(QString::fromLatin1(table.group))->setTitle(tr(table.title));
+        setText(table.numberTitle, table.result ? "cfgt17_065" : "abbr_047");
+        for (const Column& column : table.columns) {
+            setText(column.title, column.head);
+            for (int row = 1; row <= table.rows; ++row) {
+                auto* cell = findChild<QWidget*>(QString::fromLatin1(column.widget).arg(row));
+                if (!cell)
+                    continue;
+                cell->setAccessibleName(QStringLiteral("%1 %2").arg(tr(column.head)).arg(row));
+                if (auto* box = qobject_cast<QCheckBox*>(cell))
+                    box->setText({});
+            }
+        }
+    }
+}
+
+QString VLK_Form_Config_Ble_DevType_Uni::rowValue(int row, const char* key) const
+{
+    return settings().value(QStringLiteral("U%1P%2/%3").arg(sensor()).arg(row).arg(QString::fromLatin1(key)));
+}
+
+QString VLK_Form_Config_Ble_DevType_Uni::indexOf(int row) const
+{
+    const QString index = rowValue(row, "idx");
+    return index == QLatin1String("0") ? QString() : index.rightJustified(2);
+}
+
+QString VLK_Form_Config_Ble_DevType_Uni::parameterName(int row, const QString& index) const
+{
+    const QString title = QStringLiteral("%1 %2").arg(tr("cfgt17_072"), tr("abbr_047"));
+    return QStringLiteral("U%1P%2, %3 %4").arg(sensor()).arg(row).arg(title, index.trimmed());
+}
+
+QString VLK_Form_Config_Ble_DevType_Uni::keyToDisplay(const QString& key) const
+{
+    const int number = key.mid(2).toInt();
+    if (!key.startsWith(QLatin1String("up")))
+        return {};
+    for (int row = 1; row <= vlk::kUniversalValues; ++row) {
+        const QString index = indexOf(row);
+        if (isUsed(row) && target(row) == kParameter && !index.isEmpty() && index.toInt() == number)
+            return parameterName(row, index);
+    }
+    return {};
+}
+
+void VLK_Form_Config_Ble_DevType_Uni::tellChanges()
+{
+    BleSensorForm::tellChanges();
+    for (int row = 1; row <= vlk::kUniversalValues; ++row) {
+        slot_stateChangedParameters_Use(row, isUsed(row) ? Qt::Checked : Qt::Unchecked);
+        slot_currentIndexChanged_Parameters_SensorType(row);
+        slot_currentIndexChanged_Index(row);
+        slot_currentIndexChanged_Parameters_Dimension(row);
+    }
+}
+
+void VLK_Form_Config_Ble_DevType_Uni::offer(int row, const QString& name)
+{
+    Told& told = told_[row - 1];
+    withdraw(row);
+    told.name = name;
+    told.element = rowValue(row, "prm");
+    Q_EMIT signal_Device_UserParam_Add_Uni(userParamType::universal, told.name, told.element);
+}
+
+void VLK_Form_Config_Ble_DevType_Uni::withdraw(int row)
+{
+    Told& told = told_[row - 1];
+    if (told.name.isEmpty())
+        return;
+    Q_EMIT signal_Device_UserParam_Del_Uni(userParamType::universal, told.name, told.element);
+    told.name.clear();
+    told.element.clear();
+}
+
+// Gives back the number of that kind that the row holds, and takes another one, or none.
+void VLK_Form_Config_Ble_DevType_Uni::hold(int row, int kind, const QString& index)
+{
+    QString& held = told_[row - 1].held[kind];
+    if (held == index)
+        return;
+    if (!held.isEmpty())
+        Q_EMIT(this->*kNumberSignals[kind].add)(held);
+    held = index;
+    if (!held.isEmpty())
+        Q_EMIT(this->*kNumberSignals[kind].del)(held);
+}
+
+void VLK_Form_Config_Ble_DevType_Uni::slot_stateChangedParameters_Use(int row, int state)
+{
+    Told& told = told_[row - 1];
+    const bool before = std::exchange(told.used, state != Qt::Unchecked);
+    if (told.used || !before)
+        return;
+    withdraw(row);
+    for (int kind = kParameter; kind < kKinds; ++kind)
+        hold(row, kind, {});
+}
+
+void VLK_Form_Config_Ble_DevType_Uni::slot_currentIndexChanged_Parameters_SensorType(int row)
+{
+    Told& told = told_[row - 1];
+    const int now = target(row);
+    if (now == told.target)
+        return;
+    slot_currentIndexChanged_Index(row);
+    if (now != kParameter && !told.name.isEmpty()) {
+        withdraw(row);
+        hold(row, kParameter, {});
+        Q_EMIT signal_Use_UserParam(false);
+    }
+    if (now == kParameter && told.name.isEmpty()) {
+        offer(row, parameterName(row, indexOf(row)));
+        Q_EMIT signal_Use_UserParam(true);
+    }
+    if (const int kind = kindOf(told.target); kind > kParameter)
+        hold(row, kind, {});
+    told.target = now;
+}
+
+void VLK_Form_Config_Ble_DevType_Uni::slot_currentIndexChanged_Index(int row)
+{
+    const QString index = indexOf(row);
+    const int kind = kindOf(target(row));
+    if (index.isEmpty() || !isUsed(row) || kind == 0)
+        return;
+    if (kind == kParameter) {
+        const QString name = parameterName(row, index);
+        if (name == told_[row - 1].name)
+            return;
+        offer(row, name);
+    }
+    hold(row, kind, index);
+}
+
+void VLK_Form_Config_Ble_DevType_Uni::slot_currentIndexChanged_Parameters_Dimension(int row)
+{
+    const Told& told = told_[row - 1];
+    if (isUsed(row) && target(row) == kParameter && rowValue(row, "prm") != told.element)
+        offer(row, told.name.isEmpty() ? parameterName(row, indexOf(row)) : told.name);
+}

@@ -1,0 +1,77 @@
+#pragma once
+
+// The form of the universal wireless sensor: conditions for the messages that are taken, and values in them,
+// each with what it is in the tracker. Rows, lists and what rows do to each other are settings
+// (settings/bluetooth_universal_rows.h); here is what the form tells of them: the user parameters that its
+// rows offer, and the numbers that they take, of six kinds.
+
+#include "peripherals/ble_sensor_form.h"
+#include "settings/bluetooth_universal_rows.h"
+
+#include <array>
+
+class VLK_Form_Config_Ble_DevType_Uni : public vlk::BleSensorForm
+{
+    Q_OBJECT
+
+public:
+    using BleSensorForm::BleSensorForm;
+
+    // Kinds of numbers, with the one of targets that have none.
+    static constexpr int kKinds = 7;
+
+    // The name of the parameter with a key such as "up7", empty for one that no row offers.
+    QString keyToDisplay(const QString& key) const;
+    void retranslate() override;
+    void tellChanges() override;
+
+public Q_SLOTS:
+    // Rows count from 1.
+    void slot_stateChangedParameters_Use(int row, int state);
+    void slot_currentIndexChanged_Parameters_SensorType(int row);
+    void slot_currentIndexChanged_Index(int row);
+    void slot_currentIndexChanged_Parameters_Dimension(int row);
+
+Q_SIGNALS:
+    void signal_Device_UserParam_Add_Uni(userParamType type, const QString& name, const QString& element);
+    void signal_Device_UserParam_Del_Uni(userParamType type, const QString& name, const QString& element);
+    void signal_Use_UserParam(bool use);
+    void signal_Device_Index_Add_Uni(const QString& index);
+    void signal_Device_Index_Del_Uni(const QString& index);
+    void signal_Device_Index_Add_FlsL(const QString& index);
+    void signal_Device_Index_Del_FlsL(const QString& index);
+    void signal_Device_Index_Add_FlsT(const QString& index);
+    void signal_Device_Index_Del_FlsT(const QString& index);
+    void signal_Device_Index_Add_FlsF(const QString& index);
+    void signal_Device_Index_Del_FlsF(const QString& index);
+    void signal_Device_Index_Add_TmpT(const QString& index);
+    void signal_Device_Index_Del_TmpT(const QString& index);
+    void signal_Device_Index_Add_TmpH(const QString& index);
+    void signal_Device_Index_Del_TmpH(const QString& index);
+
+protected:
+    void makeWidgets() override;
+
+private:
+    // What a row of values has told.
+    struct Told
+    {
+        QString name; // of the parameter that it offers
+        QString element;
+        bool used = false;
+        int target = 0;
+        std::array<QString, kKinds> held; // the number that it holds, a kind
+    };
+
+    QString rowValue(int row, const char* key) const;
+    bool isUsed(int row) const { return rowValue(row, "group") != QLatin1String("0"); }
+    int target(int row) const { return rowValue(row, "stor").toInt(); }
+    // " 7", empty for none.
+    QString indexOf(int row) const;
+    QString parameterName(int row, const QString& index) const;
+    void offer(int row, const QString& name);
+    void withdraw(int row);
+    void hold(int row, int kind, const QString& index);
+
+    std::array<Told, vlk::kUniversalValues> told_{};
+};

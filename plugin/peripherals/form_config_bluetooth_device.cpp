@@ -1,0 +1,131 @@
+#include "peripherals/form_config_bluetooth_device.h"
+
+#include "peripherals/form_config_bluetooth_device_type.h"
+#include "settings/bluetooth_sensor_types.h"
+#include "windows/aligned_columns.h"
+#include "windows/binder/page_settings.h"
+#include "windows/numbered_widget.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+static_assert(VLK_Form_Config_Bluetooth_Device::kSensors == vlk::kBluetoothSensors);
+
+VLK_Form_Config_Bluetooth_Device::VLK_Form_Config_Bluetooth_Device(vlk::PageSettings& settings,
+                                                                   QWidget* parent)
+    : QWidget(parent), settings_(settings)
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(8);
+    for (int number = 1; number <= kSensors; ++number) {
+        sensors_[number - 1] = makeSensor(number);
+        layout->addWidget(sensors_[number - 1].box);
+    }
+    using This = VLK_Form_Config_Bluetooth_Device;
+    connect(&settings_, &vlk::PageSettings::changed, this, &This::tellChanges);
+    connect(&settings_, &vlk::PageSettings::shown, this, &This::tellChanges);
+}
+
+VLK_Form_Config_Bluetooth_Device::Sensor VLK_Form_Config_Bluetooth_Device::makeSensor(int number)
+{
+    Sensor sensor{};
+    sensor.box = vlk::numberedWidget<QGroupBox>("groupBox_Sens_%1", number);
+    sensor.name = vlk::numberedWidget<QLineEdit>("lineEdit_Name_Sens_%1", number);
+    auto* layout = new QVBoxLayout(sensor.box);
+    layout->setSpacing(6);
+    sensor.grid = new QGridLayout;
+    sensor.grid->setHorizontalSpacing(8);
+    sensor.grid->setVerticalSpacing(6);
+    const std::pair<QLabel*, QWidget*> fields[] = {
+        {vlk::numberedWidget<QLabel>("label_Type_Sens_%1", number),
+         vlk::numberedWidget<QComboBox>("comboBox_Type_Sens_%1", number)},
+        {vlk::numberedWidget<QLabel>("label_MacAddr_Sens_%1", number),
+         vlk::numberedWidget<QLineEdit>("lineEdit_Bt_MacAdr_Sens_%1", number)},
+        {vlk::numberedWidget<QLabel>("label_Name_Sens_%1", number), sensor.name},
+    };
+    // Long names of types do not widen the page.
+    auto* types = static_cast<QComboBox*>(fields[0].second);
+    types->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    types->setMinimumContentsLength(12);
+    int place = 0;
+    for (const auto& [label, widget] : fields) {
+        label->setBuddy(widget);
+        const int column = place % 2 * 2;
+        sensor.grid->addWidget(label, place / 2, column);
+        sensor.grid->addWidget(widget, place / 2, column + 1);
+        sensor.grid->setColumnStretch(column + 1, 1);
+        ++place;
+    }
+    layout->addLayout(sensor.grid);
+    sensor.more = vlk::numberedWidget<QGroupBox>("groupBox_More_Sens_%1", number);
+    auto* more = new QVBoxLayout(sensor.more);
+    more->setObjectName(QStringLiteral("formLayout_Sens_%1").arg(number));
+    sensor.type = new VLK_Form_Config_Bluetooth_Device_Type(number, settings_);
+    more->addWidget(sensor.type);
+    layout->addWidget(sensor.more);
+
+    using This = VLK_Form_Config_Bluetooth_Device;
+    using Type = VLK_Form_Config_Bluetooth_Device_Type;
+    connect(sensor.type, &Type::signalEnabledSensorName, this,
+            [this, number](bool on) { slot_EnabledSensorName(number, on); });
+    sensor.name->setEnabled(false);
+    connect(sensor.type, &Type::signal_UserParam_Add, this, &This::slot_UserParam_Add);
+    connect(sensor.type, &Type::signal_UserParam_Del, this, &This::slot_UserParam_Del);
+    return sensor;
+}
+
+void VLK_Form_Config_Bluetooth_Device::tellChanges()
+{
+    for (const Sensor& sensor : sensors_) {
+        sensor.type->tellChanges();
+        sensor.more->setHidden(sensor.type->type() == 0);
+    }
+}
+
+void VLK_Form_Config_Bluetooth_Device::retranslate()
+{
+    QList<QGridLayout*> grids;
+    for (int number = 1; number <= kSensors; ++number) {
+        const Sensor& sensor = sensors_[number - 1];
+        sensor.box->setTitle(QStringLiteral("%1 %2").arg(tr("cfgt17_024")).arg(number));
+        sensor.more->setTitle(tr("cfgt17_027"));
+        sensor.type->retranslate();
+        grids << sensor.grid;
+    }
+    vlk::alignColumns(grids, 4);
+}
+
+void VLK_Form_Config_Bluetooth_Device::bind(int sensor, const QString& mac, const QString& name)
+{
+    settings_.edit(QStringLiteral("SENS%1/macaddr").arg(sensor), mac);
+    if (sensors_[sensor - 1].name->isEnabled())
+        settings_.edit(QStringLiteral("SENS%1/name").arg(sensor), name);
+}
+
+QString VLK_Form_Config_Bluetooth_Device::keyToDisplay(const QString& key) const
+{
+    for (const Sensor& sensor : sensors_) {
+        if (const QString text = sensor.type->keyToDisplay(key); !text.isEmpty())
+            return text;
+    }
+    return {};
+}
+
+QString VLK_Form_Config_Bluetooth_Device::displayToKey(const QString& text) const
+{
+    for (const Sensor& sensor : sensors_) {
+        if (const QString key = sensor.type->displayToKey(text); !key.isEmpty())
+            return key;
+    }
+    return {};
+}
+
+void VLK_Form_Config_Bluetooth_Device::slot_EnabledSensorName(int sensor, bool on)
+{
+    sensors_[sensor - 1].name->setEnabled(on);
+}

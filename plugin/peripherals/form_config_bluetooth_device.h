@@ -1,0 +1,62 @@
+#pragma once
+
+// The four wireless sensors that the tracker can be bound to: for each its type, address and name, and below
+// them the form of the type. A number that the value of one takes is gone from the lists of the others; that
+// is a rule of the settings.
+
+#include <QWidget>
+
+#include <array>
+
+class QGridLayout;
+class QGroupBox;
+class QLineEdit;
+class VLK_Form_Config_Bluetooth_Device_Type;
+
+namespace vlk {
+class PageSettings;
+}
+
+class VLK_Form_Config_Bluetooth_Device : public QWidget
+{
+    Q_OBJECT
+
+public:
+    static constexpr int kSensors = 4;
+
+    explicit VLK_Form_Config_Bluetooth_Device(vlk::PageSettings& settings, QWidget* parent = nullptr);
+
+    QString title() const { return tr("cfgt17_003"); }
+    void retranslate();
+
+    // `sensor` counts from 1.
+    VLK_Form_Config_Bluetooth_Device_Type* type(int sensor) const { return sensors_[sensor - 1].type; }
+    // Binds a sensor to a device that was found.
+    void bind(int sensor, const QString& mac, const QString& name);
+
+    // The first sensor that knows the user parameter.
+    QString keyToDisplay(const QString& key) const;
+    QString displayToKey(const QString& text) const;
+
+public Q_SLOTS:
+    void slot_EnabledSensorName(int sensor, bool on);
+    // The tab of user parameters is not on this tracker: the offers of the sensors end here.
+    void slot_UserParam_Add(const QString&, const QString&, const QString&, int) {}
+    void slot_UserParam_Del(const QString&, const QString&, const QString&, int) {}
+
+private:
+    struct Sensor
+    {
+        QGroupBox* box;
+        QGroupBox* more;
+        QGridLayout* grid;
+        QLineEdit* name;
+        VLK_Form_Config_Bluetooth_Device_Type* type;
+    };
+
+    Sensor makeSensor(int number);
+    void tellChanges();
+
+    vlk::PageSettings& settings_;
+    std::array<Sensor, kSensors> sensors_{};
+};

@@ -1,0 +1,46 @@
+#pragma once
+
+// What every parameter form of a device on the serial line has in common. The RS page (form_config_rs.h)
+// keeps one form a device, made when the device is chosen for the first time, shows that of the chosen device
+// and hands it these calls.
+//
+// What a form keeps in the file stands in rows of the page's table (settings/rs_settings.h), which the page
+// loads, saves and resets; loadFromXml() and saveToXml() are for what a form keeps besides. `section` is the
+// element RS485.
+//
+// The order of the virtual operations is fixed.
+
+#include <QWidget>
+
+struct CXmlSection;
+
+namespace vlk {
+class PageSettings;
+}
+
+class VLK_Form_Config_RS_Param : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+
+    virtual void loadFromXml(CXmlSection* /*section*/) {}
+    virtual void saveToXml(CXmlSection* /*section*/) {}
+    virtual void deviceConnected() {}
+    virtual void deviceDisconnected() {}
+    virtual void setDefaults() {}
+    virtual void retranslate() {}
+    // The form comes on show: it tells its line settings again.
+    virtual void applyLineSettings() {}
+
+    // Of the page, which sets them before anything else; they outlive the form.
+    void setSettings(vlk::PageSettings* settings) { settings_ = settings; }
+
+Q_SIGNALS:
+    // Texts as the line's combo boxes hold them: "19200", "None", "1".
+    void changeRs_Settings(const QString& speed, const QString& parity, const QString& stop);
+
+protected:
+    vlk::PageSettings* settings_ = nullptr;
+};

@@ -1,0 +1,221 @@
+#include "peripherals/form_config_rs_param_flds.h"
+
+#include "fuel/form_fuel_view.h"
+#include "settings/rs_settings.h"
+#include "settings/value_text.h"
+#include "windows/binder/page_settings.h"
+#include "windows/numbered_widget.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSpinBox>
+
+#include <algorithm>
+
+namespace {
+
+// The columns of a row, behind its first box; the captions are those of the settings.
+struct Column
+{
+    const char* widget;
+    const char* caption;
+    bool isFlag;
+};
+constexpr Column kColumns[] = {
+    {"spinBox_Addres_%1", "cfgt6_212", false},       {"spinBox_Response_%1", "cfgt6_213", false},
+    {"checkBox_TrhldMoveOff_%1", "cfgt6_214", true}, {"checkBox_Filter_%1", "cfgt6_215", true},
+    {"spinBox_Aver_%1", "cfgt6_216", false},         {"spinBox_Kalman_%1", "cfgt6_217", false},
+};
+constexpr int kLineColumn = std::size(kColumns) + 1;
+constexpr int kFuelColumn = kLineColumn + 1;
+
+constexpr int kLevelCode = 1; // kind of the sensors' values in the calibration dialog
+
+QString sensorName(std::size_t place)
+{
+    return QStringLiteral("D%1").arg(place + 1);
+}
+
+} // namespace
+
+VLK_Form_Config_RS_Param_Flds_RS485::VLK_Form_Config_RS_Param_Flds_RS485(bool sixRows, QWidget* parent)
+    : VLK_Form_Config_RS_Param(parent), table_(new QGridLayout)
+{
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->setSpacing(8);
+    auto* type = new QHBoxLayout;
+    auto* label = new QLabel;
+    auto* types = new QComboBox;
+    label->setObjectName(QStringLiteral("label_FuelType"));
+    types->setObjectName(QStringLiteral("comboBox_FuelType"));
+    label->setBuddy(types);
+    type->addWidget(label);
+    type->addWidget(types);
+    type->addStretch(1);
+    whole->addLayout(type);
+    whole->addLayout(table_);
+    whole->addStretch(1);
+    table_->setHorizontalSpacing(8);
+    table_->setVerticalSpacing(6);
+    addHead();
+    for (int sensor = 1; sensor <= vlk::kRsFuelSensors; ++sensor)
+        addRow(sensor);
+    if (!sixRows)
+        return;
+    for (int row = kCalibrated + 1; row < table_->rowCount(); ++row) {
+        for (int column = 0; column < table_->columnCount(); ++column) {
+            if (QLayoutItem* cell = table_->itemAtPosition(row, column))
+                cell->widget()->hide();
+        }
+    }
+}
+
+void VLK_Form_Config_RS_Param_Flds_RS485::addHead()
+{
+    const auto head = [this](int column) {
+        auto* label = new QLabel;
+        label->setWordWrap(true);
+        // Seven columns are to fit beside each other.
+        QFont small = label->font();
+        small.setPointSizeF(small.pointSizeF() * 0.85);
+        label->setFont(small);
+        label->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
+        table_->addWidget(label, 0, column);
+        heads_ << label;
+    };
+    for (int column = 0; column < kLineColumn; ++column) {
+        head(column);
+        table_->setColumnStretch(column, 1);
+    }
+    head(kFuelColumn);
+    heads_.last()->setObjectName(QStringLiteral("label_Fuel"));
+    auto* line = new QFrame;
+    line->setObjectName(QStringLiteral("line_8"));
+    line->setFrameShape(QFrame::VLine);
+    line->setFrameShadow(QFrame::Sunken);
+    table_->addWidget(line, 0, kLineColumn, kCalibrated + 1, 1);
+}
+
+void VLK_Form_Config_RS_Param_Flds_RS485::addRow(int sensor)
+{
+    table_->addWidget(vlk::numberedWidget<QCheckBox>("checkBox_Use_%1", sensor), sensor, 0);
+    int column = 0;
+    for (const Column& cell : kColumns) {
+        QWidget* input = cell.isFlag
+                             ? static_cast<QWidget*>(vlk::numberedWidget<QCheckBox>(cell.widget, sensor))
+                             : vlk::numberedWidget<QSpinBox>(cell.widget, sensor);
+        table_->addWidget(input, sensor, ++column, Qt::AlignLeft | Qt::AlignVCenter);
+    }
+    if (sensor <= kCalibrated)
+        table_->addWidget(calibrationCell(sensor), sensor, kFuelColumn);
+}
+
+QWidget* VLK_Form_Config_RS_Param_Flds_RS485::calibrationCell(int sensor)
+{
+    auto* frame = vlk::numberedWidget<QFrame>("frame_Fuel_D%1", sensor);
+    auto* cell = new QHBoxLayout(frame);
+    cell->setContentsMargins(0, 0, 0, 0);
+    auto* held = vlk::numberedWidget<QCheckBox>("checkBox_Fuel_D%1", sensor);
+    held->setEnabled(false);
+    auto* button = vlk::numberedWidget<QPushButton>("pushButton_Fuel_D%1", sensor);
+    button->setText(QStringLiteral("..."));
+    button->setMaximumWidth(28);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, [this, sensor] { slot_pressed_Fuel(sensor); });
+    cell->addWidget(held);
+    cell->addWidget(button);
+    cell->addStretch(1);
+    held_[sensor - 1] = held;
+    return frame;
+}
+
+void VLK_Form_Config_RS_Param_Flds_RS485::hideCalibration()
+{
+    for (int row = 0; row <= kCalibrated; ++row)
+        table_->itemAtPosition(row, kFuelColumn)->widget()->hide();
+    table_->itemAtPosition(0, kLineColumn)->widget()->hide();
+}
+
+void VLK_Form_Config_RS_Param_Flds_RS485::setDefaults()
+{
+    for (std::size_t place = 0; place < calibrations_.size(); ++place)
+        hold(place, {});
+}
+
+void VLK_Form_Config_RS_Param_Flds_RS485::retranslate()
+{
+    heads_[0]->setText(tr("cfgt6_219"));
+    for (int column = 1; column < kLineColumn; ++column)
+        heads_[column]->setText(vlk::captionParts(kColumns[column - 1].caption).before);
+    heads_.last()->setText(tr("cfgt6_218"));
+    // The heads of the columns say what the boxes of a row are.
+    for (int sensor = 1; sensor <= vlk::kRsFuelSensors; ++sensor) {
+        auto* use = qobject_cast<QCheckBox*>(table_->itemAtPosition(sensor, 0)->widget());
+        const QString row = use->accessibleName();
+        use->setText(QString::number(sensor));
+        for (int column = 1; column < kLineColumn; ++column) {
+            QWidget* input = table_->itemAtPosition(sensor, column)->widget();
+            input->setAccessibleName(QStringLiteral("%1: %2").arg(row, heads_[column]->text()));
+            if (auto* box = qobject_cast<QCheckBox*>(input))
+                box->setText({});
+        }
+        if (sensor <= kCalibrated) {
+            for (auto* button :
+                 table_->itemAtPosition(sensor, kFuelColumn)->widget()->findChildren<QAbstractButton*>())
+                button->setAccessibleName(QStringLiteral("%1: %2").arg(row, heads_.last()->text()));
+        }
+    }
+    if (view_)
+        view_->retranslate();
+}
+
+void VLK_Form_Config_RS_Param_Flds_RS485::slot_stateChanged_Use(int sensor)
+{
+    settings_->take(QByteArray("checkBox_Use_" + QByteArray::number(sensor)).constData());
+}
+
+void VLK_Form_Config_RS_Param_Flds_RS485::slot_stateChanged_Filter(int sensor)
+{
+    settings_->take(QByteArray("checkBox_Filter_" + QByteArray::number(sensor)).constData());
+}
+
+void VLK_Form_Config_RS_Param_Flds_RS485::slot_pressed_Fuel(int sensor)
+{
+    if (!view_) {
+        view_ = new VLK_Form_Fuel_View(this);
+        using This = VLK_Form_Config_RS_Param_Flds_RS485;
+        connect(view_, &VLK_Form_Fuel_View::signal_GetFuelData, this, &This::slot_GetFuelData);
+        connect(view_, &VLK_Form_Fuel_View::signal_SetNewFuelData, this, &This::slot_SetNewFuelData);
+    }
+    const auto place = static_cast<std::size_t>(sensor) - 1;
+    view_->setSensor(kLevelCode, sensorName(place));
+    view_->setData(QStringLiteral("ConfigFuelfile"), calibrations_.at(place));
+    view_->open();
+}
+
+void VLK_Form_Config_RS_Param_Flds_RS485::slot_GetFuelData(bool on)
+{
+    Q_EMIT signal_GetCurrentFuelData(on);
+}
+
+void VLK_Form_Config_RS_Param_Flds_RS485::slot_SetNewFuelData()
+{
+    for (std::size_t place = 0; view_ && place < calibrations_.size(); ++place) {
+        if (view_->sensorName() != sensorName(place))
+            continue;
+        QMap<double, int> table;
+        view_->getData(table);
+        hold(place, table);
+    }
+}
+
+void VLK_Form_Config_RS_Param_Flds_RS485::hold(std::size_t place, const QMap<double, int>& table)
+{
+    calibrations_[place] = table;
+    held_[place]->setChecked(!table.isEmpty());
+}

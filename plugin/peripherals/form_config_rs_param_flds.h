@@ -1,0 +1,55 @@
+#pragma once
+
+// The form of the fuel level sensors on the serial line: a table with a row a sensor, one type for all of
+// them, and a calibration table for each of the first six, which the calibration dialog edits. The
+// calibrations are not in the configuration file.
+
+#include "peripherals/form_config_rs_param.h"
+
+#include <QMap>
+
+#include <array>
+
+class QCheckBox;
+class QGridLayout;
+class QLabel;
+class VLK_Form_Fuel_View;
+
+class VLK_Form_Config_RS_Param_Flds_RS485 : public VLK_Form_Config_RS_Param
+{
+    Q_OBJECT
+
+public:
+    // `sixRows`: the other sensors are not on show; their settings are kept all the same. The types that are
+    // offered are those of the table of settings.
+    explicit VLK_Form_Config_RS_Param_Flds_RS485(bool sixRows, QWidget* parent = nullptr);
+
+    void hideCalibration();
+    void setDefaults() override;
+    void retranslate() override;
+
+Q_SIGNALS:
+    // The calibration dialog wants the sensors' present values, or no more of them.
+    void signal_GetCurrentFuelData(bool on);
+
+public Q_SLOTS:
+    void slot_stateChanged_Use(int sensor);
+    void slot_stateChanged_Filter(int sensor);
+    void slot_pressed_Fuel(int sensor);
+    void slot_GetFuelData(bool on);
+    void slot_SetNewFuelData();
+
+private:
+    static constexpr int kCalibrated = 6;
+
+    void addHead();
+    void addRow(int sensor);
+    QWidget* calibrationCell(int sensor);
+    void hold(std::size_t place, const QMap<double, int>& table);
+
+    QGridLayout* table_;
+    QList<QLabel*> heads_;
+    VLK_Form_Fuel_View* view_ = nullptr;
+    std::array<QMap<double, int>, kCalibrated> calibrations_; // litres to sensor values
+    std::array<QCheckBox*, kCalibrated> held_{};
+};

@@ -1,0 +1,345 @@
+#include "peripherals/form_config_rs_param_mdbs.h"
+
+#include "peripherals/params/element_types.h"
+#include "windows/eliding_combobox.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QRadioButton>
+#include <QScopedValueRollback>
+#include <QSpinBox>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr int kRows = 32;
+constexpr int kEventRows = 10;
+
+QString keyOf(const vlk::ModbusRow& row)
+{
+    return QLatin1String(vlk::kModbusCode) + QString::number(row.number());
+}
+
+// "MB3,  7,  1f, 2 bytes, unsigned"
+QString composite(const vlk::UserParam& offer)
+{
+    return offer.name + QLatin1String(", ") + offer.third;
+}
+
+// Names begin with their row's number, of one digit or two.
+bool earlier(const QString& name, const QString& other)
+{
+    const auto row = [](const QString& text) { return text.section(QLatin1Char(','), 0, 0).mid(2).toInt(); };
+    return std::pair(row(name), name) < std::pair(row(other), other);
+}
+
+// A heading that is little wider than its longest word, as the columns are narrow.
+QString brokenIntoLines(const QString& caption)
+{
+    const QStringList words = caption.simplified().split(QLatin1Char(' '));
+    int width = 0;
+    for (const QString& word : words)
+        width = std::max(width, static_cast<int>(word.size()));
+    QString text = words.first();
+    int line = text.size();
+    for (const QString& word : words.mid(1)) {
+        const bool fits = line + 1 + word.size() <= width;
+        text += QLatin1Char(fits ? ' ' : '\n') + word;
+        line = static_cast<int>(fits ? line + 1 + word.size() : word.size());
+    }
+    return text;
+}
+
+// Lists of one column are as wide as their widest text needs, whether they are filled or not.
+void reserveWidth(QGridLayout* grid, int column, const QStringList& texts)
+{
+    QComboBox box;
+    box.addItems(texts);
+    grid->setColumnMinimumWidth(column, box.sizeHint().width());
+}
+
+} // namespace
+
+using This = VLK_Form_Config_RS_Param_Mdbs;
+
+VLK_Form_Config_RS_Param_Mdbs::VLK_Form_Config_RS_Param_Mdbs(QWidget* parent)
+    : VLK_Form_Config_RS_Param(parent), choice_(new QGroupBox), byType_(new QRadioButton),
+      byNumber_(new QRadioButton), values_(makeTable("groupBox_Modbus", vlk::ModbusRow::captions())),
+      events_(makeTable("groupBox_Interface_Events", vlk::ModbusEventRow::captions()))
+{
+    choice_->setObjectName(QStringLiteral("groupBox_Calc"));
+    byType_->setObjectName(QStringLiteral("radioButton_Calc_NumType"));
+    byNumber_->setObjectName(QStringLiteral("radioButton_Calc_Num"));
+    auto* ways = new QHBoxLayout(choice_);
+    ways->addWidget(byType_);
+    ways->addWidget(byNumber_);
+    ways->addStretch();
+    byType_->setChecked(true);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    for (QWidget* group : {choice_, values_.group, events_.group})
+        layout->addWidget(group);
+    makeRows();
+    makeEventRows();
+    connect(byType_, &QRadioButton::toggled, this, &This::slot_toggled_Calc_NumType);
+    This::retranslate();
+}
+
+VLK_Form_Config_RS_Param_Mdbs::Table
+VLK_Form_Config_RS_Param_Mdbs::makeTable(const char* name, const QList<const char*>& captions)
+{
+    Table table{new QGroupBox, new QGridLayout, captions, {}};
+    table.group->setObjectName(QLatin1String(name));
+    auto* layout = new QHBoxLayout(table.group);
+    layout->addLayout(table.grid);
+    layout->addStretch();
+    for (int column = 0; column < captions.size(); ++column) {
+        table.labels << new QLabel;
+        table.grid->addWidget(table.labels.last(), 0, column, Qt::AlignBottom);
+    }
+    return table;
+}
+
+void VLK_Form_Config_RS_Param_Mdbs::makeRows()
+{
+    lines_.reserve(kRows);
+    for (int number = 1; number <= kRows; ++number) {
+        const vlk::ModbusRow& row = lines_.emplace_back(Line{{number, values_.grid, number}, {}}).row;
+        const auto onNumber = [&](QSpinBox* box, void (This::*slot)(int, int)) {
+            connect(box, qOverload<int>(&QSpinBox::valueChanged), this,
+                    [this, slot, number](int value) { (this->*slot)(number, value); });
+        };
+        const auto onText = [&](QComboBox* box, void (This::*slot)(int, const QString&)) {
+            connect(box, &QComboBox::currentTextChanged, this,
+                    [this, slot, number](const QString& text) { (this->*slot)(number, text); });
+        };
+        connect(row.use, &QCheckBox::stateChanged, this,
+                [this, number](int state) { slot_stateChanged_Interface_Modbus_Use(number, state); });
+        onNumber(row.address, &This::slot_valueChanged_Modbus_Addr);
+        onNumber(row.registerNumber, &This::slot_valueChanged_Modbus_Reg_Num);
+        onNumber(row.registerAddress, &This::slot_valueChanged_Modbus_Reg_Addr);
+        onText(row.registerType, &This::slot_currentIndexChanged_Modbus_Reg_Type);
+        onText(row.dataType, &This::slot_currentIndexChanged_Modbus_Param);
+    }
+}
+
+void VLK_Form_Config_RS_Param_Mdbs::makeEventRows()
+{
+    for (int number = 1; number <= kEventRows; ++number) {
+        const vlk::ModbusEventRow& row = eventRows_.emplace_back(number, events_.grid, number);
+        connect(row.use, &QCheckBox::stateChanged, this,
+                [this, number](int state) { slot_stateChanged_Interface_Events_Use(number, state); });
+        connect(row.condition, &QComboBox::currentTextChanged, this, [this, number](const QString& text) {
+            slot_currentIndexChanged_Interface_Events_Condition(number, text);
+        });
+    }
+}
+
+void VLK_Form_Config_RS_Param_Mdbs::retranslate(const Table& table, const char* title)
+{
+    table.group->setTitle(tr(title));
+    for (int i = 0; i < table.labels.size(); ++i)
+        table.labels[i]->setText(brokenIntoLines(tr(table.captions[i])));
+}
+
+void VLK_Form_Config_RS_Param_Mdbs::retranslate()
+{
+    choice_->setTitle(tr("cfgt6_108"));
+    byType_->setText(tr("cfgt6_109"));
+    byNumber_->setText(tr("cfgt6_110"));
+    retranslate(values_, "cfgt6_111");
+    retranslate(events_, "cfgt6_121");
+
+    lists_ = {};
+    for (const vlk::ElementType& type : vlk::kElementTypes)
+        lists_.dataTypes << vlk::textOf(type);
+    lists_.byteOrders = QStringList{
+        QStringLiteral("[ABCD] %1").arg(tr("cfgt6_101")), QStringLiteral("[CDAB] %1").arg(tr("cfgt6_102")),
+        QStringLiteral("[BADC] %1").arg(tr("cfgt6_103")), QStringLiteral("[DCBA] %1").arg(tr("cfgt6_104"))};
+    conditions_ = QStringList{tr("cfgt6_105"), tr("cfgt6_106"), tr("cfgt6_107")};
+    {
+        const QScopedValueRollback arranging(arranging_, true);
+        for (Line& line : lines_)
+            line.row.retranslate(lists_);
+        for (vlk::ModbusEventRow& row : eventRows_)
+            row.retranslate(conditions_);
+    }
+    for (Line& line : lines_)
+        tellOf(line);
+    reserveWidth(values_.grid, 4, vlk::ModbusRow::registerTypes());
+    reserveWidth(events_.grid, 1, {QStringLiteral("MB32,  254,  ffff")});
+}
+
+void VLK_Form_Config_RS_Param_Mdbs::setDefaults()
+{
+    for (Line& line : lines_)
+        line.row.use->setChecked(false);
+    for (vlk::ModbusEventRow& row : eventRows_)
+        row.use->setChecked(false);
+    byType_->setChecked(true);
+    lastAddress_ = 1;
+}
+
+bool VLK_Form_Config_RS_Param_Mdbs::byNumber() const
+{
+    return !byType_->isChecked();
+}
+
+void VLK_Form_Config_RS_Param_Mdbs::slot_stateChanged_Interface_Modbus_Use(int row, int /*state*/)
+{
+    Line& changed = line(row);
+    const bool on = changed.row.inUse();
+    if (!on)
+        tellOf(changed);
+    {
+        const QScopedValueRollback arranging(arranging_, true);
+        if (on)
+            changed.row.start(lastAddress_, byNumber(), lists_);
+        else
+            changed.row.clear();
+    }
+    tellOf(changed);
+}
+
+void VLK_Form_Config_RS_Param_Mdbs::slot_valueChanged_Modbus_Addr(int row, int value)
+{
+    if (arranging_ || !line(row).row.inUse())
+        return;
+    lastAddress_ = value;
+    tellOf(line(row));
+}
+
+void VLK_Form_Config_RS_Param_Mdbs::slot_valueChanged_Modbus_Reg_Addr(int row, int /*value*/)
+{
+    if (arranging_)
+        return;
+    tellOf(line(row));
+    const QScopedValueRollback arranging(arranging_, true);
+    line(row).row.showNumber();
+}
+
+void VLK_Form_Config_RS_Param_Mdbs::slot_currentIndexChanged_Modbus_Reg_Type(int row, const QString& /*text*/)
+{
+    if (arranging_)
+        return;
+    const QScopedValueRollback arranging(arranging_, true);
+    line(row).row.showNumber();
+}
+
+void VLK_Form_Config_RS_Param_Mdbs::slot_valueChanged_Modbus_Reg_Num(int row, int /*value*/)
+{
+    if (arranging_ || !byNumber())
+        return;
+    {
+        const QScopedValueRollback arranging(arranging_, true);
+        line(row).row.takeNumber();
+        line(row).row.setByNumber(true);
+    }
+    tellOf(line(row));
+}
+
+void VLK_Form_Config_RS_Param_Mdbs::slot_currentIndexChanged_Modbus_Param(int row, const QString& /*text*/)
+{
+    if (!arranging_)
+        tellOf(line(row));
+}
+
+void VLK_Form_Config_RS_Param_Mdbs::slot_toggled_Calc_NumType(bool on)
+{
+    for (Line& line : lines_)
+        line.row.setByNumber(!on);
+}
+
+// Tells the data set and the event rows what became of a row since they were last told.
+void VLK_Form_Config_RS_Param_Mdbs::tellOf(Line& line)
+{
+    const vlk::UserParam now = line.row.offer();
+    const vlk::UserParam before = std::exchange(line.offered, now);
+    if (now == before)
+        return;
+    const bool renamed = now.name != before.name;
+    line.row.dataType->setRememberedText(now.third);
+
+    if (onOffer_)
+        withdraw(before);
+    if (renamed && eventNames_.removeOne(before.name))
+        offerEventNames();
+    if (onOffer_)
+        add(now);
+    if (renamed && !now.name.isEmpty() && !eventNames_.contains(now.name)) {
+        eventNames_.insert(std::lower_bound(eventNames_.begin(), eventNames_.end(), now.name, earlier),
+                           now.name);
+        offerEventNames();
+    }
+}
+
+// An event row whose value is gone is of no use.
+void VLK_Form_Config_RS_Param_Mdbs::offerEventNames()
+{
+    for (vlk::ModbusEventRow& row : eventRows_) {
+        if (row.inUse() && !row.offerNames(eventNames_))
+            row.use->setChecked(false);
+    }
+}
+
+void VLK_Form_Config_RS_Param_Mdbs::slot_stateChanged_Interface_Events_Use(int row, int /*state*/)
+{
+    vlk::ModbusEventRow& changed = eventRows_[static_cast<std::size_t>(row) - 1];
+    if (changed.inUse())
+        changed.start(eventNames_, conditions_);
+    else
+        changed.clear();
+}
+
+void VLK_Form_Config_RS_Param_Mdbs::slot_currentIndexChanged_Interface_Events_Condition(
+    int row, const QString& /*text*/)
+{
+    eventRows_[static_cast<std::size_t>(row) - 1].applyCondition();
+}
+
+void VLK_Form_Config_RS_Param_Mdbs::add(const vlk::UserParam& offer)
+{
+    if (!offer.name.isEmpty())
+        Q_EMIT signal_UserParam_Add(offer.code, offer.name, offer.third, offer.bytes);
+}
+
+void VLK_Form_Config_RS_Param_Mdbs::withdraw(const vlk::UserParam& offer)
+{
+    if (!offer.name.isEmpty())
+        Q_EMIT signal_UserParam_Del(offer.code, offer.name, offer.third, offer.bytes);
+}
+
+void VLK_Form_Config_RS_Param_Mdbs::offerAll()
+{
+    onOffer_ = true;
+    for (const Line& line : lines_)
+        add(line.offered);
+}
+
+void VLK_Form_Config_RS_Param_Mdbs::withdrawAll()
+{
+    onOffer_ = false;
+    for (const Line& line : lines_)
+        withdraw(line.offered);
+}
+
+QString VLK_Form_Config_RS_Param_Mdbs::keyOfName(const QString& text) const
+{
+    const auto found = std::find_if(lines_.begin(), lines_.end(), [&](const Line& line) {
+        return !line.offered.name.isEmpty() && composite(line.offered) == text;
+    });
+    return found == lines_.end() ? QString() : keyOf(found->row);
+}
+
+QString VLK_Form_Config_RS_Param_Mdbs::nameOfKey(const QString& key) const
+{
+    const auto found = std::find_if(lines_.begin(), lines_.end(), [&](const Line& line) {
+        return !line.offered.name.isEmpty() && keyOf(line.row) == key;
+    });
+    return found == lines_.end() ? QString() : composite(found->offered);
+}

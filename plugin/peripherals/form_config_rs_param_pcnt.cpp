@@ -1,0 +1,101 @@
+#include "peripherals/form_config_rs_param_pcnt.h"
+
+#include "ui_VLK_Designer_Form_Config_RS_Param_Pcnt.h"
+
+#include "peripherals/params/user_param_can.h"
+#include "peripherals/params/user_params.h"
+#include "settings/rs_settings.h"
+#include "windows/binder/page_settings.h"
+#include "windows/numbered_widget.h"
+
+#include <QCheckBox>
+
+namespace {
+
+// Counters and doors stand in two columns, the first ones in the left one.
+template <class Input>
+void addLines(QGridLayout* lines, const char* box, const char* input, int count)
+{
+    const int left = (count + 1) / 2;
+    for (int number = 1; number <= count; ++number) {
+        const int row = (number - 1) % left;
+        const int column = number > left ? 3 : 0;
+        lines->addWidget(vlk::numberedWidget<QCheckBox>(box, number), row, column);
+        lines->addWidget(vlk::numberedWidget<Input>(input, number), row, column + 1);
+    }
+    lines->setColumnMinimumWidth(2, 24);
+    lines->setColumnStretch(5, 1);
+}
+
+QByteArray numbered(const char* stem, int number)
+{
+    return stem + QByteArray::number(number);
+}
+
+} // namespace
+
+VLK_Form_Config_RS_Param_Pcnt::VLK_Form_Config_RS_Param_Pcnt(QWidget* parent)
+    : VLK_Form_Config_RS_Param(parent), ui_(std::make_unique<Ui::VLK_Designer_Form_Config_RS_Param_Pcnt>()),
+      params_(std::make_unique<VLK_UserParams>())
+{
+    ui_->setupUi(this);
+    addLines<QSpinBox>(ui_->gridLayout_Passager, "checkBox_Passager_%1", "spinBox_Passager_%1",
+                       vlk::kRsCounters);
+    addLines<QComboBox>(ui_->gridLayout_ACode_Door, "checkBox_ACode_Door_%1", "comboBox_ACode_Door_%1",
+                        vlk::kRsDoors);
+    connect(ui_->comboBox_Type, &QComboBox::currentTextChanged, this,
+            &VLK_Form_Config_RS_Param_Pcnt::slot_currentIndexChanged_Type);
+}
+
+VLK_Form_Config_RS_Param_Pcnt::~VLK_Form_Config_RS_Param_Pcnt() = default;
+
+void VLK_Form_Config_RS_Param_Pcnt::retranslate()
+{
+    if (hasDoors())
+        tellParams(&VLK_Form_Config_RS_Param_Pcnt::signal_UserParam_Del);
+    ui_->retranslateUi(this);
+    params_ = std::make_unique<VLK_UserParams>();
+    slot_currentIndexChanged_Type(ui_->comboBox_Type->currentText());
+}
+
+bool VLK_Form_Config_RS_Param_Pcnt::hasDoors() const
+{
+    return ui_->stackedWidget->currentWidget() == ui_->page_ACode;
+}
+
+void VLK_Form_Config_RS_Param_Pcnt::slot_currentIndexChanged_Type(const QString& type)
+{
+    if (type == QLatin1String("ACOND")) {
+        ui_->stackedWidget->setCurrentWidget(ui_->page_ACode);
+        tellParams(&VLK_Form_Config_RS_Param_Pcnt::signal_UserParam_Add);
+    } else if (type == QLatin1String("PP01")) {
+        ui_->stackedWidget->setCurrentWidget(ui_->page_PP01);
+        tellParams(&VLK_Form_Config_RS_Param_Pcnt::signal_UserParam_Del);
+    }
+}
+
+void VLK_Form_Config_RS_Param_Pcnt::tellParams(Signal signal)
+{
+    for (const VLK_UserParam_CAN* param : params_->counterList())
+        (this->*signal)(QStringLiteral("CO"), param->name(), {}, params_->typeCodeSize(param->type()));
+}
+
+void VLK_Form_Config_RS_Param_Pcnt::slot_stateChanged_Passager(int counter)
+{
+    settings_->take(numbered("checkBox_Passager_", counter).constData());
+}
+
+void VLK_Form_Config_RS_Param_Pcnt::slot_toggled_Passager_Event_In(bool /*on*/)
+{
+    settings_->take("radioButton_Event_In");
+}
+
+void VLK_Form_Config_RS_Param_Pcnt::slot_stateChanged_ACode_Door(int door)
+{
+    settings_->take(numbered("checkBox_ACode_Door_", door).constData());
+}
+
+void VLK_Form_Config_RS_Param_Pcnt::slot_stateChanged_ACore_SM_SendNavi(int /*state*/)
+{
+    settings_->take("checkBox_ACore_SM_SendNavi");
+}

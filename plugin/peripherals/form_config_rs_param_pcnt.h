@@ -1,0 +1,48 @@
+#pragma once
+
+// The form of the passenger counters: up to seven counters with addresses of their own, or one counter for up
+// to six doors, whose values are user parameters. The families that are offered, and the lines that can begin
+// and end a count, are those of the table of settings.
+
+#include "peripherals/form_config_rs_param.h"
+
+#include <memory>
+
+class VLK_UserParams;
+
+namespace Ui {
+class VLK_Designer_Form_Config_RS_Param_Pcnt;
+}
+
+class VLK_Form_Config_RS_Param_Pcnt : public VLK_Form_Config_RS_Param
+{
+    Q_OBJECT
+
+public:
+    explicit VLK_Form_Config_RS_Param_Pcnt(QWidget* parent = nullptr);
+    ~VLK_Form_Config_RS_Param_Pcnt() override;
+
+    void retranslate() override;
+
+Q_SIGNALS:
+    // A value of the counter is there for the record, or is no more: code, name, nothing, bytes.
+    void signal_UserParam_Add(const QString& code, const QString& name, const QString& third, int size);
+    void signal_UserParam_Del(const QString& code, const QString& name, const QString& third, int size);
+
+public Q_SLOTS:
+    void slot_currentIndexChanged_Type(const QString& type);
+    void slot_stateChanged_Passager(int counter);
+    void slot_toggled_Passager_Event_In(bool on);
+    void slot_stateChanged_ACode_Door(int door);
+    void slot_stateChanged_ACore_SM_SendNavi(int state);
+
+private:
+    using Signal = void (VLK_Form_Config_RS_Param_Pcnt::*)(const QString&, const QString&, const QString&,
+                                                           int);
+
+    bool hasDoors() const;
+    void tellParams(Signal signal);
+
+    std::unique_ptr<Ui::VLK_Designer_Form_Config_RS_Param_Pcnt> ui_;
+    std::unique_ptr<VLK_UserParams> params_; // with names in the present language
+};

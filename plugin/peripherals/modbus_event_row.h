@@ -1,0 +1,54 @@
+#pragma once
+
+// One of the ten conditions under which a value that is read by Modbus makes an event of its own: its widgets
+// in a row of the form's grid, and what they do to each other.
+
+#include <QString>
+#include <QStringList>
+
+class QCheckBox;
+class QComboBox;
+class QGridLayout;
+class QSpinBox;
+class QWidget;
+
+namespace vlk {
+
+class ElidingComboBox;
+
+class ModbusEventRow
+{
+public:
+    // Captions of the columns, in their order: translation keys.
+    static const QList<const char*>& captions();
+
+    // `number` counts from 1.
+    ModbusEventRow(int number, QGridLayout* grid, int gridRow);
+
+    bool inUse() const;
+    // As switched on and off; `names` are those of the values in use.
+    void start(const QStringList& names, const QStringList& conditions);
+    void clear();
+    void retranslate(const QStringList& conditions);
+    // Enables the numbers that the condition needs.
+    void applyCondition();
+
+    // Brings the offered names up to `names`. Gives false where the chosen one is no longer among them.
+    bool offerNames(const QStringList& names);
+
+    QCheckBox* const use;
+    QComboBox* const param;
+    ElidingComboBox* const condition;
+    QSpinBox* const threshold;
+    QSpinBox* const lowerBound;
+    QSpinBox* const upperBound;
+    QSpinBox* const hysteresis;
+
+private:
+    QList<QWidget*> cells() const;
+    QList<QSpinBox*> numbers() const;
+
+    const int number_;
+};
+
+} // namespace vlk

@@ -1,0 +1,76 @@
+#pragma once
+
+// One of the 32 values that the tracker reads from Modbus sensors: its widgets in a row of the form's grid,
+// and what they do to each other. The form connects them and tells others of the value.
+
+#include "peripherals/params/user_param.h"
+
+#include <QStringList>
+
+class QCheckBox;
+class QComboBox;
+class QGridLayout;
+class QSpinBox;
+class QWidget;
+
+namespace vlk {
+
+class ElidingComboBox;
+
+// Of the user parameters that Modbus gives.
+inline constexpr char kModbusCode[] = "MB";
+
+// The texts of a row's lists, in the language of the moment.
+struct ModbusLists
+{
+    QStringList dataTypes;
+    QStringList byteOrders;
+};
+
+class ModbusRow
+{
+public:
+    // Captions of the columns, in their order: translation keys.
+    static const QList<const char*>& captions();
+
+    static QStringList registerTypes();
+
+    // `number` counts from 1.
+    ModbusRow(int number, QGridLayout* grid, int gridRow);
+
+    int number() const { return number_; }
+    bool inUse() const;
+    // As switched on, with a first address, and as switched off.
+    void start(int address, bool byNumber, const ModbusLists& lists);
+    void clear();
+    // Whether the number tells the register, or address and type.
+    void setByNumber(bool byNumber);
+    void retranslate(const ModbusLists& lists);
+
+    // The number follows address and type, or they follow it.
+    void showNumber();
+    void takeNumber();
+
+    // The user parameter that the row is: "MB3,  7,  1f" by its number, the slave address and the register
+    // address, and "2 bytes, unsigned". Without a name while the row is off.
+    UserParam offer() const;
+
+    QCheckBox* const use;
+    QSpinBox* const address;
+    QSpinBox* const registerNumber;
+    QSpinBox* const registerAddress;
+    QComboBox* const registerType;
+    ElidingComboBox* const dataType;
+    ElidingComboBox* const byteOrder;
+    QSpinBox* const period;
+    QCheckBox* const keepValue;
+
+private:
+    void setValues(int address, int registerAddress);
+    void enable(bool byNumber);
+    QList<QWidget*> cells() const;
+
+    const int number_;
+};
+
+} // namespace vlk

@@ -1,0 +1,259 @@
+#pragma once
+
+// The types of wireless sensor that the Bluetooth page can bind, as data: the settings of a type, its form,
+// what a sensor of each vendor supplies, and which of the tracker's numbers its value takes all come from its
+// row. A further type is a further row and its texts.
+
+#include "peripherals/params/user_param_type.h"
+#include "settings/settings_table.h"
+
+namespace vlk {
+
+// Sensors that the tracker can be bound to at a time.
+inline constexpr int kBluetoothSensors = 4;
+
+using UserParamTypes = std::span<const userParamType>;
+
+struct BluetoothVendor
+{
+    const char* name;
+    UserParamTypes supplies; // user parameters, in the order in which they are offered
+    bool needsName = false;  // found by its name: the edit of the name is open
+    bool named = false;      // whether it opens when the user changes to this vendor
+    bool indexed = true;     // its value takes one of the tracker's numbers
+    bool offered = true;
+    UserParamTypes withdraws{}; // where that differs from `supplies`
+};
+
+// Lists of numbers that several sensors share: what one of them takes is gone for the others.
+enum class BluetoothList { none, own, fuel, temperature };
+
+// The numbers of a value: "Fuel level sensor  1" and so on, right-justified. A file may know more of them
+// than the list has.
+struct BluetoothIndex
+{
+    BluetoothList list = BluetoothList::none;
+    int known = 0;
+    int offered = 0;
+    const char* text = "";
+    const char* widget = nullptr;
+    const char* caption = "";
+    // Stands in the element TS%1 that a temperature sensor would have; `withType`: beside its type 0.
+    bool elsewhere = false;
+    bool withType = false;
+};
+
+struct BluetoothSensorType
+{
+    const char* code; // in the file
+    const char* text; // null: the list of types has no text for it
+    bool offered;
+    const char* section; // its element, and the object name of its form
+    const char* page;    // of the stack
+    int height;
+    const char* vendorWidget;
+    const char* vendorCaption;
+    std::span<const BluetoothVendor> vendors;
+    BluetoothIndex index{};
+    std::span<const Setting> more{}; // what else the element holds
+    // The name's edit for all vendors alike; else as the vendor says.
+    enum class Naming { byVendor, never, always } naming = Naming::byVendor;
+};
+
+namespace bluetooth {
+
+using enum userParamType;
+
+template <userParamType... types>
+inline constexpr userParamType supplied[] = {types...};
+
+inline constexpr BluetoothVendor fuelLevel[] = {
+    {.name = "ESCORT TD", .supplies = supplied<link, signalLevel, battery>, .needsName = true, .named = true},
+    {.name = "GL-TV", .supplies = supplied<link, signalLevel>},
+    {.name = "TECHNOTON DUT E", .supplies = supplied<link, signalLevel, state>},
+    {.name = "MECHATRONICS DOMINATOR",
+     .supplies = supplied<link, signalLevel, battery>,
+     .withdraws = supplied<link, signalLevel, state, battery>},
+    {.name = "MIELTA FANTOM",
+     .supplies = supplied<link, signalLevel, state, battery, tilt>,
+     .needsName = true,
+     .named = true},
+};
+
+inline constexpr BluetoothVendor temperature[] = {
+    {.name = "ADM31/35", .supplies = supplied<light, battery, signalLevel, state, link>},
+    {.name = "ESCORT TL",
+     .supplies = supplied<light, battery, signalLevel, link>,
+     .needsName = true,
+     .named = true},
+    {.name = "TZ-BT04", .supplies = supplied<battery, signalLevel, state, link>},
+    {.name = "ELA T/RHT", .supplies = supplied<signalLevel, link>, .named = true, .offered = false},
+};
+
+inline constexpr BluetoothVendor tiltAngle[] = {
+    {.name = "ADM32", .supplies = supplied<link, signalLevel, state, battery, tilt>, .indexed = false},
+    {.name = "ESCORT DU",
+     .supplies = supplied<link, signalLevel, state, battery, tilt>,
+     .needsName = true,
+     .named = true},
+    {.name = "GNOM DP", .supplies = supplied<link, signalLevel, state, tilt>},
+    {.name = "MECHATRONICS DEGREE",
+     .supplies = supplied<link, signalLevel, state, tiltX, tiltY, tiltZ>,
+     .indexed = false},
+    {.name = "ELA MOV(ANG)",
+     .supplies = supplied<link, signalLevel, accelerationX, accelerationY, accelerationZ>,
+     .named = true,
+     .indexed = false},
+};
+
+inline constexpr BluetoothVendor combined[] = {
+    {.name = "TESLiOT",
+     .supplies = supplied<light, battery, signalLevel, state, link, accelerationX, accelerationY,
+                          accelerationZ, magnet>},
+    {.name = "ESCORT TH",
+     .supplies = supplied<light, battery, signalLevel, state, pressure, link>,
+     .needsName = true,
+     .named = true},
+};
+
+inline constexpr BluetoothVendor axleLoad[] = {
+    {.name = "TECHNOTON GNOM DDE", .supplies = supplied<link, pressure, signalLevel, state>}};
+inline constexpr BluetoothVendor fuelFlowing[] = {
+    {.name = "TECHNOTON DFM", .supplies = supplied<fuelFlow, link, signalLevel, state, battery, workTime>}};
+inline constexpr BluetoothVendor analogueInput[] = {
+    {.name = "ELA AI", .supplies = supplied<link, signalLevel>, .needsName = true, .named = true}};
+inline constexpr BluetoothVendor magnetic[] = {
+    {.name = "ELA MAG/MOV/DI/PIR", .supplies = supplied<link, signalLevel, state, magnet>}};
+// What it measures its rows say, one by one.
+inline constexpr BluetoothVendor anyMaker[] = {{.name = "", .supplies = supplied<link, signalLevel>}};
+
+inline constexpr Setting fuelThreshold[] = {
+    integer("thld", 50).range(0, 4095).in("FS%1/spinBox_FS_Thld").caption("cfgt17_041"),
+    flag("thldOff", 1).resetTo(0.0).in("FS%1/checkBox_FS_ThldOff").caption("cfgt17_042"),
+};
+
+constexpr BluetoothIndex degrees(bool withType)
+{
+    return {.list = BluetoothList::temperature,
+            .known = 4,
+            .offered = 4,
+            .text = "cfgt17_043",
+            .widget = "comboBox_Idx",
+            .caption = "cfgt17_046",
+            .elsewhere = true,
+            .withType = withType};
+}
+
+} // namespace bluetooth
+
+// In the order of the pages of the stack.
+inline constexpr BluetoothSensorType kBluetoothSensorTypes[] = {
+    {.code = "1",
+     .text = "cfgt17_018",
+     .offered = true,
+     .section = "FS%1",
+     .page = "page_FS",
+     .height = 100,
+     .vendorWidget = "comboBox_FS_Type",
+     .vendorCaption = "cfgt17_039",
+     .vendors = bluetooth::fuelLevel,
+     .index = {.list = BluetoothList::fuel,
+               .known = 16,
+               .offered = 6,
+               .text = "cfgt17_018",
+               .widget = "comboBox_FS_Idx",
+               .caption = "cfgt17_040"},
+     .more = bluetooth::fuelThreshold},
+    {.code = "2",
+     .text = "cfgt17_019",
+     .offered = true,
+     .section = "TS%1",
+     .page = "page_TS",
+     .height = 70,
+     .vendorWidget = "comboBox_TS_Type",
+     .vendorCaption = "cfgt17_045",
+     .vendors = bluetooth::temperature,
+     .index = {.list = BluetoothList::temperature,
+               .known = 4,
+               .offered = 4,
+               .text = "cfgt17_073",
+               .widget = "comboBox_TS_Idx",
+               .caption = "cfgt17_040"}},
+    {.code = "8",
+     .text = nullptr,
+     .offered = false,
+     .section = "AIN%1",
+     .page = "page_AIN",
+     .height = 70,
+     .vendorWidget = "comboBox_Type",
+     .vendorCaption = "cfgt17_076",
+     .vendors = bluetooth::analogueInput,
+     .index = {.list = BluetoothList::own,
+               .known = 6,
+               .offered = 6,
+               .text = "cfgt17_077",
+               .widget = "comboBox_Idx",
+               .caption = "cfgt17_040"}},
+    {.code = "9",
+     .text = nullptr,
+     .offered = false,
+     .section = "HS%1",
+     .page = "page_HS",
+     .height = 70,
+     .vendorWidget = "comboBox_Type",
+     .vendorCaption = "cfgt17_025",
+     .vendors = bluetooth::magnetic,
+     .naming = BluetoothSensorType::Naming::always},
+    {.code = "3",
+     .text = "cfgt17_020",
+     .offered = false,
+     .section = "AS%1",
+     .page = "page_AS",
+     .height = 70,
+     .vendorWidget = "comboBox_Type",
+     .vendorCaption = "cfgt17_025",
+     .vendors = bluetooth::tiltAngle,
+     .index = bluetooth::degrees(false)},
+    {.code = "4",
+     .text = "cfgt17_021",
+     .offered = false,
+     .section = "AXS%1",
+     .page = "page_AXS",
+     .height = 70,
+     .vendorWidget = "comboBox_Type",
+     .vendorCaption = "cfgt17_025",
+     .vendors = bluetooth::axleLoad,
+     .naming = BluetoothSensorType::Naming::never},
+    {.code = "5",
+     .text = "cfgt17_022",
+     .offered = false,
+     .section = "FW%1",
+     .page = "page_FW",
+     .height = 70,
+     .vendorWidget = "comboBox_Type",
+     .vendorCaption = "cfgt17_025",
+     .vendors = bluetooth::fuelFlowing,
+     .naming = BluetoothSensorType::Naming::never},
+    {.code = "6",
+     .text = "cfgt17_023",
+     .offered = false,
+     .section = "U%1",
+     .page = "page_UP",
+     .height = 560,
+     .vendorWidget = nullptr,
+     .vendorCaption = nullptr,
+     .vendors = bluetooth::anyMaker,
+     .naming = BluetoothSensorType::Naming::always},
+    {.code = "7",
+     .text = "cfgt17_074",
+     .offered = true,
+     .section = "US%1",
+     .page = "page_US",
+     .height = 70,
+     .vendorWidget = "comboBox_Type",
+     .vendorCaption = "cfgt17_025",
+     .vendors = bluetooth::combined,
+     .index = bluetooth::degrees(true)},
+};
+
+} // namespace vlk

@@ -1,0 +1,290 @@
+#include "settings/bluetooth_settings.h"
+
+#include "settings/bluetooth_sensor_types.h"
+#include "settings/bluetooth_universal_rows.h"
+
+#include <initializer_list>
+#include <utility>
+
+namespace vlk {
+
+namespace {
+
+constexpr std::size_t kTypes = std::size(kBluetoothSensorTypes);
+using Text = std::array<char, 48>;
+
+constexpr Text textOf(std::initializer_list<std::string_view> parts)
+{
+    Text text{};
+    std::size_t size = 0;
+    for (const std::string_view part : parts) {
+        for (const char sign : part)
+            text[size++] = sign;
+    }
+    return text;
+}
+
+// What the rows of a type name, from its row in the table of types.
+template <std::size_t i>
+struct Names
+{
+    static constexpr const BluetoothSensorType& type = kBluetoothSensorTypes[i];
+    static constexpr bool hasIndex = type.index.list != BluetoothList::none;
+
+    static constexpr Text typePath = textOf({type.section, "/type"});
+    // Two types may stand in one element: the group has a name of its own then.
+    static constexpr Text indexGroup =
+        type.index.elsewhere ? textOf({type.section, " TS%1"}) : textOf({type.section});
+    static constexpr Text indexPath = textOf({indexGroup.data(), "/idx"});
+    static constexpr Text vendorWidget =
+        textOf({type.section, "/", type.vendorWidget ? type.vendorWidget : ""});
+    static constexpr Text indexWidget = textOf({type.section, "/", hasIndex ? type.index.widget : ""});
+
+    static constexpr auto vendorNumbers = [] {
+        std::array<std::array<char, 2>, type.vendors.size()> numbers{};
+        for (std::size_t n = 0; n < numbers.size(); ++n)
+            numbers[n][0] = static_cast<char>('0' + n);
+        return numbers;
+    }();
+    static constexpr auto vendors = [] {
+        std::array<Code, type.vendors.size()> codes{};
+        for (std::size_t n = 0; n < codes.size(); ++n)
+            codes[n] = {.code = vendorNumbers[n].data(),
+                        .label = type.vendors[n].name,
+                        .offered = type.vendors[n].offered};
+        return codes;
+    }();
+    // "1|2": those whose value takes a number, where not all do.
+    static constexpr Text indexedVendors = [] {
+        Text text{};
+        std::size_t size = 0;
+        for (std::size_t n = 0; n < type.vendors.size(); ++n) {
+            if (!type.vendors[n].indexed)
+                continue;
+            if (size > 0)
+                text[size++] = '|';
+            text[size++] = vendorNumbers[n][0];
+        }
+        return text;
+    }();
+    static constexpr bool allIndexed = [] {
+        for (const BluetoothVendor& vendor : type.vendors) {
+            if (!vendor.indexed)
+                return false;
+        }
+        return true;
+    }();
+    // The list and its label.
+    static constexpr Text indexTargets = [] {
+        const std::string_view widget = hasIndex ? type.index.widget : "";
+        return textOf({indexWidget.data(), " ", type.section, "/label_",
+                       widget.substr(std::min(widget.size(), widget.find('_') + 1))});
+    }();
+    static constexpr When indexed = allIndexed ? When{} : when(typePath.data(), indexedVendors.data());
+
+    static constexpr auto indexFormats = [] {
+        std::array<Text, type.index.known> formats{};
+        for (std::size_t n = 0; n < formats.size(); ++n) {
+            const universal::NumberText& number = universal::numberTexts[n];
+            formats[n] = textOf({"%1 ", type.index.known > 9 ? number.label : number.code});
+        }
+        return formats;
+    }();
+    // A file may ask for no number at all.
+    static constexpr auto indices = [] {
+        std::array<Code, type.index.known + 1> codes{};
+        for (std::size_t n = 0; n < indexFormats.size(); ++n)
+            codes[n] = {.code = universal::numberTexts[n].code,
+                        .label = type.index.text,
+                        .format = indexFormats[n].data(),
+                        .offered = static_cast<int>(n) < type.index.offered};
+        codes.back() = {.code = "-1", .offered = false};
+        return codes;
+    }();
+};
+
+template <std::size_t i>
+constexpr auto indexRows()
+{
+    using Type = Names<i>;
+    return choice("idx", Type::indices, "1")
+        .byNumber()
+        .unknownIs("1")
+        .unofferedLeavesIt()
+        .in(Type::indexWidget.data())
+        .caption(Type::type.index.caption);
+}
+
+template <std::size_t i>
+constexpr auto rowsOfType()
+{
+    using Type = Names<i>;
+    constexpr When chosen = when("SENS%1/type", Type::type.code);
+    if constexpr (!Type::type.vendorWidget) {
+        auto rows = universal::rows;
+        for (Setting& row : rows) {
+            if (row.kind == Kind::group)
+                row = row.onlyWhen(chosen);
+        }
+        return rows;
+    } else {
+        constexpr Setting vendor = choice("type", Type::vendors, "0")
+                                       .byNumber()
+                                       .unknownIs("0")
+                                       .unofferedLeavesIt()
+                                       .in(Type::vendorWidget.data())
+                                       .caption(Type::type.vendorCaption);
+        constexpr auto more = [] {
+            std::array<Setting, Type::type.more.size()> rows{};
+            std::copy(Type::type.more.begin(), Type::type.more.end(), rows.begin());
+            return rows;
+        }();
+        constexpr Setting own = group(Type::type.section).onlyWhen(chosen);
+        if constexpr (!Type::hasIndex) {
+            return rowsOf(own, vendor, more);
+        } else if constexpr (!Type::type.index.elsewhere) {
+            return rowsOf(own, vendor, indexRows<i>(), more);
+        } else {
+            constexpr Setting beside = group("TS%1").named(Type::indexGroup.data()).ifAny().onlyWhen(chosen);
+            constexpr std::array<Setting, Type::type.index.withType> constants = [] {
+                std::array<Setting, Type::type.index.withType> rows{};
+                std::fill(rows.begin(), rows.end(), constant("type", "0"));
+                return rows;
+            }();
+            // Whether it counts is known when the vendor has been read.
+            return rowsOf(beside, constants, indexRows<i>().onlyWhen(Type::indexed).readLast(), own, vendor,
+                          more);
+        }
+    }
+}
+
+constexpr int numberOf(const char* code)
+{
+    int number = 0;
+    for (; *code; ++code)
+        number = number * 10 + (*code - '0');
+    return number;
+}
+
+// No type, and the others by their numbers.
+template <std::size_t count>
+constexpr auto typeCodes(bool (*isListed)(const BluetoothSensorType&))
+{
+    std::array<Code, count + 1> codes{};
+    std::size_t size = 0;
+    codes[size++] = {.code = "0", .label = "wrd_002"};
+    for (const BluetoothSensorType& type : kBluetoothSensorTypes) {
+        if (isListed(type))
+            codes[size++] = {.code = type.code, .label = type.text ? type.text : "", .offered = type.offered};
+    }
+    std::sort(codes.begin(), codes.end(),
+              [](const Code& a, const Code& b) { return numberOf(a.code) < numberOf(b.code); });
+    return codes;
+}
+
+constexpr auto hasText = [](const BluetoothSensorType& type) { return type.text != nullptr; };
+// A file may name any type that has a text; those of the list are offered.
+constexpr auto kTypeCodes =
+    typeCodes<std::count_if(std::begin(kBluetoothSensorTypes), std::end(kBluetoothSensorTypes), hasText)>(
+        hasText);
+constexpr auto kFormCodes = [] {
+    auto codes = typeCodes<kTypes>([](const BluetoothSensorType&) { return true; });
+    for (Code& code : codes)
+        code.offered = true;
+    return codes;
+}();
+
+template <std::size_t... types>
+constexpr auto sensorRows(std::index_sequence<types...>)
+{
+    return rowsOf(group("SENS%1"),
+                  choice("type", kTypeCodes, "0")
+                      .byNumber()
+                      .unknownIs("0")
+                      .unofferedLeavesIt()
+                      .in("comboBox_Type_Sens_%1")
+                      .caption("cfgt17_025"),
+                  choice("form", kFormCodes, "0").byNumber().unknownIs("0").notStored(),
+                  text("macaddr", "")
+                      .masked("HH:HH:HH:HH:HH:HH")
+                      .in("lineEdit_Bt_MacAdr_Sens_%1")
+                      .caption("cfgt17_007"),
+                  text("name", "").in("lineEdit_Name_Sens_%1").caption("cfgt17_026"), rowsOfType<types>()...);
+}
+
+constexpr auto kSensorRows = sensorRows(std::make_index_sequence<kTypes>{});
+
+// Checked sensor by sensor: the names of each are its own.
+constexpr auto kRows =
+    tables::join(rowsOf(group("GLOBAL"), flag("use", 1).in("checkBox_Bt_Use").caption("cfgt17_004"),
+                        group("CHANNEL1"), constant("device", "SENS")),
+                 repeat<kBluetoothSensors>([](int) { return kSensorRows; }));
+
+constexpr auto formPulls = [] {
+    std::array<Pull, kTypes + 1> pulls{};
+    for (std::size_t i = 0; i <= kTypes; ++i)
+        pulls[i] = {.when = when("SENS%1/type", kFormCodes[i].code),
+                    .set = "SENS%1/form",
+                    .to = kFormCodes[i].code,
+                    .onRead = true};
+    return pulls;
+}();
+
+constexpr auto kPulls = repeat<kBluetoothSensors>([](int) { return rulesOf(formPulls, universal::pulls); });
+constexpr auto kRanges = repeat<kBluetoothSensors>([](int) { return universal::ranges; });
+
+// The number of a sensor is shown where its vendor's value takes one.
+template <std::size_t i>
+constexpr auto enablesOfType()
+{
+    using Type = Names<i>;
+    if constexpr (Type::allIndexed)
+        return std::array<Enable, 0>{};
+    else
+        return std::array{show(Type::indexTargets.data(), Type::indexed)};
+}
+
+template <std::size_t... types>
+constexpr auto sensorEnables(std::index_sequence<types...>)
+{
+    return rulesOf(enablesOfType<types>()..., universal::enables);
+}
+
+constexpr auto kEnables =
+    rulesOf(enable("groupBox_Bt_List", when("GLOBAL/use")),
+            repeat<kBluetoothSensors>([](int) { return sensorEnables(std::make_index_sequence<kTypes>{}); }));
+
+template <std::size_t i>
+constexpr auto solesOfType()
+{
+    using Type = Names<i>;
+    constexpr BluetoothList list = Type::type.index.list;
+    if constexpr (list == BluetoothList::fuel || list == BluetoothList::temperature)
+        return std::array{Sole{.path = Type::indexPath.data(),
+                               .when = when("SENS%1/form", Type::type.code),
+                               .also = Type::indexed,
+                               .list = list == BluetoothList::fuel ? "fuel" : "temperature",
+                               .holder = "SENS%1"}};
+    else
+        return std::array<Sole, 0>{};
+}
+
+template <std::size_t... types>
+constexpr auto sensorSoles(std::index_sequence<types...>)
+{
+    return rulesOf(solesOfType<types>()..., universal::soles);
+}
+
+constexpr auto kSoles =
+    repeat<kBluetoothSensors>([](int) { return sensorSoles(std::make_index_sequence<kTypes>{}); });
+
+} // namespace
+
+constexpr SettingsTable kBluetoothSettings{.section = "BLUETOOTH",
+                                           .rows = kRows,
+                                           .pulls = kPulls,
+                                           .ranges = kRanges,
+                                           .soles = kSoles,
+                                           .enables = kEnables};
+
+} // namespace vlk

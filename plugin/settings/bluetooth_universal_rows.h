@@ -1,0 +1,253 @@
+#pragma once
+
+// The settings of the universal wireless sensor: four conditions for the messages that are taken at all
+// (U1C1 and so on), and eight values that lie in them (U1P1 and so on). %1 is the number of the sensor, %2
+// that of the row. A row whose group is 0 is switched off.
+
+#include "settings/settings_table.h"
+
+namespace vlk {
+
+inline constexpr int kUniversalConditions = 4;
+inline constexpr int kUniversalValues = 8;
+
+namespace universal {
+
+inline constexpr Code operators[] = {{.code = "0", .label = "abbr_049"}, {.code = "1", .label = "abbr_048"}};
+inline constexpr Code byteOrders[] = {{.code = "0", .label = "cfgt17_047"},
+                                      {.code = "1", .label = "cfgt17_048"}};
+
+// How a value lies in a message: width and kind.
+inline constexpr Code elements[] = {
+    {.code = "1b", .label = "wrd_016", .format = "1 %1, %2", .second = "wrd_019"},
+    {.code = "1u", .label = "wrd_016", .format = "1 %1, %2", .second = "wrd_020"},
+    {.code = "1s", .label = "wrd_016", .format = "1 %1, %2", .second = "wrd_021"},
+    {.code = "2b", .label = "wrd_017", .format = "2 %1, %2", .second = "wrd_019"},
+    {.code = "2u", .label = "wrd_017", .format = "2 %1, %2", .second = "wrd_020"},
+    {.code = "2s", .label = "wrd_017", .format = "2 %1, %2", .second = "wrd_021"},
+    {.code = "4b", .label = "wrd_017", .format = "4 %1, %2", .second = "wrd_019"},
+    {.code = "4u", .label = "wrd_017", .format = "4 %1, %2", .second = "wrd_020"},
+    {.code = "4s", .label = "wrd_017", .format = "4 %1, %2", .second = "wrd_021"},
+    {.code = "4f", .label = "wrd_017", .format = "4 %1, %2", .second = "wrd_022"},
+    {.code = "8b", .label = "wrd_016", .format = "8 %1, %2", .second = "wrd_019"},
+    {.code = "8u", .label = "wrd_016", .format = "8 %1, %2", .second = "wrd_020"},
+    {.code = "8s", .label = "wrd_016", .format = "8 %1, %2", .second = "wrd_021"},
+    {.code = "8f", .label = "wrd_016", .format = "8 %1, %2", .second = "wrd_022"},
+};
+
+// What a value is in the tracker.
+inline constexpr Code targets[] = {
+    {.code = "0", .label = "cfgt17_049"},
+    {.code = "1", .label = "cfgt17_072"},
+    {.code = "2", .label = "cfgt17_051"},
+    {.code = "3", .label = "cfgt17_052"},
+    {.code = "4", .label = "cfgt17_053"},
+    {.code = "5", .label = "cfgt17_054"},
+    {.code = "6", .label = "cfgt17_055"},
+    {.code = "7", .label = "cfgt17_056", .format = "%1 X"},
+    {.code = "8", .label = "cfgt17_056", .format = "%1 Y"},
+    {.code = "9", .label = "cfgt17_056", .format = "%1 Z"},
+};
+
+inline constexpr int mostNumbers = 32;
+struct NumberText
+{
+    char code[3];
+    char label[3]; // right-justified
+};
+inline constexpr auto numberTexts = [] {
+    std::array<NumberText, mostNumbers> texts{};
+    for (int number = 1; number <= mostNumbers; ++number) {
+        const char tens = static_cast<char>('0' + number / 10);
+        const char ones = static_cast<char>('0' + number % 10);
+        texts[number - 1] = number < 10 ? NumberText{{ones, 0, 0}, {' ', ones, 0}}
+                                        : NumberText{{tens, ones, 0}, {tens, ones, 0}};
+    }
+    return texts;
+}();
+inline constexpr auto numbers = [] {
+    std::array<Code, mostNumbers> codes{};
+    for (std::size_t i = 0; i < codes.size(); ++i)
+        codes[i] = {.code = numberTexts[i].code, .label = numberTexts[i].label};
+    return codes;
+}();
+
+constexpr Setting byte(const char* key, const char* widget, const char* caption)
+{
+    return integer(key, 0).range(0, 255).in(widget).caption(caption);
+}
+
+constexpr Setting type(int loadDefault, const char* widget)
+{
+    return hexadecimal("type", loadDefault).range(0, 255).in(widget).caption("cfgt17_060");
+}
+
+constexpr Setting messageMask(const char* widget)
+{
+    return text("mask", "").upTo(32).in(widget).caption("cfgt17_062");
+}
+
+constexpr Setting rowGroup(const char* check, const char* widget)
+{
+    return integer("group", 0)
+        .range(1, 4)
+        .offAtZero(check)
+        .switchedOnTo(1)
+        .onUnlessZero()
+        .in(widget)
+        .caption("cfgt17_058");
+}
+
+// The first condition is always on and joins nothing.
+constexpr auto firstCondition = rowsOf(
+    group("U%1C1"), integer("group", 1).range(1, 4).in("U%1/spinBox_Condition_Group_1").caption("cfgt17_058"),
+    constant("oper", "0"), type(0xFF, "U%1/spinBox_Condition_Type_1"),
+    byte("offset", "U%1/spinBox_Condition_Displacement_1", "cfgt17_061"),
+    messageMask("U%1/lineEdit_Condition_Mask_1"));
+
+constexpr auto laterCondition(int number)
+{
+    return numbered(rowsOf(group("U%1C%2"),
+                           rowGroup("U%1/checkBox_Condition_Use_%2", "U%1/spinBox_Condition_Group_%2"),
+                           choice("oper", operators, "0")
+                               .byNumber()
+                               .unknownIs("0")
+                               .in("U%1/comboBox_Condition_Operator_%2")
+                               .caption("cfgt17_059"),
+                           type(0xFF, "U%1/spinBox_Condition_Type_%2").resetTo(0.0),
+                           byte("offset", "U%1/spinBox_Condition_Displacement_%2", "cfgt17_061"),
+                           messageMask("U%1/lineEdit_Condition_Mask_%2")),
+                    number);
+}
+
+constexpr auto valueRows = repeat<kUniversalValues>([](int) {
+    return rowsOf(
+        group("U%1P%2"), rowGroup("U%1/checkBox_Parameters_Use_%2", "U%1/spinBox_Parameters_Group_%2"),
+        type(0, "U%1/spinBox_Parameters_Type_%2"),
+        byte("offset", "U%1/spinBox_Parameters_Displacement_%2", "cfgt17_061"),
+        choice("prm", elements, "")
+            .resetTo("1b")
+            .unknownIs("")
+            .noItemIs("")
+            .in("U%1/comboBox_Parameters_Dimension_%2")
+            .caption("cfgt17_033"),
+        choice("be", byteOrders, "0")
+            .byNumber()
+            .unknownIs("0")
+            .in("U%1/comboBox_Parameters_ByteOrder_%2")
+            .caption("cfgt17_067"),
+        choice("stor", targets, "0")
+            .byNumber()
+            .unknownIs("0")
+            .in("U%1/comboBox_Parameters_SensorType_%2")
+            .caption("cfgt17_040"),
+        choice("idx", numbers, "1")
+            .byNumber()
+            .offering("")
+            .noItemIs("0")
+            .unofferedLeavesIt()
+            .resetTo("0")
+            .in("U%1/comboBox_Parameters_Index_%2")
+            .caption("cfgt17_068"),
+        integer("mux", 1).range(0, 65535).in("U%1/spinBox_Parameters_Multiplier_%2").caption("cfgt17_069"),
+        integer("div", 1).range(1, 65535).in("U%1/spinBox_Parameters_Divider_%2").caption("cfgt17_070"),
+        integer("shift", 0)
+            .range(-32768, 32767)
+            .in("U%1/spinBox_Parameters_Amendment_%2")
+            .caption("cfgt17_071"));
+});
+
+constexpr auto rows =
+    rowsOf(firstCondition, laterCondition(2), laterCondition(3), laterCondition(4), valueRows);
+
+// A row that is switched on takes any type of message; one that is switched off holds nothing.
+constexpr auto laterConditionPulls(int number)
+{
+    constexpr When on = when("U%1C%2/group");
+    constexpr When off = unless("U%1C%2/group");
+    return numbered(rulesOf(Pull{.when = on, .set = "U%1C%2/type", .to = "FF", .onset = true},
+                            Pull{.when = on, .set = "U%1C%2/offset", .to = "0", .onset = true},
+                            Pull{.when = off, .set = "U%1C%2/type", .to = "00"},
+                            Pull{.when = off, .set = "U%1C%2/offset", .to = "0"},
+                            Pull{.when = off, .set = "U%1C%2/mask", .to = ""},
+                            Pull{.when = off, .set = "U%1C%2/oper", .to = "0"}),
+                    number);
+}
+
+constexpr auto pulls = rulesOf(
+    laterConditionPulls(2), laterConditionPulls(3), laterConditionPulls(4), repeat<kUniversalValues>([](int) {
+        constexpr When on = when("U%1P%2/group");
+        constexpr When off = unless("U%1P%2/group");
+        return rulesOf(Pull{.when = on, .set = "U%1P%2/type", .to = "FF", .onset = true},
+                       Pull{.when = on, .set = "U%1P%2/stor", .to = "1", .onset = true},
+                       Pull{.when = off, .set = "U%1P%2/stor", .to = "0"},
+                       Pull{.when = off, .set = "U%1P%2/type", .to = "00"},
+                       Pull{.when = off, .set = "U%1P%2/offset", .to = "0"},
+                       Pull{.when = off, .set = "U%1P%2/prm", .to = "1b"},
+                       Pull{.when = off, .set = "U%1P%2/be", .to = "0"},
+                       Pull{.when = off, .set = "U%1P%2/mux", .to = "1"},
+                       Pull{.when = off, .set = "U%1P%2/div", .to = "1"},
+                       Pull{.when = off, .set = "U%1P%2/shift", .to = "0"});
+    }));
+
+constexpr RangeWhen numbersOf(const char* targets, const char* numbers)
+{
+    return {
+        .when = when("U%1P%2/stor", targets), .path = "U%1P%2/idx", .offers = numbers, .startsOver = true};
+}
+
+constexpr auto ranges = repeat<kUniversalValues>([](int) {
+    return rulesOf(numbersOf("0", ""),
+                   numbersOf("1",
+                             "1|2|3|4|5|6|7|8|9|10|11|12|13|14|15|16|17|18|19|20|21|22|23|24|25|26|27|28|"
+                             "29|30|31|32"),
+                   numbersOf("2|3|4", "1|2|3|4|5|6|7|8|9|10|11|12|13|14|15|16"),
+                   numbersOf("5", "1|2|3|4|5|6|7|8"), numbersOf("6", "1|2|3|4"), numbersOf("7|8|9", "1"));
+});
+
+// One number of a kind goes to one row of the form.
+constexpr auto soles = repeat<kUniversalValues>([](int) {
+    return Sole{.path = "U%1P%2/idx",
+                .when = when("U%1P%2/group"),
+                .also = when("U%1P%2/stor", "1|2|3|4|5|6"),
+                .list = "U%1",
+                .holder = "U%1P%2",
+                .split = "U%1P%2/stor"};
+});
+
+constexpr auto laterConditionEnables(int number)
+{
+    return numbered(rulesOf(enable("U%1/comboBox_Condition_Operator_%2 U%1/spinBox_Condition_Type_%2 "
+                                   "U%1/spinBox_Condition_Displacement_%2 U%1/lineEdit_Condition_Mask_%2",
+                                   when("U%1C%2/group")),
+                            show("U%1/comboBox_Condition_Operator_%2", when("U%1C%2/group"))),
+                    number);
+}
+
+// An operator joins a condition to an earlier one of its group.
+constexpr Enable joins(const char* targets, When first, When second = {}, When third = {})
+{
+    Enable rule = enableAny(targets, first, second, third);
+    rule.effect = Enable::Effect::shown;
+    return rule;
+}
+
+constexpr auto enables =
+    rulesOf(laterConditionEnables(2), laterConditionEnables(3), laterConditionEnables(4),
+            joins("U%1/comboBox_Condition_Operator_2", whenSame("U%1C2/group", "U%1C1/group")),
+            joins("U%1/comboBox_Condition_Operator_3", whenSame("U%1C3/group", "U%1C1/group"),
+                  whenSame("U%1C3/group", "U%1C2/group")),
+            joins("U%1/comboBox_Condition_Operator_4", whenSame("U%1C4/group", "U%1C1/group"),
+                  whenSame("U%1C4/group", "U%1C2/group"), whenSame("U%1C4/group", "U%1C3/group")),
+            repeat<kUniversalValues>([](int) {
+                return enable("U%1/spinBox_Parameters_Type_%2 U%1/spinBox_Parameters_Displacement_%2 "
+                              "U%1/comboBox_Parameters_Dimension_%2 U%1/comboBox_Parameters_ByteOrder_%2 "
+                              "U%1/comboBox_Parameters_SensorType_%2 U%1/comboBox_Parameters_Index_%2 "
+                              "U%1/spinBox_Parameters_Multiplier_%2 U%1/spinBox_Parameters_Divider_%2 "
+                              "U%1/spinBox_Parameters_Amendment_%2",
+                              when("U%1P%2/group"));
+            }));
+
+} // namespace universal
+
+} // namespace vlk

@@ -1,0 +1,105 @@
+#pragma once
+
+// The input lines of the quick window. It offers whole uses; in the file a use is the state of the line at
+// rest, the ignition flag of an element inside, and that element's fixed values.
+
+#include "settings/settings_table.h"
+
+namespace vlk::quick {
+
+inline constexpr Code kUses[] = {
+    {.code = "NU", .label = "cfgwl_012"},
+    {.code = "NS+", .label = "cfgt8_003", .format = "%1+"},
+    {.code = "NB+", .label = "cfgt8_004", .format = "%1+"},
+    {.code = "NB+ ignition", .label = "cfgt8_051"},
+    {.code = "NS+ ignition", .label = "cfgt8_052"},
+    {.code = "NB-", .label = "cfgt8_004", .format = "%1-"},
+    {.code = "NS-", .label = "cfgt8_003", .format = "%1-"},
+    {.code = "AIN", .label = "cfgwl_016"},
+};
+
+// State at rest and ignition of each use. Ignition on a line that switches to ground is no use of this
+// window.
+inline constexpr PresetRow kUseRows[] = {
+    {"NU", {"NU", "0"}},
+    {"NS+", {"NS+", "0"}},
+    {"NB+", {"NB+", "0"}},
+    {"NB+ ignition", {"NB+", "1"}},
+    {"NS+ ignition", {"NS+", "1"}},
+    {"NB-", {"NB-", "0"}},
+    {"NS-", {"NS-", "0"}},
+    {"AIN", {"AIN", "0"}},
+    {"NU", {"NB-", "1"}},
+    {"NU", {"NS-", "1"}},
+};
+
+inline constexpr Code kStates[] = {{.code = "NU"},  {.code = "NS+"}, {.code = "NB+"},
+                                   {.code = "NB-"}, {.code = "NS-"}, {.code = "AIN"}};
+inline constexpr Code kNoOrYes[] = {{.code = "0"}, {.code = "1"}};
+inline constexpr const char* kToSupply = "NS+|NB+";
+inline constexpr const char* kToGround = "NS-|NB-";
+inline constexpr const char* kDigital = "NS+|NB+|NS-|NB-";
+
+struct Line
+{
+    const char* uses;
+    const char* caption;
+    const char* name; // of a line in use
+    double ignition;  // where the file lacks the element with the flag
+};
+
+inline constexpr Line kLines[] = {
+    {"NU|NS+|NB+|NB+ ignition|NS+ ignition", "cfgt8_010", "UIN1", 1},
+    {"NU|NB-|NS-", "cfgt8_011", "UIN2", 0},
+    {"NU|NS+|NB+|AIN", "cfgt8_012", "UIN3", 0},
+};
+
+inline constexpr auto kLineRows = rowsOf(
+    group("SENSORS"), constant("page", "SENSORS"), repeat<3>([](int number) {
+        const Line& line = kLines[number - 1];
+        return rowsOf(group("SENSORS/IN%1"),
+                      choice("use", kUses, "NU")
+                          .offering(line.uses)
+                          .notStored()
+                          .staying()
+                          .in("comboBox_NormState_In_%1")
+                          .caption(line.caption),
+                      choice("ign", kNoOrYes, "0").byNumber().unknownIs("0").notStored(),
+                      choice("normState", kStates, "NU").unknownIs("").noItemIs(""),
+                      constant("name", line.name).savedAs("", unless("SENSORS/IN%1/normState", "NU")),
+
+                      group("SENSORS/IN%1/IN%1DIN").onlyWhen(when("SENSORS/IN%1/normState", kToGround)),
+                      link("ign", "SENSORS/IN%1/ign", 0).withoutElement(line.ignition),
+                      constant("cntlRestore", "1"), constant("analysTime", "2500"),
+
+                      group("SENSORS/IN%1/IN%1ADIN").onlyWhen(when("SENSORS/IN%1/normState", kToSupply)),
+                      link("ign", "SENSORS/IN%1/ign", 1).withoutElement(line.ignition),
+                      constant("cntlRestore", "0"), constant("analysTime", "2500"),
+                      constant("lowLvl", "5000"), constant("highLvl", "6000"),
+
+                      group("SENSORS/IN%1/IN%1AIN").onlyWhen(when("SENSORS/IN%1/normState", "AIN")),
+                      constant("thld", "5000"), constant("trhldOff", "0"), constant("filterMode", "1"),
+                      constant("filterLen", "30"), constant("filterLvl", "5"));
+    }));
+
+inline constexpr auto kLinePresets = repeat<3>([](int) {
+    return Presets{.trigger = "SENSORS/IN%1/use",
+                   .fields = {"SENSORS/IN%1/normState", "SENSORS/IN%1/ign"},
+                   .rows = kUseRows,
+                   .settles = true};
+});
+
+// Fields of a record: the states of the digital lines, and the voltage of each line.
+inline constexpr int kLineStates[] = {28};
+inline constexpr int kLineVoltages[][1] = {{20}, {21}, {22}};
+
+inline constexpr auto kLineMasks = repeat<3>([](int number) {
+    return rulesOf(MaskPositions{.path = "PROTOCOL/ZETA/mask",
+                                 .positions = kLineStates,
+                                 .when = {when("SENSORS/IN%1/normState", kDigital)}},
+                   MaskPositions{.path = "PROTOCOL/ZETA/mask",
+                                 .positions = kLineVoltages[number - 1],
+                                 .when = {when("SENSORS/IN%1/normState", "AIN")}});
+});
+
+} // namespace vlk::quick

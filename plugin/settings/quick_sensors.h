@@ -1,0 +1,175 @@
+#pragma once
+
+// The fuel level sensors of the quick window: two on RS-485, two over Bluetooth. The file keeps them as the
+// full window does; what the quick window does not show of a sensor has a fixed value.
+
+#include "settings/settings_table.h"
+
+namespace vlk::quick {
+
+inline constexpr const char* kRsCaptions[] = {"%1 1", "%1 2"};
+
+inline constexpr auto kRsRows = rowsOf(
+    group("RS485"), constant("page", "RS485"),
+    flag("fuel", 0).notStored().in("checkBox_Fuel_RS485_Use").caption("cfgwl_029"), repeat<2>([](int number) {
+        return rowsOf(flag("sensor%1", 0)
+                          .notStored()
+                          .in("checkBox_Fuel_RS485_Use_%1")
+                          .caption("cfgwl_032", kRsCaptions[number - 1]),
+                      integer("address%1", number)
+                          .range(0, 255)
+                          .notStored()
+                          .in("spinBox_Fuel_RS485_Addres_%1")
+                          .caption("cfgwl_031"));
+    }),
+
+    group("RS485/OPTIONS"), text("owner1", ""), constant("owner2", ""), constant("boudrate", "19200"),
+    constant("parity", "0"), constant("stopBit", "1"),
+
+    // A sensor that is checked is kept, even while the window as a whole uses none.
+    repeat<2>([](int number) {
+        return rowsOf(group("RS485/FS%1")
+                          .onlyWhen(when("RS485/sensor%1"))
+                          .readWhen(when("RS485/OPTIONS/owner1", "FLDS")),
+                      link("use", "RS485/sensor%1", 1), constant("type", "0"),
+                      link("address", "RS485/address%1", number), constant("thld", "50"),
+                      constant("thldOff", "1"), constant("filterMode", "0"), constant("filterLength", "5"),
+                      constant("filterLvl", "5"));
+    }));
+
+inline constexpr Code kSensorTypes[] = {
+    {.code = "0", .label = "ESCORT TD"},
+    {.code = "1", .label = "GL-TV"},
+    {.code = "2", .label = "TECHNOTON"},
+    {.code = "3", .label = "MECHATRONICS DOMINATOR"},
+};
+inline constexpr const char* kNamelessTypes = "1|3";
+
+// Kinds of sensors that the file may name: 1 is a fuel level sensor.
+inline constexpr Code kThirdSensor[] = {
+    {.code = "0", .label = "wrd_002"},
+    {.code = "1", .label = "cfgwl_032", .format = "%1 3", .widget = "checkBox_BT_1"}};
+inline constexpr Code kFourthSensor[] = {
+    {.code = "0", .label = "wrd_002"},
+    {.code = "1", .label = "cfgwl_032", .format = "%1 4", .widget = "checkBox_BT_2"}};
+
+struct Wireless
+{
+    int number;
+    std::span<const Code> kinds;
+    const char* type;
+    const char* address;
+    const char* name;
+    const char* index;
+    const char* caption; // columns have a heading; the name for screen readers tells the sensor too
+};
+
+inline constexpr Wireless kWireless[] = {
+    {3, kThirdSensor, "comboBox_BT_Type_1", "lineEdit_BT_Mac_1", "lineEdit_BT_Name_1", "3", "%1 3"},
+    {4, kFourthSensor, "comboBox_BT_Type_2", "lineEdit_BT_Mac_2", "lineEdit_BT_Name_2", "4", "%1 4"},
+};
+
+constexpr auto wirelessChoice(const Wireless& sensor)
+{
+    return numbered(rowsOf(choice("sensor%1", sensor.kinds, "0").byNumber().unknownIs("0").notStored()),
+                    sensor.number);
+}
+
+constexpr auto wirelessRows(const Wireless& sensor)
+{
+    constexpr When inUse = when("BLUETOOTH/sensors");
+    constexpr When checked = when("BLUETOOTH/sensor%1", "1");
+    constexpr When switchedOn = when("BLUETOOTH/GLOBAL/use");
+    constexpr When forSensors = when("BLUETOOTH/CHANNEL1/device", "SENS");
+    return numbered(
+        rowsOf(group("BLUETOOTH/SENS%1").onlyWhen(inUse, checked).readWhen(switchedOn, forSensors),
+               link("type", "BLUETOOTH/sensor%1", 1),
+               text("macaddr", ":::::")
+                   .masked("HH:HH:HH:HH:HH:HH")
+                   .onlyWhen(checked)
+                   .in(sensor.address)
+                   .caption("cfgwl_034", sensor.caption),
+               text("name", "").onlyWhen(checked).in(sensor.name).caption("cfgwl_035", sensor.caption),
+
+               group("BLUETOOTH/FS%1").onlyWhen(inUse, checked).readWhen(switchedOn, forSensors),
+               choice("type", kSensorTypes, "1")
+                   .byNumber()
+                   .resetTo("0")
+                   .onlyWhen(checked)
+                   .in(sensor.type)
+                   .caption("cfgwl_033", sensor.caption),
+               constant("idx", sensor.index), constant("thld", "50"), constant("thldOff", "0")),
+        sensor.number);
+}
+
+inline constexpr auto kBluetoothRows =
+    rowsOf(group("BLUETOOTH"), constant("page", "BLUETOOTH"),
+           flag("sensors", 0).notStored().in("checkBox_BT_Use").caption("cfgwl_030"),
+           wirelessChoice(kWireless[0]), wirelessChoice(kWireless[1]),
+
+           group("BLUETOOTH/GLOBAL").onlyWhen(when("BLUETOOTH/sensors")).readWhen(), flag("use", 1),
+           group("BLUETOOTH/CHANNEL1").onlyWhen(when("BLUETOOTH/sensors")).readWhen(), text("device", "SENS"),
+           constant("macaddr", ":::::"), constant("pass", ""),
+
+           wirelessRows(kWireless[0]), wirelessRows(kWireless[1]));
+
+inline constexpr auto kSensorDerived = rulesOf(
+    Derived{.path = "RS485/fuel", .any = {when("RS485/sensor1"), when("RS485/sensor2")}},
+    Derived{.path = "BLUETOOTH/sensors", .any = {when("BLUETOOTH/sensor3"), when("BLUETOOTH/sensor4")}});
+
+constexpr auto wirelessBounds(int number)
+{
+    return numbered(rulesOf(Bound{when("BLUETOOTH/FS%1/type", kNamelessTypes), "BLUETOOTH/SENS%1/name", ""}),
+                    number);
+}
+
+inline constexpr auto kSensorBounds =
+    rulesOf(Bound{when("RS485/fuel"), "RS485/OPTIONS/owner1", "FLDS"},
+            Bound{unless("RS485/fuel"), "RS485/OPTIONS/owner1", ""},
+            Bound{when("BLUETOOTH/sensors"), "BLUETOOTH/GLOBAL/use", "1"},
+            Bound{when("BLUETOOTH/sensors"), "BLUETOOTH/CHANNEL1/device", "SENS"}, wirelessBounds(3),
+            wirelessBounds(4));
+
+// Fields of a record: level and temperature of each sensor, and what type 2 adds.
+inline constexpr int kRsFields[][2] = {{37, 77}, {38, 78}};
+inline constexpr int kWirelessFields[][2] = {{39, 46}, {40, 47}};
+inline constexpr int kExtraFields[][1] = {{148}, {149}};
+
+constexpr auto wirelessMasks(int number)
+{
+    const std::size_t sensor = static_cast<std::size_t>(number) - 3;
+    constexpr When inUse = when("BLUETOOTH/sensors");
+    constexpr When checked = when("BLUETOOTH/sensor%1", "1");
+    return numbered(rulesOf(MaskPositions{.path = "PROTOCOL/ZETA/mask",
+                                          .positions = kWirelessFields[sensor],
+                                          .when = {inUse, checked}},
+                            MaskPositions{.path = "PROTOCOL/ZETA/mask",
+                                          .positions = kExtraFields[sensor],
+                                          .when = {inUse, checked, when("BLUETOOTH/FS%1/type", "2")}}),
+                    number);
+}
+
+inline constexpr auto kSensorMasks = rulesOf(repeat<2>([](int number) {
+                                                 return MaskPositions{.path = "PROTOCOL/ZETA/mask",
+                                                                      .positions = kRsFields[number - 1],
+                                                                      .when = {when("RS485/sensor%1")}};
+                                             }),
+                                             wirelessMasks(3), wirelessMasks(4));
+
+constexpr auto wirelessEnables(int number)
+{
+    return numbered(rulesOf(Enable{.targets = number == 3 ? "comboBox_BT_Type_1 lineEdit_BT_Mac_1"
+                                                          : "comboBox_BT_Type_2 lineEdit_BT_Mac_2",
+                                   .when = {when("BLUETOOTH/sensor%1", "1")}},
+                            Enable{.targets = number == 3 ? "lineEdit_BT_Name_1" : "lineEdit_BT_Name_2",
+                                   .when = {when("BLUETOOTH/sensor%1", "1"),
+                                            unless("BLUETOOTH/FS%1/type", kNamelessTypes)}}),
+                    number);
+}
+
+inline constexpr auto kSensorEnables = rulesOf(
+    show("frame_Fuel_RS485_Param", when("RS485/fuel")), show("frame_Bluetooth", when("BLUETOOTH/sensors")),
+    repeat<2>([](int) { return enable("spinBox_Fuel_RS485_Addres_%1", when("RS485/sensor%1")); }),
+    wirelessEnables(3), wirelessEnables(4));
+
+} // namespace vlk::quick

@@ -1,0 +1,119 @@
+#include "settings/quick_settings.h"
+
+#include "settings/quick_lines.h"
+#include "settings/quick_sensors.h"
+#include "settings/shared_rows.h"
+
+namespace vlk {
+
+namespace {
+
+// The window always writes ZETA; the others are known from files.
+constexpr Code kProtocols[] = {
+    {.code = "R-7044", .label = "K5.2 (R-7044)"},
+    {.code = "R-7280", .label = "K6 (R-7162)"},
+    {.code = "EGTS", .label = "EGTS"},
+    {.code = "EGTS_AUTH", .label = "cfgt1_013"},
+    {.code = "VLKB_ZETA", .label = "ZETA"},
+    {.code = "UNDS", .label = "cfgt1_014"},
+};
+
+constexpr Code kTrackPresets[] = {
+    {.code = "economical", .label = "cfgwl_003", .widget = "radioButton_Track_Econom"},
+    {.code = "optimal", .label = "cfgwl_004", .widget = "radioButton_Track_Optimal"},
+    {.code = "detailed", .label = "cfgwl_005", .widget = "radioButton_Track_Full"},
+    {.code = "custom", .label = "cfgwl_006", .widget = "radioButton_Track_User"},
+};
+
+// angleMode, angle, useDist, dist, useTimer, moveTimer, stopTimer. A reset gives those of "optimal".
+constexpr PresetRow kTrackRows[] = {
+    {"economical", {"2", "5", "1", "1000", "1", "0", "600"}},
+    {"optimal", {"2", "5", "1", "500", "1", "60", "600"}},
+    {"detailed", {"1", "5", "1", "500", "1", "20", "600"}},
+};
+
+// A mask of the first two versions of the data set, which the window begins with before it has read one.
+constexpr auto kFirstMask = [] {
+    std::array<char, 123> mask{};
+    for (std::size_t i = 0; i + 1 < mask.size(); ++i)
+        mask[i] = i <= 10 || (i >= 12 && i <= 14) || i == 18 || i == 19 || i == 28 || i == 36 ? '1' : '0';
+    return mask;
+}();
+
+constexpr auto kRows = rowsOf(
+    group("PROTOCOL").keeping(), constant("page", "PROTOCOL"), group("PROTOCOL/ZETA").keeping(),
+    text("mask", kFirstMask.data()).carriedOver().staying(),
+
+    group("TRANS").keeping(), constant("page", "TRANS"), group("TRANS/AP1").keeping(), shared::kAccessPoint,
+    flag("untouched", 0).resetTo(1).notStored(), group("TRANS/SRV1").keeping(),
+    text("addr", shared::kNoServer).in("GPRSSrv_lineEdit_IP_DNS_Main").caption("cfgt1_026"),
+    integer("port", 4000).range(0, 65536).resetTo(5000).in("GPRSSrv_spinBox_Port_Main").caption("cfgt1_027"),
+    choice("format", kProtocols, "VLKB_ZETA")
+        .offering("VLKB_ZETA")
+        .unknownIs("VLKB_ZETA")
+        .noItemIs("")
+        .savedAs("VLKB_ZETA", when("TRANS/SRV1/format", "VLKB_ZETA"))
+        .in("Transfer_comboBox_Protocol_Format_Main")
+        .caption("cfgt1_028"),
+    group("TRANS/ROAMSIM1").keeping(), shared::kRoamingMode, group("TRANS/ROAM").keeping(),
+    shared::kRoamingPeriod, group("TRANS/QSP").keeping(), shared::kObjectId,
+    shared::apnRows(group("TRANS/AUTOAPN").keeping()),
+
+    group("TRACK").keeping(), constant("page", "TRACK"), group("TRACK/POINTS").keeping(),
+    choice("preset", kTrackPresets, "optimal").notStored().staying(), shared::kPointsOnTheWay,
+    shared::kUseDistance.having(&Setting::loadNumber, 0.0).resetTo(1), shared::kPointsInTime,
+    shared::kMoveTimer.range(0, 999), shared::kStopTimer,
+
+    group("SYSTEM").keeping(), constant("page", "SYSTEM"), group("SYSTEM/PASS").keeping(), shared::kPasswords,
+    group("SYSTEM/PWRSENS").keeping(), shared::kSupplyLine,
+
+    quick::kLineRows, quick::kRsRows, quick::kBluetoothRows);
+
+// After a reset the access point is open to all; choosing an operator decides who may edit it.
+constexpr auto kPulls = rulesOf(
+    Pull{.when = when("TRANS/AP1/operator", "0|1|2|3|4|5|6"), .set = "TRANS/AP1/untouched", .to = "0"});
+
+constexpr auto kPresets =
+    rulesOf(Presets{.trigger = "TRANS/AP1/operator",
+                    .fields = {"TRANS/AP1/name", "TRANS/AP1/login", "TRANS/AP1/pass"},
+                    .rows = kOperatorPresets,
+                    .other = kAutomaticOperator},
+            Presets{.trigger = "TRACK/POINTS/preset",
+                    .fields = {"TRACK/POINTS/angleMode", "TRACK/POINTS/angle", "TRACK/POINTS/useDist",
+                               "TRACK/POINTS/dist", "TRACK/POINTS/useTimer", "TRACK/POINTS/moveTimer",
+                               "TRACK/POINTS/stopTimer"},
+                    .rows = kTrackRows},
+            quick::kLinePresets);
+
+// What the window decides about is cleared first, then set by what is switched on.
+constexpr int kDecided[] = {20, 21, 22, 28, 32, 33, 34, 35, 37, 38, 39, 40, 43, 77, 78, 79, 80};
+
+constexpr auto kMasks = rulesOf(MaskPositions{.path = "PROTOCOL/ZETA/mask", .positions = kDecided, .to = '0'},
+                                quick::kLineMasks, quick::kSensorMasks);
+
+constexpr auto kEnables =
+    rulesOf(enableAny("Transfer_lineEdit_GSM_APN_1 Transfer_lineEdit_GSM_Login_1 Transfer_lineEdit_GSM_Psw_1",
+                      when("TRANS/AP1/operator", kOtherOperator), when("TRANS/AP1/untouched")),
+            enable("pushButton_AutoAPN_1", when("TRANS/AP1/operator", kAutomaticOperator)),
+            enable("frame_RConnectPeriod", when("TRANS/ROAMSIM1/mode", "1")),
+            enable("GPRSSrv_toolButton_Test_Main", when("TRANS/SRV1/addr")),
+            enable("groupBox_Track_Param", when("TRACK/POINTS/preset", "custom")),
+            enable("Additional_spinBox_Corner", when("TRACK/POINTS/angleMode", "1")),
+            enable("Additional_Direction_spinBox_Metr_Value", when("TRACK/POINTS/useDist")),
+            enable("Additional_Direction_spinBox_Sec_Value Additional_Direction_spinBox_SecStop_Value",
+                   when("TRACK/POINTS/useTimer")),
+            quick::kSensorEnables);
+
+} // namespace
+
+constexpr SettingsTable kQuickSettings{.section = "",
+                                       .rows = kRows,
+                                       .pulls = kPulls,
+                                       .bounds = quick::kSensorBounds,
+                                       .presets = kPresets,
+                                       .derived = quick::kSensorDerived,
+                                       .masks = kMasks,
+                                       .enables = kEnables,
+                                       .emptied = false};
+
+} // namespace vlk

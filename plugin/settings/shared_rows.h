@@ -1,0 +1,90 @@
+#pragma once
+
+// Rows that the pages of the full window and the quick window both have, each with widgets of its own that
+// bear the same names. What differs in one of the two is said there (`.resetTo`, `.range`).
+
+#include "settings/operators.h"
+#include "settings/settings_table.h"
+
+namespace vlk::shared {
+
+inline constexpr const char* kNoServer = "0.0.0.0";
+
+inline constexpr Code kRoamingModes[] = {{.code = "0", .label = "cfgt1_017"},
+                                         {.code = "1", .label = "cfgt1_018"},
+                                         {.code = "2", .label = "cfgt1_019"},
+                                         {.code = "3", .label = "cfgt1_020"}};
+
+inline constexpr auto kAccessPoint =
+    rowsOf(choice("operator", kOperatorCodes, kAutomaticOperator)
+               .notStored()
+               .in("Transfer_comboBox_GSM_Operator_1")
+               .caption("cfgt1_006"),
+           text("name", "").in("Transfer_lineEdit_GSM_APN_1").caption("cfgt1_029"),
+           text("login", "").in("Transfer_lineEdit_GSM_Login_1").caption("cfgt1_031"),
+           text("pass", "").in("Transfer_lineEdit_GSM_Psw_1").caption("cfgt1_033"));
+
+inline constexpr Setting kRoamingPeriod = integer("cnctTimer", 3600, 60)
+                                              .range(5, 99999)
+                                              .unit("abbr_002")
+                                              .in("spinBox_RConnectPeriod")
+                                              .caption("cfgt1_040");
+inline constexpr Setting kRoamingMode =
+    choice("mode", kRoamingModes, "2").byNumber().in("comboBox_RModeSim_1").caption("cfgt1_021");
+inline constexpr Setting kObjectId =
+    integer("idQSP", 1).range(0, 2147483647).in("spinBox_QSP_Id").caption("cfgt1_060");
+
+// The table by which the tracker picks the access point of a SIM by itself: ten rows of operator code, access
+// point, login and password, all free text.
+constexpr auto apnRows(const Setting& element)
+{
+    return rowsOf(element, repeat<kApnRowCount>([](int number) {
+                      const MobileOperator& row = defaultApnRow(number - 1);
+                      return rowsOf(
+                          text("sID%1", row.code).inCell("treeWidget_ListApn", 1).caption("cfgt1_106"),
+                          text("name%1", row.apn).inCell("treeWidget_ListApn", 2).caption("cfgt1_029"),
+                          text("login%1", row.login).inCell("treeWidget_ListApn", 3).caption("cfgt1_031"),
+                          text("pass%1", row.password).inCell("treeWidget_ListApn", 4).caption("cfgt1_033"));
+                  }));
+}
+
+inline constexpr Code kAngleModes[] = {
+    {.code = "0", .label = "wrd_002"},
+    {.code = "1", .label = "cfgt3_008", .widget = "Additional_checkBox_Corner"},
+    {.code = "2", .label = "cfgt3_009", .widget = "Additional_checkBox_Direction"},
+};
+
+inline constexpr auto kPointsOnTheWay = rowsOf(
+    choice("angleMode", kAngleModes, "2").byNumber().unknownIs("0").caption("cfgt3_007"),
+    integer("angle", 5).range(1, 90).unit("abbr_016").in("Additional_spinBox_Corner").caption("cfgt3_010"));
+inline constexpr Setting kUseDistance =
+    flag("useDist", 1).in("Additional_Direction_checkBox_Metr").caption("cfgt3_011");
+inline constexpr auto kPointsInTime =
+    rowsOf(integer("dist", 500)
+               .range(1, 10000)
+               .unit("abbr_022")
+               .in("Additional_Direction_spinBox_Metr_Value")
+               .caption("cfgt3_012"),
+           flag("useTimer", 1).in("Additional_Direction_checkBox_Sec").caption("cfgt3_013"));
+inline constexpr Setting kMoveTimer = integer("moveTimer", 60)
+                                          .range(0, 99999)
+                                          .unit("abbr_003")
+                                          .in("Additional_Direction_spinBox_Sec_Value")
+                                          .caption("cfgt3_014");
+inline constexpr Setting kStopTimer = integer("stopTimer", 600)
+                                          .range(0, 99999)
+                                          .unit("abbr_003")
+                                          .in("Additional_Direction_spinBox_SecStop_Value")
+                                          .caption("cfgt3_015");
+
+inline constexpr const char* kPasswordPattern = R"(^\S{0,6}$)";
+inline constexpr const char* kPhonePattern = R"(^[\+\d]\d{0,15}$)";
+
+inline constexpr auto kPasswords =
+    rowsOf(text("general", "").typed(kPasswordPattern).in("Settings_Psw_lineEdit_CSD").caption("cfgt4_006"),
+           text("SMS", "").typed(kPasswordPattern).in("Settings_Psw_lineEdit_SMS").caption("cfgt4_007"),
+           text("number", "").typed(kPhonePattern).in("Settings_Psw_lineEdit_Phone").caption("cfgt4_092"));
+inline constexpr Setting kSupplyLine =
+    flag("line", 0).onValue(3).in("checkBox_Power_Line").caption("cfgt4_093");
+
+} // namespace vlk::shared

@@ -1,0 +1,38 @@
+#pragma once
+
+// A combo box for narrow places: it would like to be as wide as the texts that it may come to hold, filled or
+// not, and shrinks to the beginnings of them. What does not fit ends in an ellipsis; its tool tip and the
+// list below it show texts in full.
+
+#include "windows/vlk_combobox.h"
+
+class QStyleOptionComboBox;
+
+namespace vlk {
+
+class ElidingComboBox : public VLK_ComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit ElidingComboBox(QWidget* parent = nullptr);
+
+    // `least`: what is always in sight.
+    void reserve(const QStringList& texts, const QString& least);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    void showPopup() override;
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString shownText(QStyleOptionComboBox* option) const;
+
+    int preferredWidth_ = 0;
+    int leastWidth_ = 0;
+};
+
+} // namespace vlk

@@ -1,0 +1,300 @@
+// The RS page: what an owner and a type do to the line, what stays with the window, the calibrations, the
+// counters' parameters and the CAN-LOG program.
+
+#include "fuel/form_fuel_view.h"
+#include "pages/settings_page.h"
+#include "peripherals/form_config_rs.h"
+#include "peripherals/form_config_rs_param_flds.h"
+#include "peripherals/form_config_rs_param_pcnt.h"
+#include "settings/rs_settings.h"
+#include "support/data_table.h"
+#include "windows/wnd_config_full.h"
+
+#include <QCheckBox>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStackedWidget>
+#include <QtTest>
+
+namespace {
+
+// What the page asks of the window around it.
+class Window : public VLK_Wnd_Config_Full
+{
+public:
+    void getCanLogProgram() override { asked << "get"; }
+    void setCanLogProgram(int value) override { asked << QString("set %1").arg(value); }
+
+    QStringList asked;
+};
+
+} // namespace
+
+class RsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { test_.open(); }
+    void init() { test_.page().setDefaults(); }
+
+    void owners_data()
+    {
+        DataTable<QString, QString, QString, QString> table({"code", "saved", "element", "notice"});
+        for (const vlk::RsOwner& owner : vlk::kRsOwners)
+            table.row(*owner.code ? owner.code : "none", owner.code, owner.code, element(owner.code),
+                      owner.needsConverter ? "shown" : "hidden");
+        table.row("older spelling", "DV01", "DDU", "DV01", "hidden")
+            .row("of other trackers", "AINF", "", "", "hidden")
+            .row("unknown", "XXXX", "", "", "hidden");
+    }
+    // Only the element of the device on the line is in the file; the form and the notice are those of it.
+    void owners()
+    {
+        QFETCH(QString, code);
+        test_.load({{"OPTIONS/owner1", code}, {"OPTIONS/owner2", "TACH"}});
+        const Values values = test_.save();
+        QTEST(values.value("OPTIONS/owner1"), "saved");
+        QVERIFY(!values.contains("OPTIONS/owner2"));
+        QStringList elements;
+        for (const QString& key : values.keys())
+            elements << key.section('/', 0, 0);
+        elements.removeAll("OPTIONS");
+        elements.removeDuplicates();
+        QTEST(elements.value(0), "element");
+        QCOMPARE(elements.size(), elements.value(0) == "FS1" ? 16 : elements.isEmpty() ? 0 : 1);
+        QTEST(test_.get("label_RS485_Owner_PS_1")->isHidden() ? QString("hidden") : QString("shown"),
+              "notice");
+        for (const auto* form : test_.page().findChildren<VLK_Form_Config_RS_Param*>())
+            QCOMPARE(form->isVisibleTo(&test_.page()), form->objectName() == values["OPTIONS/owner1"]);
+    }
+
+    void lines_data()
+    {
+        DataTable<Values, QStringList, QString>({"file", "edits", "line"})
+            .row("an owner", {}, {"OPTIONS/owner1=TACH"}, "115200 0 1")
+            .row("an owner after another line",
+                 {{"OPTIONS/owner1", "FLDS"}, {"OPTIONS/parity", "2"}, {"OPTIONS/stopBit", "2"}},
+                 {"OPTIONS/owner1=MDBS"}, "9600 0 1")
+            .row("a form says more", {}, {"OPTIONS/owner1=TPMS"}, "38400 0 1")
+            .row("a type", {}, {"OPTIONS/owner1=TACH", "TACH/type=STRH"}, "19200 0 1")
+            .row("a type that comes back", {},
+                 {"OPTIONS/owner1=TACH", "TACH/type=KONT", "OPTIONS/owner1=FLDS", "OPTIONS/owner1=TACH"},
+                 "9600 0 1")
+            .row("a type that says nothing", {},
+                 {"OPTIONS/owner1=RFID", "OPTIONS/boudrate=4800", "RFID/type=LLS"}, "4800 0 1")
+            .row("the file wins",
+                 {{"OPTIONS/owner1", "HRPS"}, {"OPTIONS/boudrate", "19200"}, {"OPTIONS/stopBit", "7"}}, {},
+                 "19200 0 1")
+            .row("a speed that no list has",
+                 {{"OPTIONS/owner1", "TPMS"}, {"TPMS/type", "TM508"}, {"OPTIONS/boudrate", "12345"}}, {},
+                 "9600 0 1")
+            .row("the tachograph of the file",
+                 {{"OPTIONS/owner1", "TACH"}, {"TACH/type", "KONT"}, {"OPTIONS/boudrate", "57600"}}, {},
+                 "57600 0 1");
+    }
+    void lines()
+    {
+        QFETCH(Values, file);
+        QFETCH(QStringList, edits);
+        test_.load(file);
+        edit(edits);
+        const Values values = test_.save();
+        QTEST(values["OPTIONS/boudrate"] + ' ' + values["OPTIONS/parity"] + ' ' + values["OPTIONS/stopBit"],
+              "line");
+        QCOMPARE(test_.page().settings().binder().disagreements(), QStringList());
+    }
+
+    void values_data()
+    {
+        DataTable<Values, QStringList, Values>({"file", "edits", "saved"})
+            .row("the key of the file",
+                 {{"OPTIONS/owner1", "TACH"}, {"TACH/type", "STRH"}, {"TACH/pass", "7"}}, {},
+                 {{"TACH/pass", "7"}, {"TACH/noPing", "1"}})
+            .row("a file without a key", {{"OPTIONS/owner1", "TACH"}, {"TACH/type", "STRH"}}, {},
+                 {{"TACH/pass", "738205"}})
+            .row("a type brings its key", {{"OPTIONS/owner1", "TACH"}, {"TACH/pass", "7"}},
+                 {"TACH/type=STRH"}, {{"TACH/pass", "6402917385"}, {"TACH/login", "1"}})
+            .row("a new tachograph", {}, {"OPTIONS/owner1=TACH"}, {{"TACH/noPing", "0"}})
+            .row("signal above its range", {{"OPTIONS/owner1", "RFID"}, {"RFID/minLvl", "5"}}, {},
+                 {{"RFID/minLvl", "0"}})
+            .row("the mode of the file", {{"OPTIONS/owner1", "RFID"}, {"RFID/mode", "1"}}, {},
+                 {{"RFID/mode", "1"}})
+            .row("a reader of one mode",
+                 {{"OPTIONS/owner1", "RFID"}, {"RFID/type", "LLS"}, {"RFID/mode", "1"}}, {"RFID/type=MIELTA"},
+                 {{"RFID/mode", "0"}})
+            .row("values wait for their owner", {{"OPTIONS/owner1", "DTCN"}, {"DTCN/address", "9"}},
+                 {"OPTIONS/owner1=FLDS", "OPTIONS/owner1=DTCN"}, {{"DTCN/address", "9"}})
+            .row("the last type of sensors",
+                 {{"OPTIONS/owner1", "FLDS"}, {"FS1/type", "0"}, {"FS16/type", "4"}}, {},
+                 {{"FS1/type", "4"}, {"FS16/type", "4"}, {"FS7/address", "7"}})
+            .row("no such type", {{"OPTIONS/owner1", "FLDS"}, {"FS15/type", "4"}, {"FS16/type", "3"}}, {},
+                 {{"FS1/type", "0"}, {"FS16/type", "0"}})
+            .row("a type that is not offered", {{"OPTIONS/owner1", "FLDS"}, {"FS16/type", "1"}}, {},
+                 {{"FS16/type", "0"}})
+            .row("sensors that are not on show", {{"OPTIONS/owner1", "FLDS"}, {"FS9/address", "77"}}, {},
+                 {{"FS9/address", "77"}})
+            .row("counters", {{"OPTIONS/owner1", "PCNT"}, {"PCNT/id3", "5"}, {"PCNT/countEvent", "3"}}, {},
+                 {{"PCNT/id3", "5"}, {"PCNT/id1", "0"}, {"PCNT/countEvent", "0"}})
+            .row("a family that is not offered",
+                 {{"OPTIONS/owner1", "PCNT"}, {"PCNT/type", "ACOND"}, {"PCNT/id2", "4"}}, {},
+                 {{"PCNT/type", "PP01"}, {"PCNT/id2", "4"}});
+    }
+    void values()
+    {
+        QFETCH(Values, file);
+        QFETCH(QStringList, edits);
+        QFETCH(Values, saved);
+        test_.load(file);
+        edit(edits);
+        QCOMPARE(test_.notSaved(saved), QStringList());
+    }
+
+    void shownLines_data()
+    {
+        DataTable<QString, QString, QString>({"edit", "shown", "hidden"})
+            .row("ESCORT", "RFID/type=ESCORT", "spinBox_Address spinBox_FixTime",
+                 "comboBox_Mode label_comboBox_Mode checkBox_Nearest spinBox_Floor")
+            .row("LLS", "RFID/type=LLS", "spinBox_Address comboBox_Mode", "checkBox_Nearest spinBox_Floor")
+            .row("MIELTA", "RFID/type=MIELTA", "checkBox_Nearest spinBox_Floor",
+                 "spinBox_Address comboBox_Mode")
+            .row("ADM20", "RFID/type=ADM20", "spinBox_Address spinBox_Floor", "comboBox_Mode")
+            .row("ATOL", "TACH/type=ATOL", "lineEdit_ID lineEdit_Key", "checkBox_Ping")
+            .row("STRH", "TACH/type=STRH", "lineEdit_Key", "lineEdit_ID label_lineEdit_ID checkBox_Ping")
+            .row("MERK", "TACH/type=MERK", "checkBox_EventOff", "lineEdit_ID lineEdit_Key checkBox_Ping")
+            .row("KONT", "TACH/type=KONT", "checkBox_Ping", "lineEdit_ID lineEdit_Key");
+    }
+    void shownLines()
+    {
+        QFETCH(QString, edit);
+        const QString owner = edit.section('/', 0, 0);
+        this->edit({"OPTIONS/owner1=" + owner, edit});
+        for (const char* list : {"shown", "hidden"}) {
+            QFETCH(QString, shown);
+            QFETCH(QString, hidden);
+            for (const QString& name : (*list == 's' ? shown : hidden).split(' '))
+                QVERIFY2(form(owner)->findChild<QWidget*>(name)->isHidden() == (*list == 'h'),
+                         qPrintable(name));
+        }
+    }
+
+    void sensorsEnable()
+    {
+        const QString cells = "spinBox_Addres_2 spinBox_Response_2 checkBox_TrhldMoveOff_2 checkBox_Filter_2";
+        edit({"OPTIONS/owner1=FLDS"});
+        QCOMPARE(test_.notEnabled(cells + " spinBox_Aver_2 spinBox_Kalman_2", false), QStringList());
+        test_.check({{"checkBox_Use_2", true}});
+        QCOMPARE(test_.notEnabled(cells + " spinBox_Aver_2", true), QStringList());
+        test_.check({{"checkBox_Filter_2", false}});
+        QCOMPARE(test_.notEnabled("spinBox_Aver_2 spinBox_Kalman_2", false), QStringList());
+        QCOMPARE(test_.get<QSpinBox>("spinBox_Aver_2")->value(), 25);
+        QVERIFY(test_.get("checkBox_Use_6")->isVisibleTo(form("FLDS")));
+        for (const char* name :
+             {"checkBox_Use_7", "spinBox_Kalman_16", "label_Fuel", "frame_Fuel_D6", "line_8"})
+            QVERIFY2(!test_.get(name)->isVisibleTo(form("FLDS")), name);
+    }
+
+    // A table that was taken comes back when its dialog opens again, and only there.
+    void calibrations()
+    {
+        edit({"OPTIONS/owner1=FLDS", "FS1/use=1", "FS2/use=1"});
+        test_.get<QPushButton>("pushButton_Fuel_D1")->click();
+        auto* view = form("FLDS")->findChild<VLK_Form_Fuel_View*>();
+        QVERIFY(view && view->isVisible());
+        view->setData({}, {{10, 100}, {20.5, 200}});
+        view->findChild<QPushButton*>("pushButton_Accept")->click();
+        QVERIFY(test_.isChecked("checkBox_Fuel_D1") && !test_.isChecked("checkBox_Fuel_D2"));
+        const auto shown = [&](const char* button) {
+            test_.get<QPushButton>(button)->click();
+            QMap<double, int> table;
+            view->getData(table);
+            view->hide();
+            return table;
+        };
+        QVERIFY(shown("pushButton_Fuel_D2").isEmpty());
+        QCOMPARE(shown("pushButton_Fuel_D1"), (QMap<double, int>{{10, 100}, {20.5, 200}}));
+        test_.page().setDefaults();
+        QVERIFY(!test_.isChecked("checkBox_Fuel_D1"));
+    }
+
+    // A tracker that has both families: the one with doors brings its values to the record and takes them
+    // away.
+    void counterFamilies()
+    {
+        vlk::PageSettings settings(vlk::kRsSettingsOfAllTypes, nullptr);
+        VLK_Form_Config_RS_Param_Pcnt form;
+        form.setObjectName("PCNT");
+        form.setSettings(&settings);
+        settings.edit("OPTIONS/owner1", "PCNT");
+        QSignalSpy added(&form, &VLK_Form_Config_RS_Param_Pcnt::signal_UserParam_Add);
+        QSignalSpy deleted(&form, &VLK_Form_Config_RS_Param_Pcnt::signal_UserParam_Del);
+        settings.join(&form);
+        form.retranslate();
+        QCOMPARE(added.count(), 0);
+        QCOMPARE(deleted.count(), 16);
+        settings.edit("PCNT/type", "ACOND");
+        QCOMPARE(added.count(), 16);
+        QCOMPARE(added[0].mid(0, 1) + added[0].mid(2), QVariantList({"CO", QString(), 4}));
+        QCOMPARE(added[7].last().toInt(), 1);
+        QCOMPARE(form.findChild<QStackedWidget*>()->currentWidget()->objectName(), QString("page_ACode"));
+        form.findChild<QCheckBox*>("checkBox_ACode_Door_2")->setChecked(true);
+        form.findChild<QComboBox*>("comboBox_ACode_Door_2")->setCurrentIndex(4);
+        form.findChild<QCheckBox*>("checkBox_ACode_Door_6")->setChecked(true);
+        QCOMPARE(settings.value("PCNT/door"), QString("050001"));
+        form.findChild<QCheckBox*>("checkBox_ACode_Door_2")->setChecked(false);
+        QCOMPARE(settings.value("PCNT/door"), QString("000001"));
+        settings.edit("PCNT/door", "300");
+        QCOMPARE(form.findChild<QComboBox*>("comboBox_ACode_Door_1")->currentText(), QString("3"));
+        QVERIFY(!form.findChild<QComboBox*>("comboBox_ACode_Door_6")->isEnabled());
+        settings.edit("PCNT/type", "PP01");
+        QCOMPARE(deleted.count(), 32);
+    }
+
+    void canLogProgram()
+    {
+        Window window;
+        vlkConfigFull = &window;
+        edit({"OPTIONS/owner1=CNLG"});
+        QVERIFY(!test_.isOn("groupBox_CAN"));
+        test_.page().deviceConnected();
+        QVERIFY(test_.isOn("groupBox_CAN"));
+        auto* box = test_.get<QSpinBox>("spinBox_Programm");
+        for (const auto& [told, shown] : {std::pair(1234, 1234), {-5, 0}, {2'000'000'000, 999'999}}) {
+            test_.page().setCanLogProgram(told);
+            QCOMPARE(box->value(), shown);
+        }
+        test_.get<QPushButton>("pushButton_Programm_Get")->click();
+        box->setValue(77);
+        test_.get<QPushButton>("pushButton_Programm_Set")->click();
+        QCOMPARE(window.asked, QStringList({"get", "set 77"}));
+        QVERIFY(!test_.save().contains("CNLG/program"));
+        test_.page().deviceDisconnected();
+        QVERIFY(!test_.isOn("groupBox_CAN"));
+        test_.page().setDefaults();
+        QCOMPARE(box->value(), 0);
+    }
+
+private:
+    // The first element that the owner has in the file.
+    static QString element(const QString& owner)
+    {
+        if (owner == "FLDS")
+            return "FS1";
+        if (owner == "DDU")
+            return "DV01";
+        return QStringList{"DTCN", "TPMS", "TACH", "RFID", "PCNT"}.contains(owner) ? owner : QString();
+    }
+
+    // "TACH/type=STRH", as a user's choice.
+    void edit(const QStringList& edits)
+    {
+        for (const QString& step : edits)
+            test_.page().settings().edit(qPrintable(step.section('=', 0, 0)), step.section('=', 1));
+    }
+    QWidget* form(const QString& owner) { return test_.get(owner); }
+
+    SettingsPage<VLK_Form_Config_RS> test_{"RS485"};
+};
+
+QTEST_MAIN(RsTest)
+#include "tst_rs.moc"
