@@ -67,8 +67,7 @@ inline TelemetryPages randomPages(std::mt19937& random, int count)
     return pages;
 }
 
-// The first element of which the sources hold different bytes. XML keeps that a float is no number, not
-// which.
+// The first element of which the sources hold different bytes; XML does not tell one NaN from another.
 template <class Source>
 QString difference(const ElementValues<Source>& left, const ElementValues<Source>& right, auto isHeld)
 {

@@ -1,5 +1,4 @@
-// The catalogue is written by hand: its names, its groups and its sums are checked here, each fact a second
-// time and in another way.
+// The names, groups and sums of the catalogue, each fact a second time and in another way.
 
 #include "dataset/catalogue/field_mask.h"
 #include "support/data_table.h"

@@ -1,5 +1,4 @@
-// The CSV form: its columns, their headings, and the rows of hand-made records. Without a translator a word
-// shows as its key, so the tables name keys.
+// The columns of the CSV form, and rows of hand-made records. Without a translator a word shows as its key.
 
 #include "sample_pages.h"
 #include "telemetry/files/csv_columns.h"

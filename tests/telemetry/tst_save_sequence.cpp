@@ -1,5 +1,4 @@
-// Saving a period from the telemetry view: the host answers each request as the test says, and the files are
-// looked at.
+// Saving a period from the telemetry view: a host's answers in, files out.
 
 #include "opened_view.h"
 #include "support/data_table.h"

@@ -1,5 +1,4 @@
-// The four tabs of a record of protocol 3.0, as a host and a user see them: messages in, labels and messages
-// out.
+// The four tabs of a record of protocol 3.0: messages in, labels and messages out.
 
 #include "opened_view.h"
 #include "support/data_table.h"
@@ -16,8 +15,7 @@ using Record = vlk::RecordParts;
 
 namespace {
 
-// Object names without "label_", and their items; "N*" in front: N labels numbered from 1 at the "#", and as
-// many items.
+// Object names without "label_", and items; "N*" in front: N of both, the labels numbered from 1 at the "#".
 constexpr char kLabels[] = R"(
 Dev_USB_Value Module1.1          Dev_EnergySaving_Value State.6     Dev_Evacuation_Value State.5
 Dev_Bluetooth_Value Module2.5    Dev_WiFi_Value Module2.6           Dev_Iridium_Value Module3.0

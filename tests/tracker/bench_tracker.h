@@ -1,7 +1,6 @@
 #pragma once
 
-// A tracker with a store of its own, a clock that stands until it is moved, and a plug-in that keeps what it
-// is told.
+// A tracker with a store of its own, a clock that stands until it is moved, and a listening plug-in.
 
 #include "support/files.h"
 #include "tracker/simulated_tracker.h"

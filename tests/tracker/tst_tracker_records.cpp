@@ -1,5 +1,4 @@
-// The records of the drive: their form by data set and protocol, their order, and whether one could believe
-// them.
+// The records of the drive: their form by data set and protocol, their order, and whether they could be true.
 
 #include "bench_tracker.h"
 #include "check/record_check.h"

@@ -1,5 +1,4 @@
-// The whole road without a person: the workbench's tour, and its written configuration read by another
-// reader.
+// The workbench's tour without a person, and its written configuration in another reader.
 
 #include "support/files.h"
 
