@@ -233,7 +233,7 @@ private Q_SLOTS:
         const QByteArray xml = readFile(write(pages));
         QByteArray binary = readFile(write(pages, TelemetryForm::binary));
         const QByteArray wholeBinary = binary;
-        binary[128 + 40 + 2] = 9; // the second record's type
+        binary[128 + 42 + 2] = 9; // the second record's type
         const QStringList all{"11111", "11112", "11113"};
         DataTable<QByteArray, QStringList>({"content", "numbers"})
             .row("cut in a number", xml.left(xml.indexOf("<NumPage>11112") + 11), {"11111", "0"})
