@@ -1756,13 +1756,13 @@
     <message id="wb_event_060"><translation>1-Wire key touched</translation></message>
     <message id="wb_event_061"><translation>RFID tag read</translation></message>
     <message id="wb_event_unknown"><translation>Event</translation></message>
-    <message id="wb_fault_bluetooth"><translation>No Blue&amp;tooth</translation></message>
+    <message id="wb_fault_bluetooth"><translation>No Bl&amp;uetooth</translation></message>
     <message id="wb_fault_board"><translation>&amp;Bad board</translation></message>
     <message id="wb_fault_delay"><translation>&amp;Delay:</translation></message>
     <message id="wb_fault_garbled"><translation>&amp;Garbled answers</translation></message>
     <message id="wb_fault_short"><translation>Short &amp;answers</translation></message>
     <message id="wb_fault_silence"><translation>Does &amp;not answer</translation></message>
-    <message id="wb_fault_unplug"><translation>&amp;Unplug while answering</translation></message>
+    <message id="wb_fault_unplug"><translation>Un&amp;plug while answering</translation></message>
     <message id="wb_faults"><translation>Faults</translation></message>
     <message id="wb_faults_title"><translation>Simulated tracker</translation></message>
     <message id="wb_faults_window"><translation>&amp;Faults in a window of their own</translation></message>
