@@ -1843,6 +1843,7 @@
     <message id="wb_problem_root"><translation>It is no configuration: what stands in line %1, column %2 is &lt;%3&gt;.</translation></message>
     <message id="wb_problem_unreadable"><translation>It cannot be read: %1.</translation></message>
     <message id="wb_protocol"><translation>Record &amp;format:</translation></message>
+    <message id="wb_protocol_0"><translation>As configured</translation></message>
     <message id="wb_protocol_1"><translation>Protocol 1.0</translation></message>
     <message id="wb_protocol_2"><translation>Protocol 2.0</translation></message>
     <message id="wb_protocol_3"><translation>Protocol 3.0</translation></message>
@@ -1852,6 +1853,7 @@
     <message id="wb_read_short"><translation>Read</translation></message>
     <message id="wb_ready"><translation>Ready</translation></message>
     <message id="wb_recent"><translation>&amp;Recent files</translation></message>
+    <message id="wb_record_version"><translation>The tracker sends records of %1, and the telemetry window shows those of ZETA 3.0 alone: choose ZETA 3.0 on the tab "Data set" and write the configuration.</translation></message>
     <message id="wb_refused_detached"><translation>The tracker is not attached.</translation></message>
     <message id="wb_refused_large"><translation>The file is too large for the tracker, bytes:</translation></message>
     <message id="wb_refused_malformed"><translation>The file is damaged, markup error:</translation></message>

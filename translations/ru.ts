@@ -1843,6 +1843,7 @@
     <message id="wb_problem_root"><translation>Это не конфигурация: в строке %1, столбце %2 стоит &lt;%3&gt;.</translation></message>
     <message id="wb_problem_unreadable"><translation>Он не читается: %1.</translation></message>
     <message id="wb_protocol"><translation>&amp;Формат записей:</translation></message>
+    <message id="wb_protocol_0"><translation>По конфигурации</translation></message>
     <message id="wb_protocol_1"><translation>Протокол 1.0</translation></message>
     <message id="wb_protocol_2"><translation>Протокол 2.0</translation></message>
     <message id="wb_protocol_3"><translation>Протокол 3.0</translation></message>
@@ -1852,6 +1853,7 @@
     <message id="wb_read_short"><translation>Прочитать</translation></message>
     <message id="wb_ready"><translation>Готово к работе</translation></message>
     <message id="wb_recent"><translation>Не&amp;давние файлы</translation></message>
+    <message id="wb_record_version"><translation>Трекер передаёт записи %1, а окно телеметрии показывает только записи ZETA 3.0: выберите ZETA 3.0 на вкладке «Набор данных» и запишите конфигурацию.</translation></message>
     <message id="wb_refused_detached"><translation>Трекер не подключён.</translation></message>
     <message id="wb_refused_large"><translation>Файл слишком велик для трекера, байт:</translation></message>
     <message id="wb_refused_malformed"><translation>Файл повреждён, ошибка разметки:</translation></message>

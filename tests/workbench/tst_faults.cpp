@@ -14,6 +14,8 @@ using tracker::Faults;
 
 Q_DECLARE_METATYPE(Faults)
 
+Q_DECLARE_METATYPE(tracker::Protocol)
+
 namespace {
 
 enum Step { Read, Write, Live, Period };
@@ -105,6 +107,27 @@ class FaultsTest : public QObject
 
 private Q_SLOTS:
     void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+
+    // Telemetry shows nothing of them, so the workbench says why.
+    void recordsOfOtherVersions_data()
+    {
+        DataTable<tracker::Protocol, QString>({"protocol", "said"})
+            .row("1.0", tracker::Protocol::Protocol1, "records of ZETA 1.0")
+            .row("2.0", tracker::Protocol::Protocol2, "records of ZETA 2.0")
+            .row("as configured", tracker::Protocol::AsConfigured, "Ready");
+    }
+    void recordsOfOtherVersions()
+    {
+        QFETCH(tracker::Protocol, protocol);
+        QFETCH(QString, said);
+        Bench bench;
+        bench.tracker().setProtocol(protocol);
+        bench.action("action_Telemetry")->trigger();
+        QTRY_VERIFY2(bench.status().contains(said), qPrintable(bench.status()));
+        bench.tracker().setProtocol(tracker::Protocol::Protocol3);
+        bench.take(Live);
+        QTRY_COMPARE(bench.status(), QStringLiteral("Ready"));
+    }
 
     void everyFaultEndsInATrueSentence_data()
     {

@@ -112,6 +112,14 @@ bool RecordCheck::carriesRecord(Message answer)
     return headerOf(answer) != nullptr;
 }
 
+int RecordCheck::versionOf(Message answer, const QByteArray& bytes)
+{
+    const HeaderRow* header = headerOf(answer);
+    const bool isRecord = header != nullptr && bytes.size() >= header->size + 2 &&
+                          static_cast<quint8>(bytes.at(header->size)) == recordType;
+    return isRecord ? static_cast<quint8>(bytes.at(header->size + 1)) : 0;
+}
+
 std::optional<AnswerProblem> RecordCheck::look(Message answer, const QByteArray& bytes)
 {
     const HeaderRow* header = headerOf(answer);

@@ -42,9 +42,17 @@ void LinkNotices::look(vlk::Direction direction, quint32 id, const void* p1)
         damagedOfPeriod_ = 0;
     if (direction != vlk::Direction::ToPlugin || !vlk::RecordCheck::carriesRecord(answer) || p1 == nullptr)
         return;
-    const auto problem = check_.look(answer, *static_cast<const QByteArray*>(p1));
+    const QByteArray& bytes = *static_cast<const QByteArray*>(p1);
+    const auto problem = check_.look(answer, bytes);
     if (!problem) {
-        setTrouble({});
+        // The window of telemetry stays empty for these, as if nothing had come.
+        const int version = vlk::RecordCheck::versionOf(answer, bytes);
+        if (version == 10 || version == 20)
+            setTrouble([version] {
+                return vlk::text("wb_record_version").arg(QStringLiteral("ZETA %1.0").arg(version / 10));
+            });
+        else
+            setTrouble({});
         return;
     }
     if (damagedOfPeriod_)

@@ -26,7 +26,8 @@ struct ProtocolRow
     const char* key;
 };
 
-constexpr ProtocolRow protocols[] = {{Protocol::Protocol3, "wb_protocol_3"},
+constexpr ProtocolRow protocols[] = {{Protocol::AsConfigured, "wb_protocol_0"},
+                                     {Protocol::Protocol3, "wb_protocol_3"},
                                      {Protocol::Protocol2, "wb_protocol_2"},
                                      {Protocol::Protocol1, "wb_protocol_1"}};
 
