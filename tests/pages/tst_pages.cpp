@@ -66,8 +66,7 @@ private Q_SLOTS:
         const QByteArray file = mixtureOf(configuration_, round);
         const QByteArray expected = readAndWritten(configuration_, file);
         QCOMPARE(throughTheWindow(file), expected);
-        forEachPage(
-            [&](auto& page) { QCOMPARE(page.settings().binder().disagreements().join('\n'), QString()); });
+        forEachPage([](auto& page) { compareWidgets(page); });
         QCOMPARE(throughTheWindow(expected), savedAgain(configuration_, expected));
     }
 
@@ -95,11 +94,35 @@ private Q_SLOTS:
         for (const vlk::Difference& difference : fresh.differences(stateOf(saved())))
             QVERIFY2(fresh.setting(difference.index).resets == vlk::Setting::Reset::keeps,
                      qPrintable(fresh.path(difference.index)));
-        forEachPage(
-            [&](auto& page) { QCOMPARE(page.settings().binder().disagreements().join('\n'), QString()); });
+        forEachPage([](auto& page) { compareWidgets(page); });
     }
 
 private:
+    // Values as the settings have them, and controls that have a name and a rule of their own on and off as
+    // the values ask for.
+    static void compareWidgets(auto& page)
+    {
+        const vlk::Binder& binder = page.settings().binder();
+        QCOMPARE(binder.disagreements().join('\n'), QString());
+        QHash<QString, int> rules;
+        const auto& enables = vlk::layoutOf(binder.table()).enables;
+        for (const auto& rule : enables) {
+            for (const QString& target : rule.targets)
+                ++rules[target];
+        }
+        for (const auto& rule : enables) {
+            for (const QString& target : rule.targets) {
+                const auto widgets = page.template findChildren<QWidget*>(target);
+                if (widgets.size() != 1 || rules[target] != 1)
+                    continue;
+                const QWidget* widget = widgets[0];
+                const bool on =
+                    rule.shows ? !widget->isHidden() : widget->isEnabledTo(widget->parentWidget());
+                QVERIFY2(on == binder.configuration().holds(binder.table(), rule), qPrintable(target));
+            }
+        }
+    }
+
     template <class Action>
     void forEachPage(Action action) const
     {
