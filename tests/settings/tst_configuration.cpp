@@ -2,6 +2,8 @@
 
 #include "settings/all_settings.h"
 #include "settings/quick_settings.h"
+#include "support/data_table.h"
+#include "support/files.h"
 #include "support/setting_samples.h"
 
 #include <QtTest>
@@ -65,6 +67,40 @@ private Q_SLOTS:
         }
     }
 
+    // What the rows of this tracker make of files and edits, by golden/steps.tsv.
+    void steps_data()
+    {
+        DataTable<QString, QStringList, QString> table({"section", "steps", "saved"});
+        const QString golden = QString::fromUtf8(readFile(VLK_SOURCE "/tests/settings/golden/steps.tsv"));
+        for (const QString& line : golden.split('\n', Qt::SkipEmptyParts).mid(1)) {
+            const QStringList cells = line.split('\t');
+            table.row(qPrintable(cells[0] + ": " + cells[1]), cells[0], cells[2].split("; "), cells[3]);
+        }
+    }
+    void steps()
+    {
+        QFETCH(QString, section);
+        QFETCH(QStringList, steps);
+        QFETCH(QString, saved);
+        configuration_.reset();
+        for (const QString& step : steps) {
+            const Values values = valuesOf(section, step.section(' ', 1));
+            vlk::XmlDocument in(documentWith(values), "DEVICE");
+            if (step.startsWith("read"))
+                configuration_.read(*in.root());
+            for (const auto& [path, text] : step.startsWith("edit") ? values : Values())
+                configuration_.edit(configuration_.indexOf(path), text);
+        }
+        QStringList written;
+        for (const auto& [path, text] : valuesOf(section, saved)) {
+            const int index = configuration_.indexOf(path);
+            written << path.section('/', 1) + '=' +
+                           (index >= 0 && configuration_.isWritten(index) ? configuration_.written(index)
+                                                                          : "none");
+        }
+        QCOMPARE(written.join(' '), saved);
+    }
+
     void emptyAndForeignFiles()
     {
         for (vlk::Configuration configuration :
@@ -109,6 +145,14 @@ private:
             return tables;
         }();
         return all;
+    }
+    // "RULES/grpTimer=45 SRV1/port=5000" of a section.
+    static Values valuesOf(const QString& section, const QString& texts)
+    {
+        Values values;
+        for (const QString& text : texts.split(' '))
+            values.append({section + '/' + text.section('=', 0, 0), text.section('=', 1)});
+        return values;
     }
     static std::vector<vlk::ReadNote> notesOf(vlk::Configuration& configuration, vlk::XmlDocument& document)
     {
