@@ -3,6 +3,8 @@
 // operators, are in the tests of their pages.
 
 #include "dialog/config_pages.h"
+#include "settings/lines_out_settings.h"
+#include "settings/value_text.h"
 #include "support/data_table.h"
 #include "support/device.h"
 #include "support/files.h"
@@ -83,27 +85,25 @@ private Q_SLOTS:
         for (const QString& edit : begin[page])
             settings_->edit(edit.section('=', 0, 0), edit.section('=', 1));
         const QString control = states.last().section(' ', 0, 0);
+        const QString state = states.last().section(' ', 1);
         static const QRegularExpression line("_In(\\d)$");
         const QRegularExpressionMatch found = line.match(control);
         form_ = page == "lines_in"
                     ? child<QWidget>("lineSettings_In" + (found.hasMatch() ? found.captured(1) : "3"))
                     : window;
-        if (const QString code = states.last().section(" code=", 1); !code.isEmpty()) {
-            const QString key = page == "lines_in" ? "IN" + found.captured(1) + "/normState" : "LINE1/use";
-            settings_->edit(key, code == "NU" || code == "GP" ? "NB-" : "NU");
-            settings_->edit(key, code);
-            if (page == "lines_in" && get<QComboBox>(control)->findData(code) < 0) {
-                QCOMPARE(settings_->value(key), QString("N/A")); // no list of this line offers it
-                return;
-            }
-        } else {
-            const QString state = states.last().section(' ', 1);
-            if (state.startsWith("value="))
-                take(control + " value=0");
-            else if (state.endsWith("checked"))
-                take(control + (state == "checked" ? " unchecked" : " checked"));
-            for (const QString& state : states)
-                take(state);
+        if (state.startsWith("value="))
+            take(control + " value=0");
+        else if (state.endsWith("checked"))
+            take(control + (state == "checked" ? " unchecked" : " checked"));
+        else if (page == "lines_in" && state.startsWith("code="))
+            take(control + " code=NU");
+        for (const QString& step : states)
+            take(step);
+        if (page == "lines_in" && state.startsWith("code=") &&
+            get<QComboBox>(control)->findData(state.mid(5)) < 0) {
+            QCOMPARE(settings_->value("IN" + found.captured(1) + "/normState"),
+                     QString("N/A")); // not offered
+            return;
         }
         for (const QString& name : enabled)
             QVERIFY2(get(name)->isEnabledTo(window), qPrintable(name));
@@ -172,6 +172,8 @@ private:
         const QString value = state.section('=', 1);
         if (name == "(tracker)")
             connect_(state == "connected");
+        else if (state.startsWith("code="))
+            choose(name, value);
         else if (state.startsWith("index="))
             get<QComboBox>(name)->setCurrentIndex(value.toInt());
         else if (state.startsWith("text"))
@@ -181,6 +183,18 @@ private:
         else
             get(name)->setProperty(
                 "value", state == "value other than 0" || state == "other than 0" ? 1 : value.toDouble());
+    }
+
+    // Also what the list does not offer.
+    void choose(const QString& list, const QString& code)
+    {
+        auto* outputs = qobject_cast<VLK_Form_Config_Lines_Out*>(window);
+        if (!outputs)
+            settings_->edit("IN" + list.right(1) + "/normState", code);
+        for (const vlk::Code& use : vlk::kOutputUses) {
+            if (outputs && code == use.code)
+                outputs->slot_currentIndexChanged_UseAs_O1(vlk::codeText(use));
+        }
     }
 
     // What a widget shows, in the table's words: the value, ".minimum" and the like, or whether it is there.

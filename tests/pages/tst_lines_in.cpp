@@ -76,54 +76,6 @@ private Q_SLOTS:
         QVERIFY(saved.firstChildElement().nextSiblingElement().isNull());
     }
 
-    void oneLineIsTheIgnition()
-    {
-        select(2, "cfgt8_004-");
-        select(3, "cfgt8_004+");
-        box("Ignition", 2)->setChecked(true);
-        QVERIFY(!box("Ignition", 1)->isChecked());
-        QCOMPARE(saved("IN1/IN1ADIN/ign") + saved("IN2/IN2DIN/ign") + saved("IN3/IN3ADIN/ign"), "010");
-        box("Ignition", 2)->setChecked(false);
-        QCOMPARE(saved("IN1/IN1ADIN/ign") + saved("IN2/IN2DIN/ign") + saved("IN3/IN3ADIN/ign"), "000");
-    }
-
-    void files_data()
-    {
-        DataTable<QStringList, QStringList>({"file", "saves"})
-            .row("a use that the line lacks", {"IN3/normState=PLS", "IN3/IN3PLS/startCount=7"},
-                 {"IN3/normState=N/A", "IN3/IN3PLS/startCount=none"})
-            .row("no use", {"IN3/normState=N/A"}, {"IN3/normState=NU"})
-            .row("an unknown use", {"IN3/normState=nb+"}, {"IN3/normState=NU"})
-            .row("no levels on the first line", {"IN1/normState=NB+", "IN1/IN1ADIN/lowLvl=1000"},
-                 {"IN1/IN1ADIN/ign=1", "IN1/IN1ADIN/lowLvl=none"})
-            .row("an unknown time", {"IN2/normState=NB-", "IN2/IN2DIN/analysTime=7000"},
-                 {"IN2/IN2DIN/analysTime=0"})
-            .row("a threshold", {"IN3/normState=AIN", "IN3/IN3AIN/thld=700"}, {"IN3/IN3AIN/thld=700"})
-            .row("levels too close",
-                 {"IN3/normState=NS+", "IN3/IN3ADIN/lowLvl=6000", "IN3/IN3ADIN/highLvl=6200"},
-                 {"IN3/IN3ADIN/lowLvl=5700", "IN3/IN3ADIN/highLvl=6200"})
-            .row("filter off with a window",
-                 {"IN3/normState=AIN", "IN3/IN3AIN/filterMode=0", "IN3/IN3AIN/filterLen=12",
-                  "IN3/IN3AIN/filterLvl=3"},
-                 {"IN3/IN3AIN/filterLen=12", "IN3/IN3AIN/filterLvl=3"})
-            .row("ignition on two lines", {"IN1/normState=NB+", "IN2/normState=NB-", "IN2/IN2DIN/ign=1"},
-                 {"IN1/IN1ADIN/ign=1", "IN2/IN2DIN/ign=1"})
-            .row("a line that is not used clears its boxes", {"IN1/normState=NU"}, {"IN1/IN1ADIN/ign=none"});
-    }
-    void files()
-    {
-        QFETCH(QStringList, file);
-        QFETCH(QStringList, saves);
-        load(file);
-        for (const QString& key : saves)
-            QCOMPARE(key.section('=', 0, 0) + '=' + saved(key.section('=', 0, 0)), key);
-        const bool used = file.first() != "IN1/normState=NU";
-        QCOMPARE(box("Ignition", 1)->isChecked(), used);
-        QCOMPARE(box("ControlRestore", 1)->isChecked(), used);
-        QCOMPARE(child<QComboBox>("comboBox_NormState_In3")->currentIndex() < 0,
-                 saves.first() == "IN3/normState=N/A");
-    }
-
     void analogueInput()
     {
         auto* threshold = child<QSpinBox>("spinBox_Response_In3");

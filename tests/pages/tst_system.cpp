@@ -15,10 +15,6 @@
 
 namespace {
 
-const char* const kBySupply = "groupBox_Power_SensLevel Settings_groupBox_Engine checkBox_Fuel_Engine "
-                              "checkBox_Fuel_Level";
-const char* const kNtp = "frame_NTP_Param_Set frame_NTP_Param_Srv";
-
 QVector<vlk::Message> sent;
 
 void record(void* /*device*/, std::uint32_t id, void* /*p1*/, void* /*p2*/)
@@ -37,41 +33,6 @@ public:
 
 private Q_SLOTS:
     void init() { open(); }
-
-    void behaviour_data()
-    {
-        const QString level = "frame_Slider_Fuel";
-        DataTable<Values, Boxes, QString, QString, Values>({"load", "boxes", "on", "off", "saves"})
-            .row("defaults", {}, {}, kNtp, QString("groupBox_Tuning %1 ").arg(kBySupply) + level,
-                 {{"PWRSENS/line", "0"}, {"FUEL/sensors", "000"}, {"ENGSENS/voltageLvl", "13200"}})
-            .row("fuel conditions without the line", {{"FUEL/sensors", "111"}}, {}, "checkBox_Fuel_In1",
-                 kBySupply + (' ' + level), {{"FUEL/sensors", "100"}})
-            .row("another line is none", {{"PWRSENS/line", "1"}}, {}, "", kBySupply, {{"PWRSENS/line", "0"}})
-            .row("all of the line", {{"PWRSENS/line", "3"}, {"FUEL/sensors", "111"}}, {},
-                 kBySupply + (' ' + level), "", {{"PWRSENS/line", "3"}, {"FUEL/sensors", "111"}})
-            .row("line taken away", {{"PWRSENS/line", "3"}, {"FUEL/sensors", "111"}},
-                 {{"checkBox_Power_Line", false}}, "checkBox_Fuel_In1", kBySupply + (' ' + level),
-                 {{"PWRSENS/line", "0"}, {"FUEL/sensors", "100"}})
-            .row("level", {}, {{"checkBox_Power_Line", true}, {"checkBox_Fuel_Level", true}}, level, "",
-                 {{"FUEL/sensors", "001"}})
-            .row("threshold by hand", {{"PWRSENS/line", "3"}}, {{"checkBox_Tuning", true}}, "groupBox_Tuning",
-                 "", {{"ENGSENS/useCustom", "1"}})
-            .row("no NTP", {}, {{"checkBox_NTP_Use", false}}, "", kNtp,
-                 {{"NTP/use", "0"}, {"NTP/usualPeriod", "720"}});
-    }
-    void behaviour()
-    {
-        QFETCH(Values, load);
-        QFETCH(Boxes, boxes);
-        QFETCH(QString, on);
-        QFETCH(QString, off);
-        QFETCH(Values, saves);
-        this->load(load);
-        check(boxes);
-        QCOMPARE(notEnabled(on, true), QStringList());
-        QCOMPARE(notEnabled(off, false), QStringList());
-        QCOMPARE(notSaved(saves), QStringList());
-    }
 
     // Two handles and two boxes; what moves is the handle, the box or the slot.
     void handles_data()

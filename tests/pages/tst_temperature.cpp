@@ -69,28 +69,6 @@ private Q_SLOTS:
         }
     }
 
-    void files_data()
-    {
-        DataTable<QString, QString, QString, QString>({"min", "max", "hyst", "bounds"})
-            .row("as it stands", "2.0", "6.0", "1", "2.0 6.0")
-            .row("too near", "20", "25", "10", "14.0 25.0")
-            .row("beyond the scale", "-273.15", "1000", "5", "-50.0 120.0")
-            .row("upside down", "30", "-10", "5", "-16.0 -10.0")
-            .row("more decimals", "12.34", "50.06", "5", "12.3 50.1");
-    }
-    // What the page held before makes no difference.
-    void files()
-    {
-        QFETCH(QString, min);
-        QFETCH(QString, max);
-        QFETCH(QString, hyst);
-        for (const QString before : {"0", "10"}) {
-            load({{"SENS3/min", "-30"}, {"SENS3/max", "100"}, {"SENS3/hyst", before}});
-            load({{"SENS3/min", min}, {"SENS3/max", max}, {"SENS3/hyst", hyst}});
-            QTEST(saved("SENS3/min") + ' ' + saved("SENS3/max"), "bounds");
-        }
-    }
-
 private:
     void take(const QString& road, int sensor, const QString& what, double value)
     {

@@ -13,68 +13,6 @@ class TransferTest : public QObject, private TransferPage
 private Q_SLOTS:
     void init() { open(); }
 
-    void files_data()
-    {
-        DataTable<Values, Values, Values>({"loaded", "shown", "saved"})
-            .row("missing flag", Values{}, Values{{"checkBox_NoCur", "true"}}, Values{{"RULES/noCur", "1"}})
-            .row("block timer", Values{{"RULES/blockTimer", "300"}},
-                 Values{{"Srv_Operation_spinBox_Block_H", "0"}, {"Srv_Operation_spinBox_Block_M", "5"}},
-                 Values{{"RULES/blockTimer", "300"}})
-            .row("connection period beyond a day", Values{{"RULES/cnctTimer", "90060"}},
-                 Values{{"Srv_Operation_spinBox_Periodic_Connect_Period_H", "1"}},
-                 Values{{"RULES/cnctTimer", "3660"}})
-            .row("negative connection period", Values{{"RULES/cnctTimer", "-60"}},
-                 Values{{"Srv_Operation_spinBox_Periodic_Connect_Period_H", "23"}},
-                 Values{{"RULES/cnctTimer", "86340"}})
-            .row("group timer", Values{{"RULES/grpTimer", "45"}}, Values{{"spinBox_GrpTimer", "45"}},
-                 Values{{"RULES/grpTimer", "45"}})
-            .row("roaming connection", Values{{"ROAM/cnctTimer", "7200"}},
-                 Values{{"spinBox_RConnectPeriod", "120"}}, Values{{"ROAM/cnctTimer", "7200"}})
-            .row("roaming block", Values{{"ROAM/blockTimer", "90000"}}, Values{{"spinBox_RBlockH", "25"}},
-                 Values{{"ROAM/blockTimer", "90000"}})
-            .row("unknown roaming mode", Values{{"ROAMSIM1/mode", "7"}}, Values{{"comboBox_RModeSim_1", "2"}},
-                 Values{{"ROAMSIM1/mode", "2"}})
-            .row("unknown flag", Values{{"ROAMSIM1/dontCnct", "5"}}, Values{{"checkBox_sendData", "false"}},
-                 Values{{"ROAMSIM1/dontCnct", "1"}})
-            .row("a day", Values{{"QSP/cnctTimer", "86400"}}, Values{{"spinBox_QSP_CnctTimer_hh", "0"}},
-                 Values{{"QSP/cnctTimer", "86400"}})
-            .row("more than a day", Values{{"QSP/cnctTimer", "90000"}},
-                 Values{{"spinBox_QSP_CnctTimer_hh", "1"}}, Values{{"QSP/cnctTimer", "90000"}})
-            .row("less than allowed", Values{{"QSP/cnctTimer", "60"}},
-                 Values{{"spinBox_QSP_CnctTimer_mm", "10"}}, Values{{"QSP/cnctTimer", "600"}})
-            .row("highest object", Values{{"SRV1/objID", "2147483647"}},
-                 Values{{"Transfer_spinBox_Protocol_ObjectID_Main", "2147483647"}},
-                 Values{{"SRV1/objID", "2147483647"}})
-            .row("server without an address", Values{{"SRV2/addr", ""}},
-                 Values{{"GPRSSrv_groupBox_Reserv_1", "true"}}, Values{{"SRV2/addr", ""}})
-            .row("server not used", Values{{"SRV2/addr", "0.0.0.0"}},
-                 Values{{"GPRSSrv_groupBox_Reserv_1", "false"}}, Values{{"SRV2/addr", "0.0.0.0"}});
-    }
-    void files()
-    {
-        QFETCH(Values, loaded);
-        QFETCH(Values, shown);
-        load(loaded);
-        for (auto widget = shown.begin(); widget != shown.end(); ++widget)
-            QCOMPARE(get(widget.key())->property(property(widget.key())).toString(), widget.value());
-        QFETCH(Values, saved);
-        QCOMPARE(notSaved(saved), QStringList());
-    }
-
-    void connection()
-    {
-        const QString permanent = "Srv_Operation_frame_Permanent_Connect";
-        const QString periodic = "Srv_Operation_frame_Periodic_Connect";
-        load({{"RULES/cnctType", "0"}});
-        QCOMPARE(indexOf("Srv_Operation_comboBox_TypeConnect"), 1);
-        QVERIFY(!isOn(permanent) && isOn(periodic));
-        load({});
-        QVERIFY(isOn(permanent) && !isOn(periodic));
-        set("Srv_Operation_comboBox_TypeConnect", 1);
-        QVERIFY(!isOn(permanent) && isOn(periodic));
-        QCOMPARE(saved("RULES/cnctType"), QString("0"));
-    }
-
     void groupTimer()
     {
         load({{"RULES/grpTimer", "0"}});
@@ -88,30 +26,6 @@ private Q_SLOTS:
         QCOMPARE(get<QSpinBox>("spinBox_GrpTimer")->value(), 30);
         set("spinBox_GrpTimer", 301);
         QCOMPARE(saved("RULES/grpTimer"), QString("300"));
-    }
-
-    void leastPeriods_data()
-    {
-        DataTable<QString, int, QString, QString>({"box", "value", "key", "saved"})
-            .row("roaming hours", "spinBox_RBlockH", 1, "ROAM/blockTimer", "3600")
-            .row("no roaming hours", "spinBox_RBlockH", 0, "ROAM/blockTimer", "300")
-            .row("hours", "spinBox_QSP_CnctTimer_hh", 2, "QSP/cnctTimer", "7200")
-            .row("no hours", "spinBox_QSP_CnctTimer_hh", 0, "QSP/cnctTimer", "600");
-    }
-    // Days and minutes at nought, hours as told: a period that is too short grows to the least one.
-    void leastPeriods()
-    {
-        set("spinBox_QSP_CnctTimer_dd", 0);
-        QCOMPARE(saved("QSP/cnctTimer"), QString("600"));
-        for (const char* hours : {"spinBox_RBlockH", "spinBox_QSP_CnctTimer_hh"})
-            set(hours, 3);
-        for (const char* minutes : {"spinBox_RBlockM", "spinBox_QSP_CnctTimer_mm"})
-            set(minutes, 0);
-        QFETCH(QString, box);
-        QFETCH(int, value);
-        set(box, value);
-        QFETCH(QString, key);
-        QTEST(saved(key), "saved");
     }
 
     void protocol()
@@ -136,39 +50,6 @@ private Q_SLOTS:
         load(save());
         QVERIFY(!get<QGroupBox>("GPRSSrv_groupBox_Reserv_1")->isChecked());
         QCOMPARE(textOf("GPRSSrv_lineEdit_IP_DNS_Reserv_1"), QString("0.0.0.0"));
-    }
-
-    void testNeedsAnAddress()
-    {
-        load({{"SRV1/addr", "a.example"}, {"SRV2/addr", "0.0.0.0"}, {"SRV3/addr", ""}});
-        QVERIFY(isOn("GPRSSrv_toolButton_Test_Main"));
-        QVERIFY(!isOn("GPRSSrv_toolButton_Test_Reserv_1") && !isOn("GPRSSrv_toolButton_Test_Reserv_2"));
-        set("GPRSSrv_lineEdit_IP_DNS_Main", "");
-        QVERIFY(!isOn("GPRSSrv_toolButton_Test_Main"));
-        set("GPRSSrv_groupBox_Reserv_1", true);
-        QVERIFY(isOn("GPRSSrv_toolButton_Test_Reserv_1"));
-    }
-
-    void roamingModes_data()
-    {
-        DataTable<int, QString>({"mode", "on"})
-            .row("as at home", 0, "checkBox_RNoSmsSim_1 checkBox_RNoCallSim_1 frame_RBlock")
-            .row("connections", 1,
-                 "checkBox_RNoSmsSim_1 checkBox_RNoCallSim_1 frame_RConnectPeriod frame_RBlock")
-            .row("off", 2, "")
-            .row("periods", 3, "checkBox_RNoSmsSim_1 checkBox_RNoCallSim_1 frame_RPerion frame_RBlock");
-    }
-    void roamingModes()
-    {
-        QFETCH(int, mode);
-        set("comboBox_RModeSim_1", mode);
-        QStringList on;
-        for (const char* name : {"checkBox_RNoSmsSim_1", "checkBox_RNoCallSim_1", "frame_RPerion",
-                                 "frame_RConnectPeriod", "frame_RBlock"}) {
-            if (isOn(name))
-                on << name;
-        }
-        QTEST(on.join(' '), "on");
     }
 
     void objectName()
