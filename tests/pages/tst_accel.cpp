@@ -183,6 +183,15 @@ private Q_SLOTS:
         QVERIFY(get("pushButton_Quest")->isEnabledTo(get("groupBox_Quest")));
     }
 
+    void trackPageLeadsHere()
+    {
+        VLK_Form_Config_Track alone;
+        alone.findChild<QAbstractButton*>("pushButton_ParkingAccel")->click();
+        VLK_Widget_Config_Full full;
+        full.findChild<QAbstractButton*>("pushButton_ParkingAccel")->click();
+        QCOMPARE(tabs(full)->currentIndex(), full.pages().tabOf([](VLK_Form_Config_Accel&) {}));
+    }
+
 private:
     VLK_Form_Config_Accel_Virtual* form() { return window->findChild<VLK_Form_Config_Accel_Virtual*>(); }
     QDoubleSpinBox* box(int sensor)
