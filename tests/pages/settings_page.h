@@ -86,15 +86,7 @@ public:
         if (!document.setContent(readFile(path)))
             return {};
         Values values;
-        const QDomElement section = document.documentElement().firstChildElement(section_);
-        for (QDomElement group = section.firstChildElement(); !group.isNull();
-             group = group.nextSiblingElement()) {
-            const QDomNamedNodeMap attributes = group.attributes();
-            for (int i = 0; i < attributes.size(); ++i) {
-                const QDomAttr attribute = attributes.item(i).toAttr();
-                values[group.tagName() + '/' + attribute.name()] = attribute.value();
-            }
-        }
+        collect(document.documentElement().firstChildElement(section_), {}, &values);
         return values;
     }
 
@@ -113,6 +105,20 @@ public:
     QString filePath(const char* name) const { return folder_.filePath(name); }
 
 private:
+    // Of the elements below this one, by their paths.
+    static void collect(const QDomElement& above, const QString& path, Values* values)
+    {
+        for (QDomElement element = above.firstChildElement(); !element.isNull();
+             element = element.nextSiblingElement()) {
+            const QDomNamedNodeMap attributes = element.attributes();
+            for (int i = 0; i < attributes.size(); ++i) {
+                const QDomAttr attribute = attributes.item(i).toAttr();
+                (*values)[path + element.tagName() + '/' + attribute.name()] = attribute.value();
+            }
+            collect(element, path + element.tagName() + '/', values);
+        }
+    }
+
     const QString section_;
     QTemporaryDir folder_;
     std::unique_ptr<Page> page_;

@@ -5,14 +5,12 @@
 #include "dialog/config_pages.h"
 #include "dialog/widget_config_full.h"
 #include "pages/form_lines_in_settings.h"
+#include "settings_page.h"
 #include "support/data_table.h"
-#include "support/device.h"
-#include "support/setting_samples.h"
 #include "windows/vlk_dblslider2.h"
 
 #include <QtTest>
 #include <QtWidgets>
-#include <QtXml>
 
 namespace {
 
@@ -26,13 +24,19 @@ void record(void* /*device*/, std::uint32_t id, void* p1, void* /*p2*/)
 
 } // namespace
 
-class LinesInTest : public QObject
+class LinesInTest : public QObject, private SettingsPage<VLK_Form_Config_Lines_In>
 {
     Q_OBJECT
 
+public:
+    LinesInTest() : SettingsPage("SENSORS") {}
+
 private Q_SLOTS:
-    void initTestCase() { device().initialize(&record); }
-    void init() { page_ = std::make_unique<VLK_Form_Config_Lines_In>(); }
+    void init()
+    {
+        open();
+        device().initialize(&record);
+    }
 
     void formsHaveTheirHeight()
     {
@@ -119,7 +123,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, answer);
         QFETCH(QVector<double>, volts);
-        page_->showLineValues(answer);
+        page().showLineValues(answer);
         for (int line = 1; line <= 3; ++line) {
             for (const char* name : {"AIN_Cur", "PLS_AIN_Cur", "FRQ_AIN_Cur", "TAHO_AIN_Cur"})
                 QVERIFY(qAbs(present(line, name) - volts[line - 1]) < 0.006);
@@ -130,8 +134,8 @@ private Q_SLOTS:
     {
         QByteArray bytes(vlk::analogRecordSize, '\0');
         bytes.replace(15, 6, QByteArray::fromHex("e803d4300000"));
-        page_->showAnalogRecord(reinterpret_cast<const uchar*>(bytes.constData()));
-        page_->showAnalogRecord(nullptr);
+        page().showAnalogRecord(reinterpret_cast<const uchar*>(bytes.constData()));
+        page().showAnalogRecord(nullptr);
         QCOMPARE(present(1, "AIN_Cur"), 1.0);
         QCOMPARE(present(2, "AIN_Cur"), 12.5);
         QCOMPARE(present(1, "PLS_AIN_Cur"), 0.0);
@@ -140,37 +144,29 @@ private Q_SLOTS:
     // The window stops the monitor at the next timeout, since it is not active here.
     void asksTheTracker()
     {
-        VLK_Widget_Config_Full window;
-        window.deviceConnected();
-        auto* page = window.findChild<VLK_Form_Config_Lines_In*>();
-        auto* quest = child<QPushButton>("pushButton_Quest", page);
-        auto* again = child<QCheckBox>("checkBox_AutoQuest", page);
+        VLK_Widget_Config_Full full;
+        full.deviceConnected();
+        window = full.findChild<VLK_Form_Config_Lines_In*>();
+        auto* quest = child<QPushButton>("pushButton_Quest");
+        auto* again = child<QCheckBox>("checkBox_AutoQuest");
         sent.clear();
         quest->click();
         QCOMPARE(sent, QStringList());
-        window.gotoInputLines();
+        full.gotoInputLines();
         quest->click();
         again->setChecked(true);
         QCOMPARE(sent, QStringList({"21,22,23", "21,22,23"}));
-        QVERIFY(!quest->isEnabled() && !child<QSpinBox>("spinBox_AutoQuest_TimeOut", page)->isEnabled());
-        window.slot_timeOut_TimerAnalog();
+        QVERIFY(!quest->isEnabled() && !child<QSpinBox>("spinBox_AutoQuest_TimeOut")->isEnabled());
+        full.slot_timeOut_TimerAnalog();
         QVERIFY(!again->isChecked() && quest->isEnabled());
     }
 
 private:
-    template <class T>
-    T* child(const QString& name, QWidget* below = nullptr) const
-    {
-        auto* found = (below ? below : page_.get())->findChild<T*>(name);
-        if (!found)
-            qFatal("no widget %s", qPrintable(name));
-        return found;
-    }
     QWidget* form(int line) const { return child<QWidget>(QString("lineSettings_In%1").arg(line)); }
     template <class T>
     T* part(int line, const QString& name) const
     {
-        return child<T>(name, form(line));
+        return form(line)->findChild<T*>(name);
     }
     double present(int line, const char* name) const
     {
@@ -182,25 +178,6 @@ private:
         list->setCurrentIndex(list->findText(item));
         QCOMPARE(list->currentText(), item);
     }
-
-    QDomElement save()
-    {
-        vlk::XmlDocument out(QString(), "DEVICE");
-        page_->saveToXml(out.root());
-        saved_.setContent(out.text());
-        return saved_.documentElement().firstChildElement("SENSORS");
-    }
-    QString saved(const QString& key)
-    {
-        QDomElement element = save();
-        const QStringList names = key.split('/');
-        for (const QString& name : names.mid(0, names.size() - 1))
-            element = element.firstChildElement(name);
-        return element.attribute(names.last(), "none");
-    }
-
-    std::unique_ptr<VLK_Form_Config_Lines_In> page_;
-    QDomDocument saved_;
 };
 
 QTEST_MAIN(LinesInTest)

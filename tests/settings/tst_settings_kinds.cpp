@@ -155,89 +155,71 @@ private Q_SLOTS:
     void reading_data()
     {
         DataTable<QString, QString, QString, Change> table({"key", "text", "value", "change"});
-        table.row("constant", "mode", "7", "1", Change::none);
-        table.row("flag", "flag", "5", "1", Change::otherForm);
-        table.row("flag, no number", "flag", "yes", "0", Change::notANumber);
-        table.row("flag of another value", "line", "1", "0", Change::otherForm);
-        table.row("flag of its value", "line", "3", "3", Change::none);
-        table.row("number", "whole", "91", "90", Change::outOfRange);
-        table.row("number with a tail", "whole", "12abc", "12", Change::notANumber);
-        table.row("no number", "whole", "abc", "1", Change::notANumber);
-        table.row("nothing", "whole", "", "1", Change::notANumber);
-        table.row("seconds as minutes", "minutes", "3605", "3600", Change::rounded);
-        table.row("off", "offOr", "0", "0", Change::none);
-        table.row("less than off", "offOr", "-4", "0", Change::outOfRange);
-        table.row("on", "offOr", "301", "300", Change::outOfRange);
-        table.row("real", "real", "12.34", "12.3", Change::rounded);
-        table.row("real, no number", "real", "nan", "0.1", Change::notANumber);
-        table.row("real with a tail", "real", "2.5abc", "2.5", Change::notANumber);
-        table.row("real in single precision", "real", "1.05", "1.0", Change::rounded);
-        table.row("volts", "volts", "2010", "2010", Change::none);
-        table.row("volts between steps", "volts", "2014", "2010", Change::rounded);
-        table.row("text", "text", "123456", "12345", Change::tooLong);
-        table.row("offered", "use", "AIN", "AIN", Change::none);
-        table.row("known, not offered", "use", "PLS", "N/A", Change::notOffered);
-        table.row("unknown", "use", "XXX", "NU", Change::unknownCode);
-        table.row("older spelling", "use", "OLD", "AIN", Change::otherForm);
-        table.row("by number", "number", "03", "3", Change::otherForm);
-        table.row("leaves it as it stands", "number", "2", "1", Change::unknownCode);
-        table.row("unknown is no item", "chosen", "2", "9", Change::unknownCode);
-        table.row("pattern", "satellites", "01001", "01000", Change::otherForm);
-        table.row("no pattern", "satellites", "00000", "11000", Change::unknownCode);
-        table.row("period", "period", "3725", "3720", Change::rounded);
-        table.row("period beyond its boxes", "period", "999999999", "258360", Change::outOfRange);
-        table.row("period beyond a day", "wrapped", "90060", "3660", Change::outOfRange);
-        table.row("least period", "least", "60", "300", Change::outOfRange);
-        table.row("digits", "digits", "9x", "100", Change::otherForm);
-        table.row("digits of lists", "lists", "231", "201", Change::otherForm);
-        table.row("bits", "bits", "7", "5", Change::outOfRange);
-        table.row("mask", "mask", "01x9", "01010000", Change::otherForm);
-        table.row("fields of a mask", "fields", "01001101", "11110101", Change::notOffered);
-        table.row("fields beyond the text", "fields", "0", "10000000", Change::notOffered);
-        table.row("item that a list lacks", "fields", "10010110", "10010101", Change::notOffered);
-        table.row("mask that is too long", "fields", "111101011", "11110101", Change::tooLong);
-        table.row("blank", "blank", "", "", Change::none);
-        table.row("bound by another", "safe", "1", "0", Change::byRule);
-        table.row("links are read elsewhere", "speed", "1", "1", Change::none);
+        table.row("constant", "A/mode", "7", "1", Change::none);
+        table.row("flag", "A/flag", "5", "1", Change::otherForm);
+        table.row("flag, no number", "A/flag", "yes", "0", Change::notANumber);
+        table.row("flag of another value", "A/line", "1", "0", Change::otherForm);
+        table.row("flag of its value", "A/line", "3", "3", Change::none);
+        table.row("number", "A/whole", "91", "90", Change::outOfRange);
+        table.row("number with a tail", "A/whole", "12abc", "12", Change::notANumber);
+        table.row("no number", "A/whole", "abc", "1", Change::notANumber);
+        table.row("nothing", "A/whole", "", "1", Change::notANumber);
+        table.row("seconds as minutes", "A/minutes", "3605", "3600", Change::rounded);
+        table.row("off", "A/offOr", "0", "0", Change::none);
+        table.row("less than off", "A/offOr", "-4", "0", Change::outOfRange);
+        table.row("on", "A/offOr", "301", "300", Change::outOfRange);
+        table.row("real", "A/real", "12.34", "12.3", Change::rounded);
+        table.row("real, no number", "A/real", "nan", "0.1", Change::notANumber);
+        table.row("real with a tail", "A/real", "2.5abc", "2.5", Change::notANumber);
+        table.row("real in single precision", "A/real", "1.05", "1.0", Change::rounded);
+        table.row("volts", "A/volts", "2010", "2010", Change::none);
+        table.row("volts between steps", "A/volts", "2014", "2010", Change::rounded);
+        table.row("text", "A/text", "123456", "12345", Change::tooLong);
+        table.row("offered", "A/use", "AIN", "AIN", Change::none);
+        table.row("known, not offered", "A/use", "PLS", "N/A", Change::notOffered);
+        table.row("unknown", "A/use", "XXX", "NU", Change::unknownCode);
+        table.row("older spelling", "A/use", "OLD", "AIN", Change::otherForm);
+        table.row("by number", "A/number", "03", "3", Change::otherForm);
+        table.row("leaves it as it stands", "A/number", "2", "1", Change::unknownCode);
+        table.row("unknown is no item", "A/chosen", "2", "9", Change::unknownCode);
+        table.row("pattern", "A/satellites", "01001", "01000", Change::otherForm);
+        table.row("no pattern", "A/satellites", "00000", "11000", Change::unknownCode);
+        table.row("period", "A/period", "3725", "3720", Change::rounded);
+        table.row("period beyond its boxes", "A/period", "999999999", "258360", Change::outOfRange);
+        table.row("period beyond a day", "A/wrapped", "90060", "3660", Change::outOfRange);
+        table.row("least period", "A/least", "60", "300", Change::outOfRange);
+        table.row("digits", "A/digits", "9x", "100", Change::otherForm);
+        table.row("digits of lists", "A/lists", "231", "201", Change::otherForm);
+        table.row("bits", "A/bits", "7", "5", Change::outOfRange);
+        table.row("mask", "A/mask", "01x9", "01010000", Change::otherForm);
+        table.row("fields of a mask", "A/fields", "01001101", "11110101", Change::notOffered);
+        table.row("fields beyond the text", "A/fields", "0", "10000000", Change::notOffered);
+        table.row("item that a list lacks", "A/fields", "10010110", "10010101", Change::notOffered);
+        table.row("mask that is too long", "A/fields", "111101011", "11110101", Change::tooLong);
+        table.row("blank", "A/blank", "", "", Change::none);
+        table.row("bound by another", "A/safe", "1", "0", Change::byRule);
+        table.row("links are read elsewhere", "A/speed", "1", "1", Change::none);
+        table.row("hexadecimal", "B/byte", "0F", "0F", Change::none);
+        table.row("hexadecimal, short", "B/byte", "f", "0F", Change::rounded);
+        table.row("hexadecimal, too much", "B/byte", "100", "FF", Change::outOfRange);
+        table.row("not hexadecimal", "B/byte", "xy", "00", Change::notANumber);
+        table.row("empty mask", "B/address", "", ":", Change::otherForm);
+        table.row("mask, filled", "B/address", "0a:Bc", "0a:Bc", Change::none);
+        table.row("mask, without its signs", "B/address", "0aBc", "0a:Bc", Change::otherForm);
+        table.row("mask, partly", "B/address", "x1:b y7:", "1:b7", Change::otherForm);
+        table.row("any number but 0 is on", "B/row", "-4", "1", Change::outOfRange);
+        table.row("0 is off", "B/row", "0", "0", Change::none);
+        table.row("not offered, stays", "B/kept", "PLS", "NU", Change::notOffered);
+        table.row("unknown, does not", "B/kept", "XXX", "NB+", Change::unknownCode);
     }
     void reading()
     {
         QFETCH(QString, key);
         QFETCH(QString, text);
-        const int index = configuration_.indexOf("S/A/" + key);
+        const int index = configuration_.indexOf("S/" + key);
         Change change = Change::none;
-        for (const ReadNote& note : read({{"S/A/" + key, text}})) {
+        for (const ReadNote& note : read({{"S/" + key, text}})) {
             if (note.index == index && note.text == text)
-                change = note.change;
-        }
-        QTEST(configuration_.value(index), "value");
-        QTEST(change, "change");
-    }
-
-    void readingMore_data()
-    {
-        DataTable<QString, QString, QString, Change> table({"key", "text", "value", "change"});
-        table.row("hexadecimal", "byte", "0F", "0F", Change::none);
-        table.row("hexadecimal, short", "byte", "f", "0F", Change::rounded);
-        table.row("hexadecimal, too much", "byte", "100", "FF", Change::outOfRange);
-        table.row("not hexadecimal", "byte", "xy", "00", Change::notANumber);
-        table.row("empty mask", "address", "", ":", Change::otherForm);
-        table.row("mask, filled", "address", "0a:Bc", "0a:Bc", Change::none);
-        table.row("mask, without its signs", "address", "0aBc", "0a:Bc", Change::otherForm);
-        table.row("mask, partly", "address", "x1:b y7:", "1:b7", Change::otherForm);
-        table.row("any number but 0 is on", "row", "-4", "1", Change::outOfRange);
-        table.row("0 is off", "row", "0", "0", Change::none);
-        table.row("not offered, stays", "kept", "PLS", "NU", Change::notOffered);
-        table.row("unknown, does not", "kept", "XXX", "NB+", Change::unknownCode);
-    }
-    void readingMore()
-    {
-        QFETCH(QString, key);
-        QFETCH(QString, text);
-        const int index = configuration_.indexOf("S/B/" + key);
-        Change change = Change::none;
-        for (const ReadNote& note : read({{"S/B/" + key, text}})) {
-            if (note.index == index)
                 change = note.change;
         }
         QTEST(configuration_.value(index), "value");
