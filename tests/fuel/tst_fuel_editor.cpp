@@ -1,10 +1,10 @@
 // The editor of one calibration table in the dialog of an RS sensor: points by hand, files, clipboard, curve.
 
-#include "answers.h"
 #include "base/clock.h"
 #include "fuel/form_fuel_sensor.h"
 #include "fuel/form_fuel_view.h"
 #include "fuel/fuelsensor_graph.h"
+#include "support/answers.h"
 #include "support/data_table.h"
 #include "support/files.h"
 #include "support/window_parts.h"

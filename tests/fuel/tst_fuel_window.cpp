@@ -1,6 +1,6 @@
 // The calibration window over the telemetry view, as host and user see it.
 
-#include "answers.h"
+#include "support/answers.h"
 #include "support/data_table.h"
 #include "support/full_disk.h"
 #include "telemetry/opened_view.h"

@@ -1,5 +1,6 @@
 // The configuration dialog and the full window, driven through messages and widgets by name.
 
+#include "support/answers.h"
 #include "support/data_table.h"
 #include "support/files.h"
 #include "support/full_disk.h"
@@ -173,7 +174,7 @@ private Q_SLOTS:
             QVERIFY(isOn(write));
             QCOMPARE(readFile(written[0].text1), first);
 
-            answerFileDialog(folder_.filePath(QStringLiteral("new.xml")));
+            answerFile(folder_.filePath(QStringLiteral("new.xml")));
             QTest::ignoreMessage(QtWarningMsg, told);
             press(save);
             QVERIFY(!QFile::exists(folder_.filePath(QStringLiteral("new.xml"))));
@@ -199,7 +200,7 @@ private Q_SLOTS:
         if (!before.isEmpty())
             writeFile(target, before);
         QString suggested;
-        answerFileDialog(folder_.filePath(typed), &suggested);
+        answerFile(folder_.filePath(typed), &suggested);
         press("pushButton_SaveToFile");
         QVERIFY(QFile::exists(target));
         QVERIFY(isOn("pushButton_SaveToFile"));
@@ -220,7 +221,7 @@ private Q_SLOTS:
         const QStringList before = QDir::current().entryList();
         for (const char* save : {"pushButton_SaveToFile", "pushButton_Light_SaveToFile"}) {
             host_.open({}, qstrcmp(save, "pushButton_SaveToFile") == 0);
-            ScriptedHost::whenModal([](QWidget* open) { open->close(); });
+            answerFile({});
             press(save);
         }
         QCOMPARE(QDir::current().entryList(), before);
@@ -232,10 +233,9 @@ private Q_SLOTS:
         name()->setText(QStringLiteral("Kept"));
         for (const bool agree : {false, true}) {
             QString text;
-            ScriptedHost::whenModal([&](QWidget* open) {
-                auto* box = qobject_cast<QMessageBox*>(open);
-                text = box->text();
-                box->buttons().at(agree ? 0 : 1)->click();
+            whenOpen<QMessageBox>([&](QMessageBox& box) {
+                text = box.text();
+                box.buttons().at(agree ? 0 : 1)->click();
             });
             press("pushButton_ConfigLight");
             QVERIFY(text.contains(QStringLiteral("<br><br>")));
@@ -338,23 +338,6 @@ private:
     QSpinBox* portOf(const char* page) const
     {
         return child<QWidget>(page)->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main");
-    }
-
-    // Types a path into the file dialog that opens next, and confirms that the file may be replaced.
-    static void answerFileDialog(const QString& path, QString* suggested = nullptr)
-    {
-        ScriptedHost::whenModal([path, suggested](QWidget* open) {
-            auto* dialog = qobject_cast<QFileDialog*>(open);
-            auto* edit = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-            if (suggested)
-                *suggested = edit->text();
-            edit->setText(path);
-            if (QFile::exists(path))
-                ScriptedHost::whenModal([](QWidget* question) {
-                    qobject_cast<QMessageBox*>(question)->button(QMessageBox::Yes)->click();
-                });
-            static_cast<QDialog*>(dialog)->accept();
-        });
     }
 
     QString configuration(const QString& objectName)

@@ -4,8 +4,8 @@
 #include "dialog/widget_config_full.h"
 #include "pages/form_config_system.h"
 #include "settings_page.h"
+#include "support/answers.h"
 #include "support/data_table.h"
-#include "support/scripted_host.h"
 #include "windows/vlk_dblslider2.h"
 
 #include <QDoubleSpinBox>
@@ -182,9 +182,9 @@ private Q_SLOTS:
     void warning()
     {
         QString text;
-        ScriptedHost::whenModal([&](QWidget* box) {
-            text = qobject_cast<QMessageBox*>(box)->text();
-            box->close();
+        whenOpen<QMessageBox>([&](QMessageBox& box) {
+            text = box.text();
+            box.close();
         });
         press("pushButton_Psw_Warning");
         QCOMPARE(text, QString("cfgt4_090"));

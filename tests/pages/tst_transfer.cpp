@@ -1,5 +1,6 @@
 // The Transfer page: what depends on what, driven through widgets by name and through files.
 
+#include "support/answers.h"
 #include "support/data_table.h"
 #include "transfer_page.h"
 
@@ -43,28 +44,18 @@ private Q_SLOTS:
         QCOMPARE(get<QStackedWidget>("stackedWidget_Server")->currentWidget(), get("page_Main"));
     }
 
-    void testResult_data()
-    {
-        DataTable<bool, QString>({"ok", "text"})
-            .row("answers", true, "cfgt1_109")
-            .row("silent", false, "cfgt1_108");
-    }
     void testResult()
     {
-        QFETCH(bool, ok);
-        QString text;
-        QMessageBox::Icon icon = QMessageBox::NoIcon;
-        QTimer::singleShot(0, this, [&] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (!box)
-                return;
-            text = box->text();
-            icon = box->icon();
-            box->buttons().first()->click();
-        });
-        page().slot_testConnected("127.0.0.1", "localhost", ok);
-        QTEST(text, "text");
-        QCOMPARE(icon, QMessageBox::Warning);
+        for (const bool ok : {true, false}) {
+            QString text;
+            whenOpen<QMessageBox>([&](QMessageBox& box) {
+                text = box.text();
+                QCOMPARE(box.icon(), QMessageBox::Warning);
+                box.buttons().first()->click();
+            });
+            page().slot_testConnected("127.0.0.1", "localhost", ok);
+            QCOMPARE(text, QString(ok ? "cfgt1_109" : "cfgt1_108"));
+        }
     }
 
     void encryptionKey()

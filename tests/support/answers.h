@@ -1,6 +1,6 @@
 #pragma once
 
-// A user's answers to the dialogs that the calibration windows open, given as soon as each is there; and what
+// A user's answers to the dialogs that windows open, given as soon as each is there; and what
 // stands in a table.
 
 #include <QApplication>
