@@ -40,32 +40,17 @@ private Q_SLOTS:
         device().initialize(&record);
     }
 
-    void levels_data()
+    void levelsBySlots()
     {
-        DataTable<int, double, int, QString>({"sensor", "level", "position", "saved"})
-            .row("weak shock", 1, 0.5, 5, "0.5")
-            .row("strong shock", 2, 1.1, 11, "1.1")
-            .row("movement", 3, 10, 100, "10.0")
-            .row("tilt", 4, 0.07, 7, "0.07")
-            .row("tilt at its end", 4, 25, 2500, "25.00");
-    }
-    // By the box, by the slider, by the slots.
-    void levels()
-    {
-        QFETCH(int, sensor);
-        QFETCH(double, level);
-        QFETCH(int, position);
-        auto* slider = get<QSlider>(QString("horizontalSlider_Level_SH%1").arg(sensor));
-        const auto saved = [&] { return this->saved(QString("SENSORS/sh%1").arg(sensor)); };
-        box(sensor)->setValue(level);
-        QCOMPARE(slider->value(), position);
-        QTEST(saved(), "saved");
-        form()->slot_valueChanged_doubleSpinBox_Level_SH(sensor, 3);
-        QCOMPARE(slider->value(), sensor == 4 ? 300 : 30);
-        slider->setValue(position);
-        QTEST(saved(), "saved");
-        form()->slot_valueChanged_horizontalSlider_Level_SH(sensor, 30);
-        QCOMPARE(box(sensor)->value(), sensor == 4 ? 0.3 : 3);
+        for (int sensor = 1; sensor <= 4; ++sensor) {
+            form()->slot_valueChanged_doubleSpinBox_Level_SH(sensor, 3);
+            QCOMPARE(get<QSlider>(QString("horizontalSlider_Level_SH%1").arg(sensor))->value(),
+                     sensor == 4 ? 300 : 30);
+            QCOMPARE(saved(QString("SENSORS/sh%1").arg(sensor)), QString(sensor == 4 ? "3.00" : "3.0"));
+            form()->slot_valueChanged_horizontalSlider_Level_SH(sensor, 40);
+            QCOMPARE(box(sensor)->value(), sensor == 4 ? 0.4 : 4);
+            QCOMPARE(saved(QString("SENSORS/sh%1").arg(sensor)), QString(sensor == 4 ? "0.40" : "4.0"));
+        }
     }
 
     void presentValues_data()

@@ -7,6 +7,7 @@
 #include "peripherals/form_config_bluetooth.h"
 #include "peripherals/form_config_bluetooth_device_type.h"
 #include "support/data_table.h"
+#include "support/setting_samples.h"
 
 #include <QAction>
 #include <QMenu>
@@ -151,36 +152,28 @@ private Q_SLOTS:
     // What a sensor of each vendor supplies, when its type is chosen and when the vendor changes.
     void vendors_data()
     {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<int>("vendor");
-        QTest::addColumn<QString>("supplied");
-        QTest::addColumn<QString>("withdrawn"); // where that differs
-        QTest::addColumn<QString>("name");      // whether the name is open: by the type, by a change
-        const auto row = [](const char* vendor, int type, int number, const char* supplied, const char* name,
-                            const char* withdrawn = "") {
-            QTest::newRow(vendor) << type << number << QString(supplied) << QString(withdrawn)
-                                  << QString(name);
-        };
-        row("ESCORT TD", 1, 0, "2 5 7", "11");
-        row("GL-TV", 1, 1, "2 5", "00");
-        row("TECHNOTON DUT E", 1, 2, "2 5 6", "00");
-        row("MECHATRONICS DOMINATOR", 1, 3, "2 5 7", "00", "2 5 6 7");
-        row("MIELTA FANTOM", 1, 4, "2 5 6 7 12", "11");
-        row("ADM31/35", 2, 0, "3 7 5 6 2", "00");
-        row("ESCORT TL", 2, 1, "3 7 5 2", "11");
-        row("TZ-BT04", 2, 2, "7 5 6 2", "00");
-        row("ADM32", 3, 0, "2 5 6 7 12", "00");
-        row("ESCORT DU", 3, 1, "2 5 6 7 12", "11");
-        row("GNOM DP", 3, 2, "2 5 6 12", "00");
-        row("MECHATRONICS DEGREE", 3, 3, "2 5 6 13 14 15", "00");
-        row("ELA MOV(ANG)", 3, 4, "2 5 19 20 21", "01");
-        row("TECHNOTON GNOM DDE", 4, 0, "2 4 5 6", "0");
-        row("TECHNOTON DFM", 5, 0, "0 2 5 6 7 8", "0");
-        row("universal", 6, 0, "2 5", "1");
-        row("TESLiOT", 7, 0, "3 7 5 6 2 19 20 21 22", "00");
-        row("ESCORT TH", 7, 1, "3 7 5 6 4 2", "11");
-        row("ELA AI", 8, 0, "2 5", "1");
-        row("ELA MAG/MOV/DI/PIR", 9, 0, "2 5 6 22", "1");
+        // Withdrawn where that differs; whether the name is open by the type and by a change.
+        DataTable<int, int, QString, QString, QString>({"type", "vendor", "supplied", "name", "withdrawn"})
+            .row("ESCORT TD", 1, 0, "2 5 7", "11", "")
+            .row("GL-TV", 1, 1, "2 5", "00", "")
+            .row("TECHNOTON DUT E", 1, 2, "2 5 6", "00", "")
+            .row("MECHATRONICS DOMINATOR", 1, 3, "2 5 7", "00", "2 5 6 7")
+            .row("MIELTA FANTOM", 1, 4, "2 5 6 7 12", "11", "")
+            .row("ADM31/35", 2, 0, "3 7 5 6 2", "00", "")
+            .row("ESCORT TL", 2, 1, "3 7 5 2", "11", "")
+            .row("TZ-BT04", 2, 2, "7 5 6 2", "00", "")
+            .row("ADM32", 3, 0, "2 5 6 7 12", "00", "")
+            .row("ESCORT DU", 3, 1, "2 5 6 7 12", "11", "")
+            .row("GNOM DP", 3, 2, "2 5 6 12", "00", "")
+            .row("MECHATRONICS DEGREE", 3, 3, "2 5 6 13 14 15", "00", "")
+            .row("ELA MOV(ANG)", 3, 4, "2 5 19 20 21", "01", "")
+            .row("TECHNOTON GNOM DDE", 4, 0, "2 4 5 6", "0", "")
+            .row("TECHNOTON DFM", 5, 0, "0 2 5 6 7 8", "0", "")
+            .row("universal", 6, 0, "2 5", "1", "")
+            .row("TESLiOT", 7, 0, "3 7 5 6 2 19 20 21 22", "00", "")
+            .row("ESCORT TH", 7, 1, "3 7 5 6 4 2", "11", "")
+            .row("ELA AI", 8, 0, "2 5", "1", "")
+            .row("ELA MAG/MOV/DI/PIR", 9, 0, "2 5 6 22", "1", "");
     }
     void vendors()
     {
@@ -293,12 +286,10 @@ private Q_SLOTS:
         QFETCH(int, type);
         QFETCH(Values, values);
         QFETCH(QString, absent);
-        vlk::XmlDocument in(QString(), "DEVICE");
-        for (auto value = values.begin(); value != values.end(); ++value) {
-            const CXmlSectionPtr element = in.root()->child(value.key().section('/', 0, 0));
-            element->setString(value.key().section('/', 1), value.value());
-            element->commit();
-        }
+        QVector<QPair<QString, QString>> file;
+        for (auto value = values.begin(); value != values.end(); ++value)
+            file.append({value.key(), value.value()});
+        vlk::XmlDocument in(documentWith(file), "DEVICE");
         sensor(2).selectType(type);
         sensor(2).loadForm(type, in.root());
         vlk::XmlDocument out(QString(), "DEVICE");
