@@ -102,7 +102,6 @@ public:
         }
         return wrong;
     }
-    QString filePath(const char* name) const { return folder_.filePath(name); }
 
 private:
     // Of the elements below this one, by their paths.
@@ -125,4 +124,3 @@ private:
 };
 
 Q_DECLARE_METATYPE(Values)
-Q_DECLARE_METATYPE(Boxes)

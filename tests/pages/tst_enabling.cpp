@@ -101,30 +101,16 @@ private Q_SLOTS:
             take(step);
         if (page == "lines_in" && state.startsWith("code=") &&
             get<QComboBox>(control)->findData(state.mid(5)) < 0) {
-            QCOMPARE(settings_->value("IN" + found.captured(1) + "/normState"),
-                     QString("N/A")); // not offered
+            // The list does not offer the use.
+            QCOMPARE(settings_->value("IN" + found.captured(1) + "/normState"), QString("N/A"));
             return;
         }
         for (const QString& name : enabled)
             QVERIFY2(get(name)->isEnabledTo(window), qPrintable(name));
         for (const QString& name : disabled)
             QVERIFY2(!get(name)->isEnabledTo(window), qPrintable(name));
-        for (const QString& pull : pulled) {
-            const QString what = pull.section('=', 0, 0);
-            const QString value = pull.section('=', 1).remove('"');
-            const QRegularExpression names(
-                QRegularExpression::wildcardToRegularExpression(what.section('.', 0, 0)));
-            const auto widgets = (what.contains('*') ? window : get(what.section('.', 0, 0))->parentWidget())
-                                     ->findChildren<QWidget*>(names);
-            QVERIFY(!widgets.isEmpty());
-            for (const QWidget* widget : widgets) {
-                const QString shown = shownBy(*widget, what.section('.', 1), value);
-                if (value.startsWith('{')) // a word of the product's own, always the same
-                    QCOMPARE(shown.isEmpty() ? "nothing" : shown, words_[value] = words_.value(value, shown));
-                else if (value != "remembered")
-                    QCOMPARE(what + '=' + shown, what + '=' + value);
-            }
-        }
+        for (const QString& pull : pulled)
+            comparePull(pull);
         QCOMPARE(settings_->binder().disagreements(), QStringList());
     }
 
@@ -194,6 +180,25 @@ private:
         for (const vlk::Code& use : vlk::kOutputUses) {
             if (outputs && code == use.code)
                 outputs->slot_currentIndexChanged_UseAs_O1(vlk::codeText(use));
+        }
+    }
+
+    // "list.count=3", of each widget of the name, in which a star stands for anything.
+    void comparePull(const QString& pull)
+    {
+        const QString what = pull.section('=', 0, 0);
+        const QString name = what.section('.', 0, 0);
+        const QString value = pull.section('=', 1).remove('"');
+        QWidget* above = what.contains('*') ? window : get(name)->parentWidget();
+        const auto widgets = above->findChildren<QWidget*>(
+            QRegularExpression(QRegularExpression::wildcardToRegularExpression(name)));
+        QVERIFY(!widgets.isEmpty());
+        for (const QWidget* widget : widgets) {
+            const QString shown = shownBy(*widget, what.section('.', 1), value);
+            if (value.startsWith('{')) // a word of the product's own, always the same
+                QCOMPARE(shown.isEmpty() ? "nothing" : shown, words_[value] = words_.value(value, shown));
+            else if (value != "remembered")
+                QCOMPARE(what + '=' + shown, what + '=' + value);
         }
     }
 

@@ -1,6 +1,6 @@
-// The Input lines page with the form of a line: what depends on what, by widgets, files and answers of the
-// tracker. Without a translator the items of a list are keys: cfgt8_002 not used, 003 normally closed, 004
-// normally open, 007 analogue.
+// The Input lines page with the form of a line: heights, handles, pulses, and answers of the tracker. Without
+// a translator the items of a list are keys: cfgt8_002 not used, 003 normally closed, 004 normally open, 007
+// analogue.
 
 #include "dialog/config_pages.h"
 #include "dialog/widget_config_full.h"

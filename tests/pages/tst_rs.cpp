@@ -1,5 +1,5 @@
-// The RS page: what an owner and a type do to the line, what stays with the window, the calibrations, the
-// counters' parameters and the CAN-LOG program.
+// The RS page: the forms of owners and types, the calibrations, the counters' parameters and the CAN-LOG
+// program.
 
 #include "fuel/form_fuel_view.h"
 #include "pages/settings_page.h"

@@ -1,4 +1,4 @@
-// The System page: what depends on what, driven through widgets by name and through files.
+// The System page: handles and sliders, delays, what fields take, the present supply.
 
 #include "dialog/config_pages.h"
 #include "dialog/widget_config_full.h"

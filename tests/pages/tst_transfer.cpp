@@ -1,4 +1,5 @@
-// The Transfer page: what depends on what, driven through widgets by name and through files.
+// The Transfer page: servers, operators, the key and the connection test. What enables what, and what files
+// and edits become, stands in the golden tables.
 
 #include "support/answers.h"
 #include "support/data_table.h"
