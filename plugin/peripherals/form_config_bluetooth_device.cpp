@@ -51,7 +51,7 @@ VLK_Form_Config_Bluetooth_Device::Sensor VLK_Form_Config_Bluetooth_Device::makeS
     // Long names of types do not widen the page.
     auto* types = static_cast<QComboBox*>(fields[0].second);
     types->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    types->setMinimumContentsLength(12);
+    types->setMinimumContentsLength(22);
     int place = 0;
     for (const auto& [label, widget] : fields) {
         label->setBuddy(widget);
