@@ -152,8 +152,9 @@ Limits Configuration::ownLimits(const Part& part, int row) const
 {
     const Setting& setting = *part.layout->rows[row].setting;
     Limits limits{setting.least, setting.most};
-    for (const TableLayout::RangeWhen& rule : part.layout->ranges) {
-        if (rule.row == row && holds(part, rule.when))
+    for (const int index : part.layout->rows[row].ranges) {
+        const TableLayout::RangeWhen& rule = part.layout->ranges[index];
+        if (holds(part, rule.when))
             limits = {rule.rule->least, rule.rule->most, rule.rule->offers};
     }
     // Each of two handles leaves the other one its room.
@@ -171,8 +172,9 @@ const char* Configuration::unitKey(int index) const
     const Part& part = partOf(index);
     const int row = part.layout->rows[index - part.first].target;
     const char* unit = part.layout->rows[row].setting->unitKey;
-    for (const TableLayout::RangeWhen& rule : part.layout->ranges) {
-        if (rule.row == row && rule.rule->unit && holds(part, rule.when))
+    for (const int ranged : part.layout->rows[row].ranges) {
+        const TableLayout::RangeWhen& rule = part.layout->ranges[ranged];
+        if (rule.rule->unit && holds(part, rule.when))
             unit = rule.rule->unit;
     }
     return unit;

@@ -69,9 +69,9 @@ void Configuration::pull(const Part& part, int row, bool onRead, const QString& 
     const auto heldBefore = [&](const TableLayout::Pull& rule) {
         return rule.onset && isOneOf(before, rule.when);
     };
-    for (const TableLayout::Pull& rule : part.layout->pulls) {
-        if (rule.when.row == row && (rule.onRead || !onRead) && holds(part, rule.when) &&
-            holds(part, rule.also) && !heldBefore(rule))
+    for (const int index : part.layout->rows[row].pulls) {
+        const TableLayout::Pull& rule = part.layout->pulls[index];
+        if ((rule.onRead || !onRead) && holds(part, rule.when) && holds(part, rule.also) && !heldBefore(rule))
             change(part, rule.set, rule.to, changed ? changed : &local);
     }
 }
@@ -103,11 +103,9 @@ void Configuration::assign(const Part& part, int row, const QString& value, std:
 // Lists that follow the value of the row.
 void Configuration::startOver(const Part& part, int row, std::vector<int>* changed)
 {
-    for (const TableLayout::RangeWhen& rule : part.layout->ranges) {
-        if (rule.rule->startsOver && rule.when.row == row) {
-            const int index = part.first + rule.row;
-            put(index, firstOffered(setting(index), limits(index)), changed);
-        }
+    for (const int rule : part.layout->rows[row].startOver) {
+        const int index = part.first + part.layout->ranges[rule].row;
+        put(index, firstOffered(setting(index), limits(index)), changed);
     }
 }
 

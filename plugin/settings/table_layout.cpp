@@ -91,6 +91,13 @@ private:
         }
     }
 
+    // Configuration asks a row for its rules, and there are many of both.
+    void addTo(int row, std::vector<int> TableLayout::Row::*rules, std::size_t rule)
+    {
+        if (row >= 0)
+            (layout_.rows[row].*rules).push_back(static_cast<int>(rule));
+    }
+
     void addRules()
     {
         const SettingsTable& table = *layout_.table;
@@ -110,6 +117,13 @@ private:
         for (const RangeWhen& rule : table.ranges)
             layout_.ranges.push_back({condition(rule.when, rule.number, rule.inner),
                                       rowAt(rule.path, rule.number, rule.inner), &rule});
+        for (std::size_t i = 0; i < layout_.ranges.size(); ++i) {
+            addTo(layout_.ranges[i].row, &TableLayout::Row::ranges, i);
+            if (layout_.ranges[i].rule->startsOver)
+                addTo(layout_.ranges[i].when.row, &TableLayout::Row::startOver, i);
+        }
+        for (std::size_t i = 0; i < layout_.pulls.size(); ++i)
+            addTo(layout_.pulls[i].when.row, &TableLayout::Row::pulls, i);
         for (const Sole& rule : table.soles)
             addSole(rule);
         for (const Presets& rule : table.presets) {

@@ -34,6 +34,9 @@ struct TableLayout
         int target = -1; // row of the value: of a link another one, else this one
         std::vector<Condition> present;
         Condition free;
+        std::vector<int> ranges;    // rules that say what the row can be
+        std::vector<int> startOver; // rules by which another row begins its list anew when this one changes
+        std::vector<int> pulls;     // rules that the row's edits run
     };
 
     struct Group

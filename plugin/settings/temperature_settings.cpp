@@ -9,14 +9,14 @@ constexpr Setting degrees(const char* key, double loadDefault)
     return real(key, loadDefault, 1).stepping(0.5).unit("abbr_017").readSingle();
 }
 
-// The bounds are read behind the hysteresis, which says how near to each other they may be.
+// The bounds are read in front of the hysteresis, and so keep the distance that the one before asks for:
+// after a reset 6 degrees.
 constexpr auto kRows = rowsOf(repeat<4>([](int) {
-    return rowsOf(
-        group("SENS%1"),
-        degrees("min", -50).range(-50, 115).readLast().in("doubleSpinBox_Left_Temp_%1").caption("cfgt7_002"),
-        degrees("max", 120).range(-45, 120).readLast().in("doubleSpinBox_Right_Temp_%1").caption("cfgt7_003"),
-        integer("hyst", 5).range(0, 10).unit("abbr_017").in("spinBox_Hyst_%1").caption("cfgt7_004"),
-        flag("filterMode", 1).in("checkBox_Filtr_%1").caption("cfgt7_005"));
+    return rowsOf(group("SENS%1"),
+                  degrees("min", -50).range(-50, 115).in("doubleSpinBox_Left_Temp_%1").caption("cfgt7_002"),
+                  degrees("max", 120).range(-45, 120).in("doubleSpinBox_Right_Temp_%1").caption("cfgt7_003"),
+                  integer("hyst", 5).range(0, 10).unit("abbr_017").in("spinBox_Hyst_%1").caption("cfgt7_004"),
+                  flag("filterMode", 1).in("checkBox_Filtr_%1").caption("cfgt7_005"));
 }));
 
 constexpr auto kDistances = rulesOf(repeat<4>([](int) {

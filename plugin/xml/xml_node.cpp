@@ -31,6 +31,20 @@ std::vector<CXmlNode*> CXmlNode::lastAttributes() const
 {
     std::vector<CXmlNode*> unique;
     unique.reserve(attributes.size());
+    // Most elements have a handful of attributes, which are sooner compared than hashed.
+    constexpr std::size_t few = 16;
+    if (attributes.size() <= few) {
+        for (const auto& attribute : attributes) {
+            const auto known = std::find_if(unique.begin(), unique.end(), [&](const CXmlNode* node) {
+                return node->name == attribute->name;
+            });
+            if (known == unique.end())
+                unique.push_back(attribute.get());
+            else
+                *known = attribute.get();
+        }
+        return unique;
+    }
     QHash<QString, std::size_t> places;
     places.reserve(static_cast<int>(attributes.size()));
     for (const auto& attribute : attributes) {

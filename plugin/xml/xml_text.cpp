@@ -127,8 +127,9 @@ QString decodeValue(const QString& value)
 
 QString sectionText(const QString& text)
 {
-    const auto stands = [](QChar character) {
-        return !character.isNull() && carriedCharacters()[character.unicode()];
+    const auto& carriedOnes = carriedCharacters();
+    const auto stands = [&carriedOnes](QChar character) {
+        return !character.isNull() && carriedOnes[character.unicode()];
     };
     if (text.size() <= sectionTextLimit && std::all_of(text.begin(), text.end(), stands))
         return text;

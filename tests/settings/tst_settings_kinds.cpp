@@ -113,6 +113,13 @@ constexpr SettingsTable kTable{.section = "S",
                                .enables = kEnables};
 
 // Over two sections, of which a save empties the second.
+// Two values that keep a distance are read behind the one that says it.
+constexpr auto kLateRows =
+    rowsOf(group("L"), integer("low", 0).range(0, 90).readLast(),
+           integer("high", 100).range(10, 100).readLast(), integer("gap", 5).range(0, 50));
+constexpr auto kLateDistances = rulesOf(Distance{.first = "L/low", .second = "L/high", .gapFrom = "L/gap"});
+constexpr SettingsTable kLate{.section = "LATE", .rows = kLateRows, .distances = kLateDistances};
+
 constexpr auto kWideRows =
     rowsOf(group("P").keeping(), text("mask", "0000").carriedOver().staying(), group("Q"),
            constant("page", "Q"), flag("any", 0).notStored(), flag("one", 0).notStored(),
@@ -439,6 +446,15 @@ private Q_SLOTS:
         QString after = out.text();
         after.remove(QRegularExpression("[\\n\\t\"]|<\\?.*\\?>|</?DEVICE>"));
         QTEST(after, "after");
+    }
+
+    void anotherOrderOfReading()
+    {
+        Configuration late({&kLate});
+        XmlDocument in(documentWith({{"LATE/L/low", "40"}, {"LATE/L/high", "42"}, {"LATE/L/gap", "1"}}),
+                       "DEVICE");
+        late.read(*in.root());
+        QCOMPARE(late.value("LATE/L/low") + ' ' + late.value("LATE/L/high"), QString("40 42"));
     }
 
     void texts_data()

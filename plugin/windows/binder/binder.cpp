@@ -261,9 +261,11 @@ Binder::Range Binder::rangeOf(int row) const
 // Where another range holds than the widget was dressed with.
 void Binder::dressRanged(int row)
 {
+    if (!adapters_[row])
+        return;
     const Range now = rangeOf(row);
     const auto known = ranges_.find(row);
-    if (!adapters_[row] || (known != ranges_.end() && known->second == now))
+    if (known != ranges_.end() && known->second == now)
         return;
     ranges_[row] = now;
     adapters_[row]->dress();
@@ -278,8 +280,10 @@ void Binder::show()
             showRow(static_cast<int>(row));
         for (const auto& handles : handles_)
             handles->show();
-        for (const TableLayout::RangeWhen& rule : layout_.ranges)
-            dressRanged(rule.row);
+        for (std::size_t row = 0; row < adapters_.size(); ++row) {
+            if (!layout_.rows[row].ranges.empty())
+                dressRanged(static_cast<int>(row));
+        }
         for (const TableLayout::SoleList& list : layout_.soleLists)
             dressList(list);
     }
