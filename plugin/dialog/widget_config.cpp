@@ -18,6 +18,7 @@ VLK_Widget_Config::VLK_Widget_Config(QWidget* parent)
 {
     ui_->setupUi(this);
     setWindowModality(Qt::ApplicationModal);
+    vlk::keepLeastSize(this, {1024, 600});
     lightWindow_ = new VLK_Widget_Config_Light(this);
     fullWindow_ = new VLK_Widget_Config_Full(this);
     ui_->gridLayout_Light->addWidget(lightWindow_);
@@ -52,8 +53,6 @@ void VLK_Widget_Config::open(const vlk::OpenRequest& request, char* ussdBuffer)
     if (!isFull && !path.isEmpty())
         lightWindow_->loadFile(path);
     ui_->stackedWidget->setCurrentWidget(isFull ? ui_->page_Full : ui_->page_Light);
-    // The least size counts in pixels of the screen, so that the window has room where everything is larger.
-    setMinimumSize(QSize(1024, 600) / devicePixelRatioF());
     vlk::fitToScreen(this);
     show();
     if (isFull)

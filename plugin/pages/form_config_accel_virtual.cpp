@@ -112,7 +112,9 @@ void VLK_Form_Config_Accel_Virtual::setTabOrder()
         next(sensor.level);
         next(sensor.presentText);
     }
-    next(ui_->checkBox_Auto);
+    for (QWidget* request : QWidgetList{ui_->checkBox_Auto, ui_->spinBox_Auto_TimeOut, ui_->pushButton_Quest,
+                                        ui_->pushButton_Reset})
+        next(request);
 }
 
 void VLK_Form_Config_Accel_Virtual::retranslate()

@@ -186,7 +186,7 @@ void BleSensorForm::makeWidgets()
             number->setObjectName(name);
             label->setBuddy(number);
             grid->addWidget(label, row, column);
-            grid->addWidget(number, row, column + 1);
+            grid->addWidget(number, row, column + 1, Qt::AlignLeft);
             column += 2;
         }
     };

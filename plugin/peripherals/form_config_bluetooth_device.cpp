@@ -5,6 +5,7 @@
 #include "windows/aligned_columns.h"
 #include "windows/binder/page_settings.h"
 #include "windows/numbered_widget.h"
+#include "windows/tab_order.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -51,7 +52,7 @@ VLK_Form_Config_Bluetooth_Device::Sensor VLK_Form_Config_Bluetooth_Device::makeS
     // Long names of types do not widen the page.
     auto* types = static_cast<QComboBox*>(fields[0].second);
     types->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    types->setMinimumContentsLength(12);
+    types->setMinimumContentsLength(22);
     int place = 0;
     for (const auto& [label, widget] : fields) {
         label->setBuddy(widget);
@@ -82,7 +83,11 @@ VLK_Form_Config_Bluetooth_Device::Sensor VLK_Form_Config_Bluetooth_Device::makeS
 void VLK_Form_Config_Bluetooth_Device::tellChanges()
 {
     for (const Sensor& sensor : sensors_) {
+        const int before = sensor.type->type();
         sensor.type->tellChanges();
+        // A form is made when its type is chosen for the first time, later than all else on the page.
+        if (sensor.type->type() != before)
+            vlk::tabThrough(sensor.name, sensor.type);
         sensor.more->setHidden(sensor.type->type() == 0);
     }
 }

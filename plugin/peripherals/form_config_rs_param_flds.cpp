@@ -4,6 +4,7 @@
 #include "settings/rs_settings.h"
 #include "settings/value_text.h"
 #include "windows/binder/page_settings.h"
+#include "windows/column_head.h"
 #include "windows/numbered_widget.h"
 
 #include <QCheckBox>
@@ -78,13 +79,8 @@ VLK_Form_Config_RS_Param_Flds_RS485::VLK_Form_Config_RS_Param_Flds_RS485(bool si
 void VLK_Form_Config_RS_Param_Flds_RS485::addHead()
 {
     const auto head = [this](int column) {
-        auto* label = new QLabel;
+        QLabel* label = vlk::columnHead();
         label->setWordWrap(true);
-        // Seven columns are to fit beside each other.
-        QFont small = label->font();
-        small.setPointSizeF(small.pointSizeF() * 0.85);
-        label->setFont(small);
-        label->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
         table_->addWidget(label, 0, column);
         heads_ << label;
     };

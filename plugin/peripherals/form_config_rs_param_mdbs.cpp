@@ -1,6 +1,7 @@
 #include "peripherals/form_config_rs_param_mdbs.h"
 
 #include "peripherals/params/element_types.h"
+#include "windows/column_head.h"
 #include "windows/eliding_combobox.h"
 
 #include <QCheckBox>
@@ -99,8 +100,8 @@ VLK_Form_Config_RS_Param_Mdbs::makeTable(const char* name, const QList<const cha
     layout->addLayout(table.grid);
     layout->addStretch();
     for (int column = 0; column < captions.size(); ++column) {
-        table.labels << new QLabel;
-        table.grid->addWidget(table.labels.last(), 0, column, Qt::AlignBottom);
+        table.labels << vlk::columnHead();
+        table.grid->addWidget(table.labels.last(), 0, column);
     }
     return table;
 }

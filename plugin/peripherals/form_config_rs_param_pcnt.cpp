@@ -7,6 +7,7 @@
 #include "settings/rs_settings.h"
 #include "windows/binder/page_settings.h"
 #include "windows/numbered_widget.h"
+#include "windows/tab_order.h"
 
 #include <QCheckBox>
 
@@ -43,6 +44,9 @@ VLK_Form_Config_RS_Param_Pcnt::VLK_Form_Config_RS_Param_Pcnt(QWidget* parent)
                        vlk::kRsCounters);
     addLines<QComboBox>(ui_->gridLayout_ACode_Door, "checkBox_ACode_Door_%1", "comboBox_ACode_Door_%1",
                         vlk::kRsDoors);
+    // As read.
+    vlk::tabThrough(ui_->comboBox_Type, ui_->groupBox_Passager);
+    vlk::tabThrough(ui_->spinBox_ACode_Passager_1, ui_->groupBox_ACode_Door);
     connect(ui_->comboBox_Type, &QComboBox::currentTextChanged, this,
             &VLK_Form_Config_RS_Param_Pcnt::slot_currentIndexChanged_Type);
 }

@@ -10,6 +10,7 @@ VLK_Form_Config_RS_Param_NotUse::VLK_Form_Config_RS_Param_NotUse(QWidget* parent
     : VLK_Form_Config_RS_Param(parent), label_(new QLabel(this))
 {
     auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(label_);
     whole->addStretch(1);
 }

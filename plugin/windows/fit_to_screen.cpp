@@ -29,6 +29,40 @@ QRect roomFor(const QWidget* window)
     return window->screen()->availableGeometry().marginsRemoved(frameOf(window));
 }
 
+// The frame is known some time after the window has been shown, at the latest when it has become the active
+// one.
+class LeastSize : public QObject
+{
+public:
+    LeastSize(QWidget* window, const QSize& pixels) : QObject(window), pixels_(pixels) {}
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const bool isShown = event->type() == QEvent::Show && !event->spontaneous();
+        if (isShown || event->type() == QEvent::Move || event->type() == QEvent::WindowActivate)
+            apply(static_cast<QWidget*>(watched));
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    void apply(QWidget* window) const
+    {
+        const QScreen* screen = window->screen();
+        QSize least = pixels_ / window->devicePixelRatioF();
+        if (QRect(QPoint(), screen->size()).contains(QRect(QPoint(), least))) {
+            const QMargins frame =
+                window->windowHandle() ? window->windowHandle()->frameMargins() : QMargins();
+            least = least.boundedTo(screen->availableGeometry().marginsRemoved(frame).size());
+        }
+        if (least == window->minimumSize())
+            return;
+        window->setMinimumSize(least);
+        fitToScreen(window);
+    }
+
+    QSize pixels_;
+};
+
 class Keeper : public QObject
 {
 public:
@@ -64,6 +98,11 @@ void fitToScreen(QWidget* window)
 void keepOnScreen(QWidget* window)
 {
     window->installEventFilter(new Keeper(window));
+}
+
+void keepLeastSize(QWidget* window, const QSize& pixels)
+{
+    window->installEventFilter(new LeastSize(window, pixels));
 }
 
 ContentArea::ContentArea(QWidget* parent) : QScrollArea(parent)

@@ -17,6 +17,10 @@ void fitToScreen(QWidget* window);
 // Does so whenever the window is shown.
 void keepOnScreen(QWidget* window);
 
+// The least size of a window, in pixels of its screen, so that there is room where everything is larger. On a
+// screen that is just as large as that, the window's frame and the bars of the desktop go off it.
+void keepLeastSize(QWidget* window, const QSize& pixels);
+
 // Scrolls what is in it. The window never gets smaller than the contents need, unless the screen is: then
 // there are scroll bars. Where the contents come to need more, the window grows as far as the screen has
 // room.

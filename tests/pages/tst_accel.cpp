@@ -40,6 +40,13 @@ private Q_SLOTS:
         device().initialize(&record);
     }
 
+    void tabGoesAsRead()
+    {
+        QCOMPARE(
+            fieldsBehind("lineEdit_CurLevel_SH4", 4),
+            QStringList({"checkBox_Auto", "spinBox_Auto_TimeOut", "pushButton_Quest", "pushButton_Reset"}));
+    }
+
     void levelsBySlots()
     {
         for (int sensor = 1; sensor <= 4; ++sensor) {

@@ -136,6 +136,15 @@ private Q_SLOTS:
 
     // A tracker that has both families: the one with doors brings its values to the record and takes them
     // away.
+    void tabGoesThroughTheCounters()
+    {
+        VLK_Form_Config_RS_Param_Pcnt form;
+        WindowParts parts;
+        parts.window = &form;
+        QCOMPARE(parts.fieldsBehind("comboBox_Type", 1), QStringList("checkBox_Passager_1"));
+        QCOMPARE(parts.fieldsBehind("spinBox_ACode_Passager_1", 1), QStringList("checkBox_ACode_Door_1"));
+    }
+
     void counterFamilies()
     {
         vlk::PageSettings settings(vlk::kRsSettingsOfAllTypes, nullptr);

@@ -53,6 +53,15 @@ private Q_SLOTS:
         told_.clear();
     }
 
+    void tabGoesThroughTheSensorsForm()
+    {
+        for (const char* types : {"comboBox_Type_Sens_2", "comboBox_Type_Sens_1"})
+            get<QComboBox>(types)->setCurrentIndex(1);
+        QCOMPARE(fieldsBehind("lineEdit_Name_Sens_1", 5),
+                 QStringList({"comboBox_FS_Type", "comboBox_FS_Idx", "spinBox_FS_Thld", "checkBox_FS_ThldOff",
+                              "comboBox_Type_Sens_2"}));
+    }
+
     void searching_data()
     {
         DataTable<QString, int, QString, QString>({"events", "devices", "message", "enabled"})

@@ -20,6 +20,18 @@ public:
     QString text(const QString& name) const { return child(name)->text(); }
     bool isOn(const char* name) const { return child<QWidget>(name)->isEnabled(); }
     void press(const char* name) const { child<QAbstractButton>(name)->click(); }
+    // The next fields that the Tab key comes to, enabled or not.
+    QStringList fieldsBehind(const QString& name, int count) const
+    {
+        QStringList names;
+        QWidget* widget = child<QWidget>(name);
+        while (names.size() < count) {
+            widget = widget->nextInFocusChain();
+            if ((widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy())
+                names << widget->objectName();
+        }
+        return names;
+    }
 
     QWidget* window = nullptr;
 };

@@ -57,6 +57,31 @@ private Q_SLOTS:
         QTEST(area->horizontalScrollBar()->maximum() > 0, "scrollsAcross");
         QTEST(area->verticalScrollBar()->maximum() > 0, "scrollsDown");
     }
+
+    void leastSizes_data()
+    {
+        DataTable<double, bool>({"share", "losesFrame"})
+            .row("screen with room to spare", 0.5, false)
+            .row("screen just as large", 1, true)
+            .row("screen too small", 2, false);
+    }
+    // Twice: a window that comes to the same place again is not moved.
+    void leastSizes()
+    {
+        QFETCH(double, share);
+        QFETCH(bool, losesFrame);
+        QDialog dialog;
+        const QSize least = dialog.screen()->size() * share;
+        vlk::keepLeastSize(&dialog, least * dialog.devicePixelRatioF());
+        for (int time = 0; time < 2; ++time) {
+            dialog.show();
+            QVERIFY(QTest::qWaitForWindowActive(&dialog));
+            const QSize frame = dialog.frameGeometry().size() - dialog.size();
+            QVERIFY(!frame.isEmpty());
+            QCOMPARE(dialog.minimumSize(), losesFrame ? least - frame : least);
+            dialog.hide();
+        }
+    }
 };
 
 QTEST_MAIN(FitToScreenTest)
