@@ -2,9 +2,9 @@
 
 #include "dataset/param_choice_dialog.h"
 #include "peripherals/modbus_row.h"
-#include "peripherals/params/param_catalogues.h"
-#include "peripherals/params/user_params.h"
 #include "settings/configuration.h"
+#include "settings/params/param_catalogues.h"
+#include "settings/params/user_params.h"
 #include "windows/aligned_columns.h"
 #include "windows/wnd_config_full.h"
 

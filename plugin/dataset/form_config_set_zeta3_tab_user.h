@@ -8,7 +8,7 @@
 
 #include "dataset/form_config_set_zeta3_tab.h"
 #include "dataset/user_param_group.h"
-#include "peripherals/params/user_param.h"
+#include "settings/params/user_param.h"
 
 namespace vlk {
 struct ParamChoice;

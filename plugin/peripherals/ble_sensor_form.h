@@ -8,8 +8,8 @@
 // While it is active, the form of its sensor's type, it tells which user parameters the sensor supplies and
 // which number it takes. Its widgets are made when it is shown for the first time.
 
-#include "peripherals/params/user_param_type.h"
 #include "settings/bluetooth_sensor_types.h"
+#include "settings/params/user_param_type.h"
 
 #include <QWidget>
 

@@ -2,7 +2,7 @@
 
 #include "peripherals/ble_sensor_forms.h"
 #include "peripherals/form_config_ble_devtype_uni.h"
-#include "peripherals/params/user_params.h"
+#include "settings/params/user_params.h"
 #include "windows/binder/page_settings.h"
 
 #include <QStackedWidget>

@@ -5,7 +5,7 @@
 // what the forms tell, with the sensor's number in: user parameters by code, name and size, and numbers taken
 // and given back.
 
-#include "peripherals/params/user_param_type.h"
+#include "settings/params/user_param_type.h"
 
 #include <QWidget>
 

@@ -1,6 +1,6 @@
 #include "peripherals/form_config_rs_param_mdbs.h"
 
-#include "peripherals/params/element_types.h"
+#include "settings/params/element_types.h"
 #include "windows/column_head.h"
 #include "windows/eliding_combobox.h"
 

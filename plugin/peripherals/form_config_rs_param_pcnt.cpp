@@ -2,8 +2,8 @@
 
 #include "ui_VLK_Designer_Form_Config_RS_Param_Pcnt.h"
 
-#include "peripherals/params/user_param_can.h"
-#include "peripherals/params/user_params.h"
+#include "settings/params/user_param_can.h"
+#include "settings/params/user_params.h"
 #include "settings/rs_settings.h"
 #include "windows/binder/page_settings.h"
 #include "windows/numbered_widget.h"

@@ -2,7 +2,7 @@
 
 #include "peripherals/modbus_cells.h"
 #include "peripherals/modbus_register.h"
-#include "peripherals/params/element_types.h"
+#include "settings/params/element_types.h"
 #include "windows/eliding_combobox.h"
 #include "windows/numbered_widget.h"
 #include "windows/zone_colors.h"

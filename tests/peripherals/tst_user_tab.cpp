@@ -5,7 +5,7 @@
 #include "dataset/form_config_set_zeta3.h"
 #include "dataset/form_config_set_zeta3_tab_user.h"
 #include "dialog/widget_config_full.h"
-#include "peripherals/params/user_params.h"
+#include "settings/params/user_params.h"
 #include "support/data_table.h"
 #include "support/device.h"
 #include "support/setting_samples.h"

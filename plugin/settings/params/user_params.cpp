@@ -1,8 +1,8 @@
-#include "peripherals/params/user_params.h"
+#include "settings/params/user_params.h"
 
-#include "peripherals/params/element_types.h"
-#include "peripherals/params/param_catalogues.h"
-#include "peripherals/params/user_param.h"
+#include "settings/params/element_types.h"
+#include "settings/params/param_catalogues.h"
+#include "settings/params/user_param.h"
 
 #include <QCoreApplication>
 

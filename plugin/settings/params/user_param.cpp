@@ -1,4 +1,4 @@
-#include "peripherals/params/user_param.h"
+#include "settings/params/user_param.h"
 
 #include <QStringList>
 

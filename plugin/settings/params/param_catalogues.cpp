@@ -1,4 +1,4 @@
-#include "peripherals/params/param_catalogues.h"
+#include "settings/params/param_catalogues.h"
 
 namespace vlk {
 

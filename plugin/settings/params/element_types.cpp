@@ -1,4 +1,4 @@
-#include "peripherals/params/element_types.h"
+#include "settings/params/element_types.h"
 
 #include <QCoreApplication>
 
