@@ -154,7 +154,7 @@ void Configuration::keepDistances(const Part& part, int row, std::vector<int>* c
         const int highIndex = part.first + rule.second;
         double first = shownNumber(low, values_[lowIndex]);
         double second = shownNumber(high, values_[highIndex]);
-        const double gap = rule.gap + (rule.gapFrom >= 0 ? values_[part.first + rule.gapFrom].toDouble() : 0);
+        const double gap = gapOf(part, rule);
         const double tiny = 1e-9;
         if (row == rule.first) {
             first = std::min(first, high.most - gap);
