@@ -1,8 +1,8 @@
 #pragma once
 
-// What stands in the bytes of the simulated tracker's records.
+// What stands in the bytes of the simulated tracker's records, and configurations that ask for fields.
 
-#include "dataset/catalogue/field_catalogue.h"
+#include "dataset/catalogue/field_mask.h"
 
 #include <QByteArray>
 
@@ -30,4 +30,10 @@ T value(const QByteArray& record, vlk::ElementIndex index)
 inline quint32 numberOf(const QByteArray& record)
 {
     return at<quint32>(record, quint8(record.at(0)) == 177 ? 5 : head);
+}
+
+inline QByteArray dataSet(const QByteArray& format, const std::string& mask)
+{
+    return "<DEVICE model=\"R-7106\"><PROTOCOL><ZETA format=\"" + format + "\" mask=\"" +
+           QByteArray::fromStdString(mask) + "\"/></PROTOCOL></DEVICE>";
 }

@@ -165,6 +165,43 @@ private Q_SLOTS:
         QTEST(onAfter, "onAfter");
     }
 
+    // The supply rises a second after the start and falls 100 seconds later. -1: that is not told.
+    void engineIsToldAfterItsDelay_data()
+    {
+        DataTable<int, int, int>({"delay", "startedAfter", "stoppedAfter"})
+            .row("at once", 0, 1, 101)
+            .row("delayed", 40, 41, 101)
+            .row("too short for the delay", 100, -1, -1);
+    }
+    void engineIsToldAfterItsDelay()
+    {
+        QFETCH(int, delay);
+        tracker::WorkingSettings settings;
+        settings.supply = {.line = 3, .engineDelay = delay};
+        tracker::Moment moment;
+        moment.settings = std::make_shared<tracker::WorkingSettings>(settings);
+        int startedAfter = -1;
+        int stoppedAfter = -1;
+        for (int second = 0; second < 300; ++second) {
+            moment.time = 1780000000 + second;
+            moment.activity =
+                second >= 1 && second < 101 ? tracker::Activity::Idling : tracker::Activity::Parked;
+            std::vector<tracker::EventCode> events;
+            moment.sensed = sense(tracker::Vehicle(moment, {}), settings, events);
+            for (const tracker::EventCode event : events) {
+                if (event == tracker::EventCode::EngineStarted)
+                    startedAfter = second;
+                if (event == tracker::EventCode::EngineStopped)
+                    stoppedAfter = second;
+            }
+            // A record's state is the one that the events told.
+            const bool running = int(tracker::Vehicle(moment, {}).module1()) & 0x80;
+            QCOMPARE(running, startedAfter >= 0 && stoppedAfter < 0);
+        }
+        QTEST(startedAfter, "startedAfter");
+        QTEST(stoppedAfter, "stoppedAfter");
+    }
+
     void restoredShockSensorSwitchesTheOutput()
     {
         tracker::WorkingSettings settings;

@@ -14,16 +14,6 @@
 using vlk::element;
 using vlk::Message;
 
-namespace {
-
-QByteArray dataSet(const QByteArray& format, const std::string& mask)
-{
-    return "<DEVICE model=\"R-7106\"><PROTOCOL><ZETA format=\"" + format + "\" mask=\"" +
-           QByteArray::fromStdString(mask) + "\"/></PROTOCOL></DEVICE>";
-}
-
-} // namespace
-
 class TestTrackerRecords : public QObject
 {
     Q_OBJECT
@@ -49,7 +39,7 @@ private Q_SLOTS:
         for (int round = 0; round < 8; ++round) {
             std::string text(255, '0');
             for (char& c : text)
-                c = random.bounded(4) < round % 4 + 1 ? '1' : '0';
+                c = random.bounded(5) < round % 3 + 1 ? '1' : '0';
             QVERIFY(bench.write(dataSet(format, text)).accepted);
             const QByteArray record = bench.recordByNumber(70000);
             const auto asked = vlk::FieldMask::fromText(text.substr(0, fields));

@@ -47,6 +47,7 @@ public:
     {
         const std::size_t first = events_.size();
         lines();
+        engine();
         supply();
         zones();
         shocks();
@@ -106,16 +107,28 @@ private:
         }
     }
 
-    void supply()
+    // Whether what began at `since`, 0 for not yet, has lasted for the delay.
+    bool lasted(qint64 since, int delay) const { return since && vehicle_.m.time - since >= delay; }
+
+    void engine()
     {
         const SupplyRules& rules = settings_.supply;
-        const double measured = vehicle_.line(2);
-        now_.engine = vehicle_.engineRuns(settings_);
+        if (!vehicle_.engineRuns(settings_))
+            now_.engineSince = 0;
+        else if (now_.engineSince == 0)
+            now_.engineSince = vehicle_.m.time;
+        now_.engine = lasted(now_.engineSince, rules.used() ? rules.engineDelay : 0);
         if (rules.used() && now_.engine != before_.engine) {
             if (!rules.engineSilent)
                 events_.push_back(now_.engine ? EventCode::EngineStarted : EventCode::EngineStopped);
             switchOutput(now_.engine ? engineStartAction : engineStopAction);
         }
+    }
+
+    void supply()
+    {
+        const SupplyRules& rules = settings_.supply;
+        const double measured = vehicle_.line(2);
         if (!rules.used()) {
             now_.supplyLow = false;
             now_.supplyLowSince = 0;
@@ -125,7 +138,7 @@ private:
             now_.supplyLowSince = 0;
         else if (measured <= rules.alarm && now_.supplyLowSince == 0)
             now_.supplyLowSince = vehicle_.m.time;
-        now_.supplyLow = now_.supplyLowSince && vehicle_.m.time - now_.supplyLowSince >= rules.delay;
+        now_.supplyLow = lasted(now_.supplyLowSince, rules.delay);
         if (now_.supplyLow != before_.supplyLow)
             events_.push_back(now_.supplyLow ? EventCode::SupplyLow : EventCode::SupplyRestored);
     }

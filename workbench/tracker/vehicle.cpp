@@ -43,7 +43,7 @@ double Vehicle::state() const
 double Vehicle::module1() const
 {
     return bit(0, true) + bit(1, m.time >= links.usbSince) + bit(2, true) + bit(5, true) + bit(6, true) +
-           bit(7, m.settings && engineRuns(*m.settings));
+           bit(7, m.sensed.engine);
 }
 
 double Vehicle::module2() const

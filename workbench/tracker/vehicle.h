@@ -43,7 +43,8 @@ public:
     int triggeredLines(const WorkingSettings& settings) const;
     double inputs() const;
     double outputs(int group) const;
-    // By the supply when the tracker has a sensor on it, by the ignition line otherwise.
+    // By the supply when the tracker has a sensor on it, by the ignition line otherwise; without the delay
+    // after which the tracker believes it.
     bool engineRuns(const WorkingSettings& settings) const;
     double frequency(int index) const;
 

@@ -81,6 +81,7 @@ constexpr Row rows[] = {
     {"SYSTEM/ENGSENS/useCustom", 0, [](S& s, int) -> int& { return s.supply.ownEngineLevel; }},
     {"SYSTEM/ENGSENS/voltageLvl", 13200, [](S& s, int) -> int& { return s.supply.engineLevel; }},
     {"SYSTEM/ENGSENS/noEvent", 0, [](S& s, int) -> int& { return s.supply.engineSilent; }},
+    {"SYSTEM/ENGSENS/delay", 0, [](S& s, int) -> int& { return s.supply.engineDelay; }},
 
     {"RS485/OPTIONS/owner1", 0, [](S& s, int) -> int& { return s.serial.owner; }, Kind::Owner},
     {"RS485/FS%1/use", 0, [](S& s, int i) -> int& { return s.serial.sensorUsed[i]; }, Kind::Number, 16},

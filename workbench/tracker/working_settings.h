@@ -64,6 +64,7 @@ struct SupplyRules
     int delay = 0;
     int ownEngineLevel = 0;
     int engineLevel = 0;
+    int engineDelay = 0;  // of a start; a stop is told at once
     int engineSilent = 0; // starts and stops switch the output, but make no records
 
     bool used() const { return line == 3; }
