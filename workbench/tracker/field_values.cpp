@@ -32,7 +32,7 @@ double ofSensor(const Vehicle& v, int row, Say say)
 }
 double fuelOf(const Vehicle& v, int row)
 {
-    return ofSensor(v, row, [&](int sensor) { return v.fuelSensor(sensor); });
+    return ofSensor(v, row, [&](int sensor) { return v.recordedFuel(sensor); });
 }
 double fuelTemperatureOf(const Vehicle& v, int row)
 {
@@ -40,7 +40,7 @@ double fuelTemperatureOf(const Vehicle& v, int row)
 }
 double fuelFrequencyOf(const Vehicle& v, int row)
 {
-    return ofSensor(v, row, [&](int sensor) { return 800 + v.fuelSensor(sensor) / 4; });
+    return ofSensor(v, row, [&](int sensor) { return 800 + v.recordedFuel(sensor) / 4; });
 }
 
 // What the vehicle has nothing to say about.

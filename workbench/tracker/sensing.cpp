@@ -49,6 +49,7 @@ public:
         lines();
         engine();
         supply();
+        fuel();
         zones();
         shocks();
         for (std::size_t i = first; i < events_.size(); ++i)
@@ -141,6 +142,28 @@ private:
         now_.supplyLow = lasted(now_.supplyLowSince, rules.delay);
         if (now_.supplyLow != before_.supplyLow)
             events_.push_back(now_.supplyLow ? EventCode::SupplyLow : EventCode::SupplyRestored);
+    }
+
+    void fuel()
+    {
+        const FuelRules& rules = settings_.fuel;
+        const bool measured = settings_.supply.used();
+        if (vehicle_.supply() <= rules.low)
+            now_.fuelSupplied = false;
+        else if (vehicle_.supply() >= rules.high)
+            now_.fuelSupplied = true;
+        const bool conditions = rules.withIgnition || (measured && (rules.withEngine || rules.withSupply));
+        const bool met =
+            (!rules.withIgnition || settings_.hasIgnition(now_.lines)) &&
+            (!measured || ((!rules.withEngine || now_.engine) && (!rules.withSupply || now_.fuelSupplied)));
+        if (!met)
+            now_.fuelSince = 0;
+        else if (now_.fuelSince == 0)
+            now_.fuelSince = vehicle_.m.time;
+        if (!conditions || lasted(now_.fuelSince, rules.delay))
+            now_.fuelHeld = -1;
+        else if (now_.fuelHeld < 0)
+            now_.fuelHeld = vehicle_.m.at.fuel;
     }
 
     void zones()

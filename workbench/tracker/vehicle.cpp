@@ -56,10 +56,13 @@ double Vehicle::connection() const
     constexpr int gprs = 2;
     constexpr int lte = 4;
     constexpr int firstServer = 3;
+    constexpr int talk = 60; // seconds
+    const bool connected = links.connectsEvery <= 0 || m.time % links.connectsEvery < talk;
     double servers = 0;
     for (std::size_t i = 0; i < links.servers.size(); ++i)
-        servers += bit(firstServer + static_cast<int>(i), links.servers[i]);
-    return (drift(1, 0, 1, halfHour) < 0.25 ? gprs : lte) + servers + bit(6, true) + bit(7, true);
+        servers += bit(firstServer + static_cast<int>(i), links.servers[i] && connected);
+    return (drift(1, 0, 1, halfHour) < 0.25 ? gprs : lte) + servers + bit(6, links.service) +
+           bit(7, links.bluetooth);
 }
 
 double Vehicle::gsmLevel() const
@@ -71,18 +74,23 @@ double Vehicle::gsmLevel() const
 
 double Vehicle::navigationState() const
 {
-    return bit(0, true) + bit(1, m.fix) + m.satellites * 4;
+    return bit(0, true) + bit(1, m.fix) + m.satellites.all() * 4;
 }
 
 double Vehicle::satellites(int system) const
 {
-    const int glonass = m.satellites * 2 / 5;
-    return system == 0 ? glonass : system == 1 ? m.satellites - glonass : 0;
+    constexpr int glonass = 0;
+    constexpr int gps = 1;
+    constexpr int beidou = 4;
+    return system == glonass  ? m.satellites.glonass
+           : system == gps    ? m.satellites.gps
+           : system == beidou ? m.satellites.beidou
+                              : 0;
 }
 
 double Vehicle::dilution(int kind) const
 {
-    return (kind == 0 ? 0.6 : 1.0) * (24 - m.satellites);
+    return (kind == 0 ? 10 : 17) * m.satellites.hdop();
 }
 
 // Cells are some two kilometres wide, and three stations are in sight.
@@ -154,11 +162,7 @@ bool Vehicle::engineRuns(const WorkingSettings& settings) const
     constexpr int usualLevel = 13200;
     if (settings.supply.used())
         return supply() >= (settings.supply.ownEngineLevel ? settings.supply.engineLevel : usualLevel);
-    const int triggered = triggeredLines(settings);
-    for (int i = 0; i < static_cast<int>(settings.lines.size()); ++i)
-        if (triggered >> i & 1 && settings.lines[i].ignition)
-            return true;
-    return false;
+    return settings.hasIgnition(triggeredLines(settings));
 }
 
 bool Vehicle::doorOpen() const
@@ -197,6 +201,16 @@ double Vehicle::fuelSensor(int sensor) const
     const double litres = fuelLeft(index);
     const double swing = driving() && litres > 0 ? drift(30 + sensor, -25, 25, 4) : 0;
     return std::clamp(sensorValue(tank, fuelHeight(tank, litres)) + swing, 0.0, sensorValue(tank, 1));
+}
+
+double Vehicle::recordedFuel(int sensor) const
+{
+    if (m.sensed.fuelHeld < 0)
+        return fuelSensor(sensor);
+    Moment before = m;
+    before.at.fuel = m.sensed.fuelHeld;
+    before.activity = Activity::Parked;
+    return Vehicle(before, c, links).fuelSensor(sensor);
 }
 
 bool Vehicle::isOnLine(LineOwner device) const

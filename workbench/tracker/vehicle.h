@@ -51,6 +51,8 @@ public:
     // What is in a tank into which nobody has poured, in litres.
     double fuelLeft(std::size_t tank) const;
     double fuelSensor(int sensor) const; // D1 to D6, 0 to 4095
+    // The same, or the last one that counted.
+    double recordedFuel(int sensor) const;
     // The sensor of the vehicle, 0 to 5, that answers to the address of a row of the settings; -1 where none
     // does. The sensors have the addresses 1 to 6.
     int sensorOnLine(int row) const;

@@ -1,9 +1,9 @@
 #pragma once
 
-// What of its configuration the tracker measures and records by: track points, input lines, supply sensor,
-// temperature zones, accelerometer levels, the output line and the devices on the
-// serial line. Missing keys have the values that the tracker
-// itself takes for them. Voltages are millivolts, times seconds, ways metres.
+// What of its configuration the tracker measures and records by: track points, coordinates, input lines,
+// supply and fuel sensors, temperature zones, accelerometer levels, the output line and the devices on the
+// serial line. Missing keys have the values that the tracker itself takes for them. Voltages are millivolts,
+// times seconds, ways metres.
 
 #include <QSettings>
 
@@ -38,6 +38,26 @@ struct TrackRules
     double turn(double speed) const;
 };
 
+// As the file has them; a 2 is none of them.
+enum class AtStops { Nothing = 0, Average = 1, Fix = 3 };
+
+struct NavigationRules
+{
+    // Coordinates are thrown away, and those of stops put in order.
+    int filtered = 0;
+    int leastSatellites = 0;
+    int mostHdop = 0;          // hundredths
+    int mostSpeed = 0;         // km/h
+    int mostGain = 0;          // km/h within a second
+    int mostShift = 0;         // metres within two
+    int rejectedAfterJump = 0; // coordinates, one a second
+    int atStops = 0;           // AtStops, while one of the two that count here says that the vehicle stands
+    int standsWithoutIgnition = 0;
+    int standsWithoutMovement = 0;
+    std::array<int, 5> systems{}; // GPS, GLONASS, and BeiDou last
+    int elevation = 0;            // degrees above the horizon, from which on satellites count
+};
+
 // In the order of the codes in lineUses.
 enum class LineUse { None, ClosedMinus, OpenMinus, ClosedPlus, OpenPlus, Analogue };
 
@@ -68,6 +88,18 @@ struct SupplyRules
     int engineSilent = 0; // starts and stops switch the output, but make no records
 
     bool used() const { return line == 3; }
+};
+
+// Readings of the fuel level sensors on the serial line count while all of these hold; otherwise a record has
+// the last one that counted.
+struct FuelRules
+{
+    int withIgnition = 0;
+    int withEngine = 0;
+    int withSupply = 0;
+    int low = 0; // mV: from here on the supply does not do, from `high` on it does again
+    int high = 0;
+    int delay = 0; // of the first reading
 };
 
 struct TemperatureZone
@@ -106,12 +138,17 @@ struct SerialLineRules
 struct WorkingSettings
 {
     TrackRules track;
+    NavigationRules navigation;
     std::array<LineRules, 3> lines;
     SupplyRules supply;
+    FuelRules fuel;
     std::array<TemperatureZone, 4> zones;
     std::array<int, 4> shockLevels{}; // SH1 to SH3 hundredths of a percent, SH4 of a degree
     OutputRules output;
     SerialLineRules serial;
+
+    // Whether the ignition line is among these lines; bit n is IN n + 1.
+    bool hasIgnition(int triggered) const;
 
     static WorkingSettings of(const ConfigurationValues& values);
     // The same in the current group of a settings file.
