@@ -292,6 +292,19 @@ private Q_SLOTS:
                            "<SRV3 addr=\"gate.example.com\"/></TRANS></DEVICE>")
                     .accepted);
         QCOMPARE(servers(), 4);
+        // The maker's service and Bluetooth, by their settings.
+        const auto links = [&] { return value<quint8>(bench.currentRecord(), element("StateCnct")) >> 6; };
+        QCOMPARE(links(), 3);
+        QVERIFY(bench
+                    .write("<DEVICE model=\"R-7106\"><TRANS><SRV1 addr=\"gate.example.com\"/><QSP use=\"0\"/>"
+                           "<RULES cnctType=\"0\" cnctTimer=\"600\"/></TRANS>"
+                           "<BLUETOOTH><GLOBAL use=\"0\"/></BLUETOOTH></DEVICE>")
+                    .accepted);
+        QCOMPARE(links(), 0);
+        int connected = 0;
+        for (int second = 0; second < 1800; second += 30, bench.now += 30)
+            connected += servers();
+        QCOMPARE(connected, 2 * 1800 / 600);
     }
 
     void packetsOfKeysAndTags()

@@ -160,10 +160,9 @@ private:
             now_.fuelSince = 0;
         else if (now_.fuelSince == 0)
             now_.fuelSince = vehicle_.m.time;
-        if (!conditions || lasted(now_.fuelSince, rules.delay))
-            now_.fuelHeld = -1;
-        else if (now_.fuelHeld < 0)
-            now_.fuelHeld = vehicle_.m.at.fuel;
+        now_.fuelCounts = !conditions || lasted(now_.fuelSince, rules.delay);
+        if (now_.fuelCounts || now_.fuelRead < 0)
+            now_.fuelRead = vehicle_.m.at.fuel;
     }
 
     void zones()

@@ -26,7 +26,8 @@ struct SensorStates
     // Of what the readings of fuel level sensors wait for, and whether the supply does for them.
     qint64 fuelSince = 0;
     bool fuelSupplied = true;
-    double fuelHeld = -1;   // litres in the tanks at the last reading that counted; -1 while they count
+    bool fuelCounts = true;
+    double fuelRead = -1;   // litres in the tanks at the last reading that counted; -1 before the first one
     int analogue = -1;      // mV at the last event of IN3, -1 before the first measurement
     bool output = false;    // O1 switched on by an event
     qint64 outputSince = 0; // later than any time while it waits for the vehicle to stand

@@ -205,10 +205,10 @@ double Vehicle::fuelSensor(int sensor) const
 
 double Vehicle::recordedFuel(int sensor) const
 {
-    if (m.sensed.fuelHeld < 0)
+    if (m.sensed.fuelCounts)
         return fuelSensor(sensor);
     Moment before = m;
-    before.at.fuel = m.sensed.fuelHeld;
+    before.at.fuel = m.sensed.fuelRead;
     before.activity = Activity::Parked;
     return Vehicle(before, c, links).fuelSensor(sensor);
 }
