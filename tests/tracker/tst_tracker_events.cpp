@@ -28,6 +28,8 @@ QStringList traits(const QByteArray& record, const QByteArray& before)
     add("fast", state & 2 && value<float>(record, element("Speed")) > 60);
     for (const char* system : {"NaviInfoGlonass", "NaviInfoGPS", "NaviInfoBeidou"})
         add(system, value<quint8>(record, *vlk::findElement(system)) > 0);
+    const auto fuel = [](const QByteArray& r) { return int(value<quint16>(r, element("LevelRS485_1"))); };
+    add("sloshed", !before.isEmpty() && std::abs(fuel(record) - fuel(before)) > 100);
     const auto distance = [&] {
         const auto delta = [&](vlk::ElementIndex index) {
             return (value<qint32>(record, index) - value<qint32>(before, index)) / 600000.0 * 111195;
@@ -70,7 +72,7 @@ private Q_SLOTS:
         };
         DataTable<QByteArrayList, QString>({"changes", "codes"})
             .row("factory's", {},
-                 "10:3-20 22:3-20 26:0 34:0 39:0 lost:1-40 fast:500+ "
+                 "10:3-20 22:3-20 26:0 34:0 39:0 lost:1-40 fast:500+ sloshed:0-3 "
                  "few:1-40 NaviInfoGlonass:3000+ NaviInfoBeidou:0 stood:100+ wandered:0")
             .row(
                 "no points, every event",
@@ -109,7 +111,8 @@ private Q_SLOTS:
                  {"maxAccel=\"25\"=>maxAccel=\"3\"", "maxFilterCnt=\"5\"=>maxFilterCnt=\"60\""},
                  "lost:600-1500")
             .row("jumps of place", {"maxDist=\"100\"=>maxDist=\"20\""}, "lost:1000-2000")
-            .row("no filter", {"use=\"1\" minSats=\"4\"=>use=\"0\" minSats=\"90\""},
+            .row("no filter of a sensor", {"filterMode=\"1\"=>filterMode=\"0\""}, "26:10+ 39:2+ sloshed:200+")
+            .row("no filter of coordinates", {"use=\"1\" minSats=\"4\"=>use=\"0\" minSats=\"90\""},
                  "lost:1-40 wandered:400+")
             .row("GPS, not averaged at stops",
                  {gnss + "10000\"", "<COORDAVER mode=\"1\"=><COORDAVER mode=\"0\""},

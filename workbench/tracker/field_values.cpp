@@ -32,7 +32,10 @@ double ofSensor(const Vehicle& v, int row, Say say)
 }
 double fuelOf(const Vehicle& v, int row)
 {
-    return ofSensor(v, row, [&](int sensor) { return v.recordedFuel(sensor); });
+    return ofSensor(v, row, [&](int sensor) {
+        const bool filtered = v.m.settings->serial.sensorFiltered[row];
+        return v.recordedFuel(sensor) + (filtered ? 0 : v.slosh(sensor));
+    });
 }
 double fuelTemperatureOf(const Vehicle& v, int row)
 {

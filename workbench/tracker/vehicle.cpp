@@ -133,9 +133,23 @@ double Vehicle::line(int index) const
     default:
         if (m.settings && m.settings->supply.used())
             return supply();
-        // The tank at this line is full until somebody drains it.
-        return c.fuelHeights[0] ? sensorValue(tanks[0], *c.fuelHeights[0]) : drift(25, 4850, 5150, 40);
+        return tankAtLine();
     }
+}
+
+// Full until somebody drains it; the less is averaged, the more it swings.
+double Vehicle::tankAtLine() const
+{
+    if (c.fuelHeights[0])
+        return sensorValue(tanks[0], *c.fuelHeights[0]);
+    constexpr int longest = 30;
+    constexpr double full = 5000;
+    constexpr double averaged = 150;
+    constexpr double raw = 700;
+    const LineRules* rules = m.settings ? &m.settings->lines[2] : nullptr;
+    const int window = !rules ? longest : rules->filtered ? std::clamp(rules->window, 1, longest) : 1;
+    const double swing = raw + (averaged - raw) * (window - 1) / (longest - 1);
+    return drift(25, full - swing, full + swing, 40);
 }
 
 int Vehicle::triggeredLines(const WorkingSettings& settings) const
@@ -213,6 +227,12 @@ double Vehicle::recordedFuel(int sensor) const
     return Vehicle(before, c, links).fuelSensor(sensor);
 }
 
+double Vehicle::slosh(int sensor) const
+{
+    constexpr double wave = 200;
+    return driving() && m.sensed.fuelCounts ? drift(420 + sensor, -wave, wave, 3) : 0;
+}
+
 bool Vehicle::isOnLine(LineOwner device) const
 {
     return m.settings && m.settings->serial.is(device);
@@ -252,6 +272,14 @@ double Vehicle::flow() const
 // Temperatures: the cooled body front and back, the cabin, the outside.
 
 double Vehicle::temperature(int sensor) const
+{
+    constexpr double noise = 1.5;
+    const bool filtered = !m.settings || sensor >= static_cast<int>(m.settings->zones.size()) ||
+                          m.settings->zones[sensor].filtered;
+    return steadyTemperature(sensor) + (filtered ? 0 : drift(410 + sensor, -noise, noise, 30));
+}
+
+double Vehicle::steadyTemperature(int sensor) const
 {
     switch (sensor) {
     case 0:

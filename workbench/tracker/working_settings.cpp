@@ -90,6 +90,10 @@ constexpr Row rows[] = {
      3},
     {"SENSORS/IN%1/IN%1%2/trhldOff", 1, [](S& s, int i) -> int& { return s.lines[i].stillOnly; },
      Kind::Number, 3},
+    {"SENSORS/IN%1/IN%1%2/filterMode", 1, [](S& s, int i) -> int& { return s.lines[i].filtered; },
+     Kind::Number, 3},
+    {"SENSORS/IN%1/IN%1%2/filterLen", 30, [](S& s, int i) -> int& { return s.lines[i].window; }, Kind::Number,
+     3},
 
     {"SYSTEM/PWRSENS/line", 0, [](S& s, int) -> int& { return s.supply.line; }},
     {"SYSTEM/PWRSENS/alarmLvl", 10500, [](S& s, int) -> int& { return s.supply.alarm; }},
@@ -113,11 +117,15 @@ constexpr Row rows[] = {
     {"RS485/FS%1/use", 0, [](S& s, int i) -> int& { return s.serial.sensorUsed[i]; }, Kind::Number, 16},
     {"RS485/FS%1/address", 0, [](S& s, int i) -> int& { return s.serial.sensorAddress[i]; }, Kind::Number,
      16},
+    {"RS485/FS%1/filterMode", 1, [](S& s, int i) -> int& { return s.serial.sensorFiltered[i]; }, Kind::Number,
+     16},
     {"RS485/PCNT/id%1", 0, [](S& s, int i) -> int& { return s.serial.counterAddress[i]; }, Kind::Number, 7},
 
     {"TEMPSENS/SENS%1/min", -5000, [](S& s, int i) -> int& { return s.zones[i].low; }, Kind::Hundredths, 4},
     {"TEMPSENS/SENS%1/max", 12000, [](S& s, int i) -> int& { return s.zones[i].high; }, Kind::Hundredths, 4},
     {"TEMPSENS/SENS%1/hyst", 500, [](S& s, int i) -> int& { return s.zones[i].hysteresis; }, Kind::Hundredths,
+     4},
+    {"TEMPSENS/SENS%1/filterMode", 1, [](S& s, int i) -> int& { return s.zones[i].filtered; }, Kind::Number,
      4},
 
     {"ACCEL/SENSORS/sh1", 5000, [](S& s, int) -> int& { return s.shockLevels[0]; }, Kind::Hundredths},

@@ -70,6 +70,8 @@ struct LineRules
     int high = 0;
     int change = 0; // of an analogue input that is an event
     int stillOnly = 0;
+    int filtered = 0;
+    int window = 0; // readings that an analogue input averages, 1 to 30
 
     bool is(LineUse wanted) const { return use == static_cast<int>(wanted); }
     // At this voltage, after it was or was not triggered: between the levels nothing changes.
@@ -104,9 +106,10 @@ struct FuelRules
 
 struct TemperatureZone
 {
-    int low = 0; // hundredths of a degree, as all of these
+    int low = 0; // hundredths of a degree, as the next two
     int high = 0;
     int hysteresis = 0;
+    int filtered = 0;
 };
 
 struct OutputRules
@@ -130,6 +133,7 @@ struct SerialLineRules
     int owner = 0; // LineOwner
     std::array<int, 16> sensorUsed{};
     std::array<int, 16> sensorAddress{};
+    std::array<int, 16> sensorFiltered{};
     std::array<int, 7> counterAddress{}; // 0 for none
 
     bool is(LineOwner wanted) const { return owner == static_cast<int>(wanted); }
