@@ -187,8 +187,6 @@ private Q_SLOTS:
             };
             QCOMPARE(bench.ask(Message::RequestLines, &list).first,
                      QString::asprintf("LINES: 21:%X,22:%X,23:%X", line(0), line(1), line(2)).toLatin1());
-            QCOMPARE(bench.ask(Message::RequestAnalog).first.mid(vlk::analogRecordLine1, 6),
-                     record.mid(head + vlk::kElements[element("StateU_Ain1")].offset, 6));
             const auto supply = value<quint16>(record, element("Power"));
             QCOMPARE(at<quint16>(bench.ask(Message::RequestSupply).first, 14), supply);
             QCOMPARE(value<quint16>(record, element("StateU_Ain3")), supply);
