@@ -90,7 +90,8 @@ double Vehicle::satellites(int system) const
 
 double Vehicle::dilution(int kind) const
 {
-    return (kind == 0 ? 10 : 17) * m.satellites.hdop();
+    constexpr double ofPosition = 1.7; // times the horizontal one
+    return 10 * m.satellites.hdop() * (kind == 0 ? 1 : ofPosition);
 }
 
 // Cells are some two kilometres wide, and three stations are in sight.
