@@ -1708,6 +1708,7 @@
     <message id="wb_do_disk"><translation>Make room on the disk and try again.</translation></message>
     <message id="wb_do_file"><translation>Choose another file, or read the configuration from the tracker.</translation></message>
     <message id="wb_do_save"><translation>Make room on the disk or choose another folder, and save again.</translation></message>
+    <message id="wb_do_save_elsewhere"><translation>Choose another folder or another name, and save again.</translation></message>
     <message id="wb_do_telemetry_file"><translation>Choose another file, or save the period from the tracker again.</translation></message>
     <message id="wb_drop_hint"><translation>Files can be dropped on this window.</translation></message>
     <message id="wb_edited"><translation>Editing:</translation></message>

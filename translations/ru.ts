@@ -1708,6 +1708,7 @@
     <message id="wb_do_disk"><translation>Освободите место на диске и повторите.</translation></message>
     <message id="wb_do_file"><translation>Выберите другой файл или прочитайте конфигурацию из трекера.</translation></message>
     <message id="wb_do_save"><translation>Освободите место на диске или выберите другую папку и сохраните ещё раз.</translation></message>
+    <message id="wb_do_save_elsewhere"><translation>Выберите другую папку или другое имя и сохраните ещё раз.</translation></message>
     <message id="wb_do_telemetry_file"><translation>Выберите другой файл или сохраните период из трекера ещё раз.</translation></message>
     <message id="wb_drop_hint"><translation>Файл можно перетащить в это окно.</translation></message>
     <message id="wb_edited"><translation>Открыта:</translation></message>
