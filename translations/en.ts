@@ -1297,7 +1297,7 @@
     <message id="tmiw_175"><translation>Not available while records are requested automatically.</translation></message>
     <message id="tmiw_176"><translation>Not available while a period is being saved.</translation></message>
     <message id="tmiw_177"><translation>Capabilities</translation></message>
-    <message id="tmiw_178"><translation>The title of the window has this number too: it tells what the tracker can do, one bit for each capability, in hexadecimal. Bit 3: a fourth output.</translation></message>
+    <message id="tmiw_178"><translation>The title of the window has this number too: it tells what the tracker can do, one bit for each capability, in hexadecimal. Bit 3 (8): a fourth output. Bit 11 (800): search for Bluetooth sensors.</translation></message>
     <message id="tmiw_179"><translation>XML telemetry</translation></message>
     <message id="tmiw_180"><translation>CSV table</translation></message>
     <message id="tmiw_181"><translation>Binary TMI file</translation></message>
@@ -1696,6 +1696,7 @@
     <message id="wb_description"><translation>Workbench for the R-7106 tracker: configuration, telemetry, message log, simulated tracker.</translation></message>
     <message id="wb_detach"><translation>Detach the trac&amp;ker</translation></message>
     <message id="wb_device"><translation>Tracker</translation></message>
+    <message id="wb_detached_telemetry"><translation>The tracker was detached, so its telemetry window was closed. Attach the tracker and open telemetry again.</translation></message>
     <message id="wb_device_attached"><translation>Tracker attached</translation></message>
     <message id="wb_device_capabilities"><translation>Capabilities:</translation></message>
     <message id="wb_device_detached"><translation>No tracker attached</translation></message>

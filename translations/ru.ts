@@ -1297,7 +1297,7 @@
     <message id="tmiw_175"><translation>Недоступно, пока включён автоматический запрос.</translation></message>
     <message id="tmiw_176"><translation>Недоступно, пока сохраняется период.</translation></message>
     <message id="tmiw_177"><translation>Возможности</translation></message>
-    <message id="tmiw_178"><translation>Это число стоит и в заголовке окна: так трекер сообщает, что он умеет. На каждую возможность один бит, запись шестнадцатеричная. Бит 3: четвёртый выход.</translation></message>
+    <message id="tmiw_178"><translation>Это число стоит и в заголовке окна: так трекер сообщает, что он умеет. На каждую возможность один бит, запись шестнадцатеричная. Бит 3 (8): четвёртый выход. Бит 11 (800): поиск датчиков Bluetooth.</translation></message>
     <message id="tmiw_179"><translation>Телеметрия XML</translation></message>
     <message id="tmiw_180"><translation>Таблица CSV</translation></message>
     <message id="tmiw_181"><translation>Двоичный файл TMI</translation></message>
@@ -1696,6 +1696,7 @@
     <message id="wb_description"><translation>Рабочее место настройщика трекера R-7106: конфигурация, телеметрия, журнал сообщений, имитатор трекера.</translation></message>
     <message id="wb_detach"><translation>Откл&amp;ючить трекер</translation></message>
     <message id="wb_device"><translation>Трекер</translation></message>
+    <message id="wb_detached_telemetry"><translation>Трекер отключён, поэтому окно его телеметрии закрыто. Подключите трекер и откройте телеметрию снова.</translation></message>
     <message id="wb_device_attached"><translation>Трекер подключён</translation></message>
     <message id="wb_device_capabilities"><translation>Возможности:</translation></message>
     <message id="wb_device_detached"><translation>Трекер не подключён</translation></message>
