@@ -1707,6 +1707,7 @@
     <message id="wb_device_text2"><translation>Number:</translation></message>
     <message id="wb_do_attach"><translation>Attach the tracker and try again.</translation></message>
     <message id="wb_do_cable"><translation>Check the cable and try again.</translation></message>
+    <message id="wb_do_data_set"><translation>Open the configuration in the full window, uncheck fields on the tab &quot;Data set&quot; and write it again.</translation></message>
     <message id="wb_do_disk"><translation>Make room on the disk and try again.</translation></message>
     <message id="wb_do_file"><translation>Choose another file, or read the configuration from the tracker.</translation></message>
     <message id="wb_do_save"><translation>Make room on the disk or choose another folder, and save again.</translation></message>
@@ -1862,6 +1863,7 @@
     <message id="wb_refused_malformed"><translation>The file is damaged, markup error:</translation></message>
     <message id="wb_refused_memory"><translation>Cannot write to the tracker's memory:</translation></message>
     <message id="wb_refused_model"><translation>Configuration of another model:</translation></message>
+    <message id="wb_refused_record"><translation>The data set makes records larger than the 512&#160;B that the tracker can keep, bytes:</translation></message>
     <message id="wb_refused_root"><translation>Not a configuration file, root element:</translation></message>
     <message id="wb_refused_silence"><translation>The tracker does not answer.</translation></message>
     <message id="wb_refused_unplugged"><translation>The tracker was unplugged during the write and keeps what it had.</translation></message>

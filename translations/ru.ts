@@ -1707,6 +1707,7 @@
     <message id="wb_device_text2"><translation>Номер:</translation></message>
     <message id="wb_do_attach"><translation>Подключите трекер и повторите.</translation></message>
     <message id="wb_do_cable"><translation>Проверьте кабель и повторите.</translation></message>
+    <message id="wb_do_data_set"><translation>Откройте конфигурацию в полном окне, снимите лишние отметки на вкладке «Набор данных» и запишите её снова.</translation></message>
     <message id="wb_do_disk"><translation>Освободите место на диске и повторите.</translation></message>
     <message id="wb_do_file"><translation>Выберите другой файл или прочитайте конфигурацию из трекера.</translation></message>
     <message id="wb_do_save"><translation>Освободите место на диске или выберите другую папку и сохраните ещё раз.</translation></message>
@@ -1862,6 +1863,7 @@
     <message id="wb_refused_malformed"><translation>Файл повреждён, ошибка разметки:</translation></message>
     <message id="wb_refused_memory"><translation>Не удалось записать в память трекера:</translation></message>
     <message id="wb_refused_model"><translation>Конфигурация другой модели:</translation></message>
+    <message id="wb_refused_record"><translation>Запись с этим набором данных больше 512&#160;байт, которые трекер может хранить, байт:</translation></message>
     <message id="wb_refused_root"><translation>Файл не является конфигурацией, корневой элемент:</translation></message>
     <message id="wb_refused_silence"><translation>Трекер не отвечает.</translation></message>
     <message id="wb_refused_unplugged"><translation>Трекер отключился во время записи, в нём осталось прежнее.</translation></message>
