@@ -3,7 +3,7 @@
 // One tab of the data-set page: what the page calls on each of its tabs. Every operation of the base does
 // nothing; a tab overrides those for which it has widgets.
 //
-// The mask is a text of 255 characters "0" and "1" (dataset/catalogue/field_mask.h). The fill operations
+// The mask is a text of 255 characters "0" and "1" (catalogue/field_mask.h). The fill operations
 // replace the tab's own positions in it and leave the others; the load operations set the tab's widgets from
 // it. There is one of each for the fields of protocol 1.0, of 2.0 and of 3.0; the page goes through all tabs
 // with the first before it takes the next.

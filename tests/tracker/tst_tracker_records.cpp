@@ -5,7 +5,7 @@
 #include "support/data_table.h"
 #include "tracker/vehicle.h"
 
-#include "dataset/catalogue/field_mask.h"
+#include "catalogue/field_mask.h"
 
 #include <QtTest>
 
