@@ -16,10 +16,6 @@ namespace vlk {
 bool holds(const TmiPage_Zeta3& page, ElementIndex element);
 bool holds(const TmiPage_Zeta3& page, ItemIndex item);
 
-// What stands in the place of a value that the record lacks, and what the tool tip says of it.
-inline constexpr QChar kAbsentMark(0x2013);
-QString absentTip();
-
 // "56° 30.0000' N", with the digits that the text of the item has.
 QString positionText(const TmiPage_Zeta3& page, ItemIndex item);
 
