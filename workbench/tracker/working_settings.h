@@ -1,9 +1,9 @@
 #pragma once
 
 // What of its configuration the tracker measures and records by: track points, input lines, supply sensor,
-// temperature zones, accelerometer levels, the output line and the devices on the
-// serial line. Missing keys have the values that the tracker
-// itself takes for them. Voltages are millivolts, times seconds, ways metres.
+// temperature zones, accelerometer levels, the output line and the devices on the serial line. Missing keys
+// have the values that the tracker itself takes for them. Voltages are millivolts, times seconds, ways
+// metres.
 
 #include <QSettings>
 

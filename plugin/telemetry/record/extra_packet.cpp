@@ -53,7 +53,7 @@ ExtraPacket ExtraPacket::fromKeyAnswer(std::span<const std::uint8_t> packet)
     ExtraPacket extra;
     extra.takeHead(packet, kHVerAt);
     const auto areaSize = static_cast<std::uint16_t>(extra.countedBytes() - extra.stSize() - 2);
-    // The area is the last bytes of the answer; of an answer cut short, what there is where it should be.
+    // The area is the last bytes of the answer. An answer cut short gives those bytes of it that came.
     const std::ptrdiff_t end =
         std::max<std::ptrdiff_t>(std::ssize(packet), kUncountedBytes + extra.countedBytes());
     extra.takeArea(packet, end, areaSize);

@@ -6,10 +6,8 @@
 #include "telemetry/text/item.h"
 
 namespace vlk {
-class ValueLabel;
-} // namespace vlk
 
-namespace vlk {
+class ValueLabel;
 
 // Whether a record or a packet holds a value at all. The text of one that it lacks is empty, but so may be
 // that of a value that says nothing.
