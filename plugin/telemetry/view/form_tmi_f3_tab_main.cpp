@@ -2,6 +2,7 @@
 
 #include "telemetry/text/item_text.h"
 #include "telemetry/text/signal_level.h"
+#include "telemetry/view/absent_value.h"
 #include "telemetry/view/item_display.h"
 #include "telemetry/view/position_rows.h"
 
