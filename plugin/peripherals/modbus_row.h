@@ -17,9 +17,6 @@ namespace vlk {
 
 class ElidingComboBox;
 
-// Of the user parameters that Modbus gives.
-inline constexpr char kModbusCode[] = "MB";
-
 // The texts of a row's lists, in the language of the moment.
 struct ModbusLists
 {

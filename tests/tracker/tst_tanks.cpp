@@ -1,7 +1,7 @@
 // The tanks of the simulated vehicle: shapes, and what pouring does to the live values and the records.
 
 #include "bench_tracker.h"
-#include "dataset/catalogue/field_catalogue.h"
+#include "catalogue/field_catalogue.h"
 #include "tracker/tank.h"
 
 #include <QtTest>

@@ -5,7 +5,7 @@
 #include "record_values.h"
 #include "support/data_table.h"
 
-#include "dataset/catalogue/field_mask.h"
+#include "catalogue/field_mask.h"
 
 #include <QtTest>
 

@@ -206,7 +206,7 @@ QString keptName(const Row& row, int index)
 
 double TrackRules::turn(double speed) const
 {
-    // The same sideways step off the road, be it driven fast or slowly.
+    // The way to the side within a second is the same at any speed.
     constexpr double least = 5;
     constexpr double most = 30;
     constexpr double degreesTimesSpeed = 300;
