@@ -111,7 +111,9 @@ private Q_SLOTS:
                  {"maxAccel=\"25\"=>maxAccel=\"3\"", "maxFilterCnt=\"5\"=>maxFilterCnt=\"60\""},
                  "lost:600-1500")
             .row("jumps of place", {"maxDist=\"100\"=>maxDist=\"20\""}, "lost:1000-2000")
-            .row("no filter of a sensor", {"filterMode=\"1\"=>filterMode=\"0\""}, "26:10+ 39:2+ sloshed:200+")
+            .row("no filter of a sensor",
+                 {"filterMode=\"1\"=>filterMode=\"0\"", "trhldOff=\"1\"=>trhldOff=\"0\""},
+                 "26:10+ 39:2+ sloshed:200+")
             .row("no filter of coordinates", {"use=\"1\" minSats=\"4\"=>use=\"0\" minSats=\"90\""},
                  "lost:1-40 wandered:400+")
             .row("GPS, not averaged at stops",

@@ -54,8 +54,7 @@ constexpr Edit kEdits[] = {
     {"spinBox_Hyst_2", "3", "4", "TEMPSENS/SENS2/hyst", Temperature},
     {"lineEdit_Name_In2", "Rear door", "Side door", "SENSORS/IN2/name", LinesIn},
     {"comboBox_NormState_In2", "NS-", "NB-", "SENSORS/IN2/normState", LinesIn},
-    {"checkBox_UI_Filter", "0", "1", "SENSORS/IN3/IN3AIN/filterMode", LinesIn, -1,
-     "SENSORS/IN3/IN3AIN/filterL"},
+    {"spinBox_UI_Kalman", "4", "6", "SENSORS/IN3/IN3AIN/filterLvl", LinesIn},
     {"doubleSpinBox_Level_SH1", "45.5", "55.5", "ACCEL/SENSORS/sh1", Accel},
     {"lineEdit_Name_O1", "Siren", "Buzzer", "OUTPUTS/LINE1/nickname", LinesOut},
     {"comboBox_UseAs_O1", "GP", "ZUM", "OUTPUTS/LINE1/mode", LinesOut, -1, "OUTPUTS/LINE1/onDelay"},
@@ -208,7 +207,6 @@ void checkShown(const Notebook& book)
 void saveReadBack(Tour& tour, const Notebook& book)
 {
     const QString path = tour.folder().absoluteFilePath(QStringLiteral("read-back.xml"));
-    QFile::remove(path);
     tour.whenModal<QFileDialog>([path](QFileDialog& dialog) { Tour::giveName(dialog, path); });
     Tour::press("pushButton_SaveToFile");
     QFile file(path);
