@@ -142,6 +142,7 @@ void tachograph(vlk::Tour& tour)
         }
     }
     const QString path = tour.folder().filePath(QStringLiteral("card.ddd"));
+    QFile::remove(path);
     tour.whenModal<QFileDialog>([path](QFileDialog& fileDialog) { vlk::Tour::giveName(fileDialog, path); });
     auto* told = vlk::Tour::find<QTextEdit>("textEdit_File");
     const QString before = told->toPlainText();
