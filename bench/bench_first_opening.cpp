@@ -1,6 +1,7 @@
 // The first opening of the configuration dialog, as a user meets it: nothing of it, nor of any dialog, was
-// made in the process before. Each opening has a process of this program of its own, which tells the seconds;
-// the baseline is the first opening of an empty dialog.
+// made in the process before: the time, and the memory on the heap while it is open. Each opening has a
+// process of this program of its own, which tells the number; the baseline is the first opening of an empty
+// dialog.
 
 #include "bench/first_opening.h"
 #include "bench/opened_dialogs.h"
@@ -9,36 +10,75 @@
 #include <QProcess>
 
 #include <cstdio>
+#include <malloc.h>
 
 namespace {
 
-const QString kOpenConfiguration = QStringLiteral("--open-configuration");
-const QString kOpenEmptyDialog = QStringLiteral("--open-empty-dialog");
-
-void openConfigurationOnce()
+double secondsOfConfiguration()
 {
-    VLK_Widget_Config dialog;
-    bench::openConfiguration(dialog);
+    auto open = [] {
+        VLK_Widget_Config dialog;
+        bench::openConfiguration(dialog);
+    };
+    return bench::secondsOf(open);
 }
 
-double secondsAlone(const QString& what)
+double secondsOfEmptyDialog()
+{
+    return bench::secondsOf(bench::openEmptyDialog);
+}
+
+double bytesOnHeap()
+{
+    const auto heap = mallinfo2();
+    return static_cast<double>(heap.uordblks + heap.hblkhd);
+}
+
+template <class Dialog>
+double bytesOf(void (*open)(Dialog&))
+{
+    const double before = bytesOnHeap();
+    Dialog dialog;
+    open(dialog);
+    return bytesOnHeap() - before;
+}
+
+// What a process of its own measures, by its argument.
+struct Measurement
+{
+    const char* argument;
+    double (*measure)();
+};
+constexpr Measurement kSecondsOfConfiguration{"--seconds-of-configuration", &secondsOfConfiguration};
+constexpr Measurement kSecondsOfEmptyDialog{"--seconds-of-empty-dialog", &secondsOfEmptyDialog};
+constexpr Measurement kBytesOfConfiguration{"--bytes-of-configuration",
+                                            [] { return bytesOf(&bench::openConfiguration); }};
+constexpr Measurement kBytesOfEmptyDialog{"--bytes-of-empty-dialog",
+                                          [] { return bytesOf(&bench::openEmpty); }};
+constexpr Measurement kMeasurements[] = {kSecondsOfConfiguration, kSecondsOfEmptyDialog,
+                                         kBytesOfConfiguration, kBytesOfEmptyDialog};
+
+double measuredAlone(const Measurement& what)
 {
     QProcess process;
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process.start(QCoreApplication::applicationFilePath(), {what});
+    process.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(what.argument)});
     bool isNumber = false;
-    const double seconds =
+    const double number =
         process.waitForFinished() ? process.readAllStandardOutput().trimmed().toDouble(&isNumber) : 0;
     if (!isNumber)
-        qFatal("%s told no time", qPrintable(what));
-    return seconds;
+        qFatal("%s told no number", what.argument);
+    return number;
 }
 
 void openConfigurationInAFreshProcess(benchmark::State& state)
 {
     bench::sideBySide(
-        state, "x empty dialog", [] { return secondsAlone(kOpenConfiguration); },
-        [] { return secondsAlone(kOpenEmptyDialog); });
+        state, "x empty dialog", [] { return measuredAlone(kSecondsOfConfiguration); },
+        [] { return measuredAlone(kSecondsOfEmptyDialog); });
+    const double bytes = measuredAlone(kBytesOfConfiguration);
+    state.counters["heap_MB"] = bytes / 1e6;
+    state.counters["heap x empty dialog"] = bytes / measuredAlone(kBytesOfEmptyDialog);
 }
 
 BENCHMARK(openConfigurationInAFreshProcess)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(10);
@@ -47,11 +87,11 @@ BENCHMARK(openConfigurationInAFreshProcess)->UseManualTime()->Unit(benchmark::kM
 
 bool bench::openedAlone()
 {
-    const QStringList arguments = QCoreApplication::arguments();
-    const bool isConfiguration = arguments.contains(kOpenConfiguration);
-    if (!isConfiguration && !arguments.contains(kOpenEmptyDialog))
-        return false;
-    auto* const open = isConfiguration ? &openConfigurationOnce : &openEmptyDialog;
-    std::printf("%.9f\n", secondsOf(*open));
-    return true;
+    for (const Measurement& what : kMeasurements) {
+        if (QCoreApplication::arguments().contains(QLatin1String(what.argument))) {
+            std::printf("%.9f\n", what.measure());
+            return true;
+        }
+    }
+    return false;
 }

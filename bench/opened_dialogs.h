@@ -33,12 +33,17 @@ inline void openConfiguration(VLK_Widget_Config& dialog)
     settle();
 }
 
-inline void openEmptyDialog()
+inline void openEmpty(QDialog& dialog)
 {
-    QDialog dialog;
     dialog.resize(1024, 600);
     dialog.show();
     settle();
+}
+
+inline void openEmptyDialog()
+{
+    QDialog dialog;
+    openEmpty(dialog);
 }
 
 } // namespace bench

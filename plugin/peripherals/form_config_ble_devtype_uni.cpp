@@ -157,6 +157,19 @@ QGroupBox* makeTable(const Table& table)
 
 } // namespace
 
+// Every change on the page is told of every row: their settings are looked up once.
+VLK_Form_Config_Ble_DevType_Uni::VLK_Form_Config_Ble_DevType_Uni(const vlk::BluetoothSensorType& type,
+                                                                 int sensor, vlk::PageSettings& settings,
+                                                                 QWidget* parent)
+    : BleSensorForm(type, sensor, settings, parent)
+{
+    for (int row = 1; row <= vlk::kUniversalValues; ++row) {
+        const QString path = QStringLiteral("U%1P%2/").arg(sensor).arg(row);
+        const auto setting = [&](const char* key) { return settings.indexOf(path + QLatin1String(key)); };
+        rows_[row - 1] = {setting("group"), setting("stor"), setting("idx"), setting("prm")};
+    }
+}
+
 void VLK_Form_Config_Ble_DevType_Uni::makeWidgets()
 {
     auto* layout = new QVBoxLayout(this);
@@ -203,14 +216,14 @@ void VLK_Form_Config_Ble_DevType_Uni::retranslate()
     }
 }
 
-QString VLK_Form_Config_Ble_DevType_Uni::rowValue(int row, const char* key) const
+const QString& VLK_Form_Config_Ble_DevType_Uni::valueOf(int setting) const
 {
-    return settings().value(QStringLiteral("U%1P%2/%3").arg(sensor()).arg(row).arg(QString::fromLatin1(key)));
+    return settings().configuration().value(setting);
 }
 
 QString VLK_Form_Config_Ble_DevType_Uni::indexOf(int row) const
 {
-    const QString index = rowValue(row, "idx");
+    const QString& index = valueOf(rows_[row - 1].index);
     return index == QLatin1String("0") ? QString() : index.rightJustified(2);
 }
 
@@ -249,7 +262,7 @@ void VLK_Form_Config_Ble_DevType_Uni::offer(int row, const QString& name)
     Told& told = told_[row - 1];
     withdraw(row);
     told.name = name;
-    told.element = rowValue(row, "prm");
+    told.element = element(row);
     Q_EMIT signal_Device_UserParam_Add_Uni(userParamType::universal, told.name, told.element);
 }
 
@@ -310,9 +323,9 @@ void VLK_Form_Config_Ble_DevType_Uni::slot_currentIndexChanged_Parameters_Sensor
 
 void VLK_Form_Config_Ble_DevType_Uni::slot_currentIndexChanged_Index(int row)
 {
-    const QString index = indexOf(row);
     const int kind = kindOf(target(row));
-    if (index.isEmpty() || !isUsed(row) || kind == 0)
+    const QString index = isUsed(row) && kind != 0 ? indexOf(row) : QString();
+    if (index.isEmpty())
         return;
     if (kind == kParameter) {
         const QString name = parameterName(row, index);
@@ -326,6 +339,6 @@ void VLK_Form_Config_Ble_DevType_Uni::slot_currentIndexChanged_Index(int row)
 void VLK_Form_Config_Ble_DevType_Uni::slot_currentIndexChanged_Parameters_Dimension(int row)
 {
     const Told& told = told_[row - 1];
-    if (isUsed(row) && target(row) == kParameter && rowValue(row, "prm") != told.element)
+    if (isUsed(row) && target(row) == kParameter && element(row) != told.element)
         offer(row, told.name.isEmpty() ? parameterName(row, indexOf(row)) : told.name);
 }

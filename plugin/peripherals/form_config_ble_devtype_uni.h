@@ -15,7 +15,8 @@ class VLK_Form_Config_Ble_DevType_Uni : public vlk::BleSensorForm
     Q_OBJECT
 
 public:
-    using BleSensorForm::BleSensorForm;
+    VLK_Form_Config_Ble_DevType_Uni(const vlk::BluetoothSensorType& type, int sensor,
+                                    vlk::PageSettings& settings, QWidget* parent = nullptr);
 
     // Kinds of numbers, with the one of targets that have none.
     static constexpr int kKinds = 7;
@@ -63,9 +64,19 @@ private:
         std::array<QString, kKinds> held; // the number that it holds, a kind
     };
 
-    QString rowValue(int row, const char* key) const;
-    bool isUsed(int row) const { return rowValue(row, "group") != QLatin1String("0"); }
-    int target(int row) const { return rowValue(row, "stor").toInt(); }
+    // The settings of a row that are told.
+    struct Row
+    {
+        int group;
+        int target;
+        int index;
+        int element;
+    };
+
+    const QString& valueOf(int setting) const;
+    bool isUsed(int row) const { return valueOf(rows_[row - 1].group) != QLatin1String("0"); }
+    int target(int row) const { return valueOf(rows_[row - 1].target).toInt(); }
+    const QString& element(int row) const { return valueOf(rows_[row - 1].element); }
     // " 7", empty for none.
     QString indexOf(int row) const;
     QString parameterName(int row, const QString& index) const;
@@ -73,5 +84,6 @@ private:
     void withdraw(int row);
     void hold(int row, int kind, const QString& index);
 
+    std::array<Row, vlk::kUniversalValues> rows_{};
     std::array<Told, vlk::kUniversalValues> told_{};
 };

@@ -158,7 +158,8 @@ Limits Configuration::ownLimits(const Part& part, int row) const
             limits = {rule.rule->least, rule.rule->most, rule.rule->offers};
     }
     // Each of two handles leaves the other one its room.
-    for (const TableLayout::Distance& rule : part.layout->distances) {
+    for (const int index : part.layout->rows[row].distances) {
+        const TableLayout::Distance& rule = part.layout->distances[index];
         if (rule.gapFrom < 0 && row == rule.first)
             limits.most = part.layout->rows[rule.second].setting->most - rule.gap;
         else if (rule.gapFrom < 0 && row == rule.second)

@@ -114,6 +114,7 @@ private:
     bool isWritten(const Part& part, const TableLayout::Group& group) const;
     Limits ownLimits(const Part& part, int row) const;
     bool counts(const Part& part, const TableLayout::Sole& sole) const;
+    bool takes(const Part& part, const TableLayout::Sole& other, const TableLayout::Sole& sole) const;
     QStringList takenFrom(const Part& part, const TableLayout::SoleList& list,
                           const TableLayout::Sole& sole) const;
     bool holds(const Part& part, const std::vector<TableLayout::Condition>& all) const;
@@ -124,9 +125,8 @@ private:
     void readPart(const Part& part, const CXmlSection& root, std::vector<ReadNote>* notes);
     void readGroups(const Part& part, const CXmlSection& section, int owner, std::vector<ReadNote>* notes);
     void writeGroups(const Part& part, CXmlSection& section, int owner) const;
-    // `isThere`: the file has the element.
-    void readRow(const Part& part, int row, const CXmlSection& element, bool isThere,
-                 std::vector<ReadNote>* notes);
+    // `element`: null where the file has none.
+    void readRow(const Part& part, int row, const CXmlSection* element, std::vector<ReadNote>* notes);
     void writePart(const Part& part, CXmlSection& root) const;
 
     void put(int index, const QString& value, std::vector<int>* changed);

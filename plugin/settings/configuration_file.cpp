@@ -22,19 +22,15 @@ void Configuration::read(const CXmlSection& root, const SettingsTable& table, st
 
 namespace {
 
-struct Element
+// Null where the file has no such element.
+CXmlSectionPtr elementOf(const CXmlSection& section, const QStringList& path)
 {
-    CXmlSectionPtr section;
-    bool isThere = true; // in the file
-};
-
-Element elementOf(const CXmlSection& section, const QStringList& path)
-{
-    Element element;
+    CXmlSectionPtr element;
     for (const QString& name : path) {
-        const CXmlSection& parent = element.section ? *element.section : section;
-        element.isThere = element.isThere && parent.find(name);
-        element.section = parent.child(name);
+        const CXmlSection& parent = element ? *element : section;
+        if (!parent.find(name))
+            return nullptr;
+        element = parent.child(name);
     }
     return element;
 }
@@ -133,22 +129,22 @@ void Configuration::readGroups(const Part& part, const CXmlSection& section, int
     const TableLayout& layout = *part.layout;
     std::vector<ReadNote> taken;
     std::vector<ReadNote>* const takes = notes ? &taken : nullptr;
-    std::vector<std::pair<int, Element>> late;
+    std::vector<std::pair<int, CXmlSectionPtr>> late;
     for (const TableLayout::Group& group : layout.groups) {
         if (!group.stored || !isOf(group, owner) || !holds(part, group.readable))
             continue;
-        const Element element = elementOf(section, group.path);
+        const CXmlSectionPtr element = elementOf(section, group.path);
         for (int row = group.firstRow; row < group.endRow; ++row) {
             if (layout.rows[row].setting->last)
                 late.emplace_back(row, elementOf(section, group.path));
             else
-                readRow(part, row, *element.section, element.isThere, takes);
+                readRow(part, row, element.get(), takes);
         }
-        if (notes && !group.kept)
-            noteStrangersIn(*element.section, layout, group, notes);
+        if (notes && element && !group.kept)
+            noteStrangersIn(*element, layout, group, notes);
     }
     for (const auto& [row, element] : late)
-        readRow(part, row, *element.section, element.isThere, takes);
+        readRow(part, row, element.get(), takes);
     derive(part);
     keepBounds(part, nullptr);
     if (!notes)
@@ -164,17 +160,17 @@ void Configuration::readGroups(const Part& part, const CXmlSection& section, int
     }
 }
 
-void Configuration::readRow(const Part& part, int row, const CXmlSection& element, bool isThere,
+void Configuration::readRow(const Part& part, int row, const CXmlSection* element,
                             std::vector<ReadNote>* notes)
 {
     const TableLayout::Row& place = part.layout->rows[row];
     const Setting& setting = *place.setting;
     if (!setting.stored || setting.kind == Kind::constant || !holds(part, place.present))
         return;
-    const QString* found = element.find(place.key);
+    const QString* found = element ? element->find(place.key) : nullptr;
     if (!found && setting.stays)
         return;
-    const bool isAbsent = !isThere && setting.unlessThere >= 0;
+    const bool isAbsent = !element && setting.unlessThere >= 0;
     const QString missing = found      ? QString()
                             : isAbsent ? QString::number(setting.unlessThere)
                                        : loadDefault(setting);

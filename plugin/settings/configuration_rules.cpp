@@ -114,15 +114,22 @@ bool Configuration::counts(const Part& part, const TableLayout::Sole& sole) cons
     return holds(part, sole.when) && holds(part, sole.also);
 }
 
+// Whether what `other` holds is gone from the list of `sole`.
+bool Configuration::takes(const Part& part, const TableLayout::Sole& other,
+                          const TableLayout::Sole& sole) const
+{
+    const bool apart =
+        other.holder == sole.holder ||
+        (sole.split >= 0 && values_[part.first + other.split] != values_[part.first + sole.split]);
+    return !apart && counts(part, other);
+}
+
 QStringList Configuration::takenFrom(const Part& part, const TableLayout::SoleList& list,
                                      const TableLayout::Sole& sole) const
 {
     QStringList taken;
     for (const TableLayout::Sole& other : list.soles) {
-        const bool apart =
-            other.holder == sole.holder ||
-            (sole.split >= 0 && values_[part.first + other.split] != values_[part.first + sole.split]);
-        if (!apart && counts(part, other))
+        if (takes(part, other, sole))
             taken << values_[part.first + other.row];
     }
     return taken;
@@ -134,10 +141,13 @@ void Configuration::keepSoles(const Part& part, const TableLayout::SoleList& lis
         const int index = part.first + sole.row;
         const QString value = values_[index];
         const bool holdsNothing = setting(index).none && value == QLatin1String(setting(index).none);
+        const auto isTakenBy = [&](const TableLayout::Sole& other) {
+            return values_[part.first + other.row] == value && takes(part, other, sole);
+        };
         if (counts(part, sole)) {
             if (holdsNothing)
                 put(index, firstOffered(setting(index), limits(index)), changed);
-        } else if (!holdsNothing && takenFrom(part, list, sole).contains(value)) {
+        } else if (!holdsNothing && std::any_of(list.soles.begin(), list.soles.end(), isTakenBy)) {
             put(index, nextOffered(setting(index), value, limits(index)), changed);
         }
     }
@@ -145,9 +155,8 @@ void Configuration::keepSoles(const Part& part, const TableLayout::SoleList& lis
 
 void Configuration::keepDistances(const Part& part, int row, std::vector<int>* changed)
 {
-    for (const TableLayout::Distance& rule : part.layout->distances) {
-        if (row != rule.first && row != rule.second && row != rule.gapFrom)
-            continue;
+    for (const int index : part.layout->rows[row].distances) {
+        const TableLayout::Distance& rule = part.layout->distances[index];
         const Setting& low = *part.layout->rows[rule.first].setting;
         const Setting& high = *part.layout->rows[rule.second].setting;
         const int lowIndex = part.first + rule.first;

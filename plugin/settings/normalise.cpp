@@ -21,7 +21,7 @@ bool isWholeNumber(const QString& text)
 
 double rounded(double number, int decimals)
 {
-    return QString::number(number, 'f', decimals).toDouble();
+    return number == std::trunc(number) ? number : QString::number(number, 'f', decimals).toDouble();
 }
 
 // Cut towards zero. A figure such as 2.01 lies below its decimal form in binary: without the small addition
@@ -45,33 +45,55 @@ Normalised noted(QString value, const QString& text, Change change)
     return {value, change};
 }
 
+// Most values are what the file holds; `why` finds the reason for the others.
+template <class Why>
+Normalised notedBy(QString value, const QString& text, Why why)
+{
+    if (value == text)
+        return {value, Change::none};
+    return {value, why()};
+}
+
 int wholeNumber(const Setting& setting, const QString& text)
 {
     return setting.hexadecimal ? text.toInt(nullptr, 16) : leadingInt(text);
 }
 
+bool isNumber(const Setting& setting, const QString& text)
+{
+    bool whole = false;
+    if (setting.kind == Kind::real) {
+        const double read = text.toDouble(&whole);
+        return whole && std::isfinite(read);
+    }
+    if (!setting.hexadecimal)
+        return isWholeNumber(text);
+    text.toInt(&whole, 16);
+    return whole;
+}
+
 Normalised number(const Setting& setting, const QString& text, const Limits& limits)
 {
     double shown = 0;
-    bool clean = false;
     if (setting.kind == Kind::real) {
         const double read = leadingDouble(text);
         shown = rounded(setting.singleRead ? static_cast<float>(read) : read, setting.decimals);
-        clean = std::isfinite(text.toDouble(&clean)) && clean;
     } else {
         const int read = wholeNumber(setting, text);
-        clean = isWholeNumber(text);
-        if (setting.hexadecimal)
-            text.toInt(&clean, 16);
         if (setting.zeroIsOff && (setting.negativeIsOn ? read == 0 : read <= 0))
-            return noted(QStringLiteral("0"), text, clean ? Change::outOfRange : Change::notANumber);
+            return notedBy(QStringLiteral("0"), text, [&] {
+                return isNumber(setting, text) ? Change::outOfRange : Change::notANumber;
+            });
         shown = setting.kind == Kind::scaled
                     ? rounded(static_cast<double>(read) / setting.factor, setting.decimals)
                     : read / setting.factor;
     }
     const double held = std::clamp(shown, limits.least, limits.most);
-    const Change why = !clean ? Change::notANumber : held != shown ? Change::outOfRange : Change::rounded;
-    return noted(fileNumber(setting, held), text, why);
+    return notedBy(fileNumber(setting, held), text, [&] {
+        return !isNumber(setting, text) ? Change::notANumber
+               : held != shown          ? Change::outOfRange
+                                        : Change::rounded;
+    });
 }
 
 bool fits(const char* pattern, const QString& text)
@@ -86,11 +108,9 @@ bool fits(const char* pattern, const QString& text)
 
 const Code* find(const Setting& setting, const QString& text)
 {
+    const QString wanted = setting.numeric ? QString::number(leadingInt(text)) : text;
     const auto is = [&](const Code& code) {
-        if (code.pattern)
-            return fits(code.pattern, text);
-        return setting.numeric ? QLatin1String(code.code) == QString::number(leadingInt(text))
-                               : QLatin1String(code.code) == text;
+        return code.pattern ? fits(code.pattern, text) : QLatin1String(code.code) == wanted;
     };
     const auto found = std::find_if(setting.codes.begin(), setting.codes.end(), is);
     if (found == setting.codes.end() || !found->means)
@@ -124,15 +144,23 @@ Normalised spread(const Setting& setting, const QString& text)
         rest %= part.seconds;
     }
     held = std::max(held, static_cast<qint64>(setting.least));
-    const Change why = !isWholeNumber(text)                                   ? Change::notANumber
-                       : std::abs(held - read) < setting.parts.back().seconds ? Change::rounded
-                                                                              : Change::outOfRange;
-    return noted(QString::number(held), text, why);
+    return notedBy(QString::number(held), text, [&] {
+        return !isWholeNumber(text)                                   ? Change::notANumber
+               : std::abs(held - read) < setting.parts.back().seconds ? Change::rounded
+                                                                      : Change::outOfRange;
+    });
 }
 
-bool isListed(const char* codes, const QString& code)
+bool isListed(std::string_view codes, std::string_view code)
 {
-    return QString::fromLatin1(codes).split(QLatin1Char('|')).contains(code);
+    for (;;) {
+        const std::size_t end = codes.find('|');
+        if (codes.substr(0, end) == code)
+            return true;
+        if (end == std::string_view::npos)
+            return false;
+        codes.remove_prefix(end + 1);
+    }
 }
 
 Normalised digitString(const Setting& setting, const QString& text, const char* offers)
@@ -143,8 +171,8 @@ Normalised digitString(const Setting& setting, const QString& text, const char* 
         const int digit = position.widget ? digitAt(text, i) : 0;
         // A box is checked by any digit; a list has an item for each digit, and no other one counts.
         const int known = position.top == 1 ? std::min(digit, 1) : digit > position.top ? 0 : digit;
-        const QString taken = QString::number(known);
-        held += offers && !isListed(offers, taken) ? QStringLiteral("0") : taken;
+        const char taken = static_cast<char>('0' + known);
+        held += QLatin1Char(offers && !isListed(offers, {&taken, 1}) ? '0' : taken);
     }
     return noted(held, text, Change::otherForm);
 }
@@ -157,16 +185,15 @@ Normalised bitNumber(const Setting& setting, const QString& text)
             known |= 1U << i;
     }
     const unsigned held = static_cast<unsigned>(leadingInt(text)) & known;
-    return noted(QString::number(held), text, isWholeNumber(text) ? Change::outOfRange : Change::notANumber);
+    return notedBy(QString::number(held), text,
+                   [&] { return isWholeNumber(text) ? Change::outOfRange : Change::notANumber; });
 }
 
 Normalised maskString(const Setting& setting, const QString& text, const QString& before)
 {
     QString read(setting.maxLength, QLatin1Char('0'));
-    for (int i = 0; i < setting.maxLength; ++i) {
-        if (digitAt(text, static_cast<std::size_t>(i)) != 0)
-            read[i] = QLatin1Char('1');
-    }
+    std::transform(text.begin(), text.begin() + std::min(text.size(), read.size()), read.begin(),
+                   [](QChar sign) { return QLatin1Char(sign.digitValue() > 0 ? '1' : '0'); });
     QString held = setting.fields.empty() ? read : QString(setting.maxLength, QLatin1Char('0'));
     for (const MaskField& field : setting.fields) {
         const QString part = maskPart(field, read);
@@ -230,7 +257,7 @@ bool offersCode(const Setting& setting, const Code& code, const char* offers)
 {
     if (!offers)
         offers = setting.offers;
-    return offers ? isListed(offers, QString::fromLatin1(code.code)) : code.offered && !code.means;
+    return offers ? isListed(offers, code.code) : code.offered && !code.means;
 }
 
 double shownNumber(const Setting& setting, const QString& value)
@@ -291,8 +318,8 @@ Normalised normalise(const Setting& setting, const QString& text, const QString&
     case Kind::flag: {
         const int read = leadingInt(text);
         const bool on = setting.on == 1 ? read != 0 : read == setting.on;
-        return noted(QString::number(on ? setting.on : 0), text,
-                     isWholeNumber(text) ? Change::otherForm : Change::notANumber);
+        return notedBy(QString::number(on ? setting.on : 0), text,
+                       [&] { return isWholeNumber(text) ? Change::otherForm : Change::notANumber; });
     }
     case Kind::integer:
     case Kind::real:
@@ -322,16 +349,16 @@ Normalised normalise(const Setting& setting, const QString& text, const QString&
 
 QString maskPart(const MaskField& field, const QString& mask)
 {
-    QString part;
-    for (std::size_t i = 0; i < field.count; ++i)
-        part += digitAt(mask, field.positions[i]) != 0 ? QLatin1Char('1') : QLatin1Char('0');
+    QString part(field.count, QLatin1Char('0'));
+    std::transform(field.positions.begin(), field.positions.begin() + field.count, part.begin(),
+                   [&](int position) { return QLatin1Char(digitAt(mask, position) != 0 ? '1' : '0'); });
     return part;
 }
 
 void setMaskPart(const MaskField& field, QString* mask, const QString& part)
 {
     for (std::size_t i = 0; i < field.count; ++i)
-        mask->replace(field.positions[i], 1, part[static_cast<int>(i)]);
+        (*mask)[field.positions[i]] = part[static_cast<int>(i)];
 }
 
 bool isMaskOn(const MaskField& field, const QString& part)

@@ -124,6 +124,11 @@ private:
         }
         for (std::size_t i = 0; i < layout_.pulls.size(); ++i)
             addTo(layout_.pulls[i].when.row, &TableLayout::Row::pulls, i);
+        for (std::size_t i = 0; i < layout_.distances.size(); ++i) {
+            const TableLayout::Distance& rule = layout_.distances[i];
+            for (const int row : {rule.first, rule.second, rule.gapFrom})
+                addTo(row, &TableLayout::Row::distances, i);
+        }
         for (const Sole& rule : table.soles)
             addSole(rule);
         for (const Presets& rule : table.presets) {

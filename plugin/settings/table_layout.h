@@ -37,6 +37,7 @@ struct TableLayout
         std::vector<int> ranges;    // rules that say what the row can be
         std::vector<int> startOver; // rules by which another row begins its list anew when this one changes
         std::vector<int> pulls;     // rules that the row's edits run
+        std::vector<int> distances; // in which the row is a value or the gap
     };
 
     struct Group

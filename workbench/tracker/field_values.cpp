@@ -32,7 +32,10 @@ double ofSensor(const Vehicle& v, int row, Say say)
 }
 double fuelOf(const Vehicle& v, int row)
 {
-    return ofSensor(v, row, [&](int sensor) { return v.fuelSensor(sensor); });
+    return ofSensor(v, row, [&](int sensor) {
+        const bool filtered = v.m.settings->serial.sensorFiltered[row];
+        return v.recordedFuel(sensor) + (filtered ? 0 : v.slosh(sensor));
+    });
 }
 double fuelTemperatureOf(const Vehicle& v, int row)
 {
@@ -40,7 +43,7 @@ double fuelTemperatureOf(const Vehicle& v, int row)
 }
 double fuelFrequencyOf(const Vehicle& v, int row)
 {
-    return ofSensor(v, row, [&](int sensor) { return 800 + v.fuelSensor(sensor) / 4; });
+    return ofSensor(v, row, [&](int sensor) { return 800 + v.recordedFuel(sensor) / 4; });
 }
 
 // What the vehicle has nothing to say about.

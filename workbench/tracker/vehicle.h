@@ -43,13 +43,18 @@ public:
     int triggeredLines(const WorkingSettings& settings) const;
     double inputs() const;
     double outputs(int group) const;
-    // By the supply when the tracker has a sensor on it, by the ignition line otherwise.
+    // By the supply when the tracker has a sensor on it, by the ignition line otherwise; without the delay
+    // after which the tracker believes it.
     bool engineRuns(const WorkingSettings& settings) const;
     double frequency(int index) const;
 
     // What is in a tank into which nobody has poured, in litres.
     double fuelLeft(std::size_t tank) const;
     double fuelSensor(int sensor) const; // D1 to D6, 0 to 4095
+    // The same, or the last one that counted.
+    double recordedFuel(int sensor) const;
+    // What a filter takes away from it.
+    double slosh(int sensor) const;
     // The sensor of the vehicle, 0 to 5, that answers to the address of a row of the settings; -1 where none
     // does. The sensors have the addresses 1 to 6.
     int sensorOnLine(int row) const;
@@ -60,7 +65,7 @@ public:
     double fuelPercent() const; // with the flag that says percent
     double flow() const;        // 0.1 litre an hour
 
-    double temperature(int sensor) const;     // degrees
+    double temperature(int sensor) const;     // degrees, -128 without a sensor
     double fineTemperature(int sensor) const; // 0.05 degree
     double humidity(int sensor) const;        // 0.5 percent
     double coolant() const;                   // degrees
@@ -92,6 +97,8 @@ private:
     double parkedSeconds() const;
     bool doorOpen() const;
     double hit() const; // percent
+    double tankAtLine() const;
+    double steadyTemperature(int sensor) const;
 };
 
 } // namespace tracker

@@ -62,6 +62,23 @@ constexpr Row rows[] = {
     {"TRACK/LIMPOINT/timer", 5, [](S& s, int) -> int& { return s.track.leastTime; }},
     {"TRACK/MOVESENS/stopTimer", 30, [](S& s, int) -> int& { return s.track.stopAfter; }},
 
+    {"TRACK/COORDFLT/use", 1, [](S& s, int) -> int& { return s.navigation.filtered; }},
+    {"TRACK/COORDFLT/minSats", 4, [](S& s, int) -> int& { return s.navigation.leastSatellites; }},
+    {"TRACK/COORDFLT/maxHDOP", 250, [](S& s, int) -> int& { return s.navigation.mostHdop; },
+     Kind::Hundredths},
+    {"TRACK/COORDFLT/maxSpeed", 200, [](S& s, int) -> int& { return s.navigation.mostSpeed; }},
+    {"TRACK/COORDFLT/maxAccel", 25, [](S& s, int) -> int& { return s.navigation.mostGain; }},
+    {"TRACK/COORDFLT/maxDist", 100, [](S& s, int) -> int& { return s.navigation.mostShift; }},
+    {"TRACK/COORDFLT/maxFilterCnt", 5, [](S& s, int) -> int& { return s.navigation.rejectedAfterJump; }},
+    {"TRACK/COORDAVER/mode", 1, [](S& s, int) -> int& { return s.navigation.atStops; }},
+    {"TRACK/COORDAVER/sensors", 1,
+     [](S& s, int i) -> int& {
+         return i == 0 ? s.navigation.standsWithoutIgnition : s.navigation.standsWithoutMovement;
+     },
+     Kind::Digits, 2},
+    {"TRACK/GNSS/mode", 1, [](S& s, int i) -> int& { return s.navigation.systems[i]; }, Kind::Digits, 5},
+    {"TRACK/GNSS/angle", 5, [](S& s, int) -> int& { return s.navigation.elevation; }},
+
     {"SENSORS/IN%1/normState", 0, [](S& s, int i) -> int& { return s.lines[i].use; }, Kind::Use, 3},
     {"SENSORS/IN%1/IN%1%2/ign", 1, [](S& s, int i) -> int& { return s.lines[i].ignition; }, Kind::Number, 3},
     {"SENSORS/IN%1/IN%1%2/cntlRestore", 1, [](S& s, int i) -> int& { return s.lines[i].restores; },
@@ -73,6 +90,10 @@ constexpr Row rows[] = {
      3},
     {"SENSORS/IN%1/IN%1%2/trhldOff", 1, [](S& s, int i) -> int& { return s.lines[i].stillOnly; },
      Kind::Number, 3},
+    {"SENSORS/IN%1/IN%1%2/filterMode", 1, [](S& s, int i) -> int& { return s.lines[i].filtered; },
+     Kind::Number, 3},
+    {"SENSORS/IN%1/IN%1%2/filterLen", 30, [](S& s, int i) -> int& { return s.lines[i].window; }, Kind::Number,
+     3},
 
     {"SYSTEM/PWRSENS/line", 0, [](S& s, int) -> int& { return s.supply.line; }},
     {"SYSTEM/PWRSENS/alarmLvl", 10500, [](S& s, int) -> int& { return s.supply.alarm; }},
@@ -81,16 +102,30 @@ constexpr Row rows[] = {
     {"SYSTEM/ENGSENS/useCustom", 0, [](S& s, int) -> int& { return s.supply.ownEngineLevel; }},
     {"SYSTEM/ENGSENS/voltageLvl", 13200, [](S& s, int) -> int& { return s.supply.engineLevel; }},
     {"SYSTEM/ENGSENS/noEvent", 0, [](S& s, int) -> int& { return s.supply.engineSilent; }},
+    {"SYSTEM/ENGSENS/delay", 0, [](S& s, int) -> int& { return s.supply.engineDelay; }},
+
+    {"SYSTEM/FUEL/sensors", 0,
+     [](S& s, int i) -> int& {
+         return i == 0 ? s.fuel.withIgnition : i == 1 ? s.fuel.withEngine : s.fuel.withSupply;
+     },
+     Kind::Digits, 3},
+    {"SYSTEM/FUEL/blockVolt", 8000, [](S& s, int) -> int& { return s.fuel.low; }},
+    {"SYSTEM/FUEL/unblockVolt", 11000, [](S& s, int) -> int& { return s.fuel.high; }},
+    {"SYSTEM/FUEL/unblockDelay", 5, [](S& s, int) -> int& { return s.fuel.delay; }},
 
     {"RS485/OPTIONS/owner1", 0, [](S& s, int) -> int& { return s.serial.owner; }, Kind::Owner},
     {"RS485/FS%1/use", 0, [](S& s, int i) -> int& { return s.serial.sensorUsed[i]; }, Kind::Number, 16},
     {"RS485/FS%1/address", 0, [](S& s, int i) -> int& { return s.serial.sensorAddress[i]; }, Kind::Number,
+     16},
+    {"RS485/FS%1/filterMode", 1, [](S& s, int i) -> int& { return s.serial.sensorFiltered[i]; }, Kind::Number,
      16},
     {"RS485/PCNT/id%1", 0, [](S& s, int i) -> int& { return s.serial.counterAddress[i]; }, Kind::Number, 7},
 
     {"TEMPSENS/SENS%1/min", -5000, [](S& s, int i) -> int& { return s.zones[i].low; }, Kind::Hundredths, 4},
     {"TEMPSENS/SENS%1/max", 12000, [](S& s, int i) -> int& { return s.zones[i].high; }, Kind::Hundredths, 4},
     {"TEMPSENS/SENS%1/hyst", 500, [](S& s, int i) -> int& { return s.zones[i].hysteresis; }, Kind::Hundredths,
+     4},
+    {"TEMPSENS/SENS%1/filterMode", 1, [](S& s, int i) -> int& { return s.zones[i].filtered; }, Kind::Number,
      4},
 
     {"ACCEL/SENSORS/sh1", 5000, [](S& s, int) -> int& { return s.shockLevels[0]; }, Kind::Hundredths},
@@ -189,6 +224,14 @@ bool LineRules::triggered(double millivolts, bool before) const
     if (millivolts <= this->low)
         return low;
     return before && (high || low);
+}
+
+bool WorkingSettings::hasIgnition(int triggered) const
+{
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        if (triggered >> i & 1 && lines[i].ignition)
+            return true;
+    return false;
 }
 
 WorkingSettings WorkingSettings::of(const ConfigurationValues& values)

@@ -29,7 +29,8 @@ void ChoiceAdapter::dress()
 
 void ChoiceAdapter::show(const QString& value)
 {
-    box_->setCurrentIndex(box_->findData(value));
+    if (box_->currentIndex() < 0 || box_->currentData() != value)
+        box_->setCurrentIndex(box_->findData(value));
 }
 
 void ChoiceAdapter::take()

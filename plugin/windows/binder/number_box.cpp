@@ -49,6 +49,9 @@ double NumberBox::value() const
 
 void NumberBox::setValue(double value)
 {
+    // Only what is being typed may read otherwise than its value.
+    if (this->value() == value && !(widget_ && widget_->hasFocus()))
+        return;
     if (auto* box = qobject_cast<QDoubleSpinBox*>(widget_))
         box->setValue(value);
     else if (auto* whole = qobject_cast<QSpinBox*>(widget_))

@@ -43,7 +43,9 @@ public:
 
     // Takes the state of a widget as an edit.
     void take(const char* widget) { binder_->take(QString::fromLatin1(widget)); }
-    // Paths are those below the section.
+    // Paths are those below the section. Who asks often keeps the index, for the configuration; -1 for a path
+    // that the table has not.
+    int indexOf(const QString& path) const;
     QString value(const QString& path) const;
     int number(const QString& path) const { return value(path).toInt(); }
     void edit(const QString& path, const QString& value);
@@ -62,8 +64,6 @@ Q_SIGNALS:
     void shown();
 
 private:
-    int indexOf(const QString& path) const;
-
     const SettingsTable& table_;
     const char* const titleKey_;
     Configuration configuration_;
