@@ -2,7 +2,7 @@
 
 // What stands in the bytes of the simulated tracker's records, and configurations that ask for fields.
 
-#include "dataset/catalogue/field_mask.h"
+#include "catalogue/field_mask.h"
 
 #include <QByteArray>
 

@@ -1,7 +1,7 @@
 #include "tracker/configuration_store.h"
 
 #include "base/whole_file.h"
-#include "dataset/catalogue/field_mask.h"
+#include "catalogue/field_mask.h"
 
 #include <QDir>
 #include <QDomDocument>
