@@ -62,25 +62,50 @@ private Q_SLOTS:
         QCOMPARE(bench.ask(Message::RequestCurrentRecord).first.size(), vlk::shortestCurrentRecord);
     }
 
-    // What the serial line's owner and its settings put into the fields of its devices.
+    // What the serial line's owner and the Bluetooth sensors put into the fields of their devices.
     void devicesOnTheLine_data()
     {
+        const auto line = [](const QByteArray& rows) { return "<RS485>" + rows + "</RS485>"; };
+        const auto heard = [](const QByteArray& rows) {
+            return "<BLUETOOTH><GLOBAL use=\"1\"/>" + rows + "</BLUETOOTH>";
+        };
+        const QByteArray tank = "<SENS1 type=\"1\" macaddr=\"c4:64:e3:0b:52:10\"/><FS1 idx=\"3\"/>";
         DataTable<QByteArray, QString>({"settings", "filled"})
-            .row("nothing", "<OPTIONS owner1=\"\"/>", "")
-            .row("sensors by their addresses",
-                 "<OPTIONS owner1=\"FLDS\"/><FS2 use=\"1\" address=\"1\"/><FS3 use=\"1\" address=\"99\"/>"
-                 "<FS9 use=\"1\" address=\"1\"/><FS1 use=\"0\" address=\"1\"/>",
-                 "LevelRS485_2 LevelRS485_9")
-            .row("tyres", "<OPTIONS owner1=\"TPMS\"/><FS1 use=\"1\" address=\"1\"/>", "TiresPres1")
-            .row("refrigerator", "<OPTIONS owner1=\"REFR\"/>", "RefrTension")
-            .row("tachograph", "<OPTIONS owner1=\"TACH\"/>", "TahoOdometer")
-            .row("counters", "<OPTIONS owner1=\"PCNT\"/><PCNT type=\"PP01\" id2=\"7\"/>", "Passager_2");
+            .row("nothing", line("<OPTIONS owner1=\"\"/>"), "")
+            .row(
+                "sensors by their addresses",
+                line("<OPTIONS owner1=\"FLDS\"/><FS2 use=\"1\" address=\"1\"/><FS3 use=\"1\" address=\"99\"/>"
+                     "<FS9 use=\"1\" address=\"1\"/><FS1 use=\"0\" address=\"1\"/>"),
+                "LevelRS485_2 LevelRS485_9")
+            .row("tyres", line("<OPTIONS owner1=\"TPMS\"/><FS1 use=\"1\" address=\"1\"/>"), "TiresPres1")
+            .row("refrigerator", line("<OPTIONS owner1=\"REFR\"/>"), "RefrTension")
+            .row("tachograph", line("<OPTIONS owner1=\"TACH\"/>"), "TahoOdometer")
+            .row("counters", line("<OPTIONS owner1=\"PCNT\"/><PCNT type=\"PP01\" id2=\"7\"/>"), "Passager_2")
+            .row("tank by Bluetooth", heard(tank), "LevelRS485_3")
+            .row("Bluetooth off", "<BLUETOOTH><GLOBAL use=\"0\"/>" + tank + "</BLUETOOTH>", "")
+            .row("the line goes first",
+                 line("<OPTIONS owner1=\"FLDS\"/><FS3 use=\"1\" address=\"1\"/>") + heard(tank),
+                 "LevelRS485_3")
+            .row("climate", heard("<SENS4 type=\"2\" macaddr=\"E2:15:00:01:3A:8F\"/><TS4 idx=\"2\"/>"),
+                 "HPrecisionTemp2 HPrecisionHumidity2")
+            .row("temperature alone",
+                 heard("<SENS2 type=\"2\" macaddr=\"C4:64:E3:0B:77:A1\"/><TS2 idx=\"1\"/>"),
+                 "HPrecisionTemp1")
+            .row("not around, another thing, another type",
+                 heard("<SENS1 type=\"1\" macaddr=\"00:00:00:00:00:01\"/><FS1 idx=\"1\"/>"
+                       "<SENS2 type=\"1\" macaddr=\"F4:BC:DA:12:60:7E\"/><FS2 idx=\"2\"/>"
+                       "<SENS3 type=\"2\" macaddr=\"C4:64:E3:0B:60:2C\"/><FS3 idx=\"3\"/><TS3 idx=\"1\"/>"),
+                 "");
     }
     void devicesOnTheLine()
     {
         QFETCH(QByteArray, settings);
         BenchTracker bench;
-        QVERIFY(bench.write("<DEVICE model=\"R-7106\"><RS485>" + settings + "</RS485></DEVICE>").accepted);
+        // A section that is not written stays.
+        for (const char* section : {"RS485", "BLUETOOTH"})
+            if (!settings.contains(section))
+                settings += QByteArray("<") + section + "/>";
+        QVERIFY(bench.write("<DEVICE model=\"R-7106\">" + settings + "</DEVICE>").accepted);
         bench.now += 60;
         bench.tracker->setFullDataSet(true);
         const QByteArray record = bench.currentRecord();
@@ -100,6 +125,10 @@ private Q_SLOTS:
         look("TahoOdometer", 0xFFFFFFFF);
         look("Passager_1", 255);
         look("Passager_2", 255);
+        for (const char* name : {"HPrecisionTemp1", "HPrecisionTemp2"})
+            look(name, 0x8000);
+        for (const char* name : {"HPrecisionHumidity1", "HPrecisionHumidity2"})
+            look(name, 255);
         QTEST(filled.join(' '), "filled");
     }
 

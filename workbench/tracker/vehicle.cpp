@@ -189,7 +189,7 @@ double Vehicle::frequency(int index) const
     return index < 2 && running() ? drift(26 + index, 180, 240, 60) : 0;
 }
 
-// Fuel: the second tank empties first.
+// Fuel: the second tank empties first; what is in the third one, of the body, stays there.
 
 double Vehicle::fuelLeft(std::size_t tank) const
 {
@@ -201,6 +201,8 @@ double Vehicle::fuelLeft(std::size_t tank) const
         return std::min(m.at.fuel, half);
     case 2:
         return std::max(0.0, m.at.fuel - half);
+    case 3:
+        return 150;
     default:
         return 0;
     }
@@ -238,13 +240,25 @@ bool Vehicle::isOnLine(LineOwner device) const
     return m.settings && m.settings->serial.is(device);
 }
 
-int Vehicle::sensorOnLine(int row) const
+Vehicle::FuelSource Vehicle::fuelSource(int row) const
 {
     constexpr int sensors = 6;
-    if (!isOnLine(LineOwner::Fuel) || !m.settings->serial.sensorUsed[row])
-        return -1;
-    const int sensor = m.settings->serial.sensorAddress[row] - 1;
-    return sensor >= 0 && sensor < sensors ? sensor : -1;
+    if (!m.settings)
+        return {};
+    const SerialLineRules& line = m.settings->serial;
+    if (isOnLine(LineOwner::Fuel) && line.sensorUsed[row]) {
+        const int sensor = line.sensorAddress[row] - 1;
+        if (sensor >= 0 && sensor < sensors)
+            return {sensor, line.sensorFiltered[row] != 0};
+    }
+    const BluetoothDevice* device = heard(BluetoothRules::Fuel, row);
+    return {device ? device->tankSensor : -1, true};
+}
+
+const BluetoothDevice* Vehicle::heard(BluetoothRules::Type type, int place) const
+{
+    const int device = m.settings ? m.settings->bluetooth.deviceFor(type, place) : -1;
+    return device < 0 ? nullptr : &bluetoothDevices[device];
 }
 
 double Vehicle::passengers(int counter) const
@@ -295,15 +309,18 @@ double Vehicle::steadyTemperature(int sensor) const
     }
 }
 
-double Vehicle::fineTemperature(int sensor) const
+double Vehicle::fineTemperature(int place) const
 {
     constexpr double unitsToADegree = 20;
-    return sensor < 2 ? drift(44 + sensor, 1.5, 6, 900) * unitsToADegree : noI16;
+    const BluetoothDevice* device = heard(BluetoothRules::Temperature, place);
+    return device && device->climate >= 0 ? drift(430 + device->climate, 1.5, 6, 900) * unitsToADegree
+                                          : noI16;
 }
 
-double Vehicle::humidity(int sensor) const
+double Vehicle::humidity(int place) const
 {
-    return sensor < 2 ? drift(46 + sensor, 110, 170, 1200) : noU8;
+    const BluetoothDevice* device = heard(BluetoothRules::Temperature, place);
+    return device && device->tellsHumidity ? drift(440 + device->climate, 110, 170, 1200) : noU8;
 }
 
 double Vehicle::coolant() const

@@ -1,5 +1,6 @@
 #include "tracker/working_settings.h"
 
+#include "tracker/bluetooth_devices.h"
 #include "tracker/configuration_values.h"
 
 #include <algorithm>
@@ -27,6 +28,7 @@ enum class Kind {
     Digits,     // one position of a text of digits each
     Use,        // of an input line
     Owner,      // of the serial line
+    Device,     // around the tracker, by its address
     General     // 1 for the output's code "GP"
 };
 
@@ -121,6 +123,14 @@ constexpr Row rows[] = {
      16},
     {"RS485/PCNT/id%1", 0, [](S& s, int i) -> int& { return s.serial.counterAddress[i]; }, Kind::Number, 7},
 
+    {"BLUETOOTH/GLOBAL/use", 1, [](S& s, int) -> int& { return s.bluetooth.used; }},
+    {"BLUETOOTH/SENS%1/type", 0, [](S& s, int i) -> int& { return s.bluetooth.type[i]; }, Kind::Number, 4},
+    {"BLUETOOTH/SENS%1/macaddr", -1, [](S& s, int i) -> int& { return s.bluetooth.device[i]; }, Kind::Device,
+     4},
+    {"BLUETOOTH/FS%1/idx", 1, [](S& s, int i) -> int& { return s.bluetooth.fuel[i]; }, Kind::Number, 4},
+    {"BLUETOOTH/TS%1/idx", 1, [](S& s, int i) -> int& { return s.bluetooth.temperature[i]; }, Kind::Number,
+     4},
+
     {"TEMPSENS/SENS%1/min", -5000, [](S& s, int i) -> int& { return s.zones[i].low; }, Kind::Hundredths, 4},
     {"TEMPSENS/SENS%1/max", 12000, [](S& s, int i) -> int& { return s.zones[i].high; }, Kind::Hundredths, 4},
     {"TEMPSENS/SENS%1/hyst", 500, [](S& s, int i) -> int& { return s.zones[i].hysteresis; }, Kind::Hundredths,
@@ -159,6 +169,15 @@ int useOf(const QString& code)
     return found == std::end(lineUses) ? 0 : static_cast<int>(found - lineUses);
 }
 
+int deviceOf(const QString& address)
+{
+    const auto found =
+        std::find_if(bluetoothDevices.begin(), bluetoothDevices.end(), [&](const BluetoothDevice& device) {
+            return address.compare(QLatin1String(device.mac), Qt::CaseInsensitive) == 0;
+        });
+    return found == bluetoothDevices.end() ? -1 : static_cast<int>(found - bluetoothDevices.begin());
+}
+
 int ownerOf(const QString& code)
 {
     const auto* found = std::find_if(std::begin(lineOwners), std::end(lineOwners),
@@ -178,6 +197,8 @@ int valueOf(const Row& row, const QString& path, int index, const ConfigurationV
         return useOf(text);
     case Kind::Owner:
         return ownerOf(text);
+    case Kind::Device:
+        return deviceOf(text);
     case Kind::General:
         return text == QLatin1String("GP");
     case Kind::Number:
@@ -226,6 +247,15 @@ bool LineRules::triggered(double millivolts, bool before) const
     return before && (high || low);
 }
 
+int BluetoothRules::deviceFor(Type wanted, int place) const
+{
+    const std::array<int, 4>& places = wanted == Fuel ? fuel : temperature;
+    for (std::size_t i = 0; used && i < type.size(); ++i)
+        if (type[i] == wanted && places[i] == place + 1)
+            return device[i];
+    return -1;
+}
+
 bool WorkingSettings::hasIgnition(int triggered) const
 {
     for (std::size_t i = 0; i < lines.size(); ++i)
@@ -253,6 +283,9 @@ WorkingSettings WorkingSettings::load(const QSettings& file)
     WorkingSettings result;
     walk([&](const Row& row, int i) {
         row.value(result, i) = file.value(keptName(row, i), row.absent).toInt();
+        if (row.kind == Kind::Device)
+            row.value(result, i) =
+                std::clamp(row.value(result, i), -1, static_cast<int>(bluetoothDevices.size()) - 1);
         if (row.kind == Kind::Use)
             row.value(result, i) =
                 std::clamp(row.value(result, i), 0, static_cast<int>(std::size(lineUses)) - 1);

@@ -1,9 +1,9 @@
 #pragma once
 
 // What of its configuration the tracker measures and records by: track points, coordinates, input lines,
-// supply and fuel sensors, temperature zones, accelerometer levels, the output line and the devices on the
-// serial line. Missing keys have the values that the tracker itself takes for them. Voltages are millivolts,
-// times seconds, ways metres.
+// supply and fuel sensors, temperature zones, accelerometer levels, the output line, the devices on the
+// serial line and the Bluetooth sensors. Missing keys have the values that the tracker itself takes for them.
+// Voltages are millivolts, times seconds, ways metres.
 
 #include <QSettings>
 
@@ -139,6 +139,22 @@ struct SerialLineRules
     bool is(LineOwner wanted) const { return owner == static_cast<int>(wanted); }
 };
 
+// The four sensors that the tracker hears by Bluetooth. Of the universal sensor the tracker here tells
+// nothing: it would have to send the raw packets that its rules take apart.
+struct BluetoothRules
+{
+    enum Type { None, Fuel, Temperature };
+
+    int used = 0;
+    std::array<int, 4> type{};
+    std::array<int, 4> device{};      // in bluetoothDevices, -1 for none that is around
+    std::array<int, 4> fuel{};        // the fuel level, 1 to 16, that it is told as
+    std::array<int, 4> temperature{}; // the same of the precise temperatures, 1 to 4
+
+    // The device whose value stands in the record at this place, from 0 on; -1 for none.
+    int deviceFor(Type wanted, int place) const;
+};
+
 struct WorkingSettings
 {
     TrackRules track;
@@ -150,6 +166,7 @@ struct WorkingSettings
     std::array<int, 4> shockLevels{}; // SH1 to SH3 hundredths of a percent, SH4 of a degree
     OutputRules output;
     SerialLineRules serial;
+    BluetoothRules bluetooth;
 
     // Whether the ignition line is among these lines; bit n is IN n + 1.
     bool hasIgnition(int triggered) const;
