@@ -128,8 +128,8 @@ struct Setting
 {
     enum class Reset : std::uint8_t { toLoadDefault, toOwn, keeps };
 
-    Kind kind = Kind::text;
-    bool stored = true; // false: lives in the window alone, the file has no such key
+    Kind kind = Kind::text; // small fields stand together, so that a row has no gaps
+    bool stored = true;     // false: lives in the window alone, the file has no such key
     Reset resets = Reset::toLoadDefault;
     std::uint8_t decimals = 0;
     bool hexadecimal = false; // in the file two digits or more: "0F"

@@ -22,7 +22,7 @@ public:
     QWidget* find(const QString& name, int number) const;
     // Whether the name tells a form that is not there yet.
     bool isLate(const QString& name) const;
-    // The label whose buddy the widget is, else the one named label_<widget>, which becomes it.
+    // The label whose buddy the widget is, else the one named label_<widget>, whose buddy it becomes.
     QLabel* labelOf(QWidget* widget) const;
     // The one named <widget>_After.
     QLabel* labelBehind(QWidget* widget) const;
