@@ -38,7 +38,7 @@ int digitAt(const QString& text, std::size_t position)
     return index < text.size() ? std::max(0, text[index].digitValue()) : 0;
 }
 
-Normalised noted(QString value, const QString& text, Change change)
+Normalised noted(const QString& value, const QString& text, Change change)
 {
     if (value == text)
         return {value, Change::none};
@@ -81,12 +81,11 @@ Normalised number(const Setting& setting, const QString& text, const Limits& lim
     } else {
         const int read = wholeNumber(setting, text);
         if (setting.zeroIsOff && (setting.negativeIsOn ? read == 0 : read <= 0))
-            return notedBy(QStringLiteral("0"), text, [&] {
-                return isNumber(setting, text) ? Change::outOfRange : Change::notANumber;
-            });
+            return notedBy(QStringLiteral("0"), text,
+                           [&] { return isNumber(setting, text) ? Change::outOfRange : Change::notANumber; });
         shown = setting.kind == Kind::scaled
                     ? rounded(static_cast<double>(read) / setting.factor, setting.decimals)
-                    : read / setting.factor;
+                    : std::trunc(static_cast<double>(read) / setting.factor);
     }
     const double held = std::clamp(shown, limits.least, limits.most);
     return notedBy(fileNumber(setting, held), text, [&] {

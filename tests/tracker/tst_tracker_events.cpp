@@ -3,6 +3,7 @@
 #include "bench_tracker.h"
 #include "record_values.h"
 #include "support/data_table.h"
+#include "tracker/sensing.h"
 #include "tracker/vehicle.h"
 
 #include <QtTest>

@@ -1,14 +1,13 @@
 #include "windows/binder/choice_adapter.h"
 
 #include "settings/value_text.h"
-#include "windows/binder/binder.h"
 
 #include <QComboBox>
 #include <QSignalBlocker>
 
 namespace vlk {
 
-ChoiceAdapter::ChoiceAdapter(Binder& binder, int index, QComboBox* box) : Adapter(binder, index), box_(box)
+ChoiceAdapter::ChoiceAdapter(Edits& edits, int index, QComboBox* box) : Adapter(edits, index), box_(box)
 {
     own(box);
     connect(box, qOverload<int>(&QComboBox::currentIndexChanged), this, [this] { take(); });
