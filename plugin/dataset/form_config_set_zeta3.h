@@ -45,8 +45,8 @@ public:
     void deviceDisconnected();
     vlk::PageSettings& settings() { return settings_; }
 
-    // What forms offer to the free slots of the record, and what the file holds of them, goes to the tabs; the
-    // User tab takes it. Loading and saving come behind all pages.
+    // What forms offer to the free slots of the record, and what the file holds of them, goes to the tabs;
+    // the User tab takes it. Loading and saving come behind all pages.
     void userParamAdded(const QString& code, const QString& name, const QString& third, int size);
     void userParamDeleted(const QString& code, const QString& name, const QString& third, int size);
     void loadUserParams(CXmlSection* root);
