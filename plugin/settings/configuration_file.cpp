@@ -109,15 +109,10 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
     // What a save would keep belongs to somebody else.
     if (notes && layout.table->emptied)
         noteStrangersIn(*section, layout, notes);
-
-    // What lives in the window alone is not in the file: beside values that are, it starts anew, and links
-    // and rules fill it; a group of its own is left as it stands.
-    for (std::size_t row = 0; row < layout.rows.size(); ++row) {
-        const TableLayout::Row& place = layout.rows[row];
-        const Setting& setting = *place.setting;
-        const int index = part.first + static_cast<int>(row);
-        if (!setting.stored && !setting.stays && (place.group < 0 || layout.groups[place.group].stored))
-            values_[index] = normalise(setting, loadDefault(setting), values_[index], limits(index)).value;
+    for (const int row : layout.anew) {
+        const Setting& setting = *layout.rows[row].setting;
+        const int index = part.first + row;
+        values_[index] = normalise(setting, loadDefault(setting), values_[index], limits(index)).value;
     }
     readGroups(part, *section, -1, notes);
 }

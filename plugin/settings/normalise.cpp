@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <string_view>
 
@@ -31,11 +33,24 @@ qint64 cut(double number)
     return static_cast<qint64>(number + std::copysign(1e-6, number));
 }
 
-// Number that a string has at a position: the one digit, or 0.
-int digitAt(const QString& text, std::size_t position)
+// A whole number as the file holds it, which is `text` itself in most cases.
+QString spelled(qint64 number, const QString& text)
 {
-    const int index = static_cast<int>(position);
-    return index < text.size() ? std::max(0, text[index].digitValue()) : 0;
+    std::array<char, 20> digits{}; // "-9223372036854775808"
+    const char* const end = std::to_chars(digits.begin(), digits.end(), number).ptr;
+    const QLatin1String spelling(digits.begin(), static_cast<int>(end - digits.begin()));
+    return text == spelling ? text : QString(spelling);
+}
+
+// fileNumber() of a number that the file holds as `text`.
+QString spelled(const Setting& setting, double shown, const QString& text)
+{
+    if (setting.kind == Kind::real)
+        return QString::number(shown, 'f', setting.decimals);
+    const qint64 number = cut(rounded(shown, setting.decimals) * setting.factor);
+    if (setting.hexadecimal)
+        return QString::number(number, 16).toUpper().rightJustified(2, QLatin1Char('0'));
+    return spelled(number, text);
 }
 
 Normalised noted(QString value, const QString& text, Change change)
@@ -89,7 +104,7 @@ Normalised number(const Setting& setting, const QString& text, const Limits& lim
                     : read / setting.factor;
     }
     const double held = std::clamp(shown, limits.least, limits.most);
-    return notedBy(fileNumber(setting, held), text, [&] {
+    return notedBy(spelled(setting, held, text), text, [&] {
         return !isNumber(setting, text) ? Change::notANumber
                : held != shown          ? Change::outOfRange
                                         : Change::rounded;
@@ -108,7 +123,7 @@ bool fits(const char* pattern, const QString& text)
 
 const Code* find(const Setting& setting, const QString& text)
 {
-    const QString wanted = setting.numeric ? QString::number(leadingInt(text)) : text;
+    const QString wanted = setting.numeric ? spelled(leadingInt(text), text) : text;
     const auto is = [&](const Code& code) {
         return code.pattern ? fits(code.pattern, text) : QLatin1String(code.code) == wanted;
     };
@@ -144,7 +159,7 @@ Normalised spread(const Setting& setting, const QString& text)
         rest %= part.seconds;
     }
     held = std::max(held, static_cast<qint64>(setting.least));
-    return notedBy(QString::number(held), text, [&] {
+    return notedBy(spelled(held, text), text, [&] {
         return !isWholeNumber(text)                                   ? Change::notANumber
                : std::abs(held - read) < setting.parts.back().seconds ? Change::rounded
                                                                       : Change::outOfRange;
@@ -185,7 +200,7 @@ Normalised bitNumber(const Setting& setting, const QString& text)
             known |= 1U << i;
     }
     const unsigned held = static_cast<unsigned>(leadingInt(text)) & known;
-    return notedBy(QString::number(held), text,
+    return notedBy(spelled(held, text), text,
                    [&] { return isWholeNumber(text) ? Change::outOfRange : Change::notANumber; });
 }
 
@@ -260,22 +275,23 @@ bool offersCode(const Setting& setting, const Code& code, const char* offers)
     return offers ? isListed(offers, code.code) : code.offered && !code.means;
 }
 
+int digitAt(const QString& text, std::size_t position)
+{
+    const int index = static_cast<int>(position);
+    return index < text.size() ? std::max(0, text[index].digitValue()) : 0;
+}
+
 double shownNumber(const Setting& setting, const QString& value)
 {
     if (setting.kind == Kind::real)
         return value.toDouble();
-    return (setting.hexadecimal ? value.toInt(nullptr, 16) : static_cast<double>(value.toLongLong())) /
+    return (setting.hexadecimal ? value.toInt(nullptr, 16) : static_cast<double>(leadingLong(value))) /
            setting.factor;
 }
 
 QString fileNumber(const Setting& setting, double shown)
 {
-    if (setting.kind == Kind::real)
-        return QString::number(shown, 'f', setting.decimals);
-    const qint64 number = cut(rounded(shown, setting.decimals) * setting.factor);
-    if (setting.hexadecimal)
-        return QString::number(number, 16).toUpper().rightJustified(2, QLatin1Char('0'));
-    return QString::number(number);
+    return spelled(setting, shown, {});
 }
 
 bool offersCode(const Setting& setting, const Code& code, const Limits& limits)
@@ -318,7 +334,7 @@ Normalised normalise(const Setting& setting, const QString& text, const QString&
     case Kind::flag: {
         const int read = leadingInt(text);
         const bool on = setting.on == 1 ? read != 0 : read == setting.on;
-        return notedBy(QString::number(on ? setting.on : 0), text,
+        return notedBy(spelled(on ? setting.on : 0, text), text,
                        [&] { return isWholeNumber(text) ? Change::otherForm : Change::notANumber; });
     }
     case Kind::integer:

@@ -119,10 +119,10 @@ void PositionsAdapter::dress()
 
 void PositionsAdapter::show(const QString& value)
 {
-    const unsigned bits = setting().kind == Kind::bits ? value.toUInt() : 0;
+    const bool isBits = setting().kind == Kind::bits;
+    const unsigned bits = isBits ? value.toUInt() : 0;
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
-        const int digit = setting().kind == Kind::bits ? static_cast<int>((bits >> i) & 1U)
-                                                       : value.mid(static_cast<int>(i), 1).toInt();
+        const int digit = isBits ? static_cast<int>((bits >> i) & 1U) : digitAt(value, i);
         if (checks_[i] && boxes_[i]) {
             setChecked(checks_[i], digit != 0);
             boxes_[i]->setEnabled(digit != 0);

@@ -1,6 +1,7 @@
 #include "windows/binder/number_box.h"
 
 #include <QAbstractSlider>
+#include <QApplication>
 #include <QDoubleSpinBox>
 #include <QSpinBox>
 
@@ -50,7 +51,7 @@ double NumberBox::value() const
 void NumberBox::setValue(double value)
 {
     // Only what is being typed may read otherwise than its value.
-    if (this->value() == value && !(widget_ && widget_->hasFocus()))
+    if (this->value() == value && widget_ != QApplication::focusWidget())
         return;
     if (auto* box = qobject_cast<QDoubleSpinBox*>(widget_))
         box->setValue(value);
