@@ -96,9 +96,8 @@ Normalised number(const Setting& setting, const QString& text, const Limits& lim
     } else {
         const int read = wholeNumber(setting, text);
         if (setting.zeroIsOff && (setting.negativeIsOn ? read == 0 : read <= 0))
-            return notedBy(QStringLiteral("0"), text, [&] {
-                return isNumber(setting, text) ? Change::outOfRange : Change::notANumber;
-            });
+            return notedBy(QStringLiteral("0"), text,
+                           [&] { return isNumber(setting, text) ? Change::outOfRange : Change::notANumber; });
         shown = setting.kind == Kind::scaled
                     ? rounded(static_cast<double>(read) / setting.factor, setting.decimals)
                     : read / setting.factor;

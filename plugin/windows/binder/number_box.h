@@ -11,6 +11,10 @@
 
 #include <functional>
 
+class QAbstractSlider;
+class QDoubleSpinBox;
+class QSpinBox;
+
 namespace vlk {
 
 class NumberBox
@@ -30,7 +34,11 @@ public:
 private:
     int position(double value) const;
 
+    // The widget, and as the one of these that it is.
     QWidget* widget_ = nullptr;
+    QDoubleSpinBox* real_ = nullptr;
+    QSpinBox* whole_ = nullptr;
+    QAbstractSlider* slider_ = nullptr;
     int counts_ = 1; // of a slider in one unit of the widget
 };
 
