@@ -89,7 +89,8 @@ void Configuration::put(int index, const QString& value, std::vector<int>* chang
 void Configuration::assign(const Part& part, int row, const QString& value, std::vector<int>* changed)
 {
     const bool isNew = values_[part.first + row] != value;
-    put(part.first + row, value, changed);
+    if (isNew)
+        put(part.first + row, value, changed);
     keepDistances(part, row, changed);
     if (!isNew)
         return;

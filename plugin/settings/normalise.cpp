@@ -33,13 +33,17 @@ qint64 cut(double number)
     return static_cast<qint64>(number + std::copysign(1e-6, number));
 }
 
-// A whole number as the file holds it, which is `text` itself in most cases.
+// Most values stand in the file as they are to: those are `text` itself.
+QString spelled(QLatin1String value, const QString& text)
+{
+    return text == value ? text : QString(value);
+}
+
 QString spelled(qint64 number, const QString& text)
 {
     std::array<char, 20> digits{}; // "-9223372036854775808"
     const char* const end = std::to_chars(digits.begin(), digits.end(), number).ptr;
-    const QLatin1String spelling(digits.begin(), static_cast<int>(end - digits.begin()));
-    return text == spelling ? text : QString(spelling);
+    return spelled(QLatin1String(digits.begin(), static_cast<int>(end - digits.begin())), text);
 }
 
 // fileNumber() of a number that the file holds as `text`.
@@ -134,16 +138,16 @@ const Code* find(const Setting& setting, const QString& text)
 
 Normalised chosen(const Setting& setting, const QString& text, const QString& before, const Limits& limits)
 {
-    const QString fallback = setting.fallback ? QString::fromLatin1(setting.fallback) : before;
     const Code* code = find(setting, text);
+    if (code && offersCode(setting, *code, limits))
+        return noted(spelled(QLatin1String(code->code), text), text, Change::otherForm);
+    const QString fallback = setting.fallback ? QString::fromLatin1(setting.fallback) : before;
     if (!code)
         return noted(limits.taken.contains(fallback) ? before : fallback, text, Change::unknownCode);
-    if (!offersCode(setting, *code, limits))
-        return noted(setting.unofferedStays ? before
-                     : setting.none         ? QString::fromLatin1(setting.none)
-                                            : fallback,
-                     text, Change::notOffered);
-    return noted(QString::fromLatin1(code->code), text, Change::otherForm);
+    return noted(setting.unofferedStays ? before
+                 : setting.none         ? QString::fromLatin1(setting.none)
+                                        : fallback,
+                 text, Change::notOffered);
 }
 
 Normalised spread(const Setting& setting, const QString& text)

@@ -9,6 +9,7 @@ MaskAdapter::MaskAdapter(Binder& binder, int index, QWidget* widget, MaskWidget*
 {
     own(widget);
     mask_->edited = [this] {
+        shown_.clear();
         if (!binder_.isShowing())
             take();
     };
@@ -17,6 +18,15 @@ MaskAdapter::MaskAdapter(Binder& binder, int index, QWidget* widget, MaskWidget*
 MaskAdapter::~MaskAdapter()
 {
     mask_->edited = nullptr;
+}
+
+// A mask is many boxes, and most loads leave them as they are.
+void MaskAdapter::show(const QString& value)
+{
+    if (!shown_.isEmpty() && value == shown_)
+        return;
+    mask_->showMask(value);
+    shown_ = value;
 }
 
 void MaskAdapter::dress()

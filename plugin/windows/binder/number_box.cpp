@@ -1,7 +1,6 @@
 #include "windows/binder/number_box.h"
 
 #include <QAbstractSlider>
-#include <QApplication>
 #include <QDoubleSpinBox>
 #include <QSpinBox>
 
@@ -50,13 +49,10 @@ double NumberBox::value() const
 
 void NumberBox::setValue(double value)
 {
-    // Only what is being typed may read otherwise than its value.
-    if (this->value() == value && widget_ != QApplication::focusWidget())
-        return;
     if (real_)
-        real_->setValue(value);
+        showNumber(real_, value);
     else if (whole_)
-        whole_->setValue(static_cast<int>(value));
+        showNumber(whole_, static_cast<int>(value));
     else if (slider_)
         slider_->setValue(position(value));
 }

@@ -5,7 +5,7 @@
 
 #include "settings/setting.h"
 
-#include <QPointer>
+#include <QApplication>
 #include <QString>
 #include <QWidget>
 
@@ -16,6 +16,15 @@ class QDoubleSpinBox;
 class QSpinBox;
 
 namespace vlk {
+
+// Leaves a box alone that shows the number: each setting formats it anew. Only what is being typed may read
+// otherwise than its value.
+template <class Box, class Number>
+void showNumber(Box* box, Number number)
+{
+    if (box->value() != number || box == QApplication::focusWidget())
+        box->setValue(number);
+}
 
 class NumberBox
 {
