@@ -213,6 +213,7 @@
     <message id="cfgt1_122"><translation>Operator list</translation></message>
     <message id="cfgt1_123"><translation>Move up</translation></message>
     <message id="cfgt1_124"><translation>Move down</translation></message>
+    <message id="cfgt1_125"><translation>This cannot be an address: an IP address is four numbers from 0 to 255 with points between them, the name of a host has Latin letters, digits, hyphens and points.</translation></message>
     <message id="cfgt2_001"><translation>Data set</translation></message>
     <message id="cfgt2_002"><translation>Version of the transfer protocol</translation></message>
     <message id="cfgt2_003"><translation>Size of the stored record</translation></message>
@@ -1296,7 +1297,7 @@
     <message id="tmiw_175"><translation>Not available while records are requested automatically.</translation></message>
     <message id="tmiw_176"><translation>Not available while a period is being saved.</translation></message>
     <message id="tmiw_177"><translation>Capabilities</translation></message>
-    <message id="tmiw_178"><translation>The title of the window has this number too: it tells what the tracker can do, one bit for each capability, in hexadecimal. Bit 3: a fourth output.</translation></message>
+    <message id="tmiw_178"><translation>The title of the window has this number too: it tells what the tracker can do, one bit for each capability, in hexadecimal. Bit 3 (8): a fourth output. Bit 11 (800): search for Bluetooth sensors.</translation></message>
     <message id="tmiw_179"><translation>XML telemetry</translation></message>
     <message id="tmiw_180"><translation>CSV table</translation></message>
     <message id="tmiw_181"><translation>Binary TMI file</translation></message>
@@ -1695,6 +1696,7 @@
     <message id="wb_description"><translation>Workbench for the R-7106 tracker: configuration, telemetry, message log, simulated tracker.</translation></message>
     <message id="wb_detach"><translation>Detach the trac&amp;ker</translation></message>
     <message id="wb_device"><translation>Tracker</translation></message>
+    <message id="wb_detached_telemetry"><translation>The tracker was detached, so its telemetry window was closed. Attach the tracker and open telemetry again.</translation></message>
     <message id="wb_device_attached"><translation>Tracker attached</translation></message>
     <message id="wb_device_capabilities"><translation>Capabilities:</translation></message>
     <message id="wb_device_detached"><translation>No tracker attached</translation></message>
@@ -1705,9 +1707,11 @@
     <message id="wb_device_text2"><translation>Number:</translation></message>
     <message id="wb_do_attach"><translation>Attach the tracker and try again.</translation></message>
     <message id="wb_do_cable"><translation>Check the cable and try again.</translation></message>
+    <message id="wb_do_data_set"><translation>Open the configuration in the full window, uncheck fields on the tab &quot;Data set&quot; and write it again.</translation></message>
     <message id="wb_do_disk"><translation>Make room on the disk and try again.</translation></message>
     <message id="wb_do_file"><translation>Choose another file, or read the configuration from the tracker.</translation></message>
     <message id="wb_do_save"><translation>Make room on the disk or choose another folder, and save again.</translation></message>
+    <message id="wb_do_save_elsewhere"><translation>Choose another folder or another name, and save again.</translation></message>
     <message id="wb_do_telemetry_file"><translation>Choose another file, or save the period from the tracker again.</translation></message>
     <message id="wb_drop_hint"><translation>Files can be dropped on this window.</translation></message>
     <message id="wb_edited"><translation>Editing:</translation></message>
@@ -1859,6 +1863,7 @@
     <message id="wb_refused_malformed"><translation>The file is damaged, markup error:</translation></message>
     <message id="wb_refused_memory"><translation>Cannot write to the tracker's memory:</translation></message>
     <message id="wb_refused_model"><translation>Configuration of another model:</translation></message>
+    <message id="wb_refused_record"><translation>The data set makes records larger than the 512&#160;B that the tracker can keep, bytes:</translation></message>
     <message id="wb_refused_root"><translation>Not a configuration file, root element:</translation></message>
     <message id="wb_refused_silence"><translation>The tracker does not answer.</translation></message>
     <message id="wb_refused_unplugged"><translation>The tracker was unplugged during the write and keeps what it had.</translation></message>

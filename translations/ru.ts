@@ -213,6 +213,7 @@
     <message id="cfgt1_122"><translation>Список операторов</translation></message>
     <message id="cfgt1_123"><translation>Переместить выше</translation></message>
     <message id="cfgt1_124"><translation>Переместить ниже</translation></message>
+    <message id="cfgt1_125"><translation>Это не может быть адресом: IP-адрес — четыре числа от 0 до 255 через точку, имя узла — латинские буквы, цифры, дефисы и точки.</translation></message>
     <message id="cfgt2_001"><translation>Набор данных</translation></message>
     <message id="cfgt2_002"><translation>Версия протокола передачи данных</translation></message>
     <message id="cfgt2_003"><translation>Размер хранимого буфера ТМИ</translation></message>
@@ -369,7 +370,7 @@
     <message id="cfgt4_005"><translation>Доступ к трекеру</translation></message>
     <message id="cfgt4_006"><translation>Пароль для управления по USB и GPRS</translation></message>
     <message id="cfgt4_007"><translation>Пароль для управления по SMS</translation></message>
-    <message id="cfgt4_008"><translation>В случае утери пароля для управления по USB и GPRS доступ к устройству будет невозможен</translation></message>
+    <message id="cfgt4_008"><translation>В случае утери пароля для управления по USB и GPRS доступ к трекеру будет невозможен</translation></message>
     <message id="cfgt4_010"><translation>Использовать синхронизацию времени по NTP</translation></message>
     <message id="cfgt4_011"><translation>Период синхронизации</translation></message>
     <message id="cfgt4_012"><translation>Период синхронизации в случае ошибки</translation></message>
@@ -1296,7 +1297,7 @@
     <message id="tmiw_175"><translation>Недоступно, пока включён автоматический запрос.</translation></message>
     <message id="tmiw_176"><translation>Недоступно, пока сохраняется период.</translation></message>
     <message id="tmiw_177"><translation>Возможности</translation></message>
-    <message id="tmiw_178"><translation>Это число стоит и в заголовке окна: так трекер сообщает, что он умеет. На каждую возможность один бит, запись шестнадцатеричная. Бит 3: четвёртый выход.</translation></message>
+    <message id="tmiw_178"><translation>Это число стоит и в заголовке окна: так трекер сообщает, что он умеет. На каждую возможность один бит, запись шестнадцатеричная. Бит 3 (8): четвёртый выход. Бит 11 (800): поиск датчиков Bluetooth.</translation></message>
     <message id="tmiw_179"><translation>Телеметрия XML</translation></message>
     <message id="tmiw_180"><translation>Таблица CSV</translation></message>
     <message id="tmiw_181"><translation>Двоичный файл TMI</translation></message>
@@ -1695,6 +1696,7 @@
     <message id="wb_description"><translation>Рабочее место настройщика трекера R-7106: конфигурация, телеметрия, журнал сообщений, имитатор трекера.</translation></message>
     <message id="wb_detach"><translation>Откл&amp;ючить трекер</translation></message>
     <message id="wb_device"><translation>Трекер</translation></message>
+    <message id="wb_detached_telemetry"><translation>Трекер отключён, поэтому окно его телеметрии закрыто. Подключите трекер и откройте телеметрию снова.</translation></message>
     <message id="wb_device_attached"><translation>Трекер подключён</translation></message>
     <message id="wb_device_capabilities"><translation>Возможности:</translation></message>
     <message id="wb_device_detached"><translation>Трекер не подключён</translation></message>
@@ -1705,9 +1707,11 @@
     <message id="wb_device_text2"><translation>Номер:</translation></message>
     <message id="wb_do_attach"><translation>Подключите трекер и повторите.</translation></message>
     <message id="wb_do_cable"><translation>Проверьте кабель и повторите.</translation></message>
+    <message id="wb_do_data_set"><translation>Откройте конфигурацию в полном окне, снимите лишние отметки на вкладке «Набор данных» и запишите её снова.</translation></message>
     <message id="wb_do_disk"><translation>Освободите место на диске и повторите.</translation></message>
     <message id="wb_do_file"><translation>Выберите другой файл или прочитайте конфигурацию из трекера.</translation></message>
     <message id="wb_do_save"><translation>Освободите место на диске или выберите другую папку и сохраните ещё раз.</translation></message>
+    <message id="wb_do_save_elsewhere"><translation>Выберите другую папку или другое имя и сохраните ещё раз.</translation></message>
     <message id="wb_do_telemetry_file"><translation>Выберите другой файл или сохраните период из трекера ещё раз.</translation></message>
     <message id="wb_drop_hint"><translation>Файл можно перетащить в это окно.</translation></message>
     <message id="wb_edited"><translation>Открыта:</translation></message>
@@ -1859,6 +1863,7 @@
     <message id="wb_refused_malformed"><translation>Файл повреждён, ошибка разметки:</translation></message>
     <message id="wb_refused_memory"><translation>Не удалось записать в память трекера:</translation></message>
     <message id="wb_refused_model"><translation>Конфигурация другой модели:</translation></message>
+    <message id="wb_refused_record"><translation>Запись с этим набором данных больше 512&#160;байт, которые трекер может хранить, байт:</translation></message>
     <message id="wb_refused_root"><translation>Файл не является конфигурацией, корневой элемент:</translation></message>
     <message id="wb_refused_silence"><translation>Трекер не отвечает.</translation></message>
     <message id="wb_refused_unplugged"><translation>Трекер отключился во время записи, в нём осталось прежнее.</translation></message>

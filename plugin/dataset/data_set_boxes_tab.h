@@ -1,8 +1,8 @@
 #pragma once
 
-// A tab of the data-set page whose boxes come from the table (settings/data_set_boxes.h): it makes
-// them, with their object names, in their groups, and carries out every operation for them. Checking a box
-// adds the bytes of its fields to the running size of the page.
+// A tab of the data-set page whose boxes come from the table (settings/data_set_boxes.h): it makes them,
+// with their object names, in their groups, and carries out every operation for them. Checking a box adds the
+// bytes of its fields to the running size of the page.
 
 #include "dataset/form_config_set_zeta3_tab.h"
 #include "settings/data_set_boxes.h"

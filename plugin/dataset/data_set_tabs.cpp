@@ -1,6 +1,6 @@
 #include "dataset/data_set_tabs.h"
 
-#include "dataset/catalogue/field_catalogue.h"
+#include "catalogue/field_catalogue.h"
 #include "windows/tab_menu.h"
 
 namespace vlk {

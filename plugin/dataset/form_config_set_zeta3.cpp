@@ -3,7 +3,6 @@
 #include "ui_VLK_Designer_Form_Config_Set_Zeta3.h"
 
 #include "dataset/data_set_tabs.h"
-#include "dataset/form_config_set_zeta3_tab_user.h"
 #include "settings/data_set_settings.h"
 #include "windows/form_param_about.h"
 #include "windows/tab_menu.h"
@@ -17,8 +16,6 @@ namespace {
 // Of a stored record: its frame and the fields that every record has.
 constexpr int kSmallestSize = 44;
 constexpr int kLargestSize = 512;
-
-constexpr int kUserPlace = vlk::DataSetTabs::kPlaces; // of the User tab
 
 const QColor kAlarm(255, 0, 0);
 const QColor kNoAlarm(120, 120, 120);
@@ -107,35 +104,26 @@ void VLK_Form_Config_Set_Zeta3::deviceDisconnected()
     tabs().forEach([](Tab& tab) { tab.onDeviceDisconnected(); });
 }
 
-VLK_Form_Config_Set_Zeta3_Tab_User* VLK_Form_Config_Set_Zeta3::userTab() const
-{
-    return qobject_cast<VLK_Form_Config_Set_Zeta3_Tab_User*>(tabs().at(kUserPlace));
-}
-
 void VLK_Form_Config_Set_Zeta3::userParamAdded(const QString& code, const QString& name, const QString& third,
                                                int size)
 {
-    if (auto* tab = userTab())
-        tab->userParamAdded(code, name, third, size);
+    tabs().forEach([&](Tab& tab) { tab.userParamAdded(code, name, third, size); });
 }
 
 void VLK_Form_Config_Set_Zeta3::userParamDeleted(const QString& code, const QString& name,
                                                  const QString& third, int size)
 {
-    if (auto* tab = userTab())
-        tab->userParamDeleted(code, name, third, size);
+    tabs().forEach([&](Tab& tab) { tab.userParamDeleted(code, name, third, size); });
 }
 
 void VLK_Form_Config_Set_Zeta3::loadUserParams(CXmlSection* root)
 {
-    if (auto* tab = userTab())
-        change([&] { tab->loadUserParams(root); });
+    change([&] { tabs().forEach([&](Tab& tab) { tab.loadUserParams(root); }); });
 }
 
 void VLK_Form_Config_Set_Zeta3::saveUserParams(CXmlSection* root)
 {
-    if (auto* tab = userTab())
-        tab->saveUserParams(root);
+    tabs().forEach([&](Tab& tab) { tab.saveUserParams(root); });
 }
 
 void VLK_Form_Config_Set_Zeta3::addSize(int bytes)

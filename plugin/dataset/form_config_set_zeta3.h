@@ -16,7 +16,6 @@
 #include <memory>
 
 class QAction;
-class VLK_Form_Config_Set_Zeta3_Tab_User;
 class VLK_Form_Param_About;
 
 namespace Ui {
@@ -46,8 +45,8 @@ public:
     void deviceDisconnected();
     vlk::PageSettings& settings() { return settings_; }
 
-    // What forms offer to the free slots of the record, and what the file holds of them, goes to the User tab
-    // where there is one. Loading and saving come behind all pages.
+    // What forms offer to the free slots of the record, and what the file holds of them, goes to the tabs; the
+    // User tab takes it. Loading and saving come behind all pages.
     void userParamAdded(const QString& code, const QString& name, const QString& third, int size);
     void userParamDeleted(const QString& code, const QString& name, const QString& third, int size);
     void loadUserParams(CXmlSection* root);
@@ -77,7 +76,6 @@ private:
     // Runs what changes many boxes; the size is looked at when all of them have changed.
     void change(const std::function<void()>& boxes);
     void checkSize();
-    VLK_Form_Config_Set_Zeta3_Tab_User* userTab() const;
 
     std::unique_ptr<Ui::VLK_Designer_Form_Config_Set_Zeta3> ui_;
     std::unique_ptr<VLK_Form_Param_About> help_;

@@ -1,7 +1,6 @@
 #include "dataset/form_config_set_zeta3_tab_user.h"
 
 #include "dataset/param_choice_dialog.h"
-#include "peripherals/modbus_row.h"
 #include "settings/configuration.h"
 #include "settings/params/param_catalogues.h"
 #include "settings/params/user_params.h"

@@ -15,7 +15,6 @@ struct ParamChoice;
 }
 
 class QPushButton;
-struct CXmlSection;
 
 class VLK_Form_Config_Set_Zeta3_Tab_User : public VLK_Form_Config_Set_Zeta3_Tab
 {
@@ -28,13 +27,11 @@ public:
     // Empties all slots.
     void afterDefaults() override;
 
-    // A form offers a value, or withdraws it. Sizes other than 1, 2, 4 and 8 bytes change nothing.
-    void userParamAdded(const QString& code, const QString& name, const QString& third, int size);
-    void userParamDeleted(const QString& code, const QString& name, const QString& third, int size);
-
-    // `root` is the element DEVICE; behind all pages, whose forms know the names.
-    void loadUserParams(CXmlSection* root);
-    void saveUserParams(CXmlSection* root);
+    // Sizes other than 1, 2, 4 and 8 bytes change nothing.
+    void userParamAdded(const QString& code, const QString& name, const QString& third, int size) override;
+    void userParamDeleted(const QString& code, const QString& name, const QString& third, int size) override;
+    void loadUserParams(CXmlSection* root) override;
+    void saveUserParams(CXmlSection* root) override;
 
     // Let the user choose what of the CAN bus, and which of the Modbus rows in use, is on offer.
     virtual void chooseCan();

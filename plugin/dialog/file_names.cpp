@@ -1,12 +1,12 @@
 #include "dialog/file_names.h"
 
 #include "base/clock.h"
+#include "base/file_name.h"
 #include "link/device.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
-#include <QRegularExpression>
 
 namespace vlk {
 
@@ -20,9 +20,7 @@ QString askConfigurationPath(QWidget* parent, const QString& objectName)
 {
     if (!vlkDevice)
         return {};
-    // The object's name may hold characters that a file name must not.
-    static const QRegularExpression forbidden(QStringLiteral("[\\\\/:*?\"<>|\\x00-\\x1f]"));
-    const QString name = QString(objectName).replace(forbidden, QStringLiteral("_"));
+    const QString name = asFileName(objectName, QStringLiteral("_"));
     const QString suggested =
         QStringLiteral("%1/%2(%3).xml")
             .arg(vlkDevice->xmlFolder(), name, now().toString(QStringLiteral("dd-MM-yy hh_mm_ss")));

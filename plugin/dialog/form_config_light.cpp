@@ -78,7 +78,7 @@ void VLK_Form_Config_Light::retranslate()
     ui_->retranslateUi(this);
     apnList_->retranslate();
     settings_.retranslate();
-    settings_.binder().selectFirstItems();
+    settings_.selectFirstItems();
     for (QGroupBox* sim : {ui_->Transfer_groupBox_GSM_1, ui_->groupBox_RSim_1})
         sim->setTitle(QStringLiteral("%1 1").arg(tr("cfgt1_025")));
     ui_->label_Psw_Warning->setText(QStringLiteral("%1!\r\n%2.").arg(tr("wrd_005"), tr("cfgt4_008")));

@@ -46,7 +46,7 @@ public Q_SLOTS:
     void slot_currentIndexChanged_Operator2(int) {}
     void slot_pressedBtnListApn();
     void slot_currentIndexChanged_RModeSim1(int) { settings_.take("comboBox_RModeSim_1"); }
-    void slot_currentIndexChanged_RModeSim2(int) { settings_.binder().evaluateRules(); }
+    void slot_currentIndexChanged_RModeSim2(int) { settings_.evaluateRules(); }
     void slot_textChanged_DNSMain(const QString&) { settings_.take("GPRSSrv_lineEdit_IP_DNS_Main"); }
     void slot_pressed_BtnTestMain();
     void slot_testConnected(const QString& peerIp, const QString& hostName, bool ok);

@@ -1,8 +1,8 @@
 #pragma once
 
 // All that a host of the plug-in VLK_Device_R-7106 needs; the numbers, records and the table of all messages
-// come with it from link/messages.h. Qt Core alone; host and plug-in must be built with
-// one ABI of Qt, because QString, QByteArray and QDateTime cross the boundary as they are.
+// come with it from link/messages.h. Qt Core alone; host and plug-in must be built with one ABI of Qt,
+// because QString, QByteArray and QDateTime cross the boundary as they are.
 //
 // The calling order:
 //   1. Create the QApplication, load the library (its device object is built then).

@@ -64,6 +64,8 @@ void VLK_Form_Config_Lines_In::setDefaults()
 {
     settings_.setDefaults();
     stopAuto();
+    for (VLK_Form_Lines_In_Settings* line : lines_)
+        line->setPresentValue(0);
 }
 
 void VLK_Form_Config_Lines_In::showUses()

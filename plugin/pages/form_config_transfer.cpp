@@ -68,7 +68,7 @@ void VLK_Form_Config_Transfer::retranslate()
     apnList_->retranslate();
     roamingList_->retranslate();
     settings_.retranslate();
-    settings_.binder().selectFirstItems();
+    settings_.selectFirstItems();
     vlk::alignColumns({ui_->gridLayout_Name, ui_->gridLayout_GSM_1, ui_->gridLayout_Servers,
                        ui_->gridLayout_Main, ui_->gridLayout_Reserv_1, ui_->gridLayout_Reserv_2,
                        ui_->gridLayout_Srv_Operation, ui_->gridLayout_Permanent_Connect,

@@ -63,7 +63,7 @@ public Q_SLOTS:
     void slot_currentIndexChanged_TypeConnect(int) { settings_.take("Srv_Operation_comboBox_TypeConnect"); }
     void slot_pressed_Btn_Crypto();
     void slot_pressed_Btn_Crypto_Clear();
-    void slot_stateChanged_Crypto(int) { settings_.binder().evaluateRules(); }
+    void slot_stateChanged_Crypto(int) { settings_.evaluateRules(); }
     void slot_currentIndexChanged_RModeSim1(int) { settings_.take("comboBox_RModeSim_1"); }
     void slot_pressed_RListOperSim1();
     void slot_valueChanged_RBlockH(int) { settings_.take("spinBox_RBlockH"); }

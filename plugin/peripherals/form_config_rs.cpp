@@ -2,6 +2,7 @@
 
 #include "ui_VLK_Designer_Form_Config_RS.h"
 
+#include "peripherals/form_config_rs_param_canlog.h"
 #include "peripherals/rs_owner_forms.h"
 #include "settings/rs_settings.h"
 #include "windows/input_guard.h"
@@ -154,6 +155,20 @@ void VLK_Form_Config_RS::takeChange(const QString& path)
         shown_->form->applyLineSettings();
 }
 
+void VLK_Form_Config_RS::connectForm(VLK_Form_Config_RS_Param* form)
+{
+    using Form = VLK_Form_Config_RS_Param;
+    using CanLog = VLK_Form_Config_RS_Param_CanLog;
+    using Page = VLK_Form_Config_RS;
+    connect(form, &Form::changeRs_Settings, this, &Page::slot_SetRS485_Settings);
+    connect(form, &Form::signal_UserParam_Add, this, &Page::slot_UserParam_Add);
+    connect(form, &Form::signal_UserParam_Del, this, &Page::slot_UserParam_Del);
+    if (auto* canLog = qobject_cast<CanLog*>(form)) {
+        connect(canLog, &CanLog::getCanLogProgramm, this, &Page::slot_CanLogProgramm_Get);
+        connect(canLog, &CanLog::setCanLogProgramm, this, &Page::slot_CanLogProgramm_Set);
+    }
+}
+
 const VLK_Form_Config_RS::MadeForm* VLK_Form_Config_RS::madeFor(const QString& owner)
 {
     auto made = made_.find(owner);
@@ -161,12 +176,11 @@ const VLK_Form_Config_RS::MadeForm* VLK_Form_Config_RS::madeFor(const QString& o
         const vlk::RsOwnerForm* entry = vlk::formOfOwner(owner);
         if (!entry)
             return nullptr;
-        VLK_Form_Config_RS_Param* form = entry->make(*this);
+        VLK_Form_Config_RS_Param* form = entry->make(this);
         // The rows of the device name its widgets by this.
         form->setObjectName(owner);
         form->setSettings(&settings_);
-        connect(form, &VLK_Form_Config_RS_Param::changeRs_Settings, this,
-                &VLK_Form_Config_RS::slot_SetRS485_Settings);
+        connectForm(form);
         made = made_.insert(owner, {entry, form});
         vlk::guardInputs(form);
         settings_.join(form);

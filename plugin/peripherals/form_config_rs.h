@@ -64,6 +64,7 @@ private:
 
     void setConnected(bool connected);
     void takeChange(const QString& path);
+    void connectForm(VLK_Form_Config_RS_Param* form);
     const MadeForm* madeFor(const QString& owner);
     void showForm();
     void showNotice();

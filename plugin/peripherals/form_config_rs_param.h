@@ -40,6 +40,10 @@ public:
 Q_SIGNALS:
     // Texts as the line's combo boxes hold them: "19200", "None", "1".
     void changeRs_Settings(const QString& speed, const QString& parity, const QString& stop);
+    // A value is there for the free slots of the record, or is no more; `third` may be empty, the size is in
+    // bytes.
+    void signal_UserParam_Add(const QString& code, const QString& name, const QString& third, int size);
+    void signal_UserParam_Del(const QString& code, const QString& name, const QString& third, int size);
 
 protected:
     vlk::PageSettings* settings_ = nullptr;

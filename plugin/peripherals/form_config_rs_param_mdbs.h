@@ -47,10 +47,6 @@ public Q_SLOTS:
     void slot_currentIndexChanged_Interface_Events_Condition(int row, const QString& text);
     void slot_toggled_Calc_NumType(bool on);
 
-Q_SIGNALS:
-    void signal_UserParam_Add(const QString& code, const QString& name, const QString& third, int size);
-    void signal_UserParam_Del(const QString& code, const QString& name, const QString& third, int size);
-
 private:
     struct Line
     {

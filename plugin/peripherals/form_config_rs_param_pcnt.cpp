@@ -56,7 +56,7 @@ VLK_Form_Config_RS_Param_Pcnt::~VLK_Form_Config_RS_Param_Pcnt() = default;
 void VLK_Form_Config_RS_Param_Pcnt::retranslate()
 {
     if (hasDoors())
-        tellParams(&VLK_Form_Config_RS_Param_Pcnt::signal_UserParam_Del);
+        tellParams(&VLK_Form_Config_RS_Param::signal_UserParam_Del);
     ui_->retranslateUi(this);
     params_ = std::make_unique<VLK_UserParams>();
     slot_currentIndexChanged_Type(ui_->comboBox_Type->currentText());
@@ -71,10 +71,10 @@ void VLK_Form_Config_RS_Param_Pcnt::slot_currentIndexChanged_Type(const QString&
 {
     if (type == QLatin1String("ACOND")) {
         ui_->stackedWidget->setCurrentWidget(ui_->page_ACode);
-        tellParams(&VLK_Form_Config_RS_Param_Pcnt::signal_UserParam_Add);
+        tellParams(&VLK_Form_Config_RS_Param::signal_UserParam_Add);
     } else if (type == QLatin1String("PP01")) {
         ui_->stackedWidget->setCurrentWidget(ui_->page_PP01);
-        tellParams(&VLK_Form_Config_RS_Param_Pcnt::signal_UserParam_Del);
+        tellParams(&VLK_Form_Config_RS_Param::signal_UserParam_Del);
     }
 }
 

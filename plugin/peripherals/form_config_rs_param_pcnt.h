@@ -24,11 +24,6 @@ public:
 
     void retranslate() override;
 
-Q_SIGNALS:
-    // A value of the counter is there for the record, or is no more: code, name, nothing, bytes.
-    void signal_UserParam_Add(const QString& code, const QString& name, const QString& third, int size);
-    void signal_UserParam_Del(const QString& code, const QString& name, const QString& third, int size);
-
 public Q_SLOTS:
     void slot_currentIndexChanged_Type(const QString& type);
     void slot_stateChanged_Passager(int counter);
@@ -37,8 +32,7 @@ public Q_SLOTS:
     void slot_stateChanged_ACore_SM_SendNavi(int state);
 
 private:
-    using Signal = void (VLK_Form_Config_RS_Param_Pcnt::*)(const QString&, const QString&, const QString&,
-                                                           int);
+    using Signal = void (VLK_Form_Config_RS_Param::*)(const QString&, const QString&, const QString&, int);
 
     bool hasDoors() const;
     void tellParams(Signal signal);

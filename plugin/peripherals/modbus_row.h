@@ -15,9 +15,6 @@ class QWidget;
 
 namespace vlk {
 
-// Of the user parameters that Modbus gives.
-inline constexpr char kModbusCode[] = "MB";
-
 // The texts of a row's lists, in the language of the moment, and their widths.
 struct ModbusLists
 {

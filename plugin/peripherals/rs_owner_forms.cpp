@@ -1,6 +1,5 @@
 #include "peripherals/rs_owner_forms.h"
 
-#include "peripherals/form_config_rs.h"
 #include "peripherals/form_config_rs_param_canlog.h"
 #include "peripherals/form_config_rs_param_flds.h"
 #include "peripherals/form_config_rs_param_mdbs.h"
@@ -17,26 +16,16 @@ namespace {
 using Base = RsOwnerForm::Form;
 
 template <class Form>
-Base* make(VLK_Form_Config_RS& page)
+Base* make(QWidget* parent)
 {
-    using Page = VLK_Form_Config_RS;
-    auto* form = new Form(&page);
-    if constexpr (requires { &Form::signal_UserParam_Add; }) {
-        QObject::connect(form, &Form::signal_UserParam_Add, &page, &Page::slot_UserParam_Add);
-        QObject::connect(form, &Form::signal_UserParam_Del, &page, &Page::slot_UserParam_Del);
-    }
-    if constexpr (requires { &Form::getCanLogProgramm; }) {
-        QObject::connect(form, &Form::getCanLogProgramm, &page, &Page::slot_CanLogProgramm_Get);
-        QObject::connect(form, &Form::setCanLogProgramm, &page, &Page::slot_CanLogProgramm_Set);
-    }
-    return form;
+    return new Form(parent);
 }
 
 // Six sensors, whose calibration stays with the sensor.
 template <>
-Base* make<VLK_Form_Config_RS_Param_Flds_RS485>(VLK_Form_Config_RS& page)
+Base* make<VLK_Form_Config_RS_Param_Flds_RS485>(QWidget* parent)
 {
-    auto* form = new VLK_Form_Config_RS_Param_Flds_RS485(true, &page);
+    auto* form = new VLK_Form_Config_RS_Param_Flds_RS485(true, parent);
     form->hideCalibration();
     return form;
 }

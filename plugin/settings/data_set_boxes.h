@@ -6,7 +6,7 @@
 //
 // A box that this tracker does not show counts like any other: it keeps what a file says of it.
 
-#include "dataset/catalogue/field_catalogue.h"
+#include "catalogue/field_catalogue.h"
 #include "settings/settings_table.h"
 
 #include <initializer_list>

@@ -1,6 +1,6 @@
 #include "settings/data_set_settings.h"
 
-#include "dataset/catalogue/field_mask.h"
+#include "catalogue/field_mask.h"
 #include "settings/data_set_boxes.h"
 
 namespace vlk {

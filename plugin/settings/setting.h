@@ -167,6 +167,10 @@ struct Setting
     int maxLength = 0;               // characters; 0: no limit
     const char* pattern = nullptr;   // what can be typed
     const char* inputMask = nullptr; // form of the text, for line edits with a mask
+    // What the text should look like, and the translation key of what is wrong with it otherwise. Another one
+    // is taken and saved as it is, and marked in the widget.
+    const char* expectedPattern = nullptr;
+    const char* unexpectedKey = nullptr;
 
     const char* unitKey = nullptr;
     const char* captionKey = nullptr;
@@ -251,6 +255,10 @@ struct Setting
     constexpr Setting atLeast(double seconds) const { return having(&Setting::least, seconds); }
     constexpr Setting upTo(int characters) const { return having(&Setting::maxLength, characters); }
     constexpr Setting typed(const char* expression) const { return having(&Setting::pattern, expression); }
+    constexpr Setting expected(const char* expression, const char* complaint) const
+    {
+        return having(&Setting::expectedPattern, expression).having(&Setting::unexpectedKey, complaint);
+    }
     constexpr Setting masked(const char* mask) const { return having(&Setting::inputMask, mask); }
     constexpr Setting readLast() const { return having(&Setting::last, true); }
     constexpr Setting keeping() const { return having(&Setting::kept, true); }

@@ -10,6 +10,18 @@ namespace vlk::shared {
 
 inline constexpr const char* kNoServer = "0.0.0.0";
 
+// Nothing, an IPv4 address, or the name of a host: labels of up to 63 letters, digits, hyphens and
+// underscores.
+inline constexpr const char* kHostPattern =
+    R"(^$|^(?:(?:25[0-5]|2[0-4]\d|1?\d?\d)(?:\.(?!$)|$)){4}$)"
+    R"(|^(?!(?:\d+\.)*\d*$)(?:[A-Za-z0-9_](?:[A-Za-z0-9_-]{0,61}[A-Za-z0-9_])?(?:\.|$))+$)";
+
+// The address of a server, in whatever form the row has.
+constexpr Setting host(const Setting& row)
+{
+    return row.expected(kHostPattern, "cfgt1_125");
+}
+
 inline constexpr Code kRoamingModes[] = {{.code = "0", .label = "cfgt1_017"},
                                          {.code = "1", .label = "cfgt1_018"},
                                          {.code = "2", .label = "cfgt1_019"},

@@ -66,10 +66,10 @@ constexpr auto kRows = rowsOf(
         .unit("abbr_002")
         .in("spinBox_NTP_FaultPeriod")
         .caption("cfgt4_012"),
-    text("ntpSrv1", "0.pool.ntp.org").upTo(23).in("lineEdit_NTP_Srv_1").caption("cfgt4_013"),
-    text("ntpSrv2", "1.pool.ntp.org").upTo(23).in("lineEdit_NTP_Srv_2").caption("cfgt4_014"),
-    text("ntpSrv3", "2.pool.ntp.org").upTo(23).in("lineEdit_NTP_Srv_3").caption("cfgt4_015"),
-    text("ntpSrv4", "3.pool.ntp.org").upTo(23).in("lineEdit_NTP_Srv_4").caption("cfgt4_016"));
+    shared::host(text("ntpSrv1", "0.pool.ntp.org")).upTo(23).in("lineEdit_NTP_Srv_1").caption("cfgt4_013"),
+    shared::host(text("ntpSrv2", "1.pool.ntp.org")).upTo(23).in("lineEdit_NTP_Srv_2").caption("cfgt4_014"),
+    shared::host(text("ntpSrv3", "2.pool.ntp.org")).upTo(23).in("lineEdit_NTP_Srv_3").caption("cfgt4_015"),
+    shared::host(text("ntpSrv4", "3.pool.ntp.org")).upTo(23).in("lineEdit_NTP_Srv_4").caption("cfgt4_016"));
 
 // Without the line that measures the supply voltage nothing can be told from it.
 constexpr auto kBounds = rulesOf(Bound{.when = unless("PWRSENS/line"), .path = "FUEL/sensors", .to = "*00"});

@@ -71,7 +71,7 @@ constexpr auto kServerRows = repeat<3>([](int number) {
     return rowsOf(
         group("SRV%1"),
         flag("use", 0).resetTo(server.usedAfterReset ? 1 : 0).notStored().in(server.use).caption("cfgt1_023"),
-        text("addr", kNoServer)
+        shared::host(text("addr", kNoServer))
             .resetTo("")
             .savedAs(kNoServer, when("SRV%1/use"))
             .in(server.address)

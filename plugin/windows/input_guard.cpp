@@ -101,4 +101,9 @@ void guardInputs(QWidget* page)
     }
 }
 
+void limitTyping(QWidget* box)
+{
+    box->installEventFilter(new InputFilter(box));
+}
+
 } // namespace vlk

@@ -10,4 +10,7 @@ namespace vlk {
 
 void guardInputs(QWidget* page);
 
+// The range of what is typed into one spin box, where nothing else is to be guarded.
+void limitTyping(QWidget* box);
+
 } // namespace vlk

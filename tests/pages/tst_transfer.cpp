@@ -30,6 +30,36 @@ private Q_SLOTS:
         QCOMPARE(textOf("GPRSSrv_lineEdit_IP_DNS_Reserv_1"), QString("0.0.0.0"));
     }
 
+    // What cannot be an address is marked and saved all the same.
+    void addressThatCannotBe_data()
+    {
+        DataTable<QString, bool>({"address", "marked"})
+            .row("none", "", false)
+            .row("IP", "10.0.255.1", false)
+            .row("host", "srv-1.fleet_2.example.com", false)
+            .row("single label", "localhost", false)
+            .row("root of the names", "example.com.", false)
+            .row("digits first", "1c.example", false)
+            .row("blank inside", "srv 1.example", true)
+            .row("address of a page", "http://example.com", true)
+            .row("Cyrillic", "трекер.рф", true)
+            .row("number too large", "10.0.256.1", true)
+            .row("three numbers", "10.0.1", true)
+            .row("empty label", "srv..example", true)
+            .row("point at the end", "10.0.0.1.", true)
+            .row("hyphen first", "-srv.example", true);
+    }
+    void addressThatCannotBe()
+    {
+        QFETCH(QString, address);
+        auto* edit = get<QLineEdit>("GPRSSrv_lineEdit_IP_DNS_Main");
+        edit->setText(address);
+        const QAction* sign = edit->actions().value(0);
+        QTEST(sign && sign->isVisible(), "marked");
+        QCOMPARE(sign->toolTip(), QString("cfgt1_125"));
+        QCOMPARE(saved("SRV1/addr"), address);
+    }
+
     void objectName()
     {
         load({{"OBJECT/name", "Грузовик <7> & «прицеп»"}, {"AP1/pass", "a \"b\" 'c'"}});

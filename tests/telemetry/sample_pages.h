@@ -86,7 +86,7 @@ inline QString difference(const TelemetryPages& left, const TelemetryPages& righ
     if (left.size() != right.size())
         return QStringLiteral("%1 and %2 pages").arg(left.size()).arg(right.size());
     const auto sizes = [](const ExtraPacket& packet) {
-        return std::tuple(packet.size(), packet.stVer(), packet.stSize(), packet.hVer(), packet.hSize());
+        return std::tuple(packet.countedBytes(), packet.stVer(), packet.stSize(), packet.hVer(), packet.hSize());
     };
     for (std::size_t i = 0; i < left.size(); ++i) {
         const TmiPage_Zeta3& a = *left[i];

@@ -99,6 +99,10 @@ private Q_SLOTS:
         QCOMPARE(child<QSlider>("horizontalSlider")->value(), 2);
         QCOMPARE(number(), QString("5"));
         QVERIFY(child<QWidget>("pushButton_Go")->isHidden());
+        // A number beyond the last position is not cut to its first digits.
+        child<QSpinBox>("spinBox_Go")->selectAll();
+        QTest::keyClicks(child<QSpinBox>("spinBox_Go"), "15");
+        QCOMPARE(number(), QString("6"));
 
         // The next file begins at its own beginning.
         showPages(numbered({8, 9}));

@@ -1,6 +1,6 @@
 // The names, groups and sums of the catalogue, each fact a second time and in another way.
 
-#include "dataset/catalogue/field_mask.h"
+#include "catalogue/field_mask.h"
 #include "support/data_table.h"
 
 #include <QRegularExpression>

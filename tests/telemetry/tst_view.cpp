@@ -385,7 +385,9 @@ private Q_SLOTS:
                 red += letter;
         }
         QTEST(red, "red");
-        QTEST(form->findChild<QProgressBar*>("progressBar_GSM_Level_Value")->value(), "bar");
+        const auto* level = form->findChild<QProgressBar*>("progressBar_GSM_Level_Value");
+        QTEST(level->value(), "bar");
+        QCOMPARE(level->format(), QString("%p %"));
     }
 
     void keysAndTags()

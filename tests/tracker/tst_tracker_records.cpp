@@ -2,10 +2,10 @@
 
 #include "bench_tracker.h"
 #include "check/record_check.h"
+#include "record_values.h"
 #include "support/data_table.h"
-#include "tracker/vehicle.h"
 
-#include "dataset/catalogue/field_mask.h"
+#include "catalogue/field_mask.h"
 
 #include <QtTest>
 
@@ -14,209 +14,11 @@
 using vlk::element;
 using vlk::Message;
 
-namespace {
-
-constexpr int head = 34;
-
-template <typename T>
-T at(const QByteArray& bytes, int offset)
-{
-    T value{};
-    if (offset >= 0 && offset + int(sizeof value) <= bytes.size())
-        memcpy(&value, bytes.constData() + offset, sizeof value);
-    return value;
-}
-
-// Of a record that holds every field.
-template <typename T>
-T value(const QByteArray& record, vlk::ElementIndex index)
-{
-    return at<T>(record, head + vlk::kElements[index].offset);
-}
-
-quint32 numberOf(const QByteArray& record)
-{
-    return at<quint32>(record, quint8(record.at(0)) == 177 ? 5 : head);
-}
-
-QByteArray dataSet(const QByteArray& format, const std::string& mask)
-{
-    return "<DEVICE model=\"R-7106\"><PROTOCOL><ZETA format=\"" + format + "\" mask=\"" +
-           QByteArray::fromStdString(mask) + "\"/></PROTOCOL></DEVICE>";
-}
-
-} // namespace
-
 class TestTrackerRecords : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    // What a written configuration changes in the records behind it, over two days. A key or a whole element
-    // of the factory's configuration is put in another's place; codes come so often, "+" is any number more.
-    void recordsFollowTheConfiguration_data()
-    {
-        const QByteArray points = "angleMode=\"2\" angle=\"5\" useDist=\"1\" dist=\"250\" useTimer=\"1\" "
-                                  "moveTimer=\"12\" moveTimerSens=\"100\" stopTimer=\"300\"=>";
-        const QByteArray byTime = points + "angleMode=\"0\" useDist=\"0\" useTimer=\"1\" stopTimer=\"0\" ";
-        const QByteArray byAngle = points + "angleMode=\"1\" useDist=\"0\" useTimer=\"0\" ";
-        const QByteArray door = "normState=\"NB-\"=>";
-        const QByteArray start = "useMoveSens=\"1\"=>useMoveSens=\"0\"";
-        const auto supply = [](const QByteArray& alarm, const QByteArray& delay) {
-            const QByteArray begin = "<PWRSENS line=\"";
-            return begin + "0\" alarmLvl=\"10500\" restoreLvl=\"11000\" delay=\"0\"=>" + begin +
-                   "3\" alarmLvl=\"" + alarm + "\" restoreLvl=\"13200\" delay=\"" + delay + '"';
-        };
-        DataTable<QByteArrayList, QString>({"changes", "codes"})
-            .row("factory's", {}, "10:3-20 22:3-20 26:0 34:0 39:0")
-            .row(
-                "no points, every event",
-                {points + "angleMode=\"0\" useDist=\"0\" useTimer=\"0\"", "maxSpeed=\"90\"=>maxSpeed=\"30\"",
-                 "ign=\"1\"=>ign=\"0\"", "<IN2DIN cntlRestore=\"1\"=><IN2DIN cntlRestore=\"0\"",
-                 "thld=\"500\" trhldOff=\"1\"=>thld=\"100\" trhldOff=\"0\"", supply("12900", "0"),
-                 "max=\"8.0\"=>max=\"3.0\"", "sh1=\"50.0\"=>sh1=\"40.0\"", "sh2=\"100.0\"=>sh2=\"60.0\"",
-                 "sh4=\"25.00\"=>sh4=\"3.00\""},
-                "2:0 3:0 4:0 5:0 10:0 12:20-300 14:40+ 20:3-20 22:3-20 23:0 26:50+ 30:3+ 31:1+ 33:3+ 34:3-20 "
-                "35:3-20 36:3-20 39:2+")
-            .row("time",
-                 {byTime + "moveTimer=\"60\"", start, "useMaxSpeed=\"1\"=>useMaxSpeed=\"0\"",
-                  door + "normState=\"NS-\"", supply("10500", "0"), "min=\"-25.0\"=>min=\"4.0\"",
-                  "sh1=\"50.0\"=>sh1=\"100.0\""},
-                 "2:300-900 12:0 14:0 23:3-20 30:0 34:0 38:2+")
-            .row("a period of 0",
-                 {byTime + "moveTimer=\"0\"", door + "normState=\"NU\"", supply("12900", "90000")},
-                 "2:0 22:0 34:0")
-            .row("parked", {"stopTimer=\"300\"=>stopTimer=\"3600\""}, "5:10-60")
-            .row("way, the engine without records",
-                 {points + "angleMode=\"0\" useTimer=\"0\" useDist=\"1\" dist=\"1000\"",
-                  "noEvent=\"0\" delay=\"0\"/>\n\t\t<PWRSENS=>noEvent=\"1\"/><PWRSENS", supply("12900", "0")},
-                 "3:100-600 34:3-20 36:0")
-            .row("fixed angle", {byAngle + "angle=\"20\""}, "4:20-1500")
-            .row("a wide angle", {byAngle + "angle=\"90\""}, "4:0-60");
-    }
-    void recordsFollowTheConfiguration()
-    {
-        QFETCH(QByteArrayList, changes);
-        QFETCH(QString, codes);
-        BenchTracker bench;
-        QByteArray document = bench.configuration();
-        for (const QByteArray& change : changes) {
-            const int arrow = change.indexOf("=>");
-            QVERIFY2(document.contains(change.left(arrow)), change.constData());
-            document.replace(change.left(arrow), change.mid(arrow + 2));
-        }
-        const quint32 newest = numberOf(bench.currentRecord());
-        const QByteArray before = bench.recordByNumber(newest);
-        QVERIFY(bench.write(document).accepted);
-        QCOMPARE(bench.recordByNumber(newest), before);
-        bench.now += 2LL * 86400;
-        bench.restart();
-        bench.tracker->setFullDataSet(true);
-        const quint32 last = numberOf(bench.currentRecord());
-        QVERIFY(last > newest);
-        const QVector<QByteArray> records = bench.records(newest + 1, last - newest);
-        QCOMPARE(quint32(records.size()), last - newest);
-        QMap<int, int> counts;
-        for (const QByteArray& record : records)
-            if (quint8(record.at(0)) == 176)
-                ++counts[value<quint16>(record, element("Code"))];
-        static const QRegularExpression wanted("(\\d+):(\\d+)(?:-(\\d+)|(\\+))?");
-        for (auto each = wanted.globalMatch(codes); each.hasNext();) {
-            const auto found = each.next();
-            const int count = counts[found.captured(1).toInt()];
-            const int least = found.captured(2).toInt();
-            const int most = found.captured(3).isEmpty() ? least : found.captured(3).toInt();
-            QVERIFY2(count >= least && (count <= most || !found.captured(4).isEmpty()),
-                     qPrintable(found.captured() + " is " + QString::number(count)));
-        }
-    }
-
-    // Voltages asked for live are those of the lines in the records, and an output follows its events.
-    void linesAndOutputAgreeWithTheLiveAnswers()
-    {
-        BenchTracker bench;
-        bench.tracker->setFullDataSet(true);
-        QByteArray document = bench.configuration();
-        document.replace("<PWRSENS line=\"0\" alarmLvl=\"10500\" restoreLvl=\"11000\"",
-                         "<PWRSENS line=\"3\" alarmLvl=\"12900\" restoreLvl=\"13200\"");
-        // Off with the ignition's voltage, on without it.
-        document.replace("mode=\"ZUM\" actions=\"00000000000000000000\"",
-                         "mode=\"GP\" onDelay=\"0\" actions=\"00000000012000000000\"");
-        QVERIFY(bench.write(document).accepted);
-        int on = 0;
-        for (int hour = 1; hour <= 24; ++hour) {
-            bench.now += 3600;
-            const QByteArray record = bench.currentRecord();
-            QByteArray list("21,22,23");
-            const auto line = [&record](int i) {
-                return at<quint16>(record, head + vlk::kElements[element("StateU_Ain1")].offset + 2 * i);
-            };
-            QCOMPARE(bench.ask(Message::RequestLines, &list).first,
-                     QString::asprintf("LINES: 21:%X,22:%X,23:%X", line(0), line(1), line(2)).toLatin1());
-            const auto supply = value<quint16>(record, element("Power"));
-            QCOMPARE(at<quint16>(bench.ask(Message::RequestSupply).first, 14), supply);
-            QCOMPARE(value<quint16>(record, element("StateU_Ain3")), supply);
-            const bool output = value<quint8>(record, element("StateOut1")) & 1;
-            QCOMPARE(output, supply < 12900);
-            on += output;
-        }
-        QVERIFY(on > 0 && on < 24);
-    }
-
-    void outputWaits_data()
-    {
-        // The supply falls while the vehicle drives, and it stops after 100 seconds. -1: the line stays off.
-        DataTable<int, int, QByteArray, int>({"delay", "whenSafe", "actions", "onAfter"})
-            .row("at once", 0, 0, "00000000010000000000", 0)
-            .row("delayed", 60, 0, "00000000010000000000", 60)
-            .row("when the vehicle stands", 0, 1, "00000000010000000000", 100)
-            .row("both", 60, 1, "00000000010000000000", 160)
-            .row("nothing", 0, 0, "00000000000000000000", -1);
-    }
-    void outputWaits()
-    {
-        QFETCH(QByteArray, actions);
-        QFETCH(int, delay);
-        QFETCH(int, whenSafe);
-        constexpr int end = 300;
-        tracker::WorkingSettings settings;
-        settings.supply = {.line = 3, .alarm = 30000, .restore = 31000};
-        settings.shockLevels = {5000, 0, 0, 0};
-        settings.output.use = 1;
-        for (int i = 0; i < actions.size(); ++i)
-            settings.output.actions[std::size_t(i)] = actions[i] - '0';
-        settings.output.delay = delay;
-        settings.output.whenSafe = whenSafe;
-        tracker::Moment moment;
-        moment.sensed.shocks = 1;
-        moment.settings = std::make_shared<tracker::WorkingSettings>(settings);
-        int onAfter = -1;
-        for (int second = 0; second < end; ++second) {
-            moment.time = 1780000000 + second;
-            moment.activity = second < 100 ? tracker::Activity::Driving : tracker::Activity::Parked;
-            std::vector<tracker::EventCode> events;
-            moment.sensed = sense(tracker::Vehicle(moment, {}), settings, events);
-            if (onAfter < 0 && moment.sensed.outputNow(settings.output, moment.time))
-                onAfter = second;
-        }
-        QTEST(onAfter, "onAfter");
-    }
-
-    void restoredShockSensorSwitchesTheOutput()
-    {
-        tracker::WorkingSettings settings;
-        settings.shockLevels = {5000, 0, 0, 0};
-        settings.output.use = 1;
-        settings.output.actions[16] = 2;
-        tracker::Moment moment;
-        moment.sensed.output = true;
-        for (const quint8 shocks : {quint8(0), quint8(1)}) {
-            moment.sensed.shocks = shocks;
-            std::vector<tracker::EventCode> events;
-            QCOMPARE(sense(tracker::Vehicle(moment, {}), settings, events).output, shocks == 0);
-        }
-    }
-
     void recordsHoldWhatTheConfigurationAsksFor_data()
     {
         DataTable<QByteArray, int, int>({"format", "fields", "switched"})
@@ -237,7 +39,7 @@ private Q_SLOTS:
         for (int round = 0; round < 8; ++round) {
             std::string text(255, '0');
             for (char& c : text)
-                c = random.bounded(4) < round % 4 + 1 ? '1' : '0';
+                c = random.bounded(5) < round % 3 + 1 ? '1' : '0';
             QVERIFY(bench.write(dataSet(format, text)).accepted);
             const QByteArray record = bench.recordByNumber(70000);
             const auto asked = vlk::FieldMask::fromText(text.substr(0, fields));
@@ -260,25 +62,50 @@ private Q_SLOTS:
         QCOMPARE(bench.ask(Message::RequestCurrentRecord).first.size(), vlk::shortestCurrentRecord);
     }
 
-    // What the serial line's owner and its settings put into the fields of its devices.
+    // What the serial line's owner and the Bluetooth sensors put into the fields of their devices.
     void devicesOnTheLine_data()
     {
+        const auto line = [](const QByteArray& rows) { return "<RS485>" + rows + "</RS485>"; };
+        const auto heard = [](const QByteArray& rows) {
+            return "<BLUETOOTH><GLOBAL use=\"1\"/>" + rows + "</BLUETOOTH>";
+        };
+        const QByteArray tank = "<SENS1 type=\"1\" macaddr=\"c4:64:e3:0b:52:10\"/><FS1 idx=\"3\"/>";
         DataTable<QByteArray, QString>({"settings", "filled"})
-            .row("nothing", "<OPTIONS owner1=\"\"/>", "")
-            .row("sensors by their addresses",
-                 "<OPTIONS owner1=\"FLDS\"/><FS2 use=\"1\" address=\"1\"/><FS3 use=\"1\" address=\"99\"/>"
-                 "<FS9 use=\"1\" address=\"1\"/><FS1 use=\"0\" address=\"1\"/>",
-                 "LevelRS485_2 LevelRS485_9")
-            .row("tyres", "<OPTIONS owner1=\"TPMS\"/><FS1 use=\"1\" address=\"1\"/>", "TiresPres1")
-            .row("refrigerator", "<OPTIONS owner1=\"REFR\"/>", "RefrTension")
-            .row("tachograph", "<OPTIONS owner1=\"TACH\"/>", "TahoOdometer")
-            .row("counters", "<OPTIONS owner1=\"PCNT\"/><PCNT type=\"PP01\" id2=\"7\"/>", "Passager_2");
+            .row("nothing", line("<OPTIONS owner1=\"\"/>"), "")
+            .row(
+                "sensors by their addresses",
+                line("<OPTIONS owner1=\"FLDS\"/><FS2 use=\"1\" address=\"1\"/><FS3 use=\"1\" address=\"99\"/>"
+                     "<FS9 use=\"1\" address=\"1\"/><FS1 use=\"0\" address=\"1\"/>"),
+                "LevelRS485_2 LevelRS485_9")
+            .row("tyres", line("<OPTIONS owner1=\"TPMS\"/><FS1 use=\"1\" address=\"1\"/>"), "TiresPres1")
+            .row("refrigerator", line("<OPTIONS owner1=\"REFR\"/>"), "RefrTension")
+            .row("tachograph", line("<OPTIONS owner1=\"TACH\"/>"), "TahoOdometer")
+            .row("counters", line("<OPTIONS owner1=\"PCNT\"/><PCNT type=\"PP01\" id2=\"7\"/>"), "Passager_2")
+            .row("tank by Bluetooth", heard(tank), "LevelRS485_3")
+            .row("Bluetooth off", "<BLUETOOTH><GLOBAL use=\"0\"/>" + tank + "</BLUETOOTH>", "")
+            .row("the line goes first",
+                 line("<OPTIONS owner1=\"FLDS\"/><FS3 use=\"1\" address=\"1\"/>") + heard(tank),
+                 "LevelRS485_3")
+            .row("climate", heard("<SENS4 type=\"2\" macaddr=\"E2:15:00:01:3A:8F\"/><TS4 idx=\"2\"/>"),
+                 "HPrecisionTemp2 HPrecisionHumidity2")
+            .row("temperature alone",
+                 heard("<SENS2 type=\"2\" macaddr=\"C4:64:E3:0B:77:A1\"/><TS2 idx=\"1\"/>"),
+                 "HPrecisionTemp1")
+            .row("not around, another thing, another type",
+                 heard("<SENS1 type=\"1\" macaddr=\"00:00:00:00:00:01\"/><FS1 idx=\"1\"/>"
+                       "<SENS2 type=\"1\" macaddr=\"F4:BC:DA:12:60:7E\"/><FS2 idx=\"2\"/>"
+                       "<SENS3 type=\"2\" macaddr=\"C4:64:E3:0B:60:2C\"/><FS3 idx=\"3\"/><TS3 idx=\"1\"/>"),
+                 "");
     }
     void devicesOnTheLine()
     {
         QFETCH(QByteArray, settings);
         BenchTracker bench;
-        QVERIFY(bench.write("<DEVICE model=\"R-7106\"><RS485>" + settings + "</RS485></DEVICE>").accepted);
+        // A section that is not written stays.
+        for (const char* section : {"RS485", "BLUETOOTH"})
+            if (!settings.contains(section))
+                settings += QByteArray("<") + section + "/>";
+        QVERIFY(bench.write("<DEVICE model=\"R-7106\">" + settings + "</DEVICE>").accepted);
         bench.now += 60;
         bench.tracker->setFullDataSet(true);
         const QByteArray record = bench.currentRecord();
@@ -298,6 +125,10 @@ private Q_SLOTS:
         look("TahoOdometer", 0xFFFFFFFF);
         look("Passager_1", 255);
         look("Passager_2", 255);
+        for (const char* name : {"HPrecisionTemp1", "HPrecisionTemp2"})
+            look(name, 0x8000);
+        for (const char* name : {"HPrecisionHumidity1", "HPrecisionHumidity2"})
+            look(name, 255);
         QTEST(filled.join(' '), "filled");
     }
 
@@ -490,6 +321,19 @@ private Q_SLOTS:
                            "<SRV3 addr=\"gate.example.com\"/></TRANS></DEVICE>")
                     .accepted);
         QCOMPARE(servers(), 4);
+        // The maker's service and Bluetooth, by their settings.
+        const auto links = [&] { return value<quint8>(bench.currentRecord(), element("StateCnct")) >> 6; };
+        QCOMPARE(links(), 3);
+        QVERIFY(bench
+                    .write("<DEVICE model=\"R-7106\"><TRANS><SRV1 addr=\"gate.example.com\"/><QSP use=\"0\"/>"
+                           "<RULES cnctType=\"0\" cnctTimer=\"600\"/></TRANS>"
+                           "<BLUETOOTH><GLOBAL use=\"0\"/></BLUETOOTH></DEVICE>")
+                    .accepted);
+        QCOMPARE(links(), 0);
+        int connected = 0;
+        for (int second = 0; second < 1800; second += 30, bench.now += 30)
+            connected += servers();
+        QCOMPARE(connected, 2 * 1800 / 600);
     }
 
     void packetsOfKeysAndTags()

@@ -1,6 +1,7 @@
 // The configuration in the tracker: read, written, refused, kept over restarts and crashes.
 
 #include "bench_tracker.h"
+#include "record_values.h"
 #include "settings/all_settings.h"
 #include "settings/configuration.h"
 #include "support/data_table.h"
@@ -112,6 +113,32 @@ private Q_SLOTS:
         QVERIFY(detail.isEmpty() || report.detail == detail);
         bench.restart();
         QCOMPARE(bench.configuration(), before);
+    }
+
+    // Fields of a later protocol are kept too, whatever the records are sent with.
+    void keepsRecordsUpToTheLimit_data()
+    {
+        DataTable<QByteArray, int, bool>({"format", "bytes", "taken"})
+            .row("at the limit", "30", 512, true)
+            .row("above it", "30", 513, false)
+            .row("above it, sent by the first protocol", "10", 513, false);
+    }
+    void keepsRecordsUpToTheLimit()
+    {
+        QFETCH(QByteArray, format);
+        QFETCH(int, bytes);
+        QFETCH(bool, taken);
+        vlk::FieldMask mask;
+        for (int field = 0; field < vlk::kFieldCount; ++field)
+            mask.set(field, head + mask.payloadSize() + vlk::kFields[field].width <= bytes);
+        QCOMPARE(head + mask.payloadSize(), bytes);
+        BenchTracker bench;
+        const QByteArray before = bench.configuration();
+        const WriteReport report = bench.write(dataSet(format, mask.text()));
+        QCOMPARE(report.accepted, taken);
+        QCOMPARE(report.reasonKey, QString(taken ? "" : "wb_refused_record"));
+        QCOMPARE(report.detail, QString(taken ? "" : "513"));
+        QCOMPARE(bench.configuration() == before, !taken);
     }
 
     void refusesWhatCannotBeReadOrKept()

@@ -129,6 +129,20 @@ private Q_SLOTS:
         QTRY_COMPARE(bench.status(), QStringLiteral("Ready"));
     }
 
+    void detachedByTheUser()
+    {
+        Bench bench;
+        bench.prepare(Live);
+        bench.action("action_Cable")->trigger();
+        QVERIFY(!Bench::telemetry());
+        QTRY_VERIFY2(bench.status().contains("detached, so its telemetry window was closed"),
+                     qPrintable(bench.status()));
+        QCOMPARE(bench.boxes, QStringList());
+        bench.action("action_Cable")->trigger();
+        bench.action("action_Telemetry")->trigger();
+        QTRY_COMPARE(bench.status(), QStringLiteral("Ready"));
+    }
+
     void everyFaultEndsInATrueSentence_data()
     {
         const Faults none, silence{.silence = true}, shortened{.shortAnswers = true},

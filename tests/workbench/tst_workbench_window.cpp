@@ -263,10 +263,17 @@ private Q_SLOTS:
         QVERIFY(bench.text("label_Status").contains(QLatin1String("not written")));
         // As the plug-in tells the log.
         const QLoggingCategory category("vlk.save");
-        const QString text =
-            messageDuring([&] { qCWarning(category, "/a/period.csv: No space left on device"); });
-        QVERIFY2(text.contains(QLatin1String("/a/period.csv was not saved: No space left on device")),
-                 qPrintable(text));
+        // Room on the disk is spoken of where it is the disk.
+        const std::pair<const char*, const char*> failures[] = {
+            {"No space left on device", "Make room on the disk"},
+            {"Permission denied", "Choose another folder"}};
+        for (const auto& [reason, advice] : failures) {
+            const QString text =
+                messageDuring([&, cause = reason] { qCWarning(category, "/a/period.csv: %s", cause); });
+            QVERIFY2(text.contains(QStringLiteral("/a/period.csv was not saved: %1. %2")
+                                       .arg(QLatin1String(reason), QLatin1String(advice))),
+                     qPrintable(text));
+        }
         QVERIFY(bench.settings.recentFiles().isEmpty());
     }
 
@@ -336,6 +343,10 @@ private Q_SLOTS:
         click(&bench.window, "checkBox_Silence");
         QTest::qWait(20);
         QVERIFY(silent());
+        auto* delay = beside->findChild<QSpinBox*>(QStringLiteral("spinBox_Delay"));
+        delay->selectAll();
+        QTest::keyClicks(delay, "999999");
+        QCOMPARE(bench.window.session().tracker().faults().delayMs, delay->maximum());
         // Another modal window comes over it and goes.
         {
             QDialog above;

@@ -58,7 +58,7 @@ public:
     Check(const QByteArray& document, const QString& model)
         : xml_(document), model_(model), bytes_(document.size())
     {
-        // The names of a configuration may hold any sign; a colon in one divides nothing.
+        // The names of a configuration may hold any sign; a colon in one begins no namespace.
         xml_.setNamespaceProcessing(false);
     }
 
@@ -88,7 +88,7 @@ public:
             return at(Problem::CutShort);
         if (xml_.hasError())
             return at(Problem::Damaged);
-        // What is foreign is said only of a document that is whole.
+        // A document that is cut short or damaged is not reported as foreign.
         return foreign_;
     }
 

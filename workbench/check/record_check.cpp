@@ -1,6 +1,6 @@
 #include "check/record_check.h"
 
-#include "dataset/catalogue/field_mask.h"
+#include "catalogue/field_mask.h"
 
 #include <QtEndian>
 

@@ -1,6 +1,6 @@
 #include "check/telemetry_file_check.h"
 
-#include "dataset/catalogue/field_mask.h"
+#include "catalogue/field_mask.h"
 #include "telemetry/files/binary_layout.h"
 
 #include <QFile>

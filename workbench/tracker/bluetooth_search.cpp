@@ -1,5 +1,7 @@
 #include "tracker/bluetooth_search.h"
 
+#include "tracker/bluetooth_devices.h"
+
 #include <QtGlobal>
 
 namespace tracker {
@@ -14,24 +16,6 @@ constexpr char searchEnded = '1';
 constexpr char searchFailed = '2';
 constexpr char searchStopped = '3';
 
-struct Device
-{
-    const char* name;
-    const char* mac;
-    int afterMs;
-};
-
-constexpr Device devices[] = {
-    {"TD_710612", "C4:64:E3:0B:52:10", 700},
-    {"TL_022417", "C4:64:E3:0B:77:A1", 1100},
-    {"TZ-BT04", "E2:15:00:01:3A:70", 1300},
-    {"TZ-BT04", "E2:15:00:01:3A:8F", 1400}, // another sensor of that name
-    {"TH_118230", "D0:2E:AB:41:09:5C", 1500},
-    {"TD_710612", "C4:64:E3:0B:52:10", 1900}, // heard once more
-    {"JBL GO 3", "F4:BC:DA:12:60:7E", 2100},
-    {"", "7C:2F:80:5A:11:04", 2300},          // one without a name
-    {"TD_710655", "C4:64:E3:0B:60:2C", 5200}, // one that advertises seldom
-};
 constexpr int searchMs = 5600;
 
 Answer event(Message message, char value, int afterMs)
@@ -50,13 +34,13 @@ Answers searchBluetooth(bool switchedOn)
     if (!switchedOn)
         return {event(Message::BtSearchEvent, searchFailed, 0)};
     Answers answers{event(Message::BtSearchEvent, searchRuns, 0)};
-    for (const Device& device : devices) {
+    for (const BluetoothDevice& device : bluetoothDevices) {
         vlk::BtDevice record{};
         qstrncpy(record.name, device.name, sizeof record.name);
         qstrncpy(record.mac, device.mac, sizeof record.mac);
         Answer answer = Answer::record(record);
         answer.message = Message::BtDeviceFound;
-        answer.afterMs = device.afterMs;
+        answer.afterMs = device.heardAfterMs;
         answer.ofSearch = true;
         answers.push_back(answer);
     }

@@ -1,6 +1,7 @@
 #include "tracker/configuration_store.h"
 
 #include "base/whole_file.h"
+#include "catalogue/field_mask.h"
 
 #include <QDir>
 #include <QDomDocument>
@@ -25,6 +26,7 @@ namespace {
 const QString ownModel = QStringLiteral("R-7106");
 // A configuration is some tens of kilobytes; the device has no room for more than this.
 constexpr qint64 largestDocument = qint64(1) << 20;
+constexpr int largestRecord = 512;
 
 struct Refusal
 {
@@ -42,6 +44,15 @@ Refusal check(const ConfigurationValues& values)
     if (model != ownModel)
         return {"wb_refused_model", model};
     return {};
+}
+
+// Bytes of a stored record, whose fields are kept whatever the version of the protocol that they are sent
+// with.
+int recordSize(const ConfigurationValues& values)
+{
+    const std::string mask = values.text(QStringLiteral("PROTOCOL/ZETA/mask")).toStdString();
+    constexpr int head = 2 + vlk::FieldMask::kBytes;
+    return head + vlk::FieldMask::fromText(mask.empty() ? vlk::kDefaultMaskText : mask).payloadSize();
 }
 
 QByteArray readWhole(const QString& path)
@@ -134,9 +145,12 @@ WriteReport ConfigurationStore::write(const QString& path)
     if (file.size() > largestDocument)
         return refuse("wb_refused_large", QString::number(file.size()));
     const QByteArray taken = file.read(largestDocument);
-    const Refusal refusal = check(ConfigurationValues(taken));
+    const ConfigurationValues asked(taken);
+    const Refusal refusal = check(asked);
     if (refusal.reasonKey)
         return refuse(refusal.reasonKey, refusal.detail);
+    if (const int size = recordSize(asked); size > largestRecord)
+        return refuse("wb_refused_record", QString::number(size));
     const QByteArray document = withKeptSections(taken, document_, report.keptSections);
     const ConfigurationValues values(document);
     if (!saveWhole(backup(), document_) || !saveWhole(current(), document))

@@ -162,6 +162,20 @@ double Segment::accelerationAt(double elapsed) const
     return ramp.before < ramp.length ? -acceleration : 0;
 }
 
+Odometers Segment::odometersAt(double elapsed) const
+{
+    Odometers result = at;
+    result.km += metresAt(elapsed) / 1000;
+    const double fuel = fuelDelta * elapsed / seconds;
+    result.fuel += fuel;
+    result.fuelUsed += std::max(0.0, -fuel);
+    if (activity == Activity::Idling || activity == Activity::Driving)
+        result.engineSeconds += elapsed;
+    if (activity == Activity::Driving)
+        result.loadSeconds += elapsed;
+    return result;
+}
+
 DayPlan planDay(quint64 seed, qint64 midnight, const Odometers& begin)
 {
     return Planner(seed, midnight, begin).plan();

@@ -39,6 +39,7 @@ struct Segment
     double metresAt(double elapsed) const;
     double speedAt(double elapsed) const;
     double accelerationAt(double elapsed) const;
+    Odometers odometersAt(double elapsed) const;
 
 private:
     // Seconds since the start and before the end of a leg whose ramps are exact, not rounded to a second.

@@ -1,7 +1,5 @@
 #include "tracker/drive.h"
 
-#include "tracker/random.h"
-
 #include <algorithm>
 
 namespace tracker {
@@ -13,9 +11,6 @@ constexpr int longestDays = 731;
 
 // The day of the newest record, that of the one asked for, and the one before it.
 constexpr std::size_t keptDays = 4;
-
-constexpr quint64 SatelliteSeed = 1;
-constexpr double secondsPerHour = 3600;
 
 } // namespace
 
@@ -152,7 +147,6 @@ Moment Drive::moment(const Day& day, qint64 time) const
                                         [](qint64 t, const Segment& segment) { return t < segment.from; });
     const Segment& segment = *(after - 1);
     const double elapsed = static_cast<double>(std::min<qint64>(time - segment.from, segment.seconds));
-    const double part = elapsed / segment.seconds;
     Moment result;
     result.time = time;
     result.activity = segment.activity;
@@ -161,31 +155,24 @@ Moment Drive::moment(const Day& day, qint64 time) const
     result.speed = segment.speedAt(elapsed);
     result.acceleration = segment.accelerationAt(elapsed);
 
-    result.at = segment.at;
-    result.at.km += segment.metresAt(elapsed) / 1000;
-    const double fuel = segment.fuelDelta * part;
-    result.at.fuel += fuel;
-    result.at.fuelUsed += std::max(0.0, -fuel);
-    result.at.engineSeconds += result.ignition() ? elapsed : 0;
-    result.at.loadSeconds += segment.activity == Activity::Driving ? elapsed : 0;
-
-    const double openKm = lastOpenKm(result.at.km);
-    const double hidden = result.at.km - openKm;
-    result.fix = hidden <= 0;
-    result.fixTime =
-        time - (result.fix ? 0 : static_cast<qint64>(hidden / std::max(result.speed, 20.0) * secondsPerHour));
-    result.road = roadAt(openKm);
+    result.at = segment.odometersAt(elapsed);
     result.speedLimit = speedLimitAt(result.at.km);
-    const double sky = wave(mix(seed_, SatelliteSeed), static_cast<double>(time) / 150);
-    result.satellites = result.fix ? 6 + static_cast<int>(sky * 9) : 2;
-    const auto& sensed = day.tracked.sensed;
     const qint64 second = time - midnight_ - qint64(day.index) * daySeconds;
-    const auto later =
-        std::upper_bound(sensed.begin() + 1, sensed.end(), second,
-                         [](qint64 t, const TrackedDay::Sensed& states) { return t < states.second; });
-    result.sensed = (later - 1)->states;
+    result.sensed = day.tracked.sensed.at(second);
     result.settings = settings_.at(time).settings;
     result.outside = outsideTemperature(seed_, time);
+
+    const NavigationRules& navigation = result.settings->navigation;
+    const Fix fix = day.tracked.fixes.at(second);
+    result.fix = fix.valid;
+    result.fixTime = fix.valid ? time : fix.time;
+    result.road = roadAt(fix.valid ? result.at.km : fix.km);
+    result.satellites = satellitesAt(seed_, time, result.at.km, navigation);
+    if (fix.valid && result.activity != Activity::Driving) {
+        const bool ignition = result.settings->hasIgnition(result.sensed.lines);
+        result.road =
+            wandered(result.road, seed_, time, wanderingOf(navigation, ignition, result.sensed.moved()));
+    }
     return result;
 }
 

@@ -23,24 +23,27 @@ struct Row
     double absent = 0;
 };
 
-// What a fuel sensor of the line says, 0 where no sensor is.
+// What a fuel sensor says, 0 where no sensor is.
 template <class Say>
 double ofSensor(const Vehicle& v, int row, Say say)
 {
-    const int sensor = v.sensorOnLine(row);
-    return sensor < 0 ? 0 : say(sensor);
+    const Vehicle::FuelSource source = v.fuelSource(row);
+    return source.sensor < 0 ? 0 : say(source);
 }
 double fuelOf(const Vehicle& v, int row)
 {
-    return ofSensor(v, row, [&](int sensor) { return v.fuelSensor(sensor); });
+    return ofSensor(v, row, [&](const Vehicle::FuelSource& source) {
+        return v.recordedFuel(source.sensor) + (source.filtered ? 0 : v.slosh(source.sensor));
+    });
 }
 double fuelTemperatureOf(const Vehicle& v, int row)
 {
-    return ofSensor(v, row, [&](int) { return v.m.outside + 4; });
+    return ofSensor(v, row, [&](const Vehicle::FuelSource&) { return v.m.outside + 4; });
 }
 double fuelFrequencyOf(const Vehicle& v, int row)
 {
-    return ofSensor(v, row, [&](int sensor) { return 800 + v.fuelSensor(sensor) / 4; });
+    return ofSensor(
+        v, row, [&](const Vehicle::FuelSource& source) { return 800 + v.recordedFuel(source.sensor) / 4; });
 }
 
 // What the vehicle has nothing to say about.

@@ -3,7 +3,7 @@
 // The value of every field at a moment, as a block in which each field has its fixed place (see the
 // catalogue of fields).
 
-#include "dataset/catalogue/field_catalogue.h"
+#include "catalogue/field_catalogue.h"
 #include "tracker/vehicle.h"
 
 namespace tracker {

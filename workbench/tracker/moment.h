@@ -3,7 +3,7 @@
 // Everything that holds for the vehicle at one second: what a record of that second is made from.
 
 #include "tracker/day_plan.h"
-#include "tracker/road.h"
+#include "tracker/navigation.h"
 #include "tracker/sensing.h"
 #include "tracker/settings_history.h"
 #include "tracker/tank_pours.h"
@@ -28,10 +28,10 @@ struct Moment
     double speed = 0;        // km/h
     double acceleration = 0; // m/s2
     int speedLimit = 0;      // km/h
-    RoadPoint road{};        // the last point with a fix
+    RoadPoint road{};        // where the last coordinate was taken
     bool fix = true;
     qint64 fixTime = 0;
-    int satellites = 0;
+    Satellites satellites;
     Odometers at;
     double outside = 0; // degrees Celsius
 
@@ -66,6 +66,9 @@ struct Links
 {
     qint64 usbSince = noTime; // Unix seconds
     std::array<bool, 3> servers{};
+    int connectsEvery = 0; // seconds, to the servers; 0 for always
+    bool service = true;   // of the maker
+    bool bluetooth = true;
 };
 
 } // namespace tracker

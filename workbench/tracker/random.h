@@ -1,7 +1,7 @@
 #pragma once
 
-// Chance that repeats: every number follows from a seed alone, on every machine, so that a record made again
-// is the same record.
+// Random numbers that repeat: each follows from its seed alone, on every machine, so that a record made again
+// has the same bytes.
 
 #include <cmath>
 #include <cstdint>

@@ -6,7 +6,7 @@
 // selects. A packet is its type 177, its length, a head with the navigation data, in the archive a second
 // head, and entries: a key, a card with the driver's name, a tag.
 
-#include "dataset/catalogue/field_mask.h"
+#include "catalogue/field_mask.h"
 #include "tracker/vehicle.h"
 
 #include <QByteArray>

@@ -47,7 +47,9 @@ public:
     {
         const std::size_t first = events_.size();
         lines();
+        engine();
         supply();
+        fuel();
         zones();
         shocks();
         for (std::size_t i = first; i < events_.size(); ++i)
@@ -106,16 +108,28 @@ private:
         }
     }
 
-    void supply()
+    // Whether what began at `since`, 0 for not yet, has lasted for the delay.
+    bool lasted(qint64 since, int delay) const { return since && vehicle_.m.time - since >= delay; }
+
+    void engine()
     {
         const SupplyRules& rules = settings_.supply;
-        const double measured = vehicle_.line(2);
-        now_.engine = vehicle_.engineRuns(settings_);
+        if (!vehicle_.engineRuns(settings_))
+            now_.engineSince = 0;
+        else if (now_.engineSince == 0)
+            now_.engineSince = vehicle_.m.time;
+        now_.engine = lasted(now_.engineSince, rules.used() ? rules.engineDelay : 0);
         if (rules.used() && now_.engine != before_.engine) {
             if (!rules.engineSilent)
                 events_.push_back(now_.engine ? EventCode::EngineStarted : EventCode::EngineStopped);
             switchOutput(now_.engine ? engineStartAction : engineStopAction);
         }
+    }
+
+    void supply()
+    {
+        const SupplyRules& rules = settings_.supply;
+        const double measured = vehicle_.line(2);
         if (!rules.used()) {
             now_.supplyLow = false;
             now_.supplyLowSince = 0;
@@ -125,9 +139,30 @@ private:
             now_.supplyLowSince = 0;
         else if (measured <= rules.alarm && now_.supplyLowSince == 0)
             now_.supplyLowSince = vehicle_.m.time;
-        now_.supplyLow = now_.supplyLowSince && vehicle_.m.time - now_.supplyLowSince >= rules.delay;
+        now_.supplyLow = lasted(now_.supplyLowSince, rules.delay);
         if (now_.supplyLow != before_.supplyLow)
             events_.push_back(now_.supplyLow ? EventCode::SupplyLow : EventCode::SupplyRestored);
+    }
+
+    void fuel()
+    {
+        const FuelRules& rules = settings_.fuel;
+        const bool measured = settings_.supply.used();
+        if (vehicle_.supply() <= rules.low)
+            now_.fuelSupplied = false;
+        else if (vehicle_.supply() >= rules.high)
+            now_.fuelSupplied = true;
+        const bool conditions = rules.withIgnition || (measured && (rules.withEngine || rules.withSupply));
+        const bool met =
+            (!rules.withIgnition || settings_.hasIgnition(now_.lines)) &&
+            (!measured || ((!rules.withEngine || now_.engine) && (!rules.withSupply || now_.fuelSupplied)));
+        if (!met)
+            now_.fuelSince = 0;
+        else if (now_.fuelSince == 0)
+            now_.fuelSince = vehicle_.m.time;
+        now_.fuelCounts = !conditions || lasted(now_.fuelSince, rules.delay);
+        if (now_.fuelCounts || now_.fuelRead < 0)
+            now_.fuelRead = vehicle_.m.at.fuel;
     }
 
     void zones()

@@ -39,10 +39,7 @@ struct SimulatedTracker::Parts
         records.addTo(handlers);
         live.addTo(handlers);
         tachograph.addTo(handlers);
-        handlers[Message::StartBtSearch] = [this](void*) {
-            return searchBluetooth(!line.faults().noBluetooth &&
-                                   store.values().number(QStringLiteral("BLUETOOTH/GLOBAL/use"), 1) != 0);
-        };
+        handlers[Message::StartBtSearch] = [this](void*) { return searchBluetooth(hasBluetooth()); };
         handlers[Message::CancelBtSearch] = [this](void*) {
             line.dropSearch();
             return stopBluetoothSearch();
@@ -72,6 +69,12 @@ struct SimulatedTracker::Parts
         return result;
     }
 
+    bool hasBluetooth() const
+    {
+        return !line.faults().noBluetooth &&
+               store.values().number(QStringLiteral("BLUETOOTH/GLOBAL/use"), 1) != 0;
+    }
+
     // A server without an address cannot be connected.
     Links links() const
     {
@@ -81,6 +84,11 @@ struct SimulatedTracker::Parts
             const QString address = store.values().text(QStringLiteral("TRANS/SRV%1/addr").arg(i + 1));
             links.servers[i] = !address.isEmpty() && address != QLatin1String("0.0.0.0");
         }
+        const ConfigurationValues& values = store.values();
+        if (values.number(QStringLiteral("TRANS/RULES/cnctType"), 1) == 0)
+            links.connectsEvery = values.number(QStringLiteral("TRANS/RULES/cnctTimer"), 3600);
+        links.service = values.number(QStringLiteral("TRANS/QSP/use"), 1) != 0;
+        links.bluetooth = hasBluetooth();
         return links;
     }
 

@@ -86,7 +86,7 @@ public:
     // The tanks by their index: litres in them, and what their sensors say, in millivolts or as a code.
     double fuelIn(std::size_t tank) const;
     double fuelReading(std::size_t tank) const;
-    // More than the tank holds runs over; draining is pouring less than nothing.
+    // More than the tank holds runs over; a negative amount drains it.
     void pour(std::size_t tank, double litres);
 
 Q_SIGNALS:

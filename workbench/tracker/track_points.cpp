@@ -28,9 +28,9 @@ class Recorder
 {
 public:
     Recorder(quint64 seed, qint64 midnight, const Trace& begin, const SettingsHistory& settings)
-        : seed_(seed), midnight_(midnight), history_(settings), now_(begin)
+        : seed_(seed), midnight_(midnight), history_(settings),
+          now_(begin), day_{{}, Timeline(begin.sensed), Timeline(begin.fix), {}}
     {
-        day_.sensed.push_back({0, now_.sensed});
         if (now_.records == 0) {
             now_.time = midnight_ - 1;
             record(midnight_, EventCode::Restart);
@@ -50,6 +50,7 @@ public:
             const int look = driving ? lookWhileDriving : lookWhileStanding;
             if (second % look == 0)
                 measure(second);
+            locate(second);
             movement(second);
             packets(second);
             point(second);
@@ -92,16 +93,24 @@ private:
         moment.trip = segment_->trip;
         moment.speed = segment_->speedAt(second);
         moment.acceleration = segment_->accelerationAt(second);
-        moment.at.ignitionOffSince = segment_->at.ignitionOffSince;
+        moment.at = segment_->odometersAt(second);
         moment.outside = outsideTemperature(seed_, moment.time);
         moment.seed = seed_;
         moment.sensed = now_.sensed;
         moment.settings = settings_.settings;
         events_.clear();
         now_.sensed = sense(Vehicle(moment, Controls()), *settings_.settings, events_);
-        day_.sensed.push_back({static_cast<int>(moment.time - midnight_), now_.sensed});
+        day_.sensed.add(static_cast<int>(moment.time - midnight_), now_.sensed);
         for (const EventCode event : events_)
             record(moment.time, event);
+    }
+
+    void locate(int second)
+    {
+        const bool before = now_.fix.valid;
+        navigate(now_.fix, seed_, *segment_, second, settings_.settings->navigation);
+        if (now_.fix.valid != before)
+            day_.fixes.add(static_cast<int>(segment_->from + second - midnight_), now_.fix);
     }
 
     // Starting, stopping and speeding make points whatever the limits are.
@@ -138,15 +147,6 @@ private:
             record(time, EventCode::TagRead, RecordKind::Tag);
     }
 
-    bool ignition() const
-    {
-        const auto& lines = settings_.settings->lines;
-        for (int i = 0; i < static_cast<int>(lines.size()); ++i)
-            if (lines[i].ignition && now_.sensed.lines >> i & 1)
-                return true;
-        return false;
-    }
-
     // Seconds between two points by time, 0 for none.
     int period() const
     {
@@ -156,7 +156,8 @@ private:
     }
     bool inMotion() const
     {
-        return driving() || (track().ignitionIsMoving && ignition()) ||
+        return driving() ||
+               (track().ignitionIsMoving && settings_.settings->hasIgnition(now_.sensed.lines)) ||
                (track().engineIsMoving && now_.sensed.engine);
     }
 

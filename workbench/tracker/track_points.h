@@ -1,12 +1,13 @@
 #pragma once
 
-// What the tracker records of a day that the vehicle drives: track points by time, way and course, and the
-// events of its lines and sensors, by the settings that held at each second. At most one record a second; of
-// several events at once the later ones follow in the next seconds.
+// What the tracker records of a day that the vehicle drives: track points by time, way and course, the
+// events of its lines and sensors, and which coordinates it takes, by the settings that held at each second.
+// At most one record a second; of several events at once the later ones follow in the next seconds.
 
 #include "tracker/day_plan.h"
 #include "tracker/moment.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace tracker {
@@ -19,6 +20,7 @@ struct Trace
     double km = 0;
     double course = 0;
     SensorStates sensed;
+    Fix fix;
     qint64 standsSince = 0; // 0 in motion
     bool stopTold = true;
     bool speeding = false;
@@ -31,16 +33,37 @@ struct TrackPoint
     RecordKind kind;
 };
 
-struct TrackedDay
+// What holds from which second of the day on.
+template <class State>
+class Timeline
 {
-    struct Sensed
+public:
+    Timeline() : Timeline(State()) {}
+    explicit Timeline(const State& first) : entries_{{0, first}} {}
+
+    void add(int second, const State& state) { entries_.push_back({second, state}); }
+    const State& at(qint64 second) const
     {
-        int second; // from then on
-        SensorStates states;
+        const auto later = std::upper_bound(entries_.begin() + 1, entries_.end(), second,
+                                            [](qint64 t, const Entry& entry) { return t < entry.second; });
+        return (later - 1)->state;
+    }
+
+private:
+    struct Entry
+    {
+        int second;
+        State state;
     };
 
+    std::vector<Entry> entries_; // by time
+};
+
+struct TrackedDay
+{
     std::vector<TrackPoint> points; // by time
-    std::vector<Sensed> sensed;     // by time, the first as the day begins
+    Timeline<SensorStates> sensed;
+    Timeline<Fix> fixes; // where it begins or ends to be valid
     Trace end;
 };
 

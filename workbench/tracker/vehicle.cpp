@@ -43,7 +43,7 @@ double Vehicle::state() const
 double Vehicle::module1() const
 {
     return bit(0, true) + bit(1, m.time >= links.usbSince) + bit(2, true) + bit(5, true) + bit(6, true) +
-           bit(7, m.settings && engineRuns(*m.settings));
+           bit(7, m.sensed.engine);
 }
 
 double Vehicle::module2() const
@@ -56,10 +56,13 @@ double Vehicle::connection() const
     constexpr int gprs = 2;
     constexpr int lte = 4;
     constexpr int firstServer = 3;
+    constexpr int talk = 60; // seconds
+    const bool connected = links.connectsEvery <= 0 || m.time % links.connectsEvery < talk;
     double servers = 0;
     for (std::size_t i = 0; i < links.servers.size(); ++i)
-        servers += bit(firstServer + static_cast<int>(i), links.servers[i]);
-    return (drift(1, 0, 1, halfHour) < 0.25 ? gprs : lte) + servers + bit(6, true) + bit(7, true);
+        servers += bit(firstServer + static_cast<int>(i), links.servers[i] && connected);
+    return (drift(1, 0, 1, halfHour) < 0.25 ? gprs : lte) + servers + bit(6, links.service) +
+           bit(7, links.bluetooth);
 }
 
 double Vehicle::gsmLevel() const
@@ -71,18 +74,23 @@ double Vehicle::gsmLevel() const
 
 double Vehicle::navigationState() const
 {
-    return bit(0, true) + bit(1, m.fix) + m.satellites * 4;
+    return bit(0, true) + bit(1, m.fix) + m.satellites.all() * 4;
 }
 
 double Vehicle::satellites(int system) const
 {
-    const int glonass = m.satellites * 2 / 5;
-    return system == 0 ? glonass : system == 1 ? m.satellites - glonass : 0;
+    constexpr int glonass = 0;
+    constexpr int gps = 1;
+    constexpr int beidou = 4;
+    return system == glonass  ? m.satellites.glonass
+           : system == gps    ? m.satellites.gps
+           : system == beidou ? m.satellites.beidou
+                              : 0;
 }
 
 double Vehicle::dilution(int kind) const
 {
-    return (kind == 0 ? 0.6 : 1.0) * (24 - m.satellites);
+    return (kind == 0 ? 10 : 17) * m.satellites.hdop();
 }
 
 // Cells are some two kilometres wide, and three stations are in sight.
@@ -125,9 +133,23 @@ double Vehicle::line(int index) const
     default:
         if (m.settings && m.settings->supply.used())
             return supply();
-        // The tank at this line is full until somebody drains it.
-        return c.fuelHeights[0] ? sensorValue(tanks[0], *c.fuelHeights[0]) : drift(25, 4850, 5150, 40);
+        return tankAtLine();
     }
+}
+
+// Full until somebody drains it; the less is averaged, the more it swings.
+double Vehicle::tankAtLine() const
+{
+    if (c.fuelHeights[0])
+        return sensorValue(tanks[0], *c.fuelHeights[0]);
+    constexpr int longest = 30;
+    constexpr double full = 5000;
+    constexpr double averaged = 150;
+    constexpr double raw = 700;
+    const LineRules* rules = m.settings ? &m.settings->lines[2] : nullptr;
+    const int window = !rules ? longest : rules->filtered ? std::clamp(rules->window, 1, longest) : 1;
+    const double swing = raw + (averaged - raw) * (window - 1) / (longest - 1);
+    return drift(25, full - swing, full + swing, 40);
 }
 
 int Vehicle::triggeredLines(const WorkingSettings& settings) const
@@ -154,11 +176,7 @@ bool Vehicle::engineRuns(const WorkingSettings& settings) const
     constexpr int usualLevel = 13200;
     if (settings.supply.used())
         return supply() >= (settings.supply.ownEngineLevel ? settings.supply.engineLevel : usualLevel);
-    const int triggered = triggeredLines(settings);
-    for (int i = 0; i < static_cast<int>(settings.lines.size()); ++i)
-        if (triggered >> i & 1 && settings.lines[i].ignition)
-            return true;
-    return false;
+    return settings.hasIgnition(triggeredLines(settings));
 }
 
 bool Vehicle::doorOpen() const
@@ -171,7 +189,7 @@ double Vehicle::frequency(int index) const
     return index < 2 && running() ? drift(26 + index, 180, 240, 60) : 0;
 }
 
-// Fuel: the second tank empties first.
+// Fuel: the second tank empties first; what is in the third one, of the body, stays there.
 
 double Vehicle::fuelLeft(std::size_t tank) const
 {
@@ -183,6 +201,8 @@ double Vehicle::fuelLeft(std::size_t tank) const
         return std::min(m.at.fuel, half);
     case 2:
         return std::max(0.0, m.at.fuel - half);
+    case 3:
+        return 150;
     default:
         return 0;
     }
@@ -199,18 +219,46 @@ double Vehicle::fuelSensor(int sensor) const
     return std::clamp(sensorValue(tank, fuelHeight(tank, litres)) + swing, 0.0, sensorValue(tank, 1));
 }
 
+double Vehicle::recordedFuel(int sensor) const
+{
+    if (m.sensed.fuelCounts)
+        return fuelSensor(sensor);
+    Moment before = m;
+    before.at.fuel = m.sensed.fuelRead;
+    before.activity = Activity::Parked;
+    return Vehicle(before, c, links).fuelSensor(sensor);
+}
+
+double Vehicle::slosh(int sensor) const
+{
+    constexpr double wave = 200;
+    return driving() && m.sensed.fuelCounts ? drift(420 + sensor, -wave, wave, 3) : 0;
+}
+
 bool Vehicle::isOnLine(LineOwner device) const
 {
     return m.settings && m.settings->serial.is(device);
 }
 
-int Vehicle::sensorOnLine(int row) const
+Vehicle::FuelSource Vehicle::fuelSource(int row) const
 {
     constexpr int sensors = 6;
-    if (!isOnLine(LineOwner::Fuel) || !m.settings->serial.sensorUsed[row])
-        return -1;
-    const int sensor = m.settings->serial.sensorAddress[row] - 1;
-    return sensor >= 0 && sensor < sensors ? sensor : -1;
+    if (!m.settings)
+        return {};
+    const SerialLineRules& line = m.settings->serial;
+    if (isOnLine(LineOwner::Fuel) && line.sensorUsed[row]) {
+        const int sensor = line.sensorAddress[row] - 1;
+        if (sensor >= 0 && sensor < sensors)
+            return {sensor, line.sensorFiltered[row] != 0};
+    }
+    const BluetoothDevice* device = heard(BluetoothRules::Fuel, row);
+    return {device ? device->tankSensor : -1, true};
+}
+
+const BluetoothDevice* Vehicle::heard(BluetoothRules::Type type, int place) const
+{
+    const int device = m.settings ? m.settings->bluetooth.deviceFor(type, place) : -1;
+    return device < 0 ? nullptr : &bluetoothDevices[device];
 }
 
 double Vehicle::passengers(int counter) const
@@ -239,6 +287,14 @@ double Vehicle::flow() const
 
 double Vehicle::temperature(int sensor) const
 {
+    constexpr double noise = 1.5;
+    const bool filtered = !m.settings || sensor >= static_cast<int>(m.settings->zones.size()) ||
+                          m.settings->zones[sensor].filtered;
+    return steadyTemperature(sensor) + (filtered ? 0 : drift(410 + sensor, -noise, noise, 30));
+}
+
+double Vehicle::steadyTemperature(int sensor) const
+{
     switch (sensor) {
     case 0:
         return drift(40, 1, 6, 1200);
@@ -253,15 +309,18 @@ double Vehicle::temperature(int sensor) const
     }
 }
 
-double Vehicle::fineTemperature(int sensor) const
+double Vehicle::fineTemperature(int place) const
 {
     constexpr double unitsToADegree = 20;
-    return sensor < 2 ? drift(44 + sensor, 1.5, 6, 900) * unitsToADegree : noI16;
+    const BluetoothDevice* device = heard(BluetoothRules::Temperature, place);
+    return device && device->climate >= 0 ? drift(430 + device->climate, 1.5, 6, 900) * unitsToADegree
+                                          : noI16;
 }
 
-double Vehicle::humidity(int sensor) const
+double Vehicle::humidity(int place) const
 {
-    return sensor < 2 ? drift(46 + sensor, 110, 170, 1200) : noU8;
+    const BluetoothDevice* device = heard(BluetoothRules::Temperature, place);
+    return device && device->tellsHumidity ? drift(440 + device->climate, 110, 170, 1200) : noU8;
 }
 
 double Vehicle::coolant() const

@@ -3,6 +3,7 @@
 // What the vehicle's sensors and buses say at a moment, in the units of the telemetry fields. Records and
 // live answers read the same values. Sensors that the vehicle lacks give the value that says so.
 
+#include "tracker/bluetooth_devices.h"
 #include "tracker/moment.h"
 
 namespace tracker {
@@ -43,16 +44,27 @@ public:
     int triggeredLines(const WorkingSettings& settings) const;
     double inputs() const;
     double outputs(int group) const;
-    // By the supply when the tracker has a sensor on it, by the ignition line otherwise.
+    // By the supply when the tracker has a sensor on it, by the ignition line otherwise; without the delay
+    // after which the tracker believes it.
     bool engineRuns(const WorkingSettings& settings) const;
     double frequency(int index) const;
 
     // What is in a tank into which nobody has poured, in litres.
     double fuelLeft(std::size_t tank) const;
     double fuelSensor(int sensor) const; // D1 to D6, 0 to 4095
-    // The sensor of the vehicle, 0 to 5, that answers to the address of a row of the settings; -1 where none
-    // does. The sensors have the addresses 1 to 6.
-    int sensorOnLine(int row) const;
+    // The same, or the last one that counted.
+    double recordedFuel(int sensor) const;
+    // What a filter takes away from it.
+    double slosh(int sensor) const;
+    // The sensor in a tank, 0 to 5, that stands in the record as this fuel level, and whether its readings
+    // are averaged; -1 where there is none. On the serial line the one that answers to the address of the
+    // row, where the sensors have the addresses 1 to 6; else one that is heard by Bluetooth.
+    struct FuelSource
+    {
+        int sensor = -1;
+        bool filtered = false;
+    };
+    FuelSource fuelSource(int row) const;
     // Whether the tracker is set to this device on its serial line.
     bool isOnLine(LineOwner device) const;
     // Of the counters with addresses of their own: who has entered on this trip; 255 where there is none.
@@ -60,10 +72,11 @@ public:
     double fuelPercent() const; // with the flag that says percent
     double flow() const;        // 0.1 litre an hour
 
-    double temperature(int sensor) const;     // degrees
-    double fineTemperature(int sensor) const; // 0.05 degree
-    double humidity(int sensor) const;        // 0.5 percent
-    double coolant() const;                   // degrees
+    double temperature(int sensor) const; // degrees, -128 without a sensor
+    // Of the devices that are heard by Bluetooth.
+    double fineTemperature(int place) const; // 0.05 degree
+    double humidity(int place) const;        // 0.5 percent
+    double coolant() const;                  // degrees
 
     double engineTurns() const;
     double engineLoad() const; // percent
@@ -92,6 +105,10 @@ private:
     double parkedSeconds() const;
     bool doorOpen() const;
     double hit() const; // percent
+    double tankAtLine() const;
+    double steadyTemperature(int sensor) const;
+    // The Bluetooth device that stands in the record at this place; null for none.
+    const BluetoothDevice* heard(BluetoothRules::Type type, int place) const;
 };
 
 } // namespace tracker

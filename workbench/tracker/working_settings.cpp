@@ -1,5 +1,6 @@
 #include "tracker/working_settings.h"
 
+#include "tracker/bluetooth_devices.h"
 #include "tracker/configuration_values.h"
 
 #include <algorithm>
@@ -27,6 +28,7 @@ enum class Kind {
     Digits,     // one position of a text of digits each
     Use,        // of an input line
     Owner,      // of the serial line
+    Device,     // around the tracker, by its address
     General     // 1 for the output's code "GP"
 };
 
@@ -62,6 +64,23 @@ constexpr Row rows[] = {
     {"TRACK/LIMPOINT/timer", 5, [](S& s, int) -> int& { return s.track.leastTime; }},
     {"TRACK/MOVESENS/stopTimer", 30, [](S& s, int) -> int& { return s.track.stopAfter; }},
 
+    {"TRACK/COORDFLT/use", 1, [](S& s, int) -> int& { return s.navigation.filtered; }},
+    {"TRACK/COORDFLT/minSats", 4, [](S& s, int) -> int& { return s.navigation.leastSatellites; }},
+    {"TRACK/COORDFLT/maxHDOP", 250, [](S& s, int) -> int& { return s.navigation.mostHdop; },
+     Kind::Hundredths},
+    {"TRACK/COORDFLT/maxSpeed", 200, [](S& s, int) -> int& { return s.navigation.mostSpeed; }},
+    {"TRACK/COORDFLT/maxAccel", 25, [](S& s, int) -> int& { return s.navigation.mostGain; }},
+    {"TRACK/COORDFLT/maxDist", 100, [](S& s, int) -> int& { return s.navigation.mostShift; }},
+    {"TRACK/COORDFLT/maxFilterCnt", 5, [](S& s, int) -> int& { return s.navigation.rejectedAfterJump; }},
+    {"TRACK/COORDAVER/mode", 1, [](S& s, int) -> int& { return s.navigation.atStops; }},
+    {"TRACK/COORDAVER/sensors", 1,
+     [](S& s, int i) -> int& {
+         return i == 0 ? s.navigation.standsWithoutIgnition : s.navigation.standsWithoutMovement;
+     },
+     Kind::Digits, 2},
+    {"TRACK/GNSS/mode", 1, [](S& s, int i) -> int& { return s.navigation.systems[i]; }, Kind::Digits, 5},
+    {"TRACK/GNSS/angle", 5, [](S& s, int) -> int& { return s.navigation.elevation; }},
+
     {"SENSORS/IN%1/normState", 0, [](S& s, int i) -> int& { return s.lines[i].use; }, Kind::Use, 3},
     {"SENSORS/IN%1/IN%1%2/ign", 1, [](S& s, int i) -> int& { return s.lines[i].ignition; }, Kind::Number, 3},
     {"SENSORS/IN%1/IN%1%2/cntlRestore", 1, [](S& s, int i) -> int& { return s.lines[i].restores; },
@@ -73,6 +92,10 @@ constexpr Row rows[] = {
      3},
     {"SENSORS/IN%1/IN%1%2/trhldOff", 1, [](S& s, int i) -> int& { return s.lines[i].stillOnly; },
      Kind::Number, 3},
+    {"SENSORS/IN%1/IN%1%2/filterMode", 1, [](S& s, int i) -> int& { return s.lines[i].filtered; },
+     Kind::Number, 3},
+    {"SENSORS/IN%1/IN%1%2/filterLen", 30, [](S& s, int i) -> int& { return s.lines[i].window; }, Kind::Number,
+     3},
 
     {"SYSTEM/PWRSENS/line", 0, [](S& s, int) -> int& { return s.supply.line; }},
     {"SYSTEM/PWRSENS/alarmLvl", 10500, [](S& s, int) -> int& { return s.supply.alarm; }},
@@ -81,16 +104,38 @@ constexpr Row rows[] = {
     {"SYSTEM/ENGSENS/useCustom", 0, [](S& s, int) -> int& { return s.supply.ownEngineLevel; }},
     {"SYSTEM/ENGSENS/voltageLvl", 13200, [](S& s, int) -> int& { return s.supply.engineLevel; }},
     {"SYSTEM/ENGSENS/noEvent", 0, [](S& s, int) -> int& { return s.supply.engineSilent; }},
+    {"SYSTEM/ENGSENS/delay", 0, [](S& s, int) -> int& { return s.supply.engineDelay; }},
+
+    {"SYSTEM/FUEL/sensors", 0,
+     [](S& s, int i) -> int& {
+         return i == 0 ? s.fuel.withIgnition : i == 1 ? s.fuel.withEngine : s.fuel.withSupply;
+     },
+     Kind::Digits, 3},
+    {"SYSTEM/FUEL/blockVolt", 8000, [](S& s, int) -> int& { return s.fuel.low; }},
+    {"SYSTEM/FUEL/unblockVolt", 11000, [](S& s, int) -> int& { return s.fuel.high; }},
+    {"SYSTEM/FUEL/unblockDelay", 5, [](S& s, int) -> int& { return s.fuel.delay; }},
 
     {"RS485/OPTIONS/owner1", 0, [](S& s, int) -> int& { return s.serial.owner; }, Kind::Owner},
     {"RS485/FS%1/use", 0, [](S& s, int i) -> int& { return s.serial.sensorUsed[i]; }, Kind::Number, 16},
     {"RS485/FS%1/address", 0, [](S& s, int i) -> int& { return s.serial.sensorAddress[i]; }, Kind::Number,
      16},
+    {"RS485/FS%1/filterMode", 1, [](S& s, int i) -> int& { return s.serial.sensorFiltered[i]; }, Kind::Number,
+     16},
     {"RS485/PCNT/id%1", 0, [](S& s, int i) -> int& { return s.serial.counterAddress[i]; }, Kind::Number, 7},
+
+    {"BLUETOOTH/GLOBAL/use", 1, [](S& s, int) -> int& { return s.bluetooth.used; }},
+    {"BLUETOOTH/SENS%1/type", 0, [](S& s, int i) -> int& { return s.bluetooth.type[i]; }, Kind::Number, 4},
+    {"BLUETOOTH/SENS%1/macaddr", -1, [](S& s, int i) -> int& { return s.bluetooth.device[i]; }, Kind::Device,
+     4},
+    {"BLUETOOTH/FS%1/idx", 1, [](S& s, int i) -> int& { return s.bluetooth.fuel[i]; }, Kind::Number, 4},
+    {"BLUETOOTH/TS%1/idx", 1, [](S& s, int i) -> int& { return s.bluetooth.temperature[i]; }, Kind::Number,
+     4},
 
     {"TEMPSENS/SENS%1/min", -5000, [](S& s, int i) -> int& { return s.zones[i].low; }, Kind::Hundredths, 4},
     {"TEMPSENS/SENS%1/max", 12000, [](S& s, int i) -> int& { return s.zones[i].high; }, Kind::Hundredths, 4},
     {"TEMPSENS/SENS%1/hyst", 500, [](S& s, int i) -> int& { return s.zones[i].hysteresis; }, Kind::Hundredths,
+     4},
+    {"TEMPSENS/SENS%1/filterMode", 1, [](S& s, int i) -> int& { return s.zones[i].filtered; }, Kind::Number,
      4},
 
     {"ACCEL/SENSORS/sh1", 5000, [](S& s, int) -> int& { return s.shockLevels[0]; }, Kind::Hundredths},
@@ -124,6 +169,15 @@ int useOf(const QString& code)
     return found == std::end(lineUses) ? 0 : static_cast<int>(found - lineUses);
 }
 
+int deviceOf(const QString& address)
+{
+    const auto found =
+        std::find_if(bluetoothDevices.begin(), bluetoothDevices.end(), [&](const BluetoothDevice& device) {
+            return address.compare(QLatin1String(device.mac), Qt::CaseInsensitive) == 0;
+        });
+    return found == bluetoothDevices.end() ? -1 : static_cast<int>(found - bluetoothDevices.begin());
+}
+
 int ownerOf(const QString& code)
 {
     const auto* found = std::find_if(std::begin(lineOwners), std::end(lineOwners),
@@ -143,6 +197,8 @@ int valueOf(const Row& row, const QString& path, int index, const ConfigurationV
         return useOf(text);
     case Kind::Owner:
         return ownerOf(text);
+    case Kind::Device:
+        return deviceOf(text);
     case Kind::General:
         return text == QLatin1String("GP");
     case Kind::Number:
@@ -171,7 +227,7 @@ QString keptName(const Row& row, int index)
 
 double TrackRules::turn(double speed) const
 {
-    // The same sideways step off the road, be it driven fast or slowly.
+    // The way to the side within a second is the same at any speed.
     constexpr double least = 5;
     constexpr double most = 30;
     constexpr double degreesTimesSpeed = 300;
@@ -189,6 +245,23 @@ bool LineRules::triggered(double millivolts, bool before) const
     if (millivolts <= this->low)
         return low;
     return before && (high || low);
+}
+
+int BluetoothRules::deviceFor(Type wanted, int place) const
+{
+    const std::array<int, 4>& places = wanted == Fuel ? fuel : temperature;
+    for (std::size_t i = 0; used && i < type.size(); ++i)
+        if (type[i] == wanted && places[i] == place + 1)
+            return device[i];
+    return -1;
+}
+
+bool WorkingSettings::hasIgnition(int triggered) const
+{
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        if (triggered >> i & 1 && lines[i].ignition)
+            return true;
+    return false;
 }
 
 WorkingSettings WorkingSettings::of(const ConfigurationValues& values)
@@ -210,6 +283,9 @@ WorkingSettings WorkingSettings::load(const QSettings& file)
     WorkingSettings result;
     walk([&](const Row& row, int i) {
         row.value(result, i) = file.value(keptName(row, i), row.absent).toInt();
+        if (row.kind == Kind::Device)
+            row.value(result, i) =
+                std::clamp(row.value(result, i), -1, static_cast<int>(bluetoothDevices.size()) - 1);
         if (row.kind == Kind::Use)
             row.value(result, i) =
                 std::clamp(row.value(result, i), 0, static_cast<int>(std::size(lineUses)) - 1);

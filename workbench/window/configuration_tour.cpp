@@ -1,121 +1,30 @@
 #include "window/configuration_tour.h"
 
+#include "window/edit_tour.h"
 #include "window/languages.h"
-#include "window/write_report_text.h"
 
 #include <QComboBox>
-#include <QFile>
-#include <QGroupBox>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QScrollArea>
-#include <QSet>
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTcpServer>
 
-#include <memory>
-
 namespace {
 
-// What the steps hand on to each other.
-struct Edit
+void loadPlugin(vlk::Tour& tour)
 {
-    QString path;
-    QString after;
-};
-
-struct Notebook
-{
-    QVector<Edit> edits;
-    std::unique_ptr<tracker::WriteReport> report;
-};
-
-// One of two values, whichever the tracker does not hold yet, so that every run changes something.
-template <class Value>
-Value other(const Value& present, const Value& one, const Value& two)
-{
-    return present == one ? two : one;
-}
-
-void typeText(Notebook& book, const char* widget, const char* path, const QString& one, const QString& two)
-{
-    auto* edit = vlk::Tour::find<QLineEdit>(widget);
-    vlk::Tour::expect(edit->isEnabled(), QStringLiteral("%1 is disabled").arg(QLatin1String(widget)));
-    const QString text = other(edit->text(), one, two);
-    edit->setText(text);
-    book.edits.append({QLatin1String(path), text});
-}
-
-void readTracker(vlk::Tour& tour)
-{
-    const QString failure = tour.window().session().readConfiguration(true);
-    vlk::Tour::expect(failure.isEmpty(), failure);
-    tour.waitFor([] { return vlk::Tour::findVisible("lineEdit_Name"); }, QStringLiteral("the Transfer page"));
-}
-
-void editPage(Notebook& book)
-{
-    typeText(book, "lineEdit_Name", "TRANS/OBJECT/name", QStringLiteral("KAMAZ 5490 A123BC"),
-             QStringLiteral("KAMAZ 5490 B456CE"));
-    if (auto* group = qobject_cast<QGroupBox*>(vlk::Tour::findVisible("GPRSSrv_groupBox_Main")))
-        group->setChecked(true);
-    typeText(book, "GPRSSrv_lineEdit_IP_DNS_Main", "TRANS/SRV1/addr", QStringLiteral("fleet.example.com"),
-             QStringLiteral("gate.example.com"));
-    auto* port = vlk::Tour::find<QSpinBox>("GPRSSrv_spinBox_Port_Main");
-    port->setValue(other(port->value(), 5555, 6666));
-    book.edits.append({QStringLiteral("TRANS/SRV1/port"), QString::number(port->value())});
-}
-
-void writeTracker(vlk::Tour& tour, Notebook& book)
-{
-    QObject context;
-    QObject::connect(
-        &tour.window().session(), &vlk::HostSession::configurationWritten, &context,
-        [&book](const tracker::WriteReport& r) { book.report = std::make_unique<tracker::WriteReport>(r); });
-    vlk::Tour::press("pushButton_LoadToDevice");
-    tour.waitFor([&book] { return book.report != nullptr; }, QStringLiteral("the tracker's report"));
-    tour.save(QStringLiteral("report.txt"), vlk::plainText(*book.report).toUtf8());
-    vlk::Tour::expect(book.report->accepted, vlk::summary(*book.report));
-    vlk::Tour::expect(!QFile::exists(book.report->file),
-                      QStringLiteral("the written file was left behind: %1").arg(book.report->file));
-    if (QWidget* dialog = vlk::Tour::findVisible("dialog_Report")) {
-        tour.picture(QStringLiteral("report.png"), dialog);
-        dialog->close();
-    }
-}
-
-// What the tracker reports as changed is what was edited, no more and no less.
-void compare(const Notebook& book)
-{
-    QStringList lines;
-    for (const tracker::KeyChange& change : book.report->changed)
-        lines.append(change.path + QLatin1Char('=') + change.after);
-    for (const tracker::KeyChange& change : book.report->removed)
-        lines.append(change.path + QLatin1String(" removed"));
-    for (const tracker::KeyChange& change : book.report->added)
-        lines.append(change.path + QLatin1String(" added"));
-    QStringList wanted;
-    for (const Edit& edit : book.edits)
-        wanted.append(edit.path + QLatin1Char('=') + edit.after);
-    lines.sort();
-    wanted.sort();
-    vlk::Tour::expect(lines == wanted,
-                      QStringLiteral("the tracker reports\n  %1\nbut edited was\n  %2")
-                          .arg(lines.join(QLatin1String("\n  ")), wanted.join(QLatin1String("\n  "))));
-}
-
-void checkTaken(vlk::Tour& tour, const Notebook& book)
-{
-    tour.save(QStringLiteral("configuration.xml"),
-              tour.window().session().tracker().readConfiguration().document);
-    compare(book);
+    const vlk::PluginLink& link = tour.window().session().link();
+    vlk::Tour::expect(link.isLoaded(), link.error());
+    tour.picture(QStringLiteral("start.png"), &tour.window());
 }
 
 void takePictures(vlk::Tour& tour)
 {
     auto* tabs = vlk::Tour::find<QTabWidget>("tabWidget_Main");
     auto* pages = vlk::Tour::find<QTabWidget>("tabWidget");
+    pages->setCurrentIndex(0);
     for (const QString& code : vlk::Languages::codes()) {
         tour.window().setLanguage(code);
         tour.picture(QStringLiteral("transfer-%1.png").arg(code),
@@ -219,26 +128,19 @@ namespace vlk {
 
 std::vector<Tour::Step> configurationTour()
 {
-    auto book = std::make_shared<Notebook>();
-    return {
-        {QStringLiteral("load the plug-in"),
-         [](Tour& tour) {
-             Tour::expect(tour.window().session().link().isLoaded(), tour.window().session().link().error());
-             tour.picture(QStringLiteral("start.png"), &tour.window());
-         }},
-        {QStringLiteral("read the tracker's configuration"), readTracker},
-        {QStringLiteral("edit the Transfer page"), [book](Tour&) { editPage(*book); }},
-        {QStringLiteral("write it to the tracker"), [book](Tour& tour) { writeTracker(tour, *book); }},
-        {QStringLiteral("compare what the tracker took"), [book](Tour& tour) { checkTaken(tour, *book); }},
-        {QStringLiteral("take pictures in both languages"), takePictures},
-        {QStringLiteral("look at what the page opens"), lookAround},
-        {QStringLiteral("walk the devices on the serial line"),
-         [](Tour& tour) { walkItems(tour, "comboBox_RS485_Owner_1", "rs"); }},
-        {QStringLiteral("walk the types of Bluetooth sensor"),
-         [](Tour& tour) { walkItems(tour, "comboBox_Type_Sens_1", "bluetooth"); }},
-        {QStringLiteral("test a server"), testServer},
-        {QStringLiteral("close the window"), closeWindow},
-    };
+    std::vector<Tour::Step> steps = editTour();
+    steps.insert(steps.begin(), {QStringLiteral("load the plug-in"), loadPlugin});
+    steps.insert(steps.end(), {
+                                  {QStringLiteral("take pictures in both languages"), takePictures},
+                                  {QStringLiteral("look at what the page opens"), lookAround},
+                                  {QStringLiteral("walk the devices on the serial line"),
+                                   [](Tour& tour) { walkItems(tour, "comboBox_RS485_Owner_1", "rs"); }},
+                                  {QStringLiteral("walk the types of Bluetooth sensor"),
+                                   [](Tour& tour) { walkItems(tour, "comboBox_Type_Sens_1", "bluetooth"); }},
+                                  {QStringLiteral("test a server"), testServer},
+                                  {QStringLiteral("close the window"), closeWindow},
+                              });
+    return steps;
 }
 
 } // namespace vlk

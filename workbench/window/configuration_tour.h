@@ -1,7 +1,7 @@
 #pragma once
 
-// The tour's steps through a configuration: read it, edit the Transfer page, write it back, and see that the
-// tracker took exactly what was edited.
+// The tour's steps through the configuration window: a change of settings (edit_tour.h), every page and form
+// in both languages, what the pages open, the test of a server.
 
 #include "window/tour.h"
 

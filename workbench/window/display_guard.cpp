@@ -34,7 +34,7 @@ void DisplayGuard::listen(QtMsgType type, const QMessageLogContext& context, con
     }
     std::fprintf(stderr, "%s\n", theGuard->sentence_.constData());
     std::fflush(stderr);
-    // Nothing of the application exists yet that could be taken down.
+    // The application is not there yet, so nothing has to be taken down.
     std::_Exit(theGuard->exitCode_);
 }
 

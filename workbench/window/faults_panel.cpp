@@ -10,6 +10,8 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace vlk {
 
 using tracker::Faults;
@@ -34,6 +36,29 @@ constexpr FaultRow rows[] = {
 };
 
 constexpr int longestDelayMs = 60'000;
+
+// A number that is typed beyond the range becomes the end of the range, where a spin box as it is refuses the
+// digit that makes it too large and keeps the first ones.
+class DelayBox : public QSpinBox
+{
+public:
+    using QSpinBox::QSpinBox;
+
+protected:
+    QValidator::State validate(QString& text, int& place) const override
+    {
+        bool isNumber = false;
+        const double number = locale().toDouble(cleanTextOf(text), &isNumber);
+        return isNumber && number > maximum() ? QValidator::Acceptable : QSpinBox::validate(text, place);
+    }
+    int valueFromText(const QString& text) const override
+    {
+        return int(std::min(locale().toDouble(cleanTextOf(text)), double(maximum())));
+    }
+
+private:
+    QString cleanTextOf(const QString& text) const { return QString(text).remove(suffix()).trimmed(); }
+};
 
 } // namespace
 
@@ -79,7 +104,7 @@ void FaultsPanel::addFault(QVBoxLayout* column, const char* name, const char* ke
 
 void FaultsPanel::addDelay(QVBoxLayout* column)
 {
-    auto* delay = new QSpinBox(this);
+    auto* delay = new DelayBox(this);
     delay->setObjectName(QStringLiteral("spinBox_Delay"));
     delay->setRange(0, longestDelayMs);
     delay->setSingleStep(100);

@@ -22,7 +22,7 @@ LinkNotices::LinkNotices(HostSession& session, PluginWindows& windows, MessageLo
         setTrouble([since] { return vlk::text("wb_silence").arg(vlk::timeOfDay(since)); });
     });
     connect(&watch_, &AnswerWatch::over, this, [this] { setTrouble({}); });
-    connect(&session_.tracker(), &SimulatedTracker::pulled, this, &LinkNotices::tellPulled);
+    connect(&session_.tracker(), &SimulatedTracker::pulled, this, [this] { isPulled_ = true; });
     connect(&session_.tracker(), &SimulatedTracker::attachedChanged, this, [this] {
         check_.forget();
         watch_.forget();
@@ -40,6 +40,8 @@ void LinkNotices::look(vlk::Direction direction, quint32 id, const void* p1)
     const auto answer = static_cast<vlk::Message>(id);
     if (answer == vlk::Message::RequestRecordOfPeriod)
         damagedOfPeriod_ = 0;
+    if (direction == vlk::Direction::ToPlugin && answer == vlk::Message::TrackerDetached)
+        tellDetached(std::exchange(isPulled_, false));
     if (direction != vlk::Direction::ToPlugin || !vlk::RecordCheck::carriesRecord(answer) || p1 == nullptr)
         return;
     const QByteArray& bytes = *static_cast<const QByteArray*>(p1);
@@ -71,18 +73,23 @@ void LinkNotices::setTrouble(const std::function<QString()>& trouble)
     Q_EMIT troubleChanged();
 }
 
-void LinkNotices::tellPulled()
+void LinkNotices::tellDetached(bool isPulled)
 {
-    // Comes before the plug-in hears of it and closes its window.
+    // The plug-in has not heard of it yet and closes its window within the message.
     const QVector<QWidget*> before = windows_.open();
     QMetaObject::invokeMethod(
         this,
-        [this, before] {
+        [this, before, isPulled] {
             const QVector<QWidget*> after = windows_.open();
-            const char* key = before.size() != after.size() ? "wb_unplugged_telemetry"
-                              : after.isEmpty()             ? "wb_unplugged"
-                                                            : "wb_unplugged_open";
-            vlk::showWarning(vlk::text(key), mainWindow_);
+            const bool isClosed = before.size() != after.size();
+            if (!isPulled && !isClosed)
+                return;
+            const char* key = !isPulled         ? "wb_detached_telemetry"
+                              : isClosed        ? "wb_unplugged_telemetry"
+                              : after.isEmpty() ? "wb_unplugged"
+                                                : "wb_unplugged_open";
+            if (isPulled)
+                vlk::showWarning(vlk::text(key), mainWindow_);
             status_.tell(StatusLine::Command, [key] { return vlk::text(key); });
         },
         Qt::QueuedConnection);

@@ -1,8 +1,9 @@
 #pragma once
 
 // What is wrong between the tracker and the plug-in, said where a user sees it: a record that cannot be right
-// is marked in the log, silence and damage stand in the status line until a right answer comes, and a pulled
-// cable is told in a box that says which windows went with it.
+// is marked in the log, silence and damage stand in the status line until a right answer comes, and a cable
+// that went while the tracker answered is told in a box that says which windows went with it. A tracker that
+// the user detaches is told in the status line where its telemetry window goes.
 
 #include "check/record_check.h"
 #include "window/answer_watch.h"
@@ -32,7 +33,7 @@ Q_SIGNALS:
 
 private:
     void look(vlk::Direction direction, quint32 id, const void* p1);
-    void tellPulled();
+    void tellDetached(bool isPulled);
     void setTrouble(const std::function<QString()>& trouble);
 
     HostSession& session_;
@@ -43,6 +44,7 @@ private:
     vlk::RecordCheck check_;
     AnswerWatch watch_;
     std::function<QString()> trouble_;
+    bool isPulled_ = false;              // the cable went while the tracker answered
     std::optional<int> damagedOfPeriod_; // none while no period is asked for
 };
 

@@ -13,6 +13,10 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
+#include <cerrno>
+#include <iterator>
+
 namespace vlk {
 
 namespace {
@@ -22,6 +26,14 @@ bool isForTracker(const QString& path)
 {
     const QFileInfo file(path);
     return file.dir() == QDir::current() && file.fileName().startsWith(QLatin1String("vlk_"));
+}
+
+// The reasons come as the system words them.
+bool isAboutRoom(const QString& reason)
+{
+    constexpr int codes[] = {ENOSPC, EDQUOT, EFBIG};
+    return std::any_of(std::begin(codes), std::end(codes),
+                       [&reason](int code) { return reason.contains(qt_error_string(code)); });
 }
 
 // The table form has no content that tells it from others.
@@ -74,7 +86,7 @@ void SaveNotices::tellFailed(const QString& path, const QString& reason)
     warn([shown = QDir::toNativeSeparators(path), reason] {
         return vlk::sentences({reason.isEmpty() ? vlk::text("wb_save_failed").arg(shown)
                                                 : vlk::text("wb_save_failed_why").arg(shown, reason),
-                               vlk::text("wb_do_save")});
+                               vlk::text(isAboutRoom(reason) ? "wb_do_save" : "wb_do_save_elsewhere")});
     });
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 // The line at the foot of the main window: what holds now, the newest first, one sentence a topic. When its
-// cause is gone the topic is cleared, and what held before shows again; at last the line says that all is
-// ready.
+// cause is gone the topic is cleared, and what held before shows again; without any topic the line says
+// that all is ready.
 
 #include <QObject>
 #include <QString>

@@ -20,7 +20,7 @@ struct AdviceRow
 constexpr AdviceRow advices[] = {
     {"wb_refused_detached", "wb_do_attach"}, {"wb_refused_unplugged", "wb_do_attach"},
     {"wb_refused_silence", "wb_do_cable"},   {"wb_refused_unsaved", "wb_do_disk"},
-    {"wb_refused_memory", "wb_do_disk"},
+    {"wb_refused_memory", "wb_do_disk"},     {"wb_refused_record", "wb_do_data_set"},
 };
 
 QString adviceOn(const QString& reasonKey)

@@ -1,5 +1,6 @@
 #include "fuel/table/fuel_file.h"
 
+#include "base/file_name.h"
 #include "base/save_log.h"
 #include "base/whole_file.h"
 #include "fuel/table/fuel_log.h"
@@ -7,7 +8,6 @@
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 namespace vlk {
 
@@ -18,19 +18,13 @@ namespace {
 // Bytes. The largest table has a tenth of this.
 constexpr qint64 kLargestFile = 4'000'000;
 
-QString withoutForbidden(QString text)
-{
-    static const QRegularExpression forbidden(QStringLiteral("[\\\\/:*?\"<>|\\x00-\\x1f]"));
-    return text.remove(forbidden);
-}
-
 } // namespace
 
 QString fuelFileName(const QString& folder, const QString& sensor, const QString& title,
                      const QDateTime& time)
 {
     return QStringLiteral("%1/%2-%3(%4)")
-        .arg(folder, withoutForbidden(sensor), withoutForbidden(title),
+        .arg(folder, asFileName(sensor, {}), asFileName(title, {}),
              time.toString(QStringLiteral("yyyy-MM-dd hh_mm_ss")));
 }
 

@@ -6,6 +6,9 @@
 
 namespace vlk {
 
+// The code of the values that come over Modbus. Those of the other forms stand in user_param_type.h.
+inline constexpr char kModbusCode[] = "MB";
+
 struct UserParam
 {
     QString code; // "MB"

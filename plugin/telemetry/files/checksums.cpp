@@ -23,7 +23,7 @@ constexpr std::array<std::uint8_t, 256> kCrc8Steps = [] {
 
 std::uint32_t crc32(std::uint32_t before, std::span<const std::uint8_t> bytes)
 {
-    // zlib takes a null pointer for a wish to begin anew.
+    // Given a null pointer, as an empty span has, zlib would begin anew.
     return bytes.empty() ? before : static_cast<std::uint32_t>(::crc32_z(before, bytes.data(), bytes.size()));
 }
 

@@ -2,7 +2,7 @@
 
 // How the value of an element stands in the XML form, for its writer and its reader.
 
-#include "dataset/catalogue/field_catalogue.h"
+#include "catalogue/field_catalogue.h"
 
 namespace vlk {
 

@@ -96,7 +96,8 @@ private:
         return input_.peek(size).size() == size ? size : 0;
     }
 
-    // One of which that cannot be said, as trackers send them too: the file goes on behind it as it should.
+    // One whose length does not agree, as trackers send them too; it counts if another record or the end of
+    // the file follows it.
     std::size_t oddRecordHere()
     {
         const Bytes start = input_.peek(kHeadWithLength);

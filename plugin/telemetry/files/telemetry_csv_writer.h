@@ -2,7 +2,7 @@
 
 // Writes telemetry as a table that a spreadsheet opens: a row of headings and a row a record, cells ending in
 // ";", in the system's 8-bit encoding. A cell has the form ="text", so that a spreadsheet keeps the text as
-// it is. Texts are not escaped. What a column has for no record has no column.
+// it is. Texts are not escaped. A field that none of the records has gets no column.
 
 #include "telemetry/files/telemetry_pages.h"
 

@@ -1,5 +1,6 @@
 #include "telemetry/files/telemetry_file.h"
 
+#include "base/save_log.h"
 #include "base/whole_file.h"
 #include "telemetry/files/telemetry_binary_reader.h"
 #include "telemetry/files/telemetry_binary_writer.h"
@@ -8,9 +9,7 @@
 #include "telemetry/record/record_head.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QLoggingCategory>
-#include <QStorageInfo>
 
 namespace vlk {
 
@@ -47,12 +46,12 @@ bool saveTelemetryFile(const QString& path, TelemetryForm form, const TelemetryP
                        const TelemetryOrigin& origin, const EventText& eventText)
 {
     QSaveFile file(path);
-    if (saveWhole(file, [&](QIODevice& device) { return write(device, form, pages, origin, eventText); }))
-        return true;
-    // A disk that fills in the middle of a write leaves no error text of its own.
-    qCWarning(lcFiles).noquote() << "cannot save" << path << ':' << file.errorString() << "with"
-                                 << QStorageInfo(QFileInfo(path).path()).bytesAvailable() << "bytes free";
-    return false;
+    QString reason;
+    const bool saved = saveWhole(
+        file, [&](QIODevice& device) { return write(device, form, pages, origin, eventText); }, &reason);
+    if (!saved)
+        qCWarning(lcSave).noquote().nospace() << path << ": " << reason;
+    return saved;
 }
 
 std::optional<TelemetryContents> readTelemetryFile(const QString& path)

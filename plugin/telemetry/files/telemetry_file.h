@@ -11,7 +11,8 @@ namespace vlk {
 enum class TelemetryForm { xml, csv, binary };
 
 // True when the file at `path` now holds the pages in that form. Otherwise, on a full disk say, it holds what
-// it held before, and the log (vlk.files) says why. Only the CSV form asks for the names of events.
+// it held before, and the log of failed saves (base/save_log.h) says why. Only the CSV form asks for the
+// names of events.
 bool saveTelemetryFile(const QString& path, TelemetryForm form, const TelemetryPages& pages,
                        const TelemetryOrigin& origin, const EventText& eventText = {});
 

@@ -52,8 +52,8 @@ std::unique_ptr<TmiPage_Zeta3> readRecord(InputBuffer& input, std::string_view p
     return std::make_unique<TmiPage_Zeta3>(kTelemetryRecord, ver, mask, block, utcOffset);
 }
 
-// A packet in the making: the head, and the area with all that was ever put behind it, of which it keeps
-// what has room.
+// A packet while its lines are read: the head, and of the area as much as has room. `areaSize` counts all
+// that the lines bring.
 struct PacketParts
 {
     std::array<std::uint8_t, ExtraPacket::kHeadBytes> head{};

@@ -72,7 +72,7 @@ void addEntry(OutputBuffer& out, const ExtraEntry& entry)
 
 void addExtraPacket(OutputBuffer& out, const ExtraPacket& packet)
 {
-    out << "\t<Page type=\"" << packet.type() << "\" size=\"" << packet.size() << "\" stVer=\""
+    out << "\t<Page type=\"" << packet.type() << "\" size=\"" << packet.countedBytes() << "\" stVer=\""
         << packet.stVer() << "\" stSize=\"" << packet.stSize() << "\" hVer=\"" << packet.hVer()
         << "\" hSize=\"" << packet.hSize() << "\">\r\n";
     for (const ExtraPacket::HeadElement& row : ExtraPacket::kElementsOfHead)

@@ -2,7 +2,7 @@
 
 // Reads the text of an element's value to its bytes, little-endian, of the element's width.
 
-#include "dataset/catalogue/field_catalogue.h"
+#include "catalogue/field_catalogue.h"
 
 #include <string_view>
 

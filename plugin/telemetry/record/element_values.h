@@ -6,7 +6,7 @@
 // A source gives `const std::uint8_t* find(ElementIndex) const`, the first byte of an element or null if it
 // carries none of that name; what it does not carry reads as 0. Reading does not look at a record's mask.
 
-#include "dataset/catalogue/field_catalogue.h"
+#include "catalogue/field_catalogue.h"
 
 #include <QtEndian>
 

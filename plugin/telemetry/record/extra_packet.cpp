@@ -42,8 +42,9 @@ ExtraPacket ExtraPacket::fromRecord(std::span<const std::uint8_t> packet)
 {
     ExtraPacket extra;
     extra.takeHead(packet, kHeadBytes);
-    extra.takeArea(packet, kUncountedBytes + extra.size(),
-                   static_cast<std::uint16_t>(extra.size() - extra.stSize() - extra.hSize() - kBesideHeads));
+    extra.takeArea(
+        packet, kUncountedBytes + extra.countedBytes(),
+        static_cast<std::uint16_t>(extra.countedBytes() - extra.stSize() - extra.hSize() - kBesideHeads));
     return extra;
 }
 
@@ -51,9 +52,10 @@ ExtraPacket ExtraPacket::fromKeyAnswer(std::span<const std::uint8_t> packet)
 {
     ExtraPacket extra;
     extra.takeHead(packet, kHVerAt);
-    const auto areaSize = static_cast<std::uint16_t>(extra.size() - extra.stSize() - 2);
-    // The area is the last bytes of the answer; of an answer cut short, what there is where it should be.
-    const std::ptrdiff_t end = std::max<std::ptrdiff_t>(std::ssize(packet), kUncountedBytes + extra.size());
+    const auto areaSize = static_cast<std::uint16_t>(extra.countedBytes() - extra.stSize() - 2);
+    // The area is the last bytes of the answer. An answer cut short gives those bytes of it that came.
+    const std::ptrdiff_t end =
+        std::max<std::ptrdiff_t>(std::ssize(packet), kUncountedBytes + extra.countedBytes());
     extra.takeArea(packet, end, areaSize);
     if (end >= areaSize && end - areaSize < kHVerAt)
         std::fill(extra.head_.begin() + (end - areaSize), extra.head_.end(), 0);

@@ -37,8 +37,8 @@ public:
     static constexpr int kHeadBytes = 58;
     static constexpr int kAreaBytes = 256;
 
-    // Places of the sizes and versions in the head. The size counts what follows it; the area is what neither
-    // of the heads takes, nor the two bytes in front of each.
+    // Places of the sizes and versions in the head. The size counts the bytes that follow it; the area is
+    // what neither of the heads takes, nor the two bytes in front of each.
     static constexpr int kSizeAt = 1;
     static constexpr int kStVerAt = 3;
     static constexpr int kStSizeAt = 4;
@@ -86,7 +86,7 @@ public:
     static ExtraPacket fromParts(std::span<const std::uint8_t> head, std::span<const std::uint8_t> area);
 
     std::uint8_t type() const { return head_[0]; }
-    std::uint16_t size() const { return qFromLittleEndian<quint16>(head_.data() + kSizeAt); }
+    std::uint16_t countedBytes() const { return qFromLittleEndian<quint16>(head_.data() + kSizeAt); }
     std::uint8_t stVer() const { return head_[kStVerAt]; }
     std::uint8_t stSize() const { return head_[kStSizeAt]; }
     std::uint8_t hVer() const { return head_[kHVerAt]; }

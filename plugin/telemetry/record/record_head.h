@@ -3,7 +3,7 @@
 // The head that stands in front of the payload of a telemetry record: type, protocol version, mask. An extra
 // packet begins with its type too, and goes on in its own way (extra_packet.h).
 
-#include "dataset/catalogue/field_mask.h"
+#include "catalogue/field_mask.h"
 
 #include <algorithm>
 #include <span>

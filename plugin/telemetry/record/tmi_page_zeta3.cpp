@@ -78,7 +78,7 @@ QByteArray TmiPage_Zeta3::maskBytes() const
     return QByteArray(reinterpret_cast<const char*>(bytes.data()), FieldMask::kBytes);
 }
 
-// An extra packet has neither mask nor values, and the bytes of its head are nobody's mask.
+// An extra packet has neither mask nor values; the bytes of its head must not be taken for a mask.
 void TmiPage_Zeta3::setExtra(const ExtraPacket& extra, std::span<const std::uint8_t> packet)
 {
     setPayload(behind(packet, sizeof(type_)));

@@ -2,7 +2,7 @@
 
 // The one walk from a packed payload to a block in which every field has its fixed place.
 
-#include "dataset/catalogue/field_mask.h"
+#include "catalogue/field_mask.h"
 
 #include <span>
 

@@ -2,7 +2,7 @@
 
 // Reads the names in the left column of item_rows.h, at compile time.
 
-#include "dataset/catalogue/field_catalogue.h"
+#include "catalogue/field_catalogue.h"
 
 #include <optional>
 

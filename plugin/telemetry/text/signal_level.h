@@ -10,6 +10,9 @@ namespace vlk {
 inline constexpr double kPercentPerSignalStep = 3.22;
 inline constexpr std::uint8_t kNoSignalLevel = 99;
 
+// How a bar writes its level.
+inline constexpr char kLevelFormat[] = "%p %";
+
 // For a level bar, 0 to 100; without a level 0.
 constexpr int signalPercent(std::uint8_t level)
 {

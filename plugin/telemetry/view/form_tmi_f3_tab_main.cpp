@@ -2,6 +2,7 @@
 
 #include "telemetry/text/item_text.h"
 #include "telemetry/text/signal_level.h"
+#include "telemetry/view/absent_value.h"
 #include "telemetry/view/item_display.h"
 #include "telemetry/view/position_rows.h"
 
@@ -190,7 +191,7 @@ void VLK_Form_Tmi_F3_Tab_Main::fill(const TmiPage_Zeta3& page)
     const bool isKnown = page.value<element("GSM")>() != kNoSignalLevel;
     level_->setValue(signalPercent(page.value<element("GSM")>()));
     const bool isHeld = holds(page, element("GSM"));
-    level_->setFormat(!isHeld ? QString(kAbsentMark) : isKnown ? QStringLiteral("%p %") : level);
+    level_->setFormat(!isHeld ? QString(kAbsentMark) : isKnown ? QString(kLevelFormat) : level);
     level_->setToolTip(isHeld ? QString() : absentTip());
 
     const bool hasCard = page.has(element("Module1"));

@@ -89,6 +89,7 @@ VLK_Form_TMI_Production::VLK_Form_TMI_Production(vlk::EventPanel* panel, QWidget
     level_->setObjectName(QStringLiteral("progressBar_GSM_Level_Value"));
     level_->setRange(0, 100);
     level_->setValue(0);
+    level_->setFormat(kLevelFormat);
     modem->addWidget(levelText_, modem->rowCount(), 0);
     modem->addWidget(level_, modem->rowCount() - 1, 1);
 

@@ -31,11 +31,6 @@ bool holds(const TmiPage_Zeta3& page, ItemIndex item)
     return kItems[item].rule().always || holds(page, kItems[item].element);
 }
 
-QString absentTip()
-{
-    return QCoreApplication::translate("vlk", "tmiw_170");
-}
-
 QString positionText(const TmiPage_Zeta3& page, ItemIndex item)
 {
     const ElementIndex index = kItems[item].element;

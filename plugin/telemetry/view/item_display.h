@@ -6,19 +6,13 @@
 #include "telemetry/text/item.h"
 
 namespace vlk {
-class ValueLabel;
-} // namespace vlk
 
-namespace vlk {
+class ValueLabel;
 
 // Whether a record or a packet holds a value at all. The text of one that it lacks is empty, but so may be
 // that of a value that says nothing.
 bool holds(const TmiPage_Zeta3& page, ElementIndex element);
 bool holds(const TmiPage_Zeta3& page, ItemIndex item);
-
-// What stands in the place of a value that the record lacks, and what the tool tip says of it.
-inline constexpr QChar kAbsentMark(0x2013);
-QString absentTip();
 
 // "56° 30.0000' N", with the digits that the text of the item has.
 QString positionText(const TmiPage_Zeta3& page, ItemIndex item);

@@ -22,8 +22,7 @@ public:
     // The answer to the question for the last key.
     const TmiPage_Zeta3& takeKeyAnswer(const QByteArray& answer);
 
-    // Seconds east of UTC. True if that changes the page: its event's time is then
-    // written again.
+    // Seconds east of UTC. True if that changes the page: its event's time is then written again.
     bool setUtcOffset(int seconds);
 
     // Null before the first record.

@@ -3,6 +3,7 @@
 #include "link/requests.h"
 #include "telemetry/files/title_lines.h"
 #include "telemetry/text/time_text.h"
+#include "telemetry/view/absent_value.h"
 #include "telemetry/view/item_display.h"
 
 #include <QGuiApplication>

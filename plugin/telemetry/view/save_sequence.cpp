@@ -3,9 +3,6 @@
 #include "base/clock.h"
 #include "link/device.h"
 #include "link/requests.h"
-#include "telemetry/files/telemetry_binary_writer.h"
-#include "telemetry/files/telemetry_csv_writer.h"
-#include "telemetry/files/telemetry_xml_writer.h"
 #include "telemetry/record/record_head.h"
 
 #include <QCoreApplication>
@@ -26,23 +23,18 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcTelemetry, "vlk.telemetry")
 
-bool writeCsv(QIODevice& device, const TelemetryPages& pages, const TelemetryOrigin& origin)
-{
-    return writeTelemetryCsv(device, pages, origin.titles, &requests::eventText);
-}
-
 struct FileKind
 {
     const char* name; // key
     const char* suffix;
-    PeriodWriter write;
+    TelemetryForm form;
 };
 
 // By mode, from Xml on.
 constexpr FileKind kFileKinds[] = {
-    {"tmiw_179", "xml", &writeTelemetryXml},
-    {"tmiw_180", "csv", &writeCsv},
-    {"tmiw_181", "tmi", &writeTelemetryBinary},
+    {"tmiw_179", "xml", TelemetryForm::xml},
+    {"tmiw_180", "csv", TelemetryForm::csv},
+    {"tmiw_181", "tmi", TelemetryForm::binary},
 };
 
 const FileKind& kindOf(SaveSequence::Mode mode)
@@ -227,8 +219,9 @@ void SaveSequence::end()
     saveState_ = Idle;
     arrived_.clear();
     const RecordBytes records = std::exchange(records_, {});
-    const bool isFailed = std::exchange(fileChosen_, false) &&
-                          !writePeriod(saveFileName_, kindOf(saveMode_).write, records, origin_);
+    const bool isFailed =
+        std::exchange(fileChosen_, false) &&
+        !writePeriod(saveFileName_, kindOf(saveMode_).form, records, origin_, &requests::eventText);
     progress_.clear();
     // Stays until the user does something else.
     if (isFailed)

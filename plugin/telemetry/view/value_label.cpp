@@ -1,6 +1,6 @@
 #include "telemetry/view/value_label.h"
 
-#include "telemetry/view/item_display.h"
+#include "telemetry/view/absent_value.h"
 
 #include <QHelpEvent>
 #include <QPainter>
@@ -61,7 +61,7 @@ QSize ValueLabel::minimumSizeHint() const
 
 QSize ValueLabel::withDash(const QSize& size) const
 {
-    return isAbsent_ ? size.expandedTo({fontMetrics().horizontalAdvance(vlk::kAbsentMark), 0}) : size;
+    return isAbsent_ ? size.expandedTo({fontMetrics().horizontalAdvance(kAbsentMark), 0}) : size;
 }
 
 bool ValueLabel::fits() const
@@ -72,7 +72,7 @@ bool ValueLabel::fits() const
 QString ValueLabel::tip() const
 {
     if (isAbsent_)
-        return vlk::absentTip();
+        return absentTip();
     return fits() ? toolTip() : text();
 }
 
@@ -88,7 +88,7 @@ bool ValueLabel::event(QEvent* event)
 void ValueLabel::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    const QString shown = isAbsent_ ? QString(vlk::kAbsentMark)
+    const QString shown = isAbsent_ ? QString(kAbsentMark)
                           : fits()  ? text()
                                     : fontMetrics().elidedText(text(), Qt::ElideRight, width());
     if (isAbsent_)

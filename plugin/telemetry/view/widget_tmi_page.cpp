@@ -6,6 +6,7 @@
 #include "telemetry/view/event_panel.h"
 #include "telemetry/view/stored_file.h"
 #include "windows/fit_to_screen.h"
+#include "windows/input_guard.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -70,6 +71,7 @@ void VLK_Widget_Tmi_Page::connectControls()
         // Enter in the spin box must not press whatever button is near.
         button->setAutoDefault(false);
     }
+    limitTyping(ui_->spinBox_Go);
     connect(ui_->horizontalSlider, &QSlider::valueChanged, this, &Page::slot_valueChanged_horizontalSlider);
     connect(ui_->spinBox_Go, qOverload<int>(&QSpinBox::valueChanged), this,
             &Page::slot_valueChanged_spinBox_Go);

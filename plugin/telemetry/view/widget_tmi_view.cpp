@@ -11,6 +11,7 @@
 #include "telemetry/view/event_panel.h"
 #include "telemetry/view/tmi_view_texts.h"
 #include "windows/fit_to_screen.h"
+#include "windows/input_guard.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -90,6 +91,7 @@ void VLK_Widget_Tmi_View::connectControls()
     // Enter in a field must not press whatever button is near.
     for (QPushButton* button : findChildren<QPushButton*>())
         button->setAutoDefault(false);
+    limitTyping(ui_->spinBox_TimeOffset);
     connect(ui_->spinBox_TimeOffset, qOverload<int>(&QSpinBox::valueChanged), this,
             &View::slot_valueChanged_TimeOffset);
     connect(ui_->checkBox_Get_Auto_TMI, &QCheckBox::stateChanged, this, &View::slot_stateChanged_GetAutoTmi);

@@ -49,6 +49,8 @@ public:
     QString value(const QString& path) const;
     int number(const QString& path) const { return value(path).toInt(); }
     void edit(const QString& path, const QString& value);
+    void selectFirstItems() { binder_->selectFirstItems(); }
+    void evaluateRules() { binder_->evaluateRules(); }
     // Shows what came into the configuration in another way.
     void showAll();
 

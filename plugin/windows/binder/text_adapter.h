@@ -1,9 +1,12 @@
 #pragma once
 
-// A text in a line edit.
+// A text in a line edit. One that cannot be right is taken, and a sign in the line says what is wrong.
 
 #include "windows/binder/adapter.h"
 
+#include <QRegularExpression>
+
+class QAction;
 class QLineEdit;
 
 namespace vlk {
@@ -19,7 +22,11 @@ public:
     QString held() const override;
 
 private:
+    void mark();
+
     QLineEdit* edit_;
+    QRegularExpression expected_;
+    QAction* sign_ = nullptr; // of a text that is not as expected
 };
 
 } // namespace vlk

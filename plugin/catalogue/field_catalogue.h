@@ -10,7 +10,7 @@
 //     kElements[element("Temp1") + n]     the n-th element behind Temp1
 //     kFields[element.field].offset       where a field stands in a block that holds all fields
 
-#include "dataset/catalogue/element_rows.h"
+#include "catalogue/element_rows.h"
 
 #include <array>
 #include <concepts>

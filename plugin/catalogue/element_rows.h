@@ -4,7 +4,7 @@
 // bytes. The number is the mask bit; rows with one number are a group, in the record all or none of them.
 // Names are the element names of telemetry files, spelled as they always were.
 
-#include "dataset/catalogue/element_row.h"
+#include "catalogue/element_row.h"
 
 namespace vlk::catalogue {
 

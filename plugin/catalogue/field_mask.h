@@ -4,7 +4,7 @@
 // byte i div 8; the last bit of the last byte belongs to no field. In configurations and telemetry files it
 // is a text of 255 characters "0" and "1".
 
-#include "dataset/catalogue/field_catalogue.h"
+#include "catalogue/field_catalogue.h"
 
 #include <string>
 

@@ -1,4 +1,4 @@
-#include "dataset/catalogue/field_catalogue.h"
+#include "catalogue/field_catalogue.h"
 
 #include <functional>
 
