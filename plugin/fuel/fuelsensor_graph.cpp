@@ -148,7 +148,7 @@ void VLK_FuelSensor_Graph::drawAxes(QPainter& painter, const Axes& axes) const
     const QFontMetrics metrics = painter.fontMetrics();
     painter.drawText((width() - metrics.horizontalAdvance(volumeAxis_)) / 2, height() - 10, volumeAxis_);
     painter.save();
-    painter.translate(15, (height() + metrics.horizontalAdvance(valueAxis_)) / 2);
+    painter.translate(QPoint(15, (height() + metrics.horizontalAdvance(valueAxis_)) / 2));
     painter.rotate(-90);
     painter.drawText(0, 0, valueAxis_);
     painter.restore();

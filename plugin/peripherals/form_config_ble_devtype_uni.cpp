@@ -48,36 +48,36 @@ struct Column
 {
     const char* title;
     const char* head;
-    Cell cell;
     const char* widget;
+    Cell cell;
     int from = 1; // first row that has a widget; before it the row is always on
 };
 constexpr Column kConditions[] = {
-    {"label_Condition_Title_Use", "cfgt17_032", Cell::check, "checkBox_Condition_Use_%1", 2},
-    {"label_Condition_Title_Group", "cfgt17_058", Cell::spin, "spinBox_Condition_Group_%1"},
-    {"label_Condition_Title_Operator", "cfgt17_059", Cell::combo, "comboBox_Condition_Operator_%1", 2},
-    {"label_Condition_Title_Type", "cfgt17_060", Cell::spin, "spinBox_Condition_Type_%1"},
-    {"label_Condition_Title_Displacement", "cfgt17_061", Cell::spin, "spinBox_Condition_Displacement_%1"},
-    {"label_Condition_Title_Mask", "cfgt17_062", Cell::line, "lineEdit_Condition_Mask_%1"},
+    {"label_Condition_Title_Use", "cfgt17_032", "checkBox_Condition_Use_%1", Cell::check, 2},
+    {"label_Condition_Title_Group", "cfgt17_058", "spinBox_Condition_Group_%1", Cell::spin},
+    {"label_Condition_Title_Operator", "cfgt17_059", "comboBox_Condition_Operator_%1", Cell::combo, 2},
+    {"label_Condition_Title_Type", "cfgt17_060", "spinBox_Condition_Type_%1", Cell::spin},
+    {"label_Condition_Title_Displacement", "cfgt17_061", "spinBox_Condition_Displacement_%1", Cell::spin},
+    {"label_Condition_Title_Mask", "cfgt17_062", "lineEdit_Condition_Mask_%1", Cell::line},
 };
 constexpr Column kValues[] = {
-    {"label_Parameters_Title_Use", "cfgt17_032", Cell::check, "checkBox_Parameters_Use_%1"},
-    {"label_Parameters_Title_Group", "cfgt17_058", Cell::spin, "spinBox_Parameters_Group_%1"},
-    {"label_Parameters_Title_Type", "cfgt17_060", Cell::spin, "spinBox_Parameters_Type_%1"},
-    {"label_Parameters_Title_Displacement", "cfgt17_061", Cell::spin, "spinBox_Parameters_Displacement_%1"},
-    {"label_Parameters_Title_Dimension", "cfgt17_033", Cell::combo, "comboBox_Parameters_Dimension_%1"},
-    {"label_Parameters_Title_ByteOrder", "cfgt17_067", Cell::combo, "comboBox_Parameters_ByteOrder_%1"},
-    {"label_Parameters_Title_SensorType", "cfgt17_040", Cell::combo, "comboBox_Parameters_SensorType_%1"},
-    {"label_Parameters_Title_Index", "cfgt17_068", Cell::combo, "comboBox_Parameters_Index_%1"},
-    {"label_Parameters_Title_Multiplier", "cfgt17_069", Cell::spin, "spinBox_Parameters_Multiplier_%1"},
-    {"label_Parameters_Title_Divider", "cfgt17_070", Cell::spin, "spinBox_Parameters_Divider_%1"},
-    {"label_Parameters_Title_Amendment", "cfgt17_071", Cell::spin, "spinBox_Parameters_Amendment_%1"},
+    {"label_Parameters_Title_Use", "cfgt17_032", "checkBox_Parameters_Use_%1", Cell::check},
+    {"label_Parameters_Title_Group", "cfgt17_058", "spinBox_Parameters_Group_%1", Cell::spin},
+    {"label_Parameters_Title_Type", "cfgt17_060", "spinBox_Parameters_Type_%1", Cell::spin},
+    {"label_Parameters_Title_Displacement", "cfgt17_061", "spinBox_Parameters_Displacement_%1", Cell::spin},
+    {"label_Parameters_Title_Dimension", "cfgt17_033", "comboBox_Parameters_Dimension_%1", Cell::combo},
+    {"label_Parameters_Title_ByteOrder", "cfgt17_067", "comboBox_Parameters_ByteOrder_%1", Cell::combo},
+    {"label_Parameters_Title_SensorType", "cfgt17_040", "comboBox_Parameters_SensorType_%1", Cell::combo},
+    {"label_Parameters_Title_Index", "cfgt17_068", "comboBox_Parameters_Index_%1", Cell::combo},
+    {"label_Parameters_Title_Multiplier", "cfgt17_069", "spinBox_Parameters_Multiplier_%1", Cell::spin},
+    {"label_Parameters_Title_Divider", "cfgt17_070", "spinBox_Parameters_Divider_%1", Cell::spin},
+    {"label_Parameters_Title_Amendment", "cfgt17_071", "spinBox_Parameters_Amendment_%1", Cell::spin},
 };
 // The check against an example message: hidden, nothing fills its results.
 constexpr Column kConditionTests[] = {
-    {"label_Condition_Test_Title_Use", "cfgt17_064", Cell::check, "checkBox_Condition_Test_Use_%1"}};
+    {"label_Condition_Test_Title_Use", "cfgt17_064", "checkBox_Condition_Test_Use_%1", Cell::check}};
 constexpr Column kValueTests[] = {
-    {"label_Parameters_Test_Title_Use", "cfgt17_064", Cell::check, "checkBox_Parameters_Test_Use_%1"}};
+    {"label_Parameters_Test_Title_Use", "cfgt17_064", "checkBox_Parameters_Test_Use_%1", Cell::check}};
 
 struct Table
 {

@@ -115,7 +115,7 @@ void VLK_Form_Config_Bluetooth_Device::bind(int sensor, const QString& mac, cons
 QString VLK_Form_Config_Bluetooth_Device::keyToDisplay(const QString& key) const
 {
     for (const Sensor& sensor : sensors_) {
-        if (const QString text = sensor.type->keyToDisplay(key); !text.isEmpty())
+        if (QString text = sensor.type->keyToDisplay(key); !text.isEmpty())
             return text;
     }
     return {};
@@ -124,7 +124,7 @@ QString VLK_Form_Config_Bluetooth_Device::keyToDisplay(const QString& key) const
 QString VLK_Form_Config_Bluetooth_Device::displayToKey(const QString& text) const
 {
     for (const Sensor& sensor : sensors_) {
-        if (const QString key = sensor.type->displayToKey(text); !key.isEmpty())
+        if (QString key = sensor.type->displayToKey(text); !key.isEmpty())
             return key;
     }
     return {};

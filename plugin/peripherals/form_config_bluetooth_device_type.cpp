@@ -155,8 +155,13 @@ void VLK_Form_Config_Bluetooth_Device_Type::selectType(int type)
 
 void VLK_Form_Config_Bluetooth_Device_Type::activateForm(BleSensorForm* form)
 {
-    for (BleSensorForm* other : forms_)
-        other->setActive(other == form);
+    // The form before gives back what it holds; then another one may take it.
+    for (BleSensorForm* other : forms_) {
+        if (other != form)
+            other->setActive(false);
+    }
+    if (form)
+        form->setActive(true);
 }
 
 void VLK_Form_Config_Bluetooth_Device_Type::showType(int type)
@@ -222,7 +227,7 @@ void VLK_Form_Config_Bluetooth_Device_Type::retranslate()
 
 QString VLK_Form_Config_Bluetooth_Device_Type::keyToDisplay(const QString& key) const
 {
-    const QString known = params_->keyToDisplay(key);
+    QString known = params_->keyToDisplay(key);
     if (!known.isEmpty())
         return known;
     const QString name = universal_->keyToDisplay(key);

@@ -45,11 +45,11 @@ struct BluetoothIndex
 
 struct BluetoothSensorType
 {
-    const char* code; // in the file
-    const char* text; // null: the list of types has no text for it
-    bool offered;
+    const char* code;    // in the file
+    const char* text;    // null: the list of types has no text for it
     const char* section; // its element, and the object name of its form
     const char* page;    // of the stack
+    bool offered;
     int height;
     const char* vendorWidget;
     const char* vendorCaption;
@@ -150,9 +150,9 @@ constexpr BluetoothIndex degrees(bool withType)
 inline constexpr BluetoothSensorType kBluetoothSensorTypes[] = {
     {.code = "1",
      .text = "cfgt17_018",
-     .offered = true,
      .section = "FS%1",
      .page = "page_FS",
+     .offered = true,
      .height = 100,
      .vendorWidget = "comboBox_FS_Type",
      .vendorCaption = "cfgt17_039",
@@ -166,9 +166,9 @@ inline constexpr BluetoothSensorType kBluetoothSensorTypes[] = {
      .more = bluetooth::fuelThreshold},
     {.code = "2",
      .text = "cfgt17_019",
-     .offered = true,
      .section = "TS%1",
      .page = "page_TS",
+     .offered = true,
      .height = 70,
      .vendorWidget = "comboBox_TS_Type",
      .vendorCaption = "cfgt17_045",
@@ -181,9 +181,9 @@ inline constexpr BluetoothSensorType kBluetoothSensorTypes[] = {
                .caption = "cfgt17_040"}},
     {.code = "8",
      .text = nullptr,
-     .offered = false,
      .section = "AIN%1",
      .page = "page_AIN",
+     .offered = false,
      .height = 70,
      .vendorWidget = "comboBox_Type",
      .vendorCaption = "cfgt17_076",
@@ -196,9 +196,9 @@ inline constexpr BluetoothSensorType kBluetoothSensorTypes[] = {
                .caption = "cfgt17_040"}},
     {.code = "9",
      .text = nullptr,
-     .offered = false,
      .section = "HS%1",
      .page = "page_HS",
+     .offered = false,
      .height = 70,
      .vendorWidget = "comboBox_Type",
      .vendorCaption = "cfgt17_025",
@@ -206,9 +206,9 @@ inline constexpr BluetoothSensorType kBluetoothSensorTypes[] = {
      .naming = BluetoothSensorType::Naming::always},
     {.code = "3",
      .text = "cfgt17_020",
-     .offered = false,
      .section = "AS%1",
      .page = "page_AS",
+     .offered = false,
      .height = 70,
      .vendorWidget = "comboBox_Type",
      .vendorCaption = "cfgt17_025",
@@ -216,9 +216,9 @@ inline constexpr BluetoothSensorType kBluetoothSensorTypes[] = {
      .index = bluetooth::degrees(false)},
     {.code = "4",
      .text = "cfgt17_021",
-     .offered = false,
      .section = "AXS%1",
      .page = "page_AXS",
+     .offered = false,
      .height = 70,
      .vendorWidget = "comboBox_Type",
      .vendorCaption = "cfgt17_025",
@@ -226,9 +226,9 @@ inline constexpr BluetoothSensorType kBluetoothSensorTypes[] = {
      .naming = BluetoothSensorType::Naming::never},
     {.code = "5",
      .text = "cfgt17_022",
-     .offered = false,
      .section = "FW%1",
      .page = "page_FW",
+     .offered = false,
      .height = 70,
      .vendorWidget = "comboBox_Type",
      .vendorCaption = "cfgt17_025",
@@ -236,9 +236,9 @@ inline constexpr BluetoothSensorType kBluetoothSensorTypes[] = {
      .naming = BluetoothSensorType::Naming::never},
     {.code = "6",
      .text = "cfgt17_023",
-     .offered = false,
      .section = "U%1",
      .page = "page_UP",
+     .offered = false,
      .height = 560,
      .vendorWidget = nullptr,
      .vendorCaption = nullptr,
@@ -246,9 +246,9 @@ inline constexpr BluetoothSensorType kBluetoothSensorTypes[] = {
      .naming = BluetoothSensorType::Naming::always},
     {.code = "7",
      .text = "cfgt17_074",
-     .offered = true,
      .section = "US%1",
      .page = "page_US",
+     .offered = true,
      .height = 70,
      .vendorWidget = "comboBox_Type",
      .vendorCaption = "cfgt17_025",

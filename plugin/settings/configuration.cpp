@@ -4,7 +4,7 @@
 
 namespace vlk {
 
-Configuration::Configuration(std::vector<const SettingsTable*> tables)
+Configuration::Configuration(const std::vector<const SettingsTable*>& tables)
 {
     for (const SettingsTable* table : tables) {
         const TableLayout& layout = layoutOf(*table);

@@ -46,7 +46,7 @@ struct Difference
 class Configuration
 {
 public:
-    explicit Configuration(std::vector<const SettingsTable*> tables);
+    explicit Configuration(const std::vector<const SettingsTable*>& tables);
 
     int count() const { return static_cast<int>(values_.size()); }
     // -1 for a path that no table has.

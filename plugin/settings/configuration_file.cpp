@@ -146,6 +146,8 @@ void Configuration::readGroups(const Part& part, const CXmlSection& section, int
         readRow(part, row, *element.section, element.isThere, takes);
     derive(part);
     keepBounds(part, nullptr);
+    if (!notes)
+        return;
     // A value may have found no room beside another, or what came later has moved it.
     for (ReadNote& note : taken) {
         if (const QString& held = value(note.index); held != note.value) {

@@ -57,7 +57,7 @@ QString spelled(const Setting& setting, double shown, const QString& text)
     return spelled(number, text);
 }
 
-Normalised noted(QString value, const QString& text, Change change)
+Normalised noted(const QString& value, const QString& text, Change change)
 {
     if (value == text)
         return {value, Change::none};
@@ -104,7 +104,7 @@ Normalised number(const Setting& setting, const QString& text, const Limits& lim
                            [&] { return isNumber(setting, text) ? Change::outOfRange : Change::notANumber; });
         shown = setting.kind == Kind::scaled
                     ? rounded(static_cast<double>(read) / setting.factor, setting.decimals)
-                    : read / setting.factor;
+                    : std::trunc(static_cast<double>(read) / setting.factor);
     }
     const double held = std::clamp(shown, limits.least, limits.most);
     return notedBy(spelled(setting, held, text), text, [&] {

@@ -128,43 +128,43 @@ struct Setting
 {
     enum class Reset : std::uint8_t { toLoadDefault, toOwn, keeps };
 
-    Kind kind = Kind::text;
+    Kind kind = Kind::text; // small fields stand together, so that a row has no gaps
+    bool stored = true;     // false: lives in the window alone, the file has no such key
+    Reset resets = Reset::toLoadDefault;
+    std::uint8_t decimals = 0;
+    bool hexadecimal = false; // in the file two digits or more: "0F"
+    bool singleRead = false;  // read in single precision
+    std::uint8_t number = 0;
+    std::uint8_t inner = 0;
+
     const char* key = ""; // of a group its path below the section
     // In the path, where the key stands twice in one element, or the element in one section; null: the key.
     const char* name = nullptr;
-    bool stored = true;           // false: lives in the window alone, the file has no such key
     const char* target = nullptr; // of a link: path of the row that holds the value
 
     double loadNumber = 0; // default of a number
     DefaultText loadText{};
-    Reset resets = Reset::toLoadDefault;
     double resetNumber = 0;
     DefaultText resetText{};
 
     double least = std::numeric_limits<std::int32_t>::min();
     double most = std::numeric_limits<std::int32_t>::max();
     double step = 0; // of the widget; 0: as the form says
-    std::uint8_t decimals = 0;
     std::int32_t factor = 1;
-    bool hexadecimal = false;  // in the file two digits or more: "0F"
-    bool zeroIsOff = false;    // 0 for off, or a number of the range
-    bool negativeIsOn = false; // and a number below 0 is not off but the least
-    double switchedOnAt = -1;  // number that switching on brings; -1: the one that was there before
-    bool blankIsZero = false;  // an empty value stays empty on show and is 0 in the file
-    bool singleRead = false;   // read in single precision
     std::int32_t on = 1;       // of a flag; other than 1: only this value is on
     bool inverted = false;     // of a flag: the box is checked for 0
+    bool zeroIsOff = false;    // 0 for off, or a number of the range
+    bool negativeIsOn = false; // and a number below 0 is not off but the least
+    bool blankIsZero = false;  // an empty value stays empty on show and is 0 in the file
     std::int32_t wrap = 0;     // of a period: what is beyond so many seconds is dropped
+    double switchedOnAt = -1;  // number that switching on brings; -1: the one that was there before
     std::span<const Code> codes{};
     const char* offers = nullptr;   // codes of the list, "NU|NS+"; null: those with `offered`
     const char* fallback = nullptr; // what an unknown code stands for, or `none`; null: the value stays
-    const char* none = nullptr;  // saved for a code that is not offered, or `fallback`; null: the value stays
-    bool unofferedStays = false; // a code that is not offered leaves the value as it stands
-    bool numeric = false;        // codes are compared as numbers
+    const char* none = nullptr; // saved for a code that is not offered, or `fallback`; null: the value stays
     std::span<const PeriodPart> parts{};
     std::span<const Position> positions{};
     std::span<const MaskField> fields{};
-    int maxLength = 0;               // characters; 0: no limit
     const char* pattern = nullptr;   // what can be typed
     const char* inputMask = nullptr; // form of the text, for line edits with a mask
     // What the text should look like, and the translation key of what is wrong with it otherwise. Another one
@@ -172,32 +172,32 @@ struct Setting
     const char* expectedPattern = nullptr;
     const char* unexpectedKey = nullptr;
 
+    int maxLength = 0; // characters; 0: no limit
+    int column = 0;    // the widget is a tree; the cell of this column in the row of the number
     const char* unitKey = nullptr;
     const char* captionKey = nullptr;
     const char* captionFormat = "%1";
     const char* widget = nullptr;
     const char* companion = nullptr; // check box or slider beside the widget
-    int column = 0;                  // the widget is a tree; the cell of this column in the row of the number
 
     // Else the key is neither read nor written. Of a group both have to hold.
     When present{};
     When presentToo{};
-    bool readOtherwise = false; // of a group: read while the next two hold, whenever it is written
-    When readable{};
+    When readable{}; // with `readOtherwise`
     When readableToo{};
     When free{}; // else `otherwise` is written
     const char* otherwise = "";
-    bool boundOnRead = false; // and is what a read gives
+    double unlessThere = -1; // default where the file lacks the whole element; -1: the same
 
-    bool last = false;        // read after all others
-    bool kept = false;        // of a group: an element that is there keeps what else it holds
-    bool unlessEmpty = false; // of a group: not written while none of its keys is
-    bool stays = false;       // a file without the key leaves the value as it stands
-    bool carried = false;     // a save starts from what the document holds under the key, if it does
-    double unlessThere = -1;  // default where the file lacks the whole element; -1: the same
-
-    std::uint8_t number = 0;
-    std::uint8_t inner = 0;
+    bool unofferedStays = false; // a code that is not offered leaves the value as it stands
+    bool numeric = false;        // codes are compared as numbers
+    bool readOtherwise = false;  // of a group: read while both `readable` hold, whenever it is written
+    bool boundOnRead = false;    // `otherwise` is also what a read gives
+    bool last = false;           // read after all others
+    bool kept = false;           // of a group: an element that is there keeps what else it holds
+    bool unlessEmpty = false;    // of a group: not written while none of its keys is
+    bool stays = false;          // a file without the key leaves the value as it stands
+    bool carried = false;        // a save starts from what the document holds under the key, if it does
 
     template <class Field, class Value>
     constexpr Setting having(Field Setting::*field, Value value) const
@@ -324,16 +324,16 @@ constexpr Setting hexadecimal(const char* key, int loadDefault)
 
 constexpr Setting real(const char* key, double loadDefault, std::uint8_t decimals)
 {
-    return {.kind = Kind::real, .key = key, .loadNumber = loadDefault, .decimals = decimals};
+    return {.kind = Kind::real, .decimals = decimals, .key = key, .loadNumber = loadDefault};
 }
 
 // `loadDefault` is what the file holds.
 constexpr Setting scaled(const char* key, int loadDefault, std::int32_t factor, std::uint8_t decimals)
 {
     return {.kind = Kind::scaled,
+            .decimals = decimals,
             .key = key,
             .loadNumber = static_cast<double>(loadDefault),
-            .decimals = decimals,
             .factor = factor};
 }
 

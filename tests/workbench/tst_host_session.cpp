@@ -4,6 +4,7 @@
 #include "window/host_session.h"
 #include "window/languages.h"
 #include "window/message_log_model.h"
+#include "window/write_report_text.h"
 
 #include <QSignalSpy>
 #include <QtTest>
@@ -93,6 +94,22 @@ private Q_SLOTS:
         QVERIFY(!report.accepted);
         QCOMPARE(report.reasonKey, QStringLiteral("wb_refused_detached"));
         QVERIFY(QFile::exists(report.file));
+    }
+
+    // The window would not let it be written; a file can bring it all the same.
+    void saysWhatToDoAboutLargeRecords()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        const QByteArray mask(255, '1');
+        const QTemporaryDir folder;
+        const QString path = writeFile(folder.filePath("large.xml"),
+                                       "<DEVICE model=\"R-7106\"><PROTOCOL><ZETA format=\"30\" mask=\"" +
+                                           mask + "\"/></PROTOCOL></DEVICE>");
+        QCOMPARE(bench.session.openConfiguration(path, false), QString());
+        const QStringList said = vlk::summary(bench.report()).split('\n');
+        QVERIFY2(said[0].endsWith("can keep, bytes: 768"), qPrintable(said[0]));
+        QVERIFY2(said.value(1).contains("\"Data set\""), qPrintable(said.value(1)));
     }
 
     // What cannot be believed opens nothing, and the text says why and what to do.

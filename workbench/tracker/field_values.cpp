@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 
 namespace tracker {
@@ -16,8 +17,8 @@ struct Row
 {
     vlk::ElementIndex first;
     double (*value)(const Vehicle& v, int index);
-    int count = 1;
-    int stride = 1;
+    std::int16_t count = 1;
+    std::int16_t stride = 1;
     // The device on the serial line that tells it, and what stands there while another one owns the line.
     LineOwner device = LineOwner::Other;
     double absent = 0;

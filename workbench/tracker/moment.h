@@ -4,7 +4,7 @@
 
 #include "tracker/day_plan.h"
 #include "tracker/navigation.h"
-#include "tracker/sensing.h"
+#include "tracker/sensor_states.h"
 #include "tracker/settings_history.h"
 #include "tracker/tank_pours.h"
 

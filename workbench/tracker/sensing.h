@@ -1,42 +1,16 @@
 #pragma once
 
-// What the tracker makes of its measurements: states of lines and sensors, which stay between two levels as
-// they were, and the events that their changes raise.
+// What the tracker makes of its measurements: new states of lines and sensors, and the events that their
+// changes raise.
 
 #include "tracker/event_code.h"
-#include "tracker/working_settings.h"
+#include "tracker/sensor_states.h"
 
-#include <array>
 #include <vector>
 
 namespace tracker {
 
 class Vehicle;
-
-struct SensorStates
-{
-    quint8 lines = 0;             // bit n is IN n + 1
-    quint8 shocks = 0;            // bit n is SH n + 1
-    std::array<qint8, 4> zones{}; // -1 below the zone, 1 above it
-    bool supplyLow = false;
-    bool engine = false;
-    // Of the voltage, in Unix seconds; 0 while it is not low, or below that of a running engine.
-    qint64 supplyLowSince = 0;
-    qint64 engineSince = 0;
-    // Of what the readings of fuel level sensors wait for, and whether the supply does for them.
-    qint64 fuelSince = 0;
-    bool fuelSupplied = true;
-    bool fuelCounts = true;
-    double fuelRead = -1;   // litres in the tanks at the last reading that counted; -1 before the first one
-    int analogue = -1;      // mV at the last event of IN3, -1 before the first measurement
-    bool output = false;    // O1 switched on by an event
-    qint64 outputSince = 0; // later than any time while it waits for the vehicle to stand
-
-    // The movement sensor SH3.
-    bool moved() const { return shocks >> 2 & 1; }
-    // What O1 gives then: the form of the signal.
-    bool outputNow(const OutputRules& rules, qint64 time) const;
-};
 
 // Measures at the moment of the vehicle, whose states are those before. Events are added to `events`.
 SensorStates sense(const Vehicle& vehicle, const WorkingSettings& settings, std::vector<EventCode>& events);

@@ -1,6 +1,7 @@
 #include "tracker/track_points.h"
 
 #include "tracker/random.h"
+#include "tracker/sensing.h"
 #include "tracker/vehicle.h"
 
 #include <algorithm>

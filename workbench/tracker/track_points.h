@@ -5,6 +5,7 @@
 // At most one record a second; of several events at once the later ones follow in the next seconds.
 
 #include "tracker/day_plan.h"
+#include "tracker/event_code.h"
 #include "tracker/moment.h"
 
 #include <algorithm>

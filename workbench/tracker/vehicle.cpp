@@ -90,7 +90,8 @@ double Vehicle::satellites(int system) const
 
 double Vehicle::dilution(int kind) const
 {
-    return (kind == 0 ? 10 : 17) * m.satellites.hdop();
+    constexpr double ofPosition = 1.7; // times the horizontal one
+    return 10 * m.satellites.hdop() * (kind == 0 ? 1 : ofPosition);
 }
 
 // Cells are some two kilometres wide, and three stations are in sight.
@@ -137,7 +138,7 @@ double Vehicle::line(int index) const
     }
 }
 
-// Full until somebody drains it; the less is averaged, the more it swings.
+// Full until somebody drains it; on the move it sloshes, the more so the less is averaged.
 double Vehicle::tankAtLine() const
 {
     if (c.fuelHeights[0])
@@ -146,8 +147,11 @@ double Vehicle::tankAtLine() const
     constexpr double full = 5000;
     constexpr double averaged = 150;
     constexpr double raw = 700;
-    const LineRules* rules = m.settings ? &m.settings->lines[2] : nullptr;
-    const int window = !rules ? longest : rules->filtered ? std::clamp(rules->window, 1, longest) : 1;
+    int window = longest;
+    if (m.settings && driving()) {
+        const LineRules& rules = m.settings->lines[2];
+        window = rules.filtered ? std::clamp(rules.window, 1, longest) : 1;
+    }
     const double swing = raw + (averaged - raw) * (window - 1) / (longest - 1);
     return drift(25, full - swing, full + swing, 40);
 }

@@ -25,40 +25,40 @@ enum Page { Transfer, DataSet, Track, System, Serial, Temperature, LinesIn, Acce
 
 struct Edit
 {
-    Page page;
     const char* widget;
     // As the file holds them; the one that the tracker does not hold yet is set, so that every run changes
     // something.
     const char* one;
     const char* two;
     const char* path;
-    // What else may change with it: keys whose paths begin so.
-    const char* pulls = nullptr;
+    Page page;
     // Where the value is one sign of a long text: its position.
     int position = -1;
+    // What else may change with it: keys whose paths begin so.
+    const char* pulls = nullptr;
 };
 
 constexpr Edit kEdits[] = {
-    {Transfer, "lineEdit_Name", "KAMAZ 5490 A123BC", "KAMAZ 5490 B456CE", "TRANS/OBJECT/name"},
-    {Transfer, "GPRSSrv_lineEdit_IP_DNS_Main", "fleet.example.com", "gate.example.com", "TRANS/SRV1/addr"},
-    {Transfer, "GPRSSrv_spinBox_Port_Main", "5555", "6666", "TRANS/SRV1/port"},
-    {DataSet, "checkBox_State_2", "1", "0", "PROTOCOL/ZETA/mask", nullptr, 122},
-    {Track, "spinBox_ParkingStop", "45", "60", "TRACK/MOVESENS/stopTimer"},
-    {Track, "doubleSpinBox_RejectCoord_maxHDOP", "3.1", "3.2", "TRACK/COORDFLT/maxHDOP"},
-    {System, "TimeZone_spinBox_Value", "5", "7", "SYSTEM/TIME/zone"},
-    {System, "AllowDecretTime_checkBox", "1", "0", "SYSTEM/TIME/DST"},
-    {System, "lineEdit_NTP_Srv_4", "time.example.com", "clock.example.com", "SYSTEM/NTP/ntpSrv4"},
-    {Serial, "comboBox_RS485_Owner_1", "TPMS", "FLDS", "RS485/OPTIONS/owner1", "RS485/"},
-    {Serial, "comboBox_RS485_Parity", "1", "2", "RS485/OPTIONS/parity"},
-    {Temperature, "doubleSpinBox_Left_Temp_1", "-20.0", "-15.5", "TEMPSENS/SENS1/min"},
-    {Temperature, "spinBox_Hyst_2", "3", "4", "TEMPSENS/SENS2/hyst"},
-    {LinesIn, "lineEdit_Name_In2", "Rear door", "Side door", "SENSORS/IN2/name"},
-    {LinesIn, "comboBox_NormState_In2", "NS-", "NB-", "SENSORS/IN2/normState"},
-    {LinesIn, "checkBox_UI_Filter", "0", "1", "SENSORS/IN3/IN3AIN/filterMode", "SENSORS/IN3/IN3AIN/filterL"},
-    {Accel, "doubleSpinBox_Level_SH1", "45.5", "55.5", "ACCEL/SENSORS/sh1"},
-    {LinesOut, "lineEdit_Name_O1", "Siren", "Buzzer", "OUTPUTS/LINE1/nickname"},
-    {LinesOut, "comboBox_UseAs_O1", "GP", "ZUM", "OUTPUTS/LINE1/mode", "OUTPUTS/LINE1/onDelay"},
-    {Bluetooth, "lineEdit_Name_Sens_1", "TD_100001", "TD_100002", "BLUETOOTH/SENS1/name"},
+    {"lineEdit_Name", "KAMAZ 5490 A123BC", "KAMAZ 5490 B456CE", "TRANS/OBJECT/name", Transfer},
+    {"GPRSSrv_lineEdit_IP_DNS_Main", "fleet.example.com", "gate.example.com", "TRANS/SRV1/addr", Transfer},
+    {"GPRSSrv_spinBox_Port_Main", "5555", "6666", "TRANS/SRV1/port", Transfer},
+    {"checkBox_State_2", "1", "0", "PROTOCOL/ZETA/mask", DataSet, 122},
+    {"spinBox_ParkingStop", "45", "60", "TRACK/MOVESENS/stopTimer", Track},
+    {"doubleSpinBox_RejectCoord_maxHDOP", "3.1", "3.2", "TRACK/COORDFLT/maxHDOP", Track},
+    {"TimeZone_spinBox_Value", "5", "7", "SYSTEM/TIME/zone", System},
+    {"AllowDecretTime_checkBox", "1", "0", "SYSTEM/TIME/DST", System},
+    {"lineEdit_NTP_Srv_4", "time.example.com", "clock.example.com", "SYSTEM/NTP/ntpSrv4", System},
+    {"comboBox_RS485_Owner_1", "TPMS", "FLDS", "RS485/OPTIONS/owner1", Serial, -1, "RS485/"},
+    {"comboBox_RS485_Parity", "1", "2", "RS485/OPTIONS/parity", Serial},
+    {"doubleSpinBox_Left_Temp_1", "-20.0", "-15.5", "TEMPSENS/SENS1/min", Temperature},
+    {"spinBox_Hyst_2", "3", "4", "TEMPSENS/SENS2/hyst", Temperature},
+    {"lineEdit_Name_In2", "Rear door", "Side door", "SENSORS/IN2/name", LinesIn},
+    {"comboBox_NormState_In2", "NS-", "NB-", "SENSORS/IN2/normState", LinesIn},
+    {"spinBox_UI_Kalman", "4", "6", "SENSORS/IN3/IN3AIN/filterLvl", LinesIn},
+    {"doubleSpinBox_Level_SH1", "45.5", "55.5", "ACCEL/SENSORS/sh1", Accel},
+    {"lineEdit_Name_O1", "Siren", "Buzzer", "OUTPUTS/LINE1/nickname", LinesOut},
+    {"comboBox_UseAs_O1", "GP", "ZUM", "OUTPUTS/LINE1/mode", LinesOut, -1, "OUTPUTS/LINE1/onDelay"},
+    {"lineEdit_Name_Sens_1", "TD_100001", "TD_100002", "BLUETOOTH/SENS1/name", Bluetooth},
 };
 
 QString valueOf(const Edit& edit, const ConfigurationValues& values)
@@ -207,7 +207,6 @@ void checkShown(const Notebook& book)
 void saveReadBack(Tour& tour, const Notebook& book)
 {
     const QString path = tour.folder().absoluteFilePath(QStringLiteral("read-back.xml"));
-    QFile::remove(path);
     tour.whenModal<QFileDialog>([path](QFileDialog& dialog) { Tour::giveName(dialog, path); });
     Tour::press("pushButton_SaveToFile");
     QFile file(path);

@@ -90,7 +90,6 @@ void calibrate(vlk::Tour& tour)
 void save(vlk::Tour& tour, const char* button, const QString& name)
 {
     const QString path = tour.folder().filePath(name);
-    QFile::remove(path);
     tour.whenModal<QFileDialog>([path](QFileDialog& dialog) { vlk::Tour::giveName(dialog, path); });
     vlk::Tour::press(button);
 }

@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QThread>
@@ -108,6 +109,9 @@ void Tour::giveName(QFileDialog& dialog, const QString& path)
 {
     auto* edit = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     expect(edit != nullptr, QStringLiteral("the file dialog is not Qt's own"));
+    // A file of an earlier tour would be asked about.
+    if (dialog.acceptMode() == QFileDialog::AcceptSave)
+        QFile::remove(path);
     edit->setText(path);
     QMetaObject::invokeMethod(&dialog, "accept");
 }

@@ -61,7 +61,7 @@ public:
     }
     // The visible button of a name; fails the step when it is disabled.
     static void press(const char* button);
-    // Types the name into a dialog of Qt's own and accepts it.
+    // Types the name into a dialog of Qt's own and accepts it; what is to be saved replaces an earlier file.
     static void giveName(QFileDialog& dialog, const QString& path);
     static void expect(bool condition, const QString& otherwise);
     // Leaves files in the folder.

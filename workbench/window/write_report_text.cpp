@@ -1,7 +1,6 @@
 #include "window/write_report_text.h"
 
 #include "window/languages.h"
-#include "window/trouble_text.h"
 #include "window/write_report_model.h"
 
 #include <QFile>
@@ -39,7 +38,11 @@ QString summary(const tracker::WriteReport& report)
         QString reason = text(report.reasonKey.toLatin1().constData());
         if (!report.detail.isEmpty())
             reason += QLatin1Char(' ') + report.detail;
-        QString refusal = sentences({text("wb_report_refused").arg(reason), adviceOn(report.reasonKey)});
+        QString refusal = text("wb_report_refused").arg(reason);
+        const QString advice = adviceOn(report.reasonKey);
+        // A detail ends without a full stop.
+        if (!advice.isEmpty())
+            refusal += (report.detail.isEmpty() ? QLatin1Char(' ') : QLatin1Char('\n')) + advice;
         if (QFile::exists(report.file))
             refusal += QLatin1Char('\n') + text("wb_report_kept").arg(report.file);
         return refusal;

@@ -54,7 +54,7 @@ bool isDigits(const QString& cell)
 // A comma may separate two cells, or a number from its decimals.
 QStringList splitAtCommas(const QString& line)
 {
-    const QStringList cells = split(line, kComma);
+    QStringList cells = split(line, kComma);
     if (cells.size() == 4 && std::all_of(cells.begin(), cells.end(), isDigits))
         return {cells[0] + kPoint + cells[1], cells[2] + kPoint + cells[3]};
     if (cells.size() > 2 && std::all_of(cells.begin(), cells.begin() + 3, isDigits))

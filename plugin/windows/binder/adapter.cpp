@@ -1,7 +1,7 @@
 #include "windows/binder/adapter.h"
 
 #include "settings/value_text.h"
-#include "windows/binder/binder.h"
+#include "windows/binder/bound_forms.h"
 
 #include <QAbstractButton>
 #include <QGroupBox>
@@ -9,7 +9,7 @@
 
 namespace vlk {
 
-Adapter::Adapter(Binder& binder, int index) : binder_(binder), index_(index) {}
+Adapter::Adapter(Edits& edits, int index) : edits_(edits), index_(index) {}
 
 void Adapter::own(const QWidget* widget)
 {
@@ -24,12 +24,12 @@ const Setting& Adapter::setting() const
 
 const Configuration& Adapter::configuration() const
 {
-    return binder_.configuration();
+    return edits_.configuration();
 }
 
 void Adapter::edited(const QString& value)
 {
-    binder_.edited(index_, value);
+    edits_.edited(index_, value);
 }
 
 void Adapter::caption(QWidget* widget, const QString& suffix)
@@ -44,13 +44,13 @@ void Adapter::caption(QWidget* widget, const char* key, const char* format, cons
     const Caption parts = captionParts(key, format, setting().number);
     const QString plain = inOneLine(parts.before + QLatin1Char(' ') + parts.after);
     widget->setAccessibleName(suffix.isEmpty() ? plain : QStringLiteral("%1, %2").arg(plain, suffix));
-    if (QLabel* label = binder_.labelOf(widget))
+    if (QLabel* label = edits_.forms().labelOf(widget))
         label->setText(parts.before);
     else if (auto* button = qobject_cast<QAbstractButton*>(widget))
         button->setText(parts.before);
     else if (auto* box = qobject_cast<QGroupBox*>(widget))
         box->setTitle(parts.before);
-    if (QLabel* after = binder_.labelBehind(widget))
+    if (QLabel* after = edits_.forms().labelBehind(widget))
         after->setText(parts.after);
 }
 

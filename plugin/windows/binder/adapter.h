@@ -3,23 +3,20 @@
 // Joins one setting to the widgets that show it. There is one adapter a kind of widget; the binder makes
 // them, tells them what to show and takes their edits. Values are texts of the file.
 
-#include "settings/configuration.h"
+#include "windows/binder/edits.h"
 
 #include <QObject>
 
-class QLabel;
 class QWidget;
 
 namespace vlk {
-
-class Binder;
 
 class Adapter : public QObject
 {
     Q_OBJECT
 
 public:
-    Adapter(Binder& binder, int index);
+    Adapter(Edits& edits, int index);
 
     int index() const { return index_; }
     // Texts, ranges and items from the row, in the present language.
@@ -45,7 +42,7 @@ protected:
     // The same with another caption than the row's.
     void caption(QWidget* widget, const char* key, const char* format, const QString& suffix = {});
 
-    Binder& binder_;
+    Edits& edits_;
 
 private:
     const int index_;

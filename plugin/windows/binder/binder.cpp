@@ -27,8 +27,6 @@ namespace vlk {
 
 namespace {
 
-constexpr QChar kFormMark = u'/';
-
 // Counts what is being shown, so that the widgets' signals are no edits meanwhile.
 class Showing
 {
@@ -51,77 +49,15 @@ Binder::Binder(Configuration& configuration, const SettingsTable& table)
 
 Binder::~Binder() = default;
 
-void Binder::addForm(QWidget* form, int number)
-{
-    forms_.push_back({form, number});
-}
-
-const Binder::Form* Binder::formNamed(const QString& name) const
-{
-    const auto found = std::find_if(forms_.begin(), forms_.end(), [&](const Form& form) {
-        return form.widget && form.widget->objectName() == name;
-    });
-    return found == forms_.end() ? nullptr : &*found;
-}
-
-bool Binder::isLate(const QString& name) const
-{
-    const int slash = name.indexOf(kFormMark);
-    return slash >= 0 && !formNamed(name.left(slash));
-}
-
 bool Binder::isLate(const Setting& setting) const
 {
     const auto isLate = [&](const char* name) {
-        return name && this->isLate(numberedName(name, setting.number, setting.inner));
+        return name && forms_.isLate(numberedName(name, setting.number, setting.inner));
     };
     const auto anyOf = [&](const auto& boxes) {
         return std::any_of(boxes.begin(), boxes.end(), [&](const auto& box) { return isLate(box.widget); });
     };
     return isLate(setting.widget) || anyOf(setting.codes) || anyOf(setting.positions) || anyOf(setting.parts);
-}
-
-QWidget* Binder::find(const QString& name, int number) const
-{
-    if (name.isEmpty())
-        return nullptr;
-    if (const int slash = name.indexOf(kFormMark); slash >= 0) {
-        const Form* form = formNamed(name.left(slash));
-        return form ? form->widget->findChild<QWidget*>(name.mid(slash + 1)) : nullptr;
-    }
-    for (const bool numbered : {true, false}) {
-        for (const Form& form : forms_) {
-            if (!form.widget || (form.number != 0) != numbered || (numbered && form.number != number))
-                continue;
-            if (auto* widget = form.widget->findChild<QWidget*>(name))
-                return widget;
-        }
-    }
-    return nullptr;
-}
-
-QLabel* Binder::labelOf(QWidget* widget) const
-{
-    QWidget* window = widget->parentWidget();
-    for (; window && !std::any_of(forms_.begin(), forms_.end(),
-                                  [&](const Form& form) { return form.widget == window; });)
-        window = window->parentWidget();
-    if (!window)
-        return nullptr;
-    for (QLabel* label : window->findChildren<QLabel*>()) {
-        if (label->buddy() == widget)
-            return label;
-    }
-    auto* label = window->findChild<QLabel*>(QStringLiteral("label_") + widget->objectName());
-    if (label)
-        label->setBuddy(widget);
-    return label;
-}
-
-QLabel* Binder::labelBehind(QWidget* widget) const
-{
-    QWidget* parent = widget->parentWidget();
-    return parent ? parent->findChild<QLabel*>(widget->objectName() + QStringLiteral("_After")) : nullptr;
 }
 
 std::unique_ptr<Adapter> Binder::makeAdapter(int index)
@@ -130,7 +66,7 @@ std::unique_ptr<Adapter> Binder::makeAdapter(int index)
     const QString path = configuration_.path(index);
     const auto found = [&](const char* name) {
         const QString object = numberedName(name, setting.number, setting.inner);
-        QWidget* widget = find(object, setting.number);
+        QWidget* widget = forms_.find(object, setting.number);
         if (!widget && !object.isEmpty())
             problems_ << QStringLiteral("%1: no widget %2").arg(path, object);
         return widget;
@@ -191,7 +127,7 @@ void Binder::bind()
     handles_.clear();
     for (const TableLayout::Distance& rule : layout_.distances) {
         const Setting& setting = *layout_.rows[rule.first].setting;
-        auto* slider = qobject_cast<VLK_DblSlider2*>(find(rule.slider, setting.number));
+        auto* slider = qobject_cast<VLK_DblSlider2*>(forms_.find(rule.slider, setting.number));
         if (slider)
             handles_.push_back(std::make_unique<HandlesAdapter>(*this, rule, first_ + rule.first,
                                                                 first_ + rule.second, slider));
@@ -201,9 +137,9 @@ void Binder::bind()
     targets_.clear();
     for (const TableLayout::Enable& rule : layout_.enables) {
         for (const QString& name : rule.targets) {
-            QWidget* widget = find(name, rule.number);
+            QWidget* widget = forms_.find(name, rule.number);
             if (!widget) {
-                if (!isLate(name))
+                if (!forms_.isLate(name))
                     problems_ << QStringLiteral("no widget %1 to enable").arg(name);
                 continue;
             }
@@ -211,7 +147,7 @@ void Binder::bind()
                 return target.widget == widget && target.shows == rule.shows;
             });
             if (known == targets_.end())
-                targets_.push_back({widget, labelOf(widget), rule.shows, {&rule}});
+                targets_.push_back({widget, forms_.labelOf(widget), rule.shows, {&rule}});
             else
                 known->rules.push_back(&rule);
         }
@@ -362,17 +298,16 @@ void Binder::set(int index, const QString& value)
 
 void Binder::take(const QString& widget)
 {
-    for (std::size_t row = 0; row < adapters_.size(); ++row) {
-        if (adapters_[row] && adapters_[row]->owns(widget))
-            adapters_[row]->take();
+    for (const auto& adapter : adapters_) {
+        if (adapter && adapter->owns(widget))
+            adapter->take();
     }
 }
 
 void Binder::finishTyping()
 {
     auto* box = qobject_cast<QAbstractSpinBox*>(QApplication::focusWidget());
-    if (box && std::any_of(forms_.begin(), forms_.end(),
-                           [box](const Form& form) { return form.widget && form.widget->isAncestorOf(box); }))
+    if (box && forms_.contain(box))
         box->interpretText();
 }
 

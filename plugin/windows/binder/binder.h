@@ -8,7 +8,8 @@
 // group boxes without such a label carry it themselves. What stands behind the mark "<val>" of a caption goes
 // to the label named <widget>_After.
 
-#include "settings/configuration.h"
+#include "windows/binder/bound_forms.h"
+#include "windows/binder/edits.h"
 
 #include <QObject>
 #include <QPointer>
@@ -26,7 +27,7 @@ namespace vlk {
 class Adapter;
 class HandlesAdapter;
 
-class Binder : public QObject
+class Binder : public QObject, public Edits
 {
     Q_OBJECT
 
@@ -34,11 +35,10 @@ public:
     Binder(Configuration& configuration, const SettingsTable& table);
     ~Binder() override;
 
-    // Names are looked up below this widget. With a number: those of the rows that have the number, before
-    // any other widget.
-    void addForm(QWidget* form, int number = 0);
-    // Joins what is not joined yet; to be called when all forms are there. "TACH/comboBox_Type" is the widget
-    // in the form with the object name TACH; until that is there, its rows wait.
+    // With a number: the form holds the widgets of the rows that have the number.
+    void addForm(QWidget* form, int number = 0) { forms_.add(form, number); }
+    // Joins what is not joined yet; to be called when all forms are there. Rows whose form is named and is
+    // not there yet wait for it.
     void bind();
     // Adds a form for which rows wait, and shows their values in it.
     void join(QWidget* form);
@@ -62,28 +62,18 @@ public:
     // Rows whose widgets hold another value than the configuration.
     QStringList disagreements() const;
 
-    Configuration& configuration() const { return configuration_; }
-    const SettingsTable& table() const { return table_; }
-
-    QWidget* find(const QString& name, int number) const;
-    QLabel* labelOf(QWidget* widget) const;
-    QLabel* labelBehind(QWidget* widget) const;
-    // An edit that a widget of the row shows already, and one that comes from elsewhere.
-    void edited(int index, const QString& value);
-    void set(int index, const QString& value);
-    // While values are shown the widgets' signals are no edits.
-    bool isShowing() const { return showing_ > 0; }
+    const Configuration& configuration() const override { return configuration_; }
+    const SettingsTable& table() const override { return table_; }
+    const BoundForms& forms() const override { return forms_; }
+    bool isShowing() const override { return showing_ > 0; }
+    void edited(int index, const QString& value) override;
+    void set(int index, const QString& value) override;
 
 Q_SIGNALS:
     // A value changed by an edit of the user or by a rule that it ran. The path is that below the section.
     void changed(const QString& path);
 
 private:
-    struct Form
-    {
-        QPointer<QWidget> widget;
-        int number;
-    };
     // A widget that rules enable or show; all of them have to allow it. Its label is enabled with it.
     struct Target
     {
@@ -93,9 +83,7 @@ private:
         std::vector<const TableLayout::Enable*> rules;
     };
 
-    const Form* formNamed(const QString& name) const;
-    // Whether the name, or one of the row's, tells a form that is not there yet.
-    bool isLate(const QString& name) const;
+    // Whether a name of the row tells a form that is not there yet.
     bool isLate(const Setting& setting) const;
     // What a widget was dressed with: rules may give it another range.
     struct Range
@@ -117,7 +105,7 @@ private:
     const SettingsTable& table_;
     const TableLayout& layout_;
     const int first_;
-    std::vector<Form> forms_;
+    BoundForms forms_;
     std::vector<std::unique_ptr<Adapter>> adapters_; // one a row, null where a row has no widget
     std::vector<std::unique_ptr<HandlesAdapter>> handles_;
     std::vector<Target> targets_;

@@ -10,8 +10,8 @@
 
 namespace vlk {
 
-ExclusiveAdapter::ExclusiveAdapter(Binder& binder, int index, std::vector<QWidget*> boxes)
-    : Adapter(binder, index), boxes_(std::move(boxes))
+ExclusiveAdapter::ExclusiveAdapter(Edits& edits, int index, std::vector<QWidget*> boxes)
+    : Adapter(edits, index), boxes_(std::move(boxes))
 {
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         if (!boxes_[i])
@@ -62,7 +62,7 @@ QString ExclusiveAdapter::held() const
 {
     QString none;
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
-        const QString code = QString::fromLatin1(setting().codes[i].code);
+        QString code = QString::fromLatin1(setting().codes[i].code);
         if (!boxes_[i])
             none = code;
         else if (isChecked(boxes_[i]))
@@ -71,9 +71,9 @@ QString ExclusiveAdapter::held() const
     return none;
 }
 
-PositionsAdapter::PositionsAdapter(Binder& binder, int index, std::vector<QWidget*> boxes,
+PositionsAdapter::PositionsAdapter(Edits& edits, int index, std::vector<QWidget*> boxes,
                                    std::vector<QWidget*> checks)
-    : Adapter(binder, index), boxes_(std::move(boxes)), checks_(std::move(checks))
+    : Adapter(edits, index), boxes_(std::move(boxes)), checks_(std::move(checks))
 {
     for (std::size_t i = 0; i < checks_.size(); ++i) {
         own(checks_[i]);

@@ -12,7 +12,7 @@ namespace vlk {
 class ExclusiveAdapter : public Adapter
 {
 public:
-    ExclusiveAdapter(Binder& binder, int index, std::vector<QWidget*> boxes);
+    ExclusiveAdapter(Edits& edits, int index, std::vector<QWidget*> boxes);
 
     void dress() override;
     void show(const QString& value) override;
@@ -27,7 +27,7 @@ class PositionsAdapter : public Adapter
 {
 public:
     // `checks`: check boxes beside lists, null for a position without one.
-    PositionsAdapter(Binder& binder, int index, std::vector<QWidget*> boxes, std::vector<QWidget*> checks);
+    PositionsAdapter(Edits& edits, int index, std::vector<QWidget*> boxes, std::vector<QWidget*> checks);
 
     void dress() override;
     void show(const QString& value) override;

@@ -4,8 +4,8 @@
 
 namespace vlk {
 
-CellAdapter::CellAdapter(Binder& binder, int index, QTreeWidget* tree)
-    : Adapter(binder, index), tree_(tree), row_(setting().number - 1)
+CellAdapter::CellAdapter(Edits& edits, int index, QTreeWidget* tree)
+    : Adapter(edits, index), tree_(tree), row_(setting().number - 1)
 {
     connect(tree, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* item, int column) {
         if (column == setting().column && item == tree_->topLevelItem(row_))

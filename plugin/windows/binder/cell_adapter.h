@@ -11,7 +11,7 @@ namespace vlk {
 class CellAdapter : public Adapter
 {
 public:
-    CellAdapter(Binder& binder, int index, QTreeWidget* tree);
+    CellAdapter(Edits& edits, int index, QTreeWidget* tree);
 
     void dress() override {}
     void show(const QString& value) override;

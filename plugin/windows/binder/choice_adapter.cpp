@@ -1,13 +1,12 @@
 #include "windows/binder/choice_adapter.h"
 
-#include "windows/binder/binder.h"
 #include "windows/binder/code_list.h"
 
 #include <QSignalBlocker>
 
 namespace vlk {
 
-ChoiceAdapter::ChoiceAdapter(Binder& binder, int index, QComboBox* box) : Adapter(binder, index), box_(box)
+ChoiceAdapter::ChoiceAdapter(Edits& edits, int index, QComboBox* box) : Adapter(edits, index), box_(box)
 {
     own(box);
     connect(box, qOverload<int>(&QComboBox::currentIndexChanged), this, [this] { take(); });

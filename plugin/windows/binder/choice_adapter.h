@@ -11,7 +11,7 @@ namespace vlk {
 class ChoiceAdapter : public Adapter
 {
 public:
-    ChoiceAdapter(Binder& binder, int index, QComboBox* box);
+    ChoiceAdapter(Edits& edits, int index, QComboBox* box);
 
     void dress() override;
     void show(const QString& value) override;

@@ -4,7 +4,7 @@
 
 namespace vlk {
 
-FlagAdapter::FlagAdapter(Binder& binder, int index, QWidget* box) : Adapter(binder, index), box_(box)
+FlagAdapter::FlagAdapter(Edits& edits, int index, QWidget* box) : Adapter(edits, index), box_(box)
 {
     own(box);
     onToggled(box, this, [this](bool) { take(); });

@@ -9,7 +9,7 @@ namespace vlk {
 class FlagAdapter : public Adapter
 {
 public:
-    FlagAdapter(Binder& binder, int index, QWidget* box);
+    FlagAdapter(Edits& edits, int index, QWidget* box);
 
     void dress() override;
     void show(const QString& value) override;

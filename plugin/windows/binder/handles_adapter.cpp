@@ -1,15 +1,14 @@
 #include "windows/binder/handles_adapter.h"
 
-#include "windows/binder/binder.h"
 #include "windows/vlk_dblslider2.h"
 
 namespace vlk {
 
-HandlesAdapter::HandlesAdapter(Binder& binder, const TableLayout::Distance& rule, int first, int second,
+HandlesAdapter::HandlesAdapter(Edits& edits, const TableLayout::Distance& rule, int first, int second,
                                VLK_DblSlider2* slider)
-    : binder_(binder), rule_(rule), first_(first), second_(second), slider_(slider)
+    : edits_(edits), rule_(rule), first_(first), second_(second), slider_(slider)
 {
-    const Configuration& configuration = binder.configuration();
+    const Configuration& configuration = edits.configuration();
     slider->setRange(configuration.setting(first).least, gap(), configuration.setting(second).most);
     connect(slider, &VLK_DblSlider2::value1Changed, this, &HandlesAdapter::take);
     connect(slider, &VLK_DblSlider2::value2Changed, this, &HandlesAdapter::take);
@@ -19,21 +18,21 @@ HandlesAdapter::HandlesAdapter(Binder& binder, const TableLayout::Distance& rule
 // between: both values are taken at once, and the slider is left alone meanwhile.
 void HandlesAdapter::take()
 {
-    if (taking_ || binder_.isShowing())
+    if (taking_ || edits_.isShowing())
         return;
     taking_ = true;
-    const Configuration& configuration = binder_.configuration();
+    const Configuration& configuration = edits_.configuration();
     const QString first = fileNumber(configuration.setting(first_), slider_->value1());
     const QString second = fileNumber(configuration.setting(second_), slider_->value2());
-    binder_.set(second_, second);
-    binder_.set(first_, first);
+    edits_.set(second_, second);
+    edits_.set(first_, first);
     moveHandles();
     taking_ = false;
 }
 
 double HandlesAdapter::gap() const
 {
-    return binder_.configuration().gapOf(binder_.table(), rule_);
+    return edits_.configuration().gapOf(edits_.table(), rule_);
 }
 
 void HandlesAdapter::show()
@@ -44,7 +43,7 @@ void HandlesAdapter::show()
 
 void HandlesAdapter::moveHandles()
 {
-    const Configuration& configuration = binder_.configuration();
+    const Configuration& configuration = edits_.configuration();
     const auto shown = [&](int index) {
         return shownNumber(configuration.setting(index), configuration.value(index));
     };

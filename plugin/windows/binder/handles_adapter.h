@@ -13,7 +13,7 @@ class HandlesAdapter : public QObject
     Q_OBJECT
 
 public:
-    HandlesAdapter(Binder& binder, const TableLayout::Distance& rule, int first, int second,
+    HandlesAdapter(Edits& edits, const TableLayout::Distance& rule, int first, int second,
                    VLK_DblSlider2* slider);
 
     void show();
@@ -23,7 +23,7 @@ private:
     void take();
     void moveHandles();
 
-    Binder& binder_;
+    Edits& edits_;
     const TableLayout::Distance& rule_;
     int first_;
     int second_;

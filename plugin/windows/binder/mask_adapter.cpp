@@ -1,16 +1,14 @@
 #include "windows/binder/mask_adapter.h"
 
-#include "windows/binder/binder.h"
-
 namespace vlk {
 
-MaskAdapter::MaskAdapter(Binder& binder, int index, QWidget* widget, MaskWidget* mask)
-    : Adapter(binder, index), widget_(widget), mask_(mask)
+MaskAdapter::MaskAdapter(Edits& edits, int index, QWidget* widget, MaskWidget* mask)
+    : Adapter(edits, index), widget_(widget), mask_(mask)
 {
     own(widget);
     mask_->edited = [this] {
         shown_.clear();
-        if (!binder_.isShowing())
+        if (!edits_.isShowing())
             take();
     };
 }

@@ -11,7 +11,7 @@ class MaskAdapter : public Adapter
 {
 public:
     // Both are the same widget.
-    MaskAdapter(Binder& binder, int index, QWidget* widget, MaskWidget* mask);
+    MaskAdapter(Edits& edits, int index, QWidget* widget, MaskWidget* mask);
     ~MaskAdapter() override;
     Q_DISABLE_COPY(MaskAdapter)
 

@@ -1,6 +1,5 @@
 #include "windows/binder/number_adapter.h"
 
-#include "windows/binder/binder.h"
 #include "windows/binder/checkable.h"
 
 #include <QAbstractSlider>
@@ -8,8 +7,8 @@
 
 namespace vlk {
 
-NumberAdapter::NumberAdapter(Binder& binder, int index, QWidget* box, QWidget* companion)
-    : Adapter(binder, index), box_(box, configuration().setting(index))
+NumberAdapter::NumberAdapter(Edits& edits, int index, QWidget* box, QWidget* companion)
+    : Adapter(edits, index), box_(box, configuration().setting(index))
 {
     own(box);
     own(companion);
@@ -70,7 +69,7 @@ void NumberAdapter::show(const QString& value)
 
 void NumberAdapter::switched(bool on)
 {
-    if (binder_.isShowing())
+    if (edits_.isShowing())
         return;
     const double fixed = setting().switchedOnAt;
     if (!on && fixed < 0)

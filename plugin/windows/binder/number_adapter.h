@@ -12,7 +12,7 @@ class NumberAdapter : public Adapter
 {
 public:
     // `companion`: a check box or a slider, or null.
-    NumberAdapter(Binder& binder, int index, QWidget* box, QWidget* companion);
+    NumberAdapter(Edits& edits, int index, QWidget* box, QWidget* companion);
 
     void dress() override;
     void show(const QString& value) override;

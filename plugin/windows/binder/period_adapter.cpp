@@ -1,6 +1,5 @@
 #include "windows/binder/period_adapter.h"
 
-#include "windows/binder/binder.h"
 #include "windows/binder/number_box.h"
 
 #include <QCoreApplication>
@@ -10,8 +9,8 @@
 
 namespace vlk {
 
-PeriodAdapter::PeriodAdapter(Binder& binder, int index, std::vector<QSpinBox*> boxes)
-    : Adapter(binder, index), boxes_(std::move(boxes))
+PeriodAdapter::PeriodAdapter(Edits& edits, int index, std::vector<QSpinBox*> boxes)
+    : Adapter(edits, index), boxes_(std::move(boxes))
 {
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         own(boxes_[i]);
@@ -44,7 +43,7 @@ void PeriodAdapter::show(const QString& value)
 
 void PeriodAdapter::take()
 {
-    if (binder_.isShowing())
+    if (edits_.isShowing())
         return;
     limitLast();
     edited(held());

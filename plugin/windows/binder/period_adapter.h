@@ -14,7 +14,7 @@ namespace vlk {
 class PeriodAdapter : public Adapter
 {
 public:
-    PeriodAdapter(Binder& binder, int index, std::vector<QSpinBox*> boxes);
+    PeriodAdapter(Edits& edits, int index, std::vector<QSpinBox*> boxes);
 
     void dress() override;
     void show(const QString& value) override;

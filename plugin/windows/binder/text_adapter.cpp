@@ -8,7 +8,7 @@
 
 namespace vlk {
 
-TextAdapter::TextAdapter(Binder& binder, int index, QLineEdit* edit) : Adapter(binder, index), edit_(edit)
+TextAdapter::TextAdapter(Edits& edits, int index, QLineEdit* edit) : Adapter(edits, index), edit_(edit)
 {
     own(edit);
     if (setting().maxLength > 0)

@@ -14,7 +14,7 @@ namespace vlk {
 class TextAdapter : public Adapter
 {
 public:
-    TextAdapter(Binder& binder, int index, QLineEdit* edit);
+    TextAdapter(Edits& edits, int index, QLineEdit* edit);
 
     void dress() override;
     void show(const QString& value) override;

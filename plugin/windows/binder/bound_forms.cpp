@@ -1,0 +1,84 @@
+#include "windows/binder/bound_forms.h"
+
+#include <QLabel>
+
+#include <algorithm>
+
+namespace vlk {
+
+namespace {
+
+constexpr QChar kFormMark = u'/';
+
+} // namespace
+
+void BoundForms::add(QWidget* form, int number)
+{
+    forms_.push_back({form, number});
+}
+
+const BoundForms::Form* BoundForms::formNamed(const QString& name) const
+{
+    const auto found = std::find_if(forms_.begin(), forms_.end(), [&](const Form& form) {
+        return form.widget && form.widget->objectName() == name;
+    });
+    return found == forms_.end() ? nullptr : &*found;
+}
+
+bool BoundForms::isLate(const QString& name) const
+{
+    const int slash = name.indexOf(kFormMark);
+    return slash >= 0 && !formNamed(name.left(slash));
+}
+
+QWidget* BoundForms::find(const QString& name, int number) const
+{
+    if (name.isEmpty())
+        return nullptr;
+    if (const int slash = name.indexOf(kFormMark); slash >= 0) {
+        const Form* form = formNamed(name.left(slash));
+        return form ? form->widget->findChild<QWidget*>(name.mid(slash + 1)) : nullptr;
+    }
+    for (const bool numbered : {true, false}) {
+        for (const Form& form : forms_) {
+            if (!form.widget || (form.number != 0) != numbered || (numbered && form.number != number))
+                continue;
+            if (auto* widget = form.widget->findChild<QWidget*>(name))
+                return widget;
+        }
+    }
+    return nullptr;
+}
+
+QLabel* BoundForms::labelOf(QWidget* widget) const
+{
+    QWidget* window = widget->parentWidget();
+    for (; window && !std::any_of(forms_.begin(), forms_.end(),
+                                  [&](const Form& form) { return form.widget == window; });)
+        window = window->parentWidget();
+    if (!window)
+        return nullptr;
+    for (QLabel* label : window->findChildren<QLabel*>()) {
+        if (label->buddy() == widget)
+            return label;
+    }
+    auto* label = window->findChild<QLabel*>(QStringLiteral("label_") + widget->objectName());
+    if (label)
+        label->setBuddy(widget);
+    return label;
+}
+
+QLabel* BoundForms::labelBehind(QWidget* widget) const
+{
+    QWidget* parent = widget->parentWidget();
+    return parent ? parent->findChild<QLabel*>(widget->objectName() + QStringLiteral("_After")) : nullptr;
+}
+
+bool BoundForms::contain(const QWidget* widget) const
+{
+    return std::any_of(forms_.begin(), forms_.end(), [widget](const Form& form) {
+        return form.widget && form.widget->isAncestorOf(widget);
+    });
+}
+
+} // namespace vlk
