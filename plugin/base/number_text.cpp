@@ -1,14 +1,26 @@
 #include "base/number_text.h"
 
+#include <QVarLengthArray>
+
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
 
 namespace vlk {
 
+qint64 leadingLong(const QString& text)
+{
+    // Short texts stay off the heap.
+    QVarLengthArray<char, 32> bytes(text.size() + 1);
+    for (int i = 0; i < text.size(); ++i)
+        bytes[i] = text[i].unicode() < 0x80 ? static_cast<char>(text[i].unicode()) : '?';
+    bytes[text.size()] = '\0';
+    return std::strtoll(bytes.constData(), nullptr, 10);
+}
+
 int leadingInt(const QString& text)
 {
-    return static_cast<int>(std::strtoll(text.toLatin1().constData(), nullptr, 10));
+    return static_cast<int>(leadingLong(text));
 }
 
 double leadingDouble(const QString& text)

@@ -7,6 +7,8 @@
 
 namespace vlk {
 
+// The nearest one that fits.
+qint64 leadingLong(const QString& text);
 // Larger numbers keep their low 32 bits.
 int leadingInt(const QString& text);
 // The decimal sign is the point; what is no finite number is 0.

@@ -2,7 +2,6 @@
 
 #include "settings/params/element_types.h"
 #include "windows/column_head.h"
-#include "windows/eliding_combobox.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -163,12 +162,15 @@ void VLK_Form_Config_RS_Param_Mdbs::retranslate()
         QStringLiteral("[ABCD] %1").arg(tr("cfgt6_101")), QStringLiteral("[CDAB] %1").arg(tr("cfgt6_102")),
         QStringLiteral("[BADC] %1").arg(tr("cfgt6_103")), QStringLiteral("[DCBA] %1").arg(tr("cfgt6_104"))};
     conditions_ = QStringList{tr("cfgt6_105"), tr("cfgt6_106"), tr("cfgt6_107")};
+    const QFontMetrics metrics = lines_.front().row.dataType->fontMetrics();
+    lists_.measure(metrics);
+    const vlk::TextWidths conditionWidths = vlk::ModbusEventRow::widthsOf(conditions_, metrics);
     {
         const QScopedValueRollback arranging(arranging_, true);
         for (Line& line : lines_)
             line.row.retranslate(lists_);
         for (vlk::ModbusEventRow& row : eventRows_)
-            row.retranslate(conditions_);
+            row.retranslate(conditions_, conditionWidths);
     }
     for (Line& line : lines_)
         tellOf(line);

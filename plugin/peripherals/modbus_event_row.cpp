@@ -1,7 +1,6 @@
 #include "peripherals/modbus_event_row.h"
 
 #include "peripherals/modbus_cells.h"
-#include "windows/eliding_combobox.h"
 #include "windows/numbered_widget.h"
 
 #include <QCheckBox>
@@ -99,10 +98,15 @@ bool ModbusEventRow::offerNames(const QStringList& names)
     return chosenStays;
 }
 
-void ModbusEventRow::retranslate(const QStringList& conditions)
+TextWidths ModbusEventRow::widthsOf(const QStringList& conditions, const QFontMetrics& metrics)
+{
+    return vlk::widthsOf(conditions, conditions.first().left(kLeastText) + QChar(0x2026), metrics);
+}
+
+void ModbusEventRow::retranslate(const QStringList& conditions, TextWidths widths)
 {
     nameCells(cells(), captions(), number_);
-    condition->reserve(conditions, conditions.first().left(kLeastText) + QChar(0x2026));
+    condition->reserve(widths);
     for (int i = 0; i < condition->count(); ++i)
         condition->setItemText(i, conditions[i]);
 }

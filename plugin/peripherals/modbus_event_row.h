@@ -3,18 +3,17 @@
 // One of the ten conditions under which a value that is read by Modbus makes an event of its own: its widgets
 // in a row of the form's grid, and what they do to each other.
 
+#include "windows/eliding_combobox.h"
+
 #include <QString>
 #include <QStringList>
 
 class QCheckBox;
-class QComboBox;
 class QGridLayout;
 class QSpinBox;
 class QWidget;
 
 namespace vlk {
-
-class ElidingComboBox;
 
 class ModbusEventRow
 {
@@ -29,7 +28,9 @@ public:
     // As switched on and off; `names` are those of the values in use.
     void start(const QStringList& names, const QStringList& conditions);
     void clear();
-    void retranslate(const QStringList& conditions);
+    // The texts of the list of conditions, and their widths.
+    void retranslate(const QStringList& conditions, TextWidths widths);
+    static TextWidths widthsOf(const QStringList& conditions, const QFontMetrics& metrics);
     // Enables the numbers that the condition needs.
     void applyCondition();
 

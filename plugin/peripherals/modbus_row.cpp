@@ -3,7 +3,6 @@
 #include "peripherals/modbus_cells.h"
 #include "peripherals/modbus_register.h"
 #include "settings/params/element_types.h"
-#include "windows/eliding_combobox.h"
 #include "windows/numbered_widget.h"
 #include "windows/zone_colors.h"
 
@@ -28,6 +27,15 @@ void refill(QComboBox* box, const QStringList& texts)
 }
 
 } // namespace
+
+void ModbusLists::measure(const QFontMetrics& metrics)
+{
+    const auto shorter = [](const QString& a, const QString& b) { return a.size() < b.size(); };
+    dataTypeWidths =
+        widthsOf(dataTypes, *std::max_element(dataTypes.begin(), dataTypes.end(), shorter), metrics);
+    // The letters in brackets say it all.
+    byteOrderWidths = widthsOf(byteOrders, QStringLiteral("[ABCD]…"), metrics);
+}
 
 const QList<const char*>& ModbusRow::captions()
 {
@@ -128,11 +136,8 @@ void ModbusRow::retranslate(const ModbusLists& lists)
 {
     period->setSuffix(QLatin1Char(' ') + QCoreApplication::translate("vlk", "abbr_040"));
     nameCells(cells(), captions(), number_);
-    const auto shorter = [](const QString& a, const QString& b) { return a.size() < b.size(); };
-    dataType->reserve(lists.dataTypes,
-                      *std::max_element(lists.dataTypes.begin(), lists.dataTypes.end(), shorter));
-    // The letters in brackets say it all.
-    byteOrder->reserve(lists.byteOrders, QStringLiteral("[ABCD]…"));
+    dataType->reserve(lists.dataTypeWidths);
+    byteOrder->reserve(lists.byteOrderWidths);
     if (!inUse())
         return;
     refill(registerType, registerTypes());

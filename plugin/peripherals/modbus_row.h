@@ -4,24 +4,26 @@
 // and what they do to each other. The form connects them and tells others of the value.
 
 #include "settings/params/user_param.h"
+#include "windows/eliding_combobox.h"
 
 #include <QStringList>
 
 class QCheckBox;
-class QComboBox;
 class QGridLayout;
 class QSpinBox;
 class QWidget;
 
 namespace vlk {
 
-class ElidingComboBox;
-
-// The texts of a row's lists, in the language of the moment.
+// The texts of a row's lists, in the language of the moment, and their widths.
 struct ModbusLists
 {
     QStringList dataTypes;
     QStringList byteOrders;
+    TextWidths dataTypeWidths;
+    TextWidths byteOrderWidths;
+
+    void measure(const QFontMetrics& metrics);
 };
 
 class ModbusRow

@@ -125,8 +125,9 @@ private:
     void readPart(const Part& part, const CXmlSection& root, std::vector<ReadNote>* notes);
     void readGroups(const Part& part, const CXmlSection& section, int owner, std::vector<ReadNote>* notes);
     void writeGroups(const Part& part, CXmlSection& section, int owner) const;
-    // `element`: null where the file has none.
-    void readRow(const Part& part, int row, const CXmlSection* element, std::vector<ReadNote>* notes);
+    // `isThere`: the file has the element.
+    void readRow(const Part& part, int row, const CXmlSection& element, bool isThere,
+                 std::vector<ReadNote>* notes);
     void writePart(const Part& part, CXmlSection& root) const;
 
     void put(int index, const QString& value, std::vector<int>* changed);

@@ -22,15 +22,19 @@ void Configuration::read(const CXmlSection& root, const SettingsTable& table, st
 
 namespace {
 
-// Null where the file has no such element.
-CXmlSectionPtr elementOf(const CXmlSection& section, const QStringList& path)
+struct Element
 {
-    CXmlSectionPtr element;
+    CXmlSectionPtr section;
+    bool isThere = true; // in the file
+};
+
+Element elementOf(const CXmlSection& section, const QStringList& path)
+{
+    Element element;
     for (const QString& name : path) {
-        const CXmlSection& parent = element ? *element : section;
-        if (!parent.find(name))
-            return nullptr;
-        element = parent.child(name);
+        const CXmlSection& parent = element.section ? *element.section : section;
+        element.isThere = element.isThere && parent.find(name);
+        element.section = parent.child(name);
     }
     return element;
 }
@@ -109,15 +113,10 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
     // What a save would keep belongs to somebody else.
     if (notes && layout.table->emptied)
         noteStrangersIn(*section, layout, notes);
-
-    // What lives in the window alone is not in the file: beside values that are, it starts anew, and links
-    // and rules fill it; a group of its own is left as it stands.
-    for (std::size_t row = 0; row < layout.rows.size(); ++row) {
-        const TableLayout::Row& place = layout.rows[row];
-        const Setting& setting = *place.setting;
-        const int index = part.first + static_cast<int>(row);
-        if (!setting.stored && !setting.stays && (place.group < 0 || layout.groups[place.group].stored))
-            values_[index] = normalise(setting, loadDefault(setting), values_[index], limits(index)).value;
+    for (const int row : layout.anew) {
+        const Setting& setting = *layout.rows[row].setting;
+        const int index = part.first + row;
+        values_[index] = normalise(setting, loadDefault(setting), values_[index], limits(index)).value;
     }
     readGroups(part, *section, -1, notes);
 }
@@ -129,22 +128,22 @@ void Configuration::readGroups(const Part& part, const CXmlSection& section, int
     const TableLayout& layout = *part.layout;
     std::vector<ReadNote> taken;
     std::vector<ReadNote>* const takes = notes ? &taken : nullptr;
-    std::vector<std::pair<int, CXmlSectionPtr>> late;
+    std::vector<std::pair<int, Element>> late;
     for (const TableLayout::Group& group : layout.groups) {
         if (!group.stored || !isOf(group, owner) || !holds(part, group.readable))
             continue;
-        const CXmlSectionPtr element = elementOf(section, group.path);
+        const Element element = elementOf(section, group.path);
         for (int row = group.firstRow; row < group.endRow; ++row) {
             if (layout.rows[row].setting->last)
                 late.emplace_back(row, elementOf(section, group.path));
             else
-                readRow(part, row, element.get(), takes);
+                readRow(part, row, *element.section, element.isThere, takes);
         }
-        if (notes && element && !group.kept)
-            noteStrangersIn(*element, layout, group, notes);
+        if (notes && !group.kept)
+            noteStrangersIn(*element.section, layout, group, notes);
     }
     for (const auto& [row, element] : late)
-        readRow(part, row, element.get(), takes);
+        readRow(part, row, *element.section, element.isThere, takes);
     derive(part);
     keepBounds(part, nullptr);
     if (!notes)
@@ -160,17 +159,17 @@ void Configuration::readGroups(const Part& part, const CXmlSection& section, int
     }
 }
 
-void Configuration::readRow(const Part& part, int row, const CXmlSection* element,
+void Configuration::readRow(const Part& part, int row, const CXmlSection& element, bool isThere,
                             std::vector<ReadNote>* notes)
 {
     const TableLayout::Row& place = part.layout->rows[row];
     const Setting& setting = *place.setting;
     if (!setting.stored || setting.kind == Kind::constant || !holds(part, place.present))
         return;
-    const QString* found = element ? element->find(place.key) : nullptr;
+    const QString* found = element.find(place.key);
     if (!found && setting.stays)
         return;
-    const bool isAbsent = !element && setting.unlessThere >= 0;
+    const bool isAbsent = !isThere && setting.unlessThere >= 0;
     const QString missing = found      ? QString()
                             : isAbsent ? QString::number(setting.unlessThere)
                                        : loadDefault(setting);

@@ -89,7 +89,8 @@ void Configuration::put(int index, const QString& value, std::vector<int>* chang
 void Configuration::assign(const Part& part, int row, const QString& value, std::vector<int>* changed)
 {
     const bool isNew = values_[part.first + row] != value;
-    put(part.first + row, value, changed);
+    if (isNew)
+        put(part.first + row, value, changed);
     keepDistances(part, row, changed);
     if (!isNew)
         return;
@@ -161,8 +162,10 @@ void Configuration::keepDistances(const Part& part, int row, std::vector<int>* c
         const Setting& high = *part.layout->rows[rule.second].setting;
         const int lowIndex = part.first + rule.first;
         const int highIndex = part.first + rule.second;
-        double first = shownNumber(low, values_[lowIndex]);
-        double second = shownNumber(high, values_[highIndex]);
+        const double lowBefore = shownNumber(low, values_[lowIndex]);
+        const double highBefore = shownNumber(high, values_[highIndex]);
+        double first = lowBefore;
+        double second = highBefore;
         const double gap = gapOf(part, rule);
         const double tiny = 1e-9;
         if (row == rule.first) {
@@ -177,8 +180,10 @@ void Configuration::keepDistances(const Part& part, int row, std::vector<int>* c
             else
                 second = first + gap;
         }
-        put(lowIndex, fileNumber(low, first), changed);
-        put(highIndex, fileNumber(high, second), changed);
+        if (first != lowBefore)
+            put(lowIndex, fileNumber(low, first), changed);
+        if (second != highBefore)
+            put(highIndex, fileNumber(high, second), changed);
     }
 }
 

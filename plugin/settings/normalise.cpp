@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <string_view>
 
@@ -31,11 +33,28 @@ qint64 cut(double number)
     return static_cast<qint64>(number + std::copysign(1e-6, number));
 }
 
-// Number that a string has at a position: the one digit, or 0.
-int digitAt(const QString& text, std::size_t position)
+// Most values stand in the file as they are to: those are `text` itself.
+QString spelled(QLatin1String value, const QString& text)
 {
-    const int index = static_cast<int>(position);
-    return index < text.size() ? std::max(0, text[index].digitValue()) : 0;
+    return text == value ? text : QString(value);
+}
+
+QString spelled(qint64 number, const QString& text)
+{
+    std::array<char, 20> digits{}; // "-9223372036854775808"
+    const char* const end = std::to_chars(digits.begin(), digits.end(), number).ptr;
+    return spelled(QLatin1String(digits.begin(), static_cast<int>(end - digits.begin())), text);
+}
+
+// fileNumber() of a number that the file holds as `text`.
+QString spelled(const Setting& setting, double shown, const QString& text)
+{
+    if (setting.kind == Kind::real)
+        return QString::number(shown, 'f', setting.decimals);
+    const qint64 number = cut(rounded(shown, setting.decimals) * setting.factor);
+    if (setting.hexadecimal)
+        return QString::number(number, 16).toUpper().rightJustified(2, QLatin1Char('0'));
+    return spelled(number, text);
 }
 
 Normalised noted(const QString& value, const QString& text, Change change)
@@ -88,7 +107,7 @@ Normalised number(const Setting& setting, const QString& text, const Limits& lim
                     : std::trunc(static_cast<double>(read) / setting.factor);
     }
     const double held = std::clamp(shown, limits.least, limits.most);
-    return notedBy(fileNumber(setting, held), text, [&] {
+    return notedBy(spelled(setting, held, text), text, [&] {
         return !isNumber(setting, text) ? Change::notANumber
                : held != shown          ? Change::outOfRange
                                         : Change::rounded;
@@ -107,7 +126,7 @@ bool fits(const char* pattern, const QString& text)
 
 const Code* find(const Setting& setting, const QString& text)
 {
-    const QString wanted = setting.numeric ? QString::number(leadingInt(text)) : text;
+    const QString wanted = setting.numeric ? spelled(leadingInt(text), text) : text;
     const auto is = [&](const Code& code) {
         return code.pattern ? fits(code.pattern, text) : QLatin1String(code.code) == wanted;
     };
@@ -119,16 +138,16 @@ const Code* find(const Setting& setting, const QString& text)
 
 Normalised chosen(const Setting& setting, const QString& text, const QString& before, const Limits& limits)
 {
-    const QString fallback = setting.fallback ? QString::fromLatin1(setting.fallback) : before;
     const Code* code = find(setting, text);
+    if (code && offersCode(setting, *code, limits))
+        return noted(spelled(QLatin1String(code->code), text), text, Change::otherForm);
+    const QString fallback = setting.fallback ? QString::fromLatin1(setting.fallback) : before;
     if (!code)
         return noted(limits.taken.contains(fallback) ? before : fallback, text, Change::unknownCode);
-    if (!offersCode(setting, *code, limits))
-        return noted(setting.unofferedStays ? before
-                     : setting.none         ? QString::fromLatin1(setting.none)
-                                            : fallback,
-                     text, Change::notOffered);
-    return noted(QString::fromLatin1(code->code), text, Change::otherForm);
+    return noted(setting.unofferedStays ? before
+                 : setting.none         ? QString::fromLatin1(setting.none)
+                                        : fallback,
+                 text, Change::notOffered);
 }
 
 Normalised spread(const Setting& setting, const QString& text)
@@ -143,7 +162,7 @@ Normalised spread(const Setting& setting, const QString& text)
         rest %= part.seconds;
     }
     held = std::max(held, static_cast<qint64>(setting.least));
-    return notedBy(QString::number(held), text, [&] {
+    return notedBy(spelled(held, text), text, [&] {
         return !isWholeNumber(text)                                   ? Change::notANumber
                : std::abs(held - read) < setting.parts.back().seconds ? Change::rounded
                                                                       : Change::outOfRange;
@@ -184,7 +203,7 @@ Normalised bitNumber(const Setting& setting, const QString& text)
             known |= 1U << i;
     }
     const unsigned held = static_cast<unsigned>(leadingInt(text)) & known;
-    return notedBy(QString::number(held), text,
+    return notedBy(spelled(held, text), text,
                    [&] { return isWholeNumber(text) ? Change::outOfRange : Change::notANumber; });
 }
 
@@ -259,22 +278,23 @@ bool offersCode(const Setting& setting, const Code& code, const char* offers)
     return offers ? isListed(offers, code.code) : code.offered && !code.means;
 }
 
+int digitAt(const QString& text, std::size_t position)
+{
+    const int index = static_cast<int>(position);
+    return index < text.size() ? std::max(0, text[index].digitValue()) : 0;
+}
+
 double shownNumber(const Setting& setting, const QString& value)
 {
     if (setting.kind == Kind::real)
         return value.toDouble();
-    return (setting.hexadecimal ? value.toInt(nullptr, 16) : static_cast<double>(value.toLongLong())) /
+    return (setting.hexadecimal ? value.toInt(nullptr, 16) : static_cast<double>(leadingLong(value))) /
            setting.factor;
 }
 
 QString fileNumber(const Setting& setting, double shown)
 {
-    if (setting.kind == Kind::real)
-        return QString::number(shown, 'f', setting.decimals);
-    const qint64 number = cut(rounded(shown, setting.decimals) * setting.factor);
-    if (setting.hexadecimal)
-        return QString::number(number, 16).toUpper().rightJustified(2, QLatin1Char('0'));
-    return QString::number(number);
+    return spelled(setting, shown, {});
 }
 
 bool offersCode(const Setting& setting, const Code& code, const Limits& limits)
@@ -317,7 +337,7 @@ Normalised normalise(const Setting& setting, const QString& text, const QString&
     case Kind::flag: {
         const int read = leadingInt(text);
         const bool on = setting.on == 1 ? read != 0 : read == setting.on;
-        return notedBy(QString::number(on ? setting.on : 0), text,
+        return notedBy(spelled(on ? setting.on : 0, text), text,
                        [&] { return isWholeNumber(text) ? Change::otherForm : Change::notANumber; });
     }
     case Kind::integer:

@@ -53,6 +53,8 @@ QString resetValue(const Setting& setting);
 // A number of the file in units of the widget, and back: rounded to the widget's decimals, not limited.
 double shownNumber(const Setting& setting, const QString& value);
 QString fileNumber(const Setting& setting, double shown);
+// The digit at a position of a string, 0 where there is none.
+int digitAt(const QString& text, std::size_t position);
 
 // What the positions of a field hold in a mask, "01", and the other way round; a mask that is too short reads
 // as 0. What that means for the widget: a check box is on or not, a list has an item for it, -1 for none.

@@ -89,6 +89,13 @@ private:
             group.stored = first == end || group.nested ||
                            std::any_of(first, end, [](const auto& row) { return row.setting->stored; });
         }
+        // What lives in the window alone is not in the file: beside values that are, it starts anew, and
+        // links and rules fill it; a group of its own is left as it stands.
+        for (const TableLayout::Row& row : layout_.rows) {
+            const Setting& setting = *row.setting;
+            if (!setting.stored && !setting.stays && (row.group < 0 || layout_.groups[row.group].stored))
+                layout_.anew.push_back(static_cast<int>(&row - layout_.rows.data()));
+        }
     }
 
     // Configuration asks a row for its rules, and there are many of both.

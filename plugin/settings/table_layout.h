@@ -127,6 +127,7 @@ struct TableLayout
     const SettingsTable* table = nullptr;
     QString section;
     std::vector<Row> rows;
+    std::vector<int> anew; // rows that a read starts anew, before it comes to what the file has
     std::vector<Group> groups;
     std::vector<Pull> pulls;
     std::vector<Bound> bounds;

@@ -55,8 +55,7 @@ QString positionsText(const Setting& setting, const QString& value)
     QStringList parts;
     const unsigned bits = setting.kind == Kind::bits ? value.toUInt() : 0;
     for (std::size_t i = 0; i < setting.positions.size(); ++i) {
-        const int digit = setting.kind == Kind::bits ? static_cast<int>((bits >> i) & 1U)
-                                                     : value.mid(static_cast<int>(i), 1).toInt();
+        const int digit = setting.kind == Kind::bits ? static_cast<int>((bits >> i) & 1U) : digitAt(value, i);
         if (digit == 0)
             continue;
         QString part = translated(setting.positions[i].caption);

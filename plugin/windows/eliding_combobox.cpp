@@ -10,23 +10,26 @@
 
 namespace vlk {
 
-ElidingComboBox::ElidingComboBox(QWidget* parent) : VLK_ComboBox(parent)
+TextWidths widthsOf(const QStringList& texts, const QString& least, const QFontMetrics& metrics)
 {
-    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    TextWidths widths{0, metrics.horizontalAdvance(least)};
+    for (const QString& text : texts)
+        widths.widest = std::max(widths.widest, metrics.horizontalAdvance(text));
+    return widths;
 }
 
 void ElidingComboBox::reserve(const QStringList& texts, const QString& least)
 {
-    const QFontMetrics metrics(font());
-    int widest = 0;
-    for (const QString& text : texts)
-        widest = std::max(widest, metrics.horizontalAdvance(text));
-    const int shortest = metrics.horizontalAdvance(least);
+    reserve(widthsOf(texts, least, fontMetrics()));
+}
+
+void ElidingComboBox::reserve(TextWidths widths)
+{
     QStyleOptionComboBox option;
     initStyleOption(&option);
-    const QSize contents(shortest, metrics.height());
+    const QSize contents(widths.least, fontMetrics().height());
     leastWidth_ = style()->sizeFromContents(QStyle::CT_ComboBox, &option, contents, this).width();
-    preferredWidth_ = leastWidth_ + std::max(0, widest - shortest);
+    preferredWidth_ = leastWidth_ + std::max(0, widths.widest - widths.least);
     updateGeometry();
 }
 

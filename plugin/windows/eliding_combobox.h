@@ -10,15 +10,26 @@ class QStyleOptionComboBox;
 
 namespace vlk {
 
+// Pixels. Where many boxes share their texts, these are measured once: that takes longer than making a box.
+struct TextWidths
+{
+    int widest = 0;
+    int least = 0; // of what is always in sight
+};
+
+TextWidths widthsOf(const QStringList& texts, const QString& least, const QFontMetrics& metrics);
+
 class ElidingComboBox : public VLK_ComboBox
 {
     Q_OBJECT
 
 public:
-    explicit ElidingComboBox(QWidget* parent = nullptr);
+    using VLK_ComboBox::VLK_ComboBox;
 
     // `least`: what is always in sight.
     void reserve(const QStringList& texts, const QString& least);
+    // Widths in the font of the box.
+    void reserve(TextWidths widths);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -28,13 +28,17 @@ bool CXmlDefaultHandler::startElement(const QString&, const QString&, const QStr
     if (attributes.length() > 0) {
         current_->kind = CXmlNode::Attributed;
         current_->attributes.reserve(static_cast<std::size_t>(attributes.length()));
-        // The reader passes a name that stands twice; the first one counts.
+        // The reader passes a name that stands twice; the first one counts. Most elements have a handful of
+        // attributes, which are sooner compared than hashed.
+        constexpr int few = 16;
         QSet<QString> seen;
         for (int i = 0; i < attributes.length(); ++i) {
+            const QString name = attributes.qName(i);
             const auto known = seen.size();
-            seen.insert(attributes.qName(i));
-            if (seen.size() > known)
-                current_->addAttribute(attributes.qName(i), vlk::decodeValue(attributes.value(i)));
+            if (attributes.length() > few)
+                seen.insert(name);
+            if (attributes.length() > few ? seen.size() > known : attributes.index(name) == i)
+                current_->addAttribute(name, vlk::decodeValue(attributes.value(i)));
         }
         sawContent_ = true;
     }

@@ -102,9 +102,14 @@ std::vector<CXmlSection::Entry> CXmlSection::entries() const
 
 std::size_t CXmlSection::position(const QString& name) const
 {
-    const auto found =
-        std::find_if(table_.begin(), table_.end(),
-                     [key = vlk::sectionText(name)](const CXmlRecord& record) { return record.name == key; });
+    const auto find = [this](const QString& key) {
+        return std::find_if(table_.begin(), table_.end(),
+                            [&](const CXmlRecord& record) { return record.name == key; });
+    };
+    auto found = find(name);
+    // Only a name that a section cannot carry stands there as something else.
+    if (found == table_.end())
+        found = find(vlk::sectionText(name));
     return static_cast<std::size_t>(found - table_.begin());
 }
 

@@ -41,6 +41,18 @@ constexpr struct
     {"&quot;", '"'}, {"&apos;", '\''}, {"_33_", '!'},
 };
 
+// Without NUL. Nearly every text is; the loop has no branch.
+bool isAscii(const QString& text)
+{
+    unsigned above = 0;
+    unsigned nulls = 0;
+    for (const QChar character : text) {
+        above |= character.unicode();
+        nulls += character.unicode() == 0;
+    }
+    return above < 0x80 && nulls == 0;
+}
+
 const char* encoded(QChar character)
 {
     switch (character.unicode()) {
@@ -127,6 +139,8 @@ QString decodeValue(const QString& value)
 
 QString sectionText(const QString& text)
 {
+    if (text.size() <= sectionTextLimit && isAscii(text))
+        return text;
     const auto& carriedOnes = carriedCharacters();
     const auto stands = [&carriedOnes](QChar character) {
         return !character.isNull() && carriedOnes[character.unicode()];

@@ -1,9 +1,8 @@
 #include "windows/binder/boxes_adapter.h"
 
-#include "settings/value_text.h"
 #include "windows/binder/checkable.h"
+#include "windows/binder/code_list.h"
 
-#include <QComboBox>
 #include <QRadioButton>
 #include <QSignalBlocker>
 
@@ -97,7 +96,7 @@ PositionsAdapter::PositionsAdapter(Edits& edits, int index, std::vector<QWidget*
 
 void PositionsAdapter::dress()
 {
-    const char* const offers = configuration().limits(index()).offers;
+    const Limits limits = configuration().limits(index());
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         if (!boxes_[i])
             continue;
@@ -108,27 +107,26 @@ void PositionsAdapter::dress()
         if (!list)
             continue;
         const QSignalBlocker blocker(list);
-        list->clear();
-        for (const Code& code : setting().codes) {
-            if (offersCode(setting(), code, offers))
-                list->addItem(codeText(code), QString::fromLatin1(code.code));
-        }
+        fillCodes(list, setting(), limits);
     }
     show(configuration().value(index()));
 }
 
 void PositionsAdapter::show(const QString& value)
 {
-    const unsigned bits = setting().kind == Kind::bits ? value.toUInt() : 0;
+    const bool isBits = setting().kind == Kind::bits;
+    const unsigned bits = isBits ? value.toUInt() : 0;
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
-        const int digit = setting().kind == Kind::bits ? static_cast<int>((bits >> i) & 1U)
-                                                       : value.mid(static_cast<int>(i), 1).toInt();
+        const int digit = isBits ? static_cast<int>((bits >> i) & 1U) : digitAt(value, i);
         if (checks_[i] && boxes_[i]) {
             setChecked(checks_[i], digit != 0);
             boxes_[i]->setEnabled(digit != 0);
         }
-        if (auto* list = qobject_cast<QComboBox*>(boxes_[i]))
-            list->setCurrentIndex(checks_[i] && digit == 0 ? 0 : list->findData(QString::number(digit)));
+        auto* list = qobject_cast<QComboBox*>(boxes_[i]);
+        if (list && checks_[i] && digit == 0)
+            list->setCurrentIndex(0);
+        else if (list)
+            selectCode(list, QString::number(digit));
         else if (boxes_[i])
             setChecked(boxes_[i], digit != 0);
     }

@@ -1,8 +1,7 @@
 #include "windows/binder/choice_adapter.h"
 
-#include "settings/value_text.h"
+#include "windows/binder/code_list.h"
 
-#include <QComboBox>
 #include <QSignalBlocker>
 
 namespace vlk {
@@ -17,19 +16,13 @@ void ChoiceAdapter::dress()
 {
     caption(box_);
     const QSignalBlocker blocker(box_);
-    box_->clear();
-    const Limits limits = configuration().limits(index());
-    for (const Code& code : setting().codes) {
-        if (offersCode(setting(), code, limits))
-            box_->addItem(codeText(code), QString::fromLatin1(code.code));
-    }
+    fillCodes(box_, setting(), configuration().limits(index()));
     show(configuration().value(index()));
 }
 
 void ChoiceAdapter::show(const QString& value)
 {
-    if (box_->currentIndex() < 0 || box_->currentData() != value)
-        box_->setCurrentIndex(box_->findData(value));
+    selectCode(box_, value);
 }
 
 void ChoiceAdapter::take()

@@ -7,6 +7,7 @@ MaskAdapter::MaskAdapter(Edits& edits, int index, QWidget* widget, MaskWidget* m
 {
     own(widget);
     mask_->edited = [this] {
+        shown_.clear();
         if (!edits_.isShowing())
             take();
     };
@@ -15,6 +16,15 @@ MaskAdapter::MaskAdapter(Edits& edits, int index, QWidget* widget, MaskWidget* m
 MaskAdapter::~MaskAdapter()
 {
     mask_->edited = nullptr;
+}
+
+// A mask is many boxes, and most loads leave them as they are.
+void MaskAdapter::show(const QString& value)
+{
+    if (!shown_.isEmpty() && value == shown_)
+        return;
+    mask_->showMask(value);
+    shown_ = value;
 }
 
 void MaskAdapter::dress()

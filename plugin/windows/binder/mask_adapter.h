@@ -16,13 +16,14 @@ public:
     Q_DISABLE_COPY(MaskAdapter)
 
     void dress() override;
-    void show(const QString& value) override { mask_->showMask(value); }
+    void show(const QString& value) override;
     void take() override { edited(held()); }
     QString held() const override { return mask_->mask(); }
 
 private:
     QWidget* widget_;
     MaskWidget* mask_;
+    QString shown_; // empty once it was edited
 };
 
 } // namespace vlk

@@ -5,13 +5,26 @@
 
 #include "settings/setting.h"
 
-#include <QPointer>
+#include <QApplication>
 #include <QString>
 #include <QWidget>
 
 #include <functional>
 
+class QAbstractSlider;
+class QDoubleSpinBox;
+class QSpinBox;
+
 namespace vlk {
+
+// Leaves a box alone that shows the number: each setting formats it anew. Only what is being typed may read
+// otherwise than its value.
+template <class Box, class Number>
+void showNumber(Box* box, Number number)
+{
+    if (box->value() != number || box == QApplication::focusWidget())
+        box->setValue(number);
+}
 
 class NumberBox
 {
@@ -30,7 +43,11 @@ public:
 private:
     int position(double value) const;
 
+    // The widget, and as the one of these that it is.
     QWidget* widget_ = nullptr;
+    QDoubleSpinBox* real_ = nullptr;
+    QSpinBox* whole_ = nullptr;
+    QAbstractSlider* slider_ = nullptr;
     int counts_ = 1; // of a slider in one unit of the widget
 };
 

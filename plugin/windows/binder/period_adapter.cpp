@@ -1,5 +1,7 @@
 #include "windows/binder/period_adapter.h"
 
+#include "windows/binder/number_box.h"
+
 #include <QCoreApplication>
 #include <QSpinBox>
 
@@ -33,7 +35,7 @@ void PeriodAdapter::show(const QString& value)
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         const PeriodPart& part = setting().parts[i];
         const int shown = std::min(rest / part.seconds, part.most);
-        boxes_[i]->setValue(shown);
+        showNumber(boxes_[i], shown);
         rest -= shown * part.seconds;
     }
     limitLast();

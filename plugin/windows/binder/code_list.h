@@ -1,0 +1,28 @@
+#pragma once
+
+// Lists of codes: every item has the text of a code, and the code itself as its data.
+
+#include "settings/value_text.h"
+
+#include <QComboBox>
+
+namespace vlk {
+
+// The codes that the list of a setting has at present.
+inline void fillCodes(QComboBox* box, const Setting& setting, const Limits& limits)
+{
+    box->clear();
+    for (const Code& code : setting.codes) {
+        if (offersCode(setting, code, limits))
+            box->addItem(codeText(code), QString::fromLatin1(code.code));
+    }
+}
+
+// No item for a code that the list lacks.
+inline void selectCode(QComboBox* box, const QString& code)
+{
+    if (box->currentIndex() < 0 || box->currentData() != code)
+        box->setCurrentIndex(box->findData(code));
+}
+
+} // namespace vlk
