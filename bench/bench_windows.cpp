@@ -38,6 +38,8 @@ void loadWalk(benchmark::State& state)
     char ussd[vlk::balanceUssdSize] = {};
     const QString path = bench::wholeConfiguration();
     VLK_Widget_Config_Full window;
+    // The form of the serial line's device is made by the first file, which belongs to the opening.
+    window.loadFile(path, ussd);
     bench::sideBySide(
         state, "x reader", [&] { window.loadFile(path, ussd); },
         [&] { benchmark::DoNotOptimize(bench::readWithoutUse(path)); });

@@ -183,8 +183,8 @@ const VLK_Form_Config_RS::MadeForm* VLK_Form_Config_RS::madeFor(const QString& o
         connectForm(form);
         made = made_.insert(owner, {entry, form});
         vlk::guardInputs(form);
-        settings_.join(form);
         form->retranslate();
+        settings_.join(form);
         connected_ ? form->deviceConnected() : form->deviceDisconnected();
     }
     return &*made;

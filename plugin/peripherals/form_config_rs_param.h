@@ -30,6 +30,7 @@ public:
     virtual void deviceConnected() {}
     virtual void deviceDisconnected() {}
     virtual void setDefaults() {}
+    // A form that is made has no texts before the first call.
     virtual void retranslate() {}
     // The form comes on show: it tells its line settings again.
     virtual void applyLineSettings() {}

@@ -87,7 +87,6 @@ VLK_Form_Config_RS_Param_Mdbs::VLK_Form_Config_RS_Param_Mdbs(QWidget* parent)
     makeRows();
     makeEventRows();
     connect(byType_, &QRadioButton::toggled, this, &This::slot_toggled_Calc_NumType);
-    This::retranslate();
 }
 
 VLK_Form_Config_RS_Param_Mdbs::Table

@@ -108,8 +108,11 @@ std::size_t CXmlSection::position(const QString& name) const
     };
     auto found = find(name);
     // Only a name that a section cannot carry stands there as something else.
-    if (found == table_.end())
-        found = find(vlk::sectionText(name));
+    if (found == table_.end()) {
+        const QString carried = vlk::sectionText(name);
+        if (carried != name)
+            found = find(carried);
+    }
     return static_cast<std::size_t>(found - table_.begin());
 }
 

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void init()
     {
         form_ = std::make_unique<VLK_Form_Config_RS_Param_Mdbs>();
+        form_->retranslate();
         window = form_.get();
         traffic_.clear();
         const auto note = [this](const char* what) {

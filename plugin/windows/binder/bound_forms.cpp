@@ -1,7 +1,5 @@
 #include "windows/binder/bound_forms.h"
 
-#include <QLabel>
-
 #include <algorithm>
 
 namespace vlk {
@@ -14,7 +12,13 @@ constexpr QChar kFormMark = u'/';
 
 void BoundForms::add(QWidget* form, int number)
 {
-    forms_.push_back({form, number});
+    Form& added = forms_.emplace_back(Form{form, number, {}, {}});
+    for (QLabel* label : form->findChildren<QLabel*>()) {
+        if (label->buddy() && !added.ofBuddy.contains(label->buddy()))
+            added.ofBuddy.insert(label->buddy(), label);
+        if (!added.named.contains(label->objectName()))
+            added.named.insert(label->objectName(), label);
+    }
 }
 
 const BoundForms::Form* BoundForms::formNamed(const QString& name) const
@@ -50,19 +54,25 @@ QWidget* BoundForms::find(const QString& name, int number) const
     return nullptr;
 }
 
+const BoundForms::Form* BoundForms::formAround(const QWidget* widget) const
+{
+    for (const QWidget* outer = widget->parentWidget(); outer; outer = outer->parentWidget()) {
+        for (const Form& form : forms_) {
+            if (form.widget == outer)
+                return &form;
+        }
+    }
+    return nullptr;
+}
+
 QLabel* BoundForms::labelOf(QWidget* widget) const
 {
-    QWidget* window = widget->parentWidget();
-    for (; window && !std::any_of(forms_.begin(), forms_.end(),
-                                  [&](const Form& form) { return form.widget == window; });)
-        window = window->parentWidget();
-    if (!window)
+    const Form* form = formAround(widget);
+    if (!form)
         return nullptr;
-    for (QLabel* label : window->findChildren<QLabel*>()) {
-        if (label->buddy() == widget)
-            return label;
-    }
-    auto* label = window->findChild<QLabel*>(QStringLiteral("label_") + widget->objectName());
+    if (QLabel* label = form->ofBuddy.value(widget); label && label->buddy() == widget)
+        return label;
+    QLabel* label = form->named.value(QStringLiteral("label_") + widget->objectName());
     if (label)
         label->setBuddy(widget);
     return label;

@@ -59,16 +59,17 @@ void NumberBox::setValue(double value)
 
 void NumberBox::setRange(double least, double most)
 {
-    // Each setting of a range lays the box out anew.
-    if (real_) {
-        if (real_->minimum() != least || real_->maximum() != most)
-            real_->setRange(least, most);
-    } else if (whole_) {
-        if (whole_->minimum() != static_cast<int>(least) || whole_->maximum() != static_cast<int>(most))
-            whole_->setRange(static_cast<int>(least), static_cast<int>(most));
-    } else if (slider_) {
+    // Each setting of a range lays the box out anew, and asking the box for the one it has is not cheap
+    // either.
+    if (range_ == std::pair(least, most))
+        return;
+    range_ = {least, most};
+    if (real_)
+        real_->setRange(least, most);
+    else if (whole_)
+        whole_->setRange(static_cast<int>(least), static_cast<int>(most));
+    else if (slider_)
         slider_->setRange(position(least), position(most));
-    }
 }
 
 void NumberBox::setSuffix(const QString& suffix)

@@ -10,6 +10,8 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
+#include <utility>
 
 class QAbstractSlider;
 class QDoubleSpinBox;
@@ -48,7 +50,8 @@ private:
     QDoubleSpinBox* real_ = nullptr;
     QSpinBox* whole_ = nullptr;
     QAbstractSlider* slider_ = nullptr;
-    int counts_ = 1; // of a slider in one unit of the widget
+    std::optional<std::pair<double, double>> range_; // none before it is set for the first time
+    int counts_ = 1;                                 // of a slider in one unit of the widget
 };
 
 } // namespace vlk
