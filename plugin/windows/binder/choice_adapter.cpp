@@ -17,12 +17,16 @@ void ChoiceAdapter::dress()
     caption(box_);
     const QSignalBlocker blocker(box_);
     fillCodes(box_, setting(), configuration().limits(index()));
+    shown_.reset();
     show(configuration().value(index()));
 }
 
 void ChoiceAdapter::show(const QString& value)
 {
+    if (shown_ == std::pair(value, box_->currentIndex()))
+        return;
     selectCode(box_, value);
+    shown_ = {value, box_->currentIndex()};
 }
 
 void ChoiceAdapter::take()

@@ -4,6 +4,9 @@
 
 #include "windows/binder/adapter.h"
 
+#include <optional>
+#include <utility>
+
 class QComboBox;
 
 namespace vlk {
@@ -22,6 +25,8 @@ public:
 
 private:
     QComboBox* box_;
+    // The code that was shown last and its item: the list tells the code of an item slowly.
+    std::optional<std::pair<QString, int>> shown_;
 };
 
 } // namespace vlk
