@@ -183,8 +183,9 @@ const VLK_Form_Config_RS::MadeForm* VLK_Form_Config_RS::madeFor(const QString& o
         connectForm(form);
         made = made_.insert(owner, {entry, form});
         vlk::guardInputs(form);
-        form->retranslate();
         settings_.join(form);
+        // Last, as after a change of language: some forms shorten what the settings call a widget.
+        form->retranslate();
         connected_ ? form->deviceConnected() : form->deviceDisconnected();
     }
     return &*made;

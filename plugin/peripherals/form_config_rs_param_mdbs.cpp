@@ -87,6 +87,7 @@ VLK_Form_Config_RS_Param_Mdbs::VLK_Form_Config_RS_Param_Mdbs(QWidget* parent)
     makeRows();
     makeEventRows();
     connect(byType_, &QRadioButton::toggled, this, &This::slot_toggled_Calc_NumType);
+    makeLists();
 }
 
 VLK_Form_Config_RS_Param_Mdbs::Table
@@ -146,6 +147,18 @@ void VLK_Form_Config_RS_Param_Mdbs::retranslate(const Table& table, const char* 
         table.labels[i]->setText(brokenIntoLines(tr(table.captions[i])));
 }
 
+// A row that is switched on fills its lists from these.
+void VLK_Form_Config_RS_Param_Mdbs::makeLists()
+{
+    lists_ = {};
+    for (const vlk::ElementType& type : vlk::kElementTypes)
+        lists_.dataTypes << vlk::textOf(type);
+    lists_.byteOrders = QStringList{
+        QStringLiteral("[ABCD] %1").arg(tr("cfgt6_101")), QStringLiteral("[CDAB] %1").arg(tr("cfgt6_102")),
+        QStringLiteral("[BADC] %1").arg(tr("cfgt6_103")), QStringLiteral("[DCBA] %1").arg(tr("cfgt6_104"))};
+    conditions_ = QStringList{tr("cfgt6_105"), tr("cfgt6_106"), tr("cfgt6_107")};
+}
+
 void VLK_Form_Config_RS_Param_Mdbs::retranslate()
 {
     choice_->setTitle(tr("cfgt6_108"));
@@ -154,13 +167,7 @@ void VLK_Form_Config_RS_Param_Mdbs::retranslate()
     retranslate(values_, "cfgt6_111");
     retranslate(events_, "cfgt6_121");
 
-    lists_ = {};
-    for (const vlk::ElementType& type : vlk::kElementTypes)
-        lists_.dataTypes << vlk::textOf(type);
-    lists_.byteOrders = QStringList{
-        QStringLiteral("[ABCD] %1").arg(tr("cfgt6_101")), QStringLiteral("[CDAB] %1").arg(tr("cfgt6_102")),
-        QStringLiteral("[BADC] %1").arg(tr("cfgt6_103")), QStringLiteral("[DCBA] %1").arg(tr("cfgt6_104"))};
-    conditions_ = QStringList{tr("cfgt6_105"), tr("cfgt6_106"), tr("cfgt6_107")};
+    makeLists();
     const QFontMetrics metrics = lines_.front().row.dataType->fontMetrics();
     lists_.measure(metrics);
     const vlk::TextWidths conditionWidths = vlk::ModbusEventRow::widthsOf(conditions_, metrics);

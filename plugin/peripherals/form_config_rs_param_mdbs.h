@@ -66,6 +66,7 @@ private:
     Table makeTable(const char* name, const QList<const char*>& captions);
     void makeRows();
     void makeEventRows();
+    void makeLists();
     static void retranslate(const Table& table, const char* title);
     Line& line(int row) { return lines_[static_cast<std::size_t>(row) - 1]; }
     bool byNumber() const;

@@ -95,6 +95,19 @@ private Q_SLOTS:
                      qPrintable(name));
     }
 
+    // The columns have heads, so a cell says its number or nothing: when the form comes and in another
+    // language.
+    void sensorCellsAreShort()
+    {
+        test_.load({{"OPTIONS/owner1", "FLDS"}});
+        for (const bool again : {false, true}) {
+            if (again)
+                test_.page().retranslate();
+            for (auto* box : test_.page().findChild<QWidget*>("FLDS")->findChildren<QCheckBox*>())
+                QVERIFY2(box->text().size() <= 2, qPrintable(box->objectName() + ": " + box->text()));
+        }
+    }
+
     void sensorsEnable()
     {
         const QString cells = "spinBox_Addres_2 spinBox_Response_2 checkBox_TrhldMoveOff_2 checkBox_Filter_2";
