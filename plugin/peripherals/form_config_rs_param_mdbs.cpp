@@ -287,7 +287,7 @@ void VLK_Form_Config_RS_Param_Mdbs::tellOf(Line& line)
     }
 }
 
-// An event row whose value is gone is of no use.
+// An event row whose value is no longer offered is switched off.
 void VLK_Form_Config_RS_Param_Mdbs::offerEventNames()
 {
     for (vlk::ModbusEventRow& row : eventRows_) {

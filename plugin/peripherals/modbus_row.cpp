@@ -33,7 +33,7 @@ void ModbusLists::measure(const QFontMetrics& metrics)
     const auto shorter = [](const QString& a, const QString& b) { return a.size() < b.size(); };
     dataTypeWidths =
         widthsOf(dataTypes, *std::max_element(dataTypes.begin(), dataTypes.end(), shorter), metrics);
-    // The letters in brackets say it all.
+    // The letters in brackets tell the orders apart; the words behind them may be elided.
     byteOrderWidths = widthsOf(byteOrders, QStringLiteral("[ABCD]…"), metrics);
 }
 

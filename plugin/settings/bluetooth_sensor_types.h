@@ -124,7 +124,7 @@ inline constexpr BluetoothVendor analogueInput[] = {
     {.name = "ELA AI", .supplies = supplied<link, signalLevel>, .needsName = true, .named = true}};
 inline constexpr BluetoothVendor magnetic[] = {
     {.name = "ELA MAG/MOV/DI/PIR", .supplies = supplied<link, signalLevel, state, magnet>}};
-// What it measures its rows say, one by one.
+// Sensors of any make: the rows of the form tell what is measured.
 inline constexpr BluetoothVendor anyMaker[] = {{.name = "", .supplies = supplied<link, signalLevel>}};
 
 inline constexpr Setting fuelThreshold[] = {

@@ -110,7 +110,7 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
     const CXmlSection* section = sectionOf(root, layout.section, owner);
     if (!section)
         return;
-    // What a save would keep belongs to somebody else.
+    // Keys that no row knows are noted where a save drops them; elsewhere a save keeps them.
     if (notes && layout.table->emptied)
         noteStrangersIn(*section, layout, notes);
     for (const int row : layout.anew) {

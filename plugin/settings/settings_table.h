@@ -130,7 +130,7 @@ constexpr const char* pathName(const Setting& row)
     return row.name ? row.name : row.key;
 }
 
-// Compilers count the steps of a constant: names are compared by their hashes first.
+// Compilers limit the steps of a constant expression, so names are compared by their hashes first.
 constexpr std::uint32_t hashOf(const char* name, std::uint32_t seed)
 {
     std::uint32_t hash = seed;
