@@ -2,6 +2,7 @@
 
 #include "settings/value_text.h"
 #include "windows/binder/page_settings.h"
+#include "windows/eliding_combobox.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -106,9 +107,8 @@ QWidget* makeCell(Cell cell)
     case Cell::spin:
         return new QSpinBox;
     case Cell::combo: {
-        auto* list = new QComboBox;
-        list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        list->setMinimumContentsLength(2);
+        auto* list = new vlk::ElidingComboBox;
+        list->reserve({}, QStringLiteral("00…"));
         list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         return list;
     }

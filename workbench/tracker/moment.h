@@ -67,7 +67,7 @@ struct Links
     qint64 usbSince = noTime; // Unix seconds
     std::array<bool, 3> servers{};
     int connectsEvery = 0; // seconds, to the servers; 0 for always
-    bool service = true;   // of the maker
+    bool service = true;   // of the manufacturer
     bool bluetooth = true;
 };
 
