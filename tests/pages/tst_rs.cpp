@@ -12,6 +12,7 @@
 
 #include <QCheckBox>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QtTest>
@@ -192,7 +193,7 @@ private Q_SLOTS:
     void canLogProgram()
     {
         Window window;
-        vlkConfigFull = &window;
+        const QScopedValueRollback<VLK_Wnd_Config_Full*> meanwhile(vlkConfigFull, &window);
         edit({"OPTIONS/owner1=CNLG"});
         QVERIFY(!test_.isOn("groupBox_CAN"));
         test_.page().deviceConnected();
