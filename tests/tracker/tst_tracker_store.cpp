@@ -5,6 +5,7 @@
 #include "settings/all_settings.h"
 #include "settings/configuration.h"
 #include "support/data_table.h"
+#include "support/files.h"
 #include "tracker/configuration_values.h"
 #include "xml/xml_document.h"
 
@@ -158,6 +159,30 @@ private Q_SLOTS:
         QCOMPARE(bench.write(device("")).reasonKey, QString("wb_refused_unplugged"));
         QCOMPARE(bench.write(device("")).reasonKey, QString("wb_refused_detached"));
         QVERIFY(bench.tracker->readConfiguration().outcome == Detached);
+    }
+
+    // An earlier version kept fewer settings; the tracker works by its configuration all the same.
+    void historyOfAnEarlierVersion()
+    {
+        BenchTracker bench;
+        bench.now += 60;
+        const auto level = [&bench] {
+            bench.tracker->setFullDataSet(true);
+            return value<quint16>(bench.currentRecord(), *vlk::findElement("LevelRS485_3"));
+        };
+        const int before = level();
+        QVERIFY(before > 0);
+        QFile file(bench.folder() + "/settings.ini");
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QByteArrayList lines = file.readAll().split('\n');
+        file.close();
+        const auto old = std::remove_if(lines.begin(), lines.end(),
+                                        [](const QByteArray& line) { return line.contains("BLUETOOTH"); });
+        QVERIFY(old != lines.end());
+        lines.erase(old, lines.end());
+        writeFile(file.fileName(), lines.join('\n'));
+        bench.restart();
+        QCOMPARE(level(), before);
     }
 
     // A crash leaves the file of the present whole, cut, or missing; what is read is never half.

@@ -15,12 +15,15 @@ const QString timeKey = QStringLiteral("since");
 
 } // namespace
 
-SettingsHistory::SettingsHistory(const QString& folder, const WorkingSettings& first)
+SettingsHistory::SettingsHistory(const QString& folder, const WorkingSettings& present)
     : file_(QDir(folder).filePath(QStringLiteral("settings.ini")))
 {
     load();
-    if (entries_.empty()) {
-        entries_.push_back({always, std::make_shared<WorkingSettings>(first)});
+    if (entries_.empty() || !(*latest() == present)) {
+        const qint64 since = entries_.empty() ? always : entries_.back().time;
+        if (!entries_.empty())
+            entries_.pop_back();
+        entries_.push_back({since, std::make_shared<WorkingSettings>(present)});
         save();
     }
     entries_.front().time = always;

@@ -15,8 +15,10 @@ class SettingsHistory
 public:
     using Settings = std::shared_ptr<const WorkingSettings>;
 
-    // Without a file, `first` has held from the beginning.
-    SettingsHistory(const QString& folder, const WorkingSettings& first);
+    // `present` is what the tracker's configuration says. The last settings in the file become these: a file
+    // of an earlier version lacks what that version did not work by. Without a file they have held from the
+    // beginning.
+    SettingsHistory(const QString& folder, const WorkingSettings& present);
 
     // What holds from the next second on; false when it is what holds already.
     bool change(qint64 time, const WorkingSettings& settings);
