@@ -370,7 +370,7 @@
     <message id="cfgt4_005"><translation>Доступ к трекеру</translation></message>
     <message id="cfgt4_006"><translation>Пароль для управления по USB и GPRS</translation></message>
     <message id="cfgt4_007"><translation>Пароль для управления по SMS</translation></message>
-    <message id="cfgt4_008"><translation>В случае утери пароля для управления по USB и GPRS доступ к трекеру будет невозможен</translation></message>
+    <message id="cfgt4_008"><translation>В случае утери пароля для управления по USB и GPRS доступ к устройству будет невозможен</translation></message>
     <message id="cfgt4_010"><translation>Использовать синхронизацию времени по NTP</translation></message>
     <message id="cfgt4_011"><translation>Период синхронизации</translation></message>
     <message id="cfgt4_012"><translation>Период синхронизации в случае ошибки</translation></message>

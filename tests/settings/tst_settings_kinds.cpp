@@ -184,7 +184,7 @@ private Q_SLOTS:
         table.row("text", "A/text", "123456", "12345", Change::tooLong);
         table.row("offered", "A/use", "AIN", "AIN", Change::none);
         table.row("known, not offered", "A/use", "PLS", "N/A", Change::notOffered);
-        table.row("unknown", "A/use", "XXX", "NU", Change::unknownCode);
+        table.row("unknown", "A/use", "NX+", "NU", Change::unknownCode);
         table.row("older spelling", "A/use", "OLD", "AIN", Change::otherForm);
         table.row("by number", "A/number", "03", "3", Change::otherForm);
         table.row("leaves it as it stands", "A/number", "2", "1", Change::unknownCode);
@@ -217,7 +217,7 @@ private Q_SLOTS:
         table.row("any number but 0 is on", "B/row", "-4", "1", Change::outOfRange);
         table.row("0 is off", "B/row", "0", "0", Change::none);
         table.row("not offered, stays", "B/kept", "PLS", "NU", Change::notOffered);
-        table.row("unknown, does not", "B/kept", "XXX", "NB+", Change::unknownCode);
+        table.row("unknown, does not", "B/kept", "NX+", "NB+", Change::unknownCode);
     }
     void reading()
     {

@@ -82,12 +82,15 @@ void LinkNotices::tellDetached(bool isPulled)
         [this, before, isPulled] {
             const QVector<QWidget*> after = windows_.open();
             const bool isClosed = before.size() != after.size();
-            if (!isPulled && !isClosed)
+            const char* key = nullptr;
+            if (isPulled)
+                key = isClosed          ? "wb_unplugged_telemetry"
+                      : after.isEmpty() ? "wb_unplugged"
+                                        : "wb_unplugged_open";
+            else if (isClosed)
+                key = "wb_detached_telemetry";
+            if (!key)
                 return;
-            const char* key = !isPulled         ? "wb_detached_telemetry"
-                              : isClosed        ? "wb_unplugged_telemetry"
-                              : after.isEmpty() ? "wb_unplugged"
-                                                : "wb_unplugged_open";
             if (isPulled)
                 vlk::showWarning(vlk::text(key), mainWindow_);
             status_.tell(StatusLine::Command, [key] { return vlk::text(key); });
