@@ -116,6 +116,7 @@ void VLK_Widget_Config::switchToQuick()
 
 void VLK_Widget_Config::retranslate()
 {
+    setLocale(QLocale());
     if (vlkDevice)
         setWindowTitle(vlkDevice->model());
     lightWindow_->retranslate();

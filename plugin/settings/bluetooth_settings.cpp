@@ -2,6 +2,7 @@
 
 #include "settings/bluetooth_sensor_types.h"
 #include "settings/bluetooth_universal_rows.h"
+#include "settings/shared_rows.h"
 
 #include <initializer_list>
 #include <utility>
@@ -197,19 +198,17 @@ constexpr auto kFormCodes = [] {
 template <std::size_t... types>
 constexpr auto sensorRows(std::index_sequence<types...>)
 {
-    return rowsOf(group("SENS%1"),
-                  choice("type", kTypeCodes, "0")
-                      .byNumber()
-                      .unknownIs("0")
-                      .unofferedLeavesIt()
-                      .in("comboBox_Type_Sens_%1")
-                      .caption("cfgt17_025"),
-                  choice("form", kFormCodes, "0").byNumber().unknownIs("0").notStored(),
-                  text("macaddr", "")
-                      .masked("HH:HH:HH:HH:HH:HH")
-                      .in("lineEdit_Bt_MacAdr_Sens_%1")
-                      .caption("cfgt17_007"),
-                  text("name", "").in("lineEdit_Name_Sens_%1").caption("cfgt17_026"), rowsOfType<types>()...);
+    return rowsOf(
+        group("SENS%1"),
+        choice("type", kTypeCodes, "0")
+            .byNumber()
+            .unknownIs("0")
+            .unofferedLeavesIt()
+            .in("comboBox_Type_Sens_%1")
+            .caption("cfgt17_025"),
+        choice("form", kFormCodes, "0").byNumber().unknownIs("0").notStored(),
+        shared::bluetoothAddress(text("macaddr", "")).in("lineEdit_Bt_MacAdr_Sens_%1").caption("cfgt17_007"),
+        text("name", "").in("lineEdit_Name_Sens_%1").caption("cfgt17_026"), rowsOfType<types>()...);
 }
 
 constexpr auto kSensorRows = sensorRows(std::make_index_sequence<kTypes>{});

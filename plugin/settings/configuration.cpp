@@ -131,6 +131,11 @@ bool Configuration::holds(const SettingsTable& table, const TableLayout::Enable&
     return rule.any ? std::any_of(rule.when.begin(), rule.when.end(), one) : holds(part, rule.when);
 }
 
+bool Configuration::holds(const SettingsTable& table, const TableLayout::Doubt& rule) const
+{
+    return holds(partOf(table), rule.when);
+}
+
 Limits Configuration::limits(int index) const
 {
     const Part& part = partOf(index);

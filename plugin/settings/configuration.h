@@ -95,6 +95,7 @@ public:
 
     // Whether the conditions of a rule of `table` hold.
     bool holds(const SettingsTable& table, const TableLayout::Enable& rule) const;
+    bool holds(const SettingsTable& table, const TableLayout::Doubt& rule) const;
     // The least distance that a rule of `table` keeps now, in units of the widget.
     double gapOf(const SettingsTable& table, const TableLayout::Distance& rule) const;
     // Index of a table's first row.

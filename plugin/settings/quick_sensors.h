@@ -4,6 +4,7 @@
 // full window does; what the quick window does not show of a sensor has a fixed value.
 
 #include "settings/settings_table.h"
+#include "settings/shared_rows.h"
 
 namespace vlk::quick {
 
@@ -84,8 +85,7 @@ constexpr auto wirelessRows(const Wireless& sensor)
     return numbered(
         rowsOf(group("BLUETOOTH/SENS%1").onlyWhen(inUse, checked).readWhen(switchedOn, forSensors),
                link("type", "BLUETOOTH/sensor%1", 1),
-               text("macaddr", ":::::")
-                   .masked("HH:HH:HH:HH:HH:HH")
+               shared::bluetoothAddress(text("macaddr", ":::::"))
                    .onlyWhen(checked)
                    .in(sensor.address)
                    .caption("cfgwl_034", sensor.caption),

@@ -91,6 +91,8 @@ constexpr int kDecided[] = {20, 21, 22, 28, 32, 33, 34, 35, 37, 38, 39, 40, 43, 
 constexpr auto kMasks = rulesOf(MaskPositions{.path = "PROTOCOL/ZETA/mask", .positions = kDecided, .to = '0'},
                                 quick::kLineMasks, quick::kSensorMasks);
 
+constexpr auto kDoubts = rulesOf(shared::noPort("TRANS/SRV1/port", "TRANS/SRV1/addr"));
+
 constexpr auto kEnables =
     rulesOf(enableAny("Transfer_lineEdit_GSM_APN_1 Transfer_lineEdit_GSM_Login_1 Transfer_lineEdit_GSM_Psw_1",
                       when("TRANS/AP1/operator", kOtherOperator), when("TRANS/AP1/untouched")),
@@ -113,6 +115,7 @@ constexpr SettingsTable kQuickSettings{.section = "",
                                        .presets = kPresets,
                                        .derived = quick::kSensorDerived,
                                        .masks = kMasks,
+                                       .doubts = kDoubts,
                                        .enables = kEnables,
                                        .emptied = false};
 

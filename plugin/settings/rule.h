@@ -127,6 +127,17 @@ struct MaskPositions
     std::uint8_t inner = 0;
 };
 
+// A value that is taken as it stands, and marked in its widget while all conditions hold: `complaint` is the
+// translation key of what is wrong with it.
+struct Doubt
+{
+    const char* path = "";
+    std::array<When, 4> when{};
+    const char* complaint = "";
+    std::uint8_t number = 0;
+    std::uint8_t inner = 0;
+};
+
 // Widgets that are enabled, or on show, while the conditions hold: all of them, or `any`.
 struct Enable
 {

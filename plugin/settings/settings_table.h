@@ -26,6 +26,7 @@ struct SettingsTable
     std::span<const Presets> presets{};
     std::span<const Derived> derived{};
     std::span<const MaskPositions> masks{};
+    std::span<const Doubt> doubts{};
     std::span<const Enable> enables{};
     bool emptied = true; // a save empties the section first
 };

@@ -22,6 +22,18 @@ constexpr Setting host(const Setting& row)
     return row.expected(kHostPattern, "cfgt1_125");
 }
 
+// A port of 0 beside the address of a server.
+constexpr Doubt noPort(const char* port, const char* address, When used = {})
+{
+    return {port, {when(port, "0"), when(address), unless(address, kNoServer), used}, "typed_port"};
+}
+
+// The address of a Bluetooth device, as a line with a mask has it: six pairs of digits, or none of them.
+constexpr Setting bluetoothAddress(const Setting& row)
+{
+    return row.masked("HH:HH:HH:HH:HH:HH").expected("^:*$|^(?:[0-9A-Fa-f]{2}(?::(?!$)|$)){6}$", "typed_mac");
+}
+
 inline constexpr Code kRoamingModes[] = {{.code = "0", .label = "cfgt1_017"},
                                          {.code = "1", .label = "cfgt1_018"},
                                          {.code = "2", .label = "cfgt1_019"},

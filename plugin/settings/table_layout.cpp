@@ -152,6 +152,9 @@ private:
         for (const MaskPositions& rule : table.masks)
             layout_.masks.push_back(
                 {rowAt(rule.path, rule.number, rule.inner), conditions(rule, rule.when), &rule});
+        for (const Doubt& rule : table.doubts)
+            layout_.doubts.push_back(
+                {rowAt(rule.path, rule.number, rule.inner), conditions(rule, rule.when), &rule});
         for (const Enable& rule : table.enables) {
             TableLayout::Enable enable;
             enable.targets = numberedName(rule.targets, rule.number, rule.inner)

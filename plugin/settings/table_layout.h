@@ -115,6 +115,12 @@ struct TableLayout
         std::vector<Condition> when;
         const vlk::MaskPositions* rule = nullptr;
     };
+    struct Doubt
+    {
+        int row = -1;
+        std::vector<Condition> when;
+        const vlk::Doubt* rule = nullptr;
+    };
     struct Enable
     {
         QStringList targets;
@@ -137,6 +143,7 @@ struct TableLayout
     std::vector<Presets> presets;
     std::vector<Derived> derived;
     std::vector<MaskPositions> masks;
+    std::vector<Doubt> doubts;
     std::vector<Enable> enables;
     QHash<QString, int> byPath; // below the section
 

@@ -177,6 +177,9 @@ constexpr Presets kPresets[] = {{.trigger = "AP1/operator",
                                  .rows = kOperatorPresets,
                                  .other = kOtherOperator}};
 
+constexpr auto kDoubts =
+    repeat<3>([](int) { return shared::noPort("SRV%1/port", "SRV%1/addr", when("SRV%1/use")); });
+
 constexpr auto kEnables = rulesOf(
     repeat<3>([](int number) {
         return enable(kServers[number - 1].test, when("SRV%1/use"), {"SRV%1/addr", "", false});
@@ -198,6 +201,7 @@ constexpr SettingsTable kTransferSettings{.section = "TRANS",
                                           .pulls = kPulls,
                                           .presets = kPresets,
                                           .derived = kDerived,
+                                          .doubts = kDoubts,
                                           .enables = kEnables};
 
 } // namespace vlk

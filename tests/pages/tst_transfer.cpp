@@ -54,10 +54,20 @@ private Q_SLOTS:
         QFETCH(QString, address);
         auto* edit = get<QLineEdit>("GPRSSrv_lineEdit_IP_DNS_Main");
         edit->setText(address);
-        const QAction* sign = edit->actions().value(0);
-        QTEST(sign && sign->isVisible(), "marked");
-        QCOMPARE(sign->toolTip(), QString("cfgt1_125"));
+        QTEST(edit->toolTip() == QString("cfgt1_125"), "marked");
         QCOMPARE(saved("SRV1/addr"), address);
+    }
+
+    void portZeroBesideAnAddressIsMarked()
+    {
+        const auto isMarked = [&] { return !get("GPRSSrv_spinBox_Port_Main")->toolTip().isEmpty(); };
+        load({{"SRV1/addr", "10.0.0.1"}, {"SRV1/port", "0"}});
+        QVERIFY(isMarked());
+        get<QLineEdit>("GPRSSrv_lineEdit_IP_DNS_Main")->setText("0.0.0.0");
+        QVERIFY(!isMarked());
+        load({{"SRV1/addr", "10.0.0.1"}, {"SRV1/port", "4000"}});
+        QVERIFY(!isMarked());
+        QCOMPARE(saved("SRV1/port"), QString("4000"));
     }
 
     void objectName()

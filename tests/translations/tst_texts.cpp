@@ -40,8 +40,8 @@ private Q_SLOTS:
     void initTestCase()
     {
         static const QRegularExpression key(QStringLiteral(
-            "[\">]((?:cfgt\\d+f?|cfgwl|cfgwnd|tmizta|tmiw|tmiex|tmift\\d|wrd|abbr|wb)_[a-z0-9_]+)[\"<]"));
-        for (const char* folder : {"/plugin", "/workbench"}) {
+            "[\">]((?:cfgt\\d+f?|cfgwl|cfgwnd|tmizta|tmiw|tmiex|tmift\\d|wrd|abbr|typed|wb)_[a-z0-9_]+)[\"<]"));
+        for (const char* folder : {"/plugin", "/typing", "/workbench"}) {
             QDirIterator files(QStringLiteral(VLK_SOURCE) + QLatin1String(folder), {"*.cpp", "*.h", "*.ui"},
                                QDir::Files, QDirIterator::Subdirectories);
             while (files.hasNext()) {

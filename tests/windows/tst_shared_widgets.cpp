@@ -180,42 +180,6 @@ private Q_SLOTS:
         }
     }
 
-    void typedNumbersAreLimited_data()
-    {
-        DataTable<int, QString, QString, double>({"decimals", "standing", "typed", "value"})
-            .row("within the range", 0, "", "8080", 8080)
-            .row("too large", 0, "", "99999", 65535)
-            .row("far too large", 0, "", "99999999999", 65535)
-            .row("over what was selected", 0, "4000", "70000", 65535)
-            .row("below the least on the way", 0, "", "30", 30)
-            .row("too small", 0, "", "-250", -100)
-            .row("a fraction", 2, "", "65535.5", 65535)
-            .row("no number", 0, "12", "x", 12);
-    }
-    void typedNumbersAreLimited()
-    {
-        QFETCH(int, decimals);
-        QFETCH(QString, standing);
-        QFETCH(QString, typed);
-        QWidget page;
-        QSpinBox whole(&page);
-        whole.setRange(-100, 65535);
-        QDoubleSpinBox real(&page);
-        real.setRange(-100, 65535);
-        real.setLocale(QLocale::c());
-        vlk::guardInputs(&page);
-        auto* box = decimals ? static_cast<QAbstractSpinBox*>(&real) : &whole;
-        whole.setSuffix(" km");
-        real.setSuffix(" km");
-        box->selectAll();
-        QTest::keyClicks(box, standing);
-        if (typed.size() > 1)
-            box->selectAll();
-        QTest::keyClicks(box, typed);
-        QTEST(decimals ? real.value() : whole.value(), "value");
-        QVERIFY(box->text().endsWith(" km"));
-    }
-
     void comboBoxRemembersTheTextBeforeTheList()
     {
         VLK_ComboBox box;

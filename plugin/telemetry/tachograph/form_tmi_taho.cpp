@@ -4,6 +4,8 @@
 
 #include "base/clock.h"
 #include "telemetry/text/tachograph_answer.h"
+#include "typing/join_fields.h"
+#include "typing/typed_entry.h"
 #include "windows/fit_to_screen.h"
 
 #include <array>
@@ -76,6 +78,7 @@ VLK_Form_TMI_Taho::VLK_Form_TMI_Taho(QWidget* parent)
     }
     connect(ui_->comboBox_File, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &VLK_Form_TMI_Taho::slot_currentIndexChanged_File);
+    vlk::joinFields(this);
     vlk::keepOnScreen(this);
     retranslate();
 }
@@ -170,6 +173,7 @@ void VLK_Form_TMI_Taho::slot_pressed_BtnCreate()
         request.parameter = kSlotBits | static_cast<std::uint32_t>(ui_->comboBox_Card->currentIndex() + 1);
         break;
     case Argument::Time:
+        vlk::TypedEntry::finishIn(this);
         request.parameter = static_cast<std::uint32_t>(ui_->dateTimeEdit_File->dateTime().toSecsSinceEpoch());
         break;
     case Argument::None:

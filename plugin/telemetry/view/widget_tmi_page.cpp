@@ -5,8 +5,9 @@
 #include "link/requests.h"
 #include "telemetry/view/event_panel.h"
 #include "telemetry/view/stored_file.h"
+#include "typing/join_fields.h"
+#include "typing/typed_entry.h"
 #include "windows/fit_to_screen.h"
-#include "windows/input_guard.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -71,7 +72,7 @@ void VLK_Widget_Tmi_Page::connectControls()
         // Enter in the spin box must not press whatever button is near.
         button->setAutoDefault(false);
     }
-    limitTyping(ui_->spinBox_Go);
+    joinFields(this);
     connect(ui_->horizontalSlider, &QSlider::valueChanged, this, &Page::slot_valueChanged_horizontalSlider);
     connect(ui_->spinBox_Go, qOverload<int>(&QSpinBox::valueChanged), this,
             &Page::slot_valueChanged_spinBox_Go);
@@ -157,6 +158,7 @@ void VLK_Widget_Tmi_Page::describePosition()
 
 void VLK_Widget_Tmi_Page::retranslate()
 {
+    setLocale(QLocale());
     setWindowTitle(tr("tmiw_031"));
     ui_->label_NoData->setText(tr("tmiw_002"));
     ui_->pushButton_Get_Prev->setText(tr("wrd_061"));
@@ -211,6 +213,7 @@ void VLK_Widget_Tmi_Page::slot_Pressed_PushButton_End()
 
 void VLK_Widget_Tmi_Page::slot_Pressed_PushButton_Go()
 {
+    TypedEntry::finishIn(this);
     ui_->horizontalSlider->setValue(ui_->spinBox_Go->value());
 }
 

@@ -10,8 +10,9 @@
 #include "telemetry/text/key_text.h"
 #include "telemetry/view/event_panel.h"
 #include "telemetry/view/tmi_view_texts.h"
+#include "typing/join_fields.h"
+#include "typing/typed_entry.h"
 #include "windows/fit_to_screen.h"
-#include "windows/input_guard.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -91,7 +92,7 @@ void VLK_Widget_Tmi_View::connectControls()
     // Enter in a field must not press whatever button is near.
     for (QPushButton* button : findChildren<QPushButton*>())
         button->setAutoDefault(false);
-    limitTyping(ui_->spinBox_TimeOffset);
+    joinFields(this);
     connect(ui_->spinBox_TimeOffset, qOverload<int>(&QSpinBox::valueChanged), this,
             &View::slot_valueChanged_TimeOffset);
     connect(ui_->checkBox_Get_Auto_TMI, &QCheckBox::stateChanged, this, &View::slot_stateChanged_GetAutoTmi);
@@ -320,6 +321,7 @@ void VLK_Widget_Tmi_View::slot_pressed_Func()
 void VLK_Widget_Tmi_View::slot_pressed_Show()
 {
     save_.stop();
+    TypedEntry::finishIn(this);
     requests::recordByTime(ui_->dateTimeEdit_Show->dateTime().addSecs(-timeOffset_));
 }
 
@@ -346,6 +348,7 @@ void VLK_Widget_Tmi_View::slot_pressed_SaveCancel()
 // What the file tells of the tracker is taken now, since a detached one tells nothing any more.
 void VLK_Widget_Tmi_View::startSave(vlk::SaveSequence::Mode mode)
 {
+    TypedEntry::finishIn(this);
     TelemetryOrigin origin;
     if (vlkDevice != nullptr)
         origin = {vlkDevice->model(), vlkDevice->vendor(), vlkDevice->trackerId1(), 0, {}};
@@ -454,6 +457,7 @@ void VLK_Widget_Tmi_View::slot_GetTahoFile_Read(const QString& name)
 
 void VLK_Widget_Tmi_View::retranslate()
 {
+    setLocale(QLocale());
     setControlTexts(*ui_);
     setToolTips(*ui_, blockedBy_);
     slot_valueChanged_horizontalSlider_Auto_Tmi(ui_->horizontalSlider_Auto_Tmi->value());

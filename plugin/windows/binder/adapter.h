@@ -6,6 +6,7 @@
 #include "windows/binder/edits.h"
 
 #include <QObject>
+#include <QStringList>
 
 class QWidget;
 
@@ -24,6 +25,12 @@ public:
     virtual void show(const QString& value) = 0;
     // Whether the widget of this name is one of its own.
     bool owns(const QString& widget) const { return widgets_.contains(widget); }
+    // Other values come, which are not those that the user left: what was remembered of them goes.
+    virtual void forget() {}
+    // Takes what is being typed into the widgets. Gives what was not taken as it was typed.
+    virtual QStringList finishTyping() { return {}; }
+    // Marks the value as doubtful; an empty text takes the mark away.
+    virtual void doubt(const QString& /*complaint*/) {}
     // Takes what the widgets hold as an edit.
     virtual void take() = 0;
     // The value as the widgets hold it, for checks that they can hold what the configuration does.

@@ -12,12 +12,11 @@
 #include "windows/binder/text_adapter.h"
 #include "windows/vlk_dblslider2.h"
 
-#include <QAbstractSpinBox>
-#include <QApplication>
 #include <QComboBox>
 #include <QHash>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLoggingCategory>
 #include <QSpinBox>
 #include <QTreeWidget>
 
@@ -26,6 +25,9 @@
 namespace vlk {
 
 namespace {
+
+// What was typed and not taken as it was, at a save: "CAPTION: WHY".
+Q_LOGGING_CATEGORY(lcTyping, "vlk.settings.typing")
 
 // Counts what is being shown, so that the widgets' signals are no edits meanwhile.
 class Showing
@@ -89,9 +91,7 @@ std::unique_ptr<Adapter> Binder::makeAdapter(int index)
         return std::make_unique<PositionsAdapter>(*this, index, boxesOf(setting.positions), checks);
     }
     if (setting.kind == Kind::period) {
-        std::vector<QSpinBox*> boxes;
-        for (QWidget* box : boxesOf(setting.parts))
-            boxes.push_back(qobject_cast<QSpinBox*>(box));
+        const std::vector<QWidget*> boxes = boxesOf(setting.parts);
         if (std::find(boxes.begin(), boxes.end(), nullptr) != boxes.end())
             return nullptr;
         return std::make_unique<PeriodAdapter>(*this, index, boxes);
@@ -240,6 +240,12 @@ void Binder::showRow(int row)
 
 void Binder::evaluateRules()
 {
+    for (const TableLayout::Doubt& rule : layout_.doubts) {
+        if (adapters_[rule.row])
+            adapters_[rule.row]->doubt(configuration_.holds(table_, rule)
+                                           ? QCoreApplication::translate("vlk", rule.rule->complaint)
+                                           : QString());
+    }
     for (const Target& target : targets_) {
         if (!target.widget)
             continue;
@@ -306,9 +312,24 @@ void Binder::take(const QString& widget)
 
 void Binder::finishTyping()
 {
-    auto* box = qobject_cast<QAbstractSpinBox*>(QApplication::focusWidget());
-    if (box && forms_.contain(box))
-        box->interpretText();
+    for (const auto& adapter : adapters_) {
+        if (!adapter)
+            continue;
+        const QStringList allNews = adapter->finishTyping();
+        for (const QString& news : allNews) {
+            if (!news.isEmpty())
+                qCWarning(lcTyping).noquote()
+                    << captionText(configuration_.setting(adapter->index())) + QStringLiteral(": ") + news;
+        }
+    }
+}
+
+void Binder::forget()
+{
+    for (const auto& adapter : adapters_) {
+        if (adapter)
+            adapter->forget();
+    }
 }
 
 void Binder::selectFirstItems()

@@ -84,11 +84,4 @@ QLabel* BoundForms::labelBehind(QWidget* widget) const
     return parent ? parent->findChild<QLabel*>(widget->objectName() + QStringLiteral("_After")) : nullptr;
 }
 
-bool BoundForms::contain(const QWidget* widget) const
-{
-    return std::any_of(forms_.begin(), forms_.end(), [widget](const Form& form) {
-        return form.widget && form.widget->isAncestorOf(widget);
-    });
-}
-
 } // namespace vlk

@@ -26,8 +26,6 @@ public:
     QLabel* labelOf(QWidget* widget) const;
     // The one named <widget>_After.
     QLabel* labelBehind(QWidget* widget) const;
-    // Whether the widget stands in one of the forms.
-    bool contain(const QWidget* widget) const;
 
 private:
     struct Form

@@ -59,7 +59,8 @@ void NumberAdapter::show(const QString& value)
     const double shown = shownNumber(setting(), value);
     if (check_) {
         setChecked(check_, shown != 0);
-        remembered_ = shown;
+        if (shown != 0)
+            remembered_ = shown;
     }
     setLimits();
     box_.setValue(shown);
@@ -78,6 +79,11 @@ void NumberAdapter::switched(bool on)
     setLimits();
     box_.setValue(number);
     take();
+}
+
+void NumberAdapter::doubt(const QString& complaint)
+{
+    markField(box_.widget(), MarkReason::value, Mark::invalid, complaint);
 }
 
 void NumberAdapter::take()

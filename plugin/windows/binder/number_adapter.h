@@ -18,6 +18,9 @@ public:
     void show(const QString& value) override;
     void take() override;
     QString held() const override;
+    void doubt(const QString& complaint) override;
+    void forget() override { remembered_ = 0; }
+    QStringList finishTyping() override { return {box_.finishTyping()}; }
 
 private:
     bool isOn() const;

@@ -15,6 +15,8 @@ NumberBox::NumberBox(QWidget* widget, const Setting& setting)
       counts_(setting.kind == Kind::real ? static_cast<int>(std::lround(std::pow(10, setting.decimals)))
                                          : setting.factor)
 {
+    if (real_ || whole_)
+        entry_ = NumberEntry::join(qobject_cast<QAbstractSpinBox*>(widget));
     if (real_) {
         real_->setDecimals(setting.decimals);
         if (setting.step > 0)
@@ -47,14 +49,25 @@ double NumberBox::value() const
     return slider_ ? static_cast<double>(slider_->value()) / counts_ : 0;
 }
 
+// A box that shows the number already is left alone: each setting formats it anew.
 void NumberBox::setValue(double value)
 {
-    if (real_)
-        showNumber(real_, value);
-    else if (whole_)
-        showNumber(whole_, static_cast<int>(value));
+    if (entry_)
+        entry_->giveUp();
+    if (real_ && real_->value() != value)
+        real_->setValue(value);
+    else if (whole_ && whole_->value() != static_cast<int>(value))
+        whole_->setValue(static_cast<int>(value));
     else if (slider_)
         slider_->setValue(position(value));
+}
+
+QString NumberBox::finishTyping()
+{
+    if (!entry_)
+        return {};
+    entry_->finish();
+    return entry_->takeNews();
 }
 
 void NumberBox::setRange(double least, double most)

@@ -4,8 +4,8 @@
 // counts units of the file, for a real number units of its last decimal.
 
 #include "settings/setting.h"
+#include "typing/number_entry.h"
 
-#include <QApplication>
 #include <QString>
 #include <QWidget>
 
@@ -19,15 +19,6 @@ class QSpinBox;
 
 namespace vlk {
 
-// Leaves a box alone that shows the number: each setting formats it anew. Only what is being typed may read
-// otherwise than its value.
-template <class Box, class Number>
-void showNumber(Box* box, Number number)
-{
-    if (box->value() != number || box == QApplication::focusWidget())
-        box->setValue(number);
-}
-
 class NumberBox
 {
 public:
@@ -37,7 +28,10 @@ public:
     explicit operator bool() const { return widget_; }
     QWidget* widget() const { return widget_; }
     double value() const;
+    // Whatever is being typed gives way.
     void setValue(double value);
+    // Takes what is being typed. Gives what was not taken as it was typed, empty if all was.
+    QString finishTyping();
     void setRange(double least, double most);
     void setSuffix(const QString& suffix);
     void onChanged(QObject* context, std::function<void()> action) const;
@@ -50,6 +44,7 @@ private:
     QDoubleSpinBox* real_ = nullptr;
     QSpinBox* whole_ = nullptr;
     QAbstractSlider* slider_ = nullptr;
+    NumberEntry* entry_ = nullptr;                   // of a spin box
     std::optional<std::pair<double, double>> range_; // none before it is set for the first time
     int counts_ = 1;                                 // of a slider in one unit of the widget
 };

@@ -35,10 +35,16 @@ void PageSettings::showAll()
     Q_EMIT shown();
 }
 
+void PageSettings::showOthers()
+{
+    binder_->forget();
+    showAll();
+}
+
 void PageSettings::setDefaults()
 {
     configuration_.reset();
-    showAll();
+    showOthers();
 }
 
 void PageSettings::load(CXmlSection* root)
@@ -46,7 +52,7 @@ void PageSettings::load(CXmlSection* root)
     if (!root)
         return;
     configuration_.read(*root);
-    showAll();
+    showOthers();
 }
 
 void PageSettings::save(CXmlSection* root)

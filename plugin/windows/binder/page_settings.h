@@ -51,7 +51,7 @@ public:
     void edit(const QString& path, const QString& value);
     void selectFirstItems() { binder_->selectFirstItems(); }
     void evaluateRules() { binder_->evaluateRules(); }
-    // Shows what came into the configuration in another way.
+    // Shows the values of the configuration once more.
     void showAll();
 
     Configuration& configuration() { return configuration_; }
@@ -64,6 +64,9 @@ Q_SIGNALS:
     void shown();
 
 private:
+    // Shows other values than those that the user has edited so far.
+    void showOthers();
+
     const SettingsTable& table_;
     const char* const titleKey_;
     Configuration configuration_;

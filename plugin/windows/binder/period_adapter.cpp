@@ -1,21 +1,19 @@
 #include "windows/binder/period_adapter.h"
 
-#include "windows/binder/number_box.h"
-
 #include <QCoreApplication>
-#include <QSpinBox>
 
-#include <utility>
+#include <algorithm>
 
 namespace vlk {
 
-PeriodAdapter::PeriodAdapter(Edits& edits, int index, std::vector<QSpinBox*> boxes)
-    : Adapter(edits, index), boxes_(std::move(boxes))
+PeriodAdapter::PeriodAdapter(Edits& edits, int index, const std::vector<QWidget*>& boxes)
+    : Adapter(edits, index)
 {
-    for (std::size_t i = 0; i < boxes_.size(); ++i) {
-        own(boxes_[i]);
-        boxes_[i]->setRange(setting().parts[i].least, setting().parts[i].most);
-        connect(boxes_[i], qOverload<int>(&QSpinBox::valueChanged), this, [this] { take(); });
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+        own(boxes[i]);
+        boxes_.emplace_back(boxes[i], setting());
+        boxes_[i].setRange(setting().parts[i].least, setting().parts[i].most);
+        boxes_[i].onChanged(this, [this] { take(); });
     }
 }
 
@@ -23,19 +21,20 @@ void PeriodAdapter::dress()
 {
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         const QString unit = QCoreApplication::translate("vlk", setting().parts[i].unit);
-        caption(boxes_[i], unit);
-        boxes_[i]->setSuffix(QLatin1Char(' ') + unit);
+        caption(boxes_[i].widget(), unit);
+        boxes_[i].setSuffix(QLatin1Char(' ') + unit);
     }
 }
 
 void PeriodAdapter::show(const QString& value)
 {
     int rest = value.toInt();
-    boxes_.back()->setMinimum(setting().parts.back().least);
+    const PeriodPart& last = setting().parts.back();
+    boxes_.back().setRange(last.least, last.most);
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         const PeriodPart& part = setting().parts[i];
         const int shown = std::min(rest / part.seconds, part.most);
-        showNumber(boxes_[i], shown);
+        boxes_[i].setValue(shown);
         rest -= shown * part.seconds;
     }
     limitLast();
@@ -54,16 +53,24 @@ void PeriodAdapter::limitLast()
     const PeriodPart& last = setting().parts.back();
     int before = 0;
     for (std::size_t i = 0; i + 1 < boxes_.size(); ++i)
-        before += boxes_[i]->value() * setting().parts[i].seconds;
+        before += static_cast<int>(boxes_[i].value()) * setting().parts[i].seconds;
     const int least = (static_cast<int>(setting().least) - before + last.seconds - 1) / last.seconds;
-    boxes_.back()->setMinimum(std::max(last.least, least));
+    boxes_.back().setRange(std::max(last.least, least), last.most);
+}
+
+QStringList PeriodAdapter::finishTyping()
+{
+    QStringList news;
+    for (NumberBox& box : boxes_)
+        news << box.finishTyping();
+    return news;
 }
 
 QString PeriodAdapter::held() const
 {
     qint64 seconds = 0;
     for (std::size_t i = 0; i < boxes_.size(); ++i)
-        seconds += static_cast<qint64>(boxes_[i]->value()) * setting().parts[i].seconds;
+        seconds += static_cast<qint64>(boxes_[i].value()) * setting().parts[i].seconds;
     return QString::number(seconds);
 }
 

@@ -4,27 +4,27 @@
 // value, the last box cannot go below it while the boxes before it stand at 0.
 
 #include "windows/binder/adapter.h"
+#include "windows/binder/number_box.h"
 
 #include <vector>
-
-class QSpinBox;
 
 namespace vlk {
 
 class PeriodAdapter : public Adapter
 {
 public:
-    PeriodAdapter(Edits& edits, int index, std::vector<QSpinBox*> boxes);
+    PeriodAdapter(Edits& edits, int index, const std::vector<QWidget*>& boxes);
 
     void dress() override;
     void show(const QString& value) override;
     void take() override;
     QString held() const override;
+    QStringList finishTyping() override;
 
 private:
     void limitLast();
 
-    std::vector<QSpinBox*> boxes_;
+    std::vector<NumberBox> boxes_;
 };
 
 } // namespace vlk

@@ -1,10 +1,11 @@
 #include "windows/binder/text_adapter.h"
 
-#include <QAction>
+#include "typing/text_entry.h"
+
 #include <QCoreApplication>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QRegularExpressionValidator>
-#include <QStyle>
 
 namespace vlk {
 
@@ -18,26 +19,26 @@ TextAdapter::TextAdapter(Edits& edits, int index, QLineEdit* edit) : Adapter(edi
             new QRegularExpressionValidator(QRegularExpression(QLatin1String(setting().pattern)), edit));
     if (setting().inputMask)
         edit->setInputMask(QLatin1String(setting().inputMask));
-    if (setting().expectedPattern) {
-        expected_.setPattern(QLatin1String(setting().expectedPattern));
-        sign_ = edit->addAction(edit->style()->standardIcon(QStyle::SP_MessageBoxWarning),
-                                QLineEdit::TrailingPosition);
-        connect(edit, &QLineEdit::textChanged, this, &TextAdapter::mark);
-        mark();
-    }
+    TextEntry::join(edit);
     connect(edit, &QLineEdit::textChanged, this, [this] { take(); });
 }
 
 void TextAdapter::dress()
 {
     caption(edit_);
-    if (sign_)
-        sign_->setToolTip(QCoreApplication::translate("vlk", setting().unexpectedKey));
+    expect();
 }
 
-void TextAdapter::mark()
+// A text that is not as expected is marked, in the present language.
+void TextAdapter::expect()
 {
-    sign_->setVisible(!expected_.match(edit_->text()).hasMatch());
+    if (!setting().expectedPattern)
+        return;
+    TextEntry::join(edit_)->doubt(
+        [expected = QRegularExpression(QLatin1String(setting().expectedPattern)),
+         complaint = QCoreApplication::translate("vlk", setting().unexpectedKey)](const QString& text) {
+            return expected.match(text).hasMatch() ? QString() : complaint;
+        });
 }
 
 void TextAdapter::show(const QString& value)

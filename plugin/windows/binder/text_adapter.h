@@ -1,12 +1,9 @@
 #pragma once
 
-// A text in a line edit. One that cannot be right is taken, and a sign in the line says what is wrong.
+// A text in a line edit. One that cannot be right is taken, and a mark at the line says what is wrong.
 
 #include "windows/binder/adapter.h"
 
-#include <QRegularExpression>
-
-class QAction;
 class QLineEdit;
 
 namespace vlk {
@@ -22,11 +19,9 @@ public:
     QString held() const override;
 
 private:
-    void mark();
+    void expect();
 
     QLineEdit* edit_;
-    QRegularExpression expected_;
-    QAction* sign_ = nullptr; // of a text that is not as expected
 };
 
 } // namespace vlk

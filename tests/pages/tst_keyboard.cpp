@@ -1,0 +1,292 @@
+// What a person types is what is written. Every field of every page and of both windows that takes a text or
+// a number gets keys: inside, at and beyond its limits, with either decimal sign, in both languages, ended by
+// Tab, by Enter or by a save without either. What is saved is what one edit of the typed value makes of the
+// file in the settings alone: that value, and what the rules between settings name, and nothing else.
+
+#include "dialog/config_pages.h"
+#include "dialog/form_config_light.h"
+#include "dialog/widget_config_full.h"
+#include "settings/all_settings.h"
+#include "settings/quick_settings.h"
+#include "support/device.h"
+#include "support/setting_samples.h"
+#include "support/typing.h"
+#include "translations/text_files.h"
+
+#include <QAbstractSpinBox>
+#include <QLineEdit>
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <QTranslator>
+#include <QTreeWidget>
+#include <QtTest>
+
+#include <cmath>
+#include <memory>
+#include <optional>
+
+namespace {
+
+class TypedTexts : public QTranslator
+{
+public:
+    QString translate(const char* /*context*/, const char* key, const char* /*disambiguation*/,
+                      int /*n*/) const override
+    {
+        return texts.value(QString::fromLatin1(key));
+    }
+    bool isEmpty() const override { return false; }
+
+    Texts texts;
+};
+
+// What is typed into the field or the boxes of a setting, and the value that the setting is to have then;
+// none where it is refused.
+struct Typed
+{
+    QString keys;
+    std::optional<QString> value;
+};
+
+// A number as a person of the other language would type it.
+QString spelled(const vlk::Setting& setting, double number, QLatin1Char sign)
+{
+    if (setting.hexadecimal)
+        return QString::number(static_cast<int>(number), 16);
+    return QString::number(number, 'f', setting.decimals).replace('.', sign);
+}
+
+std::vector<Typed> numbersFor(const vlk::Setting& setting, const vlk::Limits& limits, QLatin1Char sign)
+{
+    const double unit = std::pow(10, -setting.decimals);
+    const double inside = limits.least + std::floor((limits.most - limits.least) / 3 / unit) * unit;
+    const auto typed = [&](double number) {
+        return Typed{spelled(setting, number, sign),
+                     vlk::fileNumber(setting, std::clamp(number, limits.least, limits.most))};
+    };
+    std::vector<Typed> all{typed(inside), typed(limits.least), typed(limits.most), typed(limits.most + 1)};
+    if (limits.least != 0)
+        all.push_back(typed(limits.least > 0 ? limits.least - unit : limits.least - 1));
+    if (limits.least >= 0 || setting.hexadecimal)
+        all.push_back({"-5", {}});
+    all.push_back({setting.decimals > 0 ? QString("1.5,5") : QString("2") + sign + '5', {}});
+    return all;
+}
+
+// One number a box, with bars between them.
+std::vector<Typed> periodsFor(const vlk::Setting& setting)
+{
+    std::vector<Typed> all;
+    for (const int share : {1, 2, 3}) {
+        QStringList keys;
+        qint64 seconds = 0;
+        for (const vlk::PeriodPart& part : setting.parts) {
+            const int count = part.most * share / 3;
+            keys << QString::number(count);
+            seconds += static_cast<qint64>(count) * part.seconds;
+        }
+        all.push_back({keys.join('|'), QString::number(seconds)});
+    }
+    return all;
+}
+
+std::vector<Typed> textsFor(const vlk::Setting& setting)
+{
+    if (setting.inputMask)
+        return {{"a1B2c3D4e5F6", "a1:B2:c3:D4:e5:F6"}, {"0", "0:::::"}};
+    const QString pattern = QString::fromLatin1(setting.pattern ? setting.pattern : "");
+    if (pattern.contains("\\d"))
+        return {{"12345", "12345"}};
+    return {{"aB1.x", "aB1.x"}, {QString::fromUtf8("Гр&<2>"), QString::fromUtf8("Гр&<2>").left(6)}};
+}
+
+} // namespace
+
+class KeyboardTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        device().initialize(nullptr);
+        for (const QString& language : kLanguages)
+            translator_[language].texts = readTexts(language);
+    }
+
+    void everyField_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<bool>("isFull");
+        for (const QString& language : kLanguages) {
+            QTest::addRow("full window, %s", qPrintable(language)) << language << true;
+            QTest::addRow("quick window, %s", qPrintable(language)) << language << false;
+        }
+    }
+    void everyField()
+    {
+        QFETCH(QString, language);
+        QFETCH(bool, isFull);
+        QLocale::setDefault(QLocale(language));
+        QCoreApplication::installTranslator(&translator_[language]);
+        sign_ = QLatin1Char(language == "ru" ? '.' : ',');
+        fields_ = 0;
+        std::unique_ptr<QWidget> window;
+        if (isFull) {
+            auto full = std::make_unique<VLK_Widget_Config_Full>();
+            full->show();
+            full->pages().forEach([this](auto& page) { typeInto(page); });
+            window = std::move(full);
+        } else {
+            auto quick = std::make_unique<VLK_Form_Config_Light>();
+            quick->show();
+            typeInto(*quick);
+            window = std::move(quick);
+        }
+        QCoreApplication::removeTranslator(&translator_[language]);
+        QCOMPARE(wrong_.join('\n'), QString());
+        // Fewer would mean that the walk passes fields over.
+        QCOMPARE(fields_, isFull ? 1 : 2);
+    }
+
+private:
+    template <class Page>
+    void typeInto(Page& page)
+    {
+        vlk::PageSettings& settings = page.settings();
+        vlk::Configuration core({&settings.binder().table()});
+        for (int index = 0; index < core.count(); ++index) {
+            const vlk::Setting& setting = core.setting(index);
+            const bool isNumber = setting.kind == vlk::Kind::integer || setting.kind == vlk::Kind::real ||
+                                  setting.kind == vlk::Kind::scaled;
+            const bool isPeriod = setting.kind == vlk::Kind::period;
+            if (!isNumber && !isPeriod && setting.kind != vlk::Kind::text)
+                continue;
+            const QByteArray file = fileFor(core, index);
+            load(page, core, file);
+            const auto find = [&](const char* name) {
+                return settings.binder().forms().find(vlk::numberedName(name, setting.number, setting.inner),
+                                                      setting.number);
+            };
+            QList<QWidget*> fields;
+            for (const vlk::PeriodPart& part : setting.parts)
+                fields << find(part.widget);
+            if (!isPeriod)
+                fields << find(setting.widget);
+            if (fields.contains(nullptr) || !core.isWritten(index) || isReadOnly(fields[0]))
+                continue;
+            ++fields_;
+            const auto samples = isNumber   ? numbersFor(setting, core.limits(index), sign_)
+                                 : isPeriod ? periodsFor(setting)
+                                            : textsFor(setting);
+            for (std::size_t i = 0; i < samples.size(); ++i) {
+                load(page, core, file);
+                const QByteArray before = saved(core);
+                if (samples[i].value)
+                    core.edit(index, *samples[i].value);
+                const QByteArray expected = saved(core);
+                const QString end = QStringList{"<Tab>", "<Enter>", ""}.at((index + static_cast<int>(i)) % 3);
+                const QStringList keys = samples[i].keys.split('|');
+                for (int part = 0; part < fields.size(); ++part) {
+                    bringUp(fields[part]);
+                    typeInField(fields[part], setting, keys.at(part), end);
+                }
+                const QByteArray written = saved(page);
+                if (written != expected || (samples[i].value && core.value(index) != *samples[i].value))
+                    wrong_ << QString("%1: %2%3 gives\n%4\ninstead of\n%5")
+                                  .arg(core.path(index), samples[i].keys, end, differing(written, expected),
+                                       differing(expected, written));
+            }
+        }
+    }
+
+    // A file in which the setting stands, and a switched-off number is on.
+    static QByteArray fileFor(const vlk::Configuration& core, int index)
+    {
+        const vlk::Setting& setting = core.setting(index);
+        auto values = presenceOf(core, index);
+        if (core.row(index).free.row >= 0)
+            values.append({core.layout(index).rows[core.row(index).free.row].filePath, "1"});
+        if (setting.zeroIsOff)
+            values.append({core.row(index).filePath, vlk::fileNumber(setting, setting.least)});
+        return documentWith(values);
+    }
+
+    template <class Page>
+    static void load(Page& page, vlk::Configuration& core, const QByteArray& file)
+    {
+        vlk::XmlDocument in(file, "DEVICE");
+        page.setDefaults();
+        page.loadFromXml(in.root());
+        core.reset();
+        core.read(*in.root());
+    }
+
+    template <class Page>
+    static QByteArray saved(Page& page)
+    {
+        vlk::XmlDocument out(QString(), "DEVICE");
+        if constexpr (std::is_same_v<Page, vlk::Configuration>)
+            page.write(*out.root());
+        else
+            page.saveToXml(out.root());
+        return out.text();
+    }
+
+    static bool isReadOnly(const QWidget* field)
+    {
+        const auto* line = qobject_cast<const QLineEdit*>(field);
+        return line && line->isReadOnly();
+    }
+
+    // Shows and enables the field, as a person would who goes there.
+    static void bringUp(QWidget* field)
+    {
+        for (QWidget* widget = field; widget; widget = widget->parentWidget()) {
+            if (auto* stack = qobject_cast<QStackedWidget*>(widget->parentWidget())) {
+                if (auto* tabs = qobject_cast<QTabWidget*>(stack->parentWidget()))
+                    tabs->setCurrentWidget(widget);
+                else
+                    stack->setCurrentWidget(widget);
+            }
+            widget->setEnabled(true);
+            widget->show();
+        }
+        field->window()->activateWindow();
+    }
+
+    static void typeInField(QWidget* field, const vlk::Setting& setting, const QString& keys,
+                            const QString& end)
+    {
+        auto* tree = qobject_cast<QTreeWidget*>(field);
+        if (!tree) {
+            type(field, "<All>" + keys + end);
+            return;
+        }
+        QTreeWidgetItem* item = tree->topLevelItem(setting.number - 1);
+        tree->setCurrentItem(item, setting.column);
+        tree->editItem(item, setting.column);
+        auto* editor = tree->viewport()->findChild<QLineEdit*>();
+        type(editor, "<All>" + keys + (end.isEmpty() ? QString("<Enter>") : end));
+    }
+
+    // The lines of one text that the other lacks.
+    static QString differing(const QByteArray& text, const QByteArray& other)
+    {
+        const QList<QByteArray> others = other.split('<');
+        QStringList lines;
+        for (const QByteArray& line : text.split('<')) {
+            if (!others.contains(line))
+                lines << QString::fromLocal8Bit(line.trimmed());
+        }
+        return lines.join('\n');
+    }
+
+    QMap<QString, TypedTexts> translator_;
+    QLatin1Char sign_{'.'};
+    int fields_ = 0;
+    QStringList wrong_;
+};
+
+QTEST_MAIN(KeyboardTest)
+#include "tst_keyboard.moc"

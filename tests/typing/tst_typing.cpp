@@ -1,0 +1,289 @@
+// What a person types into fields: keys, both decimal signs, each end of typing, in both languages.
+
+#include "support/data_table.h"
+#include "support/typing.h"
+#include "typing/join_fields.h"
+#include "typing/typed_entry.h"
+
+#include <QClipboard>
+#include <QDateTimeEdit>
+#include <QDialog>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRegularExpressionValidator>
+#include <QTranslator>
+#include <QVBoxLayout>
+#include <QtTest>
+
+namespace {
+
+// Texts that begin with their key.
+class Keys : public QTranslator
+{
+public:
+    QString translate(const char* /*context*/, const char* key, const char* /*disambiguation*/,
+                      int /*n*/) const override
+    {
+        return QString::fromLatin1(key) + QStringLiteral(" %1 %2 %3 %4");
+    }
+    bool isEmpty() const override { return false; }
+};
+
+} // namespace
+
+class TypingTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QCoreApplication::installTranslator(&keys_); }
+
+    void init()
+    {
+        window_ = std::make_unique<QDialog>();
+        auto* column = new QVBoxLayout(window_.get());
+        whole_ = add<QSpinBox>(column);
+        real_ = add<QDoubleSpinBox>(column);
+        date_ = add<QDateTimeEdit>(column);
+        line_ = add<QLineEdit>(column);
+        date_->setDisplayFormat("dd.MM.yyyy HH:mm:ss");
+        date_->setTimeSpec(Qt::UTC);
+        date_->setDateTime({{2026, 11, 20}, {8, 29, 44}, Qt::UTC});
+        auto* button = new QPushButton(window_.get());
+        button->setDefault(true);
+        column->addWidget(button);
+        connect(button, &QPushButton::clicked, this, [this] { ++pressed_; });
+        pressed_ = 0;
+        vlk::joinFields(window_.get());
+        window_->show();
+        QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+    }
+
+    // "meanwhile" is what the box is worth before the last named key.
+    void numbers_data()
+    {
+        DataTable<QString, int, int, int, QString, double, double, QString>(
+            {"language", "decimals", "least", "most", "keys", "meanwhile", "value", "mark"})
+            .row("half typed", "en", 0, -55, 125, "<All>30", 20, 30, "")
+            .row("by Tab", "ru", 0, 1, 180, "<All>175<Tab>", 20, 175, "")
+            .row("by Enter", "ru", 0, 1, 180, "<All>175<Enter>", 20, 175, "")
+            .row("point in Russian", "ru", 1, 0, 99, "<All>2.7<Tab>", 20, 2.7, "")
+            .row("comma in English", "en", 1, 0, 99, "<All>5,5<Enter>", 20, 5.5, "")
+            .row("point in English", "en", 2, 0, 99, "<All>37.50<Tab>", 20, 37.5, "")
+            .row("no figure before the sign", "en", 1, 0, 99, "<All>,5<Tab>", 20, 0.5, "")
+            .row("two signs", "en", 1, 0, 9999, "<All>1.234,5<Tab>", 20, 20, "typed_number")
+            .row("group of thousands", "en", 0, 0, 9999, "<All>1,234<Tab>", 20, 20, "typed_whole")
+            .row("fraction in a whole one", "ru", 0, 0, 99, "<All>2,5<Tab>", 20, 20, "typed_whole")
+            .row("too many decimals", "ru", 1, 0, 99, "<All>2,55<Tab>", 20, 20, "typed_decimals")
+            .row("zeros behind", "ru", 1, 0, 99, "<All>2,500<Tab>", 20, 2.5, "")
+            .row("minus from 0 up", "en", 0, 0, 99, "<All>-5<Tab>", 20, 20, "typed_negative")
+            .row("minus", "en", 1, -50, 120, "<All>-12.5<Tab>", 20, -12.5, "")
+            .row("letters", "en", 0, 0, 99, "<All>1O<Enter>", 20, 20, "typed_number")
+            .row("nothing", "en", 0, 0, 99, "<All><Back><Tab>", 20, 20, "typed_empty")
+            .row("sign alone", "en", 1, -9, 99, "<All>-<Tab>", 20, 20, "typed_number")
+            .row("above", "en", 0, 1, 1000, "<All>4096<Tab>", 20, 1000, "typed_range")
+            .row("far above", "en", 0, 1, 1000, "<All>99999999999999999999<Tab>", 20, 1000, "typed_range")
+            .row("below", "en", 0, 15, 900, "<All>4<Enter>", 20, 15, "typed_range")
+            .row("far below", "ru", 2, -50, 120, "<All>-250,75<Tab>", 20, -50, "typed_range")
+            .row("given up", "en", 0, 0, 99, "<All>55<Esc>", 20, 20, "")
+            .row("refused, then given up", "en", 0, 0, 99, "<All>5.5<Esc>", 20, 20, "")
+            .row("stepped from", "en", 0, 0, 99, "<All>55<Up>", 20, 56, "")
+            .row("behind the unit", "en", 0, 0, 999, "<End>5<Tab>", 20, 205, "")
+            .row("before it", "en", 0, 0, 999, "<Home>5<Tab>", 20, 520, "");
+    }
+    void numbers()
+    {
+        QFETCH(QString, language);
+        QFETCH(int, decimals);
+        QFETCH(int, least);
+        QFETCH(int, most);
+        QFETCH(QString, keys);
+        QFETCH(double, meanwhile);
+        window_->setLocale(QLocale(language));
+        whole_->setRange(least, most);
+        real_->setRange(least, most);
+        real_->setDecimals(decimals);
+        whole_->setSuffix(" km/h");
+        real_->setSuffix(" km/h");
+        whole_->setValue(20);
+        real_->setValue(20);
+        QAbstractSpinBox* box = decimals ? static_cast<QAbstractSpinBox*>(real_) : whole_;
+        const auto value = [&] { return decimals ? real_->value() : whole_->value(); };
+        box->setFocus();
+        const QString last = keys.endsWith('>') ? keys.mid(keys.lastIndexOf('<')) : QString();
+        type(box, keys.chopped(last.size()));
+        QCOMPARE(value(), meanwhile);
+        type(box, last);
+        if (last.isEmpty())
+            vlk::TypedEntry::finishIn(window_.get());
+        QTEST(value(), "value");
+        QVERIFY(box->text().endsWith(" km/h"));
+        QTEST(box->toolTip().section(' ', 0, 0), "mark");
+        QCOMPARE(box->accessibleDescription(), box->toolTip());
+        QVERIFY(window_->isVisible() && pressed_ == 0);
+    }
+
+    void pastedNumbers_data()
+    {
+        DataTable<QString, double, QString>({"text", "value", "mark"})
+            .row("plain", "12.5", 12.5, "")
+            .row("other sign", "12,5", 12.5, "")
+            .row("with its unit", " 12,5 V\n", 12.5, "")
+            .row("minus sign", QString::fromUtf8("\u22123"), -3, "")
+            .row("groups", "1 234", 20, "typed_number")
+            .row("a word", "12 l", 20, "typed_number");
+    }
+    void pastedNumbers()
+    {
+        QFETCH(QString, text);
+        real_->setRange(-50, 9999);
+        real_->setSuffix(" V");
+        real_->setValue(20);
+        QApplication::clipboard()->setText(text);
+        type(real_, "<All><Paste><Tab>");
+        QTEST(real_->value(), "value");
+        QTEST(real_->toolTip().section(' ', 0, 0), "mark");
+    }
+
+    void hexadecimalNumbers_data()
+    {
+        DataTable<QString, int, QString>({"keys", "value", "mark"})
+            .row("figures", "<All>1f<Tab>", 31, "")
+            .row("too large", "<All>100<Tab>", 255, "typed_range")
+            .row("no figure", "<All>1g<Tab>", 16, "typed_number")
+            .row("minus", "<All>-1<Tab>", 16, "typed_number");
+    }
+    void hexadecimalNumbers()
+    {
+        QFETCH(QString, keys);
+        whole_->setDisplayIntegerBase(16);
+        whole_->setRange(0, 255);
+        whole_->setValue(16);
+        type(whole_, keys);
+        QTEST(whole_->value(), "value");
+        QTEST(whole_->toolTip().section(' ', 0, 0), "mark");
+    }
+
+    void markGoesWithTheNextTyping()
+    {
+        auto* caption = new QLabel("Speed", window_.get());
+        caption->setBuddy(whole_);
+        whole_->setToolTip("own");
+        type(whole_, "<All>1.5");
+        QVERIFY(whole_->toolTip().startsWith("typed_whole") && whole_->toolTip().endsWith("\nown"));
+        type(whole_, "<Tab>");
+        QCOMPARE(vlk::TypedEntry::of(whole_)->takeNews().section(' ', 0, 0), QString("typed_whole"));
+        QCOMPARE(vlk::TypedEntry::of(whole_)->takeNews(), QString());
+        type(whole_, "<All>1");
+        QCOMPARE(whole_->toolTip(), QString("own"));
+        type(whole_, "<Tab>");
+        type(whole_, "<All>500<Tab>");
+        QVERIFY(whole_->toolTip().startsWith("typed_range"));
+        whole_->setValue(7);
+        QCOMPARE(whole_->toolTip(), QString("own"));
+    }
+
+    void numbersFollowTheLanguage()
+    {
+        real_->setValue(2.5);
+        for (const char* language : {"ru", "en"}) {
+            window_->setLocale(QLocale(language));
+            QCOMPARE(real_->text(), QString(language) == "ru" ? QString("2,50") : QString("2.50"));
+        }
+    }
+
+    void dates_data()
+    {
+        const QString before = "20.11.2026 08:29:44";
+        DataTable<QString, QString, QString, QString>({"clipboard", "keys", "value", "mark"})
+            .row("over all", "", "<All>18.11.2026 12:00:00<Tab>", "18.11.2026 12:00:00", "")
+            .row("ended by Enter", "", "<All>01.02.2025 00:00:01<Enter>", "01.02.2025 00:00:01", "")
+            .row("from the first section on", "", "18.12.2025 12:00:00<Tab>", "18.12.2025 12:00:00", "")
+            .row("no seconds", "", "<All>18.11.2026 12:00<Tab>", "18.11.2026 12:00:00", "")
+            .row("no time", "", "<All>18.11.2026<Tab>", "18.11.2026 08:29:44", "")
+            .row("corrected", "", "<All>18.11.2026 12:00:09<Back>0<Tab>", "18.11.2026 12:00:00", "")
+            .row("given up", "", "<All>18.11.2026 12:00:00<Esc>", before, "")
+            .row("no such day", "", "<All>31.02.2026 12:00:00<Tab>", before, "typed_date")
+            .row("half of it", "", "<All>18.11<Enter>", before, "typed_date")
+            .row("one section", "", "18<Tab>", "18.11.2026 08:29:44", "")
+            .row("short sections", "", "8.1.<Tab>", "08.01.2026 08:29:44", "")
+            .row("the last day of a longer month", "", "31.12<Tab>", "31.12.2026 08:29:44", "")
+            .row("a day that the month lacks", "", "31<Enter>", before, "typed_date")
+            .row("year of two figures", "", "18.12.26 <Tab>", before, "typed_date")
+            .row("stepped from", "", "18<Up>", "19.11.2026 08:29:44", "")
+            .row("pasted", "18.11.2026 12:00:00", "<Paste>", "18.11.2026 12:00:00", "")
+            .row("pasted over all", " 18.11.2026   12:00:00\n", "<All><Paste>", "18.11.2026 12:00:00", "")
+            .row("pasted, sortable", "2026-11-18 12:00:00", "<Paste>", "18.11.2026 12:00:00", "")
+            .row("pasted, no date", "12 l", "<Paste>", before, "typed_date")
+            .row("pasted nothing", "", "<Paste>", before, "typed_date");
+    }
+    void dates()
+    {
+        QFETCH(QString, clipboard);
+        QFETCH(QString, keys);
+        QApplication::clipboard()->setText(clipboard);
+        type(date_, keys);
+        QTEST(date_->text(), "value");
+        QTEST(date_->dateTime().toString("dd.MM.yyyy HH:mm:ss"), "value");
+        QCOMPARE(date_->dateTime().timeSpec(), Qt::UTC);
+        QTEST(date_->toolTip().section(' ', 0, 0), "mark");
+        QVERIFY(window_->isVisible() && pressed_ == 0);
+        type(date_, "<All>03.04.2026 05:06:07<Tab>");
+        QCOMPARE(date_->text() + date_->toolTip(), QString("03.04.2026 05:06:07"));
+    }
+
+    void texts_data()
+    {
+        DataTable<QString, QString, QString, QString>({"pattern", "keys", "text", "mark"})
+            .row("fits", "^\\S{0,6}$", "abc<Tab>", "oldabc", "")
+            .row("too long", "^\\S{0,6}$", "abcd<Tab>", "oldabc", "typed_long 6")
+            .row("blank", "^\\S{0,6}$", "a b<Tab>", "oldab", "")
+            .row("blank at the end", "^\\S{0,6}$", "a <Tab>", "olda", "typed_sign")
+            .row("pasted and too long", "^\\S{0,6}$", "<Paste><Tab>", "old", "typed_long 6")
+            .row("limited by the line", "", "abcdefgh<Tab>", "oldabcde", "typed_long 8")
+            .row("given up", "", "abc<Esc>", "old", "")
+            .row("too long and given up", "", "abcdefgh<Esc>", "old", "");
+    }
+    void texts()
+    {
+        QFETCH(QString, pattern);
+        QFETCH(QString, keys);
+        QFETCH(QString, mark);
+        if (pattern.isEmpty())
+            line_->setMaxLength(8);
+        else
+            line_->setValidator(new QRegularExpressionValidator(QRegularExpression(pattern), line_));
+        line_->setText("old");
+        line_->setFocus();
+        line_->deselect();
+        QApplication::clipboard()->setText("secret word");
+        type(line_, keys);
+        QTEST(line_->text(), "text");
+        QCOMPARE(line_->toolTip().left(mark.isEmpty() ? -1 : mark.size()), mark);
+        QVERIFY(window_->isVisible());
+        type(line_, "<Enter>");
+        QCOMPARE(pressed_, 0);
+    }
+
+private:
+    template <class Field>
+    Field* add(QVBoxLayout* column)
+    {
+        auto* field = new Field(window_.get());
+        column->addWidget(field);
+        return field;
+    }
+
+    Keys keys_;
+    std::unique_ptr<QDialog> window_;
+    QSpinBox* whole_ = nullptr;
+    QDoubleSpinBox* real_ = nullptr;
+    QDateTimeEdit* date_ = nullptr;
+    QLineEdit* line_ = nullptr;
+    int pressed_ = 0;
+};
+
+QTEST_MAIN(TypingTest)
+#include "tst_typing.moc"

@@ -1,0 +1,189 @@
+#include "typing/field_mark.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QPointer>
+#include <QStringList>
+#include <QVariant>
+
+#include <algorithm>
+#include <map>
+
+namespace vlk {
+
+namespace {
+
+constexpr int shapeSize = 10;
+constexpr int gap = 3; // between the shape and the caption
+constexpr const char* propertyName = "fieldMark";
+
+QColor colorOf(Mark mark, const QPalette& palette)
+{
+    const bool isDark = palette.color(QPalette::Window).lightness() < 128;
+    if (mark == Mark::advice)
+        return QColor(isDark ? 0xffbd59 : 0x8a5300);
+    return QColor(isDark ? 0xff9d94 : 0xb3261e);
+}
+
+// The frame round an invalid field.
+class Outline : public QWidget
+{
+public:
+    explicit Outline(QWidget* field) : QWidget(field)
+    {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        follow();
+    }
+    void follow()
+    {
+        setGeometry(parentWidget()->rect());
+        raise();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(colorOf(Mark::invalid, palette()), 2));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 2, 2);
+    }
+};
+
+// The shape beside the caption, and what the field is marked for.
+class FieldMark : public QWidget
+{
+public:
+    explicit FieldMark(QWidget* field)
+        : QWidget(field->parentWidget()), field_(field), ownToolTip_(field->toolTip()),
+          ownDescription_(field->accessibleDescription()), outline_(new Outline(field))
+    {
+        setObjectName(QStringLiteral("mark_") + field->objectName());
+        resize(shapeSize, shapeSize);
+        const auto labels = parentWidget()->findChildren<QLabel*>();
+        const auto caption = std::find_if(labels.begin(), labels.end(),
+                                          [field](const QLabel* label) { return label->buddy() == field; });
+        if (caption != labels.end())
+            caption_ = *caption;
+        field->installEventFilter(this);
+        if (caption_)
+            caption_->installEventFilter(this);
+        connect(field, &QObject::destroyed, this, &QObject::deleteLater);
+    }
+
+    void set(MarkReason reason, Mark mark, const QString& text)
+    {
+        if (text.isEmpty())
+            reasons_.erase(reason);
+        else
+            reasons_[reason] = {mark, text};
+        tell();
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        switch (event->type()) {
+        case QEvent::Move:
+        case QEvent::Resize:
+        case QEvent::Show:
+        case QEvent::Hide:
+        case QEvent::ZOrderChange:
+            place();
+            break;
+        default:
+            break;
+        }
+        return QWidget::eventFilter(watched, event);
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(colorOf(worst(), palette()));
+        const QColor inside = palette().color(QPalette::Window);
+        if (worst() == Mark::advice) {
+            painter.drawPolygon(QPolygonF({{5, 0}, {10, 10}, {0, 10}}));
+            painter.setPen(QPen(inside, 1.4, Qt::SolidLine, Qt::RoundCap));
+            painter.drawLine(QPointF(5, 3.6), QPointF(5, 6.2));
+            painter.drawPoint(QPointF(5, 8.4));
+            return;
+        }
+        painter.drawEllipse(QRectF(0, 0, shapeSize, shapeSize));
+        painter.setPen(QPen(inside, 1.6, Qt::SolidLine, Qt::RoundCap));
+        painter.drawLine(QPointF(3.2, 3.2), QPointF(6.8, 6.8));
+        painter.drawLine(QPointF(6.8, 3.2), QPointF(3.2, 6.8));
+    }
+
+private:
+    struct Told
+    {
+        Mark mark;
+        QString text;
+    };
+
+    Mark worst() const
+    {
+        Mark worst = Mark::advice;
+        for (const auto& [reason, told] : reasons_)
+            worst = std::max(worst, told.mark);
+        return worst;
+    }
+
+    void tell()
+    {
+        QStringList texts;
+        for (const auto& [reason, told] : reasons_)
+            texts << told.text;
+        const QString text = texts.join(QLatin1Char('\n'));
+        setToolTip(text);
+        field_->setAccessibleDescription(text.isEmpty() ? ownDescription_ : text);
+        if (!text.isEmpty() && !ownToolTip_.isEmpty())
+            texts << ownToolTip_;
+        field_->setToolTip(text.isEmpty() ? ownToolTip_ : texts.join(QLatin1Char('\n')));
+        place();
+        update();
+    }
+
+    void place()
+    {
+        const bool isShown = !reasons_.empty() && !field_->isHidden();
+        QRect beside = field_->geometry();
+        QPoint corner = beside.topLeft() + QPoint(1, 1);
+        if (caption_ && !caption_->isHidden()) {
+            const QPoint left = caption_->mapTo(parentWidget(), QPoint(0, 0));
+            if (left.x() >= shapeSize + gap)
+                corner = left + QPoint(-shapeSize - gap, (caption_->height() - shapeSize) / 2);
+        }
+        move(corner);
+        setVisible(isShown);
+        raise();
+        outline_->setVisible(isShown && worst() == Mark::invalid);
+        outline_->follow();
+    }
+
+    QWidget* field_;
+    QPointer<QLabel> caption_;
+    const QString ownToolTip_;
+    const QString ownDescription_;
+    Outline* outline_;
+    std::map<MarkReason, Told> reasons_;
+};
+
+} // namespace
+
+void markField(QWidget* field, MarkReason reason, Mark mark, const QString& text)
+{
+    auto* shape = static_cast<FieldMark*>(field->property(propertyName).value<QWidget*>());
+    if (!shape && !text.isEmpty() && field->parentWidget()) {
+        shape = new FieldMark(field);
+        field->setProperty(propertyName, QVariant::fromValue<QWidget*>(shape));
+    }
+    if (shape)
+        shape->set(reason, mark, text);
+}
+
+} // namespace vlk

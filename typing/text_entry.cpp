@@ -1,0 +1,128 @@
+#include "typing/text_entry.h"
+
+#include "typing/field_mark.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QValidator>
+
+#include <algorithm>
+
+namespace vlk {
+
+namespace {
+// Longer texts than this are limited by no line.
+constexpr int longest = 1024;
+} // namespace
+
+TextEntry* TextEntry::join(QLineEdit* line)
+{
+    auto* known = line->findChild<TextEntry*>(QString(), Qt::FindDirectChildrenOnly);
+    return known ? known : new TextEntry(line);
+}
+
+TextEntry::TextEntry(QLineEdit* line) : QObject(line), line_(line), before_(line->text())
+{
+    line->installEventFilter(this);
+    connect(line, &QLineEdit::inputRejected, this, &TextEntry::rejected);
+    connect(line, &QLineEdit::textChanged, this, [this] {
+        // A text that was set is no one's typing.
+        if (!line_->isModified())
+            before_ = line_->text();
+        tell({});
+        mark();
+    });
+}
+
+void TextEntry::doubt(std::function<QString(const QString&)> complaint)
+{
+    complaint_ = std::move(complaint);
+    mark();
+}
+
+void TextEntry::mark()
+{
+    const QString complaint = complaint_ ? complaint_(line_->text()) : QString();
+    if (isDoubted_ || !complaint.isEmpty())
+        markField(line_, MarkReason::value, Mark::invalid, complaint);
+    isDoubted_ = !complaint.isEmpty();
+}
+
+void TextEntry::tell(const QString& text)
+{
+    if (isMarked_ || !text.isEmpty())
+        markField(line_, MarkReason::typing, Mark::invalid, text);
+    isMarked_ = !text.isEmpty();
+}
+
+int TextEntry::room() const
+{
+    QString probe;
+    int place = 0;
+    const int most = std::min(line_->maxLength(), longest);
+    while (probe.size() < most) {
+        QString longer = probe + QLatin1Char('0');
+        if (line_->validator() && line_->validator()->validate(longer, place) == QValidator::Invalid)
+            break;
+        probe = longer;
+    }
+    return probe.size();
+}
+
+// A line drops what does not fit without a word.
+void TextEntry::rejected()
+{
+    const int fit = room();
+    const int wanted = line_->text().size() - line_->selectedText().size() + std::max(1, typed_.size());
+    const bool isTooLong = line_->inputMask().isEmpty() && wanted > fit;
+    tell(isTooLong ? QCoreApplication::translate("vlk", "typed_long").arg(fit)
+                   : QCoreApplication::translate("vlk", "typed_sign"));
+}
+
+bool TextEntry::keyPressed(QKeyEvent* event)
+{
+    typed_ = event->matches(QKeySequence::Paste) ? QApplication::clipboard()->text() : event->text();
+    switch (event->key()) {
+    case Qt::Key_Escape:
+        tell({});
+        if (line_->isReadOnly() || line_->text() == before_)
+            return false;
+        line_->setText(before_);
+        event->accept();
+        return true;
+    case Qt::Key_Enter:
+    case Qt::Key_Return:
+        before_ = line_->text();
+        line_->event(event);
+        event->accept();
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool TextEntry::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::FocusIn:
+        if (const auto reason = static_cast<QFocusEvent*>(event)->reason();
+            reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
+            before_ = line_->text();
+        break;
+    case QEvent::ShortcutOverride:
+        if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape && line_->text() != before_) {
+            event->accept();
+            return true;
+        }
+        break;
+    case QEvent::KeyPress:
+        return keyPressed(static_cast<QKeyEvent*>(event));
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace vlk

@@ -1,0 +1,47 @@
+#pragma once
+
+// Typing a text into a line. Signs that do not fit, or are more than fit, are told at the field; Esc gives
+// back the text that stood there when the field was entered, and Enter presses no button of the window.
+
+#include <QObject>
+#include <QString>
+
+#include <functional>
+
+class QKeyEvent;
+class QLineEdit;
+
+namespace vlk {
+
+class TextEntry : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Joins it to a line, once.
+    static TextEntry* join(QLineEdit* line);
+
+    // Says what is wrong with a text that is taken all the same, with an empty text if nothing is.
+    void doubt(std::function<QString(const QString&)> complaint);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    explicit TextEntry(QLineEdit* line);
+
+    bool keyPressed(QKeyEvent* event);
+    void rejected();
+    // How many characters fit, as far as the line limits them.
+    int room() const;
+    void mark();
+    void tell(const QString& text);
+
+    QLineEdit* line_;
+    QString before_;
+    bool isMarked_ = false;  // for what was typed
+    bool isDoubted_ = false; // for what stands there
+    QString typed_;          // that comes with the key being pressed
+    std::function<QString(const QString&)> complaint_;
+};
+
+} // namespace vlk

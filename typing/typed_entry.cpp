@@ -1,0 +1,148 @@
+#include "typing/typed_entry.h"
+
+#include <QAbstractSpinBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+#include <utility>
+
+namespace vlk {
+
+TypedEntry* TypedEntry::of(const QWidget* box)
+{
+    return box ? box->findChild<TypedEntry*>(QString(), Qt::FindDirectChildrenOnly) : nullptr;
+}
+
+void TypedEntry::finishIn(const QWidget* window)
+{
+    const auto entries = window->findChildren<TypedEntry*>();
+    for (TypedEntry* entry : entries)
+        entry->finish();
+}
+
+TypedEntry::TypedEntry(QAbstractSpinBox* box) : QObject(box), box_(box), line_(box->findChild<QLineEdit*>())
+{
+    box->installEventFilter(this);
+}
+
+QString TypedEntry::typed() const
+{
+    return line_->text();
+}
+
+void TypedEntry::typedOn()
+{
+    typing_ = true;
+    news_.clear();
+    mark(Mark::invalid, complaint(typed()));
+}
+
+void TypedEntry::mark(Mark mark, const QString& text)
+{
+    if (isMarked_ || !text.isEmpty())
+        markField(box_, MarkReason::typing, mark, text);
+    isMarked_ = !text.isEmpty();
+}
+
+void TypedEntry::finish()
+{
+    if (!typing_)
+        return;
+    typing_ = false;
+    taking_ = true;
+    const std::optional<News> news = take(typed());
+    restore();
+    taking_ = false;
+    news_ = news ? news->text : QString();
+    mark(news ? news->mark : Mark::advice, news_);
+}
+
+void TypedEntry::giveUp()
+{
+    if (typing_)
+        restore();
+    typing_ = false;
+    news_.clear();
+    mark(Mark::advice, {});
+}
+
+QString TypedEntry::takeNews()
+{
+    return std::exchange(news_, {});
+}
+
+void TypedEntry::valueChanged()
+{
+    if (!taking_)
+        giveUp();
+}
+
+// Whether this event was all that the box has to see of it.
+bool TypedEntry::ends(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::FocusOut:
+        // Behind the menu of the field itself typing goes on.
+        if (static_cast<QFocusEvent*>(event)->reason() == Qt::PopupFocusReason)
+            return typing_;
+        finish();
+        return false;
+    case QEvent::Hide:
+    case QEvent::Close:
+    case QEvent::MouseButtonPress:
+        finish();
+        return false;
+    case QEvent::Wheel:
+        if (box_->hasFocus())
+            finish();
+        return false;
+    case QEvent::LocaleChange:
+        giveUp();
+        restore();
+        return false;
+    default:
+        return false;
+    }
+}
+
+bool TypedEntry::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride && typing_ &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        event->accept();
+        return true;
+    }
+    if (event->type() != QEvent::KeyPress)
+        return ends(event) || QObject::eventFilter(watched, event);
+    auto* const key = static_cast<QKeyEvent*>(event);
+    switch (key->key()) {
+    case Qt::Key_Escape:
+        if (!typing_)
+            return false;
+        giveUp();
+        box_->selectAll();
+        key->accept();
+        return true;
+    case Qt::Key_Enter:
+    case Qt::Key_Return:
+        // The box tells of it and leaves the key to the window, which would press its button.
+        finish();
+        taking_ = true;
+        box_->event(key);
+        taking_ = false;
+        key->accept();
+        return true;
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        finish();
+        return false;
+    default:
+        return !box_->isReadOnly() && keyPressed(key);
+    }
+}
+
+} // namespace vlk
