@@ -1672,6 +1672,7 @@
     <message id="tmizta_366"><translation>Motion</translation></message>
     <message id="tmizta_367"><translation>Towing</translation></message>
     <message id="tmizta_368"><translation>Collision</translation></message>
+    <message id="typed_beside"><translation>&quot;%1&quot; does not fit beside the other values. %2 was taken.</translation></message>
     <message id="typed_date"><translation>&quot;%1&quot; is no date and time such as %2. The value before it stands.</translation></message>
     <message id="typed_date_range"><translation>&quot;%1&quot; is beyond what fits here. %2, the nearest, was taken.</translation></message>
     <message id="typed_decimals"><translation>&quot;%1&quot; has more than %2 decimals. The value before it stands.</translation></message>

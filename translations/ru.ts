@@ -1672,6 +1672,7 @@
     <message id="tmizta_366"><translation>Движение</translation></message>
     <message id="tmizta_367"><translation>Буксировка</translation></message>
     <message id="tmizta_368"><translation>Столкновение</translation></message>
+    <message id="typed_beside"><translation>«%1» не сочетается с другими значениями. Взято: %2.</translation></message>
     <message id="typed_date"><translation>«%1» — не дата и время вида %2. Осталось прежнее значение.</translation></message>
     <message id="typed_date_range"><translation>«%1» вне диапазона. Взято ближайшее: %2.</translation></message>
     <message id="typed_decimals"><translation>В числе «%1» больше знаков после запятой, чем %2. Осталось прежнее значение.</translation></message>

@@ -181,6 +181,9 @@ std::optional<TypedEntry::News> NumberEntry::take(const QString& typed)
         real_->setValue(taken);
     else
         whole_->setValue(static_cast<int>(taken));
+    const double held = real_ ? real_->value() : whole_->value();
+    if (spelled(held) != spelled(taken))
+        return News{Mark::advice, translated("typed_beside").arg(typed.trimmed(), spelled(held) + suffix())};
     if (taken == *reading.number)
         return {};
     return News{Mark::advice, translated("typed_range")

@@ -90,6 +90,11 @@ std::vector<Typed> periodsFor(const vlk::Setting& setting)
     return all;
 }
 
+std::vector<Typed> codesForCell()
+{
+    return {{"25001", "25001"}, {"2.5", "0"}, {"2,5", "0"}, {"abc", "0"}};
+}
+
 std::vector<Typed> textsFor(const vlk::Setting& setting)
 {
     if (setting.inputMask)
@@ -97,7 +102,7 @@ std::vector<Typed> textsFor(const vlk::Setting& setting)
     const QString pattern = QString::fromLatin1(setting.pattern ? setting.pattern : "");
     if (pattern.contains("\\d"))
         return {{"12345", "12345"}};
-    return {{"aB1.x", "aB1.x"}, {QString::fromUtf8("Гр&<2>"), QString::fromUtf8("Гр&<2>").left(6)}};
+    return {{"aB1.x", "aB1.x"}, {QString::fromUtf8("Гр&\"2\""), QString::fromUtf8("Гр&\"2\"").left(6)}};
 }
 
 } // namespace
@@ -110,8 +115,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         device().initialize(nullptr);
-        for (const QString& language : kLanguages)
-            translator_[language].texts = readTexts(language);
+        QCoreApplication::installTranslator(&translator_);
     }
 
     void everyField_data()
@@ -128,9 +132,10 @@ private Q_SLOTS:
         QFETCH(QString, language);
         QFETCH(bool, isFull);
         QLocale::setDefault(QLocale(language));
-        QCoreApplication::installTranslator(&translator_[language]);
+        translator_.texts = readTexts(language);
         sign_ = QLatin1Char(language == "ru" ? '.' : ',');
         fields_ = 0;
+        wrong_.clear();
         std::unique_ptr<QWidget> window;
         if (isFull) {
             auto full = std::make_unique<VLK_Widget_Config_Full>();
@@ -143,10 +148,12 @@ private Q_SLOTS:
             typeInto(*quick);
             window = std::move(quick);
         }
-        QCoreApplication::removeTranslator(&translator_[language]);
-        QCOMPARE(wrong_.join('\n'), QString());
+        for (const QString& line : std::as_const(wrong_))
+            qInfo().noquote() << line;
+        QCOMPARE(wrong_.size(), 0);
         // Fewer would mean that the walk passes fields over.
-        QCOMPARE(fields_, isFull ? 1 : 2);
+        QVERIFY2(fields_ >= (isFull ? 1 : 2), qPrintable(QString::number(fields_)));
+        qInfo() << fields_;
     }
 
 private:
@@ -176,12 +183,13 @@ private:
             if (fields.contains(nullptr) || !core.isWritten(index) || isReadOnly(fields[0]))
                 continue;
             ++fields_;
-            const auto samples = isNumber   ? numbersFor(setting, core.limits(index), sign_)
-                                 : isPeriod ? periodsFor(setting)
-                                            : textsFor(setting);
+            const auto samples = setting.blankIsZero ? codesForCell()
+                                 : isNumber          ? numbersFor(setting, core.limits(index), sign_)
+                                 : isPeriod          ? periodsFor(setting)
+                                                     : textsFor(setting);
             for (std::size_t i = 0; i < samples.size(); ++i) {
                 load(page, core, file);
-                const QByteArray before = saved(core);
+                switchOn(settings, core, fields[0]);
                 if (samples[i].value)
                     core.edit(index, *samples[i].value);
                 const QByteArray expected = saved(core);
@@ -192,7 +200,10 @@ private:
                     typeInField(fields[part], setting, keys.at(part), end);
                 }
                 const QByteArray written = saved(page);
-                if (written != expected || (samples[i].value && core.value(index) != *samples[i].value))
+                // Of two values that keep a distance the range may leave less room than each has alone.
+                const bool isAsTyped = !samples[i].value || !core.row(index).distances.empty() ||
+                                       core.value(index) == *samples[i].value;
+                if (written != expected || !isAsTyped)
                     wrong_ << QString("%1: %2%3 gives\n%4\ninstead of\n%5")
                                   .arg(core.path(index), samples[i].keys, end, differing(written, expected),
                                        differing(expected, written));
@@ -208,7 +219,7 @@ private:
         if (core.row(index).free.row >= 0)
             values.append({core.layout(index).rows[core.row(index).free.row].filePath, "1"});
         if (setting.zeroIsOff)
-            values.append({core.row(index).filePath, vlk::fileNumber(setting, setting.least)});
+            values.append({core.row(index).filePath, vlk::fileNumber(setting, std::max(1.0, setting.least))});
         return documentWith(values);
     }
 
@@ -220,6 +231,25 @@ private:
         page.loadFromXml(in.root());
         core.reset();
         core.read(*in.root());
+    }
+
+    // Edits what a person would who wants the field enabled: it, and what it stands in.
+    static void switchOn(vlk::PageSettings& settings, vlk::Configuration& core, const QWidget* field)
+    {
+        const vlk::TableLayout& layout = vlk::layoutOf(settings.binder().table());
+        for (const QWidget* widget = field; widget; widget = widget->parentWidget()) {
+            for (const vlk::TableLayout::Enable& rule : layout.enables) {
+                if (!rule.targets.contains(widget->objectName()))
+                    continue;
+                for (const vlk::TableLayout::Condition& condition : rule.when) {
+                    if (condition.negated || core.holds(settings.binder().table(), rule))
+                        continue;
+                    const QString code = condition.codes.value(0, "1");
+                    settings.binder().set(condition.row, code);
+                    core.edit(condition.row, code);
+                }
+            }
+        }
     }
 
     template <class Page>
@@ -263,11 +293,15 @@ private:
             type(field, "<All>" + keys + end);
             return;
         }
-        QTreeWidgetItem* item = tree->topLevelItem(setting.number - 1);
-        tree->setCurrentItem(item, setting.column);
-        tree->editItem(item, setting.column);
+        const QModelIndex cell = tree->model()->index(setting.number - 1, setting.column);
+        tree->setCurrentIndex(cell);
+        QTest::keyClick(tree, Qt::Key_F2);
         auto* editor = tree->viewport()->findChild<QLineEdit*>();
         type(editor, "<All>" + keys + (end.isEmpty() ? QString("<Enter>") : end));
+        // The cell takes it when the key is through, and lets go of the editor then. Tab opens the next one.
+        QCoreApplication::processEvents();
+        tree->setCurrentIndex({});
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
     // The lines of one text that the other lacks.
@@ -282,7 +316,7 @@ private:
         return lines.join('\n');
     }
 
-    QMap<QString, TypedTexts> translator_;
+    TypedTexts translator_;
     QLatin1Char sign_{'.'};
     int fields_ = 0;
     QStringList wrong_;

@@ -13,6 +13,7 @@
 #include "windows/vlk_dblslider2.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QHash>
 #include <QLabel>
 #include <QLineEdit>
