@@ -2,6 +2,7 @@
 
 #include "link/requests.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vlk {
@@ -18,35 +19,78 @@ ConfigMonitor::ConfigMonitor(Window window, QObject* parent)
     : QObject(parent), window_(std::move(window)), timerAnalog_(this)
 {
     repeat_.setSingleShot(true);
+    repeat_.setInterval(pauseMs);
     connect(&repeat_, &QTimer::timeout, this, [this] {
-        if (connected_ && monitorStep_ == WaitingForCommand && window_.currentTab() == Tab::Accel)
+        if (repeatsCommand())
             sendCommand();
     });
 }
 
-void ConfigMonitor::startAccel(bool on, int periodMs)
+void ConfigMonitor::setConnected(bool connected)
 {
+    connected_ = connected;
+    if (connected)
+        return;
+    end();
+    commandsOnTheWay_ = 0;
+}
+
+bool ConfigMonitor::mayGoOn() const
+{
+    return connected_ && isOn() && window_.isActive() && window_.currentTab() == running_;
+}
+
+void ConfigMonitor::start(Tab kind, bool on, int periodMs)
+{
+    if (running_ != kind) {
+        if (!on)
+            return;
+        end();
+    }
     timerAnalog_.stop();
     monitorPeriodMs_ = periodMs;
-    monitorOn_ = on;
+    running_ = on ? kind : Tab::Other;
+    if (on)
+        commandGivenUp_ = false;
+}
+
+void ConfigMonitor::startAccel(bool on, int periodMs)
+{
+    start(Tab::Accel, on, periodMs);
     if (!on)
         return;
     awaitingAnswer_ = 1;
     monitorStep_ = Reading;
-    pollCurrentTab();
+    sendRequestOfTab();
 }
 
 void ConfigMonitor::startLines(bool on, const QByteArray& list, int periodMs)
 {
-    timerAnalog_.stop();
-    monitorPeriodMs_ = periodMs;
-    monitorOn_ = on;
+    start(Tab::InputLines, on, periodMs);
     monitorList_ = list;
     if (on)
-        requestLines(list);
+        sendLines(list);
 }
 
-void ConfigMonitor::pollCurrentTab()
+void ConfigMonitor::end()
+{
+    timerAnalog_.stop();
+    repeat_.stop();
+    awaitingAnswer_ = 0;
+    monitorStep_ = Idle;
+    commandGivenUp_ = commandGivenUp_ || commandsOnTheWay_ > 0;
+    if (const Tab ended = std::exchange(running_, Tab::Other); ended != Tab::Other)
+        window_.stopPage(ended);
+}
+
+// A request by hand on one tab tells that the user has left the other.
+void ConfigMonitor::endIfLeft()
+{
+    if (isOn() && window_.currentTab() != running_)
+        end();
+}
+
+void ConfigMonitor::sendRequestOfTab()
 {
     switch (window_.currentTab()) {
     case Tab::Accel:
@@ -63,16 +107,39 @@ void ConfigMonitor::pollCurrentTab()
     }
 }
 
+void ConfigMonitor::pollCurrentTab()
+{
+    endIfLeft();
+    sendRequestOfTab();
+}
+
+// By hand, or by the timer of the page whose monitor runs. That one ends here like at its own timeout, and
+// lets a command go first.
 void ConfigMonitor::requestAccel()
 {
-    if (window_.currentTab() == Tab::Accel)
+    if (running_ == Tab::Accel && !mayGoOn()) {
+        end();
+        return;
+    }
+    endIfLeft();
+    const bool isPaused = running_ == Tab::Accel && monitorStep_ == WaitingForCommand;
+    if (!isPaused && window_.currentTab() == Tab::Accel)
         requests::accel();
 }
 
 void ConfigMonitor::requestAccelResult()
 {
+    endIfLeft();
+    commandGivenUp_ = false;
     if (awaitingAnswer_ == 0)
         sendCommand();
+}
+
+// What was on its way when the monitor ended or the window was left is given up, and so is what would mix
+// with the other kind.
+bool ConfigMonitor::repeatsCommand() const
+{
+    return !commandGivenUp_ && window_.currentTab() != Tab::InputLines;
 }
 
 // The answer may come within the call and ask for the next command there: that one waits, since a host which
@@ -80,10 +147,12 @@ void ConfigMonitor::requestAccelResult()
 void ConfigMonitor::sendCommand()
 {
     timerAnalog_.stop();
+    repeat_.stop();
     if (sending_) {
-        repeat_.start(pauseMs);
+        repeat_.start();
         return;
     }
+    ++commandsOnTheWay_;
     sending_ = true;
     requests::accelCommand();
     sending_ = false;
@@ -91,20 +160,26 @@ void ConfigMonitor::sendCommand()
 
 void ConfigMonitor::requestLines(const QByteArray& list)
 {
+    endIfLeft();
+    sendLines(list);
+}
+
+void ConfigMonitor::sendLines(const QByteArray& list)
+{
     if (window_.currentTab() == Tab::InputLines)
         requests::lines(list);
 }
 
 void ConfigMonitor::linesAnswered()
 {
-    if (monitorOn_)
+    if (running_ == Tab::InputLines)
         timerAnalog_.start(monitorPeriodMs_);
 }
 
 void ConfigMonitor::accelAnswered()
 {
     awaitingAnswer_ = 0;
-    if (!connected_ || !monitorOn_ || window_.currentTab() != Tab::Accel)
+    if (!connected_ || running_ != Tab::Accel || window_.currentTab() != Tab::Accel)
         return;
     if (monitorStep_ == WaitingForCommand)
         requestAccelResult();
@@ -116,33 +191,31 @@ void ConfigMonitor::accelCommandAnswered(int status)
 {
     awaitingAnswer_ = 0;
     monitorStep_ = Idle;
-    if (status != commandDone && status != commandDoneAlso) {
-        // The step is set first: the answer may come before the request returns.
-        monitorStep_ = WaitingForCommand;
-        sendCommand();
+    if (status == commandDone || status == commandDoneAlso) {
+        commandsOnTheWay_ = 0;
+        repeat_.stop();
+        window_.clearAccelDisplay();
+        if (running_ == Tab::Accel && !timerAnalog_.isActive())
+            timerAnalog_.start(monitorPeriodMs_);
         return;
     }
-    window_.clearAccelDisplay();
-    if (monitorOn_ && !timerAnalog_.isActive())
-        timerAnalog_.start(monitorPeriodMs_);
+    commandsOnTheWay_ = std::max(commandsOnTheWay_ - 1, 0);
+    if (!repeatsCommand())
+        return;
+    // The step is set first: the answer may come before the request returns.
+    monitorStep_ = WaitingForCommand;
+    // While another one is on its way, that is the repetition.
+    if (commandsOnTheWay_ == 0)
+        sendCommand();
 }
 
 void ConfigMonitor::timeout()
 {
     timerAnalog_.stop();
-    const Tab tab = window_.currentTab();
-    if (connected_ && monitorOn_ && window_.isActive() && (tab == Tab::Accel || tab == Tab::InputLines))
-        requestLines(monitorList_);
-    else
+    if (!mayGoOn())
         end();
-}
-
-void ConfigMonitor::end()
-{
-    awaitingAnswer_ = 0;
-    monitorStep_ = Idle;
-    monitorOn_ = false;
-    window_.stopPages();
+    else if (running_ == Tab::InputLines)
+        sendLines(monitorList_);
 }
 
 } // namespace vlk

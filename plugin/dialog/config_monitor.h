@@ -2,7 +2,10 @@
 
 // Polls the tracker while a page with live values is on top. It sends the request of the tab that is current
 // and goes on only when an answer has come, so that an answer that never comes just stops it. One kind of
-// monitor runs at a time: the accelerometer's or the input lines'.
+// monitor runs at a time: the accelerometer's or the input lines'. It ends, and its page with it, when
+// something is due while another tab is current or the user does not work in its window.
+//
+// A command to the accelerometer that the tracker refuses is sent again until it is carried out.
 
 #include <QByteArray>
 #include <QObject>
@@ -24,16 +27,18 @@ public:
     {
         std::function<Tab()> currentTab;
         std::function<bool()> isActive;
-        std::function<void()> stopPages;         // the pages show that monitoring has ended
+        std::function<void(Tab)> stopPage;       // the page shows that its monitor has ended
         std::function<void()> clearAccelDisplay; // an accelerometer command was carried out
     };
 
     explicit ConfigMonitor(Window window, QObject* parent = nullptr);
 
-    void setConnected(bool connected) { connected_ = connected; }
+    void setConnected(bool connected);
 
     void startAccel(bool on, int periodMs);
     void startLines(bool on, const QByteArray& list, int periodMs);
+    // Whatever runs; its page is told.
+    void end();
 
     // One request of the current tab, as a page asks for it.
     void pollCurrentTab();
@@ -51,23 +56,30 @@ public:
     void timeout();
 
     QTimer* timer() { return &timerAnalog_; }
-    bool isOn() const { return monitorOn_; }
+    bool isOn() const { return running_ != Tab::Other; }
 
 private:
     enum Step { Idle = 0, Reading = 1, WaitingForCommand = 2 };
 
+    bool mayGoOn() const;
+    void start(Tab kind, bool on, int periodMs);
+    void endIfLeft();
+    void sendRequestOfTab();
+    void sendLines(const QByteArray& list);
+    bool repeatsCommand() const;
     void sendCommand();
-    void end();
 
     Window window_;
+    Tab running_ = Tab::Other; // whose monitor runs
     QByteArray monitorList_;
     int awaitingAnswer_ = 0;
     int monitorStep_ = Idle;
     QTimer timerAnalog_;
     QTimer repeat_;
+    int commandsOnTheWay_ = 0;
     bool sending_ = false;
+    bool commandGivenUp_ = false;
     int monitorPeriodMs_ = 3000;
-    bool monitorOn_ = false;
     bool connected_ = false;
 };
 

@@ -9,7 +9,8 @@ namespace vlk {
 PageServices::PageServices(QWidget* parent)
     : VLK_Wnd_Config_Full(parent), pages_(std::make_unique<ConfigPages>()),
       answers_(
-          *pages_, [this] { return navigation_->current(); }, [this] { return isActiveWindow(); })
+          *pages_, [this] { return navigation_->current(); },
+          [this] { return isVisible() && isActiveWindow(); })
 {
     vlkConfigFull = this;
 }
@@ -18,6 +19,13 @@ PageServices::~PageServices()
 {
     if (vlkConfigFull == this)
         vlkConfigFull = nullptr;
+}
+
+// By the quick window on top of it, too.
+void PageServices::hideEvent(QHideEvent* event)
+{
+    VLK_Wnd_Config_Full::hideEvent(event);
+    answers_.monitor().end();
 }
 
 QString PageServices::userParamCode(const QString& text)

@@ -46,6 +46,8 @@ public:
     void deleteUserParam(const QString& code, const QString& name, const QString& third, int size) override;
 
 protected:
+    void hideEvent(QHideEvent* event) override;
+
     std::unique_ptr<ConfigPages> pages_;
     TabNavigation* navigation_ = nullptr; // made by the window, with its buttons
     TrackerAnswers answers_;

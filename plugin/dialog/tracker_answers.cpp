@@ -11,9 +11,11 @@ TrackerAnswers::TrackerAnswers(const ConfigPages& pages, std::function<int()> cu
                                std::function<bool()> isActive)
     : pages_(pages), currentTab_(std::move(currentTab)),
       monitor_({[this] { return liveTab(); }, std::move(isActive),
-                [this] {
-                    pages_.forEach([](ShowsAccel auto& page) { page.stopAuto(); });
-                    pages_.forEach([](ShowsLines auto& page) { page.stopAuto(); });
+                [this](ConfigMonitor::Tab kind) {
+                    if (kind == ConfigMonitor::Tab::Accel)
+                        pages_.forEach([](ShowsAccel auto& page) { page.stopAuto(); });
+                    else
+                        pages_.forEach([](ShowsLines auto& page) { page.stopAuto(); });
                 },
                 [this] { pages_.forEach([](ShowsAccel auto& page) { page.clearPresentValues(); }); }})
 {

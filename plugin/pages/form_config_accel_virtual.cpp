@@ -243,8 +243,8 @@ void VLK_Form_Config_Accel_Virtual::slot_stateChanged_checkBox_Auto(int state)
         vlkConfigFull->startAccelMonitor(monitoring_, period);
 }
 
-// A period after the last answer, or after the last request if none came; nothing goes out while another tab
-// is current.
+// A period after the last answer, or after the last request if none came. The window sends it, or ends the
+// monitor.
 void VLK_Form_Config_Accel_Virtual::slot_timeOut_Query()
 {
     if (vlkConfigFull)
@@ -263,12 +263,4 @@ void VLK_Form_Config_Accel_Virtual::slot_pressed_pushButton_Reset()
 {
     if (vlkConfigFull)
         vlkConfigFull->requestAccelResult();
-}
-
-void VLK_Form_Config_Accel_Virtual::hideEvent(QHideEvent* event)
-{
-    QWidget::hideEvent(event);
-    // Another tab hides the page too; then the window is still there.
-    if (!window()->isVisible())
-        stopAuto();
 }

@@ -56,9 +56,6 @@ public Q_SLOTS:
     void slot_pressed_pushButton_Reset();
     void slot_timeOut_Query();
 
-protected:
-    void hideEvent(QHideEvent* event) override;
-
 private:
     struct Sensor
     {

@@ -40,7 +40,7 @@ public:
     // The element of the type, whichever type the sensor has; `bluetooth` is the section.
     void load(CXmlSection* bluetooth);
     void save(CXmlSection* bluetooth) const;
-    void setDefaults();
+    virtual void setDefaults();
 
     // Makes the widgets, once.
     void make();

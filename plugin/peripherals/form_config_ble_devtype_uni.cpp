@@ -191,6 +191,24 @@ void VLK_Form_Config_Ble_DevType_Uni::makeWidgets()
     layout->addStretch();
 }
 
+void VLK_Form_Config_Ble_DevType_Uni::setDefaults()
+{
+    BleSensorForm::setDefaults();
+    clearTests();
+}
+
+// Their labels follow them.
+void VLK_Form_Config_Ble_DevType_Uni::clearTests()
+{
+    for (const Table& table : kTables) {
+        if (!isMade() || !table.result)
+            continue;
+        const auto* box = findChild<QGroupBox*>(QString::fromLatin1(table.group));
+        for (QCheckBox* use : box->findChildren<QCheckBox*>())
+            use->setChecked(false);
+    }
+}
+
 // The heads of the columns stand for the texts of the boxes below them; screen readers get the row too.
 void VLK_Form_Config_Ble_DevType_Uni::retranslate()
 {

@@ -23,6 +23,9 @@ public:
 
     // The name of the parameter with a key such as "up7", empty for one that no row offers.
     QString keyToDisplay(const QString& key) const;
+    void setDefaults() override;
+    // Unchecks the boxes of the check against an example message.
+    void clearTests();
     void retranslate() override;
     void tellChanges() override;
 

@@ -86,6 +86,7 @@ void VLK_Form_Config_Bluetooth::retranslate()
 void VLK_Form_Config_Bluetooth::setDefaults()
 {
     settings_.setDefaults();
+    sensors_->clearTests();
     clearList();
     ui_->comboBox_Bt_Device->setCurrentIndex(sensors);
     slot_currentIndexChanged_BtDevice(tr(kKinds[sensors]));
@@ -140,15 +141,16 @@ void VLK_Form_Config_Bluetooth::endSearch(bool canAdd)
     ui_->pushButton_Bt_Cancel->setEnabled(false);
 }
 
+// The host may answer before the request returns, so it goes out last; the same in Cancel.
 void VLK_Form_Config_Bluetooth::slot_pressed_Btn_Bt_Find()
 {
-    if (vlkConfigFull)
-        vlkConfigFull->startBtSearch();
     clearList();
     ui_->label_Message->clear();
     ui_->pushButton_Bt_Find->setEnabled(false);
     ui_->pushButton_Bt_Add->setEnabled(false);
     ui_->pushButton_Bt_Cancel->setEnabled(true);
+    if (vlkConfigFull)
+        vlkConfigFull->startBtSearch();
 }
 
 void VLK_Form_Config_Bluetooth::onSearchEvent(uchar event)
@@ -204,9 +206,9 @@ void VLK_Form_Config_Bluetooth::onDeviceFound(const vlk::BtDevice& device)
 void VLK_Form_Config_Bluetooth::slot_pressed_Btn_Bt_Cancel()
 {
     ui_->label_Message->setText(QStringLiteral("%1...").arg(tr("cfgt17_017")));
+    ui_->pushButton_Bt_Cancel->setEnabled(false);
     if (vlkConfigFull)
         vlkConfigFull->cancelBtSearch();
-    ui_->pushButton_Bt_Cancel->setEnabled(false);
 }
 
 void VLK_Form_Config_Bluetooth::slot_pressed_Btn_Bt_Add()

@@ -130,6 +130,23 @@ QString VLK_Form_Config_Bluetooth_Device::displayToKey(const QString& text) cons
     return {};
 }
 
+void VLK_Form_Config_Bluetooth_Device::clearTests()
+{
+    for (const Sensor& sensor : sensors_)
+        sensor.type->clearTests();
+}
+
+// A text that no type has stands for none.
+void VLK_Form_Config_Bluetooth_Device::selectType(int sensor, const QString& text)
+{
+    int number = 0;
+    for (const vlk::BluetoothSensorType& known : vlk::kBluetoothSensorTypes) {
+        if (known.text && text == tr(known.text))
+            number = QByteArray(known.code).toInt();
+    }
+    type(sensor)->selectType(number);
+}
+
 void VLK_Form_Config_Bluetooth_Device::slot_EnabledSensorName(int sensor, bool on)
 {
     sensors_[sensor - 1].name->setEnabled(on);

@@ -37,8 +37,15 @@ public:
     // The first sensor that knows the user parameter.
     QString keyToDisplay(const QString& key) const;
     QString displayToKey(const QString& text) const;
+    // Of the universal sensors; the settings do not hold them.
+    void clearTests();
 
 public Q_SLOTS:
+    // Shows the form of the type with this text, whether the list offers it or not.
+    void slot_currentIndexChanged_Type_Sensor_1(const QString& text) { selectType(1, text); }
+    void slot_currentIndexChanged_Type_Sensor_2(const QString& text) { selectType(2, text); }
+    void slot_currentIndexChanged_Type_Sensor_3(const QString& text) { selectType(3, text); }
+    void slot_currentIndexChanged_Type_Sensor_4(const QString& text) { selectType(4, text); }
     void slot_EnabledSensorName(int sensor, bool on);
     // The tab of user parameters is not on this tracker: the offers of the sensors end here.
     void slot_UserParam_Add(const QString&, const QString&, const QString&, int) {}
@@ -55,6 +62,7 @@ private:
     };
 
     Sensor makeSensor(int number);
+    void selectType(int sensor, const QString& text);
     void tellChanges();
 
     vlk::PageSettings& settings_;

@@ -217,6 +217,11 @@ void VLK_Form_Config_Bluetooth_Device_Type::resetForms()
         form->setDefaults();
 }
 
+void VLK_Form_Config_Bluetooth_Device_Type::clearTests()
+{
+    universal_->clearTests();
+}
+
 void VLK_Form_Config_Bluetooth_Device_Type::retranslate()
 {
     params_ = std::make_unique<VLK_UserParams>();

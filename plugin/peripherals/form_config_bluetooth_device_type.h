@@ -39,6 +39,7 @@ public:
     void loadForm(int type, CXmlSection* bluetooth);
     void saveForm(int type, CXmlSection* bluetooth) const;
     void resetForms();
+    void clearTests();
     void retranslate();
     // Follows the settings after an edit, a load or a reset.
     void tellChanges();

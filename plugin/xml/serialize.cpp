@@ -1,7 +1,7 @@
 #include "xml/serialize.h"
 
+#include "base/replace_file.h"
 #include "base/windows1251.h"
-#include "xml/replace_file.h"
 #include "xml/xml_handler.h"
 #include "xml/xml_log.h"
 #include "xml/xml_writer.h"

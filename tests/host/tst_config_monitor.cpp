@@ -10,6 +10,10 @@ using vlk::ConfigMonitor;
 using vlk::Message;
 using Tab = ConfigMonitor::Tab;
 
+using Action = std::function<void()>;
+Q_DECLARE_METATYPE(Action)
+Q_DECLARE_METATYPE(Message)
+
 namespace {
 QVector<Message> sent;
 QByteArray sentList;
@@ -37,10 +41,11 @@ private Q_SLOTS:
         tab_ = Tab::InputLines;
         active_ = true;
         answerWithinTheCall = nullptr;
-        stopped_ = cleared_ = 0;
+        stopped_.clear();
+        cleared_ = 0;
         monitor_ = std::make_unique<ConfigMonitor>(
-            ConfigMonitor::Window{[this] { return tab_; }, [this] { return active_; }, [this] { ++stopped_; },
-                                  [this] { ++cleared_; }});
+            ConfigMonitor::Window{[this] { return tab_; }, [this] { return active_; },
+                                  [this](Tab kind) { stopped_ << kind; }, [this] { ++cleared_; }});
         monitor_->setConnected(true);
         take();
     }
@@ -178,9 +183,133 @@ private Q_SLOTS:
         monitor_->timeout();
         QCOMPARE(take(), QVector<Message>{});
         QVERIFY(!monitor_->isOn());
-        QCOMPARE(stopped_, 1);
+        QCOMPARE(stopped_, QVector<Tab>{Tab::InputLines});
         monitor_->linesAnswered();
         QVERIFY(!monitor_->timer()->isActive());
+    }
+
+    // By the timeout, by a request of the other page, or by its monitor.
+    void endsOnTheTabOfTheOtherKind_data()
+    {
+        const int lines = int(Tab::InputLines);
+        const int accel = int(Tab::Accel);
+        DataTable<int, int, Action, QVector<Message>>({"from", "to", "act", "requests"})
+            .row("to accel, timeout", lines, accel, [this] { monitor_->timeout(); }, {})
+            .row("to lines, timeout", accel, lines, [this] { monitor_->timeout(); }, {})
+            .row("to lines, its page's timer", accel, lines, [this] { monitor_->requestAccel(); }, {})
+            .row("to accel, by hand", lines, accel, [this] { monitor_->requestAccel(); },
+                 {Message::RequestAccel})
+            .row("to lines, by hand", accel, lines, [this] { monitor_->requestLines("21"); },
+                 {Message::RequestLines})
+            .row("to accel, command", lines, accel, [this] { monitor_->requestAccelResult(); },
+                 {Message::RequestAccelCommand})
+            .row("to accel, monitor", lines, accel, [this] { monitor_->startAccel(true, 5000); },
+                 {Message::RequestAccel})
+            .row("to lines, monitor", accel, lines, [this] { monitor_->startLines(true, "21", 5000); },
+                 {Message::RequestLines});
+    }
+    void endsOnTheTabOfTheOtherKind()
+    {
+        QFETCH(int, from);
+        QFETCH(int, to);
+        QFETCH(Action, act);
+        QFETCH(QVector<Message>, requests);
+        tab_ = static_cast<Tab>(from);
+        if (tab_ == Tab::Accel) {
+            monitor_->startAccel(true, 5000);
+            monitor_->accelAnswered();
+        } else {
+            monitor_->startLines(true, "21", 5000);
+            monitor_->linesAnswered();
+        }
+        take();
+        tab_ = static_cast<Tab>(to);
+        act();
+        QCOMPARE(take(), requests);
+        QCOMPARE(stopped_, QVector<Tab>{static_cast<Tab>(from)});
+        // Answers that come late start nothing, nor does the end of the page that was left.
+        const bool goesOn = monitor_->isOn();
+        if (tab_ == Tab::Accel) {
+            monitor_->linesAnswered();
+            monitor_->startLines(false, "21", 0);
+        } else {
+            monitor_->accelAnswered();
+            monitor_->startAccel(false, 0);
+        }
+        QVERIFY(!monitor_->timer()->isActive());
+        QCOMPARE(monitor_->isOn(), goesOn);
+    }
+
+    // Its page's timer runs out before the monitor's.
+    void accelSendsNothingFromAWindowThatIsNotActive()
+    {
+        tab_ = Tab::Accel;
+        answerWithinTheCall = [this] { monitor_->accelAnswered(); };
+        monitor_->startAccel(true, 5000);
+        monitor_->requestAccel();
+        QCOMPARE(take().size(), 2);
+        active_ = false;
+        monitor_->requestAccel();
+        QCOMPARE(take(), QVector<Message>{});
+        QCOMPARE(stopped_, QVector<Tab>{Tab::Accel});
+        QVERIFY(!monitor_->timer()->isActive());
+    }
+
+    // Two presses, or values that were asked for before, bring a second command; its refusal repeats nothing.
+    void refusalsRepeatInOneChain()
+    {
+        tab_ = Tab::Accel;
+        monitor_->startAccel(true, 5000);
+        monitor_->accelAnswered();
+        monitor_->requestAccelResult();
+        monitor_->requestAccelResult();
+        take();
+        for (const int sentThen : {0, 1, 1}) {
+            monitor_->accelCommandAnswered(0);
+            QCOMPARE(take().size(), sentThen);
+        }
+        // Values wait until the command is done.
+        monitor_->requestAccel();
+        QCOMPARE(take(), QVector<Message>{});
+        monitor_->accelAnswered();
+        QCOMPARE(take().size(), 1);
+        for (const int sentThen : {0, 1}) {
+            monitor_->accelCommandAnswered(0);
+            QCOMPARE(take().size(), sentThen);
+        }
+        monitor_->accelCommandAnswered(1);
+        monitor_->requestAccel();
+        QCOMPARE(take(), QVector<Message>{Message::RequestAccel});
+    }
+
+    void refusalIsNotRepeatedWhereTheUserHasLeft_data()
+    {
+        const Action otherTab = [this] { tab_ = Tab::InputLines; };
+        const Action end = [this] { monitor_->end(); };
+        const Action detach = [this] { monitor_->setConnected(false); };
+        DataTable<Action, bool>({"leave", "refusedAtOnce"})
+            .row("other tab", otherTab, false)
+            .row("window", end, false)
+            .row("tracker", detach, false)
+            .row("other tab, repetition due", otherTab, true)
+            .row("window, repetition due", end, true)
+            .row("tracker, repetition due", detach, true);
+    }
+    void refusalIsNotRepeatedWhereTheUserHasLeft()
+    {
+        QFETCH(Action, leave);
+        QFETCH(bool, refusedAtOnce);
+        const Action refuse = [this] { monitor_->accelCommandAnswered(0); };
+        tab_ = Tab::Accel;
+        if (refusedAtOnce)
+            answerWithinTheCall = refuse;
+        monitor_->requestAccelResult();
+        leave();
+        if (refusedAtOnce)
+            QTest::qWait(150);
+        else
+            refuse();
+        QCOMPARE(take(), QVector<Message>{Message::RequestAccelCommand});
     }
 
 private:
@@ -188,7 +317,7 @@ private:
 
     Tab tab_ = Tab::Other;
     bool active_ = true;
-    int stopped_ = 0;
+    QVector<Tab> stopped_;
     int cleared_ = 0;
     std::unique_ptr<ConfigMonitor> monitor_;
 };

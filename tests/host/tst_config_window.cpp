@@ -231,6 +231,8 @@ private Q_SLOTS:
     {
         const QStringList before = QDir::current().entryList();
         name()->setText(QStringLiteral("Kept"));
+        auto* monitor = child<QCheckBox>("checkBox_AutoQuest");
+        monitor->setChecked(true);
         for (const bool agree : {false, true}) {
             QString text;
             whenOpen<QMessageBox>([&](QMessageBox& box) {
@@ -240,6 +242,7 @@ private Q_SLOTS:
             press("pushButton_ConfigLight");
             QVERIFY(text.contains(QStringLiteral("<br><br>")));
             QCOMPARE(shownPage(), agree ? QStringLiteral("page_Light") : QStringLiteral("page_Full"));
+            QCOMPARE(monitor->isChecked(), !agree);
         }
         const QString own = writeFile(folder_.filePath("file.xml"), "<DEVICE>the user's own");
         QCOMPARE(portOf("page_Light")->value(), portOf("page_Full")->value());

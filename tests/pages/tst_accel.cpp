@@ -6,22 +6,27 @@
 #include "settings_page.h"
 #include "support/data_table.h"
 
+#include <QCheckBox>
 #include <QDoubleSpinBox>
 #include <QSlider>
 #include <QTimer>
 #include <QtTest>
 
 #include <cmath>
+#include <functional>
 
 using vlk::Message;
 
 namespace {
 
 QVector<Message> sent;
+std::function<void()> answerAtOnce;
 
 void record(void* /*device*/, std::uint32_t id, void* /*p1*/, void* /*p2*/)
 {
     sent << static_cast<Message>(id);
+    if (answerAtOnce)
+        answerAtOnce();
 }
 
 } // namespace
@@ -37,6 +42,7 @@ private Q_SLOTS:
     void init()
     {
         open();
+        answerAtOnce = nullptr;
         device().initialize(&record);
     }
 
@@ -127,12 +133,16 @@ private Q_SLOTS:
     void requestsByThemselves_data()
     {
         QTest::addColumn<QString>("end");
-        for (const char* end : {"unchecked", "other tab", "inner tab", "detached", "reset", "closed"})
+        for (const char* end :
+             {"unchecked", "other tab", "other tab without an answer", "lines tab", "monitor of the lines",
+              "not active", "inner tab", "detached", "reset", "closed"})
             QTest::newRow(end) << QString(end);
     }
     void requestsByThemselves()
     {
         QFETCH(QString, end);
+        QWidget other;
+        other.show();
         VLK_Widget_Config_Full full;
         show(full);
         full.deviceConnected();
@@ -156,10 +166,27 @@ private Q_SLOTS:
             check({{"checkBox_Auto", false}});
         } else if (end == "other tab") {
             tabs(full)->setCurrentIndex(0);
-            form()->slot_timeOut_Query();
-            QCOMPARE(take(), QVector<Message>());
             QVERIFY(isChecked("checkBox_Auto"));
             full.slot_timeOut_TimerAnalog();
+        } else if (end == "other tab without an answer") {
+            tabs(full)->setCurrentIndex(0);
+            form()->slot_timeOut_Query();
+        } else if (end == "lines tab") {
+            full.gotoInputLines();
+            full.slot_timeOut_TimerAnalog();
+        } else if (end == "monitor of the lines") {
+            full.gotoInputLines();
+            auto* lines = full.findChild<QCheckBox*>("checkBox_AutoQuest");
+            lines->setChecked(true);
+            QCOMPARE(take(), QVector<Message>{Message::RequestLines});
+            QVERIFY(!isChecked("checkBox_Auto") && full.answers().monitor().isOn());
+            lines->setChecked(false);
+        } else if (end == "not active") {
+            answerAtOnce = [&] { answer(full, 0); };
+            form()->slot_timeOut_Query();
+            QCOMPARE(take(), QVector<Message>{Message::RequestAccel});
+            QApplication::setActiveWindow(&other);
+            form()->slot_timeOut_Query();
         } else if (end == "inner tab") {
             full.findChild<VLK_Form_Config_Accel*>()->slot_indexChangeed_tabWidget(1);
         } else if (end == "detached") {
@@ -169,6 +196,8 @@ private Q_SLOTS:
         } else {
             full.hide();
         }
+        answerAtOnce = nullptr;
+        QCOMPARE(take(), QVector<Message>());
         QVERIFY(!isChecked("checkBox_Auto"));
         QVERIFY(!query->isActive());
         QVERIFY(!full.answers().monitor().isOn());
@@ -213,6 +242,7 @@ private:
     {
         window = full.findChild<VLK_Form_Config_Accel*>();
         full.show();
+        QApplication::setActiveWindow(&full);
         tabs(full)->setCurrentIndex(full.pages().tabOf([](VLK_Form_Config_Accel&) {}));
         take();
     }

@@ -5,9 +5,11 @@
 #include "pages/settings_page.h"
 #include "peripherals/form_config_ble_devtype_uni.h"
 #include "peripherals/form_config_bluetooth.h"
+#include "peripherals/form_config_bluetooth_device.h"
 #include "peripherals/form_config_bluetooth_device_type.h"
 #include "support/data_table.h"
 #include "support/setting_samples.h"
+#include "windows/wnd_config_full.h"
 
 #include <QAction>
 #include <QMenu>
@@ -27,6 +29,24 @@ vlk::BtDevice found(const char* name, const char* mac)
     qstrncpy(device.mac, mac, sizeof device.mac);
     return device;
 }
+
+// A window whose host answers before a request returns.
+struct QuickAnswers : VLK_Wnd_Config_Full
+{
+    explicit QuickAnswers(VLK_Form_Config_Bluetooth& page) : page(page) { vlkConfigFull = this; }
+    ~QuickAnswers() override { vlkConfigFull = nullptr; }
+    void startBtSearch() override
+    {
+        page.onSearchEvent('0');
+        page.onDeviceFound(found("dev", "AA:BB:CC:DD:EE:FF"));
+        if (ends)
+            page.onSearchEvent('1');
+    }
+    void cancelBtSearch() override { page.onSearchStopped('3'); }
+
+    VLK_Form_Config_Bluetooth& page;
+    bool ends = true;
+};
 
 QStringList itemsOf(const QComboBox* list)
 {
@@ -90,13 +110,25 @@ private Q_SLOTS:
                 page().onSearchEvent(static_cast<uchar>(event.toLatin1()));
         }
         QTEST(text("label_Message"), "message");
-        QStringList enabled;
-        for (const char* button : {"Find", "Add", "Cancel"}) {
-            if (isOn(QString("pushButton_Bt_%1").arg(button)))
-                enabled << button;
+        QTEST(pressable(), "enabled");
+        QCOMPARE(child<QProgressBar>("progressBar_Find")->isHidden(), !pressable().contains("Cancel"));
+    }
+
+    void searchingWithAHostThatAnswersAtOnce()
+    {
+        QuickAnswers host(page());
+        page().deviceConnected();
+        for (int search = 0; search < 2; ++search) {
+            press("pushButton_Bt_Find");
+            QCOMPARE(text("label_Message"), QString("cfgt17_012. <br>cfgt17_014: 1"));
+            QCOMPARE(pressable(), QString("Find Add"));
         }
-        QTEST(enabled.join(' '), "enabled");
-        QCOMPARE(child<QProgressBar>("progressBar_Find")->isHidden(), !enabled.contains("Cancel"));
+        host.ends = false;
+        press("pushButton_Bt_Find");
+        QCOMPARE(pressable(), QString("Cancel"));
+        press("pushButton_Bt_Cancel");
+        QCOMPARE(text("label_Message"), QString("cfgt17_010."));
+        QCOMPARE(pressable(), QString("Find Add"));
     }
 
     // Answers in any order, names of any kind, a crowd.
@@ -314,6 +346,46 @@ private Q_SLOTS:
         QCOMPARE(sensor(2).type(), 0);
     }
 
+    // Of any type by its text; a text that no type has is none.
+    void typesByTheirTexts_data()
+    {
+        DataTable<QString, int>({"text", "type"})
+            .row("offered", "cfgt17_018", 1)
+            .row("not offered", "cfgt17_020", 3)
+            .row("universal", "cfgt17_023", 6)
+            .row("none", "wrd_002", 0)
+            .row("unknown", "ELM327", 0);
+    }
+    void typesByTheirTexts()
+    {
+        QFETCH(QString, text);
+        auto* sensors = window->findChild<VLK_Form_Config_Bluetooth_Device*>();
+        for (int number = 1; number <= 4; ++number) {
+            sensor(number).selectType(7);
+            const QString slot = QString("slot_currentIndexChanged_Type_Sensor_%1").arg(number);
+            QVERIFY(QMetaObject::invokeMethod(sensors, qPrintable(slot), Q_ARG(QString, text)));
+            QTEST(sensor(number).type(), "type");
+        }
+    }
+
+    void resetUnchecksTheTests()
+    {
+        sensor(1).selectType(6);
+        auto* form = sensor(1).findChild<Uni*>();
+        const std::function<void()> resets[] = {[&] { form->setDefaults(); },
+                                                [&] { page().setDefaults(), sensor(1).selectType(6); }};
+        for (const auto& reset : resets) {
+            const QStringList rows{"Condition_Test_%1_4", "Parameters_Test_%1_8"};
+            for (const QString& row : rows) {
+                check({{"checkBox_" + row.arg("Use"), true}});
+                QVERIFY(isOn("label_" + row.arg("Rez")));
+            }
+            reset();
+            for (const QString& row : rows)
+                QVERIFY(!isChecked("checkBox_" + row.arg("Use")) && !isOn("label_" + row.arg("Rez")));
+        }
+    }
+
     // What the rows of the universal sensor offer and hold.
     void universal_data()
     {
@@ -392,6 +464,16 @@ private Q_SLOTS:
     }
 
 private:
+    // Which buttons of the search can be pressed.
+    QString pressable()
+    {
+        QStringList enabled;
+        for (const char* button : {"Find", "Add", "Cancel"}) {
+            if (isOn(QString("pushButton_Bt_%1").arg(button)))
+                enabled << button;
+        }
+        return enabled.join(' ');
+    }
     Type& sensor(int number) { return *window->findChildren<Type*>().at(number - 1); }
 
     void listen(int number)

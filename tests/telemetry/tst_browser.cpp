@@ -326,7 +326,8 @@ private Q_SLOTS:
             .row("numbers by size", 0, {"2", "3", "10", "20"}, {"20", "10", "3", "2"})
             .row("times by time", 1, {"10", "2", "3", "20"}, {"3", "2", "10", "20"})
             .row("words by alphabet", 2, {"10", "20", "2", "3"}, {"2", "10", "20", "3"})
-            .row("signed, absent last", 3, {"20", "10", "2", "3"}, {"10", "20", "2", "3"});
+            .row("signed, absent last", 3, {"20", "10", "2", "3"}, {"10", "20", "2", "3"})
+            .row("no numbers behind the numbers", 4, {"20", "2", "10", "3"}, {"10", "3", "2", "20"});
     }
     // Equal values keep the order of the file in both directions.
     void sorting()
@@ -334,14 +335,24 @@ private Q_SLOTS:
         QFETCH(int, column);
         QFETCH(QStringList, ascending);
         QFETCH(QStringList, descending);
-        // 31 January, 1 and 2 February 2025.
-        showPages(
-            pagesOf(recordOf({{"NumPage", 10}, {"Time", 1738314000}, {"StateOut1", 1}, {"User1Byte_1", 5}}),
-                    recordOf({{"NumPage", 2}, {"Time", 1738400400}, {"StateOut1", 0}}),
-                    recordOf({{"NumPage", 3}, {"Time", 1738486800}}),
-                    recordOf({{"NumPage", 20}, {"StateOut1", 1}, {"User1Byte_1", 251}})),
-            Table);
-        const int columnOf[] = {0, 1, 2, table_->model()->columnCount() - 1};
+        // 31 January, 1 and 2 February 2025. The way of two records is no number.
+        const quint64 noNumber = 0x7fc00000;
+        showPages(pagesOf(recordOf({{"NumPage", 10},
+                                    {"Time", 1738314000},
+                                    {"StateOut1", 1},
+                                    {"Way", noNumber},
+                                    {"User1Byte_1", 5}}),
+                          recordOf({{"NumPage", 2},
+                                    {"Time", 1738400400},
+                                    {"StateOut1", 0},
+                                    {"Way", std::bit_cast<quint32>(7.5F)}}),
+                          recordOf({{"NumPage", 3}, {"Time", 1738486800}, {"Way", noNumber}}),
+                          recordOf({{"NumPage", 20},
+                                    {"StateOut1", 1},
+                                    {"Way", std::bit_cast<quint32>(-1.0F)},
+                                    {"User1Byte_1", 251}})),
+                  Table);
+        const int columnOf[] = {0, 1, 3, table_->model()->columnCount() - 1, 2};
         QCOMPARE(this->column(0), QStringList({"10", "2", "3", "20"}));
         table_->setCurrentIndex(table_->model()->index(0, 0));
         table_->sortByColumn(columnOf[column], Qt::AscendingOrder);

@@ -166,7 +166,8 @@ private Q_SLOTS:
             .row("first card, middle", 0xef, 10, "10", 32, "%p %")
             .row("second card, highest", 0x10, 31, "01", 99, "%p %")
             .row("no level", 0, 99, "10", 0, "Not determined")
-            .row("beyond the scale", 0, 200, "10", 100, "%p %")
+            .row("beyond the scale", 0, 98, "10", 100, "%p %")
+            .row("highest code", 0, 255, "10", 0, "Not determined")
             .row("absent", -1, -1, "00", 0, "\u2013");
     }
     void cardAndLevel()

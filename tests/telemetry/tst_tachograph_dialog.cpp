@@ -53,6 +53,8 @@ private Q_SLOTS:
             QCOMPARE(request_.toHex(), QByteArray(expected[i]));
         }
         QVERIFY(dialog_.child<QWidget>("frame_FileAutorize")->isHidden());
+        QVERIFY(dialog_.window->metaObject()->indexOfSignal("signal_GetTahoFile(szQueryTaho*)") >= 0);
+        QVERIFY(window->metaObject()->indexOfSlot("slot_GetTahoFile(szQueryTaho*)") >= 0);
     }
 
     void answers()

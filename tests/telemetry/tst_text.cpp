@@ -296,7 +296,7 @@ private Q_SLOTS:
 
     void signalBarAndKeys()
     {
-        const std::pair<int, int> rows[] = {{1, 3}, {31, 99}, {32, 100}, {98, 100}, {99, 0}, {255, 100}};
+        const std::pair<int, int> rows[] = {{1, 3}, {31, 99}, {32, 100}, {98, 100}, {99, 0}, {255, 0}};
         for (const auto& [level, percent] : rows)
             QCOMPARE(signalPercent(static_cast<std::uint8_t>(level)), percent);
         QCOMPARE(keyText(0xABC), QStringLiteral("2748 (0x000000000ABC)"));

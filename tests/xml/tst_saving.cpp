@@ -1,15 +1,18 @@
 // A save that is stopped leaves the old document or the new one, whole. Each save runs in a process of its
 // own, without rights, on a full or bad disk, or killed in the middle.
 
+#include "fuel/table/fuel_file.h"
 #include "support/data_table.h"
 #include "support/failing_calls.h"
 #include "support/files.h"
+#include "telemetry/files/telemetry_file.h"
 #include "xml/xml_document.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include <csignal>
+#include <functional>
 #include <sys/prctl.h>
 #include <sys/ptrace.h>
 #include <sys/resource.h>
@@ -30,6 +33,9 @@ struct Disk
     bool truncations = false;
 };
 Q_DECLARE_METATYPE(Disk)
+
+using Save = std::function<bool(const QString& path)>;
+Q_DECLARE_METATYPE(Save)
 
 namespace {
 
@@ -95,7 +101,7 @@ private:
     }
 
     // In a process that has no rights of root.
-    Outcome saveAsNobody(int groups, const Disk& disk)
+    static Outcome saveAsNobody(const std::function<bool()>& save, const Disk& disk = {})
     {
         const pid_t child = fork();
         if (child == 0) {
@@ -108,7 +114,7 @@ private:
             std::signal(SIGXFSZ, SIG_IGN);
             if (setrlimit(RLIMIT_FSIZE, &limit) != 0)
                 _exit(Untold);
-            _exit(saveWith(path_, groups) ? Saved : told);
+            _exit(save() ? Saved : told);
         }
         int status = 0;
         if (waitpid(child, &status, 0) != child || !WIFEXITED(status))
@@ -169,7 +175,7 @@ private Q_SLOTS:
         QFETCH(Disk, disk);
         QFETCH(Outcome, outcome);
         prepare(old, static_cast<mode_t>(folderRights), static_cast<mode_t>(fileRights));
-        QCOMPARE(saveAsNobody(now, disk), outcome);
+        QCOMPARE(saveAsNobody([&] { return saveWith(path_, now); }, disk), outcome);
         QByteArray found = content();
         QByteArray whole = documentWith(outcome == Saved ? now : old);
         if (*disk.writes || disk.truncations) { // blanks may be left behind the end
@@ -178,6 +184,37 @@ private Q_SLOTS:
         }
         QVERIFY2(outcome == Lost || found == whole, found.constData());
         QCOMPARE(strays(), QStringList());
+    }
+
+    // Every kind of file, over a longer and a shorter one of which nothing is left.
+    void savesOtherFilesInPlace_data()
+    {
+        using vlk::TelemetryForm;
+        const auto telemetry = [](TelemetryForm form) {
+            return [form](const QString& path) {
+                vlk::TelemetryPages pages;
+                pages.push_back(std::make_unique<TmiPage_Zeta3>());
+                return saveTelemetryFile(path, form, pages, {});
+            };
+        };
+        DataTable<Save>({"save"})
+            .row("calibration", [](const QString& path) { return vlk::saveFuelFile(path, "1;2\r\n"); })
+            .row("telemetry", telemetry(TelemetryForm::xml))
+            .row("telemetry for a server", telemetry(TelemetryForm::binary))
+            .row("telemetry as a table", telemetry(TelemetryForm::csv));
+    }
+    void savesOtherFilesInPlace()
+    {
+        QFETCH(Save, save);
+        prepare(0);
+        QVERIFY(save(path_));
+        const QByteArray expected = content();
+        QVERIFY(!expected.isEmpty());
+        for (const int old : {1, 3000}) {
+            prepare(old, closedFolder);
+            QCOMPARE(saveAsNobody([&] { return save(path_); }), Saved);
+            QCOMPARE(content(), expected);
+        }
     }
 
     void survivesAKill_data()

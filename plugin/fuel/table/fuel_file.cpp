@@ -1,8 +1,7 @@
 #include "fuel/table/fuel_file.h"
 
 #include "base/file_name.h"
-#include "base/save_log.h"
-#include "base/whole_file.h"
+#include "base/replace_file.h"
 #include "fuel/table/fuel_log.h"
 
 #include <QDateTime>
@@ -30,12 +29,7 @@ QString fuelFileName(const QString& folder, const QString& sensor, const QString
 
 bool saveFuelFile(const QString& path, const QByteArray& content)
 {
-    QSaveFile file(path);
-    QString reason;
-    if (saveWhole(file, content, &reason))
-        return true;
-    qCWarning(lcSave).noquote().nospace() << path << ": " << reason;
-    return false;
+    return replaceFile(path, content);
 }
 
 std::optional<QByteArray> readFuelFile(const QString& path)

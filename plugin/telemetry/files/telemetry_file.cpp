@@ -1,7 +1,6 @@
 #include "telemetry/files/telemetry_file.h"
 
-#include "base/save_log.h"
-#include "base/whole_file.h"
+#include "base/replace_file.h"
 #include "telemetry/files/telemetry_binary_reader.h"
 #include "telemetry/files/telemetry_binary_writer.h"
 #include "telemetry/files/telemetry_xml_reader.h"
@@ -45,13 +44,8 @@ bool isBinary(QFile& file)
 bool saveTelemetryFile(const QString& path, TelemetryForm form, const TelemetryPages& pages,
                        const TelemetryOrigin& origin, const EventText& eventText)
 {
-    QSaveFile file(path);
-    QString reason;
-    const bool saved = saveWhole(
-        file, [&](QIODevice& device) { return write(device, form, pages, origin, eventText); }, &reason);
-    if (!saved)
-        qCWarning(lcSave).noquote().nospace() << path << ": " << reason;
-    return saved;
+    return replaceFile(path,
+                       [&](QIODevice& device) { return write(device, form, pages, origin, eventText); });
 }
 
 std::optional<TelemetryContents> readTelemetryFile(const QString& path)

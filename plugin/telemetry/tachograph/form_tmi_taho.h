@@ -14,6 +14,9 @@ namespace Ui {
 class VLK_Designer_Form_TMI_Taho;
 }
 
+// Signals and slots are found by their signatures, in which the record stands under this name alone.
+using vlk::szQueryTaho;
+
 class VLK_Form_TMI_Taho : public QDialog
 {
     Q_OBJECT
@@ -31,7 +34,7 @@ public:
 Q_SIGNALS:
     void signal_GetTahoQuest(int question);
     // The record lives for the length of the call.
-    void signal_GetTahoFile(vlk::szQueryTaho* request);
+    void signal_GetTahoFile(szQueryTaho* request);
     void signal_GetTahoFile_Read(const QString& name);
 
 private Q_SLOTS:

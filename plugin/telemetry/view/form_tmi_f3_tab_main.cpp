@@ -187,11 +187,11 @@ void VLK_Form_Tmi_F3_Tab_Main::fill(const TmiPage_Zeta3& page)
 {
     VLK_Form_Tmi_F3_Tab::fill(page);
 
-    const QString level = text(page, item("GSM"));
-    const bool isKnown = page.value<element("GSM")>() != kNoSignalLevel;
-    level_->setValue(signalPercent(page.value<element("GSM")>()));
+    const std::uint8_t level = page.value<element("GSM")>();
+    const bool isKnown = level < kNoSignalLevel;
+    level_->setValue(signalPercent(level));
     const bool isHeld = holds(page, element("GSM"));
-    level_->setFormat(!isHeld ? QString(kAbsentMark) : isKnown ? QString(kLevelFormat) : level);
+    level_->setFormat(!isHeld ? QString(kAbsentMark) : isKnown ? QString(kLevelFormat) : tr("tmizta_027"));
     level_->setToolTip(isHeld ? QString() : absentTip());
 
     const bool hasCard = page.has(element("Module1"));

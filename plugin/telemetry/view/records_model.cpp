@@ -10,6 +10,7 @@
 #include <QPalette>
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 
 namespace vlk {
@@ -61,7 +62,8 @@ double valueOf(const TmiPage_Zeta3& page, const CsvColumn& column)
     return page.isExtra() ? page.extra().number(column.element()) : page.number(column.element());
 }
 
-// A number with or without a unit behind it.
+// A number with or without a unit behind it. The value of a damaged record may be none, which has no place
+// among the others.
 bool readNumber(const QString& text, const CsvColumn& column, double& number)
 {
     bool isNumber = false;
@@ -69,7 +71,7 @@ bool readNumber(const QString& text, const CsvColumn& column, double& number)
     // Binary digits of a user parameter have blanks too.
     if (!isNumber && kItems[column.item].rule().shape != Shape::userParameter)
         number = text.leftRef(text.lastIndexOf(QLatin1Char(' '))).toDouble(&isNumber);
-    return isNumber;
+    return isNumber && !std::isnan(number);
 }
 
 } // namespace

@@ -6,7 +6,6 @@
 #include "fuel/form_tmi_fuel_sensors.h"
 #include "link/device.h"
 #include "link/requests.h"
-#include "telemetry/tachograph/form_tmi_taho.h"
 #include "telemetry/text/key_text.h"
 #include "telemetry/view/event_panel.h"
 #include "telemetry/view/tmi_view_texts.h"

@@ -7,6 +7,7 @@
 // window is hidden.
 
 #include "link/messages.h"
+#include "telemetry/tachograph/form_tmi_taho.h"
 #include "telemetry/view/automatic_requests.h"
 #include "telemetry/view/clearing_sequence.h"
 #include "telemetry/view/record_stack.h"
@@ -22,7 +23,6 @@ class EventPanel;
 } // namespace vlk
 class QAbstractButton;
 class VLK_Form_TMI_Fuel_Sensors;
-class VLK_Form_TMI_Taho;
 
 namespace Ui {
 class VLK_Designer_Widget_Tmi_View;
@@ -87,7 +87,7 @@ private Q_SLOTS:
     void slot_pressed_SetGuard();
     void slot_pressed_SetNoGuard();
     void slot_GetTahoQuest(int question);
-    void slot_GetTahoFile(vlk::szQueryTaho* request);
+    void slot_GetTahoFile(szQueryTaho* request);
     void slot_GetTahoFile_Read(const QString& name);
 
 private:

@@ -1,8 +1,9 @@
-#include "xml/replace_file.h"
+#include "base/replace_file.h"
 
 #include "base/save_log.h"
 #include "base/whole_file.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -18,7 +19,7 @@ namespace {
 
 enum class Outcome { Saved, Failed, NoRoomBeside };
 
-// The hidden name beside the file under which the new document waits for its place.
+// The hidden name beside the file under which the new one waits for its place.
 QString nameBeside(const QFileInfo& file)
 {
     return file.dir().filePath(QStringLiteral(".%1.new").arg(file.fileName()));
@@ -38,19 +39,19 @@ void removeStrays(const QString& beside)
     }
 }
 
-Outcome putBeside(const QFileInfo& target, const QByteArray& document, QString* reason)
+Outcome putBeside(const QFileInfo& target, const WriteContent& write, QString* reason)
 {
     const QString beside = nameBeside(target);
     removeStrays(beside);
     bool opened = false;
     QSaveFile file(beside);
-    const auto write = [&](QIODevice& device) {
+    const auto writeOpened = [&](QIODevice& device) {
         opened = true;
         if (target.exists())
             file.setPermissions(target.permissions());
-        return device.write(document) == document.size();
+        return write(device);
     };
-    if (!saveWhole(file, write, reason))
+    if (!saveWhole(file, writeOpened, reason))
         return opened ? Outcome::Failed : Outcome::NoRoomBeside;
     if (std::rename(QFile::encodeName(beside).constData(),
                     QFile::encodeName(target.filePath()).constData()) == 0)
@@ -75,11 +76,15 @@ bool writeAt(QFile& file, qint64 position, const QByteArray& bytes, QString* rea
     return flushToDisk(file, reason);
 }
 
-// Three steps, each of which leaves a whole document: blank lines behind the old one, which also reserve the
+// Three steps, each of which leaves a whole content: blank lines behind the old one, which also reserve the
 // space; the new one and blank lines over both, in one write; the end cut off. A step that fails is taken
 // back.
-bool overwrite(const QString& path, const QByteArray& document, QString* reason)
+bool overwrite(const QString& path, const WriteContent& write, QString* reason)
 {
+    QByteArray content;
+    QBuffer buffer(&content);
+    if (!buffer.open(QIODevice::WriteOnly) || !write(buffer))
+        return false;
     QFile file(path);
     const bool opened = file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered);
     const QByteArray old = file.readAll();
@@ -88,13 +93,13 @@ bool overwrite(const QString& path, const QByteArray& document, QString* reason)
         return false;
     }
     const auto blank = [](int size) { return QByteArray(std::max(size, 0), '\n'); };
-    const QByteArray longer = old.isEmpty() ? QByteArray() : blank(document.size() - old.size());
+    const QByteArray longer = old.isEmpty() ? QByteArray() : blank(content.size() - old.size());
     if (!longer.isEmpty() && !writeAt(file, old.size(), longer, reason)) {
         file.resize(old.size());
         return false;
     }
-    if (writeAt(file, 0, document + blank(old.size() - document.size()), reason)) {
-        if (file.resize(document.size()))
+    if (writeAt(file, 0, content + blank(old.size() - content.size()), reason)) {
+        if (file.resize(content.size()))
             return true;
         *reason = file.errorString();
     }
@@ -107,7 +112,7 @@ bool overwrite(const QString& path, const QByteArray& document, QString* reason)
     return false;
 }
 
-bool replace(const QString& path, const QByteArray& document, QString* reason)
+bool replace(const QString& path, const WriteContent& write, QString* reason)
 {
     QFileInfo target(path);
     if (target.isSymLink())
@@ -116,21 +121,26 @@ bool replace(const QString& path, const QByteArray& document, QString* reason)
         *reason = target.isFile() ? qt_error_string(EACCES) : QStringLiteral("not a file");
         return false;
     }
-    const Outcome outcome = putBeside(target, document, reason);
+    const Outcome outcome = putBeside(target, write, reason);
     if (outcome == Outcome::NoRoomBeside && target.exists())
-        return overwrite(target.filePath(), document, reason);
+        return overwrite(target.filePath(), write, reason);
     return outcome == Outcome::Saved;
 }
 
 } // namespace
 
-bool replaceFile(const QString& path, const QByteArray& document)
+bool replaceFile(const QString& path, const WriteContent& write)
 {
     QString reason;
-    if (replace(path, document, &reason))
+    if (replace(path, write, &reason))
         return true;
     qCWarning(lcSave).noquote().nospace() << path << ": " << reason;
     return false;
+}
+
+bool replaceFile(const QString& path, const QByteArray& content)
+{
+    return replaceFile(path, [&](QIODevice& device) { return device.write(content) == content.size(); });
 }
 
 } // namespace vlk

@@ -1,0 +1,28 @@
+#pragma once
+
+// Puts a whole new content in the place of a file.
+
+#include <QByteArray>
+#include <QString>
+
+#include <functional>
+
+class QIODevice;
+
+namespace vlk {
+
+// Puts the content into the device and says whether it could. Asked a second time, it gives the same.
+using WriteContent = std::function<bool(QIODevice& device)>;
+
+// True when the file at `path` now holds the content, and the disk has it. Otherwise it holds what it held
+// before, and the log (save_log.h) says why. At every moment in between the file is one of the two, whole.
+// Symbolic links are followed and permissions kept.
+//
+// The new file is made beside the old one, hidden, and takes its name. What a killed process leaves there is
+// removed by the next save. Where no file may be made beside it, the file is written over in place, from
+// memory; while that lasts it may end in blank lines, which mean nothing in any form that we save. When even
+// the old content cannot be put back then, the log says that it is lost.
+bool replaceFile(const QString& path, const WriteContent& write);
+bool replaceFile(const QString& path, const QByteArray& content);
+
+} // namespace vlk
