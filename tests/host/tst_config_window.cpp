@@ -5,6 +5,7 @@
 #include "support/files.h"
 #include "support/full_disk.h"
 #include "support/scripted_host.h"
+#include "support/typing.h"
 #include "support/window_parts.h"
 
 #include <QtTest>
@@ -307,6 +308,36 @@ private Q_SLOTS:
         QTest::keyClick(name(), Qt::Key_Return);
         QCOMPARE(key->text(), QString());
         QVERIFY(window->isVisible());
+    }
+
+    void escGivesBackAndASaveTakesWhatIsTyped()
+    {
+        host_.attach();
+        auto* timer = child<QSpinBox>("spinBox_RegTimer");
+        type(timer, "<All>60<Esc>");
+        QCOMPARE(timer->value(), 90);
+        const QString before = name()->text();
+        type(name(), "abc<Esc>");
+        QCOMPARE(name()->text(), before);
+        QVERIFY(window->isVisible());
+        type(timer, "<All>5000");
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(": typed_range"));
+        press("pushButton_LoadToDevice");
+        const QString written = host_.takeSent(Message::WriteConfiguration).value(0).text1;
+        QVERIFY(readFile(written).contains("regTimer=\"900\""));
+        QVERIFY(QFile::remove(written));
+    }
+
+    void numbersFollowTheLanguage()
+    {
+        const QLocale before;
+        for (const char* language : {"ru", "en"}) {
+            QLocale::setDefault(QLocale(language));
+            host_.send(Message::LanguageChanged);
+            QCOMPARE(child<QDoubleSpinBox>("doubleSpinBox_RejectCoord_maxHDOP")->text(),
+                     QString("2") + QLocale().decimalPoint() + '5');
+        }
+        QLocale::setDefault(before);
     }
 
     void raiseAndClose()

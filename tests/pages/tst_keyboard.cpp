@@ -242,9 +242,13 @@ private:
                 if (!rule.targets.contains(widget->objectName()))
                     continue;
                 for (const vlk::TableLayout::Condition& condition : rule.when) {
-                    if (condition.negated || core.holds(settings.binder().table(), rule))
-                        continue;
-                    const QString code = condition.codes.value(0, "1");
+                    if (core.holds(settings.binder().table(), rule))
+                        break;
+                    QString code = condition.negated ? QString("0") : condition.codes.value(0, "1");
+                    for (const vlk::Code& other : core.setting(condition.row).codes) {
+                        if (condition.negated && condition.codes.contains(code))
+                            code = other.code;
+                    }
                     settings.binder().set(condition.row, code);
                     core.edit(condition.row, code);
                 }

@@ -126,6 +126,7 @@ private Q_SLOTS:
         QVERIFY(state(true, 20));
         check({{box, false}});
         QVERIFY(state(false, 0));
+        page().retranslate();
         check({{box, true}});
         QVERIFY(state(true, 20));
         get<QSpinBox>(number)->setValue(300);
