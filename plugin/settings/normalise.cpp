@@ -1,5 +1,6 @@
 #include "settings/normalise.h"
 
+#include "base/model_text.h"
 #include "base/number_text.h"
 
 #include <QCoreApplication>
@@ -268,6 +269,8 @@ QString defaultText(const Setting& setting, double number, const DefaultText& te
     const QString format = QString::fromUtf8(text.format);
     return text.key ? format.arg(QCoreApplication::translate("vlk", text.key)) : format;
 }
+    if (text.namesModel)
+        return format.arg(modelText());
 
 } // namespace
 

@@ -66,12 +66,13 @@ constexpr When whenSame(const char* path, const char* other)
     return {path, "", false, other};
 }
 
-// A text of the file or one that follows the language: `format` with the translation of `key` for its %1.
-// Null where the default is a number.
+// A text of the file, or one that follows the language or the host: `format` with the translation of `key`,
+// or with the model as the host calls it, for its %1. Null where the default is a number.
 struct DefaultText
 {
     const char* format = nullptr;
     const char* key = nullptr;
+    bool namesModel = false;
 };
 
 // One value of a choice.
