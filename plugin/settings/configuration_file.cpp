@@ -118,6 +118,10 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
         const int index = part.first + row;
         values_[index] = normalise(setting, loadDefault(setting), values_[index], limits(index)).value;
     }
+    for (const TableLayout::Distance& rule : layout.distances) {
+        if (rule.gapFrom >= 0)
+            values_[part.first + rule.gapFrom] = QStringLiteral("0");
+    }
     readGroups(part, *section, -1, notes);
 }
 

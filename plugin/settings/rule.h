@@ -37,7 +37,9 @@ struct Bound
 };
 
 // Two values of which the second is at least `gap` (in units of the widget), plus the value at `gapFrom`,
-// above the first. The one that is set last pushes the other one away, as far as the ranges go.
+// above the first. The one that is set last pushes the other one away, as far as the ranges go. A read takes
+// the value at `gapFrom` for 0 until it comes to it, whatever it was before: a pair that keeps the distance
+// of its own file stays as it is.
 struct Distance
 {
     const char* first = "";
