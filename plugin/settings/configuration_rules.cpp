@@ -33,7 +33,8 @@ void Configuration::change(const Part& part, int row, const QString& text, std::
     const Setting& setting = *part.layout->rows[row].setting;
     // A list without a current item is nothing that a file could ask for.
     const bool noItem = setting.none && text == QLatin1String(setting.none);
-    const QString value = noItem ? text : normalise(setting, text, values_[index], limits(index)).value;
+    const QString value =
+        noItem ? text : normalise(setting, text, values_[index], limits(index), Source::edit).value;
     const auto& ready = part.layout->presets;
     const bool triggers =
         std::any_of(ready.begin(), ready.end(), [row](const auto& rule) { return rule.trigger == row; });

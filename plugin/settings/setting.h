@@ -157,7 +157,7 @@ struct Setting
     bool zeroIsOff = false;    // 0 for off, or a number of the range
     bool negativeIsOn = false; // and a number below 0 is not off but the least
     bool blankIsZero = false;  // an empty value stays empty on show and is 0 in the file
-    std::int32_t wrap = 0;     // of a period: what is beyond so many seconds is dropped
+    std::int32_t wrap = 0;     // of a period: a read drops what is beyond so many seconds
     double switchedOnAt = -1;  // number that switching on brings; -1: the one that was there before
     std::span<const Code> codes{};
     const char* offers = nullptr;   // codes of the list, "NU|NS+"; null: those with `offered`
