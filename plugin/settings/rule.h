@@ -69,8 +69,9 @@ struct RangeWhen
 
 // A choice out of a list that several settings share: while `when` and `also` hold, none of the others can
 // have its code. One that holds nothing yields to the next code that is free, and one whose list was empty
-// gets the first code that is given back. Settings of the same `holder` are nothing to each other, and so are
-// those of one list whose values at `split` differ.
+// gets the first code that is given back: who takes a code for another one gives that back afterwards.
+// Settings of the same `holder` are nothing to each other, and so are those of one list whose values at
+// `split` differ.
 struct Sole
 {
     const char* path = "";

@@ -194,7 +194,7 @@ struct Setting
     bool numeric = false;        // codes are compared as numbers
     bool readOtherwise = false;  // of a group: read while both `readable` hold, whenever it is written
     bool boundOnRead = false;    // `otherwise` is also what a read gives
-    bool last = false;           // read after all others
+    bool last = false;           // read after all others; in a repetition after those of its number
     bool kept = false;           // of a group: an element that is there keeps what else it holds
     bool unlessEmpty = false;    // of a group: not written while none of its keys is
     bool stays = false;          // a file without the key leaves the value as it stands
