@@ -41,11 +41,10 @@ void copyText(char* field, std::size_t size, const QByteArray& text)
 
 } // namespace
 
-VLK_Device_R7106::VLK_Device_R7106()
-    : modelText_(QStringLiteral("R-7106")), vendorText_(QStringLiteral("VELTRONIKA"))
+VLK_Device_R7106::VLK_Device_R7106() : vendorText_(QStringLiteral("VELTRONIKA"))
 {
     libraryInfo_.handle = token(this);
-    copyText(libraryInfo_.modelName, sizeof libraryInfo_.modelName, modelText_.toUtf8());
+    copyText(libraryInfo_.modelName, sizeof libraryInfo_.modelName, vlk::modelText().toUtf8());
     copyText(libraryInfo_.displayName, sizeof libraryInfo_.displayName,
              QStringLiteral("Aster R-7106").toLocal8Bit());
     libraryInfo_.versionMajor = version[0];
@@ -113,7 +112,7 @@ void VLK_Device_R7106::showText(const QString& title, const QString& html)
 
 void VLK_Device_R7106::setIdentity(const vlk::IdentityInfo& info)
 {
-    modelText_ = info.model;
+    vlk::setModelText(info.model);
     vendorText_ = info.vendor;
 }
 
@@ -127,7 +126,7 @@ void VLK_Device_R7106::setPaths(const vlk::Paths& paths)
 
 void VLK_Device_R7106::attach(const vlk::ConnectInfo& info)
 {
-    if (info.model != modelText_) {
+    if (info.model != model()) {
         detach();
         return;
     }

@@ -6,6 +6,7 @@
 // hides it. Messages from outside arrive in `receive`, messages to the host leave through `send`
 // (link/requests.h has a typed function for each).
 
+#include "base/model_text.h"
 #include "host/host_interface.h"
 #include "link/device.h"
 
@@ -34,7 +35,7 @@ public:
     void send(vlk::Message id, void* p1 = nullptr, void* p2 = nullptr) override;
     QString tmiFolder() const override;
     QString xmlFolder() const override;
-    QString model() const override { return modelText_; }
+    QString model() const override { return vlk::modelText(); }
     QString vendor() const override { return vendorText_; }
     QString trackerId1() const override { return trackerText1_; }
     QString trackerId2() const override { return trackerText2_; }
@@ -75,7 +76,6 @@ private:
     vlk::LibraryInfo libraryInfo_{};
     vlk::HostCallback hostCallback_ = nullptr;
     int liveOwner_ = 0;
-    QString modelText_;
     QString vendorText_;
     bool connected_ = false;
     QString trackerText1_;

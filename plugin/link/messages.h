@@ -150,11 +150,11 @@ struct IdPair
     std::uint32_t high;
 };
 
-// SupplyValues: 16-bit values of which element `supplyElement` is the supply voltage in millivolts.
+// SupplyValues: unsigned 16-bit values of which element `supplyElement` is the supply voltage in millivolts.
 inline constexpr int supplyElement = 7;
 struct SupplyRecord
 {
-    std::int16_t values[8];
+    std::uint16_t values[8];
 };
 
 // BtDeviceFound.

@@ -215,7 +215,7 @@ void Configuration::resetPart(const Part& part)
     for (int row = 0; row < rows; ++row)
         resetRow(part, row);
     for (const TableLayout::SoleList& list : part.layout->soleLists)
-        keepSoles(part, list, nullptr);
+        keepSoles(part, list, -1, {}, nullptr);
     for (const TableLayout::Distance& rule : part.layout->distances) {
         if (rule.gapFrom >= 0)
             keepDistances(part, rule.gapFrom, nullptr);
@@ -237,7 +237,7 @@ void Configuration::resetUnder(const SettingsTable& table, const QString& owner,
             resetRow(part, row);
     }
     for (const TableLayout::SoleList& list : part.layout->soleLists)
-        keepSoles(part, list, nullptr);
+        keepSoles(part, list, -1, {}, nullptr);
 }
 
 std::vector<Difference> Configuration::differences(const Configuration& other) const

@@ -135,7 +135,13 @@ private:
     void assign(const Part& part, int row, const QString& value, std::vector<int>* changed);
     void keepDistances(const Part& part, int row, std::vector<int>* changed);
     void startOver(const Part& part, int row, std::vector<int>* changed);
-    void keepSoles(const Part& part, const TableLayout::SoleList& list, std::vector<int>* changed);
+    // After the row, which was worth `before`, has another value; -1: after a reset of all.
+    void keepSoles(const Part& part, const TableLayout::SoleList& list, int row, const QString& before,
+                   std::vector<int>* changed);
+    // The code that a setting without a claim gets for one that is taken: the next one that is free now and
+    // was before, else the one that has just been given back.
+    QString yielded(const Part& part, const TableLayout::SoleList& list, const TableLayout::Sole& sole,
+                    int row, const QString& before);
     void keepBounds(const Part& part, std::vector<int>* changed);
     void change(const Part& part, int row, const QString& text, std::vector<int>* changed);
     void pull(const Part& part, int row, bool onRead, const QString& before, std::vector<int>* changed);

@@ -118,6 +118,10 @@ void Configuration::readPart(const Part& part, const CXmlSection& root, std::vec
         const int index = part.first + row;
         values_[index] = normalise(setting, loadDefault(setting), values_[index], limits(index)).value;
     }
+    for (const TableLayout::Distance& rule : layout.distances) {
+        if (rule.gapFrom >= 0)
+            values_[part.first + rule.gapFrom] = QStringLiteral("0");
+    }
     readGroups(part, *section, -1, notes);
 }
 
@@ -128,22 +132,32 @@ void Configuration::readGroups(const Part& part, const CXmlSection& section, int
     const TableLayout& layout = *part.layout;
     std::vector<ReadNote> taken;
     std::vector<ReadNote>* const takes = notes ? &taken : nullptr;
-    std::vector<std::pair<int, Element>> late;
+    using Late = std::vector<std::pair<int, Element>>;
+    const auto readLate = [&](Late& rows) {
+        for (const auto& [row, element] : rows)
+            readRow(part, row, *element.section, element.isThere, takes);
+        rows.clear();
+    };
+    Late late;
+    Late lateOfNumber; // of the repetition that is being read
+    int number = 0;
     for (const TableLayout::Group& group : layout.groups) {
+        if (std::exchange(number, group.number) != group.number)
+            readLate(lateOfNumber);
         if (!group.stored || !isOf(group, owner) || !holds(part, group.readable))
             continue;
         const Element element = elementOf(section, group.path);
         for (int row = group.firstRow; row < group.endRow; ++row) {
             if (layout.rows[row].setting->last)
-                late.emplace_back(row, elementOf(section, group.path));
+                (number > 0 ? lateOfNumber : late).emplace_back(row, elementOf(section, group.path));
             else
                 readRow(part, row, *element.section, element.isThere, takes);
         }
         if (notes && !group.kept)
             noteStrangersIn(*element.section, layout, group, notes);
     }
-    for (const auto& [row, element] : late)
-        readRow(part, row, *element.section, element.isThere, takes);
+    readLate(lateOfNumber);
+    readLate(late);
     derive(part);
     keepBounds(part, nullptr);
     if (!notes)

@@ -3,6 +3,7 @@
 #include "settings/configuration.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace vlk {
 
@@ -33,7 +34,8 @@ void Configuration::change(const Part& part, int row, const QString& text, std::
     const Setting& setting = *part.layout->rows[row].setting;
     // A list without a current item is nothing that a file could ask for.
     const bool noItem = setting.none && text == QLatin1String(setting.none);
-    const QString value = noItem ? text : normalise(setting, text, values_[index], limits(index)).value;
+    const QString value =
+        noItem ? text : normalise(setting, text, values_[index], limits(index), Source::edit).value;
     const auto& ready = part.layout->presets;
     const bool triggers =
         std::any_of(ready.begin(), ready.end(), [row](const auto& rule) { return rule.trigger == row; });
@@ -88,7 +90,8 @@ void Configuration::put(int index, const QString& value, std::vector<int>* chang
 // Sets a value, and moves what has to keep its distance from it or cannot have the same one.
 void Configuration::assign(const Part& part, int row, const QString& value, std::vector<int>* changed)
 {
-    const bool isNew = values_[part.first + row] != value;
+    const QString before = values_[part.first + row];
+    const bool isNew = before != value;
     if (isNew)
         put(part.first + row, value, changed);
     keepDistances(part, row, changed);
@@ -97,7 +100,7 @@ void Configuration::assign(const Part& part, int row, const QString& value, std:
     startOver(part, row, changed);
     for (const TableLayout::SoleList& list : part.layout->soleLists) {
         if (list.triggers[row])
-            keepSoles(part, list, changed);
+            keepSoles(part, list, row, before, changed);
     }
 }
 
@@ -136,7 +139,24 @@ QStringList Configuration::takenFrom(const Part& part, const TableLayout::SoleLi
     return taken;
 }
 
-void Configuration::keepSoles(const Part& part, const TableLayout::SoleList& list, std::vector<int>* changed)
+QString Configuration::yielded(const Part& part, const TableLayout::SoleList& list,
+                               const TableLayout::Sole& sole, int row, const QString& before)
+{
+    const int index = part.first + sole.row;
+    const QString none = QString::fromLatin1(setting(index).none);
+    const Limits now = limits(index);
+    if (row < 0)
+        return nextOffered(setting(index), values_[index], now);
+    const QString value = std::exchange(values_[part.first + row], before);
+    Limits both = now;
+    both.taken += takenFrom(part, list, sole);
+    values_[part.first + row] = value;
+    const QString next = nextOffered(setting(index), values_[index], both);
+    return next == none ? nextOffered(setting(index), values_[index], now) : next;
+}
+
+void Configuration::keepSoles(const Part& part, const TableLayout::SoleList& list, int row,
+                              const QString& before, std::vector<int>* changed)
 {
     for (const TableLayout::Sole& sole : list.soles) {
         const int index = part.first + sole.row;
@@ -149,7 +169,7 @@ void Configuration::keepSoles(const Part& part, const TableLayout::SoleList& lis
             if (holdsNothing)
                 put(index, firstOffered(setting(index), limits(index)), changed);
         } else if (!holdsNothing && std::any_of(list.soles.begin(), list.soles.end(), isTakenBy)) {
-            put(index, nextOffered(setting(index), value, limits(index)), changed);
+            put(index, yielded(part, list, sole, row, before), changed);
         }
     }
 }

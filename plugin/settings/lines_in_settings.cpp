@@ -189,12 +189,17 @@ constexpr auto kRows = rowsOf(lineRows<1>(), lineRows<2>(), lineRows<3>());
 
 constexpr const char* kDiscrete = "NS-|NB-|NS+|NB+";
 
-// One line says that the ignition is on; a use without two states cannot. Filtering off is a window of one
-// value. A use has its own usual threshold.
+constexpr auto soleIgnition(const char* line, const char* other, const char* third)
+{
+    return rulesOf(Pull{.when = when(line), .set = other, .to = "0", .onRead = true},
+                   Pull{.when = when(line), .set = third, .to = "0", .onRead = true});
+}
+
+// One line says that the ignition is on, of a file the last one that claims it; a use without two states
+// cannot. Filtering off is a window of one value. A use has its own usual threshold.
 constexpr auto kPulls =
-    rulesOf(Pull{when("IN1/ign"), "IN2/ign", "0"}, Pull{when("IN1/ign"), "IN3/ign", "0"},
-            Pull{when("IN2/ign"), "IN1/ign", "0"}, Pull{when("IN2/ign"), "IN3/ign", "0"},
-            Pull{when("IN3/ign"), "IN1/ign", "0"}, Pull{when("IN3/ign"), "IN2/ign", "0"}, repeat<3>([](int) {
+    rulesOf(soleIgnition("IN1/ign", "IN2/ign", "IN3/ign"), soleIgnition("IN2/ign", "IN1/ign", "IN3/ign"),
+            soleIgnition("IN3/ign", "IN1/ign", "IN2/ign"), repeat<3>([](int) {
                 return rulesOf(Pull{unless("IN%1/normState", kDiscrete), "IN%1/ign", "0"},
                                Pull{unless("IN%1/IN%1FRQ/filterMode"), "IN%1/IN%1FRQ/filterLen", "1"},
                                Pull{unless("IN%1/IN%1FRQ/filterMode"), "IN%1/IN%1FRQ/filterLvl", "0"},

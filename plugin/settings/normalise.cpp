@@ -1,5 +1,6 @@
 #include "settings/normalise.h"
 
+#include "base/model_text.h"
 #include "base/number_text.h"
 
 #include <QCoreApplication>
@@ -73,9 +74,11 @@ Normalised notedBy(QString value, const QString& text, Why why)
     return {value, why()};
 }
 
-int wholeNumber(const Setting& setting, const QString& text)
+int wholeNumber(const Setting& setting, const QString& text, Source source)
 {
-    return setting.hexadecimal ? text.toInt(nullptr, 16) : leadingInt(text);
+    if (setting.hexadecimal)
+        return text.toInt(nullptr, 16);
+    return source == Source::edit ? text.trimmed().toInt() : leadingInt(text);
 }
 
 bool isNumber(const Setting& setting, const QString& text)
@@ -91,14 +94,14 @@ bool isNumber(const Setting& setting, const QString& text)
     return whole;
 }
 
-Normalised number(const Setting& setting, const QString& text, const Limits& limits)
+Normalised number(const Setting& setting, const QString& text, const Limits& limits, Source source)
 {
     double shown = 0;
     if (setting.kind == Kind::real) {
         const double read = leadingDouble(text);
         shown = rounded(setting.singleRead ? static_cast<float>(read) : read, setting.decimals);
     } else {
-        const int read = wholeNumber(setting, text);
+        const int read = wholeNumber(setting, text, source);
         if (setting.zeroIsOff && (setting.negativeIsOn ? read == 0 : read <= 0))
             return notedBy(QStringLiteral("0"), text,
                            [&] { return isNumber(setting, text) ? Change::outOfRange : Change::notANumber; });
@@ -150,11 +153,11 @@ Normalised chosen(const Setting& setting, const QString& text, const QString& be
                  text, Change::notOffered);
 }
 
-Normalised spread(const Setting& setting, const QString& text)
+Normalised spread(const Setting& setting, const QString& text, Source source)
 {
     const int read = leadingInt(text);
     int rest = read;
-    if (setting.wrap > 0)
+    if (setting.wrap > 0 && source == Source::file)
         rest = ((rest % setting.wrap) + setting.wrap) % setting.wrap;
     qint64 held = 0;
     for (const PeriodPart& part : setting.parts) {
@@ -266,6 +269,8 @@ QString defaultText(const Setting& setting, double number, const DefaultText& te
     if (!text.format)
         return QString::number(number, 'f', setting.kind == Kind::real ? setting.decimals : 0);
     const QString format = QString::fromUtf8(text.format);
+    if (text.namesModel)
+        return format.arg(modelText());
     return text.key ? format.arg(QCoreApplication::translate("vlk", text.key)) : format;
 }
 
@@ -326,7 +331,8 @@ QString nextOffered(const Setting& setting, const QString& value, const Limits& 
     return found.isEmpty() ? QString::fromLatin1(setting.none) : found;
 }
 
-Normalised normalise(const Setting& setting, const QString& text, const QString& before, const Limits& limits)
+Normalised normalise(const Setting& setting, const QString& text, const QString& before, const Limits& limits,
+                     Source source)
 {
     switch (setting.kind) {
     case Kind::group:
@@ -345,7 +351,7 @@ Normalised normalise(const Setting& setting, const QString& text, const QString&
     case Kind::scaled:
         if (setting.blankIsZero && text.isEmpty())
             return {text, Change::none};
-        return number(setting, text, limits);
+        return number(setting, text, limits, source);
     case Kind::text:
         if (setting.inputMask)
             return maskedText(setting, text);
@@ -355,7 +361,7 @@ Normalised normalise(const Setting& setting, const QString& text, const QString&
     case Kind::choice:
         return chosen(setting, text, before, limits);
     case Kind::period:
-        return spread(setting, text);
+        return spread(setting, text, source);
     case Kind::digits:
         return digitString(setting, text, limits.offers);
     case Kind::bits:

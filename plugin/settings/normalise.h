@@ -42,9 +42,13 @@ struct Normalised
     Change change = Change::none;
 };
 
+// Where a text comes from. A file is read as far as it is a number, "12abc" as 12, and its periods wrap
+// around where the row says so. An edit means what it says: a text that is no whole number is 0.
+enum class Source { file, edit };
+
 // `before` is what stays where the text leaves the value alone.
-Normalised normalise(const Setting& setting, const QString& text, const QString& before,
-                     const Limits& limits);
+Normalised normalise(const Setting& setting, const QString& text, const QString& before, const Limits& limits,
+                     Source source = Source::file);
 
 // Texts of the two defaults in the present language, as a file would hold them.
 QString loadDefault(const Setting& setting);

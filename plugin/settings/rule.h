@@ -37,7 +37,9 @@ struct Bound
 };
 
 // Two values of which the second is at least `gap` (in units of the widget), plus the value at `gapFrom`,
-// above the first. The one that is set last pushes the other one away, as far as the ranges go.
+// above the first. The one that is set last pushes the other one away, as far as the ranges go. A read takes
+// the value at `gapFrom` for 0 until it comes to it, whatever it was before: a pair that keeps the distance
+// of its own file stays as it is.
 struct Distance
 {
     const char* first = "";
@@ -67,8 +69,9 @@ struct RangeWhen
 
 // A choice out of a list that several settings share: while `when` and `also` hold, none of the others can
 // have its code. One that holds nothing yields to the next code that is free, and one whose list was empty
-// gets the first code that is given back. Settings of the same `holder` are nothing to each other, and so are
-// those of one list whose values at `split` differ.
+// gets the first code that is given back: who takes a code for another one gives that back afterwards.
+// Settings of the same `holder` are nothing to each other, and so are those of one list whose values at
+// `split` differ.
 struct Sole
 {
     const char* path = "";

@@ -66,12 +66,13 @@ constexpr When whenSame(const char* path, const char* other)
     return {path, "", false, other};
 }
 
-// A text of the file or one that follows the language: `format` with the translation of `key` for its %1.
-// Null where the default is a number.
+// A text of the file, or one that follows the language or the host: `format` with the translation of `key`,
+// or with the model as the host calls it, for its %1. Null where the default is a number.
 struct DefaultText
 {
     const char* format = nullptr;
     const char* key = nullptr;
+    bool namesModel = false;
 };
 
 // One value of a choice.
@@ -156,7 +157,7 @@ struct Setting
     bool zeroIsOff = false;    // 0 for off, or a number of the range
     bool negativeIsOn = false; // and a number below 0 is not off but the least
     bool blankIsZero = false;  // an empty value stays empty on show and is 0 in the file
-    std::int32_t wrap = 0;     // of a period: what is beyond so many seconds is dropped
+    std::int32_t wrap = 0;     // of a period: a read drops what is beyond so many seconds
     double switchedOnAt = -1;  // number that switching on brings; -1: the one that was there before
     std::span<const Code> codes{};
     const char* offers = nullptr;   // codes of the list, "NU|NS+"; null: those with `offered`
@@ -193,7 +194,7 @@ struct Setting
     bool numeric = false;        // codes are compared as numbers
     bool readOtherwise = false;  // of a group: read while both `readable` hold, whenever it is written
     bool boundOnRead = false;    // `otherwise` is also what a read gives
-    bool last = false;           // read after all others
+    bool last = false;           // read after all others; in a repetition after those of its number
     bool kept = false;           // of a group: an element that is there keeps what else it holds
     bool unlessEmpty = false;    // of a group: not written while none of its keys is
     bool stays = false;          // a file without the key leaves the value as it stands

@@ -36,6 +36,7 @@ private:
                                           : group.path.join(QLatin1Char('/'));
                 group.kept = setting.kept;
                 group.unlessEmpty = setting.unlessEmpty;
+                group.number = setting.number;
                 group.firstRow = group.endRow = static_cast<int>(layout_.rows.size());
                 layout_.groups.push_back(group);
                 groupSettings_.push_back(&setting);

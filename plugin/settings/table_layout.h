@@ -50,6 +50,7 @@ struct TableLayout
         bool unlessEmpty = false;
         bool nested = false; // another group lies in it
         bool stored = true;  // false: all its rows live in the window alone, the file has no such element
+        int number = 0;      // of the repetition, 0: of none
         int firstRow = 0;
         int endRow = 0;
     };

@@ -9,8 +9,8 @@ constexpr Setting degrees(const char* key, double loadDefault)
     return real(key, loadDefault, 1).stepping(0.5).unit("abbr_017").readSingle();
 }
 
-// The bounds are read in front of the hysteresis, and so keep the distance that the one before asks for:
-// after a reset 6 degrees.
+// The bounds are read in front of the hysteresis, which then pushes them apart where they are too near for
+// it.
 constexpr auto kRows = rowsOf(repeat<4>([](int) {
     return rowsOf(group("SENS%1"),
                   degrees("min", -50).range(-50, 115).in("doubleSpinBox_Left_Temp_%1").caption("cfgt7_002"),

@@ -94,7 +94,11 @@ constexpr auto kRoamingOperators = repeat<kRoamingRows>([](int) {
 
 constexpr auto kRows = rowsOf(
     group("OBJECT"),
-    text("name", "R-7106_Config").upTo(64).typed("^.{0,64}$").in("lineEdit_Name").caption("cfgt1_005"),
+    text("name", DefaultText{.format = "%1_Config", .namesModel = true})
+        .upTo(64)
+        .typed("^.{0,64}$")
+        .in("lineEdit_Name")
+        .caption("cfgt1_005"),
     kServerRows, group("AP1"), shared::kAccessPoint,
     text("pin", "").upTo(8).typed("^\\d{0,8}$").in("Transfer_lineEdit_GSM_Pin1").caption("cfgt1_007"),
 

@@ -108,6 +108,12 @@ private Q_SLOTS:
         QCOMPARE(name()->text(), QStringLiteral("R-7106_Config"));
 
         name()->setText(QStringLiteral("Typed"));
+        vlk::IdentityInfo identity{QStringLiteral("R-7106 LTE"), nullptr, QStringLiteral("VELTRONIKA")};
+        host_.send(Message::SetIdentity, &identity);
+        host_.open({});
+        QCOMPARE(name()->text(), QStringLiteral("R-7106 LTE_Config"));
+        identity.model = QStringLiteral("R-7106");
+        host_.send(Message::SetIdentity, &identity);
         host_.open({});
         QCOMPARE(name()->text(), QStringLiteral("R-7106_Config"));
     }

@@ -79,7 +79,7 @@ private Q_SLOTS:
         tree->setCurrentItem(tree->topLevelItem(1));
         up->click();
         QVERIFY(!up->isEnabled() && down->isEnabled());
-        tree->topLevelItem(0)->setText(1, "no number");
+        tree->topLevelItem(0)->setText(1, "25001x");
         QCOMPARE(saved("ROAMSIM1/opCode1"), QString("0"));
         press("pushButton_RListOperSim_1");
         QTest::mousePress(get<QPushButton>("pushButton_Ok"), Qt::LeftButton);

@@ -169,10 +169,10 @@ private Q_SLOTS:
         full.deviceConnected();
         QCOMPARE(ask(), QVector<vlk::Message>{vlk::Message::RequestSupply});
         vlk::SupplyRecord answer{};
-        answer.values[vlk::supplyElement] = 24870;
+        answer.values[vlk::supplyElement] = 40870;
         full.answers().takeSupply(reinterpret_cast<const uchar*>(&answer));
         const auto* present = get<QDoubleSpinBox>("doubleSpinBox_TuningCur");
-        QCOMPARE(present->value(), 24.87);
+        QCOMPARE(present->value(), 40.87);
         full.setDefaults();
         QCOMPARE(present->value(), 0.0);
         QCOMPARE(ask().size(), 1);

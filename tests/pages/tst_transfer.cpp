@@ -85,6 +85,20 @@ private Q_SLOTS:
         QCOMPARE(get<QStackedWidget>("stackedWidget_Server")->currentWidget(), get("page_Main"));
     }
 
+    // A load counts them within a day.
+    void periodsBeyondADay()
+    {
+        const QString connect = "Srv_Operation_spinBox_Periodic_Connect_Period_";
+        const QString block = "Srv_Operation_spinBox_Block_";
+        const auto shown = [&](const QString& name) { return get<QSpinBox>(name)->value(); };
+        set(connect + "H", 71);
+        set(block + "H", 24);
+        QCOMPARE(notSaved({{"RULES/cnctTimer", "255600"}, {"RULES/blockTimer", "86700"}}), QStringList());
+        QVERIFY(shown(connect + "H") == 71 && shown(block + "H") == 24);
+        load(save());
+        QVERIFY(shown(connect + "H") == 23 && shown(block + "H") == 0 && shown(block + "M") == 5);
+    }
+
     void testResult()
     {
         for (const bool ok : {true, false}) {

@@ -1,6 +1,7 @@
 // All settings without a window: what a file does to them, whatever it holds.
 
 #include "settings/all_settings.h"
+#include "settings/bluetooth_settings.h"
 #include "settings/quick_settings.h"
 #include "support/data_table.h"
 #include "support/files.h"
@@ -99,6 +100,39 @@ private Q_SLOTS:
                                                                           : "none");
         }
         QCOMPARE(written.join(' '), saved);
+    }
+
+    // Temperature sensors (type 2) and combined ones (7) share four numbers. One that is doubled in the file
+    // goes to the first sensor that has it, and the others find a free one.
+    void numbersOfSensors_data()
+    {
+        QTest::addColumn<QString>("types");
+        for (const char* types : {"2222", "7777", "2727", "7722"})
+            QTest::newRow(types) << types;
+    }
+    void numbersOfSensors()
+    {
+        QFETCH(QString, types);
+        vlk::Configuration sensors({&vlk::kBluetoothSettings});
+        for (int code = 0; code < 256; ++code) {
+            QStringList numbers;
+            Values values;
+            for (int i = 0; i < 4; ++i) {
+                numbers << QString::number(1 + code / (1 << (2 * i)) % 4);
+                const QString number = QString::number(i + 1);
+                values.append({"BLUETOOTH/SENS" + number + "/type", types.mid(i, 1)});
+                values.append({"BLUETOOTH/TS" + number + "/idx", numbers.last()});
+            }
+            vlk::XmlDocument out(readAndWritten(sensors, documentWith(values)), "DEVICE");
+            QStringList held;
+            for (const char* element : {"TS1", "TS2", "TS3", "TS4"})
+                held << out.root()->child("BLUETOOTH")->child(element)->getString("idx");
+            const int distinct = QSet<QString>(numbers.begin(), numbers.end()).size();
+            const QString becomes = numbers.join(' ') + " becomes " + held.join(' ');
+            QVERIFY2(distinct < 4 || held == numbers, qPrintable(becomes));
+            QVERIFY2(QSet<QString>(held.begin(), held.end()).size() == 4, qPrintable(becomes));
+            QVERIFY2(held[0] == numbers[0], qPrintable(becomes));
+        }
     }
 
     void emptyAndForeignFiles()

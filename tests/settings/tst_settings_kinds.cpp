@@ -347,6 +347,8 @@ private Q_SLOTS:
         DataTable<QStringList, QString>({"edits", "changed"})
             .row("nothing new", {"whole=5"}, "")
             .row("limited", {"whole=1000"}, "whole=90")
+            .row("no whole number", {"blank=7", "blank=12abc"}, "blank=0")
+            .row("beyond what a read takes", {"wrapped=255600"}, "wrapped=255600")
             .row("pulls another, once", {"whole=7"}, "whole=7 flag=0")
             .row("pulls back", {"flag=0"}, "flag=0 whole=8")
             .row("a preset", {"preset=1", "preset=0"}, "preset=0 one=a two=b")

@@ -45,7 +45,7 @@ void LiveRequests::addTo(Handlers& handlers)
     handlers[Message::RequestAnalog] = [this](void*) { return analog(); };
     handlers[Message::RequestSupply] = [this](void*) -> Answers {
         vlk::SupplyRecord record{};
-        record.values[vlk::supplyElement] = static_cast<std::int16_t>(std::lround(present_().supply()));
+        record.values[vlk::supplyElement] = static_cast<std::uint16_t>(std::lround(present_().supply()));
         return {Answer::record(record)};
     };
     handlers[Message::RequestAccel] = [this](void*) -> Answers {

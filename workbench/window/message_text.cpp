@@ -89,7 +89,7 @@ const RecordRow records[] = {
      [](const void* p) -> MessageText {
          const auto& r = as<SupplyRecord>(p);
          QStringList values;
-         for (const std::int16_t value : r.values)
+         for (const std::uint16_t value : r.values)
              values.append(QString::number(value));
          return {QStringLiteral("values={%1} supply=%2 mV")
                      .arg(values.join(QLatin1String(", ")))
