@@ -1931,6 +1931,7 @@
     <message id="wb_write_cancelled"><translation>The write was cancelled, the tracker keeps what it had.</translation></message>
     <message id="wrd_001"><translation>Yes</translation></message>
     <message id="wrd_002"><translation>No</translation></message>
+    <message id="wb_writing"><translation>The configuration is being written to the tracker.</translation></message>
     <message id="wrd_003"><translation>OK</translation></message>
     <message id="wrd_004"><translation>Error</translation></message>
     <message id="wrd_005"><translation>Attention</translation></message>

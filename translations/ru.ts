@@ -1931,6 +1931,7 @@
     <message id="wb_write_cancelled"><translation>Запись отменена, в трекере осталось прежнее.</translation></message>
     <message id="wrd_001"><translation>Да</translation></message>
     <message id="wrd_002"><translation>Нет</translation></message>
+    <message id="wb_writing"><translation>Конфигурация записывается в трекер.</translation></message>
     <message id="wrd_003"><translation>Ok</translation></message>
     <message id="wrd_004"><translation>Ошибка</translation></message>
     <message id="wrd_005"><translation>Внимание</translation></message>

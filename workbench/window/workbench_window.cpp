@@ -132,6 +132,8 @@ void WorkbenchWindow::connectSession()
     connect(&session_.link(), &PluginLink::passed, &log_, &MessageLogModel::append);
     connect(&session_, &HostSession::helpRequested, this, &WorkbenchWindow::showHelp);
     connect(&session_, &HostSession::configurationWritten, this, &WorkbenchWindow::showReport);
+    connect(&session_, &HostSession::writeBegan, this,
+            [this] { status_->tell(StatusLine::Command, [] { return vlk::text("wb_writing"); }); });
     connect(&session_, &HostSession::writeCancelled, this,
             [this] { status_->tell(StatusLine::Command, [] { return vlk::text("wb_write_cancelled"); }); });
     connect(&session_, &HostSession::editedChanged, this, &WorkbenchWindow::showEdited);
@@ -364,5 +366,6 @@ void WorkbenchWindow::dropEvent(QDropEvent* event)
             return;
         }
 }
+    session_.finishWrites();
 
 } // namespace vlk
