@@ -1918,6 +1918,7 @@
     <message id="wb_type_configuration"><translation>Configuration</translation></message>
     <message id="wb_type_telemetry"><translation>Telemetry</translation></message>
     <message id="wb_unplugged"><translation>The tracker was unplugged while it answered. Attach it and try again.</translation></message>
+    <message id="wb_typed"><translation>Numbers that were not taken as they were typed:</translation></message>
     <message id="wb_unplugged_open"><translation>The tracker was unplugged while it answered. The open window stays, but can be written to the tracker only when it is attached again.</translation></message>
     <message id="wb_unplugged_telemetry"><translation>The tracker was unplugged while it answered, so its telemetry window was closed. A period that was being saved holds only what had come. Attach the tracker and open telemetry again.</translation></message>
     <message id="wb_why_answer"><translation>The tracker's answer cannot be right.</translation></message>

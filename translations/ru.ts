@@ -1918,6 +1918,7 @@
     <message id="wb_type_configuration"><translation>Конфигурация</translation></message>
     <message id="wb_type_telemetry"><translation>Телеметрия</translation></message>
     <message id="wb_unplugged"><translation>Трекер отключился во время ответа. Подключите его и повторите.</translation></message>
+    <message id="wb_typed"><translation>Числа, принятые не так, как они набраны:</translation></message>
     <message id="wb_unplugged_open"><translation>Трекер отключился во время ответа. Окно осталось открытым, но записать его в трекер можно будет, только когда трекер снова подключат.</translation></message>
     <message id="wb_unplugged_telemetry"><translation>Трекер отключился во время ответа, поэтому окно его телеметрии закрыто. Если сохранялся период, в файле только то, что успело прийти. Подключите трекер и откройте телеметрию снова.</translation></message>
     <message id="wb_why_answer"><translation>Ответ трекера неверен.</translation></message>

@@ -8,7 +8,11 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include <thread>
+
 namespace {
+
+Q_LOGGING_CATEGORY(typing, "vlk.settings.typing")
 
 struct Bench : OpenedWorkbench
 {
@@ -280,16 +284,20 @@ private Q_SLOTS:
     // The plug-in's file dialog and what comes of it, at once or later.
     void tellsOfASavedFile_data()
     {
-        DataTable<QByteArray, bool, QString>({"content", "modal", "said"})
-            .row("configuration", "<DEVICE model=\"R-7106\"/>", true, "Saved: ")
-            .row("period, later", telemetry, false, "Saved: ")
-            .row("nothing on the disk", "", true, "was not saved");
+        const QByteArray configuration = "<DEVICE model=\"R-7106\"/>";
+        DataTable<QByteArray, bool, QString, QString>({"content", "modal", "said", "typed"})
+            .row("configuration", configuration, true, "Saved: ", "")
+            .row("configuration with another number than was typed", configuration, true,
+                 "Saved: ", "Speed: 300 is beyond 1 to 180, 180 was written")
+            .row("period, later", telemetry, false, "Saved: ", "")
+            .row("nothing on the disk", "", true, "was not saved", "");
     }
     void tellsOfASavedFile()
     {
         QFETCH(QByteArray, content);
         QFETCH(bool, modal);
         QFETCH(QString, said);
+        QFETCH(QString, typed);
         Bench bench;
         QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         QVERIFY(bench.start());
@@ -304,12 +312,60 @@ private Q_SLOTS:
             QTest::qWait(50);
         const QString saved = name + QStringLiteral(".xml");
         const QString box = messageDuring([&] {
+            if (!typed.isEmpty())
+                qCWarning(typing).noquote() << typed;
             if (!content.isEmpty())
                 writeFile(saved, content);
         });
         QTRY_VERIFY(bench.text("label_Status").contains(said));
-        QCOMPARE(box.isEmpty(), !content.isEmpty());
+        QVERIFY(bench.text("label_Status").contains(typed));
+        QVERIFY2(box.contains(typed), qPrintable(box));
+        QCOMPARE(box.isEmpty(), !content.isEmpty() && typed.isEmpty());
         QCOMPARE(bench.settings.recentFiles().value(0).path, content.isEmpty() ? QString() : saved);
+    }
+
+    // What the plug-in took instead of a typed number is told with the file that holds it, and not before.
+    void tellsOfOtherNumbersThanTyped()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        vlk::HostSession& session = bench.window.session();
+        const auto* log = bench.window.findChild<QTableView*>(QStringLiteral("tableView_Log"))->model();
+        const auto logged = [log] {
+            return log->match(log->index(0, vlk::MessageLogModel::Name), Qt::DisplayRole,
+                              QStringLiteral("vlk.settings.typing"), -1, Qt::MatchExactly);
+        };
+        session.tracker().setFaults({.silence = true});
+        // Whoever listens to the log too still hears of it.
+        QTest::ignoreMessage(QtWarningMsg, "Speed: 300 is beyond 1 to 180, 180 was written");
+        bench.window.openFile(writeFile(bench.root.filePath(QStringLiteral("typed.xml")),
+                                        "<DEVICE model=\"R-7106\"><TYPED/></DEVICE>"));
+        QTRY_VERIFY(bench.text("label_Report").contains(QLatin1String("not written")));
+        QVERIFY(!bench.text("label_Report").contains(QLatin1String("Speed")));
+        QCOMPARE(logged().size(), 1);
+        // The same field once more and another one; other kinds of message are of no concern, other threads
+        // are.
+        std::thread([] {
+            qCWarning(typing, "Speed: 200 is beyond 1 to 180, 180 was written");
+            qCInfo(typing, "Angle: looked at");
+            qCWarning(typing, "Angle: 2,5 is no whole number, 2 was written");
+        }).join();
+        QTRY_COMPARE(logged().size(), 3);
+        session.tracker().setFaults({});
+        QString path = QStringLiteral("vlk_echo.xml");
+        const auto write = [&] {
+            Q_EMIT session.link().received(vlk::Message::WriteConfiguration, &path, nullptr);
+        };
+        write();
+        const QString told =
+            QStringLiteral("as they were typed:\nSpeed: 200 is beyond 1 to 180, 180 was written"
+                           "\nAngle: 2,5 is no whole number, 2 was written");
+        QTRY_VERIFY2(bench.text("label_Report").contains(told), qPrintable(bench.text("label_Report")));
+        QVERIFY(bench.text("label_Status").contains(QLatin1String("Angle: 2,5")));
+        // Once.
+        writeFile(path, "<DEVICE model=\"R-7106\"/>");
+        write();
+        QTRY_VERIFY(!bench.text("label_Report").contains(QLatin1String("Speed")));
     }
 
     // The faults stand in a window that belongs to the modal one and takes the mouse beside it.
@@ -395,7 +451,7 @@ private Q_SLOTS:
             QVERIFY(fits(bench.window.size()));
             bench.window.showHelp(QStringLiteral("index.html"));
             const vlk::FoldersDialog folders({}, {}, &bench.window);
-            vlk::WriteReportView::showDialog({}, &bench.window);
+            vlk::WriteReportView::showDialog({}, {}, &bench.window);
             for (const auto* window : bench.window.findChildren<QDialog*>())
                 QVERIFY2(fits(window->size()), window->objectName().toLatin1().constData());
         }

@@ -153,9 +153,14 @@ void WorkbenchWindow::connectSession()
 
 void WorkbenchWindow::connectNotices()
 {
-    faults_ = std::make_unique<FaultsAtHand>(session_.tracker(), windows_, this);
+    connect(&pluginLog_, &PluginLog::warned, &log_,
+            [this](PluginLog::Topic /*topic*/, const QString& category, const QString& text) {
+                log_.appendWarning(category, text);
+            });
     linkNotices_ = std::make_unique<LinkNotices>(session_, windows_, log_, *status_, this);
-    saveNotices_ = std::make_unique<SaveNotices>(session_, *linkNotices_, windows_, *recent_, *status_, this);
+    faults_ = std::make_unique<FaultsAtHand>(session_.tracker(), windows_, this);
+    saveNotices_ = std::make_unique<SaveNotices>(pluginLog_, session_, *linkNotices_, windows_, *recent_,
+                                                 *status_, this);
     connect(linkNotices_.get(), &LinkNotices::troubleChanged, this, [this] {
         device_->setTrouble(linkNotices_->trouble());
         faults_->setTrouble(linkNotices_->trouble());
@@ -291,12 +296,16 @@ bool WorkbenchWindow::mayReplace()
 
 void WorkbenchWindow::showReport(const tracker::WriteReport& report)
 {
-    reportView_->setReport(report);
+    // What was refused is not written with those numbers yet.
+    const QString typed = report.accepted ? saveNotices_->typing().take() : QString();
+    reportView_->setReport(report, typed);
     tabs_->setCurrentIndex(ReportTab);
-    status_->tell(StatusLine::Command,
-                  [report] { return vlk::summary(report).section(QLatin1Char('\n'), 0, 0); });
+    status_->tell(StatusLine::Command, [report, typed] {
+        const QString summary = vlk::summary(report).section(QLatin1Char('\n'), 0, 0);
+        return typed.isEmpty() ? summary : summary + QLatin1Char('\n') + typed;
+    });
     if (QWidget* modal = QApplication::activeModalWidget())
-        WriteReportView::showDialog(report, modal);
+        WriteReportView::showDialog(report, typed, modal);
 }
 
 void WorkbenchWindow::showEdited()
@@ -348,6 +357,7 @@ void WorkbenchWindow::closeEvent(QCloseEvent* event)
     settings_.setLayout(objectName(), saveGeometry());
     settings_.setLayout(splitter_->objectName(), splitter_->saveState());
     session_.link().send(vlk::Message::CloseWindows);
+    session_.finishWrites();
     event->accept();
 }
 
@@ -366,6 +376,5 @@ void WorkbenchWindow::dropEvent(QDropEvent* event)
             return;
         }
 }
-    session_.finishWrites();
 
 } // namespace vlk

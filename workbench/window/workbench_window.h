@@ -8,6 +8,7 @@
 #include "window/host_session.h"
 #include "window/key_texts.h"
 #include "window/message_log_model.h"
+#include "window/plugin_log.h"
 #include "window/plugin_windows.h"
 #include "window/settings.h"
 
@@ -88,6 +89,7 @@ private:
     HostSession session_;
     MessageLogModel log_;
     PluginWindows windows_;
+    PluginLog pluginLog_;
     Commands commands_;
     HelpPages helpPages_;
     QPointer<HelpViewer> help_;
