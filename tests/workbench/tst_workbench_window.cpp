@@ -480,6 +480,31 @@ private Q_SLOTS:
         QTRY_VERIFY(!silent());
     }
 
+    // A change of language would start the lists of an open configuration anew.
+    void offersNoLanguageBesideAConfiguration()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        QDialog configuration;
+        configuration.setModal(true);
+        for (const auto& [code, why] : {std::pair("en", "The language can be changed when the configuration"),
+                                        {"ru", "Язык можно сменить, когда конфигурация"}}) {
+            bench.window.setLanguage(QLatin1String(code));
+            bench.window.session().newConfiguration(true);
+            configuration.show();
+            for (const char* name : {"action_Language_ru", "action_Language_en"}) {
+                QVERIFY(!bench.action(name)->isEnabled());
+                QVERIFY(bench.action(name)->toolTip().startsWith(QString::fromUtf8(why)));
+                QVERIFY(bench.action(name)->statusTip().startsWith(QString::fromUtf8(why)));
+            }
+            configuration.close();
+            QVERIFY(bench.action("action_Language_ru")->isEnabled());
+            QVERIFY(bench.action("action_Language_ru")->statusTip().isEmpty());
+        }
+        bench.action("action_Language_en")->trigger();
+        QCOMPARE(bench.settings.language(), QStringLiteral("en"));
+    }
+
     void mnemonicsAreUnique()
     {
         Bench bench;

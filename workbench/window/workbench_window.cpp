@@ -143,6 +143,8 @@ void WorkbenchWindow::connectSession()
         if (window->isModal() && !windows_.modal())
             session_.configurationClosed();
     });
+    connect(&windows_, &PluginWindows::opened, this, &WorkbenchWindow::updateCommands);
+    connect(&session_, &HostSession::editedChanged, this, &WorkbenchWindow::updateCommands);
     const auto* tracker = &session_.tracker();
     connect(tracker, &tracker::SimulatedTracker::attachedChanged, this, &WorkbenchWindow::updateCommands);
     // What a command failed for may be mended.
@@ -193,6 +195,12 @@ void WorkbenchWindow::updateCommands()
     for (const Command command : {Command::ReadTracker, Command::LiveTelemetry})
         commands_[command]->setEnabled(loaded && attached);
     commands_[Command::Cable]->setChecked(attached);
+    bars_->setLanguagesOffered(!isConfigurationOpen());
+}
+
+bool WorkbenchWindow::isConfigurationOpen() const
+{
+    return windows_.modal() && !session_.edited().name().isEmpty();
 }
 
 void WorkbenchWindow::tellOfRun(const std::function<QString()>& text)

@@ -81,6 +81,7 @@ private:
     void showReport(const tracker::WriteReport& report);
     void showEdited();
     void updateCommands();
+    bool isConfigurationOpen() const;
 
     const DataFolder& folder_;
     Settings& settings_;
@@ -88,8 +89,8 @@ private:
     KeyTexts texts_;
     HostSession session_;
     MessageLogModel log_;
-    PluginWindows windows_;
     PluginLog pluginLog_;
+    PluginWindows windows_;
     Commands commands_;
     HelpPages helpPages_;
     QPointer<HelpViewer> help_;
