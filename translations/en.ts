@@ -1801,6 +1801,7 @@
     <message id="wb_help_missing"><translation>The page &quot;%1&quot; has not been written yet. The contents page tells about what there is.</translation></message>
     <message id="wb_help_missing_title"><translation>No help page yet</translation></message>
     <message id="wb_language"><translation>&amp;Language</translation></message>
+    <message id="wb_language_later"><translation>The language can be changed when the configuration is closed.</translation></message>
     <message id="wb_language_missing"><translation>The texts of the language &quot;%1&quot; are missing.</translation></message>
     <message id="wb_live_failed"><translation>Telemetry did not come.</translation></message>
     <message id="wb_log_both"><translation>Both directions</translation></message>
@@ -1930,6 +1931,7 @@
     <message id="wb_tracker_value"><translation>Value</translation></message>
     <message id="wb_type_configuration"><translation>Configuration</translation></message>
     <message id="wb_type_telemetry"><translation>Telemetry</translation></message>
+    <message id="wb_typed"><translation>Numbers that were not taken as they were typed:</translation></message>
     <message id="wb_unplugged"><translation>The tracker was unplugged while it answered. Attach it and try again.</translation></message>
     <message id="wb_unplugged_open"><translation>The tracker was unplugged while it answered. The open window stays, but can be written to the tracker only when it is attached again.</translation></message>
     <message id="wb_unplugged_telemetry"><translation>The tracker was unplugged while it answered, so its telemetry window was closed. A period that was being saved holds only what had come. Attach the tracker and open telemetry again.</translation></message>
@@ -1942,6 +1944,7 @@
     <message id="wb_window_full"><translation>Full setup</translation></message>
     <message id="wb_window_quick"><translation>Quick setup</translation></message>
     <message id="wb_write_cancelled"><translation>The write was cancelled, the tracker keeps what it had.</translation></message>
+    <message id="wb_writing"><translation>The configuration is being written to the tracker.</translation></message>
     <message id="wrd_001"><translation>Yes</translation></message>
     <message id="wrd_002"><translation>No</translation></message>
     <message id="wrd_003"><translation>OK</translation></message>

@@ -1801,6 +1801,7 @@
     <message id="wb_help_missing"><translation>Страница «%1» ещё не написана. Общие сведения есть в содержании справки.</translation></message>
     <message id="wb_help_missing_title"><translation>Страницы справки пока нет</translation></message>
     <message id="wb_language"><translation>&amp;Язык</translation></message>
+    <message id="wb_language_later"><translation>Язык можно сменить, когда конфигурация будет закрыта.</translation></message>
     <message id="wb_language_missing"><translation>Нет файла с текстами языка «%1».</translation></message>
     <message id="wb_live_failed"><translation>Телеметрия не получена.</translation></message>
     <message id="wb_log_both"><translation>Оба направления</translation></message>
@@ -1930,6 +1931,7 @@
     <message id="wb_tracker_value"><translation>Значение</translation></message>
     <message id="wb_type_configuration"><translation>Конфигурация</translation></message>
     <message id="wb_type_telemetry"><translation>Телеметрия</translation></message>
+    <message id="wb_typed"><translation>Числа, принятые не так, как они набраны:</translation></message>
     <message id="wb_unplugged"><translation>Трекер отключился во время ответа. Подключите его и повторите.</translation></message>
     <message id="wb_unplugged_open"><translation>Трекер отключился во время ответа. Окно осталось открытым, но записать его в трекер можно будет, только когда трекер снова подключат.</translation></message>
     <message id="wb_unplugged_telemetry"><translation>Трекер отключился во время ответа, поэтому окно его телеметрии закрыто. Если сохранялся период, в файле только то, что успело прийти. Подключите трекер и откройте телеметрию снова.</translation></message>
@@ -1942,6 +1944,7 @@
     <message id="wb_window_full"><translation>Полная настройка</translation></message>
     <message id="wb_window_quick"><translation>Быстрая настройка</translation></message>
     <message id="wb_write_cancelled"><translation>Запись отменена, в трекере осталось прежнее.</translation></message>
+    <message id="wb_writing"><translation>Конфигурация записывается в трекер.</translation></message>
     <message id="wrd_001"><translation>Да</translation></message>
     <message id="wrd_002"><translation>Нет</translation></message>
     <message id="wrd_003"><translation>Ok</translation></message>

@@ -1,6 +1,7 @@
 // The smallest plug-in: OpenConfiguration copies the file (a document of its own where there is none) into
-// the current folder and hands the copy to the host for writing, or tells the log that it could not;
-// RaiseConfiguration asks for help, GetBalanceUssd gives the last path's first letters.
+// the current folder and hands the copy to the host for writing, or tells the log that it could not, and what
+// it made of a number where the document has a TYPED element; RaiseConfiguration asks for help,
+// GetBalanceUssd gives the last path's first letters.
 
 #include "plugin/host/host_interface.h"
 
@@ -13,6 +14,7 @@
 namespace {
 
 Q_LOGGING_CATEGORY(lcSave, "vlk.save")
+Q_LOGGING_CATEGORY(lcTyping, "vlk.settings.typing")
 
 vlk::HostCallback host = nullptr;
 int device = 0;
@@ -65,6 +67,8 @@ Q_DECL_EXPORT void ReceiveMessage(void* handle, std::uint32_t id, void* p1, void
             break;
         }
         copy.close();
+        if (document.contains("<TYPED"))
+            qCWarning(lcTyping, "Speed: 300 is beyond 1 to 180, 180 was written");
         call(vlk::Message::WriteConfiguration, &path);
         break;
     }

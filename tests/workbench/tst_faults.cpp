@@ -170,6 +170,7 @@ private Q_SLOTS:
             .row("write, garbled", Write, garbled, written, true, false)
             .row("write, unplugged", Write, unplug, "not written. The tracker was unplugged", true, false)
             .row("write, delay", Write, delay, written, true, false)
+            .row("write, late", Write, late, silent, true, false)
             .row("write, bad board", Write, board, written, true, false)
             .row("write, full disk", Write, none, "nothing was sent. ", true, true)
             .row("live", Live, none, ready, true, false)

@@ -96,6 +96,29 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(report.file));
     }
 
+    // A delay slows a write as it slows every answer; what is opened meanwhile is none of its business.
+    void slowsAWrite()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        bench.session.tracker().setFaults({.delayMs = 300});
+        QString path = writeFile(bench.root.filePath("edited.xml"), "<DEVICE model=\"R-7106\"/>");
+        QElapsedTimer timer;
+        timer.start();
+        Q_EMIT bench.session.link().received(vlk::Message::WriteConfiguration, &path, nullptr);
+        QTest::qWait(100);
+        bench.session.newConfiguration(true);
+        QVERIFY(bench.report().accepted);
+        QVERIFY(timer.elapsed() >= 300);
+        QVERIFY(bench.session.edited().replacesUnseen());
+        // The new one is under way now, and goes at once where there is no time left.
+        QVERIFY(bench.written.isEmpty());
+        bench.session.finishWrites();
+        QVERIFY(bench.report().accepted && !bench.session.edited().replacesUnseen());
+        QTest::qWait(400);
+        QVERIFY(bench.written.isEmpty());
+    }
+
     // The window would not let it be written; a file can bring it all the same.
     void saysWhatToDoAboutLargeRecords()
     {

@@ -1,6 +1,7 @@
 #include "opened_workbench.h"
 #include "support/data_table.h"
 #include "support/files.h"
+#include "window/answer_watch.h"
 #include "window/folders_dialog.h"
 #include "window/recent_files.h"
 #include "window/write_report_view.h"
@@ -8,7 +9,11 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include <thread>
+
 namespace {
+
+Q_LOGGING_CATEGORY(typing, "vlk.settings.typing")
 
 struct Bench : OpenedWorkbench
 {
@@ -58,6 +63,14 @@ void chooseNext(const QString& path)
         QMetaObject::invokeMethod(dialog, "accept");
     });
     timer->start(5);
+}
+
+QWidget* visibleFaults()
+{
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible() && window->objectName() == QLatin1String("dialog_Faults"))
+            return window;
+    return nullptr;
 }
 
 const QByteArray telemetry = "<TMI model=\"R-7106\" >\n<Page type=\"176\" ver=\"30\" format=\"1\">\n"
@@ -280,16 +293,20 @@ private Q_SLOTS:
     // The plug-in's file dialog and what comes of it, at once or later.
     void tellsOfASavedFile_data()
     {
-        DataTable<QByteArray, bool, QString>({"content", "modal", "said"})
-            .row("configuration", "<DEVICE model=\"R-7106\"/>", true, "Saved: ")
-            .row("period, later", telemetry, false, "Saved: ")
-            .row("nothing on the disk", "", true, "was not saved");
+        const QByteArray configuration = "<DEVICE model=\"R-7106\"/>";
+        DataTable<QByteArray, bool, QString, QString>({"content", "modal", "said", "typed"})
+            .row("configuration", configuration, true, "Saved: ", "")
+            .row("configuration with another number than was typed", configuration, true,
+                 "Saved: ", "Speed: 300 is beyond 1 to 180, 180 was written")
+            .row("period, later", telemetry, false, "Saved: ", "")
+            .row("nothing on the disk", "", true, "was not saved", "");
     }
     void tellsOfASavedFile()
     {
         QFETCH(QByteArray, content);
         QFETCH(bool, modal);
         QFETCH(QString, said);
+        QFETCH(QString, typed);
         Bench bench;
         QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         QVERIFY(bench.start());
@@ -304,62 +321,188 @@ private Q_SLOTS:
             QTest::qWait(50);
         const QString saved = name + QStringLiteral(".xml");
         const QString box = messageDuring([&] {
+            if (!typed.isEmpty())
+                qCWarning(typing).noquote() << typed;
             if (!content.isEmpty())
                 writeFile(saved, content);
         });
         QTRY_VERIFY(bench.text("label_Status").contains(said));
-        QCOMPARE(box.isEmpty(), !content.isEmpty());
+        QVERIFY(bench.text("label_Status").contains(typed));
+        QVERIFY2(box.contains(typed), qPrintable(box));
+        QCOMPARE(box.isEmpty(), !content.isEmpty() && typed.isEmpty());
         QCOMPARE(bench.settings.recentFiles().value(0).path, content.isEmpty() ? QString() : saved);
     }
 
-    // The faults stand in a window that belongs to the modal one and takes the mouse beside it.
-    void switchesFaultsBesideAModalWindow()
+    // What the plug-in took instead of a typed number is told with the file that holds it, and not before.
+    void tellsOfOtherNumbersThanTyped()
     {
         Bench bench;
         QVERIFY(bench.start());
+        vlk::HostSession& session = bench.window.session();
+        const auto* log = bench.window.findChild<QTableView*>(QStringLiteral("tableView_Log"))->model();
+        const auto logged = [log] {
+            return log->match(log->index(0, vlk::MessageLogModel::Name), Qt::DisplayRole,
+                              QStringLiteral("vlk.settings.typing"), -1, Qt::MatchExactly);
+        };
+        session.tracker().setFaults({.silence = true});
+        // Whoever listens to the log too still hears of it.
+        QTest::ignoreMessage(QtWarningMsg, "Speed: 300 is beyond 1 to 180, 180 was written");
+        bench.window.openFile(writeFile(bench.root.filePath(QStringLiteral("typed.xml")),
+                                        "<DEVICE model=\"R-7106\"><TYPED/></DEVICE>"));
+        QTRY_VERIFY(bench.text("label_Report").contains(QLatin1String("not written")));
+        QVERIFY(!bench.text("label_Report").contains(QLatin1String("Speed")));
+        QCOMPARE(logged().size(), 1);
+        // The same field once more and another one; other kinds of message are of no concern, other threads
+        // are.
+        std::thread([] {
+            qCWarning(typing, "Speed: 200 is beyond 1 to 180, 180 was written");
+            qCInfo(typing, "Angle: looked at");
+            qCWarning(typing, "Angle: 2,5 is no whole number, 2 was written");
+        }).join();
+        QTRY_COMPARE(logged().size(), 3);
+        session.tracker().setFaults({});
+        QString path = QStringLiteral("vlk_echo.xml");
+        const auto write = [&] {
+            Q_EMIT session.link().received(vlk::Message::WriteConfiguration, &path, nullptr);
+        };
+        write();
+        const QString told =
+            QStringLiteral("as they were typed:\nSpeed: 200 is beyond 1 to 180, 180 was written"
+                           "\nAngle: 2,5 is no whole number, 2 was written");
+        QTRY_VERIFY2(bench.text("label_Report").contains(told), qPrintable(bench.text("label_Report")));
+        QVERIFY(bench.text("label_Status").contains(QLatin1String("Angle: 2,5")));
+        // Once.
+        writeFile(path, "<DEVICE model=\"R-7106\"/>");
+        write();
+        QTRY_VERIFY(!bench.text("label_Report").contains(QLatin1String("Speed")));
+    }
+
+    // F9 brings the faults over whatever window is in front, with the keyboard, and sends them away again.
+    void bringsFaultsOverEveryWindow()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        QWidget telemetry;
+        QDialog configuration;
+        configuration.setModal(true);
+        configuration.setGeometry(500, 600, 300, 200);
+        QMessageBox question(QMessageBox::Question, {}, QStringLiteral("?"), QMessageBox::Yes,
+                             &configuration);
+        bench.window.showHelp(QStringLiteral("index.html"));
+        auto* help = bench.window.findChild<QDialog*>(QStringLiteral("dialog_Help"));
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        for (QWidget* window : {static_cast<QWidget*>(&bench.window), static_cast<QWidget*>(help), &telemetry,
+                                static_cast<QWidget*>(&configuration), static_cast<QWidget*>(&question)}) {
+            window->show();
+            window->activateWindow();
+            QTRY_VERIFY(window->isActiveWindow());
+            QTest::keyClick(window, Qt::Key_F9);
+            QWidget* faults = visibleFaults();
+            QVERIFY2(faults, window->metaObject()->className());
+            QCOMPARE(faults->parentWidget(), window);
+            QTRY_COMPARE(QApplication::activeWindow(), faults);
+            QVERIFY(screen.contains(faults->frameGeometry()));
+            // A number counts when its typing has ended.
+            auto* delay = faults->findChild<QSpinBox*>(QStringLiteral("spinBox_Delay"));
+            const auto delayMs = [&bench] { return bench.window.session().tracker().faults().delayMs; };
+            for (const auto& [typed, taken] : {std::pair("1500", 1500), {"999999", delay->maximum()}}) {
+                const int before = delayMs();
+                delay->setFocus();
+                delay->selectAll();
+                QTest::keyClicks(QApplication::focusWidget(), typed);
+                QCOMPARE(delayMs(), before);
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Enter);
+                QCOMPARE(delayMs(), taken);
+            }
+            bench.window.session().tracker().setFaults({});
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_F9);
+            QVERIFY(!faults->isVisible());
+            QTRY_COMPARE(QApplication::activeWindow(), window);
+        }
+    }
+
+    // What is no question to the tracker does not bring them up, nor does what came up after it.
+    void faultsComeUninvitedForTheTrackerAlone()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        const auto ask = [&bench] {
+            Q_EMIT bench.window.session().link().passed(vlk::Direction::ToHost, 2242, nullptr, nullptr);
+        };
         QDialog modal;
         modal.setModal(true);
-        modal.resize(300, 200);
+        modal.setGeometry(0, 40, 200, 100);
         modal.show();
-        QTRY_VERIFY(modal.findChild<QShortcut*>());
-        auto* beside = modal.findChild<QDialog*>(QStringLiteral("dialog_Faults"));
-        if (!beside || !beside->isVisible())
-            Q_EMIT modal.findChild<QShortcut*>()->activated();
-        beside = modal.findChild<QDialog*>(QStringLiteral("dialog_Faults"));
-        QTRY_VERIFY(beside && beside->isVisible());
+        ask();
+        {
+            QDialog serverTest;
+            serverTest.setModal(true);
+            serverTest.setGeometry(0, 40, 200, 100);
+            serverTest.show();
+            QTest::qWait(vlk::AnswerWatch::noticeMs + 100);
+            QVERIFY(!visibleFaults());
+        }
+        ask();
+        QTRY_VERIFY(visibleFaults());
+        QWidget* faults = visibleFaults();
+        QCOMPARE(faults->parentWidget(), &modal);
+        QVERIFY(faults->testAttribute(Qt::WA_ShowWithoutActivating));
+        // Beside the modal window they take the mouse, where the panel of the main window is out of reach.
         const auto click = [](QWidget* window, const char* name) {
             auto* box = window->findChild<QAbstractButton*>(QLatin1String(name));
             const QPoint at = box->mapTo(window, QPoint(8, box->height() / 2));
             QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, at);
         };
         const auto silent = [&] { return bench.window.session().tracker().faults().silence; };
-        click(beside, "checkBox_Silence");
+        click(faults, "checkBox_Silence");
         QTRY_VERIFY(silent());
-        // The panel in the main window follows, and is out of reach.
         auto* tabs = bench.window.findChild<QTabWidget*>(QStringLiteral("tabWidget_Main"));
         tabs->setCurrentIndex(2);
-        auto* own = tabs->findChild<QAbstractButton*>(QStringLiteral("checkBox_Silence"));
-        QVERIFY(own->isChecked());
+        QVERIFY(tabs->findChild<QAbstractButton*>(QStringLiteral("checkBox_Silence"))->isChecked());
         click(&bench.window, "checkBox_Silence");
         QTest::qWait(20);
         QVERIFY(silent());
-        auto* delay = beside->findChild<QSpinBox*>(QStringLiteral("spinBox_Delay"));
-        delay->selectAll();
-        QTest::keyClicks(delay, "999999");
-        QCOMPARE(bench.window.session().tracker().faults().delayMs, delay->maximum());
-        // Another modal window comes over it and goes.
+        // Another modal window comes over it, gets them by the key and goes.
         {
             QDialog above;
             above.setModal(true);
             above.show();
-            QTRY_COMPARE(beside->parentWidget(), &above);
-            above.close();
-            QTRY_COMPARE(beside->parentWidget(), &modal);
+            QTRY_VERIFY(above.isActiveWindow());
+            QTest::keyClick(&above, Qt::Key_F9);
+            QVERIFY(visibleFaults());
+            QCOMPARE(visibleFaults()->parentWidget(), &above);
         }
+        QTRY_VERIFY(visibleFaults());
+        QCOMPARE(visibleFaults()->parentWidget(), &modal);
         modal.close();
-        QVERIFY(!beside->isVisible());
+        QVERIFY(!visibleFaults());
         click(&bench.window, "checkBox_Silence");
         QTRY_VERIFY(!silent());
+    }
+
+    // A change of language would start the lists of an open configuration anew.
+    void offersNoLanguageBesideAConfiguration()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        QDialog configuration;
+        configuration.setModal(true);
+        for (const auto& [code, why] : {std::pair("en", "The language can be changed when the configuration"),
+                                        {"ru", "Язык можно сменить, когда конфигурация"}}) {
+            bench.window.setLanguage(QLatin1String(code));
+            bench.window.session().newConfiguration(true);
+            configuration.show();
+            for (const char* name : {"action_Language_ru", "action_Language_en"}) {
+                QVERIFY(!bench.action(name)->isEnabled());
+                QVERIFY(bench.action(name)->toolTip().startsWith(QString::fromUtf8(why)));
+                QVERIFY(bench.action(name)->statusTip().startsWith(QString::fromUtf8(why)));
+            }
+            configuration.close();
+            QVERIFY(bench.action("action_Language_ru")->isEnabled());
+            QVERIFY(bench.action("action_Language_ru")->statusTip().isEmpty());
+        }
+        bench.action("action_Language_en")->trigger();
+        QCOMPARE(bench.settings.language(), QStringLiteral("en"));
     }
 
     void mnemonicsAreUnique()
@@ -395,7 +538,7 @@ private Q_SLOTS:
             QVERIFY(fits(bench.window.size()));
             bench.window.showHelp(QStringLiteral("index.html"));
             const vlk::FoldersDialog folders({}, {}, &bench.window);
-            vlk::WriteReportView::showDialog({}, &bench.window);
+            vlk::WriteReportView::showDialog({}, {}, &bench.window);
             for (const auto* window : bench.window.findChildren<QDialog*>())
                 QVERIFY2(fits(window->size()), window->objectName().toLatin1().constData());
         }

@@ -25,7 +25,10 @@ AnswerWatch::AnswerWatch(const PluginLink& link)
 {
     patience_.setSingleShot(true);
     patience_.setInterval(patienceMs);
+    notice_.setSingleShot(true);
+    notice_.setInterval(noticeMs);
     connect(&link, &PluginLink::passed, this, &AnswerWatch::look);
+    connect(&notice_, &QTimer::timeout, this, &AnswerWatch::late);
     connect(&patience_, &QTimer::timeout, this, [this] {
         told_ = true;
         Q_EMIT silent(since_);
@@ -37,16 +40,26 @@ void AnswerWatch::look(vlk::Direction direction, quint32 id)
     if (direction == vlk::Direction::ToPlugin) {
         if (isAnswer(id))
             forget();
-    } else if (asksForAnswer(id) && !since_.isValid()) {
+    } else if (asksForAnswer(id)) {
+        begin();
+    }
+}
+
+void AnswerWatch::begin()
+{
+    if (!since_.isValid()) {
         since_ = QDateTime::currentDateTime();
         patience_.start();
     }
+    notice_.start();
+    Q_EMIT asked();
 }
 
 void AnswerWatch::forget()
 {
     since_ = {};
     patience_.stop();
+    notice_.stop();
     if (std::exchange(told_, false))
         Q_EMIT over();
 }

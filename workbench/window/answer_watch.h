@@ -17,13 +17,21 @@ class AnswerWatch : public QObject
 public:
     // An answer takes milliseconds; what takes longer than this does not come by itself.
     static constexpr int patienceMs = 3000;
+    // What takes longer than this, a user notices.
+    static constexpr int noticeMs = 500;
 
     explicit AnswerWatch(const PluginLink& link);
 
+    // Something is asked of the tracker that is no message.
+    void begin();
     // Nobody waits any more: the window that asked is closed, or the tracker gone.
     void forget();
 
 Q_SIGNALS:
+    // With every request.
+    void asked();
+    // The last request waits for longer than a user expects.
+    void late();
     void silent(const QDateTime& since);
     // After silent(): an answer came, or nobody waits any more.
     void over();
@@ -33,6 +41,7 @@ private:
 
     QDateTime since_; // of the oldest request that waits; invalid when none does
     QTimer patience_;
+    QTimer notice_;
     bool told_ = false;
 };
 

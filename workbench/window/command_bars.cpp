@@ -24,7 +24,8 @@ constexpr LanguageRow languageRows[] = {{"ru", "Русский"}, {"en", "Englis
 
 CommandBars::CommandBars(QMainWindow* window, Commands& commands, Settings& settings,
                          const Languages& languages, QMenu* recentFiles)
-    : QObject(window), window_(window), commands_(commands), settings_(settings), languages_(languages)
+    : QObject(window), window_(window), commands_(commands), settings_(settings), languages_(languages),
+      languageChoice_(new QActionGroup(this))
 {
     buildMenus(recentFiles);
     buildToolBar();
@@ -53,15 +54,26 @@ void CommandBars::buildMenus(QMenu* recentFiles)
 
 void CommandBars::buildLanguages(QMenu* menu)
 {
-    auto* group = new QActionGroup(this);
+    menu->setToolTipsVisible(true);
     for (const LanguageRow& row : languageRows) {
         QAction* action = menu->addAction(QString::fromUtf8(row.name));
         action->setCheckable(true);
-        action->setActionGroup(group);
+        action->setActionGroup(languageChoice_);
         const QString code = QLatin1String(row.code);
         action->setObjectName(QStringLiteral("action_Language_") + code);
         connect(action, &QAction::triggered, this, [this, code] { Q_EMIT languageChosen(code); });
         texts_.bind([this, action, code] { action->setChecked(languages_.current() == code); });
+    }
+    texts_.bind([this] { setLanguagesOffered(languageChoice_->isEnabled()); });
+}
+
+void CommandBars::setLanguagesOffered(bool offered)
+{
+    languageChoice_->setEnabled(offered);
+    const QString why = offered ? QString() : vlk::text("wb_language_later");
+    for (QAction* action : languageChoice_->actions()) {
+        action->setToolTip(why);
+        action->setStatusTip(why);
     }
 }
 

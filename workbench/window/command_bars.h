@@ -7,6 +7,7 @@
 
 #include <QObject>
 
+class QActionGroup;
 class QComboBox;
 class QMainWindow;
 class QMenu;
@@ -24,6 +25,8 @@ public:
     CommandBars(QMainWindow* window, Commands& commands, Settings& settings, const Languages& languages,
                 QMenu* recentFiles);
 
+    // Another language is out of reach while a configuration is open, and the commands say so.
+    void setLanguagesOffered(bool offered);
     void retranslate() { texts_.apply(); }
 
 Q_SIGNALS:
@@ -41,6 +44,7 @@ private:
     Settings& settings_;
     const Languages& languages_;
     KeyTexts texts_;
+    QActionGroup* languageChoice_;
 };
 
 } // namespace vlk

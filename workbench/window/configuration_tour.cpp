@@ -102,8 +102,10 @@ void testServer(vlk::Tour& tour)
 {
     QTcpServer server;
     vlk::Tour::expect(server.listen(QHostAddress::LocalHost), server.errorString());
-    vlk::Tour::find<QLineEdit>("GPRSSrv_lineEdit_IP_DNS_Main")->setText(server.serverAddress().toString());
-    vlk::Tour::find<QSpinBox>("GPRSSrv_spinBox_Port_Main")->setValue(server.serverPort());
+    vlk::Tour::type(vlk::Tour::find<QLineEdit>("GPRSSrv_lineEdit_IP_DNS_Main"),
+                    server.serverAddress().toString(), Qt::Key_Tab);
+    vlk::Tour::type(vlk::Tour::find<QSpinBox>("GPRSSrv_spinBox_Port_Main"),
+                    QString::number(server.serverPort()), Qt::Key_Enter);
     QString answer;
     tour.whenModal<QMessageBox>([&](QMessageBox& box) {
         tour.picture(QStringLiteral("server-test.png"), &box);

@@ -23,6 +23,9 @@ using vlk::Tour;
 
 enum Page { Transfer, DataSet, Track, System, Serial, Temperature, LinesIn, Accel, LinesOut, Bluetooth };
 
+// With which decimal sign a number is typed.
+enum class Sign { OfLanguage, OfTheOther };
+
 struct Edit
 {
     const char* widget;
@@ -36,6 +39,7 @@ struct Edit
     int position = -1;
     // What else may change with it: keys whose paths begin so.
     const char* pulls = nullptr;
+    Sign sign = Sign::OfLanguage;
 };
 
 constexpr Edit kEdits[] = {
@@ -44,7 +48,8 @@ constexpr Edit kEdits[] = {
     {"GPRSSrv_spinBox_Port_Main", "5555", "6666", "TRANS/SRV1/port", Transfer},
     {"checkBox_State_2", "1", "0", "PROTOCOL/ZETA/mask", DataSet, 122},
     {"spinBox_ParkingStop", "45", "60", "TRACK/MOVESENS/stopTimer", Track},
-    {"doubleSpinBox_RejectCoord_maxHDOP", "3.1", "3.2", "TRACK/COORDFLT/maxHDOP", Track},
+    {"doubleSpinBox_RejectCoord_maxHDOP", "3.1", "3.2", "TRACK/COORDFLT/maxHDOP", Track, -1, nullptr,
+     Sign::OfTheOther},
     {"TimeZone_spinBox_Value", "5", "7", "SYSTEM/TIME/zone", System},
     {"AllowDecretTime_checkBox", "1", "0", "SYSTEM/TIME/DST", System},
     {"lineEdit_NTP_Srv_4", "time.example.com", "clock.example.com", "SYSTEM/NTP/ntpSrv4", System},
@@ -82,18 +87,22 @@ QString shownBy(QWidget* widget)
     return button->isChecked() ? QStringLiteral("1") : QStringLiteral("0");
 }
 
-void show(QWidget* widget, const QString& value)
+QChar decimalSign(Sign sign)
 {
-    if (auto* line = qobject_cast<QLineEdit*>(widget))
-        line->setText(value);
-    else if (auto* list = qobject_cast<QComboBox*>(widget))
+    const bool comma = (QLocale().decimalPoint() == QLatin1Char(',')) == (sign == Sign::OfLanguage);
+    return QLatin1Char(comma ? ',' : '.');
+}
+
+void enter(QWidget* widget, const QString& value, const Edit& edit, Qt::Key end)
+{
+    if (auto* list = qobject_cast<QComboBox*>(widget))
         list->setCurrentIndex(list->findData(value));
-    else if (auto* number = qobject_cast<QSpinBox*>(widget))
-        number->setValue(value.toInt());
-    else if (auto* number = qobject_cast<QDoubleSpinBox*>(widget))
-        number->setValue(value.toDouble());
     else if (auto* button = qobject_cast<QAbstractButton*>(widget))
-        button->setChecked(value == QLatin1String("1"));
+        Tour::check(button, value == QLatin1String("1"));
+    else if (qobject_cast<QDoubleSpinBox*>(widget))
+        Tour::type(widget, QString(value).replace(QLatin1Char('.'), decimalSign(edit.sign)), end);
+    else
+        Tour::type(widget, value, end);
 }
 
 // The widget of an edit, on its page.
@@ -131,7 +140,8 @@ void editPages(Tour& tour, Notebook& book)
         Tour::expect(widget->isEnabled(), QStringLiteral("%1 is disabled").arg(QLatin1String(edit.widget)));
         const QString value =
             QLatin1String(valueOf(edit, book.before) == QLatin1String(edit.one) ? edit.two : edit.one);
-        show(widget, value);
+        // One field ends with Tab, the next with Enter.
+        enter(widget, value, edit, book.values.size() % 2 == 0 ? Qt::Key_Tab : Qt::Key_Enter);
         book.values.append(value);
         pages.insert(edit.page);
     }

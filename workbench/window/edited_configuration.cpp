@@ -39,6 +39,11 @@ void EditedConfiguration::written(const QByteArray& document)
         return;
     }
     written_ = changesIn(document);
+    trackerHolds(document);
+}
+
+void EditedConfiguration::trackerHolds(const QByteArray& document)
+{
     tracker_ = ConfigurationValues(document);
 }
 

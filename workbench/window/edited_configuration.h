@@ -17,6 +17,8 @@ public:
     void beginNew();
     // The tracker took it.
     void written(const QByteArray& document);
+    // The tracker took one that was open before.
+    void trackerHolds(const QByteArray& document);
     // The window is closed.
     void close();
     // The tracker is gone with what it holds.

@@ -1,24 +1,21 @@
 #include "window/faults_at_hand.h"
 
+#include "window/answer_watch.h"
 #include "window/faults_window.h"
 #include "window/message_box.h"
-#include "window/plugin_windows.h"
 
-#include <QShortcut>
+#include <QApplication>
+#include <QKeyEvent>
 
 namespace vlk {
 
-FaultsAtHand::FaultsAtHand(tracker::SimulatedTracker& tracker, const PluginWindows& windows,
+FaultsAtHand::FaultsAtHand(tracker::SimulatedTracker& tracker, const AnswerWatch& answers, QKeySequence key,
                            QWidget* mainWindow)
-    : tracker_(tracker), windows_(windows), mainWindow_(mainWindow)
+    : tracker_(tracker), key_(std::move(key)), mainWindow_(mainWindow)
 {
-    // The place of a window is known when it is on the screen.
-    connect(&windows_, &PluginWindows::opened, this, &FaultsAtHand::follow, Qt::QueuedConnection);
-    connect(&windows_, &PluginWindows::closed, this, [this](const QWidget* window) {
-        if (window_ && window_->parentWidget() == window)
-            window_->hide();
-    });
-    connect(&windows_, &PluginWindows::closed, this, &FaultsAtHand::follow, Qt::QueuedConnection);
+    QCoreApplication::instance()->installEventFilter(this);
+    connect(&answers, &AnswerWatch::asked, this, [this] { asker_ = QApplication::activeModalWidget(); });
+    connect(&answers, &AnswerWatch::late, this, &FaultsAtHand::offer);
 }
 
 FaultsAtHand::~FaultsAtHand()
@@ -27,48 +24,74 @@ FaultsAtHand::~FaultsAtHand()
     delete window_;
 }
 
-void FaultsAtHand::follow()
+// A shortcut of the main window works in none that is modal, nor in those of the plug-in.
+bool FaultsAtHand::eventFilter(QObject* object, QEvent* event)
 {
-    QWidget* modal = windows_.modal();
-    if (modal == nullptr)
+    if (event->type() == QEvent::Hide && !event->spontaneous()) {
+        if (window_ && object == window_->parentWidget())
+            leave();
+        return false;
+    }
+    if (event->type() != QEvent::KeyPress || !object->isWidgetType() || QApplication::activePopupWidget())
+        return false;
+    const auto& pressed = *static_cast<QKeyEvent*>(event);
+    if (QKeySequence(pressed.key() | int(pressed.modifiers())) != key_)
+        return false;
+    toggle();
+    return true;
+}
+
+void FaultsAtHand::offer()
+{
+    QWidget* modal = QApplication::activeModalWidget();
+    if (!wanted_ || !modal || modal != asker_)
         return;
-    const QString name = QStringLiteral("shortcut_Faults");
-    if (!modal->findChild<QShortcut*>(name, Qt::FindDirectChildrenOnly)) {
-        auto* key = new QShortcut(QKeySequence(shortcut()), modal);
-        key->setObjectName(name);
-        connect(key, &QShortcut::activated, this, &FaultsAtHand::toggle);
+    // Where there is no room it stays where it is.
+    if (!window_ || window_->fitsBeside(*modal)) {
+        FaultsWindow* window = windowOf(modal);
+        if (window->fitsBeside(*modal))
+            window->comeUp(false);
     }
-    FaultsWindow* window = windowOf(modal);
-    if (wanted_ && window->fitsBeside(*modal)) {
-        window->place();
-        window->show();
-    }
+}
+
+void FaultsAtHand::leave()
+{
+    if (!window_->isVisible())
+        return;
+    window_->hide();
+    // What was below the owner comes to the front.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (QWidget* modal = QApplication::activeModalWidget())
+                windowOf(modal)->comeUp(false);
+        },
+        Qt::QueuedConnection);
 }
 
 FaultsWindow* FaultsAtHand::windowOf(QWidget* owner)
 {
-    if (!window_) {
-        window_ = new FaultsWindow(tracker_, owner);
-        window_->setTrouble(trouble_);
-        connect(window_, &QDialog::rejected, this, [this] { wanted_ = false; });
-    } else if (window_->parentWidget() != owner) {
-        window_->setParent(owner, window_->windowFlags());
+    if (window_ && window_->parentWidget() == owner)
+        return window_;
+    if (window_) {
+        window_->hide();
+        window_->deleteLater();
     }
+    // One that changes its owner loses its place with some window managers.
+    window_ = new FaultsWindow(tracker_, owner);
+    window_->setTrouble(trouble_);
+    connect(window_, &QDialog::rejected, this, [this] { wanted_ = false; });
     return window_;
 }
 
 void FaultsAtHand::toggle()
 {
-    QWidget* owner = vlk::windowInFront(mainWindow_);
-    // With the focus in it, the window in front is itself.
-    if (owner == window_)
-        owner = window_->parentWidget();
-    const bool show = !window_ || !window_->isVisible();
-    FaultsWindow* window = windowOf(owner);
-    wanted_ = show;
-    if (show)
-        window->place();
-    window->setVisible(show);
+    if (window_ && QApplication::activeWindow() == window_) {
+        window_->reject();
+        return;
+    }
+    wanted_ = true;
+    windowOf(vlk::windowInFront(mainWindow_))->comeUp(true);
 }
 
 void FaultsAtHand::setTrouble(const QString& text)

@@ -1,8 +1,11 @@
 #pragma once
 
-// Keeps the window of the faults at hand: it comes up beside each modal window of the plug-in that leaves it
-// room, and wherever the user asks for it by the key F9, which works in the modal window too.
+// Keeps the window of the faults at hand. It comes up wherever the user asks for it by its key, over any
+// window of the program, a modal one included, and takes the keyboard. Uninvited it comes up beside a modal
+// window that waits for an answer of the tracker longer than usual, if there is room for it, and leaves that
+// window the keyboard: what it measures live ends when it is no longer the active one.
 
+#include <QKeySequence>
 #include <QObject>
 #include <QPointer>
 
@@ -14,33 +17,38 @@ class SimulatedTracker;
 
 namespace vlk {
 
+class AnswerWatch;
 class FaultsWindow;
-class PluginWindows;
 
 class FaultsAtHand : public QObject
 {
     Q_OBJECT
 
 public:
-    FaultsAtHand(tracker::SimulatedTracker& tracker, const PluginWindows& windows, QWidget* mainWindow);
+    FaultsAtHand(tracker::SimulatedTracker& tracker, const AnswerWatch& answers, QKeySequence key,
+                 QWidget* mainWindow);
     ~FaultsAtHand() override;
 
-    static QString shortcut() { return QStringLiteral("F9"); }
-
-    // Shows or hides it over the window in front.
+    // Brings it over the window in front, or sends it away when it has the keyboard.
     void toggle();
     void setTrouble(const QString& text);
     void retranslate();
 
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
 private:
-    // Goes to the modal window in front, if there is one.
-    void follow();
+    // Uninvited, if there is reason and room.
+    void offer();
+    // Its owner goes.
+    void leave();
     FaultsWindow* windowOf(QWidget* owner);
 
     tracker::SimulatedTracker& tracker_;
-    const PluginWindows& windows_;
+    QKeySequence key_;
     QWidget* mainWindow_;
     QPointer<FaultsWindow> window_;
+    QPointer<QWidget> asker_; // the modal window from which the tracker was asked last
     QString trouble_;
     bool wanted_ = true; // the user has not closed it
 };

@@ -108,10 +108,16 @@ void FaultsPanel::addDelay(QVBoxLayout* column)
     delay->setObjectName(QStringLiteral("spinBox_Delay"));
     delay->setRange(0, longestDelayMs);
     delay->setSingleStep(100);
+    // A number counts when its typing has ended.
+    delay->setKeyboardTracking(false);
     texts_.bind([delay] { delay->setSuffix(QLatin1Char(' ') + vlk::text("abbr_040")); });
     connect(delay, QOverload<int>::of(&QSpinBox::valueChanged), this,
             [this](int ms) { change(&Faults::delayMs, ms); });
-    states_.emplace_back([this, delay] { delay->setValue(tracker_.faults().delayMs); });
+    states_.emplace_back([this, delay] {
+        // Another fault that changes is no reason to drop what is being typed.
+        if (delay->value() != tracker_.faults().delayMs)
+            delay->setValue(tracker_.faults().delayMs);
+    });
     auto* label = texts_.bind(new QLabel(this), "wb_fault_delay");
     label->setBuddy(delay);
     auto* row = new QFormLayout;

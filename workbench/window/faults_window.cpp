@@ -11,14 +11,11 @@
 namespace vlk {
 
 FaultsWindow::FaultsWindow(tracker::SimulatedTracker& tracker, QWidget* owner)
-    : QDialog(owner, Qt::Tool | Qt::WindowCloseButtonHint | Qt::WindowDoesNotAcceptFocus),
-      panel_(new FaultsPanel(tracker)), trouble_(new QLabel(this))
+    : QDialog(owner, Qt::Tool | Qt::WindowCloseButtonHint), panel_(new FaultsPanel(tracker)),
+      trouble_(new QLabel(this))
 {
     setObjectName(QStringLiteral("dialog_Faults"));
     setModal(false);
-    // The window beside it keeps the keyboard: what it measures live ends when it is no longer the active
-    // one.
-    setAttribute(Qt::WA_ShowWithoutActivating);
     texts_.bind(this, "wb_faults_title");
     trouble_->setObjectName(QStringLiteral("label_FaultsTrouble"));
     trouble_->setWordWrap(true);
@@ -41,6 +38,25 @@ void FaultsWindow::retranslate()
     panel_->retranslate();
 }
 
+void FaultsWindow::comeUp(bool withKeyboard)
+{
+    setAttribute(Qt::WA_ShowWithoutActivating, !withKeyboard);
+    if (!isVisible()) {
+        place();
+        show();
+    }
+    if (withKeyboard) {
+        raise();
+        activateWindow();
+    }
+}
+
+void FaultsWindow::reject()
+{
+    QDialog::reject();
+    parentWidget()->activateWindow();
+}
+
 bool FaultsWindow::fitsBeside(const QWidget& window) const
 {
     const QScreen* screen = window.screen();
@@ -51,11 +67,9 @@ void FaultsWindow::place()
 {
     const QWidget& owner = *parentWidget();
     const QRect room = owner.screen() ? owner.screen()->availableGeometry() : owner.frameGeometry();
-    const QRect beside = owner.frameGeometry();
-    if (fitsBeside(owner))
-        move(beside.right() + 1, beside.top());
-    else
-        move(room.right() - width(), room.bottom() - height());
+    vlk::resizeWithin(this, size());
+    const QPoint beside = owner.frameGeometry().topRight() + QPoint(1, 0);
+    vlk::moveWithin(this, fitsBeside(owner) ? beside : room.bottomRight());
 }
 
 } // namespace vlk

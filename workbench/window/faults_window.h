@@ -27,12 +27,19 @@ public:
     // What is wrong with the tracker's answers at present; empty while all is well.
     void setTrouble(const QString& text);
     void retranslate();
-    // Moves beside the owner, or to the corner of the screen where there is no room.
-    void place();
+    // Shows it beside the owner, or in the corner of the screen where there is no room; with the keyboard, or
+    // leaving it where it is until the user clicks here.
+    void comeUp(bool withKeyboard);
     // Whether there is room for it beside a window.
     bool fitsBeside(const QWidget& window) const;
 
+public Q_SLOTS:
+    // Gives the keyboard back to the owner.
+    void reject() override;
+
 private:
+    void place();
+
     FaultsPanel* panel_;
     QLabel* trouble_;
     KeyTexts texts_;

@@ -6,6 +6,9 @@
 
 #include <QFile>
 #include <QLoggingCategory>
+#include <QTimer>
+
+#include <algorithm>
 
 namespace vlk {
 
@@ -90,6 +93,7 @@ QString HostSession::readConfiguration(bool full)
     const Fetched fetched = fetchConfiguration();
     if (!fetched.failure.isEmpty())
         return sentences({text("wb_read_failed"), fetched.failure});
+    ++opened_;
     edited_.readFromTracker(fetched.document);
     link_.openConfiguration(fetched.path, full, false);
     QFile::remove(fetched.path);
@@ -116,6 +120,7 @@ QString HostSession::openConfiguration(const QString& path, bool full)
             file.isOpen() ? vlk::reasonOf(*problem) : text("wb_problem_unreadable").arg(file.errorString());
         return sentences({text("wb_open_failed").arg(path), reason, text("wb_do_file")});
     }
+    ++opened_;
     edited_.openFile(path, document);
     link_.openConfiguration(path, full, true);
     Q_EMIT editedChanged();
@@ -124,6 +129,7 @@ QString HostSession::openConfiguration(const QString& path, bool full)
 
 void HostSession::newConfiguration(bool full)
 {
+    ++opened_;
     edited_.beginNew();
     link_.openConfiguration({}, full, false);
     Q_EMIT editedChanged();
@@ -145,27 +151,48 @@ void HostSession::receive(vlk::Message id, void* p1, void* p2)
         if (p1)
             QMetaObject::invokeMethod(
                 this,
-                [this, path = *static_cast<const QString*>(p1), ask = edited_.replacesUnseen()] {
-                    handOver(path, ask);
-                },
+                [this, write = Write{*static_cast<const QString*>(p1), opened_},
+                 ask = edited_.replacesUnseen()] { handOver(write, ask); },
                 Qt::QueuedConnection);
     } else if (!tracker_.handle(id, p1, p2)) {
         qCInfo(lcSession) << "message without a receiver" << quint32(id);
     }
 }
 
-void HostSession::handOver(const QString& path, bool ask)
+void HostSession::handOver(const Write& write, bool ask)
 {
-    QFile file(path);
     if (ask && mayReplace_ && !mayReplace_()) {
-        file.remove();
+        QFile::remove(write.path);
         Q_EMIT writeCancelled();
         return;
     }
+    // The plug-in names its files by the minute: a second one may have taken the place of the first.
+    std::erase_if(writes_, [&write](const Write& other) { return other.path == write.path; });
+    writes_.push_back(write);
+    Q_EMIT writeBegan();
+    // The answer to a write is as late as any other.
+    QTimer::singleShot(qMax(0, tracker_.faults().delayMs), this, [this, path = write.path] { finish(path); });
+}
+
+void HostSession::finishWrites()
+{
+    while (!writes_.empty())
+        finish(QString(writes_.front().path));
+}
+
+void HostSession::finish(const QString& path)
+{
+    const auto write = std::find_if(writes_.cbegin(), writes_.cend(),
+                                    [&path](const Write& other) { return other.path == path; });
+    if (write == writes_.cend())
+        return;
+    const bool isOpen = write->opened == opened_;
+    writes_.erase(write);
+    QFile file(path);
     const QByteArray document = contentOf(file);
     const tracker::WriteReport report = tracker_.writeConfiguration(path);
     if (report.accepted) {
-        edited_.written(document);
+        isOpen ? edited_.written(document) : edited_.trackerHolds(document);
         if (!file.remove())
             qCWarning(lcSession) << "cannot remove" << path;
     }

@@ -13,6 +13,8 @@
 
 #include <QTemporaryDir>
 
+#include <vector>
+
 namespace vlk {
 
 class HostSession : public QObject
@@ -42,11 +44,15 @@ public:
 
     // The configuration window is closed.
     void configurationClosed();
+    // The tracker takes at once what it would take later.
+    void finishWrites();
     // The plug-in could not save the file that it wanted to be written.
     void writeNotSaved(const QString& path, const QString& reason);
 
 Q_SIGNALS:
     void helpRequested(const QString& page);
+    // A file is on its way to the tracker; configurationWritten() follows.
+    void writeBegan();
     // The tracker took a written file or refused it, or it did not come so far.
     void configurationWritten(const tracker::WriteReport& report);
     // The user was asked and did not want it written; its file is gone.
@@ -61,15 +67,25 @@ private:
         QString path; // a temporary file that holds it
     };
 
+    // A written file on its way, and which of the configurations that were opened it is of.
+    struct Write
+    {
+        QString path;
+        int opened;
+    };
+
     Fetched fetchConfiguration();
     void receive(vlk::Message id, void* p1, void* p2);
-    void handOver(const QString& path, bool ask);
+    void handOver(const Write& write, bool ask);
+    void finish(const QString& path);
     void tellAttached(bool attached);
 
     QTemporaryDir readFiles_;
     tracker::SimulatedTracker tracker_;
     PluginLink link_;
     EditedConfiguration edited_;
+    int opened_ = 0; // how many configurations so far
+    std::vector<Write> writes_;
     std::function<bool()> mayReplace_;
 };
 

@@ -18,6 +18,8 @@ LinkNotices::LinkNotices(HostSession& session, PluginWindows& windows, MessageLo
     using tracker::SimulatedTracker;
     connect(&session_.link(), &PluginLink::passed, this,
             [this](vlk::Direction direction, quint32 id, const void* p1) { look(direction, id, p1); });
+    connect(&session_, &HostSession::writeBegan, &watch_, &AnswerWatch::begin);
+    connect(&session_, &HostSession::configurationWritten, &watch_, &AnswerWatch::forget);
     connect(&watch_, &AnswerWatch::silent, this, [this](const QDateTime& since) {
         setTrouble([since] { return vlk::text("wb_silence").arg(vlk::timeOfDay(since)); });
     });

@@ -23,6 +23,7 @@ public:
     LinkNotices(HostSession& session, PluginWindows& windows, MessageLogModel& log, StatusLine& status,
                 QWidget* mainWindow);
 
+    const AnswerWatch& answers() const { return watch_; }
     // What stands in the status line about the tracker's answers; empty while all is well.
     QString trouble() const { return trouble_ ? trouble_() : QString(); }
     // The period that was asked for last is saved: how many of its records cannot be right.

@@ -28,8 +28,10 @@ QString MessageLogModel::cell(const LoggedMessage& message, int column) const
     case Way:
         return message.direction == vlk::Direction::ToPlugin ? QStringLiteral("→") : QStringLiteral("←");
     case Number:
-        return QString::number(message.id);
+        return message.category.isEmpty() ? QString::number(message.id) : QString();
     case Name: {
+        if (!message.category.isEmpty())
+            return message.category;
         const vlk::MessageInfo* info = vlk::findMessage(message.direction, message.id);
         return info ? QString::fromLatin1(info->name) : QStringLiteral("?");
     }
@@ -75,7 +77,17 @@ QString MessageLogModel::line(int row) const
 
 void MessageLogModel::append(vlk::Direction direction, quint32 id, const void* p1, const void* p2)
 {
-    vlk::MessageText text = vlk::describeMessage(direction, id, p1, p2);
+    const vlk::MessageText text = vlk::describeMessage(direction, id, p1, p2);
+    add({QDateTime::currentDateTime(), direction, id, text.words, text.bytes, {}, {}});
+}
+
+void MessageLogModel::appendWarning(const QString& category, const QString& text)
+{
+    add({QDateTime::currentDateTime(), vlk::Direction::ToHost, 0, text, {}, {}, category});
+}
+
+void MessageLogModel::add(LoggedMessage message)
+{
     if (int(messages_.size()) >= capacity_) {
         const int dropped = std::max(1, capacity_ / 10);
         beginRemoveRows({}, 0, dropped - 1);
@@ -84,7 +96,7 @@ void MessageLogModel::append(vlk::Direction direction, quint32 id, const void* p
     }
     const int row = int(messages_.size());
     beginInsertRows({}, row, row);
-    messages_.push_back({QDateTime::currentDateTime(), direction, id, text.words, text.bytes, {}});
+    messages_.push_back(std::move(message));
     endInsertRows();
 }
 

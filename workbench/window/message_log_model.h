@@ -1,8 +1,8 @@
 #pragma once
 
-// The message log: every message in both directions, the newest last. It holds a bounded number of entries
-// and drops the oldest tenth when it is full. Bytes are kept as they came and turned into hex when they are
-// looked at.
+// The message log: every message in both directions, and what the plug-in warned of in its own log, the
+// newest last. It holds a bounded number of entries and drops the oldest tenth when it is full. Bytes are
+// kept as they came and turned into hex when they are looked at.
 
 #include "plugin/host/host_interface.h"
 
@@ -19,7 +19,8 @@ struct LoggedMessage
     quint32 id = 0;
     QString words;
     QByteArray bytes;
-    QString note; // what is wrong with it, empty for most
+    QString note;     // what is wrong with it, empty for most
+    QString category; // of a warning, which has words and nothing else; empty for a message
 };
 
 class MessageLogModel : public QAbstractTableModel
@@ -48,11 +49,13 @@ public:
 public Q_SLOTS:
     // Reads the parameters before it returns.
     void append(vlk::Direction direction, quint32 id, const void* p1, const void* p2);
+    void appendWarning(const QString& category, const QString& text);
     void clear();
     // The headings in the language in use.
     void retranslate();
 
 private:
+    void add(LoggedMessage message);
     QString cell(const LoggedMessage& message, int column) const;
 
     std::deque<LoggedMessage> messages_;

@@ -31,7 +31,7 @@ void edit(Tour& tour)
         tour.picture(QStringLiteral("quick-%1.png").arg(code),
                      Tour::find<QRadioButton>("radioButton_Track_Econom")->window());
     }
-    Tour::find<QSpinBox>("GPRSSrv_spinBox_Port_Main")->setValue(kPort);
+    Tour::type(Tour::find<QSpinBox>("GPRSSrv_spinBox_Port_Main"), QString::number(kPort), Qt::Key_Tab);
     Tour::press("radioButton_Track_Full");
     Tour::find<QComboBox>("comboBox_NormState_In_1")->setCurrentIndex(3);
     Tour::find<QCheckBox>("checkBox_Fuel_RS485_Use")->setChecked(true);

@@ -45,15 +45,20 @@ bool isTelemetry(const QString& path)
 
 } // namespace
 
-SaveNotices::SaveNotices(HostSession& session, LinkNotices& link, const PluginWindows& windows,
-                         RecentFiles& recent, StatusLine& status, QWidget* mainWindow)
+SaveNotices::SaveNotices(const PluginLog& log, HostSession& session, LinkNotices& link,
+                         const PluginWindows& windows, RecentFiles& recent, StatusLine& status,
+                         QWidget* mainWindow)
     : session_(session), link_(link), recent_(recent), status_(status), mainWindow_(mainWindow),
-      watch_(mainWindow, [&windows] { return windows.modal() != nullptr; })
+      watch_(log, mainWindow, [&windows] { return windows.modal() != nullptr; }), typing_(log)
 {
     // The configuration's window is modal and saves when its dialog has closed; a period is saved when all of
     // its records have come.
     connect(&watch_, &SaveWatch::saved, this, &SaveNotices::tellSaved);
     connect(&watch_, &SaveWatch::failed, this, &SaveNotices::tellFailed);
+    connect(&session_.link(), &PluginLink::passed, this, [this](vlk::Direction, quint32 id) {
+        if (id == quint32(vlk::Message::OpenConfiguration))
+            typing_.forget();
+    });
 }
 
 void SaveNotices::tellSaved(const QString& path)
@@ -63,18 +68,29 @@ void SaveNotices::tellSaved(const QString& path)
     if (kind != StoredFile::Unknown)
         recent_.add(path, TelemetryWindow::Browser);
     if (kind == StoredFile::Configuration) {
-        QFile file(path);
-        const auto changes =
-            file.open(QIODevice::ReadOnly) ? session_.edited().changesIn(file.readAll()) : std::nullopt;
-        status_.tell(StatusLine::Command, [shown, changes] {
-            return changes ? vlk::text("wb_saved_changes").arg(shown, vlk::number(*changes))
-                           : vlk::text("wb_saved").arg(shown);
-        });
+        tellConfiguration(path);
     } else if (const int damaged = isTelemetry(path) ? link_.endPeriod() : 0; damaged > 0) {
         warn([shown, damaged] { return vlk::text("wb_saved_damaged").arg(shown, vlk::number(damaged)); });
     } else {
         status_.tell(StatusLine::Command, [shown] { return vlk::text("wb_saved").arg(shown); });
     }
+}
+
+void SaveNotices::tellConfiguration(const QString& path)
+{
+    QFile file(path);
+    const auto changes =
+        file.open(QIODevice::ReadOnly) ? session_.edited().changesIn(file.readAll()) : std::nullopt;
+    const QString typed = typing_.take();
+    const auto sentence = [shown = QDir::toNativeSeparators(path), changes, typed] {
+        const QString saved = changes ? vlk::text("wb_saved_changes").arg(shown, vlk::number(*changes))
+                                      : vlk::text("wb_saved").arg(shown);
+        return typed.isEmpty() ? saved : saved + QLatin1Char('\n') + typed;
+    };
+    if (typed.isEmpty())
+        status_.tell(StatusLine::Command, sentence);
+    else
+        warn(sentence);
 }
 
 void SaveNotices::tellFailed(const QString& path, const QString& reason)

@@ -1,10 +1,11 @@
 #pragma once
 
 // Tells what became of the files that the plug-in saves: a saved one stands in the status line and among the
-// recent files, one that was not saved is told with its reason, and one that holds damaged records with their
-// number.
+// recent files, one that was not saved is told with its reason, one that holds damaged records with their
+// number, and one that holds other numbers than were typed with those.
 
 #include "window/save_watch.h"
+#include "window/typing_notices.h"
 
 namespace vlk {
 
@@ -19,11 +20,15 @@ class SaveNotices : public QObject
     Q_OBJECT
 
 public:
-    SaveNotices(HostSession& session, LinkNotices& link, const PluginWindows& windows, RecentFiles& recent,
-                StatusLine& status, QWidget* mainWindow);
+    SaveNotices(const PluginLog& log, HostSession& session, LinkNotices& link, const PluginWindows& windows,
+                RecentFiles& recent, StatusLine& status, QWidget* mainWindow);
+
+    // For the one who tells of a written configuration.
+    TypingNotices& typing() { return typing_; }
 
 private:
     void tellSaved(const QString& path);
+    void tellConfiguration(const QString& path);
     void warn(const std::function<QString()>& sentence);
     void tellFailed(const QString& path, const QString& reason);
 
@@ -33,6 +38,7 @@ private:
     StatusLine& status_;
     QWidget* mainWindow_;
     SaveWatch watch_;
+    TypingNotices typing_;
 };
 
 } // namespace vlk

@@ -5,16 +5,12 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QThread>
 
 #include <algorithm>
-#include <cstring>
 
 namespace vlk {
 
 namespace {
-
-SaveWatch* theWatch = nullptr;
 
 // "Configuration XML (*.xml)" gives ".xml"; nothing where the filter takes any name.
 QString suffixOf(const QString& filter)
@@ -25,35 +21,21 @@ QString suffixOf(const QString& filter)
 
 } // namespace
 
-SaveWatch::SaveWatch(const QWidget* mainWindow, SavesAtOnce savesAtOnce)
+SaveWatch::SaveWatch(const PluginLog& log, const QWidget* mainWindow, SavesAtOnce savesAtOnce)
     : mainWindow_(mainWindow), savesAtOnce_(std::move(savesAtOnce))
 {
-    theWatch = this;
-    before_ = qInstallMessageHandler(&SaveWatch::listen);
+    connect(&log, &PluginLog::warned, this,
+            [this](PluginLog::Topic topic, const QString& /*category*/, const QString& text) {
+                if (topic == PluginLog::Topic::SaveFailed)
+                    noteFailure(text);
+            });
     QCoreApplication::instance()->installEventFilter(this);
     connect(&folder_, &QFileSystemWatcher::directoryChanged, this, [this] { look(false); });
 }
 
-SaveWatch::~SaveWatch()
-{
-    theWatch = nullptr;
-    qInstallMessageHandler(before_);
-}
-
-void SaveWatch::listen(QtMsgType type, const QMessageLogContext& context, const QString& message)
-{
-    if (theWatch == nullptr)
-        return;
-    theWatch->before_(type, context, message);
-    if (type != QtWarningMsg || context.category == nullptr || std::strcmp(context.category, "vlk.save") != 0)
-        return;
-    // Only this thread saves. What is known of a file from here on must not be looked for on the disk.
-    if (QThread::currentThread() == theWatch->thread())
-        theWatch->noteFailure(message);
-}
-
 void SaveWatch::noteFailure(const QString& message)
 {
+    // What is known of a file from here on must not be looked for on the disk.
     const auto isNamed = [&message](const Candidate& file) { return message.startsWith(file.path); };
     if (std::any_of(awaited_.cbegin(), awaited_.cend(), isNamed))
         awaited_.clear();

@@ -2,10 +2,9 @@
 
 // Knows what becomes of the files that the plug-in saves, about which no message tells. A file that the user
 // named in a dialog is looked for on the disk, where it has to appear or to change; a save that failed is
-// told by the plug-in in the logging category vlk.save, as "PATH: REASON".
-//
-// One instance at a time: it listens to the log of the whole process, and passes everything on to whoever
-// listened before.
+// told by the plug-in in its log.
+
+#include "window/plugin_log.h"
 
 #include <QDateTime>
 #include <QFileSystemWatcher>
@@ -28,8 +27,7 @@ public:
     // then will not come.
     using SavesAtOnce = std::function<bool()>;
 
-    SaveWatch(const QWidget* mainWindow, SavesAtOnce savesAtOnce);
-    ~SaveWatch() override;
+    SaveWatch(const PluginLog& log, const QWidget* mainWindow, SavesAtOnce savesAtOnce);
 
 Q_SIGNALS:
     void saved(const QString& path);
@@ -48,7 +46,6 @@ private:
         qint64 size;
     };
 
-    static void listen(QtMsgType type, const QMessageLogContext& context, const QString& message);
     static Candidate present(const QString& path);
     void noteFailure(const QString& message);
     void follow(const QFileDialog& dialog);
@@ -56,7 +53,6 @@ private:
 
     const QWidget* mainWindow_;
     SavesAtOnce savesAtOnce_;
-    QtMessageHandler before_;
     QVector<Candidate> awaited_;
     QFileSystemWatcher folder_;
 };

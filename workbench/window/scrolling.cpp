@@ -68,4 +68,15 @@ void resizeWithin(QWidget* window, QSize wanted)
         window->move(place.topLeft());
 }
 
+void moveWithin(QWidget* window, QPoint place)
+{
+    const QScreen* screen = window->screen() ? window->screen() : QGuiApplication::primaryScreen();
+    if (!screen)
+        return;
+    const QRect room = screen->availableGeometry();
+    const QPoint last = room.bottomRight() + QPoint(1, 1) -
+                        QPoint(window->width() + frame.width(), window->height() + frame.height());
+    window->move(qMax(room.left(), qMin(place.x(), last.x())), qMax(room.top(), qMin(place.y(), last.y())));
+}
+
 } // namespace vlk

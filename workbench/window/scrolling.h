@@ -2,6 +2,7 @@
 
 // Windows that fit whatever screen there is: contents that scroll, and sizes that stay within it.
 
+#include <QPoint>
 #include <QSize>
 
 class QScrollArea;
@@ -19,5 +20,8 @@ QSize within(QSize wanted, QSize room);
 // Gives a window that is about to show the wanted size, or as much of it as its screen has, and moves it into
 // the screen.
 void resizeWithin(QWidget* window, QSize wanted);
+
+// Moves it to the place, or as near as it can be with the whole of it and its frame on the screen.
+void moveWithin(QWidget* window, QPoint place);
 
 } // namespace vlk

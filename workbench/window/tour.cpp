@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileDialog>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QThread>
 #include <QTimer>
@@ -14,6 +15,29 @@
 #include <cstdio>
 
 namespace vlk {
+
+namespace {
+
+void giveKeyboard(QWidget* widget)
+{
+    // On a screen of several programs another one may have it.
+    widget->window()->activateWindow();
+    QApplication::setActiveWindow(widget->window());
+    widget->setFocus(Qt::TabFocusReason);
+    Tour::expect(QApplication::focusWidget() == widget,
+                 QStringLiteral("%1 does not take the keyboard").arg(widget->objectName()));
+}
+
+void strike(int key, const QString& text = {}, Qt::KeyboardModifiers modifiers = {})
+{
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, key, modifiers, text);
+        if (QWidget* widget = QApplication::focusWidget())
+            QApplication::sendEvent(widget, &event);
+    }
+}
+
+} // namespace
 
 Tour::Tour(WorkbenchWindow& window, const QString& folder) : window_(window), folder_(folder)
 {
@@ -103,6 +127,22 @@ void Tour::press(const char* button)
     auto* found = find<QAbstractButton>(button);
     expect(found->isEnabled(), QStringLiteral("%1 is disabled").arg(QLatin1String(button)));
     found->click();
+}
+
+void Tour::type(QWidget* field, const QString& text, Qt::Key end)
+{
+    giveKeyboard(field);
+    strike(Qt::Key_A, {}, Qt::ControlModifier);
+    for (const QChar sign : text)
+        strike(sign.toUpper().unicode(), sign);
+    strike(end);
+}
+
+void Tour::check(QAbstractButton* box, bool on)
+{
+    giveKeyboard(box);
+    if (box->isChecked() != on)
+        strike(Qt::Key_Space, QStringLiteral(" "));
 }
 
 void Tour::giveName(QFileDialog& dialog, const QString& path)

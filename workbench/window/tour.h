@@ -15,6 +15,7 @@
 #include <stdexcept>
 #include <vector>
 
+class QAbstractButton;
 class QFileDialog;
 
 namespace vlk {
@@ -61,6 +62,10 @@ public:
     }
     // The visible button of a name; fails the step when it is disabled.
     static void press(const char* button);
+    // What a person does with the keyboard: types over what the field holds and ends that with Tab or Enter,
+    // and checks a box with the space bar.
+    static void type(QWidget* field, const QString& text, Qt::Key end);
+    static void check(QAbstractButton* box, bool on);
     // Types the name into a dialog of Qt's own and accepts it; what is to be saved replaces an earlier file.
     static void giveName(QFileDialog& dialog, const QString& path);
     static void expect(bool condition, const QString& otherwise);

@@ -132,6 +132,8 @@ void WorkbenchWindow::connectSession()
     connect(&session_.link(), &PluginLink::passed, &log_, &MessageLogModel::append);
     connect(&session_, &HostSession::helpRequested, this, &WorkbenchWindow::showHelp);
     connect(&session_, &HostSession::configurationWritten, this, &WorkbenchWindow::showReport);
+    connect(&session_, &HostSession::writeBegan, this,
+            [this] { status_->tell(StatusLine::Command, [] { return vlk::text("wb_writing"); }); });
     connect(&session_, &HostSession::writeCancelled, this,
             [this] { status_->tell(StatusLine::Command, [] { return vlk::text("wb_write_cancelled"); }); });
     connect(&session_, &HostSession::editedChanged, this, &WorkbenchWindow::showEdited);
@@ -141,6 +143,8 @@ void WorkbenchWindow::connectSession()
         if (window->isModal() && !windows_.modal())
             session_.configurationClosed();
     });
+    connect(&windows_, &PluginWindows::opened, this, &WorkbenchWindow::updateCommands);
+    connect(&session_, &HostSession::editedChanged, this, &WorkbenchWindow::updateCommands);
     const auto* tracker = &session_.tracker();
     connect(tracker, &tracker::SimulatedTracker::attachedChanged, this, &WorkbenchWindow::updateCommands);
     // What a command failed for may be mended.
@@ -151,9 +155,15 @@ void WorkbenchWindow::connectSession()
 
 void WorkbenchWindow::connectNotices()
 {
-    faults_ = std::make_unique<FaultsAtHand>(session_.tracker(), windows_, this);
+    connect(&pluginLog_, &PluginLog::warned, &log_,
+            [this](PluginLog::Topic /*topic*/, const QString& category, const QString& text) {
+                log_.appendWarning(category, text);
+            });
     linkNotices_ = std::make_unique<LinkNotices>(session_, windows_, log_, *status_, this);
-    saveNotices_ = std::make_unique<SaveNotices>(session_, *linkNotices_, windows_, *recent_, *status_, this);
+    faults_ = std::make_unique<FaultsAtHand>(session_.tracker(), linkNotices_->answers(),
+                                             commands_[Command::Faults]->shortcut(), this);
+    saveNotices_ = std::make_unique<SaveNotices>(pluginLog_, session_, *linkNotices_, windows_, *recent_,
+                                                 *status_, this);
     connect(linkNotices_.get(), &LinkNotices::troubleChanged, this, [this] {
         device_->setTrouble(linkNotices_->trouble());
         faults_->setTrouble(linkNotices_->trouble());
@@ -185,6 +195,12 @@ void WorkbenchWindow::updateCommands()
     for (const Command command : {Command::ReadTracker, Command::LiveTelemetry})
         commands_[command]->setEnabled(loaded && attached);
     commands_[Command::Cable]->setChecked(attached);
+    bars_->setLanguagesOffered(!isConfigurationOpen());
+}
+
+bool WorkbenchWindow::isConfigurationOpen() const
+{
+    return windows_.modal() && !session_.edited().name().isEmpty();
 }
 
 void WorkbenchWindow::tellOfRun(const std::function<QString()>& text)
@@ -289,12 +305,16 @@ bool WorkbenchWindow::mayReplace()
 
 void WorkbenchWindow::showReport(const tracker::WriteReport& report)
 {
-    reportView_->setReport(report);
+    // What was refused is not written with those numbers yet.
+    const QString typed = report.accepted ? saveNotices_->typing().take() : QString();
+    reportView_->setReport(report, typed);
     tabs_->setCurrentIndex(ReportTab);
-    status_->tell(StatusLine::Command,
-                  [report] { return vlk::summary(report).section(QLatin1Char('\n'), 0, 0); });
+    status_->tell(StatusLine::Command, [report, typed] {
+        const QString summary = vlk::summary(report).section(QLatin1Char('\n'), 0, 0);
+        return typed.isEmpty() ? summary : summary + QLatin1Char('\n') + typed;
+    });
     if (QWidget* modal = QApplication::activeModalWidget())
-        WriteReportView::showDialog(report, modal);
+        WriteReportView::showDialog(report, typed, modal);
 }
 
 void WorkbenchWindow::showEdited()
@@ -346,6 +366,7 @@ void WorkbenchWindow::closeEvent(QCloseEvent* event)
     settings_.setLayout(objectName(), saveGeometry());
     settings_.setLayout(splitter_->objectName(), splitter_->saveState());
     session_.link().send(vlk::Message::CloseWindows);
+    session_.finishWrites();
     event->accept();
 }
 

@@ -8,6 +8,7 @@
 #include "window/host_session.h"
 #include "window/key_texts.h"
 #include "window/message_log_model.h"
+#include "window/plugin_log.h"
 #include "window/plugin_windows.h"
 #include "window/settings.h"
 
@@ -80,6 +81,7 @@ private:
     void showReport(const tracker::WriteReport& report);
     void showEdited();
     void updateCommands();
+    bool isConfigurationOpen() const;
 
     const DataFolder& folder_;
     Settings& settings_;
@@ -87,6 +89,7 @@ private:
     KeyTexts texts_;
     HostSession session_;
     MessageLogModel log_;
+    PluginLog pluginLog_;
     PluginWindows windows_;
     Commands commands_;
     HelpPages helpPages_;

@@ -32,7 +32,7 @@ QString adviceOn(const QString& reasonKey)
 
 } // namespace
 
-QString summary(const tracker::WriteReport& report)
+QString summary(const tracker::WriteReport& report, const QString& typed)
 {
     if (!report.accepted) {
         QString reason = text(report.reasonKey.toLatin1().constData());
@@ -52,17 +52,19 @@ QString summary(const tracker::WriteReport& report)
                                                 .arg(report.changed.size())
                                                 .arg(report.added.size())
                                                 .arg(report.removed.size());
+    if (!typed.isEmpty())
+        taken += QLatin1Char('\n') + typed;
     if (!report.keptSections.isEmpty())
         taken += QLatin1Char('\n') +
                  text("wb_report_kept_sections").arg(report.keptSections.join(QStringLiteral(", ")));
     return taken;
 }
 
-QString plainText(const tracker::WriteReport& report)
+QString plainText(const tracker::WriteReport& report, const QString& typed)
 {
     WriteReportModel model;
     model.setReport(report);
-    QString lines = summary(report) + QLatin1Char('\n');
+    QString lines = summary(report, typed) + QLatin1Char('\n');
     for (int row = 0; row < model.rowCount(); ++row) {
         QStringList cells;
         for (int column = 0; column < model.columnCount(); ++column)

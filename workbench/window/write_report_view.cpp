@@ -23,6 +23,7 @@ WriteReportView::WriteReportView(QWidget* parent)
 {
     summary_->setObjectName(QStringLiteral("label_Report"));
     summary_->setWordWrap(true);
+    summary_->setTextFormat(Qt::PlainText);
     summary_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     copy_->setIcon(vlk::lineIcon(QStringLiteral("copy")));
     copy_->setAutoRaise(true);
@@ -32,7 +33,7 @@ WriteReportView::WriteReportView(QWidget* parent)
         table_->setAccessibleName(vlk::plainText("wb_tab_report"));
     });
     connect(copy_, &QToolButton::clicked, this,
-            [this] { QGuiApplication::clipboard()->setText(vlk::plainText(report_)); });
+            [this] { QGuiApplication::clipboard()->setText(vlk::plainText(report_, typed_)); });
 
     table_->setObjectName(QStringLiteral("tableView_Report"));
     table_->setModel(&model_);
@@ -61,9 +62,10 @@ WriteReportView::WriteReportView(QWidget* parent)
     showSummary();
 }
 
-void WriteReportView::setReport(const tracker::WriteReport& report)
+void WriteReportView::setReport(const tracker::WriteReport& report, const QString& typed)
 {
     report_ = report;
+    typed_ = typed;
     time_ = QDateTime::currentDateTime();
     model_.setReport(report);
     showSummary();
@@ -78,11 +80,12 @@ void WriteReportView::showSummary()
         summary_->setText(vlk::text("wb_report_none"));
         return;
     }
-    const auto picture = report_.accepted ? QStyle::SP_DialogApplyButton : QStyle::SP_MessageBoxWarning;
+    const bool asTyped = report_.accepted && typed_.isEmpty();
+    const auto picture = asTyped ? QStyle::SP_DialogApplyButton : QStyle::SP_MessageBoxWarning;
     const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
     symbol_->setPixmap(style()->standardIcon(picture).pixmap(side, side));
-    summary_->setText(
-        QStringLiteral("%1  %2").arg(time_.toString(QStringLiteral("HH:mm:ss")), vlk::summary(report_)));
+    summary_->setText(QStringLiteral("%1  %2").arg(time_.toString(QStringLiteral("HH:mm:ss")),
+                                                   vlk::summary(report_, typed_)));
 }
 
 void WriteReportView::retranslate()
@@ -92,14 +95,14 @@ void WriteReportView::retranslate()
     showSummary();
 }
 
-void WriteReportView::showDialog(const tracker::WriteReport& report, QWidget* parent)
+void WriteReportView::showDialog(const tracker::WriteReport& report, const QString& typed, QWidget* parent)
 {
     auto* dialog = new QDialog(parent);
     dialog->setObjectName(QStringLiteral("dialog_Report"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowTitle(vlk::plainText("wb_tab_report"));
     auto* view = new WriteReportView(dialog);
-    view->setReport(report);
+    view->setReport(report, typed);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, dialog);
     connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
     auto* column = new QVBoxLayout(dialog);

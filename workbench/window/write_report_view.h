@@ -23,11 +23,12 @@ class WriteReportView : public QWidget
 public:
     explicit WriteReportView(QWidget* parent = nullptr);
 
-    void setReport(const tracker::WriteReport& report);
+    // With what became of numbers that were still being typed, or nothing.
+    void setReport(const tracker::WriteReport& report, const QString& typed);
     void retranslate();
 
     // The view in a dialog of its own that deletes itself when it is closed.
-    static void showDialog(const tracker::WriteReport& report, QWidget* parent);
+    static void showDialog(const tracker::WriteReport& report, const QString& typed, QWidget* parent);
 
 private:
     void showSummary();
@@ -35,6 +36,7 @@ private:
     WriteReportModel model_;
     KeyTexts texts_;
     tracker::WriteReport report_;
+    QString typed_;
     QDateTime time_;
     QLabel* symbol_;
     QLabel* summary_;

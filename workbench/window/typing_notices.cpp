@@ -1,0 +1,35 @@
+#include "window/typing_notices.h"
+
+#include "window/languages.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace vlk {
+
+TypingNotices::TypingNotices(const PluginLog& log)
+{
+    connect(&log, &PluginLog::warned, this,
+            [this](PluginLog::Topic topic, const QString& /*category*/, const QString& text) {
+                if (topic == PluginLog::Topic::Typing)
+                    note(text);
+            });
+}
+
+void TypingNotices::note(const QString& line)
+{
+    const QString field = line.section(QStringLiteral(": "), 0, 0) + QStringLiteral(": ");
+    lines_.erase(std::remove_if(lines_.begin(), lines_.end(),
+                                [&field](const QString& earlier) { return earlier.startsWith(field); }),
+                 lines_.end());
+    lines_.append(line);
+}
+
+QString TypingNotices::take()
+{
+    if (lines_.isEmpty())
+        return {};
+    return vlk::text("wb_typed") + QLatin1Char('\n') + std::exchange(lines_, {}).join(QLatin1Char('\n'));
+}
+
+} // namespace vlk

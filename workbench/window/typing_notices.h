@@ -1,0 +1,31 @@
+#pragma once
+
+// What became of numbers that were still being typed when a save or a write came, as the plug-in tells its
+// log: kept for the user until the file that they went into is saved or written. One line a field, the last
+// one counts.
+
+#include "window/plugin_log.h"
+
+#include <QStringList>
+
+namespace vlk {
+
+class TypingNotices : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit TypingNotices(const PluginLog& log);
+
+    // A file is saved or written: what is to be told with it, one text for the user. Empty for most.
+    QString take();
+    // Another configuration opens.
+    void forget() { lines_.clear(); }
+
+private:
+    void note(const QString& line);
+
+    QStringList lines_;
+};
+
+} // namespace vlk
