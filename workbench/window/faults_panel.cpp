@@ -1,6 +1,7 @@
 #include "window/faults_panel.h"
 
 #include "tracker/simulated_tracker.h"
+#include "typing/number_entry.h"
 
 #include <QCheckBox>
 #include <QFormLayout>
@@ -9,8 +10,6 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace vlk {
 
@@ -36,29 +35,6 @@ constexpr FaultRow rows[] = {
 };
 
 constexpr int longestDelayMs = 60'000;
-
-// A number that is typed beyond the range becomes the end of the range, where a spin box as it is refuses the
-// digit that makes it too large and keeps the first ones.
-class DelayBox : public QSpinBox
-{
-public:
-    using QSpinBox::QSpinBox;
-
-protected:
-    QValidator::State validate(QString& text, int& place) const override
-    {
-        bool isNumber = false;
-        const double number = locale().toDouble(cleanTextOf(text), &isNumber);
-        return isNumber && number > maximum() ? QValidator::Acceptable : QSpinBox::validate(text, place);
-    }
-    int valueFromText(const QString& text) const override
-    {
-        return int(std::min(locale().toDouble(cleanTextOf(text)), double(maximum())));
-    }
-
-private:
-    QString cleanTextOf(const QString& text) const { return QString(text).remove(suffix()).trimmed(); }
-};
 
 } // namespace
 
@@ -104,12 +80,11 @@ void FaultsPanel::addFault(QVBoxLayout* column, const char* name, const char* ke
 
 void FaultsPanel::addDelay(QVBoxLayout* column)
 {
-    auto* delay = new DelayBox(this);
+    auto* delay = new QSpinBox(this);
     delay->setObjectName(QStringLiteral("spinBox_Delay"));
     delay->setRange(0, longestDelayMs);
     delay->setSingleStep(100);
-    // A number counts when its typing has ended.
-    delay->setKeyboardTracking(false);
+    vlk::NumberEntry::join(delay);
     texts_.bind([delay] { delay->setSuffix(QLatin1Char(' ') + vlk::text("abbr_040")); });
     connect(delay, QOverload<int>::of(&QSpinBox::valueChanged), this,
             [this](int ms) { change(&Faults::delayMs, ms); });
