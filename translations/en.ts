@@ -1684,6 +1684,7 @@
     <message id="typed_port"><translation>At port 0 no server can be reached.</translation></message>
     <message id="typed_range"><translation>&quot;%1&quot; is outside %2 to %3. %4, the nearest limit, was taken.</translation></message>
     <message id="typed_sign"><translation>This character does not fit here and was left out.</translation></message>
+    <message id="typed_unfit"><translation>A number from %1 to %2 is needed here, with at most this many decimals: %3.</translation></message>
     <message id="typed_whole"><translation>Only whole numbers fit here, not &quot;%1&quot;. The value before it stands.</translation></message>
     <message id="wb_about"><translation>About</translation></message>
     <message id="wb_about_data"><translation>Data folder: %1</translation></message>

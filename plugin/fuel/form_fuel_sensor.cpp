@@ -2,8 +2,8 @@
 
 #include "ui_VLK_Designer_Form_Fuel_Sensor.h"
 
-#include "fuel/decimal_validator.h"
 #include "fuel/form_report_fuel.h"
+#include "fuel/fuel_number_line.h"
 #include "fuel/fuelsensor_graph.h"
 #include "fuel/question.h"
 #include "fuel/table/fuel_document.h"
@@ -31,10 +31,8 @@ VLK_Form_Fuel_Sensor::VLK_Form_Fuel_Sensor(int kind, const QString& name, const 
     ui_->setupUi(this);
     ui_->verticalLayout_Graph->addWidget(graph_);
     ui_->pushButton_Add->setIcon(addIcon);
-    ui_->lineEdit_Volume->setValidator(new vlk::DecimalValidator(kTopAddedVolume, 1, this));
-    auto* codes = new QIntValidator(0, kTopAddedValue, this);
-    codes->setLocale(QLocale::c());
-    ui_->lineEdit_Param->setValidator(codes);
+    vlk::takeNumbers(ui_->lineEdit_Volume, kTopAddedVolume, 1);
+    vlk::takeNumbers(ui_->lineEdit_Param, kTopAddedValue, 0);
     QPalette alarm = ui_->label_Falling->palette();
     alarm.setColor(QPalette::WindowText, Qt::red);
     ui_->label_Falling->setPalette(alarm);
@@ -289,7 +287,7 @@ void VLK_Form_Fuel_Sensor::slot_textChanged_LineEdit_Param(const QString& text)
 void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Add()
 {
     const vlk::FuelRow row{ui_->lineEdit_Volume->text(), ui_->lineEdit_Param->text()};
-    if (!vlk::isPoint(row))
+    if (!vlk::isPoint(row) || vlk::isUnfit(ui_->lineEdit_Volume) || vlk::isUnfit(ui_->lineEdit_Param))
         return;
     addRows({row});
     askForVolume();

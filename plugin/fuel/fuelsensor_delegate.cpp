@@ -1,6 +1,6 @@
 #include "fuel/fuelsensor_delegate.h"
 
-#include "fuel/decimal_validator.h"
+#include "fuel/fuel_number_line.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -14,8 +14,16 @@ QWidget* VLK_FuelSensor_Delegate::createEditor(QWidget* parent, const QStyleOpti
                                                const QModelIndex& /*index*/) const
 {
     auto* edit = new QLineEdit(parent);
-    edit->setValidator(new vlk::DecimalValidator(top_, decimals_, edit));
+    vlk::takeNumbers(edit, top_, decimals_);
     return edit;
+}
+
+// A cell keeps its number where something else was typed.
+void VLK_FuelSensor_Delegate::setModelData(QWidget* editor, QAbstractItemModel* model,
+                                           const QModelIndex& index) const
+{
+    if (!vlk::isUnfit(qobject_cast<QLineEdit*>(editor)))
+        QItemDelegate::setModelData(editor, model, index);
 }
 
 bool VLK_FuelSensor_Delegate::eventFilter(QObject* object, QEvent* event)

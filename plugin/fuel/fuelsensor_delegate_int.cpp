@@ -1,6 +1,7 @@
 #include "fuel/fuelsensor_delegate_int.h"
 
-#include <QIntValidator>
+#include "fuel/fuel_number_line.h"
+
 #include <QLineEdit>
 
 QWidget* VLK_FuelSensor_Delegate_Int::createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
@@ -8,8 +9,13 @@ QWidget* VLK_FuelSensor_Delegate_Int::createEditor(QWidget* parent, const QStyle
 {
     constexpr int highestCode = 65535;
     auto* edit = new QLineEdit(parent);
-    auto* validator = new QIntValidator(0, highestCode, edit);
-    validator->setLocale(QLocale::c());
-    edit->setValidator(validator);
+    vlk::takeNumbers(edit, highestCode, 0);
     return edit;
+}
+
+void VLK_FuelSensor_Delegate_Int::setModelData(QWidget* editor, QAbstractItemModel* model,
+                                               const QModelIndex& index) const
+{
+    if (!vlk::isUnfit(qobject_cast<QLineEdit*>(editor)))
+        QItemDelegate::setModelData(editor, model, index);
 }

@@ -49,8 +49,10 @@ private Q_SLOTS:
         // Fields take what their validators accept, and Enter nothing else.
         type("0,55", "7");
         type("1", "70000");
+        type("1", "2,5");
+        QCOMPARE(child<QLineEdit>("lineEdit_Param")->toolTip(), QString("typed_unfit"));
         type(".", "1");
-        QCOMPARE(rows(), QString("0.5=7 10.5=5 10.5=6 20=8"));
+        QCOMPARE(rows(), QString("10.5=5 10.5=6 20=8"));
         QMap<double, int> map{{99, 1}};
         dialog_->getData(map);
         QCOMPARE(map.value(10.5), 6);

@@ -101,7 +101,7 @@ private Q_SLOTS:
         QVERIFY(child<QWidget>("pushButton_Go")->isHidden());
         // A number beyond the last position is not cut to its first digits.
         child<QSpinBox>("spinBox_Go")->selectAll();
-        QTest::keyClicks(child<QSpinBox>("spinBox_Go"), "15");
+        QTest::keyClicks(child<QSpinBox>("spinBox_Go"), "15\t");
         QCOMPARE(number(), QString("6"));
 
         // The next file begins at its own beginning.

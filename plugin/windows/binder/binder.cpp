@@ -1,6 +1,7 @@
 #include "windows/binder/binder.h"
 
 #include "settings/value_text.h"
+#include "typing/typed_entry.h"
 #include "windows/binder/boxes_adapter.h"
 #include "windows/binder/cell_adapter.h"
 #include "windows/binder/choice_adapter.h"
@@ -12,6 +13,7 @@
 #include "windows/binder/text_adapter.h"
 #include "windows/vlk_dblslider2.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QHash>
@@ -313,6 +315,9 @@ void Binder::take(const QString& widget)
 
 void Binder::finishTyping()
 {
+    // The box that is typed into may be one without a setting of its own.
+    if (TypedEntry* entry = TypedEntry::of(QApplication::focusWidget()))
+        entry->finish();
     for (const auto& adapter : adapters_) {
         if (!adapter)
             continue;
