@@ -148,17 +148,40 @@ private:
         update();
     }
 
+    // Left of the caption, else between the caption and its field, else in the field's corner.
+    QPoint spot() const
+    {
+        const QRect field = field_->geometry();
+        if (caption_ && !caption_->isHidden()) {
+            const QRect caption(caption_->mapTo(parentWidget(), QPoint(0, 0)), caption_->size());
+            const int y = caption.center().y() - shapeSize / 2;
+            const QPoint before(caption.left() - shapeSize - gap, y);
+            if (isFree(before))
+                return before;
+            const int words = caption.left() + std::min(caption.width(), caption_->sizeHint().width());
+            const QPoint between(field.left() - shapeSize - gap, y);
+            if (between.x() >= words && isFree(between))
+                return between;
+        }
+        return field.topLeft() + QPoint(1, 1);
+    }
+
+    bool isFree(QPoint corner) const
+    {
+        const QRect shape(corner, size());
+        const auto siblings = parentWidget()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+        return parentWidget()->rect().contains(shape) &&
+               std::none_of(siblings.begin(), siblings.end(), [&](const QWidget* other) {
+                   return other != this && other != caption_ && !other->isHidden() &&
+                          other->geometry().intersects(shape);
+               });
+    }
+
     void place()
     {
         const bool isShown = !reasons_.empty() && !field_->isHidden();
-        QRect beside = field_->geometry();
-        QPoint corner = beside.topLeft() + QPoint(1, 1);
-        if (caption_ && !caption_->isHidden()) {
-            const QPoint left = caption_->mapTo(parentWidget(), QPoint(0, 0));
-            if (left.x() >= shapeSize + gap)
-                corner = left + QPoint(-shapeSize - gap, (caption_->height() - shapeSize) / 2);
-        }
-        move(corner);
+        if (isShown)
+            move(spot());
         setVisible(isShown);
         raise();
         outline_->setVisible(isShown && worst() == Mark::invalid);
