@@ -49,7 +49,7 @@ QDateTime DateEntry::momentOf(const QString& typed) const
     for (const QString& format :
          {shown, QString(shown).remove(QStringLiteral(":s")), QStringLiteral("yyyy-MM-dd HH:mm:ss"),
           QStringLiteral("yyyy-MM-ddTHH:mm:ss")}) {
-        if (const QDateTime read = moment(format); read.isValid())
+        if (QDateTime read = moment(format); read.isValid())
             return read;
     }
     for (const QString& format : {shown.section(QLatin1Char(' '), 0, 0), QStringLiteral("yyyy-MM-dd")}) {

@@ -163,7 +163,8 @@ private:
             if (between.x() >= words && isFree(between))
                 return between;
         }
-        return field.topLeft() + QPoint(1, 1);
+        // Over the corner rather than in it, where it would hide what the field holds.
+        return {std::max(0, field.left() - shapeSize / 2), std::max(0, field.top() - shapeSize / 2)};
     }
 
     bool isFree(QPoint corner) const

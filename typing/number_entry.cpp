@@ -103,7 +103,7 @@ QString NumberEntry::typed() const
 
 void NumberEntry::complete(QString* text, int* place) const
 {
-    if (*text == box()->specialValueText())
+    if (!text->isEmpty() && *text == box()->specialValueText())
         return;
     if (!text->startsWith(prefix())) {
         text->prepend(prefix());
