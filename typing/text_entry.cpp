@@ -1,6 +1,7 @@
 #include "typing/text_entry.h"
 
 #include "typing/field_mark.h"
+#include "typing/mnemonic.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -83,13 +84,15 @@ void TextEntry::rejected()
 
 bool TextEntry::keyPressed(QKeyEvent* event)
 {
+    if (isMnemonic(*event))
+        return true;
     typed_ = event->matches(QKeySequence::Paste) ? QApplication::clipboard()->text() : event->text();
     switch (event->key()) {
     case Qt::Key_Escape:
+        // Also where nothing was typed: pressed once more than needed it would close the window.
         tell({});
-        if (line_->isReadOnly() || line_->text() == before_)
-            return false;
-        line_->setText(before_);
+        if (!line_->isReadOnly() && line_->text() != before_)
+            line_->setText(before_);
         event->accept();
         return true;
     case Qt::Key_Enter:
@@ -112,7 +115,7 @@ bool TextEntry::eventFilter(QObject* watched, QEvent* event)
             before_ = line_->text();
         break;
     case QEvent::ShortcutOverride:
-        if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape && line_->text() != before_) {
+        if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
             event->accept();
             return true;
         }

@@ -1,7 +1,8 @@
 #pragma once
 
 // Typing a text into a line. Signs that do not fit, or are more than fit, are told at the field; Esc gives
-// back the text that stood there when the field was entered, and Enter presses no button of the window.
+// back the text that stood there when the field was entered and closes no window, and Enter presses no
+// button.
 
 #include <QObject>
 #include <QString>

@@ -1,5 +1,7 @@
 #include "typing/typed_entry.h"
 
+#include "typing/mnemonic.h"
+
 #include <QAbstractSpinBox>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -107,7 +109,7 @@ bool TypedEntry::ends(QEvent* event)
 
 bool TypedEntry::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::ShortcutOverride && typing_ &&
+    if (event->type() == QEvent::ShortcutOverride &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
         event->accept();
         return true;
@@ -115,10 +117,11 @@ bool TypedEntry::eventFilter(QObject* watched, QEvent* event)
     if (event->type() != QEvent::KeyPress)
         return ends(event) || QObject::eventFilter(watched, event);
     auto* const key = static_cast<QKeyEvent*>(event);
+    if (isMnemonic(*key))
+        return true;
     switch (key->key()) {
     case Qt::Key_Escape:
-        if (!typing_)
-            return false;
+        // Also where nothing was typed: pressed once more than needed it would close the window.
         giveUp();
         box_->selectAll();
         key->accept();

@@ -3,7 +3,8 @@
 // Typing into a box for numbers or dates. What is being typed is no value yet: it becomes one when typing
 // ends (Enter, Tab, the focus leaves, a step by arrow or wheel, a save). What the box cannot take is refused,
 // the value before it stands; what lies beyond the range becomes the nearest limit. Either is marked at the
-// box. Esc gives back what stood there before.
+// box. Esc gives back what stood there before and closes no
+// window.
 //
 // An entry belongs to its box and lives as long as it does.
 
