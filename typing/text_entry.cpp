@@ -29,10 +29,12 @@ TextEntry::TextEntry(QLineEdit* line) : QObject(line), line_(line), before_(line
     line->installEventFilter(this);
     connect(line, &QLineEdit::inputRejected, this, &TextEntry::rejected);
     connect(line, &QLineEdit::textChanged, this, [this] {
-        // A text that was set is no one's typing.
+        // A text that was set is no one's typing. What was left out stays told while more is typed.
         if (!line_->isModified())
             before_ = line_->text();
-        tell({});
+        if (!line_->isModified() || line_->text().size() < shown_.size())
+            tell({});
+        shown_ = line_->text();
         mark();
     });
 }
@@ -56,6 +58,7 @@ void TextEntry::tell(const QString& text)
     if (isMarked_ || !text.isEmpty())
         markField(line_, MarkReason::typing, Mark::invalid, text);
     isMarked_ = !text.isEmpty();
+    news_ = text;
 }
 
 int TextEntry::room() const

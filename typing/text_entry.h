@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <functional>
+#include <utility>
 
 class QKeyEvent;
 class QLineEdit;
@@ -25,6 +26,9 @@ public:
     // Says what is wrong with a text that is taken all the same, with an empty text if nothing is.
     void doubt(std::function<QString(const QString&)> complaint);
 
+    // What was left out of what was typed since this was asked the last time; empty if nothing was.
+    QString takeNews() { return std::exchange(news_, {}); }
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -39,6 +43,8 @@ private:
 
     QLineEdit* line_;
     QString before_;
+    QString shown_; // the text before a change
+    QString news_;
     bool isMarked_ = false;  // for what was typed
     bool isDoubted_ = false; // for what stands there
     QString typed_;          // that comes with the key being pressed

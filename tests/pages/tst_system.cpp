@@ -34,7 +34,7 @@ public:
 private Q_SLOTS:
     void init() { open(); }
 
-    // Two handles and two boxes; what moves is the handle, the box or the slot.
+    // Two handles and two boxes; what moves is the handle or the slot.
     void handles_data()
     {
         DataTable<QString, int, double, double, double>({"pair", "moved", "to", "left", "right"})
@@ -60,13 +60,11 @@ private Q_SLOTS:
         const QString slot = QString("slot_value%1Changed_%2_%3").arg(moved).arg(pair, side);
         const QString keys[] = {pair == "Power" ? "PWRSENS/alarmLvl" : "FUEL/blockVolt",
                                 pair == "Power" ? "PWRSENS/restoreLvl" : "FUEL/unblockVolt"};
-        for (const QString road : {"handle", "box", "slot"}) {
+        for (const QString road : {"handle", "slot"}) {
             page().setDefaults();
             auto* slider = get<VLK_DblSlider2>("slider_" + pair);
             if (road == "handle")
                 moved == 1 ? slider->setValue1(to) : slider->setValue2(to);
-            else if (road == "box")
-                get<QDoubleSpinBox>(box + side)->setValue(to);
             else
                 QVERIFY(QMetaObject::invokeMethod(&page(), qPrintable(slot), Q_ARG(double, to)));
             const QString seen = QString("%1: %2 %3, %4 %5")

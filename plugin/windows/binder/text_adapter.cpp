@@ -41,6 +41,11 @@ void TextAdapter::expect()
         });
 }
 
+QStringList TextAdapter::finishTyping()
+{
+    return {TextEntry::join(edit_)->takeNews()};
+}
+
 void TextAdapter::show(const QString& value)
 {
     if (edit_->text() != value)
