@@ -113,6 +113,11 @@ void VLK_Form_Fuel_Sensor::retranslate()
         report_->retranslate();
 }
 
+bool VLK_Form_Fuel_Sensor::hasRows() const
+{
+    return ui_->tableWidget->rowCount() > 0;
+}
+
 void VLK_Form_Fuel_Sensor::setKindAndName(int kind, const QString& name)
 {
     name_ = name;

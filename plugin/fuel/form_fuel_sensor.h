@@ -37,6 +37,7 @@ public:
     int tabIndex() const { return tabIndex_; }
     void setTabIndex(int index) { tabIndex_ = index; }
     bool isDirty() const { return dirty_; }
+    bool hasRows() const;
     void setKindAndName(int kind, const QString& name);
     void setParamEditable(bool editable);
     // What the sensor says now, in millivolts or as a code.

@@ -192,10 +192,17 @@ void VLK_Form_TMI_Fuel_Sensors::linkLost()
 {
     if (isHidden())
         return;
-    if (!hasUnsaved())
+    if (!hasRows())
         close();
     timer_.stop();
     forEachForm([](VLK_Form_Fuel_Sensor& form, int) { form.clearLiveValue(); });
+}
+
+bool VLK_Form_TMI_Fuel_Sensors::hasRows() const
+{
+    bool found = false;
+    forEachForm([&found](const VLK_Form_Fuel_Sensor& form, int) { found = found || form.hasRows(); });
+    return found;
 }
 
 VLK_Form_Fuel_Sensor* VLK_Form_TMI_Fuel_Sensors::currentForm() const

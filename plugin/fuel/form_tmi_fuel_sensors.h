@@ -32,10 +32,11 @@ public:
     void openWindow(const QString& title);
     void onLiveRecord(const uchar* record);
     // There is a tracker to ask again, or none any more: live values are forgotten, and the window goes
-    // unless it has rows that are in no file.
+    // unless a table has rows.
     void linkFound();
     void linkLost();
-    bool hasUnsaved() const { return unsavedCount_ > 0; }
+    // An open window with rows comes to the front as it is; opening would empty its tables.
+    bool hasRows() const;
     static QString helpPage() { return QStringLiteral("r-7106Fuel.html"); }
     void retranslate();
 
@@ -60,6 +61,7 @@ private:
     VLK_Form_Fuel_Sensor* currentForm() const;
     // Shows the tab of a sensor by the name that its file has, or of its group where there is no such sensor.
     void select(const QString& type);
+    bool hasUnsaved() const { return unsavedCount_ > 0; }
     QString proposedName(const QString& sensor) const;
 
     std::unique_ptr<Ui::VLK_Designer_Form_TMI_Fuel_Sensors> ui_;

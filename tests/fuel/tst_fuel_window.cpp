@@ -231,13 +231,21 @@ private Q_SLOTS:
         QVERIFY(fuel_.window->isHidden());
     }
 
-    // A cable that goes takes the live values with it, not the rows; the chain goes on when the view is back.
+    // A cable that goes takes the live values with it, not the rows, saved or not; the chain goes on when the
+    // view is back.
     void survivesTheCable()
     {
         add("A3", "1", 1000);
+        saveTo("pushButton_Save_Xml", folder.filePath("out.xml"));
+        window->close();
+        QVERIFY(window->isHidden() && fuel_.window->isVisible());
+        openAgain();
+        press("pushButton_FuelSensor");
+        QCOMPARE(rows("A3"), QString("1=1.00"));
+        add("A3", "1", 1000);
         host.send(Message::TrackerDetached);
         QVERIFY(window->isHidden() && fuel_.window->isVisible());
-        QCOMPARE(rows("A3"), QString("1=1.00"));
+        QCOMPARE(rows("A3"), QString("1=1.00 1=1.00"));
         edit("A3", "2");
         QVERIFY(!form("A3")->findChild<QPushButton*>("pushButton_Add")->isEnabled());
         host.send(Message::AnalogRecord, liveRecord().constData());

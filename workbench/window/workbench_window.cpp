@@ -38,6 +38,16 @@ constexpr const char* tabKeys[] = {"wb_tab_log", "wb_tab_report", "wb_tab_tracke
 constexpr int leftWidth = 290;
 constexpr QSize usualSize(1024, 600);
 
+// The one window of the plug-in that asks before it closes; it hangs on the telemetry window.
+QWidget* calibrationWindow()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto found = std::find_if(windows.begin(), windows.end(), [](const QWidget* window) {
+        return window->isVisible() && window->inherits("VLK_Form_TMI_Fuel_Sensors");
+    });
+    return found == windows.end() ? nullptr : *found;
+}
+
 } // namespace
 
 WorkbenchWindow::WorkbenchWindow(const DataFolder& folder, Settings& settings, Languages& languages)
@@ -363,6 +373,12 @@ void WorkbenchWindow::restoreLayout()
 
 void WorkbenchWindow::closeEvent(QCloseEvent* event)
 {
+    // Before anything else goes, so that all stays as it is when the answer is Cancel.
+    QWidget* calibration = calibrationWindow();
+    if (calibration && !calibration->close()) {
+        event->ignore();
+        return;
+    }
     settings_.setLayout(objectName(), saveGeometry());
     settings_.setLayout(splitter_->objectName(), splitter_->saveState());
     session_.link().send(vlk::Message::CloseWindows);
