@@ -915,6 +915,10 @@
     <message id="cfgt6_401"><translation>Copy the table</translation></message>
     <message id="cfgt6_402"><translation>Paste points</translation></message>
     <message id="cfgt6_403"><translation>The value falls while the volume rises. Check the points: %1&#160;l.</translation></message>
+    <message id="cfgt6_404"><translation>Changed since it was saved</translation></message>
+    <message id="cfgt6_405"><translation>The table of %1 (%2) was changed on %3 and not saved.</translation></message>
+    <message id="cfgt6_406"><translation>Bring back</translation></message>
+    <message id="cfgt6_407"><translation>Discard</translation></message>
     <message id="cfgt7_001"><translation>Temperature sensors</translation></message>
     <message id="cfgt7_002"><translation>Min</translation></message>
     <message id="cfgt7_003"><translation>Max</translation></message>
@@ -1984,5 +1988,7 @@
     <message id="wrd_065"><translation>Tachograph</translation></message>
     <message id="wrd_066"><translation>Login</translation></message>
     <message id="wrd_067"><translation>Password</translation></message>
+    <message id="wrd_401"><translation>%1 of %2</translation></message>
+    <message id="wrd_402"><translation>Close this notice</translation></message>
 </context>
 </TS>

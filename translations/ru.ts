@@ -915,6 +915,10 @@
     <message id="cfgt6_401"><translation>Копировать таблицу</translation></message>
     <message id="cfgt6_402"><translation>Вставить точки</translation></message>
     <message id="cfgt6_403"><translation>Показание падает с ростом объёма. Проверьте точки: %1&#160;л.</translation></message>
+    <message id="cfgt6_404"><translation>Изменено после сохранения</translation></message>
+    <message id="cfgt6_405"><translation>Таблицу %1 (%2) изменили %3 и не сохранили.</translation></message>
+    <message id="cfgt6_406"><translation>Вернуть</translation></message>
+    <message id="cfgt6_407"><translation>Удалить</translation></message>
     <message id="cfgt7_001"><translation>Датчики температуры</translation></message>
     <message id="cfgt7_002"><translation>Min</translation></message>
     <message id="cfgt7_003"><translation>Max</translation></message>
@@ -1984,5 +1988,7 @@
     <message id="wrd_065"><translation>Тахограф</translation></message>
     <message id="wrd_066"><translation>Логин</translation></message>
     <message id="wrd_067"><translation>Пароль</translation></message>
+    <message id="wrd_401"><translation>%1 из %2</translation></message>
+    <message id="wrd_402"><translation>Закрыть сообщение</translation></message>
 </context>
 </TS>

@@ -10,6 +10,7 @@
 #include "fuel/table/fuel_file.h"
 #include "fuel/table/fuel_log.h"
 #include "fuel/table/fuel_sensors.h"
+#include "fuel/table/kept_tables.h"
 #include "xml/xml_section.h"
 
 #include <QAction>
@@ -151,6 +152,7 @@ void VLK_Form_Fuel_Sensor::clearAll()
 void VLK_Form_Fuel_Sensor::clearRows()
 {
     setDirty(false);
+    setEdited(false);
     ui_->tableWidget->setRowCount(0);
     ui_->pushButton_Del->setEnabled(false);
     ui_->pushButton_Clear->setEnabled(false);
@@ -212,6 +214,17 @@ void VLK_Form_Fuel_Sensor::setDirty(bool dirty)
     Q_EMIT signal_NeedSaved(dirty);
 }
 
+void VLK_Form_Fuel_Sensor::setEdited(bool edited)
+{
+    edited_ = edited;
+    Q_EMIT signal_Edited();
+}
+
+QString VLK_Form_Fuel_Sensor::keep(const QString& folder, const QString& vehicle, const QDateTime& time) const
+{
+    return vlk::keepTable(folder, name_, vehicle, ui_->lineEdit_Name->text(), ui_->tableWidget->rows(), time);
+}
+
 void VLK_Form_Fuel_Sensor::saveCsv(const QString& path) const
 {
     vlk::saveFuelFile(path, vlk::fuelCsv(captions(), ui_->tableWidget->rows()));
@@ -234,6 +247,7 @@ void VLK_Form_Fuel_Sensor::saveXml(CXmlSection* section)
 {
     vlk::putFuelTable(section, name_, ui_->lineEdit_Name->text(), ui_->tableWidget->rows());
     setDirty(false);
+    setEdited(false);
 }
 
 void VLK_Form_Fuel_Sensor::loadXml(CXmlSection* section)
@@ -277,6 +291,7 @@ void VLK_Form_Fuel_Sensor::slot_CellChanged_Table(int /*row*/, int column)
     }
     ui_->tableWidget->sortByVolume();
     rebuildPoints();
+    setEdited(true);
 }
 
 void VLK_Form_Fuel_Sensor::slot_textChanged_LineEdit_Volume(const QString& text)
@@ -309,6 +324,7 @@ void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Del()
     ui_->pushButton_Clear->setEnabled(anyLeft);
     if (!anyLeft)
         setDirty(false);
+    setEdited(anyLeft);
     rebuildPoints();
 }
 

@@ -5,7 +5,8 @@
 // comma as decimal sign; cells have a point.
 //
 // "Dirty" are rows that were added or pasted and are in no XML file yet. A change of a cell does not count,
-// nor does the removal of single rows, nor a CSV file.
+// nor does the removal of single rows, nor a CSV file. "Edited" is a table without such rows in which cells
+// were changed or single rows removed since it was saved or loaded.
 
 #include "fuel/table/fuel_text.h"
 
@@ -38,6 +39,7 @@ public:
     void setTabIndex(int index) { tabIndex_ = index; }
     bool isDirty() const { return dirty_; }
     bool hasRows() const;
+    bool isEdited() const { return edited_ && !dirty_; }
     void setKindAndName(int kind, const QString& name);
     void setParamEditable(bool editable);
     // What the sensor says now, in millivolts or as a code.
@@ -58,15 +60,19 @@ public:
     // Adds the rows of the file to those that are there.
     void loadCsv(const QString& path);
     // Into and from the root of a calibration document. What was put into one counts as saved; where its file
-    // could not be written, setDirty takes that back.
+    // could not be written, setDirty and setEdited take that back.
     void saveXml(CXmlSection* section);
     void loadXml(CXmlSection* section);
     void setDirty(bool dirty);
+    void setEdited(bool edited);
+    // As it stands, for the next time.
+    QString keep(const QString& folder, const QString& vehicle, const QDateTime& time) const;
 
     void printReport();
 
 Q_SIGNALS:
     void signal_NeedSaved(bool dirty);
+    void signal_Edited();
 
 private Q_SLOTS:
     void slot_CellChanged_Table(int row, int column);
@@ -97,5 +103,6 @@ private:
     QString name_;
     int tabIndex_ = -1;
     bool dirty_ = false;
+    bool edited_ = false;
     vlk::FuelPoints points_;
 };

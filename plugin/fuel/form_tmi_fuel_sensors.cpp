@@ -10,21 +10,28 @@
 #include "fuel/question.h"
 #include "fuel/table/fuel_document.h"
 #include "fuel/table/fuel_file.h"
+#include "fuel/table/kept_tables.h"
 #include "link/device.h"
 #include "link/requests.h"
 #include "windows/fit_to_screen.h"
+#include "windows/notice_bar.h"
 #include "windows/vlk_tabwidget.h"
 #include "xml/xml_document.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QShortcut>
 #include <QtEndian>
 
+#include <algorithm>
 #include <chrono>
 
 using namespace vlk;
 
 namespace {
+
+// Numbers in the bar; offers have those from kOffers on.
+enum NoticeNumber { kEdited, kOffers };
 
 constexpr auto kPause = std::chrono::milliseconds(2000);
 
@@ -54,9 +61,10 @@ int groupOf(int sensor)
 
 VLK_Form_TMI_Fuel_Sensors::VLK_Form_TMI_Fuel_Sensors(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
-      ui_(std::make_unique<Ui::VLK_Designer_Form_TMI_Fuel_Sensors>())
+      ui_(std::make_unique<Ui::VLK_Designer_Form_TMI_Fuel_Sensors>()), bar_(new NoticeBar(this))
 {
     ui_->setupUi(this);
+    ui_->verticalLayout_Window->insertWidget(0, bar_);
     ui_->pushButton_Help->hide();
     buildTabs();
 
@@ -99,6 +107,7 @@ void VLK_Form_TMI_Fuel_Sensors::buildTabs()
         forms_[i] = form;
         connect(form, &VLK_Form_Fuel_Sensor::signal_NeedSaved, this,
                 &VLK_Form_TMI_Fuel_Sensors::slot_NeedSaved);
+        connect(form, &VLK_Form_Fuel_Sensor::signal_Edited, this, &VLK_Form_TMI_Fuel_Sensors::tellEdited);
         const int number = groupOf(i);
         QTabWidget* tabs = ui_->tabWidget;
         if (fuelGroups[number].title) {
@@ -137,6 +146,10 @@ void VLK_Form_TMI_Fuel_Sensors::retranslate()
     ui_->pushButton_Exit->setText(tr("wrd_054"));
     ui_->pushButton_Help->setText(tr("wrd_027"));
     keepCaptions(ui_->horizontalLayout_Buttons);
+    bar_->retranslate();
+    tellEdited();
+    if (isVisible())
+        offerKeptTables();
     for (int i = 0; i < fuelGroupCount; ++i) {
         if (groups_[i])
             ui_->tabWidget->setTabText(groups_[i]->tabIndex(),
@@ -162,6 +175,7 @@ void VLK_Form_TMI_Fuel_Sensors::openWindow(const QString& title)
         form->setFocus();
     requests::analog();
     unsavedCount_ = 0;
+    offerKeptTables();
     slot_currentChanged_FuelType(ui_->tabWidget->currentIndex());
 }
 
@@ -207,14 +221,20 @@ bool VLK_Form_TMI_Fuel_Sensors::hasRows() const
 
 VLK_Form_Fuel_Sensor* VLK_Form_TMI_Fuel_Sensors::currentForm() const
 {
+    const int sensor = currentSensor();
+    return sensor < 0 ? nullptr : forms_[sensor];
+}
+
+int VLK_Form_TMI_Fuel_Sensors::currentSensor() const
+{
     const int shown = ui_->tabWidget->currentIndex();
-    VLK_Form_Fuel_Sensor* found = nullptr;
+    int found = -1;
     forEachForm([&](VLK_Form_Fuel_Sensor& form, int sensor) {
         const VLK_TabWidget* group = groups_[groupOf(sensor)];
         const bool current = group ? group->tabIndex() == shown && group->currentIndex() == form.tabIndex()
                                    : form.tabIndex() == shown;
         if (current)
-            found = &form;
+            found = sensor;
     });
     return found;
 }
@@ -240,12 +260,89 @@ void VLK_Form_TMI_Fuel_Sensors::slot_currentChanged_FuelType(int /*index*/)
 {
     if (const auto* form = currentForm())
         ui_->pushButton_Save_Xml->setEnabled(form->isDirty());
+    tellEdited();
 }
 
 void VLK_Form_TMI_Fuel_Sensors::slot_NeedSaved(bool on)
 {
     ui_->pushButton_Save_Xml->setEnabled(on);
     unsavedCount_ += on ? 1 : -1;
+    tellEdited();
+}
+
+void VLK_Form_TMI_Fuel_Sensors::tellEdited()
+{
+    const auto* form = currentForm();
+    if (form && form->isEdited())
+        bar_->tell(kEdited, {Mark::changed, tr("cfgt6_404"), {{ui_->pushButton_Save_Xml->text(), [this] {
+                                                                   slot_pressed_Btn_Save_Xml();
+                                                               }}}});
+    else
+        bar_->end(kEdited);
+}
+
+void VLK_Form_TMI_Fuel_Sensors::offerKeptTables()
+{
+    const auto tables = keptTables(telemetryFolder());
+    for (; offers_ > 0; --offers_)
+        bar_->end(kOffers + offers_ - 1);
+    for (const KeptTable& table : tables) {
+        if (std::find(keptAt_.begin(), keptAt_.end(), table.path) != keptAt_.end())
+            continue;
+        const int number = kOffers + offers_++;
+        const QString time = table.time.toString(QStringLiteral("dd.MM.yyyy HH:mm"));
+        bar_->tell(number,
+                   {Mark::changed,
+                    tr("cfgt6_405").arg(table.sensor, table.vehicle, time),
+                    {{tr("cfgt6_406"), [this, table] { bringBack(table); }}, {tr("cfgt6_407"), [this, table] {
+                                                                                  QFile::remove(table.path);
+                                                                                  offerKeptTables();
+                                                                              }}}});
+    }
+}
+
+void VLK_Form_TMI_Fuel_Sensors::bringBack(const KeptTable& table)
+{
+    select(table.sensor);
+    VLK_Form_Fuel_Sensor* form = currentForm();
+    if (!form || form->name() != table.sensor)
+        return;
+    if (form->isDirty() && !agrees(this, tr("tmiw_129"), "wrd_031"))
+        return;
+    if (form->isEdited() && !keep(currentSensor()))
+        return;
+    XmlDocument document(table.path, QLatin1String(fuelRoot));
+    form->loadXml(document.root());
+    form->setEdited(form->hasRows());
+    keptAt_[currentSensor()] = table.path;
+    offerKeptTables();
+}
+
+bool VLK_Form_TMI_Fuel_Sensors::keep(int sensor)
+{
+    const QString path = forms_[sensor]->keep(telemetryFolder(), ui_->lineEdit_Title->text(), now());
+    if (path.isEmpty())
+        return false;
+    dropKept(sensor);
+    keptAt_[sensor] = path;
+    return true;
+}
+
+bool VLK_Form_TMI_Fuel_Sensors::keepEdited()
+{
+    bool allKept = true;
+    forEachForm([&](const VLK_Form_Fuel_Sensor& form, int sensor) {
+        if (form.isEdited() && !keep(sensor))
+            allKept = false;
+    });
+    return allKept;
+}
+
+void VLK_Form_TMI_Fuel_Sensors::dropKept(int sensor)
+{
+    if (!keptAt_[sensor].isEmpty())
+        QFile::remove(keptAt_[sensor]);
+    keptAt_[sensor].clear();
 }
 
 QString VLK_Form_TMI_Fuel_Sensors::proposedName(const QString& sensor) const
@@ -275,8 +372,13 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Load()
     }
     select(document.root()->getString(QStringLiteral("type")));
     VLK_Form_Fuel_Sensor* form = currentForm();
-    if (form && (!form->isDirty() || agrees(this, tr("tmiw_129"), "wrd_031")))
-        form->loadXml(document.root());
+    if (!form || (form->isDirty() && !agrees(this, tr("tmiw_129"), "wrd_031")))
+        return;
+    const bool wasKept = form->isEdited() && keep(currentSensor());
+    form->loadXml(document.root());
+    if (wasKept && !form->isEdited())
+        keptAt_[currentSensor()].clear();
+    offerKeptTables();
 }
 
 void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Xml()
@@ -292,10 +394,15 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Xml()
     root->setString(QStringLiteral("model"), modelText());
     root->setChildValue(QStringLiteral("objName"), ui_->lineEdit_Title->text());
     const bool wasDirty = form && form->isDirty();
+    const bool wasEdited = form && form->isEdited();
     if (form)
         form->saveXml(root);
-    if (!document.saveAs(path) && wasDirty)
+    if (document.saveAs(path))
+        return;
+    if (wasDirty)
         form->setDirty(true);
+    if (wasEdited)
+        form->setEdited(true);
 }
 
 void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Excel()
@@ -330,11 +437,17 @@ void VLK_Form_TMI_Fuel_Sensors::reject()
 {
     const QString question = QStringLiteral("%1!<br>%2 %3<br>%4")
                                  .arg(tr("wrd_005"), tr("tmiw_130"), tr("tmiw_131"), tr("tmiw_132"));
-    if (!hasUnsaved() || agrees(this, question, "wrd_031"))
+    const auto mayLose = [&] { return agrees(this, question, "wrd_031"); };
+    if ((!hasUnsaved() || mayLose()) && (keepEdited() || mayLose()))
         QDialog::reject();
 }
 
 void VLK_Form_TMI_Fuel_Sensors::slot_finished(int /*result*/)
 {
+    forEachForm([this](const VLK_Form_Fuel_Sensor& form, int sensor) {
+        if (!form.isEdited())
+            dropKept(sensor);
+        keptAt_[sensor].clear();
+    });
     timer_.stop();
 }

@@ -1,7 +1,8 @@
 #pragma once
 
 // The calibration window: a table for each fuel sensor of the tracker, each sensor's live value while the
-// user fills the tank, files, and the report. While it is open it asks for the live values: a question, its
+// user fills the tank, files, and the report. A table that was edited and not saved is kept at the end, and
+// offered at the next opening. While it is open it asks for the live values: a question, its
 // answer, two seconds of pause. Live values come as the byte record of the message AnalogRecord.
 
 #include "fuel/table/fuel_sensors.h"
@@ -12,9 +13,13 @@
 #include <array>
 #include <memory>
 
-struct CXmlSection;
 class VLK_Form_Fuel_Sensor;
 class VLK_TabWidget;
+
+namespace vlk {
+class NoticeBar;
+struct KeptTable;
+} // namespace vlk
 
 namespace Ui {
 class VLK_Designer_Form_TMI_Fuel_Sensors;
@@ -62,12 +67,25 @@ private:
     // Shows the tab of a sensor by the name that its file has, or of its group where there is no such sensor.
     void select(const QString& type);
     bool hasUnsaved() const { return unsavedCount_ > 0; }
+    // What the bar says of the table on show.
+    void tellEdited();
+    void offerKeptTables();
+    void bringBack(const vlk::KeptTable& table);
+    // Both are false when the disk refused. What was kept of the sensor before goes.
+    bool keep(int sensor);
+    bool keepEdited();
+    void dropKept(int sensor);
+    int currentSensor() const;
     QString proposedName(const QString& sensor) const;
 
     std::unique_ptr<Ui::VLK_Designer_Form_TMI_Fuel_Sensors> ui_;
     // By the rows of vlk::fuelGroups and vlk::fuelSensors; null for what this model lacks.
     std::array<VLK_TabWidget*, vlk::fuelGroupCount> groups_{};
     std::array<VLK_Form_Fuel_Sensor*, vlk::fuelSensorCount> forms_{};
+    // Where the table of a form is kept that was brought back and is not saved yet.
+    std::array<QString, vlk::fuelSensorCount> keptAt_;
+    vlk::NoticeBar* bar_;
+    int offers_ = 0; // of kept tables, in the bar
     QTimer timer_;
     int unsavedCount_ = 0;
 };

@@ -145,6 +145,52 @@ private Q_SLOTS:
         QVERIFY(fuel_.window->isVisible());
     }
 
+    // What sets no flag is told in the bar, and offered anew when the window was closed over it.
+    void keepsWhatWasEdited()
+    {
+        const QString path = writeFile(folder.filePath("load.xml"), fuelFile("A3"));
+        load(path);
+        QVERIFY(bar()->isHidden());
+        editFirst("A3", "10.5");
+        QCOMPARE(fuel_.text("label_Notice"), QString("cfgt6_404"));
+        show("D1");
+        QVERIFY(bar()->isHidden());
+        show("A3");
+        answerFile(folder.filePath("edited.xml"));
+        pressInBar("wrd_042 XML");
+        QVERIFY(bar()->isHidden() && readFile(folder.filePath("edited.xml")).contains("param_U=\"10\""));
+        {
+            const FullDisk full(16);
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression("unsaved"));
+            editFirst("A3", "11.5");
+            answerBox("wrd_031", kUnsaved);
+            fuel_.window->close();
+            QVERIFY(fuel_.window->isVisible());
+        }
+        fuel_.window->close();
+        QVERIFY(fuel_.window->isHidden());
+        press("pushButton_FuelSensor");
+        QVERIFY(rows("A3").isEmpty());
+        QCOMPARE(fuel_.text("label_Notice"), QString("cfgt6_405"));
+        show("D1");
+        pressInBar("cfgt6_406");
+        QCOMPARE(rows("A3"), QString("11.5=7.5 20=8"));
+        QCOMPARE(field("A3", "lineEdit_Name")->text(), QString("rear"));
+        // The last edit is offered beside the one that it replaced on the screen.
+        load(path);
+        QCOMPARE(rows("A3"), QString("10=7.5 20=8"));
+        mark("A3", 0);
+        answerBox("wrd_001");
+        form("A3")->findChild<QPushButton*>("pushButton_Del")->click();
+        QVERIFY(rows("A3") == "20=8" && fuel_.text("label_NoticePlace") == "wrd_401");
+        fuel_.window->close();
+        press("pushButton_FuelSensor");
+        QTest::keyClick(fuel_.window, Qt::Key_F6);
+        for (int kept = 2; kept > 0; --kept)
+            pressInBar("cfgt6_407");
+        QVERIFY(bar()->isHidden() && QDir(folder.filePath("unsaved")).isEmpty());
+    }
+
     void savesAsCsv()
     {
         add("D2", "10,5", 7);
@@ -328,6 +374,28 @@ private:
         host.send(Message::AnalogRecord, record.constData());
         edit(sensor, volume);
         form(sensor)->findChild<QPushButton*>("pushButton_Add")->click();
+    }
+    QWidget* bar() { return fuel_.child<QWidget>("noticeBar"); }
+    void pressInBar(const QString& caption)
+    {
+        for (auto* button : bar()->findChildren<QPushButton*>())
+            if (!button->isHidden() && button->text() == caption)
+                return button->click();
+        qFatal("no button %s", qPrintable(caption));
+    }
+    QTableWidget* table(const QString& sensor)
+    {
+        return form(sensor)->findChild<QTableWidget*>("tableWidget");
+    }
+    void mark(const QString& sensor, int row) { table(sensor)->item(row, 2)->setCheckState(Qt::Checked); }
+    void editFirst(const QString& sensor, const QString& volume)
+    {
+        table(sensor)->editItem(table(sensor)->item(0, 0));
+        auto* editor = table(sensor)->viewport()->findChild<QLineEdit*>();
+        editor->selectAll();
+        QTest::keyClicks(editor, volume);
+        QTest::keyClick(editor, Qt::Key_Return);
+        QTRY_VERIFY(!table(sensor)->viewport()->findChild<QLineEdit*>());
     }
     QString rows(const QString& sensor)
     {
