@@ -919,6 +919,7 @@
     <message id="cfgt6_405"><translation>The table of %1 (%2) was changed on %3 and not saved.</translation></message>
     <message id="cfgt6_406"><translation>Bring back</translation></message>
     <message id="cfgt6_407"><translation>Discard</translation></message>
+    <message id="cfgt6_408"><translation>→ takes it</translation></message>
     <message id="cfgt7_001"><translation>Temperature sensors</translation></message>
     <message id="cfgt7_002"><translation>Min</translation></message>
     <message id="cfgt7_003"><translation>Max</translation></message>

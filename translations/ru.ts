@@ -919,6 +919,7 @@
     <message id="cfgt6_405"><translation>Таблицу %1 (%2) изменили %3 и не сохранили.</translation></message>
     <message id="cfgt6_406"><translation>Вернуть</translation></message>
     <message id="cfgt6_407"><translation>Удалить</translation></message>
+    <message id="cfgt6_408"><translation>→ взять</translation></message>
     <message id="cfgt7_001"><translation>Датчики температуры</translation></message>
     <message id="cfgt7_002"><translation>Min</translation></message>
     <message id="cfgt7_003"><translation>Max</translation></message>

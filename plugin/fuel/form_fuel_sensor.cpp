@@ -15,6 +15,7 @@
 
 #include <QAction>
 #include <QClipboard>
+#include <QKeyEvent>
 
 namespace {
 
@@ -38,6 +39,7 @@ VLK_Form_Fuel_Sensor::VLK_Form_Fuel_Sensor(int kind, const QString& name, const 
     alarm.setColor(QPalette::WindowText, Qt::red);
     ui_->label_Falling->setPalette(alarm);
     setFocusProxy(ui_->lineEdit_Volume);
+    ui_->lineEdit_Name->installEventFilter(this);
     addClipboardActions();
 
     using Form = VLK_Form_Fuel_Sensor;
@@ -108,6 +110,7 @@ void VLK_Form_Fuel_Sensor::retranslate()
     ui_->tableWidget->setAccessibleName(tr("cfgt6_037"));
     copy_->setText(tr("cfgt6_401"));
     paste_->setText(tr("cfgt6_402"));
+    offerName(offeredName_);
     showCaptions();
     showFallingPoints();
     if (report_)
@@ -151,6 +154,7 @@ void VLK_Form_Fuel_Sensor::clearAll()
 
 void VLK_Form_Fuel_Sensor::clearRows()
 {
+    offerName({});
     setDirty(false);
     setEdited(false);
     ui_->tableWidget->setRowCount(0);
@@ -164,6 +168,23 @@ void VLK_Form_Fuel_Sensor::askForVolume()
 {
     ui_->lineEdit_Volume->clear();
     ui_->lineEdit_Volume->setFocus();
+}
+
+void VLK_Form_Fuel_Sensor::offerName(const QString& name)
+{
+    offeredName_ = name;
+    ui_->lineEdit_Name->setPlaceholderText(
+        name.isEmpty() ? QString() : QStringLiteral("%1 (%2)").arg(name, tr("cfgt6_408")));
+}
+
+bool VLK_Form_Fuel_Sensor::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool takes = event->type() == QEvent::KeyPress && ui_->lineEdit_Name->text().isEmpty() &&
+                       static_cast<QKeyEvent*>(event)->key() == Qt::Key_Right;
+    if (!takes || offeredName_.isEmpty())
+        return QWidget::eventFilter(watched, event);
+    ui_->lineEdit_Name->setText(offeredName_);
+    return true;
 }
 
 void VLK_Form_Fuel_Sensor::addRow(const QString& volume, const QString& value)
@@ -259,6 +280,7 @@ void VLK_Form_Fuel_Sensor::loadXml(CXmlSection* section)
     }
     clearRows();
     ui_->lineEdit_Name->setText(vlk::fuelTableName(section));
+    offerName(vlk::fuelTableWrittenName(section));
     addRows(*rows);
 }
 

@@ -70,6 +70,8 @@ public:
 
     void printReport();
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 Q_SIGNALS:
     void signal_NeedSaved(bool dirty);
     void signal_Edited();
@@ -91,6 +93,8 @@ private:
     void pasteRows();
     void clearRows();
     void askForVolume();
+    // The empty field of the name shows it; the right arrow takes it.
+    void offerName(const QString& name);
     void rebuildPoints();
     void showFallingPoints();
 
@@ -101,6 +105,7 @@ private:
     QAction* paste_;
     int kind_;
     QString name_;
+    QString offeredName_;
     int tabIndex_ = -1;
     bool dirty_ = false;
     bool edited_ = false;

@@ -124,7 +124,14 @@ private Q_SLOTS:
         QVERIFY(!fuel_.isOn("pushButton_Save_Xml"));
         load(path);
         QCOMPARE(rows("A3"), QString("5=0.90 10=12.34"));
-        QCOMPARE(field("A3", "lineEdit_Name")->text(), QString());
+        // The name of the file waits in the field for one key.
+        auto* tank = field("A3", "lineEdit_Name");
+        QCOMPARE(tank->text(), QString());
+        QVERIFY(tank->placeholderText().startsWith("left ("));
+        QTest::keyClick(tank, Qt::Key_Right);
+        QCOMPARE(tank->text(), QString("left"));
+        load(writeFile(path, fuelFile("A3")));
+        QVERIFY(tank->placeholderText().isEmpty());
     }
 
     // What could not be saved stays unsaved, and the file stays as it was.

@@ -78,4 +78,9 @@ QString fuelTableName(const CXmlSection* root)
     return root->getString(kNameRead);
 }
 
+QString fuelTableWrittenName(const CXmlSection* root)
+{
+    return root->getString(kName);
+}
+
 } // namespace vlk

@@ -31,5 +31,7 @@ void putKeptTable(CXmlSection* root, const QString& sensor, const QString& name,
 // The table in the root of a document; none when it has more than maxFuelRows rows.
 std::optional<FuelRows> fuelTable(CXmlSection* root);
 QString fuelTableName(const CXmlSection* root);
+// The name that a document written here holds.
+QString fuelTableWrittenName(const CXmlSection* root);
 
 } // namespace vlk
