@@ -1695,6 +1695,7 @@
     <message id="wb_about_data"><translation>Data folder: %1</translation></message>
     <message id="wb_about_plugin"><translation>Tracker plug-in: %1, version %2</translation></message>
     <message id="wb_answer_bad"><translation>Message %1 from the tracker: %2. Do not rely on the record; check the cable and ask again.</translation></message>
+    <message id="wb_asked_again"><translation>No answer: request %1 was sent to the tracker again.</translation></message>
     <message id="wb_answer_cut"><translation>cut short after %1&#160;B</translation></message>
     <message id="wb_answer_cut_of"><translation>cut short, %1 of %2&#160;B</translation></message>
     <message id="wb_answer_damaged"><translation>damaged</translation></message>

@@ -1695,6 +1695,7 @@
     <message id="wb_about_data"><translation>Папка данных: %1</translation></message>
     <message id="wb_about_plugin"><translation>Модуль трекера: %1, версия %2</translation></message>
     <message id="wb_answer_bad"><translation>Сообщение %1 от трекера: %2. Записи верить нельзя; проверьте кабель и запросите ещё раз.</translation></message>
+    <message id="wb_asked_again"><translation>Ответа нет: запрос %1 отправлен трекеру повторно.</translation></message>
     <message id="wb_answer_cut"><translation>обрывается после %1&#160;байт</translation></message>
     <message id="wb_answer_cut_of"><translation>обрывается, %1 из %2&#160;байт</translation></message>
     <message id="wb_answer_damaged"><translation>повреждено</translation></message>

@@ -88,6 +88,9 @@ VLK_Form_TMI_Fuel_Sensors::VLK_Form_TMI_Fuel_Sensors(QWidget* parent)
     timer_.setSingleShot(true);
     timer_.setInterval(kPause);
     connect(&timer_, &QTimer::timeout, this, &Window::slot_timeout);
+    old_.setSingleShot(true);
+    old_.setInterval(2 * kPause);
+    connect(&old_, &QTimer::timeout, this, &Window::clearLiveValues);
     resize(900, 540);
     keepOnScreen(this);
     retranslate();
@@ -168,6 +171,7 @@ void VLK_Form_TMI_Fuel_Sensors::openWindow(const QString& title)
 {
     ui_->lineEdit_Title->setText(title);
     forEachForm([](VLK_Form_Fuel_Sensor& form, int) { form.clearAll(); });
+    clearLiveValues();
     show();
     raise();
     activateWindow();
@@ -187,6 +191,12 @@ void VLK_Form_TMI_Fuel_Sensors::onLiveRecord(const uchar* record)
         form.setLiveValue(qFromLittleEndian<quint16>(record + fuelSensors[sensor].liveAt));
     });
     timer_.start();
+    old_.start();
+}
+
+void VLK_Form_TMI_Fuel_Sensors::clearLiveValues()
+{
+    forEachForm([](VLK_Form_Fuel_Sensor& form, int) { form.clearLiveValue(); });
 }
 
 void VLK_Form_TMI_Fuel_Sensors::slot_timeout()
@@ -209,7 +219,7 @@ void VLK_Form_TMI_Fuel_Sensors::linkLost()
     if (!hasRows())
         close();
     timer_.stop();
-    forEachForm([](VLK_Form_Fuel_Sensor& form, int) { form.clearLiveValue(); });
+    clearLiveValues();
 }
 
 bool VLK_Form_TMI_Fuel_Sensors::hasRows() const

@@ -3,7 +3,8 @@
 // The calibration window: a table for each fuel sensor of the tracker, each sensor's live value while the
 // user fills the tank, files, and the report. A table that was edited and not saved is kept at the end, and
 // offered at the next opening. While it is open it asks for the live values: a question, its
-// answer, two seconds of pause. Live values come as the byte record of the message AnalogRecord.
+// answer, two seconds of pause. A value that is older than two such periods goes. Live values come as the
+// byte record of the message AnalogRecord.
 
 #include "fuel/table/fuel_sensors.h"
 
@@ -69,6 +70,7 @@ private:
     bool hasUnsaved() const { return unsavedCount_ > 0; }
     // What the bar says of the table on show.
     void tellEdited();
+    void clearLiveValues();
     void offerKeptTables();
     void bringBack(const vlk::KeptTable& table);
     // Both are false when the disk refused. What was kept of the sensor before goes.
@@ -87,5 +89,6 @@ private:
     vlk::NoticeBar* bar_;
     int offers_ = 0; // of kept tables, in the bar
     QTimer timer_;
+    QTimer old_; // runs until the live values are too old
     int unsavedCount_ = 0;
 };

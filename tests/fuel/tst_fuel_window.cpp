@@ -93,6 +93,14 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(!host.sent.isEmpty(), 4000);
         QCOMPARE(host.takeSent(Message::RequestAnalog).size(), 1);
         host.send(Message::AnalogRecord, liveRecord().constData());
+        // The value outlives one answer that does not come, not two.
+        edit("A3", "2");
+        QTest::qWait(3000);
+        QVERIFY(form("A3")->findChild<QPushButton*>("pushButton_Add")->isEnabled());
+        QTRY_VERIFY(!form("A3")->findChild<QPushButton*>("pushButton_Add")->isEnabled());
+        QCOMPARE(field("A3", "lineEdit_Param")->text(), QString());
+        host.sent.clear();
+        host.send(Message::AnalogRecord, liveRecord().constData());
         fuel_.window->close();
         QTest::qWait(2200);
         QVERIFY(host.takeSent(Message::RequestAnalog).isEmpty());

@@ -8,6 +8,7 @@
 #include "window/folders_dialog.h"
 #include "window/installed_files.h"
 #include "window/link_notices.h"
+#include "window/live_readings.h"
 #include "window/message_box.h"
 #include "window/message_log_view.h"
 #include "window/recent_files.h"
@@ -37,16 +38,6 @@ enum Tab { LogTab, ReportTab, TrackerTab };
 constexpr const char* tabKeys[] = {"wb_tab_log", "wb_tab_report", "wb_tab_tracker"};
 constexpr int leftWidth = 290;
 constexpr QSize usualSize(1024, 600);
-
-// The one window of the plug-in that asks before it closes; it hangs on the telemetry window.
-QWidget* calibrationWindow()
-{
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    const auto found = std::find_if(windows.begin(), windows.end(), [](const QWidget* window) {
-        return window->isVisible() && window->inherits("VLK_Form_TMI_Fuel_Sensors");
-    });
-    return found == windows.end() ? nullptr : *found;
-}
 
 } // namespace
 
@@ -172,6 +163,7 @@ void WorkbenchWindow::connectNotices()
     linkNotices_ = std::make_unique<LinkNotices>(session_, windows_, log_, *status_, this);
     faults_ = std::make_unique<FaultsAtHand>(session_.tracker(), linkNotices_->answers(),
                                              commands_[Command::Faults]->shortcut(), this);
+    liveReadings_ = std::make_unique<LiveReadings>(session_, log_);
     saveNotices_ = std::make_unique<SaveNotices>(pluginLog_, session_, *linkNotices_, windows_, *recent_,
                                                  *status_, this);
     connect(linkNotices_.get(), &LinkNotices::troubleChanged, this, [this] {
@@ -373,8 +365,8 @@ void WorkbenchWindow::restoreLayout()
 
 void WorkbenchWindow::closeEvent(QCloseEvent* event)
 {
-    // Before anything else goes, so that all stays as it is when the answer is Cancel.
-    QWidget* calibration = calibrationWindow();
+    // It asks over rows that are not saved: before anything else goes, so that all stays as it is on Cancel.
+    QWidget* calibration = PluginWindows::calibration();
     if (calibration && !calibration->close()) {
         event->ignore();
         return;
