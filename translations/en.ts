@@ -920,6 +920,9 @@
     <message id="cfgt6_406"><translation>Bring back</translation></message>
     <message id="cfgt6_407"><translation>Discard</translation></message>
     <message id="cfgt6_408"><translation>→ takes it</translation></message>
+    <message id="cfgt6_409"><translation>Points to add: %1</translation></message>
+    <message id="cfgt6_410"><translation>Lines left out, since no cell could hold them: %1</translation></message>
+    <message id="cfgt6_411"><translation>The clipboard holds no points for this table. Lines left out: %1.</translation></message>
     <message id="cfgt7_001"><translation>Temperature sensors</translation></message>
     <message id="cfgt7_002"><translation>Min</translation></message>
     <message id="cfgt7_003"><translation>Max</translation></message>

@@ -5,6 +5,7 @@
 #include "fuel/form_report_fuel.h"
 #include "fuel/fuel_number_line.h"
 #include "fuel/fuelsensor_graph.h"
+#include "fuel/paste_preview.h"
 #include "fuel/question.h"
 #include "fuel/table/fuel_document.h"
 #include "fuel/table/fuel_file.h"
@@ -298,10 +299,16 @@ void VLK_Form_Fuel_Sensor::copyTable() const
 
 void VLK_Form_Fuel_Sensor::pasteRows()
 {
-    const auto rows = vlk::readFuelClipboard(QGuiApplication::clipboard()->text(), captions());
-    if (rows.empty())
+    const vlk::FuelCaptions texts = captions();
+    const auto pasted =
+        vlk::readFuelClipboard(QGuiApplication::clipboard()->text(), texts, vlk::fuelKind(kind_));
+    if (pasted.rows.empty()) {
+        vlk::warn(this, tr("cfgt6_411").arg(pasted.leftOut));
         return;
-    addRows(rows);
+    }
+    if (PastePreview(pasted, texts, this).exec() != QDialog::Accepted)
+        return;
+    addRows(pasted.rows);
     setDirty(true);
 }
 

@@ -128,10 +128,20 @@ private Q_SLOTS:
         QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
         QCOMPARE(QGuiApplication::clipboard()->text(), QString("cfgt6_040\tcfgt6_044\n10\t100\n"));
         QGuiApplication::clipboard()->setText("words");
+        answerBox("wrd_003");
         QTest::keyClick(table, Qt::Key_V, Qt::ControlModifier);
         QVERIFY(!form()->isDirty());
-        QGuiApplication::clipboard()->setText("5,5\t7\n1\t2\n");
-        QTest::keyClick(table, Qt::Key_V, Qt::ControlModifier);
+        QGuiApplication::clipboard()->setText("5,5\t7\n1\t2\n1\t70000\n");
+        for (const Qt::Key answer : {Qt::Key_Escape, Qt::Key_Return}) {
+            QVERIFY(!form()->isDirty());
+            QApplication::setActiveWindow(window);
+            whenOpen<QDialog>([answer](QDialog& preview) {
+                QCOMPARE(rowsOf(preview.findChild<QTableWidget*>("tableWidget_Paste")), QString("5.5=7 1=2"));
+                QVERIFY(preview.findChild<QLabel*>("label_LeftOut"));
+                QTest::keyClick(&preview, answer);
+            });
+            QTest::keyClick(table, Qt::Key_V, Qt::ControlModifier);
+        }
         QCOMPARE(rows(), QString("1=2 5.5=7 10=100"));
         QVERIFY(form()->isDirty());
     }
