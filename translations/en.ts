@@ -923,6 +923,7 @@
     <message id="cfgt6_409"><translation>Points to add: %1</translation></message>
     <message id="cfgt6_410"><translation>Lines left out, since no cell could hold them: %1</translation></message>
     <message id="cfgt6_411"><translation>The clipboard holds no points for this table. Lines left out: %1.</translation></message>
+    <message id="cfgt6_412"><translation>File of %1, shown at %2</translation></message>
     <message id="cfgt7_001"><translation>Temperature sensors</translation></message>
     <message id="cfgt7_002"><translation>Min</translation></message>
     <message id="cfgt7_003"><translation>Max</translation></message>

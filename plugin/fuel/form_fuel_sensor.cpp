@@ -157,8 +157,8 @@ void VLK_Form_Fuel_Sensor::clearRows()
 {
     offerName({});
     setDirty(false);
-    setEdited(false);
     ui_->tableWidget->setRowCount(0);
+    setEdited(false);
     ui_->pushButton_Del->setEnabled(false);
     ui_->pushButton_Clear->setEnabled(false);
     rebuildPoints();

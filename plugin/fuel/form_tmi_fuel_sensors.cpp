@@ -31,7 +31,7 @@ using namespace vlk;
 namespace {
 
 // Numbers in the bar; offers have those from kOffers on.
-enum NoticeNumber { kEdited, kOffers };
+enum NoticeNumber { kEdited, kFileOfOther, kOffers };
 
 constexpr auto kPause = std::chrono::milliseconds(2000);
 
@@ -65,6 +65,10 @@ VLK_Form_TMI_Fuel_Sensors::VLK_Form_TMI_Fuel_Sensors(QWidget* parent)
 {
     ui_->setupUi(this);
     ui_->verticalLayout_Window->insertWidget(0, bar_);
+    connect(bar_, &NoticeBar::closed, this, [this](int number) {
+        if (number == kFileOfOther && currentSensor() >= 0)
+            fileOf_[currentSensor()].clear();
+    });
     ui_->pushButton_Help->hide();
     buildTabs();
 
@@ -110,7 +114,7 @@ void VLK_Form_TMI_Fuel_Sensors::buildTabs()
         forms_[i] = form;
         connect(form, &VLK_Form_Fuel_Sensor::signal_NeedSaved, this,
                 &VLK_Form_TMI_Fuel_Sensors::slot_NeedSaved);
-        connect(form, &VLK_Form_Fuel_Sensor::signal_Edited, this, &VLK_Form_TMI_Fuel_Sensors::tellEdited);
+        connect(form, &VLK_Form_Fuel_Sensor::signal_Edited, this, &VLK_Form_TMI_Fuel_Sensors::tellOfTable);
         const int number = groupOf(i);
         QTabWidget* tabs = ui_->tabWidget;
         if (fuelGroups[number].title) {
@@ -150,7 +154,7 @@ void VLK_Form_TMI_Fuel_Sensors::retranslate()
     ui_->pushButton_Help->setText(tr("wrd_027"));
     keepCaptions(ui_->horizontalLayout_Buttons);
     bar_->retranslate();
-    tellEdited();
+    tellOfTable();
     if (isVisible())
         offerKeptTables();
     for (int i = 0; i < fuelGroupCount; ++i) {
@@ -270,25 +274,32 @@ void VLK_Form_TMI_Fuel_Sensors::slot_currentChanged_FuelType(int /*index*/)
 {
     if (const auto* form = currentForm())
         ui_->pushButton_Save_Xml->setEnabled(form->isDirty());
-    tellEdited();
+    tellOfTable();
 }
 
 void VLK_Form_TMI_Fuel_Sensors::slot_NeedSaved(bool on)
 {
     ui_->pushButton_Save_Xml->setEnabled(on);
     unsavedCount_ += on ? 1 : -1;
-    tellEdited();
+    tellOfTable();
 }
 
-void VLK_Form_TMI_Fuel_Sensors::tellEdited()
+void VLK_Form_TMI_Fuel_Sensors::tellOfTable()
 {
-    const auto* form = currentForm();
-    if (form && form->isEdited())
+    bar_->end(kEdited);
+    bar_->end(kFileOfOther);
+    const int sensor = currentSensor();
+    if (sensor < 0)
+        return;
+    const VLK_Form_Fuel_Sensor& form = *forms_[sensor];
+    if (!form.hasRows())
+        fileOf_[sensor].clear();
+    if (!fileOf_[sensor].isEmpty())
+        bar_->tell(kFileOfOther, {Mark::advice, tr("cfgt6_412").arg(fileOf_[sensor], form.name()), {}});
+    if (form.isEdited())
         bar_->tell(kEdited, {Mark::changed, tr("cfgt6_404"), {{ui_->pushButton_Save_Xml->text(), [this] {
                                                                    slot_pressed_Btn_Save_Xml();
                                                                }}}});
-    else
-        bar_->end(kEdited);
 }
 
 void VLK_Form_TMI_Fuel_Sensors::offerKeptTables()
@@ -380,7 +391,8 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Load()
         warn(this, tr("tmiw_128"));
         return;
     }
-    select(document.root()->getString(QStringLiteral("type")));
+    const QString type = document.root()->getString(QStringLiteral("type"));
+    select(type);
     VLK_Form_Fuel_Sensor* form = currentForm();
     if (!form || (form->isDirty() && !agrees(this, tr("tmiw_129"), "wrd_031")))
         return;
@@ -388,6 +400,9 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Load()
     form->loadXml(document.root());
     if (wasKept && !form->isEdited())
         keptAt_[currentSensor()].clear();
+    // A letter alone names no sensor.
+    fileOf_[currentSensor()] = type.size() > 1 && type != form->name() ? type : QString();
+    tellOfTable();
     offerKeptTables();
 }
 

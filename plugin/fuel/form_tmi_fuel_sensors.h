@@ -69,7 +69,7 @@ private:
     void select(const QString& type);
     bool hasUnsaved() const { return unsavedCount_ > 0; }
     // What the bar says of the table on show.
-    void tellEdited();
+    void tellOfTable();
     void clearLiveValues();
     void offerKeptTables();
     void bringBack(const vlk::KeptTable& table);
@@ -86,6 +86,8 @@ private:
     std::array<VLK_Form_Fuel_Sensor*, vlk::fuelSensorCount> forms_{};
     // Where the table of a form is kept that was brought back and is not saved yet.
     std::array<QString, vlk::fuelSensorCount> keptAt_;
+    // The sensor whose file a form shows, where that has no form of its own.
+    std::array<QString, vlk::fuelSensorCount> fileOf_;
     vlk::NoticeBar* bar_;
     int offers_ = 0; // of kept tables, in the bar
     QTimer timer_;

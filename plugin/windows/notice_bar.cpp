@@ -59,8 +59,11 @@ NoticeBar::NoticeBar(QWidget* parent)
     setMinimumHeight(kHeight);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     connect(close_, &QToolButton::clicked, this, [this] {
-        if (const Told* shown = worst())
-            end(shown->number);
+        if (const Told* shown = worst()) {
+            const int number = shown->number;
+            end(number);
+            Q_EMIT closed(number);
+        }
     });
     connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this, &NoticeBar::toggleFocus);
     retranslate();

@@ -44,6 +44,10 @@ public:
     void end(int number);
     void retranslate();
 
+Q_SIGNALS:
+    // By the cross.
+    void closed(int number);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 

@@ -257,6 +257,12 @@ private Q_SLOTS:
             QCOMPARE(rows(sensor), QString("10=7.5 20=8"));
             QCOMPARE(field(sensor, "lineEdit_Name")->text(), QString("rear"));
             QVERIFY(form(sensor)->isVisible());
+            // A file of another sensor is told, until the table is gone.
+            const bool isOther = content.contains("\"D9\"") || content.contains("\"F1\"");
+            QCOMPARE(!bar()->isHidden() && fuel_.text("label_Notice") == "cfgt6_412", isOther);
+            answerBox("wrd_001");
+            form(sensor)->findChild<QPushButton*>("pushButton_Clear")->click();
+            QVERIFY(bar()->isHidden());
         }
         QCOMPARE(readFile(path), content);
     }
