@@ -209,6 +209,13 @@ private Q_SLOTS:
         };
         QVERIFY(isRed(end));
         QVERIFY(rows.size() < 3 || isRed((corner + end) / 2));
+        // Around the dot a ring of 7 pixels, and above the tick of 10 litres a light line.
+        const QColor beside = image.pixelColor(end - QPoint(0, 4));
+        QVERIFY(beside.blue() < 230 && beside.blue() > beside.red() + 30);
+        if (kind == 0) {
+            const QColor line = image.pixelColor(corner + QPoint(step.x() * 5, -8));
+            QVERIFY(line != QColor(Qt::white) && line.red() > 200);
+        }
         QCOMPARE(image.pixelColor(2, 2), QColor(Qt::white));
     }
 
