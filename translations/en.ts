@@ -924,6 +924,10 @@
     <message id="cfgt6_410"><translation>Lines left out, since no cell could hold them: %1</translation></message>
     <message id="cfgt6_411"><translation>The clipboard holds no points for this table. Lines left out: %1.</translation></message>
     <message id="cfgt6_412"><translation>File of %1, shown at %2</translation></message>
+    <message id="cfgt6_413"><translation>Save a sheet with the table and the curve as PDF</translation></message>
+    <message id="cfgt6_414"><translation>Tracker</translation></message>
+    <message id="cfgt6_415"><translation>Sensor</translation></message>
+    <message id="cfgt6_416"><translation>Date</translation></message>
     <message id="cfgt7_001"><translation>Temperature sensors</translation></message>
     <message id="cfgt7_002"><translation>Min</translation></message>
     <message id="cfgt7_003"><translation>Max</translation></message>

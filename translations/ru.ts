@@ -924,6 +924,10 @@
     <message id="cfgt6_410"><translation>Пропущено строк, которые не вместит ни одна ячейка: %1</translation></message>
     <message id="cfgt6_411"><translation>В буфере обмена нет точек для этой таблицы. Пропущено строк: %1.</translation></message>
     <message id="cfgt6_412"><translation>Файл датчика %1 показан на %2</translation></message>
+    <message id="cfgt6_413"><translation>Сохранить лист с таблицей и кривой в PDF</translation></message>
+    <message id="cfgt6_414"><translation>Трекер</translation></message>
+    <message id="cfgt6_415"><translation>Датчик</translation></message>
+    <message id="cfgt6_416"><translation>Дата</translation></message>
     <message id="cfgt7_001"><translation>Датчики температуры</translation></message>
     <message id="cfgt7_002"><translation>Min</translation></message>
     <message id="cfgt7_003"><translation>Max</translation></message>

@@ -2,6 +2,7 @@
 
 #include "ui_VLK_Designer_Form_Fuel_Sensor.h"
 
+#include "fuel/calibration_sheet.h"
 #include "fuel/form_report_fuel.h"
 #include "fuel/fuel_number_line.h"
 #include "fuel/fuelsensor_graph.h"
@@ -290,6 +291,15 @@ void VLK_Form_Fuel_Sensor::printReport()
     if (!report_)
         report_ = new VLK_FormReportFuel(this);
     report_->showReport(name_, ui_->lineEdit_Name->text(), points_);
+}
+
+void VLK_Form_Fuel_Sensor::fillSheet(vlk::CalibrationSheet& sheet) const
+{
+    sheet.kind = kind_;
+    sheet.sensor = name_;
+    sheet.tank = ui_->lineEdit_Name->text();
+    sheet.rows = ui_->tableWidget->rows();
+    sheet.points = points_;
 }
 
 void VLK_Form_Fuel_Sensor::copyTable() const

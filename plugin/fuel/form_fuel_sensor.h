@@ -17,6 +17,11 @@
 #include <memory>
 
 struct CXmlSection;
+
+namespace vlk {
+struct CalibrationSheet;
+}
+
 class VLK_FormReportFuel;
 class VLK_FuelSensor_Graph;
 
@@ -69,6 +74,8 @@ public:
     QString keep(const QString& folder, const QString& vehicle, const QDateTime& time) const;
 
     void printReport();
+    // What the form knows of the sheet.
+    void fillSheet(vlk::CalibrationSheet& sheet) const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -4,6 +4,7 @@
 
 #include "base/clock.h"
 #include "fuel/button_row.h"
+#include "fuel/calibration_sheet.h"
 #include "fuel/file_dialogs.h"
 #include "fuel/form_fuel_sensor.h"
 #include "fuel/plus_icon.h"
@@ -78,6 +79,7 @@ VLK_Form_TMI_Fuel_Sensors::VLK_Form_TMI_Fuel_Sensors(QWidget* parent)
         {ui_->pushButton_Save_Xml, &Window::slot_pressed_Btn_Save_Xml},
         {ui_->pushButton_Save_Excel, &Window::slot_pressed_Btn_Save_Excel},
         {ui_->pushButton_Print, &Window::slot_pressed_Btn_Print},
+        {ui_->pushButton_Pdf, &Window::slot_pressed_Btn_Pdf},
         {ui_->pushButton_Help, &Window::slot_pressed_Btn_Help},
         {ui_->pushButton_Exit, &Window::slot_pressed_Btn_Exit},
     };
@@ -150,6 +152,8 @@ void VLK_Form_TMI_Fuel_Sensors::retranslate()
     ui_->pushButton_Save_Xml->setText(QStringLiteral("%1 XML").arg(tr("wrd_042")));
     ui_->pushButton_Save_Excel->setText(QStringLiteral("%1 Excel").arg(tr("wrd_042")));
     ui_->pushButton_Print->setText(tr("wrd_030"));
+    ui_->pushButton_Pdf->setToolTip(tr("cfgt6_413"));
+    ui_->pushButton_Pdf->setAccessibleName(tr("cfgt6_413"));
     ui_->pushButton_Exit->setText(tr("wrd_054"));
     ui_->pushButton_Help->setText(tr("wrd_027"));
     keepCaptions(ui_->horizontalLayout_Buttons);
@@ -174,6 +178,7 @@ void VLK_Form_TMI_Fuel_Sensors::retranslate()
 void VLK_Form_TMI_Fuel_Sensors::openWindow(const QString& title)
 {
     ui_->lineEdit_Title->setText(title);
+    tracker_ = vlkDevice ? vlkDevice->trackerId2() : QString();
     forEachForm([](VLK_Form_Fuel_Sensor& form, int) { form.clearAll(); });
     clearLiveValues();
     show();
@@ -445,6 +450,22 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Print()
 {
     if (auto* form = currentForm())
         form->printReport();
+}
+
+void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Pdf()
+{
+    const VLK_Form_Fuel_Sensor* form = currentForm();
+    if (!form)
+        return;
+    CalibrationSheet sheet{};
+    form->fillSheet(sheet);
+    sheet.vehicle = ui_->lineEdit_Title->text();
+    sheet.tracker = tracker_;
+    sheet.time = now();
+    const QString path = askFuelFileToSave(this, QStringLiteral("%1 PDF").arg(tr("wrd_028")),
+                                           proposedName(form->name()), QStringLiteral("pdf"));
+    if (!path.isEmpty())
+        saveFuelFile(path, sheetPdf(sheet));
 }
 
 void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Help()

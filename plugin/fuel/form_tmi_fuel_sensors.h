@@ -54,6 +54,7 @@ private Q_SLOTS:
     void slot_pressed_Btn_Save_Xml();
     void slot_pressed_Btn_Save_Excel();
     void slot_pressed_Btn_Print();
+    void slot_pressed_Btn_Pdf();
     void slot_pressed_Btn_Help();
     void slot_pressed_Btn_Exit();
     void slot_finished(int result);
@@ -89,7 +90,8 @@ private:
     // The sensor whose file a form shows, where that has no form of its own.
     std::array<QString, vlk::fuelSensorCount> fileOf_;
     vlk::NoticeBar* bar_;
-    int offers_ = 0; // of kept tables, in the bar
+    int offers_ = 0;  // of kept tables, in the bar
+    QString tracker_; // its number, also when it is gone
     QTimer timer_;
     QTimer old_; // runs until the live values are too old
     int unsavedCount_ = 0;

@@ -1,6 +1,7 @@
 // The editor of one calibration table in the dialog of an RS sensor: points by hand, files, clipboard, curve.
 
 #include "base/clock.h"
+#include "fuel/calibration_sheet.h"
 #include "fuel/form_fuel_sensor.h"
 #include "fuel/form_fuel_view.h"
 #include "fuel/fuelsensor_graph.h"
@@ -232,6 +233,22 @@ private Q_SLOTS:
         form()->clearAll();
         QCOMPARE(text("label_Falling"), QString());
         QVERIFY(!graph_->grab().isNull());
+    }
+
+    // Down the first pair of columns, then down the second, each with its unit; all of the head is text.
+    void laysOutTheSheet()
+    {
+        vlk::CalibrationSheet sheet{0,  "A3", "<rear>", "Truck 7", "356000", QDateTime({2026, 5, 7}, {14, 3}),
+                                    {}, {}};
+        for (int i = 0; i < 21; ++i)
+            sheet.rows.push_back({QString::number(i), QString::number(100 + i)});
+        const QString html = vlk::sheetHtml(sheet);
+        for (const QString text : {"A3", "&lt;rear&gt;", "Truck 7", "356000", "07.05.2026 14:03"})
+            QVERIFY2(html.contains("<b>" + text + "</b>"), qPrintable(text));
+        QCOMPARE(html.count("<th>cfgt6_040</th><th>cfgt6_043</th>"), 2);
+        const QString cell = "<td align=right>%1</td>";
+        QVERIFY(html.contains(cell.arg(0) + cell.arg(100) + cell.arg(11) + cell.arg(111)));
+        QCOMPARE(html.count("<td align=right></td>"), 2);
     }
 
 private:

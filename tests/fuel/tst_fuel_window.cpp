@@ -210,9 +210,15 @@ private Q_SLOTS:
     {
         add("D2", "10,5", 7);
         QString proposed;
-        const QString path = folder.filePath("saved.csv");
+        QVERIFY(QDir(folder.path()).mkpath("elsewhere"));
+        const QString path = folder.filePath("elsewhere/saved.csv");
         saveTo("pushButton_Save_Excel", path, &proposed);
         QVERIFY(proposed.contains("/D2-Truck 7(") && proposed.endsWith(".csv"));
+        // Files begin where the last one went; a sheet is named as they are.
+        saveTo("pushButton_Pdf", folder.filePath("sheet.pdf"), &proposed);
+        QVERIFY(proposed.contains("/elsewhere/D2-Truck 7(") && proposed.endsWith(".pdf"));
+        const QByteArray sheet = readFile(folder.filePath("sheet.pdf"));
+        QVERIFY(sheet.startsWith("%PDF") && sheet.contains("/Image"));
         QCOMPARE(readFile(path), QByteArray("cfgt6_044;cfgt6_040\r\n1002;10.5\r\n"));
         QVERIFY(fuel_.isOn("pushButton_Save_Xml"));
     }
