@@ -11,7 +11,6 @@
 #include "fuel/question.h"
 #include "fuel/table/fuel_document.h"
 #include "fuel/table/fuel_file.h"
-#include "fuel/table/kept_tables.h"
 #include "link/device.h"
 #include "link/requests.h"
 #include "windows/fit_to_screen.h"
@@ -24,7 +23,6 @@
 #include <QShortcut>
 #include <QtEndian>
 
-#include <algorithm>
 #include <chrono>
 
 using namespace vlk;
@@ -291,39 +289,34 @@ void VLK_Form_TMI_Fuel_Sensors::slot_NeedSaved(bool on)
 
 void VLK_Form_TMI_Fuel_Sensors::tellOfTable()
 {
-    bar_->end(kEdited);
-    bar_->end(kFileOfOther);
     const int sensor = currentSensor();
-    if (sensor < 0)
-        return;
-    const VLK_Form_Fuel_Sensor& form = *forms_[sensor];
-    if (!form.hasRows())
+    const VLK_Form_Fuel_Sensor* form = currentForm();
+    if (form && !form->hasRows())
         fileOf_[sensor].clear();
-    if (!fileOf_[sensor].isEmpty())
-        bar_->tell(kFileOfOther, {Mark::advice, tr("cfgt6_412").arg(fileOf_[sensor], form.name()), {}});
-    if (form.isEdited())
-        bar_->tell(kEdited, {Mark::changed, tr("cfgt6_404"), {{ui_->pushButton_Save_Xml->text(), [this] {
-                                                                   slot_pressed_Btn_Save_Xml();
-                                                               }}}});
+    if (form && !fileOf_[sensor].isEmpty())
+        bar_->tell(kFileOfOther, {Mark::advice, tr("cfgt6_412").arg(fileOf_[sensor], form->name()), {}});
+    else
+        bar_->end(kFileOfOther);
+    const Notice::Action save{ui_->pushButton_Save_Xml->text(), [this] { slot_pressed_Btn_Save_Xml(); }};
+    if (form && form->isEdited())
+        bar_->tell(kEdited, {Mark::changed, tr("cfgt6_404"), {save}});
+    else
+        bar_->end(kEdited);
 }
 
 void VLK_Form_TMI_Fuel_Sensors::offerKeptTables()
 {
-    const auto tables = keptTables(telemetryFolder());
     for (; offers_ > 0; --offers_)
         bar_->end(kOffers + offers_ - 1);
-    for (const KeptTable& table : tables) {
-        if (std::find(keptAt_.begin(), keptAt_.end(), table.path) != keptAt_.end())
-            continue;
-        const int number = kOffers + offers_++;
+    for (const KeptTable& table : kept_.offered(telemetryFolder())) {
         const QString time = table.time.toString(QStringLiteral("dd.MM.yyyy HH:mm"));
-        bar_->tell(number,
-                   {Mark::changed,
-                    tr("cfgt6_405").arg(table.sensor, table.vehicle, time),
-                    {{tr("cfgt6_406"), [this, table] { bringBack(table); }}, {tr("cfgt6_407"), [this, table] {
-                                                                                  QFile::remove(table.path);
-                                                                                  offerKeptTables();
-                                                                              }}}});
+        const Notice::Action back{tr("cfgt6_406"), [this, table] { bringBack(table); }};
+        const Notice::Action discard{tr("cfgt6_407"), [this, path = table.path] {
+                                         QFile::remove(path);
+                                         offerKeptTables();
+                                     }};
+        bar_->tell(kOffers + offers_++,
+                   {Mark::changed, tr("cfgt6_405").arg(table.sensor, table.vehicle, time), {back, discard}});
     }
 }
 
@@ -331,44 +324,49 @@ void VLK_Form_TMI_Fuel_Sensors::bringBack(const KeptTable& table)
 {
     select(table.sensor);
     VLK_Form_Fuel_Sensor* form = currentForm();
-    if (!form || form->name() != table.sensor)
+    if (!form || form->name() != table.sensor || !mayReplace(*form))
         return;
-    if (form->isDirty() && !agrees(this, tr("tmiw_129"), "wrd_031"))
-        return;
-    if (form->isEdited() && !keep(currentSensor()))
-        return;
+    // With tables of another vehicle on show the title is theirs.
+    if (!hasRows())
+        ui_->lineEdit_Title->setText(table.vehicle);
     XmlDocument document(table.path, QLatin1String(fuelRoot));
-    form->loadXml(document.root());
+    load(*form, document.root());
     form->setEdited(form->hasRows());
-    keptAt_[currentSensor()] = table.path;
+    kept_.show(*form, table.path);
     offerKeptTables();
 }
 
-bool VLK_Form_TMI_Fuel_Sensors::keep(int sensor)
+void VLK_Form_TMI_Fuel_Sensors::load(VLK_Form_Fuel_Sensor& form, CXmlSection* root)
 {
-    const QString path = forms_[sensor]->keep(telemetryFolder(), ui_->lineEdit_Title->text(), now());
-    if (path.isEmpty())
-        return false;
-    dropKept(sensor);
-    keptAt_[sensor] = path;
-    return true;
+    const bool wasEdited = form.isEdited();
+    form.loadXml(root);
+    // What was edited is kept and offered; what is saved or given up is kept no longer.
+    if (wasEdited && !form.isEdited())
+        kept_.release(form);
+    else if (!wasEdited)
+        kept_.end(form);
+}
+
+bool VLK_Form_TMI_Fuel_Sensors::mayReplace(const VLK_Form_Fuel_Sensor& form)
+{
+    if (form.isEdited() && keep(form))
+        return true;
+    return !(form.isDirty() || form.isEdited()) || agrees(this, tr("tmiw_129"), "wrd_031");
+}
+
+bool VLK_Form_TMI_Fuel_Sensors::keep(const VLK_Form_Fuel_Sensor& form)
+{
+    return kept_.keep(form, telemetryFolder(), ui_->lineEdit_Title->text());
 }
 
 bool VLK_Form_TMI_Fuel_Sensors::keepEdited()
 {
     bool allKept = true;
-    forEachForm([&](const VLK_Form_Fuel_Sensor& form, int sensor) {
-        if (form.isEdited() && !keep(sensor))
+    forEachForm([&](const VLK_Form_Fuel_Sensor& form, int) {
+        if (form.isEdited() && !keep(form))
             allKept = false;
     });
     return allKept;
-}
-
-void VLK_Form_TMI_Fuel_Sensors::dropKept(int sensor)
-{
-    if (!keptAt_[sensor].isEmpty())
-        QFile::remove(keptAt_[sensor]);
-    keptAt_[sensor].clear();
 }
 
 QString VLK_Form_TMI_Fuel_Sensors::proposedName(const QString& sensor) const
@@ -399,12 +397,9 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Load()
     const QString type = document.root()->getString(QStringLiteral("type"));
     select(type);
     VLK_Form_Fuel_Sensor* form = currentForm();
-    if (!form || (form->isDirty() && !agrees(this, tr("tmiw_129"), "wrd_031")))
+    if (!form || !mayReplace(*form))
         return;
-    const bool wasKept = form->isEdited() && keep(currentSensor());
-    form->loadXml(document.root());
-    if (wasKept && !form->isEdited())
-        keptAt_[currentSensor()].clear();
+    load(*form, document.root());
     // A letter alone names no sensor.
     fileOf_[currentSensor()] = type.size() > 1 && type != form->name() ? type : QString();
     tellOfTable();
@@ -490,10 +485,6 @@ void VLK_Form_TMI_Fuel_Sensors::reject()
 
 void VLK_Form_TMI_Fuel_Sensors::slot_finished(int /*result*/)
 {
-    forEachForm([this](const VLK_Form_Fuel_Sensor& form, int sensor) {
-        if (!form.isEdited())
-            dropKept(sensor);
-        keptAt_[sensor].clear();
-    });
+    forEachForm([this](const VLK_Form_Fuel_Sensor& form, int) { kept_.end(form); });
     timer_.stop();
 }

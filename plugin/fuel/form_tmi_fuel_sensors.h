@@ -6,6 +6,7 @@
 // answer, two seconds of pause. A value that is older than two such periods goes. Live values come as the
 // byte record of the message AnalogRecord.
 
+#include "fuel/kept_forms.h"
 #include "fuel/table/fuel_sensors.h"
 
 #include <QDialog>
@@ -14,12 +15,12 @@
 #include <array>
 #include <memory>
 
+struct CXmlSection;
 class VLK_Form_Fuel_Sensor;
 class VLK_TabWidget;
 
 namespace vlk {
 class NoticeBar;
-struct KeptTable;
 } // namespace vlk
 
 namespace Ui {
@@ -74,10 +75,12 @@ private:
     void clearLiveValues();
     void offerKeptTables();
     void bringBack(const vlk::KeptTable& table);
-    // Both are false when the disk refused. What was kept of the sensor before goes.
-    bool keep(int sensor);
+    // Keeps an edited table, and asks where rows would be lost.
+    bool mayReplace(const VLK_Form_Fuel_Sensor& form);
+    void load(VLK_Form_Fuel_Sensor& form, CXmlSection* root);
+    // Both are false when the disk refused.
+    bool keep(const VLK_Form_Fuel_Sensor& form);
     bool keepEdited();
-    void dropKept(int sensor);
     int currentSensor() const;
     QString proposedName(const QString& sensor) const;
 
@@ -85,8 +88,7 @@ private:
     // By the rows of vlk::fuelGroups and vlk::fuelSensors; null for what this model lacks.
     std::array<VLK_TabWidget*, vlk::fuelGroupCount> groups_{};
     std::array<VLK_Form_Fuel_Sensor*, vlk::fuelSensorCount> forms_{};
-    // Where the table of a form is kept that was brought back and is not saved yet.
-    std::array<QString, vlk::fuelSensorCount> keptAt_;
+    vlk::KeptForms kept_;
     // The sensor whose file a form shows, where that has no form of its own.
     std::array<QString, vlk::fuelSensorCount> fileOf_;
     vlk::NoticeBar* bar_;

@@ -100,8 +100,8 @@ void NoticeBar::retranslate()
 
 const NoticeBar::Told* NoticeBar::worst() const
 {
-    const auto found = std::max_element(told_.begin(), told_.end(), [](const Told& a, const Told& b) {
-        return a.notice.mark < b.notice.mark;
+    const auto found = std::min_element(told_.begin(), told_.end(), [](const Told& a, const Told& b) {
+        return a.notice.mark == b.notice.mark ? a.number < b.number : a.notice.mark > b.notice.mark;
     });
     return found == told_.end() ? nullptr : &*found;
 }

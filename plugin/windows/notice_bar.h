@@ -2,7 +2,8 @@
 
 // The bar at the top of a window's content in which the window tells what the user should know and may act
 // on: a mark, a sentence, at most two buttons and a cross. Of several notices the worst is on show, among
-// equals the first, with "1 of 3" behind it. The bar takes the focus from nobody; F6 goes to it, and back.
+// equals the one of the lowest number, with "1 of 3" behind it. The bar takes the focus from nobody; F6 goes
+// to it, and back.
 
 #include "typing/field_mark.h"
 
