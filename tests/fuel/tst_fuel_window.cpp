@@ -200,9 +200,18 @@ private Q_SLOTS:
         QVERIFY(rows("A3") == "20=8" && fuel_.text("label_NoticePlace") == "wrd_401");
         fuel_.window->close();
         press("pushButton_FuelSensor");
+        // One is brought back and saved, the other given up.
+        QApplication::setActiveWindow(fuel_.window);
         QTest::keyClick(fuel_.window, Qt::Key_F6);
-        for (int kept = 2; kept > 0; --kept)
-            pressInBar("cfgt6_407");
+        QVERIFY(bar()->isAncestorOf(QApplication::focusWidget()));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        QVERIFY(!rows("A3").isEmpty());
+        answerFile(folder.filePath("edited.xml"));
+        pressInBar("wrd_042 XML");
+        fuel_.window->close();
+        press("pushButton_FuelSensor");
+        QVERIFY(fuel_.child("label_NoticePlace")->isHidden());
+        pressInBar("cfgt6_407");
         QVERIFY(bar()->isHidden() && QDir(folder.filePath("unsaved")).isEmpty());
     }
 
