@@ -2,9 +2,9 @@
 
 // The calibration window: a table for each fuel sensor of the tracker, each sensor's live value while the
 // user fills the tank, files, and the report. A table that was edited and not saved is kept at the end, and
-// offered at the next opening. While it is open it asks for the live values: a question, its
-// answer, two seconds of pause. A value that is older than two such periods goes. Live values come as the
-// byte record of the message AnalogRecord.
+// offered at the next opening. While the window is open it asks for the live values: a question, its answer,
+// two seconds of pause. A value that is older than two such periods goes. Live values come as the byte record
+// of the message AnalogRecord.
 
 #include "fuel/kept_forms.h"
 #include "fuel/table/fuel_sensors.h"
@@ -77,6 +77,7 @@ private:
     void bringBack(const vlk::KeptTable& table);
     // Keeps an edited table, and asks where rows would be lost.
     bool mayReplace(const VLK_Form_Fuel_Sensor& form);
+    // Puts a document into a form, and settles what is kept of it.
     void load(VLK_Form_Fuel_Sensor& form, CXmlSection* root);
     // Both are false when the disk refused.
     bool keep(const VLK_Form_Fuel_Sensor& form);

@@ -166,7 +166,7 @@ void NoticeBar::paintEvent(QPaintEvent* /*event*/)
     QColor tint = markColor(shown->notice.mark, palette());
     tint.setAlphaF(kTint);
     painter.fillRect(rect(), tint);
-    painter.translate(kMargin, (height() - markSize) / 2);
+    painter.translate(QPoint(kMargin, (height() - markSize) / 2));
     paintMark(painter, shown->notice.mark, palette());
 }
 
