@@ -171,7 +171,7 @@ void paintMark(QPainter& painter, Mark mark, const QPalette& palette)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(markColor(mark, palette));
-    const QColor inside = palette.color(QPalette::Window);
+    const QColor& inside = palette.color(QPalette::Window);
     if (mark == Mark::advice) {
         painter.drawPolygon(QPolygonF({{5, 0}, {10, 10}, {0, 10}}));
         painter.setPen(QPen(inside, 1.4, Qt::SolidLine, Qt::RoundCap));

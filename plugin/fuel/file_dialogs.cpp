@@ -35,7 +35,7 @@ QString askFuelFileToSave(QWidget* parent, const QString& caption, const QString
     dialog.selectFile(name.contains(QLatin1Char('.')) ? name + QLatin1Char('.') + suffix : name);
     if (dialog.exec() != QDialog::Accepted)
         return {};
-    const QString path = dialog.selectedFiles().value(0);
+    QString path = dialog.selectedFiles().value(0);
     folderOfLastSave() = QFileInfo(path).path();
     return path;
 }
