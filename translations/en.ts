@@ -915,6 +915,19 @@
     <message id="cfgt6_401"><translation>Copy the table</translation></message>
     <message id="cfgt6_402"><translation>Paste points</translation></message>
     <message id="cfgt6_403"><translation>The value falls while the volume rises. Check the points: %1&#160;l.</translation></message>
+    <message id="cfgt6_404"><translation>Changed since it was saved</translation></message>
+    <message id="cfgt6_405"><translation>The table of %1 (%2) was changed on %3 and not saved.</translation></message>
+    <message id="cfgt6_406"><translation>Bring back</translation></message>
+    <message id="cfgt6_407"><translation>Discard</translation></message>
+    <message id="cfgt6_408"><translation>→ takes it</translation></message>
+    <message id="cfgt6_409"><translation>Points to add: %1</translation></message>
+    <message id="cfgt6_410"><translation>Lines left out, since no cell could hold them: %1</translation></message>
+    <message id="cfgt6_411"><translation>The clipboard holds no points for this table. Lines left out: %1.</translation></message>
+    <message id="cfgt6_412"><translation>File of %1, shown at %2</translation></message>
+    <message id="cfgt6_413"><translation>Save a sheet with the table and the curve as PDF</translation></message>
+    <message id="cfgt6_414"><translation>Tracker</translation></message>
+    <message id="cfgt6_415"><translation>Sensor</translation></message>
+    <message id="cfgt6_416"><translation>Date</translation></message>
     <message id="cfgt7_001"><translation>Temperature sensors</translation></message>
     <message id="cfgt7_002"><translation>Min</translation></message>
     <message id="cfgt7_003"><translation>Max</translation></message>
@@ -1690,6 +1703,7 @@
     <message id="wb_about_data"><translation>Data folder: %1</translation></message>
     <message id="wb_about_plugin"><translation>Tracker plug-in: %1, version %2</translation></message>
     <message id="wb_answer_bad"><translation>Message %1 from the tracker: %2. Do not rely on the record; check the cable and ask again.</translation></message>
+    <message id="wb_asked_again"><translation>No answer: request %1 was sent to the tracker again.</translation></message>
     <message id="wb_answer_cut"><translation>cut short after %1&#160;B</translation></message>
     <message id="wb_answer_cut_of"><translation>cut short, %1 of %2&#160;B</translation></message>
     <message id="wb_answer_damaged"><translation>damaged</translation></message>
@@ -1984,5 +1998,7 @@
     <message id="wrd_065"><translation>Tachograph</translation></message>
     <message id="wrd_066"><translation>Login</translation></message>
     <message id="wrd_067"><translation>Password</translation></message>
+    <message id="wrd_401"><translation>%1 of %2</translation></message>
+    <message id="wrd_402"><translation>Close this notice</translation></message>
 </context>
 </TS>

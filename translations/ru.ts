@@ -915,6 +915,19 @@
     <message id="cfgt6_401"><translation>Копировать таблицу</translation></message>
     <message id="cfgt6_402"><translation>Вставить точки</translation></message>
     <message id="cfgt6_403"><translation>Показание падает с ростом объёма. Проверьте точки: %1&#160;л.</translation></message>
+    <message id="cfgt6_404"><translation>Изменено после сохранения</translation></message>
+    <message id="cfgt6_405"><translation>Таблицу %1 (%2) изменили %3 и не сохранили.</translation></message>
+    <message id="cfgt6_406"><translation>Вернуть</translation></message>
+    <message id="cfgt6_407"><translation>Удалить</translation></message>
+    <message id="cfgt6_408"><translation>→ взять</translation></message>
+    <message id="cfgt6_409"><translation>Будет добавлено точек: %1</translation></message>
+    <message id="cfgt6_410"><translation>Пропущено строк, которые не вместит ни одна ячейка: %1</translation></message>
+    <message id="cfgt6_411"><translation>В буфере обмена нет точек для этой таблицы. Пропущено строк: %1.</translation></message>
+    <message id="cfgt6_412"><translation>Файл датчика %1 показан на %2</translation></message>
+    <message id="cfgt6_413"><translation>Сохранить лист с таблицей и кривой в PDF</translation></message>
+    <message id="cfgt6_414"><translation>Трекер</translation></message>
+    <message id="cfgt6_415"><translation>Датчик</translation></message>
+    <message id="cfgt6_416"><translation>Дата</translation></message>
     <message id="cfgt7_001"><translation>Датчики температуры</translation></message>
     <message id="cfgt7_002"><translation>Min</translation></message>
     <message id="cfgt7_003"><translation>Max</translation></message>
@@ -1690,6 +1703,7 @@
     <message id="wb_about_data"><translation>Папка данных: %1</translation></message>
     <message id="wb_about_plugin"><translation>Модуль трекера: %1, версия %2</translation></message>
     <message id="wb_answer_bad"><translation>Сообщение %1 от трекера: %2. Записи верить нельзя; проверьте кабель и запросите ещё раз.</translation></message>
+    <message id="wb_asked_again"><translation>Ответа нет: запрос %1 отправлен трекеру повторно.</translation></message>
     <message id="wb_answer_cut"><translation>обрывается после %1&#160;байт</translation></message>
     <message id="wb_answer_cut_of"><translation>обрывается, %1 из %2&#160;байт</translation></message>
     <message id="wb_answer_damaged"><translation>повреждено</translation></message>
@@ -1984,5 +1998,7 @@
     <message id="wrd_065"><translation>Тахограф</translation></message>
     <message id="wrd_066"><translation>Логин</translation></message>
     <message id="wrd_067"><translation>Пароль</translation></message>
+    <message id="wrd_401"><translation>%1 из %2</translation></message>
+    <message id="wrd_402"><translation>Закрыть сообщение</translation></message>
 </context>
 </TS>

@@ -14,17 +14,8 @@ namespace vlk {
 
 namespace {
 
-constexpr int shapeSize = 10;
 constexpr int gap = 3; // between the shape and the caption
 constexpr const char* propertyName = "fieldMark";
-
-QColor colorOf(Mark mark, const QPalette& palette)
-{
-    const bool isDark = palette.color(QPalette::Window).lightness() < 128;
-    if (mark == Mark::advice)
-        return QColor(isDark ? 0xffbd59 : 0x8a5300);
-    return QColor(isDark ? 0xff9d94 : 0xb3261e);
-}
 
 // The frame round an invalid field.
 class Outline : public QWidget
@@ -46,7 +37,7 @@ protected:
     {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(colorOf(Mark::invalid, palette()), 2));
+        painter.setPen(QPen(markColor(Mark::invalid, palette()), 2));
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 2, 2);
     }
 };
@@ -60,7 +51,7 @@ public:
           ownDescription_(field->accessibleDescription()), outline_(new Outline(field))
     {
         setObjectName(QStringLiteral("mark_") + field->objectName());
-        resize(shapeSize, shapeSize);
+        resize(markSize, markSize);
         const auto labels = parentWidget()->findChildren<QLabel*>();
         const auto caption = std::find_if(labels.begin(), labels.end(),
                                           [field](const QLabel* label) { return label->buddy() == field; });
@@ -101,21 +92,7 @@ protected:
     void paintEvent(QPaintEvent* /*event*/) override
     {
         QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(colorOf(worst(), palette()));
-        const QColor inside = palette().color(QPalette::Window);
-        if (worst() == Mark::advice) {
-            painter.drawPolygon(QPolygonF({{5, 0}, {10, 10}, {0, 10}}));
-            painter.setPen(QPen(inside, 1.4, Qt::SolidLine, Qt::RoundCap));
-            painter.drawLine(QPointF(5, 3.6), QPointF(5, 6.2));
-            painter.drawPoint(QPointF(5, 8.4));
-            return;
-        }
-        painter.drawEllipse(QRectF(0, 0, shapeSize, shapeSize));
-        painter.setPen(QPen(inside, 1.6, Qt::SolidLine, Qt::RoundCap));
-        painter.drawLine(QPointF(3.2, 3.2), QPointF(6.8, 6.8));
-        painter.drawLine(QPointF(6.8, 3.2), QPointF(3.2, 6.8));
+        paintMark(painter, worst(), palette());
     }
 
 private:
@@ -127,7 +104,7 @@ private:
 
     Mark worst() const
     {
-        Mark worst = Mark::advice;
+        Mark worst = Mark::changed;
         for (const auto& [reason, told] : reasons_)
             worst = std::max(worst, told.mark);
         return worst;
@@ -154,17 +131,17 @@ private:
         const QRect field = field_->geometry();
         if (caption_ && !caption_->isHidden()) {
             const QRect caption(caption_->mapTo(parentWidget(), QPoint(0, 0)), caption_->size());
-            const int y = caption.center().y() - shapeSize / 2;
-            const QPoint before(caption.left() - shapeSize - gap, y);
+            const int y = caption.center().y() - markSize / 2;
+            const QPoint before(caption.left() - markSize - gap, y);
             if (isFree(before))
                 return before;
             const int words = caption.left() + std::min(caption.width(), caption_->sizeHint().width());
-            const QPoint between(field.left() - shapeSize - gap, y);
+            const QPoint between(field.left() - markSize - gap, y);
             if (between.x() >= words && isFree(between))
                 return between;
         }
         // Over the corner rather than in it, where it would hide what the field holds.
-        return {std::max(0, field.left() - shapeSize / 2), std::max(0, field.top() - shapeSize / 2)};
+        return {std::max(0, field.left() - markSize / 2), std::max(0, field.top() - markSize / 2)};
     }
 
     bool isFree(QPoint corner) const
@@ -198,6 +175,41 @@ private:
 };
 
 } // namespace
+
+QColor markColor(Mark mark, const QPalette& palette)
+{
+    const bool isDark = palette.color(QPalette::Window).lightness() < 128;
+    switch (mark) {
+    case Mark::changed:
+        return QColor(isDark ? 0x7ab8f5 : 0x1f5f9e);
+    case Mark::advice:
+        return QColor(isDark ? 0xffbd59 : 0x8a5300);
+    case Mark::invalid:
+        break;
+    }
+    return QColor(isDark ? 0xff9d94 : 0xb3261e);
+}
+
+void paintMark(QPainter& painter, Mark mark, const QPalette& palette)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(markColor(mark, palette));
+    const QColor& inside = palette.color(QPalette::Window);
+    if (mark == Mark::advice) {
+        painter.drawPolygon(QPolygonF({{5, 0}, {10, 10}, {0, 10}}));
+        painter.setPen(QPen(inside, 1.4, Qt::SolidLine, Qt::RoundCap));
+        painter.drawLine(QPointF(5, 3.6), QPointF(5, 6.2));
+        painter.drawPoint(QPointF(5, 8.4));
+        return;
+    }
+    painter.drawEllipse(QRectF(0, 0, markSize, markSize));
+    if (mark == Mark::changed)
+        return;
+    painter.setPen(QPen(inside, 1.6, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(QPointF(3.2, 3.2), QPointF(6.8, 6.8));
+    painter.drawLine(QPointF(6.8, 3.2), QPointF(3.2, 6.8));
+}
 
 void markField(QWidget* field, MarkReason reason, Mark mark, const QString& text)
 {

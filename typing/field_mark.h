@@ -7,18 +7,26 @@
 // What a mark says stands in the tool tip and in the accessible description of its field. A field may be
 // marked for several reasons at a time: the worst one gives the shape, the texts are all told.
 
+#include <QColor>
 #include <QString>
 
+class QPainter;
+class QPalette;
 class QWidget;
 
 namespace vlk {
 
 // From the least to the worst.
-enum class Mark { advice, invalid };
+enum class Mark { changed, advice, invalid };
 
 enum class MarkReason { typing, value };
 
 // An empty text takes the mark of that reason away.
 void markField(QWidget* field, MarkReason reason, Mark mark, const QString& text);
+
+// For marks that stand elsewhere: the colour, and the shape at the painter's origin.
+inline constexpr int markSize = 10;
+QColor markColor(Mark mark, const QPalette& palette);
+void paintMark(QPainter& painter, Mark mark, const QPalette& palette);
 
 } // namespace vlk

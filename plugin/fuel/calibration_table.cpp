@@ -13,8 +13,6 @@ namespace vlk {
 namespace {
 
 constexpr int kColumnWidths[] = {95, 95, 20};
-constexpr double kTopVolume = 5000;
-constexpr double kTopVolts = 35;
 
 // The columns have a width of their own, so captions may have to be written smaller.
 QFont fittingFont(const QFont& font, const vlk::FuelCaptions& captions)
@@ -46,7 +44,8 @@ CalibrationTable::CalibrationTable(QWidget* parent) : QTableWidget(0, ColumnCoun
     setSelectionMode(NoSelection);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTabKeyNavigation(false);
-    setItemDelegateForColumn(Volume, new VLK_FuelSensor_Delegate(kTopVolume, 1, this));
+    setItemDelegateForColumn(Volume,
+                             new VLK_FuelSensor_Delegate(volumeLimit.top, volumeLimit.decimals, this));
 }
 
 void CalibrationTable::setKind(int kind)
@@ -56,7 +55,7 @@ void CalibrationTable::setKind(int kind)
     delete itemDelegateForColumn(Value);
     QAbstractItemDelegate* delegate = nullptr;
     if (editor == Editor::Decimal)
-        delegate = new VLK_FuelSensor_Delegate(kTopVolts, 2, this);
+        delegate = new VLK_FuelSensor_Delegate(voltsLimit.top, voltsLimit.decimals, this);
     else if (editor == Editor::Integer)
         delegate = new VLK_FuelSensor_Delegate_Int(this);
     setItemDelegateForColumn(Value, delegate);

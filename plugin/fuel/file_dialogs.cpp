@@ -7,21 +7,43 @@
 
 namespace vlk {
 
+namespace {
+
+QString& folderOfLastSave()
+{
+    static QString folder;
+    return folder;
+}
+
+QString startFolder(const QString& otherwise)
+{
+    const QString& last = folderOfLastSave();
+    return !last.isEmpty() && QFileInfo(last).isDir() ? last : otherwise;
+}
+
+} // namespace
+
 QString askFuelFileToSave(QWidget* parent, const QString& caption, const QString& proposed,
                           const QString& suffix)
 {
-    QFileDialog dialog(parent, caption, QFileInfo(proposed).path(), QLatin1String("*.") + suffix);
+    QFileDialog dialog(parent, caption, startFolder(QFileInfo(proposed).path()),
+                       QLatin1String("*.") + suffix);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     // To a name with a point in it the dialog adds none by itself.
     const QString name = QFileInfo(proposed).fileName();
     dialog.setDefaultSuffix(suffix);
     dialog.selectFile(name.contains(QLatin1Char('.')) ? name + QLatin1Char('.') + suffix : name);
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    QString path = dialog.selectedFiles().value(0);
+    folderOfLastSave() = QFileInfo(path).path();
+    return path;
 }
 
 QString askFuelFileToLoad(QWidget* parent, const QString& folder, const QString& suffix)
 {
-    return QFileDialog::getOpenFileName(parent, fuelWord("wrd_023"), folder, QLatin1String("*.") + suffix);
+    return QFileDialog::getOpenFileName(parent, fuelWord("wrd_023"), startFolder(folder),
+                                        QLatin1String("*.") + suffix);
 }
 
 } // namespace vlk

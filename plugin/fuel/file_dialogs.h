@@ -1,6 +1,7 @@
 #pragma once
 
-// The calibration windows ask for files by these. Empty when the user cancels.
+// The calibration windows ask for files by these. Empty when the user cancels. Once a file was saved they
+// start in its folder, before that in the one of the proposed name.
 
 #include <QString>
 

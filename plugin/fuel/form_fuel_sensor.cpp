@@ -2,18 +2,22 @@
 
 #include "ui_VLK_Designer_Form_Fuel_Sensor.h"
 
+#include "fuel/calibration_sheet.h"
 #include "fuel/form_report_fuel.h"
 #include "fuel/fuel_number_line.h"
 #include "fuel/fuelsensor_graph.h"
+#include "fuel/paste_preview.h"
 #include "fuel/question.h"
 #include "fuel/table/fuel_document.h"
 #include "fuel/table/fuel_file.h"
 #include "fuel/table/fuel_log.h"
 #include "fuel/table/fuel_sensors.h"
+#include "fuel/table/kept_tables.h"
 #include "xml/xml_section.h"
 
 #include <QAction>
 #include <QClipboard>
+#include <QKeyEvent>
 
 namespace {
 
@@ -37,6 +41,7 @@ VLK_Form_Fuel_Sensor::VLK_Form_Fuel_Sensor(int kind, const QString& name, const 
     alarm.setColor(QPalette::WindowText, Qt::red);
     ui_->label_Falling->setPalette(alarm);
     setFocusProxy(ui_->lineEdit_Volume);
+    ui_->lineEdit_Name->installEventFilter(this);
     addClipboardActions();
 
     using Form = VLK_Form_Fuel_Sensor;
@@ -107,10 +112,16 @@ void VLK_Form_Fuel_Sensor::retranslate()
     ui_->tableWidget->setAccessibleName(tr("cfgt6_037"));
     copy_->setText(tr("cfgt6_401"));
     paste_->setText(tr("cfgt6_402"));
+    offerName(offeredName_);
     showCaptions();
     showFallingPoints();
     if (report_)
         report_->retranslate();
+}
+
+bool VLK_Form_Fuel_Sensor::hasRows() const
+{
+    return ui_->tableWidget->rowCount() > 0;
 }
 
 void VLK_Form_Fuel_Sensor::setKindAndName(int kind, const QString& name)
@@ -145,8 +156,10 @@ void VLK_Form_Fuel_Sensor::clearAll()
 
 void VLK_Form_Fuel_Sensor::clearRows()
 {
+    offerName({});
     setDirty(false);
     ui_->tableWidget->setRowCount(0);
+    setEdited(false);
     ui_->pushButton_Del->setEnabled(false);
     ui_->pushButton_Clear->setEnabled(false);
     rebuildPoints();
@@ -157,6 +170,23 @@ void VLK_Form_Fuel_Sensor::askForVolume()
 {
     ui_->lineEdit_Volume->clear();
     ui_->lineEdit_Volume->setFocus();
+}
+
+void VLK_Form_Fuel_Sensor::offerName(const QString& name)
+{
+    offeredName_ = name;
+    ui_->lineEdit_Name->setPlaceholderText(
+        name.isEmpty() ? QString() : QStringLiteral("%1 (%2)").arg(name, tr("cfgt6_408")));
+}
+
+bool VLK_Form_Fuel_Sensor::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool takes = event->type() == QEvent::KeyPress && ui_->lineEdit_Name->text().isEmpty() &&
+                       static_cast<QKeyEvent*>(event)->key() == Qt::Key_Right;
+    if (!takes || offeredName_.isEmpty())
+        return QWidget::eventFilter(watched, event);
+    ui_->lineEdit_Name->setText(offeredName_);
+    return true;
 }
 
 void VLK_Form_Fuel_Sensor::addRow(const QString& volume, const QString& value)
@@ -207,6 +237,17 @@ void VLK_Form_Fuel_Sensor::setDirty(bool dirty)
     Q_EMIT signal_NeedSaved(dirty);
 }
 
+void VLK_Form_Fuel_Sensor::setEdited(bool edited)
+{
+    edited_ = edited;
+    Q_EMIT signal_Edited();
+}
+
+QString VLK_Form_Fuel_Sensor::keep(const QString& folder, const QString& vehicle, const QDateTime& time) const
+{
+    return vlk::keepTable(folder, name_, vehicle, ui_->lineEdit_Name->text(), ui_->tableWidget->rows(), time);
+}
+
 void VLK_Form_Fuel_Sensor::saveCsv(const QString& path) const
 {
     vlk::saveFuelFile(path, vlk::fuelCsv(captions(), ui_->tableWidget->rows()));
@@ -229,6 +270,7 @@ void VLK_Form_Fuel_Sensor::saveXml(CXmlSection* section)
 {
     vlk::putFuelTable(section, name_, ui_->lineEdit_Name->text(), ui_->tableWidget->rows());
     setDirty(false);
+    setEdited(false);
 }
 
 void VLK_Form_Fuel_Sensor::loadXml(CXmlSection* section)
@@ -240,6 +282,7 @@ void VLK_Form_Fuel_Sensor::loadXml(CXmlSection* section)
     }
     clearRows();
     ui_->lineEdit_Name->setText(vlk::fuelTableName(section));
+    offerName(vlk::fuelTableWrittenName(section));
     addRows(*rows);
 }
 
@@ -250,6 +293,15 @@ void VLK_Form_Fuel_Sensor::printReport()
     report_->showReport(name_, ui_->lineEdit_Name->text(), points_);
 }
 
+void VLK_Form_Fuel_Sensor::fillSheet(vlk::CalibrationSheet& sheet) const
+{
+    sheet.kind = kind_;
+    sheet.sensor = name_;
+    sheet.tank = ui_->lineEdit_Name->text();
+    sheet.rows = ui_->tableWidget->rows();
+    sheet.points = points_;
+}
+
 void VLK_Form_Fuel_Sensor::copyTable() const
 {
     QGuiApplication::clipboard()->setText(vlk::fuelClipboard(captions(), ui_->tableWidget->rows()));
@@ -257,10 +309,16 @@ void VLK_Form_Fuel_Sensor::copyTable() const
 
 void VLK_Form_Fuel_Sensor::pasteRows()
 {
-    const auto rows = vlk::readFuelClipboard(QGuiApplication::clipboard()->text(), captions());
-    if (rows.empty())
+    const vlk::FuelCaptions texts = captions();
+    const auto pasted =
+        vlk::readFuelClipboard(QGuiApplication::clipboard()->text(), texts, vlk::fuelKind(kind_));
+    if (pasted.rows.empty()) {
+        vlk::warn(this, tr("cfgt6_411").arg(pasted.leftOut));
         return;
-    addRows(rows);
+    }
+    if (PastePreview(pasted, texts, this).exec() != QDialog::Accepted)
+        return;
+    addRows(pasted.rows);
     setDirty(true);
 }
 
@@ -272,6 +330,7 @@ void VLK_Form_Fuel_Sensor::slot_CellChanged_Table(int /*row*/, int column)
     }
     ui_->tableWidget->sortByVolume();
     rebuildPoints();
+    setEdited(true);
 }
 
 void VLK_Form_Fuel_Sensor::slot_textChanged_LineEdit_Volume(const QString& text)
@@ -304,6 +363,7 @@ void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Del()
     ui_->pushButton_Clear->setEnabled(anyLeft);
     if (!anyLeft)
         setDirty(false);
+    setEdited(anyLeft);
     rebuildPoints();
 }
 

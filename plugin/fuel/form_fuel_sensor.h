@@ -5,7 +5,8 @@
 // comma as decimal sign; cells have a point.
 //
 // "Dirty" are rows that were added or pasted and are in no XML file yet. A change of a cell does not count,
-// nor does the removal of single rows, nor a CSV file.
+// nor does the removal of single rows, nor a CSV file. "Edited" is a table without such rows in which cells
+// were changed or single rows removed since it was saved or loaded.
 
 #include "fuel/table/fuel_text.h"
 
@@ -16,6 +17,11 @@
 #include <memory>
 
 struct CXmlSection;
+
+namespace vlk {
+struct CalibrationSheet;
+}
+
 class VLK_FormReportFuel;
 class VLK_FuelSensor_Graph;
 
@@ -37,6 +43,8 @@ public:
     int tabIndex() const { return tabIndex_; }
     void setTabIndex(int index) { tabIndex_ = index; }
     bool isDirty() const { return dirty_; }
+    bool hasRows() const;
+    bool isEdited() const { return edited_ && !dirty_; }
     void setKindAndName(int kind, const QString& name);
     void setParamEditable(bool editable);
     // What the sensor says now, in millivolts or as a code.
@@ -57,15 +65,23 @@ public:
     // Adds the rows of the file to those that are there.
     void loadCsv(const QString& path);
     // Into and from the root of a calibration document. What was put into one counts as saved; where its file
-    // could not be written, setDirty takes that back.
+    // could not be written, setDirty and setEdited take that back.
     void saveXml(CXmlSection* section);
     void loadXml(CXmlSection* section);
     void setDirty(bool dirty);
+    void setEdited(bool edited);
+    // As it stands, for the next time.
+    QString keep(const QString& folder, const QString& vehicle, const QDateTime& time) const;
 
     void printReport();
+    // What the form knows of the sheet.
+    void fillSheet(vlk::CalibrationSheet& sheet) const;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
     void signal_NeedSaved(bool dirty);
+    void signal_Edited();
 
 private Q_SLOTS:
     void slot_CellChanged_Table(int row, int column);
@@ -84,6 +100,8 @@ private:
     void pasteRows();
     void clearRows();
     void askForVolume();
+    // The empty field of the name shows it; the right arrow takes it.
+    void offerName(const QString& name);
     void rebuildPoints();
     void showFallingPoints();
 
@@ -94,7 +112,9 @@ private:
     QAction* paste_;
     int kind_;
     QString name_;
+    QString offeredName_;
     int tabIndex_ = -1;
     bool dirty_ = false;
+    bool edited_ = false;
     vlk::FuelPoints points_;
 };

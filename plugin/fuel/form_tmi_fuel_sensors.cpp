@@ -4,6 +4,7 @@
 
 #include "base/clock.h"
 #include "fuel/button_row.h"
+#include "fuel/calibration_sheet.h"
 #include "fuel/file_dialogs.h"
 #include "fuel/form_fuel_sensor.h"
 #include "fuel/plus_icon.h"
@@ -13,9 +14,11 @@
 #include "link/device.h"
 #include "link/requests.h"
 #include "windows/fit_to_screen.h"
+#include "windows/notice_bar.h"
 #include "windows/vlk_tabwidget.h"
 #include "xml/xml_document.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QShortcut>
 #include <QtEndian>
@@ -25,6 +28,9 @@
 using namespace vlk;
 
 namespace {
+
+// Numbers in the bar; offers have those from kOffers on.
+enum NoticeNumber { kEdited, kFileOfOther, kOffers };
 
 constexpr auto kPause = std::chrono::milliseconds(2000);
 
@@ -54,9 +60,14 @@ int groupOf(int sensor)
 
 VLK_Form_TMI_Fuel_Sensors::VLK_Form_TMI_Fuel_Sensors(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
-      ui_(std::make_unique<Ui::VLK_Designer_Form_TMI_Fuel_Sensors>())
+      ui_(std::make_unique<Ui::VLK_Designer_Form_TMI_Fuel_Sensors>()), bar_(new NoticeBar(this))
 {
     ui_->setupUi(this);
+    ui_->verticalLayout_Window->insertWidget(0, bar_);
+    connect(bar_, &NoticeBar::closed, this, [this](int number) {
+        if (number == kFileOfOther && currentSensor() >= 0)
+            fileOf_[currentSensor()].clear();
+    });
     ui_->pushButton_Help->hide();
     buildTabs();
 
@@ -66,6 +77,7 @@ VLK_Form_TMI_Fuel_Sensors::VLK_Form_TMI_Fuel_Sensors(QWidget* parent)
         {ui_->pushButton_Save_Xml, &Window::slot_pressed_Btn_Save_Xml},
         {ui_->pushButton_Save_Excel, &Window::slot_pressed_Btn_Save_Excel},
         {ui_->pushButton_Print, &Window::slot_pressed_Btn_Print},
+        {ui_->pushButton_Pdf, &Window::slot_pressed_Btn_Pdf},
         {ui_->pushButton_Help, &Window::slot_pressed_Btn_Help},
         {ui_->pushButton_Exit, &Window::slot_pressed_Btn_Exit},
     };
@@ -80,6 +92,9 @@ VLK_Form_TMI_Fuel_Sensors::VLK_Form_TMI_Fuel_Sensors(QWidget* parent)
     timer_.setSingleShot(true);
     timer_.setInterval(kPause);
     connect(&timer_, &QTimer::timeout, this, &Window::slot_timeout);
+    old_.setSingleShot(true);
+    old_.setInterval(2 * kPause);
+    connect(&old_, &QTimer::timeout, this, &Window::clearLiveValues);
     resize(900, 540);
     keepOnScreen(this);
     retranslate();
@@ -99,6 +114,7 @@ void VLK_Form_TMI_Fuel_Sensors::buildTabs()
         forms_[i] = form;
         connect(form, &VLK_Form_Fuel_Sensor::signal_NeedSaved, this,
                 &VLK_Form_TMI_Fuel_Sensors::slot_NeedSaved);
+        connect(form, &VLK_Form_Fuel_Sensor::signal_Edited, this, &VLK_Form_TMI_Fuel_Sensors::tellOfTable);
         const int number = groupOf(i);
         QTabWidget* tabs = ui_->tabWidget;
         if (fuelGroups[number].title) {
@@ -134,9 +150,15 @@ void VLK_Form_TMI_Fuel_Sensors::retranslate()
     ui_->pushButton_Save_Xml->setText(QStringLiteral("%1 XML").arg(tr("wrd_042")));
     ui_->pushButton_Save_Excel->setText(QStringLiteral("%1 Excel").arg(tr("wrd_042")));
     ui_->pushButton_Print->setText(tr("wrd_030"));
+    ui_->pushButton_Pdf->setToolTip(tr("cfgt6_413"));
+    ui_->pushButton_Pdf->setAccessibleName(tr("cfgt6_413"));
     ui_->pushButton_Exit->setText(tr("wrd_054"));
     ui_->pushButton_Help->setText(tr("wrd_027"));
     keepCaptions(ui_->horizontalLayout_Buttons);
+    bar_->retranslate();
+    tellOfTable();
+    if (isVisible())
+        offerKeptTables();
     for (int i = 0; i < fuelGroupCount; ++i) {
         if (groups_[i])
             ui_->tabWidget->setTabText(groups_[i]->tabIndex(),
@@ -154,7 +176,9 @@ void VLK_Form_TMI_Fuel_Sensors::retranslate()
 void VLK_Form_TMI_Fuel_Sensors::openWindow(const QString& title)
 {
     ui_->lineEdit_Title->setText(title);
+    tracker_ = vlkDevice ? vlkDevice->trackerId2() : QString();
     forEachForm([](VLK_Form_Fuel_Sensor& form, int) { form.clearAll(); });
+    clearLiveValues();
     show();
     raise();
     activateWindow();
@@ -162,6 +186,7 @@ void VLK_Form_TMI_Fuel_Sensors::openWindow(const QString& title)
         form->setFocus();
     requests::analog();
     unsavedCount_ = 0;
+    offerKeptTables();
     slot_currentChanged_FuelType(ui_->tabWidget->currentIndex());
 }
 
@@ -173,6 +198,12 @@ void VLK_Form_TMI_Fuel_Sensors::onLiveRecord(const uchar* record)
         form.setLiveValue(qFromLittleEndian<quint16>(record + fuelSensors[sensor].liveAt));
     });
     timer_.start();
+    old_.start();
+}
+
+void VLK_Form_TMI_Fuel_Sensors::clearLiveValues()
+{
+    forEachForm([](VLK_Form_Fuel_Sensor& form, int) { form.clearLiveValue(); });
 }
 
 void VLK_Form_TMI_Fuel_Sensors::slot_timeout()
@@ -192,22 +223,35 @@ void VLK_Form_TMI_Fuel_Sensors::linkLost()
 {
     if (isHidden())
         return;
-    if (!hasUnsaved())
+    if (!hasRows())
         close();
     timer_.stop();
-    forEachForm([](VLK_Form_Fuel_Sensor& form, int) { form.clearLiveValue(); });
+    clearLiveValues();
+}
+
+bool VLK_Form_TMI_Fuel_Sensors::hasRows() const
+{
+    bool found = false;
+    forEachForm([&found](const VLK_Form_Fuel_Sensor& form, int) { found = found || form.hasRows(); });
+    return found;
 }
 
 VLK_Form_Fuel_Sensor* VLK_Form_TMI_Fuel_Sensors::currentForm() const
 {
+    const int sensor = currentSensor();
+    return sensor < 0 ? nullptr : forms_[sensor];
+}
+
+int VLK_Form_TMI_Fuel_Sensors::currentSensor() const
+{
     const int shown = ui_->tabWidget->currentIndex();
-    VLK_Form_Fuel_Sensor* found = nullptr;
+    int found = -1;
     forEachForm([&](VLK_Form_Fuel_Sensor& form, int sensor) {
         const VLK_TabWidget* group = groups_[groupOf(sensor)];
         const bool current = group ? group->tabIndex() == shown && group->currentIndex() == form.tabIndex()
                                    : form.tabIndex() == shown;
         if (current)
-            found = &form;
+            found = sensor;
     });
     return found;
 }
@@ -233,12 +277,96 @@ void VLK_Form_TMI_Fuel_Sensors::slot_currentChanged_FuelType(int /*index*/)
 {
     if (const auto* form = currentForm())
         ui_->pushButton_Save_Xml->setEnabled(form->isDirty());
+    tellOfTable();
 }
 
 void VLK_Form_TMI_Fuel_Sensors::slot_NeedSaved(bool on)
 {
     ui_->pushButton_Save_Xml->setEnabled(on);
     unsavedCount_ += on ? 1 : -1;
+    tellOfTable();
+}
+
+void VLK_Form_TMI_Fuel_Sensors::tellOfTable()
+{
+    const int sensor = currentSensor();
+    const VLK_Form_Fuel_Sensor* form = currentForm();
+    if (form && !form->hasRows())
+        fileOf_[sensor].clear();
+    if (form && !fileOf_[sensor].isEmpty())
+        bar_->tell(kFileOfOther, {Mark::advice, tr("cfgt6_412").arg(fileOf_[sensor], form->name()), {}});
+    else
+        bar_->end(kFileOfOther);
+    const Notice::Action save{ui_->pushButton_Save_Xml->text(), [this] { slot_pressed_Btn_Save_Xml(); }};
+    if (form && form->isEdited())
+        bar_->tell(kEdited, {Mark::changed, tr("cfgt6_404"), {save}});
+    else
+        bar_->end(kEdited);
+}
+
+void VLK_Form_TMI_Fuel_Sensors::offerKeptTables()
+{
+    for (; offers_ > 0; --offers_)
+        bar_->end(kOffers + offers_ - 1);
+    for (const KeptTable& table : kept_.offered(telemetryFolder())) {
+        const QString time = table.time.toString(QStringLiteral("dd.MM.yyyy HH:mm"));
+        const Notice::Action back{tr("cfgt6_406"), [this, table] { bringBack(table); }};
+        const Notice::Action discard{tr("cfgt6_407"), [this, path = table.path] {
+                                         QFile::remove(path);
+                                         offerKeptTables();
+                                     }};
+        bar_->tell(kOffers + offers_++,
+                   {Mark::changed, tr("cfgt6_405").arg(table.sensor, table.vehicle, time), {back, discard}});
+    }
+}
+
+void VLK_Form_TMI_Fuel_Sensors::bringBack(const KeptTable& table)
+{
+    select(table.sensor);
+    VLK_Form_Fuel_Sensor* form = currentForm();
+    if (!form || form->name() != table.sensor || !mayReplace(*form))
+        return;
+    // With tables of another vehicle on show the title is theirs.
+    if (!hasRows())
+        ui_->lineEdit_Title->setText(table.vehicle);
+    XmlDocument document(table.path, QLatin1String(fuelRoot));
+    load(*form, document.root());
+    form->setEdited(form->hasRows());
+    kept_.show(*form, table.path);
+    offerKeptTables();
+}
+
+void VLK_Form_TMI_Fuel_Sensors::load(VLK_Form_Fuel_Sensor& form, CXmlSection* root)
+{
+    const bool wasEdited = form.isEdited();
+    form.loadXml(root);
+    // What was edited is kept and offered; what is saved or given up is kept no longer.
+    if (wasEdited && !form.isEdited())
+        kept_.release(form);
+    else if (!wasEdited)
+        kept_.end(form);
+}
+
+bool VLK_Form_TMI_Fuel_Sensors::mayReplace(const VLK_Form_Fuel_Sensor& form)
+{
+    if (form.isEdited() && keep(form))
+        return true;
+    return !(form.isDirty() || form.isEdited()) || agrees(this, tr("tmiw_129"), "wrd_031");
+}
+
+bool VLK_Form_TMI_Fuel_Sensors::keep(const VLK_Form_Fuel_Sensor& form)
+{
+    return kept_.keep(form, telemetryFolder(), ui_->lineEdit_Title->text());
+}
+
+bool VLK_Form_TMI_Fuel_Sensors::keepEdited()
+{
+    bool allKept = true;
+    forEachForm([&](const VLK_Form_Fuel_Sensor& form, int) {
+        if (form.isEdited() && !keep(form))
+            allKept = false;
+    });
+    return allKept;
 }
 
 QString VLK_Form_TMI_Fuel_Sensors::proposedName(const QString& sensor) const
@@ -266,10 +394,16 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Load()
         warn(this, tr("tmiw_128"));
         return;
     }
-    select(document.root()->getString(QStringLiteral("type")));
+    const QString type = document.root()->getString(QStringLiteral("type"));
+    select(type);
     VLK_Form_Fuel_Sensor* form = currentForm();
-    if (form && (!form->isDirty() || agrees(this, tr("tmiw_129"), "wrd_031")))
-        form->loadXml(document.root());
+    if (!form || !mayReplace(*form))
+        return;
+    load(*form, document.root());
+    // A letter alone names no sensor.
+    fileOf_[currentSensor()] = type.size() > 1 && type != form->name() ? type : QString();
+    tellOfTable();
+    offerKeptTables();
 }
 
 void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Xml()
@@ -285,10 +419,15 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Xml()
     root->setString(QStringLiteral("model"), modelText());
     root->setChildValue(QStringLiteral("objName"), ui_->lineEdit_Title->text());
     const bool wasDirty = form && form->isDirty();
+    const bool wasEdited = form && form->isEdited();
     if (form)
         form->saveXml(root);
-    if (!document.saveAs(path) && wasDirty)
+    if (document.saveAs(path))
+        return;
+    if (wasDirty)
         form->setDirty(true);
+    if (wasEdited)
+        form->setEdited(true);
 }
 
 void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Excel()
@@ -308,6 +447,22 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Print()
         form->printReport();
 }
 
+void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Pdf()
+{
+    const VLK_Form_Fuel_Sensor* form = currentForm();
+    if (!form)
+        return;
+    CalibrationSheet sheet{};
+    form->fillSheet(sheet);
+    sheet.vehicle = ui_->lineEdit_Title->text();
+    sheet.tracker = tracker_;
+    sheet.time = now();
+    const QString path = askFuelFileToSave(this, QStringLiteral("%1 PDF").arg(tr("wrd_028")),
+                                           proposedName(form->name()), QStringLiteral("pdf"));
+    if (!path.isEmpty())
+        saveFuelFile(path, sheetPdf(sheet));
+}
+
 void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Help()
 {
     requests::showHelp(helpPage());
@@ -323,11 +478,13 @@ void VLK_Form_TMI_Fuel_Sensors::reject()
 {
     const QString question = QStringLiteral("%1!<br>%2 %3<br>%4")
                                  .arg(tr("wrd_005"), tr("tmiw_130"), tr("tmiw_131"), tr("tmiw_132"));
-    if (!hasUnsaved() || agrees(this, question, "wrd_031"))
+    const auto mayLose = [&] { return agrees(this, question, "wrd_031"); };
+    if ((!hasUnsaved() || mayLose()) && (keepEdited() || mayLose()))
         QDialog::reject();
 }
 
 void VLK_Form_TMI_Fuel_Sensors::slot_finished(int /*result*/)
 {
+    forEachForm([this](const VLK_Form_Fuel_Sensor& form, int) { kept_.end(form); });
     timer_.stop();
 }

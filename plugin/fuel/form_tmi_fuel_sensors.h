@@ -1,9 +1,12 @@
 #pragma once
 
 // The calibration window: a table for each fuel sensor of the tracker, each sensor's live value while the
-// user fills the tank, files, and the report. While it is open it asks for the live values: a question, its
-// answer, two seconds of pause. Live values come as the byte record of the message AnalogRecord.
+// user fills the tank, files, and the report. A table that was edited and not saved is kept at the end, and
+// offered at the next opening. While the window is open it asks for the live values: a question, its answer,
+// two seconds of pause. A value that is older than two such periods goes. Live values come as the byte record
+// of the message AnalogRecord.
 
+#include "fuel/kept_forms.h"
 #include "fuel/table/fuel_sensors.h"
 
 #include <QDialog>
@@ -15,6 +18,10 @@
 struct CXmlSection;
 class VLK_Form_Fuel_Sensor;
 class VLK_TabWidget;
+
+namespace vlk {
+class NoticeBar;
+} // namespace vlk
 
 namespace Ui {
 class VLK_Designer_Form_TMI_Fuel_Sensors;
@@ -32,10 +39,11 @@ public:
     void openWindow(const QString& title);
     void onLiveRecord(const uchar* record);
     // There is a tracker to ask again, or none any more: live values are forgotten, and the window goes
-    // unless it has rows that are in no file.
+    // unless a table has rows.
     void linkFound();
     void linkLost();
-    bool hasUnsaved() const { return unsavedCount_ > 0; }
+    // An open window with rows comes to the front as it is; opening would empty its tables.
+    bool hasRows() const;
     static QString helpPage() { return QStringLiteral("r-7106Fuel.html"); }
     void retranslate();
 
@@ -47,6 +55,7 @@ private Q_SLOTS:
     void slot_pressed_Btn_Save_Xml();
     void slot_pressed_Btn_Save_Excel();
     void slot_pressed_Btn_Print();
+    void slot_pressed_Btn_Pdf();
     void slot_pressed_Btn_Help();
     void slot_pressed_Btn_Exit();
     void slot_finished(int result);
@@ -60,12 +69,33 @@ private:
     VLK_Form_Fuel_Sensor* currentForm() const;
     // Shows the tab of a sensor by the name that its file has, or of its group where there is no such sensor.
     void select(const QString& type);
+    bool hasUnsaved() const { return unsavedCount_ > 0; }
+    // What the bar says of the table on show.
+    void tellOfTable();
+    void clearLiveValues();
+    void offerKeptTables();
+    void bringBack(const vlk::KeptTable& table);
+    // Keeps an edited table, and asks where rows would be lost.
+    bool mayReplace(const VLK_Form_Fuel_Sensor& form);
+    // Puts a document into a form, and settles what is kept of it.
+    void load(VLK_Form_Fuel_Sensor& form, CXmlSection* root);
+    // Both are false when the disk refused.
+    bool keep(const VLK_Form_Fuel_Sensor& form);
+    bool keepEdited();
+    int currentSensor() const;
     QString proposedName(const QString& sensor) const;
 
     std::unique_ptr<Ui::VLK_Designer_Form_TMI_Fuel_Sensors> ui_;
     // By the rows of vlk::fuelGroups and vlk::fuelSensors; null for what this model lacks.
     std::array<VLK_TabWidget*, vlk::fuelGroupCount> groups_{};
     std::array<VLK_Form_Fuel_Sensor*, vlk::fuelSensorCount> forms_{};
+    vlk::KeptForms kept_;
+    // The sensor whose file a form shows, where that has no form of its own.
+    std::array<QString, vlk::fuelSensorCount> fileOf_;
+    vlk::NoticeBar* bar_;
+    int offers_ = 0;  // of kept tables, in the bar
+    QString tracker_; // its number, also when it is gone
     QTimer timer_;
+    QTimer old_; // runs until the live values are too old
     int unsavedCount_ = 0;
 };

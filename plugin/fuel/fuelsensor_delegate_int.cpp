@@ -1,15 +1,15 @@
 #include "fuel/fuelsensor_delegate_int.h"
 
 #include "fuel/fuel_number_line.h"
+#include "fuel/table/fuel_sensors.h"
 
 #include <QLineEdit>
 
 QWidget* VLK_FuelSensor_Delegate_Int::createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
                                                    const QModelIndex& /*index*/) const
 {
-    constexpr int highestCode = 65535;
     auto* edit = new QLineEdit(parent);
-    vlk::takeNumbers(edit, highestCode, 0);
+    vlk::takeNumbers(edit, vlk::codeLimit.top, vlk::codeLimit.decimals);
     return edit;
 }
 

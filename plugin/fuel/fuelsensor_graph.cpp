@@ -20,13 +20,17 @@ constexpr int kBottomMargin = 50;
 constexpr int kArrow = 20; // beyond the last tick
 constexpr int kTickHalf = 5;
 constexpr int kTicks = 10;
-constexpr double kDot = 1; // radius
-constexpr double kRing = 5;
+constexpr double kDot = 1;    // radius
+constexpr double kRing = 3.5; // 7 pixels across
+constexpr double kAlarmRing = 5;
 constexpr double kReach = 15; // of the mouse
 
 // On white, whatever the palette.
 constexpr Qt::GlobalColor kInk = Qt::black;
 constexpr Qt::GlobalColor kAlarm = Qt::red;
+constexpr QRgb kRingColor = 0xff1f5f9e;
+constexpr QRgb kRoundLine = 0xffe2e6ea;
+constexpr QRgb kRoundLabel = 0xff6b7680;
 
 double largest(const vlk::FuelPoints& points, float FuelPoint::*coordinate)
 {
@@ -34,6 +38,17 @@ double largest(const vlk::FuelPoints& points, float FuelPoint::*coordinate)
     for (const FuelPoint& point : points)
         found = std::max(found, static_cast<double>(point.*coordinate));
     return std::ceil(found);
+}
+
+// 1, 2 or 5 times a power of ten, of which an axis has five to ten.
+double roundStep(double maximum)
+{
+    const double most = maximum / 5;
+    const double power = std::pow(10, std::floor(std::log10(most)));
+    for (const int times : {5, 2})
+        if (times * power <= most)
+            return times * power;
+    return power;
 }
 
 // Points that stand on another one cost time and show nothing.
@@ -123,14 +138,55 @@ void VLK_FuelSensor_Graph::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(event->rect(), Qt::white);
-    painter.setPen(kInk);
     const Axes axes = this->axes();
+    drawRoundLines(painter, axes);
+    painter.setPen(kInk);
     drawAxes(painter, axes);
     if (points_.empty())
         return;
     drawTicks(painter, axes);
     drawCurve(painter, axes);
     drawPointed(painter, axes);
+}
+
+// Behind the ticks, which stand at tenths of the largest value. The numbers are at the far ends of the lines.
+void VLK_FuelSensor_Graph::drawRoundLines(QPainter& painter, const Axes& axes) const
+{
+    const QFontMetrics metrics = painter.fontMetrics();
+    const QSize size = axes.step * kTicks;
+    const auto forEachRound = [](double maximum, auto draw) {
+        const double step = maximum > 0 ? roundStep(maximum) : 0;
+        for (int n = 1; step > 0 && n * step <= maximum; ++n)
+            draw(n * step / maximum, QString::number(n * step));
+    };
+    const auto line = [&painter](const QPoint& from, const QPoint& to) {
+        painter.setPen(QColor(kRoundLine));
+        painter.drawLine(from, to);
+        painter.setPen(QColor(kRoundLabel));
+    };
+    // A number that would touch the one before it is left out.
+    int written = 0;
+    forEachRound(axes.maxVolume, [&](double part, const QString& text) {
+        const QPoint from = axes.corner + QPoint(qRound(part * size.width()), 0);
+        const QPoint to = from - QPoint(0, size.height());
+        line(from, to);
+        const int half = metrics.horizontalAdvance(text) / 2;
+        if (to.x() - half <= written)
+            return;
+        painter.drawText(to - QPoint(half, 3), text);
+        written = to.x() + half + kTickHalf;
+    });
+    written = height();
+    forEachRound(axes.maxValue, [&](double part, const QString& text) {
+        const QPoint from = axes.corner - QPoint(0, qRound(part * size.height()));
+        const QPoint to = from + QPoint(size.width(), 0);
+        line(from, to);
+        const int base = to.y() + metrics.ascent() / 2 - 1;
+        if (base > written)
+            return;
+        painter.drawText(to.x() + 4, base, text);
+        written = base - metrics.ascent();
+    });
 }
 
 void VLK_FuelSensor_Graph::drawAxes(QPainter& painter, const Axes& axes) const
@@ -193,7 +249,8 @@ void VLK_FuelSensor_Graph::drawCurve(QPainter& painter, const Axes& axes) const
     QPolygonF rings;
     for (const std::size_t index : falling_)
         rings << axes.place(points_[index]);
-    stampCircles(painter, kRing, QPen(kAlarm, 2), Qt::NoBrush, rings);
+    stampCircles(painter, kRing, QPen(QColor(kRingColor), 1), Qt::NoBrush, line);
+    stampCircles(painter, kAlarmRing, QPen(kAlarm, 2), Qt::NoBrush, rings);
     stampCircles(painter, kDot, Qt::NoPen, kAlarm, line);
 }
 
@@ -203,7 +260,7 @@ void VLK_FuelSensor_Graph::drawPointed(QPainter& painter, const Axes& axes) cons
         return;
     constexpr int kPadding = 4;
     const QPointF at = axes.place(points_[*pointed_]);
-    painter.drawEllipse(at, kRing + 2, kRing + 2);
+    painter.drawEllipse(at, kAlarmRing + 2, kAlarmRing + 2);
     const QString text = accessibleDescription();
     QRect box = painter.fontMetrics()
                     .boundingRect(rect(), Qt::AlignLeft, text)

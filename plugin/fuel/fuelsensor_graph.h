@@ -1,9 +1,9 @@
 #pragma once
 
 // The curve of a calibration table: sensor value over volume, on white like the paper it is compared with.
-// The axes end at the largest volume and value, rounded up, and have ten ticks each. Points that fall back
-// are ringed. The point nearest to the mouse shows its values, and screen readers find them in the accessible
-// description.
+// The axes end at the largest volume and value, rounded up, and have ten ticks each; light lines stand at
+// round values. Points have a ring, and those that fall back a red one. The point nearest to the mouse shows
+// its values, and screen readers find them in the accessible description.
 
 #include "fuel/table/fuel_rows.h"
 
@@ -44,6 +44,7 @@ private:
     };
 
     Axes axes() const;
+    void drawRoundLines(QPainter& painter, const Axes& axes) const;
     void drawAxes(QPainter& painter, const Axes& axes) const;
     void drawTicks(QPainter& painter, const Axes& axes) const;
     void drawCurve(QPainter& painter, const Axes& axes) const;

@@ -1,6 +1,7 @@
 // The editor of one calibration table in the dialog of an RS sensor: points by hand, files, clipboard, curve.
 
 #include "base/clock.h"
+#include "fuel/calibration_sheet.h"
 #include "fuel/form_fuel_sensor.h"
 #include "fuel/form_fuel_view.h"
 #include "fuel/fuelsensor_graph.h"
@@ -128,10 +129,20 @@ private Q_SLOTS:
         QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
         QCOMPARE(QGuiApplication::clipboard()->text(), QString("cfgt6_040\tcfgt6_044\n10\t100\n"));
         QGuiApplication::clipboard()->setText("words");
+        answerBox("wrd_003");
         QTest::keyClick(table, Qt::Key_V, Qt::ControlModifier);
         QVERIFY(!form()->isDirty());
-        QGuiApplication::clipboard()->setText("5,5\t7\n1\t2\n");
-        QTest::keyClick(table, Qt::Key_V, Qt::ControlModifier);
+        QGuiApplication::clipboard()->setText("5,5\t7\n1\t2\n1\t70000\n");
+        for (const Qt::Key answer : {Qt::Key_Escape, Qt::Key_Return}) {
+            QVERIFY(!form()->isDirty());
+            QApplication::setActiveWindow(window);
+            whenOpen<QDialog>([answer](QDialog& preview) {
+                QCOMPARE(rowsOf(preview.findChild<QTableWidget*>("tableWidget_Paste")), QString("5.5=7 1=2"));
+                QVERIFY(preview.findChild<QLabel*>("label_LeftOut"));
+                QTest::keyClick(&preview, answer);
+            });
+            QTest::keyClick(table, Qt::Key_V, Qt::ControlModifier);
+        }
         QCOMPARE(rows(), QString("1=2 5.5=7 10=100"));
         QVERIFY(form()->isDirty());
     }
@@ -199,6 +210,13 @@ private Q_SLOTS:
         };
         QVERIFY(isRed(end));
         QVERIFY(rows.size() < 3 || isRed((corner + end) / 2));
+        // Around the dot a ring of 7 pixels, and above the tick of 10 litres a light line.
+        const QColor beside = image.pixelColor(end - QPoint(0, 4));
+        QVERIFY(beside.blue() < 230 && beside.blue() > beside.red() + 30);
+        if (kind == 0) {
+            const QColor line = image.pixelColor(corner + QPoint(step.x() * 5, -8));
+            QVERIFY(line != QColor(Qt::white) && line.red() > 200);
+        }
         QCOMPARE(image.pixelColor(2, 2), QColor(Qt::white));
     }
 
@@ -215,6 +233,22 @@ private Q_SLOTS:
         form()->clearAll();
         QCOMPARE(text("label_Falling"), QString());
         QVERIFY(!graph_->grab().isNull());
+    }
+
+    // Down the first pair of columns, then down the second, each with its unit; all of the head is text.
+    void laysOutTheSheet()
+    {
+        vlk::CalibrationSheet sheet{0,  "A3", "<rear>", "Truck 7", "356000", QDateTime({2026, 5, 7}, {14, 3}),
+                                    {}, {}};
+        for (int i = 0; i < 21; ++i)
+            sheet.rows.push_back({QString::number(i), QString::number(100 + i)});
+        const QString html = vlk::sheetHtml(sheet);
+        for (const QString text : {"A3", "&lt;rear&gt;", "Truck 7", "356000", "07.05.2026 14:03"})
+            QVERIFY2(html.contains("<b>" + text + "</b>"), qPrintable(text));
+        QCOMPARE(html.count("<th>cfgt6_040</th><th>cfgt6_043</th>"), 2);
+        const QString cell = "<td align=right>%1</td>";
+        QVERIFY(html.contains(cell.arg(0) + cell.arg(100) + cell.arg(11) + cell.arg(111)));
+        QCOMPARE(html.count("<td align=right></td>"), 2);
     }
 
 private:

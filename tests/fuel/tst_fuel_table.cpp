@@ -8,6 +8,7 @@
 #include "support/data_table.h"
 #include "support/files.h"
 #include "support/full_disk.h"
+#include "translations/text_files.h"
 #include "xml/xml_document.h"
 
 #include <QTemporaryDir>
@@ -89,17 +90,30 @@ private Q_SLOTS:
 
     void clipboard_data()
     {
-        const DataTable<QString, QString> table({"text", "rows"});
-        table.row("of the screen", "10\t2.5\n20,5\t3\n", "10=2.5 20.5=3")
-            .row("with headings", "Volume\tValue\n10\t2\n", "10=2")
-            .row("with headings of a file", "Value;Volume\r\n2;10\r\n", "10=2")
-            .row("other text", "Dear sir,\n10 l\n10\t\n", "");
+        const DataTable<QString, QString, int> table({"text", "rows", "leftOut"});
+        table.row("of the screen", "10\t2.5\n20,5\t3\n", "10=2.5 20.5=3", 0)
+            .row("with headings", "Volume\tValue\n10\t2\n", "10=2", 0)
+            .row("with headings of a file", "Value;Volume\r\n2;10\r\n", "10=2", 0)
+            .row("with headings of an English file", "Voltage;Volume, l\r\n2;10\r\n", "10=2", 0)
+            .row("with headings of a Russian file", "Напряжение\tОбъём, л\n2\t10\n", "10=2", 0)
+            .row("with Russian headings", "Объём, л\tНапряжение\n10\t2\n", "10=2", 0)
+            .row("more digits than needed", "10.00\t2.500\n1e1\t2\n", "10.0=2.50 10.0=2", 0)
+            .row("nothing holds them", "10\t2\n10\t36\n5001\t1\n-1\t1\n1.25\t1\n1\t1.234\nnan\t1\n", "10=2",
+                 6)
+            .row("too many", QString("1\t2\n").repeated(int(maxFuelRows) + 1), "", int(maxFuelRows) + 1)
+            .row("other text", "Dear sir,\n10 l\n\n10\t\n", "", 2);
+        for (const QString& language : kLanguages)
+            QVERIFY(std::count(std::begin(volumeHeadings), std::end(volumeHeadings),
+                               readTexts(language).value("cfgt6_040")) == 1);
     }
     void clipboard()
     {
         QFETCH(QString, text);
         QFETCH(QString, rows);
-        QCOMPARE(shown(readFuelClipboard(text, kCaptions)), rows);
+        QFETCH(int, leftOut);
+        const PastedRows pasted = readFuelClipboard(text, kCaptions, fuelKind(0));
+        QCOMPARE(shown(pasted.rows), rows);
+        QCOMPARE(pasted.leftOut, leftOut);
     }
 
     // Spreadsheets read numbers in the way of the user's country only.
@@ -111,7 +125,7 @@ private Q_SLOTS:
              {std::pair("ru_RU", "10,5\t2\n20\t3,25\n"), std::pair("en_GB", "10.5\t2\n20\t3.25\n")}) {
             QLocale::setDefault(QLocale(locale));
             QCOMPARE(fuelClipboard(kCaptions, rows), QString("Volume\tValue\n") + text);
-            QVERIFY(readFuelClipboard(fuelClipboard(kCaptions, rows), kCaptions) == rows);
+            QVERIFY(readFuelClipboard(fuelClipboard(kCaptions, rows), kCaptions, fuelKind(0)).rows == rows);
         }
         QLocale::setDefault(before);
     }

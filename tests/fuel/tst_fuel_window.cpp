@@ -93,6 +93,14 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(!host.sent.isEmpty(), 4000);
         QCOMPARE(host.takeSent(Message::RequestAnalog).size(), 1);
         host.send(Message::AnalogRecord, liveRecord().constData());
+        // The value outlives one answer that does not come, not two.
+        edit("A3", "2");
+        QTest::qWait(3000);
+        QVERIFY(form("A3")->findChild<QPushButton*>("pushButton_Add")->isEnabled());
+        QTRY_VERIFY(!form("A3")->findChild<QPushButton*>("pushButton_Add")->isEnabled());
+        QCOMPARE(field("A3", "lineEdit_Param")->text(), QString());
+        host.sent.clear();
+        host.send(Message::AnalogRecord, liveRecord().constData());
         fuel_.window->close();
         QTest::qWait(2200);
         QVERIFY(host.takeSent(Message::RequestAnalog).isEmpty());
@@ -124,7 +132,14 @@ private Q_SLOTS:
         QVERIFY(!fuel_.isOn("pushButton_Save_Xml"));
         load(path);
         QCOMPARE(rows("A3"), QString("5=0.90 10=12.34"));
-        QCOMPARE(field("A3", "lineEdit_Name")->text(), QString());
+        // The name of the file waits in the field for one key.
+        auto* tank = field("A3", "lineEdit_Name");
+        QCOMPARE(tank->text(), QString());
+        QVERIFY(tank->placeholderText().startsWith("left ("));
+        QTest::keyClick(tank, Qt::Key_Right);
+        QCOMPARE(tank->text(), QString("left"));
+        load(writeFile(path, fuelFile("A3")));
+        QVERIFY(tank->placeholderText().isEmpty());
     }
 
     // What could not be saved stays unsaved, and the file stays as it was.
@@ -145,13 +160,74 @@ private Q_SLOTS:
         QVERIFY(fuel_.window->isVisible());
     }
 
+    // What sets no flag is told in the bar, and offered anew when the window was closed over it.
+    void keepsWhatWasEdited()
+    {
+        const QString path = writeFile(folder.filePath("load.xml"), fuelFile("A3"));
+        load(path);
+        QVERIFY(bar()->isHidden());
+        editFirst("A3", "10.5");
+        QCOMPARE(fuel_.text("label_Notice"), QString("cfgt6_404"));
+        show("D1");
+        QVERIFY(bar()->isHidden());
+        show("A3");
+        answerFile(folder.filePath("edited.xml"));
+        pressInBar("wrd_042 XML");
+        QVERIFY(bar()->isHidden() && readFile(folder.filePath("edited.xml")).contains("param_U=\"10\""));
+        {
+            const FullDisk full(16);
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression("unsaved"));
+            editFirst("A3", "11.5");
+            answerBox("wrd_031", kUnsaved);
+            fuel_.window->close();
+            QVERIFY(fuel_.window->isVisible());
+        }
+        fuel_.window->close();
+        QVERIFY(fuel_.window->isHidden());
+        press("pushButton_FuelSensor");
+        QVERIFY(rows("A3").isEmpty());
+        QCOMPARE(fuel_.text("label_Notice"), QString("cfgt6_405"));
+        show("D1");
+        pressInBar("cfgt6_406");
+        QCOMPARE(rows("A3"), QString("11.5=7.5 20=8"));
+        QCOMPARE(field("A3", "lineEdit_Name")->text(), QString("rear"));
+        // The last edit is offered beside the one that it replaced on the screen.
+        load(path);
+        QCOMPARE(rows("A3"), QString("10=7.5 20=8"));
+        mark("A3", 0);
+        answerBox("wrd_001");
+        form("A3")->findChild<QPushButton*>("pushButton_Del")->click();
+        QVERIFY(rows("A3") == "20=8" && fuel_.text("label_NoticePlace") == "wrd_401");
+        fuel_.window->close();
+        press("pushButton_FuelSensor");
+        // One is brought back and saved, the other given up.
+        QApplication::setActiveWindow(fuel_.window);
+        QTest::keyClick(fuel_.window, Qt::Key_F6);
+        QVERIFY(bar()->isAncestorOf(QApplication::focusWidget()));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        QVERIFY(!rows("A3").isEmpty());
+        answerFile(folder.filePath("edited.xml"));
+        pressInBar("wrd_042 XML");
+        fuel_.window->close();
+        press("pushButton_FuelSensor");
+        QVERIFY(fuel_.child("label_NoticePlace")->isHidden());
+        pressInBar("cfgt6_407");
+        QVERIFY(bar()->isHidden() && QDir(folder.filePath("unsaved")).isEmpty());
+    }
+
     void savesAsCsv()
     {
         add("D2", "10,5", 7);
         QString proposed;
-        const QString path = folder.filePath("saved.csv");
+        QVERIFY(QDir(folder.path()).mkpath("elsewhere"));
+        const QString path = folder.filePath("elsewhere/saved.csv");
         saveTo("pushButton_Save_Excel", path, &proposed);
         QVERIFY(proposed.contains("/D2-Truck 7(") && proposed.endsWith(".csv"));
+        // Files begin where the last one went; a sheet is named as they are.
+        saveTo("pushButton_Pdf", folder.filePath("sheet.pdf"), &proposed);
+        QVERIFY(proposed.contains("/elsewhere/D2-Truck 7(") && proposed.endsWith(".pdf"));
+        const QByteArray sheet = readFile(folder.filePath("sheet.pdf"));
+        QVERIFY(sheet.startsWith("%PDF") && sheet.contains("/Image"));
         QCOMPARE(readFile(path), QByteArray("cfgt6_044;cfgt6_040\r\n1002;10.5\r\n"));
         QVERIFY(fuel_.isOn("pushButton_Save_Xml"));
     }
@@ -196,6 +272,12 @@ private Q_SLOTS:
             QCOMPARE(rows(sensor), QString("10=7.5 20=8"));
             QCOMPARE(field(sensor, "lineEdit_Name")->text(), QString("rear"));
             QVERIFY(form(sensor)->isVisible());
+            // A file of another sensor is told, until the table is gone.
+            const bool isOther = content.contains("\"D9\"") || content.contains("\"F1\"");
+            QCOMPARE(!bar()->isHidden() && fuel_.text("label_Notice") == "cfgt6_412", isOther);
+            answerBox("wrd_001");
+            form(sensor)->findChild<QPushButton*>("pushButton_Clear")->click();
+            QVERIFY(bar()->isHidden());
         }
         QCOMPARE(readFile(path), content);
     }
@@ -231,13 +313,21 @@ private Q_SLOTS:
         QVERIFY(fuel_.window->isHidden());
     }
 
-    // A cable that goes takes the live values with it, not the rows; the chain goes on when the view is back.
+    // A cable that goes takes the live values with it, not the rows, saved or not; the chain goes on when the
+    // view is back.
     void survivesTheCable()
     {
         add("A3", "1", 1000);
+        saveTo("pushButton_Save_Xml", folder.filePath("out.xml"));
+        window->close();
+        QVERIFY(window->isHidden() && fuel_.window->isVisible());
+        openAgain();
+        press("pushButton_FuelSensor");
+        QCOMPARE(rows("A3"), QString("1=1.00"));
+        add("A3", "1", 1000);
         host.send(Message::TrackerDetached);
         QVERIFY(window->isHidden() && fuel_.window->isVisible());
-        QCOMPARE(rows("A3"), QString("1=1.00"));
+        QCOMPARE(rows("A3"), QString("1=1.00 1=1.00"));
         edit("A3", "2");
         QVERIFY(!form("A3")->findChild<QPushButton*>("pushButton_Add")->isEnabled());
         host.send(Message::AnalogRecord, liveRecord().constData());
@@ -320,6 +410,28 @@ private:
         host.send(Message::AnalogRecord, record.constData());
         edit(sensor, volume);
         form(sensor)->findChild<QPushButton*>("pushButton_Add")->click();
+    }
+    QWidget* bar() { return fuel_.child<QWidget>("noticeBar"); }
+    void pressInBar(const QString& caption)
+    {
+        for (auto* button : bar()->findChildren<QPushButton*>())
+            if (!button->isHidden() && button->text() == caption)
+                return button->click();
+        qFatal("no button %s", qPrintable(caption));
+    }
+    QTableWidget* table(const QString& sensor)
+    {
+        return form(sensor)->findChild<QTableWidget*>("tableWidget");
+    }
+    void mark(const QString& sensor, int row) { table(sensor)->item(row, 2)->setCheckState(Qt::Checked); }
+    void editFirst(const QString& sensor, const QString& volume)
+    {
+        table(sensor)->editItem(table(sensor)->item(0, 0));
+        auto* editor = table(sensor)->viewport()->findChild<QLineEdit*>();
+        editor->selectAll();
+        QTest::keyClicks(editor, volume);
+        QTest::keyClick(editor, Qt::Key_Return);
+        QTRY_VERIFY(!table(sensor)->viewport()->findChild<QLineEdit*>());
     }
     QString rows(const QString& sensor)
     {

@@ -1,6 +1,6 @@
 #include "window/plugin_windows.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEvent>
 
 #include <algorithm>
@@ -27,6 +27,15 @@ QWidget* PluginWindows::modal() const
     const auto last = std::find_if(windows.rbegin(), windows.rend(),
                                    [](const QWidget* window) { return window->isModal(); });
     return last == windows.rend() ? nullptr : *last;
+}
+
+QWidget* PluginWindows::calibration()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto found = std::find_if(windows.begin(), windows.end(), [](const QWidget* window) {
+        return window->isVisible() && window->inherits("VLK_Form_TMI_Fuel_Sensors");
+    });
+    return found == windows.end() ? nullptr : *found;
 }
 
 bool PluginWindows::eventFilter(QObject* object, QEvent* event)

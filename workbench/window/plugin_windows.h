@@ -21,6 +21,8 @@ public:
     QVector<QWidget*> open() const;
     // The modal one that opened last; null when there is none.
     QWidget* modal() const;
+    // The calibration window, which hangs on the telemetry window; null when it is not on show.
+    static QWidget* calibration();
 
 Q_SIGNALS:
     void opened(QWidget* window);

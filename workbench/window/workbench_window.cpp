@@ -8,6 +8,7 @@
 #include "window/folders_dialog.h"
 #include "window/installed_files.h"
 #include "window/link_notices.h"
+#include "window/live_readings.h"
 #include "window/message_box.h"
 #include "window/message_log_view.h"
 #include "window/recent_files.h"
@@ -162,6 +163,7 @@ void WorkbenchWindow::connectNotices()
     linkNotices_ = std::make_unique<LinkNotices>(session_, windows_, log_, *status_, this);
     faults_ = std::make_unique<FaultsAtHand>(session_.tracker(), linkNotices_->answers(),
                                              commands_[Command::Faults]->shortcut(), this);
+    liveReadings_ = std::make_unique<LiveReadings>(session_, log_);
     saveNotices_ = std::make_unique<SaveNotices>(pluginLog_, session_, *linkNotices_, windows_, *recent_,
                                                  *status_, this);
     connect(linkNotices_.get(), &LinkNotices::troubleChanged, this, [this] {
@@ -363,6 +365,12 @@ void WorkbenchWindow::restoreLayout()
 
 void WorkbenchWindow::closeEvent(QCloseEvent* event)
 {
+    // It asks over rows that are not saved: before anything else goes, so that all stays as it is on Cancel.
+    QWidget* calibration = PluginWindows::calibration();
+    if (calibration && !calibration->close()) {
+        event->ignore();
+        return;
+    }
     settings_.setLayout(objectName(), saveGeometry());
     settings_.setLayout(splitter_->objectName(), splitter_->saveState());
     session_.link().send(vlk::Message::CloseWindows);

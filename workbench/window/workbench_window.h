@@ -29,6 +29,7 @@ class FaultsAtHand;
 class FileOpener;
 class Languages;
 class LinkNotices;
+class LiveReadings;
 class MessageLogView;
 class RecentFiles;
 class SaveNotices;
@@ -106,6 +107,7 @@ private:
     TrackerPanel* trackerPanel_;
     std::unique_ptr<FaultsAtHand> faults_;
     std::unique_ptr<LinkNotices> linkNotices_;
+    std::unique_ptr<LiveReadings> liveReadings_;
     std::unique_ptr<SaveNotices> saveNotices_;
 };
 

@@ -11,6 +11,8 @@ namespace vlk {
 
 namespace {
 
+const QString kName = QStringLiteral("Name");
+const QString kNameRead = QStringLiteral("Name_A1");
 const QString kTable = QStringLiteral("TABLE");
 const QString kRow = QStringLiteral("DATA");
 const QString kVolume = QStringLiteral("param_U");
@@ -25,22 +27,33 @@ int wholeLitres(const QString& volume)
                               : static_cast<int>(std::clamp<double>(litres, Limits::min(), Limits::max()));
 }
 
-} // namespace
-
-void putFuelTable(CXmlSection* root, const QString& sensor, const QString& name, const FuelRows& rows)
+void putTable(CXmlSection* root, const QString& sensor, const FuelRows& rows, bool hasFractions)
 {
     root->setString(QStringLiteral("type"), sensor);
-    root->setChildValue(QStringLiteral("Name"), name);
     const CXmlSectionPtr table = root->child(kTable);
     if (!table)
         return;
     for (const FuelRow& row : rows) {
         const CXmlSectionPtr data = table->child(kRow, CXmlNode::Empty);
-        data->setInt(kVolume, wholeLitres(row.volume));
+        data->setString(kVolume, hasFractions ? row.volume : QString::number(wholeLitres(row.volume)));
         data->setString(kValue, row.value);
         data->commit();
     }
     table->commit();
+}
+
+} // namespace
+
+void putFuelTable(CXmlSection* root, const QString& sensor, const QString& name, const FuelRows& rows)
+{
+    root->setChildValue(kName, name);
+    putTable(root, sensor, rows, false);
+}
+
+void putKeptTable(CXmlSection* root, const QString& sensor, const QString& name, const FuelRows& rows)
+{
+    root->setChildValue(kNameRead, name);
+    putTable(root, sensor, rows, true);
 }
 
 std::optional<FuelRows> fuelTable(CXmlSection* root)
@@ -62,7 +75,12 @@ std::optional<FuelRows> fuelTable(CXmlSection* root)
 
 QString fuelTableName(const CXmlSection* root)
 {
-    return root->getString(QStringLiteral("Name_A1"));
+    return root->getString(kNameRead);
+}
+
+QString fuelTableWrittenName(const CXmlSection* root)
+{
+    return root->getString(kName);
 }
 
 } // namespace vlk

@@ -24,8 +24,14 @@ inline constexpr auto fuelRoot = "FUEL";
 // Puts one sensor's table into the root of a document.
 void putFuelTable(CXmlSection* root, const QString& sensor, const QString& name, const FuelRows& rows);
 
+// The same with volumes as they stand and with the name where fuelTableName finds it: for a document that
+// only this program reads.
+void putKeptTable(CXmlSection* root, const QString& sensor, const QString& name, const FuelRows& rows);
+
 // The table in the root of a document; none when it has more than maxFuelRows rows.
 std::optional<FuelRows> fuelTable(CXmlSection* root);
 QString fuelTableName(const CXmlSection* root);
+// The name that a document written here holds.
+QString fuelTableWrittenName(const CXmlSection* root);
 
 } // namespace vlk

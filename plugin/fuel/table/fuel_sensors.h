@@ -17,13 +17,24 @@ inline QString fuelWord(const char* key)
     return QCoreApplication::translate("vlk", key);
 }
 
+// What a cell can hold: numbers from 0.
+struct FuelLimit
+{
+    double top;
+    int decimals;
+};
+
+inline constexpr FuelLimit volumeLimit{5000, 1};
+inline constexpr FuelLimit voltsLimit{35, 2};
+inline constexpr FuelLimit codeLimit{65535, 0};
+
 struct FuelKind
 {
     enum class Editor : std::uint8_t { None, Decimal, Integer };
 
     const char* valueCaption; // keys
     const char* axisCaption;
-    Editor editor;     // of the value column: volts from 0 to 35, or codes from 0 to 65535
+    Editor editor;     // of the value column: volts or codes
     int leftMargin;    // pixels, of the graph
     int graphDecimals; // of its values
     bool millivolts;   // what the tracker says is in millivolts, and is shown in volts
@@ -40,6 +51,11 @@ constexpr const FuelKind& fuelKind(int kind)
 {
     constexpr int last = static_cast<int>(std::size(fuelKinds)) - 1;
     return fuelKinds[kind >= 0 && kind < last ? kind : last];
+}
+
+constexpr const FuelLimit& valueLimit(const FuelKind& kind)
+{
+    return kind.editor == FuelKind::Editor::Decimal ? voltsLimit : codeLimit;
 }
 
 // A tab of the window: a tab widget of its own for the sensors of the group, or the one sensor itself.

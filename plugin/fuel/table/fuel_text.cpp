@@ -1,10 +1,12 @@
 #include "fuel/table/fuel_text.h"
 
 #include <QLocale>
+#include <QRegularExpression>
 #include <QTextCodec>
 #include <QVector>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace vlk {
@@ -97,6 +99,31 @@ void forEachLine(const QString& text, Take take)
     }
 }
 
+// A line of headings: of a CSV file, or of the screen.
+bool isValueFirst(const QString& line, const FuelCaptions& captions)
+{
+    if (line.startsWith(captions.value))
+        return true;
+    return std::any_of(std::begin(volumeHeadings), std::end(volumeHeadings),
+                       [&line](const QString& heading) { return line.indexOf(heading) > 0; });
+}
+
+// Whether a cell can hold the number. One that is written with more digits than it has loses them.
+bool fit(QString& text, const FuelLimit& limit)
+{
+    bool ok = false;
+    const double number = text.toDouble(&ok);
+    if (!ok || !(number >= 0 && number <= limit.top))
+        return false;
+    const QString shortest = QString::number(number, 'f', limit.decimals);
+    if (std::abs(shortest.toDouble() - number) > 1e-9)
+        return false;
+    static const QRegularExpression digits(QStringLiteral("^\\d+(\\.\\d+)?$"));
+    if (!digits.match(text).hasMatch() || text.section(kPoint, 1).size() > limit.decimals)
+        text = shortest;
+    return true;
+}
+
 QString decoded(const QByteArray& content)
 {
     return QTextCodec::codecForUtfText(content, QTextCodec::codecForLocale())->toUnicode(content);
@@ -145,17 +172,30 @@ QString fuelClipboard(const FuelCaptions& captions, const FuelRows& rows)
     return text;
 }
 
-FuelRows readFuelClipboard(const QString& text, const FuelCaptions& captions)
+PastedRows readFuelClipboard(const QString& text, const FuelCaptions& captions, const FuelKind& kind)
 {
-    const bool valueFirst = text.startsWith(captions.value);
-    FuelRows rows;
+    PastedRows pasted;
+    bool valueFirst = false;
+    bool isFirst = true;
     forEachLine(text, [&](const QString& line) {
-        FuelRow row = rowOf(cellsOf(line), valueFirst);
-        if (isPoint(row))
-            rows.push_back(std::move(row));
-        return rows.size() <= maxFuelRows;
+        const Cells cells = cellsOf(line);
+        if (cells.first.isEmpty() && cells.second.isEmpty())
+            return true;
+        const bool mayBeHeading = std::exchange(isFirst, false) && !isPoint(rowOf(cells, false));
+        if (mayBeHeading) {
+            valueFirst = isValueFirst(line, captions);
+            return true;
+        }
+        FuelRow row = rowOf(cells, valueFirst);
+        if (fit(row.volume, volumeLimit) && fit(row.value, valueLimit(kind)))
+            pasted.rows.push_back(std::move(row));
+        else
+            ++pasted.leftOut;
+        return true;
     });
-    return rows.size() > maxFuelRows ? FuelRows() : rows;
+    if (pasted.rows.size() > maxFuelRows)
+        return {{}, static_cast<int>(pasted.rows.size()) + pasted.leftOut};
+    return pasted;
 }
 
 } // namespace vlk

@@ -12,6 +12,7 @@
 // whole, for the user to see.
 
 #include "fuel/table/fuel_rows.h"
+#include "fuel/table/fuel_sensors.h"
 
 #include <QByteArray>
 
@@ -35,7 +36,19 @@ QByteArray fuelCsv(const FuelCaptions& captions, const FuelRows& rows);
 std::optional<FuelRows> readFuelCsv(const QByteArray& content);
 
 QString fuelClipboard(const FuelCaptions& captions, const FuelRows& rows);
-// The rows with two numbers. Headings may be there; when they are those of a CSV file, its order counts.
-FuelRows readFuelClipboard(const QString& text, const FuelCaptions& captions);
+
+// What a text would add to a table.
+struct PastedRows
+{
+    FuelRows rows;
+    int leftOut = 0; // lines with something that no cell could hold
+};
+
+// Headings may be there; when they are those of a CSV file, in whatever language it was saved, its order
+// counts. With more than maxFuelRows rows all is left out.
+PastedRows readFuelClipboard(const QString& text, const FuelCaptions& captions, const FuelKind& kind);
+
+// The caption of the volume in each language of the texts.
+inline const QString volumeHeadings[] = {QStringLiteral("Volume, l"), QStringLiteral("Объём, л")};
 
 } // namespace vlk

@@ -415,11 +415,12 @@ void VLK_Widget_Tmi_View::slot_pressed_FuelSensor()
 {
     if (fuelSensors_ == nullptr)
         fuelSensors_ = new VLK_Form_TMI_Fuel_Sensors(this);
-    // Opening empties the tables.
-    if (fuelSensors_->isVisible() && fuelSensors_->hasUnsaved())
+    if (fuelSensors_->isVisible() && fuelSensors_->hasRows()) {
         fuelSensors_->raise();
-    else
+        fuelSensors_->activateWindow();
+    } else {
         fuelSensors_->openWindow(setup_.objectName);
+    }
 }
 
 void VLK_Widget_Tmi_View::slot_pressed_SetGuard()

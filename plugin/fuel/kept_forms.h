@@ -1,0 +1,32 @@
+#pragma once
+
+// Which tables of the calibration window are kept on the disk: those that were edited and not saved, until
+// they are saved or given up. What is kept and on show in no form is offered to the user.
+
+#include "fuel/table/kept_tables.h"
+
+#include <map>
+
+class VLK_Form_Fuel_Sensor;
+
+namespace vlk {
+
+class KeptForms
+{
+public:
+    // Keeps the table of a form in the place of what was kept of it before. False when the disk refused.
+    bool keep(const VLK_Form_Fuel_Sensor& form, const QString& folder, const QString& vehicle);
+    // The form shows a kept table from now on, or shows another one than that which is kept of it.
+    void show(const VLK_Form_Fuel_Sensor& form, const QString& path) { shown_[&form] = path; }
+    void release(const VLK_Form_Fuel_Sensor& form) { shown_.erase(&form); }
+    // What is still edited stays for the next opening of the window; all else is saved or given up, and goes.
+    void end(const VLK_Form_Fuel_Sensor& form);
+    std::vector<KeptTable> offered(const QString& folder) const;
+
+private:
+    void remove(const VLK_Form_Fuel_Sensor& form);
+
+    std::map<const VLK_Form_Fuel_Sensor*, QString> shown_; // paths
+};
+
+} // namespace vlk

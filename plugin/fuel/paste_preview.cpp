@@ -1,0 +1,49 @@
+#include "fuel/paste_preview.h"
+
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+PastePreview::PastePreview(const vlk::PastedRows& pasted, const vlk::FuelCaptions& captions, QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint)
+{
+    setObjectName(QStringLiteral("dialog_Paste"));
+    setWindowTitle(tr("cfgt6_402"));
+    auto* column = new QVBoxLayout(this);
+    const auto count = static_cast<int>(pasted.rows.size());
+    column->addWidget(new QLabel(tr("cfgt6_409").arg(count)));
+
+    auto* table = new QTableWidget(count, 2);
+    table->setObjectName(QStringLiteral("tableWidget_Paste"));
+    table->setHorizontalHeaderLabels({captions.volume, captions.value});
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    table->verticalHeader()->hide();
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setSelectionMode(QAbstractItemView::NoSelection);
+    for (int row = 0; row < count; ++row) {
+        const vlk::FuelRow& texts = pasted.rows[static_cast<std::size_t>(row)];
+        for (const auto& [at, text] : {std::pair(0, texts.volume), std::pair(1, texts.value)}) {
+            auto* item = new QTableWidgetItem(text);
+            item->setTextAlignment(Qt::AlignCenter);
+            table->setItem(row, at, item);
+        }
+    }
+    column->addWidget(table);
+
+    if (pasted.leftOut > 0) {
+        auto* leftOut = new QLabel(tr("cfgt6_410").arg(pasted.leftOut));
+        leftOut->setObjectName(QStringLiteral("label_LeftOut"));
+        leftOut->setWordWrap(true);
+        column->addWidget(leftOut);
+    }
+    auto* buttons = new QDialogButtonBox;
+    buttons->addButton(tr("wrd_034"), QDialogButtonBox::AcceptRole)->setDefault(true);
+    buttons->addButton(tr("wrd_031"), QDialogButtonBox::RejectRole);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    column->addWidget(buttons);
+    resize(320, 360);
+}

@@ -1,0 +1,59 @@
+#include "fuel/table/kept_tables.h"
+
+#include "fuel/table/fuel_document.h"
+#include "fuel/table/fuel_file.h"
+#include "xml/xml_document.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <algorithm>
+
+namespace vlk {
+
+namespace {
+
+const QString kSuffix = QStringLiteral(".xml");
+const QString kTime = QStringLiteral("kept");
+const QString kVehicle = QStringLiteral("objName");
+
+QString keptFolder(const QString& folder)
+{
+    return folder + QStringLiteral("/unsaved");
+}
+
+} // namespace
+
+QString keepTable(const QString& folder, const QString& sensor, const QString& vehicle, const QString& name,
+                  const FuelRows& rows, const QDateTime& time)
+{
+    QDir().mkpath(keptFolder(folder));
+    const QString base = fuelFileName(keptFolder(folder), sensor, vehicle, time);
+    QString path = base + kSuffix;
+    for (int n = 2; QFile::exists(path); ++n)
+        path = QStringLiteral("%1-%2").arg(base).arg(n) + kSuffix;
+    XmlDocument document(QString{}, QLatin1String(fuelRoot));
+    document.root()->setString(kTime, time.toString(Qt::ISODate));
+    document.root()->setChildValue(kVehicle, vehicle);
+    putKeptTable(document.root(), sensor, name, rows);
+    return document.saveAs(path) ? path : QString();
+}
+
+std::vector<KeptTable> keptTables(const QString& folder)
+{
+    std::vector<KeptTable> tables;
+    const QDir kept(keptFolder(folder));
+    for (const QString& file : kept.entryList({QStringLiteral("*.xml")}, QDir::Files)) {
+        const QString path = kept.filePath(file);
+        XmlDocument document(path, QLatin1String(fuelRoot));
+        const QString sensor = document.root()->getString(QStringLiteral("type"));
+        const QDateTime time = QDateTime::fromString(document.root()->getString(kTime), Qt::ISODate);
+        if (!sensor.isEmpty() && time.isValid())
+            tables.push_back({path, sensor, document.root()->getString(kVehicle), time});
+    }
+    std::sort(tables.begin(), tables.end(),
+              [](const KeptTable& a, const KeptTable& b) { return a.time < b.time; });
+    return tables;
+}
+
+} // namespace vlk

@@ -1,0 +1,173 @@
+#include "windows/notice_bar.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QShortcut>
+#include <QToolButton>
+
+#include <algorithm>
+
+namespace vlk {
+
+namespace {
+
+constexpr int kHeight = 36;
+constexpr int kMargin = 9;
+constexpr int kGap = 8;
+constexpr double kTint = 0.12;
+
+QIcon crossIcon(const QPalette& palette)
+{
+    constexpr int size = 32; // twice what a button shows, for screens of high density
+    QPixmap pixmap(size, size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette.color(QPalette::WindowText), 3, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(9, 9, size - 9, size - 9);
+    painter.drawLine(size - 9, 9, 9, size - 9);
+    painter.end();
+    return QIcon(pixmap);
+}
+
+} // namespace
+
+NoticeBar::NoticeBar(QWidget* parent)
+    : QFrame(parent), text_(new QLabel(this)), buttons_(new QHBoxLayout), place_(new QLabel(this)),
+      close_(new QToolButton(this))
+{
+    setObjectName(QStringLiteral("noticeBar"));
+    text_->setObjectName(QStringLiteral("label_Notice"));
+    text_->setWordWrap(true);
+    text_->setTextFormat(Qt::PlainText);
+    place_->setObjectName(QStringLiteral("label_NoticePlace"));
+    close_->setObjectName(QStringLiteral("toolButton_NoticeClose"));
+    close_->setAutoRaise(true);
+    close_->setFocusPolicy(Qt::TabFocus);
+    close_->setIcon(crossIcon(palette()));
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(kMargin + markSize + kGap, 2, 2, 2);
+    row->setSpacing(kGap);
+    row->addWidget(text_, 1);
+    row->addLayout(buttons_);
+    row->addWidget(place_);
+    row->addWidget(close_);
+    setMinimumHeight(kHeight);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    connect(close_, &QToolButton::clicked, this, [this] {
+        if (const Told* shown = worst()) {
+            const int number = shown->number;
+            end(number);
+            Q_EMIT closed(number);
+        }
+    });
+    connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this, &NoticeBar::toggleFocus);
+    retranslate();
+    hide();
+}
+
+void NoticeBar::tell(int number, const Notice& notice)
+{
+    const auto same = std::find_if(told_.begin(), told_.end(),
+                                   [number](const Told& told) { return told.number == number; });
+    if (same != told_.end())
+        same->notice = notice;
+    else
+        told_.push_back({number, notice});
+    refresh();
+}
+
+void NoticeBar::end(int number)
+{
+    const auto gone = std::remove_if(told_.begin(), told_.end(),
+                                     [number](const Told& told) { return told.number == number; });
+    if (gone == told_.end())
+        return;
+    told_.erase(gone, told_.end());
+    refresh();
+}
+
+void NoticeBar::retranslate()
+{
+    close_->setToolTip(tr("wrd_402"));
+    close_->setAccessibleName(tr("wrd_402"));
+    refresh();
+}
+
+const NoticeBar::Told* NoticeBar::worst() const
+{
+    const auto found = std::min_element(told_.begin(), told_.end(), [](const Told& a, const Told& b) {
+        return a.notice.mark == b.notice.mark ? a.number < b.number : a.notice.mark > b.notice.mark;
+    });
+    return found == told_.end() ? nullptr : &*found;
+}
+
+void NoticeBar::refresh()
+{
+    // A button that is pressed may end its own notice.
+    const bool hadFocus = isAncestorOf(QApplication::focusWidget());
+    while (QLayoutItem* item = buttons_->takeAt(0)) {
+        item->widget()->hide();
+        item->widget()->deleteLater();
+        delete item;
+    }
+    const Told* shown = worst();
+    if (!shown) {
+        if (hadFocus && before_)
+            before_->setFocus();
+        hide();
+        return;
+    }
+    for (const Notice::Action& action : shown->notice.actions) {
+        auto* button = new QPushButton(action.text, this);
+        button->setAutoDefault(false);
+        button->setFocusPolicy(Qt::TabFocus);
+        connect(button, &QPushButton::clicked, this, [act = action.act] { act(); });
+        buttons_->addWidget(button);
+        button->show();
+    }
+    place_->setText(tr("wrd_401").arg(1).arg(static_cast<int>(told_.size())));
+    place_->setVisible(told_.size() > 1);
+    const bool isNews = text_->text() != shown->notice.text || isHidden();
+    text_->setText(shown->notice.text);
+    setAccessibleName(shown->notice.text);
+    show();
+    update();
+    if (hadFocus)
+        close_->setFocus();
+    if (isNews) {
+        QAccessibleEvent alert(this, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+    }
+}
+
+void NoticeBar::toggleFocus()
+{
+    if (isAncestorOf(QApplication::focusWidget())) {
+        if (before_)
+            before_->setFocus();
+        return;
+    }
+    before_ = QApplication::focusWidget();
+    QWidget* first = buttons_->isEmpty() ? close_ : buttons_->itemAt(0)->widget();
+    first->setFocus(Qt::ShortcutFocusReason);
+}
+
+void NoticeBar::paintEvent(QPaintEvent* /*event*/)
+{
+    const Told* shown = worst();
+    if (!shown)
+        return;
+    QPainter painter(this);
+    QColor tint = markColor(shown->notice.mark, palette());
+    tint.setAlphaF(kTint);
+    painter.fillRect(rect(), tint);
+    painter.translate(QPoint(kMargin, (height() - markSize) / 2));
+    paintMark(painter, shown->notice.mark, palette());
+}
+
+} // namespace vlk

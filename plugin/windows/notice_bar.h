@@ -1,0 +1,75 @@
+#pragma once
+
+// The bar at the top of a window's content in which the window tells what the user should know and may act
+// on: a mark, a sentence, at most two buttons and a cross. Of several notices the worst is on show, among
+// equals the one of the lowest number, with "1 of 3" behind it. The bar takes the focus from nobody; F6 goes
+// to it, and back.
+
+#include "typing/field_mark.h"
+
+#include <QFrame>
+#include <QPointer>
+
+#include <functional>
+#include <vector>
+
+class QHBoxLayout;
+class QLabel;
+class QToolButton;
+
+namespace vlk {
+
+struct Notice
+{
+    struct Action
+    {
+        QString text;
+        std::function<void()> act;
+    };
+
+    Mark mark;
+    QString text;
+    std::vector<Action> actions; // at most two
+};
+
+class NoticeBar : public QFrame
+{
+    Q_OBJECT
+
+public:
+    explicit NoticeBar(QWidget* parent);
+
+    // Puts a notice up, in the place of the one that had this number before. It stays until it is ended or
+    // the user closes it with the cross.
+    void tell(int number, const Notice& notice);
+    void end(int number);
+    void retranslate();
+
+Q_SIGNALS:
+    // By the cross.
+    void closed(int number);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    struct Told
+    {
+        int number;
+        Notice notice;
+    };
+
+    // Null when there is none.
+    const Told* worst() const;
+    void refresh();
+    void toggleFocus();
+
+    QLabel* text_;
+    QHBoxLayout* buttons_;
+    QLabel* place_;
+    QToolButton* close_;
+    std::vector<Told> told_;
+    QPointer<QWidget> before_; // had the focus before F6
+};
+
+} // namespace vlk
