@@ -1,5 +1,6 @@
 // The configuration dialog and the full window, driven through messages and widgets by name.
 
+#include "support/allocated_bytes.h"
 #include "support/answers.h"
 #include "support/data_table.h"
 #include "support/files.h"
@@ -332,6 +333,29 @@ private Q_SLOTS:
         const QString written = host_.takeSent(Message::WriteConfiguration).value(0).text1;
         QVERIFY(readFile(written).contains("regTimer=\"900\""));
         QVERIFY(QFile::remove(written));
+    }
+
+    // The dialog lives as long as the process, so what an opening leaves behind is never given back.
+    void openingsLeaveNothingBehind()
+    {
+        host_.attach();
+        const auto useIt = [this](int times) {
+            for (int n = 0; n < times; ++n) {
+                host_.open(configuration(QStringLiteral("One")));
+                child<QSpinBox>("spinBox_RegTimer")->setValue(100 + n);
+                press("pushButton_LoadToDevice");
+                host_.send(Message::CloseWindows);
+                QApplication::processEvents();
+                QFile::remove(host_.takeSent(Message::WriteConfiguration).value(0).text1);
+            }
+            return allocatedBytes();
+        };
+        // The allocator's own caches count as taken and fill slowly.
+        const std::size_t before = useIt(40);
+        const auto grown = std::ptrdiff_t(useIt(160) - before);
+        QVERIFY2(grown < 160 * 300, qPrintable(QString::number(grown)));
+        for (const QLineEdit* edit : window->findChildren<QLineEdit*>())
+            QVERIFY2(!edit->isUndoAvailable(), qPrintable(edit->objectName()));
     }
 
     void numbersFollowTheLanguage()
