@@ -1812,7 +1812,9 @@
     <message id="wb_log_details"><translation>Select a message to see the whole of it</translation></message>
     <message id="wb_log_direction"><translation>Direction</translation></message>
     <message id="wb_log_file_type"><translation>Text</translation></message>
+    <message id="wb_log_excerpt"><translation>Messages: %1</translation></message>
     <message id="wb_log_filter"><translation>Filter: number, name, parameters</translation></message>
+    <message id="wb_log_filtered"><translation>Filter: %1</translation></message>
     <message id="wb_log_name"><translation>Message</translation></message>
     <message id="wb_log_number"><translation>Number</translation></message>
     <message id="wb_log_parameters"><translation>Parameters</translation></message>
@@ -1831,7 +1833,7 @@
     <message id="wb_mode_2"><translation>2: production check</translation></message>
     <message id="wb_new"><translation>&amp;New configuration</translation></message>
     <message id="wb_new_short"><translation>New</translation></message>
-    <message id="wb_no_display"><translation>The workbench found no display to open its window on: start it on a desktop, or make its tour without one by QT_QPA_PLATFORM=offscreen vlk-workbench --tour DIR.</translation></message>
+    <message id="wb_no_display"><translation>The workbench found no display to open its window on: start it on a desktop, or make its tour, which needs none, by %1 --tour DIR.</translation></message>
     <message id="wb_open"><translation>&amp;Open file…</translation></message>
     <message id="wb_open_caption"><translation>Open a configuration</translation></message>
     <message id="wb_open_failed"><translation>The file %1 was not opened.</translation></message>

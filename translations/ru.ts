@@ -1812,7 +1812,9 @@
     <message id="wb_log_details"><translation>Выберите сообщение, чтобы увидеть его целиком</translation></message>
     <message id="wb_log_direction"><translation>Направление</translation></message>
     <message id="wb_log_file_type"><translation>Текст</translation></message>
+    <message id="wb_log_excerpt"><translation>Сообщения: %1</translation></message>
     <message id="wb_log_filter"><translation>Фильтр: номер, имя, параметры</translation></message>
+    <message id="wb_log_filtered"><translation>Фильтр: %1</translation></message>
     <message id="wb_log_name"><translation>Сообщение</translation></message>
     <message id="wb_log_number"><translation>Номер</translation></message>
     <message id="wb_log_parameters"><translation>Параметры</translation></message>
@@ -1831,7 +1833,7 @@
     <message id="wb_mode_2"><translation>2: контроль</translation></message>
     <message id="wb_new"><translation>&amp;Новая конфигурация</translation></message>
     <message id="wb_new_short"><translation>Новая</translation></message>
-    <message id="wb_no_display"><translation>Нет дисплея, на котором рабочее место могло бы открыть окно: запустите его в графической среде или пройдите обзор без неё командой QT_QPA_PLATFORM=offscreen vlk-workbench --tour DIR.</translation></message>
+    <message id="wb_no_display"><translation>Нет дисплея, на котором рабочее место могло бы открыть окно: запустите его в графической среде или пройдите обзор, которому она не нужна, командой %1 --tour DIR.</translation></message>
     <message id="wb_open"><translation>&amp;Открыть файл…</translation></message>
     <message id="wb_open_caption"><translation>Открыть конфигурацию</translation></message>
     <message id="wb_open_failed"><translation>Файл %1 не открыт.</translation></message>
