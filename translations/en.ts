@@ -214,6 +214,7 @@
     <message id="cfgt1_123"><translation>Move up</translation></message>
     <message id="cfgt1_124"><translation>Move down</translation></message>
     <message id="cfgt1_125"><translation>This cannot be an address: an IP address is four numbers from 0 to 255 with points between them, the name of a host has Latin letters, digits, hyphens and points.</translation></message>
+    <message id="cfgt1_126"><translation>A double click or F2 edits a cell.</translation></message>
     <message id="cfgt2_001"><translation>Data set</translation></message>
     <message id="cfgt2_002"><translation>Version of the transfer protocol</translation></message>
     <message id="cfgt2_003"><translation>Size of the stored record</translation></message>

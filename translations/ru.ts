@@ -214,6 +214,7 @@
     <message id="cfgt1_123"><translation>Переместить выше</translation></message>
     <message id="cfgt1_124"><translation>Переместить ниже</translation></message>
     <message id="cfgt1_125"><translation>Это не может быть адресом: IP-адрес — четыре числа от 0 до 255 через точку, имя узла — латинские буквы, цифры, дефисы и точки.</translation></message>
+    <message id="cfgt1_126"><translation>Двойной щелчок или F2 открывает ячейку для правки.</translation></message>
     <message id="cfgt2_001"><translation>Набор данных</translation></message>
     <message id="cfgt2_002"><translation>Версия протокола передачи данных</translation></message>
     <message id="cfgt2_003"><translation>Размер хранимого буфера ТМИ</translation></message>
