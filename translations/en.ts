@@ -24,6 +24,7 @@
     <message id="abbr_047"><translation>No.</translation></message>
     <message id="abbr_048"><translation>OR</translation></message>
     <message id="abbr_049"><translation>AND</translation></message>
+    <message id="abbr_050"><translation>dBm</translation></message>
     <message id="cfgt10_001"><translation>Output lines</translation></message>
     <message id="cfgt10_002"><translation>General purpose</translation></message>
     <message id="cfgt10_003"><translation>Buzzer</translation></message>

@@ -24,6 +24,7 @@
     <message id="abbr_047"><translation>№</translation></message>
     <message id="abbr_048"><translation>ИЛИ</translation></message>
     <message id="abbr_049"><translation>И</translation></message>
+    <message id="abbr_050"><translation>дБм</translation></message>
     <message id="cfgt10_001"><translation>Выходные линии</translation></message>
     <message id="cfgt10_002"><translation>Общего назначения</translation></message>
     <message id="cfgt10_003"><translation>Зуммер</translation></message>

@@ -408,6 +408,7 @@ private Q_SLOTS:
         host.send(Message::RfidNumber, &key, &signal);
         QCOMPARE(child<QLineEdit>("lineEdit_RFID")->text(), QString("6604705263"));
         QCOMPARE(child<QSpinBox>("spinBox_RFID")->value(), -70);
+        QCOMPARE(child<QSpinBox>("spinBox_RFID")->text(), QString("-70 abbr_050"));
     }
 
     // In a window that is hidden already too.

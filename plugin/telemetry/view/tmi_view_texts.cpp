@@ -58,6 +58,7 @@ void setControlTexts(const Ui::VLK_Designer_Widget_Tmi_View& ui)
         servers[i]->setText(QStringLiteral("%1 %2").arg(word("tmiw_023")).arg(i + 1));
     ui.spinBox_TimeOffset->setSuffix(QLatin1Char(' ') + word("abbr_001"));
     ui.horizontalSlider_Auto_Tmi->setAccessibleName(word("tmiw_007"));
+    ui.spinBox_RFID->setSuffix(QLatin1Char(' ') + word("abbr_050"));
     ui.spinBox_RFID->setAccessibleName(word("tmiw_147"));
 }
 
