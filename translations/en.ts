@@ -1799,10 +1799,12 @@
     <message id="wb_help"><translation>Help</translation></message>
     <message id="wb_help_back"><translation>Back</translation></message>
     <message id="wb_help_contents"><translation>Contents</translation></message>
+    <message id="wb_help_find"><translation>Find in the help</translation></message>
     <message id="wb_help_forward"><translation>Forward</translation></message>
     <message id="wb_help_menu"><translation>&amp;Contents</translation></message>
     <message id="wb_help_missing"><translation>The page &quot;%1&quot; has not been written yet. The contents page tells about what there is.</translation></message>
     <message id="wb_help_missing_title"><translation>No help page yet</translation></message>
+    <message id="wb_help_not_found"><translation>Nothing found</translation></message>
     <message id="wb_language"><translation>&amp;Language</translation></message>
     <message id="wb_language_later"><translation>The language can be changed when the configuration is closed.</translation></message>
     <message id="wb_language_missing"><translation>The texts of the language &quot;%1&quot; are missing.</translation></message>

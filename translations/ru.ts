@@ -1799,10 +1799,12 @@
     <message id="wb_help"><translation>Справка</translation></message>
     <message id="wb_help_back"><translation>Назад</translation></message>
     <message id="wb_help_contents"><translation>Содержание</translation></message>
+    <message id="wb_help_find"><translation>Найти в справке</translation></message>
     <message id="wb_help_forward"><translation>Вперёд</translation></message>
     <message id="wb_help_menu"><translation>&amp;Содержание справки</translation></message>
     <message id="wb_help_missing"><translation>Страница «%1» ещё не написана. Общие сведения есть в содержании справки.</translation></message>
     <message id="wb_help_missing_title"><translation>Страницы справки пока нет</translation></message>
+    <message id="wb_help_not_found"><translation>Ничего не найдено</translation></message>
     <message id="wb_language"><translation>&amp;Язык</translation></message>
     <message id="wb_language_later"><translation>Язык можно сменить, когда конфигурация будет закрыта.</translation></message>
     <message id="wb_language_missing"><translation>Нет файла с текстами языка «%1».</translation></message>

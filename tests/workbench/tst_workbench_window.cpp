@@ -121,8 +121,9 @@ private Q_SLOTS:
             QCOMPARE(texts.filter(QStringLiteral("wb_")), QStringList());
         // After the switch no text of Latin letters alone is left but those that are the same in both.
         static const QRegularExpression cyrillic(QStringLiteral("[а-яА-Я]"));
-        QCOMPARE(english.filter(cyrillic),
-                 QStringList({QStringLiteral("Русский"), QStringLiteral("Русский")}));
+        QStringList foreign = english.filter(cyrillic);
+        foreign.removeDuplicates();
+        QCOMPARE(foreign, QStringList(QStringLiteral("Русский")));
         QVERIFY(russian.filter(cyrillic).size() > 50);
         QCOMPARE(bench.settings.language(), QStringLiteral("ru"));
     }
@@ -501,7 +502,7 @@ private Q_SLOTS:
             QVERIFY(bench.action("action_Language_ru")->isEnabled());
             QVERIFY(bench.action("action_Language_ru")->statusTip().isEmpty());
         }
-        bench.action("action_Language_en")->trigger();
+        QTest::mouseClick(bench.window.findChild<QToolButton*>("toolButton_Language_en"), Qt::LeftButton);
         QCOMPARE(bench.settings.language(), QStringLiteral("en"));
     }
 

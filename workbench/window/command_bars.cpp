@@ -4,9 +4,11 @@
 
 #include <QActionGroup>
 #include <QComboBox>
+#include <QHBoxLayout>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QToolBar>
+#include <QToolButton>
 
 namespace vlk {
 
@@ -52,15 +54,26 @@ void CommandBars::buildMenus(QMenu* recentFiles)
     addMenu("wb_menu_help", {Command::Help, Command::About});
 }
 
+// In the menu, and by their own names in the corner, where nobody has to read another language to find them.
 void CommandBars::buildLanguages(QMenu* menu)
 {
     menu->setToolTipsVisible(true);
-    for (const LanguageRow& row : languageRows) {
-        QAction* action = menu->addAction(QString::fromUtf8(row.name));
+    auto* corner = new QWidget(window_);
+    auto* row = new QHBoxLayout(corner);
+    row->setContentsMargins(0, 0, 6, 0);
+    row->setSpacing(0);
+    window_->menuBar()->setCornerWidget(corner);
+    for (const LanguageRow& language : languageRows) {
+        QAction* action = menu->addAction(QString::fromUtf8(language.name));
         action->setCheckable(true);
         action->setActionGroup(languageChoice_);
-        const QString code = QLatin1String(row.code);
+        const QString code = QLatin1String(language.code);
         action->setObjectName(QStringLiteral("action_Language_") + code);
+        auto* button = new QToolButton(corner);
+        button->setObjectName(QStringLiteral("toolButton_Language_") + code);
+        button->setAutoRaise(true);
+        button->setDefaultAction(action);
+        row->addWidget(button);
         connect(action, &QAction::triggered, this, [this, code] { Q_EMIT languageChosen(code); });
         texts_.bind([this, action, code] { action->setChecked(languages_.current() == code); });
     }
