@@ -37,7 +37,7 @@ VLK_FormAutoApnListNew::VLK_FormAutoApnListNew(QWidget* parent)
         if (kColumns[column].width > 0)
             tree->setColumnWidth(static_cast<int>(column), kColumns[column].width);
     }
-    connect(ui_->pushButton_Close, &QPushButton::clicked, this, &QDialog::close);
+    connect(ui_->pushButton_ListApn_Close, &QPushButton::clicked, this, &QDialog::close);
     connect(tree, &QTreeWidget::itemDoubleClicked, this,
             &VLK_FormAutoApnListNew::slot_itemDoubleClicket_TreeWidgetList);
     retranslate();

@@ -40,7 +40,7 @@ private Q_SLOTS:
     void apnListIsClosedByItsButton()
     {
         press("pushButton_AutoAPN_1");
-        auto* close = apnTree()->window()->findChild<QPushButton*>("pushButton_Close");
+        auto* close = apnTree()->window()->findChild<QPushButton*>("pushButton_ListApn_Close");
         QVERIFY(apnTree()->isVisible() && close && close->isVisible());
         QTest::keyClick(close, Qt::Key_Space);
         QVERIFY(!apnTree()->isVisible());
