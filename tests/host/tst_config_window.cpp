@@ -88,6 +88,18 @@ private Q_SLOTS:
     {
         QCOMPARE(window->focusWidget(), name());
         portOf("page_Full")->setFocus();
+        for (const bool isFull : {true, false}) {
+            host_.open({}, isFull);
+            QApplication::processEvents();
+            QScrollBar* longest = nullptr;
+            for (const QScrollArea* area : window->findChildren<QScrollArea*>())
+                if (area->isVisible() && area->verticalScrollBar()->maximum() > 0)
+                    longest = area->verticalScrollBar();
+            QVERIFY(longest);
+            longest->setValue(longest->maximum());
+            host_.open({}, isFull);
+            QCOMPARE(longest->value(), 0);
+        }
         host_.open(configuration(QStringLiteral("One")));
         QCOMPARE(window->focusWidget(), name());
     }
@@ -135,7 +147,11 @@ private Q_SLOTS:
         host_.attach();
         for (const bool full : {true, false}) {
             host_.open(configuration(QStringLiteral("Ведомый «7»")), full);
-            press(full ? "pushButton_LoadToDevice" : "pushButton_Light_LoadToDevice");
+            auto* write =
+                child<QPushButton>(full ? "pushButton_LoadToDevice" : "pushButton_Light_LoadToDevice");
+            write->setFocus();
+            write->click();
+            QCOMPARE(window->focusWidget(), write);
             const auto written = host_.takeSent(Message::WriteConfiguration);
             QCOMPARE(written.size(), 1);
             const QString pattern = QDir::currentPath() + (full ? "/vlk_R7106_" : "/vlk_R-7106_") +
@@ -287,6 +303,8 @@ private Q_SLOTS:
             QCOMPARE(menu->actions().at(tab)->text(), tabs->tabText(tab));
             menu->actions().at(tab)->trigger();
             QCOMPARE(tabs->currentIndex(), tab);
+            for (const QAction* entry : menu->actions())
+                QCOMPARE(entry->isChecked(), menu->actions().indexOf(const_cast<QAction*>(entry)) == tab);
             const bool several = tabs->count() > 1;
             QCOMPARE(isOn("pushButton_Goto"), several);
             QCOMPARE(isOn("pushButton_PrevScreen"), several && tab > 0);
