@@ -176,6 +176,10 @@ private Q_SLOTS:
         QCOMPARE(number_, 3U);
         press("pushButton_Get_Next");
         QCOMPARE(number_, 5U);
+        QTest::keyClick(child<QDateTimeEdit>("dateTimeEdit_Show"), Qt::Key_PageUp);
+        QCOMPARE(number_, 3U);
+        QTest::keyClick(child<QDateTimeEdit>("dateTimeEdit_Show"), Qt::Key_PageDown);
+        QCOMPARE(number_, 5U);
         // A slow tracker is not asked twice for what a held button waits for.
         sendRecord(numbered(4));
         host.sent.clear();
