@@ -1700,6 +1700,10 @@
     <message id="wb_answer_damaged"><translation>damaged</translation></message>
     <message id="wb_answer_jump"><translation>the time jumps from %1 to %2</translation></message>
     <message id="wb_answer_time"><translation>impossible time %1</translation></message>
+    <message id="wb_appearance"><translation>A&amp;ppearance</translation></message>
+    <message id="wb_appearance_dark"><translation>&amp;Dark</translation></message>
+    <message id="wb_appearance_light"><translation>&amp;Light</translation></message>
+    <message id="wb_appearance_system"><translation>As the &amp;system</translation></message>
     <message id="wb_attach"><translation>Attach the trac&amp;ker</translation></message>
     <message id="wb_balance"><translation>Balance request</translation></message>
     <message id="wb_balance_code"><translation>Balance request code: &lt;b&gt;%1&lt;/b&gt;</translation></message>

@@ -1700,6 +1700,10 @@
     <message id="wb_answer_damaged"><translation>повреждено</translation></message>
     <message id="wb_answer_jump"><translation>время скачет с %1 на %2</translation></message>
     <message id="wb_answer_time"><translation>невозможное время %1</translation></message>
+    <message id="wb_appearance"><translation>&amp;Оформление</translation></message>
+    <message id="wb_appearance_dark"><translation>&amp;Тёмное</translation></message>
+    <message id="wb_appearance_light"><translation>С&amp;ветлое</translation></message>
+    <message id="wb_appearance_system"><translation>Как в &amp;системе</translation></message>
     <message id="wb_attach"><translation>Подкл&amp;ючить трекер</translation></message>
     <message id="wb_balance"><translation>Запрос баланса</translation></message>
     <message id="wb_balance_code"><translation>Код запроса баланса: &lt;b&gt;%1&lt;/b&gt;</translation></message>

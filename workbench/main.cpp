@@ -112,6 +112,7 @@ int main(int argc, char* argv[])
     vlk::Settings settings(folder.settingsFile());
     settings.setForThisRun(line.language, line.mode);
     languages.set(settings.language());
+    vlk::apply(settings.appearance());
 
     vlk::WorkbenchWindow window(folder, settings, languages);
     window.show();

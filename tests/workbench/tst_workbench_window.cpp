@@ -506,6 +506,25 @@ private Q_SLOTS:
         QCOMPARE(bench.settings.language(), QStringLiteral("en"));
     }
 
+    void appearanceIsChosen()
+    {
+        const QPalette before = QApplication::palette();
+        Bench bench;
+        QVERIFY(bench.start());
+        const auto contrast = [&] {
+            const QPalette& palette = bench.window.palette();
+            return qGray(palette.color(QPalette::WindowText).rgb()) -
+                   qGray(palette.color(QPalette::Window).rgb());
+        };
+        bench.action("action_Appearance_2")->trigger();
+        QVERIFY(contrast() > 150);
+        QCOMPARE(vlk::Settings(bench.folder.settingsFile()).appearance(), vlk::Appearance::Dark);
+        bench.action("action_Appearance_1")->trigger();
+        QVERIFY(contrast() < -150);
+        bench.action("action_Appearance_0")->trigger();
+        QCOMPARE(QApplication::palette(), before);
+    }
+
     void mnemonicsAreUnique()
     {
         Bench bench;

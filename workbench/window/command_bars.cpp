@@ -22,6 +22,9 @@ struct LanguageRow
 
 constexpr LanguageRow languageRows[] = {{"ru", "Русский"}, {"en", "English"}};
 
+constexpr const char* appearanceKeys[] = {"wb_appearance_system", "wb_appearance_light",
+                                          "wb_appearance_dark"};
+
 } // namespace
 
 CommandBars::CommandBars(QMainWindow* window, Commands& commands, Settings& settings,
@@ -51,6 +54,7 @@ void CommandBars::buildMenus(QMenu* recentFiles)
     addMenu("wb_menu_telemetry", {Command::LiveTelemetry, Command::BrowseFile, Command::TableFile});
     QMenu* tools = addMenu("wb_menu_tools", {Command::Cable, Command::Faults, Command::DataFolders});
     buildLanguages(texts_.bind(tools->addMenu(QString()), "wb_language"));
+    buildAppearances(texts_.bind(tools->addMenu(QString()), "wb_appearance"));
     addMenu("wb_menu_help", {Command::Help, Command::About});
 }
 
@@ -78,6 +82,22 @@ void CommandBars::buildLanguages(QMenu* menu)
         texts_.bind([this, action, code] { action->setChecked(languages_.current() == code); });
     }
     texts_.bind([this] { setLanguagesOffered(languageChoice_->isEnabled()); });
+}
+
+void CommandBars::buildAppearances(QMenu* menu)
+{
+    auto* choice = new QActionGroup(menu);
+    for (const Appearance appearance : {Appearance::System, Appearance::Light, Appearance::Dark}) {
+        QAction* action = texts_.bind(menu->addAction(QString()), appearanceKeys[int(appearance)]);
+        action->setObjectName(QStringLiteral("action_Appearance_%1").arg(int(appearance)));
+        action->setCheckable(true);
+        action->setActionGroup(choice);
+        action->setChecked(settings_.appearance() == appearance);
+        connect(action, &QAction::triggered, this, [this, appearance] {
+            settings_.setAppearance(appearance);
+            vlk::apply(appearance);
+        });
+    }
 }
 
 void CommandBars::setLanguagesOffered(bool offered)
