@@ -71,6 +71,16 @@ void VLK_FormAutoApnListNew::makeRoomForHeadings()
         height = std::max(height, text.height() + margin);
     }
     header->setMinimumHeight(height);
+
+    // One short word that its column has no room for: it is written smaller, as the numbers below it are.
+    QTreeWidgetItem* item = ui_->treeWidget_ListApn->headerItem();
+    QFont font = header->font();
+    constexpr double kSmallest = 6;
+    while (QFontMetrics(font).horizontalAdvance(item->text(0)) > kColumns[0].width - 2 &&
+           font.pointSizeF() > kSmallest)
+        font.setPointSizeF(font.pointSizeF() - 0.5);
+    item->setFont(0, font);
+    item->setTextAlignment(0, Qt::AlignCenter);
 }
 
 void VLK_FormAutoApnListNew::showExpanded()
