@@ -47,8 +47,11 @@ vlk::CommandLine readCommandLine(int& argc, char* argv[], QString& noDisplay)
     vlk::Languages languages;
     languages.set(
         vlk::CommandLine::languageOf(QCoreApplication::arguments()).value_or(vlk::Languages::ofSystem()));
-    noDisplay = vlk::text("wb_no_display");
+    noDisplay = vlk::text("wb_no_display").arg(QCoreApplication::arguments().value(0));
     vlk::CommandLine line = vlk::CommandLine::parse(QCoreApplication::arguments());
+    // Nobody looks at a tour, so it asks for no display unless it is told which.
+    if (!line.tour.isEmpty() && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     if (line.exitCode)
         std::fprintf(*line.exitCode == 0 ? stdout : stderr, "%s\n", qPrintable(line.message.trimmed()));
     return line;
@@ -109,6 +112,7 @@ int main(int argc, char* argv[])
     vlk::Settings settings(folder.settingsFile());
     settings.setForThisRun(line.language, line.mode);
     languages.set(settings.language());
+    vlk::apply(settings.appearance());
 
     vlk::WorkbenchWindow window(folder, settings, languages);
     window.show();

@@ -31,6 +31,7 @@ void TabNavigation::goToLast()
 
 void TabNavigation::focusFirstField()
 {
+    scrollToTop();
     auto* area = qobject_cast<QScrollArea*>(tabs()->currentWidget());
     QWidget* const page = area ? area->widget() : nullptr;
     for (QWidget* next = page; next && (next = next->nextInFocusChain()) != page;) {

@@ -32,7 +32,7 @@ public:
     void goToPrevious() { goTo(current() - 1); }
     void goToNext() { goTo(current() + 1); }
     void goToLast();
-    // Gives the focus to the first input of the current tab.
+    // Shows the pages from their tops and gives the focus to the first input of the current tab.
     void focusFirstField();
 
     // Enables the buttons that lead anywhere from this tab.

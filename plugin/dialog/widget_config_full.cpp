@@ -5,6 +5,7 @@
 #include "dialog/config_pages.h"
 #include "dialog/configuration_walk.h"
 #include "dialog/file_names.h"
+#include "dialog/held_button.h"
 #include "dialog/tab_navigation.h"
 #include "link/device.h"
 #include "link/requests.h"
@@ -159,9 +160,9 @@ void VLK_Widget_Config_Full::slot_pressed_Btn_SaveToFile()
     const QString path = vlk::askConfigurationPath(this, name);
     if (path.isEmpty())
         return;
-    ui_->pushButton_SaveToFile->setEnabled(false);
+    vlk::HeldButton button(ui_->pushButton_SaveToFile);
     saveFile(path);
-    ui_->pushButton_SaveToFile->setEnabled(true);
+    button.release();
 }
 
 void VLK_Widget_Config_Full::slot_pressed_Btn_LoadToDevice()
@@ -169,9 +170,9 @@ void VLK_Widget_Config_Full::slot_pressed_Btn_LoadToDevice()
     if (!vlkDevice)
         return;
     const QString path = vlk::configurationPathToWrite(QStringLiteral("R7106"));
-    ui_->pushButton_LoadToDevice->setEnabled(false);
+    vlk::HeldButton button(ui_->pushButton_LoadToDevice);
     const bool saved = saveFile(path);
-    ui_->pushButton_LoadToDevice->setEnabled(connected_);
+    button.release(connected_);
     if (saved)
         vlk::requests::writeConfiguration(path);
 }

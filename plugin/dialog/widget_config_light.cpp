@@ -4,11 +4,13 @@
 
 #include "dialog/file_names.h"
 #include "dialog/form_config_light.h"
+#include "dialog/held_button.h"
 #include "link/requests.h"
 #include "windows/input_guard.h"
 #include "xml/xml_document.h"
 
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 
 VLK_Widget_Config_Light::VLK_Widget_Config_Light(QWidget* parent)
@@ -47,11 +49,11 @@ VLK_Form_Config_Light& VLK_Widget_Config_Light::form()
     if (!form_) {
         form_ = new VLK_Form_Config_Light;
         vlk::guardInputs(form_);
-        auto* area = new QScrollArea;
-        area->setWidgetResizable(true);
-        area->setFrameShape(QFrame::NoFrame);
-        area->setWidget(form_);
-        ui_->gridLayout_Form->addWidget(area);
+        area_ = new QScrollArea;
+        area_->setWidgetResizable(true);
+        area_->setFrameShape(QFrame::NoFrame);
+        area_->setWidget(form_);
+        ui_->gridLayout_Form->addWidget(area_);
         // Behind the form the buttons, as read.
         QWidget* before = form_->lastField();
         for (QWidget* button : {ui_->pushButton_Light_LoadToDevice, ui_->pushButton_Light_SaveToFile,
@@ -95,6 +97,7 @@ void VLK_Widget_Config_Light::saveToXml(CXmlSection* root)
 void VLK_Widget_Config_Light::focusFirstField()
 {
     form().focusFirstField();
+    area_->verticalScrollBar()->setValue(0);
 }
 
 void VLK_Widget_Config_Light::deviceConnected()
@@ -114,16 +117,16 @@ void VLK_Widget_Config_Light::slot_pressed_Btn_Light_SaveToFile()
     const QString path = vlk::askConfigurationPath(this, QStringLiteral("NONAME"));
     if (path.isEmpty())
         return;
-    ui_->pushButton_Light_SaveToFile->setEnabled(false);
+    vlk::HeldButton button(ui_->pushButton_Light_SaveToFile);
     Q_EMIT saveRequested(path);
-    ui_->pushButton_Light_SaveToFile->setEnabled(true);
+    button.release();
 }
 
 void VLK_Widget_Config_Light::slot_pressed_Btn_Light_LoadToDevice()
 {
-    ui_->pushButton_Light_LoadToDevice->setEnabled(false);
+    vlk::HeldButton button(ui_->pushButton_Light_LoadToDevice);
     Q_EMIT writeRequested();
-    ui_->pushButton_Light_LoadToDevice->setEnabled(connected_);
+    button.release(connected_);
 }
 
 void VLK_Widget_Config_Light::slot_pressed_Btn_Light_ConfigFull()

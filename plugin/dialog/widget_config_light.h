@@ -8,6 +8,7 @@
 #include <memory>
 
 struct CXmlSection;
+class QScrollArea;
 class VLK_Form_Config_Light;
 
 namespace Ui {
@@ -29,7 +30,7 @@ public:
     void saveToXml(CXmlSection* root);
     void deviceConnected();
     void deviceDisconnected();
-    // Where the user begins.
+    // Where the user begins, with the form shown from its top.
     void focusFirstField();
     // Made when it is first needed: opening the full window does not wait for it.
     VLK_Form_Config_Light& form();
@@ -53,5 +54,6 @@ private Q_SLOTS:
 private:
     std::unique_ptr<Ui::VLK_Designer_Widget_Config_Light> ui_;
     VLK_Form_Config_Light* form_ = nullptr;
+    QScrollArea* area_ = nullptr; // around the form
     bool connected_ = false;
 };

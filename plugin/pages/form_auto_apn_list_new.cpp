@@ -28,13 +28,16 @@ VLK_FormAutoApnListNew::VLK_FormAutoApnListNew(QWidget* parent)
     ui_->setupUi(this);
     QTreeWidget* tree = ui_->treeWidget_ListApn;
     vlk::makeOperatorRows(tree, vlk::kApnRowCount);
-    tree->header()->setTextElideMode(Qt::ElideRight);
+    // The widths are fixed: what is too long for one line takes two.
+    tree->header()->setTextElideMode(Qt::ElideNone);
+    tree->header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter | Qt::Alignment(Qt::TextWordWrap));
     tree->header()->setMinimumSectionSize(kColumns[0].width);
     tree->header()->setSectionResizeMode(QHeaderView::Fixed);
     for (std::size_t column = 0; column < std::size(kColumns); ++column) {
         if (kColumns[column].width > 0)
             tree->setColumnWidth(static_cast<int>(column), kColumns[column].width);
     }
+    connect(ui_->pushButton_ListApn_Close, &QPushButton::clicked, this, &QDialog::close);
     connect(tree, &QTreeWidget::itemDoubleClicked, this,
             &VLK_FormAutoApnListNew::slot_itemDoubleClicket_TreeWidgetList);
     retranslate();
@@ -51,11 +54,33 @@ void VLK_FormAutoApnListNew::retranslate()
 {
     ui_->retranslateUi(this);
     QTreeWidgetItem* header = ui_->treeWidget_ListApn->headerItem();
-    // A heading that its column cuts can be read as a tool tip.
-    for (std::size_t column = 0; column < std::size(kColumns); ++column) {
+    for (std::size_t column = 0; column < std::size(kColumns); ++column)
         header->setText(static_cast<int>(column), tr(kColumns[column].heading));
-        header->setToolTip(static_cast<int>(column), tr(kColumns[column].heading));
+    makeRoomForHeadings();
+}
+
+void VLK_FormAutoApnListNew::makeRoomForHeadings()
+{
+    QHeaderView* header = ui_->treeWidget_ListApn->header();
+    const int margin = 2 * header->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header);
+    int height = 0;
+    for (const Column& column : kColumns) {
+        const int width = column.width > 0 ? column.width - margin : QWIDGETSIZE_MAX;
+        const QRect text = header->fontMetrics().boundingRect(QRect(0, 0, width, QWIDGETSIZE_MAX),
+                                                              Qt::TextWordWrap, tr(column.heading));
+        height = std::max(height, text.height() + margin);
     }
+    header->setMinimumHeight(height);
+
+    // One short word that its column has no room for: it is written smaller, as the numbers below it are.
+    QTreeWidgetItem* item = ui_->treeWidget_ListApn->headerItem();
+    QFont font = header->font();
+    constexpr double kSmallest = 6;
+    while (QFontMetrics(font).horizontalAdvance(item->text(0)) > kColumns[0].width - 2 &&
+           font.pointSizeF() > kSmallest)
+        font.setPointSizeF(font.pointSizeF() - 0.5);
+    item->setFont(0, font);
+    item->setTextAlignment(0, Qt::AlignCenter);
 }
 
 void VLK_FormAutoApnListNew::showExpanded()

@@ -31,5 +31,7 @@ private Q_SLOTS:
     void slot_itemDoubleClicket_TreeWidgetList(QTreeWidgetItem* item, int column);
 
 private:
+    void makeRoomForHeadings();
+
     std::unique_ptr<Ui::VLK_Designer_FormAutoApnListNew> ui_;
 };

@@ -252,8 +252,9 @@ void VLK_Form_Config_Bluetooth::slot_currentIndexChanged_BtDevice(const QString&
             rememberedMac_ = mac;
             rememberedPassword_ = ui_->lineEdit_Bt_Psw->text();
         }
-        ui_->lineEdit_Bt_MacAdr->clear();
-        ui_->lineEdit_Bt_Psw->clear();
+        // What clear() takes away can be brought back by an undo, and is kept for that as long as the window.
+        ui_->lineEdit_Bt_MacAdr->setText(QString());
+        ui_->lineEdit_Bt_Psw->setText(QString());
     }
     ui_->frame_Bt_Device_Param->setEnabled(isHeadset);
 }

@@ -8,6 +8,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <optional>
 
 namespace vlk {
 
@@ -29,6 +30,25 @@ QRect roomFor(const QWidget* window)
     return window->screen()->availableGeometry().marginsRemoved(frameOf(window));
 }
 
+// Where the window stood when it was closed, it opens again. Without being asked, the window system would
+// find a new place each time.
+class Place
+{
+public:
+    void follow(QWidget* window, const QEvent* event)
+    {
+        if (event->spontaneous() || window->isMaximized() || window->isFullScreen())
+            return;
+        if (event->type() == QEvent::Hide)
+            last_ = window->pos();
+        else if (event->type() == QEvent::Show && last_)
+            window->move(*last_);
+    }
+
+private:
+    std::optional<QPoint> last_;
+};
+
 // The frame is known some time after the window has been shown, at the latest when it has become the active
 // one.
 class LeastSize : public QObject
@@ -38,6 +58,7 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
+        place_.follow(static_cast<QWidget*>(watched), event);
         const bool isShown = event->type() == QEvent::Show && !event->spontaneous();
         if (isShown || event->type() == QEvent::Move || event->type() == QEvent::WindowActivate)
             apply(static_cast<QWidget*>(watched));
@@ -61,6 +82,7 @@ private:
     }
 
     QSize pixels_;
+    Place place_;
 };
 
 class Keeper : public QObject
@@ -70,10 +92,14 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
+        place_.follow(static_cast<QWidget*>(watched), event);
         if (event->type() == QEvent::Show && !event->spontaneous())
             fitToScreen(static_cast<QWidget*>(watched));
         return QObject::eventFilter(watched, event);
     }
+
+private:
+    Place place_;
 };
 
 } // namespace

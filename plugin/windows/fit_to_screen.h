@@ -14,11 +14,12 @@ namespace vlk {
 // and moves one that stands beyond the edge. Others stay as they are.
 void fitToScreen(QWidget* window);
 
-// Does so whenever the window is shown.
+// Does so whenever the window is shown, at the place where it was closed.
 void keepOnScreen(QWidget* window);
 
 // The least size of a window, in pixels of its screen, so that there is room where everything is larger. On a
-// screen that is just as large as that, the window's frame and the bars of the desktop go off it.
+// screen that is just as large as that, the window's frame and the bars of the desktop go off it. Such a
+// window too opens where it was closed.
 void keepLeastSize(QWidget* window, const QSize& pixels);
 
 // Scrolls what is in it. The window never gets smaller than the contents need, unless the screen is: then

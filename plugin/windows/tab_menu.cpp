@@ -2,13 +2,22 @@
 
 #include "windows/vlk_menuaction.h"
 
+#include <QActionGroup>
 #include <QMenu>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
 
 namespace vlk {
 
-TabMenu::TabMenu(QTabWidget* tabs) : QObject(tabs), tabs_(tabs), menu_(new QMenu(tabs)) {}
+TabMenu::TabMenu(QTabWidget* tabs)
+    : QObject(tabs), tabs_(tabs), menu_(new QMenu(tabs)), entries_(new QActionGroup(menu_))
+{
+    connect(tabs_, &QTabWidget::currentChanged, this, [this](int tab) {
+        if (QAction* entry = menu_->actions().value(tab))
+            entry->setChecked(true);
+    });
+}
 
 int TabMenu::add(QWidget* page, const QString& title)
 {
@@ -17,7 +26,11 @@ int TabMenu::add(QWidget* page, const QString& title)
     area->setFrameShape(QFrame::NoFrame);
     area->setWidget(page);
     const int tab = tabs_->addTab(area, title);
-    menu_->addAction(new VLK_MenuAction(title, tab, menu_));
+    auto* entry = new VLK_MenuAction(title, tab, menu_);
+    entry->setCheckable(true);
+    entry->setActionGroup(entries_);
+    entry->setChecked(tab == current());
+    menu_->addAction(entry);
     return tab;
 }
 
@@ -30,6 +43,12 @@ void TabMenu::setTitle(int tab, const QString& title)
 int TabMenu::current() const
 {
     return tabs_->currentIndex();
+}
+
+void TabMenu::scrollToTop()
+{
+    for (const QScrollArea* area : tabs_->findChildren<QScrollArea*>())
+        area->verticalScrollBar()->setValue(0);
 }
 
 void TabMenu::goTo(int tab)

@@ -1,9 +1,11 @@
 #pragma once
 
-// Tabs whose pages stand in scroll areas, and a menu with an entry for each of them.
+// Tabs whose pages stand in scroll areas, and a menu with an entry for each of them, in which that of the
+// current one is marked.
 
 #include <QObject>
 
+class QActionGroup;
 class QMenu;
 class QTabWidget;
 
@@ -24,6 +26,9 @@ public:
     // Ignores an index without a tab.
     void goTo(int tab);
 
+    // All pages, and what scrolls in them.
+    void scrollToTop();
+
     QMenu* menu() const { return menu_; }
 
 protected:
@@ -32,6 +37,7 @@ protected:
 private:
     QTabWidget* const tabs_;
     QMenu* const menu_;
+    QActionGroup* const entries_;
 };
 
 } // namespace vlk

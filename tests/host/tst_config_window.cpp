@@ -1,5 +1,6 @@
 // The configuration dialog and the full window, driven through messages and widgets by name.
 
+#include "support/allocated_bytes.h"
 #include "support/answers.h"
 #include "support/data_table.h"
 #include "support/files.h"
@@ -87,6 +88,18 @@ private Q_SLOTS:
     {
         QCOMPARE(window->focusWidget(), name());
         portOf("page_Full")->setFocus();
+        for (const bool isFull : {true, false}) {
+            host_.open({}, isFull);
+            QApplication::processEvents();
+            QScrollBar* longest = nullptr;
+            for (const QScrollArea* area : window->findChildren<QScrollArea*>())
+                if (area->isVisible() && area->verticalScrollBar()->maximum() > 0)
+                    longest = area->verticalScrollBar();
+            QVERIFY(longest);
+            longest->setValue(longest->maximum());
+            host_.open({}, isFull);
+            QCOMPARE(longest->value(), 0);
+        }
         host_.open(configuration(QStringLiteral("One")));
         QCOMPARE(window->focusWidget(), name());
     }
@@ -134,7 +147,11 @@ private Q_SLOTS:
         host_.attach();
         for (const bool full : {true, false}) {
             host_.open(configuration(QStringLiteral("Ведомый «7»")), full);
-            press(full ? "pushButton_LoadToDevice" : "pushButton_Light_LoadToDevice");
+            auto* write =
+                child<QPushButton>(full ? "pushButton_LoadToDevice" : "pushButton_Light_LoadToDevice");
+            write->setFocus();
+            write->click();
+            QCOMPARE(window->focusWidget(), write);
             const auto written = host_.takeSent(Message::WriteConfiguration);
             QCOMPARE(written.size(), 1);
             const QString pattern = QDir::currentPath() + (full ? "/vlk_R7106_" : "/vlk_R-7106_") +
@@ -286,6 +303,8 @@ private Q_SLOTS:
             QCOMPARE(menu->actions().at(tab)->text(), tabs->tabText(tab));
             menu->actions().at(tab)->trigger();
             QCOMPARE(tabs->currentIndex(), tab);
+            for (const QAction* entry : menu->actions())
+                QCOMPARE(entry->isChecked(), menu->actions().indexOf(const_cast<QAction*>(entry)) == tab);
             const bool several = tabs->count() > 1;
             QCOMPARE(isOn("pushButton_Goto"), several);
             QCOMPARE(isOn("pushButton_PrevScreen"), several && tab > 0);
@@ -332,6 +351,29 @@ private Q_SLOTS:
         const QString written = host_.takeSent(Message::WriteConfiguration).value(0).text1;
         QVERIFY(readFile(written).contains("regTimer=\"900\""));
         QVERIFY(QFile::remove(written));
+    }
+
+    // The dialog lives as long as the process, so what an opening leaves behind is never given back.
+    void openingsLeaveNothingBehind()
+    {
+        host_.attach();
+        const auto useIt = [this](int times) {
+            for (int n = 0; n < times; ++n) {
+                host_.open(configuration(QStringLiteral("One")));
+                child<QSpinBox>("spinBox_RegTimer")->setValue(100 + n);
+                press("pushButton_LoadToDevice");
+                host_.send(Message::CloseWindows);
+                QApplication::processEvents();
+                QFile::remove(host_.takeSent(Message::WriteConfiguration).value(0).text1);
+            }
+            return allocatedBytes();
+        };
+        // The allocator's own caches count as taken and fill slowly.
+        const std::size_t before = useIt(40);
+        const auto grown = std::ptrdiff_t(useIt(160) - before);
+        QVERIFY2(grown < 160 * 300, qPrintable(QString::number(grown)));
+        for (const QLineEdit* edit : window->findChildren<QLineEdit*>())
+            QVERIFY2(!edit->isUndoAvailable(), qPrintable(edit->objectName()));
     }
 
     void numbersFollowTheLanguage()

@@ -37,6 +37,15 @@ private Q_SLOTS:
         QCOMPARE(saved("AUTOAPN/sID3"), QString());
     }
 
+    void apnListIsClosedByItsButton()
+    {
+        press("pushButton_AutoAPN_1");
+        auto* close = apnTree()->window()->findChild<QPushButton*>("pushButton_ListApn_Close");
+        QVERIFY(apnTree()->isVisible() && close && close->isVisible());
+        QTest::keyClick(close, Qt::Key_Space);
+        QVERIFY(!apnTree()->isVisible());
+    }
+
     void numberColumnIsNotEdited()
     {
         press("pushButton_AutoAPN_1");

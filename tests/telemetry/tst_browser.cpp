@@ -107,6 +107,15 @@ private Q_SLOTS:
         // The next file begins at its own beginning.
         showPages(numbered({8, 9}));
         QCOMPARE(number() + walkable(), QString("8--xx"));
+        QCOMPARE(text("label_File"), QString("telemetry.xml"));
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        for (const auto& [key, record] : {std::pair(Qt::Key_PageUp, "8"),
+                                          {Qt::Key_PageDown, "9"},
+                                          {Qt::Key_PageDown, "9"},
+                                          {Qt::Key_PageUp, "8"}}) {
+            QTest::keyClick(child<QSlider>("horizontalSlider"), key);
+            QCOMPARE(number(), QString(record));
+        }
         QCOMPARE(child<QSpinBox>("spinBox_Go")->value(), 0);
 
         host_.sent.clear();

@@ -93,6 +93,19 @@ private Q_SLOTS:
                 quest->toPlainText().isEmpty());
     }
 
+    void helpAndClose()
+    {
+        dialog_.press("pushButton_Help");
+        QVERIFY(QTest::qWaitForWindowActive(dialog_.window));
+        QTest::keyClick(dialog_.window, Qt::Key_F1);
+        const auto help = host.takeSent(Message::ShowHelp);
+        QCOMPARE(help.size(), 2);
+        QCOMPARE(help[0].text2, QString("r-7106taho.html"));
+        QCOMPARE(help[1].text2, help[0].text2);
+        dialog_.press("pushButton_Close");
+        QVERIFY(!dialog_.window->isVisible() && window->isVisible());
+    }
+
 private:
     WindowParts dialog_;
     QByteArray request_;

@@ -176,6 +176,10 @@ private Q_SLOTS:
         QCOMPARE(number_, 3U);
         press("pushButton_Get_Next");
         QCOMPARE(number_, 5U);
+        QTest::keyClick(child<QDateTimeEdit>("dateTimeEdit_Show"), Qt::Key_PageUp);
+        QCOMPARE(number_, 3U);
+        QTest::keyClick(child<QDateTimeEdit>("dateTimeEdit_Show"), Qt::Key_PageDown);
+        QCOMPARE(number_, 5U);
         // A slow tracker is not asked twice for what a held button waits for.
         sendRecord(numbered(4));
         host.sent.clear();
@@ -408,6 +412,7 @@ private Q_SLOTS:
         host.send(Message::RfidNumber, &key, &signal);
         QCOMPARE(child<QLineEdit>("lineEdit_RFID")->text(), QString("6604705263"));
         QCOMPARE(child<QSpinBox>("spinBox_RFID")->value(), -70);
+        QCOMPARE(child<QSpinBox>("spinBox_RFID")->text(), QString("-70 abbr_050"));
     }
 
     // In a window that is hidden already too.

@@ -39,8 +39,9 @@ class TextsTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        static const QRegularExpression key(QStringLiteral(
-            "[\">]((?:cfgt\\d+f?|cfgwl|cfgwnd|tmizta|tmiw|tmiex|tmift\\d|wrd|abbr|typed|wb)_[a-z0-9_]+)[\"<]"));
+        static const QRegularExpression key(
+            QStringLiteral("[\">]((?:cfgt\\d+f?|cfgwl|cfgwnd|tmizta|tmiw|tmiex|tmift\\d|wrd|abbr|typed|wb)_["
+                           "a-z0-9_]+)[\"<]"));
         for (const char* folder : {"/plugin", "/typing", "/workbench"}) {
             QDirIterator files(QStringLiteral(VLK_SOURCE) + QLatin1String(folder), {"*.cpp", "*.h", "*.ui"},
                                QDir::Files, QDirIterator::Subdirectories);
@@ -98,12 +99,17 @@ private Q_SLOTS:
         QVERIFY2(unused.isEmpty(), qPrintable("no key: " + unused.join(' ')));
     }
 
-    // Each button of the configuration dialog is reached by a letter of its own.
+    // Each button of a window is reached by a letter of its own.
     void buttonsHaveMnemonics()
     {
         const QStringList windows[] = {
             {"wrd_047", "wrd_048", "cfgwnd_001", "wrd_051", "wrd_053", "wrd_052", "wrd_027", "wrd_054"},
-            {"wrd_055", "cfgwnd_002", "wrd_054"}};
+            {"wrd_055", "cfgwnd_002", "wrd_054"},
+            {"wrd_061", "wrd_062", "wrd_027", "wrd_054"},
+            // "Cancel" stands beside commands that are closed meanwhile, and shares a letter with one.
+            {"wrd_027",  "wrd_054",  "tmiw_004", "wrd_061",  "wrd_062",    "tmiw_005",   "tmiw_008",
+             "tmiw_010", "tmiw_014", "tmiw_015", "tmiw_016", "tmiw_024",   "tmiw_030",   "tmiw_195",
+             "tmiw_140", "tmiw_141", "tmiw_196", "tmiw_143", "tmift1_060", "tmift2_011", "tmift2_012"}};
         for (const QString& language : kLanguages) {
             for (const QStringList& keys : windows) {
                 QSet<QString> letters;

@@ -82,6 +82,31 @@ private Q_SLOTS:
             dialog.hide();
         }
     }
+
+    void opensWhereItWasClosed()
+    {
+        QDialog kept;
+        QDialog least;
+        vlk::keepOnScreen(&kept);
+        vlk::keepLeastSize(&least, {100, 100});
+        for (QDialog* dialog : {&kept, &least}) {
+            dialog->resize(200, 100);
+            for (const QPoint place : {QPoint(60, 50), QPoint(90, 70)}) {
+                dialog->show();
+                QVERIFY(QTest::qWaitForWindowActive(dialog));
+                // As the window system moves it for the user.
+                dialog->windowHandle()->setFramePosition(place);
+                QTRY_COMPARE(dialog->pos(), place);
+                dialog->hide();
+                dialog->setAttribute(Qt::WA_Moved, false);
+                dialog->show();
+                QCOMPARE(dialog->pos(), place);
+                // Without it the window system chooses.
+                QVERIFY(dialog->testAttribute(Qt::WA_Moved));
+                dialog->hide();
+            }
+        }
+    }
 };
 
 QTEST_MAIN(FitToScreenTest)

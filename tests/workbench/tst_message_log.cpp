@@ -8,7 +8,9 @@
 #include "window/message_text.h"
 
 #include <QAbstractItemModelTester>
+#include <QLabel>
 #include <QLineEdit>
+#include <QToolButton>
 #include <QtTest>
 
 using vlk::Direction;
@@ -166,14 +168,30 @@ private Q_SLOTS:
         const std::int32_t mode = 2;
         model.append(Direction::ToPlugin, quint32(Message::SetHostMode), &mode, nullptr);
         model.append(Direction::ToPlugin, quint32(Message::LanguageChanged), nullptr, nullptr);
-        view.findChild<QLineEdit*>(QStringLiteral("lineEdit_LogFilter"))->setText(QStringLiteral("2004"));
+        const auto counted = [&view](const QString& text) {
+            const auto labels = view.findChildren<QLabel*>();
+            return std::any_of(labels.begin(), labels.end(),
+                               [&](const QLabel* label) { return label->text() == text; });
+        };
+        const auto saveTip = [&view] {
+            return view.findChild<QToolButton*>("toolButton_LogSave")->toolTip();
+        };
+        QVERIFY(counted("2") && !view.shownText().contains("Messages"));
+        QCOMPARE(saveTip(), QString("Save the log"));
+        QTest::keyClicks(view.findChild<QLineEdit*>(QStringLiteral("lineEdit_LogFilter")), "2004");
+        QVERIFY(counted("1 of 2"));
+        // Behind the filter the log goes on.
+        model.append(Direction::ToPlugin, quint32(Message::LanguageChanged), nullptr, nullptr);
+        QVERIFY(counted("1 of 3"));
+        QCOMPARE(saveTip(), QString("Save the log: 1 of 3"));
         const QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("log.txt"));
         QString error;
         QVERIFY(view.saveTo(path, &error));
         const QByteArray before = readFile(path);
         const QString text = QString::fromUtf8(before);
-        QCOMPARE(text.count(QLatin1Char('\n')), 1);
+        QCOMPARE(text.count(QLatin1Char('\n')), 2);
+        QVERIFY2(text.startsWith("Messages: 1 of 3. Filter: 2004\n"), qPrintable(text));
         QVERIFY(text.endsWith(QStringLiteral("\t2004\tSetHostMode\t2\n")));
         QVERIFY(!view.saveTo(folder.path(), &error) && !error.isEmpty());
         error.clear();

@@ -5,8 +5,12 @@
 #include "window/help_viewer.h"
 #include "window/languages.h"
 #include "window/settings.h"
+#include "window/short_file_name.h"
 #include "window/stored_file.h"
 
+#include <QFontDatabase>
+#include <QLabel>
+#include <QLineEdit>
 #include <QProcess>
 #include <QTextBlock>
 #include <QtTest>
@@ -163,6 +167,28 @@ private Q_SLOTS:
             QCOMPARE(readFile(file + QStringLiteral(".damaged")), content);
     }
 
+    void shortensFileNames_data()
+    {
+        const QString day("KAMAZ 5490 2026-11-20 08-02 - 2026-11-20 17-30.xml");
+        const QString night("KAMAZ 5490 2026-11-20 08-02 - 2026-11-21 08-02.xml");
+        DataTable<QString, QString, QString>({"name", "room", "shown"})
+            .row("room enough", day, day, day)
+            .row("one day", day, "KAMAZ 5… 2026-11-20 08-02 - 17-30.xml",
+                 "KAMAZ 5… 2026-11-20 08-02 - 17-30.xml")
+            .row("two days", night, "KAMAZ… 2026-11-20 08-02 - 2026-11-21 08-02",
+                 "KAMAZ… 2026-11-20 08-02 - 2026-11-21 08-02")
+            .row("no vehicle", night, "2026-11-20 08-02 - 2026-11-21 08-02",
+                 "2026-11-20 08-02 - 2026-11-21 08-02")
+            .row("another name", "configuration of KAMAZ.xml", "configur…AMAZ.xml", "configur…AMAZ.xml");
+    }
+    void shortensFileNames()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, room);
+        const QFontMetrics metrics(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+        QTEST(vlk::shortFileName(name, metrics, metrics.horizontalAdvance(room)), "shown");
+    }
+
     void knowsFilesByTheirContent_data()
     {
         const QByteArray declaration("<?xml version=\"1.0\" encoding=\"windows-1251\"?>\r\n");
@@ -206,7 +232,11 @@ private Q_SLOTS:
         auto first = std::make_unique<vlk::DataFolder>(root.path());
         QVERIFY(first->isUsable());
         QVERIFY(vlk::DataFolder(root.path()).isInUse());
-        const auto [code, output] = run(arguments);
+        // A tour comes that far without a display.
+        QProcessEnvironment bare = QProcessEnvironment::systemEnvironment();
+        for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+            bare.remove(QString::fromLatin1(name));
+        const auto [code, output] = run(arguments, bare);
         QCOMPARE(code, 1);
         QVERIFY2(
             output.contains(QLatin1String("Another workbench is open on the data folder ") + root.path()),
@@ -225,6 +255,7 @@ private Q_SLOTS:
         const auto [code, output] = run({"--language", "en"}, environment);
         QCOMPARE(code, 1);
         QVERIFY2(output.startsWith(QLatin1String("The workbench found no display")), qPrintable(output));
+        QVERIFY2(output.contains(QLatin1String(VLK_WORKBENCH) + " --tour DIR"), qPrintable(output));
         QCOMPARE(output.count(QLatin1Char('\n')), 1);
     }
 
@@ -258,6 +289,39 @@ private Q_SLOTS:
                 QVERIFY2(std::abs(contrast) > 90, qPrintable(format.foreground().color().name()));
             }
         QVERIFY(links > 2);
+    }
+
+    void helpCanBeSearched()
+    {
+        vlk::Languages languages;
+        QVERIFY(languages.set(QStringLiteral("en")));
+        vlk::HelpViewer viewer(vlk::HelpPages(help), QStringLiteral("en"), nullptr);
+        viewer.showPage("r-7106p5.html");
+        QVERIFY(QTest::qWaitForWindowActive(&viewer));
+        const auto* browser = viewer.findChild<QTextBrowser*>("textBrowser_Help");
+        auto* words = viewer.findChild<QLineEdit*>("lineEdit_HelpFind");
+        const auto place = [browser] {
+            return browser->source().path() + '@' + QString::number(browser->textCursor().position());
+        };
+        QTest::keyClick(viewer.focusWidget(), Qt::Key_F, Qt::ControlModifier);
+        QVERIFY(words->hasFocus());
+        // Goes through all pages and comes back to where it was.
+        QTest::keyClicks(words, "TACHOGRAPH");
+        QStringList places;
+        do {
+            QTest::keyClick(words, Qt::Key_Return);
+            QCOMPARE(browser->textCursor().selectedText().toLower(), QString("tachograph"));
+            places << place();
+        } while (places.size() < 500 && places.indexOf(place()) == places.size() - 1);
+        QCOMPARE(places.last(), places.first());
+        QVERIFY(!places.filter("r-7106p5.html").isEmpty() && !places.filter("r-7106taho.html").isEmpty());
+        const auto* result = viewer.findChild<QLabel*>("label_HelpFound");
+        QTest::keyClicks(words, "zzz");
+        QTest::keyClick(words, Qt::Key_Return);
+        QCOMPARE(result->text(), QString("Nothing found"));
+        QCOMPARE(place(), places.last());
+        QTest::keyClick(words, Qt::Key_Escape);
+        QVERIFY(viewer.isVisible() && words->text().isEmpty() && result->text().isEmpty());
     }
 
     void obeysTheCommandLine_data()

@@ -122,8 +122,9 @@ private Q_SLOTS:
             QCOMPARE(texts.filter(QStringLiteral("wb_")), QStringList());
         // After the switch no text of Latin letters alone is left but those that are the same in both.
         static const QRegularExpression cyrillic(QStringLiteral("[а-яА-Я]"));
-        QCOMPARE(english.filter(cyrillic),
-                 QStringList({QStringLiteral("Русский"), QStringLiteral("Русский")}));
+        QStringList foreign = english.filter(cyrillic);
+        foreign.removeDuplicates();
+        QCOMPARE(foreign, QStringList(QStringLiteral("Русский")));
         QVERIFY(russian.filter(cyrillic).size() > 50);
         QCOMPARE(bench.settings.language(), QStringLiteral("ru"));
     }
@@ -502,8 +503,27 @@ private Q_SLOTS:
             QVERIFY(bench.action("action_Language_ru")->isEnabled());
             QVERIFY(bench.action("action_Language_ru")->statusTip().isEmpty());
         }
-        bench.action("action_Language_en")->trigger();
+        QTest::mouseClick(bench.window.findChild<QToolButton*>("toolButton_Language_en"), Qt::LeftButton);
         QCOMPARE(bench.settings.language(), QStringLiteral("en"));
+    }
+
+    void appearanceIsChosen()
+    {
+        const QPalette before = QApplication::palette();
+        Bench bench;
+        QVERIFY(bench.start());
+        const auto contrast = [&] {
+            const QPalette& palette = bench.window.palette();
+            return qGray(palette.color(QPalette::WindowText).rgb()) -
+                   qGray(palette.color(QPalette::Window).rgb());
+        };
+        bench.action("action_Appearance_2")->trigger();
+        QVERIFY(contrast() > 150);
+        QCOMPARE(vlk::Settings(bench.folder.settingsFile()).appearance(), vlk::Appearance::Dark);
+        bench.action("action_Appearance_1")->trigger();
+        QVERIFY(contrast() < -150);
+        bench.action("action_Appearance_0")->trigger();
+        QCOMPARE(QApplication::palette(), before);
     }
 
     void mnemonicsAreUnique()

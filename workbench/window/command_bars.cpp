@@ -4,9 +4,11 @@
 
 #include <QActionGroup>
 #include <QComboBox>
+#include <QHBoxLayout>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QToolBar>
+#include <QToolButton>
 
 namespace vlk {
 
@@ -19,6 +21,9 @@ struct LanguageRow
 };
 
 constexpr LanguageRow languageRows[] = {{"ru", "Русский"}, {"en", "English"}};
+
+constexpr const char* appearanceKeys[] = {"wb_appearance_system", "wb_appearance_light",
+                                          "wb_appearance_dark"};
 
 } // namespace
 
@@ -49,22 +54,50 @@ void CommandBars::buildMenus(QMenu* recentFiles)
     addMenu("wb_menu_telemetry", {Command::LiveTelemetry, Command::BrowseFile, Command::TableFile});
     QMenu* tools = addMenu("wb_menu_tools", {Command::Cable, Command::Faults, Command::DataFolders});
     buildLanguages(texts_.bind(tools->addMenu(QString()), "wb_language"));
+    buildAppearances(texts_.bind(tools->addMenu(QString()), "wb_appearance"));
     addMenu("wb_menu_help", {Command::Help, Command::About});
 }
 
+// In the menu, and by their own names in the corner, where nobody has to read another language to find them.
 void CommandBars::buildLanguages(QMenu* menu)
 {
     menu->setToolTipsVisible(true);
-    for (const LanguageRow& row : languageRows) {
-        QAction* action = menu->addAction(QString::fromUtf8(row.name));
+    auto* corner = new QWidget(window_);
+    auto* row = new QHBoxLayout(corner);
+    row->setContentsMargins(0, 0, 6, 0);
+    row->setSpacing(0);
+    window_->menuBar()->setCornerWidget(corner);
+    for (const LanguageRow& language : languageRows) {
+        QAction* action = menu->addAction(QString::fromUtf8(language.name));
         action->setCheckable(true);
         action->setActionGroup(languageChoice_);
-        const QString code = QLatin1String(row.code);
+        const QString code = QLatin1String(language.code);
         action->setObjectName(QStringLiteral("action_Language_") + code);
+        auto* button = new QToolButton(corner);
+        button->setObjectName(QStringLiteral("toolButton_Language_") + code);
+        button->setAutoRaise(true);
+        button->setDefaultAction(action);
+        row->addWidget(button);
         connect(action, &QAction::triggered, this, [this, code] { Q_EMIT languageChosen(code); });
         texts_.bind([this, action, code] { action->setChecked(languages_.current() == code); });
     }
     texts_.bind([this] { setLanguagesOffered(languageChoice_->isEnabled()); });
+}
+
+void CommandBars::buildAppearances(QMenu* menu)
+{
+    auto* choice = new QActionGroup(menu);
+    for (const Appearance appearance : {Appearance::System, Appearance::Light, Appearance::Dark}) {
+        QAction* action = texts_.bind(menu->addAction(QString()), appearanceKeys[int(appearance)]);
+        action->setObjectName(QStringLiteral("action_Appearance_%1").arg(int(appearance)));
+        action->setCheckable(true);
+        action->setActionGroup(choice);
+        action->setChecked(settings_.appearance() == appearance);
+        connect(action, &QAction::triggered, this, [this, appearance] {
+            settings_.setAppearance(appearance);
+            vlk::apply(appearance);
+        });
+    }
 }
 
 void CommandBars::setLanguagesOffered(bool offered)

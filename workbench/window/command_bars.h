@@ -35,6 +35,7 @@ Q_SIGNALS:
 private:
     void buildMenus(QMenu* recentFiles);
     void buildLanguages(QMenu* menu);
+    void buildAppearances(QMenu* menu);
     void buildToolBar();
     // Which window a configuration opens in.
     QComboBox* buildWindowChoice();

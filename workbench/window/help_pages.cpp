@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace vlk {
 
 HelpPages::HelpPages(const QString& folder) : folder_(folder) {}
@@ -12,6 +14,14 @@ HelpPages::HelpPages(const QString& folder) : folder_(folder) {}
 QString HelpPages::path(const QString& language, const QString& page) const
 {
     return QDir(folder_).filePath(language + QLatin1Char('/') + QFileInfo(page).fileName());
+}
+
+QStringList HelpPages::names(const QString& language) const
+{
+    QStringList names =
+        QDir(QDir(folder_).filePath(language)).entryList({QStringLiteral("*.html")}, QDir::Files);
+    names.move(std::max(names.indexOf(indexPage()), 0), 0);
+    return names;
 }
 
 bool HelpPages::exists(const QString& language, const QString& page) const

@@ -4,9 +4,14 @@
 #include "window/scrolling.h"
 
 #include <QEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QShortcut>
+#include <QTextDocument>
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace vlk {
@@ -63,9 +68,30 @@ void HelpBrowser::setLanguage(const QString& language)
     reload();
 }
 
+bool HelpBrowser::findNext(const QString& words)
+{
+    if (find(words))
+        return true;
+    QStringList pages = pages_.names(language_);
+    const auto here = std::find(pages.begin(), pages.end(), source().path());
+    if (here != pages.end())
+        std::rotate(pages.begin(), here + 1, pages.end());
+    for (const QString& page : std::as_const(pages)) {
+        QTextDocument other;
+        other.setHtml(pages_.html(language_, page));
+        if (other.find(words).isNull())
+            continue;
+        if (page != source().path())
+            setSource(QUrl(page));
+        moveCursor(QTextCursor::Start);
+        return find(words);
+    }
+    return false;
+}
+
 HelpViewer::HelpViewer(const HelpPages& pages, const QString& language, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
-      browser_(new HelpBrowser(pages, language, this))
+      browser_(new HelpBrowser(pages, language, this)), words_(new QLineEdit(this)), result_(new QLabel(this))
 {
     setObjectName(QStringLiteral("dialog_Help"));
     setModal(false);
@@ -88,6 +114,8 @@ HelpViewer::HelpViewer(const HelpPages& pages, const QString& language, QWidget*
     connect(browser_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
     connect(browser_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
 
+    addSearch(bar);
+
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
@@ -97,9 +125,49 @@ HelpViewer::HelpViewer(const HelpPages& pages, const QString& language, QWidget*
     vlk::resizeWithin(this, QSize(720, 560));
 }
 
+void HelpViewer::addSearch(QToolBar* bar)
+{
+    words_->setObjectName(QStringLiteral("lineEdit_HelpFind"));
+    words_->setClearButtonEnabled(true);
+    words_->setMaximumWidth(fontMetrics().averageCharWidth() * 30);
+    result_->setObjectName(QStringLiteral("label_HelpFound"));
+    result_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    result_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    texts_.bind([this] {
+        const QString text = vlk::text("wb_help_find");
+        words_->setPlaceholderText(text);
+        words_->setAccessibleName(text);
+        words_->setToolTip(QStringLiteral("%1 (%2)").arg(
+            text, QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText)));
+    });
+    bar->addWidget(result_);
+    bar->addWidget(words_);
+    connect(words_, &QLineEdit::returnPressed, this, [this] { findNext(); });
+    connect(words_, &QLineEdit::textChanged, result_, &QLabel::clear);
+    connect(new QShortcut(QKeySequence::FindNext, this), &QShortcut::activated, this, [this] { findNext(); });
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
+        words_->setFocus();
+        words_->selectAll();
+    });
+    // Leaves the field first, the window only then.
+    connect(new QShortcut(Qt::Key_Escape, words_, nullptr, nullptr, Qt::WidgetShortcut),
+            &QShortcut::activated, this, [this] {
+                words_->clear();
+                browser_->setFocus();
+            });
+}
+
+void HelpViewer::findNext()
+{
+    const QString words = words_->text().simplified();
+    if (!words.isEmpty())
+        result_->setText(browser_->findNext(words) ? QString() : vlk::text("wb_help_not_found"));
+}
+
 void HelpViewer::showPage(const QString& page)
 {
     browser_->setSource(QUrl(page));
+    browser_->setFocus();
     show();
     raise();
     activateWindow();

@@ -1,12 +1,16 @@
 #pragma once
 
-// The help window: a browser over the help pages with back, forward and contents.
+// The help window: a browser over the help pages with back, forward, contents and a search over all of them.
 
 #include "window/help_pages.h"
 #include "window/key_texts.h"
 
 #include <QDialog>
 #include <QTextBrowser>
+
+class QLabel;
+class QLineEdit;
+class QToolBar;
 
 namespace vlk {
 
@@ -21,6 +25,9 @@ public:
     QVariant loadResource(int type, const QUrl& name) override;
 
     void setLanguage(const QString& language);
+    // Goes to where the words stand next, on this page, on those behind it, and round to the place where it
+    // is.
+    bool findNext(const QString& words);
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -43,7 +50,12 @@ public:
     void setLanguage(const QString& language);
 
 private:
+    void addSearch(QToolBar* bar);
+    void findNext();
+
     HelpBrowser* browser_;
+    QLineEdit* words_;
+    QLabel* result_;
     KeyTexts texts_;
 };
 

@@ -41,9 +41,15 @@ MessageLogView::MessageLogView(MessageLogModel* model, QWidget* parent)
     buildBar();
     buildTable();
 
-    connect(filter_, &QAbstractItemModel::rowsInserted, this, &MessageLogView::showCount);
-    connect(filter_, &QAbstractItemModel::rowsRemoved, this, &MessageLogView::showCount);
-    connect(filter_, &QAbstractItemModel::modelReset, this, &MessageLogView::showCount);
+    // The log grows behind a filter too. Both are asked, since a note can let a line through the filter.
+    for (const QAbstractItemModel* counted :
+         {static_cast<QAbstractItemModel*>(model_), static_cast<QAbstractItemModel*>(filter_)}) {
+        connect(counted, &QAbstractItemModel::rowsInserted, this, &MessageLogView::showCount);
+        connect(counted, &QAbstractItemModel::rowsRemoved, this, &MessageLogView::showCount);
+        connect(counted, &QAbstractItemModel::modelReset, this, &MessageLogView::showCount);
+    }
+    connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &MessageLogView::showCount);
     showCount();
 }
 
@@ -84,10 +90,11 @@ void MessageLogView::buildBar()
         });
         connect(button, &QToolButton::clicked, this, act);
         bar->addWidget(button);
+        return button;
     };
-    addButton("toolButton_LogCopy", "copy", "wb_log_copy",
-              [this] { QGuiApplication::clipboard()->setText(shownText()); });
-    addButton("toolButton_LogSave", "save", "wb_log_save", [this] { save(); });
+    copy_ = addButton("toolButton_LogCopy", "copy", "wb_log_copy",
+                      [this] { QGuiApplication::clipboard()->setText(shownText()); });
+    save_ = addButton("toolButton_LogSave", "save", "wb_log_save", [this] { save(); });
     addButton("toolButton_LogClear", "clear", "wb_log_clear", [this] { model_->clear(); });
     static_cast<QVBoxLayout*>(layout())->addLayout(bar);
 }
@@ -146,9 +153,22 @@ void MessageLogView::applyFilter()
 
 void MessageLogView::showCount()
 {
+    count_->setText(countText(filter_->rowCount()));
+    const int selected = table_->selectionModel()->selectedRows().size();
+    const int taken = selected < 2 ? filter_->rowCount() : selected;
+    const QString excerpt = taken == model_->rowCount() ? QString() : QStringLiteral(": ") + countText(taken);
+    for (auto [button, key] : {std::pair(copy_, "wb_log_copy"), {save_, "wb_log_save"}}) {
+        button->setToolTip(vlk::text(key) + excerpt);
+        button->setAccessibleName(vlk::text(key) + excerpt);
+    }
+}
+
+QString MessageLogView::countText(int part) const
+{
+    const QLocale locale;
     const int all = model_->rowCount();
-    const int shown = filter_->rowCount();
-    count_->setText(shown == all ? QString::number(all) : vlk::text("wb_log_count").arg(shown).arg(all));
+    return part == all ? locale.toString(all)
+                       : vlk::text("wb_log_count").arg(locale.toString(part), locale.toString(all));
 }
 
 void MessageLogView::showDetails()
@@ -168,15 +188,33 @@ void MessageLogView::showDetails()
 
 QString MessageLogView::shownText() const
 {
+    const QVector<int> rows = takenRows();
     QString text;
-    const QModelIndexList selected = table_->selectionModel()->selectedRows();
-    const bool all = selected.size() < 2;
-    for (int row = 0; row < filter_->rowCount(); ++row) {
-        const QModelIndex index = filter_->index(row, 0);
-        if (all || table_->selectionModel()->isRowSelected(row, {}))
-            text += model_->line(filter_->mapToSource(index).row()) + QLatin1Char('\n');
+    if (rows.size() != model_->rowCount()) {
+        text = vlk::text("wb_log_excerpt").arg(countText(rows.size()));
+        QStringList conditions(words_->text().simplified());
+        if (directions_->currentIndex() > 0)
+            conditions << directions_->currentText();
+        conditions.removeAll(QString());
+        if (!conditions.isEmpty())
+            text +=
+                QStringLiteral(". ") + vlk::text("wb_log_filtered").arg(conditions.join(QLatin1String(", ")));
+        text += QLatin1Char('\n');
     }
+    for (const int row : rows)
+        text += model_->line(row) + QLatin1Char('\n');
     return text;
+}
+
+QVector<int> MessageLogView::takenRows() const
+{
+    const QItemSelectionModel* selection = table_->selectionModel();
+    const bool all = selection->selectedRows().size() < 2;
+    QVector<int> rows;
+    for (int row = 0; row < filter_->rowCount(); ++row)
+        if (all || selection->isRowSelected(row, {}))
+            rows << filter_->mapToSource(filter_->index(row, 0)).row();
+    return rows;
 }
 
 bool MessageLogView::saveTo(const QString& path, QString* error) const
@@ -191,7 +229,7 @@ bool MessageLogView::saveTo(const QString& path, QString* error) const
 void MessageLogView::save()
 {
     const QString path = QFileDialog::getSaveFileName(
-        this, vlk::text("wb_log_save"), QDir::home().filePath(QStringLiteral("messages.txt")),
+        this, save_->toolTip(), QDir::home().filePath(QStringLiteral("messages.txt")),
         vlk::text("wb_log_file_type") + QStringLiteral(" (*.txt)"));
     QString error;
     if (!path.isEmpty() && !saveTo(path, &error))

@@ -12,6 +12,7 @@ class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
 class QTableView;
+class QToolButton;
 
 namespace vlk {
 
@@ -26,6 +27,7 @@ public:
     explicit MessageLogView(MessageLogModel* model, QWidget* parent = nullptr);
 
     // The rows that the filter lets through, a line each; only the selected ones when some are selected.
+    // Where that is not the whole log, a line before them says so.
     QString shownText() const;
     // False with a text for the user when the file cannot be written.
     bool saveTo(const QString& path, QString* error) const;
@@ -39,6 +41,8 @@ private:
     void showDetails();
     void showCount();
     void save();
+    QVector<int> takenRows() const;
+    QString countText(int part) const;
 
     MessageLogModel* model_;
     MessageLogFilter* filter_;
@@ -48,6 +52,8 @@ private:
     QTableView* table_;
     QPlainTextEdit* details_;
     QLabel* count_;
+    QToolButton* copy_ = nullptr;
+    QToolButton* save_ = nullptr;
 };
 
 } // namespace vlk

@@ -1,5 +1,6 @@
 #include "window/recent_files.h"
 
+#include "window/short_file_name.h"
 #include "window/stored_file.h"
 
 #include <QDir>
@@ -7,6 +8,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 namespace vlk {
@@ -29,6 +31,22 @@ public:
     QSize sizeHint() const override { return minimumSizeHint(); }
 };
 
+class NameDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const QWidget* list = option->widget;
+        const int margin = list->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, list) + 1;
+        option->text =
+            vlk::shortFileName(option->text, option->fontMetrics, option->rect.width() - 2 * margin);
+    }
+};
+
 } // namespace
 
 RecentFiles::RecentFiles(Settings& settings, QWidget* parent)
@@ -38,7 +56,8 @@ RecentFiles::RecentFiles(Settings& settings, QWidget* parent)
     texts_.bind(menu_, "wb_recent");
     list_->setObjectName(QStringLiteral("listWidget_Recent"));
     list_->setFrameShape(QFrame::NoFrame);
-    list_->setTextElideMode(Qt::ElideMiddle);
+    list_->setItemDelegate(new NameDelegate(list_));
+    menu_->setToolTipsVisible(true);
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list_->setContextMenuPolicy(Qt::CustomContextMenu);
     texts_.bind([this] { list_->setAccessibleName(vlk::plainText("wb_recent")); });
@@ -76,7 +95,11 @@ void RecentFiles::refresh()
         item->setData(kPathRole, file.path);
         item->setData(kWindowRole, QVariant::fromValue(file.window));
         item->setToolTip(QDir::toNativeSeparators(file.path));
-        menu_->addAction(file.path, this, [this, file] { Q_EMIT chosen(file.path, file.window); });
+        constexpr int widest = 480;
+        QString name = vlk::shortFileName(item->text(), menu_->fontMetrics(), widest);
+        QAction* action = menu_->addAction(name.replace(QLatin1Char('&'), QLatin1String("&&")), this,
+                                           [this, file] { Q_EMIT chosen(file.path, file.window); });
+        action->setToolTip(item->toolTip());
     }
     menu_->setEnabled(!menu_->isEmpty());
 }

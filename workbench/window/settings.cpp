@@ -13,6 +13,7 @@ namespace {
 
 const QString languageKey = QStringLiteral("language");
 const QString modeKey = QStringLiteral("mode");
+const QString appearanceKey = QStringLiteral("appearance");
 const QString fullWindowKey = QStringLiteral("fullWindow");
 const QString telemetryKey = QStringLiteral("folders/telemetry");
 const QString configurationKey = QStringLiteral("folders/configuration");
@@ -79,6 +80,17 @@ void Settings::setMode(int mode)
 {
     runMode_.reset();
     store_->setValue(modeKey, mode);
+}
+
+Appearance Settings::appearance() const
+{
+    const int value = store_->value(appearanceKey, 0).toInt();
+    return value >= 0 && value <= int(Appearance::Dark) ? Appearance(value) : Appearance::System;
+}
+
+void Settings::setAppearance(Appearance appearance)
+{
+    store_->setValue(appearanceKey, int(appearance));
 }
 
 bool Settings::fullWindow() const

@@ -3,6 +3,8 @@
 // What the workbench remembers from run to run, in an ini file. A damaged file is put aside under the name
 // "...ini.damaged" and the defaults hold; values that make no sense read as their defaults.
 
+#include "window/appearance.h"
+
 #include <QByteArray>
 #include <QSettings>
 #include <QString>
@@ -38,6 +40,9 @@ public:
     // Working mode of the plug-in, 0 to 2.
     int mode() const;
     void setMode(int mode);
+
+    Appearance appearance() const;
+    void setAppearance(Appearance appearance);
 
     // What the command line asks for holds until the user chooses otherwise, and is not remembered.
     void setForThisRun(std::optional<QString> language, std::optional<int> mode);

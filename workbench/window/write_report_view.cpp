@@ -84,8 +84,8 @@ void WriteReportView::showSummary()
     const auto picture = asTyped ? QStyle::SP_DialogApplyButton : QStyle::SP_MessageBoxWarning;
     const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
     symbol_->setPixmap(style()->standardIcon(picture).pixmap(side, side));
-    summary_->setText(QStringLiteral("%1  %2").arg(time_.toString(QStringLiteral("HH:mm:ss")),
-                                                   vlk::summary(report_, typed_)));
+    summary_->setText(QStringLiteral("%1 %2").arg(time_.toString(QStringLiteral("HH:mm:ss")),
+                                                  vlk::summary(report_, typed_)));
 }
 
 void WriteReportView::retranslate()

@@ -3,10 +3,13 @@
 #include "ui_VLK_Designer_Form_TMI_Taho.h"
 
 #include "base/clock.h"
+#include "link/requests.h"
 #include "telemetry/text/tachograph_answer.h"
 #include "typing/join_fields.h"
 #include "typing/typed_entry.h"
 #include "windows/fit_to_screen.h"
+
+#include <QShortcut>
 
 #include <array>
 
@@ -76,6 +79,12 @@ VLK_Form_TMI_Taho::VLK_Form_TMI_Taho(QWidget* parent)
         button->setAutoDefault(false);
         connect(button, &QPushButton::pressed, this, slot);
     }
+    const auto showHelp = [] { vlk::requests::showHelp(QStringLiteral("r-7106taho.html")); };
+    for (QPushButton* button : {ui_->pushButton_Help, ui_->pushButton_Close})
+        button->setAutoDefault(false);
+    connect(ui_->pushButton_Help, &QPushButton::clicked, this, showHelp);
+    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, showHelp);
+    connect(ui_->pushButton_Close, &QPushButton::clicked, this, &QDialog::close);
     connect(ui_->comboBox_File, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &VLK_Form_TMI_Taho::slot_currentIndexChanged_File);
     vlk::joinFields(this);
@@ -96,6 +105,7 @@ void VLK_Form_TMI_Taho::open()
     slot_currentIndexChanged_File(0);
     show();
     raise();
+    activateWindow();
 }
 
 void VLK_Form_TMI_Taho::takeAnswer(const QByteArray& answer)
@@ -133,6 +143,8 @@ void VLK_Form_TMI_Taho::retranslate()
     ui_->pushButton_Autorize->setText(tr("tmiw_037"));
     ui_->pushButton_Create->setText(tr("tmiw_038"));
     ui_->pushButton_Load->setText(tr("tmiw_039"));
+    ui_->pushButton_Help->setText(tr("wrd_027"));
+    ui_->pushButton_Close->setText(tr("wrd_054"));
     ui_->textEdit_Quest->setAccessibleName(tr("tmiw_032"));
     ui_->comboBox_Quest->setAccessibleName(tr("tmiw_032"));
     ui_->textEdit_File->setAccessibleName(tr("tmiw_036"));

@@ -31,13 +31,13 @@ void setControlTexts(const Ui::VLK_Designer_Widget_Tmi_View& ui)
         {ui.pushButton_SaveToFile, "tmiw_014"},
         {ui.pushButton_SaveToExcel, "tmiw_015"},
         {ui.pushButton_SaveFileToServer, "tmiw_016"},
-        {ui.pushButton_Save_Cancel, "wrd_031"},
+        {ui.pushButton_Save_Cancel, "tmiw_197"},
         {ui.pushButton_Clear, "tmiw_024"},
         {ui.pushButton_TM, "tmiw_030"},
-        {ui.pushButton_RFID, "tmiw_030"},
+        {ui.pushButton_RFID, "tmiw_195"},
         {ui.pushButton_Get_Current_Touch, "tmiw_140"},
         {ui.pushButton_Get_Current_RFID, "tmiw_141"},
-        {ui.pushButton_Taho, "wrd_065"},
+        {ui.pushButton_Taho, "tmiw_196"},
         {ui.pushButton_FuelSensor, "tmiw_143"},
         {ui.pushButton_Set_NoGuard, "tmiw_144"},
         {ui.pushButton_Set_Guard, "tmiw_145"},
@@ -58,6 +58,7 @@ void setControlTexts(const Ui::VLK_Designer_Widget_Tmi_View& ui)
         servers[i]->setText(QStringLiteral("%1 %2").arg(word("tmiw_023")).arg(i + 1));
     ui.spinBox_TimeOffset->setSuffix(QLatin1Char(' ') + word("abbr_001"));
     ui.horizontalSlider_Auto_Tmi->setAccessibleName(word("tmiw_007"));
+    ui.spinBox_RFID->setSuffix(QLatin1Char(' ') + word("abbr_050"));
     ui.spinBox_RFID->setAccessibleName(word("tmiw_147"));
 }
 

@@ -5,12 +5,16 @@
 #include "link/requests.h"
 #include "telemetry/view/event_panel.h"
 #include "telemetry/view/stored_file.h"
+#include "telemetry/view/value_label.h"
 #include "typing/join_fields.h"
 #include "typing/typed_entry.h"
 #include "windows/fit_to_screen.h"
 
+#include <QDir>
 #include <QEvent>
+#include <QFileInfo>
 #include <QPainter>
+#include <QShortcut>
 #include <QStyle>
 
 #include <algorithm>
@@ -40,9 +44,11 @@ int lastPosition(const TelemetryPages& pages)
 
 VLK_Widget_Tmi_Page::VLK_Widget_Tmi_Page(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
-      ui_(setUpUi(this)), eventPanel_(new vlk::EventPanel(this)),
-      stack_(ui_->stackedWidget, eventPanel_, false)
+      ui_(setUpUi(this)), file_(new vlk::ValueLabel(QStringLiteral("label_File"))),
+      eventPanel_(new vlk::EventPanel(this)), stack_(ui_->stackedWidget, eventPanel_, false)
 {
+    file_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    ui_->verticalLayout_Event->addWidget(file_);
     ui_->verticalLayout_Event->addWidget(eventPanel_);
     ui_->pushButton_Go->hide();
     ui_->label_NoRecord->hide();
@@ -71,6 +77,14 @@ void VLK_Widget_Tmi_Page::connectControls()
         connect(button, &QPushButton::pressed, this, slot);
         // Enter in the spin box must not press whatever button is near.
         button->setAutoDefault(false);
+    }
+    for (const auto& [key, button, slot] :
+         {std::tuple(Qt::Key_PageUp, ui_->pushButton_Get_Prev, &Page::slot_Pressed_PushButton_Get_Prev),
+          {Qt::Key_PageDown, ui_->pushButton_Get_Next, &Page::slot_Pressed_PushButton_Get_Next}}) {
+        connect(new QShortcut(key, this), &QShortcut::activated, this, [this, button = button, slot = slot] {
+            if (button->isEnabled())
+                (this->*slot)();
+        });
     }
     joinFields(this);
     connect(ui_->horizontalSlider, &QSlider::valueChanged, this, &Page::slot_valueChanged_horizontalSlider);
@@ -103,6 +117,8 @@ void VLK_Widget_Tmi_Page::changeEvent(QEvent* event)
 void VLK_Widget_Tmi_Page::open(const QString& path)
 {
     stack_.showNothing();
+    file_->setValue(QFileInfo(path).fileName());
+    file_->setToolTip(QDir::toNativeSeparators(path));
     // A file may be large: two of them need not be in memory.
     pages_ = TelemetryPages();
     TelemetryContents contents = readStoredFile(path);

@@ -12,6 +12,7 @@
 
 namespace vlk {
 class EventPanel;
+class ValueLabel;
 } // namespace vlk
 
 namespace Ui {
@@ -56,6 +57,7 @@ private:
     void describePosition();
 
     std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_Page> ui_;
+    vlk::ValueLabel* file_;
     vlk::EventPanel* eventPanel_;
     vlk::RecordStack stack_;
     vlk::TelemetryPages pages_;

@@ -16,6 +16,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QShortcut>
 
 using namespace vlk;
 
@@ -88,6 +89,19 @@ void VLK_Widget_Tmi_View::connectControls()
     };
     for (const auto& [button, slot] : buttons)
         connect(button, &QPushButton::clicked, this, slot);
+    const std::pair<Qt::Key, void (View::*)()> keys[] = {{Qt::Key_PageUp, &View::slot_pressed_GetPrev},
+                                                         {Qt::Key_PageDown, &View::slot_pressed_GetNext}};
+    for (const auto& [key, slot] : keys) {
+        auto* shortcut = new QShortcut(key, this);
+        // Each step waits for its record.
+        shortcut->setAutoRepeat(false);
+        const QPushButton* button =
+            key == Qt::Key_PageUp ? ui_->pushButton_Get_Prev : ui_->pushButton_Get_Next;
+        connect(shortcut, &QShortcut::activated, this, [this, button, slot = slot] {
+            if (button->isEnabled())
+                (this->*slot)();
+        });
+    }
     // Enter in a field must not press whatever button is near.
     for (QPushButton* button : findChildren<QPushButton*>())
         button->setAutoDefault(false);

@@ -1,0 +1,12 @@
+#pragma once
+
+// Light or dark windows, whatever the system's are.
+
+namespace vlk {
+
+enum class Appearance { System = 0, Light = 1, Dark = 2 };
+
+// For all windows of the program, those of the plug-in too, that are open and that come.
+void apply(Appearance appearance);
+
+} // namespace vlk
