@@ -1305,6 +1305,7 @@
     <message id="tmiw_183"><translation>No record at this position: numbers are missing in the file. The record shown is the one opened before.</translation></message>
     <message id="tmiw_184"><translation>To the beginning of the file</translation></message>
     <message id="tmiw_185"><translation>To the end of the file</translation></message>
+    <message id="tmiw_186"><translation>Period saved in part: %1 of %2 records, until %3. File: %4</translation></message>
     <message id="tmizta_001"><translation>Test mode</translation></message>
     <message id="tmizta_002"><translation>Backup</translation></message>
     <message id="tmizta_003"><translation>Main</translation></message>
@@ -1724,6 +1725,7 @@
     <message id="wb_do_data_set"><translation>Open the configuration in the full window, uncheck fields on the tab &quot;Data set&quot; and write it again.</translation></message>
     <message id="wb_do_disk"><translation>Make room on the disk and try again.</translation></message>
     <message id="wb_do_file"><translation>Choose another file, or read the configuration from the tracker.</translation></message>
+    <message id="wb_do_part"><translation>Save the period again to have all of it.</translation></message>
     <message id="wb_do_save"><translation>Make room on the disk or choose another folder, and save again.</translation></message>
     <message id="wb_do_save_elsewhere"><translation>Choose another folder or another name, and save again.</translation></message>
     <message id="wb_do_telemetry_file"><translation>Choose another file, or save the period from the tracker again.</translation></message>
@@ -1848,6 +1850,7 @@
     <message id="wb_option_tour"><translation>Do the main job without a person and leave files and pictures in the folder.</translation></message>
     <message id="wb_option_unexpected"><translation>Unexpected argument: %1</translation></message>
     <message id="wb_option_version"><translation>Show the version.</translation></message>
+    <message id="wb_part_damaged"><translation>Damaged records in it: %1.</translation></message>
     <message id="wb_plugin_foreign"><translation>The library %1 is not a tracker plug-in.</translation></message>
     <message id="wb_plugin_missing"><translation>The tracker plug-in is missing: %1</translation></message>
     <message id="wb_plugin_unloadable"><translation>The tracker plug-in %1 cannot be opened: %2</translation></message>
@@ -1905,6 +1908,7 @@
     <message id="wb_saved"><translation>Saved: %1</translation></message>
     <message id="wb_saved_changes"><translation>Saved: %1. Settings that differ from what was read: %2</translation></message>
     <message id="wb_saved_damaged"><translation>Saved: %1. Damaged records in it: %2. Check the cable and save the period again.</translation></message>
+    <message id="wb_saved_part"><translation>Saved in part: %1. It holds %2 of %3 records, until %4.</translation></message>
     <message id="wb_settings_damaged"><translation>The settings were damaged and have been put aside; the default values hold.</translation></message>
     <message id="wb_silence"><translation>No answer from the tracker since %1. Check the cable and ask again.</translation></message>
     <message id="wb_tab_log"><translation>Message &amp;log</translation></message>

@@ -1305,6 +1305,7 @@
     <message id="tmiw_183"><translation>На этой позиции нет записи: в файле пропущены номера. Показана запись, открытая до этого.</translation></message>
     <message id="tmiw_184"><translation>В начало файла</translation></message>
     <message id="tmiw_185"><translation>В конец файла</translation></message>
+    <message id="tmiw_186"><translation>Период сохранён не целиком: записей %1 из %2, до %3. Файл: %4</translation></message>
     <message id="tmizta_001"><translation>Режим тестирования</translation></message>
     <message id="tmizta_002"><translation>Резервный</translation></message>
     <message id="tmizta_003"><translation>Основной</translation></message>
@@ -1724,6 +1725,7 @@
     <message id="wb_do_data_set"><translation>Откройте конфигурацию в полном окне, снимите лишние отметки на вкладке «Набор данных» и запишите её снова.</translation></message>
     <message id="wb_do_disk"><translation>Освободите место на диске и повторите.</translation></message>
     <message id="wb_do_file"><translation>Выберите другой файл или прочитайте конфигурацию из трекера.</translation></message>
+    <message id="wb_do_part"><translation>Чтобы получить весь период, сохраните его ещё раз.</translation></message>
     <message id="wb_do_save"><translation>Освободите место на диске или выберите другую папку и сохраните ещё раз.</translation></message>
     <message id="wb_do_save_elsewhere"><translation>Выберите другую папку или другое имя и сохраните ещё раз.</translation></message>
     <message id="wb_do_telemetry_file"><translation>Выберите другой файл или сохраните период из трекера ещё раз.</translation></message>
@@ -1848,6 +1850,7 @@
     <message id="wb_option_tour"><translation>Выполнить основную работу без человека и оставить файлы и снимки в папке.</translation></message>
     <message id="wb_option_unexpected"><translation>Лишний аргумент: %1</translation></message>
     <message id="wb_option_version"><translation>Показать версию.</translation></message>
+    <message id="wb_part_damaged"><translation>Повреждённых записей в нём: %1.</translation></message>
     <message id="wb_plugin_foreign"><translation>Библиотека %1 не является модулем трекера.</translation></message>
     <message id="wb_plugin_missing"><translation>Модуль трекера не найден: %1</translation></message>
     <message id="wb_plugin_unloadable"><translation>Модуль трекера %1 не открывается: %2</translation></message>
@@ -1905,6 +1908,7 @@
     <message id="wb_saved"><translation>Сохранено: %1</translation></message>
     <message id="wb_saved_changes"><translation>Сохранено: %1. Отличий от прочитанного: %2</translation></message>
     <message id="wb_saved_damaged"><translation>Сохранено: %1. Повреждённых записей в нём: %2. Проверьте кабель и сохраните период ещё раз.</translation></message>
+    <message id="wb_saved_part"><translation>Сохранено не целиком: %1. Записей в нём %2 из %3, до %4.</translation></message>
     <message id="wb_settings_damaged"><translation>Настройки программы были повреждены и отложены; действуют начальные значения.</translation></message>
     <message id="wb_silence"><translation>Ответа от трекера нет с %1. Проверьте кабель и запросите ещё раз.</translation></message>
     <message id="wb_tab_log"><translation>&amp;Журнал сообщений</translation></message>

@@ -165,6 +165,10 @@ private Q_SLOTS:
         QVERIFY(isIdle());
         QCOMPARE(saved().size(), 102);
         QCOMPARE(saved().mid(100), (Numbers{107, 307}));
+        // A save that is whole takes down what was said of the last one.
+        QVERIFY(!child<QLabel>("label_SavedInPart")->isHidden());
+        startSave(7, 8);
+        QVERIFY(text("label_SavedInPart").isEmpty());
     }
 
     void cancelBeforeTheName()

@@ -129,6 +129,39 @@ private Q_SLOTS:
         QTRY_COMPARE(bench.status(), QStringLiteral("Ready"));
     }
 
+    // How much there is of the period stands in the window of telemetry, in a box and in the status line.
+    void savedInPart_data() { DataTable<bool>({"unplugged"}).row("cancelled", false).row("unplugged", true); }
+    void savedInPart()
+    {
+        QFETCH(bool, unplugged);
+        Bench bench;
+        bench.prepare(Period);
+        QWidget* view = Bench::telemetry();
+        bench.tracker().setFaults({.delayMs = 20});
+        bench.take(Period);
+        QTRY_VERIFY(view->findChild<QProgressBar*>(QStringLiteral("progressBar_Time"))->value() > 2);
+        if (unplugged)
+            bench.tracker().setFaults({.unplug = true});
+        else
+            Bench::press(view, "pushButton_Save_Cancel");
+        static const QRegularExpression held(
+            QStringLiteral("\\d+ of [\\d,]+ records, until \\d\\d:\\d\\d:\\d\\d \\d\\d\\.\\d\\d\\.\\d{4} "));
+        QTRY_VERIFY2(bench.status().contains(held), qPrintable(bench.everything()));
+        QTRY_VERIFY2(bench.boxes.contains(bench.status()), qPrintable(bench.everything()));
+        const QString told = bench.status();
+        QVERIFY(told.startsWith(QStringLiteral("Saved in part: ") + bench.file()));
+        QVERIFY(!bench.everything().contains(QLatin1String("Saved: ")) && QFile::exists(bench.file()));
+        bench.tracker().attach();
+        bench.action("action_Telemetry")->trigger();
+        auto* line = view->findChild<QLabel*>(QStringLiteral("label_SavedInPart"));
+        QVERIFY(line->isVisible() && line->text().endsWith(bench.file()));
+        QCOMPARE(held.match(line->text()).captured(), held.match(told).captured());
+        bench.window.setLanguage(QStringLiteral("ru"));
+        QVERIFY(line->text().startsWith(QStringLiteral("Период сохранён не целиком")));
+        Bench::press(view, "label_SavedInPart_Close");
+        QVERIFY(!line->isVisible());
+    }
+
     void detachedByTheUser()
     {
         Bench bench;

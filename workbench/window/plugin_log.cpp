@@ -21,6 +21,7 @@ struct CategoryRow
 
 constexpr CategoryRow rows[] = {
     {"vlk.save", PluginLog::Topic::SaveFailed},
+    {"vlk.save.part", PluginLog::Topic::SavedInPart},
     {"vlk.settings.typing", PluginLog::Topic::Typing},
 };
 

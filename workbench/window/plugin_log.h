@@ -16,8 +16,9 @@ class PluginLog : public QObject
 
 public:
     enum class Topic {
-        SaveFailed, // "PATH: REASON"
-        Typing,     // "FIELD: what became of a number that was still being typed", for the user as it stands
+        SaveFailed,  // "PATH: REASON"
+        SavedInPart, // "PATH: N of M records, until TIME"
+        Typing,      // "FIELD: what became of a number that was still being typed", for the user as it stands
     };
 
     explicit PluginLog(QObject* parent = nullptr);

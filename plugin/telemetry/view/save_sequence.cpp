@@ -4,6 +4,7 @@
 #include "link/device.h"
 #include "link/requests.h"
 #include "telemetry/record/record_head.h"
+#include "telemetry/text/time_text.h"
 
 #include <QCoreApplication>
 #include <QFileDialog>
@@ -21,7 +22,7 @@ using namespace vlk;
 
 namespace {
 
-Q_LOGGING_CATEGORY(lcTelemetry, "vlk.telemetry")
+Q_LOGGING_CATEGORY(lcPart, "vlk.save.part")
 
 struct FileKind
 {
@@ -108,10 +109,6 @@ void SaveSequence::stop()
     }
     if (fileDialog_ != nullptr)
         fileDialog_->reject();
-    if (saveState_ == Collecting)
-        qCWarning(lcTelemetry).noquote().nospace()
-            << saveFileName_ << ": " << records_.size() << " of " << saveTotal_ + 1
-            << " records, the save was ended before the others came";
     end();
 }
 
@@ -185,6 +182,7 @@ void SaveSequence::takeNext(const QByteArray& record)
         requests::recordByNumber(static_cast<quint32>(*number + 1));
     } else {
         progress_.setStatus("tmiw_153");
+        saveState_ = Idle;
         end();
     }
 }
@@ -216,17 +214,30 @@ void SaveSequence::carryOutCancel()
 void SaveSequence::end()
 {
     // Writing asks the host for words; whatever else it sends then is not part of this save any more.
-    saveState_ = Idle;
+    const bool isPart = std::exchange(saveState_, Idle) == Collecting;
     arrived_.clear();
     const RecordBytes records = std::exchange(records_, {});
-    const bool isFailed =
-        std::exchange(fileChosen_, false) &&
-        !writePeriod(saveFileName_, kindOf(saveMode_).form, records, origin_, &requests::eventText);
+    const bool isChosen = std::exchange(fileChosen_, false);
+    const bool isSaved = isChosen && writePeriod(saveFileName_, kindOf(saveMode_).form, records, origin_,
+                                                 &requests::eventText);
     progress_.clear();
     // Stays until the user does something else.
-    if (isFailed)
+    if (isChosen && !isSaved)
         progress_.setStatus("tmiw_182");
+    if (isSaved && isPart)
+        tellPart(records);
     Q_EMIT runningChanged(false);
+}
+
+void SaveSequence::tellPart(const RecordBytes& records)
+{
+    const QByteArray& latest = records.end()[-2];
+    const quint32 time = timeOf(TmiPage_Zeta3(latest.constData(), latest.size()));
+    const PartOfPeriod part{saveFileName_, records.size(), std::size_t{saveTotal_} + 1,
+                            zonedTimeText(time, origin_.timeOffset)};
+    qCWarning(lcPart).noquote().nospace()
+        << part.path << ": " << part.records << " of " << part.all << " records, until " << part.until;
+    Q_EMIT savedInPart(part);
 }
 
 void SaveSequence::refuse(const char* key)

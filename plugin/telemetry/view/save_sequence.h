@@ -6,8 +6,8 @@
 // is; they are decoded when the file is written.
 //
 // A cancel takes effect with the next record. Whatever ends a save after its file name was given, a closed
-// window or a detached tracker too, the file is written with what was collected. That a file could not be
-// written stands in the progress area until the user goes on.
+// window or a detached tracker too, the file is written with what was collected, and it is told how much of
+// the period that is. That a file could not be written stands in the progress area until the user goes on.
 
 #include "telemetry/view/period_file.h"
 #include "telemetry/view/save_progress.h"
@@ -20,6 +20,15 @@ class QFileDialog;
 class QWidget;
 
 namespace vlk {
+
+// A file that holds the beginning of a period, and its last record.
+struct PartOfPeriod
+{
+    QString path;
+    std::size_t records;
+    std::size_t all;
+    QString until; // the time of the last record of the beginning, in the zone of the file
+};
 
 class SaveSequence : public QObject
 {
@@ -53,6 +62,7 @@ public:
 
 Q_SIGNALS:
     void runningChanged(bool running);
+    void savedInPart(const vlk::PartOfPeriod& part);
 
 private:
     enum State : std::uint8_t { Idle, FirstRecord, LastRecord, Collecting };
@@ -64,6 +74,7 @@ private:
     void askFileName();
     void carryOutCancel();
     void end();
+    void tellPart(const vlk::RecordBytes& records);
     void refuse(const char* key);
     void showFetched();
 
