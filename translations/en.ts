@@ -1306,6 +1306,7 @@
     <message id="tmiw_184"><translation>To the beginning of the file</translation></message>
     <message id="tmiw_185"><translation>To the end of the file</translation></message>
     <message id="tmiw_186"><translation>Period saved in part: %1 of %2 records, until %3. File: %4</translation></message>
+    <message id="tmiw_187"><translation>%1 cannot be written: %2. Choose another name or another folder.</translation></message>
     <message id="tmizta_001"><translation>Test mode</translation></message>
     <message id="tmizta_002"><translation>Backup</translation></message>
     <message id="tmizta_003"><translation>Main</translation></message>

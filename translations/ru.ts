@@ -1306,6 +1306,7 @@
     <message id="tmiw_184"><translation>В начало файла</translation></message>
     <message id="tmiw_185"><translation>В конец файла</translation></message>
     <message id="tmiw_186"><translation>Период сохранён не целиком: записей %1 из %2, до %3. Файл: %4</translation></message>
+    <message id="tmiw_187"><translation>Файл %1 записать нельзя: %2. Выберите другое имя или другую папку.</translation></message>
     <message id="tmizta_001"><translation>Режим тестирования</translation></message>
     <message id="tmizta_002"><translation>Резервный</translation></message>
     <message id="tmizta_003"><translation>Основной</translation></message>

@@ -1,12 +1,14 @@
 #include "telemetry/view/save_sequence.h"
 
 #include "base/clock.h"
+#include "base/replace_file.h"
 #include "link/device.h"
 #include "link/requests.h"
 #include "telemetry/record/record_head.h"
 #include "telemetry/text/time_text.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QLoggingCategory>
 #include <QMessageBox>
@@ -64,10 +66,12 @@ void SaveSequence::start(Mode mode, const QDateTime& first, const QDateTime& las
                          const TelemetryOrigin& origin, const QString& proposedName)
 {
     stop();
+    if (isRunning())
+        return;
     saving_ = true;
     saveCancelled_ = false;
     if (first >= last) {
-        refuse("tmiw_154");
+        refuse(word("tmiw_154"));
         return;
     }
     saveMode_ = mode;
@@ -102,6 +106,9 @@ void SaveSequence::take(const QByteArray& record)
 void SaveSequence::stop()
 {
     saving_ = false;
+    // The records have come; their file is the user's matter.
+    if (saveState_ == Writing)
+        return;
     if (!isRunning()) {
         // What became of the last one has been read.
         progress_.clear();
@@ -120,6 +127,7 @@ void SaveSequence::step(const QByteArray& record)
     }
     switch (saveState_) {
     case Idle:
+    case Writing:
         break;
     case FirstRecord:
         takeFirst(record);
@@ -147,10 +155,10 @@ void SaveSequence::takeLast(const QByteArray& record)
     const auto last = numberOf(records_.back());
     if (!first || !last || *last <= *first) {
         end();
-        refuse("tmiw_155");
+        refuse(word("tmiw_155"));
         return;
     }
-    askFileName();
+    fileChosen_ = chooseFile();
     if (!isRunning())
         return;
     saveTotal_ = static_cast<quint32>(*last - *first);
@@ -187,7 +195,7 @@ void SaveSequence::takeNext(const QByteArray& record)
     }
 }
 
-void SaveSequence::askFileName()
+bool SaveSequence::chooseFile()
 {
     const FileKind& kind = kindOf(saveMode_);
     const QString suffix = QLatin1String(kind.suffix);
@@ -197,10 +205,14 @@ void SaveSequence::askFileName()
     dialog.setDefaultSuffix(suffix);
     dialog.selectFile(proposedName_ + QLatin1Char('.') + suffix);
     fileDialog_ = &dialog;
-    if (dialog.exec() == QDialog::Accepted && isRunning()) {
+    while (isRunning() && dialog.exec() == QDialog::Accepted) {
         saveFileName_ = dialog.selectedFiles().value(0);
-        fileChosen_ = !saveFileName_.isEmpty();
+        const QString reason = whyNotReplaceable(saveFileName_);
+        if (reason.isEmpty())
+            return isRunning();
+        refuse(word("tmiw_187").arg(QDir::toNativeSeparators(saveFileName_), reason));
     }
+    return false;
 }
 
 void SaveSequence::carryOutCancel()
@@ -214,12 +226,12 @@ void SaveSequence::carryOutCancel()
 void SaveSequence::end()
 {
     // Writing asks the host for words; whatever else it sends then is not part of this save any more.
-    const bool isPart = std::exchange(saveState_, Idle) == Collecting;
+    const bool isPart = std::exchange(saveState_, Writing) == Collecting;
     arrived_.clear();
     const RecordBytes records = std::exchange(records_, {});
     const bool isChosen = std::exchange(fileChosen_, false);
-    const bool isSaved = isChosen && writePeriod(saveFileName_, kindOf(saveMode_).form, records, origin_,
-                                                 &requests::eventText);
+    const bool isSaved = isChosen && write(records);
+    saveState_ = Idle;
     progress_.clear();
     // Stays until the user does something else.
     if (isChosen && !isSaved)
@@ -227,6 +239,18 @@ void SaveSequence::end()
     if (isSaved && isPart)
         tellPart(records);
     Q_EMIT runningChanged(false);
+}
+
+// What came is worth a second name.
+bool SaveSequence::write(const RecordBytes& records)
+{
+    const auto writeOnce = [&] {
+        return writePeriod(saveFileName_, kindOf(saveMode_).form, records, origin_, &requests::eventText);
+    };
+    if (writeOnce())
+        return true;
+    progress_.setStatus("tmiw_182");
+    return chooseFile() && writeOnce();
 }
 
 void SaveSequence::tellPart(const RecordBytes& records)
@@ -240,9 +264,10 @@ void SaveSequence::tellPart(const RecordBytes& records)
     Q_EMIT savedInPart(part);
 }
 
-void SaveSequence::refuse(const char* key)
+void SaveSequence::refuse(const QString& text)
 {
-    QMessageBox box(QMessageBox::Warning, word("wrd_004"), word(key), QMessageBox::NoButton, window_);
+    QMessageBox box(QMessageBox::Warning, word("wrd_004"), text, QMessageBox::NoButton, window_);
+    box.setTextFormat(Qt::PlainText);
     box.addButton(word("wrd_003"), QMessageBox::AcceptRole);
     box.exec();
 }
