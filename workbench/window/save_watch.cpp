@@ -25,11 +25,11 @@ SaveWatch::SaveWatch(const PluginLog& log, const QWidget* mainWindow, SavesAtOnc
     : mainWindow_(mainWindow), savesAtOnce_(std::move(savesAtOnce))
 {
     connect(&log, &PluginLog::warned, this,
-            [this](PluginLog::Topic topic, const QString& /*category*/, const QString& text) {
+            [this](PluginLog::Topic topic, const QString& category, const QString& text) {
                 if (topic == PluginLog::Topic::SaveFailed)
                     noteFailure(text);
                 else if (topic == PluginLog::Topic::SavedInPart)
-                    notePart(text);
+                    notePart(text, PluginLog::parts(category, text));
             });
     QCoreApplication::instance()->installEventFilter(this);
     connect(&folder_, &QFileSystemWatcher::directoryChanged, this, [this] { look(false); });
@@ -54,17 +54,14 @@ void SaveWatch::noteFailure(const QString& message)
         this, [this, path, reason] { Q_EMIT failed(path, reason); }, Qt::QueuedConnection);
 }
 
-void SaveWatch::notePart(const QString& message)
+void SaveWatch::notePart(const QString& message, const QStringList& parts)
 {
-    static const QRegularExpression pattern(QStringLiteral("^(.*): (\\d+) of (\\d+) records, until (.*)$"));
-    const QRegularExpressionMatch found = pattern.match(message);
-    if (!found.hasMatch())
+    if (parts.size() < 4)
         return;
     forget(message);
-    const SavedPart part{found.captured(2).toLongLong(), found.captured(3).toLongLong(), found.captured(4)};
+    const SavedPart part{parts[1].toLongLong(), parts[2].toLongLong(), parts[3]};
     QMetaObject::invokeMethod(
-        this, [this, path = found.captured(1), part] { Q_EMIT savedInPart(path, part); },
-        Qt::QueuedConnection);
+        this, [this, path = parts[0], part] { Q_EMIT savedInPart(path, part); }, Qt::QueuedConnection);
 }
 
 bool SaveWatch::eventFilter(QObject* object, QEvent* event)

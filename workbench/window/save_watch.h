@@ -58,7 +58,7 @@ private:
 
     static Candidate present(const QString& path);
     void noteFailure(const QString& message);
-    void notePart(const QString& message);
+    void notePart(const QString& message, const QStringList& parts);
     void forget(const QString& message);
     void follow(const QFileDialog& dialog);
     void look(bool last);

@@ -4,6 +4,7 @@
 #include "window/data_folder.h"
 #include "window/device_panel.h"
 #include "window/faults_at_hand.h"
+#include "window/file_notices.h"
 #include "window/file_opener.h"
 #include "window/folders_dialog.h"
 #include "window/installed_files.h"
@@ -164,6 +165,7 @@ void WorkbenchWindow::connectNotices()
                                              commands_[Command::Faults]->shortcut(), this);
     saveNotices_ = std::make_unique<SaveNotices>(pluginLog_, session_, *linkNotices_, windows_, *recent_,
                                                  *status_, this);
+    fileNotices_ = std::make_unique<FileNotices>(pluginLog_, *status_, this);
     connect(linkNotices_.get(), &LinkNotices::troubleChanged, this, [this] {
         device_->setTrouble(linkNotices_->trouble());
         faults_->setTrouble(linkNotices_->trouble());
