@@ -1307,6 +1307,14 @@
     <message id="tmiw_185"><translation>To the end of the file</translation></message>
     <message id="tmiw_186"><translation>Period saved in part: %1 of %2 records, until %3. File: %4</translation></message>
     <message id="tmiw_187"><translation>%1 cannot be written: %2. Choose another name or another folder.</translation></message>
+    <message id="tmiw_188"><translation>Whole records: %1.</translation></message>
+    <message id="tmiw_189"><translation>Whole records: %1, the file should hold %2.</translation></message>
+    <message id="tmiw_190"><translation>The file does not begin as a TMI file does.</translation></message>
+    <message id="tmiw_191"><translation>Its header is not what was written: the checksum is wrong.</translation></message>
+    <message id="tmiw_192"><translation>Byte %1: no record there, reading went on at byte %2.</translation></message>
+    <message id="tmiw_193"><translation>Byte %1: the file ends within the record that begins there, so reading stopped.</translation></message>
+    <message id="tmiw_194"><translation>Its records are not what was written: the checksum is wrong.</translation></message>
+    <message id="tmiw_195"><translation>Further places: %1.</translation></message>
     <message id="tmizta_001"><translation>Test mode</translation></message>
     <message id="tmizta_002"><translation>Backup</translation></message>
     <message id="tmizta_003"><translation>Main</translation></message>

@@ -1307,6 +1307,14 @@
     <message id="tmiw_185"><translation>В конец файла</translation></message>
     <message id="tmiw_186"><translation>Период сохранён не целиком: записей %1 из %2, до %3. Файл: %4</translation></message>
     <message id="tmiw_187"><translation>Файл %1 записать нельзя: %2. Выберите другое имя или другую папку.</translation></message>
+    <message id="tmiw_188"><translation>Целых записей: %1.</translation></message>
+    <message id="tmiw_189"><translation>Целых записей: %1, в файле должно быть %2.</translation></message>
+    <message id="tmiw_190"><translation>Файл начинается не так, как файл TMI.</translation></message>
+    <message id="tmiw_191"><translation>Заголовок не такой, каким был записан: контрольная сумма неверна.</translation></message>
+    <message id="tmiw_192"><translation>Байт %1: записи там нет, чтение продолжено с байта %2.</translation></message>
+    <message id="tmiw_193"><translation>Байт %1: файл кончается внутри записи, которая там начинается, и чтение на этом закончено.</translation></message>
+    <message id="tmiw_194"><translation>Записи не такие, какими были записаны: контрольная сумма неверна.</translation></message>
+    <message id="tmiw_195"><translation>Других мест: %1.</translation></message>
     <message id="tmizta_001"><translation>Режим тестирования</translation></message>
     <message id="tmizta_002"><translation>Резервный</translation></message>
     <message id="tmizta_003"><translation>Основной</translation></message>

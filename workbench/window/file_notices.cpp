@@ -23,17 +23,18 @@ FileNotices::FileNotices(const PluginLog& log, StatusLine& status, QWidget* main
 {
     connect(&log, &PluginLog::warned, this,
             [this](PluginLog::Topic topic, const QString& category, const QString& text) {
-                if (topic == PluginLog::Topic::File)
-                    note(category, text);
+                if (topic == PluginLog::Topic::File || topic == PluginLog::Topic::Damage)
+                    note(topic, category, text);
             });
 }
 
-void FileNotices::note(const QString& category, const QString& message)
+void FileNotices::note(PluginLog::Topic topic, const QString& category, const QString& message)
 {
     // The plug-in is in the middle of its work here.
     if (noted_.isEmpty())
         QMetaObject::invokeMethod(this, &FileNotices::tell, Qt::QueuedConnection);
     noted_.append({category, message});
+    needsBox_ |= topic == PluginLog::Topic::File;
 }
 
 void FileNotices::tell()
@@ -47,7 +48,8 @@ void FileNotices::tell()
         return lines.join(QLatin1Char('\n'));
     };
     status_.tell(StatusLine::Command, sentence);
-    vlk::showWarning(sentence(), mainWindow_);
+    if (std::exchange(needsBox_, false))
+        vlk::showWarning(sentence(), mainWindow_);
 }
 
 } // namespace vlk

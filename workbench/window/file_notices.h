@@ -1,7 +1,7 @@
 #pragma once
 
-// Tells what the plug-in finds out about a file that was opened and has no window for, as it tells its log:
-// in the status line and in a box, all that comes of one command together.
+// Tells what the plug-in finds out about a file that was opened, as it tells its log: in the status line and,
+// where no window of the plug-in shows it, in a box, all that comes of one command together.
 
 #include "window/plugin_log.h"
 
@@ -22,12 +22,13 @@ public:
     FileNotices(const PluginLog& log, StatusLine& status, QWidget* mainWindow);
 
 private:
-    void note(const QString& category, const QString& message);
+    void note(PluginLog::Topic topic, const QString& category, const QString& message);
     void tell();
 
     StatusLine& status_;
     QWidget* mainWindow_;
     QVector<QPair<QString, QString>> noted_; // category and message
+    bool needsBox_ = false;
 };
 
 } // namespace vlk

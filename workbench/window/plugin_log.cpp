@@ -40,12 +40,12 @@ constexpr CategoryRow rows[] = {
     {"vlk.files.unreadable", PluginLog::Topic::File, "wb_told_unreadable", ofFile},
     {"vlk.files.missing", PluginLog::Topic::File, "wb_told_missing", ofFile},
     {"vlk.files.empty", PluginLog::Topic::File, "wb_told_empty", ofFile},
-    {"vlk.files.form", PluginLog::Topic::File, "wb_told_form", atByte},
-    {"vlk.files.header", PluginLog::Topic::File, "wb_told_header", atByte},
-    {"vlk.files.damage", PluginLog::Topic::File, "wb_told_damage", atByte},
-    {"vlk.files.cut", PluginLog::Topic::File, "wb_told_cut", atByte},
-    {"vlk.files.checksum", PluginLog::Topic::File, "wb_told_checksum", atByte},
-    {"vlk.files.count", PluginLog::Topic::File, "wb_told_count", atByte},
+    {"vlk.files.form", PluginLog::Topic::Damage, "wb_told_form", atByte},
+    {"vlk.files.header", PluginLog::Topic::Damage, "wb_told_header", atByte},
+    {"vlk.files.damage", PluginLog::Topic::Damage, "wb_told_damage", atByte},
+    {"vlk.files.cut", PluginLog::Topic::Damage, "wb_told_cut", atByte},
+    {"vlk.files.checksum", PluginLog::Topic::Damage, "wb_told_checksum", atByte},
+    {"vlk.files.count", PluginLog::Topic::Damage, "wb_told_count", atByte},
 };
 
 const CategoryRow* rowOf(const char* category)

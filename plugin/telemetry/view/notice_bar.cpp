@@ -75,6 +75,10 @@ NoticeBar::NoticeBar(const QString& name, QWidget* parent)
 
 void NoticeBar::tell(const std::function<QString()>& sentence)
 {
+    if (!sentence) {
+        clear();
+        return;
+    }
     sentence_ = sentence;
     retranslate();
     show();

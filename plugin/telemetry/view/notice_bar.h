@@ -21,7 +21,7 @@ public:
     // The label is called `name`, the button "toolButton_Close" behind it.
     explicit NoticeBar(const QString& name, QWidget* parent);
 
-    // The sentence is asked for again when the language changes.
+    // The sentence is asked for again when the language changes; null closes the bar.
     void tell(const std::function<QString()>& sentence);
     void clear();
     void retranslate();

@@ -3,7 +3,9 @@
 #include "ui_VLK_Designer_Widget_Tmi_Page.h"
 
 #include "link/requests.h"
+#include "telemetry/view/damage_text.h"
 #include "telemetry/view/event_panel.h"
+#include "telemetry/view/notice_bar.h"
 #include "telemetry/view/stored_file.h"
 #include "typing/join_fields.h"
 #include "typing/typed_entry.h"
@@ -41,8 +43,10 @@ int lastPosition(const TelemetryPages& pages)
 VLK_Widget_Tmi_Page::VLK_Widget_Tmi_Page(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
       ui_(setUpUi(this)), eventPanel_(new vlk::EventPanel(this)),
+      damageNotice_(new vlk::NoticeBar(QStringLiteral("label_Damage"), this)),
       stack_(ui_->stackedWidget, eventPanel_, false)
 {
+    ui_->verticalLayout->insertWidget(0, damageNotice_);
     ui_->verticalLayout_Event->addWidget(eventPanel_);
     ui_->pushButton_Go->hide();
     ui_->label_NoRecord->hide();
@@ -106,6 +110,7 @@ void VLK_Widget_Tmi_Page::open(const QString& path)
     // A file may be large: two of them need not be in memory.
     pages_ = TelemetryPages();
     TelemetryContents contents = readStoredFile(path);
+    damageNotice_->tell(damageText(contents));
     pages_ = std::move(contents.pages);
     ui_->label_NoRecord->hide();
     if (pages_.empty())
@@ -172,6 +177,7 @@ void VLK_Widget_Tmi_Page::retranslate()
         button->setToolTip(tr(key));
         button->setAccessibleName(tr(key));
     }
+    damageNotice_->retranslate();
     stack_.retranslate();
     if (pages_.empty())
         return;
