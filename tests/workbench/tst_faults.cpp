@@ -67,6 +67,17 @@ struct Bench : OpenedWorkbench
         found->click();
     }
 
+    // What stands on the window of telemetry, at its upper inner edge.
+    static QString notice()
+    {
+        const auto* bar = telemetry()->findChild<QFrame*>(QStringLiteral("frame_WindowNotice"));
+        if (!bar || !bar->isVisible())
+            return {};
+        const QPoint corner = telemetry()->geometry().topLeft() + QPoint(6, 6);
+        return bar->pos() == corner ? bar->findChild<QLabel*>(QStringLiteral("label_WindowNotice"))->text()
+                                    : QStringLiteral("out of place");
+    }
+
     // What comes before the step, with a sound tracker.
     void prepare(Step step)
     {
@@ -248,6 +259,10 @@ private Q_SLOTS:
                    (answered || said != QLatin1String("Ready"));
         };
         QTRY_VERIFY2_WITH_TIMEOUT(isSaid(), qPrintable(bench.everything()), 20'000);
+        if (open && step == Live) {
+            Bench::telemetry()->move(30, 20);
+            QCOMPARE(Bench::notice(), said == QLatin1String("Ready") ? QString() : bench.status());
+        }
         QCOMPARE(step == Read || step == Write ? Bench::configuration() != nullptr
                                                : Bench::telemetry() != nullptr,
                  open);

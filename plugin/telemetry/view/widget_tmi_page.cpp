@@ -5,9 +5,9 @@
 #include "link/requests.h"
 #include "telemetry/view/damage_text.h"
 #include "telemetry/view/event_panel.h"
-#include "telemetry/view/notice_bar.h"
 #include "telemetry/view/stored_file.h"
 #include "typing/join_fields.h"
+#include "typing/notice_bar.h"
 #include "typing/typed_entry.h"
 #include "windows/fit_to_screen.h"
 

@@ -1,9 +1,9 @@
 #include "telemetry/view/widget_tmi_table.h"
 
 #include "telemetry/view/damage_text.h"
-#include "telemetry/view/notice_bar.h"
 #include "telemetry/view/records_model.h"
 #include "telemetry/view/stored_file.h"
+#include "typing/notice_bar.h"
 #include "windows/fit_to_screen.h"
 
 #include <QFileInfo>

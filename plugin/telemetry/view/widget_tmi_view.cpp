@@ -8,9 +8,9 @@
 #include "link/requests.h"
 #include "telemetry/text/key_text.h"
 #include "telemetry/view/event_panel.h"
-#include "telemetry/view/notice_bar.h"
 #include "telemetry/view/tmi_view_texts.h"
 #include "typing/join_fields.h"
+#include "typing/notice_bar.h"
 #include "typing/typed_entry.h"
 #include "windows/fit_to_screen.h"
 

@@ -26,6 +26,10 @@ public:
     void clear();
     void retranslate();
 
+Q_SIGNALS:
+    // The user closed it.
+    void dismissed();
+
 protected:
     void changeEvent(QEvent* event) override;
 

@@ -1,4 +1,4 @@
-#include "telemetry/view/notice_bar.h"
+#include "typing/notice_bar.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -68,7 +68,10 @@ NoticeBar::NoticeBar(const QString& name, QWidget* parent)
     row->addWidget(text_, 1);
     row->addWidget(close_);
     setAutoFillBackground(true);
-    connect(close_, &QToolButton::clicked, this, &NoticeBar::clear);
+    connect(close_, &QToolButton::clicked, this, [this] {
+        clear();
+        Q_EMIT dismissed();
+    });
     setColors();
     hide();
 }
