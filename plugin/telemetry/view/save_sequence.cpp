@@ -190,7 +190,7 @@ void SaveSequence::takeNext(const QByteArray& record)
         requests::recordByNumber(static_cast<quint32>(*number + 1));
     } else {
         progress_.setStatus("tmiw_153");
-        saveState_ = Idle;
+        saveState_ = Idle; // none is missing
         end();
     }
 }
