@@ -45,9 +45,14 @@ void TextEntry::doubt(std::function<QString(const QString&)> complaint)
     mark();
 }
 
+QString TextEntry::complaint() const
+{
+    return complaint_ ? complaint_(line_->text()) : QString();
+}
+
 void TextEntry::mark()
 {
-    const QString complaint = complaint_ ? complaint_(line_->text()) : QString();
+    const QString complaint = this->complaint();
     if (isDoubted_ || !complaint.isEmpty())
         markField(line_, MarkReason::value, Mark::invalid, complaint);
     isDoubted_ = !complaint.isEmpty();

@@ -29,6 +29,9 @@ public:
     // What was left out of what was typed since this was asked the last time; empty if nothing was.
     QString takeNews() { return std::exchange(news_, {}); }
 
+    // What is doubtful about the text that stands there; empty if nothing is.
+    QString complaint() const;
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -112,15 +112,29 @@ bool overwrite(const QString& path, const WriteContent& write, QString* reason)
     return false;
 }
 
-bool replace(const QString& path, const WriteContent& write, QString* reason)
+// Where links lead to.
+QFileInfo targetOf(const QString& path)
 {
     QFileInfo target(path);
     if (target.isSymLink())
         target.setFile(target.exists() ? target.canonicalFilePath() : target.symLinkTarget());
-    if (target.exists() && !(target.isFile() && target.isWritable())) {
-        *reason = target.isFile() ? qt_error_string(EACCES) : QStringLiteral("not a file");
+    return target;
+}
+
+// Empty if nothing stands there, too.
+QString whyClosed(const QFileInfo& target)
+{
+    if (!target.exists() || (target.isFile() && target.isWritable()))
+        return {};
+    return target.isFile() ? qt_error_string(EACCES) : QStringLiteral("not a file");
+}
+
+bool replace(const QString& path, const WriteContent& write, QString* reason)
+{
+    const QFileInfo target = targetOf(path);
+    *reason = whyClosed(target);
+    if (!reason->isEmpty())
         return false;
-    }
     const Outcome outcome = putBeside(target, write, reason);
     if (outcome == Outcome::NoRoomBeside && target.exists())
         return overwrite(target.filePath(), write, reason);
@@ -136,6 +150,27 @@ bool replaceFile(const QString& path, const WriteContent& write)
         return true;
     qCWarning(lcSave).noquote().nospace() << path << ": " << reason;
     return false;
+}
+
+QString whyNotReplaceable(const QString& path)
+{
+    const QFileInfo target = targetOf(path);
+    QString reason = whyClosed(target);
+    if (!reason.isEmpty())
+        return reason;
+    // Where no file may be made beside it, one that is there is written over in place.
+    QFile old(target.filePath());
+    if (target.exists() && old.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
+        return {};
+    const QString beside = nameBeside(target);
+    removeStrays(beside);
+    QFile probe(beside);
+    if (!probe.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        return probe.errorString();
+    // A full disk takes the name of a file, but no byte of it.
+    writeAt(probe, 0, QByteArray(1, '\n'), &reason);
+    probe.remove();
+    return reason;
 }
 
 bool replaceFile(const QString& path, const QByteArray& content)

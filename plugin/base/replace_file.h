@@ -25,4 +25,8 @@ using WriteContent = std::function<bool(QIODevice& device)>;
 bool replaceFile(const QString& path, const WriteContent& write);
 bool replaceFile(const QString& path, const QByteArray& content);
 
+// Why a file at `path` could not be written now, as the system words it; empty if it could. Tries it out, and
+// leaves everything as it was.
+QString whyNotReplaceable(const QString& path);
+
 } // namespace vlk

@@ -40,6 +40,7 @@ VLK_Form_Fuel_Sensor::VLK_Form_Fuel_Sensor(int kind, const QString& name, const 
     QPalette alarm = ui_->label_Falling->palette();
     alarm.setColor(QPalette::WindowText, Qt::red);
     ui_->label_Falling->setPalette(alarm);
+    setParamEditable(false);
     setFocusProxy(ui_->lineEdit_Volume);
     ui_->lineEdit_Name->installEventFilter(this);
     addClipboardActions();
@@ -134,6 +135,12 @@ void VLK_Form_Fuel_Sensor::setKindAndName(int kind, const QString& name)
 void VLK_Form_Fuel_Sensor::setParamEditable(bool editable)
 {
     ui_->lineEdit_Param->setReadOnly(!editable);
+    // What the sensor says looks like no field to type into.
+    ui_->lineEdit_Param->setFrame(editable);
+    QPalette colours = ui_->lineEdit_Volume->palette();
+    if (!editable)
+        colours.setColor(QPalette::Base, colours.color(QPalette::Window));
+    ui_->lineEdit_Param->setPalette(colours);
 }
 
 void VLK_Form_Fuel_Sensor::setLiveValue(int raw)

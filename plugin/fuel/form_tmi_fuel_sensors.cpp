@@ -13,8 +13,8 @@
 #include "fuel/table/fuel_file.h"
 #include "link/device.h"
 #include "link/requests.h"
+#include "typing/notice_bar.h"
 #include "windows/fit_to_screen.h"
-#include "windows/notice_bar.h"
 #include "windows/vlk_tabwidget.h"
 #include "xml/xml_document.h"
 

@@ -249,12 +249,14 @@ private Q_SLOTS:
         const QByteArray wholeBinary = binary;
         binary[128 + 42 + 2] = 9; // the second record's type
         const QStringList all{"11111", "11112", "11113"};
-        DataTable<QByteArray, QStringList>({"content", "numbers"})
-            .row("cut in a number", xml.left(xml.indexOf("<NumPage>11112") + 11), {"11111", "0"})
-            .row("binary", wholeBinary, all)
-            .row("a type changed", binary, {"11111", "11113"});
+        DataTable<QByteArray, QStringList, QString>({"content", "numbers", "bar"})
+            .row("cut in a number", xml.left(xml.indexOf("<NumPage>11112") + 11), {"11111", "0"},
+                 "tmiw_189 tmiw_193")
+            .row("binary", wholeBinary, all, "")
+            .row("a type changed", binary, {"11111", "11113"}, "tmiw_189 tmiw_192 tmiw_194");
     }
-    // Whole records before and behind the damage are shown, and what can be walked to is what there is.
+    // Whole records before and behind the damage are shown, and what can be walked to is what there is. A bar
+    // in both windows tells of it.
     void damagedFiles()
     {
         QFETCH(QByteArray, content);
@@ -262,6 +264,8 @@ private Q_SLOTS:
         const QString path = writeFile(folder_.filePath("telemetry.xml"), content);
         for (const Kind kind : {Browser, Table})
             show(path, kind);
+        QTEST(text("label_Damage"), "bar");
+        QTEST(table_->window()->findChild<QLabel*>("label_Damage")->text(), "bar");
         QCOMPARE(column(0), numbers);
         QStringList seen;
         for (int position = 0; position <= child<QSlider>("horizontalSlider")->maximum(); ++position) {
@@ -276,6 +280,7 @@ private Q_SLOTS:
         QCOMPARE(table_->model()->rowCount(), numbers.size());
         showPages(numbered({8, 9}));
         QCOMPARE(number() + walkable(), QString("8--xx"));
+        QVERIFY(text("label_Damage").isEmpty());
     }
 
     void language()

@@ -316,6 +316,36 @@ private Q_SLOTS:
         QTEST(numbers(readBack(readTelemetryXml, file).pages), "found");
     }
 
+    // Where a page has no end, and where the pages are fewer than the file says.
+    void damagedXml_data()
+    {
+        const QByteArray count = "<INTERVAL count=\"2\"/>\n";
+        const QByteArray page = "<Page type=\"176\">\n<NumPage>1</NumPage>\n";
+        const QByteArray whole = page + "</Page>\n";
+        const int first = count.size();
+        DataTable<QByteArray, QVector<int>, int, bool>({"file", "damages", "pages", "lastIsCut"})
+            .row("whole", count + whole + whole + "</TMI>", {}, 2, false)
+            .row("cut", count + whole + page, {FileDamage::CutShort, first + whole.size(), page.size()}, 2,
+                 true)
+            .row("cut between pages", count + whole, {FileDamage::RecordCount, 0, 0}, 1, false)
+            .row("no end, then a page", count + page + whole + whole,
+                 {FileDamage::Records, first + page.size(), whole.size()}, 2, false)
+            .row("no end, then the file's", page + whole, {FileDamage::Records, page.size(), whole.size()}, 1,
+                 false)
+            .row("no count", whole, {}, 1, false);
+    }
+    void damagedXml()
+    {
+        QFETCH(QByteArray, file);
+        const TelemetryContents contents = readBack(readTelemetryXml, file);
+        QVector<int> damages;
+        for (const FileDamage& damage : contents.damages)
+            damages << damage.kind << int(damage.offset) << int(damage.bytes);
+        QTEST(damages, "damages");
+        QTEST(int(contents.pages.size()), "pages");
+        QTEST(contents.lastIsCut, "lastIsCut");
+    }
+
     void values_data()
     {
         DataTable<QByteArray, QByteArray, quint64>({"element", "text", "raw"})

@@ -165,6 +165,10 @@ private Q_SLOTS:
         QVERIFY(isIdle());
         QCOMPARE(saved().size(), 102);
         QCOMPARE(saved().mid(100), (Numbers{107, 307}));
+        // A save that is whole takes down what was said of the last one.
+        QVERIFY(!child<QLabel>("label_SavedInPart")->isHidden());
+        startSave(7, 8);
+        QVERIFY(text("label_SavedInPart").isEmpty());
     }
 
     void cancelBeforeTheName()
@@ -239,15 +243,21 @@ private Q_SLOTS:
 
     void failedSave_data()
     {
-        DataTable<QString, bool>({"file", "fullDisk"})
-            .row("full disk", "period.xml", true)
-            .row("folder gone", "gone/period.xml", false);
+        // What is given when the name is asked for once more, nothing for Cancel; how often it failed.
+        DataTable<QString, bool, QString, int>({"file", "fullDisk", "second", "failures"})
+            .row("full disk", "period.xml", true, "period.xml", 2)
+            .row("full disk, given up", "period.xml", true, "", 1)
+            .row("folder gone", "gone/period.xml", false, "", 1)
+            .row("folder gone, another", "gone/period.xml", false, "period2.xml", 1);
     }
     // What was there before stays; the log of failed saves has the reason, the window says that it failed.
+    // The records are kept for another name.
     void failedSave()
     {
         QFETCH(QString, file);
         QFETCH(bool, fullDisk);
+        QFETCH(QString, second);
+        QFile::remove(folder.filePath("period2.xml"));
         QDir(folder.path()).mkdir("gone");
         file_ = folder.filePath(file);
         if (fullDisk)
@@ -264,16 +274,53 @@ private Q_SLOTS:
         const QtMessageHandler usual = qInstallMessageHandler(tell);
         {
             const FullDisk disk(fullDisk ? 20 : RLIM_INFINITY);
+            giveName(second.isEmpty() ? QString() : folder.filePath(second));
             send(Message::RecordByNumber, 8);
         }
         qInstallMessageHandler(usual);
-        QCOMPARE(told.size(), 1);
+        QTEST(int(told.size()), "failures");
         QVERIFY2(told[0].startsWith(file_ + ": ") && told[0].size() > file_.size() + 5, qPrintable(told[0]));
         QCOMPARE(readFile(file_), before);
         QVERIFY(QDir(folder.path()).entryList({"period.*.*"}).isEmpty());
-        QCOMPARE(text("label_ProgressBar_Time"), QString("tmiw_182"));
+        const bool isSaved = second == "period2.xml";
+        QCOMPARE(text("label_ProgressBar_Time"), isSaved ? QString() : QString("tmiw_182"));
+        file_ = folder.filePath(second);
+        if (isSaved)
+            QCOMPARE(saved(), (Numbers{7, 8, 9}));
         press("pushButton_Get_Current");
         QVERIFY(isIdle());
+    }
+
+    // A name that cannot be written is refused when it is given, and the dialog stays for another.
+    void unwritableName_data()
+    {
+        DataTable<QString, rlim_t>({"name", "room"})
+            .row("folder missing", "link.xml", RLIM_INFINITY)
+            .row("no room at all", "new.xml", 0);
+    }
+    void unwritableName()
+    {
+        QFETCH(QString, name);
+        QFETCH(rlim_t, room);
+        QFile::link(folder.filePath("missing/period.xml"), folder.filePath("link.xml"));
+        const QString good = std::exchange(file_, folder.filePath(name));
+        std::optional<FullDisk> disk(room);
+        QString said;
+        nowGiven_ = [&] {
+            ScriptedHost::whenModal([&](QWidget* modal) {
+                auto* box = qobject_cast<QMessageBox*>(modal);
+                said = box->text();
+                disk.reset();
+                giveName(good);
+                box->buttons().constFirst()->click();
+            });
+        };
+        startSave(7, 8);
+        QCOMPARE(said, QString("tmiw_187"));
+        QCOMPARE(std::exchange(file_, good), folder.filePath(name));
+        QCOMPARE(saved(), (Numbers{7, 8}));
+        QVERIFY(!QFile::exists(folder.filePath(name)));
+        QCOMPARE(QDir(folder.path()).entryList({".*"}, QDir::Files | QDir::Hidden), QStringList());
     }
 
 private:
@@ -285,18 +332,27 @@ private:
     void startSave(qint64 first, qint64 last, const char* button = "pushButton_SaveToFile")
     {
         press(button);
-        ScriptedHost::whenModal([this](QWidget* modal) {
+        giveName(file_);
+        send(Message::RecordOfPeriod, first, 13);
+        send(Message::RecordByTime, last, 13);
+    }
+    // To the next file dialog; an empty one cancels it.
+    void giveName(const QString& file)
+    {
+        ScriptedHost::whenModal([this, file](QWidget* modal) {
             auto* dialog = qobject_cast<QFileDialog*>(modal);
+            if (file.isEmpty())
+                return dialog->reject();
             filter_ = dialog->nameFilters().join(';');
             proposed_ = QFileInfo(dialog->selectedFiles().value(0)).fileName();
-            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(file_);
-            if (QFile::exists(file_)) // the dialog asks whether to replace it
+            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(file);
+            if (QFile::exists(file)) // the dialog asks whether to replace it
                 ScriptedHost::whenModal(
                     [](QWidget* box) { qobject_cast<QMessageBox*>(box)->button(QMessageBox::Yes)->click(); });
             QMetaObject::invokeMethod(dialog, "accept");
+            if (nowGiven_)
+                std::exchange(nowGiven_, {})();
         });
-        send(Message::RecordOfPeriod, first, 13);
-        send(Message::RecordByTime, last, 13);
     }
     // The numbers in an XML file.
     Numbers saved() const
@@ -321,6 +377,7 @@ private:
     }
 
     QString file_;
+    std::function<void()> nowGiven_; // what comes after the next name
     QString filter_;
     QString proposed_;
     Numbers asked_;

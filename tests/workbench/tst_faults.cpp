@@ -67,6 +67,17 @@ struct Bench : OpenedWorkbench
         found->click();
     }
 
+    // What stands on the window of telemetry, at its upper inner edge.
+    static QString notice()
+    {
+        const auto* bar = telemetry()->findChild<QFrame*>(QStringLiteral("frame_WindowNotice"));
+        if (!bar || !bar->isVisible())
+            return {};
+        const QPoint corner = telemetry()->geometry().topLeft() + QPoint(6, 6);
+        return bar->pos() == corner ? bar->findChild<QLabel*>(QStringLiteral("label_WindowNotice"))->text()
+                                    : QStringLiteral("out of place");
+    }
+
     // What comes before the step, with a sound tracker.
     void prepare(Step step)
     {
@@ -127,6 +138,39 @@ private Q_SLOTS:
         bench.tracker().setProtocol(tracker::Protocol::Protocol3);
         bench.take(Live);
         QTRY_COMPARE(bench.status(), QStringLiteral("Ready"));
+    }
+
+    // How much there is of the period stands in the window of telemetry, in a box and in the status line.
+    void savedInPart_data() { DataTable<bool>({"unplugged"}).row("cancelled", false).row("unplugged", true); }
+    void savedInPart()
+    {
+        QFETCH(bool, unplugged);
+        Bench bench;
+        bench.prepare(Period);
+        QWidget* view = Bench::telemetry();
+        bench.tracker().setFaults({.delayMs = 20});
+        bench.take(Period);
+        QTRY_VERIFY(view->findChild<QProgressBar*>(QStringLiteral("progressBar_Time"))->value() > 2);
+        if (unplugged)
+            bench.tracker().setFaults({.unplug = true});
+        else
+            Bench::press(view, "pushButton_Save_Cancel");
+        static const QRegularExpression held(
+            QStringLiteral("\\d+ of [\\d,]+ records, until \\d\\d:\\d\\d:\\d\\d \\d\\d\\.\\d\\d\\.\\d{4} "));
+        QTRY_VERIFY2(bench.status().contains(held), qPrintable(bench.everything()));
+        QTRY_VERIFY2(bench.boxes.contains(bench.status()), qPrintable(bench.everything()));
+        const QString told = bench.status();
+        QVERIFY(told.startsWith(QStringLiteral("Saved in part: ") + bench.file()));
+        QVERIFY(!bench.everything().contains(QLatin1String("Saved: ")) && QFile::exists(bench.file()));
+        bench.tracker().attach();
+        bench.action("action_Telemetry")->trigger();
+        auto* line = view->findChild<QLabel*>(QStringLiteral("label_SavedInPart"));
+        QVERIFY(line->isVisible() && line->text().endsWith(bench.file()));
+        QCOMPARE(held.match(line->text()).captured(), held.match(told).captured());
+        bench.window.setLanguage(QStringLiteral("ru"));
+        QVERIFY(line->text().startsWith(QStringLiteral("Период сохранён не целиком")));
+        Bench::press(view, "label_SavedInPart_Close");
+        QVERIFY(!line->isVisible());
     }
 
     void detachedByTheUser()
@@ -215,6 +259,10 @@ private Q_SLOTS:
                    (answered || said != QLatin1String("Ready"));
         };
         QTRY_VERIFY2_WITH_TIMEOUT(isSaid(), qPrintable(bench.everything()), 20'000);
+        if (open && step == Live) {
+            Bench::telemetry()->move(30, 20);
+            QCOMPARE(Bench::notice(), said == QLatin1String("Ready") ? QString() : bench.status());
+        }
         QCOMPARE(step == Read || step == Write ? Bench::configuration() != nullptr
                                                : Bench::telemetry() != nullptr,
                  open);

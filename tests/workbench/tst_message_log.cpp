@@ -6,10 +6,13 @@
 #include "window/message_log_model.h"
 #include "window/message_log_view.h"
 #include "window/message_text.h"
+#include "window/plugin_log.h"
 
 #include <QAbstractItemModelTester>
+#include <QDirIterator>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QToolButton>
 #include <QtTest>
 
@@ -35,6 +38,42 @@ class MessageLogTest : public QObject
 private Q_SLOTS:
     // A line edit's clear button fades; the animation deletes itself at its end.
     void cleanupTestCase() { QTest::qWait(500); }
+
+    // Whatever the plug-in warns of in its log is said to the user in either language.
+    void everyWarningHasWords()
+    {
+        static const QRegularExpression category(
+            QStringLiteral("Q_LOGGING_CATEGORY\\(\\w+, \"([^\"]+)\"\\)|QLoggingCategory\\(\"([^\"]+)\"\\)"));
+        QStringList categories;
+        QDirIterator files(QStringLiteral(VLK_SOURCE "/plugin"), {"*.cpp", "*.h"}, QDir::Files,
+                           QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            const QString source = QString::fromUtf8(readFile(files.next()));
+            QVERIFY2(!source.contains(QRegularExpression(QStringLiteral("\\bqWarning\\b"))),
+                     qPrintable(files.filePath()));
+            for (auto found = category.globalMatch(source); found.hasNext();) {
+                const QRegularExpressionMatch match = found.next();
+                categories << match.captured(1) + match.captured(2);
+            }
+        }
+        QVERIFY(categories.size() > 10);
+        for (const QString& language : vlk::Languages::codes()) {
+            vlk::Languages languages;
+            QVERIFY(languages.set(language));
+            for (const QString& name : std::as_const(categories)) {
+                const QString words =
+                    vlk::PluginLog::words(name, QStringLiteral("/a%2: b at byte 1, 20 bytes"));
+                QVERIFY2(!words.isEmpty() && !words.startsWith(QLatin1String("wb_")), qPrintable(name));
+            }
+        }
+        vlk::Languages english;
+        QVERIFY(english.set(QStringLiteral("en")));
+        QCOMPARE(vlk::PluginLog::words(QStringLiteral("vlk.files.damage"),
+                                       QStringLiteral("/a%2: no record at byte 1234567, 20 bytes")),
+                 QStringLiteral("/a%2 holds no record at byte 1,234,567: 20\u00a0B were passed over."));
+        QCOMPARE(vlk::PluginLog::words(QStringLiteral("other"), {}), QString());
+    }
+
     void describesParameters_data()
     {
         static const std::int32_t integer = -5;

@@ -292,6 +292,26 @@ private Q_SLOTS:
         QVERIFY(bench.settings.recentFiles().isEmpty());
     }
 
+    // What the plug-in finds out about a file comes together, in the language in use.
+    void tellsOfFiles()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        const QLoggingCategory missing("vlk.files.missing");
+        const QString text = messageDuring([&] {
+            for (int i = 0; i < 7; ++i)
+                qCWarning(missing, "/a/%d.tmi: there is no such file", i);
+        });
+        QVERIFY2(text.startsWith(QLatin1String("There is nothing to show: there is no file /a/0.tmi.\n")),
+                 qPrintable(text));
+        QVERIFY(text.endsWith(QLatin1String("Further findings: 2. The message log has all of them.")));
+        QCOMPARE(bench.text("label_Status"), QString(text).replace(QLatin1Char('\n'), QLatin1Char(' ')));
+        bench.window.setLanguage(QStringLiteral("ru"));
+        QCoreApplication::processEvents();
+        QVERIFY(
+            bench.text("label_Status").startsWith(QStringLiteral("Показать нечего: файла /a/0.tmi нет.")));
+    }
+
     // The plug-in's file dialog and what comes of it, at once or later.
     void tellsOfASavedFile_data()
     {
@@ -369,7 +389,7 @@ private Q_SLOTS:
         };
         write();
         const QString told =
-            QStringLiteral("as they were typed:\nSpeed: 200 is beyond 1 to 180, 180 was written"
+            QStringLiteral("look at again:\nSpeed: 200 is beyond 1 to 180, 180 was written"
                            "\nAngle: 2,5 is no whole number, 2 was written");
         QTRY_VERIFY2(bench.text("label_Report").contains(told), qPrintable(bench.text("label_Report")));
         QVERIFY(bench.text("label_Status").contains(QLatin1String("Angle: 2,5")));

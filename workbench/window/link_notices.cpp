@@ -30,6 +30,10 @@ LinkNotices::LinkNotices(HostSession& session, PluginWindows& windows, MessageLo
         watch_.forget();
         setTrouble({});
     });
+    connect(&windows_, &PluginWindows::opened, this, [this](QWidget* window) {
+        if (std::exchange(isOpeningTelemetry_, false))
+            telemetry_ = window;
+    });
     // With the window goes what it was waiting for and what it showed.
     connect(&windows_, &PluginWindows::closed, this, [this] {
         watch_.forget();
@@ -37,11 +41,19 @@ LinkNotices::LinkNotices(HostSession& session, PluginWindows& windows, MessageLo
     });
 }
 
+LinkNotices::~LinkNotices()
+{
+    // The windows of the plug-in live on.
+    delete notice_;
+}
+
 void LinkNotices::look(vlk::Direction direction, quint32 id, const void* p1)
 {
     const auto answer = static_cast<vlk::Message>(id);
     if (answer == vlk::Message::RequestRecordOfPeriod)
         damagedOfPeriod_ = 0;
+    if (direction == vlk::Direction::ToPlugin && answer == vlk::Message::OpenTelemetry)
+        noteTelemetry();
     if (direction == vlk::Direction::ToPlugin && answer == vlk::Message::TrackerDetached)
         tellDetached(std::exchange(isPulled_, false));
     if (direction != vlk::Direction::ToPlugin || !vlk::RecordCheck::carriesRecord(answer) || p1 == nullptr)
@@ -72,7 +84,31 @@ void LinkNotices::setTrouble(const std::function<QString()>& trouble)
         status_.tell(StatusLine::Link, trouble_);
     else
         status_.clear(StatusLine::Link);
+    showOnWindow();
     Q_EMIT troubleChanged();
+}
+
+// On the window that is looked at: a configuration's is in front of all others.
+void LinkNotices::showOnWindow()
+{
+    QWidget* owner = windows_.modal() ? windows_.modal() : telemetry_.data();
+    if (notice_ && (!trouble_ || notice_->parentWidget() != owner))
+        notice_->say({});
+    if (!trouble_ || !owner || !owner->isVisible())
+        return;
+    if (!notice_ || notice_->parentWidget() != owner) {
+        delete notice_;
+        notice_ = new WindowNotice(owner);
+    }
+    notice_->say(trouble_);
+}
+
+// The plug-in opens its window within the message, unless it is open.
+void LinkNotices::noteTelemetry()
+{
+    isOpeningTelemetry_ = true;
+    QMetaObject::invokeMethod(
+        this, [this] { isOpeningTelemetry_ = false; }, Qt::QueuedConnection);
 }
 
 void LinkNotices::tellDetached(bool isPulled)

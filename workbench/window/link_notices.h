@@ -1,12 +1,16 @@
 #pragma once
 
 // What is wrong between the tracker and the plug-in, said where a user sees it: a record that cannot be right
-// is marked in the log, silence and damage stand in the status line until a right answer comes, and a cable
-// that went while the tracker answered is told in a box that says which windows went with it. A tracker that
-// the user detaches is told in the status line where its telemetry window goes.
+// is marked in the log, silence and damage stand in the status line and in a notice on the window that asked
+// until a right answer comes, and a cable that went while the tracker answered is told in a box that says
+// which windows went with it. A tracker that the user detaches is told in the status line where its telemetry
+// window goes.
 
 #include "check/record_check.h"
 #include "window/answer_watch.h"
+#include "window/window_notice.h"
+
+#include <QPointer>
 
 namespace vlk {
 
@@ -22,6 +26,7 @@ class LinkNotices : public QObject
 public:
     LinkNotices(HostSession& session, PluginWindows& windows, MessageLogModel& log, StatusLine& status,
                 QWidget* mainWindow);
+    ~LinkNotices() override;
 
     const AnswerWatch& answers() const { return watch_; }
     // What stands in the status line about the tracker's answers; empty while all is well.
@@ -36,6 +41,8 @@ private:
     void look(vlk::Direction direction, quint32 id, const void* p1);
     void tellDetached(bool isPulled);
     void setTrouble(const std::function<QString()>& trouble);
+    void showOnWindow();
+    void noteTelemetry();
 
     HostSession& session_;
     PluginWindows& windows_;
@@ -45,6 +52,9 @@ private:
     vlk::RecordCheck check_;
     AnswerWatch watch_;
     std::function<QString()> trouble_;
+    QPointer<QWidget> telemetry_; // the window that shows the attached tracker's
+    bool isOpeningTelemetry_ = false;
+    QPointer<WindowNotice> notice_;
     bool isPulled_ = false;              // the cable went while the tracker answered
     std::optional<int> damagedOfPeriod_; // none while no period is asked for
 };

@@ -1,12 +1,13 @@
 #pragma once
 
 // Listens to the log of the whole process for what the plug-in tells there and the user has to know. Which
-// categories are heard, and what their warnings are about, is one row each; everything is passed on to
-// whoever listened before.
+// categories are heard, what their warnings are about and how they are said to the user is one row each;
+// everything is passed on to whoever listened before.
 //
 // One instance at a time.
 
 #include <QObject>
+#include <QStringList>
 
 namespace vlk {
 
@@ -16,12 +17,20 @@ class PluginLog : public QObject
 
 public:
     enum class Topic {
-        SaveFailed, // "PATH: REASON"
-        Typing,     // "FIELD: what became of a number that was still being typed", for the user as it stands
+        SaveFailed,  // "PATH: REASON"
+        SavedInPart, // "PATH: N of M records, until TIME"
+        Typing,      // "FIELD: what became of a number that was still being typed", for the user as it stands
+        File,        // something of a file that was opened, to be told in words()
+        Damage,      // the same; the window that shows the file tells it too
     };
 
     explicit PluginLog(QObject* parent = nullptr);
     ~PluginLog() override;
+
+    // What a message is made of, in the order of its form; empty where it has another form, or no row.
+    static QStringList parts(const QString& category, const QString& message);
+    // What a warning says, in the language in use; empty where its category has no row.
+    static QString words(const QString& category, const QString& message);
 
 Q_SIGNALS:
     // Comes on the thread of this object. Where the warning was logged there it comes within that call, so

@@ -54,6 +54,7 @@ SaveNotices::SaveNotices(const PluginLog& log, HostSession& session, LinkNotices
     // The configuration's window is modal and saves when its dialog has closed; a period is saved when all of
     // its records have come.
     connect(&watch_, &SaveWatch::saved, this, &SaveNotices::tellSaved);
+    connect(&watch_, &SaveWatch::savedInPart, this, &SaveNotices::tellSavedInPart);
     connect(&watch_, &SaveWatch::failed, this, &SaveNotices::tellFailed);
     connect(&session_.link(), &PluginLink::passed, this, [this](vlk::Direction, quint32 id) {
         if (id == quint32(vlk::Message::OpenConfiguration))
@@ -74,6 +75,19 @@ void SaveNotices::tellSaved(const QString& path)
     } else {
         status_.tell(StatusLine::Command, [shown] { return vlk::text("wb_saved").arg(shown); });
     }
+}
+
+void SaveNotices::tellSavedInPart(const QString& path, const vlk::SavedPart& part)
+{
+    if (vlk::storedFileKind(path) != StoredFile::Unknown)
+        recent_.add(path, TelemetryWindow::Browser);
+    warn([shown = QDir::toNativeSeparators(path), part, damaged = link_.endPeriod()] {
+        const QString held = vlk::text("wb_saved_part")
+                                 .arg(shown, vlk::number(part.records), vlk::number(part.all), part.until);
+        return vlk::sentences(
+            {held, damaged > 0 ? vlk::text("wb_part_damaged").arg(vlk::number(damaged)) : QString(),
+             vlk::text("wb_do_part")});
+    });
 }
 
 void SaveNotices::tellConfiguration(const QString& path)

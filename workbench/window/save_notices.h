@@ -1,8 +1,9 @@
 #pragma once
 
 // Tells what became of the files that the plug-in saves: a saved one stands in the status line and among the
-// recent files, one that was not saved is told with its reason, one that holds damaged records with their
-// number, and one that holds other numbers than were typed with those.
+// recent files, one that was not saved is told with its reason, one that holds a part of its period with how
+// much that is, one that holds damaged records with their number, and one that holds other numbers than were
+// typed with those.
 
 #include "window/save_watch.h"
 #include "window/typing_notices.h"
@@ -28,6 +29,7 @@ public:
 
 private:
     void tellSaved(const QString& path);
+    void tellSavedInPart(const QString& path, const vlk::SavedPart& part);
     void tellConfiguration(const QString& path);
     void warn(const std::function<QString()>& sentence);
     void tellFailed(const QString& path, const QString& reason);

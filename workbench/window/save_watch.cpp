@@ -25,26 +25,43 @@ SaveWatch::SaveWatch(const PluginLog& log, const QWidget* mainWindow, SavesAtOnc
     : mainWindow_(mainWindow), savesAtOnce_(std::move(savesAtOnce))
 {
     connect(&log, &PluginLog::warned, this,
-            [this](PluginLog::Topic topic, const QString& /*category*/, const QString& text) {
+            [this](PluginLog::Topic topic, const QString& category, const QString& text) {
                 if (topic == PluginLog::Topic::SaveFailed)
                     noteFailure(text);
+                else if (topic == PluginLog::Topic::SavedInPart)
+                    notePart(text, PluginLog::parts(category, text));
             });
     QCoreApplication::instance()->installEventFilter(this);
     connect(&folder_, &QFileSystemWatcher::directoryChanged, this, [this] { look(false); });
 }
 
-void SaveWatch::noteFailure(const QString& message)
+// What is known of the file that a message names must not be looked for on the disk.
+void SaveWatch::forget(const QString& message)
 {
-    // What is known of a file from here on must not be looked for on the disk.
     const auto isNamed = [&message](const Candidate& file) { return message.startsWith(file.path); };
     if (std::any_of(awaited_.cbegin(), awaited_.cend(), isNamed))
         awaited_.clear();
-    // The plug-in is in the middle of its save here.
+}
+
+// The plug-in is in the middle of its save in this and the next.
+void SaveWatch::noteFailure(const QString& message)
+{
+    forget(message);
     const int colon = message.indexOf(QLatin1String(": "));
     const QString path = message.left(colon);
     const QString reason = colon < 0 ? QString() : message.mid(colon + 2);
     QMetaObject::invokeMethod(
         this, [this, path, reason] { Q_EMIT failed(path, reason); }, Qt::QueuedConnection);
+}
+
+void SaveWatch::notePart(const QString& message, const QStringList& parts)
+{
+    if (parts.size() < 4)
+        return;
+    forget(message);
+    const SavedPart part{parts[1].toLongLong(), parts[2].toLongLong(), parts[3]};
+    QMetaObject::invokeMethod(
+        this, [this, path = parts[0], part] { Q_EMIT savedInPart(path, part); }, Qt::QueuedConnection);
 }
 
 bool SaveWatch::eventFilter(QObject* object, QEvent* event)

@@ -1,8 +1,8 @@
 #pragma once
 
 // Knows what becomes of the files that the plug-in saves, about which no message tells. A file that the user
-// named in a dialog is looked for on the disk, where it has to appear or to change; a save that failed is
-// told by the plug-in in its log.
+// named in a dialog is looked for on the disk, where it has to appear or to change; a save that failed, and
+// one that got a part of its period only, are told by the plug-in in its log.
 
 #include "window/plugin_log.h"
 
@@ -18,6 +18,14 @@ class QWidget;
 
 namespace vlk {
 
+// How much of a period a file holds.
+struct SavedPart
+{
+    qint64 records;
+    qint64 all;
+    QString until; // as the plug-in writes times
+};
+
 class SaveWatch : public QObject
 {
     Q_OBJECT
@@ -31,7 +39,9 @@ public:
 
 Q_SIGNALS:
     void saved(const QString& path);
-    // The path, and the reason where one is known. Comes from the event loop, when the plug-in is done.
+    // These two come from the event loop, when the plug-in is done.
+    void savedInPart(const QString& path, const vlk::SavedPart& part);
+    // The path, and the reason where one is known.
     void failed(const QString& path, const QString& reason);
 
 protected:
@@ -48,6 +58,8 @@ private:
 
     static Candidate present(const QString& path);
     void noteFailure(const QString& message);
+    void notePart(const QString& message, const QStringList& parts);
+    void forget(const QString& message);
     void follow(const QFileDialog& dialog);
     void look(bool last);
 

@@ -4,6 +4,7 @@
 #include "window/data_folder.h"
 #include "window/device_panel.h"
 #include "window/faults_at_hand.h"
+#include "window/file_notices.h"
 #include "window/file_opener.h"
 #include "window/folders_dialog.h"
 #include "window/installed_files.h"
@@ -166,6 +167,7 @@ void WorkbenchWindow::connectNotices()
     liveReadings_ = std::make_unique<LiveReadings>(session_, log_);
     saveNotices_ = std::make_unique<SaveNotices>(pluginLog_, session_, *linkNotices_, windows_, *recent_,
                                                  *status_, this);
+    fileNotices_ = std::make_unique<FileNotices>(pluginLog_, *status_, this);
     connect(linkNotices_.get(), &LinkNotices::troubleChanged, this, [this] {
         device_->setTrouble(linkNotices_->trouble());
         faults_->setTrouble(linkNotices_->trouble());

@@ -26,6 +26,7 @@ class CommandBars;
 class DataFolder;
 class DevicePanel;
 class FaultsAtHand;
+class FileNotices;
 class FileOpener;
 class Languages;
 class LinkNotices;
@@ -109,6 +110,7 @@ private:
     std::unique_ptr<LinkNotices> linkNotices_;
     std::unique_ptr<LiveReadings> liveReadings_;
     std::unique_ptr<SaveNotices> saveNotices_;
+    std::unique_ptr<FileNotices> fileNotices_;
 };
 
 } // namespace vlk

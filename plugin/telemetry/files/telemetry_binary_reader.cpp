@@ -152,6 +152,7 @@ private:
         const qint64 behindHeader = binary::kHeaderBytes;
         if (crc_ != recordsCrc_)
             report(FileDamage::RecordsChecksum, behindHeader, input_.position() - behindHeader);
+        contents_.announced = count_;
         if (static_cast<quint16>(contents_.pages.size()) != count_)
             report(FileDamage::RecordCount, binary::kCountAt, sizeof(count_));
     }

@@ -14,7 +14,17 @@ namespace vlk {
 
 namespace {
 
-Q_LOGGING_CATEGORY(lcFiles, "vlk.files")
+Q_LOGGING_CATEGORY(lcUnreadable, "vlk.files.unreadable")
+
+// By FileDamage::Kind.
+const QLoggingCategory& damageLog(FileDamage::Kind kind)
+{
+    static const QLoggingCategory logs[] = {
+        QLoggingCategory("vlk.files.form"),     QLoggingCategory("vlk.files.header"),
+        QLoggingCategory("vlk.files.damage"),   QLoggingCategory("vlk.files.cut"),
+        QLoggingCategory("vlk.files.checksum"), QLoggingCategory("vlk.files.count")};
+    return logs[kind];
+}
 
 bool write(QIODevice& device, TelemetryForm form, const TelemetryPages& pages, const TelemetryOrigin& origin,
            const EventText& eventText)
@@ -52,12 +62,12 @@ std::optional<TelemetryContents> readTelemetryFile(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        qCWarning(lcFiles).noquote() << "cannot read" << path << ':' << file.errorString();
+        qCWarning(lcUnreadable).noquote().nospace() << path << ": " << file.errorString();
         return std::nullopt;
     }
     TelemetryContents contents = isBinary(file) ? readTelemetryBinary(file) : readTelemetryXml(file);
     for (const FileDamage& damage : contents.damages)
-        qCWarning(lcFiles).noquote() << path << ':' << text(damage);
+        qCWarning(damageLog(damage.kind)).noquote().nospace() << path << ": " << text(damage);
     return contents;
 }
 

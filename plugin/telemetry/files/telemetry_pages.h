@@ -6,6 +6,7 @@
 #include "telemetry/record/tmi_page_zeta3.h"
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace vlk {
@@ -23,7 +24,7 @@ struct TelemetryOrigin
     TelemetryTitles titles;
 };
 
-// Something that a binary file does not hold as it was written.
+// Something that a file does not hold as it was written. The checksums are those of the binary form.
 struct FileDamage
 {
     enum Kind : std::uint8_t {
@@ -40,13 +41,15 @@ struct FileDamage
     qint64 bytes;  // how many
 };
 
-// What a file gives. The titles come from the XML form only, the damages, in the order in which they were
-// found, from the binary form only.
+// What a file gives. The titles come from the XML form only; the damages are in the order in which they were
+// found.
 struct TelemetryContents
 {
     TelemetryTitles titles;
     TelemetryPages pages;
     std::vector<FileDamage> damages;
+    std::optional<quint32> announced; // how many records the file says that it holds
+    bool lastIsCut = false;           // of the last page there is only the beginning
 };
 
 // The time of a record, or of an extra packet's head.

@@ -16,17 +16,37 @@ namespace {
 constexpr std::size_t kLongestLine = 1023;
 constexpr std::size_t kLongestLineOfPage = 255;
 
-// Calls visit with each line up to the one that ends the page, which is taken too.
-template <class Visit>
-void forEachLineOfPage(InputBuffer& input, Visit visit)
+// The lines of one page, up to the one that ends it, which is taken too.
+class PageLines
 {
-    for (std::string_view line = input.line(kLongestLineOfPage); !line.empty();
-         line = input.line(kLongestLineOfPage)) {
-        if (endsPage(line))
-            return;
-        visit(line);
+public:
+    enum End { Closing, NextPage, OfFile };
+
+    explicit PageLines(InputBuffer& input) : input_(input) {}
+
+    template <class Visit>
+    void forEach(Visit visit)
+    {
+        for (std::string_view line = input_.line(kLongestLineOfPage); !line.empty();
+             line = input_.line(kLongestLineOfPage)) {
+            if (endsPage(line)) {
+                end_ = startsPage(line) ? NextPage : Closing;
+                endAt_ = input_.position() - std::ssize(line);
+                return;
+            }
+            visit(line);
+        }
+        end_ = OfFile;
     }
-}
+
+    End end() const { return end_; }
+    qint64 endAt() const { return endAt_; } // where the line begins that ended the page
+
+private:
+    InputBuffer& input_;
+    End end_ = OfFile;
+    qint64 endAt_ = 0;
+};
 
 template <class Number>
 Number numberAttribute(std::string_view line, std::string_view name)
@@ -39,12 +59,12 @@ QString textOf(std::string_view bytes)
     return fromWindows1251(QByteArray(bytes.data(), static_cast<int>(bytes.size())));
 }
 
-std::unique_ptr<TmiPage_Zeta3> readRecord(InputBuffer& input, std::string_view pageLine, qint32 utcOffset)
+std::unique_ptr<TmiPage_Zeta3> readRecord(PageLines& lines, std::string_view pageLine, qint32 utcOffset)
 {
     const auto ver = numberAttribute<quint8>(pageLine, "ver");
     const FieldMask mask = FieldMask::fromText(attribute(pageLine, "format"));
     TmiPage_Zeta3::ValueBlock block{};
-    forEachLineOfPage(input, [&](std::string_view line) {
+    lines.forEach([&](std::string_view line) {
         const ElementLine parts = elementLine(line);
         if (const auto index = findElement(parts.tag))
             readValue(*index, parts.value, block.data() + kElements[*index].offset);
@@ -109,8 +129,7 @@ void readEntry(std::string_view line, PacketParts& packet)
     packet.areaSize += head.size() + size;
 }
 
-std::unique_ptr<TmiPage_Zeta3> readExtraPacket(InputBuffer& input, std::string_view pageLine,
-                                               qint32 utcOffset)
+std::unique_ptr<TmiPage_Zeta3> readExtraPacket(PageLines& lines, std::string_view pageLine, qint32 utcOffset)
 {
     PacketParts packet;
     packet.head[0] = kExtraPacket;
@@ -118,7 +137,7 @@ std::unique_ptr<TmiPage_Zeta3> readExtraPacket(InputBuffer& input, std::string_v
     packet.head[ExtraPacket::kStSizeAt] = numberAttribute<quint8>(pageLine, "stSize");
     packet.head[ExtraPacket::kHVerAt] = numberAttribute<quint8>(pageLine, "hVer");
     packet.head[ExtraPacket::kHSizeAt] = numberAttribute<quint8>(pageLine, "hSize");
-    forEachLineOfPage(input, [&](std::string_view line) {
+    lines.forEach([&](std::string_view line) {
         if (line.find("<Dynamic") != line.npos)
             readEntry(line, packet);
         else
@@ -131,20 +150,22 @@ std::unique_ptr<TmiPage_Zeta3> readExtraPacket(InputBuffer& input, std::string_v
     return std::make_unique<TmiPage_Zeta3>(ExtraPacket::fromParts(packet.head, area), utcOffset);
 }
 
-void readPage(InputBuffer& input, std::string_view line, qint32 utcOffset, TelemetryPages& pages)
+PageLines readPage(InputBuffer& input, std::string_view line, qint32 utcOffset, TelemetryPages& pages)
 {
     // The line lives in the buffer only until the next one is read.
     const std::string pageLine(line);
+    PageLines lines(input);
     switch (numberAttribute<quint8>(pageLine, "type")) {
     case kTelemetryRecord:
-        pages.push_back(readRecord(input, pageLine, utcOffset));
+        pages.push_back(readRecord(lines, pageLine, utcOffset));
         break;
     case kExtraPacket:
-        pages.push_back(readExtraPacket(input, pageLine, utcOffset));
+        pages.push_back(readExtraPacket(lines, pageLine, utcOffset));
         break;
     default:
-        forEachLineOfPage(input, [](std::string_view) {});
+        lines.forEach([](std::string_view) {});
     }
+    return lines;
 }
 
 void readTypes(std::string_view line, const TypeLine& row, TelemetryTitles& titles)
@@ -179,12 +200,38 @@ TelemetryContents readTelemetryXml(QIODevice& device)
     InputBuffer input(device);
     TelemetryContents contents;
     const qint32 utcOffset = localOffset();
+    // A page without a closing line takes the first line of the next one with it, whose lines then start
+    // nothing.
+    std::optional<qint64> lostAt;
+    const auto report = [&contents](FileDamage::Kind kind, qint64 from, qint64 to) {
+        contents.damages.push_back({kind, from, to - from});
+    };
+    qint64 countAt = 0;
     for (std::string_view line = input.line(kLongestLine); !line.empty(); line = input.line(kLongestLine)) {
-        if (startsPage(line))
-            readPage(input, line, utcOffset, contents.pages);
-        else
+        const qint64 lineAt = input.position() - std::ssize(line);
+        if (!startsPage(line)) {
+            if (line.find("<INTERVAL") != line.npos) {
+                contents.announced = numberAttribute<quint32>(line, "count");
+                countAt = lineAt;
+            }
             readTitle(line, contents.titles);
+            continue;
+        }
+        if (lostAt)
+            report(FileDamage::Records, *std::exchange(lostAt, {}), lineAt);
+        const std::size_t before = contents.pages.size();
+        const PageLines page = readPage(input, line, utcOffset, contents.pages);
+        if (page.end() == PageLines::NextPage) {
+            lostAt = page.endAt();
+        } else if (page.end() == PageLines::OfFile) {
+            contents.lastIsCut = contents.pages.size() > before;
+            report(FileDamage::CutShort, lineAt, input.position());
+        }
     }
+    if (lostAt)
+        report(FileDamage::Records, *lostAt, input.position());
+    if (contents.announced.value_or(contents.pages.size()) != contents.pages.size())
+        report(FileDamage::RecordCount, countAt, countAt);
     return contents;
 }
 

@@ -1,11 +1,14 @@
 #include "telemetry/view/save_sequence.h"
 
 #include "base/clock.h"
+#include "base/replace_file.h"
 #include "link/device.h"
 #include "link/requests.h"
 #include "telemetry/record/record_head.h"
+#include "telemetry/text/time_text.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QLoggingCategory>
 #include <QMessageBox>
@@ -21,7 +24,7 @@ using namespace vlk;
 
 namespace {
 
-Q_LOGGING_CATEGORY(lcTelemetry, "vlk.telemetry")
+Q_LOGGING_CATEGORY(lcPart, "vlk.save.part")
 
 struct FileKind
 {
@@ -63,10 +66,12 @@ void SaveSequence::start(Mode mode, const QDateTime& first, const QDateTime& las
                          const TelemetryOrigin& origin, const QString& proposedName)
 {
     stop();
+    if (isRunning())
+        return;
     saving_ = true;
     saveCancelled_ = false;
     if (first >= last) {
-        refuse("tmiw_154");
+        refuse(word("tmiw_154"));
         return;
     }
     saveMode_ = mode;
@@ -101,6 +106,9 @@ void SaveSequence::take(const QByteArray& record)
 void SaveSequence::stop()
 {
     saving_ = false;
+    // The records have come; their file is the user's matter.
+    if (saveState_ == Writing)
+        return;
     if (!isRunning()) {
         // What became of the last one has been read.
         progress_.clear();
@@ -108,10 +116,6 @@ void SaveSequence::stop()
     }
     if (fileDialog_ != nullptr)
         fileDialog_->reject();
-    if (saveState_ == Collecting)
-        qCWarning(lcTelemetry).noquote().nospace()
-            << saveFileName_ << ": " << records_.size() << " of " << saveTotal_ + 1
-            << " records, the save was ended before the others came";
     end();
 }
 
@@ -123,6 +127,7 @@ void SaveSequence::step(const QByteArray& record)
     }
     switch (saveState_) {
     case Idle:
+    case Writing:
         break;
     case FirstRecord:
         takeFirst(record);
@@ -150,10 +155,10 @@ void SaveSequence::takeLast(const QByteArray& record)
     const auto last = numberOf(records_.back());
     if (!first || !last || *last <= *first) {
         end();
-        refuse("tmiw_155");
+        refuse(word("tmiw_155"));
         return;
     }
-    askFileName();
+    fileChosen_ = chooseFile();
     if (!isRunning())
         return;
     saveTotal_ = static_cast<quint32>(*last - *first);
@@ -185,11 +190,12 @@ void SaveSequence::takeNext(const QByteArray& record)
         requests::recordByNumber(static_cast<quint32>(*number + 1));
     } else {
         progress_.setStatus("tmiw_153");
+        saveState_ = Idle; // none is missing
         end();
     }
 }
 
-void SaveSequence::askFileName()
+bool SaveSequence::chooseFile()
 {
     const FileKind& kind = kindOf(saveMode_);
     const QString suffix = QLatin1String(kind.suffix);
@@ -199,10 +205,14 @@ void SaveSequence::askFileName()
     dialog.setDefaultSuffix(suffix);
     dialog.selectFile(proposedName_ + QLatin1Char('.') + suffix);
     fileDialog_ = &dialog;
-    if (dialog.exec() == QDialog::Accepted && isRunning()) {
+    while (isRunning() && dialog.exec() == QDialog::Accepted) {
         saveFileName_ = dialog.selectedFiles().value(0);
-        fileChosen_ = !saveFileName_.isEmpty();
+        const QString reason = whyNotReplaceable(saveFileName_);
+        if (reason.isEmpty())
+            return isRunning();
+        refuse(word("tmiw_187").arg(QDir::toNativeSeparators(saveFileName_), reason));
     }
+    return false;
 }
 
 void SaveSequence::carryOutCancel()
@@ -216,22 +226,48 @@ void SaveSequence::carryOutCancel()
 void SaveSequence::end()
 {
     // Writing asks the host for words; whatever else it sends then is not part of this save any more.
-    saveState_ = Idle;
+    const bool isPart = std::exchange(saveState_, Writing) == Collecting;
     arrived_.clear();
     const RecordBytes records = std::exchange(records_, {});
-    const bool isFailed =
-        std::exchange(fileChosen_, false) &&
-        !writePeriod(saveFileName_, kindOf(saveMode_).form, records, origin_, &requests::eventText);
+    const bool isChosen = std::exchange(fileChosen_, false);
+    const bool isSaved = isChosen && write(records);
+    saveState_ = Idle;
     progress_.clear();
     // Stays until the user does something else.
-    if (isFailed)
+    if (isChosen && !isSaved)
         progress_.setStatus("tmiw_182");
+    if (isSaved && isPart)
+        tellPart(records);
     Q_EMIT runningChanged(false);
 }
 
-void SaveSequence::refuse(const char* key)
+// What came is worth a second name.
+bool SaveSequence::write(const RecordBytes& records)
 {
-    QMessageBox box(QMessageBox::Warning, word("wrd_004"), word(key), QMessageBox::NoButton, window_);
+    const auto writeOnce = [&] {
+        return writePeriod(saveFileName_, kindOf(saveMode_).form, records, origin_, &requests::eventText);
+    };
+    if (writeOnce())
+        return true;
+    progress_.setStatus("tmiw_182");
+    return chooseFile() && writeOnce();
+}
+
+void SaveSequence::tellPart(const RecordBytes& records)
+{
+    const QByteArray& latest = records.end()[-2];
+    const quint32 time = timeOf(TmiPage_Zeta3(latest.constData(), latest.size()));
+    const PartOfPeriod part{saveFileName_, records.size(), std::size_t{saveTotal_} + 1,
+                            zonedTimeText(time, origin_.timeOffset)};
+    qCWarning(lcPart).noquote().nospace()
+        << part.path << ": " << part.records << " of " << part.all << " records, until " << part.until;
+    Q_EMIT savedInPart(part);
+}
+
+void SaveSequence::refuse(const QString& text)
+{
+    QMessageBox box(QMessageBox::Warning, word("wrd_004"), text, QMessageBox::NoButton, window_);
+    box.setTextFormat(Qt::PlainText);
     box.addButton(word("wrd_003"), QMessageBox::AcceptRole);
     box.exec();
 }

@@ -6,8 +6,10 @@
 // is; they are decoded when the file is written.
 //
 // A cancel takes effect with the next record. Whatever ends a save after its file name was given, a closed
-// window or a detached tracker too, the file is written with what was collected. That a file could not be
-// written stands in the progress area until the user goes on.
+// window or a detached tracker too, the file is written with what was collected, and it is told how much of
+// the period that is. A name that no file can be written under is refused as soon as it is given. When the
+// writing fails all the same, the name is asked for once more; that the file could not be written then stands
+// in the progress area until the user goes on.
 
 #include "telemetry/view/period_file.h"
 #include "telemetry/view/save_progress.h"
@@ -20,6 +22,15 @@ class QFileDialog;
 class QWidget;
 
 namespace vlk {
+
+// A file that holds the beginning of a period, and its last record.
+struct PartOfPeriod
+{
+    QString path;
+    std::size_t records;
+    std::size_t all;
+    QString until; // the time of the last record of the beginning, in the zone of the file
+};
 
 class SaveSequence : public QObject
 {
@@ -53,18 +64,21 @@ public:
 
 Q_SIGNALS:
     void runningChanged(bool running);
+    void savedInPart(const vlk::PartOfPeriod& part);
 
 private:
-    enum State : std::uint8_t { Idle, FirstRecord, LastRecord, Collecting };
+    enum State : std::uint8_t { Idle, FirstRecord, LastRecord, Collecting, Writing };
 
     void step(const QByteArray& record);
     void takeFirst(const QByteArray& record);
     void takeLast(const QByteArray& record);
     void takeNext(const QByteArray& record);
-    void askFileName();
+    bool chooseFile();
+    bool write(const vlk::RecordBytes& records);
     void carryOutCancel();
     void end();
-    void refuse(const char* key);
+    void tellPart(const vlk::RecordBytes& records);
+    void refuse(const QString& text);
     void showFetched();
 
     QWidget* window_;

@@ -9,7 +9,8 @@ namespace vlk {
 
 namespace {
 
-Q_LOGGING_CATEGORY(lcTelemetry, "vlk.telemetry")
+Q_LOGGING_CATEGORY(lcMissing, "vlk.files.missing")
+Q_LOGGING_CATEGORY(lcEmpty, "vlk.files.empty")
 
 } // namespace
 
@@ -17,12 +18,12 @@ TelemetryContents readStoredFile(const QString& path)
 {
     // What is no plain file may have no end, or wait for its first byte for ever.
     if (!QFileInfo(path).isFile()) {
-        qCWarning(lcTelemetry).noquote() << "nothing to show: there is no file" << path;
+        qCWarning(lcMissing).noquote().nospace() << path << ": there is no such file";
         return {};
     }
     TelemetryContents contents = readTelemetryFile(path).value_or(TelemetryContents());
     if (contents.pages.empty())
-        qCWarning(lcTelemetry).noquote() << "nothing to show: no record in" << path;
+        qCWarning(lcEmpty).noquote().nospace() << path << ": no record in it";
     return contents;
 }
 

@@ -3,10 +3,12 @@
 #include "ui_VLK_Designer_Widget_Tmi_Page.h"
 
 #include "link/requests.h"
+#include "telemetry/view/damage_text.h"
 #include "telemetry/view/event_panel.h"
 #include "telemetry/view/stored_file.h"
 #include "telemetry/view/value_label.h"
 #include "typing/join_fields.h"
+#include "typing/notice_bar.h"
 #include "typing/typed_entry.h"
 #include "windows/fit_to_screen.h"
 
@@ -45,8 +47,11 @@ int lastPosition(const TelemetryPages& pages)
 VLK_Widget_Tmi_Page::VLK_Widget_Tmi_Page(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
       ui_(setUpUi(this)), file_(new vlk::ValueLabel(QStringLiteral("label_File"))),
-      eventPanel_(new vlk::EventPanel(this)), stack_(ui_->stackedWidget, eventPanel_, false)
+      eventPanel_(new vlk::EventPanel(this)),
+      damageNotice_(new vlk::NoticeBar(this, QStringLiteral("label_Damage"))),
+      stack_(ui_->stackedWidget, eventPanel_, false)
 {
+    ui_->verticalLayout->insertWidget(0, damageNotice_);
     file_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     ui_->verticalLayout_Event->addWidget(file_);
     ui_->verticalLayout_Event->addWidget(eventPanel_);
@@ -122,6 +127,7 @@ void VLK_Widget_Tmi_Page::open(const QString& path)
     // A file may be large: two of them need not be in memory.
     pages_ = TelemetryPages();
     TelemetryContents contents = readStoredFile(path);
+    damageNotice_->tell(damageText(contents));
     pages_ = std::move(contents.pages);
     ui_->label_NoRecord->hide();
     if (pages_.empty())
@@ -188,6 +194,7 @@ void VLK_Widget_Tmi_Page::retranslate()
         button->setToolTip(tr(key));
         button->setAccessibleName(tr(key));
     }
+    damageNotice_->retranslate();
     stack_.retranslate();
     if (pages_.empty())
         return;

@@ -12,6 +12,7 @@
 
 namespace vlk {
 class EventPanel;
+class NoticeBar;
 class ValueLabel;
 } // namespace vlk
 
@@ -59,6 +60,7 @@ private:
     std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_Page> ui_;
     vlk::ValueLabel* file_;
     vlk::EventPanel* eventPanel_;
+    vlk::NoticeBar* damageNotice_;
     vlk::RecordStack stack_;
     vlk::TelemetryPages pages_;
     std::size_t currentPage_ = 0;

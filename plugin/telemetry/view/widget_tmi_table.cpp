@@ -1,7 +1,9 @@
 #include "telemetry/view/widget_tmi_table.h"
 
+#include "telemetry/view/damage_text.h"
 #include "telemetry/view/records_model.h"
 #include "telemetry/view/stored_file.h"
+#include "typing/notice_bar.h"
 #include "windows/fit_to_screen.h"
 
 #include <QFileInfo>
@@ -40,6 +42,7 @@ int headingWidth(const QString& heading, const QFontMetrics& metrics)
 
 VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
+      damageNotice_(new vlk::NoticeBar(this, QStringLiteral("label_Damage"))),
       model_(new vlk::RecordsModel(this)), table_(new QTableView(this))
 {
     table_->setObjectName(QStringLiteral("tableWidget"));
@@ -60,7 +63,9 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
     table_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kCellPadding);
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(table_);
+    layout->setSpacing(0);
+    layout->addWidget(damageNotice_, 0, 0);
+    layout->addWidget(table_, 1, 0);
     resize(kWidth, kHeight);
     showTitle();
 }
@@ -71,7 +76,9 @@ void VLK_Widget_Tmi_Table::open(const QString& path)
     table_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     // A file may be large: two of them need not be in memory.
     model_->setContents({});
-    model_->setContents(vlk::readStoredFile(path));
+    vlk::TelemetryContents contents = vlk::readStoredFile(path);
+    damageNotice_->tell(vlk::damageText(contents));
+    model_->setContents(std::move(contents));
     table_->scrollToTop();
     fitColumns();
     showTitle();
@@ -81,6 +88,7 @@ void VLK_Widget_Tmi_Table::open(const QString& path)
 
 void VLK_Widget_Tmi_Table::retranslate()
 {
+    damageNotice_->retranslate();
     model_->retranslate();
     fitColumns();
     showTitle();

@@ -6,6 +6,7 @@
 
 class QTableView;
 namespace vlk {
+class NoticeBar;
 class RecordsModel;
 } // namespace vlk
 
@@ -25,6 +26,7 @@ private:
     void showTitle();
     void fitColumns();
 
+    vlk::NoticeBar* damageNotice_;
     vlk::RecordsModel* model_;
     QTableView* table_;
     QString fileName_;

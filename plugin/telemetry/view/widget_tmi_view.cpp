@@ -10,6 +10,7 @@
 #include "telemetry/view/event_panel.h"
 #include "telemetry/view/tmi_view_texts.h"
 #include "typing/join_fields.h"
+#include "typing/notice_bar.h"
 #include "typing/typed_entry.h"
 #include "windows/fit_to_screen.h"
 
@@ -38,10 +39,12 @@ std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_View> setUpUi(QDialog* window)
 
 VLK_Widget_Tmi_View::VLK_Widget_Tmi_View(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
-      ui_(setUpUi(this)), eventPanel_(new vlk::EventPanel(this)), pages_(ui_->stackedWidget, eventPanel_),
-      automatic_(this), clearing_({ui_->checkBox_Server1, ui_->checkBox_Server2, ui_->checkBox_Server3}),
-      save_(this, *ui_)
+      ui_(setUpUi(this)), eventPanel_(new vlk::EventPanel(this)),
+      partNotice_(new vlk::NoticeBar(this, QStringLiteral("label_SavedInPart"))),
+      pages_(ui_->stackedWidget, eventPanel_), automatic_(this),
+      clearing_({ui_->checkBox_Server1, ui_->checkBox_Server2, ui_->checkBox_Server3}), save_(this, *ui_)
 {
+    ui_->verticalLayout->insertWidget(0, partNotice_);
     ui_->verticalLayout_Event->addWidget(eventPanel_);
     ui_->groupBox_Btn_Guard->hide();
     ui_->frame_Btn_Func->hide();
@@ -53,8 +56,8 @@ VLK_Widget_Tmi_View::VLK_Widget_Tmi_View(QWidget* parent)
     connectControls();
     keepOnScreen(this);
     connect(eventPanel_, &vlk::EventPanel::signal_OperatingMode, this, &VLK_Widget_Tmi_View::setGuardButtons);
-    connect(&save_, &vlk::SaveSequence::runningChanged, this,
-            [this](bool running) { setManualBlocked(running ? "tmiw_176" : nullptr); });
+    connect(&save_, &vlk::SaveSequence::runningChanged, this, &VLK_Widget_Tmi_View::showSaving);
+    connect(&save_, &vlk::SaveSequence::savedInPart, this, &VLK_Widget_Tmi_View::showPart);
     connect(&automatic_, &vlk::AutomaticRequests::timeout, this,
             &VLK_Widget_Tmi_View::slot_timeout_m_Timer_Auto_TMI);
     retranslate();
@@ -172,6 +175,23 @@ void VLK_Widget_Tmi_View::setManualBlocked(const char* reasonKey)
         control->setEnabled(reasonKey == nullptr);
     pages_.setCommandsEnabled(reasonKey == nullptr);
     setToolTips(*ui_, reasonKey);
+}
+
+void VLK_Widget_Tmi_View::showSaving(bool running)
+{
+    setManualBlocked(running ? "tmiw_176" : nullptr);
+    if (running)
+        partNotice_->end(0);
+}
+
+void VLK_Widget_Tmi_View::showPart(const vlk::PartOfPeriod& part)
+{
+    partNotice_->tell([part] {
+        const QLocale locale;
+        return tr("tmiw_186")
+            .arg(locale.toString(quint64(part.records)), locale.toString(quint64(part.all)), part.until,
+                 QDir::toNativeSeparators(part.path));
+    });
 }
 
 void VLK_Widget_Tmi_View::stopRequests()
@@ -477,6 +497,7 @@ void VLK_Widget_Tmi_View::retranslate()
     slot_valueChanged_horizontalSlider_Auto_Tmi(ui_->horizontalSlider_Auto_Tmi->value());
     setTitle();
 
+    partNotice_->retranslate();
     save_.retranslate();
     pages_.retranslate();
     if (tachograph_ != nullptr)

@@ -20,6 +20,7 @@
 
 namespace vlk {
 class EventPanel;
+class NoticeBar;
 } // namespace vlk
 class QAbstractButton;
 class VLK_Form_TMI_Fuel_Sensors;
@@ -96,6 +97,8 @@ private:
     // What the user may not press while records are requested automatically, and while a period is saved. The
     // tool tips say why: the text of `reasonKey`, null when the controls are free.
     void setManualBlocked(const char* reasonKey);
+    void showSaving(bool running);
+    void showPart(const vlk::PartOfPeriod& part);
     void stopRequests();
     void startSave(vlk::SaveSequence::Mode mode);
     // Asks for a record by number; a walking button that is held down waits for each answer.
@@ -104,6 +107,7 @@ private:
 
     std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_View> ui_;
     vlk::EventPanel* eventPanel_;
+    vlk::NoticeBar* partNotice_;
     VLK_Form_TMI_Taho* tachograph_ = nullptr;
     VLK_Form_TMI_Fuel_Sensors* fuelSensors_ = nullptr;
     vlk::RecordStack pages_;

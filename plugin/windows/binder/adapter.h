@@ -27,7 +27,8 @@ public:
     bool owns(const QString& widget) const { return widgets_.contains(widget); }
     // Other values come, which are not those that the user left: what was remembered of them goes.
     virtual void forget() {}
-    // Takes what is being typed into the widgets. Gives what was not taken as it was typed.
+    // Takes what is being typed into the widgets. Gives what was not taken as it was typed, and what is
+    // doubtful about the value.
     virtual QStringList finishTyping() { return {}; }
     // Marks the value as doubtful; an empty text takes the mark away.
     virtual void doubt(const QString& /*complaint*/) {}

@@ -29,7 +29,7 @@ namespace vlk {
 
 namespace {
 
-// What was typed and not taken as it was, at a save: "CAPTION: WHY".
+// What was typed and not taken as it was, and values that are doubtful, at a save: "CAPTION: WHY".
 Q_LOGGING_CATEGORY(lcTyping, "vlk.settings.typing")
 
 // Counts what is being shown, so that the widgets' signals are no edits meanwhile.

@@ -83,6 +83,9 @@ void NumberAdapter::switched(bool on)
 
 void NumberAdapter::doubt(const QString& complaint)
 {
+    if (complaint == complaint_)
+        return;
+    complaint_ = complaint;
     markField(box_.widget(), MarkReason::value, Mark::invalid, complaint);
 }
 

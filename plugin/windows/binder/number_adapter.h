@@ -20,7 +20,7 @@ public:
     QString held() const override;
     void doubt(const QString& complaint) override;
     void forget() override { remembered_ = 0; }
-    QStringList finishTyping() override { return {box_.finishTyping()}; }
+    QStringList finishTyping() override { return {box_.finishTyping(), complaint_}; }
 
 private:
     bool isOn() const;
@@ -31,6 +31,7 @@ private:
     NumberBox slider_;
     QWidget* check_ = nullptr;
     double remembered_ = 0;
+    QString complaint_; // about a value that is doubtful
 };
 
 } // namespace vlk

@@ -43,7 +43,8 @@ void TextAdapter::expect()
 
 QStringList TextAdapter::finishTyping()
 {
-    return {TextEntry::join(edit_)->takeNews()};
+    TextEntry* entry = TextEntry::join(edit_);
+    return {entry->takeNews(), entry->complaint()};
 }
 
 void TextAdapter::show(const QString& value)

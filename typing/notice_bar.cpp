@@ -1,4 +1,4 @@
-#include "windows/notice_bar.h"
+#include "typing/notice_bar.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -36,16 +36,16 @@ QIcon crossIcon(const QPalette& palette)
 
 } // namespace
 
-NoticeBar::NoticeBar(QWidget* parent)
+NoticeBar::NoticeBar(QWidget* parent, const QString& name)
     : QFrame(parent), text_(new QLabel(this)), buttons_(new QHBoxLayout), place_(new QLabel(this)),
       close_(new QToolButton(this))
 {
     setObjectName(QStringLiteral("noticeBar"));
-    text_->setObjectName(QStringLiteral("label_Notice"));
+    text_->setObjectName(name);
     text_->setWordWrap(true);
     text_->setTextFormat(Qt::PlainText);
     place_->setObjectName(QStringLiteral("label_NoticePlace"));
-    close_->setObjectName(QStringLiteral("toolButton_NoticeClose"));
+    close_->setObjectName(name + QStringLiteral("_Close"));
     close_->setAutoRaise(true);
     close_->setFocusPolicy(Qt::TabFocus);
     close_->setIcon(crossIcon(palette()));
@@ -81,8 +81,20 @@ void NoticeBar::tell(int number, const Notice& notice)
     refresh();
 }
 
+void NoticeBar::tell(const std::function<QString()>& sentence)
+{
+    if (!sentence) {
+        end(0);
+        return;
+    }
+    sentence_ = sentence;
+    tell(0, {Mark::advice, sentence(), {}});
+}
+
 void NoticeBar::end(int number)
 {
+    if (number == 0)
+        sentence_ = {};
     const auto gone = std::remove_if(told_.begin(), told_.end(),
                                      [number](const Told& told) { return told.number == number; });
     if (gone == told_.end())
@@ -95,7 +107,10 @@ void NoticeBar::retranslate()
 {
     close_->setToolTip(tr("wrd_402"));
     close_->setAccessibleName(tr("wrd_402"));
-    refresh();
+    if (sentence_)
+        tell(std::function(sentence_));
+    else
+        refresh();
 }
 
 const NoticeBar::Told* NoticeBar::worst() const
@@ -119,6 +134,7 @@ void NoticeBar::refresh()
     if (!shown) {
         if (hadFocus && before_)
             before_->setFocus();
+        text_->clear();
         hide();
         return;
     }

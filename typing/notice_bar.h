@@ -37,11 +37,15 @@ class NoticeBar : public QFrame
     Q_OBJECT
 
 public:
-    explicit NoticeBar(QWidget* parent);
+    // The label of the sentence gets the name, the cross the same with "_Close" behind it.
+    explicit NoticeBar(QWidget* parent, const QString& name = QStringLiteral("label_Notice"));
 
     // Puts a notice up, in the place of the one that had this number before. It stays until it is ended or
     // the user closes it with the cross.
     void tell(int number, const Notice& notice);
+    // Of a bar that tells one thing: a sentence that is asked for again when the language changes; null takes
+    // it away.
+    void tell(const std::function<QString()>& sentence);
     void end(int number);
     void retranslate();
 
@@ -69,6 +73,7 @@ private:
     QLabel* place_;
     QToolButton* close_;
     std::vector<Told> told_;
+    std::function<QString()> sentence_;
     QPointer<QWidget> before_; // had the focus before F6
 };
 
