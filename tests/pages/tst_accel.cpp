@@ -53,19 +53,6 @@ private Q_SLOTS:
             QStringList({"checkBox_Auto", "spinBox_Auto_TimeOut", "pushButton_Quest", "pushButton_Reset"}));
     }
 
-    void levelsBySlots()
-    {
-        for (int sensor = 1; sensor <= 4; ++sensor) {
-            form()->slot_valueChanged_doubleSpinBox_Level_SH(sensor, 3);
-            QCOMPARE(get<QSlider>(QString("horizontalSlider_Level_SH%1").arg(sensor))->value(),
-                     sensor == 4 ? 300 : 30);
-            QCOMPARE(saved(QString("SENSORS/sh%1").arg(sensor)), QString(sensor == 4 ? "3.00" : "3.0"));
-            form()->slot_valueChanged_horizontalSlider_Level_SH(sensor, 40);
-            QCOMPARE(box(sensor)->value(), sensor == 4 ? 0.4 : 4);
-            QCOMPARE(saved(QString("SENSORS/sh%1").arg(sensor)), QString(sensor == 4 ? "0.40" : "4.0"));
-        }
-    }
-
     void presentValues_data()
     {
         const double degree = M_PI / 180;

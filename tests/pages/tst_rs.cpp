@@ -70,32 +70,6 @@ private Q_SLOTS:
             QCOMPARE(form->isVisibleTo(&test_.page()), form->objectName() == values["OPTIONS/owner1"]);
     }
 
-    void shownLines_data()
-    {
-        DataTable<QString, QString, QString>({"edit", "shown", "hidden"})
-            .row("ESCORT", "RFID/type=ESCORT", "spinBox_Address spinBox_FixTime",
-                 "comboBox_Mode label_comboBox_Mode checkBox_Nearest spinBox_Floor")
-            .row("LLS", "RFID/type=LLS", "spinBox_Address comboBox_Mode", "checkBox_Nearest spinBox_Floor")
-            .row("MIELTA", "RFID/type=MIELTA", "checkBox_Nearest spinBox_Floor",
-                 "spinBox_Address comboBox_Mode")
-            .row("ADM20", "RFID/type=ADM20", "spinBox_Address spinBox_Floor", "comboBox_Mode")
-            .row("ATOL", "TACH/type=ATOL", "lineEdit_ID lineEdit_Key", "checkBox_Ping")
-            .row("STRH", "TACH/type=STRH", "lineEdit_Key", "lineEdit_ID label_lineEdit_ID checkBox_Ping")
-            .row("MERK", "TACH/type=MERK", "checkBox_EventOff", "lineEdit_ID lineEdit_Key checkBox_Ping")
-            .row("KONT", "TACH/type=KONT", "checkBox_Ping", "lineEdit_ID lineEdit_Key");
-    }
-    void shownLines()
-    {
-        QFETCH(QString, edit);
-        QFETCH(QString, shown);
-        QFETCH(QString, hidden);
-        const QString owner = edit.section('/', 0, 0);
-        this->edit({"OPTIONS/owner1=" + owner, edit});
-        for (const QString& name : (shown + ' ' + hidden).split(' '))
-            QVERIFY2(form(owner)->findChild<QWidget*>(name)->isHidden() == hidden.split(' ').contains(name),
-                     qPrintable(name));
-    }
-
     // The columns have heads, so a cell says its number or nothing: when the form comes and in another
     // language.
     void sensorCellsAreShort()

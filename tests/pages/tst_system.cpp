@@ -80,14 +80,6 @@ private Q_SLOTS:
         }
     }
 
-    void rangesOfHandles()
-    {
-        QCOMPARE(get<QDoubleSpinBox>("doubleSpinBox_Power_Left")->maximum(), 31.5);
-        QCOMPARE(get<QDoubleSpinBox>("doubleSpinBox_Power_Right")->minimum(), 6.5);
-        QCOMPARE(get<QDoubleSpinBox>("doubleSpinBox_Fuel_Left")->minimum(), 0.0);
-        QCOMPARE(get<QDoubleSpinBox>("doubleSpinBox_Fuel_Right")->maximum(), 31.0);
-    }
-
     void sliderAndBox()
     {
         auto* slider = get<QSlider>("horizontalSlider_Tuning");

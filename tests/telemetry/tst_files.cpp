@@ -11,36 +11,10 @@
 
 #include <QBuffer>
 #include <QTemporaryDir>
-#include <QTranslator>
 #include <QXmlStreamReader>
 #include <QtTest>
 
-#include <dlfcn.h>
-
 using namespace vlk;
-
-namespace {
-
-int zoneLookups = 0;
-
-template <class Result, class... Arguments>
-Result lookUpZone(const char* function, Arguments... arguments)
-{
-    ++zoneLookups;
-    return reinterpret_cast<Result (*)(Arguments...)>(dlsym(RTLD_NEXT, function))(arguments...);
-}
-
-} // namespace
-
-// What looks at the file of the machine's zone, in place of the C library's own.
-extern "C" Q_DECL_EXPORT void tzset() noexcept
-{
-    lookUpZone<void>("tzset");
-}
-extern "C" Q_DECL_EXPORT std::time_t mktime(std::tm* time) noexcept
-{
-    return lookUpZone<std::time_t>("mktime", time);
-}
 
 namespace {
 
@@ -430,39 +404,6 @@ private Q_SLOTS:
         QTEST(kinds(contents.damages), "damages");
         for (const FileDamage& damage : contents.damages)
             QVERIFY(damage.offset >= 0 && damage.bytes >= 0 && damage.offset + damage.bytes <= file.size());
-    }
-
-    // The zone of the machine, and each word, is looked up as often for many records as for few.
-    void nothingIsLookedUpForEachRecord()
-    {
-        struct : QTranslator
-        {
-            QString translate(const char*, const char* key, const char*, int) const override
-            {
-                ++asked;
-                return QLatin1String(key);
-            }
-            bool isEmpty() const override { return false; }
-            mutable int asked = 0;
-        } language;
-        QCoreApplication::installTranslator(&language);
-        const QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("records"));
-        for (const TelemetryForm form : {TelemetryForm::xml, TelemetryForm::csv, TelemetryForm::binary}) {
-            std::vector<std::pair<int, int>> lookups;
-            for (const int times : {1, 50}) {
-                zoneLookups = language.asked = 0;
-                TelemetryPages pages;
-                for (int i = 0; i < times; ++i) {
-                    std::mt19937 random(7106);
-                    std::ranges::move(randomPages(random, 8), std::back_inserter(pages));
-                }
-                QVERIFY(saveTelemetryFile(path, form, pages, sampleOrigin()) && readTelemetryFile(path));
-                lookups.emplace_back(zoneLookups, language.asked);
-            }
-            QVERIFY(lookups[0].first > 0 && (lookups[0].second > 500) == (form == TelemetryForm::csv));
-            QCOMPARE(lookups[1], lookups[0]);
-        }
     }
 
     // A disk that fills leaves the file that was there.

@@ -126,45 +126,36 @@ private Q_SLOTS:
         QVERIFY(window_->isVisible() && pressed_ == 0);
     }
 
-    void pastedNumbers_data()
+    void otherFormsOfNumbers_data()
     {
-        DataTable<QString, double, QString>({"text", "value", "mark"})
-            .row("plain", "12.5", 12.5, "")
-            .row("other sign", "12,5", 12.5, "")
-            .row("with its unit", " 12,5 V\n", 12.5, "")
-            .row("minus sign", QString::fromUtf8("\u22123"), -3, "")
-            .row("groups", "1 234", 20, "typed_number")
-            .row("a word", "12 l", 20, "typed_number");
+        DataTable<int, QString, QString, double, QString>({"base", "clipboard", "keys", "value", "mark"})
+            .row("plain", 10, "12.5", "<All><Paste>", 12.5, "")
+            .row("other sign", 10, "12,5", "<All><Paste>", 12.5, "")
+            .row("with its unit", 10, " 12,5 V\n", "<All><Paste>", 12.5, "")
+            .row("minus sign", 10, QString::fromUtf8("\u22123"), "<All><Paste>", -3, "")
+            .row("groups", 10, "1 234", "<All><Paste>", 16, "typed_number")
+            .row("a word", 10, "12 l", "<All><Paste>", 16, "typed_number")
+            .row("hexadecimal", 16, "", "<All>1f", 31, "")
+            .row("hexadecimal, too large", 16, "", "<All>100", 255, "typed_range")
+            .row("hexadecimal, no figure", 16, "", "<All>1g", 16, "typed_number")
+            .row("hexadecimal, minus", 16, "", "<All>-1", 16, "typed_number");
     }
-    void pastedNumbers()
+    void otherFormsOfNumbers()
     {
-        QFETCH(QString, text);
-        real_->setRange(-50, 9999);
-        real_->setSuffix(" V");
-        real_->setValue(20);
-        QApplication::clipboard()->setText(text);
-        type(real_, "<All><Paste><Tab>");
-        QTEST(real_->value(), "value");
-        QTEST(real_->toolTip().section(' ', 0, 0), "mark");
-    }
-
-    void hexadecimalNumbers_data()
-    {
-        DataTable<QString, int, QString>({"keys", "value", "mark"})
-            .row("figures", "<All>1f<Tab>", 31, "")
-            .row("too large", "<All>100<Tab>", 255, "typed_range")
-            .row("no figure", "<All>1g<Tab>", 16, "typed_number")
-            .row("minus", "<All>-1<Tab>", 16, "typed_number");
-    }
-    void hexadecimalNumbers()
-    {
+        QFETCH(int, base);
+        QFETCH(QString, clipboard);
         QFETCH(QString, keys);
         whole_->setDisplayIntegerBase(16);
         whole_->setRange(0, 255);
         whole_->setValue(16);
-        type(whole_, keys);
-        QTEST(whole_->value(), "value");
-        QTEST(whole_->toolTip().section(' ', 0, 0), "mark");
+        real_->setRange(-50, 9999);
+        real_->setSuffix(" V");
+        real_->setValue(16);
+        QApplication::clipboard()->setText(clipboard);
+        QAbstractSpinBox* box = base == 16 ? static_cast<QAbstractSpinBox*>(whole_) : real_;
+        type(box, keys + "<Tab>");
+        QTEST(base == 16 ? whole_->value() : real_->value(), "value");
+        QTEST(box->toolTip().section(' ', 0, 0), "mark");
     }
 
     void markGoesWithTheNextTyping()
