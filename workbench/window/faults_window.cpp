@@ -3,6 +3,7 @@
 #include "window/faults_panel.h"
 #include "window/scrolling.h"
 
+#include <QAbstractButton>
 #include <QLabel>
 #include <QScreen>
 #include <QScrollArea>
@@ -23,6 +24,7 @@ FaultsWindow::FaultsWindow(tracker::SimulatedTracker& tracker, QWidget* owner)
     auto* column = new QVBoxLayout(this);
     column->addWidget(vlk::scrolling(panel_), 1);
     column->addWidget(trouble_);
+    retranslate();
     vlk::resizeWithin(this, sizeHint());
 }
 
@@ -36,6 +38,13 @@ void FaultsWindow::retranslate()
 {
     texts_.apply();
     panel_->retranslate();
+    // Letters with Alt are those of the window below, which this one belongs to.
+    const auto buttons = panel_->findChildren<QAbstractButton*>();
+    for (QAbstractButton* button : buttons)
+        button->setText(button->text().remove(QLatin1Char('&')));
+    const auto labels = panel_->findChildren<QLabel*>();
+    for (QLabel* label : labels)
+        label->setText(label->text().remove(QLatin1Char('&')));
 }
 
 void FaultsWindow::comeUp(bool withKeyboard)
