@@ -388,9 +388,8 @@ private Q_SLOTS:
             Q_EMIT session.link().received(vlk::Message::WriteConfiguration, &path, nullptr);
         };
         write();
-        const QString told =
-            QStringLiteral("look at again:\nSpeed: 200 is beyond 1 to 180, 180 was written"
-                           "\nAngle: 2,5 is no whole number, 2 was written");
+        const QString told = QStringLiteral("look at again:\nSpeed: 200 is beyond 1 to 180, 180 was written"
+                                            "\nAngle: 2,5 is no whole number, 2 was written");
         QTRY_VERIFY2(bench.text("label_Report").contains(told), qPrintable(bench.text("label_Report")));
         QVERIFY(bench.text("label_Status").contains(QLatin1String("Angle: 2,5")));
         // Once.
