@@ -67,6 +67,7 @@ void VLK_Widget_Config_Full::buildTabs()
 {
     pages_->create([this](auto& page) {
         vlk::guardInputs(&page);
+        vlk::keepOpenOnEscape(&page);
         page.setTabIndex(navigation_->add(&page, page.title()));
     });
     pages_->forEach([this]<vlk::LimitsTheRecord Page>(Page& page) {

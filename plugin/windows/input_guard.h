@@ -10,4 +10,7 @@ namespace vlk {
 
 void guardInputs(QWidget* page);
 
+// Esc in the page closes no window: it would take along what was edited and not saved yet.
+void keepOpenOnEscape(QWidget* page);
+
 } // namespace vlk

@@ -344,6 +344,7 @@ private Q_SLOTS:
         const QString before = name()->text();
         type(name(), "abc<Esc>");
         QCOMPARE(name()->text(), before);
+        QTest::keyClick(child<QComboBox>("Transfer_comboBox_GSM_Operator_1"), Qt::Key_Escape);
         QVERIFY(window->isVisible());
         type(timer, "<All>5000");
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(": typed_range"));
