@@ -22,7 +22,8 @@ private Q_SLOTS:
         workbench.setProcessChannelMode(QProcess::MergedChannels);
         workbench.start(QStringLiteral(VLK_WORKBENCH),
                         {"--tour", folder_.path(), "--data", folder_.filePath(QStringLiteral("data"))});
-        QVERIFY(workbench.waitForFinished(240'000));
+        const bool ended = workbench.waitForFinished(240'000);
+        QVERIFY2(ended, workbench.readAll().constData());
         output_ = workbench.readAll();
         exitCode_ = workbench.exitCode();
     }

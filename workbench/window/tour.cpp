@@ -99,17 +99,25 @@ void Tour::waitFor(const std::function<bool()>& condition, const QString& what, 
 void Tour::whenActive(const std::function<bool(QWidget*)>& take)
 {
     constexpr int pauseMs = 20;
+    constexpr int mostMs = 60'000;
     auto* timer = new QTimer(&window_);
-    QObject::connect(timer, &QTimer::timeout, timer, [this, timer, take] {
+    QElapsedTimer since;
+    since.start();
+    QObject::connect(timer, &QTimer::timeout, timer, [this, timer, take, since] {
         QWidget* modal = QApplication::activeModalWidget();
         timer->stop();
         // An exception must not pass the event loop of the dialog.
         try {
-            if (!take(modal))
+            if (!take(modal)) {
+                // A window that nobody expects would wait for an answer without end.
+                expect(!since.hasExpired(mostMs), QStringLiteral("another window is open: %1")
+                                                      .arg(modal ? modal->windowTitle() : QString()));
                 return timer->start();
+            }
         } catch (const TourFailure& failure) {
             failureInModal_ = failure;
-            modal->close();
+            if (modal)
+                modal->close();
         }
         timer->deleteLater();
     });
