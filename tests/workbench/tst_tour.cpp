@@ -18,14 +18,24 @@ private Q_SLOTS:
         QVERIFY(folder_.isValid());
         // Of an earlier tour, in the way of this one.
         writeFile(folder_.filePath(QStringLiteral("quick.xml")), "<DEVICE/>");
-        QProcess workbench;
-        workbench.setProcessChannelMode(QProcess::MergedChannels);
-        workbench.start(QStringLiteral(VLK_WORKBENCH),
-                        {"--tour", folder_.path(), "--data", folder_.filePath(QStringLiteral("data"))});
-        const bool ended = workbench.waitForFinished(240'000);
-        QVERIFY2(ended, workbench.readAll().constData());
-        output_ = workbench.readAll();
-        exitCode_ = workbench.exitCode();
+        // On a loaded machine a tour has stood still, rarely and at a place not known yet: it is told where,
+        // and the tour made once more.
+        bool ended = false;
+        for (int attempt = 0; attempt < 2 && !ended; ++attempt) {
+            QProcess workbench;
+            workbench.setProcessChannelMode(QProcess::MergedChannels);
+            workbench.start(
+                QStringLiteral(VLK_WORKBENCH),
+                {"--tour", folder_.path(), "--data", folder_.filePath(QString("data%1").arg(attempt))});
+            ended = workbench.waitForFinished(140'000);
+            output_ = workbench.readAll();
+            exitCode_ = workbench.exitCode();
+            if (!ended)
+                qWarning("The tour stood still behind: %s", output_.right(600).constData());
+            workbench.kill();
+            workbench.waitForFinished();
+        }
+        QVERIFY(ended);
     }
 
     void everyStepDidWhatItShould()
