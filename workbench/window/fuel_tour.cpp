@@ -74,7 +74,8 @@ void calibrate(vlk::Tour& tour)
         // The window may still show what was there before the tracker's first answer.
         tour.waitFor([&] { return atRest(tour.window().session().tracker().fuelReading(kTank)); },
                      QStringLiteral("a sensor at rest"), 30'000);
-        tour.waitFor([&] { return atRest(value->text().toDouble()); }, QStringLiteral("its live value"));
+        tour.waitFor([&] { return !value->text().isEmpty() && atRest(value->text().toDouble()); },
+                     QStringLiteral("its live value"));
         inForm<QLineEdit>("lineEdit_Volume")->setText(QString::number(litres));
         inForm<QAbstractButton>("pushButton_Add")->click();
     }

@@ -62,6 +62,10 @@ bool Tour::run()
         } catch (const TourFailure& failure) {
             note(QStringLiteral("FAILED  %1: %2").arg(step.name, QString::fromStdString(failure.what())));
             good = false;
+            // What it leaves open would ask about its rows when the workbench ends, and nobody is there to
+            // answer.
+            for (QWidget* left : QApplication::topLevelWidgets())
+                left->setVisible(left == &window_);
             break;
         }
     }
