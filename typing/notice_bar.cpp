@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -48,7 +49,6 @@ NoticeBar::NoticeBar(QWidget* parent, const QString& name)
     close_->setObjectName(name + QStringLiteral("_Close"));
     close_->setAutoRaise(true);
     close_->setFocusPolicy(Qt::TabFocus);
-    close_->setIcon(crossIcon(palette()));
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(kMargin + markSize + kGap, 2, 2, 2);
     row->setSpacing(kGap);
@@ -66,8 +66,21 @@ NoticeBar::NoticeBar(QWidget* parent, const QString& name)
         }
     });
     connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this, &NoticeBar::toggleFocus);
+    setCross();
     retranslate();
     hide();
+}
+
+void NoticeBar::setCross()
+{
+    close_->setIcon(crossIcon(palette()));
+}
+
+void NoticeBar::changeEvent(QEvent* event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        setCross();
 }
 
 void NoticeBar::tell(int number, const Notice& notice)
@@ -108,7 +121,7 @@ void NoticeBar::retranslate()
     close_->setToolTip(tr("wrd_402"));
     close_->setAccessibleName(tr("wrd_402"));
     if (sentence_)
-        tell(std::function(sentence_));
+        tell(0, {Mark::advice, sentence_(), {}});
     else
         refresh();
 }

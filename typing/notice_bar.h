@@ -54,6 +54,7 @@ Q_SIGNALS:
     void closed(int number);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
@@ -66,6 +67,8 @@ private:
     // Null when there is none.
     const Told* worst() const;
     void refresh();
+    // In the colour of the palette.
+    void setCross();
     void toggleFocus();
 
     QLabel* text_;
