@@ -86,6 +86,8 @@ bool VLK_Widget_Config::saveQuickToFile(const QString& path)
 {
     vlk::XmlDocument document(QString(), QStringLiteral("DEVICE"));
     saveToXml(document.root());
+    // Not those of the full window: what the quick window decided may have mended them.
+    lightWindow_->logNews();
     return document.saveAs(path);
 }
 

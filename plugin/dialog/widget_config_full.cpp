@@ -85,6 +85,7 @@ bool VLK_Widget_Config_Full::saveFile(const QString& path)
 {
     vlk::XmlDocument document(QString(), QStringLiteral("DEVICE"));
     saveToXml(document.root());
+    pages_->forEach([](auto& page) { page.settings().logNews(); });
     return document.saveAs(path);
 }
 

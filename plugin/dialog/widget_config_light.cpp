@@ -90,6 +90,11 @@ void VLK_Widget_Config_Light::loadFromXml(CXmlSection* root)
     form().loadFromXml(root);
 }
 
+void VLK_Widget_Config_Light::logNews()
+{
+    form().settings().logNews();
+}
+
 void VLK_Widget_Config_Light::saveToXml(CXmlSection* root)
 {
     form().saveToXml(root);

@@ -28,6 +28,8 @@ public:
     void loadFile(const QString& path);
     void loadFromXml(CXmlSection* root);
     void saveToXml(CXmlSection* root);
+    // What a save into a file or for the tracker leaves to be told.
+    void logNews();
     void deviceConnected();
     void deviceDisconnected();
     // Where the user begins, with the form shown from its top.

@@ -347,7 +347,9 @@ private Q_SLOTS:
         QTest::keyClick(child<QComboBox>("Transfer_comboBox_GSM_Operator_1"), Qt::Key_Escape);
         QVERIFY(window->isVisible());
         type(timer, "<All>5000");
+        type(full()->findChild<QLineEdit*>("GPRSSrv_lineEdit_IP_DNS_Main"), "10.0.0.1");
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(": typed_range"));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(": typed_port"));
         press("pushButton_LoadToDevice");
         const QString written = host_.takeSent(Message::WriteConfiguration).value(0).text1;
         QVERIFY(readFile(written).contains("regTimer=\"900\""));
@@ -375,6 +377,28 @@ private Q_SLOTS:
         QVERIFY2(grown < 160 * 300, qPrintable(QString::number(grown)));
         for (const QLineEdit* edit : window->findChildren<QLineEdit*>())
             QVERIFY2(!edit->isUndoAvailable(), qPrintable(edit->objectName()));
+    }
+
+    // Only the window that is written from tells: what the full window doubted the quick one may have mended.
+    void quickWindowTellsOfItsOwn()
+    {
+        QStringList told;
+        static QStringList* const log = &told;
+        host_.attach();
+        type(full()->findChild<QLineEdit*>("GPRSSrv_lineEdit_IP_DNS_Main"), "10.0.0.1<Tab>");
+        ScriptedHost::whenModal([](QWidget* box) { box->findChildren<QAbstractButton*>()[0]->click(); });
+        press("pushButton_ConfigLight");
+        QCOMPARE(shownPage(), QString("page_Light"));
+        auto* port = portOf("page_Light");
+        const auto before = qInstallMessageHandler(
+            [](QtMsgType, const QMessageLogContext&, const QString& text) { *log << text; });
+        press("pushButton_Light_LoadToDevice");
+        type(port, "<All>4000<Tab>");
+        press("pushButton_Light_LoadToDevice");
+        qInstallMessageHandler(before);
+        QCOMPARE(told.filter("typed_port").size(), 1);
+        for (const ScriptedHost::Sent& written : host_.takeSent(Message::WriteConfiguration))
+            QFile::remove(written.text1);
     }
 
     void numbersFollowTheLanguage()

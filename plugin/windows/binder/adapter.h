@@ -27,9 +27,11 @@ public:
     bool owns(const QString& widget) const { return widgets_.contains(widget); }
     // Other values come, which are not those that the user left: what was remembered of them goes.
     virtual void forget() {}
-    // Takes what is being typed into the widgets. Gives what was not taken as it was typed, and what is
-    // doubtful about the value.
-    virtual QStringList finishTyping() { return {}; }
+    // Takes what is being typed into the widgets.
+    virtual void finishTyping() {}
+    // What was not taken as it was typed since this was asked the last time, and what is doubtful about the
+    // value; empty texts where there is nothing.
+    virtual QStringList takeNews() { return {}; }
     // Marks the value as doubtful; an empty text takes the mark away.
     virtual void doubt(const QString& /*complaint*/) {}
     // Takes what the widgets hold as an edit.

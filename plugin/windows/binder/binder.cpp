@@ -319,9 +319,17 @@ void Binder::finishTyping()
     if (TypedEntry* entry = TypedEntry::of(QApplication::focusWidget()))
         entry->finish();
     for (const auto& adapter : adapters_) {
+        if (adapter)
+            adapter->finishTyping();
+    }
+}
+
+void Binder::logNews()
+{
+    for (const auto& adapter : adapters_) {
         if (!adapter)
             continue;
-        const QStringList allNews = adapter->finishTyping();
+        const QStringList allNews = adapter->takeNews();
         for (const QString& news : allNews) {
             if (!news.isEmpty())
                 qCWarning(lcTyping).noquote()

@@ -49,8 +49,10 @@ public:
     void evaluateRules();
     // Takes the state of the widget of this name as an edit.
     void take(const QString& widget);
-    // Takes what is being typed, and logs what could not be taken as it was typed since the last time.
+    // Takes what is being typed.
     void finishTyping();
+    // Logs what could not be taken as it was typed since the last time, and values that are doubtful.
+    void logNews();
     // Other values come: what the widgets remember of those before goes.
     void forget();
     // Takes the first item of every combo box as an edit.

@@ -20,7 +20,8 @@ public:
     QString held() const override;
     void doubt(const QString& complaint) override;
     void forget() override { remembered_ = 0; }
-    QStringList finishTyping() override { return {box_.finishTyping(), complaint_}; }
+    void finishTyping() override { box_.finishTyping(); }
+    QStringList takeNews() override { return {box_.takeNews(), complaint_}; }
 
 private:
     bool isOn() const;

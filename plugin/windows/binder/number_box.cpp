@@ -62,12 +62,15 @@ void NumberBox::setValue(double value)
         slider_->setValue(position(value));
 }
 
-QString NumberBox::finishTyping()
+void NumberBox::finishTyping()
 {
-    if (!entry_)
-        return {};
-    entry_->finish();
-    return entry_->takeNews();
+    if (entry_)
+        entry_->finish();
+}
+
+QString NumberBox::takeNews()
+{
+    return entry_ ? entry_->takeNews() : QString();
 }
 
 void NumberBox::setRange(double least, double most)

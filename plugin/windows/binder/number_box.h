@@ -30,8 +30,10 @@ public:
     double value() const;
     // Whatever is being typed gives way.
     void setValue(double value);
-    // Takes what is being typed. Gives what was not taken as it was typed, empty if all was.
-    QString finishTyping();
+    // Takes what is being typed.
+    void finishTyping();
+    // What was not taken as it was typed since this was asked the last time, empty if all was.
+    QString takeNews();
     void setRange(double least, double most);
     void setSuffix(const QString& suffix);
     void onChanged(QObject* context, std::function<void()> action) const;

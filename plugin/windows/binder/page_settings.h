@@ -40,6 +40,8 @@ public:
     void load(CXmlSection* root);
     void save(CXmlSection* root);
     void retranslate();
+    // For a save that leaves the windows: into a file or for the tracker.
+    void logNews() { binder_->logNews(); }
 
     // Takes the state of a widget as an edit.
     void take(const char* widget) { binder_->take(QString::fromLatin1(widget)); }

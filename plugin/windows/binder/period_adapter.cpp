@@ -58,11 +58,17 @@ void PeriodAdapter::limitLast()
     boxes_.back().setRange(std::max(last.least, least), last.most);
 }
 
-QStringList PeriodAdapter::finishTyping()
+void PeriodAdapter::finishTyping()
+{
+    for (NumberBox& box : boxes_)
+        box.finishTyping();
+}
+
+QStringList PeriodAdapter::takeNews()
 {
     QStringList news;
     for (NumberBox& box : boxes_)
-        news << box.finishTyping();
+        news << box.takeNews();
     return news;
 }
 

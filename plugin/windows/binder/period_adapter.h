@@ -19,7 +19,8 @@ public:
     void show(const QString& value) override;
     void take() override;
     QString held() const override;
-    QStringList finishTyping() override;
+    void finishTyping() override;
+    QStringList takeNews() override;
 
 private:
     void limitLast();

@@ -41,7 +41,7 @@ void TextAdapter::expect()
         });
 }
 
-QStringList TextAdapter::finishTyping()
+QStringList TextAdapter::takeNews()
 {
     TextEntry* entry = TextEntry::join(edit_);
     return {entry->takeNews(), entry->complaint()};

@@ -17,7 +17,7 @@ public:
     void show(const QString& value) override;
     void take() override { edited(held()); }
     QString held() const override;
-    QStringList finishTyping() override;
+    QStringList takeNews() override;
 
 private:
     void expect();
