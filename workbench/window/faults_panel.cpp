@@ -102,7 +102,8 @@ void FaultsPanel::addDelay(QVBoxLayout* column)
 
 void FaultsPanel::refresh()
 {
-    cable_->setText(vlk::text(tracker_.attached() ? "wb_detach" : "wb_attach"));
+    // Without a letter: the panel also stands in a window over others that have letters of their own.
+    cable_->setText(vlk::plainText(tracker_.attached() ? "wb_detach" : "wb_attach"));
     for (const auto& set : states_)
         set();
 }
