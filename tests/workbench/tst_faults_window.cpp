@@ -1,0 +1,136 @@
+// The window of the faults: F9 over every window, and what it comes up for by itself.
+
+#include "opened_workbench.h"
+#include "window/answer_watch.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+namespace {
+
+QWidget* visibleFaults()
+{
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible() && window->objectName() == QLatin1String("dialog_Faults"))
+            return window;
+    return nullptr;
+}
+
+} // namespace
+
+class FaultsWindowTest : public QObject
+{
+    Q_OBJECT
+
+    struct Bench : OpenedWorkbench
+    {
+        bool start() { return OpenedWorkbench::start(VLK_ECHO_PLUGIN); }
+    };
+
+private Q_SLOTS:
+    // F9 brings the faults over whatever window is in front, with the keyboard, and sends them away again.
+    void bringsFaultsOverEveryWindow()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        QWidget telemetry;
+        QDialog configuration;
+        configuration.setModal(true);
+        configuration.setGeometry(500, 600, 300, 200);
+        QMessageBox question(QMessageBox::Question, {}, QStringLiteral("?"), QMessageBox::Yes,
+                             &configuration);
+        bench.window.showHelp(QStringLiteral("index.html"));
+        auto* help = bench.window.findChild<QDialog*>(QStringLiteral("dialog_Help"));
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        for (QWidget* window : {static_cast<QWidget*>(&bench.window), static_cast<QWidget*>(help), &telemetry,
+                                static_cast<QWidget*>(&configuration), static_cast<QWidget*>(&question)}) {
+            window->show();
+            window->activateWindow();
+            QTRY_VERIFY(window->isActiveWindow());
+            QTest::keyClick(window, Qt::Key_F9);
+            QWidget* faults = visibleFaults();
+            QVERIFY2(faults, window->metaObject()->className());
+            QCOMPARE(faults->parentWidget(), window);
+            QTRY_COMPARE(QApplication::activeWindow(), faults);
+            QVERIFY(screen.contains(faults->frameGeometry()));
+            // A number counts when its typing has ended.
+            auto* delay = faults->findChild<QSpinBox*>(QStringLiteral("spinBox_Delay"));
+            const auto delayMs = [&bench] { return bench.window.session().tracker().faults().delayMs; };
+            for (const auto& [typed, taken] : {std::pair("1500", 1500), {"999999", delay->maximum()}}) {
+                const int before = delayMs();
+                delay->setFocus();
+                delay->selectAll();
+                QTest::keyClicks(QApplication::focusWidget(), typed);
+                QCOMPARE(delayMs(), before);
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Enter);
+                QCOMPARE(delayMs(), taken);
+            }
+            bench.window.session().tracker().setFaults({});
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_F9);
+            QVERIFY(!faults->isVisible());
+            QTRY_COMPARE(QApplication::activeWindow(), window);
+        }
+    }
+
+    // What is no question to the tracker does not bring them up, nor does what came up after it.
+    void faultsComeUninvitedForTheTrackerAlone()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        const auto ask = [&bench] {
+            Q_EMIT bench.window.session().link().passed(vlk::Direction::ToHost, 2242, nullptr, nullptr);
+        };
+        QDialog modal;
+        modal.setModal(true);
+        modal.setGeometry(0, 40, 200, 100);
+        modal.show();
+        ask();
+        {
+            QDialog serverTest;
+            serverTest.setModal(true);
+            serverTest.setGeometry(0, 40, 200, 100);
+            serverTest.show();
+            QTest::qWait(vlk::AnswerWatch::noticeMs + 100);
+            QVERIFY(!visibleFaults());
+        }
+        ask();
+        QTRY_VERIFY(visibleFaults());
+        QWidget* faults = visibleFaults();
+        QCOMPARE(faults->parentWidget(), &modal);
+        QVERIFY(faults->testAttribute(Qt::WA_ShowWithoutActivating));
+        // Beside the modal window they take the mouse, where the panel of the main window is out of reach.
+        const auto click = [](QWidget* window, const char* name) {
+            auto* box = window->findChild<QAbstractButton*>(QLatin1String(name));
+            const QPoint at = box->mapTo(window, QPoint(8, box->height() / 2));
+            QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, at);
+        };
+        const auto silent = [&] { return bench.window.session().tracker().faults().silence; };
+        click(faults, "checkBox_Silence");
+        QTRY_VERIFY(silent());
+        auto* tabs = bench.window.findChild<QTabWidget*>(QStringLiteral("tabWidget_Main"));
+        tabs->setCurrentIndex(2);
+        QVERIFY(tabs->findChild<QAbstractButton*>(QStringLiteral("checkBox_Silence"))->isChecked());
+        click(&bench.window, "checkBox_Silence");
+        QTest::qWait(20);
+        QVERIFY(silent());
+        // Another modal window comes over it, gets them by the key and goes.
+        {
+            QDialog above;
+            above.setModal(true);
+            above.show();
+            QTRY_VERIFY(above.isActiveWindow());
+            QTest::keyClick(&above, Qt::Key_F9);
+            QVERIFY(visibleFaults());
+            QCOMPARE(visibleFaults()->parentWidget(), &above);
+        }
+        QTRY_VERIFY(visibleFaults());
+        QCOMPARE(visibleFaults()->parentWidget(), &modal);
+        modal.close();
+        QVERIFY(!visibleFaults());
+        click(&bench.window, "checkBox_Silence");
+        QTRY_VERIFY(!silent());
+    }
+};
+
+QTEST_MAIN(FaultsWindowTest)
+#include "tst_faults_window.moc"
