@@ -8,7 +8,6 @@
 #include "settings/operators.h"
 #include "settings/quick_settings.h"
 #include "settings/value_text.h"
-#include "windows/aligned_columns.h"
 #include "windows/help_icon.h"
 #include "windows/server_test.h"
 
@@ -94,10 +93,6 @@ void VLK_Form_Config_Light::retranslate()
         button->setAccessibleName(name);
         button->setToolTip(name);
     }
-    vlk::alignColumns({ui_->gridLayout_GSM_1, ui_->gridLayout_RSim_1, ui_->gridLayout_RConnectPeriod,
-                       ui_->gridLayout_Server, ui_->gridLayout_Track_Param, ui_->gridLayout_Lines_In,
-                       ui_->gridLayout_Psw},
-                      4);
 }
 
 void VLK_Form_Config_Light::setDefaults()

@@ -7,8 +7,8 @@
 #include "dialog/widget_config_light.h"
 #include "link/device.h"
 #include "link/requests.h"
-#include "windows/disabled_palette.h"
 #include "windows/fit_to_screen.h"
+#include "windows/kept_palette.h"
 #include "xml/xml_document.h"
 
 #include <QFileInfo>
@@ -20,7 +20,7 @@ VLK_Widget_Config::VLK_Widget_Config(QWidget* parent)
     ui_->setupUi(this);
     setWindowModality(Qt::ApplicationModal);
     vlk::keepLeastSize(this, {1024, 600});
-    vlk::keepDisabledTextReadable(this);
+    vlk::keepPalette(this, vlk::withReadableDisabledText);
     lightWindow_ = new VLK_Widget_Config_Light(this);
     fullWindow_ = new VLK_Widget_Config_Full(this);
     ui_->gridLayout_Light->addWidget(lightWindow_);

@@ -10,7 +10,9 @@
 #include "link/device.h"
 #include "link/requests.h"
 #include "windows/input_guard.h"
+#include "windows/page_look.h"
 #include "windows/vlk_menuaction.h"
+#include "windows/whole_tabs.h"
 #include "xml/xml_document.h"
 
 #include <QCloseEvent>
@@ -26,6 +28,7 @@ VLK_Widget_Config_Full::VLK_Widget_Config_Full(QWidget* parent)
     navigation_ = new vlk::TabNavigation(ui_->tabWidget, {ui_->pushButton_First, ui_->pushButton_PrevScreen,
                                                           ui_->pushButton_Goto, ui_->pushButton_NextScreen,
                                                           ui_->pushButton_Last});
+    new vlk::WholeTabs(ui_->tabWidget);
     connectButtons();
     buildTabs();
     slot_currentChanged_TabWidget(navigation_->current());
@@ -68,6 +71,7 @@ void VLK_Widget_Config_Full::buildTabs()
     pages_->create([this](auto& page) {
         vlk::guardInputs(&page);
         vlk::keepOpenOnEscape(&page);
+        vlk::dressPage(&page);
         page.setTabIndex(navigation_->add(&page, page.title()));
     });
     pages_->forEach([this]<vlk::LimitsTheRecord Page>(Page& page) {

@@ -7,6 +7,7 @@
 #include "dialog/held_button.h"
 #include "link/requests.h"
 #include "windows/input_guard.h"
+#include "windows/page_look.h"
 #include "xml/xml_document.h"
 
 #include <QScrollArea>
@@ -50,6 +51,7 @@ VLK_Form_Config_Light& VLK_Widget_Config_Light::form()
         form_ = new VLK_Form_Config_Light;
         vlk::guardInputs(form_);
         vlk::keepOpenOnEscape(form_);
+        vlk::dressPage(form_);
         area_ = new QScrollArea;
         area_->setWidgetResizable(true);
         area_->setFrameShape(QFrame::NoFrame);

@@ -6,6 +6,7 @@
 #include "settings/accel_settings.h"
 #include "settings/value_text.h"
 #include "windows/numbered_widget.h"
+#include "windows/present_value.h"
 #include "windows/wnd_config_full.h"
 
 #include <QLineEdit>
@@ -81,7 +82,8 @@ VLK_Form_Config_Accel_Virtual::Sensor VLK_Form_Config_Accel_Virtual::makeSensor(
                         vlk::numberedWidget<QLineEdit>("lineEdit_CurLevel_SH%1", number)};
     sensor.levelSlider->setPageStep(kScales[index].levelPage);
     sensor.present->setRange(0, kScales[index].presentEnd);
-    sensor.presentText->setReadOnly(true);
+    vlk::dressPresentValue(sensor.presentText);
+    vlk::dressPresentValue(sensor.present);
     connect(sensor.presentText, &QLineEdit::textChanged, this,
             [this, number](const QString& text) { slot_textChanged_LineEdit_CurLevel_SH(number, text); });
 
@@ -110,7 +112,6 @@ void VLK_Form_Config_Accel_Virtual::setTabOrder()
     for (const Sensor& sensor : sensors_) {
         next(sensor.levelSlider);
         next(sensor.level);
-        next(sensor.presentText);
     }
     for (QWidget* request : QWidgetList{ui_->checkBox_Auto, ui_->spinBox_Auto_TimeOut, ui_->pushButton_Quest,
                                         ui_->pushButton_Reset})

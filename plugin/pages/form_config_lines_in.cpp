@@ -5,7 +5,6 @@
 #include "link/messages.h"
 #include "pages/form_lines_in_settings.h"
 #include "settings/lines_in_settings.h"
-#include "windows/aligned_columns.h"
 #include "windows/wnd_config_full.h"
 
 #include <QtEndian>
@@ -52,12 +51,8 @@ void VLK_Form_Config_Lines_In::retranslate()
     ui_->retranslateUi(this);
     ui_->spinBox_AutoQuest_TimeOut->setSuffix(QLatin1Char(' ') + tr("abbr_003"));
     settings_.retranslate();
-    QList<QGridLayout*> grids{ui_->gridLayout_In1, ui_->gridLayout_In2, ui_->gridLayout_In3};
-    for (VLK_Form_Lines_In_Settings* line : lines_) {
+    for (VLK_Form_Lines_In_Settings* line : lines_)
         line->retranslate();
-        grids += line->grids();
-    }
-    vlk::alignColumns(grids, 4);
 }
 
 void VLK_Form_Config_Lines_In::setDefaults()
@@ -65,7 +60,7 @@ void VLK_Form_Config_Lines_In::setDefaults()
     settings_.setDefaults();
     stopAuto();
     for (VLK_Form_Lines_In_Settings* line : lines_)
-        line->setPresentValue(0);
+        line->clearPresentValue();
 }
 
 void VLK_Form_Config_Lines_In::showUses()

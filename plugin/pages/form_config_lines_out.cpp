@@ -4,7 +4,6 @@
 
 #include "settings/lines_out_settings.h"
 #include "settings/value_text.h"
-#include "windows/aligned_columns.h"
 
 VLK_Form_Config_Lines_Out::VLK_Form_Config_Lines_Out(QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::VLK_Designer_Form_Config_Lines_Out>()),
@@ -23,9 +22,6 @@ void VLK_Form_Config_Lines_Out::retranslate()
     ui_->retranslateUi(this);
     ui_->groupBox_O1->setTitle(QStringLiteral("%1 O1").arg(tr("cfgt10_048")));
     settings_.retranslate();
-    vlk::alignColumns({ui_->gridLayout_O1, ui_->gridLayout_ActivePhase, ui_->gridLayout_PassivePhase,
-                       ui_->gridLayout_TimeAutoSwitchOff, ui_->gridLayout_AutoSwitch_O1},
-                      2);
 }
 
 void VLK_Form_Config_Lines_Out::slot_currentIndexChanged_UseAs_O1(const QString& use)

@@ -16,16 +16,16 @@ namespace {
 
 constexpr int kGap = 12; // between what does not belong together
 
-// A number behind its caption.
+// A number behind its caption, in a row of the first or the second pair of columns.
 template <class Box>
-void addNumber(QHBoxLayout* row, const char* name, int number)
+void addNumber(QGridLayout* grid, int row, int column, const char* name, int number)
 {
     auto* box = vlk::numberedWidget<Box>(name, number);
     auto* label = new QLabel;
     label->setBuddy(box);
-    row->addWidget(label);
-    row->addWidget(box);
-    row->addSpacing(kGap);
+    grid->addWidget(label, row, column);
+    grid->addWidget(box, row, column + 1, Qt::AlignLeft | Qt::AlignVCenter);
+    grid->setColumnStretch(column + 1, 1);
 }
 
 } // namespace
@@ -34,7 +34,6 @@ VLK_Form_Config_Sensors_Temp::VLK_Form_Config_Sensors_Temp(QWidget* parent)
     : QWidget(parent), settings_(vlk::kTemperatureSettings, "cfgt7_001")
 {
     auto* layout = new QVBoxLayout(this);
-    layout->setSpacing(8);
     for (std::size_t i = 0; i < sensors_.size(); ++i) {
         sensors_[i] = makeSensor(static_cast<int>(i) + 1);
         layout->addWidget(sensors_[i].group);
@@ -67,12 +66,11 @@ VLK_Form_Config_Sensors_Temp::Sensor VLK_Form_Config_Sensors_Temp::makeSensor(in
     scale->addWidget(sensor.zones[1]);
     rows->addLayout(scale);
 
-    auto* numbers = new QHBoxLayout;
-    addNumber<QDoubleSpinBox>(numbers, "doubleSpinBox_Left_Temp_%1", number);
-    addNumber<QDoubleSpinBox>(numbers, "doubleSpinBox_Right_Temp_%1", number);
-    addNumber<QSpinBox>(numbers, "spinBox_Hyst_%1", number);
-    numbers->addWidget(vlk::numberedWidget<QCheckBox>("checkBox_Filtr_%1", number));
-    numbers->addStretch();
+    auto* numbers = new QGridLayout;
+    addNumber<QDoubleSpinBox>(numbers, 0, 0, "doubleSpinBox_Left_Temp_%1", number);
+    addNumber<QDoubleSpinBox>(numbers, 0, 2, "doubleSpinBox_Right_Temp_%1", number);
+    addNumber<QSpinBox>(numbers, 1, 0, "spinBox_Hyst_%1", number);
+    numbers->addWidget(vlk::numberedWidget<QCheckBox>("checkBox_Filtr_%1", number), 1, 2);
     rows->addLayout(numbers);
     return sensor;
 }

@@ -3,7 +3,7 @@
 #include "ui_VLK_Designer_Form_Config_System.h"
 
 #include "settings/system_settings.h"
-#include "windows/aligned_columns.h"
+#include "windows/present_value.h"
 #include "windows/wnd_config_full.h"
 #include "windows/zone_colors.h"
 
@@ -19,6 +19,7 @@ VLK_Form_Config_System::VLK_Form_Config_System(QWidget* parent)
         slider->setColorLow(vlk::kTriggerColor);
         slider->setColorHigh(vlk::kRestoreColor);
     }
+    vlk::dressPresentValue(ui_->doubleSpinBox_TuningCur);
     using This = VLK_Form_Config_System;
     connect(ui_->pushButton_TuningCur, &QPushButton::clicked, this, &This::slot_pressed_Btn_TuningCur);
     connect(ui_->pushButton_Psw_Warning, &QPushButton::clicked, this, &This::slot_pressed_Btn_Psw_Warning);
@@ -41,15 +42,11 @@ void VLK_Form_Config_System::retranslate()
     labelEnd(ui_->label_Power_Max, ui_->slider_Power->maximum());
     labelEnd(ui_->label_Fuel_Min, ui_->slider_Fuel->minimum());
     labelEnd(ui_->label_Fuel_Max, ui_->slider_Fuel->maximum());
-    vlk::alignColumns({ui_->gridLayout_Psw, ui_->gridLayout_Time, ui_->gridLayout_NTP_Set,
-                       ui_->gridLayout_NTP_Srv, ui_->gridLayout_Power, ui_->gridLayout_Power_SensLevel,
-                       ui_->gridLayout_Engine, ui_->gridLayout_Fuel, ui_->gridLayout_Slider_Fuel},
-                      4);
 }
 
 void VLK_Form_Config_System::setDefaults()
 {
-    setCurrentSupply(0);
+    vlk::showNoPresentValue(ui_->doubleSpinBox_TuningCur);
     settings_.setDefaults();
 }
 
@@ -65,7 +62,7 @@ void VLK_Form_Config_System::deviceDisconnected()
 
 void VLK_Form_Config_System::setCurrentSupply(int millivolts)
 {
-    ui_->doubleSpinBox_TuningCur->setValue(millivolts / 1000.0);
+    vlk::showPresentValue(ui_->doubleSpinBox_TuningCur, millivolts / 1000.0);
 }
 
 void VLK_Form_Config_System::setVoltage(const char* path, double volts)

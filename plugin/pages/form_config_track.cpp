@@ -3,7 +3,6 @@
 #include "ui_VLK_Designer_Form_Config_Track.h"
 
 #include "settings/track_settings.h"
-#include "windows/aligned_columns.h"
 #include "windows/wnd_config_full.h"
 
 VLK_Form_Config_Track::VLK_Form_Config_Track(QWidget* parent)
@@ -24,9 +23,6 @@ void VLK_Form_Config_Track::retranslate()
 {
     ui_->retranslateUi(this);
     settings_.retranslate();
-    vlk::alignColumns({ui_->gridLayout_Always, ui_->gridLayout_Additional, ui_->gridLayout_Restriction,
-                       ui_->gridLayout_RejectCoord, ui_->gridLayout_MoveSens, ui_->gridLayout_GNSS},
-                      4);
 }
 
 void VLK_Form_Config_Track::slot_pressed_BtnParkingAccel()

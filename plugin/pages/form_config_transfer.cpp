@@ -5,7 +5,6 @@
 #include "pages/form_auto_apn_list_new.h"
 #include "pages/form_list_oper_roaming.h"
 #include "settings/transfer_settings.h"
-#include "windows/aligned_columns.h"
 #include "windows/server_test.h"
 
 #include <QRandomGenerator>
@@ -69,13 +68,6 @@ void VLK_Form_Config_Transfer::retranslate()
     roamingList_->retranslate();
     settings_.retranslate();
     settings_.selectFirstItems();
-    vlk::alignColumns({ui_->gridLayout_Name, ui_->gridLayout_GSM_1, ui_->gridLayout_Servers,
-                       ui_->gridLayout_Main, ui_->gridLayout_Reserv_1, ui_->gridLayout_Reserv_2,
-                       ui_->gridLayout_Srv_Operation, ui_->gridLayout_Permanent_Connect,
-                       ui_->gridLayout_Periodic_Connect, ui_->gridLayout_Crypto, ui_->gridLayout_Roaming,
-                       ui_->gridLayout_RConnectPeriod, ui_->gridLayout_RPerion, ui_->gridLayout_RBlock,
-                       ui_->gridLayout_QSP},
-                      4);
 }
 
 // The lists that choose what is seen of the servers; no file knows them.

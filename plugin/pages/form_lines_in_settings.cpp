@@ -3,9 +3,11 @@
 #include "ui_VLK_Designer_Form_Lines_In_Settings.h"
 
 #include "settings/lines_in_settings.h"
-#include "windows/aligned_columns.h"
 #include "windows/binder/page_settings.h"
+#include "windows/present_value.h"
 #include "windows/zone_colors.h"
+
+#include <QEvent>
 
 #include <algorithm>
 
@@ -45,6 +47,8 @@ VLK_Form_Lines_In_Settings::VLK_Form_Lines_In_Settings(QWidget* parent)
     connect(ui_->pushButton_FRQ_ThldBand, &QPushButton::clicked, this, &This::slot_pressed_Btn_FRQ_ThldBand);
     connect(ui_->pushButton_TAHO_ThldBand, &QPushButton::clicked, this,
             &This::slot_pressed_Btn_TAHO_ThldBand);
+    for (QDoubleSpinBox* box : presentValues())
+        vlk::dressPresentValue(box);
     retranslate();
     setUse(QStringLiteral("NU"));
 }
@@ -58,16 +62,22 @@ void VLK_Form_Lines_In_Settings::retranslate()
     for (QLabel* label :
          {ui_->label_PLS_ThldBand_Min, ui_->label_FRQ_ThldBand_Min, ui_->label_TAHO_ThldBand_Min})
         label->setText(QStringLiteral("0 %1").arg(volt));
-    for (QDoubleSpinBox* box : {ui_->doubleSpinBox_AIN_Cur, ui_->doubleSpinBox_PLS_AIN_Cur,
-                                ui_->doubleSpinBox_FRQ_AIN_Cur, ui_->doubleSpinBox_TAHO_AIN_Cur})
+    for (QDoubleSpinBox* box : presentValues())
         box->setSuffix(QLatin1Char(' ') + volt);
     showZones();
-    vlk::alignColumns({ui_->gridLayout_PLS, ui_->gridLayout_PLS_Work}, 4);
 }
 
-QList<QGridLayout*> VLK_Form_Lines_In_Settings::grids() const
+std::array<QDoubleSpinBox*, 4> VLK_Form_Lines_In_Settings::presentValues() const
 {
-    return {ui_->gridLayout_NB, ui_->gridLayout_AIN, ui_->gridLayout_UI};
+    return {ui_->doubleSpinBox_AIN_Cur, ui_->doubleSpinBox_PLS_AIN_Cur, ui_->doubleSpinBox_FRQ_AIN_Cur,
+            ui_->doubleSpinBox_TAHO_AIN_Cur};
+}
+
+bool VLK_Form_Lines_In_Settings::event(QEvent* event)
+{
+    if (event->type() == QEvent::LayoutRequest)
+        fitHeight();
+    return QWidget::event(event);
 }
 
 void VLK_Form_Lines_In_Settings::setUse(const QString& code)
@@ -121,15 +131,19 @@ void VLK_Form_Lines_In_Settings::showZones()
 
 void VLK_Form_Lines_In_Settings::setPresentValue(double volts)
 {
-    setPresentAinValue(volts);
-    ui_->doubleSpinBox_PLS_AIN_Cur->setValue(volts);
-    ui_->doubleSpinBox_FRQ_AIN_Cur->setValue(volts);
-    ui_->doubleSpinBox_TAHO_AIN_Cur->setValue(volts);
+    for (QDoubleSpinBox* box : presentValues())
+        vlk::showPresentValue(box, volts);
+}
+
+void VLK_Form_Lines_In_Settings::clearPresentValue()
+{
+    for (QDoubleSpinBox* box : presentValues())
+        vlk::showNoPresentValue(box);
 }
 
 void VLK_Form_Lines_In_Settings::setPresentAinValue(double volts)
 {
-    ui_->doubleSpinBox_AIN_Cur->setValue(volts);
+    vlk::showPresentValue(ui_->doubleSpinBox_AIN_Cur, volts);
 }
 
 void VLK_Form_Lines_In_Settings::slot_valueChanged_SpinBox_PLS_Work(int /*value*/)

@@ -4,12 +4,12 @@
 // needs. Embedded once a line in the Input lines page, whose settings fill its widgets. What is its own: the
 // page on show, the zones of the threshold slider, and the line's present voltage, in volts.
 
-#include <QList>
 #include <QWidget>
 
+#include <array>
 #include <memory>
 
-class QGridLayout;
+class QDoubleSpinBox;
 
 namespace vlk {
 class PageSettings;
@@ -30,8 +30,6 @@ public:
     // Those that the widgets belong to; they have to live as long as the form.
     void setSettings(vlk::PageSettings* settings) { settings_ = settings; }
     void retranslate();
-    // Those whose columns go with the columns of the page around the form.
-    QList<QGridLayout*> grids() const;
 
     // Shows the page of a use ("NB+"); an unknown one leaves the page as it is.
     void setUse(const QString& code);
@@ -40,6 +38,8 @@ public:
     // In all boxes that show the line's voltage, or in that of the discrete input alone.
     void setPresentValue(double volts);
     void setPresentAinValue(double volts);
+    // Until the tracker answers.
+    void clearPresentValue();
 
 public Q_SLOTS:
     void slot_value1Changed_AIN_Left(double) { take("doubleSpinBox_AIN_Left"); }
@@ -60,7 +60,11 @@ public Q_SLOTS:
     void slot_valueChanged_Slider_TAHO_ThldBand(int) { take("horizontalSlider_TAHO_ThldBand"); }
     void slot_valueChanged_DSpinBox_TAHO_ThldBand(double) { take("doubleSpinBox_TAHO_ThldBand"); }
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
+    std::array<QDoubleSpinBox*, 4> presentValues() const;
     void take(const char* widget);
     void fitHeight();
     void showZones();

@@ -1,4 +1,4 @@
-#include "windows/disabled_palette.h"
+#include "windows/kept_palette.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -7,6 +7,8 @@
 namespace vlk {
 
 namespace {
+
+using Change = QPalette (*)(QPalette);
 
 QColor between(const QColor& one, const QColor& other)
 {
@@ -17,7 +19,7 @@ QColor between(const QColor& one, const QColor& other)
 class PaletteKeeper : public QObject
 {
 public:
-    explicit PaletteKeeper(QWidget* window) : QObject(window) { set(window); }
+    PaletteKeeper(QWidget* widget, Change change) : QObject(widget), change_(change) { set(widget); }
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
@@ -27,13 +29,17 @@ public:
     }
 
 private:
-    static void set(QWidget* window)
-    {
-        window->setPalette(withReadableDisabledText(QApplication::palette(window)));
-    }
+    void set(QWidget* widget) const { widget->setPalette(change_(QApplication::palette(widget))); }
+
+    const Change change_;
 };
 
 } // namespace
+
+void keepPalette(QWidget* widget, Change change)
+{
+    widget->installEventFilter(new PaletteKeeper(widget, change));
+}
 
 QPalette withReadableDisabledText(QPalette palette)
 {
@@ -43,9 +49,11 @@ QPalette withReadableDisabledText(QPalette palette)
     return palette;
 }
 
-void keepDisabledTextReadable(QWidget* window)
+QPalette ofPresentValue(QPalette palette)
 {
-    window->installEventFilter(new PaletteKeeper(window));
+    palette.setColor(QPalette::Base, palette.color(QPalette::Active, QPalette::Window));
+    palette.setColor(QPalette::Disabled, QPalette::Text, palette.color(QPalette::Active, QPalette::Text));
+    return palette;
 }
 
 } // namespace vlk

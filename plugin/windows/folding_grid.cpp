@@ -1,0 +1,205 @@
+#include "windows/folding_grid.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <algorithm>
+
+namespace vlk {
+
+namespace {
+
+constexpr int kColumnsOfPair = 2;
+
+bool isCaption(QLayoutItem* item)
+{
+    return qobject_cast<QLabel*>(item->widget()) || qobject_cast<QAbstractButton*>(item->widget());
+}
+
+bool isField(QLayoutItem* item)
+{
+    return qobject_cast<QLineEdit*>(item->widget()) || qobject_cast<QComboBox*>(item->widget());
+}
+
+} // namespace
+
+FoldingGrid::FoldingGrid(QGridLayout* grid, Order order) : grid_(grid), order_(order) {}
+
+bool FoldingGrid::isOne(const QGridLayout* grid)
+{
+    const int columns = grid->columnCount();
+    const auto isPair = [&](int column) {
+        return grid->columnStretch(column) == 0 && grid->columnStretch(column + 1) == 1;
+    };
+    return (columns == kColumnsOfPair && isPair(0)) ||
+           (columns == 2 * kColumnsOfPair && isPair(0) && isPair(kColumnsOfPair));
+}
+
+QList<QLayoutItem*> FoldingGrid::items() const
+{
+    QList<QLayoutItem*> all;
+    for (int i = 0; grid_ && i < grid_->count(); ++i)
+        all << grid_->itemAt(i);
+    return all;
+}
+
+// No field beside it in its pair.
+bool FoldingGrid::isAlone(const Place& place) const
+{
+    const auto all = items();
+    return std::none_of(all.begin(), all.end(), [&](QLayoutItem* other) {
+        const Place& beside = places_[other];
+        return beside.row == place.row && beside.column == place.column + 1;
+    });
+}
+
+void FoldingGrid::learn()
+{
+    const auto all = items();
+    for (auto known = places_.begin(); known != places_.end();)
+        known = all.contains(known.key()) ? std::next(known) : places_.erase(known);
+    QList<QLayoutItem*> fresh;
+    for (QLayoutItem* item : all) {
+        if (places_.contains(item))
+            continue;
+        Place place{};
+        grid_->getItemPosition(grid_->indexOf(item), &place.row, &place.column, &place.rows, &place.columns);
+        places_.insert(item, place);
+        fresh << item;
+        hasSecondPair_ = hasSecondPair_ || place.column >= kColumnsOfPair;
+    }
+    // The words of a check box may run on where no field follows.
+    for (QLayoutItem* item : fresh) {
+        Place& place = places_[item];
+        if (place.columns == 1 && place.column % kColumnsOfPair == 0 &&
+            qobject_cast<QAbstractButton*>(item->widget()) && !qobject_cast<QPushButton*>(item->widget()) &&
+            isAlone(place)) {
+            place.columns = kColumnsOfPair;
+            grid_->removeItem(item);
+            putBack(item, place);
+        }
+    }
+}
+
+QWidgetList FoldingGrid::captions() const
+{
+    QWidgetList found;
+    for (QLayoutItem* item : items()) {
+        const Place& place = places_[item];
+        if (place.columns == 1 && place.column % kColumnsOfPair == 0 && isCaption(item))
+            found << item->widget();
+    }
+    return found;
+}
+
+FoldingGrid::Needs FoldingGrid::needs(int pair) const
+{
+    Needs needs;
+    for (QLayoutItem* item : items()) {
+        const Place& place = places_[item];
+        if (place.column / kColumnsOfPair != pair || item->isEmpty() || place.columns > kColumnsOfPair)
+            continue;
+        const int column = place.column % kColumnsOfPair;
+        int& need = place.columns > 1 ? needs.across : column == 0 ? needs.captions : needs.fields;
+        need = std::max(need, item->minimumSize().width());
+    }
+    return needs;
+}
+
+int FoldingGrid::wholeWidth() const
+{
+    int width = 0;
+    for (QLayoutItem* item : items()) {
+        if (places_[item].columns > kColumnsOfPair && !item->isEmpty())
+            width = std::max(width, item->minimumSize().width());
+    }
+    return width;
+}
+
+QHash<QLayoutItem*, FoldingGrid::Place> FoldingGrid::foldedPlaces() const
+{
+    const auto all = items();
+    QHash<QLayoutItem*, Place> folded;
+    int next = 0;
+    const auto put = [&](int row, int pair) {
+        bool any = false;
+        for (QLayoutItem* item : all) {
+            const Place& place = places_[item];
+            if (place.row != row || place.column / kColumnsOfPair != pair)
+                continue;
+            const int column = place.column % kColumnsOfPair;
+            // Fields are equally wide and a button stands below them; what else stands across all columns
+            // stays there.
+            if (qobject_cast<QPushButton*>(item->widget()) || (column == 1 && isField(item)))
+                folded.insert(item, {next, 1, 1, 1});
+            else if (place.columns > kColumnsOfPair - column)
+                folded.insert(item, {next, column, 1, 2 * kColumnsOfPair - column});
+            else
+                folded.insert(item, {next, column, 1, place.columns});
+            any = true;
+        }
+        next += any ? 1 : 0;
+    };
+    const auto isWhole = [&](int row) {
+        return std::any_of(all.begin(), all.end(), [&](QLayoutItem* item) {
+            return places_[item].row == row && places_[item].columns > kColumnsOfPair;
+        });
+    };
+    int last = -1;
+    for (QLayoutItem* item : all)
+        last = std::max(last, places_[item].row);
+    for (int row = 0; row <= last;) {
+        int end = row + 1;
+        while (order_ == Order::columns && end <= last && !isWhole(row) && !isWhole(end))
+            ++end;
+        for (const int pair : {0, 1}) {
+            for (int one = row; one < end; ++one)
+                put(one, pair);
+        }
+        row = end;
+    }
+    return folded;
+}
+
+void FoldingGrid::putBack(QLayoutItem* item, const Place& place) const
+{
+    if (QLayout* inner = item->layout())
+        grid_->addLayout(inner, place.row, place.column, place.rows, place.columns, item->alignment());
+    else
+        grid_->addItem(item, place.row, place.column, place.rows, place.columns, item->alignment());
+}
+
+void FoldingGrid::fold(bool folded)
+{
+    if (!grid_ || folded == folded_ || !hasSecondPair_)
+        return;
+    const QHash<QLayoutItem*, Place> places = folded ? foldedPlaces() : places_;
+    const auto all = items();
+    for (QLayoutItem* item : all)
+        grid_->removeItem(item);
+    for (QLayoutItem* item : all)
+        putBack(item, places[item]);
+    folded_ = folded;
+}
+
+void FoldingGrid::setOnePair(int captions, int fields) const
+{
+    setTwoPairs(captions, fields, 0);
+    // What the fields do not take stays empty behind them.
+    grid_->setColumnStretch(1, fields > 0 ? 0 : 1);
+    grid_->setColumnStretch(3, fields > 0 ? 1 : 0);
+}
+
+void FoldingGrid::setTwoPairs(int captions, int fields, int secondCaptions) const
+{
+    const int minimum[] = {captions, fields, secondCaptions};
+    for (int column = 0; column < 3; ++column)
+        grid_->setColumnMinimumWidth(column, minimum[column]);
+    grid_->setColumnStretch(1, 1);
+    grid_->setColumnStretch(3, 1);
+}
+
+} // namespace vlk

@@ -1,0 +1,307 @@
+#include "windows/page_look.h"
+
+#include "windows/folding_grid.h"
+#include "windows/page_style.h"
+
+#include <QAbstractButton>
+#include <QAbstractSpinBox>
+#include <QCheckBox>
+#include <QEvent>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyleOptionSpinBox>
+
+#include <algorithm>
+#include <map>
+#include <vector>
+
+namespace vlk {
+
+namespace {
+
+constexpr int kPageMargin = 9;
+constexpr int kRowGap = 6;
+constexpr int kColumnGap = 8;
+constexpr int kGroupGap = 12;
+constexpr int kGroupIndent = 16;
+constexpr int kWidestCaption = 260;
+constexpr int kDigits[] = {6, 10, 16}; // widths of number boxes
+constexpr int kLettersOfText = 14;     // what a line of text shows at least
+constexpr int kWidestField = 480;
+constexpr char kRowSpacing[] = "rowSpacing"; // of boxes that stand side by side, in a property
+
+// From the edges of the page to those of a layout.
+QMargins insetOf(const QLayout* layout, const QWidget* page)
+{
+    QMargins inset;
+    const QObject* next = layout;
+    while (next && next != page) {
+        if (const auto* one = qobject_cast<const QLayout*>(next)) {
+            inset += one->contentsMargins();
+            next = one->parent();
+            continue;
+        }
+        const auto* widget = static_cast<const QWidget*>(next);
+        inset += widget->contentsMargins();
+        const QWidget* outer = widget->parentWidget();
+        next = outer && outer->layout() ? static_cast<const QObject*>(outer->layout()) : outer;
+    }
+    return inset;
+}
+
+// Of one line, whatever the label does now.
+int captionWidth(const QWidget* caption)
+{
+    const auto* label = qobject_cast<const QLabel*>(caption);
+    if (!label || !label->wordWrap())
+        return caption->sizeHint().width();
+    return label->fontMetrics().size(Qt::TextShowMnemonic, label->text()).width() + 2 * label->margin();
+}
+
+class PageLook : public QObject
+{
+public:
+    explicit PageLook(QWidget* page) : QObject(page), page_(page), style_(PageStyle::shared())
+    {
+        page->installEventFilter(this);
+        watchParent();
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const auto type = event->type();
+        if (watched == page_ && type == QEvent::ParentChange) {
+            watchParent();
+        } else if (watched == page_ ? type == QEvent::LayoutRequest || type == QEvent::Show
+                                    : type == QEvent::Resize && watched == page_->parentWidget()) {
+            refresh();
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    void watchParent()
+    {
+        if (QWidget* viewport = page_->parentWidget())
+            viewport->installEventFilter(this);
+    }
+    void refresh();
+    void dressGroups();
+    void giveWordsToBoxes();
+    void dressFields();
+    void findGrids();
+    int room() const;
+    void stackBoxes(QBoxLayout* row, int width);
+    void lineUp();
+
+    QWidget* const page_;
+    const std::shared_ptr<PageStyle> style_;
+    std::map<QGridLayout*, FoldingGrid> grids_;
+    bool busy_ = false;
+};
+
+void PageLook::refresh()
+{
+    if (busy_ || !page_->isVisible())
+        return;
+    busy_ = true;
+    dressGroups();
+    giveWordsToBoxes();
+    findGrids();
+    dressFields();
+    lineUp();
+    busy_ = false;
+}
+
+void PageLook::dressGroups()
+{
+    if (QLayout* layout = page_->layout()) {
+        layout->setContentsMargins(kPageMargin, kPageMargin, kPageMargin, kPageMargin);
+        if (auto* box = qobject_cast<QBoxLayout*>(layout))
+            box->setSpacing(kGroupGap);
+    }
+    for (QGroupBox* group : page_->findChildren<QGroupBox*>()) {
+        if (group->style() == style_.get())
+            continue;
+        group->setStyle(style_.get());
+        QLayout* layout = group->layout();
+        if (layout && !group->title().isEmpty())
+            layout->setContentsMargins(kGroupIndent, kRowGap, isInnerGroup(group) ? 0 : kPageMargin,
+                                       isInnerGroup(group) ? 0 : kPageMargin);
+    }
+}
+
+// A check box beside its words takes them: a click on them is one on the box.
+void PageLook::giveWordsToBoxes()
+{
+    for (QLabel* label : page_->findChildren<QLabel*>()) {
+        auto* box = qobject_cast<QCheckBox*>(label->buddy());
+        if (!box || (!box->text().isEmpty() && !label->isHidden()))
+            continue;
+        if (box->text() != label->text())
+            box->setText(label->text());
+        label->hide();
+    }
+}
+
+void PageLook::findGrids()
+{
+    for (auto known = grids_.begin(); known != grids_.end();)
+        known = known->second.grid() ? std::next(known) : grids_.erase(known);
+    for (QGridLayout* grid : page_->findChildren<QGridLayout*>()) {
+        if (!grids_.count(grid) && FoldingGrid::isOne(grid)) {
+            const bool byColumns = grid->parentWidget()->property("byColumns").toBool();
+            const auto order = byColumns ? FoldingGrid::Order::columns : FoldingGrid::Order::rows;
+            grids_.emplace(grid, FoldingGrid(grid, order));
+            grid->setHorizontalSpacing(kColumnGap);
+            grid->setVerticalSpacing(kRowGap);
+        }
+    }
+    for (auto& [key, grid] : grids_)
+        grid.learn();
+}
+
+// In one of three widths, the same for all that stand in one column.
+void PageLook::dressFields()
+{
+    std::map<std::pair<const QObject*, int>, std::vector<QAbstractSpinBox*>> columns;
+    for (auto& [key, grid] : grids_) {
+        for (int i = 0; i < key->count(); ++i) {
+            int row = 0;
+            int column = 0;
+            int rows = 0;
+            int span = 0;
+            key->getItemPosition(i, &row, &column, &rows, &span);
+            if (auto* box = qobject_cast<QAbstractSpinBox*>(key->itemAt(i)->widget()))
+                columns[{key, column}].push_back(box);
+            else if (auto* edit = qobject_cast<QLineEdit*>(key->itemAt(i)->widget()))
+                edit->setMinimumWidth(kLettersOfText * edit->fontMetrics().averageCharWidth());
+        }
+    }
+    for (const auto& [key, boxes] : columns) {
+        int width = 0;
+        for (QAbstractSpinBox* box : boxes) {
+            QStyleOptionSpinBox option;
+            option.initFrom(box);
+            option.frame = true;
+            const auto widthOf = [&](int digits) {
+                const QSize text(digits * box->fontMetrics().horizontalAdvance(QLatin1Char('0')), 10);
+                return box->style()->sizeFromContents(QStyle::CT_SpinBox, &option, text, box).width();
+            };
+            const int needed = box->sizeHint().width();
+            const auto* fits = std::find_if(std::begin(kDigits), std::end(kDigits),
+                                            [&](int digits) { return widthOf(digits) >= needed; });
+            width = std::max(width, fits == std::end(kDigits) ? needed : widthOf(*fits));
+        }
+        for (QAbstractSpinBox* box : boxes)
+            box->setMinimumWidth(width);
+    }
+}
+
+// A vertical scroll bar that is not there yet takes its room all the same: what one form makes appear must
+// not call for the other one.
+int PageLook::room() const
+{
+    const QWidget* viewport = page_->parentWidget();
+    const auto* area = qobject_cast<const QScrollArea*>(viewport ? viewport->parentWidget() : nullptr);
+    if (!area)
+        return page_->width();
+    return area->width() - 2 * area->frameWidth() - area->verticalScrollBar()->sizeHint().width();
+}
+
+void PageLook::lineUp()
+{
+    // Captions that are longer than a caption may be take two lines. A check box with a field beside it
+    // cannot.
+    int widest = kWidestCaption;
+    for (auto& [key, grid] : grids_) {
+        for (const QWidget* caption : grid.captions()) {
+            if (qobject_cast<const QAbstractButton*>(caption) && !caption->isHidden())
+                widest = std::max(widest, caption->sizeHint().width());
+        }
+    }
+    for (auto& [key, grid] : grids_) {
+        for (QWidget* caption : grid.captions()) {
+            if (auto* label = qobject_cast<QLabel*>(caption)) {
+                const int width = captionWidth(label);
+                const bool wraps = width > widest && label->textFormat() != Qt::RichText;
+                label->setWordWrap(wraps);
+                label->setMinimumWidth(wraps ? widest : 0);
+            }
+        }
+    }
+
+    const int all = room();
+    int captions[] = {0, 0};
+    int fields[] = {0, 0};
+    int across[] = {0, 0};
+    int right = 0;
+    for (auto& [key, grid] : grids_) {
+        const QMargins margins = insetOf(key, page_);
+        const int inset = margins.left();
+        right = std::max(right, margins.right());
+        for (const int pair : {0, 1}) {
+            const FoldingGrid::Needs needs = grid.needs(pair);
+            const int before = pair == 0 ? inset : 0;
+            captions[pair] = std::max(captions[pair], needs.captions + before);
+            fields[pair] = std::max(fields[pair], needs.fields);
+            across[pair] = std::max(across[pair], needs.across + before);
+        }
+    }
+    const auto pairWidth = [&](int pair) {
+        return std::max(captions[pair] + kColumnGap + fields[pair], across[pair]);
+    };
+    const bool folds = pairWidth(0) + kColumnGap + pairWidth(1) + right > all;
+    const int first = folds ? std::max(captions[0], captions[1]) : captions[0];
+    for (auto& [key, grid] : grids_) {
+        grid.fold(folds);
+        const int caption = first - insetOf(key, page_).left();
+        if (folds || !grid.hasSecondPair())
+            grid.setOnePair(caption, all - right - first - kColumnGap > kWidestField ? kWidestField : 0);
+        else
+            grid.setTwoPairs(caption, fields[0], captions[1]);
+    }
+    for (QBoxLayout* row : page_->findChildren<QBoxLayout*>())
+        stackBoxes(row, all - insetOf(row, page_).left() - insetOf(row, page_).right());
+}
+
+// Groups or boxes that stand side by side stand below each other where there is no room for all.
+void PageLook::stackBoxes(QBoxLayout* row, int width)
+{
+    if (row->property(kRowSpacing).isNull() && row->direction() != QBoxLayout::LeftToRight)
+        return;
+    int needed = 0;
+    int boxes = 0;
+    bool hasGroups = false;
+    for (int i = 0; i < row->count(); ++i) {
+        QLayoutItem* item = row->itemAt(i);
+        QWidget* widget = item->widget();
+        if (!widget && item->spacerItem())
+            continue;
+        const bool isBox = qobject_cast<QAbstractButton*>(widget) || qobject_cast<QGroupBox*>(widget);
+        if (!isBox && !qobject_cast<QLabel*>(widget))
+            return;
+        boxes += isBox ? 1 : 0;
+        hasGroups = hasGroups || qobject_cast<QGroupBox*>(widget);
+        needed += item->minimumSize().width() + (i > 0 ? row->spacing() : 0);
+    }
+    if (boxes < 2)
+        return;
+    if (row->property(kRowSpacing).isNull())
+        row->setProperty(kRowSpacing, row->spacing());
+    const bool stacks = needed > width;
+    row->setDirection(stacks ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    row->setSpacing(stacks && !hasGroups ? kRowGap : row->property(kRowSpacing).toInt());
+}
+
+} // namespace
+
+void dressPage(QWidget* page)
+{
+    new PageLook(page);
+}
+
+} // namespace vlk

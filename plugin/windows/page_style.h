@@ -1,0 +1,37 @@
+#pragma once
+
+// How the parts of a settings page are drawn: titles of groups stand out and are whole, only the outermost
+// group has a frame, tabs stand close together, and a slider that shows a measured value is a bar. It is set
+// on the single widgets; whatever else they do is the application's own style.
+
+#include <QProxyStyle>
+
+#include <memory>
+
+class QWidget;
+
+namespace vlk {
+
+class PageStyle : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    // One for all that hold it.
+    static std::shared_ptr<PageStyle> shared();
+
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget = nullptr) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                         const QWidget* widget = nullptr) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option = nullptr,
+                    const QWidget* widget = nullptr) const override;
+
+private:
+    using QProxyStyle::QProxyStyle;
+};
+
+// A group that stands in another one.
+bool isInnerGroup(const QWidget* group);
+
+} // namespace vlk
