@@ -13,6 +13,7 @@
 #include <QGroupBox>
 
 #include <algorithm>
+#include <map>
 
 namespace vlk {
 
@@ -71,6 +72,54 @@ DataSetBoxesTab::DataSetBoxesTab(DataSetTab which, int index, const char* title,
             grid->setRowStretch(row.row + row.rows - 1, 1);
     }
     grid->setRowStretch(grid->rowCount(), 1);
+}
+
+bool DataSetBoxesTab::event(QEvent* event)
+{
+    if (event->type() == QEvent::ParentChange && parentWidget())
+        parentWidget()->installEventFilter(this);
+    else if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show)
+        placeGroups();
+    return VLK_Form_Config_Set_Zeta3_Tab::event(event);
+}
+
+bool DataSetBoxesTab::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == parentWidget() && event->type() == QEvent::Resize)
+        placeGroups();
+    return VLK_Form_Config_Set_Zeta3_Tab::eventFilter(watched, event);
+}
+
+// Below each other where there is no room for them side by side.
+void DataSetBoxesTab::placeGroups()
+{
+    auto* grid = static_cast<QGridLayout*>(layout());
+    std::map<int, int> columns;
+    for (const Group& group : groups_) {
+        int& width = columns[group.row->column];
+        if (!group.widget->isHidden())
+            width = std::max(width, group.widget->minimumSizeHint().width());
+    }
+    int needed = grid->contentsMargins().left() + grid->contentsMargins().right();
+    for (const auto& [column, width] : columns)
+        needed += width + (width > 0 && column > 0 ? grid->horizontalSpacing() : 0);
+    const bool inOneColumn = parentWidget() && needed > parentWidget()->width();
+    if (inOneColumn == inOneColumn_)
+        return;
+    inOneColumn_ = inOneColumn;
+    int place = 0;
+    for (const auto& [column, width] : columns) {
+        grid->setColumnStretch(column, inOneColumn && column > 0 ? 0 : 1);
+        for (const Group& group : groups_) {
+            if (group.row->column != column)
+                continue;
+            grid->removeWidget(group.widget);
+            if (inOneColumn)
+                grid->addWidget(group.widget, place++, 0, Qt::AlignTop);
+            else
+                grid->addWidget(group.widget, group.row->row, column, group.row->rows, 1, Qt::AlignTop);
+        }
+    }
 }
 
 void DataSetBoxesTab::makeBox(const DataSetBox& row, Group& group)

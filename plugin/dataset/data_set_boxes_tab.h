@@ -38,6 +38,8 @@ public Q_SLOTS:
     void slot_stateChanged(QWidget* box);
 
 protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     // The box or list of this object name.
     QWidget* box(const char* name) const;
 
@@ -57,6 +59,7 @@ private:
         int nextRow = 0;
     };
 
+    void placeGroups();
     void makeBox(const DataSetBox& row, Group& group);
     void place(const DataSetBox& row, QWidget* widget, Group& group);
     void fill(MaskVersion version, QString& mask) const;
@@ -66,6 +69,7 @@ private:
     const char* const titleKey_;
     std::vector<Group> groups_;
     std::vector<Box> boxes_;
+    bool inOneColumn_ = false;
 };
 
 } // namespace vlk

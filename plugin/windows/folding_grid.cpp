@@ -19,6 +19,12 @@ bool isCaption(QLayoutItem* item)
     return qobject_cast<QLabel*>(item->widget()) || qobject_cast<QAbstractButton*>(item->widget());
 }
 
+bool isButton(QLayoutItem* item)
+{
+    QLayoutItem* first = item->layout() ? item->layout()->itemAt(0) : item;
+    return first && qobject_cast<QPushButton*>(first->widget());
+}
+
 bool isField(QLayoutItem* item)
 {
     return qobject_cast<QLineEdit*>(item->widget()) || qobject_cast<QComboBox*>(item->widget());
@@ -133,7 +139,7 @@ QHash<QLayoutItem*, FoldingGrid::Place> FoldingGrid::foldedPlaces() const
             const int column = place.column % kColumnsOfPair;
             // Fields are equally wide and a button stands below them; what else stands across all columns
             // stays there.
-            if (qobject_cast<QPushButton*>(item->widget()) || (column == 1 && isField(item)))
+            if ((pair == 1 && isButton(item)) || (column == 1 && isField(item)))
                 folded.insert(item, {next, 1, 1, 1});
             else if (place.columns > kColumnsOfPair - column)
                 folded.insert(item, {next, column, 1, 2 * kColumnsOfPair - column});
@@ -183,23 +189,43 @@ void FoldingGrid::fold(bool folded)
     for (QLayoutItem* item : all)
         putBack(item, places[item]);
     folded_ = folded;
+    tellOuter();
+}
+
+// Nothing tells the layouts around a hidden page of its new size.
+void FoldingGrid::tellOuter() const
+{
+    QWidget* outer = grid_->parentWidget();
+    for (; outer && !outer->isVisible(); outer = outer->parentWidget())
+        outer->updateGeometry();
+    if (outer)
+        outer->updateGeometry();
 }
 
 void FoldingGrid::setOnePair(int captions, int fields) const
 {
-    setTwoPairs(captions, fields, 0);
     // What the fields do not take stays empty behind them.
-    grid_->setColumnStretch(1, fields > 0 ? 0 : 1);
-    grid_->setColumnStretch(3, fields > 0 ? 1 : 0);
+    const bool isLimited = fields > 0;
+    setColumns({captions, fields, 0}, isLimited ? 0 : 1, isLimited ? 1 : 0);
 }
 
 void FoldingGrid::setTwoPairs(int captions, int fields, int secondCaptions) const
 {
-    const int minimum[] = {captions, fields, secondCaptions};
-    for (int column = 0; column < 3; ++column)
-        grid_->setColumnMinimumWidth(column, minimum[column]);
-    grid_->setColumnStretch(1, 1);
-    grid_->setColumnStretch(3, 1);
+    setColumns({captions, fields, secondCaptions}, 1, 1);
+}
+
+void FoldingGrid::setColumns(const std::array<int, 3>& widths, int firstStretch, int secondStretch) const
+{
+    bool changes = false;
+    for (int column = 0; column < 3; ++column) {
+        const int width = widths[static_cast<std::size_t>(column)];
+        changes = changes || grid_->columnMinimumWidth(column) != width;
+        grid_->setColumnMinimumWidth(column, width);
+    }
+    grid_->setColumnStretch(1, firstStretch);
+    grid_->setColumnStretch(3, secondStretch);
+    if (changes)
+        tellOuter();
 }
 
 } // namespace vlk

@@ -8,6 +8,8 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <array>
+
 namespace vlk {
 
 class FoldingGrid
@@ -53,6 +55,8 @@ private:
     bool isAlone(const Place& place) const;
     void putBack(QLayoutItem* item, const Place& place) const;
     QHash<QLayoutItem*, Place> foldedPlaces() const;
+    void setColumns(const std::array<int, 3>& widths, int firstStretch, int secondStretch) const;
+    void tellOuter() const;
 
     QPointer<QGridLayout> grid_;
     Order order_;

@@ -51,7 +51,7 @@ QPalette withReadableDisabledText(QPalette palette)
 
 QPalette ofPresentValue(QPalette palette)
 {
-    palette.setColor(QPalette::Base, palette.color(QPalette::Active, QPalette::Window));
+    palette.setColor(QPalette::Base, Qt::transparent);
     palette.setColor(QPalette::Disabled, QPalette::Text, palette.color(QPalette::Active, QPalette::Text));
     return palette;
 }

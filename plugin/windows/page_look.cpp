@@ -10,8 +10,10 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRadioButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStackedLayout>
 #include <QStyleOptionSpinBox>
 
 #include <algorithm>
@@ -29,8 +31,9 @@ constexpr int kGroupGap = 12;
 constexpr int kGroupIndent = 16;
 constexpr int kWidestCaption = 260;
 constexpr int kDigits[] = {6, 10, 16}; // widths of number boxes
-constexpr int kLettersOfText = 14;     // what a line of text shows at least
+constexpr int kLettersOfText = 18;     // what a line of text shows at least
 constexpr int kWidestField = 480;
+constexpr int kBesideFields = 30;            // a button for help
 constexpr char kRowSpacing[] = "rowSpacing"; // of boxes that stand side by side, in a property
 
 // From the edges of the page to those of a layout.
@@ -40,7 +43,9 @@ QMargins insetOf(const QLayout* layout, const QWidget* page)
     const QObject* next = layout;
     while (next && next != page) {
         if (const auto* one = qobject_cast<const QLayout*>(next)) {
-            inset += one->contentsMargins();
+            // A stack says that it has margins, but has none.
+            if (!qobject_cast<const QStackedLayout*>(one))
+                inset += one->contentsMargins();
             next = one->parent();
             continue;
         }
@@ -90,7 +95,7 @@ private:
     }
     void refresh();
     void dressGroups();
-    void giveWordsToBoxes();
+    void dressBoxes();
     void dressFields();
     void findGrids();
     int room() const;
@@ -109,7 +114,7 @@ void PageLook::refresh()
         return;
     busy_ = true;
     dressGroups();
-    giveWordsToBoxes();
+    dressBoxes();
     findGrids();
     dressFields();
     lineUp();
@@ -134,9 +139,14 @@ void PageLook::dressGroups()
     }
 }
 
-// A check box beside its words takes them: a click on them is one on the box.
-void PageLook::giveWordsToBoxes()
+void PageLook::dressBoxes()
 {
+    for (QAbstractButton* box : page_->findChildren<QAbstractButton*>()) {
+        const bool hasIndicator = qobject_cast<QCheckBox*>(box) || qobject_cast<QRadioButton*>(box);
+        if (hasIndicator && box->style() != style_.get())
+            box->setStyle(style_.get());
+    }
+    // A check box beside its words takes them: a click on them is one on the box.
     for (QLabel* label : page_->findChildren<QLabel*>()) {
         auto* box = qobject_cast<QCheckBox*>(label->buddy());
         if (!box || (!box->text().isEmpty() && !label->isHidden()))
@@ -260,7 +270,8 @@ void PageLook::lineUp()
         grid.fold(folds);
         const int caption = first - insetOf(key, page_).left();
         if (folds || !grid.hasSecondPair())
-            grid.setOnePair(caption, all - right - first - kColumnGap > kWidestField ? kWidestField : 0);
+            grid.setOnePair(
+                caption, all - right - first - kColumnGap - kBesideFields > kWidestField ? kWidestField : 0);
         else
             grid.setTwoPairs(caption, fields[0], captions[1]);
     }

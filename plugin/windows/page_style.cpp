@@ -12,6 +12,7 @@ namespace {
 
 constexpr int kTabPadding = 8;
 constexpr int kBarHeight = 8;
+constexpr int kDark = 128; // lightness of a window
 
 QFont titleFont(QFont font)
 {
@@ -76,6 +77,25 @@ void PageStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
         return;
     }
     QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+void PageStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                              const QWidget* widget) const
+{
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const bool isRound = element == PE_IndicatorRadioButton;
+    if ((element != PE_IndicatorCheckBox && !isRound) ||
+        option->palette.color(QPalette::Window).lightness() >= kDark)
+        return;
+    QColor line = option->palette.color(QPalette::WindowText);
+    line.setAlphaF(0.5);
+    const QRectF outline = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(line);
+    painter->setBrush(Qt::NoBrush);
+    isRound ? painter->drawEllipse(outline) : painter->drawRect(outline);
+    painter->restore();
 }
 
 QRect PageStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,

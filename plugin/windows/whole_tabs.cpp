@@ -40,7 +40,10 @@ void WholeTabs::arrange()
         bar->setMaximumWidth(QWIDGETSIZE_MAX);
         return;
     }
-    const int buttons = 2 * bar->style()->pixelMetric(QStyle::PM_TabBarScrollButtonWidth, nullptr, bar);
+    // The buttons that scroll, and a mark at each end that there is more.
+    constexpr int kMark = 5;
+    const int buttons =
+        2 * (bar->style()->pixelMetric(QStyle::PM_TabBarScrollButtonWidth, nullptr, bar) + kMark);
     const int room = tabs_->width() - buttons;
     const int next = std::min(current + 1, last);
     first_ = std::min(first_, current);
