@@ -4,7 +4,6 @@
 #include "settings/configuration.h"
 #include "settings/params/param_catalogues.h"
 #include "settings/params/user_params.h"
-#include "windows/aligned_columns.h"
 #include "windows/wnd_config_full.h"
 
 #include <QCoreApplication>
@@ -71,12 +70,8 @@ void VLK_Form_Config_Set_Zeta3_Tab_User::retranslate()
     setTitle(tr("cfgt5_007"));
     can_->setText(tr("cfgt5_008"));
     modbus_->setText(tr("cfgt5_009"));
-    QList<QGridLayout*> grids;
-    for (vlk::UserParamGroup& group : groups_) {
+    for (vlk::UserParamGroup& group : groups_)
         group.retranslate();
-        grids << group.grid();
-    }
-    vlk::alignColumns(grids, 4);
 }
 
 void VLK_Form_Config_Set_Zeta3_Tab_User::afterDefaults()

@@ -38,8 +38,10 @@ const char* titleOf(int bytes)
 } // namespace
 
 UserParamGroup::UserParamGroup(const UserParamSlots& slots, const std::function<void(int)>& chosen)
-    : slots_(slots), box_(new QGroupBox), grid_(new QGridLayout(box_))
+    : slots_(slots), box_(new QGroupBox)
 {
+    auto* grid = new QGridLayout(box_);
+    box_->setProperty("byColumns", true);
     box_->setObjectName(QStringLiteral("groupBox_User_%1Byte").arg(slots.bytes));
     const int rows = (slots.count + kColumns - 1) / kColumns;
     for (int slot = 1; slot <= slots.count; ++slot) {
@@ -48,9 +50,9 @@ UserParamGroup::UserParamGroup(const UserParamSlots& slots, const std::function<
         auto* label = new QLabel(QString::number(slot));
         label->setBuddy(box);
         const int column = (slot - 1) / rows * 2;
-        grid_->addWidget(label, (slot - 1) % rows, column, Qt::AlignRight);
-        grid_->addWidget(box, (slot - 1) % rows, column + 1);
-        grid_->setColumnStretch(column + 1, 1);
+        grid->addWidget(label, (slot - 1) % rows, column, Qt::AlignRight);
+        grid->addWidget(box, (slot - 1) % rows, column + 1);
+        grid->setColumnStretch(column + 1, 1);
         boxes_.push_back(box);
         QObject::connect(box, &QComboBox::currentTextChanged, box_, [chosen, slot] { chosen(slot); });
     }

@@ -11,7 +11,6 @@
 #include <functional>
 #include <vector>
 
-class QGridLayout;
 class QGroupBox;
 
 namespace vlk {
@@ -40,7 +39,6 @@ public:
     UserParamGroup(const UserParamSlots& slots, const std::function<void(int slot)>& chosen);
 
     QGroupBox* box() const { return box_; }
-    QGridLayout* grid() const { return grid_; }
     const UserParamSlots& slots() const { return slots_; }
 
     void retranslate();
@@ -64,7 +62,6 @@ private:
 
     const UserParamSlots slots_;
     QGroupBox* box_;
-    QGridLayout* grid_;
     std::vector<ElidingComboBox*> boxes_;
     QStringList offered_; // the choice of nothing among them
     QString none_;

@@ -11,6 +11,7 @@
 #include "link/requests.h"
 #include "windows/input_guard.h"
 #include "windows/page_look.h"
+#include "windows/page_style.h"
 #include "windows/vlk_menuaction.h"
 #include "windows/whole_tabs.h"
 #include "xml/xml_document.h"
@@ -202,6 +203,7 @@ void VLK_Widget_Config_Full::slot_pressed_Btn_ConfigLight()
                     QMessageBox::NoButton, this);
     const auto* yes = box.addButton(tr("wrd_001"), QMessageBox::YesRole);
     auto* no = box.addButton(tr("wrd_002"), QMessageBox::NoRole);
+    vlk::dressMessageBox(box);
     box.setDefaultButton(no);
     box.setEscapeButton(no);
     box.exec();

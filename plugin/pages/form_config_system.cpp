@@ -3,6 +3,7 @@
 #include "ui_VLK_Designer_Form_Config_System.h"
 
 #include "settings/system_settings.h"
+#include "windows/page_style.h"
 #include "windows/present_value.h"
 #include "windows/wnd_config_full.h"
 #include "windows/zone_colors.h"
@@ -85,6 +86,7 @@ void VLK_Form_Config_System::slot_pressed_Btn_Psw_Warning()
 {
     QMessageBox box(QMessageBox::Warning, QStringLiteral("%1!").arg(tr("wrd_005")), tr("cfgt4_090"),
                     QMessageBox::NoButton, this);
+    vlk::dressMessageBox(box);
     box.addButton(tr("wrd_003"), QMessageBox::AcceptRole);
     box.exec();
 }

@@ -4,9 +4,9 @@
 
 #include "pages/operator_rows.h"
 #include "settings/transfer_settings.h"
+#include "windows/line_icon.h"
 
 #include <QHeaderView>
-#include <QStyle>
 
 namespace {
 constexpr int kCodeColumn = vlk::kFirstOperatorColumn;
@@ -18,8 +18,8 @@ VLK_Form_List_Oper_Roaming::VLK_Form_List_Oper_Roaming(QWidget* parent)
 {
     ui_->setupUi(this);
     setModal(true);
-    ui_->pushButton_Up->setIcon(style()->standardIcon(QStyle::SP_ArrowUp));
-    ui_->pushButton_Down->setIcon(style()->standardIcon(QStyle::SP_ArrowDown));
+    ui_->pushButton_Up->setIcon(vlk::lineIcon(vlk::LineIcon::up));
+    ui_->pushButton_Down->setIcon(vlk::lineIcon(vlk::LineIcon::down));
     vlk::makeOperatorRows(ui_->treeWidget_List, vlk::kRoamingRows);
     ui_->treeWidget_List->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     connect(ui_->treeWidget_List, &QTreeWidget::itemDoubleClicked, this,

@@ -2,7 +2,6 @@
 
 #include "peripherals/form_config_bluetooth_device_type.h"
 #include "settings/bluetooth_sensor_types.h"
-#include "windows/aligned_columns.h"
 #include "windows/binder/page_settings.h"
 #include "windows/numbered_widget.h"
 #include "windows/tab_order.h"
@@ -39,9 +38,7 @@ VLK_Form_Config_Bluetooth_Device::Sensor VLK_Form_Config_Bluetooth_Device::makeS
     sensor.name = vlk::numberedWidget<QLineEdit>("lineEdit_Name_Sens_%1", number);
     auto* layout = new QVBoxLayout(sensor.box);
     layout->setSpacing(6);
-    sensor.grid = new QGridLayout;
-    sensor.grid->setHorizontalSpacing(8);
-    sensor.grid->setVerticalSpacing(6);
+    auto* grid = new QGridLayout;
     const std::pair<QLabel*, QWidget*> fields[] = {
         {vlk::numberedWidget<QLabel>("label_Type_Sens_%1", number),
          vlk::numberedWidget<QComboBox>("comboBox_Type_Sens_%1", number)},
@@ -57,12 +54,12 @@ VLK_Form_Config_Bluetooth_Device::Sensor VLK_Form_Config_Bluetooth_Device::makeS
     for (const auto& [label, widget] : fields) {
         label->setBuddy(widget);
         const int column = place % 2 * 2;
-        sensor.grid->addWidget(label, place / 2, column);
-        sensor.grid->addWidget(widget, place / 2, column + 1);
-        sensor.grid->setColumnStretch(column + 1, 1);
+        grid->addWidget(label, place / 2, column);
+        grid->addWidget(widget, place / 2, column + 1);
+        grid->setColumnStretch(column + 1, 1);
         ++place;
     }
-    layout->addLayout(sensor.grid);
+    layout->addLayout(grid);
     sensor.more = vlk::numberedWidget<QGroupBox>("groupBox_More_Sens_%1", number);
     auto* more = new QVBoxLayout(sensor.more);
     more->setObjectName(QStringLiteral("formLayout_Sens_%1").arg(number));
@@ -94,15 +91,12 @@ void VLK_Form_Config_Bluetooth_Device::tellChanges()
 
 void VLK_Form_Config_Bluetooth_Device::retranslate()
 {
-    QList<QGridLayout*> grids;
     for (int number = 1; number <= kSensors; ++number) {
         const Sensor& sensor = sensors_[number - 1];
         sensor.box->setTitle(QStringLiteral("%1 %2").arg(tr("cfgt17_024")).arg(number));
         sensor.more->setTitle(tr("cfgt17_027"));
         sensor.type->retranslate();
-        grids << sensor.grid;
     }
-    vlk::alignColumns(grids, 4);
 }
 
 void VLK_Form_Config_Bluetooth_Device::bind(int sensor, const QString& mac, const QString& name)

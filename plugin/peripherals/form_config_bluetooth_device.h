@@ -8,7 +8,6 @@
 
 #include <array>
 
-class QGridLayout;
 class QGroupBox;
 class QLineEdit;
 class VLK_Form_Config_Bluetooth_Device_Type;
@@ -56,7 +55,6 @@ private:
     {
         QGroupBox* box;
         QGroupBox* more;
-        QGridLayout* grid;
         QLineEdit* name;
         VLK_Form_Config_Bluetooth_Device_Type* type;
     };

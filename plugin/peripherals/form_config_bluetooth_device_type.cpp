@@ -5,6 +5,7 @@
 #include "settings/params/user_params.h"
 #include "windows/binder/page_settings.h"
 
+#include <QEvent>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -188,6 +189,13 @@ void VLK_Form_Config_Bluetooth_Device_Type::fitHeight()
     const BleSensorForm* form = formOf(type_);
     const int usual = form ? form->type().height : kHeightWithoutForm;
     setFixedHeight(qMax(usual, stack_->currentWidget()->minimumSizeHint().height()));
+}
+
+bool VLK_Form_Config_Bluetooth_Device_Type::event(QEvent* event)
+{
+    if (event->type() == QEvent::LayoutRequest)
+        fitHeight();
+    return QWidget::event(event);
 }
 
 void VLK_Form_Config_Bluetooth_Device_Type::tellChanges()

@@ -82,6 +82,9 @@ Q_SIGNALS:
     void signal_Index_Add_TmpH(const QString& index);
     void signal_Index_Del_TmpH(const QString& index);
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
     vlk::BleSensorForm* formOf(int type) const;
     void addForm(vlk::BleSensorForm* form);

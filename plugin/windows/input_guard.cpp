@@ -61,7 +61,8 @@ void guardInputs(QWidget* page)
     const auto children = page->findChildren<QWidget*>();
     for (QWidget* child : children) {
         if (takesTheWheel(child)) {
-            child->setFocusPolicy(Qt::StrongFocus);
+            if (child->focusPolicy() & Qt::TabFocus)
+                child->setFocusPolicy(Qt::StrongFocus);
             child->installEventFilter(filter);
         }
         if (auto* button = qobject_cast<QPushButton*>(child))

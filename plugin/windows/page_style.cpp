@@ -1,7 +1,10 @@
 #include "windows/page_style.h"
 
+#include "windows/line_icon.h"
+
 #include <QApplication>
 #include <QGroupBox>
+#include <QMessageBox>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -111,6 +114,25 @@ QRect PageStyle::subControlRect(ComplexControl control, const QStyleOptionComple
     if (part == SC_GroupBoxLabel && titled.direction == Qt::LeftToRight)
         rect.setWidth(titled.fontMetrics.size(Qt::TextShowMnemonic, titled.text).width() + 4);
     return rect;
+}
+
+QIcon PageStyle::standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const
+{
+    return which == SP_MessageBoxWarning ? lineIcon(LineIcon::warning)
+                                         : QProxyStyle::standardIcon(which, option, widget);
+}
+
+void setPageStyle(QWidget* widget)
+{
+    const std::shared_ptr<PageStyle> style = PageStyle::shared();
+    widget->setStyle(style.get());
+    QObject::connect(widget, &QObject::destroyed, [style] {});
+}
+
+void dressMessageBox(QMessageBox& box)
+{
+    setPageStyle(&box);
+    box.setIcon(box.icon());
 }
 
 int PageStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const

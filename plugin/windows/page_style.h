@@ -9,6 +9,7 @@
 
 #include <memory>
 
+class QMessageBox;
 class QWidget;
 
 namespace vlk {
@@ -27,12 +28,20 @@ public:
                        const QWidget* widget = nullptr) const override;
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
                          const QWidget* widget = nullptr) const override;
+    QIcon standardIcon(StandardPixmap which, const QStyleOption* option = nullptr,
+                       const QWidget* widget = nullptr) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option = nullptr,
                     const QWidget* widget = nullptr) const override;
 
 private:
     using QProxyStyle::QProxyStyle;
 };
+
+// The style lives as long as the widget.
+void setPageStyle(QWidget* widget);
+
+// To be called before the box is shown: its icon is a drawing of lines.
+void dressMessageBox(QMessageBox& box);
 
 // A group that stands in another one.
 bool isInnerGroup(const QWidget* group);

@@ -38,16 +38,7 @@ void dressPresentValue(QLineEdit* line)
 
 void dressPresentValue(QSlider* slider)
 {
-    // The style lives as long as something holds it.
-    class Holder : public QObject
-    {
-    public:
-        explicit Holder(QSlider* slider) : QObject(slider) { slider->setStyle(style_.get()); }
-
-    private:
-        const std::shared_ptr<PageStyle> style_ = PageStyle::shared();
-    };
-    new Holder(slider);
+    setPageStyle(slider);
     slider->setFocusPolicy(Qt::NoFocus);
 }
 

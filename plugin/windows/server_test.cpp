@@ -1,5 +1,7 @@
 #include "windows/server_test.h"
 
+#include "windows/page_style.h"
+
 #include <QHostInfo>
 #include <QLoggingCategory>
 #include <QMessageBox>
@@ -146,6 +148,7 @@ void vlk::showServerAnswer(QWidget* page, bool ok, const QString& text)
 {
     QMessageBox box(QMessageBox::Warning, vlk_Socket::tr(ok ? "wrd_005" : "wrd_004"), text,
                     QMessageBox::NoButton, page);
+    vlk::dressMessageBox(box);
     box.addButton(vlk_Socket::tr("wrd_003"), QMessageBox::AcceptRole);
     box.exec();
 }

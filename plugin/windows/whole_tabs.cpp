@@ -11,9 +11,9 @@
 
 namespace vlk {
 
-WholeTabs::WholeTabs(QTabWidget* tabs) : QObject(tabs), tabs_(tabs), style_(PageStyle::shared())
+WholeTabs::WholeTabs(QTabWidget* tabs) : QObject(tabs), tabs_(tabs)
 {
-    tabs->tabBar()->setStyle(style_.get());
+    setPageStyle(tabs->tabBar());
     tabs->installEventFilter(this);
     connect(tabs, &QTabWidget::currentChanged, this, &WholeTabs::arrange);
 }
@@ -40,11 +40,9 @@ void WholeTabs::arrange()
         bar->setMaximumWidth(QWIDGETSIZE_MAX);
         return;
     }
-    // The buttons that scroll, and a mark at each end that there is more.
-    constexpr int kMark = 5;
-    const int buttons =
-        2 * (bar->style()->pixelMetric(QStyle::PM_TabBarScrollButtonWidth, nullptr, bar) + kMark);
-    const int room = tabs_->width() - buttons;
+    const int buttons = 2 * bar->style()->pixelMetric(QStyle::PM_TabBarScrollButtonWidth, nullptr, bar);
+    constexpr int kMark = 7; // at the left, where there are more
+    const int room = tabs_->width() - buttons - kMark;
     const int next = std::min(current + 1, last);
     first_ = std::min(first_, current);
     while (first_ < current && width(first_, next) > room)
@@ -54,7 +52,7 @@ void WholeTabs::arrange()
         ++end;
     while (first_ > 0 && width(first_ - 1, end) <= room)
         --first_;
-    bar->setMaximumWidth(width(first_, end) + buttons);
+    bar->setMaximumWidth(width(first_, end) + buttons + (first_ > 0 ? kMark : 0));
 
     // The bar scrolls as little as it can to what becomes current.
     const QSignalBlocker blocker(bar);

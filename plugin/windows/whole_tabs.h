@@ -4,13 +4,9 @@
 
 #include <QObject>
 
-#include <memory>
-
 class QTabWidget;
 
 namespace vlk {
-
-class PageStyle;
 
 class WholeTabs : public QObject
 {
@@ -25,7 +21,6 @@ private:
     void arrange();
 
     QTabWidget* const tabs_;
-    const std::shared_ptr<PageStyle> style_;
     int first_ = 0; // of those on show
 };
 

@@ -1,0 +1,212 @@
+// How the configuration looks, measured over all pages in both languages: nothing is cut, nothing scrolls
+// sideways, and what only shows does not look like a field.
+
+#include "support/data_table.h"
+#include "support/scripted_host.h"
+#include "window/languages.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+#include <cmath>
+
+namespace {
+
+double luminance(const QColor& color)
+{
+    const auto part = [](double value) {
+        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * part(color.redF()) + 0.7152 * part(color.greenF()) + 0.0722 * part(color.blueF());
+}
+
+double contrast(const QColor& one, const QColor& other)
+{
+    const auto [low, high] = std::minmax({luminance(one), luminance(other)});
+    return (high + 0.05) / (low + 0.05);
+}
+
+// The words of a title, and the room that the style gives them.
+bool isTitleWhole(QGroupBox* group)
+{
+    QStyleOptionGroupBox option;
+    option.initFrom(group);
+    option.text = group->title();
+    option.textAlignment = Qt::AlignLeft;
+    option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
+    if (group->isCheckable())
+        option.subControls |= QStyle::SC_GroupBoxCheckBox;
+    const QRect room =
+        group->style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, group);
+    QFont font = group->font();
+    font.setWeight(QFont::DemiBold);
+    return group->rect().contains(room) &&
+           room.width() >= QFontMetrics(font).size(Qt::TextShowMnemonic, group->title()).width();
+}
+
+bool isWhole(QWidget* widget)
+{
+    if (auto* label = qobject_cast<QLabel*>(widget); label && label->wordWrap())
+        return label->height() >= label->heightForWidth(label->width());
+    if (auto* group = qobject_cast<QGroupBox*>(widget))
+        return isTitleWhole(group);
+    if (auto* push = qobject_cast<QPushButton*>(widget))
+        return push->width() >= push->fontMetrics().size(Qt::TextShowMnemonic, push->text()).width();
+    const auto* button = qobject_cast<QAbstractButton*>(widget);
+    const bool hasWords = qobject_cast<QLabel*>(widget) || (button && !button->text().isEmpty());
+    return !hasWords || widget->width() >= widget->minimumSizeHint().width();
+}
+
+} // namespace
+
+class ConfigLooksTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(languages_.set(QStringLiteral("ru")));
+        host_.start();
+        host_.open({});
+        window_ = ScriptedHost::window("VLK_Widget_Config");
+        tabs_ = window_->findChild<QTabWidget*>("tabWidget");
+    }
+
+    void pages_data()
+    {
+        DataTable<QString, QSize>({"language", "size"})
+            .row("Russian, small", "ru", {960, 500})
+            .row("English, small", "en", {960, 500})
+            .row("Russian, usual", "ru", {1024, 600})
+            .row("English, usual", "en", {1024, 600});
+    }
+    void pages()
+    {
+        QFETCH(QString, language);
+        QFETCH(QSize, size);
+        QVERIFY(languages_.set(language));
+        host_.send(vlk::Message::LanguageChanged);
+        for (const bool full : {true, false}) {
+            host_.open({}, full);
+            setSize(size);
+            for (int tab = 0; tab < (full ? tabs_->count() : 1); ++tab) {
+                tabs_->setCurrentIndex(tab);
+                settle();
+                const QStringList found = faults();
+                QVERIFY2(found.isEmpty(), qPrintable(found.join(QLatin1Char('\n'))));
+            }
+        }
+    }
+
+    // Lines of all uses, and sensors of all types.
+    void choices()
+    {
+        host_.open({});
+        setSize({960, 500});
+        for (const char* name : {"comboBox_NormState_In3", "comboBox_Type_Sens_1", "comboBox_ServerType"}) {
+            auto* list = tabs_->findChild<QComboBox*>(name);
+            for (int tab = 0; !list->isVisible(); ++tab)
+                tabs_->setCurrentIndex(tab);
+            for (int item = 0; item < list->count(); ++item) {
+                list->setCurrentIndex(item);
+                settle();
+                const QStringList found = faults();
+                QVERIFY2(found.isEmpty(), qPrintable(found.join(QLatin1Char('\n'))));
+            }
+        }
+    }
+
+    void pairsFoldAndComeBack()
+    {
+        host_.open({});
+        const auto place = [this](const char* name) {
+            auto* field = tabs_->findChild<QWidget*>(name);
+            return field->mapTo(window_, QPoint());
+        };
+        tabs_->setCurrentIndex(3);
+        for (const int width : {960, 1600, 960}) {
+            setSize({width, 500});
+            const QPoint first = place("Settings_Psw_lineEdit_CSD");
+            const QPoint second = place("Settings_Psw_lineEdit_SMS");
+            QCOMPARE(second.y() == first.y(), width == 1600);
+            QCOMPARE(second.x() == first.x(), width == 960);
+        }
+    }
+
+    void tabsAreWhole()
+    {
+        host_.open({});
+        setSize({960, 500});
+        QTabBar* bar = tabs_->tabBar();
+        for (const bool back : {false, true}) {
+            for (int step = 0; step < bar->count(); ++step) {
+                const int tab = back ? bar->count() - 1 - step : step;
+                tabs_->setCurrentIndex(tab);
+                settle();
+                int end = bar->width();
+                for (const QToolButton* button : bar->findChildren<QToolButton*>())
+                    end = button->isVisible() ? std::min(end, button->x()) : end;
+                for (const int whole : {tab, std::min(tab + 1, bar->count() - 1)})
+                    QVERIFY(bar->tabRect(whole).left() >= 0 && bar->tabRect(whole).right() < end);
+            }
+        }
+    }
+
+    void presentValuesAreNoFields()
+    {
+        for (const char* name : {"doubleSpinBox_TuningCur", "doubleSpinBox_AIN_Cur"}) {
+            const auto* box = tabs_->findChild<QDoubleSpinBox*>(name);
+            QVERIFY(box->isReadOnly() && !box->hasFrame() && !(box->focusPolicy() & Qt::TabFocus));
+            QCOMPARE(box->text(), QString("–"));
+            QCOMPARE(box->palette().color(QPalette::Disabled, QPalette::Text),
+                     box->palette().color(QPalette::Active, QPalette::Text));
+        }
+        for (auto* line : window_->findChildren<QLineEdit*>(QRegularExpression("^lineEdit_CurLevel_SH")))
+            QVERIFY(line->isReadOnly() && !line->hasFrame() && !(line->focusPolicy() & Qt::TabFocus));
+    }
+
+private:
+    static void settle()
+    {
+        for (int round = 0; round < 3; ++round)
+            QCoreApplication::processEvents();
+    }
+
+    void setSize(const QSize& size)
+    {
+        settle();
+        window_->setFixedSize(size);
+        settle();
+    }
+
+    QStringList faults() const
+    {
+        QStringList found;
+        for (QWidget* widget : window_->findChildren<QWidget*>()) {
+            if (!widget->isVisible())
+                continue;
+            const auto* bar = qobject_cast<QScrollBar*>(widget);
+            if (bar && bar->orientation() == Qt::Horizontal && bar->maximum() > 0)
+                found << QStringLiteral("scrolls by %1").arg(bar->maximum());
+            if (!isWhole(widget))
+                found << widget->objectName() + QStringLiteral(" is cut");
+            const auto* box = qobject_cast<QCheckBox*>(widget);
+            if (box && box->text().isEmpty())
+                found << widget->objectName() + QStringLiteral(" has no words");
+            const QPalette& palette = widget->palette();
+            if (contrast(palette.color(QPalette::Disabled, QPalette::WindowText),
+                         palette.color(QPalette::Disabled, QPalette::Window)) < 3.5)
+                found << widget->objectName() + QStringLiteral(" is pale");
+        }
+        return found;
+    }
+
+    ScriptedHost host_;
+    vlk::Languages languages_;
+    QWidget* window_ = nullptr;
+    QTabWidget* tabs_ = nullptr;
+};
+
+QTEST_MAIN(ConfigLooksTest)
+#include "tst_config_looks.moc"
