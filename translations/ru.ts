@@ -930,6 +930,7 @@
     <message id="cfgt6_414"><translation>Трекер</translation></message>
     <message id="cfgt6_415"><translation>Датчик</translation></message>
     <message id="cfgt6_416"><translation>Дата</translation></message>
+    <message id="cfgt6_450"><translation>Трекер не подключён.</translation></message>
     <message id="cfgt7_001"><translation>Датчики температуры</translation></message>
     <message id="cfgt7_002"><translation>Min</translation></message>
     <message id="cfgt7_003"><translation>Max</translation></message>

@@ -9,6 +9,7 @@
 #include "dialog/tab_navigation.h"
 #include "link/device.h"
 #include "link/requests.h"
+#include "windows/disabled_reason.h"
 #include "windows/input_guard.h"
 #include "windows/page_look.h"
 #include "windows/page_style.h"
@@ -30,6 +31,7 @@ VLK_Widget_Config_Full::VLK_Widget_Config_Full(QWidget* parent)
                                                           ui_->pushButton_Goto, ui_->pushButton_NextScreen,
                                                           ui_->pushButton_Last});
     new vlk::WholeTabs(ui_->tabWidget);
+    vlk::tellWhyDisabled(ui_->pushButton_LoadToDevice, "cfgt6_450");
     connectButtons();
     buildTabs();
     slot_currentChanged_TabWidget(navigation_->current());

@@ -6,6 +6,7 @@
 #include "dialog/form_config_light.h"
 #include "dialog/held_button.h"
 #include "link/requests.h"
+#include "windows/disabled_reason.h"
 #include "windows/input_guard.h"
 #include "windows/page_look.h"
 #include "xml/xml_document.h"
@@ -18,6 +19,7 @@ VLK_Widget_Config_Light::VLK_Widget_Config_Light(QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::VLK_Designer_Widget_Config_Light>())
 {
     ui_->setupUi(this);
+    vlk::tellWhyDisabled(ui_->pushButton_Light_LoadToDevice, "cfgt6_450");
     using Slot = void (VLK_Widget_Config_Light::*)();
     const std::pair<QPushButton*, Slot> buttons[] = {
         {ui_->pushButton_Light_SaveToFile, &VLK_Widget_Config_Light::slot_pressed_Btn_Light_SaveToFile},

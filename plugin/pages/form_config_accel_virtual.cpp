@@ -5,6 +5,7 @@
 #include "link/messages.h"
 #include "settings/accel_settings.h"
 #include "settings/value_text.h"
+#include "windows/disabled_reason.h"
 #include "windows/numbered_widget.h"
 #include "windows/present_value.h"
 #include "windows/wnd_config_full.h"
@@ -58,6 +59,7 @@ VLK_Form_Config_Accel_Virtual::VLK_Form_Config_Accel_Virtual(QWidget* parent)
     ui_->setupUi(this);
     for (std::size_t i = 0; i < sensors_.size(); ++i)
         sensors_[i] = makeSensor(i);
+    vlk::tellWhyDisabled(ui_->groupBox_Quest, "cfgt6_450");
     settings_.bind({this});
     setTabOrder();
     using This = VLK_Form_Config_Accel_Virtual;

@@ -3,6 +3,7 @@
 #include "ui_VLK_Designer_Form_Config_System.h"
 
 #include "settings/system_settings.h"
+#include "windows/disabled_reason.h"
 #include "windows/page_style.h"
 #include "windows/present_value.h"
 #include "windows/wnd_config_full.h"
@@ -21,6 +22,7 @@ VLK_Form_Config_System::VLK_Form_Config_System(QWidget* parent)
         slider->setColorHigh(vlk::kRestoreColor);
     }
     vlk::dressPresentValue(ui_->doubleSpinBox_TuningCur);
+    vlk::tellWhyDisabled(ui_->pushButton_TuningCur, "cfgt6_450");
     using This = VLK_Form_Config_System;
     connect(ui_->pushButton_TuningCur, &QPushButton::clicked, this, &This::slot_pressed_Btn_TuningCur);
     connect(ui_->pushButton_Psw_Warning, &QPushButton::clicked, this, &This::slot_pressed_Btn_Psw_Warning);

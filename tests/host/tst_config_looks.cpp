@@ -169,7 +169,7 @@ private Q_SLOTS:
 private:
     static void settle()
     {
-        for (int round = 0; round < 3; ++round)
+        for (int round = 0; round < 10; ++round)
             QCoreApplication::processEvents();
     }
 

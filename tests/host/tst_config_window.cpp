@@ -134,9 +134,9 @@ private Q_SLOTS:
     void writeButtonFollowsTheConnection()
     {
         for (const char* write : {"pushButton_LoadToDevice", "pushButton_Light_LoadToDevice"}) {
-            QVERIFY(!isOn(write));
+            QVERIFY(!isOn(write) && !child<QWidget>(write)->toolTip().isEmpty());
             host_.attach();
-            QVERIFY(isOn(write));
+            QVERIFY(isOn(write) && child<QWidget>(write)->toolTip().isEmpty());
             host_.attach(QStringLiteral("R-0000"));
             QVERIFY(!isOn(write));
         }

@@ -49,7 +49,7 @@ private Q_SLOTS:
     void tabGoesAsRead()
     {
         QCOMPARE(
-            fieldsBehind("lineEdit_CurLevel_SH4", 4),
+            fieldsBehind("doubleSpinBox_Level_SH4", 4),
             QStringList({"checkBox_Auto", "spinBox_Auto_TimeOut", "pushButton_Quest", "pushButton_Reset"}));
     }
 
