@@ -75,7 +75,8 @@ void FoldingGrid::learn()
         grid_->getItemPosition(grid_->indexOf(item), &place.row, &place.column, &place.rows, &place.columns);
         places_.insert(item, place);
         fresh << item;
-        hasSecondPair_ = hasSecondPair_ || place.column >= kColumnsOfPair;
+        hasSecondPair_ =
+            hasSecondPair_ || (place.column > 0 && place.column + place.columns > kColumnsOfPair);
     }
     // The words of a check box may run on where no field follows.
     for (QLayoutItem* item : fresh) {
@@ -216,16 +217,17 @@ void FoldingGrid::setTwoPairs(int captions, int fields, int secondCaptions) cons
 
 void FoldingGrid::setColumns(const std::array<int, 3>& widths, int firstStretch, int secondStretch) const
 {
-    bool changes = false;
-    for (int column = 0; column < 3; ++column) {
-        const int width = widths[static_cast<std::size_t>(column)];
-        changes = changes || grid_->columnMinimumWidth(column) != width;
-        grid_->setColumnMinimumWidth(column, width);
-    }
+    bool changes = grid_->columnCount() < 2 * kColumnsOfPair || grid_->columnStretch(1) != firstStretch ||
+                   grid_->columnStretch(3) != secondStretch;
+    for (std::size_t column = 0; column < widths.size(); ++column)
+        changes = changes || grid_->columnMinimumWidth(static_cast<int>(column)) != widths[column];
+    if (!changes)
+        return;
+    for (std::size_t column = 0; column < widths.size(); ++column)
+        grid_->setColumnMinimumWidth(static_cast<int>(column), widths[column]);
     grid_->setColumnStretch(1, firstStretch);
     grid_->setColumnStretch(3, secondStretch);
-    if (changes)
-        tellOuter();
+    tellOuter();
 }
 
 } // namespace vlk

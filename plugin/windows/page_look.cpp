@@ -123,8 +123,9 @@ void PageLook::refresh()
 
 void PageLook::dressGroups()
 {
-    if (QLayout* layout = page_->layout()) {
-        layout->setContentsMargins(kPageMargin, kPageMargin, kPageMargin, kPageMargin);
+    constexpr QMargins margins(kPageMargin, kPageMargin, kPageMargin, kPageMargin);
+    if (QLayout* layout = page_->layout(); layout && layout->contentsMargins() != margins) {
+        layout->setContentsMargins(margins);
         if (auto* box = qobject_cast<QBoxLayout*>(layout))
             box->setSpacing(kGroupGap);
     }
@@ -151,8 +152,9 @@ void PageLook::dressBoxes()
         auto* box = qobject_cast<QCheckBox*>(label->buddy());
         if (!box || (!box->text().isEmpty() && !label->isHidden()))
             continue;
-        if (box->text() != label->text())
-            box->setText(label->text());
+        const QString words = label->text().replace(QLatin1String("<br>"), QLatin1String("\n"));
+        if (box->text() != words)
+            box->setText(words);
         label->hide();
     }
 }
@@ -238,7 +240,9 @@ void PageLook::lineUp()
             if (auto* label = qobject_cast<QLabel*>(caption)) {
                 const int width = captionWidth(label);
                 const bool wraps = width > widest && label->textFormat() != Qt::RichText;
-                label->setWordWrap(wraps);
+                // Even what stays as it is would lay out the page anew.
+                if (label->wordWrap() != wraps)
+                    label->setWordWrap(wraps);
                 label->setMinimumWidth(wraps ? widest : 0);
             }
         }
@@ -304,7 +308,10 @@ void PageLook::stackBoxes(QBoxLayout* row, int width)
     if (row->property(kRowSpacing).isNull())
         row->setProperty(kRowSpacing, row->spacing());
     const bool stacks = needed > width;
-    row->setDirection(stacks ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    const auto direction = stacks ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight;
+    if (row->direction() == direction)
+        return;
+    row->setDirection(direction);
     row->setSpacing(stacks && !hasGroups ? kRowGap : row->property(kRowSpacing).toInt());
 }
 
