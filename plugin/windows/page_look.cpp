@@ -100,6 +100,7 @@ private:
     void findGrids();
     int room() const;
     void stackBoxes(QBoxLayout* row, int width);
+    void wrapCaptions();
     void lineUp();
 
     QWidget* const page_;
@@ -117,6 +118,7 @@ void PageLook::refresh()
     dressBoxes();
     findGrids();
     dressFields();
+    wrapCaptions();
     lineUp();
     busy_ = false;
 }
@@ -224,10 +226,9 @@ int PageLook::room() const
     return area->width() - 2 * area->frameWidth() - area->verticalScrollBar()->sizeHint().width();
 }
 
-void PageLook::lineUp()
+// Those that are longer than a caption may be take two lines. A check box with a field beside it cannot.
+void PageLook::wrapCaptions()
 {
-    // Captions that are longer than a caption may be take two lines. A check box with a field beside it
-    // cannot.
     int widest = kWidestCaption;
     for (auto& [key, grid] : grids_) {
         for (const QWidget* caption : grid.captions()) {
@@ -247,16 +248,22 @@ void PageLook::lineUp()
             }
         }
     }
+}
 
+// All captions of a page start at one edge and end at another, whatever group they stand in.
+void PageLook::lineUp()
+{
     const int all = room();
     int captions[] = {0, 0};
     int fields[] = {0, 0};
     int across[] = {0, 0};
     int right = 0;
+    bool hasPairs = false;
     for (auto& [key, grid] : grids_) {
         const QMargins margins = insetOf(key, page_);
         const int inset = margins.left();
         right = std::max(right, margins.right());
+        hasPairs = hasPairs || grid.hasSecondPair();
         for (const int pair : {0, 1}) {
             const FoldingGrid::Needs needs = grid.needs(pair);
             const int before = pair == 0 ? inset : 0;
@@ -273,7 +280,7 @@ void PageLook::lineUp()
     for (auto& [key, grid] : grids_) {
         grid.fold(folds);
         const int caption = first - insetOf(key, page_).left();
-        if (folds || !grid.hasSecondPair())
+        if (folds || !hasPairs)
             grid.setOnePair(
                 caption, all - right - first - kColumnGap - kBesideFields > kWidestField ? kWidestField : 0);
         else
