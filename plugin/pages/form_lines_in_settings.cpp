@@ -4,6 +4,7 @@
 
 #include "settings/lines_in_settings.h"
 #include "windows/binder/page_settings.h"
+#include "windows/needed_height.h"
 #include "windows/present_value.h"
 #include "windows/zone_colors.h"
 
@@ -75,7 +76,7 @@ std::array<QDoubleSpinBox*, 4> VLK_Form_Lines_In_Settings::presentValues() const
 
 bool VLK_Form_Lines_In_Settings::event(QEvent* event)
 {
-    if (event->type() == QEvent::LayoutRequest)
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize)
         fitHeight();
     return QWidget::event(event);
 }
@@ -114,7 +115,7 @@ void VLK_Form_Lines_In_Settings::fitHeight()
         return;
     QWidget* page = ui_.get()->*use->page;
     const int usual = page == ui_->page_AIN && !levelsVisible_ ? kHeightWithoutLevels : use->height;
-    setFixedHeight(qMax(usual, page->minimumSizeHint().height()));
+    setFixedHeight(qMax(usual, vlk::neededHeight(page, width())));
 }
 
 // A normally open contact triggers above the thresholds, a normally closed one below.

@@ -4,6 +4,7 @@
 #include "peripherals/form_config_ble_devtype_uni.h"
 #include "settings/params/user_params.h"
 #include "windows/binder/page_settings.h"
+#include "windows/needed_height.h"
 
 #include <QEvent>
 #include <QStackedWidget>
@@ -188,12 +189,12 @@ void VLK_Form_Config_Bluetooth_Device_Type::fitHeight()
 {
     const BleSensorForm* form = formOf(type_);
     const int usual = form ? form->type().height : kHeightWithoutForm;
-    setFixedHeight(qMax(usual, stack_->currentWidget()->minimumSizeHint().height()));
+    setFixedHeight(qMax(usual, vlk::neededHeight(stack_->currentWidget(), width())));
 }
 
 bool VLK_Form_Config_Bluetooth_Device_Type::event(QEvent* event)
 {
-    if (event->type() == QEvent::LayoutRequest)
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize)
         fitHeight();
     return QWidget::event(event);
 }

@@ -1,6 +1,7 @@
 #include "peripherals/form_config_rs_param_canlog.h"
 
 #include "windows/binder/page_settings.h"
+#include "windows/disabled_reason.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -24,7 +25,8 @@ VLK_Form_Config_RS_Param_CanLog::VLK_Form_Config_RS_Param_CanLog(QWidget* parent
         buttons->addWidget(button);
     }
     buttons->addStretch(1);
-    lines_->addLayout(buttons, lines_->rowCount() - 1, 2);
+    lines_->addLayout(buttons, lines_->rowCount(), 1, 1, 2);
+    vlk::tellWhyDisabled(group_, "cfgt6_450");
     using This = VLK_Form_Config_RS_Param_CanLog;
     connect(get_, &QPushButton::clicked, this, &This::slot_pressed_Btn_Programm_Get);
     connect(set_, &QPushButton::clicked, this, &This::slot_pressed_Btn_Programm_Set);

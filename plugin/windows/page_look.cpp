@@ -10,6 +10,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -145,8 +146,9 @@ void PageLook::dressGroups()
 void PageLook::dressBoxes()
 {
     for (QAbstractButton* box : page_->findChildren<QAbstractButton*>()) {
-        const bool hasIndicator = qobject_cast<QCheckBox*>(box) || qobject_cast<QRadioButton*>(box);
-        if (hasIndicator && box->style() != style_.get())
+        const bool isDressed = qobject_cast<QCheckBox*>(box) || qobject_cast<QRadioButton*>(box) ||
+                               qobject_cast<QPushButton*>(box);
+        if (isDressed && box->style() != style_.get())
             box->setStyle(style_.get());
     }
     // A check box beside its words takes them: a click on them is one on the box.

@@ -9,12 +9,16 @@
 #include <QStyleFactory>
 #include <QStyleOption>
 
+#include <algorithm>
+
 namespace vlk {
 
 namespace {
 
 constexpr int kTabPadding = 8;
 constexpr int kBarHeight = 8;
+constexpr int kBesideWords = 10;
+constexpr int kLeastButton = 80;
 constexpr int kDark = 128; // lightness of a window
 
 QFont titleFont(QFont font)
@@ -114,6 +118,15 @@ QRect PageStyle::subControlRect(ComplexControl control, const QStyleOptionComple
     if (part == SC_GroupBoxLabel && titled.direction == Qt::LeftToRight)
         rect.setWidth(titled.fontMetrics.size(Qt::TextShowMnemonic, titled.text).width() + 4);
     return rect;
+}
+
+QSize PageStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                  const QWidget* widget) const
+{
+    QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    if (type == CT_PushButton)
+        size.setWidth(std::max({size.width(), contents.width() + 2 * kBesideWords, kLeastButton}));
+    return size;
 }
 
 QIcon PageStyle::standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const

@@ -1,9 +1,9 @@
 #pragma once
 
 // How the parts of a settings page are drawn: titles of groups stand out and are whole, only the outermost
-// group has a frame, tabs stand close together, boxes can be seen on dark windows too, and a slider that
-// shows a measured value is a bar. It is set on the single widgets; whatever else they do is the
-// application's own style.
+// group has a frame, tabs stand close together, boxes can be seen on dark windows too, buttons have air
+// beside their words, and a slider that shows a measured value is a bar. It is set on the single widgets;
+// whatever else they do is the application's own style.
 
 #include <QProxyStyle>
 
@@ -28,6 +28,8 @@ public:
                        const QWidget* widget = nullptr) const override;
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
                          const QWidget* widget = nullptr) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget = nullptr) const override;
     QIcon standardIcon(StandardPixmap which, const QStyleOption* option = nullptr,
                        const QWidget* widget = nullptr) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option = nullptr,
