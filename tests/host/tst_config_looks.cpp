@@ -138,6 +138,18 @@ private Q_SLOTS:
         }
     }
 
+    void disabledTextFollowsTheColours()
+    {
+        host_.open({});
+        const QPalette before = QApplication::palette();
+        QApplication::setPalette({QColor(0x35, 0x37, 0x3a), QColor(0x2b, 0x2d, 0x30)});
+        settle();
+        QCOMPARE(window_->palette().color(QPalette::Window), QColor(0x2b, 0x2d, 0x30));
+        const QStringList found = faults();
+        QApplication::setPalette(before);
+        QVERIFY2(found.isEmpty(), qPrintable(found.join(QLatin1Char('\n'))));
+    }
+
     void tabsAreWhole()
     {
         host_.open({});
