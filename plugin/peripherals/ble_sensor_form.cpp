@@ -165,7 +165,6 @@ void BleSensorForm::makeWidgets()
         if (setting.kind == Kind::choice) {
             auto* list = new QComboBox;
             list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-            list->setMaximumWidth(50 * list->fontMetrics().averageCharWidth());
             list->setObjectName(name);
             label->setBuddy(list);
             grid->addWidget(label, row, 0);

@@ -91,12 +91,12 @@ void FoldingGrid::learn()
     }
 }
 
-QWidgetList FoldingGrid::captions() const
+QWidgetList FoldingGrid::captions(int pair) const
 {
     QWidgetList found;
     for (QLayoutItem* item : items()) {
         const Place& place = places_[item];
-        if (place.columns == 1 && place.column % kColumnsOfPair == 0 && isCaption(item))
+        if (place.columns == 1 && place.column == pair * kColumnsOfPair && isCaption(item))
             found << item->widget();
     }
     return found;

@@ -34,8 +34,8 @@ public:
     // To be called before the others: learns the places of what came into the grid.
     void learn();
     bool hasSecondPair() const { return hasSecondPair_; }
-    QWidgetList captions() const;
     // Of the first (0) and the second (1) pair, as they stand unfolded.
+    QWidgetList captions(int pair) const;
     Needs needs(int pair) const;
     // What stands across all four columns.
     int wholeWidth() const;

@@ -233,13 +233,13 @@ void PageLook::wrapCaptions()
 {
     int widest = kWidestCaption;
     for (auto& [key, grid] : grids_) {
-        for (const QWidget* caption : grid.captions()) {
+        for (const QWidget* caption : grid.captions(0) + grid.captions(1)) {
             if (qobject_cast<const QAbstractButton*>(caption) && !caption->isHidden())
                 widest = std::max(widest, caption->sizeHint().width());
         }
     }
     for (auto& [key, grid] : grids_) {
-        for (QWidget* caption : grid.captions()) {
+        for (QWidget* caption : grid.captions(0) + grid.captions(1)) {
             if (auto* label = qobject_cast<QLabel*>(caption)) {
                 const int width = captionWidth(label);
                 const bool wraps = width > widest && label->textFormat() != Qt::RichText;
@@ -247,6 +247,8 @@ void PageLook::wrapCaptions()
                 if (label->wordWrap() != wraps)
                     label->setWordWrap(wraps);
                 label->setMinimumWidth(wraps ? widest : 0);
+                if (!wraps)
+                    label->setMaximumWidth(QWIDGETSIZE_MAX);
             }
         }
     }
@@ -287,6 +289,13 @@ void PageLook::lineUp()
                 caption, all - right - first - kColumnGap - kBesideFields > kWidestField ? kWidestField : 0);
         else
             grid.setTwoPairs(caption, fields[0], captions[1]);
+        // Left alone, one that wraps takes as much of the room as its words need on one line.
+        for (const int pair : {0, 1}) {
+            for (QWidget* words : grid.captions(pair)) {
+                if (auto* label = qobject_cast<QLabel*>(words); label && label->wordWrap())
+                    label->setMaximumWidth(pair == 0 || folds ? caption : captions[1]);
+            }
+        }
     }
     for (QBoxLayout* row : page_->findChildren<QBoxLayout*>())
         stackBoxes(row, all - insetOf(row, page_).left() - insetOf(row, page_).right());

@@ -124,7 +124,8 @@ QSize PageStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
                                   const QWidget* widget) const
 {
     QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-    if (type == CT_PushButton)
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (type == CT_PushButton && button && !button->text.isEmpty())
         size.setWidth(std::max({size.width(), contents.width() + 2 * kBesideWords, kLeastButton}));
     return size;
 }
