@@ -67,6 +67,7 @@ struct Element
     std::uint8_t width;
     std::uint8_t field;
     ValueType type;
+    Measure measure;
 };
 
 struct Field
@@ -82,8 +83,12 @@ inline constexpr std::array<Element, kElementCount> kElements = [] {
     int offset = 0;
     for (int i = 0; i < kElementCount; ++i) {
         const ElementRow& row = catalogue::kElementRows[i];
-        elements[i] = {row.name, static_cast<std::uint16_t>(offset),
-                       static_cast<std::uint8_t>(width(row.type)), row.field, row.type};
+        elements[i] = {row.name,
+                       static_cast<std::uint16_t>(offset),
+                       static_cast<std::uint8_t>(width(row.type)),
+                       row.field,
+                       row.type,
+                       row.measure};
         offset += elements[i].width;
     }
     return elements;

@@ -2,6 +2,7 @@
 
 #include "catalogue/field_mask.h"
 #include "support/data_table.h"
+#include "telemetry/text/item_names.h"
 
 #include <QRegularExpression>
 #include <QSet>
@@ -105,6 +106,79 @@ private Q_SLOTS:
         for (int field = first; field <= last; ++field)
             mask.set(field);
         QTEST(mask.payloadSize(), "bytes");
+    }
+
+    // What a code of 1 is worth, in which unit, and the code that is no value; of all others a number counts
+    // as it stands and has no unit.
+    void measures()
+    {
+        struct Row
+        {
+            const char* names;
+            double worth;
+            Unit unit;
+            std::optional<qint64> noValue{};
+        };
+        using enum Unit;
+        const Row rows[] = {
+            {"Time LastTime LbsTime TahoTime", 1, unixSeconds},
+            {"GSM", 3.22, percent, 99},
+            {"Latitude Longitude", 1. / 600'000, degree},
+            {"NaviLatitude NaviLongitude", 1. / 600'000'000, degree},
+            {"Altitude", 0.1, metre},
+            {"NaviAltitude", 0.001, metre},
+            {"Speed NaviSpeed TahoSpeed EcoDrvSpeedMax", 1, kilometrePerHour},
+            {"CAN_Speed", 1, kilometrePerHour, 255},
+            {"Course VAccelLineTang", 1, degree},
+            {"NaviCourse", 0.01, degree},
+            {"VAccelVertical", 0.25, degree},
+            {"VAccelLineRoll", 1.5, degree},
+            {"Run Way CAN_FullRun", 1, kilometre},
+            {"CAN_TimeTO", 1, kilometre, 65535},
+            {"AllSeconds SecondsLast", 1, second},
+            {"AccelDelta AccelModule", 0.01, second, 65535},
+            {"Power Reserv StateU_Ain1..8", 0.001, volt},
+            {"RefrTension", 1, millivolt, 65535},
+            {"RefrIntensity", 1, milliampere, 65535},
+            {"Frequency1..8 RS485Freq1..16", 1, hertz},
+            {"Temp1..8 CAN_Temp", 1, celsius, -128},
+            {"TempRS485_1..16", 1, celsius},
+            {"TiresTemp1..30", 1, celsius, -127},
+            {"HPrecisionTemp1..4", 0.05, celsius, -32768},
+            {"FfsSubmisTemp FfsReversTemp", 0.1, celsius},
+            {"RefrTemp1..3 RefrSetTemp1..3 RefrTempAir RefrTempWater", 0.01, celsius},
+            {"HPrecisionHumidity1..4", 0.5, humidity, 255},
+            {"CAN_PedalAccel CAN_PedalStop CAN_EngineLoad", 1, percent, 255},
+            {"CAN_EngineTurns RefrEngineTurns", 1, turnsPerMinute, 65535},
+            {"CAN_AxleLoad_1..5", 1, kilogram, 65535},
+            {"CAN_FuelConsumption", 1, litre},
+            {"FfsFuel FfsFuelTrip FfsSubmisVolume FfsReversVolume", 0.01, litre},
+            {"FfsSpeed FfsSubmisSpeed FfsReversSpeed", 0.1, litrePerHour},
+            {"CAN_EngineTime", 1. / 3600, hour},
+            {"RefrPowerEngine RefrPowerNetwork", 0.01, hour, 4'294'967'295},
+            {"LbsLevel LbsLevel_1..2", 1, decibelMilliwatt},
+            {"NaviHDop NaviPDop TiresPres1..30", 0.1, none},
+            {"TahoOdometer", 0.1, none, 4'294'967'295},
+            {"DispLastIndex", 1, none, 4'294'967'295},
+            {"AccelLinearX AccelLinearY AccelLinearZ AccelAngularPlus AccelAngularMinus AccelAngularCorner",
+             0.001, none, -32768},
+            {"EcoDrvAccelMax", 0.001, none},
+            {"Passager_1..16", 1, none, 255},
+            {"AinfGeozoneID AinfStopID AinfRouteID", 1, none, 0},
+        };
+        std::array<Row, kElementCount> expected;
+        expected.fill({"", 1, none});
+        for (const Row& row : rows) {
+            items::forEachName(row.names, [&](std::string_view name, const items::ItemName&, int) {
+                expected.at(findElement(name).value()) = row;
+            });
+        }
+        for (int i = 0; i < kElementCount; ++i) {
+            const Measure& measure = kElements[i].measure;
+            QVERIFY2(qAbs(measure.of(1) - expected[i].worth) < 1e-12 && measure.unit == expected[i].unit &&
+                         measure.noValue == expected[i].noValue,
+                     qPrintable(name(kElements[i])));
+        }
     }
 
     void maskTexts()

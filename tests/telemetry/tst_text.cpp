@@ -4,6 +4,8 @@
 #include "support/records.h"
 #include "telemetry/text/item_text.h"
 #include "telemetry/text/key_text.h"
+#include "telemetry/text/signal_level.h"
+#include "telemetry/text/unit_word.h"
 
 #include <QtTest>
 
@@ -345,11 +347,13 @@ private Q_SLOTS:
             QVERIFY2(item.bit < bits && rule.bits.first + rule.bits.count <= bits, name);
             QVERIFY2(rule.when.bit < bits || rule.when.bit == Condition::kNone, name);
             QVERIFY2(std::ranges::is_sorted(rule.names, std::less_equal<>{}, &NamedValue::first), name);
-            if (rule.none.code != NoValue::kUnused) {
+            const Measure& measure = measureOf(item, rule);
+            QVERIFY2(!rule.withUnit || rule.unit || unitWord(measure.unit), name);
+            if (measure.noValue) {
                 const bool hasSign = isSigned(kElements[item.element].type);
                 const std::int64_t least = hasSign ? -(std::int64_t{1} << (bits - 1)) : 0;
                 const std::int64_t most = hasSign ? -least - 1 : (std::int64_t{1} << bits) - 1;
-                QVERIFY2(rule.none.code >= least && rule.none.code <= most, name);
+                QVERIFY2(*measure.noValue >= least && *measure.noValue <= most, name);
             }
         }
         QCOMPARE(static_cast<int>(elements.size()), kElementCount);

@@ -4,7 +4,8 @@
 #include "record_values.h"
 #include "support/data_table.h"
 #include "tracker/sensing.h"
-#include "tracker/vehicle.h"
+#include "tracker/vehicle_fuel.h"
+#include "tracker/vehicle_radio.h"
 
 #include <QtTest>
 
@@ -219,7 +220,7 @@ private Q_SLOTS:
         tracker::WorkingSettings settings;
         settings.supply = {.line = 3, .alarm = 30000, .restore = 31000};
         settings.shockLevels = {5000, 0, 0, 0};
-        settings.output.use = 1;
+        settings.output.switched = true;
         for (int i = 0; i < actions.size(); ++i)
             settings.output.actions[std::size_t(i)] = actions[i] - '0';
         settings.output.delay = delay;
@@ -243,14 +244,22 @@ private Q_SLOTS:
     void formsOfTheSignal_data()
     {
         DataTable<tracker::OutputRules, QString>({"rules", "signal"})
-            .row("lasting", {.form = 0, .onPeriod = 1}, "1111111111")
-            .row("lasting, delayed", {.form = 0, .delay = 3}, "0001111111")
-            .row("a pulse", {.form = 1, .onPeriod = 4, .offPeriod = 1}, "1111000000")
-            .row("a pulse, delayed", {.form = 1, .onPeriod = 2, .delay = 1}, "0110000000")
-            .row("periodic", {.form = 2, .onPeriod = 1, .offPeriod = 3}, "1000100010")
-            .row("periodic, ended", {.form = 2, .onPeriod = 2, .offPeriod = 1, .stops = 1, .stopsAfter = 5},
+            .row("lasting", {.form = tracker::OutputForm::Lasting, .onPeriod = 1}, "1111111111")
+            .row("lasting, delayed", {.form = tracker::OutputForm::Lasting, .delay = 3}, "0001111111")
+            .row("a pulse", {.form = tracker::OutputForm::OnePulse, .onPeriod = 4, .offPeriod = 1},
+                 "1111000000")
+            .row("a pulse, delayed", {.form = tracker::OutputForm::OnePulse, .onPeriod = 2, .delay = 1},
+                 "0110000000")
+            .row("periodic", {.form = tracker::OutputForm::Periodic, .onPeriod = 1, .offPeriod = 3},
+                 "1000100010")
+            .row("periodic, ended",
+                 {.form = tracker::OutputForm::Periodic,
+                  .onPeriod = 2,
+                  .offPeriod = 1,
+                  .stops = true,
+                  .stopsAfter = 5},
                  "1101100000")
-            .row("periodic without periods", {.form = 2}, "0000000000");
+            .row("periodic without periods", {.form = tracker::OutputForm::Periodic}, "0000000000");
     }
     void formsOfTheSignal()
     {
@@ -269,13 +278,13 @@ private Q_SLOTS:
     {
         DataTable<tracker::FuelRules, int, QVector<double>>({"rules", "supplyLine", "held"})
             .row("always", {}, 3, {-1, -1, -1, -1})
-            .row("ignition", {.withIgnition = 1}, 0, {300, -1, -1, 201})
-            .row("ignition, delayed", {.withIgnition = 1, .delay = 20}, 0, {300, 300, -1, 201})
-            .row("engine", {.withEngine = 1}, 3, {300, -1, -1, 201})
-            .row("supply", {.withSupply = 1, .low = 13000, .high = 13500}, 3, {300, -1, -1, 201})
-            .row("supply between its levels", {.withSupply = 1, .low = 12000, .high = 15000}, 3,
+            .row("ignition", {.withIgnition = true}, 0, {300, -1, -1, 201})
+            .row("ignition, delayed", {.withIgnition = true, .delay = 20}, 0, {300, 300, -1, 201})
+            .row("engine", {.withEngine = true}, 3, {300, -1, -1, 201})
+            .row("supply", {.withSupply = true, .low = 13000, .high = 13500}, 3, {300, -1, -1, 201})
+            .row("supply between its levels", {.withSupply = true, .low = 12000, .high = 15000}, 3,
                  {-1, -1, -1, -1})
-            .row("nothing measures the supply", {.withEngine = 1, .withSupply = 1, .low = 32000}, 0,
+            .row("nothing measures the supply", {.withEngine = true, .withSupply = true, .low = 32000}, 0,
                  {-1, -1, -1, -1});
     }
     void fuelCountsUnderItsConditions()
@@ -285,8 +294,7 @@ private Q_SLOTS:
         tracker::WorkingSettings settings;
         settings.supply.line = supplyLine;
         settings.fuel = rules;
-        settings.lines[0] = {
-            .use = int(tracker::LineUse::OpenPlus), .ignition = 1, .low = 5000, .high = 6000};
+        settings.lines[0] = {.use = tracker::LineUse::OpenPlus, .ignition = true, .low = 5000, .high = 6000};
         tracker::Moment moment;
         moment.settings = std::make_shared<tracker::WorkingSettings>(settings);
         QVector<double> held;
@@ -305,7 +313,7 @@ private Q_SLOTS:
         for (const double litres : {250.0, 60.0}) {
             moment.at.fuel = litres;
             const tracker::Vehicle vehicle(moment, {});
-            QCOMPARE(vehicle.recordedFuel(1) == vehicle.fuelSensor(1), held.last() < 0);
+            QCOMPARE(recordedFuel(vehicle, 1) == fuelSensor(vehicle, 1), held.last() < 0);
         }
     }
 
@@ -339,7 +347,7 @@ private Q_SLOTS:
                     stoppedAfter = second;
             }
             // A record's state is the one that the events told.
-            const bool running = int(tracker::Vehicle(moment, {}).module1()) & 0x80;
+            const bool running = int(module1(tracker::Vehicle(moment, {}))) & 0x80;
             QCOMPARE(running, startedAfter >= 0 && stoppedAfter < 0);
         }
         QTEST(startedAfter, "startedAfter");
@@ -350,7 +358,7 @@ private Q_SLOTS:
     {
         tracker::WorkingSettings settings;
         settings.shockLevels = {5000, 0, 0, 0};
-        settings.output.use = 1;
+        settings.output.switched = true;
         settings.output.actions[16] = 2;
         tracker::Moment moment;
         moment.sensed.output = true;

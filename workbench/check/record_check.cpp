@@ -1,6 +1,6 @@
 #include "check/record_check.h"
 
-#include "catalogue/field_mask.h"
+#include "check/record_form.h"
 
 #include <QtEndian>
 
@@ -37,10 +37,6 @@ const HeaderRow* headerOf(Message answer)
     return row == std::end(headers) ? nullptr : row;
 }
 
-constexpr quint8 recordType = 176;
-constexpr quint8 packetType = 177;
-constexpr int recordHead = 2 + FieldMask::kBytes;
-constexpr int packetCounted = 3; // type and length, which do not count themselves
 constexpr int packetTime = 11;
 
 constexpr qint64 year2000 = 946684800;

@@ -1,6 +1,6 @@
 #include "check/telemetry_file_check.h"
 
-#include "catalogue/field_mask.h"
+#include "check/record_form.h"
 #include "telemetry/files/binary_layout.h"
 
 #include <QFile>
@@ -36,10 +36,7 @@ Seen lookAtXml(QFile& file)
 
 using Bytes = std::span<const uchar>;
 
-constexpr uchar recordType = 176;
-constexpr uchar packetType = 177;
 constexpr uchar version = 30;
-constexpr std::size_t recordHead = 2 + FieldMask::kBytes;
 
 // The record that begins here with its length in front; empty when it is none or not all there.
 Bytes recordAt(Bytes start)
@@ -49,7 +46,7 @@ Bytes recordAt(Bytes start)
     const std::size_t length = qFromLittleEndian<quint16>(start.data());
     const Bytes rest = start.subspan(binary::kLengthBytes);
     const std::size_t least = rest[0] == recordType   ? recordHead
-                              : rest[0] == packetType ? 3
+                              : rest[0] == packetType ? packetCounted
                                                       : rest.size() + 1;
     return length >= least && length <= rest.size() ? rest.first(length) : Bytes();
 }
@@ -58,7 +55,7 @@ Bytes recordAt(Bytes start)
 bool lengthAgrees(Bytes record)
 {
     if (record[0] == packetType)
-        return record.size() == 3U + qFromLittleEndian<quint16>(&record[1]);
+        return record.size() == std::size_t{packetCounted} + qFromLittleEndian<quint16>(&record[1]);
     FieldMask::Bytes mask;
     std::memcpy(mask.data(), &record[2], mask.size());
     return record[1] == version &&

@@ -1,4 +1,9 @@
 #include "tracker/field_values.h"
+#include "tracker/vehicle_climate.h"
+#include "tracker/vehicle_fuel.h"
+#include "tracker/vehicle_motion.h"
+#include "tracker/vehicle_power.h"
+#include "tracker/vehicle_radio.h"
 
 #include <algorithm>
 #include <bit>
@@ -28,23 +33,23 @@ struct Row
 template <class Say>
 double ofSensor(const Vehicle& v, int row, Say say)
 {
-    const Vehicle::FuelSource source = v.fuelSource(row);
+    const FuelSource source = fuelSource(v, row);
     return source.sensor < 0 ? 0 : say(source);
 }
 double fuelOf(const Vehicle& v, int row)
 {
-    return ofSensor(v, row, [&](const Vehicle::FuelSource& source) {
-        return v.recordedFuel(source.sensor) + (source.filtered ? 0 : v.slosh(source.sensor));
+    return ofSensor(v, row, [&](const FuelSource& source) {
+        return recordedFuel(v, source.sensor) + (source.filtered ? 0 : slosh(v, source.sensor));
     });
 }
 double fuelTemperatureOf(const Vehicle& v, int row)
 {
-    return ofSensor(v, row, [&](const Vehicle::FuelSource&) { return v.m.outside + 4; });
+    return ofSensor(v, row, [&](const FuelSource&) { return v.m.outside + 4; });
 }
 double fuelFrequencyOf(const Vehicle& v, int row)
 {
-    return ofSensor(
-        v, row, [&](const Vehicle::FuelSource& source) { return 800 + v.recordedFuel(source.sensor) / 4; });
+    return ofSensor(v, row,
+                    [&](const FuelSource& source) { return 800 + recordedFuel(v, source.sensor) / 4; });
 }
 
 // What the vehicle has nothing to say about.
@@ -70,11 +75,11 @@ constexpr Row rows[] = {
     {element("NumPage"), [](const Vehicle& v, int) { return double(v.m.number); }},
     {element("Code"), [](const Vehicle& v, int) { return double(v.m.code); }},
     {element("Time"), [](const Vehicle& v, int) { return double(v.m.time); }},
-    {element("State"), [](const Vehicle& v, int) { return v.state(); }},
-    {element("Module1"), [](const Vehicle& v, int) { return v.module1(); }},
-    {element("Module2"), [](const Vehicle& v, int) { return v.module2(); }},
-    {element("GSM"), [](const Vehicle& v, int) { return v.gsmLevel(); }},
-    {element("StateNGauge"), [](const Vehicle& v, int) { return v.navigationState(); }},
+    {element("State"), [](const Vehicle& v, int) { return state(v); }},
+    {element("Module1"), [](const Vehicle& v, int) { return module1(v); }},
+    {element("Module2"), [](const Vehicle& v, int) { return module2(v); }},
+    {element("GSM"), [](const Vehicle& v, int) { return gsmLevel(v); }},
+    {element("StateNGauge"), [](const Vehicle& v, int) { return navigationState(v); }},
     {element("LastTime"), [](const Vehicle& v, int) { return double(v.m.fixTime); }},
     {element("Latitude"), [](const Vehicle& v, int) { return v.m.road.latitude * coordinate; }},
     {element("Longitude"), [](const Vehicle& v, int) { return v.m.road.longitude * coordinate; }},
@@ -86,56 +91,56 @@ constexpr Row rows[] = {
     {element("AllSeconds"), [](const Vehicle& v, int) { return double(v.m.segmentSeconds); }},
     {element("SecondsLast"), [](const Vehicle& v, int) { return double(v.m.movingSeconds); }},
 
-    {element("Power"), [](const Vehicle& v, int) { return v.supply(); }},
-    {element("Reserv"), [](const Vehicle& v, int) { return v.backupSupply(); }},
-    {element("StateU_Ain1"), [](const Vehicle& v, int i) { return i < 3 ? v.line(i) : 0; }, 8},
-    {element("StateIn1"), [](const Vehicle& v, int i) { return i == 0 ? v.inputs() : 0; }, 2},
-    {element("StateOut1"), [](const Vehicle& v, int i) { return v.outputs(i); }, 2},
+    {element("Power"), [](const Vehicle& v, int) { return supplyVoltage(v); }},
+    {element("Reserv"), [](const Vehicle& v, int) { return backupSupply(v); }},
+    {element("StateU_Ain1"), [](const Vehicle& v, int i) { return i < 3 ? lineVoltage(v, i) : 0; }, 8},
+    {element("StateIn1"), [](const Vehicle& v, int i) { return i == 0 ? inputs(v) : 0; }, 2},
+    {element("StateOut1"), [](const Vehicle& v, int i) { return outputs(v, i); }, 2},
     {element("StateIn_Imp1"), [](const Vehicle& v, int i) { return i == 0 ? v.m.at.km * 10 : 0; }, 2},
-    {element("Frequency1"), [](const Vehicle& v, int i) { return v.frequency(i); }, 2},
+    {element("Frequency1"), [](const Vehicle& v, int i) { return frequency(v, i); }, 2},
     {element("Motochas"), [](const Vehicle& v, int) { return std::floor(v.m.at.engineSeconds / hour); }},
     {element("LevelRS485_1"), fuelOf, 6},
     {element("LevelRS232"), zero},
-    {element("Temp1"), [](const Vehicle& v, int i) { return v.temperature(i); }, 8},
+    {element("Temp1"), [](const Vehicle& v, int i) { return temperature(v, i); }, 8},
 
-    {element("CAN_FuelLevel"), [](const Vehicle& v, int) { return v.fuelPercent(); }},
+    {element("CAN_FuelLevel"), [](const Vehicle& v, int) { return fuelPercent(v); }},
     {element("CAN_FuelConsumption"), [](const Vehicle& v, int) { return v.m.at.fuelUsed; }},
-    {element("CAN_EngineTurns"), [](const Vehicle& v, int) { return v.engineTurns(); }},
-    {element("CAN_Temp"), [](const Vehicle& v, int) { return v.coolant(); }},
+    {element("CAN_EngineTurns"), [](const Vehicle& v, int) { return engineTurns(v); }},
+    {element("CAN_Temp"), [](const Vehicle& v, int) { return coolant(v); }},
     {element("CAN_FullRun"), [](const Vehicle& v, int) { return 68000 + v.m.at.km; }},
-    {element("CAN_AxleLoad_1"), [](const Vehicle& v, int i) { return v.axleLoad(i); }, 5},
-    {element("CAN_PedalAccel"), [](const Vehicle& v, int) { return v.gasPedal(); }},
-    {element("CAN_PedalStop"), [](const Vehicle& v, int) { return v.brakePedal(); }},
-    {element("CAN_EngineLoad"), [](const Vehicle& v, int) { return v.engineLoad(); }},
-    {element("CAN_LevelFiltr"), [](const Vehicle& v, int) { return v.fuelPercent(); }},
+    {element("CAN_AxleLoad_1"), [](const Vehicle& v, int i) { return axleLoad(v, i); }, 5},
+    {element("CAN_PedalAccel"), [](const Vehicle& v, int) { return gasPedal(v); }},
+    {element("CAN_PedalStop"), [](const Vehicle& v, int) { return brakePedal(v); }},
+    {element("CAN_EngineLoad"), [](const Vehicle& v, int) { return engineLoad(v); }},
+    {element("CAN_LevelFiltr"), [](const Vehicle& v, int) { return fuelPercent(v); }},
     {element("CAN_EngineTime"), [](const Vehicle& v, int) { return v.m.at.engineSeconds; }},
     {element("CAN_TimeTO"), [](const Vehicle& v, int) { return 15000 - std::fmod(v.m.at.km, 15000); }},
     {element("CAN_Speed"), [](const Vehicle& v, int) { return v.m.speed; }},
 
-    {element("NaviInfoGlonass"), [](const Vehicle& v, int i) { return v.satellites(i); }, 8},
-    {element("NaviHDop"), [](const Vehicle& v, int i) { return v.dilution(i); }, 2},
-    {element("NaviState"), [](const Vehicle& v, int) { return v.navigationState(); }},
+    {element("NaviInfoGlonass"), [](const Vehicle& v, int i) { return satellites(v, i); }, 8},
+    {element("NaviHDop"), [](const Vehicle& v, int i) { return dilution(v, i); }, 2},
+    {element("NaviState"), [](const Vehicle& v, int) { return navigationState(v); }},
     {element("NaviLatitude"), [](const Vehicle& v, int) { return v.m.road.latitude * fineCoordinate; }},
     {element("NaviLongitude"), [](const Vehicle& v, int) { return v.m.road.longitude * fineCoordinate; }},
     {element("NaviAltitude"), [](const Vehicle& v, int) { return v.m.road.altitude * 1000; }},
     {element("NaviCourse"), [](const Vehicle& v, int) { return v.m.road.course * 100; }},
     {element("NaviSpeed"), [](const Vehicle& v, int) { return v.m.speed; }},
 
-    {element("LbsCellID"), [](const Vehicle& v, int i) { return v.cell(i); }, 3, 5},
-    {element("LbsLac"), [](const Vehicle& v, int) { return v.areaCode(); }, 3, 5},
+    {element("LbsCellID"), [](const Vehicle& v, int i) { return cell(v, i); }, 3, 5},
+    {element("LbsLac"), [](const Vehicle& v, int) { return areaCode(v); }, 3, 5},
     {element("LbsMcc"), constant<250>, 3, 5},
     {element("LbsMnc"), constant<1>, 3, 5},
-    {element("LbsLevel"), [](const Vehicle& v, int i) { return v.stationLevel(i); }, 3, 5},
+    {element("LbsLevel"), [](const Vehicle& v, int i) { return stationLevel(v, i); }, 3, 5},
     {element("LbsTime"), [](const Vehicle& v, int) { return double(v.m.time); }},
 
     {element("TempRS485_1"), fuelTemperatureOf, 6},
     {element("LevelRS485_7"), [](const Vehicle& v, int i) { return fuelOf(v, 6 + i); }, 10, 2},
     {element("TempRS485_7"), [](const Vehicle& v, int i) { return fuelTemperatureOf(v, 6 + i); }, 10, 2},
     {element("TiresNum1"), [](const Vehicle&, int i) { return double(i + 1); }, 30, 3, LineOwner::Tyres},
-    {element("TiresPres1"), [](const Vehicle& v, int i) { return v.tyrePressure(i); }, 30, 3, LineOwner::Tyres},
-    {element("TiresTemp1"), [](const Vehicle& v, int i) { return v.tyreTemperature(i); }, 30, 3, LineOwner::Tyres, -127},
+    {element("TiresPres1"), [](const Vehicle& v, int i) { return tyrePressure(v, i); }, 30, 3, LineOwner::Tyres},
+    {element("TiresTemp1"), [](const Vehicle& v, int i) { return tyreTemperature(v, i); }, 30, 3, LineOwner::Tyres, -127},
 
-    {element("TahoState"), [](const Vehicle& v, int) { return v.tachographState(); }, 1, 1, LineOwner::Tachograph},
+    {element("TahoState"), [](const Vehicle& v, int) { return tachographState(v); }, 1, 1, LineOwner::Tachograph},
     {element("TahoMode"), constant<1>, 1, 1, LineOwner::Tachograph},
     {element("TahoFlags"), [](const Vehicle& v, int) { return v.driving() ? 3.0 : 1.0; }, 1, 1, LineOwner::Tachograph},
     {element("TahoSpeed"), [](const Vehicle& v, int) { return v.m.speed; }, 1, 1, LineOwner::Tachograph},
@@ -146,69 +151,69 @@ constexpr Row rows[] = {
 
     {element("AccelDelta"), [](const Vehicle& v, int) { return v.m.segmentSeconds * 100.0; }},
     {element("AccelLinearX"), [](const Vehicle& v, int) { return v.m.acceleration * milliG; }},
-    {element("AccelLinearY"), [](const Vehicle& v, int) { return v.lateral() * 1000; }},
-    {element("AccelLinearZ"), [](const Vehicle& v, int) { return 1000 + v.shock() * 4; }},
-    {element("AccelModule"), [](const Vehicle& v, int) { return v.shock() > 20 ? v.shock() : 0; }},
+    {element("AccelLinearY"), [](const Vehicle& v, int) { return lateral(v) * 1000; }},
+    {element("AccelLinearZ"), [](const Vehicle& v, int) { return 1000 + shock(v) * 4; }},
+    {element("AccelModule"), [](const Vehicle& v, int) { return shock(v) > 20 ? shock(v) : 0; }},
     {element("AccelAngularPlus"),
      [](const Vehicle& v, int) { return std::max(0.0, v.m.acceleration) * milliG; }},
     {element("AccelAngularMinus"),
      [](const Vehicle& v, int) { return std::min(0.0, v.m.acceleration) * milliG; }},
-    {element("AccelAngularCorner"), [](const Vehicle& v, int) { return v.lateral() * 1000; }},
-    {element("Passager_1"), [](const Vehicle& v, int i) { return v.passengers(i); }, 16},
+    {element("AccelAngularCorner"), [](const Vehicle& v, int) { return lateral(v) * 1000; }},
+    {element("Passager_1"), [](const Vehicle& v, int i) { return passengers(v, i); }, 16},
     {element("AinfState"), zero},
     {element("AinfGeozoneID"), zero, 3},
     {element("CameraState"), zero},
 
     {element("State2"), zero},
     {element("Module3"), constant<1>},
-    {element("StateCnct"), [](const Vehicle& v, int) { return v.connection(); }},
+    {element("StateCnct"), [](const Vehicle& v, int) { return connection(v); }},
     {element("StateIn3"), zero},
     {element("StateIn_Imp3"), zero, 6},
     {element("Frequency3"), zero, 6},
-    {element("VAccelState"), [](const Vehicle& v, int) { return v.shockState(); }},
-    {element("VAccelVertical"), [](const Vehicle& v, int) { return v.tilt() * 4; }},
-    {element("VAccelLineTang"), [](const Vehicle& v, int) { return v.tilt() / 2; }},
-    {element("VAccelLineRoll"), [](const Vehicle& v, int) { return v.lateral() * 20; }},
+    {element("VAccelState"), [](const Vehicle& v, int) { return shockState(v); }},
+    {element("VAccelVertical"), [](const Vehicle& v, int) { return tilt(v) * 4; }},
+    {element("VAccelLineTang"), [](const Vehicle& v, int) { return tilt(v) / 2; }},
+    {element("VAccelLineRoll"), [](const Vehicle& v, int) { return lateral(v) * 20; }},
     {element("VAccelAxelsX"), zero, 3},
-    {element("EcoDrvAccelMax"), [](const Vehicle& v, int) { return 1000 + v.shock() * 6; }},
+    {element("EcoDrvAccelMax"), [](const Vehicle& v, int) { return 1000 + shock(v) * 6; }},
     {element("EcoDrvSpeedMax"), [](const Vehicle& v, int) { return v.m.speed; }},
-    {element("EcoDrvSpeedState"), [](const Vehicle& v, int) { return v.speedThresholds(); }},
+    {element("EcoDrvSpeedState"), [](const Vehicle& v, int) { return speedThresholds(v); }},
     {element("EcoDrvAccel1"),
      [](const Vehicle& v,
-        int) { return v.thresholds(v.m.acceleration / gravity) + 16 * v.thresholds(-v.m.acceleration / gravity); }},
+        int) { return thresholds(v.m.acceleration / gravity) + 16 * thresholds(-v.m.acceleration / gravity); }},
     {element("EcoDrvAccel2"),
-     [](const Vehicle& v, int) { return v.thresholds(-v.lateral()) + 16 * v.thresholds(v.lateral()); }},
-    {element("EcoDrvAccel3"), [](const Vehicle& v, int) { return v.thresholds(v.shock() / 200); }},
+     [](const Vehicle& v, int) { return thresholds(-lateral(v)) + 16 * thresholds(lateral(v)); }},
+    {element("EcoDrvAccel3"), [](const Vehicle& v, int) { return thresholds(shock(v) / 200); }},
     {element("RS485Freq1"), fuelFrequencyOf, 16},
-    {element("HPrecisionTemp1"), [](const Vehicle& v, int i) { return v.fineTemperature(i); }, 4},
-    {element("HPrecisionHumidity1"), [](const Vehicle& v, int i) { return v.humidity(i); }, 4},
+    {element("HPrecisionTemp1"), [](const Vehicle& v, int i) { return fineTemperature(v, i); }, 4},
+    {element("HPrecisionHumidity1"), [](const Vehicle& v, int i) { return humidity(v, i); }, 4},
 
     {element("FfsState"), [](const Vehicle& v, int) { return v.running() ? flowRuns : flowStands; }},
     {element("FfsError"), zero},
     {element("FfsFuel"), [](const Vehicle& v, int) { return v.m.at.fuelUsed * 100; }},
     {element("FfsFuelTrip"), [](const Vehicle& v, int) { return std::fmod(v.m.at.fuelUsed, 1000) * 100; }},
-    {element("FfsSpeed"), [](const Vehicle& v, int) { return v.flow(); }},
+    {element("FfsSpeed"), [](const Vehicle& v, int) { return flow(v); }},
     {element("FfsSubmisVolume"), [](const Vehicle& v, int) { return v.m.at.fuelUsed * 260; }},
-    {element("FfsSubmisSpeed"), [](const Vehicle& v, int) { return v.flow() * 2.6; }},
+    {element("FfsSubmisSpeed"), [](const Vehicle& v, int) { return flow(v) * 2.6; }},
     {element("FfsSubmisTemp"), [](const Vehicle& v, int) { return v.m.outside * 10 + 60; }},
     {element("FfsReversVolume"), [](const Vehicle& v, int) { return v.m.at.fuelUsed * 160; }},
-    {element("FfsReversSpeed"), [](const Vehicle& v, int) { return v.flow() * 1.6; }},
-    {element("FfsReversTemp"), [](const Vehicle& v, int) { return v.coolant() * 6; }},
+    {element("FfsReversSpeed"), [](const Vehicle& v, int) { return flow(v) * 1.6; }},
+    {element("FfsReversTemp"), [](const Vehicle& v, int) { return coolant(v) * 6; }},
 
-    {element("RefrState1"), [](const Vehicle& v, int) { return v.refrigeratorRuns(); }, 1, 1, LineOwner::Refrigerator},
-    {element("RefrState2"), [](const Vehicle& v, int) { return v.refrigeratorRuns() + 1; }, 1, 1, LineOwner::Refrigerator},
-    {element("RefrTemp1"), [](const Vehicle& v, int i) { return v.refrigeratorTemperature(i); }, 3, 1, LineOwner::Refrigerator},
+    {element("RefrState1"), [](const Vehicle& v, int) { return refrigeratorRuns(v); }, 1, 1, LineOwner::Refrigerator},
+    {element("RefrState2"), [](const Vehicle& v, int) { return refrigeratorRuns(v) + 1; }, 1, 1, LineOwner::Refrigerator},
+    {element("RefrTemp1"), [](const Vehicle& v, int i) { return refrigeratorTemperature(v, i); }, 3, 1, LineOwner::Refrigerator},
     {element("RefrSetTemp1"), constant<300>, 3, 1, LineOwner::Refrigerator},
     {element("RefrTempAir"), [](const Vehicle& v, int) { return v.m.outside * 100; }, 1, 1, LineOwner::Refrigerator},
-    {element("RefrTempWater"), [](const Vehicle& v, int) { return v.coolant() * 80; }, 1, 1, LineOwner::Refrigerator},
-    {element("RefrTension"), [](const Vehicle& v, int) { return v.supply(); }, 1, 1, LineOwner::Refrigerator, noValue16},
-    {element("RefrIntensity"), [](const Vehicle& v, int) { return v.refrigeratorRuns() * 18; }, 1, 1, LineOwner::Refrigerator, noValue16},
+    {element("RefrTempWater"), [](const Vehicle& v, int) { return coolant(v) * 80; }, 1, 1, LineOwner::Refrigerator},
+    {element("RefrTension"), [](const Vehicle& v, int) { return supplyVoltage(v); }, 1, 1, LineOwner::Refrigerator, noValue16},
+    {element("RefrIntensity"), [](const Vehicle& v, int) { return refrigeratorRuns(v) * 18; }, 1, 1, LineOwner::Refrigerator, noValue16},
     {element("RefrPowerEngine"), [](const Vehicle& v, int) { return v.m.at.loadSeconds / 36; }, 1, 1, LineOwner::Refrigerator, noValue32},
     {element("RefrPowerNetwork"), zero, 1, 1, LineOwner::Refrigerator, noValue32},
     {element("RefrErrorCount"), zero, 7, 1, LineOwner::Refrigerator},
-    {element("RefrEngineMode"), [](const Vehicle& v, int) { return v.refrigeratorRuns(); }, 1, 1, LineOwner::Refrigerator},
-    {element("RefrEngineTurns"), [](const Vehicle& v, int) { return v.refrigeratorRuns() * 1450; }, 1, 1, LineOwner::Refrigerator, noValue16},
-    {element("RefrCompressor"), [](const Vehicle& v, int) { return v.refrigeratorRuns() + 1; }, 1, 1, LineOwner::Refrigerator},
+    {element("RefrEngineMode"), [](const Vehicle& v, int) { return refrigeratorRuns(v); }, 1, 1, LineOwner::Refrigerator},
+    {element("RefrEngineTurns"), [](const Vehicle& v, int) { return refrigeratorRuns(v) * 1450; }, 1, 1, LineOwner::Refrigerator, noValue16},
+    {element("RefrCompressor"), [](const Vehicle& v, int) { return refrigeratorRuns(v) + 1; }, 1, 1, LineOwner::Refrigerator},
 
     {element("GeozoneInfo"),
      [](const Vehicle& v, int) { return v.m.activity == Activity::Parked ? 1.0 : 0.0; }},

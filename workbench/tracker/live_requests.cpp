@@ -2,6 +2,9 @@
 
 #include "tracker/bytes.h"
 #include "tracker/driver.h"
+#include "tracker/vehicle_fuel.h"
+#include "tracker/vehicle_motion.h"
+#include "tracker/vehicle_power.h"
 
 #include <cmath>
 
@@ -45,14 +48,15 @@ void LiveRequests::addTo(Handlers& handlers)
     handlers[Message::RequestAnalog] = [this](void*) { return analog(); };
     handlers[Message::RequestSupply] = [this](void*) -> Answers {
         vlk::SupplyRecord record{};
-        record.values[vlk::supplyElement] = static_cast<std::uint16_t>(std::lround(present_().supply()));
+        record.values[vlk::supplyElement] =
+            static_cast<std::uint16_t>(std::lround(supplyVoltage(present_())));
         return {Answer::record(record)};
     };
     handlers[Message::RequestAccel] = [this](void*) -> Answers {
         constexpr double degree = 3.14159265358979323846 / 180;
         const Vehicle vehicle = present_();
-        return {Answer::record(vlk::AccelValues{accelWord(vehicle.movement()), vehicle.tilt() * degree,
-                                                accelWord(vehicle.shock())})};
+        return {Answer::record(vlk::AccelValues{accelWord(movement(vehicle)), tilt(vehicle) * degree,
+                                                accelWord(shock(vehicle))})};
     };
     handlers[Message::RequestAccelCommand] = [](void*) -> Answers {
         constexpr char done = 49;
@@ -89,12 +93,12 @@ Answers LiveRequests::lines(const QByteArray* list) const
     const Vehicle vehicle = present_();
     QByteArray pairs;
     for (const QByteArray& id : list->split(',')) {
-        const int line = id.trimmed().toInt() - firstLine;
-        if (line < 0 || line >= lineCount)
+        const int index = id.trimmed().toInt() - firstLine;
+        if (index < 0 || index >= lineCount)
             continue;
         if (!pairs.isEmpty())
             pairs += ',';
-        pairs += id.trimmed() + ':' + QByteArray::number(qRound(vehicle.line(line)), 16).toUpper();
+        pairs += id.trimmed() + ':' + QByteArray::number(qRound(lineVoltage(vehicle, index)), 16).toUpper();
     }
     return {Answer::bytes("LINES: " + pairs)};
 }
@@ -107,11 +111,11 @@ Answers LiveRequests::analog() const
     const Vehicle vehicle = present_();
     QByteArray record(vlk::analogRecordSize, '\0');
     for (int i = 0; i < 2; ++i)
-        putWord(record, frequencies + 2 * i, vehicle.frequency(i));
+        putWord(record, frequencies + 2 * i, frequency(vehicle, i));
     for (int i = 0; i < lineCount; ++i)
-        putWord(record, vlk::analogRecordLine1 + 2 * i, vehicle.line(i));
+        putWord(record, vlk::analogRecordLine1 + 2 * i, lineVoltage(vehicle, i));
     for (int i = 0; i < fuelSensorCount; ++i)
-        putWord(record, fuelSensors + 3 * i, vehicle.fuelSensor(i));
+        putWord(record, fuelSensors + 3 * i, fuelSensor(vehicle, i));
     return {{Answer::Form::Record, record, {}}};
 }
 

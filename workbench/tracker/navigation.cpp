@@ -80,7 +80,7 @@ double wanderingOf(const NavigationRules& rules, bool ignition, bool moved)
     const bool stands = (rules.standsWithoutIgnition && !ignition) || (rules.standsWithoutMovement && !moved);
     if (!rules.filtered || !stands)
         return free;
-    switch (static_cast<AtStops>(rules.atStops)) {
+    switch (rules.atStops) {
     case AtStops::Fix:
         return 0;
     case AtStops::Average:

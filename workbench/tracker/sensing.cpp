@@ -1,6 +1,9 @@
 #include "tracker/sensing.h"
 
 #include "tracker/vehicle.h"
+#include "tracker/vehicle_climate.h"
+#include "tracker/vehicle_motion.h"
+#include "tracker/vehicle_power.h"
 
 #include <cmath>
 #include <limits>
@@ -54,7 +57,7 @@ public:
         shocks();
         for (std::size_t i = first; i < events_.size(); ++i)
             eventSwitches(events_[i]);
-        if (!settings_.output.use)
+        if (!settings_.output.switched)
             now_.output = false;
         if (now_.output && now_.outputSince == waiting && !vehicle_.driving())
             now_.outputSince = vehicle_.m.time;
@@ -71,7 +74,7 @@ private:
 
     void lines()
     {
-        now_.lines = static_cast<quint8>(vehicle_.triggeredLines(settings_));
+        now_.lines = static_cast<quint8>(triggeredLines(vehicle_, settings_));
         for (int i = 0; i < static_cast<int>(settings_.lines.size()); ++i) {
             const LineRules& line = settings_.lines[i];
             const bool triggered = now_.lines >> i & 1;
@@ -98,8 +101,8 @@ private:
     void analogue()
     {
         const LineRules& line = settings_.lines[2];
-        const int measured = static_cast<int>(std::lround(vehicle_.line(2)));
-        if (!line.is(LineUse::Analogue) || now_.analogue < 0) {
+        const int measured = static_cast<int>(std::lround(lineVoltage(vehicle_, 2)));
+        if (line.use != LineUse::Analogue || now_.analogue < 0) {
             now_.analogue = measured;
         } else if (std::abs(measured - now_.analogue) >= line.change && line.change > 0 &&
                    !(line.stillOnly && vehicle_.driving())) {
@@ -114,7 +117,7 @@ private:
     void engine()
     {
         const SupplyRules& rules = settings_.supply;
-        if (!vehicle_.engineRuns(settings_))
+        if (!engineRuns(vehicle_, settings_))
             now_.engineSince = 0;
         else if (now_.engineSince == 0)
             now_.engineSince = vehicle_.m.time;
@@ -129,7 +132,7 @@ private:
     void supply()
     {
         const SupplyRules& rules = settings_.supply;
-        const double measured = vehicle_.line(2);
+        const double measured = lineVoltage(vehicle_, 2);
         if (!rules.used()) {
             now_.supplyLow = false;
             now_.supplyLowSince = 0;
@@ -148,9 +151,9 @@ private:
     {
         const FuelRules& rules = settings_.fuel;
         const bool measured = settings_.supply.used();
-        if (vehicle_.supply() <= rules.low)
+        if (supplyVoltage(vehicle_) <= rules.low)
             now_.fuelSupplied = false;
-        else if (vehicle_.supply() >= rules.high)
+        else if (supplyVoltage(vehicle_) >= rules.high)
             now_.fuelSupplied = true;
         const bool conditions = rules.withIgnition || (measured && (rules.withEngine || rules.withSupply));
         const bool met =
@@ -169,7 +172,7 @@ private:
     {
         for (int i = 0; i < static_cast<int>(settings_.zones.size()); ++i) {
             const TemperatureZone& zone = settings_.zones[i];
-            const double measured = vehicle_.temperature(i) * 100;
+            const double measured = temperature(vehicle_, i) * 100;
             qint8& state = now_.zones[i];
             if (measured < zone.low)
                 state = -1;
@@ -188,7 +191,7 @@ private:
     // A sensor rests again below half its level.
     void shocks()
     {
-        const double measured[] = {vehicle_.shock(), vehicle_.shock(), vehicle_.movement(), vehicle_.tilt()};
+        const double measured[] = {shock(vehicle_), shock(vehicle_), movement(vehicle_), tilt(vehicle_)};
         constexpr EventCode raised[] = {EventCode::WeakShock, EventCode::StrongShock, EventCode::Movement,
                                         EventCode::Tilt};
         for (int i = 0; i < 4; ++i) {

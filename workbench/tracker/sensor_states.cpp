@@ -4,16 +4,14 @@ namespace tracker {
 
 bool SensorStates::outputNow(const OutputRules& rules, qint64 time) const
 {
-    constexpr int onePulse = 1;
-    constexpr int periodic = 2;
     if (!output || outputSince > time)
         return false;
     const qint64 elapsed = time - outputSince - rules.delay;
     if (elapsed < 0)
         return false;
-    if (rules.form == onePulse)
+    if (rules.form == OutputForm::OnePulse)
         return elapsed < rules.onPeriod;
-    if (rules.form != periodic)
+    if (rules.form != OutputForm::Periodic)
         return true;
     const qint64 period = qint64(rules.onPeriod) + rules.offPeriod;
     const bool stopped = rules.stops && elapsed >= rules.stopsAfter;

@@ -6,6 +6,8 @@
 #include "tracker/live_requests.h"
 #include "tracker/record_requests.h"
 #include "tracker/tachograph.h"
+#include "tracker/vehicle_fuel.h"
+#include "tracker/vehicle_power.h"
 
 #include <algorithm>
 
@@ -284,14 +286,14 @@ void SimulatedTracker::setFullDataSet(bool full)
 double SimulatedTracker::fuelIn(std::size_t tank) const
 {
     const std::optional<double> poured = parts_->memory.pours().litresAt(parts_->now())[tank];
-    return poured ? *poured : parts_->vehicle().fuelLeft(tank);
+    return poured ? *poured : fuelLeft(parts_->vehicle(), tank);
 }
 
 double SimulatedTracker::fuelReading(std::size_t tank) const
 {
     const Vehicle vehicle = parts_->vehicle();
     constexpr int analogueLine = 2;
-    return tank == 0 ? vehicle.line(analogueLine) : vehicle.fuelSensor(static_cast<int>(tank) - 1);
+    return tank == 0 ? lineVoltage(vehicle, analogueLine) : fuelSensor(vehicle, static_cast<int>(tank) - 1);
 }
 
 void SimulatedTracker::pour(std::size_t tank, double litres)

@@ -3,6 +3,7 @@
 #include "base/whole_file.h"
 #include "tracker/ddd_file.h"
 #include "tracker/driver.h"
+#include "tracker/vehicle_motion.h"
 
 #include <QDateTime>
 #include <QtEndian>
@@ -61,7 +62,7 @@ quint8 nibbles(int low, int high)
 // Table A of the answers: what the driver does.
 int doing(const Vehicle& vehicle)
 {
-    return static_cast<int>(vehicle.tachographState()) & 3;
+    return static_cast<int>(tachographState(vehicle)) & 3;
 }
 
 constexpr int cardInside = 1;

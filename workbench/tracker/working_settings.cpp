@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <type_traits>
 
 namespace tracker {
 
@@ -32,127 +33,318 @@ enum class Kind {
     General     // 1 for the output's code "GP"
 };
 
+using S = WorkingSettings;
+
 struct Row
 {
+    // `field` gives the place of the value, for a number of the repetition: [](auto& s, int i) -> auto&
+    // {...}.
+    template <class Field>
+    constexpr Row(const char* path, int absent, Field /*field*/, Kind kind = Kind::Number, int count = 1)
+        : path(path), absent(absent), kind(kind), count(count),
+          get([](const S& settings, int i) { return static_cast<int>(Field()(settings, i)); }),
+          put([](S& settings, int i, int value) {
+              auto& place = Field()(settings, i);
+              place = static_cast<std::remove_reference_t<decltype(place)>>(value);
+          })
+    {
+    }
+
     const char* path; // %1 is the number of the repetition, %2 the element of the line's use
     int absent;
-    int& (*value)(WorkingSettings& settings, int index);
-    Kind kind = Kind::Number;
-    int count = 1; // of repetitions, or of digits
+    Kind kind;
+    int count; // of repetitions, or of digits
+    int (*get)(const S& settings, int index);
+    void (*put)(S& settings, int index, int value);
 };
-
-using S = WorkingSettings;
 
 // A use has to be read before the keys of its element.
 constexpr Row rows[] = {
-    {"TRACK/POINTS/useMoveSens", 1, [](S& s, int) -> int& { return s.track.startAndStop; }},
-    {"TRACK/POINTS/useMaxSpeed", 0, [](S& s, int) -> int& { return s.track.speeding; }},
-    {"TRACK/POINTS/maxSpeed", 100, [](S& s, int) -> int& { return s.track.maxSpeed; }},
-    {"TRACK/POINTS/angleMode", 2, [](S& s, int) -> int& { return s.track.angleMode; }},
-    {"TRACK/POINTS/angle", 5, [](S& s, int) -> int& { return s.track.angle; }},
-    {"TRACK/POINTS/useDist", 1, [](S& s, int) -> int& { return s.track.byDistance; }},
-    {"TRACK/POINTS/dist", 500, [](S& s, int) -> int& { return s.track.distance; }},
-    {"TRACK/POINTS/useTimer", 1, [](S& s, int) -> int& { return s.track.byTime; }},
-    {"TRACK/POINTS/moveTimer", 60, [](S& s, int) -> int& { return s.track.moveTime; }},
-    {"TRACK/POINTS/moveTimerSens", 0,
-     [](S& s, int i) -> int& { return i == 0 ? s.track.ignitionIsMoving : s.track.engineIsMoving; },
-     Kind::Digits, 2},
-    {"TRACK/POINTS/stopTimer", 600, [](S& s, int) -> int& { return s.track.stopTime; }},
-    {"TRACK/LIMPOINT/blockDist", 1, [](S& s, int) -> int& { return s.track.leastDistanceOn; }},
-    {"TRACK/LIMPOINT/dist", 10, [](S& s, int) -> int& { return s.track.leastDistance; }},
-    {"TRACK/LIMPOINT/blockTimer", 0, [](S& s, int) -> int& { return s.track.leastTimeOn; }},
-    {"TRACK/LIMPOINT/timer", 5, [](S& s, int) -> int& { return s.track.leastTime; }},
-    {"TRACK/MOVESENS/stopTimer", 30, [](S& s, int) -> int& { return s.track.stopAfter; }},
+    {"TRACK/POINTS/useMoveSens", 1, [](auto& s, int) -> auto& {return s.track.startAndStop;
+} // namespace
+} // namespace tracker
+, {"TRACK/POINTS/useMaxSpeed", 0, [](auto& s, int) -> auto& {return s.track.speeding;
+}
+}
+, {"TRACK/POINTS/maxSpeed", 100, [](auto& s, int) -> auto& {return s.track.maxSpeed;
+}
+}
+, {"TRACK/POINTS/angleMode", 2, [](auto& s, int) -> auto& {return s.track.turns;
+}
+}
+, {"TRACK/POINTS/angle", 5, [](auto& s, int) -> auto& {return s.track.angle;
+}
+}
+, {"TRACK/POINTS/useDist", 1, [](auto& s, int) -> auto& {return s.track.byDistance;
+}
+}
+, {"TRACK/POINTS/dist", 500, [](auto& s, int) -> auto& {return s.track.distance;
+}
+}
+, {"TRACK/POINTS/useTimer", 1, [](auto& s, int) -> auto& {return s.track.byTime;
+}
+}
+, {"TRACK/POINTS/moveTimer", 60, [](auto& s, int) -> auto& {return s.track.moveTime;
+}
+}
+, {"TRACK/POINTS/moveTimerSens", 0,
+   [](auto& s, int i) -> auto& {return i == 0 ? s.track.ignitionIsMoving : s.track.engineIsMoving;
+}
+, Kind::Digits, 2
+}
+, {"TRACK/POINTS/stopTimer", 600, [](auto& s, int) -> auto& {return s.track.stopTime;
+}
+}
+, {"TRACK/LIMPOINT/blockDist", 1, [](auto& s, int) -> auto& {return s.track.leastDistanceOn;
+}
+}
+, {"TRACK/LIMPOINT/dist", 10, [](auto& s, int) -> auto& {return s.track.leastDistance;
+}
+}
+, {"TRACK/LIMPOINT/blockTimer", 0, [](auto& s, int) -> auto& {return s.track.leastTimeOn;
+}
+}
+, {"TRACK/LIMPOINT/timer", 5, [](auto& s, int) -> auto& {return s.track.leastTime;
+}
+}
+, {"TRACK/MOVESENS/stopTimer", 30, [](auto& s, int) -> auto& {return s.track.stopAfter;
+}
+}
+,
 
-    {"TRACK/COORDFLT/use", 1, [](S& s, int) -> int& { return s.navigation.filtered; }},
-    {"TRACK/COORDFLT/minSats", 4, [](S& s, int) -> int& { return s.navigation.leastSatellites; }},
-    {"TRACK/COORDFLT/maxHDOP", 250, [](S& s, int) -> int& { return s.navigation.mostHdop; },
-     Kind::Hundredths},
-    {"TRACK/COORDFLT/maxSpeed", 200, [](S& s, int) -> int& { return s.navigation.mostSpeed; }},
-    {"TRACK/COORDFLT/maxAccel", 25, [](S& s, int) -> int& { return s.navigation.mostGain; }},
-    {"TRACK/COORDFLT/maxDist", 100, [](S& s, int) -> int& { return s.navigation.mostShift; }},
-    {"TRACK/COORDFLT/maxFilterCnt", 5, [](S& s, int) -> int& { return s.navigation.rejectedAfterJump; }},
-    {"TRACK/COORDAVER/mode", 1, [](S& s, int) -> int& { return s.navigation.atStops; }},
-    {"TRACK/COORDAVER/sensors", 1,
-     [](S& s, int i) -> int& {
-         return i == 0 ? s.navigation.standsWithoutIgnition : s.navigation.standsWithoutMovement;
-     },
-     Kind::Digits, 2},
-    {"TRACK/GNSS/mode", 1, [](S& s, int i) -> int& { return s.navigation.systems[i]; }, Kind::Digits, 5},
-    {"TRACK/GNSS/angle", 5, [](S& s, int) -> int& { return s.navigation.elevation; }},
+    {"TRACK/COORDFLT/use", 1, [](auto& s, int) -> auto& {return s.navigation.filtered;
+}
+}
+, {"TRACK/COORDFLT/minSats", 4, [](auto& s, int) -> auto& {return s.navigation.leastSatellites;
+}
+}
+, {"TRACK/COORDFLT/maxHDOP", 250, [](auto& s, int) -> auto& {return s.navigation.mostHdop;
+}
+, Kind::Hundredths
+}
+, {"TRACK/COORDFLT/maxSpeed", 200, [](auto& s, int) -> auto& {return s.navigation.mostSpeed;
+}
+}
+, {"TRACK/COORDFLT/maxAccel", 25, [](auto& s, int) -> auto& {return s.navigation.mostGain;
+}
+}
+, {"TRACK/COORDFLT/maxDist", 100, [](auto& s, int) -> auto& {return s.navigation.mostShift;
+}
+}
+, {"TRACK/COORDFLT/maxFilterCnt", 5, [](auto& s, int) -> auto& {return s.navigation.rejectedAfterJump;
+}
+}
+, {"TRACK/COORDAVER/mode", 1, [](auto& s, int) -> auto& {return s.navigation.atStops;
+}
+}
+, {"TRACK/COORDAVER/sensors", 1,
+   [](auto& s, int i) -> auto& {return i == 0 ? s.navigation.standsWithoutIgnition
+                                              : s.navigation.standsWithoutMovement;
+}
+, Kind::Digits, 2
+}
+, {"TRACK/GNSS/mode", 1, [](auto& s, int i) -> auto& {return s.navigation.systems[i];
+}
+, Kind::Digits, 5
+}
+, {"TRACK/GNSS/angle", 5, [](auto& s, int) -> auto& {return s.navigation.elevation;
+}
+}
+,
 
-    {"SENSORS/IN%1/normState", 0, [](S& s, int i) -> int& { return s.lines[i].use; }, Kind::Use, 3},
-    {"SENSORS/IN%1/IN%1%2/ign", 1, [](S& s, int i) -> int& { return s.lines[i].ignition; }, Kind::Number, 3},
-    {"SENSORS/IN%1/IN%1%2/cntlRestore", 1, [](S& s, int i) -> int& { return s.lines[i].restores; },
-     Kind::Number, 3},
-    {"SENSORS/IN%1/IN%1%2/lowLvl", 5000, [](S& s, int i) -> int& { return s.lines[i].low; }, Kind::Number, 3},
-    {"SENSORS/IN%1/IN%1%2/highLvl", 6000, [](S& s, int i) -> int& { return s.lines[i].high; }, Kind::Number,
-     3},
-    {"SENSORS/IN%1/IN%1%2/thld", 2000, [](S& s, int i) -> int& { return s.lines[i].change; }, Kind::Number,
-     3},
-    {"SENSORS/IN%1/IN%1%2/trhldOff", 1, [](S& s, int i) -> int& { return s.lines[i].stillOnly; },
-     Kind::Number, 3},
-    {"SENSORS/IN%1/IN%1%2/filterMode", 1, [](S& s, int i) -> int& { return s.lines[i].filtered; },
-     Kind::Number, 3},
-    {"SENSORS/IN%1/IN%1%2/filterLen", 30, [](S& s, int i) -> int& { return s.lines[i].window; }, Kind::Number,
-     3},
+    {"SENSORS/IN%1/normState", 0, [](auto& s, int i) -> auto& {return s.lines[i].use;
+}
+, Kind::Use, 3
+}
+, {"SENSORS/IN%1/IN%1%2/ign", 1, [](auto& s, int i) -> auto& {return s.lines[i].ignition;
+}
+, Kind::Number, 3
+}
+, {"SENSORS/IN%1/IN%1%2/cntlRestore", 1, [](auto& s, int i) -> auto& {return s.lines[i].restores;
+}
+, Kind::Number, 3
+}
+, {"SENSORS/IN%1/IN%1%2/lowLvl", 5000, [](auto& s, int i) -> auto& {return s.lines[i].low;
+}
+, Kind::Number, 3
+}
+, {"SENSORS/IN%1/IN%1%2/highLvl", 6000, [](auto& s, int i) -> auto& {return s.lines[i].high;
+}
+, Kind::Number, 3
+}
+, {"SENSORS/IN%1/IN%1%2/thld", 2000, [](auto& s, int i) -> auto& {return s.lines[i].change;
+}
+, Kind::Number, 3
+}
+, {"SENSORS/IN%1/IN%1%2/trhldOff", 1, [](auto& s, int i) -> auto& {return s.lines[i].stillOnly;
+}
+, Kind::Number, 3
+}
+, {"SENSORS/IN%1/IN%1%2/filterMode", 1, [](auto& s, int i) -> auto& {return s.lines[i].filtered;
+}
+, Kind::Number, 3
+}
+, {"SENSORS/IN%1/IN%1%2/filterLen", 30, [](auto& s, int i) -> auto& {return s.lines[i].window;
+}
+, Kind::Number, 3
+}
+,
 
-    {"SYSTEM/PWRSENS/line", 0, [](S& s, int) -> int& { return s.supply.line; }},
-    {"SYSTEM/PWRSENS/alarmLvl", 10500, [](S& s, int) -> int& { return s.supply.alarm; }},
-    {"SYSTEM/PWRSENS/restoreLvl", 11000, [](S& s, int) -> int& { return s.supply.restore; }},
-    {"SYSTEM/PWRSENS/delay", 0, [](S& s, int) -> int& { return s.supply.delay; }},
-    {"SYSTEM/ENGSENS/useCustom", 0, [](S& s, int) -> int& { return s.supply.ownEngineLevel; }},
-    {"SYSTEM/ENGSENS/voltageLvl", 13200, [](S& s, int) -> int& { return s.supply.engineLevel; }},
-    {"SYSTEM/ENGSENS/noEvent", 0, [](S& s, int) -> int& { return s.supply.engineSilent; }},
-    {"SYSTEM/ENGSENS/delay", 0, [](S& s, int) -> int& { return s.supply.engineDelay; }},
+    {"SYSTEM/PWRSENS/line", 0, [](auto& s, int) -> auto& {return s.supply.line;
+}
+}
+, {"SYSTEM/PWRSENS/alarmLvl", 10500, [](auto& s, int) -> auto& {return s.supply.alarm;
+}
+}
+, {"SYSTEM/PWRSENS/restoreLvl", 11000, [](auto& s, int) -> auto& {return s.supply.restore;
+}
+}
+, {"SYSTEM/PWRSENS/delay", 0, [](auto& s, int) -> auto& {return s.supply.delay;
+}
+}
+, {"SYSTEM/ENGSENS/useCustom", 0, [](auto& s, int) -> auto& {return s.supply.ownEngineLevel;
+}
+}
+, {"SYSTEM/ENGSENS/voltageLvl", 13200, [](auto& s, int) -> auto& {return s.supply.engineLevel;
+}
+}
+, {"SYSTEM/ENGSENS/noEvent", 0, [](auto& s, int) -> auto& {return s.supply.engineSilent;
+}
+}
+, {"SYSTEM/ENGSENS/delay", 0, [](auto& s, int) -> auto& {return s.supply.engineDelay;
+}
+}
+,
 
     {"SYSTEM/FUEL/sensors", 0,
-     [](S& s, int i) -> int& {
-         return i == 0 ? s.fuel.withIgnition : i == 1 ? s.fuel.withEngine : s.fuel.withSupply;
-     },
-     Kind::Digits, 3},
-    {"SYSTEM/FUEL/blockVolt", 8000, [](S& s, int) -> int& { return s.fuel.low; }},
-    {"SYSTEM/FUEL/unblockVolt", 11000, [](S& s, int) -> int& { return s.fuel.high; }},
-    {"SYSTEM/FUEL/unblockDelay", 5, [](S& s, int) -> int& { return s.fuel.delay; }},
+     [](auto& s, int i) -> auto& {return i == 0   ? s.fuel.withIgnition
+                                         : i == 1 ? s.fuel.withEngine
+                                                  : s.fuel.withSupply;
+}
+, Kind::Digits, 3
+}
+, {"SYSTEM/FUEL/blockVolt", 8000, [](auto& s, int) -> auto& {return s.fuel.low;
+}
+}
+, {"SYSTEM/FUEL/unblockVolt", 11000, [](auto& s, int) -> auto& {return s.fuel.high;
+}
+}
+, {"SYSTEM/FUEL/unblockDelay", 5, [](auto& s, int) -> auto& {return s.fuel.delay;
+}
+}
+,
 
-    {"RS485/OPTIONS/owner1", 0, [](S& s, int) -> int& { return s.serial.owner; }, Kind::Owner},
-    {"RS485/FS%1/use", 0, [](S& s, int i) -> int& { return s.serial.sensorUsed[i]; }, Kind::Number, 16},
-    {"RS485/FS%1/address", 0, [](S& s, int i) -> int& { return s.serial.sensorAddress[i]; }, Kind::Number,
-     16},
-    {"RS485/FS%1/filterMode", 1, [](S& s, int i) -> int& { return s.serial.sensorFiltered[i]; }, Kind::Number,
-     16},
-    {"RS485/PCNT/id%1", 0, [](S& s, int i) -> int& { return s.serial.counterAddress[i]; }, Kind::Number, 7},
+    {"RS485/OPTIONS/owner1", 0, [](auto& s, int) -> auto& {return s.serial.owner;
+}
+, Kind::Owner
+}
+, {"RS485/FS%1/use", 0, [](auto& s, int i) -> auto& {return s.serial.sensorUsed[i];
+}
+, Kind::Number, 16
+}
+, {"RS485/FS%1/address", 0, [](auto& s, int i) -> auto& {return s.serial.sensorAddress[i];
+}
+, Kind::Number, 16
+}
+, {"RS485/FS%1/filterMode", 1, [](auto& s, int i) -> auto& {return s.serial.sensorFiltered[i];
+}
+, Kind::Number, 16
+}
+, {"RS485/PCNT/id%1", 0, [](auto& s, int i) -> auto& {return s.serial.counterAddress[i];
+}
+, Kind::Number, 7
+}
+,
 
-    {"BLUETOOTH/GLOBAL/use", 1, [](S& s, int) -> int& { return s.bluetooth.used; }},
-    {"BLUETOOTH/SENS%1/type", 0, [](S& s, int i) -> int& { return s.bluetooth.type[i]; }, Kind::Number, 4},
-    {"BLUETOOTH/SENS%1/macaddr", -1, [](S& s, int i) -> int& { return s.bluetooth.device[i]; }, Kind::Device,
-     4},
-    {"BLUETOOTH/FS%1/idx", 1, [](S& s, int i) -> int& { return s.bluetooth.fuel[i]; }, Kind::Number, 4},
-    {"BLUETOOTH/TS%1/idx", 1, [](S& s, int i) -> int& { return s.bluetooth.temperature[i]; }, Kind::Number,
-     4},
+    {"BLUETOOTH/GLOBAL/use", 1, [](auto& s, int) -> auto& {return s.bluetooth.used;
+}
+}
+, {"BLUETOOTH/SENS%1/type", 0, [](auto& s, int i) -> auto& {return s.bluetooth.type[i];
+}
+, Kind::Number, 4
+}
+, {"BLUETOOTH/SENS%1/macaddr", -1, [](auto& s, int i) -> auto& {return s.bluetooth.device[i];
+}
+, Kind::Device, 4
+}
+, {"BLUETOOTH/FS%1/idx", 1, [](auto& s, int i) -> auto& {return s.bluetooth.fuel[i];
+}
+, Kind::Number, 4
+}
+, {"BLUETOOTH/TS%1/idx", 1, [](auto& s, int i) -> auto& {return s.bluetooth.temperature[i];
+}
+, Kind::Number, 4
+}
+,
 
-    {"TEMPSENS/SENS%1/min", -5000, [](S& s, int i) -> int& { return s.zones[i].low; }, Kind::Hundredths, 4},
-    {"TEMPSENS/SENS%1/max", 12000, [](S& s, int i) -> int& { return s.zones[i].high; }, Kind::Hundredths, 4},
-    {"TEMPSENS/SENS%1/hyst", 500, [](S& s, int i) -> int& { return s.zones[i].hysteresis; }, Kind::Hundredths,
-     4},
-    {"TEMPSENS/SENS%1/filterMode", 1, [](S& s, int i) -> int& { return s.zones[i].filtered; }, Kind::Number,
-     4},
+    {"TEMPSENS/SENS%1/min", -5000, [](auto& s, int i) -> auto& {return s.zones[i].low;
+}
+, Kind::Hundredths, 4
+}
+, {"TEMPSENS/SENS%1/max", 12000, [](auto& s, int i) -> auto& {return s.zones[i].high;
+}
+, Kind::Hundredths, 4
+}
+, {"TEMPSENS/SENS%1/hyst", 500, [](auto& s, int i) -> auto& {return s.zones[i].hysteresis;
+}
+, Kind::Hundredths, 4
+}
+, {"TEMPSENS/SENS%1/filterMode", 1, [](auto& s, int i) -> auto& {return s.zones[i].filtered;
+}
+, Kind::Number, 4
+}
+,
 
-    {"ACCEL/SENSORS/sh1", 5000, [](S& s, int) -> int& { return s.shockLevels[0]; }, Kind::Hundredths},
-    {"ACCEL/SENSORS/sh2", 10000, [](S& s, int) -> int& { return s.shockLevels[1]; }, Kind::Hundredths},
-    {"ACCEL/SENSORS/sh3", 200, [](S& s, int) -> int& { return s.shockLevels[2]; }, Kind::Hundredths},
-    {"ACCEL/SENSORS/sh4", 2500, [](S& s, int) -> int& { return s.shockLevels[3]; }, Kind::Hundredths},
+    {"ACCEL/SENSORS/sh1", 5000, [](auto& s, int) -> auto& {return s.shockLevels[0];
+}
+, Kind::Hundredths
+}
+, {"ACCEL/SENSORS/sh2", 10000, [](auto& s, int) -> auto& {return s.shockLevels[1];
+}
+, Kind::Hundredths
+}
+, {"ACCEL/SENSORS/sh3", 200, [](auto& s, int) -> auto& {return s.shockLevels[2];
+}
+, Kind::Hundredths
+}
+, {"ACCEL/SENSORS/sh4", 2500, [](auto& s, int) -> auto& {return s.shockLevels[3];
+}
+, Kind::Hundredths
+}
+,
 
-    {"OUTPUTS/LINE1/mode", 0, [](S& s, int) -> int& { return s.output.use; }, Kind::General},
-    {"OUTPUTS/LINE1/actions", 0, [](S& s, int i) -> int& { return s.output.actions[i]; }, Kind::Digits, 20},
-    {"OUTPUTS/LINE1/signalForm", 0, [](S& s, int) -> int& { return s.output.form; }},
-    {"OUTPUTS/LINE1/onPeriod", 0, [](S& s, int) -> int& { return s.output.onPeriod; }},
-    {"OUTPUTS/LINE1/offPeriod", 0, [](S& s, int) -> int& { return s.output.offPeriod; }},
-    {"OUTPUTS/LINE1/autoOff", 0, [](S& s, int) -> int& { return s.output.stops; }},
-    {"OUTPUTS/LINE1/autoOffDelay", 0, [](S& s, int) -> int& { return s.output.stopsAfter; }},
-    {"OUTPUTS/LINE1/onDelay", 60, [](S& s, int) -> int& { return s.output.delay; }},
-    {"OUTPUTS/LINE1/safeBlock", 0, [](S& s, int) -> int& { return s.output.whenSafe; }},
-};
+    {"OUTPUTS/LINE1/mode", 0, [](auto& s, int) -> auto& {return s.output.switched;
+}
+, Kind::General
+}
+, {"OUTPUTS/LINE1/actions", 0, [](auto& s, int i) -> auto& {return s.output.actions[i];
+}
+, Kind::Digits, 20
+}
+, {"OUTPUTS/LINE1/signalForm", 0, [](auto& s, int) -> auto& {return s.output.form;
+}
+}
+, {"OUTPUTS/LINE1/onPeriod", 0, [](auto& s, int) -> auto& {return s.output.onPeriod;
+}
+}
+, {"OUTPUTS/LINE1/offPeriod", 0, [](auto& s, int) -> auto& {return s.output.offPeriod;
+}
+}
+, {"OUTPUTS/LINE1/autoOff", 0, [](auto& s, int) -> auto& {return s.output.stops;
+}
+}
+, {"OUTPUTS/LINE1/autoOffDelay", 0, [](auto& s, int) -> auto& {return s.output.stopsAfter;
+}
+}
+, {"OUTPUTS/LINE1/onDelay", 60, [](auto& s, int) -> auto& {return s.output.delay;
+}
+}
+, {"OUTPUTS/LINE1/safeBlock", 0, [](auto& s, int) -> auto& {return s.output.whenSafe;
+}
+}
+,
+}
+;
 
 // A number that an int of the tracker's holds, whatever stands there.
 int hundredths(const QString& text, int absent)
@@ -160,6 +352,11 @@ int hundredths(const QString& text, int absent)
     bool good = false;
     const double number = text.toDouble(&good);
     return good && std::abs(number) < 1e6 ? static_cast<int>(std::lround(number * 100)) : absent;
+}
+
+const char* elementOf(LineUse use)
+{
+    return lineUses[static_cast<std::size_t>(use)].element;
 }
 
 int useOf(const QString& code)
@@ -231,15 +428,15 @@ double TrackRules::turn(double speed) const
     constexpr double least = 5;
     constexpr double most = 30;
     constexpr double degreesTimesSpeed = 300;
-    if (angleMode == 1)
+    if (turns == Turns::ByAngle)
         return angle;
-    return angleMode == 2 ? std::clamp(degreesTimesSpeed / std::max(speed, 1.0), least, most) : 0;
+    return turns == Turns::BySpeed ? std::clamp(degreesTimesSpeed / std::max(speed, 1.0), least, most) : 0;
 }
 
 bool LineRules::triggered(double millivolts, bool before) const
 {
-    const bool high = is(LineUse::OpenPlus) || is(LineUse::ClosedMinus);
-    const bool low = is(LineUse::ClosedPlus) || is(LineUse::OpenMinus);
+    const bool high = use == LineUse::OpenPlus || use == LineUse::ClosedMinus;
+    const bool low = use == LineUse::ClosedPlus || use == LineUse::OpenMinus;
     if (millivolts >= this->high)
         return high;
     if (millivolts <= this->low)
@@ -272,8 +469,8 @@ WorkingSettings WorkingSettings::of(const ConfigurationValues& values)
         if (row.kind != Kind::Digits)
             path.replace(QLatin1String("%1"), QString::number(i + 1));
         if (path.contains(QLatin1String("%2")))
-            path.replace(QLatin1String("%2"), QLatin1String(lineUses[result.lines[i].use].element));
-        row.value(result, i) = valueOf(row, path, i, values);
+            path.replace(QLatin1String("%2"), QLatin1String(elementOf(result.lines[i].use)));
+        row.put(result, i, valueOf(row, path, i, values));
     });
     return result;
 }
@@ -282,30 +479,19 @@ WorkingSettings WorkingSettings::load(const QSettings& file)
 {
     WorkingSettings result;
     walk([&](const Row& row, int i) {
-        row.value(result, i) = file.value(keptName(row, i), row.absent).toInt();
+        int value = file.value(keptName(row, i), row.absent).toInt();
         if (row.kind == Kind::Device)
-            row.value(result, i) =
-                std::clamp(row.value(result, i), -1, static_cast<int>(bluetoothDevices.size()) - 1);
+            value = std::clamp(value, -1, static_cast<int>(bluetoothDevices.size()) - 1);
         if (row.kind == Kind::Use)
-            row.value(result, i) =
-                std::clamp(row.value(result, i), 0, static_cast<int>(std::size(lineUses)) - 1);
+            value = std::clamp(value, 0, static_cast<int>(std::size(lineUses)) - 1);
+        row.put(result, i, value);
     });
     return result;
 }
 
 void WorkingSettings::save(QSettings& file) const
 {
-    WorkingSettings copy = *this;
-    walk([&](const Row& row, int i) { file.setValue(keptName(row, i), row.value(copy, i)); });
-}
-
-bool WorkingSettings::operator==(const WorkingSettings& other) const
-{
-    WorkingSettings one = *this;
-    WorkingSettings two = other;
-    bool same = true;
-    walk([&](const Row& row, int i) { same = same && row.value(one, i) == row.value(two, i); });
-    return same;
+    walk([&](const Row& row, int i) { file.setValue(keptName(row, i), row.get(*this, i)); });
 }
 
 } // namespace tracker

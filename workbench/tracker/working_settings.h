@@ -13,29 +13,33 @@ namespace tracker {
 
 class ConfigurationValues;
 
+enum class Turns { None, ByAngle, BySpeed }; // by an angle that suits it
+
 struct TrackRules
 {
-    int startAndStop = 0;
+    bool startAndStop = false;
     int stopAfter = 0; // a shorter stop does not count
-    int speeding = 0;
-    int maxSpeed = 0;  // km/h
-    int angleMode = 0; // 1 by `angle`, 2 by an angle that suits the speed
-    int angle = 0;     // degrees
-    int byDistance = 0;
+    bool speeding = false;
+    int maxSpeed = 0; // km/h
+    Turns turns = Turns::None;
+    int angle = 0; // degrees
+    bool byDistance = false;
     int distance = 0;
-    int byTime = 0;
+    bool byTime = false;
     int moveTime = 0; // 0 makes no points, neither does a stopTime of 0
     int stopTime = 0;
-    int ignitionIsMoving = 0; // for moveTime
-    int engineIsMoving = 0;
+    bool ignitionIsMoving = false; // for moveTime
+    bool engineIsMoving = false;
     // Points on the move that are too near to the last one are left out.
-    int leastDistanceOn = 0;
+    bool leastDistanceOn = false;
     int leastDistance = 0;
-    int leastTimeOn = 0;
+    bool leastTimeOn = false;
     int leastTime = 0;
 
     // Degrees that make a point at a speed in km/h, 0 for none.
     double turn(double speed) const;
+
+    bool operator==(const TrackRules&) const = default;
 };
 
 // As the file has them; a 2 is none of them.
@@ -44,18 +48,20 @@ enum class AtStops { Nothing = 0, Average = 1, Fix = 3 };
 struct NavigationRules
 {
     // Coordinates are thrown away, and those of stops put in order.
-    int filtered = 0;
+    bool filtered = false;
     int leastSatellites = 0;
-    int mostHdop = 0;          // hundredths
-    int mostSpeed = 0;         // km/h
-    int mostGain = 0;          // km/h within a second
-    int mostShift = 0;         // metres within two
-    int rejectedAfterJump = 0; // coordinates, one a second
-    int atStops = 0;           // AtStops, while one of the two that count here says that the vehicle stands
-    int standsWithoutIgnition = 0;
-    int standsWithoutMovement = 0;
-    std::array<int, 5> systems{}; // GPS, GLONASS, and BeiDou last
-    int elevation = 0;            // degrees above the horizon, from which on satellites count
+    int mostHdop = 0;                   // hundredths
+    int mostSpeed = 0;                  // km/h
+    int mostGain = 0;                   // km/h within a second
+    int mostShift = 0;                  // metres within two
+    int rejectedAfterJump = 0;          // coordinates, one a second
+    AtStops atStops = AtStops::Nothing; // while one of the two that count here says that the vehicle stands
+    bool standsWithoutIgnition = false;
+    bool standsWithoutMovement = false;
+    std::array<bool, 5> systems{}; // GPS, GLONASS, and BeiDou last
+    int elevation = 0;             // degrees above the horizon, from which on satellites count
+
+    bool operator==(const NavigationRules&) const = default;
 };
 
 // In the order of the codes in lineUses.
@@ -63,19 +69,20 @@ enum class LineUse { None, ClosedMinus, OpenMinus, ClosedPlus, OpenPlus, Analogu
 
 struct LineRules
 {
-    int use = 0; // LineUse
-    int ignition = 0;
-    int restores = 0; // the end of a trigger is an event too
+    LineUse use = LineUse::None;
+    bool ignition = false;
+    bool restores = false; // the end of a trigger is an event too
     int low = 0;
     int high = 0;
     int change = 0; // of an analogue input that is an event
-    int stillOnly = 0;
-    int filtered = 0;
+    bool stillOnly = false;
+    bool filtered = false;
     int window = 0; // readings that an analogue input averages, 1 to 30
 
-    bool is(LineUse wanted) const { return use == static_cast<int>(wanted); }
     // At this voltage, after it was or was not triggered: between the levels nothing changes.
     bool triggered(double millivolts, bool before) const;
+
+    bool operator==(const LineRules&) const = default;
 };
 
 struct SupplyRules
@@ -84,24 +91,28 @@ struct SupplyRules
     int alarm = 0;
     int restore = 0;
     int delay = 0;
-    int ownEngineLevel = 0;
+    bool ownEngineLevel = false;
     int engineLevel = 0;
-    int engineDelay = 0;  // of a start; a stop is told at once
-    int engineSilent = 0; // starts and stops switch the output, but make no records
+    int engineDelay = 0;       // of a start; a stop is told at once
+    bool engineSilent = false; // starts and stops switch the output, but make no records
 
     bool used() const { return line == 3; }
+
+    bool operator==(const SupplyRules&) const = default;
 };
 
 // Readings of the fuel level sensors on the serial line count while all of these hold; otherwise a record has
 // the last one that counted.
 struct FuelRules
 {
-    int withIgnition = 0;
-    int withEngine = 0;
-    int withSupply = 0;
+    bool withIgnition = false;
+    bool withEngine = false;
+    bool withSupply = false;
     int low = 0; // mV: from here on the supply does not do, from `high` on it does again
     int high = 0;
     int delay = 0; // of the first reading
+
+    bool operator==(const FuelRules&) const = default;
 };
 
 struct TemperatureZone
@@ -109,20 +120,26 @@ struct TemperatureZone
     int low = 0; // hundredths of a degree, as the next two
     int high = 0;
     int hysteresis = 0;
-    int filtered = 0;
+    bool filtered = false;
+
+    bool operator==(const TemperatureZone&) const = default;
 };
+
+enum class OutputForm { Lasting, OnePulse, Periodic };
 
 struct OutputRules
 {
-    int use = 0; // 1 for a general purpose, the only one that events switch
+    bool switched = false; // for a general purpose, the only one that events switch
     std::array<int, 20> actions{};
-    int form = 0; // 0 lasting, 1 one pulse, 2 periodic
+    OutputForm form = OutputForm::Lasting;
     int onPeriod = 0;
     int offPeriod = 0;
-    int stops = 0; // the periodic form, by itself
+    bool stops = false; // the periodic form, by itself
     int stopsAfter = 0;
-    int delay = 0;    // between the event that switches it on and the line
-    int whenSafe = 0; // it waits until the vehicle stands
+    int delay = 0;         // between the event that switches it on and the line
+    bool whenSafe = false; // it waits until the vehicle stands
+
+    bool operator==(const OutputRules&) const = default;
 };
 
 // What owns the serial line, in the order of the codes in lineOwners: these devices fill fields of a record.
@@ -130,13 +147,13 @@ enum class LineOwner { Other, Fuel, Tyres, Refrigerator, Tachograph, Counters };
 
 struct SerialLineRules
 {
-    int owner = 0; // LineOwner
-    std::array<int, 16> sensorUsed{};
+    LineOwner owner = LineOwner::Other;
+    std::array<bool, 16> sensorUsed{};
     std::array<int, 16> sensorAddress{};
-    std::array<int, 16> sensorFiltered{};
+    std::array<bool, 16> sensorFiltered{};
     std::array<int, 7> counterAddress{}; // 0 for none
 
-    bool is(LineOwner wanted) const { return owner == static_cast<int>(wanted); }
+    bool operator==(const SerialLineRules&) const = default;
 };
 
 // The four sensors that the tracker hears by Bluetooth. Of the universal sensor the tracker here tells
@@ -145,14 +162,16 @@ struct BluetoothRules
 {
     enum Type { None, Fuel, Temperature };
 
-    int used = 0;
-    std::array<int, 4> type{};
+    bool used = false;
+    std::array<Type, 4> type{};
     std::array<int, 4> device{};      // in bluetoothDevices, -1 for none that is around
     std::array<int, 4> fuel{};        // the fuel level, 1 to 16, that it is told as
     std::array<int, 4> temperature{}; // the same of the precise temperatures, 1 to 4
 
     // The device whose value stands in the record at this place, from 0 on; -1 for none.
     int deviceFor(Type wanted, int place) const;
+
+    bool operator==(const BluetoothRules&) const = default;
 };
 
 struct WorkingSettings
@@ -175,7 +194,7 @@ struct WorkingSettings
     // The same in the current group of a settings file.
     static WorkingSettings load(const QSettings& file);
     void save(QSettings& file) const;
-    bool operator==(const WorkingSettings& other) const;
+    bool operator==(const WorkingSettings&) const = default;
 };
 
 } // namespace tracker

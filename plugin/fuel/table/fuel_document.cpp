@@ -14,7 +14,7 @@ namespace {
 const QString kName = QStringLiteral("Name");
 const QString kNameRead = QStringLiteral("Name_A1");
 const QString kTable = QStringLiteral("TABLE");
-const QString kRow = QStringLiteral("DATA");
+const QString kData = QStringLiteral("DATA");
 const QString kVolume = QStringLiteral("param_U");
 const QString kValue = QStringLiteral("param_V");
 
@@ -34,7 +34,7 @@ void putTable(CXmlSection* root, const QString& sensor, const FuelRows& rows, bo
     if (!table)
         return;
     for (const FuelRow& row : rows) {
-        const CXmlSectionPtr data = table->child(kRow, CXmlNode::Empty);
+        const CXmlSectionPtr data = table->child(kData, CXmlNode::Empty);
         data->setString(kVolume, hasFractions ? row.volume : QString::number(wholeLitres(row.volume)));
         data->setString(kValue, row.value);
         data->commit();
@@ -62,7 +62,7 @@ std::optional<FuelRows> fuelTable(CXmlSection* root)
     const CXmlSectionPtr table = root->child(kTable);
     if (!table)
         return rows;
-    for (CXmlSectionPtr row(table->firstChild(kRow)); row; row.reset(table->nextChild())) {
+    for (CXmlSectionPtr row(table->firstChild(kData)); row; row.reset(table->nextChild())) {
         if (rows.size() == maxFuelRows)
             return {};
         const auto text = [&row](const QString& key) {

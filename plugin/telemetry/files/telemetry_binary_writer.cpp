@@ -12,14 +12,14 @@ namespace vlk {
 
 namespace {
 
-using Bytes = std::vector<std::uint8_t>;
+using Buffer = std::vector<std::uint8_t>;
 
-void append(Bytes& to, std::span<const std::uint8_t> bytes)
+void append(Buffer& to, std::span<const std::uint8_t> bytes)
 {
     to.insert(to.end(), bytes.begin(), bytes.end());
 }
 
-void appendPacked(Bytes& record, const TmiPage_Zeta3& page)
+void appendPacked(Buffer& record, const TmiPage_Zeta3& page)
 {
     for (int i = 0; i < kFieldCount; ++i) {
         if (page.hasField(i))
@@ -28,7 +28,7 @@ void appendPacked(Bytes& record, const TmiPage_Zeta3& page)
 }
 
 // The record with its length in front; `record` lends its memory.
-void build(Bytes& record, const TmiPage_Zeta3& page)
+void build(Buffer& record, const TmiPage_Zeta3& page)
 {
     const QByteArray payload = page.payload();
     record.assign(binary::kLengthBytes, 0);
@@ -53,7 +53,7 @@ void build(Bytes& record, const TmiPage_Zeta3& page)
 template <class Visit>
 void forEachRecord(const TelemetryPages& pages, Visit visit)
 {
-    Bytes record;
+    Buffer record;
     for (const auto& page : pages) {
         build(record, *page);
         visit(std::span<const std::uint8_t>(record));

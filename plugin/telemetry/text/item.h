@@ -31,6 +31,12 @@ struct Item
     constexpr const Rule& rule() const { return items::kItemRows[row].rule; }
 };
 
+// What the number of the item measures under that rule, one of the item's.
+constexpr const Measure& measureOf(const Item& item, const Rule& rule)
+{
+    return rule.measure != nullptr ? *rule.measure : kElements[item.element].measure;
+}
+
 inline constexpr int kItemCount = [] {
     int count = 0;
     for (const items::ItemRow& row : items::kItemRows)

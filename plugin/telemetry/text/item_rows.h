@@ -12,7 +12,6 @@
 // item("StateIn1.0") + 9 is StateIn2.1.
 
 #include "telemetry/text/named_values.h"
-#include "telemetry/text/signal_level.h"
 #include "telemetry/text/special_texts.h"
 
 namespace vlk::items {
@@ -27,6 +26,7 @@ struct ItemRow
 };
 
 inline constexpr Rule kPlain = {};
+inline constexpr Rule kWithUnit = {.withUnit = true};
 
 // The state of the modem is the first thing that it lacks.
 inline constexpr Rule kModemSession = bitAt(6, "tmizta_017", "tmizta_016");
@@ -36,12 +36,17 @@ inline constexpr Rule kModem = {
     .shape = word, .when = {0, false}, .otherwise = &kModemNetwork, .set = "tmizta_013"};
 
 // A fuel level is percent or litres, by its highest bit.
+inline constexpr Measure kLitres = in(Unit::litre).per(10).none(0x7FFF);
+inline constexpr Measure kPercent = in(Unit::percent);
+inline constexpr Measure kPercentOrNone = kPercent.none(0xFFFF);
 inline constexpr Rule kFuelLitres = {
-    .shape = general, .when = {15, false}, .none = {0x7FFF, ""}, .by = 10, .unit = "abbr_026"};
-inline constexpr Rule kFuelPercent = {.when = {15, true}, .none = {0xFFFF, ""}, .bits = {0, 15}, .unit = "%"};
+    .shape = general, .when = {15, false}, .measure = &kLitres, .withUnit = true};
+inline constexpr Rule kFuelPercent = {
+    .when = {15, true}, .measure = &kPercentOrNone, .bits = {0, 15}, .withUnit = true};
 inline constexpr Rule kFilteredLitres = {
-    .shape = general, .when = {15, false}, .none = {0x7FFF, ""}, .by = 10, .unit = ""};
-inline constexpr Rule kFilteredPercent = {.when = {15, true}, .bits = {0, 7}, .unit = "%"};
+    .shape = general, .when = {15, false}, .measure = &kLitres, .withUnit = true, .unit = ""};
+inline constexpr Rule kFilteredPercent = {
+    .when = {15, true}, .measure = &kPercent, .bits = {0, 7}, .withUnit = true};
 
 constexpr Rule orElse(Rule rule, const Rule& otherwise)
 {
@@ -78,7 +83,7 @@ inline constexpr ItemRow kItemRows[] = {
     {"State2.events", namedOr("tmizta_060", kComplexEvent, {3, 3})},
     {"StateCnct.connection", namedOr("tmizta_087", kConnection, {0, 3})},
     {"StateCnct.3..7", bit("tmizta_089", "tmizta_088")},
-    {"GSM", {.none = {kNoSignalLevel, "tmizta_027"}, .times = kPercentPerSignalStep, .cut = true}},
+    {"GSM", {.none = "tmizta_027", .cut = true}},
     {"Motochas MotochasLoadOn MotochasLoadOff", kPlain},
 
     // Navigation
@@ -87,40 +92,38 @@ inline constexpr ItemRow kItemRows[] = {
     {"StateNGauge.fix", bitAt(1, "tmizta_030", "tmizta_031")},
     {"StateNGauge.fixOfPacket", bitAt(1, "tmizta_122", "tmizta_121")},
     {"StateNGauge.satellites NaviState.satellites", {.bits = {2, 6}}},
-    {"Latitude Longitude", {.shape = coordinate, .decimals = 4, .by = 600'000}},
-    {"Altitude", {.by = 10, .cut = true}},
+    {"Latitude Longitude", {.shape = coordinate, .decimals = 4}},
+    {"Altitude", {.cut = true}},
     {"Speed Run Way NaviSpeed", {.shape = fixed, .decimals = 2}},
     {"Course AllSeconds SecondsLast", kPlain},
     {"SecondsLast.reliability", {.shape = special, .special = segmentReliability, .always = true}},
     {"NaviInfoGlonass NaviInfoGPS NaviInfoGalileo NaviInfoCompass", kPlain},
     {"NaviInfoBeidou NaviInfoDoris NaviInfoIrnss NaviInfoQzss", kPlain},
-    {"NaviHDop NaviPDop", {.shape = fixed, .decimals = 1, .by = 10}},
+    {"NaviHDop NaviPDop", {.shape = fixed, .decimals = 1}},
     {"NaviState.0", bit("fixed point", "float point")},
     {"NaviState.1", bit("tmizta_034", "tmizta_035")},
-    {"NaviLatitude NaviLongitude", {.shape = coordinate, .decimals = 7, .by = 600'000'000}},
-    {"NaviAltitude", {.shape = fixed, .decimals = 3, .by = 1000}},
-    {"NaviCourse", {.shape = fixed, .decimals = 2, .by = 100}},
+    {"NaviLatitude NaviLongitude", {.shape = coordinate, .decimals = 7}},
+    {"NaviAltitude", {.shape = fixed, .decimals = 3}},
+    {"NaviCourse", {.shape = fixed, .decimals = 2}},
     {"LbsCellID LbsLac LbsMcc LbsMnc", kPlain},
     {"LbsCellID_1 LbsLac_1 LbsMcc_1 LbsMnc_1", kPlain},
     {"LbsCellID_2 LbsLac_2 LbsMcc_2 LbsMnc_2", kPlain},
-    {"LbsLevel LbsLevel_1..2", {.unit = "dBm"}},
+    {"LbsLevel LbsLevel_1..2", kWithUnit},
     {"GeozoneInfo.0..9", bit("tmizta_075", "tmizta_074")},
 
     // Lines and sensors
-    {"Power Reserv StateU_Ain1..8", {.shape = fixed, .decimals = 2, .by = 1000}},
+    {"Power Reserv StateU_Ain1..8", {.shape = fixed, .decimals = 2}},
     {"StateIn1..3.0..7", bit("tmizta_033", "tmizta_032")},
     {"StateOut1..2.0..7", bit("tmizta_028", "tmizta_029")},
     {"StateIn_Imp1..8 Frequency1..8", kPlain},
     {"LevelRS232 LevelRS485_1..16 TempRS485_1..16 RS485Freq1..16", kPlain},
-    {"Temp1..8", {.none = {-128, ""}, .unit = "abbr_017"}},
-    {"HPrecisionTemp1..4",
-     {.shape = fixed, .decimals = 2, .none = {-32768, ""}, .by = 20, .unit = "abbr_017"}},
-    {"HPrecisionHumidity1..4",
-     {.shape = fixed, .decimals = 1, .none = {255, ""}, .times = 0.5, .unit = "abbr_008"}},
+    {"Temp1..8", kWithUnit},
+    {"HPrecisionTemp1..4", {.shape = fixed, .decimals = 2, .withUnit = true}},
+    {"HPrecisionHumidity1..4", {.shape = fixed, .decimals = 1, .withUnit = true}},
     {"TiresNum1..30", kPlain},
-    {"TiresPres1..30", {.shape = fixed, .decimals = 1, .by = 10}},
-    {"TiresTemp1..30", {.none = {-127, ""}}},
-    {"Passager_1..16", {.none = {255, "tmizta_073"}}},
+    {"TiresPres1..30", {.shape = fixed, .decimals = 1}},
+    {"TiresTemp1..30", kPlain},
+    {"Passager_1..16", {.none = "tmizta_073"}},
 
     // CAN
     {"CAN_FuelLevel", orElse(kFuelPercent, kFuelLitres)},
@@ -129,15 +132,11 @@ inline constexpr ItemRow kItemRows[] = {
     {"CAN_LevelFiltr", orElse(kFilteredPercent, kFilteredLitres)},
     {"CAN_LevelFiltr.percent", kFilteredPercent},
     {"CAN_LevelFiltr.litres", kFilteredLitres},
-    {"CAN_FuelConsumption", {.shape = general, .negativeIsNone = true, .unit = "abbr_026"}},
-    {"CAN_FullRun", {.shape = general, .negativeIsNone = true, .unit = "abbr_023"}},
-    {"CAN_EngineTurns", {.none = {0xFFFF, ""}}},
-    {"CAN_EngineLoad CAN_PedalAccel CAN_PedalStop", {.none = {255, ""}, .unit = "%"}},
-    {"CAN_Speed", {.none = {255, ""}, .unit = "abbr_024"}},
-    {"CAN_Temp", {.none = {-128, ""}, .unit = "abbr_017"}},
-    {"CAN_TimeTO", {.none = {0xFFFF, ""}, .unit = "abbr_023"}},
-    {"CAN_EngineTime", {.shape = general, .by = 3600, .unit = "abbr_001"}},
-    {"CAN_AxleLoad_1..5", {.none = {0xFFFF, ""}, .unit = "abbr_009"}},
+    {"CAN_FuelConsumption CAN_FullRun", {.shape = general, .withUnit = true}},
+    {"CAN_EngineTurns", kPlain},
+    {"CAN_EngineLoad CAN_PedalAccel CAN_PedalStop CAN_Speed CAN_Temp CAN_TimeTO", kWithUnit},
+    {"CAN_EngineTime", {.shape = general, .withUnit = true}},
+    {"CAN_AxleLoad_1..5", kWithUnit},
     {"CAN3State.0..15 CAN3Crash.0..31 CAN3FailureLamp.0..7", bit("wrd_001", "wrd_002")},
     {"CAN3Event", namedOr("tmizta_009", kCanEvent, {}, Other::wordAndNumber)},
     {"CAN3FailureCode", kPlain},
@@ -153,22 +152,22 @@ inline constexpr ItemRow kItemRows[] = {
     {"TahoFlags.group1", namedOr("tmizta_054", kTimeGroup, {6, 3}, Other::wordAndNumber)},
     {"TahoFlags.group2", namedOr("tmizta_054", kTimeGroup, {9, 3}, Other::wordAndNumber)},
     {"TahoSpeed", kPlain},
-    {"TahoOdometer", {.shape = general, .none = {0xFFFF'FFFF, ""}, .by = 10}},
+    {"TahoOdometer", {.shape = general}},
     {"TahoTime", {.shape = localTime}},
     {"DispCur", namedOr("tmizta_009", kDriverState)},
-    {"DispLastIndex", {.none = {0xFFFF'FFFF, "tmizta_070"}}},
+    {"DispLastIndex", {.none = "tmizta_070"}},
 
     // Accelerometer and driving
-    {"AccelDelta", {.shape = general, .none = {0xFFFF, "tmizta_071"}, .by = 100}},
+    {"AccelDelta", {.shape = general, .none = "tmizta_071"}},
     {"AccelLinearX AccelLinearY AccelLinearZ AccelAngularPlus AccelAngularMinus AccelAngularCorner",
-     {.shape = fixed, .decimals = 3, .none = {-32768, "tmizta_072"}, .by = 1000}},
+     {.shape = fixed, .decimals = 3, .none = "tmizta_072"}},
     {"AccelLinearX.axes", {.shape = special, .special = linearAxes}},
-    {"AccelModule", {.shape = fixed, .decimals = 2, .none = {0xFFFF, "> 655.34"}, .by = 100}},
+    {"AccelModule", {.shape = fixed, .decimals = 2, .none = "> 655.34"}},
     {"VAccelState.0..4", bit("tmizta_091", "tmizta_090")},
-    {"VAccelVertical", {.shape = fixed, .decimals = 2, .times = 0.25}},
+    {"VAccelVertical", {.shape = fixed, .decimals = 2}},
     {"VAccelLineTang VAccelAxelsX VAccelAxelsY VAccelAxelsZ", kPlain},
-    {"VAccelLineRoll", {.shape = fixed, .decimals = 1, .times = 1.5}},
-    {"EcoDrvAccelMax", {.shape = fixed, .decimals = 3, .by = 1000}},
+    {"VAccelLineRoll", {.shape = fixed, .decimals = 1}},
+    {"EcoDrvAccelMax", {.shape = fixed, .decimals = 3}},
     {"EcoDrvSpeedMax", kPlain},
     {"EcoDrvSpeedState.0..5 EcoDrvAccel1..2.0..7 EcoDrvAccel3.0..3", bit("tmizta_091", "tmizta_092")},
 
@@ -179,7 +178,7 @@ inline constexpr ItemRow kItemRows[] = {
     {"AinfState.3..4", bit("wrd_004", "tmizta_078")},
     {"AinfState.5", bit("tmizta_026", "wrd_002")},
     {"AinfState.6", bit("tmizta_080", "tmizta_079")},
-    {"AinfGeozoneID AinfStopID AinfRouteID", {.none = {0, "wrd_002"}}},
+    {"AinfGeozoneID AinfStopID AinfRouteID", {.none = "wrd_002"}},
     {"CameraState.0", bit("tmizta_082", "tmizta_081")},
     {"CameraState.1", bit("tmizta_084", "tmizta_083")},
     {"CameraState.2", bit("tmizta_086", "tmizta_085")},
@@ -191,8 +190,10 @@ inline constexpr ItemRow kItemRows[] = {
     {"FfsState.engine", named(kFlowMode, {8, 4})},
     {"FfsState.power", {.bits = {12, 2}}},
     {"FfsError", kPlain},
-    {"FfsFuel FfsFuelTrip FfsSubmisVolume FfsReversVolume", {.shape = general, .times = 0.01}},
-    {"FfsSpeed FfsSubmisSpeed FfsSubmisTemp FfsReversSpeed FfsReversTemp", {.shape = general, .times = 0.1}},
+    {"FfsFuel FfsFuelTrip FfsSubmisVolume FfsReversVolume FfsSpeed FfsSubmisSpeed FfsSubmisTemp "
+     "FfsReversSpeed "
+     "FfsReversTemp",
+     {.shape = general}},
 
     // Refrigerator
     {"RefrState1.0", bit("tmizta_099", "tmizta_087")},
@@ -200,15 +201,12 @@ inline constexpr ItemRow kItemRows[] = {
     {"RefrState1.vendor", named(kRefrigeratorVendor, {2, 3})},
     {"RefrState2", named(kRefrigeratorMode)},
     {"RefrState2.vendor", namedOr("tmizta_073", kRefrigeratorVendorMode)},
-    {"RefrTemp1..3 RefrSetTemp1..3 RefrTempAir RefrTempWater",
-     {.shape = general, .times = 0.01, .unit = "abbr_017"}},
-    {"RefrTension", {.none = {0xFFFF, ""}, .unit = "abbr_012"}},
-    {"RefrIntensity", {.none = {0xFFFF, ""}, .unit = "abbr_027"}},
-    {"RefrPowerEngine RefrPowerNetwork",
-     {.shape = fixed, .decimals = 2, .none = {0xFFFF'FFFF, ""}, .by = 100, .cut = true, .unit = "abbr_001"}},
+    {"RefrTemp1..3 RefrSetTemp1..3 RefrTempAir RefrTempWater", {.shape = general, .withUnit = true}},
+    {"RefrTension RefrIntensity", kWithUnit},
+    {"RefrPowerEngine RefrPowerNetwork", {.shape = fixed, .decimals = 2, .cut = true, .withUnit = true}},
     {"RefrErrorCount RefrErrorCode1..6", kPlain},
     {"RefrEngineMode", named(kRefrigeratorEngine)},
-    {"RefrEngineTurns", {.none = {0xFFFF, ""}, .unit = "abbr_018"}},
+    {"RefrEngineTurns", kWithUnit},
     {"RefrCompressor", named(kCompressor)},
     {"RefrCompressor.vendor", named(kCompressorVendor)},
 

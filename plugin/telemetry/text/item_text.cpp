@@ -1,6 +1,7 @@
 #include "telemetry/text/item_text.h"
 
 #include "telemetry/text/time_text.h"
+#include "telemetry/text/unit_word.h"
 #include "telemetry/text/user_parameter_text.h"
 
 #include <algorithm>
@@ -27,23 +28,23 @@ Value cutBits(const Value& value, BitRange bits)
     return {value.raw >> bits.first & ((std::uint64_t{1} << bits.count) - 1), ValueType::u64};
 }
 
-double scaled(const Value& value, const Rule& rule)
+double scaled(const Value& value, const Rule& rule, const Measure& measure)
 {
-    const double number = value.number() * rule.times / rule.by;
+    const double number = measure.of(value.number());
     return rule.cut ? std::trunc(number) : number;
 }
 
-void addDecimal(AsciiText& text, const Value& value, const Rule& rule)
+void addDecimal(AsciiText& text, const Value& value, const Rule& rule, const Measure& measure)
 {
     if (rule.cut)
-        text << static_cast<std::int64_t>(scaled(value, rule));
+        text << static_cast<std::int64_t>(scaled(value, rule, measure));
     else if (isSigned(value.type))
         text << value.integer();
     else
         text << value.raw;
 }
 
-void addNamed(TextParts& parts, const Value& value, const Rule& rule)
+void addNamed(TextParts& parts, const Value& value, const Rule& rule, const Measure& measure)
 {
     const auto covers = [&](const NamedValue& row) {
         return value.raw >= row.first && value.raw <= row.last;
@@ -57,14 +58,14 @@ void addNamed(TextParts& parts, const Value& value, const Rule& rule)
     if (rule.other == Other::wordAndNumber)
         parts.characters << ": ";
     if (rule.other != Other::word)
-        addDecimal(parts.characters, value, rule);
+        addDecimal(parts.characters, value, rule, measure);
 }
 
 // Degrees and minutes each carry the sign; whole numbers, so that no digit is lost on the way.
-void addCoordinate(AsciiText& text, const Value& value, const Rule& rule)
+void addCoordinate(AsciiText& text, const Value& value, const Rule& rule, const Measure& measure)
 {
-    const auto unitsPerDegree = static_cast<std::int64_t>(rule.by);
-    const double minutes = static_cast<double>(value.integer() % unitsPerDegree) * 60 / rule.by;
+    const auto unitsPerDegree = static_cast<std::int64_t>(measure.divisor);
+    const double minutes = static_cast<double>(value.integer() % unitsPerDegree) * 60 / measure.divisor;
     text << value.integer() / unitsPerDegree << ' ';
     text.addFixed(minutes, rule.decimals) << '\'';
 }
@@ -81,8 +82,8 @@ qint32 shownOffset(const TmiPage_Zeta3& page, const TextOptions& options)
     return page.hasUtcOffset() || options.zone == nullptr ? page.utcOffset() : options.zone->offsetNow();
 }
 
-void addShape(TextParts& parts, const Value& value, const Rule& rule, const Item& item,
-              const TmiPage_Zeta3& page, const TextOptions& options)
+void addShape(TextParts& parts, const Value& value, const Rule& rule, const Measure& measure,
+              const Item& item, const TmiPage_Zeta3& page, const TextOptions& options)
 {
     const auto seconds = static_cast<quint32>(value.raw);
     const auto localOffset = [&] {
@@ -90,12 +91,12 @@ void addShape(TextParts& parts, const Value& value, const Rule& rule, const Item
     };
     switch (rule.shape) {
     case Shape::decimal:
-        return addDecimal(parts.characters, value, rule);
+        return addDecimal(parts.characters, value, rule, measure);
     case Shape::fixed:
-        parts.characters.addFixed(scaled(value, rule), rule.decimals);
+        parts.characters.addFixed(scaled(value, rule, measure), rule.decimals);
         return;
     case Shape::general:
-        parts.characters.addGeneral(scaled(value, rule));
+        parts.characters.addGeneral(scaled(value, rule, measure));
         return;
     case Shape::word:
         parts.word = &rule.set;
@@ -105,7 +106,7 @@ void addShape(TextParts& parts, const Value& value, const Rule& rule, const Item
             value.testBit(rule.bits.count == 0 ? item.bit : rule.bits.first) ? &rule.set : &rule.clear;
         return;
     case Shape::enumeration:
-        return addNamed(parts, value, rule);
+        return addNamed(parts, value, rule, measure);
     case Shape::zonedTime:
         return addZonedTime(parts.characters, seconds, shownOffset(page, options));
     case Shape::localTime:
@@ -113,7 +114,7 @@ void addShape(TextParts& parts, const Value& value, const Rule& rule, const Item
     case Shape::dateTime:
         return addDateAndClock(parts.characters, seconds, localOffset());
     case Shape::coordinate:
-        return addCoordinate(parts.characters, value, rule);
+        return addCoordinate(parts.characters, value, rule, measure);
     case Shape::userParameter:
         return addUserValue(parts.characters, value, item.element, options);
     case Shape::special:
@@ -130,17 +131,18 @@ void addValue(TextParts& parts, const Value& whole, const Item& item, const TmiP
         if (rule == nullptr)
             return;
     }
-    if (rule->none.text && whole.integer() == rule->none.code) {
-        parts.word = &rule->none.text;
+    const Measure& measure = measureOf(item, *rule);
+    if (measure.noValue == whole.integer()) {
+        parts.word = &rule->none;
         return;
     }
-    if (rule->negativeIsNone && whole.number() < 0)
+    if (measure.belowZeroIsNone && whole.number() < 0)
         return;
     // A bit of two states counts from the whole value.
     const bool ranged = rule->bits.count != 0 && rule->shape != Shape::twoState;
-    addShape(parts, ranged ? cutBits(whole, rule->bits) : whole, *rule, item, page, options);
-    if (rule->unit)
-        parts.unit = &rule->unit;
+    addShape(parts, ranged ? cutBits(whole, rule->bits) : whole, *rule, measure, item, page, options);
+    if (rule->withUnit)
+        parts.unit = rule->unit ? &rule->unit : &unitWord(measure.unit);
 }
 
 } // namespace

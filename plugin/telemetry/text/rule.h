@@ -3,8 +3,10 @@
 // How a value becomes a text. A rule is data; item_text.cpp is the one place that follows it.
 //
 // The steps, in this order: the condition on a bit, the code that means no value, the range of bits, the
-// scale, the shape, the unit behind a blank.
+// scale, the shape, the unit behind a blank. Code, scale and unit are those of the element in the catalogue;
+// a rule names a measure of its own where the number means different things.
 
+#include "catalogue/element_row.h"
 #include "telemetry/text/word.h"
 
 #include <cstdint>
@@ -25,7 +27,7 @@ enum class Shape : std::uint8_t {
     zonedTime,     // "15:00:00 01.02.2025 (UTC +3)" in the zone of the record
     localTime,     // "15:00:00 01.02.2025" in the zone of this machine
     dateTime,      // "01.02.2025 15:00:00" in the zone of this machine
-    coordinate,    // "56 30.0000'": `by` units a degree, minutes with `decimals` digits
+    coordinate,    // "56 30.0000'": minutes with `decimals` digits
     userParameter, // by its type letter
     special,       // a function of the record
 };
@@ -42,15 +44,6 @@ struct NamedValue
     std::uint8_t first;
     std::uint8_t last;
     Word word;
-};
-
-// A code that means that there is no value, and the text for it.
-struct NoValue
-{
-    static constexpr std::int64_t kUnused = std::numeric_limits<std::int64_t>::min();
-
-    std::int64_t code = kUnused;
-    Word text = {};
 };
 
 struct BitRange
@@ -81,18 +74,16 @@ struct Rule
     std::uint8_t decimals = 0;
     Condition when = {};
     const Rule* otherwise = nullptr;
-    NoValue none = {};
-    bool negativeIsNone = false;
+    const Measure* measure = nullptr; // null: that of the element
+    Word none = "";                   // the text for the code that means no value
     BitRange bits = {};
-    // The value times the one, divided by the other, in double; `cut` drops the fraction.
-    double times = 1;
-    double by = 1;
-    bool cut = false;
+    bool cut = false; // drops the fraction of what was scaled
     Word set = {};
     Word clear = {};
     std::span<const NamedValue> names = {};
     Other other = Other::number;
-    Word unit = {};
+    bool withUnit = false;
+    Word unit = {}; // in place of the unit's own text
     QString (*special)(const TmiPage_Zeta3& page) = nullptr;
     // Shown even where the record lacks the field.
     bool always = false;

@@ -10,7 +10,7 @@
 
 namespace vlk {
 
-using namespace tachograph;
+namespace tachograph {
 
 namespace {
 
@@ -133,8 +133,11 @@ TachographAnswer fileAnswer(const QByteArray& answer, const QDateTime& time)
 
 } // namespace
 
+} // namespace tachograph
+
 TachographAnswer tachographAnswer(const QByteArray& answer, const QDateTime& time)
 {
+    using namespace tachograph;
     if (answer.size() <= kKindAt)
         return {};
     const auto kind = static_cast<quint8>(answer[kKindAt]);
@@ -148,8 +151,8 @@ TachographAnswer tachographAnswer(const QByteArray& answer, const QDateTime& tim
 
 QString tachographFetchedLine(bool done)
 {
-    return done ? QStringLiteral("<b>%1</b>").arg(word("tmiw_047"))
-                : QStringLiteral("<b>-=%1=-</b>").arg(word("tmiw_048"));
+    return done ? QStringLiteral("<b>%1</b>").arg(tachograph::word("tmiw_047"))
+                : QStringLiteral("<b>-=%1=-</b>").arg(tachograph::word("tmiw_048"));
 }
 
 } // namespace vlk

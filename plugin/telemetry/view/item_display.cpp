@@ -37,11 +37,12 @@ QString positionText(const TmiPage_Zeta3& page, ItemIndex item)
     const Rule& rule = kItems[item].rule();
     const qint64 units = page.isExtra() ? page.extra().integer(index) : page.integer(index);
     const qint64 distance = std::llabs(units);
-    const auto degree = static_cast<qint64>(rule.by);
+    const double unitsPerDegree = measureOf(kItems[item], rule).divisor;
+    const auto degree = static_cast<qint64>(unitsPerDegree);
     const auto& words = isLatitude(index) ? kNorthSouth : kEastWest;
     return QStringLiteral("%1\u00b0 %2' %3")
         .arg(distance / degree)
-        .arg(static_cast<double>(distance % degree) * 60 / rule.by, 0, 'f', rule.decimals)
+        .arg(static_cast<double>(distance % degree) * 60 / unitsPerDegree, 0, 'f', rule.decimals)
         .arg(QCoreApplication::translate("vlk", words[units < 0 ? 1 : 0]));
 }
 

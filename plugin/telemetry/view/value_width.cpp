@@ -1,5 +1,7 @@
 #include "telemetry/view/value_width.h"
 
+#include "telemetry/text/unit_word.h"
+
 #include <QFontMetrics>
 
 #include <cmath>
@@ -8,25 +10,26 @@ namespace vlk {
 
 namespace {
 
-QString longestNumber(const Rule& rule, const Element& element, int decimals)
+QString longestNumber(const Item& item, const Rule& rule, int decimals)
 {
+    const Element& element = kElements[item.element];
     const bool isFloat = element.type == ValueType::f32;
     const int bits = rule.bits.count != 0 ? rule.bits.count : 8 * element.width;
     const double highest = isFloat ? 999'999 : std::pow(2, bits) - 1;
     return QLatin1String(isFloat || isSigned(element.type) ? "-" : "") +
-           QString::number(highest * rule.times / rule.by, 'f', decimals);
+           QString::number(measureOf(item, rule).of(highest), 'f', decimals);
 }
 
-QStringList longTexts(const Rule& rule, const Element& element)
+QStringList longTexts(const Item& item, const Rule& rule)
 {
     QStringList texts;
     switch (rule.shape) {
     case Shape::decimal:
     case Shape::userParameter:
-        texts << longestNumber(rule, element, 0);
+        texts << longestNumber(item, rule, 0);
         break;
     case Shape::fixed:
-        texts << longestNumber(rule, element, rule.decimals);
+        texts << longestNumber(item, rule, rule.decimals);
         break;
     case Shape::general:
         texts << QStringLiteral("-0.00000e+00");
@@ -38,7 +41,7 @@ QStringList longTexts(const Rule& rule, const Element& element)
     case Shape::enumeration:
         for (const NamedValue& row : rule.names)
             texts << row.word.text();
-        texts << rule.set.text() << longestNumber(rule, element, 0);
+        texts << rule.set.text() << longestNumber(item, rule, 0);
         break;
     case Shape::zonedTime:
         texts << QStringLiteral("00:00:00 00.00.0000 (UTC +00)");
@@ -54,11 +57,13 @@ QStringList longTexts(const Rule& rule, const Element& element)
         texts << QStringLiteral("-00.000 | -00.000 | -00.000");
         break;
     }
-    for (QString& text : texts)
-        text += rule.unit ? QLatin1Char(' ') + rule.unit.text() : QString();
-    if (rule.none.text)
-        texts << rule.none.text.text();
-    return rule.otherwise == nullptr ? texts : texts + longTexts(*rule.otherwise, element);
+    if (rule.withUnit) {
+        const Word& unit = rule.unit ? rule.unit : unitWord(measureOf(item, rule).unit);
+        for (QString& text : texts)
+            text += QLatin1Char(' ') + unit.text();
+    }
+    texts << rule.none.text();
+    return rule.otherwise == nullptr ? texts : texts + longTexts(item, *rule.otherwise);
 }
 
 } // namespace
@@ -66,7 +71,7 @@ QStringList longTexts(const Rule& rule, const Element& element)
 int widestText(const QFontMetrics& font, ItemIndex item)
 {
     int widest = 0;
-    for (const QString& text : longTexts(kItems[item].rule(), kElements[kItems[item].element]))
+    for (const QString& text : longTexts(kItems[item], kItems[item].rule()))
         widest = std::max(widest, font.horizontalAdvance(text));
     return widest;
 }

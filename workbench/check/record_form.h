@@ -1,0 +1,17 @@
+#pragma once
+
+// How a record begins, in an answer and in a file: its type, then its version and its mask, or of an extra
+// packet its length.
+
+#include "catalogue/field_mask.h"
+
+#include <QtGlobal>
+
+namespace vlk {
+
+inline constexpr quint8 recordType = 176;
+inline constexpr quint8 packetType = 177;
+inline constexpr int recordHead = 2 + FieldMask::kBytes;
+inline constexpr int packetCounted = 3; // type and length, which do not count themselves
+
+} // namespace vlk
