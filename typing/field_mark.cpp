@@ -180,6 +180,8 @@ QColor markColor(Mark mark, const QPalette& palette)
 {
     const bool isDark = palette.color(QPalette::Window).lightness() < 128;
     switch (mark) {
+    case Mark::right:
+        return QColor(isDark ? 0x7fd491 : 0x1b6e33);
     case Mark::changed:
         return QColor(isDark ? 0x7ab8f5 : 0x1f5f9e);
     case Mark::advice:
@@ -193,6 +195,12 @@ QColor markColor(Mark mark, const QPalette& palette)
 void paintMark(QPainter& painter, Mark mark, const QPalette& palette)
 {
     painter.setRenderHint(QPainter::Antialiasing);
+    if (mark == Mark::right) {
+        painter.setPen(QPen(markColor(mark, palette), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawPolyline(QPolygonF({{1.2, 5.4}, {4, 8.2}, {8.8, 2}}));
+        return;
+    }
     painter.setPen(Qt::NoPen);
     painter.setBrush(markColor(mark, palette));
     const QColor& inside = palette.color(QPalette::Window);
@@ -209,6 +217,17 @@ void paintMark(QPainter& painter, Mark mark, const QPalette& palette)
     painter.setPen(QPen(inside, 1.6, Qt::SolidLine, Qt::RoundCap));
     painter.drawLine(QPointF(3.2, 3.2), QPointF(6.8, 6.8));
     painter.drawLine(QPointF(6.8, 3.2), QPointF(3.2, 6.8));
+}
+
+QPixmap markPixmap(Mark mark, const QPalette& palette, int side, qreal ratio)
+{
+    QPixmap pixmap(QSize(side, side) * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.scale(qreal(side) / markSize, qreal(side) / markSize);
+    paintMark(painter, mark, palette);
+    return pixmap;
 }
 
 void markField(QWidget* field, MarkReason reason, Mark mark, const QString& text)

@@ -8,6 +8,7 @@
 // marked for several reasons at a time: the worst one gives the shape, the texts are all told.
 
 #include <QColor>
+#include <QPixmap>
 #include <QString>
 
 class QPainter;
@@ -17,7 +18,7 @@ class QWidget;
 namespace vlk {
 
 // From the least to the worst.
-enum class Mark { changed, advice, invalid };
+enum class Mark { right, changed, advice, invalid };
 
 enum class MarkReason { typing, value };
 
@@ -28,5 +29,7 @@ void markField(QWidget* field, MarkReason reason, Mark mark, const QString& text
 inline constexpr int markSize = 10;
 QColor markColor(Mark mark, const QPalette& palette);
 void paintMark(QPainter& painter, Mark mark, const QPalette& palette);
+// Of that many pixels, for a screen of that ratio.
+QPixmap markPixmap(Mark mark, const QPalette& palette, int side, qreal ratio);
 
 } // namespace vlk

@@ -4,6 +4,7 @@
 #include "fuel/fuelsensor_delegate_int.h"
 #include "fuel/table/fuel_sensors.h"
 #include "fuel/tablewidgetitem_fuelsort.h"
+#include "typing/table_look.h"
 
 #include <QHeaderView>
 #include <QSignalBlocker>
@@ -33,17 +34,15 @@ QFont fittingFont(const QFont& font, const vlk::FuelCaptions& captions)
 
 CalibrationTable::CalibrationTable(QWidget* parent) : QTableWidget(0, ColumnCount, parent)
 {
+    dressTable(this, TableUse::edit);
     horizontalHeader()->setMinimumSectionSize(0);
+    // As the cells.
+    horizontalHeader()->setDefaultAlignment(Qt::AlignCenter);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    horizontalHeader()->setHighlightSections(false);
-    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
-    verticalHeader()->hide();
     for (int column = 0; column < ColumnCount; ++column)
         setColumnWidth(column, kColumnWidths[column]);
     setSelectionMode(NoSelection);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setTabKeyNavigation(false);
     setItemDelegateForColumn(Volume,
                              new VLK_FuelSensor_Delegate(volumeLimit.top, volumeLimit.decimals, this));
 }

@@ -13,6 +13,7 @@
 #include "fuel/table/fuel_log.h"
 #include "fuel/table/fuel_sensors.h"
 #include "fuel/table/kept_tables.h"
+#include "typing/present_value.h"
 #include "xml/xml_section.h"
 
 #include <QAction>
@@ -135,12 +136,7 @@ void VLK_Form_Fuel_Sensor::setKindAndName(int kind, const QString& name)
 void VLK_Form_Fuel_Sensor::setParamEditable(bool editable)
 {
     ui_->lineEdit_Param->setReadOnly(!editable);
-    // What the sensor says looks like no field to type into.
-    ui_->lineEdit_Param->setFrame(editable);
-    QPalette colours = ui_->lineEdit_Volume->palette();
-    if (!editable)
-        colours.setColor(QPalette::Base, colours.color(QPalette::Window));
-    ui_->lineEdit_Param->setPalette(colours);
+    vlk::showAsPresent(ui_->lineEdit_Param, !editable);
 }
 
 void VLK_Form_Fuel_Sensor::setLiveValue(int raw)

@@ -2,47 +2,28 @@
 
 #include "ui_VLK_Designer_Form_TMI_Fuel_Sensors.h"
 
-#include "base/clock.h"
 #include "fuel/button_row.h"
-#include "fuel/calibration_sheet.h"
-#include "fuel/file_dialogs.h"
 #include "fuel/form_fuel_sensor.h"
-#include "fuel/plus_icon.h"
 #include "fuel/question.h"
-#include "fuel/table/fuel_document.h"
-#include "fuel/table/fuel_file.h"
 #include "link/device.h"
 #include "link/requests.h"
 #include "typing/notice_bar.h"
 #include "windows/fit_to_screen.h"
+#include "windows/path_icon.h"
 #include "windows/vlk_tabwidget.h"
-#include "xml/xml_document.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QShortcut>
+#include <QTabBar>
 #include <QtEndian>
 
 #include <chrono>
+#include <utility>
 
 using namespace vlk;
 
 namespace {
 
-// Numbers in the bar; offers have those from kOffers on.
-enum NoticeNumber { kEdited, kFileOfOther, kOffers };
-
 constexpr auto kPause = std::chrono::milliseconds(2000);
-
-QString telemetryFolder()
-{
-    return vlkDevice ? vlkDevice->tmiFolder() : QString();
-}
-
-QString modelText()
-{
-    return vlkDevice ? vlkDevice->model() : QString();
-}
 
 QString formatted(const char* format, const char* key, const QString& sensor = {})
 {
@@ -56,6 +37,11 @@ int groupOf(int sensor)
     return fuelGroupOf(fuelSensors[sensor].name[0]);
 }
 
+int liveValue(const uchar* record, int sensor)
+{
+    return qFromLittleEndian<quint16>(record + fuelSensors[sensor].liveAt);
+}
+
 } // namespace
 
 VLK_Form_TMI_Fuel_Sensors::VLK_Form_TMI_Fuel_Sensors(QWidget* parent)
@@ -64,10 +50,7 @@ VLK_Form_TMI_Fuel_Sensors::VLK_Form_TMI_Fuel_Sensors(QWidget* parent)
 {
     ui_->setupUi(this);
     ui_->verticalLayout_Window->insertWidget(0, bar_);
-    connect(bar_, &NoticeBar::closed, this, [this](int number) {
-        if (number == kFileOfOther && currentSensor() >= 0)
-            fileOf_[currentSensor()].clear();
-    });
+    connect(bar_, &NoticeBar::closed, this, &VLK_Form_TMI_Fuel_Sensors::forgetNotice);
     ui_->pushButton_Help->hide();
     buildTabs();
 
@@ -104,7 +87,7 @@ VLK_Form_TMI_Fuel_Sensors::~VLK_Form_TMI_Fuel_Sensors() = default;
 
 void VLK_Form_TMI_Fuel_Sensors::buildTabs()
 {
-    const QIcon icon = plusIcon();
+    const QIcon icon = pathIcon(LinePath::Plus);
     for (int i = 0; i < fuelSensorCount; ++i) {
         if (!fuelSensors[i].fitted)
             continue;
@@ -131,15 +114,6 @@ void VLK_Form_TMI_Fuel_Sensors::buildTabs()
     }
     connect(ui_->tabWidget, &QTabWidget::currentChanged, this,
             &VLK_Form_TMI_Fuel_Sensors::slot_currentChanged_FuelType);
-}
-
-template <class Act>
-void VLK_Form_TMI_Fuel_Sensors::forEachForm(Act act) const
-{
-    for (int i = 0; i < fuelSensorCount; ++i) {
-        if (forms_[i])
-            act(*forms_[i], i);
-    }
 }
 
 void VLK_Form_TMI_Fuel_Sensors::retranslate()
@@ -186,6 +160,7 @@ void VLK_Form_TMI_Fuel_Sensors::openWindow(const QString& title)
         form->setFocus();
     requests::analog();
     unsavedCount_ = 0;
+    isOrdered_ = false;
     offerKeptTables();
     slot_currentChanged_FuelType(ui_->tabWidget->currentIndex());
 }
@@ -194,11 +169,33 @@ void VLK_Form_TMI_Fuel_Sensors::onLiveRecord(const uchar* record)
 {
     if (!record || isHidden())
         return;
-    forEachForm([record](VLK_Form_Fuel_Sensor& form, int sensor) {
-        form.setLiveValue(qFromLittleEndian<quint16>(record + fuelSensors[sensor].liveAt));
-    });
+    if (!std::exchange(isOrdered_, true))
+        orderTabs(record);
+    forEachForm(
+        [record](VLK_Form_Fuel_Sensor& form, int sensor) { form.setLiveValue(liveValue(record, sensor)); });
     timer_.start();
     old_.start();
+}
+
+void VLK_Form_TMI_Fuel_Sensors::orderTabs(const uchar* record)
+{
+    for (int group = 0; group < fuelGroupCount; ++group) {
+        QTabWidget* tabs = groups_[group];
+        if (!tabs)
+            continue;
+        int place = 0;
+        for (const bool speaks : {true, false}) {
+            forEachForm([&](VLK_Form_Fuel_Sensor& form, int sensor) {
+                if (groupOf(sensor) != group || (liveValue(record, sensor) != 0) != speaks)
+                    return;
+                tabs->tabBar()->moveTab(tabs->indexOf(&form), place);
+                form.setTabIndex(place++);
+            });
+        }
+        if (!hasRows())
+            tabs->setCurrentIndex(0);
+    }
+    slot_currentChanged_FuelType(ui_->tabWidget->currentIndex());
 }
 
 void VLK_Form_TMI_Fuel_Sensors::clearLiveValues()
@@ -285,182 +282,6 @@ void VLK_Form_TMI_Fuel_Sensors::slot_NeedSaved(bool on)
     ui_->pushButton_Save_Xml->setEnabled(on);
     unsavedCount_ += on ? 1 : -1;
     tellOfTable();
-}
-
-void VLK_Form_TMI_Fuel_Sensors::tellOfTable()
-{
-    const int sensor = currentSensor();
-    const VLK_Form_Fuel_Sensor* form = currentForm();
-    if (form && !form->hasRows())
-        fileOf_[sensor].clear();
-    if (form && !fileOf_[sensor].isEmpty())
-        bar_->tell(kFileOfOther, {Mark::advice, tr("cfgt6_412").arg(fileOf_[sensor], form->name()), {}});
-    else
-        bar_->end(kFileOfOther);
-    const Notice::Action save{ui_->pushButton_Save_Xml->text(), [this] { slot_pressed_Btn_Save_Xml(); }};
-    if (form && form->isEdited())
-        bar_->tell(kEdited, {Mark::changed, tr("cfgt6_404"), {save}});
-    else
-        bar_->end(kEdited);
-}
-
-void VLK_Form_TMI_Fuel_Sensors::offerKeptTables()
-{
-    for (; offers_ > 0; --offers_)
-        bar_->end(kOffers + offers_ - 1);
-    for (const KeptTable& table : kept_.offered(telemetryFolder())) {
-        const QString time = table.time.toString(QStringLiteral("dd.MM.yyyy HH:mm"));
-        const Notice::Action back{tr("cfgt6_406"), [this, table] { bringBack(table); }};
-        const Notice::Action discard{tr("cfgt6_407"), [this, path = table.path] {
-                                         QFile::remove(path);
-                                         offerKeptTables();
-                                     }};
-        bar_->tell(kOffers + offers_++,
-                   {Mark::changed, tr("cfgt6_405").arg(table.sensor, table.vehicle, time), {back, discard}});
-    }
-}
-
-void VLK_Form_TMI_Fuel_Sensors::bringBack(const KeptTable& table)
-{
-    select(table.sensor);
-    VLK_Form_Fuel_Sensor* form = currentForm();
-    if (!form || form->name() != table.sensor || !mayReplace(*form))
-        return;
-    // With tables of another vehicle on show the title is theirs.
-    if (!hasRows())
-        ui_->lineEdit_Title->setText(table.vehicle);
-    XmlDocument document(table.path, QLatin1String(fuelRoot));
-    load(*form, document.root());
-    form->setEdited(form->hasRows());
-    kept_.show(*form, table.path);
-    offerKeptTables();
-}
-
-void VLK_Form_TMI_Fuel_Sensors::load(VLK_Form_Fuel_Sensor& form, CXmlSection* root)
-{
-    const bool wasEdited = form.isEdited();
-    form.loadXml(root);
-    // What was edited is kept and offered; what is saved or given up is kept no longer.
-    if (wasEdited && !form.isEdited())
-        kept_.release(form);
-    else if (!wasEdited)
-        kept_.end(form);
-}
-
-bool VLK_Form_TMI_Fuel_Sensors::mayReplace(const VLK_Form_Fuel_Sensor& form)
-{
-    if (form.isEdited() && keep(form))
-        return true;
-    return !(form.isDirty() || form.isEdited()) || agrees(this, tr("tmiw_129"), "wrd_031");
-}
-
-bool VLK_Form_TMI_Fuel_Sensors::keep(const VLK_Form_Fuel_Sensor& form)
-{
-    return kept_.keep(form, telemetryFolder(), ui_->lineEdit_Title->text());
-}
-
-bool VLK_Form_TMI_Fuel_Sensors::keepEdited()
-{
-    bool allKept = true;
-    forEachForm([&](const VLK_Form_Fuel_Sensor& form, int) {
-        if (form.isEdited() && !keep(form))
-            allKept = false;
-    });
-    return allKept;
-}
-
-QString VLK_Form_TMI_Fuel_Sensors::proposedName(const QString& sensor) const
-{
-    return fuelFileName(telemetryFolder(), sensor, ui_->lineEdit_Title->text(), now());
-}
-
-void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Load()
-{
-    const QString path = askFuelFileToLoad(this, telemetryFolder(), QStringLiteral("xml"));
-    if (path.isEmpty())
-        return;
-    if (!QFileInfo::exists(path)) {
-        const QStringList parts = tr("tmiw_127").split(QStringLiteral("<val>"));
-        ui_->lineEdit_Title->setText(
-            QStringLiteral("%1 %2 %3")
-                .arg(parts.value(0).trimmed(), QFileInfo(path).fileName(), parts.value(1).trimmed()));
-        warn(this, tr("tmiw_128"));
-        return;
-    }
-    XmlDocument document(path, QLatin1String(fuelRoot));
-    if (!document.isOpen())
-        return;
-    if (document.root()->getString(QStringLiteral("model")) != modelText()) {
-        warn(this, tr("tmiw_128"));
-        return;
-    }
-    const QString type = document.root()->getString(QStringLiteral("type"));
-    select(type);
-    VLK_Form_Fuel_Sensor* form = currentForm();
-    if (!form || !mayReplace(*form))
-        return;
-    load(*form, document.root());
-    // A letter alone names no sensor.
-    fileOf_[currentSensor()] = type.size() > 1 && type != form->name() ? type : QString();
-    tellOfTable();
-    offerKeptTables();
-}
-
-void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Xml()
-{
-    VLK_Form_Fuel_Sensor* form = currentForm();
-    const QString path = askFuelFileToSave(this, tr("wrd_028"), proposedName(form ? form->name() : QString()),
-                                           QStringLiteral("xml"));
-    if (path.isEmpty())
-        return;
-    // Made in memory, so that nothing of what the file held before counts.
-    XmlDocument document(QString{}, QLatin1String(fuelRoot));
-    CXmlSection* root = document.root();
-    root->setString(QStringLiteral("model"), modelText());
-    root->setChildValue(QStringLiteral("objName"), ui_->lineEdit_Title->text());
-    const bool wasDirty = form && form->isDirty();
-    const bool wasEdited = form && form->isEdited();
-    if (form)
-        form->saveXml(root);
-    if (document.saveAs(path))
-        return;
-    if (wasDirty)
-        form->setDirty(true);
-    if (wasEdited)
-        form->setEdited(true);
-}
-
-void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Excel()
-{
-    const VLK_Form_Fuel_Sensor* form = currentForm();
-    if (!form)
-        return;
-    const QString path = askFuelFileToSave(this, QStringLiteral("%1 Excel").arg(tr("wrd_028")),
-                                           proposedName(form->name()), QStringLiteral("csv"));
-    if (!path.isEmpty())
-        form->saveCsv(path);
-}
-
-void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Print()
-{
-    if (auto* form = currentForm())
-        form->printReport();
-}
-
-void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Pdf()
-{
-    const VLK_Form_Fuel_Sensor* form = currentForm();
-    if (!form)
-        return;
-    CalibrationSheet sheet{};
-    form->fillSheet(sheet);
-    sheet.vehicle = ui_->lineEdit_Title->text();
-    sheet.tracker = tracker_;
-    sheet.time = now();
-    const QString path = askFuelFileToSave(this, QStringLiteral("%1 PDF").arg(tr("wrd_028")),
-                                           proposedName(form->name()), QStringLiteral("pdf"));
-    if (!path.isEmpty())
-        saveFuelFile(path, sheetPdf(sheet));
 }
 
 void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Help()

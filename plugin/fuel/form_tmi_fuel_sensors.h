@@ -64,14 +64,25 @@ private Q_SLOTS:
 
 private:
     void buildTabs();
+    // Sensors that say nothing stand behind those that do. Once an opening, before there is anything to look
+    // for.
+    void orderTabs(const uchar* record);
     template <class Act>
-    void forEachForm(Act act) const;
+    void forEachForm(Act act) const
+    {
+        for (int i = 0; i < vlk::fuelSensorCount; ++i) {
+            if (forms_[i])
+                act(*forms_[i], i);
+        }
+    }
     VLK_Form_Fuel_Sensor* currentForm() const;
     // Shows the tab of a sensor by the name that its file has, or of its group where there is no such sensor.
     void select(const QString& type);
     bool hasUnsaved() const { return unsavedCount_ > 0; }
     // What the bar says of the table on show.
     void tellOfTable();
+    // The user has closed the one of this number.
+    void forgetNotice(int number);
     void clearLiveValues();
     void offerKeptTables();
     void bringBack(const vlk::KeptTable& table);
@@ -98,4 +109,5 @@ private:
     QTimer timer_;
     QTimer old_; // runs until the live values are too old
     int unsavedCount_ = 0;
+    bool isOrdered_ = false;
 };

@@ -1,5 +1,7 @@
 #include "fuel/paste_preview.h"
 
+#include "typing/table_look.h"
+
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -19,15 +21,17 @@ PastePreview::PastePreview(const vlk::PastedRows& pasted, const vlk::FuelCaption
     auto* table = new QTableWidget(count, 2);
     table->setObjectName(QStringLiteral("tableWidget_Paste"));
     table->setHorizontalHeaderLabels({captions.volume, captions.value});
+    for (int column = 0; column < table->columnCount(); ++column)
+        table->horizontalHeaderItem(column)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    table->verticalHeader()->hide();
+    vlk::dressTable(table, vlk::TableUse::read);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionMode(QAbstractItemView::NoSelection);
     for (int row = 0; row < count; ++row) {
         const vlk::FuelRow& texts = pasted.rows[static_cast<std::size_t>(row)];
         for (const auto& [at, text] : {std::pair(0, texts.volume), std::pair(1, texts.value)}) {
             auto* item = new QTableWidgetItem(text);
-            item->setTextAlignment(Qt::AlignCenter);
+            item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
             table->setItem(row, at, item);
         }
     }

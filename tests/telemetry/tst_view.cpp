@@ -116,11 +116,15 @@ private Q_SLOTS:
         QVERIFY(window->screen()->availableGeometry().contains(window->geometry()));
         for (const char* button : {"pushButton_Help", "pushButton_Close"})
             QVERIFY(isWithin(child<QWidget>(button), window));
-        auto* area = child<QScrollArea>("scrollArea_Content");
-        auto* farthest = child<QWidget>("pushButton_FuelSensor");
-        QVERIFY(!isWithin(farthest, area->viewport())); // or the screen is larger than this test counts on
-        area->ensureWidgetVisible(farthest);
-        QVERIFY(isWithin(farthest, area->viewport()));
+        // On so low a screen they take the place of the tabs, until a record is asked for.
+        auto* functions = child<QWidget>("frame_Btn_Func");
+        QVERIFY(functions->isVisible() && !child<QWidget>("stackedWidget")->isVisible());
+        press("pushButton_Get_Current");
+        QVERIFY(!functions->isVisible() && child<QWidget>("stackedWidget")->isVisible());
+        window->setMinimumSize(0, 0);
+        window->resize(1024, 720);
+        press("pushButton_Func");
+        QVERIFY(functions->isVisible() && child<QWidget>("stackedWidget")->isVisible());
         press("pushButton_Func");
     }
 
@@ -290,6 +294,27 @@ private Q_SLOTS:
         // A form that was not on show has the zone with its next record.
         sendRecord(packetBytes(vlk::kSecondHead));
         QVERIFY(text("label_Event_DateTime_Value").endsWith("(UTC +5)"));
+    }
+
+    void bringsBackTheLastPeriod()
+    {
+        const vlk::Paths paths{folder.path(), {}, {}, {}};
+        host.send(Message::SetPaths, &paths);
+        openAgain();
+        auto* button = child<QToolButton>("toolButton_LastPeriod");
+        QVERIFY(!button->isEnabled());
+        auto* first = child<QDateTimeEdit>("dateTimeEdit_First");
+        const QDateTime chosen(QDate(2025, 2, 1), QTime(8, 0), Qt::UTC);
+        child<QSpinBox>("spinBox_TimeOffset")->setValue(-3);
+        first->setDateTime(chosen);
+        for (int run = 0; run < 2; ++run) {
+            window->close();
+            openAgain();
+            QVERIFY(button->isEnabled() && first->dateTime() != chosen);
+            press("toolButton_LastPeriod");
+            QCOMPARE(first->dateTime(), chosen);
+            QCOMPARE(child<QSpinBox>("spinBox_TimeOffset")->value(), -3);
+        }
     }
 
     void guardFollowsTheRecord_data()

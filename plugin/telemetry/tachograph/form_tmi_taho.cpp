@@ -5,6 +5,7 @@
 #include "base/clock.h"
 #include "link/requests.h"
 #include "telemetry/text/tachograph_answer.h"
+#include "typing/group_titles.h"
 #include "typing/join_fields.h"
 #include "typing/typed_entry.h"
 #include "windows/fit_to_screen.h"
@@ -64,6 +65,7 @@ VLK_Form_TMI_Taho::VLK_Form_TMI_Taho(QWidget* parent)
       ui_(std::make_unique<Ui::VLK_Designer_Form_TMI_Taho>())
 {
     ui_->setupUi(this);
+    dressGroups(this);
     ui_->frame_FileAutorize->hide();
     ui_->pushButton_Autorize->hide();
     ui_->textEdit_File->document()->setMaximumBlockCount(kLinesKept);

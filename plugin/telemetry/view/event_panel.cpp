@@ -5,6 +5,7 @@
 #include "telemetry/view/item_display.h"
 #include "telemetry/view/value_label.h"
 #include "telemetry/view/value_rows.h"
+#include "typing/group_titles.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -40,6 +41,7 @@ EventPanel::EventPanel(QWidget* parent)
 {
     setObjectName(QStringLiteral("frame_TMI_Title"));
     group_->setObjectName(QStringLiteral("groupBox_Event"));
+    dressGroup(group_);
     auto* frame = new QVBoxLayout(this);
     frame->setContentsMargins(0, 0, 0, 0);
     frame->addWidget(group_);

@@ -2,7 +2,7 @@
 
 #include "telemetry/text/item_text.h"
 #include "telemetry/text/signal_level.h"
-#include "telemetry/view/absent_value.h"
+#include "telemetry/view/dashed_value.h"
 #include "telemetry/view/item_display.h"
 #include "telemetry/view/position_rows.h"
 
@@ -144,7 +144,7 @@ void VLK_Form_Tmi_F3_Tab_Main::addGsm()
     level_->setValue(0);
     level_->setFormat({});
     level_->setAlignment(Qt::AlignCenter);
-    group->addRow("tmift1_020", level_);
+    levelShown_ = group->addRow("tmift1_020", level_);
 
     // They show which card is in use and are not for choosing.
     auto* cards = new QWidget;
@@ -162,7 +162,7 @@ void VLK_Form_Tmi_F3_Tab_Main::addGsm()
         ++number;
     }
     row->addStretch();
-    group->addRow("tmizta_135", cards);
+    cardShown_ = group->addRow("tmizta_135", cards);
     group->addList(kJamming);
 }
 
@@ -190,14 +190,14 @@ void VLK_Form_Tmi_F3_Tab_Main::fill(const TmiPage_Zeta3& page)
     const std::uint8_t level = page.value<element("GSM")>();
     const bool isKnown = level < kNoSignalLevel;
     level_->setValue(signalPercent(level));
-    const bool isHeld = holds(page, element("GSM"));
-    level_->setFormat(!isHeld ? QString(kAbsentMark) : isKnown ? QString(kLevelFormat) : tr("tmizta_027"));
-    level_->setToolTip(isHeld ? QString() : absentTip());
+    level_->setFormat(isKnown ? QString(kLevelFormat) : tr("tmizta_027"));
+    levelShown_->setAbsent(!holds(page, element("GSM")));
 
     const bool hasCard = page.has(element("Module1"));
     const bool second = (page.value<element("Module1")>() >> 4 & 1) != 0;
     sim1_->setChecked(hasCard && !second);
     sim2_->setChecked(hasCard && second);
+    cardShown_->setAbsent(!hasCard);
 }
 
 void VLK_Form_Tmi_F3_Tab_Main::retranslate()

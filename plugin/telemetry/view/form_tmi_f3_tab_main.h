@@ -45,6 +45,8 @@ private:
     void addNavigation();
 
     QProgressBar* level_;
+    vlk::DashedValue* levelShown_ = nullptr;
+    vlk::DashedValue* cardShown_ = nullptr;
     QRadioButton* sim1_;
     QRadioButton* sim2_;
     QPushButton* run_;

@@ -2,10 +2,12 @@
 
 #include "link/device.h"
 #include "telemetry/text/signal_level.h"
+#include "telemetry/view/dashed_value.h"
 #include "telemetry/view/item_display.h"
 #include "telemetry/view/position_rows.h"
 #include "telemetry/view/value_label.h"
 #include "telemetry/view/value_width.h"
+#include "typing/group_titles.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -91,7 +93,8 @@ VLK_Form_TMI_Production::VLK_Form_TMI_Production(vlk::EventPanel* panel, QWidget
     level_->setValue(0);
     level_->setFormat(kLevelFormat);
     modem->addWidget(levelText_, modem->rowCount(), 0);
-    modem->addWidget(level_, modem->rowCount() - 1, 1);
+    levelShown_ = new DashedValue(level_);
+    modem->addWidget(levelShown_, modem->rowCount() - 1, 1);
 
     rows_.add(addGroup("groupBox_Analog", "tmift2_002"), kAnalog);
 
@@ -136,6 +139,7 @@ QGridLayout* VLK_Form_TMI_Production::addGroup(const char* name, const char* key
 {
     auto* box = new QGroupBox(this);
     box->setObjectName(QLatin1String(name));
+    dressGroup(box);
     auto* grid = new QGridLayout(box);
     grid->setHorizontalSpacing(12);
     groups_.push_back({box, grid, key});
@@ -167,6 +171,7 @@ void VLK_Form_TMI_Production::fill(const TmiPage_Zeta3& page)
     markLimits(page);
     rows_.fill(page);
     level_->setValue(signalPercent(page.value<element("GSM")>()));
+    levelShown_->setAbsent(!holds(page, element("GSM")));
     for (std::size_t i = 0; i < std::size(kInputs); ++i)
         showItem(*inputValues_[i], page, kInputs[i].item);
     for (std::size_t i = 0; i < std::size(kLastSegment); ++i)

@@ -14,6 +14,9 @@ class QGridLayout;
 class QGroupBox;
 class QProgressBar;
 class QScrollArea;
+namespace vlk {
+class DashedValue;
+} // namespace vlk
 
 class VLK_Form_TMI_Production : public QWidget
 {
@@ -58,6 +61,7 @@ private:
     std::vector<vlk::ValueLabel*> inputValues_;
     QLabel* levelText_;
     QProgressBar* level_;
+    vlk::DashedValue* levelShown_ = nullptr;
     std::vector<QLabel*> segmentCaptions_;
     std::vector<vlk::ValueLabel*> segmentValues_;
     QScrollArea* scroll_;

@@ -1,6 +1,8 @@
 #include "telemetry/view/form_tmi_zetaext.h"
 
 #include "telemetry/text/key_text.h"
+#include "typing/group_titles.h"
+#include "typing/table_look.h"
 
 #include <QGroupBox>
 #include <QHeaderView>
@@ -55,6 +57,7 @@ VLK_Form_TMI_ZetaExt::VLK_Form_TMI_ZetaExt(vlk::EventPanel* panel, QWidget* pare
       treeWidget_(new QTreeWidget(this))
 {
     groupBox_NaviMain_->setObjectName(QStringLiteral("groupBox_NaviMain"));
+    dressGroup(groupBox_NaviMain_);
     auto* grid = new QGridLayout(groupBox_NaviMain_);
     grid->setHorizontalSpacing(12);
     rows_.add(grid, kPlace);
@@ -62,9 +65,7 @@ VLK_Form_TMI_ZetaExt::VLK_Form_TMI_ZetaExt(vlk::EventPanel* panel, QWidget* pare
 
     treeWidget_->setObjectName(QStringLiteral("treeWidget"));
     treeWidget_->setColumnCount(2);
-    treeWidget_->setRootIsDecorated(false);
-    treeWidget_->setAlternatingRowColors(true);
-    treeWidget_->header()->setDefaultAlignment(Qt::AlignCenter);
+    dressTable(treeWidget_);
     treeWidget_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
 
     auto* layout = new QVBoxLayout(this);
@@ -77,11 +78,8 @@ void VLK_Form_TMI_ZetaExt::fill(const TmiPage_Zeta3& page)
 {
     rows_.fill(page);
     treeWidget_->clear();
-    page.extra().forEachEntry([this](const ExtraEntry& entry) {
-        auto* row = new QTreeWidgetItem(treeWidget_, columns(entry));
-        for (int column = 0; column < treeWidget_->columnCount(); ++column)
-            row->setTextAlignment(column, Qt::AlignCenter);
-    });
+    page.extra().forEachEntry(
+        [this](const ExtraEntry& entry) { new QTreeWidgetItem(treeWidget_, columns(entry)); });
 }
 
 void VLK_Form_TMI_ZetaExt::setUtcOffset(int seconds)

@@ -1,8 +1,11 @@
 #include "telemetry/view/record_group.h"
 
+#include "telemetry/view/dashed_value.h"
 #include "telemetry/view/item_display.h"
 #include "telemetry/view/value_label.h"
 #include "telemetry/view/value_width.h"
+#include "typing/group_titles.h"
+#include "typing/present_value.h"
 
 #include <QCoreApplication>
 #include <QGridLayout>
@@ -53,6 +56,7 @@ RecordGroup::RecordGroup(const char* objectName, const char* titleKey, QWidget* 
     : QGroupBox(parent), titleKey_(titleKey), grid_(new QGridLayout(this))
 {
     setObjectName(QLatin1String(objectName));
+    dressGroup(this);
     grid_->setContentsMargins(6, 4, 4, 6);
     grid_->setHorizontalSpacing(kListSpacing);
     grid_->setVerticalSpacing(3);
@@ -75,6 +79,7 @@ QLabel* RecordGroup::addCaption(const char* key, int number, const QString& obje
 ValueLabel* RecordGroup::addValue(const QString& objectName, ItemIndex item)
 {
     auto* label = new ValueLabel(objectName, this);
+    showAsPresent(label);
     values_.push_back({label, item});
     return label;
 }
@@ -124,11 +129,13 @@ void RecordGroup::addList(std::span<const ValueSeries> list, int rowsBelow)
     grid_->setColumnStretch((at - 1) / rowsBelow * kColumnsOfList + 3, 1);
 }
 
-void RecordGroup::addRow(const char* captionKey, QWidget* widget)
+DashedValue* RecordGroup::addRow(const char* captionKey, QWidget* value)
 {
     const int row = startBelow();
-    grid_->addWidget(addCaption(captionKey, 0, captionName(widget->objectName())), row, 0);
-    grid_->addWidget(widget, row, 2, 1, 2);
+    auto* dashed = new DashedValue(value);
+    grid_->addWidget(addCaption(captionKey, 0, captionName(value->objectName())), row, 0);
+    grid_->addWidget(dashed, row, 2, 1, 2);
+    return dashed;
 }
 
 void RecordGroup::addCommand(QWidget* widget)
@@ -246,12 +253,11 @@ void RecordGroup::fill(const TmiPage_Zeta3& page)
 
 void RecordGroup::retranslate()
 {
-    // Some styles measure a title some pixels too short; the blanks take them.
-    setTitle(translated(titleKey_) + QLatin1String("  "));
+    setTitle(translated(titleKey_));
     for (const Caption& caption : captions_)
         caption.label->setText(numbered(caption.key, caption.number));
     for (const Value& value : values_)
-        value.label->setTextWidth(widestText(fontMetrics(), value.item));
+        value.label->setTextWidth(widestText(value.label->fontMetrics(), value.item));
 }
 
 } // namespace vlk

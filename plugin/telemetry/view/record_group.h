@@ -22,6 +22,7 @@ class QGridLayout;
 class QLabel;
 class TmiPage_Zeta3;
 namespace vlk {
+class DashedValue;
 class ValueLabel;
 } // namespace vlk
 
@@ -60,8 +61,8 @@ public:
 
     // Rows below each other; behind `rowsBelow` of them the next ones stand beside.
     void addList(std::span<const ValueSeries> list, int rowsBelow = kAllRows);
-    // A widget that is no label, under a caption of its own.
-    void addRow(const char* captionKey, QWidget* widget);
+    // A value that is no label, with a caption of its own.
+    DashedValue* addRow(const char* captionKey, QWidget* value);
     // Controls below the values, across the group if that has names.
     void addCommand(QWidget* widget);
     // A value that takes the room of all columns of a table.

@@ -133,10 +133,8 @@ QVariant RecordsModel::data(const QModelIndex& index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    if (role == Qt::TextAlignmentRole) {
-        const bool toTheRight = !isPacketData(index.column()) && isNumeric(columns_[index.column()]);
-        return static_cast<int>(Qt::AlignVCenter | (toTheRight ? Qt::AlignRight : Qt::AlignLeft));
-    }
+    if (role == Qt::TextAlignmentRole)
+        return alignment(index.column());
     const int page = order_[index.row()];
     if (isAbsent(page, index.column())) {
         switch (role) {
@@ -160,8 +158,17 @@ QVariant RecordsModel::data(const QModelIndex& index, int role) const
     return text;
 }
 
+// A heading stands as its column does.
+int RecordsModel::alignment(int column) const
+{
+    const bool toTheRight = column < static_cast<int>(columns_.size()) && isNumeric(columns_[column]);
+    return static_cast<int>(Qt::AlignVCenter | (toTheRight ? Qt::AlignRight : Qt::AlignLeft));
+}
+
 QVariant RecordsModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
+    if (role == Qt::TextAlignmentRole && orientation == Qt::Horizontal)
+        return alignment(section) | Qt::TextWordWrap;
     const bool isText = role == Qt::DisplayRole || (role == Qt::ToolTipRole && orientation == Qt::Horizontal);
     if (!isText || section < 0)
         return {};

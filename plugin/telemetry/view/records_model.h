@@ -41,6 +41,7 @@ private:
     struct SortKey;
 
     void makeHeadings();
+    int alignment(int column) const;
     bool isAbsent(int page, int column) const;
     // Of the file's page, counted from 0.
     QString cellText(int page, int column) const;

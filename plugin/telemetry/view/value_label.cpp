@@ -2,6 +2,7 @@
 
 #include "telemetry/view/absent_value.h"
 
+#include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
@@ -85,8 +86,40 @@ bool ValueLabel::event(QEvent* event)
     return QLabel::event(event);
 }
 
-void ValueLabel::paintEvent(QPaintEvent* /*event*/)
+// Only where the mouse is: what makes a text selectable costs more than the text.
+void ValueLabel::enterEvent(QEvent* event)
 {
+    if (!text().isEmpty() && fits())
+        setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    QLabel::enterEvent(event);
+}
+
+void ValueLabel::leaveEvent(QEvent* event)
+{
+    if (!hasSelectedText())
+        setTextInteractionFlags(Qt::NoTextInteraction);
+    QLabel::leaveEvent(event);
+}
+
+void ValueLabel::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::RightButton)
+        event->ignore();
+    else
+        QLabel::mousePressEvent(event);
+}
+
+void ValueLabel::contextMenuEvent(QContextMenuEvent* event)
+{
+    event->ignore();
+}
+
+void ValueLabel::paintEvent(QPaintEvent* event)
+{
+    if (textInteractionFlags().testFlag(Qt::TextSelectableByMouse) && !isAbsent_ && fits()) {
+        QLabel::paintEvent(event);
+        return;
+    }
     QPainter painter(this);
     const QString shown = isAbsent_ ? QString(kAbsentMark)
                           : fits()  ? text()

@@ -2,7 +2,8 @@
 
 // A value in a panel of many. A text that does not fit is shown with an ellipsis, and whole in the tool tip.
 // A value that the record lacks has no text; a grey dash is drawn in its place, so that it can be told from a
-// value that is there and empty.
+// value that is there and empty. Under the mouse the text can be selected; the right button is left to the
+// panel.
 
 #include <QLabel>
 
@@ -30,6 +31,10 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    void enterEvent(QEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -3,6 +3,7 @@
 #include "telemetry/view/item_display.h"
 #include "telemetry/view/value_label.h"
 #include "telemetry/view/value_width.h"
+#include "typing/present_value.h"
 
 #include <QCoreApplication>
 #include <QGridLayout>
@@ -21,6 +22,7 @@ QLabel* makeCaption(const QString& name)
 ValueLabel* makeValue(const QString& name)
 {
     auto* label = new ValueLabel(name);
+    showAsPresent(label);
     label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     label->setMinimumWidth(label->fontMetrics().averageCharWidth() * 8);
     return label;

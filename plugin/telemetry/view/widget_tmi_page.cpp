@@ -11,13 +11,11 @@
 #include "typing/notice_bar.h"
 #include "typing/typed_entry.h"
 #include "windows/fit_to_screen.h"
+#include "windows/path_icon.h"
 
 #include <QDir>
-#include <QEvent>
 #include <QFileInfo>
-#include <QPainter>
 #include <QShortcut>
-#include <QStyle>
 
 #include <algorithm>
 #include <limits>
@@ -57,7 +55,9 @@ VLK_Widget_Tmi_Page::VLK_Widget_Tmi_Page(QWidget* parent)
     ui_->verticalLayout_Event->addWidget(eventPanel_);
     ui_->pushButton_Go->hide();
     ui_->label_NoRecord->hide();
-    setArrows();
+    // The texts of the two buttons are numbers; arrows tell where they lead.
+    ui_->pushButton_Begin->setIcon(pathIcon(LinePath::Begin));
+    ui_->pushButton_End->setIcon(pathIcon(LinePath::End));
     connectControls();
     vlk::keepOnScreen(this);
     stack_.showNothing();
@@ -95,28 +95,6 @@ void VLK_Widget_Tmi_Page::connectControls()
     connect(ui_->horizontalSlider, &QSlider::valueChanged, this, &Page::slot_valueChanged_horizontalSlider);
     connect(ui_->spinBox_Go, qOverload<int>(&QSpinBox::valueChanged), this,
             &Page::slot_valueChanged_spinBox_Go);
-}
-
-// The texts of the two buttons are numbers; arrows tell where they lead. Those of the style are black
-// whatever the palette is.
-void VLK_Widget_Tmi_Page::setArrows()
-{
-    for (const auto& [button, arrow] : {std::pair(ui_->pushButton_Begin, QStyle::SP_MediaSkipBackward),
-                                        std::pair(ui_->pushButton_End, QStyle::SP_MediaSkipForward)}) {
-        QPixmap pixmap = style()->standardIcon(arrow).pixmap(button->iconSize());
-        QPainter painter(&pixmap);
-        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-        painter.fillRect(pixmap.rect(), palette().color(QPalette::Active, QPalette::ButtonText));
-        painter.end();
-        button->setIcon(pixmap);
-    }
-}
-
-void VLK_Widget_Tmi_Page::changeEvent(QEvent* event)
-{
-    QDialog::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange)
-        setArrows();
 }
 
 void VLK_Widget_Tmi_Page::open(const QString& path)

@@ -33,9 +33,6 @@ public:
     void open(const QString& path);
     void retranslate();
 
-protected:
-    void changeEvent(QEvent* event) override;
-
 private Q_SLOTS:
     void slot_valueChanged_horizontalSlider(int position);
     void slot_valueChanged_spinBox_Go(int position);
@@ -49,7 +46,6 @@ private Q_SLOTS:
 
 private:
     void connectControls();
-    void setArrows();
     void setRange(int last);
     void showPage(std::size_t position);
     // The file counts more positions than it has pages where numbers are missing. Those behind the last page

@@ -3,7 +3,9 @@
 #include "telemetry/view/damage_text.h"
 #include "telemetry/view/records_model.h"
 #include "telemetry/view/stored_file.h"
+#include "typing/empty_note.h"
 #include "typing/notice_bar.h"
+#include "typing/table_look.h"
 #include "windows/fit_to_screen.h"
 
 #include <QFileInfo>
@@ -48,19 +50,18 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
     table_->setObjectName(QStringLiteral("tableWidget"));
     table_->setFrameShape(QFrame::NoFrame);
     table_->setModel(model_);
-    table_->setAlternatingRowColors(true);
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table_->setWordWrap(false);
+    vlk::dressTable(table_, vlk::TableUse::read);
+    // Its numbers are the places in the file.
+    table_->verticalHeader()->show();
     table_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     QHeaderView* const headings = table_->horizontalHeader();
-    headings->setDefaultAlignment(Qt::AlignCenter | static_cast<Qt::Alignment>(Qt::TextWordWrap));
     headings->setMinimumHeight(kHeadingLines * fontMetrics().lineSpacing() + kCellPadding);
-    headings->setHighlightSections(false);
     headings->setSortIndicator(-1, Qt::AscendingOrder);
     table_->setSortingEnabled(true);
     table_->verticalHeader()->setHighlightSections(false);
-    table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kCellPadding);
+    empty_ = new vlk::EmptyNote(table_);
+    empty_->tell(tr("tmiw_002"));
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -89,6 +90,7 @@ void VLK_Widget_Tmi_Table::open(const QString& path)
 void VLK_Widget_Tmi_Table::retranslate()
 {
     damageNotice_->retranslate();
+    empty_->tell(tr("tmiw_002"));
     model_->retranslate();
     fitColumns();
     showTitle();

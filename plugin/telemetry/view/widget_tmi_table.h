@@ -6,6 +6,7 @@
 
 class QTableView;
 namespace vlk {
+class EmptyNote;
 class NoticeBar;
 class RecordsModel;
 } // namespace vlk
@@ -29,5 +30,6 @@ private:
     vlk::NoticeBar* damageNotice_;
     vlk::RecordsModel* model_;
     QTableView* table_;
+    vlk::EmptyNote* empty_ = nullptr;
     QString fileName_;
 };

@@ -10,9 +10,12 @@
 #include "telemetry/tachograph/form_tmi_taho.h"
 #include "telemetry/view/automatic_requests.h"
 #include "telemetry/view/clearing_sequence.h"
+#include "telemetry/view/equipment_windows.h"
+#include "telemetry/view/functions_place.h"
 #include "telemetry/view/record_stack.h"
 #include "telemetry/view/save_sequence.h"
 #include "telemetry/view/tracker_setup.h"
+#include "telemetry/view/zoned_times.h"
 
 #include <QDialog>
 
@@ -23,7 +26,6 @@ class EventPanel;
 class NoticeBar;
 } // namespace vlk
 class QAbstractButton;
-class VLK_Form_TMI_Fuel_Sensors;
 
 namespace Ui {
 class VLK_Designer_Widget_Tmi_View;
@@ -101,6 +103,8 @@ private:
     void showPart(const vlk::PartOfPeriod& part);
     void stopRequests();
     void startSave(vlk::SaveSequence::Mode mode);
+    // For a record that was asked for by hand.
+    void lookAtRecords();
     // Asks for a record by number; a walking button that is held down waits for each answer.
     void walkTo(quint32 number, const QAbstractButton* button);
     void setGuardButtons(int operatingMode);
@@ -108,14 +112,14 @@ private:
     std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_View> ui_;
     vlk::EventPanel* eventPanel_;
     vlk::NoticeBar* partNotice_;
-    VLK_Form_TMI_Taho* tachograph_ = nullptr;
-    VLK_Form_TMI_Fuel_Sensors* fuelSensors_ = nullptr;
     vlk::RecordStack pages_;
     vlk::AutomaticRequests automatic_;
     vlk::ClearingSequence clearing_;
     vlk::SaveSequence save_;
+    vlk::EquipmentWindows equipment_;
+    vlk::ZonedTimes times_;
+    vlk::FunctionsPlace functions_;
     vlk::TrackerSetup setup_;
-    int timeOffset_ = 0; // seconds east of UTC
     quint32 highestNumber_ = 0;
     quint32 lastWalk_ = 0;
     const char* blockedBy_ = nullptr;

@@ -1,0 +1,220 @@
+// What of the tables is in files, and what the bar tells of it.
+
+#include "fuel/form_tmi_fuel_sensors.h"
+
+#include "ui_VLK_Designer_Form_TMI_Fuel_Sensors.h"
+
+#include "base/clock.h"
+#include "fuel/calibration_sheet.h"
+#include "fuel/file_dialogs.h"
+#include "fuel/form_fuel_sensor.h"
+#include "fuel/question.h"
+#include "fuel/table/fuel_document.h"
+#include "fuel/table/fuel_file.h"
+#include "link/device.h"
+#include "typing/notice_bar.h"
+#include "xml/xml_document.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+using namespace vlk;
+
+namespace {
+
+// Numbers in the bar; offers have those from kOffers on.
+enum NoticeNumber { kEdited, kFileOfOther, kOffers };
+
+QString telemetryFolder()
+{
+    return vlkDevice ? vlkDevice->tmiFolder() : QString();
+}
+
+QString modelText()
+{
+    return vlkDevice ? vlkDevice->model() : QString();
+}
+
+} // namespace
+
+void VLK_Form_TMI_Fuel_Sensors::tellOfTable()
+{
+    const int sensor = currentSensor();
+    const VLK_Form_Fuel_Sensor* form = currentForm();
+    if (form && !form->hasRows())
+        fileOf_[sensor].clear();
+    if (form && !fileOf_[sensor].isEmpty())
+        bar_->tell(kFileOfOther, {Mark::advice, tr("cfgt6_412").arg(fileOf_[sensor], form->name()), {}});
+    else
+        bar_->end(kFileOfOther);
+    const Notice::Action save{ui_->pushButton_Save_Xml->text(), [this] { slot_pressed_Btn_Save_Xml(); }};
+    if (form && form->isEdited())
+        bar_->tell(kEdited, {Mark::changed, tr("cfgt6_404"), {save}});
+    else
+        bar_->end(kEdited);
+}
+
+void VLK_Form_TMI_Fuel_Sensors::forgetNotice(int number)
+{
+    if (number == kFileOfOther && currentSensor() >= 0)
+        fileOf_[currentSensor()].clear();
+}
+
+void VLK_Form_TMI_Fuel_Sensors::offerKeptTables()
+{
+    for (; offers_ > 0; --offers_)
+        bar_->end(kOffers + offers_ - 1);
+    for (const KeptTable& table : kept_.offered(telemetryFolder())) {
+        const QString time = table.time.toString(QStringLiteral("dd.MM.yyyy HH:mm"));
+        const Notice::Action back{tr("cfgt6_406"), [this, table] { bringBack(table); }};
+        const Notice::Action discard{tr("cfgt6_407"), [this, path = table.path] {
+                                         QFile::remove(path);
+                                         offerKeptTables();
+                                     }};
+        bar_->tell(kOffers + offers_++,
+                   {Mark::changed, tr("cfgt6_405").arg(table.sensor, table.vehicle, time), {back, discard}});
+    }
+}
+
+void VLK_Form_TMI_Fuel_Sensors::bringBack(const KeptTable& table)
+{
+    select(table.sensor);
+    VLK_Form_Fuel_Sensor* form = currentForm();
+    if (!form || form->name() != table.sensor || !mayReplace(*form))
+        return;
+    // With tables of another vehicle on show the title is theirs.
+    if (!hasRows())
+        ui_->lineEdit_Title->setText(table.vehicle);
+    XmlDocument document(table.path, QLatin1String(fuelRoot));
+    load(*form, document.root());
+    form->setEdited(form->hasRows());
+    kept_.show(*form, table.path);
+    offerKeptTables();
+}
+
+void VLK_Form_TMI_Fuel_Sensors::load(VLK_Form_Fuel_Sensor& form, CXmlSection* root)
+{
+    const bool wasEdited = form.isEdited();
+    form.loadXml(root);
+    // What was edited is kept and offered; what is saved or given up is kept no longer.
+    if (wasEdited && !form.isEdited())
+        kept_.release(form);
+    else if (!wasEdited)
+        kept_.end(form);
+}
+
+bool VLK_Form_TMI_Fuel_Sensors::mayReplace(const VLK_Form_Fuel_Sensor& form)
+{
+    if (form.isEdited() && keep(form))
+        return true;
+    return !(form.isDirty() || form.isEdited()) || agrees(this, tr("tmiw_129"), "wrd_031");
+}
+
+bool VLK_Form_TMI_Fuel_Sensors::keep(const VLK_Form_Fuel_Sensor& form)
+{
+    return kept_.keep(form, telemetryFolder(), ui_->lineEdit_Title->text());
+}
+
+bool VLK_Form_TMI_Fuel_Sensors::keepEdited()
+{
+    bool allKept = true;
+    forEachForm([&](const VLK_Form_Fuel_Sensor& form, int) {
+        if (form.isEdited() && !keep(form))
+            allKept = false;
+    });
+    return allKept;
+}
+
+QString VLK_Form_TMI_Fuel_Sensors::proposedName(const QString& sensor) const
+{
+    return fuelFileName(telemetryFolder(), sensor, ui_->lineEdit_Title->text(), now());
+}
+
+void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Load()
+{
+    const QString path = askFuelFileToLoad(this, telemetryFolder(), QStringLiteral("xml"));
+    if (path.isEmpty())
+        return;
+    if (!QFileInfo::exists(path)) {
+        const QStringList parts = tr("tmiw_127").split(QStringLiteral("<val>"));
+        ui_->lineEdit_Title->setText(
+            QStringLiteral("%1 %2 %3")
+                .arg(parts.value(0).trimmed(), QFileInfo(path).fileName(), parts.value(1).trimmed()));
+        warn(this, tr("tmiw_128"));
+        return;
+    }
+    XmlDocument document(path, QLatin1String(fuelRoot));
+    if (!document.isOpen())
+        return;
+    if (document.root()->getString(QStringLiteral("model")) != modelText()) {
+        warn(this, tr("tmiw_128"));
+        return;
+    }
+    const QString type = document.root()->getString(QStringLiteral("type"));
+    select(type);
+    VLK_Form_Fuel_Sensor* form = currentForm();
+    if (!form || !mayReplace(*form))
+        return;
+    load(*form, document.root());
+    // A letter alone names no sensor.
+    fileOf_[currentSensor()] = type.size() > 1 && type != form->name() ? type : QString();
+    tellOfTable();
+    offerKeptTables();
+}
+
+void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Xml()
+{
+    VLK_Form_Fuel_Sensor* form = currentForm();
+    const QString path = askFuelFileToSave(this, tr("wrd_028"), proposedName(form ? form->name() : QString()),
+                                           QStringLiteral("xml"));
+    if (path.isEmpty())
+        return;
+    // Made in memory, so that nothing of what the file held before counts.
+    XmlDocument document(QString{}, QLatin1String(fuelRoot));
+    CXmlSection* root = document.root();
+    root->setString(QStringLiteral("model"), modelText());
+    root->setChildValue(QStringLiteral("objName"), ui_->lineEdit_Title->text());
+    const bool wasDirty = form && form->isDirty();
+    const bool wasEdited = form && form->isEdited();
+    if (form)
+        form->saveXml(root);
+    if (document.saveAs(path))
+        return;
+    if (wasDirty)
+        form->setDirty(true);
+    if (wasEdited)
+        form->setEdited(true);
+}
+
+void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Excel()
+{
+    const VLK_Form_Fuel_Sensor* form = currentForm();
+    if (!form)
+        return;
+    const QString path = askFuelFileToSave(this, QStringLiteral("%1 Excel").arg(tr("wrd_028")),
+                                           proposedName(form->name()), QStringLiteral("csv"));
+    if (!path.isEmpty())
+        form->saveCsv(path);
+}
+
+void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Print()
+{
+    if (auto* form = currentForm())
+        form->printReport();
+}
+
+void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Pdf()
+{
+    const VLK_Form_Fuel_Sensor* form = currentForm();
+    if (!form)
+        return;
+    CalibrationSheet sheet{};
+    form->fillSheet(sheet);
+    sheet.vehicle = ui_->lineEdit_Title->text();
+    sheet.tracker = tracker_;
+    sheet.time = now();
+    const QString path = askFuelFileToSave(this, QStringLiteral("%1 PDF").arg(tr("wrd_028")),
+                                           proposedName(form->name()), QStringLiteral("pdf"));
+    if (!path.isEmpty())
+        saveFuelFile(path, sheetPdf(sheet));
+}

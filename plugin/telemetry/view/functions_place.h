@@ -1,0 +1,37 @@
+#pragma once
+
+// Where the functions of the telemetry view stand when they are opened: below the record, or, in a window
+// that has no room for both, in the place of the record's tabs.
+
+#include <QObject>
+
+namespace Ui {
+class VLK_Designer_Widget_Tmi_View;
+}
+
+namespace vlk {
+
+class FunctionsPlace : public QObject
+{
+    Q_OBJECT
+
+public:
+    FunctionsPlace(const Ui::VLK_Designer_Widget_Tmi_View& ui, QWidget* window);
+
+    void toggle();
+    // For a record that the user asked for: functions that hide the tabs close.
+    void showRecord();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void open(bool open);
+    void arrange();
+
+    const Ui::VLK_Designer_Widget_Tmi_View& ui_;
+    const QWidget* window_;
+    bool takesPlace_ = false;
+};
+
+} // namespace vlk

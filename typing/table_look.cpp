@@ -1,0 +1,187 @@
+#include "typing/table_look.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QProxyStyle>
+#include <QShortcut>
+#include <QStyleFactory>
+#include <QStyleOption>
+#include <QStyledItemDelegate>
+#include <QTableView>
+#include <QToolTip>
+#include <QTreeView>
+
+namespace vlk {
+
+namespace {
+
+constexpr int kRowPadding = 8;  // above and below together
+constexpr int kCellPadding = 6; // left, and right
+
+// Of which styles leave a part.
+int ownPadding(const QWidget* table)
+{
+    return table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, table) + 1;
+}
+
+class CellDelegate : public QStyledItemDelegate
+{
+public:
+    CellDelegate(Qt::TextElideMode elide, QObject* parent) : QStyledItemDelegate(parent), elide_(elide) {}
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        QStyleOptionViewItem cell = option;
+        initStyleOption(&cell, index);
+        cell.textElideMode = elide_;
+        const QStyle* style = option.widget->style();
+        // The whole cell first, then its content within less.
+        style->drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
+        cell.rect = content(cell);
+        style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
+    }
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const int padding = option.rect.width() - content(option).width();
+        return {QStyledItemDelegate::sizeHint(option, index).width() + padding,
+                option.fontMetrics.height() + kRowPadding};
+    }
+
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override
+    {
+        const QString text = index.data().toString();
+        if (event->type() != QEvent::ToolTip || !index.data(Qt::ToolTipRole).isNull() ||
+            cellWidth(*view, text) <= option.rect.width())
+            return QStyledItemDelegate::helpEvent(event, view, option, index);
+        QToolTip::showText(event->globalPos(), text, view);
+        return true;
+    }
+
+private:
+    static QRect content(const QStyleOptionViewItem& cell)
+    {
+        const int padding = kCellPadding - ownPadding(cell.widget);
+        return cell.rect.adjusted(padding, 0, -padding, 0);
+    }
+
+    Qt::TextElideMode elide_;
+};
+
+// Heads begin where the texts of their cells do.
+class HeadStyle : public QProxyStyle
+{
+public:
+    explicit HeadStyle(QObject* parent)
+        : QProxyStyle(QStyleFactory::create(QApplication::style()->objectName()))
+    {
+        setParent(parent);
+    }
+
+    QRect subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const override
+    {
+        const QRect rect = QProxyStyle::subElementRect(element, option, widget);
+        if (element != SE_HeaderLabel)
+            return rect;
+        const QRect inner = option->rect.adjusted(kCellPadding, 0, -kCellPadding, 0);
+        return rect.intersected(inner);
+    }
+};
+
+const QHeaderView* headsOf(const QAbstractItemView& view)
+{
+    if (const auto* table = qobject_cast<const QTableView*>(&view))
+        return table->horizontalHeader();
+    const auto* tree = qobject_cast<const QTreeView*>(&view);
+    return tree ? tree->header() : nullptr;
+}
+
+bool isHidden(const QAbstractItemView& view, int row)
+{
+    const auto* table = qobject_cast<const QTableView*>(&view);
+    return table && table->isRowHidden(row);
+}
+
+void dressView(QAbstractItemView* view, QHeaderView* heads)
+{
+    view->setAlternatingRowColors(true);
+    heads->setHighlightSections(false);
+    heads->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    heads->setStyle(new HeadStyle(heads));
+}
+
+void dressCells(QAbstractItemView* view)
+{
+    view->setItemDelegate(new CellDelegate(Qt::ElideRight, view));
+    auto* copy = new QShortcut(QKeySequence::Copy, view, nullptr, nullptr, Qt::WidgetShortcut);
+    QObject::connect(copy, &QShortcut::activated, view,
+                     [view] { QApplication::clipboard()->setText(tableText(*view)); });
+}
+
+} // namespace
+
+void dressTable(QTableView* table, TableUse use)
+{
+    dressView(table, table->horizontalHeader());
+    if (use == TableUse::read)
+        dressCells(table);
+    table->setShowGrid(use == TableUse::edit);
+    table->setWordWrap(false);
+    table->setTabKeyNavigation(false);
+    const int height = table->fontMetrics().height() + kRowPadding;
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setMinimumSectionSize(height);
+    table->verticalHeader()->setDefaultSectionSize(height);
+    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+}
+
+void dressTable(QTreeView* tree)
+{
+    dressView(tree, tree->header());
+    dressCells(tree);
+    tree->setRootIsDecorated(false);
+    tree->setUniformRowHeights(true);
+}
+
+void elideInTheMiddle(QAbstractItemView* table, int column)
+{
+    table->setItemDelegateForColumn(column, new CellDelegate(Qt::ElideMiddle, table));
+}
+
+int cellWidth(const QAbstractItemView& table, const QString& text)
+{
+    // Letters lean a little out of what they are said to take.
+    constexpr int kLean = 2;
+    return table.fontMetrics().horizontalAdvance(text) + kLean + 2 * kCellPadding;
+}
+
+QString tableText(const QAbstractItemView& table)
+{
+    const QAbstractItemModel& model = *table.model();
+    const QHeaderView* heads = headsOf(table);
+    QVector<int> columns;
+    for (int place = 0; heads && place < heads->count(); ++place) {
+        if (!heads->isSectionHidden(heads->logicalIndex(place)))
+            columns << heads->logicalIndex(place);
+    }
+    QString text;
+    const auto addLine = [&](auto cell) {
+        QStringList cells;
+        for (const int column : std::as_const(columns))
+            cells << cell(column).simplified();
+        text += cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
+    };
+    addLine([&](int column) { return model.headerData(column, Qt::Horizontal).toString(); });
+    const bool all = table.selectionMode() == QAbstractItemView::NoSelection;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        if (!isHidden(table, row) && (all || table.selectionModel()->rowIntersectsSelection(row, {})))
+            addLine([&](int column) { return model.index(row, column).data().toString(); });
+    }
+    return text;
+}
+
+} // namespace vlk

@@ -1,0 +1,31 @@
+#pragma once
+
+// How tables look in the windows of either program: low rows that alternate, texts with room on both sides, a
+// grid only where cells are edited, no row numbers. A text that has no room is told by its tool tip. Where
+// nothing is edited Ctrl+C takes the chosen rows with the heads of their columns, or all where none can be
+// chosen.
+
+#include <QString>
+
+class QAbstractItemView;
+class QTableView;
+class QTreeView;
+
+namespace vlk {
+
+enum class TableUse { read, edit };
+
+void dressTable(QTableView* table, TableUse use);
+// A list with heads.
+void dressTable(QTreeView* tree);
+
+// For a column of paths, which differ most at their ends.
+void elideInTheMiddle(QAbstractItemView* table, int column);
+
+// How wide a cell of a text is.
+int cellWidth(const QAbstractItemView& table, const QString& text);
+
+// What Where nothing is edited Ctrl+C takes: cells with a tab between them, each row on a line.
+QString tableText(const QAbstractItemView& table);
+
+} // namespace vlk
