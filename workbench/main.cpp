@@ -4,6 +4,7 @@
 #include "window/display_guard.h"
 #include "window/files_tour.h"
 #include "window/fuel_tour.h"
+#include "window/house_style.h"
 #include "window/installed_files.h"
 #include "window/line_icon.h"
 #include "window/quick_tour.h"
@@ -98,6 +99,7 @@ int main(int argc, char* argv[])
 
     const auto application = makeApplication(argc, argv, noDisplay);
     nameApplication();
+    vlk::HouseStyle::setUp();
     QApplication::setWindowIcon(vlk::applicationIcon());
 
     // A tour leaves the user's own tracker alone.

@@ -1,30 +1,21 @@
 #include "window/device_panel.h"
 
+#include "typing/field_mark.h"
+#include "typing/present_value.h"
 #include "window/host_session.h"
 
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
-#include <QPainter>
+
+#include <QEvent>
+#include <algorithm>
 
 namespace vlk {
 
 namespace {
 
 constexpr const char* modeKeys[] = {"wb_mode_0", "wb_mode_1", "wb_mode_2"};
-
-QPixmap dot(const QColor& colour, int side, qreal ratio)
-{
-    QPixmap pixmap(QSize(side, side) * ratio);
-    pixmap.setDevicePixelRatio(ratio);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(colour);
-    painter.drawEllipse(QRectF(1, 1, side - 2, side - 2));
-    return pixmap;
-}
 
 } // namespace
 
@@ -72,8 +63,14 @@ QLabel* DevicePanel::addRow(QFormLayout* form, const char* name, const char* key
     auto* value = new QLabel(this);
     value->setObjectName(QLatin1String(name));
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    vlk::showAsPresent(value);
     form->addRow(texts_.bind(new QLabel(this), key), value);
     return value;
+}
+
+const char* DevicePanel::modeKey(int mode)
+{
+    return modeKeys[std::clamp(mode, 0, int(std::size(modeKeys)) - 1)];
 }
 
 void DevicePanel::setMode(int mode)
@@ -97,10 +94,8 @@ void DevicePanel::refresh()
 {
     const tracker::SimulatedTracker& tracker = session_.tracker();
     const bool attached = tracker.attached();
-    const QColor colour = !attached                    ? QColor(0xb0, 0x30, 0x30)
-                          : trouble_->text().isEmpty() ? QColor(0x2e, 0x9e, 0x4f)
-                                                       : QColor(0xd0, 0x8a, 0x00);
-    symbol_->setPixmap(dot(colour, 12, devicePixelRatioF()));
+    const Mark mark = !attached ? Mark::invalid : trouble_->text().isEmpty() ? Mark::right : Mark::advice;
+    symbol_->setPixmap(vlk::markPixmap(mark, palette(), vlk::markSize, devicePixelRatioF()));
     state_->setText(vlk::text(attached ? "wb_device_attached" : "wb_device_detached"));
     const QString none = QStringLiteral("–");
     model_->setText(attached ? tracker.model() : none);
@@ -111,6 +106,14 @@ void DevicePanel::refresh()
     const PluginLink& link = session_.link();
     plugin_->setText(link.isLoaded() ? QStringLiteral("%1, %2").arg(link.displayName(), link.version())
                                      : vlk::text("wb_device_no_plugin"));
+}
+
+// The mark follows the colours of the window.
+void DevicePanel::changeEvent(QEvent* event)
+{
+    QGroupBox::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        refresh();
 }
 
 void DevicePanel::retranslate()

@@ -29,9 +29,13 @@ public:
     void setTrouble(const QString& text);
     void refresh();
     void retranslate();
+    static const char* modeKey(int mode);
 
 Q_SIGNALS:
     void modeChosen(int mode);
+
+protected:
+    void changeEvent(QEvent* event) override;
 
 private:
     QLabel* addRow(QFormLayout* form, const char* name, const char* key);

@@ -9,6 +9,7 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -22,7 +23,8 @@ FoldersDialog::FoldersDialog(const QString& telemetry, const QString& configurat
     telemetry_ = addFolder(form, "lineEdit_FolderTelemetry", "wb_folder_telemetry", telemetry);
     configurations_ =
         addFolder(form, "lineEdit_FolderConfigurations", "wb_folder_configurations", configurations);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
+    buttons->addButton(vlk::text("wb_folders_use"), QDialogButtonBox::AcceptRole)->setDefault(true);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* column = new QVBoxLayout(this);

@@ -1,5 +1,6 @@
 #include "window/help_viewer.h"
 
+#include "window/find_field.h"
 #include "window/line_icon.h"
 #include "window/scrolling.h"
 
@@ -145,16 +146,7 @@ void HelpViewer::addSearch(QToolBar* bar)
     connect(words_, &QLineEdit::returnPressed, this, [this] { findNext(); });
     connect(words_, &QLineEdit::textChanged, result_, &QLabel::clear);
     connect(new QShortcut(QKeySequence::FindNext, this), &QShortcut::activated, this, [this] { findNext(); });
-    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
-        words_->setFocus();
-        words_->selectAll();
-    });
-    // Leaves the field first, the window only then.
-    connect(new QShortcut(Qt::Key_Escape, words_, nullptr, nullptr, Qt::WidgetShortcut),
-            &QShortcut::activated, this, [this] {
-                words_->clear();
-                browser_->setFocus();
-            });
+    vlk::joinFindField(words_, browser_);
 }
 
 void HelpViewer::findNext()

@@ -5,6 +5,16 @@
 
 namespace vlk {
 
+namespace {
+
+QVariant alignment(int column)
+{
+    const auto side = column == MessageLogModel::Number ? Qt::AlignRight : Qt::AlignLeft;
+    return int(side | Qt::AlignVCenter);
+}
+
+} // namespace
+
 MessageLogModel::MessageLogModel(int capacity, QObject* parent)
     : QAbstractTableModel(parent), capacity_(std::max(1, capacity))
 {
@@ -55,7 +65,7 @@ QVariant MessageLogModel::data(const QModelIndex& index, int role) const
         return cell(message, index.column());
     if (role == directionRole)
         return int(message.direction);
-    return {};
+    return role == Qt::TextAlignmentRole ? alignment(index.column()) : QVariant();
 }
 
 QVariant MessageLogModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -64,7 +74,7 @@ QVariant MessageLogModel::headerData(int section, Qt::Orientation orientation, i
                                                       "wb_log_name", "wb_log_parameters"};
     if (orientation == Qt::Horizontal && role == Qt::DisplayRole)
         return vlk::text(keys[section]);
-    return {};
+    return role == Qt::TextAlignmentRole ? alignment(section) : QVariant();
 }
 
 QString MessageLogModel::line(int row) const

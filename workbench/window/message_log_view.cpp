@@ -1,6 +1,9 @@
 #include "window/message_log_view.h"
 
 #include "base/whole_file.h"
+#include "typing/empty_note.h"
+#include "typing/table_look.h"
+#include "window/find_field.h"
 #include "window/line_icon.h"
 #include "window/message_log_filter.h"
 #include "window/message_log_model.h"
@@ -50,7 +53,12 @@ MessageLogView::MessageLogView(MessageLogModel* model, QWidget* parent)
     }
     connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &MessageLogView::showCount);
-    showCount();
+    vlk::joinFindField(words_, table_);
+    connect(empty_, &EmptyNote::pressed, this, [this] {
+        words_->clear();
+        directions_->setCurrentIndex(0);
+    });
+    texts_.bind([this] { showCount(); });
 }
 
 void MessageLogView::buildBar()
@@ -104,20 +112,12 @@ void MessageLogView::buildTable()
     table_->setObjectName(QStringLiteral("tableView_Log"));
     table_->setModel(filter_);
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table_->setAlternatingRowColors(true);
-    table_->setShowGrid(false);
-    table_->setWordWrap(false);
-    table_->setTabKeyNavigation(false);
-    table_->verticalHeader()->hide();
-    table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
-    table_->horizontalHeader()->setHighlightSections(false);
+    vlk::dressTable(table_, TableUse::read);
+    empty_ = new EmptyNote(table_);
     table_->horizontalHeader()->setStretchLastSection(true);
-    table_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    const char* const samples[] = {"00:00:00.000 ", "⇄ m", "00000 m", "TachographFileRequest "};
+    const char* const samples[] = {"00:00:00.000", "⇄ m", "00000 m", "TachographFileRequest"};
     for (int column = 0; column < MessageLogModel::Parameters; ++column)
-        table_->setColumnWidth(column,
-                               fontMetrics().horizontalAdvance(QString::fromUtf8(samples[column])) + 16);
+        table_->setColumnWidth(column, vlk::cellWidth(*table_, QString::fromUtf8(samples[column])));
     connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &MessageLogView::showDetails);
     connect(filter_, &QAbstractItemModel::rowsInserted, this, [this] {
@@ -153,6 +153,10 @@ void MessageLogView::applyFilter()
 
 void MessageLogView::showCount()
 {
+    if (model_->rowCount() == 0)
+        empty_->tell(vlk::text("wb_log_empty"));
+    else
+        empty_->tell(vlk::text("wb_nothing_matches"), vlk::text("wb_clear_filter"));
     count_->setText(countText(filter_->rowCount()));
     const int selected = table_->selectionModel()->selectedRows().size();
     const int taken = selected < 2 ? filter_->rowCount() : selected;

@@ -16,6 +16,7 @@ class QToolButton;
 
 namespace vlk {
 
+class EmptyNote;
 class MessageLogFilter;
 class MessageLogModel;
 
@@ -50,6 +51,7 @@ private:
     QLineEdit* words_;
     QComboBox* directions_;
     QTableView* table_;
+    EmptyNote* empty_ = nullptr;
     QPlainTextEdit* details_;
     QLabel* count_;
     QToolButton* copy_ = nullptr;

@@ -1,5 +1,6 @@
 #include "window/recent_files.h"
 
+#include "typing/empty_note.h"
 #include "window/short_file_name.h"
 #include "window/stored_file.h"
 
@@ -66,6 +67,8 @@ RecentFiles::RecentFiles(Settings& settings, QWidget* parent)
     });
     connect(list_, &QListWidget::customContextMenuRequested, this, &RecentFiles::offerWindows);
 
+    auto* empty = new EmptyNote(list_);
+    texts_.bind([empty] { empty->tell(vlk::text("wb_recent_none")); });
     auto* hint = texts_.bind(new QLabel(this), "wb_drop_hint");
     hint->setWordWrap(true);
     auto* layout = new QVBoxLayout(this);

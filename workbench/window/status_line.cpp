@@ -31,31 +31,42 @@ protected:
 
 } // namespace
 
-StatusLine::StatusLine(QStatusBar* bar) : QObject(bar), label_(new ElidedLabel(bar))
+StatusLine::StatusLine(QStatusBar* bar, const std::function<QString()>& lasting)
+    : QObject(bar), lasting_(lasting), time_(new QLabel(bar)), label_(new ElidedLabel(bar)),
+      lastingLabel_(new QLabel(bar))
 {
+    time_->setObjectName(QStringLiteral("label_StatusTime"));
+    lastingLabel_->setObjectName(QStringLiteral("label_StatusLasting"));
     label_->setObjectName(QStringLiteral("label_Status"));
     label_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     label_->setTextFormat(Qt::PlainText);
     bar->setSizeGripEnabled(false);
+    // As far from the edges as the words of the window above.
+    bar->setContentsMargins(6, 0, 6, 0);
+    bar->addWidget(time_);
     bar->addWidget(label_, 1);
-    retranslate();
+    bar->addPermanentWidget(lastingLabel_);
 }
 
 void StatusLine::tell(Topic topic, const std::function<QString()>& text)
 {
     clear(topic);
-    held_.push_back({topic, text});
-    retranslate();
+    held_.push_back({topic, text, QTime::currentTime()});
+    refresh();
 }
 
 void StatusLine::clear(Topic topic)
 {
     std::erase_if(held_, [topic](const Held& held) { return held.topic == topic; });
-    retranslate();
+    refresh();
 }
 
-void StatusLine::retranslate()
+void StatusLine::refresh()
 {
+    time_->setHidden(held_.empty());
+    if (!held_.empty())
+        time_->setText(held_.back().time.toString(QStringLiteral("HH:mm:ss")));
+    lastingLabel_->setText(lasting_());
     const QString text = held_.empty() ? vlk::text("wb_ready") : held_.back().text();
     label_->setText(QString(text).replace(QLatin1Char('\n'), QLatin1Char(' ')));
     label_->setToolTip(held_.empty() ? QString() : text);

@@ -1,11 +1,12 @@
 #pragma once
 
-// The line at the foot of the main window: what holds now, the newest first, one sentence a topic. When its
-// cause is gone the topic is cleared, and what held before shows again; without any topic the line says
-// that all is ready.
+// The line at the foot of the main window. Left what was told last, with its time, one sentence a topic: when
+// its cause is gone the topic is cleared, and what was told before shows again; without any topic the line
+// says that all is ready. Right what lasts.
 
 #include <QObject>
 #include <QString>
+#include <QTime>
 
 #include <functional>
 #include <vector>
@@ -26,21 +27,26 @@ public:
         Link,    // what the tracker's answers are like
     };
 
-    explicit StatusLine(QStatusBar* bar);
+    // What lasts is asked for at every refresh().
+    StatusLine(QStatusBar* bar, const std::function<QString()>& lasting);
 
     // The text is asked for again when the language changes.
     void tell(Topic topic, const std::function<QString()>& text);
     void clear(Topic topic);
-    void retranslate();
+    void refresh();
 
 private:
     struct Held
     {
         Topic topic;
         std::function<QString()> text;
+        QTime time;
     };
 
+    std::function<QString()> lasting_;
+    QLabel* time_;
     QLabel* label_;
+    QLabel* lastingLabel_;
     std::vector<Held> held_; // the newest last
 };
 

@@ -2,7 +2,10 @@
 
 #include "tracker/configuration_values.h"
 #include "tracker/simulated_tracker.h"
+#include "typing/empty_note.h"
+#include "typing/table_look.h"
 #include "window/faults_panel.h"
+#include "window/find_field.h"
 #include "window/tank_panel.h"
 
 #include <QCheckBox>
@@ -94,14 +97,12 @@ QWidget* TrackerPanel::buildKeys()
     keys_->setObjectName(QStringLiteral("tableWidget_Keys"));
     keys_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     keys_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    keys_->setAlternatingRowColors(true);
-    keys_->setShowGrid(false);
-    keys_->setWordWrap(false);
-    keys_->setTabKeyNavigation(false);
-    keys_->verticalHeader()->hide();
-    keys_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
-    keys_->horizontalHeader()->setHighlightSections(false);
-    keys_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    vlk::dressTable(keys_, TableUse::read);
+    vlk::elideInTheMiddle(keys_, 0);
+    empty_ = new EmptyNote(keys_);
+    texts_.bind([this] { empty_->tell(vlk::text("wb_nothing_matches"), vlk::text("wb_clear_filter")); });
+    connect(empty_, &EmptyNote::pressed, filter_, &QLineEdit::clear);
+    vlk::joinFindField(filter_, keys_);
     keys_->horizontalHeader()->setStretchLastSection(true);
     keys_->setColumnWidth(0, fontMetrics().averageCharWidth() * 26);
 
@@ -131,6 +132,7 @@ void TrackerPanel::filterKeys()
                            keys_->item(row, 1)->text().contains(wanted, Qt::CaseInsensitive);
         keys_->setRowHidden(row, !shown);
     }
+    empty_->refresh();
 }
 
 void TrackerPanel::retranslate()

@@ -17,6 +17,7 @@ class SimulatedTracker;
 
 namespace vlk {
 
+class EmptyNote;
 class FaultsPanel;
 
 class TrackerPanel : public QWidget
@@ -40,6 +41,7 @@ private:
     QComboBox* protocol_;
     QLineEdit* filter_;
     QTableWidget* keys_;
+    EmptyNote* empty_ = nullptr;
 };
 
 } // namespace vlk

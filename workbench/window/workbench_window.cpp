@@ -1,5 +1,6 @@
 #include "window/workbench_window.h"
 
+#include "typing/group_titles.h"
 #include "window/command_bars.h"
 #include "window/data_folder.h"
 #include "window/device_panel.h"
@@ -45,8 +46,9 @@ constexpr QSize usualSize(1024, 600);
 WorkbenchWindow::WorkbenchWindow(const DataFolder& folder, Settings& settings, Languages& languages)
     : folder_(folder), settings_(settings), languages_(languages), session_(folder.trackerFolder()),
       windows_(this), commands_(this), helpPages_(vlk::sharedFolder(QStringLiteral("help"))),
-      status_(new StatusLine(statusBar())), device_(new DevicePanel(session_, this)),
-      recent_(new RecentFiles(settings, this)), opener_(new FileOpener(session_, settings, *recent_, this)),
+      status_(new StatusLine(statusBar(), [this] { return lasting(); })),
+      device_(new DevicePanel(session_, this)), recent_(new RecentFiles(settings, this)),
+      opener_(new FileOpener(session_, settings, *recent_, this)),
       bars_(new CommandBars(this, commands_, settings, languages, recent_->menu())),
       splitter_(new QSplitter(this)), tabs_(new QTabWidget(this)), logView_(new MessageLogView(&log_, this)),
       reportView_(new WriteReportView(this)), trackerPanel_(new TrackerPanel(session_.tracker(), this))
@@ -94,6 +96,7 @@ void WorkbenchWindow::buildPanels()
     auto* frameLayout = new QVBoxLayout(frame);
     frameLayout->addWidget(splitter_);
     setCentralWidget(frame);
+    vlk::dressGroups(frame);
 }
 
 void WorkbenchWindow::connectCommands()
@@ -200,6 +203,15 @@ void WorkbenchWindow::updateCommands()
         commands_[command]->setEnabled(loaded && attached);
     commands_[Command::Cable]->setChecked(attached);
     bars_->setLanguagesOffered(!isConfigurationOpen());
+    status_->refresh();
+}
+
+QString WorkbenchWindow::lasting()
+{
+    const tracker::SimulatedTracker& tracker = session_.tracker();
+    const QString unit = tracker.attached() ? tracker.model() + QLatin1Char(' ') + tracker.text2()
+                                            : vlk::text("wb_device_detached");
+    return QStringLiteral("%1  |  %2").arg(unit, vlk::text(DevicePanel::modeKey(settings_.mode())));
 }
 
 bool WorkbenchWindow::isConfigurationOpen() const
@@ -251,6 +263,7 @@ void WorkbenchWindow::setMode(int mode)
     settings_.setMode(mode);
     device_->setMode(mode);
     session_.link().setMode(mode);
+    status_->refresh();
 }
 
 void WorkbenchWindow::setLanguage(const QString& code)
@@ -341,7 +354,7 @@ void WorkbenchWindow::retranslate()
     texts_.apply();
     commands_.retranslate();
     bars_->retranslate();
-    status_->retranslate();
+    status_->refresh();
     device_->retranslate();
     recent_->retranslate();
     logView_->retranslate();

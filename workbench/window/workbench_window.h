@@ -72,6 +72,8 @@ private:
     void connectNotices();
     void retranslate();
     void restoreLayout();
+    // What the status line says all the time.
+    QString lasting();
 
     // The result of a command that opens a window: empty, or why it did not.
     void tellOpened(const QString& failure);

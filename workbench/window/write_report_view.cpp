@@ -1,5 +1,8 @@
 #include "window/write_report_view.h"
 
+#include "typing/empty_note.h"
+#include "typing/field_mark.h"
+#include "typing/table_look.h"
 #include "window/line_icon.h"
 #include "window/scrolling.h"
 #include "window/write_report_text.h"
@@ -10,7 +13,6 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
-#include <QStyle>
 #include <QTableView>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -38,18 +40,15 @@ WriteReportView::WriteReportView(QWidget* parent)
     table_->setObjectName(QStringLiteral("tableView_Report"));
     table_->setModel(&model_);
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table_->setAlternatingRowColors(true);
-    table_->setShowGrid(false);
-    table_->setWordWrap(false);
-    table_->setTabKeyNavigation(false);
-    table_->verticalHeader()->hide();
-    table_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
-    table_->horizontalHeader()->setHighlightSections(false);
-    table_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    vlk::dressTable(table_, TableUse::read);
+    vlk::elideInTheMiddle(table_, WriteReportModel::Key);
     table_->horizontalHeader()->setStretchLastSection(true);
     table_->setColumnWidth(WriteReportModel::Kind, fontMetrics().averageCharWidth() * 11);
     table_->setColumnWidth(WriteReportModel::Key, fontMetrics().averageCharWidth() * 25);
     table_->setColumnWidth(WriteReportModel::Before, fontMetrics().averageCharWidth() * 23);
+
+    auto* empty = new EmptyNote(table_);
+    texts_.bind([empty] { empty->tell(vlk::text("wb_report_none")); });
 
     auto* line = new QHBoxLayout;
     line->addWidget(symbol_);
@@ -76,14 +75,12 @@ void WriteReportView::showSummary()
     const bool any = time_.isValid();
     copy_->setEnabled(any);
     symbol_->setVisible(any);
-    if (!any) {
-        summary_->setText(vlk::text("wb_report_none"));
+    summary_->setVisible(any);
+    if (!any)
         return;
-    }
     const bool asTyped = report_.accepted && typed_.isEmpty();
-    const auto picture = asTyped ? QStyle::SP_DialogApplyButton : QStyle::SP_MessageBoxWarning;
-    const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    symbol_->setPixmap(style()->standardIcon(picture).pixmap(side, side));
+    const Mark mark = asTyped ? Mark::right : Mark::advice;
+    symbol_->setPixmap(vlk::markPixmap(mark, palette(), vlk::markSize, devicePixelRatioF()));
     summary_->setText(QStringLiteral("%1 %2").arg(time_.toString(QStringLiteral("HH:mm:ss")),
                                                   vlk::summary(report_, typed_)));
 }

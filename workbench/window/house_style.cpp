@@ -1,0 +1,46 @@
+#include "window/house_style.h"
+
+#include "typing/field_mark.h"
+#include "window/line_icon.h"
+
+#include <QApplication>
+#include <QWidget>
+
+namespace vlk {
+
+void HouseStyle::setUp()
+{
+    const QString base = QApplication::style()->objectName();
+    auto* style = new HouseStyle(base);
+    // For those that make another style like the application's.
+    style->setObjectName(base);
+    QApplication::setStyle(style);
+}
+
+QIcon HouseStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const
+{
+    const QPalette& palette = widget ? widget->palette() : QApplication::palette();
+    const qreal ratio = widget ? widget->devicePixelRatioF() : 1;
+    const int side = pixelMetric(PM_MessageBoxIconSize, option, widget);
+    switch (icon) {
+    case SP_MessageBoxWarning:
+        return markPixmap(Mark::advice, palette, side, ratio);
+    case SP_MessageBoxCritical:
+        return markPixmap(Mark::invalid, palette, side, ratio);
+    case SP_MessageBoxInformation:
+        return lineIcon(QStringLiteral("about"));
+    case SP_MessageBoxQuestion:
+        return lineIcon(QStringLiteral("help"));
+    default:
+        return QProxyStyle::standardIcon(icon, option, widget);
+    }
+}
+
+int HouseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                          QStyleHintReturn* result) const
+{
+    return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0
+                                                       : QProxyStyle::styleHint(hint, option, widget, result);
+}
+
+} // namespace vlk
