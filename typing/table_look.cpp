@@ -8,7 +8,6 @@
 #include <QProxyStyle>
 #include <QShortcut>
 #include <QStyleFactory>
-#include <QStyleOption>
 #include <QStyledItemDelegate>
 #include <QTableView>
 #include <QToolTip>
@@ -82,13 +81,9 @@ public:
         setParent(parent);
     }
 
-    QRect subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const override
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override
     {
-        const QRect rect = QProxyStyle::subElementRect(element, option, widget);
-        if (element != SE_HeaderLabel)
-            return rect;
-        const QRect inner = option->rect.adjusted(kCellPadding, 0, -kCellPadding, 0);
-        return rect.intersected(inner);
+        return metric == PM_HeaderMargin ? kCellPadding : QProxyStyle::pixelMetric(metric, option, widget);
     }
 };
 

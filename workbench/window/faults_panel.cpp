@@ -1,6 +1,7 @@
 #include "window/faults_panel.h"
 
 #include "tracker/simulated_tracker.h"
+#include "typing/group_titles.h"
 #include "typing/number_entry.h"
 
 #include <QCheckBox>
@@ -47,6 +48,7 @@ FaultsPanel::FaultsPanel(SimulatedTracker& tracker, QWidget* parent)
             [this] { tracker_.attached() ? tracker_.detach() : tracker_.attach(); });
 
     auto* faults = texts_.bind(new QGroupBox(this), "wb_faults");
+    vlk::dressGroup(faults);
     auto* list = new QVBoxLayout(faults);
     for (const FaultRow& row : rows)
         addFault(list, row.name, row.key, row.fault);

@@ -73,7 +73,7 @@ void WriteReportView::setReport(const tracker::WriteReport& report, const QStrin
 void WriteReportView::showSummary()
 {
     const bool any = time_.isValid();
-    copy_->setEnabled(any);
+    copy_->setVisible(any);
     symbol_->setVisible(any);
     summary_->setVisible(any);
     if (!any)

@@ -5,7 +5,7 @@
 VLK_Form_Tmi_F3_Tab::VLK_Form_Tmi_F3_Tab(const char* titleKey, QWidget* parent)
     : QWidget(parent), titleKey_(titleKey), sideBySide_(new QHBoxLayout), layout_(new QVBoxLayout(this))
 {
-    layout_->setContentsMargins(4, 4, 4, 4);
+    layout_->setContentsMargins(3, 4, 3, 4);
     layout_->addLayout(sideBySide_);
     layout_->addStretch();
 }
@@ -69,7 +69,7 @@ VLK_Form_Tmi_F3_Tab::Columns VLK_Form_Tmi_F3_Tab::placed(int columns) const
 int VLK_Form_Tmi_F3_Tab::neededWidth(const Columns& columns) const
 {
     const QMargins margins = layout_->contentsMargins();
-    int width = margins.left() + margins.right();
+    int width = margins.left() + margins.right() - sideBySide_->spacing();
     for (const std::vector<QWidget*>& column : columns) {
         int widest = 0;
         for (const QWidget* box : column) {

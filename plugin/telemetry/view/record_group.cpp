@@ -18,7 +18,7 @@ namespace {
 constexpr int kLeastCharacters = 12;
 constexpr int kMostCharacters = 24;
 constexpr int kListSpacing = 8;
-constexpr int kTableSpacing = 14;
+constexpr int kTableSpacing = 10;
 constexpr int kColumnsOfList = 4; // caption, title, value, room
 
 QString translated(const char* key)

@@ -22,8 +22,8 @@ constexpr int kWidth = 1024;
 constexpr int kHeight = 680;
 constexpr int kWidestColumn = 260;
 constexpr int kHeadingLines = 2;
-constexpr int kCellPadding = 6;
-constexpr int kSamples = 8; // rows spread over the file that a column is measured by
+constexpr int kHeadPadding = 12; // above and below together
+constexpr int kSamples = 8;      // rows spread over the file that a column is measured by
 
 // Of a heading that is broken at its blanks into the lines that there are.
 int headingWidth(const QString& heading, const QFontMetrics& metrics)
@@ -56,7 +56,7 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
     table_->verticalHeader()->show();
     table_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     QHeaderView* const headings = table_->horizontalHeader();
-    headings->setMinimumHeight(kHeadingLines * fontMetrics().lineSpacing() + kCellPadding);
+    headings->setMinimumHeight(kHeadingLines * fontMetrics().lineSpacing() + kHeadPadding);
     headings->setSortIndicator(-1, Qt::AscendingOrder);
     table_->setSortingEnabled(true);
     table_->verticalHeader()->setHighlightSections(false);

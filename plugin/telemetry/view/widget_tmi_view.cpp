@@ -5,6 +5,7 @@
 #include "link/device.h"
 #include "link/requests.h"
 #include "telemetry/text/key_text.h"
+#include "telemetry/view/absent_value.h"
 #include "telemetry/view/event_panel.h"
 #include "telemetry/view/tmi_view_texts.h"
 #include "typing/group_titles.h"
@@ -45,6 +46,10 @@ VLK_Widget_Tmi_View::VLK_Widget_Tmi_View(QWidget* parent)
     for (QWidget* value : {static_cast<QWidget*>(ui_->lineEdit_TM), static_cast<QWidget*>(ui_->lineEdit_RFID),
                            static_cast<QWidget*>(ui_->spinBox_RFID)})
         showAsPresent(value);
+    // Before the first answer.
+    ui_->lineEdit_TM->setPlaceholderText(kAbsentMark);
+    ui_->lineEdit_RFID->setPlaceholderText(kAbsentMark);
+    ui_->spinBox_RFID->setSpecialValueText(kAbsentMark);
     connectControls();
     keepOnScreen(this);
     connect(eventPanel_, &vlk::EventPanel::signal_OperatingMode, this, &VLK_Widget_Tmi_View::setGuardButtons);
