@@ -184,15 +184,17 @@ void VLK_Form_TMI_Fuel_Sensors::orderTabs(const uchar* record)
         if (!tabs)
             continue;
         int place = 0;
+        bool showsSilent = false;
         for (const bool speaks : {true, false}) {
             forEachForm([&](VLK_Form_Fuel_Sensor& form, int sensor) {
                 if (groupOf(sensor) != group || (liveValue(record, sensor) != 0) != speaks)
                     return;
+                showsSilent = showsSilent || (!speaks && tabs->currentWidget() == &form);
                 tabs->tabBar()->moveTab(tabs->indexOf(&form), place);
                 form.setTabIndex(place++);
             });
         }
-        if (!hasRows())
+        if (showsSilent && !hasRows())
             tabs->setCurrentIndex(0);
     }
     slot_currentChanged_FuelType(ui_->tabWidget->currentIndex());

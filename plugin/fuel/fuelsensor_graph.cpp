@@ -182,7 +182,8 @@ void VLK_FuelSensor_Graph::drawRoundLines(QPainter& painter, const Axes& axes) c
         const QPoint to = from + QPoint(size.width(), 0);
         line(from, to);
         const int base = to.y() + metrics.ascent() / 2 - 1;
-        if (base > written)
+        // At the top stands the last number of the volumes.
+        if (base > written || base - metrics.ascent() < axes.corner.y() - size.height())
             return;
         painter.drawText(to.x() + 4, base, text);
         written = base - metrics.ascent();

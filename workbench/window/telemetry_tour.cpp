@@ -117,6 +117,7 @@ void extraPackets(vlk::Tour& tour)
     vlk::Tour::expect(live::page() == QLatin1String("page_ZetaExt"),
                       QStringLiteral("the tag's record is no packet"));
     tour.picture(QStringLiteral("telemetry-packet.png"), live::window());
+    live::showFunctions();
     live::ask(tour, "pushButton_Get_Current_Touch");
     tour.picture(QStringLiteral("telemetry-packet-key.png"), live::window());
 }
