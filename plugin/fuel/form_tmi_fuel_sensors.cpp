@@ -13,11 +13,9 @@
 #include "windows/vlk_tabwidget.h"
 
 #include <QShortcut>
-#include <QTabBar>
 #include <QtEndian>
 
 #include <chrono>
-#include <utility>
 
 using namespace vlk;
 
@@ -35,11 +33,6 @@ QString formatted(const char* format, const char* key, const QString& sensor = {
 int groupOf(int sensor)
 {
     return fuelGroupOf(fuelSensors[sensor].name[0]);
-}
-
-int liveValue(const uchar* record, int sensor)
-{
-    return qFromLittleEndian<quint16>(record + fuelSensors[sensor].liveAt);
 }
 
 } // namespace
@@ -160,7 +153,6 @@ void VLK_Form_TMI_Fuel_Sensors::openWindow(const QString& title)
         form->setFocus();
     requests::analog();
     unsavedCount_ = 0;
-    isOrdered_ = false;
     offerKeptTables();
     slot_currentChanged_FuelType(ui_->tabWidget->currentIndex());
 }
@@ -169,35 +161,11 @@ void VLK_Form_TMI_Fuel_Sensors::onLiveRecord(const uchar* record)
 {
     if (!record || isHidden())
         return;
-    if (!std::exchange(isOrdered_, true))
-        orderTabs(record);
-    forEachForm(
-        [record](VLK_Form_Fuel_Sensor& form, int sensor) { form.setLiveValue(liveValue(record, sensor)); });
+    forEachForm([record](VLK_Form_Fuel_Sensor& form, int sensor) {
+        form.setLiveValue(qFromLittleEndian<quint16>(record + fuelSensors[sensor].liveAt));
+    });
     timer_.start();
     old_.start();
-}
-
-void VLK_Form_TMI_Fuel_Sensors::orderTabs(const uchar* record)
-{
-    for (int group = 0; group < fuelGroupCount; ++group) {
-        QTabWidget* tabs = groups_[group];
-        if (!tabs)
-            continue;
-        int place = 0;
-        bool showsSilent = false;
-        for (const bool speaks : {true, false}) {
-            forEachForm([&](VLK_Form_Fuel_Sensor& form, int sensor) {
-                if (groupOf(sensor) != group || (liveValue(record, sensor) != 0) != speaks)
-                    return;
-                showsSilent = showsSilent || (!speaks && tabs->currentWidget() == &form);
-                tabs->tabBar()->moveTab(tabs->indexOf(&form), place);
-                form.setTabIndex(place++);
-            });
-        }
-        if (showsSilent && !hasRows())
-            tabs->setCurrentIndex(0);
-    }
-    slot_currentChanged_FuelType(ui_->tabWidget->currentIndex());
 }
 
 void VLK_Form_TMI_Fuel_Sensors::clearLiveValues()

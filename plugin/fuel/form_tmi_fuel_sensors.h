@@ -64,9 +64,6 @@ private Q_SLOTS:
 
 private:
     void buildTabs();
-    // Sensors that say nothing stand behind those that do. Once an opening, before there is anything to look
-    // for.
-    void orderTabs(const uchar* record);
     template <class Act>
     void forEachForm(Act act) const
     {
@@ -109,5 +106,4 @@ private:
     QTimer timer_;
     QTimer old_; // runs until the live values are too old
     int unsavedCount_ = 0;
-    bool isOrdered_ = false;
 };

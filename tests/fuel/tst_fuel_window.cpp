@@ -79,23 +79,6 @@ private Q_SLOTS:
         QVERIFY(fuel_.window->screen()->availableGeometry().contains(fuel_.window->geometry()));
     }
 
-    // Sensors that say nothing stand behind those that do; the window shows one that does.
-    void ordersTabs()
-    {
-        show("D1");
-        QByteArray record = liveRecord();
-        record.replace(25, 2, QByteArray(2, '\0')); // D1
-        host.send(Message::AnalogRecord, record.constData());
-        const auto* tabs = qobject_cast<QTabWidget*>(fuel_.child<QTabWidget>("tabWidget")->widget(1));
-        QCOMPARE(tabs->tabText(0), QString("tmiw_124 RS-485 D2"));
-        QCOMPARE(tabs->tabText(5), QString("tmiw_124 RS-485 D1"));
-        QCOMPARE(tabs->currentIndex(), 0);
-        QVERIFY(form("D2")->isVisible());
-        // Later answers move nothing.
-        host.send(Message::AnalogRecord, liveRecord().constData());
-        QCOMPARE(tabs->tabText(5), QString("tmiw_124 RS-485 D1"));
-    }
-
     // Question, answer, two seconds, question: until the window closes.
     void asksInAChain()
     {

@@ -21,6 +21,7 @@ const QString kPart = QStringLiteral("part.xml");
 
 void setPeriod(const QDateTime& first, const QDateTime& last)
 {
+    live::showFunctions();
     vlk::Tour::find<QDateTimeEdit>("dateTimeEdit_First")->setDateTime(first);
     vlk::Tour::find<QDateTimeEdit>("dateTimeEdit_Last")->setDateTime(last);
 }
@@ -32,7 +33,7 @@ QDateTime timeOnShow()
     QDateTime time =
         QDateTime::fromString(live::textOf("label_Event_DateTime_Value").left(format.size()), format);
     vlk::Tour::expect(time.isValid(), QStringLiteral("the event panel shows no time"));
-    time.setTimeSpec(vlk::Tour::find<QDateTimeEdit>("dateTimeEdit_First")->dateTime().timeSpec());
+    time.setTimeSpec(vlk::Tour::find<QDateTimeEdit>("dateTimeEdit_Show")->dateTime().timeSpec());
     return time;
 }
 
@@ -61,7 +62,6 @@ void savePeriod(vlk::Tour& tour)
 {
     tour.window().setLanguage(QStringLiteral("en"));
     live::open(tour);
-    live::showFunctions();
     // Two records that follow each other; packets between them have lines of another number in some forms.
     const auto isRecord = [] { return live::page() == QLatin1String("page_Zeta3"); };
     QDateTime last;

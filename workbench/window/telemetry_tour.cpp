@@ -124,6 +124,7 @@ void extraPackets(vlk::Tour& tour)
 
 void tachograph(vlk::Tour& tour)
 {
+    live::showFunctions();
     vlk::Tour::press("pushButton_Taho");
     auto* answer = vlk::Tour::find<QTextEdit>("textEdit_Quest");
     QWidget* dialog = answer->window();
