@@ -12,12 +12,6 @@ struct Colours
     QRgb window, base, alternate, button, text, link, highlight, highlightedText;
 };
 
-QColor between(const QColor& one, const QColor& other)
-{
-    return {(one.red() + other.red()) / 2, (one.green() + other.green()) / 2,
-            (one.blue() + other.blue()) / 2};
-}
-
 QPalette paletteOf(const Colours& colours)
 {
     const QColor window(colours.window);
@@ -43,6 +37,12 @@ QPalette paletteOf(const Colours& colours)
 }
 
 } // namespace
+
+QColor between(const QColor& one, const QColor& other)
+{
+    return {(one.red() + other.red()) / 2, (one.green() + other.green()) / 2,
+            (one.blue() + other.blue()) / 2};
+}
 
 void apply(Appearance appearance)
 {

@@ -1,6 +1,7 @@
 #include "window/house_style.h"
 
 #include "typing/field_mark.h"
+#include "window/appearance.h"
 #include "window/line_icon.h"
 
 #include <QApplication>
@@ -15,6 +16,15 @@ void HouseStyle::setUp()
     // For those that make another style like the application's.
     style->setObjectName(base);
     QApplication::setStyle(style);
+}
+
+void HouseStyle::polish(QPalette& palette)
+{
+    QProxyStyle::polish(palette);
+    for (const auto& [text, below] : {std::pair(QPalette::WindowText, QPalette::Window),
+                                      {QPalette::Text, QPalette::Window},
+                                      {QPalette::ButtonText, QPalette::Button}})
+        palette.setColor(QPalette::Disabled, text, between(palette.color(text), palette.color(below)));
 }
 
 QIcon HouseStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const
