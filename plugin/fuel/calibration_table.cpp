@@ -8,28 +8,12 @@
 
 #include <QHeaderView>
 #include <QSignalBlocker>
-#include <QStyledItemDelegate>
 
 namespace vlk {
 
 namespace {
 
 constexpr int kColumnWidths[] = {95, 95, 20};
-
-// Boxes that can be seen in a dark table too: styles draw them in a shade of the window.
-class MarkDelegate : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
-    {
-        QStyledItemDelegate::initStyleOption(option, index);
-        if (option->palette.color(QPalette::Window).lightness() < 128)
-            option->palette.setColor(QPalette::Window, option->palette.color(QPalette::Text));
-    }
-};
 
 // The columns have a width of their own, so captions may have to be written smaller.
 QFont fittingFont(const QFont& font, const vlk::FuelCaptions& captions)
@@ -58,7 +42,6 @@ CalibrationTable::CalibrationTable(QWidget* parent) : QTableWidget(0, ColumnCoun
     for (int column = 0; column < ColumnCount; ++column)
         setColumnWidth(column, kColumnWidths[column]);
     setSelectionMode(NoSelection);
-    setItemDelegateForColumn(Marked, new MarkDelegate(this));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setItemDelegateForColumn(Volume,
                              new VLK_FuelSensor_Delegate(volumeLimit.top, volumeLimit.decimals, this));

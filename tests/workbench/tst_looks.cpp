@@ -3,8 +3,7 @@
 
 #include "opened_workbench.h"
 #include "support/data_table.h"
-#include "typing/table_look.h"
-#include "window/faults_window.h"
+#include "support/files.h"
 #include "window/folders_dialog.h"
 #include "window/house_style.h"
 
@@ -141,9 +140,35 @@ private Q_SLOTS:
         click(telemetry, "pushButton_FuelSensor");
         QWidget* calibration = windowOf("VLK_Form_TMI_Fuel_Sensors");
         QCOMPARE(look(calibration), QString());
+        const QByteArray page =
+            "<Page type=\"176\" ver=\"30\" format=\"111\">\n<NumPage>1</NumPage>\n</Page>\n";
+        const QString file =
+            writeFile(bench.root.filePath("one.xml"),
+                      "<?xml version=\"1.0\"?>\n<TMI model=\"R-7106\">\n" + page + "</TMI>\n");
+        bench.window.openFile(file, vlk::TelemetryWindow::Browser);
+        QCOMPARE(look(windowOf("VLK_Widget_Tmi_Page")), QString());
+        bench.window.openFile(file, vlk::TelemetryWindow::Table);
+        QCOMPARE(look(windowOf("VLK_Widget_Tmi_Table")), QString());
         click(telemetry, "pushButton_Get_Current_RFID");
         QTRY_COMPARE(telemetry->findChild<QStackedWidget*>("stackedWidget")->currentIndex(), 4);
         QCOMPARE(look(telemetry), QString());
+    }
+
+    void presentValuesAndDisabledText()
+    {
+        OpenedWorkbench bench;
+        QVERIFY(bench.start(VLK_PLUGIN));
+        bench.action("action_Telemetry")->trigger();
+        QWidget* telemetry = windowOf("VLK_Widget_Tmi_View");
+        const auto* key = telemetry->findChild<QLineEdit*>("lineEdit_TM");
+        QVERIFY(!key->hasFrame() && (key->focusPolicy() & Qt::TabFocus) == 0);
+        QCOMPARE(key->font().weight(), int(QFont::DemiBold));
+        const auto light = [telemetry](QPalette::ColorRole role) {
+            const QColor colour = telemetry->palette().color(QPalette::Disabled, role);
+            return 0.05 + std::pow(colour.lightnessF(), 2.2);
+        };
+        const double contrast = light(QPalette::Window) / light(QPalette::WindowText);
+        QVERIFY2(contrast > 3, qPrintable(QString::number(contrast)));
     }
 
     void emptyListsHelp()

@@ -5,6 +5,8 @@
 #include "window/line_icon.h"
 
 #include <QApplication>
+#include <QPainter>
+#include <QStyleOption>
 #include <QWidget>
 
 namespace vlk {
@@ -44,6 +46,25 @@ QIcon HouseStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, 
     default:
         return QProxyStyle::standardIcon(icon, option, widget);
     }
+}
+
+void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const
+{
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    constexpr int kDark = 128;
+    const bool isRound = element == PE_IndicatorRadioButton;
+    if ((element != PE_IndicatorCheckBox && !isRound) ||
+        option->palette.color(QPalette::Window).lightness() >= kDark)
+        return;
+    const QRectF outline = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(
+        between(option->palette.color(QPalette::WindowText), option->palette.color(QPalette::Window)));
+    painter->setBrush(Qt::NoBrush);
+    isRound ? painter->drawEllipse(outline) : painter->drawRect(outline);
+    painter->restore();
 }
 
 int HouseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

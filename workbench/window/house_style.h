@@ -1,8 +1,8 @@
 #pragma once
 
 // What the workbench changes of the system's style, for the windows of the plug-in too: message boxes have
-// the marks and line icons of all other windows, buttons of dialogs have words alone, and disabled text can
-// be read.
+// the marks and line icons of all other windows, buttons of dialogs have words alone, disabled text can be
+// read, and boxes to tick can be seen in dark windows.
 
 #include <QProxyStyle>
 
@@ -19,6 +19,8 @@ public:
     using QProxyStyle::polish;
     void polish(QPalette& palette) override;
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* result) const override;
 
