@@ -66,6 +66,7 @@ VLK_Form_TMI_ZetaExt::VLK_Form_TMI_ZetaExt(vlk::EventPanel* panel, QWidget* pare
     treeWidget_->setObjectName(QStringLiteral("treeWidget"));
     treeWidget_->setColumnCount(2);
     dressTable(treeWidget_);
+    treeWidget_->header()->setDefaultAlignment(Qt::AlignCenter);
     treeWidget_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
 
     auto* layout = new QVBoxLayout(this);
@@ -78,8 +79,11 @@ void VLK_Form_TMI_ZetaExt::fill(const TmiPage_Zeta3& page)
 {
     rows_.fill(page);
     treeWidget_->clear();
-    page.extra().forEachEntry(
-        [this](const ExtraEntry& entry) { new QTreeWidgetItem(treeWidget_, columns(entry)); });
+    page.extra().forEachEntry([this](const ExtraEntry& entry) {
+        auto* row = new QTreeWidgetItem(treeWidget_, columns(entry));
+        for (int column = 0; column < treeWidget_->columnCount(); ++column)
+            row->setTextAlignment(column, Qt::AlignCenter);
+    });
 }
 
 void VLK_Form_TMI_ZetaExt::setUtcOffset(int seconds)
