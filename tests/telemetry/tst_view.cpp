@@ -125,7 +125,8 @@ private Q_SLOTS:
         window->resize(1024, 720);
         press("pushButton_Func");
         QVERIFY(functions->isVisible() && child<QWidget>("stackedWidget")->isVisible());
-        press("pushButton_Func");
+        QTest::keyClick(window, Qt::Key_Escape);
+        QVERIFY(!functions->isVisible() && window->isVisible());
     }
 
     void records_data()

@@ -2,7 +2,7 @@
 
 #include "ui_VLK_Designer_Widget_Tmi_View.h"
 
-#include <QEvent>
+#include <QKeyEvent>
 
 namespace vlk {
 
@@ -41,9 +41,14 @@ void FunctionsPlace::open(bool open)
 
 bool FunctionsPlace::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Resize && !ui_.frame_Btn_Func->isHidden()) {
+    if (ui_.frame_Btn_Func->isHidden())
+        return QObject::eventFilter(watched, event);
+    if (event->type() == QEvent::Resize) {
         arrange();
         ui_.stackedWidget->setHidden(takesPlace_);
+    } else if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        open(false);
+        return true;
     }
     return QObject::eventFilter(watched, event);
 }

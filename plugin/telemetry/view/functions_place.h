@@ -1,7 +1,7 @@
 #pragma once
 
 // Where the functions of the telemetry view stand when they are opened: below the record, or, in a window
-// that has no room for both, in the place of the record's tabs.
+// that has no room for both, in the place of the record's tabs. Esc closes them before it closes the window.
 
 #include <QObject>
 
