@@ -123,7 +123,8 @@ void ZonedTimes::describe()
         return;
     }
     const auto text = [&choice](const QDateTime& utc) {
-        return utc.addSecs(choice->zone * kSecondsPerHour).toString(QStringLiteral("dd.MM.yyyy HH:mm:ss"));
+        return utc.addSecs(qint64{choice->zone} * kSecondsPerHour)
+            .toString(QStringLiteral("dd.MM.yyyy HH:mm:ss"));
     };
     const QString zone =
         choice->zone == 0 ? QString()
