@@ -1,37 +1,48 @@
 #include "typing/present_value.h"
 
-#include <QAbstractSpinBox>
+#include "typing/kept_palette.h"
+
+#include <QDoubleSpinBox>
 #include <QLineEdit>
 
 namespace vlk {
 
-namespace {
-
-void setPaper(QWidget* field, bool paper)
-{
-    QPalette palette;
-    // Whatever the colour below is, now and later.
-    if (!paper)
-        palette.setColor(QPalette::Base, Qt::transparent);
-    field->setPalette(palette);
-    field->setFocusPolicy(paper ? Qt::StrongFocus : Qt::ClickFocus);
-}
-
-} // namespace
-
-void showAsPresent(QWidget* value, bool present)
+void standOut(QWidget* value, bool present)
 {
     QFont font = value->font();
     font.setWeight(present ? QFont::DemiBold : QFont::Normal);
     value->setFont(font);
-    if (auto* line = qobject_cast<QLineEdit*>(value)) {
+    auto* line = qobject_cast<QLineEdit*>(value);
+    auto* box = qobject_cast<QAbstractSpinBox*>(value);
+    if (line)
         line->setFrame(!present);
-        setPaper(line, !present);
-    } else if (auto* box = qobject_cast<QAbstractSpinBox*>(value)) {
+    if (box) {
         box->setFrame(!present);
-        box->setButtonSymbols(QAbstractSpinBox::NoButtons);
-        setPaper(box, !present);
+        box->setReadOnly(present);
+        box->setButtonSymbols(present ? QAbstractSpinBox::NoButtons : QAbstractSpinBox::UpDownArrows);
     }
+    if (line || box)
+        value->setFocusPolicy(present ? Qt::ClickFocus : Qt::StrongFocus);
+}
+
+void showAsPresent(QWidget* value, bool present)
+{
+    standOut(value, present);
+    if (!value->inherits("QLineEdit") && !value->inherits("QAbstractSpinBox"))
+        return;
+    value->setPalette(present ? ofPresentValue(value->palette()) : QPalette());
+}
+
+void showPresentValue(QDoubleSpinBox* box, double value)
+{
+    box->setSpecialValueText(QString());
+    box->setValue(value);
+}
+
+void showNoPresentValue(QDoubleSpinBox* box)
+{
+    box->setValue(box->minimum());
+    box->setSpecialValueText(QStringLiteral("–"));
 }
 
 } // namespace vlk

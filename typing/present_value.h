@@ -3,12 +3,20 @@
 // A value that somebody else sets, in a field or a label: it stands out from its caption, and does not look
 // as if it could be typed over.
 
+class QDoubleSpinBox;
 class QWidget;
 
 namespace vlk {
 
-// DemiBold; a field loses its frame, its arrows, the colour of paper and its Tab stop, and keeps its name and
-// its class. Without `present` a line is one to type into again.
+// DemiBold; a field loses its frame, its arrows and its Tab stop, and keeps its name, its class and its
+// colours, which may tell something.
+void standOut(QWidget* value, bool present = true);
+// The same, and a field has the colour of the window around it, no paler where it is disabled. Without
+// `present` a line is one to type into again.
 void showAsPresent(QWidget* value, bool present = true);
+
+// A measured value, or a dash before the first one; the box holds its least value meanwhile.
+void showPresentValue(QDoubleSpinBox* box, double value);
+void showNoPresentValue(QDoubleSpinBox* box);
 
 } // namespace vlk

@@ -8,7 +8,7 @@
 #include "link/device.h"
 #include "link/requests.h"
 #include "windows/fit_to_screen.h"
-#include "windows/kept_palette.h"
+#include "typing/kept_palette.h"
 #include "xml/xml_document.h"
 
 #include <QFileInfo>

@@ -9,7 +9,7 @@
 #include "link/requests.h"
 #include "typing/notice_bar.h"
 #include "windows/fit_to_screen.h"
-#include "windows/path_icon.h"
+#include "typing/line_icon.h"
 #include "windows/vlk_tabwidget.h"
 
 #include <QShortcut>
@@ -80,7 +80,7 @@ VLK_Form_TMI_Fuel_Sensors::~VLK_Form_TMI_Fuel_Sensors() = default;
 
 void VLK_Form_TMI_Fuel_Sensors::buildTabs()
 {
-    const QIcon icon = pathIcon(LinePath::Plus);
+    const QIcon icon = lineIcon(LineIcon::plus);
     for (int i = 0; i < fuelSensorCount; ++i) {
         if (!fuelSensors[i].fitted)
             continue;

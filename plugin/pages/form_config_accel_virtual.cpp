@@ -5,9 +5,10 @@
 #include "link/messages.h"
 #include "settings/accel_settings.h"
 #include "settings/value_text.h"
+#include "typing/present_value.h"
 #include "windows/disabled_reason.h"
 #include "windows/numbered_widget.h"
-#include "windows/present_value.h"
+#include "windows/page_style.h"
 #include "windows/wnd_config_full.h"
 
 #include <QLineEdit>
@@ -84,8 +85,10 @@ VLK_Form_Config_Accel_Virtual::Sensor VLK_Form_Config_Accel_Virtual::makeSensor(
                         vlk::numberedWidget<QLineEdit>("lineEdit_CurLevel_SH%1", number)};
     sensor.levelSlider->setPageStep(kScales[index].levelPage);
     sensor.present->setRange(0, kScales[index].presentEnd);
-    vlk::dressPresentValue(sensor.presentText);
-    vlk::dressPresentValue(sensor.present);
+    sensor.presentText->setReadOnly(true);
+    vlk::standOut(sensor.presentText);
+    vlk::setPageStyle(sensor.present);
+    sensor.present->setFocusPolicy(Qt::NoFocus);
     connect(sensor.presentText, &QLineEdit::textChanged, this,
             [this, number](const QString& text) { slot_textChanged_LineEdit_CurLevel_SH(number, text); });
 

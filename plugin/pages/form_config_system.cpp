@@ -5,7 +5,7 @@
 #include "settings/system_settings.h"
 #include "windows/disabled_reason.h"
 #include "windows/page_style.h"
-#include "windows/present_value.h"
+#include "typing/present_value.h"
 #include "windows/wnd_config_full.h"
 #include "windows/zone_colors.h"
 
@@ -21,7 +21,7 @@ VLK_Form_Config_System::VLK_Form_Config_System(QWidget* parent)
         slider->setColorLow(vlk::kTriggerColor);
         slider->setColorHigh(vlk::kRestoreColor);
     }
-    vlk::dressPresentValue(ui_->doubleSpinBox_TuningCur);
+    vlk::showAsPresent(ui_->doubleSpinBox_TuningCur);
     vlk::tellWhyDisabled(ui_->pushButton_TuningCur, "cfgt6_450");
     using This = VLK_Form_Config_System;
     connect(ui_->pushButton_TuningCur, &QPushButton::clicked, this, &This::slot_pressed_Btn_TuningCur);

@@ -5,7 +5,7 @@
 #include "settings/lines_in_settings.h"
 #include "windows/binder/page_settings.h"
 #include "windows/needed_height.h"
-#include "windows/present_value.h"
+#include "typing/present_value.h"
 #include "windows/zone_colors.h"
 
 #include <QEvent>
@@ -49,7 +49,7 @@ VLK_Form_Lines_In_Settings::VLK_Form_Lines_In_Settings(QWidget* parent)
     connect(ui_->pushButton_TAHO_ThldBand, &QPushButton::clicked, this,
             &This::slot_pressed_Btn_TAHO_ThldBand);
     for (QDoubleSpinBox* box : presentValues())
-        vlk::dressPresentValue(box);
+        vlk::showAsPresent(box);
     retranslate();
     setUse(QStringLiteral("NU"));
 }

@@ -4,7 +4,7 @@
 
 #include "pages/operator_rows.h"
 #include "settings/transfer_settings.h"
-#include "windows/line_icon.h"
+#include "typing/line_icon.h"
 
 #include <QHeaderView>
 

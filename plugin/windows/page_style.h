@@ -5,7 +5,7 @@
 // beside their words, and a slider that shows a measured value is a bar. It is set on the single widgets;
 // whatever else they do is the application's own style.
 
-#include <QProxyStyle>
+#include "typing/title_style.h"
 
 #include <memory>
 
@@ -14,7 +14,7 @@ class QWidget;
 
 namespace vlk {
 
-class PageStyle : public QProxyStyle
+class PageStyle : public TitleStyle
 {
     Q_OBJECT
 
@@ -24,25 +24,18 @@ public:
 
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget = nullptr) const override;
-    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
-                       const QWidget* widget = nullptr) const override;
-    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
-                         const QWidget* widget = nullptr) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                            const QWidget* widget = nullptr) const override;
     QIcon standardIcon(StandardPixmap which, const QStyleOption* option = nullptr,
                        const QWidget* widget = nullptr) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option = nullptr,
                     const QWidget* widget = nullptr) const override;
-
-private:
-    using QProxyStyle::QProxyStyle;
 };
 
 // The style lives as long as the widget.
 void setPageStyle(QWidget* widget);
 
-// To be called before the box is shown: its icon is a drawing of lines.
+// To be called before the box is shown: it shows the mark of the house.
 void dressMessageBox(QMessageBox& box);
 
 // A group that stands in another one.

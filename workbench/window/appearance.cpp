@@ -1,5 +1,7 @@
 #include "window/appearance.h"
 
+#include "typing/kept_palette.h"
+
 #include <QApplication>
 #include <QPalette>
 
@@ -29,20 +31,12 @@ QPalette paletteOf(const Colours& colours)
     palette.setColor(QPalette::HighlightedText, colours.highlightedText);
     const QColor pale = between(text, window);
     palette.setColor(QPalette::PlaceholderText, pale);
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, pale);
     palette.setColor(QPalette::Disabled, QPalette::Base, window);
     palette.setColor(QPalette::Disabled, QPalette::Highlight, pale);
-    return palette;
+    return withReadableDisabledText(palette);
 }
 
 } // namespace
-
-QColor between(const QColor& one, const QColor& other)
-{
-    return {(one.red() + other.red()) / 2, (one.green() + other.green()) / 2,
-            (one.blue() + other.blue()) / 2};
-}
 
 void apply(Appearance appearance)
 {

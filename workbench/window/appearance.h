@@ -11,7 +11,4 @@ enum class Appearance { System = 0, Light = 1, Dark = 2 };
 // For all windows of the program, those of the plug-in too, that are open and that come.
 void apply(Appearance appearance);
 
-// Halfway: of disabled text, between the text and what it stands on.
-QColor between(const QColor& one, const QColor& other);
-
 } // namespace vlk

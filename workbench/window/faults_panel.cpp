@@ -1,7 +1,7 @@
 #include "window/faults_panel.h"
 
 #include "tracker/simulated_tracker.h"
-#include "typing/group_titles.h"
+#include "typing/title_style.h"
 #include "typing/number_entry.h"
 
 #include <QCheckBox>

@@ -1,11 +1,11 @@
 #include "window/house_style.h"
 
 #include "typing/field_mark.h"
-#include "window/appearance.h"
+#include "typing/kept_palette.h"
+#include "typing/title_style.h"
 #include "window/line_icon.h"
 
 #include <QApplication>
-#include <QPainter>
 #include <QStyleOption>
 #include <QWidget>
 
@@ -23,10 +23,7 @@ void HouseStyle::setUp()
 void HouseStyle::polish(QPalette& palette)
 {
     QProxyStyle::polish(palette);
-    for (const auto& [text, below] : {std::pair(QPalette::WindowText, QPalette::Window),
-                                      {QPalette::Text, QPalette::Window},
-                                      {QPalette::ButtonText, QPalette::Button}})
-        palette.setColor(QPalette::Disabled, text, between(palette.color(text), palette.color(below)));
+    palette = withReadableDisabledText(palette);
 }
 
 QIcon HouseStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const
@@ -52,19 +49,7 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
                                const QWidget* widget) const
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
-    constexpr int kDark = 128;
-    const bool isRound = element == PE_IndicatorRadioButton;
-    if ((element != PE_IndicatorCheckBox && !isRound) ||
-        option->palette.color(QPalette::Window).lightness() >= kDark)
-        return;
-    const QRectF outline = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(
-        between(option->palette.color(QPalette::WindowText), option->palette.color(QPalette::Window)));
-    painter->setBrush(Qt::NoBrush);
-    isRound ? painter->drawEllipse(outline) : painter->drawRect(outline);
-    painter->restore();
+    outlineOnDark(element, *option, *painter);
 }
 
 int HouseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

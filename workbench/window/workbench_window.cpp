@@ -1,6 +1,6 @@
 #include "window/workbench_window.h"
 
-#include "typing/group_titles.h"
+#include "typing/title_style.h"
 #include "window/command_bars.h"
 #include "window/data_folder.h"
 #include "window/device_panel.h"

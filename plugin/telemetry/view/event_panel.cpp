@@ -5,7 +5,7 @@
 #include "telemetry/view/item_display.h"
 #include "telemetry/view/value_label.h"
 #include "telemetry/view/value_rows.h"
-#include "typing/group_titles.h"
+#include "typing/title_style.h"
 
 #include <QGridLayout>
 #include <QGroupBox>

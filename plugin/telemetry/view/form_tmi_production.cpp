@@ -7,7 +7,7 @@
 #include "telemetry/view/position_rows.h"
 #include "telemetry/view/value_label.h"
 #include "telemetry/view/value_width.h"
-#include "typing/group_titles.h"
+#include "typing/title_style.h"
 
 #include <QGridLayout>
 #include <QGroupBox>

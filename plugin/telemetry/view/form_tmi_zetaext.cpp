@@ -1,7 +1,7 @@
 #include "telemetry/view/form_tmi_zetaext.h"
 
 #include "telemetry/text/key_text.h"
-#include "typing/group_titles.h"
+#include "typing/title_style.h"
 #include "typing/table_look.h"
 
 #include <QGroupBox>

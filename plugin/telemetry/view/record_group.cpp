@@ -4,7 +4,7 @@
 #include "telemetry/view/item_display.h"
 #include "telemetry/view/value_label.h"
 #include "telemetry/view/value_width.h"
-#include "typing/group_titles.h"
+#include "typing/title_style.h"
 #include "typing/present_value.h"
 
 #include <QCoreApplication>

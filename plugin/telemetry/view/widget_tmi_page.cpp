@@ -11,7 +11,7 @@
 #include "typing/notice_bar.h"
 #include "typing/typed_entry.h"
 #include "windows/fit_to_screen.h"
-#include "windows/path_icon.h"
+#include "typing/line_icon.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -56,8 +56,8 @@ VLK_Widget_Tmi_Page::VLK_Widget_Tmi_Page(QWidget* parent)
     ui_->pushButton_Go->hide();
     ui_->label_NoRecord->hide();
     // The texts of the two buttons are numbers; arrows tell where they lead.
-    ui_->pushButton_Begin->setIcon(pathIcon(LinePath::Begin));
-    ui_->pushButton_End->setIcon(pathIcon(LinePath::End));
+    ui_->pushButton_Begin->setIcon(lineIcon(LineIcon::begin));
+    ui_->pushButton_End->setIcon(lineIcon(LineIcon::end));
     connectControls();
     vlk::keepOnScreen(this);
     stack_.showNothing();

@@ -8,7 +8,7 @@
 #include "telemetry/view/absent_value.h"
 #include "telemetry/view/event_panel.h"
 #include "telemetry/view/tmi_view_texts.h"
-#include "typing/group_titles.h"
+#include "typing/title_style.h"
 #include "typing/notice_bar.h"
 #include "typing/present_value.h"
 #include "windows/fit_to_screen.h"

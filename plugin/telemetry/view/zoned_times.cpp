@@ -4,7 +4,7 @@
 
 #include "base/clock.h"
 #include "link/device.h"
-#include "windows/path_icon.h"
+#include "typing/line_icon.h"
 
 #include <QDir>
 #include <QSettings>
@@ -35,7 +35,7 @@ ZonedTimes::ZonedTimes(const Ui::VLK_Designer_Widget_Tmi_View& ui) : ui_(ui)
         // Already shifted by the zone; the machine's own must not shift it again.
         edit->setTimeSpec(Qt::UTC);
     }
-    ui_.toolButton_LastPeriod->setIcon(pathIcon(LinePath::Back));
+    ui_.toolButton_LastPeriod->setIcon(lineIcon(LineIcon::back));
     connect(ui_.toolButton_LastPeriod, &QToolButton::clicked, this, &ZonedTimes::callBack);
 }
 

@@ -10,6 +10,8 @@ namespace vlk {
 
 void keepPalette(QWidget* widget, QPalette (*change)(QPalette));
 
+QColor between(const QColor& one, const QColor& other);
+
 // Disabled text that can still be read: halfway between the text and what it stands on, whatever the style
 // makes of it.
 QPalette withReadableDisabledText(QPalette palette);

@@ -6,13 +6,15 @@
 
 namespace vlk {
 
-enum class LinePath {
-    Back,  // to an earlier time
-    Begin, // of a row
-    End,
-    Plus,
+enum class LineIcon {
+    back,  // to an earlier time
+    begin, // of a row
+    end,
+    plus,
+    up,
+    down,
 };
 
-QIcon pathIcon(LinePath path);
+QIcon lineIcon(LineIcon which);
 
 } // namespace vlk

@@ -1,4 +1,4 @@
-#include "windows/path_icon.h"
+#include "typing/line_icon.h"
 
 #include <QGuiApplication>
 #include <QIconEngine>
@@ -13,7 +13,7 @@ namespace {
 constexpr int kGrid = 24;
 constexpr int kStroke = 2;
 
-QPainterPath drawing(LinePath icon)
+QPainterPath drawing(LineIcon icon)
 {
     QPainterPath path;
     const auto lines = [&path](std::initializer_list<QPoint> points) {
@@ -22,7 +22,7 @@ QPainterPath drawing(LinePath icon)
             path.lineTo(point);
     };
     switch (icon) {
-    case LinePath::Back: {
+    case LineIcon::back: {
         const QRectF circle(4, 4, 16, 16);
         path.arcMoveTo(circle, 160);
         path.arcTo(circle, 160, -320);
@@ -30,26 +30,34 @@ QPainterPath drawing(LinePath icon)
         lines({{12, 8}, {12, 12}, {15, 14}});
         break;
     }
-    case LinePath::Begin:
+    case LineIcon::begin:
         lines({{6, 5}, {6, 19}});
         lines({{18, 5}, {10, 12}, {18, 19}});
         break;
-    case LinePath::End:
+    case LineIcon::end:
         lines({{18, 5}, {18, 19}});
         lines({{6, 5}, {14, 12}, {6, 19}});
         break;
-    case LinePath::Plus:
+    case LineIcon::plus:
         lines({{12, 5}, {12, 19}});
         lines({{5, 12}, {19, 12}});
+        break;
+    case LineIcon::up:
+        lines({{12, 20}, {12, 4}});
+        lines({{5, 11}, {12, 4}, {19, 11}});
+        break;
+    case LineIcon::down:
+        lines({{12, 4}, {12, 20}});
+        lines({{5, 13}, {12, 20}, {19, 13}});
         break;
     }
     return path;
 }
 
-class PathIconEngine : public QIconEngine
+class LineIconEngine : public QIconEngine
 {
 public:
-    explicit PathIconEngine(const QPainterPath& path) : path_(path) {}
+    explicit LineIconEngine(const QPainterPath& path) : path_(path) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State /*state*/) override
     {
@@ -73,7 +81,7 @@ public:
         return pixmap;
     }
 
-    QIconEngine* clone() const override { return new PathIconEngine(path_); }
+    QIconEngine* clone() const override { return new LineIconEngine(path_); }
 
 private:
     QPainterPath path_;
@@ -81,9 +89,9 @@ private:
 
 } // namespace
 
-QIcon pathIcon(LinePath path)
+QIcon lineIcon(LineIcon which)
 {
-    return QIcon(new PathIconEngine(drawing(path)));
+    return QIcon(new LineIconEngine(drawing(which)));
 }
 
 } // namespace vlk

@@ -1,4 +1,4 @@
-#include "windows/kept_palette.h"
+#include "typing/kept_palette.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -9,12 +9,6 @@ namespace vlk {
 namespace {
 
 using Change = QPalette (*)(QPalette);
-
-QColor between(const QColor& one, const QColor& other)
-{
-    return {(one.red() + other.red()) / 2, (one.green() + other.green()) / 2,
-            (one.blue() + other.blue()) / 2};
-}
 
 class PaletteKeeper : public QObject
 {
@@ -39,6 +33,12 @@ private:
 void keepPalette(QWidget* widget, Change change)
 {
     widget->installEventFilter(new PaletteKeeper(widget, change));
+}
+
+QColor between(const QColor& one, const QColor& other)
+{
+    return {(one.red() + other.red()) / 2, (one.green() + other.green()) / 2,
+            (one.blue() + other.blue()) / 2};
 }
 
 QPalette withReadableDisabledText(QPalette palette)

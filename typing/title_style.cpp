@@ -1,0 +1,104 @@
+#include "typing/title_style.h"
+
+#include "typing/kept_palette.h"
+
+#include <QApplication>
+#include <QGroupBox>
+#include <QPainter>
+#include <QStyleFactory>
+#include <QStyleOption>
+
+namespace vlk {
+
+namespace {
+
+// The style itself measures the ink of the letters, which is less than what they take.
+constexpr int kMargin = 4;
+constexpr int kDark = 128; // lightness of a window
+
+QFont titleFont(QFont font)
+{
+    font.setWeight(QFont::DemiBold);
+    return font;
+}
+
+} // namespace
+
+TitleStyle::TitleStyle() : QProxyStyle(QStyleFactory::create(QApplication::style()->objectName())) {}
+
+void TitleStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                    QPainter* painter, const QWidget* widget) const
+{
+    if (control != CC_GroupBox) {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        return;
+    }
+    painter->save();
+    painter->setFont(titleFont(painter->font()));
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    painter->restore();
+}
+
+void TitleStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const
+{
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    outlineOnDark(element, *option, *painter);
+}
+
+QRect TitleStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                                 const QWidget* widget) const
+{
+    const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
+    if (control != CC_GroupBox || !group)
+        return QProxyStyle::subControlRect(control, option, part, widget);
+    QStyleOptionGroupBox titled(*group);
+    titled.fontMetrics = QFontMetrics(titleFont(widget ? widget->font() : QApplication::font()));
+    QRect rect = QProxyStyle::subControlRect(control, &titled, part, widget);
+    if (part == SC_GroupBoxLabel)
+        rect.setWidth(titled.fontMetrics.size(Qt::TextShowMnemonic, titled.text).width() + kMargin);
+    return rect;
+}
+
+QSize TitleStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                                   const QWidget* widget) const
+{
+    const QSize own = QProxyStyle::sizeFromContents(type, option, size, widget);
+    const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
+    if (type != CT_GroupBox || !group)
+        return own;
+    const QRect title = subControlRect(CC_GroupBox, group, SC_GroupBoxLabel, widget);
+    return own.expandedTo({title.width() + kMargin, 0});
+}
+
+void outlineOnDark(QStyle::PrimitiveElement element, const QStyleOption& option, QPainter& painter)
+{
+    const bool isRound = element == QStyle::PE_IndicatorRadioButton;
+    if ((element != QStyle::PE_IndicatorCheckBox && !isRound) ||
+        option.palette.color(QPalette::Window).lightness() >= kDark)
+        return;
+    const QRectF outline = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(
+        between(option.palette.color(QPalette::WindowText), option.palette.color(QPalette::Window)));
+    painter.setBrush(Qt::NoBrush);
+    isRound ? painter.drawEllipse(outline) : painter.drawRect(outline);
+    painter.restore();
+}
+
+void dressGroup(QGroupBox* group)
+{
+    auto* style = new TitleStyle;
+    style->setParent(group);
+    group->setStyle(style);
+}
+
+void dressGroups(QWidget* window)
+{
+    const auto groups = window->findChildren<QGroupBox*>();
+    for (QGroupBox* group : groups)
+        dressGroup(group);
+}
+
+} // namespace vlk

@@ -1,0 +1,38 @@
+#pragma once
+
+// Titles of groups that stand out and are whole, whatever the style measures: in DemiBold, with the room that
+// the letters take in it. Boxes to tick can be seen in dark windows too.
+
+#include <QProxyStyle>
+
+class QGroupBox;
+
+namespace vlk {
+
+// Over a style of its own like that of the application.
+class TitleStyle : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    TitleStyle();
+
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget = nullptr) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget = nullptr) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                         const QWidget* widget = nullptr) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                           const QWidget* widget = nullptr) const override;
+};
+
+// To be called by a style behind its own drawing of a part: outlines a box or a radio button on a dark
+// window.
+void outlineOnDark(QStyle::PrimitiveElement element, const QStyleOption& option, QPainter& painter);
+
+void dressGroup(QGroupBox* group);
+// All that are in the window now.
+void dressGroups(QWidget* window);
+
+} // namespace vlk
