@@ -1334,6 +1334,8 @@
     <message id="tmiw_196"><translation>Tach&amp;ograph</translation></message>
     <message id="tmiw_197"><translation>Ca&amp;ncel</translation></message>
     <message id="tmiw_198"><translation>Further places: %1.</translation></message>
+    <message id="tmiw_200"><translation>Go there</translation></message>
+    <message id="tmiw_201"><translation>Details</translation></message>
     <message id="tmiw_220"><translation>Last zone and period</translation></message>
     <message id="tmiw_221"><translation>Bring back the last zone and period: UTC%1, %2 – %3</translation></message>
     <message id="tmiw_222"><translation>There is no last zone and period yet</translation></message>

@@ -1334,6 +1334,8 @@
     <message id="tmiw_196"><translation>Та&amp;хограф</translation></message>
     <message id="tmiw_197"><translation>Отм&amp;ена</translation></message>
     <message id="tmiw_198"><translation>Других мест: %1.</translation></message>
+    <message id="tmiw_200"><translation>Перейти туда</translation></message>
+    <message id="tmiw_201"><translation>Подробнее</translation></message>
     <message id="tmiw_220"><translation>Прошлый пояс и период</translation></message>
     <message id="tmiw_221"><translation>Вернуть прошлый пояс и период: UTC%1, %2 – %3</translation></message>
     <message id="tmiw_222"><translation>Прошлого пояса и периода ещё нет</translation></message>

@@ -147,6 +147,7 @@ void NoticeBar::refresh()
     const bool hadFocus = isAncestorOf(QApplication::focusWidget());
     while (QLayoutItem* item = buttons_->takeAt(0)) {
         item->widget()->hide();
+        item->widget()->setObjectName({}); // which the next one gets at once
         item->widget()->deleteLater();
         delete item;
     }
