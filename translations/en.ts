@@ -1786,7 +1786,7 @@
     <message id="wb_edited_tracker"><translation>from the tracker</translation></message>
     <message id="wb_edited_unlike"><translation>%1; differences from the tracker: %2</translation></message>
     <message id="wb_edited_written"><translation>%1; changes written: %2</translation></message>
-    <message id="wb_end_save"><translation>&amp;End the save</translation></message>
+    <message id="wb_end_save"><translation>End the save</translation></message>
     <message id="wb_event_001"><translation>Power on</translation></message>
     <message id="wb_event_002"><translation>Point by time</translation></message>
     <message id="wb_event_003"><translation>Point by distance</translation></message>
@@ -2014,9 +2014,14 @@
     <message id="wb_told_empty"><translation>There is nothing to show: %1 holds no record.</translation></message>
     <message id="wb_told_form"><translation>%1 does not begin as a TMI file does.</translation></message>
     <message id="wb_told_fuel"><translation>A calibration table was not read: %1.</translation></message>
+    <message id="wb_told_fuel_large"><translation>The file %1 is too large for a calibration table.</translation></message>
+    <message id="wb_told_fuel_none"><translation>The file %1 holds no calibration table.</translation></message>
+    <message id="wb_told_fuel_rows"><translation>The calibration table was not read: the file holds more rows than a table can have.</translation></message>
     <message id="wb_told_header"><translation>The header of %1 is not what was written: its checksum is wrong.</translation></message>
     <message id="wb_told_missing"><translation>There is nothing to show: there is no file %1.</translation></message>
     <message id="wb_told_more"><translation>Further findings: %1. The message log has all of them.</translation></message>
+    <message id="wb_told_no_document"><translation>The file %1 is no document of this program, or a damaged one.</translation></message>
+    <message id="wb_told_not_made"><translation>The file %1 was not created: %2.</translation></message>
     <message id="wb_told_unreadable"><translation>%1 was not read: %2.</translation></message>
     <message id="wb_toolbar"><translation>Tool bar</translation></message>
     <message id="wb_tracker_filter"><translation>Filter: key, value</translation></message>

@@ -1786,7 +1786,7 @@
     <message id="wb_edited_tracker"><translation>из трекера</translation></message>
     <message id="wb_edited_unlike"><translation>%1; отличий от трекера: %2</translation></message>
     <message id="wb_edited_written"><translation>%1; записано изменений: %2</translation></message>
-    <message id="wb_end_save"><translation>&amp;Прекратить сохранение</translation></message>
+    <message id="wb_end_save"><translation>Прекратить сохранение</translation></message>
     <message id="wb_event_001"><translation>Включение питания</translation></message>
     <message id="wb_event_002"><translation>Точка по времени</translation></message>
     <message id="wb_event_003"><translation>Точка по расстоянию</translation></message>
@@ -1986,7 +1986,7 @@
     <message id="wb_silence_again"><translation>Ответа от трекера нет с %1. Запрос повторяется каждые %2&#160;с; проверьте кабель.</translation></message>
     <message id="wb_silence_command"><translation>Ответа от трекера нет с %1. Выполнил ли он команду, неизвестно. Проверьте кабель.</translation></message>
     <message id="wb_silence_mute"><translation>Ответа от трекера нет с %1. Возможно, таких данных у него нет; если они есть, проверьте кабель и запросите ещё раз.</translation></message>
-    <message id="wb_silence_save"><translation>Ответа от трекера нет с %1. Запрос повторяется каждые %2&#160;с; когда трекер ответит, сохранение продолжится само.</translation></message>
+    <message id="wb_silence_save"><translation>Ответа от трекера нет с %1. Запрос повторяется каждые %2&#160;с; после ответа сохранение продолжится.</translation></message>
     <message id="wb_tab_log"><translation>&amp;Журнал сообщений</translation></message>
     <message id="wb_tab_report"><translation>От&amp;чёт о записи</translation></message>
     <message id="wb_tab_tracker"><translation>И&amp;митатор трекера</translation></message>
@@ -2014,9 +2014,14 @@
     <message id="wb_told_empty"><translation>Показать нечего: в файле %1 нет записей.</translation></message>
     <message id="wb_told_form"><translation>Файл %1 начинается не так, как файл TMI.</translation></message>
     <message id="wb_told_fuel"><translation>Тарировочная таблица не прочитана: %1.</translation></message>
+    <message id="wb_told_fuel_large"><translation>Файл %1 слишком велик для тарировочной таблицы.</translation></message>
+    <message id="wb_told_fuel_none"><translation>В файле %1 нет тарировочной таблицы.</translation></message>
+    <message id="wb_told_fuel_rows"><translation>Тарировочная таблица не прочитана: в файле больше строк, чем может быть в таблице.</translation></message>
     <message id="wb_told_header"><translation>Заголовок файла %1 не такой, каким был записан: его контрольная сумма неверна.</translation></message>
     <message id="wb_told_missing"><translation>Показать нечего: файла %1 нет.</translation></message>
     <message id="wb_told_more"><translation>Ещё замечено: %1. Всё перечислено в журнале сообщений.</translation></message>
+    <message id="wb_told_no_document"><translation>Файл %1 не является документом этой программы или повреждён.</translation></message>
+    <message id="wb_told_not_made"><translation>Файл %1 не создан: %2.</translation></message>
     <message id="wb_told_unreadable"><translation>Файл %1 не прочитан: %2.</translation></message>
     <message id="wb_toolbar"><translation>Панель инструментов</translation></message>
     <message id="wb_tracker_filter"><translation>Фильтр: ключ, значение</translation></message>
