@@ -1982,7 +1982,6 @@
     <message id="wb_saved_part"><translation>Saved in part: %1. It holds %2 of %3 records, until %4.</translation></message>
     <message id="wb_search_bad"><translation>Message %1 from the tracker cannot be right, so how far the search has come is not known. Cancel it, check the cable and search again.</translation></message>
     <message id="wb_settings_damaged"><translation>The settings were damaged and have been put aside; the default values hold.</translation></message>
-    <message id="wb_silence"><translation>No answer from the tracker since %1. Check the cable and ask again.</translation></message>
     <message id="wb_silence_again"><translation>No answer from the tracker since %1. It is asked again every %2&#160;s; check the cable.</translation></message>
     <message id="wb_silence_command"><translation>No answer from the tracker since %1. Whether it has done what was asked is not known. Check the cable.</translation></message>
     <message id="wb_silence_mute"><translation>No answer from the tracker since %1. It may hold nothing of the kind; else check the cable and ask again.</translation></message>

@@ -1982,7 +1982,6 @@
     <message id="wb_saved_part"><translation>Сохранено не целиком: %1. Записей в нём %2 из %3, до %4.</translation></message>
     <message id="wb_search_bad"><translation>Сообщение %1 от трекера неверно, поэтому неизвестно, как идёт поиск. Отмените его, проверьте кабель и начните поиск снова.</translation></message>
     <message id="wb_settings_damaged"><translation>Настройки программы были повреждены и отложены; действуют начальные значения.</translation></message>
-    <message id="wb_silence"><translation>Ответа от трекера нет с %1. Проверьте кабель и запросите ещё раз.</translation></message>
     <message id="wb_silence_again"><translation>Ответа от трекера нет с %1. Запрос повторяется каждые %2&#160;с; проверьте кабель.</translation></message>
     <message id="wb_silence_command"><translation>Ответа от трекера нет с %1. Выполнил ли он команду, неизвестно. Проверьте кабель.</translation></message>
     <message id="wb_silence_mute"><translation>Ответа от трекера нет с %1. Возможно, таких данных у него нет; если они есть, проверьте кабель и запросите ещё раз.</translation></message>

@@ -1,6 +1,7 @@
 #include "window/host_session.h"
 
 #include "base/whole_file.h"
+#include "tracker/bluetooth_search.h"
 #include "window/languages.h"
 #include "window/trouble_text.h"
 
@@ -19,10 +20,6 @@ namespace {
 using tracker::Reading;
 using vlk::sentences;
 using vlk::text;
-
-// Of a search for Bluetooth devices.
-constexpr char btSearchRuns = '0';
-constexpr char btSearchStopped = '3';
 
 // Nothing came, and why; empty when something did.
 QString whyNothingCame(Reading::Outcome outcome)
@@ -75,7 +72,7 @@ void HostSession::tellAttached(bool attached)
     }
     edited_.forgetTracker();
     // A search has no end without an answer.
-    char stopped = btSearchStopped;
+    char stopped = tracker::searchStopped;
     if (std::exchange(isSearching_, false))
         link_.send(vlk::Message::BtSearchStopped, &stopped);
     link_.send(vlk::Message::TrackerDetached);
@@ -183,7 +180,7 @@ void HostSession::followSearch(vlk::Message id, const void* p1)
     else if (id == vlk::Message::BtSearchStopped)
         isSearching_ = false;
     else if (id == vlk::Message::BtSearchEvent && p1 != nullptr)
-        isSearching_ = *static_cast<const char*>(p1) == btSearchRuns;
+        isSearching_ = *static_cast<const char*>(p1) == tracker::searchRuns;
 }
 
 void HostSession::handOver(const Write& write)

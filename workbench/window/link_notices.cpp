@@ -1,5 +1,6 @@
 #include "window/link_notices.h"
 
+#include "tracker/bluetooth_search.h"
 #include "window/host_session.h"
 #include "window/languages.h"
 #include "window/message_box.h"
@@ -10,16 +11,6 @@
 #include "window/trouble_text.h"
 
 namespace vlk {
-
-namespace {
-
-// Of a search for Bluetooth devices; the state is a character.
-bool isSearchState(Message answer)
-{
-    return answer == Message::BtSearchEvent || answer == Message::BtSearchStopped;
-}
-
-} // namespace
 
 LinkNotices::LinkNotices(HostSession& session, PluginWindows& windows, MessageLogModel& log,
                          StatusLine& status, QWidget* mainWindow)
@@ -90,11 +81,11 @@ void LinkNotices::look(vlk::Direction direction, quint32 id, const void* p1)
         damagedOfPeriod_ = 0;
     if (direction == vlk::Direction::ToPlugin && answer == vlk::Message::TrackerDetached)
         tellDetached(std::exchange(isPulled_, false));
-    if (direction == vlk::Direction::ToPlugin && isSearchState(answer) && p1 != nullptr) {
-        const bool isRight = QByteArrayLiteral("0123").contains(*static_cast<const char*>(p1));
-        setTrouble(isRight ? std::function<QString()>()
-                           : [id] { return vlk::text("wb_search_bad").arg(id); });
-    }
+    const bool isOfSearch = answer == vlk::Message::BtSearchEvent || answer == vlk::Message::BtSearchStopped;
+    if (isOfSearch && p1 != nullptr && tracker::isSearchState(*static_cast<const char*>(p1)))
+        setTrouble({});
+    else if (isOfSearch)
+        setTrouble([id] { return vlk::text("wb_search_bad").arg(id); });
     if (direction != vlk::Direction::ToPlugin || !vlk::RecordCheck::carriesRecord(answer) || p1 == nullptr)
         return;
     const QByteArray& bytes = *static_cast<const QByteArray*>(p1);
@@ -132,19 +123,11 @@ void LinkNotices::setTrouble(const std::function<QString()>& trouble)
 
 QString LinkNotices::silence(const QDateTime& since, vlk::Message request)
 {
-    const char* key = "wb_silence";
-    if (const RequestRow* row = vlk::findRequest(request)) {
-        switch (row->effect) {
-        case Effect::Reads:
-            key = session_.link().runningWork().saving ? "wb_silence_save" : "wb_silence_again";
-            break;
-        case Effect::MayBeMute:
-            key = "wb_silence_mute";
-            break;
-        default:
-            key = "wb_silence_command";
-        }
-    }
+    const char* key = "wb_silence_command";
+    if (vlk::hasEffect(request, Effect::Reads))
+        key = session_.link().runningWork().saving ? "wb_silence_save" : "wb_silence_again";
+    else if (vlk::hasEffect(request, Effect::MayBeMute))
+        key = "wb_silence_mute";
     const qint64 seconds = AnswerWatch::patienceMs / 1000;
     return vlk::text(key).arg(vlk::timeOfDay(since), vlk::number(seconds));
 }

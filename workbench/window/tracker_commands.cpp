@@ -58,6 +58,7 @@ bool TrackerCommands::take(Message message, void* p1)
     if (isAnswered_ && message == Message::ClearServerData) {
         isAnswered_ = false;
         cleared_.push_back(command.number);
+        Q_EMIT sent(message);
         requests_.send(message, p1, nullptr);
         return true;
     }
@@ -81,20 +82,21 @@ void TrackerCommands::carryOutNext()
         QMetaObject::invokeMethod(this, &TrackerCommands::carryOutNext, Qt::QueuedConnection);
 }
 
+const char* TrackerCommands::whyNotNow()
+{
+    if (!tracker_.attached())
+        return "wb_command_detached";
+    const RunningWork running = link_.runningWork();
+    if (running.saving != 0)
+        return "wb_command_saving";
+    return running.automatic != 0 ? "wb_command_automatic" : nullptr;
+}
+
 bool TrackerCommands::isAllowed(const QString& question, const char* verb)
 {
-    const RunningWork running = link_.runningWork();
-    const char* reason = nullptr;
-    if (running.saving)
-        reason = "wb_command_saving";
-    else if (running.automatic)
-        reason = "wb_command_automatic";
-    else if (!tracker_.attached())
-        reason = "wb_command_detached";
-    else if (mayDestroy_ && !mayDestroy_(question, vlk::text(verb)))
-        reason = "wb_command_cancelled";
-    else if (!tracker_.attached()) // while the question was open
-        reason = "wb_command_detached";
+    const char* reason = whyNotNow();
+    if (reason == nullptr && mayDestroy_)
+        reason = mayDestroy_(question, vlk::text(verb)) ? whyNotNow() : "wb_command_cancelled";
     if (reason != nullptr)
         Q_EMIT failed(saying(reason));
     return reason == nullptr;

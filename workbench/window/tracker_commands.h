@@ -49,7 +49,9 @@ private:
     void clear(const Command& command);
     void setMileage(const Command& command);
     void switchOutput(const Command& command);
-    // Whether it may be sent now; says why where not.
+    // The key of the text that says it; null where a command that destroys may be sent.
+    const char* whyNotNow();
+    // Asks, and says why it is not to be sent where that is so.
     bool isAllowed(const QString& question, const char* verb);
     // When the tracker had as much time as it takes for an answer.
     void look(const std::function<void(const std::optional<tracker::Present>& present)>& tell);

@@ -25,7 +25,6 @@
 #include <QDir>
 #include <QMessageBox>
 #include <QMimeData>
-#include <QPushButton>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QTabWidget>
@@ -141,7 +140,11 @@ void WorkbenchWindow::connectSession()
     connect(&session_, &HostSession::writeCancelled, this,
             [this] { status_->tell(StatusLine::Command, [] { return vlk::text("wb_write_cancelled"); }); });
     connect(&session_, &HostSession::editedChanged, this, &WorkbenchWindow::showEdited);
-    session_.setReplaceQuestion([this](const QString& file) { return mayReplace(file); });
+    session_.setReplaceQuestion([this](const QString& file) {
+        return vlk::agrees(file.isEmpty() ? vlk::text("wb_replace_question")
+                                          : vlk::text("wb_replace_question_file").arg(file),
+                           vlk::text("wb_replace_write"), QStringLiteral("messageBox_Replace"), this);
+    });
     session_.commands().setQuestion([this](const QString& text, const QString& verb) {
         return vlk::agrees(text, verb, QStringLiteral("messageBox_Command"), this);
     });
@@ -308,13 +311,6 @@ void WorkbenchWindow::showHelp(const QString& page)
     if (!help_)
         help_ = new HelpViewer(helpPages_, languages_.current(), parent);
     help_->showPage(page);
-}
-
-bool WorkbenchWindow::mayReplace(const QString& file)
-{
-    const QString text =
-        file.isEmpty() ? vlk::text("wb_replace_question") : vlk::text("wb_replace_question_file").arg(file);
-    return vlk::agrees(text, vlk::text("wb_replace_write"), QStringLiteral("messageBox_Replace"), this);
 }
 
 void WorkbenchWindow::showReport(const tracker::WriteReport& report)

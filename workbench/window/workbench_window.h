@@ -80,7 +80,6 @@ private:
     void applyFolders();
     void showBalance();
     void about();
-    bool mayReplace(const QString& file);
     bool mayClose();
     void showReport(const tracker::WriteReport& report);
     void showEdited();
