@@ -110,6 +110,7 @@ void LinkNotices::look(vlk::Direction direction, quint32 id, const void* p1)
 void LinkNotices::setTrouble(const std::function<QString()>& trouble)
 {
     trouble_ = trouble;
+    isSaving_ = trouble_ && session_.link().runningWork().saving != 0;
     if (trouble_)
         status_.tell(StatusLine::Link, trouble_);
     else
@@ -125,7 +126,7 @@ QString LinkNotices::silence(const QDateTime& since, vlk::Message request)
 {
     const char* key = "wb_silence_command";
     if (vlk::hasEffect(request, Effect::Reads))
-        key = session_.link().runningWork().saving ? "wb_silence_save" : "wb_silence_again";
+        key = isSaving_ ? "wb_silence_save" : "wb_silence_again";
     else if (vlk::hasEffect(request, Effect::MayBeMute))
         key = "wb_silence_mute";
     const qint64 seconds = AnswerWatch::patienceMs / 1000;
@@ -135,7 +136,7 @@ QString LinkNotices::silence(const QDateTime& since, vlk::Message request)
 vlk::Notice LinkNotices::troubleNotice()
 {
     vlk::Notice notice{vlk::Mark::advice, trouble_(), {}};
-    if (session_.link().runningWork().saving)
+    if (isSaving_)
         notice.actions.push_back({vlk::text("wb_end_save"), [this] { endSave(); }});
     return notice;
 }

@@ -54,6 +54,7 @@ private:
     AnswerWatch watch_;
     FrontNotice front_;
     std::function<QString()> trouble_;
+    bool isSaving_ = false;              // a period, when the trouble came
     bool isPulled_ = false;              // the cable went while the tracker answered
     std::optional<int> damagedOfPeriod_; // none while no period is asked for
 };
