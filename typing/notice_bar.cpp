@@ -83,31 +83,37 @@ void NoticeBar::changeEvent(QEvent* event)
         setCross();
 }
 
-void NoticeBar::tell(int number, const Notice& notice)
+void NoticeBar::put(Told told)
 {
     const auto same = std::find_if(told_.begin(), told_.end(),
-                                   [number](const Told& told) { return told.number == number; });
+                                   [&told](const Told& other) { return other.number == told.number; });
     if (same != told_.end())
-        same->notice = notice;
+        *same = std::move(told);
     else
-        told_.push_back({number, notice});
+        told_.push_back(std::move(told));
     refresh();
+}
+
+void NoticeBar::tell(int number, const Notice& notice)
+{
+    put({number, notice, {}});
+}
+
+void NoticeBar::tell(int number, const std::function<Notice()>& notice)
+{
+    put({number, notice(), notice});
 }
 
 void NoticeBar::tell(const std::function<QString()>& sentence)
 {
-    if (!sentence) {
+    if (sentence)
+        tell(0, [sentence] { return Notice{Mark::advice, sentence(), {}}; });
+    else
         end(0);
-        return;
-    }
-    sentence_ = sentence;
-    tell(0, {Mark::advice, sentence(), {}});
 }
 
 void NoticeBar::end(int number)
 {
-    if (number == 0)
-        sentence_ = {};
     const auto gone = std::remove_if(told_.begin(), told_.end(),
                                      [number](const Told& told) { return told.number == number; });
     if (gone == told_.end())
@@ -120,10 +126,11 @@ void NoticeBar::retranslate()
 {
     close_->setToolTip(tr("wrd_402"));
     close_->setAccessibleName(tr("wrd_402"));
-    if (sentence_)
-        tell(0, {Mark::advice, sentence_(), {}});
-    else
-        refresh();
+    for (Told& told : told_) {
+        if (told.again)
+            told.notice = told.again();
+    }
+    refresh();
 }
 
 const NoticeBar::Told* NoticeBar::worst() const
@@ -140,6 +147,7 @@ void NoticeBar::refresh()
     const bool hadFocus = isAncestorOf(QApplication::focusWidget());
     while (QLayoutItem* item = buttons_->takeAt(0)) {
         item->widget()->hide();
+        item->widget()->setObjectName({}); // which the next one gets at once
         item->widget()->deleteLater();
         delete item;
     }
@@ -153,6 +161,8 @@ void NoticeBar::refresh()
     }
     for (const Notice::Action& action : shown->notice.actions) {
         auto* button = new QPushButton(action.text, this);
+        button->setObjectName(
+            QStringLiteral("%1_Action%2").arg(text_->objectName()).arg(buttons_->count() + 1));
         button->setAutoDefault(false);
         button->setFocusPolicy(Qt::TabFocus);
         connect(button, &QPushButton::clicked, this, [act = action.act] { act(); });

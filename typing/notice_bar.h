@@ -37,14 +37,16 @@ class NoticeBar : public QFrame
     Q_OBJECT
 
 public:
-    // The label of the sentence gets the name, the cross the same with "_Close" behind it.
+    // The label of the sentence gets the name, the cross the same with "_Close" behind it, the buttons with
+    // "_Action1" and "_Action2".
     explicit NoticeBar(QWidget* parent, const QString& name = QStringLiteral("label_Notice"));
 
     // Puts a notice up, in the place of the one that had this number before. It stays until it is ended or
     // the user closes it with the cross.
     void tell(int number, const Notice& notice);
-    // Of a bar that tells one thing: a sentence that is asked for again when the language changes; null takes
-    // it away.
+    // The same with a notice that is asked for again when the language changes.
+    void tell(int number, const std::function<Notice()>& notice);
+    // Of a bar that tells one thing: its sentence, asked for again likewise; null takes it away.
     void tell(const std::function<QString()>& sentence);
     void end(int number);
     void retranslate();
@@ -62,8 +64,10 @@ private:
     {
         int number;
         Notice notice;
+        std::function<Notice()> again; // null where the teller tells again
     };
 
+    void put(Told told);
     // Null when there is none.
     const Told* worst() const;
     void refresh();
@@ -76,7 +80,6 @@ private:
     QLabel* place_;
     QToolButton* close_;
     std::vector<Told> told_;
-    std::function<QString()> sentence_;
     QPointer<QWidget> before_; // had the focus before F6
 };
 

@@ -75,6 +75,7 @@ void VLK_Form_Fuel_View::setSensor(int kind, const QString& name)
 void VLK_Form_Fuel_View::reset()
 {
     form_->clearAll();
+    given_.clear();
     form_->setKindAndName(kind_, name_);
 }
 
@@ -85,6 +86,7 @@ void VLK_Form_Fuel_View::setData(const QString& title, const QMap<double, int>& 
     for (auto entry = table.cbegin(); entry != table.cend(); ++entry)
         rows.push_back({QString::number(entry.key(), 'g', 6), QString::number(entry.value())});
     form_->addRows(rows);
+    getData(given_);
 }
 
 void VLK_Form_Fuel_View::getData(QMap<double, int>& table) const
@@ -122,7 +124,10 @@ void VLK_Form_Fuel_View::slot_pressed_Btn_Accept()
 // Every way of closing but the button comes by here. The dialog always goes.
 void VLK_Form_Fuel_View::reject()
 {
-    if (form_->isDirty() && vlk::agrees(this, tr("cfgt6_038"), "wrd_002"))
+    QMap<double, int> table;
+    getData(table);
+    // An edited cell and a deleted row leave the form as clean as it was.
+    if ((form_->isDirty() || table != given_) && vlk::agrees(this, tr("cfgt6_038"), "wrd_002"))
         Q_EMIT signal_SetNewFuelData();
     QDialog::reject();
 }

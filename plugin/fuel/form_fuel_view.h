@@ -50,6 +50,7 @@ private Q_SLOTS:
 private:
     std::unique_ptr<Ui::VLK_Designer_Form_Fuel_View> ui_;
     VLK_Form_Fuel_Sensor* form_;
+    QMap<double, int> given_; // by the owner
     int kind_;
     QString name_;
 };

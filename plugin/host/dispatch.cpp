@@ -96,6 +96,21 @@ quint64 numberOf(const vlk::IdPair& pair)
     return quint64(pair.high) << 32 | pair.low;
 }
 
+// Fills the record of an extension as far as its own size goes, in whole words.
+template <class Record>
+void fillRecord(void* address, const Record& filled)
+{
+    if (!address)
+        return;
+    constexpr std::uint32_t word = sizeof(std::uint32_t);
+    std::uint32_t size = 0;
+    std::memcpy(&size, address, word);
+    size = std::min<std::uint32_t>(size, sizeof filled) / word * word;
+    if (size > word)
+        std::memcpy(static_cast<char*>(address) + word, reinterpret_cast<const char*>(&filled) + word,
+                    size - word);
+}
+
 using Answers = vlk::TrackerAnswers;
 using View = VLK_Widget_Tmi_View;
 
@@ -190,6 +205,16 @@ constexpr Entry table[] = {
              device.configDialog()->raise();
              device.configDialog()->activateWindow();
          }
+     }},
+    {Message::EndSave,
+     [](VLK_Device_R7106& device, const Parameters& parameters) {
+         if (device.telemetryView())
+             fillRecord(parameters.p1, device.telemetryView()->endSave());
+     }},
+    {Message::GetRunningWork,
+     [](VLK_Device_R7106& device, const Parameters& parameters) {
+         if (device.telemetryView())
+             fillRecord(parameters.p1, device.telemetryView()->runningWork());
      }},
 };
 

@@ -55,6 +55,9 @@ enum class Message : std::uint32_t {
     TachographFileReady = 2355,
     GetBalanceUssd = 2356,
     RaiseConfiguration = 2373,
+    // The same way, extensions
+    EndSave = 7106001,
+    GetRunningWork = 7106002,
 
     // Plug-in to host
     ShowHelp = 2007,
@@ -162,6 +165,28 @@ struct BtDevice
 {
     char name[128]; // NUL-terminated
     char mac[128];  // NUL-terminated
+};
+
+// Extensions begin at 7106001. They go from the host to the plug-in alone, and none is needed: a plug-in that
+// lacks one ignores it and fills nothing, and a host that sends none misses what it does, no more. Each
+// carries a record that begins with its own size, in bytes, as the host knows it. The plug-in fills the words
+// that lie within that size, so that a record may grow at its end; a null address gets nothing filled.
+
+// EndSave: a save of a period that runs ends now, as a cancel would end it with the next record. Whether one
+// ran, and how many records its file got; 0 where none was written.
+struct EndedSave
+{
+    std::uint32_t size = sizeof(EndedSave);
+    std::uint32_t ended = 0;
+    std::uint32_t records = 0;
+};
+
+// GetRunningWork: what asks the tracker by itself, and must not be disturbed. 1 for what runs.
+struct RunningWork
+{
+    std::uint32_t size = sizeof(RunningWork);
+    std::uint32_t saving = 0;
+    std::uint32_t automatic = 0; // automatic requests
 };
 
 // AnalogRecord is a plain byte record of `analogRecordSize` bytes with unsigned 16-bit little-endian values:
@@ -312,6 +337,8 @@ inline constexpr MessageInfo messages[] = {
     detail::in(Message::TachographFileReady, "TachographFileReady", Parameter::ByteAddress),
     detail::in(Message::GetBalanceUssd, "GetBalanceUssd", Parameter::TextBuffer, Parameter::None, true),
     detail::in(Message::RaiseConfiguration, "RaiseConfiguration"),
+    detail::in(Message::EndSave, "EndSave", Parameter::RecordAddress, Parameter::None, true),
+    detail::in(Message::GetRunningWork, "GetRunningWork", Parameter::RecordAddress, Parameter::None, true),
 };
 
 // A plain value in the place of an address, and back. The token of a LibraryInfo becomes the handle likewise.

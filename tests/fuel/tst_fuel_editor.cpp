@@ -149,24 +149,27 @@ private Q_SLOTS:
 
     void givesTheTableToItsOwner_data()
     {
-        DataTable<bool, QString, QString, int>({"dirty", "leave", "answer", "told"})
-            .row("accept", false, "accept", "", 1)
-            .row("accept unsaved", true, "accept", "", 1)
-            .row("close", false, "close", "", 0)
-            .row("close unsaved, yes", true, "close", "wrd_001", 1)
-            .row("close unsaved, no", true, "close", "wrd_002", 0)
-            .row("Escape unsaved, yes", true, "escape", "wrd_001", 1);
+        DataTable<QString, QString, QString, int>({"change", "leave", "answer", "told"})
+            .row("accept", "", "accept", "", 1)
+            .row("accept unsaved", "row", "accept", "", 1)
+            .row("close", "", "close", "", 0)
+            .row("close unsaved, yes", "row", "close", "wrd_001", 1)
+            .row("close unsaved, no", "row", "close", "wrd_002", 0)
+            .row("Escape unsaved, yes", "row", "escape", "wrd_001", 1)
+            .row("Escape, edited cell", "cell", "escape", "wrd_001", 1);
     }
     void givesTheTableToItsOwner()
     {
-        QFETCH(bool, dirty);
+        QFETCH(QString, change);
         QFETCH(QString, leave);
         QFETCH(QString, answer);
         QFETCH(int, told);
         const QSignalSpy spy(dialog_.get(), &VLK_Form_Fuel_View::signal_SetNewFuelData);
         dialog_->setData("t", {{1, 1}});
-        if (dirty)
+        if (change == "row")
             type("20", "8");
+        else if (change == "cell")
+            editCell(0, 0, "3", Qt::Key_Return);
         if (!answer.isEmpty())
             answerBox(answer);
         if (leave == "accept")

@@ -109,6 +109,21 @@ private Q_SLOTS:
         QCOMPARE(names.size(), int(std::size(vlk::messages)));
     }
 
+    // The record says how long it is; a word that does not lie in it whole stays as it was.
+    void extensionsFillWhatIsThere()
+    {
+        host_.send(Message::PrepareTelemetry);
+        for (const Message extension : {Message::EndSave, Message::GetRunningWork}) {
+            for (const quint32 size : {0U, 3U, 4U, 7U, 8U, 11U, 12U, 4000U}) {
+                quint32 record[] = {size, 0x55, 0x55, 0x55};
+                host_.send(extension, record);
+                for (quint32 word = 1; word < 4; ++word)
+                    QCOMPARE(record[word], word < 3 && size >= 4 * word + 4 ? 0U : 0x55U);
+                QCOMPARE(record[0], size);
+            }
+        }
+    }
+
     void balanceCodeFollowsFileAndConnection()
     {
         const QString path = configuration("<?xml version=\"1.0\" encoding=\"windows-1251\"?>"

@@ -261,6 +261,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, content);
         QFETCH(QStringList, numbers);
+        QFETCH(QString, bar);
         const QString path = writeFile(folder_.filePath("telemetry.xml"), content);
         for (const Kind kind : {Browser, Table})
             show(path, kind);
@@ -278,6 +279,13 @@ private Q_SLOTS:
         QCOMPARE(number() + ' ' + text("label_Event_Code_Value"), numbers.first() + " event 3");
         table_->sortByColumn(0, Qt::DescendingOrder);
         QCOMPARE(table_->model()->rowCount(), numbers.size());
+        if (!bar.isEmpty()) {
+            press("label_Damage_Action1");
+            QCOMPARE(number(), numbers[1]);
+            table_->window()->findChild<QAbstractButton*>("label_Damage_Action1")->click();
+            const int row = table_->currentIndex().row();
+            QCOMPARE(table_->model()->headerData(row, Qt::Vertical).toInt(), 1);
+        }
         showPages(numbered({8, 9}));
         QCOMPARE(number() + walkable(), QString("8--xx"));
         QVERIFY(text("label_Damage").isEmpty());

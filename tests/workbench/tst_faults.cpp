@@ -18,7 +18,7 @@ Q_DECLARE_METATYPE(tracker::Protocol)
 
 namespace {
 
-enum Step { Read, Write, Live, Period };
+enum Step { Read, Write, Live, Period, Search, Clear, Mileage, Output };
 
 struct Bench : OpenedWorkbench
 {
@@ -29,7 +29,13 @@ struct Bench : OpenedWorkbench
             QWidget* modal = QApplication::activeModalWidget();
             if (auto* box = qobject_cast<QMessageBox*>(modal)) {
                 boxes.append(box->text());
-                box->close();
+                QAbstractButton* verb = box->buttons().constFirst();
+                for (QAbstractButton* button : box->buttons())
+                    verb = box->buttonRole(button) == QMessageBox::AcceptRole ? button : verb;
+                agrees ? verb->click() : box->reject();
+            } else if (auto* input = qobject_cast<QInputDialog*>(modal)) {
+                input->setDoubleValue(5000);
+                input->accept();
             } else if (auto* dialog = qobject_cast<QFileDialog*>(modal)) {
                 dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(file());
                 QMetaObject::invokeMethod(dialog, "accept");
@@ -67,13 +73,16 @@ struct Bench : OpenedWorkbench
         found->click();
     }
 
-    // What stands on the window of telemetry, at its upper inner edge.
+    // What stands on the window that is looked at, at its upper inner edge, below a bar of its own.
     static QString notice()
     {
-        const auto* bar = telemetry()->findChild<QFrame*>(QStringLiteral("frame_WindowNotice"));
+        QWidget* window = configuration() ? configuration() : telemetry();
+        const auto* bar = window->findChild<QFrame*>(QStringLiteral("frame_WindowNotice"));
         if (!bar || !bar->isVisible())
             return {};
-        const QPoint corner = telemetry()->geometry().topLeft() + QPoint(6, 6);
+        const auto* own = window->findChild<QFrame*>(QStringLiteral("noticeBar"));
+        const int top = own && own->isVisible() ? own->geometry().bottom() + 1 : 0;
+        const QPoint corner = window->geometry().topLeft() + QPoint(6, top + 6);
         return bar->pos() == corner ? bar->findChild<QLabel*>(QStringLiteral("label_WindowNotice"))->text()
                                     : QStringLiteral("out of place");
     }
@@ -81,11 +90,11 @@ struct Bench : OpenedWorkbench
     // What comes before the step, with a sound tracker.
     void prepare(Step step)
     {
-        if (step == Write) {
+        if (step == Write || step == Search)
             action("action_Read")->trigger();
+        if (step == Write)
             configuration()->findChild<QLineEdit*>(QStringLiteral("lineEdit_Name"))->setText(newName);
-        }
-        if (step != Live && step != Period)
+        if (step < Live || step == Search)
             return;
         action("action_Telemetry")->trigger();
         auto* number = telemetry()->findChild<QLabel*>(QStringLiteral("label_Event_NumPage_Value"));
@@ -103,11 +112,50 @@ struct Bench : OpenedWorkbench
             return press(telemetry(), "pushButton_Get_Current");
         case Period:
             return press(telemetry(), "pushButton_SaveToFile");
+        case Search:
+            return press(configuration(), "pushButton_Bt_Find");
+        case Clear:
+            for (const char* server : {"checkBox_Server1", "checkBox_Server3"})
+                telemetry()->findChild<QCheckBox*>(QLatin1String(server))->setChecked(true);
+            return press(telemetry(), "pushButton_Clear");
+        case Mileage:
+            return press(telemetry(), "pushButton_Run");
+        case Output:
+            return press(telemetry(), "pushButton_Out_On");
         }
+    }
+
+    // A period of which some records have come and the others are slow.
+    void beginSave()
+    {
+        prepare(Period);
+        tracker().setFaults({.delayMs = 20});
+        take(Period);
+        const auto* bar = telemetry()->findChild<QProgressBar*>(QStringLiteral("progressBar_Time"));
+        QTRY_VERIFY(bar->value() > 2);
+    }
+    // By the offer of the notice, which comes with silence.
+    void endSave()
+    {
+        tracker().setFaults({.silence = true});
+        QTRY_VERIFY_WITH_TIMEOUT(notice().contains(QLatin1String("the save goes on by itself")), 10'000);
+        press(telemetry(), "label_WindowNotice_Action1");
+        QCOMPARE(notice().contains(QLatin1String("since")), false);
+    }
+
+    // Lines of the log with this in them.
+    int logged(const QString& text)
+    {
+        const auto* log = window.findChild<QTableView*>(QStringLiteral("tableView_Log"))->model();
+        return log
+            ->match(log->index(0, vlk::MessageLogModel::Parameters), Qt::DisplayRole, text, -1,
+                    Qt::MatchContains)
+            .size();
     }
 
     QTimer person;
     QStringList boxes;
+    bool agrees = true; // to what is asked
 };
 
 } // namespace
@@ -141,36 +189,148 @@ private Q_SLOTS:
     }
 
     // How much there is of the period stands in the window of telemetry, in a box and in the status line.
-    void savedInPart_data() { DataTable<bool>({"unplugged"}).row("cancelled", false).row("unplugged", true); }
+    void savedInPart_data()
+    {
+        DataTable<QString> table({"by"});
+        for (const char* by : {"unplugged", "cancelled", "closed", "ended"})
+            table.row(by, QLatin1String(by));
+    }
     void savedInPart()
     {
-        QFETCH(bool, unplugged);
+        QFETCH(QString, by);
         Bench bench;
-        bench.prepare(Period);
+        bench.beginSave();
         QWidget* view = Bench::telemetry();
-        bench.tracker().setFaults({.delayMs = 20});
-        bench.take(Period);
-        QTRY_VERIFY(view->findChild<QProgressBar*>(QStringLiteral("progressBar_Time"))->value() > 2);
-        if (unplugged)
+        if (by == QLatin1String("unplugged"))
             bench.tracker().setFaults({.unplug = true});
-        else
+        else if (by == QLatin1String("cancelled"))
             Bench::press(view, "pushButton_Save_Cancel");
+        else if (by == QLatin1String("closed"))
+            view->close();
+        else
+            bench.endSave();
         static const QRegularExpression held(
             QStringLiteral("\\d+ of [\\d,]+ records, until \\d\\d:\\d\\d:\\d\\d \\d\\d\\.\\d\\d\\.\\d{4} "));
         QTRY_VERIFY2(bench.status().contains(held), qPrintable(bench.everything()));
         QTRY_VERIFY2(bench.boxes.contains(bench.status()), qPrintable(bench.everything()));
         const QString told = bench.status();
+        bench.tracker().setFaults({});
         QVERIFY(told.startsWith(QStringLiteral("Saved in part: ") + bench.file()));
         QVERIFY(!bench.everything().contains(QLatin1String("Saved: ")) && QFile::exists(bench.file()));
         bench.tracker().attach();
         bench.action("action_Telemetry")->trigger();
         auto* line = view->findChild<QLabel*>(QStringLiteral("label_SavedInPart"));
         QVERIFY(line->isVisible() && line->text().endsWith(bench.file()));
+        bench.tracker().setFaults({.shortAnswers = true});
+        bench.take(Live);
+        QTRY_COMPARE(Bench::notice(), bench.status());
+        QVERIFY(bench.status().contains(QLatin1String("cut short")));
         QCOMPARE(held.match(line->text()).captured(), held.match(told).captured());
         bench.window.setLanguage(QStringLiteral("ru"));
         QVERIFY(line->text().startsWith(QStringLiteral("Период сохранён не целиком")));
         Bench::press(view, "label_SavedInPart_Close");
         QVERIFY(!line->isVisible());
+    }
+
+    // What was asked in silence is asked again, and its answer counts once however often it comes.
+    void goesOnByItself()
+    {
+        Bench bench;
+        bench.beginSave();
+        bench.tracker().setFaults({.silence = true});
+        const QString again = QStringLiteral("request 2302 was sent to the tracker again");
+        QTRY_VERIFY_WITH_TIMEOUT(bench.logged(again) > 1, 10'000);
+        bench.tracker().setFaults({.delayMs = vlk::AnswerWatch::patienceMs + 500});
+        QTRY_VERIFY_WITH_TIMEOUT(bench.logged(QStringLiteral("Message 2303 came twice")) > 0, 20'000);
+        bench.tracker().setFaults({});
+        QTRY_VERIFY2_WITH_TIMEOUT(bench.status().startsWith(QLatin1String("Saved: ")),
+                                  qPrintable(bench.everything()), 20'000);
+    }
+
+    // Before there is a file there is nothing to be saved.
+    void endsASaveThatNeverBegan()
+    {
+        Bench bench;
+        bench.prepare(Period);
+        bench.tracker().setFaults({.silence = true});
+        bench.take(Period);
+        bench.endSave();
+        QVERIFY(bench.status().contains(QLatin1String("No record was saved")));
+        QCOMPARE(Bench::notice(), bench.status());
+        QVERIFY(Bench::telemetry()->findChild<QWidget*>(QStringLiteral("groupBox_Btn_Save"))->isEnabled());
+    }
+
+    // One that was not read from the tracker replaces what nobody has seen.
+    void asksBeforeAFileIsWritten()
+    {
+        Bench bench;
+        bench.agrees = false;
+        QFile file(bench.root.filePath(QStringLiteral("van.xml")));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("<DEVICE model=\"R-7106\"/>") > 0);
+        file.close();
+        bench.window.openFile(file.fileName());
+        bench.take(Write);
+        QTRY_VERIFY2(bench.status().contains(QLatin1String("The write was cancelled")),
+                     qPrintable(bench.everything()));
+        QVERIFY(bench.boxes.filter(QStringLiteral("comes from the file van.xml")).size() == 1);
+    }
+
+    void refusesWhatDestroys_data()
+    {
+        DataTable<int, QString>({"during", "said"})
+            .row("a save", Period, "not sent: a period is being saved")
+            .row("automatic requests", Live, "not sent: records are requested automatically")
+            .row("a second thought", Output, "nothing was sent to the tracker");
+    }
+    void refusesWhatDestroys()
+    {
+        QFETCH(int, during);
+        QFETCH(QString, said);
+        Bench bench;
+        bench.agrees = false;
+        if (during == Period)
+            bench.beginSave();
+        else
+            bench.prepare(Live);
+        auto* automatic = Bench::telemetry()->findChild<QCheckBox*>(QStringLiteral("checkBox_Get_Auto_TMI"));
+        automatic->setChecked(during == Live);
+        bench.take(Clear);
+        QTRY_VERIFY2(bench.status().contains(said), qPrintable(bench.everything()));
+        QCOMPARE(Bench::notice(), bench.status());
+        QCOMPARE(bench.boxes.size(), during == Output ? 1 : 0);
+        bench.tracker().setFaults({});
+        QTest::qWait(200);
+        QCOMPARE(bench.logged(QStringLiteral("ClearedRecord")), 0);
+    }
+
+    // The main window, with work undone.
+    void closesOverNoWork_data()
+    {
+        DataTable<int, QString>({"work", "said"})
+            .row("a save", Period, "Closing ends the save")
+            .row("a write that is refused", Write, "not written. The tracker does not answer");
+    }
+    void closesOverNoWork()
+    {
+        QFETCH(int, work);
+        QFETCH(QString, said);
+        Bench bench;
+        bench.agrees = false;
+        if (work == Period) {
+            bench.beginSave();
+        } else {
+            bench.prepare(Write);
+            bench.tracker().setFaults({.silence = true, .delayMs = 60'000});
+            bench.take(Write);
+            Bench::configuration()->close();
+            QTRY_VERIFY(bench.status().contains(QLatin1String("is being written")));
+        }
+        QVERIFY(!bench.window.close() && bench.window.isVisible());
+        QVERIFY2(bench.everything().contains(said), qPrintable(bench.everything()));
+        QVERIFY(work != Period || Bench::telemetry());
+        bench.agrees = true;
+        QVERIFY(bench.window.close() && !Bench::telemetry());
+        QCOMPARE(QFile::exists(bench.file()), work == Period);
     }
 
     void detachedByTheUser()
@@ -196,6 +356,9 @@ private Q_SLOTS:
         const QString written = QStringLiteral("Configuration written");
         const QString closed = QStringLiteral("so its telemetry window was closed");
         const QString silent = QStringLiteral("No answer from the tracker since ");
+        const QString unknown =
+            silent + QStringLiteral("[\\d:]+\\. Whether it has done what was asked is not known");
+        const QString notConfirmed = QStringLiteral("but the tracker did not confirm it");
         // What is said is a regular expression.
         DataTable<int, Faults, QString, bool, bool>({"step", "faults", "said", "open", "diskIsFull"})
             .row("read", Read, none, ready, true, false)
@@ -233,6 +396,34 @@ private Q_SLOTS:
             .row("period, unplugged", Period, unplug, closed, false, false)
             .row("period, delay", Period, delay, "Saved: ", true, false)
             .row("period, bad board", Period, board, "Saved: ", true, false)
+            .row("search", Search, none, ready, true, false)
+            .row("search, silence", Search, silence, unknown, true, false)
+            .row("search, short", Search, shortened, "2262 from the tracker cannot be right", true, false)
+            .row("search, garbled", Search, garbled, "2262 from the tracker cannot be right", true, false)
+            .row("search, unplugged", Search, unplug, "The open window stays, but", true, false)
+            .row("search, delay", Search, delay, ready, true, false)
+            .row("search, late", Search, late, unknown, true, false)
+            .row("clear", Clear, none, "have been cleared. Servers: 1, 3\\.", true, false)
+            .row("clear, silence", Clear, silence, unknown, true, false)
+            .row("clear, short", Clear, shortened, "Servers: 1. Whether the records were cleared", true,
+                 false)
+            .row("clear, garbled", Clear, garbled, "Servers: 1, 3. Whether the records were cleared", true,
+                 false)
+            .row("clear, unplugged", Clear, unplug, closed, false, false)
+            .row("clear, delay", Clear, delay, "have been cleared. Servers: 1, 3\\.", true, false)
+            .row("clear, late", Clear, late, unknown, true, false)
+            .row("mileage", Mileage, none, "Mileage set: 5,000\u00A0km. It was [\\d,]+\u00A0km\\.", true,
+                 false)
+            .row("mileage, silence", Mileage, silence, notConfirmed, true, false)
+            .row("mileage, short", Mileage, shortened, notConfirmed, true, false)
+            .row("mileage, garbled", Mileage, garbled, notConfirmed, true, false)
+            .row("mileage, unplugged", Mileage, unplug, closed, false, false)
+            .row("mileage, delay", Mileage, delay, "Mileage set: 5,000\u00A0km. It was", true, false)
+            .row("output", Output, none, "Output 1 is switched on", true, false)
+            .row("output, silence", Output, silence, notConfirmed, true, false)
+            .row("output, garbled", Output, garbled, notConfirmed, true, false)
+            .row("output, unplugged", Output, unplug, closed, false, false)
+            .row("output, delay", Output, delay, "Output 1 is switched on", true, false)
             .row("period, full disk", Period, none, "period.xml was not saved: ", true, true);
     }
     void everyFaultEndsInATrueSentence()
@@ -259,13 +450,29 @@ private Q_SLOTS:
                    (answered || said != QLatin1String("Ready"));
         };
         QTRY_VERIFY2_WITH_TIMEOUT(isSaid(), qPrintable(bench.everything()), 20'000);
-        if (open && step == Live) {
-            Bench::telemetry()->move(30, 20);
-            QCOMPARE(Bench::notice(), said == QLatin1String("Ready") ? QString() : bench.status());
+        const bool ofConfiguration = step == Read || step == Write || step == Search;
+        QWidget* window = ofConfiguration ? Bench::configuration() : Bench::telemetry();
+        QCOMPARE(window != nullptr, open);
+        if (open && step >= Live && step != Period) {
+            window->move(30, 20);
+            const bool isInBox = bench.boxes.contains(bench.status());
+            for (const char* language : {"ru", "en"}) {
+                bench.window.setLanguage(QLatin1String(language));
+                QTRY_COMPARE(bench.status().contains(QRegularExpression(QStringLiteral("[а-я]"))),
+                             language == QLatin1String("ru"));
+                QCOMPARE(Bench::notice(),
+                         isInBox || said == QLatin1String("Ready") ? QString() : bench.status());
+            }
         }
-        QCOMPARE(step == Read || step == Write ? Bench::configuration() != nullptr
-                                               : Bench::telemetry() != nullptr,
-                 open);
+        if (step == Clear || step == Mileage) {
+            const QString question = step == Clear ? QStringLiteral("The tracker will forget the records")
+                                     : faults.silence || faults.shortAnswers || faults.garbledAnswers
+                                         ? QStringLiteral("could not be read from the tracker. ")
+                                         : QStringLiteral("mileage is ");
+            QCOMPARE(bench.boxes.filter(question).size(), step == Mileage && faults.unplug ? 0 : 1);
+        }
+        if (step == Search && faults.unplug)
+            QVERIFY(window->findChild<QProgressBar*>(QStringLiteral("progressBar_Find"))->isHidden());
         if (said == QLatin1String("Ready"))
             QCOMPARE(bench.boxes, QStringList());
         if (step == Write)
@@ -276,7 +483,8 @@ private Q_SLOTS:
         const QModelIndexList marked =
             log->match(log->index(0, vlk::MessageLogModel::Parameters), Qt::DisplayRole, QStringLiteral("⚠"),
                        1, Qt::MatchStartsWith);
-        QCOMPARE(!marked.isEmpty(), step >= Live && (faults.shortAnswers || faults.garbledAnswers));
+        QCOMPARE(!marked.isEmpty(), (step == Live || step == Period || step == Clear) &&
+                                        (faults.shortAnswers || faults.garbledAnswers));
 
         disk.reset();
         // With the cause goes what was said of it, at the latest with the next answer.

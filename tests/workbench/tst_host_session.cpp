@@ -176,8 +176,10 @@ private Q_SLOTS:
         QVERIFY(bench.start());
         bool answer = false;
         int asked = 0;
-        bench.session.setReplaceQuestion([&] {
+        QString of;
+        bench.session.setReplaceQuestion([&](const QString& file) {
             ++asked;
+            of = file;
             return answer;
         });
         QSignalSpy cancelled(&bench.session, &vlk::HostSession::writeCancelled);
@@ -194,6 +196,11 @@ private Q_SLOTS:
         QCOMPARE(bench.session.readConfiguration(true), QString());
         QVERIFY(bench.report().accepted);
         QCOMPARE(asked, 2);
+        // One of a file has not seen the tracker either.
+        const QString path = writeFile(bench.root.filePath("van.xml"), "<DEVICE model=\"R-7106\"/>");
+        QCOMPARE(bench.session.openConfiguration(path, true), QString());
+        QVERIFY(bench.report().accepted && of == QLatin1String("van.xml"));
+        QVERIFY(asked == 3 && !bench.session.edited().replacesUnseen());
     }
 
     void saysWhatIsEdited()

@@ -72,6 +72,21 @@ private Q_SLOTS:
                                        QStringLiteral("/a%2: no record at byte 1234567, 20 bytes")),
                  QStringLiteral("/a%2 holds no record at byte 1,234,567: 20\u00a0B were passed over."));
         QCOMPARE(vlk::PluginLog::words(QStringLiteral("other"), {}), QString());
+        // No English is left of a warning but the reason, which the system words.
+        QVERIFY(english.set(QStringLiteral("ru")));
+        for (const auto& [name, message] :
+             {std::pair("vlk.xml", "cannot make /a : 1"),
+              {"vlk.xml", "cannot open /a : 1"},
+              {"vlk.xml", "/a is not a document"},
+              {"vlk.fuel", "cannot open /a : 1"},
+              {"vlk.fuel", "/a is too large for a calibration table"},
+              {"vlk.fuel", "/a holds no calibration table"},
+              {"vlk.fuel", "the document holds more rows than a calibration table"}}) {
+            QString words = vlk::PluginLog::words(QLatin1String(name), QLatin1String(message));
+            QVERIFY2(
+                !words.remove(QStringLiteral("/a")).contains(QRegularExpression(QStringLiteral("[a-z]"))),
+                qPrintable(words));
+        }
     }
 
     void describesParameters_data()

@@ -17,7 +17,12 @@ Q_LOGGING_CATEGORY(typing, "vlk.settings.typing")
 
 struct Bench : OpenedWorkbench
 {
-    bool start() { return OpenedWorkbench::start(VLK_ECHO_PLUGIN); }
+    // The plug-in writes whatever it is given.
+    bool start()
+    {
+        window.session().setReplaceQuestion({});
+        return OpenedWorkbench::start(VLK_ECHO_PLUGIN);
+    }
 };
 
 QStringList textsOf(const QWidget& window)

@@ -24,6 +24,7 @@ struct Answer
     vlk::Message message{}; // 0: the one that answers the request
     int afterMs = 0;        // beyond the tracker's usual time
     bool ofSearch = false;  // goes when the Bluetooth search is stopped
+    quint32 ticket = 0;     // of the request
 
     static Answer bytes(const QByteArray& data) { return {Form::Bytes, data, {}}; }
 

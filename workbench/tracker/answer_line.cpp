@@ -1,5 +1,6 @@
 #include "tracker/answer_line.h"
 
+#include <QScopedValueRollback>
 #include <QTimer>
 
 namespace tracker {
@@ -89,6 +90,7 @@ void AnswerLine::deliver(const Answer& answer)
         p1 = &copy.data;
     else if (copy.form == Answer::Form::Record)
         p1 = copy.data.data();
+    const QScopedValueRollback ticket(ticket_, copy.ticket);
     sender_(copy.message, p1, copy.second.isEmpty() ? nullptr : copy.second.data());
 }
 

@@ -28,6 +28,8 @@ public:
     void unplug();
 
     void post(const Answer& answer);
+    // Of the answer that the sender is being given; 0 outside of that.
+    quint32 ticket() const { return ticket_; }
     void dropSearch();
     // As bytes look on the other end.
     QByteArray distorted(const QByteArray& bytes, Answer::Form form = Answer::Form::Bytes) const;
@@ -42,6 +44,7 @@ private:
     void deliver(const Answer& answer);
 
     Sender sender_;
+    quint32 ticket_ = 0;
     Faults faults_;
     // What is under way hangs on these and goes with them.
     std::unique_ptr<QObject> cable_;

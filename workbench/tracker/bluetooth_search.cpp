@@ -10,12 +10,6 @@ namespace {
 
 using vlk::Message;
 
-// Events of the search go as characters.
-constexpr char searchRuns = '0';
-constexpr char searchEnded = '1';
-constexpr char searchFailed = '2';
-constexpr char searchStopped = '3';
-
 constexpr int searchMs = 5600;
 
 Answer event(Message message, char value, int afterMs)

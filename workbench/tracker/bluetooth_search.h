@@ -8,6 +8,17 @@
 
 namespace tracker {
 
+// How a search goes, as BtSearchEvent and BtSearchStopped carry it: a character.
+inline constexpr char searchRuns = '0';
+inline constexpr char searchEnded = '1';
+inline constexpr char searchFailed = '2';
+inline constexpr char searchStopped = '3';
+
+constexpr bool isSearchState(char state)
+{
+    return state >= searchRuns && state <= searchStopped;
+}
+
 Answers searchBluetooth(bool switchedOn);
 Answers stopBluetoothSearch();
 

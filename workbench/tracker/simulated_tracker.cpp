@@ -150,7 +150,7 @@ void SimulatedTracker::setSender(Sender sender)
     parts_->line.setSender(std::move(sender));
 }
 
-bool SimulatedTracker::handle(vlk::Message id, void* p1, void* p2)
+bool SimulatedTracker::handle(vlk::Message id, void* p1, void* p2, quint32 ticket)
 {
     if (id == Message::RequestEventText) {
         if (p2)
@@ -170,9 +170,15 @@ bool SimulatedTracker::handle(vlk::Message id, void* p1, void* p2)
     for (Answer& answer : handler->second(p1)) {
         if (answer.message == Message{})
             answer.message = answerTo(id);
+        answer.ticket = ticket;
         parts_->line.post(answer);
     }
     return true;
+}
+
+quint32 SimulatedTracker::ticket() const
+{
+    return parts_->line.ticket();
 }
 
 QString SimulatedTracker::model() const
@@ -215,6 +221,21 @@ void SimulatedTracker::detach()
         return;
     parts_->line.unplug();
     Q_EMIT attachedChanged(false);
+}
+
+std::optional<Present> SimulatedTracker::readPresent()
+{
+    if (!attached())
+        return {};
+    if (parts_->line.takeUnplug()) {
+        Q_EMIT pulled();
+        detach();
+        return {};
+    }
+    if (faults().silence || faults().shortAnswers || faults().garbledAnswers)
+        return {};
+    const Vehicle vehicle = parts_->vehicle();
+    return Present{vehicle.mileage(), vehicle.c.outputs};
 }
 
 Reading SimulatedTracker::readConfiguration()

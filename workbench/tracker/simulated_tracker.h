@@ -14,6 +14,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace tracker {
 
@@ -31,6 +32,12 @@ struct Reading
 
     Outcome outcome = Outcome::Came;
     QByteArray document;
+};
+
+struct Present
+{
+    double mileage;  // km
+    quint16 outputs; // bit n is output n + 1
 };
 
 // The version of its records: what the configuration asks for, or one whatever it asks.
@@ -54,7 +61,12 @@ public:
 
     // Takes a request of the plug-in; true when it was one for the tracker. RequestEventText fills its text
     // at once, everything else is answered from the event loop. While detached, requests are dropped.
-    bool handle(vlk::Message id, void* p1, void* p2);
+    //
+    // The answers to a request come with the ticket that it had, so that who sends one twice knows to which
+    // of them an answer belongs.
+    bool handle(vlk::Message id, void* p1, void* p2, quint32 ticket = 0);
+    // Of the answer that the sender is being given.
+    quint32 ticket() const;
 
     // For TrackerAttached.
     QString model() const;
@@ -67,6 +79,8 @@ public:
     void attach();
     void detach();
 
+    // What commands change, as it says itself; none when no answer comes that can be believed.
+    std::optional<Present> readPresent();
     Reading readConfiguration();
     // The same from behind, whatever the cable does to it.
     const ConfigurationValues& configuration() const;

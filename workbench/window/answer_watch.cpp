@@ -1,13 +1,18 @@
 #include "window/answer_watch.h"
 
+#include "window/request_table.h"
+
 #include <algorithm>
 
 namespace vlk {
 
 namespace {
 
+// What destroys is asked of the user first, who may take long, and who may not agree.
 bool asksForAnswer(quint32 id)
 {
+    if (hasEffect(static_cast<Message>(id), Effect::Destroys))
+        return false;
     return std::any_of(std::begin(vlk::messages), std::end(vlk::messages), [id](const vlk::MessageInfo& row) {
         return quint32(row.number) == id && row.answer != 0;
     });
@@ -31,7 +36,7 @@ AnswerWatch::AnswerWatch(const PluginLink& link)
     connect(&notice_, &QTimer::timeout, this, &AnswerWatch::late);
     connect(&patience_, &QTimer::timeout, this, [this] {
         told_ = true;
-        Q_EMIT silent(since_);
+        Q_EMIT silent(since_, request_);
     });
 }
 
@@ -41,12 +46,13 @@ void AnswerWatch::look(vlk::Direction direction, quint32 id)
         if (isAnswer(id))
             forget();
     } else if (asksForAnswer(id)) {
-        begin();
+        begin(static_cast<Message>(id));
     }
 }
 
-void AnswerWatch::begin()
+void AnswerWatch::begin(Message request)
 {
+    request_ = request;
     if (!since_.isValid()) {
         since_ = QDateTime::currentDateTime();
         patience_.start();

@@ -22,8 +22,9 @@ public:
 
     explicit AnswerWatch(const PluginLink& link);
 
-    // Something is asked of the tracker that is no message.
-    void begin();
+    // Something is asked of the tracker: a command that the user has agreed to, or what is no message.
+    void begin(vlk::Message request = {});
+    bool isSilent() const { return told_; }
     // Nobody waits any more: the window that asked is closed, or the tracker gone.
     void forget();
 
@@ -32,13 +33,15 @@ Q_SIGNALS:
     void asked();
     // The last request waits for longer than a user expects.
     void late();
-    void silent(const QDateTime& since);
+    // The request is the one that came last.
+    void silent(const QDateTime& since, vlk::Message request);
     // After silent(): an answer came, or nobody waits any more.
     void over();
 
 private:
     void look(vlk::Direction direction, quint32 id);
 
+    vlk::Message request_{};
     QDateTime since_; // of the oldest request that waits; invalid when none does
     QTimer patience_;
     QTimer notice_;

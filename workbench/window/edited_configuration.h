@@ -25,12 +25,14 @@ public:
     void forgetTracker() { tracker_.reset(); }
 
     // Whether writing it would set every key of a tracker without having seen what it holds.
-    bool replacesUnseen() const { return source_ == Source::New; }
+    bool replacesUnseen() const { return source_ == Source::New || (source_ == Source::File && !written_); }
     // How many keys of the document differ from what was read; nothing was read of a new one.
     std::optional<int> changesIn(const QByteArray& document) const;
 
     // "from the tracker", "fleet.xml; differences from the tracker: 3"; a dash while nothing is open.
     QString text() const;
+    // Without its folder, of one that came from a file; else empty.
+    QString file() const { return source_ == Source::File ? file_ : QString(); }
     // The same in short, for a title; empty while nothing is open.
     QString name() const;
 

@@ -1,6 +1,7 @@
 #include "window/host_session.h"
 
 #include "base/whole_file.h"
+#include "tracker/bluetooth_search.h"
 #include "window/languages.h"
 #include "window/trouble_text.h"
 
@@ -47,7 +48,7 @@ QByteArray contentOf(QFile& file)
 HostSession::HostSession(const QString& trackerFolder, QObject* parent)
     : QObject(parent), tracker_(trackerFolder)
 {
-    tracker_.setSender([this](vlk::Message id, void* p1, void* p2) { link_.send(id, p1, p2); });
+    tracker_.setSender([this](vlk::Message id, void* p1, void* p2) { deliver(id, p1, p2); });
     connect(&tracker_, &tracker::SimulatedTracker::attachedChanged, this, &HostSession::tellAttached);
     connect(&link_, &PluginLink::received, this, &HostSession::receive);
 }
@@ -70,6 +71,10 @@ void HostSession::tellAttached(bool attached)
         return;
     }
     edited_.forgetTracker();
+    // A search has no end without an answer.
+    char stopped = tracker::searchStopped;
+    if (std::exchange(isSearching_, false))
+        link_.send(vlk::Message::BtSearchStopped, &stopped);
     link_.send(vlk::Message::TrackerDetached);
     Q_EMIT editedChanged();
 }
@@ -151,17 +156,36 @@ void HostSession::receive(vlk::Message id, void* p1, void* p2)
         if (p1)
             QMetaObject::invokeMethod(
                 this,
-                [this, write = Write{*static_cast<const QString*>(p1), opened_},
-                 ask = edited_.replacesUnseen()] { handOver(write, ask); },
+                [this, write = Write{*static_cast<const QString*>(p1), opened_, edited_.replacesUnseen(),
+                                     edited_.file()}] { handOver(write); },
                 Qt::QueuedConnection);
-    } else if (!tracker_.handle(id, p1, p2)) {
+    } else if (!commands_.take(id, p1) && !requests_.send(id, p1, p2)) {
         qCInfo(lcSession) << "message without a receiver" << quint32(id);
     }
+    followSearch(id, nullptr);
 }
 
-void HostSession::handOver(const Write& write, bool ask)
+void HostSession::deliver(vlk::Message id, void* p1, void* p2)
 {
-    if (ask && mayReplace_ && !mayReplace_()) {
+    if (!requests_.takesAnswer(id))
+        return;
+    followSearch(id, p1);
+    commands_.handOver(id, p1, p2);
+}
+
+void HostSession::followSearch(vlk::Message id, const void* p1)
+{
+    if (id == vlk::Message::StartBtSearch)
+        isSearching_ = true;
+    else if (id == vlk::Message::BtSearchStopped)
+        isSearching_ = false;
+    else if (id == vlk::Message::BtSearchEvent && p1 != nullptr)
+        isSearching_ = *static_cast<const char*>(p1) == tracker::searchRuns;
+}
+
+void HostSession::handOver(const Write& write)
+{
+    if (write.isUnseen && mayReplace_ && !mayReplace_(write.file)) {
         QFile::remove(write.path);
         Q_EMIT writeCancelled();
         return;
@@ -174,18 +198,20 @@ void HostSession::handOver(const Write& write, bool ask)
     QTimer::singleShot(qMax(0, tracker_.faults().delayMs), this, [this, path = write.path] { finish(path); });
 }
 
-void HostSession::finishWrites()
+bool HostSession::finishWrites()
 {
+    bool areAccepted = true;
     while (!writes_.empty())
-        finish(QString(writes_.front().path));
+        areAccepted &= finish(QString(writes_.front().path));
+    return areAccepted;
 }
 
-void HostSession::finish(const QString& path)
+bool HostSession::finish(const QString& path)
 {
     const auto write = std::find_if(writes_.cbegin(), writes_.cend(),
                                     [&path](const Write& other) { return other.path == path; });
     if (write == writes_.cend())
-        return;
+        return true;
     const bool isOpen = write->opened == opened_;
     writes_.erase(write);
     QFile file(path);
@@ -198,6 +224,7 @@ void HostSession::finish(const QString& path)
     }
     Q_EMIT configurationWritten(report);
     Q_EMIT editedChanged();
+    return report.accepted;
 }
 
 void HostSession::writeNotSaved(const QString& path, const QString& reason)

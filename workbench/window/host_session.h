@@ -10,6 +10,8 @@
 #include "tracker/simulated_tracker.h"
 #include "window/edited_configuration.h"
 #include "window/plugin_link.h"
+#include "window/repeated_requests.h"
+#include "window/tracker_commands.h"
 
 #include <QTemporaryDir>
 
@@ -30,6 +32,8 @@ public:
 
     PluginLink& link() { return link_; }
     tracker::SimulatedTracker& tracker() { return tracker_; }
+    RepeatedRequests& requests() { return requests_; }
+    TrackerCommands& commands() { return commands_; }
     const EditedConfiguration& edited() const { return edited_; }
 
     // Open windows of the plug-in. Empty when they did; else a text for the user that says what happened and
@@ -39,13 +43,15 @@ public:
     QString openConfiguration(const QString& path, bool full);
     void newConfiguration(bool full);
 
-    // Asked before a new configuration, which sets every key, is written; without it nothing is asked.
-    void setReplaceQuestion(std::function<bool()> question) { mayReplace_ = std::move(question); }
+    // Asked before a configuration is written that sets every key and was not read from the tracker: with the
+    // name of the file that it came from, empty for a new one. Without it nothing is asked.
+    using ReplaceQuestion = std::function<bool(const QString& file)>;
+    void setReplaceQuestion(ReplaceQuestion question) { mayReplace_ = std::move(question); }
 
     // The configuration window is closed.
     void configurationClosed();
-    // The tracker takes at once what it would take later.
-    void finishWrites();
+    // The tracker takes at once what it would take later. False when it refused some of it.
+    bool finishWrites();
     // The plug-in could not save the file that it wanted to be written.
     void writeNotSaved(const QString& path, const QString& reason);
 
@@ -72,21 +78,28 @@ private:
     {
         QString path;
         int opened;
+        bool isUnseen; // it replaces what nobody has looked at
+        QString file;  // that it came from
     };
 
     Fetched fetchConfiguration();
     void receive(vlk::Message id, void* p1, void* p2);
-    void handOver(const Write& write, bool ask);
-    void finish(const QString& path);
+    void deliver(vlk::Message id, void* p1, void* p2);
+    void followSearch(vlk::Message id, const void* p1);
+    void handOver(const Write& write);
+    bool finish(const QString& path);
     void tellAttached(bool attached);
 
     QTemporaryDir readFiles_;
     tracker::SimulatedTracker tracker_;
     PluginLink link_;
+    RepeatedRequests requests_{tracker_};
+    TrackerCommands commands_{tracker_, requests_, link_};
+    bool isSearching_ = false; // for Bluetooth devices
     EditedConfiguration edited_;
     int opened_ = 0; // how many configurations so far
     std::vector<Write> writes_;
-    std::function<bool()> mayReplace_;
+    ReplaceQuestion mayReplace_;
 };
 
 } // namespace vlk

@@ -1,10 +1,12 @@
 #include "window/link_notices.h"
 
+#include "tracker/bluetooth_search.h"
 #include "window/host_session.h"
 #include "window/languages.h"
 #include "window/message_box.h"
 #include "window/message_log_model.h"
 #include "window/plugin_windows.h"
+#include "window/request_table.h"
 #include "window/status_line.h"
 #include "window/trouble_text.h"
 
@@ -13,15 +15,15 @@ namespace vlk {
 LinkNotices::LinkNotices(HostSession& session, PluginWindows& windows, MessageLogModel& log,
                          StatusLine& status, QWidget* mainWindow)
     : session_(session), windows_(windows), log_(log), status_(status), mainWindow_(mainWindow),
-      watch_(session.link())
+      watch_(session.link()), front_(session.link(), windows)
 {
     using tracker::SimulatedTracker;
     connect(&session_.link(), &PluginLink::passed, this,
             [this](vlk::Direction direction, quint32 id, const void* p1) { look(direction, id, p1); });
-    connect(&session_, &HostSession::writeBegan, &watch_, &AnswerWatch::begin);
+    connect(&session_, &HostSession::writeBegan, &watch_, [this] { watch_.begin(); });
     connect(&session_, &HostSession::configurationWritten, &watch_, &AnswerWatch::forget);
-    connect(&watch_, &AnswerWatch::silent, this, [this](const QDateTime& since) {
-        setTrouble([since] { return vlk::text("wb_silence").arg(vlk::timeOfDay(since)); });
+    connect(&watch_, &AnswerWatch::silent, this, [this](const QDateTime& since, vlk::Message request) {
+        setTrouble([this, since, request] { return silence(since, request); });
     });
     connect(&watch_, &AnswerWatch::over, this, [this] { setTrouble({}); });
     connect(&session_.tracker(), &SimulatedTracker::pulled, this, [this] { isPulled_ = true; });
@@ -30,21 +32,46 @@ LinkNotices::LinkNotices(HostSession& session, PluginWindows& windows, MessageLo
         watch_.forget();
         setTrouble({});
     });
-    connect(&windows_, &PluginWindows::opened, this, [this](QWidget* window) {
-        if (std::exchange(isOpeningTelemetry_, false))
-            telemetry_ = window;
-    });
-    // With the window goes what it was waiting for and what it showed.
+    // With the last window goes what was waited for, with each one what it showed.
     connect(&windows_, &PluginWindows::closed, this, [this] {
-        watch_.forget();
-        setTrouble({});
+        if (windows_.open().isEmpty() && !PluginWindows::calibration()) {
+            watch_.forget();
+            session_.requests().forget();
+        }
+        if (!watch_.isSilent())
+            setTrouble({});
     });
+    connectRequests();
 }
 
-LinkNotices::~LinkNotices()
+void LinkNotices::connectRequests()
 {
-    // The windows of the plug-in live on.
-    delete notice_;
+    const auto log = [this](const char* key, vlk::Message message) {
+        log_.appendWarning(QStringLiteral("vlk.workbench.link"), vlk::text(key).arg(quint32(message)));
+    };
+    const RepeatedRequests* requests = &session_.requests();
+    connect(requests, &RepeatedRequests::sentAgain, this,
+            [log](vlk::Message request) { log("wb_asked_again", request); });
+    connect(requests, &RepeatedRequests::dropped, this,
+            [log](vlk::Message answer) { log("wb_answer_dropped", answer); });
+    const TrackerCommands* commands = &session_.commands();
+    connect(commands, &TrackerCommands::sent, &watch_, &AnswerWatch::begin);
+    connect(commands, &TrackerCommands::done, this,
+            [this](const TrackerCommands::Sentence& sentence) { tellResult(sentence, true); });
+    connect(commands, &TrackerCommands::failed, this,
+            [this](const TrackerCommands::Sentence& sentence) { tellResult(sentence, false); });
+}
+
+void LinkNotices::tellResult(const std::function<QString()>& sentence, bool isNews)
+{
+    status_.tell(StatusLine::Command, sentence);
+    const auto notice = [sentence, mark = isNews ? vlk::Mark::changed : vlk::Mark::advice] {
+        return vlk::Notice{mark, sentence(), {}};
+    };
+    if (isNews)
+        front_.tellNews(notice);
+    else
+        front_.tell(FrontNotice::Result, notice);
 }
 
 void LinkNotices::look(vlk::Direction direction, quint32 id, const void* p1)
@@ -52,10 +79,13 @@ void LinkNotices::look(vlk::Direction direction, quint32 id, const void* p1)
     const auto answer = static_cast<vlk::Message>(id);
     if (answer == vlk::Message::RequestRecordOfPeriod)
         damagedOfPeriod_ = 0;
-    if (direction == vlk::Direction::ToPlugin && answer == vlk::Message::OpenTelemetry)
-        noteTelemetry();
     if (direction == vlk::Direction::ToPlugin && answer == vlk::Message::TrackerDetached)
         tellDetached(std::exchange(isPulled_, false));
+    const bool isOfSearch = answer == vlk::Message::BtSearchEvent || answer == vlk::Message::BtSearchStopped;
+    if (isOfSearch && p1 != nullptr && tracker::isSearchState(*static_cast<const char*>(p1)))
+        setTrouble({});
+    else if (isOfSearch)
+        setTrouble([id] { return vlk::text("wb_search_bad").arg(id); });
     if (direction != vlk::Direction::ToPlugin || !vlk::RecordCheck::carriesRecord(answer) || p1 == nullptr)
         return;
     const QByteArray& bytes = *static_cast<const QByteArray*>(p1);
@@ -80,35 +110,50 @@ void LinkNotices::look(vlk::Direction direction, quint32 id, const void* p1)
 void LinkNotices::setTrouble(const std::function<QString()>& trouble)
 {
     trouble_ = trouble;
+    isSaving_ = trouble_ && session_.link().runningWork().saving != 0;
     if (trouble_)
         status_.tell(StatusLine::Link, trouble_);
     else
         status_.clear(StatusLine::Link);
-    showOnWindow();
+    if (trouble_)
+        front_.tell(FrontNotice::Trouble, [this] { return troubleNotice(); });
+    else
+        front_.tell(FrontNotice::Trouble, {});
     Q_EMIT troubleChanged();
 }
 
-// On the window that is looked at: a configuration's is in front of all others.
-void LinkNotices::showOnWindow()
+QString LinkNotices::silence(const QDateTime& since, vlk::Message request)
 {
-    QWidget* owner = windows_.modal() ? windows_.modal() : telemetry_.data();
-    if (notice_ && (!trouble_ || notice_->parentWidget() != owner))
-        notice_->say({});
-    if (!trouble_ || !owner || !owner->isVisible())
-        return;
-    if (!notice_ || notice_->parentWidget() != owner) {
-        delete notice_;
-        notice_ = new WindowNotice(owner);
-    }
-    notice_->say(trouble_);
+    const char* key = "wb_silence_command";
+    if (vlk::hasEffect(request, Effect::Reads))
+        key = isSaving_ ? "wb_silence_save" : "wb_silence_again";
+    else if (vlk::hasEffect(request, Effect::MayBeMute))
+        key = "wb_silence_mute";
+    const qint64 seconds = AnswerWatch::patienceMs / 1000;
+    return vlk::text(key).arg(vlk::timeOfDay(since), vlk::number(seconds));
 }
 
-// The plug-in opens its window within the message, unless it is open.
-void LinkNotices::noteTelemetry()
+vlk::Notice LinkNotices::troubleNotice()
 {
-    isOpeningTelemetry_ = true;
-    QMetaObject::invokeMethod(
-        this, [this] { isOpeningTelemetry_ = false; }, Qt::QueuedConnection);
+    vlk::Notice notice{vlk::Mark::advice, trouble_(), {}};
+    if (isSaving_)
+        notice.actions.push_back({vlk::text("wb_end_save"), [this] { endSave(); }});
+    return notice;
+}
+
+void LinkNotices::endSave()
+{
+    const vlk::EndedSave save = session_.link().endSave();
+    if (!save.ended) {
+        setTrouble(trouble_); // without the offer
+        return;
+    }
+    session_.requests().forget();
+    watch_.forget();
+    setTrouble({});
+    // The plug-in tells of a file with a part of the period.
+    if (save.records == 0)
+        tellResult([] { return vlk::text("wb_save_ended"); }, false);
 }
 
 void LinkNotices::tellDetached(bool isPulled)

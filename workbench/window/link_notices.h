@@ -4,13 +4,12 @@
 // is marked in the log, silence and damage stand in the status line and in a notice on the window that asked
 // until a right answer comes, and a cable that went while the tracker answered is told in a box that says
 // which windows went with it. A tracker that the user detaches is told in the status line where its telemetry
-// window goes.
+// window goes. While a period is being saved the notice offers to end that. What became of a command stands
+// in the same two places, and what is asked again or comes twice in the log.
 
 #include "check/record_check.h"
 #include "window/answer_watch.h"
-#include "window/window_notice.h"
-
-#include <QPointer>
+#include "window/front_notice.h"
 
 namespace vlk {
 
@@ -26,7 +25,6 @@ class LinkNotices : public QObject
 public:
     LinkNotices(HostSession& session, PluginWindows& windows, MessageLogModel& log, StatusLine& status,
                 QWidget* mainWindow);
-    ~LinkNotices() override;
 
     const AnswerWatch& answers() const { return watch_; }
     // What stands in the status line about the tracker's answers; empty while all is well.
@@ -41,8 +39,11 @@ private:
     void look(vlk::Direction direction, quint32 id, const void* p1);
     void tellDetached(bool isPulled);
     void setTrouble(const std::function<QString()>& trouble);
-    void showOnWindow();
-    void noteTelemetry();
+    void connectRequests();
+    QString silence(const QDateTime& since, vlk::Message request);
+    vlk::Notice troubleNotice();
+    void endSave();
+    void tellResult(const std::function<QString()>& sentence, bool isNews);
 
     HostSession& session_;
     PluginWindows& windows_;
@@ -51,10 +52,9 @@ private:
     QWidget* mainWindow_;
     vlk::RecordCheck check_;
     AnswerWatch watch_;
+    FrontNotice front_;
     std::function<QString()> trouble_;
-    QPointer<QWidget> telemetry_; // the window that shows the attached tracker's
-    bool isOpeningTelemetry_ = false;
-    QPointer<WindowNotice> notice_;
+    bool isSaving_ = false;              // a period, when the trouble came
     bool isPulled_ = false;              // the cable went while the tracker answered
     std::optional<int> damagedOfPeriod_; // none while no period is asked for
 };

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace vlk {
 
@@ -29,6 +30,18 @@ void showWarning(const QString& text, QWidget* window)
     box->setTextInteractionFlags(Qt::TextSelectableByMouse);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->open();
+}
+
+bool agrees(const QString& question, const QString& verb, const QString& name, QWidget* window)
+{
+    QMessageBox box(QMessageBox::Warning, vlk::text("wb_title"), question, QMessageBox::Cancel,
+                    windowInFront(window));
+    box.setObjectName(name);
+    box.setTextFormat(Qt::PlainText);
+    const QPushButton* agree = box.addButton(verb, QMessageBox::AcceptRole);
+    box.setDefaultButton(QMessageBox::Cancel);
+    box.exec();
+    return box.clickedButton() == agree;
 }
 
 } // namespace vlk

@@ -1,7 +1,6 @@
 #pragma once
 
-// Boxes of the workbench. They come up over whatever window is in front, a modal one included, and hold
-// nothing up: the caller goes on at once.
+// Boxes of the workbench. They come up over whatever window is in front, a modal one included.
 
 #include <QString>
 
@@ -9,9 +8,13 @@ class QWidget;
 
 namespace vlk {
 
-// A sentence or two that the user has to know. The same text does not come up twice at a time. The window is
-// where the box goes when no other one is in front.
+// A sentence or two that the user has to know. Holds nothing up: the caller goes on at once. The same text
+// does not come up twice at a time. The window is where the box goes when no other one is in front.
 void showWarning(const QString& text, QWidget* window);
+
+// Asks before something that cannot be brought back: the verb is on the button that agrees, and Cancel is the
+// default.
+bool agrees(const QString& question, const QString& verb, const QString& name, QWidget* window);
 
 // The window that a new one has to be a child of to be usable: the modal one in front, else the active one,
 // else the given.

@@ -121,6 +121,16 @@ const RecordRow records[] = {
              QStringLiteral("name=%1 mac=%2").arg(quoted(r.name, sizeof r.name), quoted(r.mac, sizeof r.mac)),
              {}};
      }},
+    {Message::EndSave,
+     [](const void* p) -> MessageText {
+         const auto& r = as<EndedSave>(p);
+         return {QStringLiteral("ended=%1 records=%2").arg(r.ended).arg(r.records), {}};
+     }},
+    {Message::GetRunningWork,
+     [](const void* p) -> MessageText {
+         const auto& r = as<RunningWork>(p);
+         return {QStringLiteral("saving=%1 automatic=%2").arg(r.saving).arg(r.automatic), {}};
+     }},
     {Message::TachographFileRequest,
      [](const void* p) -> MessageText {
          const auto& r = as<szQueryTaho>(p);

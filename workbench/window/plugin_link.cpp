@@ -160,4 +160,18 @@ QString PluginLink::balanceCode()
     return QString::fromLocal8Bit(code, qstrnlen(code, sizeof code));
 }
 
+vlk::EndedSave PluginLink::endSave()
+{
+    vlk::EndedSave record;
+    send(vlk::Message::EndSave, &record);
+    return record;
+}
+
+vlk::RunningWork PluginLink::runningWork()
+{
+    vlk::RunningWork record;
+    send(vlk::Message::GetRunningWork, &record);
+    return record;
+}
+
 } // namespace vlk

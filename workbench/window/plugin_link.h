@@ -44,6 +44,9 @@ public:
     // Kind 0 is the browser, kind 1 the table.
     void showStoredFile(const QString& path, int kind);
     QString balanceCode();
+    // Nothing runs in a plug-in that does not know these two.
+    vlk::EndedSave endSave();
+    vlk::RunningWork runningWork();
 
 Q_SIGNALS:
     // A message from the plug-in, to be answered or obeyed.

@@ -7,10 +7,8 @@
 #include <QScopedValueRollback>
 #include <QThread>
 
-#include <algorithm>
 #include <atomic>
 #include <cstring>
-#include <iterator>
 #include <mutex>
 
 namespace vlk {
@@ -19,6 +17,8 @@ namespace {
 
 // How a message is written: what it captures goes into the text in this order.
 constexpr const char* whole = "^(.*)$";
+constexpr const char* notMade = "^cannot make (.*) : (.*)$";
+constexpr const char* notOpened = "^cannot open (.*) : (.*)$";
 constexpr const char* ofFile = "^(.*?): (.*)$";
 constexpr const char* atByte = "^(.*): .* at byte (\\d+), (\\d+) bytes$";
 constexpr const char* ofPeriod = "^(.*): (\\d+) of (\\d+) records, until (.*)$";
@@ -31,11 +31,19 @@ struct CategoryRow
     const char* message;
 };
 
+// Where a category has several, the first whose form the message has.
 constexpr CategoryRow rows[] = {
     {"vlk.save", PluginLog::Topic::SaveFailed, "wb_save_failed_why", ofFile},
     {"vlk.save.part", PluginLog::Topic::SavedInPart, "wb_saved_part", ofPeriod},
     {"vlk.settings.typing", PluginLog::Topic::Typing, "wb_typed", whole},
+    {"vlk.xml", PluginLog::Topic::File, "wb_told_not_made", notMade},
+    {"vlk.xml", PluginLog::Topic::File, "wb_told_unreadable", notOpened},
+    {"vlk.xml", PluginLog::Topic::File, "wb_told_no_document", "^(.*) is not a document$"},
     {"vlk.xml", PluginLog::Topic::File, "wb_told_document", whole},
+    {"vlk.fuel", PluginLog::Topic::File, "wb_told_unreadable", notOpened},
+    {"vlk.fuel", PluginLog::Topic::File, "wb_told_fuel_large", "^(.*) is too large for a calibration table$"},
+    {"vlk.fuel", PluginLog::Topic::File, "wb_told_fuel_none", "^(.*) holds no calibration table$"},
+    {"vlk.fuel", PluginLog::Topic::File, "wb_told_fuel_rows", "^the document holds more rows"},
     {"vlk.fuel", PluginLog::Topic::File, "wb_told_fuel", whole},
     {"vlk.files.unreadable", PluginLog::Topic::File, "wb_told_unreadable", ofFile},
     {"vlk.files.missing", PluginLog::Topic::File, "wb_told_missing", ofFile},
@@ -48,12 +56,24 @@ constexpr CategoryRow rows[] = {
     {"vlk.files.count", PluginLog::Topic::Damage, "wb_told_count", atByte},
 };
 
-const CategoryRow* rowOf(const char* category)
+QRegularExpressionMatch matched(const CategoryRow& row, const QString& message)
 {
-    const auto row = std::find_if(std::begin(rows), std::end(rows), [category](const CategoryRow& known) {
-        return std::strcmp(known.category, category) == 0;
-    });
-    return row == std::end(rows) ? nullptr : row;
+    return QRegularExpression(QLatin1String(row.message), QRegularExpression::DotMatchesEverythingOption)
+        .match(message);
+}
+
+// The last row of a category where the message has none of its forms.
+const CategoryRow* rowOf(const char* category, const QString& message)
+{
+    const CategoryRow* found = nullptr;
+    for (const CategoryRow& row : rows) {
+        if (std::strcmp(row.category, category) != 0)
+            continue;
+        found = &row;
+        if (matched(row, message).hasMatch())
+            break;
+    }
+    return found;
 }
 
 std::mutex guard; // of theLog, while another thread posts to it
@@ -83,17 +103,13 @@ PluginLog::~PluginLog()
 
 QStringList PluginLog::parts(const QString& category, const QString& message)
 {
-    const CategoryRow* row = rowOf(category.toLatin1().constData());
-    if (row == nullptr)
-        return {};
-    const QRegularExpression pattern(QLatin1String(row->message),
-                                     QRegularExpression::DotMatchesEverythingOption);
-    return pattern.match(message).capturedTexts().mid(1);
+    const CategoryRow* row = rowOf(category.toLatin1().constData(), message);
+    return row != nullptr ? matched(*row, message).capturedTexts().mid(1) : QStringList();
 }
 
 QString PluginLog::words(const QString& category, const QString& message)
 {
-    const CategoryRow* row = rowOf(category.toLatin1().constData());
+    const CategoryRow* row = rowOf(category.toLatin1().constData(), message);
     if (row == nullptr)
         return {};
     QString said = vlk::text(row->text);
@@ -120,7 +136,7 @@ void PluginLog::listen(QtMsgType type, const QMessageLogContext& context, const 
     }
     if (type != QtWarningMsg || context.category == nullptr)
         return;
-    const CategoryRow* row = rowOf(context.category);
+    const CategoryRow* row = rowOf(context.category, message);
     if (row == nullptr)
         return;
     std::unique_lock lock(guard);

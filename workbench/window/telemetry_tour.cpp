@@ -11,6 +11,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QTabWidget>
 #include <QTextEdit>
 
@@ -78,6 +79,14 @@ void controls(vlk::Tour& tour)
         dialog.accept();
     });
     vlk::Tour::press("pushButton_Run");
+    tour.whenModal<QMessageBox>([&tour](QMessageBox& question) {
+        tour.picture(QStringLiteral("telemetry-mileage.png"), &question);
+        for (QAbstractButton* button : question.buttons())
+            if (question.buttonRole(button) == QMessageBox::AcceptRole)
+                button->click();
+    });
+    tour.waitFor([] { return vlk::Tour::findVisible("label_WindowNotice"); },
+                 QStringLiteral("what became of the mileage"));
     tabs()->setCurrentIndex(sensorsTab);
     vlk::Tour::find<QComboBox>("comboBox_Out")->setCurrentIndex(1);
     live::ask(tour, "pushButton_Get_Current");

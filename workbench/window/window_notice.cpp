@@ -18,31 +18,36 @@ WindowNotice::WindowNotice(QWidget* owner) : NoticeBar(owner, QStringLiteral("la
     setAttribute(Qt::WA_QuitOnClose, false);
     setFrameShape(QFrame::Box);
     owner->installEventFilter(this);
-    connect(this, &NoticeBar::closed, this, [this] { isDismissed_ = true; });
+    connect(this, &NoticeBar::closed, this, [this](int number) { dismissed_.insert(number); });
 }
 
-void WindowNotice::say(const std::function<QString()>& sentence)
+void WindowNotice::say(int number, const std::function<Notice()>& notice)
 {
-    if (!sentence)
-        isDismissed_ = false;
-    if (isDismissed_)
+    if (!notice) {
+        dismissed_.erase(number);
+        end(number);
+    }
+    if (!notice || dismissed_.count(number) != 0)
         return;
     place();
-    tell(sentence);
+    tell(number, notice);
     place();
 }
 
-bool WindowNotice::eventFilter(QObject* /*owner*/, QEvent* event)
+// Of the window, and of the bars in it.
+bool WindowNotice::eventFilter(QObject* object, QEvent* event)
 {
     switch (event->type()) {
     case QEvent::Move:
     case QEvent::Resize:
+    case QEvent::Show:
         place();
         break;
     case QEvent::Hide:
         // What is minimised takes it along by itself.
-        if (!event->spontaneous())
+        if (object == parentWidget() && !event->spontaneous())
             hide();
+        place();
         break;
     default:
         break;
@@ -61,7 +66,12 @@ void WindowNotice::changeEvent(QEvent* event)
 
 void WindowNotice::place()
 {
-    const QRect inside = parentWidget()->geometry().marginsRemoved({margin, margin, margin, margin});
+    QRect inside = parentWidget()->geometry().marginsRemoved({margin, margin, margin, margin});
+    for (QFrame* bar : parentWidget()->findChildren<QFrame*>(QStringLiteral("noticeBar"))) {
+        bar->installEventFilter(this);
+        if (bar->isVisible() && bar->window() == parentWidget())
+            inside.setTop(qMax(inside.top(), bar->mapToGlobal(QPoint(0, bar->height())).y() + margin));
+    }
     resize(inside.width(), heightForWidth(inside.width()));
     move(inside.topLeft());
 }

@@ -1,9 +1,11 @@
 #pragma once
 
-// A notice of the workbench on a window of the plug-in: a tool window on its upper inner edge that moves with
-// it, goes with it and never takes the focus.
+// The notices of the workbench on a window of the plug-in: a tool window on its upper inner edge, below a bar
+// of the window's own, that moves with it, goes with it and never takes the focus.
 
 #include "typing/notice_bar.h"
+
+#include <set>
 
 namespace vlk {
 
@@ -15,7 +17,7 @@ public:
     explicit WindowNotice(QWidget* owner);
 
     // Null takes it away. One that was closed stays so until then.
-    void say(const std::function<QString()>& sentence);
+    void say(int number, const std::function<Notice()>& notice);
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -24,7 +26,7 @@ protected:
 private:
     void place();
 
-    bool isDismissed_ = false;
+    std::set<int> dismissed_;
 };
 
 } // namespace vlk

@@ -10,7 +10,6 @@
 #include "window/folders_dialog.h"
 #include "window/installed_files.h"
 #include "window/link_notices.h"
-#include "window/live_readings.h"
 #include "window/message_box.h"
 #include "window/message_log_view.h"
 #include "window/recent_files.h"
@@ -26,7 +25,6 @@
 #include <QDir>
 #include <QMessageBox>
 #include <QMimeData>
-#include <QPushButton>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QTabWidget>
@@ -142,7 +140,14 @@ void WorkbenchWindow::connectSession()
     connect(&session_, &HostSession::writeCancelled, this,
             [this] { status_->tell(StatusLine::Command, [] { return vlk::text("wb_write_cancelled"); }); });
     connect(&session_, &HostSession::editedChanged, this, &WorkbenchWindow::showEdited);
-    session_.setReplaceQuestion([this] { return mayReplace(); });
+    session_.setReplaceQuestion([this](const QString& file) {
+        return vlk::agrees(file.isEmpty() ? vlk::text("wb_replace_question")
+                                          : vlk::text("wb_replace_question_file").arg(file),
+                           vlk::text("wb_replace_write"), QStringLiteral("messageBox_Replace"), this);
+    });
+    session_.commands().setQuestion([this](const QString& text, const QString& verb) {
+        return vlk::agrees(text, verb, QStringLiteral("messageBox_Command"), this);
+    });
     // Its window is modal, and so are those that come up over it.
     connect(&windows_, &PluginWindows::closed, this, [this](const QWidget* window) {
         if (window->isModal() && !windows_.modal())
@@ -167,7 +172,6 @@ void WorkbenchWindow::connectNotices()
     linkNotices_ = std::make_unique<LinkNotices>(session_, windows_, log_, *status_, this);
     faults_ = std::make_unique<FaultsAtHand>(session_.tracker(), linkNotices_->answers(),
                                              commands_[Command::Faults]->shortcut(), this);
-    liveReadings_ = std::make_unique<LiveReadings>(session_, log_);
     saveNotices_ = std::make_unique<SaveNotices>(pluginLog_, session_, *linkNotices_, windows_, *recent_,
                                                  *status_, this);
     fileNotices_ = std::make_unique<FileNotices>(pluginLog_, *status_, this);
@@ -309,17 +313,6 @@ void WorkbenchWindow::showHelp(const QString& page)
     help_->showPage(page);
 }
 
-bool WorkbenchWindow::mayReplace()
-{
-    QMessageBox box(QMessageBox::Warning, vlk::text("wb_title"), vlk::text("wb_replace_question"),
-                    QMessageBox::Cancel, vlk::windowInFront(this));
-    box.setObjectName(QStringLiteral("messageBox_Replace"));
-    const QPushButton* write = box.addButton(vlk::text("wb_replace_write"), QMessageBox::AcceptRole);
-    box.setDefaultButton(QMessageBox::Cancel);
-    box.exec();
-    return box.clickedButton() == write;
-}
-
 void WorkbenchWindow::showReport(const tracker::WriteReport& report)
 {
     // What was refused is not written with those numbers yet.
@@ -380,17 +373,29 @@ void WorkbenchWindow::restoreLayout()
 
 void WorkbenchWindow::closeEvent(QCloseEvent* event)
 {
-    // It asks over rows that are not saved: before anything else goes, so that all stays as it is on Cancel.
-    QWidget* calibration = PluginWindows::calibration();
-    if (calibration && !calibration->close()) {
+    if (!mayClose()) {
         event->ignore();
         return;
     }
     settings_.setLayout(objectName(), saveGeometry());
     settings_.setLayout(splitter_->objectName(), splitter_->saveState());
     session_.link().send(vlk::Message::CloseWindows);
-    session_.finishWrites();
     event->accept();
+}
+
+// Asked before anything goes, so that all stays as it is on Cancel.
+bool WorkbenchWindow::mayClose()
+{
+    // It asks over rows that are not saved.
+    QWidget* calibration = PluginWindows::calibration();
+    if (calibration && !calibration->close())
+        return false;
+    // The report of what was refused would go unseen.
+    if (!session_.finishWrites())
+        return false;
+    return !session_.link().runningWork().saving ||
+           vlk::agrees(vlk::text("wb_close_saving"), vlk::text("wb_close_verb"),
+                       QStringLiteral("messageBox_Close"), this);
 }
 
 void WorkbenchWindow::dragEnterEvent(QDragEnterEvent* event)

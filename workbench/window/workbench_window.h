@@ -30,7 +30,6 @@ class FileNotices;
 class FileOpener;
 class Languages;
 class LinkNotices;
-class LiveReadings;
 class MessageLogView;
 class RecentFiles;
 class SaveNotices;
@@ -81,7 +80,7 @@ private:
     void applyFolders();
     void showBalance();
     void about();
-    bool mayReplace();
+    bool mayClose();
     void showReport(const tracker::WriteReport& report);
     void showEdited();
     void updateCommands();
@@ -110,7 +109,6 @@ private:
     TrackerPanel* trackerPanel_;
     std::unique_ptr<FaultsAtHand> faults_;
     std::unique_ptr<LinkNotices> linkNotices_;
-    std::unique_ptr<LiveReadings> liveReadings_;
     std::unique_ptr<SaveNotices> saveNotices_;
     std::unique_ptr<FileNotices> fileNotices_;
 };

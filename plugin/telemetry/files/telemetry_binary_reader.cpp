@@ -165,7 +165,7 @@ private:
 
     void report(FileDamage::Kind kind, qint64 offset, qint64 bytes)
     {
-        contents_.damages.push_back({kind, offset, bytes});
+        contents_.damages.push_back({kind, offset, bytes, contents_.pages.size()});
     }
 
     InputBuffer input_;

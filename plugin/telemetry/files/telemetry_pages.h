@@ -37,8 +37,9 @@ struct FileDamage
     };
 
     Kind kind;
-    qint64 offset; // where in the file
-    qint64 bytes;  // how many
+    qint64 offset;        // where in the file
+    qint64 bytes;         // how many
+    std::size_t page = 0; // the pages before it
 };
 
 // What a file gives. The titles come from the XML form only; the damages are in the order in which they were

@@ -204,7 +204,7 @@ TelemetryContents readTelemetryXml(QIODevice& device)
     // nothing.
     std::optional<qint64> lostAt;
     const auto report = [&contents](FileDamage::Kind kind, qint64 from, qint64 to) {
-        contents.damages.push_back({kind, from, to - from});
+        contents.damages.push_back({kind, from, to - from, contents.pages.size()});
     };
     qint64 countAt = 0;
     for (std::string_view line = input.line(kLongestLine); !line.empty(); line = input.line(kLongestLine)) {

@@ -1,10 +1,15 @@
 #include "telemetry/view/damage_text.h"
 
+#include "typing/notice_bar.h"
+
 #include <QCoreApplication>
 #include <QLocale>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QStringList>
 
 #include <algorithm>
+#include <span>
 
 namespace vlk {
 
@@ -13,7 +18,8 @@ namespace {
 // Keys by FileDamage::Kind: %1 is where it begins, %2 where reading went on. The counts of records say
 // themselves that they differ.
 constexpr const char* kSentences[] = {"tmiw_190", "tmiw_191", "tmiw_192", "tmiw_193", "tmiw_194", nullptr};
-constexpr std::size_t kMostSentences = 2;
+constexpr std::size_t kInBar = 2;
+constexpr std::size_t kInBox = 20;
 
 QString word(const char* key)
 {
@@ -25,31 +31,72 @@ QString number(qint64 value)
     return QLocale().toString(value);
 }
 
-} // namespace
-
-std::function<QString()> damageText(const TelemetryContents& contents)
+struct Damage
 {
-    if (contents.damages.empty())
-        return {};
+    std::vector<FileDamage> places;
+    qint64 whole;
+    qint64 announced;
+};
+
+Damage damageOf(const TelemetryContents& contents)
+{
     const auto isCount = [](const FileDamage& damage) { return damage.kind == FileDamage::RecordCount; };
     const bool countDiffers = std::ranges::any_of(contents.damages, isCount);
     std::vector<FileDamage> places = contents.damages;
     std::erase_if(places, isCount);
-    const qint64 all = std::ssize(places);
-    places.resize(std::min(places.size(), kMostSentences));
     const qint64 whole = std::ssize(contents.pages) - (contents.lastIsCut ? 1 : 0);
-    const qint64 announced = countDiffers ? contents.announced.value_or(0) : whole;
-    return [places, all, whole, announced] {
-        QStringList said{announced == whole ? word("tmiw_188").arg(number(whole))
-                                            : word("tmiw_189").arg(number(whole), number(announced))};
-        for (const FileDamage& damage : places)
-            said << QString(word(kSentences[damage.kind]))
-                        .replace(QLatin1String("%1"), number(damage.offset))
-                        .replace(QLatin1String("%2"), number(damage.offset + damage.bytes));
-        if (all > std::ssize(places))
-            said << word("tmiw_198").arg(number(all - std::ssize(places)));
-        return said.join(QLatin1Char(' '));
-    };
+    return {std::move(places), whole, countDiffers ? contents.announced.value_or(0) : whole};
+}
+
+QStringList sentences(const Damage& damage, std::size_t most)
+{
+    QStringList said{damage.announced == damage.whole
+                         ? word("tmiw_188").arg(number(damage.whole))
+                         : word("tmiw_189").arg(number(damage.whole), number(damage.announced))};
+    const std::size_t told = std::min(damage.places.size(), most);
+    for (const FileDamage& place : std::span(damage.places).first(told))
+        said << QString(word(kSentences[place.kind]))
+                    .replace(QLatin1String("%1"), number(place.offset))
+                    .replace(QLatin1String("%2"), number(place.offset + place.bytes));
+    if (damage.places.size() > told)
+        said << word("tmiw_198").arg(number(static_cast<qint64>(damage.places.size() - told)));
+    return said;
+}
+
+void showAll(QWidget* window, const Damage& damage)
+{
+    QMessageBox box(QMessageBox::Warning, word("wrd_004"), sentences(damage, kInBox).join(QLatin1Char('\n')),
+                    QMessageBox::NoButton, window);
+    box.setTextFormat(Qt::PlainText);
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    box.addButton(word("wrd_003"), QMessageBox::AcceptRole);
+    box.exec();
+}
+
+} // namespace
+
+void tellDamage(NoticeBar* bar, const TelemetryContents& contents, const std::function<void(int)>& goTo)
+{
+    if (contents.damages.empty()) {
+        bar->end(0);
+        return;
+    }
+    // Damage of the header, or somewhere among the records, has no place to go to.
+    const auto place = std::ranges::find_if(contents.damages, [](const FileDamage& damage) {
+        return damage.kind == FileDamage::Records || damage.kind == FileDamage::CutShort;
+    });
+    const auto records = static_cast<int>(contents.pages.size());
+    const int record = place == contents.damages.end() || records == 0
+                           ? -1
+                           : std::min(static_cast<int>(place->page), records - 1);
+    bar->tell(0, [bar, goTo, record, damage = damageOf(contents)] {
+        Notice notice{Mark::advice, sentences(damage, kInBar).join(QLatin1Char(' ')), {}};
+        if (record >= 0)
+            notice.actions.push_back({word("tmiw_200"), [goTo, record] { goTo(record); }});
+        if (damage.places.size() > kInBar)
+            notice.actions.push_back({word("tmiw_201"), [bar, damage] { showAll(bar->window(), damage); }});
+        return notice;
+    });
 }
 
 } // namespace vlk

@@ -119,6 +119,14 @@ void SaveSequence::stop()
     end();
 }
 
+EndedSave SaveSequence::endNow()
+{
+    // Where a file name is asked for, or the file is written, the user is told already.
+    if (!isRunning() || saveState_ == Writing || fileDialog_ != nullptr)
+        return {};
+    return {.ended = 1, .records = static_cast<std::uint32_t>(carryOutCancel())};
+}
+
 void SaveSequence::step(const QByteArray& record)
 {
     if (isRunning() && saveCancelled_) {
@@ -215,15 +223,15 @@ bool SaveSequence::chooseFile()
     return false;
 }
 
-void SaveSequence::carryOutCancel()
+std::size_t SaveSequence::carryOutCancel()
 {
     saveCancelled_ = false;
     progress_.setStatus("tmiw_027");
     progress_.resetBar();
-    end();
+    return end();
 }
 
-void SaveSequence::end()
+std::size_t SaveSequence::end()
 {
     // Writing asks the host for words; whatever else it sends then is not part of this save any more.
     const bool isPart = std::exchange(saveState_, Writing) == Collecting;
@@ -239,6 +247,7 @@ void SaveSequence::end()
     if (isSaved && isPart)
         tellPart(records);
     Q_EMIT runningChanged(false);
+    return isSaved ? records.size() : 0;
 }
 
 // What came is worth a second name.

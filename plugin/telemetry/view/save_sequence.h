@@ -5,12 +5,14 @@
 // when all are there. The sequence knows the records by their bytes and numbers alone, whatever their version
 // is; they are decoded when the file is written.
 //
-// A cancel takes effect with the next record. Whatever ends a save after its file name was given, a closed
-// window or a detached tracker too, the file is written with what was collected, and it is told how much of
-// the period that is. A name that no file can be written under is refused as soon as it is given. When the
-// writing fails all the same, the name is asked for once more; that the file could not be written then stands
-// in the progress area until the user goes on.
+// A cancel takes effect with the next record; the host, who knows when none will come, can end a save at
+// once. Whatever ends a save after its file name was given, a closed window or a detached tracker too, the
+// file is written with what was collected, and it is told how much of the period that is. A name that no file
+// can be written under is refused as soon as it is given. When the writing fails all the same, the name is
+// asked for once more; that the file could not be written then stands in the progress area until the user
+// goes on.
 
+#include "link/messages.h"
 #include "telemetry/view/period_file.h"
 #include "telemetry/view/save_progress.h"
 
@@ -50,6 +52,8 @@ public:
                const QString& proposedName);
     void take(const QByteArray& record);
     void cancel() { saveCancelled_ = true; }
+    // What a cancel does, without waiting for a record.
+    vlk::EndedSave endNow();
     // The user looks at records again: a save that runs ends here.
     void stop();
 
@@ -75,8 +79,9 @@ private:
     void takeNext(const QByteArray& record);
     bool chooseFile();
     bool write(const vlk::RecordBytes& records);
-    void carryOutCancel();
-    void end();
+    // Each gives how many records the file got.
+    std::size_t carryOutCancel();
+    std::size_t end();
     void tellPart(const vlk::RecordBytes& records);
     void refuse(const QString& text);
     void showFetched();

@@ -105,7 +105,7 @@ void VLK_Widget_Tmi_Page::open(const QString& path)
     // A file may be large: two of them need not be in memory.
     pages_ = TelemetryPages();
     TelemetryContents contents = readStoredFile(path);
-    damageNotice_->tell(damageText(contents));
+    tellDamage(damageNotice_, contents, [this](int record) { ui_->horizontalSlider->setValue(record); });
     pages_ = std::move(contents.pages);
     ui_->label_NoRecord->hide();
     if (pages_.empty())

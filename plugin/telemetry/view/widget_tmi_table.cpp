@@ -78,13 +78,24 @@ void VLK_Widget_Tmi_Table::open(const QString& path)
     // A file may be large: two of them need not be in memory.
     model_->setContents({});
     vlk::TelemetryContents contents = vlk::readStoredFile(path);
-    damageNotice_->tell(vlk::damageText(contents));
+    vlk::tellDamage(damageNotice_, contents, [this](int record) { showRecord(record); });
     model_->setContents(std::move(contents));
     table_->scrollToTop();
     fitColumns();
     showTitle();
     // Shown before it reads, the window has a frame by then.
     QTimer::singleShot(0, this, [this] { vlk::fitToScreen(this); });
+}
+
+// The heading of a row is its place in the file, however the rows are sorted.
+void VLK_Widget_Tmi_Table::showRecord(int record)
+{
+    int row = 0;
+    while (row < model_->rowCount() &&
+           model_->headerData(row, Qt::Vertical, Qt::DisplayRole).toInt() != record)
+        ++row;
+    table_->selectRow(row);
+    table_->scrollTo(model_->index(row, 0), QAbstractItemView::PositionAtCenter);
 }
 
 void VLK_Widget_Tmi_Table::retranslate()

@@ -25,6 +25,7 @@ public:
 
 private:
     void showTitle();
+    void showRecord(int record);
     void fitColumns();
 
     vlk::NoticeBar* damageNotice_;

@@ -151,6 +151,12 @@ void VLK_Widget_Tmi_View::closeEvent(QCloseEvent* event)
     QDialog::closeEvent(event);
 }
 
+vlk::RunningWork VLK_Widget_Tmi_View::runningWork() const
+{
+    return {.saving = save_.isRunning() ? 1U : 0U,
+            .automatic = ui_->checkBox_Get_Auto_TMI->isChecked() ? 1U : 0U};
+}
+
 void VLK_Widget_Tmi_View::takeRecord(const QByteArray& record)
 {
     if (save_.saving()) {

@@ -49,6 +49,10 @@ public:
     void closeWindows();
     void retranslate();
 
+    // For a host that waits with the user for a record that does not come.
+    vlk::EndedSave endSave() { return save_.endNow(); }
+    vlk::RunningWork runningWork() const;
+
     // Answers of the host. Records come from their type byte on.
     void takeRecord(const QByteArray& record);
     void takeClearedRecord(const QByteArray& record);

@@ -1,0 +1,76 @@
+#include "window/front_notice.h"
+
+#include "window/plugin_link.h"
+#include "window/plugin_windows.h"
+
+namespace vlk {
+
+namespace {
+
+constexpr int newsMs = 8000;
+
+} // namespace
+
+FrontNotice::FrontNotice(const PluginLink& link, PluginWindows& windows) : windows_(windows)
+{
+    news_.setInterval(newsMs);
+    connect(&news_, &QTimer::timeout, this, [this] {
+        if (!notice_ || !notice_->underMouse())
+            tell(Result, {});
+    });
+    connect(&link, &PluginLink::passed, this, [this](Direction, quint32 id) {
+        if (id == quint32(Message::OpenTelemetry))
+            noteTelemetry();
+    });
+    connect(&windows_, &PluginWindows::opened, this, [this](QWidget* window) {
+        if (std::exchange(isOpeningTelemetry_, false))
+            telemetry_ = window;
+    });
+    connect(&windows_, &PluginWindows::closed, this, [this] { tell(Result, {}); });
+}
+
+FrontNotice::~FrontNotice()
+{
+    // The windows of the plug-in live on.
+    delete notice_;
+}
+
+// The plug-in opens its window within the message, unless it is open.
+void FrontNotice::noteTelemetry()
+{
+    isOpeningTelemetry_ = true;
+    QMetaObject::invokeMethod(
+        this, [this] { isOpeningTelemetry_ = false; }, Qt::QueuedConnection);
+}
+
+void FrontNotice::tell(Topic topic, const Told& notice)
+{
+    if (topic == Result)
+        news_.stop();
+    told_[topic] = notice;
+    show();
+}
+
+void FrontNotice::tellNews(const Told& notice)
+{
+    tell(Result, notice);
+    news_.start();
+}
+
+void FrontNotice::show()
+{
+    QWidget* owner = windows_.modal() ? windows_.modal() : telemetry_.data();
+    if (notice_ && (notice_->parentWidget() != owner || !owner->isVisible())) {
+        notice_->hide();
+        notice_->deleteLater();
+        notice_.clear();
+    }
+    if (!owner || !owner->isVisible())
+        return;
+    if (!notice_)
+        notice_ = new WindowNotice(owner);
+    for (int topic = 0; topic < TopicCount; ++topic)
+        notice_->say(topic, told_[topic]);
+}
+
+} // namespace vlk

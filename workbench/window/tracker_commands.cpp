@@ -1,0 +1,176 @@
+#include "window/tracker_commands.h"
+
+#include "check/record_check.h"
+#include "window/languages.h"
+#include "window/request_table.h"
+#include "window/trouble_text.h"
+
+#include <QStringList>
+
+#include <cmath>
+
+namespace vlk {
+
+namespace {
+
+constexpr double sameKm = 1; // the vehicle goes on while it is asked
+
+QString servers(const std::vector<int>& numbers)
+{
+    QStringList list;
+    for (const int number : numbers)
+        list.append(vlk::number(number));
+    return list.join(QLatin1String(", "));
+}
+
+QString km(double mileage)
+{
+    return vlk::number(std::llround(mileage));
+}
+
+TrackerCommands::Sentence saying(const char* key)
+{
+    return [key] { return vlk::text(key); };
+}
+
+} // namespace
+
+TrackerCommands::TrackerCommands(tracker::SimulatedTracker& tracker, RepeatedRequests& requests,
+                                 PluginLink& link)
+    : tracker_(tracker), requests_(requests), link_(link)
+{
+    connect(&tracker_, &tracker::SimulatedTracker::attachedChanged, this, [this] { cleared_.clear(); });
+}
+
+bool TrackerCommands::take(Message message, void* p1)
+{
+    if (!hasEffect(message, Effect::Destroys) && !hasEffect(message, Effect::Switches))
+        return false;
+    Command command{message, 0, 0};
+    if (message == Message::SetMileage) {
+        if (p1 == nullptr)
+            return true;
+        command.mileage = *static_cast<const float*>(p1);
+    } else {
+        command.number = static_cast<int>(asValue(p1));
+    }
+    // The next server of a sequence, which was asked for.
+    if (isAnswered_ && message == Message::ClearServerData) {
+        isAnswered_ = false;
+        cleared_.push_back(command.number);
+        Q_EMIT sent(message);
+        requests_.send(message, p1, nullptr);
+        return true;
+    }
+    commands_.push_back(command);
+    if (commands_.size() == 1)
+        QMetaObject::invokeMethod(this, &TrackerCommands::carryOutNext, Qt::QueuedConnection);
+    return true;
+}
+
+void TrackerCommands::carryOutNext()
+{
+    const Command command = commands_.front();
+    if (command.message == Message::ClearServerData)
+        clear(command);
+    else if (command.message == Message::SetMileage)
+        setMileage(command);
+    else
+        switchOutput(command);
+    commands_.erase(commands_.begin());
+    if (!commands_.empty())
+        QMetaObject::invokeMethod(this, &TrackerCommands::carryOutNext, Qt::QueuedConnection);
+}
+
+const char* TrackerCommands::whyNotNow()
+{
+    if (!tracker_.attached())
+        return "wb_command_detached";
+    const RunningWork running = link_.runningWork();
+    if (running.saving != 0)
+        return "wb_command_saving";
+    return running.automatic != 0 ? "wb_command_automatic" : nullptr;
+}
+
+bool TrackerCommands::isAllowed(const QString& question, const char* verb)
+{
+    const char* reason = whyNotNow();
+    if (reason == nullptr && mayDestroy_)
+        reason = mayDestroy_(question, vlk::text(verb)) ? whyNotNow() : "wb_command_cancelled";
+    if (reason != nullptr)
+        Q_EMIT failed(saying(reason));
+    return reason == nullptr;
+}
+
+void TrackerCommands::clear(const Command& command)
+{
+    if (!isAllowed(vlk::text("wb_clear_question").arg(vlk::number(command.number)), "wb_clear_verb"))
+        return;
+    cleared_ = {command.number};
+    isDoubtful_ = false;
+    Q_EMIT sent(command.message);
+    requests_.send(command.message, asParameter(command.number), nullptr);
+}
+
+void TrackerCommands::handOver(Message answer, void* p1, void* p2)
+{
+    isAnswered_ = answer == Message::ClearedRecord && !cleared_.empty();
+    if (isAnswered_)
+        isDoubtful_ |= p1 == nullptr || RecordCheck().look(answer, *static_cast<const QByteArray*>(p1));
+    link_.send(answer, p1, p2);
+    // Reset when the plug-in went on to the next server.
+    if (!std::exchange(isAnswered_, false))
+        return;
+    const auto told = [numbers = std::exchange(cleared_, {})](const char* key) {
+        return [numbers, key] { return vlk::text(key).arg(servers(numbers)); };
+    };
+    if (isDoubtful_)
+        Q_EMIT failed(told("wb_clear_unknown"));
+    else
+        Q_EMIT done(told("wb_clear_done"));
+}
+
+void TrackerCommands::setMileage(const Command& command)
+{
+    const std::optional<tracker::Present> before = tracker_.readPresent();
+    const QString wanted = km(command.mileage);
+    if (!isAllowed(before ? vlk::text("wb_mileage_question").arg(wanted, km(before->mileage))
+                          : vlk::text("wb_mileage_question_blind").arg(wanted),
+                   "wb_mileage_verb"))
+        return;
+    float mileage = command.mileage;
+    requests_.send(command.message, &mileage, nullptr);
+    look([this, before, mileage, wanted](const std::optional<tracker::Present>& present) {
+        if (!present || std::abs(present->mileage - mileage) > sameKm)
+            Q_EMIT failed([wanted] { return vlk::text("wb_mileage_unknown").arg(wanted); });
+        else if (before)
+            Q_EMIT done(
+                [wanted, before] { return vlk::text("wb_mileage_done").arg(wanted, km(before->mileage)); });
+        else
+            Q_EMIT done([wanted] { return vlk::text("wb_mileage_done_blind").arg(wanted); });
+    });
+}
+
+void TrackerCommands::switchOutput(const Command& command)
+{
+    requests_.send(command.message, asParameter(command.number), nullptr);
+    const bool on = command.message == Message::OutputOn;
+    look([this, on, output = command.number](const std::optional<tracker::Present>& present) {
+        const bool isOn = present && output > 0 && (quint64{present->outputs} << 1 >> output & 1) != 0;
+        const auto told = [output](const char* key) {
+            return [output, key] { return vlk::text(key).arg(vlk::number(output)); };
+        };
+        if (!present || isOn != on)
+            Q_EMIT failed(told(on ? "wb_output_on_unknown" : "wb_output_off_unknown"));
+        else
+            Q_EMIT done(told(on ? "wb_output_on" : "wb_output_off"));
+    });
+}
+
+void TrackerCommands::look(const std::function<void(const std::optional<tracker::Present>&)>& tell)
+{
+    QTimer::singleShot(qMax(0, tracker_.faults().delayMs), this,
+                       [this, tell] { tell(tracker_.readPresent()); });
+}
+
+} // namespace vlk

@@ -1,0 +1,69 @@
+#pragma once
+
+// The commands of the plug-in that change the tracker: one that destroys is asked of the user before it is
+// sent, and refused while records are on their way by themselves; what became of it, and of an output that
+// was switched, is told. Clearing the data of several servers is one sequence, which is asked for once.
+//
+// Nothing is asked within the call of the plug-in, which is in the middle of its own work there.
+
+#include "window/plugin_link.h"
+#include "window/repeated_requests.h"
+
+namespace vlk {
+
+class TrackerCommands : public QObject
+{
+    Q_OBJECT
+
+public:
+    // The text of the question and that of the button that agrees.
+    using Question = std::function<bool(const QString& text, const QString& verb)>;
+    using Sentence = std::function<QString()>;
+
+    TrackerCommands(tracker::SimulatedTracker& tracker, RepeatedRequests& requests, PluginLink& link);
+
+    // Without one nothing is asked.
+    void setQuestion(Question question) { mayDestroy_ = std::move(question); }
+
+    // False when it is no command.
+    bool take(Message command, void* p1);
+    // Hands an answer of the tracker over, by which a sequence may go on or end.
+    void handOver(Message answer, void* p1, void* p2);
+
+Q_SIGNALS:
+    // A command is on its way that the tracker answers.
+    void sent(vlk::Message command);
+    void done(const vlk::TrackerCommands::Sentence& sentence);
+    // It was not sent, or nobody knows what became of it.
+    void failed(const vlk::TrackerCommands::Sentence& sentence);
+
+private:
+    struct Command
+    {
+        Message message;
+        int number;    // the output or the server
+        float mileage; // km
+    };
+
+    void carryOutNext();
+    void clear(const Command& command);
+    void setMileage(const Command& command);
+    void switchOutput(const Command& command);
+    // The key of the text that says it; null where a command that destroys may be sent.
+    const char* whyNotNow();
+    // Asks, and says why it is not to be sent where that is so.
+    bool isAllowed(const QString& question, const char* verb);
+    // When the tracker had as much time as it takes for an answer.
+    void look(const std::function<void(const std::optional<tracker::Present>& present)>& tell);
+
+    tracker::SimulatedTracker& tracker_;
+    RepeatedRequests& requests_;
+    PluginLink& link_;
+    Question mayDestroy_;
+    std::vector<Command> commands_; // the first one is being carried out
+    bool isAnswered_ = false;       // the answer to a clearing is being handed over
+    std::vector<int> cleared_;      // servers of the sequence
+    bool isDoubtful_ = false;       // an answer of the sequence cannot be right
+};
+
+} // namespace vlk
