@@ -138,7 +138,7 @@ void switchLastModbusRow(benchmark::State& state)
 void changeLanguage(benchmark::State& state)
 {
     const DialogPtr dialog = openedAt(kOperators);
-    vlk::KeyTranslator english;
+    workbench::KeyTranslator english;
     if (!english.load(QStringLiteral(VLK_TEXTS "/en.qm")))
         qFatal("no texts in " VLK_TEXTS);
     bool isEnglish = false;

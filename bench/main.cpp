@@ -13,7 +13,7 @@ int main(int argc, char** argv)
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    vlk::KeyTranslator texts;
+    workbench::KeyTranslator texts;
     if (!texts.load(QStringLiteral(VLK_TEXTS "/ru.qm")))
         qFatal("no texts in " VLK_TEXTS);
     QCoreApplication::installTranslator(&texts);

@@ -40,16 +40,16 @@ void useUtf8InPlaceOfAscii()
 
 // Help, version and complaints need no display. The sentence about a missing one is found here too, because
 // it cannot be looked up while the application is in the making.
-vlk::CommandLine readCommandLine(int& argc, char* argv[], QString& noDisplay)
+workbench::CommandLine readCommandLine(int& argc, char* argv[], QString& noDisplay)
 {
     const QCoreApplication application(argc, argv);
     nameApplication();
     useUtf8InPlaceOfAscii();
-    vlk::Languages languages;
-    languages.set(
-        vlk::CommandLine::languageOf(QCoreApplication::arguments()).value_or(vlk::Languages::ofSystem()));
-    noDisplay = vlk::text("wb_no_display").arg(QCoreApplication::arguments().value(0));
-    vlk::CommandLine line = vlk::CommandLine::parse(QCoreApplication::arguments());
+    workbench::Languages languages;
+    languages.set(workbench::CommandLine::languageOf(QCoreApplication::arguments())
+                      .value_or(workbench::Languages::ofSystem()));
+    noDisplay = workbench::text("wb_no_display").arg(QCoreApplication::arguments().value(0));
+    workbench::CommandLine line = workbench::CommandLine::parse(QCoreApplication::arguments());
     // Nobody looks at a tour, so it asks for no display unless it is told which.
     if (!line.tour.isEmpty() && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -59,30 +59,30 @@ vlk::CommandLine readCommandLine(int& argc, char* argv[], QString& noDisplay)
 }
 
 // Without a usable data folder there is nothing to run with.
-int complain(const vlk::DataFolder& folder, bool withBox)
+int complain(const workbench::DataFolder& folder, bool withBox)
 {
-    const QString sentence = folder.isInUse() ? vlk::text("wb_data_in_use").arg(folder.error())
-                                              : vlk::text("wb_data_unwritable").arg(folder.error());
+    const QString sentence = folder.isInUse() ? workbench::text("wb_data_in_use").arg(folder.error())
+                                              : workbench::text("wb_data_unwritable").arg(folder.error());
     std::fprintf(stderr, "%s\n", qPrintable(sentence));
     if (withBox)
-        QMessageBox::warning(nullptr, vlk::text("wb_title"), sentence);
+        QMessageBox::warning(nullptr, workbench::text("wb_title"), sentence);
     return failed;
 }
 
 std::unique_ptr<QApplication> makeApplication(int& argc, char* argv[], const QString& noDisplay)
 {
-    const vlk::DisplayGuard guard(noDisplay, failed);
+    const workbench::DisplayGuard guard(noDisplay, failed);
     return std::make_unique<QApplication>(argc, argv);
 }
 
-bool runTour(vlk::WorkbenchWindow& window, const QString& folder)
+bool runTour(workbench::WorkbenchWindow& window, const QString& folder)
 {
-    vlk::Tour tour(window, folder);
-    tour.add(vlk::configurationTour());
-    tour.add(vlk::quickTour());
-    tour.add(vlk::telemetryTour());
-    tour.add(vlk::fuelTour());
-    tour.add(vlk::filesTour());
+    workbench::Tour tour(window, folder);
+    tour.add(workbench::configurationTour());
+    tour.add(workbench::quickTour());
+    tour.add(workbench::telemetryTour());
+    tour.add(workbench::fuelTour());
+    tour.add(workbench::filesTour());
     return tour.run();
 }
 
@@ -93,36 +93,36 @@ int main(int argc, char* argv[])
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QString noDisplay;
-    const vlk::CommandLine line = readCommandLine(argc, argv, noDisplay);
+    const workbench::CommandLine line = readCommandLine(argc, argv, noDisplay);
     if (line.exitCode)
         return *line.exitCode;
 
     const auto application = makeApplication(argc, argv, noDisplay);
     nameApplication();
-    vlk::HouseStyle::setUp();
-    QApplication::setWindowIcon(vlk::applicationIcon());
+    workbench::HouseStyle::setUp();
+    QApplication::setWindowIcon(workbench::applicationIcon());
 
     // A tour leaves the user's own tracker alone.
     const QTemporaryDir tourData;
     const bool isTour = !line.tour.isEmpty();
-    const vlk::DataFolder folder(isTour && line.data.isEmpty() ? tourData.path() : line.data);
-    vlk::Languages languages;
+    const workbench::DataFolder folder(isTour && line.data.isEmpty() ? tourData.path() : line.data);
+    workbench::Languages languages;
     if (!folder.isUsable()) {
-        languages.set(line.language.value_or(vlk::Languages::ofSystem()));
+        languages.set(line.language.value_or(workbench::Languages::ofSystem()));
         return complain(folder, !isTour && folder.isInUse());
     }
-    vlk::Settings settings(folder.settingsFile());
+    workbench::Settings settings(folder.settingsFile());
     settings.setForThisRun(line.language, line.mode);
     languages.set(settings.language());
-    vlk::apply(settings.appearance());
+    workbench::apply(settings.appearance());
 
-    vlk::WorkbenchWindow window(folder, settings, languages);
+    workbench::WorkbenchWindow window(folder, settings, languages);
     window.show();
-    const bool started = window.start(vlk::pluginPath());
+    const bool started = window.start(workbench::pluginPath());
     if (folder.isTemporary())
-        window.tellOfRun([&] { return vlk::text("wb_data_temporary").arg(folder.error()); });
+        window.tellOfRun([&] { return workbench::text("wb_data_temporary").arg(folder.error()); });
     else if (settings.wasDamaged() && started)
-        window.tellOfRun([] { return vlk::text("wb_settings_damaged"); });
+        window.tellOfRun([] { return workbench::text("wb_settings_damaged"); });
 
     if (isTour) {
         // It drives the file dialogs by the names of their widgets.

@@ -219,7 +219,7 @@ private:
     }
 
     ScriptedHost host_;
-    vlk::Languages languages_;
+    workbench::Languages languages_;
     QWidget* window_ = nullptr;
     QTabWidget* tabs_ = nullptr;
 };

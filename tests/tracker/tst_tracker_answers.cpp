@@ -169,7 +169,7 @@ private Q_SLOTS:
         QCOMPARE(records.size(), 8000);
         for (const QByteArray& record : records)
             codes += word(record, quint8(record.at(0)) == 177 ? 9 : 38);
-        vlk::KeyTranslator translator;
+        workbench::KeyTranslator translator;
         for (const char* language : {"ru", "en"}) {
             QVERIFY(translator.load(language, VLK_TEXTS));
             QCoreApplication::installTranslator(&translator);

@@ -148,8 +148,8 @@ private Q_SLOTS:
             const Told told = bench.ask(request, p1);
             QCOMPARE(int(told.id), int(answer));
             // What the host looks for in an answer, a sound tracker has.
-            QVERIFY(vlk::RecordCheck::carriesRecord(told.id));
-            QVERIFY(!vlk::RecordCheck().look(told.id, told.first));
+            QVERIFY(workbench::RecordCheck::carriesRecord(told.id));
+            QVERIFY(!workbench::RecordCheck().look(told.id, told.first));
             const QByteArray record = told.first.mid(header);
             QCOMPARE(at<quint16>(told.first, header == 2 ? 0 : 1), quint16(record.size()));
             QCOMPARE(int(quint8(record.at(0))), request == Message::RequestExtraPacket ? 177 : 176);

@@ -21,9 +21,9 @@ struct OpenedWorkbench
     }
 
     QTemporaryDir root;
-    vlk::DataFolder folder{root.path()};
-    vlk::Settings settings{folder.settingsFile()};
-    vlk::Languages languages;
+    workbench::DataFolder folder{root.path()};
+    workbench::Settings settings{folder.settingsFile()};
+    workbench::Languages languages;
     bool english = languages.set(QStringLiteral("en"));
-    vlk::WorkbenchWindow window{folder, settings, languages};
+    workbench::WorkbenchWindow window{folder, settings, languages};
 };

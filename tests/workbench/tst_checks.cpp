@@ -11,10 +11,10 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-using vlk::AnswerProblem;
-using vlk::ConfigurationProblem;
 using vlk::Message;
-using vlk::TelemetryFileProblem;
+using workbench::AnswerProblem;
+using workbench::ConfigurationProblem;
+using workbench::TelemetryFileProblem;
 
 namespace {
 
@@ -85,7 +85,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, bytes);
         QFETCH(int, line);
         QFETCH(int, column);
-        const auto problem = vlk::checkConfiguration(bytes, QStringLiteral("R-7106"));
+        const auto problem = workbench::checkConfiguration(bytes, QStringLiteral("R-7106"));
         QTEST(kindOf(problem), "kind");
         if (!problem)
             return;
@@ -101,10 +101,10 @@ private Q_SLOTS:
         tracker::SimulatedTracker tracker(folder.path());
         tracker.attach();
         const QByteArray whole = tracker.readConfiguration().document;
-        QCOMPARE(kindOf(vlk::checkConfiguration(whole, tracker.model())), fine);
+        QCOMPARE(kindOf(workbench::checkConfiguration(whole, tracker.model())), fine);
         const int end = whole.lastIndexOf('>');
         for (int size = 1; size <= end; size += size < end - 100 ? 97 : 1)
-            QVERIFY2(vlk::checkConfiguration(whole.left(size), tracker.model()),
+            QVERIFY2(workbench::checkConfiguration(whole.left(size), tracker.model()),
                      qPrintable(QString::number(size)));
     }
 
@@ -136,10 +136,10 @@ private Q_SLOTS:
         QFETCH(QByteArray, bytes);
         const QTemporaryDir folder;
         const QString path = writeFile(folder.filePath(QStringLiteral("file.tmi")), bytes);
-        const auto problem = vlk::checkTelemetryFile(path);
+        const auto problem = workbench::checkTelemetryFile(path);
         QTEST(kindOf(problem), "kind");
         QVERIFY(!problem || problem->bytes == bytes.size());
-        QCOMPARE(kindOf(vlk::checkTelemetryFile(folder.filePath(QStringLiteral("none.tmi")))),
+        QCOMPARE(kindOf(workbench::checkTelemetryFile(folder.filePath(QStringLiteral("none.tmi")))),
                  int(TelemetryFileProblem::Unreadable));
     }
 
@@ -173,7 +173,7 @@ private Q_SLOTS:
     void record()
     {
         QFETCH(QByteArray, bytes);
-        vlk::RecordCheck check;
+        workbench::RecordCheck check;
         QCOMPARE(kindOf(check.look(Message::CurrentRecord, answer(recordAt(present)))), fine);
         QTEST(kindOf(check.look(Message::CurrentRecord, bytes)), "kind");
         // A record by its number has a header of another request.
@@ -184,7 +184,7 @@ private Q_SLOTS:
     // One wrong record is doubted; two that agree show that it was the one before that was wrong.
     void believesTheMajority()
     {
-        vlk::RecordCheck check;
+        workbench::RecordCheck check;
         const auto look = [&check](qint64 time) {
             return kindOf(check.look(Message::CurrentRecord, answer(recordAt(time))));
         };

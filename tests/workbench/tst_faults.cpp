@@ -148,7 +148,7 @@ struct Bench : OpenedWorkbench
     {
         const auto* log = window.findChild<QTableView*>(QStringLiteral("tableView_Log"))->model();
         return log
-            ->match(log->index(0, vlk::MessageLogModel::Parameters), Qt::DisplayRole, text, -1,
+            ->match(log->index(0, workbench::MessageLogModel::Parameters), Qt::DisplayRole, text, -1,
                     Qt::MatchContains)
             .size();
     }
@@ -240,7 +240,7 @@ private Q_SLOTS:
         bench.tracker().setFaults({.silence = true});
         const QString again = QStringLiteral("request 2302 was sent to the tracker again");
         QTRY_VERIFY_WITH_TIMEOUT(bench.logged(again) > 1, 10'000);
-        bench.tracker().setFaults({.delayMs = vlk::AnswerWatch::patienceMs + 500});
+        bench.tracker().setFaults({.delayMs = workbench::AnswerWatch::patienceMs + 500});
         QTRY_VERIFY_WITH_TIMEOUT(bench.logged(QStringLiteral("Message 2303 came twice")) > 0, 20'000);
         bench.tracker().setFaults({});
         QTRY_VERIFY2_WITH_TIMEOUT(bench.status().startsWith(QLatin1String("Saved: ")),
@@ -351,7 +351,7 @@ private Q_SLOTS:
     {
         const Faults none, silence{.silence = true}, shortened{.shortAnswers = true},
             garbled{.garbledAnswers = true}, unplug{.unplug = true}, board{.badBoard = true},
-            delay{.delayMs = 20}, late{.delayMs = vlk::AnswerWatch::patienceMs + 1000};
+            delay{.delayMs = 20}, late{.delayMs = workbench::AnswerWatch::patienceMs + 1000};
         const QString ready = QStringLiteral("Ready");
         const QString written = QStringLiteral("Configuration written");
         const QString closed = QStringLiteral("so its telemetry window was closed");
@@ -437,7 +437,7 @@ private Q_SLOTS:
         Bench bench;
         bench.prepare(Step(step));
         bench.boxes.clear();
-        connect(&bench.window.session().link(), &vlk::PluginLink::passed, this,
+        connect(&bench.window.session().link(), &workbench::PluginLink::passed, this,
                 [&answered](vlk::Direction way, quint32) { answered |= way == vlk::Direction::ToPlugin; });
         bench.tracker().setFaults(faults);
         std::optional<FullDisk> disk;
@@ -481,8 +481,8 @@ private Q_SLOTS:
             QCOMPARE(QFile::exists(bench.file()), bench.status().startsWith(QLatin1String("Saved: ")));
         const auto* log = bench.window.findChild<QTableView*>(QStringLiteral("tableView_Log"))->model();
         const QModelIndexList marked =
-            log->match(log->index(0, vlk::MessageLogModel::Parameters), Qt::DisplayRole, QStringLiteral("⚠"),
-                       1, Qt::MatchStartsWith);
+            log->match(log->index(0, workbench::MessageLogModel::Parameters), Qt::DisplayRole,
+                       QStringLiteral("⚠"), 1, Qt::MatchStartsWith);
         QCOMPARE(!marked.isEmpty(), (step == Live || step == Period || step == Clear) &&
                                         (faults.shortAnswers || faults.garbledAnswers));
 

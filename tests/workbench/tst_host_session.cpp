@@ -18,11 +18,11 @@ namespace {
 struct Bench
 {
     QTemporaryDir root;
-    vlk::Languages languages;
+    workbench::Languages languages;
     bool english = languages.set(QStringLiteral("en"));
-    vlk::DataFolder folder{root.path()};
-    vlk::HostSession session{folder.trackerFolder()};
-    QSignalSpy written{&session, &vlk::HostSession::configurationWritten};
+    workbench::DataFolder folder{root.path()};
+    workbench::HostSession session{folder.trackerFolder()};
+    QSignalSpy written{&session, &workbench::HostSession::configurationWritten};
 
     bool start()
     {
@@ -68,8 +68,9 @@ private Q_SLOTS:
         Bench bench;
         QVERIFY(bench.start());
         QCOMPARE(bench.session.link().version(), QStringLiteral("1.2.3.4"));
-        vlk::MessageLogModel log;
-        connect(&bench.session.link(), &vlk::PluginLink::passed, &log, &vlk::MessageLogModel::append);
+        workbench::MessageLogModel log;
+        connect(&bench.session.link(), &workbench::PluginLink::passed, &log,
+                &workbench::MessageLogModel::append);
 
         QCOMPARE(bench.session.readConfiguration(true), QString());
         const WriteReport report = bench.report();
@@ -130,7 +131,7 @@ private Q_SLOTS:
                                        "<DEVICE model=\"R-7106\"><PROTOCOL><ZETA format=\"30\" mask=\"" +
                                            mask + "\"/></PROTOCOL></DEVICE>");
         QCOMPARE(bench.session.openConfiguration(path, false), QString());
-        const QStringList said = vlk::summary(bench.report()).split('\n');
+        const QStringList said = workbench::summary(bench.report()).split('\n');
         QVERIFY2(said[0].endsWith("can keep, bytes: 768"), qPrintable(said[0]));
         QVERIFY2(said.value(1).contains("\"Data set\""), qPrintable(said.value(1)));
     }
@@ -152,12 +153,13 @@ private Q_SLOTS:
         Bench bench;
         QVERIFY(bench.start());
         QVector<quint32> passed;
-        connect(&bench.session.link(), &vlk::PluginLink::passed, this,
+        connect(&bench.session.link(), &workbench::PluginLink::passed, this,
                 [&passed](vlk::Direction, quint32 id) { passed.append(id); });
-        using Ask = QString (*)(vlk::HostSession&);
+        using Ask = QString (*)(workbench::HostSession&);
         const std::pair<const char*, Ask> asked[] = {
-            {"not read", [](vlk::HostSession& session) { return session.readConfiguration(true); }},
-            {"Telemetry did not come", [](vlk::HostSession& session) { return session.liveTelemetry(); }}};
+            {"not read", [](workbench::HostSession& session) { return session.readConfiguration(true); }},
+            {"Telemetry did not come",
+             [](workbench::HostSession& session) { return session.liveTelemetry(); }}};
         for (const auto& [what, ask] : asked) {
             bench.session.tracker().attach();
             bench.session.tracker().setFaults(faults);
@@ -182,7 +184,7 @@ private Q_SLOTS:
             of = file;
             return answer;
         });
-        QSignalSpy cancelled(&bench.session, &vlk::HostSession::writeCancelled);
+        QSignalSpy cancelled(&bench.session, &workbench::HostSession::writeCancelled);
         bench.session.newConfiguration(true);
         QVERIFY(QFile::exists(QStringLiteral("vlk_echo.xml")));
         QVERIFY(cancelled.wait());
@@ -243,7 +245,7 @@ private Q_SLOTS:
     {
         Bench bench;
         QVERIFY(bench.start());
-        QSignalSpy help(&bench.session, &vlk::HostSession::helpRequested);
+        QSignalSpy help(&bench.session, &workbench::HostSession::helpRequested);
         bench.session.link().send(vlk::Message::RaiseConfiguration);
         QCOMPARE(help.size(), 1);
         QCOMPARE(help.first().first().toString(), QStringLiteral("r-7106p1.html"));

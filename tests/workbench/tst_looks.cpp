@@ -102,7 +102,7 @@ private Q_SLOTS:
         OpenedWorkbench bench;
         QVERIFY(bench.start(VLK_PLUGIN));
         // The plug-in's windows have the language that they had last.
-        for (const QString& other : vlk::Languages::codes())
+        for (const QString& other : workbench::Languages::codes())
             bench.window.setLanguage(other);
         bench.window.setLanguage(language);
         const auto look = [&size](QWidget* window) {
@@ -125,7 +125,7 @@ private Q_SLOTS:
         QCOMPARE(look(&bench.window), QString());
         bench.action("action_Faults")->trigger();
         QCOMPARE(cutIn(bench.window.findChild<QDialog*>("dialog_Faults")), QString());
-        vlk::FoldersDialog folders({}, {}, &bench.window);
+        workbench::FoldersDialog folders({}, {}, &bench.window);
         folders.show();
         QCOMPARE(cutIn(&folders), QString());
 
@@ -145,9 +145,9 @@ private Q_SLOTS:
         const QString file =
             writeFile(bench.root.filePath("one.xml"),
                       "<?xml version=\"1.0\"?>\n<TMI model=\"R-7106\">\n" + page + "</TMI>\n");
-        bench.window.openFile(file, vlk::TelemetryWindow::Browser);
+        bench.window.openFile(file, workbench::TelemetryWindow::Browser);
         QCOMPARE(look(windowOf("VLK_Widget_Tmi_Page")), QString());
-        bench.window.openFile(file, vlk::TelemetryWindow::Table);
+        bench.window.openFile(file, workbench::TelemetryWindow::Table);
         QCOMPARE(look(windowOf("VLK_Widget_Tmi_Table")), QString());
         click(telemetry, "pushButton_Get_Current_RFID");
         QTRY_COMPARE(telemetry->findChild<QStackedWidget*>("stackedWidget")->currentIndex(), 4);
@@ -218,7 +218,7 @@ int main(int argc, char* argv[])
     qputenv("QT_SCALE_FACTOR", "0.5");
     QApplication application(argc, argv);
     QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
-    vlk::HouseStyle::setUp();
+    workbench::HouseStyle::setUp();
     LooksTest test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -57,21 +57,21 @@ private Q_SLOTS:
             }
         }
         QVERIFY(categories.size() > 10);
-        for (const QString& language : vlk::Languages::codes()) {
-            vlk::Languages languages;
+        for (const QString& language : workbench::Languages::codes()) {
+            workbench::Languages languages;
             QVERIFY(languages.set(language));
             for (const QString& name : std::as_const(categories)) {
                 const QString words =
-                    vlk::PluginLog::words(name, QStringLiteral("/a%2: b at byte 1, 20 bytes"));
+                    workbench::PluginLog::words(name, QStringLiteral("/a%2: b at byte 1, 20 bytes"));
                 QVERIFY2(!words.isEmpty() && !words.startsWith(QLatin1String("wb_")), qPrintable(name));
             }
         }
-        vlk::Languages english;
+        workbench::Languages english;
         QVERIFY(english.set(QStringLiteral("en")));
-        QCOMPARE(vlk::PluginLog::words(QStringLiteral("vlk.files.damage"),
-                                       QStringLiteral("/a%2: no record at byte 1234567, 20 bytes")),
+        QCOMPARE(workbench::PluginLog::words(QStringLiteral("vlk.files.damage"),
+                                             QStringLiteral("/a%2: no record at byte 1234567, 20 bytes")),
                  QStringLiteral("/a%2 holds no record at byte 1,234,567: 20\u00a0B were passed over."));
-        QCOMPARE(vlk::PluginLog::words(QStringLiteral("other"), {}), QString());
+        QCOMPARE(workbench::PluginLog::words(QStringLiteral("other"), {}), QString());
         // No English is left of a warning but the reason, which the system words.
         QVERIFY(english.set(QStringLiteral("ru")));
         for (const auto& [name, message] :
@@ -82,7 +82,7 @@ private Q_SLOTS:
               {"vlk.fuel", "/a is too large for a calibration table"},
               {"vlk.fuel", "/a holds no calibration table"},
               {"vlk.fuel", "the document holds more rows than a calibration table"}}) {
-            QString words = vlk::PluginLog::words(QLatin1String(name), QLatin1String(message));
+            QString words = workbench::PluginLog::words(QLatin1String(name), QLatin1String(message));
             QVERIFY2(
                 !words.remove(QStringLiteral("/a")).contains(QRegularExpression(QStringLiteral("[a-z]"))),
                 qPrintable(words));
@@ -142,8 +142,8 @@ private Q_SLOTS:
         QFETCH(Message, number);
         QFETCH(void*, first);
         QFETCH(void*, second);
-        const auto text = vlk::describeMessage(toHost ? Direction::ToHost : Direction::ToPlugin,
-                                               quint32(number), first, second);
+        const auto text = workbench::describeMessage(toHost ? Direction::ToHost : Direction::ToPlugin,
+                                                     quint32(number), first, second);
         QTEST(text.words, "words");
         QTEST(text.bytes, "bytes");
     }
@@ -162,19 +162,20 @@ private Q_SLOTS:
             const bool ofStrings = info.number == Message::SetPaths || info.number == Message::SetIdentity ||
                                    info.number == Message::TrackerAttached;
             const void* record = ofStrings ? static_cast<const void*>(&strings) : zeroes.constData();
-            const auto text = vlk::describeMessage(info.direction, quint32(info.number), record, nullptr);
+            const auto text =
+                workbench::describeMessage(info.direction, quint32(info.number), record, nullptr);
             QVERIFY2(!text.words.isEmpty() || !text.bytes.isEmpty(), info.name);
         }
     }
 
     void keepsABoundedNumber()
     {
-        vlk::MessageLogModel model(100);
+        workbench::MessageLogModel model(100);
         const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
         for (std::int32_t n = 0; n < 250; ++n)
             model.append(Direction::ToPlugin, quint32(Message::SetHostMode), &n, nullptr);
         QVERIFY(model.rowCount() <= 100 && model.rowCount() >= 90);
-        const QModelIndex last = model.index(model.rowCount() - 1, vlk::MessageLogModel::Parameters);
+        const QModelIndex last = model.index(model.rowCount() - 1, workbench::MessageLogModel::Parameters);
         QCOMPARE(last.data().toString(), QStringLiteral("249"));
         model.clear();
         QCOMPARE(model.rowCount(), 0);
@@ -182,7 +183,7 @@ private Q_SLOTS:
 
     void filters_data()
     {
-        using enum vlk::MessageLogFilter::Directions;
+        using enum workbench::MessageLogFilter::Directions;
         DataTable<QString, int, int>({"words", "directions", "shown"})
             .row("nothing", {}, int(Both), 4)
             .row("number", "2301", int(Both), 1)
@@ -195,15 +196,15 @@ private Q_SLOTS:
     }
     void filters()
     {
-        vlk::MessageLogModel model;
-        vlk::MessageLogFilter filter;
+        workbench::MessageLogModel model;
+        workbench::MessageLogFilter filter;
         const QAbstractItemModelTester tester(&filter,
                                               QAbstractItemModelTester::FailureReportingMode::QtTest);
         filter.setSourceModel(&model);
         QFETCH(QString, words);
         QFETCH(int, directions);
         filter.setWords(words);
-        filter.setDirections(vlk::MessageLogFilter::Directions(directions));
+        filter.setDirections(workbench::MessageLogFilter::Directions(directions));
         const QByteArray record("\x0a\xff", 2);
         const std::int32_t mode = 1;
         model.append(Direction::ToHost, quint32(Message::RequestCurrentRecord), nullptr, nullptr);
@@ -215,10 +216,10 @@ private Q_SLOTS:
 
     void savesWhatIsShown()
     {
-        vlk::Languages languages;
+        workbench::Languages languages;
         QVERIFY(languages.set(QStringLiteral("en")));
-        vlk::MessageLogModel model;
-        vlk::MessageLogView view(&model);
+        workbench::MessageLogModel model;
+        workbench::MessageLogView view(&model);
         const std::int32_t mode = 2;
         model.append(Direction::ToPlugin, quint32(Message::SetHostMode), &mode, nullptr);
         model.append(Direction::ToPlugin, quint32(Message::LanguageChanged), nullptr, nullptr);

@@ -43,15 +43,15 @@ private Q_SLOTS:
     // The compiled texts, asked the way the plug-in asks: from any class, by key.
     void translatesByKey()
     {
-        vlk::Languages languages;
+        workbench::Languages languages;
         QVERIFY(languages.set(QStringLiteral("ru")));
         QCOMPARE(QCoreApplication::translate("SomeClass", "wb_help_back"), QStringLiteral("Назад"));
-        QCOMPARE(vlk::text("wb_help_back"), QStringLiteral("Назад"));
+        QCOMPARE(workbench::text("wb_help_back"), QStringLiteral("Назад"));
         QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Отмена"));
         QVERIFY(languages.set(QStringLiteral("en")));
-        QCOMPARE(vlk::text("wb_help_back"), QStringLiteral("Back"));
+        QCOMPARE(workbench::text("wb_help_back"), QStringLiteral("Back"));
         QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Cancel"));
-        QCOMPARE(vlk::text("no_such_key"), QStringLiteral("no_such_key"));
+        QCOMPARE(workbench::text("no_such_key"), QStringLiteral("no_such_key"));
         QVERIFY(!languages.set(QStringLiteral("xx")));
         QCOMPARE(languages.current(), QStringLiteral("en"));
     }
@@ -60,11 +60,11 @@ private Q_SLOTS:
     {
         const DataTable<QString, QString> table({"language", "page"});
         QSet<QString> pages;
-        for (const QString& language : vlk::Languages::codes())
+        for (const QString& language : workbench::Languages::codes())
             for (const QString& page : QDir(QDir(help).filePath(language)).entryList(QDir::Files))
                 pages << page;
         // A page of one language stands in the others too.
-        for (const QString& language : vlk::Languages::codes())
+        for (const QString& language : workbench::Languages::codes())
             for (const QString& page : std::as_const(pages))
                 table.row(qPrintable(language + '/' + page), language, page);
     }
@@ -72,7 +72,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, language);
         QFETCH(QString, page);
-        const vlk::HelpPages pages(help);
+        const workbench::HelpPages pages(help);
         QVERIFY(pages.exists(language, page));
         static const QRegularExpression link(QStringLiteral("href=\"([^\"#]*)(?:#([^\"]*))?\""));
         for (auto found = link.globalMatch(pages.html(language, page)); found.hasNext();) {
@@ -88,9 +88,9 @@ private Q_SLOTS:
 
     void namesAMissingHelpPage()
     {
-        vlk::Languages languages;
+        workbench::Languages languages;
         QVERIFY(languages.set(QStringLiteral("en")));
-        const vlk::HelpPages pages(help);
+        const workbench::HelpPages pages(help);
         QVERIFY(pages.html(QStringLiteral("en"), QStringLiteral("r-7106p99.html"))
                     .contains(QStringLiteral("r-7106p99.html")));
         // Only the file name counts, so that no page leads out of the help.
@@ -103,26 +103,26 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         const QString file = folder.filePath(QStringLiteral("w.ini"));
         {
-            vlk::Settings settings(file);
+            workbench::Settings settings(file);
             settings.setLanguage(QStringLiteral("ru"));
             settings.setMode(2);
             settings.setFullWindow(false);
             settings.setFolders(QStringLiteral("/а/"), QStringLiteral("/b/"));
             for (int n = 0; n < 15; ++n)
                 settings.addRecentFile(QStringLiteral("/f%1").arg(n));
-            settings.addRecentFile(QStringLiteral("/f9"), vlk::TelemetryWindow::Table);
+            settings.addRecentFile(QStringLiteral("/f9"), workbench::TelemetryWindow::Table);
             settings.removeRecentFile(QStringLiteral("/f14"));
         }
-        const vlk::Settings settings(file);
+        const workbench::Settings settings(file);
         QCOMPARE(settings.language(), QStringLiteral("ru"));
         QCOMPARE(settings.mode(), 2);
         QVERIFY(!settings.fullWindow());
         QCOMPARE(settings.telemetryFolder(), QStringLiteral("/а/"));
-        QCOMPARE(settings.recentFiles().size(), vlk::Settings::recentLimit - 1);
-        const vlk::RecentFile first = settings.recentFiles().value(0);
-        QVERIFY(first.path == QLatin1String("/f9") && first.window == vlk::TelemetryWindow::Table);
-        const vlk::RecentFile second = settings.recentFiles().value(1);
-        QVERIFY(second.path == QLatin1String("/f13") && second.window == vlk::TelemetryWindow::Browser);
+        QCOMPARE(settings.recentFiles().size(), workbench::Settings::recentLimit - 1);
+        const workbench::RecentFile first = settings.recentFiles().value(0);
+        QVERIFY(first.path == QLatin1String("/f9") && first.window == workbench::TelemetryWindow::Table);
+        const workbench::RecentFile second = settings.recentFiles().value(1);
+        QVERIFY(second.path == QLatin1String("/f13") && second.window == workbench::TelemetryWindow::Browser);
     }
 
     // The command line's wishes hold for the run alone, until the user chooses otherwise.
@@ -130,9 +130,9 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         const QString file = folder.filePath(QStringLiteral("w.ini"));
-        const auto stored = [&file] { return vlk::Settings(file); };
+        const auto stored = [&file] { return workbench::Settings(file); };
         {
-            vlk::Settings settings(file);
+            workbench::Settings settings(file);
             settings.setLanguage(QStringLiteral("en"));
             settings.setForThisRun(QStringLiteral("ru"), 2);
             QCOMPARE(settings.language(), QStringLiteral("ru"));
@@ -158,9 +158,9 @@ private Q_SLOTS:
         QFETCH(bool, damaged);
         const QTemporaryDir folder;
         const QString file = writeFile(folder.filePath("w.ini"), content);
-        vlk::Settings settings(file);
+        workbench::Settings settings(file);
         QCOMPARE(settings.wasDamaged(), damaged);
-        QVERIFY(vlk::Languages::isKnown(settings.language()));
+        QVERIFY(workbench::Languages::isKnown(settings.language()));
         QCOMPARE(settings.mode(), 0);
         QCOMPARE(QFile::exists(file + QStringLiteral(".damaged")), damaged);
         if (damaged)
@@ -186,7 +186,7 @@ private Q_SLOTS:
         QFETCH(QString, name);
         QFETCH(QString, room);
         const QFontMetrics metrics(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-        QTEST(vlk::shortFileName(name, metrics, metrics.horizontalAdvance(room)), "shown");
+        QTEST(workbench::shortFileName(name, metrics, metrics.horizontalAdvance(room)), "shown");
     }
 
     void knowsFilesByTheirContent_data()
@@ -205,19 +205,19 @@ private Q_SLOTS:
         QFETCH(QString, name);
         QFETCH(QByteArray, content);
         const QTemporaryDir folder;
-        QTEST(vlk::storedFileKind(writeFile(folder.filePath(name), content)), "kind");
-        QCOMPARE(vlk::storedFileKind(folder.path()), StoredFile::Unknown);
+        QTEST(workbench::storedFileKind(writeFile(folder.filePath(name), content)), "kind");
+        QCOMPARE(workbench::storedFileKind(folder.path()), StoredFile::Unknown);
     }
 
     void makesItsDataFolder()
     {
         const QTemporaryDir root;
-        const vlk::DataFolder folder(root.filePath(QStringLiteral("new/папка")));
+        const workbench::DataFolder folder(root.filePath(QStringLiteral("new/папка")));
         QVERIFY(folder.isUsable());
         QCOMPARE(QDir::currentPath(), QFileInfo(folder.path()).canonicalFilePath());
         QVERIFY(QFileInfo(folder.configurationFolder()).isDir());
         // A file stands in the way.
-        const vlk::DataFolder refused(writeFile(root.filePath("file"), "x") + "/data");
+        const workbench::DataFolder refused(writeFile(root.filePath("file"), "x") + "/data");
         QVERIFY(!refused.isUsable() && !refused.isInUse());
         QVERIFY(!refused.error().isEmpty());
     }
@@ -229,9 +229,9 @@ private Q_SLOTS:
         const QTemporaryDir root;
         const QStringList arguments{"--language", "en",     "--data",
                                     root.path(),  "--tour", root.filePath(QStringLiteral("tour"))};
-        auto first = std::make_unique<vlk::DataFolder>(root.path());
+        auto first = std::make_unique<workbench::DataFolder>(root.path());
         QVERIFY(first->isUsable());
-        QVERIFY(vlk::DataFolder(root.path()).isInUse());
+        QVERIFY(workbench::DataFolder(root.path()).isInUse());
         // A tour comes that far without a display.
         QProcessEnvironment bare = QProcessEnvironment::systemEnvironment();
         for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
@@ -243,7 +243,7 @@ private Q_SLOTS:
             qPrintable(output));
         QVERIFY(QDir(first->trackerFolder()).isEmpty());
         first.reset();
-        QVERIFY(vlk::DataFolder(root.path()).isUsable());
+        QVERIFY(workbench::DataFolder(root.path()).isUsable());
     }
 
     // One sentence in place of an abort.
@@ -273,8 +273,8 @@ private Q_SLOTS:
         QPalette palette;
         palette.setColor(QPalette::Base, base);
         palette.setColor(QPalette::Link, link);
-        vlk::HelpViewer viewer(vlk::HelpPages(help), QStringLiteral("en"), nullptr);
-        viewer.showPage(vlk::HelpPages::indexPage());
+        workbench::HelpViewer viewer(workbench::HelpPages(help), QStringLiteral("en"), nullptr);
+        viewer.showPage(workbench::HelpPages::indexPage());
         // The theme may change while the page is on show.
         viewer.setPalette(palette);
         const auto* browser = viewer.findChild<QTextBrowser*>(QStringLiteral("textBrowser_Help"));
@@ -293,9 +293,9 @@ private Q_SLOTS:
 
     void helpCanBeSearched()
     {
-        vlk::Languages languages;
+        workbench::Languages languages;
         QVERIFY(languages.set(QStringLiteral("en")));
-        vlk::HelpViewer viewer(vlk::HelpPages(help), QStringLiteral("en"), nullptr);
+        workbench::HelpViewer viewer(workbench::HelpPages(help), QStringLiteral("en"), nullptr);
         viewer.showPage("r-7106p5.html");
         QVERIFY(QTest::qWaitForWindowActive(&viewer));
         const auto* browser = viewer.findChild<QTextBrowser*>("textBrowser_Help");

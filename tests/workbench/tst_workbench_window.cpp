@@ -183,19 +183,19 @@ private Q_SLOTS:
         const QString path = writeFile(bench.root.filePath(QStringLiteral("period.xml")), telemetry);
         QVERIFY(bench.start());
         QVector<int> windows;
-        connect(&bench.window.session().link(), &vlk::PluginLink::passed, this,
+        connect(&bench.window.session().link(), &workbench::PluginLink::passed, this,
                 [&](vlk::Direction, quint32 id, const void*, const void* p2) {
                     if (id == quint32(vlk::Message::ShowStoredFile))
                         windows.append(*static_cast<const std::int32_t*>(p2));
                 });
         auto* list = bench.window.findChild<QListWidget*>(QStringLiteral("listWidget_Recent"));
-        for (const vlk::TelemetryWindow window :
-             {vlk::TelemetryWindow::Browser, vlk::TelemetryWindow::Table}) {
+        for (const workbench::TelemetryWindow window :
+             {workbench::TelemetryWindow::Browser, workbench::TelemetryWindow::Table}) {
             bench.window.openFile(path, window);
             Q_EMIT list->itemActivated(list->item(0));
         }
         // The menu makes its entries anew while one of them is under way.
-        bench.window.findChild<vlk::RecentFiles*>()->menu()->actions().constFirst()->trigger();
+        bench.window.findChild<workbench::RecentFiles*>()->menu()->actions().constFirst()->trigger();
         QCOMPARE(windows, QVector<int>({0, 0, 1, 1, 1}));
         QCOMPARE(list->count(), 1);
     }
@@ -232,7 +232,7 @@ private Q_SLOTS:
         Bench bench;
         QVERIFY(bench.start());
         int opened = 0;
-        connect(&bench.window.session().link(), &vlk::PluginLink::passed, this,
+        connect(&bench.window.session().link(), &workbench::PluginLink::passed, this,
                 [&opened](vlk::Direction, quint32 id) { opened += id == 2101 || id == 2103; });
         const QString path = writeFile(bench.root.filePath(QStringLiteral("bad.xml")), content);
         const QString text = messageDuring([&] { bench.window.openFile(path); });
@@ -356,10 +356,10 @@ private Q_SLOTS:
     {
         Bench bench;
         QVERIFY(bench.start());
-        vlk::HostSession& session = bench.window.session();
+        workbench::HostSession& session = bench.window.session();
         const auto* log = bench.window.findChild<QTableView*>(QStringLiteral("tableView_Log"))->model();
         const auto logged = [log] {
-            return log->match(log->index(0, vlk::MessageLogModel::Name), Qt::DisplayRole,
+            return log->match(log->index(0, workbench::MessageLogModel::Name), Qt::DisplayRole,
                               QStringLiteral("vlk.settings.typing"), -1, Qt::MatchExactly);
         };
         session.tracker().setFaults({.silence = true});
@@ -431,7 +431,7 @@ private Q_SLOTS:
         };
         bench.action("action_Appearance_2")->trigger();
         QVERIFY(contrast() > 150);
-        QCOMPARE(vlk::Settings(bench.folder.settingsFile()).appearance(), vlk::Appearance::Dark);
+        QCOMPARE(workbench::Settings(bench.folder.settingsFile()).appearance(), workbench::Appearance::Dark);
         bench.action("action_Appearance_1")->trigger();
         QVERIFY(contrast() < -150);
         bench.action("action_Appearance_0")->trigger();
@@ -443,7 +443,7 @@ private Q_SLOTS:
         Bench bench;
         QVERIFY(bench.start());
         auto* tabs = bench.window.findChild<QTabWidget*>(QStringLiteral("tabWidget_Main"));
-        for (const QString& language : vlk::Languages::codes()) {
+        for (const QString& language : workbench::Languages::codes()) {
             bench.window.setLanguage(language);
             for (int tab = 0; tab < tabs->count(); ++tab) {
                 tabs->setCurrentIndex(tab);
@@ -500,18 +500,18 @@ private Q_SLOTS:
         QVERIFY(bench.start());
         const QSize screen = QGuiApplication::primaryScreen()->availableSize();
         const auto fits = [&screen](const QSize& size) { return size.boundedTo(screen) == size; };
-        for (const QString& language : vlk::Languages::codes()) {
+        for (const QString& language : workbench::Languages::codes()) {
             bench.window.setLanguage(language);
             QCoreApplication::processEvents();
             QVERIFY(fits(bench.window.minimumSizeHint()));
             QVERIFY(fits(bench.window.size()));
             bench.window.showHelp(QStringLiteral("index.html"));
-            const vlk::FoldersDialog folders({}, {}, &bench.window);
-            vlk::WriteReportView::showDialog({}, {}, &bench.window);
+            const workbench::FoldersDialog folders({}, {}, &bench.window);
+            workbench::WriteReportView::showDialog({}, {}, &bench.window);
             for (const auto* window : bench.window.findChildren<QDialog*>())
                 QVERIFY2(fits(window->size()), window->objectName().toLatin1().constData());
         }
-        for (const QString& language : vlk::Languages::codes()) {
+        for (const QString& language : workbench::Languages::codes()) {
             bench.window.setLanguage(language);
             bench.window.resize(1024, 600);
             QCoreApplication::processEvents();

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cctype>
 
-namespace vlk {
+namespace workbench {
 
 namespace {
 
@@ -138,4 +138,4 @@ std::optional<Problem> checkConfiguration(const QByteArray& document, const QStr
     return problem;
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -12,7 +12,7 @@
 
 #include <optional>
 
-namespace vlk {
+namespace workbench {
 
 struct ConfigurationProblem
 {
@@ -38,4 +38,4 @@ inline constexpr qint64 largestConfiguration = 4'000'000;
 // None for a whole configuration.
 std::optional<ConfigurationProblem> checkConfiguration(const QByteArray& document, const QString& model);
 
-} // namespace vlk
+} // namespace workbench

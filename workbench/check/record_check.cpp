@@ -8,7 +8,7 @@
 #include <cstring>
 #include <utility>
 
-namespace vlk {
+namespace workbench {
 
 namespace {
 
@@ -157,4 +157,4 @@ void RecordCheck::forget()
     doubted_.reset();
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -5,10 +5,11 @@
 // not years from that of the record before. Knows no widget.
 
 #include "plugin/host/host_interface.h"
+#include "plugin_names.h"
 
 #include <optional>
 
-namespace vlk {
+namespace workbench {
 
 struct AnswerProblem
 {
@@ -40,4 +41,4 @@ private:
     std::optional<qint64> doubted_;
 };
 
-} // namespace vlk
+} // namespace workbench

@@ -4,14 +4,15 @@
 // packet its length.
 
 #include "catalogue/field_mask.h"
+#include "plugin_names.h"
 
 #include <QtGlobal>
 
-namespace vlk {
+namespace workbench {
 
 inline constexpr quint8 recordType = 176;
 inline constexpr quint8 packetType = 177;
 inline constexpr int recordHead = 2 + FieldMask::kBytes;
 inline constexpr int packetCounted = 3; // type and length, which do not count themselves
 
-} // namespace vlk
+} // namespace workbench

@@ -1,6 +1,7 @@
 #include "check/telemetry_file_check.h"
 
 #include "check/record_form.h"
+#include "plugin_names.h"
 #include "telemetry/files/binary_layout.h"
 
 #include <QFile>
@@ -9,7 +10,7 @@
 #include <cstring>
 #include <span>
 
-namespace vlk {
+namespace workbench {
 
 namespace {
 
@@ -116,4 +117,4 @@ std::optional<TelemetryFileProblem> checkTelemetryFile(const QString& path)
     return problem(Kind::NoRecord);
 }
 
-} // namespace vlk
+} // namespace workbench

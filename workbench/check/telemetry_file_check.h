@@ -8,7 +8,7 @@
 
 #include <optional>
 
-namespace vlk {
+namespace workbench {
 
 struct TelemetryFileProblem
 {
@@ -28,4 +28,4 @@ struct TelemetryFileProblem
 // None for a file with a whole record.
 std::optional<TelemetryFileProblem> checkTelemetryFile(const QString& path);
 
-} // namespace vlk
+} // namespace workbench

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace vlk {
+namespace workbench {
 
 namespace {
 
@@ -70,4 +70,4 @@ void AnswerWatch::forget()
         Q_EMIT over();
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -8,7 +8,7 @@
 #include <QDateTime>
 #include <QTimer>
 
-namespace vlk {
+namespace workbench {
 
 class AnswerWatch : public QObject
 {
@@ -48,4 +48,4 @@ private:
     bool told_ = false;
 };
 
-} // namespace vlk
+} // namespace workbench

@@ -1,11 +1,12 @@
 #include "window/appearance.h"
 
+#include "plugin_names.h"
 #include "typing/kept_palette.h"
 
 #include <QApplication>
 #include <QPalette>
 
-namespace vlk {
+namespace workbench {
 
 namespace {
 
@@ -50,4 +51,4 @@ void apply(Appearance appearance)
                                  : paletteOf(appearance == Appearance::Dark ? dark : light));
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -12,7 +12,7 @@ class QComboBox;
 class QMainWindow;
 class QMenu;
 
-namespace vlk {
+namespace workbench {
 
 class Languages;
 class Settings;
@@ -48,4 +48,4 @@ private:
     QActionGroup* languageChoice_;
 };
 
-} // namespace vlk
+} // namespace workbench

@@ -5,7 +5,7 @@
 #include <QCommandLineParser>
 #include <QFileInfo>
 
-namespace vlk {
+namespace workbench {
 
 namespace {
 
@@ -33,10 +33,11 @@ constexpr OptionRow options[] = {
 void addOptions(QCommandLineParser& parser)
 {
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, vlk::text("wb_option_help")});
-    parser.addOption({{QStringLiteral("v"), QStringLiteral("version")}, vlk::text("wb_option_version")});
+    parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, workbench::text("wb_option_help")});
+    parser.addOption(
+        {{QStringLiteral("v"), QStringLiteral("version")}, workbench::text("wb_option_version")});
     for (const OptionRow& row : options) {
-        QCommandLineOption option(QLatin1String(row.name), row.key ? vlk::text(row.key) : QString(),
+        QCommandLineOption option(QLatin1String(row.name), row.key ? workbench::text(row.key) : QString(),
                                   QLatin1String(row.value));
         if (!row.key)
             option.setFlags(QCommandLineOption::HiddenFromHelp);
@@ -64,11 +65,11 @@ CommandLine CommandLine::parse(const QStringList& arguments)
 {
     QCommandLineParser parser;
     addOptions(parser);
-    parser.setApplicationDescription(vlk::text("wb_description"));
+    parser.setApplicationDescription(workbench::text("wb_description"));
 
     CommandLine line;
     const auto refuse = [&line](const QString& message) {
-        line.message = message + QLatin1Char('\n') + vlk::text("wb_option_see_help");
+        line.message = message + QLatin1Char('\n') + workbench::text("wb_option_see_help");
         line.exitCode = 2;
         return line;
     };
@@ -86,29 +87,29 @@ CommandLine CommandLine::parse(const QStringList& arguments)
         return line;
     }
     if (!parser.positionalArguments().isEmpty())
-        return refuse(vlk::text("wb_option_unexpected").arg(parser.positionalArguments().first()));
+        return refuse(workbench::text("wb_option_unexpected").arg(parser.positionalArguments().first()));
 
     if (parser.isSet(QStringLiteral("language"))) {
         line.language = value(parser, "language");
         if (!Languages::isKnown(*line.language))
-            return refuse(vlk::text("wb_option_bad_language").arg(*line.language));
+            return refuse(workbench::text("wb_option_bad_language").arg(*line.language));
     }
     if (parser.isSet(QStringLiteral("mode"))) {
         bool isNumber = false;
         line.mode = value(parser, "mode").toInt(&isNumber);
         if (!isNumber || *line.mode < 0 || *line.mode > 2)
-            return refuse(vlk::text("wb_option_bad_mode").arg(value(parser, "mode")));
+            return refuse(workbench::text("wb_option_bad_mode").arg(value(parser, "mode")));
     }
     for (auto [name, target] : {std::pair("open", &line.open), {"data", &line.data}, {"tour", &line.tour}}) {
         if (!parser.isSet(QLatin1String(name)))
             continue;
         if (value(parser, name).isEmpty())
-            return refuse(vlk::text("wb_option_empty").arg(QLatin1String(name)));
+            return refuse(workbench::text("wb_option_empty").arg(QLatin1String(name)));
         *target = QFileInfo(value(parser, name)).absoluteFilePath();
     }
     if (!line.open.isEmpty() && !QFileInfo(line.open).isFile())
-        return refuse(vlk::text("wb_file_missing").arg(line.open));
+        return refuse(workbench::text("wb_file_missing").arg(line.open));
     return line;
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -7,7 +7,7 @@
 
 #include <optional>
 
-namespace vlk {
+namespace workbench {
 
 struct CommandLine
 {
@@ -28,4 +28,4 @@ struct CommandLine
     static std::optional<QString> languageOf(const QStringList& arguments);
 };
 
-} // namespace vlk
+} // namespace workbench

@@ -7,7 +7,7 @@
 
 #include <array>
 
-namespace vlk {
+namespace workbench {
 
 enum class Command {
     ReadTracker,
@@ -39,4 +39,4 @@ private:
     std::array<QAction*, std::size_t(Command::Count)> actions_{};
 };
 
-} // namespace vlk
+} // namespace workbench

@@ -5,8 +5,8 @@
 
 #include "window/tour.h"
 
-namespace vlk {
+namespace workbench {
 
 std::vector<Tour::Step> configurationTour();
 
-} // namespace vlk
+} // namespace workbench

@@ -4,7 +4,7 @@
 #include <QStandardPaths>
 #include <QTemporaryFile>
 
-namespace vlk {
+namespace workbench {
 
 DataFolder::DataFolder(const QString& wanted)
 {
@@ -47,4 +47,4 @@ bool DataFolder::prepare(const QString& path)
     return true;
 }
 
-} // namespace vlk
+} // namespace workbench

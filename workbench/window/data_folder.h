@@ -17,7 +17,7 @@
 
 #include <memory>
 
-namespace vlk {
+namespace workbench {
 
 class DataFolder
 {
@@ -45,4 +45,4 @@ private:
     bool inUse_ = false;
 };
 
-} // namespace vlk
+} // namespace workbench

@@ -11,7 +11,7 @@ class QComboBox;
 class QFormLayout;
 class QLabel;
 
-namespace vlk {
+namespace workbench {
 
 class HostSession;
 
@@ -54,4 +54,4 @@ private:
     QComboBox* mode_;
 };
 
-} // namespace vlk
+} // namespace workbench

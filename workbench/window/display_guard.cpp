@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-namespace vlk {
+namespace workbench {
 
 namespace {
 
@@ -38,4 +38,4 @@ void DisplayGuard::listen(QtMsgType type, const QMessageLogContext& context, con
     std::_Exit(theGuard->exitCode_);
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -9,7 +9,7 @@
 
 #include <vector>
 
-namespace vlk {
+namespace workbench {
 
 class DisplayGuard
 {
@@ -35,4 +35,4 @@ private:
     std::vector<Line> held_;
 };
 
-} // namespace vlk
+} // namespace workbench

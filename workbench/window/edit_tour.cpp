@@ -19,7 +19,7 @@
 namespace {
 
 using tracker::ConfigurationValues;
-using vlk::Tour;
+using workbench::Tour;
 
 enum Page { Transfer, DataSet, Track, System, Serial, Temperature, LinesIn, Accel, LinesOut, Bluetooth };
 
@@ -155,12 +155,12 @@ void writeTracker(Tour& tour, Notebook& book)
 {
     QObject context;
     QObject::connect(
-        &tour.window().session(), &vlk::HostSession::configurationWritten, &context,
+        &tour.window().session(), &workbench::HostSession::configurationWritten, &context,
         [&book](const tracker::WriteReport& r) { book.report = std::make_unique<tracker::WriteReport>(r); });
     Tour::press("pushButton_LoadToDevice");
     tour.waitFor([&book] { return book.report != nullptr; }, QStringLiteral("the tracker's report"));
-    tour.save(QStringLiteral("report.txt"), vlk::plainText(*book.report).toUtf8());
-    Tour::expect(book.report->accepted, vlk::summary(*book.report));
+    tour.save(QStringLiteral("report.txt"), workbench::plainText(*book.report).toUtf8());
+    Tour::expect(book.report->accepted, workbench::summary(*book.report));
     Tour::expect(!QFile::exists(book.report->file),
                  QStringLiteral("the written file was left behind: %1").arg(book.report->file));
     if (QWidget* dialog = Tour::findVisible("dialog_Report")) {
@@ -234,7 +234,7 @@ void saveReadBack(Tour& tour, const Notebook& book)
 
 } // namespace
 
-namespace vlk {
+namespace workbench {
 
 std::vector<Tour::Step> editTour()
 {
@@ -254,4 +254,4 @@ std::vector<Tour::Step> editTour()
     };
 }
 
-} // namespace vlk
+} // namespace workbench

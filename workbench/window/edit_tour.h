@@ -6,8 +6,8 @@
 
 #include "window/tour.h"
 
-namespace vlk {
+namespace workbench {
 
 std::vector<Tour::Step> editTour();
 
-} // namespace vlk
+} // namespace workbench

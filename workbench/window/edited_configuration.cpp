@@ -5,7 +5,7 @@
 
 #include <QFileInfo>
 
-namespace vlk {
+namespace workbench {
 
 using tracker::ConfigurationValues;
 
@@ -64,10 +64,10 @@ QString EditedConfiguration::text() const
     if (source_ == Source::None)
         return QStringLiteral("–");
     if (written_)
-        return vlk::text("wb_edited_written").arg(name(), vlk::number(*written_));
+        return workbench::text("wb_edited_written").arg(name(), workbench::number(*written_));
     if (source_ == Source::File && tracker_)
-        return vlk::text("wb_edited_unlike")
-            .arg(name(), vlk::number(tracker::differingKeys(asRead_, *tracker_)));
+        return workbench::text("wb_edited_unlike")
+            .arg(name(), workbench::number(tracker::differingKeys(asRead_, *tracker_)));
     return name();
 }
 
@@ -75,15 +75,15 @@ QString EditedConfiguration::name() const
 {
     switch (source_) {
     case Source::Tracker:
-        return vlk::text("wb_edited_tracker");
+        return workbench::text("wb_edited_tracker");
     case Source::File:
         return file_;
     case Source::New:
-        return vlk::text("wb_edited_new");
+        return workbench::text("wb_edited_new");
     case Source::None:
         break;
     }
     return {};
 }
 
-} // namespace vlk
+} // namespace workbench

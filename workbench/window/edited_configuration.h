@@ -7,7 +7,7 @@
 
 #include <optional>
 
-namespace vlk {
+namespace workbench {
 
 class EditedConfiguration
 {
@@ -46,4 +46,4 @@ private:
     std::optional<int> written_;                          // changes that were written
 };
 
-} // namespace vlk
+} // namespace workbench

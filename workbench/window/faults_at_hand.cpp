@@ -7,7 +7,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 
-namespace vlk {
+namespace workbench {
 
 FaultsAtHand::FaultsAtHand(tracker::SimulatedTracker& tracker, const AnswerWatch& answers, QKeySequence key,
                            QWidget* mainWindow)
@@ -91,7 +91,7 @@ void FaultsAtHand::toggle()
         return;
     }
     wanted_ = true;
-    windowOf(vlk::windowInFront(mainWindow_))->comeUp(true);
+    windowOf(workbench::windowInFront(mainWindow_))->comeUp(true);
 }
 
 void FaultsAtHand::setTrouble(const QString& text)
@@ -107,4 +107,4 @@ void FaultsAtHand::retranslate()
         window_->retranslate();
 }
 
-} // namespace vlk
+} // namespace workbench

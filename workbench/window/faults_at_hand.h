@@ -15,7 +15,7 @@ namespace tracker {
 class SimulatedTracker;
 } // namespace tracker
 
-namespace vlk {
+namespace workbench {
 
 class AnswerWatch;
 class FaultsWindow;
@@ -53,4 +53,4 @@ private:
     bool wanted_ = true; // the user has not closed it
 };
 
-} // namespace vlk
+} // namespace workbench

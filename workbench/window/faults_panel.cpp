@@ -1,8 +1,9 @@
 #include "window/faults_panel.h"
 
+#include "plugin_names.h"
 #include "tracker/simulated_tracker.h"
-#include "typing/title_style.h"
 #include "typing/number_entry.h"
+#include "typing/title_style.h"
 
 #include <QCheckBox>
 #include <QFormLayout>
@@ -12,7 +13,7 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
-namespace vlk {
+namespace workbench {
 
 using tracker::Faults;
 using tracker::SimulatedTracker;
@@ -87,7 +88,7 @@ void FaultsPanel::addDelay(QVBoxLayout* column)
     delay->setRange(0, longestDelayMs);
     delay->setSingleStep(100);
     vlk::NumberEntry::join(delay);
-    texts_.bind([delay] { delay->setSuffix(QLatin1Char(' ') + vlk::text("abbr_040")); });
+    texts_.bind([delay] { delay->setSuffix(QLatin1Char(' ') + workbench::text("abbr_040")); });
     connect(delay, QOverload<int>::of(&QSpinBox::valueChanged), this,
             [this](int ms) { change(&Faults::delayMs, ms); });
     states_.emplace_back([this, delay] {
@@ -105,7 +106,7 @@ void FaultsPanel::addDelay(QVBoxLayout* column)
 void FaultsPanel::refresh()
 {
     // Without a letter: the panel also stands in a window over others that have letters of their own.
-    cable_->setText(vlk::plainText(tracker_.attached() ? "wb_detach" : "wb_attach"));
+    cable_->setText(workbench::plainText(tracker_.attached() ? "wb_detach" : "wb_attach"));
     for (const auto& set : states_)
         set();
 }
@@ -116,4 +117,4 @@ void FaultsPanel::retranslate()
     refresh();
 }
 
-} // namespace vlk
+} // namespace workbench

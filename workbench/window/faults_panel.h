@@ -16,7 +16,7 @@ class SimulatedTracker;
 struct Faults;
 } // namespace tracker
 
-namespace vlk {
+namespace workbench {
 
 class FaultsPanel : public QWidget
 {
@@ -41,4 +41,4 @@ private:
     std::vector<std::function<void()>> states_;
 };
 
-} // namespace vlk
+} // namespace workbench

@@ -9,7 +9,7 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
-namespace vlk {
+namespace workbench {
 
 FaultsWindow::FaultsWindow(tracker::SimulatedTracker& tracker, QWidget* owner)
     : QDialog(owner, Qt::Tool | Qt::WindowCloseButtonHint), panel_(new FaultsPanel(tracker)),
@@ -22,10 +22,10 @@ FaultsWindow::FaultsWindow(tracker::SimulatedTracker& tracker, QWidget* owner)
     trouble_->setWordWrap(true);
     trouble_->hide();
     auto* column = new QVBoxLayout(this);
-    column->addWidget(vlk::scrolling(panel_), 1);
+    column->addWidget(workbench::scrolling(panel_), 1);
     column->addWidget(trouble_);
     retranslate();
-    vlk::resizeWithin(this, sizeHint());
+    workbench::resizeWithin(this, sizeHint());
 }
 
 void FaultsWindow::setTrouble(const QString& text)
@@ -76,9 +76,9 @@ void FaultsWindow::place()
 {
     const QWidget& owner = *parentWidget();
     const QRect room = owner.screen() ? owner.screen()->availableGeometry() : owner.frameGeometry();
-    vlk::resizeWithin(this, size());
+    workbench::resizeWithin(this, size());
     const QPoint beside = owner.frameGeometry().topRight() + QPoint(1, 0);
-    vlk::moveWithin(this, fitsBeside(owner) ? beside : room.bottomRight());
+    workbench::moveWithin(this, fitsBeside(owner) ? beside : room.bottomRight());
 }
 
-} // namespace vlk
+} // namespace workbench

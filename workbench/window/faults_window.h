@@ -13,7 +13,7 @@ namespace tracker {
 class SimulatedTracker;
 } // namespace tracker
 
-namespace vlk {
+namespace workbench {
 
 class FaultsPanel;
 
@@ -45,4 +45,4 @@ private:
     KeyTexts texts_;
 };
 
-} // namespace vlk
+} // namespace workbench

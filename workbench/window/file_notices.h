@@ -10,7 +10,7 @@
 
 class QWidget;
 
-namespace vlk {
+namespace workbench {
 
 class StatusLine;
 
@@ -31,4 +31,4 @@ private:
     bool needsBox_ = false;
 };
 
-} // namespace vlk
+} // namespace workbench

@@ -10,7 +10,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 
-namespace vlk {
+namespace workbench {
 
 FileOpener::FileOpener(HostSession& session, Settings& settings, RecentFiles& recent, QWidget* mainWindow)
     : QObject(mainWindow), session_(session), settings_(settings), recent_(recent), mainWindow_(mainWindow)
@@ -21,10 +21,10 @@ void FileOpener::open(const QString& path, TelemetryWindow window)
 {
     if (!QFileInfo(path).isFile()) {
         recent_.remove(path);
-        Q_EMIT failed(vlk::text("wb_file_missing").arg(path));
+        Q_EMIT failed(workbench::text("wb_file_missing").arg(path));
         return;
     }
-    if (vlk::storedFileKind(path) == StoredFile::Telemetry)
+    if (workbench::storedFileKind(path) == StoredFile::Telemetry)
         openTelemetry(path, window);
     else
         openConfiguration(path, window);
@@ -33,37 +33,38 @@ void FileOpener::open(const QString& path, TelemetryWindow window)
 void FileOpener::chooseConfiguration()
 {
     const QString path = QFileDialog::getOpenFileName(
-        mainWindow_, vlk::text("wb_open_caption"), settings_.configurationFolder(),
-        vlk::text("wb_type_configuration") + QStringLiteral(" (*.xml)"));
+        mainWindow_, workbench::text("wb_open_caption"), settings_.configurationFolder(),
+        workbench::text("wb_type_configuration") + QStringLiteral(" (*.xml)"));
     if (!path.isEmpty())
         open(path, TelemetryWindow::Browser);
 }
 
 void FileOpener::chooseTelemetry(TelemetryWindow window)
 {
-    const QString path =
-        QFileDialog::getOpenFileName(mainWindow_, vlk::text("wb_browse_caption"), settings_.telemetryFolder(),
-                                     vlk::text("wb_type_telemetry") + QStringLiteral(" (*.xml *.tmi)"));
+    const QString path = QFileDialog::getOpenFileName(
+        mainWindow_, workbench::text("wb_browse_caption"), settings_.telemetryFolder(),
+        workbench::text("wb_type_telemetry") + QStringLiteral(" (*.xml *.tmi)"));
     if (path.isEmpty())
         return;
-    switch (vlk::storedFileKind(path)) {
+    switch (workbench::storedFileKind(path)) {
     case StoredFile::Telemetry:
         openTelemetry(path, window);
         break;
     case StoredFile::Configuration:
-        Q_EMIT failed(vlk::text("wb_file_no_telemetry").arg(path));
+        Q_EMIT failed(workbench::text("wb_file_no_telemetry").arg(path));
         break;
     case StoredFile::Unknown:
-        Q_EMIT failed(vlk::text("wb_file_unknown").arg(path));
+        Q_EMIT failed(workbench::text("wb_file_unknown").arg(path));
         break;
     }
 }
 
 void FileOpener::openTelemetry(const QString& path, TelemetryWindow window)
 {
-    if (const auto problem = vlk::checkTelemetryFile(path)) {
-        Q_EMIT failed(vlk::sentences({vlk::text("wb_open_failed").arg(path), vlk::reasonOf(*problem),
-                                      vlk::text("wb_do_telemetry_file")}));
+    if (const auto problem = workbench::checkTelemetryFile(path)) {
+        Q_EMIT failed(
+            workbench::sentences({workbench::text("wb_open_failed").arg(path), workbench::reasonOf(*problem),
+                                  workbench::text("wb_do_telemetry_file")}));
         return;
     }
     recent_.add(path, window);
@@ -82,4 +83,4 @@ void FileOpener::openConfiguration(const QString& path, TelemetryWindow window)
     Q_EMIT opened();
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -9,7 +9,7 @@
 
 class QWidget;
 
-namespace vlk {
+namespace workbench {
 
 class HostSession;
 class RecentFiles;
@@ -43,4 +43,4 @@ private:
     QWidget* mainWindow_;
 };
 
-} // namespace vlk
+} // namespace workbench

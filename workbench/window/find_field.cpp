@@ -3,7 +3,7 @@
 #include <QLineEdit>
 #include <QShortcut>
 
-namespace vlk {
+namespace workbench {
 
 void joinFindField(QLineEdit* field, QWidget* content)
 {
@@ -21,4 +21,4 @@ void joinFindField(QLineEdit* field, QWidget* content)
     });
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -6,8 +6,8 @@
 class QLineEdit;
 class QWidget;
 
-namespace vlk {
+namespace workbench {
 
 void joinFindField(QLineEdit* field, QWidget* content);
 
-} // namespace vlk
+} // namespace workbench

@@ -7,7 +7,7 @@
 class QFormLayout;
 class QLineEdit;
 
-namespace vlk {
+namespace workbench {
 
 class FoldersDialog : public QDialog
 {
@@ -26,4 +26,4 @@ private:
     QLineEdit* configurations_;
 };
 
-} // namespace vlk
+} // namespace workbench

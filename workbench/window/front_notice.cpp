@@ -3,7 +3,7 @@
 #include "window/plugin_link.h"
 #include "window/plugin_windows.h"
 
-namespace vlk {
+namespace workbench {
 
 namespace {
 
@@ -73,4 +73,4 @@ void FrontNotice::show()
         notice_->say(topic, told_[topic]);
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -10,7 +10,7 @@
 
 #include <array>
 
-namespace vlk {
+namespace workbench {
 
 class PluginLink;
 class PluginWindows;
@@ -44,4 +44,4 @@ private:
     QPointer<WindowNotice> notice_;
 };
 
-} // namespace vlk
+} // namespace workbench

@@ -25,7 +25,7 @@ constexpr int kTrackerTab = 2;
 
 QWidget* window()
 {
-    return vlk::Tour::find<QLineEdit>("lineEdit_Title")->window();
+    return workbench::Tour::find<QLineEdit>("lineEdit_Title")->window();
 }
 
 template <class Widget>
@@ -34,39 +34,40 @@ Widget* inForm(const char* name)
     const QString sensor = QLatin1String(tracker::tanks[kTank].sensor);
     auto* form = window()->findChild<QWidget*>(sensor);
     auto* widget = form ? form->findChild<Widget*>(QLatin1String(name)) : nullptr;
-    vlk::Tour::expect(widget != nullptr, QStringLiteral("no %1 for %2").arg(QLatin1String(name), sensor));
+    workbench::Tour::expect(widget != nullptr,
+                            QStringLiteral("no %1 for %2").arg(QLatin1String(name), sensor));
     return widget;
 }
 
-QString content(const vlk::Tour& tour, const QString& name)
+QString content(const workbench::Tour& tour, const QString& name)
 {
     QFile file(tour.folder().filePath(name));
-    vlk::Tour::expect(file.open(QIODevice::ReadOnly), QStringLiteral("%1 was not saved").arg(name));
+    workbench::Tour::expect(file.open(QIODevice::ReadOnly), QStringLiteral("%1 was not saved").arg(name));
     return QString::fromLatin1(file.readAll());
 }
 
-void openCalibration(vlk::Tour& tour)
+void openCalibration(workbench::Tour& tour)
 {
     live::open(tour);
     live::showFunctions();
-    vlk::Tour::press("pushButton_FuelSensor");
+    workbench::Tour::press("pushButton_FuelSensor");
     auto* groups = window()->findChild<QTabWidget*>(QStringLiteral("tabWidget"));
     groups->setCurrentIndex(1);
     qobject_cast<QTabWidget*>(groups->currentWidget())->setCurrentIndex(kTab);
-    vlk::Tour::find<QTabWidget>("tabWidget_Main")->setCurrentIndex(kTrackerTab);
-    vlk::Tour::find<QComboBox>("comboBox_Tank")->setCurrentIndex(kTank);
-    vlk::Tour::press("pushButton_Drain");
+    workbench::Tour::find<QTabWidget>("tabWidget_Main")->setCurrentIndex(kTrackerTab);
+    workbench::Tour::find<QComboBox>("comboBox_Tank")->setCurrentIndex(kTank);
+    workbench::Tour::press("pushButton_Drain");
 }
 
 // A pour, a value that has come to rest, a point.
-void calibrate(vlk::Tour& tour)
+void calibrate(workbench::Tour& tour)
 {
     const tracker::Tank& tank = tracker::tanks[kTank];
     const auto* value = inForm<QLineEdit>("lineEdit_Param");
     int litres = 0;
     for (const int pour : kPours) {
         if (pour > 0)
-            vlk::Tour::press(qPrintable(QStringLiteral("pushButton_Pour_%1").arg(pour)));
+            workbench::Tour::press(qPrintable(QStringLiteral("pushButton_Pour_%1").arg(pour)));
         litres += pour;
         const double wanted = tracker::sensorValue(tank, tracker::fuelHeight(tank, litres));
         constexpr double tolerance = 25;
@@ -79,41 +80,41 @@ void calibrate(vlk::Tour& tour)
         inForm<QLineEdit>("lineEdit_Volume")->setText(QString::number(litres));
         inForm<QAbstractButton>("pushButton_Add")->click();
     }
-    vlk::Tour::expect(inForm<QTableWidget>("tableWidget")->rowCount() == int(std::size(kPours)),
-                      QStringLiteral("the table has not all points"));
+    workbench::Tour::expect(inForm<QTableWidget>("tableWidget")->rowCount() == int(std::size(kPours)),
+                            QStringLiteral("the table has not all points"));
     tour.picture(QStringLiteral("tank.png"), &tour.window());
-    for (const QString& code : vlk::Languages::codes()) {
+    for (const QString& code : workbench::Languages::codes()) {
         tour.window().setLanguage(code);
         tour.picture(QStringLiteral("calibration-%1.png").arg(code), window());
     }
 }
 
-void save(vlk::Tour& tour, const char* button, const QString& name)
+void save(workbench::Tour& tour, const char* button, const QString& name)
 {
     const QString path = tour.folder().filePath(name);
-    tour.whenModal<QFileDialog>([path](QFileDialog& dialog) { vlk::Tour::giveName(dialog, path); });
-    vlk::Tour::press(button);
+    tour.whenModal<QFileDialog>([path](QFileDialog& dialog) { workbench::Tour::giveName(dialog, path); });
+    workbench::Tour::press(button);
 }
 
-void saveTables(vlk::Tour& tour)
+void saveTables(workbench::Tour& tour)
 {
     inForm<QLineEdit>("lineEdit_Name")->setText(QStringLiteral("Tank 5"));
     save(tour, "pushButton_Save_Excel", QStringLiteral("calibration.csv"));
-    vlk::Tour::expect(content(tour, QStringLiteral("calibration.csv")).count(QStringLiteral("\r\n")) ==
-                          1 + int(std::size(kPours)),
-                      QStringLiteral("the CSV file has not a line a point"));
+    workbench::Tour::expect(content(tour, QStringLiteral("calibration.csv")).count(QStringLiteral("\r\n")) ==
+                                1 + int(std::size(kPours)),
+                            QStringLiteral("the CSV file has not a line a point"));
     save(tour, "pushButton_Save_Xml", QStringLiteral("calibration.xml"));
-    vlk::Tour::expect(
+    workbench::Tour::expect(
         content(tour, QStringLiteral("calibration.xml")).contains(QStringLiteral("param_U=\"70\"")),
         QStringLiteral("the XML file lacks the last point"));
 }
 
 // The dialog of the toolkit has a printer that writes PDF files.
-void printReport(vlk::Tour& tour)
+void printReport(workbench::Tour& tour)
 {
-    vlk::Tour::press("pushButton_Print");
-    auto* report = vlk::Tour::find<QTextEdit>("textEdit_Report");
-    for (const QString& code : vlk::Languages::codes()) {
+    workbench::Tour::press("pushButton_Print");
+    auto* report = workbench::Tour::find<QTextEdit>("textEdit_Report");
+    for (const QString& code : workbench::Languages::codes()) {
         tour.window().setLanguage(code);
         report->window()->close();
         window()->findChild<QAbstractButton*>(QStringLiteral("pushButton_Print"))->click();
@@ -123,13 +124,15 @@ void printReport(vlk::Tour& tour)
     QFile::remove(path);
     tour.whenModal<QDialog>([path](QDialog& dialog) {
         auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("filename"));
-        vlk::Tour::expect(dialog.inherits("QPrintDialog") && name, QStringLiteral("this is no print dialog"));
+        workbench::Tour::expect(dialog.inherits("QPrintDialog") && name,
+                                QStringLiteral("this is no print dialog"));
         name->setText(path);
         dialog.accept();
     });
     report->window()->findChild<QAbstractButton*>(QStringLiteral("pushButton_Print"))->click();
-    vlk::Tour::expect(content(tour, QStringLiteral("calibration.pdf")).startsWith(QStringLiteral("%PDF")),
-                      QStringLiteral("the report is no PDF file"));
+    workbench::Tour::expect(
+        content(tour, QStringLiteral("calibration.pdf")).startsWith(QStringLiteral("%PDF")),
+        QStringLiteral("the report is no PDF file"));
     report->window()->close();
     window()->close();
     live::close(tour);
@@ -137,7 +140,7 @@ void printReport(vlk::Tour& tour)
 
 } // namespace
 
-namespace vlk {
+namespace workbench {
 
 std::vector<Tour::Step> fuelTour()
 {
@@ -149,4 +152,4 @@ std::vector<Tour::Step> fuelTour()
     };
 }
 
-} // namespace vlk
+} // namespace workbench

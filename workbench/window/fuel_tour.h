@@ -4,8 +4,8 @@
 
 #include "window/tour.h"
 
-namespace vlk {
+namespace workbench {
 
 std::vector<Tour::Step> fuelTour();
 
-} // namespace vlk
+} // namespace workbench

@@ -5,7 +5,7 @@
 
 #include <QStringList>
 
-namespace vlk {
+namespace workbench {
 
 class HelpPages
 {
@@ -27,4 +27,4 @@ private:
     QString folder_;
 };
 
-} // namespace vlk
+} // namespace workbench

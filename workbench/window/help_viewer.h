@@ -12,7 +12,7 @@ class QLabel;
 class QLineEdit;
 class QToolBar;
 
-namespace vlk {
+namespace workbench {
 
 // Takes its pages from HelpPages, so that links and history work on page names.
 class HelpBrowser : public QTextBrowser
@@ -59,4 +59,4 @@ private:
     KeyTexts texts_;
 };
 
-} // namespace vlk
+} // namespace workbench

@@ -17,7 +17,7 @@
 
 #include <vector>
 
-namespace vlk {
+namespace workbench {
 
 class HostSession : public QObject
 {
@@ -102,4 +102,4 @@ private:
     ReplaceQuestion mayReplace_;
 };
 
-} // namespace vlk
+} // namespace workbench

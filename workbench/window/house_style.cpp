@@ -1,5 +1,6 @@
 #include "window/house_style.h"
 
+#include "plugin_names.h"
 #include "typing/field_mark.h"
 #include "typing/kept_palette.h"
 #include "typing/title_style.h"
@@ -9,7 +10,7 @@
 #include <QStyleOption>
 #include <QWidget>
 
-namespace vlk {
+namespace workbench {
 
 void HouseStyle::setUp()
 {
@@ -59,4 +60,4 @@ int HouseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
                                                        : QProxyStyle::styleHint(hint, option, widget, result);
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -6,7 +6,7 @@
 
 #include <QProxyStyle>
 
-namespace vlk {
+namespace workbench {
 
 class HouseStyle : public QProxyStyle
 {
@@ -28,4 +28,4 @@ private:
     using QProxyStyle::QProxyStyle;
 };
 
-} // namespace vlk
+} // namespace workbench

@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <QDir>
 
-namespace vlk {
+namespace workbench {
 
 namespace {
 
@@ -36,4 +36,4 @@ QString sharedFolder(const QString& name)
         {fromExecutable(name), fromExecutable(QStringLiteral("../share/vlk-workbench/") + name)});
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -5,7 +5,7 @@
 
 #include <QString>
 
-namespace vlk {
+namespace workbench {
 
 // The plug-in library; where it is missing, the place where it should have been.
 QString pluginPath();
@@ -13,4 +13,4 @@ QString pluginPath();
 // A folder of data such as "help" or "translations"; where it is missing, its place beside the executable.
 QString sharedFolder(const QString& name);
 
-} // namespace vlk
+} // namespace workbench

@@ -8,7 +8,7 @@
 #include <functional>
 #include <vector>
 
-namespace vlk {
+namespace workbench {
 
 class KeyTexts
 {
@@ -19,11 +19,11 @@ public:
     {
         bind([object, key] {
             if constexpr (requires { object->setText(QString()); })
-                object->setText(vlk::text(key));
+                object->setText(workbench::text(key));
             else if constexpr (requires { object->setTitle(QString()); })
-                object->setTitle(vlk::text(key));
+                object->setTitle(workbench::text(key));
             else
-                object->setWindowTitle(vlk::text(key));
+                object->setWindowTitle(workbench::text(key));
         });
         return object;
     }
@@ -44,4 +44,4 @@ private:
     std::vector<std::function<void()>> setters_;
 };
 
-} // namespace vlk
+} // namespace workbench

@@ -1,6 +1,6 @@
 #include "window/key_translator.h"
 
-namespace vlk {
+namespace workbench {
 
 QString KeyTranslator::translate(const char* /*context*/, const char* key, const char* /*disambiguation*/,
                                  int n) const
@@ -8,4 +8,4 @@ QString KeyTranslator::translate(const char* /*context*/, const char* key, const
     return QTranslator::translate(nullptr, key, nullptr, n);
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -5,7 +5,7 @@
 
 #include <QTranslator>
 
-namespace vlk {
+namespace workbench {
 
 class KeyTranslator : public QTranslator
 {
@@ -18,4 +18,4 @@ public:
                       int n = -1) const override;
 };
 
-} // namespace vlk
+} // namespace workbench

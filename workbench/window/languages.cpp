@@ -7,7 +7,7 @@
 #include <QLibraryInfo>
 #include <QLocale>
 
-namespace vlk {
+namespace workbench {
 
 QString Languages::ofSystem()
 {
@@ -20,7 +20,7 @@ Languages::~Languages() = default;
 bool Languages::set(const QString& code)
 {
     auto texts = std::make_unique<KeyTranslator>();
-    if (!texts->load(code, vlk::sharedFolder(QStringLiteral("translations"))))
+    if (!texts->load(code, workbench::sharedFolder(QStringLiteral("translations"))))
         return false;
     auto dialogs = std::make_unique<QTranslator>();
     const bool hasDialogs = dialogs->load(QStringLiteral("qtbase_") + code,
@@ -46,4 +46,4 @@ QString plainText(const char* key)
     return text(key).remove(QLatin1Char('&'));
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -10,7 +10,7 @@
 
 #include <memory>
 
-namespace vlk {
+namespace workbench {
 
 class Languages
 {
@@ -40,4 +40,4 @@ QString text(const char* key);
 // The same without the sign of a mnemonic, for where there is none.
 QString plainText(const char* key);
 
-} // namespace vlk
+} // namespace workbench

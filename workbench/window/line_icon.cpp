@@ -52,7 +52,7 @@ QString drawingPath(const QString& name)
 
 } // namespace
 
-namespace vlk {
+namespace workbench {
 
 QIcon lineIcon(const QString& name)
 {
@@ -65,4 +65,4 @@ QIcon applicationIcon()
     return QIcon(drawingPath(QStringLiteral("vlk-workbench")));
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -5,7 +5,7 @@
 
 #include <QIcon>
 
-namespace vlk {
+namespace workbench {
 
 // The drawing "<name>.svg"; a name without a drawing gives an icon without a picture.
 QIcon lineIcon(const QString& name);
@@ -13,4 +13,4 @@ QIcon lineIcon(const QString& name);
 // The workbench's own, in its fixed colours.
 QIcon applicationIcon();
 
-} // namespace vlk
+} // namespace workbench

@@ -10,7 +10,7 @@
 #include "window/status_line.h"
 #include "window/trouble_text.h"
 
-namespace vlk {
+namespace workbench {
 
 LinkNotices::LinkNotices(HostSession& session, PluginWindows& windows, MessageLogModel& log,
                          StatusLine& status, QWidget* mainWindow)
@@ -47,7 +47,7 @@ LinkNotices::LinkNotices(HostSession& session, PluginWindows& windows, MessageLo
 void LinkNotices::connectRequests()
 {
     const auto log = [this](const char* key, vlk::Message message) {
-        log_.appendWarning(QStringLiteral("vlk.workbench.link"), vlk::text(key).arg(quint32(message)));
+        log_.appendWarning(QStringLiteral("vlk.workbench.link"), workbench::text(key).arg(quint32(message)));
     };
     const RepeatedRequests* requests = &session_.requests();
     connect(requests, &RepeatedRequests::sentAgain, this,
@@ -85,17 +85,19 @@ void LinkNotices::look(vlk::Direction direction, quint32 id, const void* p1)
     if (isOfSearch && p1 != nullptr && tracker::isSearchState(*static_cast<const char*>(p1)))
         setTrouble({});
     else if (isOfSearch)
-        setTrouble([id] { return vlk::text("wb_search_bad").arg(id); });
-    if (direction != vlk::Direction::ToPlugin || !vlk::RecordCheck::carriesRecord(answer) || p1 == nullptr)
+        setTrouble([id] { return workbench::text("wb_search_bad").arg(id); });
+    if (direction != vlk::Direction::ToPlugin || !workbench::RecordCheck::carriesRecord(answer) ||
+        p1 == nullptr)
         return;
     const QByteArray& bytes = *static_cast<const QByteArray*>(p1);
     const auto problem = check_.look(answer, bytes);
     if (!problem) {
         // The window of telemetry stays empty for these, as if nothing had come.
-        const int version = vlk::RecordCheck::versionOf(answer, bytes);
+        const int version = workbench::RecordCheck::versionOf(answer, bytes);
         if (version == 10 || version == 20)
             setTrouble([version] {
-                return vlk::text("wb_record_version").arg(QStringLiteral("ZETA %1.0").arg(version / 10));
+                return workbench::text("wb_record_version")
+                    .arg(QStringLiteral("ZETA %1.0").arg(version / 10));
             });
         else
             setTrouble({});
@@ -103,8 +105,9 @@ void LinkNotices::look(vlk::Direction direction, quint32 id, const void* p1)
     }
     if (damagedOfPeriod_)
         ++*damagedOfPeriod_;
-    log_.markNewest(vlk::noteOn(*problem));
-    setTrouble([problem, id] { return vlk::text("wb_answer_bad").arg(id).arg(vlk::noteOn(*problem)); });
+    log_.markNewest(workbench::noteOn(*problem));
+    setTrouble(
+        [problem, id] { return workbench::text("wb_answer_bad").arg(id).arg(workbench::noteOn(*problem)); });
 }
 
 void LinkNotices::setTrouble(const std::function<QString()>& trouble)
@@ -125,19 +128,19 @@ void LinkNotices::setTrouble(const std::function<QString()>& trouble)
 QString LinkNotices::silence(const QDateTime& since, vlk::Message request)
 {
     const char* key = "wb_silence_command";
-    if (vlk::hasEffect(request, Effect::Reads))
+    if (workbench::hasEffect(request, Effect::Reads))
         key = isSaving_ ? "wb_silence_save" : "wb_silence_again";
-    else if (vlk::hasEffect(request, Effect::MayBeMute))
+    else if (workbench::hasEffect(request, Effect::MayBeMute))
         key = "wb_silence_mute";
     const qint64 seconds = AnswerWatch::patienceMs / 1000;
-    return vlk::text(key).arg(vlk::timeOfDay(since), vlk::number(seconds));
+    return workbench::text(key).arg(workbench::timeOfDay(since), workbench::number(seconds));
 }
 
 vlk::Notice LinkNotices::troubleNotice()
 {
     vlk::Notice notice{vlk::Mark::advice, trouble_(), {}};
     if (isSaving_)
-        notice.actions.push_back({vlk::text("wb_end_save"), [this] { endSave(); }});
+        notice.actions.push_back({workbench::text("wb_end_save"), [this] { endSave(); }});
     return notice;
 }
 
@@ -153,7 +156,7 @@ void LinkNotices::endSave()
     setTrouble({});
     // The plug-in tells of a file with a part of the period.
     if (save.records == 0)
-        tellResult([] { return vlk::text("wb_save_ended"); }, false);
+        tellResult([] { return workbench::text("wb_save_ended"); }, false);
 }
 
 void LinkNotices::tellDetached(bool isPulled)
@@ -175,10 +178,10 @@ void LinkNotices::tellDetached(bool isPulled)
             if (!key)
                 return;
             if (isPulled)
-                vlk::showWarning(vlk::text(key), mainWindow_);
-            status_.tell(StatusLine::Command, [key] { return vlk::text(key); });
+                workbench::showWarning(workbench::text(key), mainWindow_);
+            status_.tell(StatusLine::Command, [key] { return workbench::text(key); });
         },
         Qt::QueuedConnection);
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -11,7 +11,7 @@
 #include "window/answer_watch.h"
 #include "window/front_notice.h"
 
-namespace vlk {
+namespace workbench {
 
 class HostSession;
 class MessageLogModel;
@@ -50,7 +50,7 @@ private:
     MessageLogModel& log_;
     StatusLine& status_;
     QWidget* mainWindow_;
-    vlk::RecordCheck check_;
+    workbench::RecordCheck check_;
     AnswerWatch watch_;
     FrontNotice front_;
     std::function<QString()> trouble_;
@@ -59,4 +59,4 @@ private:
     std::optional<int> damagedOfPeriod_; // none while no period is asked for
 };
 
-} // namespace vlk
+} // namespace workbench

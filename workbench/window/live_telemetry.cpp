@@ -16,23 +16,25 @@ QWidget* form()
 
 } // namespace
 
-void open(vlk::Tour& tour)
+void open(workbench::Tour& tour)
 {
     const QString failure = tour.window().session().liveTelemetry();
-    vlk::Tour::expect(failure.isEmpty(), failure);
-    tour.waitFor([] { return vlk::Tour::findVisible(kNumber) && page() != QLatin1String("page_Empty"); },
-                 QStringLiteral("a record in the telemetry window"));
+    workbench::Tour::expect(failure.isEmpty(), failure);
+    tour.waitFor(
+        [] { return workbench::Tour::findVisible(kNumber) && page() != QLatin1String("page_Empty"); },
+        QStringLiteral("a record in the telemetry window"));
 }
 
-void close(vlk::Tour& tour)
+void close(workbench::Tour& tour)
 {
     tour.window().session().link().send(vlk::Message::CloseWindows);
-    tour.waitFor([] { return !vlk::Tour::findVisible(kNumber); }, QStringLiteral("the end of the window"));
+    tour.waitFor([] { return !workbench::Tour::findVisible(kNumber); },
+                 QStringLiteral("the end of the window"));
 }
 
 QWidget* window()
 {
-    return vlk::Tour::find<QLabel>(kNumber)->window();
+    return workbench::Tour::find<QLabel>(kNumber)->window();
 }
 
 QString number()
@@ -46,7 +48,7 @@ QString textOf(const char* label)
     const auto* found = form()->findChild<QLabel*>(name);
     if (found == nullptr)
         found = window()->findChild<QLabel*>(name);
-    vlk::Tour::expect(found != nullptr, QStringLiteral("no label named %1").arg(name));
+    workbench::Tour::expect(found != nullptr, QStringLiteral("no label named %1").arg(name));
     return found->text();
 }
 
@@ -55,19 +57,19 @@ QString page()
     return form()->objectName();
 }
 
-void ask(vlk::Tour& tour, const char* button)
+void ask(workbench::Tour& tour, const char* button)
 {
     const auto onShow = [] { return page() + number(); };
     const QString before = onShow();
-    vlk::Tour::press(button);
+    workbench::Tour::press(button);
     tour.waitFor([&] { return onShow() != before; },
                  QStringLiteral("the record of %1").arg(QLatin1String(button)));
 }
 
 void showFunctions()
 {
-    if (!vlk::Tour::findVisible("frame_Btn_Func"))
-        vlk::Tour::press("pushButton_Func");
+    if (!workbench::Tour::findVisible("frame_Btn_Func"))
+        workbench::Tour::press("pushButton_Func");
 }
 
 } // namespace live

@@ -6,8 +6,8 @@
 
 namespace live {
 
-void open(vlk::Tour& tour);
-void close(vlk::Tour& tour);
+void open(workbench::Tour& tour);
+void close(workbench::Tour& tour);
 
 QWidget* window();
 // Of the record on show.
@@ -18,7 +18,7 @@ QString textOf(const char* label);
 QString page();
 
 // Asks for a record and waits until one with another number, or on another form, is there.
-void ask(vlk::Tour& tour, const char* button);
+void ask(workbench::Tour& tour, const char* button);
 // The row of functions at the bottom.
 void showFunctions();
 

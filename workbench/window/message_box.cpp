@@ -6,7 +6,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-namespace vlk {
+namespace workbench {
 
 QWidget* windowInFront(QWidget* otherwise)
 {
@@ -23,7 +23,7 @@ void showWarning(const QString& text, QWidget* window)
         if (box && box->isVisible() && box->text() == text)
             return;
     }
-    auto* box = new QMessageBox(QMessageBox::Warning, vlk::text("wb_title"), text, QMessageBox::Ok,
+    auto* box = new QMessageBox(QMessageBox::Warning, workbench::text("wb_title"), text, QMessageBox::Ok,
                                 windowInFront(window));
     box->setObjectName(QStringLiteral("messageBox_Warning"));
     box->setTextFormat(Qt::PlainText);
@@ -34,7 +34,7 @@ void showWarning(const QString& text, QWidget* window)
 
 bool agrees(const QString& question, const QString& verb, const QString& name, QWidget* window)
 {
-    QMessageBox box(QMessageBox::Warning, vlk::text("wb_title"), question, QMessageBox::Cancel,
+    QMessageBox box(QMessageBox::Warning, workbench::text("wb_title"), question, QMessageBox::Cancel,
                     windowInFront(window));
     box.setObjectName(name);
     box.setTextFormat(Qt::PlainText);
@@ -44,4 +44,4 @@ bool agrees(const QString& question, const QString& verb, const QString& name, Q
     return box.clickedButton() == agree;
 }
 
-} // namespace vlk
+} // namespace workbench

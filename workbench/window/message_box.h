@@ -6,7 +6,7 @@
 
 class QWidget;
 
-namespace vlk {
+namespace workbench {
 
 // A sentence or two that the user has to know. Holds nothing up: the caller goes on at once. The same text
 // does not come up twice at a time. The window is where the box goes when no other one is in front.
@@ -20,4 +20,4 @@ bool agrees(const QString& question, const QString& verb, const QString& name, Q
 // else the given.
 QWidget* windowInFront(QWidget* otherwise);
 
-} // namespace vlk
+} // namespace workbench

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace vlk {
+namespace workbench {
 
 void MessageLogFilter::setWords(const QString& words)
 {
@@ -38,4 +38,4 @@ bool MessageLogFilter::filterAcceptsRow(int row, const QModelIndex& parent) cons
     });
 }
 
-} // namespace vlk
+} // namespace workbench

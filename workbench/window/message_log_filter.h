@@ -6,7 +6,7 @@
 #include <QSortFilterProxyModel>
 #include <QStringList>
 
-namespace vlk {
+namespace workbench {
 
 class MessageLogFilter : public QSortFilterProxyModel
 {
@@ -28,4 +28,4 @@ private:
     Directions directions_ = Directions::Both;
 };
 
-} // namespace vlk
+} // namespace workbench

@@ -5,12 +5,13 @@
 // kept as they came and turned into hex when they are looked at.
 
 #include "plugin/host/host_interface.h"
+#include "plugin_names.h"
 
 #include <QAbstractTableModel>
 
 #include <deque>
 
-namespace vlk {
+namespace workbench {
 
 struct LoggedMessage
 {
@@ -62,4 +63,4 @@ private:
     int capacity_;
 };
 
-} // namespace vlk
+} // namespace workbench

@@ -15,8 +15,11 @@ class QTableView;
 class QToolButton;
 
 namespace vlk {
-
 class EmptyNote;
+}
+
+namespace workbench {
+
 class MessageLogFilter;
 class MessageLogModel;
 
@@ -51,11 +54,11 @@ private:
     QLineEdit* words_;
     QComboBox* directions_;
     QTableView* table_;
-    EmptyNote* empty_ = nullptr;
+    vlk::EmptyNote* empty_ = nullptr;
     QPlainTextEdit* details_;
     QLabel* count_;
     QToolButton* copy_ = nullptr;
     QToolButton* save_ = nullptr;
 };
 
-} // namespace vlk
+} // namespace workbench

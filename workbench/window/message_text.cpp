@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-namespace vlk {
+namespace workbench {
 
 namespace {
 
@@ -213,4 +213,4 @@ QString hexText(const QByteArray& bytes)
     return text;
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -4,11 +4,12 @@
 // that are bytes. Reads the parameters where they lie, so it must be asked while the message passes.
 
 #include "plugin/host/host_interface.h"
+#include "plugin_names.h"
 
 #include <QByteArray>
 #include <QString>
 
-namespace vlk {
+namespace workbench {
 
 // The table's row for a number; null for a number that does not go this way.
 const MessageInfo* findMessage(Direction direction, quint32 id);
@@ -25,4 +26,4 @@ MessageText describeMessage(Direction direction, quint32 id, const void* p1, con
 // "[3] 01 02 FF"
 QString hexText(const QByteArray& bytes);
 
-} // namespace vlk
+} // namespace workbench

@@ -6,11 +6,12 @@
 // Messages sent while no plug-in is loaded go nowhere.
 
 #include "plugin/host/host_interface.h"
+#include "plugin_names.h"
 
 #include <QLibrary>
 #include <QObject>
 
-namespace vlk {
+namespace workbench {
 
 class PluginLink : public QObject
 {
@@ -67,4 +68,4 @@ private:
     vlk::ReceiveMessageFunction receive_ = nullptr;
 };
 
-} // namespace vlk
+} // namespace workbench

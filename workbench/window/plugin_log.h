@@ -9,7 +9,7 @@
 #include <QObject>
 #include <QStringList>
 
-namespace vlk {
+namespace workbench {
 
 class PluginLog : public QObject
 {
@@ -36,10 +36,10 @@ Q_SIGNALS:
     // Comes on the thread of this object. Where the warning was logged there it comes within that call, so
     // that it is known before what follows it, and whoever takes it only makes a note: what is logged until
     // then reaches nobody.
-    void warned(vlk::PluginLog::Topic topic, const QString& category, const QString& text);
+    void warned(workbench::PluginLog::Topic topic, const QString& category, const QString& text);
 
 private:
     static void listen(QtMsgType type, const QMessageLogContext& context, const QString& message);
 };
 
-} // namespace vlk
+} // namespace workbench

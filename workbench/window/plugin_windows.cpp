@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace vlk {
+namespace workbench {
 
 PluginWindows::PluginWindows(const QWidget* mainWindow) : mainWindow_(mainWindow)
 {
@@ -59,4 +59,4 @@ bool PluginWindows::eventFilter(QObject* object, QEvent* event)
     return false;
 }
 
-} // namespace vlk
+} // namespace workbench

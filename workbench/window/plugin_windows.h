@@ -8,7 +8,7 @@
 #include <QVector>
 #include <QWidget>
 
-namespace vlk {
+namespace workbench {
 
 class PluginWindows : public QObject
 {
@@ -37,4 +37,4 @@ private:
     QVector<QPointer<QWidget>> open_;
 };
 
-} // namespace vlk
+} // namespace workbench

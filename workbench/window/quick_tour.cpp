@@ -9,7 +9,7 @@
 #include <QRadioButton>
 #include <QSpinBox>
 
-namespace vlk {
+namespace workbench {
 
 namespace {
 
@@ -80,4 +80,4 @@ std::vector<Tour::Step> quickTour()
     };
 }
 
-} // namespace vlk
+} // namespace workbench

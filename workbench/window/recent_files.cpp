@@ -1,5 +1,6 @@
 #include "window/recent_files.h"
 
+#include "plugin_names.h"
 #include "typing/empty_note.h"
 #include "window/short_file_name.h"
 #include "window/stored_file.h"
@@ -12,7 +13,7 @@
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
-namespace vlk {
+namespace workbench {
 
 namespace {
 
@@ -44,7 +45,7 @@ protected:
         const QWidget* list = option->widget;
         const int margin = list->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, list) + 1;
         option->text =
-            vlk::shortFileName(option->text, option->fontMetrics, option->rect.width() - 2 * margin);
+            workbench::shortFileName(option->text, option->fontMetrics, option->rect.width() - 2 * margin);
     }
 };
 
@@ -61,14 +62,14 @@ RecentFiles::RecentFiles(Settings& settings, QWidget* parent)
     menu_->setToolTipsVisible(true);
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list_->setContextMenuPolicy(Qt::CustomContextMenu);
-    texts_.bind([this] { list_->setAccessibleName(vlk::plainText("wb_recent")); });
+    texts_.bind([this] { list_->setAccessibleName(workbench::plainText("wb_recent")); });
     connect(list_, &QListWidget::itemActivated, this, [this](const QListWidgetItem* item) {
         Q_EMIT chosen(item->data(kPathRole).toString(), item->data(kWindowRole).value<TelemetryWindow>());
     });
     connect(list_, &QListWidget::customContextMenuRequested, this, &RecentFiles::offerWindows);
 
     auto* empty = new EmptyNote(list_);
-    texts_.bind([empty] { empty->tell(vlk::text("wb_recent_none")); });
+    texts_.bind([empty] { empty->tell(workbench::text("wb_recent_none")); });
     auto* hint = texts_.bind(new QLabel(this), "wb_drop_hint");
     hint->setWordWrap(true);
     auto* layout = new QVBoxLayout(this);
@@ -99,7 +100,7 @@ void RecentFiles::refresh()
         item->setData(kWindowRole, QVariant::fromValue(file.window));
         item->setToolTip(QDir::toNativeSeparators(file.path));
         constexpr int widest = 480;
-        QString name = vlk::shortFileName(item->text(), menu_->fontMetrics(), widest);
+        QString name = workbench::shortFileName(item->text(), menu_->fontMetrics(), widest);
         QAction* action = menu_->addAction(name.replace(QLatin1Char('&'), QLatin1String("&&")), this,
                                            [this, file] { Q_EMIT chosen(file.path, file.window); });
         action->setToolTip(item->toolTip());
@@ -113,14 +114,14 @@ void RecentFiles::offerWindows(const QPoint& at)
     if (item == nullptr)
         return;
     const QString path = item->data(kPathRole).toString();
-    if (vlk::storedFileKind(path) != StoredFile::Telemetry)
+    if (workbench::storedFileKind(path) != StoredFile::Telemetry)
         return;
     QMenu offers;
     for (const auto& [key, window] : {std::pair("wb_browse_short", TelemetryWindow::Browser),
                                       std::pair("wb_table_short", TelemetryWindow::Table)})
-        offers.addAction(vlk::text(key))->setData(QVariant::fromValue(window));
+        offers.addAction(workbench::text(key))->setData(QVariant::fromValue(window));
     if (const QAction* action = offers.exec(list_->viewport()->mapToGlobal(at)))
         Q_EMIT chosen(path, action->data().value<TelemetryWindow>());
 }
 
-} // namespace vlk
+} // namespace workbench

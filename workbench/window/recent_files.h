@@ -11,7 +11,7 @@
 class QListWidget;
 class QMenu;
 
-namespace vlk {
+namespace workbench {
 
 class RecentFiles : public QGroupBox
 {
@@ -41,4 +41,4 @@ private:
     QMenu* menu_;
 };
 
-} // namespace vlk
+} // namespace workbench

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <iterator>
 
-namespace vlk {
+namespace workbench {
 
 namespace {
 
@@ -86,4 +86,4 @@ bool RepeatedRequests::takesAnswer(Message answer)
     return true;
 }
 
-} // namespace vlk
+} // namespace workbench

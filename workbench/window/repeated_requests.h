@@ -6,13 +6,14 @@
 //
 // Of each number the newest request alone is sent again: whoever asks anew has given up on the one before.
 
+#include "plugin_names.h"
 #include "tracker/simulated_tracker.h"
 
 #include <QTimer>
 
 #include <map>
 
-namespace vlk {
+namespace workbench {
 
 class RepeatedRequests : public QObject
 {
@@ -48,4 +49,4 @@ private:
     std::map<quint32, bool> repeated_; // the tickets that were sent again, and whether they are answered
 };
 
-} // namespace vlk
+} // namespace workbench

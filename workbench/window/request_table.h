@@ -4,8 +4,9 @@
 // only what reads may be asked again when no answer comes, and what destroys is asked of the user first.
 
 #include "plugin/host/host_interface.h"
+#include "plugin_names.h"
 
-namespace vlk {
+namespace workbench {
 
 enum class Effect {
     Reads,     // asking twice does no harm: it is asked again until an answer comes
@@ -75,4 +76,4 @@ constexpr bool hasEffect(Message request, Effect effect)
     return row != nullptr && row->effect == effect;
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -17,7 +17,7 @@
 #include <cerrno>
 #include <iterator>
 
-namespace vlk {
+namespace workbench {
 
 namespace {
 
@@ -39,7 +39,7 @@ bool isAboutRoom(const QString& reason)
 // The table form has no content that tells it from others.
 bool isTelemetry(const QString& path)
 {
-    return vlk::storedFileKind(path) == StoredFile::Telemetry ||
+    return workbench::storedFileKind(path) == StoredFile::Telemetry ||
            path.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive);
 }
 
@@ -65,28 +65,32 @@ SaveNotices::SaveNotices(const PluginLog& log, HostSession& session, LinkNotices
 void SaveNotices::tellSaved(const QString& path)
 {
     const QString shown = QDir::toNativeSeparators(path);
-    const StoredFile kind = vlk::storedFileKind(path);
+    const StoredFile kind = workbench::storedFileKind(path);
     if (kind != StoredFile::Unknown)
         recent_.add(path, TelemetryWindow::Browser);
     if (kind == StoredFile::Configuration) {
         tellConfiguration(path);
     } else if (const int damaged = isTelemetry(path) ? link_.endPeriod() : 0; damaged > 0) {
-        warn([shown, damaged] { return vlk::text("wb_saved_damaged").arg(shown, vlk::number(damaged)); });
+        warn([shown, damaged] {
+            return workbench::text("wb_saved_damaged").arg(shown, workbench::number(damaged));
+        });
     } else {
-        status_.tell(StatusLine::Command, [shown] { return vlk::text("wb_saved").arg(shown); });
+        status_.tell(StatusLine::Command, [shown] { return workbench::text("wb_saved").arg(shown); });
     }
 }
 
-void SaveNotices::tellSavedInPart(const QString& path, const vlk::SavedPart& part)
+void SaveNotices::tellSavedInPart(const QString& path, const workbench::SavedPart& part)
 {
-    if (vlk::storedFileKind(path) != StoredFile::Unknown)
+    if (workbench::storedFileKind(path) != StoredFile::Unknown)
         recent_.add(path, TelemetryWindow::Browser);
     warn([shown = QDir::toNativeSeparators(path), part, damaged = link_.endPeriod()] {
-        const QString held = vlk::text("wb_saved_part")
-                                 .arg(shown, vlk::number(part.records), vlk::number(part.all), part.until);
-        return vlk::sentences(
-            {held, damaged > 0 ? vlk::text("wb_part_damaged").arg(vlk::number(damaged)) : QString(),
-             vlk::text("wb_do_part")});
+        const QString held =
+            workbench::text("wb_saved_part")
+                .arg(shown, workbench::number(part.records), workbench::number(part.all), part.until);
+        return workbench::sentences(
+            {held,
+             damaged > 0 ? workbench::text("wb_part_damaged").arg(workbench::number(damaged)) : QString(),
+             workbench::text("wb_do_part")});
     });
 }
 
@@ -97,8 +101,9 @@ void SaveNotices::tellConfiguration(const QString& path)
         file.open(QIODevice::ReadOnly) ? session_.edited().changesIn(file.readAll()) : std::nullopt;
     const QString typed = typing_.take();
     const auto sentence = [shown = QDir::toNativeSeparators(path), changes, typed] {
-        const QString saved = changes ? vlk::text("wb_saved_changes").arg(shown, vlk::number(*changes))
-                                      : vlk::text("wb_saved").arg(shown);
+        const QString saved =
+            changes ? workbench::text("wb_saved_changes").arg(shown, workbench::number(*changes))
+                    : workbench::text("wb_saved").arg(shown);
         return typed.isEmpty() ? saved : saved + QLatin1Char('\n') + typed;
     };
     if (typed.isEmpty())
@@ -114,16 +119,17 @@ void SaveNotices::tellFailed(const QString& path, const QString& reason)
         return;
     }
     warn([shown = QDir::toNativeSeparators(path), reason] {
-        return vlk::sentences({reason.isEmpty() ? vlk::text("wb_save_failed").arg(shown)
-                                                : vlk::text("wb_save_failed_why").arg(shown, reason),
-                               vlk::text(isAboutRoom(reason) ? "wb_do_save" : "wb_do_save_elsewhere")});
+        return workbench::sentences(
+            {reason.isEmpty() ? workbench::text("wb_save_failed").arg(shown)
+                              : workbench::text("wb_save_failed_why").arg(shown, reason),
+             workbench::text(isAboutRoom(reason) ? "wb_do_save" : "wb_do_save_elsewhere")});
     });
 }
 
 void SaveNotices::warn(const std::function<QString()>& sentence)
 {
     status_.tell(StatusLine::Command, sentence);
-    vlk::showWarning(sentence(), mainWindow_);
+    workbench::showWarning(sentence(), mainWindow_);
 }
 
-} // namespace vlk
+} // namespace workbench

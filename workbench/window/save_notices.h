@@ -8,7 +8,7 @@
 #include "window/save_watch.h"
 #include "window/typing_notices.h"
 
-namespace vlk {
+namespace workbench {
 
 class HostSession;
 class LinkNotices;
@@ -29,7 +29,7 @@ public:
 
 private:
     void tellSaved(const QString& path);
-    void tellSavedInPart(const QString& path, const vlk::SavedPart& part);
+    void tellSavedInPart(const QString& path, const workbench::SavedPart& part);
     void tellConfiguration(const QString& path);
     void warn(const std::function<QString()>& sentence);
     void tellFailed(const QString& path, const QString& reason);
@@ -43,4 +43,4 @@ private:
     TypingNotices typing_;
 };
 
-} // namespace vlk
+} // namespace workbench

@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-namespace vlk {
+namespace workbench {
 
 namespace {
 
@@ -122,4 +122,4 @@ void SaveWatch::look(bool last)
     Q_EMIT failed(path, {});
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -16,7 +16,7 @@
 class QFileDialog;
 class QWidget;
 
-namespace vlk {
+namespace workbench {
 
 // How much of a period a file holds.
 struct SavedPart
@@ -40,7 +40,7 @@ public:
 Q_SIGNALS:
     void saved(const QString& path);
     // These two come from the event loop, when the plug-in is done.
-    void savedInPart(const QString& path, const vlk::SavedPart& part);
+    void savedInPart(const QString& path, const workbench::SavedPart& part);
     // The path, and the reason where one is known.
     void failed(const QString& path, const QString& reason);
 
@@ -69,4 +69,4 @@ private:
     QFileSystemWatcher folder_;
 };
 
-} // namespace vlk
+} // namespace workbench

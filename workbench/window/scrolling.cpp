@@ -7,7 +7,7 @@
 #include <QScrollBar>
 #include <QWidget>
 
-namespace vlk {
+namespace workbench {
 
 namespace {
 
@@ -79,4 +79,4 @@ void moveWithin(QWidget* window, QPoint place)
     window->move(qMax(room.left(), qMin(place.x(), last.x())), qMax(room.top(), qMin(place.y(), last.y())));
 }
 
-} // namespace vlk
+} // namespace workbench

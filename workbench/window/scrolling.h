@@ -8,7 +8,7 @@
 class QScrollArea;
 class QWidget;
 
-namespace vlk {
+namespace workbench {
 
 // The widget in an area without a frame that scrolls it where there is no room for it. It is made as wide as
 // it needs, unless the screen is small.
@@ -24,4 +24,4 @@ void resizeWithin(QWidget* window, QSize wanted);
 // Moves it to the place, or as near as it can be with the whole of it and its frame on the screen.
 void moveWithin(QWidget* window, QPoint place);
 
-} // namespace vlk
+} // namespace workbench

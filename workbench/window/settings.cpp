@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-namespace vlk {
+namespace workbench {
 
 namespace {
 
@@ -170,4 +170,4 @@ void Settings::setLayout(const QString& name, const QByteArray& state)
     store_->setValue(layoutKey(name), state);
 }
 
-} // namespace vlk
+} // namespace workbench

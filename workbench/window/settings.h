@@ -13,7 +13,7 @@
 #include <memory>
 #include <optional>
 
-namespace vlk {
+namespace workbench {
 
 // What a file of telemetry is shown in.
 enum class TelemetryWindow { Browser = 0, Table = 1 };
@@ -74,6 +74,6 @@ private:
     bool damaged_ = false;
 };
 
-} // namespace vlk
+} // namespace workbench
 
-Q_DECLARE_METATYPE(vlk::TelemetryWindow)
+Q_DECLARE_METATYPE(workbench::TelemetryWindow)

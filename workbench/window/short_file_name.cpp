@@ -2,7 +2,7 @@
 
 #include <QRegularExpression>
 
-namespace vlk {
+namespace workbench {
 
 QString shortFileName(const QString& name, const QFontMetrics& metrics, int room)
 {
@@ -27,4 +27,4 @@ QString shortFileName(const QString& name, const QFontMetrics& metrics, int room
     return metrics.elidedText(times, Qt::ElideRight, room);
 }
 
-} // namespace vlk
+} // namespace workbench

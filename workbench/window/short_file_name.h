@@ -6,8 +6,8 @@
 #include <QFontMetrics>
 #include <QString>
 
-namespace vlk {
+namespace workbench {
 
 QString shortFileName(const QString& name, const QFontMetrics& metrics, int room);
 
-} // namespace vlk
+} // namespace workbench

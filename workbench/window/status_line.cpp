@@ -7,7 +7,7 @@
 #include <QStatusBar>
 #include <QStyle>
 
-namespace vlk {
+namespace workbench {
 
 namespace {
 
@@ -67,9 +67,9 @@ void StatusLine::refresh()
     if (!held_.empty())
         time_->setText(held_.back().time.toString(QStringLiteral("HH:mm:ss")));
     lastingLabel_->setText(lasting_());
-    const QString text = held_.empty() ? vlk::text("wb_ready") : held_.back().text();
+    const QString text = held_.empty() ? workbench::text("wb_ready") : held_.back().text();
     label_->setText(QString(text).replace(QLatin1Char('\n'), QLatin1Char(' ')));
     label_->setToolTip(held_.empty() ? QString() : text);
 }
 
-} // namespace vlk
+} // namespace workbench

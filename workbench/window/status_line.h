@@ -14,7 +14,7 @@
 class QLabel;
 class QStatusBar;
 
-namespace vlk {
+namespace workbench {
 
 class StatusLine : public QObject
 {
@@ -50,4 +50,4 @@ private:
     std::vector<Held> held_; // the newest last
 };
 
-} // namespace vlk
+} // namespace workbench

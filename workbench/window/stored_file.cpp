@@ -3,7 +3,7 @@
 #include <QFile>
 #include <QXmlStreamReader>
 
-namespace vlk {
+namespace workbench {
 
 StoredFile storedFileKind(const QString& path)
 {
@@ -23,4 +23,4 @@ StoredFile storedFileKind(const QString& path)
     return reader.name() == QLatin1String("TMI") ? StoredFile::Telemetry : StoredFile::Unknown;
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -6,9 +6,9 @@
 
 enum class StoredFile { Configuration, Telemetry, Unknown };
 
-namespace vlk {
+namespace workbench {
 
 // Reads the beginning of the file; the binary telemetry form is known by its extension.
 StoredFile storedFileKind(const QString& path);
 
-} // namespace vlk
+} // namespace workbench

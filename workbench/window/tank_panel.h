@@ -34,7 +34,7 @@ private:
     void refresh();
 
     tracker::SimulatedTracker& tracker_;
-    vlk::KeyTexts texts_;
+    workbench::KeyTexts texts_;
     QComboBox* tank_;
     QLabel* shape_;
     QProgressBar* filling_;

@@ -14,7 +14,7 @@
 
 #include <cstdio>
 
-namespace vlk {
+namespace workbench {
 
 namespace {
 
@@ -204,4 +204,4 @@ QWidget* Tour::findVisible(const char* name)
     return nullptr;
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -18,7 +18,7 @@
 class QAbstractButton;
 class QFileDialog;
 
-namespace vlk {
+namespace workbench {
 
 struct TourFailure : std::runtime_error
 {
@@ -99,4 +99,4 @@ private:
     std::optional<TourFailure> failureInModal_;
 };
 
-} // namespace vlk
+} // namespace workbench

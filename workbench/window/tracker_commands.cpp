@@ -9,7 +9,7 @@
 
 #include <cmath>
 
-namespace vlk {
+namespace workbench {
 
 namespace {
 
@@ -19,18 +19,18 @@ QString servers(const std::vector<int>& numbers)
 {
     QStringList list;
     for (const int number : numbers)
-        list.append(vlk::number(number));
+        list.append(workbench::number(number));
     return list.join(QLatin1String(", "));
 }
 
 QString km(double mileage)
 {
-    return vlk::number(std::llround(mileage));
+    return workbench::number(std::llround(mileage));
 }
 
 TrackerCommands::Sentence saying(const char* key)
 {
-    return [key] { return vlk::text(key); };
+    return [key] { return workbench::text(key); };
 }
 
 } // namespace
@@ -96,7 +96,7 @@ bool TrackerCommands::isAllowed(const QString& question, const char* verb)
 {
     const char* reason = whyNotNow();
     if (reason == nullptr && mayDestroy_)
-        reason = mayDestroy_(question, vlk::text(verb)) ? whyNotNow() : "wb_command_cancelled";
+        reason = mayDestroy_(question, workbench::text(verb)) ? whyNotNow() : "wb_command_cancelled";
     if (reason != nullptr)
         Q_EMIT failed(saying(reason));
     return reason == nullptr;
@@ -104,7 +104,8 @@ bool TrackerCommands::isAllowed(const QString& question, const char* verb)
 
 void TrackerCommands::clear(const Command& command)
 {
-    if (!isAllowed(vlk::text("wb_clear_question").arg(vlk::number(command.number)), "wb_clear_verb"))
+    if (!isAllowed(workbench::text("wb_clear_question").arg(workbench::number(command.number)),
+                   "wb_clear_verb"))
         return;
     cleared_ = {command.number};
     isDoubtful_ = false;
@@ -122,7 +123,7 @@ void TrackerCommands::handOver(Message answer, void* p1, void* p2)
     if (!std::exchange(isAnswered_, false))
         return;
     const auto told = [numbers = std::exchange(cleared_, {})](const char* key) {
-        return [numbers, key] { return vlk::text(key).arg(servers(numbers)); };
+        return [numbers, key] { return workbench::text(key).arg(servers(numbers)); };
     };
     if (isDoubtful_)
         Q_EMIT failed(told("wb_clear_unknown"));
@@ -134,20 +135,21 @@ void TrackerCommands::setMileage(const Command& command)
 {
     const std::optional<tracker::Present> before = tracker_.readPresent();
     const QString wanted = km(command.mileage);
-    if (!isAllowed(before ? vlk::text("wb_mileage_question").arg(wanted, km(before->mileage))
-                          : vlk::text("wb_mileage_question_blind").arg(wanted),
+    if (!isAllowed(before ? workbench::text("wb_mileage_question").arg(wanted, km(before->mileage))
+                          : workbench::text("wb_mileage_question_blind").arg(wanted),
                    "wb_mileage_verb"))
         return;
     float mileage = command.mileage;
     requests_.send(command.message, &mileage, nullptr);
     look([this, before, mileage, wanted](const std::optional<tracker::Present>& present) {
         if (!present || std::abs(present->mileage - mileage) > sameKm)
-            Q_EMIT failed([wanted] { return vlk::text("wb_mileage_unknown").arg(wanted); });
+            Q_EMIT failed([wanted] { return workbench::text("wb_mileage_unknown").arg(wanted); });
         else if (before)
-            Q_EMIT done(
-                [wanted, before] { return vlk::text("wb_mileage_done").arg(wanted, km(before->mileage)); });
+            Q_EMIT done([wanted, before] {
+                return workbench::text("wb_mileage_done").arg(wanted, km(before->mileage));
+            });
         else
-            Q_EMIT done([wanted] { return vlk::text("wb_mileage_done_blind").arg(wanted); });
+            Q_EMIT done([wanted] { return workbench::text("wb_mileage_done_blind").arg(wanted); });
     });
 }
 
@@ -158,7 +160,7 @@ void TrackerCommands::switchOutput(const Command& command)
     look([this, on, output = command.number](const std::optional<tracker::Present>& present) {
         const bool isOn = present && output > 0 && (quint64{present->outputs} << 1 >> output & 1) != 0;
         const auto told = [output](const char* key) {
-            return [output, key] { return vlk::text(key).arg(vlk::number(output)); };
+            return [output, key] { return workbench::text(key).arg(workbench::number(output)); };
         };
         if (!present || isOn != on)
             Q_EMIT failed(told(on ? "wb_output_on_unknown" : "wb_output_off_unknown"));
@@ -173,4 +175,4 @@ void TrackerCommands::look(const std::function<void(const std::optional<tracker:
                        [this, tell] { tell(tracker_.readPresent()); });
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -9,7 +9,7 @@
 #include "window/plugin_link.h"
 #include "window/repeated_requests.h"
 
-namespace vlk {
+namespace workbench {
 
 class TrackerCommands : public QObject
 {
@@ -33,9 +33,9 @@ public:
 Q_SIGNALS:
     // A command is on its way that the tracker answers.
     void sent(vlk::Message command);
-    void done(const vlk::TrackerCommands::Sentence& sentence);
+    void done(const workbench::TrackerCommands::Sentence& sentence);
     // It was not sent, or nobody knows what became of it.
-    void failed(const vlk::TrackerCommands::Sentence& sentence);
+    void failed(const workbench::TrackerCommands::Sentence& sentence);
 
 private:
     struct Command
@@ -66,4 +66,4 @@ private:
     bool isDoubtful_ = false;       // an answer of the sequence cannot be right
 };
 
-} // namespace vlk
+} // namespace workbench

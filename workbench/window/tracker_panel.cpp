@@ -1,5 +1,6 @@
 #include "window/tracker_panel.h"
 
+#include "plugin_names.h"
 #include "tracker/configuration_values.h"
 #include "tracker/simulated_tracker.h"
 #include "typing/empty_note.h"
@@ -17,7 +18,7 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
-namespace vlk {
+namespace workbench {
 
 using tracker::Protocol;
 
@@ -58,10 +59,10 @@ QWidget* TrackerPanel::buildControls()
     column->setContentsMargins(0, 0, 0, 0);
     protocol_->setObjectName(QStringLiteral("comboBox_Protocol"));
     for (const ProtocolRow& row : protocols)
-        protocol_->addItem(vlk::text(row.key));
+        protocol_->addItem(workbench::text(row.key));
     texts_.bind([this] {
         for (int i = 0; i < protocol_->count(); ++i)
-            protocol_->setItemText(i, vlk::text(protocols[i].key));
+            protocol_->setItemText(i, workbench::text(protocols[i].key));
     });
     connect(protocol_, QOverload<int>::of(&QComboBox::activated), this,
             [this](int index) { tracker_.setProtocol(protocols[index].protocol); });
@@ -87,10 +88,11 @@ QWidget* TrackerPanel::buildKeys()
     filter_->setObjectName(QStringLiteral("lineEdit_KeyFilter"));
     filter_->setClearButtonEnabled(true);
     texts_.bind([this] {
-        filter_->setPlaceholderText(vlk::text("wb_tracker_filter"));
-        filter_->setAccessibleName(vlk::text("wb_tracker_filter"));
-        keys_->setAccessibleName(vlk::plainText("wb_tracker_keys"));
-        keys_->setHorizontalHeaderLabels({vlk::text("wb_report_key"), vlk::text("wb_tracker_value")});
+        filter_->setPlaceholderText(workbench::text("wb_tracker_filter"));
+        filter_->setAccessibleName(workbench::text("wb_tracker_filter"));
+        keys_->setAccessibleName(workbench::plainText("wb_tracker_keys"));
+        keys_->setHorizontalHeaderLabels(
+            {workbench::text("wb_report_key"), workbench::text("wb_tracker_value")});
     });
     connect(filter_, &QLineEdit::textChanged, this, &TrackerPanel::filterKeys);
 
@@ -100,9 +102,10 @@ QWidget* TrackerPanel::buildKeys()
     vlk::dressTable(keys_, TableUse::read);
     vlk::elideInTheMiddle(keys_, 0);
     empty_ = new EmptyNote(keys_);
-    texts_.bind([this] { empty_->tell(vlk::text("wb_nothing_matches"), vlk::text("wb_clear_filter")); });
+    texts_.bind(
+        [this] { empty_->tell(workbench::text("wb_nothing_matches"), workbench::text("wb_clear_filter")); });
     connect(empty_, &EmptyNote::pressed, filter_, &QLineEdit::clear);
-    vlk::joinFindField(filter_, keys_);
+    workbench::joinFindField(filter_, keys_);
     keys_->horizontalHeader()->setStretchLastSection(true);
     keys_->setColumnWidth(0, fontMetrics().averageCharWidth() * 26);
 
@@ -141,4 +144,4 @@ void TrackerPanel::retranslate()
     faults_->retranslate();
 }
 
-} // namespace vlk
+} // namespace workbench

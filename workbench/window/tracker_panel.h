@@ -16,8 +16,11 @@ class SimulatedTracker;
 } // namespace tracker
 
 namespace vlk {
-
 class EmptyNote;
+}
+
+namespace workbench {
+
 class FaultsPanel;
 
 class TrackerPanel : public QWidget
@@ -41,7 +44,7 @@ private:
     QComboBox* protocol_;
     QLineEdit* filter_;
     QTableWidget* keys_;
-    EmptyNote* empty_ = nullptr;
+    vlk::EmptyNote* empty_ = nullptr;
 };
 
-} // namespace vlk
+} // namespace workbench

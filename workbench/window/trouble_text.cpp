@@ -5,7 +5,7 @@
 #include <QLocale>
 #include <QStringList>
 
-namespace vlk {
+namespace workbench {
 
 namespace {
 
@@ -87,4 +87,4 @@ QString timeOfDay(const QDateTime& time)
     return time.toString(QStringLiteral("HH:mm:ss"));
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -10,7 +10,7 @@
 
 #include <initializer_list>
 
-namespace vlk {
+namespace workbench {
 
 // Sentences side by side; empty ones are left out.
 QString sentences(std::initializer_list<QString> parts);
@@ -25,4 +25,4 @@ QString noteOn(const AnswerProblem& problem);
 QString number(qint64 value);
 QString timeOfDay(const QDateTime& time);
 
-} // namespace vlk
+} // namespace workbench

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace vlk {
+namespace workbench {
 
 TypingNotices::TypingNotices(const PluginLog& log)
 {
@@ -29,7 +29,8 @@ QString TypingNotices::take()
 {
     if (lines_.isEmpty())
         return {};
-    return vlk::text("wb_typed") + QLatin1Char('\n') + std::exchange(lines_, {}).join(QLatin1Char('\n'));
+    return workbench::text("wb_typed") + QLatin1Char('\n') +
+           std::exchange(lines_, {}).join(QLatin1Char('\n'));
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -8,7 +8,7 @@
 
 #include <QStringList>
 
-namespace vlk {
+namespace workbench {
 
 class TypingNotices : public QObject
 {
@@ -28,4 +28,4 @@ private:
     QStringList lines_;
 };
 
-} // namespace vlk
+} // namespace workbench

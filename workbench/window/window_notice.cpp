@@ -2,7 +2,7 @@
 
 #include <QEvent>
 
-namespace vlk {
+namespace workbench {
 
 namespace {
 
@@ -76,4 +76,4 @@ void WindowNotice::place()
     move(inside.topLeft());
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -3,11 +3,12 @@
 // The notices of the workbench on a window of the plug-in: a tool window on its upper inner edge, below a bar
 // of the window's own, that moves with it, goes with it and never takes the focus.
 
+#include "plugin_names.h"
 #include "typing/notice_bar.h"
 
 #include <set>
 
-namespace vlk {
+namespace workbench {
 
 class WindowNotice : public NoticeBar
 {
@@ -29,4 +30,4 @@ private:
     std::set<int> dismissed_;
 };
 
-} // namespace vlk
+} // namespace workbench

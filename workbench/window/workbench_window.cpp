@@ -1,5 +1,6 @@
 #include "window/workbench_window.h"
 
+#include "plugin_names.h"
 #include "typing/title_style.h"
 #include "window/command_bars.h"
 #include "window/data_folder.h"
@@ -30,7 +31,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
-namespace vlk {
+namespace workbench {
 
 namespace {
 
@@ -43,7 +44,7 @@ constexpr QSize usualSize(1024, 600);
 
 WorkbenchWindow::WorkbenchWindow(const DataFolder& folder, Settings& settings, Languages& languages)
     : folder_(folder), settings_(settings), languages_(languages), session_(folder.trackerFolder()),
-      windows_(this), commands_(this), helpPages_(vlk::sharedFolder(QStringLiteral("help"))),
+      windows_(this), commands_(this), helpPages_(workbench::sharedFolder(QStringLiteral("help"))),
       status_(new StatusLine(statusBar(), [this] { return lasting(); })),
       device_(new DevicePanel(session_, this)), recent_(new RecentFiles(settings, this)),
       opener_(new FileOpener(session_, settings, *recent_, this)),
@@ -79,14 +80,14 @@ void WorkbenchWindow::buildPanels()
     tabs_->setObjectName(QStringLiteral("tabWidget_Main"));
     for (QWidget* page : {static_cast<QWidget*>(logView_), static_cast<QWidget*>(reportView_),
                           static_cast<QWidget*>(trackerPanel_)})
-        tabs_->addTab(vlk::scrolling(page), QString());
+        tabs_->addTab(workbench::scrolling(page), QString());
     texts_.bind([this] {
         for (const Tab tab : {LogTab, ReportTab, TrackerTab})
-            tabs_->setTabText(tab, vlk::text(tabKeys[tab]));
+            tabs_->setTabText(tab, workbench::text(tabKeys[tab]));
     });
 
     splitter_->setObjectName(QStringLiteral("splitter_Main"));
-    splitter_->addWidget(vlk::scrolling(left));
+    splitter_->addWidget(workbench::scrolling(left));
     splitter_->addWidget(tabs_);
     splitter_->setStretchFactor(1, 1);
     splitter_->setChildrenCollapsible(false);
@@ -136,17 +137,19 @@ void WorkbenchWindow::connectSession()
     connect(&session_, &HostSession::helpRequested, this, &WorkbenchWindow::showHelp);
     connect(&session_, &HostSession::configurationWritten, this, &WorkbenchWindow::showReport);
     connect(&session_, &HostSession::writeBegan, this,
-            [this] { status_->tell(StatusLine::Command, [] { return vlk::text("wb_writing"); }); });
-    connect(&session_, &HostSession::writeCancelled, this,
-            [this] { status_->tell(StatusLine::Command, [] { return vlk::text("wb_write_cancelled"); }); });
+            [this] { status_->tell(StatusLine::Command, [] { return workbench::text("wb_writing"); }); });
+    connect(&session_, &HostSession::writeCancelled, this, [this] {
+        status_->tell(StatusLine::Command, [] { return workbench::text("wb_write_cancelled"); });
+    });
     connect(&session_, &HostSession::editedChanged, this, &WorkbenchWindow::showEdited);
     session_.setReplaceQuestion([this](const QString& file) {
-        return vlk::agrees(file.isEmpty() ? vlk::text("wb_replace_question")
-                                          : vlk::text("wb_replace_question_file").arg(file),
-                           vlk::text("wb_replace_write"), QStringLiteral("messageBox_Replace"), this);
+        return workbench::agrees(file.isEmpty() ? workbench::text("wb_replace_question")
+                                                : workbench::text("wb_replace_question_file").arg(file),
+                                 workbench::text("wb_replace_write"), QStringLiteral("messageBox_Replace"),
+                                 this);
     });
     session_.commands().setQuestion([this](const QString& text, const QString& verb) {
-        return vlk::agrees(text, verb, QStringLiteral("messageBox_Command"), this);
+        return workbench::agrees(text, verb, QStringLiteral("messageBox_Command"), this);
     });
     // Its window is modal, and so are those that come up over it.
     connect(&windows_, &PluginWindows::closed, this, [this](const QWidget* window) {
@@ -214,8 +217,8 @@ QString WorkbenchWindow::lasting()
 {
     const tracker::SimulatedTracker& tracker = session_.tracker();
     const QString unit = tracker.attached() ? tracker.model() + QLatin1Char(' ') + tracker.text2()
-                                            : vlk::text("wb_device_detached");
-    return QStringLiteral("%1  |  %2").arg(unit, vlk::text(DevicePanel::modeKey(settings_.mode())));
+                                            : workbench::text("wb_device_detached");
+    return QStringLiteral("%1  |  %2").arg(unit, workbench::text(DevicePanel::modeKey(settings_.mode())));
 }
 
 bool WorkbenchWindow::isConfigurationOpen() const
@@ -235,7 +238,7 @@ void WorkbenchWindow::tellOpened(const QString& failure)
         return;
     }
     status_->tell(StatusLine::Command, [failure] { return failure; });
-    vlk::showWarning(failure, this);
+    workbench::showWarning(failure, this);
 }
 
 void WorkbenchWindow::openFile(const QString& path, TelemetryWindow window)
@@ -275,7 +278,7 @@ void WorkbenchWindow::setLanguage(const QString& code)
     if (code == languages_.current())
         return;
     if (!languages_.set(code)) {
-        tellOpened(vlk::text("wb_language_missing").arg(code));
+        tellOpened(workbench::text("wb_language_missing").arg(code));
         return;
     }
     settings_.setLanguage(code);
@@ -285,21 +288,22 @@ void WorkbenchWindow::setLanguage(const QString& code)
 void WorkbenchWindow::showBalance()
 {
     const QString code = session_.link().balanceCode();
-    QMessageBox::information(this, vlk::text("wb_balance"),
-                             code.isEmpty() ? vlk::text("wb_balance_none")
-                                            : vlk::text("wb_balance_code").arg(code.toHtmlEscaped()));
+    QMessageBox::information(this, workbench::text("wb_balance"),
+                             code.isEmpty() ? workbench::text("wb_balance_none")
+                                            : workbench::text("wb_balance_code").arg(code.toHtmlEscaped()));
 }
 
 void WorkbenchWindow::about()
 {
     const PluginLink& link = session_.link();
     QMessageBox::about(
-        this, vlk::text("wb_about"),
+        this, workbench::text("wb_about"),
         QStringLiteral("<h3>%1 %2</h3><p>%3</p><p>%4</p>")
-            .arg(vlk::text("wb_title"), QCoreApplication::applicationVersion(),
-                 link.isLoaded() ? vlk::text("wb_about_plugin").arg(link.displayName(), link.version())
+            .arg(workbench::text("wb_title"), QCoreApplication::applicationVersion(),
+                 link.isLoaded() ? workbench::text("wb_about_plugin").arg(link.displayName(), link.version())
                                  : link.error().toHtmlEscaped(),
-                 vlk::text("wb_about_data").arg(QDir::toNativeSeparators(folder_.path()).toHtmlEscaped())));
+                 workbench::text("wb_about_data")
+                     .arg(QDir::toNativeSeparators(folder_.path()).toHtmlEscaped())));
 }
 
 void WorkbenchWindow::showHelp(const QString& page)
@@ -320,7 +324,7 @@ void WorkbenchWindow::showReport(const tracker::WriteReport& report)
     reportView_->setReport(report, typed);
     tabs_->setCurrentIndex(ReportTab);
     status_->tell(StatusLine::Command, [report, typed] {
-        const QString summary = vlk::summary(report).section(QLatin1Char('\n'), 0, 0);
+        const QString summary = workbench::summary(report).section(QLatin1Char('\n'), 0, 0);
         return typed.isEmpty() ? summary : summary + QLatin1Char('\n') + typed;
     });
     if (QWidget* modal = QApplication::activeModalWidget())
@@ -331,8 +335,9 @@ void WorkbenchWindow::showEdited()
 {
     const EditedConfiguration& edited = session_.edited();
     device_->setEdited(edited.text());
-    const QString title = vlk::text("wb_title");
-    setWindowTitle(edited.name().isEmpty() ? title : vlk::text("wb_edited_title").arg(title, edited.name()));
+    const QString title = workbench::text("wb_title");
+    setWindowTitle(edited.name().isEmpty() ? title
+                                           : workbench::text("wb_edited_title").arg(title, edited.name()));
 }
 
 void WorkbenchWindow::changeEvent(QEvent* event)
@@ -366,7 +371,7 @@ void WorkbenchWindow::restoreLayout()
     resize(usualSize);
     restoreGeometry(settings_.layout(objectName()));
     if (!isMaximized())
-        vlk::resizeWithin(this, size());
+        workbench::resizeWithin(this, size());
     splitter_->setSizes({leftWidth, width() - leftWidth});
     splitter_->restoreState(settings_.layout(splitter_->objectName()));
 }
@@ -394,8 +399,8 @@ bool WorkbenchWindow::mayClose()
     if (!session_.finishWrites())
         return false;
     return !session_.link().runningWork().saving ||
-           vlk::agrees(vlk::text("wb_close_saving"), vlk::text("wb_close_verb"),
-                       QStringLiteral("messageBox_Close"), this);
+           workbench::agrees(workbench::text("wb_close_saving"), workbench::text("wb_close_verb"),
+                             QStringLiteral("messageBox_Close"), this);
 }
 
 void WorkbenchWindow::dragEnterEvent(QDragEnterEvent* event)
@@ -414,4 +419,4 @@ void WorkbenchWindow::dropEvent(QDropEvent* event)
         }
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -20,7 +20,7 @@
 class QSplitter;
 class QTabWidget;
 
-namespace vlk {
+namespace workbench {
 
 class CommandBars;
 class DataFolder;
@@ -113,4 +113,4 @@ private:
     std::unique_ptr<FileNotices> fileNotices_;
 };
 
-} // namespace vlk
+} // namespace workbench

@@ -2,7 +2,7 @@
 
 #include "window/languages.h"
 
-namespace vlk {
+namespace workbench {
 
 void WriteReportModel::setReport(const tracker::WriteReport& report)
 {
@@ -42,7 +42,7 @@ QVariant WriteReportModel::data(const QModelIndex& index, int role) const
     const Row& row = rows_.at(index.row());
     switch (index.column()) {
     case Kind:
-        return vlk::text(row.kindKey);
+        return workbench::text(row.kindKey);
     case Key:
         return row.change.path;
     case Before:
@@ -57,8 +57,8 @@ QVariant WriteReportModel::headerData(int section, Qt::Orientation orientation, 
     static constexpr const char* keys[ColumnCount] = {"wb_report_kind", "wb_report_key", "wb_report_before",
                                                       "wb_report_after"};
     if (orientation == Qt::Horizontal && role == Qt::DisplayRole)
-        return vlk::text(keys[section]);
+        return workbench::text(keys[section]);
     return {};
 }
 
-} // namespace vlk
+} // namespace workbench

@@ -7,7 +7,7 @@
 
 #include <QAbstractTableModel>
 
-namespace vlk {
+namespace workbench {
 
 class WriteReportModel : public QAbstractTableModel
 {
@@ -36,4 +36,4 @@ private:
     QVector<Row> rows_;
 };
 
-} // namespace vlk
+} // namespace workbench

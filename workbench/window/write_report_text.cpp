@@ -5,7 +5,7 @@
 
 #include <QFile>
 
-namespace vlk {
+namespace workbench {
 
 namespace {
 
@@ -74,4 +74,4 @@ QString plainText(const tracker::WriteReport& report, const QString& typed)
     return lines;
 }
 
-} // namespace vlk
+} // namespace workbench

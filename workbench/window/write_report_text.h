@@ -6,7 +6,7 @@
 
 #include <QString>
 
-namespace vlk {
+namespace workbench {
 
 // One sentence: taken with so many keys changed, taken without a change, or refused and why. Behind it stands
 // what became of numbers that were still being typed, if there were any.
@@ -16,4 +16,4 @@ QString summary(const tracker::WriteReport& report, const QString& typed = {});
 // divided by tabs.
 QString plainText(const tracker::WriteReport& report, const QString& typed = {});
 
-} // namespace vlk
+} // namespace workbench

@@ -1,5 +1,6 @@
 #include "window/write_report_view.h"
 
+#include "plugin_names.h"
 #include "typing/empty_note.h"
 #include "typing/field_mark.h"
 #include "typing/table_look.h"
@@ -17,7 +18,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-namespace vlk {
+namespace workbench {
 
 WriteReportView::WriteReportView(QWidget* parent)
     : QWidget(parent), symbol_(new QLabel(this)), summary_(new QLabel(this)), copy_(new QToolButton(this)),
@@ -27,15 +28,15 @@ WriteReportView::WriteReportView(QWidget* parent)
     summary_->setWordWrap(true);
     summary_->setTextFormat(Qt::PlainText);
     summary_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    copy_->setIcon(vlk::lineIcon(QStringLiteral("copy")));
+    copy_->setIcon(workbench::lineIcon(QStringLiteral("copy")));
     copy_->setAutoRaise(true);
     texts_.bind([this] {
-        copy_->setToolTip(vlk::text("wb_report_copy"));
-        copy_->setAccessibleName(vlk::text("wb_report_copy"));
-        table_->setAccessibleName(vlk::plainText("wb_tab_report"));
+        copy_->setToolTip(workbench::text("wb_report_copy"));
+        copy_->setAccessibleName(workbench::text("wb_report_copy"));
+        table_->setAccessibleName(workbench::plainText("wb_tab_report"));
     });
     connect(copy_, &QToolButton::clicked, this,
-            [this] { QGuiApplication::clipboard()->setText(vlk::plainText(report_, typed_)); });
+            [this] { QGuiApplication::clipboard()->setText(workbench::plainText(report_, typed_)); });
 
     table_->setObjectName(QStringLiteral("tableView_Report"));
     table_->setModel(&model_);
@@ -48,7 +49,7 @@ WriteReportView::WriteReportView(QWidget* parent)
     table_->setColumnWidth(WriteReportModel::Before, fontMetrics().averageCharWidth() * 23);
 
     auto* empty = new EmptyNote(table_);
-    texts_.bind([empty] { empty->tell(vlk::text("wb_report_none")); });
+    texts_.bind([empty] { empty->tell(workbench::text("wb_report_none")); });
 
     auto* line = new QHBoxLayout;
     line->addWidget(symbol_);
@@ -82,7 +83,7 @@ void WriteReportView::showSummary()
     const Mark mark = asTyped ? Mark::right : Mark::advice;
     symbol_->setPixmap(vlk::markPixmap(mark, palette(), vlk::markSize, devicePixelRatioF()));
     summary_->setText(QStringLiteral("%1 %2").arg(time_.toString(QStringLiteral("HH:mm:ss")),
-                                                  vlk::summary(report_, typed_)));
+                                                  workbench::summary(report_, typed_)));
 }
 
 void WriteReportView::retranslate()
@@ -97,7 +98,7 @@ void WriteReportView::showDialog(const tracker::WriteReport& report, const QStri
     auto* dialog = new QDialog(parent);
     dialog->setObjectName(QStringLiteral("dialog_Report"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowTitle(vlk::plainText("wb_tab_report"));
+    dialog->setWindowTitle(workbench::plainText("wb_tab_report"));
     auto* view = new WriteReportView(dialog);
     view->setReport(report, typed);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, dialog);
@@ -108,8 +109,8 @@ void WriteReportView::showDialog(const tracker::WriteReport& report, const QStri
     // A refusal has no keys to show.
     const bool keys = !report.sameAsBefore();
     view->table_->setVisible(keys);
-    vlk::resizeWithin(dialog, keys ? QSize(860, 380) : QSize(560, dialog->heightForWidth(560)));
+    workbench::resizeWithin(dialog, keys ? QSize(860, 380) : QSize(560, dialog->heightForWidth(560)));
     dialog->open();
 }
 
-} // namespace vlk
+} // namespace workbench

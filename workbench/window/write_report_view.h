@@ -14,7 +14,7 @@ class QLabel;
 class QTableView;
 class QToolButton;
 
-namespace vlk {
+namespace workbench {
 
 class WriteReportView : public QWidget
 {
@@ -44,4 +44,4 @@ private:
     QTableView* table_;
 };
 
-} // namespace vlk
+} // namespace workbench
