@@ -31,7 +31,7 @@ void saveConfiguration(const QString& path)
         const auto section = document.root()->child(numbered("SECTION", s));
         section->clear();
         for (int g = 0; g < groups; ++g) {
-            const auto group = section->child(numbered("GROUP", g), 3);
+            const auto group = section->child(numbered("GROUP", g), CXmlNode::Empty);
             for (int k = 0; k < keys; k += 2) {
                 group->setInt(numbered("number", k), 1000 * k + g);
                 group->setString(numbered("text", k), QString::fromUtf8("Датчик & бак"));
@@ -48,9 +48,9 @@ int loadConfiguration(const QString& path)
     vlk::XmlDocument document(path, "DEVICE");
     int sum = 0;
     for (int s = 0; s < sections; ++s) {
-        const auto section = document.root()->child(numbered("SECTION", s));
+        const auto section = document.root()->existing(numbered("SECTION", s));
         for (int g = 0; g < groups; ++g) {
-            const auto group = section->child(numbered("GROUP", g));
+            const auto group = section->existing(numbered("GROUP", g));
             for (int k = 0; k < keys; k += 2) {
                 sum += group->getInt(numbered("number", k), 0);
                 sum += group->getString(numbered("text", k)).size();

@@ -8,8 +8,8 @@ namespace vlk {
 
 void loadPages(const ConfigPages& pages, CXmlSection* root, char* ussdBuffer)
 {
-    const CXmlSectionPtr system = root->child(QStringLiteral("SYSTEM"));
-    const CXmlSectionPtr balance = system ? system->child(QStringLiteral("BALANCE")) : nullptr;
+    const CXmlSectionPtr system = root->existing(QStringLiteral("SYSTEM"));
+    const CXmlSectionPtr balance = system ? system->existing(QStringLiteral("BALANCE")) : nullptr;
     if (balance)
         qstrncpy(ussdBuffer, balance->getString(QStringLiteral("USSD")).toLocal8Bit().constData(),
                  balanceUssdSize);

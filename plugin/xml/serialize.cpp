@@ -120,7 +120,7 @@ bool CSerialize::saveAs(const QString& fileName) const
     return !root_ || vlk::replaceFile(fileName, text());
 }
 
-CXmlNode* CSerialize::node(CXmlNode* parent, const QString& name, qint32 kind)
+CXmlNode* CSerialize::node(CXmlNode* parent, const QString& name, CXmlNode::Kind kind)
 {
     if (!parent) {
         if (!root_ || root_->name != name)

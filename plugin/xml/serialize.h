@@ -34,10 +34,10 @@ public:
     bool save() const;
     bool saveAs(const QString& fileName) const;
 
-    // With a parent: its first child `name` for kind 0, made where there is none; always a new child of that
+    // With a parent: its first child `name` for Element, made where there is none; always a new child of that
     // kind for the others. Without a parent: the root, which is replaced by an empty one when it has another
     // name.
-    CXmlNode* node(CXmlNode* parent, const QString& name, qint32 kind = CXmlNode::Element);
+    CXmlNode* node(CXmlNode* parent, const QString& name, CXmlNode::Kind kind = CXmlNode::Element);
     // Drops children and attributes of the root or of a child of the root; a deeper node keeps them.
     void clearContent(CXmlNode* node);
 

@@ -14,7 +14,7 @@ CXmlNode* CXmlNode::child(const QString& childName) const
     return found == children.end() ? nullptr : found->get();
 }
 
-CXmlNode* CXmlNode::addChild(const QString& childName, qint32 childKind)
+CXmlNode* CXmlNode::addChild(const QString& childName, Kind childKind)
 {
     CXmlNode* const added = children.emplace_back(std::make_unique<CXmlNode>(childName, this)).get();
     added->kind = childKind;

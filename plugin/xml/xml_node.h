@@ -25,7 +25,7 @@ public:
     // First child of that name, or null.
     CXmlNode* child(const QString& childName) const;
     // Both add without looking for a namesake.
-    CXmlNode* addChild(const QString& childName, qint32 childKind = Element);
+    CXmlNode* addChild(const QString& childName, Kind childKind = Element);
     void addAttribute(const QString& attributeName, const QString& attributeValue);
 
     // The attributes that count: every name once, where it was first set, with the value set last.
@@ -33,7 +33,7 @@ public:
 
     QString name;
     QString value;
-    qint32 kind = Element;
+    Kind kind = Element;
     List children;
     List attributes;
     CXmlNode* parent = nullptr;

@@ -61,16 +61,22 @@ void CXmlSection::buildTable()
         add(child.get());
 }
 
-CXmlSection* CXmlSection::section(const QString& name, int kind) const
+CXmlSection* CXmlSection::section(const QString& name, CXmlNode::Kind kind) const
 {
     return child(name, kind).release();
 }
 
-CXmlSectionPtr CXmlSection::child(const QString& name, int kind) const
+CXmlSectionPtr CXmlSection::child(const QString& name, CXmlNode::Kind kind) const
 {
     if (!document_)
         return nullptr;
     return std::make_unique<CXmlSection>(document_, document_->node(node_, name, kind));
+}
+
+CXmlSectionPtr CXmlSection::existing(const QString& name) const
+{
+    CXmlNode* const child = node_ ? node_->child(name) : nullptr;
+    return child ? std::make_unique<CXmlSection>(document_, child) : nullptr;
 }
 
 CXmlSection* CXmlSection::firstChild(const QString& name)

@@ -13,11 +13,12 @@
 // the defaults, it has no child sections, and nothing is written.
 //
 // Saving:   auto track = root->child("TRACK");  track->clear();  track->setString("page", "TRACK");
-//           auto points = track->child("POINTS", 3);  points->setInt("maxSpeed", 100);  points->commit();
-//           track->commit();
-// Loading:  if (auto track = root->child("TRACK")) { ... track->getInt("mode", 2) ... }
+//           auto points = track->child("POINTS", CXmlNode::Empty);  points->setInt("maxSpeed", 100);
+//           points->commit(); track->commit();
+// Loading:  if (auto track = root->existing("TRACK")) { ... track->getInt("mode", 2) ... }
 // Repeated: for (CXmlSectionPtr row(table->firstChild("DATA")); row; row.reset(table->nextChild())) ...
 
+#include "xml/xml_node.h"
 #include "xml/xml_record.h"
 
 #include <memory>
@@ -37,10 +38,12 @@ struct CXmlSection
     CXmlSection(std::unique_ptr<CSerialize> document, const QString& rootName);
     CXmlSection(CSerialize* document, CXmlNode* node);
 
-    // Kind 0: the child of that name, made where there is none. Kind 1: a new child. Kind 3: a new child that
-    // is written as an empty element with attributes only. Null without a document.
-    CXmlSection* section(const QString& name, int kind = 0) const;
-    CXmlSectionPtr child(const QString& name, int kind = 0) const;
+    // Element: the child of that name, made where there is none. Attributed: a new child. Empty: a new child
+    // that is written as an empty element with attributes only. Null without a document.
+    CXmlSection* section(const QString& name, CXmlNode::Kind kind = CXmlNode::Element) const;
+    CXmlSectionPtr child(const QString& name, CXmlNode::Kind kind = CXmlNode::Element) const;
+    // The first child of that name; null where there is none, which stays so.
+    CXmlSectionPtr existing(const QString& name) const;
 
     // The entries of one name in turn, in the order of the table. Null at the end, and for an entry that was
     // set and not read.

@@ -53,12 +53,12 @@ private Q_SLOTS:
         track->setString("page", "first");
         track->setString("zone", "2");
         track->setString("page", "last");
-        const auto group = track->child("P-1", 3);
+        const auto group = track->child("P-1", CXmlNode::Empty);
         group->setText("note", nullptr);
         group->child("never written");
         group->commit();
-        const auto inner = track->child("INNER", 1);
-        inner->child("LEAF", 3);
+        const auto inner = track->child("INNER", CXmlNode::Attributed);
+        inner->child("LEAF", CXmlNode::Empty);
         track->setChildValue("Name", "a<b&c");
         track->setChildValue("Nothing", "");
         track->commit();
@@ -152,7 +152,7 @@ private Q_SLOTS:
         const QString path = put({});
         {
             XmlDocument document(path, "DEVICE");
-            const auto group = document.root()->child("GROUP", 3);
+            const auto group = document.root()->child("GROUP", CXmlNode::Empty);
             group->setString("before", "1");
             group->setString("text", text);
             group->setString("after", "2");
@@ -312,7 +312,7 @@ private Q_SLOTS:
         QVERIFY(readFile(path).isEmpty());
         QVERIFY(XmlDocument(path, "DEVICE").isOpen());
         XmlDocument inMemory(QString(), "DEVICE");
-        inMemory.root()->child("A")->child("B", 3);
+        inMemory.root()->child("A")->child("B", CXmlNode::Empty);
         inMemory.save();
         QVERIFY(CXmlSectionPtr(inMemory.root()->child("A")->firstChild("B")));
 

@@ -66,7 +66,7 @@ bool saveWith(const QString& path, int groups)
     vlk::XmlDocument document(path, "DEVICE");
     document.root()->clear();
     for (int i = 0; i < groups && document.isOpen(); ++i) {
-        const auto group = document.root()->child("GROUP", 3);
+        const auto group = document.root()->child("GROUP", CXmlNode::Empty);
         group->setInt("value", i);
         group->commit();
     }

@@ -59,7 +59,7 @@ void putKeptTable(CXmlSection* root, const QString& sensor, const QString& name,
 std::optional<FuelRows> fuelTable(CXmlSection* root)
 {
     FuelRows rows;
-    const CXmlSectionPtr table = root->child(kTable);
+    const CXmlSectionPtr table = root->existing(kTable);
     if (!table)
         return rows;
     for (CXmlSectionPtr row(table->firstChild(kData)); row; row.reset(table->nextChild())) {

@@ -45,8 +45,8 @@ constexpr TitleSource kTitleSources[] = {
 void readText(CXmlSection* root, const char* section, const QString& child, const char* attribute,
               QString& text)
 {
-    if (const auto outer = root->child(QLatin1String(section))) {
-        if (const auto inner = outer->child(child))
+    if (const auto outer = root->existing(QLatin1String(section))) {
+        if (const auto inner = outer->existing(child))
             text = inner->getString(QLatin1String(attribute), text);
     }
 }
