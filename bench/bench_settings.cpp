@@ -5,6 +5,7 @@
 #include "bench/xml_reader_alone.h"
 #include "settings/all_settings.h"
 #include "settings/configuration.h"
+#include "settings/transfer_settings.h"
 #include "xml/xml_document.h"
 
 #include <QFile>
@@ -35,7 +36,7 @@ void readSettings(benchmark::State& state)
         [&] {
             vlk::XmlDocument document(factoryText(), QStringLiteral("DEVICE"));
             configuration.read(*document.root());
-            benchmark::DoNotOptimize(configuration.value(0));
+            benchmark::DoNotOptimize(configuration.tables()[0].value(0));
         },
         [] { benchmark::DoNotOptimize(bench::readWithoutUse(factoryPath())); });
 }
@@ -56,12 +57,12 @@ void writeSettings(benchmark::State& state)
 // Selecting an operator fills three settings.
 void editWithRules(benchmark::State& state)
 {
-    vlk::Configuration configuration(vlk::allSettings());
-    const int operators = configuration.indexOf(QStringLiteral("TRANS/AP1/operator"));
+    vlk::Values transfer(vlk::kTransferSettings);
+    const int operators = transfer.rowAt(QStringLiteral("AP1/operator"));
     int item = 0;
     for (auto _ : state) {
         item = 1 - item;
-        benchmark::DoNotOptimize(configuration.edit(operators, QString::number(item)));
+        benchmark::DoNotOptimize(transfer.edit(operators, QString::number(item)));
     }
 }
 

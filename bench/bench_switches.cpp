@@ -4,8 +4,8 @@
 
 #include "bench/opened_dialogs.h"
 #include "bench/side_by_side.h"
-#include "settings/all_settings.h"
-#include "settings/configuration.h"
+#include "settings/transfer_settings.h"
+#include "settings/values.h"
 #include "window/key_translator.h"
 
 #include <QCheckBox>
@@ -55,8 +55,8 @@ void editWithWindow(benchmark::State& state)
 {
     const DialogPtr dialog = openedAt(kOperators);
     auto* const operators = find<QComboBox>(dialog, kOperators);
-    vlk::Configuration alone(vlk::allSettings());
-    const int row = alone.indexOf(QStringLiteral("TRANS/AP1/operator"));
+    vlk::Values alone(vlk::kTransferSettings);
+    const int row = alone.rowAt(QStringLiteral("AP1/operator"));
     int item = 0;
     bench::sideBySide(
         state, "x without window",

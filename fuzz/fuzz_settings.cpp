@@ -46,13 +46,13 @@ QByteArray throughTheWindow(VLK_Form_Config_Light& form, const QByteArray& file)
     return out.text();
 }
 
-template <class Window>
-void holdAgainst(Window& window, vlk::Configuration& configuration, const QByteArray& file)
+template <class Window, class Settings>
+void holdAgainst(Window& window, Settings& settings, const QByteArray& file)
 {
-    const QByteArray alone = readAndWritten(configuration, file);
+    const QByteArray alone = readAndWritten(settings, file);
     require(throughTheWindow(window, file) == alone);
-    const QByteArray again = savedAgain(configuration, alone);
-    require(readAndWritten(configuration, again) == again);
+    const QByteArray again = savedAgain(settings, alone);
+    require(readAndWritten(settings, again) == again);
     require(throughTheWindow(window, alone) == again);
 }
 
@@ -74,7 +74,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const QByteArray file(reinterpret_cast<const char*>(data), static_cast<int>(size));
     holdAgainst(window, configuration, file);
     static VLK_Form_Config_Light form;
-    static vlk::Configuration quick({&vlk::kQuickSettings});
+    static vlk::Values quick(vlk::kQuickSettings);
     holdAgainst(form, quick, file);
     return 0;
 }

@@ -1,9 +1,9 @@
 #include "dataset/form_config_set_zeta3_tab_user.h"
 
 #include "dataset/param_choice_dialog.h"
-#include "settings/configuration.h"
 #include "settings/params/param_catalogues.h"
 #include "settings/params/user_params.h"
+#include "settings/values.h"
 #include "windows/wnd_config_full.h"
 
 #include <QCoreApplication>
@@ -17,7 +17,7 @@ namespace {
 
 QString pathOf(const vlk::UserParamSlots& slots, int slot)
 {
-    return QStringLiteral("PROTOCOL/%1/p%2").arg(QLatin1String(slots.element)).arg(slot);
+    return QStringLiteral("%1/p%2").arg(QLatin1String(slots.element)).arg(slot);
 }
 
 QList<vlk::ParamChoice> canChoices()
@@ -152,7 +152,7 @@ void VLK_Form_Config_Set_Zeta3_Tab_User::loadUserParams(CXmlSection* root)
 {
     if (!root)
         return;
-    vlk::Configuration keys({&vlk::kUserParamSettings});
+    vlk::Values keys(vlk::kUserParamSettings);
     keys.read(*root);
     // A value that stood elsewhere before is free for its slot of the file.
     afterDefaults();
@@ -166,10 +166,10 @@ void VLK_Form_Config_Set_Zeta3_Tab_User::saveUserParams(CXmlSection* root)
 {
     if (!root)
         return;
-    vlk::Configuration keys({&vlk::kUserParamSettings});
+    vlk::Values keys(vlk::kUserParamSettings);
     for (const vlk::UserParamGroup& group : groups_) {
         for (int slot = 1; slot <= group.slots().count; ++slot)
-            keys.edit(keys.indexOf(pathOf(group.slots(), slot)), keyOf(group.text(slot)));
+            keys.edit(pathOf(group.slots(), slot), keyOf(group.text(slot)));
     }
     keys.write(*root);
 }

@@ -42,28 +42,29 @@ public:
     QWidget* lastField() const;
 
 public Q_SLOTS:
+    // An empty one names an edit that the settings take from its widget themselves.
     void slot_currentStrIndexChanged_Operator1(const QString& label);
     void slot_currentIndexChanged_Operator2(int) {}
     void slot_pressedBtnListApn();
-    void slot_currentIndexChanged_RModeSim1(int) { settings_.take("comboBox_RModeSim_1"); }
-    void slot_currentIndexChanged_RModeSim2(int) { settings_.evaluateRules(); }
-    void slot_textChanged_DNSMain(const QString&) { settings_.take("GPRSSrv_lineEdit_IP_DNS_Main"); }
+    void slot_currentIndexChanged_RModeSim1(int) {}
+    void slot_currentIndexChanged_RModeSim2(int) {}
+    void slot_textChanged_DNSMain(const QString&) {}
     void slot_pressed_BtnTestMain();
     void slot_testConnected(const QString& peerIp, const QString& hostName, bool ok);
     void slot_currentIndexChanged_Protocol_Format_Main(int) {}
-    void slot_toggled_TypeTrack(bool) { settings_.take("radioButton_Track_User"); }
-    void slot_stateChanged_Track_Corner(int) { settings_.take("Additional_checkBox_Corner"); }
-    void slot_stateChanged_Track_Direction(int) { settings_.take("Additional_checkBox_Direction"); }
-    void slot_stateChanged_Track_Metr(int) { settings_.take("Additional_Direction_checkBox_Metr"); }
-    void slot_stateChanged_Track_Sec(int) { settings_.take("Additional_Direction_checkBox_Sec"); }
-    void slot_stateChanged_Fuel_RS485_Use(int) { settings_.take("checkBox_Fuel_RS485_Use"); }
-    void slot_stateChanged_Fuel_RS485_Use_1(int) { settings_.take("checkBox_Fuel_RS485_Use_1"); }
-    void slot_stateChanged_Fuel_RS485_Use_2(int) { settings_.take("checkBox_Fuel_RS485_Use_2"); }
-    void slot_stateChanged_BT_Use(int) { settings_.take("checkBox_BT_Use"); }
-    void slot_stateChanged_BT_Use_1(int) { settings_.take("checkBox_BT_1"); }
-    void slot_stateChanged_BT_Use_2(int) { settings_.take("checkBox_BT_2"); }
-    void slot_currentTextChanged_BT_Type_1(const QString&) { settings_.take("comboBox_BT_Type_1"); }
-    void slot_currentTextChanged_BT_Type_2(const QString&) { settings_.take("comboBox_BT_Type_2"); }
+    void slot_toggled_TypeTrack(bool) {}
+    void slot_stateChanged_Track_Corner(int) {}
+    void slot_stateChanged_Track_Direction(int) {}
+    void slot_stateChanged_Track_Metr(int) {}
+    void slot_stateChanged_Track_Sec(int) {}
+    void slot_stateChanged_Fuel_RS485_Use(int) {}
+    void slot_stateChanged_Fuel_RS485_Use_1(int) {}
+    void slot_stateChanged_Fuel_RS485_Use_2(int) {}
+    void slot_stateChanged_BT_Use(int) {}
+    void slot_stateChanged_BT_Use_1(int) {}
+    void slot_stateChanged_BT_Use_2(int) {}
+    void slot_currentTextChanged_BT_Type_1(const QString&) {}
+    void slot_currentTextChanged_BT_Type_2(const QString&) {}
     void slot_pressed_BtnWndHelp_Psw();
     void slot_pressed_BtnWndHelp_GPRS();
     void slot_pressed_BtnWndHelp_Server();

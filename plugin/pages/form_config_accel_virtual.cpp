@@ -134,7 +134,7 @@ void VLK_Form_Config_Accel_Virtual::retranslate()
     for (std::size_t i = 0; i < sensors_.size(); ++i) {
         const Sensor& sensor = sensors_[i];
         const QString name = QStringLiteral("%1 %2").arg(
-            tr("cfgt9_008"), vlk::captionText(settings_.configuration().setting(static_cast<int>(i))));
+            tr("cfgt9_008"), vlk::captionText(settings_.values().setting(static_cast<int>(i))));
         sensor.present->setAccessibleName(name);
         sensor.presentText->setAccessibleName(name);
         showPresent(i, numberIn(sensor.presentText->text()));

@@ -31,8 +31,6 @@ VLK_Form_Config_Lines_In::VLK_Form_Config_Lines_In(QWidget* parent)
 {
     ui_->setupUi(this);
     lines_ = {ui_->lineSettings_In1, ui_->lineSettings_In2, ui_->lineSettings_In3};
-    for (VLK_Form_Lines_In_Settings* line : lines_)
-        line->setSettings(&settings_);
     lines_[0]->setLevelsVisible(false);
     settings_.bind(this, {lines_.begin(), lines_.end()});
     using This = VLK_Form_Config_Lines_In;

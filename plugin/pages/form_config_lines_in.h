@@ -42,12 +42,13 @@ public:
     void stopAuto();
 
 public Q_SLOTS:
-    void slot_currentIndexChanged_NormState_In1(const QString&) { settings_.take("comboBox_NormState_In1"); }
-    void slot_currentIndexChanged_NormState_In2(const QString&) { settings_.take("comboBox_NormState_In2"); }
-    void slot_currentIndexChanged_NormState_In3(const QString&) { settings_.take("comboBox_NormState_In3"); }
-    void slot_stateChanged_Ignition_In1(int) { settings_.take("checkBox_Ignition_In1"); }
-    void slot_stateChanged_Ignition_In2(int) { settings_.take("checkBox_Ignition_In2"); }
-    void slot_stateChanged_Ignition_In3(int) { settings_.take("checkBox_Ignition_In3"); }
+    // An empty one names an edit that the settings take from its widget themselves.
+    void slot_currentIndexChanged_NormState_In1(const QString&) {}
+    void slot_currentIndexChanged_NormState_In2(const QString&) {}
+    void slot_currentIndexChanged_NormState_In3(const QString&) {}
+    void slot_stateChanged_Ignition_In1(int) {}
+    void slot_stateChanged_Ignition_In2(int) {}
+    void slot_stateChanged_Ignition_In3(int) {}
     void slot_stateChanged_checkBox_Auto(int state);
     void slot_pressed_pushButton_Quest();
 

@@ -31,10 +31,11 @@ public:
     vlk::PageSettings& settings() { return settings_; }
 
 public Q_SLOTS:
+    // An empty one names an edit that the settings take from its widget themselves.
     // Puts the controls in the state of a use, by its text; uses that the list does not offer count too.
     void slot_currentIndexChanged_UseAs_O1(const QString& use);
-    void slot_currentIndexChanged_SignalForm_O1(const QString&) { settings_.take("comboBox_SignalForm_O1"); }
-    void slot_stateChanged_TimeAutoSwitchOff_O1(int) { settings_.take("checkBox_TimeAutoSwitchOff_O1"); }
+    void slot_currentIndexChanged_SignalForm_O1(const QString&) {}
+    void slot_stateChanged_TimeAutoSwitchOff_O1(int) {}
 
 private:
     std::unique_ptr<Ui::VLK_Designer_Form_Config_Lines_Out> ui_;

@@ -36,20 +36,21 @@ public:
     void setCurrentSupply(int millivolts);
 
 public Q_SLOTS:
+    // An empty one names an edit that the settings take from its widget themselves.
     void slot_pressed_Btn_TuningCur();
     void slot_pressed_Btn_Psw_Warning();
-    void slot_stateChanged_Tuning(int) { settings_.take("checkBox_Tuning"); }
+    void slot_stateChanged_Tuning(int) {}
     void slot_valueChanged_HSlider_Tuning(int millivolts);
     void slot_valueChanged_DSpinBox_Tuning(double volts) { setVoltage("ENGSENS/voltageLvl", volts); }
-    void slot_stateChanged_Engine_Delay(int) { settings_.take("checkBox_Engine_Delay"); }
-    void slot_stateChanged_NTP_Use(int) { settings_.take("checkBox_NTP_Use"); }
+    void slot_stateChanged_Engine_Delay(int) {}
+    void slot_stateChanged_NTP_Use(int) {}
     void slot_value1Changed_Power_Left(double volts) { setVoltage("PWRSENS/alarmLvl", volts); }
     void slot_value2Changed_Power_Right(double volts) { setVoltage("PWRSENS/restoreLvl", volts); }
     void slot_valueChanged_DSpinBox_Power_Left(double volts) { setVoltage("PWRSENS/alarmLvl", volts); }
     void slot_valueChanged_DSpinBox_Power_Right(double volts) { setVoltage("PWRSENS/restoreLvl", volts); }
-    void slot_stateChanged_Power_Line(int) { settings_.take("checkBox_Power_Line"); }
-    void slot_stateChanged_Power_Delay(int) { settings_.take("checkBox_Power_Delay"); }
-    void slot_stateChanged_Fuel_Level(int) { settings_.take("checkBox_Fuel_Level"); }
+    void slot_stateChanged_Power_Line(int) {}
+    void slot_stateChanged_Power_Delay(int) {}
+    void slot_stateChanged_Fuel_Level(int) {}
     void slot_value1Changed_Fuel_Left(double volts) { setVoltage("FUEL/blockVolt", volts); }
     void slot_value2Changed_Fuel_Right(double volts) { setVoltage("FUEL/unblockVolt", volts); }
     void slot_valueChanged_DSpinBox_Fuel_Left(double volts) { setVoltage("FUEL/blockVolt", volts); }

@@ -31,15 +31,16 @@ public:
     vlk::PageSettings& settings() { return settings_; }
 
 public Q_SLOTS:
-    void slot_stateChanged_Always_MaxSpeed(int) { settings_.take("Always_checkBox_MaxSpeed"); }
-    void slot_stateChanged_Additional_Corner(int) { settings_.take("Additional_checkBox_Corner"); }
-    void slot_stateChanged_Additional_Direction(int) { settings_.take("Additional_checkBox_Direction"); }
-    void slot_stateChanged_Additional_Metr(int) { settings_.take("Additional_Direction_checkBox_Metr"); }
-    void slot_stateChanged_Additional_Sec(int) { settings_.take("Additional_Direction_checkBox_Sec"); }
-    void slot_stateChanged_Restriction_Metr(int) { settings_.take("Restriction_checkBox_Metr"); }
-    void slot_stateChanged_Restriction_Sec(int) { settings_.take("Restriction_checkBox_Sec"); }
-    void slot_stateChanged_GPSreject_Use(int) { settings_.take("checkBox_GPSreject_Use"); }
-    void slot_clicked_rBtn_Average(bool) { settings_.take("Coord_Stop_radioButton_Average"); }
+    // An empty one names an edit that the settings take from its widget themselves.
+    void slot_stateChanged_Always_MaxSpeed(int) {}
+    void slot_stateChanged_Additional_Corner(int) {}
+    void slot_stateChanged_Additional_Direction(int) {}
+    void slot_stateChanged_Additional_Metr(int) {}
+    void slot_stateChanged_Additional_Sec(int) {}
+    void slot_stateChanged_Restriction_Metr(int) {}
+    void slot_stateChanged_Restriction_Sec(int) {}
+    void slot_stateChanged_GPSreject_Use(int) {}
+    void slot_clicked_rBtn_Average(bool) {}
     void slot_pressed_BtnParkingAccel();
 
 private:

@@ -41,35 +41,33 @@ public:
     vlk::PageSettings& settings() { return settings_; }
 
 public Q_SLOTS:
+    // An empty one names an edit that the settings take from its widget themselves.
     void slot_testConnected(const QString& peerIp, const QString& hostName, bool ok);
     void slot_pressedBtnListApn();
-    void slot_currentStrIndexChanged_Operator1(const QString&)
-    {
-        settings_.take("Transfer_comboBox_GSM_Operator_1");
-    }
-    void slot_toggled_ServerMain(bool) { settings_.take("GPRSSrv_groupBox_Main"); }
-    void slot_toggled_ServerReserv1(bool) { settings_.take("GPRSSrv_groupBox_Reserv_1"); }
-    void slot_toggled_ServerReserv2(bool) { settings_.take("GPRSSrv_groupBox_Reserv_2"); }
+    void slot_currentStrIndexChanged_Operator1(const QString&) {}
+    void slot_toggled_ServerMain(bool) {}
+    void slot_toggled_ServerReserv1(bool) {}
+    void slot_toggled_ServerReserv2(bool) {}
     void slot_currentIndexChanged_SelectMain(int item) { selectServer(0, item); }
     void slot_currentIndexChanged_SelectReserv1(int item) { selectServer(1, item); }
     void slot_currentIndexChanged_SelectReserv2(int item) { selectServer(2, item); }
-    void slot_textChanged_DNSMain(const QString&) { settings_.take("GPRSSrv_lineEdit_IP_DNS_Main"); }
-    void slot_textChanged_DNSReserv1(const QString&) { settings_.take("GPRSSrv_lineEdit_IP_DNS_Reserv_1"); }
-    void slot_textChanged_DNSReserv2(const QString&) { settings_.take("GPRSSrv_lineEdit_IP_DNS_Reserv_2"); }
+    void slot_textChanged_DNSMain(const QString&) {}
+    void slot_textChanged_DNSReserv1(const QString&) {}
+    void slot_textChanged_DNSReserv2(const QString&) {}
     void slot_pressed_BtnTestMain() { testServer(0); }
     void slot_pressed_BtnTestReserv1() { testServer(1); }
     void slot_pressed_BtnTestReserv2() { testServer(2); }
     void slot_currentIndexChanged_ServerType(int item);
-    void slot_currentIndexChanged_TypeConnect(int) { settings_.take("Srv_Operation_comboBox_TypeConnect"); }
+    void slot_currentIndexChanged_TypeConnect(int) {}
     void slot_pressed_Btn_Crypto();
     void slot_pressed_Btn_Crypto_Clear();
-    void slot_stateChanged_Crypto(int) { settings_.evaluateRules(); }
-    void slot_currentIndexChanged_RModeSim1(int) { settings_.take("comboBox_RModeSim_1"); }
+    void slot_stateChanged_Crypto(int) {}
+    void slot_currentIndexChanged_RModeSim1(int) {}
     void slot_pressed_RListOperSim1();
-    void slot_valueChanged_RBlockH(int) { settings_.take("spinBox_RBlockH"); }
-    void slot_stateChanged_GrpTimer(int) { settings_.take("checkBox_GrpTimer"); }
-    void slot_valueChanged_QSP_dd(int) { settings_.take("spinBox_QSP_CnctTimer_dd"); }
-    void slot_valueChanged_QSP_hh(int) { settings_.take("spinBox_QSP_CnctTimer_hh"); }
+    void slot_valueChanged_RBlockH(int) {}
+    void slot_stateChanged_GrpTimer(int) {}
+    void slot_valueChanged_QSP_dd(int) {}
+    void slot_valueChanged_QSP_hh(int) {}
     // Reserved: no widget of this page calls them.
     void slot_textChanged_RFU_1(const QString&) {}
     void slot_textChanged_RFU_2(const QString&) {}

@@ -3,7 +3,6 @@
 #include "ui_VLK_Designer_Form_Lines_In_Settings.h"
 
 #include "settings/lines_in_settings.h"
-#include "windows/binder/page_settings.h"
 #include "windows/needed_height.h"
 #include "typing/present_value.h"
 #include "windows/zone_colors.h"
@@ -147,13 +146,6 @@ void VLK_Form_Lines_In_Settings::setPresentAinValue(double volts)
     vlk::showPresentValue(ui_->doubleSpinBox_AIN_Cur, volts);
 }
 
-void VLK_Form_Lines_In_Settings::slot_valueChanged_SpinBox_PLS_Work(int /*value*/)
-{
-    for (const char* box : {"spinBox_PLS_Start_Count", "spinBox_PLS_Start_Time", "spinBox_PLS_Stop_Count",
-                            "spinBox_PLS_Stop_Time"})
-        take(box);
-}
-
 void VLK_Form_Lines_In_Settings::slot_pressed_Btn_PLS_ThldBand()
 {
     ui_->horizontalSlider_PLS_ThldBand->setValue(vlk::kFixationLevel);
@@ -167,10 +159,4 @@ void VLK_Form_Lines_In_Settings::slot_pressed_Btn_FRQ_ThldBand()
 void VLK_Form_Lines_In_Settings::slot_pressed_Btn_TAHO_ThldBand()
 {
     ui_->horizontalSlider_TAHO_ThldBand->setValue(vlk::kFixationLevel);
-}
-
-void VLK_Form_Lines_In_Settings::take(const char* widget)
-{
-    if (settings_)
-        settings_->take(widget);
 }

@@ -11,10 +11,6 @@
 
 class QDoubleSpinBox;
 
-namespace vlk {
-class PageSettings;
-}
-
 namespace Ui {
 class VLK_Designer_Form_Lines_In_Settings;
 }
@@ -27,8 +23,6 @@ public:
     explicit VLK_Form_Lines_In_Settings(QWidget* parent = nullptr);
     ~VLK_Form_Lines_In_Settings() override;
 
-    // Those that the widgets belong to; they have to live as long as the form.
-    void setSettings(vlk::PageSettings* settings) { settings_ = settings; }
     void retranslate();
 
     // Shows the page of a use ("NB+"); an unknown one leaves the page as it is.
@@ -42,35 +36,34 @@ public:
     void clearPresentValue();
 
 public Q_SLOTS:
-    void slot_value1Changed_AIN_Left(double) { take("doubleSpinBox_AIN_Left"); }
-    void slot_valueChanged_DSpinBox_AIN_Left(double) { take("doubleSpinBox_AIN_Left"); }
-    void slot_value2Changed_AIN_Right(double) { take("doubleSpinBox_AIN_Right"); }
-    void slot_valueChanged_DSpinBox_AIN_Right(double) { take("doubleSpinBox_AIN_Right"); }
-    void slot_stateChanged_PLS_MinPeriod(int) { take("checkBox_PLS_MinPeriod"); }
-    void slot_valueChanged_SpinBox_PLS_Work(int);
+    // An empty one names an edit that the settings take from its widget themselves.
+    void slot_value1Changed_AIN_Left(double) {}
+    void slot_valueChanged_DSpinBox_AIN_Left(double) {}
+    void slot_value2Changed_AIN_Right(double) {}
+    void slot_valueChanged_DSpinBox_AIN_Right(double) {}
+    void slot_stateChanged_PLS_MinPeriod(int) {}
+    void slot_valueChanged_SpinBox_PLS_Work(int) {}
     void slot_pressed_Btn_PLS_ThldBand();
-    void slot_valueChanged_Slider_PLS_ThldBand(int) { take("horizontalSlider_PLS_ThldBand"); }
-    void slot_valueChanged_DSpinBox_PLS_ThldBand(double) { take("doubleSpinBox_PLS_ThldBand"); }
-    void slot_stateChanged_FRQ_Filter(int) { take("checkBox_FRQ_Filter"); }
+    void slot_valueChanged_Slider_PLS_ThldBand(int) {}
+    void slot_valueChanged_DSpinBox_PLS_ThldBand(double) {}
+    void slot_stateChanged_FRQ_Filter(int) {}
     void slot_pressed_Btn_FRQ_ThldBand();
-    void slot_valueChanged_Slider_FRQ_ThldBand(int) { take("horizontalSlider_FRQ_ThldBand"); }
-    void slot_valueChanged_DSpinBox_FRQ_ThldBand(double) { take("doubleSpinBox_FRQ_ThldBand"); }
-    void slot_stateChanged_UI_Filter(int) { take("checkBox_UI_Filter"); }
+    void slot_valueChanged_Slider_FRQ_ThldBand(int) {}
+    void slot_valueChanged_DSpinBox_FRQ_ThldBand(double) {}
+    void slot_stateChanged_UI_Filter(int) {}
     void slot_pressed_Btn_TAHO_ThldBand();
-    void slot_valueChanged_Slider_TAHO_ThldBand(int) { take("horizontalSlider_TAHO_ThldBand"); }
-    void slot_valueChanged_DSpinBox_TAHO_ThldBand(double) { take("doubleSpinBox_TAHO_ThldBand"); }
+    void slot_valueChanged_Slider_TAHO_ThldBand(int) {}
+    void slot_valueChanged_DSpinBox_TAHO_ThldBand(double) {}
 
 protected:
     bool event(QEvent* event) override;
 
 private:
     std::array<QDoubleSpinBox*, 4> presentValues() const;
-    void take(const char* widget);
     void fitHeight();
     void showZones();
 
     std::unique_ptr<Ui::VLK_Designer_Form_Lines_In_Settings> ui_;
-    vlk::PageSettings* settings_ = nullptr;
     QString use_;
     bool levelsVisible_ = true;
 };

@@ -1,5 +1,6 @@
 #include "peripherals/ble_sensor_form.h"
 
+#include "settings/bluetooth_settings.h"
 #include "settings/value_text.h"
 #include "windows/binder/page_settings.h"
 
@@ -23,11 +24,6 @@ BleSensorForm::BleSensorForm(const BluetoothSensorType& type, int sensor, PageSe
     setObjectName(numberedName(type.section, sensor, 0));
 }
 
-QString BleSensorForm::ownerPath() const
-{
-    return QStringLiteral("BLUETOOTH/SENS%1/type").arg(sensor_);
-}
-
 QString BleSensorForm::value(const char* path) const
 {
     return settings_.value(numberedName(path, sensor_, 0));
@@ -48,9 +44,7 @@ QString BleSensorForm::indexText(int index) const
 {
     if (index < 0)
         return {};
-    const Configuration& configuration = settings_.configuration();
-    return valueText(configuration, configuration.indexOf(QStringLiteral("BLUETOOTH/") + indexPath_),
-                     QString::number(index));
+    return valueText(settings_.values(), settings_.rowAt(indexPath_), QString::number(index));
 }
 
 bool BleSensorForm::needsName() const
@@ -110,20 +104,40 @@ void BleSensorForm::tellChanges()
         tellIndex(std::exchange(previousIndex_, now), now);
 }
 
+Values BleSensorForm::element() const
+{
+    Values element(kBluetoothElements);
+    element.edit(QStringLiteral("SENS%1/form").arg(sensor_), QString::fromLatin1(type_.code));
+    return element;
+}
+
+void BleSensorForm::take(const Values& element)
+{
+    for (int row = 0; row < element.count(); ++row) {
+        if (element.isWritten(row))
+            settings_.edit(element.row(row).path, element.value(row));
+    }
+}
+
 void BleSensorForm::load(CXmlSection* bluetooth)
 {
     if (!bluetooth)
         return;
-    settings_.configuration().readUnder(*bluetooth, settings_.binder().table(), ownerPath(),
-                                        QString::fromLatin1(type_.code));
-    settings_.showAll();
+    Values read = element();
+    read.read(*bluetooth);
+    take(read);
 }
 
 void BleSensorForm::save(CXmlSection* bluetooth) const
 {
-    if (bluetooth)
-        settings_.configuration().writeUnder(*bluetooth, settings_.binder().table(), ownerPath(),
-                                             QString::fromLatin1(type_.code));
+    if (!bluetooth)
+        return;
+    Values saved = element();
+    for (int row = 0; row < saved.count(); ++row) {
+        if (saved.setting(row).stored)
+            saved.edit(row, settings_.value(saved.row(row).path));
+    }
+    saved.write(*bluetooth);
 }
 
 void BleSensorForm::setDefaults()
@@ -131,9 +145,7 @@ void BleSensorForm::setDefaults()
     // What the vendor before supplied is not withdrawn.
     if (vendor() != 0)
         previousVendor_ = -1;
-    settings_.configuration().resetUnder(settings_.binder().table(), ownerPath(),
-                                         QString::fromLatin1(type_.code));
-    settings_.showAll();
+    take(element());
 }
 
 void BleSensorForm::make()
@@ -192,7 +204,7 @@ void BleSensorForm::makeWidgets()
     // The vendor comes first, wherever the file has its number.
     const QString vendorWidget = mine + QString::fromLatin1(type_.vendorWidget);
     for (const bool first : {true, false}) {
-        for (const Setting& setting : settings_.binder().table().rows) {
+        for (const Setting& setting : settings_.values().table().rows) {
             const QString path = numberedName(setting.widget, sensor_, 0);
             if (setting.number == sensor_ && path.startsWith(mine) && (path == vendorWidget) == first)
                 add(setting);

@@ -18,6 +18,7 @@ struct CXmlSection;
 namespace vlk {
 
 class PageSettings;
+class Values;
 
 class BleSensorForm : public QWidget
 {
@@ -62,9 +63,12 @@ protected:
     // The value at a path of this sensor: %1 is its number.
     QString value(const char* path) const;
     PageSettings& settings() const { return settings_; }
-    QString ownerPath() const;
 
 private:
+    // The settings of the element alone, as though the sensor were of the type: no list has to offer a way to
+    // it.
+    Values element() const;
+    void take(const Values& element);
     int vendor() const;
     int takenIndex() const;
     void tell(bool on, int vendor);

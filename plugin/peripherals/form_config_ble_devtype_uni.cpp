@@ -165,7 +165,7 @@ VLK_Form_Config_Ble_DevType_Uni::VLK_Form_Config_Ble_DevType_Uni(const vlk::Blue
 {
     for (int row = 1; row <= vlk::kUniversalValues; ++row) {
         const QString path = QStringLiteral("U%1P%2/").arg(sensor).arg(row);
-        const auto setting = [&](const char* key) { return settings.indexOf(path + QLatin1String(key)); };
+        const auto setting = [&](const char* key) { return settings.rowAt(path + QLatin1String(key)); };
         rows_[row - 1] = {setting("group"), setting("stor"), setting("idx"), setting("prm")};
     }
 }
@@ -234,9 +234,9 @@ void VLK_Form_Config_Ble_DevType_Uni::retranslate()
     }
 }
 
-const QString& VLK_Form_Config_Ble_DevType_Uni::valueOf(int setting) const
+const QString& VLK_Form_Config_Ble_DevType_Uni::valueOf(int row) const
 {
-    return settings().configuration().value(setting);
+    return settings().values().value(row);
 }
 
 QString VLK_Form_Config_Ble_DevType_Uni::indexOf(int row) const

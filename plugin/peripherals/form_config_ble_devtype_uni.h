@@ -76,7 +76,7 @@ private:
         int element;
     };
 
-    const QString& valueOf(int setting) const;
+    const QString& valueOf(int row) const;
     bool isUsed(int row) const { return valueOf(rows_[row - 1].group) != QLatin1String("0"); }
     int target(int row) const { return valueOf(rows_[row - 1].target).toInt(); }
     const QString& element(int row) const { return valueOf(rows_[row - 1].element); }

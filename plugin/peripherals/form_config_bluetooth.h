@@ -53,7 +53,8 @@ public:
     void onDeviceFound(const vlk::BtDevice& device);
 
 public Q_SLOTS:
-    void slot_stateChanged_Bt_Use(int) { settings_.take("checkBox_Bt_Use"); }
+    // An empty one names an edit that the settings take from its widget themselves.
+    void slot_stateChanged_Bt_Use(int) {}
     void slot_pressed_Btn_Bt_Find();
     void slot_pressed_Btn_Bt_Add();
     void slot_pressed_Btn_Bt_Cancel();

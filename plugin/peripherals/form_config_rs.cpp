@@ -56,7 +56,7 @@ void VLK_Form_Config_RS::setDefaults()
 void VLK_Form_Config_RS::loadFromXml(CXmlSection* root)
 {
     settings_.load(root);
-    const CXmlSectionPtr section = root && shown_ ? root->child(QStringLiteral("RS485")) : nullptr;
+    const CXmlSectionPtr section = root && shown_ ? root->existing(QStringLiteral("RS485")) : nullptr;
     if (section)
         shown_->form->loadFromXml(section.get());
 }
@@ -99,11 +99,6 @@ QString VLK_Form_Config_RS::userParamText(const QString& code) const
 void VLK_Form_Config_RS::setCanLogProgram(int program)
 {
     settings_.edit("CNLG/program", QString::number(program));
-}
-
-void VLK_Form_Config_RS::slot_currentIndexChanged_RS485_Owner_1(const QString& /*text*/)
-{
-    settings_.take("comboBox_RS485_Owner_1");
 }
 
 void VLK_Form_Config_RS::slot_SetRS485_Settings(const QString& speed, const QString& parity,

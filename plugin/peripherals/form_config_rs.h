@@ -48,7 +48,8 @@ public:
     void setCanLogProgram(int program);
 
 public Q_SLOTS:
-    void slot_currentIndexChanged_RS485_Owner_1(const QString&);
+    // An empty one names an edit that the settings take from its widget themselves.
+    void slot_currentIndexChanged_RS485_Owner_1(const QString&) {}
     void slot_SetRS485_Settings(const QString& speed, const QString& parity, const QString& stop);
     void slot_CanLogProgramm_Get();
     void slot_CanLogProgramm_Set(int program);

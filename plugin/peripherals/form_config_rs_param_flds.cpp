@@ -3,7 +3,6 @@
 #include "fuel/form_fuel_view.h"
 #include "settings/rs_settings.h"
 #include "settings/value_text.h"
-#include "windows/binder/page_settings.h"
 #include "windows/column_head.h"
 #include "windows/numbered_widget.h"
 
@@ -168,16 +167,6 @@ void VLK_Form_Config_RS_Param_Flds_RS485::retranslate()
     }
     if (view_)
         view_->retranslate();
-}
-
-void VLK_Form_Config_RS_Param_Flds_RS485::slot_stateChanged_Use(int sensor)
-{
-    settings_->take(QByteArray("checkBox_Use_" + QByteArray::number(sensor)).constData());
-}
-
-void VLK_Form_Config_RS_Param_Flds_RS485::slot_stateChanged_Filter(int sensor)
-{
-    settings_->take(QByteArray("checkBox_Filter_" + QByteArray::number(sensor)).constData());
 }
 
 void VLK_Form_Config_RS_Param_Flds_RS485::slot_pressed_Fuel(int sensor)

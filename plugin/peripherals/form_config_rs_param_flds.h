@@ -33,8 +33,9 @@ Q_SIGNALS:
     void signal_GetCurrentFuelData(bool on);
 
 public Q_SLOTS:
-    void slot_stateChanged_Use(int sensor);
-    void slot_stateChanged_Filter(int sensor);
+    // An empty one names an edit that the settings take from its widget themselves.
+    void slot_stateChanged_Use(int /*sensor*/) {}
+    void slot_stateChanged_Filter(int /*sensor*/) {}
     void slot_pressed_Fuel(int sensor);
     void slot_GetFuelData(bool on);
     void slot_SetNewFuelData();

@@ -5,7 +5,6 @@
 #include "settings/params/user_param_can.h"
 #include "settings/params/user_params.h"
 #include "settings/rs_settings.h"
-#include "windows/binder/page_settings.h"
 #include "windows/numbered_widget.h"
 #include "windows/tab_order.h"
 
@@ -26,11 +25,6 @@ void addLines(QGridLayout* lines, const char* box, const char* input, int count)
     }
     lines->setColumnMinimumWidth(2, 24);
     lines->setColumnStretch(5, 1);
-}
-
-QByteArray numbered(const char* stem, int number)
-{
-    return stem + QByteArray::number(number);
 }
 
 } // namespace
@@ -82,24 +76,4 @@ void VLK_Form_Config_RS_Param_Pcnt::tellParams(Signal signal)
 {
     for (const VLK_UserParam_CAN* param : params_->counterList())
         (this->*signal)(QStringLiteral("CO"), param->name(), {}, params_->typeCodeSize(param->type()));
-}
-
-void VLK_Form_Config_RS_Param_Pcnt::slot_stateChanged_Passager(int counter)
-{
-    settings_->take(numbered("checkBox_Passager_", counter).constData());
-}
-
-void VLK_Form_Config_RS_Param_Pcnt::slot_toggled_Passager_Event_In(bool /*on*/)
-{
-    settings_->take("radioButton_Event_In");
-}
-
-void VLK_Form_Config_RS_Param_Pcnt::slot_stateChanged_ACode_Door(int door)
-{
-    settings_->take(numbered("checkBox_ACode_Door_", door).constData());
-}
-
-void VLK_Form_Config_RS_Param_Pcnt::slot_stateChanged_ACore_SM_SendNavi(int /*state*/)
-{
-    settings_->take("checkBox_ACore_SM_SendNavi");
 }

@@ -25,11 +25,12 @@ public:
     void retranslate() override;
 
 public Q_SLOTS:
+    // An empty one names an edit that the settings take from its widget themselves.
     void slot_currentIndexChanged_Type(const QString& type);
-    void slot_stateChanged_Passager(int counter);
-    void slot_toggled_Passager_Event_In(bool on);
-    void slot_stateChanged_ACode_Door(int door);
-    void slot_stateChanged_ACore_SM_SendNavi(int state);
+    void slot_stateChanged_Passager(int /*counter*/) {}
+    void slot_toggled_Passager_Event_In(bool /*on*/) {}
+    void slot_stateChanged_ACode_Door(int /*door*/) {}
+    void slot_stateChanged_ACore_SM_SendNavi(int /*state*/) {}
 
 private:
     using Signal = void (VLK_Form_Config_RS_Param::*)(const QString&, const QString&, const QString&, int);

@@ -116,11 +116,12 @@ constexpr auto indexRows()
         .caption(Type::type.index.caption);
 }
 
+// The element of a type, there while the value at `owner` is the type's code.
 template <std::size_t i>
-constexpr auto rowsOfType()
+constexpr auto rowsOfType(const char* owner)
 {
     using Type = Names<i>;
-    constexpr When chosen = when("SENS%1/type", Type::type.code);
+    const When chosen = when(owner, Type::type.code);
     if constexpr (!Type::type.vendorWidget) {
         auto rows = universal::rows;
         for (Setting& row : rows) {
@@ -140,13 +141,13 @@ constexpr auto rowsOfType()
             std::copy(Type::type.more.begin(), Type::type.more.end(), rows.begin());
             return rows;
         }();
-        constexpr Setting own = group(Type::type.section).onlyWhen(chosen);
+        const Setting own = group(Type::type.section).onlyWhen(chosen);
         if constexpr (!Type::hasIndex) {
             return rowsOf(own, vendor, more);
         } else if constexpr (!Type::type.index.elsewhere) {
             return rowsOf(own, vendor, indexRows<i>(), more);
         } else {
-            constexpr Setting beside = group("TS%1").named(Type::indexGroup.data()).ifAny().onlyWhen(chosen);
+            const Setting beside = group("TS%1").named(Type::indexGroup.data()).ifAny().onlyWhen(chosen);
             constexpr std::array<Setting, Type::type.index.withType> constants = [] {
                 std::array<Setting, Type::type.index.withType> rows{};
                 std::fill(rows.begin(), rows.end(), constant("type", "0"));
@@ -195,6 +196,14 @@ constexpr auto kFormCodes = [] {
     return codes;
 }();
 
+constexpr Setting kForm = choice("form", kFormCodes, "0").byNumber().unknownIs("0").notStored();
+
+template <std::size_t... types>
+constexpr auto elementRows(std::index_sequence<types...>)
+{
+    return rowsOf(group("SENS%1"), kForm, rowsOfType<types>("SENS%1/form")...);
+}
+
 template <std::size_t... types>
 constexpr auto sensorRows(std::index_sequence<types...>)
 {
@@ -206,9 +215,10 @@ constexpr auto sensorRows(std::index_sequence<types...>)
             .unofferedLeavesIt()
             .in("comboBox_Type_Sens_%1")
             .caption("cfgt17_025"),
-        choice("form", kFormCodes, "0").byNumber().unknownIs("0").notStored(),
+        kForm,
         shared::bluetoothAddress(text("macaddr", "")).in("lineEdit_Bt_MacAdr_Sens_%1").caption("cfgt17_007"),
-        text("name", "").in("lineEdit_Name_Sens_%1").caption("cfgt17_026"), rowsOfType<types>()...);
+        text("name", "").in("lineEdit_Name_Sens_%1").caption("cfgt17_026"),
+        rowsOfType<types>("SENS%1/type")...);
 }
 
 constexpr auto kSensorRows = sensorRows(std::make_index_sequence<kTypes>{});
@@ -218,6 +228,9 @@ constexpr auto kRows =
     tables::join(rowsOf(group("GLOBAL"), flag("use", 1).in("checkBox_Bt_Use").caption("cfgt17_004"),
                         group("CHANNEL1"), constant("device", "SENS")),
                  repeat<kBluetoothSensors>([](int) { return kSensorRows; }));
+
+constexpr auto kElementRows =
+    repeat<kBluetoothSensors>([](int) { return elementRows(std::make_index_sequence<kTypes>{}); });
 
 constexpr auto formPulls = [] {
     std::array<Pull, kTypes + 1> pulls{};
@@ -285,5 +298,7 @@ constexpr SettingsTable kBluetoothSettings{.section = "BLUETOOTH",
                                            .ranges = kRanges,
                                            .soles = kSoles,
                                            .enables = kEnables};
+
+constexpr SettingsTable kBluetoothElements{.rows = kElementRows, .ranges = kRanges, .emptied = false};
 
 } // namespace vlk

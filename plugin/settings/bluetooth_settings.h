@@ -14,4 +14,8 @@ namespace vlk {
 
 extern const SettingsTable kBluetoothSettings;
 
+// The elements of the types alone, also of those that the list of types does not offer: that of SENS1/form
+// for the first sensor, and so on. It lies over whatever the section holds.
+extern const SettingsTable kBluetoothElements;
+
 } // namespace vlk

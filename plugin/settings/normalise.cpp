@@ -198,18 +198,6 @@ Normalised digitString(const Setting& setting, const QString& text, const char* 
     return noted(held, text, Change::otherForm);
 }
 
-Normalised bitNumber(const Setting& setting, const QString& text)
-{
-    unsigned known = 0;
-    for (std::size_t i = 0; i < setting.positions.size(); ++i) {
-        if (setting.positions[i].widget)
-            known |= 1U << i;
-    }
-    const unsigned held = static_cast<unsigned>(leadingInt(text)) & known;
-    return notedBy(spelled(held, text), text,
-                   [&] { return isWholeNumber(text) ? Change::outOfRange : Change::notANumber; });
-}
-
 Normalised maskString(const Setting& setting, const QString& text, const QString& before)
 {
     QString read(setting.maxLength, QLatin1Char('0'));
@@ -364,8 +352,6 @@ Normalised normalise(const Setting& setting, const QString& text, const QString&
         return spread(setting, text, source);
     case Kind::digits:
         return digitString(setting, text, limits.offers);
-    case Kind::bits:
-        return bitNumber(setting, text);
     case Kind::mask:
         return maskString(setting, text, before);
     }

@@ -108,148 +108,124 @@ constexpr auto fuelSensor(int number)
                   integer("filterLvl", 6).range(0, 10).in("FLDS/spinBox_Kalman_%1").caption("cfgt6_217"));
 }
 
-constexpr auto fuelRows(const char* types)
-{
-    return rowsOf(group("FLDS"),
-                  choice("type", kFuelTypes, "0")
-                      .byNumber()
-                      .offering(types)
-                      .unknownIs("")
-                      .noItemIs("")
-                      .notStored()
-                      .in("FLDS/comboBox_FuelType")
-                      .caption("cfgt6_210"),
-                  repeat<kRsFuelSensors>(fuelSensor));
-}
+constexpr auto kFuelRows = rowsOf(group("FLDS"),
+                                  choice("type", kFuelTypes, "0")
+                                      .byNumber()
+                                      .offering("0|4")
+                                      .unknownIs("")
+                                      .noItemIs("")
+                                      .notStored()
+                                      .in("FLDS/comboBox_FuelType")
+                                      .caption("cfgt6_210"),
+                                  repeat<kRsFuelSensors>(fuelSensor));
 
 constexpr When kNetworkCounters = when("PCNT/type", "PP01");
 constexpr When kDoorCounter = when("PCNT/type", "ACOND");
 
-constexpr auto counterRows(const char* families)
-{
-    constexpr int kLongest = 999999999;
-    return rowsOf(
-        elementOf("PCNT", "PCNT"),
-        choice("type", kCounterFamilies, "PP01")
-            .offering(families)
-            .unknownIs("PP01")
-            .in("PCNT/comboBox_Type")
-            .caption("cfgt6_230"),
-        repeat<kRsCounters>([](int) {
-            return integer("id%1", 0)
-                .range(1, 250)
-                .in("PCNT/spinBox_Passager_%1")
-                .offAtZero("PCNT/checkBox_Passager_%1")
-                .caption("cfgt6_233")
-                .onlyWhen(kNetworkCounters);
-        }),
-        choice("countEvent", kCountEvents, "0")
-            .byNumber()
-            .unknownIs("0")
-            .caption("cfgt6_234")
-            .onlyWhen(kNetworkCounters),
-        integer("id1", 0)
-            .named("counter")
-            .range(0, 250)
-            .in("PCNT/spinBox_ACode_Passager_1")
-            .caption("cfgt6_239")
-            .onlyWhen(kDoorCounter),
-        digits("door", "000000", kDoors).listing(kDoorNumbers).caption("cfgt6_240").onlyWhen(kDoorCounter),
-        integer("offTime", 1800)
-            .range(0, kLongest)
-            .unit("abbr_003")
-            .in("PCNT/spinBox_ACore_SM_Off")
-            .caption("cfgt6_247")
-            .onlyWhen(kDoorCounter),
-        integer("coordTime", 0)
-            .range(1, kLongest)
-            .unit("abbr_003")
-            .in("PCNT/spinBox_ACore_SM_SendNavi")
-            .offAtZero("PCNT/checkBox_ACore_SM_SendNavi")
-            .caption("cfgt6_248")
-            .onlyWhen(kDoorCounter),
-        group("PCNTIN"),
-        choice("line", kInputs, "1")
-            .offering("1|2|3")
-            .notStored()
-            .in("PCNT/comboBox_Event_In")
-            .caption("cfgt6_238"));
-}
+constexpr int kLongest = 999999999;
 
-constexpr auto rsRows(const char* fuelTypes, const char* counterFamilies)
-{
-    return rowsOf(
-        group("OPTIONS"),
-        choice("owner1", kOwners, "").unknownIs("").in("comboBox_RS485_Owner_1").caption("cfgt6_201"),
-        // A second device on trackers that have room for one; known here, and never written.
-        text("owner2", "").notStored(),
-        choice("boudrate", kSpeeds, "19200")
-            .byNumber()
-            .readLast()
-            .in("comboBox_RS485_Boudrate")
-            .caption("cfgt6_002"),
-        choice("parity", kParities, "0")
-            .byNumber()
-            .readLast()
-            .in("comboBox_RS485_Parity")
-            .caption("cfgt6_003"),
-        choice("stopBit", kStopBits, "1")
-            .byNumber()
-            .unknownIs("1")
-            .readLast()
-            .in("comboBox_RS485_StopBit")
-            .caption("cfgt6_004"),
+constexpr auto kCounterRows =
+    rowsOf(elementOf("PCNT", "PCNT"),
+           choice("type", kCounterFamilies, "PP01")
+               .offering("PP01")
+               .unknownIs("PP01")
+               .in("PCNT/comboBox_Type")
+               .caption("cfgt6_230"),
+           repeat<kRsCounters>([](int) {
+               return integer("id%1", 0)
+                   .range(1, 250)
+                   .in("PCNT/spinBox_Passager_%1")
+                   .offAtZero("PCNT/checkBox_Passager_%1")
+                   .caption("cfgt6_233")
+                   .onlyWhen(kNetworkCounters);
+           }),
+           choice("countEvent", kCountEvents, "0")
+               .byNumber()
+               .unknownIs("0")
+               .caption("cfgt6_234")
+               .onlyWhen(kNetworkCounters),
+           integer("id1", 0)
+               .named("counter")
+               .range(0, 250)
+               .in("PCNT/spinBox_ACode_Passager_1")
+               .caption("cfgt6_239")
+               .onlyWhen(kDoorCounter),
+           digits("door", "000000", kDoors).listing(kDoorNumbers).caption("cfgt6_240").onlyWhen(kDoorCounter),
+           integer("offTime", 1800)
+               .range(0, kLongest)
+               .unit("abbr_003")
+               .in("PCNT/spinBox_ACore_SM_Off")
+               .caption("cfgt6_247")
+               .onlyWhen(kDoorCounter),
+           integer("coordTime", 0)
+               .range(1, kLongest)
+               .unit("abbr_003")
+               .in("PCNT/spinBox_ACore_SM_SendNavi")
+               .offAtZero("PCNT/checkBox_ACore_SM_SendNavi")
+               .caption("cfgt6_248")
+               .onlyWhen(kDoorCounter),
+           group("PCNTIN"),
+           choice("line", kInputs, "1")
+               .offering("1|2|3")
+               .notStored()
+               .in("PCNT/comboBox_Event_In")
+               .caption("cfgt6_238"));
 
-        // Asked from the adapter and sent to it, never in the file.
-        group("CNLG"),
-        integer("program", 0).range(0, 999999).notStored().in("CNLG/spinBox_Programm").caption("cfgt6_075"),
+constexpr auto kRows = rowsOf(
+    group("OPTIONS"),
+    choice("owner1", kOwners, "").unknownIs("").in("comboBox_RS485_Owner_1").caption("cfgt6_201"),
+    // A second device on trackers that have room for one; known here, and never written.
+    text("owner2", "").notStored(),
+    choice("boudrate", kSpeeds, "19200")
+        .byNumber()
+        .readLast()
+        .in("comboBox_RS485_Boudrate")
+        .caption("cfgt6_002"),
+    choice("parity", kParities, "0").byNumber().readLast().in("comboBox_RS485_Parity").caption("cfgt6_003"),
+    choice("stopBit", kStopBits, "1")
+        .byNumber()
+        .unknownIs("1")
+        .readLast()
+        .in("comboBox_RS485_StopBit")
+        .caption("cfgt6_004"),
 
-        elementOf("DTCN", "DTCN"),
-        integer("address", 1).range(1, 255).in("DTCN/spinBox_Adress").caption("cfgt6_078"),
+    // Asked from the adapter and sent to it, never in the file.
+    group("CNLG"),
+    integer("program", 0).range(0, 999999).notStored().in("CNLG/spinBox_Programm").caption("cfgt6_075"),
 
-        elementOf("DDU", "DV01"), flag("Use", 0).in("DDU/checkBox").caption("cfgt6_162"),
+    elementOf("DTCN", "DTCN"),
+    integer("address", 1).range(1, 255).in("DTCN/spinBox_Adress").caption("cfgt6_078"),
 
-        group("HRPS"),
-        choice("type", kReceivers, "0").notStored().in("HRPS/comboBox_Type").caption("cfgt6_084"),
+    elementOf("DDU", "DV01"), flag("Use", 0).in("DDU/checkBox").caption("cfgt6_162"),
 
-        group("REFR"),
-        choice("type", kRefrigerators, "0").notStored().in("REFR/comboBox_Type").caption("cfgt6_086"),
+    group("HRPS"), choice("type", kReceivers, "0").notStored().in("HRPS/comboBox_Type").caption("cfgt6_084"),
 
-        elementOf("RFID", "RFID"),
-        choice("type", kReaders, "ESCORT").unknownIs("ESCORT").in("RFID/comboBox_Type").caption("cfgt6_096"),
-        integer("id", 0).range(0, 255).in("RFID/spinBox_Address").caption("cfgt6_202"),
-        integer("holdTime", 60)
-            .range(0, 86400)
-            .unit("abbr_003")
-            .in("RFID/spinBox_FixTime")
-            .caption("cfgt6_203"),
-        flag("nearOnly", 1).in("RFID/checkBox_Nearest").caption("cfgt6_204"),
-        integer("minLvl", -128).range(-128, 0).in("RFID/spinBox_Floor").caption("cfgt6_205"),
-        choice("mode", kReaderModes, "0")
-            .byNumber()
-            .unknownIs("0")
-            .in("RFID/comboBox_Mode")
-            .caption("cfgt6_206"),
+    group("REFR"),
+    choice("type", kRefrigerators, "0").notStored().in("REFR/comboBox_Type").caption("cfgt6_086"),
 
-        elementOf("TACH", "TACH"),
-        choice("type", kTachographs, "ATOL").unknownIs("ATOL").in("TACH/comboBox_Type").caption("cfgt6_096"),
-        text("login", "1").in("TACH/lineEdit_ID").caption("cfgt6_097"),
-        text("pass", "738205").in("TACH/lineEdit_Key").caption("cfgt6_098"),
-        flag("noPing", 1).resetTo(0.0).in("TACH/checkBox_Ping").caption("cfgt6_099"),
-        flag("eventOff", 0).in("TACH/checkBox_EventOff").caption("cfgt6_100"),
+    elementOf("RFID", "RFID"),
+    choice("type", kReaders, "ESCORT").unknownIs("ESCORT").in("RFID/comboBox_Type").caption("cfgt6_096"),
+    integer("id", 0).range(0, 255).in("RFID/spinBox_Address").caption("cfgt6_202"),
+    integer("holdTime", 60).range(0, 86400).unit("abbr_003").in("RFID/spinBox_FixTime").caption("cfgt6_203"),
+    flag("nearOnly", 1).in("RFID/checkBox_Nearest").caption("cfgt6_204"),
+    integer("minLvl", -128).range(-128, 0).in("RFID/spinBox_Floor").caption("cfgt6_205"),
+    choice("mode", kReaderModes, "0").byNumber().unknownIs("0").in("RFID/comboBox_Mode").caption("cfgt6_206"),
 
-        elementOf("TPMS", "TPMS"),
-        choice("type", kTyreMonitors, "PRESSPRO")
-            .unknownIs("PRESSPRO")
-            .in("TPMS/comboBox_Type")
-            .caption("cfgt6_080"),
-        integer("holdTime", 15).range(1, 255).unit("abbr_002").in("TPMS/spinBox_Time").caption("cfgt6_081"),
+    elementOf("TACH", "TACH"),
+    choice("type", kTachographs, "ATOL").unknownIs("ATOL").in("TACH/comboBox_Type").caption("cfgt6_096"),
+    text("login", "1").in("TACH/lineEdit_ID").caption("cfgt6_097"),
+    text("pass", "738205").in("TACH/lineEdit_Key").caption("cfgt6_098"),
+    flag("noPing", 1).resetTo(0.0).in("TACH/checkBox_Ping").caption("cfgt6_099"),
+    flag("eventOff", 0).in("TACH/checkBox_EventOff").caption("cfgt6_100"),
 
-        fuelRows(fuelTypes), counterRows(counterFamilies));
-}
+    elementOf("TPMS", "TPMS"),
+    choice("type", kTyreMonitors, "PRESSPRO")
+        .unknownIs("PRESSPRO")
+        .in("TPMS/comboBox_Type")
+        .caption("cfgt6_080"),
+    integer("holdTime", 15).range(1, 255).unit("abbr_002").in("TPMS/spinBox_Time").caption("cfgt6_081"),
 
-constexpr auto kRows = rsRows("0|4", "PP01");
-constexpr auto kRowsOfAllTypes = rsRows("0|4|1|2", "PP01|ACOND");
+    kFuelRows, kCounterRows);
 
 // Choosing an owner brings its line, and a type that has a line of its own brings that, while its device owns
 // the line. A load runs these too, and then reads the line's own keys.
@@ -310,7 +286,5 @@ constexpr auto kEnables =
 
 constexpr SettingsTable kRsSettings{
     .section = "RS485", .rows = kRows, .pulls = kPulls, .presets = kPresets, .enables = kEnables};
-constexpr SettingsTable kRsSettingsOfAllTypes{
-    .section = "RS485", .rows = kRowsOfAllTypes, .pulls = kPulls, .presets = kPresets, .enables = kEnables};
 
 } // namespace vlk

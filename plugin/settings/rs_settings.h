@@ -53,8 +53,5 @@ inline constexpr int kRsCounters = 7;
 inline constexpr int kRsDoors = 6;
 
 extern const SettingsTable kRsSettings;
-// With what the forms know and this tracker does not offer: all four types of fuel sensors, both families of
-// passenger counters.
-extern const SettingsTable kRsSettingsOfAllTypes;
 
 } // namespace vlk

@@ -37,7 +37,6 @@ enum class Kind : std::uint8_t {
     choice, // one of `codes`
     period, // seconds over several boxes, `parts`
     digits, // a string with a digit a position, `positions`
-    bits,   // a number with a bit a position, `positions`
     mask,   // a long string of 0 and 1
 };
 
@@ -99,7 +98,7 @@ struct PeriodPart
     const char* unit;
 };
 
-// One position of a string of digits or of a bit mask. Without a widget it is always 0.
+// One position of a string of digits. Without a widget it is always 0.
 struct Position
 {
     const char* widget = nullptr;
@@ -371,14 +370,6 @@ constexpr Setting period(const char* key, int loadDefault, std::span<const Perio
 constexpr Setting digits(const char* key, const char* loadDefault, std::span<const Position> positions)
 {
     return {.kind = Kind::digits, .key = key, .loadText = {loadDefault}, .positions = positions};
-}
-
-constexpr Setting bits(const char* key, int loadDefault, std::span<const Position> positions)
-{
-    return {.kind = Kind::bits,
-            .key = key,
-            .loadNumber = static_cast<double>(loadDefault),
-            .positions = positions};
 }
 
 // Positions that no field sets are always 0; a mask without fields takes them all as they come.

@@ -82,14 +82,22 @@ private:
             group.readable = setting.readOtherwise
                                  ? conditions(setting, setting.readable, setting.readableToo)
                                  : group.present;
-            for (const TableLayout::Group& other : layout_.groups)
-                group.nested = group.nested || (other.path.size() > group.path.size() &&
-                                                other.path.mid(0, group.path.size()) == group.path);
+            const QStringList above = group.path.mid(0, group.path.size() - 1);
+            for (std::size_t other = 0; other < layout_.groups.size() && !above.isEmpty(); ++other) {
+                if (layout_.groups[other].path != above)
+                    continue;
+                group.parent = static_cast<int>(other);
+                layout_.groups[other].nested = true;
+            }
+            if (group.parent < 0 && !above.isEmpty())
+                layout_.problems << QStringLiteral("no element around %1").arg(group.name);
             const auto first = layout_.rows.begin() + group.firstRow;
             const auto end = layout_.rows.begin() + group.endRow;
-            group.stored = first == end || group.nested ||
-                           std::any_of(first, end, [](const auto& row) { return row.setting->stored; });
+            group.stored =
+                first == end || std::any_of(first, end, [](const auto& row) { return row.setting->stored; });
         }
+        for (TableLayout::Group& group : layout_.groups)
+            group.stored = group.stored || group.nested;
         // What lives in the window alone is not in the file: beside values that are, it starts anew, and
         // links and rules fill it; a group of its own is left as it stands.
         for (const TableLayout::Row& row : layout_.rows) {

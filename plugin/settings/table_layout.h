@@ -49,6 +49,7 @@ struct TableLayout
         bool kept = false;
         bool unlessEmpty = false;
         bool nested = false; // another group lies in it
+        int parent = -1;     // the group that it lies in
         bool stored = true;  // false: all its rows live in the window alone, the file has no such element
         int number = 0;      // of the repetition, 0: of none
         int firstRow = 0;

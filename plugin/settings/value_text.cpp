@@ -53,9 +53,8 @@ QString maskText(const Setting& setting, const QString& value)
 QString positionsText(const Setting& setting, const QString& value)
 {
     QStringList parts;
-    const unsigned bits = setting.kind == Kind::bits ? value.toUInt() : 0;
     for (std::size_t i = 0; i < setting.positions.size(); ++i) {
-        const int digit = setting.kind == Kind::bits ? static_cast<int>((bits >> i) & 1U) : digitAt(value, i);
+        const int digit = digitAt(value, i);
         if (digit == 0)
             continue;
         QString part = translated(setting.positions[i].caption);
@@ -103,14 +102,14 @@ QString fieldText(const MaskField& field)
     return field.number > 0 ? text.arg(field.number) : text;
 }
 
-QString valueText(const Configuration& configuration, int index)
+QString valueText(const Values& values, int row)
 {
-    return valueText(configuration, index, configuration.value(index));
+    return valueText(values, row, values.value(row));
 }
 
-QString valueText(const Configuration& configuration, int index, const QString& value)
+QString valueText(const Values& values, int row, const QString& value)
 {
-    const Setting& setting = configuration.setting(configuration.holder(index));
+    const Setting& setting = values.setting(values.holder(row));
     switch (setting.kind) {
     case Kind::flag:
         return yesNo(value != QLatin1String("0"));
@@ -122,7 +121,7 @@ QString valueText(const Configuration& configuration, int index, const QString& 
         if (setting.hexadecimal)
             return value;
         return withUnit(QString::number(shownNumber(setting, value), 'f', setting.decimals),
-                        configuration.unitKey(index));
+                        values.unitKey(row));
     case Kind::choice:
         for (const Code& code : setting.codes) {
             if (QLatin1String(code.code) == value && *code.label)
@@ -132,7 +131,6 @@ QString valueText(const Configuration& configuration, int index, const QString& 
     case Kind::period:
         return periodText(setting, value.toInt());
     case Kind::digits:
-    case Kind::bits:
         return positionsText(setting, value);
     case Kind::mask:
         return maskText(setting, value);

@@ -2,7 +2,7 @@
 
 // Settings as a person reads them, in the present language.
 
-#include "settings/configuration.h"
+#include "settings/values.h"
 
 #include <QString>
 
@@ -24,8 +24,8 @@ QString codeText(const Code& code);
 QString fieldText(const MaskField& field);
 
 // The value with its unit: "100 km/h", "on", "1 d 2 h", "NB+" as its label.
-QString valueText(const Configuration& configuration, int index);
+QString valueText(const Values& values, int row);
 // The same for another value of that setting, as a file holds it.
-QString valueText(const Configuration& configuration, int index, const QString& value);
+QString valueText(const Values& values, int row, const QString& value);
 
 } // namespace vlk

@@ -1,97 +1,56 @@
-#include "settings/configuration.h"
+#include "settings/values.h"
 
 #include <algorithm>
 
 namespace vlk {
 
-Configuration::Configuration(const std::vector<const SettingsTable*>& tables)
+Values::Values(const SettingsTable& table) : layout_(&layoutOf(table)), values_(layout_->rows.size())
 {
-    for (const SettingsTable* table : tables) {
-        const TableLayout& layout = layoutOf(*table);
-        const int first = count();
-        parts_.push_back({&layout, first});
-        values_.resize(values_.size() + layout.rows.size());
-        partOfIndex_.resize(values_.size(), static_cast<int>(parts_.size()) - 1);
-        for (std::size_t row = 0; row < layout.rows.size(); ++row)
-            byPath_.insert(layout.rows[row].path, first + static_cast<int>(row));
-    }
     // A choice that keeps its value and a row that a reset leaves alone start at their load defaults.
-    for (int i = 0; i < count(); ++i)
-        values_[i] = loadDefault(setting(i));
+    for (int row = 0; row < count(); ++row)
+        values_[row] = loadDefault(setting(row));
     reset();
-    for (int i = 0; i < count(); ++i) {
-        if (setting(i).resets == Setting::Reset::keeps)
-            values_[i] = normalise(setting(i), loadDefault(setting(i)), {}, limits(i)).value;
+    for (int row = 0; row < count(); ++row) {
+        if (setting(row).resets == Setting::Reset::keeps)
+            values_[row] = normalise(setting(row), loadDefault(setting(row)), {}, limits(row)).value;
     }
 }
 
-const Configuration::Part& Configuration::partOf(int index) const
-{
-    return parts_[partOfIndex_.at(index)];
-}
-
-const Configuration::Part& Configuration::partOf(const SettingsTable& table) const
-{
-    const auto found = std::find_if(parts_.begin(), parts_.end(),
-                                    [&](const Part& part) { return part.layout->table == &table; });
-    Q_ASSERT(found != parts_.end());
-    return *found;
-}
-
-int Configuration::firstOf(const SettingsTable& table) const
-{
-    return partOf(table).first;
-}
-
-const TableLayout::Row& Configuration::row(int index) const
-{
-    const Part& part = partOf(index);
-    return part.layout->rows[index - part.first];
-}
-
-const QString& Configuration::value(int index) const
+const QString& Values::value(int row) const
 {
     static const QString none;
-    if (index < 0 || index >= count())
+    if (row < 0 || row >= count())
         return none;
-    return values_[holder(index)];
+    return values_[holder(row)];
 }
 
-int Configuration::holder(int index) const
+bool Values::isWritten(int row) const
 {
-    const Part& part = partOf(index);
-    return part.first + part.layout->rows[index - part.first].target;
+    const TableLayout::Row& place = layout_->rows[row];
+    return place.setting->stored && holds(place.present) &&
+           (place.group < 0 || holds(layout_->groups[place.group].present));
 }
 
-bool Configuration::isWritten(int index) const
-{
-    const Part& part = partOf(index);
-    const TableLayout::Row& row = part.layout->rows[index - part.first];
-    return row.setting->stored && holds(part, row.present) &&
-           (row.group < 0 || holds(part, part.layout->groups[row.group].present));
-}
-
-bool Configuration::isWritten(const Part& part, const TableLayout::Group& group) const
+bool Values::isWritten(const TableLayout::Group& group) const
 {
     if (!group.unlessEmpty)
         return true;
     for (int row = group.firstRow; row < group.endRow; ++row) {
-        const TableLayout::Row& place = part.layout->rows[row];
-        if (place.setting->stored && holds(part, place.present))
+        const TableLayout::Row& place = layout_->rows[row];
+        if (place.setting->stored && holds(place.present))
             return true;
     }
     return false;
 }
 
-QString Configuration::written(int index, const QString& value) const
+QString Values::written(int row, const QString& value) const
 {
-    const Part& part = partOf(index);
-    const TableLayout::Row& row = part.layout->rows[index - part.first];
-    if (!holds(part, row.free))
-        return QString::fromLatin1(row.setting->otherwise);
-    QString text = row.setting->blankIsZero && value.isEmpty() ? QStringLiteral("0") : value;
-    for (const TableLayout::MaskPositions& rule : part.layout->masks) {
-        if (part.first + rule.row != index || !holds(part, rule.when))
+    const TableLayout::Row& place = layout_->rows[row];
+    if (!holds(place.free))
+        return QString::fromLatin1(place.setting->otherwise);
+    QString text = place.setting->blankIsZero && value.isEmpty() ? QStringLiteral("0") : value;
+    for (const TableLayout::MaskPositions& rule : layout_->masks) {
+        if (rule.row != row || !holds(rule.when))
             continue;
         for (const int position : rule.rule->positions) {
             if (position < text.size())
@@ -101,153 +60,115 @@ QString Configuration::written(int index, const QString& value) const
     return text;
 }
 
-bool Configuration::isOneOf(const QString& value, const TableLayout::Condition& condition)
+bool Values::isOneOf(const QString& value, const TableLayout::Condition& condition)
 {
     const bool is = condition.codes.isEmpty() ? !value.isEmpty() && value != QLatin1String("0")
                                               : condition.codes.contains(value);
     return is != condition.negated;
 }
 
-bool Configuration::holds(const Part& part, const TableLayout::Condition& condition) const
+bool Values::holds(const TableLayout::Condition& condition) const
 {
     if (condition.row < 0)
         return true;
-    const QString& value = this->value(part.first + condition.row);
+    const QString& value = this->value(condition.row);
     if (condition.other >= 0)
-        return (value == this->value(part.first + condition.other)) != condition.negated;
+        return (value == this->value(condition.other)) != condition.negated;
     return isOneOf(value, condition);
 }
 
-bool Configuration::holds(const Part& part, const std::vector<TableLayout::Condition>& all) const
+bool Values::holds(const std::vector<TableLayout::Condition>& all) const
 {
     return std::all_of(all.begin(), all.end(),
-                       [&](const TableLayout::Condition& condition) { return holds(part, condition); });
+                       [&](const TableLayout::Condition& condition) { return holds(condition); });
 }
 
-bool Configuration::holds(const SettingsTable& table, const TableLayout::Enable& rule) const
+bool Values::holds(const TableLayout::Enable& rule) const
 {
-    const Part& part = partOf(table);
-    const auto one = [&](const TableLayout::Condition& condition) { return holds(part, condition); };
-    return rule.any ? std::any_of(rule.when.begin(), rule.when.end(), one) : holds(part, rule.when);
+    const auto one = [&](const TableLayout::Condition& condition) { return holds(condition); };
+    return rule.any ? std::any_of(rule.when.begin(), rule.when.end(), one) : holds(rule.when);
 }
 
-bool Configuration::holds(const SettingsTable& table, const TableLayout::Doubt& rule) const
+Limits Values::limits(int row) const
 {
-    return holds(partOf(table), rule.when);
-}
-
-Limits Configuration::limits(int index) const
-{
-    const Part& part = partOf(index);
-    const int row = part.layout->rows[index - part.first].target;
-    Limits limits = ownLimits(part, row);
-    for (const TableLayout::SoleList& list : part.layout->soleLists) {
+    row = holder(row);
+    Limits limits = ownLimits(row);
+    for (const TableLayout::SoleList& list : layout_->soleLists) {
         if (!list.triggers[row])
             continue;
         for (const TableLayout::Sole& sole : list.soles) {
             if (sole.row == row)
-                limits.taken = takenFrom(part, list, sole);
+                limits.taken = takenFrom(list, sole);
         }
     }
     return limits;
 }
 
 // Whatever other settings of a shared list hold.
-Limits Configuration::ownLimits(const Part& part, int row) const
+Limits Values::ownLimits(int row) const
 {
-    const Setting& setting = *part.layout->rows[row].setting;
+    const Setting& setting = this->setting(row);
     Limits limits{setting.least, setting.most};
-    for (const int index : part.layout->rows[row].ranges) {
-        const TableLayout::RangeWhen& rule = part.layout->ranges[index];
-        if (holds(part, rule.when))
+    for (const int index : layout_->rows[row].ranges) {
+        const TableLayout::RangeWhen& rule = layout_->ranges[index];
+        if (holds(rule.when))
             limits = {rule.rule->least, rule.rule->most, rule.rule->offers};
     }
     // Each of two handles leaves the other one its room.
-    for (const int index : part.layout->rows[row].distances) {
-        const TableLayout::Distance& rule = part.layout->distances[index];
+    for (const int index : layout_->rows[row].distances) {
+        const TableLayout::Distance& rule = layout_->distances[index];
         if (rule.gapFrom < 0 && row == rule.first)
-            limits.most = part.layout->rows[rule.second].setting->most - rule.gap;
+            limits.most = this->setting(rule.second).most - rule.gap;
         else if (rule.gapFrom < 0 && row == rule.second)
-            limits.least = part.layout->rows[rule.first].setting->least + rule.gap;
+            limits.least = this->setting(rule.first).least + rule.gap;
     }
     return limits;
 }
 
-const char* Configuration::unitKey(int index) const
+const char* Values::unitKey(int row) const
 {
-    const Part& part = partOf(index);
-    const int row = part.layout->rows[index - part.first].target;
-    const char* unit = part.layout->rows[row].setting->unitKey;
-    for (const int ranged : part.layout->rows[row].ranges) {
-        const TableLayout::RangeWhen& rule = part.layout->ranges[ranged];
-        if (rule.rule->unit && holds(part, rule.when))
+    row = holder(row);
+    const char* unit = setting(row).unitKey;
+    for (const int ranged : layout_->rows[row].ranges) {
+        const TableLayout::RangeWhen& rule = layout_->ranges[ranged];
+        if (rule.rule->unit && holds(rule.when))
             unit = rule.rule->unit;
     }
     return unit;
 }
 
-void Configuration::reset()
+void Values::resetRow(int row)
 {
-    for (const Part& part : parts_)
-        resetPart(part);
-}
-
-void Configuration::reset(const SettingsTable& table)
-{
-    resetPart(partOf(table));
-}
-
-void Configuration::resetRow(const Part& part, int row)
-{
-    const Setting& setting = *part.layout->rows[row].setting;
+    const Setting& setting = this->setting(row);
     if (setting.resets == Setting::Reset::keeps || setting.kind == Kind::link)
         return;
-    const int index = part.first + row;
     const QString reset = resetValue(setting);
-    values_[index] = setting.none && reset == QLatin1String(setting.none)
-                         ? reset
-                         : normalise(setting, reset, values_[index], ownLimits(part, row)).value;
+    values_[row] = setting.none && reset == QLatin1String(setting.none)
+                       ? reset
+                       : normalise(setting, reset, values_[row], ownLimits(row)).value;
 }
 
-void Configuration::resetPart(const Part& part)
+void Values::reset()
 {
-    const int rows = static_cast<int>(part.layout->rows.size());
-    for (int row = 0; row < rows; ++row)
-        resetRow(part, row);
-    for (const TableLayout::SoleList& list : part.layout->soleLists)
-        keepSoles(part, list, -1, {}, nullptr);
-    for (const TableLayout::Distance& rule : part.layout->distances) {
+    for (int row = 0; row < count(); ++row)
+        resetRow(row);
+    for (const TableLayout::SoleList& list : layout_->soleLists)
+        keepSoles(list, -1, {}, nullptr);
+    for (const TableLayout::Distance& rule : layout_->distances) {
         if (rule.gapFrom >= 0)
-            keepDistances(part, rule.gapFrom, nullptr);
+            keepDistances(rule.gapFrom, nullptr);
     }
-    keepBounds(part, nullptr);
+    keepBounds(nullptr);
 }
 
-void Configuration::resetUnder(const SettingsTable& table, const QString& owner, const QString& code)
-{
-    const Part& part = partOf(table);
-    const int ownerRow = indexOf(owner) - part.first;
-    for (const TableLayout::Group& group : part.layout->groups) {
-        const bool isOf = std::any_of(group.present.begin(), group.present.end(), [&](const auto& condition) {
-            return condition.row == ownerRow && isOneOf(code, condition);
-        });
-        if (!isOf)
-            continue;
-        for (int row = group.firstRow; row < group.endRow; ++row)
-            resetRow(part, row);
-    }
-    for (const TableLayout::SoleList& list : part.layout->soleLists)
-        keepSoles(part, list, -1, {}, nullptr);
-}
-
-std::vector<Difference> Configuration::differences(const Configuration& other) const
+std::vector<Difference> Values::differences(const Values& other) const
 {
     std::vector<Difference> all;
-    for (int i = 0; i < count() && i < other.count(); ++i) {
-        const QString before = isWritten(i) ? written(i) : QString();
-        const QString after = other.isWritten(i) ? other.written(i) : QString();
-        if (setting(i).stored && before != after)
-            all.push_back({i, before, after});
+    for (int row = 0; row < count(); ++row) {
+        const QString before = isWritten(row) ? written(row) : QString();
+        const QString after = other.isWritten(row) ? other.written(row) : QString();
+        if (setting(row).stored && before != after)
+            all.push_back({layout_->rows[row].path, row, before, after});
     }
     return all;
 }

@@ -160,7 +160,7 @@ private:
     void typeInto(Page& page)
     {
         vlk::PageSettings& settings = page.settings();
-        vlk::Configuration core({&settings.binder().table()});
+        vlk::Values core(settings.values().table());
         for (int index = 0; index < core.count(); ++index) {
             const vlk::Setting& setting = core.setting(index);
             const bool isNumber = setting.kind == vlk::Kind::integer || setting.kind == vlk::Kind::real ||
@@ -205,15 +205,15 @@ private:
                                        core.value(index) == *samples[i].value;
                 if (written != expected || !isAsTyped)
                     wrong_ << QString("%1: %2%3 gives\n%4\ninstead of\n%5")
-                                  .arg(core.path(index), samples[i].keys, end, differing(written, expected),
-                                       differing(expected, written));
+                                  .arg(core.row(index).path, samples[i].keys, end,
+                                       differing(written, expected), differing(expected, written));
             }
         }
     }
 
     // The key in which a file of this tracker holds the value; a value may go into another one with each use
     // of a line.
-    static int keyOf(vlk::Configuration& core, int index)
+    static int keyOf(vlk::Values& core, int index)
     {
         for (int key = index; key < core.count(); ++key) {
             if (core.holder(key) != index || !core.setting(key).stored)
@@ -228,19 +228,19 @@ private:
     }
 
     // A file in which the setting stands, and a switched-off number is on.
-    static QByteArray fileFor(const vlk::Configuration& core, int index)
+    static QByteArray fileFor(const vlk::Values& core, int index)
     {
         const vlk::Setting& setting = core.setting(index);
         auto values = presenceOf(core, index);
         if (core.row(index).free.row >= 0)
-            values.append({core.layout(index).rows[core.row(index).free.row].filePath, "1"});
+            values.append({core.layout().rows[core.row(index).free.row].filePath, "1"});
         if (setting.zeroIsOff)
             values.append({core.row(index).filePath, vlk::fileNumber(setting, std::max(1.0, setting.least))});
         return documentWith(values);
     }
 
     template <class Page>
-    static void load(Page& page, vlk::Configuration& core, const QByteArray& file)
+    static void load(Page& page, vlk::Values& core, const QByteArray& file)
     {
         vlk::XmlDocument in(file, "DEVICE");
         page.setDefaults();
@@ -250,15 +250,15 @@ private:
     }
 
     // Edits what a person would who wants the field enabled: it, and what it stands in.
-    static void switchOn(vlk::PageSettings& settings, vlk::Configuration& core, const QWidget* field)
+    static void switchOn(vlk::PageSettings& settings, vlk::Values& core, const QWidget* field)
     {
-        const vlk::TableLayout& layout = vlk::layoutOf(settings.binder().table());
+        const vlk::TableLayout& layout = settings.values().layout();
         for (const QWidget* widget = field; widget; widget = widget->parentWidget()) {
             for (const vlk::TableLayout::Enable& rule : layout.enables) {
                 if (!rule.targets.contains(widget->objectName()))
                     continue;
                 for (const vlk::TableLayout::Condition& condition : rule.when) {
-                    if (core.holds(settings.binder().table(), rule))
+                    if (core.holds(rule))
                         break;
                     QString code = condition.negated ? QString("0") : condition.codes.value(0, "1");
                     for (const vlk::Code& other : core.setting(condition.row).codes) {
@@ -276,7 +276,7 @@ private:
     static QByteArray saved(Page& page)
     {
         vlk::XmlDocument out(QString(), "DEVICE");
-        if constexpr (std::is_same_v<Page, vlk::Configuration>)
+        if constexpr (std::is_same_v<Page, vlk::Values>)
             page.write(*out.root());
         else
             page.saveToXml(out.root());

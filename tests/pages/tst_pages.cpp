@@ -43,7 +43,7 @@ private Q_SLOTS:
         forEachPage([&](auto& page) {
             QCOMPARE(page.settings().binder().problems(), QStringList());
             QCOMPARE(page.settings().binder().waiting(), QStringList());
-            sections << page.settings().binder().table().section;
+            sections << page.settings().values().table().section;
         });
         QStringList tables;
         for (const vlk::SettingsTable* table : vlk::allSettings())
@@ -63,7 +63,7 @@ private Q_SLOTS:
     void manyFiles()
     {
         QFETCH(int, round);
-        const QByteArray file = mixtureOf(configuration_, round);
+        const QByteArray file = mixtureOf(configuration_.tables(), round);
         const QByteArray expected = readAndWritten(configuration_, file);
         QCOMPARE(throughTheWindow(file), expected);
         forEachPage([](auto& page) { compareWidgets(page); });
@@ -74,7 +74,7 @@ private Q_SLOTS:
     void manyFilesInTheQuickWindow()
     {
         QFETCH(int, round);
-        const QByteArray file = mixtureOf(quickSettings_, round);
+        const QByteArray file = mixtureOf({quickSettings_}, round);
         const QByteArray expected = readAndWritten(quickSettings_, file);
         QCOMPARE(throughTheQuickWindow(file), expected);
         QCOMPARE(quick_->settings().binder().disagreements(), QStringList());
@@ -87,13 +87,19 @@ private Q_SLOTS:
         window_->setDefaults();
         const vlk::Configuration fresh = stateOf(saved());
         QVector<QPair<QString, QString>> values;
-        for (int i = 0; i < configuration_.count(); ++i)
-            values.append({configuration_.row(i).filePath, samplesOf(configuration_.setting(i)).last()});
+        for (const vlk::Values& table : configuration_.tables()) {
+            for (int row = 0; row < table.count(); ++row)
+                values.append({table.row(row).filePath, samplesOf(table.setting(row)).last()});
+        }
         throughTheWindow(documentWith(values));
         window_->setDefaults();
-        for (const vlk::Difference& difference : fresh.differences(stateOf(saved())))
-            QVERIFY2(fresh.setting(difference.index).resets == vlk::Setting::Reset::keeps,
-                     qPrintable(fresh.path(difference.index)));
+        const vlk::Configuration after = stateOf(saved());
+        for (std::size_t i = 0; i < fresh.tables().size(); ++i) {
+            const vlk::Values& table = fresh.tables()[i];
+            for (const vlk::Difference& difference : table.differences(after.tables()[i]))
+                QVERIFY2(table.setting(difference.row).resets == vlk::Setting::Reset::keeps,
+                         qPrintable(difference.path));
+        }
         forEachPage([](auto& page) { compareWidgets(page); });
     }
 
@@ -105,7 +111,7 @@ private:
         const vlk::Binder& binder = page.settings().binder();
         QCOMPARE(binder.disagreements().join('\n'), QString());
         QHash<QString, int> rules;
-        const auto& enables = vlk::layoutOf(binder.table()).enables;
+        const auto& enables = binder.values().layout().enables;
         for (const auto& rule : enables) {
             for (const QString& target : rule.targets)
                 ++rules[target];
@@ -118,7 +124,7 @@ private:
                 const QWidget* widget = widgets[0];
                 const bool on =
                     rule.shows ? !widget->isHidden() : widget->isEnabledTo(widget->parentWidget());
-                QVERIFY2(on == binder.configuration().holds(binder.table(), rule), qPrintable(target));
+                QVERIFY2(on == binder.values().holds(rule), qPrintable(target));
             }
         }
     }
@@ -154,12 +160,15 @@ private:
 
     // Every setting with a sample, another one each round; each third round the quick window's sensors are
     // on.
-    static QByteArray mixtureOf(const vlk::Configuration& configuration, int round)
+    static QByteArray mixtureOf(const std::vector<vlk::Values>& tables, int round)
     {
         QVector<QPair<QString, QString>> values;
-        for (int i = 0; i < configuration.count(); ++i) {
-            const QStringList samples = samplesOf(configuration.setting(configuration.holder(i)));
-            values.append({configuration.row(i).filePath, samples.at((round + 7 * i) % samples.size())});
+        for (const vlk::Values& table : tables) {
+            for (int row = 0; row < table.count(); ++row) {
+                const QStringList samples = samplesOf(table.setting(table.holder(row)));
+                values.append(
+                    {table.row(row).filePath, samples.at((round + 7 * values.size()) % samples.size())});
+            }
         }
         if (round % 3 == 0)
             values << qMakePair(QString("RS485/OPTIONS/owner1"), QString("FLDS"))
@@ -180,7 +189,7 @@ private:
     std::unique_ptr<VLK_Widget_Config_Full> window_;
     std::unique_ptr<VLK_Form_Config_Light> quick_;
     vlk::Configuration configuration_{vlk::allSettings()};
-    vlk::Configuration quickSettings_{{&vlk::kQuickSettings}};
+    vlk::Values quickSettings_{vlk::kQuickSettings};
 };
 
 QTEST_MAIN(PagesTest)

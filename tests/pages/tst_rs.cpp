@@ -135,7 +135,7 @@ private Q_SLOTS:
 
     void counterFamilies()
     {
-        vlk::PageSettings settings(vlk::kRsSettingsOfAllTypes, nullptr);
+        vlk::PageSettings settings(vlk::kRsSettings, nullptr);
         VLK_Form_Config_RS_Param_Pcnt form;
         form.setObjectName("PCNT");
         form.setSettings(&settings);
@@ -146,7 +146,7 @@ private Q_SLOTS:
         form.retranslate();
         QCOMPARE(added.count(), 0);
         QCOMPARE(deleted.count(), 16);
-        settings.edit("PCNT/type", "ACOND");
+        form.slot_currentIndexChanged_Type("ACOND");
         QCOMPARE(added.count(), 16);
         QCOMPARE(added[0].mid(0, 1) + added[0].mid(2), QVariantList({"CO", QString(), 4}));
         QCOMPARE(added[7].last().toInt(), 1);
@@ -160,7 +160,7 @@ private Q_SLOTS:
         settings.edit("PCNT/door", "300");
         QCOMPARE(form.findChild<QComboBox*>("comboBox_ACode_Door_1")->currentText(), QString("3"));
         QVERIFY(!form.findChild<QComboBox*>("comboBox_ACode_Door_6")->isEnabled());
-        settings.edit("PCNT/type", "PP01");
+        form.slot_currentIndexChanged_Type("PP01");
         QCOMPARE(deleted.count(), 32);
     }
 

@@ -9,7 +9,7 @@
 
 #include <QtTest>
 
-using Values = QVector<QPair<QString, QString>>;
+using Texts = QVector<QPair<QString, QString>>;
 
 class ConfigurationTest : public QObject
 {
@@ -40,8 +40,8 @@ private Q_SLOTS:
         QFETCH(int, table);
         QFETCH(int, index);
         // With the settings of its own table alone: others play no part.
-        if (table_.layout(0).table != tables()[table])
-            table_ = vlk::Configuration({tables()[table]});
+        if (&table_.table() != tables()[table])
+            table_ = vlk::Values(*tables()[table]);
         const vlk::TableLayout::Row& row = table_.row(index);
         QStringList samples = samplesOf(table_.setting(table_.holder(index)));
         // What no list offers a way to is the same whatever a file holds.
@@ -49,7 +49,7 @@ private Q_SLOTS:
         if (row.setting->stored && !table_.isWritten(index))
             samples = samples.mid(0, 2);
         for (const QString& sample : samples) {
-            const QByteArray file = documentWith(presenceOf(table_, index) + Values{{row.filePath, sample}});
+            const QByteArray file = documentWith(presenceOf(table_, index) + Texts{{row.filePath, sample}});
             const QByteArray first = readAndWritten(table_, file);
             const QByteArray second = readAndWritten(table_, first);
             QCOMPARE(second, savedAgain(table_, first));
@@ -59,7 +59,7 @@ private Q_SLOTS:
             vlk::XmlDocument in(file, "DEVICE");
             const std::vector<vlk::ReadNote> notes = notesOf(table_, in);
             const bool noted = std::any_of(notes.begin(), notes.end(), [&](const vlk::ReadNote& note) {
-                return note.index == index && note.change != vlk::Change::missing;
+                return note.row == index && note.change != vlk::Change::missing;
             });
             const bool taken = !row.setting->stored || table_.value(index) == sample;
             if (row.setting->kind != vlk::Kind::constant && table_.isWritten(index))
@@ -85,19 +85,17 @@ private Q_SLOTS:
         QFETCH(QString, saved);
         configuration_.reset();
         for (const QString& step : steps) {
-            const Values values = valuesOf(section, step.section(' ', 1));
+            const Texts values = valuesOf(section, step.section(' ', 1));
             vlk::XmlDocument in(documentWith(values), "DEVICE");
             if (step.startsWith("read"))
                 configuration_.read(*in.root());
-            for (const auto& [path, text] : step.startsWith("edit") ? values : Values())
-                configuration_.edit(configuration_.indexOf(path), text);
+            for (const auto& [path, text] : step.startsWith("edit") ? values : Texts())
+                configuration_.edit(path, text);
         }
         QStringList written;
         for (const auto& [path, text] : valuesOf(section, saved)) {
-            const int index = configuration_.indexOf(path);
-            written << path.section('/', 1) + '=' +
-                           (index >= 0 && configuration_.isWritten(index) ? configuration_.written(index)
-                                                                          : "none");
+            const QString held = configuration_.written(path);
+            written << path.section('/', 1) + '=' + (held.isNull() ? "none" : held);
         }
         QCOMPARE(written.join(' '), saved);
     }
@@ -113,10 +111,10 @@ private Q_SLOTS:
     void numbersOfSensors()
     {
         QFETCH(QString, types);
-        vlk::Configuration sensors({&vlk::kBluetoothSettings});
+        vlk::Values sensors(vlk::kBluetoothSettings);
         for (int code = 0; code < 256; ++code) {
             QStringList numbers;
-            Values values;
+            Texts values;
             for (int i = 0; i < 4; ++i) {
                 numbers << QString::number(1 + code / (1 << (2 * i)) % 4);
                 const QString number = QString::number(i + 1);
@@ -181,22 +179,22 @@ private:
         return all;
     }
     // "RULES/grpTimer=45 SRV1/port=5000" of a section.
-    static Values valuesOf(const QString& section, const QString& texts)
+    static Texts valuesOf(const QString& section, const QString& texts)
     {
-        Values values;
+        Texts values;
         for (const QString& text : texts.split(' '))
             values.append({section + '/' + text.section('=', 0, 0), text.section('=', 1)});
         return values;
     }
-    static std::vector<vlk::ReadNote> notesOf(vlk::Configuration& configuration, vlk::XmlDocument& document)
+    static std::vector<vlk::ReadNote> notesOf(auto& settings, vlk::XmlDocument& document)
     {
         std::vector<vlk::ReadNote> notes;
-        configuration.read(*document.root(), &notes);
+        settings.read(*document.root(), &notes);
         return notes;
     }
 
     vlk::Configuration configuration_{vlk::allSettings()};
-    vlk::Configuration table_{{vlk::allSettings().front()}};
+    vlk::Values table_{*vlk::allSettings().front()};
 };
 
 QTEST_GUILESS_MAIN(ConfigurationTest)

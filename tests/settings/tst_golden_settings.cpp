@@ -136,13 +136,12 @@ private Q_SLOTS:
         auto tables = vlk::allSettings();
         if (section.isEmpty())
             tables = {&vlk::kQuickSettings};
-        configuration_ = vlk::Configuration(tables);
         const auto table = std::find_if(tables.begin(), tables.end(),
                                         [&](const auto* known) { return known->section == section; });
         QVERIFY2(table != tables.end(), "no rows of this section");
         compared_ << section;
-        const vlk::TableLayout& layout = vlk::layoutOf(**table);
-        const int first = configuration_.firstOf(**table);
+        values_ = vlk::Values(**table);
+        const vlk::TableLayout& layout = values_.layout();
         QStringList wrong;
         std::vector<bool> known(layout.rows.size());
         for (const QString& file : files) {
@@ -163,7 +162,7 @@ private Q_SLOTS:
                 }
                 found.push_back(row - layout.rows.begin());
                 known[found.back()] = true;
-                compare(key, first + static_cast<int>(found.back()), &wrong);
+                compare(key, static_cast<int>(found.back()), &wrong);
             }
             QVERIFY(!found.empty());
             QVERIFY2(std::is_sorted(found.begin(), found.end()), qPrintable(file + ": another order"));
@@ -181,14 +180,14 @@ private Q_SLOTS:
     // They stand beside the data set where a tracker has the User tab; this one has not.
     void slotsOfTheUser()
     {
-        const vlk::Configuration slots({&vlk::kUserParamSettings});
+        const vlk::Values slots(vlk::kUserParamSettings);
         const GoldenTable table(readFile(VLK_SOURCE "/tests/settings/golden/user_parameters.tsv"));
         QStringList golden;
         for (const GoldenKey& key : table.keys())
             golden << key.path + '=' + plain(key.load);
         QStringList rows;
         for (int i = 0; i < slots.count(); ++i)
-            rows << slots.path(i) + '=' + slots.value(i);
+            rows << slots.row(i).path + '=' + slots.value(i);
         QCOMPARE(rows, golden);
     }
 
@@ -206,28 +205,27 @@ private:
             if (is != golden)
                 *wrong << QString("%1: %2 is %3, golden %4").arg(key.path, what, is, golden);
         };
-        const vlk::Setting& row = configuration_.setting(index);
-        const vlk::Setting& holder = configuration_.setting(configuration_.holder(index));
+        const vlk::Setting& row = values_.setting(index);
+        const vlk::Setting& holder = values_.setting(values_.holder(index));
         check("kind", kindOf(row, holder), key.kind == "index" ? "choice" : key.kind);
         if (!isFree(key.load))
             check("load default", loaded(index), plain(key.load));
-        configuration_.reset();
+        values_.reset();
         const QString reset = key.reset == "=" ? key.load : key.reset;
         // A form that is not on show is reset too.
         const bool hidden =
-            !configuration_.layout(index).groups[configuration_.row(index).group].present.empty() &&
-            reset != "absent";
-        const bool written = hidden || configuration_.isWritten(index);
+            !values_.layout().groups[values_.row(index).group].present.empty() && reset != "absent";
+        const bool written = hidden || values_.isWritten(index);
         if (key.reset == "-")
             check("reset", row.resets == vlk::Setting::Reset::keeps ? "-" : "resets", "-");
         else if (!isFree(reset))
-            check("reset", written ? configuration_.written(index) : "absent", plain(reset));
+            check("reset", written ? values_.written(index) : "absent", plain(reset));
         if (!key.values.isEmpty())
             check("values", valuesOf(holder, index, key), key.values);
         QStringList widgets = widgetsOf(holder);
         // A box that says whether the value counts at all is a setting of its own.
-        if (const int box = configuration_.row(index).free.row; box >= 0)
-            widgets += widgetsOf(*configuration_.layout(index).rows[box].setting);
+        if (const int box = values_.row(index).free.row; box >= 0)
+            widgets += widgetsOf(*values_.layout().rows[box].setting);
         for (const QString& widget : key.widgets) {
             if (!widgets.contains(widget))
                 *wrong << key.path + ": not in " + widget;
@@ -252,8 +250,6 @@ private:
             return "period";
         case vlk::Kind::digits:
             return "digits";
-        case vlk::Kind::bits:
-            return "bits";
         case vlk::Kind::mask:
             return "mask";
         default:
@@ -264,13 +260,12 @@ private:
     // What a save writes after a load of a file that lacks the key, the row's own conditions met.
     QString loaded(int index)
     {
-        configuration_.reset();
-        QVector<QPair<QString, QString>> values = presenceOf(configuration_, index);
+        values_.reset();
+        QVector<QPair<QString, QString>> values = presenceOf(values_, index);
         vlk::XmlDocument in(documentWith(values), "DEVICE");
-        configuration_.read(*in.root());
+        values_.read(*in.root());
         // The tables have the elements of every use below every line, whatever its list offers.
-        return configuration_.isWritten(index) ? configuration_.written(index)
-                                               : vlk::loadDefault(configuration_.setting(index));
+        return values_.isWritten(index) ? values_.written(index) : vlk::loadDefault(values_.setting(index));
     }
 
     QString valuesOf(const vlk::Setting& row, int index, const GoldenKey& key) const
@@ -283,14 +278,13 @@ private:
         case vlk::Kind::real: {
             // Two values that keep a distance share the scale of their handles.
             vlk::Limits ends{row.least, row.most};
-            const vlk::TableLayout& layout = configuration_.layout(index);
-            const int first = configuration_.firstOf(*layout.table);
+            const vlk::TableLayout& layout = values_.layout();
             for (const auto& rule : layout.distances) {
-                if (first + rule.first == index || first + rule.second == index)
+                if (rule.first == index || rule.second == index)
                     ends = {layout.rows[rule.first].setting->least, layout.rows[rule.second].setting->most};
             }
             // The range that holds where the element of the key is.
-            const vlk::TableLayout::Row& place = configuration_.row(index);
+            const vlk::TableLayout::Row& place = values_.row(index);
             for (const auto& rule : layout.ranges) {
                 const auto& present = layout.groups[place.group].present;
                 if (rule.row == place.target && !present.empty() && rule.when.row == present[0].row &&
@@ -351,7 +345,7 @@ private:
         }
     }
 
-    vlk::Configuration configuration_{vlk::allSettings()};
+    vlk::Values values_{*vlk::allSettings().front()};
     QStringList compared_;
 };
 

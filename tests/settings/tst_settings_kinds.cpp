@@ -47,9 +47,8 @@ constexpr auto kRows = rowsOf(
     choice("chosen", kNumbers, "1").byNumber().unknownIs("9").noItemIs("9"),
     choice("satellites", kPatterns, "11000"), period("period", 3600, kParts),
     period("wrapped", 3600, kParts).wrapping(86400), period("least", 3600, kParts).atLeast(300),
-    digits("digits", "101", kBoxes), digits("lists", "201", kLists), bits("bits", 5, kBoxes),
-    mask("mask", kLong, 8), mask("fields", "10010101", 8, kFields),
-    integer("blank", 0).blankable().resetTo(""),
+    digits("digits", "101", kBoxes), digits("lists", "201", kLists), mask("mask", kLong, 8),
+    mask("fields", "10010101", 8, kFields), integer("blank", 0).blankable().resetTo(""),
     text("address", "none").resetTo("").savedAs("none", when("A/server")), flag("server", 0).notStored(),
     flag("safe", 0).savedAs("0", when("A/use", "NB+"), true),
     integer("delay", 60).onlyWhen(when("A/use", "NB+")), integer("shared", 0).range(0, 20).notStored(),
@@ -155,7 +154,7 @@ class SettingsKindsTest : public QObject
 private Q_SLOTS:
     void init()
     {
-        configuration_.reset();
+        values_.reset();
         QCOMPARE(layoutOf(kTable).problems, QStringList());
     }
 
@@ -197,7 +196,6 @@ private Q_SLOTS:
         table.row("least period", "A/least", "60", "300", Change::outOfRange);
         table.row("digits", "A/digits", "9x", "100", Change::otherForm);
         table.row("digits of lists", "A/lists", "231", "201", Change::otherForm);
-        table.row("bits", "A/bits", "7", "5", Change::outOfRange);
         table.row("mask", "A/mask", "01x9", "01010000", Change::otherForm);
         table.row("fields of a mask", "A/fields", "01001101", "11110101", Change::notOffered);
         table.row("fields beyond the text", "A/fields", "0", "10000000", Change::notOffered);
@@ -223,13 +221,13 @@ private Q_SLOTS:
     {
         QFETCH(QString, key);
         QFETCH(QString, text);
-        const int index = configuration_.indexOf("S/" + key);
+        const int index = values_.rowAt(key);
         Change change = Change::none;
         for (const ReadNote& note : read({{"S/" + key, text}})) {
-            if (note.index == index && note.text == text)
+            if (note.row == index && note.text == text)
                 change = note.change;
         }
-        QTEST(configuration_.value(index), "value");
+        QTEST(values_.value(index), "value");
         QTEST(change, "change");
     }
 
@@ -253,93 +251,83 @@ private Q_SLOTS:
     {
         QFETCH(QStringList, edits);
         for (const QString& step : edits)
-            configuration_.edit(configuration_.indexOf("S/SOLE" + step.section('=', 0, 0)),
-                                step.section('=', 1));
+            values_.edit("SOLE" + step.section('=', 0, 0), step.section('=', 1));
         QStringList numbers;
         for (const char* row : {"1", "2", "3"})
-            numbers << configuration_.value(QString("S/SOLE%1/number").arg(row));
+            numbers << values_.value(QString("SOLE%1/number").arg(row));
         QTEST(numbers.join(' '), "numbers");
     }
 
     void moreRules()
     {
-        const auto edit = [&](const char* path, const char* text) {
-            configuration_.edit(configuration_.indexOf(path), text);
-        };
-        edit("S/B/row", "2");
-        QCOMPARE(configuration_.value("S/B/fresh"), QString("1"));
-        edit("S/B/fresh", "5");
-        edit("S/B/row", "3");
-        QCOMPARE(configuration_.value("S/B/fresh"), QString("5"));
+        const auto edit = [&](const char* path, const char* text) { values_.edit(path, text); };
+        edit("B/row", "2");
+        QCOMPARE(values_.value("B/fresh"), QString("1"));
+        edit("B/fresh", "5");
+        edit("B/row", "3");
+        QCOMPARE(values_.value("B/fresh"), QString("5"));
         const TableLayout::Enable& same = layoutOf(kTable).enables[0];
-        QVERIFY(!configuration_.holds(kTable, same));
-        edit("S/A/late", "9600");
-        QVERIFY(configuration_.holds(kTable, same));
+        QVERIFY(!values_.holds(same));
+        edit("A/late", "9600");
+        QVERIFY(values_.holds(same));
     }
 
-    void elementsOfAnOwner()
+    // An element without a key of its own is not there, and one that nothing reads stays as it is.
+    void emptyElements()
     {
-        const auto written = [](auto write) {
-            XmlDocument document(QString(), "DEVICE");
-            write(*document.root());
-            return QString::fromUtf8(document.text());
-        };
-        const QString all = written([&](CXmlSection& root) { configuration_.write(root); });
-        QVERIFY(all.contains("<B ") && !all.contains("EMPTY") && !all.contains("<C "));
-        XmlDocument in(documentWith({{"C/alone", "4"}, {"B/byte", "01"}}), "DEVICE");
-        configuration_.readUnder(*in.root(), kTable, "S/B/kind", "7");
-        QCOMPARE(configuration_.value("S/second C/alone"), QString("4"));
-        QCOMPARE(configuration_.value("S/B/byte"), QString("FF"));
-        QCOMPARE(configuration_.value("S/B/kind"), QString("0"));
-        const QString own =
-            written([&](CXmlSection& root) { configuration_.writeUnder(root, kTable, "S/B/kind", "7"); });
-        QVERIFY(own.contains("<C alone=\"4\"") && !own.contains("<B "));
+        XmlDocument out(QString(), "DEVICE");
+        values_.write(*out.root());
+        QVERIFY(out.text().contains("<B ") && !out.text().contains("EMPTY") && !out.text().contains("<C "));
+        XmlDocument in(QByteArray("<DEVICE><S><B byte=\"01\"/></S></DEVICE>"), "DEVICE");
+        const QByteArray before = in.text();
+        values_.read(*in.root());
+        QCOMPARE(in.text(), before);
     }
 
     void defaults()
     {
-        QCOMPARE(configuration_.value("S/A/blank"), QString());
-        QCOMPARE(written("S/A/blank"), QString("0"));
-        QCOMPARE(configuration_.value("S/A/address"), QString());
-        QCOMPARE(written("S/A/address"), QString("none"));
-        QCOMPARE(configuration_.value("S/R2/n2"), QString("2"));
-        QVERIFY(!isWritten("S/A/delay") && !isWritten("S/A/CHILD/own") && !isWritten("S/A/server"));
+        QCOMPARE(values_.value("A/blank"), QString());
+        QCOMPARE(written("A/blank"), QString("0"));
+        QCOMPARE(values_.value("A/address"), QString());
+        QCOMPARE(written("A/address"), QString("none"));
+        QCOMPARE(values_.value("R2/n2"), QString("2"));
+        QVERIFY(!isWritten("A/delay") && !isWritten("A/CHILD/own") && !isWritten("A/server"));
         read({{"S/A/whole", "4"}});
-        QCOMPARE(configuration_.value("S/A/address"), QString("none"));
-        QCOMPARE(configuration_.value("S/A/model"), QString("key IN"));
-        QCOMPARE(configuration_.value("S/A/one"), QString());
+        QCOMPARE(values_.value("A/address"), QString("none"));
+        QCOMPARE(values_.value("A/model"), QString("key IN"));
+        QCOMPARE(values_.value("A/one"), QString());
     }
 
     void childrenFollowTheirSibling()
     {
         read({{"S/A/use", "AIN"}, {"S/A/CHILD/own", "9"}});
-        QCOMPARE(configuration_.value("S/A/CHILD/own"), QString("9"));
-        QCOMPARE(configuration_.value("S/A/CHILD/shared"), QString("7"));
-        QCOMPARE(configuration_.value("S/A/shared"), QString("7"));
-        QVERIFY(isWritten("S/A/CHILD/shared") && !isWritten("S/A/delay"));
+        QCOMPARE(values_.value("A/CHILD/own"), QString("9"));
+        QCOMPARE(values_.value("A/CHILD/shared"), QString("7"));
+        QCOMPARE(values_.value("A/shared"), QString("7"));
+        QVERIFY(isWritten("A/CHILD/shared") && !isWritten("A/delay"));
         edit("use", "NU");
-        QVERIFY(!isWritten("S/A/CHILD/own"));
-        QCOMPARE(configuration_.value("S/A/CHILD/own"), QString("9"));
+        QVERIFY(!isWritten("A/CHILD/own"));
+        QCOMPARE(values_.value("A/CHILD/own"), QString("9"));
         read({{"S/A/use", "NU"}, {"S/A/CHILD/shared", "5"}});
-        QCOMPARE(configuration_.value("S/A/shared"), QString("0"));
+        QCOMPARE(values_.value("A/shared"), QString("0"));
     }
 
     // A group without stored values is not in the file, and a read leaves it alone.
     void windowGroups()
     {
-        configuration_.edit(configuration_.indexOf("S/W/alone"), "5");
+        values_.edit("W/alone", "5");
         XmlDocument in(documentWith({{"S/W/alone", "7"}}), "DEVICE");
         std::vector<ReadNote> notes;
-        configuration_.read(*in.root(), &notes);
+        values_.read(*in.root(), &notes);
         QVERIFY(std::any_of(notes.begin(), notes.end(), [](const ReadNote& note) {
             return note.what == ReadNote::What::foreignElement && note.path == "S/W";
         }));
-        QCOMPARE(configuration_.value("S/W/alone"), QString("5"));
+        QCOMPARE(values_.value("W/alone"), QString("5"));
         XmlDocument out(QString(), "DEVICE");
-        configuration_.write(*out.root());
+        values_.write(*out.root());
         QVERIFY(!out.text().contains("<W"));
-        configuration_.reset();
-        QCOMPARE(configuration_.value("S/W/alone"), QString("3"));
+        values_.reset();
+        QCOMPARE(values_.value("W/alone"), QString("3"));
     }
 
     void edits_data()
@@ -373,9 +361,8 @@ private Q_SLOTS:
         QStringList changed;
         for (const QString& step : edits) {
             changed.clear();
-            const int index = configuration_.indexOf("S/A/" + step.section('=', 0, 0));
-            for (const int row : configuration_.edit(index, step.section('=', 1)))
-                changed << configuration_.row(row).key + '=' + configuration_.value(row);
+            for (const int row : values_.edit("A/" + step.section('=', 0, 0), step.section('=', 1)))
+                changed << values_.row(row).key + '=' + values_.value(row);
         }
         QTEST(changed.join(' '), "changed");
     }
@@ -384,13 +371,13 @@ private Q_SLOTS:
     {
         // A plain read runs no rule but those that say so, and what is read last wins.
         read({{"S/A/whole", "7"}, {"S/A/flag", "1"}, {"S/A/speed", "1"}, {"S/A/conditions", "111"}});
-        QCOMPARE(configuration_.value("S/A/flag"), QString("1"));
-        QCOMPARE(configuration_.value("S/A/conditions"), QString("100"));
-        QCOMPARE(configuration_.value("S/A/late"), QString("0"));
+        QCOMPARE(values_.value("A/flag"), QString("1"));
+        QCOMPARE(values_.value("A/conditions"), QString("100"));
+        QCOMPARE(values_.value("A/late"), QString("0"));
         read({{"S/A/speed", "1"}, {"S/A/late", "6"}, {"S/A/one", "c"}, {"S/A/address", "host"}});
-        QCOMPARE(configuration_.value("S/A/late"), QString("6"));
-        QCOMPARE(configuration_.value("S/A/preset"), QString("1"));
-        QCOMPARE(configuration_.value("S/A/server"), QString("1"));
+        QCOMPARE(values_.value("A/late"), QString("6"));
+        QCOMPARE(values_.value("A/preset"), QString("1"));
+        QCOMPARE(values_.value("A/server"), QString("1"));
         // Two values of the file that are too near to each other: the one that gives way is told of.
         QStringList given;
         for (const ReadNote& note : read({{"S/A/low", "5700"}, {"S/A/high", "5900"}})) {
@@ -421,7 +408,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, file);
         QFETCH(QString, over);
-        Configuration wide({&kWide});
+        vlk::Values wide(kWide);
         QCOMPARE(layoutOf(kWide).problems, QStringList());
         XmlDocument in(("<DEVICE>" + file + "</DEVICE>").toLatin1(), "DEVICE");
         XmlDocument out(("<DEVICE>" + over + "</DEVICE>").toLatin1(), "DEVICE");
@@ -434,11 +421,11 @@ private Q_SLOTS:
 
     void anotherOrderOfReading()
     {
-        Configuration late({&kLate});
+        vlk::Values late(kLate);
         XmlDocument in(documentWith({{"LATE/L/low", "40"}, {"LATE/L/high", "42"}, {"LATE/L/gap", "1"}}),
                        "DEVICE");
         late.read(*in.root());
-        QCOMPARE(late.value("LATE/L/low") + ' ' + late.value("LATE/L/high"), QString("40 42"));
+        QCOMPARE(late.value("L/low") + ' ' + late.value("L/high"), QString("40 42"));
     }
 
     void texts_data()
@@ -452,7 +439,6 @@ private Q_SLOTS:
             .row("unknown code", "use", "N/A", "N/A")
             .row("period", "period", "3720", "1 h 2 min")
             .row("digits", "digits", "101", "first, third")
-            .row("bits", "bits", "4", "third")
             .row("mask", "fields", "11110101", "first, both, any 7, list: pair")
             .row("text", "text", "abc", "abc");
     }
@@ -460,38 +446,34 @@ private Q_SLOTS:
     {
         QFETCH(QString, key);
         QFETCH(QString, value);
-        QTEST(valueText(configuration_, configuration_.indexOf("S/A/" + key), value), "text");
+        QTEST(valueText(values_, values_.rowAt("A/" + key), value), "text");
     }
 
     void comparing()
     {
-        Configuration other = configuration_;
-        QVERIFY(other.differences(configuration_).empty());
-        other.edit(other.indexOf("S/A/use"), "NB+");
+        vlk::Values other = values_;
+        QVERIFY(other.differences(values_).empty());
+        other.edit("A/use", "NB+");
         QStringList told;
-        for (const Difference& difference : configuration_.differences(other))
-            told << configuration_.row(difference.index).key + ':' + difference.before + '>' +
-                        difference.after;
+        for (const Difference& difference : values_.differences(other))
+            told << values_.row(difference.row).key + ':' + difference.before + '>' + difference.after;
         QCOMPARE(told, QStringList({"use:NU>NB+", "delay:>60", "shared:>0", "own:>3"}));
     }
 
 private:
     std::vector<ReadNote> read(const QVector<QPair<QString, QString>>& values)
     {
-        configuration_.reset();
+        values_.reset();
         XmlDocument in(documentWith(values), "DEVICE");
         std::vector<ReadNote> notes;
-        configuration_.read(*in.root(), &notes);
+        values_.read(*in.root(), &notes);
         return notes;
     }
-    void edit(const char* key, const char* text)
-    {
-        configuration_.edit(configuration_.indexOf(QString("S/A/") + key), text);
-    }
-    QString written(const char* path) const { return configuration_.written(configuration_.indexOf(path)); }
-    bool isWritten(const char* path) const { return configuration_.isWritten(configuration_.indexOf(path)); }
+    void edit(const char* key, const char* text) { values_.edit(QString("A/") + key, text); }
+    QString written(const char* path) const { return values_.written(values_.rowAt(path)); }
+    bool isWritten(const char* path) const { return values_.isWritten(values_.rowAt(path)); }
 
-    Configuration configuration_{{&kTable}};
+    vlk::Values values_{kTable};
 };
 
 QTEST_GUILESS_MAIN(SettingsKindsTest)

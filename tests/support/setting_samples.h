@@ -63,10 +63,10 @@ inline QByteArray documentWith(const QVector<QPair<QString, QString>>& values)
 }
 
 // What has to stand in a file so that a row of it is read: the values that the row and its element ask for.
-inline QVector<QPair<QString, QString>> presenceOf(const vlk::Configuration& configuration, int index)
+inline QVector<QPair<QString, QString>> presenceOf(const vlk::Values& table, int index)
 {
-    const vlk::TableLayout& layout = configuration.layout(index);
-    const vlk::TableLayout::Row& row = configuration.row(index);
+    const vlk::TableLayout& layout = table.layout();
+    const vlk::TableLayout::Row& row = table.row(index);
     QVector<QPair<QString, QString>> values;
     for (const auto& conditions : {layout.groups[row.group].readable, row.present}) {
         for (const auto& condition : conditions) {
@@ -77,26 +77,31 @@ inline QVector<QPair<QString, QString>> presenceOf(const vlk::Configuration& con
     return values;
 }
 
-// What a configuration makes of a file that it loads after a reset.
-inline QByteArray readAndWritten(vlk::Configuration& configuration, const QByteArray& text)
+// What settings make of a file that they load after a reset.
+template <class Settings>
+QByteArray readAndWritten(Settings& settings, const QByteArray& text)
 {
-    configuration.reset();
+    settings.reset();
     vlk::XmlDocument in(text, "DEVICE");
-    configuration.read(*in.root());
+    settings.read(*in.root());
     vlk::XmlDocument out(QString(), "DEVICE");
-    configuration.write(*out.root());
+    settings.write(*out.root());
     return out.text();
 }
 
 // What becomes of a saved file that is loaded and saved once more: nothing. Only a line whose use is not
 // offered is saved as "N/A", and that reads as a line that is not used; and the quick window leaves out fuel
 // level sensors that are not used, while one that is not in the file reads as used.
-inline QByteArray savedAgain(vlk::Configuration& configuration, const QByteArray& saved)
+inline QByteArray savedAgain(vlk::Configuration& settings, const QByteArray& saved)
+{
+    return saved.contains("=\"N/A\"") ? readAndWritten(settings, saved) : saved;
+}
+inline QByteArray savedAgain(vlk::Values& settings, const QByteArray& saved)
 {
     bool readsOtherwise = saved.contains("=\"N/A\"");
-    if (configuration.layout(0).section.isEmpty()) {
+    if (settings.layout().section.isEmpty()) {
         for (const char* sensor : {"<FS1 ", "<FS2 ", "<SENS3 ", "<SENS4 "})
             readsOtherwise = readsOtherwise || !saved.contains(sensor);
     }
-    return readsOtherwise ? readAndWritten(configuration, saved) : saved;
+    return readsOtherwise ? readAndWritten(settings, saved) : saved;
 }

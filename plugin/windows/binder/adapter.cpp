@@ -9,27 +9,21 @@
 
 namespace vlk {
 
-Adapter::Adapter(Edits& edits, int index) : edits_(edits), index_(index) {}
-
-void Adapter::own(const QWidget* widget)
-{
-    if (widget)
-        widgets_ << widget->objectName();
-}
+Adapter::Adapter(Edits& edits, int row) : edits_(edits), row_(row) {}
 
 const Setting& Adapter::setting() const
 {
-    return configuration().setting(index_);
+    return values().setting(row_);
 }
 
-const Configuration& Adapter::configuration() const
+const Values& Adapter::values() const
 {
-    return edits_.configuration();
+    return edits_.values();
 }
 
 void Adapter::edited(const QString& value)
 {
-    edits_.edited(index_, value);
+    edits_.edited(row_, value);
 }
 
 void Adapter::caption(QWidget* widget, const QString& suffix)

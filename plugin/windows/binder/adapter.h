@@ -17,14 +17,12 @@ class Adapter : public QObject
     Q_OBJECT
 
 public:
-    Adapter(Edits& edits, int index);
+    Adapter(Edits& edits, int row);
 
-    int index() const { return index_; }
+    int row() const { return row_; }
     // Texts, ranges and items from the row, in the present language.
     virtual void dress() = 0;
     virtual void show(const QString& value) = 0;
-    // Whether the widget of this name is one of its own.
-    bool owns(const QString& widget) const { return widgets_.contains(widget); }
     // Other values come, which are not those that the user left: what was remembered of them goes.
     virtual void forget() {}
     // Takes what is being typed into the widgets.
@@ -34,16 +32,12 @@ public:
     virtual QStringList takeNews() { return {}; }
     // Marks the value as doubtful; an empty text takes the mark away.
     virtual void doubt(const QString& /*complaint*/) {}
-    // Takes what the widgets hold as an edit.
-    virtual void take() = 0;
     // The value as the widgets hold it, for checks that they can hold what the configuration does.
     virtual QString held() const = 0;
 
 protected:
-    // What the adapter shows, for owns().
-    void own(const QWidget* widget);
     const Setting& setting() const;
-    const Configuration& configuration() const;
+    const Values& values() const;
     // Hands a value to the binder, which ignores it while it shows values itself.
     void edited(const QString& value);
     // The caption goes to the label of the widget, to the widget itself if it has a text, and else to screen
@@ -55,8 +49,7 @@ protected:
     Edits& edits_;
 
 private:
-    const int index_;
-    QStringList widgets_;
+    const int row_;
 };
 
 } // namespace vlk

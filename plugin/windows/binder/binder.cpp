@@ -46,11 +46,7 @@ private:
 
 } // namespace
 
-Binder::Binder(Configuration& configuration, const SettingsTable& table)
-    : configuration_(configuration), table_(table), layout_(layoutOf(table)),
-      first_(configuration.firstOf(table)), adapters_(layout_.rows.size())
-{
-}
+Binder::Binder(Values& values) : values_(values), layout_(values.layout()), adapters_(layout_.rows.size()) {}
 
 Binder::~Binder() = default;
 
@@ -65,10 +61,10 @@ bool Binder::isLate(const Setting& setting) const
     return isLate(setting.widget) || anyOf(setting.codes) || anyOf(setting.positions) || anyOf(setting.parts);
 }
 
-std::unique_ptr<Adapter> Binder::makeAdapter(int index)
+std::unique_ptr<Adapter> Binder::makeAdapter(int row)
 {
-    const Setting& setting = configuration_.setting(index);
-    const QString path = configuration_.path(index);
+    const Setting& setting = values_.setting(row);
+    const QString& path = layout_.rows[row].path;
     const auto found = [&](const char* name) {
         const QString object = numberedName(name, setting.number, setting.inner);
         QWidget* widget = forms_.find(object, setting.number);
@@ -86,34 +82,34 @@ std::unique_ptr<Adapter> Binder::makeAdapter(int index)
         setting.kind == Kind::choice && std::any_of(setting.codes.begin(), setting.codes.end(),
                                                     [](const Code& code) { return code.widget != nullptr; });
     if (overBoxes)
-        return std::make_unique<ExclusiveAdapter>(*this, index, boxesOf(setting.codes));
-    if (setting.kind == Kind::digits || setting.kind == Kind::bits) {
+        return std::make_unique<ExclusiveAdapter>(*this, row, boxesOf(setting.codes));
+    if (setting.kind == Kind::digits) {
         std::vector<QWidget*> checks;
         for (const Position& position : setting.positions)
             checks.push_back(found(position.box));
-        return std::make_unique<PositionsAdapter>(*this, index, boxesOf(setting.positions), checks);
+        return std::make_unique<PositionsAdapter>(*this, row, boxesOf(setting.positions), checks);
     }
     if (setting.kind == Kind::period) {
         const std::vector<QWidget*> boxes = boxesOf(setting.parts);
         if (std::find(boxes.begin(), boxes.end(), nullptr) != boxes.end())
             return nullptr;
-        return std::make_unique<PeriodAdapter>(*this, index, boxes);
+        return std::make_unique<PeriodAdapter>(*this, row, boxes);
     }
     QWidget* widget = found(setting.widget);
     if (!widget)
         return nullptr;
     if (auto* tree = qobject_cast<QTreeWidget*>(widget))
-        return std::make_unique<CellAdapter>(*this, index, tree);
+        return std::make_unique<CellAdapter>(*this, row, tree);
     if (auto* shown = dynamic_cast<MaskWidget*>(widget); shown && setting.kind == Kind::mask)
-        return std::make_unique<MaskAdapter>(*this, index, widget, shown);
+        return std::make_unique<MaskAdapter>(*this, row, widget, shown);
     if (setting.kind == Kind::flag)
-        return std::make_unique<FlagAdapter>(*this, index, widget);
+        return std::make_unique<FlagAdapter>(*this, row, widget);
     if (auto* box = qobject_cast<QComboBox*>(widget); box && setting.kind == Kind::choice)
-        return std::make_unique<ChoiceAdapter>(*this, index, box);
+        return std::make_unique<ChoiceAdapter>(*this, row, box);
     if (auto* edit = qobject_cast<QLineEdit*>(widget); edit && setting.kind == Kind::text)
-        return std::make_unique<TextAdapter>(*this, index, edit);
+        return std::make_unique<TextAdapter>(*this, row, edit);
     if (setting.kind == Kind::integer || setting.kind == Kind::real || setting.kind == Kind::scaled)
-        return std::make_unique<NumberAdapter>(*this, index, widget, found(setting.companion));
+        return std::make_unique<NumberAdapter>(*this, row, widget, found(setting.companion));
     problems_ << QStringLiteral("%1: %2 is no widget for it").arg(path, widget->objectName());
     return nullptr;
 }
@@ -125,15 +121,14 @@ void Binder::bind()
     for (std::size_t row = 0; row < adapters_.size(); ++row) {
         const Setting& setting = *layout_.rows[row].setting;
         if (!adapters_[row] && setting.kind != Kind::link && !isLate(setting))
-            adapters_[row] = makeAdapter(first_ + static_cast<int>(row));
+            adapters_[row] = makeAdapter(static_cast<int>(row));
     }
     handles_.clear();
     for (const TableLayout::Distance& rule : layout_.distances) {
         const Setting& setting = *layout_.rows[rule.first].setting;
         auto* slider = qobject_cast<VLK_DblSlider2*>(forms_.find(rule.slider, setting.number));
         if (slider)
-            handles_.push_back(std::make_unique<HandlesAdapter>(*this, rule, first_ + rule.first,
-                                                                first_ + rule.second, slider));
+            handles_.push_back(std::make_unique<HandlesAdapter>(*this, rule, slider));
         else if (!rule.slider.isEmpty())
             problems_ << QStringLiteral("no slider %1").arg(rule.slider);
     }
@@ -194,7 +189,7 @@ void Binder::dress()
 
 Binder::Range Binder::rangeOf(int row) const
 {
-    return {configuration_.limits(first_ + row), configuration_.unitKey(first_ + row)};
+    return {values_.limits(row), values_.unitKey(row)};
 }
 
 // Where another range holds than the widget was dressed with.
@@ -238,23 +233,21 @@ void Binder::dressList(const TableLayout::SoleList& list)
 void Binder::showRow(int row)
 {
     if (adapters_[row])
-        adapters_[row]->show(configuration_.value(first_ + row));
+        adapters_[row]->show(values_.value(row));
 }
 
 void Binder::evaluateRules()
 {
     for (const TableLayout::Doubt& rule : layout_.doubts) {
         if (adapters_[rule.row])
-            adapters_[rule.row]->doubt(configuration_.holds(table_, rule)
-                                           ? QCoreApplication::translate("vlk", rule.rule->complaint)
-                                           : QString());
+            adapters_[rule.row]->doubt(
+                values_.holds(rule) ? QCoreApplication::translate("vlk", rule.rule->complaint) : QString());
     }
     for (const Target& target : targets_) {
         if (!target.widget)
             continue;
-        const bool allowed = std::all_of(target.rules.begin(), target.rules.end(), [&](const auto* rule) {
-            return configuration_.holds(table_, *rule);
-        });
+        const bool allowed = std::all_of(target.rules.begin(), target.rules.end(),
+                                         [&](const auto* rule) { return values_.holds(*rule); });
         if (target.shows) {
             target.widget->setVisible(allowed);
             continue;
@@ -265,29 +258,28 @@ void Binder::evaluateRules()
     }
 }
 
-void Binder::edited(int index, const QString& value)
+void Binder::edited(int row, const QString& value)
 {
     if (isShowing())
         return;
-    const std::vector<int> changed = configuration_.edit(index, value);
+    const std::vector<int> changed = values_.edit(row, value);
     {
         const Showing showing(showing_);
         // Ranges may follow another value.
         for (const TableLayout::RangeWhen& rule : layout_.ranges) {
-            if (std::find(changed.begin(), changed.end(), first_ + rule.when.row) != changed.end())
+            if (std::find(changed.begin(), changed.end(), rule.when.row) != changed.end())
                 dressRanged(rule.row);
         }
         for (const TableLayout::SoleList& list : layout_.soleLists) {
-            if (std::any_of(changed.begin(), changed.end(),
-                            [&](int other) { return list.triggers[other - first_]; }))
+            if (std::any_of(changed.begin(), changed.end(), [&](int other) { return list.triggers[other]; }))
                 dressList(list);
         }
         for (const int other : changed) {
-            if (other != index)
-                showRow(other - first_);
+            if (other != row)
+                showRow(other);
         }
-        if (configuration_.value(index) != value)
-            showRow(index - first_);
+        if (values_.value(row) != value)
+            showRow(row);
         for (const auto& handles : handles_)
             handles->show();
     }
@@ -295,22 +287,14 @@ void Binder::edited(int index, const QString& value)
         return;
     evaluateRules();
     for (const int other : changed)
-        Q_EMIT this->changed(configuration_.path(other).mid(layout_.prefix().size()));
+        Q_EMIT this->changed(layout_.rows[other].path.mid(layout_.prefix().size()));
 }
 
-void Binder::set(int index, const QString& value)
+void Binder::set(int row, const QString& value)
 {
-    edited(index, value);
+    edited(row, value);
     const Showing showing(showing_);
-    showRow(index - first_);
-}
-
-void Binder::take(const QString& widget)
-{
-    for (const auto& adapter : adapters_) {
-        if (adapter && adapter->owns(widget))
-            adapter->take();
-    }
+    showRow(row);
 }
 
 void Binder::finishTyping()
@@ -333,7 +317,7 @@ void Binder::logNews()
         for (const QString& news : allNews) {
             if (!news.isEmpty())
                 qCWarning(lcTyping).noquote()
-                    << captionText(configuration_.setting(adapter->index())) + QStringLiteral(": ") + news;
+                    << captionText(values_.setting(adapter->row())) + QStringLiteral(": ") + news;
         }
     }
 }
@@ -350,7 +334,7 @@ void Binder::selectFirstItems()
 {
     for (const auto& adapter : adapters_) {
         if (const auto* choice = dynamic_cast<ChoiceAdapter*>(adapter.get()))
-            set(choice->index(), choice->firstItem());
+            set(choice->row(), choice->firstItem());
     }
 }
 
@@ -379,10 +363,10 @@ QStringList Binder::disagreements() const
 {
     QStringList all;
     for (std::size_t row = 0; row < adapters_.size(); ++row) {
-        const int index = first_ + static_cast<int>(row);
-        if (adapters_[row] && adapters_[row]->held() != configuration_.value(index))
+        const QString& value = values_.value(static_cast<int>(row));
+        if (adapters_[row] && adapters_[row]->held() != value)
             all << QStringLiteral("%1 is %2, shown %3")
-                       .arg(configuration_.path(index), configuration_.value(index), adapters_[row]->held());
+                       .arg(layout_.rows[row].path, value, adapters_[row]->held());
     }
     return all;
 }

@@ -1,8 +1,8 @@
 #pragma once
 
 // Joins the settings of a table to the widgets of a window by their object names. It dresses the widgets from
-// the rows (texts, range, step, suffix, validator, items, accessible name), shows the values of a
-// configuration, takes edits, and enables what the table's rules allow.
+// the rows (texts, range, step, suffix, validator, items, accessible name), shows the values, takes edits,
+// and enables what the table's rules allow.
 //
 // A caption goes to the label whose buddy the widget is, else to the one named label_<widget>; buttons and
 // group boxes without such a label carry it themselves. What stands behind the mark "<val>" of a caption goes
@@ -32,7 +32,7 @@ class Binder : public QObject, public Edits
     Q_OBJECT
 
 public:
-    Binder(Configuration& configuration, const SettingsTable& table);
+    explicit Binder(Values& values);
     ~Binder() override;
 
     // With a number: the form holds the widgets of the rows that have the number.
@@ -47,8 +47,6 @@ public:
     void dress();
     void show();
     void evaluateRules();
-    // Takes the state of the widget of this name as an edit.
-    void take(const QString& widget);
     // Takes what is being typed.
     void finishTyping();
     // Logs what could not be taken as it was typed since the last time, and values that are doubtful.
@@ -63,15 +61,14 @@ public:
     QStringList problems() const;
     // Rows that wait for their form.
     QStringList waiting() const;
-    // Rows whose widgets hold another value than the configuration.
+    // Rows whose widgets hold another value than the settings.
     QStringList disagreements() const;
 
-    const Configuration& configuration() const override { return configuration_; }
-    const SettingsTable& table() const override { return table_; }
+    const Values& values() const override { return values_; }
     const BoundForms& forms() const override { return forms_; }
     bool isShowing() const override { return showing_ > 0; }
-    void edited(int index, const QString& value) override;
-    void set(int index, const QString& value) override;
+    void edited(int row, const QString& value) override;
+    void set(int row, const QString& value) override;
 
 Q_SIGNALS:
     // A value changed by an edit of the user or by a rule that it ran. The path is that below the section.
@@ -98,17 +95,15 @@ private:
         bool operator==(const Range&) const = default;
     };
 
-    std::unique_ptr<Adapter> makeAdapter(int index);
+    std::unique_ptr<Adapter> makeAdapter(int row);
     Range rangeOf(int row) const;
     void dressRanged(int row);
     void showRow(int row);
     // Settings that share a list: what one holds is not in the lists of the others.
     void dressList(const TableLayout::SoleList& list);
 
-    Configuration& configuration_;
-    const SettingsTable& table_;
+    Values& values_;
     const TableLayout& layout_;
-    const int first_;
     BoundForms forms_;
     std::vector<std::unique_ptr<Adapter>> adapters_; // one a row, null where a row has no widget
     std::vector<std::unique_ptr<HandlesAdapter>> handles_;

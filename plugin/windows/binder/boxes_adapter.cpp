@@ -10,18 +10,17 @@
 
 namespace vlk {
 
-ExclusiveAdapter::ExclusiveAdapter(Edits& edits, int index, std::vector<QWidget*> boxes)
-    : Adapter(edits, index), boxes_(std::move(boxes))
+ExclusiveAdapter::ExclusiveAdapter(Edits& edits, int row, std::vector<QWidget*> boxes)
+    : Adapter(edits, row), boxes_(std::move(boxes))
 {
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         if (!boxes_[i])
             continue;
-        own(boxes_[i]);
         onToggled(boxes_[i], this, [this, i](bool on) {
             if (on) {
                 edited(QString::fromLatin1(setting().codes[i].code));
                 // Check boxes do not uncheck each other.
-                show(configuration().value(this->index()));
+                show(values().value(this->row()));
             } else if (!qobject_cast<QRadioButton*>(boxes_[i])) {
                 take();
             }
@@ -71,12 +70,11 @@ QString ExclusiveAdapter::held() const
     return none;
 }
 
-PositionsAdapter::PositionsAdapter(Edits& edits, int index, std::vector<QWidget*> boxes,
+PositionsAdapter::PositionsAdapter(Edits& edits, int row, std::vector<QWidget*> boxes,
                                    std::vector<QWidget*> checks)
-    : Adapter(edits, index), boxes_(std::move(boxes)), checks_(std::move(checks))
+    : Adapter(edits, row), boxes_(std::move(boxes)), checks_(std::move(checks))
 {
     for (std::size_t i = 0; i < checks_.size(); ++i) {
-        own(checks_[i]);
         if (checks_[i]) {
             onToggled(checks_[i], this, [this, i](bool on) {
                 if (boxes_[i])
@@ -86,7 +84,6 @@ PositionsAdapter::PositionsAdapter(Edits& edits, int index, std::vector<QWidget*
         }
     }
     for (QWidget* box : boxes_) {
-        own(box);
         if (auto* list = qobject_cast<QComboBox*>(box))
             connect(list, qOverload<int>(&QComboBox::currentIndexChanged), this, [this] { take(); });
         else if (box)
@@ -96,7 +93,7 @@ PositionsAdapter::PositionsAdapter(Edits& edits, int index, std::vector<QWidget*
 
 void PositionsAdapter::dress()
 {
-    const Limits limits = configuration().limits(index());
+    const Limits limits = values().limits(row());
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         if (!boxes_[i])
             continue;
@@ -109,15 +106,13 @@ void PositionsAdapter::dress()
         const QSignalBlocker blocker(list);
         fillCodes(list, setting(), limits);
     }
-    show(configuration().value(index()));
+    show(values().value(row()));
 }
 
 void PositionsAdapter::show(const QString& value)
 {
-    const bool isBits = setting().kind == Kind::bits;
-    const unsigned bits = isBits ? value.toUInt() : 0;
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
-        const int digit = isBits ? static_cast<int>((bits >> i) & 1U) : digitAt(value, i);
+        const int digit = digitAt(value, i);
         if (checks_[i] && boxes_[i]) {
             setChecked(checks_[i], digit != 0);
             boxes_[i]->setEnabled(digit != 0);
@@ -144,12 +139,9 @@ int PositionsAdapter::digit(std::size_t position) const
 QString PositionsAdapter::held() const
 {
     QString digits;
-    unsigned bits = 0;
-    for (std::size_t i = 0; i < boxes_.size(); ++i) {
+    for (std::size_t i = 0; i < boxes_.size(); ++i)
         digits += QString::number(digit(i));
-        bits |= static_cast<unsigned>(digit(i)) << i;
-    }
-    return setting().kind == Kind::bits ? QString::number(bits) : digits;
+    return digits;
 }
 
 } // namespace vlk

@@ -12,14 +12,15 @@ namespace vlk {
 class ExclusiveAdapter : public Adapter
 {
 public:
-    ExclusiveAdapter(Edits& edits, int index, std::vector<QWidget*> boxes);
+    ExclusiveAdapter(Edits& edits, int row, std::vector<QWidget*> boxes);
 
     void dress() override;
     void show(const QString& value) override;
-    void take() override;
     QString held() const override;
 
 private:
+    void take();
+
     std::vector<QWidget*> boxes_; // one a code, null for a code without one
 };
 
@@ -27,14 +28,14 @@ class PositionsAdapter : public Adapter
 {
 public:
     // `checks`: check boxes beside lists, null for a position without one.
-    PositionsAdapter(Edits& edits, int index, std::vector<QWidget*> boxes, std::vector<QWidget*> checks);
+    PositionsAdapter(Edits& edits, int row, std::vector<QWidget*> boxes, std::vector<QWidget*> checks);
 
     void dress() override;
     void show(const QString& value) override;
-    void take() override { edited(held()); }
     QString held() const override;
 
 private:
+    void take() { edited(held()); }
     int digit(std::size_t position) const;
 
     std::vector<QWidget*> boxes_; // one a position, null for a position without one

@@ -4,8 +4,8 @@
 
 namespace vlk {
 
-CellAdapter::CellAdapter(Edits& edits, int index, QTreeWidget* tree)
-    : Adapter(edits, index), tree_(tree), row_(setting().number - 1)
+CellAdapter::CellAdapter(Edits& edits, int row, QTreeWidget* tree)
+    : Adapter(edits, row), tree_(tree), row_(setting().number - 1)
 {
     connect(tree, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* item, int column) {
         if (column == setting().column && item == tree_->topLevelItem(row_))

@@ -11,14 +11,15 @@ namespace vlk {
 class CellAdapter : public Adapter
 {
 public:
-    CellAdapter(Edits& edits, int index, QTreeWidget* tree);
+    CellAdapter(Edits& edits, int row, QTreeWidget* tree);
 
     void dress() override {}
     void show(const QString& value) override;
-    void take() override { edited(held()); }
     QString held() const override;
 
 private:
+    void take() { edited(held()); }
+
     QTreeWidget* tree_;
     int row_;
 };

@@ -6,9 +6,8 @@
 
 namespace vlk {
 
-ChoiceAdapter::ChoiceAdapter(Edits& edits, int index, QComboBox* box) : Adapter(edits, index), box_(box)
+ChoiceAdapter::ChoiceAdapter(Edits& edits, int row, QComboBox* box) : Adapter(edits, row), box_(box)
 {
-    own(box);
     connect(box, qOverload<int>(&QComboBox::currentIndexChanged), this, [this] { take(); });
 }
 
@@ -16,9 +15,9 @@ void ChoiceAdapter::dress()
 {
     caption(box_);
     const QSignalBlocker blocker(box_);
-    fillCodes(box_, setting(), configuration().limits(index()));
+    fillCodes(box_, setting(), values().limits(row()));
     shown_.reset();
-    show(configuration().value(index()));
+    show(values().value(row()));
 }
 
 void ChoiceAdapter::show(const QString& value)

@@ -14,16 +14,17 @@ namespace vlk {
 class ChoiceAdapter : public Adapter
 {
 public:
-    ChoiceAdapter(Edits& edits, int index, QComboBox* box);
+    ChoiceAdapter(Edits& edits, int row, QComboBox* box);
 
     void dress() override;
     void show(const QString& value) override;
-    void take() override;
     QString held() const override;
     // Code of the first item of the list.
     QString firstItem() const;
 
 private:
+    void take();
+
     QComboBox* box_;
     // The code that was shown last and its item: the list tells the code of an item slowly.
     std::optional<std::pair<QString, int>> shown_;

@@ -4,9 +4,8 @@
 
 namespace vlk {
 
-FlagAdapter::FlagAdapter(Edits& edits, int index, QWidget* box) : Adapter(edits, index), box_(box)
+FlagAdapter::FlagAdapter(Edits& edits, int row, QWidget* box) : Adapter(edits, row), box_(box)
 {
-    own(box);
     onToggled(box, this, [this](bool) { take(); });
 }
 

@@ -9,14 +9,15 @@ namespace vlk {
 class FlagAdapter : public Adapter
 {
 public:
-    FlagAdapter(Edits& edits, int index, QWidget* box);
+    FlagAdapter(Edits& edits, int row, QWidget* box);
 
     void dress() override;
     void show(const QString& value) override;
-    void take() override { edited(held()); }
     QString held() const override;
 
 private:
+    void take() { edited(held()); }
+
     QWidget* box_;
 };
 

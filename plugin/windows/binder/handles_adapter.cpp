@@ -4,12 +4,11 @@
 
 namespace vlk {
 
-HandlesAdapter::HandlesAdapter(Edits& edits, const TableLayout::Distance& rule, int first, int second,
-                               VLK_DblSlider2* slider)
-    : edits_(edits), rule_(rule), first_(first), second_(second), slider_(slider)
+HandlesAdapter::HandlesAdapter(Edits& edits, const TableLayout::Distance& rule, VLK_DblSlider2* slider)
+    : edits_(edits), rule_(rule), slider_(slider)
 {
-    const Configuration& configuration = edits.configuration();
-    slider->setRange(configuration.setting(first).least, gap(), configuration.setting(second).most);
+    slider->setRange(edits.values().setting(rule.first).least, gap(),
+                     edits.values().setting(rule.second).most);
     connect(slider, &VLK_DblSlider2::value1Changed, this, &HandlesAdapter::take);
     connect(slider, &VLK_DblSlider2::value2Changed, this, &HandlesAdapter::take);
 }
@@ -21,18 +20,18 @@ void HandlesAdapter::take()
     if (taking_ || edits_.isShowing())
         return;
     taking_ = true;
-    const Configuration& configuration = edits_.configuration();
-    const QString first = fileNumber(configuration.setting(first_), slider_->value1());
-    const QString second = fileNumber(configuration.setting(second_), slider_->value2());
-    edits_.set(second_, second);
-    edits_.set(first_, first);
+    const Values& values = edits_.values();
+    const QString first = fileNumber(values.setting(rule_.first), slider_->value1());
+    const QString second = fileNumber(values.setting(rule_.second), slider_->value2());
+    edits_.set(rule_.second, second);
+    edits_.set(rule_.first, first);
     moveHandles();
     taking_ = false;
 }
 
 double HandlesAdapter::gap() const
 {
-    return edits_.configuration().gapOf(edits_.table(), rule_);
+    return edits_.values().gapOf(rule_);
 }
 
 void HandlesAdapter::show()
@@ -43,15 +42,13 @@ void HandlesAdapter::show()
 
 void HandlesAdapter::moveHandles()
 {
-    const Configuration& configuration = edits_.configuration();
-    const auto shown = [&](int index) {
-        return shownNumber(configuration.setting(index), configuration.value(index));
-    };
+    const Values& values = edits_.values();
+    const auto shown = [&](int row) { return shownNumber(values.setting(row), values.value(row)); };
     slider_->setGap(gap());
     // The first step may push the second handle, and that the first.
-    slider_->setValue1(shown(first_));
-    slider_->setValue2(shown(second_));
-    slider_->setValue1(shown(first_));
+    slider_->setValue1(shown(rule_.first));
+    slider_->setValue2(shown(rule_.second));
+    slider_->setValue1(shown(rule_.first));
 }
 
 } // namespace vlk

@@ -13,8 +13,7 @@ class HandlesAdapter : public QObject
     Q_OBJECT
 
 public:
-    HandlesAdapter(Edits& edits, const TableLayout::Distance& rule, int first, int second,
-                   VLK_DblSlider2* slider);
+    HandlesAdapter(Edits& edits, const TableLayout::Distance& rule, VLK_DblSlider2* slider);
 
     void show();
 
@@ -25,8 +24,6 @@ private:
 
     Edits& edits_;
     const TableLayout::Distance& rule_;
-    int first_;
-    int second_;
     VLK_DblSlider2* slider_;
     bool taking_ = false;
 };

@@ -2,10 +2,9 @@
 
 namespace vlk {
 
-MaskAdapter::MaskAdapter(Edits& edits, int index, QWidget* widget, MaskWidget* mask)
-    : Adapter(edits, index), widget_(widget), mask_(mask)
+MaskAdapter::MaskAdapter(Edits& edits, int row, QWidget* widget, MaskWidget* mask)
+    : Adapter(edits, row), widget_(widget), mask_(mask)
 {
-    own(widget);
     mask_->edited = [this] {
         shown_.clear();
         if (!edits_.isShowing())

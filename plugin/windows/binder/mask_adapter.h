@@ -11,16 +11,17 @@ class MaskAdapter : public Adapter
 {
 public:
     // Both are the same widget.
-    MaskAdapter(Edits& edits, int index, QWidget* widget, MaskWidget* mask);
+    MaskAdapter(Edits& edits, int row, QWidget* widget, MaskWidget* mask);
     ~MaskAdapter() override;
     Q_DISABLE_COPY(MaskAdapter)
 
     void dress() override;
     void show(const QString& value) override;
-    void take() override { edited(held()); }
     QString held() const override { return mask_->mask(); }
 
 private:
+    void take() { edited(held()); }
+
     QWidget* widget_;
     MaskWidget* mask_;
     QString shown_; // empty once it was edited

@@ -7,11 +7,9 @@
 
 namespace vlk {
 
-NumberAdapter::NumberAdapter(Edits& edits, int index, QWidget* box, QWidget* companion)
-    : Adapter(edits, index), box_(box, configuration().setting(index))
+NumberAdapter::NumberAdapter(Edits& edits, int row, QWidget* box, QWidget* companion)
+    : Adapter(edits, row), box_(box, setting())
 {
-    own(box);
-    own(companion);
     box_.onChanged(this, [this] { take(); });
     if (qobject_cast<QAbstractSlider*>(companion)) {
         slider_ = NumberBox(companion, setting());
@@ -28,7 +26,7 @@ NumberAdapter::NumberAdapter(Edits& edits, int index, QWidget* box, QWidget* com
 
 void NumberAdapter::dress()
 {
-    const char* unit = configuration().unitKey(index());
+    const char* unit = values().unitKey(row());
     const QString unitText = unit ? QCoreApplication::translate("vlk", unit) : QString();
     caption(check_ ? check_ : box_.widget(), check_ ? QString() : unitText);
     if (check_)
@@ -46,7 +44,7 @@ bool NumberAdapter::isOn() const
 
 void NumberAdapter::setLimits()
 {
-    const Limits limits = configuration().limits(index());
+    const Limits limits = values().limits(row());
     box_.setRange(isOn() ? limits.least : 0, isOn() ? limits.most : 0);
     if (slider_)
         slider_.setRange(limits.least, limits.most);

@@ -12,11 +12,10 @@ class NumberAdapter : public Adapter
 {
 public:
     // `companion`: a check box or a slider, or null.
-    NumberAdapter(Edits& edits, int index, QWidget* box, QWidget* companion);
+    NumberAdapter(Edits& edits, int row, QWidget* box, QWidget* companion);
 
     void dress() override;
     void show(const QString& value) override;
-    void take() override;
     QString held() const override;
     void doubt(const QString& complaint) override;
     void forget() override { remembered_ = 0; }
@@ -24,6 +23,7 @@ public:
     QStringList takeNews() override { return {box_.takeNews(), complaint_}; }
 
 private:
+    void take();
     bool isOn() const;
     void setLimits();
     void switched(bool on);

@@ -7,8 +7,7 @@
 namespace vlk {
 
 PageSettings::PageSettings(const SettingsTable& table, const char* title)
-    : table_(table), titleKey_(title), configuration_({&table}),
-      binder_(std::make_unique<Binder>(configuration_, table))
+    : titleKey_(title), values_(table), binder_(std::make_unique<Binder>(values_))
 {
     connect(binder_.get(), &Binder::changed, this, &PageSettings::changed);
 }
@@ -43,7 +42,7 @@ void PageSettings::showOthers()
 
 void PageSettings::setDefaults()
 {
-    configuration_.reset();
+    values_.reset();
     showOthers();
 }
 
@@ -51,7 +50,7 @@ void PageSettings::load(CXmlSection* root)
 {
     if (!root)
         return;
-    configuration_.read(*root);
+    values_.read(*root);
     showOthers();
 }
 
@@ -60,7 +59,7 @@ void PageSettings::save(CXmlSection* root)
     if (!root)
         return;
     binder_->finishTyping();
-    configuration_.write(*root);
+    values_.write(*root);
 }
 
 void PageSettings::retranslate()
@@ -70,21 +69,11 @@ void PageSettings::retranslate()
     showAll();
 }
 
-int PageSettings::indexOf(const QString& path) const
-{
-    return configuration_.indexOf(layoutOf(table_).prefix() + path);
-}
-
-QString PageSettings::value(const QString& path) const
-{
-    return configuration_.value(indexOf(path));
-}
-
 void PageSettings::edit(const QString& path, const QString& value)
 {
-    const int index = indexOf(path);
-    Q_ASSERT(index >= 0);
-    binder_->set(index, value);
+    const int row = rowAt(path);
+    Q_ASSERT(row >= 0);
+    binder_->set(row, value);
 }
 
 } // namespace vlk

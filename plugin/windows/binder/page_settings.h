@@ -43,20 +43,15 @@ public:
     // For a save that leaves the windows: into a file or for the tracker.
     void logNews() { binder_->logNews(); }
 
-    // Takes the state of a widget as an edit.
-    void take(const char* widget) { binder_->take(QString::fromLatin1(widget)); }
-    // Paths are those below the section. Who asks often keeps the index, for the configuration; -1 for a path
-    // that the table has not.
-    int indexOf(const QString& path) const;
-    QString value(const QString& path) const;
+    // Paths are those below the section. Who asks often keeps the row, for values(); -1 for a path that the
+    // table has not.
+    int rowAt(const QString& path) const { return values_.rowAt(path); }
+    QString value(const QString& path) const { return values_.value(path); }
     int number(const QString& path) const { return value(path).toInt(); }
     void edit(const QString& path, const QString& value);
     void selectFirstItems() { binder_->selectFirstItems(); }
-    void evaluateRules() { binder_->evaluateRules(); }
-    // Shows the values of the configuration once more.
-    void showAll();
 
-    Configuration& configuration() { return configuration_; }
+    const Values& values() const { return values_; }
     Binder& binder() { return *binder_; }
 
 Q_SIGNALS:
@@ -66,12 +61,12 @@ Q_SIGNALS:
     void shown();
 
 private:
+    void showAll();
     // Shows other values than those that the user has edited so far.
     void showOthers();
 
-    const SettingsTable& table_;
     const char* const titleKey_;
-    Configuration configuration_;
+    Values values_;
     std::unique_ptr<Binder> binder_;
     QString title_;
     int tabIndex_ = -1;

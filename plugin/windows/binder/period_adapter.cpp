@@ -6,11 +6,9 @@
 
 namespace vlk {
 
-PeriodAdapter::PeriodAdapter(Edits& edits, int index, const std::vector<QWidget*>& boxes)
-    : Adapter(edits, index)
+PeriodAdapter::PeriodAdapter(Edits& edits, int row, const std::vector<QWidget*>& boxes) : Adapter(edits, row)
 {
     for (std::size_t i = 0; i < boxes.size(); ++i) {
-        own(boxes[i]);
         boxes_.emplace_back(boxes[i], setting());
         boxes_[i].setRange(setting().parts[i].least, setting().parts[i].most);
         boxes_[i].onChanged(this, [this] { take(); });

@@ -13,16 +13,16 @@ namespace vlk {
 class PeriodAdapter : public Adapter
 {
 public:
-    PeriodAdapter(Edits& edits, int index, const std::vector<QWidget*>& boxes);
+    PeriodAdapter(Edits& edits, int row, const std::vector<QWidget*>& boxes);
 
     void dress() override;
     void show(const QString& value) override;
-    void take() override;
     QString held() const override;
     void finishTyping() override;
     QStringList takeNews() override;
 
 private:
+    void take();
     void limitLast();
 
     std::vector<NumberBox> boxes_;

@@ -9,9 +9,8 @@
 
 namespace vlk {
 
-TextAdapter::TextAdapter(Edits& edits, int index, QLineEdit* edit) : Adapter(edits, index), edit_(edit)
+TextAdapter::TextAdapter(Edits& edits, int row, QLineEdit* edit) : Adapter(edits, row), edit_(edit)
 {
-    own(edit);
     if (setting().maxLength > 0)
         edit->setMaxLength(setting().maxLength);
     if (setting().pattern)

@@ -11,15 +11,15 @@ namespace vlk {
 class TextAdapter : public Adapter
 {
 public:
-    TextAdapter(Edits& edits, int index, QLineEdit* edit);
+    TextAdapter(Edits& edits, int row, QLineEdit* edit);
 
     void dress() override;
     void show(const QString& value) override;
-    void take() override { edited(held()); }
     QString held() const override;
     QStringList takeNews() override;
 
 private:
+    void take() { edited(held()); }
     void expect();
 
     QLineEdit* edit_;
