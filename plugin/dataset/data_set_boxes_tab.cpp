@@ -1,7 +1,7 @@
 #include "dataset/data_set_boxes_tab.h"
 
 #include "dataset/form_config_set_zeta3.h"
-#include "settings/normalise.h"
+#include "settings/kinds/mask.h"
 #include "settings/table_layout.h"
 #include "settings/value_text.h"
 
@@ -138,7 +138,7 @@ void DataSetBoxesTab::makeBox(const DataSetBox& row, Group& group)
                 [this, list] { slot_stateChanged(list); });
         widget = list;
     }
-    widget->setObjectName(numberedName(row.field.widget, row.field.number, 0));
+    widget->setObjectName(numberedName(row.field.widget, row.field.number));
     widget->setVisible(row.shown);
     place(row, widget, group);
     boxes_.push_back({&row, widget, stateOf(row.field, widget)});

@@ -16,17 +16,16 @@ namespace vlk {
 BleSensorForm::BleSensorForm(const BluetoothSensorType& type, int sensor, PageSettings& settings,
                              QWidget* parent)
     : QWidget(parent), type_(type), sensor_(sensor), settings_(settings),
-      vendorPath_(numberedName(type.section, sensor, 0) + QStringLiteral("/type")),
-      indexPath_(numberedName(type.section, sensor, 0) +
-                 (type.index.elsewhere ? QStringLiteral(" TS%1").arg(sensor) : QString()) +
+      vendorPath_(numberedName(type.section, sensor) + QStringLiteral("/type")),
+      indexPath_(numberedName(type.index.elsewhere ? type.index.elsewhere : type.section, sensor) +
                  QStringLiteral("/idx"))
 {
-    setObjectName(numberedName(type.section, sensor, 0));
+    setObjectName(numberedName(type.section, sensor));
 }
 
 QString BleSensorForm::value(const char* path) const
 {
-    return settings_.value(numberedName(path, sensor_, 0));
+    return settings_.value(numberedName(path, sensor_));
 }
 
 int BleSensorForm::vendor() const
@@ -134,7 +133,7 @@ void BleSensorForm::save(CXmlSection* bluetooth) const
         return;
     Values saved = element();
     for (int row = 0; row < saved.count(); ++row) {
-        if (saved.setting(row).stored)
+        if (saved.row(row).base->stored)
             saved.edit(row, settings_.value(saved.row(row).path));
     }
     saved.write(*bluetooth);
@@ -167,14 +166,13 @@ void BleSensorForm::makeWidgets()
     grid->setVerticalSpacing(6);
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(3, 1);
-    const QString mine = objectName() + QLatin1Char('/');
     int row = 0;
     int column = 0;
     const auto add = [&](const Setting& setting) {
-        const QString name = numberedName(setting.widget, sensor_, 0).mid(mine.size());
+        const QString name = QString::fromLatin1(setting.shown()->widget.tail);
         auto* label = new QLabel;
         label->setObjectName(QStringLiteral("label_") + name.section(QLatin1Char('_'), 1));
-        if (setting.kind == Kind::choice) {
+        if (setting.is<Choice>()) {
             auto* list = new QComboBox;
             list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
             list->setObjectName(name);
@@ -182,7 +180,7 @@ void BleSensorForm::makeWidgets()
             grid->addWidget(label, row, 0);
             grid->addWidget(list, row, 1, 1, 3);
             ++row;
-        } else if (setting.kind == Kind::flag) {
+        } else if (setting.is<Flag>()) {
             auto* box = new QCheckBox;
             box->setObjectName(name);
             label->setBuddy(box);
@@ -202,11 +200,11 @@ void BleSensorForm::makeWidgets()
         }
     };
     // The vendor comes first, wherever the file has its number.
-    const QString vendorWidget = mine + QString::fromLatin1(type_.vendorWidget);
     for (const bool first : {true, false}) {
         for (const Setting& setting : settings_.values().table().rows) {
-            const QString path = numberedName(setting.widget, sensor_, 0);
-            if (setting.number == sensor_ && path.startsWith(mine) && (path == vendorWidget) == first)
+            const Shown* shown = setting.shown();
+            if (shown && shown->numbers.outer == sensor_ && shown->widget.form() == type_.section &&
+                (std::string_view(shown->widget.tail) == type_.vendorWidget) == first)
                 add(setting);
         }
     }

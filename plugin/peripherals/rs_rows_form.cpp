@@ -16,18 +16,15 @@ namespace {
 
 constexpr char kTypes[] = "comboBox_Type";
 
-QWidget* makeInput(Kind kind)
+QWidget* makeInput(const Setting& setting)
 {
-    switch (kind) {
-    case Kind::flag:
+    if (setting.is<Flag>())
         return new QCheckBox;
-    case Kind::choice:
+    if (setting.is<Choice>())
         return new QComboBox;
-    case Kind::text:
+    if (setting.is<Text>())
         return new QLineEdit;
-    default:
-        return new QSpinBox;
-    }
+    return new QSpinBox;
 }
 
 } // namespace
@@ -44,21 +41,19 @@ RsRowsForm::RsRowsForm(const char* owner, const char* title, QWidget* parent)
     lines_->setVerticalSpacing(6);
     lines_->setColumnStretch(2, 1);
     group_->setObjectName(QStringLiteral("groupBox"));
-    const QString form = QString::fromLatin1(owner) + QLatin1Char('/');
     for (const Setting& setting : kRsSettings.rows) {
-        const QString name = QString::fromLatin1(setting.widget);
-        if (name.startsWith(form))
-            addLine(setting, name.mid(form.size()));
+        if (const Shown* shown = setting.shown(); shown && shown->widget.form() == owner)
+            addLine(setting, QString::fromLatin1(shown->widget.tail));
     }
     types_ = group_->findChild<QComboBox*>(QLatin1String(kTypes));
 }
 
 void RsRowsForm::addLine(const Setting& setting, const QString& name)
 {
-    QWidget* input = makeInput(setting.kind);
+    QWidget* input = makeInput(setting);
     input->setObjectName(name);
     const int line = lines_->rowCount();
-    if (setting.kind == Kind::flag) {
+    if (setting.is<Flag>()) {
         lines_->addWidget(input, line, 0, 1, 3);
         return;
     }

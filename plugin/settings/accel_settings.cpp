@@ -4,7 +4,7 @@ namespace vlk {
 
 namespace {
 
-constexpr Setting percent(const char* key, double loadDefault, double most)
+constexpr auto percent(const char* key, double loadDefault, double most)
 {
     return real(key, loadDefault, 1).range(0, most).stepping(0.1).unit("abbr_008");
 }
@@ -32,6 +32,6 @@ constexpr auto kRows = rowsOf(group("SENSORS"),
 
 } // namespace
 
-constexpr SettingsTable kAccelSettings{.section = "ACCEL", .rows = kRows};
+constexpr SettingsTable kAccelSettings = tableOf<kRows>("ACCEL");
 
 } // namespace vlk

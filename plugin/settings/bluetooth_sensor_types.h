@@ -38,8 +38,9 @@ struct BluetoothIndex
     const char* text = "";
     const char* widget = nullptr;
     const char* caption = "";
-    // Stands in the element TS%1 that a temperature sensor would have; `withType`: beside its type 0.
-    bool elsewhere = false;
+    // Stands in the element TS%1 that a temperature sensor would have, which has this name in paths;
+    // `withType`: beside its type 0.
+    const char* elsewhere = nullptr;
     bool withType = false;
 };
 
@@ -129,10 +130,10 @@ inline constexpr BluetoothVendor anyMaker[] = {{.name = "", .supplies = supplied
 
 inline constexpr Setting fuelThreshold[] = {
     integer("thld", 50).range(0, 4095).in("FS%1/spinBox_FS_Thld").caption("cfgt17_041"),
-    flag("thldOff", 1).resetTo(0.0).in("FS%1/checkBox_FS_ThldOff").caption("cfgt17_042"),
+    flag("thldOff", 1).resetTo(0).in("FS%1/checkBox_FS_ThldOff").caption("cfgt17_042"),
 };
 
-constexpr BluetoothIndex degrees(bool withType)
+constexpr BluetoothIndex degrees(const char* element, bool withType)
 {
     return {.list = BluetoothList::temperature,
             .known = 4,
@@ -140,7 +141,7 @@ constexpr BluetoothIndex degrees(bool withType)
             .text = "cfgt17_043",
             .widget = "comboBox_Idx",
             .caption = "cfgt17_046",
-            .elsewhere = true,
+            .elsewhere = element,
             .withType = withType};
 }
 
@@ -213,7 +214,7 @@ inline constexpr BluetoothSensorType kBluetoothSensorTypes[] = {
      .vendorWidget = "comboBox_Type",
      .vendorCaption = "cfgt17_025",
      .vendors = bluetooth::tiltAngle,
-     .index = bluetooth::degrees(false)},
+     .index = bluetooth::degrees("AS%1 TS%1", false)},
     {.code = "4",
      .text = "cfgt17_021",
      .section = "AXS%1",
@@ -253,7 +254,7 @@ inline constexpr BluetoothSensorType kBluetoothSensorTypes[] = {
      .vendorWidget = "comboBox_Type",
      .vendorCaption = "cfgt17_025",
      .vendors = bluetooth::combined,
-     .index = bluetooth::degrees(true)},
+     .index = bluetooth::degrees("US%1 TS%1", true)},
 };
 
 } // namespace vlk

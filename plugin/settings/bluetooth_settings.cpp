@@ -32,14 +32,8 @@ struct Names
     static constexpr const BluetoothSensorType& type = kBluetoothSensorTypes[i];
     static constexpr bool hasIndex = type.index.list != BluetoothList::none;
 
-    static constexpr Text typePath = textOf({type.section, "/type"});
-    // Two types may stand in one element: the group has a name of its own then.
-    static constexpr Text indexGroup =
-        type.index.elsewhere ? textOf({type.section, " TS%1"}) : textOf({type.section});
-    static constexpr Text indexPath = textOf({indexGroup.data(), "/idx"});
-    static constexpr Text vendorWidget =
-        textOf({type.section, "/", type.vendorWidget ? type.vendorWidget : ""});
-    static constexpr Text indexWidget = textOf({type.section, "/", hasIndex ? type.index.widget : ""});
+    static constexpr Path typePath{type.section, "type"};
+    static constexpr Path indexPath{type.index.elsewhere ? type.index.elsewhere : type.section, "idx"};
 
     static constexpr auto vendorNumbers = [] {
         std::array<std::array<char, 2>, type.vendors.size()> numbers{};
@@ -75,13 +69,7 @@ struct Names
         }
         return true;
     }();
-    // The list and its label.
-    static constexpr Text indexTargets = [] {
-        const std::string_view widget = hasIndex ? type.index.widget : "";
-        return textOf({indexWidget.data(), " ", type.section, "/label_",
-                       widget.substr(std::min(widget.size(), widget.find('_') + 1))});
-    }();
-    static constexpr When indexed = allIndexed ? When{} : when(typePath.data(), indexedVendors.data());
+    static constexpr When indexed = allIndexed ? When{} : when(typePath, indexedVendors.data());
 
     static constexpr auto indexFormats = [] {
         std::array<Text, type.index.known> formats{};
@@ -105,56 +93,54 @@ struct Names
 };
 
 template <std::size_t i>
-constexpr auto indexRows()
+constexpr Choice indexRow()
 {
     using Type = Names<i>;
     return choice("idx", Type::indices, "1")
         .byNumber()
         .unknownIs("1")
-        .unofferedLeavesIt()
-        .in(Type::indexWidget.data())
+        .ifUnoffered(Unoffered::keepsValue)
+        .in({Type::type.section, Type::type.index.widget})
         .caption(Type::type.index.caption);
 }
 
 // The element of a type, there while the value at `owner` is the type's code.
 template <std::size_t i>
-constexpr auto rowsOfType(const char* owner)
+constexpr auto rowsOfType(Path owner)
 {
     using Type = Names<i>;
     const When chosen = when(owner, Type::type.code);
     if constexpr (!Type::type.vendorWidget) {
-        auto rows = universal::rows;
-        for (Setting& row : rows) {
-            if (row.kind == Kind::group)
-                row = row.onlyWhen(chosen);
-        }
-        return rows;
+        return universal::rows(chosen);
     } else {
-        constexpr Setting vendor = choice("type", Type::vendors, "0")
-                                       .byNumber()
-                                       .unknownIs("0")
-                                       .unofferedLeavesIt()
-                                       .in(Type::vendorWidget.data())
-                                       .caption(Type::type.vendorCaption);
+        const Choice vendor = choice("type", Type::vendors, "0")
+                                  .byNumber()
+                                  .unknownIs("0")
+                                  .ifUnoffered(Unoffered::keepsValue)
+                                  .in({Type::type.section, Type::type.vendorWidget})
+                                  .caption(Type::type.vendorCaption);
         constexpr auto more = [] {
             std::array<Setting, Type::type.more.size()> rows{};
             std::copy(Type::type.more.begin(), Type::type.more.end(), rows.begin());
             return rows;
         }();
-        const Setting own = group(Type::type.section).onlyWhen(chosen);
+        const Group own = group(Type::type.section).onlyWhen(chosen);
         if constexpr (!Type::hasIndex) {
             return rowsOf(own, vendor, more);
         } else if constexpr (!Type::type.index.elsewhere) {
-            return rowsOf(own, vendor, indexRows<i>(), more);
+            return rowsOf(own, vendor, indexRow<i>(), more);
         } else {
-            const Setting beside = group("TS%1").named(Type::indexGroup.data()).ifAny().onlyWhen(chosen);
-            constexpr std::array<Setting, Type::type.index.withType> constants = [] {
+            const Group beside = group("TS%1")
+                                     .named(Type::type.index.elsewhere)
+                                     .atSave(ElementSave::anewIfAny)
+                                     .onlyWhen(chosen);
+            constexpr auto constants = [] {
                 std::array<Setting, Type::type.index.withType> rows{};
                 std::fill(rows.begin(), rows.end(), constant("type", "0"));
                 return rows;
             }();
             // Whether it counts is known when the vendor has been read.
-            return rowsOf(beside, constants, indexRows<i>().onlyWhen(Type::indexed).readLast(), own, vendor,
+            return rowsOf(beside, constants, indexRow<i>().onlyWhen(Type::indexed).readLast(), own, vendor,
                           more);
         }
     }
@@ -196,7 +182,7 @@ constexpr auto kFormCodes = [] {
     return codes;
 }();
 
-constexpr Setting kForm = choice("form", kFormCodes, "0").byNumber().unknownIs("0").notStored();
+constexpr Choice kForm = choice("form", kFormCodes, "0").byNumber().unknownIs("0").notStored();
 
 template <std::size_t... types>
 constexpr auto elementRows(std::index_sequence<types...>)
@@ -212,7 +198,7 @@ constexpr auto sensorRows(std::index_sequence<types...>)
         choice("type", kTypeCodes, "0")
             .byNumber()
             .unknownIs("0")
-            .unofferedLeavesIt()
+            .ifUnoffered(Unoffered::keepsValue)
             .in("comboBox_Type_Sens_%1")
             .caption("cfgt17_025"),
         kForm,
@@ -223,26 +209,21 @@ constexpr auto sensorRows(std::index_sequence<types...>)
 
 constexpr auto kSensorRows = sensorRows(std::make_index_sequence<kTypes>{});
 
-// Checked sensor by sensor: the names of each are its own.
 constexpr auto kRows =
-    tables::join(rowsOf(group("GLOBAL"), flag("use", 1).in("checkBox_Bt_Use").caption("cfgt17_004"),
-                        group("CHANNEL1"), constant("device", "SENS")),
-                 repeat<kBluetoothSensors>([](int) { return kSensorRows; }));
+    rowsOf(group("GLOBAL"), flag("use", 1).in("checkBox_Bt_Use").caption("cfgt17_004"), group("CHANNEL1"),
+           constant("device", "SENS"), repeat<kBluetoothSensors>([](int) { return kSensorRows; }));
 
 constexpr auto kElementRows =
     repeat<kBluetoothSensors>([](int) { return elementRows(std::make_index_sequence<kTypes>{}); });
 
-constexpr auto formPulls = [] {
-    std::array<Pull, kTypes + 1> pulls{};
+constexpr auto kFormSets = [] {
+    std::array<Sets, kTypes + 1> sets{};
     for (std::size_t i = 0; i <= kTypes; ++i)
-        pulls[i] = {.when = when("SENS%1/type", kFormCodes[i].code),
-                    .set = "SENS%1/form",
-                    .to = kFormCodes[i].code,
-                    .onRead = true};
-    return pulls;
+        sets[i] = onEditOrRead(when("SENS%1/type", kFormCodes[i].code), "SENS%1/form", kFormCodes[i].code);
+    return sets;
 }();
 
-constexpr auto kPulls = repeat<kBluetoothSensors>([](int) { return rulesOf(formPulls, universal::pulls); });
+constexpr auto kSets = repeat<kBluetoothSensors>([](int) { return rulesOf(kFormSets, universal::sets); });
 constexpr auto kRanges = repeat<kBluetoothSensors>([](int) { return universal::ranges; });
 
 // The number of a sensor is shown where its vendor's value takes one.
@@ -253,7 +234,7 @@ constexpr auto enablesOfType()
     if constexpr (Type::allIndexed)
         return std::array<Enable, 0>{};
     else
-        return std::array{show(Type::indexTargets.data(), Type::indexed)};
+        return std::array{show({Type::type.section, Type::type.index.widget}, Type::indexed)};
 }
 
 template <std::size_t... types>
@@ -263,42 +244,38 @@ constexpr auto sensorEnables(std::index_sequence<types...>)
 }
 
 constexpr auto kEnables =
-    rulesOf(enable("groupBox_Bt_List", when("GLOBAL/use")),
+    rulesOf(enable(parts("groupBox_Bt_List"), when("GLOBAL/use")),
             repeat<kBluetoothSensors>([](int) { return sensorEnables(std::make_index_sequence<kTypes>{}); }));
 
 template <std::size_t i>
-constexpr auto solesOfType()
+constexpr auto exclusivesOfType()
 {
     using Type = Names<i>;
     constexpr BluetoothList list = Type::type.index.list;
     if constexpr (list == BluetoothList::fuel || list == BluetoothList::temperature)
-        return std::array{Sole{.path = Type::indexPath.data(),
-                               .when = when("SENS%1/form", Type::type.code),
-                               .also = Type::indexed,
-                               .list = list == BluetoothList::fuel ? "fuel" : "temperature",
-                               .holder = "SENS%1"}};
+        return std::array{ExclusiveChoice{.path = Type::indexPath,
+                                          .when = when("SENS%1/form", Type::type.code),
+                                          .also = Type::indexed,
+                                          .list = list == BluetoothList::fuel ? "fuel" : "temperature",
+                                          .holder = "SENS%1"}};
     else
-        return std::array<Sole, 0>{};
+        return std::array<ExclusiveChoice, 0>{};
 }
 
 template <std::size_t... types>
-constexpr auto sensorSoles(std::index_sequence<types...>)
+constexpr auto sensorExclusives(std::index_sequence<types...>)
 {
-    return rulesOf(solesOfType<types>()..., universal::soles);
+    return rulesOf(exclusivesOfType<types>()..., universal::exclusives);
 }
 
-constexpr auto kSoles =
-    repeat<kBluetoothSensors>([](int) { return sensorSoles(std::make_index_sequence<kTypes>{}); });
+constexpr auto kExclusives =
+    repeat<kBluetoothSensors>([](int) { return sensorExclusives(std::make_index_sequence<kTypes>{}); });
 
 } // namespace
 
-constexpr SettingsTable kBluetoothSettings{.section = "BLUETOOTH",
-                                           .rows = kRows,
-                                           .pulls = kPulls,
-                                           .ranges = kRanges,
-                                           .soles = kSoles,
-                                           .enables = kEnables};
+constexpr SettingsTable kBluetoothSettings =
+    tableOf<kRows, kSets, kRanges, kExclusives, kEnables>("BLUETOOTH");
 
-constexpr SettingsTable kBluetoothElements{.rows = kElementRows, .ranges = kRanges, .emptied = false};
+constexpr SettingsTable kBluetoothElements = tableOver<kElementRows, kRanges>("");
 
 } // namespace vlk

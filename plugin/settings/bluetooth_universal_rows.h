@@ -72,22 +72,22 @@ inline constexpr auto numbers = [] {
     return codes;
 }();
 
-constexpr Setting byte(const char* key, const char* widget, const char* caption)
+constexpr Integer byte(const char* key, const char* widget, const char* caption)
 {
     return integer(key, 0).range(0, 255).in(widget).caption(caption);
 }
 
-constexpr Setting type(int loadDefault, const char* widget)
+constexpr Integer type(int loadDefault, const char* widget)
 {
     return hexadecimal("type", loadDefault).range(0, 255).in(widget).caption("cfgt17_060");
 }
 
-constexpr Setting messageMask(const char* widget)
+constexpr Text messageMask(const char* widget)
 {
     return text("mask", "").upTo(32).in(widget).caption("cfgt17_062");
 }
 
-constexpr Setting rowGroup(const char* check, const char* widget)
+constexpr Integer rowGroup(const char* check, const char* widget)
 {
     return integer("group", 0)
         .range(1, 4)
@@ -99,95 +99,101 @@ constexpr Setting rowGroup(const char* check, const char* widget)
 }
 
 // The first condition is always on and joins nothing.
-constexpr auto firstCondition = rowsOf(
-    group("U%1C1"), integer("group", 1).range(1, 4).in("U%1/spinBox_Condition_Group_1").caption("cfgt17_058"),
-    constant("oper", "0"), type(0xFF, "U%1/spinBox_Condition_Type_1"),
-    byte("offset", "U%1/spinBox_Condition_Displacement_1", "cfgt17_061"),
-    messageMask("U%1/lineEdit_Condition_Mask_1"));
-
-constexpr auto laterCondition(int number)
+constexpr auto firstCondition(When chosen)
 {
-    return numbered(rowsOf(group("U%1C%2"),
-                           rowGroup("U%1/checkBox_Condition_Use_%2", "U%1/spinBox_Condition_Group_%2"),
+    return rowsOf(group("U%1C1").onlyWhen(chosen),
+                  integer("group", 1).range(1, 4).in("U%1/spinBox_Condition_Group_1").caption("cfgt17_058"),
+                  constant("oper", "0"), type(0xFF, "U%1/spinBox_Condition_Type_1"),
+                  byte("offset", "U%1/spinBox_Condition_Displacement_1", "cfgt17_061"),
+                  messageMask("U%1/lineEdit_Condition_Mask_1"));
+}
+
+constexpr auto laterCondition(int number, When chosen)
+{
+    return numbered(rowsOf(group("U%1C%2").onlyWhen(chosen),
+                           rowGroup("checkBox_Condition_Use_%2", "U%1/spinBox_Condition_Group_%2"),
                            choice("oper", operators, "0")
                                .byNumber()
                                .unknownIs("0")
                                .in("U%1/comboBox_Condition_Operator_%2")
                                .caption("cfgt17_059"),
-                           type(0xFF, "U%1/spinBox_Condition_Type_%2").resetTo(0.0),
+                           type(0xFF, "U%1/spinBox_Condition_Type_%2").resetTo(0),
                            byte("offset", "U%1/spinBox_Condition_Displacement_%2", "cfgt17_061"),
                            messageMask("U%1/lineEdit_Condition_Mask_%2")),
                     number);
 }
 
-constexpr auto valueRows = repeat<kUniversalValues>([](int) {
-    return rowsOf(
-        group("U%1P%2"), rowGroup("U%1/checkBox_Parameters_Use_%2", "U%1/spinBox_Parameters_Group_%2"),
-        type(0, "U%1/spinBox_Parameters_Type_%2"),
-        byte("offset", "U%1/spinBox_Parameters_Displacement_%2", "cfgt17_061"),
-        choice("prm", elements, "")
-            .resetTo("1b")
-            .unknownIs("")
-            .noItemIs("")
-            .in("U%1/comboBox_Parameters_Dimension_%2")
-            .caption("cfgt17_033"),
-        choice("be", byteOrders, "0")
-            .byNumber()
-            .unknownIs("0")
-            .in("U%1/comboBox_Parameters_ByteOrder_%2")
-            .caption("cfgt17_067"),
-        choice("stor", targets, "0")
-            .byNumber()
-            .unknownIs("0")
-            .in("U%1/comboBox_Parameters_SensorType_%2")
-            .caption("cfgt17_040"),
-        choice("idx", numbers, "1")
-            .byNumber()
-            .offering("")
-            .noItemIs("0")
-            .unofferedLeavesIt()
-            .resetTo("0")
-            .in("U%1/comboBox_Parameters_Index_%2")
-            .caption("cfgt17_068"),
-        integer("mux", 1).range(0, 65535).in("U%1/spinBox_Parameters_Multiplier_%2").caption("cfgt17_069"),
-        integer("div", 1).range(1, 65535).in("U%1/spinBox_Parameters_Divider_%2").caption("cfgt17_070"),
-        integer("shift", 0)
-            .range(-32768, 32767)
-            .in("U%1/spinBox_Parameters_Amendment_%2")
-            .caption("cfgt17_071"));
-});
+constexpr auto valueRows(When chosen)
+{
+    return repeat<kUniversalValues>([=](int) {
+        return rowsOf(
+            group("U%1P%2").onlyWhen(chosen),
+            rowGroup("checkBox_Parameters_Use_%2", "U%1/spinBox_Parameters_Group_%2"),
+            type(0, "U%1/spinBox_Parameters_Type_%2"),
+            byte("offset", "U%1/spinBox_Parameters_Displacement_%2", "cfgt17_061"),
+            choice("prm", elements, "")
+                .resetTo("1b")
+                .unknownIs("")
+                .noItemIs("")
+                .in("U%1/comboBox_Parameters_Dimension_%2")
+                .caption("cfgt17_033"),
+            choice("be", byteOrders, "0")
+                .byNumber()
+                .unknownIs("0")
+                .in("U%1/comboBox_Parameters_ByteOrder_%2")
+                .caption("cfgt17_067"),
+            choice("stor", targets, "0")
+                .byNumber()
+                .unknownIs("0")
+                .in("U%1/comboBox_Parameters_SensorType_%2")
+                .caption("cfgt17_040"),
+            choice("idx", numbers, "1")
+                .byNumber()
+                .offering("")
+                .noItemIs("0")
+                .ifUnoffered(Unoffered::keepsValue)
+                .resetTo("0")
+                .in("U%1/comboBox_Parameters_Index_%2")
+                .caption("cfgt17_068"),
+            integer("mux", 1)
+                .range(0, 65535)
+                .in("U%1/spinBox_Parameters_Multiplier_%2")
+                .caption("cfgt17_069"),
+            integer("div", 1).range(1, 65535).in("U%1/spinBox_Parameters_Divider_%2").caption("cfgt17_070"),
+            integer("shift", 0)
+                .range(-32768, 32767)
+                .in("U%1/spinBox_Parameters_Amendment_%2")
+                .caption("cfgt17_071"));
+    });
+}
 
-constexpr auto rows =
-    rowsOf(firstCondition, laterCondition(2), laterCondition(3), laterCondition(4), valueRows);
+// The elements are there while `chosen` holds.
+constexpr auto rows(When chosen)
+{
+    return rowsOf(firstCondition(chosen), laterCondition(2, chosen), laterCondition(3, chosen),
+                  laterCondition(4, chosen), valueRows(chosen));
+}
 
 // A row that is switched on takes any type of message; one that is switched off holds nothing.
-constexpr auto laterConditionPulls(int number)
+constexpr auto laterConditionSets(int number)
 {
     constexpr When on = when("U%1C%2/group");
     constexpr When off = unless("U%1C%2/group");
-    return numbered(rulesOf(Pull{.when = on, .set = "U%1C%2/type", .to = "FF", .onset = true},
-                            Pull{.when = on, .set = "U%1C%2/offset", .to = "0", .onset = true},
-                            Pull{.when = off, .set = "U%1C%2/type", .to = "00"},
-                            Pull{.when = off, .set = "U%1C%2/offset", .to = "0"},
-                            Pull{.when = off, .set = "U%1C%2/mask", .to = ""},
-                            Pull{.when = off, .set = "U%1C%2/oper", .to = "0"}),
+    return numbered(rulesOf(onEdit(on, "U%1C%2/type", "FF").onset(), onEdit(on, "U%1C%2/offset", "0").onset(),
+                            onEdit(off, "U%1C%2/type", "00"), onEdit(off, "U%1C%2/offset", "0"),
+                            onEdit(off, "U%1C%2/mask", ""), onEdit(off, "U%1C%2/oper", "0")),
                     number);
 }
 
-constexpr auto pulls = rulesOf(
-    laterConditionPulls(2), laterConditionPulls(3), laterConditionPulls(4), repeat<kUniversalValues>([](int) {
+constexpr auto sets = rulesOf(
+    laterConditionSets(2), laterConditionSets(3), laterConditionSets(4), repeat<kUniversalValues>([](int) {
         constexpr When on = when("U%1P%2/group");
         constexpr When off = unless("U%1P%2/group");
-        return rulesOf(Pull{.when = on, .set = "U%1P%2/type", .to = "FF", .onset = true},
-                       Pull{.when = on, .set = "U%1P%2/stor", .to = "1", .onset = true},
-                       Pull{.when = off, .set = "U%1P%2/stor", .to = "0"},
-                       Pull{.when = off, .set = "U%1P%2/type", .to = "00"},
-                       Pull{.when = off, .set = "U%1P%2/offset", .to = "0"},
-                       Pull{.when = off, .set = "U%1P%2/prm", .to = "1b"},
-                       Pull{.when = off, .set = "U%1P%2/be", .to = "0"},
-                       Pull{.when = off, .set = "U%1P%2/mux", .to = "1"},
-                       Pull{.when = off, .set = "U%1P%2/div", .to = "1"},
-                       Pull{.when = off, .set = "U%1P%2/shift", .to = "0"});
+        return rulesOf(onEdit(on, "U%1P%2/type", "FF").onset(), onEdit(on, "U%1P%2/stor", "1").onset(),
+                       onEdit(off, "U%1P%2/stor", "0"), onEdit(off, "U%1P%2/type", "00"),
+                       onEdit(off, "U%1P%2/offset", "0"), onEdit(off, "U%1P%2/prm", "1b"),
+                       onEdit(off, "U%1P%2/be", "0"), onEdit(off, "U%1P%2/mux", "1"),
+                       onEdit(off, "U%1P%2/div", "1"), onEdit(off, "U%1P%2/shift", "0"));
     }));
 
 constexpr RangeWhen numbersOf(const char* targets, const char* numbers)
@@ -206,47 +212,46 @@ constexpr auto ranges = repeat<kUniversalValues>([](int) {
 });
 
 // One number of a kind goes to one row of the form.
-constexpr auto soles = repeat<kUniversalValues>([](int) {
-    return Sole{.path = "U%1P%2/idx",
-                .when = when("U%1P%2/group"),
-                .also = when("U%1P%2/stor", "1|2|3|4|5|6"),
-                .list = "U%1",
-                .holder = "U%1P%2",
-                .split = "U%1P%2/stor"};
+constexpr auto exclusives = repeat<kUniversalValues>([](int) {
+    return ExclusiveChoice{.path = "U%1P%2/idx",
+                           .when = when("U%1P%2/group"),
+                           .also = when("U%1P%2/stor", "1|2|3|4|5|6"),
+                           .list = "U%1",
+                           .holder = "U%1P%2",
+                           .split = "U%1P%2/stor"};
 });
 
 constexpr auto laterConditionEnables(int number)
 {
-    return numbered(rulesOf(enable("U%1/comboBox_Condition_Operator_%2 U%1/spinBox_Condition_Type_%2 "
-                                   "U%1/spinBox_Condition_Displacement_%2 U%1/lineEdit_Condition_Mask_%2",
+    return numbered(rulesOf(enable({"U%1", "comboBox_Condition_Operator_%2 spinBox_Condition_Type_%2 "
+                                           "spinBox_Condition_Displacement_%2 lineEdit_Condition_Mask_%2"},
                                    when("U%1C%2/group")),
-                            show("U%1/comboBox_Condition_Operator_%2", when("U%1C%2/group"))),
+                            show({"U%1", "comboBox_Condition_Operator_%2"}, when("U%1C%2/group"))),
                     number);
 }
 
 // An operator joins a condition to an earlier one of its group.
-constexpr Enable joins(const char* targets, When first, When second = {}, When third = {})
+constexpr Enable joins(const char* list, When first, When second = {}, When third = {})
 {
-    Enable rule = enableAny(targets, first, second, third);
-    rule.effect = Enable::Effect::shown;
-    return rule;
+    return enableAny({"U%1", list}, first, second, third).showing();
 }
 
-constexpr auto enables =
-    rulesOf(laterConditionEnables(2), laterConditionEnables(3), laterConditionEnables(4),
-            joins("U%1/comboBox_Condition_Operator_2", whenSame("U%1C2/group", "U%1C1/group")),
-            joins("U%1/comboBox_Condition_Operator_3", whenSame("U%1C3/group", "U%1C1/group"),
-                  whenSame("U%1C3/group", "U%1C2/group")),
-            joins("U%1/comboBox_Condition_Operator_4", whenSame("U%1C4/group", "U%1C1/group"),
-                  whenSame("U%1C4/group", "U%1C2/group"), whenSame("U%1C4/group", "U%1C3/group")),
-            repeat<kUniversalValues>([](int) {
-                return enable("U%1/spinBox_Parameters_Type_%2 U%1/spinBox_Parameters_Displacement_%2 "
-                              "U%1/comboBox_Parameters_Dimension_%2 U%1/comboBox_Parameters_ByteOrder_%2 "
-                              "U%1/comboBox_Parameters_SensorType_%2 U%1/comboBox_Parameters_Index_%2 "
-                              "U%1/spinBox_Parameters_Multiplier_%2 U%1/spinBox_Parameters_Divider_%2 "
-                              "U%1/spinBox_Parameters_Amendment_%2",
-                              when("U%1P%2/group"));
-            }));
+constexpr auto enables = rulesOf(
+    laterConditionEnables(2), laterConditionEnables(3), laterConditionEnables(4),
+    joins("comboBox_Condition_Operator_2", whenSame("U%1C2/group", "U%1C1")),
+    joins("comboBox_Condition_Operator_3", whenSame("U%1C3/group", "U%1C1"),
+          whenSame("U%1C3/group", "U%1C2")),
+    joins("comboBox_Condition_Operator_4", whenSame("U%1C4/group", "U%1C1"), whenSame("U%1C4/group", "U%1C2"),
+          whenSame("U%1C4/group", "U%1C3")),
+    repeat<kUniversalValues>([](int) {
+        return enable(
+            {"U%1",
+             "spinBox_Parameters_Type_%2 spinBox_Parameters_Displacement_%2 comboBox_Parameters_Dimension_%2 "
+             "comboBox_Parameters_ByteOrder_%2 comboBox_Parameters_SensorType_%2 "
+             "comboBox_Parameters_Index_%2 spinBox_Parameters_Multiplier_%2 spinBox_Parameters_Divider_%2 "
+             "spinBox_Parameters_Amendment_%2"},
+            when("U%1P%2/group"));
+    }));
 
 } // namespace universal
 

@@ -29,6 +29,6 @@ constexpr auto kRows =
 
 } // namespace
 
-constexpr SettingsTable kDataSetSettings{.section = "PROTOCOL", .rows = kRows};
+constexpr SettingsTable kDataSetSettings = tableOf<kRows>("PROTOCOL");
 
 } // namespace vlk

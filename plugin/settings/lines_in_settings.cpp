@@ -49,7 +49,7 @@ constexpr Line kLines[] = {
     {{"%1 AIN3", "cfgt8_009"}, "NU", "NU|NS+|NB+|AIN", false, "2500", true, true},
 };
 
-constexpr Setting analysisTime(const char* widget, const char* reset)
+constexpr auto analysisTime(const char* widget, const char* reset)
 {
     return choice("analysTime", kAnalysisTimes, "2500")
         .byNumber()
@@ -60,17 +60,17 @@ constexpr Setting analysisTime(const char* widget, const char* reset)
         .caption("cfgt8_023");
 }
 
-constexpr Setting pulses(const char* key, int loadDefault)
+constexpr auto pulses(const char* key, int loadDefault)
 {
     return integer(key, loadDefault).range(0, 65535);
 }
 
-constexpr Setting seconds(const char* key, int loadDefault)
+constexpr auto seconds(const char* key, int loadDefault)
 {
     return integer(key, loadDefault).range(0, 255).unit("abbr_003");
 }
 
-constexpr Setting fixationLevel(const char* box, const char* slider)
+constexpr auto fixationLevel(const char* box, const char* slider)
 {
     return volts("thldBand", kFixationLevel).range(0, 31).in(box).beside(slider).caption("cfgt8_039");
 }
@@ -129,7 +129,7 @@ constexpr auto lineRows()
     }();
 
     constexpr auto shared = rowsOf(link("cntlRestore", "IN%1/cntlRestore", 1), link("ign", "IN%1/ign", 1));
-    constexpr Setting pullUp = link("pullUp", "IN%1/pullUp", 0);
+    constexpr auto pullUp = link("pullUp", "IN%1/pullUp", 0);
     constexpr auto ownThreshold =
         line.hasThreshold ? rowsOf(link("thld", "IN%1/thld", 2000), link("trhldOff", "IN%1/trhldOff", 1))
                           : rowsOf(integer("thld", 2000), flag("trhldOff", 1));
@@ -191,24 +191,23 @@ constexpr const char* kDiscrete = "NS-|NB-|NS+|NB+";
 
 constexpr auto soleIgnition(const char* line, const char* other, const char* third)
 {
-    return rulesOf(Pull{.when = when(line), .set = other, .to = "0", .onRead = true},
-                   Pull{.when = when(line), .set = third, .to = "0", .onRead = true});
+    return rulesOf(onEditOrRead(when(line), other, "0"), onEditOrRead(when(line), third, "0"));
 }
 
 // One line says that the ignition is on, of a file the last one that claims it; a use without two states
 // cannot. Filtering off is a window of one value. A use has its own usual threshold.
-constexpr auto kPulls =
+constexpr auto kSets =
     rulesOf(soleIgnition("IN1/ign", "IN2/ign", "IN3/ign"), soleIgnition("IN2/ign", "IN1/ign", "IN3/ign"),
             soleIgnition("IN3/ign", "IN1/ign", "IN2/ign"), repeat<3>([](int) {
-                return rulesOf(Pull{unless("IN%1/normState", kDiscrete), "IN%1/ign", "0"},
-                               Pull{unless("IN%1/IN%1FRQ/filterMode"), "IN%1/IN%1FRQ/filterLen", "1"},
-                               Pull{unless("IN%1/IN%1FRQ/filterMode"), "IN%1/IN%1FRQ/filterLvl", "0"},
-                               Pull{unless("IN%1/IN%1AIN/filterMode"), "IN%1/IN%1AIN/filterLen", "1"},
-                               Pull{unless("IN%1/IN%1AIN/filterMode"), "IN%1/IN%1AIN/filterLvl", "0"});
+                return rulesOf(onEdit(unless("IN%1/normState", kDiscrete), "IN%1/ign", "0"),
+                               onEdit(unless("IN%1/IN%1FRQ/filterMode"), "IN%1/IN%1FRQ/filterLen", "1"),
+                               onEdit(unless("IN%1/IN%1FRQ/filterMode"), "IN%1/IN%1FRQ/filterLvl", "0"),
+                               onEdit(unless("IN%1/IN%1AIN/filterMode"), "IN%1/IN%1AIN/filterLen", "1"),
+                               onEdit(unless("IN%1/IN%1AIN/filterMode"), "IN%1/IN%1AIN/filterLvl", "0"));
             }),
-            Pull{when("IN3/normState", "FRQ"), "IN3/thld", "20"},
-            Pull{when("IN3/normState", "AIN"), "IN3/thld", "500"},
-            Pull{when("IN3/normState", "TAHO"), "IN3/thld", "2000"});
+            onEdit(when("IN3/normState", "FRQ"), "IN3/thld", "20"),
+            onEdit(when("IN3/normState", "AIN"), "IN3/thld", "500"),
+            onEdit(when("IN3/normState", "TAHO"), "IN3/thld", "2000"));
 
 constexpr auto kRanges = rulesOf(RangeWhen{when("IN3/normState", "FRQ"), "IN3/thld", 1, 20000, "abbr_013"},
                                  RangeWhen{when("IN3/normState", "AIN"), "IN3/thld", 1, 32000, "abbr_012"},
@@ -227,27 +226,22 @@ constexpr auto kDistances = rulesOf(levelDistance(2), levelDistance(3));
 
 constexpr auto kEnables = rulesOf(
     repeat<3>([](int) {
-        return rulesOf(enable("label_Title_Ignition_In%1 frame_Ignition_In%1 label_Title_ControlRestore_In%1 "
-                              "frame_ControlRestore_In%1",
+        return rulesOf(enable(parts("label_Title_Ignition_In%1 frame_Ignition_In%1 "
+                                    "label_Title_ControlRestore_In%1 frame_ControlRestore_In%1"),
                               when("IN%1/normState", kDiscrete)),
-                       enable("groupBox_PLS_SetLine groupBox_PLS_Work", when("IN%1/IN%1PLS/startCount"),
-                              when("IN%1/IN%1PLS/startTime"), when("IN%1/IN%1PLS/stopCount"),
-                              when("IN%1/IN%1PLS/stopTime")),
-                       enable("label_FRQ_Aver spinBox_FRQ_Aver label_FRQ_Kalman spinBox_FRQ_Kalman",
-                              when("IN%1/IN%1FRQ/filterMode")),
-                       enable("label_UI_Aver spinBox_UI_Aver label_UI_Kalman spinBox_UI_Kalman",
-                              when("IN%1/IN%1AIN/filterMode")));
+                       enable(parts("groupBox_PLS_SetLine groupBox_PLS_Work"),
+                              when("IN%1/IN%1PLS/startCount"), when("IN%1/IN%1PLS/startTime"),
+                              when("IN%1/IN%1PLS/stopCount"), when("IN%1/IN%1PLS/stopTime")),
+                       enable("spinBox_FRQ_Aver spinBox_FRQ_Kalman", when("IN%1/IN%1FRQ/filterMode")),
+                       enable(parts("label_FRQ_Aver label_FRQ_Kalman"), when("IN%1/IN%1FRQ/filterMode")),
+                       enable("spinBox_UI_Aver spinBox_UI_Kalman", when("IN%1/IN%1AIN/filterMode")),
+                       enable(parts("label_UI_Aver label_UI_Kalman"), when("IN%1/IN%1AIN/filterMode")));
     }),
-    enable("label_Title_Response_In3 frame_Response_In3", when("IN3/normState", "FRQ|AIN|TAHO")),
-    enable("label_Title_TrhldMoveOff_In3 frame_TrhldMoveOff_In3", when("IN3/normState", "FRQ|AIN")));
+    enable(parts("label_Title_Response_In3 frame_Response_In3"), when("IN3/normState", "FRQ|AIN|TAHO")),
+    enable(parts("label_Title_TrhldMoveOff_In3 frame_TrhldMoveOff_In3"), when("IN3/normState", "FRQ|AIN")));
 
 } // namespace
 
-constexpr SettingsTable kLinesInSettings{.section = "SENSORS",
-                                         .rows = kRows,
-                                         .pulls = kPulls,
-                                         .distances = kDistances,
-                                         .ranges = kRanges,
-                                         .enables = kEnables};
+constexpr SettingsTable kLinesInSettings = tableOf<kRows, kSets, kDistances, kRanges, kEnables>("SENSORS");
 
 } // namespace vlk

@@ -54,7 +54,7 @@ constexpr Position kEvents[] = {
     {},
 };
 
-constexpr Setting seconds(const char* key, int loadDefault)
+constexpr auto seconds(const char* key, int loadDefault)
 {
     return integer(key, loadDefault).range(0, 86400).unit("abbr_003");
 }
@@ -88,26 +88,23 @@ constexpr auto kRows =
            seconds("offPeriod", 0).in("spinBox_PassivePhase_O1").caption("cfgt10_025"),
            flag("autoOff", 0).in("checkBox_TimeAutoSwitchOff_O1").caption("cfgt10_026"),
            seconds("autoOffDelay", 0).in("spinBox_TimeAutoSwitchOff_O1").caption("cfgt10_027"),
-           flag("safeBlock", 0)
-               .savedAs("0", when("LINE1/mode", "GP"), true)
-               .in("checkBox_SafeBlock_O1")
-               .caption("cfgt10_028"),
+           flag("safeBlock", 0).in("checkBox_SafeBlock_O1").caption("cfgt10_028"),
            seconds("onDelay", 60)
-               .resetTo(0.0)
+               .resetTo(0)
                .onlyWhen(when("LINE1/mode", "GP"))
                .in("spinBox_DelayBlock_On_MainState_O1")
                .caption("cfgt10_029"),
-           flag("zumGen", 0)
-               .savedAs("0", when("LINE1/mode", kBuzzers), true)
-               .in("checkBox_ZumG_O1")
-               .caption("cfgt10_030"));
+           flag("zumGen", 0).in("checkBox_ZumG_O1").caption("cfgt10_030"));
 
-constexpr auto kPulls =
-    rulesOf(Pull{.when = when("LINE1/mode", "GP"), .set = "LINE1/use", .to = "GP", .onRead = true},
-            Pull{.when = when("LINE1/mode", "ZUM"), .set = "LINE1/use", .to = "ZUM", .onRead = true},
-            Pull{.when = unless("LINE1/mode", "GP|ZUM"), .set = "LINE1/use", .to = "N/A", .onRead = true},
-            Pull{.when = when("LINE1/use", "TM_KEY|TM_REG"), .set = "LINE1/signalForm", .to = "0"},
-            Pull{.when = when("LINE1/use", "TM_KEY_IND"), .set = "LINE1/signalForm", .to = "2"});
+constexpr auto kSets = rulesOf(onEditOrRead(when("LINE1/mode", "GP"), "LINE1/use", "GP"),
+                               onEditOrRead(when("LINE1/mode", "ZUM"), "LINE1/use", "ZUM"),
+                               onEditOrRead(unless("LINE1/mode", "GP|ZUM"), "LINE1/use", "N/A"),
+                               onEdit(when("LINE1/use", "TM_KEY|TM_REG"), "LINE1/signalForm", "0"),
+                               onEdit(when("LINE1/use", "TM_KEY_IND"), "LINE1/signalForm", "2"),
+                               afterRead(unless("LINE1/mode", "GP"), "LINE1/safeBlock", "0"),
+                               onSave(unless("LINE1/mode", "GP"), "LINE1/safeBlock", "0"),
+                               afterRead(unless("LINE1/mode", kBuzzers), "LINE1/zumGen", "0"),
+                               onSave(unless("LINE1/mode", kBuzzers), "LINE1/zumGen", "0"));
 
 constexpr auto kRanges = rulesOf(
     RangeWhen{.when = when("LINE1/use", "TM_KEY|TM_REG"), .path = "LINE1/signalForm", .offers = "0|1"},
@@ -118,28 +115,27 @@ constexpr auto kRanges = rulesOf(
 constexpr const char* kFreeForm = "GP|AF_GZ|SIREN|TM_KEY|TM_REG";
 constexpr const char* kTimed = "GP|AF_GZ|SIREN|TM_KEY|TM_REG|TM_KEY_IND";
 
-constexpr auto kEnables =
-    rulesOf(enable("comboBox_SignalForm_O1", when("LINE1/use", kFreeForm)),
-            enable("frame_ActivePhase_1", when("LINE1/use", kTimed), when("LINE1/signalForm", "1|2")),
-            enable("frame_PassivePhase_1", when("LINE1/use", kTimed), when("LINE1/signalForm", "2")),
-            enable("frame_TimeAutoSwitchOff_1", when("LINE1/use", kFreeForm), when("LINE1/signalForm", "2")),
-            enable("spinBox_TimeAutoSwitchOff_O1", when("LINE1/autoOff")),
-            enable("checkBox_SafeBlock_O1 spinBox_DelayBlock_On_MainState_O1", when("LINE1/use", "GP")),
-            enable("comboBox_AutoSwitch_In1_O1 comboBox_AutoSwitch_In2_O1 comboBox_AutoSwitch_In3_O1 "
-                   "comboBox_AutoSwitch_U_Min_O1 comboBox_AutoSwitch_U_Norm_O1 "
-                   "comboBox_AutoSwitch_Engine_On_O1 comboBox_AutoSwitch_Engine_Off_O1 "
-                   "comboBox_AutoSwitch_Guard_Norm_O1",
-                   when("LINE1/use", "GP|IMMOB")),
-            enable("comboBox_AutoSwitch_SH1_O1 comboBox_AutoSwitch_SH2_O1 comboBox_AutoSwitch_SH3_O1 "
-                   "comboBox_AutoSwitch_SH4_O1 comboBox_AutoSwitch_Temp_Min_O1 "
-                   "comboBox_AutoSwitch_Temp_Max_O1 comboBox_AutoSwitch_Temp_Norm_O1",
-                   when("LINE1/use", "GP")),
-            show("label_ZumG checkBox_ZumG_O1", when("LINE1/use", kBuzzers)));
+constexpr auto kEnables = rulesOf(
+    enable("comboBox_SignalForm_O1", when("LINE1/use", kFreeForm)),
+    enable(parts("frame_ActivePhase_1"), when("LINE1/use", kTimed), when("LINE1/signalForm", "1|2")),
+    enable(parts("frame_PassivePhase_1"), when("LINE1/use", kTimed), when("LINE1/signalForm", "2")),
+    enable(parts("frame_TimeAutoSwitchOff_1"), when("LINE1/use", kFreeForm), when("LINE1/signalForm", "2")),
+    enable("spinBox_TimeAutoSwitchOff_O1", when("LINE1/autoOff")),
+    enable("checkBox_SafeBlock_O1 spinBox_DelayBlock_On_MainState_O1", when("LINE1/use", "GP")),
+    enable("comboBox_AutoSwitch_In1_O1 comboBox_AutoSwitch_In2_O1 comboBox_AutoSwitch_In3_O1 "
+           "comboBox_AutoSwitch_U_Min_O1 comboBox_AutoSwitch_U_Norm_O1 comboBox_AutoSwitch_Engine_On_O1 "
+           "comboBox_AutoSwitch_Engine_Off_O1 comboBox_AutoSwitch_Guard_Norm_O1",
+           when("LINE1/use", "GP|IMMOB")),
+    enable("comboBox_AutoSwitch_SH1_O1 comboBox_AutoSwitch_SH2_O1 comboBox_AutoSwitch_SH3_O1 "
+           "comboBox_AutoSwitch_SH4_O1 comboBox_AutoSwitch_Temp_Min_O1 comboBox_AutoSwitch_Temp_Max_O1 "
+           "comboBox_AutoSwitch_Temp_Norm_O1",
+           when("LINE1/use", "GP")),
+    show("checkBox_ZumG_O1", when("LINE1/use", kBuzzers)),
+    show(parts("label_ZumG"), when("LINE1/use", kBuzzers)));
 
 } // namespace
 
-constexpr SettingsTable kLinesOutSettings{
-    .section = "OUTPUTS", .rows = kRows, .pulls = kPulls, .ranges = kRanges, .enables = kEnables};
+constexpr SettingsTable kLinesOutSettings = tableOf<kRows, kSets, kRanges, kEnables>("OUTPUTS");
 
 constexpr std::span<const Code> kOutputUses = kUses;
 

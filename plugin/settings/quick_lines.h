@@ -57,30 +57,32 @@ inline constexpr Line kLines[] = {
 inline constexpr auto kLineRows = rowsOf(
     group("SENSORS"), constant("page", "SENSORS"), repeat<3>([](int number) {
         const Line& line = kLines[number - 1];
-        return rowsOf(group("SENSORS/IN%1"),
-                      choice("use", kUses, "NU")
-                          .offering(line.uses)
-                          .notStored()
-                          .staying()
-                          .in("comboBox_NormState_In_%1")
-                          .caption(line.caption),
-                      choice("ign", kNoOrYes, "0").byNumber().unknownIs("0").notStored(),
-                      choice("normState", kStates, "NU").unknownIs("").noItemIs(""),
-                      constant("name", line.name).savedAs("", unless("SENSORS/IN%1/normState", "NU")),
+        return rowsOf(
+            group("SENSORS/IN%1"),
+            choice("use", kUses, "NU")
+                .offering(line.uses)
+                .notStored()
+                .ifMissing(Missing::keepsValue)
+                .in("comboBox_NormState_In_%1")
+                .caption(line.caption),
+            choice("ign", kNoOrYes, "0").byNumber().unknownIs("0").notStored(),
+            choice("normState", kStates, "NU").unknownIs("").noItemIs(""), constant("name", line.name),
 
-                      group("SENSORS/IN%1/IN%1DIN").onlyWhen(when("SENSORS/IN%1/normState", kToGround)),
-                      link("ign", "SENSORS/IN%1/ign", 0).withoutElement(line.ignition),
-                      constant("cntlRestore", "1"), constant("analysTime", "2500"),
+            group("SENSORS/IN%1/IN%1DIN").onlyWhen(when("SENSORS/IN%1/normState", kToGround)),
+            link("ign", "SENSORS/IN%1/ign", 0).ifNoElement(line.ignition), constant("cntlRestore", "1"),
+            constant("analysTime", "2500"),
 
-                      group("SENSORS/IN%1/IN%1ADIN").onlyWhen(when("SENSORS/IN%1/normState", kToSupply)),
-                      link("ign", "SENSORS/IN%1/ign", 1).withoutElement(line.ignition),
-                      constant("cntlRestore", "0"), constant("analysTime", "2500"),
-                      constant("lowLvl", "5000"), constant("highLvl", "6000"),
+            group("SENSORS/IN%1/IN%1ADIN").onlyWhen(when("SENSORS/IN%1/normState", kToSupply)),
+            link("ign", "SENSORS/IN%1/ign", 1).ifNoElement(line.ignition), constant("cntlRestore", "0"),
+            constant("analysTime", "2500"), constant("lowLvl", "5000"), constant("highLvl", "6000"),
 
-                      group("SENSORS/IN%1/IN%1AIN").onlyWhen(when("SENSORS/IN%1/normState", "AIN")),
-                      constant("thld", "5000"), constant("trhldOff", "0"), constant("filterMode", "1"),
-                      constant("filterLen", "30"), constant("filterLvl", "5"));
+            group("SENSORS/IN%1/IN%1AIN").onlyWhen(when("SENSORS/IN%1/normState", "AIN")),
+            constant("thld", "5000"), constant("trhldOff", "0"), constant("filterMode", "1"),
+            constant("filterLen", "30"), constant("filterLvl", "5"));
     }));
+
+inline constexpr auto kLineSets =
+    repeat<3>([](int) { return onSave(when("SENSORS/IN%1/normState", "NU"), "SENSORS/IN%1/name", ""); });
 
 inline constexpr auto kLinePresets = repeat<3>([](int) {
     return Presets{.trigger = "SENSORS/IN%1/use",

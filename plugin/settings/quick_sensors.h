@@ -113,22 +113,19 @@ inline constexpr auto kBluetoothRows =
 
            wirelessRows(kWireless[0]), wirelessRows(kWireless[1]));
 
-inline constexpr auto kSensorDerived = rulesOf(
-    Derived{.path = "RS485/fuel", .any = {when("RS485/sensor1"), when("RS485/sensor2")}},
-    Derived{.path = "BLUETOOTH/sensors", .any = {when("BLUETOOTH/sensor3"), when("BLUETOOTH/sensor4")}});
-
-constexpr auto wirelessBounds(int number)
+constexpr auto wirelessSets(int number)
 {
-    return numbered(rulesOf(Bound{when("BLUETOOTH/FS%1/type", kNamelessTypes), "BLUETOOTH/SENS%1/name", ""}),
+    return numbered(rulesOf(afterRead(when("BLUETOOTH/sensor%1"), "BLUETOOTH/sensors", "1"),
+                            always(when("BLUETOOTH/FS%1/type", kNamelessTypes), "BLUETOOTH/SENS%1/name", "")),
                     number);
 }
 
-inline constexpr auto kSensorBounds =
-    rulesOf(Bound{when("RS485/fuel"), "RS485/OPTIONS/owner1", "FLDS"},
-            Bound{unless("RS485/fuel"), "RS485/OPTIONS/owner1", ""},
-            Bound{when("BLUETOOTH/sensors"), "BLUETOOTH/GLOBAL/use", "1"},
-            Bound{when("BLUETOOTH/sensors"), "BLUETOOTH/CHANNEL1/device", "SENS"}, wirelessBounds(3),
-            wirelessBounds(4));
+inline constexpr auto kSensorSets =
+    rulesOf(repeat<2>([](int) { return afterRead(when("RS485/sensor%1"), "RS485/fuel", "1"); }),
+            always(when("RS485/fuel"), "RS485/OPTIONS/owner1", "FLDS"),
+            always(unless("RS485/fuel"), "RS485/OPTIONS/owner1", ""), wirelessSets(3), wirelessSets(4),
+            always(when("BLUETOOTH/sensors"), "BLUETOOTH/GLOBAL/use", "1"),
+            always(when("BLUETOOTH/sensors"), "BLUETOOTH/CHANNEL1/device", "SENS"));
 
 // Fields of a record: level and temperature of each sensor, and what type 2 adds.
 inline constexpr int kRsFields[][2] = {{37, 77}, {38, 78}};
@@ -167,9 +164,10 @@ constexpr auto wirelessEnables(int number)
                     number);
 }
 
-inline constexpr auto kSensorEnables = rulesOf(
-    show("frame_Fuel_RS485_Param", when("RS485/fuel")), show("frame_Bluetooth", when("BLUETOOTH/sensors")),
-    repeat<2>([](int) { return enable("spinBox_Fuel_RS485_Addres_%1", when("RS485/sensor%1")); }),
-    wirelessEnables(3), wirelessEnables(4));
+inline constexpr auto kSensorEnables =
+    rulesOf(show(parts("frame_Fuel_RS485_Param"), when("RS485/fuel")),
+            show(parts("frame_Bluetooth"), when("BLUETOOTH/sensors")),
+            repeat<2>([](int) { return enable("spinBox_Fuel_RS485_Addres_%1", when("RS485/sensor%1")); }),
+            wirelessEnables(3), wirelessEnables(4));
 
 } // namespace vlk::quick

@@ -41,37 +41,43 @@ constexpr auto kFirstMask = [] {
 }();
 
 constexpr auto kRows = rowsOf(
-    group("PROTOCOL").keeping(), constant("page", "PROTOCOL"), group("PROTOCOL/ZETA").keeping(),
-    text("mask", kFirstMask.data()).carriedOver().staying(),
+    group("PROTOCOL").atSave(ElementSave::keepsOthers), constant("page", "PROTOCOL"),
+    group("PROTOCOL/ZETA").atSave(ElementSave::keepsOthers),
+    text("mask", kFirstMask.data()).atSave(OnSave::document).ifMissing(Missing::keepsValue),
 
-    group("TRANS").keeping(), constant("page", "TRANS"), group("TRANS/AP1").keeping(), shared::kAccessPoint,
-    flag("untouched", 0).resetTo(1).notStored(), group("TRANS/SRV1").keeping(),
+    group("TRANS").atSave(ElementSave::keepsOthers), constant("page", "TRANS"),
+    group("TRANS/AP1").atSave(ElementSave::keepsOthers), shared::kAccessPoint,
+    flag("untouched", 0).resetTo(1).notStored(), group("TRANS/SRV1").atSave(ElementSave::keepsOthers),
     shared::host(text("addr", shared::kNoServer)).in("GPRSSrv_lineEdit_IP_DNS_Main").caption("cfgt1_026"),
     integer("port", 4000).range(0, 65536).resetTo(5000).in("GPRSSrv_spinBox_Port_Main").caption("cfgt1_027"),
     choice("format", kProtocols, "VLKB_ZETA")
         .offering("VLKB_ZETA")
         .unknownIs("VLKB_ZETA")
         .noItemIs("")
-        .savedAs("VLKB_ZETA", when("TRANS/SRV1/format", "VLKB_ZETA"))
         .in("Transfer_comboBox_Protocol_Format_Main")
         .caption("cfgt1_028"),
-    group("TRANS/ROAMSIM1").keeping(), shared::kRoamingMode, group("TRANS/ROAM").keeping(),
-    shared::kRoamingPeriod, group("TRANS/QSP").keeping(), shared::kObjectId,
-    shared::apnRows(group("TRANS/AUTOAPN").keeping()),
+    group("TRANS/ROAMSIM1").atSave(ElementSave::keepsOthers), shared::kRoamingMode,
+    group("TRANS/ROAM").atSave(ElementSave::keepsOthers), shared::kRoamingPeriod,
+    group("TRANS/QSP").atSave(ElementSave::keepsOthers), shared::kObjectId,
+    shared::apnRows(group("TRANS/AUTOAPN").atSave(ElementSave::keepsOthers)),
 
-    group("TRACK").keeping(), constant("page", "TRACK"), group("TRACK/POINTS").keeping(),
-    choice("preset", kTrackPresets, "optimal").notStored().staying(), shared::kPointsOnTheWay,
-    shared::kUseDistance.having(&Setting::loadNumber, 0.0).resetTo(1), shared::kPointsInTime,
+    group("TRACK").atSave(ElementSave::keepsOthers), constant("page", "TRACK"),
+    group("TRACK/POINTS").atSave(ElementSave::keepsOthers),
+    choice("preset", kTrackPresets, "optimal").notStored().ifMissing(Missing::keepsValue),
+    shared::kPointsOnTheWay, shared::kUseDistance.with(&Flag::load, 0).resetTo(1), shared::kPointsInTime,
     shared::kMoveTimer.range(0, 999), shared::kStopTimer,
 
-    group("SYSTEM").keeping(), constant("page", "SYSTEM"), group("SYSTEM/PASS").keeping(), shared::kPasswords,
-    group("SYSTEM/PWRSENS").keeping(), shared::kSupplyLine,
+    group("SYSTEM").atSave(ElementSave::keepsOthers), constant("page", "SYSTEM"),
+    group("SYSTEM/PASS").atSave(ElementSave::keepsOthers), shared::kPasswords,
+    group("SYSTEM/PWRSENS").atSave(ElementSave::keepsOthers), shared::kSupplyLine,
 
     quick::kLineRows, quick::kRsRows, quick::kBluetoothRows);
 
 // After a reset the access point is open to all; choosing an operator decides who may edit it.
-constexpr auto kPulls = rulesOf(
-    Pull{.when = when("TRANS/AP1/operator", "0|1|2|3|4|5|6"), .set = "TRANS/AP1/untouched", .to = "0"});
+constexpr auto kSets =
+    rulesOf(onEdit(when("TRANS/AP1/operator", "0|1|2|3|4|5|6"), "TRANS/AP1/untouched", "0"),
+            onSave(unless("TRANS/SRV1/format", "VLKB_ZETA"), "TRANS/SRV1/format", "VLKB_ZETA"),
+            quick::kLineSets, quick::kSensorSets);
 
 constexpr auto kPresets =
     rulesOf(Presets{.trigger = "TRANS/AP1/operator",
@@ -96,10 +102,10 @@ constexpr auto kDoubts = rulesOf(shared::noPort("TRANS/SRV1/port", "TRANS/SRV1/a
 constexpr auto kEnables =
     rulesOf(enableAny("Transfer_lineEdit_GSM_APN_1 Transfer_lineEdit_GSM_Login_1 Transfer_lineEdit_GSM_Psw_1",
                       when("TRANS/AP1/operator", kOtherOperator), when("TRANS/AP1/untouched")),
-            enable("pushButton_AutoAPN_1", when("TRANS/AP1/operator", kAutomaticOperator)),
-            enable("frame_RConnectPeriod", when("TRANS/ROAMSIM1/mode", "1")),
-            enable("GPRSSrv_toolButton_Test_Main", when("TRANS/SRV1/addr")),
-            enable("groupBox_Track_Param", when("TRACK/POINTS/preset", "custom")),
+            enable(parts("pushButton_AutoAPN_1"), when("TRANS/AP1/operator", kAutomaticOperator)),
+            enable(parts("frame_RConnectPeriod"), when("TRANS/ROAMSIM1/mode", "1")),
+            enable(parts("GPRSSrv_toolButton_Test_Main"), when("TRANS/SRV1/addr")),
+            enable(parts("groupBox_Track_Param"), when("TRACK/POINTS/preset", "custom")),
             enable("Additional_spinBox_Corner", when("TRACK/POINTS/angleMode", "1")),
             enable("Additional_Direction_spinBox_Metr_Value", when("TRACK/POINTS/useDist")),
             enable("Additional_Direction_spinBox_Sec_Value Additional_Direction_spinBox_SecStop_Value",
@@ -108,15 +114,6 @@ constexpr auto kEnables =
 
 } // namespace
 
-constexpr SettingsTable kQuickSettings{.section = "",
-                                       .rows = kRows,
-                                       .pulls = kPulls,
-                                       .bounds = quick::kSensorBounds,
-                                       .presets = kPresets,
-                                       .derived = quick::kSensorDerived,
-                                       .masks = kMasks,
-                                       .doubts = kDoubts,
-                                       .enables = kEnables,
-                                       .emptied = false};
+constexpr SettingsTable kQuickSettings = tableOver<kRows, kSets, kPresets, kMasks, kDoubts, kEnables>("");
 
 } // namespace vlk

@@ -91,7 +91,7 @@ constexpr When owned(const char* owner)
     return *owner ? when(kOwner, owner) : unless(kOwner);
 }
 
-constexpr Setting elementOf(const char* owner, const char* element)
+constexpr auto elementOf(const char* owner, const char* element)
 {
     return group(element).onlyWhen(owned(owner));
 }
@@ -99,7 +99,7 @@ constexpr Setting elementOf(const char* owner, const char* element)
 constexpr auto fuelSensor(int number)
 {
     return rowsOf(elementOf("FLDS", "FS%1"), flag("use", 0).in("FLDS/checkBox_Use_%1").caption("cfgt6_211"),
-                  link("type", "FLDS/type", 0).savedAs("0", when("FLDS/type")),
+                  link("type", "FLDS/type", 0),
                   integer("address", number).range(0, 255).in("FLDS/spinBox_Addres_%1").caption("cfgt6_212"),
                   integer("thld", 50).range(0, 4095).in("FLDS/spinBox_Response_%1").caption("cfgt6_213"),
                   flag("thldOff", 1).in("FLDS/checkBox_TrhldMoveOff_%1").caption("cfgt6_214"),
@@ -135,7 +135,7 @@ constexpr auto kCounterRows =
                return integer("id%1", 0)
                    .range(1, 250)
                    .in("PCNT/spinBox_Passager_%1")
-                   .offAtZero("PCNT/checkBox_Passager_%1")
+                   .offAtZero("checkBox_Passager_%1")
                    .caption("cfgt6_233")
                    .onlyWhen(kNetworkCounters);
            }),
@@ -161,7 +161,7 @@ constexpr auto kCounterRows =
                .range(1, kLongest)
                .unit("abbr_003")
                .in("PCNT/spinBox_ACore_SM_SendNavi")
-               .offAtZero("PCNT/checkBox_ACore_SM_SendNavi")
+               .offAtZero("checkBox_ACore_SM_SendNavi")
                .caption("cfgt6_248")
                .onlyWhen(kDoorCounter),
            group("PCNTIN"),
@@ -213,9 +213,9 @@ constexpr auto kRows = rowsOf(
 
     elementOf("TACH", "TACH"),
     choice("type", kTachographs, "ATOL").unknownIs("ATOL").in("TACH/comboBox_Type").caption("cfgt6_096"),
-    text("login", "1").in("TACH/lineEdit_ID").caption("cfgt6_097"),
-    text("pass", "738205").in("TACH/lineEdit_Key").caption("cfgt6_098"),
-    flag("noPing", 1).resetTo(0.0).in("TACH/checkBox_Ping").caption("cfgt6_099"),
+    text("login", "1").secretly().in("TACH/lineEdit_ID").caption("cfgt6_097"),
+    text("pass", "738205").secretly().in("TACH/lineEdit_Key").caption("cfgt6_098"),
+    flag("noPing", 1).resetTo(0).in("TACH/checkBox_Ping").caption("cfgt6_099"),
     flag("eventOff", 0).in("TACH/checkBox_EventOff").caption("cfgt6_100"),
 
     elementOf("TPMS", "TPMS"),
@@ -229,11 +229,11 @@ constexpr auto kRows = rowsOf(
 
 // Choosing an owner brings its line, and a type that has a line of its own brings that, while its device owns
 // the line. A load runs these too, and then reads the line's own keys.
-constexpr auto kLinePulls = [] {
-    std::array<Pull, std::size(kRsOwners) * 3 + std::size(kRsLines) * 4> pulls{};
+constexpr auto kLineSets = [] {
+    std::array<Sets, std::size(kRsOwners) * 3 + std::size(kRsLines) * 4> sets{};
     std::size_t count = 0;
     const auto add = [&](When trigger, const char* path, const char* value, When also = {}) {
-        pulls[count++] = {.when = trigger, .set = path, .to = value, .onRead = true, .also = also};
+        sets[count++] = onEditOrRead(trigger, path, value).onlyIf(also);
     };
     for (const RsOwner& owner : kRsOwners) {
         add(owned(owner.code), kSpeed, owner.speed);
@@ -247,13 +247,15 @@ constexpr auto kLinePulls = [] {
         add(type, kParity, "0", owned(line.owner));
         add(type, kStopBit, "1", owned(line.owner));
     }
-    return pulls;
+    return sets;
 }();
 
 // Readers without a choice of the mode work in the first one.
 constexpr When kOneModeReaders = when("RFID/type", "ESCORT|MIELTA");
-constexpr auto kPulls = rulesOf(kLinePulls, Pull{kOneModeReaders, "RFID/mode", "0"},
-                                Pull{owned("RFID"), "RFID/mode", "0", false, kOneModeReaders});
+constexpr auto kSets =
+    rulesOf(kLineSets, onEdit(kOneModeReaders, "RFID/mode", "0"),
+            onEdit(owned("RFID"), "RFID/mode", "0").onlyIf(kOneModeReaders),
+            repeat<kRsFuelSensors>([](int) { return onSave(unless("FLDS/type"), "FS%1/type", "0"); }));
 
 // A type of tachograph brings its usual access.
 constexpr PresetRow kTachographAccess[] = {
@@ -262,29 +264,27 @@ constexpr PresetRow kTachographAccess[] = {
     {"MERK", {"1", "738205"}},
     {"KONT", {"1", "738205"}},
 };
-constexpr Presets kPresets[] = {
-    {.trigger = "TACH/type", .fields = {"TACH/login", "TACH/pass"}, .rows = kTachographAccess}};
+constexpr auto kPresets = rulesOf(
+    Presets{.trigger = "TACH/type", .fields = {"TACH/login", "TACH/pass"}, .rows = kTachographAccess});
 
-constexpr auto kEnables =
-    rulesOf(show("RFID/spinBox_Address RFID/label_spinBox_Address", when("RFID/type", "ESCORT|LLS|ADM20")),
-            show("RFID/comboBox_Mode RFID/label_comboBox_Mode", when("RFID/type", "LLS")),
-            show("RFID/checkBox_Nearest RFID/spinBox_Floor RFID/label_spinBox_Floor",
-                 when("RFID/type", "MIELTA|ADM20")),
-            show("TACH/lineEdit_ID TACH/label_lineEdit_ID", when("TACH/type", "ATOL")),
-            show("TACH/lineEdit_Key TACH/label_lineEdit_Key", when("TACH/type", "ATOL|STRH")),
-            show("TACH/checkBox_Ping", when("TACH/type", "KONT")), repeat<kRsFuelSensors>([](int) {
-                return rulesOf(enable("FLDS/spinBox_Addres_%1 FLDS/spinBox_Response_%1 "
-                                      "FLDS/checkBox_TrhldMoveOff_%1 FLDS/checkBox_Filter_%1",
-                                      when("FS%1/use")),
-                               enable("FLDS/spinBox_Aver_%1 FLDS/spinBox_Kalman_%1", when("FS%1/use"),
-                                      when("FS%1/filterMode")));
-            }),
-            repeat<6>([](int) { return enable("FLDS/pushButton_Fuel_D%1", when("FS%1/use")); }),
-            enable("PCNT/comboBox_Event_In", when("PCNT/countEvent", "2")));
+constexpr auto kEnables = rulesOf(
+    show({"RFID", "spinBox_Address"}, when("RFID/type", "ESCORT|LLS|ADM20")),
+    show({"RFID", "comboBox_Mode"}, when("RFID/type", "LLS")),
+    show({"RFID", "checkBox_Nearest spinBox_Floor"}, when("RFID/type", "MIELTA|ADM20")),
+    show({"TACH", "lineEdit_ID"}, when("TACH/type", "ATOL")),
+    show({"TACH", "lineEdit_Key"}, when("TACH/type", "ATOL|STRH")),
+    show({"TACH", "checkBox_Ping"}, when("TACH/type", "KONT")), repeat<kRsFuelSensors>([](int) {
+        return rulesOf(
+            enable(
+                {"FLDS", "spinBox_Addres_%1 spinBox_Response_%1 checkBox_TrhldMoveOff_%1 checkBox_Filter_%1"},
+                when("FS%1/use")),
+            enable({"FLDS", "spinBox_Aver_%1 spinBox_Kalman_%1"}, when("FS%1/use"), when("FS%1/filterMode")));
+    }),
+    repeat<6>([](int) { return enable(parts("FLDS", "pushButton_Fuel_D%1"), when("FS%1/use")); }),
+    enable({"PCNT", "comboBox_Event_In"}, when("PCNT/countEvent", "2")));
 
 } // namespace
 
-constexpr SettingsTable kRsSettings{
-    .section = "RS485", .rows = kRows, .pulls = kPulls, .presets = kPresets, .enables = kEnables};
+constexpr SettingsTable kRsSettings = tableOf<kRows, kSets, kPresets, kEnables>("RS485");
 
 } // namespace vlk

@@ -1,40 +1,72 @@
 #pragma once
 
-// What settings do to each other, as data. Paths are those below the section ("POINTS/angle"); the names of
-// repeated rules may hold %1 as those of settings do.
+// What settings do to each other, as data. Paths are those below the section ("POINTS/angle"). One that no
+// row has does not compile, nor does a widget that none has (settings_table.h).
+//
+// What acts when one value changes, in this order (values_rules.cpp): distances, lists that start over,
+// shared lists; on an edit then other ranges, `Sets` of the path, presets, each with all that follows from
+// it; at the end of an edit, a read or a reset what holds always. A read ends with what is set after it and
+// with the presets that agree.
 
-#include "settings/setting.h"
-
-#include <array>
-#include <cstdint>
-#include <span>
+#include "settings/kinds/choice.h"
 
 namespace vlk {
 
-// An edit that makes `when` hold sets another setting. `onRead`: a read does so too, as soon as it has read
-// the path of `when`. All of it only while `also` holds; `onset`: an edit only where `when` did not hold
-// before it.
-struct Pull
-{
-    When when;
-    const char* set = "";
-    const char* to = "";
-    bool onRead = false;
-    When also{};
-    bool onset = false;
-    std::uint8_t number = 0;
-    std::uint8_t inner = 0;
+// When a rule sets another setting.
+enum class Moment : std::uint8_t {
+    edit,       // an edit that makes `when` hold
+    editOrRead, // and a read, as soon as it has read the path of `when`
+    afterRead,  // a read that is through
+    always,     // all of these and a reset: the file cannot hold another value
+    save        // a save writes it, the value stays
 };
 
-// A value that the file cannot hold while `when` does: it is `to` at any time.
-struct Bound
+struct Sets
 {
+    Moment moment;
     When when;
-    const char* path = "";
-    const char* to = ""; // '*' in a string of digits leaves its position alone
-    std::uint8_t number = 0;
-    std::uint8_t inner = 0;
+    Path path;
+    const char* to;       // '*' in a string of digits leaves its position alone
+    When also{};          // holds too
+    bool isOnset = false; // only where `when` did not hold before
+    Numbers numbers{};
+
+    constexpr void eachPath(auto visit) { visit(when), visit(path), visit(also); }
+
+    constexpr Sets onlyIf(When condition) const
+    {
+        Sets changed = *this;
+        changed.also = condition;
+        return changed;
+    }
+    constexpr Sets onset() const
+    {
+        Sets changed = *this;
+        changed.isOnset = true;
+        return changed;
+    }
 };
+
+constexpr Sets onEdit(When when, Path path, const char* to)
+{
+    return {Moment::edit, when, path, to};
+}
+constexpr Sets onEditOrRead(When when, Path path, const char* to)
+{
+    return {Moment::editOrRead, when, path, to};
+}
+constexpr Sets afterRead(When when, Path path, const char* to)
+{
+    return {Moment::afterRead, when, path, to};
+}
+constexpr Sets always(When when, Path path, const char* to)
+{
+    return {Moment::always, when, path, to};
+}
+constexpr Sets onSave(When when, Path path, const char* to)
+{
+    return {Moment::save, when, path, to};
+}
 
 // Two values of which the second is at least `gap` (in units of the widget), plus the value at `gapFrom`,
 // above the first. The one that is set last pushes the other one away, as far as the ranges go. A read takes
@@ -42,13 +74,14 @@ struct Bound
 // of its own file stays as it is.
 struct Distance
 {
-    const char* first = "";
-    const char* second = "";
+    Path first;
+    Path second;
     double gap = 0;
-    const char* gapFrom = nullptr;
-    const char* slider = nullptr; // widget with two handles that shows both
-    std::uint8_t number = 0;
-    std::uint8_t inner = 0;
+    Path gapFrom{};
+    Name slider{}; // widget with two handles that shows both
+    Numbers numbers{};
+
+    constexpr void eachPath(auto visit) { visit(first), visit(second), visit(gapFrom); }
 };
 
 // Another range and unit, or a shorter list of codes, while `when` holds; the last rule that holds counts.
@@ -57,31 +90,36 @@ struct Distance
 struct RangeWhen
 {
     When when;
-    const char* path = "";
+    Path path;
     double least = 0;
     double most = 0;
     const char* unit = nullptr;
     const char* offers = nullptr; // "0|1"
     bool startsOver = false;
-    std::uint8_t number = 0;
-    std::uint8_t inner = 0;
+    Numbers numbers{};
+
+    constexpr void eachPath(auto visit) { visit(when), visit(path); }
 };
 
-// A choice out of a list that several settings share: while `when` and `also` hold, none of the others can
-// have its code. One that holds nothing yields to the next code that is free, and one whose list was empty
+// A choice out of a list that several settings share, each code for one of them: two temperature sensors have
+// the numbers 1 and 2, and while the first one holds 2 the list of the second offers 1, 3 and 4.
+//
+// A setting holds its code while `when` and `also` hold. One that does not yields to it, to the next code
+// that is free: a third sensor without a type, which shows 2, shows 3 from then on. One whose list was empty
 // gets the first code that is given back: who takes a code for another one gives that back afterwards.
 // Settings of the same `holder` are nothing to each other, and so are those of one list whose values at
 // `split` differ.
-struct Sole
+struct ExclusiveChoice
 {
-    const char* path = "";
+    Path path;
     When when{};
     When also{};
     const char* list = "";
     const char* holder = "";
-    const char* split = nullptr;
-    std::uint8_t number = 0;
-    std::uint8_t inner = 0;
+    Path split{};
+    Numbers numbers{};
+
+    constexpr void eachPath(auto visit) { visit(path), visit(when), visit(also), visit(split); }
 };
 
 // Ready values of several settings. An edit of `trigger` to the code of a row sets its fields, even where
@@ -99,22 +137,14 @@ struct PresetRow
 
 struct Presets
 {
-    const char* trigger = "";
-    std::array<const char*, 8> fields{};
+    Path trigger;
+    std::array<Path, 8> fields{};
     std::span<const PresetRow> rows{};
     const char* other = nullptr;
     bool settles = false;
-    std::uint8_t number = 0;
-    std::uint8_t inner = 0;
-};
+    Numbers numbers{};
 
-// A flag that lives in the window alone and is found at a read: on while any of the conditions holds.
-struct Derived
-{
-    const char* path = "";
-    std::array<When, 2> any{};
-    std::uint8_t number = 0;
-    std::uint8_t inner = 0;
+    constexpr void eachPath(auto visit) { visit(trigger), visit(fields); }
 };
 
 // Positions of a string of 0 and 1, counted from 0, that a save sets to `to` while all conditions hold,
@@ -122,52 +152,84 @@ struct Derived
 // string is passed over.
 struct MaskPositions
 {
-    const char* path = "";
+    Path path;
     std::span<const int> positions{};
     char to = '1';
     std::array<When, 3> when{};
-    std::uint8_t number = 0;
-    std::uint8_t inner = 0;
+    Numbers numbers{};
+
+    constexpr void eachPath(auto visit) { visit(path), visit(when); }
 };
 
 // A value that is taken as it stands, and marked in its widget while all conditions hold: `complaint` is the
 // translation key of what is wrong with it.
 struct Doubt
 {
-    const char* path = "";
+    Path path;
     std::array<When, 4> when{};
     const char* complaint = "";
-    std::uint8_t number = 0;
-    std::uint8_t inner = 0;
+    Numbers numbers{};
+
+    constexpr void eachPath(auto visit) { visit(path), visit(when); }
 };
 
-// Widgets that are enabled, or on show, while the conditions hold: all of them, or `any`.
+// Object names with blanks between them: widgets of rows, or other parts of a form.
+struct Targets
+{
+    constexpr Targets() = default;
+    constexpr Targets(const char* rowWidgets) : names(rowWidgets) {} // NOLINT: a text names widgets
+    constexpr Targets(const char* formName, const char* rowWidgets) : form(formName), names(rowWidgets) {}
+
+    const char* form = ""; // as in Name
+    const char* names = "";
+    bool areParts = false; // frames, labels and buttons, which no row has
+};
+
+constexpr Targets parts(Targets targets)
+{
+    targets.areParts = true;
+    return targets;
+}
+
+constexpr Targets parts(const char* form, const char* names)
+{
+    return parts(Targets(form, names));
+}
+
+// Widgets that are enabled, or on show with their labels, while the conditions hold: all of them, or `any`.
 struct Enable
 {
     enum class Effect : std::uint8_t { enabled, shown };
 
-    const char* targets = ""; // object names with blanks between them
+    Targets targets;
     std::array<When, 4> when{};
     bool any = false;
     Effect effect = Effect::enabled;
-    std::uint8_t number = 0;
-    std::uint8_t inner = 0;
+    Numbers numbers{};
+
+    constexpr void eachPath(auto visit) { visit(when); }
+
+    constexpr Enable showing() const
+    {
+        Enable changed = *this;
+        changed.effect = Effect::shown;
+        return changed;
+    }
 };
 
-constexpr Enable enable(const char* targets, When first, When second = {}, When third = {}, When fourth = {})
+constexpr Enable enable(Targets targets, When first, When second = {}, When third = {}, When fourth = {})
 {
     return {.targets = targets, .when = {first, second, third, fourth}};
 }
 
-constexpr Enable enableAny(const char* targets, When first, When second = {}, When third = {},
-                           When fourth = {})
+constexpr Enable enableAny(Targets targets, When first, When second = {}, When third = {}, When fourth = {})
 {
     return {.targets = targets, .when = {first, second, third, fourth}, .any = true};
 }
 
-constexpr Enable show(const char* targets, When first, When second = {})
+constexpr Enable show(Targets targets, When first, When second = {})
 {
-    return {.targets = targets, .when = {first, second}, .effect = Enable::Effect::shown};
+    return enable(targets, first, second).showing();
 }
 
 } // namespace vlk

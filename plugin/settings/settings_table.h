@@ -2,217 +2,139 @@
 
 // The settings of one page: its section of the file, its rows in the order of the file, and its rules. A
 // table over several sections has an empty name and begins its paths with theirs ("TRACK/POINTS/angle").
-// Tables are constexpr; rowsOf() refuses at compile time what is wrong in them: a default outside its range
-// or choices, a path or an object name twice, two groups of one name side by side.
+//
+//     constexpr auto kRows = rowsOf(group("POINTS"), ...);
+//     constexpr auto kSets = rulesOf(onEdit(...), ...);
+//     constexpr SettingsTable kTrackSettings = tableOf<kRows, kSets>("TRACK");
+//
+// tableOf() refuses at compile time what is wrong (table_maker.h): a default outside its range or choices, a
+// path or an object name twice, a rule whose path or widget no row has.
 
-#include "settings/rule.h"
+#include "settings/table_maker.h"
 
 #include <algorithm>
-#include <array>
-#include <cstddef>
-#include <string_view>
+#include <tuple>
 
 namespace vlk {
 
 struct SettingsTable
 {
     const char* section = "";
+    bool emptied = true; // a save empties the section first
     std::span<const Setting> rows{};
-    std::span<const Pull> pulls{};
-    std::span<const Bound> bounds{};
+    std::span<const Sets> sets{};
     std::span<const Distance> distances{};
     std::span<const RangeWhen> ranges{};
-    std::span<const Sole> soles{};
+    std::span<const ExclusiveChoice> exclusives{};
     std::span<const Presets> presets{};
-    std::span<const Derived> derived{};
     std::span<const MaskPositions> masks{};
     std::span<const Doubt> doubts{};
     std::span<const Enable> enables{};
-    bool emptied = true; // a save empties the section first
+
+    constexpr void take(std::span<const Sets> rules) { sets = rules; }
+    constexpr void take(std::span<const Distance> rules) { distances = rules; }
+    constexpr void take(std::span<const RangeWhen> rules) { ranges = rules; }
+    constexpr void take(std::span<const ExclusiveChoice> rules) { exclusives = rules; }
+    constexpr void take(std::span<const Presets> rules) { presets = rules; }
+    constexpr void take(std::span<const MaskPositions> rules) { masks = rules; }
+    constexpr void take(std::span<const Doubt> rules) { doubts = rules; }
+    constexpr void take(std::span<const Enable> rules) { enables = rules; }
 };
 
 namespace tables {
 
-template <class Row, std::size_t n>
-constexpr std::array<Row, n> listOf(const std::array<Row, n>& rows)
+template <class Item, std::size_t n>
+constexpr std::array<Item, n> listOf(const std::array<Item, n>& items)
 {
-    return rows;
+    return items;
 }
 
-template <class Row>
-constexpr std::array<Row, 1> listOf(const Row& row)
+template <class Item>
+constexpr auto listOf(const Item& item)
 {
-    return {row};
+    if constexpr (std::is_base_of_v<RowBase, Item>)
+        return std::array<Setting, 1>{item};
+    else
+        return std::array<Item, 1>{item};
 }
 
-template <class Row, std::size_t first, std::size_t second>
-constexpr auto joined(const std::array<Row, first>& a, const std::array<Row, second>& b)
+template <class Item, std::size_t... sizes>
+constexpr auto joined(const std::array<Item, sizes>&... lists)
 {
-    std::array<Row, first + second> all{};
-    std::copy(a.begin(), a.end(), all.begin());
-    std::copy(b.begin(), b.end(), all.begin() + first);
+    std::array<Item, (sizes + ... + 0)> all{};
+    auto place = all.begin();
+    ((place = std::copy(lists.begin(), lists.end(), place)), ...);
     return all;
 }
 
-template <class First, class... More>
-constexpr auto join(const First& first, const More&... more)
+// Items and arrays of them in one array.
+constexpr auto join(const auto&... items)
 {
-    if constexpr (sizeof...(More) == 0)
-        return listOf(first);
-    else
-        return joined(listOf(first), join(more...));
+    return joined(listOf(items)...);
 }
 
-constexpr bool same(const char* a, const char* b)
+constexpr Numbers& numbersOf(Setting& setting)
 {
-    return std::string_view(a ? a : "") == std::string_view(b ? b : "");
+    return std::visit([](auto& row) -> Numbers& { return row.numbers; }, setting.kind);
 }
-
-constexpr bool sameNumber(const Setting& a, const Setting& b)
+constexpr Numbers& numbersOf(auto& rule)
 {
-    return a.number == b.number && a.inner == b.inner;
-}
-
-constexpr bool knownCode(const Setting& row, const char* code)
-{
-    return std::any_of(row.codes.begin(), row.codes.end(),
-                       [code](const Code& known) { return same(known.code, code); });
-}
-
-constexpr bool inRange(const Setting& row, double value)
-{
-    return (row.zeroIsOff && value == 0) ||
-           (value >= row.least * row.factor && value <= row.most * row.factor);
-}
-
-// Whether the fields of a mask lie inside it and share no position.
-constexpr bool fieldsFit(const Setting& row)
-{
-    std::array<bool, 256> taken{};
-    for (const MaskField& field : row.fields) {
-        for (std::size_t i = 0; i < field.count; ++i) {
-            if (field.positions[i] >= row.maxLength || taken[field.positions[i]])
-                return false;
-            taken[field.positions[i]] = true;
-        }
-    }
-    return true;
-}
-
-constexpr void check(const Setting& row)
-{
-    const bool own = row.resets == Setting::Reset::toOwn;
-    if (row.kind == Kind::integer || row.kind == Kind::real || row.kind == Kind::scaled) {
-        if (row.least > row.most)
-            throw "a range is upside down";
-        if (!inRange(row, row.loadNumber) || (own && !row.resetText.format && !inRange(row, row.resetNumber)))
-            throw "a default is outside its range";
-    }
-    const auto isChoice = [&](const char* code) {
-        return knownCode(row, code) || (row.none && same(row.none, code));
-    };
-    if (row.kind == Kind::choice &&
-        (!isChoice(row.loadText.format) || (own && !isChoice(row.resetText.format)) ||
-         (row.fallback && !isChoice(row.fallback))))
-        throw "a default is none of the choices";
-    if (row.kind == Kind::digits && std::string_view(row.loadText.format).size() > row.positions.size())
-        throw "a default has more digits than there are positions";
-    if (row.kind == Kind::mask &&
-        std::string_view(row.loadText.format).size() > static_cast<std::size_t>(row.maxLength))
-        throw "a default is longer than its mask";
-    if (!fieldsFit(row))
-        throw "a field of a mask lies outside it or on another one";
-    if (row.kind == Kind::period && row.parts.empty())
-        throw "a period has no boxes";
-}
-
-constexpr const char* pathName(const Setting& row)
-{
-    return row.name ? row.name : row.key;
-}
-
-// Compilers limit the steps of a constant expression, so names are compared by their hashes first.
-constexpr std::uint32_t hashOf(const char* name, std::uint32_t seed)
-{
-    std::uint32_t hash = seed;
-    for (; name && *name; ++name)
-        hash = (hash ^ static_cast<std::uint8_t>(*name)) * 16777619U;
-    return hash;
-}
-
-template <std::size_t n>
-constexpr void checkAll(const std::array<Setting, n>& rows)
-{
-    std::array<std::uint32_t, n> keys{};
-    std::array<std::uint32_t, n> widgets{};
-    std::uint32_t group = 0;
-    for (std::size_t i = 0; i < n; ++i) {
-        const Setting& row = rows[i];
-        check(row);
-        const std::uint32_t number = 2166136261U + row.number * 1024U + row.inner;
-        if (row.kind == Kind::group)
-            group = hashOf(pathName(row), number);
-        keys[i] = row.kind == Kind::group ? group : hashOf(pathName(row), number ^ (group * 31U));
-        if (row.widget && row.kind != Kind::link)
-            widgets[i] = hashOf(row.widget, number + static_cast<std::uint32_t>(row.column) * 262144U);
-    }
-    for (std::size_t i = 0; i < n; ++i) {
-        for (std::size_t j = i + 1; j < n; ++j) {
-            if (keys[i] == keys[j] && same(pathName(rows[i]), pathName(rows[j])) &&
-                sameNumber(rows[i], rows[j]))
-                throw "a path or a group stands twice";
-            if (widgets[i] != 0 && widgets[i] == widgets[j] && same(rows[i].widget, rows[j].widget))
-                throw "an object name stands twice";
-        }
-    }
+    return rule.numbers;
 }
 
 } // namespace tables
 
-// Rows and arrays of rows in one array, checked.
-template <class... Rows>
-constexpr auto rowsOf(const Rows&... rows)
+// Rows and arrays of rows in one array.
+constexpr auto rowsOf(const auto&... rows)
 {
-    const auto all = tables::join(rows...);
-    tables::checkAll(all);
-    return all;
+    return tables::join(rows...);
 }
 
-// Rules and arrays of rules in one array.
-template <class... Rules>
-constexpr auto rulesOf(const Rules&... rules)
+// Rules of one kind and arrays of them in one array.
+constexpr auto rulesOf(const auto&... rules)
 {
     return tables::join(rules...);
 }
 
-// What `make(number)` gives for 1 to `count`, each row with its number; an array inside is repeated as a
-// whole. For rows and rules alike.
+// Rows or rules that belong to repetition `number`, for repetitions that differ. What is repeated inside has
+// that number as its inner one.
+template <class Item, std::size_t n>
+constexpr auto numbered(std::array<Item, n> items, int number)
+{
+    for (Item& item : items) {
+        Numbers& numbers = tables::numbersOf(item);
+        numbers = {static_cast<std::uint8_t>(number), numbers.outer};
+    }
+    return items;
+}
+
+// What `make(number)` gives for 1 to `count`, each with its number. For rows and rules alike.
 template <int count, class Make>
 constexpr auto repeat(Make make)
 {
-    constexpr auto one = [](const auto& made) { return tables::listOf(made); };
-    using List = decltype(one(make(1)));
-    constexpr std::size_t size = std::tuple_size_v<List>;
-    std::array<typename List::value_type, size * count> all{};
-    for (int number = 1; number <= count; ++number) {
-        const List rows = one(make(number));
-        for (std::size_t i = 0; i < size; ++i) {
-            auto row = rows[i];
-            row.inner = row.number;
-            row.number = static_cast<std::uint8_t>(number);
-            all[(static_cast<std::size_t>(number) - 1) * size + i] = row;
-        }
+    return [&]<std::size_t... i>(std::index_sequence<i...>)
+    {
+        return tables::joined(
+            numbered(tables::listOf(make(static_cast<int>(i) + 1)), static_cast<int>(i) + 1)...);
     }
-    return all;
+    (std::make_index_sequence<count>());
 }
 
-// Rows or rules that belong to repetition `number`, for repetitions that differ.
-template <class Row, std::size_t n>
-constexpr auto numbered(std::array<Row, n> rows, int number)
+// `over`: a save leaves what else the section holds.
+template <const auto& rows, const auto&... rules>
+constexpr SettingsTable tableOf(const char* section)
 {
-    for (Row& row : rows)
-        row.number = static_cast<std::uint8_t>(number);
-    return rows;
+    SettingsTable table{.section = section, .rows = tables::Made<rows>::rows};
+    (table.take(tables::MadeRules<rows, rules>::rules), ...);
+    return table;
+}
+
+template <const auto& rows, const auto&... rules>
+constexpr SettingsTable tableOver(const char* section)
+{
+    SettingsTable table = tableOf<rows, rules...>(section);
+    table.emptied = false;
+    return table;
 }
 
 } // namespace vlk

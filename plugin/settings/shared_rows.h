@@ -17,7 +17,7 @@ inline constexpr const char* kHostPattern =
     R"(|^(?!(?:\d+\.)*\d*$)(?:[A-Za-z0-9_](?:[A-Za-z0-9_-]{0,61}[A-Za-z0-9_])?(?:\.|$))+$)";
 
 // The address of a server, in whatever form the row has.
-constexpr Setting host(const Setting& row)
+constexpr Text host(const Text& row)
 {
     return row.expected(kHostPattern, "cfgt1_125");
 }
@@ -29,7 +29,7 @@ constexpr Doubt noPort(const char* port, const char* address, When used = {})
 }
 
 // The address of a Bluetooth device, as a line with a mask has it: six pairs of digits, or none of them.
-constexpr Setting bluetoothAddress(const Setting& row)
+constexpr Text bluetoothAddress(const Text& row)
 {
     return row.masked("HH:HH:HH:HH:HH:HH").expected("^:*$|^(?:[0-9A-Fa-f]{2}(?::(?!$)|$)){6}$", "typed_mac");
 }
@@ -45,31 +45,32 @@ inline constexpr auto kAccessPoint =
                .in("Transfer_comboBox_GSM_Operator_1")
                .caption("cfgt1_006"),
            text("name", "").in("Transfer_lineEdit_GSM_APN_1").caption("cfgt1_029"),
-           text("login", "").in("Transfer_lineEdit_GSM_Login_1").caption("cfgt1_031"),
-           text("pass", "").in("Transfer_lineEdit_GSM_Psw_1").caption("cfgt1_033"));
+           text("login", "").secretly().in("Transfer_lineEdit_GSM_Login_1").caption("cfgt1_031"),
+           text("pass", "").secretly().in("Transfer_lineEdit_GSM_Psw_1").caption("cfgt1_033"));
 
-inline constexpr Setting kRoamingPeriod = integer("cnctTimer", 3600, 60)
-                                              .range(5, 99999)
-                                              .unit("abbr_002")
-                                              .in("spinBox_RConnectPeriod")
-                                              .caption("cfgt1_040");
-inline constexpr Setting kRoamingMode =
+inline constexpr auto kRoamingPeriod = integer("cnctTimer", 3600, 60)
+                                           .range(5, 99999)
+                                           .unit("abbr_002")
+                                           .in("spinBox_RConnectPeriod")
+                                           .caption("cfgt1_040");
+inline constexpr auto kRoamingMode =
     choice("mode", kRoamingModes, "2").byNumber().in("comboBox_RModeSim_1").caption("cfgt1_021");
-inline constexpr Setting kObjectId =
+inline constexpr auto kObjectId =
     integer("idQSP", 1).range(0, 2147483647).in("spinBox_QSP_Id").caption("cfgt1_060");
 
 // The table by which the tracker picks the access point of a SIM by itself: ten rows of operator code, access
 // point, login and password, all free text.
-constexpr auto apnRows(const Setting& element)
+constexpr auto apnRows(const Group& element)
 {
-    return rowsOf(element, repeat<kApnRowCount>([](int number) {
-                      const MobileOperator& row = defaultApnRow(number - 1);
-                      return rowsOf(
-                          text("sID%1", row.code).inCell("treeWidget_ListApn", 1).caption("cfgt1_106"),
-                          text("name%1", row.apn).inCell("treeWidget_ListApn", 2).caption("cfgt1_029"),
-                          text("login%1", row.login).inCell("treeWidget_ListApn", 3).caption("cfgt1_031"),
-                          text("pass%1", row.password).inCell("treeWidget_ListApn", 4).caption("cfgt1_033"));
-                  }));
+    return rowsOf(
+        element, repeat<kApnRowCount>([](int number) {
+            const MobileOperator& row = defaultApnRow(number - 1);
+            return rowsOf(
+                text("sID%1", row.code).inCell("treeWidget_ListApn", 1).caption("cfgt1_106"),
+                text("name%1", row.apn).inCell("treeWidget_ListApn", 2).caption("cfgt1_029"),
+                text("login%1", row.login).secretly().inCell("treeWidget_ListApn", 3).caption("cfgt1_031"),
+                text("pass%1", row.password).secretly().inCell("treeWidget_ListApn", 4).caption("cfgt1_033"));
+        }));
 }
 
 inline constexpr Code kAngleModes[] = {
@@ -81,7 +82,7 @@ inline constexpr Code kAngleModes[] = {
 inline constexpr auto kPointsOnTheWay = rowsOf(
     choice("angleMode", kAngleModes, "2").byNumber().unknownIs("0").caption("cfgt3_007"),
     integer("angle", 5).range(1, 90).unit("abbr_016").in("Additional_spinBox_Corner").caption("cfgt3_010"));
-inline constexpr Setting kUseDistance =
+inline constexpr auto kUseDistance =
     flag("useDist", 1).in("Additional_Direction_checkBox_Metr").caption("cfgt3_011");
 inline constexpr auto kPointsInTime =
     rowsOf(integer("dist", 500)
@@ -90,25 +91,32 @@ inline constexpr auto kPointsInTime =
                .in("Additional_Direction_spinBox_Metr_Value")
                .caption("cfgt3_012"),
            flag("useTimer", 1).in("Additional_Direction_checkBox_Sec").caption("cfgt3_013"));
-inline constexpr Setting kMoveTimer = integer("moveTimer", 60)
-                                          .range(0, 99999)
-                                          .unit("abbr_003")
-                                          .in("Additional_Direction_spinBox_Sec_Value")
-                                          .caption("cfgt3_014");
-inline constexpr Setting kStopTimer = integer("stopTimer", 600)
-                                          .range(0, 99999)
-                                          .unit("abbr_003")
-                                          .in("Additional_Direction_spinBox_SecStop_Value")
-                                          .caption("cfgt3_015");
+inline constexpr auto kMoveTimer = integer("moveTimer", 60)
+                                       .range(0, 99999)
+                                       .unit("abbr_003")
+                                       .in("Additional_Direction_spinBox_Sec_Value")
+                                       .caption("cfgt3_014");
+inline constexpr auto kStopTimer = integer("stopTimer", 600)
+                                       .range(0, 99999)
+                                       .unit("abbr_003")
+                                       .in("Additional_Direction_spinBox_SecStop_Value")
+                                       .caption("cfgt3_015");
 
 inline constexpr const char* kPasswordPattern = R"(^\S{0,6}$)";
 inline constexpr const char* kPhonePattern = R"(^[\+\d]\d{0,15}$)";
 
-inline constexpr auto kPasswords =
-    rowsOf(text("general", "").typed(kPasswordPattern).in("Settings_Psw_lineEdit_CSD").caption("cfgt4_006"),
-           text("SMS", "").typed(kPasswordPattern).in("Settings_Psw_lineEdit_SMS").caption("cfgt4_007"),
-           text("number", "").typed(kPhonePattern).in("Settings_Psw_lineEdit_Phone").caption("cfgt4_092"));
-inline constexpr Setting kSupplyLine =
-    flag("line", 0).onValue(3).in("checkBox_Power_Line").caption("cfgt4_093");
+inline constexpr auto kPasswords = rowsOf(
+    text("general", "")
+        .secretly()
+        .typed(kPasswordPattern)
+        .in("Settings_Psw_lineEdit_CSD")
+        .caption("cfgt4_006"),
+    text("SMS", "").secretly().typed(kPasswordPattern).in("Settings_Psw_lineEdit_SMS").caption("cfgt4_007"),
+    text("number", "")
+        .secretly()
+        .typed(kPhonePattern)
+        .in("Settings_Psw_lineEdit_Phone")
+        .caption("cfgt4_092"));
+inline constexpr auto kSupplyLine = flag("line", 0).onValue(3).in("checkBox_Power_Line").caption("cfgt4_093");
 
 } // namespace vlk::shared

@@ -72,23 +72,22 @@ constexpr auto kRows = rowsOf(
     shared::host(text("ntpSrv4", "3.pool.ntp.org")).upTo(23).in("lineEdit_NTP_Srv_4").caption("cfgt4_016"));
 
 // Without the line that measures the supply voltage nothing can be told from it.
-constexpr auto kBounds = rulesOf(Bound{.when = unless("PWRSENS/line"), .path = "FUEL/sensors", .to = "*00"});
+constexpr auto kSets = rulesOf(always(unless("PWRSENS/line"), "FUEL/sensors", "*00"));
 
 constexpr auto kDistances = rulesOf(
     Distance{.first = "FUEL/blockVolt", .second = "FUEL/unblockVolt", .gap = 0.5, .slider = "slider_Fuel"},
     Distance{
         .first = "PWRSENS/alarmLvl", .second = "PWRSENS/restoreLvl", .gap = 0.5, .slider = "slider_Power"});
 
-constexpr auto kEnables = rulesOf(
-    enable("groupBox_Power_SensLevel Settings_groupBox_Engine checkBox_Fuel_Engine checkBox_Fuel_Level",
-           when("PWRSENS/line")),
-    enable("frame_Slider_Fuel", when("FUEL/sensors", "001|011|101|111")),
-    enable("groupBox_Tuning", when("ENGSENS/useCustom")),
-    enable("frame_NTP_Param_Set frame_NTP_Param_Srv", when("NTP/use")));
+constexpr auto kEnables =
+    rulesOf(enable("checkBox_Fuel_Engine checkBox_Fuel_Level", when("PWRSENS/line")),
+            enable(parts("groupBox_Power_SensLevel Settings_groupBox_Engine"), when("PWRSENS/line")),
+            enable(parts("frame_Slider_Fuel"), when("FUEL/sensors", "001|011|101|111")),
+            enable(parts("groupBox_Tuning"), when("ENGSENS/useCustom")),
+            enable(parts("frame_NTP_Param_Set frame_NTP_Param_Srv"), when("NTP/use")));
 
 } // namespace
 
-constexpr SettingsTable kSystemSettings{
-    .section = "SYSTEM", .rows = kRows, .bounds = kBounds, .distances = kDistances, .enables = kEnables};
+constexpr SettingsTable kSystemSettings = tableOf<kRows, kSets, kDistances, kEnables>("SYSTEM");
 
 } // namespace vlk

@@ -4,7 +4,7 @@ namespace vlk {
 
 namespace {
 
-constexpr Setting degrees(const char* key, double loadDefault)
+constexpr auto degrees(const char* key, double loadDefault)
 {
     return real(key, loadDefault, 1).stepping(0.5).unit("abbr_017").readSingle();
 }
@@ -29,6 +29,6 @@ constexpr auto kDistances = rulesOf(repeat<4>([](int) {
 
 } // namespace
 
-constexpr SettingsTable kTemperatureSettings{.section = "TEMPSENS", .rows = kRows, .distances = kDistances};
+constexpr SettingsTable kTemperatureSettings = tableOf<kRows, kDistances>("TEMPSENS");
 
 } // namespace vlk

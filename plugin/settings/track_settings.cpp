@@ -95,15 +95,15 @@ constexpr auto kEnables =
             enable("Additional_Direction_spinBox_Sec_Value checkBox_TmrFlag_In1 "
                    "Additional_Direction_spinBox_SecStop_Value",
                    when("POINTS/useTimer")),
-            enableAny("Additional_Direction_groupBox_Restriction", when("POINTS/angleMode"),
+            enableAny(parts("Additional_Direction_groupBox_Restriction"), when("POINTS/angleMode"),
                       when("POINTS/useDist"), when("POINTS/useTimer")),
             enable("Restriction_spinBox_Metr_Value", when("LIMPOINT/blockDist")),
             enable("Restriction_spinBox_Sec_Value", when("LIMPOINT/blockTimer")),
-            enable("groupBox_RejectCoord Coord_groupBox_Stop", when("COORDFLT/use")),
-            enable("groupBox_SensorAverage", when("COORDFLT/use"), when("COORDAVER/mode")));
+            enable(parts("groupBox_RejectCoord Coord_groupBox_Stop"), when("COORDFLT/use")),
+            enable(parts("groupBox_SensorAverage"), when("COORDFLT/use"), when("COORDAVER/mode")));
 
 } // namespace
 
-constexpr SettingsTable kTrackSettings{.section = "TRACK", .rows = kRows, .enables = kEnables};
+constexpr SettingsTable kTrackSettings = tableOf<kRows, kEnables>("TRACK");
 
 } // namespace vlk

@@ -71,12 +71,8 @@ constexpr auto kServerRows = repeat<3>([](int number) {
     return rowsOf(
         group("SRV%1"),
         flag("use", 0).resetTo(server.usedAfterReset ? 1 : 0).notStored().in(server.use).caption("cfgt1_023"),
-        shared::host(text("addr", kNoServer))
-            .resetTo("")
-            .savedAs(kNoServer, when("SRV%1/use"))
-            .in(server.address)
-            .caption("cfgt1_026"),
-        integer("port", 4000).range(0, 65536).resetTo(0.0).in(server.port).caption("cfgt1_027"),
+        shared::host(text("addr", kNoServer)).resetTo("").in(server.address).caption("cfgt1_026"),
+        integer("port", 4000).range(0, 65536).resetTo(0).in(server.port).caption("cfgt1_027"),
         choice("protocol", kProtocols, "ZETA")
             .unknownIs("ZETA")
             .noItemIs("VLKB_ZETA")
@@ -88,9 +84,8 @@ constexpr auto kServerRows = repeat<3>([](int number) {
 });
 
 // Ten rows of the list of operators in roaming; a cell that was never filled is empty.
-constexpr auto kRoamingOperators = repeat<kRoamingRows>([](int) {
-    return integer("opCode%1", 0).blankable().resetTo("").inCell("treeWidget_List", 1).caption("cfgt1_106");
-});
+constexpr auto kRoamingOperators = repeat<kRoamingRows>(
+    [](int) { return integer("opCode%1", 0).blankable().inCell("treeWidget_List", 1).caption("cfgt1_106"); });
 
 constexpr auto kRows = rowsOf(
     group("OBJECT"),
@@ -100,7 +95,12 @@ constexpr auto kRows = rowsOf(
         .in("lineEdit_Name")
         .caption("cfgt1_005"),
     kServerRows, group("AP1"), shared::kAccessPoint,
-    text("pin", "").upTo(8).typed("^\\d{0,8}$").in("Transfer_lineEdit_GSM_Pin1").caption("cfgt1_007"),
+    text("pin", "")
+        .secretly()
+        .upTo(8)
+        .typed("^\\d{0,8}$")
+        .in("Transfer_lineEdit_GSM_Pin1")
+        .caption("cfgt1_007"),
 
     group("RULES"), flag("noPriorMsg", 1).in("checkBox_NoToGprs").caption("cfgt1_042"),
     choice("cnctType", kConnectTypes, "1")
@@ -119,7 +119,7 @@ constexpr auto kRows = rowsOf(
     period("blockTimer", 300, kBlock).wrapping(kDay).caption("cfgt1_044"),
     flag("coercCnct", 0).in("Srv_Operation_checkBox_Periodic_Connect_CoercionCnct").caption("cfgt1_041"),
     // Older trackers kept seconds under this name: any number but 0 means on.
-    flag("noCur", 30).keepOnReset().in("checkBox_NoCur").caption("cfgt1_045"),
+    flag("noCur", 30).atReset(OnReset::keepsValue).in("checkBox_NoCur").caption("cfgt1_045"),
     integer("grpTimer", 0)
         .range(1, 300)
         .resetTo(30)
@@ -148,7 +148,7 @@ constexpr auto kRows = rowsOf(
     flag("noSms", 0).in("checkBox_RNoSmsSim_1").caption("cfgt1_056"),
     flag("dontCnct", 0).checkedForZero().in("checkBox_sendData").caption("cfgt1_107"), kRoamingOperators,
 
-    group("CRYPTO"), text("key", "").upTo(32).in("lineEdit_Crypto").caption("cfgt1_048"),
+    group("CRYPTO"), text("key", "").secretly().upTo(32).in("lineEdit_Crypto").caption("cfgt1_048"),
     flag("srv1Mode", 0).in("Transfer_checkBox_Protocol_Crypto_Main").caption("cfgt1_035"),
     flag("srv2Mode", 0).in("Transfer_checkBox_Protocol_Crypto_Reserv_1").caption("cfgt1_035"),
     flag("srv3Mode", 0).in("Transfer_checkBox_Protocol_Crypto_Reserv_2").caption("cfgt1_035"),
@@ -165,47 +165,41 @@ constexpr auto kRows = rowsOf(
 
     shared::apnRows(group("AUTOAPN")));
 
-// Switching a server on or off starts it anew; the operator fills the access point.
-constexpr auto kPulls = repeat<3>([](int) {
-    return rulesOf(Pull{.when = when("SRV%1/use"), .set = "SRV%1/port", .to = "4000"},
-                   Pull{.when = when("SRV%1/use"), .set = "SRV%1/addr", .to = kNoServer},
-                   Pull{.when = unless("SRV%1/use"), .set = "SRV%1/port", .to = "0"},
-                   Pull{.when = unless("SRV%1/use"), .set = "SRV%1/addr", .to = ""});
+// Switching a server on or off starts it anew; one in use is one that has an address in the file.
+constexpr auto kSets = repeat<3>([](int) {
+    return rulesOf(
+        onEdit(when("SRV%1/use"), "SRV%1/port", "4000"), onEdit(when("SRV%1/use"), "SRV%1/addr", kNoServer),
+        onEdit(unless("SRV%1/use"), "SRV%1/port", "0"), onEdit(unless("SRV%1/use"), "SRV%1/addr", ""),
+        afterRead(unless("SRV%1/addr", kNoServer), "SRV%1/use", "1"),
+        onSave(unless("SRV%1/use"), "SRV%1/addr", kNoServer));
 });
 
-constexpr auto kDerived =
-    repeat<3>([](int) { return Derived{.path = "SRV%1/use", .any = {unless("SRV%1/addr", kNoServer)}}; });
-
-constexpr Presets kPresets[] = {{.trigger = "AP1/operator",
-                                 .fields = {"AP1/name", "AP1/login", "AP1/pass"},
-                                 .rows = kOperatorPresets,
-                                 .other = kOtherOperator}};
+constexpr auto kPresets = rulesOf(Presets{.trigger = "AP1/operator",
+                                          .fields = {"AP1/name", "AP1/login", "AP1/pass"},
+                                          .rows = kOperatorPresets,
+                                          .other = kOtherOperator});
 
 constexpr auto kDoubts =
     repeat<3>([](int) { return shared::noPort("SRV%1/port", "SRV%1/addr", when("SRV%1/use")); });
 
-constexpr auto kEnables = rulesOf(
-    repeat<3>([](int number) {
-        return enable(kServers[number - 1].test, when("SRV%1/use"), {"SRV%1/addr", "", false});
-    }),
-    enable("Transfer_lineEdit_GSM_APN_1 Transfer_lineEdit_GSM_Login_1 Transfer_lineEdit_GSM_Psw_1",
-           when("AP1/operator", kOtherOperator)),
-    enable("pushButton_AutoAPN_1", when("AP1/operator", kAutomaticOperator)),
-    enable("Srv_Operation_frame_Permanent_Connect", when("RULES/cnctType")),
-    enable("Srv_Operation_frame_Periodic_Connect", unless("RULES/cnctType")),
-    enableAny("frame_Crypto", when("CRYPTO/srv1Mode"), when("CRYPTO/srv2Mode"), when("CRYPTO/srv3Mode")),
-    enable("checkBox_RNoSmsSim_1 checkBox_RNoCallSim_1 frame_RBlock", unless("ROAMSIM1/mode", "2")),
-    enable("frame_RPerion", when("ROAMSIM1/mode", "3")),
-    enable("frame_RConnectPeriod", when("ROAMSIM1/mode", "1")));
+constexpr auto kEnables =
+    rulesOf(repeat<3>([](int number) {
+                return enable(parts(kServers[number - 1].test), when("SRV%1/use"), when("SRV%1/addr"));
+            }),
+            enable("Transfer_lineEdit_GSM_APN_1 Transfer_lineEdit_GSM_Login_1 Transfer_lineEdit_GSM_Psw_1",
+                   when("AP1/operator", kOtherOperator)),
+            enable(parts("pushButton_AutoAPN_1"), when("AP1/operator", kAutomaticOperator)),
+            enable(parts("Srv_Operation_frame_Permanent_Connect"), when("RULES/cnctType")),
+            enable(parts("Srv_Operation_frame_Periodic_Connect"), unless("RULES/cnctType")),
+            enableAny(parts("frame_Crypto"), when("CRYPTO/srv1Mode"), when("CRYPTO/srv2Mode"),
+                      when("CRYPTO/srv3Mode")),
+            enable("checkBox_RNoSmsSim_1 checkBox_RNoCallSim_1", unless("ROAMSIM1/mode", "2")),
+            enable(parts("frame_RBlock"), unless("ROAMSIM1/mode", "2")),
+            enable(parts("frame_RPerion"), when("ROAMSIM1/mode", "3")),
+            enable(parts("frame_RConnectPeriod"), when("ROAMSIM1/mode", "1")));
 
 } // namespace
 
-constexpr SettingsTable kTransferSettings{.section = "TRANS",
-                                          .rows = kRows,
-                                          .pulls = kPulls,
-                                          .presets = kPresets,
-                                          .derived = kDerived,
-                                          .doubts = kDoubts,
-                                          .enables = kEnables};
+constexpr SettingsTable kTransferSettings = tableOf<kRows, kSets, kPresets, kDoubts, kEnables>("TRANS");
 
 } // namespace vlk

@@ -15,6 +15,6 @@ constexpr auto kRows = rowsOf(slotsOf<0>(), slotsOf<1>(), slotsOf<2>(), slotsOf<
 
 } // namespace
 
-constexpr SettingsTable kUserParamSettings{.section = "PROTOCOL", .rows = kRows, .emptied = false};
+constexpr SettingsTable kUserParamSettings = tableOver<kRows>("PROTOCOL");
 
 } // namespace vlk

@@ -1,8 +1,21 @@
 #include "settings/values.h"
 
+#include "settings/kinds/spelling.h"
+
 #include <algorithm>
 
 namespace vlk {
+
+namespace {
+
+bool isMet(const When& condition, const QString& value)
+{
+    const bool is = !*condition.codes ? !value.isEmpty() && value != QLatin1String("0")
+                                      : isListed(condition.codes, value);
+    return is != condition.negated;
+}
+
+} // namespace
 
 Values::Values(const SettingsTable& table) : layout_(&layoutOf(table)), values_(layout_->rows.size())
 {
@@ -11,8 +24,8 @@ Values::Values(const SettingsTable& table) : layout_(&layoutOf(table)), values_(
         values_[row] = loadDefault(setting(row));
     reset();
     for (int row = 0; row < count(); ++row) {
-        if (setting(row).resets == Setting::Reset::keeps)
-            values_[row] = normalise(setting(row), loadDefault(setting(row)), {}, limits(row)).value;
+        if (layout_->rows[row].base->onReset == OnReset::keepsValue)
+            values_[row] = normalised(row, values_[row], limits(row));
     }
 }
 
@@ -27,78 +40,73 @@ const QString& Values::value(int row) const
 bool Values::isWritten(int row) const
 {
     const TableLayout::Row& place = layout_->rows[row];
-    return place.setting->stored && holds(place.present) &&
-           (place.group < 0 || holds(layout_->groups[place.group].present));
+    const Group& group = *layout_->elements[place.group].group;
+    return place.base->stored && holds(place.base->present) && holds(group.present) &&
+           holds(group.presentToo);
 }
 
-bool Values::isWritten(const TableLayout::Group& group) const
+bool Values::isWritten(const TableLayout::Element& element) const
 {
-    if (!group.unlessEmpty)
-        return true;
-    for (int row = group.firstRow; row < group.endRow; ++row) {
-        const TableLayout::Row& place = layout_->rows[row];
-        if (place.setting->stored && holds(place.present))
-            return true;
-    }
-    return false;
+    if (!element.stored || !holds(element.group->present) || !holds(element.group->presentToo))
+        return false;
+    const auto first = layout_->rows.begin();
+    return element.group->save != ElementSave::anewIfAny ||
+           std::any_of(first + element.firstRow, first + element.endRow, [&](const TableLayout::Row& row) {
+               return row.base->stored && holds(row.base->present);
+           });
 }
 
 QString Values::written(int row, const QString& value) const
 {
-    const TableLayout::Row& place = layout_->rows[row];
-    if (!holds(place.free))
-        return QString::fromLatin1(place.setting->otherwise);
-    QString text = place.setting->blankIsZero && value.isEmpty() ? QStringLiteral("0") : value;
-    for (const TableLayout::MaskPositions& rule : layout_->masks) {
-        if (rule.row != row || !holds(rule.when))
+    for (const Sets* rule : layout_->rows[row].saves) {
+        if (holds(rule->when))
+            return QString::fromLatin1(rule->to);
+    }
+    const Number* number = setting(row).number();
+    QString text = number && number->blankIsZero && value.isEmpty() ? QStringLiteral("0") : value;
+    for (const MaskPositions& rule : table().masks) {
+        if (rule.path.row != row || !holds(rule.when))
             continue;
-        for (const int position : rule.rule->positions) {
+        for (const int position : rule.positions) {
             if (position < text.size())
-                text[position] = QLatin1Char(rule.rule->to);
+                text[position] = QLatin1Char(rule.to);
         }
     }
     return text;
 }
 
-bool Values::isOneOf(const QString& value, const TableLayout::Condition& condition)
-{
-    const bool is = condition.codes.isEmpty() ? !value.isEmpty() && value != QLatin1String("0")
-                                              : condition.codes.contains(value);
-    return is != condition.negated;
-}
-
-bool Values::holds(const TableLayout::Condition& condition) const
+bool Values::holds(const When& condition) const
 {
     if (condition.row < 0)
         return true;
     const QString& value = this->value(condition.row);
-    if (condition.other >= 0)
-        return (value == this->value(condition.other)) != condition.negated;
-    return isOneOf(value, condition);
+    return condition.same ? value == this->value(condition.other) : isMet(condition, value);
 }
 
-bool Values::holds(const std::vector<TableLayout::Condition>& all) const
+template <std::size_t n>
+bool Values::holds(const std::array<When, n>& all) const
 {
-    return std::all_of(all.begin(), all.end(),
-                       [&](const TableLayout::Condition& condition) { return holds(condition); });
+    return std::all_of(all.begin(), all.end(), [&](const When& condition) { return holds(condition); });
 }
 
-bool Values::holds(const TableLayout::Enable& rule) const
+bool Values::holds(const Enable& rule) const
 {
-    const auto one = [&](const TableLayout::Condition& condition) { return holds(condition); };
-    return rule.any ? std::any_of(rule.when.begin(), rule.when.end(), one) : holds(rule.when);
+    if (!rule.any)
+        return holds(rule.when);
+    return std::any_of(rule.when.begin(), rule.when.end(),
+                       [&](const When& condition) { return condition && holds(condition); });
 }
 
 Limits Values::limits(int row) const
 {
     row = holder(row);
     Limits limits = ownLimits(row);
-    for (const TableLayout::SoleList& list : layout_->soleLists) {
+    for (const SharedList& list : layout_->sharedLists) {
         if (!list.triggers[row])
             continue;
-        for (const TableLayout::Sole& sole : list.soles) {
-            if (sole.row == row)
-                limits.taken = takenFrom(list, sole);
+        for (const SharedList::Member& member : list.members) {
+            if (member.rule->path.row == row)
+                limits.taken = takenFrom(list, member);
         }
     }
     return limits;
@@ -107,58 +115,64 @@ Limits Values::limits(int row) const
 // Whatever other settings of a shared list hold.
 Limits Values::ownLimits(int row) const
 {
-    const Setting& setting = this->setting(row);
-    Limits limits{setting.least, setting.most};
-    for (const int index : layout_->rows[row].ranges) {
-        const TableLayout::RangeWhen& rule = layout_->ranges[index];
-        if (holds(rule.when))
-            limits = {rule.rule->least, rule.rule->most, rule.rule->offers};
+    const TableLayout::Row& place = layout_->rows[row];
+    Limits limits;
+    if (const Number* number = place.setting->number())
+        limits = {number->least, number->most};
+    else if (const Choice* choice = this->choice(row))
+        limits.offers = choice->offers;
+    for (const RangeWhen* rule : place.ranges) {
+        if (holds(rule->when))
+            limits = {rule->least, rule->most, rule->offers};
     }
     // Each of two handles leaves the other one its room.
-    for (const int index : layout_->rows[row].distances) {
-        const TableLayout::Distance& rule = layout_->distances[index];
-        if (rule.gapFrom < 0 && row == rule.first)
-            limits.most = this->setting(rule.second).most - rule.gap;
-        else if (rule.gapFrom < 0 && row == rule.second)
-            limits.least = this->setting(rule.first).least + rule.gap;
+    for (const Distance* rule : place.distances) {
+        if (!rule->gapFrom && row == rule->first.row)
+            limits.most = setting(rule->second.row).number()->most - rule->gap;
+        else if (!rule->gapFrom && row == rule->second.row)
+            limits.least = setting(rule->first.row).number()->least + rule->gap;
     }
     return limits;
 }
 
 const char* Values::unitKey(int row) const
 {
-    row = holder(row);
-    const char* unit = setting(row).unitKey;
-    for (const int ranged : layout_->rows[row].ranges) {
-        const TableLayout::RangeWhen& rule = layout_->ranges[ranged];
-        if (rule.rule->unit && holds(rule.when))
-            unit = rule.rule->unit;
+    const TableLayout::Row& place = layout_->rows[holder(row)];
+    const Number* number = place.setting->number();
+    const char* unit = number ? number->unit : nullptr;
+    for (const RangeWhen* rule : place.ranges) {
+        if (rule->unit && holds(rule->when))
+            unit = rule->unit;
     }
     return unit;
 }
 
-void Values::resetRow(int row)
+QString Values::normalised(int row, const QString& text, const Limits& limits, Source source) const
 {
-    const Setting& setting = this->setting(row);
-    if (setting.resets == Setting::Reset::keeps || setting.kind == Kind::link)
-        return;
-    const QString reset = resetValue(setting);
-    values_[row] = setting.none && reset == QLatin1String(setting.none)
-                       ? reset
-                       : normalise(setting, reset, values_[row], ownLimits(row)).value;
+    return normalise(setting(row), {text, values_[row], limits, source}).value;
 }
 
 void Values::reset()
 {
     for (int row = 0; row < count(); ++row)
         resetRow(row);
-    for (const TableLayout::SoleList& list : layout_->soleLists)
-        keepSoles(list, -1, {}, nullptr);
-    for (const TableLayout::Distance& rule : layout_->distances) {
-        if (rule.gapFrom >= 0)
-            keepDistances(rule.gapFrom, nullptr);
+    for (const SharedList& list : layout_->sharedLists)
+        keepShared(list, -1, {}, nullptr);
+    for (const Distance& rule : table().distances) {
+        if (rule.gapFrom)
+            keepDistances(rule.gapFrom.row, nullptr);
     }
-    keepBounds(nullptr);
+    setAll(Moment::always, nullptr);
+}
+
+void Values::resetRow(int row)
+{
+    const Setting& setting = this->setting(row);
+    if (setting.base().onReset == OnReset::keepsValue || setting.is<Link>())
+        return;
+    const QString reset = resetValue(setting);
+    const Choice* choice = setting.as<Choice>();
+    values_[row] = choice && isNoItem(*choice, reset) ? reset : normalised(row, reset, ownLimits(row));
 }
 
 std::vector<Difference> Values::differences(const Values& other) const
@@ -167,8 +181,8 @@ std::vector<Difference> Values::differences(const Values& other) const
     for (int row = 0; row < count(); ++row) {
         const QString before = isWritten(row) ? written(row) : QString();
         const QString after = other.isWritten(row) ? other.written(row) : QString();
-        if (setting(row).stored && before != after)
-            all.push_back({layout_->rows[row].path, row, before, after});
+        if (before != after)
+            all.push_back({layout_->prefix() + layout_->rows[row].path, row, before, after});
     }
     return all;
 }

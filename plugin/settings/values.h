@@ -11,7 +11,6 @@
 // A value is known by its row, counted from 0 in the order of the table, or by its path below the section:
 // "POINTS/angle". All tables together are a Configuration (configuration.h).
 
-#include "settings/normalise.h"
 #include "settings/table_layout.h"
 
 #include <QString>
@@ -56,6 +55,8 @@ public:
     int rowAt(const QString& path) const { return layout_->rowAt(path); }
     const TableLayout::Row& row(int row) const { return layout_->rows[row]; }
     const Setting& setting(int row) const { return *layout_->rows[row].setting; }
+    // Of a choice; null for another kind.
+    const Choice* choice(int row) const { return setting(row).as<Choice>(); }
     // The row that holds the value: of a link its target, else the row itself.
     int holder(int row) const { return layout_->rows[row].target; }
 
@@ -84,44 +85,48 @@ public:
     std::vector<Difference> differences(const Values& other) const;
 
     // Whether the conditions of a rule of the table hold.
-    bool holds(const TableLayout::Enable& rule) const;
-    bool holds(const TableLayout::Doubt& rule) const { return holds(rule.when); }
+    bool holds(const Enable& rule) const;
+    bool holds(const Doubt& rule) const { return holds(rule.when); }
     // The least distance that a rule of the table keeps now, in units of the widget.
-    double gapOf(const TableLayout::Distance& rule) const;
+    double gapOf(const Distance& rule) const;
 
 private:
-    static bool isOneOf(const QString& value, const TableLayout::Condition& condition);
-    bool holds(const TableLayout::Condition& condition) const;
-    bool holds(const std::vector<TableLayout::Condition>& all) const;
-    bool isWritten(const TableLayout::Group& group) const;
+    using SharedList = TableLayout::SharedList;
+    using Changes = std::vector<int>; // rows, each once
+
+    bool holds(const When& condition) const;
+    template <std::size_t n>
+    bool holds(const std::array<When, n>& all) const;
+    bool isRead(const Group& group) const;
+    bool isWritten(const TableLayout::Element& element) const;
     QString written(int row, const QString& value) const;
     Limits ownLimits(int row) const;
-    bool counts(const TableLayout::Sole& sole) const;
-    bool takes(const TableLayout::Sole& other, const TableLayout::Sole& sole) const;
-    QStringList takenFrom(const TableLayout::SoleList& list, const TableLayout::Sole& sole) const;
+    bool counts(const ExclusiveChoice& rule) const { return holds(rule.when) && holds(rule.also); }
+    bool takes(const SharedList::Member& other, const SharedList::Member& member) const;
+    QStringList takenFrom(const SharedList& list, const SharedList::Member& member) const;
+    QString normalised(int row, const QString& text, const Limits& limits,
+                       Source source = Source::file) const;
     void resetRow(int row);
-    void readGroups(const CXmlSection* section, std::vector<ReadNote>* taken,
-                    std::vector<ReadNote>* strangers);
+    void readElements(const CXmlSection* section, std::vector<ReadNote>* taken,
+                      std::vector<ReadNote>* strangers);
     // `element`: null where the file has none.
     void readRow(int row, const CXmlSection* element, std::vector<ReadNote>* notes);
-    void writeGroup(const TableLayout::Group& group, CXmlSection& section) const;
+    void writeElement(const TableLayout::Element& element, CXmlSection& section) const;
 
-    void put(int row, const QString& value, std::vector<int>* changed);
-    void assign(int row, const QString& value, std::vector<int>* changed);
-    void keepDistances(int row, std::vector<int>* changed);
-    void startOver(int row, std::vector<int>* changed);
+    void put(int row, const QString& value, Changes* changed);
+    void assign(int row, const QString& value, Changes* changed);
+    void keepDistances(int row, Changes* changed);
+    void startOver(int row, Changes* changed);
     // After the row, which was worth `before`, has another value; -1: after a reset of all.
-    void keepSoles(const TableLayout::SoleList& list, int row, const QString& before,
-                   std::vector<int>* changed);
+    void keepShared(const SharedList& list, int row, const QString& before, Changes* changed);
     // The code that a setting without a claim gets for one that is taken: the next one that is free now and
     // was before, else the one that has just been given back.
-    QString yielded(const TableLayout::SoleList& list, const TableLayout::Sole& sole, int row,
-                    const QString& before);
-    void keepBounds(std::vector<int>* changed);
-    void change(int row, const QString& text, std::vector<int>* changed);
-    void pull(int row, bool onRead, const QString& before, std::vector<int>* changed);
-    void derive();
-    void settle(const TableLayout::Presets& presets);
+    QString yielded(const SharedList& list, const SharedList::Member& member, int row, const QString& before);
+    void set(const Sets& rule, Changes* changed);
+    void setAll(Moment moment, Changes* changed);
+    void setBy(int row, bool isRead, const QString& before, Changes* changed);
+    void change(int row, const QString& text, Changes* changed);
+    void settle(const Presets& presets);
 
     const TableLayout* layout_;
     std::vector<QString> values_;

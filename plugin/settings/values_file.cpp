@@ -35,46 +35,45 @@ void noteStrangers(const CXmlSection& element, const QString& path, const QStrin
 void noteStrangersIn(const CXmlSection& section, const TableLayout& layout, std::vector<ReadNote>* notes)
 {
     QStringList elements;
-    for (const TableLayout::Group& group : layout.groups) {
-        if (group.stored)
-            elements << group.path.first();
+    for (const TableLayout::Element& element : layout.elements) {
+        if (element.stored)
+            elements << element.path.first();
     }
     noteStrangers(section, layout.section, {QStringLiteral("page")}, elements, notes);
 }
 
-void noteStrangersIn(const CXmlSection& element, const TableLayout& layout, const TableLayout::Group& group,
-                     std::vector<ReadNote>* notes)
+void noteStrangersIn(const CXmlSection& section, const TableLayout& layout,
+                     const TableLayout::Element& element, std::vector<ReadNote>* notes)
 {
     QStringList keys;
-    for (int row = group.firstRow; row < group.endRow; ++row)
+    for (int row = element.firstRow; row < element.endRow; ++row)
         keys << layout.rows[row].key;
     QStringList inside;
-    for (const TableLayout::Group& other : layout.groups) {
-        if (other.path.size() == group.path.size() + 1 && other.path.mid(0, group.path.size()) == group.path)
+    for (const TableLayout::Element& other : layout.elements) {
+        if (other.parent >= 0 && layout.elements[other.parent].path == element.path)
             inside << other.path.last();
     }
-    noteStrangers(element, layout.prefix() + group.path.join(QLatin1Char('/')), keys, inside, notes);
+    noteStrangers(section, layout.prefix() + element.path.join(QLatin1Char('/')), keys, inside, notes);
 }
 
-// The elements of the groups in a document, as far as it has them.
+// The elements of a table in a document, as far as it has them.
 class Elements
 {
 public:
     Elements(const CXmlSection* section, const TableLayout& layout)
-        : section_(section), layout_(layout), opened_(layout.groups.size())
+        : section_(section), layout_(layout), opened_(layout.elements.size())
     {
     }
 
     // Null where the document has none.
-    const CXmlSection* of(int group)
+    const CXmlSection* at(int place)
     {
-        Opened& opened = opened_[group];
+        Opened& opened = opened_[place];
         if (std::exchange(opened.asked, true))
             return opened.element.get();
-        const TableLayout::Group& place = layout_.groups[group];
-        const CXmlSection* parent = place.parent < 0 ? section_ : of(place.parent);
-        if (parent)
-            opened.element = parent->existing(place.path.last());
+        const TableLayout::Element& element = layout_.elements[place];
+        if (const CXmlSection* parent = element.parent < 0 ? section_ : at(element.parent))
+            opened.element = parent->existing(element.path.last());
         return opened.element.get();
     }
 
@@ -103,56 +102,65 @@ void Values::read(const CXmlSection& root, std::vector<ReadNote>* notes)
     if (notes && section && table().emptied)
         noteStrangersIn(*section, *layout_, notes);
     for (const int row : layout_->anew)
-        values_[row] = normalise(setting(row), loadDefault(setting(row)), values_[row], limits(row)).value;
-    for (const TableLayout::Distance& rule : layout_->distances) {
-        if (rule.gapFrom >= 0)
-            values_[rule.gapFrom] = QStringLiteral("0");
+        values_[row] = normalised(row, loadDefault(setting(row)), limits(row));
+    for (const Distance& rule : table().distances) {
+        if (rule.gapFrom)
+            values_[rule.gapFrom.row] = QStringLiteral("0");
     }
     std::vector<ReadNote> taken;
-    readGroups(section, notes ? &taken : nullptr, notes);
-    derive();
-    keepBounds(nullptr);
+    readElements(section, notes ? &taken : nullptr, notes);
+    setAll(Moment::afterRead, nullptr);
+    for (const Presets& presets : table().presets) {
+        if (presets.other || presets.settles)
+            settle(presets);
+    }
+    setAll(Moment::always, nullptr);
     if (!notes)
         return;
     // A value may have found no room beside another, or what came later has moved it.
     for (ReadNote& note : taken) {
         if (const QString& held = value(note.row); held != note.value) {
             note.value = held;
-            note.change = Change::byRule;
+            note.change = held == note.text ? Change::none : Change::byRule;
         }
         if (note.change != Change::none)
             notes->push_back(note);
     }
 }
 
-void Values::readGroups(const CXmlSection* section, std::vector<ReadNote>* taken,
-                        std::vector<ReadNote>* strangers)
+bool Values::isRead(const Group& group) const
+{
+    return group.readOtherwise ? holds(group.readable) && holds(group.readableToo)
+                               : holds(group.present) && holds(group.presentToo);
+}
+
+void Values::readElements(const CXmlSection* section, std::vector<ReadNote>* taken,
+                          std::vector<ReadNote>* strangers)
 {
     Elements elements(section, *layout_);
-    using Late = std::vector<int>;
-    const auto readLate = [&](Late& rows) {
+    const auto readLate = [&](std::vector<int>& rows) {
         for (const int row : rows)
-            readRow(row, elements.of(layout_->rows[row].group), taken);
+            readRow(row, elements.at(layout_->rows[row].group), taken);
         rows.clear();
     };
-    Late late;
-    Late lateOfNumber; // of the repetition that is being read
+    std::vector<int> late;
+    std::vector<int> lateOfNumber; // of the repetition that is being read
     int number = 0;
-    for (int i = 0; i < static_cast<int>(layout_->groups.size()); ++i) {
-        const TableLayout::Group& group = layout_->groups[i];
-        if (std::exchange(number, group.number) != group.number)
+    for (int place = 0; place < static_cast<int>(layout_->elements.size()); ++place) {
+        const TableLayout::Element& element = layout_->elements[place];
+        if (std::exchange(number, element.group->numbers.outer) != element.group->numbers.outer)
             readLate(lateOfNumber);
-        if (!group.stored || !holds(group.readable))
+        if (!element.stored || !isRead(*element.group))
             continue;
-        const CXmlSection* element = elements.of(i);
-        for (int row = group.firstRow; row < group.endRow; ++row) {
-            if (setting(row).last)
+        const CXmlSection* inFile = elements.at(place);
+        for (int row = element.firstRow; row < element.endRow; ++row) {
+            if (layout_->rows[row].base->last)
                 (number > 0 ? lateOfNumber : late).push_back(row);
             else
-                readRow(row, element, taken);
+                readRow(row, inFile, taken);
         }
-        if (strangers && element && !group.kept)
-            noteStrangersIn(*element, *layout_, group, strangers);
+        if (strangers && inFile && element.group->save != ElementSave::keepsOthers)
+            noteStrangersIn(*inFile, *layout_, element, strangers);
     }
     readLate(lateOfNumber);
     readLate(late);
@@ -161,31 +169,27 @@ void Values::readGroups(const CXmlSection* section, std::vector<ReadNote>* taken
 void Values::readRow(int row, const CXmlSection* element, std::vector<ReadNote>* notes)
 {
     const TableLayout::Row& place = layout_->rows[row];
-    const Setting& setting = *place.setting;
-    if (!setting.stored || setting.kind == Kind::constant || !holds(place.present))
+    if (!place.base->stored || place.setting->is<Constant>() || !holds(place.base->present))
         return;
     const QString* found = element ? element->find(place.key) : nullptr;
-    if (!found && setting.stays)
+    if (!found && place.base->missing == Missing::keepsValue)
         return;
-    const bool isAbsent = !element && setting.unlessThere >= 0;
-    const QString missing = found      ? QString()
-                            : isAbsent ? QString::number(setting.unlessThere)
-                                       : loadDefault(setting);
+    const auto* link = place.setting->as<Link>();
+    const QString missing = found ? QString()
+                            : link && !element && link->withoutElement >= 0
+                                ? QString::number(link->withoutElement)
+                                : loadDefault(*place.setting);
     const QString& text = found ? *found : missing;
 
     // A link gives its value to another row, which says what the value can be.
     const int target = place.target;
-    Normalised taken = normalise(this->setting(target), text, values_[target], limits(target));
-    if (setting.boundOnRead && !holds(place.free)) {
-        const QString bound = QString::fromLatin1(setting.otherwise);
-        taken = {bound, bound == text ? Change::none : Change::byRule};
-    }
     const QString before = values_[target];
+    const Normalised taken = normalise(setting(target), {text, before, limits(target)});
     assign(target, taken.value, nullptr);
     if (notes)
         notes->push_back({ReadNote::What::value, place.filePath, row, found ? text : QString(), taken.value,
                           found ? taken.change : Change::missing});
-    pull(target, true, before, nullptr);
+    setBy(target, true, before, nullptr);
 }
 
 void Values::write(CXmlSection& root) const
@@ -200,29 +204,31 @@ void Values::write(CXmlSection& root) const
         section.setString(QStringLiteral("page"), layout_->section);
         section.commit();
     }
-    for (const TableLayout::Group& group : layout_->groups) {
-        if (group.stored && holds(group.present) && isWritten(group))
-            writeGroup(group, section);
+    for (const TableLayout::Element& element : layout_->elements) {
+        if (isWritten(element))
+            writeElement(element, section);
     }
 }
 
-void Values::writeGroup(const TableLayout::Group& group, CXmlSection& section) const
+void Values::writeElement(const TableLayout::Element& element, CXmlSection& section) const
 {
     CXmlSectionPtr parent;
-    for (int depth = 0; depth + 1 < group.path.size(); ++depth)
-        parent = (parent ? *parent : section).child(group.path[depth]);
-    const CXmlSectionPtr element =
+    for (int depth = 0; depth + 1 < element.path.size(); ++depth)
+        parent = (parent ? *parent : section).child(element.path[depth]);
+    const bool keepsOthers = element.group->save == ElementSave::keepsOthers;
+    const CXmlSectionPtr saved =
         (parent ? *parent : section)
-            .child(group.path.last(), group.kept || group.nested ? CXmlNode::Element : CXmlNode::Empty);
-    if (!group.kept)
-        element->clear();
-    for (int row = group.firstRow; row < group.endRow; ++row) {
+            .child(element.path.last(), keepsOthers || element.nested ? CXmlNode::Element : CXmlNode::Empty);
+    if (!keepsOthers)
+        saved->clear();
+    for (int row = element.firstRow; row < element.endRow; ++row) {
         const TableLayout::Row& place = layout_->rows[row];
-        const QString* before = place.setting->carried ? element->find(place.key) : nullptr;
-        if (place.setting->stored && holds(place.present))
-            element->setString(place.key, written(row, before ? *before : value(row)));
+        if (!place.base->stored || !holds(place.base->present))
+            continue;
+        const QString* before = place.base->onSave == OnSave::document ? saved->find(place.key) : nullptr;
+        saved->setString(place.key, written(row, before ? *before : value(row)));
     }
-    element->commit();
+    saved->commit();
 }
 
 } // namespace vlk

@@ -49,14 +49,14 @@ struct Typed
 };
 
 // A number as a person of the other language would type it.
-QString spelled(const vlk::Setting& setting, double number, QLatin1Char sign)
+QString spelled(const vlk::Number& setting, double number, QLatin1Char sign)
 {
     if (setting.hexadecimal)
         return QString::number(static_cast<int>(number), 16);
     return QString::number(number, 'f', setting.decimals).replace('.', sign);
 }
 
-std::vector<Typed> numbersFor(const vlk::Setting& setting, const vlk::Limits& limits, QLatin1Char sign)
+std::vector<Typed> numbersFor(const vlk::Number& setting, const vlk::Limits& limits, QLatin1Char sign)
 {
     const double unit = std::pow(10, -setting.decimals);
     const double inside = limits.least + std::floor((limits.most - limits.least) / 3 / unit) * unit;
@@ -74,7 +74,7 @@ std::vector<Typed> numbersFor(const vlk::Setting& setting, const vlk::Limits& li
 }
 
 // One number a box, with bars between them.
-std::vector<Typed> periodsFor(const vlk::Setting& setting)
+std::vector<Typed> periodsFor(const vlk::Period& setting)
 {
     std::vector<Typed> all;
     for (const int share : {1, 2, 3}) {
@@ -95,9 +95,9 @@ std::vector<Typed> codesForCell()
     return {{"25001", "25001"}, {"2.5", "0"}, {"2,5", "0"}, {"abc", "0"}};
 }
 
-std::vector<Typed> textsFor(const vlk::Setting& setting)
+std::vector<Typed> textsFor(const vlk::Text& setting)
 {
-    if (setting.inputMask)
+    if (setting.mask)
         return {{"a1B2c3D4e5F6", "a1:B2:c3:D4:e5:F6"}, {"0", "0:::::"}};
     const QString pattern = QString::fromLatin1(setting.pattern ? setting.pattern : "");
     if (pattern.contains("\\d"))
@@ -163,30 +163,31 @@ private:
         vlk::Values core(settings.values().table());
         for (int index = 0; index < core.count(); ++index) {
             const vlk::Setting& setting = core.setting(index);
-            const bool isNumber = setting.kind == vlk::Kind::integer || setting.kind == vlk::Kind::real ||
-                                  setting.kind == vlk::Kind::scaled;
-            const bool isPeriod = setting.kind == vlk::Kind::period;
-            if (!isNumber && !isPeriod && setting.kind != vlk::Kind::text)
+            const vlk::Number* number = setting.number();
+            const auto* period = setting.as<vlk::Period>();
+            const auto* text = setting.as<vlk::Text>();
+            if (!number && !period && !text)
                 continue;
             const int key = keyOf(core, index);
             const QByteArray file = fileFor(core, key);
             load(page, core, file);
-            const auto find = [&](const char* name) {
-                return settings.binder().forms().find(vlk::numberedName(name, setting.number, setting.inner),
-                                                      setting.number);
+            const auto find = [&](const vlk::Name& name) {
+                return settings.binder().forms().find(name, setting.base().numbers);
             };
             QList<QWidget*> fields;
-            for (const vlk::PeriodPart& part : setting.parts)
-                fields << find(part.widget);
-            if (!isPeriod)
-                fields << find(setting.widget);
+            if (period) {
+                for (const vlk::PeriodPart& part : period->parts)
+                    fields << find(part.widget);
+            } else {
+                fields << find(setting.shown()->widget);
+            }
             if (fields.contains(nullptr) || !core.isWritten(key) || isReadOnly(fields[0]))
                 continue;
             ++fields_;
-            const auto samples = setting.blankIsZero ? codesForCell()
-                                 : isNumber          ? numbersFor(setting, core.limits(index), sign_)
-                                 : isPeriod          ? periodsFor(setting)
-                                                     : textsFor(setting);
+            const auto samples = number && number->blankIsZero ? codesForCell()
+                                 : number ? numbersFor(*number, core.limits(index), sign_)
+                                 : period ? periodsFor(*period)
+                                          : textsFor(*text);
             for (std::size_t i = 0; i < samples.size(); ++i) {
                 load(page, core, file);
                 switchOn(settings, core, fields[0]);
@@ -216,7 +217,7 @@ private:
     static int keyOf(vlk::Values& core, int index)
     {
         for (int key = index; key < core.count(); ++key) {
-            if (core.holder(key) != index || !core.setting(key).stored)
+            if (core.holder(key) != index || !core.row(key).base->stored)
                 continue;
             core.reset();
             vlk::XmlDocument in(fileFor(core, key), "DEVICE");
@@ -232,10 +233,10 @@ private:
     {
         const vlk::Setting& setting = core.setting(index);
         auto values = presenceOf(core, index);
-        if (core.row(index).free.row >= 0)
-            values.append({core.layout().rows[core.row(index).free.row].filePath, "1"});
-        if (setting.zeroIsOff)
-            values.append({core.row(index).filePath, vlk::fileNumber(setting, std::max(1.0, setting.least))});
+        for (const vlk::Sets* save : core.row(index).saves)
+            values.append({core.row(save->when.row).filePath, "1"});
+        if (const vlk::Number* number = setting.number(); number && number->zeroIsOff)
+            values.append({core.row(index).filePath, vlk::fileNumber(*number, std::max(1.0, number->least))});
         return documentWith(values);
     }
 
@@ -252,18 +253,19 @@ private:
     // Edits what a person would who wants the field enabled: it, and what it stands in.
     static void switchOn(vlk::PageSettings& settings, vlk::Values& core, const QWidget* field)
     {
-        const vlk::TableLayout& layout = settings.values().layout();
         for (const QWidget* widget = field; widget; widget = widget->parentWidget()) {
-            for (const vlk::TableLayout::Enable& rule : layout.enables) {
-                if (!rule.targets.contains(widget->objectName()))
+            for (const vlk::Enable& rule : settings.values().table().enables) {
+                if (!targetNames(rule).contains(widget->objectName()))
                     continue;
-                for (const vlk::TableLayout::Condition& condition : rule.when) {
-                    if (core.holds(rule))
+                for (const vlk::When& condition : rule.when) {
+                    if (core.holds(rule) || !condition)
                         break;
-                    QString code = condition.negated ? QString("0") : condition.codes.value(0, "1");
-                    for (const vlk::Code& other : core.setting(condition.row).codes) {
-                        if (condition.negated && condition.codes.contains(code))
-                            code = other.code;
+                    const QStringList codes = codesOf(condition);
+                    QString code = condition.negated ? QString("0") : codes.value(0, "1");
+                    const vlk::Choice* choice = core.choice(condition.row);
+                    for (std::size_t i = 0; choice && i < choice->codes.size(); ++i) {
+                        if (condition.negated && codes.contains(code))
+                            code = choice->codes[i].code;
                     }
                     settings.binder().set(condition.row, code);
                     core.edit(condition.row, code);
@@ -313,7 +315,8 @@ private:
             type(field, "<All>" + keys + end);
             return;
         }
-        const QModelIndex cell = tree->model()->index(setting.number - 1, setting.column);
+        const QModelIndex cell =
+            tree->model()->index(setting.base().numbers.outer - 1, setting.base().column);
         tree->setCurrentIndex(cell);
         QTest::keyClick(tree, Qt::Key_F2);
         auto* editor = tree->viewport()->findChild<QLineEdit*>();

@@ -97,7 +97,7 @@ private Q_SLOTS:
         for (std::size_t i = 0; i < fresh.tables().size(); ++i) {
             const vlk::Values& table = fresh.tables()[i];
             for (const vlk::Difference& difference : table.differences(after.tables()[i]))
-                QVERIFY2(table.setting(difference.row).resets == vlk::Setting::Reset::keeps,
+                QVERIFY2(table.row(difference.row).base->onReset == vlk::OnReset::keepsValue,
                          qPrintable(difference.path));
         }
         forEachPage([](auto& page) { compareWidgets(page); });
@@ -111,19 +111,20 @@ private:
         const vlk::Binder& binder = page.settings().binder();
         QCOMPARE(binder.disagreements().join('\n'), QString());
         QHash<QString, int> rules;
-        const auto& enables = binder.values().layout().enables;
+        const auto& enables = binder.values().table().enables;
         for (const auto& rule : enables) {
-            for (const QString& target : rule.targets)
+            for (const QString& target : targetNames(rule))
                 ++rules[target];
         }
         for (const auto& rule : enables) {
-            for (const QString& target : rule.targets) {
+            for (const QString& target : targetNames(rule)) {
                 const auto widgets = page.template findChildren<QWidget*>(target);
                 if (widgets.size() != 1 || rules[target] != 1)
                     continue;
                 const QWidget* widget = widgets[0];
-                const bool on =
-                    rule.shows ? !widget->isHidden() : widget->isEnabledTo(widget->parentWidget());
+                const bool on = rule.effect == vlk::Enable::Effect::shown
+                                    ? !widget->isHidden()
+                                    : widget->isEnabledTo(widget->parentWidget());
                 QVERIFY2(on == binder.values().holds(rule), qPrintable(target));
             }
         }

@@ -2,7 +2,6 @@
 // else took from the definition of the file: what both say of a key has to agree.
 
 #include "settings/all_settings.h"
-#include "settings/normalise.h"
 #include "settings/quick_settings.h"
 #include "settings/user_param_settings.h"
 #include "support/files.h"
@@ -86,22 +85,15 @@ bool isFree(const QString& text)
 QStringList widgetsOf(const vlk::Setting& setting)
 {
     QStringList names;
-    const auto add = [&](const char* name) {
-        if (name && *name)
-            names << vlk::numberedName(name, setting.number, setting.inner).section('/', -1);
-    };
-    add(setting.companion);
-    add(setting.widget);
-    for (const vlk::Code& code : setting.codes)
-        add(code.widget);
-    for (const vlk::PeriodPart& part : setting.parts)
-        add(part.widget);
-    for (const vlk::Position& position : setting.positions) {
-        for (const char* name : {position.widget, position.box})
-            add(name);
+    vlk::tables::eachWidget(setting, [&](std::string_view, std::string_view widget, vlk::Numbers numbers) {
+        names << vlk::numberedName(widget, numbers);
+    });
+    if (const vlk::Shown* shown = setting.shown(); shown && shown->column > 0)
+        names << shown->widget.tail;
+    if (const auto* mask = setting.as<vlk::Mask>()) {
+        for (const vlk::MaskField& field : mask->fields)
+            names << vlk::numberedName(field.widget, field.number);
     }
-    for (const vlk::MaskField& field : setting.fields)
-        names << vlk::numberedName(field.widget, field.number, 0);
     return names;
 }
 
@@ -153,7 +145,7 @@ private Q_SLOTS:
             for (const GoldenKey& key : golden.keys()) {
                 const auto row =
                     std::find_if(layout.rows.begin(), layout.rows.end(), [&](const auto& candidate) {
-                        return candidate.filePath == key.path && candidate.setting->stored &&
+                        return candidate.filePath == key.path && candidate.base->stored &&
                                !known[&candidate - layout.rows.data()];
                     });
                 if (row == layout.rows.end()) {
@@ -171,7 +163,7 @@ private Q_SLOTS:
             const auto& place = layout.rows[row];
             // The quick window's list of access points has the rows of the full one's.
             const bool isKnown = known[row] || (section.isEmpty() && place.path.contains("/AUTOAPN/"));
-            if (place.setting->stored && place.key != "page" && !isKnown)
+            if (place.base->stored && place.key != "page" && !isKnown)
                 wrong << place.path + ": not in the golden table";
         }
         QVERIFY2(wrong.isEmpty(), qPrintable('\n' + wrong.join('\n')));
@@ -187,7 +179,7 @@ private Q_SLOTS:
             golden << key.path + '=' + plain(key.load);
         QStringList rows;
         for (int i = 0; i < slots.count(); ++i)
-            rows << slots.row(i).path + '=' + slots.value(i);
+            rows << "PROTOCOL/" + slots.row(i).path + '=' + slots.value(i);
         QCOMPARE(rows, golden);
     }
 
@@ -214,18 +206,18 @@ private:
         const QString reset = key.reset == "=" ? key.load : key.reset;
         // A form that is not on show is reset too.
         const bool hidden =
-            !values_.layout().groups[values_.row(index).group].present.empty() && reset != "absent";
+            values_.layout().elements[values_.row(index).group].group->present && reset != "absent";
         const bool written = hidden || values_.isWritten(index);
         if (key.reset == "-")
-            check("reset", row.resets == vlk::Setting::Reset::keeps ? "-" : "resets", "-");
+            check("reset", row.base().onReset == vlk::OnReset::keepsValue ? "-" : "resets", "-");
         else if (!isFree(reset))
             check("reset", written ? values_.written(index) : "absent", plain(reset));
         if (!key.values.isEmpty())
             check("values", valuesOf(holder, index, key), key.values);
         QStringList widgets = widgetsOf(holder);
         // A box that says whether the value counts at all is a setting of its own.
-        if (const int box = values_.row(index).free.row; box >= 0)
-            widgets += widgetsOf(*values_.layout().rows[box].setting);
+        for (const vlk::Sets* save : values_.row(index).saves)
+            widgets += widgetsOf(values_.setting(save->when.row));
         for (const QString& widget : key.widgets) {
             if (!widgets.contains(widget))
                 *wrong << key.path + ": not in " + widget;
@@ -234,27 +226,16 @@ private:
 
     static QString kindOf(const vlk::Setting& row, const vlk::Setting& holder)
     {
-        switch (row.kind == vlk::Kind::link ? holder.kind : row.kind) {
-        case vlk::Kind::constant:
-            return "constant";
-        case vlk::Kind::flag:
-            return "flag";
-        case vlk::Kind::integer:
-        case vlk::Kind::scaled:
-            return "integer";
-        case vlk::Kind::real:
-            return QString("real%1").arg(holder.decimals);
-        case vlk::Kind::choice:
-            return "choice";
-        case vlk::Kind::period:
-            return "period";
-        case vlk::Kind::digits:
-            return "digits";
-        case vlk::Kind::mask:
-            return "mask";
-        default:
-            return "text";
-        }
+        const vlk::Setting& own = row.is<vlk::Link>() ? holder : row;
+        if (const vlk::Number* number = own.number())
+            return number->isText ? QString("real%1").arg(number->decimals) : QString("integer");
+        return own.is<vlk::Constant>() ? "constant"
+               : own.is<vlk::Flag>()   ? "flag"
+               : own.is<vlk::Choice>() ? "choice"
+               : own.is<vlk::Period>() ? "period"
+               : own.is<vlk::Digits>() ? "digits"
+               : own.is<vlk::Mask>()   ? "mask"
+                                       : "text";
     }
 
     // What a save writes after a load of a file that lacks the key, the row's own conditions met.
@@ -270,57 +251,15 @@ private:
 
     QString valuesOf(const vlk::Setting& row, int index, const GoldenKey& key) const
     {
-        switch (row.kind) {
-        case vlk::Kind::flag:
-            return row.inverted ? "1|0" : QString("0|%1").arg(row.on);
-        case vlk::Kind::integer:
-        case vlk::Kind::scaled:
-        case vlk::Kind::real: {
-            // Two values that keep a distance share the scale of their handles.
-            vlk::Limits ends{row.least, row.most};
-            const vlk::TableLayout& layout = values_.layout();
-            for (const auto& rule : layout.distances) {
-                if (rule.first == index || rule.second == index)
-                    ends = {layout.rows[rule.first].setting->least, layout.rows[rule.second].setting->most};
-            }
-            // The range that holds where the element of the key is.
-            const vlk::TableLayout::Row& place = values_.row(index);
-            for (const auto& rule : layout.ranges) {
-                const auto& present = layout.groups[place.group].present;
-                if (rule.row == place.target && !present.empty() && rule.when.row == present[0].row &&
-                    rule.when.codes == present[0].codes)
-                    ends = {rule.rule->least, rule.rule->most};
-            }
-            if (row.hexadecimal)
-                return vlk::fileNumber(row, ends.least) + ".." + vlk::fileNumber(row, ends.most);
-            const double factor = row.factor;
-            const QString range =
-                QString("%1..%2")
-                    .arg(QString::number(ends.least * factor, 'g', 12))
-                    .arg(key.values.endsWith("..") ? QString()
-                                                   : QString::number(ends.most * factor, 'g', 12));
-            return row.zeroIsOff ? "0|" + range : range;
-        }
-        case vlk::Kind::choice: {
-            QStringList offered;
-            QStringList known;
-            for (const vlk::Code& code : row.codes)
-                (vlk::offersCode(row, code) ? offered : known) << (*code.code ? code.code : "\"\"");
-            // A list that another setting gives.
-            if (row.offers && !*row.offers)
-                return QString("%1|%2..%3").arg(row.none, known.first(), known.last());
-            // The order of boxes is that of the form.
-            if (row.codes[0].widget || row.codes.back().widget) {
-                const QStringList golden = key.values.split('|');
-                std::sort(offered.begin(), offered.end(), [&](const QString& a, const QString& b) {
-                    return golden.indexOf(a) < golden.indexOf(b);
-                });
-            }
-            return offered.join('|') + (known.isEmpty() ? QString() : QString(" (%1)").arg(known.join('|')));
-        }
-        case vlk::Kind::period: {
+        if (const auto* flag = row.as<vlk::Flag>())
+            return flag->inverted ? "1|0" : QString("0|%1").arg(flag->on);
+        if (row.number())
+            return rangeOf(*row.number(), index, key);
+        if (const auto* choice = row.as<vlk::Choice>())
+            return codesOf(*choice, key);
+        if (const auto* period = row.as<vlk::Period>()) {
             QStringList parts;
-            for (const vlk::PeriodPart& part : row.parts)
+            for (const vlk::PeriodPart& part : period->parts)
                 parts << QString("%1..%2 %3")
                              .arg(part.least)
                              .arg(part.most)
@@ -329,20 +268,66 @@ private:
                                                          : "d");
             return parts.join(", ");
         }
-        case vlk::Kind::digits: {
-            const auto boxes = std::count_if(row.positions.begin(), row.positions.end(),
-                                             [](const vlk::Position& position) { return position.widget; });
-            return QString("%1 of %2").arg(boxes).arg(row.positions.size());
+        if (const auto* digits = row.as<vlk::Digits>()) {
+            const auto boxes =
+                std::count_if(digits->positions.begin(), digits->positions.end(),
+                              [](const vlk::Position& position) { return bool(position.widget); });
+            return QString("%1 of %2").arg(boxes).arg(digits->positions.size());
         }
-        case vlk::Kind::mask:
-            return QString::number(row.maxLength);
-        case vlk::Kind::text:
-            return row.inputMask ? QString("mask ") + row.inputMask
-                   : row.pattern ? QString("/%1/").arg(row.pattern)
-                                 : QString("max %1").arg(row.maxLength);
-        default:
-            return {};
+        if (const auto* mask = row.as<vlk::Mask>())
+            return QString::number(mask->length);
+        if (const auto* text = row.as<vlk::Text>())
+            return text->mask      ? QString("mask ") + text->mask
+                   : text->pattern ? QString("/%1/").arg(text->pattern)
+                                   : QString("max %1").arg(text->maxLength);
+        return {};
+    }
+
+    QString rangeOf(const vlk::Number& row, int index, const GoldenKey& key) const
+    {
+        // Two values that keep a distance share the scale of their handles.
+        vlk::Limits ends{row.least, row.most};
+        for (const vlk::Distance* rule : values_.row(index).distances) {
+            if (rule->gapFrom.row != index)
+                ends = {values_.setting(rule->first.row).number()->least,
+                        values_.setting(rule->second.row).number()->most};
         }
+        // The range that holds where the element of the key is.
+        const vlk::TableLayout::Row& place = values_.row(index);
+        const vlk::When& present = values_.layout().elements[place.group].group->present;
+        for (const vlk::RangeWhen* rule : values_.row(place.target).ranges) {
+            if (present && rule->when.row == present.row && QString(rule->when.codes) == present.codes)
+                ends = {rule->least, rule->most};
+        }
+        if (row.hexadecimal)
+            return vlk::fileNumber(row, ends.least) + ".." + vlk::fileNumber(row, ends.most);
+        const double factor = row.factor;
+        const QString range =
+            QString("%1..%2")
+                .arg(QString::number(ends.least * factor, 'g', 12))
+                .arg(key.values.endsWith("..") ? QString() : QString::number(ends.most * factor, 'g', 12));
+        return row.zeroIsOff ? "0|" + range : range;
+    }
+
+    static QString codesOf(const vlk::Choice& row, const GoldenKey& key)
+    {
+        vlk::Limits limits;
+        limits.offers = row.offers;
+        QStringList offered;
+        QStringList known;
+        for (const vlk::Code& code : row.codes)
+            (vlk::offersCode(code, limits) ? offered : known) << (*code.code ? code.code : "\"\"");
+        // A list that another setting gives.
+        if (row.offers && !*row.offers)
+            return QString("%1|%2..%3").arg(row.none, known.first(), known.last());
+        // The order of boxes is that of the form.
+        if (row.codes[0].widget || row.codes.back().widget) {
+            const QStringList golden = key.values.split('|');
+            std::sort(offered.begin(), offered.end(), [&](const QString& a, const QString& b) {
+                return golden.indexOf(a) < golden.indexOf(b);
+            });
+        }
+        return offered.join('|') + (known.isEmpty() ? QString() : QString(" (%1)").arg(known.join('|')));
     }
 
     vlk::Values values_{*vlk::allSettings().front()};

@@ -12,37 +12,65 @@ inline QStringList hostileTexts()
             " 12", "+3", "0x10"};
 }
 
-inline QStringList samplesOf(const vlk::Setting& setting)
+// Each kind of row has its own beside those.
+template <vlk::IsStructure Row>
+QStringList samplesOf(const Row&)
 {
-    QStringList texts = hostileTexts();
-    const auto add = [&](double value) {
-        texts << vlk::fileNumber(setting, value) << QString::number(value);
-    };
-    for (const double end : {setting.least, setting.most}) {
+    return {};
+}
+inline QStringList samplesOf(const vlk::Flag& flag)
+{
+    return {QString::number(flag.on)};
+}
+inline QStringList samplesOf(const vlk::Number& number)
+{
+    QStringList texts;
+    const auto add = [&](double value) { texts << vlk::fileNumber(number, value) << QString::number(value); };
+    for (const double end : {number.least, number.most}) {
         for (const double step : {-1.0, -0.01, 0.0, 0.04, 0.06, 1.0})
             add(end + step);
     }
-    add((setting.least + setting.most) / 2);
-    for (const vlk::Code& code : setting.codes)
+    add((number.least + number.most) / 2);
+    return texts;
+}
+inline QStringList samplesOf(const vlk::Text&)
+{
+    return {QString(200, '1'), "a <b> & \"c\" 'd'", "Грузовик №1", "%1"};
+}
+inline QStringList samplesOf(const vlk::Choice& choice)
+{
+    QStringList texts;
+    for (const vlk::Code& code : choice.codes)
         texts << code.code << QString(code.code).toLower() << QString(code.code) + ' ';
-    for (const vlk::PeriodPart& part : setting.parts) {
+    return texts;
+}
+inline QStringList samplesOf(const vlk::Period& period)
+{
+    QStringList texts;
+    for (const vlk::PeriodPart& part : period.parts) {
         for (const int count : {part.least, part.most, part.most + 1})
             texts << QString::number(static_cast<qint64>(count) * part.seconds) << QString::number(count);
     }
-    for (const char* digits : {"1", "0102", "111111111111111111111", "2222", "x1x1", "99"})
-        texts << digits;
-    if (setting.kind == vlk::Kind::text || setting.kind == vlk::Kind::mask)
-        texts << QString(200, '1') << "a <b> & \"c\" 'd'"
-              << "Грузовик №1"
-
-              << "%1";
-    // Every length matters, and so does each position on its own.
-    if (setting.kind == vlk::Kind::mask) {
-        for (const int length : {50, 122, 255, 256, 300})
-            texts << QString(length, '1') << QString("01").repeated(length).left(length);
-        for (const vlk::MaskField& field : setting.fields)
-            texts << QString(field.positions[0], '0') + '9';
-    }
+    return texts;
+}
+inline QStringList samplesOf(const vlk::Digits&)
+{
+    return {"1", "0102", "111111111111111111111", "2222", "x1x1", "99"};
+}
+// Every length matters, and so does each position on its own.
+inline QStringList samplesOf(const vlk::Mask& mask)
+{
+    QStringList texts = samplesOf(vlk::Text()) + samplesOf(vlk::Digits());
+    for (const int length : {50, 122, 255, 256, 300})
+        texts << QString(length, '1') << QString("01").repeated(length).left(length);
+    for (const vlk::MaskField& field : mask.fields)
+        texts << QString(field.positions[0], '0') + '9';
+    return texts;
+}
+inline QStringList samplesOf(const vlk::Setting& setting)
+{
+    QStringList texts =
+        hostileTexts() + std::visit([](const auto& row) { return samplesOf(row); }, setting.kind);
     texts.removeDuplicates();
     return texts;
 }
@@ -62,17 +90,24 @@ inline QByteArray documentWith(const QVector<QPair<QString, QString>>& values)
     return document.text();
 }
 
+inline QStringList codesOf(const vlk::When& condition)
+{
+    return QString(condition.codes).split('|', Qt::SkipEmptyParts);
+}
+
 // What has to stand in a file so that a row of it is read: the values that the row and its element ask for.
 inline QVector<QPair<QString, QString>> presenceOf(const vlk::Values& table, int index)
 {
     const vlk::TableLayout& layout = table.layout();
     const vlk::TableLayout::Row& row = table.row(index);
+    const vlk::Group& group = *layout.elements[row.group].group;
     QVector<QPair<QString, QString>> values;
-    for (const auto& conditions : {layout.groups[row.group].readable, row.present}) {
-        for (const auto& condition : conditions) {
-            if (!condition.negated)
-                values.append({layout.rows[condition.row].filePath, condition.codes.value(0, "1")});
-        }
+    for (const vlk::When& condition :
+         {group.readOtherwise ? group.readable : group.present,
+          group.readOtherwise ? group.readableToo : group.presentToo, row.base->present}) {
+        if (condition && !condition.negated)
+            values.append(
+                {layout.rows[condition.row].filePath, *condition.codes ? codesOf(condition)[0] : "1"});
     }
     return values;
 }

@@ -11,16 +11,6 @@ namespace vlk {
 
 Adapter::Adapter(Edits& edits, int row) : edits_(edits), row_(row) {}
 
-const Setting& Adapter::setting() const
-{
-    return values().setting(row_);
-}
-
-const Values& Adapter::values() const
-{
-    return edits_.values();
-}
-
 void Adapter::edited(const QString& value)
 {
     edits_.edited(row_, value);
@@ -28,14 +18,14 @@ void Adapter::edited(const QString& value)
 
 void Adapter::caption(QWidget* widget, const QString& suffix)
 {
-    caption(widget, setting().captionKey, setting().captionFormat, suffix);
+    caption(widget, shown().captionKey, shown().captionFormat, suffix);
 }
 
 void Adapter::caption(QWidget* widget, const char* key, const char* format, const QString& suffix)
 {
     if (!key || !*key)
         return;
-    const Caption parts = captionParts(key, format, setting().number);
+    const Caption parts = captionParts(key, format, shown().numbers.outer);
     const QString plain = inOneLine(parts.before + QLatin1Char(' ') + parts.after);
     widget->setAccessibleName(suffix.isEmpty() ? plain : QStringLiteral("%1, %2").arg(plain, suffix));
     if (QLabel* label = edits_.forms().labelOf(widget))

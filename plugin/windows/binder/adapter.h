@@ -8,9 +8,34 @@
 #include <QObject>
 #include <QStringList>
 
+#include <functional>
+#include <memory>
+
 class QWidget;
 
 namespace vlk {
+
+class Adapter;
+
+// What an adapter is made of; each kind of row has its adapterFor() beside its adapter.
+struct Joint
+{
+    Edits& edits;
+    int row;
+    std::function<QWidget*(const Name&)> find;
+
+    template <class Widget>
+    Widget* findAs(const Name& name) const
+    {
+        return qobject_cast<Widget*>(find(name));
+    }
+};
+
+template <IsStructure Row>
+std::unique_ptr<Adapter> adapterFor(const Row&, const Joint&)
+{
+    return nullptr;
+}
 
 class Adapter : public QObject
 {
@@ -36,8 +61,8 @@ public:
     virtual QString held() const = 0;
 
 protected:
-    const Setting& setting() const;
-    const Values& values() const;
+    const Shown& shown() const { return *values().setting(row_).shown(); }
+    const Values& values() const { return edits_.values(); }
     // Hands a value to the binder, which ignores it while it shows values itself.
     void edited(const QString& value);
     // The caption goes to the label of the widget, to the widget itself if it has a text, and else to screen

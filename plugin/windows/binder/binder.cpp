@@ -52,104 +52,74 @@ Binder::~Binder() = default;
 
 bool Binder::isLate(const Setting& setting) const
 {
-    const auto isLate = [&](const char* name) {
-        return name && forms_.isLate(numberedName(name, setting.number, setting.inner));
-    };
-    const auto anyOf = [&](const auto& boxes) {
-        return std::any_of(boxes.begin(), boxes.end(), [&](const auto& box) { return isLate(box.widget); });
-    };
-    return isLate(setting.widget) || anyOf(setting.codes) || anyOf(setting.positions) || anyOf(setting.parts);
+    bool late = false;
+    tables::eachWidget(setting, [&](std::string_view form, std::string_view, Numbers numbers) {
+        late = late || forms_.isLate(numberedName(form, numbers));
+    });
+    return late;
 }
 
 std::unique_ptr<Adapter> Binder::makeAdapter(int row)
 {
     const Setting& setting = values_.setting(row);
     const QString& path = layout_.rows[row].path;
-    const auto found = [&](const char* name) {
-        const QString object = numberedName(name, setting.number, setting.inner);
-        QWidget* widget = forms_.find(object, setting.number);
-        if (!widget && !object.isEmpty())
-            problems_ << QStringLiteral("%1: no widget %2").arg(path, object);
+    bool found = false;
+    const auto find = [&](const Name& name) {
+        QWidget* widget = forms_.find(name, setting.base().numbers);
+        found = found || widget;
+        if (!widget && name)
+            problems_ << QStringLiteral("%1: no widget %2").arg(path, QLatin1String(name.tail));
         return widget;
     };
-    const auto boxesOf = [&](const auto& list) {
-        std::vector<QWidget*> boxes;
-        for (const auto& entry : list)
-            boxes.push_back(found(entry.widget));
-        return boxes;
-    };
-    const bool overBoxes =
-        setting.kind == Kind::choice && std::any_of(setting.codes.begin(), setting.codes.end(),
-                                                    [](const Code& code) { return code.widget != nullptr; });
-    if (overBoxes)
-        return std::make_unique<ExclusiveAdapter>(*this, row, boxesOf(setting.codes));
-    if (setting.kind == Kind::digits) {
-        std::vector<QWidget*> checks;
-        for (const Position& position : setting.positions)
-            checks.push_back(found(position.box));
-        return std::make_unique<PositionsAdapter>(*this, row, boxesOf(setting.positions), checks);
+    const Joint joint{*this, row, find};
+    if (const Shown* shown = setting.shown(); shown && shown->column > 0) {
+        auto* tree = joint.findAs<QTreeWidget>(shown->widget);
+        return tree ? std::make_unique<CellAdapter>(joint, tree) : nullptr;
     }
-    if (setting.kind == Kind::period) {
-        const std::vector<QWidget*> boxes = boxesOf(setting.parts);
-        if (std::find(boxes.begin(), boxes.end(), nullptr) != boxes.end())
-            return nullptr;
-        return std::make_unique<PeriodAdapter>(*this, row, boxes);
-    }
-    QWidget* widget = found(setting.widget);
-    if (!widget)
-        return nullptr;
-    if (auto* tree = qobject_cast<QTreeWidget*>(widget))
-        return std::make_unique<CellAdapter>(*this, row, tree);
-    if (auto* shown = dynamic_cast<MaskWidget*>(widget); shown && setting.kind == Kind::mask)
-        return std::make_unique<MaskAdapter>(*this, row, widget, shown);
-    if (setting.kind == Kind::flag)
-        return std::make_unique<FlagAdapter>(*this, row, widget);
-    if (auto* box = qobject_cast<QComboBox*>(widget); box && setting.kind == Kind::choice)
-        return std::make_unique<ChoiceAdapter>(*this, row, box);
-    if (auto* edit = qobject_cast<QLineEdit*>(widget); edit && setting.kind == Kind::text)
-        return std::make_unique<TextAdapter>(*this, row, edit);
-    if (setting.kind == Kind::integer || setting.kind == Kind::real || setting.kind == Kind::scaled)
-        return std::make_unique<NumberAdapter>(*this, row, widget, found(setting.companion));
-    problems_ << QStringLiteral("%1: %2 is no widget for it").arg(path, widget->objectName());
-    return nullptr;
+    auto adapter = std::visit([&](const auto& kind) { return adapterFor(kind, joint); }, setting.kind);
+    if (!adapter && found)
+        problems_ << QStringLiteral("%1: its widget is of another kind").arg(path);
+    return adapter;
 }
 
 void Binder::bind()
 {
     const Showing showing(showing_);
-    problems_ = layout_.problems;
+    problems_.clear();
     for (std::size_t row = 0; row < adapters_.size(); ++row) {
-        const Setting& setting = *layout_.rows[row].setting;
-        if (!adapters_[row] && setting.kind != Kind::link && !isLate(setting))
+        if (!adapters_[row] && !isLate(*layout_.rows[row].setting))
             adapters_[row] = makeAdapter(static_cast<int>(row));
     }
     handles_.clear();
-    for (const TableLayout::Distance& rule : layout_.distances) {
-        const Setting& setting = *layout_.rows[rule.first].setting;
-        auto* slider = qobject_cast<VLK_DblSlider2*>(forms_.find(rule.slider, setting.number));
-        if (slider)
+    for (const Distance& rule : values_.table().distances) {
+        if (!rule.slider)
+            continue;
+        if (auto* slider = qobject_cast<VLK_DblSlider2*>(forms_.find(rule.slider, rule.numbers)))
             handles_.push_back(std::make_unique<HandlesAdapter>(*this, rule, slider));
-        else if (!rule.slider.isEmpty())
-            problems_ << QStringLiteral("no slider %1").arg(rule.slider);
+        else
+            problems_ << QStringLiteral("no slider %1").arg(QLatin1String(rule.slider.tail));
     }
     targets_.clear();
-    for (const TableLayout::Enable& rule : layout_.enables) {
-        for (const QString& name : rule.targets) {
-            QWidget* widget = forms_.find(name, rule.number);
-            if (!widget) {
-                if (!forms_.isLate(name))
-                    problems_ << QStringLiteral("no widget %1 to enable").arg(name);
-                continue;
-            }
-            const auto known = std::find_if(targets_.begin(), targets_.end(), [&](const Target& target) {
-                return target.widget == widget && target.shows == rule.shows;
-            });
-            if (known == targets_.end())
-                targets_.push_back({widget, forms_.labelOf(widget), rule.shows, {&rule}});
-            else
-                known->rules.push_back(&rule);
+    for (const Enable& rule : values_.table().enables) {
+        const QString form = numberedName(rule.targets.form, rule.numbers);
+        for (const QString& name : targetNames(rule)) {
+            if (QWidget* widget = forms_.find(form, name, rule.numbers.outer))
+                addTarget(widget, rule);
+            else if (!forms_.isLate(form))
+                problems_ << QStringLiteral("no widget %1 to enable").arg(name);
         }
     }
+}
+
+void Binder::addTarget(QWidget* widget, const Enable& rule)
+{
+    const auto known = std::find_if(targets_.begin(), targets_.end(), [&](const Target& target) {
+        return target.widget == widget && target.effect == rule.effect;
+    });
+    if (known == targets_.end())
+        targets_.push_back({widget, forms_.labelOf(widget), rule.effect, {&rule}});
+    else
+        known->rules.push_back(&rule);
 }
 
 void Binder::join(QWidget* form)
@@ -179,12 +149,10 @@ void Binder::dress()
         if (adapter)
             adapter->dress();
     }
-    for (const TableLayout::RangeWhen& rule : layout_.ranges)
-        ranges_[rule.row] = rangeOf(rule.row);
-    for (const TableLayout::SoleList& list : layout_.soleLists) {
-        for (const TableLayout::Sole& sole : list.soles)
-            ranges_[sole.row] = rangeOf(sole.row);
-    }
+    for (const RangeWhen& rule : values_.table().ranges)
+        ranges_[rule.path.row] = rangeOf(rule.path.row);
+    for (const ExclusiveChoice& rule : values_.table().exclusives)
+        ranges_[rule.path.row] = rangeOf(rule.path.row);
 }
 
 Binder::Range Binder::rangeOf(int row) const
@@ -218,16 +186,10 @@ void Binder::show()
             if (!layout_.rows[row].ranges.empty())
                 dressRanged(static_cast<int>(row));
         }
-        for (const TableLayout::SoleList& list : layout_.soleLists)
-            dressList(list);
+        for (const ExclusiveChoice& rule : values_.table().exclusives)
+            dressRanged(rule.path.row);
     }
     evaluateRules();
-}
-
-void Binder::dressList(const TableLayout::SoleList& list)
-{
-    for (const TableLayout::Sole& sole : list.soles)
-        dressRanged(sole.row);
 }
 
 void Binder::showRow(int row)
@@ -238,23 +200,21 @@ void Binder::showRow(int row)
 
 void Binder::evaluateRules()
 {
-    for (const TableLayout::Doubt& rule : layout_.doubts) {
-        if (adapters_[rule.row])
-            adapters_[rule.row]->doubt(
-                values_.holds(rule) ? QCoreApplication::translate("vlk", rule.rule->complaint) : QString());
+    for (const Doubt& rule : values_.table().doubts) {
+        if (adapters_[rule.path.row])
+            adapters_[rule.path.row]->doubt(
+                values_.holds(rule) ? QCoreApplication::translate("vlk", rule.complaint) : QString());
     }
     for (const Target& target : targets_) {
         if (!target.widget)
             continue;
         const bool allowed = std::all_of(target.rules.begin(), target.rules.end(),
                                          [&](const auto* rule) { return values_.holds(*rule); });
-        if (target.shows) {
-            target.widget->setVisible(allowed);
-            continue;
+        for (QWidget* widget : {target.widget.data(), static_cast<QWidget*>(target.label.data())}) {
+            if (widget)
+                target.effect == Enable::Effect::shown ? widget->setVisible(allowed)
+                                                       : widget->setEnabled(allowed);
         }
-        target.widget->setEnabled(allowed);
-        if (target.label)
-            target.label->setEnabled(allowed);
     }
 }
 
@@ -266,13 +226,14 @@ void Binder::edited(int row, const QString& value)
     {
         const Showing showing(showing_);
         // Ranges may follow another value.
-        for (const TableLayout::RangeWhen& rule : layout_.ranges) {
+        for (const RangeWhen& rule : values_.table().ranges) {
             if (std::find(changed.begin(), changed.end(), rule.when.row) != changed.end())
-                dressRanged(rule.row);
+                dressRanged(rule.path.row);
         }
-        for (const TableLayout::SoleList& list : layout_.soleLists) {
+        for (const TableLayout::SharedList& list : layout_.sharedLists) {
             if (std::any_of(changed.begin(), changed.end(), [&](int other) { return list.triggers[other]; }))
-                dressList(list);
+                for (const auto& member : list.members)
+                    dressRanged(member.rule->path.row);
         }
         for (const int other : changed) {
             if (other != row)
@@ -287,7 +248,7 @@ void Binder::edited(int row, const QString& value)
         return;
     evaluateRules();
     for (const int other : changed)
-        Q_EMIT this->changed(layout_.rows[other].path.mid(layout_.prefix().size()));
+        Q_EMIT this->changed(layout_.rows[other].path);
 }
 
 void Binder::set(int row, const QString& value)
@@ -343,7 +304,8 @@ QStringList Binder::problems() const
     QStringList all = problems_;
     for (std::size_t row = 0; row < adapters_.size(); ++row) {
         const Setting& setting = *layout_.rows[row].setting;
-        if (adapters_[row] && !setting.captionKey && setting.codes.empty() && setting.positions.empty())
+        const bool hasOwnTexts = setting.is<Choice>() || setting.is<Digits>();
+        if (adapters_[row] && !hasOwnTexts && !setting.shown()->captionKey)
             all << layout_.rows[row].path + QStringLiteral(": no caption");
     }
     return all;

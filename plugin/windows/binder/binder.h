@@ -80,8 +80,8 @@ private:
     {
         QPointer<QWidget> widget;
         QPointer<QLabel> label;
-        bool shows;
-        std::vector<const TableLayout::Enable*> rules;
+        Enable::Effect effect;
+        std::vector<const Enable*> rules;
     };
 
     // Whether a name of the row tells a form that is not there yet.
@@ -96,11 +96,10 @@ private:
     };
 
     std::unique_ptr<Adapter> makeAdapter(int row);
+    void addTarget(QWidget* widget, const Enable& rule);
     Range rangeOf(int row) const;
     void dressRanged(int row);
     void showRow(int row);
-    // Settings that share a list: what one holds is not in the lists of the others.
-    void dressList(const TableLayout::SoleList& list);
 
     Values& values_;
     const TableLayout& layout_;

@@ -1,14 +1,10 @@
 #include "windows/binder/bound_forms.h"
 
+#include "settings/table_layout.h"
+
 #include <algorithm>
 
 namespace vlk {
-
-namespace {
-
-constexpr QChar kFormMark = u'/';
-
-} // namespace
 
 void BoundForms::add(QWidget* form, int number)
 {
@@ -29,26 +25,29 @@ const BoundForms::Form* BoundForms::formNamed(const QString& name) const
     return found == forms_.end() ? nullptr : &*found;
 }
 
-bool BoundForms::isLate(const QString& name) const
+bool BoundForms::isLate(const Name& name, Numbers numbers) const
 {
-    const int slash = name.indexOf(kFormMark);
-    return slash >= 0 && !formNamed(name.left(slash));
+    return isLate(numberedName(name.form(), numbers));
 }
 
-QWidget* BoundForms::find(const QString& name, int number) const
+QWidget* BoundForms::find(const Name& name, Numbers numbers) const
 {
-    if (name.isEmpty())
-        return nullptr;
-    if (const int slash = name.indexOf(kFormMark); slash >= 0) {
-        const Form* form = formNamed(name.left(slash));
-        return form ? form->widget->findChild<QWidget*>(name.mid(slash + 1)) : nullptr;
+    return name ? find(numberedName(name.form(), numbers), numberedName(name.tail, numbers), numbers.outer)
+                : nullptr;
+}
+
+QWidget* BoundForms::find(const QString& form, const QString& widget, int number) const
+{
+    if (!form.isEmpty()) {
+        const Form* named = formNamed(form);
+        return named ? named->widget->findChild<QWidget*>(widget) : nullptr;
     }
     for (const bool numbered : {true, false}) {
-        for (const Form& form : forms_) {
-            if (!form.widget || (form.number != 0) != numbered || (numbered && form.number != number))
+        for (const Form& each : forms_) {
+            if (!each.widget || (each.number != 0) != numbered || (numbered && each.number != number))
                 continue;
-            if (auto* widget = form.widget->findChild<QWidget*>(name))
-                return widget;
+            if (auto* found = each.widget->findChild<QWidget*>(widget))
+                return found;
         }
     }
     return nullptr;

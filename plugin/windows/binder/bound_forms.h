@@ -2,6 +2,8 @@
 
 // The forms of a window whose widgets are joined to settings: finds widgets and their labels by name.
 
+#include "settings/names.h"
+
 #include <QHash>
 #include <QLabel>
 #include <QPointer>
@@ -18,10 +20,12 @@ public:
     // rows that have the number, before any other widget.
     void add(QWidget* form, int number);
 
-    // "TACH/comboBox_Type" is the widget in the form with the object name TACH. Null when there is none.
-    QWidget* find(const QString& name, int number) const;
-    // Whether the name tells a form that is not there yet.
-    bool isLate(const QString& name) const;
+    // In the form with the object name that the name tells, with its numbers in. Null when there is none.
+    QWidget* find(const Name& name, Numbers numbers) const;
+    QWidget* find(const QString& form, const QString& widget, int number) const;
+    // Whether the form is not there yet.
+    bool isLate(const QString& form) const { return !form.isEmpty() && !formNamed(form); }
+    bool isLate(const Name& name, Numbers numbers) const;
     // The label whose buddy the widget is, else the one named label_<widget>, whose buddy it becomes.
     QLabel* labelOf(QWidget* widget) const;
     // The one named <widget>_After.

@@ -1,24 +1,25 @@
 #include "windows/binder/boxes_adapter.h"
 
+#include "settings/kinds/spelling.h"
 #include "windows/binder/checkable.h"
 #include "windows/binder/code_list.h"
 
 #include <QRadioButton>
 #include <QSignalBlocker>
 
-#include <utility>
-
 namespace vlk {
 
-ExclusiveAdapter::ExclusiveAdapter(Edits& edits, int row, std::vector<QWidget*> boxes)
-    : Adapter(edits, row), boxes_(std::move(boxes))
+ExclusiveAdapter::ExclusiveAdapter(const Choice& choice, const Joint& joint)
+    : Adapter(joint.edits, joint.row), choice_(choice)
 {
+    for (const Code& code : choice.codes)
+        boxes_.push_back(joint.find(code.widget));
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         if (!boxes_[i])
             continue;
         onToggled(boxes_[i], this, [this, i](bool on) {
             if (on) {
-                edited(QString::fromLatin1(setting().codes[i].code));
+                edited(QString::fromLatin1(choice_.codes[i].code));
                 // Check boxes do not uncheck each other.
                 show(values().value(this->row()));
             } else if (!qobject_cast<QRadioButton*>(boxes_[i])) {
@@ -35,7 +36,7 @@ void ExclusiveAdapter::dress()
 {
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         if (boxes_[i])
-            caption(boxes_[i], setting().codes[i].label, setting().codes[i].format);
+            caption(boxes_[i], choice_.codes[i].label, choice_.codes[i].format);
     }
 }
 
@@ -43,11 +44,11 @@ void ExclusiveAdapter::show(const QString& value)
 {
     // The one to check comes first: among radio buttons there is always one.
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
-        if (boxes_[i] && value == QLatin1String(setting().codes[i].code))
+        if (boxes_[i] && value == QLatin1String(choice_.codes[i].code))
             setChecked(boxes_[i], true);
     }
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
-        if (boxes_[i] && value != QLatin1String(setting().codes[i].code))
+        if (boxes_[i] && value != QLatin1String(choice_.codes[i].code))
             setChecked(boxes_[i], false);
     }
 }
@@ -61,7 +62,7 @@ QString ExclusiveAdapter::held() const
 {
     QString none;
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
-        QString code = QString::fromLatin1(setting().codes[i].code);
+        QString code = QString::fromLatin1(choice_.codes[i].code);
         if (!boxes_[i])
             none = code;
         else if (isChecked(boxes_[i]))
@@ -70,10 +71,13 @@ QString ExclusiveAdapter::held() const
     return none;
 }
 
-PositionsAdapter::PositionsAdapter(Edits& edits, int row, std::vector<QWidget*> boxes,
-                                   std::vector<QWidget*> checks)
-    : Adapter(edits, row), boxes_(std::move(boxes)), checks_(std::move(checks))
+PositionsAdapter::PositionsAdapter(const Digits& digits, const Joint& joint)
+    : Adapter(joint.edits, joint.row), digits_(digits)
 {
+    for (const Position& position : digits.positions) {
+        boxes_.push_back(joint.find(position.widget));
+        checks_.push_back(joint.find(position.box));
+    }
     for (std::size_t i = 0; i < checks_.size(); ++i) {
         if (checks_[i]) {
             onToggled(checks_[i], this, [this, i](bool on) {
@@ -97,14 +101,14 @@ void PositionsAdapter::dress()
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         if (!boxes_[i])
             continue;
-        caption(checks_[i] ? checks_[i] : boxes_[i], setting().positions[i].caption, "%1");
+        caption(checks_[i] ? checks_[i] : boxes_[i], digits_.positions[i].caption, "%1");
         if (checks_[i])
             boxes_[i]->setAccessibleName(checks_[i]->accessibleName());
         auto* list = qobject_cast<QComboBox*>(boxes_[i]);
         if (!list)
             continue;
         const QSignalBlocker blocker(list);
-        fillCodes(list, setting(), limits);
+        fillCodes(list, digits_.items, limits);
     }
     show(values().value(row()));
 }
@@ -142,6 +146,11 @@ QString PositionsAdapter::held() const
     for (std::size_t i = 0; i < boxes_.size(); ++i)
         digits += QString::number(digit(i));
     return digits;
+}
+
+std::unique_ptr<Adapter> adapterFor(const Digits& row, const Joint& joint)
+{
+    return std::make_unique<PositionsAdapter>(row, joint);
 }
 
 } // namespace vlk

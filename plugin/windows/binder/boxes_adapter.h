@@ -12,7 +12,7 @@ namespace vlk {
 class ExclusiveAdapter : public Adapter
 {
 public:
-    ExclusiveAdapter(Edits& edits, int row, std::vector<QWidget*> boxes);
+    ExclusiveAdapter(const Choice& choice, const Joint& joint);
 
     void dress() override;
     void show(const QString& value) override;
@@ -21,14 +21,14 @@ public:
 private:
     void take();
 
+    const Choice& choice_;
     std::vector<QWidget*> boxes_; // one a code, null for a code without one
 };
 
 class PositionsAdapter : public Adapter
 {
 public:
-    // `checks`: check boxes beside lists, null for a position without one.
-    PositionsAdapter(Edits& edits, int row, std::vector<QWidget*> boxes, std::vector<QWidget*> checks);
+    PositionsAdapter(const Digits& digits, const Joint& joint);
 
     void dress() override;
     void show(const QString& value) override;
@@ -38,8 +38,11 @@ private:
     void take() { edited(held()); }
     int digit(std::size_t position) const;
 
-    std::vector<QWidget*> boxes_; // one a position, null for a position without one
-    std::vector<QWidget*> checks_;
+    const Digits& digits_;
+    std::vector<QWidget*> boxes_;  // one a position, null for a position without one
+    std::vector<QWidget*> checks_; // beside lists, null for a position without one
 };
+
+std::unique_ptr<Adapter> adapterFor(const Digits& row, const Joint& joint);
 
 } // namespace vlk

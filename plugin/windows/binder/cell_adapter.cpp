@@ -4,23 +4,23 @@
 
 namespace vlk {
 
-CellAdapter::CellAdapter(Edits& edits, int row, QTreeWidget* tree)
-    : Adapter(edits, row), tree_(tree), row_(setting().number - 1)
+CellAdapter::CellAdapter(const Joint& joint, QTreeWidget* tree)
+    : Adapter(joint.edits, joint.row), tree_(tree), line_(shown().numbers.outer - 1)
 {
     connect(tree, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* item, int column) {
-        if (column == setting().column && item == tree_->topLevelItem(row_))
+        if (column == shown().column && item == tree_->topLevelItem(line_))
             take();
     });
 }
 
 void CellAdapter::show(const QString& value)
 {
-    tree_->topLevelItem(row_)->setText(setting().column, value);
+    tree_->topLevelItem(line_)->setText(shown().column, value);
 }
 
 QString CellAdapter::held() const
 {
-    return tree_->topLevelItem(row_)->text(setting().column);
+    return tree_->topLevelItem(line_)->text(shown().column);
 }
 
 } // namespace vlk

@@ -11,7 +11,7 @@ namespace vlk {
 class CellAdapter : public Adapter
 {
 public:
-    CellAdapter(Edits& edits, int row, QTreeWidget* tree);
+    CellAdapter(const Joint& joint, QTreeWidget* tree);
 
     void dress() override {}
     void show(const QString& value) override;
@@ -21,7 +21,7 @@ private:
     void take() { edited(held()); }
 
     QTreeWidget* tree_;
-    int row_;
+    int line_;
 };
 
 } // namespace vlk

@@ -1,12 +1,16 @@
 #include "windows/binder/choice_adapter.h"
 
+#include "windows/binder/boxes_adapter.h"
 #include "windows/binder/code_list.h"
 
 #include <QSignalBlocker>
 
+#include <algorithm>
+
 namespace vlk {
 
-ChoiceAdapter::ChoiceAdapter(Edits& edits, int row, QComboBox* box) : Adapter(edits, row), box_(box)
+ChoiceAdapter::ChoiceAdapter(const Choice& choice, const Joint& joint, QComboBox* box)
+    : Adapter(joint.edits, joint.row), choice_(choice), box_(box)
 {
     connect(box, qOverload<int>(&QComboBox::currentIndexChanged), this, [this] { take(); });
 }
@@ -15,7 +19,7 @@ void ChoiceAdapter::dress()
 {
     caption(box_);
     const QSignalBlocker blocker(box_);
-    fillCodes(box_, setting(), values().limits(row()));
+    fillCodes(box_, choice_.codes, values().limits(row()));
     shown_.reset();
     show(values().value(row()));
 }
@@ -30,7 +34,7 @@ void ChoiceAdapter::show(const QString& value)
 
 void ChoiceAdapter::take()
 {
-    if (box_->currentIndex() >= 0 || setting().none)
+    if (box_->currentIndex() >= 0 || choice_.none)
         edited(held());
 }
 
@@ -43,7 +47,17 @@ QString ChoiceAdapter::held() const
 {
     if (box_->currentIndex() >= 0)
         return box_->currentData().toString();
-    return QString::fromLatin1(setting().none ? setting().none : "");
+    return QString::fromLatin1(choice_.none ? choice_.none : "");
+}
+
+std::unique_ptr<Adapter> adapterFor(const Choice& row, const Joint& joint)
+{
+    const bool overBoxes = std::any_of(row.codes.begin(), row.codes.end(),
+                                       [](const Code& code) { return static_cast<bool>(code.widget); });
+    if (overBoxes)
+        return std::make_unique<ExclusiveAdapter>(row, joint);
+    auto* box = joint.findAs<QComboBox>(row.widget);
+    return box ? std::make_unique<ChoiceAdapter>(row, joint, box) : nullptr;
 }
 
 } // namespace vlk

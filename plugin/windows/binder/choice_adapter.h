@@ -14,7 +14,7 @@ namespace vlk {
 class ChoiceAdapter : public Adapter
 {
 public:
-    ChoiceAdapter(Edits& edits, int row, QComboBox* box);
+    ChoiceAdapter(const Choice& choice, const Joint& joint, QComboBox* box);
 
     void dress() override;
     void show(const QString& value) override;
@@ -25,9 +25,13 @@ public:
 private:
     void take();
 
+    const Choice& choice_;
     QComboBox* box_;
     // The code that was shown last and its item: the list tells the code of an item slowly.
     std::optional<std::pair<QString, int>> shown_;
 };
+
+// In a list, or over boxes.
+std::unique_ptr<Adapter> adapterFor(const Choice& row, const Joint& joint);
 
 } // namespace vlk

@@ -2,18 +2,18 @@
 
 // Lists of codes: every item has the text of a code, and the code itself as its data.
 
-#include "settings/value_text.h"
+#include "settings/kinds/choice.h"
 
 #include <QComboBox>
 
 namespace vlk {
 
-// The codes that the list of a setting has at present.
-inline void fillCodes(QComboBox* box, const Setting& setting, const Limits& limits)
+// Those of the codes that the list has at present.
+inline void fillCodes(QComboBox* box, std::span<const Code> codes, const Limits& limits)
 {
     box->clear();
-    for (const Code& code : setting.codes) {
-        if (offersCode(setting, code, limits))
+    for (const Code& code : codes) {
+        if (offersCode(code, limits))
             box->addItem(codeText(code), QString::fromLatin1(code.code));
     }
 }

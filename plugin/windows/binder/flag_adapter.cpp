@@ -4,7 +4,8 @@
 
 namespace vlk {
 
-FlagAdapter::FlagAdapter(Edits& edits, int row, QWidget* box) : Adapter(edits, row), box_(box)
+FlagAdapter::FlagAdapter(const Flag& flag, const Joint& joint, QWidget* box)
+    : Adapter(joint.edits, joint.row), flag_(flag), box_(box)
 {
     onToggled(box, this, [this](bool) { take(); });
 }
@@ -16,12 +17,18 @@ void FlagAdapter::dress()
 
 void FlagAdapter::show(const QString& value)
 {
-    setChecked(box_, (value != QLatin1String("0")) != setting().inverted);
+    setChecked(box_, (value != QLatin1String("0")) != flag_.inverted);
 }
 
 QString FlagAdapter::held() const
 {
-    return QString::number(isChecked(box_) != setting().inverted ? setting().on : 0);
+    return QString::number(isChecked(box_) != flag_.inverted ? flag_.on : 0);
+}
+
+std::unique_ptr<Adapter> adapterFor(const Flag& row, const Joint& joint)
+{
+    QWidget* box = joint.find(row.widget);
+    return box ? std::make_unique<FlagAdapter>(row, joint, box) : nullptr;
 }
 
 } // namespace vlk

@@ -9,7 +9,7 @@ namespace vlk {
 class FlagAdapter : public Adapter
 {
 public:
-    FlagAdapter(Edits& edits, int row, QWidget* box);
+    FlagAdapter(const Flag& flag, const Joint& joint, QWidget* box);
 
     void dress() override;
     void show(const QString& value) override;
@@ -18,7 +18,10 @@ public:
 private:
     void take() { edited(held()); }
 
+    const Flag& flag_;
     QWidget* box_;
 };
+
+std::unique_ptr<Adapter> adapterFor(const Flag& row, const Joint& joint);
 
 } // namespace vlk

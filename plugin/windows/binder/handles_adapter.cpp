@@ -4,11 +4,11 @@
 
 namespace vlk {
 
-HandlesAdapter::HandlesAdapter(Edits& edits, const TableLayout::Distance& rule, VLK_DblSlider2* slider)
+HandlesAdapter::HandlesAdapter(Edits& edits, const Distance& rule, VLK_DblSlider2* slider)
     : edits_(edits), rule_(rule), slider_(slider)
 {
-    slider->setRange(edits.values().setting(rule.first).least, gap(),
-                     edits.values().setting(rule.second).most);
+    slider->setRange(edits.values().setting(rule.first.row).number()->least, gap(),
+                     edits.values().setting(rule.second.row).number()->most);
     connect(slider, &VLK_DblSlider2::value1Changed, this, &HandlesAdapter::take);
     connect(slider, &VLK_DblSlider2::value2Changed, this, &HandlesAdapter::take);
 }
@@ -21,10 +21,10 @@ void HandlesAdapter::take()
         return;
     taking_ = true;
     const Values& values = edits_.values();
-    const QString first = fileNumber(values.setting(rule_.first), slider_->value1());
-    const QString second = fileNumber(values.setting(rule_.second), slider_->value2());
-    edits_.set(rule_.second, second);
-    edits_.set(rule_.first, first);
+    const QString first = fileNumber(*values.setting(rule_.first.row).number(), slider_->value1());
+    const QString second = fileNumber(*values.setting(rule_.second.row).number(), slider_->value2());
+    edits_.set(rule_.second.row, second);
+    edits_.set(rule_.first.row, first);
     moveHandles();
     taking_ = false;
 }
@@ -43,12 +43,12 @@ void HandlesAdapter::show()
 void HandlesAdapter::moveHandles()
 {
     const Values& values = edits_.values();
-    const auto shown = [&](int row) { return shownNumber(values.setting(row), values.value(row)); };
+    const auto shown = [&](int row) { return shownNumber(*values.setting(row).number(), values.value(row)); };
     slider_->setGap(gap());
     // The first step may push the second handle, and that the first.
-    slider_->setValue1(shown(rule_.first));
-    slider_->setValue2(shown(rule_.second));
-    slider_->setValue1(shown(rule_.first));
+    slider_->setValue1(shown(rule_.first.row));
+    slider_->setValue2(shown(rule_.second.row));
+    slider_->setValue1(shown(rule_.first.row));
 }
 
 } // namespace vlk

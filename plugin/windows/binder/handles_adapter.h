@@ -13,7 +13,7 @@ class HandlesAdapter : public QObject
     Q_OBJECT
 
 public:
-    HandlesAdapter(Edits& edits, const TableLayout::Distance& rule, VLK_DblSlider2* slider);
+    HandlesAdapter(Edits& edits, const Distance& rule, VLK_DblSlider2* slider);
 
     void show();
 
@@ -23,7 +23,7 @@ private:
     void moveHandles();
 
     Edits& edits_;
-    const TableLayout::Distance& rule_;
+    const Distance& rule_;
     VLK_DblSlider2* slider_;
     bool taking_ = false;
 };

@@ -1,9 +1,11 @@
 #include "windows/binder/mask_adapter.h"
 
+#include <QWidget>
+
 namespace vlk {
 
-MaskAdapter::MaskAdapter(Edits& edits, int row, QWidget* widget, MaskWidget* mask)
-    : Adapter(edits, row), widget_(widget), mask_(mask)
+MaskAdapter::MaskAdapter(const Joint& joint, QWidget* widget, MaskWidget* mask)
+    : Adapter(joint.edits, joint.row), widget_(widget), mask_(mask)
 {
     mask_->edited = [this] {
         shown_.clear();
@@ -28,7 +30,14 @@ void MaskAdapter::show(const QString& value)
 
 void MaskAdapter::dress()
 {
-    caption(widget_, setting().captionKey);
+    caption(widget_, shown().captionKey);
+}
+
+std::unique_ptr<Adapter> adapterFor(const Mask& row, const Joint& joint)
+{
+    QWidget* widget = joint.find(row.widget);
+    auto* mask = dynamic_cast<MaskWidget*>(widget);
+    return mask ? std::make_unique<MaskAdapter>(joint, widget, mask) : nullptr;
 }
 
 } // namespace vlk

@@ -11,7 +11,7 @@ class MaskAdapter : public Adapter
 {
 public:
     // Both are the same widget.
-    MaskAdapter(Edits& edits, int row, QWidget* widget, MaskWidget* mask);
+    MaskAdapter(const Joint& joint, QWidget* widget, MaskWidget* mask);
     ~MaskAdapter() override;
     Q_DISABLE_COPY(MaskAdapter)
 
@@ -26,5 +26,7 @@ private:
     MaskWidget* mask_;
     QString shown_; // empty once it was edited
 };
+
+std::unique_ptr<Adapter> adapterFor(const Mask& row, const Joint& joint);
 
 } // namespace vlk

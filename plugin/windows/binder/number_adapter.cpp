@@ -7,12 +7,12 @@
 
 namespace vlk {
 
-NumberAdapter::NumberAdapter(Edits& edits, int row, QWidget* box, QWidget* companion)
-    : Adapter(edits, row), box_(box, setting())
+NumberAdapter::NumberAdapter(const Number& number, const Joint& joint, QWidget* box, QWidget* companion)
+    : Adapter(joint.edits, joint.row), number_(number), box_(box, number)
 {
     box_.onChanged(this, [this] { take(); });
     if (qobject_cast<QAbstractSlider*>(companion)) {
-        slider_ = NumberBox(companion, setting());
+        slider_ = NumberBox(companion, number_);
         // The box rounds, and the slider follows what it made of it.
         slider_.onChanged(this, [this] {
             box_.setValue(slider_.value());
@@ -54,7 +54,7 @@ void NumberAdapter::setLimits()
 
 void NumberAdapter::show(const QString& value)
 {
-    const double shown = shownNumber(setting(), value);
+    const double shown = shownNumber(number_, value);
     if (check_) {
         setChecked(check_, shown != 0);
         if (shown != 0)
@@ -70,7 +70,7 @@ void NumberAdapter::switched(bool on)
 {
     if (edits_.isShowing())
         return;
-    const double fixed = setting().switchedOnAt;
+    const int fixed = number_.switchedOnAt;
     if (!on && fixed < 0)
         remembered_ = box_.value();
     const double number = on ? fixed < 0 ? remembered_ : fixed : 0;
@@ -96,7 +96,7 @@ void NumberAdapter::take()
 
 QString NumberAdapter::held() const
 {
-    return fileNumber(setting(), isOn() ? box_.value() : 0);
+    return fileNumber(number_, isOn() ? box_.value() : 0);
 }
 
 } // namespace vlk

@@ -6,13 +6,15 @@
 #include "windows/binder/adapter.h"
 #include "windows/binder/number_box.h"
 
+#include <concepts>
+
 namespace vlk {
 
 class NumberAdapter : public Adapter
 {
 public:
     // `companion`: a check box or a slider, or null.
-    NumberAdapter(Edits& edits, int row, QWidget* box, QWidget* companion);
+    NumberAdapter(const Number& number, const Joint& joint, QWidget* box, QWidget* companion);
 
     void dress() override;
     void show(const QString& value) override;
@@ -28,11 +30,21 @@ private:
     void setLimits();
     void switched(bool on);
 
+    const Number& number_;
     NumberBox box_;
     NumberBox slider_;
     QWidget* check_ = nullptr;
     double remembered_ = 0;
     QString complaint_; // about a value that is doubtful
 };
+
+template <std::derived_from<Number> Row>
+std::unique_ptr<Adapter> adapterFor(const Row& row, const Joint& joint)
+{
+    QWidget* box = joint.find(row.widget);
+    Name companion = row.widget;
+    companion.tail = row.companion;
+    return box ? std::make_unique<NumberAdapter>(row, joint, box, joint.find(companion)) : nullptr;
+}
 
 } // namespace vlk

@@ -9,29 +9,28 @@
 
 namespace vlk {
 
-NumberBox::NumberBox(QWidget* widget, const Setting& setting)
+NumberBox::NumberBox(QWidget* widget, const Number& number)
     : widget_(widget), real_(qobject_cast<QDoubleSpinBox*>(widget)), whole_(qobject_cast<QSpinBox*>(widget)),
       slider_(qobject_cast<QAbstractSlider*>(widget)),
-      counts_(setting.kind == Kind::real ? static_cast<int>(std::lround(std::pow(10, setting.decimals)))
-                                         : setting.factor)
+      counts_(number.isText ? static_cast<int>(std::lround(std::pow(10, number.decimals))) : number.factor)
 {
     if (real_ || whole_)
         entry_ = NumberEntry::join(qobject_cast<QAbstractSpinBox*>(widget));
     if (real_) {
-        real_->setDecimals(setting.decimals);
-        if (setting.step > 0)
-            real_->setSingleStep(setting.step);
+        real_->setDecimals(number.decimals);
+        if (number.step > 0)
+            real_->setSingleStep(number.step);
     } else if (whole_) {
-        if (setting.step > 0)
-            whole_->setSingleStep(static_cast<int>(setting.step));
-        if (setting.hexadecimal) {
+        if (number.step > 0)
+            whole_->setSingleStep(static_cast<int>(number.step));
+        if (number.hexadecimal) {
             whole_->setDisplayIntegerBase(16);
             QFont capitals = whole_->font();
             capitals.setCapitalization(QFont::AllUppercase);
             whole_->setFont(capitals);
         }
-    } else if (slider_ && setting.step > 0) {
-        slider_->setSingleStep(position(setting.step));
+    } else if (slider_ && number.step > 0) {
+        slider_->setSingleStep(position(number.step));
     }
 }
 

@@ -3,7 +3,7 @@
 // Spin boxes of both kinds and sliders under one roof. Numbers are in units of the setting's widget; a slider
 // counts units of the file, for a real number units of its last decimal.
 
-#include "settings/setting.h"
+#include "settings/kinds/number.h"
 #include "typing/number_entry.h"
 
 #include <QString>
@@ -23,7 +23,7 @@ class NumberBox
 {
 public:
     NumberBox() = default;
-    NumberBox(QWidget* widget, const Setting& setting);
+    NumberBox(QWidget* widget, const Number& number);
 
     explicit operator bool() const { return widget_; }
     QWidget* widget() const { return widget_; }

@@ -13,7 +13,7 @@ namespace vlk {
 class PeriodAdapter : public Adapter
 {
 public:
-    PeriodAdapter(Edits& edits, int row, const std::vector<QWidget*>& boxes);
+    PeriodAdapter(const Period& period, const Joint& joint, const std::vector<QWidget*>& boxes);
 
     void dress() override;
     void show(const QString& value) override;
@@ -25,7 +25,10 @@ private:
     void take();
     void limitLast();
 
+    const Period& period_;
     std::vector<NumberBox> boxes_;
 };
+
+std::unique_ptr<Adapter> adapterFor(const Period& row, const Joint& joint);
 
 } // namespace vlk

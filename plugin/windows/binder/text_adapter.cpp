@@ -9,15 +9,16 @@
 
 namespace vlk {
 
-TextAdapter::TextAdapter(Edits& edits, int row, QLineEdit* edit) : Adapter(edits, row), edit_(edit)
+TextAdapter::TextAdapter(const Text& text, const Joint& joint, QLineEdit* edit)
+    : Adapter(joint.edits, joint.row), text_(text), edit_(edit)
 {
-    if (setting().maxLength > 0)
-        edit->setMaxLength(setting().maxLength);
-    if (setting().pattern)
+    if (text_.maxLength > 0)
+        edit->setMaxLength(text_.maxLength);
+    if (text_.pattern)
         edit->setValidator(
-            new QRegularExpressionValidator(QRegularExpression(QLatin1String(setting().pattern)), edit));
-    if (setting().inputMask)
-        edit->setInputMask(QLatin1String(setting().inputMask));
+            new QRegularExpressionValidator(QRegularExpression(QLatin1String(text_.pattern)), edit));
+    if (text_.mask)
+        edit->setInputMask(QLatin1String(text_.mask));
     TextEntry::join(edit);
     connect(edit, &QLineEdit::textChanged, this, [this] { take(); });
 }
@@ -31,11 +32,11 @@ void TextAdapter::dress()
 // A text that is not as expected is marked, in the present language.
 void TextAdapter::expect()
 {
-    if (!setting().expectedPattern)
+    if (!text_.expectedPattern)
         return;
     TextEntry::join(edit_)->doubt(
-        [expected = QRegularExpression(QLatin1String(setting().expectedPattern)),
-         complaint = QCoreApplication::translate("vlk", setting().unexpectedKey)](const QString& text) {
+        [expected = QRegularExpression(QLatin1String(text_.expectedPattern)),
+         complaint = QCoreApplication::translate("vlk", text_.unexpectedKey)](const QString& text) {
             return expected.match(text).hasMatch() ? QString() : complaint;
         });
 }
@@ -55,6 +56,12 @@ void TextAdapter::show(const QString& value)
 QString TextAdapter::held() const
 {
     return edit_->text();
+}
+
+std::unique_ptr<Adapter> adapterFor(const Text& row, const Joint& joint)
+{
+    auto* edit = joint.findAs<QLineEdit>(row.widget);
+    return edit ? std::make_unique<TextAdapter>(row, joint, edit) : nullptr;
 }
 
 } // namespace vlk

@@ -11,7 +11,7 @@ namespace vlk {
 class TextAdapter : public Adapter
 {
 public:
-    TextAdapter(Edits& edits, int row, QLineEdit* edit);
+    TextAdapter(const Text& text, const Joint& joint, QLineEdit* edit);
 
     void dress() override;
     void show(const QString& value) override;
@@ -22,7 +22,10 @@ private:
     void take() { edited(held()); }
     void expect();
 
+    const Text& text_;
     QLineEdit* edit_;
 };
+
+std::unique_ptr<Adapter> adapterFor(const Text& row, const Joint& joint);
 
 } // namespace vlk

@@ -1,0 +1,48 @@
+#include "settings/kinds/period.h"
+
+#include "base/number_text.h"
+#include "settings/kinds/spelling.h"
+
+#include <algorithm>
+
+namespace vlk {
+
+QString fileText(const Period&, int seconds)
+{
+    return QString::number(seconds);
+}
+
+Normalised normalised(const Period& row, const Reading& reading)
+{
+    const int read = leadingInt(reading.text);
+    int rest = read;
+    if (row.wrap > 0 && reading.source == Source::file)
+        rest = ((rest % row.wrap) + row.wrap) % row.wrap;
+    qint64 held = 0;
+    for (const PeriodPart& part : row.parts) {
+        held += static_cast<qint64>(std::clamp(rest / part.seconds, part.least, part.most)) * part.seconds;
+        rest %= part.seconds;
+    }
+    held = std::max(held, static_cast<qint64>(row.least));
+    return normalisedBy(spelled(held, reading.text), reading.text, [&] {
+        return !isWholeNumber(reading.text)                       ? Change::notANumber
+               : std::abs(held - read) < row.parts.back().seconds ? Change::rounded
+                                                                  : Change::outOfRange;
+    });
+}
+
+QString toldText(const Period& row, const QString& value, const char* /*unit*/)
+{
+    QStringList parts;
+    int seconds = value.toInt();
+    for (const PeriodPart& part : row.parts) {
+        const int count = std::min(seconds / part.seconds, part.most);
+        seconds -= count * part.seconds;
+        if (count > 0)
+            parts << withUnit(QString::number(count), part.unit);
+    }
+    return parts.isEmpty() ? withUnit(QStringLiteral("0"), row.parts.back().unit)
+                           : parts.join(QLatin1Char(' '));
+}
+
+} // namespace vlk

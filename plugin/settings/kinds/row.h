@@ -1,0 +1,171 @@
+#pragma once
+
+// What the rows of all kinds have in common. Each kind of setting is a type in a file pair of its own beside
+// this one: what only it has, the modifiers that describe it, and the functions that check it, read it and
+// tell it. setting.h lists the kinds.
+
+#include "settings/names.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace vlk {
+
+// What becomes of a value that the file has no key for, or of one that lives in the window alone: its load
+// default, or it stays.
+enum class Missing : std::uint8_t { loadDefault, keepsValue };
+// What a reset gives: the load default, a value of its own, or it leaves the value as it stands.
+enum class OnReset : std::uint8_t { loadDefault, own, keepsValue };
+// What a save starts from: the value, or what the document holds under the key, if it does.
+enum class OnSave : std::uint8_t { value, document };
+
+struct RowBase
+{
+    const char* key = "";       // of a group its path below the section
+    const char* name = nullptr; // in paths, where the key or element stands twice; null: the key
+    When present{};             // else the key is neither read nor written
+    Numbers numbers{};
+    bool stored = true;  // false: lives in the window alone, the file has no such key
+    bool last = false;   // read after all others; in a repetition after those of its number
+    bool secret = false; // whoever shows, copies or exports values leaves this one out
+    Missing missing = Missing::loadDefault;
+    OnReset onReset = OnReset::loadDefault;
+    OnSave onSave = OnSave::value;
+    std::uint8_t column = 0; // the widget is a tree; the cell of this column in the row of the number
+
+    constexpr const char* pathName() const { return name ? name : key; }
+};
+
+// A row whose value a widget can show.
+struct Shown : RowBase
+{
+    const char* captionKey = nullptr;
+    const char* captionFormat = "%1"; // %1 for the caption
+    Name widget{};
+    const char* companion = nullptr; // check box or slider beside the widget, in the same form
+};
+
+// Modifiers describe a row; each gives the changed row back.
+template <class Kind, class Base>
+struct RowOf : Base
+{
+    template <class Owner, class Field, class Value>
+    constexpr Kind with(Field Owner::*field, Value value) const
+    {
+        Kind changed = static_cast<const Kind&>(*this);
+        changed.*field = value;
+        return changed;
+    }
+
+    constexpr Kind named(const char* pathName) const { return with(&Kind::name, pathName); }
+    constexpr Kind onlyWhen(When condition) const { return with(&Kind::present, condition); }
+};
+
+template <class Kind>
+struct ShownOf : RowOf<Kind, Shown>
+{
+    constexpr Kind in(Name widget) const { return this->with(&Kind::widget, widget); }
+    // The format holds %1 for the text, as in "%1 2".
+    constexpr Kind caption(const char* text, const char* format = "%1") const
+    {
+        return this->with(&Kind::captionKey, text).with(&Kind::captionFormat, format);
+    }
+    constexpr Kind notStored() const { return this->with(&Kind::stored, false); }
+    constexpr Kind readLast() const { return this->with(&Kind::last, true); }
+    constexpr Kind ifMissing(Missing policy) const { return this->with(&Kind::missing, policy); }
+    constexpr Kind atReset(OnReset policy) const { return this->with(&Kind::onReset, policy); }
+
+protected:
+    template <class Value>
+    constexpr Kind resetting(Value value) const
+    {
+        return this->with(&Kind::reset, value).with(&Kind::onReset, OnReset::own);
+    }
+};
+
+template <class Kind>
+constexpr Kind keyed(const char* key)
+{
+    Kind row;
+    row.key = key;
+    return row;
+}
+
+// Why a value differs from what the file holds.
+enum class Change {
+    none,
+    missing,     // the key is not there, the load default counts
+    notANumber,  // read as far as it is a number
+    outOfRange,  // limited
+    rounded,     // to what the widget can show
+    tooLong,     // cut
+    unknownCode, // replaced, or the value before stays
+    notOffered,  // known, but this tracker's list lacks it
+    otherForm,   // the same value, spelled otherwise
+    byRule,      // another setting forbids it
+};
+
+// What a value can be at present: a range in units of the widget; of a choice and of a string of digits the
+// codes of the list, "NU|NS+", null for those that are `offered`; codes that others of a shared list hold.
+struct Limits
+{
+    double least = 0;
+    double most = 0;
+    const char* offers = nullptr;
+    QStringList taken{};
+
+    bool operator==(const Limits&) const = default;
+};
+
+// Where a text comes from. A file is read as far as it is a number, "12abc" as 12, and its periods wrap
+// around where the row says so. An edit means what it says: a text that is no whole number is 0.
+enum class Source { file, edit };
+
+struct Reading
+{
+    const QString& text;
+    const QString& before; // what stays where the text leaves the value alone
+    const Limits& limits;
+    Source source = Source::file;
+};
+
+// What a window would make of a text from a configuration file: limited to the range, rounded, cut, or
+// replaced where the text is none of the known codes. The result is again a text of the file.
+struct Normalised
+{
+    QString value;
+    Change change = Change::none;
+};
+
+// Most values are what the file holds; `why` finds the reason for the others.
+template <class Why>
+Normalised normalisedBy(QString value, const QString& text, Why why)
+{
+    if (value == text)
+        return {value, Change::none};
+    return {value, why()};
+}
+
+inline Normalised normalisedTo(const QString& value, const QString& text, Change change)
+{
+    return {value, value == text ? Change::none : change};
+}
+
+inline QString fileText(const RowBase&, const char* text)
+{
+    return QString::fromUtf8(text);
+}
+
+// A caption is split at its mark "<val>": what stands before the value and what stands behind it. Its %1 is
+// the number of a repeated row.
+struct Caption
+{
+    QString before;
+    QString after;
+};
+// In the present language.
+Caption captionParts(const char* key, const char* format = "%1", int number = 0);
+// Without line breaks and mnemonics.
+QString inOneLine(QString caption);
+
+} // namespace vlk

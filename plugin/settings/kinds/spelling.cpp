@@ -1,0 +1,50 @@
+#include "settings/kinds/spelling.h"
+
+#include <QCoreApplication>
+
+#include <array>
+#include <charconv>
+
+namespace vlk {
+
+QString spelled(QLatin1String value, const QString& text)
+{
+    return text == value ? text : QString(value);
+}
+
+QString spelled(qint64 number, const QString& text)
+{
+    std::array<char, 20> digits{}; // "-9223372036854775808"
+    const char* const end = std::to_chars(digits.begin(), digits.end(), number).ptr;
+    return spelled(QLatin1String(digits.begin(), static_cast<int>(end - digits.begin())), text);
+}
+
+int digitAt(const QString& text, std::size_t position)
+{
+    const int index = static_cast<int>(position);
+    return index < text.size() ? std::max(0, text[index].digitValue()) : 0;
+}
+
+bool isWholeNumber(const QString& text)
+{
+    bool whole = false;
+    text.trimmed().toLongLong(&whole);
+    return whole;
+}
+
+QString translated(const char* key)
+{
+    return key && *key ? QCoreApplication::translate("vlk", key) : QString();
+}
+
+QString yesNo(bool yes)
+{
+    return translated(yes ? "wrd_001" : "wrd_002");
+}
+
+QString withUnit(const QString& number, const char* unit)
+{
+    return unit ? number + QLatin1Char(' ') + translated(unit) : number;
+}
+
+} // namespace vlk

@@ -1,0 +1,37 @@
+#pragma once
+
+// How the kinds of rows take texts apart and put them together.
+
+#include <QString>
+
+#include <algorithm>
+#include <string_view>
+
+namespace vlk {
+
+// `value` as a text, which is `text` itself where it spells the same.
+QString spelled(QLatin1String value, const QString& text);
+QString spelled(qint64 number, const QString& text);
+// Whether "NU|NS+" has the code.
+template <class Text>
+bool isListed(std::string_view codes, const Text& code)
+{
+    for (;;) {
+        const std::size_t end = std::min(codes.find('|'), codes.size());
+        if (QLatin1String(codes.data(), static_cast<int>(end)) == code)
+            return true;
+        if (end == codes.size())
+            return false;
+        codes.remove_prefix(end + 1);
+    }
+}
+// The digit at a position of a string, 0 where there is none.
+int digitAt(const QString& text, std::size_t position);
+bool isWholeNumber(const QString& text);
+
+// For people, in the present language.
+QString translated(const char* key);
+QString yesNo(bool yes);
+QString withUnit(const QString& number, const char* unit);
+
+} // namespace vlk

@@ -1,0 +1,97 @@
+#pragma once
+
+// Rows without a value of their own: the element that the rows behind it stand in, a text that is always the
+// same, and a key whose value is that of another row.
+
+#include "settings/kinds/row.h"
+
+namespace vlk {
+
+// What a save does with an element: makes it anew, makes it anew unless none of its keys is written, or lays
+// its keys over what it holds.
+enum class ElementSave : std::uint8_t { anew, anewIfAny, keepsOthers };
+
+struct Group : RowOf<Group, RowBase>
+{
+    When presentToo{};
+    When readable{}; // with `readOtherwise`
+    When readableToo{};
+    bool readOtherwise = false; // read while both `readable` hold, whenever it is written
+    ElementSave save = ElementSave::anew;
+
+    using RowOf::onlyWhen;
+    constexpr Group onlyWhen(When condition, When too) const
+    {
+        return onlyWhen(condition).with(&Group::presentToo, too);
+    }
+    // Without a condition: always.
+    constexpr Group readWhen(When condition = {}, When too = {}) const
+    {
+        return with(&Group::readOtherwise, true)
+            .with(&Group::readable, condition)
+            .with(&Group::readableToo, too);
+    }
+    constexpr Group atSave(ElementSave policy) const { return with(&Group::save, policy); }
+};
+
+// Read and ignored, no widget.
+struct Constant : RowOf<Constant, RowBase>
+{
+    const char* load = "";
+};
+
+// Several elements keep one value, that of the row `target`.
+struct Link : RowOf<Link, RowBase>
+{
+    Path target{};
+    double load = 0;            // where the key is missing
+    double withoutElement = -1; // where the whole element is; -1: the same
+
+    constexpr Link ifNoElement(double value) const { return with(&Link::withoutElement, value); }
+};
+
+constexpr Group group(const char* path)
+{
+    return keyed<Group>(path);
+}
+
+constexpr Constant constant(const char* key, const char* text)
+{
+    return keyed<Constant>(key).with(&Constant::load, text);
+}
+
+// A missing key is worth `loadDefault`.
+constexpr Link link(const char* key, Path target, double loadDefault)
+{
+    return keyed<Link>(key).with(&Link::target, target).with(&Link::load, loadDefault);
+}
+
+inline QString fileText(const Link&, double loadDefault)
+{
+    return QString::number(loadDefault);
+}
+
+inline Normalised normalised(const Group&, const Reading& reading)
+{
+    return {reading.before};
+}
+inline Normalised normalised(const Link&, const Reading& reading)
+{
+    return {reading.before};
+}
+inline Normalised normalised(const Constant& row, const Reading&)
+{
+    return {QString::fromLatin1(row.load)};
+}
+
+template <class Row>
+concept IsStructure =
+    std::is_same_v<Row, Group> || std::is_same_v<Row, Constant> || std::is_same_v<Row, Link>;
+
+template <IsStructure Row>
+QString toldText(const Row&, const QString& value, const char* /*unit*/)
+{
+    return value;
+}
+
+} // namespace vlk

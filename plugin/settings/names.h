@@ -1,0 +1,116 @@
+#pragma once
+
+// Names in two parts, told apart where they are written: "POINTS/angle" is the key `angle` of the element
+// POINTS, "TACH/comboBox_Type" a widget of the form TACH. In repeated rows and rules every name may hold %1,
+// the number of the repetition, and %2, the number of a repetition inside it.
+
+#include <cstdint>
+#include <string_view>
+
+namespace vlk {
+
+// A widget by its form, "" for one of the page's own; a key by its element, which may be a path itself.
+struct Name
+{
+    constexpr Name() = default;
+    constexpr Name(const char* whole) : head(whole), tail(whole) // NOLINT: a text is a name
+    {
+        const std::size_t slash = whole ? std::string_view(whole).rfind('/') : std::string_view::npos;
+        if (slash == std::string_view::npos)
+            return;
+        headSize = static_cast<std::uint8_t>(slash);
+        tail = whole + slash + 1;
+    }
+    constexpr Name(const char* first, const char* second)
+        : head(first), tail(second), headSize(static_cast<std::uint8_t>(std::string_view(first).size()))
+    {
+    }
+
+    constexpr explicit operator bool() const { return tail; }
+    constexpr std::string_view form() const { return {head ? head : "", headSize}; }
+    constexpr std::string_view element() const { return form(); }
+
+    const char* head = nullptr;
+    const char* tail = nullptr; // the widget, the key
+    std::uint8_t headSize = 0;
+};
+
+// A key whose row is found when its table is made (table_maker.h).
+struct Path : Name
+{
+    using Name::Name;
+    std::int16_t row = -1;
+};
+
+// Holds while the value at the path is one of `codes` ("NS+|NB+"), or not 0 and not empty where `codes` is
+// empty. Of whenSame(): while it is that of the same key in the element `codes`. Without a path it always
+// holds.
+struct When : Path
+{
+    bool negated = false;
+    bool same = false;
+    std::int16_t other = -1; // row of the same key
+    const char* codes = "";
+};
+
+constexpr When when(Path path, const char* codes = "")
+{
+    return {path, false, false, -1, codes};
+}
+
+constexpr When unless(Path path, const char* codes = "")
+{
+    return {path, true, false, -1, codes};
+}
+
+constexpr When whenSame(Path path, const char* element)
+{
+    return {path, false, true, -1, element};
+}
+
+// The number of a repetition and of the one inside it, 0 for none.
+struct Numbers
+{
+    std::uint8_t outer = 0;
+    std::uint8_t inner = 0;
+};
+
+// Hash of a name with its numbers in.
+class NameHash
+{
+public:
+    // `begun`: the hash of what stands in front.
+    constexpr explicit NameHash(Numbers numbers, std::uint64_t begun = 14695981039346656037U)
+        : numbers_(numbers), hash_(begun)
+    {
+    }
+
+    constexpr NameHash& add(std::string_view text)
+    {
+        for (std::size_t i = 0; i < text.size(); ++i) {
+            const bool mark = text[i] == '%' && i + 1 < text.size();
+            if (mark && text[i + 1] == '1' && numbers_.outer > 0)
+                addNumber(numbers_.outer), ++i;
+            else if (mark && text[i + 1] == '2' && numbers_.inner > 0)
+                addNumber(numbers_.inner), ++i;
+            else
+                addSign(text[i]);
+        }
+        return *this;
+    }
+    constexpr std::uint64_t value() const { return hash_; }
+
+private:
+    constexpr void addNumber(int number)
+    {
+        if (number > 9)
+            addSign(static_cast<char>('0' + number / 10));
+        addSign(static_cast<char>('0' + number % 10));
+    }
+    constexpr void addSign(char sign) { hash_ = (hash_ ^ static_cast<std::uint8_t>(sign)) * 1099511628211U; }
+
+    Numbers numbers_;
+    std::uint64_t hash_;
+};
+
+} // namespace vlk
