@@ -1,0 +1,59 @@
+// Tables that the compiler refuses, one a case; without a case it takes them. CMakeLists.txt tells the
+// reasons.
+
+#include "settings/settings_table.h"
+
+namespace {
+
+using namespace vlk;
+
+constexpr Code kCodes[] = {{.code = "a"}, {.code = "b"}};
+
+constexpr auto kRows = rowsOf(group("A"), flag("on", 0).in("box"), flag("off", 0),
+#if CASE == 1
+                              flag("ranged", 0).range(1, 5),
+#elif CASE == 2
+                              integer("outside", 7).range(1, 5),
+#elif CASE == 3
+                              choice("list", kCodes, "c"),
+#elif CASE == 4
+                              flag("on", 1),
+#elif CASE == 5
+                              flag("twice", 1).in("box"),
+#elif CASE == 6
+                              link("link", "A/nothing", 0),
+#endif
+                              integer("speed", 5).range(1, 5));
+
+constexpr auto kSets = rulesOf(
+#if CASE == 7
+    onEdit(when("A/speeds"), "A/on", "1"),
+#elif CASE == 8
+    onEdit(when("A/speed"), "B/on", "1"),
+#endif
+    always(when("A/speed", "5"), "A/off", "1"));
+
+#if CASE == 9
+constexpr auto kEnables = rulesOf(enable("boxes", when("A/on")));
+#else
+constexpr auto kEnables = rulesOf(enable("box", when("A/on")), enable(parts("frame"), when("A/on")));
+#endif
+
+constexpr SettingsTable kTable = tableOf<kRows, kSets, kEnables>("S");
+
+// A kind without one of its functions.
+struct Forgotten : ShownOf<Forgotten>
+{
+    int load = 0;
+    int reset = 0;
+};
+
+} // namespace
+
+int main()
+{
+#if CASE == 10
+    toldText(Forgotten(), {}, nullptr);
+#endif
+    return static_cast<int>(kTable.rows.size()) - 4;
+}
