@@ -7,7 +7,7 @@ namespace {
 
 using namespace vlk;
 
-constexpr Code kCodes[] = {{.code = "a"}, {.code = "b"}};
+[[maybe_unused]] constexpr Code kCodes[] = {{.code = "a"}, {.code = "b"}};
 
 constexpr auto kRows = rowsOf(group("A"), flag("on", 0).in("box"), flag("off", 0),
 #if CASE == 1
