@@ -10,9 +10,10 @@ void loadPages(const ConfigPages& pages, CXmlSection* root, char* ussdBuffer)
 {
     const CXmlSectionPtr system = root->existing(QStringLiteral("SYSTEM"));
     const CXmlSectionPtr balance = system ? system->existing(QStringLiteral("BALANCE")) : nullptr;
-    if (balance)
-        qstrncpy(ussdBuffer, balance->getString(QStringLiteral("USSD")).toLocal8Bit().constData(),
-                 balanceUssdSize);
+    if (root->document()) {
+        const QString ussd = balance ? balance->getString(QStringLiteral("USSD")) : QString();
+        qstrncpy(ussdBuffer, ussd.toLocal8Bit().constData(), balanceUssdSize);
+    }
     pages.forEach([root](auto& page) { page.loadFromXml(root); });
     // User parameters come last: they ask other pages for the names of what they hold.
     pages.forEach([root](HasUserParams auto& page) { page.loadUserParams(root); });

@@ -134,6 +134,9 @@ private Q_SLOTS:
         QCOMPARE(balance(), QByteArray("*100#"));
         host_.open(configuration("no document"));
         QCOMPARE(balance(), QByteArray("*100#"));
+        host_.open(configuration("<DEVICE><SYSTEM/></DEVICE>"));
+        QCOMPARE(balance(), QByteArray());
+        host_.open(path);
         host_.attach();
         QCOMPARE(balance(), QByteArray());
         host_.open(configuration("<DEVICE><SYSTEM><BALANCE USSD=\"" + QByteArray(400, '1') +
