@@ -13,7 +13,7 @@ namespace vlk {
 struct Name
 {
     constexpr Name() = default;
-    constexpr Name(const char* whole) : head(whole), tail(whole) // NOLINT: a text is a name
+    constexpr Name(const char* whole) : head(whole), tail(whole) // a text is a name
     {
         const std::size_t slash = whole ? std::string_view(whole).rfind('/') : std::string_view::npos;
         if (slash == std::string_view::npos)

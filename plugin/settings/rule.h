@@ -177,7 +177,7 @@ struct Doubt
 struct Targets
 {
     constexpr Targets() = default;
-    constexpr Targets(const char* rowWidgets) : names(rowWidgets) {} // NOLINT: a text names widgets
+    constexpr Targets(const char* rowWidgets) : names(rowWidgets) {} // a text names widgets
     constexpr Targets(const char* formName, const char* rowWidgets) : form(formName), names(rowWidgets) {}
 
     const char* form = ""; // as in Name

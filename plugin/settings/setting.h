@@ -48,7 +48,7 @@ constexpr const Part* partOf(const Kind& kind)
 struct Setting
 {
     template <std::derived_from<RowBase> Row>
-    constexpr Setting(const Row& row) : kind(row) // NOLINT: a row of any kind is a setting
+    constexpr Setting(const Row& row) : kind(row) // a row of any kind is a setting
     {
     }
     Setting() = default;

@@ -161,6 +161,23 @@ private Q_SLOTS:
         QCOMPARE(configuration_.value("TRANS/SRV1/port"), QString("5000"));
     }
 
+    // What opens the tracker, the network account or the server to whoever reads it.
+    void secrets()
+    {
+        QStringList secret;
+        for (const vlk::Values& table : configuration_.tables()) {
+            for (int row = 0; row < table.count(); ++row) {
+                if (table.row(row).base->secret && !table.row(row).path.startsWith("AUTOAPN/"))
+                    secret << table.row(row).path;
+            }
+        }
+        QCOMPARE(secret, QStringList({"AP1/login", "AP1/pass", "AP1/pin", "CRYPTO/key", "PASS/general",
+                                      "PASS/SMS", "PASS/number", "TACH/login", "TACH/pass"}));
+        const vlk::Values& transfer = configuration_.tables()[0];
+        for (const char* key : {"AUTOAPN/login10", "AUTOAPN/pass1"})
+            QVERIFY(transfer.row(transfer.rowAt(key)).base->secret);
+    }
+
 private:
     // Those of the full window's pages, and that of the quick window.
     static const std::vector<const vlk::SettingsTable*>& tables()
