@@ -6,7 +6,7 @@
 // rows offer, and the numbers that they take, of six kinds.
 
 #include "peripherals/ble_sensor_form.h"
-#include "settings/bluetooth_universal_rows.h"
+#include "settings/bluetooth_settings.h"
 
 #include <array>
 

@@ -12,6 +12,10 @@
 
 namespace vlk {
 
+// Rows of the universal sensor.
+inline constexpr int kUniversalConditions = 4;
+inline constexpr int kUniversalValues = 8;
+
 extern const SettingsTable kBluetoothSettings;
 
 // The elements of the types alone, also of those that the list of types does not offer: that of SENS1/form

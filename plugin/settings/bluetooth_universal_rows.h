@@ -4,12 +4,9 @@
 // (U1C1 and so on), and eight values that lie in them (U1P1 and so on). %1 is the number of the sensor, %2
 // that of the row. A row whose group is 0 is switched off.
 
-#include "settings/settings_table.h"
+#include "settings/bluetooth_settings.h"
 
 namespace vlk {
-
-inline constexpr int kUniversalConditions = 4;
-inline constexpr int kUniversalValues = 8;
 
 namespace universal {
 
