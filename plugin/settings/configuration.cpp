@@ -1,5 +1,7 @@
 #include "settings/configuration.h"
 
+#include <algorithm>
+
 namespace vlk {
 
 Configuration::Configuration(const std::vector<const SettingsTable*>& tables)
@@ -60,7 +62,7 @@ void Configuration::write(CXmlSection& root) const
 std::vector<Difference> Configuration::differences(const Configuration& other) const
 {
     std::vector<Difference> all;
-    for (std::size_t table = 0; table < tables_.size(); ++table) {
+    for (std::size_t table = 0; table < std::min(tables_.size(), other.tables_.size()); ++table) {
         const std::vector<Difference> own = tables_[table].differences(other.tables_[table]);
         all.insert(all.end(), own.begin(), own.end());
     }

@@ -13,7 +13,7 @@
 #include "settings/table_maker.h"
 
 #include <algorithm>
-#include <tuple>
+#include <utility>
 
 namespace vlk {
 
@@ -120,7 +120,6 @@ constexpr auto repeat(Make make)
     (std::make_index_sequence<count>());
 }
 
-// `over`: a save leaves what else the section holds.
 template <const auto& rows, const auto&... rules>
 constexpr SettingsTable tableOf(const char* section)
 {
@@ -129,6 +128,7 @@ constexpr SettingsTable tableOf(const char* section)
     return table;
 }
 
+// A save leaves what else the section holds.
 template <const auto& rows, const auto&... rules>
 constexpr SettingsTable tableOver(const char* section)
 {

@@ -76,7 +76,8 @@ public:
     void read(const CXmlSection& root, std::vector<ReadNote>* notes = nullptr);
     void write(CXmlSection& root) const;
 
-    // Takes an edit and runs the rules. Gives the rows whose values changed, this one first where it did.
+    // Takes an edit and runs the rules. Gives the rows whose values changed, this one first where it did. An
+    // edit of a row that there is not changes nothing.
     std::vector<int> edit(int row, const QString& text);
     std::vector<int> edit(const QString& path, const QString& text) { return edit(rowAt(path), text); }
 
@@ -122,7 +123,6 @@ private:
     // The code that a setting without a claim gets for one that is taken: the next one that is free now and
     // was before, else the one that has just been given back.
     QString yielded(const SharedList& list, const SharedList::Member& member, int row, const QString& before);
-    void set(const Sets& rule, Changes* changed);
     void setAll(Moment moment, Changes* changed);
     void setBy(int row, bool isRead, const QString& before, Changes* changed);
     void change(int row, const QString& text, Changes* changed);

@@ -121,7 +121,7 @@ void Values::read(const CXmlSection& root, std::vector<ReadNote>* notes)
     for (ReadNote& note : taken) {
         if (const QString& held = value(note.row); held != note.value) {
             note.value = held;
-            note.change = held == note.text ? Change::none : Change::byRule;
+            note.change = held == note.text && note.change != Change::missing ? Change::none : Change::byRule;
         }
         if (note.change != Change::none)
             notes->push_back(note);

@@ -23,6 +23,8 @@ const PresetRow* rowOf(const Presets& presets, const QString& code)
 std::vector<int> Values::edit(int row, const QString& text)
 {
     Changes changed;
+    if (row < 0 || row >= count())
+        return changed;
     change(holder(row), text, &changed);
     setAll(Moment::always, &changed);
     return changed;

@@ -370,6 +370,7 @@ private Q_SLOTS:
     {
         DataTable<QStringList, QString>({"edits", "changed"})
             .row("nothing new", {"whole=5"}, "")
+            .row("no such setting", {"nothing=5"}, "")
             .row("limited", {"whole=1000"}, "whole=90")
             .row("no whole number", {"blank=7", "blank=12abc"}, "blank=0")
             .row("beyond what a read takes", {"wrapped=255600"}, "wrapped=255600")
