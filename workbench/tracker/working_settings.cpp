@@ -37,8 +37,7 @@ using S = WorkingSettings;
 
 struct Row
 {
-    // `field` gives the place of the value, for a number of the repetition: [](auto& s, int i) -> auto&
-    // {...}.
+    // `field` gives the place of the value in the settings, for a number of the repetition.
     template <class Field>
     constexpr Row(const char* path, int absent, Field /*field*/, Kind kind = Kind::Number, int count = 1)
         : path(path), absent(absent), kind(kind), count(count),
@@ -59,292 +58,94 @@ struct Row
 };
 
 // A use has to be read before the keys of its element.
+// clang-format off
 constexpr Row rows[] = {
-    {"TRACK/POINTS/useMoveSens", 1, [](auto& s, int) -> auto& {return s.track.startAndStop;
-} // namespace
-} // namespace tracker
-, {"TRACK/POINTS/useMaxSpeed", 0, [](auto& s, int) -> auto& {return s.track.speeding;
-}
-}
-, {"TRACK/POINTS/maxSpeed", 100, [](auto& s, int) -> auto& {return s.track.maxSpeed;
-}
-}
-, {"TRACK/POINTS/angleMode", 2, [](auto& s, int) -> auto& {return s.track.turns;
-}
-}
-, {"TRACK/POINTS/angle", 5, [](auto& s, int) -> auto& {return s.track.angle;
-}
-}
-, {"TRACK/POINTS/useDist", 1, [](auto& s, int) -> auto& {return s.track.byDistance;
-}
-}
-, {"TRACK/POINTS/dist", 500, [](auto& s, int) -> auto& {return s.track.distance;
-}
-}
-, {"TRACK/POINTS/useTimer", 1, [](auto& s, int) -> auto& {return s.track.byTime;
-}
-}
-, {"TRACK/POINTS/moveTimer", 60, [](auto& s, int) -> auto& {return s.track.moveTime;
-}
-}
-, {"TRACK/POINTS/moveTimerSens", 0,
-   [](auto& s, int i) -> auto& {return i == 0 ? s.track.ignitionIsMoving : s.track.engineIsMoving;
-}
-, Kind::Digits, 2
-}
-, {"TRACK/POINTS/stopTimer", 600, [](auto& s, int) -> auto& {return s.track.stopTime;
-}
-}
-, {"TRACK/LIMPOINT/blockDist", 1, [](auto& s, int) -> auto& {return s.track.leastDistanceOn;
-}
-}
-, {"TRACK/LIMPOINT/dist", 10, [](auto& s, int) -> auto& {return s.track.leastDistance;
-}
-}
-, {"TRACK/LIMPOINT/blockTimer", 0, [](auto& s, int) -> auto& {return s.track.leastTimeOn;
-}
-}
-, {"TRACK/LIMPOINT/timer", 5, [](auto& s, int) -> auto& {return s.track.leastTime;
-}
-}
-, {"TRACK/MOVESENS/stopTimer", 30, [](auto& s, int) -> auto& {return s.track.stopAfter;
-}
-}
-,
+    {"TRACK/POINTS/useMoveSens",            1, [](auto& s, int) -> auto& { return s.track.startAndStop; }},
+    {"TRACK/POINTS/useMaxSpeed",            0, [](auto& s, int) -> auto& { return s.track.speeding; }},
+    {"TRACK/POINTS/maxSpeed",             100, [](auto& s, int) -> auto& { return s.track.maxSpeed; }},
+    {"TRACK/POINTS/angleMode",              2, [](auto& s, int) -> auto& { return s.track.turns; }},
+    {"TRACK/POINTS/angle",                  5, [](auto& s, int) -> auto& { return s.track.angle; }},
+    {"TRACK/POINTS/useDist",                1, [](auto& s, int) -> auto& { return s.track.byDistance; }},
+    {"TRACK/POINTS/dist",                 500, [](auto& s, int) -> auto& { return s.track.distance; }},
+    {"TRACK/POINTS/useTimer",               1, [](auto& s, int) -> auto& { return s.track.byTime; }},
+    {"TRACK/POINTS/moveTimer",             60, [](auto& s, int) -> auto& { return s.track.moveTime; }},
+    {"TRACK/POINTS/moveTimerSens",          0, [](auto& s, int i) -> auto& { return i == 0 ? s.track.ignitionIsMoving : s.track.engineIsMoving; }, Kind::Digits, 2},
+    {"TRACK/POINTS/stopTimer",            600, [](auto& s, int) -> auto& { return s.track.stopTime; }},
+    {"TRACK/LIMPOINT/blockDist",            1, [](auto& s, int) -> auto& { return s.track.leastDistanceOn; }},
+    {"TRACK/LIMPOINT/dist",                10, [](auto& s, int) -> auto& { return s.track.leastDistance; }},
+    {"TRACK/LIMPOINT/blockTimer",           0, [](auto& s, int) -> auto& { return s.track.leastTimeOn; }},
+    {"TRACK/LIMPOINT/timer",                5, [](auto& s, int) -> auto& { return s.track.leastTime; }},
+    {"TRACK/MOVESENS/stopTimer",           30, [](auto& s, int) -> auto& { return s.track.stopAfter; }},
 
-    {"TRACK/COORDFLT/use", 1, [](auto& s, int) -> auto& {return s.navigation.filtered;
-}
-}
-, {"TRACK/COORDFLT/minSats", 4, [](auto& s, int) -> auto& {return s.navigation.leastSatellites;
-}
-}
-, {"TRACK/COORDFLT/maxHDOP", 250, [](auto& s, int) -> auto& {return s.navigation.mostHdop;
-}
-, Kind::Hundredths
-}
-, {"TRACK/COORDFLT/maxSpeed", 200, [](auto& s, int) -> auto& {return s.navigation.mostSpeed;
-}
-}
-, {"TRACK/COORDFLT/maxAccel", 25, [](auto& s, int) -> auto& {return s.navigation.mostGain;
-}
-}
-, {"TRACK/COORDFLT/maxDist", 100, [](auto& s, int) -> auto& {return s.navigation.mostShift;
-}
-}
-, {"TRACK/COORDFLT/maxFilterCnt", 5, [](auto& s, int) -> auto& {return s.navigation.rejectedAfterJump;
-}
-}
-, {"TRACK/COORDAVER/mode", 1, [](auto& s, int) -> auto& {return s.navigation.atStops;
-}
-}
-, {"TRACK/COORDAVER/sensors", 1,
-   [](auto& s, int i) -> auto& {return i == 0 ? s.navigation.standsWithoutIgnition
-                                              : s.navigation.standsWithoutMovement;
-}
-, Kind::Digits, 2
-}
-, {"TRACK/GNSS/mode", 1, [](auto& s, int i) -> auto& {return s.navigation.systems[i];
-}
-, Kind::Digits, 5
-}
-, {"TRACK/GNSS/angle", 5, [](auto& s, int) -> auto& {return s.navigation.elevation;
-}
-}
-,
+    {"TRACK/COORDFLT/use",                  1, [](auto& s, int) -> auto& { return s.navigation.filtered; }},
+    {"TRACK/COORDFLT/minSats",              4, [](auto& s, int) -> auto& { return s.navigation.leastSatellites; }},
+    {"TRACK/COORDFLT/maxHDOP",            250, [](auto& s, int) -> auto& { return s.navigation.mostHdop; }, Kind::Hundredths},
+    {"TRACK/COORDFLT/maxSpeed",           200, [](auto& s, int) -> auto& { return s.navigation.mostSpeed; }},
+    {"TRACK/COORDFLT/maxAccel",            25, [](auto& s, int) -> auto& { return s.navigation.mostGain; }},
+    {"TRACK/COORDFLT/maxDist",            100, [](auto& s, int) -> auto& { return s.navigation.mostShift; }},
+    {"TRACK/COORDFLT/maxFilterCnt",         5, [](auto& s, int) -> auto& { return s.navigation.rejectedAfterJump; }},
+    {"TRACK/COORDAVER/mode",                1, [](auto& s, int) -> auto& { return s.navigation.atStops; }},
+    {"TRACK/COORDAVER/sensors",             1, [](auto& s, int i) -> auto& { return i == 0 ? s.navigation.standsWithoutIgnition : s.navigation.standsWithoutMovement; }, Kind::Digits, 2},
+    {"TRACK/GNSS/mode",                     1, [](auto& s, int i) -> auto& { return s.navigation.systems[i]; }, Kind::Digits, 5},
+    {"TRACK/GNSS/angle",                    5, [](auto& s, int) -> auto& { return s.navigation.elevation; }},
 
-    {"SENSORS/IN%1/normState", 0, [](auto& s, int i) -> auto& {return s.lines[i].use;
-}
-, Kind::Use, 3
-}
-, {"SENSORS/IN%1/IN%1%2/ign", 1, [](auto& s, int i) -> auto& {return s.lines[i].ignition;
-}
-, Kind::Number, 3
-}
-, {"SENSORS/IN%1/IN%1%2/cntlRestore", 1, [](auto& s, int i) -> auto& {return s.lines[i].restores;
-}
-, Kind::Number, 3
-}
-, {"SENSORS/IN%1/IN%1%2/lowLvl", 5000, [](auto& s, int i) -> auto& {return s.lines[i].low;
-}
-, Kind::Number, 3
-}
-, {"SENSORS/IN%1/IN%1%2/highLvl", 6000, [](auto& s, int i) -> auto& {return s.lines[i].high;
-}
-, Kind::Number, 3
-}
-, {"SENSORS/IN%1/IN%1%2/thld", 2000, [](auto& s, int i) -> auto& {return s.lines[i].change;
-}
-, Kind::Number, 3
-}
-, {"SENSORS/IN%1/IN%1%2/trhldOff", 1, [](auto& s, int i) -> auto& {return s.lines[i].stillOnly;
-}
-, Kind::Number, 3
-}
-, {"SENSORS/IN%1/IN%1%2/filterMode", 1, [](auto& s, int i) -> auto& {return s.lines[i].filtered;
-}
-, Kind::Number, 3
-}
-, {"SENSORS/IN%1/IN%1%2/filterLen", 30, [](auto& s, int i) -> auto& {return s.lines[i].window;
-}
-, Kind::Number, 3
-}
-,
+    {"SENSORS/IN%1/normState",              0, [](auto& s, int i) -> auto& { return s.lines[i].use; }, Kind::Use, 3},
+    {"SENSORS/IN%1/IN%1%2/ign",             1, [](auto& s, int i) -> auto& { return s.lines[i].ignition; }, Kind::Number, 3},
+    {"SENSORS/IN%1/IN%1%2/cntlRestore",     1, [](auto& s, int i) -> auto& { return s.lines[i].restores; }, Kind::Number, 3},
+    {"SENSORS/IN%1/IN%1%2/lowLvl",       5000, [](auto& s, int i) -> auto& { return s.lines[i].low; }, Kind::Number, 3},
+    {"SENSORS/IN%1/IN%1%2/highLvl",      6000, [](auto& s, int i) -> auto& { return s.lines[i].high; }, Kind::Number, 3},
+    {"SENSORS/IN%1/IN%1%2/thld",         2000, [](auto& s, int i) -> auto& { return s.lines[i].change; }, Kind::Number, 3},
+    {"SENSORS/IN%1/IN%1%2/trhldOff",        1, [](auto& s, int i) -> auto& { return s.lines[i].stillOnly; }, Kind::Number, 3},
+    {"SENSORS/IN%1/IN%1%2/filterMode",      1, [](auto& s, int i) -> auto& { return s.lines[i].filtered; }, Kind::Number, 3},
+    {"SENSORS/IN%1/IN%1%2/filterLen",      30, [](auto& s, int i) -> auto& { return s.lines[i].window; }, Kind::Number, 3},
 
-    {"SYSTEM/PWRSENS/line", 0, [](auto& s, int) -> auto& {return s.supply.line;
-}
-}
-, {"SYSTEM/PWRSENS/alarmLvl", 10500, [](auto& s, int) -> auto& {return s.supply.alarm;
-}
-}
-, {"SYSTEM/PWRSENS/restoreLvl", 11000, [](auto& s, int) -> auto& {return s.supply.restore;
-}
-}
-, {"SYSTEM/PWRSENS/delay", 0, [](auto& s, int) -> auto& {return s.supply.delay;
-}
-}
-, {"SYSTEM/ENGSENS/useCustom", 0, [](auto& s, int) -> auto& {return s.supply.ownEngineLevel;
-}
-}
-, {"SYSTEM/ENGSENS/voltageLvl", 13200, [](auto& s, int) -> auto& {return s.supply.engineLevel;
-}
-}
-, {"SYSTEM/ENGSENS/noEvent", 0, [](auto& s, int) -> auto& {return s.supply.engineSilent;
-}
-}
-, {"SYSTEM/ENGSENS/delay", 0, [](auto& s, int) -> auto& {return s.supply.engineDelay;
-}
-}
-,
+    {"SYSTEM/PWRSENS/line",                 0, [](auto& s, int) -> auto& { return s.supply.line; }},
+    {"SYSTEM/PWRSENS/alarmLvl",         10500, [](auto& s, int) -> auto& { return s.supply.alarm; }},
+    {"SYSTEM/PWRSENS/restoreLvl",       11000, [](auto& s, int) -> auto& { return s.supply.restore; }},
+    {"SYSTEM/PWRSENS/delay",                0, [](auto& s, int) -> auto& { return s.supply.delay; }},
+    {"SYSTEM/ENGSENS/useCustom",            0, [](auto& s, int) -> auto& { return s.supply.ownEngineLevel; }},
+    {"SYSTEM/ENGSENS/voltageLvl",       13200, [](auto& s, int) -> auto& { return s.supply.engineLevel; }},
+    {"SYSTEM/ENGSENS/noEvent",              0, [](auto& s, int) -> auto& { return s.supply.engineSilent; }},
+    {"SYSTEM/ENGSENS/delay",                0, [](auto& s, int) -> auto& { return s.supply.engineDelay; }},
 
-    {"SYSTEM/FUEL/sensors", 0,
-     [](auto& s, int i) -> auto& {return i == 0   ? s.fuel.withIgnition
-                                         : i == 1 ? s.fuel.withEngine
-                                                  : s.fuel.withSupply;
-}
-, Kind::Digits, 3
-}
-, {"SYSTEM/FUEL/blockVolt", 8000, [](auto& s, int) -> auto& {return s.fuel.low;
-}
-}
-, {"SYSTEM/FUEL/unblockVolt", 11000, [](auto& s, int) -> auto& {return s.fuel.high;
-}
-}
-, {"SYSTEM/FUEL/unblockDelay", 5, [](auto& s, int) -> auto& {return s.fuel.delay;
-}
-}
-,
+    {"SYSTEM/FUEL/sensors",                 0, [](auto& s, int i) -> auto& { return i == 0 ? s.fuel.withIgnition : i == 1 ? s.fuel.withEngine : s.fuel.withSupply; }, Kind::Digits, 3},
+    {"SYSTEM/FUEL/blockVolt",            8000, [](auto& s, int) -> auto& { return s.fuel.low; }},
+    {"SYSTEM/FUEL/unblockVolt",         11000, [](auto& s, int) -> auto& { return s.fuel.high; }},
+    {"SYSTEM/FUEL/unblockDelay",            5, [](auto& s, int) -> auto& { return s.fuel.delay; }},
 
-    {"RS485/OPTIONS/owner1", 0, [](auto& s, int) -> auto& {return s.serial.owner;
-}
-, Kind::Owner
-}
-, {"RS485/FS%1/use", 0, [](auto& s, int i) -> auto& {return s.serial.sensorUsed[i];
-}
-, Kind::Number, 16
-}
-, {"RS485/FS%1/address", 0, [](auto& s, int i) -> auto& {return s.serial.sensorAddress[i];
-}
-, Kind::Number, 16
-}
-, {"RS485/FS%1/filterMode", 1, [](auto& s, int i) -> auto& {return s.serial.sensorFiltered[i];
-}
-, Kind::Number, 16
-}
-, {"RS485/PCNT/id%1", 0, [](auto& s, int i) -> auto& {return s.serial.counterAddress[i];
-}
-, Kind::Number, 7
-}
-,
+    {"RS485/OPTIONS/owner1",                0, [](auto& s, int) -> auto& { return s.serial.owner; }, Kind::Owner},
+    {"RS485/FS%1/use",                      0, [](auto& s, int i) -> auto& { return s.serial.sensorUsed[i]; }, Kind::Number, 16},
+    {"RS485/FS%1/address",                  0, [](auto& s, int i) -> auto& { return s.serial.sensorAddress[i]; }, Kind::Number, 16},
+    {"RS485/FS%1/filterMode",               1, [](auto& s, int i) -> auto& { return s.serial.sensorFiltered[i]; }, Kind::Number, 16},
+    {"RS485/PCNT/id%1",                     0, [](auto& s, int i) -> auto& { return s.serial.counterAddress[i]; }, Kind::Number, 7},
 
-    {"BLUETOOTH/GLOBAL/use", 1, [](auto& s, int) -> auto& {return s.bluetooth.used;
-}
-}
-, {"BLUETOOTH/SENS%1/type", 0, [](auto& s, int i) -> auto& {return s.bluetooth.type[i];
-}
-, Kind::Number, 4
-}
-, {"BLUETOOTH/SENS%1/macaddr", -1, [](auto& s, int i) -> auto& {return s.bluetooth.device[i];
-}
-, Kind::Device, 4
-}
-, {"BLUETOOTH/FS%1/idx", 1, [](auto& s, int i) -> auto& {return s.bluetooth.fuel[i];
-}
-, Kind::Number, 4
-}
-, {"BLUETOOTH/TS%1/idx", 1, [](auto& s, int i) -> auto& {return s.bluetooth.temperature[i];
-}
-, Kind::Number, 4
-}
-,
+    {"BLUETOOTH/GLOBAL/use",                1, [](auto& s, int) -> auto& { return s.bluetooth.used; }},
+    {"BLUETOOTH/SENS%1/type",               0, [](auto& s, int i) -> auto& { return s.bluetooth.type[i]; }, Kind::Number, 4},
+    {"BLUETOOTH/SENS%1/macaddr",           -1, [](auto& s, int i) -> auto& { return s.bluetooth.device[i]; }, Kind::Device, 4},
+    {"BLUETOOTH/FS%1/idx",                  1, [](auto& s, int i) -> auto& { return s.bluetooth.fuel[i]; }, Kind::Number, 4},
+    {"BLUETOOTH/TS%1/idx",                  1, [](auto& s, int i) -> auto& { return s.bluetooth.temperature[i]; }, Kind::Number, 4},
 
-    {"TEMPSENS/SENS%1/min", -5000, [](auto& s, int i) -> auto& {return s.zones[i].low;
-}
-, Kind::Hundredths, 4
-}
-, {"TEMPSENS/SENS%1/max", 12000, [](auto& s, int i) -> auto& {return s.zones[i].high;
-}
-, Kind::Hundredths, 4
-}
-, {"TEMPSENS/SENS%1/hyst", 500, [](auto& s, int i) -> auto& {return s.zones[i].hysteresis;
-}
-, Kind::Hundredths, 4
-}
-, {"TEMPSENS/SENS%1/filterMode", 1, [](auto& s, int i) -> auto& {return s.zones[i].filtered;
-}
-, Kind::Number, 4
-}
-,
+    {"TEMPSENS/SENS%1/min",             -5000, [](auto& s, int i) -> auto& { return s.zones[i].low; }, Kind::Hundredths, 4},
+    {"TEMPSENS/SENS%1/max",             12000, [](auto& s, int i) -> auto& { return s.zones[i].high; }, Kind::Hundredths, 4},
+    {"TEMPSENS/SENS%1/hyst",              500, [](auto& s, int i) -> auto& { return s.zones[i].hysteresis; }, Kind::Hundredths, 4},
+    {"TEMPSENS/SENS%1/filterMode",          1, [](auto& s, int i) -> auto& { return s.zones[i].filtered; }, Kind::Number, 4},
 
-    {"ACCEL/SENSORS/sh1", 5000, [](auto& s, int) -> auto& {return s.shockLevels[0];
-}
-, Kind::Hundredths
-}
-, {"ACCEL/SENSORS/sh2", 10000, [](auto& s, int) -> auto& {return s.shockLevels[1];
-}
-, Kind::Hundredths
-}
-, {"ACCEL/SENSORS/sh3", 200, [](auto& s, int) -> auto& {return s.shockLevels[2];
-}
-, Kind::Hundredths
-}
-, {"ACCEL/SENSORS/sh4", 2500, [](auto& s, int) -> auto& {return s.shockLevels[3];
-}
-, Kind::Hundredths
-}
-,
+    {"ACCEL/SENSORS/sh1",                5000, [](auto& s, int) -> auto& { return s.shockLevels[0]; }, Kind::Hundredths},
+    {"ACCEL/SENSORS/sh2",               10000, [](auto& s, int) -> auto& { return s.shockLevels[1]; }, Kind::Hundredths},
+    {"ACCEL/SENSORS/sh3",                 200, [](auto& s, int) -> auto& { return s.shockLevels[2]; }, Kind::Hundredths},
+    {"ACCEL/SENSORS/sh4",                2500, [](auto& s, int) -> auto& { return s.shockLevels[3]; }, Kind::Hundredths},
 
-    {"OUTPUTS/LINE1/mode", 0, [](auto& s, int) -> auto& {return s.output.switched;
-}
-, Kind::General
-}
-, {"OUTPUTS/LINE1/actions", 0, [](auto& s, int i) -> auto& {return s.output.actions[i];
-}
-, Kind::Digits, 20
-}
-, {"OUTPUTS/LINE1/signalForm", 0, [](auto& s, int) -> auto& {return s.output.form;
-}
-}
-, {"OUTPUTS/LINE1/onPeriod", 0, [](auto& s, int) -> auto& {return s.output.onPeriod;
-}
-}
-, {"OUTPUTS/LINE1/offPeriod", 0, [](auto& s, int) -> auto& {return s.output.offPeriod;
-}
-}
-, {"OUTPUTS/LINE1/autoOff", 0, [](auto& s, int) -> auto& {return s.output.stops;
-}
-}
-, {"OUTPUTS/LINE1/autoOffDelay", 0, [](auto& s, int) -> auto& {return s.output.stopsAfter;
-}
-}
-, {"OUTPUTS/LINE1/onDelay", 60, [](auto& s, int) -> auto& {return s.output.delay;
-}
-}
-, {"OUTPUTS/LINE1/safeBlock", 0, [](auto& s, int) -> auto& {return s.output.whenSafe;
-}
-}
-,
-}
-;
+    {"OUTPUTS/LINE1/mode",                  0, [](auto& s, int) -> auto& { return s.output.switched; }, Kind::General},
+    {"OUTPUTS/LINE1/actions",               0, [](auto& s, int i) -> auto& { return s.output.actions[i]; }, Kind::Digits, 20},
+    {"OUTPUTS/LINE1/signalForm",            0, [](auto& s, int) -> auto& { return s.output.form; }},
+    {"OUTPUTS/LINE1/onPeriod",              0, [](auto& s, int) -> auto& { return s.output.onPeriod; }},
+    {"OUTPUTS/LINE1/offPeriod",             0, [](auto& s, int) -> auto& { return s.output.offPeriod; }},
+    {"OUTPUTS/LINE1/autoOff",               0, [](auto& s, int) -> auto& { return s.output.stops; }},
+    {"OUTPUTS/LINE1/autoOffDelay",          0, [](auto& s, int) -> auto& { return s.output.stopsAfter; }},
+    {"OUTPUTS/LINE1/onDelay",              60, [](auto& s, int) -> auto& { return s.output.delay; }},
+    {"OUTPUTS/LINE1/safeBlock",             0, [](auto& s, int) -> auto& { return s.output.whenSafe; }},
+};
+// clang-format on
 
 // A number that an int of the tracker's holds, whatever stands there.
 int hundredths(const QString& text, int absent)
