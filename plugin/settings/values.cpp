@@ -65,7 +65,7 @@ QString Values::written(int row, const QString& value) const
     const Number* number = setting(row).number();
     QString text = number && number->blankIsZero && value.isEmpty() ? QStringLiteral("0") : value;
     for (const MaskPositions& rule : table().masks) {
-        if (rule.path.row != row || !holds(rule.when))
+        if (rule.path.row != row || !holdsAll(rule.when))
             continue;
         for (const int position : rule.positions) {
             if (position < text.size())
@@ -83,16 +83,15 @@ bool Values::holds(const When& condition) const
     return condition.same ? value == this->value(condition.other) : isMet(condition, value);
 }
 
-template <std::size_t n>
-bool Values::holds(const std::array<When, n>& all) const
+bool Values::holdsAll(std::span<const When> conditions) const
 {
-    return std::all_of(all.begin(), all.end(), [&](const When& condition) { return holds(condition); });
+    return std::ranges::all_of(conditions, [this](const When& condition) { return holds(condition); });
 }
 
 bool Values::holds(const Enable& rule) const
 {
     if (!rule.any)
-        return holds(rule.when);
+        return holdsAll(rule.when);
     return std::any_of(rule.when.begin(), rule.when.end(),
                        [&](const When& condition) { return condition && holds(condition); });
 }

@@ -16,6 +16,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <span>
 #include <vector>
 
 struct CXmlSection;
@@ -87,7 +88,7 @@ public:
 
     // Whether the conditions of a rule of the table hold.
     bool holds(const Enable& rule) const;
-    bool holds(const Doubt& rule) const { return holds(rule.when); }
+    bool holds(const Doubt& rule) const { return holdsAll(rule.when); }
     // The least distance that a rule of the table keeps now, in units of the widget.
     double gapOf(const Distance& rule) const;
 
@@ -96,8 +97,7 @@ private:
     using Changes = std::vector<int>; // rows, each once
 
     bool holds(const When& condition) const;
-    template <std::size_t n>
-    bool holds(const std::array<When, n>& all) const;
+    bool holdsAll(std::span<const When> conditions) const;
     bool isRead(const Group& group) const;
     bool isWritten(const TableLayout::Element& element) const;
     QString written(int row, const QString& value) const;
