@@ -369,19 +369,22 @@ private Q_SLOTS:
     {
         DataTable<int>({"width"}).row("1600", 1600).row("1020", 1020).row("700", 700).row("1300", 1300);
     }
-    // Columns begin at the top, groups do not overlap, and no value moves when the record changes.
+    // Columns begin at the top, groups have the room that they need, and no value moves when the record
+    // changes.
     void arrangement()
     {
         QFETCH(int, width);
-        view_->resize(width, 700);
+        view_->resize(width, 540);
         auto* tabs = child<QTabWidget>("tabWidget");
         for (int i = 0; i < tabs->count(); ++i) {
             tabs->setCurrentIndex(i);
             QCoreApplication::processEvents();
             QMap<int, QVector<QRect>> columns;
             for (const QGroupBox* group : tabs->currentWidget()->findChildren<QGroupBox*>()) {
-                if (group->isVisible())
-                    columns[group->x()] << group->geometry();
+                if (!group->isVisible())
+                    continue;
+                columns[group->x()] << group->geometry();
+                QVERIFY(group->height() >= group->minimumSizeHint().height());
             }
             QVERIFY(!columns.isEmpty());
             for (QVector<QRect>& column : columns) {
