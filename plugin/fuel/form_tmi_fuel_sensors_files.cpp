@@ -39,6 +39,7 @@ QString modelText()
 
 void VLK_Form_TMI_Fuel_Sensors::tellOfTable()
 {
+    markTabs();
     const int sensor = currentSensor();
     const VLK_Form_Fuel_Sensor* form = currentForm();
     if (form && !form->hasRows())

@@ -302,13 +302,17 @@ private Q_SLOTS:
         add("D1", "1", 1000);
         show("A3");
         QVERIFY(fuel_.isOn("pushButton_Save_Xml"));
+        QCOMPARE(markedTabs(), QString("A3 D1"));
+        saveTo("pushButton_Save_Xml", folder.filePath("out.xml"));
+        QCOMPARE(markedTabs(), QString("D1"));
+        add("A3", "2", 1000);
         press("pushButton_FuelSensor");
-        QCOMPARE(rows("A3"), QString("1=1.00"));
+        QCOMPARE(rows("A3"), QString("1=1.00 2=1.00"));
         answerBox("wrd_001", kUnsaved);
         QTest::keyClick(fuel_.window, Qt::Key_Escape);
         QVERIFY(fuel_.window->isHidden());
         press("pushButton_FuelSensor");
-        QCOMPARE(rows("A3") + rows("D1"), QString());
+        QCOMPARE(rows("A3") + rows("D1") + markedTabs(), QString());
         fuel_.window->close();
         QVERIFY(fuel_.window->isHidden());
     }
@@ -410,6 +414,19 @@ private:
         host.send(Message::AnalogRecord, record.constData());
         edit(sensor, volume);
         form(sensor)->findChild<QPushButton*>("pushButton_Add")->click();
+    }
+    // Of those whose group is marked too.
+    QString markedTabs()
+    {
+        QStringList names;
+        auto* groups = fuel_.child<QTabWidget>("tabWidget");
+        for (int i = 0; i < groups->count(); ++i) {
+            auto* group = qobject_cast<QTabWidget*>(groups->widget(i));
+            for (int at = 0; at < group->count(); ++at)
+                if (!group->tabIcon(at).isNull() && !groups->tabIcon(i).isNull())
+                    names << group->widget(at)->objectName();
+        }
+        return names.join(' ');
     }
     QWidget* bar() { return fuel_.child<QWidget>("noticeBar"); }
     void pressInBar(const QString& caption)
