@@ -1340,6 +1340,7 @@
     <message id="tmiw_221"><translation>Bring back the last zone and period: UTC%1, %2 – %3</translation></message>
     <message id="tmiw_222"><translation>There is no last zone and period yet</translation></message>
     <message id="tmiw_262"><translation>Not saved</translation></message>
+    <message id="tmiw_263"><translation>No value</translation></message>
     <message id="tmizta_001"><translation>Test mode</translation></message>
     <message id="tmizta_002"><translation>Backup</translation></message>
     <message id="tmizta_003"><translation>Main</translation></message>

@@ -324,23 +324,23 @@ private Q_SLOTS:
         QCOMPARE(box->currentIndex(), 1);
     }
 
-    // A sensor without a value is blank; what the record lacks has a dash, which is drawn and is no text.
+    // A sensor without a value and what the record lacks have a dash, which is drawn and is no text.
     void absentValues()
     {
         show(Record{{"Temp1", 128}, {"Latitude", 33900000}, {"Longitude", quint32(-300001)}});
-        const std::tuple<const char*, bool, QString> values[] = {
-            {"label_TS_Value_1", false, ""},
-            {"label_TS_Value_2", true, "Not in the record"},
-            {"label_Navi_Lat_Value", true, "56\u00b0 30.0000' N"},
-            {"label_Navi_Lon_Value", true, "0\u00b0 30.0001' W"},
-            {"label_Navi_Date_Value", true, "Not in the record"},
+        const std::pair<const char*, QString> values[] = {
+            {"label_TS_Value_1", "No value"},
+            {"label_TS_Value_2", "Not in the record"},
+            {"label_Navi_Lat_Value", "56\u00b0 30.0000' N"},
+            {"label_Navi_Lon_Value", "0\u00b0 30.0001' W"},
+            {"label_Navi_Date_Value", "Not in the record"},
         };
-        for (const auto& [name, isDrawn, tip] : values) {
+        for (const auto& [name, tip] : values) {
             auto* label = child(name);
             const QImage image = label->grab().toImage();
             QImage blank = image;
             blank.fill(image.pixel(0, 0));
-            QCOMPARE(image != blank, isDrawn);
+            QVERIFY(image != blank);
             QCOMPARE(label->text().isEmpty(), !QByteArray(name).contains("_L"));
             QHelpEvent hover(QEvent::ToolTip, label->rect().center(),
                              label->mapToGlobal(label->rect().center()));

@@ -49,7 +49,7 @@ VLK_Widget_Tmi_View::VLK_Widget_Tmi_View(QWidget* parent)
     // Before the first answer.
     ui_->lineEdit_TM->setPlaceholderText(kAbsentMark);
     ui_->lineEdit_RFID->setPlaceholderText(kAbsentMark);
-    ui_->spinBox_RFID->setSpecialValueText(kAbsentMark);
+    ui_->spinBox_RFID->setSpecialValueText(QStringLiteral(" ")); // beside the dash of the number
     connectControls();
     keepOnScreen(this);
     connect(eventPanel_, &vlk::EventPanel::signal_OperatingMode, this, &VLK_Widget_Tmi_View::setGuardButtons);
