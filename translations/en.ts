@@ -1341,6 +1341,7 @@
     <message id="tmiw_222"><translation>There is no last zone and period yet</translation></message>
     <message id="tmiw_262"><translation>Not saved</translation></message>
     <message id="tmiw_263"><translation>No value</translation></message>
+    <message id="tmiw_264"><translation>XML holds whole litres. Volumes that lost their fraction: %1. Excel (CSV) keeps it.</translation></message>
     <message id="tmizta_001"><translation>Test mode</translation></message>
     <message id="tmizta_002"><translation>Backup</translation></message>
     <message id="tmizta_003"><translation>Main</translation></message>

@@ -1341,6 +1341,7 @@
     <message id="tmiw_222"><translation>Прошлого пояса и периода ещё нет</translation></message>
     <message id="tmiw_262"><translation>Не сохранено</translation></message>
     <message id="tmiw_263"><translation>Нет значения</translation></message>
+    <message id="tmiw_264"><translation>В XML только целые литры. Объёмов, потерявших дробную часть: %1. В Excel (CSV) она сохранится.</translation></message>
     <message id="tmizta_001"><translation>Режим тестирования</translation></message>
     <message id="tmizta_002"><translation>Резервный</translation></message>
     <message id="tmizta_003"><translation>Основной</translation></message>

@@ -126,6 +126,11 @@ bool VLK_Form_Fuel_Sensor::hasRows() const
     return ui_->tableWidget->rowCount() > 0;
 }
 
+vlk::FuelRows VLK_Form_Fuel_Sensor::rows() const
+{
+    return ui_->tableWidget->rows();
+}
+
 void VLK_Form_Fuel_Sensor::setKindAndName(int kind, const QString& name)
 {
     name_ = name;
@@ -207,7 +212,7 @@ void VLK_Form_Fuel_Sensor::addRows(const vlk::FuelRows& rows)
 void VLK_Form_Fuel_Sensor::tableToMap(QMap<double, int>& map) const
 {
     map.clear();
-    for (const vlk::FuelRow& row : ui_->tableWidget->rows())
+    for (const vlk::FuelRow& row : rows())
         map[vlk::withDecimalPoint(row.volume).toDouble()] = vlk::withDecimalPoint(row.value).toInt();
 }
 
@@ -248,12 +253,12 @@ void VLK_Form_Fuel_Sensor::setEdited(bool edited)
 
 QString VLK_Form_Fuel_Sensor::keep(const QString& folder, const QString& vehicle, const QDateTime& time) const
 {
-    return vlk::keepTable(folder, name_, vehicle, ui_->lineEdit_Name->text(), ui_->tableWidget->rows(), time);
+    return vlk::keepTable(folder, name_, vehicle, ui_->lineEdit_Name->text(), rows(), time);
 }
 
-void VLK_Form_Fuel_Sensor::saveCsv(const QString& path) const
+bool VLK_Form_Fuel_Sensor::saveCsv(const QString& path) const
 {
-    vlk::saveFuelFile(path, vlk::fuelCsv(captions(), ui_->tableWidget->rows()));
+    return vlk::saveFuelFile(path, vlk::fuelCsv(captions(), rows()));
 }
 
 void VLK_Form_Fuel_Sensor::loadCsv(const QString& path)
@@ -271,7 +276,7 @@ void VLK_Form_Fuel_Sensor::loadCsv(const QString& path)
 
 void VLK_Form_Fuel_Sensor::saveXml(CXmlSection* section)
 {
-    vlk::putFuelTable(section, name_, ui_->lineEdit_Name->text(), ui_->tableWidget->rows());
+    vlk::putFuelTable(section, name_, ui_->lineEdit_Name->text(), rows());
     setDirty(false);
     setEdited(false);
 }
@@ -301,13 +306,13 @@ void VLK_Form_Fuel_Sensor::fillSheet(vlk::CalibrationSheet& sheet) const
     sheet.kind = kind_;
     sheet.sensor = name_;
     sheet.tank = ui_->lineEdit_Name->text();
-    sheet.rows = ui_->tableWidget->rows();
+    sheet.rows = rows();
     sheet.points = points_;
 }
 
 void VLK_Form_Fuel_Sensor::copyTable() const
 {
-    QGuiApplication::clipboard()->setText(vlk::fuelClipboard(captions(), ui_->tableWidget->rows()));
+    QGuiApplication::clipboard()->setText(vlk::fuelClipboard(captions(), rows()));
 }
 
 void VLK_Form_Fuel_Sensor::pasteRows()

@@ -44,6 +44,7 @@ public:
     void setTabIndex(int index) { tabIndex_ = index; }
     bool isDirty() const { return dirty_; }
     bool hasRows() const;
+    vlk::FuelRows rows() const;
     bool isEdited() const { return edited_ && !dirty_; }
     void setKindAndName(int kind, const QString& name);
     void setParamEditable(bool editable);
@@ -61,7 +62,7 @@ public:
     void tableToMap(QMap<double, int>& map) const;
 
     // Files that cannot be read or written change nothing; the log says so (vlk.fuel, vlk.save).
-    void saveCsv(const QString& path) const;
+    bool saveCsv(const QString& path) const;
     // Adds the rows of the file to those that are there.
     void loadCsv(const QString& path);
     // Into and from the root of a calibration document. What was put into one counts as saved; where its file

@@ -108,6 +108,8 @@ private:
     vlk::KeptForms kept_;
     // The sensor whose file a form shows, where that has no form of its own.
     std::array<QString, vlk::fuelSensorCount> fileOf_;
+    // How many volumes of a table have lost their fraction in its XML file.
+    std::array<int, vlk::fuelSensorCount> cutIn_{};
     vlk::NoticeBar* bar_;
     int offers_ = 0;  // of kept tables, in the bar
     QString tracker_; // its number, also when it is gone

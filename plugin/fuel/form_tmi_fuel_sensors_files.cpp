@@ -23,7 +23,7 @@ using namespace vlk;
 namespace {
 
 // Numbers in the bar; offers have those from kOffers on.
-enum NoticeNumber { kEdited, kFileOfOther, kOffers };
+enum NoticeNumber { kEdited, kFileOfOther, kCut, kOffers };
 
 QString telemetryFolder()
 {
@@ -42,12 +42,20 @@ void VLK_Form_TMI_Fuel_Sensors::tellOfTable()
     markTabs();
     const int sensor = currentSensor();
     const VLK_Form_Fuel_Sensor* form = currentForm();
-    if (form && !form->hasRows())
+    if (form && !form->hasRows()) {
         fileOf_[sensor].clear();
+        cutIn_[sensor] = 0;
+    }
     if (form && !fileOf_[sensor].isEmpty())
         bar_->tell(kFileOfOther, {Mark::advice, tr("cfgt6_412").arg(fileOf_[sensor], form->name()), {}});
     else
         bar_->end(kFileOfOther);
+    const Notice::Action saveAll{ui_->pushButton_Save_Excel->text(),
+                                 [this] { slot_pressed_Btn_Save_Excel(); }};
+    if (form && cutIn_[sensor] > 0)
+        bar_->tell(kCut, {Mark::advice, tr("tmiw_264").arg(cutIn_[sensor]), {saveAll}});
+    else
+        bar_->end(kCut);
     const Notice::Action save{ui_->pushButton_Save_Xml->text(), [this] { slot_pressed_Btn_Save_Xml(); }};
     if (form && form->isEdited())
         bar_->tell(kEdited, {Mark::changed, tr("cfgt6_404"), {save}});
@@ -57,8 +65,13 @@ void VLK_Form_TMI_Fuel_Sensors::tellOfTable()
 
 void VLK_Form_TMI_Fuel_Sensors::forgetNotice(int number)
 {
-    if (number == kFileOfOther && currentSensor() >= 0)
-        fileOf_[currentSensor()].clear();
+    const int sensor = currentSensor();
+    if (sensor < 0)
+        return;
+    if (number == kFileOfOther)
+        fileOf_[sensor].clear();
+    else if (number == kCut)
+        cutIn_[sensor] = 0;
 }
 
 void VLK_Form_TMI_Fuel_Sensors::offerKeptTables()
@@ -96,6 +109,7 @@ void VLK_Form_TMI_Fuel_Sensors::bringBack(const KeptTable& table)
 void VLK_Form_TMI_Fuel_Sensors::load(VLK_Form_Fuel_Sensor& form, CXmlSection* root)
 {
     const bool wasEdited = form.isEdited();
+    cutIn_[currentSensor()] = 0;
     form.loadXml(root);
     // What was edited is kept and offered; what is saved or given up is kept no longer.
     if (wasEdited && !form.isEdited())
@@ -179,8 +193,12 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Xml()
     const bool wasEdited = form && form->isEdited();
     if (form)
         form->saveXml(root);
-    if (document.saveAs(path))
+    if (document.saveAs(path)) {
+        if (form)
+            cutIn_[currentSensor()] = cutVolumes(form->rows());
+        tellOfTable();
         return;
+    }
     if (wasDirty)
         form->setDirty(true);
     if (wasEdited)
@@ -194,8 +212,10 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Excel()
         return;
     const QString path = askFuelFileToSave(this, QStringLiteral("%1 Excel").arg(tr("wrd_028")),
                                            proposedName(form->name()), QStringLiteral("csv"));
-    if (!path.isEmpty())
-        form->saveCsv(path);
+    if (path.isEmpty() || !form->saveCsv(path))
+        return;
+    cutIn_[currentSensor()] = 0;
+    tellOfTable();
 }
 
 void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Print()

@@ -173,7 +173,12 @@ private Q_SLOTS:
         show("A3");
         answerFile(folder.filePath("edited.xml"));
         pressInBar("wrd_042 XML");
-        QVERIFY(bar()->isHidden() && readFile(folder.filePath("edited.xml")).contains("param_U=\"10\""));
+        // The file has whole litres, which is told until a file has all.
+        QVERIFY(readFile(folder.filePath("edited.xml")).contains("param_U=\"10\""));
+        QCOMPARE(fuel_.text("label_Notice"), QString("tmiw_264"));
+        answerFile(folder.filePath("edited.csv"));
+        pressInBar("wrd_042 Excel");
+        QVERIFY(bar()->isHidden() && readFile(folder.filePath("edited.csv")).contains(";10.5"));
         {
             const FullDisk full(16);
             QTest::ignoreMessage(QtWarningMsg, QRegularExpression("unsaved"));
