@@ -22,6 +22,8 @@ namespace vlk {
 struct CalibrationSheet;
 }
 
+class QKeyEvent;
+class QLineEdit;
 class VLK_FormReportFuel;
 class VLK_FuelSensor_Graph;
 
@@ -103,6 +105,9 @@ private:
     void askForVolume();
     // The empty field of the name shows it; the right arrow takes it.
     void offerName(const QString& name);
+    // Whether the key is done with, in the field of the name and in those of the numbers.
+    bool takesName(const QKeyEvent& key);
+    bool takesKey(const QLineEdit& number, QKeyEvent& key);
     void rebuildPoints();
     void showFallingPoints();
 

@@ -313,8 +313,12 @@ private Q_SLOTS:
         add("A3", "2", 1000);
         press("pushButton_FuelSensor");
         QCOMPARE(rows("A3"), QString("1=1.00 2=1.00"));
+        // Escape takes back what was typed, then closes.
+        QTest::keyClicks(field("A3", "lineEdit_Volume"), "5");
+        QTest::keyClick(field("A3", "lineEdit_Volume"), Qt::Key_Escape);
+        QVERIFY(field("A3", "lineEdit_Volume")->text().isEmpty() && fuel_.window->isVisible());
         answerBox("wrd_001", kUnsaved);
-        QTest::keyClick(fuel_.window, Qt::Key_Escape);
+        QTest::keyClick(field("A3", "lineEdit_Volume"), Qt::Key_Escape);
         QVERIFY(fuel_.window->isHidden());
         press("pushButton_FuelSensor");
         QCOMPARE(rows("A3") + rows("D1") + markedTabs(), QString());
