@@ -23,7 +23,9 @@ using namespace vlk;
 namespace {
 
 // Numbers in the bar; offers have those from kOffers on.
-enum NoticeNumber { kEdited, kFileOfOther, kCut, kOffers };
+enum NoticeNumber { kEdited, kFileOfOther, kCut, kFlaw, kOffers };
+
+constexpr int kQuoted = 40; // characters of a cell, in the bar
 
 QString telemetryFolder()
 {
@@ -56,6 +58,13 @@ void VLK_Form_TMI_Fuel_Sensors::tellOfTable()
         bar_->tell(kCut, {Mark::advice, tr("tmiw_264").arg(cutIn_[sensor]), {saveAll}});
     else
         bar_->end(kCut);
+    const std::optional<FuelFlaw> flaw = form ? firstFlaw(form->rows()) : std::nullopt;
+    if (flaw)
+        bar_->tell(kFlaw, {Mark::invalid,
+                           tr("tmiw_265").arg(QString::number(flaw->row + 1), flaw->text.left(kQuoted)),
+                           {}});
+    else
+        bar_->end(kFlaw);
     const Notice::Action save{ui_->pushButton_Save_Xml->text(), [this] { slot_pressed_Btn_Save_Xml(); }};
     if (form && form->isEdited())
         bar_->tell(kEdited, {Mark::changed, tr("cfgt6_404"), {save}});

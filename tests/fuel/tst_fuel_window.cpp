@@ -166,7 +166,7 @@ private Q_SLOTS:
         const QString path = writeFile(folder.filePath("load.xml"), fuelFile("A3"));
         load(path);
         QVERIFY(bar()->isHidden());
-        editFirst("A3", "10.5");
+        editCell("A3", "10.5");
         QCOMPARE(fuel_.text("label_Notice"), QString("cfgt6_404"));
         show("D1");
         QVERIFY(bar()->isHidden());
@@ -182,7 +182,7 @@ private Q_SLOTS:
         {
             const FullDisk full(16);
             QTest::ignoreMessage(QtWarningMsg, QRegularExpression("unsaved"));
-            editFirst("A3", "11.5");
+            editCell("A3", "11.5");
             answerBox("wrd_031", kUnsaved);
             fuel_.window->close();
             QVERIFY(fuel_.window->isVisible());
@@ -296,6 +296,17 @@ private Q_SLOTS:
         load(path, "tmiw_129", "wrd_001");
         QCOMPARE(rows("A3"), QString("10=7.5 20=8"));
         QVERIFY(!fuel_.isOn("pushButton_Save_Xml"));
+    }
+
+    // What is no number is told until the cell has one.
+    void tellsWhatIsNoNumber()
+    {
+        load(writeFile(folder.filePath("load.xml"), fuelFile("A3").replace("\"8\"", "\"abc\"")));
+        QCOMPARE(rows("A3"), QString("10=7.5 20=abc"));
+        QCOMPARE(fuel_.text("label_Notice"), QString("tmiw_265"));
+        editCell("A3", "8", 1, 1);
+        QCOMPARE(fuel_.text("label_Notice"), QString("cfgt6_404"));
+        load(writeFile(folder.filePath("load.xml"), fuelFile("A3")));
     }
 
     // Each opening begins anew, save when rows would be lost; and tabs know what is unsaved.
@@ -450,12 +461,12 @@ private:
         return form(sensor)->findChild<QTableWidget*>("tableWidget");
     }
     void mark(const QString& sensor, int row) { table(sensor)->item(row, 2)->setCheckState(Qt::Checked); }
-    void editFirst(const QString& sensor, const QString& volume)
+    void editCell(const QString& sensor, const QString& number, int row = 0, int column = 0)
     {
-        table(sensor)->editItem(table(sensor)->item(0, 0));
+        table(sensor)->editItem(table(sensor)->item(row, column));
         auto* editor = table(sensor)->viewport()->findChild<QLineEdit*>();
         editor->selectAll();
-        QTest::keyClicks(editor, volume);
+        QTest::keyClicks(editor, number);
         QTest::keyClick(editor, Qt::Key_Return);
         QTRY_VERIFY(!table(sensor)->viewport()->findChild<QLineEdit*>());
     }
