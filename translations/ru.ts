@@ -1341,7 +1341,7 @@
     <message id="tmiw_222"><translation>Прошлого пояса и периода ещё нет</translation></message>
     <message id="tmiw_262"><translation>Не сохранено</translation></message>
     <message id="tmiw_263"><translation>Нет значения</translation></message>
-    <message id="tmiw_264"><translation>В XML только целые литры. Объёмов, потерявших дробную часть: %1. В Excel (CSV) она сохранится.</translation></message>
+    <message id="tmiw_264"><translation>В XML только целые литры. Объёмов, потерявших дробную часть: %1. Она сохранится в Excel (CSV).</translation></message>
     <message id="tmiw_265"><translation>В строке %1 стоит «%2»: это не число и считается нулём. Исправьте ячейку или удалите строку.</translation></message>
     <message id="tmizta_001"><translation>Режим тестирования</translation></message>
     <message id="tmizta_002"><translation>Резервный</translation></message>
