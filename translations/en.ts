@@ -1339,6 +1339,10 @@
     <message id="tmiw_220"><translation>Last zone and period</translation></message>
     <message id="tmiw_221"><translation>Bring back the last zone and period: UTC%1, %2 – %3</translation></message>
     <message id="tmiw_222"><translation>There is no last zone and period yet</translation></message>
+    <message id="tmiw_262"><translation>Not saved</translation></message>
+    <message id="tmiw_263"><translation>No value</translation></message>
+    <message id="tmiw_264"><translation>XML holds whole litres. Volumes that lost their fraction: %1. Excel (CSV) keeps it.</translation></message>
+    <message id="tmiw_265"><translation>Row %1 holds &quot;%2&quot;, which is no number and counts as 0. Correct the cell or delete the row.</translation></message>
     <message id="tmizta_001"><translation>Test mode</translation></message>
     <message id="tmizta_002"><translation>Backup</translation></message>
     <message id="tmizta_003"><translation>Main</translation></message>

@@ -1339,6 +1339,10 @@
     <message id="tmiw_220"><translation>Прошлый пояс и период</translation></message>
     <message id="tmiw_221"><translation>Вернуть прошлый пояс и период: UTC%1, %2 – %3</translation></message>
     <message id="tmiw_222"><translation>Прошлого пояса и периода ещё нет</translation></message>
+    <message id="tmiw_262"><translation>Не сохранено</translation></message>
+    <message id="tmiw_263"><translation>Нет значения</translation></message>
+    <message id="tmiw_264"><translation>В XML только целые литры. Объёмов, потерявших дробную часть: %1. Она сохранится в Excel (CSV).</translation></message>
+    <message id="tmiw_265"><translation>В строке %1 стоит «%2»: это не число и считается нулём. Исправьте ячейку или удалите строку.</translation></message>
     <message id="tmizta_001"><translation>Режим тестирования</translation></message>
     <message id="tmizta_002"><translation>Резервный</translation></message>
     <message id="tmizta_003"><translation>Основной</translation></message>

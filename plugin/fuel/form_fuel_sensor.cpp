@@ -43,7 +43,8 @@ VLK_Form_Fuel_Sensor::VLK_Form_Fuel_Sensor(int kind, const QString& name, const 
     ui_->label_Falling->setPalette(alarm);
     setParamEditable(false);
     setFocusProxy(ui_->lineEdit_Volume);
-    ui_->lineEdit_Name->installEventFilter(this);
+    for (QLineEdit* line : {ui_->lineEdit_Name, ui_->lineEdit_Volume, ui_->lineEdit_Param})
+        line->installEventFilter(this);
     addClipboardActions();
 
     using Form = VLK_Form_Fuel_Sensor;
@@ -126,6 +127,11 @@ bool VLK_Form_Fuel_Sensor::hasRows() const
     return ui_->tableWidget->rowCount() > 0;
 }
 
+vlk::FuelRows VLK_Form_Fuel_Sensor::rows() const
+{
+    return ui_->tableWidget->rows();
+}
+
 void VLK_Form_Fuel_Sensor::setKindAndName(int kind, const QString& name)
 {
     name_ = name;
@@ -153,7 +159,6 @@ void VLK_Form_Fuel_Sensor::clearLiveValue()
 void VLK_Form_Fuel_Sensor::clearAll()
 {
     ui_->lineEdit_Name->clear();
-    ui_->lineEdit_Volume->clear();
     clearRows();
 }
 
@@ -171,7 +176,8 @@ void VLK_Form_Fuel_Sensor::clearRows()
 
 void VLK_Form_Fuel_Sensor::askForVolume()
 {
-    ui_->lineEdit_Volume->clear();
+    // Cleared by clear() it would count as typed, and Escape would bring the last volume back.
+    ui_->lineEdit_Volume->setText({});
     ui_->lineEdit_Volume->setFocus();
 }
 
@@ -184,12 +190,35 @@ void VLK_Form_Fuel_Sensor::offerName(const QString& name)
 
 bool VLK_Form_Fuel_Sensor::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool takes = event->type() == QEvent::KeyPress && ui_->lineEdit_Name->text().isEmpty() &&
-                       static_cast<QKeyEvent*>(event)->key() == Qt::Key_Right;
-    if (!takes || offeredName_.isEmpty())
+    const auto* line = qobject_cast<QLineEdit*>(watched);
+    if (!line || event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
+    auto& key = *static_cast<QKeyEvent*>(event);
+    return line == ui_->lineEdit_Name ? takesName(key) : takesKey(*line, key);
+}
+
+bool VLK_Form_Fuel_Sensor::takesName(const QKeyEvent& key)
+{
+    if (key.key() != Qt::Key_Right || offeredName_.isEmpty() || !ui_->lineEdit_Name->text().isEmpty())
+        return false;
     ui_->lineEdit_Name->setText(offeredName_);
     return true;
+}
+
+bool VLK_Form_Fuel_Sensor::takesKey(const QLineEdit& number, QKeyEvent& key)
+{
+    // Where nothing was typed there is nothing to take back: the key is the window's.
+    if (key.key() == Qt::Key_Escape && number.text().isEmpty() && !number.isModified()) {
+        key.ignore();
+        return true;
+    }
+    // Several lines are points, not a number.
+    if (key.matches(QKeySequence::Paste) &&
+        QGuiApplication::clipboard()->text().trimmed().contains(QLatin1Char('\n'))) {
+        pasteRows();
+        return true;
+    }
+    return false;
 }
 
 void VLK_Form_Fuel_Sensor::addRow(const QString& volume, const QString& value)
@@ -207,7 +236,7 @@ void VLK_Form_Fuel_Sensor::addRows(const vlk::FuelRows& rows)
 void VLK_Form_Fuel_Sensor::tableToMap(QMap<double, int>& map) const
 {
     map.clear();
-    for (const vlk::FuelRow& row : ui_->tableWidget->rows())
+    for (const vlk::FuelRow& row : rows())
         map[vlk::withDecimalPoint(row.volume).toDouble()] = vlk::withDecimalPoint(row.value).toInt();
 }
 
@@ -248,12 +277,12 @@ void VLK_Form_Fuel_Sensor::setEdited(bool edited)
 
 QString VLK_Form_Fuel_Sensor::keep(const QString& folder, const QString& vehicle, const QDateTime& time) const
 {
-    return vlk::keepTable(folder, name_, vehicle, ui_->lineEdit_Name->text(), ui_->tableWidget->rows(), time);
+    return vlk::keepTable(folder, name_, vehicle, ui_->lineEdit_Name->text(), rows(), time);
 }
 
-void VLK_Form_Fuel_Sensor::saveCsv(const QString& path) const
+bool VLK_Form_Fuel_Sensor::saveCsv(const QString& path) const
 {
-    vlk::saveFuelFile(path, vlk::fuelCsv(captions(), ui_->tableWidget->rows()));
+    return vlk::saveFuelFile(path, vlk::fuelCsv(captions(), rows()));
 }
 
 void VLK_Form_Fuel_Sensor::loadCsv(const QString& path)
@@ -271,7 +300,7 @@ void VLK_Form_Fuel_Sensor::loadCsv(const QString& path)
 
 void VLK_Form_Fuel_Sensor::saveXml(CXmlSection* section)
 {
-    vlk::putFuelTable(section, name_, ui_->lineEdit_Name->text(), ui_->tableWidget->rows());
+    vlk::putFuelTable(section, name_, ui_->lineEdit_Name->text(), rows());
     setDirty(false);
     setEdited(false);
 }
@@ -301,13 +330,13 @@ void VLK_Form_Fuel_Sensor::fillSheet(vlk::CalibrationSheet& sheet) const
     sheet.kind = kind_;
     sheet.sensor = name_;
     sheet.tank = ui_->lineEdit_Name->text();
-    sheet.rows = ui_->tableWidget->rows();
+    sheet.rows = rows();
     sheet.points = points_;
 }
 
 void VLK_Form_Fuel_Sensor::copyTable() const
 {
-    QGuiApplication::clipboard()->setText(vlk::fuelClipboard(captions(), ui_->tableWidget->rows()));
+    QGuiApplication::clipboard()->setText(vlk::fuelClipboard(captions(), rows()));
 }
 
 void VLK_Form_Fuel_Sensor::pasteRows()

@@ -22,6 +22,8 @@ namespace vlk {
 struct CalibrationSheet;
 }
 
+class QKeyEvent;
+class QLineEdit;
 class VLK_FormReportFuel;
 class VLK_FuelSensor_Graph;
 
@@ -44,6 +46,7 @@ public:
     void setTabIndex(int index) { tabIndex_ = index; }
     bool isDirty() const { return dirty_; }
     bool hasRows() const;
+    vlk::FuelRows rows() const;
     bool isEdited() const { return edited_ && !dirty_; }
     void setKindAndName(int kind, const QString& name);
     void setParamEditable(bool editable);
@@ -61,7 +64,7 @@ public:
     void tableToMap(QMap<double, int>& map) const;
 
     // Files that cannot be read or written change nothing; the log says so (vlk.fuel, vlk.save).
-    void saveCsv(const QString& path) const;
+    bool saveCsv(const QString& path) const;
     // Adds the rows of the file to those that are there.
     void loadCsv(const QString& path);
     // Into and from the root of a calibration document. What was put into one counts as saved; where its file
@@ -102,6 +105,9 @@ private:
     void askForVolume();
     // The empty field of the name shows it; the right arrow takes it.
     void offerName(const QString& name);
+    // Whether the key is done with, in the field of the name and in those of the numbers.
+    bool takesName(const QKeyEvent& key);
+    bool takesKey(const QLineEdit& number, QKeyEvent& key);
     void rebuildPoints();
     void showFallingPoints();
 

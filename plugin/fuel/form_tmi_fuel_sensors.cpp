@@ -7,9 +7,9 @@
 #include "fuel/question.h"
 #include "link/device.h"
 #include "link/requests.h"
+#include "typing/line_icon.h"
 #include "typing/notice_bar.h"
 #include "windows/fit_to_screen.h"
-#include "typing/line_icon.h"
 #include "windows/vlk_tabwidget.h"
 
 #include <QShortcut>
@@ -134,9 +134,7 @@ void VLK_Form_TMI_Fuel_Sensors::retranslate()
     forEachForm([this](VLK_Form_Fuel_Sensor& form, int sensor) {
         form.retranslate();
         const FuelGroup& group = fuelGroups[groupOf(sensor)];
-        QTabWidget* tabs = groups_[groupOf(sensor)];
-        (tabs ? tabs : ui_->tabWidget)
-            ->setTabText(form.tabIndex(), formatted(group.tabFormat, group.tabTitle, form.name()));
+        tabsOf(sensor)->setTabText(form.tabIndex(), formatted(group.tabFormat, group.tabTitle, form.name()));
     });
 }
 
@@ -203,6 +201,12 @@ bool VLK_Form_TMI_Fuel_Sensors::hasRows() const
     return found;
 }
 
+QTabWidget* VLK_Form_TMI_Fuel_Sensors::tabsOf(int sensor) const
+{
+    QTabWidget* group = groups_[groupOf(sensor)];
+    return group ? group : ui_->tabWidget;
+}
+
 VLK_Form_Fuel_Sensor* VLK_Form_TMI_Fuel_Sensors::currentForm() const
 {
     const int sensor = currentSensor();
@@ -233,10 +237,8 @@ void VLK_Form_TMI_Fuel_Sensors::select(const QString& type)
     if (groups_[number])
         ui_->tabWidget->setCurrentIndex(groups_[number]->tabIndex());
     forEachForm([&](VLK_Form_Fuel_Sensor& form, int sensor) {
-        if (groupOf(sensor) != number || form.name() != type)
-            return;
-        QTabWidget* tabs = groups_[number];
-        (tabs ? tabs : ui_->tabWidget)->setCurrentIndex(form.tabIndex());
+        if (groupOf(sensor) == number && form.name() == type)
+            tabsOf(sensor)->setCurrentIndex(form.tabIndex());
     });
 }
 
@@ -252,6 +254,33 @@ void VLK_Form_TMI_Fuel_Sensors::slot_NeedSaved(bool on)
     ui_->pushButton_Save_Xml->setEnabled(on);
     unsavedCount_ += on ? 1 : -1;
     tellOfTable();
+}
+
+void VLK_Form_TMI_Fuel_Sensors::markTabs()
+{
+    const QIcon mark(markPixmap(Mark::changed, palette(), markSize, devicePixelRatioF()));
+    const auto show = [&](QTabWidget* tabs, int index, bool isUnsaved) {
+        tabs->setTabIcon(index, isUnsaved ? mark : QIcon());
+        tabs->setTabToolTip(index, isUnsaved ? tr("tmiw_262") : QString());
+    };
+    std::array<bool, fuelGroupCount> isInGroup{};
+    forEachForm([&](const VLK_Form_Fuel_Sensor& form, int sensor) {
+        const bool isUnsaved = form.isDirty() || form.isEdited();
+        isInGroup[groupOf(sensor)] |= isUnsaved;
+        show(tabsOf(sensor), form.tabIndex(), isUnsaved);
+    });
+    for (int i = 0; i < fuelGroupCount; ++i) {
+        if (groups_[i])
+            show(ui_->tabWidget, groups_[i]->tabIndex(), isInGroup[i]);
+    }
+}
+
+// The marks follow the colours of the window.
+void VLK_Form_TMI_Fuel_Sensors::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        markTabs();
 }
 
 void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Help()

@@ -16,6 +16,7 @@
 #include <memory>
 
 struct CXmlSection;
+class QTabWidget;
 class VLK_Form_Fuel_Sensor;
 class VLK_TabWidget;
 
@@ -49,6 +50,9 @@ public:
 
     void reject() override;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private Q_SLOTS:
     void slot_currentChanged_FuelType(int index);
     void slot_pressed_Btn_Load();
@@ -72,12 +76,16 @@ private:
                 act(*forms_[i], i);
         }
     }
+    // Those with the tab of the sensor's form.
+    QTabWidget* tabsOf(int sensor) const;
     VLK_Form_Fuel_Sensor* currentForm() const;
     // Shows the tab of a sensor by the name that its file has, or of its group where there is no such sensor.
     void select(const QString& type);
     bool hasUnsaved() const { return unsavedCount_ > 0; }
-    // What the bar says of the table on show.
+    // What the bar says of the table on show, and the tabs of all.
     void tellOfTable();
+    // On the tab of each table that is not in a file, and on that of its group.
+    void markTabs();
     // The user has closed the one of this number.
     void forgetNotice(int number);
     void clearLiveValues();
@@ -100,6 +108,8 @@ private:
     vlk::KeptForms kept_;
     // The sensor whose file a form shows, where that has no form of its own.
     std::array<QString, vlk::fuelSensorCount> fileOf_;
+    // How many volumes of a table have lost their fraction in its XML file.
+    std::array<int, vlk::fuelSensorCount> cutIn_{};
     vlk::NoticeBar* bar_;
     int offers_ = 0;  // of kept tables, in the bar
     QString tracker_; // its number, also when it is gone

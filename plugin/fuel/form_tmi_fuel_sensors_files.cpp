@@ -23,7 +23,9 @@ using namespace vlk;
 namespace {
 
 // Numbers in the bar; offers have those from kOffers on.
-enum NoticeNumber { kEdited, kFileOfOther, kOffers };
+enum NoticeNumber { kEdited, kFileOfOther, kCut, kFlaw, kOffers };
+
+constexpr int kQuoted = 40; // characters of a cell, in the bar
 
 QString telemetryFolder()
 {
@@ -39,14 +41,30 @@ QString modelText()
 
 void VLK_Form_TMI_Fuel_Sensors::tellOfTable()
 {
+    markTabs();
     const int sensor = currentSensor();
     const VLK_Form_Fuel_Sensor* form = currentForm();
-    if (form && !form->hasRows())
+    if (form && !form->hasRows()) {
         fileOf_[sensor].clear();
+        cutIn_[sensor] = 0;
+    }
     if (form && !fileOf_[sensor].isEmpty())
         bar_->tell(kFileOfOther, {Mark::advice, tr("cfgt6_412").arg(fileOf_[sensor], form->name()), {}});
     else
         bar_->end(kFileOfOther);
+    const Notice::Action saveAll{ui_->pushButton_Save_Excel->text(),
+                                 [this] { slot_pressed_Btn_Save_Excel(); }};
+    if (form && cutIn_[sensor] > 0)
+        bar_->tell(kCut, {Mark::advice, tr("tmiw_264").arg(cutIn_[sensor]), {saveAll}});
+    else
+        bar_->end(kCut);
+    const std::optional<FuelFlaw> flaw = form ? firstFlaw(form->rows()) : std::nullopt;
+    if (flaw)
+        bar_->tell(kFlaw, {Mark::invalid,
+                           tr("tmiw_265").arg(QString::number(flaw->row + 1), flaw->text.left(kQuoted)),
+                           {}});
+    else
+        bar_->end(kFlaw);
     const Notice::Action save{ui_->pushButton_Save_Xml->text(), [this] { slot_pressed_Btn_Save_Xml(); }};
     if (form && form->isEdited())
         bar_->tell(kEdited, {Mark::changed, tr("cfgt6_404"), {save}});
@@ -56,8 +74,13 @@ void VLK_Form_TMI_Fuel_Sensors::tellOfTable()
 
 void VLK_Form_TMI_Fuel_Sensors::forgetNotice(int number)
 {
-    if (number == kFileOfOther && currentSensor() >= 0)
-        fileOf_[currentSensor()].clear();
+    const int sensor = currentSensor();
+    if (sensor < 0)
+        return;
+    if (number == kFileOfOther)
+        fileOf_[sensor].clear();
+    else if (number == kCut)
+        cutIn_[sensor] = 0;
 }
 
 void VLK_Form_TMI_Fuel_Sensors::offerKeptTables()
@@ -95,6 +118,7 @@ void VLK_Form_TMI_Fuel_Sensors::bringBack(const KeptTable& table)
 void VLK_Form_TMI_Fuel_Sensors::load(VLK_Form_Fuel_Sensor& form, CXmlSection* root)
 {
     const bool wasEdited = form.isEdited();
+    cutIn_[currentSensor()] = 0;
     form.loadXml(root);
     // What was edited is kept and offered; what is saved or given up is kept no longer.
     if (wasEdited && !form.isEdited())
@@ -178,8 +202,12 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Xml()
     const bool wasEdited = form && form->isEdited();
     if (form)
         form->saveXml(root);
-    if (document.saveAs(path))
+    if (document.saveAs(path)) {
+        if (form)
+            cutIn_[currentSensor()] = cutVolumes(form->rows());
+        tellOfTable();
         return;
+    }
     if (wasDirty)
         form->setDirty(true);
     if (wasEdited)
@@ -193,8 +221,10 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Excel()
         return;
     const QString path = askFuelFileToSave(this, QStringLiteral("%1 Excel").arg(tr("wrd_028")),
                                            proposedName(form->name()), QStringLiteral("csv"));
-    if (!path.isEmpty())
-        form->saveCsv(path);
+    if (path.isEmpty() || !form->saveCsv(path))
+        return;
+    cutIn_[currentSensor()] = 0;
+    tellOfTable();
 }
 
 void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Print()

@@ -189,10 +189,7 @@ void VLK_DblSlider2::hideEvent(QHideEvent* event)
 void VLK_DblSlider2::paintEvent(QPaintEvent* /*event*/)
 {
     paintedWidth_ = width();
-    int pixel1 = pixelOf(value1_);
-    if (pixel1 + handleHalf > paintedWidth_ - 1)
-        pixel1 = paintedWidth_ - 6;
-    const int pixel2 = qMin(qMax(pixelOf(value2_), handleHalf), paintedWidth_ - 1);
+    const auto [pixel1, pixel2] = handlePixels();
     handle1_ = QRect(pixel1 - handleHalf, 0, 2 * handleHalf, sliderHeight);
     handle2_ = QRect(pixel2 - handleHalf, 0, 2 * handleHalf, sliderHeight);
 
@@ -200,16 +197,30 @@ void VLK_DblSlider2::paintEvent(QPaintEvent* /*event*/)
     paintTrack(painter, pixel1, pixel2);
     painter.setPen(readable(Qt::black, palette().color(QPalette::WindowText)));
     paintTicks(painter);
+    paintHandles(painter);
+}
+
+void VLK_DblSlider2::paintHandles(QPainter& painter) const
+{
+    const auto [pixel1, pixel2] = handlePixels();
+    painter.setPen(readable(Qt::black, palette().color(QPalette::WindowText)));
     paintHandle(painter, pixel1);
     paintHandle(painter, pixel2);
+}
+
+std::pair<int, int> VLK_DblSlider2::handlePixels() const
+{
+    const int last = width() - 1;
+    const int pixel1 = pixelOf(value1_);
+    return {pixel1 + handleHalf > last ? last - 5 : pixel1, qMin(qMax(pixelOf(value2_), handleHalf), last)};
 }
 
 int VLK_DblSlider2::pixelOf(double value) const
 {
     if (maximum_ <= minimum_)
         return 0;
-    const double position = paintedWidth_ / (maximum_ - minimum_) * (value - minimum_);
-    return position > 0 ? static_cast<int>(qMin(position, double(paintedWidth_))) : 0;
+    const double position = width() / (maximum_ - minimum_) * (value - minimum_);
+    return position > 0 ? static_cast<int>(qMin(position, double(width()))) : 0;
 }
 
 void VLK_DblSlider2::paintTrack(QPainter& painter, int pixel1, int pixel2) const

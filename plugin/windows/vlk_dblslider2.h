@@ -12,6 +12,7 @@
 #include <QWidget>
 
 #include <optional>
+#include <utility>
 
 class VLK_DblSlider2 : public QWidget
 {
@@ -44,6 +45,10 @@ public:
 
     QSize minimumSizeHint() const override;
 
+    // At the ends of the scale they stand out of the slider by half, no more than so many pixels.
+    void paintHandles(QPainter& painter) const;
+    static constexpr int handleRoom = 5;
+
 Q_SIGNALS:
     void value1Changed(double value);
     void value2Changed(double value);
@@ -66,6 +71,7 @@ private:
     void setValue(Handle handle, double value);
 
     int pixelOf(double value) const;
+    std::pair<int, int> handlePixels() const;
     void paintTrack(QPainter& painter, int pixel1, int pixel2) const;
     void paintTicks(QPainter& painter) const;
     void paintHandle(QPainter& painter, int pixel) const;

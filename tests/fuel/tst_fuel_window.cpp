@@ -166,18 +166,23 @@ private Q_SLOTS:
         const QString path = writeFile(folder.filePath("load.xml"), fuelFile("A3"));
         load(path);
         QVERIFY(bar()->isHidden());
-        editFirst("A3", "10.5");
+        editCell("A3", "10.5");
         QCOMPARE(fuel_.text("label_Notice"), QString("cfgt6_404"));
         show("D1");
         QVERIFY(bar()->isHidden());
         show("A3");
         answerFile(folder.filePath("edited.xml"));
         pressInBar("wrd_042 XML");
-        QVERIFY(bar()->isHidden() && readFile(folder.filePath("edited.xml")).contains("param_U=\"10\""));
+        // The file has whole litres, which is told until a file has all.
+        QVERIFY(readFile(folder.filePath("edited.xml")).contains("param_U=\"10\""));
+        QCOMPARE(fuel_.text("label_Notice"), QString("tmiw_264"));
+        answerFile(folder.filePath("edited.csv"));
+        pressInBar("wrd_042 Excel");
+        QVERIFY(bar()->isHidden() && readFile(folder.filePath("edited.csv")).contains(";10.5"));
         {
             const FullDisk full(16);
             QTest::ignoreMessage(QtWarningMsg, QRegularExpression("unsaved"));
-            editFirst("A3", "11.5");
+            editCell("A3", "11.5");
             answerBox("wrd_031", kUnsaved);
             fuel_.window->close();
             QVERIFY(fuel_.window->isVisible());
@@ -293,6 +298,17 @@ private Q_SLOTS:
         QVERIFY(!fuel_.isOn("pushButton_Save_Xml"));
     }
 
+    // What is no number is told until the cell has one.
+    void tellsWhatIsNoNumber()
+    {
+        load(writeFile(folder.filePath("load.xml"), fuelFile("A3").replace("\"8\"", "\"abc\"")));
+        QCOMPARE(rows("A3"), QString("10=7.5 20=abc"));
+        QCOMPARE(fuel_.text("label_Notice"), QString("tmiw_265"));
+        editCell("A3", "8", 1, 1);
+        QCOMPARE(fuel_.text("label_Notice"), QString("cfgt6_404"));
+        load(writeFile(folder.filePath("load.xml"), fuelFile("A3")));
+    }
+
     // Each opening begins anew, save when rows would be lost; and tabs know what is unsaved.
     void countsWhatIsUnsaved()
     {
@@ -302,13 +318,21 @@ private Q_SLOTS:
         add("D1", "1", 1000);
         show("A3");
         QVERIFY(fuel_.isOn("pushButton_Save_Xml"));
+        QCOMPARE(markedTabs(), QString("A3 D1"));
+        saveTo("pushButton_Save_Xml", folder.filePath("out.xml"));
+        QCOMPARE(markedTabs(), QString("D1"));
+        add("A3", "2", 1000);
         press("pushButton_FuelSensor");
-        QCOMPARE(rows("A3"), QString("1=1.00"));
+        QCOMPARE(rows("A3"), QString("1=1.00 2=1.00"));
+        // Escape takes back what was typed, then closes.
+        QTest::keyClicks(field("A3", "lineEdit_Volume"), "5");
+        QTest::keyClick(field("A3", "lineEdit_Volume"), Qt::Key_Escape);
+        QVERIFY(field("A3", "lineEdit_Volume")->text().isEmpty() && fuel_.window->isVisible());
         answerBox("wrd_001", kUnsaved);
-        QTest::keyClick(fuel_.window, Qt::Key_Escape);
+        QTest::keyClick(field("A3", "lineEdit_Volume"), Qt::Key_Escape);
         QVERIFY(fuel_.window->isHidden());
         press("pushButton_FuelSensor");
-        QCOMPARE(rows("A3") + rows("D1"), QString());
+        QCOMPARE(rows("A3") + rows("D1") + markedTabs(), QString());
         fuel_.window->close();
         QVERIFY(fuel_.window->isHidden());
     }
@@ -411,6 +435,19 @@ private:
         edit(sensor, volume);
         form(sensor)->findChild<QPushButton*>("pushButton_Add")->click();
     }
+    // Of those whose group is marked too.
+    QString markedTabs()
+    {
+        QStringList names;
+        auto* groups = fuel_.child<QTabWidget>("tabWidget");
+        for (int i = 0; i < groups->count(); ++i) {
+            auto* group = qobject_cast<QTabWidget*>(groups->widget(i));
+            for (int at = 0; at < group->count(); ++at)
+                if (!group->tabIcon(at).isNull() && !groups->tabIcon(i).isNull())
+                    names << group->widget(at)->objectName();
+        }
+        return names.join(' ');
+    }
     QWidget* bar() { return fuel_.child<QWidget>("noticeBar"); }
     void pressInBar(const QString& caption)
     {
@@ -424,12 +461,12 @@ private:
         return form(sensor)->findChild<QTableWidget*>("tableWidget");
     }
     void mark(const QString& sensor, int row) { table(sensor)->item(row, 2)->setCheckState(Qt::Checked); }
-    void editFirst(const QString& sensor, const QString& volume)
+    void editCell(const QString& sensor, const QString& number, int row = 0, int column = 0)
     {
-        table(sensor)->editItem(table(sensor)->item(0, 0));
+        table(sensor)->editItem(table(sensor)->item(row, column));
         auto* editor = table(sensor)->viewport()->findChild<QLineEdit*>();
         editor->selectAll();
-        QTest::keyClicks(editor, volume);
+        QTest::keyClicks(editor, number);
         QTest::keyClick(editor, Qt::Key_Return);
         QTRY_VERIFY(!table(sensor)->viewport()->findChild<QLineEdit*>());
     }

@@ -58,6 +58,21 @@ private Q_SLOTS:
             QCOMPARE(notSaved({{"SENS2/min", "-50.0"}, {"SENS2/max", "120.0"}}), QStringList());
         }
     }
+
+    // At the ends of the scale the handles are whole, though they stand out of the slider.
+    void wholeHandles()
+    {
+        auto* slider = get<VLK_DblSlider2>("slider_Temp_3");
+        QWidget* group = slider->parentWidget();
+        page().resize(900, 500);
+        for (const bool isAtEnds : {true, false}) {
+            slider->setValue1(isAtEnds ? -50 : 0);
+            slider->setValue2(isAtEnds ? 120 : 50);
+            const QImage image = group->grab().toImage();
+            for (const int x : {-4, slider->width() + 3})
+                QCOMPARE(image.pixelColor(slider->pos() + QPoint(x, 8)).lightness() < 100, isAtEnds);
+        }
+    }
 };
 
 QTEST_MAIN(TemperatureTest)

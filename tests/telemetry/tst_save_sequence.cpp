@@ -191,6 +191,23 @@ private Q_SLOTS:
         QVERIFY(isIdle() && window->isHidden() && asked_.isEmpty() && !QFile::exists(file_));
     }
 
+    // A period counts as the last one when its file is named.
+    void remembersThePeriod()
+    {
+        const vlk::Paths paths{folder.path(), {}, {}, {}};
+        host.send(Message::SetPaths, &paths);
+        const QDateTime day(QDate(2025, 2, 1), QTime(), Qt::UTC);
+        for (const auto& [hour, isCancelled] : {std::pair(8, false), std::pair(9, true)}) {
+            child<QDateTimeEdit>("dateTimeEdit_First")->setDateTime(day.addSecs(hour * 3600));
+            file_ = isCancelled ? QString() : folder.filePath("period.xml");
+            startSave(7, 8);
+            window->close();
+            openAgain();
+            press("toolButton_LastPeriod");
+            QCOMPARE(child<QDateTimeEdit>("dateTimeEdit_First")->time(), QTime(8, 0));
+        }
+    }
+
     void endedFromOutside_data()
     {
         DataTable<Message>({"message"})

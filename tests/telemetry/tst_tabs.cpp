@@ -324,23 +324,23 @@ private Q_SLOTS:
         QCOMPARE(box->currentIndex(), 1);
     }
 
-    // A sensor without a value is blank; what the record lacks has a dash, which is drawn and is no text.
+    // A sensor without a value and what the record lacks have a dash, which is drawn and is no text.
     void absentValues()
     {
         show(Record{{"Temp1", 128}, {"Latitude", 33900000}, {"Longitude", quint32(-300001)}});
-        const std::tuple<const char*, bool, QString> values[] = {
-            {"label_TS_Value_1", false, ""},
-            {"label_TS_Value_2", true, "Not in the record"},
-            {"label_Navi_Lat_Value", true, "56\u00b0 30.0000' N"},
-            {"label_Navi_Lon_Value", true, "0\u00b0 30.0001' W"},
-            {"label_Navi_Date_Value", true, "Not in the record"},
+        const std::pair<const char*, QString> values[] = {
+            {"label_TS_Value_1", "No value"},
+            {"label_TS_Value_2", "Not in the record"},
+            {"label_Navi_Lat_Value", "56\u00b0 30.0000' N"},
+            {"label_Navi_Lon_Value", "0\u00b0 30.0001' W"},
+            {"label_Navi_Date_Value", "Not in the record"},
         };
-        for (const auto& [name, isDrawn, tip] : values) {
+        for (const auto& [name, tip] : values) {
             auto* label = child(name);
             const QImage image = label->grab().toImage();
             QImage blank = image;
             blank.fill(image.pixel(0, 0));
-            QCOMPARE(image != blank, isDrawn);
+            QVERIFY(image != blank);
             QCOMPARE(label->text().isEmpty(), !QByteArray(name).contains("_L"));
             QHelpEvent hover(QEvent::ToolTip, label->rect().center(),
                              label->mapToGlobal(label->rect().center()));
@@ -369,19 +369,22 @@ private Q_SLOTS:
     {
         DataTable<int>({"width"}).row("1600", 1600).row("1020", 1020).row("700", 700).row("1300", 1300);
     }
-    // Columns begin at the top, groups do not overlap, and no value moves when the record changes.
+    // Columns begin at the top, groups have the room that they need, and no value moves when the record
+    // changes.
     void arrangement()
     {
         QFETCH(int, width);
-        view_->resize(width, 700);
+        view_->resize(width, 540);
         auto* tabs = child<QTabWidget>("tabWidget");
         for (int i = 0; i < tabs->count(); ++i) {
             tabs->setCurrentIndex(i);
             QCoreApplication::processEvents();
             QMap<int, QVector<QRect>> columns;
             for (const QGroupBox* group : tabs->currentWidget()->findChildren<QGroupBox*>()) {
-                if (group->isVisible())
-                    columns[group->x()] << group->geometry();
+                if (!group->isVisible())
+                    continue;
+                columns[group->x()] << group->geometry();
+                QVERIFY(group->height() >= group->minimumSizeHint().height());
             }
             QVERIFY(!columns.isEmpty());
             for (QVector<QRect>& column : columns) {

@@ -44,6 +44,13 @@ void putTable(CXmlSection* root, const QString& sensor, const FuelRows& rows, bo
 
 } // namespace
 
+int cutVolumes(const FuelRows& rows)
+{
+    return static_cast<int>(std::count_if(rows.begin(), rows.end(), [](const FuelRow& row) {
+        return row.volume.toDouble() != wholeLitres(row.volume);
+    }));
+}
+
 void putFuelTable(CXmlSection* root, const QString& sensor, const QString& name, const FuelRows& rows)
 {
     root->setChildValue(kName, name);

@@ -21,6 +21,9 @@ namespace vlk {
 
 inline constexpr auto fuelRoot = "FUEL";
 
+// How many volumes the document keeps without their fraction.
+int cutVolumes(const FuelRows& rows);
+
 // Puts one sensor's table into the root of a document.
 void putFuelTable(CXmlSection* root, const QString& sensor, const QString& name, const FuelRows& rows);
 

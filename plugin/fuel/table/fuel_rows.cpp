@@ -30,6 +30,17 @@ bool isPoint(const FuelRow& row)
     return isNumber(row.volume) && isNumber(row.value);
 }
 
+std::optional<FuelFlaw> firstFlaw(const FuelRows& rows)
+{
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        for (const QString& text : {rows[i].volume, rows[i].value}) {
+            if (!text.isEmpty() && !isNumber(text))
+                return FuelFlaw{static_cast<int>(i), text};
+        }
+    }
+    return {};
+}
+
 std::vector<std::size_t> fallingPoints(const FuelPoints& points)
 {
     std::vector<std::size_t> falling;

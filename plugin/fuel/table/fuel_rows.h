@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 namespace vlk {
@@ -40,6 +41,15 @@ float fuelNumber(const QString& text);
 
 // Both cells hold a number.
 bool isPoint(const FuelRow& row);
+
+// A text that is no number, which counts as 0.
+struct FuelFlaw
+{
+    int row; // from 0
+    QString text;
+};
+// The first one of a table.
+std::optional<FuelFlaw> firstFlaw(const FuelRows& rows);
 
 // The points that fall back: their value is lower than that of the point before them, though the volume is
 // higher. Indices in rising order.

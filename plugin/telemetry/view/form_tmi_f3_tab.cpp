@@ -100,6 +100,8 @@ void VLK_Form_Tmi_F3_Tab::arrange(int width)
             columns_[i]->insertWidget(at, columns[i][at]);
     }
     shown_ = std::move(columns);
+    // A hidden tab lays itself out only when asked, and its area sizes it by what it needs now.
+    layout_->activate();
 }
 
 void VLK_Form_Tmi_F3_Tab::fill(const TmiPage_Zeta3& page)

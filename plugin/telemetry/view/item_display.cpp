@@ -49,10 +49,11 @@ QString positionText(const TmiPage_Zeta3& page, ItemIndex item)
 void showItem(ValueLabel& label, const TmiPage_Zeta3& page, ItemIndex item)
 {
     const bool isHeld = holds(page, item);
-    if (isHeld)
-        label.setValue(text(page, item));
+    const QString value = text(page, item);
+    if (!value.isEmpty())
+        label.setValue(value);
     else
-        label.setAbsent();
+        label.setAbsent(isHeld ? kNoValue : kNotInRecord);
     if (kItems[item].rule().shape == Shape::coordinate)
         label.setToolTip(isHeld ? positionText(page, item) : QString());
 }

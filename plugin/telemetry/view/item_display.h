@@ -17,7 +17,8 @@ bool holds(const TmiPage_Zeta3& page, ItemIndex item);
 // "56° 30.0000' N", with the digits that the text of the item has.
 QString positionText(const TmiPage_Zeta3& page, ItemIndex item);
 
-// The item's text. That of a coordinate has no hemisphere and no degree sign, so the tool tip has them.
+// The item's text, or a dash where that is empty. That of a coordinate has no hemisphere and no degree sign,
+// so the tool tip has them.
 void showItem(ValueLabel& label, const TmiPage_Zeta3& page, ItemIndex item);
 
 } // namespace vlk

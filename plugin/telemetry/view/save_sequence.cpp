@@ -172,7 +172,10 @@ void SaveSequence::takeLast(const QByteArray& record)
     saveTotal_ = static_cast<quint32>(*last - *first);
     if (!fileChosen_) {
         carryOutCancel();
-    } else if (saveTotal_ == 1) {
+        return;
+    }
+    Q_EMIT targetChosen();
+    if (saveTotal_ == 1) {
         end();
     } else {
         saveDone_ = 2;
@@ -226,6 +229,8 @@ bool SaveSequence::chooseFile()
 std::size_t SaveSequence::carryOutCancel()
 {
     saveCancelled_ = false;
+    if (!fileChosen_)
+        Q_EMIT givenUp();
     progress_.setStatus("tmiw_027");
     progress_.resetBar();
     return end();

@@ -69,6 +69,9 @@ public:
 Q_SIGNALS:
     void runningChanged(bool running);
     void savedInPart(const vlk::PartOfPeriod& part);
+    // The file is named, or the save was cancelled without one.
+    void targetChosen();
+    void givenUp();
 
 private:
     enum State : std::uint8_t { Idle, FirstRecord, LastRecord, Collecting, Writing };

@@ -1,7 +1,5 @@
 #include "telemetry/view/value_label.h"
 
-#include "telemetry/view/absent_value.h"
-
 #include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QPainter>
@@ -34,17 +32,17 @@ void ValueLabel::setTextWidths(int leastCharacters, int mostCharacters)
 
 void ValueLabel::setValue(const QString& value)
 {
-    if (std::exchange(isAbsent_, false)) {
+    if (std::exchange(absentTip_, nullptr) != nullptr) {
         updateGeometry();
         update();
     }
     setText(value);
 }
 
-void ValueLabel::setAbsent()
+void ValueLabel::setAbsent(const char* tipKey)
 {
     setText({});
-    if (!std::exchange(isAbsent_, true)) {
+    if (std::exchange(absentTip_, tipKey) == nullptr) {
         updateGeometry();
         update();
     }
@@ -62,7 +60,7 @@ QSize ValueLabel::minimumSizeHint() const
 
 QSize ValueLabel::withDash(const QSize& size) const
 {
-    return isAbsent_ ? size.expandedTo({fontMetrics().horizontalAdvance(kAbsentMark), 0}) : size;
+    return isAbsent() ? size.expandedTo({fontMetrics().horizontalAdvance(kAbsentMark), 0}) : size;
 }
 
 bool ValueLabel::fits() const
@@ -72,8 +70,8 @@ bool ValueLabel::fits() const
 
 QString ValueLabel::tip() const
 {
-    if (isAbsent_)
-        return absentTip();
+    if (isAbsent())
+        return absentTip(absentTip_);
     return fits() ? toolTip() : text();
 }
 
@@ -116,15 +114,15 @@ void ValueLabel::contextMenuEvent(QContextMenuEvent* event)
 
 void ValueLabel::paintEvent(QPaintEvent* event)
 {
-    if (textInteractionFlags().testFlag(Qt::TextSelectableByMouse) && !isAbsent_ && fits()) {
+    if (textInteractionFlags().testFlag(Qt::TextSelectableByMouse) && !isAbsent() && fits()) {
         QLabel::paintEvent(event);
         return;
     }
     QPainter painter(this);
-    const QString shown = isAbsent_ ? QString(kAbsentMark)
-                          : fits()  ? text()
-                                    : fontMetrics().elidedText(text(), Qt::ElideRight, width());
-    if (isAbsent_)
+    const QString shown = isAbsent() ? QString(kAbsentMark)
+                          : fits()   ? text()
+                                     : fontMetrics().elidedText(text(), Qt::ElideRight, width());
+    if (isAbsent())
         painter.setOpacity(0.5);
     style()->drawItemText(&painter, rect(), static_cast<int>(alignment()), palette(), isEnabled(), shown,
                           foregroundRole());

@@ -1,9 +1,10 @@
 #pragma once
 
 // A value in a panel of many. A text that does not fit is shown with an ellipsis, and whole in the tool tip.
-// A value that the record lacks has no text; a grey dash is drawn in its place, so that it can be told from a
-// value that is there and empty. Under the mouse the text can be selected; the right button is left to the
-// panel.
+// A value that there is not has no text; a grey dash is drawn in its place, and the tool tip says why. Under
+// the mouse the text can be selected; the right button is left to the panel.
+
+#include "telemetry/view/absent_value.h"
 
 #include <QLabel>
 
@@ -23,8 +24,8 @@ public:
     void setTextWidths(int leastCharacters, int mostCharacters);
 
     void setValue(const QString& value);
-    // The record has no such value.
-    void setAbsent();
+    // A dash in the place of the value, with a tool tip.
+    void setAbsent(const char* tipKey = kNotInRecord);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -42,7 +43,9 @@ private:
     bool fits() const;
     QSize withDash(const QSize& size) const;
 
-    bool isAbsent_ = false;
+    bool isAbsent() const { return absentTip_ != nullptr; }
+
+    const char* absentTip_ = nullptr; // key
 };
 
 } // namespace vlk

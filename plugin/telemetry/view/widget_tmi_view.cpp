@@ -8,9 +8,9 @@
 #include "telemetry/view/absent_value.h"
 #include "telemetry/view/event_panel.h"
 #include "telemetry/view/tmi_view_texts.h"
-#include "typing/title_style.h"
 #include "typing/notice_bar.h"
 #include "typing/present_value.h"
+#include "typing/title_style.h"
 #include "windows/fit_to_screen.h"
 
 #include <QDir>
@@ -49,12 +49,14 @@ VLK_Widget_Tmi_View::VLK_Widget_Tmi_View(QWidget* parent)
     // Before the first answer.
     ui_->lineEdit_TM->setPlaceholderText(kAbsentMark);
     ui_->lineEdit_RFID->setPlaceholderText(kAbsentMark);
-    ui_->spinBox_RFID->setSpecialValueText(kAbsentMark);
+    ui_->spinBox_RFID->setSpecialValueText(QStringLiteral(" ")); // beside the dash of the number
     connectControls();
     keepOnScreen(this);
     connect(eventPanel_, &vlk::EventPanel::signal_OperatingMode, this, &VLK_Widget_Tmi_View::setGuardButtons);
     connect(&save_, &vlk::SaveSequence::runningChanged, this, &VLK_Widget_Tmi_View::showSaving);
     connect(&save_, &vlk::SaveSequence::savedInPart, this, &VLK_Widget_Tmi_View::showPart);
+    connect(&save_, &vlk::SaveSequence::targetChosen, &times_, &vlk::ZonedTimes::remember);
+    connect(&save_, &vlk::SaveSequence::givenUp, &times_, &vlk::ZonedTimes::giveUp);
     connect(&automatic_, &vlk::AutomaticRequests::timeout, this,
             &VLK_Widget_Tmi_View::slot_timeout_m_Timer_Auto_TMI);
     retranslate();

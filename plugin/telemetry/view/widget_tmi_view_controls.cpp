@@ -185,7 +185,6 @@ void VLK_Widget_Tmi_View::startSave(vlk::SaveSequence::Mode mode)
         origin = {vlkDevice->model(), vlkDevice->vendor(), vlkDevice->trackerId1(), 0, {}};
     origin.timeOffset = times_.offset();
     origin.titles = setup_.titles;
-    times_.remember();
     save_.start(mode, times_.utc(*ui_->dateTimeEdit_First), times_.utc(*ui_->dateTimeEdit_Last), origin,
                 periodFileName(setup_.objectName, ui_->dateTimeEdit_First->dateTime(),
                                ui_->dateTimeEdit_Last->dateTime()));

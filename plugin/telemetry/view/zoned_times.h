@@ -2,7 +2,7 @@
 
 // The times that are typed in the telemetry view, and the zone in which they are shown. The zone and the
 // period that were last chosen are remembered over runs, beside the telemetry files, and a button calls them
-// back.
+// back. A period whose save was cancelled does not take the place of the one before it.
 
 #include <QDateTime>
 #include <QObject>
@@ -33,8 +33,9 @@ public:
     QDateTime utc(const QDateTimeEdit& field) const;
 
     void remember();
-    // Unless everything is as the window began.
+    // Unless everything is as the window began, or as it was given up.
     void rememberChosen();
+    void giveUp() { begun_ = chosen(); }
     void retranslate() { describe(); }
 
 private:
