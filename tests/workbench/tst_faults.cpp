@@ -242,9 +242,19 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(bench.logged(again) > 1, 10'000);
         bench.tracker().setFaults({.delayMs = workbench::AnswerWatch::patienceMs + 500});
         QTRY_VERIFY_WITH_TIMEOUT(bench.logged(QStringLiteral("Message 2303 came twice")) > 0, 20'000);
+        // What cannot be right is not saved.
+        bench.tracker().setFaults({.garbledAnswers = true});
+        QTRY_VERIFY(Bench::notice().contains(QLatin1String("2303 from the tracker: damaged. Such records")));
+        const int records =
+            Bench::telemetry()->findChild<QProgressBar*>(QStringLiteral("progressBar_Time"))->maximum() + 1;
+        QVERIFY(Bench::telemetry()->findChild<QWidget*>(QStringLiteral("label_WindowNotice_Action1")));
         bench.tracker().setFaults({});
         QTRY_VERIFY2_WITH_TIMEOUT(bench.status().startsWith(QLatin1String("Saved: ")),
                                   qPrintable(bench.everything()), 20'000);
+        QFile file(bench.file());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll().count("<Page "), records);
+        QCOMPARE(Bench::notice(), QString());
     }
 
     // Before there is a file there is nothing to be saved.
@@ -390,9 +400,10 @@ private Q_SLOTS:
             .row("live, bad board", Live, board, ready, true, false)
             .row("period", Period, none, "Saved: ", true, false)
             .row("period, silence", Period, silence, silent, true, false)
-            .row("period, short", Period, shortened, "2307 from the tracker: cut short|Damaged records in it",
+            .row("period, short", Period, shortened, "2307 from the tracker: cut short, .* are not saved",
                  true, false)
-            .row("period, garbled", Period, garbled, "period.xml. Damaged records in it: ", true, false)
+            .row("period, garbled", Period, garbled, "2307 from the tracker: damaged. .* goes on", true,
+                 false)
             .row("period, unplugged", Period, unplug, closed, false, false)
             .row("period, delay", Period, delay, "Saved: ", true, false)
             .row("period, bad board", Period, board, "Saved: ", true, false)
@@ -483,8 +494,10 @@ private Q_SLOTS:
         const QModelIndexList marked =
             log->match(log->index(0, workbench::MessageLogModel::Parameters), Qt::DisplayRole,
                        QStringLiteral("⚠"), 1, Qt::MatchStartsWith);
-        QCOMPARE(!marked.isEmpty(), (step == Live || step == Period || step == Clear) &&
-                                        (faults.shortAnswers || faults.garbledAnswers));
+        const bool isDamaged = faults.shortAnswers || faults.garbledAnswers;
+        QCOMPARE(!marked.isEmpty(), step == Clear && isDamaged);
+        QCOMPARE(bench.logged(QStringLiteral("It was not passed on")) > 0,
+                 (step == Live || step == Period) && isDamaged);
 
         disk.reset();
         // With the cause goes what was said of it, at the latest with the next answer.
@@ -492,6 +505,8 @@ private Q_SLOTS:
         bench.tracker().attach();
         if ((step == Live && open) || (step == Read && diskIsFull))
             bench.take(Step(step));
+        if (step == Period && isDamaged)
+            QTRY_VERIFY_WITH_TIMEOUT(bench.status().startsWith(QLatin1String("Saved: ")), 20'000);
         if (step == Read || step == Live)
             QTRY_COMPARE(bench.status(), QStringLiteral("Ready"));
     }
