@@ -1751,7 +1751,7 @@
     <message id="wb_cable_short"><translation>Tracker</translation></message>
     <message id="wb_clear_done"><translation>Records that were still to be sent have been cleared. Servers: %1.</translation></message>
     <message id="wb_clear_filter"><translation>Clear the filter</translation></message>
-    <message id="wb_clear_question"><translation>The tracker will forget the records that it has still to send to server %1, and then those for the other servers that are ticked. They cannot be brought back. Clear them?</translation></message>
+    <message id="wb_clear_question"><translation>The tracker will forget the records that it has still to send to each server that is ticked, beginning with server %1. They cannot be brought back. Clear them?</translation></message>
     <message id="wb_clear_unknown"><translation>The answer to the clearing cannot be right. Servers: %1. Whether the records were cleared is not known; check the cable.</translation></message>
     <message id="wb_clear_verb"><translation>&amp;Clear</translation></message>
     <message id="wb_close_saving"><translation>A period is being saved. Closing ends the save, and the file will hold only what has come so far. Close?</translation></message>

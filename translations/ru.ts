@@ -1751,7 +1751,7 @@
     <message id="wb_cable_short"><translation>Трекер</translation></message>
     <message id="wb_clear_done"><translation>Неотправленные записи очищены. Серверы: %1.</translation></message>
     <message id="wb_clear_filter"><translation>Снять фильтр</translation></message>
-    <message id="wb_clear_question"><translation>Трекер забудет записи, которые ещё не отправил на сервер %1, а затем и те, что для других отмеченных серверов. Вернуть их будет нельзя. Очистить?</translation></message>
+    <message id="wb_clear_question"><translation>Трекер забудет записи, которые ещё не отправил на каждый из отмеченных серверов, начиная с сервера %1. Вернуть их будет нельзя. Очистить?</translation></message>
     <message id="wb_clear_unknown"><translation>Ответ на очистку неверен. Серверы: %1. Очищены ли записи, неизвестно; проверьте кабель.</translation></message>
     <message id="wb_clear_verb"><translation>О&amp;чистить</translation></message>
     <message id="wb_close_saving"><translation>Сохраняется период. Если закрыть программу, в файле будет только то, что успело прийти. Закрыть?</translation></message>

@@ -34,7 +34,7 @@ struct Bench : OpenedWorkbench
                     verb = box->buttonRole(button) == QMessageBox::AcceptRole ? button : verb;
                 agrees ? verb->click() : box->reject();
             } else if (auto* input = qobject_cast<QInputDialog*>(modal)) {
-                input->setDoubleValue(5000);
+                input->setDoubleValue(5000.5);
                 input->accept();
             } else if (auto* dialog = qobject_cast<QFileDialog*>(modal)) {
                 dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(file());
@@ -423,13 +423,13 @@ private Q_SLOTS:
             .row("clear, unplugged", Clear, unplug, closed, false, false)
             .row("clear, delay", Clear, delay, "have been cleared. Servers: 1, 3\\.", true, false)
             .row("clear, late", Clear, late, unknown, true, false)
-            .row("mileage", Mileage, none, "Mileage set: 5,000\u00A0km. It was [\\d,]+\u00A0km\\.", true,
+            .row("mileage", Mileage, none, "Mileage set: 5,000\\.50\u00A0km. It was [\\d,]+\\.\\d\\d\u00A0km\\.", true,
                  false)
             .row("mileage, silence", Mileage, silence, notConfirmed, true, false)
             .row("mileage, short", Mileage, shortened, notConfirmed, true, false)
             .row("mileage, garbled", Mileage, garbled, notConfirmed, true, false)
             .row("mileage, unplugged", Mileage, unplug, closed, false, false)
-            .row("mileage, delay", Mileage, delay, "Mileage set: 5,000\u00A0km. It was", true, false)
+            .row("mileage, delay", Mileage, delay, "Mileage set: 5,000\\.50\u00A0km. It was", true, false)
             .row("output", Output, none, "Output 1 is switched on", true, false)
             .row("output, silence", Output, silence, notConfirmed, true, false)
             .row("output, garbled", Output, garbled, notConfirmed, true, false)

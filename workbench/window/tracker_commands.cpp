@@ -5,6 +5,7 @@
 #include "window/request_table.h"
 #include "window/trouble_text.h"
 
+#include <QLocale>
 #include <QStringList>
 
 #include <cmath>
@@ -23,9 +24,10 @@ QString servers(const std::vector<int>& numbers)
     return list.join(QLatin1String(", "));
 }
 
+// With the decimals that it is typed with.
 QString km(double mileage)
 {
-    return workbench::number(std::llround(mileage));
+    return QLocale().toString(mileage, 'f', 2);
 }
 
 TrackerCommands::Sentence saying(const char* key)
