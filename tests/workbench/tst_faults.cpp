@@ -29,6 +29,7 @@ struct Bench : OpenedWorkbench
             QWidget* modal = QApplication::activeModalWidget();
             if (auto* box = qobject_cast<QMessageBox*>(modal)) {
                 boxes.append(box->text());
+                over = box->parentWidget();
                 QAbstractButton* verb = box->buttons().constFirst();
                 for (QAbstractButton* button : box->buttons())
                     verb = box->buttonRole(button) == QMessageBox::AcceptRole ? button : verb;
@@ -155,7 +156,8 @@ struct Bench : OpenedWorkbench
 
     QTimer person;
     QStringList boxes;
-    bool agrees = true; // to what is asked
+    QPointer<QWidget> over; // which window the last box came up
+    bool agrees = true;     // to what is asked
 };
 
 } // namespace
@@ -268,6 +270,30 @@ private Q_SLOTS:
         QVERIFY(bench.status().contains(QLatin1String("No record was saved")));
         QCOMPARE(Bench::notice(), bench.status());
         QVERIFY(Bench::telemetry()->findChild<QWidget*>(QStringLiteral("groupBox_Btn_Save"))->isEnabled());
+    }
+
+    // The notice stands on the window that is worked in.
+    void followsTheActiveWindow()
+    {
+        Bench bench;
+        bench.prepare(Live);
+        bench.tracker().setFaults({.garbledAnswers = true});
+        Bench::press(Bench::telemetry(), "pushButton_FuelSensor");
+        QWidget* calibration = Bench::pluginWindow("VLK_Form_TMI_Fuel_Sensors");
+        QVERIFY(calibration);
+        for (QWidget* window : {calibration, Bench::telemetry(), calibration}) {
+            window->activateWindow();
+            const auto bar = [window] {
+                return window->findChild<QFrame*>(QStringLiteral("frame_WindowNotice"),
+                                                  Qt::FindDirectChildrenOnly);
+            };
+            QTRY_VERIFY_WITH_TIMEOUT(bar() && bar()->isVisible(), 10'000);
+        }
+        QVERIFY2(bench.status().contains(QLatin1String("2247 from the tracker: damaged")),
+                 qPrintable(bench.status()));
+        QVERIFY(calibration->findChild<QLineEdit*>(QStringLiteral("lineEdit_Param"))->text().isEmpty());
+        bench.tracker().setFaults({});
+        QTRY_COMPARE_WITH_TIMEOUT(bench.status(), QStringLiteral("Ready"), 10'000);
     }
 
     // One that was not read from the tracker replaces what nobody has seen.
@@ -423,8 +449,8 @@ private Q_SLOTS:
             .row("clear, unplugged", Clear, unplug, closed, false, false)
             .row("clear, delay", Clear, delay, "have been cleared. Servers: 1, 3\\.", true, false)
             .row("clear, late", Clear, late, unknown, true, false)
-            .row("mileage", Mileage, none, "Mileage set: 5,000\\.50\u00A0km. It was [\\d,]+\\.\\d\\d\u00A0km\\.", true,
-                 false)
+            .row("mileage", Mileage, none,
+                 "Mileage set: 5,000\\.50\u00A0km. It was [\\d,]+\\.\\d\\d\u00A0km\\.", true, false)
             .row("mileage, silence", Mileage, silence, notConfirmed, true, false)
             .row("mileage, short", Mileage, shortened, notConfirmed, true, false)
             .row("mileage, garbled", Mileage, garbled, notConfirmed, true, false)
@@ -481,6 +507,7 @@ private Q_SLOTS:
                                          ? QStringLiteral("could not be read from the tracker. ")
                                          : QStringLiteral("mileage is ");
             QCOMPARE(bench.boxes.filter(question).size(), step == Mileage && faults.unplug ? 0 : 1);
+            QVERIFY(faults.unplug || bench.over == window);
         }
         if (step == Search && faults.unplug)
             QVERIFY(window->findChild<QProgressBar*>(QStringLiteral("progressBar_Find"))->isHidden());

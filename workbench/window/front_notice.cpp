@@ -1,7 +1,10 @@
 #include "window/front_notice.h"
 
+#include "window/active_windows.h"
 #include "window/plugin_link.h"
 #include "window/plugin_windows.h"
+
+#include <algorithm>
 
 namespace workbench {
 
@@ -27,6 +30,10 @@ FrontNotice::FrontNotice(const PluginLink& link, PluginWindows& windows) : windo
             telemetry_ = window;
     });
     connect(&windows_, &PluginWindows::closed, this, [this] { tell(Result, {}); });
+    connect(&ActiveWindows::instance(), &ActiveWindows::activated, this, [this] {
+        if (notice_ && notice_->parentWidget() != owner())
+            show();
+    });
 }
 
 FrontNotice::~FrontNotice()
@@ -57,9 +64,20 @@ void FrontNotice::tellNews(const Told& notice)
     news_.start();
 }
 
+QWidget* FrontNotice::owner() const
+{
+    if (QWidget* modal = windows_.modal())
+        return modal;
+    const QVector<QWidget*> latest = ActiveWindows::instance().latest();
+    const auto found = std::find_if(latest.begin(), latest.end(), [this](const QWidget* window) {
+        return window == telemetry_ || window == PluginWindows::calibration();
+    });
+    return found == latest.end() ? telemetry_.data() : *found;
+}
+
 void FrontNotice::show()
 {
-    QWidget* owner = windows_.modal() ? windows_.modal() : telemetry_.data();
+    QWidget* owner = this->owner();
     if (notice_ && (notice_->parentWidget() != owner || !owner->isVisible())) {
         notice_->hide();
         notice_->deleteLater();

@@ -1,7 +1,8 @@
 #pragma once
 
 // What the workbench has to say on the window of the plug-in that is looked at: a modal one is in front of
-// all others, else it is the one that shows the attached tracker's telemetry.
+// all others, else it is the one that shows the attached tracker's telemetry or the calibration over it,
+// whichever was active last.
 
 #include "window/window_notice.h"
 
@@ -33,6 +34,7 @@ public:
     void tellNews(const Told& notice);
 
 private:
+    QWidget* owner() const;
     void show();
     void noteTelemetry();
 

@@ -94,8 +94,10 @@ void LinkNotices::look(vlk::Direction direction, quint32 id, const void* p1)
         setTrouble([id] { return workbench::text("wb_search_bad").arg(id); });
     if (direction != vlk::Direction::ToPlugin)
         return;
-    if (answer == std::exchange(refused_, {}))
+    if (answer == refused_) {
+        refused_ = {};
         setTrouble({});
+    }
     if (!workbench::RecordCheck::carriesRecord(answer) || p1 == nullptr)
         return;
     const QByteArray& bytes = *static_cast<const QByteArray*>(p1);
