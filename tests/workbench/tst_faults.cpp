@@ -334,9 +334,14 @@ private Q_SLOTS:
         QTRY_VERIFY2(bench.status().contains(said), qPrintable(bench.everything()));
         QCOMPARE(Bench::notice(), bench.status());
         QCOMPARE(bench.boxes.size(), during == Output ? 1 : 0);
+        // What is newer stands before it.
+        bench.tracker().setFaults({.silence = true});
+        bench.take(Live);
+        QTRY_VERIFY_WITH_TIMEOUT(Bench::notice().contains(QLatin1String("No answer")), 10'000);
         bench.tracker().setFaults({});
         QTest::qWait(200);
         QCOMPARE(bench.logged(QStringLiteral("ClearedRecord")), 0);
+        bench.agrees = true; // to the end of the save
     }
 
     // The main window, with work undone.

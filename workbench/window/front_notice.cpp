@@ -32,7 +32,7 @@ FrontNotice::FrontNotice(const PluginLink& link, PluginWindows& windows) : windo
     connect(&windows_, &PluginWindows::closed, this, [this] { tell(Result, {}); });
     connect(&ActiveWindows::instance(), &ActiveWindows::activated, this, [this] {
         if (notice_ && notice_->parentWidget() != owner())
-            show();
+            move();
     });
 }
 
@@ -54,8 +54,12 @@ void FrontNotice::tell(Topic topic, const Told& notice)
 {
     if (topic == Result)
         news_.stop();
-    told_[topic] = notice;
-    show();
+    std::erase_if(told_, [topic](const auto& told) { return told.first == topic; });
+    if (notice)
+        told_.emplace_back(topic, notice);
+    move();
+    if (notice_)
+        notice_->say(topic, notice);
 }
 
 void FrontNotice::tellNews(const Told& notice)
@@ -75,20 +79,23 @@ QWidget* FrontNotice::owner() const
     return found == latest.end() ? telemetry_.data() : *found;
 }
 
-void FrontNotice::show()
+void FrontNotice::move()
 {
     QWidget* owner = this->owner();
+    std::set<int> dismissed;
     if (notice_ && (notice_->parentWidget() != owner || !owner->isVisible())) {
+        dismissed = notice_->dismissed();
         notice_->hide();
         notice_->deleteLater();
         notice_.clear();
     }
     if (!owner || !owner->isVisible())
         return;
-    if (!notice_)
-        notice_ = new WindowNotice(owner);
-    for (int topic = 0; topic < TopicCount; ++topic)
-        notice_->say(topic, told_[topic]);
+    if (notice_)
+        return;
+    notice_ = new WindowNotice(owner, dismissed);
+    for (const auto& [topic, notice] : told_)
+        notice_->say(topic, notice);
 }
 
 } // namespace workbench

@@ -9,7 +9,8 @@
 #include <QPointer>
 #include <QTimer>
 
-#include <array>
+#include <utility>
+#include <vector>
 
 namespace workbench {
 
@@ -21,8 +22,8 @@ class FrontNotice : public QObject
     Q_OBJECT
 
 public:
-    // Where both are as bad, what became of a command says more than what its answer was like.
-    enum Topic { Result, Trouble, TopicCount };
+    // Where both are as bad, the newer one is on show.
+    enum Topic { Result, Trouble };
     using Told = std::function<Notice()>;
 
     FrontNotice(const PluginLink& link, PluginWindows& windows);
@@ -35,11 +36,12 @@ public:
 
 private:
     QWidget* owner() const;
-    void show();
+    // On the window that is looked at now.
+    void move();
     void noteTelemetry();
 
     PluginWindows& windows_;
-    std::array<Told, TopicCount> told_;
+    std::vector<std::pair<Topic, Told>> told_; // the newest is the last
     QTimer news_;
     QPointer<QWidget> telemetry_;
     bool isOpeningTelemetry_ = false;

@@ -182,6 +182,12 @@ void LinkNotices::endSave()
         tellResult([] { return workbench::text("wb_save_ended"); }, false);
 }
 
+void LinkNotices::saveEnded()
+{
+    if (std::exchange(isSaving_, false))
+        setTrouble(trouble_);
+}
+
 void LinkNotices::tellDetached(bool isPulled)
 {
     // The plug-in has not heard of it yet and closes its window within the message.

@@ -30,6 +30,8 @@ public:
     const AnswerWatch& answers() const { return watch_; }
     // What stands in the status line about the tracker's answers; empty while all is well.
     QString trouble() const { return trouble_ ? trouble_() : QString(); }
+    // What is said of a save is looked at again.
+    void saveEnded();
 
 Q_SIGNALS:
     void troubleChanged();

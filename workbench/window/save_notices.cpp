@@ -47,6 +47,9 @@ SaveNotices::SaveNotices(const PluginLog& log, HostSession& session, const Plugi
     connect(&watch_, &SaveWatch::saved, this, &SaveNotices::tellSaved);
     connect(&watch_, &SaveWatch::savedInPart, this, &SaveNotices::tellSavedInPart);
     connect(&watch_, &SaveWatch::failed, this, &SaveNotices::tellFailed);
+    connect(&watch_, &SaveWatch::saved, this, &SaveNotices::ended);
+    connect(&watch_, &SaveWatch::savedInPart, this, &SaveNotices::ended);
+    connect(&watch_, &SaveWatch::failed, this, &SaveNotices::ended);
     connect(&session_.link(), &PluginLink::passed, this, [this](vlk::Direction, quint32 id) {
         if (id == quint32(vlk::Message::OpenConfiguration))
             typing_.forget();

@@ -26,6 +26,10 @@ public:
     // For the one who tells of a written configuration.
     TypingNotices& typing() { return typing_; }
 
+Q_SIGNALS:
+    // A save is over, well or not.
+    void ended();
+
 private:
     void tellSaved(const QString& path);
     void tellSavedInPart(const QString& path, const workbench::SavedPart& part);
