@@ -85,12 +85,8 @@ void NoticeBar::changeEvent(QEvent* event)
 
 void NoticeBar::put(Told told)
 {
-    const auto same = std::find_if(told_.begin(), told_.end(),
-                                   [&told](const Told& other) { return other.number == told.number; });
-    if (same != told_.end())
-        *same = std::move(told);
-    else
-        told_.push_back(std::move(told));
+    std::erase_if(told_, [&told](const Told& other) { return other.number == told.number; });
+    told_.push_back(std::move(told));
     refresh();
 }
 
@@ -135,8 +131,10 @@ void NoticeBar::retranslate()
 
 const NoticeBar::Told* NoticeBar::worst() const
 {
-    const auto found = std::min_element(told_.begin(), told_.end(), [](const Told& a, const Told& b) {
-        return a.notice.mark == b.notice.mark ? a.number < b.number : a.notice.mark > b.notice.mark;
+    const auto found = std::min_element(told_.begin(), told_.end(), [this](const Told& a, const Told& b) {
+        if (a.notice.mark != b.notice.mark)
+            return a.notice.mark > b.notice.mark;
+        return isNewestFirst_ ? &a > &b : a.number < b.number;
     });
     return found == told_.end() ? nullptr : &*found;
 }

@@ -2,8 +2,8 @@
 
 // The bar at the top of a window's content in which the window tells what the user should know and may act
 // on: a mark, a sentence, at most two buttons and a cross. Of several notices the worst is on show, among
-// equals the one of the lowest number, with "1 of 3" behind it. The bar takes the focus from nobody; F6 goes
-// to it, and back.
+// equals the one of the lowest number, or the newest, with "1 of 3" behind it. The bar takes the focus from
+// nobody; F6 goes to it, and back.
 
 #include "typing/field_mark.h"
 
@@ -49,6 +49,8 @@ public:
     // Of a bar that tells one thing: its sentence, asked for again likewise; null takes it away.
     void tell(const std::function<QString()>& sentence);
     void end(int number);
+    // Among equals the one that was told last is on show.
+    void setNewestFirst() { isNewestFirst_ = true; }
     void retranslate();
 
 Q_SIGNALS:
@@ -79,7 +81,8 @@ private:
     QHBoxLayout* buttons_;
     QLabel* place_;
     QToolButton* close_;
-    std::vector<Told> told_;
+    std::vector<Told> told_; // the newest is the last
+    bool isNewestFirst_ = false;
     QPointer<QWidget> before_; // had the focus before F6
 };
 

@@ -1,11 +1,13 @@
 // What is looked at before it is believed: configurations, stored telemetry, records.
 
+#include "check/answer_check.h"
 #include "check/configuration_check.h"
 #include "check/record_check.h"
 #include "check/telemetry_file_check.h"
 #include "support/data_table.h"
 #include "support/files.h"
 #include "support/records.h"
+#include "tracker/sealed_record.h"
 #include "tracker/simulated_tracker.h"
 
 #include <QTemporaryDir>
@@ -15,6 +17,8 @@ using vlk::Message;
 using workbench::AnswerProblem;
 using workbench::ConfigurationProblem;
 using workbench::TelemetryFileProblem;
+
+Q_DECLARE_METATYPE(Message)
 
 namespace {
 
@@ -179,6 +183,61 @@ private Q_SLOTS:
         // A record by its number has a header of another request.
         QVERIFY(bytes.size() < 3 || check.look(Message::RecordByNumber, bytes));
         QCOMPARE(kindOf(check.look(Message::LiveKey, bytes)), fine);
+    }
+
+    void liveValues_data()
+    {
+        DataTable<Message, QByteArray, int> table({"answer", "bytes", "kind"});
+        QByteArray analog(vlk::analogRecordSize, '\7'), supply(sizeof(vlk::SupplyRecord), '\7');
+        tracker::seal(analog, Message::RequestAnalog);
+        tracker::seal(supply, Message::RequestSupply);
+        const int damaged = AnswerProblem::Damaged;
+        table.row("analogue", Message::AnalogRecord, analog, fine)
+            .row("analogue, a wrong byte", Message::AnalogRecord, QByteArray(analog).replace(30, 1, "x"),
+                 damaged)
+            .row("supply", Message::SupplyValues, supply, fine)
+            .row("supply, half", Message::SupplyValues, QByteArray(supply).replace(8, 8, QByteArray(8, 0)),
+                 damaged)
+            .row("lines", Message::LineValues, "LINES: 21:2EE0,23:0", fine)
+            .row("no line", Message::LineValues, "LINES: ", fine)
+            .row("lines, cut", Message::LineValues, "LINE", AnswerProblem::CutShort)
+            .row("lines, cut behind a comma", Message::LineValues, "LINES: 21:2EE0,", damaged)
+            .row("lines, no number", Message::LineValues, "LINES: 21:2xE0", damaged)
+            .row("another line", Message::LineValues, "LINES: 22:2EE0", damaged);
+    }
+    void liveValues()
+    {
+        QFETCH(Message, answer);
+        QFETCH(QByteArray, bytes);
+        const void* p1 = answer == Message::LineValues ? static_cast<const void*>(&bytes) : bytes.constData();
+        workbench::AnswerCheck check([] { return false; });
+        QTEST(kindOf(check.look(answer, p1, {Message::RequestLines, {}, {}, "21,23"})), "kind");
+    }
+
+    // A record of a period lies within it; outside of a save the tracker gives its nearest.
+    void recordOfAPeriod_data()
+    {
+        using P = AnswerProblem;
+        DataTable<int, qint64, bool, int>({"number", "time", "isSaving", "kind"})
+            .row("right", 7, present, true, fine)
+            .row("another number", 8, present, true, P::OtherNumber)
+            .row("the nearest", 8, present, false, fine)
+            .row("early", 7, present - 100, true, P::OutsidePeriod)
+            .row("late", 7, present + 100, true, P::OutsidePeriod);
+    }
+    void recordOfAPeriod()
+    {
+        QFETCH(int, number);
+        QFETCH(qint64, time);
+        QFETCH(bool, isSaving);
+        workbench::AnswerCheck check([isSaving] { return isSaving; });
+        check.note({Message::RequestRecordOfPeriod, {}, present - 50, {}});
+        check.note({Message::RequestRecordByTime, {}, present + 50, {}});
+        QByteArray bytes = answer(recordAt(time));
+        bytes[0] = char(Message::RequestRecordByNumber);
+        QTEST(kindOf(check.look(Message::RecordByNumber, &bytes,
+                                {Message::RequestRecordByNumber, quint32(number), {}, {}})),
+              "kind");
     }
 
     // One wrong record is doubted; two that agree show that it was the one before that was wrong.

@@ -29,12 +29,13 @@ struct Bench : OpenedWorkbench
             QWidget* modal = QApplication::activeModalWidget();
             if (auto* box = qobject_cast<QMessageBox*>(modal)) {
                 boxes.append(box->text());
+                over = box->parentWidget();
                 QAbstractButton* verb = box->buttons().constFirst();
                 for (QAbstractButton* button : box->buttons())
                     verb = box->buttonRole(button) == QMessageBox::AcceptRole ? button : verb;
                 agrees ? verb->click() : box->reject();
             } else if (auto* input = qobject_cast<QInputDialog*>(modal)) {
-                input->setDoubleValue(5000);
+                input->setDoubleValue(5000.5);
                 input->accept();
             } else if (auto* dialog = qobject_cast<QFileDialog*>(modal)) {
                 dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(file());
@@ -155,7 +156,8 @@ struct Bench : OpenedWorkbench
 
     QTimer person;
     QStringList boxes;
-    bool agrees = true; // to what is asked
+    QPointer<QWidget> over; // which window the last box came up
+    bool agrees = true;     // to what is asked
 };
 
 } // namespace
@@ -242,9 +244,19 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(bench.logged(again) > 1, 10'000);
         bench.tracker().setFaults({.delayMs = workbench::AnswerWatch::patienceMs + 500});
         QTRY_VERIFY_WITH_TIMEOUT(bench.logged(QStringLiteral("Message 2303 came twice")) > 0, 20'000);
+        // What cannot be right is not saved.
+        bench.tracker().setFaults({.garbledAnswers = true});
+        QTRY_VERIFY(Bench::notice().contains(QLatin1String("2303 from the tracker: damaged. Such records")));
+        const int records =
+            Bench::telemetry()->findChild<QProgressBar*>(QStringLiteral("progressBar_Time"))->maximum() + 1;
+        QVERIFY(Bench::telemetry()->findChild<QWidget*>(QStringLiteral("label_WindowNotice_Action1")));
         bench.tracker().setFaults({});
         QTRY_VERIFY2_WITH_TIMEOUT(bench.status().startsWith(QLatin1String("Saved: ")),
                                   qPrintable(bench.everything()), 20'000);
+        QFile file(bench.file());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll().count("<Page "), records);
+        QCOMPARE(Bench::notice(), QString());
     }
 
     // Before there is a file there is nothing to be saved.
@@ -258,6 +270,30 @@ private Q_SLOTS:
         QVERIFY(bench.status().contains(QLatin1String("No record was saved")));
         QCOMPARE(Bench::notice(), bench.status());
         QVERIFY(Bench::telemetry()->findChild<QWidget*>(QStringLiteral("groupBox_Btn_Save"))->isEnabled());
+    }
+
+    // The notice stands on the window that is worked in.
+    void followsTheActiveWindow()
+    {
+        Bench bench;
+        bench.prepare(Live);
+        bench.tracker().setFaults({.garbledAnswers = true});
+        Bench::press(Bench::telemetry(), "pushButton_FuelSensor");
+        QWidget* calibration = Bench::pluginWindow("VLK_Form_TMI_Fuel_Sensors");
+        QVERIFY(calibration);
+        for (QWidget* window : {calibration, Bench::telemetry(), calibration}) {
+            window->activateWindow();
+            const auto bar = [window] {
+                return window->findChild<QFrame*>(QStringLiteral("frame_WindowNotice"),
+                                                  Qt::FindDirectChildrenOnly);
+            };
+            QTRY_VERIFY_WITH_TIMEOUT(bar() && bar()->isVisible(), 10'000);
+        }
+        QVERIFY2(bench.status().contains(QLatin1String("2247 from the tracker: damaged")),
+                 qPrintable(bench.status()));
+        QVERIFY(calibration->findChild<QLineEdit*>(QStringLiteral("lineEdit_Param"))->text().isEmpty());
+        bench.tracker().setFaults({});
+        QTRY_COMPARE_WITH_TIMEOUT(bench.status(), QStringLiteral("Ready"), 10'000);
     }
 
     // One that was not read from the tracker replaces what nobody has seen.
@@ -298,9 +334,14 @@ private Q_SLOTS:
         QTRY_VERIFY2(bench.status().contains(said), qPrintable(bench.everything()));
         QCOMPARE(Bench::notice(), bench.status());
         QCOMPARE(bench.boxes.size(), during == Output ? 1 : 0);
+        // What is newer stands before it.
+        bench.tracker().setFaults({.silence = true});
+        bench.take(Live);
+        QTRY_VERIFY_WITH_TIMEOUT(Bench::notice().contains(QLatin1String("No answer")), 10'000);
         bench.tracker().setFaults({});
         QTest::qWait(200);
         QCOMPARE(bench.logged(QStringLiteral("ClearedRecord")), 0);
+        bench.agrees = true; // to the end of the save
     }
 
     // The main window, with work undone.
@@ -390,9 +431,10 @@ private Q_SLOTS:
             .row("live, bad board", Live, board, ready, true, false)
             .row("period", Period, none, "Saved: ", true, false)
             .row("period, silence", Period, silence, silent, true, false)
-            .row("period, short", Period, shortened, "2307 from the tracker: cut short|Damaged records in it",
+            .row("period, short", Period, shortened, "2307 from the tracker: cut short, .* are not saved",
                  true, false)
-            .row("period, garbled", Period, garbled, "period.xml. Damaged records in it: ", true, false)
+            .row("period, garbled", Period, garbled, "2307 from the tracker: damaged. .* goes on", true,
+                 false)
             .row("period, unplugged", Period, unplug, closed, false, false)
             .row("period, delay", Period, delay, "Saved: ", true, false)
             .row("period, bad board", Period, board, "Saved: ", true, false)
@@ -412,13 +454,13 @@ private Q_SLOTS:
             .row("clear, unplugged", Clear, unplug, closed, false, false)
             .row("clear, delay", Clear, delay, "have been cleared. Servers: 1, 3\\.", true, false)
             .row("clear, late", Clear, late, unknown, true, false)
-            .row("mileage", Mileage, none, "Mileage set: 5,000\u00A0km. It was [\\d,]+\u00A0km\\.", true,
-                 false)
+            .row("mileage", Mileage, none,
+                 "Mileage set: 5,000\\.50\u00A0km. It was [\\d,]+\\.\\d\\d\u00A0km\\.", true, false)
             .row("mileage, silence", Mileage, silence, notConfirmed, true, false)
             .row("mileage, short", Mileage, shortened, notConfirmed, true, false)
             .row("mileage, garbled", Mileage, garbled, notConfirmed, true, false)
             .row("mileage, unplugged", Mileage, unplug, closed, false, false)
-            .row("mileage, delay", Mileage, delay, "Mileage set: 5,000\u00A0km. It was", true, false)
+            .row("mileage, delay", Mileage, delay, "Mileage set: 5,000\\.50\u00A0km. It was", true, false)
             .row("output", Output, none, "Output 1 is switched on", true, false)
             .row("output, silence", Output, silence, notConfirmed, true, false)
             .row("output, garbled", Output, garbled, notConfirmed, true, false)
@@ -470,6 +512,7 @@ private Q_SLOTS:
                                          ? QStringLiteral("could not be read from the tracker. ")
                                          : QStringLiteral("mileage is ");
             QCOMPARE(bench.boxes.filter(question).size(), step == Mileage && faults.unplug ? 0 : 1);
+            QVERIFY(bench.over != &bench.window);
         }
         if (step == Search && faults.unplug)
             QVERIFY(window->findChild<QProgressBar*>(QStringLiteral("progressBar_Find"))->isHidden());
@@ -483,8 +526,10 @@ private Q_SLOTS:
         const QModelIndexList marked =
             log->match(log->index(0, workbench::MessageLogModel::Parameters), Qt::DisplayRole,
                        QStringLiteral("⚠"), 1, Qt::MatchStartsWith);
-        QCOMPARE(!marked.isEmpty(), (step == Live || step == Period || step == Clear) &&
-                                        (faults.shortAnswers || faults.garbledAnswers));
+        const bool isDamaged = faults.shortAnswers || faults.garbledAnswers;
+        QCOMPARE(!marked.isEmpty(), step == Clear && isDamaged);
+        QCOMPARE(bench.logged(QStringLiteral("It was not passed on")) > 0,
+                 (step == Live || step == Period) && isDamaged);
 
         disk.reset();
         // With the cause goes what was said of it, at the latest with the next answer.
@@ -492,6 +537,8 @@ private Q_SLOTS:
         bench.tracker().attach();
         if ((step == Live && open) || (step == Read && diskIsFull))
             bench.take(Step(step));
+        if (step == Period && isDamaged)
+            QTRY_VERIFY_WITH_TIMEOUT(bench.status().startsWith(QLatin1String("Saved: ")), 20'000);
         if (step == Read || step == Live)
             QTRY_COMPARE(bench.status(), QStringLiteral("Ready"));
     }

@@ -125,6 +125,11 @@ private Q_SLOTS:
         }
         QTRY_VERIFY(visibleFaults());
         QCOMPARE(visibleFaults()->parentWidget(), &modal);
+        // What is said of the tracker hides no control.
+        QTRY_VERIFY(visibleFaults()->findChild<QWidget*>(QStringLiteral("label_FaultsTrouble"))->isVisible());
+        QCoreApplication::processEvents();
+        const auto* last = visibleFaults()->findChild<QWidget*>(QStringLiteral("spinBox_Delay"));
+        QCOMPARE(last->visibleRegion().boundingRect(), last->rect());
         modal.close();
         QVERIFY(!visibleFaults());
         click(&bench.window, "checkBox_Silence");

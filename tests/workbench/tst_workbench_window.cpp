@@ -492,6 +492,32 @@ private Q_SLOTS:
         QVERIFY(!bench.window.isVisible() && !calibration->isVisible() && !find("VLK_Widget_Tmi_View"));
     }
 
+    // A place that was kept on a larger screen.
+    void comesUpOnTheScreen_data()
+    {
+        DataTable<QRect>({"kept"})
+            .row("right of it", QRect(1000, 60, 780, 500))
+            .row("below it", QRect(20, 900, 780, 500))
+            .row("partly", QRect(400, 500, 780, 500))
+            .row("above it", QRect(-40, -90, 780, 500))
+            .row("larger", QRect(100, 100, 1100, 1000));
+    }
+    void comesUpOnTheScreen()
+    {
+        QFETCH(QRect, kept);
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        QByteArray layout;
+        QDataStream stream(&layout, QIODevice::WriteOnly);
+        stream.setVersion(QDataStream::Qt_4_0);
+        stream << quint32(0x1D9D0CB) << quint16(3) << quint16(0) << kept << kept << qint32(0) << quint8(0)
+               << quint8(0) << qint32(screen.width() + 100) << kept;
+        OpenedWorkbench bench;
+        bench.settings.setLayout(bench.window.objectName(), layout);
+        workbench::WorkbenchWindow window(bench.folder, bench.settings, bench.languages);
+        window.show();
+        QCOMPARE(window.frameGeometry().intersected(screen), window.frameGeometry());
+    }
+
     // Whatever the size of the letters, the windows fit the screen and scroll; at the size of the
     // configuration window nothing needs more room.
     void fitsTheScreen()

@@ -30,6 +30,9 @@ constexpr HeaderRow headers[] = {
     {Message::ExtraPacket, Message::RequestExtraPacket, extraPacketHeader},
 };
 
+constexpr int headerNumber = 3;
+constexpr int headerTime = 7;
+
 const HeaderRow* headerOf(Message answer)
 {
     const auto* row = std::find_if(std::begin(headers), std::end(headers),
@@ -37,6 +40,7 @@ const HeaderRow* headerOf(Message answer)
     return row == std::end(headers) ? nullptr : row;
 }
 
+constexpr int packetNumber = 5;
 constexpr int packetTime = 11;
 
 constexpr qint64 year2000 = 946684800;
@@ -56,14 +60,7 @@ int fieldsOf(quint8 version)
     return version == 10 ? first : version == 20 ? kEarlierFieldCount : version == 30 ? kFieldCount : 0;
 }
 
-// Of a record whose bytes agree with each other: its time, or none where it does not say it.
-struct Content
-{
-    bool agrees = false;
-    std::optional<qint64> time;
-};
-
-Content lookAtRecord(const QByteArray& record)
+RecordContent lookAtRecord(const QByteArray& record)
 {
     const int fields = fieldsOf(static_cast<quint8>(record.at(1)));
     if (fields == 0 || record.size() < recordHead)
@@ -73,21 +70,23 @@ Content lookAtRecord(const QByteArray& record)
     const FieldMask mask(bits);
     if (record.size() != recordHead + mask.payloadSize(fields))
         return {};
-    constexpr int timeField = field("Time");
-    if (!mask.test(timeField))
-        return {true, {}};
-    return {true, numberAt<quint32>(record, recordHead + mask.payloadSize(timeField))};
+    const auto valueOf = [&](int row) -> std::optional<quint32> {
+        if (!mask.test(row))
+            return {};
+        return numberAt<quint32>(record, recordHead + mask.payloadSize(row));
+    };
+    return {true, valueOf(field("NumPage")), valueOf(field("Time"))};
 }
 
-Content lookAtPacket(const QByteArray& packet)
+RecordContent lookAtPacket(const QByteArray& packet)
 {
     constexpr int leastSize = packetTime + static_cast<int>(sizeof(quint32));
     if (packet.size() < leastSize || packet.size() != packetCounted + numberAt<quint16>(packet, 1))
         return {};
-    return {true, numberAt<quint32>(packet, packetTime)};
+    return {true, numberAt<quint32>(packet, packetNumber), numberAt<quint32>(packet, packetTime)};
 }
 
-Content lookAt(const QByteArray& record)
+RecordContent lookAt(const QByteArray& record)
 {
     if (record.size() < 2)
         return {};
@@ -99,6 +98,12 @@ Content lookAt(const QByteArray& record)
     default:
         return {};
     }
+}
+
+bool agreesWithHeader(const RecordContent& content, const QByteArray& bytes)
+{
+    return (!content.number || *content.number == numberAt<quint32>(bytes, headerNumber)) &&
+           (!content.time || *content.time == numberAt<quint32>(bytes, headerTime));
 }
 
 } // namespace
@@ -116,6 +121,16 @@ int RecordCheck::versionOf(Message answer, const QByteArray& bytes)
     return isRecord ? static_cast<quint8>(bytes.at(header->size + 1)) : 0;
 }
 
+RecordContent RecordCheck::contentOf(Message answer, const QByteArray& bytes)
+{
+    const HeaderRow* header = headerOf(answer);
+    if (header == nullptr || bytes.size() < header->size)
+        return {};
+    // Behind a short record the frame is filled up.
+    const int length = numberAt<quint16>(bytes, header->size == extraPacketHeader ? 0 : 1);
+    return lookAt(bytes.mid(header->size, length));
+}
+
 std::optional<AnswerProblem> RecordCheck::look(Message answer, const QByteArray& bytes)
 {
     const HeaderRow* header = headerOf(answer);
@@ -130,9 +145,8 @@ std::optional<AnswerProblem> RecordCheck::look(Message answer, const QByteArray&
     const int length = numberAt<quint16>(bytes, namesRequest ? 1 : 0);
     if (came < header->size + length)
         return AnswerProblem{AnswerProblem::CutShort, came, header->size + length};
-    // Behind a short record the frame is filled up.
-    const Content content = lookAt(bytes.mid(header->size, length));
-    if (!content.agrees)
+    const RecordContent content = contentOf(answer, bytes);
+    if (!content.agrees || (header->size == recordByTimeHeader && !agreesWithHeader(content, bytes)))
         return AnswerProblem{AnswerProblem::Damaged, came, 0};
     if (!content.time)
         return {};

@@ -2,6 +2,7 @@
 
 #include "tracker/bytes.h"
 #include "tracker/driver.h"
+#include "tracker/sealed_record.h"
 #include "tracker/vehicle_fuel.h"
 #include "tracker/vehicle_motion.h"
 #include "tracker/vehicle_power.h"
@@ -50,7 +51,9 @@ void LiveRequests::addTo(Handlers& handlers)
         vlk::SupplyRecord record{};
         record.values[vlk::supplyElement] =
             static_cast<std::uint16_t>(std::lround(supplyVoltage(present_())));
-        return {Answer::record(record)};
+        Answer answer = Answer::record(record);
+        seal(answer.data, Message::RequestSupply);
+        return {answer};
     };
     handlers[Message::RequestAccel] = [this](void*) -> Answers {
         constexpr double degree = 3.14159265358979323846 / 180;
@@ -116,6 +119,7 @@ Answers LiveRequests::analog() const
         putWord(record, vlk::analogRecordLine1 + 2 * i, lineVoltage(vehicle, i));
     for (int i = 0; i < fuelSensorCount; ++i)
         putWord(record, fuelSensors + 3 * i, fuelSensor(vehicle, i));
+    seal(record, Message::RequestAnalog);
     return {{Answer::Form::Record, record, {}}};
 }
 

@@ -32,6 +32,17 @@ void FaultsWindow::setTrouble(const QString& text)
 {
     trouble_->setText(text);
     trouble_->setVisible(!text.isEmpty());
+    grow();
+}
+
+// The note may need room, more of it in another language.
+void FaultsWindow::grow()
+{
+    ensurePolished();
+    const int width = qMax(this->width(), sizeHint().width());
+    const int height =
+        layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width) : sizeHint().height();
+    workbench::resizeWithin(this, QSize(width, height).expandedTo(size()));
 }
 
 void FaultsWindow::retranslate()
@@ -78,7 +89,9 @@ void FaultsWindow::place()
     const QRect room = owner.screen() ? owner.screen()->availableGeometry() : owner.frameGeometry();
     workbench::resizeWithin(this, size());
     const QPoint beside = owner.frameGeometry().topRight() + QPoint(1, 0);
-    workbench::moveWithin(this, fitsBeside(owner) ? beside : room.bottomRight());
+    // Over the owner it leaves free what stands at its upper and lower edge.
+    const QPoint over(room.right(), room.center().y() - height() / 2);
+    workbench::moveWithin(this, fitsBeside(owner) ? beside : over);
 }
 
 } // namespace workbench

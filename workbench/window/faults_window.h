@@ -27,7 +27,7 @@ public:
     // What is wrong with the tracker's answers at present; empty while all is well.
     void setTrouble(const QString& text);
     void retranslate();
-    // Shows it beside the owner, or in the corner of the screen where there is no room; with the keyboard, or
+    // Shows it beside the owner, or at the edge of the screen where there is no room; with the keyboard, or
     // leaving it where it is until the user clicks here.
     void comeUp(bool withKeyboard);
     // Whether there is room for it beside a window.
@@ -38,6 +38,7 @@ public Q_SLOTS:
     void reject() override;
 
 private:
+    void grow();
     void place();
 
     FaultsPanel* panel_;

@@ -1,7 +1,10 @@
 #include "window/front_notice.h"
 
+#include "window/active_windows.h"
 #include "window/plugin_link.h"
 #include "window/plugin_windows.h"
+
+#include <algorithm>
 
 namespace workbench {
 
@@ -27,6 +30,10 @@ FrontNotice::FrontNotice(const PluginLink& link, PluginWindows& windows) : windo
             telemetry_ = window;
     });
     connect(&windows_, &PluginWindows::closed, this, [this] { tell(Result, {}); });
+    connect(&ActiveWindows::instance(), &ActiveWindows::activated, this, [this] {
+        if (notice_ && notice_->parentWidget() != owner())
+            move();
+    });
 }
 
 FrontNotice::~FrontNotice()
@@ -47,8 +54,12 @@ void FrontNotice::tell(Topic topic, const Told& notice)
 {
     if (topic == Result)
         news_.stop();
-    told_[topic] = notice;
-    show();
+    std::erase_if(told_, [topic](const auto& told) { return told.first == topic; });
+    if (notice)
+        told_.emplace_back(topic, notice);
+    move();
+    if (notice_)
+        notice_->say(topic, notice);
 }
 
 void FrontNotice::tellNews(const Told& notice)
@@ -57,20 +68,34 @@ void FrontNotice::tellNews(const Told& notice)
     news_.start();
 }
 
-void FrontNotice::show()
+QWidget* FrontNotice::owner() const
 {
-    QWidget* owner = windows_.modal() ? windows_.modal() : telemetry_.data();
+    if (QWidget* modal = windows_.modal())
+        return modal;
+    const QVector<QWidget*> latest = ActiveWindows::instance().latest();
+    const auto found = std::find_if(latest.begin(), latest.end(), [this](const QWidget* window) {
+        return window == telemetry_ || window == PluginWindows::calibration();
+    });
+    return found == latest.end() ? telemetry_.data() : *found;
+}
+
+void FrontNotice::move()
+{
+    QWidget* owner = this->owner();
+    std::set<int> dismissed;
     if (notice_ && (notice_->parentWidget() != owner || !owner->isVisible())) {
+        dismissed = notice_->dismissed();
         notice_->hide();
         notice_->deleteLater();
         notice_.clear();
     }
     if (!owner || !owner->isVisible())
         return;
-    if (!notice_)
-        notice_ = new WindowNotice(owner);
-    for (int topic = 0; topic < TopicCount; ++topic)
-        notice_->say(topic, told_[topic]);
+    if (notice_)
+        return;
+    notice_ = new WindowNotice(owner, dismissed);
+    for (const auto& [topic, notice] : told_)
+        notice_->say(topic, notice);
 }
 
 } // namespace workbench

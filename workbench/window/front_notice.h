@@ -1,14 +1,16 @@
 #pragma once
 
 // What the workbench has to say on the window of the plug-in that is looked at: a modal one is in front of
-// all others, else it is the one that shows the attached tracker's telemetry.
+// all others, else it is the one that shows the attached tracker's telemetry or the calibration over it,
+// whichever was active last.
 
 #include "window/window_notice.h"
 
 #include <QPointer>
 #include <QTimer>
 
-#include <array>
+#include <utility>
+#include <vector>
 
 namespace workbench {
 
@@ -20,8 +22,8 @@ class FrontNotice : public QObject
     Q_OBJECT
 
 public:
-    // Where both are as bad, what became of a command says more than what its answer was like.
-    enum Topic { Result, Trouble, TopicCount };
+    // Where both are as bad, the newer one is on show.
+    enum Topic { Result, Trouble };
     using Told = std::function<Notice()>;
 
     FrontNotice(const PluginLink& link, PluginWindows& windows);
@@ -33,11 +35,13 @@ public:
     void tellNews(const Told& notice);
 
 private:
-    void show();
+    QWidget* owner() const;
+    // On the window that is looked at now.
+    void move();
     void noteTelemetry();
 
     PluginWindows& windows_;
-    std::array<Told, TopicCount> told_;
+    std::vector<std::pair<Topic, Told>> told_; // the newest is the last
     QTimer news_;
     QPointer<QWidget> telemetry_;
     bool isOpeningTelemetry_ = false;

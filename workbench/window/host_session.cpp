@@ -168,7 +168,7 @@ void HostSession::receive(vlk::Message id, void* p1, void* p2)
 
 void HostSession::deliver(vlk::Message id, void* p1, void* p2)
 {
-    if (!requests_.takesAnswer(id))
+    if (!requests_.takesAnswer(id, p1))
         return;
     followSearch(id, p1);
     commands_.handOver(id, p1, p2);

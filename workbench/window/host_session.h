@@ -93,7 +93,7 @@ private:
     QTemporaryDir readFiles_;
     tracker::SimulatedTracker tracker_;
     PluginLink link_;
-    RepeatedRequests requests_{tracker_};
+    RepeatedRequests requests_{tracker_, [this] { return link_.runningWork().saving != 0; }};
     TrackerCommands commands_{tracker_, requests_, link_};
     bool isSearching_ = false; // for Bluetooth devices
     EditedConfiguration edited_;

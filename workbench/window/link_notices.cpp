@@ -28,7 +28,6 @@ LinkNotices::LinkNotices(HostSession& session, PluginWindows& windows, MessageLo
     connect(&watch_, &AnswerWatch::over, this, [this] { setTrouble({}); });
     connect(&session_.tracker(), &SimulatedTracker::pulled, this, [this] { isPulled_ = true; });
     connect(&session_.tracker(), &SimulatedTracker::attachedChanged, this, [this] {
-        check_.forget();
         watch_.forget();
         setTrouble({});
     });
@@ -54,6 +53,15 @@ void LinkNotices::connectRequests()
             [log](vlk::Message request) { log("wb_asked_again", request); });
     connect(requests, &RepeatedRequests::dropped, this,
             [log](vlk::Message answer) { log("wb_answer_dropped", answer); });
+    connect(
+        requests, &RepeatedRequests::refused, this,
+        [this](vlk::Message answer, const AnswerProblem& problem, std::optional<vlk::Message> request) {
+            log_.appendWarning(
+                QStringLiteral("vlk.workbench.link"),
+                workbench::text("wb_answer_refused").arg(quint32(answer)).arg(workbench::noteOn(problem)));
+            if (request)
+                tellRefused(answer, problem, *request);
+        });
     const TrackerCommands* commands = &session_.commands();
     connect(commands, &TrackerCommands::sent, &watch_, &AnswerWatch::begin);
     connect(commands, &TrackerCommands::done, this,
@@ -77,8 +85,6 @@ void LinkNotices::tellResult(const std::function<QString()>& sentence, bool isNe
 void LinkNotices::look(vlk::Direction direction, quint32 id, const void* p1)
 {
     const auto answer = static_cast<vlk::Message>(id);
-    if (answer == vlk::Message::RequestRecordOfPeriod)
-        damagedOfPeriod_ = 0;
     if (direction == vlk::Direction::ToPlugin && answer == vlk::Message::TrackerDetached)
         tellDetached(std::exchange(isPulled_, false));
     const bool isOfSearch = answer == vlk::Message::BtSearchEvent || answer == vlk::Message::BtSearchStopped;
@@ -86,11 +92,16 @@ void LinkNotices::look(vlk::Direction direction, quint32 id, const void* p1)
         setTrouble({});
     else if (isOfSearch)
         setTrouble([id] { return workbench::text("wb_search_bad").arg(id); });
-    if (direction != vlk::Direction::ToPlugin || !workbench::RecordCheck::carriesRecord(answer) ||
-        p1 == nullptr)
+    if (direction != vlk::Direction::ToPlugin)
+        return;
+    if (answer == refused_) {
+        refused_ = {};
+        setTrouble({});
+    }
+    if (!workbench::RecordCheck::carriesRecord(answer) || p1 == nullptr)
         return;
     const QByteArray& bytes = *static_cast<const QByteArray*>(p1);
-    const auto problem = check_.look(answer, bytes);
+    const auto problem = session_.requests().problem();
     if (!problem) {
         // The window of telemetry stays empty for these, as if nothing had come.
         const int version = workbench::RecordCheck::versionOf(answer, bytes);
@@ -103,11 +114,23 @@ void LinkNotices::look(vlk::Direction direction, quint32 id, const void* p1)
             setTrouble({});
         return;
     }
-    if (damagedOfPeriod_)
-        ++*damagedOfPeriod_;
     log_.markNewest(workbench::noteOn(*problem));
     setTrouble(
         [problem, id] { return workbench::text("wb_answer_bad").arg(id).arg(workbench::noteOn(*problem)); });
+}
+
+// It shows that the tracker is there, and the wait for the next one begins.
+void LinkNotices::tellRefused(vlk::Message answer, const workbench::AnswerProblem& problem,
+                              vlk::Message request)
+{
+    watch_.forget();
+    watch_.begin(request);
+    refused_ = answer;
+    setTrouble([this, problem, id = quint32(answer)] {
+        return workbench::text(isSaving_ ? "wb_answer_again_save" : "wb_answer_again")
+            .arg(id)
+            .arg(workbench::noteOn(problem));
+    });
 }
 
 void LinkNotices::setTrouble(const std::function<QString()>& trouble)
@@ -157,6 +180,12 @@ void LinkNotices::endSave()
     // The plug-in tells of a file with a part of the period.
     if (save.records == 0)
         tellResult([] { return workbench::text("wb_save_ended"); }, false);
+}
+
+void LinkNotices::saveEnded()
+{
+    if (std::exchange(isSaving_, false))
+        setTrouble(trouble_);
 }
 
 void LinkNotices::tellDetached(bool isPulled)

@@ -1,11 +1,12 @@
 #pragma once
 
 // What is wrong between the tracker and the plug-in, said where a user sees it: a record that cannot be right
-// is marked in the log, silence and damage stand in the status line and in a notice on the window that asked
-// until a right answer comes, and a cable that went while the tracker answered is told in a box that says
-// which windows went with it. A tracker that the user detaches is told in the status line where its telemetry
-// window goes. While a period is being saved the notice offers to end that. What became of a command stands
-// in the same two places, and what is asked again or comes twice in the log.
+// is marked in the log, and so is an answer that is not passed on; silence and damage stand in the status
+// line and in a notice on the window that asked until a right answer comes, and a cable that went while the
+// tracker answered is told in a box that says which windows went with it. A tracker that the user detaches is
+// told in the status line where its telemetry window goes. While a period is being saved the notice offers to
+// end that. What became of a command stands in the same two places, and what is asked again or comes twice in
+// the log.
 
 #include "check/record_check.h"
 #include "window/answer_watch.h"
@@ -29,14 +30,15 @@ public:
     const AnswerWatch& answers() const { return watch_; }
     // What stands in the status line about the tracker's answers; empty while all is well.
     QString trouble() const { return trouble_ ? trouble_() : QString(); }
-    // The period that was asked for last is saved: how many of its records cannot be right.
-    int endPeriod() { return std::exchange(damagedOfPeriod_, {}).value_or(0); }
+    // What is said of a save is looked at again.
+    void saveEnded();
 
 Q_SIGNALS:
     void troubleChanged();
 
 private:
     void look(vlk::Direction direction, quint32 id, const void* p1);
+    void tellRefused(vlk::Message answer, const workbench::AnswerProblem& problem, vlk::Message request);
     void tellDetached(bool isPulled);
     void setTrouble(const std::function<QString()>& trouble);
     void connectRequests();
@@ -50,13 +52,12 @@ private:
     MessageLogModel& log_;
     StatusLine& status_;
     QWidget* mainWindow_;
-    workbench::RecordCheck check_;
     AnswerWatch watch_;
     FrontNotice front_;
     std::function<QString()> trouble_;
-    bool isSaving_ = false;              // a period, when the trouble came
-    bool isPulled_ = false;              // the cable went while the tracker answered
-    std::optional<int> damagedOfPeriod_; // none while no period is asked for
+    bool isSaving_ = false;  // a period, when the trouble came
+    bool isPulled_ = false;  // the cable went while the tracker answered
+    vlk::Message refused_{}; // the answer that was not passed on last
 };
 
 } // namespace workbench

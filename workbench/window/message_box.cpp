@@ -1,5 +1,6 @@
 #include "window/message_box.h"
 
+#include "window/active_windows.h"
 #include "window/languages.h"
 
 #include <QApplication>
@@ -12,8 +13,10 @@ QWidget* windowInFront(QWidget* otherwise)
 {
     if (QWidget* modal = QApplication::activeModalWidget())
         return modal;
-    QWidget* active = QApplication::activeWindow();
-    return active ? active : otherwise;
+    if (QWidget* active = QApplication::activeWindow())
+        return active;
+    const QVector<QWidget*> latest = ActiveWindows::instance().latest();
+    return latest.isEmpty() ? otherwise : latest.front();
 }
 
 void showWarning(const QString& text, QWidget* window)
@@ -29,6 +32,7 @@ void showWarning(const QString& text, QWidget* window)
     box->setTextFormat(Qt::PlainText);
     box->setTextInteractionFlags(Qt::TextSelectableByMouse);
     box->setAttribute(Qt::WA_DeleteOnClose);
+    QObject::connect(box, &QDialog::finished, box->parentWidget(), &QWidget::activateWindow);
     box->open();
 }
 
@@ -41,6 +45,7 @@ bool agrees(const QString& question, const QString& verb, const QString& name, Q
     const QPushButton* agree = box.addButton(verb, QMessageBox::AcceptRole);
     box.setDefaultButton(QMessageBox::Cancel);
     box.exec();
+    box.parentWidget()->activateWindow();
     return box.clickedButton() == agree;
 }
 

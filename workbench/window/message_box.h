@@ -1,6 +1,7 @@
 #pragma once
 
-// Boxes of the workbench. They come up over whatever window is in front, a modal one included.
+// Boxes of the workbench. They come up over whatever window is in front, a modal one included, and leave that
+// one active.
 
 #include <QString>
 
@@ -17,7 +18,7 @@ void showWarning(const QString& text, QWidget* window);
 bool agrees(const QString& question, const QString& verb, const QString& name, QWidget* window);
 
 // The window that a new one has to be a child of to be usable: the modal one in front, else the active one,
-// else the given.
+// else the one that was active last, else the given.
 QWidget* windowInFront(QWidget* otherwise);
 
 } // namespace workbench

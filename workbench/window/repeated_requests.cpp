@@ -17,26 +17,57 @@ Parameter parameterOf(Message request)
     return info == std::end(messages) ? Parameter::None : info->p1;
 }
 
+// Of an answer that is there the tracker is asked sooner than of one that does not come.
+constexpr int refusedMs = 1000;
+
+Asked askedBy(Message request, const void* p1)
+{
+    Asked asked{request, {}, {}, {}};
+    if (p1 == nullptr)
+        return asked;
+    if (request == Message::RequestRecordByNumber)
+        asked.number = *static_cast<const quint32*>(p1);
+    else if (request == Message::RequestLines)
+        asked.lines = *static_cast<const QByteArray*>(p1);
+    else if (parameterOf(request) == Parameter::DateTimeAddress)
+        asked.time = static_cast<const QDateTime*>(p1)->toSecsSinceEpoch();
+    return asked;
+}
+
+bool answersReading(Message answer)
+{
+    return std::any_of(std::begin(messages), std::end(messages), [answer](const MessageInfo& row) {
+        return row.answer == quint32(answer) &&
+               (hasEffect(row.number, Effect::Reads) || hasEffect(row.number, Effect::MayBeMute));
+    });
+}
+
 } // namespace
 
-RepeatedRequests::RepeatedRequests(tracker::SimulatedTracker& tracker) : tracker_(tracker)
+RepeatedRequests::RepeatedRequests(tracker::SimulatedTracker& tracker, std::function<bool()> isSaving)
+    : tracker_(tracker), check_(std::move(isSaving))
 {
     // What was under way is lost with the cable.
     connect(&tracker_, &tracker::SimulatedTracker::attachedChanged, this, [this] {
         waiting_.clear();
         repeated_.clear();
+        check_.forget();
     });
 }
 
 bool RepeatedRequests::send(Message request, void* p1, void* p2)
 {
     const quint32 ticket = ++lastTicket_;
-    if (hasEffect(request, Effect::Reads) && tracker_.attached()) {
+    const bool isReading = hasEffect(request, Effect::Reads);
+    if ((isReading || hasEffect(request, Effect::MayBeMute)) && tracker_.attached()) {
         auto timer = std::make_unique<QTimer>();
         connect(timer.get(), &QTimer::timeout, this,
                 [this, request, again = sending(request, p1, ticket)] { repeat(request, again); });
-        timer->start(AnswerWatch::patienceMs);
-        waiting_[request] = {ticket, std::move(timer)};
+        if (isReading)
+            timer->start(AnswerWatch::patienceMs);
+        const Asked asked = askedBy(request, p1);
+        check_.note(asked);
+        waiting_[request] = {ticket, asked, std::move(timer), {}};
     }
     return tracker_.handle(request, p1, p2, ticket);
 }
@@ -67,23 +98,54 @@ std::function<void()> RepeatedRequests::sending(Message request, void* p1, quint
 
 void RepeatedRequests::repeat(Message request, const std::function<void()>& sending)
 {
-    repeated_.emplace(waiting_.at(request).ticket, false);
+    const Waiting& waiting = waiting_.at(request);
+    if (hasEffect(request, Effect::Reads))
+        waiting.timer->start(AnswerWatch::patienceMs);
+    else
+        waiting.timer->stop();
+    repeated_.emplace(waiting.ticket, false);
     Q_EMIT sentAgain(request);
     sending();
 }
 
-bool RepeatedRequests::takesAnswer(Message answer)
+bool RepeatedRequests::takesAnswer(Message answer, const void* p1)
 {
     const quint32 ticket = tracker_.ticket();
-    std::erase_if(waiting_, [ticket](const auto& entry) { return entry.second.ticket == ticket; });
     const auto repeated = repeated_.find(ticket);
-    if (repeated == repeated_.end())
-        return true;
-    if (std::exchange(repeated->second, true)) {
+    if (repeated != repeated_.end() && repeated->second) {
         Q_EMIT dropped(answer);
         return false;
     }
+    const auto waiting = std::find_if(waiting_.begin(), waiting_.end(),
+                                      [ticket](const auto& entry) { return entry.second.ticket == ticket; });
+    Waiting* entry = waiting == waiting_.end() ? nullptr : &waiting->second;
+    problem_ = check_.look(answer, p1, entry ? entry->asked : Asked{});
+    if (mustBeRefused(answer, entry)) {
+        refuse(answer, entry);
+        return false;
+    }
+    if (entry)
+        waiting_.erase(waiting);
+    if (repeated != repeated_.end())
+        repeated->second = true;
     return true;
+}
+
+bool RepeatedRequests::mustBeRefused(Message answer, const Waiting* waiting) const
+{
+    const bool cameAgain = waiting && problem_ && problem_->mayBeHeld() && waiting->refused == problem_->kind;
+    return problem_ && answersReading(answer) && !cameAgain;
+}
+
+void RepeatedRequests::refuse(Message answer, Waiting* waiting)
+{
+    if (!waiting) {
+        Q_EMIT refused(answer, *problem_, {});
+        return;
+    }
+    waiting->refused = problem_->kind;
+    waiting->timer->start(refusedMs);
+    Q_EMIT refused(answer, *problem_, waiting->asked.request);
 }
 
 } // namespace workbench

@@ -2,7 +2,6 @@
 
 #include "window/host_session.h"
 #include "window/languages.h"
-#include "window/link_notices.h"
 #include "window/message_box.h"
 #include "window/plugin_windows.h"
 #include "window/recent_files.h"
@@ -36,19 +35,11 @@ bool isAboutRoom(const QString& reason)
                        [&reason](int code) { return reason.contains(qt_error_string(code)); });
 }
 
-// The table form has no content that tells it from others.
-bool isTelemetry(const QString& path)
-{
-    return workbench::storedFileKind(path) == StoredFile::Telemetry ||
-           path.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive);
-}
-
 } // namespace
 
-SaveNotices::SaveNotices(const PluginLog& log, HostSession& session, LinkNotices& link,
-                         const PluginWindows& windows, RecentFiles& recent, StatusLine& status,
-                         QWidget* mainWindow)
-    : session_(session), link_(link), recent_(recent), status_(status), mainWindow_(mainWindow),
+SaveNotices::SaveNotices(const PluginLog& log, HostSession& session, const PluginWindows& windows,
+                         RecentFiles& recent, StatusLine& status, QWidget* mainWindow)
+    : session_(session), recent_(recent), status_(status), mainWindow_(mainWindow),
       watch_(log, mainWindow, [&windows] { return windows.modal() != nullptr; }), typing_(log)
 {
     // The configuration's window is modal and saves when its dialog has closed; a period is saved when all of
@@ -56,6 +47,9 @@ SaveNotices::SaveNotices(const PluginLog& log, HostSession& session, LinkNotices
     connect(&watch_, &SaveWatch::saved, this, &SaveNotices::tellSaved);
     connect(&watch_, &SaveWatch::savedInPart, this, &SaveNotices::tellSavedInPart);
     connect(&watch_, &SaveWatch::failed, this, &SaveNotices::tellFailed);
+    connect(&watch_, &SaveWatch::saved, this, &SaveNotices::ended);
+    connect(&watch_, &SaveWatch::savedInPart, this, &SaveNotices::ended);
+    connect(&watch_, &SaveWatch::failed, this, &SaveNotices::ended);
     connect(&session_.link(), &PluginLink::passed, this, [this](vlk::Direction, quint32 id) {
         if (id == quint32(vlk::Message::OpenConfiguration))
             typing_.forget();
@@ -70,10 +64,6 @@ void SaveNotices::tellSaved(const QString& path)
         recent_.add(path, TelemetryWindow::Browser);
     if (kind == StoredFile::Configuration) {
         tellConfiguration(path);
-    } else if (const int damaged = isTelemetry(path) ? link_.endPeriod() : 0; damaged > 0) {
-        warn([shown, damaged] {
-            return workbench::text("wb_saved_damaged").arg(shown, workbench::number(damaged));
-        });
     } else {
         status_.tell(StatusLine::Command, [shown] { return workbench::text("wb_saved").arg(shown); });
     }
@@ -83,14 +73,11 @@ void SaveNotices::tellSavedInPart(const QString& path, const workbench::SavedPar
 {
     if (workbench::storedFileKind(path) != StoredFile::Unknown)
         recent_.add(path, TelemetryWindow::Browser);
-    warn([shown = QDir::toNativeSeparators(path), part, damaged = link_.endPeriod()] {
+    warn([shown = QDir::toNativeSeparators(path), part] {
         const QString held =
             workbench::text("wb_saved_part")
                 .arg(shown, workbench::number(part.records), workbench::number(part.all), part.until);
-        return workbench::sentences(
-            {held,
-             damaged > 0 ? workbench::text("wb_part_damaged").arg(workbench::number(damaged)) : QString(),
-             workbench::text("wb_do_part")});
+        return workbench::sentences({held, workbench::text("wb_do_part")});
     });
 }
 

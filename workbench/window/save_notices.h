@@ -11,7 +11,6 @@
 namespace workbench {
 
 class HostSession;
-class LinkNotices;
 class PluginWindows;
 class RecentFiles;
 class StatusLine;
@@ -21,11 +20,15 @@ class SaveNotices : public QObject
     Q_OBJECT
 
 public:
-    SaveNotices(const PluginLog& log, HostSession& session, LinkNotices& link, const PluginWindows& windows,
-                RecentFiles& recent, StatusLine& status, QWidget* mainWindow);
+    SaveNotices(const PluginLog& log, HostSession& session, const PluginWindows& windows, RecentFiles& recent,
+                StatusLine& status, QWidget* mainWindow);
 
     // For the one who tells of a written configuration.
     TypingNotices& typing() { return typing_; }
+
+Q_SIGNALS:
+    // A save is over, well or not.
+    void ended();
 
 private:
     void tellSaved(const QString& path);
@@ -35,7 +38,6 @@ private:
     void tellFailed(const QString& path, const QString& reason);
 
     HostSession& session_;
-    LinkNotices& link_;
     RecentFiles& recent_;
     StatusLine& status_;
     QWidget* mainWindow_;

@@ -57,15 +57,9 @@ void resizeWithin(QWidget* window, QSize wanted)
     const QScreen* screen = window->screen() ? window->screen() : QGuiApplication::primaryScreen();
     if (!screen)
         return;
-    const QRect room = screen->availableGeometry();
-    window->resize(within(wanted, room.size()));
-    QRect place = window->geometry();
-    place.moveRight(qMin(place.right(), room.right()));
-    place.moveBottom(qMin(place.bottom(), room.bottom()));
-    place.moveLeft(qMax(place.left(), room.left()));
-    place.moveTop(qMax(place.top(), room.top()));
+    window->resize(within(wanted, screen->availableGeometry().size()));
     if (window->testAttribute(Qt::WA_Moved))
-        window->move(place.topLeft());
+        moveWithin(window, window->pos());
 }
 
 void moveWithin(QWidget* window, QPoint place)

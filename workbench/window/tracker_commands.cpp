@@ -5,6 +5,7 @@
 #include "window/request_table.h"
 #include "window/trouble_text.h"
 
+#include <QLocale>
 #include <QStringList>
 
 #include <cmath>
@@ -23,9 +24,10 @@ QString servers(const std::vector<int>& numbers)
     return list.join(QLatin1String(", "));
 }
 
+// With the decimals that it is typed with.
 QString km(double mileage)
 {
-    return workbench::number(std::llround(mileage));
+    return QLocale().toString(mileage, 'f', 2);
 }
 
 TrackerCommands::Sentence saying(const char* key)
@@ -134,22 +136,23 @@ void TrackerCommands::handOver(Message answer, void* p1, void* p2)
 void TrackerCommands::setMileage(const Command& command)
 {
     const std::optional<tracker::Present> before = tracker_.readPresent();
-    const QString wanted = km(command.mileage);
-    if (!isAllowed(before ? workbench::text("wb_mileage_question").arg(wanted, km(before->mileage))
-                          : workbench::text("wb_mileage_question_blind").arg(wanted),
+    const auto told = [mileage = command.mileage](const char* key) {
+        return [mileage, key] { return workbench::text(key).arg(km(mileage)); };
+    };
+    if (!isAllowed(before ? told("wb_mileage_question")().arg(km(before->mileage))
+                          : told("wb_mileage_question_blind")(),
                    "wb_mileage_verb"))
         return;
     float mileage = command.mileage;
     requests_.send(command.message, &mileage, nullptr);
-    look([this, before, mileage, wanted](const std::optional<tracker::Present>& present) {
+    look([this, before, mileage, told](const std::optional<tracker::Present>& present) {
         if (!present || std::abs(present->mileage - mileage) > sameKm)
-            Q_EMIT failed([wanted] { return workbench::text("wb_mileage_unknown").arg(wanted); });
+            Q_EMIT failed(told("wb_mileage_unknown"));
         else if (before)
-            Q_EMIT done([wanted, before] {
-                return workbench::text("wb_mileage_done").arg(wanted, km(before->mileage));
-            });
+            Q_EMIT done(
+                [sentence = told("wb_mileage_done"), before] { return sentence().arg(km(before->mileage)); });
         else
-            Q_EMIT done([wanted] { return workbench::text("wb_mileage_done_blind").arg(wanted); });
+            Q_EMIT done(told("wb_mileage_done_blind"));
     });
 }
 

@@ -73,6 +73,10 @@ QString noteOn(const AnswerProblem& problem)
         return text("wb_answer_time").arg(moment(problem.time));
     case AnswerProblem::TimeJumps:
         return text("wb_answer_jump").arg(moment(problem.before), moment(problem.time));
+    case AnswerProblem::OtherNumber:
+        return text("wb_answer_number").arg(number(problem.number), number(problem.expected));
+    case AnswerProblem::OutsidePeriod:
+        return text("wb_answer_period").arg(moment(problem.time));
     }
     return {};
 }

@@ -10,13 +10,15 @@ constexpr int margin = 6;
 
 } // namespace
 
-WindowNotice::WindowNotice(QWidget* owner) : NoticeBar(owner, QStringLiteral("label_WindowNotice"))
+WindowNotice::WindowNotice(QWidget* owner, std::set<int> dismissed)
+    : NoticeBar(owner, QStringLiteral("label_WindowNotice")), dismissed_(std::move(dismissed))
 {
     setObjectName(QStringLiteral("frame_WindowNotice"));
     setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_QuitOnClose, false);
     setFrameShape(QFrame::Box);
+    setNewestFirst();
     owner->installEventFilter(this);
     connect(this, &NoticeBar::closed, this, [this](int number) { dismissed_.insert(number); });
 }

@@ -15,8 +15,10 @@ class WindowNotice : public NoticeBar
     Q_OBJECT
 
 public:
-    explicit WindowNotice(QWidget* owner);
+    WindowNotice(QWidget* owner, std::set<int> dismissed);
 
+    // The numbers that were closed, for the one that takes its place on another window.
+    const std::set<int>& dismissed() const { return dismissed_; }
     // Null takes it away. One that was closed stays so until then.
     void say(int number, const std::function<Notice()>& notice);
 

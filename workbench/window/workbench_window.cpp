@@ -175,8 +175,8 @@ void WorkbenchWindow::connectNotices()
     linkNotices_ = std::make_unique<LinkNotices>(session_, windows_, log_, *status_, this);
     faults_ = std::make_unique<FaultsAtHand>(session_.tracker(), linkNotices_->answers(),
                                              commands_[Command::Faults]->shortcut(), this);
-    saveNotices_ = std::make_unique<SaveNotices>(pluginLog_, session_, *linkNotices_, windows_, *recent_,
-                                                 *status_, this);
+    saveNotices_ = std::make_unique<SaveNotices>(pluginLog_, session_, windows_, *recent_, *status_, this);
+    connect(saveNotices_.get(), &SaveNotices::ended, linkNotices_.get(), &LinkNotices::saveEnded);
     fileNotices_ = std::make_unique<FileNotices>(pluginLog_, *status_, this);
     connect(linkNotices_.get(), &LinkNotices::troubleChanged, this, [this] {
         device_->setTrouble(linkNotices_->trouble());

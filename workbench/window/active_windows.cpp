@@ -1,0 +1,44 @@
+#include "window/active_windows.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+
+namespace workbench {
+
+ActiveWindows::ActiveWindows(QObject* application) : QObject(application)
+{
+    application->installEventFilter(this);
+}
+
+ActiveWindows& ActiveWindows::instance()
+{
+    static QPointer<ActiveWindows> windows;
+    if (!windows)
+        windows = new ActiveWindows(QCoreApplication::instance());
+    return *windows;
+}
+
+QVector<QWidget*> ActiveWindows::latest() const
+{
+    QVector<QWidget*> windows;
+    for (const QPointer<QWidget>& window : windows_)
+        if (window && window->isVisible())
+            windows.prepend(window);
+    return windows;
+}
+
+bool ActiveWindows::eventFilter(QObject* object, QEvent* event)
+{
+    if (event->type() != QEvent::WindowActivate || !object->isWidgetType())
+        return false;
+    auto* window = static_cast<QWidget*>(object);
+    if (!window->isWindow() || window->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus))
+        return false;
+    windows_.removeAll(nullptr);
+    windows_.removeAll(window);
+    windows_.append(window);
+    Q_EMIT activated(window);
+    return false;
+}
+
+} // namespace workbench
