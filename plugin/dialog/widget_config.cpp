@@ -7,8 +7,8 @@
 #include "dialog/widget_config_light.h"
 #include "link/device.h"
 #include "link/requests.h"
-#include "windows/fit_to_screen.h"
 #include "typing/kept_palette.h"
+#include "windows/fit_to_screen.h"
 #include "xml/xml_document.h"
 
 #include <QFileInfo>

@@ -8,8 +8,8 @@
 #include "fuel/form_fuel_sensor.h"
 #include "fuel/question.h"
 #include "fuel/table/fuel_file.h"
-#include "windows/fit_to_screen.h"
 #include "typing/line_icon.h"
+#include "windows/fit_to_screen.h"
 
 namespace {
 

@@ -3,9 +3,9 @@
 #include "ui_VLK_Designer_Form_Config_System.h"
 
 #include "settings/system_settings.h"
+#include "typing/present_value.h"
 #include "windows/disabled_reason.h"
 #include "windows/page_style.h"
-#include "typing/present_value.h"
 #include "windows/wnd_config_full.h"
 #include "windows/zone_colors.h"
 

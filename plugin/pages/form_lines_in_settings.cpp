@@ -3,8 +3,8 @@
 #include "ui_VLK_Designer_Form_Lines_In_Settings.h"
 
 #include "settings/lines_in_settings.h"
-#include "windows/needed_height.h"
 #include "typing/present_value.h"
+#include "windows/needed_height.h"
 #include "windows/zone_colors.h"
 
 #include <QEvent>

@@ -5,8 +5,8 @@
 #include "base/clock.h"
 #include "link/requests.h"
 #include "telemetry/text/tachograph_answer.h"
-#include "typing/title_style.h"
 #include "typing/join_fields.h"
+#include "typing/title_style.h"
 #include "typing/typed_entry.h"
 #include "windows/fit_to_screen.h"
 

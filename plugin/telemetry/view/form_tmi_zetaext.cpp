@@ -1,8 +1,8 @@
 #include "telemetry/view/form_tmi_zetaext.h"
 
 #include "telemetry/text/key_text.h"
-#include "typing/title_style.h"
 #include "typing/table_look.h"
+#include "typing/title_style.h"
 
 #include <QGroupBox>
 #include <QHeaderView>

@@ -4,8 +4,8 @@
 #include "telemetry/view/item_display.h"
 #include "telemetry/view/value_label.h"
 #include "telemetry/view/value_width.h"
-#include "typing/title_style.h"
 #include "typing/present_value.h"
+#include "typing/title_style.h"
 
 #include <QCoreApplication>
 #include <QGridLayout>

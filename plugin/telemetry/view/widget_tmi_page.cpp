@@ -8,10 +8,10 @@
 #include "telemetry/view/stored_file.h"
 #include "telemetry/view/value_label.h"
 #include "typing/join_fields.h"
+#include "typing/line_icon.h"
 #include "typing/notice_bar.h"
 #include "typing/typed_entry.h"
 #include "windows/fit_to_screen.h"
-#include "typing/line_icon.h"
 
 #include <QDir>
 #include <QFileInfo>
