@@ -20,7 +20,7 @@ extern "C" int LLVMFuzzerInitialize(int*, char***)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const QByteArray document(reinterpret_cast<const char*>(data), static_cast<int>(size));
-    if (vlk::checkConfiguration(document, "R-7106"))
+    if (workbench::checkConfiguration(document, "R-7106"))
         return 0;
     const QDir memory("/dev/shm");
     static const QTemporaryDir folder((memory.exists() ? memory : QDir::temp()).filePath("fuzz_XXXXXX"));
