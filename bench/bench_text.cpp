@@ -40,7 +40,7 @@ std::vector<ItemIndex> itemsThat(auto&& belong)
 int print(const TmiPage_Zeta3& page, const Item& item, char (&buffer)[512])
 {
     const Rule& rule = item.rule();
-    const double number = page.number(item.element) * rule.times / rule.by;
+    const double number = measureOf(item, rule).of(page.number(item.element));
     if (rule.shape == Shape::fixed)
         return std::snprintf(buffer, sizeof buffer, "%.*f", rule.decimals, number);
     if (rule.shape == Shape::general)
