@@ -4,7 +4,8 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
-#include <QPalette>
+
+#include <utility>
 
 namespace vlk {
 
@@ -54,21 +55,19 @@ QPainterPath drawing(LineIcon icon)
     return path;
 }
 
-class LineIconEngine : public QIconEngine
+class DrawnIconEngine : public QIconEngine
 {
 public:
-    explicit LineIconEngine(const QPainterPath& path) : path_(path) {}
+    DrawnIconEngine(IconDrawing drawing, QPalette::ColorRole text) : drawing_(std::move(drawing)), text_(text)
+    {
+    }
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State /*state*/) override
     {
         const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        const QColor colour = QGuiApplication::palette().color(group, QPalette::ButtonText);
+        const auto role = mode == QIcon::Selected ? QPalette::HighlightedText : text_;
         painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->translate(rect.topLeft());
-        painter->scale(rect.width() / qreal{kGrid}, rect.height() / qreal{kGrid});
-        painter->setPen(QPen(colour, kStroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter->drawPath(path_);
+        drawing_(*painter, rect, QGuiApplication::palette().color(group, role));
         painter->restore();
     }
 
@@ -81,17 +80,30 @@ public:
         return pixmap;
     }
 
-    QIconEngine* clone() const override { return new LineIconEngine(path_); }
+    QIconEngine* clone() const override { return new DrawnIconEngine(drawing_, text_); }
 
 private:
-    QPainterPath path_;
+    const IconDrawing drawing_;
+    const QPalette::ColorRole text_;
 };
 
 } // namespace
 
+QIcon drawnIcon(IconDrawing drawing, QPalette::ColorRole text)
+{
+    return QIcon(new DrawnIconEngine(std::move(drawing), text));
+}
+
 QIcon lineIcon(LineIcon which)
 {
-    return QIcon(new LineIconEngine(drawing(which)));
+    const auto draw = [path = drawing(which)](QPainter& painter, const QRect& rect, const QColor& colour) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.translate(rect.topLeft());
+        painter.scale(rect.width() / qreal{kGrid}, rect.height() / qreal{kGrid});
+        painter.setPen(QPen(colour, kStroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.drawPath(path);
+    };
+    return drawnIcon(draw, QPalette::ButtonText);
 }
 
 } // namespace vlk

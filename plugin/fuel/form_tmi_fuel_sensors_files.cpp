@@ -48,28 +48,27 @@ void VLK_Form_TMI_Fuel_Sensors::tellOfTable()
         fileOf_[sensor].clear();
         cutIn_[sensor] = 0;
     }
-    if (form && !fileOf_[sensor].isEmpty())
-        bar_->tell(kFileOfOther, {Mark::advice, tr("cfgt6_412").arg(fileOf_[sensor], form->name()), {}});
-    else
-        bar_->end(kFileOfOther);
+    if (!form) {
+        for (const auto number : {kFileOfOther, kCut, kFlaw, kEdited})
+            bar_->end(number);
+        return;
+    }
     const Notice::Action saveAll{ui_->pushButton_Save_Excel->text(),
                                  [this] { slot_pressed_Btn_Save_Excel(); }};
-    if (form && cutIn_[sensor] > 0)
-        bar_->tell(kCut, {Mark::advice, tr("tmiw_264").arg(cutIn_[sensor]), {saveAll}});
-    else
-        bar_->end(kCut);
-    const std::optional<FuelFlaw> flaw = form ? firstFlaw(form->rows()) : std::nullopt;
-    if (flaw)
-        bar_->tell(kFlaw, {Mark::invalid,
-                           tr("tmiw_265").arg(QString::number(flaw->row + 1), flaw->text.left(kQuoted)),
-                           {}});
-    else
-        bar_->end(kFlaw);
     const Notice::Action save{ui_->pushButton_Save_Xml->text(), [this] { slot_pressed_Btn_Save_Xml(); }};
-    if (form && form->isEdited())
-        bar_->tell(kEdited, {Mark::changed, tr("cfgt6_404"), {save}});
-    else
-        bar_->end(kEdited);
+    const FuelFlaw flaw = firstFlaw(form->rows()).value_or(FuelFlaw{-1, {}});
+    const auto tell = [this](NoticeNumber number, bool holds, const Notice& notice) {
+        if (holds)
+            bar_->tell(number, notice);
+        else
+            bar_->end(number);
+    };
+    tell(kFileOfOther, !fileOf_[sensor].isEmpty(),
+         {Mark::advice, tr("cfgt6_412").arg(fileOf_[sensor], form->name()), {}});
+    tell(kCut, cutIn_[sensor] > 0, {Mark::advice, tr("tmiw_264").arg(cutIn_[sensor]), {saveAll}});
+    tell(kFlaw, flaw.row >= 0,
+         {Mark::invalid, tr("tmiw_265").arg(QString::number(flaw.row + 1), flaw.text.left(kQuoted)), {}});
+    tell(kEdited, form->isEdited(), {Mark::changed, tr("cfgt6_404"), {save}});
 }
 
 void VLK_Form_TMI_Fuel_Sensors::forgetNotice(int number)

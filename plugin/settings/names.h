@@ -89,12 +89,16 @@ public:
     {
         for (std::size_t i = 0; i < text.size(); ++i) {
             const bool mark = text[i] == '%' && i + 1 < text.size();
-            if (mark && text[i + 1] == '1' && numbers_.outer > 0)
-                addNumber(numbers_.outer), ++i;
-            else if (mark && text[i + 1] == '2' && numbers_.inner > 0)
-                addNumber(numbers_.inner), ++i;
-            else
+            const int number = !mark                ? 0
+                               : text[i + 1] == '1' ? numbers_.outer
+                               : text[i + 1] == '2' ? numbers_.inner
+                                                    : 0;
+            if (number > 0) {
+                addNumber(number);
+                ++i;
+            } else {
                 addSign(text[i]);
+            }
         }
         return *this;
     }

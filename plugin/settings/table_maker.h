@@ -167,10 +167,13 @@ private:
 constexpr void findIn(Setting& setting, const auto& find)
 {
     std::visit([&](auto& row) { find(row.present); }, setting.kind);
-    if (auto* group = std::get_if<Group>(&setting.kind))
-        find(group->presentToo), find(group->readable), find(group->readableToo);
-    else if (auto* link = std::get_if<Link>(&setting.kind))
+    if (auto* group = std::get_if<Group>(&setting.kind)) {
+        find(group->presentToo);
+        find(group->readable);
+        find(group->readableToo);
+    } else if (auto* link = std::get_if<Link>(&setting.kind)) {
         find(link->target);
+    }
 }
 
 template <std::size_t n>

@@ -95,7 +95,7 @@ void CommandBars::buildAppearances(QMenu* menu)
         action->setChecked(settings_.appearance() == appearance);
         connect(action, &QAction::triggered, this, [this, appearance] {
             settings_.setAppearance(appearance);
-            workbench::apply(appearance);
+            apply(appearance);
         });
     }
 }
@@ -103,7 +103,7 @@ void CommandBars::buildAppearances(QMenu* menu)
 void CommandBars::setLanguagesOffered(bool offered)
 {
     languageChoice_->setEnabled(offered);
-    const QString why = offered ? QString() : workbench::text("wb_language_later");
+    const QString why = offered ? QString() : text("wb_language_later");
     for (QAction* action : languageChoice_->actions()) {
         action->setToolTip(why);
         action->setStatusTip(why);
@@ -139,10 +139,10 @@ QComboBox* CommandBars::buildWindowChoice()
     choice->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     choice->addItems({QString(), QString()});
     texts_.bind([choice] {
-        choice->setItemText(0, workbench::text("wb_window_full"));
-        choice->setItemText(1, workbench::text("wb_window_quick"));
-        choice->setToolTip(workbench::text("wb_window"));
-        choice->setAccessibleName(workbench::text("wb_window"));
+        choice->setItemText(0, text("wb_window_full"));
+        choice->setItemText(1, text("wb_window_quick"));
+        choice->setToolTip(text("wb_window"));
+        choice->setAccessibleName(text("wb_window"));
     });
     choice->setCurrentIndex(settings_.fullWindow() ? 0 : 1);
     connect(choice, QOverload<int>::of(&QComboBox::activated), this,

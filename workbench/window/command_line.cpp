@@ -33,11 +33,10 @@ constexpr OptionRow options[] = {
 void addOptions(QCommandLineParser& parser)
 {
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, workbench::text("wb_option_help")});
-    parser.addOption(
-        {{QStringLiteral("v"), QStringLiteral("version")}, workbench::text("wb_option_version")});
+    parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, text("wb_option_help")});
+    parser.addOption({{QStringLiteral("v"), QStringLiteral("version")}, text("wb_option_version")});
     for (const OptionRow& row : options) {
-        QCommandLineOption option(QLatin1String(row.name), row.key ? workbench::text(row.key) : QString(),
+        QCommandLineOption option(QLatin1String(row.name), row.key ? text(row.key) : QString(),
                                   QLatin1String(row.value));
         if (!row.key)
             option.setFlags(QCommandLineOption::HiddenFromHelp);
@@ -65,11 +64,11 @@ CommandLine CommandLine::parse(const QStringList& arguments)
 {
     QCommandLineParser parser;
     addOptions(parser);
-    parser.setApplicationDescription(workbench::text("wb_description"));
+    parser.setApplicationDescription(text("wb_description"));
 
     CommandLine line;
     const auto refuse = [&line](const QString& message) {
-        line.message = message + QLatin1Char('\n') + workbench::text("wb_option_see_help");
+        line.message = message + QLatin1Char('\n') + text("wb_option_see_help");
         line.exitCode = 2;
         return line;
     };
@@ -87,28 +86,28 @@ CommandLine CommandLine::parse(const QStringList& arguments)
         return line;
     }
     if (!parser.positionalArguments().isEmpty())
-        return refuse(workbench::text("wb_option_unexpected").arg(parser.positionalArguments().first()));
+        return refuse(text("wb_option_unexpected").arg(parser.positionalArguments().first()));
 
     if (parser.isSet(QStringLiteral("language"))) {
         line.language = value(parser, "language");
         if (!Languages::isKnown(*line.language))
-            return refuse(workbench::text("wb_option_bad_language").arg(*line.language));
+            return refuse(text("wb_option_bad_language").arg(*line.language));
     }
     if (parser.isSet(QStringLiteral("mode"))) {
         bool isNumber = false;
         line.mode = value(parser, "mode").toInt(&isNumber);
         if (!isNumber || *line.mode < 0 || *line.mode > 2)
-            return refuse(workbench::text("wb_option_bad_mode").arg(value(parser, "mode")));
+            return refuse(text("wb_option_bad_mode").arg(value(parser, "mode")));
     }
     for (auto [name, target] : {std::pair("open", &line.open), {"data", &line.data}, {"tour", &line.tour}}) {
         if (!parser.isSet(QLatin1String(name)))
             continue;
         if (value(parser, name).isEmpty())
-            return refuse(workbench::text("wb_option_empty").arg(QLatin1String(name)));
+            return refuse(text("wb_option_empty").arg(QLatin1String(name)));
         *target = QFileInfo(value(parser, name)).absoluteFilePath();
     }
     if (!line.open.isEmpty() && !QFileInfo(line.open).isFile())
-        return refuse(workbench::text("wb_file_missing").arg(line.open));
+        return refuse(text("wb_file_missing").arg(line.open));
     return line;
 }
 

@@ -41,7 +41,7 @@ static_assert(std::size(rows) == std::size_t(Command::Count));
 Commands::Commands(QWidget* parent)
 {
     for (const CommandRow& row : rows) {
-        auto* action = new QAction(workbench::lineIcon(QLatin1String(row.icon)), {}, parent);
+        auto* action = new QAction(lineIcon(QLatin1String(row.icon)), {}, parent);
         action->setObjectName(QLatin1String(row.name));
         action->setShortcut(QKeySequence(QLatin1String(row.shortcut)));
         actions_[std::size_t(row.command)] = action;
@@ -56,9 +56,9 @@ void Commands::retranslate()
 {
     for (const CommandRow& row : rows) {
         QAction* action = (*this)[row.command];
-        action->setText(workbench::text(row.key));
-        action->setIconText(workbench::plainText(row.shortKey));
-        QString tip = workbench::plainText(row.key).remove(QStringLiteral("…"));
+        action->setText(text(row.key));
+        action->setIconText(plainText(row.shortKey));
+        QString tip = plainText(row.key).remove(QStringLiteral("…"));
         if (!action->shortcut().isEmpty())
             tip += QStringLiteral(" (%1)").arg(action->shortcut().toString(QKeySequence::NativeText));
         action->setToolTip(tip);

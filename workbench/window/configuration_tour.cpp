@@ -11,24 +11,26 @@
 #include <QTabWidget>
 #include <QTcpServer>
 
+namespace workbench {
+
 namespace {
 
-void loadPlugin(workbench::Tour& tour)
+void loadPlugin(Tour& tour)
 {
-    const workbench::PluginLink& link = tour.window().session().link();
-    workbench::Tour::expect(link.isLoaded(), link.error());
+    const PluginLink& link = tour.window().session().link();
+    Tour::expect(link.isLoaded(), link.error());
     tour.picture(QStringLiteral("start.png"), &tour.window());
 }
 
-void takePictures(workbench::Tour& tour)
+void takePictures(Tour& tour)
 {
-    auto* tabs = workbench::Tour::find<QTabWidget>("tabWidget_Main");
-    auto* pages = workbench::Tour::find<QTabWidget>("tabWidget");
+    auto* tabs = Tour::find<QTabWidget>("tabWidget_Main");
+    auto* pages = Tour::find<QTabWidget>("tabWidget");
     pages->setCurrentIndex(0);
-    for (const QString& code : workbench::Languages::codes()) {
+    for (const QString& code : Languages::codes()) {
         tour.window().setLanguage(code);
         tour.picture(QStringLiteral("transfer-%1.png").arg(code),
-                     workbench::Tour::find<QLineEdit>("lineEdit_Name")->window());
+                     Tour::find<QLineEdit>("lineEdit_Name")->window());
         for (int page = pages->count() - 1; page >= 0; --page) {
             pages->setCurrentIndex(page);
             tour.picture(QStringLiteral("page-%1-%2.png").arg(code).arg(page + 1), pages->window());
@@ -41,29 +43,29 @@ void takePictures(workbench::Tour& tour)
 }
 
 // What the page opens beside itself, and its lower end, in both languages.
-void lookAround(workbench::Tour& tour)
+void lookAround(Tour& tour)
 {
-    auto* operators = workbench::Tour::find<QComboBox>("Transfer_comboBox_GSM_Operator_1");
+    auto* operators = Tour::find<QComboBox>("Transfer_comboBox_GSM_Operator_1");
     QWidget* page = operators;
     while (qobject_cast<QScrollArea*>(page) == nullptr && page->parentWidget() != nullptr)
         page = page->parentWidget();
     auto* area = qobject_cast<QScrollArea*>(page);
-    workbench::Tour::expect(area != nullptr, QStringLiteral("the page does not scroll"));
+    Tour::expect(area != nullptr, QStringLiteral("the page does not scroll"));
     const auto photograph = [&tour](const char* name, const QString& picture) {
-        tour.waitFor([name] { return workbench::Tour::findVisible(name); }, QLatin1String(name));
-        QWidget* window = workbench::Tour::findVisible(name)->window();
+        tour.waitFor([name] { return Tour::findVisible(name); }, QLatin1String(name));
+        QWidget* window = Tour::findVisible(name)->window();
         tour.picture(picture, window);
         window->close();
     };
-    for (const QString& code : workbench::Languages::codes()) {
+    for (const QString& code : Languages::codes()) {
         tour.window().setLanguage(code);
         // Automatic: the last but the one for the user's own access point.
         operators->setCurrentIndex(operators->count() - 2);
-        workbench::Tour::press("pushButton_AutoAPN_1");
+        Tour::press("pushButton_AutoAPN_1");
         photograph("treeWidget_ListApn", QStringLiteral("operators-%1.png").arg(code));
-        workbench::Tour::press("pushButton_RListOperSim_1");
+        Tour::press("pushButton_RListOperSim_1");
         photograph("treeWidget_List", QStringLiteral("roaming-%1.png").arg(code));
-        workbench::Tour::press("pushButton_Help");
+        Tour::press("pushButton_Help");
         photograph("textBrowser_Help", QStringLiteral("help-%1.png").arg(code));
         area->ensureVisible(0, area->widget()->height());
         tour.picture(QStringLiteral("transfer-end-%1.png").arg(code), area->window());
@@ -72,17 +74,17 @@ void lookAround(workbench::Tour& tour)
 }
 
 // Every item of a list that shows a form of its own, in both languages; the item before comes back.
-void walkItems(workbench::Tour& tour, const char* name, const char* picture)
+void walkItems(Tour& tour, const char* name, const char* picture)
 {
-    auto* pages = workbench::Tour::find<QTabWidget>("tabWidget");
+    auto* pages = Tour::find<QTabWidget>("tabWidget");
     const int before = pages->currentIndex();
-    for (int page = 0; page < pages->count() && !workbench::Tour::findVisible(name); ++page)
+    for (int page = 0; page < pages->count() && !Tour::findVisible(name); ++page)
         pages->setCurrentIndex(page);
-    auto* list = workbench::Tour::find<QComboBox>(name);
+    auto* list = Tour::find<QComboBox>(name);
     const int current = list->currentIndex();
     if (auto* area = qobject_cast<QScrollArea*>(pages->currentWidget()))
         area->ensureWidgetVisible(list->parentWidget());
-    for (const QString& code : workbench::Languages::codes()) {
+    for (const QString& code : Languages::codes()) {
         tour.window().setLanguage(code);
         for (int item = 0; item < list->count(); ++item) {
             list->setCurrentIndex(item);
@@ -98,35 +100,32 @@ void walkItems(workbench::Tour& tour, const char* name, const char* picture)
 }
 
 // A server of this machine, found by its address, so that no name has to be looked up.
-void testServer(workbench::Tour& tour)
+void testServer(Tour& tour)
 {
     QTcpServer server;
-    workbench::Tour::expect(server.listen(QHostAddress::LocalHost), server.errorString());
-    workbench::Tour::type(workbench::Tour::find<QLineEdit>("GPRSSrv_lineEdit_IP_DNS_Main"),
-                          server.serverAddress().toString(), Qt::Key_Tab);
-    workbench::Tour::type(workbench::Tour::find<QSpinBox>("GPRSSrv_spinBox_Port_Main"),
-                          QString::number(server.serverPort()), Qt::Key_Enter);
+    Tour::expect(server.listen(QHostAddress::LocalHost), server.errorString());
+    Tour::type(Tour::find<QLineEdit>("GPRSSrv_lineEdit_IP_DNS_Main"), server.serverAddress().toString(),
+               Qt::Key_Tab);
+    Tour::type(Tour::find<QSpinBox>("GPRSSrv_spinBox_Port_Main"), QString::number(server.serverPort()),
+               Qt::Key_Enter);
     QString answer;
     tour.whenModal<QMessageBox>([&](QMessageBox& box) {
         tour.picture(QStringLiteral("server-test.png"), &box);
         answer = box.text();
         box.accept();
     });
-    workbench::Tour::press("GPRSSrv_toolButton_Test_Main");
+    Tour::press("GPRSSrv_toolButton_Test_Main");
     tour.waitFor([&answer] { return !answer.isEmpty(); }, QStringLiteral("the answer of a server test"),
                  60'000);
 }
 
-void closeWindow(workbench::Tour& tour)
+void closeWindow(Tour& tour)
 {
     tour.window().session().link().send(vlk::Message::CloseWindows);
-    tour.waitFor([] { return !workbench::Tour::findVisible("lineEdit_Name"); },
-                 QStringLiteral("the end of the window"));
+    tour.waitFor([] { return !Tour::findVisible("lineEdit_Name"); }, QStringLiteral("the end of the window"));
 }
 
 } // namespace
-
-namespace workbench {
 
 std::vector<Tour::Step> configurationTour()
 {

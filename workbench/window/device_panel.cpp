@@ -49,7 +49,7 @@ DevicePanel::DevicePanel(HostSession& session, QWidget* parent)
     mode_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     mode_->setMinimumContentsLength(12);
     for (const char* key : modeKeys)
-        mode_->addItem(workbench::text(key));
+        mode_->addItem(text(key));
     auto* modeLabel = texts_.bind(new QLabel(this), "wb_mode");
     modeLabel->setBuddy(mode_);
     form->addRow(modeLabel, mode_);
@@ -97,7 +97,7 @@ void DevicePanel::refresh()
     const bool attached = tracker.attached();
     const Mark mark = !attached ? Mark::invalid : trouble_->text().isEmpty() ? Mark::right : Mark::advice;
     symbol_->setPixmap(vlk::markPixmap(mark, palette(), vlk::markSize, devicePixelRatioF()));
-    state_->setText(workbench::text(attached ? "wb_device_attached" : "wb_device_detached"));
+    state_->setText(text(attached ? "wb_device_attached" : "wb_device_detached"));
     const QString none = QStringLiteral("–");
     model_->setText(attached ? tracker.model() : none);
     text1_->setText(attached ? tracker.text1() : none);
@@ -106,7 +106,7 @@ void DevicePanel::refresh()
         attached ? QStringLiteral("0x%1").arg(tracker.capabilityMask(), 16, 16, QLatin1Char('0')) : none);
     const PluginLink& link = session_.link();
     plugin_->setText(link.isLoaded() ? QStringLiteral("%1, %2").arg(link.displayName(), link.version())
-                                     : workbench::text("wb_device_no_plugin"));
+                                     : text("wb_device_no_plugin"));
 }
 
 // The mark follows the colours of the window.
@@ -122,7 +122,7 @@ void DevicePanel::retranslate()
     texts_.apply();
     int mode = 0;
     for (const char* key : modeKeys)
-        mode_->setItemText(mode++, workbench::text(key));
+        mode_->setItemText(mode++, text(key));
     refresh();
 }
 

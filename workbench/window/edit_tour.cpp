@@ -16,10 +16,11 @@
 #include <algorithm>
 #include <memory>
 
+namespace workbench {
+
 namespace {
 
 using tracker::ConfigurationValues;
-using workbench::Tour;
 
 enum Page { Transfer, DataSet, Track, System, Serial, Temperature, LinesIn, Accel, LinesOut, Bluetooth };
 
@@ -155,12 +156,12 @@ void writeTracker(Tour& tour, Notebook& book)
 {
     QObject context;
     QObject::connect(
-        &tour.window().session(), &workbench::HostSession::configurationWritten, &context,
+        &tour.window().session(), &HostSession::configurationWritten, &context,
         [&book](const tracker::WriteReport& r) { book.report = std::make_unique<tracker::WriteReport>(r); });
     Tour::press("pushButton_LoadToDevice");
     tour.waitFor([&book] { return book.report != nullptr; }, QStringLiteral("the tracker's report"));
-    tour.save(QStringLiteral("report.txt"), workbench::plainText(*book.report).toUtf8());
-    Tour::expect(book.report->accepted, workbench::summary(*book.report));
+    tour.save(QStringLiteral("report.txt"), plainText(*book.report).toUtf8());
+    Tour::expect(book.report->accepted, summary(*book.report));
     Tour::expect(!QFile::exists(book.report->file),
                  QStringLiteral("the written file was left behind: %1").arg(book.report->file));
     if (QWidget* dialog = Tour::findVisible("dialog_Report")) {
@@ -233,8 +234,6 @@ void saveReadBack(Tour& tour, const Notebook& book)
 }
 
 } // namespace
-
-namespace workbench {
 
 std::vector<Tour::Step> editTour()
 {

@@ -64,10 +64,10 @@ QString EditedConfiguration::text() const
     if (source_ == Source::None)
         return QStringLiteral("–");
     if (written_)
-        return workbench::text("wb_edited_written").arg(name(), workbench::number(*written_));
+        return workbench::text("wb_edited_written").arg(name(), number(*written_));
     if (source_ == Source::File && tracker_)
         return workbench::text("wb_edited_unlike")
-            .arg(name(), workbench::number(tracker::differingKeys(asRead_, *tracker_)));
+            .arg(name(), number(tracker::differingKeys(asRead_, *tracker_)));
     return name();
 }
 

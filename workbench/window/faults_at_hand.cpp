@@ -91,7 +91,7 @@ void FaultsAtHand::toggle()
         return;
     }
     wanted_ = true;
-    windowOf(workbench::windowInFront(mainWindow_))->comeUp(true);
+    windowOf(windowInFront(mainWindow_))->comeUp(true);
 }
 
 void FaultsAtHand::setTrouble(const QString& text)

@@ -88,7 +88,7 @@ void FaultsPanel::addDelay(QVBoxLayout* column)
     delay->setRange(0, longestDelayMs);
     delay->setSingleStep(100);
     vlk::NumberEntry::join(delay);
-    texts_.bind([delay] { delay->setSuffix(QLatin1Char(' ') + workbench::text("abbr_040")); });
+    texts_.bind([delay] { delay->setSuffix(QLatin1Char(' ') + text("abbr_040")); });
     connect(delay, QOverload<int>::of(&QSpinBox::valueChanged), this,
             [this](int ms) { change(&Faults::delayMs, ms); });
     states_.emplace_back([this, delay] {
@@ -106,7 +106,7 @@ void FaultsPanel::addDelay(QVBoxLayout* column)
 void FaultsPanel::refresh()
 {
     // Without a letter: the panel also stands in a window over others that have letters of their own.
-    cable_->setText(workbench::plainText(tracker_.attached() ? "wb_detach" : "wb_attach"));
+    cable_->setText(plainText(tracker_.attached() ? "wb_detach" : "wb_attach"));
     for (const auto& set : states_)
         set();
 }

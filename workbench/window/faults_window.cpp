@@ -22,10 +22,10 @@ FaultsWindow::FaultsWindow(tracker::SimulatedTracker& tracker, QWidget* owner)
     trouble_->setWordWrap(true);
     trouble_->hide();
     auto* column = new QVBoxLayout(this);
-    column->addWidget(workbench::scrolling(panel_), 1);
+    column->addWidget(scrolling(panel_), 1);
     column->addWidget(trouble_);
     retranslate();
-    workbench::resizeWithin(this, sizeHint());
+    resizeWithin(this, sizeHint());
 }
 
 void FaultsWindow::setTrouble(const QString& text)
@@ -42,7 +42,7 @@ void FaultsWindow::grow()
     const int width = qMax(this->width(), sizeHint().width());
     const int height =
         layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width) : sizeHint().height();
-    workbench::resizeWithin(this, QSize(width, height).expandedTo(size()));
+    resizeWithin(this, QSize(width, height).expandedTo(size()));
 }
 
 void FaultsWindow::retranslate()
@@ -87,11 +87,11 @@ void FaultsWindow::place()
 {
     const QWidget& owner = *parentWidget();
     const QRect room = owner.screen() ? owner.screen()->availableGeometry() : owner.frameGeometry();
-    workbench::resizeWithin(this, size());
+    resizeWithin(this, size());
     const QPoint beside = owner.frameGeometry().topRight() + QPoint(1, 0);
     // Over the owner it leaves free what stands at its upper and lower edge.
     const QPoint over(room.right(), room.center().y() - height() / 2);
-    workbench::moveWithin(this, fitsBeside(owner) ? beside : over);
+    moveWithin(this, fitsBeside(owner) ? beside : over);
 }
 
 } // namespace workbench

@@ -44,12 +44,12 @@ void FileNotices::tell()
         for (const auto& [category, message] : noted.mid(0, mostLines))
             lines.append(PluginLog::words(category, message));
         if (noted.size() > mostLines)
-            lines.append(workbench::text("wb_told_more").arg(workbench::number(noted.size() - mostLines)));
+            lines.append(text("wb_told_more").arg(number(noted.size() - mostLines)));
         return lines.join(QLatin1Char('\n'));
     };
     status_.tell(StatusLine::Command, sentence);
     if (std::exchange(needsBox_, false))
-        workbench::showWarning(sentence(), mainWindow_);
+        showWarning(sentence(), mainWindow_);
 }
 
 } // namespace workbench

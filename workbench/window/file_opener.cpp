@@ -21,10 +21,10 @@ void FileOpener::open(const QString& path, TelemetryWindow window)
 {
     if (!QFileInfo(path).isFile()) {
         recent_.remove(path);
-        Q_EMIT failed(workbench::text("wb_file_missing").arg(path));
+        Q_EMIT failed(text("wb_file_missing").arg(path));
         return;
     }
-    if (workbench::storedFileKind(path) == StoredFile::Telemetry)
+    if (storedFileKind(path) == StoredFile::Telemetry)
         openTelemetry(path, window);
     else
         openConfiguration(path, window);
@@ -32,39 +32,38 @@ void FileOpener::open(const QString& path, TelemetryWindow window)
 
 void FileOpener::chooseConfiguration()
 {
-    const QString path = QFileDialog::getOpenFileName(
-        mainWindow_, workbench::text("wb_open_caption"), settings_.configurationFolder(),
-        workbench::text("wb_type_configuration") + QStringLiteral(" (*.xml)"));
+    const QString path =
+        QFileDialog::getOpenFileName(mainWindow_, text("wb_open_caption"), settings_.configurationFolder(),
+                                     text("wb_type_configuration") + QStringLiteral(" (*.xml)"));
     if (!path.isEmpty())
         open(path, TelemetryWindow::Browser);
 }
 
 void FileOpener::chooseTelemetry(TelemetryWindow window)
 {
-    const QString path = QFileDialog::getOpenFileName(
-        mainWindow_, workbench::text("wb_browse_caption"), settings_.telemetryFolder(),
-        workbench::text("wb_type_telemetry") + QStringLiteral(" (*.xml *.tmi)"));
+    const QString path =
+        QFileDialog::getOpenFileName(mainWindow_, text("wb_browse_caption"), settings_.telemetryFolder(),
+                                     text("wb_type_telemetry") + QStringLiteral(" (*.xml *.tmi)"));
     if (path.isEmpty())
         return;
-    switch (workbench::storedFileKind(path)) {
+    switch (storedFileKind(path)) {
     case StoredFile::Telemetry:
         openTelemetry(path, window);
         break;
     case StoredFile::Configuration:
-        Q_EMIT failed(workbench::text("wb_file_no_telemetry").arg(path));
+        Q_EMIT failed(text("wb_file_no_telemetry").arg(path));
         break;
     case StoredFile::Unknown:
-        Q_EMIT failed(workbench::text("wb_file_unknown").arg(path));
+        Q_EMIT failed(text("wb_file_unknown").arg(path));
         break;
     }
 }
 
 void FileOpener::openTelemetry(const QString& path, TelemetryWindow window)
 {
-    if (const auto problem = workbench::checkTelemetryFile(path)) {
+    if (const auto problem = checkTelemetryFile(path)) {
         Q_EMIT failed(
-            workbench::sentences({workbench::text("wb_open_failed").arg(path), workbench::reasonOf(*problem),
-                                  workbench::text("wb_do_telemetry_file")}));
+            sentences({text("wb_open_failed").arg(path), reasonOf(*problem), text("wb_do_telemetry_file")}));
         return;
     }
     recent_.add(path, window);

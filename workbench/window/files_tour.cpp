@@ -13,6 +13,8 @@
 #include <QSlider>
 #include <QTableView>
 
+namespace workbench {
+
 namespace {
 
 // Records of a long save before it is cancelled.
@@ -22,8 +24,8 @@ const QString kPart = QStringLiteral("part.xml");
 void setPeriod(const QDateTime& first, const QDateTime& last)
 {
     live::showFunctions();
-    workbench::Tour::find<QDateTimeEdit>("dateTimeEdit_First")->setDateTime(first);
-    workbench::Tour::find<QDateTimeEdit>("dateTimeEdit_Last")->setDateTime(last);
+    Tour::find<QDateTimeEdit>("dateTimeEdit_First")->setDateTime(first);
+    Tour::find<QDateTimeEdit>("dateTimeEdit_Last")->setDateTime(last);
 }
 
 // Of the record on show, as the window's zone has it, which the fields of the period have too.
@@ -32,33 +34,33 @@ QDateTime timeOnShow()
     const QString format = QStringLiteral("HH:mm:ss dd.MM.yyyy");
     QDateTime time =
         QDateTime::fromString(live::textOf("label_Event_DateTime_Value").left(format.size()), format);
-    workbench::Tour::expect(time.isValid(), QStringLiteral("the event panel shows no time"));
-    time.setTimeSpec(workbench::Tour::find<QDateTimeEdit>("dateTimeEdit_Show")->dateTime().timeSpec());
+    Tour::expect(time.isValid(), QStringLiteral("the event panel shows no time"));
+    time.setTimeSpec(Tour::find<QDateTimeEdit>("dateTimeEdit_Show")->dateTime().timeSpec());
     return time;
 }
 
 bool isSaving()
 {
-    return workbench::Tour::findVisible("pushButton_Save_Cancel") != nullptr;
+    return Tour::findVisible("pushButton_Save_Cancel") != nullptr;
 }
 
 // Starts a save and gives its file the name when the dialog asks for it.
-void startSave(workbench::Tour& tour, const char* button, const QString& name)
+void startSave(Tour& tour, const char* button, const QString& name)
 {
     const QString path = tour.folder().filePath(name);
     QFile::remove(path);
-    tour.whenModal<QFileDialog>([path](QFileDialog& dialog) { workbench::Tour::giveName(dialog, path); });
-    workbench::Tour::press(button);
+    tour.whenModal<QFileDialog>([path](QFileDialog& dialog) { Tour::giveName(dialog, path); });
+    Tour::press(button);
 }
 
-QByteArray fileIn(const workbench::Tour& tour, const QString& name)
+QByteArray fileIn(const Tour& tour, const QString& name)
 {
     QFile file(tour.folder().filePath(name));
-    workbench::Tour::expect(file.open(QIODevice::ReadOnly), QStringLiteral("%1 was not saved").arg(name));
+    Tour::expect(file.open(QIODevice::ReadOnly), QStringLiteral("%1 was not saved").arg(name));
     return file.readAll();
 }
 
-void savePeriod(workbench::Tour& tour)
+void savePeriod(Tour& tour)
 {
     tour.window().setLanguage(QStringLiteral("en"));
     live::open(tour);
@@ -79,11 +81,11 @@ void savePeriod(workbench::Tour& tour)
         tour.waitFor([&] { return !isSaving() && QFile::exists(tour.folder().filePath(name)); },
                      QStringLiteral("a file of two records"));
     }
-    workbench::Tour::expect(fileIn(tour, QStringLiteral("two.xml")).count("<NumPage>") == 2,
-                            QStringLiteral("two.xml has not two records"));
+    Tour::expect(fileIn(tour, QStringLiteral("two.xml")).count("<NumPage>") == 2,
+                 QStringLiteral("two.xml has not two records"));
 }
 
-void refuseOneRecord(workbench::Tour& tour)
+void refuseOneRecord(Tour& tour)
 {
     const QDateTime time = timeOnShow();
     setPeriod(time, time.addSecs(1));
@@ -93,72 +95,67 @@ void refuseOneRecord(workbench::Tour& tour)
         told = box.text();
         box.accept();
     });
-    workbench::Tour::press("pushButton_SaveToFile");
+    Tour::press("pushButton_SaveToFile");
     tour.waitFor([&] { return !told.isEmpty() && !isSaving(); }, QStringLiteral("a refusal"));
 }
 
 // Weeks of records, of which a cancel keeps what came.
-void saveAndCancel(workbench::Tour& tour)
+void saveAndCancel(Tour& tour)
 {
     const QDateTime last = timeOnShow();
     setPeriod(last.addDays(-20), last);
     startSave(tour, "pushButton_SaveToFile", kPart);
     const auto came = [] {
-        auto* bar = qobject_cast<QProgressBar*>(workbench::Tour::findVisible("progressBar_Time"));
+        auto* bar = qobject_cast<QProgressBar*>(Tour::findVisible("progressBar_Time"));
         return bar != nullptr && bar->maximum() > 1000 && bar->value() >= kEnough;
     };
     tour.waitFor(came, QStringLiteral("the progress of a long save"), 60'000);
     tour.picture(QStringLiteral("saving.png"), live::window());
-    workbench::Tour::press("pushButton_Save_Cancel");
+    Tour::press("pushButton_Save_Cancel");
     tour.waitFor([] { return !isSaving(); }, QStringLiteral("the end of a cancelled save"));
-    workbench::Tour::expect(fileIn(tour, kPart).count("<Page") >= kEnough,
-                            QStringLiteral("the cancel lost records"));
+    Tour::expect(fileIn(tour, kPart).count("<Page") >= kEnough, QStringLiteral("the cancel lost records"));
     live::close(tour);
 }
 
-void browse(workbench::Tour& tour)
+void browse(Tour& tour)
 {
     for (const QString& name : {QStringLiteral("two.tmi"), kPart}) {
         tour.window().openFile(tour.folder().filePath(name));
-        tour.waitFor([] { return workbench::Tour::findVisible("horizontalSlider"); },
-                     QStringLiteral("the browser"));
-        const int records = workbench::Tour::find<QSlider>("horizontalSlider")->maximum();
-        workbench::Tour::expect(records >= 1, QStringLiteral("%1 shows no records").arg(name));
+        tour.waitFor([] { return Tour::findVisible("horizontalSlider"); }, QStringLiteral("the browser"));
+        const int records = Tour::find<QSlider>("horizontalSlider")->maximum();
+        Tour::expect(records >= 1, QStringLiteral("%1 shows no records").arg(name));
     }
-    auto* slider = workbench::Tour::find<QSlider>("horizontalSlider");
+    auto* slider = Tour::find<QSlider>("horizontalSlider");
     const QString first = live::number();
     // The slider runs by record numbers; behind the records that came before the cancel it has nothing to
     // show.
     slider->setValue(kEnough / 2);
-    workbench::Tour::expect(live::number() != first, QStringLiteral("the slider moves nothing"));
+    Tour::expect(live::number() != first, QStringLiteral("the slider moves nothing"));
     for (const QString& code : {QStringLiteral("ru"), QStringLiteral("en")}) {
         tour.window().setLanguage(code);
         tour.picture(QStringLiteral("browser-%1.png").arg(code), slider->window());
     }
-    workbench::Tour::press("pushButton_Close");
+    Tour::press("pushButton_Close");
 }
 
-void showTable(workbench::Tour& tour)
+void showTable(Tour& tour)
 {
-    tour.window().openFile(tour.folder().filePath(kPart), workbench::TelemetryWindow::Table);
-    tour.waitFor([] { return workbench::Tour::findVisible("tableWidget"); }, QStringLiteral("the table"));
-    auto* table = workbench::Tour::find<QTableView>("tableWidget");
+    tour.window().openFile(tour.folder().filePath(kPart), TelemetryWindow::Table);
+    tour.waitFor([] { return Tour::findVisible("tableWidget"); }, QStringLiteral("the table"));
+    auto* table = Tour::find<QTableView>("tableWidget");
     const QAbstractItemModel* model = table->model();
-    workbench::Tour::expect(model->rowCount() > 100,
-                            QStringLiteral("the table has %1 rows").arg(model->rowCount()));
+    Tour::expect(model->rowCount() > 100, QStringLiteral("the table has %1 rows").arg(model->rowCount()));
     for (const QString& code : {QStringLiteral("ru"), QStringLiteral("en")}) {
         tour.window().setLanguage(code);
         tour.picture(QStringLiteral("table-%1.png").arg(code), table->window());
     }
     const QVariant first = model->index(0, 0).data();
     table->sortByColumn(0, Qt::DescendingOrder);
-    workbench::Tour::expect(model->index(0, 0).data() != first, QStringLiteral("the table does not sort"));
+    Tour::expect(model->index(0, 0).data() != first, QStringLiteral("the table does not sort"));
     table->window()->close();
 }
 
 } // namespace
-
-namespace workbench {
 
 std::vector<Tour::Step> filesTour()
 {

@@ -18,19 +18,19 @@ namespace workbench {
 FoldersDialog::FoldersDialog(const QString& telemetry, const QString& configurations, QWidget* parent)
     : QDialog(parent)
 {
-    setWindowTitle(workbench::text("wb_folders"));
+    setWindowTitle(text("wb_folders"));
     auto* form = new QFormLayout;
     telemetry_ = addFolder(form, "lineEdit_FolderTelemetry", "wb_folder_telemetry", telemetry);
     configurations_ =
         addFolder(form, "lineEdit_FolderConfigurations", "wb_folder_configurations", configurations);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
-    buttons->addButton(workbench::text("wb_folders_use"), QDialogButtonBox::AcceptRole)->setDefault(true);
+    buttons->addButton(text("wb_folders_use"), QDialogButtonBox::AcceptRole)->setDefault(true);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* column = new QVBoxLayout(this);
     column->addLayout(form);
     column->addWidget(buttons);
-    workbench::resizeWithin(this, QSize(640, sizeHint().height()));
+    resizeWithin(this, QSize(640, sizeHint().height()));
 }
 
 QLineEdit* FoldersDialog::addFolder(QFormLayout* form, const char* name, const char* key,
@@ -39,18 +39,18 @@ QLineEdit* FoldersDialog::addFolder(QFormLayout* form, const char* name, const c
     auto* edit = new QLineEdit(folder, this);
     edit->setObjectName(QLatin1String(name));
     auto* choose = new QToolButton(this);
-    choose->setIcon(workbench::lineIcon(QStringLiteral("open")));
-    choose->setToolTip(workbench::text("wb_folder_choose"));
-    choose->setAccessibleName(workbench::text("wb_folder_choose"));
+    choose->setIcon(lineIcon(QStringLiteral("open")));
+    choose->setToolTip(text("wb_folder_choose"));
+    choose->setAccessibleName(text("wb_folder_choose"));
     connect(choose, &QToolButton::clicked, this, [this, edit, key] {
-        const QString chosen = QFileDialog::getExistingDirectory(this, workbench::text(key), edit->text());
+        const QString chosen = QFileDialog::getExistingDirectory(this, text(key), edit->text());
         if (!chosen.isEmpty())
             edit->setText(chosen + QLatin1Char('/'));
     });
     auto* row = new QHBoxLayout;
     row->addWidget(edit, 1);
     row->addWidget(choose);
-    auto* label = new QLabel(workbench::text(key), this);
+    auto* label = new QLabel(text(key), this);
     label->setBuddy(edit);
     form->addRow(label, row);
     return edit;

@@ -16,6 +16,8 @@
 
 #include <cmath>
 
+namespace workbench {
+
 namespace {
 
 constexpr std::size_t kTank = 5; // D5, a saddle
@@ -25,7 +27,7 @@ constexpr int kTrackerTab = 2;
 
 QWidget* window()
 {
-    return workbench::Tour::find<QLineEdit>("lineEdit_Title")->window();
+    return Tour::find<QLineEdit>("lineEdit_Title")->window();
 }
 
 template <class Widget>
@@ -34,40 +36,39 @@ Widget* inForm(const char* name)
     const QString sensor = QLatin1String(tracker::tanks[kTank].sensor);
     auto* form = window()->findChild<QWidget*>(sensor);
     auto* widget = form ? form->findChild<Widget*>(QLatin1String(name)) : nullptr;
-    workbench::Tour::expect(widget != nullptr,
-                            QStringLiteral("no %1 for %2").arg(QLatin1String(name), sensor));
+    Tour::expect(widget != nullptr, QStringLiteral("no %1 for %2").arg(QLatin1String(name), sensor));
     return widget;
 }
 
-QString content(const workbench::Tour& tour, const QString& name)
+QString content(const Tour& tour, const QString& name)
 {
     QFile file(tour.folder().filePath(name));
-    workbench::Tour::expect(file.open(QIODevice::ReadOnly), QStringLiteral("%1 was not saved").arg(name));
+    Tour::expect(file.open(QIODevice::ReadOnly), QStringLiteral("%1 was not saved").arg(name));
     return QString::fromLatin1(file.readAll());
 }
 
-void openCalibration(workbench::Tour& tour)
+void openCalibration(Tour& tour)
 {
     live::open(tour);
     live::showFunctions();
-    workbench::Tour::press("pushButton_FuelSensor");
+    Tour::press("pushButton_FuelSensor");
     auto* groups = window()->findChild<QTabWidget*>(QStringLiteral("tabWidget"));
     groups->setCurrentIndex(1);
     qobject_cast<QTabWidget*>(groups->currentWidget())->setCurrentIndex(kTab);
-    workbench::Tour::find<QTabWidget>("tabWidget_Main")->setCurrentIndex(kTrackerTab);
-    workbench::Tour::find<QComboBox>("comboBox_Tank")->setCurrentIndex(kTank);
-    workbench::Tour::press("pushButton_Drain");
+    Tour::find<QTabWidget>("tabWidget_Main")->setCurrentIndex(kTrackerTab);
+    Tour::find<QComboBox>("comboBox_Tank")->setCurrentIndex(kTank);
+    Tour::press("pushButton_Drain");
 }
 
 // A pour, a value that has come to rest, a point.
-void calibrate(workbench::Tour& tour)
+void calibrate(Tour& tour)
 {
     const tracker::Tank& tank = tracker::tanks[kTank];
     const auto* value = inForm<QLineEdit>("lineEdit_Param");
     int litres = 0;
     for (const int pour : kPours) {
         if (pour > 0)
-            workbench::Tour::press(qPrintable(QStringLiteral("pushButton_Pour_%1").arg(pour)));
+            Tour::press(qPrintable(QStringLiteral("pushButton_Pour_%1").arg(pour)));
         litres += pour;
         const double wanted = tracker::sensorValue(tank, tracker::fuelHeight(tank, litres));
         constexpr double tolerance = 25;
@@ -80,41 +81,40 @@ void calibrate(workbench::Tour& tour)
         inForm<QLineEdit>("lineEdit_Volume")->setText(QString::number(litres));
         inForm<QAbstractButton>("pushButton_Add")->click();
     }
-    workbench::Tour::expect(inForm<QTableWidget>("tableWidget")->rowCount() == int(std::size(kPours)),
-                            QStringLiteral("the table has not all points"));
+    Tour::expect(inForm<QTableWidget>("tableWidget")->rowCount() == int(std::size(kPours)),
+                 QStringLiteral("the table has not all points"));
     tour.picture(QStringLiteral("tank.png"), &tour.window());
-    for (const QString& code : workbench::Languages::codes()) {
+    for (const QString& code : Languages::codes()) {
         tour.window().setLanguage(code);
         tour.picture(QStringLiteral("calibration-%1.png").arg(code), window());
     }
 }
 
-void save(workbench::Tour& tour, const char* button, const QString& name)
+void save(Tour& tour, const char* button, const QString& name)
 {
     const QString path = tour.folder().filePath(name);
-    tour.whenModal<QFileDialog>([path](QFileDialog& dialog) { workbench::Tour::giveName(dialog, path); });
-    workbench::Tour::press(button);
+    tour.whenModal<QFileDialog>([path](QFileDialog& dialog) { Tour::giveName(dialog, path); });
+    Tour::press(button);
 }
 
-void saveTables(workbench::Tour& tour)
+void saveTables(Tour& tour)
 {
     inForm<QLineEdit>("lineEdit_Name")->setText(QStringLiteral("Tank 5"));
     save(tour, "pushButton_Save_Excel", QStringLiteral("calibration.csv"));
-    workbench::Tour::expect(content(tour, QStringLiteral("calibration.csv")).count(QStringLiteral("\r\n")) ==
-                                1 + int(std::size(kPours)),
-                            QStringLiteral("the CSV file has not a line a point"));
+    Tour::expect(content(tour, QStringLiteral("calibration.csv")).count(QStringLiteral("\r\n")) ==
+                     1 + int(std::size(kPours)),
+                 QStringLiteral("the CSV file has not a line a point"));
     save(tour, "pushButton_Save_Xml", QStringLiteral("calibration.xml"));
-    workbench::Tour::expect(
-        content(tour, QStringLiteral("calibration.xml")).contains(QStringLiteral("param_U=\"70\"")),
-        QStringLiteral("the XML file lacks the last point"));
+    Tour::expect(content(tour, QStringLiteral("calibration.xml")).contains(QStringLiteral("param_U=\"70\"")),
+                 QStringLiteral("the XML file lacks the last point"));
 }
 
 // The dialog of the toolkit has a printer that writes PDF files.
-void printReport(workbench::Tour& tour)
+void printReport(Tour& tour)
 {
-    workbench::Tour::press("pushButton_Print");
-    auto* report = workbench::Tour::find<QTextEdit>("textEdit_Report");
-    for (const QString& code : workbench::Languages::codes()) {
+    Tour::press("pushButton_Print");
+    auto* report = Tour::find<QTextEdit>("textEdit_Report");
+    for (const QString& code : Languages::codes()) {
         tour.window().setLanguage(code);
         report->window()->close();
         window()->findChild<QAbstractButton*>(QStringLiteral("pushButton_Print"))->click();
@@ -124,23 +124,19 @@ void printReport(workbench::Tour& tour)
     QFile::remove(path);
     tour.whenModal<QDialog>([path](QDialog& dialog) {
         auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("filename"));
-        workbench::Tour::expect(dialog.inherits("QPrintDialog") && name,
-                                QStringLiteral("this is no print dialog"));
+        Tour::expect(dialog.inherits("QPrintDialog") && name, QStringLiteral("this is no print dialog"));
         name->setText(path);
         dialog.accept();
     });
     report->window()->findChild<QAbstractButton*>(QStringLiteral("pushButton_Print"))->click();
-    workbench::Tour::expect(
-        content(tour, QStringLiteral("calibration.pdf")).startsWith(QStringLiteral("%PDF")),
-        QStringLiteral("the report is no PDF file"));
+    Tour::expect(content(tour, QStringLiteral("calibration.pdf")).startsWith(QStringLiteral("%PDF")),
+                 QStringLiteral("the report is no PDF file"));
     report->window()->close();
     window()->close();
     live::close(tour);
 }
 
 } // namespace
-
-namespace workbench {
 
 std::vector<Tour::Step> fuelTour()
 {

@@ -35,9 +35,9 @@ QString HelpPages::html(const QString& language, const QString& page) const
     if (QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly))
         return QString::fromUtf8(file.readAll());
     return QStringLiteral("<h1>%1</h1><p>%2</p><p><a href=\"%3\">%4</a></p>")
-        .arg(workbench::text("wb_help_missing_title"),
-             workbench::text("wb_help_missing").arg(QFileInfo(page).fileName().toHtmlEscaped()), indexPage(),
-             workbench::text("wb_help_contents"));
+        .arg(text("wb_help_missing_title"),
+             text("wb_help_missing").arg(QFileInfo(page).fileName().toHtmlEscaped()), indexPage(),
+             text("wb_help_contents"));
 }
 
 } // namespace workbench

@@ -100,7 +100,7 @@ HelpViewer::HelpViewer(const HelpPages& pages, const QString& language, QWidget*
 
     auto* bar = new QToolBar(this);
     const auto addAction = [&](const char* icon, const char* key) {
-        return texts_.bind(bar->addAction(workbench::lineIcon(QLatin1String(icon)), QString()), key);
+        return texts_.bind(bar->addAction(lineIcon(QLatin1String(icon)), QString()), key);
     };
     QAction* back = addAction("back", "wb_help_back");
     QAction* forward = addAction("forward", "wb_help_forward");
@@ -123,7 +123,7 @@ HelpViewer::HelpViewer(const HelpPages& pages, const QString& language, QWidget*
     column->addWidget(bar);
     column->addWidget(browser_, 1);
     texts_.bind(this, "wb_help");
-    workbench::resizeWithin(this, QSize(720, 560));
+    resizeWithin(this, QSize(720, 560));
 }
 
 void HelpViewer::addSearch(QToolBar* bar)
@@ -146,14 +146,14 @@ void HelpViewer::addSearch(QToolBar* bar)
     connect(words_, &QLineEdit::returnPressed, this, [this] { findNext(); });
     connect(words_, &QLineEdit::textChanged, result_, &QLabel::clear);
     connect(new QShortcut(QKeySequence::FindNext, this), &QShortcut::activated, this, [this] { findNext(); });
-    workbench::joinFindField(words_, browser_);
+    joinFindField(words_, browser_);
 }
 
 void HelpViewer::findNext()
 {
     const QString words = words_->text().simplified();
     if (!words.isEmpty())
-        result_->setText(browser_->findNext(words) ? QString() : workbench::text("wb_help_not_found"));
+        result_->setText(browser_->findNext(words) ? QString() : text("wb_help_not_found"));
 }
 
 void HelpViewer::showPage(const QString& page)

@@ -18,8 +18,6 @@ Q_LOGGING_CATEGORY(lcSession, "vlk.workbench.session")
 namespace {
 
 using tracker::Reading;
-using workbench::sentences;
-using workbench::text;
 
 // Nothing came, and why; empty when something did.
 QString whyNothingCame(Reading::Outcome outcome)
@@ -40,7 +38,7 @@ QString whyNothingCame(Reading::Outcome outcome)
 // One byte more than there may be, by which a file that is too large is known.
 QByteArray contentOf(QFile& file)
 {
-    return file.open(QIODevice::ReadOnly) ? file.read(workbench::largestConfiguration + 1) : QByteArray();
+    return file.open(QIODevice::ReadOnly) ? file.read(largestConfiguration + 1) : QByteArray();
 }
 
 } // namespace
@@ -84,9 +82,8 @@ HostSession::Fetched HostSession::fetchConfiguration()
     const Reading reading = tracker_.readConfiguration();
     if (reading.outcome != Reading::Outcome::Came)
         return {whyNothingCame(reading.outcome), {}, {}};
-    if (const auto problem = workbench::checkConfiguration(reading.document, tracker_.model()))
-        return {
-            sentences({text("wb_why_answer"), workbench::reasonOf(*problem), text("wb_do_cable")}), {}, {}};
+    if (const auto problem = checkConfiguration(reading.document, tracker_.model()))
+        return {sentences({text("wb_why_answer"), reasonOf(*problem), text("wb_do_cable")}), {}, {}};
     QSaveFile file(readFiles_.filePath(QStringLiteral("tracker.xml")));
     QString reason;
     if (!vlk::saveWhole(file, reading.document, &reason))
@@ -121,9 +118,9 @@ QString HostSession::openConfiguration(const QString& path, bool full)
 {
     QFile file(path);
     const QByteArray document = contentOf(file);
-    if (const auto problem = workbench::checkConfiguration(document, tracker_.model())) {
-        const QString reason = file.isOpen() ? workbench::reasonOf(*problem)
-                                             : text("wb_problem_unreadable").arg(file.errorString());
+    if (const auto problem = checkConfiguration(document, tracker_.model())) {
+        const QString reason =
+            file.isOpen() ? reasonOf(*problem) : text("wb_problem_unreadable").arg(file.errorString());
         return sentences({text("wb_open_failed").arg(path), reason, text("wb_do_file")});
     }
     ++opened_;

@@ -19,11 +19,11 @@ public:
     {
         bind([object, key] {
             if constexpr (requires { object->setText(QString()); })
-                object->setText(workbench::text(key));
+                object->setText(text(key));
             else if constexpr (requires { object->setTitle(QString()); })
-                object->setTitle(workbench::text(key));
+                object->setTitle(text(key));
             else
-                object->setWindowTitle(workbench::text(key));
+                object->setWindowTitle(text(key));
         });
         return object;
     }

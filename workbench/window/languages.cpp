@@ -20,7 +20,7 @@ Languages::~Languages() = default;
 bool Languages::set(const QString& code)
 {
     auto texts = std::make_unique<KeyTranslator>();
-    if (!texts->load(code, workbench::sharedFolder(QStringLiteral("translations"))))
+    if (!texts->load(code, sharedFolder(QStringLiteral("translations"))))
         return false;
     auto dialogs = std::make_unique<QTranslator>();
     const bool hasDialogs = dialogs->load(QStringLiteral("qtbase_") + code,

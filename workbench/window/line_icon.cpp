@@ -1,10 +1,8 @@
 #include "window/line_icon.h"
 
-#include <QApplication>
+#include "typing/line_icon.h"
+
 #include <QFile>
-#include <QIconEngine>
-#include <QPainter>
-#include <QPalette>
 #include <QSvgRenderer>
 
 // In no namespace, because the macro declares a function there.
@@ -13,36 +11,9 @@ static void initResources()
     Q_INIT_RESOURCE(workbench);
 }
 
+namespace workbench {
+
 namespace {
-
-class LineIconEngine : public QIconEngine
-{
-public:
-    explicit LineIconEngine(const QByteArray& drawing) : drawing_(drawing) {}
-
-    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State /*state*/) override
-    {
-        const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        const auto role = mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText;
-        const QColor colour = QApplication::palette().color(group, role);
-        QByteArray coloured = drawing_;
-        QSvgRenderer(coloured.replace("currentColor", colour.name().toLatin1())).render(painter, rect);
-    }
-
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
-    {
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, QRect(QPoint(0, 0), size), mode, state);
-        return pixmap;
-    }
-
-    QIconEngine* clone() const override { return new LineIconEngine(drawing_); }
-
-private:
-    QByteArray drawing_;
-};
 
 QString drawingPath(const QString& name)
 {
@@ -52,12 +23,16 @@ QString drawingPath(const QString& name)
 
 } // namespace
 
-namespace workbench {
-
 QIcon lineIcon(const QString& name)
 {
     QFile file(drawingPath(name));
-    return file.open(QIODevice::ReadOnly) ? QIcon(new LineIconEngine(file.readAll())) : QIcon();
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const auto draw = [drawing = file.readAll()](QPainter& painter, const QRect& rect, const QColor& colour) {
+        QByteArray coloured = drawing;
+        QSvgRenderer(coloured.replace("currentColor", colour.name().toLatin1())).render(&painter, rect);
+    };
+    return vlk::drawnIcon(draw, QPalette::WindowText);
 }
 
 QIcon applicationIcon()

@@ -46,22 +46,20 @@ LinkNotices::LinkNotices(HostSession& session, PluginWindows& windows, MessageLo
 void LinkNotices::connectRequests()
 {
     const auto log = [this](const char* key, vlk::Message message) {
-        log_.appendWarning(QStringLiteral("vlk.workbench.link"), workbench::text(key).arg(quint32(message)));
+        log_.appendWarning(QStringLiteral("vlk.workbench.link"), text(key).arg(quint32(message)));
     };
     const RepeatedRequests* requests = &session_.requests();
     connect(requests, &RepeatedRequests::sentAgain, this,
             [log](vlk::Message request) { log("wb_asked_again", request); });
     connect(requests, &RepeatedRequests::dropped, this,
             [log](vlk::Message answer) { log("wb_answer_dropped", answer); });
-    connect(
-        requests, &RepeatedRequests::refused, this,
-        [this](vlk::Message answer, const AnswerProblem& problem, std::optional<vlk::Message> request) {
-            log_.appendWarning(
-                QStringLiteral("vlk.workbench.link"),
-                workbench::text("wb_answer_refused").arg(quint32(answer)).arg(workbench::noteOn(problem)));
-            if (request)
-                tellRefused(answer, problem, *request);
-        });
+    connect(requests, &RepeatedRequests::refused, this,
+            [this](vlk::Message answer, const AnswerProblem& problem, std::optional<vlk::Message> request) {
+                log_.appendWarning(QStringLiteral("vlk.workbench.link"),
+                                   text("wb_answer_refused").arg(quint32(answer)).arg(noteOn(problem)));
+                if (request)
+                    tellRefused(answer, problem, *request);
+            });
     const TrackerCommands* commands = &session_.commands();
     connect(commands, &TrackerCommands::sent, &watch_, &AnswerWatch::begin);
     connect(commands, &TrackerCommands::done, this,
@@ -91,45 +89,40 @@ void LinkNotices::look(vlk::Direction direction, quint32 id, const void* p1)
     if (isOfSearch && p1 != nullptr && tracker::isSearchState(*static_cast<const char*>(p1)))
         setTrouble({});
     else if (isOfSearch)
-        setTrouble([id] { return workbench::text("wb_search_bad").arg(id); });
+        setTrouble([id] { return text("wb_search_bad").arg(id); });
     if (direction != vlk::Direction::ToPlugin)
         return;
     if (answer == refused_) {
         refused_ = {};
         setTrouble({});
     }
-    if (!workbench::RecordCheck::carriesRecord(answer) || p1 == nullptr)
+    if (!RecordCheck::carriesRecord(answer) || p1 == nullptr)
         return;
     const QByteArray& bytes = *static_cast<const QByteArray*>(p1);
     const auto problem = session_.requests().problem();
     if (!problem) {
         // The window of telemetry stays empty for these, as if nothing had come.
-        const int version = workbench::RecordCheck::versionOf(answer, bytes);
+        const int version = RecordCheck::versionOf(answer, bytes);
         if (version == 10 || version == 20)
             setTrouble([version] {
-                return workbench::text("wb_record_version")
-                    .arg(QStringLiteral("ZETA %1.0").arg(version / 10));
+                return text("wb_record_version").arg(QStringLiteral("ZETA %1.0").arg(version / 10));
             });
         else
             setTrouble({});
         return;
     }
-    log_.markNewest(workbench::noteOn(*problem));
-    setTrouble(
-        [problem, id] { return workbench::text("wb_answer_bad").arg(id).arg(workbench::noteOn(*problem)); });
+    log_.markNewest(noteOn(*problem));
+    setTrouble([problem, id] { return text("wb_answer_bad").arg(id).arg(noteOn(*problem)); });
 }
 
 // It shows that the tracker is there, and the wait for the next one begins.
-void LinkNotices::tellRefused(vlk::Message answer, const workbench::AnswerProblem& problem,
-                              vlk::Message request)
+void LinkNotices::tellRefused(vlk::Message answer, const AnswerProblem& problem, vlk::Message request)
 {
     watch_.forget();
     watch_.begin(request);
     refused_ = answer;
     setTrouble([this, problem, id = quint32(answer)] {
-        return workbench::text(isSaving_ ? "wb_answer_again_save" : "wb_answer_again")
-            .arg(id)
-            .arg(workbench::noteOn(problem));
+        return text(isSaving_ ? "wb_answer_again_save" : "wb_answer_again").arg(id).arg(noteOn(problem));
     });
 }
 
@@ -151,19 +144,19 @@ void LinkNotices::setTrouble(const std::function<QString()>& trouble)
 QString LinkNotices::silence(const QDateTime& since, vlk::Message request)
 {
     const char* key = "wb_silence_command";
-    if (workbench::hasEffect(request, Effect::Reads))
+    if (hasEffect(request, Effect::Reads))
         key = isSaving_ ? "wb_silence_save" : "wb_silence_again";
-    else if (workbench::hasEffect(request, Effect::MayBeMute))
+    else if (hasEffect(request, Effect::MayBeMute))
         key = "wb_silence_mute";
     const qint64 seconds = AnswerWatch::patienceMs / 1000;
-    return workbench::text(key).arg(workbench::timeOfDay(since), workbench::number(seconds));
+    return text(key).arg(timeOfDay(since), number(seconds));
 }
 
 vlk::Notice LinkNotices::troubleNotice()
 {
     vlk::Notice notice{vlk::Mark::advice, trouble_(), {}};
     if (isSaving_)
-        notice.actions.push_back({workbench::text("wb_end_save"), [this] { endSave(); }});
+        notice.actions.push_back({text("wb_end_save"), [this] { endSave(); }});
     return notice;
 }
 
@@ -179,7 +172,7 @@ void LinkNotices::endSave()
     setTrouble({});
     // The plug-in tells of a file with a part of the period.
     if (save.records == 0)
-        tellResult([] { return workbench::text("wb_save_ended"); }, false);
+        tellResult([] { return text("wb_save_ended"); }, false);
 }
 
 void LinkNotices::saveEnded()
@@ -207,8 +200,8 @@ void LinkNotices::tellDetached(bool isPulled)
             if (!key)
                 return;
             if (isPulled)
-                workbench::showWarning(workbench::text(key), mainWindow_);
-            status_.tell(StatusLine::Command, [key] { return workbench::text(key); });
+                showWarning(text(key), mainWindow_);
+            status_.tell(StatusLine::Command, [key] { return text(key); });
         },
         Qt::QueuedConnection);
 }

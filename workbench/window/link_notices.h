@@ -38,7 +38,7 @@ Q_SIGNALS:
 
 private:
     void look(vlk::Direction direction, quint32 id, const void* p1);
-    void tellRefused(vlk::Message answer, const workbench::AnswerProblem& problem, vlk::Message request);
+    void tellRefused(vlk::Message answer, const AnswerProblem& problem, vlk::Message request);
     void tellDetached(bool isPulled);
     void setTrouble(const std::function<QString()>& trouble);
     void connectRequests();

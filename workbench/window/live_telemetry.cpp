@@ -3,7 +3,7 @@
 #include <QLabel>
 #include <QStackedWidget>
 
-namespace live {
+namespace workbench::live {
 
 namespace {
 
@@ -16,25 +16,23 @@ QWidget* form()
 
 } // namespace
 
-void open(workbench::Tour& tour)
+void open(Tour& tour)
 {
     const QString failure = tour.window().session().liveTelemetry();
-    workbench::Tour::expect(failure.isEmpty(), failure);
-    tour.waitFor(
-        [] { return workbench::Tour::findVisible(kNumber) && page() != QLatin1String("page_Empty"); },
-        QStringLiteral("a record in the telemetry window"));
+    Tour::expect(failure.isEmpty(), failure);
+    tour.waitFor([] { return Tour::findVisible(kNumber) && page() != QLatin1String("page_Empty"); },
+                 QStringLiteral("a record in the telemetry window"));
 }
 
-void close(workbench::Tour& tour)
+void close(Tour& tour)
 {
     tour.window().session().link().send(vlk::Message::CloseWindows);
-    tour.waitFor([] { return !workbench::Tour::findVisible(kNumber); },
-                 QStringLiteral("the end of the window"));
+    tour.waitFor([] { return !Tour::findVisible(kNumber); }, QStringLiteral("the end of the window"));
 }
 
 QWidget* window()
 {
-    return workbench::Tour::find<QLabel>(kNumber)->window();
+    return Tour::find<QLabel>(kNumber)->window();
 }
 
 QString number()
@@ -48,7 +46,7 @@ QString textOf(const char* label)
     const auto* found = form()->findChild<QLabel*>(name);
     if (found == nullptr)
         found = window()->findChild<QLabel*>(name);
-    workbench::Tour::expect(found != nullptr, QStringLiteral("no label named %1").arg(name));
+    Tour::expect(found != nullptr, QStringLiteral("no label named %1").arg(name));
     return found->text();
 }
 
@@ -57,19 +55,19 @@ QString page()
     return form()->objectName();
 }
 
-void ask(workbench::Tour& tour, const char* button)
+void ask(Tour& tour, const char* button)
 {
     const auto onShow = [] { return page() + number(); };
     const QString before = onShow();
-    workbench::Tour::press(button);
+    Tour::press(button);
     tour.waitFor([&] { return onShow() != before; },
                  QStringLiteral("the record of %1").arg(QLatin1String(button)));
 }
 
 void showFunctions()
 {
-    if (!workbench::Tour::findVisible("frame_Btn_Func"))
-        workbench::Tour::press("pushButton_Func");
+    if (!Tour::findVisible("frame_Btn_Func"))
+        Tour::press("pushButton_Func");
 }
 
-} // namespace live
+} // namespace workbench::live

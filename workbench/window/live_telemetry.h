@@ -4,10 +4,10 @@
 
 #include "window/tour.h"
 
-namespace live {
+namespace workbench::live {
 
-void open(workbench::Tour& tour);
-void close(workbench::Tour& tour);
+void open(Tour& tour);
+void close(Tour& tour);
 
 QWidget* window();
 // Of the record on show.
@@ -18,8 +18,8 @@ QString textOf(const char* label);
 QString page();
 
 // Asks for a record and waits until one with another number, or on another form, is there.
-void ask(workbench::Tour& tour, const char* button);
+void ask(Tour& tour, const char* button);
 // The row of functions at the bottom.
 void showFunctions();
 
-} // namespace live
+} // namespace workbench::live

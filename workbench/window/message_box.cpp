@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 
 namespace workbench {
@@ -32,21 +33,27 @@ void showWarning(const QString& text, QWidget* window)
     box->setTextFormat(Qt::PlainText);
     box->setTextInteractionFlags(Qt::TextSelectableByMouse);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    QObject::connect(box, &QDialog::finished, box->parentWidget(), &QWidget::activateWindow);
+    if (QWidget* below = box->parentWidget())
+        QObject::connect(box, &QDialog::finished, below, &QWidget::activateWindow);
     box->open();
 }
 
 bool agrees(const QString& question, const QString& verb, const QString& name, QWidget* window)
 {
-    QMessageBox box(QMessageBox::Warning, workbench::text("wb_title"), question, QMessageBox::Cancel,
-                    windowInFront(window));
-    box.setObjectName(name);
-    box.setTextFormat(Qt::PlainText);
-    const QPushButton* agree = box.addButton(verb, QMessageBox::AcceptRole);
-    box.setDefaultButton(QMessageBox::Cancel);
-    box.exec();
-    box.parentWidget()->activateWindow();
-    return box.clickedButton() == agree;
+    // The window below may go while the question waits, and takes the box with it.
+    const QPointer<QWidget> below = windowInFront(window);
+    const QPointer box = new QMessageBox(QMessageBox::Warning, workbench::text("wb_title"), question,
+                                         QMessageBox::Cancel, below);
+    box->setObjectName(name);
+    box->setTextFormat(Qt::PlainText);
+    const QPushButton* agree = box->addButton(verb, QMessageBox::AcceptRole);
+    box->setDefaultButton(QMessageBox::Cancel);
+    box->exec();
+    const bool isAgreed = box && box->clickedButton() == agree;
+    delete box;
+    if (below)
+        below->activateWindow();
+    return isAgreed;
 }
 
 } // namespace workbench

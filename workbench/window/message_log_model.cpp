@@ -42,7 +42,7 @@ QString MessageLogModel::cell(const LoggedMessage& message, int column) const
     case Name: {
         if (!message.category.isEmpty())
             return message.category;
-        const vlk::MessageInfo* info = workbench::findMessage(message.direction, message.id);
+        const vlk::MessageInfo* info = findMessage(message.direction, message.id);
         return info ? QString::fromLatin1(info->name) : QStringLiteral("?");
     }
     default: {
@@ -52,7 +52,7 @@ QString MessageLogModel::cell(const LoggedMessage& message, int column) const
         if (!message.words.isEmpty())
             parts.append(message.words);
         if (!message.bytes.isEmpty())
-            parts.append(workbench::hexText(message.bytes));
+            parts.append(hexText(message.bytes));
         return parts.join(QLatin1Char(' '));
     }
     }
@@ -73,7 +73,7 @@ QVariant MessageLogModel::headerData(int section, Qt::Orientation orientation, i
     static constexpr const char* keys[ColumnCount] = {"wb_log_time", "wb_log_way", "wb_log_number",
                                                       "wb_log_name", "wb_log_parameters"};
     if (orientation == Qt::Horizontal && role == Qt::DisplayRole)
-        return workbench::text(keys[section]);
+        return text(keys[section]);
     return role == Qt::TextAlignmentRole ? alignment(section) : QVariant();
 }
 
@@ -87,7 +87,7 @@ QString MessageLogModel::line(int row) const
 
 void MessageLogModel::append(vlk::Direction direction, quint32 id, const void* p1, const void* p2)
 {
-    const workbench::MessageText text = workbench::describeMessage(direction, id, p1, p2);
+    const MessageText text = describeMessage(direction, id, p1, p2);
     add({QDateTime::currentDateTime(), direction, id, text.words, text.bytes, {}, {}});
 }
 

@@ -54,7 +54,7 @@ MessageLogView::MessageLogView(MessageLogModel* model, QWidget* parent)
     }
     connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &MessageLogView::showCount);
-    workbench::joinFindField(words_, table_);
+    joinFindField(words_, table_);
     connect(empty_, &EmptyNote::pressed, this, [this] {
         words_->clear();
         directions_->setCurrentIndex(0);
@@ -67,18 +67,18 @@ void MessageLogView::buildBar()
     words_->setObjectName(QStringLiteral("lineEdit_LogFilter"));
     words_->setClearButtonEnabled(true);
     texts_.bind([this] {
-        words_->setPlaceholderText(workbench::text("wb_log_filter"));
-        words_->setAccessibleName(workbench::text("wb_log_filter"));
+        words_->setPlaceholderText(text("wb_log_filter"));
+        words_->setAccessibleName(text("wb_log_filter"));
     });
     connect(words_, &QLineEdit::textChanged, this, &MessageLogView::applyFilter);
 
     directions_->setObjectName(QStringLiteral("comboBox_LogDirection"));
     for (const char* key : directionKeys)
-        directions_->addItem(workbench::text(key));
+        directions_->addItem(text(key));
     texts_.bind([this] {
-        directions_->setAccessibleName(workbench::text("wb_log_direction"));
+        directions_->setAccessibleName(text("wb_log_direction"));
         for (int i = 0; i < directions_->count(); ++i)
-            directions_->setItemText(i, workbench::text(directionKeys[i]));
+            directions_->setItemText(i, text(directionKeys[i]));
     });
     directions_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     connect(directions_, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
@@ -91,11 +91,11 @@ void MessageLogView::buildBar()
     const auto addButton = [&](const char* name, const char* icon, const char* key, auto act) {
         auto* button = new QToolButton(this);
         button->setObjectName(QLatin1String(name));
-        button->setIcon(workbench::lineIcon(QLatin1String(icon)));
+        button->setIcon(lineIcon(QLatin1String(icon)));
         button->setAutoRaise(true);
         texts_.bind([button, key] {
-            button->setToolTip(workbench::text(key));
-            button->setAccessibleName(workbench::text(key));
+            button->setToolTip(text(key));
+            button->setAccessibleName(text(key));
         });
         connect(button, &QToolButton::clicked, this, act);
         bar->addWidget(button);
@@ -132,8 +132,8 @@ void MessageLogView::buildTable()
     details_->setTabChangesFocus(true);
     details_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     texts_.bind([this] {
-        details_->setPlaceholderText(workbench::text("wb_log_details"));
-        details_->setAccessibleName(workbench::text("wb_log_parameters"));
+        details_->setPlaceholderText(text("wb_log_details"));
+        details_->setAccessibleName(text("wb_log_parameters"));
     });
 
     auto* splitter = new QSplitter(Qt::Vertical, this);
@@ -155,16 +155,16 @@ void MessageLogView::applyFilter()
 void MessageLogView::showCount()
 {
     if (model_->rowCount() == 0)
-        empty_->tell(workbench::text("wb_log_empty"));
+        empty_->tell(text("wb_log_empty"));
     else
-        empty_->tell(workbench::text("wb_nothing_matches"), workbench::text("wb_clear_filter"));
+        empty_->tell(text("wb_nothing_matches"), text("wb_clear_filter"));
     count_->setText(countText(filter_->rowCount()));
     const int selected = table_->selectionModel()->selectedRows().size();
     const int taken = selected < 2 ? filter_->rowCount() : selected;
     const QString excerpt = taken == model_->rowCount() ? QString() : QStringLiteral(": ") + countText(taken);
     for (auto [button, key] : {std::pair(copy_, "wb_log_copy"), {save_, "wb_log_save"}}) {
-        button->setToolTip(workbench::text(key) + excerpt);
-        button->setAccessibleName(workbench::text(key) + excerpt);
+        button->setToolTip(text(key) + excerpt);
+        button->setAccessibleName(text(key) + excerpt);
     }
 }
 
@@ -173,7 +173,7 @@ QString MessageLogView::countText(int part) const
     const QLocale locale;
     const int all = model_->rowCount();
     return part == all ? locale.toString(all)
-                       : workbench::text("wb_log_count").arg(locale.toString(part), locale.toString(all));
+                       : text("wb_log_count").arg(locale.toString(part), locale.toString(all));
 }
 
 void MessageLogView::showDetails()
@@ -227,18 +227,18 @@ bool MessageLogView::saveTo(const QString& path, QString* error) const
     QSaveFile file(path);
     if (vlk::saveWhole(file, shownText().toUtf8()))
         return true;
-    *error = workbench::text("wb_file_unwritable").arg(path, file.errorString());
+    *error = text("wb_file_unwritable").arg(path, file.errorString());
     return false;
 }
 
 void MessageLogView::save()
 {
-    const QString path = QFileDialog::getSaveFileName(
-        this, save_->toolTip(), QDir::home().filePath(QStringLiteral("messages.txt")),
-        workbench::text("wb_log_file_type") + QStringLiteral(" (*.txt)"));
+    const QString path = QFileDialog::getSaveFileName(this, save_->toolTip(),
+                                                      QDir::home().filePath(QStringLiteral("messages.txt")),
+                                                      text("wb_log_file_type") + QStringLiteral(" (*.txt)"));
     QString error;
     if (!path.isEmpty() && !saveTo(path, &error))
-        QMessageBox::warning(this, workbench::text("wb_title"), error);
+        QMessageBox::warning(this, text("wb_title"), error);
 }
 
 void MessageLogView::retranslate()

@@ -36,12 +36,12 @@ PluginLink::~PluginLink()
 bool PluginLink::load(const QString& path)
 {
     if (!QFile::exists(path)) {
-        error_ = workbench::text("wb_plugin_missing").arg(path);
+        error_ = text("wb_plugin_missing").arg(path);
         return false;
     }
     library_.setFileName(path);
     if (!library_.load()) {
-        error_ = workbench::text("wb_plugin_unloadable").arg(path, library_.errorString());
+        error_ = text("wb_plugin_unloadable").arg(path, library_.errorString());
         return false;
     }
     vlk::IsVlkLibraryVFunction isPlugin = nullptr;
@@ -51,7 +51,7 @@ bool PluginLink::load(const QString& path)
     if (!resolve(library_, "IsVlkLibraryV", isPlugin) || !resolve(library_, "GetLibraryInfo", libraryInfo) ||
         !resolve(library_, "Initialize", initialize) || !resolve(library_, "ReceiveMessage", receive) ||
         !isPlugin()) {
-        error_ = workbench::text("wb_plugin_foreign").arg(path);
+        error_ = text("wb_plugin_foreign").arg(path);
         return false;
     }
     libraryInfo(&info_);
@@ -83,7 +83,7 @@ QString PluginLink::version() const
 template <class Carry>
 void PluginLink::pass(vlk::Direction direction, quint32 id, const void* p1, const void* p2, Carry carry)
 {
-    const vlk::MessageInfo* info = workbench::findMessage(direction, id);
+    const vlk::MessageInfo* info = findMessage(direction, id);
     const bool fills = info && (info->fillsFirst || info->fillsSecond);
     if (!fills)
         Q_EMIT passed(direction, id, p1, p2);

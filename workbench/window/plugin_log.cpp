@@ -112,14 +112,13 @@ QString PluginLog::words(const QString& category, const QString& message)
     const CategoryRow* row = rowOf(category.toLatin1().constData(), message);
     if (row == nullptr)
         return {};
-    QString said = workbench::text(row->text);
+    QString said = text(row->text);
     const QStringList found = parts(category, message);
     // A text needs not use all of them. The path comes last, because it may look like a place for another.
     for (int i = found.size(); i > 0; --i) {
         bool isNumber = false;
         const qint64 value = found[i - 1].toLongLong(&isNumber);
-        said.replace(QLatin1Char('%') + QString::number(i),
-                     isNumber ? workbench::number(value) : found[i - 1]);
+        said.replace(QLatin1Char('%') + QString::number(i), isNumber ? number(value) : found[i - 1]);
     }
     return said;
 }

@@ -44,8 +44,7 @@ protected:
         QStyledItemDelegate::initStyleOption(option, index);
         const QWidget* list = option->widget;
         const int margin = list->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, list) + 1;
-        option->text =
-            workbench::shortFileName(option->text, option->fontMetrics, option->rect.width() - 2 * margin);
+        option->text = shortFileName(option->text, option->fontMetrics, option->rect.width() - 2 * margin);
     }
 };
 
@@ -62,14 +61,14 @@ RecentFiles::RecentFiles(Settings& settings, QWidget* parent)
     menu_->setToolTipsVisible(true);
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list_->setContextMenuPolicy(Qt::CustomContextMenu);
-    texts_.bind([this] { list_->setAccessibleName(workbench::plainText("wb_recent")); });
+    texts_.bind([this] { list_->setAccessibleName(plainText("wb_recent")); });
     connect(list_, &QListWidget::itemActivated, this, [this](const QListWidgetItem* item) {
         Q_EMIT chosen(item->data(kPathRole).toString(), item->data(kWindowRole).value<TelemetryWindow>());
     });
     connect(list_, &QListWidget::customContextMenuRequested, this, &RecentFiles::offerWindows);
 
     auto* empty = new EmptyNote(list_);
-    texts_.bind([empty] { empty->tell(workbench::text("wb_recent_none")); });
+    texts_.bind([empty] { empty->tell(text("wb_recent_none")); });
     auto* hint = texts_.bind(new QLabel(this), "wb_drop_hint");
     hint->setWordWrap(true);
     auto* layout = new QVBoxLayout(this);
@@ -100,7 +99,7 @@ void RecentFiles::refresh()
         item->setData(kWindowRole, QVariant::fromValue(file.window));
         item->setToolTip(QDir::toNativeSeparators(file.path));
         constexpr int widest = 480;
-        QString name = workbench::shortFileName(item->text(), menu_->fontMetrics(), widest);
+        QString name = shortFileName(item->text(), menu_->fontMetrics(), widest);
         QAction* action = menu_->addAction(name.replace(QLatin1Char('&'), QLatin1String("&&")), this,
                                            [this, file] { Q_EMIT chosen(file.path, file.window); });
         action->setToolTip(item->toolTip());
@@ -114,12 +113,12 @@ void RecentFiles::offerWindows(const QPoint& at)
     if (item == nullptr)
         return;
     const QString path = item->data(kPathRole).toString();
-    if (workbench::storedFileKind(path) != StoredFile::Telemetry)
+    if (storedFileKind(path) != StoredFile::Telemetry)
         return;
     QMenu offers;
     for (const auto& [key, window] : {std::pair("wb_browse_short", TelemetryWindow::Browser),
                                       std::pair("wb_table_short", TelemetryWindow::Table)})
-        offers.addAction(workbench::text(key))->setData(QVariant::fromValue(window));
+        offers.addAction(text(key))->setData(QVariant::fromValue(window));
     if (const QAction* action = offers.exec(list_->viewport()->mapToGlobal(at)))
         Q_EMIT chosen(path, action->data().value<TelemetryWindow>());
 }

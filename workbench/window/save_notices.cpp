@@ -59,25 +59,24 @@ SaveNotices::SaveNotices(const PluginLog& log, HostSession& session, const Plugi
 void SaveNotices::tellSaved(const QString& path)
 {
     const QString shown = QDir::toNativeSeparators(path);
-    const StoredFile kind = workbench::storedFileKind(path);
+    const StoredFile kind = storedFileKind(path);
     if (kind != StoredFile::Unknown)
         recent_.add(path, TelemetryWindow::Browser);
     if (kind == StoredFile::Configuration) {
         tellConfiguration(path);
     } else {
-        status_.tell(StatusLine::Command, [shown] { return workbench::text("wb_saved").arg(shown); });
+        status_.tell(StatusLine::Command, [shown] { return text("wb_saved").arg(shown); });
     }
 }
 
-void SaveNotices::tellSavedInPart(const QString& path, const workbench::SavedPart& part)
+void SaveNotices::tellSavedInPart(const QString& path, const SavedPart& part)
 {
-    if (workbench::storedFileKind(path) != StoredFile::Unknown)
+    if (storedFileKind(path) != StoredFile::Unknown)
         recent_.add(path, TelemetryWindow::Browser);
     warn([shown = QDir::toNativeSeparators(path), part] {
         const QString held =
-            workbench::text("wb_saved_part")
-                .arg(shown, workbench::number(part.records), workbench::number(part.all), part.until);
-        return workbench::sentences({held, workbench::text("wb_do_part")});
+            text("wb_saved_part").arg(shown, number(part.records), number(part.all), part.until);
+        return sentences({held, text("wb_do_part")});
     });
 }
 
@@ -89,8 +88,7 @@ void SaveNotices::tellConfiguration(const QString& path)
     const QString typed = typing_.take();
     const auto sentence = [shown = QDir::toNativeSeparators(path), changes, typed] {
         const QString saved =
-            changes ? workbench::text("wb_saved_changes").arg(shown, workbench::number(*changes))
-                    : workbench::text("wb_saved").arg(shown);
+            changes ? text("wb_saved_changes").arg(shown, number(*changes)) : text("wb_saved").arg(shown);
         return typed.isEmpty() ? saved : saved + QLatin1Char('\n') + typed;
     };
     if (typed.isEmpty())
@@ -106,17 +104,16 @@ void SaveNotices::tellFailed(const QString& path, const QString& reason)
         return;
     }
     warn([shown = QDir::toNativeSeparators(path), reason] {
-        return workbench::sentences(
-            {reason.isEmpty() ? workbench::text("wb_save_failed").arg(shown)
-                              : workbench::text("wb_save_failed_why").arg(shown, reason),
-             workbench::text(isAboutRoom(reason) ? "wb_do_save" : "wb_do_save_elsewhere")});
+        return sentences({reason.isEmpty() ? text("wb_save_failed").arg(shown)
+                                           : text("wb_save_failed_why").arg(shown, reason),
+                          text(isAboutRoom(reason) ? "wb_do_save" : "wb_do_save_elsewhere")});
     });
 }
 
 void SaveNotices::warn(const std::function<QString()>& sentence)
 {
     status_.tell(StatusLine::Command, sentence);
-    workbench::showWarning(sentence(), mainWindow_);
+    showWarning(sentence(), mainWindow_);
 }
 
 } // namespace workbench

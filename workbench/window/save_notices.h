@@ -32,7 +32,7 @@ Q_SIGNALS:
 
 private:
     void tellSaved(const QString& path);
-    void tellSavedInPart(const QString& path, const workbench::SavedPart& part);
+    void tellSavedInPart(const QString& path, const SavedPart& part);
     void tellConfiguration(const QString& path);
     void warn(const std::function<QString()>& sentence);
     void tellFailed(const QString& path, const QString& reason);

@@ -10,6 +10,8 @@
 #include <QProgressBar>
 #include <QPushButton>
 
+namespace workbench {
+
 namespace {
 
 constexpr int refreshMs = 500;
@@ -29,7 +31,7 @@ TankPanel::TankPanel(tracker::SimulatedTracker& tracker, QWidget* parent)
     tank_->setObjectName(QStringLiteral("comboBox_Tank"));
     for (const tracker::Tank& tank : tracker::tanks)
         tank_->addItem(QLatin1String(tank.sensor));
-    texts_.bind([this] { tank_->setAccessibleName(workbench::text("wb_tank_choice")); });
+    texts_.bind([this] { tank_->setAccessibleName(text("wb_tank_choice")); });
     filling_->setTextVisible(false);
     filling_->setMaximumHeight(fontMetrics().height());
     reading_->setObjectName(QStringLiteral("label_TankReading"));
@@ -53,7 +55,7 @@ TankPanel::TankPanel(tracker::SimulatedTracker& tracker, QWidget* parent)
     };
     for (const int litres : pours) {
         auto* button = addButton(QStringLiteral("pushButton_Pour_%1").arg(litres));
-        texts_.bind([button, litres] { button->setText(workbench::text("wb_tank_pour").arg(litres)); });
+        texts_.bind([button, litres] { button->setText(text("wb_tank_pour").arg(litres)); });
         connect(button, &QPushButton::clicked, this, [this, litres] { pour(litres); });
     }
     auto* drain = texts_.bind(addButton(QStringLiteral("pushButton_Drain")), "wb_tank_drain");
@@ -79,13 +81,11 @@ void TankPanel::refresh()
 {
     const tracker::Tank& tank = tracker::tanks[chosen()];
     const double litres = tracker_.fuelIn(chosen());
-    shape_->setText(workbench::text("wb_tank_shape")
-                        .arg(workbench::text(shapes[static_cast<int>(tank.shape)]))
-                        .arg(tank.litres));
+    shape_->setText(text("wb_tank_shape").arg(text(shapes[static_cast<int>(tank.shape)])).arg(tank.litres));
     filling_->setMaximum(qRound(tank.litres));
     filling_->setValue(qRound(litres));
-    litres_->setText(workbench::text("wb_tank_litres").arg(litres, 0, 'f', 0));
-    reading_->setText(workbench::text(tank.analogue ? "wb_tank_volts" : "wb_tank_code")
+    litres_->setText(text("wb_tank_litres").arg(litres, 0, 'f', 0));
+    reading_->setText(text(tank.analogue ? "wb_tank_volts" : "wb_tank_code")
                           .arg(tracker_.fuelReading(chosen()), 0, 'f', 0));
 }
 
@@ -110,3 +110,5 @@ void TankPanel::hideEvent(QHideEvent* event)
     QGroupBox::hideEvent(event);
     timer_.stop();
 }
+
+} // namespace workbench

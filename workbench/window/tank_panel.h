@@ -16,6 +16,8 @@ namespace tracker {
 class SimulatedTracker;
 }
 
+namespace workbench {
+
 class TankPanel : public QGroupBox
 {
     Q_OBJECT
@@ -34,7 +36,7 @@ private:
     void refresh();
 
     tracker::SimulatedTracker& tracker_;
-    workbench::KeyTexts texts_;
+    KeyTexts texts_;
     QComboBox* tank_;
     QLabel* shape_;
     QProgressBar* filling_;
@@ -42,3 +44,5 @@ private:
     QLabel* reading_;
     QTimer timer_;
 };
+
+} // namespace workbench

@@ -15,11 +15,13 @@
 #include <QTabWidget>
 #include <QTextEdit>
 
+namespace workbench {
+
 namespace {
 
 using tracker::Protocol;
 
-tracker::SimulatedTracker& trackerOf(workbench::Tour& tour)
+tracker::SimulatedTracker& trackerOf(Tour& tour)
 {
     return tour.window().session().tracker();
 }
@@ -28,13 +30,13 @@ QTabWidget* tabs()
 {
     auto* page = live::window()->findChild<QWidget*>(QStringLiteral("page_Zeta3"));
     auto* tabs = page->findChild<QTabWidget*>();
-    workbench::Tour::expect(tabs && tabs->count() == 4, QStringLiteral("the record has not its four tabs"));
+    Tour::expect(tabs && tabs->count() == 4, QStringLiteral("the record has not its four tabs"));
     return tabs;
 }
 
-void photographTabs(workbench::Tour& tour, const QString& stem)
+void photographTabs(Tour& tour, const QString& stem)
 {
-    for (const QString& code : workbench::Languages::codes()) {
+    for (const QString& code : Languages::codes()) {
         tour.window().setLanguage(code);
         for (int tab = 0; tab < tabs()->count(); ++tab) {
             tabs()->setCurrentIndex(tab);
@@ -44,33 +46,33 @@ void photographTabs(workbench::Tour& tour, const QString& stem)
     tabs()->setCurrentIndex(0);
 }
 
-void openTelemetry(workbench::Tour& tour)
+void openTelemetry(Tour& tour)
 {
     live::open(tour);
     photographTabs(tour, QStringLiteral("telemetry"));
 }
 
-void everyField(workbench::Tour& tour)
+void everyField(Tour& tour)
 {
     trackerOf(tour).setFullDataSet(true);
     live::ask(tour, "pushButton_Get_Prev");
     photographTabs(tour, QStringLiteral("telemetry-full"));
 }
 
-void walkBack(workbench::Tour& tour)
+void walkBack(Tour& tour)
 {
     for (int step = 0; step < 3; ++step) {
         const qlonglong before = live::number().toLongLong();
         live::ask(tour, "pushButton_Get_Prev");
-        workbench::Tour::expect(live::number().toLongLong() == before - 1,
-                                QStringLiteral("behind record %1 comes %2").arg(before).arg(live::number()));
+        Tour::expect(live::number().toLongLong() == before - 1,
+                     QStringLiteral("behind record %1 comes %2").arg(before).arg(live::number()));
     }
-    workbench::Tour::expect(workbench::Tour::find<QAbstractButton>("pushButton_Get_Next")->isEnabled(),
-                            QStringLiteral("there is no way forward after walking back"));
+    Tour::expect(Tour::find<QAbstractButton>("pushButton_Get_Next")->isEnabled(),
+                 QStringLiteral("there is no way forward after walking back"));
 }
 
 // What a user switches shows in the present record.
-void controls(workbench::Tour& tour)
+void controls(Tour& tour)
 {
     constexpr int sensorsTab = 1;
     constexpr double kilometres = 123456.75;
@@ -78,75 +80,74 @@ void controls(workbench::Tour& tour)
         dialog.setDoubleValue(kilometres);
         dialog.accept();
     });
-    workbench::Tour::press("pushButton_Run");
+    Tour::press("pushButton_Run");
     tour.whenModal<QMessageBox>([&tour](QMessageBox& question) {
         tour.picture(QStringLiteral("telemetry-mileage.png"), &question);
         for (QAbstractButton* button : question.buttons())
             if (question.buttonRole(button) == QMessageBox::AcceptRole)
                 button->click();
     });
-    tour.waitFor([] { return workbench::Tour::findVisible("label_WindowNotice"); },
+    tour.waitFor([] { return Tour::findVisible("label_WindowNotice"); },
                  QStringLiteral("what became of the mileage"));
     tabs()->setCurrentIndex(sensorsTab);
-    workbench::Tour::find<QComboBox>("comboBox_Out")->setCurrentIndex(1);
+    Tour::find<QComboBox>("comboBox_Out")->setCurrentIndex(1);
     live::ask(tour, "pushButton_Get_Current");
     const QString before = live::textOf("label_Out_Value_2");
     const char* other =
         before == live::textOf("label_Out_Value_1") ? "pushButton_Out_On" : "pushButton_Out_Off";
-    workbench::Tour::press(other);
+    Tour::press(other);
     live::ask(tour, "pushButton_Get_Prev");
     live::ask(tour, "pushButton_Get_Current");
-    workbench::Tour::expect(live::textOf("label_Out_Value_2") != before,
-                            QStringLiteral("output 2 was not switched"));
+    Tour::expect(live::textOf("label_Out_Value_2") != before, QStringLiteral("output 2 was not switched"));
     tour.picture(QStringLiteral("telemetry-output.png"), live::window());
     tabs()->setCurrentIndex(0);
     const QString mileage = live::textOf("label_Navi_Way_Value");
-    workbench::Tour::expect(std::abs(mileage.toDouble() - kilometres) < 50,
-                            QStringLiteral("the mileage is %1").arg(mileage));
+    Tour::expect(std::abs(mileage.toDouble() - kilometres) < 50,
+                 QStringLiteral("the mileage is %1").arg(mileage));
     trackerOf(tour).setFullDataSet(false);
 }
 
-void keyAndTag(workbench::Tour& tour)
+void keyAndTag(Tour& tour)
 {
     tour.window().setLanguage(QStringLiteral("ru"));
     live::showFunctions();
     for (const auto& [button, field] :
          {std::pair("pushButton_TM", "lineEdit_TM"), std::pair("pushButton_RFID", "lineEdit_RFID")}) {
-        auto* edit = workbench::Tour::find<QLineEdit>(field);
-        workbench::Tour::press(button);
+        auto* edit = Tour::find<QLineEdit>(field);
+        Tour::press(button);
         tour.waitFor([edit] { return !edit->text().isEmpty(); },
                      QStringLiteral("a number in %1").arg(QLatin1String(field)));
     }
     tour.picture(QStringLiteral("telemetry-keys.png"), live::window());
 }
 
-void extraPackets(workbench::Tour& tour)
+void extraPackets(Tour& tour)
 {
     live::ask(tour, "pushButton_Get_Current_RFID");
-    workbench::Tour::expect(live::page() == QLatin1String("page_ZetaExt"),
-                            QStringLiteral("the tag's record is no packet"));
+    Tour::expect(live::page() == QLatin1String("page_ZetaExt"),
+                 QStringLiteral("the tag's record is no packet"));
     tour.picture(QStringLiteral("telemetry-packet.png"), live::window());
     live::showFunctions();
     live::ask(tour, "pushButton_Get_Current_Touch");
     tour.picture(QStringLiteral("telemetry-packet-key.png"), live::window());
 }
 
-void tachograph(workbench::Tour& tour)
+void tachograph(Tour& tour)
 {
     live::showFunctions();
-    workbench::Tour::press("pushButton_Taho");
-    auto* answer = workbench::Tour::find<QTextEdit>("textEdit_Quest");
+    Tour::press("pushButton_Taho");
+    auto* answer = Tour::find<QTextEdit>("textEdit_Quest");
     QWidget* dialog = answer->window();
-    auto* question = workbench::Tour::find<QComboBox>("comboBox_Quest");
-    workbench::Tour::press("pushButton_Create");
-    auto* load = workbench::Tour::find<QAbstractButton>("pushButton_Load");
+    auto* question = Tour::find<QComboBox>("comboBox_Quest");
+    Tour::press("pushButton_Create");
+    auto* load = Tour::find<QAbstractButton>("pushButton_Load");
     tour.waitFor([load] { return load->isEnabled(); }, QStringLiteral("a file of the tachograph"));
-    for (const QString& code : workbench::Languages::codes()) {
+    for (const QString& code : Languages::codes()) {
         tour.window().setLanguage(code);
         for (int i = 0; i < question->count(); ++i) {
             question->setCurrentIndex(i);
             answer->clear();
-            workbench::Tour::press("pushButton_Quest");
+            Tour::press("pushButton_Quest");
             tour.waitFor([answer] { return !answer->toPlainText().isEmpty(); },
                          QStringLiteral("an answer of the tachograph"));
             tour.picture(QStringLiteral("tachograph-%1-%2.png").arg(code).arg(i + 1), dialog);
@@ -154,11 +155,10 @@ void tachograph(workbench::Tour& tour)
     }
     const QString path = tour.folder().filePath(QStringLiteral("card.ddd"));
     QFile::remove(path);
-    tour.whenModal<QFileDialog>(
-        [path](QFileDialog& fileDialog) { workbench::Tour::giveName(fileDialog, path); });
-    auto* told = workbench::Tour::find<QTextEdit>("textEdit_File");
+    tour.whenModal<QFileDialog>([path](QFileDialog& fileDialog) { Tour::giveName(fileDialog, path); });
+    auto* told = Tour::find<QTextEdit>("textEdit_File");
     const QString before = told->toPlainText();
-    workbench::Tour::press("pushButton_Load");
+    Tour::press("pushButton_Load");
     tour.waitFor([&] { return QFile::exists(path) && told->toPlainText() != before; },
                  QStringLiteral("a file fetched from the tachograph"));
     tour.picture(QStringLiteral("tachograph-file.png"), dialog);
@@ -166,14 +166,13 @@ void tachograph(workbench::Tour& tour)
 }
 
 // Records of the earlier versions have forms of their own.
-void earlierProtocols(workbench::Tour& tour)
+void earlierProtocols(Tour& tour)
 {
     for (const auto& [protocol, form] :
          {std::pair(Protocol::Protocol2, "page_Zeta2"), std::pair(Protocol::Protocol1, "page_Zeta1")}) {
         trackerOf(tour).setProtocol(protocol);
         live::ask(tour, "pushButton_Get_Current");
-        workbench::Tour::expect(live::page() == QLatin1String(form),
-                                QStringLiteral("shown is %1").arg(live::page()));
+        Tour::expect(live::page() == QLatin1String(form), QStringLiteral("shown is %1").arg(live::page()));
         tour.picture(QStringLiteral("telemetry-%1.png").arg(live::page()), live::window());
     }
     trackerOf(tour).setProtocol(Protocol::AsConfigured);
@@ -182,11 +181,11 @@ void earlierProtocols(workbench::Tour& tour)
 
 QColor colourOf(const char* label)
 {
-    return workbench::Tour::find<QLabel>(label)->palette().color(QPalette::WindowText);
+    return Tour::find<QLabel>(label)->palette().color(QPalette::WindowText);
 }
 
 // In a production mode the same window shows the page with the limits of the test bench.
-void production(workbench::Tour& tour)
+void production(Tour& tour)
 {
     struct Case
     {
@@ -200,10 +199,10 @@ void production(workbench::Tour& tour)
         tour.window().setMode(c.mode);
         trackerOf(tour).setFaults({.badBoard = c.badBoard});
         live::open(tour);
-        workbench::Tour::expect(live::page() == QLatin1String("page_Production"),
-                                QStringLiteral("shown is %1").arg(live::page()));
+        Tour::expect(live::page() == QLatin1String("page_Production"),
+                     QStringLiteral("shown is %1").arg(live::page()));
         const auto expectRed = [&c](const char* label, bool red) {
-            workbench::Tour::expect(
+            Tour::expect(
                 (colourOf(label) == Qt::red) == red,
                 QStringLiteral("%1 has the wrong colour in mode %2").arg(QLatin1String(label)).arg(c.mode));
         };
@@ -222,8 +221,6 @@ void production(workbench::Tour& tour)
 }
 
 } // namespace
-
-namespace workbench {
 
 std::vector<Tour::Step> telemetryTour()
 {

@@ -32,7 +32,7 @@ QString km(double mileage)
 
 TrackerCommands::Sentence saying(const char* key)
 {
-    return [key] { return workbench::text(key); };
+    return [key] { return text(key); };
 }
 
 } // namespace
@@ -98,7 +98,7 @@ bool TrackerCommands::isAllowed(const QString& question, const char* verb)
 {
     const char* reason = whyNotNow();
     if (reason == nullptr && mayDestroy_)
-        reason = mayDestroy_(question, workbench::text(verb)) ? whyNotNow() : "wb_command_cancelled";
+        reason = mayDestroy_(question, text(verb)) ? whyNotNow() : "wb_command_cancelled";
     if (reason != nullptr)
         Q_EMIT failed(saying(reason));
     return reason == nullptr;
@@ -106,8 +106,7 @@ bool TrackerCommands::isAllowed(const QString& question, const char* verb)
 
 void TrackerCommands::clear(const Command& command)
 {
-    if (!isAllowed(workbench::text("wb_clear_question").arg(workbench::number(command.number)),
-                   "wb_clear_verb"))
+    if (!isAllowed(text("wb_clear_question").arg(number(command.number)), "wb_clear_verb"))
         return;
     cleared_ = {command.number};
     isDoubtful_ = false;
@@ -125,7 +124,7 @@ void TrackerCommands::handOver(Message answer, void* p1, void* p2)
     if (!std::exchange(isAnswered_, false))
         return;
     const auto told = [numbers = std::exchange(cleared_, {})](const char* key) {
-        return [numbers, key] { return workbench::text(key).arg(servers(numbers)); };
+        return [numbers, key] { return text(key).arg(servers(numbers)); };
     };
     if (isDoubtful_)
         Q_EMIT failed(told("wb_clear_unknown"));
@@ -137,7 +136,7 @@ void TrackerCommands::setMileage(const Command& command)
 {
     const std::optional<tracker::Present> before = tracker_.readPresent();
     const auto told = [mileage = command.mileage](const char* key) {
-        return [mileage, key] { return workbench::text(key).arg(km(mileage)); };
+        return [mileage, key] { return text(key).arg(km(mileage)); };
     };
     if (!isAllowed(before ? told("wb_mileage_question")().arg(km(before->mileage))
                           : told("wb_mileage_question_blind")(),
@@ -163,7 +162,7 @@ void TrackerCommands::switchOutput(const Command& command)
     look([this, on, output = command.number](const std::optional<tracker::Present>& present) {
         const bool isOn = present && output > 0 && (quint64{present->outputs} << 1 >> output & 1) != 0;
         const auto told = [output](const char* key) {
-            return [output, key] { return workbench::text(key).arg(workbench::number(output)); };
+            return [output, key] { return text(key).arg(number(output)); };
         };
         if (!present || isOn != on)
             Q_EMIT failed(told(on ? "wb_output_on_unknown" : "wb_output_off_unknown"));

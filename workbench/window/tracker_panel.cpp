@@ -59,10 +59,10 @@ QWidget* TrackerPanel::buildControls()
     column->setContentsMargins(0, 0, 0, 0);
     protocol_->setObjectName(QStringLiteral("comboBox_Protocol"));
     for (const ProtocolRow& row : protocols)
-        protocol_->addItem(workbench::text(row.key));
+        protocol_->addItem(text(row.key));
     texts_.bind([this] {
         for (int i = 0; i < protocol_->count(); ++i)
-            protocol_->setItemText(i, workbench::text(protocols[i].key));
+            protocol_->setItemText(i, text(protocols[i].key));
     });
     connect(protocol_, QOverload<int>::of(&QComboBox::activated), this,
             [this](int index) { tracker_.setProtocol(protocols[index].protocol); });
@@ -88,11 +88,10 @@ QWidget* TrackerPanel::buildKeys()
     filter_->setObjectName(QStringLiteral("lineEdit_KeyFilter"));
     filter_->setClearButtonEnabled(true);
     texts_.bind([this] {
-        filter_->setPlaceholderText(workbench::text("wb_tracker_filter"));
-        filter_->setAccessibleName(workbench::text("wb_tracker_filter"));
-        keys_->setAccessibleName(workbench::plainText("wb_tracker_keys"));
-        keys_->setHorizontalHeaderLabels(
-            {workbench::text("wb_report_key"), workbench::text("wb_tracker_value")});
+        filter_->setPlaceholderText(text("wb_tracker_filter"));
+        filter_->setAccessibleName(text("wb_tracker_filter"));
+        keys_->setAccessibleName(plainText("wb_tracker_keys"));
+        keys_->setHorizontalHeaderLabels({text("wb_report_key"), text("wb_tracker_value")});
     });
     connect(filter_, &QLineEdit::textChanged, this, &TrackerPanel::filterKeys);
 
@@ -102,10 +101,9 @@ QWidget* TrackerPanel::buildKeys()
     vlk::dressTable(keys_, TableUse::read);
     vlk::elideInTheMiddle(keys_, 0);
     empty_ = new EmptyNote(keys_);
-    texts_.bind(
-        [this] { empty_->tell(workbench::text("wb_nothing_matches"), workbench::text("wb_clear_filter")); });
+    texts_.bind([this] { empty_->tell(text("wb_nothing_matches"), text("wb_clear_filter")); });
     connect(empty_, &EmptyNote::pressed, filter_, &QLineEdit::clear);
-    workbench::joinFindField(filter_, keys_);
+    joinFindField(filter_, keys_);
     keys_->horizontalHeader()->setStretchLastSection(true);
     keys_->setColumnWidth(0, fontMetrics().averageCharWidth() * 26);
 

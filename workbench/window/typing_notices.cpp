@@ -29,8 +29,7 @@ QString TypingNotices::take()
 {
     if (lines_.isEmpty())
         return {};
-    return workbench::text("wb_typed") + QLatin1Char('\n') +
-           std::exchange(lines_, {}).join(QLatin1Char('\n'));
+    return text("wb_typed") + QLatin1Char('\n') + std::exchange(lines_, {}).join(QLatin1Char('\n'));
 }
 
 } // namespace workbench

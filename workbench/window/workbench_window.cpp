@@ -44,7 +44,7 @@ constexpr QSize usualSize(1024, 600);
 
 WorkbenchWindow::WorkbenchWindow(const DataFolder& folder, Settings& settings, Languages& languages)
     : folder_(folder), settings_(settings), languages_(languages), session_(folder.trackerFolder()),
-      windows_(this), commands_(this), helpPages_(workbench::sharedFolder(QStringLiteral("help"))),
+      windows_(this), commands_(this), helpPages_(sharedFolder(QStringLiteral("help"))),
       status_(new StatusLine(statusBar(), [this] { return lasting(); })),
       device_(new DevicePanel(session_, this)), recent_(new RecentFiles(settings, this)),
       opener_(new FileOpener(session_, settings, *recent_, this)),
@@ -80,14 +80,14 @@ void WorkbenchWindow::buildPanels()
     tabs_->setObjectName(QStringLiteral("tabWidget_Main"));
     for (QWidget* page : {static_cast<QWidget*>(logView_), static_cast<QWidget*>(reportView_),
                           static_cast<QWidget*>(trackerPanel_)})
-        tabs_->addTab(workbench::scrolling(page), QString());
+        tabs_->addTab(scrolling(page), QString());
     texts_.bind([this] {
         for (const Tab tab : {LogTab, ReportTab, TrackerTab})
-            tabs_->setTabText(tab, workbench::text(tabKeys[tab]));
+            tabs_->setTabText(tab, text(tabKeys[tab]));
     });
 
     splitter_->setObjectName(QStringLiteral("splitter_Main"));
-    splitter_->addWidget(workbench::scrolling(left));
+    splitter_->addWidget(scrolling(left));
     splitter_->addWidget(tabs_);
     splitter_->setStretchFactor(1, 1);
     splitter_->setChildrenCollapsible(false);
@@ -137,19 +137,17 @@ void WorkbenchWindow::connectSession()
     connect(&session_, &HostSession::helpRequested, this, &WorkbenchWindow::showHelp);
     connect(&session_, &HostSession::configurationWritten, this, &WorkbenchWindow::showReport);
     connect(&session_, &HostSession::writeBegan, this,
-            [this] { status_->tell(StatusLine::Command, [] { return workbench::text("wb_writing"); }); });
-    connect(&session_, &HostSession::writeCancelled, this, [this] {
-        status_->tell(StatusLine::Command, [] { return workbench::text("wb_write_cancelled"); });
-    });
+            [this] { status_->tell(StatusLine::Command, [] { return text("wb_writing"); }); });
+    connect(&session_, &HostSession::writeCancelled, this,
+            [this] { status_->tell(StatusLine::Command, [] { return text("wb_write_cancelled"); }); });
     connect(&session_, &HostSession::editedChanged, this, &WorkbenchWindow::showEdited);
     session_.setReplaceQuestion([this](const QString& file) {
-        return workbench::agrees(file.isEmpty() ? workbench::text("wb_replace_question")
-                                                : workbench::text("wb_replace_question_file").arg(file),
-                                 workbench::text("wb_replace_write"), QStringLiteral("messageBox_Replace"),
-                                 this);
+        return agrees(file.isEmpty() ? text("wb_replace_question")
+                                     : text("wb_replace_question_file").arg(file),
+                      text("wb_replace_write"), QStringLiteral("messageBox_Replace"), this);
     });
     session_.commands().setQuestion([this](const QString& text, const QString& verb) {
-        return workbench::agrees(text, verb, QStringLiteral("messageBox_Command"), this);
+        return agrees(text, verb, QStringLiteral("messageBox_Command"), this);
     });
     // Its window is modal, and so are those that come up over it.
     connect(&windows_, &PluginWindows::closed, this, [this](const QWidget* window) {
@@ -217,8 +215,8 @@ QString WorkbenchWindow::lasting()
 {
     const tracker::SimulatedTracker& tracker = session_.tracker();
     const QString unit = tracker.attached() ? tracker.model() + QLatin1Char(' ') + tracker.text2()
-                                            : workbench::text("wb_device_detached");
-    return QStringLiteral("%1  |  %2").arg(unit, workbench::text(DevicePanel::modeKey(settings_.mode())));
+                                            : text("wb_device_detached");
+    return QStringLiteral("%1  |  %2").arg(unit, text(DevicePanel::modeKey(settings_.mode())));
 }
 
 bool WorkbenchWindow::isConfigurationOpen() const
@@ -238,7 +236,7 @@ void WorkbenchWindow::tellOpened(const QString& failure)
         return;
     }
     status_->tell(StatusLine::Command, [failure] { return failure; });
-    workbench::showWarning(failure, this);
+    showWarning(failure, this);
 }
 
 void WorkbenchWindow::openFile(const QString& path, TelemetryWindow window)
@@ -278,7 +276,7 @@ void WorkbenchWindow::setLanguage(const QString& code)
     if (code == languages_.current())
         return;
     if (!languages_.set(code)) {
-        tellOpened(workbench::text("wb_language_missing").arg(code));
+        tellOpened(text("wb_language_missing").arg(code));
         return;
     }
     settings_.setLanguage(code);
@@ -288,22 +286,21 @@ void WorkbenchWindow::setLanguage(const QString& code)
 void WorkbenchWindow::showBalance()
 {
     const QString code = session_.link().balanceCode();
-    QMessageBox::information(this, workbench::text("wb_balance"),
-                             code.isEmpty() ? workbench::text("wb_balance_none")
-                                            : workbench::text("wb_balance_code").arg(code.toHtmlEscaped()));
+    QMessageBox::information(this, text("wb_balance"),
+                             code.isEmpty() ? text("wb_balance_none")
+                                            : text("wb_balance_code").arg(code.toHtmlEscaped()));
 }
 
 void WorkbenchWindow::about()
 {
     const PluginLink& link = session_.link();
     QMessageBox::about(
-        this, workbench::text("wb_about"),
+        this, text("wb_about"),
         QStringLiteral("<h3>%1 %2</h3><p>%3</p><p>%4</p>")
-            .arg(workbench::text("wb_title"), QCoreApplication::applicationVersion(),
-                 link.isLoaded() ? workbench::text("wb_about_plugin").arg(link.displayName(), link.version())
+            .arg(text("wb_title"), QCoreApplication::applicationVersion(),
+                 link.isLoaded() ? text("wb_about_plugin").arg(link.displayName(), link.version())
                                  : link.error().toHtmlEscaped(),
-                 workbench::text("wb_about_data")
-                     .arg(QDir::toNativeSeparators(folder_.path()).toHtmlEscaped())));
+                 text("wb_about_data").arg(QDir::toNativeSeparators(folder_.path()).toHtmlEscaped())));
 }
 
 void WorkbenchWindow::showHelp(const QString& page)
@@ -335,9 +332,8 @@ void WorkbenchWindow::showEdited()
 {
     const EditedConfiguration& edited = session_.edited();
     device_->setEdited(edited.text());
-    const QString title = workbench::text("wb_title");
-    setWindowTitle(edited.name().isEmpty() ? title
-                                           : workbench::text("wb_edited_title").arg(title, edited.name()));
+    const QString title = text("wb_title");
+    setWindowTitle(edited.name().isEmpty() ? title : text("wb_edited_title").arg(title, edited.name()));
 }
 
 void WorkbenchWindow::changeEvent(QEvent* event)
@@ -371,7 +367,7 @@ void WorkbenchWindow::restoreLayout()
     resize(usualSize);
     restoreGeometry(settings_.layout(objectName()));
     if (!isMaximized())
-        workbench::resizeWithin(this, size());
+        resizeWithin(this, size());
     splitter_->setSizes({leftWidth, width() - leftWidth});
     splitter_->restoreState(settings_.layout(splitter_->objectName()));
 }
@@ -399,8 +395,7 @@ bool WorkbenchWindow::mayClose()
     if (!session_.finishWrites())
         return false;
     return !session_.link().runningWork().saving ||
-           workbench::agrees(workbench::text("wb_close_saving"), workbench::text("wb_close_verb"),
-                             QStringLiteral("messageBox_Close"), this);
+           agrees(text("wb_close_saving"), text("wb_close_verb"), QStringLiteral("messageBox_Close"), this);
 }
 
 void WorkbenchWindow::dragEnterEvent(QDragEnterEvent* event)

@@ -42,7 +42,7 @@ QVariant WriteReportModel::data(const QModelIndex& index, int role) const
     const Row& row = rows_.at(index.row());
     switch (index.column()) {
     case Kind:
-        return workbench::text(row.kindKey);
+        return text(row.kindKey);
     case Key:
         return row.change.path;
     case Before:
@@ -57,7 +57,7 @@ QVariant WriteReportModel::headerData(int section, Qt::Orientation orientation, 
     static constexpr const char* keys[ColumnCount] = {"wb_report_kind", "wb_report_key", "wb_report_before",
                                                       "wb_report_after"};
     if (orientation == Qt::Horizontal && role == Qt::DisplayRole)
-        return workbench::text(keys[section]);
+        return text(keys[section]);
     return {};
 }
 

@@ -28,15 +28,15 @@ WriteReportView::WriteReportView(QWidget* parent)
     summary_->setWordWrap(true);
     summary_->setTextFormat(Qt::PlainText);
     summary_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    copy_->setIcon(workbench::lineIcon(QStringLiteral("copy")));
+    copy_->setIcon(lineIcon(QStringLiteral("copy")));
     copy_->setAutoRaise(true);
     texts_.bind([this] {
-        copy_->setToolTip(workbench::text("wb_report_copy"));
-        copy_->setAccessibleName(workbench::text("wb_report_copy"));
-        table_->setAccessibleName(workbench::plainText("wb_tab_report"));
+        copy_->setToolTip(text("wb_report_copy"));
+        copy_->setAccessibleName(text("wb_report_copy"));
+        table_->setAccessibleName(plainText("wb_tab_report"));
     });
     connect(copy_, &QToolButton::clicked, this,
-            [this] { QGuiApplication::clipboard()->setText(workbench::plainText(report_, typed_)); });
+            [this] { QGuiApplication::clipboard()->setText(plainText(report_, typed_)); });
 
     table_->setObjectName(QStringLiteral("tableView_Report"));
     table_->setModel(&model_);
@@ -49,7 +49,7 @@ WriteReportView::WriteReportView(QWidget* parent)
     table_->setColumnWidth(WriteReportModel::Before, fontMetrics().averageCharWidth() * 23);
 
     auto* empty = new EmptyNote(table_);
-    texts_.bind([empty] { empty->tell(workbench::text("wb_report_none")); });
+    texts_.bind([empty] { empty->tell(text("wb_report_none")); });
 
     auto* line = new QHBoxLayout;
     line->addWidget(symbol_);
@@ -82,8 +82,8 @@ void WriteReportView::showSummary()
     const bool asTyped = report_.accepted && typed_.isEmpty();
     const Mark mark = asTyped ? Mark::right : Mark::advice;
     symbol_->setPixmap(vlk::markPixmap(mark, palette(), vlk::markSize, devicePixelRatioF()));
-    summary_->setText(QStringLiteral("%1 %2").arg(time_.toString(QStringLiteral("HH:mm:ss")),
-                                                  workbench::summary(report_, typed_)));
+    summary_->setText(
+        QStringLiteral("%1 %2").arg(time_.toString(QStringLiteral("HH:mm:ss")), summary(report_, typed_)));
 }
 
 void WriteReportView::retranslate()
@@ -98,7 +98,7 @@ void WriteReportView::showDialog(const tracker::WriteReport& report, const QStri
     auto* dialog = new QDialog(parent);
     dialog->setObjectName(QStringLiteral("dialog_Report"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowTitle(workbench::plainText("wb_tab_report"));
+    dialog->setWindowTitle(plainText("wb_tab_report"));
     auto* view = new WriteReportView(dialog);
     view->setReport(report, typed);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, dialog);
@@ -109,7 +109,7 @@ void WriteReportView::showDialog(const tracker::WriteReport& report, const QStri
     // A refusal has no keys to show.
     const bool keys = !report.sameAsBefore();
     view->table_->setVisible(keys);
-    workbench::resizeWithin(dialog, keys ? QSize(860, 380) : QSize(560, dialog->heightForWidth(560)));
+    resizeWithin(dialog, keys ? QSize(860, 380) : QSize(560, dialog->heightForWidth(560)));
     dialog->open();
 }
 
