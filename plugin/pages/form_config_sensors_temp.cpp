@@ -1,7 +1,6 @@
 #include "pages/form_config_sensors_temp.h"
 
 #include "settings/temperature_settings.h"
-#include "windows/handle_ends.h"
 #include "windows/numbered_widget.h"
 #include "windows/vlk_dblslider2.h"
 #include "windows/zone_colors.h"
@@ -66,7 +65,6 @@ VLK_Form_Config_Sensors_Temp::Sensor VLK_Form_Config_Sensors_Temp::makeSensor(in
     scale->addWidget(sensor.highEnd);
     scale->addWidget(sensor.zones[1]);
     rows->addLayout(scale);
-    new vlk::HandleEnds(slider);
 
     auto* numbers = new QGridLayout;
     addNumber<QDoubleSpinBox>(numbers, 0, 0, "doubleSpinBox_Left_Temp_%1", number);

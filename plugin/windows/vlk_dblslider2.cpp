@@ -19,11 +19,39 @@ constexpr QPoint handleShape[] = {{0, 19}, {-4, 15}, {-4, 1}, {4, 1}, {4, 15}, {
 
 } // namespace
 
+// Lies under the slider and reaches into the space beside it.
+class VLK_DblSlider2::Ends : public QWidget
+{
+public:
+    static constexpr int room = handleHalf + 1;
+
+    explicit Ends(const VLK_DblSlider2* slider) : QWidget(slider->parentWidget()), slider_(slider)
+    {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter painter(this);
+        painter.translate(room, 0);
+        slider_->paintHandles(painter);
+    }
+
+private:
+    const VLK_DblSlider2* slider_;
+};
+
 VLK_DblSlider2::VLK_DblSlider2(QWidget* parent) : QWidget(parent)
 {
     setMouseTracking(true);
     setFocusPolicy(Qt::ClickFocus);
     setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
+}
+
+VLK_DblSlider2::~VLK_DblSlider2()
+{
+    delete ends_;
 }
 
 void VLK_DblSlider2::setRange(double min, double gap, double max)
@@ -33,7 +61,7 @@ void VLK_DblSlider2::setRange(double min, double gap, double max)
     minimum_ = min;
     gap_ = gap;
     maximum_ = max;
-    update();
+    redraw();
     setValue1(value1_);
     moveValue2(value2_);
 }
@@ -50,7 +78,7 @@ void VLK_DblSlider2::setValue1(double value)
     if (std::isnan(value) || clamped == value1_)
         return;
     value1_ = clamped;
-    update();
+    redraw();
     if (value1_ > value2_ - gap_)
         moveValue2(value1_ + gap_);
     Q_EMIT value1Changed(value1_);
@@ -62,7 +90,7 @@ void VLK_DblSlider2::setValue2(double value)
     if (std::isnan(value) || clamped == value2_)
         return;
     value2_ = clamped;
-    update();
+    redraw();
     if (value1_ + gap_ > value2_)
         setValue1(value2_ - gap_);
     Q_EMIT value2Changed(value2_);
@@ -85,7 +113,7 @@ void VLK_DblSlider2::moveValue2(double value)
     if (clamped == value2_)
         return;
     value2_ = clamped;
-    update();
+    redraw();
     Q_EMIT value2Changed(value2_);
 }
 
@@ -100,25 +128,25 @@ void VLK_DblSlider2::setValue(Handle handle, double value)
 void VLK_DblSlider2::setColorLow(const QColor& color)
 {
     colorLow_ = color;
-    update();
+    redraw();
 }
 
 void VLK_DblSlider2::setColorMiddle(const QColor& color)
 {
     colorMiddle_ = color;
-    update();
+    redraw();
 }
 
 void VLK_DblSlider2::setColorHigh(const QColor& color)
 {
     colorHigh_ = color;
-    update();
+    redraw();
 }
 
 void VLK_DblSlider2::setTickPosition(int position)
 {
     tickPosition_ = position;
-    update();
+    redraw();
 }
 
 QSize VLK_DblSlider2::minimumSizeHint() const
@@ -175,15 +203,55 @@ void VLK_DblSlider2::keyPressEvent(QKeyEvent* event)
 // A slider that is disabled or hidden in the middle of a drag gets no release event.
 void VLK_DblSlider2::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::EnabledChange)
+    if (event->type() == QEvent::EnabledChange) {
         dragged_ = Handle::None;
+        redraw();
+    }
     QWidget::changeEvent(event);
+}
+
+void VLK_DblSlider2::showEvent(QShowEvent* event)
+{
+    placeEnds();
+    QWidget::showEvent(event);
 }
 
 void VLK_DblSlider2::hideEvent(QHideEvent* event)
 {
     dragged_ = Handle::None;
+    delete ends_;
     QWidget::hideEvent(event);
+}
+
+void VLK_DblSlider2::moveEvent(QMoveEvent* event)
+{
+    placeEnds();
+    QWidget::moveEvent(event);
+}
+
+void VLK_DblSlider2::resizeEvent(QResizeEvent* event)
+{
+    placeEnds();
+    QWidget::resizeEvent(event);
+}
+
+void VLK_DblSlider2::redraw()
+{
+    update();
+    if (ends_)
+        ends_->update();
+}
+
+void VLK_DblSlider2::placeEnds()
+{
+    if (!isVisible() || isWindow())
+        return;
+    if (!ends_) {
+        ends_ = new Ends(this);
+        ends_->stackUnder(this);
+    }
+    ends_->setGeometry(geometry().adjusted(-Ends::room, 0, Ends::room, 0));
+    ends_->show();
 }
 
 void VLK_DblSlider2::paintEvent(QPaintEvent* /*event*/)

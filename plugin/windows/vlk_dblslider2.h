@@ -8,6 +8,7 @@
 // that was used last.
 
 #include <QColor>
+#include <QPointer>
 #include <QRect>
 #include <QWidget>
 
@@ -20,6 +21,7 @@ class VLK_DblSlider2 : public QWidget
 
 public:
     explicit VLK_DblSlider2(QWidget* parent = nullptr);
+    ~VLK_DblSlider2() override;
 
     // The scale is 0 to 100 with a gap of 1 at first, and the values stand at its ends.
     void setRange(double min, double gap, double max);
@@ -45,10 +47,6 @@ public:
 
     QSize minimumSizeHint() const override;
 
-    // At the ends of the scale they stand out of the slider by half, no more than so many pixels.
-    void paintHandles(QPainter& painter) const;
-    static constexpr int handleRoom = 5;
-
 Q_SIGNALS:
     void value1Changed(double value);
     void value2Changed(double value);
@@ -60,10 +58,16 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     enum class Handle { None, First, Second };
+
+    // At the ends of the scale the handles stand out of the slider by half, which is drawn beside it.
+    class Ends;
 
     double clampedValue1(double value) const;
     double clampedValue2(double value) const;
@@ -72,6 +76,9 @@ private:
 
     int pixelOf(double value) const;
     std::pair<int, int> handlePixels() const;
+    void placeEnds();
+    void redraw();
+    void paintHandles(QPainter& painter) const;
     void paintTrack(QPainter& painter, int pixel1, int pixel2) const;
     void paintTicks(QPainter& painter) const;
     void paintHandle(QPainter& painter, int pixel) const;
@@ -87,6 +94,7 @@ private:
     std::optional<QColor> colorMiddle_;
     std::optional<QColor> colorHigh_;
     int tickPosition_ = 0;
+    QPointer<QWidget> ends_;
 
     // Set by the last painting, 0 and empty before the first. Positions of the mouse refer to it.
     int paintedWidth_ = 0;
