@@ -58,17 +58,30 @@ NoticeBar::NoticeBar(QWidget* parent, const QString& name)
     row->addWidget(close_);
     setMinimumHeight(kHeight);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    connect(close_, &QToolButton::clicked, this, [this] {
-        if (const Told* shown = worst()) {
-            const int number = shown->number;
-            end(number);
-            Q_EMIT closed(number);
-        }
-    });
-    connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this, &NoticeBar::toggleFocus);
+    connect(close_, &QToolButton::clicked, this, &NoticeBar::closeShown);
+    // A host's own notices on the window have the same key, and take turns with the bar.
+    auto* keys = new QShortcut(Qt::Key_F6, this);
+    connect(keys, &QShortcut::activated, this, &NoticeBar::toggleFocus);
+    connect(keys, &QShortcut::activatedAmbiguously, this, &NoticeBar::toggleFocus);
     setCross();
     retranslate();
     hide();
+}
+
+const Notice* NoticeBar::shown() const
+{
+    const Told* told = worst();
+    return told ? &told->notice : nullptr;
+}
+
+void NoticeBar::closeShown()
+{
+    const Told* told = worst();
+    if (!told)
+        return;
+    const int number = told->number;
+    end(number);
+    Q_EMIT closed(number);
 }
 
 void NoticeBar::setCross()

@@ -58,6 +58,11 @@ Q_SIGNALS:
     void closed(int number);
 
 protected:
+    // Null when there is none.
+    const Notice* shown() const;
+    // As the cross does.
+    void closeShown();
+
     void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 

@@ -124,8 +124,7 @@ struct Notebook
 
 void readTracker(Tour& tour)
 {
-    const QString failure = tour.window().session().readConfiguration(true);
-    Tour::expect(failure.isEmpty(), failure);
+    Tour::expectOpened(tour.window().session().readConfiguration(true));
     tour.waitFor([] { return Tour::findVisible("tabWidget"); }, QStringLiteral("the full window"));
     Tour::find<QTabWidget>("tabWidget")->setCurrentIndex(Transfer);
 }

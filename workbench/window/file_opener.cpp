@@ -21,7 +21,7 @@ void FileOpener::open(const QString& path, TelemetryWindow window)
 {
     if (!QFileInfo(path).isFile()) {
         recent_.remove(path);
-        Q_EMIT failed(text("wb_file_missing").arg(path));
+        Q_EMIT failed([path] { return text("wb_file_missing").arg(path); });
         return;
     }
     if (storedFileKind(path) == StoredFile::Telemetry)
@@ -51,10 +51,10 @@ void FileOpener::chooseTelemetry(TelemetryWindow window)
         openTelemetry(path, window);
         break;
     case StoredFile::Configuration:
-        Q_EMIT failed(text("wb_file_no_telemetry").arg(path));
+        Q_EMIT failed([path] { return text("wb_file_no_telemetry").arg(path); });
         break;
     case StoredFile::Unknown:
-        Q_EMIT failed(text("wb_file_unknown").arg(path));
+        Q_EMIT failed([path] { return text("wb_file_unknown").arg(path); });
         break;
     }
 }
@@ -62,8 +62,10 @@ void FileOpener::chooseTelemetry(TelemetryWindow window)
 void FileOpener::openTelemetry(const QString& path, TelemetryWindow window)
 {
     if (const auto problem = checkTelemetryFile(path)) {
-        Q_EMIT failed(
-            sentences({text("wb_open_failed").arg(path), reasonOf(*problem), text("wb_do_telemetry_file")}));
+        Q_EMIT failed([path, problem] {
+            return sentences(
+                {text("wb_open_failed").arg(path), reasonOf(*problem), text("wb_do_telemetry_file")});
+        });
         return;
     }
     recent_.add(path, window);
@@ -73,8 +75,7 @@ void FileOpener::openTelemetry(const QString& path, TelemetryWindow window)
 
 void FileOpener::openConfiguration(const QString& path, TelemetryWindow window)
 {
-    const QString failure = session_.openConfiguration(path, settings_.fullWindow());
-    if (!failure.isEmpty()) {
+    if (const Sentence failure = session_.openConfiguration(path, settings_.fullWindow())) {
         Q_EMIT failed(failure);
         return;
     }

@@ -3,6 +3,7 @@
 // Opens what the user chose, dropped or named: a configuration in the configuration window, telemetry in the
 // browser or the table. A file that cannot be shown is told with its reason and opens nothing.
 
+#include "window/sentence.h"
 #include "window/settings.h"
 
 #include <QObject>
@@ -28,8 +29,8 @@ public:
     void chooseTelemetry(TelemetryWindow window);
 
 Q_SIGNALS:
-    // What the user asked for did not open: a text that says why and what to do.
-    void failed(const QString& text);
+    // What the user asked for did not open: what says why and what to do.
+    void failed(const workbench::Sentence& sentence);
     void opened();
 
 private:

@@ -81,21 +81,29 @@ HostSession::Fetched HostSession::fetchConfiguration()
 {
     const Reading reading = tracker_.readConfiguration();
     if (reading.outcome != Reading::Outcome::Came)
-        return {whyNothingCame(reading.outcome), {}, {}};
+        return {[outcome = reading.outcome] { return whyNothingCame(outcome); }, {}, {}};
     if (const auto problem = checkConfiguration(reading.document, tracker_.model()))
-        return {sentences({text("wb_why_answer"), reasonOf(*problem), text("wb_do_cable")}), {}, {}};
+        return {[problem] {
+                    return sentences({text("wb_why_answer"), reasonOf(*problem), text("wb_do_cable")});
+                },
+                {},
+                {}};
     QSaveFile file(readFiles_.filePath(QStringLiteral("tracker.xml")));
     QString reason;
     if (!vlk::saveWhole(file, reading.document, &reason))
-        return {sentences({text("wb_why_disk").arg(reason), text("wb_do_disk")}), {}, {}};
+        return {[reason] {
+                    return sentences({text("wb_why_disk").arg(reason), text("wb_do_disk")});
+                },
+                {},
+                {}};
     return {{}, reading.document, file.fileName()};
 }
 
-QString HostSession::readConfiguration(bool full)
+Sentence HostSession::readConfiguration(bool full)
 {
     const Fetched fetched = fetchConfiguration();
-    if (!fetched.failure.isEmpty())
-        return sentences({text("wb_read_failed"), fetched.failure});
+    if (fetched.failure)
+        return [why = fetched.failure] { return sentences({text("wb_read_failed"), why()}); };
     ++opened_;
     edited_.readFromTracker(fetched.document);
     link_.openConfiguration(fetched.path, full, false);
@@ -104,24 +112,26 @@ QString HostSession::readConfiguration(bool full)
     return {};
 }
 
-QString HostSession::liveTelemetry()
+Sentence HostSession::liveTelemetry()
 {
     const Fetched fetched = fetchConfiguration();
-    if (!fetched.failure.isEmpty())
-        return sentences({text("wb_live_failed"), fetched.failure});
+    if (fetched.failure)
+        return [why = fetched.failure] { return sentences({text("wb_live_failed"), why()}); };
     link_.openTelemetry(fetched.path);
     QFile::remove(fetched.path);
     return {};
 }
 
-QString HostSession::openConfiguration(const QString& path, bool full)
+Sentence HostSession::openConfiguration(const QString& path, bool full)
 {
     QFile file(path);
     const QByteArray document = contentOf(file);
     if (const auto problem = checkConfiguration(document, tracker_.model())) {
-        const QString reason =
-            file.isOpen() ? reasonOf(*problem) : text("wb_problem_unreadable").arg(file.errorString());
-        return sentences({text("wb_open_failed").arg(path), reason, text("wb_do_file")});
+        return [path, problem, error = file.isOpen() ? QString() : file.errorString()] {
+            return sentences({text("wb_open_failed").arg(path),
+                              error.isEmpty() ? reasonOf(*problem) : text("wb_problem_unreadable").arg(error),
+                              text("wb_do_file")});
+        };
     }
     ++opened_;
     edited_.openFile(path, document);

@@ -36,11 +36,10 @@ public:
     TrackerCommands& commands() { return commands_; }
     const EditedConfiguration& edited() const { return edited_; }
 
-    // Open windows of the plug-in. Empty when they did; else a text for the user that says what happened and
-    // what to do.
-    QString readConfiguration(bool full);
-    QString liveTelemetry();
-    QString openConfiguration(const QString& path, bool full);
+    // Open windows of the plug-in. Null when they did; else it says to the user what happened and what to do.
+    Sentence readConfiguration(bool full);
+    Sentence liveTelemetry();
+    Sentence openConfiguration(const QString& path, bool full);
     void newConfiguration(bool full);
 
     // Asked before a configuration is written that sets every key and was not read from the tracker: with the
@@ -68,7 +67,7 @@ Q_SIGNALS:
 private:
     struct Fetched
     {
-        QString failure; // of the text for the user: all but its first sentence
+        Sentence failure; // for the user: all but the first sentence
         QByteArray document;
         QString path; // a temporary file that holds it
     };

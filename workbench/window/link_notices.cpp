@@ -63,12 +63,12 @@ void LinkNotices::connectRequests()
     const TrackerCommands* commands = &session_.commands();
     connect(commands, &TrackerCommands::sent, &watch_, &AnswerWatch::begin);
     connect(commands, &TrackerCommands::done, this,
-            [this](const TrackerCommands::Sentence& sentence) { tellResult(sentence, true); });
+            [this](const Sentence& sentence) { tellResult(sentence, true); });
     connect(commands, &TrackerCommands::failed, this,
-            [this](const TrackerCommands::Sentence& sentence) { tellResult(sentence, false); });
+            [this](const Sentence& sentence) { tellResult(sentence, false); });
 }
 
-void LinkNotices::tellResult(const std::function<QString()>& sentence, bool isNews)
+void LinkNotices::tellResult(const Sentence& sentence, bool isNews)
 {
     status_.tell(StatusLine::Command, sentence);
     const auto notice = [sentence, mark = isNews ? vlk::Mark::changed : vlk::Mark::advice] {
@@ -126,7 +126,7 @@ void LinkNotices::tellRefused(vlk::Message answer, const AnswerProblem& problem,
     });
 }
 
-void LinkNotices::setTrouble(const std::function<QString()>& trouble)
+void LinkNotices::setTrouble(const Sentence& trouble)
 {
     trouble_ = trouble;
     isSaving_ = trouble_ && session_.link().runningWork().saving != 0;

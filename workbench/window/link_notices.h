@@ -11,6 +11,7 @@
 #include "check/record_check.h"
 #include "window/answer_watch.h"
 #include "window/front_notice.h"
+#include "window/sentence.h"
 
 namespace workbench {
 
@@ -40,12 +41,12 @@ private:
     void look(vlk::Direction direction, quint32 id, const void* p1);
     void tellRefused(vlk::Message answer, const AnswerProblem& problem, vlk::Message request);
     void tellDetached(bool isPulled);
-    void setTrouble(const std::function<QString()>& trouble);
+    void setTrouble(const Sentence& trouble);
     void connectRequests();
     QString silence(const QDateTime& since, vlk::Message request);
     vlk::Notice troubleNotice();
     void endSave();
-    void tellResult(const std::function<QString()>& sentence, bool isNews);
+    void tellResult(const Sentence& sentence, bool isNews);
 
     HostSession& session_;
     PluginWindows& windows_;
@@ -54,7 +55,7 @@ private:
     QWidget* mainWindow_;
     AnswerWatch watch_;
     FrontNotice front_;
-    std::function<QString()> trouble_;
+    Sentence trouble_;
     bool isSaving_ = false;  // a period, when the trouble came
     bool isPulled_ = false;  // the cable went while the tracker answered
     vlk::Message refused_{}; // the answer that was not passed on last

@@ -18,8 +18,7 @@ QWidget* form()
 
 void open(Tour& tour)
 {
-    const QString failure = tour.window().session().liveTelemetry();
-    Tour::expect(failure.isEmpty(), failure);
+    Tour::expectOpened(tour.window().session().liveTelemetry());
     tour.waitFor([] { return Tour::findVisible(kNumber) && page() != QLatin1String("page_Empty"); },
                  QStringLiteral("a record in the telemetry window"));
 }

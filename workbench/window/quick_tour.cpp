@@ -17,8 +17,7 @@ constexpr int kPort = 7001;
 
 void openWindow(Tour& tour)
 {
-    const QString failure = tour.window().session().readConfiguration(false);
-    Tour::expect(failure.isEmpty(), failure);
+    Tour::expectOpened(tour.window().session().readConfiguration(false));
     tour.waitFor([] { return Tour::findVisible("radioButton_Track_Econom"); },
                  QStringLiteral("the quick window"));
 }

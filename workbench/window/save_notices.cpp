@@ -110,7 +110,7 @@ void SaveNotices::tellFailed(const QString& path, const QString& reason)
     });
 }
 
-void SaveNotices::warn(const std::function<QString()>& sentence)
+void SaveNotices::warn(const Sentence& sentence)
 {
     status_.tell(StatusLine::Command, sentence);
     showWarning(sentence(), mainWindow_);

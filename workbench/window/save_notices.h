@@ -6,6 +6,7 @@
 // typed with those.
 
 #include "window/save_watch.h"
+#include "window/sentence.h"
 #include "window/typing_notices.h"
 
 namespace workbench {
@@ -34,7 +35,7 @@ private:
     void tellSaved(const QString& path);
     void tellSavedInPart(const QString& path, const SavedPart& part);
     void tellConfiguration(const QString& path);
-    void warn(const std::function<QString()>& sentence);
+    void warn(const Sentence& sentence);
     void tellFailed(const QString& path, const QString& reason);
 
     HostSession& session_;

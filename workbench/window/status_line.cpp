@@ -31,7 +31,7 @@ protected:
 
 } // namespace
 
-StatusLine::StatusLine(QStatusBar* bar, const std::function<QString()>& lasting)
+StatusLine::StatusLine(QStatusBar* bar, const Sentence& lasting)
     : QObject(bar), lasting_(lasting), time_(new QLabel(bar)), label_(new ElidedLabel(bar)),
       lastingLabel_(new QLabel(bar))
 {
@@ -48,7 +48,7 @@ StatusLine::StatusLine(QStatusBar* bar, const std::function<QString()>& lasting)
     bar->addPermanentWidget(lastingLabel_);
 }
 
-void StatusLine::tell(Topic topic, const std::function<QString()>& text)
+void StatusLine::tell(Topic topic, const Sentence& text)
 {
     clear(topic);
     held_.push_back({topic, text, QTime::currentTime()});

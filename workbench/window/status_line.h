@@ -4,11 +4,11 @@
 // its cause is gone the topic is cleared, and what was told before shows again; without any topic the line
 // says that all is ready. Right what lasts.
 
+#include "window/sentence.h"
+
 #include <QObject>
-#include <QString>
 #include <QTime>
 
-#include <functional>
 #include <vector>
 
 class QLabel;
@@ -28,10 +28,10 @@ public:
     };
 
     // What lasts is asked for at every refresh().
-    StatusLine(QStatusBar* bar, const std::function<QString()>& lasting);
+    StatusLine(QStatusBar* bar, const Sentence& lasting);
 
     // The text is asked for again when the language changes.
-    void tell(Topic topic, const std::function<QString()>& text);
+    void tell(Topic topic, const Sentence& text);
     void clear(Topic topic);
     void refresh();
 
@@ -39,11 +39,11 @@ private:
     struct Held
     {
         Topic topic;
-        std::function<QString()> text;
+        Sentence text;
         QTime time;
     };
 
-    std::function<QString()> lasting_;
+    Sentence lasting_;
     QLabel* time_;
     QLabel* label_;
     QLabel* lastingLabel_;

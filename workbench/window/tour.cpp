@@ -168,6 +168,11 @@ void Tour::giveName(QFileDialog& dialog, const QString& path)
     QMetaObject::invokeMethod(&dialog, "accept");
 }
 
+void Tour::expectOpened(const Sentence& failure)
+{
+    expect(!failure, failure ? failure() : QString());
+}
+
 void Tour::expect(bool condition, const QString& otherwise)
 {
     if (!condition)

@@ -69,6 +69,7 @@ public:
     // Types the name into a dialog of Qt's own and accepts it; what is to be saved replaces an earlier file.
     static void giveName(QFileDialog& dialog, const QString& path);
     static void expect(bool condition, const QString& otherwise);
+    static void expectOpened(const Sentence& failure);
     // Leaves files in the folder.
     void save(const QString& name, const QByteArray& content);
     void picture(const QString& name, QWidget* widget);

@@ -30,7 +30,7 @@ QString km(double mileage)
     return QLocale().toString(mileage, 'f', 2);
 }
 
-TrackerCommands::Sentence saying(const char* key)
+Sentence saying(const char* key)
 {
     return [key] { return text(key); };
 }

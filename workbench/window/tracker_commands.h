@@ -8,6 +8,7 @@
 
 #include "window/plugin_link.h"
 #include "window/repeated_requests.h"
+#include "window/sentence.h"
 
 namespace workbench {
 
@@ -18,7 +19,6 @@ class TrackerCommands : public QObject
 public:
     // The text of the question and that of the button that agrees.
     using Question = std::function<bool(const QString& text, const QString& verb)>;
-    using Sentence = std::function<QString()>;
 
     TrackerCommands(tracker::SimulatedTracker& tracker, RepeatedRequests& requests, PluginLink& link);
 
@@ -33,9 +33,9 @@ public:
 Q_SIGNALS:
     // A command is on its way that the tracker answers.
     void sent(vlk::Message command);
-    void done(const workbench::TrackerCommands::Sentence& sentence);
+    void done(const workbench::Sentence& sentence);
     // It was not sent, or nobody knows what became of it.
-    void failed(const workbench::TrackerCommands::Sentence& sentence);
+    void failed(const workbench::Sentence& sentence);
 
 private:
     struct Command

@@ -1,6 +1,8 @@
 #include "window/window_notice.h"
 
 #include <QEvent>
+#include <QMenu>
+#include <QShortcut>
 
 namespace workbench {
 
@@ -20,7 +22,30 @@ WindowNotice::WindowNotice(QWidget* owner, std::set<int> dismissed)
     setFrameShape(QFrame::Box);
     setNewestFirst();
     owner->installEventFilter(this);
+    keys_ = new QShortcut(Qt::Key_F6, owner);
+    connect(keys_, &QShortcut::activated, this, &WindowNotice::offerByKeys);
+    connect(keys_, &QShortcut::activatedAmbiguously, this, &WindowNotice::offerByKeys);
     connect(this, &NoticeBar::closed, this, [this](int number) { dismissed_.insert(number); });
+}
+
+WindowNotice::~WindowNotice()
+{
+    delete keys_;
+}
+
+void WindowNotice::offerByKeys()
+{
+    const Notice* notice = shown();
+    if (!notice || !isVisible())
+        return;
+    auto* menu = new QMenu(parentWidget());
+    menu->setObjectName(QStringLiteral("menu_WindowNotice"));
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const Notice::Action& action : notice->actions)
+        menu->addAction(action.text, this, action.act);
+    menu->addAction(tr("wrd_402"), this, &WindowNotice::closeShown);
+    menu->setActiveAction(menu->actions().constFirst());
+    menu->popup(geometry().bottomLeft());
 }
 
 void WindowNotice::say(int number, const std::function<Notice()>& notice)

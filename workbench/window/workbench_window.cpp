@@ -224,19 +224,19 @@ bool WorkbenchWindow::isConfigurationOpen() const
     return windows_.modal() && !session_.edited().name().isEmpty();
 }
 
-void WorkbenchWindow::tellOfRun(const std::function<QString()>& text)
+void WorkbenchWindow::tellOfRun(const Sentence& text)
 {
     status_->tell(StatusLine::Program, text);
 }
 
-void WorkbenchWindow::tellOpened(const QString& failure)
+void WorkbenchWindow::tellOpened(const Sentence& failure)
 {
-    if (failure.isEmpty()) {
+    if (!failure) {
         status_->clear(StatusLine::Command);
         return;
     }
-    status_->tell(StatusLine::Command, [failure] { return failure; });
-    showWarning(failure, this);
+    status_->tell(StatusLine::Command, failure);
+    showWarning(failure(), this);
 }
 
 void WorkbenchWindow::openFile(const QString& path, TelemetryWindow window)
@@ -276,7 +276,7 @@ void WorkbenchWindow::setLanguage(const QString& code)
     if (code == languages_.current())
         return;
     if (!languages_.set(code)) {
-        tellOpened(text("wb_language_missing").arg(code));
+        tellOpened([code] { return text("wb_language_missing").arg(code); });
         return;
     }
     settings_.setLanguage(code);

@@ -10,6 +10,7 @@
 #include "window/message_log_model.h"
 #include "window/plugin_log.h"
 #include "window/plugin_windows.h"
+#include "window/sentence.h"
 #include "window/settings.h"
 
 #include <QMainWindow>
@@ -56,7 +57,7 @@ public:
     void openFile(const QString& path, TelemetryWindow window = TelemetryWindow::Browser);
     void showHelp(const QString& page);
     // What holds for the whole run, in the status line.
-    void tellOfRun(const std::function<QString()>& text);
+    void tellOfRun(const Sentence& text);
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -75,7 +76,7 @@ private:
     QString lasting();
 
     // The result of a command that opens a window: empty, or why it did not.
-    void tellOpened(const QString& failure);
+    void tellOpened(const Sentence& failure);
     void chooseFolders();
     void applyFolders();
     void showBalance();
