@@ -931,6 +931,8 @@
     <message id="cfgt6_415"><translation>Датчик</translation></message>
     <message id="cfgt6_416"><translation>Дата</translation></message>
     <message id="cfgt6_450"><translation>Трекер не подключён.</translation></message>
+    <message id="cfgt6_451"><translation>с %1</translation></message>
+    <message id="cfgt6_452"><translation>Недоступно при «%1»</translation></message>
     <message id="cfgt7_001"><translation>Датчики температуры</translation></message>
     <message id="cfgt7_002"><translation>Min</translation></message>
     <message id="cfgt7_003"><translation>Max</translation></message>

@@ -56,4 +56,12 @@ QPalette ofPresentValue(QPalette palette)
     return palette;
 }
 
+QPalette ofOldValue(QPalette palette)
+{
+    const QColor window = palette.color(QPalette::Active, QPalette::Window);
+    const QColor grey = between(palette.color(QPalette::Active, QPalette::Text), window);
+    palette.setColor(QPalette::Text, grey);
+    return palette;
+}
+
 } // namespace vlk

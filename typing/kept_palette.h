@@ -18,5 +18,7 @@ QPalette withReadableDisabledText(QPalette palette);
 
 // A field that only shows: as the window around it, and no paler where it is disabled.
 QPalette ofPresentValue(QPalette palette);
+// Its text as grey as a disabled one.
+QPalette ofOldValue(QPalette palette);
 
 } // namespace vlk

@@ -33,6 +33,12 @@ void showAsPresent(QWidget* value, bool present)
     value->setPalette(present ? ofPresentValue(value->palette()) : QPalette());
 }
 
+void showAsOld(QWidget* value, bool old)
+{
+    const QPalette present = ofPresentValue({});
+    value->setPalette(old ? ofOldValue(present) : present);
+}
+
 void showPresentValue(QDoubleSpinBox* box, double value)
 {
     box->setSpecialValueText(QString());

@@ -14,6 +14,8 @@ void standOut(QWidget* value, bool present = true);
 // The same, and a field has the colour of the window around it, no paler where it is disabled. Without
 // `present` a line is one to type into again.
 void showAsPresent(QWidget* value, bool present = true);
+// One that holds no longer is grey.
+void showAsOld(QWidget* value, bool old);
 
 // A measured value, or a dash before the first one; the box holds its least value meanwhile.
 void showPresentValue(QDoubleSpinBox* box, double value);

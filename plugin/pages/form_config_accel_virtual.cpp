@@ -58,6 +58,7 @@ VLK_Form_Config_Accel_Virtual::VLK_Form_Config_Accel_Virtual(QWidget* parent)
       settings_(vlk::kAccelSettings, "cfgt9_001")
 {
     ui_->setupUi(this);
+    age_.tellIn(ui_->label_Quest_Since);
     for (std::size_t i = 0; i < sensors_.size(); ++i)
         sensors_[i] = makeSensor(i);
     vlk::tellWhyDisabled(ui_->groupBox_Quest, "cfgt6_450");
@@ -66,6 +67,7 @@ VLK_Form_Config_Accel_Virtual::VLK_Form_Config_Accel_Virtual(QWidget* parent)
     using This = VLK_Form_Config_Accel_Virtual;
     connect(&settings_, &vlk::PageSettings::changed, this, &This::compareAll);
     connect(&settings_, &vlk::PageSettings::shown, this, &This::compareAll);
+    connect(&age_, &vlk::PresentAge::changed, this, &This::compareAll);
     connect(&query_, &QTimer::timeout, this, &This::slot_timeOut_Query);
     connect(ui_->checkBox_Auto, &QCheckBox::stateChanged, this, &This::slot_stateChanged_checkBox_Auto);
     connect(ui_->pushButton_Quest, &QPushButton::clicked, this, &This::slot_pressed_pushButton_Quest);
@@ -128,6 +130,7 @@ void VLK_Form_Config_Accel_Virtual::retranslate()
     ui_->retranslateUi(this);
     ui_->spinBox_Auto_TimeOut->setSuffix(QLatin1Char(' ') + tr("abbr_003"));
     settings_.retranslate();
+    age_.retranslate();
     int width = 0;
     for (const Sensor& sensor : sensors_)
         width = qMax(width, sensor.level->sizeHint().width());
@@ -175,6 +178,7 @@ void VLK_Form_Config_Accel_Virtual::showPresentValues(const vlk::AccelValues& va
         sensors_[i].present->setValue(static_cast<int>(std::clamp(present[i] * 10, 0.0, end)));
         showPresent(i, QString::asprintf("%.1f", present[i]));
     }
+    age_.answered();
     pending_ = monitoring_;
     if (monitoring_)
         query_.start();
@@ -186,6 +190,7 @@ void VLK_Form_Config_Accel_Virtual::clearPresentValues()
         sensors_[i].present->setValue(0);
         showPresent(i, QStringLiteral("0"));
     }
+    age_.clear();
 }
 
 void VLK_Form_Config_Accel_Virtual::showPresent(std::size_t index, const QString& number)
@@ -195,8 +200,12 @@ void VLK_Form_Config_Accel_Virtual::showPresent(std::size_t index, const QString
 }
 
 // What is above the level would trigger the sensor now.
-void VLK_Form_Config_Accel_Virtual::compare(const Sensor& sensor)
+void VLK_Form_Config_Accel_Virtual::compare(const Sensor& sensor) const
 {
+    if (age_.isOld()) {
+        vlk::showAsOld(sensor.presentText, true);
+        return;
+    }
     QPalette colors;
     if (numberIn(sensor.presentText->text()).toDouble() > sensor.level->value()) {
         colors.setColor(QPalette::Base, Qt::red);
@@ -245,6 +254,7 @@ void VLK_Form_Config_Accel_Virtual::slot_stateChanged_checkBox_Auto(int state)
     } else {
         query_.stop();
     }
+    age_.setPeriod(period);
     if (vlkConfigFull)
         vlkConfigFull->startAccelMonitor(monitoring_, period);
 }

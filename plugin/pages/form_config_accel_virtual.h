@@ -5,6 +5,7 @@
 // of the section ACCEL (settings/accel_settings.h); what is measured is not stored.
 
 #include "windows/binder/page_settings.h"
+#include "windows/present_age.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -68,7 +69,7 @@ private:
     Sensor makeSensor(std::size_t index);
     void setTabOrder();
     void showPresent(std::size_t index, const QString& number);
-    static void compare(const Sensor& sensor);
+    void compare(const Sensor& sensor) const;
     void compareAll();
 
     std::unique_ptr<Ui::VLK_Designer_Form_Config_Accel_Virtual> ui_;
@@ -77,5 +78,6 @@ private:
     bool monitoring_ = false;
     bool pending_ = false; // present values are awaited
     QTimer query_{this};
+    vlk::PresentAge age_;
     vlk::PageSettings settings_;
 };

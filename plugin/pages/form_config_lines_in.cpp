@@ -30,6 +30,7 @@ VLK_Form_Config_Lines_In::VLK_Form_Config_Lines_In(QWidget* parent)
       settings_(vlk::kLinesInSettings, "cfgt8_001")
 {
     ui_->setupUi(this);
+    age_.tellIn(ui_->label_Quest_Since);
     lines_ = {ui_->lineSettings_In1, ui_->lineSettings_In2, ui_->lineSettings_In3};
     lines_[0]->setLevelsVisible(false);
     settings_.bind(this, {lines_.begin(), lines_.end()});
@@ -38,6 +39,10 @@ VLK_Form_Config_Lines_In::VLK_Form_Config_Lines_In(QWidget* parent)
     connect(ui_->pushButton_Quest, &QPushButton::clicked, this, &This::slot_pressed_pushButton_Quest);
     connect(&settings_, &vlk::PageSettings::changed, this, &This::showUses);
     connect(&settings_, &vlk::PageSettings::shown, this, &This::showUses);
+    connect(&age_, &vlk::PresentAge::changed, this, [this] {
+        for (VLK_Form_Lines_In_Settings* line : lines_)
+            line->setPresentValueOld(age_.isOld());
+    });
     retranslate();
     setDefaults();
 }
@@ -49,6 +54,7 @@ void VLK_Form_Config_Lines_In::retranslate()
     ui_->retranslateUi(this);
     ui_->spinBox_AutoQuest_TimeOut->setSuffix(QLatin1Char(' ') + tr("abbr_003"));
     settings_.retranslate();
+    age_.retranslate();
     for (VLK_Form_Lines_In_Settings* line : lines_)
         line->retranslate();
 }
@@ -59,6 +65,7 @@ void VLK_Form_Config_Lines_In::setDefaults()
     stopAuto();
     for (VLK_Form_Lines_In_Settings* line : lines_)
         line->clearPresentValue();
+    age_.clear();
 }
 
 void VLK_Form_Config_Lines_In::showUses()
@@ -77,8 +84,10 @@ void VLK_Form_Config_Lines_In::showLineValues(const QByteArray& answer)
         const std::size_t line = pair.left(colon).toUInt(&known) - kFirstLine;
         bool measured = false;
         const unsigned millivolts = pair.mid(colon + 1).toUInt(&measured, 16);
-        if (known && measured && line < lines_.size())
+        if (known && measured && line < lines_.size()) {
             lines_[line]->setPresentValue(volts(millivolts));
+            age_.answered();
+        }
     }
 }
 
@@ -89,6 +98,7 @@ void VLK_Form_Config_Lines_In::showAnalogRecord(const uchar* record)
     for (std::size_t line = 0; line < lines_.size(); ++line)
         lines_[line]->setPresentAinValue(
             volts(qFromLittleEndian<quint16>(record + vlk::analogRecordLine1 + 2 * line)));
+    age_.answered();
 }
 
 void VLK_Form_Config_Lines_In::stopAuto()
@@ -101,8 +111,10 @@ void VLK_Form_Config_Lines_In::slot_stateChanged_checkBox_Auto(int state)
     const bool on = state != Qt::Unchecked;
     ui_->spinBox_AutoQuest_TimeOut->setDisabled(on);
     ui_->pushButton_Quest->setDisabled(on);
+    const int period = on ? ui_->spinBox_AutoQuest_TimeOut->value() * 1000 : 0;
+    age_.setPeriod(period);
     if (vlkConfigFull)
-        vlkConfigFull->startLinesMonitor(on, kLines, on ? ui_->spinBox_AutoQuest_TimeOut->value() * 1000 : 0);
+        vlkConfigFull->startLinesMonitor(on, kLines, period);
 }
 
 void VLK_Form_Config_Lines_In::slot_pressed_pushButton_Quest()

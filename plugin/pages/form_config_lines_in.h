@@ -5,6 +5,7 @@
 // It shows the voltages on the lines, asked for once or as long as the window's monitor runs.
 
 #include "windows/binder/page_settings.h"
+#include "windows/present_age.h"
 
 #include <QWidget>
 
@@ -58,4 +59,5 @@ private:
     std::unique_ptr<Ui::VLK_Designer_Form_Config_Lines_In> ui_;
     std::array<VLK_Form_Lines_In_Settings*, 3> lines_{};
     vlk::PageSettings settings_;
+    vlk::PresentAge age_;
 };

@@ -141,6 +141,12 @@ void VLK_Form_Lines_In_Settings::clearPresentValue()
         vlk::showNoPresentValue(box);
 }
 
+void VLK_Form_Lines_In_Settings::setPresentValueOld(bool old)
+{
+    for (QDoubleSpinBox* box : presentValues())
+        vlk::showAsOld(box, old);
+}
+
 void VLK_Form_Lines_In_Settings::setPresentAinValue(double volts)
 {
     vlk::showPresentValue(ui_->doubleSpinBox_AIN_Cur, volts);

@@ -34,6 +34,8 @@ public:
     void setPresentAinValue(double volts);
     // Until the tracker answers.
     void clearPresentValue();
+    // It holds no longer.
+    void setPresentValueOld(bool old);
 
 public Q_SLOTS:
     // An empty one names an edit that the settings take from its widget themselves.

@@ -88,12 +88,13 @@ bool Values::holdsAll(std::span<const When> conditions) const
     return std::ranges::all_of(conditions, [this](const When& condition) { return holds(condition); });
 }
 
-bool Values::holds(const Enable& rule) const
+const When* Values::missing(const Enable& rule) const
 {
-    if (!rule.any)
-        return holdsAll(rule.when);
-    return std::any_of(rule.when.begin(), rule.when.end(),
-                       [&](const When& condition) { return condition && holds(condition); });
+    const auto isMet = [this](const When& condition) { return holds(condition); };
+    const auto isOneMet = [this](const When& condition) { return condition && holds(condition); };
+    if (rule.any ? std::ranges::any_of(rule.when, isOneMet) : std::ranges::all_of(rule.when, isMet))
+        return nullptr;
+    return &*std::ranges::find_if_not(rule.when, isMet);
 }
 
 Limits Values::limits(int row) const

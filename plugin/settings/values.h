@@ -87,7 +87,9 @@ public:
     std::vector<Difference> differences(const Values& other) const;
 
     // Whether the conditions of a rule of the table hold.
-    bool holds(const Enable& rule) const;
+    bool holds(const Enable& rule) const { return !missing(rule); }
+    // The first condition for want of which the rule does not hold; null where it does.
+    const When* missing(const Enable& rule) const;
     bool holds(const Doubt& rule) const { return holdsAll(rule.when); }
     // The least distance that a rule of the table keeps now, in units of the widget.
     double gapOf(const Distance& rule) const;

@@ -44,12 +44,12 @@ private Q_SLOTS:
             {"cfgt8_002", 10}, {"cfgt8_003+", 90}, {"cfgt8_004+", 90}, {"cfgt8_007", 60}};
         for (const auto& [item, height] : heights) {
             select(3, item);
-            QVERIFY2(form(3)->height() >= height, item);
+            QVERIFY2(lineForm(3)->height() >= height, item);
         }
         QCOMPARE(child<QSpinBox>("spinBox_Response_In3")->suffix(), " abbr_012");
         select(1, "cfgt8_003+");
         select(2, "cfgt8_003-");
-        QVERIFY(form(1)->height() >= 60 && form(2)->height() >= 60);
+        QVERIFY(lineForm(1)->height() >= 60 && lineForm(2)->height() >= 60);
     }
 
     void levels()
@@ -138,6 +138,35 @@ private Q_SLOTS:
         QCOMPARE(present(1, "PLS_AIN_Cur"), 0.0);
     }
 
+    // What has had no successor for two periods, or will have none.
+    void oldValuesAreGrey()
+    {
+        VLK_Widget_Config_Full full;
+        full.deviceConnected();
+        auto* form = full.findChild<VLK_Form_Config_Lines_In*>();
+        window = form;
+        const auto* box = part<QDoubleSpinBox>(3, "doubleSpinBox_AIN_Cur");
+        const QColor fresh = box->palette().color(QPalette::Text);
+        const auto isOld = [&] {
+            const bool isSaid = !child<QLabel>("label_Quest_Since")->text().isEmpty();
+            return isSaid && box->palette().color(QPalette::Text) != fresh;
+        };
+        child<QSpinBox>("spinBox_AutoQuest_TimeOut")->setValue(2);
+        auto* again = child<QCheckBox>("checkBox_AutoQuest");
+        again->setChecked(true);
+        form->showLineValues("0000000"
+                             "23:1F4");
+        QVERIFY(!isOld());
+        QTRY_VERIFY_WITH_TIMEOUT(isOld(), 6000);
+        form->showLineValues("0000000"
+                             "23:1F5");
+        QVERIFY(!isOld());
+        again->setChecked(false);
+        QVERIFY(isOld());
+        form->setDefaults();
+        QVERIFY(!isOld());
+    }
+
     // The window stops the monitor at the next timeout, since it is not active here.
     void asksTheTracker()
     {
@@ -159,11 +188,11 @@ private Q_SLOTS:
     }
 
 private:
-    QWidget* form(int line) const { return child<QWidget>(QString("lineSettings_In%1").arg(line)); }
+    QWidget* lineForm(int line) const { return child<QWidget>(QString("lineSettings_In%1").arg(line)); }
     template <class T>
     T* part(int line, const QString& name) const
     {
-        return form(line)->findChild<T*>(name);
+        return lineForm(line)->findChild<T*>(name);
     }
     double present(int line, const char* name) const
     {

@@ -17,10 +17,12 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QHash>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLoggingCategory>
 #include <QSpinBox>
+#include <QToolTip>
 #include <QTreeWidget>
 
 #include <algorithm>
@@ -116,10 +118,44 @@ void Binder::addTarget(QWidget* widget, const Enable& rule)
     const auto known = std::find_if(targets_.begin(), targets_.end(), [&](const Target& target) {
         return target.widget == widget && target.effect == rule.effect;
     });
-    if (known == targets_.end())
-        targets_.push_back({widget, forms_.labelOf(widget), rule.effect, {&rule}});
-    else
+    if (known != targets_.end()) {
         known->rules.push_back(&rule);
+        return;
+    }
+    targets_.push_back({widget, forms_.labelOf(widget), rule.effect, {&rule}});
+    if (rule.effect == Enable::Effect::shown)
+        return;
+    widget->installEventFilter(this);
+    if (QLabel* label = targets_.back().label)
+        label->installEventFilter(this);
+}
+
+bool Binder::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* widget = qobject_cast<QWidget*>(watched);
+    if (event->type() != QEvent::ToolTip || !widget || widget->isEnabled())
+        return QObject::eventFilter(watched, event);
+    const auto target = std::ranges::find_if(targets_, [&](const Target& candidate) {
+        return candidate.widget == widget || candidate.label == widget;
+    });
+    const QString why = target == targets_.end() ? QString() : whyDisabled(*target);
+    if (why.isEmpty())
+        return QObject::eventFilter(watched, event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), why, widget);
+    return true;
+}
+
+QString Binder::whyDisabled(const Target& target) const
+{
+    for (const Enable* rule : target.rules) {
+        if (const When* missing = values_.missing(*rule)) {
+            const QString caption = captionText(values_.setting(missing->row));
+            const QString value = valueText(values_, missing->row);
+            return QCoreApplication::translate("vlk", "cfgt6_452")
+                .arg(caption.isEmpty() ? value : caption + QStringLiteral(": ") + value);
+        }
+    }
+    return {};
 }
 
 void Binder::join(QWidget* form)

@@ -69,6 +69,7 @@ public:
     bool isShowing() const override { return showing_ > 0; }
     void edited(int row, const QString& value) override;
     void set(int row, const QString& value) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
     // A value changed by an edit of the user or by a rule that it ran. The path is that below the section.
@@ -83,6 +84,9 @@ private:
         Enable::Effect effect;
         std::vector<const Enable*> rules;
     };
+
+    // Why rules have disabled it, for its tool tip.
+    QString whyDisabled(const Target& target) const;
 
     // Whether a name of the row tells a form that is not there yet.
     bool isLate(const Setting& setting) const;

@@ -1,0 +1,52 @@
+#include "windows/present_age.h"
+
+#include "base/clock.h"
+
+#include <QLabel>
+
+namespace vlk {
+
+PresentAge::PresentAge()
+{
+    due_.setSingleShot(true);
+    connect(&due_, &QTimer::timeout, this, [this] { setOld(true); });
+}
+
+void PresentAge::setPeriod(int periodMs)
+{
+    due_.stop();
+    due_.setInterval(2 * periodMs);
+    if (periodMs > 0)
+        due_.start();
+    else
+        setOld(last_.isValid());
+}
+
+void PresentAge::answered()
+{
+    last_ = now().time();
+    if (due_.interval() > 0)
+        due_.start();
+    setOld(false);
+}
+
+void PresentAge::clear()
+{
+    last_ = {};
+    setOld(false);
+}
+
+void PresentAge::setOld(bool isOld)
+{
+    isOld_ = isOld && last_.isValid();
+    retranslate();
+    Q_EMIT changed();
+}
+
+void PresentAge::retranslate()
+{
+    since_->setText(isOld_ ? QObject::tr("cfgt6_451").arg(last_.toString(QStringLiteral("HH:mm:ss")))
+                           : QString());
+}
+
+} // namespace vlk
