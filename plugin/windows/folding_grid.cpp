@@ -13,6 +13,8 @@ namespace vlk {
 namespace {
 
 constexpr int kColumnsOfPair = 2;
+constexpr int kLastColumn = 4;
+constexpr int kPairGap = 8; // beside the one that every column has
 
 bool isCaption(QLayoutItem* item)
 {
@@ -81,10 +83,12 @@ void FoldingGrid::learn()
     // The words of a check box may run on where no field follows.
     for (QLayoutItem* item : fresh) {
         Place& place = places_[item];
+        const int columns = place.columns;
         if (place.columns == 1 && place.column % kColumnsOfPair == 0 &&
             qobject_cast<QAbstractButton*>(item->widget()) && !qobject_cast<QPushButton*>(item->widget()) &&
-            isAlone(place)) {
+            isAlone(place))
             place.columns = kColumnsOfPair;
+        if (place.columns != columns || place.column + columns > kColumnsOfPair) {
             grid_->removeItem(item);
             putBack(item, place);
         }
@@ -171,12 +175,16 @@ QHash<QLayoutItem*, FoldingGrid::Place> FoldingGrid::foldedPlaces() const
     return folded;
 }
 
+// Between the pairs lies an empty column.
 void FoldingGrid::putBack(QLayoutItem* item, const Place& place) const
 {
+    const bool isRight = place.column >= kColumnsOfPair;
+    const int column = place.column + (isRight ? 1 : 0);
+    const int columns = place.columns + (!isRight && place.column + place.columns > kColumnsOfPair ? 1 : 0);
     if (QLayout* inner = item->layout())
-        grid_->addLayout(inner, place.row, place.column, place.rows, place.columns, item->alignment());
+        grid_->addLayout(inner, place.row, column, place.rows, columns, item->alignment());
     else
-        grid_->addItem(item, place.row, place.column, place.rows, place.columns, item->alignment());
+        grid_->addItem(item, place.row, column, place.rows, columns, item->alignment());
 }
 
 void FoldingGrid::fold(bool folded)
@@ -207,18 +215,22 @@ void FoldingGrid::setOnePair(int captions, int fields) const
 {
     // What the fields do not take stays empty behind them.
     const bool isLimited = fields > 0;
-    setColumns({captions, fields, 0}, isLimited ? 0 : 1, isLimited ? 1 : 0);
+    setColumns({captions, fields, 0, 0}, isLimited ? 0 : 1, isLimited ? 1 : 0);
 }
 
 void FoldingGrid::setTwoPairs(int captions, int fields, int secondCaptions) const
 {
-    setColumns({captions, fields, secondCaptions}, 1, 1);
+    // What stands across it brings the layout a gap of its own.
+    const bool isCrossed = std::ranges::any_of(places_, [](const Place& place) {
+        return place.column < kColumnsOfPair && place.column + place.columns > kColumnsOfPair;
+    });
+    setColumns({captions, fields, isCrossed ? 0 : kPairGap, secondCaptions}, 1, 1);
 }
 
-void FoldingGrid::setColumns(const std::array<int, 3>& widths, int firstStretch, int secondStretch) const
+void FoldingGrid::setColumns(const std::array<int, 4>& widths, int firstStretch, int secondStretch) const
 {
-    bool changes = grid_->columnCount() < 2 * kColumnsOfPair || grid_->columnStretch(1) != firstStretch ||
-                   grid_->columnStretch(3) != secondStretch;
+    bool changes = grid_->columnCount() <= kLastColumn || grid_->columnStretch(1) != firstStretch ||
+                   grid_->columnStretch(kLastColumn) != secondStretch;
     for (std::size_t column = 0; column < widths.size(); ++column)
         changes = changes || grid_->columnMinimumWidth(static_cast<int>(column)) != widths[column];
     if (!changes)
@@ -226,7 +238,9 @@ void FoldingGrid::setColumns(const std::array<int, 3>& widths, int firstStretch,
     for (std::size_t column = 0; column < widths.size(); ++column)
         grid_->setColumnMinimumWidth(static_cast<int>(column), widths[column]);
     grid_->setColumnStretch(1, firstStretch);
-    grid_->setColumnStretch(3, secondStretch);
+    grid_->setColumnStretch(2, 0);
+    grid_->setColumnStretch(3, 0);
+    grid_->setColumnStretch(kLastColumn, secondStretch);
     tellOuter();
 }
 

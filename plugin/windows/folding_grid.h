@@ -55,7 +55,7 @@ private:
     bool isAlone(const Place& place) const;
     void putBack(QLayoutItem* item, const Place& place) const;
     QHash<QLayoutItem*, Place> foldedPlaces() const;
-    void setColumns(const std::array<int, 3>& widths, int firstStretch, int secondStretch) const;
+    void setColumns(const std::array<int, 4>& widths, int firstStretch, int secondStretch) const;
     void tellOuter() const;
 
     QPointer<QGridLayout> grid_;

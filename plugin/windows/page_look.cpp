@@ -28,32 +28,61 @@ namespace {
 constexpr int kPageMargin = 9;
 constexpr int kRowGap = 6;
 constexpr int kColumnGap = 8;
+constexpr int kPairGap = 16;
+constexpr int kEmptyColumns = 3 * kColumnGap; // of a second pair that nothing but what stands across uses
 constexpr int kGroupGap = 12;
 constexpr int kGroupIndent = 16;
 constexpr int kWidestCaption = 260;
 constexpr int kDigits[] = {6, 10, 16}; // widths of number boxes
 constexpr int kLettersOfText = 18;     // what a line of text shows at least
 constexpr int kWidestField = 480;
-constexpr int kBesideFields = 30;            // a button for help
 constexpr char kRowSpacing[] = "rowSpacing"; // of boxes that stand side by side, in a property
 
+// The innermost one of these in which the widget stands.
+QLayout* layoutAround(QLayout* outer, QWidget* widget)
+{
+    if (!outer || outer->indexOf(widget) >= 0)
+        return outer;
+    for (int i = 0; i < outer->count(); ++i) {
+        if (QLayout* found = layoutAround(outer->itemAt(i)->layout(), widget))
+            return found;
+    }
+    return nullptr;
+}
+
+// What stands behind an item in its row, such as a button for help.
+int widthBehind(const QLayout* around, int item)
+{
+    const auto* row = qobject_cast<const QBoxLayout*>(around);
+    if (!row || row->direction() != QBoxLayout::LeftToRight)
+        return 0;
+    int width = 0;
+    for (int i = item + 1; i < row->count(); ++i) {
+        if (!row->itemAt(i)->isEmpty())
+            width += row->spacing() + row->itemAt(i)->minimumSize().width();
+    }
+    return width;
+}
+
 // From the edges of the page to those of a layout.
-QMargins insetOf(const QLayout* layout, const QWidget* page)
+QMargins insetOf(QLayout* layout, const QWidget* page)
 {
     QMargins inset;
-    const QObject* next = layout;
-    while (next && next != page) {
-        if (const auto* one = qobject_cast<const QLayout*>(next)) {
-            // A stack says that it has margins, but has none.
-            if (!qobject_cast<const QStackedLayout*>(one))
-                inset += one->contentsMargins();
-            next = one->parent();
-            continue;
+    QLayout* inner = layout;
+    while (inner) {
+        // A stack says that it has margins, but has none.
+        if (!qobject_cast<const QStackedLayout*>(inner))
+            inset += inner->contentsMargins();
+        auto* outer = qobject_cast<QLayout*>(inner->parent());
+        int item = outer ? outer->indexOf(inner) : -1;
+        QWidget* widget = outer ? nullptr : inner->parentWidget();
+        for (; widget && widget != page && !outer; widget = widget->parentWidget()) {
+            inset += widget->contentsMargins();
+            outer = widget->parentWidget() ? layoutAround(widget->parentWidget()->layout(), widget) : nullptr;
+            item = outer ? outer->indexOf(widget) : -1;
         }
-        const auto* widget = static_cast<const QWidget*>(next);
-        inset += widget->contentsMargins();
-        const QWidget* outer = widget->parentWidget();
-        next = outer && outer->layout() ? static_cast<const QObject*>(outer->layout()) : outer;
+        inset.setRight(inset.right() + widthBehind(outer, item));
+        inner = outer;
     }
     return inset;
 }
@@ -279,14 +308,14 @@ void PageLook::lineUp()
     const auto pairWidth = [&](int pair) {
         return std::max(captions[pair] + kColumnGap + fields[pair], across[pair]);
     };
-    const bool folds = pairWidth(0) + kColumnGap + pairWidth(1) + right > all;
+    const bool folds = pairWidth(0) + kPairGap + pairWidth(1) + right > all;
     const int first = folds ? std::max(captions[0], captions[1]) : captions[0];
     for (auto& [key, grid] : grids_) {
         grid.fold(folds);
         const int caption = first - insetOf(key, page_).left();
         if (folds || !hasPairs)
             grid.setOnePair(
-                caption, all - right - first - kColumnGap - kBesideFields > kWidestField ? kWidestField : 0);
+                caption, all - right - first - kColumnGap - kEmptyColumns > kWidestField ? kWidestField : 0);
         else
             grid.setTwoPairs(caption, fields[0], captions[1]);
         // Left alone, one that wraps takes as much of the room as its words need on one line.

@@ -205,6 +205,15 @@ private:
             const auto* bar = qobject_cast<QScrollBar*>(widget);
             if (bar && bar->orientation() == Qt::Horizontal && bar->maximum() > 0)
                 found << QStringLiteral("scrolls by %1").arg(bar->maximum());
+            const auto scrolls = [](const QWidget* area) {
+                const auto* scrolling = qobject_cast<const QScrollArea*>(area);
+                return scrolling && scrolling->verticalScrollBar()->maximum() > 0;
+            };
+            const QWidget* page = tabs_->currentWidget();
+            // The fields of the record are long lists.
+            const bool isList = tabs_->currentIndex() == 1;
+            if (!isList && widget != page && page->isAncestorOf(widget) && scrolls(widget))
+                found << QStringLiteral("scrolls within what scrolls");
             if (!isWhole(widget))
                 found << widget->objectName() + QStringLiteral(" is cut");
             const auto* label = qobject_cast<QLabel*>(widget);
