@@ -5,9 +5,7 @@
 #include "dialog/quick_help.h"
 #include "link/device.h"
 #include "pages/form_auto_apn_list_new.h"
-#include "settings/operators.h"
 #include "settings/quick_settings.h"
-#include "settings/value_text.h"
 #include "windows/help_icon.h"
 #include "windows/server_test.h"
 
@@ -109,14 +107,6 @@ void VLK_Form_Config_Light::focusFirstField()
 QWidget* VLK_Form_Config_Light::lastField() const
 {
     return ui_->pushButton_Wnd_Help_Psw;
-}
-
-void VLK_Form_Config_Light::slot_currentStrIndexChanged_Operator1(const QString& label)
-{
-    for (const vlk::Code& code : vlk::kOperatorCodes) {
-        if (vlk::codeText(code) == label)
-            settings_.edit("TRANS/AP1/operator", QString::fromLatin1(code.code));
-    }
 }
 
 void VLK_Form_Config_Light::slot_pressedBtnListApn()

@@ -14,8 +14,8 @@ public:
     using BleSensorForm::BleSensorForm;
 
 public Q_SLOTS:
-    void slot_currentIndexChanged_FS_Type(const QString&) { tellChanges(); }
-    void slot_currentIndexChanged_FS_Idx(const QString&) { tellChanges(); }
+    void slot_currentIndexChanged_FS_Type(const QString&) {}
+    void slot_currentIndexChanged_FS_Idx(const QString&) {}
 
 Q_SIGNALS:
     void signal_ChangeIdx_Dev_FS(const QString& give, const QString& take);
@@ -32,8 +32,8 @@ public:
     using BleSensorForm::BleSensorForm;
 
 public Q_SLOTS:
-    void slot_currentIndexChanged_TS_Type(const QString&) { tellChanges(); }
-    void slot_currentIndexChanged_TS_Idx(const QString&) { tellChanges(); }
+    void slot_currentIndexChanged_TS_Type(const QString&) {}
+    void slot_currentIndexChanged_TS_Idx(const QString&) {}
 
 Q_SIGNALS:
     void signal_ChangeIdx_Dev_TS(const QString& give, const QString& take);
@@ -51,8 +51,8 @@ public:
     using BleSensorForm::BleSensorForm;
 
 public Q_SLOTS:
-    void slot_currentIndexChanged_Type(const QString&) { tellChanges(); }
-    void slot_currentIndexChanged_Idx(const QString&) { tellChanges(); }
+    void slot_currentIndexChanged_Type(const QString&) {}
+    void slot_currentIndexChanged_Idx(const QString&) {}
 
 Q_SIGNALS:
     void signal_ChangeIdx_Dev_AS(const QString& give, const QString& take);
@@ -70,8 +70,8 @@ public:
     using BleSensorForm::BleSensorForm;
 
 public Q_SLOTS:
-    void slot_currentIndexChanged_Type(const QString&) { tellChanges(); }
-    void slot_currentIndexChanged_Idx(const QString&) { tellChanges(); }
+    void slot_currentIndexChanged_Type(const QString&) {}
+    void slot_currentIndexChanged_Idx(const QString&) {}
 
 Q_SIGNALS:
     void signal_ChangeIdx_Dev_US(const QString& give, const QString& take);
@@ -89,8 +89,8 @@ public:
     using BleSensorForm::BleSensorForm;
 
 public Q_SLOTS:
-    void slot_currentIndexChanged_Type(const QString&) { tellChanges(); }
-    void slot_currentIndexChanged_Idx(const QString&) { tellChanges(); }
+    void slot_currentIndexChanged_Type(const QString&) {}
+    void slot_currentIndexChanged_Idx(const QString&) {}
 
 Q_SIGNALS:
     void signal_ChangeIdx_Dev_AIN(const QString& give, const QString& take);
@@ -108,7 +108,7 @@ public:
     using BleSensorForm::BleSensorForm;
 
 public Q_SLOTS:
-    void slot_currentIndexChanged_Type(const QString&) { tellChanges(); }
+    void slot_currentIndexChanged_Type(const QString&) {}
 };
 
 class VLK_Form_Config_Ble_DevType_FW : public vlk::BleSensorForm
@@ -119,7 +119,7 @@ public:
     using BleSensorForm::BleSensorForm;
 
 public Q_SLOTS:
-    void slot_currentIndexChanged_Type(const QString&) { tellChanges(); }
+    void slot_currentIndexChanged_Type(const QString&) {}
 };
 
 class VLK_Form_Config_Ble_DevType_HS : public vlk::BleSensorForm
@@ -130,5 +130,5 @@ public:
     using BleSensorForm::BleSensorForm;
 
 public Q_SLOTS:
-    void slot_currentIndexChanged_Type(const QString&) { tellChanges(); }
+    void slot_currentIndexChanged_Type(const QString&) {}
 };

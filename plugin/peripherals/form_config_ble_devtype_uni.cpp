@@ -268,10 +268,10 @@ void VLK_Form_Config_Ble_DevType_Uni::tellChanges()
 {
     BleSensorForm::tellChanges();
     for (int row = 1; row <= vlk::kUniversalValues; ++row) {
-        slot_stateChangedParameters_Use(row, isUsed(row) ? Qt::Checked : Qt::Unchecked);
-        slot_currentIndexChanged_Parameters_SensorType(row);
-        slot_currentIndexChanged_Index(row);
-        slot_currentIndexChanged_Parameters_Dimension(row);
+        takeUse(row);
+        takeTarget(row);
+        takeIndex(row);
+        takeElement(row);
     }
 }
 
@@ -307,10 +307,10 @@ void VLK_Form_Config_Ble_DevType_Uni::hold(int row, int kind, const QString& ind
         Q_EMIT(this->*kNumberSignals[kind].del)(held);
 }
 
-void VLK_Form_Config_Ble_DevType_Uni::slot_stateChangedParameters_Use(int row, int state)
+void VLK_Form_Config_Ble_DevType_Uni::takeUse(int row)
 {
     Told& told = told_[row - 1];
-    const bool before = std::exchange(told.used, state != Qt::Unchecked);
+    const bool before = std::exchange(told.used, isUsed(row));
     if (told.used || !before)
         return;
     withdraw(row);
@@ -318,13 +318,13 @@ void VLK_Form_Config_Ble_DevType_Uni::slot_stateChangedParameters_Use(int row, i
         hold(row, kind, {});
 }
 
-void VLK_Form_Config_Ble_DevType_Uni::slot_currentIndexChanged_Parameters_SensorType(int row)
+void VLK_Form_Config_Ble_DevType_Uni::takeTarget(int row)
 {
     Told& told = told_[row - 1];
     const int now = target(row);
     if (now == told.target)
         return;
-    slot_currentIndexChanged_Index(row);
+    takeIndex(row);
     if (now != kParameter && !told.name.isEmpty()) {
         withdraw(row);
         hold(row, kParameter, {});
@@ -339,7 +339,7 @@ void VLK_Form_Config_Ble_DevType_Uni::slot_currentIndexChanged_Parameters_Sensor
     told.target = now;
 }
 
-void VLK_Form_Config_Ble_DevType_Uni::slot_currentIndexChanged_Index(int row)
+void VLK_Form_Config_Ble_DevType_Uni::takeIndex(int row)
 {
     const int kind = kindOf(target(row));
     const QString index = isUsed(row) && kind != 0 ? indexOf(row) : QString();
@@ -354,7 +354,7 @@ void VLK_Form_Config_Ble_DevType_Uni::slot_currentIndexChanged_Index(int row)
     hold(row, kind, index);
 }
 
-void VLK_Form_Config_Ble_DevType_Uni::slot_currentIndexChanged_Parameters_Dimension(int row)
+void VLK_Form_Config_Ble_DevType_Uni::takeElement(int row)
 {
     const Told& told = told_[row - 1];
     if (isUsed(row) && target(row) == kParameter && element(row) != told.element)

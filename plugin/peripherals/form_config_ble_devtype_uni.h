@@ -30,11 +30,65 @@ public:
     void tellChanges() override;
 
 public Q_SLOTS:
-    // Rows count from 1.
-    void slot_stateChangedParameters_Use(int row, int state);
-    void slot_currentIndexChanged_Parameters_SensorType(int row);
-    void slot_currentIndexChanged_Index(int row);
-    void slot_currentIndexChanged_Parameters_Dimension(int row);
+    // An empty one names an edit that the settings take from its widget themselves.
+    void slot_stateChangedCondition_Use_2(int) {}
+    void slot_stateChangedCondition_Use_3(int) {}
+    void slot_stateChangedCondition_Use_4(int) {}
+    void slot_stateChangedCondition_Test_Use_1(int) {}
+    void slot_stateChangedCondition_Test_Use_2(int) {}
+    void slot_stateChangedCondition_Test_Use_3(int) {}
+    void slot_stateChangedCondition_Test_Use_4(int) {}
+    void slot_valueChanged_Condition_Group_1(int) {}
+    void slot_valueChanged_Condition_Group_2(int) {}
+    void slot_valueChanged_Condition_Group_3(int) {}
+    void slot_valueChanged_Condition_Group_4(int) {}
+    void slot_currentIndexChanged_Condition_Operator_2(const QString&) {}
+    void slot_currentIndexChanged_Condition_Operator_3(const QString&) {}
+    void slot_currentIndexChanged_Condition_Operator_4(const QString&) {}
+    void slot_valueChanged_Condition_Type_1(int) {}
+    void slot_valueChanged_Condition_Type_2(int) {}
+    void slot_valueChanged_Condition_Type_3(int) {}
+    void slot_valueChanged_Condition_Type_4(int) {}
+    void slot_valueChanged_Condition_Displacement_1(int) {}
+    void slot_valueChanged_Condition_Displacement_2(int) {}
+    void slot_valueChanged_Condition_Displacement_3(int) {}
+    void slot_valueChanged_Condition_Displacement_4(int) {}
+    void slot_textChanged_Condition_Mask_1(const QString&) {}
+    void slot_textChanged_Condition_Mask_2(const QString&) {}
+    void slot_textChanged_Condition_Mask_3(const QString&) {}
+    void slot_textChanged_Condition_Mask_4(const QString&) {}
+    void slot_stateChangedParameters_Use_1(int) {}
+    void slot_stateChangedParameters_Use_2(int) {}
+    void slot_stateChangedParameters_Use_3(int) {}
+    void slot_stateChangedParameters_Use_4(int) {}
+    void slot_stateChangedParameters_Use_5(int) {}
+    void slot_stateChangedParameters_Use_6(int) {}
+    void slot_stateChangedParameters_Use_7(int) {}
+    void slot_stateChangedParameters_Use_8(int) {}
+    void slot_currentIndexChanged_Parameters_Dimension_1(const QString&) {}
+    void slot_currentIndexChanged_Parameters_Dimension_2(const QString&) {}
+    void slot_currentIndexChanged_Parameters_Dimension_3(const QString&) {}
+    void slot_currentIndexChanged_Parameters_Dimension_4(const QString&) {}
+    void slot_currentIndexChanged_Parameters_Dimension_5(const QString&) {}
+    void slot_currentIndexChanged_Parameters_Dimension_6(const QString&) {}
+    void slot_currentIndexChanged_Parameters_Dimension_7(const QString&) {}
+    void slot_currentIndexChanged_Parameters_Dimension_8(const QString&) {}
+    void slot_currentIndexChanged_Parameters_SensorType_1(const QString&) {}
+    void slot_currentIndexChanged_Parameters_SensorType_2(const QString&) {}
+    void slot_currentIndexChanged_Parameters_SensorType_3(const QString&) {}
+    void slot_currentIndexChanged_Parameters_SensorType_4(const QString&) {}
+    void slot_currentIndexChanged_Parameters_SensorType_5(const QString&) {}
+    void slot_currentIndexChanged_Parameters_SensorType_6(const QString&) {}
+    void slot_currentIndexChanged_Parameters_SensorType_7(const QString&) {}
+    void slot_currentIndexChanged_Parameters_SensorType_8(const QString&) {}
+    void slot_currentIndexChanged_Index_1(const QString&) {}
+    void slot_currentIndexChanged_Index_2(const QString&) {}
+    void slot_currentIndexChanged_Index_3(const QString&) {}
+    void slot_currentIndexChanged_Index_4(const QString&) {}
+    void slot_currentIndexChanged_Index_5(const QString&) {}
+    void slot_currentIndexChanged_Index_6(const QString&) {}
+    void slot_currentIndexChanged_Index_7(const QString&) {}
+    void slot_currentIndexChanged_Index_8(const QString&) {}
 
 Q_SIGNALS:
     void signal_Device_UserParam_Add_Uni(userParamType type, const QString& name, const QString& element);
@@ -83,6 +137,10 @@ private:
     // " 7", empty for none.
     QString indexOf(int row) const;
     QString parameterName(int row, const QString& index) const;
+    void takeUse(int row);
+    void takeTarget(int row);
+    void takeIndex(int row);
+    void takeElement(int row);
     void offer(int row, const QString& name);
     void withdraw(int row);
     void hold(int row, int kind, const QString& index);

@@ -121,18 +121,18 @@ void VLK_Form_Config_Bluetooth_Device_Type::connectUniversal()
     connect(universal_, &Uni::signal_Use_UserParam, this, &This::slot_Use_UserParam);
     using Numbers = std::pair<void (Uni::*)(const QString&), void (This::*)(const QString&)>;
     constexpr Numbers numbers[] = {
-        {&Uni::signal_Device_Index_Add_Uni, &This::signal_Index_Add_Uni},
-        {&Uni::signal_Device_Index_Del_Uni, &This::signal_Index_Del_Uni},
-        {&Uni::signal_Device_Index_Add_FlsL, &This::signal_Index_Add_FlsL},
-        {&Uni::signal_Device_Index_Del_FlsL, &This::signal_Index_Del_FlsL},
-        {&Uni::signal_Device_Index_Add_FlsT, &This::signal_Index_Add_FlsT},
-        {&Uni::signal_Device_Index_Del_FlsT, &This::signal_Index_Del_FlsT},
-        {&Uni::signal_Device_Index_Add_FlsF, &This::signal_Index_Add_FlsF},
-        {&Uni::signal_Device_Index_Del_FlsF, &This::signal_Index_Del_FlsF},
-        {&Uni::signal_Device_Index_Add_TmpT, &This::signal_Index_Add_TmpT},
-        {&Uni::signal_Device_Index_Del_TmpT, &This::signal_Index_Del_TmpT},
-        {&Uni::signal_Device_Index_Add_TmpH, &This::signal_Index_Add_TmpH},
-        {&Uni::signal_Device_Index_Del_TmpH, &This::signal_Index_Del_TmpH},
+        {&Uni::signal_Device_Index_Add_Uni, &This::slot_Device_Index_Add_Uni},
+        {&Uni::signal_Device_Index_Del_Uni, &This::slot_Device_Index_Del_Uni},
+        {&Uni::signal_Device_Index_Add_FlsL, &This::slot_Device_Index_Add_FlsL},
+        {&Uni::signal_Device_Index_Del_FlsL, &This::slot_Device_Index_Del_FlsL},
+        {&Uni::signal_Device_Index_Add_FlsT, &This::slot_Device_Index_Add_FlsT},
+        {&Uni::signal_Device_Index_Del_FlsT, &This::slot_Device_Index_Del_FlsT},
+        {&Uni::signal_Device_Index_Add_FlsF, &This::slot_Device_Index_Add_FlsF},
+        {&Uni::signal_Device_Index_Del_FlsF, &This::slot_Device_Index_Del_FlsF},
+        {&Uni::signal_Device_Index_Add_TmpT, &This::slot_Device_Index_Add_TmpT},
+        {&Uni::signal_Device_Index_Del_TmpT, &This::slot_Device_Index_Del_TmpT},
+        {&Uni::signal_Device_Index_Add_TmpH, &This::slot_Device_Index_Add_TmpH},
+        {&Uni::signal_Device_Index_Del_TmpH, &This::slot_Device_Index_Del_TmpH},
     };
     for (const auto& [from, to] : numbers)
         connect(universal_, from, this, to);

@@ -58,6 +58,26 @@ public Q_SLOTS:
     void slot_Device_UserParam_Del(userParamType type);
     void slot_Device_UserParam_Add_Uni(userParamType type, const QString& name, const QString& element);
     void slot_Device_UserParam_Del_Uni(userParamType type, const QString& name, const QString& element);
+    void slot_Device_UserParam_Add_US(userParamType type, const QString& name, const QString& element)
+    {
+        slot_Device_UserParam_Add_Uni(type, name, element);
+    }
+    void slot_Device_UserParam_Del_US(userParamType type, const QString& name, const QString& element)
+    {
+        slot_Device_UserParam_Del_Uni(type, name, element);
+    }
+    void slot_Device_Index_Add_Uni(const QString& index) { Q_EMIT signal_Index_Add_Uni(index); }
+    void slot_Device_Index_Del_Uni(const QString& index) { Q_EMIT signal_Index_Del_Uni(index); }
+    void slot_Device_Index_Add_FlsL(const QString& index) { Q_EMIT signal_Index_Add_FlsL(index); }
+    void slot_Device_Index_Del_FlsL(const QString& index) { Q_EMIT signal_Index_Del_FlsL(index); }
+    void slot_Device_Index_Add_FlsT(const QString& index) { Q_EMIT signal_Index_Add_FlsT(index); }
+    void slot_Device_Index_Del_FlsT(const QString& index) { Q_EMIT signal_Index_Del_FlsT(index); }
+    void slot_Device_Index_Add_FlsF(const QString& index) { Q_EMIT signal_Index_Add_FlsF(index); }
+    void slot_Device_Index_Del_FlsF(const QString& index) { Q_EMIT signal_Index_Del_FlsF(index); }
+    void slot_Device_Index_Add_TmpT(const QString& index) { Q_EMIT signal_Index_Add_TmpT(index); }
+    void slot_Device_Index_Del_TmpT(const QString& index) { Q_EMIT signal_Index_Del_TmpT(index); }
+    void slot_Device_Index_Add_TmpH(const QString& index) { Q_EMIT signal_Index_Add_TmpH(index); }
+    void slot_Device_Index_Del_TmpH(const QString& index) { Q_EMIT signal_Index_Del_TmpH(index); }
     void slot_Use_UserParam(bool use) { Q_EMIT signal_UserParam_Use(use); }
     void slot_SetSensorNameEnabled(bool on) { Q_EMIT signalEnabledSensorName(on); }
 

@@ -121,7 +121,7 @@ QWidget* VLK_Form_Config_RS_Param_Flds_RS485::calibrationCell(int sensor)
     button->setText(QStringLiteral("..."));
     button->setMaximumWidth(28);
     button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, [this, sensor] { slot_pressed_Fuel(sensor); });
+    connect(button, &QPushButton::clicked, this, [this, sensor] { editCalibration(sensor); });
     cell->addWidget(held);
     cell->addWidget(button);
     cell->addStretch(1);
@@ -169,7 +169,7 @@ void VLK_Form_Config_RS_Param_Flds_RS485::retranslate()
         view_->retranslate();
 }
 
-void VLK_Form_Config_RS_Param_Flds_RS485::slot_pressed_Fuel(int sensor)
+void VLK_Form_Config_RS_Param_Flds_RS485::editCalibration(int sensor)
 {
     if (!view_) {
         view_ = new VLK_Form_Fuel_View(this);
