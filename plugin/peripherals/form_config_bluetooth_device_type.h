@@ -1,11 +1,11 @@
 #pragma once
 
 // What one wireless sensor has beside its type, address and name: a stack with a form for every type
-// (settings/bluetooth_sensor_types.h), of which that of the sensor's type is on show and active. It hands on
-// what the forms tell, with the sensor's number in: user parameters by code, name and size, and numbers taken
+// (settings/bluetooth_sensor_types.h), of which that of the sensor's type is on show. It hands on what the
+// forms tell, with the sensor's number in: user parameters by code, name and size, and numbers taken
 // and given back.
 
-#include "settings/params/user_param_type.h"
+#include "settings/user_param_types.h"
 
 #include <QWidget>
 
@@ -20,6 +20,7 @@ struct CXmlSection;
 namespace vlk {
 class BleSensorForm;
 class PageSettings;
+class SensorTeller;
 } // namespace vlk
 
 class VLK_Form_Config_Bluetooth_Device_Type : public QWidget
@@ -34,8 +35,6 @@ public:
     // Shows the form of a type, whether the list of types offers it or not; 0 and unknown types have none.
     void selectType(int type);
     int type() const { return type_; }
-    // Makes the given form the active one; null for none.
-    void activateForm(vlk::BleSensorForm* form);
     void loadForm(int type, CXmlSection* bluetooth);
     void saveForm(int type, CXmlSection* bluetooth) const;
     void resetForms();
@@ -119,5 +118,6 @@ private:
     QStackedWidget* stack_;
     std::vector<vlk::BleSensorForm*> forms_; // in the order of the table of types
     VLK_Form_Config_Ble_DevType_Uni* universal_ = nullptr;
+    std::unique_ptr<vlk::SensorTeller> teller_;
     int type_ = 0;
 };

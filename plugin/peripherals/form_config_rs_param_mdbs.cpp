@@ -1,6 +1,6 @@
 #include "peripherals/form_config_rs_param_mdbs.h"
 
-#include "settings/params/element_types.h"
+#include "settings/element_types.h"
 #include "windows/column_head.h"
 
 #include <QCheckBox>
@@ -267,12 +267,9 @@ void VLK_Form_Config_RS_Param_Mdbs::tellOf(Line& line)
     const bool renamed = now.name != before.name;
     line.row.dataType->setRememberedText(now.third);
 
-    if (onOffer_)
-        withdraw(before);
+    tellRows();
     if (renamed && eventNames_.removeOne(before.name))
         offerEventNames();
-    if (onOffer_)
-        add(now);
     if (renamed && !now.name.isEmpty() && !eventNames_.contains(now.name)) {
         eventNames_.insert(std::lower_bound(eventNames_.begin(), eventNames_.end(), now.name, earlier),
                            now.name);
@@ -289,30 +286,26 @@ void VLK_Form_Config_RS_Param_Mdbs::offerEventNames()
     }
 }
 
-void VLK_Form_Config_RS_Param_Mdbs::add(const vlk::UserParam& offer)
+void VLK_Form_Config_RS_Param_Mdbs::tellRows()
 {
-    if (!offer.name.isEmpty())
-        Q_EMIT signal_UserParam_Add(offer.code, offer.name, offer.third, offer.bytes);
-}
-
-void VLK_Form_Config_RS_Param_Mdbs::withdraw(const vlk::UserParam& offer)
-{
-    if (!offer.name.isEmpty())
-        Q_EMIT signal_UserParam_Del(offer.code, offer.name, offer.third, offer.bytes);
+    QList<vlk::UserParam> offers;
+    for (const Line& line : lines_) {
+        if (onOffer_ && !line.offered.name.isEmpty())
+            offers << line.offered;
+    }
+    tellOffers(offers);
 }
 
 void VLK_Form_Config_RS_Param_Mdbs::offerAll()
 {
     onOffer_ = true;
-    for (const Line& line : lines_)
-        add(line.offered);
+    tellRows();
 }
 
 void VLK_Form_Config_RS_Param_Mdbs::withdrawAll()
 {
     onOffer_ = false;
-    for (const Line& line : lines_)
-        withdraw(line.offered);
+    tellRows();
 }
 
 QString VLK_Form_Config_RS_Param_Mdbs::keyOfName(const QString& text) const

@@ -283,8 +283,7 @@ private:
     void takeDataType(Line& changed);
     void chooseWay();
     void tellOf(Line& line);
-    void add(const vlk::UserParam& offer);
-    void withdraw(const vlk::UserParam& offer);
+    void tellRows();
     void offerEventNames();
 
     QGroupBox* choice_;

@@ -44,10 +44,8 @@ public Q_SLOTS:
     void slot_stateChanged_ACore_SM_SendNavi(int) {}
 
 private:
-    using Signal = void (VLK_Form_Config_RS_Param::*)(const QString&, const QString&, const QString&, int);
-
     bool hasDoors() const;
-    void tellParams(Signal signal);
+    QList<vlk::UserParam> offers() const;
 
     std::unique_ptr<Ui::VLK_Designer_Form_Config_RS_Param_Pcnt> ui_;
     std::unique_ptr<VLK_UserParams> params_; // with names in the present language

@@ -3,7 +3,7 @@
 // One of the 32 values that the tracker reads from Modbus sensors: its widgets in a row of the form's grid,
 // and what they do to each other. The form connects them and tells others of the value.
 
-#include "settings/params/user_param.h"
+#include "absent/params/user_param.h"
 #include "windows/eliding_combobox.h"
 
 #include <QStringList>

@@ -1,4 +1,4 @@
-#include "peripherals/ble_sensor_form.h"
+#include "sensors/ble_sensor_form.h"
 
 #include "settings/bluetooth_settings.h"
 #include "settings/value_text.h"
@@ -23,20 +23,9 @@ BleSensorForm::BleSensorForm(const BluetoothSensorType& type, int sensor, PageSe
     setObjectName(numberedName(type.section, sensor));
 }
 
-QString BleSensorForm::value(const char* path) const
-{
-    return settings_.value(numberedName(path, sensor_));
-}
-
 int BleSensorForm::vendor() const
 {
     return type_.vendors.size() > 1 ? settings_.value(vendorPath_).toInt() : 0;
-}
-
-int BleSensorForm::takenIndex() const
-{
-    const bool indexed = type_.index.list != BluetoothList::none && type_.vendors[vendor()].indexed;
-    return indexed ? settings_.value(indexPath_).toInt() : -1;
 }
 
 QString BleSensorForm::indexText(int index) const
@@ -56,51 +45,6 @@ bool BleSensorForm::needsName() const
     default:
         return type_.vendors[vendor()].needsName;
     }
-}
-
-void BleSensorForm::tell(bool on, int vendor)
-{
-    if (vendor < 0)
-        return;
-    const BluetoothVendor& known = type_.vendors[vendor];
-    if (on) {
-        for (const userParamType type : known.supplies)
-            Q_EMIT signal_Device_UserParam_Add(type);
-        return;
-    }
-    for (const userParamType type : known.withdraws.empty() ? known.supplies : known.withdraws)
-        Q_EMIT signal_Device_UserParam_Del(type);
-}
-
-void BleSensorForm::setActive(bool on)
-{
-    if (on == active_)
-        return;
-    active_ = on;
-    if (on) {
-        previousVendor_ = vendor();
-        previousIndex_ = takenIndex();
-        if (previousIndex_ >= 0)
-            tellIndex(-1, previousIndex_);
-    } else if (previousIndex_ >= 0) {
-        tellIndex(previousIndex_, -1);
-    }
-    tell(on, previousVendor_);
-}
-
-void BleSensorForm::tellChanges()
-{
-    if (!active_)
-        return;
-    if (const int now = vendor(); now != previousVendor_) {
-        tell(false, previousVendor_);
-        tell(true, now);
-        previousVendor_ = now;
-        if (type_.naming == BluetoothSensorType::Naming::byVendor)
-            Q_EMIT signal_SetSensorNameEnabled(type_.vendors[now].named);
-    }
-    if (const int now = takenIndex(); now != previousIndex_)
-        tellIndex(std::exchange(previousIndex_, now), now);
 }
 
 Values BleSensorForm::element() const
@@ -141,9 +85,6 @@ void BleSensorForm::save(CXmlSection* bluetooth) const
 
 void BleSensorForm::setDefaults()
 {
-    // What the vendor before supplied is not withdrawn.
-    if (vendor() != 0)
-        previousVendor_ = -1;
     take(element());
 }
 

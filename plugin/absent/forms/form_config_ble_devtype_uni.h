@@ -2,24 +2,17 @@
 
 // The form of the universal wireless sensor: conditions for the messages that are taken, and values in them,
 // each with what it is in the tracker. Rows, lists and what rows do to each other are settings
-// (settings/bluetooth_universal_rows.h); here is what the form tells of them: the user parameters that its
-// rows offer, and the numbers that they take, of six kinds.
+// (settings/bluetooth_universal_rows.h). Its signals tell of the user parameters that its rows offer, and of
+// the numbers that they take, of six kinds (sensor_teller.h).
 
-#include "peripherals/ble_sensor_form.h"
-#include "settings/bluetooth_settings.h"
-
-#include <array>
+#include "sensors/ble_sensor_form.h"
 
 class VLK_Form_Config_Ble_DevType_Uni : public vlk::BleSensorForm
 {
     Q_OBJECT
 
 public:
-    VLK_Form_Config_Ble_DevType_Uni(const vlk::BluetoothSensorType& type, int sensor,
-                                    vlk::PageSettings& settings, QWidget* parent = nullptr);
-
-    // Kinds of numbers, with the one of targets that have none.
-    static constexpr int kKinds = 7;
+    using BleSensorForm::BleSensorForm;
 
     // The name of the parameter with a key such as "up7", empty for one that no row offers.
     QString keyToDisplay(const QString& key) const;
@@ -27,7 +20,6 @@ public:
     // Unchecks the boxes of the check against an example message.
     void clearTests();
     void retranslate() override;
-    void tellChanges() override;
 
 public Q_SLOTS:
     // An empty one names an edit that the settings take from its widget themselves.
@@ -109,42 +101,4 @@ Q_SIGNALS:
 
 protected:
     void makeWidgets() override;
-
-private:
-    // What a row of values has told.
-    struct Told
-    {
-        QString name; // of the parameter that it offers
-        QString element;
-        bool used = false;
-        int target = 0;
-        std::array<QString, kKinds> held; // the number that it holds, a kind
-    };
-
-    // The settings of a row that are told.
-    struct Row
-    {
-        int group;
-        int target;
-        int index;
-        int element;
-    };
-
-    const QString& valueOf(int row) const;
-    bool isUsed(int row) const { return valueOf(rows_[row - 1].group) != QLatin1String("0"); }
-    int target(int row) const { return valueOf(rows_[row - 1].target).toInt(); }
-    const QString& element(int row) const { return valueOf(rows_[row - 1].element); }
-    // " 7", empty for none.
-    QString indexOf(int row) const;
-    QString parameterName(int row, const QString& index) const;
-    void takeUse(int row);
-    void takeTarget(int row);
-    void takeIndex(int row);
-    void takeElement(int row);
-    void offer(int row, const QString& name);
-    void withdraw(int row);
-    void hold(int row, int kind, const QString& index);
-
-    std::array<Row, vlk::kUniversalValues> rows_{};
-    std::array<Told, vlk::kUniversalValues> told_{};
 };

@@ -1,8 +1,8 @@
-#include "settings/params/user_params.h"
+#include "absent/params/user_params.h"
 
-#include "settings/params/element_types.h"
-#include "settings/params/param_catalogues.h"
-#include "settings/params/user_param.h"
+#include "absent/params/param_catalogues.h"
+#include "absent/params/user_param.h"
+#include "settings/element_types.h"
 
 #include <QCoreApplication>
 
