@@ -52,7 +52,7 @@ void VLK_Form_Config_Light::connectWidgets()
     connect(ui_->GPRSSrv_toolButton_Test_Main, &QToolButton::clicked, this, &This::slot_pressed_BtnTestMain);
 }
 
-// Their colour is the palette's.
+// The icons have the colour of the palette's text.
 void VLK_Form_Config_Light::showHelpIcons()
 {
     for (QPushButton* button :

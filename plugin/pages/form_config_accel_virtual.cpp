@@ -103,7 +103,7 @@ VLK_Form_Config_Accel_Virtual::Sensor VLK_Form_Config_Accel_Virtual::makeSensor(
     return sensor;
 }
 
-// As read: row by row, then the requests.
+// The Tab key goes as one reads: row by row, then through the requests.
 void VLK_Form_Config_Accel_Virtual::setTabOrder()
 {
     QWidget* before = nullptr;

@@ -32,7 +32,7 @@ public:
     explicit VLK_Form_Config_Accel_Virtual(QWidget* parent = nullptr);
     ~VLK_Form_Config_Accel_Virtual() override;
 
-    // Of the inner tab.
+    // The place of this form among the inner tabs.
     int tabIndex() const { return tabIndex_; }
     void setTabIndex(int index) { tabIndex_ = index; }
     void retranslate();

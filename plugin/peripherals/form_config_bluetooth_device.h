@@ -36,7 +36,7 @@ public:
     // The first sensor that knows the user parameter.
     QString keyToDisplay(const QString& key) const;
     QString displayToKey(const QString& text) const;
-    // Of the universal sensors; the settings do not hold them.
+    // Unchecks the boxes of the universal sensors' tests, which the settings do not hold.
     void clearTests();
 
 public Q_SLOTS:

@@ -38,7 +38,7 @@ public:
     // The form comes on show: it tells its line settings again.
     virtual void applyLineSettings() {}
 
-    // Of the page, which sets them before anything else; they outlive the form.
+    // Gives the form the settings of its page, before anything else; they outlive the form.
     void setSettings(vlk::PageSettings* settings) { settings_ = settings; }
 
 Q_SIGNALS:

@@ -38,7 +38,7 @@ VLK_Form_Config_RS_Param_Pcnt::VLK_Form_Config_RS_Param_Pcnt(QWidget* parent)
                        vlk::kRsCounters);
     addLines<QComboBox>(ui_->gridLayout_ACode_Door, "checkBox_ACode_Door_%1", "comboBox_ACode_Door_%1",
                         vlk::kRsDoors);
-    // As read.
+    // The Tab key goes as one reads: from the type and the address into the lines below.
     vlk::tabThrough(ui_->comboBox_Type, ui_->groupBox_Passager);
     vlk::tabThrough(ui_->spinBox_ACode_Passager_1, ui_->groupBox_ACode_Door);
     connect(ui_->comboBox_Type, &QComboBox::currentTextChanged, this,

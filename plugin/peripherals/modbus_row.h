@@ -39,7 +39,7 @@ public:
 
     int number() const { return number_; }
     bool inUse() const;
-    // As switched on, with a first address, and as switched off.
+    // What a row holds when it is switched on, beginning with this address, and when it is switched off.
     void start(int address, bool byNumber, const ModbusLists& lists);
     void clear();
     // Whether the number tells the register, or address and type.

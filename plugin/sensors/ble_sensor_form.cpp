@@ -3,13 +3,9 @@
 #include "settings/bluetooth_settings.h"
 #include "settings/value_text.h"
 #include "windows/binder/page_settings.h"
+#include "windows/binder/row_inputs.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QGridLayout>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QSpinBox>
+#include <algorithm>
 
 namespace vlk {
 
@@ -98,7 +94,6 @@ void BleSensorForm::make()
     retranslate();
 }
 
-// Lists one below the other, what else the type has in pairs below them.
 void BleSensorForm::makeWidgets()
 {
     auto* grid = new QGridLayout(this);
@@ -107,49 +102,15 @@ void BleSensorForm::makeWidgets()
     grid->setVerticalSpacing(6);
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(3, 1);
-    int row = 0;
-    int column = 0;
-    const auto add = [&](const Setting& setting) {
-        const QString name = QString::fromLatin1(setting.shown()->widget.tail);
-        auto* label = new QLabel;
-        label->setObjectName(QStringLiteral("label_") + name.section(QLatin1Char('_'), 1));
-        if (setting.is<Choice>()) {
-            auto* list = new QComboBox;
-            list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-            list->setObjectName(name);
-            label->setBuddy(list);
-            grid->addWidget(label, row, 0);
-            grid->addWidget(list, row, 1, 1, 3);
-            ++row;
-        } else if (setting.is<Flag>()) {
-            auto* box = new QCheckBox;
-            box->setObjectName(name);
-            label->setBuddy(box);
-            auto* pair = new QHBoxLayout;
-            pair->setSpacing(6);
-            pair->addWidget(box);
-            pair->addWidget(label, 1);
-            grid->addLayout(pair, row, column, 1, 2);
-            column += 2;
-        } else {
-            auto* number = new QSpinBox;
-            number->setObjectName(name);
-            label->setBuddy(number);
-            grid->addWidget(label, row, column);
-            grid->addWidget(number, row, column + 1, Qt::AlignLeft);
-            column += 2;
-        }
-    };
+    auto rows = rowsOfForm(settings_.values().table(), type_.section, {static_cast<std::uint8_t>(sensor_)});
     // The vendor comes first, wherever the file has its number.
-    for (const bool first : {true, false}) {
-        for (const Setting& setting : settings_.values().table().rows) {
-            const Shown* shown = setting.shown();
-            if (shown && shown->numbers.outer == sensor_ && shown->widget.form() == type_.section &&
-                (std::string_view(shown->widget.tail) == type_.vendorWidget) == first)
-                add(setting);
-        }
-    }
-    grid->setRowStretch(row + 1, 1);
+    std::stable_partition(rows.begin(), rows.end(), [this](const Setting* setting) {
+        return std::string_view(setting->shown()->widget.tail) == type_.vendorWidget;
+    });
+    RowLines lines(grid, RowLines::Look::paired);
+    for (const Setting* setting : rows)
+        lines.add(*setting);
+    grid->setRowStretch(grid->rowCount(), 1);
 }
 
 } // namespace vlk

@@ -37,7 +37,7 @@ constexpr int kWidestField = 480;
 constexpr int kBesideFields = 30;            // a button for help
 constexpr char kRowSpacing[] = "rowSpacing"; // of boxes that stand side by side, in a property
 
-// From the edges of the page to those of a layout.
+// The distances between the edges of the page and those of a layout.
 QMargins insetOf(const QLayout* layout, const QWidget* page)
 {
     QMargins inset;
@@ -58,7 +58,7 @@ QMargins insetOf(const QLayout* layout, const QWidget* page)
     return inset;
 }
 
-// Of one line, whatever the label does now.
+// The width that a caption needs in one line, even if it is broken into two now.
 int captionWidth(const QWidget* caption)
 {
     const auto* label = qobject_cast<const QLabel*>(caption);
@@ -180,7 +180,7 @@ void PageLook::findGrids()
         grid.learn();
 }
 
-// In one of three widths, the same for all that stand in one column.
+// Number fields get one of three widths, the same for all that stand in one column.
 void PageLook::dressFields()
 {
     std::map<std::pair<const QObject*, int>, std::vector<QAbstractSpinBox*>> columns;
@@ -228,7 +228,7 @@ int PageLook::room() const
     return area->width() - 2 * area->frameWidth() - area->verticalScrollBar()->sizeHint().width();
 }
 
-// Those that are longer than a caption may be take two lines. A check box with a field beside it cannot.
+// Captions that are longer than a caption may be take two lines. A check box with a field beside it cannot.
 void PageLook::wrapCaptions()
 {
     int widest = kWidestCaption;

@@ -157,7 +157,7 @@ void VLK_Form_Config_Ble_DevType_Uni::setDefaults()
     clearTests();
 }
 
-// Their labels follow them.
+// The labels of the results follow their boxes.
 void VLK_Form_Config_Ble_DevType_Uni::clearTests()
 {
     for (const Table& table : kTables) {

@@ -11,7 +11,8 @@ namespace {
 
 using Uni = VLK_Form_Config_Ble_DevType_Uni;
 
-// Of the numbers of a universal sensor's values, by the target; the first one has none.
+// How the numbers of a universal sensor's values are told, by what the value is; the first one has no
+// numbers.
 struct NumberSignals
 {
     void (Uni::*given)(const QString&);
