@@ -113,8 +113,8 @@ void ConfigMonitor::pollCurrentTab()
     sendRequestOfTab();
 }
 
-// By hand, or by the timer of the page whose monitor runs. That one ends here like at its own timeout, and
-// lets a command go first.
+// The user asks, or the timer of the page whose monitor runs. The monitor ends here as at its own timeout,
+// and lets a command go first.
 void ConfigMonitor::requestAccel()
 {
     if (running_ == Tab::Accel && !mayGoOn()) {

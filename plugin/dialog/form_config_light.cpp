@@ -5,9 +5,7 @@
 #include "dialog/quick_help.h"
 #include "link/device.h"
 #include "pages/form_auto_apn_list_new.h"
-#include "settings/operators.h"
 #include "settings/quick_settings.h"
-#include "settings/value_text.h"
 #include "windows/help_icon.h"
 #include "windows/server_test.h"
 
@@ -54,7 +52,7 @@ void VLK_Form_Config_Light::connectWidgets()
     connect(ui_->GPRSSrv_toolButton_Test_Main, &QToolButton::clicked, this, &This::slot_pressed_BtnTestMain);
 }
 
-// Their colour is the palette's.
+// The icons have the colour of the palette's text.
 void VLK_Form_Config_Light::showHelpIcons()
 {
     for (QPushButton* button :
@@ -109,14 +107,6 @@ void VLK_Form_Config_Light::focusFirstField()
 QWidget* VLK_Form_Config_Light::lastField() const
 {
     return ui_->pushButton_Wnd_Help_Psw;
-}
-
-void VLK_Form_Config_Light::slot_currentStrIndexChanged_Operator1(const QString& label)
-{
-    for (const vlk::Code& code : vlk::kOperatorCodes) {
-        if (vlk::codeText(code) == label)
-            settings_.edit("TRANS/AP1/operator", QString::fromLatin1(code.code));
-    }
 }
 
 void VLK_Form_Config_Light::slot_pressedBtnListApn()

@@ -43,7 +43,7 @@ public:
 
 public Q_SLOTS:
     // An empty one names an edit that the settings take from its widget themselves.
-    void slot_currentStrIndexChanged_Operator1(const QString& label);
+    void slot_currentStrIndexChanged_Operator1(const QString&) {}
     void slot_currentIndexChanged_Operator2(int) {}
     void slot_pressedBtnListApn();
     void slot_currentIndexChanged_RModeSim1(int) {}

@@ -21,7 +21,7 @@ PageServices::~PageServices()
         vlkConfigFull = nullptr;
 }
 
-// By the quick window on top of it, too.
+// The quick window on top hides the full one, too.
 void PageServices::hideEvent(QHideEvent* event)
 {
     VLK_Wnd_Config_Full::hideEvent(event);

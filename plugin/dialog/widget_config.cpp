@@ -88,7 +88,7 @@ bool VLK_Widget_Config::saveQuickToFile(const QString& path)
 {
     vlk::XmlDocument document(QString(), QStringLiteral("DEVICE"));
     saveToXml(document.root());
-    // Not those of the full window: what the quick window decided may have mended them.
+    // The full window has news of its own; what the quick window decided may have mended them.
     lightWindow_->logNews();
     return document.saveAs(path);
 }

@@ -28,7 +28,7 @@ public:
     void loadFile(const QString& path, char* ussdBuffer);
     // Replaces whatever the file holds. False when that failed, which the log says (base/save_log.h).
     bool saveFile(const QString& path);
-    // The same with an open document.
+    // Read and write an open document in place of a file.
     void loadFromXml(CXmlSection* root, char* ussdBuffer);
     void saveToXml(CXmlSection* root);
 

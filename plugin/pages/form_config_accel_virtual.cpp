@@ -23,11 +23,10 @@ namespace {
 // the present value in tenths.
 struct Scale
 {
-    int levelCounts; // in one percent or degree
     int levelPage;
     int presentEnd;
 };
-constexpr Scale kScales[] = {{10, 50, 1000}, {10, 50, 1000}, {10, 5, 1000}, {100, 150, 100}};
+constexpr Scale kScales[] = {{50, 1000}, {50, 1000}, {5, 1000}, {150, 100}};
 constexpr std::size_t kTilt = 3; // SH4, the one sensor of an angle
 constexpr int kTicks = 10;
 constexpr double kFullScale = 1800; // root of the measure that is 100 percent
@@ -91,8 +90,7 @@ VLK_Form_Config_Accel_Virtual::Sensor VLK_Form_Config_Accel_Virtual::makeSensor(
     vlk::standOut(sensor.presentText);
     vlk::setPageStyle(sensor.present);
     sensor.present->setFocusPolicy(Qt::NoFocus);
-    connect(sensor.presentText, &QLineEdit::textChanged, this,
-            [this, number](const QString& text) { slot_textChanged_LineEdit_CurLevel_SH(number, text); });
+    connect(sensor.presentText, &QLineEdit::textChanged, this, [this, index] { compare(sensors_[index]); });
 
     auto* label = new QLabel;
     label->setBuddy(sensor.level);
@@ -107,7 +105,7 @@ VLK_Form_Config_Accel_Virtual::Sensor VLK_Form_Config_Accel_Virtual::makeSensor(
     return sensor;
 }
 
-// As read: row by row, then the requests.
+// The Tab key goes as one reads: row by row, then through the requests.
 void VLK_Form_Config_Accel_Virtual::setTabOrder()
 {
     QWidget* before = nullptr;
@@ -223,22 +221,6 @@ void VLK_Form_Config_Accel_Virtual::compareAll()
 void VLK_Form_Config_Accel_Virtual::stopAuto()
 {
     ui_->checkBox_Auto->setChecked(false);
-}
-
-void VLK_Form_Config_Accel_Virtual::slot_valueChanged_horizontalSlider_Level_SH(int sensor, int position)
-{
-    const auto index = static_cast<std::size_t>(sensor) - 1;
-    sensors_.at(index).level->setValue(static_cast<double>(position) / kScales[index].levelCounts);
-}
-
-void VLK_Form_Config_Accel_Virtual::slot_valueChanged_doubleSpinBox_Level_SH(int sensor, double level)
-{
-    sensors_.at(static_cast<std::size_t>(sensor) - 1).level->setValue(level);
-}
-
-void VLK_Form_Config_Accel_Virtual::slot_textChanged_LineEdit_CurLevel_SH(int sensor, const QString&)
-{
-    compare(sensors_.at(static_cast<std::size_t>(sensor) - 1));
 }
 
 void VLK_Form_Config_Accel_Virtual::slot_stateChanged_checkBox_Auto(int state)

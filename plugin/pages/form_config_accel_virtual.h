@@ -33,7 +33,7 @@ public:
     explicit VLK_Form_Config_Accel_Virtual(QWidget* parent = nullptr);
     ~VLK_Form_Config_Accel_Virtual() override;
 
-    // Of the inner tab.
+    // The place of this form among the inner tabs.
     int tabIndex() const { return tabIndex_; }
     void setTabIndex(int index) { tabIndex_ = index; }
     void retranslate();
@@ -48,10 +48,19 @@ public:
     void stopAuto();
 
 public Q_SLOTS:
-    // Sensors are counted from 1.
-    void slot_valueChanged_horizontalSlider_Level_SH(int sensor, int position);
-    void slot_valueChanged_doubleSpinBox_Level_SH(int sensor, double level);
-    void slot_textChanged_LineEdit_CurLevel_SH(int sensor, const QString& text);
+    // An empty one names an edit that the settings take from its widget themselves.
+    void slot_valueChanged_horizontalSlider_Level_SH1(int) {}
+    void slot_valueChanged_horizontalSlider_Level_SH2(int) {}
+    void slot_valueChanged_horizontalSlider_Level_SH3(int) {}
+    void slot_valueChanged_horizontalSlider_Level_SH4(int) {}
+    void slot_valueChanged_doubleSpinBox_Level_SH1(double) {}
+    void slot_valueChanged_doubleSpinBox_Level_SH2(double) {}
+    void slot_valueChanged_doubleSpinBox_Level_SH3(double) {}
+    void slot_valueChanged_doubleSpinBox_Level_SH4(double) {}
+    void slot_textChanged_LineEdit_CurLevel_SH1(const QString&) {}
+    void slot_textChanged_LineEdit_CurLevel_SH2(const QString&) {}
+    void slot_textChanged_LineEdit_CurLevel_SH3(const QString&) {}
+    void slot_textChanged_LineEdit_CurLevel_SH4(const QString&) {}
     void slot_stateChanged_checkBox_Auto(int state);
     void slot_pressed_pushButton_Quest();
     void slot_pressed_pushButton_Reset();

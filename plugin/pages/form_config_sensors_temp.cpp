@@ -88,8 +88,3 @@ void VLK_Form_Config_Sensors_Temp::retranslate()
     }
     settings_.retranslate();
 }
-
-void VLK_Form_Config_Sensors_Temp::set(const char* path, int sensor, double degrees)
-{
-    settings_.edit(qPrintable(QString::fromLatin1(path).arg(sensor)), QString::number(degrees));
-}

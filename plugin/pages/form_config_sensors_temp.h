@@ -31,18 +31,27 @@ public:
     vlk::PageSettings& settings() { return settings_; }
 
 public Q_SLOTS:
-    // Sensors are counted from 1.
-    void slot_value1Changed_Left_Temp(int sensor, double degrees) { set("SENS%1/min", sensor, degrees); }
-    void slot_value2Changed_Right_Temp(int sensor, double degrees) { set("SENS%1/max", sensor, degrees); }
-    void slot_valueChanged_DSpinBox_Left_Temp(int sensor, double degrees)
-    {
-        set("SENS%1/min", sensor, degrees);
-    }
-    void slot_valueChanged_DSpinBox_Right_Temp(int sensor, double degrees)
-    {
-        set("SENS%1/max", sensor, degrees);
-    }
-    void slot_valueChanged_SpinBox_Hyst(int sensor, int degrees) { set("SENS%1/hyst", sensor, degrees); }
+    // An empty one names an edit that the settings take from its widget themselves.
+    void slot_value1Changed_Left_Temp_1(double) {}
+    void slot_value1Changed_Left_Temp_2(double) {}
+    void slot_value1Changed_Left_Temp_3(double) {}
+    void slot_value1Changed_Left_Temp_4(double) {}
+    void slot_value2Changed_Right_Temp_1(double) {}
+    void slot_value2Changed_Right_Temp_2(double) {}
+    void slot_value2Changed_Right_Temp_3(double) {}
+    void slot_value2Changed_Right_Temp_4(double) {}
+    void slot_valueChanged_DSpinBox_Left_Temp_1(double) {}
+    void slot_valueChanged_DSpinBox_Left_Temp_2(double) {}
+    void slot_valueChanged_DSpinBox_Left_Temp_3(double) {}
+    void slot_valueChanged_DSpinBox_Left_Temp_4(double) {}
+    void slot_valueChanged_DSpinBox_Right_Temp_1(double) {}
+    void slot_valueChanged_DSpinBox_Right_Temp_2(double) {}
+    void slot_valueChanged_DSpinBox_Right_Temp_3(double) {}
+    void slot_valueChanged_DSpinBox_Right_Temp_4(double) {}
+    void slot_valueChanged_SpinBox_Hyst_1(int) {}
+    void slot_valueChanged_SpinBox_Hyst_2(int) {}
+    void slot_valueChanged_SpinBox_Hyst_3(int) {}
+    void slot_valueChanged_SpinBox_Hyst_4(int) {}
 
 private:
     // What is translated here and not by the settings.
@@ -56,7 +65,6 @@ private:
     };
 
     Sensor makeSensor(int number);
-    void set(const char* path, int sensor, double degrees);
 
     std::array<Sensor, 4> sensors_;
     vlk::PageSettings settings_;

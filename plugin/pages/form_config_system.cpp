@@ -68,16 +68,6 @@ void VLK_Form_Config_System::setCurrentSupply(int millivolts)
     vlk::showPresentValue(ui_->doubleSpinBox_TuningCur, millivolts / 1000.0);
 }
 
-void VLK_Form_Config_System::setVoltage(const char* path, double volts)
-{
-    settings_.edit(path, QString::number(qRound(volts * 1000)));
-}
-
-void VLK_Form_Config_System::slot_valueChanged_HSlider_Tuning(int millivolts)
-{
-    settings_.edit("ENGSENS/voltageLvl", QString::number(millivolts));
-}
-
 void VLK_Form_Config_System::slot_pressed_Btn_TuningCur()
 {
     if (vlkConfigFull)

@@ -40,25 +40,23 @@ public Q_SLOTS:
     void slot_pressed_Btn_TuningCur();
     void slot_pressed_Btn_Psw_Warning();
     void slot_stateChanged_Tuning(int) {}
-    void slot_valueChanged_HSlider_Tuning(int millivolts);
-    void slot_valueChanged_DSpinBox_Tuning(double volts) { setVoltage("ENGSENS/voltageLvl", volts); }
+    void slot_valueChanged_HSlider_Tuning(int) {}
+    void slot_valueChanged_DSpinBox_Tuning(double) {}
     void slot_stateChanged_Engine_Delay(int) {}
     void slot_stateChanged_NTP_Use(int) {}
-    void slot_value1Changed_Power_Left(double volts) { setVoltage("PWRSENS/alarmLvl", volts); }
-    void slot_value2Changed_Power_Right(double volts) { setVoltage("PWRSENS/restoreLvl", volts); }
-    void slot_valueChanged_DSpinBox_Power_Left(double volts) { setVoltage("PWRSENS/alarmLvl", volts); }
-    void slot_valueChanged_DSpinBox_Power_Right(double volts) { setVoltage("PWRSENS/restoreLvl", volts); }
+    void slot_value1Changed_Power_Left(double) {}
+    void slot_value2Changed_Power_Right(double) {}
+    void slot_valueChanged_DSpinBox_Power_Left(double) {}
+    void slot_valueChanged_DSpinBox_Power_Right(double) {}
     void slot_stateChanged_Power_Line(int) {}
     void slot_stateChanged_Power_Delay(int) {}
     void slot_stateChanged_Fuel_Level(int) {}
-    void slot_value1Changed_Fuel_Left(double volts) { setVoltage("FUEL/blockVolt", volts); }
-    void slot_value2Changed_Fuel_Right(double volts) { setVoltage("FUEL/unblockVolt", volts); }
-    void slot_valueChanged_DSpinBox_Fuel_Left(double volts) { setVoltage("FUEL/blockVolt", volts); }
-    void slot_valueChanged_DSpinBox_Fuel_Right(double volts) { setVoltage("FUEL/unblockVolt", volts); }
+    void slot_value1Changed_Fuel_Left(double) {}
+    void slot_value2Changed_Fuel_Right(double) {}
+    void slot_valueChanged_DSpinBox_Fuel_Left(double) {}
+    void slot_valueChanged_DSpinBox_Fuel_Right(double) {}
 
 private:
-    void setVoltage(const char* path, double volts);
-
     std::unique_ptr<Ui::VLK_Designer_Form_Config_System> ui_;
     vlk::PageSettings settings_;
 };

@@ -15,7 +15,7 @@ namespace {
 constexpr int kCryptoKeyBytes = 16;
 constexpr quint32 kCryptoByteLimit = 254; // no byte of a key is 254 or 255
 
-// One a server.
+// The keys of each server.
 constexpr const char* kAddresses[] = {"SRV1/addr", "SRV2/addr", "SRV3/addr"};
 constexpr const char* kPorts[] = {"SRV1/port", "SRV2/port", "SRV3/port"};
 

@@ -29,10 +29,10 @@ public:
     void setUse(const QString& code);
     // Whether the discrete input has voltage thresholds, as at first.
     void setLevelsVisible(bool visible);
-    // In all boxes that show the line's voltage, or in that of the discrete input alone.
+    // Shows a voltage in all boxes for it, or in that of the discrete input alone.
     void setPresentValue(double volts);
     void setPresentAinValue(double volts);
-    // Until the tracker answers.
+    // Shows that there is no voltage to show, as before the tracker's first answer.
     void clearPresentValue();
     // It holds no longer.
     void setPresentValueOld(bool old);

@@ -20,7 +20,7 @@ constexpr uchar kEnded = '1';
 constexpr uchar kFailed = '2';
 constexpr uchar kStopped = '3';
 
-// In the order of the list of kinds.
+// What the page is bound to, in the order of its list.
 enum Kind { none, sensors, headset };
 constexpr const char* kKinds[] = {"wrd_002", "cfgt17_003", "cfgt17_002"};
 

@@ -70,7 +70,7 @@ VLK_Form_Config_Bluetooth_Device::Sensor VLK_Form_Config_Bluetooth_Device::makeS
     using This = VLK_Form_Config_Bluetooth_Device;
     using Type = VLK_Form_Config_Bluetooth_Device_Type;
     connect(sensor.type, &Type::signalEnabledSensorName, this,
-            [this, number](bool on) { slot_EnabledSensorName(number, on); });
+            [this, number](bool on) { enableName(number, on); });
     sensor.name->setEnabled(false);
     connect(sensor.type, &Type::signal_UserParam_Add, this, &This::slot_UserParam_Add);
     connect(sensor.type, &Type::signal_UserParam_Del, this, &This::slot_UserParam_Del);
@@ -141,7 +141,7 @@ void VLK_Form_Config_Bluetooth_Device::selectType(int sensor, const QString& tex
     type(sensor)->selectType(number);
 }
 
-void VLK_Form_Config_Bluetooth_Device::slot_EnabledSensorName(int sensor, bool on)
+void VLK_Form_Config_Bluetooth_Device::enableName(int sensor, bool on)
 {
     sensors_[sensor - 1].name->setEnabled(on);
 }

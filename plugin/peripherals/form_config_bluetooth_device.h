@@ -36,7 +36,7 @@ public:
     // The first sensor that knows the user parameter.
     QString keyToDisplay(const QString& key) const;
     QString displayToKey(const QString& text) const;
-    // Of the universal sensors; the settings do not hold them.
+    // Unchecks the boxes of the universal sensors' tests, which the settings do not hold.
     void clearTests();
 
 public Q_SLOTS:
@@ -45,7 +45,19 @@ public Q_SLOTS:
     void slot_currentIndexChanged_Type_Sensor_2(const QString& text) { selectType(2, text); }
     void slot_currentIndexChanged_Type_Sensor_3(const QString& text) { selectType(3, text); }
     void slot_currentIndexChanged_Type_Sensor_4(const QString& text) { selectType(4, text); }
-    void slot_EnabledSensorName(int sensor, bool on);
+    // The numbers that sensors share are a rule of the settings.
+    void slot_ChangeIdxFS_Sensor_1(const QString&, const QString&) {}
+    void slot_ChangeIdxFS_Sensor_2(const QString&, const QString&) {}
+    void slot_ChangeIdxFS_Sensor_3(const QString&, const QString&) {}
+    void slot_ChangeIdxFS_Sensor_4(const QString&, const QString&) {}
+    void slot_ChangeIdxTS_Int_Sensor_1(int, int) {}
+    void slot_ChangeIdxTS_Int_Sensor_2(int, int) {}
+    void slot_ChangeIdxTS_Int_Sensor_3(int, int) {}
+    void slot_ChangeIdxTS_Int_Sensor_4(int, int) {}
+    void slot_EnabledSensorName1(bool on) { enableName(1, on); }
+    void slot_EnabledSensorName2(bool on) { enableName(2, on); }
+    void slot_EnabledSensorName3(bool on) { enableName(3, on); }
+    void slot_EnabledSensorName4(bool on) { enableName(4, on); }
     // The tab of user parameters is not on this tracker: the offers of the sensors end here.
     void slot_UserParam_Add(const QString&, const QString&, const QString&, int) {}
     void slot_UserParam_Del(const QString&, const QString&, const QString&, int) {}
@@ -60,6 +72,7 @@ private:
     };
 
     Sensor makeSensor(int number);
+    void enableName(int sensor, bool on);
     void selectType(int sensor, const QString& text);
     void tellChanges();
 

@@ -1,8 +1,10 @@
 #include "peripherals/form_config_bluetooth_device_type.h"
 
-#include "peripherals/ble_sensor_forms.h"
-#include "peripherals/form_config_ble_devtype_uni.h"
-#include "settings/params/user_params.h"
+#include "absent/forms/form_config_ble_devtype_uni.h"
+#include "absent/forms/sensor_teller.h"
+#include "absent/forms/unlisted_sensor_forms.h"
+#include "absent/params/user_params.h"
+#include "sensors/ble_sensor_forms.h"
 #include "windows/binder/page_settings.h"
 #include "windows/needed_height.h"
 
@@ -64,6 +66,7 @@ VLK_Form_Config_Bluetooth_Device_Type::VLK_Form_Config_Bluetooth_Device_Type(int
     for (const vlk::BluetoothSensorType& type : vlk::kBluetoothSensorTypes)
         addForm(newForm(type, sensor_, settings_));
     connectUniversal();
+    teller_ = std::make_unique<vlk::SensorTeller>(settings_.values(), sensor_, forms_);
     showType(0);
 }
 
@@ -121,18 +124,18 @@ void VLK_Form_Config_Bluetooth_Device_Type::connectUniversal()
     connect(universal_, &Uni::signal_Use_UserParam, this, &This::slot_Use_UserParam);
     using Numbers = std::pair<void (Uni::*)(const QString&), void (This::*)(const QString&)>;
     constexpr Numbers numbers[] = {
-        {&Uni::signal_Device_Index_Add_Uni, &This::signal_Index_Add_Uni},
-        {&Uni::signal_Device_Index_Del_Uni, &This::signal_Index_Del_Uni},
-        {&Uni::signal_Device_Index_Add_FlsL, &This::signal_Index_Add_FlsL},
-        {&Uni::signal_Device_Index_Del_FlsL, &This::signal_Index_Del_FlsL},
-        {&Uni::signal_Device_Index_Add_FlsT, &This::signal_Index_Add_FlsT},
-        {&Uni::signal_Device_Index_Del_FlsT, &This::signal_Index_Del_FlsT},
-        {&Uni::signal_Device_Index_Add_FlsF, &This::signal_Index_Add_FlsF},
-        {&Uni::signal_Device_Index_Del_FlsF, &This::signal_Index_Del_FlsF},
-        {&Uni::signal_Device_Index_Add_TmpT, &This::signal_Index_Add_TmpT},
-        {&Uni::signal_Device_Index_Del_TmpT, &This::signal_Index_Del_TmpT},
-        {&Uni::signal_Device_Index_Add_TmpH, &This::signal_Index_Add_TmpH},
-        {&Uni::signal_Device_Index_Del_TmpH, &This::signal_Index_Del_TmpH},
+        {&Uni::signal_Device_Index_Add_Uni, &This::slot_Device_Index_Add_Uni},
+        {&Uni::signal_Device_Index_Del_Uni, &This::slot_Device_Index_Del_Uni},
+        {&Uni::signal_Device_Index_Add_FlsL, &This::slot_Device_Index_Add_FlsL},
+        {&Uni::signal_Device_Index_Del_FlsL, &This::slot_Device_Index_Del_FlsL},
+        {&Uni::signal_Device_Index_Add_FlsT, &This::slot_Device_Index_Add_FlsT},
+        {&Uni::signal_Device_Index_Del_FlsT, &This::slot_Device_Index_Del_FlsT},
+        {&Uni::signal_Device_Index_Add_FlsF, &This::slot_Device_Index_Add_FlsF},
+        {&Uni::signal_Device_Index_Del_FlsF, &This::slot_Device_Index_Del_FlsF},
+        {&Uni::signal_Device_Index_Add_TmpT, &This::slot_Device_Index_Add_TmpT},
+        {&Uni::signal_Device_Index_Del_TmpT, &This::slot_Device_Index_Del_TmpT},
+        {&Uni::signal_Device_Index_Add_TmpH, &This::slot_Device_Index_Add_TmpH},
+        {&Uni::signal_Device_Index_Del_TmpH, &This::slot_Device_Index_Del_TmpH},
     };
     for (const auto& [from, to] : numbers)
         connect(universal_, from, this, to);
@@ -155,17 +158,6 @@ void VLK_Form_Config_Bluetooth_Device_Type::selectType(int type)
         settings_.edit(QStringLiteral("SENS%1/form").arg(sensor_), QString::number(formOf(type) ? type : 0));
 }
 
-void VLK_Form_Config_Bluetooth_Device_Type::activateForm(BleSensorForm* form)
-{
-    // The form before gives back what it holds; then another one may take it.
-    for (BleSensorForm* other : forms_) {
-        if (other != form)
-            other->setActive(false);
-    }
-    if (form)
-        form->setActive(true);
-}
-
 void VLK_Form_Config_Bluetooth_Device_Type::showType(int type)
 {
     BleSensorForm* form = formOf(type);
@@ -178,7 +170,6 @@ void VLK_Form_Config_Bluetooth_Device_Type::showType(int type)
         stack_->widget(i)->setSizePolicy(policy, policy);
     }
     stack_->setCurrentWidget(page);
-    activateForm(form);
     type_ = type;
     fitHeight();
     Q_EMIT signalEnabledSensorName(form && form->needsName());
@@ -201,10 +192,9 @@ bool VLK_Form_Config_Bluetooth_Device_Type::event(QEvent* event)
 
 void VLK_Form_Config_Bluetooth_Device_Type::tellChanges()
 {
+    teller_->tell();
     if (const int now = settings_.number(QStringLiteral("SENS%1/form").arg(sensor_)); now != type_)
         showType(now);
-    for (BleSensorForm* form : forms_)
-        form->tellChanges();
 }
 
 void VLK_Form_Config_Bluetooth_Device_Type::loadForm(int type, CXmlSection* bluetooth)
@@ -233,7 +223,9 @@ void VLK_Form_Config_Bluetooth_Device_Type::clearTests()
 
 void VLK_Form_Config_Bluetooth_Device_Type::retranslate()
 {
+    teller_->withdrawAll();
     params_ = std::make_unique<VLK_UserParams>();
+    teller_->tell();
     for (BleSensorForm* form : forms_)
         form->retranslate();
     fitHeight();

@@ -1,11 +1,11 @@
 #pragma once
 
 // What one wireless sensor has beside its type, address and name: a stack with a form for every type
-// (settings/bluetooth_sensor_types.h), of which that of the sensor's type is on show and active. It hands on
-// what the forms tell, with the sensor's number in: user parameters by code, name and size, and numbers taken
+// (settings/bluetooth_sensor_types.h), of which that of the sensor's type is on show. It hands on what the
+// forms tell, with the sensor's number in: user parameters by code, name and size, and numbers taken
 // and given back.
 
-#include "settings/params/user_param_type.h"
+#include "settings/user_param_types.h"
 
 #include <QWidget>
 
@@ -20,6 +20,7 @@ struct CXmlSection;
 namespace vlk {
 class BleSensorForm;
 class PageSettings;
+class SensorTeller;
 } // namespace vlk
 
 class VLK_Form_Config_Bluetooth_Device_Type : public QWidget
@@ -34,8 +35,6 @@ public:
     // Shows the form of a type, whether the list of types offers it or not; 0 and unknown types have none.
     void selectType(int type);
     int type() const { return type_; }
-    // Makes the given form the active one; null for none.
-    void activateForm(vlk::BleSensorForm* form);
     void loadForm(int type, CXmlSection* bluetooth);
     void saveForm(int type, CXmlSection* bluetooth) const;
     void resetForms();
@@ -58,6 +57,26 @@ public Q_SLOTS:
     void slot_Device_UserParam_Del(userParamType type);
     void slot_Device_UserParam_Add_Uni(userParamType type, const QString& name, const QString& element);
     void slot_Device_UserParam_Del_Uni(userParamType type, const QString& name, const QString& element);
+    void slot_Device_UserParam_Add_US(userParamType type, const QString& name, const QString& element)
+    {
+        slot_Device_UserParam_Add_Uni(type, name, element);
+    }
+    void slot_Device_UserParam_Del_US(userParamType type, const QString& name, const QString& element)
+    {
+        slot_Device_UserParam_Del_Uni(type, name, element);
+    }
+    void slot_Device_Index_Add_Uni(const QString& index) { Q_EMIT signal_Index_Add_Uni(index); }
+    void slot_Device_Index_Del_Uni(const QString& index) { Q_EMIT signal_Index_Del_Uni(index); }
+    void slot_Device_Index_Add_FlsL(const QString& index) { Q_EMIT signal_Index_Add_FlsL(index); }
+    void slot_Device_Index_Del_FlsL(const QString& index) { Q_EMIT signal_Index_Del_FlsL(index); }
+    void slot_Device_Index_Add_FlsT(const QString& index) { Q_EMIT signal_Index_Add_FlsT(index); }
+    void slot_Device_Index_Del_FlsT(const QString& index) { Q_EMIT signal_Index_Del_FlsT(index); }
+    void slot_Device_Index_Add_FlsF(const QString& index) { Q_EMIT signal_Index_Add_FlsF(index); }
+    void slot_Device_Index_Del_FlsF(const QString& index) { Q_EMIT signal_Index_Del_FlsF(index); }
+    void slot_Device_Index_Add_TmpT(const QString& index) { Q_EMIT signal_Index_Add_TmpT(index); }
+    void slot_Device_Index_Del_TmpT(const QString& index) { Q_EMIT signal_Index_Del_TmpT(index); }
+    void slot_Device_Index_Add_TmpH(const QString& index) { Q_EMIT signal_Index_Add_TmpH(index); }
+    void slot_Device_Index_Del_TmpH(const QString& index) { Q_EMIT signal_Index_Del_TmpH(index); }
     void slot_Use_UserParam(bool use) { Q_EMIT signal_UserParam_Use(use); }
     void slot_SetSensorNameEnabled(bool on) { Q_EMIT signalEnabledSensorName(on); }
 
@@ -99,5 +118,6 @@ private:
     QStackedWidget* stack_;
     std::vector<vlk::BleSensorForm*> forms_; // in the order of the table of types
     VLK_Form_Config_Ble_DevType_Uni* universal_ = nullptr;
+    std::unique_ptr<vlk::SensorTeller> teller_;
     int type_ = 0;
 };

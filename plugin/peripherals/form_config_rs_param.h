@@ -10,6 +10,9 @@
 //
 // The order of the virtual operations is fixed.
 
+#include "absent/params/user_param.h"
+
+#include <QList>
 #include <QWidget>
 
 struct CXmlSection;
@@ -35,7 +38,7 @@ public:
     // The form comes on show: it tells its line settings again.
     virtual void applyLineSettings() {}
 
-    // Of the page, which sets them before anything else; they outlive the form.
+    // Gives the form the settings of its page, before anything else; they outlive the form.
     void setSettings(vlk::PageSettings* settings) { settings_ = settings; }
 
 Q_SIGNALS:
@@ -47,5 +50,12 @@ Q_SIGNALS:
     void signal_UserParam_Del(const QString& code, const QString& name, const QString& third, int size);
 
 protected:
+    // What the form offers for the free slots of the record, from now on: sends the signals of what is gone
+    // and of what is new.
+    void tellOffers(const QList<vlk::UserParam>& offers);
+
     vlk::PageSettings* settings_ = nullptr;
+
+private:
+    QList<vlk::UserParam> told_;
 };

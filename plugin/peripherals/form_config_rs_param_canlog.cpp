@@ -14,8 +14,6 @@ VLK_Form_Config_RS_Param_CanLog::VLK_Form_Config_RS_Param_CanLog(QWidget* parent
 {
     group_->setObjectName(QStringLiteral("groupBox_CAN"));
     group_->setEnabled(false);
-    findChild<QWidget*>(QStringLiteral("label_spinBox_Programm"))
-        ->setObjectName(QStringLiteral("label_Programm"));
     get_->setObjectName(QStringLiteral("pushButton_Programm_Get"));
     set_->setObjectName(QStringLiteral("pushButton_Programm_Set"));
     auto* buttons = new QHBoxLayout;

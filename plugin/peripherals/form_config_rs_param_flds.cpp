@@ -3,6 +3,7 @@
 #include "fuel/form_fuel_view.h"
 #include "settings/rs_settings.h"
 #include "settings/value_text.h"
+#include "windows/binder/row_inputs.h"
 #include "windows/column_head.h"
 #include "windows/numbered_widget.h"
 
@@ -12,28 +13,21 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QSpinBox>
 
 #include <algorithm>
 
 namespace {
 
-// The columns of a row, behind its first box; the captions are those of the settings.
-struct Column
-{
-    const char* widget;
-    const char* caption;
-    bool isFlag;
-};
-constexpr Column kColumns[] = {
-    {"spinBox_Addres_%1", "cfgt6_212", false},       {"spinBox_Response_%1", "cfgt6_213", false},
-    {"checkBox_TrhldMoveOff_%1", "cfgt6_214", true}, {"checkBox_Filter_%1", "cfgt6_215", true},
-    {"spinBox_Aver_%1", "cfgt6_216", false},         {"spinBox_Kalman_%1", "cfgt6_217", false},
-};
-constexpr int kLineColumn = std::size(kColumns) + 1;
+// A sensor has one column a row of the settings; the first one is the box that puts it into use.
+constexpr int kLineColumn = 7;
 constexpr int kFuelColumn = kLineColumn + 1;
 
 constexpr int kLevelCode = 1; // kind of the sensors' values in the calibration dialog
+
+std::vector<const vlk::Setting*> rowsOfSensor(int sensor)
+{
+    return vlk::rowsOfForm(vlk::kRsSettings, "FLDS", {static_cast<std::uint8_t>(sensor)});
+}
 
 QString sensorName(std::size_t place)
 {
@@ -98,13 +92,10 @@ void VLK_Form_Config_RS_Param_Flds_RS485::addHead()
 
 void VLK_Form_Config_RS_Param_Flds_RS485::addRow(int sensor)
 {
-    table_->addWidget(vlk::numberedWidget<QCheckBox>("checkBox_Use_%1", sensor), sensor, 0);
     int column = 0;
-    for (const Column& cell : kColumns) {
-        QWidget* input = cell.isFlag
-                             ? static_cast<QWidget*>(vlk::numberedWidget<QCheckBox>(cell.widget, sensor))
-                             : vlk::numberedWidget<QSpinBox>(cell.widget, sensor);
-        table_->addWidget(input, sensor, ++column, Qt::AlignLeft | Qt::AlignVCenter);
+    for (const vlk::Setting* setting : rowsOfSensor(sensor)) {
+        const Qt::Alignment place = column == 0 ? Qt::Alignment() : Qt::AlignLeft | Qt::AlignVCenter;
+        table_->addWidget(vlk::makeInput(*setting), sensor, column++, place);
     }
     if (sensor <= kCalibrated)
         table_->addWidget(calibrationCell(sensor), sensor, kFuelColumn);
@@ -121,7 +112,7 @@ QWidget* VLK_Form_Config_RS_Param_Flds_RS485::calibrationCell(int sensor)
     button->setText(QStringLiteral("..."));
     button->setMaximumWidth(28);
     button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, [this, sensor] { slot_pressed_Fuel(sensor); });
+    connect(button, &QPushButton::clicked, this, [this, sensor] { editCalibration(sensor); });
     cell->addWidget(held);
     cell->addWidget(button);
     cell->addStretch(1);
@@ -144,9 +135,10 @@ void VLK_Form_Config_RS_Param_Flds_RS485::setDefaults()
 
 void VLK_Form_Config_RS_Param_Flds_RS485::retranslate()
 {
+    const auto columns = rowsOfSensor(1);
     heads_[0]->setText(tr("cfgt6_219"));
     for (int column = 1; column < kLineColumn; ++column)
-        heads_[column]->setText(vlk::captionParts(kColumns[column - 1].caption).before);
+        heads_[column]->setText(vlk::captionParts(columns[column]->shown()->captionKey).before);
     heads_.last()->setText(tr("cfgt6_218"));
     // The heads of the columns say what the boxes of a row are.
     for (int sensor = 1; sensor <= vlk::kRsFuelSensors; ++sensor) {
@@ -169,7 +161,7 @@ void VLK_Form_Config_RS_Param_Flds_RS485::retranslate()
         view_->retranslate();
 }
 
-void VLK_Form_Config_RS_Param_Flds_RS485::slot_pressed_Fuel(int sensor)
+void VLK_Form_Config_RS_Param_Flds_RS485::editCalibration(int sensor)
 {
     if (!view_) {
         view_ = new VLK_Form_Fuel_View(this);

@@ -34,9 +34,44 @@ Q_SIGNALS:
 
 public Q_SLOTS:
     // An empty one names an edit that the settings take from its widget themselves.
-    void slot_stateChanged_Use(int /*sensor*/) {}
-    void slot_stateChanged_Filter(int /*sensor*/) {}
-    void slot_pressed_Fuel(int sensor);
+    void slot_stateChanged_Use_1(int) {}
+    void slot_stateChanged_Use_2(int) {}
+    void slot_stateChanged_Use_3(int) {}
+    void slot_stateChanged_Use_4(int) {}
+    void slot_stateChanged_Use_5(int) {}
+    void slot_stateChanged_Use_6(int) {}
+    void slot_stateChanged_Use_7(int) {}
+    void slot_stateChanged_Use_8(int) {}
+    void slot_stateChanged_Use_9(int) {}
+    void slot_stateChanged_Use_10(int) {}
+    void slot_stateChanged_Use_11(int) {}
+    void slot_stateChanged_Use_12(int) {}
+    void slot_stateChanged_Use_13(int) {}
+    void slot_stateChanged_Use_14(int) {}
+    void slot_stateChanged_Use_15(int) {}
+    void slot_stateChanged_Use_16(int) {}
+    void slot_stateChanged_Filter_1(int) {}
+    void slot_stateChanged_Filter_2(int) {}
+    void slot_stateChanged_Filter_3(int) {}
+    void slot_stateChanged_Filter_4(int) {}
+    void slot_stateChanged_Filter_5(int) {}
+    void slot_stateChanged_Filter_6(int) {}
+    void slot_stateChanged_Filter_7(int) {}
+    void slot_stateChanged_Filter_8(int) {}
+    void slot_stateChanged_Filter_9(int) {}
+    void slot_stateChanged_Filter_10(int) {}
+    void slot_stateChanged_Filter_11(int) {}
+    void slot_stateChanged_Filter_12(int) {}
+    void slot_stateChanged_Filter_13(int) {}
+    void slot_stateChanged_Filter_14(int) {}
+    void slot_stateChanged_Filter_15(int) {}
+    void slot_stateChanged_Filter_16(int) {}
+    void slot_pressed_Fuel_1() { editCalibration(1); }
+    void slot_pressed_Fuel_2() { editCalibration(2); }
+    void slot_pressed_Fuel_3() { editCalibration(3); }
+    void slot_pressed_Fuel_4() { editCalibration(4); }
+    void slot_pressed_Fuel_5() { editCalibration(5); }
+    void slot_pressed_Fuel_6() { editCalibration(6); }
     void slot_GetFuelData(bool on);
     void slot_SetNewFuelData();
 
@@ -46,6 +81,7 @@ private:
     void addHead();
     void addRow(int sensor);
     QWidget* calibrationCell(int sensor);
+    void editCalibration(int sensor);
     void hold(std::size_t place, const QMap<double, int>& table);
 
     QGridLayout* table_;

@@ -1,6 +1,6 @@
 #include "peripherals/form_config_rs_param_mdbs.h"
 
-#include "settings/params/element_types.h"
+#include "settings/element_types.h"
 #include "windows/column_head.h"
 
 #include <QCheckBox>
@@ -86,7 +86,7 @@ VLK_Form_Config_RS_Param_Mdbs::VLK_Form_Config_RS_Param_Mdbs(QWidget* parent)
         layout->addWidget(group);
     makeRows();
     makeEventRows();
-    connect(byType_, &QRadioButton::toggled, this, &This::slot_toggled_Calc_NumType);
+    connect(byType_, &QRadioButton::toggled, this, &This::chooseWay);
     makeLists();
 }
 
@@ -110,33 +110,28 @@ void VLK_Form_Config_RS_Param_Mdbs::makeRows()
     lines_.reserve(kRows);
     for (int number = 1; number <= kRows; ++number) {
         const vlk::ModbusRow& row = lines_.emplace_back(Line{{number, values_.grid, number}, {}}).row;
-        const auto onNumber = [&](QSpinBox* box, void (This::*slot)(int, int)) {
-            connect(box, qOverload<int>(&QSpinBox::valueChanged), this,
-                    [this, slot, number](int value) { (this->*slot)(number, value); });
+        const auto take = [this, number](auto* input, auto signal, void (This::*edit)(Line&)) {
+            connect(input, signal, this, [this, number, edit] { (this->*edit)(line(number)); });
         };
-        const auto onText = [&](QComboBox* box, void (This::*slot)(int, const QString&)) {
-            connect(box, &QComboBox::currentTextChanged, this,
-                    [this, slot, number](const QString& text) { (this->*slot)(number, text); });
-        };
-        connect(row.use, &QCheckBox::stateChanged, this,
-                [this, number](int state) { slot_stateChanged_Interface_Modbus_Use(number, state); });
-        onNumber(row.address, &This::slot_valueChanged_Modbus_Addr);
-        onNumber(row.registerNumber, &This::slot_valueChanged_Modbus_Reg_Num);
-        onNumber(row.registerAddress, &This::slot_valueChanged_Modbus_Reg_Addr);
-        onText(row.registerType, &This::slot_currentIndexChanged_Modbus_Reg_Type);
-        onText(row.dataType, &This::slot_currentIndexChanged_Modbus_Param);
+        constexpr auto valueChanged = qOverload<int>(&QSpinBox::valueChanged);
+        take(row.use, &QCheckBox::stateChanged, &This::takeUse);
+        take(row.address, valueChanged, &This::takeAddress);
+        take(row.registerNumber, valueChanged, &This::takeRegisterNumber);
+        take(row.registerAddress, valueChanged, &This::takeRegisterAddress);
+        take(row.registerType, &QComboBox::currentTextChanged, &This::takeRegisterType);
+        take(row.dataType, &QComboBox::currentTextChanged, &This::takeDataType);
     }
 }
 
 void VLK_Form_Config_RS_Param_Mdbs::makeEventRows()
 {
-    for (int number = 1; number <= kEventRows; ++number) {
-        const vlk::ModbusEventRow& row = eventRows_.emplace_back(number, events_.grid, number);
+    eventRows_.reserve(kEventRows);
+    for (int number = 1; number <= kEventRows; ++number)
+        eventRows_.emplace_back(number, events_.grid, number);
+    for (vlk::ModbusEventRow& row : eventRows_) {
         connect(row.use, &QCheckBox::stateChanged, this,
-                [this, number](int state) { slot_stateChanged_Interface_Events_Use(number, state); });
-        connect(row.condition, &QComboBox::currentTextChanged, this, [this, number](const QString& text) {
-            slot_currentIndexChanged_Interface_Events_Condition(number, text);
-        });
+                [this, &row] { row.inUse() ? row.start(eventNames_, conditions_) : row.clear(); });
+        connect(row.condition, &QComboBox::currentTextChanged, this, [&row] { row.applyCondition(); });
     }
 }
 
@@ -199,9 +194,8 @@ bool VLK_Form_Config_RS_Param_Mdbs::byNumber() const
     return !byType_->isChecked();
 }
 
-void VLK_Form_Config_RS_Param_Mdbs::slot_stateChanged_Interface_Modbus_Use(int row, int /*state*/)
+void VLK_Form_Config_RS_Param_Mdbs::takeUse(Line& changed)
 {
-    Line& changed = line(row);
     const bool on = changed.row.inUse();
     if (!on)
         tellOf(changed);
@@ -215,53 +209,52 @@ void VLK_Form_Config_RS_Param_Mdbs::slot_stateChanged_Interface_Modbus_Use(int r
     tellOf(changed);
 }
 
-void VLK_Form_Config_RS_Param_Mdbs::slot_valueChanged_Modbus_Addr(int row, int value)
+void VLK_Form_Config_RS_Param_Mdbs::takeAddress(Line& changed)
 {
-    if (arranging_ || !line(row).row.inUse())
+    if (arranging_ || !changed.row.inUse())
         return;
-    lastAddress_ = value;
-    tellOf(line(row));
+    lastAddress_ = changed.row.address->value();
+    tellOf(changed);
 }
 
-void VLK_Form_Config_RS_Param_Mdbs::slot_valueChanged_Modbus_Reg_Addr(int row, int /*value*/)
-{
-    if (arranging_)
-        return;
-    tellOf(line(row));
-    const QScopedValueRollback arranging(arranging_, true);
-    line(row).row.showNumber();
-}
-
-void VLK_Form_Config_RS_Param_Mdbs::slot_currentIndexChanged_Modbus_Reg_Type(int row, const QString& /*text*/)
+void VLK_Form_Config_RS_Param_Mdbs::takeRegisterAddress(Line& changed)
 {
     if (arranging_)
         return;
-    const QScopedValueRollback arranging(arranging_, true);
-    line(row).row.showNumber();
+    tellOf(changed);
+    takeRegisterType(changed);
 }
 
-void VLK_Form_Config_RS_Param_Mdbs::slot_valueChanged_Modbus_Reg_Num(int row, int /*value*/)
+void VLK_Form_Config_RS_Param_Mdbs::takeRegisterType(Line& changed)
+{
+    if (arranging_)
+        return;
+    const QScopedValueRollback arranging(arranging_, true);
+    changed.row.showNumber();
+}
+
+void VLK_Form_Config_RS_Param_Mdbs::takeRegisterNumber(Line& changed)
 {
     if (arranging_ || !byNumber())
         return;
     {
         const QScopedValueRollback arranging(arranging_, true);
-        line(row).row.takeNumber();
-        line(row).row.setByNumber(true);
+        changed.row.takeNumber();
+        changed.row.setByNumber(true);
     }
-    tellOf(line(row));
+    tellOf(changed);
 }
 
-void VLK_Form_Config_RS_Param_Mdbs::slot_currentIndexChanged_Modbus_Param(int row, const QString& /*text*/)
+void VLK_Form_Config_RS_Param_Mdbs::takeDataType(Line& changed)
 {
     if (!arranging_)
-        tellOf(line(row));
+        tellOf(changed);
 }
 
-void VLK_Form_Config_RS_Param_Mdbs::slot_toggled_Calc_NumType(bool on)
+void VLK_Form_Config_RS_Param_Mdbs::chooseWay()
 {
     for (Line& line : lines_)
-        line.row.setByNumber(!on);
+        line.row.setByNumber(byNumber());
 }
 
 // Tells the data set and the event rows what became of a row since they were last told.
@@ -274,12 +267,9 @@ void VLK_Form_Config_RS_Param_Mdbs::tellOf(Line& line)
     const bool renamed = now.name != before.name;
     line.row.dataType->setRememberedText(now.third);
 
-    if (onOffer_)
-        withdraw(before);
+    tellRows();
     if (renamed && eventNames_.removeOne(before.name))
         offerEventNames();
-    if (onOffer_)
-        add(now);
     if (renamed && !now.name.isEmpty() && !eventNames_.contains(now.name)) {
         eventNames_.insert(std::lower_bound(eventNames_.begin(), eventNames_.end(), now.name, earlier),
                            now.name);
@@ -296,45 +286,26 @@ void VLK_Form_Config_RS_Param_Mdbs::offerEventNames()
     }
 }
 
-void VLK_Form_Config_RS_Param_Mdbs::slot_stateChanged_Interface_Events_Use(int row, int /*state*/)
+void VLK_Form_Config_RS_Param_Mdbs::tellRows()
 {
-    vlk::ModbusEventRow& changed = eventRows_[static_cast<std::size_t>(row) - 1];
-    if (changed.inUse())
-        changed.start(eventNames_, conditions_);
-    else
-        changed.clear();
-}
-
-void VLK_Form_Config_RS_Param_Mdbs::slot_currentIndexChanged_Interface_Events_Condition(
-    int row, const QString& /*text*/)
-{
-    eventRows_[static_cast<std::size_t>(row) - 1].applyCondition();
-}
-
-void VLK_Form_Config_RS_Param_Mdbs::add(const vlk::UserParam& offer)
-{
-    if (!offer.name.isEmpty())
-        Q_EMIT signal_UserParam_Add(offer.code, offer.name, offer.third, offer.bytes);
-}
-
-void VLK_Form_Config_RS_Param_Mdbs::withdraw(const vlk::UserParam& offer)
-{
-    if (!offer.name.isEmpty())
-        Q_EMIT signal_UserParam_Del(offer.code, offer.name, offer.third, offer.bytes);
+    QList<vlk::UserParam> offers;
+    for (const Line& line : lines_) {
+        if (onOffer_ && !line.offered.name.isEmpty())
+            offers << line.offered;
+    }
+    tellOffers(offers);
 }
 
 void VLK_Form_Config_RS_Param_Mdbs::offerAll()
 {
     onOffer_ = true;
-    for (const Line& line : lines_)
-        add(line.offered);
+    tellRows();
 }
 
 void VLK_Form_Config_RS_Param_Mdbs::withdrawAll()
 {
     onOffer_ = false;
-    for (const Line& line : lines_)
-        withdraw(line.offered);
+    tellRows();
 }
 
 QString VLK_Form_Config_RS_Param_Mdbs::keyOfName(const QString& text) const

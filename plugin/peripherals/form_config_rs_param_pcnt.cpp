@@ -2,8 +2,8 @@
 
 #include "ui_VLK_Designer_Form_Config_RS_Param_Pcnt.h"
 
-#include "settings/params/user_param_can.h"
-#include "settings/params/user_params.h"
+#include "absent/params/user_param_can.h"
+#include "absent/params/user_params.h"
 #include "settings/rs_settings.h"
 #include "windows/numbered_widget.h"
 #include "windows/tab_order.h"
@@ -38,7 +38,7 @@ VLK_Form_Config_RS_Param_Pcnt::VLK_Form_Config_RS_Param_Pcnt(QWidget* parent)
                        vlk::kRsCounters);
     addLines<QComboBox>(ui_->gridLayout_ACode_Door, "checkBox_ACode_Door_%1", "comboBox_ACode_Door_%1",
                         vlk::kRsDoors);
-    // As read.
+    // The Tab key goes as one reads: from the type and the address into the lines below.
     vlk::tabThrough(ui_->comboBox_Type, ui_->groupBox_Passager);
     vlk::tabThrough(ui_->spinBox_ACode_Passager_1, ui_->groupBox_ACode_Door);
     connect(ui_->comboBox_Type, &QComboBox::currentTextChanged, this,
@@ -49,8 +49,6 @@ VLK_Form_Config_RS_Param_Pcnt::~VLK_Form_Config_RS_Param_Pcnt() = default;
 
 void VLK_Form_Config_RS_Param_Pcnt::retranslate()
 {
-    if (hasDoors())
-        tellParams(&VLK_Form_Config_RS_Param::signal_UserParam_Del);
     ui_->retranslateUi(this);
     params_ = std::make_unique<VLK_UserParams>();
     slot_currentIndexChanged_Type(ui_->comboBox_Type->currentText());
@@ -63,17 +61,19 @@ bool VLK_Form_Config_RS_Param_Pcnt::hasDoors() const
 
 void VLK_Form_Config_RS_Param_Pcnt::slot_currentIndexChanged_Type(const QString& type)
 {
-    if (type == QLatin1String("ACOND")) {
+    if (type == QLatin1String("ACOND"))
         ui_->stackedWidget->setCurrentWidget(ui_->page_ACode);
-        tellParams(&VLK_Form_Config_RS_Param::signal_UserParam_Add);
-    } else if (type == QLatin1String("PP01")) {
+    else if (type == QLatin1String("PP01"))
         ui_->stackedWidget->setCurrentWidget(ui_->page_PP01);
-        tellParams(&VLK_Form_Config_RS_Param::signal_UserParam_Del);
-    }
+    tellOffers(offers());
 }
 
-void VLK_Form_Config_RS_Param_Pcnt::tellParams(Signal signal)
+QList<vlk::UserParam> VLK_Form_Config_RS_Param_Pcnt::offers() const
 {
+    QList<vlk::UserParam> offers;
+    if (!hasDoors())
+        return offers;
     for (const VLK_UserParam_CAN* param : params_->counterList())
-        (this->*signal)(QStringLiteral("CO"), param->name(), {}, params_->typeCodeSize(param->type()));
+        offers.append({QStringLiteral("CO"), param->name(), {}, params_->typeCodeSize(param->type())});
+    return offers;
 }

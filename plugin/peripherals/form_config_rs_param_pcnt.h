@@ -27,16 +27,25 @@ public:
 public Q_SLOTS:
     // An empty one names an edit that the settings take from its widget themselves.
     void slot_currentIndexChanged_Type(const QString& type);
-    void slot_stateChanged_Passager(int /*counter*/) {}
-    void slot_toggled_Passager_Event_In(bool /*on*/) {}
-    void slot_stateChanged_ACode_Door(int /*door*/) {}
-    void slot_stateChanged_ACore_SM_SendNavi(int /*state*/) {}
+    void slot_stateChanged_Passager_1(int) {}
+    void slot_stateChanged_Passager_2(int) {}
+    void slot_stateChanged_Passager_3(int) {}
+    void slot_stateChanged_Passager_4(int) {}
+    void slot_stateChanged_Passager_5(int) {}
+    void slot_stateChanged_Passager_6(int) {}
+    void slot_stateChanged_Passager_7(int) {}
+    void slot_toggled_Passager_Event_In(bool) {}
+    void slot_stateChanged_ACode_Door_1(int) {}
+    void slot_stateChanged_ACode_Door_2(int) {}
+    void slot_stateChanged_ACode_Door_3(int) {}
+    void slot_stateChanged_ACode_Door_4(int) {}
+    void slot_stateChanged_ACode_Door_5(int) {}
+    void slot_stateChanged_ACode_Door_6(int) {}
+    void slot_stateChanged_ACore_SM_SendNavi(int) {}
 
 private:
-    using Signal = void (VLK_Form_Config_RS_Param::*)(const QString&, const QString&, const QString&, int);
-
     bool hasDoors() const;
-    void tellParams(Signal signal);
+    QList<vlk::UserParam> offers() const;
 
     std::unique_ptr<Ui::VLK_Designer_Form_Config_RS_Param_Pcnt> ui_;
     std::unique_ptr<VLK_UserParams> params_; // with names in the present language

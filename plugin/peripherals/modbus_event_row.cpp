@@ -30,7 +30,7 @@ ModbusEventRow::ModbusEventRow(int number, QGridLayout* grid, int gridRow)
       hysteresis(numberedWidget<QSpinBox>("spinBox_Interface_Events_Hysteresis_%1", number)), number_(number)
 {
     use->setText(QString::number(number));
-    // So wide a range is typed, not stepped through.
+    // Nobody steps through a range that wide: the number is typed.
     for (QSpinBox* box : numbers()) {
         box->setRange(-2147483647, 2147483647);
         box->setButtonSymbols(QAbstractSpinBox::NoButtons);

@@ -25,7 +25,8 @@ public:
     ModbusEventRow(int number, QGridLayout* grid, int gridRow);
 
     bool inUse() const;
-    // As switched on and off; `names` are those of the values in use.
+    // What a row holds when it is switched on and when it is switched off; `names` are those of the values in
+    // use.
     void start(const QStringList& names, const QStringList& conditions);
     void clear();
     // The texts of the list of conditions, and their widths.

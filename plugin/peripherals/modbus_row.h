@@ -3,7 +3,7 @@
 // One of the 32 values that the tracker reads from Modbus sensors: its widgets in a row of the form's grid,
 // and what they do to each other. The form connects them and tells others of the value.
 
-#include "settings/params/user_param.h"
+#include "absent/params/user_param.h"
 #include "windows/eliding_combobox.h"
 
 #include <QStringList>
@@ -39,7 +39,7 @@ public:
 
     int number() const { return number_; }
     bool inUse() const;
-    // As switched on, with a first address, and as switched off.
+    // What a row holds when it is switched on, beginning with this address, and when it is switched off.
     void start(int address, bool byNumber, const ModbusLists& lists);
     void clear();
     // Whether the number tells the register, or address and type.

@@ -16,8 +16,8 @@ struct RsOwnerForm
 
     const char* owner; // code
     Form* (*make)(QWidget* parent);
-    // Null where the class has no such operation: after the form has come on show, before it goes, and the
-    // names of what it offers.
+    // What the form offers is told after it has come on show and taken back before it goes; its names are
+    // looked up by the other two. Null where the class has no such operation.
     void (*offerAll)(Form& form) = nullptr;
     void (*withdrawAll)(Form& form) = nullptr;
     QString (*keyOfName)(Form& form, const QString& text) = nullptr;

@@ -1,31 +1,17 @@
 #include "peripherals/rs_rows_form.h"
 
 #include "settings/rs_settings.h"
+#include "windows/binder/row_inputs.h"
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QSpinBox>
 
 namespace vlk {
 
 namespace {
 
 constexpr char kTypes[] = "comboBox_Type";
-
-QWidget* makeInput(const Setting& setting)
-{
-    if (setting.is<Flag>())
-        return new QCheckBox;
-    if (setting.is<Choice>())
-        return new QComboBox;
-    if (setting.is<Text>())
-        return new QLineEdit;
-    return new QSpinBox;
-}
 
 } // namespace
 
@@ -41,27 +27,10 @@ RsRowsForm::RsRowsForm(const char* owner, const char* title, QWidget* parent)
     lines_->setVerticalSpacing(6);
     lines_->setColumnStretch(2, 1);
     group_->setObjectName(QStringLiteral("groupBox"));
-    for (const Setting& setting : kRsSettings.rows) {
-        if (const Shown* shown = setting.shown(); shown && shown->widget.form() == owner)
-            addLine(setting, QString::fromLatin1(shown->widget.tail));
-    }
+    RowLines lines(lines_, RowLines::Look::simple);
+    for (const Setting* setting : rowsOfForm(kRsSettings, owner))
+        lines.add(*setting);
     types_ = group_->findChild<QComboBox*>(QLatin1String(kTypes));
-}
-
-void RsRowsForm::addLine(const Setting& setting, const QString& name)
-{
-    QWidget* input = makeInput(setting);
-    input->setObjectName(name);
-    const int line = lines_->rowCount();
-    if (setting.is<Flag>()) {
-        lines_->addWidget(input, line, 0, 1, 3);
-        return;
-    }
-    auto* label = new QLabel;
-    label->setObjectName(QStringLiteral("label_") + name);
-    label->setBuddy(input);
-    lines_->addWidget(label, line, 0);
-    lines_->addWidget(input, line, 1);
 }
 
 void RsRowsForm::retranslate()

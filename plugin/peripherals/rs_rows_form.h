@@ -1,7 +1,7 @@
 #pragma once
 
 // A parameter form that is nothing but its rows: a group box with one line a row of the owner in the table of
-// the RS page, label and input by the row's kind. The inputs are named as the rows say behind "TACH/".
+// the RS page (windows/binder/row_inputs.h). The inputs are named as the rows say behind "TACH/".
 
 #include "peripherals/form_config_rs_param.h"
 
@@ -10,8 +10,6 @@ class QGridLayout;
 class QGroupBox;
 
 namespace vlk {
-
-struct Setting;
 
 class RsRowsForm : public VLK_Form_Config_RS_Param
 {
@@ -26,7 +24,7 @@ public:
     void applyLineSettings() override;
 
 protected:
-    // The same for a type by its text; a text that is none of the list tells nothing.
+    // Tells the line settings of a type by its text; a text that is none of the list tells nothing.
     void tellLineOf(const QString& type);
 
     // Null for a device of one type.
@@ -35,8 +33,6 @@ protected:
     QGridLayout* lines_;
 
 private:
-    void addLine(const Setting& setting, const QString& name);
-
     const char* const owner_;
     const char* const title_;
 };

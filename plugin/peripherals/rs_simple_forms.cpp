@@ -34,17 +34,6 @@ VLK_Form_Config_RS_Param_Refr::VLK_Form_Config_RS_Param_Refr(QWidget* parent)
             &VLK_Form_Config_RS_Param_Refr::slot_currentIndexChanged_Refr);
 }
 
-VLK_Form_Config_RS_Param_Rfid::VLK_Form_Config_RS_Param_Rfid(QWidget* parent)
-    : RsRowsForm("RFID", "cfgt6_129", parent)
-{
-}
-
-void VLK_Form_Config_RS_Param_Rfid::slot_currentIndexChanged_Type(const QString& type)
-{
-    if (const int item = types_->findText(type); item >= 0)
-        types_->setCurrentIndex(item);
-}
-
 VLK_Form_Config_RS_Param_Tach::VLK_Form_Config_RS_Param_Tach(QWidget* parent)
     : RsRowsForm("TACH", "cfgt6_091", parent)
 {

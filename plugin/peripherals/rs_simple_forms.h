@@ -66,10 +66,14 @@ class VLK_Form_Config_RS_Param_Rfid : public vlk::RsRowsForm
     Q_OBJECT
 
 public:
-    explicit VLK_Form_Config_RS_Param_Rfid(QWidget* parent = nullptr);
+    explicit VLK_Form_Config_RS_Param_Rfid(QWidget* parent = nullptr)
+        : RsRowsForm("RFID", "cfgt6_129", parent)
+    {
+    }
 
 public Q_SLOTS:
-    void slot_currentIndexChanged_Type(const QString& type);
+    // The settings take the edit from the list itself.
+    void slot_currentIndexChanged_Type(const QString&) {}
 };
 
 class VLK_Form_Config_RS_Param_Tach : public vlk::RsRowsForm

@@ -4,8 +4,8 @@
 // what a sensor of each vendor supplies, and which of the tracker's numbers its value takes all come from its
 // row. A further type is a further row and its texts.
 
-#include "settings/params/user_param_type.h"
 #include "settings/settings_table.h"
+#include "settings/user_param_types.h"
 
 namespace vlk {
 

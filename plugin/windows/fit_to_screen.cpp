@@ -14,7 +14,7 @@ namespace vlk {
 
 namespace {
 
-// Before the window system has put its frame around the window, the style's title bar stands for it.
+// The frame around a window; as long as the window system has not told it, one with the style's title bar.
 QMargins frameOf(const QWidget* window)
 {
     const QMargins known = window->windowHandle() ? window->windowHandle()->frameMargins() : QMargins();

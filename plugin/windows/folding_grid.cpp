@@ -54,7 +54,7 @@ QList<QLayoutItem*> FoldingGrid::items() const
     return all;
 }
 
-// No field beside it in its pair.
+// Whether an item has no field beside it in its pair of columns.
 bool FoldingGrid::isAlone(const Place& place) const
 {
     const auto all = items();

@@ -24,7 +24,8 @@ public:
         int across = 0;
     };
 
-    // By columns, what stands below each other stays below each other.
+    // A fold by rows goes "1 2, 3 4" to "1, 2, 3, 4"; one by columns keeps what stands below each other: "1,
+    // 3, 2, 4".
     explicit FoldingGrid(QGridLayout* grid, Order order);
 
     // Captions in columns that keep their width beside fields in columns that stretch.
@@ -34,7 +35,7 @@ public:
     // To be called before the others: learns the places of what came into the grid.
     void learn();
     bool hasSecondPair() const { return hasSecondPair_; }
-    // Of the first (0) and the second (1) pair, as they stand unfolded.
+    // The captions in the first (0) and in the second (1) pair of columns, as they stand unfolded.
     QWidgetList captions(int pair) const;
     Needs needs(int pair) const;
     // What stands across all four columns.

@@ -64,7 +64,7 @@ int widthBehind(const QLayout* around, int item)
     return width;
 }
 
-// From the edges of the page to those of a layout.
+// The distances between the edges of the page and those of a layout.
 QMargins insetOf(QLayout* layout, const QWidget* page)
 {
     QMargins inset;
@@ -87,7 +87,7 @@ QMargins insetOf(QLayout* layout, const QWidget* page)
     return inset;
 }
 
-// Of one line, whatever the label does now.
+// The width that a caption needs in one line, even if it is broken into two now.
 int captionWidth(const QWidget* caption)
 {
     const auto* label = qobject_cast<const QLabel*>(caption);
@@ -209,7 +209,7 @@ void PageLook::findGrids()
         grid.learn();
 }
 
-// In one of three widths, the same for all that stand in one column.
+// Number fields get one of three widths, the same for all that stand in one column.
 void PageLook::dressFields()
 {
     std::map<std::pair<const QObject*, int>, std::vector<QAbstractSpinBox*>> columns;
@@ -257,7 +257,7 @@ int PageLook::room() const
     return area->width() - 2 * area->frameWidth() - area->verticalScrollBar()->sizeHint().width();
 }
 
-// Those that are longer than a caption may be take two lines. A check box with a field beside it cannot.
+// Captions that are longer than a caption may be take two lines. A check box with a field beside it cannot.
 void PageLook::wrapCaptions()
 {
     int widest = kWidestCaption;

@@ -96,7 +96,7 @@ void VLK_DblSlider2::setValue2(double value)
     Q_EMIT value2Changed(value2_);
 }
 
-// In both the end of the scale wins where the gap is wider than the scale.
+// Where the gap is wider than the scale, a value stops at the end of the scale.
 double VLK_DblSlider2::clampedValue1(double value) const
 {
     return qMax(minimum_, qMin(value, maximum_ - gap_));

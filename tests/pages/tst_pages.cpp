@@ -7,6 +7,7 @@
 #include "settings/bluetooth_sensor_types.h"
 #include "settings/quick_settings.h"
 #include "settings/rs_settings.h"
+#include "support/data_table.h"
 #include "support/device.h"
 #include "support/setting_samples.h"
 
@@ -50,6 +51,69 @@ private Q_SLOTS:
             tables << table->section;
         QCOMPARE(sections, tables);
         QCOMPARE(quick_->settings().binder().problems(), QStringList());
+    }
+
+    // Other programs know the slots by their names. Families are numbered from the first to the last.
+    void slotsHaveTheirNames_data()
+    {
+        DataTable<QString, QString, int, int>({"form", "slots", "first", "last"})
+            .row("temperature", "Sensors_Temp",
+                 "value1Changed_Left_Temp_%(double) value2Changed_Right_Temp_%(double) "
+                 "valueChanged_DSpinBox_Left_Temp_%(double) valueChanged_DSpinBox_Right_Temp_%(double) "
+                 "valueChanged_SpinBox_Hyst_%(int)",
+                 1, 4)
+            .row("accelerometer", "Accel_Virtual",
+                 "valueChanged_horizontalSlider_Level_SH%(int) valueChanged_doubleSpinBox_Level_SH%(double) "
+                 "textChanged_LineEdit_CurLevel_SH%(QString)",
+                 1, 4)
+            .row("fuel", "RS_Param_Flds_RS485", "stateChanged_Use_%(int) stateChanged_Filter_%(int)", 1, 16)
+            .row("calibration", "RS_Param_Flds_RS485", "pressed_Fuel_%()", 1, 6)
+            .row("counters", "RS_Param_Pcnt", "stateChanged_Passager_%(int)", 1, 7)
+            .row("doors", "RS_Param_Pcnt", "stateChanged_ACode_Door_%(int)", 1, 6)
+            .row("Modbus", "RS_Param_Mdbs",
+                 "stateChanged_Interface_Modbus_Use_%(int) valueChanged_Modbus_Addr_%(int) "
+                 "valueChanged_Modbus_Reg_Num_%(int) valueChanged_Modbus_Reg_Addr_%(int) "
+                 "currentIndexChanged_Modbus_Reg_Type_%(QString) currentIndexChanged_Modbus_Param_%(QString)",
+                 1, 32)
+            .row("events", "RS_Param_Mdbs",
+                 "stateChanged_Interface_Events_Use_%(int) "
+                 "currentIndexChanged_Interface_Events_Condition_%(QString)",
+                 1, 10)
+            .row("sensors", "Bluetooth_Device",
+                 "currentIndexChanged_Type_Sensor_%(QString) ChangeIdxFS_Sensor_%(QString,QString) "
+                 "ChangeIdxTS_Int_Sensor_%(int,int) EnabledSensorName%(bool)",
+                 1, 4)
+            .row("conditions", "Ble_DevType_Uni",
+                 "stateChangedCondition_Use_%(int) currentIndexChanged_Condition_Operator_%(QString)", 2, 4)
+            .row("all conditions", "Ble_DevType_Uni",
+                 "valueChanged_Condition_Group_%(int) valueChanged_Condition_Type_%(int) "
+                 "valueChanged_Condition_Displacement_%(int) textChanged_Condition_Mask_%(QString) "
+                 "stateChangedCondition_Test_Use_%(int)",
+                 1, 4)
+            .row("values", "Ble_DevType_Uni",
+                 "stateChangedParameters_Use_%(int) currentIndexChanged_Parameters_Dimension_%(QString) "
+                 "currentIndexChanged_Parameters_SensorType_%(QString) currentIndexChanged_Index_%(QString)",
+                 1, 8);
+    }
+    void slotsHaveTheirNames()
+    {
+        QFETCH(QString, form);
+        QFETCH(QString, slots);
+        QFETCH(int, first);
+        QFETCH(int, last);
+        const QWidget* found = nullptr;
+        for (const QWidget* widget : window_->findChildren<QWidget*>()) {
+            if (widget->metaObject()->className() == "VLK_Form_Config_" + form)
+                found = widget;
+        }
+        QVERIFY(found);
+        for (const QString& slot : slots.split(' ')) {
+            for (int number = first - 1; number <= last + 1; ++number) {
+                const QString name = "slot_" + QString(slot).replace('%', QString::number(number));
+                QCOMPARE(found->metaObject()->indexOfSlot(qPrintable(name)) >= 0,
+                         number >= first && number <= last);
+            }
+        }
     }
 
     void manyFiles_data()

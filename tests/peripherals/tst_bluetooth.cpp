@@ -1,9 +1,9 @@
 // The Bluetooth page as a user and the host meet it: the search, what a type of sensor brings, the numbers
 // that sensors share, and what forms tell other windows.
 
+#include "absent/forms/form_config_ble_devtype_uni.h"
 #include "link/messages.h"
 #include "pages/settings_page.h"
-#include "peripherals/form_config_ble_devtype_uni.h"
 #include "peripherals/form_config_bluetooth.h"
 #include "peripherals/form_config_bluetooth_device.h"
 #include "peripherals/form_config_bluetooth_device_type.h"
@@ -248,6 +248,16 @@ private Q_SLOTS:
         QVERIFY(!isOn("lineEdit_Name_Sens_2"));
         choose(0);
         QCOMPARE(userParams('+'), QString());
+    }
+
+    // Names on offer are those of the language.
+    void languageOffersAnew()
+    {
+        sensor(2).selectType(1);
+        listen(2);
+        page().retranslate();
+        QCOMPARE(userParams('-'), QString("2 5 7"));
+        QCOMPARE(userParams('+'), QString("2 5 7"));
     }
 
     // Numbers taken and given back, and what is left in the lists of the others.

@@ -1,9 +1,9 @@
 // The rows of the settings against the golden tables of golden/ (its README tells the form), which somebody
 // else took from the definition of the file: what both say of a key has to agree.
 
+#include "absent/params/user_param_settings.h"
 #include "settings/all_settings.h"
 #include "settings/quick_settings.h"
-#include "settings/user_param_settings.h"
 #include "support/files.h"
 #include "support/setting_samples.h"
 

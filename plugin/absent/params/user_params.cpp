@@ -1,8 +1,8 @@
-#include "settings/params/user_params.h"
+#include "absent/params/user_params.h"
 
-#include "settings/params/element_types.h"
-#include "settings/params/param_catalogues.h"
-#include "settings/params/user_param.h"
+#include "absent/params/param_catalogues.h"
+#include "absent/params/user_param.h"
+#include "settings/element_types.h"
 
 #include <QCoreApplication>
 
@@ -10,14 +10,16 @@ using Type = userParamType;
 
 namespace {
 
-// Those whose key is the code and the index.
+// Kinds whose key is the code and the index: "fs3".
 constexpr Type kPlainTypes[] = {Type::fuelFlow, Type::humidity, Type::link,
                                 Type::light,    Type::pressure, Type::signalLevel,
                                 Type::state,    Type::battery,  Type::workTime};
-// Of these a key counts the sensors of one axis behind each other, four at a time.
+// Kinds of one code whose key counts the sensors of one axis after the other: "as5" is the first sensor's
+// second kind.
 constexpr Type kTiltTypes[] = {Type::tilt, Type::tiltX, Type::tiltY, Type::tiltZ};
 constexpr int kSensors = 4;
-// Of these a key counts the axes of one sensor behind each other.
+// Kinds of one code whose key counts the axes of one sensor after the other: "ag4" is the second sensor's
+// first axis.
 constexpr Type kAccelerationTypes[] = {Type::accelerationX, Type::accelerationY, Type::accelerationZ};
 constexpr int kAxes = 3;
 

@@ -1,8 +1,8 @@
-#include "dataset/form_config_set_zeta3_tab_user.h"
+#include "absent/forms/form_config_set_zeta3_tab_user.h"
 
-#include "dataset/param_choice_dialog.h"
-#include "settings/params/param_catalogues.h"
-#include "settings/params/user_params.h"
+#include "absent/forms/param_choice_dialog.h"
+#include "absent/params/param_catalogues.h"
+#include "absent/params/user_params.h"
 #include "settings/values.h"
 #include "windows/wnd_config_full.h"
 
@@ -56,7 +56,7 @@ VLK_Form_Config_Set_Zeta3_Tab_User::VLK_Form_Config_Set_Zeta3_Tab_User(int index
     layout->addLayout(buttons);
     for (const vlk::UserParamSlots& slots : vlk::kUserParamSlots) {
         const int bytes = slots.bytes;
-        groups_.emplace_back(slots, [this, bytes](int slot) { slot_currentIndexChanged_User(bytes, slot); });
+        groups_.emplace_back(slots, [this, bytes](int slot) { groupOf(bytes)->takeChoice(slot); });
         layout->addWidget(groups_.back().box());
     }
     layout->addStretch();
@@ -118,12 +118,6 @@ void VLK_Form_Config_Set_Zeta3_Tab_User::withdraw(const vlk::UserParam& param)
 {
     if (vlk::UserParamGroup* group = groupOf(param.bytes))
         group->remove(param.display());
-}
-
-void VLK_Form_Config_Set_Zeta3_Tab_User::slot_currentIndexChanged_User(int bytes, int slot)
-{
-    if (vlk::UserParamGroup* group = groupOf(bytes))
-        group->takeChoice(slot);
 }
 
 QString VLK_Form_Config_Set_Zeta3_Tab_User::keyOf(const QString& text) const

@@ -1,11 +1,11 @@
 // The User tab on a data-set page that has one: slots, size of the record, file, dialogs, and the way of an
 // offered value from a form on the serial line to a slot.
 
+#include "absent/forms/form_config_set_zeta3_tab_user.h"
+#include "absent/params/user_params.h"
 #include "dataset/data_set_tabs.h"
 #include "dataset/form_config_set_zeta3.h"
-#include "dataset/form_config_set_zeta3_tab_user.h"
 #include "dialog/widget_config_full.h"
-#include "settings/params/user_params.h"
 #include "support/data_table.h"
 #include "support/device.h"
 #include "support/setting_samples.h"

@@ -1,36 +1,12 @@
 #pragma once
 
-// The kinds of value that forms offer as user parameters. A kind has a code of two letters, a size in bytes
-// (0: given by who offers it) and a name; several kinds may share a code. The numbers are a contract.
+// What belongs to the kinds of value that devices supply as user parameters: a code of two letters, a size in
+// bytes (0: given by who offers it) and a name. Several kinds may share a code.
 
-#include <QMetaType>
+#include "settings/user_param_types.h"
 
 #include <array>
 #include <cstddef>
-
-enum class userParamType : int {
-    fuelFlow = 0,
-    humidity = 1,
-    link = 2,
-    light = 3,
-    pressure = 4,
-    signalLevel = 5,
-    state = 6,
-    battery = 7,
-    workTime = 8,
-    tilt = 12,
-    tiltX = 13,
-    tiltY = 14,
-    tiltZ = 15,
-    universal = 16,
-    events = 17,
-    accelerationX = 19,
-    accelerationY = 20,
-    accelerationZ = 21,
-    magnet = 22,
-};
-
-Q_DECLARE_METATYPE(userParamType)
 
 namespace vlk {
 

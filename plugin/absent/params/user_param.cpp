@@ -1,4 +1,4 @@
-#include "settings/params/user_param.h"
+#include "absent/params/user_param.h"
 
 #include <QStringList>
 

@@ -4,7 +4,7 @@
 // stands in one slot at a time: the one that takes it takes it away from the lists of the others, and gives
 // it back. Each slot in use adds its width to the running size of the record.
 
-#include "settings/user_param_settings.h"
+#include "absent/params/user_param_settings.h"
 
 #include <QStringList>
 

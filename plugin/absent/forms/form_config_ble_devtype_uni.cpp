@@ -1,6 +1,6 @@
-#include "peripherals/form_config_ble_devtype_uni.h"
+#include "absent/forms/form_config_ble_devtype_uni.h"
 
-#include "settings/value_text.h"
+#include "absent/params/sensor_offers.h"
 #include "windows/binder/page_settings.h"
 #include "windows/eliding_combobox.h"
 
@@ -13,34 +13,7 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
-#include <utility>
-
 namespace {
-
-using Form = VLK_Form_Config_Ble_DevType_Uni;
-
-constexpr int kParameter = 1;
-
-// The kinds of numbers, by the value of the row's target.
-struct NumberSignals
-{
-    void (Form::*add)(const QString&);
-    void (Form::*del)(const QString&);
-};
-constexpr NumberSignals kNumberSignals[Form::kKinds] = {
-    {nullptr, nullptr},
-    {&Form::signal_Device_Index_Add_Uni, &Form::signal_Device_Index_Del_Uni},
-    {&Form::signal_Device_Index_Add_FlsL, &Form::signal_Device_Index_Del_FlsL},
-    {&Form::signal_Device_Index_Add_FlsT, &Form::signal_Device_Index_Del_FlsT},
-    {&Form::signal_Device_Index_Add_FlsF, &Form::signal_Device_Index_Del_FlsF},
-    {&Form::signal_Device_Index_Add_TmpT, &Form::signal_Device_Index_Del_TmpT},
-    {&Form::signal_Device_Index_Add_TmpH, &Form::signal_Device_Index_Del_TmpH},
-};
-
-int kindOf(int target)
-{
-    return target < Form::kKinds ? target : 0;
-}
 
 enum class Cell { check, spin, combo, line };
 
@@ -157,19 +130,6 @@ QGroupBox* makeTable(const Table& table)
 
 } // namespace
 
-// Every change on the page is told of every row: their settings are looked up once.
-VLK_Form_Config_Ble_DevType_Uni::VLK_Form_Config_Ble_DevType_Uni(const vlk::BluetoothSensorType& type,
-                                                                 int sensor, vlk::PageSettings& settings,
-                                                                 QWidget* parent)
-    : BleSensorForm(type, sensor, settings, parent)
-{
-    for (int row = 1; row <= vlk::kUniversalValues; ++row) {
-        const QString path = QStringLiteral("U%1P%2/").arg(sensor).arg(row);
-        const auto setting = [&](const char* key) { return settings.rowAt(path + QLatin1String(key)); };
-        rows_[row - 1] = {setting("group"), setting("stor"), setting("idx"), setting("prm")};
-    }
-}
-
 void VLK_Form_Config_Ble_DevType_Uni::makeWidgets()
 {
     auto* layout = new QVBoxLayout(this);
@@ -197,7 +157,7 @@ void VLK_Form_Config_Ble_DevType_Uni::setDefaults()
     clearTests();
 }
 
-// Their labels follow them.
+// The labels of the results follow their boxes.
 void VLK_Form_Config_Ble_DevType_Uni::clearTests()
 {
     for (const Table& table : kTables) {
@@ -234,129 +194,14 @@ void VLK_Form_Config_Ble_DevType_Uni::retranslate()
     }
 }
 
-const QString& VLK_Form_Config_Ble_DevType_Uni::valueOf(int row) const
-{
-    return settings().values().value(row);
-}
-
-QString VLK_Form_Config_Ble_DevType_Uni::indexOf(int row) const
-{
-    const QString& index = valueOf(rows_[row - 1].index);
-    return index == QLatin1String("0") ? QString() : index.rightJustified(2);
-}
-
-QString VLK_Form_Config_Ble_DevType_Uni::parameterName(int row, const QString& index) const
-{
-    const QString title = QStringLiteral("%1 %2").arg(tr("cfgt17_072"), tr("abbr_047"));
-    return QStringLiteral("U%1P%2, %3 %4").arg(sensor()).arg(row).arg(title, index.trimmed());
-}
-
 QString VLK_Form_Config_Ble_DevType_Uni::keyToDisplay(const QString& key) const
 {
-    const int number = key.mid(2).toInt();
     if (!key.startsWith(QLatin1String("up")))
         return {};
-    for (int row = 1; row <= vlk::kUniversalValues; ++row) {
-        const QString index = indexOf(row);
-        if (isUsed(row) && target(row) == kParameter && !index.isEmpty() && index.toInt() == number)
-            return parameterName(row, index);
+    const int number = key.mid(2).toInt();
+    for (const auto& row : vlk::SensorOfferSource(settings().values(), sensor()).offers().rows) {
+        if (!row.name.isEmpty() && !row.number.isEmpty() && row.number.toInt() == number)
+            return row.name;
     }
     return {};
-}
-
-void VLK_Form_Config_Ble_DevType_Uni::tellChanges()
-{
-    BleSensorForm::tellChanges();
-    for (int row = 1; row <= vlk::kUniversalValues; ++row) {
-        slot_stateChangedParameters_Use(row, isUsed(row) ? Qt::Checked : Qt::Unchecked);
-        slot_currentIndexChanged_Parameters_SensorType(row);
-        slot_currentIndexChanged_Index(row);
-        slot_currentIndexChanged_Parameters_Dimension(row);
-    }
-}
-
-void VLK_Form_Config_Ble_DevType_Uni::offer(int row, const QString& name)
-{
-    Told& told = told_[row - 1];
-    withdraw(row);
-    told.name = name;
-    told.element = element(row);
-    Q_EMIT signal_Device_UserParam_Add_Uni(userParamType::universal, told.name, told.element);
-}
-
-void VLK_Form_Config_Ble_DevType_Uni::withdraw(int row)
-{
-    Told& told = told_[row - 1];
-    if (told.name.isEmpty())
-        return;
-    Q_EMIT signal_Device_UserParam_Del_Uni(userParamType::universal, told.name, told.element);
-    told.name.clear();
-    told.element.clear();
-}
-
-// Gives back the number of that kind that the row holds, and takes another one, or none.
-void VLK_Form_Config_Ble_DevType_Uni::hold(int row, int kind, const QString& index)
-{
-    QString& held = told_[row - 1].held[kind];
-    if (held == index)
-        return;
-    if (!held.isEmpty())
-        Q_EMIT(this->*kNumberSignals[kind].add)(held);
-    held = index;
-    if (!held.isEmpty())
-        Q_EMIT(this->*kNumberSignals[kind].del)(held);
-}
-
-void VLK_Form_Config_Ble_DevType_Uni::slot_stateChangedParameters_Use(int row, int state)
-{
-    Told& told = told_[row - 1];
-    const bool before = std::exchange(told.used, state != Qt::Unchecked);
-    if (told.used || !before)
-        return;
-    withdraw(row);
-    for (int kind = kParameter; kind < kKinds; ++kind)
-        hold(row, kind, {});
-}
-
-void VLK_Form_Config_Ble_DevType_Uni::slot_currentIndexChanged_Parameters_SensorType(int row)
-{
-    Told& told = told_[row - 1];
-    const int now = target(row);
-    if (now == told.target)
-        return;
-    slot_currentIndexChanged_Index(row);
-    if (now != kParameter && !told.name.isEmpty()) {
-        withdraw(row);
-        hold(row, kParameter, {});
-        Q_EMIT signal_Use_UserParam(false);
-    }
-    if (now == kParameter && told.name.isEmpty()) {
-        offer(row, parameterName(row, indexOf(row)));
-        Q_EMIT signal_Use_UserParam(true);
-    }
-    if (const int kind = kindOf(told.target); kind > kParameter)
-        hold(row, kind, {});
-    told.target = now;
-}
-
-void VLK_Form_Config_Ble_DevType_Uni::slot_currentIndexChanged_Index(int row)
-{
-    const int kind = kindOf(target(row));
-    const QString index = isUsed(row) && kind != 0 ? indexOf(row) : QString();
-    if (index.isEmpty())
-        return;
-    if (kind == kParameter) {
-        const QString name = parameterName(row, index);
-        if (name == told_[row - 1].name)
-            return;
-        offer(row, name);
-    }
-    hold(row, kind, index);
-}
-
-void VLK_Form_Config_Ble_DevType_Uni::slot_currentIndexChanged_Parameters_Dimension(int row)
-{
-    const Told& told = told_[row - 1];
-    if (isUsed(row) && target(row) == kParameter && element(row) != told.element)
-        offer(row, told.name.isEmpty() ? parameterName(row, indexOf(row)) : told.name);
 }

@@ -1,9 +1,9 @@
 // The vocabulary of user parameters: stored keys and display texts turn into each other, and the catalogues
 // have their shape.
 
-#include "settings/params/element_types.h"
-#include "settings/params/param_catalogues.h"
-#include "settings/params/user_params.h"
+#include "absent/params/param_catalogues.h"
+#include "absent/params/user_params.h"
+#include "settings/element_types.h"
 #include "support/data_table.h"
 
 #include <QtTest>

@@ -3,8 +3,9 @@
 // How a user parameter is stored: fourteen element types, each with a code of two characters, its width in
 // bytes and a kind: b bits, u unsigned, s signed, f real ("2u").
 
-#include <QString>
+#include <QCoreApplication>
 
+#include <algorithm>
 #include <array>
 
 namespace vlk {
@@ -36,8 +37,20 @@ inline constexpr std::array<ElementType, 14> kElementTypes = {{
 }};
 
 // The type with this code, null for an unknown one.
-const ElementType* elementType(const QString& code);
+inline const ElementType* elementType(const QString& code)
+{
+    const auto* found =
+        std::find_if(kElementTypes.begin(), kElementTypes.end(),
+                     [&](const ElementType& type) { return code == QLatin1String(type.code); });
+    return found == kElementTypes.end() ? nullptr : found;
+}
+
 // "2 bytes, unsigned" in the language of the moment.
-QString textOf(const ElementType& type);
+inline QString textOf(const ElementType& type)
+{
+    return QStringLiteral("%1 %2, %3")
+        .arg(QString::number(type.bytes), QCoreApplication::translate("vlk", type.unit),
+             QCoreApplication::translate("vlk", type.kind));
+}
 
 } // namespace vlk

@@ -5,8 +5,8 @@
 // ("FS, Fuel flow 3"). Keys and texts turn into each other here. Texts are those of the language in which the
 // object was made; an unknown key or text gives an empty one.
 
-#include "settings/params/user_param_can.h"
-#include "settings/params/user_param_type.h"
+#include "absent/params/user_param_can.h"
+#include "absent/params/user_param_kinds.h"
 
 #include <QHash>
 

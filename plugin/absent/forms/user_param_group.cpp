@@ -1,4 +1,4 @@
-#include "dataset/user_param_group.h"
+#include "absent/forms/user_param_group.h"
 
 #include "dataset/form_config_set_zeta3.h"
 #include "windows/eliding_combobox.h"

@@ -1,4 +1,4 @@
-#include "dataset/param_choice_dialog.h"
+#include "absent/forms/param_choice_dialog.h"
 
 #include "windows/fit_to_screen.h"
 

@@ -4,7 +4,7 @@
 // free slots of a record. When he applies it, the dialog offers what he has checked and withdraws what he has
 // unchecked; what was on offer and stays so is not told again.
 
-#include "settings/params/user_param.h"
+#include "absent/params/user_param.h"
 
 #include <QDialog>
 #include <QStringList>

@@ -1,4 +1,4 @@
-#include "settings/user_param_settings.h"
+#include "absent/params/user_param_settings.h"
 
 namespace vlk {
 

@@ -1,4 +1,4 @@
-#include "settings/params/param_catalogues.h"
+#include "absent/params/param_catalogues.h"
 
 namespace vlk {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 // The 49 free slots of a record: a key of the vocabulary of user parameters
-// (settings/params/user_params.h) in each of those in use. They stand in the section PROTOCOL beside the
+// (absent/params/user_params.h) in each of those in use. They stand in the section PROTOCOL beside the
 // data set. Trackers without a tab for them have no such elements in their files, so the table is that tab's
 // alone.
 

@@ -1,4 +1,4 @@
-#include "peripherals/ble_sensor_forms.h"
+#include "sensors/ble_sensor_forms.h"
 
 void VLK_Form_Config_Ble_DevType_FLS::tellIndex(int give, int take)
 {
@@ -13,23 +13,9 @@ void VLK_Form_Config_Ble_DevType_Temp::tellIndex(int give, int take)
     Q_EMIT signal_ChangeIdx_Dev_Int_TS(give, take);
 }
 
-void VLK_Form_Config_Ble_DevType_AS::tellIndex(int give, int take)
-{
-    BleSensorForm::tellIndex(give, take);
-    Q_EMIT signal_ChangeIdx_Dev_AS(indexText(give), indexText(take));
-    Q_EMIT signal_ChangeIdx_Dev_Int_AS(give, take);
-}
-
 void VLK_Form_Config_Ble_DevType_US::tellIndex(int give, int take)
 {
     BleSensorForm::tellIndex(give, take);
     Q_EMIT signal_ChangeIdx_Dev_US(indexText(give), indexText(take));
     Q_EMIT signal_ChangeIdx_Dev_Int_US(give, take);
-}
-
-void VLK_Form_Config_Ble_DevType_AIN::tellIndex(int give, int take)
-{
-    BleSensorForm::tellIndex(give, take);
-    Q_EMIT signal_ChangeIdx_Dev_AIN(indexText(give), indexText(take));
-    Q_EMIT signal_ChangeIdx_Dev_Int_AIN(give, take);
 }

@@ -6,7 +6,7 @@
 
 namespace vlk {
 
-// The code of the values that come over Modbus. Those of the other forms stand in user_param_type.h.
+// The code of the values that come over Modbus. Those of the other forms stand in user_param_kinds.h.
 inline constexpr char kModbusCode[] = "MB";
 
 struct UserParam
