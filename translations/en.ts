@@ -89,6 +89,10 @@
     <message id="adv_062"><translation>The time is synchronised by NTP, but no server is given.</translation></message>
     <message id="adv_063"><translation>After an error the time is asked for less often (%1) than usual (%2).</translation></message>
     <message id="adv_064"><translation>%1: %2 is neither an IP address nor a host name.</translation></message>
+    <message id="adv_065"><translation>There is no port %2: give server %1 a number up to 65535.</translation></message>
+    <message id="adv_066"><translation>No server is in use: data are sent nowhere.</translation></message>
+    <message id="adv_067"><translation>There is an encryption key, but data are encrypted for no server.</translation></message>
+    <message id="adv_068"><translation>Only operators of the list are allowed in roaming, but the list is empty: no data are sent.</translation></message>
     <message id="cfgt10_001"><translation>Output lines</translation></message>
     <message id="cfgt10_002"><translation>General purpose</translation></message>
     <message id="cfgt10_003"><translation>Buzzer</translation></message>

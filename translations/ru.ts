@@ -89,6 +89,10 @@
     <message id="adv_062"><translation>Время синхронизируется по NTP, но ни один сервер не указан.</translation></message>
     <message id="adv_063"><translation>После ошибки время по NTP запрашивается реже (%1), чем обычно (%2).</translation></message>
     <message id="adv_064"><translation>%1: %2 — не IP-адрес и не имя узла.</translation></message>
+    <message id="adv_065"><translation>Порта %2 не бывает: у сервера %1 укажите число до 65535.</translation></message>
+    <message id="adv_066"><translation>Ни один сервер не используется: данные никуда не передаются.</translation></message>
+    <message id="adv_067"><translation>Ключ шифрования задан, но данные не шифруются ни для одного сервера.</translation></message>
+    <message id="adv_068"><translation>В роуминге разрешены только операторы из списка, но список пуст: данные не передаются.</translation></message>
     <message id="cfgt10_001"><translation>Выходные линии</translation></message>
     <message id="cfgt10_002"><translation>Общего назначения</translation></message>
     <message id="cfgt10_003"><translation>Зуммер</translation></message>

@@ -4,6 +4,7 @@
 #include "settings/bluetooth_sensor_types.h"
 #include "settings/rs_settings.h"
 #include "settings/shared_rows.h"
+#include "settings/transfer_settings.h"
 
 namespace vlk::advice {
 
@@ -56,6 +57,11 @@ constexpr auto kServerRules = rulesOf(
         .when(isOn("TRANS/SRV%1/use"), isNot("TRANS/SRV%1/addr", kNoAddress), is("TRANS/SRV%1/port", "0"))
         .naming("TRANS/SRV%1/port")
         .telling(outerNumber()),
+    rule("server_port_large", error, "adv_065")
+        .each(kServers)
+        .when(isOn("TRANS/SRV%1/use"), notBelow("TRANS/SRV%1/port", 65536))
+        .naming("TRANS/SRV%1/port")
+        .telling(outerNumber(), valueOf("TRANS/SRV%1/port")),
     rule("server_address_form", error, "adv_004")
         .each(kServers)
         .when(isOn("TRANS/SRV%1/use"), unlike("TRANS/SRV%1/addr", shared::kHostPattern))
@@ -67,6 +73,9 @@ constexpr auto kServerRules = rulesOf(
               same("TRANS/SRV%1/addr", "TRANS/SRV%2/addr"), same("TRANS/SRV%1/port", "TRANS/SRV%2/port"))
         .naming("TRANS/SRV%2/addr", "TRANS/SRV%1/addr", "TRANS/SRV%2/port", "TRANS/SRV%1/port")
         .telling(outerNumber(), innerNumber(), valueOf("TRANS/SRV%1/addr"), valueOf("TRANS/SRV%1/port")),
+    rule("server_none", hint, "adv_066")
+        .when(every(kServers, isOff("TRANS/SRV%2/use")))
+        .naming("TRANS/SRV1/use"),
     rule("server_main", hint, "adv_006")
         .when(isOff("TRANS/SRV1/use"))
         .whenAny(isOn("TRANS/SRV2/use"), isOn("TRANS/SRV3/use"))
@@ -118,14 +127,21 @@ constexpr auto kTransferRules = rulesOf(
         .naming("TRANS/CRYPTO/key", "TRANS/CRYPTO/srv%1Mode")
         .telling(outerNumber()),
     rule("crypto_key_form", error, "adv_010")
-        .when(isNot("TRANS/CRYPTO/key", ""), unlike("TRANS/CRYPTO/key", "^[0-9A-Fa-f]{32}$"))
-        .whenAny(isOn("TRANS/CRYPTO/srv1Mode"), isOn("TRANS/CRYPTO/srv2Mode"), isOn("TRANS/CRYPTO/srv3Mode"))
+        .when(isNot("TRANS/CRYPTO/key", ""), unlike("TRANS/CRYPTO/key", "^[0-9A-Fa-f]{32}$"),
+              some(kServers, isOn("TRANS/CRYPTO/srv%2Mode")))
         .naming("TRANS/CRYPTO/key"),
+    rule("crypto_unused", hint, "adv_067")
+        .when(isNot("TRANS/CRYPTO/key", ""), every(kServers, isOff("TRANS/CRYPTO/srv%2Mode")))
+        .naming("TRANS/CRYPTO/srv1Mode", "TRANS/CRYPTO/key"),
     rule("pin_short", error, "adv_011").when(like("TRANS/AP1/pin", "^.{1,3}$")).naming("TRANS/AP1/pin"),
     rule("access_point_name", warning, "adv_012")
         .when(is("TRANS/AP1/name", ""))
         .whenAny(isNot("TRANS/AP1/login", ""), isNot("TRANS/AP1/pass", ""))
         .naming("TRANS/AP1/name", "TRANS/AP1/login", "TRANS/AP1/pass"),
+    rule("roaming_no_operator", warning, "adv_068")
+        .when(isNot("TRANS/ROAMSIM1/mode", "0"), isOn("TRANS/ROAMSIM1/dontCnct"),
+              every(kRoamingRows, isOff("TRANS/ROAMSIM1/opCode%2")))
+        .naming("TRANS/ROAMSIM1/opCode1", "TRANS/ROAMSIM1/dontCnct"),
     cutPeriod("connection_period_cut", "TRANS/RULES/cnctTimer"),
     cutPeriod("failure_pause_cut", "TRANS/RULES/blockTimer"),
     rule("connection_period_zero", error, "adv_014")

@@ -96,6 +96,8 @@ private Q_SLOTS:
         row("server_address", "TRANS/SRV2/use=1", "TRANS/SRV2/use=1; /addr=10.0.0.1");
         row("server_port", "TRANS/SRV1/port=0", "TRANS/SRV1/port=1");
         row("server_address_form", "TRANS/SRV1/addr=http://a.b", "TRANS/SRV1/addr=a.b");
+        row("server_port_large", "TRANS/SRV1/port=65536", "TRANS/SRV1/port=65535");
+        row("server_none", "TRANS/SRV1/use=0", "TRANS/SRV1/use=0; TRANS/SRV2/use=1");
         row("servers_same", "TRANS/SRV3/use=1; /addr=Telemetry.example.com",
             "TRANS/SRV3/use=1; /addr=telemetry.example.com; /port=4001");
         row("server_main", "TRANS/SRV1/use=0; TRANS/SRV3/use=1", "TRANS/SRV3/use=1");
@@ -103,6 +105,10 @@ private Q_SLOTS:
         row("crypto_no_key", "TRANS/CRYPTO/srv1Mode=1", "TRANS/CRYPTO/srv2Mode=1");
         row("crypto_key_form", "TRANS/CRYPTO/srv1Mode=1; /key=12AB",
             "TRANS/CRYPTO/srv1Mode=1; /key=" + QString(32, 'a'));
+        row("crypto_unused", "TRANS/CRYPTO/key=1", "TRANS/CRYPTO/srv3Mode=1; /key=1");
+        row("roaming_no_operator",
+            "TRANS/ROAMSIM1/dontCnct=1; /opCode1=0; /opCode2=0; /opCode3=0; /opCode4=0",
+            "TRANS/ROAMSIM1/dontCnct=1");
         row("pin_short", "TRANS/AP1/pin=123", "TRANS/AP1/pin=1234");
         row("access_point_name", "TRANS/AP1/name=", "TRANS/AP1/name=; /login=; /pass=");
         row("connection_period_cut", "TRANS/RULES/cnctTimer=86400", "TRANS/RULES/cnctTimer=86340");
@@ -299,18 +305,16 @@ private Q_SLOTS:
     }
 
 private:
-    // A record of that many bytes: boxes from the last one on, as far as they fit, those of one byte at the
-    // end.
+    // A record of that many bytes: boxes as far as they fit, the largest ones first.
     static QString withBytes(int bytes)
     {
         QString mask = "111" + QString(vlk::kFieldCount - 3, '0');
         int rest = bytes - vlk::advice::kRecordHead - vlk::FieldMask::fromText("111").payloadSize();
-        for (const bool fill : {false, true}) {
-            for (auto box = vlk::kDataSetBoxes.rbegin(); box != vlk::kDataSetBoxes.rend(); ++box) {
-                const int size = vlk::bytesOf(box->field, "1111");
-                if (box->field.always || size > rest || (size == 1) != fill)
+        for (int size = rest; size > 0; --size) {
+            for (const vlk::DataSetBox& box : vlk::kDataSetBoxes) {
+                if (box.field.always || vlk::bytesOf(box.field, "1111") != size || size > rest)
                     continue;
-                vlk::setMaskPart(box->field, &mask, QString(box->field.count, '1'));
+                vlk::setMaskPart(box.field, &mask, QString(box.field.count, '1'));
                 rest -= size;
             }
         }
