@@ -4,6 +4,7 @@
 #include "review/advice_rules.h"
 
 #include "catalogue/field_mask.h"
+#include "settings/all_settings.h"
 #include "settings/configuration.h"
 #include "settings/data_set_boxes.h"
 #include "settings/kinds/spelling.h"
@@ -41,10 +42,7 @@ public:
     const QString& value(Place place) const
     {
         static const QString none;
-        const std::vector<Values>& tables = configuration_.tables();
-        return place.table < 0 || place.table >= static_cast<int>(tables.size())
-                   ? none
-                   : tables[place.table].value(place.row);
+        return place.table < 0 ? none : table(place).value(place.row);
     }
     const Values& table(Place place) const { return configuration_.tables()[place.table]; }
     QString inFile(const QString& path) const;
@@ -134,7 +132,7 @@ bool isMet(const BoundCondition& bound, const QString& value, Numbers numbers, c
     case Test::recordAbove:
         return facts.recordBytes() > condition.number;
     case Test::inFile:
-        return isListed(condition.text, facts.inFile(pathOf(condition.path, numbers)));
+        return isListed(condition.text, facts.inFile(numberedName(condition.path, numbers)));
     }
     return false;
 }
@@ -168,7 +166,7 @@ QString quickText(const QString& path, const QString& value)
 
 QString told(const Argument& argument, Numbers numbers, const Facts& facts)
 {
-    const QString path = argument.path ? pathOf(argument.path, numbers) : QString();
+    const QString path = argument.path ? numberedName(argument.path, numbers) : QString();
     switch (argument.kind) {
     case Argument::Kind::nothing:
         break;
@@ -204,7 +202,8 @@ void addField(int field, const Facts& facts, std::vector<Mend>* mends)
     const MaskField* box = boxWith(field);
     if (box && !facts.isTicked(field)) {
         QString ticked = facts.maskText().leftJustified(kFieldCount, QLatin1Char('0'));
-        setMaskPart(*box, &ticked, QString(box->count, QLatin1Char('1')));
+        for (std::size_t i = 0; i < box->count; ++i)
+            ticked[box->positions[i]] = QLatin1Char('1');
         mends->push_back({QLatin1String(kMaskPath), ticked});
     }
     if (!facts.knowsFormat(field))
@@ -221,10 +220,11 @@ Finding findingOf(const BoundRule& bound, const Facts& facts)
     }
     for (const char* path : rule.names) {
         if (path)
-            finding.paths << pathOf(path, bound.numbers);
+            finding.paths << numberedName(path, bound.numbers);
     }
     if (rule.mendPath)
-        finding.mends.push_back({pathOf(rule.mendPath, bound.numbers), QString::fromLatin1(rule.mendValue)});
+        finding.mends.push_back(
+            {numberedName(rule.mendPath, bound.numbers), QString::fromLatin1(rule.mendValue)});
     if (rule.tick)
         addField(positionOf(rule.tick, bound.numbers), facts, &finding.mends);
     return finding;
@@ -236,6 +236,7 @@ Finding findingOf(const BoundRule& bound, const Facts& facts)
 
 std::vector<Finding> advise(const Configuration& configuration, const CXmlSection* file)
 {
+    Q_ASSERT(configuration.tables().size() >= allSettings().size());
     const advice::Facts facts(configuration, file);
     std::vector<Finding> findings;
     for (const advice::BoundRule& rule : advice::boundRules()) {

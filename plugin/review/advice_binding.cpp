@@ -21,13 +21,13 @@ std::vector<BoundCondition> bound(std::span<const Condition> conditions, Numbers
         if (condition.test == Test::like || condition.test == Test::unlike)
             made.pattern.setPattern(QString::fromLatin1(condition.text));
         if (condition.other)
-            made.other = placeOf(pathOf(condition.other, numbers));
+            made.other = placeOf(numberedName(condition.other, numbers));
         if (!condition.path || condition.test == Test::inFile)
             continue;
         if (condition.over == Condition::Over::one)
-            made.places = {placeOf(pathOf(condition.path, numbers))};
+            made.places = {placeOf(numberedName(condition.path, numbers))};
         for (std::uint8_t number = 1; number <= condition.count; ++number)
-            made.places.push_back(placeOf(pathOf(condition.path, {numbers.outer, number})));
+            made.places.push_back(placeOf(numberedName(condition.path, {numbers.outer, number})));
     }
     return all;
 }
@@ -66,11 +66,6 @@ Place placeOf(const QString& path)
     }
     Q_ASSERT_X(false, "advice: no setting has the path", qPrintable(path));
     return {};
-}
-
-QString pathOf(const char* path, Numbers numbers)
-{
-    return numberedName(path, numbers);
 }
 
 int positionOf(Position position, Numbers numbers)

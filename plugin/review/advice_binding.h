@@ -40,7 +40,6 @@ const std::vector<BoundRule>& boundRules();
 
 // Of a path with the numbers of a rule in.
 Place placeOf(const QString& path);
-QString pathOf(const char* path, Numbers numbers);
 int positionOf(Position position, Numbers numbers);
 
 } // namespace vlk::advice

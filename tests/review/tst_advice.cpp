@@ -314,7 +314,8 @@ private:
             for (const vlk::DataSetBox& box : vlk::kDataSetBoxes) {
                 if (box.field.always || vlk::bytesOf(box.field, "1111") != size || size > rest)
                     continue;
-                vlk::setMaskPart(box.field, &mask, QString(box.field.count, '1'));
+                for (std::size_t i = 0; i < box.field.count; ++i)
+                    mask[box.field.positions[i]] = '1';
                 rest -= size;
             }
         }
