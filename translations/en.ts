@@ -65,8 +65,8 @@
     <message id="adv_038"><translation>Fuel sensors are never switched on. %1: %2.</translation></message>
     <message id="adv_039"><translation>The supply voltage sensor never restores. %1: %2.</translation></message>
     <message id="adv_040"><translation>The engine never counts as running. %1: %2.</translation></message>
-    <message id="adv_041"><translation>Input lines %1 and %2 have the same name: %3.</translation></message>
-    <message id="adv_042"><translation>Input line %1 and output line O1 have the same name: %2.</translation></message>
+    <message id="adv_041"><translation>Input lines IN%1 and IN%2 have the same name: %3.</translation></message>
+    <message id="adv_042"><translation>Input line IN%1 and output line O1 have the same name: %2.</translation></message>
     <message id="adv_043"><translation>Line AIN3 is the supply voltage sensor, but also serves as a discrete input.</translation></message>
     <message id="adv_044"><translation>%1: ignition is chosen, but no input line is assigned as ignition.</translation></message>
     <message id="adv_045"><translation>Motion is told by the engine, but line AIN3 is not used as the voltage sensor.</translation></message>
@@ -74,8 +74,8 @@
     <message id="adv_047"><translation>The engine counts as running from %1, but the voltage sensor triggers at %2. The first must be higher.</translation></message>
     <message id="adv_048"><translation>Events switch output line O1 on without safe blocking.</translation></message>
     <message id="adv_049"><translation>The signal of output line O1 is set up, but no event switches the line.</translation></message>
-    <message id="adv_050"><translation>The signal of output line O1 is %1, but a time is missing. %2: %3.</translation></message>
-    <message id="adv_051"><translation>Input line %1 switches output line O1, but is not in use.</translation></message>
+    <message id="adv_050"><translation>The signal "%1" is chosen for output line O1, but its time is 0. %2: %3.</translation></message>
+    <message id="adv_051"><translation>Input line IN%1 switches output line O1, but is not in use.</translation></message>
     <message id="adv_052"><translation>The supply voltage switches output line O1, but line AIN3 is not used as the voltage sensor.</translation></message>
     <message id="adv_053"><translation>A temperature switches output line O1, but no sensor has a bound for it.</translation></message>
     <message id="adv_054"><translation>Sensor SH%1 switches output line O1, but its level is 0.</translation></message>

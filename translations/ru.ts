@@ -65,8 +65,8 @@
     <message id="adv_038"><translation>Датчики топлива никогда не включатся. %1: %2.</translation></message>
     <message id="adv_039"><translation>Датчик напряжения питания никогда не восстановится. %1: %2.</translation></message>
     <message id="adv_040"><translation>Запуск двигателя никогда не определится. %1: %2.</translation></message>
-    <message id="adv_041"><translation>У входных линий %1 и %2 одинаковое название: %3.</translation></message>
-    <message id="adv_042"><translation>У входной линии %1 и выходной линии O1 одинаковое название: %2.</translation></message>
+    <message id="adv_041"><translation>У входных линий IN%1 и IN%2 одинаковое название: %3.</translation></message>
+    <message id="adv_042"><translation>У входной линии IN%1 и выходной линии O1 одинаковое название: %2.</translation></message>
     <message id="adv_043"><translation>Линия AIN3 — датчик напряжения питания, но назначена и дискретным входом.</translation></message>
     <message id="adv_044"><translation>%1: выбрано зажигание, но ни одна входная линия не назначена зажиганием.</translation></message>
     <message id="adv_045"><translation>Движение определяется по двигателю, но линия AIN3 не используется как датчик напряжения.</translation></message>
@@ -74,8 +74,8 @@
     <message id="adv_047"><translation>Двигатель считается запущенным от %1, а датчик напряжения срабатывает при %2. Первое должно быть выше.</translation></message>
     <message id="adv_048"><translation>События включают выходную линию O1 без безопасной блокировки.</translation></message>
     <message id="adv_049"><translation>Сигнал выходной линии O1 настроен, но ни одно событие её не переключает.</translation></message>
-    <message id="adv_050"><translation>Сигнал выходной линии O1 — %1, но время не задано. %2: %3.</translation></message>
-    <message id="adv_051"><translation>Выходную линию O1 переключает входная линия %1, но она не используется.</translation></message>
+    <message id="adv_050"><translation>Для выходной линии O1 выбран сигнал «%1», но время равно 0. %2: %3.</translation></message>
+    <message id="adv_051"><translation>Выходную линию O1 переключает входная линия IN%1, но она не используется.</translation></message>
     <message id="adv_052"><translation>Выходную линию O1 переключает напряжение питания, но линия AIN3 не используется как датчик напряжения.</translation></message>
     <message id="adv_053"><translation>Выходную линию O1 переключает температура, но ни у одного датчика нет для этого границы.</translation></message>
     <message id="adv_054"><translation>Выходную линию O1 переключает датчик SH%1, но его уровень равен 0.</translation></message>

@@ -1,94 +1,18 @@
 #include "review/advice.h"
 
-#include "review/advice_binding.h"
+#include "review/advice_facts.h"
 #include "review/advice_rules.h"
 
-#include "catalogue/field_mask.h"
 #include "settings/all_settings.h"
-#include "settings/configuration.h"
-#include "settings/data_set_boxes.h"
 #include "settings/kinds/spelling.h"
 #include "settings/quick_settings.h"
 #include "settings/value_text.h"
-#include "xml/xml_section.h"
 
 namespace vlk {
 
 namespace advice {
 
 namespace {
-
-// The box of the data set that chooses a field; null for a field that has none.
-const MaskField* boxWith(int position)
-{
-    const auto holds = [&](const DataSetBox& box) {
-        const auto end = box.field.positions.begin() + box.field.count;
-        return std::find(box.field.positions.begin(), end, position) != end;
-    };
-    const auto found = std::find_if(kDataSetBoxes.begin(), kDataSetBoxes.end(), holds);
-    return found == kDataSetBoxes.end() ? nullptr : &found->field;
-}
-
-// What rules ask about.
-class Facts
-{
-public:
-    Facts(const Configuration& configuration, const CXmlSection* file)
-        : configuration_(configuration), file_(file), mask_(FieldMask::fromText(maskText().toStdString())),
-          fieldCount_(countOf(formatText()))
-    {
-    }
-
-    const QString& value(Place place) const
-    {
-        static const QString none;
-        return place.table < 0 ? none : table(place).value(place.row);
-    }
-    const Values& table(Place place) const { return configuration_.tables()[place.table]; }
-    QString inFile(const QString& path) const;
-
-    const QString& maskText() const
-    {
-        static const Place place = placeOf(QLatin1String(kMaskPath));
-        return value(place);
-    }
-    bool isTicked(int field) const { return mask_.test(field); }
-    bool knowsFormat(int field) const { return field < fieldCount_; }
-    bool lacks(int field) const { return !isTicked(field) || !knowsFormat(field); }
-    int recordBytes() const { return kRecordHead + mask_.payloadSize(); }
-
-private:
-    const QString& formatText() const
-    {
-        static const Place place = placeOf(QLatin1String(kFormatPath));
-        return value(place);
-    }
-    static int countOf(const QString& format)
-    {
-        return format == QLatin1String("10")   ? kZeta10Count
-               : format == QLatin1String("20") ? kEarlierFieldCount
-                                               : kFieldCount;
-    }
-
-    const Configuration& configuration_;
-    const CXmlSection* file_;
-    FieldMask mask_;
-    int fieldCount_;
-};
-
-// Empty where the file has no such key.
-QString Facts::inFile(const QString& path) const
-{
-    const QStringList names = path.split(QLatin1Char('/'));
-    const CXmlSection* section = file_;
-    CXmlSectionPtr element;
-    for (int depth = 0; section && depth + 1 < names.size(); ++depth) {
-        element = section->existing(names[depth]);
-        section = element.get();
-    }
-    const QString* found = section ? section->find(names.last()) : nullptr;
-    return found ? *found : QString();
-}
 
 bool isZero(const QString& value)
 {
@@ -128,7 +52,7 @@ bool isMet(const BoundCondition& bound, const QString& value, Numbers numbers, c
     case Test::digitOn:
         return digitAt(value, static_cast<std::size_t>(bound.position)) != 0;
     case Test::lacks:
-        return facts.lacks(bound.position);
+        return !facts.isTicked(bound.position) || !facts.isKnown(bound.position);
     case Test::recordAbove:
         return facts.recordBytes() > condition.number;
     case Test::inFile:
@@ -164,6 +88,17 @@ QString quickText(const QString& path, const QString& value)
     return row < 0 ? value : valueText(*layout.rows[row].setting, value, nullptr);
 }
 
+// A unit stays on the line of its number, and that of an angle close to it.
+QString inSentence(QString value, const Setting& setting)
+{
+    if (setting.number() || setting.is<Period>()) {
+        if (value.endsWith(QStringLiteral(" \u00B0")))
+            value.remove(value.size() - 2, 1);
+        value.replace(QLatin1Char(' '), QChar(QChar::Nbsp));
+    }
+    return value;
+}
+
 QString told(const Argument& argument, Numbers numbers, const Facts& facts)
 {
     const QString path = argument.path ? numberedName(argument.path, numbers) : QString();
@@ -176,16 +111,14 @@ QString told(const Argument& argument, Numbers numbers, const Facts& facts)
         return QString::number(numbers.inner);
     case Argument::Kind::value: {
         const Place place = placeOf(path);
-        return valueText(facts.table(place), place.row);
+        return inSentence(valueText(facts.table(place), place.row), facts.table(place).setting(place.row));
     }
     case Argument::Kind::caption: {
         const Place place = placeOf(path);
         return captionText(facts.table(place).setting(place.row));
     }
-    case Argument::Kind::field: {
-        const MaskField* box = boxWith(positionOf(argument.position, numbers));
-        return box ? fieldText(*box) : QString();
-    }
+    case Argument::Kind::field:
+        return facts.boxText(positionOf(argument.position, numbers));
     case Argument::Kind::inFile:
         return quickText(path, facts.inFile(path));
     case Argument::Kind::recordBytes:
@@ -199,14 +132,9 @@ QString told(const Argument& argument, Numbers numbers, const Facts& facts)
 // What brings a field into the record.
 void addField(int field, const Facts& facts, std::vector<Mend>* mends)
 {
-    const MaskField* box = boxWith(field);
-    if (box && !facts.isTicked(field)) {
-        QString ticked = facts.maskText().leftJustified(kFieldCount, QLatin1Char('0'));
-        for (std::size_t i = 0; i < box->count; ++i)
-            ticked[box->positions[i]] = QLatin1Char('1');
-        mends->push_back({QLatin1String(kMaskPath), ticked});
-    }
-    if (!facts.knowsFormat(field))
+    if (!facts.isTicked(field))
+        mends->push_back({QLatin1String(kMaskPath), facts.maskWith(field)});
+    if (!facts.isKnown(field))
         mends->push_back({QLatin1String(kFormatPath), QLatin1String(kWholeFormat)});
 }
 

@@ -6,6 +6,9 @@
 #include "settings/shared_rows.h"
 #include "settings/transfer_settings.h"
 
+#include <string_view>
+#include <utility>
+
 namespace vlk::advice {
 
 namespace {
@@ -448,33 +451,56 @@ constexpr Rule sentAs(const char* id, std::uint8_t numbers, const char* type, co
         .ticking(tick);
 }
 
-// Models of a type, "0|4", that the tracker finds by their names.
-template <std::size_t type>
-constexpr auto kNamedModels = [] {
-    std::array<char, 32> codes{};
-    std::size_t size = 0;
-    char code = '0';
-    for (const BluetoothVendor& model : kBluetoothSensorTypes[type].vendors) {
-        if (model.needsName) {
-            if (size > 0)
-                codes[size++] = '|';
-            codes[size++] = code;
-        }
-        ++code;
-    }
-    return codes;
-}();
-
-template <std::size_t type>
-constexpr Rule nameless(const char* model)
+// A type of sensor of which the tracker finds some models by their names.
+template <std::size_t i>
+struct NamedSensors
 {
-    return rule("bluetooth_name", hint, "adv_030")
-        .each(kBluetoothSensors)
-        .when(kBluetoothOn, is("BLUETOOTH/SENS%1/type", kBluetoothSensorTypes[type].code),
-              is(model, kNamedModels<type>.data()), is("BLUETOOTH/SENS%1/name", ""))
-        .naming("BLUETOOTH/SENS%1/name", model)
-        .telling(outerNumber(), valueOf(model));
+    static constexpr const BluetoothSensorType& type = kBluetoothSensorTypes[i];
+    static constexpr bool any = std::any_of(type.vendors.begin(), type.vendors.end(),
+                                            [](const BluetoothVendor& model) { return model.needsName; });
+    // "BLUETOOTH/FS%1/type"
+    static constexpr auto model = [] {
+        std::array<char, 32> path{};
+        auto end = path.begin();
+        for (const std::string_view part : {"BLUETOOTH/", type.section, "/type"})
+            end = std::copy(part.begin(), part.end(), end);
+        return path;
+    }();
+    // "0|4"
+    static constexpr auto codes = [] {
+        std::array<char, 32> list{};
+        auto end = list.begin();
+        for (std::size_t code = 0; code < type.vendors.size(); ++code) {
+            if (!type.vendors[code].needsName)
+                continue;
+            if (end != list.begin())
+                *end++ = '|';
+            *end++ = static_cast<char>('0' + code);
+        }
+        return list;
+    }();
+};
+
+template <std::size_t i>
+constexpr auto nameless()
+{
+    using Sensors = NamedSensors<i>;
+    std::array<Rule, Sensors::any> rules;
+    std::fill(rules.begin(), rules.end(),
+              rule("bluetooth_name", hint, "adv_030")
+                  .each(kBluetoothSensors)
+                  .when(kBluetoothOn, is("BLUETOOTH/SENS%1/type", Sensors::type.code),
+                        is(Sensors::model.data(), Sensors::codes.data()), is("BLUETOOTH/SENS%1/name", ""))
+                  .naming("BLUETOOTH/SENS%1/name", Sensors::model.data())
+                  .telling(outerNumber(), valueOf(Sensors::model.data())));
+    return rules;
 }
+
+constexpr auto kNameRules = []<std::size_t... types>(std::index_sequence<types...>)
+{
+    return rulesOf(nameless<types>()...);
+}
+(std::make_index_sequence<std::size(kBluetoothSensorTypes)>());
 
 constexpr auto kBluetoothRules = rulesOf(
     sentAs("bluetooth_fuel_field", kRsFuelSensors, "1", "BLUETOOTH/FS%1/idx", levelField, lacks(levelField)),
@@ -509,8 +535,7 @@ constexpr auto kBluetoothRules = rulesOf(
         .when(isOff("BLUETOOTH/GLOBAL/use"), some(kBluetoothSensors, isOn("BLUETOOTH/SENS%2/type")))
         .naming("BLUETOOTH/GLOBAL/use")
         .mending("BLUETOOTH/GLOBAL/use", "1"),
-    nameless<0>("BLUETOOTH/FS%1/type"), nameless<1>("BLUETOOTH/TS%1/type"),
-    nameless<8>("BLUETOOTH/US%1/type"));
+    kNameRules);
 
 constexpr auto kAll = rulesOf(kTransferRules, kRecordRules, kTrackRules, kSystemRules, kRsRules, kInputRules,
                               kOutputRules, kBluetoothRules);

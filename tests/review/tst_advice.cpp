@@ -87,10 +87,122 @@ private Q_SLOTS:
 
     void speaks_data()
     {
-        const char* const in3 = "SENSORS/IN3/normState";
         const DataTable<QString, QString> rules({"speaking", "silent"});
+        for (const Case& one : cases())
+            rules.row(qPrintable(one.rule), one.speaking, one.silent);
+    }
+    void speaks()
+    {
+        QFETCH(QString, speaking);
+        QFETCH(QString, silent);
+        const QString rule = QTest::currentDataTag();
+        vlk::Configuration beside = factory_;
+        edit(beside, silent);
+        QVERIFY2(!rulesOf(vlk::advise(beside)).contains(rule), "speaks of both");
+        vlk::Configuration configuration = factory_;
+        edit(configuration, speaking);
+        const std::vector<vlk::Finding> findings = vlk::advise(configuration);
+        QVERIFY2(rulesOf(findings).contains(rule), qPrintable(rulesOf(findings).join(' ')));
+        for (const vlk::Finding& finding : findings) {
+            QVERIFY(!finding.paths.isEmpty());
+            vlk::Configuration mended = configuration;
+            for (const vlk::Mend& mend : finding.mends)
+                mended.edit(mend.path, mend.value);
+            QVERIFY2(finding.mends.empty() || !rulesOf(vlk::advise(mended)).contains(finding.rule),
+                     "does not mend");
+        }
+    }
+
+    // The quick window names the protocol of the main server under a key of its own.
+    void quickProtocol()
+    {
+        const auto advised = [&](const char* quick, const char* page) {
+            vlk::XmlDocument file(QByteArray("<DEVICE><TRANS><SRV1 addr=\"a.b\" format=\"") + quick +
+                                      "\"/></TRANS></DEVICE>",
+                                  "DEVICE");
+            vlk::Configuration configuration = factory_;
+            configuration.edit("TRANS/SRV1/protocol", page);
+            return vlk::advise(configuration, file.root());
+        };
+        const std::vector<vlk::Finding> findings = advised("VLKB_ZETA", "K6");
+        QCOMPARE(rulesOf(findings), QStringList("quick_protocol"));
+        QCOMPARE(findings[0].arguments, QStringList({"ZETA", "K6"}));
+        QCOMPARE(findings[0].mends[0].value, QString("ZETA"));
+        QCOMPARE(rulesOf(advised("R-7280", "K6")), QStringList());
+        QCOMPARE(rulesOf(advised("", "K6")), QStringList());
+    }
+
+    void everyRuleIsTested()
+    {
+        QSet<QString> tested{"quick_protocol"};
+        for (const Case& one : cases())
+            tested << one.rule;
+        for (const vlk::advice::Rule& rule : vlk::advice::kRules)
+            QVERIFY2(tested.contains(rule.id), rule.id);
+    }
+
+    // A text tells all that its rule gives, and nothing else, in both languages.
+    void texts()
+    {
+        for (const QString& language : kLanguages) {
+            const Texts texts = readTexts(language);
+            for (const vlk::advice::Rule& rule : vlk::advice::kRules) {
+                const QString text = texts.value(rule.text);
+                QVERIFY2(!text.isEmpty(), rule.id);
+                for (std::size_t i = 0; i < rule.arguments.size(); ++i) {
+                    const bool isGiven = rule.arguments[i].kind != vlk::advice::Argument::Kind::nothing;
+                    QVERIFY2(text.contains('%' + QString::number(i + 1)) == isGiven, rule.id);
+                }
+            }
+        }
+        const TextsOf english("en");
+        vlk::Configuration configuration = factory_;
+        edit(configuration,
+             "TRANS/SRV1/addr=%2 %1; RS485/FS4/use=1; PROTOCOL/ZETA/mask=0@22; TRACK/GNSS/angle=31");
+        QStringList told;
+        for (const vlk::Finding& finding : vlk::advise(configuration))
+            told << vlk::adviceText(finding);
+        QCOMPARE(told,
+                 QStringList(
+                     {"Server 1 cannot be reached: %2 %1 is neither an IP address nor a host name.",
+                      "An elevation mask angle of 31° leaves few satellites.",
+                      "Fuel level sensor 4 on the RS-485 line is in use, but the record lacks the field "
+                      "\"Level sensor 4\".",
+                      "Line AIN3 measures a voltage, but the record lacks the field \"Voltage at the input "
+                      "AIN3\"."}));
+    }
+
+    // Whatever a file holds.
+    void malformedFiles()
+    {
+        for (const QString& text : hostileTexts() + QStringList{QString(300, '9'), "%1|", "((("}) {
+            QByteArray file = readFile(kFactory);
+            for (int at = file.indexOf("<TRANS"); (at = file.indexOf("=\"", at)) >= 0;) {
+                at += 2;
+                file.replace(at, file.indexOf('"', at) - at, text.toHtmlEscaped().toLatin1());
+            }
+            vlk::XmlDocument document(file, "DEVICE");
+            vlk::Configuration configuration(vlk::allSettings());
+            configuration.read(*document.root());
+            for (const vlk::Finding& finding : vlk::advise(configuration, document.root()))
+                QVERIFY(!finding.paths.isEmpty());
+        }
+    }
+
+private:
+    // Edits of the factory configuration.
+    struct Case
+    {
+        QString rule;
+        QString speaking;
+        QString silent;
+    };
+    static QVector<Case> cases()
+    {
+        QVector<Case> all;
+        const char* const in3 = "SENSORS/IN3/normState";
         const auto row = [&](const char* rule, const QString& speaking, const QString& silent) {
-            rules.row(rule, speaking, silent);
+            all.append({rule, speaking, silent});
         };
         row("server_empty", "TRANS/SRV2/use=1; /port=0", "TRANS/SRV2/use=1; /addr=a.b; /port=0");
         row("server_address", "TRANS/SRV2/use=1", "TRANS/SRV2/use=1; /addr=10.0.0.1");
@@ -208,103 +320,9 @@ private Q_SLOTS:
         row("bluetooth_off", "BLUETOOTH/GLOBAL/use=0",
             "BLUETOOTH/GLOBAL/use=0; BLUETOOTH/SENS1/type=0; BLUETOOTH/SENS2/type=0");
         row("bluetooth_name", "BLUETOOTH/SENS1/name=", "BLUETOOTH/SENS1/name=; BLUETOOTH/FS1/type=1");
-    }
-    void speaks()
-    {
-        QFETCH(QString, speaking);
-        QFETCH(QString, silent);
-        const QString rule = QTest::currentDataTag();
-        tested_ << rule;
-        vlk::Configuration beside = factory_;
-        edit(beside, silent);
-        QVERIFY2(!rulesOf(vlk::advise(beside)).contains(rule), "speaks of both");
-        vlk::Configuration configuration = factory_;
-        edit(configuration, speaking);
-        const std::vector<vlk::Finding> findings = vlk::advise(configuration);
-        QVERIFY2(rulesOf(findings).contains(rule), qPrintable(rulesOf(findings).join(' ')));
-        for (const vlk::Finding& finding : findings) {
-            QVERIFY(!finding.paths.isEmpty());
-            vlk::Configuration mended = configuration;
-            for (const vlk::Mend& mend : finding.mends)
-                mended.edit(mend.path, mend.value);
-            QVERIFY2(finding.mends.empty() || !rulesOf(vlk::advise(mended)).contains(finding.rule),
-                     "does not mend");
-        }
+        return all;
     }
 
-    // The quick window names the protocol of the main server under a key of its own.
-    void quickProtocol()
-    {
-        const auto advised = [&](const char* quick, const char* page) {
-            vlk::XmlDocument file(QByteArray("<DEVICE><TRANS><SRV1 addr=\"a.b\" format=\"") + quick +
-                                      "\"/></TRANS></DEVICE>",
-                                  "DEVICE");
-            vlk::Configuration configuration = factory_;
-            configuration.edit("TRANS/SRV1/protocol", page);
-            tested_ << "quick_protocol";
-            return vlk::advise(configuration, file.root());
-        };
-        const std::vector<vlk::Finding> findings = advised("VLKB_ZETA", "K6");
-        QCOMPARE(rulesOf(findings), QStringList("quick_protocol"));
-        QCOMPARE(findings[0].arguments, QStringList({"ZETA", "K6"}));
-        QCOMPARE(findings[0].mends[0].value, QString("ZETA"));
-        QCOMPARE(rulesOf(advised("R-7280", "K6")), QStringList());
-        QCOMPARE(rulesOf(advised("", "K6")), QStringList());
-    }
-
-    void everyRuleIsTested()
-    {
-        for (const vlk::advice::Rule& rule : vlk::advice::kRules)
-            QVERIFY2(tested_.contains(rule.id), rule.id);
-    }
-
-    // A text tells all that its rule gives, and nothing else, in both languages.
-    void texts()
-    {
-        for (const QString& language : kLanguages) {
-            const Texts texts = readTexts(language);
-            for (const vlk::advice::Rule& rule : vlk::advice::kRules) {
-                const QString text = texts.value(rule.text);
-                QVERIFY2(!text.isEmpty(), rule.id);
-                for (std::size_t i = 0; i < rule.arguments.size(); ++i) {
-                    const bool isGiven = rule.arguments[i].kind != vlk::advice::Argument::Kind::nothing;
-                    QVERIFY2(text.contains('%' + QString::number(i + 1)) == isGiven, rule.id);
-                }
-            }
-        }
-        const TextsOf english("en");
-        vlk::Configuration configuration = factory_;
-        edit(configuration, "TRANS/SRV1/addr=%2 %1; RS485/FS4/use=1; PROTOCOL/ZETA/mask=0@22");
-        QStringList told;
-        for (const vlk::Finding& finding : vlk::advise(configuration))
-            told << vlk::adviceText(finding);
-        QCOMPARE(told,
-                 QStringList(
-                     {"Server 1 cannot be reached: %2 %1 is neither an IP address nor a host name.",
-                      "Fuel level sensor 4 on the RS-485 line is in use, but the record lacks the field "
-                      "\"Level sensor 4\".",
-                      "Line AIN3 measures a voltage, but the record lacks the field \"Voltage at the input "
-                      "AIN3\"."}));
-    }
-
-    // Whatever a file holds.
-    void malformedFiles()
-    {
-        for (const QString& text : hostileTexts() + QStringList{QString(300, '9'), "%1|", "((("}) {
-            QByteArray file = readFile(kFactory);
-            for (int at = file.indexOf("<TRANS"); (at = file.indexOf("=\"", at)) >= 0;) {
-                at += 2;
-                file.replace(at, file.indexOf('"', at) - at, text.toHtmlEscaped().toLatin1());
-            }
-            vlk::XmlDocument document(file, "DEVICE");
-            vlk::Configuration configuration(vlk::allSettings());
-            configuration.read(*document.root());
-            for (const vlk::Finding& finding : vlk::advise(configuration, document.root()))
-                QVERIFY(!finding.paths.isEmpty());
-        }
-    }
-
-private:
     // A record of that many bytes: boxes as far as they fit, the largest ones first.
     static QString withBytes(int bytes)
     {
@@ -324,7 +342,6 @@ private:
 
     vlk::Configuration factory_{vlk::allSettings()};
     const vlk::Configuration new_{vlk::allSettings()};
-    QSet<QString> tested_;
 };
 
 QTEST_GUILESS_MAIN(AdviceTest)
