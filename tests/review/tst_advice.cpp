@@ -326,18 +326,21 @@ private:
     // A record of that many bytes: boxes as far as they fit, the largest ones first.
     static QString withBytes(int bytes)
     {
+        const auto sizeOf = [](const QString& mask) {
+            return vlk::advice::kRecordHead + vlk::FieldMask::fromText(mask.toStdString()).payloadSize();
+        };
+        constexpr int largest = 90;
         QString mask = "111" + QString(vlk::kFieldCount - 3, '0');
-        int rest = bytes - vlk::advice::kRecordHead - vlk::FieldMask::fromText("111").payloadSize();
-        for (int size = rest; size > 0; --size) {
+        for (int size = largest; size > 0; --size) {
             for (const vlk::DataSetBox& box : vlk::kDataSetBoxes) {
-                if (box.field.always || vlk::bytesOf(box.field, "1111") != size || size > rest)
-                    continue;
+                QString ticked = mask;
                 for (std::size_t i = 0; i < box.field.count; ++i)
-                    mask[box.field.positions[i]] = '1';
-                rest -= size;
+                    ticked[box.field.positions[i]] = '1';
+                if (sizeOf(ticked) - sizeOf(mask) == size && sizeOf(ticked) <= bytes)
+                    mask = ticked;
             }
         }
-        return rest == 0 ? "PROTOCOL/ZETA/mask=" + mask : QString();
+        return "PROTOCOL/ZETA/mask=" + mask;
     }
 
     vlk::Configuration factory_{vlk::allSettings()};
