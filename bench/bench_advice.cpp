@@ -31,7 +31,7 @@ void advice(benchmark::State& state)
 {
     const vlk::Configuration configuration = factory();
     bench::sideBySide(
-        state, "x look", [&] { benchmark::DoNotOptimize(vlk::advise(configuration)); },
+        state, "x look", [&] { benchmark::DoNotOptimize(vlk::review::advise(configuration)); },
         [&] { benchmark::DoNotOptimize(lookAtAll(configuration)); });
 }
 

@@ -8,7 +8,7 @@
 #include "settings/quick_settings.h"
 #include "settings/value_text.h"
 
-namespace vlk {
+namespace vlk::review {
 
 namespace advice {
 
@@ -55,8 +55,8 @@ bool isMet(const BoundCondition& bound, const QString& value, Numbers numbers, c
         return !facts.isTicked(bound.position) || !facts.isKnown(bound.position);
     case Test::recordAbove:
         return facts.recordBytes() > condition.number;
-    case Test::inFile:
-        return isListed(condition.text, facts.inFile(numberedName(condition.path, numbers)));
+    case Test::unread:
+        return isListed(condition.text, facts.unread(numberedName(condition.path, numbers)));
     }
     return false;
 }
@@ -80,7 +80,6 @@ bool speaks(const BoundRule& bound, const Facts& facts)
            (bound.any.empty() || std::any_of(bound.any.begin(), bound.any.end(), holds));
 }
 
-// A value of the file as the quick window calls it.
 QString quickText(const QString& path, const QString& value)
 {
     const TableLayout& layout = layoutOf(kQuickSettings);
@@ -119,8 +118,8 @@ QString told(const Argument& argument, Numbers numbers, const Facts& facts)
     }
     case Argument::Kind::field:
         return facts.boxText(positionOf(argument.position, numbers));
-    case Argument::Kind::inFile:
-        return quickText(path, facts.inFile(path));
+    case Argument::Kind::unread:
+        return quickText(path, facts.unread(path));
     case Argument::Kind::recordBytes:
         return QString::number(facts.recordBytes());
     case Argument::Kind::mostBytes:
@@ -162,10 +161,10 @@ Finding findingOf(const BoundRule& bound, const Facts& facts)
 
 } // namespace advice
 
-std::vector<Finding> advise(const Configuration& configuration, const CXmlSection* file)
+std::vector<Finding> advise(const Configuration& configuration, const QHash<QString, QString>& unread)
 {
     Q_ASSERT(configuration.tables().size() >= allSettings().size());
-    const advice::Facts facts(configuration, file);
+    const advice::Facts facts(configuration, unread);
     std::vector<Finding> findings;
     for (const advice::BoundRule& rule : advice::boundRules()) {
         if (advice::speaks(rule, facts))
@@ -191,4 +190,4 @@ QString adviceText(const Finding& finding)
     return text;
 }
 
-} // namespace vlk
+} // namespace vlk::review

@@ -4,17 +4,18 @@
 // use whose field the record lacks, two devices on one address, a server without a port. The rules are rows
 // of data (advice_rules.cpp).
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 
 #include <cstdint>
 #include <vector>
 
-struct CXmlSection;
-
 namespace vlk {
-
 class Configuration;
+} // namespace vlk
+
+namespace vlk::review {
 
 // A hint is worth a look or waits for the user, a warning loses something, an error cannot work.
 enum class Severity : std::uint8_t { hint, warning, error };
@@ -36,11 +37,11 @@ struct Finding
 };
 
 // In the order of the rules. `configuration` holds the tables of allSettings(). Mends belong to the values
-// that it has now: after the edits of one finding, ask anew. `file`, the element DEVICE that was read, adds
-// what only the file tells.
-std::vector<Finding> advise(const Configuration& configuration, const CXmlSection* file = nullptr);
+// that it has now: after the edits of one finding, ask anew. `unread`: what the file holds that no setting
+// reads, by path.
+std::vector<Finding> advise(const Configuration& configuration, const QHash<QString, QString>& unread = {});
 
 // As a sentence, in the language of the moment.
 QString adviceText(const Finding& finding);
 
-} // namespace vlk
+} // namespace vlk::review

@@ -4,7 +4,7 @@
 #include "settings/all_settings.h"
 #include "settings/table_layout.h"
 
-namespace vlk::advice {
+namespace vlk::review::advice {
 
 namespace {
 
@@ -22,7 +22,7 @@ std::vector<BoundCondition> bound(std::span<const Condition> conditions, Numbers
             made.pattern.setPattern(QString::fromLatin1(condition.text));
         if (condition.other)
             made.other = placeOf(numberedName(condition.other, numbers));
-        if (!condition.path || condition.test == Test::inFile)
+        if (!condition.path || condition.test == Test::unread)
             continue;
         if (condition.over == Condition::Over::one)
             made.places = {placeOf(numberedName(condition.path, numbers))};
@@ -73,4 +73,4 @@ int positionOf(Position position, Numbers numbers)
     return position(numbers.inner > 0 ? numbers.inner : numbers.outer);
 }
 
-} // namespace vlk::advice
+} // namespace vlk::review::advice

@@ -10,7 +10,7 @@
 
 #include <vector>
 
-namespace vlk::advice {
+namespace vlk::review::advice {
 
 // A setting by its table and row; no table where a rule needs none.
 struct Place
@@ -42,4 +42,4 @@ const std::vector<BoundRule>& boundRules();
 Place placeOf(const QString& path);
 int positionOf(Position position, Numbers numbers);
 
-} // namespace vlk::advice
+} // namespace vlk::review::advice

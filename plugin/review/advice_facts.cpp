@@ -3,9 +3,8 @@
 #include "review/advice_rules.h"
 #include "settings/data_set_boxes.h"
 #include "settings/value_text.h"
-#include "xml/xml_section.h"
 
-namespace vlk::advice {
+namespace vlk::review::advice {
 
 namespace {
 
@@ -49,8 +48,8 @@ const MaskField* boxWith(int field)
 
 } // namespace
 
-Facts::Facts(const Configuration& configuration, const CXmlSection* file)
-    : configuration_(configuration), file_(file),
+Facts::Facts(const Configuration& configuration, const QHash<QString, QString>& unread)
+    : configuration_(configuration), unread_(unread),
       mask_(FieldMask::fromText(value(maskPlace()).toStdString())),
       knownFields_(firstFormat([&](const Format& format) {
                        return value(formatPlace()) == QLatin1String(format.code);
@@ -62,19 +61,6 @@ const QString& Facts::value(Place place) const
 {
     static const QString none;
     return place.table < 0 ? none : table(place).value(place.row);
-}
-
-QString Facts::inFile(const QString& path) const
-{
-    const QStringList names = path.split(QLatin1Char('/'));
-    const CXmlSection* section = file_;
-    CXmlSectionPtr element;
-    for (int depth = 0; section && depth + 1 < names.size(); ++depth) {
-        element = section->existing(names[depth]);
-        section = element.get();
-    }
-    const QString* found = section ? section->find(names.last()) : nullptr;
-    return found ? *found : QString();
 }
 
 int Facts::recordBytes() const
@@ -103,4 +89,4 @@ QString Facts::maskWith(int field) const
     return mask;
 }
 
-} // namespace vlk::advice
+} // namespace vlk::review::advice

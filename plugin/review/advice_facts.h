@@ -1,25 +1,23 @@
 #pragma once
 
-// What rules of advice ask about: the values of a configuration, the record that it makes, and its file.
+// What rules of advice ask about: the values of a configuration, the record that it makes, and what its file
+// holds beside them.
 
 #include "catalogue/field_mask.h"
 #include "review/advice_binding.h"
 #include "settings/configuration.h"
 
-struct CXmlSection;
-
-namespace vlk::advice {
+namespace vlk::review::advice {
 
 class Facts
 {
 public:
-    // `file`: the element DEVICE, null where there is none.
-    Facts(const Configuration& configuration, const CXmlSection* file);
+    Facts(const Configuration& configuration, const QHash<QString, QString>& unread);
 
     const QString& value(Place place) const;
     const Values& table(Place place) const { return configuration_.tables()[place.table]; }
-    // Empty where the file has no such key.
-    QString inFile(const QString& path) const;
+    // Empty where the file has no such key, or a setting reads it.
+    QString unread(const QString& path) const { return unread_.value(path); }
 
     // The record holds a field that is ticked and that its format knows.
     bool isTicked(int field) const { return mask_.test(field); }
@@ -31,9 +29,9 @@ public:
 
 private:
     const Configuration& configuration_;
-    const CXmlSection* file_;
+    const QHash<QString, QString>& unread_;
     FieldMask mask_;
     int knownFields_;
 };
 
-} // namespace vlk::advice
+} // namespace vlk::review::advice

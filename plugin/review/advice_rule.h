@@ -18,7 +18,7 @@
 #include <array>
 #include <iterator>
 
-namespace vlk::advice {
+namespace vlk::review::advice {
 
 // A position of a mask or of a string of digits, counted from 0, for the last number of the rule.
 using Position = int (*)(int number);
@@ -46,7 +46,7 @@ struct Condition
         digitOn,
         lacks,       // the record does not hold the field
         recordAbove, // bytes of the record
-        inFile       // the file holds one of the codes, whether or not a setting reads them
+        unread       // the file holds one of the codes where no setting reads it
     };
     // Over numbers that take the place of %2.
     enum class Over : std::uint8_t { one, every, some };
@@ -121,9 +121,9 @@ constexpr Condition recordAbove(int bytes)
 {
     return {.test = Condition::Test::recordAbove, .number = static_cast<double>(bytes)};
 }
-constexpr Condition inFile(const char* path, const char* codes)
+constexpr Condition isUnread(const char* path, const char* codes)
 {
-    return {.test = Condition::Test::inFile, .path = path, .text = codes};
+    return {.test = Condition::Test::unread, .path = path, .text = codes};
 }
 
 // Of a condition whose path holds %2.
@@ -149,8 +149,8 @@ struct Argument
         innerNumber,
         value, // with its unit
         caption,
-        field, // the box of the data set that the record lacks
-        inFile,
+        field,  // the box of the data set that the record lacks
+        unread, // as the quick window calls it
         recordBytes,
         mostBytes
     };
@@ -180,9 +180,9 @@ constexpr Argument boxOf(Position field)
 {
     return {Argument::Kind::field, nullptr, field};
 }
-constexpr Argument fileValueOf(const char* path)
+constexpr Argument unreadAt(const char* path)
 {
-    return {Argument::Kind::inFile, path};
+    return {Argument::Kind::unread, path};
 }
 constexpr Argument recordBytes()
 {
@@ -265,4 +265,4 @@ constexpr Rule rule(const char* id, Severity severity, const char* text)
     return made;
 }
 
-} // namespace vlk::advice
+} // namespace vlk::review::advice

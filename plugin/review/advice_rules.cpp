@@ -9,7 +9,7 @@
 #include <string_view>
 #include <utility>
 
-namespace vlk::advice {
+namespace vlk::review::advice {
 
 namespace {
 
@@ -105,9 +105,9 @@ constexpr auto kProtocolRules = [] {
                    [](const ProtocolNames& protocol) {
                        return rule("quick_protocol", warning, "adv_008")
                            .when(isOn("TRANS/SRV1/use"), isNot("TRANS/SRV1/protocol", protocol.page),
-                                 inFile("TRANS/SRV1/format", protocol.quick))
+                                 isUnread("TRANS/SRV1/format", protocol.quick))
                            .naming("TRANS/SRV1/protocol")
-                           .telling(fileValueOf("TRANS/SRV1/format"), valueOf("TRANS/SRV1/protocol"))
+                           .telling(unreadAt("TRANS/SRV1/format"), valueOf("TRANS/SRV1/protocol"))
                            .mending("TRANS/SRV1/protocol", protocol.page);
                    });
     return rules;
@@ -544,4 +544,4 @@ constexpr auto kAll = rulesOf(kTransferRules, kRecordRules, kTrackRules, kSystem
 
 constexpr std::span<const Rule> kRules = kAll;
 
-} // namespace vlk::advice
+} // namespace vlk::review::advice

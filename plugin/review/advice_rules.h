@@ -4,7 +4,7 @@
 
 #include <span>
 
-namespace vlk::advice {
+namespace vlk::review::advice {
 
 // Of a record: the bytes in front of its fields, and those that it may have with them.
 inline constexpr int kRecordHead = 34;
@@ -18,4 +18,4 @@ inline constexpr const char* kWholeFormat = "30";
 // In the order of the pages.
 extern const std::span<const Rule> kRules;
 
-} // namespace vlk::advice
+} // namespace vlk::review::advice

@@ -56,10 +56,10 @@ private:
     const Texts texts_;
 };
 
-QStringList rulesOf(const std::vector<vlk::Finding>& findings)
+QStringList rulesOf(const std::vector<vlk::review::Finding>& findings)
 {
     QStringList rules;
-    for (const vlk::Finding& finding : findings)
+    for (const vlk::review::Finding& finding : findings)
         rules << finding.rule;
     return rules;
 }
@@ -79,10 +79,10 @@ private Q_SLOTS:
 
     void nothingToTell()
     {
-        QCOMPARE(rulesOf(vlk::advise(factory_)), QStringList());
-        QCOMPARE(rulesOf(vlk::advise(new_)), QStringList({"server_empty", "record_format"}));
-        for (const vlk::Finding& finding : vlk::advise(new_))
-            QCOMPARE(finding.severity, vlk::Severity::hint);
+        QCOMPARE(rulesOf(vlk::review::advise(factory_)), QStringList());
+        QCOMPARE(rulesOf(vlk::review::advise(new_)), QStringList({"server_empty", "record_format"}));
+        for (const vlk::review::Finding& finding : vlk::review::advise(new_))
+            QCOMPARE(finding.severity, vlk::review::Severity::hint);
     }
 
     void speaks_data()
@@ -98,17 +98,17 @@ private Q_SLOTS:
         const QString rule = QTest::currentDataTag();
         vlk::Configuration beside = factory_;
         edit(beside, silent);
-        QVERIFY2(!rulesOf(vlk::advise(beside)).contains(rule), "speaks of both");
+        QVERIFY2(!rulesOf(vlk::review::advise(beside)).contains(rule), "speaks of both");
         vlk::Configuration configuration = factory_;
         edit(configuration, speaking);
-        const std::vector<vlk::Finding> findings = vlk::advise(configuration);
+        const std::vector<vlk::review::Finding> findings = vlk::review::advise(configuration);
         QVERIFY2(rulesOf(findings).contains(rule), qPrintable(rulesOf(findings).join(' ')));
-        for (const vlk::Finding& finding : findings) {
+        for (const vlk::review::Finding& finding : findings) {
             QVERIFY(!finding.paths.isEmpty());
             vlk::Configuration mended = configuration;
-            for (const vlk::Mend& mend : finding.mends)
+            for (const vlk::review::Mend& mend : finding.mends)
                 mended.edit(mend.path, mend.value);
-            QVERIFY2(finding.mends.empty() || !rulesOf(vlk::advise(mended)).contains(finding.rule),
+            QVERIFY2(finding.mends.empty() || !rulesOf(vlk::review::advise(mended)).contains(finding.rule),
                      "does not mend");
         }
     }
@@ -116,20 +116,17 @@ private Q_SLOTS:
     // The quick window names the protocol of the main server under a key of its own.
     void quickProtocol()
     {
-        const auto advised = [&](const char* quick, const char* page) {
-            vlk::XmlDocument file(QByteArray("<DEVICE><TRANS><SRV1 addr=\"a.b\" format=\"") + quick +
-                                      "\"/></TRANS></DEVICE>",
-                                  "DEVICE");
-            vlk::Configuration configuration = factory_;
-            configuration.edit("TRANS/SRV1/protocol", page);
-            return vlk::advise(configuration, file.root());
+        vlk::Configuration configuration = factory_;
+        configuration.edit("TRANS/SRV1/protocol", "K6");
+        const auto advised = [&](const char* quick) {
+            return vlk::review::advise(configuration, {{"TRANS/SRV1/format", quick}});
         };
-        const std::vector<vlk::Finding> findings = advised("VLKB_ZETA", "K6");
+        const std::vector<vlk::review::Finding> findings = advised("VLKB_ZETA");
         QCOMPARE(rulesOf(findings), QStringList("quick_protocol"));
         QCOMPARE(findings[0].arguments, QStringList({"ZETA", "K6"}));
         QCOMPARE(findings[0].mends[0].value, QString("ZETA"));
-        QCOMPARE(rulesOf(advised("R-7280", "K6")), QStringList());
-        QCOMPARE(rulesOf(advised("", "K6")), QStringList());
+        QCOMPARE(rulesOf(advised("R-7280")), QStringList());
+        QCOMPARE(rulesOf(advised("")), QStringList());
     }
 
     void everyRuleIsTested()
@@ -137,7 +134,7 @@ private Q_SLOTS:
         QSet<QString> tested{"quick_protocol"};
         for (const Case& one : cases())
             tested << one.rule;
-        for (const vlk::advice::Rule& rule : vlk::advice::kRules)
+        for (const vlk::review::advice::Rule& rule : vlk::review::advice::kRules)
             QVERIFY2(tested.contains(rule.id), rule.id);
     }
 
@@ -146,11 +143,12 @@ private Q_SLOTS:
     {
         for (const QString& language : kLanguages) {
             const Texts texts = readTexts(language);
-            for (const vlk::advice::Rule& rule : vlk::advice::kRules) {
+            for (const vlk::review::advice::Rule& rule : vlk::review::advice::kRules) {
                 const QString text = texts.value(rule.text);
                 QVERIFY2(!text.isEmpty(), rule.id);
                 for (std::size_t i = 0; i < rule.arguments.size(); ++i) {
-                    const bool isGiven = rule.arguments[i].kind != vlk::advice::Argument::Kind::nothing;
+                    const bool isGiven =
+                        rule.arguments[i].kind != vlk::review::advice::Argument::Kind::nothing;
                     QVERIFY2(text.contains('%' + QString::number(i + 1)) == isGiven, rule.id);
                 }
             }
@@ -160,8 +158,8 @@ private Q_SLOTS:
         edit(configuration,
              "TRANS/SRV1/addr=%2 %1; RS485/FS4/use=1; PROTOCOL/ZETA/mask=0@22; TRACK/GNSS/angle=31");
         QStringList told;
-        for (const vlk::Finding& finding : vlk::advise(configuration))
-            told << vlk::adviceText(finding);
+        for (const vlk::review::Finding& finding : vlk::review::advise(configuration))
+            told << vlk::review::adviceText(finding);
         QCOMPARE(told,
                  QStringList(
                      {"Server 1 cannot be reached: %2 %1 is neither an IP address nor a host name.",
@@ -184,7 +182,7 @@ private Q_SLOTS:
             vlk::XmlDocument document(file, "DEVICE");
             vlk::Configuration configuration(vlk::allSettings());
             configuration.read(*document.root());
-            for (const vlk::Finding& finding : vlk::advise(configuration, document.root()))
+            for (const vlk::review::Finding& finding : vlk::review::advise(configuration))
                 QVERIFY(!finding.paths.isEmpty());
         }
     }
@@ -327,7 +325,8 @@ private:
     static QString withBytes(int bytes)
     {
         const auto sizeOf = [](const QString& mask) {
-            return vlk::advice::kRecordHead + vlk::FieldMask::fromText(mask.toStdString()).payloadSize();
+            return vlk::review::advice::kRecordHead +
+                   vlk::FieldMask::fromText(mask.toStdString()).payloadSize();
         };
         constexpr int largest = 90;
         QString mask = "111" + QString(vlk::kFieldCount - 3, '0');
