@@ -8,6 +8,8 @@
 #include "settings/quick_settings.h"
 #include "settings/value_text.h"
 
+#include <algorithm>
+
 namespace vlk::review {
 
 namespace advice {

@@ -4,6 +4,8 @@
 #include "settings/all_settings.h"
 #include "settings/table_layout.h"
 
+#include <algorithm>
+
 namespace vlk::review::advice {
 
 namespace {

@@ -4,6 +4,8 @@
 #include "settings/data_set_boxes.h"
 #include "settings/value_text.h"
 
+#include <algorithm>
+
 namespace vlk::review::advice {
 
 namespace {

@@ -14,9 +14,9 @@
 
 #include "review/advice.h"
 
-#include <algorithm>
 #include <array>
-#include <iterator>
+#include <cstddef>
+#include <cstdint>
 
 namespace vlk::review::advice {
 

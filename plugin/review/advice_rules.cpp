@@ -6,6 +6,7 @@
 #include "settings/shared_rows.h"
 #include "settings/transfer_settings.h"
 
+#include <algorithm>
 #include <string_view>
 #include <utility>
 
