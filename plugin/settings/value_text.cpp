@@ -1,5 +1,7 @@
 #include "settings/value_text.h"
 
+#include "settings/kinds/spelling.h"
+
 namespace vlk {
 
 QString captionText(const Setting& setting)
@@ -9,6 +11,24 @@ QString captionText(const Setting& setting)
                                        shown ? shown->captionFormat : "%1", setting.base().numbers.outer);
     return inOneLine(parts.after.isEmpty() ? parts.before
                                            : parts.before + QStringLiteral(" … ") + parts.after);
+}
+
+QString headingText(const Setting& setting)
+{
+    const Numbers numbers = setting.base().numbers;
+    QString text;
+    for (const Heading* heading = setting.base().heading; heading && *heading->title;
+         heading = heading->above) {
+        QString title = inOneLine(translated(heading->title));
+        while (title.endsWith(QLatin1Char(':')) || title.endsWith(QChar(0x2026)))
+            title.chop(1);
+        title = QString::fromLatin1(heading->format)
+                    .replace(QLatin1String("%3"), QString::number(numbers.inner))
+                    .replace(QLatin1String("%2"), QString::number(numbers.outer))
+                    .replace(QLatin1String("%1"), title);
+        text = text.isEmpty() ? title : title + QStringLiteral(" / ") + text;
+    }
+    return text;
 }
 
 QString valueText(const Values& values, int row)
