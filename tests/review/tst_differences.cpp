@@ -1,6 +1,7 @@
 // What differs between two states of a configuration file, and how it is told.
 
 #include "review/difference_text.h"
+#include "review/take_over.h"
 #include "settings/all_settings.h"
 #include "settings/quick_settings.h"
 #include "support/data_table.h"
@@ -8,6 +9,8 @@
 #include "support/setting_samples.h"
 
 #include <QtTest>
+
+#include <random>
 
 using vlk::review::Differences;
 using vlk::review::FileState;
@@ -31,6 +34,13 @@ vlk::Configuration loaded(const QByteArray& file)
     vlk::XmlDocument document(file, "DEVICE");
     configuration.read(*document.root());
     return configuration;
+}
+
+QByteArray saved(const vlk::Configuration& configuration)
+{
+    vlk::XmlDocument document(QString(), "DEVICE");
+    configuration.write(*document.root());
+    return document.text();
 }
 
 // "TRACK/POINTS/angle: 5 > 7", a side that lacks the key as "-", and what the load did in brackets.
@@ -93,6 +103,47 @@ private Q_SLOTS:
         }
         const Differences differences(stateOf(file), FileState::ofConfiguration(loaded(file)));
         QCOMPARE(::told(differences), told);
+    }
+
+    // Edits at random: what is kept up to date is what a comparison from scratch gives, and taking back the
+    // differences one by one, in whatever order, ends where the edits began.
+    void takenBackOneByOne_data()
+    {
+        QTest::addColumn<int>("seed");
+        for (int seed = 1; seed <= 20; ++seed)
+            QTest::addRow("%d", seed) << seed;
+        for (const int seed : {441, 544}) // a value that several keys share
+            QTest::addRow("%d", seed) << seed;
+    }
+    void takenBackOneByOne()
+    {
+        QFETCH(int, seed);
+        std::mt19937 random(seed);
+        const auto below = [&](std::size_t count) { return static_cast<int>(random() % count); };
+        vlk::Configuration configuration = loaded(factory());
+        const QByteArray first = saved(configuration);
+        Differences differences(stateOf(first), FileState::ofConfiguration(configuration));
+        QCOMPARE(told(differences), QString());
+        for (int i = 0; i < 40; ++i) {
+            vlk::Values& table = configuration.tables()[below(configuration.tables().size())];
+            const int row = below(table.count());
+            const QStringList samples = samplesOf(table.setting(table.holder(row)));
+            table.edit(row, samples[below(samples.size())]);
+            differences.update(table);
+        }
+        QCOMPARE(told(differences),
+                 told(Differences(stateOf(first), FileState::ofConfiguration(configuration))));
+        QVERIFY(differences.count() > 0);
+        int most = 2 * differences.count();
+        while (differences.count() > 0 && most-- > 0) {
+            const std::vector<vlk::review::Difference> all = differences.all();
+            const int key = all[below(all.size())].key;
+            takeOver(configuration, differences.before(), withNeeded(differences, {key}));
+            for (const vlk::Values& table : configuration.tables())
+                differences.update(table);
+        }
+        QCOMPARE(told(differences), QString());
+        QCOMPARE(saved(configuration), first);
     }
 };
 
