@@ -17,6 +17,7 @@ class TextsFrom
 {
 public:
     explicit TextsFrom(const TextSource& source);
+    explicit TextsFrom(TextSource&& source) = delete; // it has to stay
     ~TextsFrom();
     Q_DISABLE_COPY_MOVE(TextsFrom)
 

@@ -44,7 +44,7 @@ private Q_SLOTS:
             .row("value", "gps.example", "TRANS/SRV1/addr")
             .row("value with its unit", "8.00 в", "SYSTEM/FUEL/blockVolt")
             .row("key", "COORDFLT/minSats", "TRACK/COORDFLT/minSats")
-            .row("field of the record", "HDOP", "PROTOCOL/ZETA/mask 3")
+            .row("field of the record", "HDOP", "PROTOCOL/ZETA/mask 63")
             .row("event", "сработке датчика IN2", "OUTPUTS/LINE1/actions 1")
             .row("what it could be", "egts", "TRANS/SRV1/protocol")
             .row("no secret by its value", "geheim", "")
