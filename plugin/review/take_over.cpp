@@ -31,22 +31,24 @@ std::vector<int> companions(const TableLayout& layout, int row, bool isOnOneSide
     return rows;
 }
 
-void setKey(CXmlNode& root, const QString& path, const Held& held)
+CXmlNode& nodeOf(const CXmlSection& root)
 {
-    const QStringList names = path.split(QLatin1Char('/'));
+    return *root.document()->node(nullptr, QStringLiteral("DEVICE"));
+}
+
+void removeKey(CXmlNode& root, const QString& path)
+{
+    QStringList names = path.split(QLatin1Char('/'));
+    const QString name = names.takeLast();
     CXmlNode* element = &root;
-    for (int i = 0; i + 1 < names.size(); ++i) {
-        CXmlNode* child = element->child(names[i]);
-        if (!child && !held.isSaved)
+    for (const QString& child : names) {
+        element = element->child(child);
+        if (!element)
             return;
-        element = child ? child : element->addChild(names[i]);
     }
-    if (held.isSaved)
-        element->addAttribute(names.last(), held.saved);
-    else
-        element->attributes.erase(std::remove_if(element->attributes.begin(), element->attributes.end(),
-                                                 [&](const auto& key) { return key->name == names.last(); }),
-                                  element->attributes.end());
+    auto& keys = element->attributes;
+    keys.erase(std::remove_if(keys.begin(), keys.end(), [&](const auto& key) { return key->name == name; }),
+               keys.end());
 }
 
 } // namespace
@@ -69,14 +71,35 @@ std::vector<int> withNeeded(const Differences& differences, std::vector<int> key
     return keys;
 }
 
+void setKey(CXmlSection& root, int key, const QString& text)
+{
+    QStringList names = FileKeys::all()[key].path.split(QLatin1Char('/'));
+    const QString name = names.takeLast();
+    CXmlNode& device = nodeOf(root);
+    CXmlNode* element = &device;
+    for (const QString& child : names) {
+        CXmlNode* found = element->child(child);
+        if (!found) {
+            found = element->addChild(child);
+            if (element == &device)
+                found->addAttribute(QStringLiteral("page"), child);
+        }
+        element = found;
+    }
+    element->addAttribute(name, text);
+}
+
 void layOver(CXmlSection& root, const FileState& from, const std::vector<int>& keys)
 {
     if (!root.document())
         return;
     root.commit();
-    CXmlNode* node = root.document()->node(nullptr, QStringLiteral("DEVICE"));
-    for (const int key : keys)
-        setKey(*node, FileKeys::all()[key].path, from.at(key));
+    for (const int key : keys) {
+        if (from.at(key).isSaved)
+            setKey(root, key, from.at(key).saved);
+        else
+            removeKey(nodeOf(root), FileKeys::all()[key].path);
+    }
 }
 
 void takeOver(Configuration& configuration, const FileState& from, const std::vector<int>& keys)

@@ -14,6 +14,9 @@ namespace vlk::review {
 // back in all of them.
 std::vector<int> withNeeded(const Differences& differences, std::vector<int> keys);
 
+// Gives a key of a document a text, an element made for it where there is none.
+void setKey(CXmlSection& root, int key, const QString& text);
+
 // Lays what a load of `from` makes of the keys over a document that a save has written; keys that it lacks
 // go. Sections that are open on the document lose their sight of it, but for the root.
 void layOver(CXmlSection& root, const FileState& from, const std::vector<int>& keys);
