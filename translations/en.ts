@@ -1076,6 +1076,7 @@
     <message id="rev_017"><translation>Before</translation></message>
     <message id="rev_018"><translation>After</translation></message>
     <message id="rev_019"><translation>Note</translation></message>
+    <message id="rev_020"><translation>Advice</translation></message>
     <message id="tmiex_001"><translation>Navigation</translation></message>
     <message id="tmiex_002"><translation>Receiver</translation></message>
     <message id="tmiex_003"><translation>Satellites</translation></message>

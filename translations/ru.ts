@@ -1076,6 +1076,7 @@
     <message id="rev_017"><translation>Было</translation></message>
     <message id="rev_018"><translation>Стало</translation></message>
     <message id="rev_019"><translation>Примечание</translation></message>
+    <message id="rev_020"><translation>Замечания</translation></message>
     <message id="tmiex_001"><translation>Навигация</translation></message>
     <message id="tmiex_002"><translation>Приёмник</translation></message>
     <message id="tmiex_003"><translation>Спутники</translation></message>
