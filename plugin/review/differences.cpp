@@ -1,7 +1,10 @@
 #include "review/differences.h"
 
+#include "settings/quick_settings.h"
+
 #include <QHash>
 
+#include <algorithm>
 #include <numeric>
 
 namespace vlk::review {
@@ -76,8 +79,8 @@ int Differences::count() const
 
 bool Differences::isDifferent(int table, int row) const
 {
-    const int key = keys().of(table, row);
-    return key >= 0 && isDifferent(key);
+    const std::vector<int>& held = keys().heldBy(table, row);
+    return std::any_of(held.begin(), held.end(), [this](int key) { return isDifferent(key); });
 }
 
 Difference Differences::differenceAt(int key) const
@@ -105,6 +108,16 @@ std::vector<Difference> Differences::all() const
         }
         all.insert(all.end(), strangers_[table].begin(), strangers_[table].end());
     }
+    return all;
+}
+
+std::vector<Difference> Differences::allForQuick() const
+{
+    const QStringList anew = sectionsMadeAnew(layoutOf(kQuickSettings));
+    std::vector<Difference> all = this->all();
+    std::stable_partition(all.begin(), all.end(), [&](const Difference& difference) {
+        return anew.contains(difference.path.section(QLatin1Char('/'), 0, 0));
+    });
     return all;
 }
 

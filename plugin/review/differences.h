@@ -27,7 +27,7 @@ struct Difference
 class Differences
 {
 public:
-    Differences() = default;
+    Differences() : Differences(FileState(), FileState()) {}
     Differences(FileState before, FileState after);
 
     const FileState& before() const { return before_; }
@@ -35,8 +35,11 @@ public:
 
     int count() const;
     bool isDifferent(int key) const { return !(before_.at(key) == after_.at(key)); }
+    // Of a setting.
     bool isDifferent(int table, int row) const;
     std::vector<Difference> all() const;
+    // The same with those first whose sections the quick window builds anew.
+    std::vector<Difference> allForQuick() const;
 
     // An edit has changed values of one of the configuration's tables.
     void update(const Values& values);

@@ -20,6 +20,7 @@ FileKeys::FileKeys()
         layouts_.push_back(&layout);
         first_.push_back(count());
         std::vector<int>& keys = byRow_.emplace_back(layout.rows.size(), -1);
+        auto& held = byHolder_.emplace_back(layout.rows.size());
         for (std::size_t row = 0; row < layout.rows.size(); ++row) {
             if (!layout.rows[row].base->stored)
                 continue;
@@ -35,6 +36,7 @@ FileKeys::FileKeys()
                     elements_.insert(path.left(end));
             }
             keys_[keys[row]].rows.push_back(static_cast<int>(row));
+            held[layout.rows[row].target].push_back(keys[row]);
         }
     }
     first_.push_back(count());

@@ -36,6 +36,8 @@ public:
     bool looksSecret(const QString& path) const;
     // Of a setting; -1 for one that files do not hold.
     int of(int table, int row) const { return byRow_[table][row]; }
+    // Those that hold the value of a setting: its own, and of one that several elements repeat all of them.
+    const std::vector<int>& heldBy(int table, int row) const { return byHolder_[table][row]; }
     const TableLayout& layout(int table) const { return *layouts_[table]; }
     int tables() const { return static_cast<int>(layouts_.size()); }
     // The place of a table among all; -1 for another one.
@@ -49,6 +51,7 @@ private:
     std::vector<FileKey> keys_;
     std::vector<const TableLayout*> layouts_;
     std::vector<std::vector<int>> byRow_;
+    std::vector<std::vector<std::vector<int>>> byHolder_;
     std::vector<int> first_; // and behind the last one
     QHash<QString, int> byPath_;
     QSet<QString> elements_;

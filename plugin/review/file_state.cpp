@@ -26,9 +26,9 @@ const QString& plainDefault(int table, int row)
     std::vector<QString>& own = texts[table];
     const TableLayout& layout = keys().layout(table);
     own.resize(layout.rows.size());
-    // Some of them are texts of the present language.
+    // Some of them are texts of the present language or of the model.
     const auto* text = layout.rows[row].setting->as<Text>();
-    if (own[row].isNull() || (text && text->load.key))
+    if (own[row].isNull() || (text && (text->load.key || text->load.namesModel)))
         own[row] = loadDefault(*layout.rows[row].setting);
     return own[row];
 }
@@ -50,6 +50,16 @@ QString defaultOf(const Values& values, int table, int row)
 }
 
 } // namespace
+
+QStringList sectionsMadeAnew(const TableLayout& layout)
+{
+    QStringList sections;
+    for (const TableLayout::Element& element : layout.elements) {
+        if (element.path.size() == 1 && element.group->save != ElementSave::keepsOthers)
+            sections << element.path.first();
+    }
+    return sections;
+}
 
 FileState::FileState() : held_(keys().count()) {}
 
@@ -135,13 +145,11 @@ void FileState::hold(int key, int row, const QString& text)
 
 void FileState::lay(const Values& quick)
 {
-    const TableLayout& layout = quick.layout();
-    for (const TableLayout::Element& element : layout.elements) {
-        if (element.path.size() > 1 || element.group->save == ElementSave::keepsOthers)
-            continue;
-        const QString section = element.path.first() + QLatin1Char('/');
-        for (int key = 0; key < keys().count(); ++key) {
-            if (keys()[key].path.startsWith(section))
+    for (const QString& section : sectionsMadeAnew(quick.layout())) {
+        for (int table = 0; table < keys().tables(); ++table) {
+            if (keys().layout(table).section != section)
+                continue;
+            for (int key = keys().firstOf(table); key < keys().firstOf(table + 1); ++key)
                 held_[key] = {};
         }
     }

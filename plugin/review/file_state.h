@@ -33,6 +33,9 @@ struct Stranger
     QString text;
 };
 
+// The sections that a save of the table empties before it writes them.
+QStringList sectionsMadeAnew(const TableLayout& layout);
+
 class FileState
 {
 public:

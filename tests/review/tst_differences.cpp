@@ -226,6 +226,11 @@ private Q_SLOTS:
             quick.write(*written.root());
             QCOMPARE(told(Differences(stateOf(written.text()), differences.after())), QString());
         }
+        QStringList sections;
+        for (const vlk::review::Difference& difference : differences.allForQuick())
+            sections << difference.path.section('/', 0, 0);
+        sections.removeDuplicates();
+        QCOMPARE(sections.mid(0, 3), QStringList({"RS485", "SENSORS", "BLUETOOTH"}));
     }
 
     // Edits at random: what is kept up to date is what a comparison from scratch gives, and taking back the
