@@ -4,6 +4,8 @@
 #include "dialog/config_pages.h"
 #include "dialog/form_config_light.h"
 #include "dialog/widget_config_full.h"
+#include "review/difference_text.h"
+#include "review/preset.h"
 #include "settings/all_settings.h"
 #include "settings/quick_settings.h"
 #include "support/device.h"
@@ -56,6 +58,25 @@ void holdAgainst(Window& window, Settings& settings, const QByteArray& file)
     require(throughTheWindow(window, alone) == again);
 }
 
+// What the load did to it, told, taken back, and laid over another configuration.
+void review(const QByteArray& file)
+{
+    vlk::XmlDocument document(file, "DEVICE");
+    vlk::Configuration loaded(vlk::allSettings());
+    loaded.read(*document.root());
+    const vlk::review::Differences differences(vlk::review::FileState::ofDocument(*document.root()),
+                                               vlk::review::FileState::ofConfiguration(loaded));
+    std::vector<int> keys;
+    for (const vlk::review::Difference& difference : differences.all()) {
+        const int table = difference.key < 0 ? 0 : vlk::review::FileKeys::all()[difference.key].table;
+        textOf(differences, difference, loaded.tables()[table]);
+        if (difference.key >= 0)
+            keys.push_back(difference.key);
+    }
+    takeOver(loaded, differences.before(), withNeeded(differences, keys));
+    vlk::review::applied(*document.root(), loaded);
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
@@ -76,5 +97,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static VLK_Form_Config_Light form;
     static vlk::Values quick(vlk::kQuickSettings);
     holdAgainst(form, quick, file);
+    review(file);
     return 0;
 }

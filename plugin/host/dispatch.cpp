@@ -5,6 +5,7 @@
 #include "dialog/widget_config.h"
 #include "dialog/widget_config_full.h"
 #include "host/device_r7106.h"
+#include "host/file_comparison.h"
 #include "telemetry/view/widget_tmi_view.h"
 
 #include <algorithm>
@@ -96,15 +97,21 @@ quint64 numberOf(const vlk::IdPair& pair)
     return quint64(pair.high) << 32 | pair.low;
 }
 
+// The size that the record of an extension says it has; 0 where there is none.
+std::uint32_t sizeOf(const void* record)
+{
+    std::uint32_t size = 0;
+    if (record)
+        std::memcpy(&size, record, sizeof size);
+    return size;
+}
+
 // Fills the record of an extension as far as its own size goes, in whole words.
 template <class Record>
 void fillRecord(void* address, const Record& filled)
 {
-    if (!address)
-        return;
     constexpr std::uint32_t word = sizeof(std::uint32_t);
-    std::uint32_t size = 0;
-    std::memcpy(&size, address, word);
+    std::uint32_t size = sizeOf(address);
     size = std::min<std::uint32_t>(size, sizeof filled) / word * word;
     if (size > word)
         std::memcpy(static_cast<char*>(address) + word, reinterpret_cast<const char*>(&filled) + word,
@@ -215,6 +222,17 @@ constexpr Entry table[] = {
      [](VLK_Device_R7106& device, const Parameters& parameters) {
          if (device.telemetryView())
              fillRecord(parameters.p1, device.telemetryView()->runningWork());
+     }},
+    {Message::GetExtensions,
+     [](VLK_Device_R7106&, const Parameters& parameters) {
+         vlk::Extensions extensions;
+         extensions.newest = static_cast<std::uint32_t>(Message::CompareFiles);
+         fillRecord(parameters.p1, extensions);
+     }},
+    {Message::CompareFiles,
+     [](VLK_Device_R7106&, const Parameters& parameters) {
+         if (sizeOf(parameters.p1) >= sizeof(vlk::FileComparison))
+             vlk::compareFiles(*static_cast<vlk::FileComparison*>(parameters.p1));
      }},
 };
 

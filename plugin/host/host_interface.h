@@ -21,8 +21,9 @@
 // in the caller's frame that is valid during the call only; the receiver copies what it keeps. All windows
 // belong to the library and live as long as the process.
 //
-// Extensions, from number 7106001 on, are for a host that looks after a save that the tracker keeps waiting:
-// messages.h tells what they do and how their records survive other versions.
+// Extensions, from number 7106001 on, are for a host that looks after a save that the tracker keeps waiting,
+// or tells what a configuration would change: messages.h tells what they do and how their records survive
+// other versions. GetExtensions says which of them are there.
 //
 // There are no error codes: a wrong handle, an unknown number, a null address or a missing window end the
 // call silently.

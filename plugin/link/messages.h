@@ -58,6 +58,8 @@ enum class Message : std::uint32_t {
     // The same way, extensions
     EndSave = 7106001,
     GetRunningWork = 7106002,
+    GetExtensions = 7106003,
+    CompareFiles = 7106004,
 
     // Plug-in to host
     ShowHelp = 2007,
@@ -187,6 +189,47 @@ struct RunningWork
     std::uint32_t size = sizeof(RunningWork);
     std::uint32_t saving = 0;
     std::uint32_t automatic = 0; // automatic requests
+};
+
+// GetExtensions: which of them the plug-in answers. A plug-in that fills nothing answers none beyond those
+// two.
+struct Extensions
+{
+    std::uint32_t size = sizeof(Extensions);
+    std::uint32_t newest = 0; // number of the last one; it answers all up to that
+};
+
+// CompareFiles: where two configuration files differ, setting by setting in the order of a save, by what
+// values mean: "1" and "01" are equal.
+struct FileDifference
+{
+    std::uint32_t size = sizeof(FileDifference);
+    const QString* path = nullptr; // "TRACK/POINTS/angle"
+    // In the present language. Of a key that no setting reads the page may be empty, as the group of settings
+    // that stand alone is.
+    const QString* page = nullptr;
+    const QString* group = nullptr;
+    const QString* caption = nullptr;
+    // As the file holds them, and in words and units; null where the file lacks the key.
+    const QString* before = nullptr;
+    const QString* after = nullptr;
+    const QString* beforeText = nullptr;
+    const QString* afterText = nullptr;
+};
+
+// The plug-in calls `take` with each difference, during the message; the texts are valid during the call.
+struct FileComparison
+{
+    enum Outcome : std::uint32_t { none, done, beforeUnreadable, afterUnreadable };
+
+    std::uint32_t size = sizeof(FileComparison);
+    std::uint32_t outcome = none;    // filled
+    std::uint32_t differences = 0;   // filled: how many there were
+    std::uint32_t showSecrets = 0;   // 1: passwords are told, else dots
+    const QString* before = nullptr; // path; null: what the keys of the other file would read as if missing
+    const QString* after = nullptr;
+    void (*take)(void* context, const FileDifference* difference) = nullptr;
+    void* context = nullptr;
 };
 
 // AnalogRecord is a plain byte record of `analogRecordSize` bytes with unsigned 16-bit little-endian values:
@@ -339,6 +382,8 @@ inline constexpr MessageInfo messages[] = {
     detail::in(Message::RaiseConfiguration, "RaiseConfiguration"),
     detail::in(Message::EndSave, "EndSave", Parameter::RecordAddress, Parameter::None, true),
     detail::in(Message::GetRunningWork, "GetRunningWork", Parameter::RecordAddress, Parameter::None, true),
+    detail::in(Message::GetExtensions, "GetExtensions", Parameter::RecordAddress, Parameter::None, true),
+    detail::in(Message::CompareFiles, "CompareFiles", Parameter::RecordAddress, Parameter::None, true),
 };
 
 // A plain value in the place of an address, and back. The token of a LibraryInfo becomes the handle likewise.

@@ -4,12 +4,14 @@ namespace vlk {
 
 namespace {
 
+constexpr Heading kSensors{"cfgt9_006"};
+
 constexpr auto percent(const char* key, double loadDefault, double most)
 {
     return real(key, loadDefault, 1).range(0, most).stepping(0.1).unit("abbr_008");
 }
 
-constexpr auto kRows = rowsOf(group("SENSORS"),
+constexpr auto kRows = rowsOf(group("SENSORS"), kSensors,
                               percent("sh1", 50, 100)
                                   .in("doubleSpinBox_Level_SH1")
                                   .beside("horizontalSlider_Level_SH1")
@@ -32,6 +34,6 @@ constexpr auto kRows = rowsOf(group("SENSORS"),
 
 } // namespace
 
-constexpr SettingsTable kAccelSettings = tableOf<kRows>("ACCEL");
+constexpr SettingsTable kAccelSettings = tableOf<kRows>("ACCEL", "cfgt9_001");
 
 } // namespace vlk

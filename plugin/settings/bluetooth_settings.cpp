@@ -194,7 +194,7 @@ template <std::size_t... types>
 constexpr auto sensorRows(std::index_sequence<types...>)
 {
     return rowsOf(
-        group("SENS%1"),
+        group("SENS%1"), universal::sensor,
         choice("type", kTypeCodes, "0")
             .byNumber()
             .unknownIs("0")
@@ -274,7 +274,7 @@ constexpr auto kExclusives =
 } // namespace
 
 constexpr SettingsTable kBluetoothSettings =
-    tableOf<kRows, kSets, kRanges, kExclusives, kEnables>("BLUETOOTH");
+    tableOf<kRows, kSets, kRanges, kExclusives, kEnables>("BLUETOOTH", "cfgt17_001");
 
 constexpr SettingsTable kBluetoothElements = tableOver<kElementRows, kRanges>("");
 

@@ -69,6 +69,10 @@ inline constexpr auto numbers = [] {
     return codes;
 }();
 
+inline constexpr Heading sensor{"cfgt17_024", "%1 %2"};
+inline constexpr Heading condition{"cfgt17_057", "%1: %3", &sensor};
+inline constexpr Heading value{"cfgt17_066", "%1: %3", &sensor};
+
 constexpr Integer byte(const char* key, const char* widget, const char* caption)
 {
     return integer(key, 0).range(0, 255).in(widget).caption(caption);
@@ -98,16 +102,18 @@ constexpr Integer rowGroup(const char* check, const char* widget)
 // The first condition is always on and joins nothing.
 constexpr auto firstCondition(When chosen)
 {
-    return rowsOf(group("U%1C1").onlyWhen(chosen),
-                  integer("group", 1).range(1, 4).in("U%1/spinBox_Condition_Group_1").caption("cfgt17_058"),
-                  constant("oper", "0"), type(0xFF, "U%1/spinBox_Condition_Type_1"),
-                  byte("offset", "U%1/spinBox_Condition_Displacement_1", "cfgt17_061"),
-                  messageMask("U%1/lineEdit_Condition_Mask_1"));
+    return numbered(
+        rowsOf(group("U%1C1").onlyWhen(chosen), condition,
+               integer("group", 1).range(1, 4).in("U%1/spinBox_Condition_Group_1").caption("cfgt17_058"),
+               constant("oper", "0"), type(0xFF, "U%1/spinBox_Condition_Type_1"),
+               byte("offset", "U%1/spinBox_Condition_Displacement_1", "cfgt17_061"),
+               messageMask("U%1/lineEdit_Condition_Mask_1")),
+        1);
 }
 
 constexpr auto laterCondition(int number, When chosen)
 {
-    return numbered(rowsOf(group("U%1C%2").onlyWhen(chosen),
+    return numbered(rowsOf(group("U%1C%2").onlyWhen(chosen), condition,
                            rowGroup("checkBox_Condition_Use_%2", "U%1/spinBox_Condition_Group_%2"),
                            choice("oper", operators, "0")
                                .byNumber()
@@ -124,7 +130,7 @@ constexpr auto valueRows(When chosen)
 {
     return repeat<kUniversalValues>([=](int) {
         return rowsOf(
-            group("U%1P%2").onlyWhen(chosen),
+            group("U%1P%2").onlyWhen(chosen), value,
             rowGroup("checkBox_Parameters_Use_%2", "U%1/spinBox_Parameters_Group_%2"),
             type(0, "U%1/spinBox_Parameters_Type_%2"),
             byte("offset", "U%1/spinBox_Parameters_Displacement_%2", "cfgt17_061"),

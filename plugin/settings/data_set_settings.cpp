@@ -29,6 +29,6 @@ constexpr auto kRows =
 
 } // namespace
 
-constexpr SettingsTable kDataSetSettings = tableOf<kRows>("PROTOCOL");
+constexpr SettingsTable kDataSetSettings = tableOf<kRows>("PROTOCOL", "cfgt2_001");
 
 } // namespace vlk

@@ -34,6 +34,7 @@ constexpr Code kCountResets[] = {
 // What the lines differ in.
 struct Line
 {
+    Heading heading;
     DefaultText name;
     const char* use;
     const char* uses;
@@ -44,9 +45,9 @@ struct Line
 };
 
 constexpr Line kLines[] = {
-    {{"%1", "cfgt8_021"}, "NB+", "NU|NS+|NB+", true, "10000", false, false},
-    {{"%1 IN2", "cfgt8_009"}, "NU", "NU|NS-|NB-", false, "2500", true, false},
-    {{"%1 AIN3", "cfgt8_009"}, "NU", "NU|NS+|NB+|AIN", false, "2500", true, true},
+    {{"cfgt8_010"}, {"%1", "cfgt8_021"}, "NB+", "NU|NS+|NB+", true, "10000", false, false},
+    {{"cfgt8_011"}, {"%1 IN2", "cfgt8_009"}, "NU", "NU|NS-|NB-", false, "2500", true, false},
+    {{"cfgt8_012"}, {"%1 AIN3", "cfgt8_009"}, "NU", "NU|NS+|NB+|AIN", false, "2500", true, true},
 };
 
 constexpr auto analysisTime(const char* widget, const char* reset)
@@ -135,7 +136,7 @@ constexpr auto lineRows()
                           : rowsOf(integer("thld", 2000), flag("trhldOff", 1));
 
     return numbered(
-        rowsOf(common, threshold,
+        rowsOf(kLines[number - 1].heading, common, threshold,
 
                group("IN%1/IN%1DIN").onlyWhen(when("IN%1/normState", "NS-|NB-")), shared,
                analysisTime("comboBox_NB_Time", "2500"),
@@ -242,6 +243,7 @@ constexpr auto kEnables = rulesOf(
 
 } // namespace
 
-constexpr SettingsTable kLinesInSettings = tableOf<kRows, kSets, kDistances, kRanges, kEnables>("SENSORS");
+constexpr SettingsTable kLinesInSettings =
+    tableOf<kRows, kSets, kDistances, kRanges, kEnables>("SENSORS", "cfgt8_001");
 
 } // namespace vlk

@@ -59,12 +59,15 @@ constexpr auto seconds(const char* key, int loadDefault)
     return integer(key, loadDefault).range(0, 86400).unit("abbr_003");
 }
 
+constexpr Heading kLine{"cfgt10_048", "%1 O1"};
+constexpr Heading kEventsHeading{"cfgt10_046"};
+
 constexpr const char* kBuzzers = "ZUM|TM_KEY_IND";
 
 // `mode` is what the list offers and the file holds; `use` is what the controls go by, which the rules know
 // for more uses than the list has.
 constexpr auto kRows =
-    rowsOf(group("LINE1"),
+    rowsOf(group("LINE1"), kLine,
            text("nickname", DefaultText{"%1 O1", "cfgt10_048"})
                .upTo(20)
                .typed("^.{0,20}$")
@@ -77,8 +80,8 @@ constexpr auto kRows =
                .noItemIs("N/A")
                .in("comboBox_UseAs_O1")
                .caption("cfgt10_022"),
-           choice("use", kUses, "GP").unknownIs("N/A").noItemIs("N/A").notStored(),
-           digits("actions", "00000000000000000000", kEvents).listing(kActions),
+           choice("use", kUses, "GP").unknownIs("N/A").noItemIs("N/A").notStored(), kEventsHeading,
+           digits("actions", "00000000000000000000", kEvents).listing(kActions), kLine,
            choice("signalForm", kSignalForms, "0")
                .byNumber()
                .unknownIs("0")
@@ -135,7 +138,7 @@ constexpr auto kEnables = rulesOf(
 
 } // namespace
 
-constexpr SettingsTable kLinesOutSettings = tableOf<kRows, kSets, kRanges, kEnables>("OUTPUTS");
+constexpr SettingsTable kLinesOutSettings = tableOf<kRows, kSets, kRanges, kEnables>("OUTPUTS", "cfgt10_001");
 
 constexpr std::span<const Code> kOutputUses = kUses;
 

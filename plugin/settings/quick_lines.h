@@ -40,6 +40,8 @@ inline constexpr const char* kToSupply = "NS+|NB+";
 inline constexpr const char* kToGround = "NS-|NB-";
 inline constexpr const char* kDigital = "NS+|NB+|NS-|NB-";
 
+inline constexpr Heading kInputLines{"cfgwl_017"};
+
 struct Line
 {
     const char* uses;
@@ -55,7 +57,7 @@ inline constexpr Line kLines[] = {
 };
 
 inline constexpr auto kLineRows = rowsOf(
-    group("SENSORS"), constant("page", "SENSORS"), repeat<3>([](int number) {
+    group("SENSORS"), constant("page", "SENSORS"), kInputLines, repeat<3>([](int number) {
         const Line& line = kLines[number - 1];
         return rowsOf(
             group("SENSORS/IN%1"),

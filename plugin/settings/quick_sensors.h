@@ -8,10 +8,12 @@
 
 namespace vlk::quick {
 
+inline constexpr Heading kSensors{"cfgwl_011"};
+
 inline constexpr const char* kRsCaptions[] = {"%1 1", "%1 2"};
 
 inline constexpr auto kRsRows = rowsOf(
-    group("RS485"), constant("page", "RS485"),
+    group("RS485"), constant("page", "RS485"), kSensors,
     flag("fuel", 0).notStored().in("checkBox_Fuel_RS485_Use").caption("cfgwl_029"), repeat<2>([](int number) {
         return rowsOf(flag("sensor%1", 0)
                           .notStored()
@@ -103,7 +105,7 @@ constexpr auto wirelessRows(const Wireless& sensor)
 }
 
 inline constexpr auto kBluetoothRows =
-    rowsOf(group("BLUETOOTH"), constant("page", "BLUETOOTH"),
+    rowsOf(group("BLUETOOTH"), constant("page", "BLUETOOTH"), kSensors,
            flag("sensors", 0).notStored().in("checkBox_BT_Use").caption("cfgwl_030"),
            wirelessChoice(kWireless[0]), wirelessChoice(kWireless[1]),
 

@@ -40,14 +40,22 @@ constexpr auto kFirstMask = [] {
     return mask;
 }();
 
+constexpr Heading kAccessPoint{"cfgt1_024"};
+constexpr Heading kServer{"cfgwl_001"};
+constexpr Heading kRoaming{"cfgt1_084"};
+constexpr Heading kTrack{"cfgwl_002"};
+constexpr Heading kTrackPoints{"cfgwl_007", "%1", &kTrack};
+constexpr Heading kPasswords{"cfgt4_091"};
+
 constexpr auto kRows = rowsOf(
     group("PROTOCOL").atSave(ElementSave::keepsOthers), constant("page", "PROTOCOL"),
     group("PROTOCOL/ZETA").atSave(ElementSave::keepsOthers),
     text("mask", kFirstMask.data()).atSave(OnSave::document).ifMissing(Missing::keepsValue),
 
     group("TRANS").atSave(ElementSave::keepsOthers), constant("page", "TRANS"),
-    group("TRANS/AP1").atSave(ElementSave::keepsOthers), shared::kAccessPoint,
+    group("TRANS/AP1").atSave(ElementSave::keepsOthers), kAccessPoint, shared::kAccessPoint,
     flag("untouched", 0).resetTo(1).notStored(), group("TRANS/SRV1").atSave(ElementSave::keepsOthers),
+    kServer,
     shared::host(text("addr", shared::kNoServer)).in("GPRSSrv_lineEdit_IP_DNS_Main").caption("cfgt1_026"),
     integer("port", 4000).range(0, 65536).resetTo(5000).in("GPRSSrv_spinBox_Port_Main").caption("cfgt1_027"),
     choice("format", kProtocols, "VLKB_ZETA")
@@ -56,19 +64,19 @@ constexpr auto kRows = rowsOf(
         .noItemIs("")
         .in("Transfer_comboBox_Protocol_Format_Main")
         .caption("cfgt1_028"),
-    group("TRANS/ROAMSIM1").atSave(ElementSave::keepsOthers), shared::kRoamingMode,
+    group("TRANS/ROAMSIM1").atSave(ElementSave::keepsOthers), kRoaming, shared::kRoamingMode,
     group("TRANS/ROAM").atSave(ElementSave::keepsOthers), shared::kRoamingPeriod,
-    group("TRANS/QSP").atSave(ElementSave::keepsOthers), shared::kObjectId,
+    group("TRANS/QSP").atSave(ElementSave::keepsOthers), kServer, shared::kObjectId,
     shared::apnRows(group("TRANS/AUTOAPN").atSave(ElementSave::keepsOthers)),
 
     group("TRACK").atSave(ElementSave::keepsOthers), constant("page", "TRACK"),
-    group("TRACK/POINTS").atSave(ElementSave::keepsOthers),
-    choice("preset", kTrackPresets, "optimal").notStored().ifMissing(Missing::keepsValue),
+    group("TRACK/POINTS").atSave(ElementSave::keepsOthers), kTrack,
+    choice("preset", kTrackPresets, "optimal").notStored().ifMissing(Missing::keepsValue), kTrackPoints,
     shared::kPointsOnTheWay, shared::kUseDistance.with(&Flag::load, 0).resetTo(1), shared::kPointsInTime,
     shared::kMoveTimer.range(0, 999), shared::kStopTimer,
 
     group("SYSTEM").atSave(ElementSave::keepsOthers), constant("page", "SYSTEM"),
-    group("SYSTEM/PASS").atSave(ElementSave::keepsOthers), shared::kPasswords,
+    group("SYSTEM/PASS").atSave(ElementSave::keepsOthers), kPasswords, shared::kPasswords,
     group("SYSTEM/PWRSENS").atSave(ElementSave::keepsOthers), shared::kSupplyLine,
 
     quick::kLineRows, quick::kRsRows, quick::kBluetoothRows);
@@ -114,6 +122,7 @@ constexpr auto kEnables =
 
 } // namespace
 
-constexpr SettingsTable kQuickSettings = tableOver<kRows, kSets, kPresets, kMasks, kDoubts, kEnables>("");
+constexpr SettingsTable kQuickSettings =
+    tableOver<kRows, kSets, kPresets, kMasks, kDoubts, kEnables>("", "cfgwnd_001");
 
 } // namespace vlk

@@ -96,9 +96,13 @@ constexpr auto elementOf(const char* owner, const char* element)
     return group(element).onlyWhen(owned(owner));
 }
 
+constexpr Heading kFuelSensors{"cfgt6_007"};
+constexpr Heading kFuelSensor{"cfgwl_032", "%1 %2", &kFuelSensors};
+
 constexpr auto fuelSensor(int number)
 {
-    return rowsOf(elementOf("FLDS", "FS%1"), flag("use", 0).in("FLDS/checkBox_Use_%1").caption("cfgt6_211"),
+    return rowsOf(elementOf("FLDS", "FS%1"), kFuelSensor,
+                  flag("use", 0).in("FLDS/checkBox_Use_%1").caption("cfgt6_211"),
                   link("type", "FLDS/type", 0),
                   integer("address", number).range(0, 255).in("FLDS/spinBox_Addres_%1").caption("cfgt6_212"),
                   integer("thld", 50).range(0, 4095).in("FLDS/spinBox_Response_%1").caption("cfgt6_213"),
@@ -108,7 +112,7 @@ constexpr auto fuelSensor(int number)
                   integer("filterLvl", 6).range(0, 10).in("FLDS/spinBox_Kalman_%1").caption("cfgt6_217"));
 }
 
-constexpr auto kFuelRows = rowsOf(group("FLDS"),
+constexpr auto kFuelRows = rowsOf(group("FLDS"), kFuelSensors,
                                   choice("type", kFuelTypes, "0")
                                       .byNumber()
                                       .offering("0|4")
@@ -122,16 +126,21 @@ constexpr auto kFuelRows = rowsOf(group("FLDS"),
 constexpr When kNetworkCounters = when("PCNT/type", "PP01");
 constexpr When kDoorCounter = when("PCNT/type", "ACOND");
 
+constexpr Heading kCounters{"cfgt6_019"};
+constexpr Heading kPassengers{"cfgt6_249"};
+constexpr Heading kCounting{"cfgt6_234"};
+constexpr Heading kDoorsHeading{"cfgt6_240"};
+
 constexpr int kLongest = 999999999;
 
 constexpr auto kCounterRows =
-    rowsOf(elementOf("PCNT", "PCNT"),
+    rowsOf(elementOf("PCNT", "PCNT"), kCounters,
            choice("type", kCounterFamilies, "PP01")
                .offering("PP01")
                .unknownIs("PP01")
                .in("PCNT/comboBox_Type")
                .caption("cfgt6_230"),
-           repeat<kRsCounters>([](int) {
+           kPassengers, repeat<kRsCounters>([](int) {
                return integer("id%1", 0)
                    .range(1, 250)
                    .in("PCNT/spinBox_Passager_%1")
@@ -139,18 +148,22 @@ constexpr auto kCounterRows =
                    .caption("cfgt6_233")
                    .onlyWhen(kNetworkCounters);
            }),
+           kCounting,
            choice("countEvent", kCountEvents, "0")
                .byNumber()
                .unknownIs("0")
                .caption("cfgt6_234")
                .onlyWhen(kNetworkCounters),
+           kCounters,
            integer("id1", 0)
                .named("counter")
                .range(0, 250)
                .in("PCNT/spinBox_ACode_Passager_1")
                .caption("cfgt6_239")
                .onlyWhen(kDoorCounter),
+           kDoorsHeading,
            digits("door", "000000", kDoors).listing(kDoorNumbers).caption("cfgt6_240").onlyWhen(kDoorCounter),
+           kCounters,
            integer("offTime", 1800)
                .range(0, kLongest)
                .unit("abbr_003")
@@ -164,15 +177,25 @@ constexpr auto kCounterRows =
                .offAtZero("checkBox_ACore_SM_SendNavi")
                .caption("cfgt6_248")
                .onlyWhen(kDoorCounter),
-           group("PCNTIN"),
+           group("PCNTIN"), kCounting,
            choice("line", kInputs, "1")
                .offering("1|2|3")
                .notStored()
                .in("PCNT/comboBox_Event_In")
                .caption("cfgt6_238"));
 
+constexpr Heading kLine{"cfgt6_001"};
+constexpr Heading kCanLog{"CAN-LOG"};
+constexpr Heading kDtaCan{"DTA-CAN"};
+constexpr Heading kDisplay{"cfgt6_015"};
+constexpr Heading kNavigationReceiver{"cfgt6_082"};
+constexpr Heading kRefrigerator{"cfgt6_085"};
+constexpr Heading kTagReader{"cfgt6_129"};
+constexpr Heading kTachograph{"cfgt6_091"};
+constexpr Heading kTyrePressure{"cfgt6_009"};
+
 constexpr auto kRows = rowsOf(
-    group("OPTIONS"),
+    group("OPTIONS"), kLine,
     choice("owner1", kOwners, "").unknownIs("").in("comboBox_RS485_Owner_1").caption("cfgt6_201"),
     // A second device on trackers that have room for one; known here, and never written.
     text("owner2", "").notStored(),
@@ -190,20 +213,21 @@ constexpr auto kRows = rowsOf(
         .caption("cfgt6_004"),
 
     // Asked from the adapter and sent to it, never in the file.
-    group("CNLG"),
+    group("CNLG"), kCanLog,
     integer("program", 0).range(0, 999999).notStored().in("CNLG/spinBox_Programm").caption("cfgt6_075"),
 
-    elementOf("DTCN", "DTCN"),
+    elementOf("DTCN", "DTCN"), kDtaCan,
     integer("address", 1).range(1, 255).in("DTCN/spinBox_Adress").caption("cfgt6_078"),
 
-    elementOf("DDU", "DV01"), flag("Use", 0).in("DDU/checkBox").caption("cfgt6_162"),
+    elementOf("DDU", "DV01"), kDisplay, flag("Use", 0).in("DDU/checkBox").caption("cfgt6_162"),
 
-    group("HRPS"), choice("type", kReceivers, "0").notStored().in("HRPS/comboBox_Type").caption("cfgt6_084"),
+    group("HRPS"), kNavigationReceiver,
+    choice("type", kReceivers, "0").notStored().in("HRPS/comboBox_Type").caption("cfgt6_084"),
 
-    group("REFR"),
+    group("REFR"), kRefrigerator,
     choice("type", kRefrigerators, "0").notStored().in("REFR/comboBox_Type").caption("cfgt6_086"),
 
-    elementOf("RFID", "RFID"),
+    elementOf("RFID", "RFID"), kTagReader,
     choice("type", kReaders, "ESCORT").unknownIs("ESCORT").in("RFID/comboBox_Type").caption("cfgt6_096"),
     integer("id", 0).range(0, 255).in("RFID/spinBox_Address").caption("cfgt6_202"),
     integer("holdTime", 60).range(0, 86400).unit("abbr_003").in("RFID/spinBox_FixTime").caption("cfgt6_203"),
@@ -211,14 +235,14 @@ constexpr auto kRows = rowsOf(
     integer("minLvl", -128).range(-128, 0).in("RFID/spinBox_Floor").caption("cfgt6_205"),
     choice("mode", kReaderModes, "0").byNumber().unknownIs("0").in("RFID/comboBox_Mode").caption("cfgt6_206"),
 
-    elementOf("TACH", "TACH"),
+    elementOf("TACH", "TACH"), kTachograph,
     choice("type", kTachographs, "ATOL").unknownIs("ATOL").in("TACH/comboBox_Type").caption("cfgt6_096"),
     text("login", "1").secretly().in("TACH/lineEdit_ID").caption("cfgt6_097"),
     text("pass", "738205").secretly().in("TACH/lineEdit_Key").caption("cfgt6_098"),
     flag("noPing", 1).resetTo(0).in("TACH/checkBox_Ping").caption("cfgt6_099"),
     flag("eventOff", 0).in("TACH/checkBox_EventOff").caption("cfgt6_100"),
 
-    elementOf("TPMS", "TPMS"),
+    elementOf("TPMS", "TPMS"), kTyrePressure,
     choice("type", kTyreMonitors, "PRESSPRO")
         .unknownIs("PRESSPRO")
         .in("TPMS/comboBox_Type")
@@ -285,6 +309,6 @@ constexpr auto kEnables = rulesOf(
 
 } // namespace
 
-constexpr SettingsTable kRsSettings = tableOf<kRows, kSets, kPresets, kEnables>("RS485");
+constexpr SettingsTable kRsSettings = tableOf<kRows, kSets, kPresets, kEnables>("RS485", "cfgt6_001");
 
 } // namespace vlk

@@ -3,9 +3,10 @@
 // The settings of one page: its section of the file, its rows in the order of the file, and its rules. A
 // table over several sections has an empty name and begins its paths with theirs ("TRACK/POINTS/angle").
 //
-//     constexpr auto kRows = rowsOf(group("POINTS"), ...);
+//     constexpr Heading kAlways{"cfgt3_002"};
+//     constexpr auto kRows = rowsOf(group("POINTS"), kAlways, flag(...), integer(...), ...);
 //     constexpr auto kSets = rulesOf(onEdit(...), ...);
-//     constexpr SettingsTable kTrackSettings = tableOf<kRows, kSets>("TRACK");
+//     constexpr SettingsTable kTrackSettings = tableOf<kRows, kSets>("TRACK", "cfgt3_001");
 //
 // tableOf() refuses at compile time what is wrong (table_maker.h): a default outside its range or choices, a
 // path or an object name twice, a rule whose path or widget no row has.
@@ -20,7 +21,8 @@ namespace vlk {
 struct SettingsTable
 {
     const char* section = "";
-    bool emptied = true; // a save empties the section first
+    const char* title = ""; // of the page, a translation key
+    bool emptied = true;    // a save empties the section first
     std::span<const Setting> rows{};
     std::span<const Sets> sets{};
     std::span<const Distance> distances{};
@@ -52,7 +54,9 @@ constexpr std::array<Item, n> listOf(const std::array<Item, n>& items)
 template <class Item>
 constexpr auto listOf(const Item& item)
 {
-    if constexpr (std::is_base_of_v<RowBase, Item>)
+    if constexpr (std::is_same_v<Heading, Item>)
+        return std::array<Setting, 0>{};
+    else if constexpr (std::is_base_of_v<RowBase, Item>)
         return std::array<Setting, 1>{item};
     else
         return std::array<Item, 1>{item};
@@ -73,21 +77,44 @@ constexpr auto join(const auto&... items)
     return joined(listOf(items)...);
 }
 
+constexpr RowBase& baseOf(Setting& setting)
+{
+    return std::visit([](auto& row) -> RowBase& { return row; }, setting.kind);
+}
 constexpr Numbers& numbersOf(Setting& setting)
 {
-    return std::visit([](auto& row) -> Numbers& { return row.numbers; }, setting.kind);
+    return baseOf(setting).numbers;
 }
 constexpr Numbers& numbersOf(auto& rule)
 {
     return rule.numbers;
 }
 
+// What an item of a list of rows is: a heading, or rows that take the one before them.
+template <class Item>
+constexpr void takeHeading(const Item& item, auto& row, const Heading*& heading)
+{
+    if constexpr (std::is_same_v<Heading, Item>) {
+        heading = &item;
+    } else {
+        for (std::size_t i = 0; i < listOf(item).size(); ++i, ++row) {
+            if (const Heading*& own = baseOf(*row).heading; !own)
+                own = heading;
+        }
+    }
+}
+
 } // namespace tables
 
-// Rows and arrays of rows in one array.
-constexpr auto rowsOf(const auto&... rows)
+// Rows and arrays of rows in one array. A heading counts for what stands behind it up to the next one, save
+// for rows that have one already.
+constexpr auto rowsOf(const auto&... items)
 {
-    return tables::join(rows...);
+    auto all = tables::join(items...);
+    auto row = all.begin();
+    const Heading* heading = nullptr;
+    (tables::takeHeading(items, row, heading), ...);
+    return all;
 }
 
 // Rules of one kind and arrays of them in one array.
@@ -121,18 +148,18 @@ constexpr auto repeat(Make make)
 }
 
 template <const auto& rows, const auto&... rules>
-constexpr SettingsTable tableOf(const char* section)
+constexpr SettingsTable tableOf(const char* section, const char* title = "")
 {
-    SettingsTable table{.section = section, .rows = tables::Made<rows>::rows};
+    SettingsTable table{.section = section, .title = title, .rows = tables::Made<rows>::rows};
     (table.take(tables::MadeRules<rows, rules>::rules), ...);
     return table;
 }
 
 // A save leaves what else the section holds.
 template <const auto& rows, const auto&... rules>
-constexpr SettingsTable tableOver(const char* section)
+constexpr SettingsTable tableOver(const char* section, const char* title = "")
 {
-    SettingsTable table = tableOf<rows, rules...>(section);
+    SettingsTable table = tableOf<rows, rules...>(section, title);
     table.emptied = false;
     return table;
 }

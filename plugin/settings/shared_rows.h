@@ -60,10 +60,12 @@ inline constexpr auto kObjectId =
 
 // The table by which the tracker picks the access point of a SIM by itself: ten rows of operator code, access
 // point, login and password, all free text.
+inline constexpr Heading kApnRow{"cfgt1_121", "%1: %2"};
+
 constexpr auto apnRows(const Group& element)
 {
     return rowsOf(
-        element, repeat<kApnRowCount>([](int number) {
+        element, kApnRow, repeat<kApnRowCount>([](int number) {
             const MobileOperator& row = defaultApnRow(number - 1);
             return rowsOf(
                 text("sID%1", row.code).inCell("treeWidget_ListApn", 1).caption("cfgt1_106"),

@@ -17,21 +17,28 @@ constexpr Code kFuelErrors[] = {
     {.code = "1", .label = "cfgt4_041", .widget = "radioButton_Fuel_Error_Fixed"},
 };
 
+constexpr Heading kPasswords{"cfgt4_005"};
+constexpr Heading kTime{"cfgt4_002"};
+constexpr Heading kFuel{"cfgt4_031"};
+constexpr Heading kEngine{"cfgt4_025"};
+constexpr Heading kSupply{"cfgt4_017"};
+constexpr Heading kSupplyLevels{"cfgt4_023"};
+
 // Voltages stand in the file in millivolts.
 constexpr auto kRows = rowsOf(
-    group("PASS"), shared::kPasswords,
+    group("PASS"), kPasswords, shared::kPasswords,
 
-    group("TIME"),
+    group("TIME"), kTime,
     integer("zone", 3).range(-12, 12).unit("abbr_001").in("TimeZone_spinBox_Value").caption("cfgt4_003"),
     flag("DST", 0).in("AllowDecretTime_checkBox").caption("cfgt4_004"),
 
-    group("FUEL"), digits("sensors", "000", kFuelConditions).caption("cfgt4_043"),
+    group("FUEL"), kFuel, digits("sensors", "000", kFuelConditions).caption("cfgt4_043"),
     volts("blockVolt", 8000).range(0, 31).in("doubleSpinBox_Fuel_Left").caption("cfgt4_036"),
     volts("unblockVolt", 11000).range(0, 31).in("doubleSpinBox_Fuel_Right").caption("cfgt4_037"),
     integer("unblockDelay", 5).range(0, 120).unit("abbr_003").in("spinBox_Fuel_Delay").caption("cfgt4_038"),
     choice("errorMode", kFuelErrors, "0").byNumber().unknownIs("0").caption("cfgt4_039"),
 
-    group("ENGSENS"), flag("useCustom", 0).in("checkBox_Tuning").caption("cfgt4_026"),
+    group("ENGSENS"), kEngine, flag("useCustom", 0).in("checkBox_Tuning").caption("cfgt4_026"),
     volts("voltageLvl", 13200)
         .range(5, 32)
         .in("doubleSpinBox_Tuning")
@@ -44,7 +51,7 @@ constexpr auto kRows = rowsOf(
         .offAtZero("checkBox_Engine_Delay")
         .caption("cfgt4_024"),
 
-    group("PWRSENS"), shared::kSupplyLine,
+    group("PWRSENS"), kSupply, shared::kSupplyLine, kSupplyLevels,
     volts("alarmLvl", 10500).range(6, 32).in("doubleSpinBox_Power_Left").caption("cfgt4_021"),
     volts("restoreLvl", 11000).range(6, 32).in("doubleSpinBox_Power_Right").caption("cfgt4_022"),
     integer("delay", 0)
@@ -53,7 +60,7 @@ constexpr auto kRows = rowsOf(
         .offAtZero("checkBox_Power_Delay")
         .caption("cfgt4_024"),
 
-    group("NTP"), flag("use", 1).in("checkBox_NTP_Use").caption("cfgt4_010"),
+    group("NTP"), kTime, flag("use", 1).in("checkBox_NTP_Use").caption("cfgt4_010"),
     integer("usualPeriod", 720)
         .range(10, 65535)
         .stepping(5)
@@ -88,6 +95,6 @@ constexpr auto kEnables =
 
 } // namespace
 
-constexpr SettingsTable kSystemSettings = tableOf<kRows, kSets, kDistances, kEnables>("SYSTEM");
+constexpr SettingsTable kSystemSettings = tableOf<kRows, kSets, kDistances, kEnables>("SYSTEM", "cfgt4_001");
 
 } // namespace vlk

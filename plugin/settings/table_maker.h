@@ -76,13 +76,14 @@ constexpr void eachWidget(const Setting& row, auto take)
         if (name)
             take(name.form(), std::string_view(name.tail), numbers);
     };
-    if (const Shown* shown = row.shown(); shown && shown->column == 0) {
+    if (const Shown* shown = row.shown(); shown && shown->column == 0)
         one(shown->widget);
-        if (shown->companion)
-            take(shown->widget.form(), std::string_view(shown->companion), numbers);
-    }
     std::visit(
         [&](const auto& kind) {
+            if constexpr (requires { kind.companion; }) {
+                if (kind.companion)
+                    take(kind.widget.form(), std::string_view(kind.companion), numbers);
+            }
             if constexpr (requires { eachBox(kind, one); })
                 eachBox(kind, one);
         },

@@ -4,6 +4,8 @@ namespace vlk {
 
 namespace {
 
+constexpr Heading kSensor{"cfgt7_007", "%1 T%2"};
+
 constexpr auto degrees(const char* key, double loadDefault)
 {
     return real(key, loadDefault, 1).stepping(0.5).unit("abbr_017").readSingle();
@@ -12,7 +14,7 @@ constexpr auto degrees(const char* key, double loadDefault)
 // The bounds are read in front of the hysteresis, which then pushes them apart where they are too near for
 // it.
 constexpr auto kRows = rowsOf(repeat<4>([](int) {
-    return rowsOf(group("SENS%1"),
+    return rowsOf(group("SENS%1"), kSensor,
                   degrees("min", -50).range(-50, 115).in("doubleSpinBox_Left_Temp_%1").caption("cfgt7_002"),
                   degrees("max", 120).range(-45, 120).in("doubleSpinBox_Right_Temp_%1").caption("cfgt7_003"),
                   integer("hyst", 5).range(0, 10).unit("abbr_017").in("spinBox_Hyst_%1").caption("cfgt7_004"),
@@ -29,6 +31,6 @@ constexpr auto kDistances = rulesOf(repeat<4>([](int) {
 
 } // namespace
 
-constexpr SettingsTable kTemperatureSettings = tableOf<kRows, kDistances>("TEMPSENS");
+constexpr SettingsTable kTemperatureSettings = tableOf<kRows, kDistances>("TEMPSENS", "cfgt7_001");
 
 } // namespace vlk

@@ -30,18 +30,27 @@ constexpr Code kSatellites[] = {
     {.code = "10001", .label = "cfgt3_050", .widget = "radioButton_GpsBeidou", .pattern = "10**1"},
 };
 
+constexpr Heading kAlways{"cfgt3_002"};
+constexpr Heading kAlso{"cfgt3_006"};
+constexpr Heading kLimits{"cfgt3_020"};
+constexpr Heading kReject{"cfgt3_026"};
+constexpr Heading kStops{"cfgt3_035"};
+constexpr Heading kStopSensorsHeading{"cfgt3_040"};
+constexpr Heading kMotion{"cfgt3_042"};
+constexpr Heading kReceiver{"cfgt3_046"};
+
 constexpr auto kRows = rowsOf(
-    group("POINTS"), flag("useMoveSens", 1).in("Always_checkBox_StartStop").caption("cfgt3_003"),
+    group("POINTS"), kAlways, flag("useMoveSens", 1).in("Always_checkBox_StartStop").caption("cfgt3_003"),
     flag("useMaxSpeed", 0).in("Always_checkBox_MaxSpeed").caption("cfgt3_004"),
     integer("maxSpeed", 100)
         .range(1, 180)
         .unit("abbr_024")
         .in("Always_spinBox_MaxSpeed_Value")
         .caption("cfgt3_005"),
-    shared::kPointsOnTheWay, shared::kUseDistance, shared::kPointsInTime, shared::kMoveTimer,
+    kAlso, shared::kPointsOnTheWay, shared::kUseDistance, shared::kPointsInTime, shared::kMoveTimer,
     digits("moveTimerSens", "000", kMotionSignals).caption("cfgt3_016"), shared::kStopTimer,
 
-    group("LIMPOINT"), flag("blockDist", 1).in("Restriction_checkBox_Metr").caption("cfgt3_021"),
+    group("LIMPOINT"), kLimits, flag("blockDist", 1).in("Restriction_checkBox_Metr").caption("cfgt3_021"),
     integer("dist", 10)
         .range(1, 200)
         .unit("abbr_022")
@@ -54,7 +63,7 @@ constexpr auto kRows = rowsOf(
         .in("Restriction_spinBox_Sec_Value")
         .caption("cfgt3_024"),
 
-    group("COORDFLT"), flag("use", 1).in("checkBox_GPSreject_Use").caption("cfgt3_025"),
+    group("COORDFLT"), kNoHeading, flag("use", 1).in("checkBox_GPSreject_Use").caption("cfgt3_025"), kReject,
     integer("minSats", 4).range(1, 255).in("spinBox_RejectCoord_SatMin").caption("cfgt3_029"),
     real("maxHDOP", 2.5, 1)
         .range(0.1, 100)
@@ -79,13 +88,13 @@ constexpr auto kRows = rowsOf(
         .caption("cfgt3_033"),
     integer("maxFilterCnt", 5).range(0, 60).in("spinBox_RejectCoord_flaw").caption("cfgt3_034"),
 
-    group("COORDAVER"), choice("mode", kStopModes, "1").byNumber().caption("cfgt3_036"),
-    digits("sensors", "1110", kStopSensors).caption("cfgt3_040"),
+    group("COORDAVER"), kStops, choice("mode", kStopModes, "1").byNumber().caption("cfgt3_036"),
+    kStopSensorsHeading, digits("sensors", "1110", kStopSensors).caption("cfgt3_040"),
 
-    group("MOVESENS"), constant("mode", "1"),
+    group("MOVESENS"), kMotion, constant("mode", "1"),
     integer("stopTimer", 30).range(0, 65535).unit("abbr_003").in("spinBox_ParkingStop").caption("cfgt3_043"),
 
-    group("GNSS"), choice("mode", kSatellites, "11000").caption("cfgt3_046"),
+    group("GNSS"), kReceiver, choice("mode", kSatellites, "11000").caption("cfgt3_046"),
     integer("angle", 5).range(0, 90).unit("abbr_016").in("spinBox_AxcelMask").caption("cfgt3_051"));
 
 constexpr auto kEnables =
@@ -104,6 +113,6 @@ constexpr auto kEnables =
 
 } // namespace
 
-constexpr SettingsTable kTrackSettings = tableOf<kRows, kEnables>("TRACK");
+constexpr SettingsTable kTrackSettings = tableOf<kRows, kEnables>("TRACK", "cfgt3_001");
 
 } // namespace vlk

@@ -37,6 +37,17 @@ constexpr PeriodPart kRemoteService[] = {
     {"spinBox_QSP_CnctTimer_mm", kMinute, 0, 59, "abbr_002"},
 };
 
+constexpr Heading kObject{"cfgt1_063"};
+constexpr Heading kServersHeading{"cfgt1_061"};
+constexpr Heading kAccessPoint{"cfgt1_024"};
+constexpr Heading kRules{"cfgt1_036"};
+constexpr Heading kRoaming{"cfgt1_084"};
+constexpr Heading kEncryption{"cfgt1_047"};
+constexpr Heading kRemoteSetup{"cfgt1_059"};
+constexpr Heading kServer[] = {{"cfgt1_010", "%1", &kServersHeading},
+                               {"cfgt1_011", "%1 1", &kServersHeading},
+                               {"cfgt1_011", "%1 2", &kServersHeading}};
+
 struct ServerWidgets
 {
     const char* use;
@@ -69,7 +80,7 @@ constexpr ServerWidgets kServers[] = {
 constexpr auto kServerRows = repeat<3>([](int number) {
     const ServerWidgets& server = kServers[number - 1];
     return rowsOf(
-        group("SRV%1"),
+        group("SRV%1"), kServer[number - 1],
         flag("use", 0).resetTo(server.usedAfterReset ? 1 : 0).notStored().in(server.use).caption("cfgt1_023"),
         shared::host(text("addr", kNoServer)).resetTo("").in(server.address).caption("cfgt1_026"),
         integer("port", 4000).range(0, 65536).resetTo(0).in(server.port).caption("cfgt1_027"),
@@ -83,18 +94,22 @@ constexpr auto kServerRows = repeat<3>([](int number) {
         integer("dcID", 1).range(0, server.largestId).in(server.centreId).caption("cfgt1_034"));
 });
 
+constexpr Heading kRoamingOperator{"cfgt1_122", "%1: %2", &kRoaming};
+
 // Ten rows of the list of operators in roaming; a cell that was never filled is empty.
-constexpr auto kRoamingOperators = repeat<kRoamingRows>(
-    [](int) { return integer("opCode%1", 0).blankable().inCell("treeWidget_List", 1).caption("cfgt1_106"); });
+constexpr auto kRoamingOperators = repeat<kRoamingRows>([](int) {
+    return rowsOf(kRoamingOperator,
+                  integer("opCode%1", 0).blankable().inCell("treeWidget_List", 1).caption("cfgt1_106"));
+});
 
 constexpr auto kRows = rowsOf(
-    group("OBJECT"),
+    group("OBJECT"), kObject,
     text("name", DefaultText{.format = "%1_Config", .namesModel = true})
         .upTo(64)
         .typed("^.{0,64}$")
         .in("lineEdit_Name")
         .caption("cfgt1_005"),
-    kServerRows, group("AP1"), shared::kAccessPoint,
+    kServerRows, group("AP1"), kAccessPoint, shared::kAccessPoint,
     text("pin", "")
         .secretly()
         .upTo(8)
@@ -102,7 +117,7 @@ constexpr auto kRows = rowsOf(
         .in("Transfer_lineEdit_GSM_Pin1")
         .caption("cfgt1_007"),
 
-    group("RULES"), flag("noPriorMsg", 1).in("checkBox_NoToGprs").caption("cfgt1_042"),
+    group("RULES"), kRules, flag("noPriorMsg", 1).in("checkBox_NoToGprs").caption("cfgt1_042"),
     choice("cnctType", kConnectTypes, "1")
         .byNumber()
         .unknownIs("1")
@@ -129,7 +144,7 @@ constexpr auto kRows = rowsOf(
         .in("spinBox_GrpTimer")
         .caption("cfgt1_046"),
 
-    group("ROAM"), shared::kRoamingPeriod,
+    group("ROAM"), kRoaming, shared::kRoamingPeriod,
     integer("moveTimer", 1800, kMinute)
         .range(1, 9999)
         .unit("abbr_002")
@@ -148,15 +163,16 @@ constexpr auto kRows = rowsOf(
     flag("noSms", 0).in("checkBox_RNoSmsSim_1").caption("cfgt1_056"),
     flag("dontCnct", 0).checkedForZero().in("checkBox_sendData").caption("cfgt1_107"), kRoamingOperators,
 
-    group("CRYPTO"), text("key", "").secretly().upTo(32).in("lineEdit_Crypto").caption("cfgt1_048"),
-    flag("srv1Mode", 0).in("Transfer_checkBox_Protocol_Crypto_Main").caption("cfgt1_035"),
-    flag("srv2Mode", 0).in("Transfer_checkBox_Protocol_Crypto_Reserv_1").caption("cfgt1_035"),
+    group("CRYPTO"), kEncryption,
+    text("key", "").secretly().upTo(32).in("lineEdit_Crypto").caption("cfgt1_048"), kServer[0],
+    flag("srv1Mode", 0).in("Transfer_checkBox_Protocol_Crypto_Main").caption("cfgt1_035"), kServer[1],
+    flag("srv2Mode", 0).in("Transfer_checkBox_Protocol_Crypto_Reserv_1").caption("cfgt1_035"), kServer[2],
     flag("srv3Mode", 0).in("Transfer_checkBox_Protocol_Crypto_Reserv_2").caption("cfgt1_035"),
 
-    group("SIMPRIOR"),
+    group("SIMPRIOR"), kAccessPoint,
     integer("regTimer", 90).range(45, 900).unit("abbr_003").in("spinBox_RegTimer").caption("cfgt1_022"),
 
-    group("QSP"), flag("use", 1).in("groupBox_QSP").caption("cfgt1_059"),
+    group("QSP"), kNoHeading, flag("use", 1).in("groupBox_QSP").caption("cfgt1_059"), kRemoteSetup,
     period("cnctTimer", kDay, kRemoteService).atLeast(600).caption("cfgt1_040"), shared::kObjectId,
     choice("transProto", kTransports, "TCP")
         .unknownIs("TCP")
@@ -200,6 +216,7 @@ constexpr auto kEnables =
 
 } // namespace
 
-constexpr SettingsTable kTransferSettings = tableOf<kRows, kSets, kPresets, kDoubts, kEnables>("TRANS");
+constexpr SettingsTable kTransferSettings =
+    tableOf<kRows, kSets, kPresets, kDoubts, kEnables>("TRANS", "cfgt1_001");
 
 } // namespace vlk

@@ -9,6 +9,9 @@
 namespace vlk {
 
 QString captionText(const Setting& setting);
+// The heading that the setting stands under, behind those that it stands under itself: "Sensor 1 / Values:
+// 2".
+QString headingText(const Setting& setting);
 
 // The value with its unit: "100 km/h", "on", "1 d 2 h", "NB+" as its label. A secret is told by dots.
 QString valueText(const Values& values, int row);

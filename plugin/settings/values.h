@@ -67,6 +67,8 @@ public:
     // Whether a file of this state has the key, and what it holds there.
     bool isWritten(int row) const;
     QString written(int row) const { return written(row, value(row)); }
+    // The same for another value.
+    QString written(int row, const QString& value) const;
     // Range in units of the widget, and unit, as the rules have them now.
     Limits limits(int row) const;
     const char* unitKey(int row) const;
@@ -102,7 +104,6 @@ private:
     bool holdsAll(std::span<const When> conditions) const;
     bool isRead(const Group& group) const;
     bool isWritten(const TableLayout::Element& element) const;
-    QString written(int row, const QString& value) const;
     Limits ownLimits(int row) const;
     bool counts(const ExclusiveChoice& rule) const { return holds(rule.when) && holds(rule.also); }
     bool takes(const SharedList::Member& other, const SharedList::Member& member) const;

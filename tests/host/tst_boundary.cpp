@@ -124,6 +124,52 @@ private Q_SLOTS:
         }
     }
 
+    void comparesFiles()
+    {
+        vlk::Extensions extensions;
+        host_.send(Message::GetExtensions, &extensions);
+        QCOMPARE(extensions.newest, static_cast<quint32>(Message::CompareFiles));
+
+        const QString left = writeFile(
+            folder_.filePath("left.xml"),
+            "<DEVICE><TRANS><AP1 pass=\"a\"/></TRANS><TRACK><POINTS angle=\"07\"/></TRACK></DEVICE>");
+        const QString right =
+            writeFile(folder_.filePath("right.xml"), "<DEVICE><TRANS><AP1 pass=\"b\"/></TRANS><TRACK><POINTS "
+                                                     "angle=\"7\" dist=\"5\"/></TRACK></DEVICE>");
+        const QString none = right + "_";
+        const auto compare = [this](const QString* before, const QString* after, quint32 size) {
+            QStringList told;
+            vlk::FileComparison asked;
+            asked.size = size;
+            asked.before = before;
+            asked.after = after;
+            asked.context = &told;
+            asked.take = [](void* context, const vlk::FileDifference* row) {
+                *static_cast<QStringList*>(context) << *row->path + '|' + *row->page + '|' + *row->group +
+                                                           '|' + *row->caption + '|' +
+                                                           (row->before ? *row->beforeText : "-") + '|' +
+                                                           (row->after ? *row->afterText : "-");
+            };
+            host_.send(Message::CompareFiles, &asked);
+            return QString::number(asked.outcome) + ' ' + QString::number(asked.differences) + ' ' +
+                   told.join(' ');
+        };
+        constexpr quint32 whole = sizeof(vlk::FileComparison);
+        QCOMPARE(compare(&left, &right, whole),
+                 QString("1 2 TRANS/AP1/pass|cfgt1_001|cfgt1_024|cfgt1_033|•••|••• "
+                         "TRACK/POINTS/dist|cfgt3_001|cfgt3_006|cfgt3_012|-|5 abbr_022"));
+        QCOMPARE(compare(nullptr, &left, whole),
+                 QString("1 2 TRANS/AP1/pass|cfgt1_001|cfgt1_024|cfgt1_033||••• "
+                         "TRACK/POINTS/angle|cfgt3_001|cfgt3_006|cfgt3_010|5 abbr_016|7 abbr_016"));
+        QCOMPARE(compare(&none, &right, whole), QString("2 0 "));
+        QCOMPARE(compare(&left, &none, whole), QString("3 0 "));
+        QVERIFY(!QFile::exists(none));
+        QCOMPARE(compare(&left, &right, whole - 1), QString("0 0 "));
+        QCOMPARE(compare(&left, nullptr, whole), QString("0 0 "));
+        host_.send(Message::CompareFiles);
+        host_.send(Message::GetExtensions);
+    }
+
     void balanceCodeFollowsFileAndConnection()
     {
         const QString path = configuration("<?xml version=\"1.0\" encoding=\"windows-1251\"?>"

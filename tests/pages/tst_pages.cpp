@@ -7,10 +7,13 @@
 #include "settings/bluetooth_sensor_types.h"
 #include "settings/quick_settings.h"
 #include "settings/rs_settings.h"
+#include "settings/value_text.h"
 #include "support/data_table.h"
 #include "support/device.h"
 #include "support/setting_samples.h"
 
+#include <QGroupBox>
+#include <QRegularExpression>
 #include <QtTest>
 
 #include <memory>
@@ -116,6 +119,19 @@ private Q_SLOTS:
         }
     }
 
+    // What rows are told by is what the window shows above them: the title of the page, and titles of boxes
+    // around the widget, from the innermost one out. Of lists and tables without boxes the rows alone know.
+    void everyRowStandsUnderItsHeading()
+    {
+        window_->retranslate();
+        quick_->retranslate();
+        forEachPage([](auto& page) {
+            QCOMPARE(page.title(), QString(page.settings().values().table().title));
+            compareHeadings(page.settings());
+        });
+        compareHeadings(quick_->settings());
+    }
+
     void manyFiles_data()
     {
         QTest::addColumn<int>("round");
@@ -191,6 +207,41 @@ private:
                                     : widget->isEnabledTo(widget->parentWidget());
                 QVERIFY2(on == binder.values().holds(rule), qPrintable(target));
             }
+        }
+    }
+
+    static QStringList titlesAround(const QWidget* widget)
+    {
+        QStringList titles;
+        for (const QWidget* box = widget->parentWidget(); box; box = box->parentWidget()) {
+            const auto* group = qobject_cast<const QGroupBox*>(box);
+            if (group && !group->title().isEmpty())
+                titles << group->title();
+        }
+        return titles;
+    }
+
+    static void compareHeadings(vlk::PageSettings& settings)
+    {
+        const vlk::Values& values = settings.values();
+        for (int row = 0; row < values.count(); ++row) {
+            vlk::tables::eachWidget(values.setting(row), [&](auto form, auto name, vlk::Numbers numbers) {
+                const QWidget* widget = settings.binder().forms().find(
+                    vlk::numberedName(form, numbers), vlk::numberedName(name, numbers), numbers.outer);
+                QStringList titles = titlesAround(widget);
+                // Which server it is says a list above the box, which sensor of several one line of a table.
+                const QString path = values.layout().prefix() + values.row(row).path;
+                static const QRegularExpression byList("^(TRANS/(SRV|CRYPTO/srv)\\d|RS485/(FLDS|FS|PCNT))");
+                if (titles.isEmpty() || path.contains(byList))
+                    return;
+                const QStringList heading = vlk::headingText(values.setting(row)).split(" / ");
+                for (auto title = heading.rbegin(); title != heading.rend(); ++title) {
+                    const QString shown = title->section(": ", 0, 0);
+                    while (!titles.isEmpty() && QString(titles[0]).remove(':') != shown)
+                        titles.removeFirst();
+                    QVERIFY2(!titles.isEmpty(), qPrintable(path + " stands not under " + shown));
+                }
+            });
         }
     }
 

@@ -39,9 +39,9 @@ class TextsTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        static const QRegularExpression key(
-            QStringLiteral("[\">]((?:cfgt\\d+f?|cfgwl|cfgwnd|tmizta|tmiw|tmiex|tmift\\d|wrd|abbr|typed|wb|adv)_["
-                           "a-z0-9_]+)[\"<]"));
+        static const QRegularExpression key(QStringLiteral(
+            "[\">]((?:cfgt\\d+f?|cfgwl|cfgwnd|tmizta|tmiw|tmiex|tmift\\d|wrd|abbr|typed|rev|adv|wb)_["
+            "a-z0-9_]+)[\"<]"));
         for (const char* folder : {"/plugin", "/typing", "/workbench"}) {
             QDirIterator files(QStringLiteral(VLK_SOURCE) + QLatin1String(folder), {"*.cpp", "*.h", "*.ui"},
                                QDir::Files, QDirIterator::Subdirectories);

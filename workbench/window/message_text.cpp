@@ -131,6 +131,15 @@ const RecordRow records[] = {
          const auto& r = as<RunningWork>(p);
          return {QStringLiteral("saving=%1 automatic=%2").arg(r.saving).arg(r.automatic), {}};
      }},
+    {Message::GetExtensions,
+     [](const void* p) -> MessageText {
+         return {QStringLiteral("newest=%1").arg(as<Extensions>(p).newest), {}};
+     }},
+    {Message::CompareFiles,
+     [](const void* p) -> MessageText {
+         const auto& r = as<FileComparison>(p);
+         return {QStringLiteral("outcome=%1 differences=%2").arg(r.outcome).arg(r.differences), {}};
+     }},
     {Message::TachographFileRequest,
      [](const void* p) -> MessageText {
          const auto& r = as<szQueryTaho>(p);

@@ -7,6 +7,7 @@ namespace vlk {
 Normalised normalised(const Digits& row, const Reading& reading)
 {
     QString held;
+    Change change = Change::otherForm;
     for (std::size_t i = 0; i < row.positions.size(); ++i) {
         const Position& position = row.positions[i];
         const int digit = position.widget ? digitAt(reading.text, i) : 0;
@@ -14,9 +15,12 @@ Normalised normalised(const Digits& row, const Reading& reading)
         const int known = position.top == 1 ? std::min(digit, 1) : digit > position.top ? 0 : digit;
         const char taken = static_cast<char>('0' + known);
         const char* offers = reading.limits.offers;
-        held += QLatin1Char(offers && !isListed(offers, QLatin1String(&taken, 1)) ? '0' : taken);
+        const bool isOffered = !offers || isListed(offers, QLatin1String(&taken, 1));
+        held += QLatin1Char(isOffered ? taken : '0');
+        if (position.widget && digit > 0 && held[held.size() - 1] == QLatin1Char('0'))
+            change = Change::notOffered;
     }
-    return normalisedTo(held, reading.text, Change::otherForm);
+    return normalisedTo(held, reading.text, change);
 }
 
 // The captions of the positions that are set, with the item where a position has several.

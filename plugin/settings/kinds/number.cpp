@@ -51,6 +51,16 @@ bool isNumber(const Number& row, const QString& text)
     return is;
 }
 
+// Whether two texts mean the same number: "01" and "1", "2.50" and "2.5".
+bool isSameNumber(const Number& row, const QString& text, const QString& other)
+{
+    if (row.isText)
+        return leadingDouble(text) == leadingDouble(other);
+    if (row.hexadecimal)
+        return text.toInt(nullptr, 16) == other.toInt(nullptr, 16);
+    return leadingLong(text) == leadingLong(other);
+}
+
 } // namespace
 
 double shownNumber(const Number& row, const QString& value)
@@ -86,16 +96,20 @@ Normalised normalised(const Number& row, const Reading& reading)
                                                           : leadingInt(text);
         if (row.zeroIsOff && (row.negativeIsOn ? read == 0 : read <= 0))
             return normalisedBy(QStringLiteral("0"), text, [&] {
-                return isNumber(row, text) ? Change::outOfRange : Change::notANumber;
+                return !isNumber(row, text) ? Change::notANumber
+                       : read == 0          ? Change::otherForm
+                                            : Change::outOfRange;
             });
         const double quotient = static_cast<double>(read) / row.factor;
         shown = row.decimals > 0 ? rounded(quotient, row.decimals) : std::trunc(quotient);
     }
     const double held = std::clamp(shown, reading.limits.least, reading.limits.most);
-    return normalisedBy(spelledShown(row, held, text), text, [&] {
-        return !isNumber(row, text) ? Change::notANumber
-               : held != shown      ? Change::outOfRange
-                                    : Change::rounded;
+    const QString value = spelledShown(row, held, text);
+    return normalisedBy(value, text, [&] {
+        return !isNumber(row, text)             ? Change::notANumber
+               : isSameNumber(row, text, value) ? Change::otherForm
+               : held != shown                  ? Change::outOfRange
+                                                : Change::rounded;
     });
 }
 

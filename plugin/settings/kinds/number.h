@@ -30,6 +30,8 @@ struct Number
 template <class Kind>
 struct NumberOf : ShownOf<Kind>, Number
 {
+    const char* companion = nullptr; // check box or slider beside the widget, in the same form
+
     constexpr Kind range(double from, double to) const
     {
         return this->with(&Kind::least, from).with(&Kind::most, to);

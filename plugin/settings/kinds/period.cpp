@@ -15,9 +15,9 @@ QString fileText(const Period&, int seconds)
 Normalised normalised(const Period& row, const Reading& reading)
 {
     const int read = leadingInt(reading.text);
-    int rest = read;
-    if (row.wrap > 0 && reading.source == Source::file)
-        rest = ((rest % row.wrap) + row.wrap) % row.wrap;
+    const bool wraps = row.wrap > 0 && reading.source == Source::file;
+    const int kept = wraps ? ((read % row.wrap) + row.wrap) % row.wrap : read;
+    int rest = kept;
     qint64 held = 0;
     for (const PeriodPart& part : row.parts) {
         held += static_cast<qint64>(std::clamp(rest / part.seconds, part.least, part.most)) * part.seconds;
@@ -26,6 +26,8 @@ Normalised normalised(const Period& row, const Reading& reading)
     held = std::max(held, static_cast<qint64>(row.least));
     return normalisedBy(spelled(held, reading.text), reading.text, [&] {
         return !isWholeNumber(reading.text)                       ? Change::notANumber
+               : held == leadingLong(reading.text)                ? Change::otherForm
+               : kept != read                                     ? Change::wrapped
                : std::abs(held - read) < row.parts.back().seconds ? Change::rounded
                                                                   : Change::outOfRange;
     });

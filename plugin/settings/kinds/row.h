@@ -19,11 +19,22 @@ enum class OnReset : std::uint8_t { loadDefault, own, keepsValue };
 // What a save starts from: the value, or what the document holds under the key, if it does.
 enum class OnSave : std::uint8_t { value, document };
 
+// Under which title of its window a row stands, and under which one that title does. Of the format %1 is the
+// title, %2 the number of a repeated row and %3 that of a repetition inside it.
+struct Heading
+{
+    const char* title = ""; // text or translation key
+    const char* format = "%1";
+    const Heading* above = nullptr;
+};
+inline constexpr Heading kNoHeading{};
+
 struct RowBase
 {
     const char* key = "";       // of a group its path below the section
     const char* name = nullptr; // in paths, where the key or element stands twice; null: the key
-    When present{};             // else the key is neither read nor written
+    const Heading* heading = nullptr;
+    When present{}; // else the key is neither read nor written
     Numbers numbers{};
     bool stored = true;  // false: lives in the window alone, the file has no such key
     bool last = false;   // read after all others; in a repetition after those of its number
@@ -42,7 +53,6 @@ struct Shown : RowBase
     const char* captionKey = nullptr;
     const char* captionFormat = "%1"; // %1 for the caption
     Name widget{};
-    const char* companion = nullptr; // check box or slider beside the widget, in the same form
 };
 
 // Modifiers describe a row; each gives the changed row back.
@@ -97,6 +107,7 @@ enum class Change {
     missing,     // the key is not there, the load default counts
     notANumber,  // read as far as it is a number
     outOfRange,  // limited
+    wrapped,     // a period without what it has beyond its day
     rounded,     // to what the widget can show
     tooLong,     // cut
     unknownCode, // replaced, or the value before stays

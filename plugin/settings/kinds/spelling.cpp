@@ -1,6 +1,6 @@
 #include "settings/kinds/spelling.h"
 
-#include <QCoreApplication>
+#include "settings/text_source.h"
 
 #include <array>
 #include <charconv>
@@ -34,7 +34,7 @@ bool isWholeNumber(const QString& text)
 
 QString translated(const char* key)
 {
-    return key && *key ? QCoreApplication::translate("vlk", key) : QString();
+    return key && *key ? textOf(key) : QString();
 }
 
 QString yesNo(bool yes)

@@ -29,7 +29,7 @@ bool isListed(std::string_view codes, const Text& code)
 int digitAt(const QString& text, std::size_t position);
 bool isWholeNumber(const QString& text);
 
-// For people, in the present language.
+// For people, in the present language or the one that text_source.h tells.
 QString translated(const char* key);
 QString yesNo(bool yes);
 QString withUnit(const QString& number, const char* unit);

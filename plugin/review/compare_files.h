@@ -1,0 +1,18 @@
+#pragma once
+
+// The differences of two configuration files on disk, in words.
+
+#include "review/difference_text.h"
+
+#include <functional>
+
+namespace vlk::review {
+
+enum class Comparison { done, beforeUnreadable, afterUnreadable };
+
+// `take` gets each difference in turn. A null path stands for the defaults: what the keys of the other file
+// would read as if they were missing.
+Comparison compareFiles(const QString& before, const QString& after, Secrets secrets,
+                        const std::function<void(const Difference&, const DifferenceText&)>& take);
+
+} // namespace vlk::review

@@ -1,0 +1,186 @@
+#include "review/difference_text.h"
+
+#include "settings/kinds/spelling.h"
+#include "settings/value_text.h"
+
+#include <algorithm>
+
+namespace vlk::review {
+
+namespace {
+
+constexpr const char* kMask = "•••";
+
+const char* noteKey(const Difference& difference)
+{
+    if (difference.before.isNull())
+        return difference.byLoad ? "rev_001" : "rev_002";
+    if (difference.after.isNull())
+        return difference.byLoad ? difference.key < 0 ? "rev_003" : "rev_004" : "rev_005";
+    if (!difference.byLoad)
+        return nullptr;
+    switch (difference.change) {
+    case Change::notANumber:
+        return "rev_006";
+    case Change::outOfRange:
+        return "rev_007";
+    case Change::wrapped:
+        return "rev_008";
+    case Change::rounded:
+        return "rev_009";
+    case Change::tooLong:
+        return "rev_010";
+    case Change::unknownCode:
+        return "rev_011";
+    case Change::notOffered:
+        return "rev_012";
+    case Change::byRule:
+        return "rev_013";
+    case Change::none:
+    case Change::missing:
+    case Change::otherForm:
+        break;
+    }
+    return nullptr;
+}
+
+// A text that a load would change, so that the change can be seen.
+QString rawText(const Setting& setting, const QString& text, const char* unit)
+{
+    const bool isWhole = isWholeNumber(text);
+    if (setting.is<Period>() && isWhole)
+        return withUnit(text, "abbr_003");
+    const Number* number = setting.number();
+    if (!number || number->hexadecimal || !(isWhole || number->isText))
+        return text;
+    return withUnit(number->isText ? text : QString::number(shownNumber(*number, text), 'g', 10), unit);
+}
+
+QString partText(const QString& caption, const QString& value)
+{
+    const QString bare = caption.startsWith(QLatin1String("- ")) ? caption.mid(2) : caption;
+    return inOneLine(bare) + QStringLiteral(": ") + value;
+}
+
+// Those of the parts that differ from `other`.
+QStringList parts(const Mask& row, const QString& text, const QString& other)
+{
+    QStringList told;
+    for (const MaskField& field : row.fields) {
+        const QString part = maskPart(field, text);
+        if (part == maskPart(field, other))
+            continue;
+        const int item = maskItem(field, part);
+        told << partText(fieldText(field),
+                         item < 0 ? yesNo(isMaskOn(field, part)) : codeText(field.items[item]));
+    }
+    return told;
+}
+
+QStringList parts(const Digits& row, const QString& text, const QString& other)
+{
+    QStringList told;
+    for (std::size_t i = 0; i < row.positions.size(); ++i) {
+        const int digit = digitAt(text, i);
+        if (digit == digitAt(other, i) || !row.positions[i].widget)
+            continue;
+        const bool isListed = static_cast<std::size_t>(digit) < row.items.size();
+        const Code* item = isListed ? &row.items[digit] : nullptr;
+        told << partText(translated(row.positions[i].caption),
+                         item && *item->label ? codeText(*item) : yesNo(digit != 0));
+    }
+    return told;
+}
+
+QString textOf(const Setting& setting, const Held& held, const Held& other, const char* unit)
+{
+    if (!held.isThere)
+        return {};
+    if (!held.isWhole)
+        return rawText(setting, held.text, unit);
+    QStringList told;
+    if (other.isThere) {
+        if (const auto* mask = setting.as<Mask>())
+            told = parts(*mask, held.meaning, other.meaning);
+        else if (const auto* digits = setting.as<Digits>())
+            told = parts(*digits, held.meaning, other.meaning);
+    }
+    return told.isEmpty() ? valueText(setting, held.meaning, unit) : told.join(QStringLiteral(", "));
+}
+
+void mask(DifferenceText* text)
+{
+    for (QString* shown : {&text->before, &text->after, &text->beforeText, &text->afterText}) {
+        if (!shown->isEmpty())
+            *shown = QString::fromUtf8(kMask);
+    }
+}
+
+QString quoted(QString cell)
+{
+    const bool isPlain = std::none_of(cell.begin(), cell.end(), [](QChar sign) {
+        return sign == QLatin1Char(';') || sign == QLatin1Char('"') || sign < QLatin1Char(' ');
+    });
+    if (isPlain)
+        return cell;
+    return QLatin1Char('"') + cell.replace(QLatin1Char('"'), QLatin1String("\"\"")) + QLatin1Char('"');
+}
+
+} // namespace
+
+DifferenceText textOf(const Differences& differences, const Difference& difference, const Values& values,
+                      Secrets secrets)
+{
+    if (difference.key < 0)
+        return textOf(difference, secrets);
+    DifferenceText text;
+    static_cast<SettingWords&>(text) = wordsOf(values.layout(), difference.row);
+    text.before = difference.before;
+    text.after = difference.after;
+    const Setting& setting = values.setting(values.holder(difference.row));
+    const char* unit = values.unitKey(difference.row);
+    const Held& before = differences.before().at(difference.key);
+    const Held& after = differences.after().at(difference.key);
+    text.beforeText = textOf(setting, before, after, unit);
+    text.afterText = textOf(setting, after, before, unit);
+    if (values.row(difference.row).base->secret && secrets == Secrets::masked)
+        mask(&text);
+    text.note = translated(noteKey(difference));
+    return text;
+}
+
+DifferenceText textOf(const Difference& difference, Secrets secrets)
+{
+    DifferenceText text;
+    const FileKeys& keys = FileKeys::all();
+    for (int table = 0; table < keys.tables(); ++table) {
+        if (difference.path.startsWith(keys.layout(table).prefix()))
+            text.page = inOneLine(translated(keys.layout(table).table->title));
+    }
+    text.group = difference.path.section(QLatin1Char('/'), 0, -2);
+    text.caption = difference.path.section(QLatin1Char('/'), -1);
+    text.before = text.beforeText = difference.before;
+    text.after = text.afterText = difference.after;
+    if (keys.looksSecret(difference.path) && secrets == Secrets::masked)
+        mask(&text);
+    text.note = translated(noteKey(difference));
+    return text;
+}
+
+QString toCsv(const std::vector<DifferenceText>& texts)
+{
+    QStringList heading;
+    for (const char* key : {"rev_014", "rev_015", "rev_016", "rev_017", "rev_018", "rev_019"})
+        heading << translated(key);
+    QString csv = heading.join(QLatin1Char(';')) + QStringLiteral("\r\n");
+    for (const DifferenceText& text : texts) {
+        QStringList line;
+        for (const QString* cell :
+             {&text.page, &text.group, &text.caption, &text.beforeText, &text.afterText, &text.note})
+            line << quoted(*cell);
+        csv += line.join(QLatin1Char(';')) + QStringLiteral("\r\n");
+    }
+    return csv;
+}
+
+} // namespace vlk::review

@@ -1,0 +1,32 @@
+#pragma once
+
+// Differences as a person reads them.
+
+#include "review/differences.h"
+#include "review/setting_words.h"
+
+namespace vlk::review {
+
+enum class Secrets { masked, shown };
+
+struct DifferenceText : SettingWords
+{
+    // As a file holds them, null where the side lacks the key, and in words and units. Of a setting of many
+    // parts (the fields of a record, events) the words tell those that differ.
+    QString before;
+    QString after;
+    QString beforeText;
+    QString afterText;
+    QString note; // what the load did, or which side lacks the key; empty for a plain edit
+};
+
+// `values`: those of the difference's table, which know the units of now.
+DifferenceText textOf(const Differences& differences, const Difference& difference, const Values& values,
+                      Secrets secrets = Secrets::masked);
+// Of one whose key is -1.
+DifferenceText textOf(const Difference& difference, Secrets secrets = Secrets::masked);
+
+// One line a difference below a heading; separated by semicolons, quoted where it has to be.
+QString toCsv(const std::vector<DifferenceText>& texts);
+
+} // namespace vlk::review

@@ -1,0 +1,144 @@
+#include "review/differences.h"
+
+#include "settings/quick_settings.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <numeric>
+
+namespace vlk::review {
+
+namespace {
+
+const FileKeys& keys()
+{
+    return FileKeys::all();
+}
+
+QString there(const QString& text)
+{
+    return text.isNull() ? QStringLiteral("") : text;
+}
+
+// Of the section that the path begins with; behind all of them where no table has it.
+int tableOfSection(const QString& path)
+{
+    int table = 0;
+    while (table < keys().tables() && !path.startsWith(keys().layout(table).prefix()))
+        ++table;
+    return table;
+}
+
+} // namespace
+
+Differences::Differences(FileState before, FileState after)
+    : before_(std::move(before)), after_(std::move(after)), keys_(keys().tables())
+{
+    for (int table = 0; table < keys().tables(); ++table)
+        compare(table);
+    compareStrangers();
+}
+
+void Differences::compare(int table)
+{
+    keys_[table].clear();
+    for (int key = keys().firstOf(table); key < keys().firstOf(table + 1); ++key) {
+        if (isDifferent(key))
+            keys_[table].push_back(key);
+    }
+}
+
+void Differences::compareStrangers()
+{
+    strangers_.assign(keys().tables() + 1, {});
+    QHash<QString, QString> after;
+    for (const Stranger& stranger : after_.strangers())
+        after.insert(stranger.path, there(stranger.text));
+    const auto add = [&](const Difference& difference) {
+        strangers_[tableOfSection(difference.path)].push_back(difference);
+    };
+    for (const Stranger& stranger : before_.strangers()) {
+        const QString now = after.take(stranger.path);
+        if (now != there(stranger.text) || now.isNull())
+            add({-1, -1, stranger.path, there(stranger.text), now, now.isNull() && !after_.isDocument()});
+    }
+    for (const Stranger& stranger : after_.strangers()) {
+        if (after.contains(stranger.path))
+            add({-1, -1, stranger.path, {}, there(stranger.text)});
+    }
+}
+
+int Differences::count() const
+{
+    const auto add = [](std::size_t sum, const auto& list) { return sum + list.size(); };
+    return static_cast<int>(std::accumulate(strangers_.begin(), strangers_.end(),
+                                            std::accumulate(keys_.begin(), keys_.end(), std::size_t(0), add),
+                                            add));
+}
+
+bool Differences::isDifferent(int table, int row) const
+{
+    const std::vector<int>& held = keys().heldBy(table, row);
+    return std::any_of(held.begin(), held.end(), [this](int key) { return isDifferent(key); });
+}
+
+Difference Differences::differenceAt(int key) const
+{
+    const Held& before = before_.at(key);
+    const Held& after = after_.at(key);
+    const bool byLoad = !after_.isDocument() && before.isSaved == after.isThere && before.saved == after.text;
+    return {key,
+            after.isThere || before.row < 0 ? after.row : before.row,
+            keys()[key].path,
+            before.isThere ? there(before.text) : QString(),
+            after.isThere ? there(after.text) : QString(),
+            byLoad,
+            byLoad && before.isSaved ? before.change : Change::none};
+}
+
+std::vector<Difference> Differences::all() const
+{
+    std::vector<Difference> all;
+    all.reserve(count());
+    for (std::size_t table = 0; table < strangers_.size(); ++table) {
+        if (table < keys_.size()) {
+            for (const int key : keys_[table])
+                all.push_back(differenceAt(key));
+        }
+        all.insert(all.end(), strangers_[table].begin(), strangers_[table].end());
+    }
+    return all;
+}
+
+std::vector<Difference> Differences::allForQuick() const
+{
+    const QStringList anew = sectionsMadeAnew(layoutOf(kQuickSettings));
+    std::vector<Difference> all = this->all();
+    std::stable_partition(all.begin(), all.end(), [&](const Difference& difference) {
+        return anew.contains(difference.path.section(QLatin1Char('/'), 0, 0));
+    });
+    return all;
+}
+
+void Differences::update(const Values& values)
+{
+    const int table = keys().tableOf(values.table());
+    if (table < 0)
+        return;
+    after_.take(values);
+    if (before_.isDefaults())
+        before_.take(values);
+    compare(table);
+}
+
+void Differences::update(const FileState& full, const Values& quick)
+{
+    after_ = full;
+    after_.lay(quick);
+    for (int table = 0; table < keys().tables(); ++table)
+        compare(table);
+    compareStrangers();
+}
+
+} // namespace vlk::review

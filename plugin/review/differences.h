@@ -1,0 +1,60 @@
+#pragma once
+
+// Where two states of a configuration file differ, key by key, in the order of a save. A window keeps it:
+// each edit compares the keys of its table anew, in time that grows with the table alone, and nothing is
+// copied for what is equal.
+
+#include "review/file_state.h"
+
+#include <vector>
+
+namespace vlk::review {
+
+struct Difference
+{
+    int key = -1; // -1: no setting knows the path
+    int row = -1; // of the setting; the table is that of the key
+    QString path;
+    // Null where the side lacks the key.
+    QString before;
+    QString after;
+    // Made by the load alone of what stood before, nobody has edited it. `change` says why; none where the
+    // load has no place for the key.
+    bool byLoad = false;
+    Change change = Change::none;
+};
+
+class Differences
+{
+public:
+    Differences() : Differences(FileState(), FileState()) {}
+    Differences(FileState before, FileState after);
+
+    const FileState& before() const { return before_; }
+    const FileState& after() const { return after_; }
+
+    int count() const;
+    bool isDifferent(int key) const { return !(before_.at(key) == after_.at(key)); }
+    // Of a setting.
+    bool isDifferent(int table, int row) const;
+    std::vector<Difference> all() const;
+    // The same with those first whose sections the quick window builds anew.
+    std::vector<Difference> allForQuick() const;
+
+    // An edit has changed values of one of the configuration's tables.
+    void update(const Values& values);
+    // The quick window's values over those of the full one.
+    void update(const FileState& full, const Values& quick);
+
+private:
+    void compare(int table);
+    void compareStrangers();
+    Difference differenceAt(int key) const;
+
+    FileState before_;
+    FileState after_;
+    std::vector<std::vector<int>> keys_;             // that differ, by table
+    std::vector<std::vector<Difference>> strangers_; // by the table of their section, others last
+};
+
+} // namespace vlk::review

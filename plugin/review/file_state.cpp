@@ -1,0 +1,173 @@
+#include "review/file_state.h"
+
+#include "review/document_walk.h"
+#include "settings/all_settings.h"
+#include "xml/xml_section.h"
+
+namespace vlk::review {
+
+namespace {
+
+const FileKeys& keys()
+{
+    return FileKeys::all();
+}
+
+// Whether a load loses nothing of a text.
+bool isWhole(Change change)
+{
+    return change == Change::none || change == Change::otherForm;
+}
+
+// What settings read missing keys as, by table and row, before ranges and other rules.
+const QString& plainDefault(int table, int row)
+{
+    static thread_local std::vector<std::vector<QString>> texts(keys().tables());
+    std::vector<QString>& own = texts[table];
+    const TableLayout& layout = keys().layout(table);
+    own.resize(layout.rows.size());
+    // Some of them are texts of the present language or of the model.
+    const auto* text = layout.rows[row].setting->as<Text>();
+    if (own[row].isNull() || (text && (text->load.key || text->load.namesModel)))
+        own[row] = loadDefault(*layout.rows[row].setting);
+    return own[row];
+}
+
+Normalised normalisedAs(const Values& values, int row, const QString& text)
+{
+    // The window always writes the same there, whatever it reads.
+    if (const auto* constant = values.setting(row).as<Constant>())
+        return normalisedTo(QString::fromLatin1(constant->load), text, Change::notOffered);
+    const int holder = values.holder(row);
+    return normalise(values.setting(holder), {text, values.value(holder), values.limits(holder)});
+}
+
+QString defaultOf(const Values& values, int table, int row)
+{
+    const QString& text = plainDefault(table, row);
+    const QString now = values.written(row);
+    return text == now ? now : normalisedAs(values, row, text).value;
+}
+
+} // namespace
+
+QStringList sectionsMadeAnew(const TableLayout& layout)
+{
+    QStringList sections;
+    for (const TableLayout::Element& element : layout.elements) {
+        if (element.path.size() == 1 && element.group->save != ElementSave::keepsOthers)
+            sections << element.path.first();
+    }
+    return sections;
+}
+
+FileState::FileState() : held_(keys().count()) {}
+
+FileState FileState::ofConfiguration(const Configuration& configuration)
+{
+    FileState state;
+    for (const Values& values : configuration.tables())
+        state.take(values);
+    return state;
+}
+
+FileState FileState::ofDefaults(const Configuration& configuration)
+{
+    FileState state;
+    state.kind_ = Kind::defaults;
+    for (const Values& values : configuration.tables())
+        state.take(values);
+    return state;
+}
+
+FileState FileState::ofDocument(CXmlSection& root)
+{
+    FileState state;
+    if (!root.document())
+        return state;
+    Configuration loaded(allSettings());
+    loaded.read(root);
+    state = ofConfiguration(loaded);
+    state.kind_ = Kind::document;
+    for (Held& held : state.held_) {
+        held.isThere = false;
+        held.text = held.meaning = QString();
+        held.change = held.isSaved ? Change::missing : Change::none;
+    }
+    eachKey(root, [&](const QString& path, const QString& text) {
+        const int key = keys().at(path);
+        if (key < 0)
+            state.strangers_.push_back({path, text});
+        else if (!state.held_[key].isThere)
+            state.takeText(key, text, loaded);
+    });
+    return state;
+}
+
+void FileState::takeText(int key, const QString& text, const Configuration& loaded)
+{
+    Held& held = held_[key];
+    if (held.row < 0)
+        held.row = keys()[key].rows.front();
+    const Normalised taken = normalisedAs(loaded.tables()[keys()[key].table], held.row, text);
+    held.isThere = true;
+    held.text = text;
+    held.isWhole = isWhole(taken.change);
+    held.meaning = held.isWhole ? taken.value : text;
+    held.change = !held.isWhole                                ? taken.change
+                  : held.isSaved && held.saved != held.meaning ? Change::byRule
+                                                               : Change::none;
+}
+
+void FileState::take(const Values& values)
+{
+    const int table = keys().tableOf(values.table());
+    if (table < 0)
+        return;
+    for (int key = keys().firstOf(table); key < keys().firstOf(table + 1); ++key)
+        held_[key] = {};
+    for (int row = 0; row < values.count(); ++row) {
+        const int key = keys().of(table, row);
+        if (key < 0 || !values.isWritten(row))
+            continue;
+        hold(key, row, isDefaults() ? defaultOf(values, table, row) : values.written(row));
+    }
+}
+
+// As it stands, and a load and a save leave it so.
+void FileState::hold(int key, int row, const QString& text)
+{
+    Held& held = held_[key];
+    held.row = row;
+    held.isThere = held.isSaved = true;
+    held.text = held.meaning = held.saved = text;
+}
+
+void FileState::lay(const Values& quick)
+{
+    for (const QString& section : sectionsMadeAnew(quick.layout())) {
+        for (int table = 0; table < keys().tables(); ++table) {
+            if (keys().layout(table).section != section)
+                continue;
+            for (int key = keys().firstOf(table); key < keys().firstOf(table + 1); ++key)
+                held_[key] = {};
+        }
+    }
+    strangers_.clear();
+    for (int row = 0; row < quick.count(); ++row) {
+        const TableLayout::Row& place = quick.row(row);
+        if (!quick.isWritten(row) || place.key == QLatin1String("page"))
+            continue;
+        const int key = keys().at(place.filePath);
+        if (key < 0) {
+            strangers_.push_back({place.filePath, quick.written(row)});
+            continue;
+        }
+        const Held& held = held_[key];
+        const bool keepsText = place.base->onSave == OnSave::document && held.isThere;
+        hold(key, held.row < 0 ? keys()[key].rows.front() : held.row,
+             keepsText ? quick.written(row, held.text) : quick.written(row));
+    }
+}
+
+} // namespace vlk::review

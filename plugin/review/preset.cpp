@@ -1,0 +1,97 @@
+#include "review/preset.h"
+
+#include "review/document_walk.h"
+#include "xml/serialize.h"
+#include "xml/xml_document.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace vlk::review {
+
+namespace {
+
+using Texts = std::vector<std::pair<int, QString>>; // by key
+
+bool isPersonal(int key)
+{
+    const FileKey& place = FileKeys::all()[key];
+    const TableLayout& layout = FileKeys::all().layout(place.table);
+    return place.path == QLatin1String("TRANS/OBJECT/name") ||
+           std::any_of(place.rows.begin(), place.rows.end(),
+                       [&](int row) { return layout.rows[row].base->secret; });
+}
+
+Texts textsOf(CXmlSection& preset, std::vector<PresetProblem>* problems)
+{
+    using What = PresetProblem::What;
+    Texts texts;
+    QSet<int> seen;
+    eachKey(preset, [&](const QString& path, const QString& text) {
+        const int key = FileKeys::all().at(path);
+        if (key < 0)
+            problems->push_back(
+                {path.contains(QLatin1Char('[')) ? What::doubled : What::unknownKey, path, text});
+        else if (seen.contains(key))
+            problems->push_back({What::doubled, path, text});
+        else
+            texts.emplace_back(key, text);
+        seen.insert(key);
+    });
+    return texts;
+}
+
+// The document that the configuration would be saved as, with the texts laid over it.
+FileState stateWith(const Texts& texts, const Configuration& configuration, Configuration* result)
+{
+    XmlDocument document(QString(), QStringLiteral("DEVICE"));
+    configuration.write(*document.root());
+    for (const auto& [key, text] : texts)
+        setKey(*document.root(), key, text);
+    *result = configuration;
+    result->read(*document.root());
+    return FileState::ofDocument(*document.root());
+}
+
+} // namespace
+
+void writePreset(CXmlSection& root, const FileState& from, std::vector<int> keys, Personal personal)
+{
+    std::sort(keys.begin(), keys.end());
+    root.setString(QStringLiteral("creator"), QStringLiteral("preset"));
+    root.commit();
+    for (const int key : keys) {
+        if (from.at(key).isThere && (personal == Personal::included || !isPersonal(key)))
+            setKey(root, key, from.at(key).text);
+    }
+}
+
+bool saysPreset(const CXmlSection& root)
+{
+    return root.getString(QStringLiteral("creator")) == QLatin1String("preset");
+}
+
+AppliedPreset applied(CXmlSection& preset, const Configuration& configuration)
+{
+    using What = PresetProblem::What;
+    AppliedPreset applied{configuration, {}, {}, {}};
+    Texts texts = textsOf(preset, &applied.problems);
+    const FileState tried = stateWith(texts, configuration, &applied.result);
+    const auto isUnfit = [&](const auto& entry) {
+        const Held& held = tried.at(entry.first);
+        const bool isUnfit = !held.isSaved || !(held.saved == held.meaning);
+        if (isUnfit)
+            applied.problems.push_back({held.isSaved || !held.isWhole ? What::badValue : What::noPlace,
+                                        FileKeys::all()[entry.first].path, entry.second, held.change});
+        return isUnfit;
+    };
+    texts.erase(std::remove_if(texts.begin(), texts.end(), isUnfit), texts.end());
+    stateWith(texts, configuration, &applied.result);
+    applied.state = FileState::ofConfiguration(applied.result);
+    for (const auto& [key, text] : texts)
+        applied.keys.push_back(key);
+    return applied;
+}
+
+} // namespace vlk::review

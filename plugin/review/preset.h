@@ -1,0 +1,47 @@
+#pragma once
+
+// A preset: chosen settings in a configuration document of their own, whose root says creator="preset". To
+// apply one is to take over what a configuration would be with its keys; what does not fit is told and left
+// out.
+
+#include "review/take_over.h"
+
+namespace vlk::review {
+
+// Secrets and the name of the object.
+enum class Personal { leftOut, included };
+
+// Writes the keys as `from` has them into an empty document.
+void writePreset(CXmlSection& root, const FileState& from, std::vector<int> keys,
+                 Personal personal = Personal::leftOut);
+
+// Whether a document says that it is a preset; others can be applied too.
+bool saysPreset(const CXmlSection& root);
+
+// A key of a preset that cannot be applied.
+struct PresetProblem
+{
+    enum class What {
+        unknownKey,
+        doubled,
+        badValue, // a load would make something else of it: `change`
+        noPlace,  // neither the configuration nor the preset has what it belongs to
+    };
+
+    What what;
+    QString path;
+    QString text;
+    Change change = Change::none;
+};
+
+struct AppliedPreset
+{
+    Configuration result;  // with all that fits
+    FileState state;       // of it; to be taken over, all keys or some
+    std::vector<int> keys; // of the preset, without those that do not fit
+    std::vector<PresetProblem> problems;
+};
+
+AppliedPreset applied(CXmlSection& preset, const Configuration& configuration);
+
+} // namespace vlk::review

@@ -1,0 +1,26 @@
+#pragma once
+
+// Bringing single keys of one state into another: taking back edits, taking values over from the defaults or
+// from another file, applying a preset. It goes the way of a file, as the switch from the quick window does:
+// what a configuration would save, the keys laid over it, and that is read. So what follows from a value
+// follows from it here too, and nothing else moves.
+
+#include "review/differences.h"
+
+namespace vlk::review {
+
+// The keys and those without which they could not be taken: to take back the address of a sensor whose device
+// owns the serial line no longer is to take back the device too, and a type that several elements share goes
+// back in all of them.
+std::vector<int> withNeeded(const Differences& differences, std::vector<int> keys);
+
+// Gives a key of a document a text, an element made for it where there is none.
+void setKey(CXmlSection& root, int key, const QString& text);
+
+// Lays what a load of `from` makes of the keys over a document that a save has written; keys that it lacks
+// go. Sections that are open on the document lose their sight of it, but for the root.
+void layOver(CXmlSection& root, const FileState& from, const std::vector<int>& keys);
+
+void takeOver(Configuration& configuration, const FileState& from, const std::vector<int>& keys);
+
+} // namespace vlk::review

@@ -1,0 +1,296 @@
+// What differs between two states of a configuration file, and how it is told.
+
+#include "review/difference_text.h"
+#include "review/take_over.h"
+#include "settings/all_settings.h"
+#include "settings/quick_settings.h"
+#include "settings/text_source.h"
+#include "support/data_table.h"
+#include "support/files.h"
+#include "support/setting_samples.h"
+
+#include <QTranslator>
+#include <QtTest>
+
+#include <random>
+
+using vlk::review::Differences;
+using vlk::review::FileState;
+
+namespace {
+
+QByteArray factory()
+{
+    return readFile(VLK_SOURCE "/fuzz/corpus/settings/factory.xml");
+}
+
+FileState stateOf(const QByteArray& file)
+{
+    vlk::XmlDocument document(file, "DEVICE");
+    return FileState::ofDocument(*document.root());
+}
+
+vlk::Configuration loaded(const QByteArray& file)
+{
+    vlk::Configuration configuration(vlk::allSettings());
+    vlk::XmlDocument document(file, "DEVICE");
+    configuration.read(*document.root());
+    return configuration;
+}
+
+QByteArray saved(const vlk::Configuration& configuration)
+{
+    vlk::XmlDocument document(QString(), "DEVICE");
+    configuration.write(*document.root());
+    return document.text();
+}
+
+// "TRACK/POINTS/angle: 5 > 7", a side that lacks the key as "-", and what the load did in brackets.
+QString told(const Differences& differences)
+{
+    const auto side = [](const QString& text) { return text.isNull() ? QString("-") : text; };
+    QStringList lines;
+    for (const vlk::review::Difference& difference : differences.all()) {
+        const QString change = difference.change == vlk::Change::none
+                                   ? QString()
+                                   : ' ' + QString::number(static_cast<int>(difference.change));
+        lines << difference.path + ": " + side(difference.before) + " > " + side(difference.after) +
+                     (difference.byLoad ? " (load" + change + ')' : QString());
+    }
+    return lines.join("; ");
+}
+
+} // namespace
+
+class DifferencesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // A file that is edited as text, against what a save would make of it.
+    void ofAFileAsItCame_data()
+    {
+        using vlk::Change;
+        const auto load = [](Change change) { return QString(" (load %1)").arg(static_cast<int>(change)); };
+        DataTable<QByteArray, QByteArray, QString> table({"text", "becomes", "told"});
+        table.row("nothing", "", "", "")
+            .row("another spelling", "pingTimer=\"90\"", "pingTimer=\"0090\"", "")
+            .row("trailing zeros", "maxHDOP=\"2.5\"", "maxHDOP=\"2.50\"", "")
+            .row("limited", "pingTimer=\"90\"", "pingTimer=\"9000\"",
+                 "TRANS/RULES/pingTimer: 9000 > 3600" + load(Change::outOfRange))
+            .row("wrapped", "cnctTimer=\"3600\" useCmd", "cnctTimer=\"90060\" useCmd",
+                 "TRANS/RULES/cnctTimer: 90060 > 3660" + load(Change::wrapped))
+            .row("no number", "pingTimer=\"90\"", "pingTimer=\"often\"",
+                 "TRANS/RULES/pingTimer: often > 15" + load(Change::notANumber))
+            .row("missing", "pingTimer=\"90\"", "", "TRANS/RULES/pingTimer: - > 90" + load(Change::missing))
+            .row("unknown code", "protocol=\"ZETA\" transProto=\"TCP\" objID=\"710601\"",
+                 "protocol=\"X\" transProto=\"TCP\" objID=\"710601\"",
+                 "TRANS/SRV1/protocol: X > ZETA" + load(Change::unknownCode))
+            .row("unknown key", "<SIMPRIOR ", "<SIMPRIOR colour=\"2\" ",
+                 "TRANS/SIMPRIOR/colour: 2 > - (load)")
+            .row("doubled", "<SIMPRIOR ", "<SIMPRIOR regTimer=\"90\"/><SIMPRIOR ",
+                 "TRANS/SIMPRIOR[2]/regTimer: 90 > - (load)")
+            .row("unknown section", "<TRANS ", "<BOGUS page=\"BOGUS\"><A b=\"1\"/><C/></BOGUS><TRANS ",
+                 "BOGUS/A/b: 1 > - (load); BOGUS/C:  > - (load)");
+    }
+    void ofAFileAsItCame()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QByteArray, becomes);
+        QFETCH(QString, told);
+        QByteArray file = factory();
+        if (!text.isEmpty()) {
+            QVERIFY(file.contains(text));
+            file.replace(file.indexOf(text), text.size(), becomes);
+        }
+        const Differences differences(stateOf(file), FileState::ofConfiguration(loaded(file)));
+        QCOMPARE(::told(differences), told);
+    }
+
+    // In words and units, of a setting of many parts those that differ.
+    void words_data()
+    {
+        DataTable<QString, QString, QString, QString> table({"language", "path", "value", "told"});
+        table.row("number", "en", "TRANS/SRV1/port", "5000", "Data transfer|Servers / Main|Port|4000|5000|")
+            .row("unit", "ru", "TRACK/POINTS/maxSpeed", "110",
+                 "Трек|Всегда записывать точку трека|Порог скорости|90 км/ч|110 км/ч|")
+            .row("volts", "en", "SYSTEM/FUEL/blockVolt", "9000",
+                 "System|Fuel level sensors|Sensors are switched off at|8.00 V|9.00 V|")
+            .row("choice", "en", "TRANS/RULES/cnctType", "0",
+                 "Data transfer|Connection rules|Connection|Permanent|Periodic|")
+            .row("flag", "ru", "TRACK/COORDFLT/use", "0", "Трек||Включить обработку координат|Да|Нет|")
+            .row("event", "en", "OUTPUTS/LINE1/actions", "02000000000000000000",
+                 "Output lines|Switches automatically on|Switches automatically on|"
+                 "trigger of sensor IN2: No change|trigger of sensor IN2: Switch off|")
+            .row("field of the record", "en", "PROTOCOL/ZETA/mask", "0",
+                 "Data set||Fields of the record|Backup battery voltage: Yes|Backup battery voltage: No|")
+            .row("secret", "en", "TRANS/AP1/pass", "geheim",
+                 "Data transfer|GPRS access point|Password|•••|•••|");
+    }
+    void words()
+    {
+        QFETCH(QString, language);
+        QFETCH(QString, path);
+        QFETCH(QString, value);
+        QFETCH(QString, told);
+        const vlk::TextSource source = textsOf(language);
+        const vlk::TextsFrom texts(source);
+        vlk::Configuration configuration = loaded(factory());
+        const FileState before = FileState::ofConfiguration(configuration);
+        if (path.endsWith("mask"))
+            value = configuration.value(path).replace(19, 1, "0");
+        configuration.edit(path, value);
+        const Differences differences(before, FileState::ofConfiguration(configuration));
+        QCOMPARE(line(differences, configuration, 0), told);
+    }
+
+    void secretsAreToldOnDemandAlone()
+    {
+        const QByteArray file =
+            QByteArray(factory()).replace("<AP1 ", "<AP1 pass=\"eins\"/><AP1 name=\"x\" ");
+        vlk::Configuration configuration = loaded(file);
+        configuration.edit("TRANS/AP1/pass", "zwei");
+        const Differences differences(stateOf(file), FileState::ofConfiguration(configuration));
+        QString masked, shown;
+        for (std::size_t i = 0; i < differences.all().size(); ++i) {
+            masked += line(differences, configuration, i);
+            shown += line(differences, configuration, i, vlk::review::Secrets::shown);
+        }
+        for (const char* secret : {"eins", "zwei", "mts|"}) {
+            QVERIFY2(!masked.contains(secret), secret);
+            QVERIFY2(shown.contains(secret), secret);
+        }
+    }
+
+    void csvKeepsItsColumns()
+    {
+        vlk::review::DifferenceText text;
+        text.caption = "a;\"b\"";
+        text.beforeText = "two\nlines";
+        const vlk::TextSource source = textsOf("en");
+        const vlk::TextsFrom texts(source);
+        QCOMPARE(vlk::review::toCsv({text}), QString("Tab;Group;Setting;Before;After;Note\r\n"
+                                                     ";;\"a;\"\"b\"\"\";\"two\nlines\";;\r\n"));
+    }
+
+    // What a missing key reads as is no difference from the defaults, and before is that.
+    void fromDefaults()
+    {
+        vlk::Configuration configuration = loaded("<DEVICE/>");
+        Differences differences(FileState::ofDefaults(configuration),
+                                FileState::ofConfiguration(configuration));
+        QCOMPARE(told(differences), QString());
+        for (const auto& [path, value] : QMap<QString, QString>{
+                 {"TRACK/POINTS/angle", "7"},
+                 {"RS485/OPTIONS/owner1", "TPMS"},
+                 {"RS485/TPMS/holdTime",
+                  "20"}}.toStdMap())
+            configuration.edit(path, value);
+        for (const vlk::Values& table : configuration.tables())
+            differences.update(table);
+        QCOMPARE(told(differences), QString("TRACK/POINTS/angle: 5 > 7; RS485/OPTIONS/owner1:  > TPMS; "
+                                            "RS485/OPTIONS/boudrate: 19200 > 38400; "
+                                            "RS485/TPMS/holdTime: 15 > 20"));
+    }
+
+    void ofTwoFiles()
+    {
+        const QByteArray left =
+            "<DEVICE><TRACK><POINTS angle=\"07\" dist=\"x\" a=\"1\"/></TRACK><Z y=\"2\"/></DEVICE>";
+        const QByteArray right =
+            "<DEVICE><TRACK><POINTS angle=\"7\" dist=\"y\" a=\"2\"/></TRACK><Z y=\"2\"/></DEVICE>";
+        QCOMPARE(told(Differences(stateOf(left), stateOf(right))),
+                 QString("TRACK/POINTS/dist: x > y; TRACK/POINTS/a: 1 > 2"));
+        QCOMPARE(told(Differences(stateOf(left), stateOf("<DEVICE/>"))),
+                 QString("TRACK/POINTS/angle: 07 > -; TRACK/POINTS/dist: x > -; TRACK/POINTS/a: 1 > -; "
+                         "Z/y: 2 > -"));
+        for (const char* unusable : {"", "<DEVICE><TRACK>", "<OTHER><TRACK/></OTHER>", "no document"})
+            QCOMPARE(told(Differences(stateOf(unusable), stateOf("<DEVICE/>"))), QString());
+    }
+
+    // The quick window's values over those of the full one, as its save lays them.
+    void ofTheQuickWindow()
+    {
+        std::mt19937 random(1);
+        vlk::Configuration full = loaded(factory());
+        vlk::Values quick(vlk::kQuickSettings);
+        vlk::XmlDocument document(factory(), "DEVICE");
+        quick.read(*document.root());
+        Differences differences(stateOf(factory()), FileState::ofConfiguration(full));
+        for (int i = 0; i < 60; ++i) {
+            const int row = static_cast<int>(random() % quick.count());
+            const QStringList samples = samplesOf(quick.setting(quick.holder(row)));
+            quick.edit(row, samples[static_cast<int>(random() % samples.size())]);
+            differences.update(FileState::ofConfiguration(full), quick);
+            vlk::XmlDocument written(saved(full), "DEVICE");
+            quick.write(*written.root());
+            QCOMPARE(told(Differences(stateOf(written.text()), differences.after())), QString());
+        }
+        QStringList sections;
+        for (const vlk::review::Difference& difference : differences.allForQuick())
+            sections << difference.path.section('/', 0, 0);
+        sections.removeDuplicates();
+        QCOMPARE(sections.mid(0, 3), QStringList({"RS485", "SENSORS", "BLUETOOTH"}));
+    }
+
+    // Edits at random: what is kept up to date is what a comparison from scratch gives, and taking back the
+    // differences one by one, in whatever order, ends where the edits began.
+    void takenBackOneByOne_data()
+    {
+        QTest::addColumn<int>("seed");
+        for (int seed = 1; seed <= 20; ++seed)
+            QTest::addRow("%d", seed) << seed;
+        for (const int seed : {441, 544}) // a value that several keys share
+            QTest::addRow("%d", seed) << seed;
+    }
+    void takenBackOneByOne()
+    {
+        QFETCH(int, seed);
+        std::mt19937 random(seed);
+        const auto below = [&](std::size_t count) { return static_cast<int>(random() % count); };
+        vlk::Configuration configuration = loaded(factory());
+        const QByteArray first = saved(configuration);
+        Differences differences(stateOf(first), FileState::ofConfiguration(configuration));
+        QCOMPARE(told(differences), QString());
+        for (int i = 0; i < 40; ++i) {
+            vlk::Values& table = configuration.tables()[below(configuration.tables().size())];
+            const int row = below(table.count());
+            const QStringList samples = samplesOf(table.setting(table.holder(row)));
+            table.edit(row, samples[below(samples.size())]);
+            differences.update(table);
+        }
+        QCOMPARE(told(differences),
+                 told(Differences(stateOf(first), FileState::ofConfiguration(configuration))));
+        QVERIFY(differences.count() > 0);
+        int most = 2 * differences.count();
+        while (differences.count() > 0 && most-- > 0) {
+            const std::vector<vlk::review::Difference> all = differences.all();
+            const int key = all[below(all.size())].key;
+            takeOver(configuration, differences.before(), withNeeded(differences, {key}));
+            for (const vlk::Values& table : configuration.tables())
+                differences.update(table);
+        }
+        QCOMPARE(told(differences), QString());
+        QCOMPARE(saved(configuration), first);
+    }
+
+private:
+    static vlk::TextSource textsOf(const QString& language)
+    {
+        auto translator = std::make_shared<QTranslator>();
+        translator->load(QString(VLK_TEXTS "/") + language);
+        return [translator](const char* key) { return translator->translate(nullptr, key); };
+    }
+    static QString line(const Differences& differences, const vlk::Configuration& configuration, int place,
+                        vlk::review::Secrets secrets = vlk::review::Secrets::masked)
+    {
+        const vlk::review::Difference difference = differences.all().at(place);
+        const int table = difference.key < 0 ? 0 : vlk::review::FileKeys::all()[difference.key].table;
+        const auto text = textOf(differences, difference, configuration.tables()[table], secrets);
+        return QStringList{text.page, text.group, text.caption, text.beforeText, text.afterText, text.note}
+            .join('|');
+    }
+};
+
+QTEST_GUILESS_MAIN(DifferencesTest)
+#include "tst_differences.moc"

@@ -1,0 +1,56 @@
+// The report of a configuration, told in keys where no language is on show.
+
+#include "review/report.h"
+#include "settings/all_settings.h"
+
+#include <QDomDocument>
+#include <QtTest>
+
+using vlk::review::FileKeys;
+using vlk::review::Report;
+
+class ReportTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        configuration_.edit("TRANS/OBJECT/name", "a<b & c");
+        configuration_.edit("TRANS/AP1/pass", "geheim");
+    }
+
+    // Each page once, in the order of its tab, with all that it writes.
+    void pageByPage()
+    {
+        const QString html = toHtml(configuration_, Report{"title", {"about"}, {"advice"}, {}, {}});
+        QDomDocument document;
+        QVERIFY(document.setContent(QString(html).replace("\"utf-8\">", "\"utf-8\"/>")));
+        QStringList pages;
+        const QDomNodeList headings = document.elementsByTagName("h2");
+        for (int i = 0; i < headings.size(); ++i)
+            pages << headings.at(i).toElement().text();
+        QCOMPARE(pages,
+                 QStringList({"rev_020", "cfgt1_001", "cfgt2_001", "cfgt3_001", "cfgt4_001", "cfgt6_001",
+                              "cfgt7_001", "cfgt8_001", "cfgt9_001", "cfgt10_001", "cfgt17_001"}));
+        for (const char* line : {"<p>about</p>", "<li>advice</li>", "<td>a&lt;b &amp; c</td>",
+                                 "<h3>cfgt1_061 / cfgt1_011 2</h3>", "<td>100 abbr_024</td>"})
+            QVERIFY2(html.contains(line), line);
+        QVERIFY(!html.contains("geheim"));
+    }
+
+    void chosenKeysAndSecretsOnDemand()
+    {
+        const Report report{"", {}, {}, {FileKeys::all().at("TRANS/AP1/pass")}, vlk::review::Secrets::shown};
+        const QString html = toHtml(configuration_, report);
+        QCOMPARE(html.count("<tr>"), 1);
+        QVERIFY(html.contains("<h2>cfgt1_001</h2>\n<h3>cfgt1_024</h3>"));
+        QVERIFY(html.contains("<td>geheim</td>"));
+    }
+
+private:
+    vlk::Configuration configuration_{vlk::allSettings()};
+};
+
+QTEST_GUILESS_MAIN(ReportTest)
+#include "tst_report.moc"

@@ -1,0 +1,114 @@
+// Settings are found by words of either language.
+
+#include "review/search.h"
+#include "settings/all_settings.h"
+#include "settings/configuration.h"
+#include "support/data_table.h"
+
+#include <QTranslator>
+#include <QtTest>
+
+using vlk::review::Hit;
+using vlk::review::Search;
+
+class SearchTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        for (const char* language : {"ru", "en"}) {
+            auto& translator = translators_.emplace_back(std::make_unique<QTranslator>());
+            QVERIFY(translator->load(QString(VLK_TEXTS "/") + language));
+            texts_.push_back([&translator = *translator](const char* key) {
+                const QString text = translator.translate(nullptr, key);
+                return text.isNull() ? QString::fromLatin1(key) : text;
+            });
+        }
+        configuration_.edit("TRANS/SRV1/addr", "gps.example.com");
+        configuration_.edit("TRANS/AP1/pass", "geheim");
+    }
+
+    void bestFirst_data()
+    {
+        DataTable<QString, QString> table({"query", "first"});
+        table.row("caption", "Период проверки", "TRANS/RULES/pingTimer")
+            .row("the other language", "maximum hdop", "")
+            .row("English while Russian is on show", "hdop above", "TRACK/COORDFLT/maxHDOP")
+            .row("case and order of words", "ОСНОВНОЙ порт", "TRANS/SRV1/port")
+            .row("group of the other language", "main port", "TRANS/SRV1/port")
+            .row("both languages at once", "main порт", "TRANS/SRV1/port")
+            .row("without the dots", "четность", "RS485/OPTIONS/parity")
+            .row("begun words", "часов пояс", "SYSTEM/TIME/zone")
+            .row("value", "gps.example", "TRANS/SRV1/addr")
+            .row("value with its unit", "8.00 в", "SYSTEM/FUEL/blockVolt")
+            .row("key", "COORDFLT/minSats", "TRACK/COORDFLT/minSats")
+            .row("field of the record", "HDOP", "PROTOCOL/ZETA/mask 63")
+            .row("event", "сработке датчика IN2", "OUTPUTS/LINE1/actions 1")
+            .row("what it could be", "egts", "TRANS/SRV1/protocol")
+            .row("no secret by its value", "geheim", "")
+            .row("nothing", "qwertz", "")
+            .row("a word that is nowhere", "порт qwertz", "");
+    }
+    void bestFirst()
+    {
+        QFETCH(QString, query);
+        QFETCH(QString, first);
+        const vlk::TextsFrom shown(texts_[0]);
+        Search search(tables(), texts_[1]);
+        const std::vector<Hit> hits = search.find(query);
+        QCOMPARE(hits.empty() ? QString() : told(hits.front()), first);
+    }
+
+    void followsValuesAndLanguage()
+    {
+        Search search(tables());
+        {
+            const vlk::TextsFrom shown(texts_[0]);
+            QVERIFY(!search.find("порт").empty());
+            QVERIFY(search.find("49152").empty());
+            configuration_.edit("TRANS/SRV1/port", "49152");
+            QCOMPARE(told(search.find("49152").front()), QString("TRANS/SRV1/port"));
+        }
+        const vlk::TextsFrom shown(texts_[1]);
+        search.retranslate();
+        QVERIFY(search.find("порт").empty());
+        QVERIFY(!search.find("Main port").empty());
+    }
+
+    // All of them where nothing is asked, and each once.
+    void everything()
+    {
+        Search search(tables());
+        QSet<QString> all;
+        const std::vector<Hit> hits = search.find(" ");
+        for (const Hit& hit : hits)
+            all << told(hit);
+        QCOMPARE(static_cast<std::size_t>(all.size()), hits.size());
+        for (const char* path : {"TRANS/OBJECT/name", "BLUETOOTH/SENS4/type", "OUTPUTS/LINE1/actions 16"})
+            QVERIFY2(all.contains(path), path);
+    }
+
+private:
+    std::vector<const vlk::Values*> tables() const
+    {
+        std::vector<const vlk::Values*> tables;
+        for (const vlk::Values& values : configuration_.tables())
+            tables.push_back(&values);
+        return tables;
+    }
+    QString told(const Hit& hit) const
+    {
+        const vlk::Values& values = configuration_.tables()[hit.table];
+        return values.layout().prefix() + values.row(hit.row).path +
+               (hit.part < 0 ? QString() : QString(" %1").arg(hit.part));
+    }
+
+    vlk::Configuration configuration_{vlk::allSettings()};
+    std::vector<std::unique_ptr<QTranslator>> translators_;
+    std::vector<vlk::TextSource> texts_;
+};
+
+QTEST_GUILESS_MAIN(SearchTest)
+#include "tst_search.moc"
