@@ -11,6 +11,8 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 
+#include <numeric>
+
 using This = VLK_Form_Config_Set_Zeta3_Tab_User;
 
 namespace {
@@ -82,6 +84,13 @@ void VLK_Form_Config_Set_Zeta3_Tab_User::afterDefaults()
     }
 }
 
+int VLK_Form_Config_Set_Zeta3_Tab_User::bytesBesideMask() const
+{
+    return std::accumulate(
+        groups_.begin(), groups_.end(), 0,
+        [](int bytes, const vlk::UserParamGroup& group) { return bytes + group.bytesInUse(); });
+}
+
 vlk::UserParamGroup* VLK_Form_Config_Set_Zeta3_Tab_User::groupOf(int bytes)
 {
     for (vlk::UserParamGroup& group : groups_) {
@@ -124,6 +133,7 @@ void VLK_Form_Config_Set_Zeta3_Tab_User::slot_currentIndexChanged_User(int bytes
 {
     if (vlk::UserParamGroup* group = groupOf(bytes))
         group->takeChoice(slot);
+    Q_EMIT bytesBesideMaskChanged();
 }
 
 QString VLK_Form_Config_Set_Zeta3_Tab_User::keyOf(const QString& text) const

@@ -1,6 +1,5 @@
 #include "dataset/user_param_group.h"
 
-#include "dataset/form_config_set_zeta3.h"
 #include "windows/eliding_combobox.h"
 
 #include <QCoreApplication>
@@ -8,6 +7,7 @@
 #include <QGroupBox>
 #include <QLabel>
 
+#include <algorithm>
 #include <utility>
 
 namespace vlk {
@@ -162,20 +162,23 @@ void UserParamGroup::takeChoice(int slot)
     const QString current = box->currentText();
     box->setRememberedText(current);
 
-    const bool wasInUse = !isNone(previous) && previous != reserved_;
-    const bool isInUse = !isNone(current);
-    if (wasInUse != isInUse)
-        VLK_Form_Config_Set_Zeta3::addSize(isInUse ? slots_.bytes : -slots_.bytes);
-
     if (!isNone(previous) && offered_.contains(previous))
         append(previous, box);
-    if (!isInUse)
+    if (isNone(current))
         return;
     for (ElidingComboBox* other : boxes_) {
         const int item = itemOf(other, current);
         if (other != box && other->currentText() != current && item >= 0)
             other->removeItem(item);
     }
+}
+
+int UserParamGroup::bytesInUse() const
+{
+    const auto used = std::count_if(boxes_.begin(), boxes_.end(), [this](const ElidingComboBox* box) {
+        return !isNone(box->currentText()) && box->currentText() != reserved_;
+    });
+    return slots_.bytes * static_cast<int>(used);
 }
 
 } // namespace vlk

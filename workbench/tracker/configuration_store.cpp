@@ -26,7 +26,6 @@ namespace {
 const QString ownModel = QStringLiteral("R-7106");
 // A configuration is some tens of kilobytes; the device has no room for more than this.
 constexpr qint64 largestDocument = qint64(1) << 20;
-constexpr int largestRecord = 512;
 
 struct Refusal
 {
@@ -51,8 +50,7 @@ Refusal check(const ConfigurationValues& values)
 int recordSize(const ConfigurationValues& values)
 {
     const std::string mask = values.text(QStringLiteral("PROTOCOL/ZETA/mask")).toStdString();
-    constexpr int head = 2 + vlk::FieldMask::kBytes;
-    return head + vlk::FieldMask::fromText(mask.empty() ? vlk::kDefaultMaskText : mask).payloadSize();
+    return vlk::FieldMask::fromText(mask.empty() ? vlk::kDefaultMaskText : mask).recordSize();
 }
 
 QByteArray readWhole(const QString& path)
@@ -149,7 +147,7 @@ WriteReport ConfigurationStore::write(const QString& path)
     const Refusal refusal = check(asked);
     if (refusal.reasonKey)
         return refuse(refusal.reasonKey, refusal.detail);
-    if (const int size = recordSize(asked); size > largestRecord)
+    if (const int size = recordSize(asked); size > vlk::kLargestRecord)
         return refuse("wb_refused_record", QString::number(size));
     const QByteArray document = withKeptSections(taken, document_, report.keptSections);
     const ConfigurationValues values(document);
