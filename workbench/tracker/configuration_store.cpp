@@ -142,14 +142,14 @@ WriteReport ConfigurationStore::write(const QString& path)
         return refuse("wb_refused_unreadable", file.errorString());
     if (file.size() > largestDocument)
         return refuse("wb_refused_large", QString::number(file.size()));
-    const QByteArray taken = file.read(largestDocument);
-    const ConfigurationValues asked(taken);
+    report.document = file.read(largestDocument);
+    const ConfigurationValues asked(report.document);
     const Refusal refusal = check(asked);
     if (refusal.reasonKey)
         return refuse(refusal.reasonKey, refusal.detail);
     if (const int size = recordSize(asked); size > vlk::kLargestRecord)
         return refuse("wb_refused_record", QString::number(size));
-    const QByteArray document = withKeptSections(taken, document_, report.keptSections);
+    const QByteArray document = withKeptSections(report.document, document_, report.keptSections);
     const ConfigurationValues values(document);
     if (!saveWhole(backup(), document_) || !saveWhole(current(), document))
         return refuse("wb_refused_memory", folder_);
