@@ -1,12 +1,12 @@
 #include "dataset/data_set_boxes_tab.h"
 
+#include "base/translated.h"
 #include "settings/kinds/mask.h"
 #include "settings/table_layout.h"
 #include "settings/value_text.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QFrame>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -20,11 +20,6 @@ namespace {
 
 // Low, so that the longest list fits into a small window.
 constexpr int kBetweenBoxes = 1;
-
-QString translated(const char* key)
-{
-    return QCoreApplication::translate("vlk", key);
-}
 
 // What the positions of a field hold while its widget is in this state.
 QString stateOf(const MaskField& field, const QWidget* widget)

@@ -13,8 +13,6 @@
 
 #include <numeric>
 
-using This = VLK_Form_Config_Set_Zeta3_Tab_User;
-
 namespace {
 
 QString pathOf(const vlk::UserParamSlots& slots, int slot)
@@ -62,6 +60,7 @@ VLK_Form_Config_Set_Zeta3_Tab_User::VLK_Form_Config_Set_Zeta3_Tab_User(int index
         layout->addWidget(groups_.back().box());
     }
     layout->addStretch();
+    using This = VLK_Form_Config_Set_Zeta3_Tab_User;
     connect(can_, &QPushButton::clicked, this, &This::slot_pressed_Set_CAN);
     connect(modbus_, &QPushButton::clicked, this, &This::slot_pressed_Set_MODBUS);
     This::retranslate();

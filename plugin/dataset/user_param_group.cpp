@@ -1,8 +1,8 @@
 #include "dataset/user_param_group.h"
 
+#include "base/translated.h"
 #include "windows/eliding_combobox.h"
 
-#include <QCoreApplication>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -14,12 +14,7 @@ namespace vlk {
 
 namespace {
 
-constexpr int kColumns = 2;
-
-QString translated(const char* key)
-{
-    return QCoreApplication::translate("vlk", key);
-}
+constexpr int kSlotColumns = 2;
 
 const char* titleOf(int bytes)
 {
@@ -43,7 +38,7 @@ UserParamGroup::UserParamGroup(const UserParamSlots& slots, const std::function<
     auto* grid = new QGridLayout(box_);
     box_->setProperty("byColumns", true);
     box_->setObjectName(QStringLiteral("groupBox_User_%1Byte").arg(slots.bytes));
-    const int rows = (slots.count + kColumns - 1) / kColumns;
+    const int rows = (slots.count + kSlotColumns - 1) / kSlotColumns;
     for (int slot = 1; slot <= slots.count; ++slot) {
         auto* box = new ElidingComboBox;
         box->setObjectName(QStringLiteral("comboBox_User_%1Byte_%2").arg(slots.bytes).arg(slot));

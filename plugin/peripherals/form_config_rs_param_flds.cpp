@@ -19,18 +19,18 @@
 namespace {
 
 // The columns of a row, behind its first box; the captions are those of the settings.
-struct Column
+struct SensorColumn
 {
     const char* widget;
     const char* caption;
     bool isFlag;
 };
-constexpr Column kColumns[] = {
+constexpr SensorColumn kSensorColumns[] = {
     {"spinBox_Addres_%1", "cfgt6_212", false},       {"spinBox_Response_%1", "cfgt6_213", false},
     {"checkBox_TrhldMoveOff_%1", "cfgt6_214", true}, {"checkBox_Filter_%1", "cfgt6_215", true},
     {"spinBox_Aver_%1", "cfgt6_216", false},         {"spinBox_Kalman_%1", "cfgt6_217", false},
 };
-constexpr int kLineColumn = std::size(kColumns) + 1;
+constexpr int kLineColumn = std::size(kSensorColumns) + 1;
 constexpr int kFuelColumn = kLineColumn + 1;
 
 constexpr int kLevelCode = 1; // kind of the sensors' values in the calibration dialog
@@ -100,7 +100,7 @@ void VLK_Form_Config_RS_Param_Flds_RS485::addRow(int sensor)
 {
     table_->addWidget(vlk::numberedWidget<QCheckBox>("checkBox_Use_%1", sensor), sensor, 0);
     int column = 0;
-    for (const Column& cell : kColumns) {
+    for (const SensorColumn& cell : kSensorColumns) {
         QWidget* input = cell.isFlag
                              ? static_cast<QWidget*>(vlk::numberedWidget<QCheckBox>(cell.widget, sensor))
                              : vlk::numberedWidget<QSpinBox>(cell.widget, sensor);
@@ -146,7 +146,7 @@ void VLK_Form_Config_RS_Param_Flds_RS485::retranslate()
 {
     heads_[0]->setText(tr("cfgt6_219"));
     for (int column = 1; column < kLineColumn; ++column)
-        heads_[column]->setText(vlk::captionParts(kColumns[column - 1].caption).before);
+        heads_[column]->setText(vlk::captionParts(kSensorColumns[column - 1].caption).before);
     heads_.last()->setText(tr("cfgt6_218"));
     // The heads of the columns say what the boxes of a row are.
     for (int sensor = 1; sensor <= vlk::kRsFuelSensors; ++sensor) {

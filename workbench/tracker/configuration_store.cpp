@@ -14,7 +14,7 @@
 Q_LOGGING_CATEGORY(lcTrackerStore, "vlk.tracker.store")
 
 // In no namespace, because the macro declares a function there.
-static void initResources()
+static void initTrackerResources()
 {
     Q_INIT_RESOURCE(tracker);
 }
@@ -116,7 +116,7 @@ bool saveWhole(const QString& path, const QByteArray& document)
 
 ConfigurationStore::ConfigurationStore(const QString& folder) : folder_(folder)
 {
-    initResources();
+    initTrackerResources();
     if (!QDir().mkpath(folder_))
         qCWarning(lcTrackerStore) << "cannot make the folder" << folder_;
     for (const QString& path : {current(), backup(), QStringLiteral(":/tracker/factory.xml")}) {

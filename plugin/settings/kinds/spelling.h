@@ -2,6 +2,8 @@
 
 // How the kinds of rows take texts apart and put them together.
 
+#include "base/translated.h"
+
 #include <QString>
 
 #include <algorithm>
@@ -30,7 +32,6 @@ int digitAt(const QString& text, std::size_t position);
 bool isWholeNumber(const QString& text);
 
 // For people, in the present language.
-QString translated(const char* key);
 QString yesNo(bool yes);
 QString withUnit(const QString& number, const char* unit);
 
