@@ -13,7 +13,7 @@ namespace vlk {
 namespace {
 
 // The style itself measures the ink of the letters, which is less than what they take.
-constexpr int kMargin = 4;
+constexpr int kBesideTitle = 4;
 constexpr int kDark = 128; // lightness of a window
 
 QFont titleFont(QFont font)
@@ -56,7 +56,7 @@ QRect TitleStyle::subControlRect(ComplexControl control, const QStyleOptionCompl
     titled.fontMetrics = QFontMetrics(titleFont(widget ? widget->font() : QApplication::font()));
     QRect rect = QProxyStyle::subControlRect(control, &titled, part, widget);
     if (part == SC_GroupBoxLabel)
-        rect.setWidth(titled.fontMetrics.size(Qt::TextShowMnemonic, titled.text).width() + kMargin);
+        rect.setWidth(titled.fontMetrics.size(Qt::TextShowMnemonic, titled.text).width() + kBesideTitle);
     return rect;
 }
 
@@ -68,7 +68,7 @@ QSize TitleStyle::sizeFromContents(ContentsType type, const QStyleOption* option
     if (type != CT_GroupBox || !group)
         return own;
     const QRect title = subControlRect(CC_GroupBox, group, SC_GroupBoxLabel, widget);
-    return own.expandedTo({title.width() + kMargin, 0});
+    return own.expandedTo({title.width() + kBesideTitle, 0});
 }
 
 void outlineOnDark(QStyle::PrimitiveElement element, const QStyleOption& option, QPainter& painter)

@@ -2,7 +2,7 @@
 
 // The mask of a record: which fields it holds. In a record it is 32 bytes, field i at bit (7 - i mod 8) of
 // byte i div 8; the last bit of the last byte belongs to no field. In configurations and telemetry files it
-// is a text of 255 characters "0" and "1".
+// is a text of 255 characters "0" and "1". How many bytes a record takes follows from its mask alone.
 
 #include "catalogue/field_catalogue.h"
 
@@ -14,6 +14,7 @@ class FieldMask
 {
 public:
     static constexpr int kBytes = 32;
+    static constexpr int kHeadBytes = 2 + kBytes; // of a record, in front of its fields: type, version, mask
     using Bytes = std::array<std::uint8_t, kBytes>;
 
     constexpr FieldMask() = default;
@@ -48,13 +49,17 @@ public:
             static_cast<std::uint8_t>(on ? bytes_[field / 8] | bit : bytes_[field / 8] & ~bit);
     }
 
-    // Bytes that a record with this mask takes behind the mask; of the earlier format with its field count.
+    // Bytes that a record with this mask takes behind its head; of the earlier format with its field count.
     constexpr int payloadSize(int fieldCount = kFieldCount) const
     {
         int size = 0;
         for (int i = 0; i < fieldCount; ++i)
             size += test(i) ? kFields[i].width : 0;
         return size;
+    }
+    constexpr int recordSize(int fieldCount = kFieldCount) const
+    {
+        return kHeadBytes + payloadSize(fieldCount);
     }
 
     constexpr const Bytes& bytes() const { return bytes_; }
@@ -63,6 +68,9 @@ public:
 private:
     Bytes bytes_{};
 };
+
+// Bytes of the largest record that a tracker stores.
+inline constexpr int kLargestRecord = 512;
 
 // What a tracker records when its configuration does not say: 69 fields of protocol 1.0, 53 more of 2.0 and
 // the rest of 3.0.

@@ -1,13 +1,12 @@
 #include "dataset/data_set_boxes_tab.h"
 
-#include "dataset/form_config_set_zeta3.h"
+#include "base/translated.h"
 #include "settings/kinds/mask.h"
 #include "settings/table_layout.h"
 #include "settings/value_text.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QFrame>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -22,16 +21,11 @@ namespace {
 // Low, so that the longest list fits into a small window.
 constexpr int kBetweenBoxes = 1;
 
-QString translated(const char* key)
-{
-    return QCoreApplication::translate("vlk", key);
-}
-
 // What the positions of a field hold while its widget is in this state.
 QString stateOf(const MaskField& field, const QWidget* widget)
 {
     if (const auto* list = qobject_cast<const QComboBox*>(widget))
-        return list->currentData().toString();
+        return list->currentData().toString().leftJustified(field.count, QLatin1Char('0'));
     const auto* box = qobject_cast<const QCheckBox*>(widget);
     return QString(field.count, QLatin1Char(box && box->isChecked() ? '1' : '0'));
 }
@@ -128,20 +122,19 @@ void DataSetBoxesTab::makeBox(const DataSetBox& row, Group& group)
     if (row.field.items.empty()) {
         auto* box = new QCheckBox(group.widget);
         box->setChecked(row.field.always);
-        connect(box, &QCheckBox::toggled, this, [this, box] { slot_stateChanged(box); });
+        connect(box, &QCheckBox::toggled, this, &DataSetBoxesTab::maskChanged);
         widget = box;
     } else {
         auto* list = new QComboBox(group.widget);
         for (const Code& item : row.field.items)
             list->addItem(QString(), QString::fromLatin1(item.code));
-        connect(list, qOverload<int>(&QComboBox::currentIndexChanged), this,
-                [this, list] { slot_stateChanged(list); });
+        connect(list, qOverload<int>(&QComboBox::currentIndexChanged), this, &DataSetBoxesTab::maskChanged);
         widget = list;
     }
     widget->setObjectName(numberedName(row.field.widget, row.field.number));
     widget->setVisible(row.shown);
     place(row, widget, group);
-    boxes_.push_back({&row, widget, stateOf(row.field, widget)});
+    boxes_.push_back({&row, widget});
 }
 
 void DataSetBoxesTab::place(const DataSetBox& row, QWidget* widget, Group& group)
@@ -197,26 +190,14 @@ QWidget* DataSetBoxesTab::box(const char* name) const
     return findChild<QWidget*>(QString::fromLatin1(name));
 }
 
-void DataSetBoxesTab::slot_stateChanged(QWidget* box)
-{
-    const auto changed =
-        std::find_if(boxes_.begin(), boxes_.end(), [box](const Box& one) { return one.widget == box; });
-    if (changed == boxes_.end())
-        return;
-    const MaskField& field = changed->row->field;
-    const int before = bytesOf(field, changed->part.toStdString());
-    changed->part = stateOf(field, box);
-    VLK_Form_Config_Set_Zeta3::addSize(bytesOf(field, changed->part.toStdString()) - before);
-    Q_EMIT maskChanged();
-}
-
 void DataSetBoxesTab::fill(MaskVersion version, QString& mask) const
 {
     for (const Box& box : boxes_) {
         const MaskField& field = box.row->field;
+        const QString part = stateOf(field, box.widget);
         for (int i = 0; i < field.count; ++i) {
             if (versionAt(field, i) == version)
-                mask.replace(field.positions[static_cast<std::size_t>(i)], 1, box.part[i]);
+                mask.replace(field.positions[static_cast<std::size_t>(i)], 1, part[i]);
         }
     }
 }

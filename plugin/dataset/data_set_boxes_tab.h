@@ -1,8 +1,7 @@
 #pragma once
 
 // A tab of the data-set page whose boxes come from the table (settings/data_set_boxes.h): it makes them,
-// with their object names, in their groups, and carries out every operation for them. Checking a box adds the
-// bytes of its fields to the running size of the page.
+// with their object names, in their groups, and carries out every operation for them.
 
 #include "dataset/form_config_set_zeta3_tab.h"
 #include "settings/data_set_boxes.h"
@@ -33,10 +32,6 @@ public:
     void enableFormat20(bool on) override { enable(MaskVersion::zeta20, on); }
     void enableFormat30(bool on) override { enable(MaskVersion::zeta30, on); }
 
-public Q_SLOTS:
-    // Takes over the state that the user gave a box or list.
-    void slot_stateChanged(QWidget* box);
-
 protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -48,7 +43,6 @@ private:
     {
         const DataSetBox* row;
         QWidget* widget;
-        QString part; // what its positions hold
     };
     struct Group
     {

@@ -1,6 +1,6 @@
 #include "dataset/data_set_tabs.h"
 
-#include "catalogue/field_catalogue.h"
+#include "catalogue/field_mask.h"
 #include "windows/tab_menu.h"
 
 namespace vlk {
@@ -20,7 +20,9 @@ void DataSetTabs::add(int place, Tab* tab)
     connect(tab, &Tab::maskChanged, this, [this] {
         if (edited)
             edited();
+        Q_EMIT recordSizeChanged();
     });
+    connect(tab, &Tab::bytesBesideMaskChanged, this, &DataSetTabs::recordSizeChanged);
 }
 
 void DataSetTabs::showMask(const QString& mask)
@@ -41,6 +43,13 @@ QString DataSetTabs::mask() const
     grow(kFieldCount);
     forEach([&](Tab& tab) { tab.fillMask30(mask); });
     return mask;
+}
+
+int DataSetTabs::recordSize() const
+{
+    int size = FieldMask::fromText(mask().toStdString()).recordSize();
+    forEach([&](const Tab& tab) { size += tab.bytesBesideMask(); });
+    return size;
 }
 
 void DataSetTabs::retranslate()

@@ -39,11 +39,16 @@ public:
 
     void showMask(const QString& mask) override;
     QString mask() const override;
+    // Bytes of a stored record, which keeps its fields whatever the version of the protocol.
+    int recordSize() const;
 
     void retranslate();
     void setTitle(VLK_Form_Config_Set_Zeta3_Tab* tab, const QString& title);
     // Has an entry for each tab, a VLK_MenuAction.
     TabMenu& menu() const { return *menu_; }
+
+Q_SIGNALS:
+    void recordSizeChanged();
 
 private:
     std::array<VLK_Form_Config_Set_Zeta3_Tab*, kPlaces> places_{};

@@ -2,6 +2,7 @@
 
 #include "ui_VLK_Designer_Form_Config_Set_Zeta3.h"
 
+#include "catalogue/field_mask.h"
 #include "dataset/data_set_tabs.h"
 #include "settings/data_set_settings.h"
 #include "windows/form_param_about.h"
@@ -13,14 +14,8 @@
 
 namespace {
 
-// Of a stored record: its frame and the fields that every record has.
-constexpr int kSmallestSize = 44;
-constexpr int kLargestSize = 512;
-
 const QColor kAlarm(255, 0, 0);
 const QColor kNoAlarm(120, 120, 120);
-
-VLK_Form_Config_Set_Zeta3* thePage = nullptr;
 
 void colourText(QWidget* widget, QPalette palette, const QColor& colour)
 {
@@ -34,10 +29,8 @@ using Tab = VLK_Form_Config_Set_Zeta3_Tab;
 
 VLK_Form_Config_Set_Zeta3::VLK_Form_Config_Set_Zeta3(QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::VLK_Designer_Form_Config_Set_Zeta3>()),
-      help_(std::make_unique<VLK_Form_Param_About>()), settings_(vlk::kDataSetSettings, "cfgt2_001"),
-      size_(kSmallestSize)
+      help_(std::make_unique<VLK_Form_Param_About>()), settings_(vlk::kDataSetSettings, "cfgt2_001")
 {
-    thePage = this;
     ui_->setupUi(this);
     QPalette alarm = ui_->label_MaxSize_Alarm->palette();
     alarm.setColor(QPalette::WindowText, kAlarm);
@@ -47,15 +40,12 @@ VLK_Form_Config_Set_Zeta3::VLK_Form_Config_Set_Zeta3(QWidget* parent)
             &VLK_Form_Config_Set_Zeta3::slot_currentIndexChanged_FlashFormat);
     connect(ui_->toolButton_Help, &QToolButton::clicked, this,
             &VLK_Form_Config_Set_Zeta3::slot_pressed_BtnHelp);
+    connect(&tabs(), &vlk::DataSetTabs::recordSizeChanged, this, &VLK_Form_Config_Set_Zeta3::checkSize);
     connect(tabs().menu().menu(), &QMenu::triggered, this, &VLK_Form_Config_Set_Zeta3::slot_triggered_Menu);
     checkSize();
 }
 
-VLK_Form_Config_Set_Zeta3::~VLK_Form_Config_Set_Zeta3()
-{
-    if (thePage == this)
-        thePage = nullptr;
-}
+VLK_Form_Config_Set_Zeta3::~VLK_Form_Config_Set_Zeta3() = default;
 
 void VLK_Form_Config_Set_Zeta3::finish()
 {
@@ -126,15 +116,6 @@ void VLK_Form_Config_Set_Zeta3::saveUserParams(CXmlSection* root)
     tabs().forEach([&](Tab& tab) { tab.saveUserParams(root); });
 }
 
-void VLK_Form_Config_Set_Zeta3::addSize(int bytes)
-{
-    if (!thePage)
-        return;
-    thePage->size_ += bytes;
-    if (!thePage->changing_)
-        thePage->checkSize();
-}
-
 void VLK_Form_Config_Set_Zeta3::change(const std::function<void()>& boxes)
 {
     changing_ = true;
@@ -145,7 +126,10 @@ void VLK_Form_Config_Set_Zeta3::change(const std::function<void()>& boxes)
 
 void VLK_Form_Config_Set_Zeta3::checkSize()
 {
-    const bool excess = size_ > kLargestSize;
+    if (changing_)
+        return;
+    const int size = tabs().recordSize();
+    const bool excess = size > vlk::kLargestRecord;
     ui_->label_Size_Value->setPalette({});
     if (excess)
         colourText(ui_->label_Size_Value, palette(), kAlarm);
@@ -155,7 +139,7 @@ void VLK_Form_Config_Set_Zeta3::checkSize()
         excess_ = excess;
         Q_EMIT signal_Excess_Size(excess);
     }
-    ui_->label_Size_Value->setText(QString::number(size_));
+    ui_->label_Size_Value->setText(QString::number(size));
 }
 
 void VLK_Form_Config_Set_Zeta3::slot_currentIndexChanged_FlashFormat(int index)

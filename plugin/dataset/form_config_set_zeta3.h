@@ -4,9 +4,9 @@
 // sends in a record. Its settings are those of the section PROTOCOL (settings/data_set_settings.h). Which
 // tabs there are says the page of the tracker model, which derives from this one (form_config_zeta3.h).
 //
-// The page counts the bytes of a stored record: every checked box adds its fields, on show or not, whatever
-// the version. A record of more than 512 bytes raises an alarm, and signal_Excess_Size tells when it begins
-// and ends.
+// The page tells the size of a stored record, which follows from its mask: every checked box counts, on show
+// or not, whatever the version. A record above vlk::kLargestRecord raises an alarm, and signal_Excess_Size
+// tells when it begins and ends.
 
 #include "windows/binder/page_settings.h"
 
@@ -52,9 +52,9 @@ public:
     void loadUserParams(CXmlSection* root);
     void saveUserParams(CXmlSection* root);
 
-    // Change the running size of the page that there is, and do nothing while there is none.
-    static void addSize(int bytes);
-    static void subSize(int bytes) { addSize(-bytes); }
+    // Other programs know them by these names. The size follows from the mask, so they only look at it again.
+    void addSize(int /*bytes*/) { checkSize(); }
+    void subSize(int /*bytes*/) { checkSize(); }
 
 Q_SIGNALS:
     // Sent when the record becomes too large, and when it is small enough again.
@@ -75,12 +75,12 @@ protected:
 private:
     // Runs what changes many boxes; the size is looked at when all of them have changed.
     void change(const std::function<void()>& boxes);
+    // Shows the size of the record, once no change is under way.
     void checkSize();
 
     std::unique_ptr<Ui::VLK_Designer_Form_Config_Set_Zeta3> ui_;
     std::unique_ptr<VLK_Form_Param_About> help_;
     vlk::PageSettings settings_;
-    int size_;
     bool excess_ = false;
     bool changing_ = false;
 };

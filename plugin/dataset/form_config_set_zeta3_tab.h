@@ -37,6 +37,9 @@ public:
     virtual void enableFormat20(bool /*on*/) {}
     virtual void enableFormat30(bool /*on*/) {}
 
+    // Bytes that the tab adds to a record beside the fields of its mask.
+    virtual int bytesBesideMask() const { return 0; }
+
     // A form offers a value for the free slots of a record, or withdraws it.
     virtual void userParamAdded(const QString& /*code*/, const QString& /*name*/, const QString& /*third*/,
                                 int /*size*/)
@@ -58,8 +61,9 @@ public:
     void setTitle(const QString& title) { title_ = title; }
 
 Q_SIGNALS:
-    // The user has changed what fillMask gives.
+    // What fillMask gives has changed, and what bytesBesideMask gives.
     void maskChanged();
+    void bytesBesideMaskChanged();
 
 private:
     int index_;

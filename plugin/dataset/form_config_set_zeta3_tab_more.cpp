@@ -4,8 +4,3 @@ VLK_Form_Config_Set_Zeta3_Tab_More::VLK_Form_Config_Set_Zeta3_Tab_More(int index
     : DataSetBoxesTab(vlk::DataSetTab::more, index, "cfgt2f_124", parent)
 {
 }
-
-void VLK_Form_Config_Set_Zeta3_Tab_More::slot_currentIndexChanged_More_Tires(int /*index*/)
-{
-    slot_stateChanged(box("comboBox_Tires"));
-}

@@ -12,5 +12,6 @@ public:
     explicit VLK_Form_Config_Set_Zeta3_Tab_More(int index, QWidget* parent = nullptr);
 
 public Q_SLOTS:
-    void slot_currentIndexChanged_More_Tires(int index);
+    // Other programs know it by this name; the choice itself does all.
+    void slot_currentIndexChanged_More_Tires(int) {}
 };

@@ -9,13 +9,13 @@
 
 namespace {
 
-struct Column
+struct ListColumn
 {
     const char* heading;
     int width; // 0: what is left
 };
 
-constexpr Column kColumns[] = {
+constexpr ListColumn kListColumns[] = {
     {"abbr_047", 20}, {"cfgt1_106", 100}, {"cfgt1_029", 140}, {"cfgt1_031", 140}, {"cfgt1_033", 0},
 };
 
@@ -31,11 +31,11 @@ VLK_FormAutoApnListNew::VLK_FormAutoApnListNew(QWidget* parent)
     // The widths are fixed: what is too long for one line takes two.
     tree->header()->setTextElideMode(Qt::ElideNone);
     tree->header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter | Qt::Alignment(Qt::TextWordWrap));
-    tree->header()->setMinimumSectionSize(kColumns[0].width);
+    tree->header()->setMinimumSectionSize(kListColumns[0].width);
     tree->header()->setSectionResizeMode(QHeaderView::Fixed);
-    for (std::size_t column = 0; column < std::size(kColumns); ++column) {
-        if (kColumns[column].width > 0)
-            tree->setColumnWidth(static_cast<int>(column), kColumns[column].width);
+    for (std::size_t column = 0; column < std::size(kListColumns); ++column) {
+        if (kListColumns[column].width > 0)
+            tree->setColumnWidth(static_cast<int>(column), kListColumns[column].width);
     }
     connect(ui_->pushButton_ListApn_Close, &QPushButton::clicked, this, &QDialog::close);
     connect(tree, &QTreeWidget::itemDoubleClicked, this,
@@ -54,8 +54,8 @@ void VLK_FormAutoApnListNew::retranslate()
 {
     ui_->retranslateUi(this);
     QTreeWidgetItem* header = ui_->treeWidget_ListApn->headerItem();
-    for (std::size_t column = 0; column < std::size(kColumns); ++column)
-        header->setText(static_cast<int>(column), tr(kColumns[column].heading));
+    for (std::size_t column = 0; column < std::size(kListColumns); ++column)
+        header->setText(static_cast<int>(column), tr(kListColumns[column].heading));
     makeRoomForHeadings();
 }
 
@@ -64,7 +64,7 @@ void VLK_FormAutoApnListNew::makeRoomForHeadings()
     QHeaderView* header = ui_->treeWidget_ListApn->header();
     const int margin = 2 * header->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header);
     int height = 0;
-    for (const Column& column : kColumns) {
+    for (const ListColumn& column : kListColumns) {
         const int width = column.width > 0 ? column.width - margin : QWIDGETSIZE_MAX;
         const QRect text = header->fontMetrics().boundingRect(QRect(0, 0, width, QWIDGETSIZE_MAX),
                                                               Qt::TextWordWrap, tr(column.heading));
@@ -76,7 +76,7 @@ void VLK_FormAutoApnListNew::makeRoomForHeadings()
     QTreeWidgetItem* item = ui_->treeWidget_ListApn->headerItem();
     QFont font = header->font();
     constexpr double kSmallest = 6;
-    while (QFontMetrics(font).horizontalAdvance(item->text(0)) > kColumns[0].width - 2 &&
+    while (QFontMetrics(font).horizontalAdvance(item->text(0)) > kListColumns[0].width - 2 &&
            font.pointSizeF() > kSmallest)
         font.setPointSizeF(font.pointSizeF() - 0.5);
     item->setFont(0, font);

@@ -13,19 +13,19 @@
 
 namespace {
 
-using Form = Ui::VLK_Designer_Form_Lines_In_Settings;
+using LineForm = Ui::VLK_Designer_Form_Lines_In_Settings;
 
 struct UsePage
 {
     const char* code;
-    QWidget* Form::*page;
+    QWidget* LineForm::*page;
     int height;
 };
 
 constexpr UsePage kPages[] = {
-    {"NU", &Form::page_NU, 10},   {"NS-", &Form::page_NB, 60},  {"NB-", &Form::page_NB, 60},
-    {"NS+", &Form::page_AIN, 90}, {"NB+", &Form::page_AIN, 90}, {"PLS", &Form::page_PLS, 180},
-    {"FRQ", &Form::page_FRQ, 60}, {"AIN", &Form::page_UI, 60},  {"TAHO", &Form::page_TAHO, 60},
+    {"NU", &LineForm::page_NU, 10},   {"NS-", &LineForm::page_NB, 60},  {"NB-", &LineForm::page_NB, 60},
+    {"NS+", &LineForm::page_AIN, 90}, {"NB+", &LineForm::page_AIN, 90}, {"PLS", &LineForm::page_PLS, 180},
+    {"FRQ", &LineForm::page_FRQ, 60}, {"AIN", &LineForm::page_UI, 60},  {"TAHO", &LineForm::page_TAHO, 60},
 };
 constexpr int kHeightWithoutLevels = 60;
 
@@ -39,7 +39,7 @@ const UsePage* pageOf(const QString& code)
 } // namespace
 
 VLK_Form_Lines_In_Settings::VLK_Form_Lines_In_Settings(QWidget* parent)
-    : QWidget(parent), ui_(std::make_unique<Form>())
+    : QWidget(parent), ui_(std::make_unique<LineForm>())
 {
     ui_->setupUi(this);
     using This = VLK_Form_Lines_In_Settings;

@@ -14,7 +14,6 @@
 
 namespace {
 
-using This = VLK_Form_Config_Bluetooth_Device_Type;
 using vlk::BleSensorForm;
 
 constexpr int kHeightWithoutForm = 10;
@@ -74,6 +73,7 @@ VLK_Form_Config_Bluetooth_Device_Type::~VLK_Form_Config_Bluetooth_Device_Type() 
 
 void VLK_Form_Config_Bluetooth_Device_Type::addForm(BleSensorForm* form)
 {
+    using This = VLK_Form_Config_Bluetooth_Device_Type;
     auto* page = new QWidget;
     page->setObjectName(QString::fromLatin1(form->type().page));
     auto* layout = new QVBoxLayout(page);
@@ -89,6 +89,7 @@ void VLK_Form_Config_Bluetooth_Device_Type::addForm(BleSensorForm* form)
 
 void VLK_Form_Config_Bluetooth_Device_Type::connectNumbers(BleSensorForm* form)
 {
+    using This = VLK_Form_Config_Bluetooth_Device_Type;
     if (auto* fuel = qobject_cast<VLK_Form_Config_Ble_DevType_FLS*>(form))
         connect(fuel, &VLK_Form_Config_Ble_DevType_FLS::signal_ChangeIdx_Dev_FS, this,
                 &This::slot_ChangeIdx_Dev_FS);
@@ -114,6 +115,7 @@ void VLK_Form_Config_Bluetooth_Device_Type::connectNumbers(BleSensorForm* form)
 
 void VLK_Form_Config_Bluetooth_Device_Type::connectUniversal()
 {
+    using This = VLK_Form_Config_Bluetooth_Device_Type;
     using Uni = VLK_Form_Config_Ble_DevType_Uni;
     for (BleSensorForm* form : forms_) {
         if (auto* universal = qobject_cast<Uni*>(form))

@@ -3,7 +3,7 @@
 // Finds settings by words: of their caption, the titles above it, their value, their key and what else they
 // could be, in the language on show and in another one. Case, "ё" and the order of words do not count.
 
-#include "settings/text_source.h"
+#include "base/translated.h"
 #include "settings/values.h"
 
 #include <QString>

@@ -1,8 +1,8 @@
 #pragma once
 
-// The boxes of the data set: each chooses one or several fields of the record, by their positions in the mask
-// (field_catalogue.h). Tables: the groups of boxes with their places, and the boxes in the order of the tabs.
-// What a box adds to a record is the width of its fields in the catalogue.
+// The boxes of the data set: each chooses one or several fields of the record, named by their elements
+// (field_catalogue.h); a name that the catalogue lacks does not compile. Tables: the groups of boxes with
+// their places, and the boxes in the order of the tabs.
 //
 // A box that this tracker does not show counts like any other: it keeps what a file says of it.
 
@@ -53,48 +53,39 @@ struct DataSetGroup
     bool inColumns = false;
 };
 
-// Bytes that a field of the mask adds to a record where `part` is what its positions hold.
-constexpr int bytesOf(const MaskField& field, std::string_view part)
-{
-    int bytes = 0;
-    for (std::size_t i = 0; i < field.count && i < part.size(); ++i)
-        bytes += part[i] == '1' ? kFields[field.positions[i]].width : 0;
-    return bytes;
-}
-
 namespace data_set {
 
-constexpr MaskField fieldOf(const char* widget, std::initializer_list<int> positions, const char* caption)
+constexpr DataSetBox box(const char* widget, std::initializer_list<int> fields, const char* caption)
 {
-    MaskField field{.widget = widget, .caption = caption};
-    for (const int position : positions)
-        field.positions[field.count++] = static_cast<std::uint8_t>(position);
-    return field;
+    DataSetBox made{.field = {.widget = widget, .caption = caption}};
+    for (const int field : fields)
+        made.field.positions[made.field.count++] = static_cast<std::uint8_t>(field);
+    return made;
 }
 
-constexpr DataSetBox box(const char* widget, int position, const char* caption)
+constexpr DataSetBox box(const char* widget, int field, const char* caption)
 {
-    return {.field = fieldOf(widget, {position}, caption)};
+    return box(widget, std::initializer_list<int>{field}, caption);
 }
 
 // Every record has it.
-constexpr DataSetBox always(const char* widget, int position, const char* caption)
+constexpr DataSetBox always(const char* widget, int field, const char* caption)
 {
-    DataSetBox made = box(widget, position, caption);
+    DataSetBox made = box(widget, field, caption);
     made.field.always = true;
     return made;
 }
 
-// Boxes that differ in their numbers, `from` and on, at positions that follow each other. `shown`: the last
+// Boxes that differ in their numbers, `from` and on, with fields that follow each other. `shown`: the last
 // number on show.
 template <int count>
-constexpr std::array<DataSetBox, count> boxes(const char* widget, int from, int position, const char* caption,
-                                              const char* format, int shown = 0)
+constexpr std::array<DataSetBox, count> boxes(const char* widget, int from, int firstField,
+                                              const char* caption, const char* format, int shown = 0)
 {
     std::array<DataSetBox, count> all{};
     for (int i = 0; i < count; ++i) {
         DataSetBox& made = all[static_cast<std::size_t>(i)];
-        made.field = fieldOf(widget, {position + i}, caption);
+        made = box(widget, firstField + i, caption);
         made.field.format = format;
         made.field.number = static_cast<std::uint8_t>(from + i);
         made.shown = from + i <= shown;
@@ -102,12 +93,12 @@ constexpr std::array<DataSetBox, count> boxes(const char* widget, int from, int 
     return all;
 }
 
-// With a second field, in a later part of the mask, that either of the two positions switches on.
+// With a second field each, in a later part of the mask; either of the two switches the box on.
 template <std::size_t count>
-constexpr std::array<DataSetBox, count> orAt(std::array<DataSetBox, count> all, int position)
+constexpr std::array<DataSetBox, count> orAt(std::array<DataSetBox, count> all, int firstField)
 {
     for (DataSetBox& made : all) {
-        made.field.positions[made.field.count++] = static_cast<std::uint8_t>(position++);
+        made.field.positions[made.field.count++] = static_cast<std::uint8_t>(firstField++);
         made.field.anyReads = true;
     }
     return all;
@@ -155,7 +146,9 @@ inline constexpr Code kTyreItems[] = {
 
 constexpr DataSetBox tyres()
 {
-    DataSetBox list{.field = fieldOf("comboBox_Tires", {93, 94, 95, 96}, "cfgt2f_127")};
+    DataSetBox list =
+        box("comboBox_Tires",
+            {field("TiresNum1"), field("TiresNum3"), field("TiresNum7"), field("TiresNum15")}, "cfgt2f_127");
     list.field.items = kTyreItems;
     return list;
 }
@@ -187,76 +180,113 @@ inline constexpr DataSetGroup kDataSetGroups[] = {
     {"groupBox_Tires", "cfgt2f_127", 6, 0, 1, DataSetTab::more},
 };
 
+// clang-format off
 inline constexpr auto kDataSetBoxes = [] {
     using namespace data_set;
     using enum DataSetTab;
     return tables::join(
-        in(main, "groupBox_Main", always("checkBox_NumPage", 0, "cfgt2f_003"),
-           always("checkBox_Code", 1, "cfgt2f_004"), always("checkBox_Time", 2, "cfgt2f_005"),
-           box("checkBox_State", 3, "cfgt2f_006"), box("checkBox_State_2", 122, "cfgt2f_007"),
-           box("checkBox_Module", 4, "cfgt2f_008"), box("checkBox_Module_2", 5, "cfgt2f_009"),
-           box("checkBox_Module_3", 123, "cfgt2f_010"), box("checkBox_GSM", 6, "cfgt2f_011"),
-           box("checkBox_GSM_State", 124, "cfgt2f_012"), box("checkBox_StateOut", 30, "cfgt2f_013"),
-           boxes<1>("checkBox_StateOut_%1", 2, 31, "cfgt2f_013", "%1 %2"),
-           box("checkBox_StateIn", 28, "cfgt2f_014"),
-           boxes<1>("checkBox_StateIn_%1", 2, 29, "cfgt2f_014", "%1 %2"),
-           boxes<1>("checkBox_StateIn_%1", 3, 125, "cfgt2f_014", "%1 %2"),
-           box("checkBox_Power", 18, "cfgt2f_015").hidden(), box("checkBox_Reserv", 19, "cfgt2f_156")),
-        hidden(main, "groupBox_Imp", boxes<2>("checkBox_StateIn_Imp_%1", 1, 32, "cfgt2f_016", "%1 %2"),
-               boxes<6>("checkBox_StateIn_Imp_%1", 3, 126, "cfgt2f_016", "%1 %2")),
-        in(main, "groupBox_Ain", boxes<2>("checkBox_StateU_Ain_%1", 1, 20, "cfgt2f_023", "%1 AIN%2"),
-           boxes<1>("checkBox_StateU_Ain_%1", 3, 22, "cfgt2f_023", "%1 AIN%2", 3),
-           boxes<5>("checkBox_StateU_Ain_%1", 4, 23, "cfgt2f_023", "%1 AIN%2")),
-        hidden(main, "groupBox_Frequency", boxes<2>("checkBox_Frequency_%1", 1, 34, "cfgt2f_017", "%1 %2"),
-               boxes<6>("checkBox_Frequency_%1", 3, 132, "cfgt2f_017", "%1 %2")),
-        hidden(main, "groupBox_Motochas", box("checkBox_Motochas", 36, "cfgt2f_018"),
-               box("checkBox_Motochas_2", 205, "cfgt2f_019"), box("checkBox_Motochas_3", 204, "cfgt2f_020")),
-        in(main, "groupBox_Temp", boxes<8>("checkBox_Temp_%1", 1, 44, "cfgt2f_022", "%1 T%2", 4)),
+        in(main, "groupBox_Main",
+            always("checkBox_NumPage",       field("NumPage"),      "cfgt2f_003"),
+            always("checkBox_Code",          field("Code"),         "cfgt2f_004"),
+            always("checkBox_Time",          field("Time"),         "cfgt2f_005"),
+            box("checkBox_State",            field("State"),        "cfgt2f_006"),   // Operating mode and power source
+            box("checkBox_State_2",          field("State2"),       "cfgt2f_007"),   // Case opening and complex events
+            box("checkBox_Module",           field("Module1"),      "cfgt2f_008"),   // GSM, navigation, SIM card, engine
+            box("checkBox_Module_2",         field("Module2"),      "cfgt2f_009"),   // Jamming, accelerometer, Bluetooth, Wi-Fi
+            box("checkBox_Module_3",         field("Module3"),      "cfgt2f_010"),   // Iridium and additional modem
+            box("checkBox_GSM",              field("GSM"),          "cfgt2f_011"),
+            box("checkBox_GSM_State",        field("StateCnct"),    "cfgt2f_012"),   // Connections to the servers
+            box("checkBox_StateOut",         field("StateOut1"),    "cfgt2f_013"),
+            boxes<1>("checkBox_StateOut_%1", 2, field("StateOut2"), "cfgt2f_013", "%1 %2"),
+            box("checkBox_StateIn",          field("StateIn1"),     "cfgt2f_014"),
+            boxes<1>("checkBox_StateIn_%1",  2, field("StateIn2"),  "cfgt2f_014", "%1 %2"),
+            boxes<1>("checkBox_StateIn_%1",  3, field("StateIn3"),  "cfgt2f_014", "%1 %2"),
+            box("checkBox_Power",            field("Power"),        "cfgt2f_015").hidden(),
+            box("checkBox_Reserv",           field("Reserv"),       "cfgt2f_156")),  // Backup battery voltage
+        hidden(main, "groupBox_Imp",
+            boxes<2>("checkBox_StateIn_Imp_%1", 1, field("StateIn_Imp1"), "cfgt2f_016", "%1 %2"),
+            boxes<6>("checkBox_StateIn_Imp_%1", 3, field("StateIn_Imp3"), "cfgt2f_016", "%1 %2")),
+        in(main, "groupBox_Ain",
+            boxes<2>("checkBox_StateU_Ain_%1", 1, field("StateU_Ain1"), "cfgt2f_023", "%1 AIN%2"),
+            boxes<1>("checkBox_StateU_Ain_%1", 3, field("StateU_Ain3"), "cfgt2f_023", "%1 AIN%2", 3),
+            boxes<5>("checkBox_StateU_Ain_%1", 4, field("StateU_Ain4"), "cfgt2f_023", "%1 AIN%2")),
+        hidden(main, "groupBox_Frequency",
+            boxes<2>("checkBox_Frequency_%1", 1, field("Frequency1"), "cfgt2f_017", "%1 %2"),
+            boxes<6>("checkBox_Frequency_%1", 3, field("Frequency3"), "cfgt2f_017", "%1 %2")),
+        hidden(main, "groupBox_Motochas",
+            box("checkBox_Motochas",   field("Motochas"),        "cfgt2f_018"),
+            box("checkBox_Motochas_2", field("MotochasLoadOff"), "cfgt2f_019"),
+            box("checkBox_Motochas_3", field("MotochasLoadOn"),  "cfgt2f_020")),
+        in(main, "groupBox_Temp",
+            boxes<8>("checkBox_Temp_%1", 1, field("Temp1"), "cfgt2f_022", "%1 T%2", 4)),
 
-        in(navi, "groupBox_Navi", box("checkBox_StateNGauge", 7, "cfgt2f_028"),
-           box("checkBox_LastTime", 8, "cfgt2f_029"),
-           DataSetBox{.field = fieldOf("checkBox_Coord", {9, 10}, "cfgt2f_030")},
-           box("checkBox_Altitude", 11, "cfgt2f_031"), box("checkBox_Speed", 12, "cfgt2f_032"),
-           box("checkBox_Course", 13, "cfgt2f_033"), box("checkBox_Run", 14, "cfgt2f_034"),
-           box("checkBox_Way", 15, "cfgt2f_035"), box("checkBox_AllSeconds", 16, "cfgt2f_036"),
-           box("checkBox_SecondsLast", 17, "cfgt2f_037")),
-        in(navi, "groupBox_Accuracy", box("checkBox_MNaviInfo", 69, "cfgt2f_039"),
-           box("checkBox_MNaviError", 70, "cfgt2f_040")),
-        hidden(navi, "groupBox_MNavi", box("checkBox_MNaviState", 71, "cfgt2f_042"),
-               box("checkBox_MNaviCoord", 72, "cfgt2f_043"), box("checkBox_MNaviAlt", 73, "cfgt2f_044"),
-               box("checkBox_MNaviCourse", 74, "cfgt2f_045"), box("checkBox_MNaviSpeed", 75, "cfgt2f_046")),
-        in(navi, "groupBox_LBS", box("checkBox_LBS", 76, "cfgt2f_047")),
-        hidden(navi, "groupBox_Geozone", box("checkBox_Geozone", 199, "cfgt2f_048")),
+        in(navi, "groupBox_Navi",
+            box("checkBox_StateNGauge", field("StateNGauge"),                    "cfgt2f_028"), // Receiver state and satellites
+            box("checkBox_LastTime",    field("LastTime"),                       "cfgt2f_029"),
+            box("checkBox_Coord",       {field("Latitude"), field("Longitude")}, "cfgt2f_030"),
+            box("checkBox_Altitude",    field("Altitude"),                       "cfgt2f_031"),
+            box("checkBox_Speed",       field("Speed"),                          "cfgt2f_032"),
+            box("checkBox_Course",      field("Course"),                         "cfgt2f_033"),
+            box("checkBox_Run",         field("Run"),                            "cfgt2f_034"),
+            box("checkBox_Way",         field("Way"),                            "cfgt2f_035"), // Last path segment
+            box("checkBox_AllSeconds",  field("AllSeconds"),                     "cfgt2f_036"), // Segment interval
+            box("checkBox_SecondsLast", field("SecondsLast"),                    "cfgt2f_037")), // Segment travel time
+        in(navi, "groupBox_Accuracy",
+            box("checkBox_MNaviInfo",  field("NaviInfoGlonass"), "cfgt2f_039"),      // Satellites by system
+            box("checkBox_MNaviError", field("NaviHDop"),        "cfgt2f_040")),     // HDOP and PDOP
+        hidden(navi, "groupBox_MNavi",
+            box("checkBox_MNaviState",  field("NaviState"),    "cfgt2f_042"),        // High-precision receiver state
+            box("checkBox_MNaviCoord",  field("NaviLatitude"), "cfgt2f_043"),
+            box("checkBox_MNaviAlt",    field("NaviAltitude"), "cfgt2f_044"),
+            box("checkBox_MNaviCourse", field("NaviCourse"),   "cfgt2f_045"),
+            box("checkBox_MNaviSpeed",  field("NaviSpeed"),    "cfgt2f_046")),
+        in(navi, "groupBox_LBS",
+            box("checkBox_LBS", field("LbsCellID"), "cfgt2f_047")),
+        hidden(navi, "groupBox_Geozone",
+            box("checkBox_Geozone", field("GeozoneInfo"), "cfgt2f_048")),
 
-        hidden(rs, "groupBox_RS232", box("checkBox_RS232_Level", 43, "cfgt2f_054")),
+        hidden(rs, "groupBox_RS232",
+            box("checkBox_RS232_Level", field("LevelRS232"), "cfgt2f_054")),
         in(rs, "groupBox_RS485",
-           orAt(boxes<6>("checkBox_RS485_Level_%1", 1, 37, "cfgt2f_052", "%1 %2", 6), 77),
-           boxes<10>("checkBox_RS485_Level_%1", 7, 83, "cfgt2f_052", "%1 %2"),
-           boxes<16>("checkBox_RS485_Frequency_%1", 1, 146, "cfgt2f_053", "%1 %2", 6)),
+            orAt(boxes<6>("checkBox_RS485_Level_%1", 1, field("LevelRS485_1"), "cfgt2f_052", "%1 %2", 6),
+                 field("TempRS485_1")),
+            boxes<10>("checkBox_RS485_Level_%1",     7, field("LevelRS485_7"), "cfgt2f_052", "%1 %2"),
+            boxes<16>("checkBox_RS485_Frequency_%1", 1, field("RS485Freq1"),   "cfgt2f_053", "%1 %2", 6)),
 
-        in(accel, "groupBox_Accel", box("checkBox_AccelDelta", 105, "cfgt2f_084"),
-           box("checkBox_AccelLinear", 106, "cfgt2f_085").hidden(),
-           box("checkBox_AccelModule", 107, "cfgt2f_086"), box("checkBox_Accel_1", 138, "cfgt2f_087"),
-           box("checkBox_Accel_2", 139, "cfgt2f_088").hidden(),
-           box("checkBox_Accel_3", 140, "cfgt2f_089").hidden()),
-        hidden(accel, "groupBox_EcoDrive", box("checkBox_Accel_Drive_1", 108, "cfgt2f_090"),
-               box("checkBox_Accel_Drive_2", 142, "cfgt2f_091"),
-               box("checkBox_Accel_Drive_3", 143, "cfgt2f_092"),
-               box("checkBox_Accel_Drive_4", 144, "cfgt2f_093"),
-               box("checkBox_Accel_Drive_5", 145, "cfgt2f_094")),
+        in(accel, "groupBox_Accel",
+            box("checkBox_AccelDelta",  field("AccelDelta"),     "cfgt2f_084"),      // Time increment
+            box("checkBox_AccelLinear", field("AccelLinearX"),   "cfgt2f_085").hidden(),
+            box("checkBox_AccelModule", field("AccelModule"),    "cfgt2f_086"),      // Time above the acceleration threshold
+            box("checkBox_Accel_1",     field("VAccelState"),    "cfgt2f_087"),      // Sensors SH1 to SH4
+            box("checkBox_Accel_2",     field("VAccelVertical"), "cfgt2f_088").hidden(), // Tilt from the vertical
+            box("checkBox_Accel_3",     field("VAccelLineTang"), "cfgt2f_089").hidden()), // Pitch and roll
+        hidden(accel, "groupBox_EcoDrive",
+            box("checkBox_Accel_Drive_1", field("AccelAngularPlus"), "cfgt2f_090"),  // Largest acceleration, braking and sideways
+            box("checkBox_Accel_Drive_2", field("EcoDrvAccelMax"),   "cfgt2f_091"),  // Largest vertical acceleration
+            box("checkBox_Accel_Drive_3", field("EcoDrvSpeedMax"),   "cfgt2f_092"),  // Largest speed
+            box("checkBox_Accel_Drive_4", field("EcoDrvSpeedState"), "cfgt2f_093"),  // Speed thresholds
+            box("checkBox_Accel_Drive_5", field("EcoDrvAccel1"),     "cfgt2f_094")), // Acceleration thresholds
 
-        hidden(more, "groupBox_Passager", boxes<8>("checkBox_PassDoor_%1", 1, 109, "cfgt2f_133", "%1 %2")),
-        hidden(more, "groupBox_Camera", box("checkBox_CameraState", 121, "cfgt2f_134")),
-        hidden(more, "groupBox_VAccelAxels", box("checkBox_VAccelAxels", 141, "cfgt2f_135")),
-        hidden(more, "groupBox_Disp", box("checkBox_DispCur", 103, "cfgt2f_137"),
-               box("checkBox_DispLastIndex", 104, "cfgt2f_138")),
-        hidden(more, "groupBox_Ainf", box("checkBox_AinfState", 117, "cfgt2f_140"),
-               box("checkBox_AinfGeozoneID", 118, "cfgt2f_141"),
-               box("checkBox_AinfStopID", 119, "cfgt2f_142"), box("checkBox_AinfRouteID", 120, "cfgt2f_143")),
+        hidden(more, "groupBox_Passager",
+            boxes<8>("checkBox_PassDoor_%1", 1, field("Passager_1"), "cfgt2f_133", "%1 %2")),
+        hidden(more, "groupBox_Camera",
+            box("checkBox_CameraState", field("CameraState"), "cfgt2f_134")),
+        hidden(more, "groupBox_VAccelAxels",
+            box("checkBox_VAccelAxels", field("VAccelAxelsX"), "cfgt2f_135")),
+        hidden(more, "groupBox_Disp",
+            box("checkBox_DispCur",       field("DispCur"),       "cfgt2f_137"),     // Driver state
+            box("checkBox_DispLastIndex", field("DispLastIndex"), "cfgt2f_138")),
+        hidden(more, "groupBox_Ainf",
+            box("checkBox_AinfState",     field("AinfState"),     "cfgt2f_140"),     // Announcer state
+            box("checkBox_AinfGeozoneID", field("AinfGeozoneID"), "cfgt2f_141"),
+            box("checkBox_AinfStopID",    field("AinfStopID"),    "cfgt2f_142"),
+            box("checkBox_AinfRouteID",   field("AinfRouteID"),   "cfgt2f_143")),
         in(more, "groupBox_HighPrecision",
-           boxes<4>("checkBox_HighPrecision_Temp_%1", 1, 162, "cfgt2f_126", "%1 %2", 4),
-           boxes<4>("checkBox_HighPrecision_Humidity_%1", 1, 166, "cfgt2f_131", "%1 %2", 4)),
-        hidden(more, "groupBox_Tires", tyres()));
+            boxes<4>("checkBox_HighPrecision_Temp_%1",     1, field("HPrecisionTemp1"),     "cfgt2f_126", "%1 %2", 4),
+            boxes<4>("checkBox_HighPrecision_Humidity_%1", 1, field("HPrecisionHumidity1"), "cfgt2f_131", "%1 %2", 4)),
+        hidden(more, "groupBox_Tires",
+            tyres()));
 }();
+// clang-format on
 
 } // namespace vlk

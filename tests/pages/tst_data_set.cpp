@@ -1,6 +1,7 @@
 // The Data set page: what each box stands for, the versions of the protocol, the size of the record and what
 // it locks.
 
+#include "dataset/data_set_tabs.h"
 #include "dataset/form_config_zeta3.h"
 #include "dialog/config_pages.h"
 #include "dialog/widget_config_full.h"
@@ -24,6 +25,23 @@ QString maskOf(const QVector<int>& positions)
         mask[position] = '1';
     return mask;
 }
+
+// What makes a record larger than this tracker's boxes can.
+class LargeTab : public VLK_Form_Config_Set_Zeta3_Tab
+{
+public:
+    using VLK_Form_Config_Set_Zeta3_Tab::VLK_Form_Config_Set_Zeta3_Tab;
+
+    int bytesBesideMask() const override { return bytes_; }
+    void setBytes(int bytes)
+    {
+        bytes_ = bytes;
+        Q_EMIT bytesBesideMaskChanged();
+    }
+
+private:
+    int bytes_ = 0;
+};
 
 } // namespace
 
@@ -179,15 +197,17 @@ private Q_SLOTS:
         full.pages().forEach([&](VLK_Form_Config_Zeta3& page) {
             QSignalSpy spy(&page, &VLK_Form_Config_Set_Zeta3::signal_Excess_Size);
             const auto* alarm = page.findChild<QLabel*>("label_MaxSize_Alarm");
-            VLK_Form_Config_Set_Zeta3::addSize(512 - 89);
+            auto* large = new LargeTab(5);
+            page.findChild<vlk::DataSetTabs*>()->add(vlk::DataSetTabs::kPlaces, large);
+            large->setBytes(512 - 89);
             QVERIFY(spy.isEmpty() && frame->isEnabled() && alarm->isHidden());
-            VLK_Form_Config_Set_Zeta3::addSize(1);
+            large->setBytes(513 - 89);
             QCOMPARE(page.findChild<QLabel*>("label_Size_Value")->text(), QString("513"));
             QVERIFY(!frame->isEnabled() && !alarm->isHidden());
             for (int tab = 0; tab < tabs->count(); ++tab)
                 QCOMPARE(tabs->isTabEnabled(tab), tab == page.tabIndex());
-            VLK_Form_Config_Set_Zeta3::addSize(1);
-            VLK_Form_Config_Set_Zeta3::subSize(2);
+            large->setBytes(514 - 89);
+            large->setBytes(512 - 89);
             QVERIFY(frame->isEnabled() && tabs->isTabEnabled(0) && alarm->isHidden());
             QCOMPARE(spy, (QList<QList<QVariant>>{{true}, {false}}));
 

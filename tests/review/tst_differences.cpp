@@ -4,7 +4,7 @@
 #include "review/take_over.h"
 #include "settings/all_settings.h"
 #include "settings/quick_settings.h"
-#include "settings/text_source.h"
+#include "base/translated.h"
 #include "support/data_table.h"
 #include "support/files.h"
 #include "support/setting_samples.h"

@@ -22,7 +22,7 @@ struct Bench
     bool english = languages.set(QStringLiteral("en"));
     workbench::DataFolder folder{root.path()};
     workbench::HostSession session{folder.trackerFolder()};
-    QSignalSpy written{&session, &workbench::HostSession::configurationWritten};
+    QSignalSpy written{&session, &workbench::HostSession::writeEnded};
 
     bool start()
     {

@@ -68,12 +68,12 @@ RecordContent lookAtRecord(const QByteArray& record)
     FieldMask::Bytes bits;
     std::memcpy(bits.data(), record.constData() + 2, bits.size());
     const FieldMask mask(bits);
-    if (record.size() != recordHead + mask.payloadSize(fields))
+    if (record.size() != mask.recordSize(fields))
         return {};
     const auto valueOf = [&](int row) -> std::optional<quint32> {
         if (!mask.test(row))
             return {};
-        return numberAt<quint32>(record, recordHead + mask.payloadSize(row));
+        return numberAt<quint32>(record, mask.recordSize(row));
     };
     return {true, valueOf(field("NumPage")), valueOf(field("Time"))};
 }

@@ -12,7 +12,7 @@ namespace workbench {
 
 inline constexpr quint8 recordType = 176;
 inline constexpr quint8 packetType = 177;
-inline constexpr int recordHead = 2 + FieldMask::kBytes;
+inline constexpr int recordHead = FieldMask::kHeadBytes;
 inline constexpr int packetCounted = 3; // type and length, which do not count themselves
 
 } // namespace workbench

@@ -59,8 +59,7 @@ bool lengthAgrees(Bytes record)
         return record.size() == std::size_t{packetCounted} + qFromLittleEndian<quint16>(&record[1]);
     FieldMask::Bytes mask;
     std::memcpy(mask.data(), &record[2], mask.size());
-    return record[1] == version &&
-           record.size() == recordHead + static_cast<std::size_t>(FieldMask(mask).payloadSize());
+    return record[1] == version && record.size() == static_cast<std::size_t>(FieldMask(mask).recordSize());
 }
 
 Seen lookAtBinary(Bytes file)

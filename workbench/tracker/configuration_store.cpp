@@ -14,7 +14,7 @@
 Q_LOGGING_CATEGORY(lcTrackerStore, "vlk.tracker.store")
 
 // In no namespace, because the macro declares a function there.
-static void initResources()
+static void initTrackerResources()
 {
     Q_INIT_RESOURCE(tracker);
 }
@@ -26,7 +26,6 @@ namespace {
 const QString ownModel = QStringLiteral("R-7106");
 // A configuration is some tens of kilobytes; the device has no room for more than this.
 constexpr qint64 largestDocument = qint64(1) << 20;
-constexpr int largestRecord = 512;
 
 struct Refusal
 {
@@ -51,8 +50,7 @@ Refusal check(const ConfigurationValues& values)
 int recordSize(const ConfigurationValues& values)
 {
     const std::string mask = values.text(QStringLiteral("PROTOCOL/ZETA/mask")).toStdString();
-    constexpr int head = 2 + vlk::FieldMask::kBytes;
-    return head + vlk::FieldMask::fromText(mask.empty() ? vlk::kDefaultMaskText : mask).payloadSize();
+    return vlk::FieldMask::fromText(mask.empty() ? vlk::kDefaultMaskText : mask).recordSize();
 }
 
 QByteArray readWhole(const QString& path)
@@ -118,7 +116,7 @@ bool saveWhole(const QString& path, const QByteArray& document)
 
 ConfigurationStore::ConfigurationStore(const QString& folder) : folder_(folder)
 {
-    initResources();
+    initTrackerResources();
     if (!QDir().mkpath(folder_))
         qCWarning(lcTrackerStore) << "cannot make the folder" << folder_;
     for (const QString& path : {current(), backup(), QStringLiteral(":/tracker/factory.xml")}) {
@@ -144,14 +142,14 @@ WriteReport ConfigurationStore::write(const QString& path)
         return refuse("wb_refused_unreadable", file.errorString());
     if (file.size() > largestDocument)
         return refuse("wb_refused_large", QString::number(file.size()));
-    const QByteArray taken = file.read(largestDocument);
-    const ConfigurationValues asked(taken);
+    report.document = file.read(largestDocument);
+    const ConfigurationValues asked(report.document);
     const Refusal refusal = check(asked);
     if (refusal.reasonKey)
         return refuse(refusal.reasonKey, refusal.detail);
-    if (const int size = recordSize(asked); size > largestRecord)
+    if (const int size = recordSize(asked); size > vlk::kLargestRecord)
         return refuse("wb_refused_record", QString::number(size));
-    const QByteArray document = withKeptSections(taken, document_, report.keptSections);
+    const QByteArray document = withKeptSections(report.document, document_, report.keptSections);
     const ConfigurationValues values(document);
     if (!saveWhole(backup(), document_) || !saveWhole(current(), document))
         return refuse("wb_refused_memory", folder_);

@@ -18,7 +18,7 @@ namespace {
 using vlk::element;
 
 // One row fills a family of like elements: `count` of them, each `stride` elements behind the one before.
-struct Row
+struct FieldRow
 {
     vlk::ElementIndex first;
     double (*value)(const Vehicle& v, int index);
@@ -72,7 +72,7 @@ constexpr double flowRuns = 0x1211;
 constexpr double flowStands = 0x1000;
 
 // clang-format off
-constexpr Row rows[] = {
+constexpr FieldRow fieldRows[] = {
     {element("NumPage"), [](const Vehicle& v, int) { return double(v.m.number); }},
     {element("Code"), [](const Vehicle& v, int) { return double(v.m.code); }},
     {element("Time"), [](const Vehicle& v, int) { return double(v.m.time); }},
@@ -228,7 +228,7 @@ constexpr Row rows[] = {
 constexpr bool everyElementHasOneRow()
 {
     std::array<int, vlk::kElementCount> uses{};
-    for (const Row& row : rows)
+    for (const FieldRow& row : fieldRows)
         for (int i = 0; i < row.count; ++i)
             ++uses[row.first + i * row.stride];
     return std::all_of(uses.begin(), uses.end(), [](int count) { return count == 1; });
@@ -279,7 +279,7 @@ std::uint64_t bitsOf(vlk::ValueType type, double value)
 ValueBlock valueBlock(const Vehicle& vehicle)
 {
     ValueBlock block{};
-    for (const Row& row : rows) {
+    for (const FieldRow& row : fieldRows) {
         const bool told = row.device == LineOwner::Other || vehicle.isOnLine(row.device);
         for (int i = 0; i < row.count; ++i) {
             const vlk::Element& element = vlk::kElements[row.first + i * row.stride];

@@ -9,7 +9,7 @@ namespace tracker {
 
 namespace {
 
-enum Seed : quint64 { SatelliteSeed = 1, NorthSeed = 5, EastSeed = 6 };
+enum NavigationSeed : quint64 { SatelliteSeed = 1, NorthSeed = 5, EastSeed = 6 };
 
 constexpr int leastForFix = 4;
 constexpr double metresPerDegree = 111195;
@@ -94,7 +94,7 @@ double wanderingOf(const NavigationRules& rules, bool ignition, bool moved)
 RoadPoint wandered(RoadPoint point, quint64 seed, qint64 time, double metres)
 {
     constexpr double period = 60; // seconds
-    const auto away = [&](Seed direction) {
+    const auto away = [&](NavigationSeed direction) {
         const double swing = wave(mix(seed, direction), static_cast<double>(time) / period) * 2 - 1;
         return swing * metres / std::sqrt(2) / metresPerDegree;
     };

@@ -16,7 +16,7 @@ namespace {
 
 using vlk::Message;
 
-enum Kind : int { FileState = 0, State = 1, Card1 = 3, Card2 = 4, VehicleUnit = 5 };
+enum FrameKind : int { FileState = 0, State = 1, Card1 = 3, Card2 = 4, VehicleUnit = 5 };
 enum FileCode : char { FileReady = 0, FileBeingMade = 0x10, FileRefused = 0x30 };
 
 constexpr int kindOffset = 6;
@@ -28,7 +28,7 @@ constexpr char statusAbsent = 0x20;
 class Frame
 {
 public:
-    Frame(Kind kind, int size, char status) : bytes_(kindOffset + size, '\0')
+    Frame(FrameKind kind, int size, char status) : bytes_(kindOffset + size, '\0')
     {
         constexpr char header = 0x54;
         bytes_[0] = header;
@@ -87,7 +87,7 @@ Answers stateAnswer(const Vehicle& vehicle)
     return frame.answers();
 }
 
-Answers cardAnswer(const Vehicle& vehicle, Kind kind)
+Answers cardAnswer(const Vehicle& vehicle, FrameKind kind)
 {
     constexpr int size = 169;
     if (kind == Card2)
@@ -159,7 +159,7 @@ Answers Tachograph::question(int number) const
         return stateAnswer(present_());
     case Card1:
     case Card2:
-        return cardAnswer(present_(), static_cast<Kind>(number));
+        return cardAnswer(present_(), static_cast<FrameKind>(number));
     case VehicleUnit:
         return vehicleAnswer(present_());
     default:

@@ -11,7 +11,7 @@ namespace tracker {
 
 namespace {
 
-enum Seed : quint64 { WeatherSeed = 2, TagSeed = 4 };
+enum PointSeed : quint64 { WeatherSeed = 2, TagSeed = 4 };
 
 // Between two looks at lines and sensors.
 constexpr int lookWhileDriving = 10;

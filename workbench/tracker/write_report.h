@@ -4,6 +4,7 @@
 // changed. Sections that the file lacks keep their values. Keys are paths such as "TRANS/SRV1/ip"; a repeated
 // group carries its number from the second on, "SENSORS/FLS[2]/table".
 
+#include <QByteArray>
 #include <QMetaType>
 #include <QString>
 #include <QStringList>
@@ -21,9 +22,10 @@ struct KeyChange
 struct WriteReport
 {
     bool accepted = false;
-    QString file;      // what was handed over
-    QString reasonKey; // key of the refusal's text, wb_refused_..., empty when accepted
-    QString detail;    // of a refusal: the parser's words, or what stood in place of the model
+    QString file;        // what was handed over
+    QByteArray document; // that stood in it
+    QString reasonKey;   // key of the refusal's text, wb_refused_..., empty when accepted
+    QString detail;      // of a refusal: the parser's words, or what stood in place of the model
     QVector<KeyChange> changed;
     QVector<KeyChange> added;
     QVector<KeyChange> removed;

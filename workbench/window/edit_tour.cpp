@@ -1,5 +1,6 @@
 #include "window/edit_tour.h"
 
+#include "catalogue/field_catalogue.h"
 #include "tracker/configuration_values.h"
 #include "window/write_report_text.h"
 
@@ -47,7 +48,7 @@ constexpr Edit kEdits[] = {
     {"lineEdit_Name", "KAMAZ 5490 A123BC", "KAMAZ 5490 B456CE", "TRANS/OBJECT/name", Transfer},
     {"GPRSSrv_lineEdit_IP_DNS_Main", "fleet.example.com", "gate.example.com", "TRANS/SRV1/addr", Transfer},
     {"GPRSSrv_spinBox_Port_Main", "5555", "6666", "TRANS/SRV1/port", Transfer},
-    {"checkBox_State_2", "1", "0", "PROTOCOL/ZETA/mask", DataSet, 122},
+    {"checkBox_State_2", "1", "0", "PROTOCOL/ZETA/mask", DataSet, field("State2")},
     {"spinBox_ParkingStop", "45", "60", "TRACK/MOVESENS/stopTimer", Track},
     {"doubleSpinBox_RejectCoord_maxHDOP", "3.1", "3.2", "TRACK/COORDFLT/maxHDOP", Track, -1, nullptr,
      Sign::OfTheOther},
@@ -155,7 +156,7 @@ void writeTracker(Tour& tour, Notebook& book)
 {
     QObject context;
     QObject::connect(
-        &tour.window().session(), &HostSession::configurationWritten, &context,
+        &tour.window().session(), &HostSession::writeEnded, &context,
         [&book](const tracker::WriteReport& r) { book.report = std::make_unique<tracker::WriteReport>(r); });
     Tour::press("pushButton_LoadToDevice");
     tour.waitFor([&book] { return book.report != nullptr; }, QStringLiteral("the tracker's report"));

@@ -27,7 +27,7 @@ struct FaultRow
     bool Faults::*fault;
 };
 
-constexpr FaultRow rows[] = {
+constexpr FaultRow faultRows[] = {
     {"checkBox_Silence", "wb_fault_silence", &Faults::silence},
     {"checkBox_Short", "wb_fault_short", &Faults::shortAnswers},
     {"checkBox_Garbled", "wb_fault_garbled", &Faults::garbledAnswers},
@@ -51,7 +51,7 @@ FaultsPanel::FaultsPanel(SimulatedTracker& tracker, QWidget* parent)
     auto* faults = texts_.bind(new QGroupBox(this), "wb_faults");
     vlk::dressGroup(faults);
     auto* list = new QVBoxLayout(faults);
-    for (const FaultRow& row : rows)
+    for (const FaultRow& row : faultRows)
         addFault(list, row.name, row.key, row.fault);
     addDelay(list);
 

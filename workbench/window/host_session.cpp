@@ -222,15 +222,13 @@ bool HostSession::finish(const QString& path)
         return true;
     const bool isOpen = write->opened == opened_;
     writes_.erase(write);
-    QFile file(path);
-    const QByteArray document = contentOf(file);
     const tracker::WriteReport report = tracker_.writeConfiguration(path);
     if (report.accepted) {
-        isOpen ? edited_.written(document) : edited_.trackerHolds(document);
-        if (!file.remove())
+        isOpen ? edited_.written(report.document) : edited_.trackerHolds(report.document);
+        if (!QFile::remove(path))
             qCWarning(lcSession) << "cannot remove" << path;
     }
-    Q_EMIT configurationWritten(report);
+    Q_EMIT writeEnded(report);
     Q_EMIT editedChanged();
     return report.accepted;
 }
@@ -240,7 +238,7 @@ void HostSession::writeNotSaved(const QString& path, const QString& reason)
     tracker::WriteReport report;
     report.reasonKey = QStringLiteral("wb_refused_unsaved");
     report.detail = QStringLiteral("%1: %2").arg(path, reason);
-    Q_EMIT configurationWritten(report);
+    Q_EMIT writeEnded(report);
 }
 
 } // namespace workbench

@@ -56,10 +56,10 @@ public:
 
 Q_SIGNALS:
     void helpRequested(const QString& page);
-    // A file is on its way to the tracker; configurationWritten() follows.
+    // A file is on its way to the tracker; writeEnded() follows.
     void writeBegan();
     // The tracker took a written file or refused it, or it did not come so far.
-    void configurationWritten(const tracker::WriteReport& report);
+    void writeEnded(const tracker::WriteReport& report);
     // The user was asked and did not want it written; its file is gone.
     void writeCancelled();
     void editedChanged();

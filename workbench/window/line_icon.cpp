@@ -6,7 +6,7 @@
 #include <QSvgRenderer>
 
 // In no namespace, because the macro declares a function there.
-static void initResources()
+static void initWindowResources()
 {
     Q_INIT_RESOURCE(workbench);
 }
@@ -17,7 +17,7 @@ namespace {
 
 QString drawingPath(const QString& name)
 {
-    initResources();
+    initWindowResources();
     return QStringLiteral(":/workbench/icons/%1.svg").arg(name);
 }
 

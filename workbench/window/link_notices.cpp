@@ -21,7 +21,7 @@ LinkNotices::LinkNotices(HostSession& session, PluginWindows& windows, MessageLo
     connect(&session_.link(), &PluginLink::passed, this,
             [this](vlk::Direction direction, quint32 id, const void* p1) { look(direction, id, p1); });
     connect(&session_, &HostSession::writeBegan, &watch_, [this] { watch_.begin(); });
-    connect(&session_, &HostSession::configurationWritten, &watch_, &AnswerWatch::forget);
+    connect(&session_, &HostSession::writeEnded, &watch_, &AnswerWatch::forget);
     connect(&watch_, &AnswerWatch::silent, this, [this](const QDateTime& since, vlk::Message request) {
         setTrouble([this, since, request] { return silence(since, request); });
     });

@@ -53,7 +53,7 @@ MessageText describePair(const void* p)
     return {QStringLiteral("id=%1 (%2)").arg(number).arg(hexNumber(number, 16)), {}};
 }
 
-const RecordRow records[] = {
+constexpr RecordRow records[] = {
     {Message::SetIdentity,
      [](const void* p) -> MessageText {
          const auto& r = as<IdentityInfo>(p);
@@ -148,12 +148,20 @@ const RecordRow records[] = {
      }},
 };
 
-MessageText describeRecord(Message message, const void* p)
+constexpr Describe describeOf(Message message)
 {
-    const auto* row = std::find_if(std::begin(records), std::end(records),
-                                   [message](const RecordRow& r) { return r.message == message; });
-    return row == std::end(records) ? MessageText{} : row->describe(p);
+    for (const RecordRow& row : records) {
+        if (row.message == message)
+            return row.describe;
+    }
+    return nullptr;
 }
+
+// A message that brings a record and has no row would be told without its content.
+static_assert(std::ranges::all_of(messages, [](const MessageInfo& info) {
+    return (info.p1 != Parameter::RecordAddress && info.p2 != Parameter::RecordAddress) ||
+           describeOf(info.number) != nullptr;
+}));
 
 MessageText describeParameter(Message message, Parameter kind, const void* p)
 {
@@ -179,7 +187,7 @@ MessageText describeParameter(Message message, Parameter kind, const void* p)
     case Parameter::TextBuffer:
         return {quoted(static_cast<const char*>(p), balanceUssdSize), {}};
     case Parameter::RecordAddress:
-        return describeRecord(message, p);
+        return describeOf(message)(p);
     case Parameter::None:
     case Parameter::Value:
         break;

@@ -32,7 +32,7 @@ struct CategoryRow
 };
 
 // Where a category has several, the first whose form the message has.
-constexpr CategoryRow rows[] = {
+constexpr CategoryRow categoryRows[] = {
     {"vlk.save", PluginLog::Topic::SaveFailed, "wb_save_failed_why", ofFile},
     {"vlk.save.part", PluginLog::Topic::SavedInPart, "wb_saved_part", ofPeriod},
     {"vlk.settings.typing", PluginLog::Topic::Typing, "wb_typed", whole},
@@ -66,7 +66,7 @@ QRegularExpressionMatch matched(const CategoryRow& row, const QString& message)
 const CategoryRow* rowOf(const char* category, const QString& message)
 {
     const CategoryRow* found = nullptr;
-    for (const CategoryRow& row : rows) {
+    for (const CategoryRow& row : categoryRows) {
         if (std::strcmp(row.category, category) != 0)
             continue;
         found = &row;

@@ -15,14 +15,14 @@ namespace {
 
 constexpr int kPort = 7001;
 
-void openWindow(Tour& tour)
+void openQuickWindow(Tour& tour)
 {
     Tour::expectOpened(tour.window().session().readConfiguration(false));
     tour.waitFor([] { return Tour::findVisible("radioButton_Track_Econom"); },
                  QStringLiteral("the quick window"));
 }
 
-void edit(Tour& tour)
+void editQuick(Tour& tour)
 {
     // A change of language starts the lists anew, so it comes first.
     for (const QString& code : Languages::codes()) {
@@ -42,7 +42,7 @@ void edit(Tour& tour)
     text->close();
 }
 
-void save(Tour& tour)
+void saveQuick(Tour& tour)
 {
     const QString path = tour.folder().absoluteFilePath(QStringLiteral("quick.xml"));
     tour.whenModal<QFileDialog>([path](QFileDialog& dialog) { Tour::giveName(dialog, path); });
@@ -72,9 +72,9 @@ void switchToFull(Tour& tour)
 std::vector<Tour::Step> quickTour()
 {
     return {
-        {QStringLiteral("open the quick window"), openWindow},
-        {QStringLiteral("edit what it shows"), edit},
-        {QStringLiteral("save it to a file"), save},
+        {QStringLiteral("open the quick window"), openQuickWindow},
+        {QStringLiteral("edit what it shows"), editQuick},
+        {QStringLiteral("save it to a file"), saveQuick},
         {QStringLiteral("carry it over into the full window"), switchToFull},
     };
 }

@@ -135,7 +135,7 @@ void WorkbenchWindow::connectSession()
     // Before all that looks at a message: they mark it in the log.
     connect(&session_.link(), &PluginLink::passed, &log_, &MessageLogModel::append);
     connect(&session_, &HostSession::helpRequested, this, &WorkbenchWindow::showHelp);
-    connect(&session_, &HostSession::configurationWritten, this, &WorkbenchWindow::showReport);
+    connect(&session_, &HostSession::writeEnded, this, &WorkbenchWindow::showReport);
     connect(&session_, &HostSession::writeBegan, this,
             [this] { status_->tell(StatusLine::Command, [] { return text("wb_writing"); }); });
     connect(&session_, &HostSession::writeCancelled, this,

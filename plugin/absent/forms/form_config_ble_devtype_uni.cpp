@@ -18,7 +18,7 @@ namespace {
 enum class Cell { check, spin, combo, line };
 
 // The columns of both tables: the head's text, and the stem of the widgets below it.
-struct Column
+struct UniversalColumn
 {
     const char* title;
     const char* head;
@@ -26,7 +26,7 @@ struct Column
     Cell cell;
     int from = 1; // first row that has a widget; before it the row is always on
 };
-constexpr Column kConditions[] = {
+constexpr UniversalColumn kConditions[] = {
     {"label_Condition_Title_Use", "cfgt17_032", "checkBox_Condition_Use_%1", Cell::check, 2},
     {"label_Condition_Title_Group", "cfgt17_058", "spinBox_Condition_Group_%1", Cell::spin},
     {"label_Condition_Title_Operator", "cfgt17_059", "comboBox_Condition_Operator_%1", Cell::combo, 2},
@@ -34,7 +34,7 @@ constexpr Column kConditions[] = {
     {"label_Condition_Title_Displacement", "cfgt17_061", "spinBox_Condition_Displacement_%1", Cell::spin},
     {"label_Condition_Title_Mask", "cfgt17_062", "lineEdit_Condition_Mask_%1", Cell::line},
 };
-constexpr Column kValues[] = {
+constexpr UniversalColumn kValues[] = {
     {"label_Parameters_Title_Use", "cfgt17_032", "checkBox_Parameters_Use_%1", Cell::check},
     {"label_Parameters_Title_Group", "cfgt17_058", "spinBox_Parameters_Group_%1", Cell::spin},
     {"label_Parameters_Title_Type", "cfgt17_060", "spinBox_Parameters_Type_%1", Cell::spin},
@@ -48,9 +48,9 @@ constexpr Column kValues[] = {
     {"label_Parameters_Title_Amendment", "cfgt17_071", "spinBox_Parameters_Amendment_%1", Cell::spin},
 };
 // The check against an example message: hidden, nothing fills its results.
-constexpr Column kConditionTests[] = {
+constexpr UniversalColumn kConditionTests[] = {
     {"label_Condition_Test_Title_Use", "cfgt17_064", "checkBox_Condition_Test_Use_%1", Cell::check}};
-constexpr Column kValueTests[] = {
+constexpr UniversalColumn kValueTests[] = {
     {"label_Parameters_Test_Title_Use", "cfgt17_064", "checkBox_Parameters_Test_Use_%1", Cell::check}};
 
 struct Table
@@ -58,7 +58,7 @@ struct Table
     const char* group;
     const char* title;
     const char* numberTitle;
-    std::span<const Column> columns;
+    std::span<const UniversalColumn> columns;
     int rows;
     const char* result = nullptr; // labels of a table of tests
 };
@@ -110,7 +110,7 @@ QGroupBox* makeTable(const Table& table)
                                      : new QLabel(QString::number(row)),
                         row, 0);
     int column = 0;
-    for (const Column& place : table.columns) {
+    for (const UniversalColumn& place : table.columns) {
         grid->addWidget(makeLabel(QString::fromLatin1(place.title)), 0, ++column);
         grid->setColumnStretch(column, place.cell == Cell::line ? 1 : 0);
         for (int row = 1; row <= table.rows; ++row) {
@@ -180,7 +180,7 @@ void VLK_Form_Config_Ble_DevType_Uni::retranslate()
     for (const Table& table : kTables) {
         findChild<QGroupBox*>(QString::fromLatin1(table.group))->setTitle(tr(table.title));
         setText(table.numberTitle, table.result ? "cfgt17_065" : "abbr_047");
-        for (const Column& column : table.columns) {
+        for (const UniversalColumn& column : table.columns) {
             setText(column.title, column.head);
             for (int row = 1; row <= table.rows; ++row) {
                 auto* cell = findChild<QWidget*>(QString::fromLatin1(column.widget).arg(row));

@@ -11,7 +11,7 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 
-using This = VLK_Form_Config_Set_Zeta3_Tab_User;
+#include <numeric>
 
 namespace {
 
@@ -56,10 +56,14 @@ VLK_Form_Config_Set_Zeta3_Tab_User::VLK_Form_Config_Set_Zeta3_Tab_User(int index
     layout->addLayout(buttons);
     for (const vlk::UserParamSlots& slots : vlk::kUserParamSlots) {
         const int bytes = slots.bytes;
-        groups_.emplace_back(slots, [this, bytes](int slot) { groupOf(bytes)->takeChoice(slot); });
+        groups_.emplace_back(slots, [this, bytes](int slot) {
+            groupOf(bytes)->takeChoice(slot);
+            Q_EMIT bytesBesideMaskChanged();
+        });
         layout->addWidget(groups_.back().box());
     }
     layout->addStretch();
+    using This = VLK_Form_Config_Set_Zeta3_Tab_User;
     connect(can_, &QPushButton::clicked, this, &This::slot_pressed_Set_CAN);
     connect(modbus_, &QPushButton::clicked, this, &This::slot_pressed_Set_MODBUS);
     This::retranslate();
@@ -80,6 +84,13 @@ void VLK_Form_Config_Set_Zeta3_Tab_User::afterDefaults()
         for (int slot = 1; slot <= group.slots().count; ++slot)
             group.choose(slot, {});
     }
+}
+
+int VLK_Form_Config_Set_Zeta3_Tab_User::bytesBesideMask() const
+{
+    return std::accumulate(
+        groups_.begin(), groups_.end(), 0,
+        [](int bytes, const vlk::UserParamGroup& group) { return bytes + group.bytesInUse(); });
 }
 
 vlk::UserParamGroup* VLK_Form_Config_Set_Zeta3_Tab_User::groupOf(int bytes)

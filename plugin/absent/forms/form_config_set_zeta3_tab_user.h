@@ -26,6 +26,7 @@ public:
     void retranslate() override;
     // Empties all slots.
     void afterDefaults() override;
+    int bytesBesideMask() const override;
 
     // Sizes other than 1, 2, 4 and 8 bytes change nothing.
     void userParamAdded(const QString& code, const QString& name, const QString& third, int size) override;

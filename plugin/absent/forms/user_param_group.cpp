@@ -1,25 +1,20 @@
 #include "absent/forms/user_param_group.h"
 
-#include "dataset/form_config_set_zeta3.h"
+#include "base/translated.h"
 #include "windows/eliding_combobox.h"
 
-#include <QCoreApplication>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 
+#include <algorithm>
 #include <utility>
 
 namespace vlk {
 
 namespace {
 
-constexpr int kColumns = 2;
-
-QString translated(const char* key)
-{
-    return QCoreApplication::translate("vlk", key);
-}
+constexpr int kSlotColumns = 2;
 
 const char* titleOf(int bytes)
 {
@@ -43,7 +38,7 @@ UserParamGroup::UserParamGroup(const UserParamSlots& slots, const std::function<
     auto* grid = new QGridLayout(box_);
     box_->setProperty("byColumns", true);
     box_->setObjectName(QStringLiteral("groupBox_User_%1Byte").arg(slots.bytes));
-    const int rows = (slots.count + kColumns - 1) / kColumns;
+    const int rows = (slots.count + kSlotColumns - 1) / kSlotColumns;
     for (int slot = 1; slot <= slots.count; ++slot) {
         auto* box = new ElidingComboBox;
         box->setObjectName(QStringLiteral("comboBox_User_%1Byte_%2").arg(slots.bytes).arg(slot));
@@ -162,20 +157,23 @@ void UserParamGroup::takeChoice(int slot)
     const QString current = box->currentText();
     box->setRememberedText(current);
 
-    const bool wasInUse = !isNone(previous) && previous != reserved_;
-    const bool isInUse = !isNone(current);
-    if (wasInUse != isInUse)
-        VLK_Form_Config_Set_Zeta3::addSize(isInUse ? slots_.bytes : -slots_.bytes);
-
     if (!isNone(previous) && offered_.contains(previous))
         append(previous, box);
-    if (!isInUse)
+    if (isNone(current))
         return;
     for (ElidingComboBox* other : boxes_) {
         const int item = itemOf(other, current);
         if (other != box && other->currentText() != current && item >= 0)
             other->removeItem(item);
     }
+}
+
+int UserParamGroup::bytesInUse() const
+{
+    const auto used = std::count_if(boxes_.begin(), boxes_.end(), [this](const ElidingComboBox* box) {
+        return !isNone(box->currentText()) && box->currentText() != reserved_;
+    });
+    return slots_.bytes * static_cast<int>(used);
 }
 
 } // namespace vlk

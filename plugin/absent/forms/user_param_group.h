@@ -2,7 +2,7 @@
 
 // The free slots of one width on the User tab: their combo boxes, and the values on offer to them. A value
 // stands in one slot at a time: the one that takes it takes it away from the lists of the others, and gives
-// it back. Each slot in use adds its width to the running size of the record.
+// it back. Each slot in use adds its width to the size of the record.
 
 #include "absent/params/user_param_settings.h"
 
@@ -51,8 +51,9 @@ public:
     // nothing.
     QString text(int slot) const;
     void choose(int slot, const QString& text);
-    // What the choice of a slot does to the others and to the size. Called by whoever `chosen` told.
+    // What the choice of a slot does to the others. Called by whoever `chosen` told.
     void takeChoice(int slot);
+    int bytesInUse() const;
 
 private:
     int itemOf(const ElidingComboBox* box, const QString& text) const;

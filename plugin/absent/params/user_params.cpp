@@ -2,9 +2,8 @@
 
 #include "absent/params/param_catalogues.h"
 #include "absent/params/user_param.h"
+#include "base/translated.h"
 #include "settings/element_types.h"
-
-#include <QCoreApplication>
 
 using Type = userParamType;
 
@@ -39,11 +38,6 @@ QString numberText(const QString& name, const QString& kindName)
     return name.mid(kindName.size() + 1).trimmed();
 }
 
-QString translated(const char* key)
-{
-    return QCoreApplication::translate("vlk", key);
-}
-
 } // namespace
 
 VLK_UserParams::VLK_UserParams(QObject* parent) : QObject(parent)
@@ -52,7 +46,7 @@ VLK_UserParams::VLK_UserParams(QObject* parent) : QObject(parent)
         typeTexts_[QString::fromLatin1(type.code)] = vlk::textOf(type);
     for (std::size_t i = 0; i < kindNames_.size(); ++i) {
         if (const char* key = vlk::kUserParamKinds[i].name)
-            kindNames_[i] = translated(key);
+            kindNames_[i] = vlk::translated(key);
     }
     counters_ = entriesOf(vlk::kCounterRows);
 }
@@ -169,10 +163,10 @@ QList<VLK_UserParam_CAN*> VLK_UserParams::entriesOf(std::span<const vlk::Catalog
     QList<VLK_UserParam_CAN*> entries;
     for (const vlk::CatalogueRow& row : rows) {
         if (row.type)
-            entries << new VLK_UserParam_CAN(entries.size() + 1, row.id, translated(row.name),
+            entries << new VLK_UserParam_CAN(entries.size() + 1, row.id, vlk::translated(row.name),
                                              QString::fromLatin1(row.type), this);
         else
-            entries.last()->addBit(row.id, translated(row.name));
+            entries.last()->addBit(row.id, vlk::translated(row.name));
     }
     return entries;
 }

@@ -15,7 +15,7 @@ namespace {
 
 const QString kSuffix = QStringLiteral(".xml");
 const QString kTime = QStringLiteral("kept");
-const QString kVehicle = QStringLiteral("objName");
+const QString kVehicleName = QStringLiteral("objName");
 
 QString keptFolder(const QString& folder)
 {
@@ -34,7 +34,7 @@ QString keepTable(const QString& folder, const QString& sensor, const QString& v
         path = QStringLiteral("%1-%2").arg(base).arg(n) + kSuffix;
     XmlDocument document(QString{}, QLatin1String(fuelRoot));
     document.root()->setString(kTime, time.toString(Qt::ISODate));
-    document.root()->setChildValue(kVehicle, vehicle);
+    document.root()->setChildValue(kVehicleName, vehicle);
     putKeptTable(document.root(), sensor, name, rows);
     return document.saveAs(path) ? path : QString();
 }
@@ -49,7 +49,7 @@ std::vector<KeptTable> keptTables(const QString& folder)
         const QString sensor = document.root()->getString(QStringLiteral("type"));
         const QDateTime time = QDateTime::fromString(document.root()->getString(kTime), Qt::ISODate);
         if (!sensor.isEmpty() && time.isValid())
-            tables.push_back({path, sensor, document.root()->getString(kVehicle), time});
+            tables.push_back({path, sensor, document.root()->getString(kVehicleName), time});
     }
     std::sort(tables.begin(), tables.end(),
               [](const KeptTable& a, const KeptTable& b) { return a.time < b.time; });

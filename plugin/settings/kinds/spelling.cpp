@@ -1,7 +1,5 @@
 #include "settings/kinds/spelling.h"
 
-#include "settings/text_source.h"
-
 #include <array>
 #include <charconv>
 
@@ -30,11 +28,6 @@ bool isWholeNumber(const QString& text)
     bool whole = false;
     text.trimmed().toLongLong(&whole);
     return whole;
-}
-
-QString translated(const char* key)
-{
-    return key && *key ? textOf(key) : QString();
 }
 
 QString yesNo(bool yes)

@@ -2,6 +2,8 @@
 
 // How the kinds of rows take texts apart and put them together.
 
+#include "base/translated.h"
+
 #include <QString>
 
 #include <algorithm>
@@ -29,8 +31,7 @@ bool isListed(std::string_view codes, const Text& code)
 int digitAt(const QString& text, std::size_t position);
 bool isWholeNumber(const QString& text);
 
-// For people, in the present language or the one that text_source.h tells.
-QString translated(const char* key);
+// For people, in the present language.
 QString yesNo(bool yes);
 QString withUnit(const QString& number, const char* unit);
 

@@ -35,8 +35,7 @@ bool lengthAgrees(Bytes start)
         return record.size() >= 3 && lengthAt(start) == std::size_t{ExtraPacket::kUncountedBytes} +
                                                             qFromLittleEndian<quint16>(&record[1]);
     return start.size() >= kHeadWithLength &&
-           lengthAt(start) ==
-               RecordHead::kBytes + static_cast<std::size_t>(readHead(record).mask.payloadSize());
+           lengthAt(start) == static_cast<std::size_t>(readHead(record).mask.recordSize());
 }
 
 class BinaryReader

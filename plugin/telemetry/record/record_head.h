@@ -19,7 +19,7 @@ inline constexpr std::uint8_t kProtocol3 = 30;
 
 struct RecordHead
 {
-    static constexpr std::size_t kBytes = 2 + FieldMask::kBytes;
+    static constexpr std::size_t kBytes = FieldMask::kHeadBytes;
 
     std::uint8_t type = 0;
     std::uint8_t ver = 0;

@@ -27,13 +27,13 @@ constexpr int kQuestions[] = {1, 3, 4, 5};
 enum class Argument : std::uint8_t { None, Card, Time };
 
 // By the items of comboBox_File.
-struct FileKind
+struct TachographFile
 {
     const char* text;
     std::uint8_t code;
     Argument argument;
 };
-constexpr FileKind kFiles[] = {
+constexpr TachographFile kFiles[] = {
     {"tmiw_040", 5, Argument::Card}, {"tmiw_041", 0, Argument::None}, {"tmiw_042", 1, Argument::Time},
     {"tmiw_043", 2, Argument::None}, {"tmiw_044", 3, Argument::None}, {"tmiw_045", 4, Argument::None},
 };
@@ -161,7 +161,7 @@ void VLK_Form_TMI_Taho::retranslate()
              {tr("tmiw_033"), numbered(tr("tmiw_034"), 1), numbered(tr("tmiw_034"), 2), tr("tmiw_035")});
     setItems(ui_->comboBox_Card, {numbered(tr("tmiw_046"), 1), numbered(tr("tmiw_046"), 2)});
     QStringList files;
-    for (const FileKind& file : kFiles)
+    for (const TachographFile& file : kFiles)
         files << tr(file.text);
     setItems(ui_->comboBox_File, files);
 }

@@ -1,9 +1,9 @@
 #include "telemetry/text/tachograph_answer.h"
 
+#include "base/translated.h"
 #include "telemetry/text/tachograph_layout.h"
 #include "telemetry/text/time_text.h"
 
-#include <QCoreApplication>
 #include <QtEndian>
 
 #include <algorithm>
@@ -13,11 +13,6 @@ namespace vlk {
 namespace tachograph {
 
 namespace {
-
-QString word(const char* key)
-{
-    return QCoreApplication::translate("vlk", key);
-}
 
 // Up to the first zero byte.
 QString escapedText(const QByteArray& bytes)
@@ -37,7 +32,7 @@ quint32 number(const QByteArray& bytes)
 
 QString stateText(const Field& field, quint32 value)
 {
-    return value < std::size(field.states->values) ? word(field.states->values[value])
+    return value < std::size(field.states->values) ? translated(field.states->values[value])
                                                    : QString::number(value);
 }
 
@@ -61,9 +56,9 @@ QString valueText(const Field& field, const QByteArray& bytes)
 
 QString fieldLine(const Field& field, const QByteArray& bytes)
 {
-    QString caption = word(field.states != nullptr ? field.states->title : field.key);
+    QString caption = translated(field.states != nullptr ? field.states->title : field.key);
     if (field.numbered == Numbered::WithSign)
-        caption += QLatin1Char(' ') + word("abbr_047");
+        caption += QLatin1Char(' ') + translated("abbr_047");
     if (field.numbered != Numbered::No)
         caption += QLatin1Char(' ') + QString::number(field.number);
     const QLatin1String colon(field.colon ? ":" : "");
@@ -72,12 +67,12 @@ QString fieldLine(const Field& field, const QByteArray& bytes)
 
 QString statusLine(const QuestionLayout& layout, int kind, quint8 status)
 {
-    QString caption = word(layout.statusKey);
+    QString caption = translated(layout.statusKey);
     if (layout.statusTellsKind)
         caption += QString::number(kind);
     const QString text = status == kStatusOk            ? QStringLiteral("Ok")
                          : status == kStatusUnavailable ? QStringLiteral("n/a")
-                         : status == kStatusNoLink      ? word("tmiw_051")
+                         : status == kStatusNoLink      ? translated("tmiw_051")
                                                         : QString::number(status);
     return QStringLiteral("<b>%1: %2</b>").arg(caption, text);
 }
@@ -104,9 +99,9 @@ QString fileStateText(quint8 code)
     const auto* row = std::ranges::find(kFileStates, code, &FileState::code);
     if (row == std::end(kFileStates))
         return QStringLiteral("<b>(0x%1)</b>").arg(hex);
-    QString text = word(row->key) + QLatin1String(row->stop);
+    QString text = translated(row->key) + QLatin1String(row->stop);
     if (row->addition != nullptr)
-        text += QLatin1Char(' ') + word(row->addition) + QLatin1String(row->stop);
+        text += QLatin1Char(' ') + translated(row->addition) + QLatin1String(row->stop);
     return QStringLiteral("<b>(0x%1) %2</b>").arg(hex, text);
 }
 
@@ -118,16 +113,16 @@ TachographAnswer fileAnswer(const QByteArray& answer, const QDateTime& time)
         return result;
     const auto code = static_cast<quint8>(answer[kStatusAt]);
     const QString clock = time.toString(QStringLiteral("hh:mm:ss"));
-    result.lines << QStringLiteral("[%1] %2: %3").arg(clock, word("tmiw_098"), fileStateText(code));
+    result.lines << QStringLiteral("[%1] %2: %3").arg(clock, translated("tmiw_098"), fileStateText(code));
     if (code == kFileReady) {
         const QByteArray name = answer.mid(kFileNameAt, kFileNameBytes);
         result.readyFile = QString::fromLocal8Bit(name.constData());
     }
     if (const QByteArray count = answer.mid(kFileCountAt, sizeof(quint32)); count.size() == sizeof(quint32))
         result.lines << QStringLiteral("[%1] %2: <b>%3</b> %4")
-                            .arg(clock, word("tmiw_118"))
+                            .arg(clock, translated("tmiw_118"))
                             .arg(number(count))
-                            .arg(word("wrd_016"));
+                            .arg(translated("wrd_016"));
     return result;
 }
 
@@ -151,8 +146,8 @@ TachographAnswer tachographAnswer(const QByteArray& answer, const QDateTime& tim
 
 QString tachographFetchedLine(bool done)
 {
-    return done ? QStringLiteral("<b>%1</b>").arg(tachograph::word("tmiw_047"))
-                : QStringLiteral("<b>-=%1=-</b>").arg(tachograph::word("tmiw_048"));
+    return done ? QStringLiteral("<b>%1</b>").arg(translated("tmiw_047"))
+                : QStringLiteral("<b>-=%1=-</b>").arg(translated("tmiw_048"));
 }
 
 } // namespace vlk

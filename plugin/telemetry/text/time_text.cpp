@@ -11,13 +11,13 @@ namespace {
 using std::chrono::sys_days;
 using Clock = std::chrono::hh_mm_ss<std::chrono::seconds>;
 
-struct Moment
+struct LocalMoment
 {
     std::chrono::year_month_day date;
     Clock clock;
 };
 
-Moment momentAt(quint32 seconds, qint32 offset)
+LocalMoment momentAt(quint32 seconds, qint32 offset)
 {
     const std::chrono::sys_seconds shifted{std::chrono::seconds(qint64{seconds} + offset)};
     const sys_days day = std::chrono::floor<std::chrono::days>(shifted);
@@ -49,14 +49,14 @@ QString textOf(void (*add)(AsciiText&, quint32, qint32), quint32 seconds, qint32
 
 void addClockAndDate(AsciiText& text, quint32 seconds, qint32 offset)
 {
-    const Moment moment = momentAt(seconds, offset);
+    const LocalMoment moment = momentAt(seconds, offset);
     addClock(text, moment.clock, 2);
     addDate(text << ' ', moment.date);
 }
 
 void addDateAndClock(AsciiText& text, quint32 seconds, qint32 offset)
 {
-    const Moment moment = momentAt(seconds, offset);
+    const LocalMoment moment = momentAt(seconds, offset);
     addDate(text, moment.date);
     addClock(text << ' ', moment.clock, 1);
 }

@@ -1,8 +1,8 @@
 #include "telemetry/view/damage_text.h"
 
+#include "base/translated.h"
 #include "typing/notice_bar.h"
 
-#include <QCoreApplication>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
@@ -20,11 +20,6 @@ namespace {
 constexpr const char* kSentences[] = {"tmiw_190", "tmiw_191", "tmiw_192", "tmiw_193", "tmiw_194", nullptr};
 constexpr std::size_t kInBar = 2;
 constexpr std::size_t kInBox = 20;
-
-QString word(const char* key)
-{
-    return QCoreApplication::translate("vlk", key);
-}
 
 QString number(qint64 value)
 {
@@ -51,25 +46,25 @@ Damage damageOf(const TelemetryContents& contents)
 QStringList sentences(const Damage& damage, std::size_t most)
 {
     QStringList said{damage.announced == damage.whole
-                         ? word("tmiw_188").arg(number(damage.whole))
-                         : word("tmiw_189").arg(number(damage.whole), number(damage.announced))};
+                         ? translated("tmiw_188").arg(number(damage.whole))
+                         : translated("tmiw_189").arg(number(damage.whole), number(damage.announced))};
     const std::size_t told = std::min(damage.places.size(), most);
     for (const FileDamage& place : std::span(damage.places).first(told))
-        said << QString(word(kSentences[place.kind]))
+        said << QString(translated(kSentences[place.kind]))
                     .replace(QLatin1String("%1"), number(place.offset))
                     .replace(QLatin1String("%2"), number(place.offset + place.bytes));
     if (damage.places.size() > told)
-        said << word("tmiw_198").arg(number(static_cast<qint64>(damage.places.size() - told)));
+        said << translated("tmiw_198").arg(number(static_cast<qint64>(damage.places.size() - told)));
     return said;
 }
 
 void showAll(QWidget* window, const Damage& damage)
 {
-    QMessageBox box(QMessageBox::Warning, word("wrd_004"), sentences(damage, kInBox).join(QLatin1Char('\n')),
-                    QMessageBox::NoButton, window);
+    QMessageBox box(QMessageBox::Warning, translated("wrd_004"),
+                    sentences(damage, kInBox).join(QLatin1Char('\n')), QMessageBox::NoButton, window);
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
-    box.addButton(word("wrd_003"), QMessageBox::AcceptRole);
+    box.addButton(translated("wrd_003"), QMessageBox::AcceptRole);
     box.exec();
 }
 
@@ -92,9 +87,10 @@ void tellDamage(NoticeBar* bar, const TelemetryContents& contents, const std::fu
     bar->tell(0, [bar, goTo, record, damage = damageOf(contents)] {
         Notice notice{Mark::advice, sentences(damage, kInBar).join(QLatin1Char(' ')), {}};
         if (record >= 0)
-            notice.actions.push_back({word("tmiw_200"), [goTo, record] { goTo(record); }});
+            notice.actions.push_back({translated("tmiw_200"), [goTo, record] { goTo(record); }});
         if (damage.places.size() > kInBar)
-            notice.actions.push_back({word("tmiw_201"), [bar, damage] { showAll(bar->window(), damage); }});
+            notice.actions.push_back(
+                {translated("tmiw_201"), [bar, damage] { showAll(bar->window(), damage); }});
         return notice;
     });
 }

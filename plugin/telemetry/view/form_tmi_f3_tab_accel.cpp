@@ -11,12 +11,12 @@ constexpr ValueSeries kShocks[] = {
     {"label_SH_Value_4", "tmizta_235", item("VAccelState.3")},
 };
 
-constexpr ValueSeries kDevice[] = {
+constexpr ValueSeries kAccelDevice[] = {
     {"label_Accel_State_Value", "tmift1_019", item("Module2.4")},
     {"label_Accel_Calibr_Value", "tmift3_003", item("State.7")},
 };
 
-constexpr ValueSeries kMotion[] = {
+constexpr ValueSeries kAccelMotion[] = {
     {"label_AccelLinear_Value", "tmift3_005", item("AccelLinearX.axes")},
     {"label_VAccelVertical_Value", "tmizta_237", item("VAccelVertical")},
     {"label_VAccelLineTang_Value", "tmizta_238", item("VAccelLineTang")},
@@ -47,9 +47,9 @@ constexpr ValueSeries kThresholds[] = {
 VLK_Form_Tmi_F3_Tab_Accel::VLK_Form_Tmi_F3_Tab_Accel(QWidget* parent)
     : VLK_Form_Tmi_F3_Tab("tmift3_001", parent)
 {
-    addGroup(0, "groupBox_Accel", "tmizta_142")->addList(kDevice);
+    addGroup(0, "groupBox_Accel", "tmizta_142")->addList(kAccelDevice);
     addGroup(0, "groupBox_SH", "tmift3_002")->addList(kShocks);
-    addGroup(1, "groupBox_AccelMotion", "tmift3_004")->addList(kMotion);
+    addGroup(1, "groupBox_AccelMotion", "tmift3_004")->addList(kAccelMotion);
     addGroup(1, "groupBox_EcoDriving", "tmift3_006")->addList(kExtremes);
     addWideGroup("groupBox_EcoDrivingThresholds", "tmift3_007")->addColumns(kThresholds);
 }

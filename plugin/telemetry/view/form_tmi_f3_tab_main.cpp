@@ -19,7 +19,7 @@ namespace {
 
 using Main = VLK_Form_Tmi_F3_Tab_Main;
 
-constexpr ValueSeries kDevice[] = {
+constexpr ValueSeries kMainDevice[] = {
     {"label_Dev_USB_Value", "tmizta_132", item("Module1.1")},
     {"label_Dev_Bluetooth_Value", "tmizta_143", item("Module2.5")},
     {"label_Dev_WiFi_Value", "tmizta_144", item("Module2.6"), 1, Main::WiFi},
@@ -41,7 +41,7 @@ constexpr ValueSeries kConnection[] = {
     {"label_Cnct_Bluetooth_Value", "tmizta_143", item("StateCnct.7")},
 };
 
-constexpr ValueSeries kModem[] = {
+constexpr ValueSeries kMainModem[] = {
     {"label_GSM_State_Value", "tmift1_019", item("Module1.modem")},
 };
 
@@ -74,7 +74,7 @@ constexpr ValueSeries kSatellites[] = {
     {"label_NaviPdop_Value", "tmift1_049", item("NaviPDop")},
 };
 
-constexpr ValueSeries kPrecise[] = {
+constexpr ValueSeries kPreciseNavigation[] = {
     {"label_NaviExt_State_Value", "tmift1_051", item("NaviState.0"), 1, Main::NaviExt},
     {"label_NaviExt_Valid_Value", "tmift1_030", item("NaviState.1"), 1, Main::NaviExt},
     {"label_NaviExt_SatCount_Value", "tmift1_028", item("NaviState.satellites"), 1, Main::NaviExt},
@@ -122,11 +122,11 @@ VLK_Form_Tmi_F3_Tab_Main::VLK_Form_Tmi_F3_Tab_Main(QWidget* parent)
     : VLK_Form_Tmi_F3_Tab("tmift1_001", parent), level_(new QProgressBar), sim1_(new QRadioButton),
       sim2_(new QRadioButton), run_(new QPushButton)
 {
-    addGroup(0, "groupBox_Device", "tmift1_002")->addList(kDevice);
+    addGroup(0, "groupBox_Device", "tmift1_002")->addList(kMainDevice);
     addGroup(0, "groupBox_Cnct", "tmift1_005")->addList(kConnection);
     addGsm();
     addNavigation();
-    addGroup(1, "groupBox_NaviExt", "tmizta_178")->addList(kPrecise);
+    addGroup(1, "groupBox_NaviExt", "tmizta_178")->addList(kPreciseNavigation);
     addGroup(2, "groupBox_NaviInfo", "tmift1_050")->addList(kSatellites, 5);
     RecordGroup* stations = addGroup(2, "groupBox_LBS", "tmift1_052");
     stations->addTable(kCells, std::span<const ValueTableRow<3>>(kStations));
@@ -137,7 +137,7 @@ VLK_Form_Tmi_F3_Tab_Main::VLK_Form_Tmi_F3_Tab_Main(QWidget* parent)
 void VLK_Form_Tmi_F3_Tab_Main::addGsm()
 {
     RecordGroup* group = addGroup(0, "groupBox_GSM", "tmift1_018");
-    group->addList(kModem);
+    group->addList(kMainModem);
 
     level_->setObjectName(QStringLiteral("progressBar_GSM_Level_Value"));
     level_->setRange(0, 100);

@@ -9,17 +9,17 @@ using namespace vlk;
 
 namespace {
 
-constexpr ValueSeries kAnalog[] = {
+constexpr ValueSeries kAnalogSensors[] = {
     {"label_Analog_Power_Value", "tmift2_024", item("Power")},
     {"label_Analog_Reserv_Value", "tmift2_022", item("Reserv")},
     {"label_Analog_Value_In_%1", "tmift2_003", item("StateU_Ain1"), 8},
 };
 
-constexpr ValueSeries kInputs[] = {
+constexpr ValueSeries kInputSensors[] = {
     {"label_In_Value_%1", "tmift2_008", item("StateIn1.0"), 24, 0, "label_In_Caption_%1"},
 };
 
-constexpr ValueSeries kOutputs[] = {
+constexpr ValueSeries kOutputSensors[] = {
     {"label_Out_Value_%1", "tmift2_010", item("StateOut1.0"), 16, 0, "label_Out_Caption_%1"},
 };
 
@@ -32,7 +32,7 @@ constexpr ValueSeries kTemperatures[] = {
     {"label_TS_Value_%1", "tmift2_017", item("Temp1"), 8, 0, "label_TS_Caption_%1"},
 };
 
-constexpr ValueSeries kPrecise[] = {
+constexpr ValueSeries kPreciseSensors[] = {
     {"label_HP_Value_Temp_%1", "tmizta_185", item("HPrecisionTemp1"), 4},
     {"label_HP_Value_Humidity_%1", "tmift2_019", item("HPrecisionHumidity1"), 4},
 };
@@ -43,15 +43,15 @@ VLK_Form_Tmi_F3_Tab_Sensors::VLK_Form_Tmi_F3_Tab_Sensors(QWidget* parent)
     : VLK_Form_Tmi_F3_Tab("tmift2_001", parent), commands_(new QWidget), output_(new VLK_ComboBox),
       on_(new QPushButton), off_(new QPushButton)
 {
-    addGroup(0, "groupBox_Analog", "tmift2_002")->addList(kAnalog);
+    addGroup(0, "groupBox_Analog", "tmift2_002")->addList(kAnalogSensors);
     inputs_ = addGroup(1, "groupBox_In", "tmift2_006");
-    inputs_->addList(kInputs);
+    inputs_->addList(kInputSensors);
     outputs_ = addGroup(1, "groupBox_Out", "tmift2_009");
-    outputs_->addList(kOutputs);
+    outputs_->addList(kOutputSensors);
     addGroup(0, "groupBox_Impuls", "tmift2_013")->addColumns(kPulses);
     temperatures_ = addGroup(2, "groupBox_TS", "tmift2_016");
     temperatures_->addList(kTemperatures);
-    addGroup(2, "groupBox_HP", "tmift2_018")->addColumns(kPrecise);
+    addGroup(2, "groupBox_HP", "tmift2_018")->addColumns(kPreciseSensors);
 
     output_->setObjectName(QStringLiteral("comboBox_Out"));
     on_->setObjectName(QStringLiteral("pushButton_Out_On"));

@@ -20,11 +20,11 @@ using namespace vlk;
 
 namespace {
 
-constexpr ValueRow kModem[] = {
+constexpr ValueRow kProductionModem[] = {
     {"label_GSM_State_Value", "tmift1_019", item("Module1.modem")},
 };
 
-constexpr ValueRow kAnalog[] = {
+constexpr ValueRow kProductionAnalog[] = {
     {"label_Analog_Reserv_Value", "tmift2_022", item("Reserv")},
     {"label_Analog_Ain3_Value", "tmift2_023", item("StateU_Ain3"), "label_Analog_Ain3_Unit"},
 };
@@ -36,7 +36,7 @@ struct InputRow
     const char* caption;
     ItemIndex item;
 };
-constexpr InputRow kInputs[] = {
+constexpr InputRow kProductionInputs[] = {
     {"label_In_I1_%1", "lN1:", item("StateIn1.0")},
     {"label_In_I2_%1", "lN2:", item("StateIn1.1")},
 };
@@ -87,7 +87,7 @@ VLK_Form_TMI_Production::VLK_Form_TMI_Production(vlk::EventPanel* panel, QWidget
       level_(new QProgressBar(this)), scroll_(new QScrollArea(this)), columns_(new QHBoxLayout)
 {
     auto* modem = addGroup("groupBox_GSM", "tmift1_018");
-    rows_.add(modem, kModem);
+    rows_.add(modem, kProductionModem);
     level_->setObjectName(QStringLiteral("progressBar_GSM_Level_Value"));
     level_->setRange(0, 100);
     level_->setValue(0);
@@ -96,10 +96,10 @@ VLK_Form_TMI_Production::VLK_Form_TMI_Production(vlk::EventPanel* panel, QWidget
     levelShown_ = new DashedValue(level_);
     modem->addWidget(levelShown_, modem->rowCount() - 1, 1);
 
-    rows_.add(addGroup("groupBox_Analog", "tmift2_002"), kAnalog);
+    rows_.add(addGroup("groupBox_Analog", "tmift2_002"), kProductionAnalog);
 
     auto* inputs = addGroup("groupBox_In", "tmift2_006");
-    for (const InputRow& row : kInputs) {
+    for (const InputRow& row : kProductionInputs) {
         QLabel* caption = makeCaption(named(row.stem, "Caption"));
         caption->setText(QLatin1String(row.caption));
         inputTexts_.push_back(makeCaption(named(row.stem, "Text")));
@@ -172,8 +172,8 @@ void VLK_Form_TMI_Production::fill(const TmiPage_Zeta3& page)
     rows_.fill(page);
     level_->setValue(signalPercent(page.value<element("GSM")>()));
     levelShown_->setAbsent(!holds(page, element("GSM")));
-    for (std::size_t i = 0; i < std::size(kInputs); ++i)
-        showItem(*inputValues_[i], page, kInputs[i].item);
+    for (std::size_t i = 0; i < std::size(kProductionInputs); ++i)
+        showItem(*inputValues_[i], page, kProductionInputs[i].item);
     for (std::size_t i = 0; i < std::size(kLastSegment); ++i)
         showItem(*segmentValues_[i], page, kLastSegment[i].item);
 }

@@ -19,8 +19,8 @@ using namespace vlk;
 
 namespace {
 
-constexpr int kInputs = 4;
-constexpr int kOutputs = 3;
+constexpr int kInputCount = 4;
+constexpr int kOutputCount = 3;
 constexpr quint64 kFourthOutput = 1U << 3;
 
 // What trackers of this model do not have.
@@ -90,8 +90,8 @@ void VLK_Form_TMI_Zeta3::hideAbsentParts()
 {
     for (const Main::Part part : kAbsent)
         main_->setPartVisible(part, false);
-    sensors_->setInputCount(kInputs);
-    sensors_->setOutputCount(kOutputs);
+    sensors_->setInputCount(kInputCount);
+    sensors_->setOutputCount(kOutputCount);
 }
 
 void VLK_Form_TMI_Zeta3::setTitles(const TelemetryTitles& titles)
@@ -101,7 +101,7 @@ void VLK_Form_TMI_Zeta3::setTitles(const TelemetryTitles& titles)
 
 void VLK_Form_TMI_Zeta3::setCapabilityMask(quint64 mask)
 {
-    sensors_->setOutputCount((mask & kFourthOutput) != 0 ? kOutputs + 1 : kOutputs);
+    sensors_->setOutputCount((mask & kFourthOutput) != 0 ? kOutputCount + 1 : kOutputCount);
 }
 
 void VLK_Form_TMI_Zeta3::setCommandsEnabled(bool enabled)

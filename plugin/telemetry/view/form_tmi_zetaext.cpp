@@ -21,7 +21,7 @@ constexpr ValueRow kPlace[] = {
     {"label_Navi_Lon_Value", "tmiex_006", item("Longitude")},
 };
 
-constexpr ValueRow kMotion[] = {
+constexpr ValueRow kPacketMotion[] = {
     {"label_Navi_Alt_Value", "tmiex_007", item("Altitude")},
     {"label_Navi_Speed_Value", "tmiex_008", item("Speed")},
     {"label_Navi_Course_Value", "tmiex_009", item("Course")},
@@ -61,7 +61,7 @@ VLK_Form_TMI_ZetaExt::VLK_Form_TMI_ZetaExt(vlk::EventPanel* panel, QWidget* pare
     auto* grid = new QGridLayout(groupBox_NaviMain_);
     grid->setHorizontalSpacing(12);
     rows_.add(grid, kPlace);
-    rows_.add(grid, kMotion, 2);
+    rows_.add(grid, kPacketMotion, 2);
 
     treeWidget_->setObjectName(QStringLiteral("treeWidget"));
     treeWidget_->setColumnCount(2);

@@ -1,5 +1,6 @@
 #include "telemetry/view/record_group.h"
 
+#include "base/translated.h"
 #include "telemetry/view/dashed_value.h"
 #include "telemetry/view/item_display.h"
 #include "telemetry/view/value_label.h"
@@ -7,7 +8,6 @@
 #include "typing/present_value.h"
 #include "typing/title_style.h"
 
-#include <QCoreApplication>
 #include <QGridLayout>
 
 namespace vlk {
@@ -20,11 +20,6 @@ constexpr int kMostCharacters = 24;
 constexpr int kListSpacing = 8;
 constexpr int kTableSpacing = 10;
 constexpr int kColumnsOfList = 4; // caption, title, value, room
-
-QString translated(const char* key)
-{
-    return QCoreApplication::translate("vlk", key);
-}
 
 QString numbered(const char* key, int number)
 {

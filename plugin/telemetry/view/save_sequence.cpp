@@ -2,12 +2,12 @@
 
 #include "base/clock.h"
 #include "base/replace_file.h"
+#include "base/translated.h"
 #include "link/device.h"
 #include "link/requests.h"
 #include "telemetry/record/record_head.h"
 #include "telemetry/text/time_text.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QLoggingCategory>
@@ -26,7 +26,7 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcPart, "vlk.save.part")
 
-struct FileKind
+struct SavedFileKind
 {
     const char* name; // key
     const char* suffix;
@@ -34,20 +34,15 @@ struct FileKind
 };
 
 // By mode, from Xml on.
-constexpr FileKind kFileKinds[] = {
+constexpr SavedFileKind kFileKinds[] = {
     {"tmiw_179", "xml", TelemetryForm::xml},
     {"tmiw_180", "csv", TelemetryForm::csv},
     {"tmiw_181", "tmi", TelemetryForm::binary},
 };
 
-const FileKind& kindOf(SaveSequence::Mode mode)
+const SavedFileKind& kindOf(SaveSequence::Mode mode)
 {
     return kFileKinds[mode - SaveSequence::Xml];
-}
-
-QString word(const char* key)
-{
-    return QCoreApplication::translate("vlk", key);
 }
 
 // None where the record is too short to have one.
@@ -71,7 +66,7 @@ void SaveSequence::start(Mode mode, const QDateTime& first, const QDateTime& las
     saving_ = true;
     saveCancelled_ = false;
     if (first >= last) {
-        refuse(word("tmiw_154"));
+        refuse(translated("tmiw_154"));
         return;
     }
     saveMode_ = mode;
@@ -163,7 +158,7 @@ void SaveSequence::takeLast(const QByteArray& record)
     const auto last = numberOf(records_.back());
     if (!first || !last || *last <= *first) {
         end();
-        refuse(word("tmiw_155"));
+        refuse(translated("tmiw_155"));
         return;
     }
     fileChosen_ = chooseFile();
@@ -208,10 +203,11 @@ void SaveSequence::takeNext(const QByteArray& record)
 
 bool SaveSequence::chooseFile()
 {
-    const FileKind& kind = kindOf(saveMode_);
+    const SavedFileKind& kind = kindOf(saveMode_);
     const QString suffix = QLatin1String(kind.suffix);
-    QFileDialog dialog(window_, word("wrd_028"), vlkDevice != nullptr ? vlkDevice->tmiFolder() : QString(),
-                       QStringLiteral("%1 (*.%2)").arg(word(kind.name), suffix));
+    QFileDialog dialog(window_, translated("wrd_028"),
+                       vlkDevice != nullptr ? vlkDevice->tmiFolder() : QString(),
+                       QStringLiteral("%1 (*.%2)").arg(translated(kind.name), suffix));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(suffix);
     dialog.selectFile(proposedName_ + QLatin1Char('.') + suffix);
@@ -221,7 +217,7 @@ bool SaveSequence::chooseFile()
         const QString reason = whyNotReplaceable(saveFileName_);
         if (reason.isEmpty())
             return isRunning();
-        refuse(word("tmiw_187").arg(QDir::toNativeSeparators(saveFileName_), reason));
+        refuse(translated("tmiw_187").arg(QDir::toNativeSeparators(saveFileName_), reason));
     }
     return false;
 }
@@ -280,9 +276,9 @@ void SaveSequence::tellPart(const RecordBytes& records)
 
 void SaveSequence::refuse(const QString& text)
 {
-    QMessageBox box(QMessageBox::Warning, word("wrd_004"), text, QMessageBox::NoButton, window_);
+    QMessageBox box(QMessageBox::Warning, translated("wrd_004"), text, QMessageBox::NoButton, window_);
     box.setTextFormat(Qt::PlainText);
-    box.addButton(word("wrd_003"), QMessageBox::AcceptRole);
+    box.addButton(translated("wrd_003"), QMessageBox::AcceptRole);
     box.exec();
 }
 

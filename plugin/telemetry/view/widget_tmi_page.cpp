@@ -24,7 +24,7 @@ using namespace vlk;
 
 namespace {
 
-std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_Page> setUpUi(QDialog* window)
+std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_Page> setUpPageUi(QDialog* window)
 {
     auto ui = std::make_unique<Ui::VLK_Designer_Widget_Tmi_Page>();
     ui->setupUi(window);
@@ -44,7 +44,7 @@ int lastPosition(const TelemetryPages& pages)
 
 VLK_Widget_Tmi_Page::VLK_Widget_Tmi_Page(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
-      ui_(setUpUi(this)), file_(new vlk::ValueLabel(QStringLiteral("label_File"))),
+      ui_(setUpPageUi(this)), file_(new vlk::ValueLabel(QStringLiteral("label_File"))),
       eventPanel_(new vlk::EventPanel(this)),
       damageNotice_(new vlk::NoticeBar(this, QStringLiteral("label_Damage"))),
       stack_(ui_->stackedWidget, eventPanel_, false)

@@ -21,7 +21,7 @@ namespace {
 
 constexpr int kFirstProductionMode = 1;
 
-std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_View> setUpUi(QDialog* window)
+std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_View> setUpViewUi(QDialog* window)
 {
     auto ui = std::make_unique<Ui::VLK_Designer_Widget_Tmi_View>();
     ui->setupUi(window);
@@ -32,7 +32,7 @@ std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_View> setUpUi(QDialog* window)
 
 VLK_Widget_Tmi_View::VLK_Widget_Tmi_View(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
-      ui_(setUpUi(this)), eventPanel_(new vlk::EventPanel(this)),
+      ui_(setUpViewUi(this)), eventPanel_(new vlk::EventPanel(this)),
       partNotice_(new vlk::NoticeBar(this, QStringLiteral("label_SavedInPart"))),
       pages_(ui_->stackedWidget, eventPanel_), automatic_(this),
       clearing_({ui_->checkBox_Server1, ui_->checkBox_Server2, ui_->checkBox_Server3}), save_(this, *ui_),

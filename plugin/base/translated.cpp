@@ -1,4 +1,4 @@
-#include "settings/text_source.h"
+#include "base/translated.h"
 
 #include <QCoreApplication>
 
@@ -19,8 +19,10 @@ TextsFrom::~TextsFrom()
     present = before_;
 }
 
-QString textOf(const char* key)
+QString translated(const char* key)
 {
+    if (!key || !*key)
+        return {};
     return present ? (*present)(key) : QCoreApplication::translate("vlk", key);
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// Where texts of settings come from: the language on show, or another one for a while. A library has no
+// The text of a translation key: in the language on show, or in another one for a while. A library has no
 // translations of its own; whoever has those of another language wraps them in a function.
 
 #include <QString>
@@ -25,6 +25,7 @@ private:
     const TextSource* const before_;
 };
 
-QString textOf(const char* key);
+// Empty for no key.
+QString translated(const char* key);
 
 } // namespace vlk
