@@ -51,6 +51,24 @@ QPainterPath drawing(LineIcon icon)
         lines({{12, 4}, {12, 20}});
         lines({{5, 13}, {12, 20}, {19, 13}});
         break;
+    case LineIcon::cross:
+        lines({{6, 6}, {18, 18}});
+        lines({{18, 6}, {6, 18}});
+        break;
+    case LineIcon::undo:
+        path.moveTo(5, 9);
+        path.lineTo(14, 9);
+        path.cubicTo(21, 9, 21, 19, 14, 19);
+        path.lineTo(10, 19);
+        lines({{9, 4}, {4, 9}, {9, 14}});
+        break;
+    case LineIcon::redo:
+        path.moveTo(19, 9);
+        path.lineTo(10, 9);
+        path.cubicTo(3, 9, 3, 19, 10, 19);
+        path.lineTo(14, 19);
+        lines({{15, 4}, {20, 9}, {15, 14}});
+        break;
     }
     return path;
 }

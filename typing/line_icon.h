@@ -22,6 +22,9 @@ enum class LineIcon {
     plus,
     up,
     down,
+    cross,
+    undo,
+    redo,
 };
 
 QIcon lineIcon(LineIcon which);

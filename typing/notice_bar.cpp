@@ -1,5 +1,7 @@
 #include "typing/notice_bar.h"
 
+#include "typing/line_icon.h"
+
 #include <QAccessible>
 #include <QApplication>
 #include <QEvent>
@@ -20,20 +22,6 @@ constexpr int kHeight = 36;
 constexpr int kMargin = 9;
 constexpr int kGap = 8;
 constexpr double kTint = 0.12;
-
-QIcon crossIcon(const QPalette& palette)
-{
-    constexpr int size = 32; // twice what a button shows, for screens of high density
-    QPixmap pixmap(size, size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(palette.color(QPalette::WindowText), 3, Qt::SolidLine, Qt::RoundCap));
-    painter.drawLine(9, 9, size - 9, size - 9);
-    painter.drawLine(size - 9, 9, 9, size - 9);
-    painter.end();
-    return QIcon(pixmap);
-}
 
 } // namespace
 
@@ -86,7 +74,7 @@ void NoticeBar::closeShown()
 
 void NoticeBar::setCross()
 {
-    close_->setIcon(crossIcon(palette()));
+    close_->setIcon(lineIcon(LineIcon::cross));
 }
 
 void NoticeBar::changeEvent(QEvent* event)

@@ -2,11 +2,15 @@
 
 #include "ui_VLK_Designer_Widget_Config.h"
 
+#include "dialog/config_pages.h"
 #include "dialog/file_names.h"
+#include "dialog/review_bar.h"
+#include "dialog/review_panel.h"
 #include "dialog/widget_config_full.h"
 #include "dialog/widget_config_light.h"
 #include "link/device.h"
 #include "link/requests.h"
+#include "settings/all_settings.h"
 #include "typing/kept_palette.h"
 #include "windows/fit_to_screen.h"
 #include "xml/xml_document.h"
@@ -15,7 +19,10 @@
 
 VLK_Widget_Config::VLK_Widget_Config(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
-      ui_(std::make_unique<Ui::VLK_Designer_Widget_Config>())
+      ui_(std::make_unique<Ui::VLK_Designer_Widget_Config>()),
+      history_({[this] { return ui_->stackedWidget->currentIndex(); },
+                [this](int window) { ui_->stackedWidget->setCurrentIndex(window); }}),
+      review_(history_, [this] { return isQuick(); }), places_([this] { return pagesOnShow(); })
 {
     ui_->setupUi(this);
     setWindowModality(Qt::ApplicationModal);
@@ -32,29 +39,76 @@ VLK_Widget_Config::VLK_Widget_Config(QWidget* parent)
     connect(lightWindow_, &VLK_Widget_Config_Light::fullRequested, this, &VLK_Widget_Config::switchToFull);
     connect(fullWindow_, &VLK_Widget_Config_Full::closeRequested, this, &QDialog::close);
     connect(fullWindow_, &VLK_Widget_Config_Full::quickRequested, this, &VLK_Widget_Config::switchToQuick);
+    addReview();
     retranslate();
 }
 
 VLK_Widget_Config::~VLK_Widget_Config() = default;
+
+void VLK_Widget_Config::addReview()
+{
+    fullWindow_->pages().forEach([this](auto& page) { history_.watch(page.settings()); });
+    connect(lightWindow_, &VLK_Widget_Config_Light::formMade, this,
+            [this](vlk::PageSettings& settings) { history_.watch(settings); });
+    bar_ = new vlk::ReviewBar(review_, places_, this);
+    panel_ = new vlk::ReviewPanel(review_, places_, this);
+    ui_->gridLayout->addWidget(bar_, 0, 0);
+    ui_->gridLayout->addWidget(ui_->stackedWidget, 1, 0);
+    ui_->gridLayout->addWidget(panel_, 2, 0);
+    ui_->gridLayout->setVerticalSpacing(0);
+    connect(bar_, &vlk::ReviewBar::panelRequested, this, &VLK_Widget_Config::showPanel);
+    connect(panel_, &vlk::ReviewPanel::closed, this, [this] { showPanel(false); });
+    connect(&history_, &vlk::EditHistory::stepped, this, [this](int page, int row) {
+        const auto& table = history_.pages()[page]->values().table();
+        places_.goTo(vlk::review::FileKeys::all().tableOf(table), row);
+    });
+}
+
+void VLK_Widget_Config::showPanel(bool open)
+{
+    bar_->setPanelOpen(open);
+    if (open)
+        return panel_->open();
+    panel_->hide();
+    ui_->stackedWidget->currentWidget()->setFocus(Qt::OtherFocusReason);
+}
+
+bool VLK_Widget_Config::isQuick() const
+{
+    return ui_->stackedWidget->currentWidget() == ui_->page_Light;
+}
+
+std::vector<vlk::PageSettings*> VLK_Widget_Config::pagesOnShow() const
+{
+    std::vector<vlk::PageSettings*> pages = history_.pages();
+    const auto quick = pages.begin() + vlk::allSettings().size();
+    if (isQuick())
+        pages.erase(pages.begin(), quick);
+    else
+        pages.erase(quick, pages.end());
+    return pages;
+}
 
 void VLK_Widget_Config::open(const vlk::OpenRequest& request, char* ussdBuffer)
 {
     lightWindow_->setDefaults();
     fullWindow_->setDefaults();
     const QString path = QString::fromLocal8Bit(static_cast<const char*>(request.path));
+    vlk::XmlDocument document(path, QStringLiteral("DEVICE"));
     QString title = vlkDevice ? vlkDevice->model() : QString();
     if (path.isEmpty()) {
         title += QStringLiteral(": New");
     } else {
-        fullWindow_->loadFile(path, ussdBuffer);
+        fullWindow_->loadFromXml(document.root(), ussdBuffer);
         title += request.fromFile == 1 ? QStringLiteral(": %1").arg(QFileInfo(path).fileName())
                                        : QStringLiteral(": Device");
     }
     setWindowTitle(title);
     const bool isFull = request.showFull == 1;
     if (!isFull && !path.isEmpty())
-        lightWindow_->loadFile(path);
+        lightWindow_->loadFromXml(document.root());
     ui_->stackedWidget->setCurrentWidget(isFull ? ui_->page_Full : ui_->page_Light);
+    review_.begin(path.isEmpty() ? nullptr : document.root());
     vlk::fitToScreen(this);
     show();
     if (isFull)
@@ -101,6 +155,16 @@ void VLK_Widget_Config::saveToXml(CXmlSection* root)
 
 void VLK_Widget_Config::switchToFull()
 {
+    history_.asOne([] { return QCoreApplication::translate("vlk", "rev_128"); }, [this] { showFull(); });
+}
+
+void VLK_Widget_Config::switchToQuick()
+{
+    history_.asOne([] { return QCoreApplication::translate("vlk", "rev_129"); }, [this] { showQuick(); });
+}
+
+void VLK_Widget_Config::showFull()
+{
     vlk::XmlDocument state(QString(), QStringLiteral("DEVICE"));
     saveToXml(state.root());
     state.root()->commit();
@@ -109,7 +173,7 @@ void VLK_Widget_Config::switchToFull()
     ui_->stackedWidget->setCurrentWidget(ui_->page_Full);
 }
 
-void VLK_Widget_Config::switchToQuick()
+void VLK_Widget_Config::showQuick()
 {
     vlk::XmlDocument state(QString(), QStringLiteral("DEVICE"));
     fullWindow_->saveToXml(state.root());
@@ -123,6 +187,12 @@ void VLK_Widget_Config::retranslate()
     setLocale(QLocale());
     if (vlkDevice)
         setWindowTitle(vlkDevice->model());
-    lightWindow_->retranslate();
-    fullWindow_->retranslate();
+    // Lists can lose an item with the language.
+    history_.asOne([] { return QCoreApplication::translate("vlk", "rev_130"); },
+                   [this] {
+                       lightWindow_->retranslate();
+                       fullWindow_->retranslate();
+                   });
+    bar_->retranslate();
+    panel_->retranslate();
 }

@@ -5,6 +5,9 @@
 // tracker. A file always goes into the full window, and into the quick window when that one is shown.
 // Failures of files are told to the log alone, and what could not be saved is not written to the tracker.
 
+#include "dialog/configuration_review.h"
+#include "dialog/setting_places.h"
+
 #include <QDialog>
 
 #include <memory>
@@ -18,8 +21,10 @@ class VLK_Designer_Widget_Config;
 }
 
 namespace vlk {
+class ReviewBar;
+class ReviewPanel;
 struct OpenRequest;
-}
+} // namespace vlk
 
 class VLK_Widget_Config : public QDialog
 {
@@ -45,11 +50,23 @@ public:
     void retranslate();
 
     VLK_Widget_Config_Full* fullWindow() const { return fullWindow_; }
+    vlk::ConfigurationReview& review() { return review_; }
 
 private:
     void saveToXml(CXmlSection* root);
+    bool isQuick() const;
+    std::vector<vlk::PageSettings*> pagesOnShow() const;
+    void showFull();
+    void showQuick();
+    void addReview();
+    void showPanel(bool open);
 
     std::unique_ptr<Ui::VLK_Designer_Widget_Config> ui_;
     VLK_Widget_Config_Light* lightWindow_;
     VLK_Widget_Config_Full* fullWindow_;
+    vlk::EditHistory history_;
+    vlk::ConfigurationReview review_;
+    vlk::SettingPlaces places_;
+    vlk::ReviewBar* bar_ = nullptr;
+    vlk::ReviewPanel* panel_ = nullptr;
 };

@@ -82,12 +82,6 @@ void VLK_Widget_Config_Full::buildTabs()
     });
 }
 
-void VLK_Widget_Config_Full::loadFile(const QString& path, char* ussdBuffer)
-{
-    vlk::XmlDocument document(path, QStringLiteral("DEVICE"));
-    loadFromXml(document.root(), ussdBuffer);
-}
-
 bool VLK_Widget_Config_Full::saveFile(const QString& path)
 {
     vlk::XmlDocument document(QString(), QStringLiteral("DEVICE"));

@@ -23,12 +23,10 @@ public:
     explicit VLK_Widget_Config_Full(QWidget* parent = nullptr);
     ~VLK_Widget_Config_Full() override;
 
-    // Reads a file into the pages, and its balance request code into `ussdBuffer` (vlk::balanceUssdSize
-    // bytes), which an unusable file leaves as it is.
-    void loadFile(const QString& path, char* ussdBuffer);
     // Replaces whatever the file holds. False when that failed, which the log says (base/save_log.h).
     bool saveFile(const QString& path);
-    // Read and write an open document in place of a file.
+    // Reads a document into the pages, and its balance request code into `ussdBuffer` (vlk::balanceUssdSize
+    // bytes), which one that could not be read leaves as it is.
     void loadFromXml(CXmlSection* root, char* ussdBuffer);
     void saveToXml(CXmlSection* root);
 

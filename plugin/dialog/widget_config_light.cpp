@@ -58,6 +58,7 @@ VLK_Form_Config_Light& VLK_Widget_Config_Light::form()
         area_->setWidgetResizable(true);
         area_->setFrameShape(QFrame::NoFrame);
         area_->setWidget(form_);
+        Q_EMIT formMade(form_->settings());
         ui_->gridLayout_Form->addWidget(area_);
         // Behind the form the buttons, as read.
         QWidget* before = form_->lastField();
@@ -81,12 +82,6 @@ void VLK_Widget_Config_Light::setDefaults()
 {
     if (form_)
         form_->setDefaults();
-}
-
-void VLK_Widget_Config_Light::loadFile(const QString& path)
-{
-    vlk::XmlDocument document(path, QStringLiteral("DEVICE"));
-    form().loadFromXml(document.root());
 }
 
 void VLK_Widget_Config_Light::loadFromXml(CXmlSection* root)

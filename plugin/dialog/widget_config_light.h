@@ -7,6 +7,10 @@
 
 #include <memory>
 
+namespace vlk {
+class PageSettings;
+}
+
 struct CXmlSection;
 class QScrollArea;
 class VLK_Form_Config_Light;
@@ -25,7 +29,6 @@ public:
 
     void retranslate();
     void setDefaults();
-    void loadFile(const QString& path);
     void loadFromXml(CXmlSection* root);
     void saveToXml(CXmlSection* root);
     // What a save into a file or for the tracker leaves to be told.
@@ -40,6 +43,8 @@ public:
 Q_SIGNALS:
     void closeRequested();
     void writeRequested();
+    // The form is made when it is first needed.
+    void formMade(vlk::PageSettings& settings);
     void saveRequested(const QString& path);
     // The user wants the full window instead.
     void fullRequested();

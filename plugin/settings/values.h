@@ -64,6 +64,9 @@ public:
     // The value that counts.
     const QString& value(int row) const;
     QString value(const QString& path) const { return value(rowAt(path)); }
+    // Row by row, as putBack() takes it: no rule runs then.
+    const std::vector<QString>& held() const { return values_; }
+    void putBack(const std::vector<QString>& held) { values_ = held; }
     // Whether a file of this state has the key, and what it holds there.
     bool isWritten(int row) const;
     QString written(int row) const { return written(row, value(row)); }

@@ -319,6 +319,27 @@ void Binder::logNews()
     }
 }
 
+QWidget* Binder::widgetOf(int row, int part) const
+{
+    const Setting& setting = values_.setting(row);
+    const Numbers numbers = setting.base().numbers;
+    QVector<QWidget*> boxes;
+    const auto add = [&](const Name& name) { boxes << forms_.find(name, numbers); };
+    std::visit(
+        [&](const auto& kind) {
+            if constexpr (requires { eachBox(kind, add); })
+                eachBox(kind, add);
+        },
+        setting.kind);
+    if (part >= 0 && part < boxes.size() && boxes[part])
+        return boxes[part];
+    const Shown* shown = setting.shown();
+    QWidget* widget = shown ? forms_.find(shown->widget, numbers) : nullptr;
+    for (QWidget* box : boxes)
+        widget = widget ? widget : box;
+    return widget;
+}
+
 void Binder::forget()
 {
     for (const auto& adapter : adapters_) {

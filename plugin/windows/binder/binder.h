@@ -64,6 +64,9 @@ public:
     // Rows whose widgets hold another value than the settings.
     QStringList disagreements() const;
 
+    // Of one with many boxes that of a part. Null where its form is not there.
+    QWidget* widgetOf(int row, int part = -1) const;
+
     const Values& values() const override { return values_; }
     const BoundForms& forms() const override { return forms_; }
     bool isShowing() const override { return showing_ > 0; }

@@ -20,6 +20,8 @@ public:
     // rows that have the number, before any other widget.
     void add(QWidget* form, int number);
 
+    // The page itself.
+    QWidget* first() const { return forms_.empty() ? nullptr : forms_.back().widget.data(); }
     // In the form with the object name that the name tells, with its numbers in. Null when there is none.
     QWidget* find(const Name& name, Numbers numbers) const;
     QWidget* find(const QString& form, const QString& widget, int number) const;

@@ -62,6 +62,14 @@ void PageSettings::save(CXmlSection* root)
     values_.write(*root);
 }
 
+void PageSettings::putBack(const std::vector<QString>& held)
+{
+    if (held == values_.held())
+        return;
+    values_.putBack(held);
+    showOthers();
+}
+
 void PageSettings::retranslate()
 {
     title_ = titleKey_ ? QCoreApplication::translate("vlk", titleKey_) : QString();

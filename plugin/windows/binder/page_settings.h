@@ -49,6 +49,8 @@ public:
     QString value(const QString& path) const { return values_.value(path); }
     int number(const QString& path) const { return value(path).toInt(); }
     void edit(const QString& path, const QString& value);
+    // Values of earlier (Values::held()), which no rule changes.
+    void putBack(const std::vector<QString>& held);
     void selectFirstItems() { binder_->selectFirstItems(); }
 
     const Values& values() const { return values_; }

@@ -1,0 +1,121 @@
+#include "dialog/configuration_review.h"
+
+#include "review/take_over.h"
+#include "settings/all_settings.h"
+#include "xml/xml_document.h"
+
+#include <algorithm>
+
+namespace vlk {
+
+using review::Differences;
+using review::FileKeys;
+using review::FileState;
+
+ConfigurationReview::ConfigurationReview(EditHistory& history, std::function<bool()> isQuick, QObject* parent)
+    : QObject(parent), history_(history), isQuick_(std::move(isQuick))
+{
+    connect(&history_, &EditHistory::changed, this, &ConfigurationReview::refresh);
+}
+
+void ConfigurationReview::begin(CXmlSection* root)
+{
+    asItCame_ = root ? FileState::ofDocument(*root) : FileState::ofConfiguration(configuration());
+    against_ = Against::file;
+    history_.begin();
+}
+
+bool ConfigurationReview::compareWith(Against against, const QString& path)
+{
+    FileState before = asItCame_;
+    if (against == Against::defaults) {
+        before = FileState::ofDefaults(configuration());
+    } else if (against == Against::otherFile) {
+        XmlDocument document(path, QStringLiteral("DEVICE"));
+        if (!document.root()->document())
+            return false;
+        before = FileState::ofDocument(*document.root());
+    }
+    against_ = against;
+    differences_ = Differences(std::move(before), now());
+    Q_EMIT changed();
+    return true;
+}
+
+Configuration ConfigurationReview::configuration() const
+{
+    Configuration all(allSettings());
+    for (Values& values : all.tables()) {
+        for (const PageSettings* page : history_.pages()) {
+            if (&page->values().table() == &values.table())
+                values.putBack(page->values().held());
+        }
+    }
+    return all;
+}
+
+const Values* ConfigurationReview::valuesOf(int table) const
+{
+    for (const PageSettings* page : history_.pages()) {
+        if (FileKeys::all().tableOf(page->values().table()) == table)
+            return &page->values();
+    }
+    return nullptr;
+}
+
+FileState ConfigurationReview::now() const
+{
+    FileState state = FileState::ofConfiguration(configuration());
+    if (isQuick_())
+        state.lay(history_.pages().back()->values());
+    return state;
+}
+
+// One table of the full window at a time; the quick window's values lie over all.
+void ConfigurationReview::refresh(const QVector<int>& pages)
+{
+    const bool isQuick = isQuick_();
+    const bool isWhole = isQuick || isQuick != wasQuick_ || pages.size() == int(history_.pages().size());
+    wasQuick_ = isQuick;
+    if (isWhole) {
+        const FileState state = now();
+        edited_ = Differences(asItCame_, state);
+        differences_ = against_ == Against::file ? edited_ : Differences(differences_.before(), state);
+    } else {
+        for (const int page : pages) {
+            edited_.update(history_.pages()[page]->values());
+            differences_.update(history_.pages()[page]->values());
+        }
+    }
+    Q_EMIT changed();
+}
+
+bool ConfigurationReview::isEdited(const SettingsTable& table, int row) const
+{
+    const int at = FileKeys::all().tableOf(table);
+    return at >= 0 && edited_.isDifferent(at, row);
+}
+
+void ConfigurationReview::takeOver(const std::vector<int>& keys, const EditHistory::Words& words)
+{
+    history_.settle();
+    Configuration changed = configuration();
+    review::takeOver(changed, differences_.before(), review::withNeeded(differences_, keys));
+    history_.asOne(words, [&] {
+        for (PageSettings* page : history_.pages()) {
+            const auto found = std::ranges::find_if(changed.tables(), [&](const Values& values) {
+                return &values.table() == &page->values().table();
+            });
+            if (found != changed.tables().end())
+                page->putBack(found->held());
+        }
+        if (!isQuick_())
+            return;
+        XmlDocument document(QString(), QStringLiteral("DEVICE"));
+        changed.write(*document.root());
+        document.root()->commit();
+        history_.pages().back()->load(document.root());
+    });
+}
+
+} // namespace vlk

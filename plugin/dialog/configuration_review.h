@@ -1,0 +1,62 @@
+#pragma once
+
+// What differs between the configuration in the windows and the file as it came, what a missing key would
+// read as, or another file; kept up to date with every edit. Values are taken over or back in one step of the
+// history, with those without which they could not be.
+
+#include "dialog/edit_history.h"
+#include "review/differences.h"
+#include "review/search.h"
+
+struct CXmlSection;
+
+namespace vlk {
+
+class ConfigurationReview : public QObject
+{
+    Q_OBJECT
+
+public:
+    // `isQuick`: whether the quick window is on show, whose values a write lays over the others. The last
+    // page of the history is then that window's.
+    ConfigurationReview(EditHistory& history, std::function<bool()> isQuick, QObject* parent = nullptr);
+
+    // A configuration has been opened and is compared with its file; a new one, without a file, with what it
+    // begins with. Begins the history.
+    void begin(CXmlSection* root);
+
+    enum class Against { file, defaults, otherFile };
+    Against against() const { return against_; }
+    // False when the file could not be read, and nothing changes.
+    bool compareWith(Against against, const QString& path = {});
+
+    const review::Differences& differences() const { return differences_; }
+    // To the file, whatever is compared.
+    int edited() const { return edited_.count(); }
+    bool isEdited(const SettingsTable& table, int row) const;
+    Configuration configuration() const;
+    // Null where no page has the table.
+    const Values* valuesOf(int table) const;
+
+    // From the other side; keys of review::FileKeys.
+    void takeOver(const std::vector<int>& keys, const EditHistory::Words& words);
+
+    EditHistory& history() { return history_; }
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    review::FileState now() const;
+    void refresh(const QVector<int>& pages);
+
+    EditHistory& history_;
+    const std::function<bool()> isQuick_;
+    review::FileState asItCame_;
+    Against against_ = Against::file;
+    bool wasQuick_ = false;
+    review::Differences edited_;      // to the file as it came
+    review::Differences differences_; // to what is chosen
+};
+
+} // namespace vlk

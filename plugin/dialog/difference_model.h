@@ -1,0 +1,51 @@
+#pragma once
+
+// The differences of a configuration as a table: page, setting, before and now, each line with a check mark
+// that chooses it for what is done with the chosen ones. All are chosen at first.
+
+#include "dialog/configuration_review.h"
+#include "review/difference_text.h"
+
+#include <QAbstractTableModel>
+#include <QSet>
+
+namespace vlk {
+
+class DifferenceModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { Page, Caption, Before, Now, Note, ColumnCount };
+
+    explicit DifferenceModel(ConfigurationReview& review, QObject* parent = nullptr);
+
+    // What the review tells now, with the marks as they were.
+    void refresh();
+
+    const review::Difference& at(int line) const { return lines_[line].difference; }
+    // Keys of the chosen lines that can be taken over.
+    std::vector<int> chosenKeys() const;
+    // With a heading, as a spreadsheet takes it.
+    QString csv() const;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    struct Line
+    {
+        review::Difference difference;
+        review::DifferenceText text;
+    };
+
+    ConfigurationReview& review_;
+    std::vector<Line> lines_;
+    QSet<QString> unchosen_; // paths
+};
+
+} // namespace vlk

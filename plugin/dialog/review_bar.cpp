@@ -1,0 +1,204 @@
+#include "dialog/review_bar.h"
+
+#include "dialog/setting_places.h"
+#include "review/setting_words.h"
+#include "settings/value_text.h"
+#include "typing/field_mark.h"
+#include "typing/line_icon.h"
+
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QShortcut>
+#include <QToolButton>
+
+#include <algorithm>
+
+namespace vlk {
+
+namespace {
+
+constexpr int kMostHits = 200;
+constexpr int kLinesOnShow = 10;
+constexpr int kMarkSide = 10;
+const QString kDifferencesKey = QStringLiteral("Ctrl+D");
+
+template <class T>
+T* named(const char* name, QWidget* parent)
+{
+    auto* widget = new T(parent);
+    widget->setObjectName(QLatin1String(name));
+    return widget;
+}
+
+} // namespace
+
+ReviewBar::ReviewBar(ConfigurationReview& review, SettingPlaces& places, QWidget* parent)
+    : QWidget(parent), review_(review), places_(places), undo_(named<QToolButton>("toolButton_Undo", this)),
+      redo_(named<QToolButton>("toolButton_Redo", this)), find_(named<QLineEdit>("lineEdit_Find", this)),
+      changedOnly_(named<QCheckBox>("checkBox_ChangedOnly", this)),
+      differences_(named<QToolButton>("toolButton_Differences", this)),
+      list_(named<QListWidget>("listWidget_Found", parent))
+{
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(6, 6, 6, 0);
+    row->setSpacing(8);
+    for (QWidget* widget : QWidgetList{undo_, redo_, find_, changedOnly_, differences_})
+        row->addWidget(widget);
+    undo_->setIcon(lineIcon(LineIcon::undo));
+    redo_->setIcon(lineIcon(LineIcon::redo));
+    for (QToolButton* button : {undo_, redo_})
+        button->setAutoRaise(true);
+    differences_->setCheckable(true);
+    differences_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    find_->setClearButtonEnabled(true);
+    find_->installEventFilter(this);
+    list_->setFocusPolicy(Qt::NoFocus);
+    list_->setAutoFillBackground(true);
+    list_->hide();
+    connect(undo_, &QToolButton::clicked, &review_.history(), &EditHistory::undo);
+    connect(redo_, &QToolButton::clicked, &review_.history(), &EditHistory::redo);
+    connect(find_, &QLineEdit::textEdited, this, &ReviewBar::find);
+    connect(changedOnly_, &QCheckBox::toggled, this, &ReviewBar::find);
+    connect(list_, &QListWidget::itemClicked, this, [this] { goTo(list_->currentRow()); });
+    connect(differences_, &QToolButton::toggled, this, &ReviewBar::panelRequested);
+    connect(&review_, &ConfigurationReview::changed, this, &ReviewBar::showState);
+    connect(new QShortcut(QKeySequence::Find, parent), &QShortcut::activated, this, &ReviewBar::focusFind);
+    connect(new QShortcut(QKeySequence::Undo, parent), &QShortcut::activated, undo_, &QToolButton::click);
+    connect(new QShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+Z")), parent), &QShortcut::activated, redo_,
+            &QToolButton::click);
+    connect(new QShortcut(QKeySequence(kDifferencesKey), parent), &QShortcut::activated, differences_,
+            &QToolButton::toggle);
+    retranslate();
+}
+
+void ReviewBar::retranslate()
+{
+    const QString hint =
+        QStringLiteral("%1  %2").arg(tr("rev_122"), QKeySequence(QKeySequence::Find).toString());
+    find_->setPlaceholderText(hint);
+    find_->setAccessibleName(tr("rev_122"));
+    changedOnly_->setText(tr("rev_123"));
+    if (search_)
+        search_->retranslate();
+    closeHits();
+    showState();
+}
+
+void ReviewBar::showState()
+{
+    const EditHistory& history = review_.history();
+    const std::tuple<QToolButton*, const char*, QString> steps[] = {{undo_, "rev_124", history.undoText()},
+                                                                    {redo_, "rev_125", history.redoText()}};
+    for (const auto& [button, key, step] : steps) {
+        const QString text = step.isEmpty() ? tr(key) : QStringLiteral("%1: %2").arg(tr(key), step);
+        button->setToolTip(text);
+        button->setAccessibleName(text);
+        button->setEnabled(!step.isEmpty());
+    }
+    const int count = review_.edited();
+    differences_->setText(QLocale().toString(count));
+    differences_->setIcon(count > 0 ? QIcon(markPixmap(Mark::changed, palette(), kMarkSide, 2)) : QIcon());
+    differences_->setToolTip(tr("rev_126").arg(QKeySequence(kDifferencesKey).toString()));
+    differences_->setAccessibleName(QStringLiteral("%1: %2").arg(tr("rev_108")).arg(count));
+}
+
+void ReviewBar::focusFind()
+{
+    find_->setFocus(Qt::ShortcutFocusReason);
+    find_->selectAll();
+}
+
+void ReviewBar::setPanelOpen(bool open)
+{
+    const QSignalBlocker blocker(differences_);
+    differences_->setChecked(open);
+}
+
+void ReviewBar::find()
+{
+    const QString words = find_->text().trimmed();
+    if (words.isEmpty() && !changedOnly_->isChecked())
+        return closeHits();
+    if (!search_) {
+        std::vector<const Values*> tables;
+        for (int table = 0; table < review::FileKeys::all().tables(); ++table)
+            tables.push_back(review_.valuesOf(table));
+        search_ = std::make_unique<review::Search>(tables);
+    }
+    hits_ = search_->find(words);
+    if (changedOnly_->isChecked())
+        std::erase_if(hits_, [this](const review::Hit& hit) {
+            return !review_.isEdited(review_.valuesOf(hit.table)->table(), hit.row);
+        });
+    hits_.resize(std::min<std::size_t>(hits_.size(), kMostHits));
+    list_->clear();
+    for (const review::Hit& hit : hits_) {
+        const Values& values = *review_.valuesOf(hit.table);
+        const review::SettingWords told = review::wordsOf(values.layout(), hit.row);
+        QStringList place{told.page, told.group, told.caption};
+        place.removeAll(QString());
+        list_->addItem(place.join(QStringLiteral(" › ")) + QStringLiteral(":  ") +
+                       valueText(values, hit.row));
+    }
+    if (hits_.empty())
+        list_->addItem(tr("rev_127"));
+    list_->setCurrentRow(0);
+    const int line = list_->sizeHintForRow(0);
+    const QPoint below = find_->mapTo(parentWidget(), QPoint(0, find_->height()));
+    list_->setGeometry(
+        QRect(below, QSize(parentWidget()->width() - below.x() - 6,
+                           line * std::min(list_->count(), kLinesOnShow) + 2 * list_->frameWidth())));
+    list_->show();
+    list_->raise();
+}
+
+void ReviewBar::closeHits()
+{
+    hits_.clear();
+    list_->hide();
+}
+
+void ReviewBar::goTo(int line)
+{
+    if (line < 0 || line >= static_cast<int>(hits_.size()))
+        return;
+    const review::Hit hit = hits_[line];
+    closeHits();
+    places_.goTo(hit.table, hit.row, hit.part);
+}
+
+bool ReviewBar::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == find_ && event->type() == QEvent::FocusOut && !list_->underMouse())
+        closeHits();
+    if (watched != find_ || event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    switch (static_cast<QKeyEvent*>(event)->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        if (list_->isHidden())
+            find();
+        QCoreApplication::sendEvent(list_, event);
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        goTo(list_->currentRow());
+        return true;
+    case Qt::Key_Escape:
+        if (list_->isHidden() && find_->text().isEmpty())
+            return QWidget::eventFilter(watched, event);
+        find_->clear();
+        closeHits();
+        return true;
+    default:
+        return QWidget::eventFilter(watched, event);
+    }
+}
+
+} // namespace vlk

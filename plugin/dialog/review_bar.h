@@ -1,0 +1,54 @@
+#pragma once
+
+// The line above the pages: taking steps back and doing them again, finding a setting by words, and the
+// number of differences, which opens the panel of them.
+
+#include "dialog/configuration_review.h"
+
+#include <QWidget>
+
+class QCheckBox;
+class QLineEdit;
+class QListWidget;
+class QToolButton;
+
+namespace vlk {
+
+class SettingPlaces;
+
+class ReviewBar : public QWidget
+{
+    Q_OBJECT
+
+public:
+    ReviewBar(ConfigurationReview& review, SettingPlaces& places, QWidget* parent);
+
+    void retranslate();
+    void focusFind();
+    void setPanelOpen(bool open);
+
+Q_SIGNALS:
+    void panelRequested(bool open);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void showState();
+    void find();
+    void goTo(int line);
+    void closeHits();
+
+    ConfigurationReview& review_;
+    SettingPlaces& places_;
+    std::unique_ptr<review::Search> search_; // made when it is first needed
+    std::vector<review::Hit> hits_;
+    QToolButton* undo_;
+    QToolButton* redo_;
+    QLineEdit* find_;
+    QCheckBox* changedOnly_;
+    QToolButton* differences_;
+    QListWidget* list_; // of hits, over the pages
+};
+
+} // namespace vlk
