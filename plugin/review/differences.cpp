@@ -11,11 +11,6 @@ namespace vlk::review {
 
 namespace {
 
-const FileKeys& keys()
-{
-    return FileKeys::all();
-}
-
 QString there(const QString& text)
 {
     return text.isNull() ? QStringLiteral("") : text;
@@ -25,7 +20,7 @@ QString there(const QString& text)
 int tableOfSection(const QString& path)
 {
     int table = 0;
-    while (table < keys().tables() && !path.startsWith(keys().layout(table).prefix()))
+    while (table < FileKeys::all().tables() && !path.startsWith(FileKeys::all().layout(table).prefix()))
         ++table;
     return table;
 }
@@ -33,9 +28,9 @@ int tableOfSection(const QString& path)
 } // namespace
 
 Differences::Differences(FileState before, FileState after)
-    : before_(std::move(before)), after_(std::move(after)), keys_(keys().tables())
+    : before_(std::move(before)), after_(std::move(after)), keys_(FileKeys::all().tables())
 {
-    for (int table = 0; table < keys().tables(); ++table)
+    for (int table = 0; table < FileKeys::all().tables(); ++table)
         compare(table);
     compareStrangers();
 }
@@ -43,7 +38,7 @@ Differences::Differences(FileState before, FileState after)
 void Differences::compare(int table)
 {
     keys_[table].clear();
-    for (int key = keys().firstOf(table); key < keys().firstOf(table + 1); ++key) {
+    for (int key = FileKeys::all().firstOf(table); key < FileKeys::all().firstOf(table + 1); ++key) {
         if (isDifferent(key))
             keys_[table].push_back(key);
     }
@@ -51,7 +46,7 @@ void Differences::compare(int table)
 
 void Differences::compareStrangers()
 {
-    strangers_.assign(keys().tables() + 1, {});
+    strangers_.assign(FileKeys::all().tables() + 1, {});
     QHash<QString, QString> after;
     for (const Stranger& stranger : after_.strangers())
         after.insert(stranger.path, there(stranger.text));
@@ -79,7 +74,7 @@ int Differences::count() const
 
 bool Differences::isDifferent(int table, int row) const
 {
-    const std::vector<int>& held = keys().heldBy(table, row);
+    const std::vector<int>& held = FileKeys::all().heldBy(table, row);
     return std::any_of(held.begin(), held.end(), [this](int key) { return isDifferent(key); });
 }
 
@@ -90,7 +85,7 @@ Difference Differences::differenceAt(int key) const
     const bool byLoad = !after_.isDocument() && before.isSaved == after.isThere && before.saved == after.text;
     return {key,
             after.isThere || before.row < 0 ? after.row : before.row,
-            keys()[key].path,
+            FileKeys::all()[key].path,
             before.isThere ? there(before.text) : QString(),
             after.isThere ? there(after.text) : QString(),
             byLoad,
@@ -123,7 +118,7 @@ std::vector<Difference> Differences::allForQuick() const
 
 void Differences::update(const Values& values)
 {
-    const int table = keys().tableOf(values.table());
+    const int table = FileKeys::all().tableOf(values.table());
     if (table < 0)
         return;
     after_.take(values);
@@ -136,7 +131,7 @@ void Differences::update(const FileState& full, const Values& quick)
 {
     after_ = full;
     after_.lay(quick);
-    for (int table = 0; table < keys().tables(); ++table)
+    for (int table = 0; table < FileKeys::all().tables(); ++table)
         compare(table);
     compareStrangers();
 }

@@ -8,11 +8,6 @@ namespace vlk::review {
 
 namespace {
 
-const FileKeys& keys()
-{
-    return FileKeys::all();
-}
-
 // Whether a load loses nothing of a text.
 bool isWhole(Change change)
 {
@@ -22,9 +17,9 @@ bool isWhole(Change change)
 // What settings read missing keys as, by table and row, before ranges and other rules.
 const QString& plainDefault(int table, int row)
 {
-    static thread_local std::vector<std::vector<QString>> texts(keys().tables());
+    static thread_local std::vector<std::vector<QString>> texts(FileKeys::all().tables());
     std::vector<QString>& own = texts[table];
-    const TableLayout& layout = keys().layout(table);
+    const TableLayout& layout = FileKeys::all().layout(table);
     own.resize(layout.rows.size());
     // Some of them are texts of the present language or of the model.
     const auto* text = layout.rows[row].setting->as<Text>();
@@ -61,7 +56,7 @@ QStringList sectionsMadeAnew(const TableLayout& layout)
     return sections;
 }
 
-FileState::FileState() : held_(keys().count()) {}
+FileState::FileState() : held_(FileKeys::all().count()) {}
 
 FileState FileState::ofConfiguration(const Configuration& configuration)
 {
@@ -95,7 +90,7 @@ FileState FileState::ofDocument(CXmlSection& root)
         held.change = held.isSaved ? Change::missing : Change::none;
     }
     eachKey(root, [&](const QString& path, const QString& text) {
-        const int key = keys().at(path);
+        const int key = FileKeys::all().at(path);
         if (key < 0)
             state.strangers_.push_back({path, text});
         else if (!state.held_[key].isThere)
@@ -108,8 +103,8 @@ void FileState::takeText(int key, const QString& text, const Configuration& load
 {
     Held& held = held_[key];
     if (held.row < 0)
-        held.row = keys()[key].rows.front();
-    const Normalised taken = normalisedAs(loaded.tables()[keys()[key].table], held.row, text);
+        held.row = FileKeys::all()[key].rows.front();
+    const Normalised taken = normalisedAs(loaded.tables()[FileKeys::all()[key].table], held.row, text);
     held.isThere = true;
     held.text = text;
     held.isWhole = isWhole(taken.change);
@@ -121,13 +116,13 @@ void FileState::takeText(int key, const QString& text, const Configuration& load
 
 void FileState::take(const Values& values)
 {
-    const int table = keys().tableOf(values.table());
+    const int table = FileKeys::all().tableOf(values.table());
     if (table < 0)
         return;
-    for (int key = keys().firstOf(table); key < keys().firstOf(table + 1); ++key)
+    for (int key = FileKeys::all().firstOf(table); key < FileKeys::all().firstOf(table + 1); ++key)
         held_[key] = {};
     for (int row = 0; row < values.count(); ++row) {
-        const int key = keys().of(table, row);
+        const int key = FileKeys::all().of(table, row);
         if (key < 0 || !values.isWritten(row))
             continue;
         hold(key, row, isDefaults() ? defaultOf(values, table, row) : values.written(row));
@@ -146,10 +141,10 @@ void FileState::hold(int key, int row, const QString& text)
 void FileState::lay(const Values& quick)
 {
     for (const QString& section : sectionsMadeAnew(quick.layout())) {
-        for (int table = 0; table < keys().tables(); ++table) {
-            if (keys().layout(table).section != section)
+        for (int table = 0; table < FileKeys::all().tables(); ++table) {
+            if (FileKeys::all().layout(table).section != section)
                 continue;
-            for (int key = keys().firstOf(table); key < keys().firstOf(table + 1); ++key)
+            for (int key = FileKeys::all().firstOf(table); key < FileKeys::all().firstOf(table + 1); ++key)
                 held_[key] = {};
         }
     }
@@ -158,14 +153,14 @@ void FileState::lay(const Values& quick)
         const TableLayout::Row& place = quick.row(row);
         if (!quick.isWritten(row) || place.key == QLatin1String("page"))
             continue;
-        const int key = keys().at(place.filePath);
+        const int key = FileKeys::all().at(place.filePath);
         if (key < 0) {
             strangers_.push_back({place.filePath, quick.written(row)});
             continue;
         }
         const Held& held = held_[key];
         const bool keepsText = place.base->onSave == OnSave::document && held.isThere;
-        hold(key, held.row < 0 ? keys()[key].rows.front() : held.row,
+        hold(key, held.row < 0 ? FileKeys::all()[key].rows.front() : held.row,
              keepsText ? quick.written(row, held.text) : quick.written(row));
     }
 }

@@ -23,7 +23,7 @@ constexpr UseCode lineUses[] = {{"NU", ""},      {"NS-", "DIN"},  {"NB-", "DIN"}
 
 constexpr const char* lineOwners[] = {"", "FLDS", "TPMS", "REFR", "TACH", "PCNT"};
 
-enum class SettingKind {
+enum class Kind {
     Number,
     Hundredths, // of a number with a point
     Digits,     // one position of a text of digits each
@@ -39,8 +39,8 @@ struct SettingRow
 {
     // `field` gives the place of the value in the settings, for a number of the repetition.
     template <class Field>
-    constexpr SettingRow(const char* path, int absent, Field /*field*/,
-                         SettingKind kind = SettingKind::Number, int count = 1)
+    constexpr SettingRow(const char* path, int absent, Field /*field*/, Kind kind = Kind::Number,
+                         int count = 1)
         : path(path), absent(absent), kind(kind), count(count),
           get([](const S& settings, int i) { return static_cast<int>(Field()(settings, i)); }),
           put([](S& settings, int i, int value) {
@@ -52,7 +52,7 @@ struct SettingRow
 
     const char* path; // %1 is the number of the repetition, %2 the element of the line's use
     int absent;
-    SettingKind kind;
+    Kind kind;
     int count; // of repetitions, or of digits
     int (*get)(const S& settings, int index);
     void (*put)(S& settings, int index, int value);
@@ -70,7 +70,7 @@ constexpr SettingRow settingRows[] = {
     {"TRACK/POINTS/dist",                 500, [](auto& s, int) -> auto& { return s.track.distance; }},
     {"TRACK/POINTS/useTimer",               1, [](auto& s, int) -> auto& { return s.track.byTime; }},
     {"TRACK/POINTS/moveTimer",             60, [](auto& s, int) -> auto& { return s.track.moveTime; }},
-    {"TRACK/POINTS/moveTimerSens",          0, [](auto& s, int i) -> auto& { return i == 0 ? s.track.ignitionIsMoving : s.track.engineIsMoving; }, SettingKind::Digits, 2},
+    {"TRACK/POINTS/moveTimerSens",          0, [](auto& s, int i) -> auto& { return i == 0 ? s.track.ignitionIsMoving : s.track.engineIsMoving; }, Kind::Digits, 2},
     {"TRACK/POINTS/stopTimer",            600, [](auto& s, int) -> auto& { return s.track.stopTime; }},
     {"TRACK/LIMPOINT/blockDist",            1, [](auto& s, int) -> auto& { return s.track.leastDistanceOn; }},
     {"TRACK/LIMPOINT/dist",                10, [](auto& s, int) -> auto& { return s.track.leastDistance; }},
@@ -80,25 +80,25 @@ constexpr SettingRow settingRows[] = {
 
     {"TRACK/COORDFLT/use",                  1, [](auto& s, int) -> auto& { return s.navigation.filtered; }},
     {"TRACK/COORDFLT/minSats",              4, [](auto& s, int) -> auto& { return s.navigation.leastSatellites; }},
-    {"TRACK/COORDFLT/maxHDOP",            250, [](auto& s, int) -> auto& { return s.navigation.mostHdop; }, SettingKind::Hundredths},
+    {"TRACK/COORDFLT/maxHDOP",            250, [](auto& s, int) -> auto& { return s.navigation.mostHdop; }, Kind::Hundredths},
     {"TRACK/COORDFLT/maxSpeed",           200, [](auto& s, int) -> auto& { return s.navigation.mostSpeed; }},
     {"TRACK/COORDFLT/maxAccel",            25, [](auto& s, int) -> auto& { return s.navigation.mostGain; }},
     {"TRACK/COORDFLT/maxDist",            100, [](auto& s, int) -> auto& { return s.navigation.mostShift; }},
     {"TRACK/COORDFLT/maxFilterCnt",         5, [](auto& s, int) -> auto& { return s.navigation.rejectedAfterJump; }},
     {"TRACK/COORDAVER/mode",                1, [](auto& s, int) -> auto& { return s.navigation.atStops; }},
-    {"TRACK/COORDAVER/sensors",             1, [](auto& s, int i) -> auto& { return i == 0 ? s.navigation.standsWithoutIgnition : s.navigation.standsWithoutMovement; }, SettingKind::Digits, 2},
-    {"TRACK/GNSS/mode",                     1, [](auto& s, int i) -> auto& { return s.navigation.systems[i]; }, SettingKind::Digits, 5},
+    {"TRACK/COORDAVER/sensors",             1, [](auto& s, int i) -> auto& { return i == 0 ? s.navigation.standsWithoutIgnition : s.navigation.standsWithoutMovement; }, Kind::Digits, 2},
+    {"TRACK/GNSS/mode",                     1, [](auto& s, int i) -> auto& { return s.navigation.systems[i]; }, Kind::Digits, 5},
     {"TRACK/GNSS/angle",                    5, [](auto& s, int) -> auto& { return s.navigation.elevation; }},
 
-    {"SENSORS/IN%1/normState",              0, [](auto& s, int i) -> auto& { return s.lines[i].use; }, SettingKind::Use, 3},
-    {"SENSORS/IN%1/IN%1%2/ign",             1, [](auto& s, int i) -> auto& { return s.lines[i].ignition; }, SettingKind::Number, 3},
-    {"SENSORS/IN%1/IN%1%2/cntlRestore",     1, [](auto& s, int i) -> auto& { return s.lines[i].restores; }, SettingKind::Number, 3},
-    {"SENSORS/IN%1/IN%1%2/lowLvl",       5000, [](auto& s, int i) -> auto& { return s.lines[i].low; }, SettingKind::Number, 3},
-    {"SENSORS/IN%1/IN%1%2/highLvl",      6000, [](auto& s, int i) -> auto& { return s.lines[i].high; }, SettingKind::Number, 3},
-    {"SENSORS/IN%1/IN%1%2/thld",         2000, [](auto& s, int i) -> auto& { return s.lines[i].change; }, SettingKind::Number, 3},
-    {"SENSORS/IN%1/IN%1%2/trhldOff",        1, [](auto& s, int i) -> auto& { return s.lines[i].stillOnly; }, SettingKind::Number, 3},
-    {"SENSORS/IN%1/IN%1%2/filterMode",      1, [](auto& s, int i) -> auto& { return s.lines[i].filtered; }, SettingKind::Number, 3},
-    {"SENSORS/IN%1/IN%1%2/filterLen",      30, [](auto& s, int i) -> auto& { return s.lines[i].window; }, SettingKind::Number, 3},
+    {"SENSORS/IN%1/normState",              0, [](auto& s, int i) -> auto& { return s.lines[i].use; }, Kind::Use, 3},
+    {"SENSORS/IN%1/IN%1%2/ign",             1, [](auto& s, int i) -> auto& { return s.lines[i].ignition; }, Kind::Number, 3},
+    {"SENSORS/IN%1/IN%1%2/cntlRestore",     1, [](auto& s, int i) -> auto& { return s.lines[i].restores; }, Kind::Number, 3},
+    {"SENSORS/IN%1/IN%1%2/lowLvl",       5000, [](auto& s, int i) -> auto& { return s.lines[i].low; }, Kind::Number, 3},
+    {"SENSORS/IN%1/IN%1%2/highLvl",      6000, [](auto& s, int i) -> auto& { return s.lines[i].high; }, Kind::Number, 3},
+    {"SENSORS/IN%1/IN%1%2/thld",         2000, [](auto& s, int i) -> auto& { return s.lines[i].change; }, Kind::Number, 3},
+    {"SENSORS/IN%1/IN%1%2/trhldOff",        1, [](auto& s, int i) -> auto& { return s.lines[i].stillOnly; }, Kind::Number, 3},
+    {"SENSORS/IN%1/IN%1%2/filterMode",      1, [](auto& s, int i) -> auto& { return s.lines[i].filtered; }, Kind::Number, 3},
+    {"SENSORS/IN%1/IN%1%2/filterLen",      30, [](auto& s, int i) -> auto& { return s.lines[i].window; }, Kind::Number, 3},
 
     {"SYSTEM/PWRSENS/line",                 0, [](auto& s, int) -> auto& { return s.supply.line; }},
     {"SYSTEM/PWRSENS/alarmLvl",         10500, [](auto& s, int) -> auto& { return s.supply.alarm; }},
@@ -109,35 +109,35 @@ constexpr SettingRow settingRows[] = {
     {"SYSTEM/ENGSENS/noEvent",              0, [](auto& s, int) -> auto& { return s.supply.engineSilent; }},
     {"SYSTEM/ENGSENS/delay",                0, [](auto& s, int) -> auto& { return s.supply.engineDelay; }},
 
-    {"SYSTEM/FUEL/sensors",                 0, [](auto& s, int i) -> auto& { return i == 0 ? s.fuel.withIgnition : i == 1 ? s.fuel.withEngine : s.fuel.withSupply; }, SettingKind::Digits, 3},
+    {"SYSTEM/FUEL/sensors",                 0, [](auto& s, int i) -> auto& { return i == 0 ? s.fuel.withIgnition : i == 1 ? s.fuel.withEngine : s.fuel.withSupply; }, Kind::Digits, 3},
     {"SYSTEM/FUEL/blockVolt",            8000, [](auto& s, int) -> auto& { return s.fuel.low; }},
     {"SYSTEM/FUEL/unblockVolt",         11000, [](auto& s, int) -> auto& { return s.fuel.high; }},
     {"SYSTEM/FUEL/unblockDelay",            5, [](auto& s, int) -> auto& { return s.fuel.delay; }},
 
-    {"RS485/OPTIONS/owner1",                0, [](auto& s, int) -> auto& { return s.serial.owner; }, SettingKind::Owner},
-    {"RS485/FS%1/use",                      0, [](auto& s, int i) -> auto& { return s.serial.sensorUsed[i]; }, SettingKind::Number, 16},
-    {"RS485/FS%1/address",                  0, [](auto& s, int i) -> auto& { return s.serial.sensorAddress[i]; }, SettingKind::Number, 16},
-    {"RS485/FS%1/filterMode",               1, [](auto& s, int i) -> auto& { return s.serial.sensorFiltered[i]; }, SettingKind::Number, 16},
-    {"RS485/PCNT/id%1",                     0, [](auto& s, int i) -> auto& { return s.serial.counterAddress[i]; }, SettingKind::Number, 7},
+    {"RS485/OPTIONS/owner1",                0, [](auto& s, int) -> auto& { return s.serial.owner; }, Kind::Owner},
+    {"RS485/FS%1/use",                      0, [](auto& s, int i) -> auto& { return s.serial.sensorUsed[i]; }, Kind::Number, 16},
+    {"RS485/FS%1/address",                  0, [](auto& s, int i) -> auto& { return s.serial.sensorAddress[i]; }, Kind::Number, 16},
+    {"RS485/FS%1/filterMode",               1, [](auto& s, int i) -> auto& { return s.serial.sensorFiltered[i]; }, Kind::Number, 16},
+    {"RS485/PCNT/id%1",                     0, [](auto& s, int i) -> auto& { return s.serial.counterAddress[i]; }, Kind::Number, 7},
 
     {"BLUETOOTH/GLOBAL/use",                1, [](auto& s, int) -> auto& { return s.bluetooth.used; }},
-    {"BLUETOOTH/SENS%1/type",               0, [](auto& s, int i) -> auto& { return s.bluetooth.type[i]; }, SettingKind::Number, 4},
-    {"BLUETOOTH/SENS%1/macaddr",           -1, [](auto& s, int i) -> auto& { return s.bluetooth.device[i]; }, SettingKind::Device, 4},
-    {"BLUETOOTH/FS%1/idx",                  1, [](auto& s, int i) -> auto& { return s.bluetooth.fuel[i]; }, SettingKind::Number, 4},
-    {"BLUETOOTH/TS%1/idx",                  1, [](auto& s, int i) -> auto& { return s.bluetooth.temperature[i]; }, SettingKind::Number, 4},
+    {"BLUETOOTH/SENS%1/type",               0, [](auto& s, int i) -> auto& { return s.bluetooth.type[i]; }, Kind::Number, 4},
+    {"BLUETOOTH/SENS%1/macaddr",           -1, [](auto& s, int i) -> auto& { return s.bluetooth.device[i]; }, Kind::Device, 4},
+    {"BLUETOOTH/FS%1/idx",                  1, [](auto& s, int i) -> auto& { return s.bluetooth.fuel[i]; }, Kind::Number, 4},
+    {"BLUETOOTH/TS%1/idx",                  1, [](auto& s, int i) -> auto& { return s.bluetooth.temperature[i]; }, Kind::Number, 4},
 
-    {"TEMPSENS/SENS%1/min",             -5000, [](auto& s, int i) -> auto& { return s.zones[i].low; }, SettingKind::Hundredths, 4},
-    {"TEMPSENS/SENS%1/max",             12000, [](auto& s, int i) -> auto& { return s.zones[i].high; }, SettingKind::Hundredths, 4},
-    {"TEMPSENS/SENS%1/hyst",              500, [](auto& s, int i) -> auto& { return s.zones[i].hysteresis; }, SettingKind::Hundredths, 4},
-    {"TEMPSENS/SENS%1/filterMode",          1, [](auto& s, int i) -> auto& { return s.zones[i].filtered; }, SettingKind::Number, 4},
+    {"TEMPSENS/SENS%1/min",             -5000, [](auto& s, int i) -> auto& { return s.zones[i].low; }, Kind::Hundredths, 4},
+    {"TEMPSENS/SENS%1/max",             12000, [](auto& s, int i) -> auto& { return s.zones[i].high; }, Kind::Hundredths, 4},
+    {"TEMPSENS/SENS%1/hyst",              500, [](auto& s, int i) -> auto& { return s.zones[i].hysteresis; }, Kind::Hundredths, 4},
+    {"TEMPSENS/SENS%1/filterMode",          1, [](auto& s, int i) -> auto& { return s.zones[i].filtered; }, Kind::Number, 4},
 
-    {"ACCEL/SENSORS/sh1",                5000, [](auto& s, int) -> auto& { return s.shockLevels[0]; }, SettingKind::Hundredths},
-    {"ACCEL/SENSORS/sh2",               10000, [](auto& s, int) -> auto& { return s.shockLevels[1]; }, SettingKind::Hundredths},
-    {"ACCEL/SENSORS/sh3",                 200, [](auto& s, int) -> auto& { return s.shockLevels[2]; }, SettingKind::Hundredths},
-    {"ACCEL/SENSORS/sh4",                2500, [](auto& s, int) -> auto& { return s.shockLevels[3]; }, SettingKind::Hundredths},
+    {"ACCEL/SENSORS/sh1",                5000, [](auto& s, int) -> auto& { return s.shockLevels[0]; }, Kind::Hundredths},
+    {"ACCEL/SENSORS/sh2",               10000, [](auto& s, int) -> auto& { return s.shockLevels[1]; }, Kind::Hundredths},
+    {"ACCEL/SENSORS/sh3",                 200, [](auto& s, int) -> auto& { return s.shockLevels[2]; }, Kind::Hundredths},
+    {"ACCEL/SENSORS/sh4",                2500, [](auto& s, int) -> auto& { return s.shockLevels[3]; }, Kind::Hundredths},
 
-    {"OUTPUTS/LINE1/mode",                  0, [](auto& s, int) -> auto& { return s.output.switched; }, SettingKind::General},
-    {"OUTPUTS/LINE1/actions",               0, [](auto& s, int i) -> auto& { return s.output.actions[i]; }, SettingKind::Digits, 20},
+    {"OUTPUTS/LINE1/mode",                  0, [](auto& s, int) -> auto& { return s.output.switched; }, Kind::General},
+    {"OUTPUTS/LINE1/actions",               0, [](auto& s, int i) -> auto& { return s.output.actions[i]; }, Kind::Digits, 20},
     {"OUTPUTS/LINE1/signalForm",            0, [](auto& s, int) -> auto& { return s.output.form; }},
     {"OUTPUTS/LINE1/onPeriod",              0, [](auto& s, int) -> auto& { return s.output.onPeriod; }},
     {"OUTPUTS/LINE1/offPeriod",             0, [](auto& s, int) -> auto& { return s.output.offPeriod; }},
@@ -188,19 +188,19 @@ int valueOf(const SettingRow& row, const QString& path, int index, const Configu
 {
     const QString text = values.text(path);
     switch (row.kind) {
-    case SettingKind::Hundredths:
+    case Kind::Hundredths:
         return hundredths(text, row.absent);
-    case SettingKind::Digits:
+    case Kind::Digits:
         return index < text.size() ? std::max(0, text.at(index).digitValue()) : row.absent;
-    case SettingKind::Use:
+    case Kind::Use:
         return useOf(text);
-    case SettingKind::Owner:
+    case Kind::Owner:
         return ownerOf(text);
-    case SettingKind::Device:
+    case Kind::Device:
         return deviceOf(text);
-    case SettingKind::General:
+    case Kind::General:
         return text == QLatin1String("GP");
-    case SettingKind::Number:
+    case Kind::Number:
         break;
     }
     return values.number(path, row.absent);
@@ -219,7 +219,7 @@ QString keptName(const SettingRow& row, int index)
 {
     QString name = QLatin1String(row.path);
     name.remove(QStringLiteral("/IN%1%2")).replace(QStringLiteral("%1"), QString::number(index + 1));
-    return row.kind == SettingKind::Digits ? name + QString::number(index) : name;
+    return row.kind == Kind::Digits ? name + QString::number(index) : name;
 }
 
 } // namespace
@@ -268,7 +268,7 @@ WorkingSettings WorkingSettings::of(const ConfigurationValues& values)
     WorkingSettings result;
     walk([&](const SettingRow& row, int i) {
         QString path = QLatin1String(row.path);
-        if (row.kind != SettingKind::Digits)
+        if (row.kind != Kind::Digits)
             path.replace(QLatin1String("%1"), QString::number(i + 1));
         if (path.contains(QLatin1String("%2")))
             path.replace(QLatin1String("%2"), QLatin1String(elementOf(result.lines[i].use)));
@@ -282,9 +282,9 @@ WorkingSettings WorkingSettings::load(const QSettings& file)
     WorkingSettings result;
     walk([&](const SettingRow& row, int i) {
         int value = file.value(keptName(row, i), row.absent).toInt();
-        if (row.kind == SettingKind::Device)
+        if (row.kind == Kind::Device)
             value = std::clamp(value, -1, static_cast<int>(bluetoothDevices.size()) - 1);
-        if (row.kind == SettingKind::Use)
+        if (row.kind == Kind::Use)
             value = std::clamp(value, 0, static_cast<int>(std::size(lineUses)) - 1);
         row.put(result, i, value);
     });

@@ -12,7 +12,7 @@ void setControlTexts(const Ui::VLK_Designer_Widget_Tmi_View& ui)
         {ui.groupBox_Btn_Device, "tmiw_142"},
     };
     for (const auto& [group, key] : groups)
-        group->setTitle(translated(key));
+        group->setTitle(vlk::translated(key));
     const std::pair<QAbstractButton*, const char*> buttons[] = {
         {ui.pushButton_Get_Current, "tmiw_004"},
         {ui.pushButton_Get_Prev, "wrd_061"},
@@ -37,21 +37,21 @@ void setControlTexts(const Ui::VLK_Designer_Widget_Tmi_View& ui)
         {ui.pushButton_Close, "wrd_054"},
     };
     for (const auto& [button, key] : buttons)
-        button->setText(translated(key));
+        button->setText(vlk::translated(key));
     const std::pair<QLabel*, const char*> labels[] = {
         {ui.label_NoData, "tmiw_002"}, {ui.label_Show, "tmiw_006"},    {ui.label_TimeOffset, "tmiw_009"},
         {ui.label_First, "tmiw_012"},  {ui.label_Last, "tmiw_013"},    {ui.label_TM, "tmiw_028"},
         {ui.label_RFID, "tmiw_029"},   {ui.label_Records, "tmiw_151"},
     };
     for (const auto& [label, key] : labels)
-        label->setText(translated(key));
+        label->setText(vlk::translated(key));
     QCheckBox* const servers[] = {ui.checkBox_Server1, ui.checkBox_Server2, ui.checkBox_Server3};
     for (std::size_t i = 0; i < std::size(servers); ++i)
-        servers[i]->setText(QStringLiteral("%1 %2").arg(translated("tmiw_023")).arg(i + 1));
-    ui.spinBox_TimeOffset->setSuffix(QLatin1Char(' ') + translated("abbr_001"));
-    ui.horizontalSlider_Auto_Tmi->setAccessibleName(translated("tmiw_007"));
-    ui.spinBox_RFID->setSuffix(QLatin1Char(' ') + translated("abbr_050"));
-    ui.spinBox_RFID->setAccessibleName(translated("tmiw_147"));
+        servers[i]->setText(QStringLiteral("%1 %2").arg(vlk::translated("tmiw_023")).arg(i + 1));
+    ui.spinBox_TimeOffset->setSuffix(QLatin1Char(' ') + vlk::translated("abbr_001"));
+    ui.horizontalSlider_Auto_Tmi->setAccessibleName(vlk::translated("tmiw_007"));
+    ui.spinBox_RFID->setSuffix(QLatin1Char(' ') + vlk::translated("abbr_050"));
+    ui.spinBox_RFID->setAccessibleName(vlk::translated("tmiw_147"));
 }
 
 std::vector<QWidget*> manualControls(const Ui::VLK_Designer_Widget_Tmi_View& ui)
@@ -70,10 +70,10 @@ void setToolTips(const Ui::VLK_Designer_Widget_Tmi_View& ui, const char* reasonK
         {ui.spinBox_RFID, "tmiw_147"},
         {ui.label_Capability, "tmiw_178"},
     };
-    const QString reason = reasonKey != nullptr ? translated(reasonKey) : QString();
+    const QString reason = reasonKey != nullptr ? vlk::translated(reasonKey) : QString();
     for (QWidget* control : manualControls(ui))
         control->setToolTip(reason);
     // Without a tool tip of its own a control shows that of its group.
     for (const auto& [widget, key] : tips)
-        widget->setToolTip(widget->isEnabled() ? translated(key) : QString());
+        widget->setToolTip(widget->isEnabled() ? vlk::translated(key) : QString());
 }
