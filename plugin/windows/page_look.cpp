@@ -28,7 +28,7 @@ namespace {
 constexpr int kPageMargin = 9;
 constexpr int kRowGap = 6;
 constexpr int kColumnGap = 8;
-constexpr int kPairGap = 16;
+constexpr int kGapOfPairs = 16;
 constexpr int kEmptyColumns = 3 * kColumnGap; // of a second pair that nothing but what stands across uses
 constexpr int kGroupGap = 12;
 constexpr int kGroupIndent = 16;
@@ -308,7 +308,7 @@ void PageLook::lineUp()
     const auto pairWidth = [&](int pair) {
         return std::max(captions[pair] + kColumnGap + fields[pair], across[pair]);
     };
-    const bool folds = pairWidth(0) + kPairGap + pairWidth(1) + right > all;
+    const bool folds = pairWidth(0) + kGapOfPairs + pairWidth(1) + right > all;
     const int first = folds ? std::max(captions[0], captions[1]) : captions[0];
     for (auto& [key, grid] : grids_) {
         grid.fold(folds);
