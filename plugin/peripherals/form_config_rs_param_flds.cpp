@@ -18,15 +18,24 @@
 
 namespace {
 
-// A sensor has one column a row of the settings; the first one is the box that puts it into use.
-constexpr int kLineColumn = 7;
-constexpr int kFuelColumn = kLineColumn + 1;
-
 constexpr int kLevelCode = 1; // kind of the sensors' values in the calibration dialog
 
 std::vector<const vlk::Setting*> rowsOfSensor(int sensor)
 {
     return vlk::rowsOfForm(vlk::kRsSettings, "FLDS", {static_cast<std::uint8_t>(sensor)});
+}
+
+// A sensor has one column a row of the settings, the first one with the box that puts it into use; behind
+// them stand a line and the calibration.
+int lineColumn()
+{
+    static const int column = static_cast<int>(rowsOfSensor(1).size());
+    return column;
+}
+
+int fuelColumn()
+{
+    return lineColumn() + 1;
 }
 
 QString sensorName(std::size_t place)
@@ -77,17 +86,17 @@ void VLK_Form_Config_RS_Param_Flds_RS485::addHead()
         table_->addWidget(label, 0, column);
         heads_ << label;
     };
-    for (int column = 0; column < kLineColumn; ++column) {
+    for (int column = 0; column < lineColumn(); ++column) {
         head(column);
         table_->setColumnStretch(column, 1);
     }
-    head(kFuelColumn);
+    head(fuelColumn());
     heads_.last()->setObjectName(QStringLiteral("label_Fuel"));
     auto* line = new QFrame;
     line->setObjectName(QStringLiteral("line_8"));
     line->setFrameShape(QFrame::VLine);
     line->setFrameShadow(QFrame::Sunken);
-    table_->addWidget(line, 0, kLineColumn, kCalibrated + 1, 1);
+    table_->addWidget(line, 0, lineColumn(), kCalibrated + 1, 1);
 }
 
 void VLK_Form_Config_RS_Param_Flds_RS485::addRow(int sensor)
@@ -98,7 +107,7 @@ void VLK_Form_Config_RS_Param_Flds_RS485::addRow(int sensor)
         table_->addWidget(vlk::makeInput(*setting), sensor, column++, place);
     }
     if (sensor <= kCalibrated)
-        table_->addWidget(calibrationCell(sensor), sensor, kFuelColumn);
+        table_->addWidget(calibrationCell(sensor), sensor, fuelColumn());
 }
 
 QWidget* VLK_Form_Config_RS_Param_Flds_RS485::calibrationCell(int sensor)
@@ -123,8 +132,8 @@ QWidget* VLK_Form_Config_RS_Param_Flds_RS485::calibrationCell(int sensor)
 void VLK_Form_Config_RS_Param_Flds_RS485::hideCalibration()
 {
     for (int row = 0; row <= kCalibrated; ++row)
-        table_->itemAtPosition(row, kFuelColumn)->widget()->hide();
-    table_->itemAtPosition(0, kLineColumn)->widget()->hide();
+        table_->itemAtPosition(row, fuelColumn())->widget()->hide();
+    table_->itemAtPosition(0, lineColumn())->widget()->hide();
 }
 
 void VLK_Form_Config_RS_Param_Flds_RS485::setDefaults()
@@ -137,7 +146,7 @@ void VLK_Form_Config_RS_Param_Flds_RS485::retranslate()
 {
     const auto columns = rowsOfSensor(1);
     heads_[0]->setText(tr("cfgt6_219"));
-    for (int column = 1; column < kLineColumn; ++column)
+    for (int column = 1; column < lineColumn(); ++column)
         heads_[column]->setText(vlk::captionParts(columns[column]->shown()->captionKey).before);
     heads_.last()->setText(tr("cfgt6_218"));
     // The heads of the columns say what the boxes of a row are.
@@ -145,7 +154,7 @@ void VLK_Form_Config_RS_Param_Flds_RS485::retranslate()
         auto* use = qobject_cast<QCheckBox*>(table_->itemAtPosition(sensor, 0)->widget());
         const QString row = use->accessibleName();
         use->setText(QString::number(sensor));
-        for (int column = 1; column < kLineColumn; ++column) {
+        for (int column = 1; column < lineColumn(); ++column) {
             QWidget* input = table_->itemAtPosition(sensor, column)->widget();
             input->setAccessibleName(QStringLiteral("%1: %2").arg(row, heads_[column]->text()));
             if (auto* box = qobject_cast<QCheckBox*>(input))
@@ -153,7 +162,7 @@ void VLK_Form_Config_RS_Param_Flds_RS485::retranslate()
         }
         if (sensor <= kCalibrated) {
             for (auto* button :
-                 table_->itemAtPosition(sensor, kFuelColumn)->widget()->findChildren<QAbstractButton*>())
+                 table_->itemAtPosition(sensor, fuelColumn())->widget()->findChildren<QAbstractButton*>())
                 button->setAccessibleName(QStringLiteral("%1: %2").arg(row, heads_.last()->text()));
         }
     }

@@ -30,19 +30,9 @@ private Q_SLOTS:
         quick_ = std::make_unique<VLK_Form_Config_Light>();
     }
 
-    // Some forms are made when their device or type is chosen.
     void everyRowHasItsWidget()
     {
-        window_->pages().forEach([](vlk::HasSerialLine auto& page) {
-            for (const vlk::RsOwner& owner : vlk::kRsOwners)
-                page.settings().edit("OPTIONS/owner1", owner.code);
-        });
-        window_->pages().forEach([](vlk::FindsBluetooth auto& page) {
-            for (int sensor = 1; sensor <= vlk::kBluetoothSensors; ++sensor) {
-                for (const vlk::BluetoothSensorType& type : vlk::kBluetoothSensorTypes)
-                    page.settings().edit(QString("SENS%1/form").arg(sensor), type.code);
-            }
-        });
+        makeAllForms();
         QStringList sections;
         forEachPage([&](auto& page) {
             QCOMPARE(page.settings().binder().problems(), QStringList());
@@ -104,6 +94,7 @@ private Q_SLOTS:
         QFETCH(QString, slots);
         QFETCH(int, first);
         QFETCH(int, last);
+        makeAllForms();
         const QWidget* found = nullptr;
         for (const QWidget* widget : window_->findChildren<QWidget*>()) {
             if (widget->metaObject()->className() == "VLK_Form_Config_" + form)
@@ -184,6 +175,21 @@ private Q_SLOTS:
     }
 
 private:
+    // Some forms are made when their device or type is chosen.
+    void makeAllForms()
+    {
+        window_->pages().forEach([](vlk::HasSerialLine auto& page) {
+            for (const vlk::RsOwner& owner : vlk::kRsOwners)
+                page.settings().edit("OPTIONS/owner1", owner.code);
+        });
+        window_->pages().forEach([](vlk::FindsBluetooth auto& page) {
+            for (int sensor = 1; sensor <= vlk::kBluetoothSensors; ++sensor) {
+                for (const vlk::BluetoothSensorType& type : vlk::kBluetoothSensorTypes)
+                    page.settings().edit(QString("SENS%1/form").arg(sensor), type.code);
+            }
+        });
+    }
+
     // Values as the settings have them, and controls that have a name and a rule of their own on and off as
     // the values ask for.
     static void compareWidgets(auto& page)
