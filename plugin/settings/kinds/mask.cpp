@@ -1,31 +1,25 @@
 #include "settings/kinds/mask.h"
 
-#include "settings/kinds/spelling.h"
-
 namespace vlk {
 
 QString maskPart(const MaskField& field, const QString& mask)
 {
-    QString part(field.count, QLatin1Char('0'));
-    std::transform(field.positions.begin(), field.positions.begin() + field.count, part.begin(),
-                   [&](int position) { return QLatin1Char(digitAt(mask, position) != 0 ? '1' : '0'); });
+    QString part;
+    for (std::size_t i = 0; i < field.count; ++i)
+        part += QLatin1Char(digitAt(mask, field.positions[i]) != 0 ? '1' : '0');
     return part;
 }
 
-void setMaskPart(const MaskField& field, QString* mask, const QString& part)
+bool isFieldOn(const MaskField& field, const QString& mask)
 {
-    for (std::size_t i = 0; i < field.count; ++i)
-        (*mask)[field.positions[i]] = part[static_cast<int>(i)];
+    const auto isSet = [&](int position) { return digitAt(mask, position) != 0; };
+    const auto first = field.positions.begin();
+    return field.always || std::any_of(first, first + (field.anyReads ? field.count : 1), isSet);
 }
 
-bool isMaskOn(const MaskField& field, const QString& part)
+int fieldItem(const MaskField& field, const QString& mask)
 {
-    const QLatin1Char on('1');
-    return field.always || (field.anyReads ? part.contains(on) : part.startsWith(on));
-}
-
-int maskItem(const MaskField& field, const QString& part)
-{
+    const QString part = maskPart(field, mask);
     const auto found = std::find_if(field.items.begin(), field.items.end(),
                                     [&](const Code& item) { return part == QLatin1String(item.code); });
     return found == field.items.end() ? -1 : static_cast<int>(found - field.items.begin());
@@ -40,30 +34,32 @@ QString fieldText(const MaskField& field)
 Normalised normalised(const Mask& row, const Reading& reading)
 {
     const QString& text = reading.text;
-    QString read(row.length, QLatin1Char('0'));
+    const QString none(row.length, QLatin1Char('0'));
+    QString read = none;
     std::transform(text.begin(), text.begin() + std::min(text.size(), read.size()), read.begin(),
                    [](QChar sign) { return QLatin1Char(sign.digitValue() > 0 ? '1' : '0'); });
-    QString held = row.fields.empty() ? read : QString(row.length, QLatin1Char('0'));
+    QString held = row.fields.empty() ? read : none;
     for (const MaskField& field : row.fields) {
-        const QString part = maskPart(field, read);
-        if (field.items.empty())
-            setMaskPart(field, &held, QString(field.count, QLatin1Char(isMaskOn(field, part) ? '1' : '0')));
-        else
-            setMaskPart(field, &held, maskItem(field, part) < 0 ? maskPart(field, reading.before) : part);
+        const bool isList = !field.items.empty();
+        const bool isKept = isList && fieldItem(field, read) < 0;
+        const bool isOn = !isList && isFieldOn(field, read);
+        for (std::size_t i = 0; i < field.count; ++i) {
+            const int position = field.positions[i];
+            const bool isSet = isList ? digitAt(isKept ? reading.before : read, position) != 0 : isOn;
+            held[position] = QLatin1Char(isSet ? '1' : '0');
+        }
     }
-    return normalisedTo(held, text,
-                        text.size() > row.length ? Change::tooLong
-                        : held != read           ? Change::notOffered
-                                                 : Change::otherForm);
+    return {held, text.size() > row.length ? Change::tooLong
+                  : held != read           ? Change::notOffered
+                                           : Change::otherForm};
 }
 
 QString toldText(const Mask& row, const QString& value, const char* /*unit*/)
 {
     QStringList parts;
     for (const MaskField& field : row.fields) {
-        const QString part = maskPart(field, value);
-        const int item = maskItem(field, part);
-        if (part.contains(QLatin1Char('1')))
+        const int item = fieldItem(field, value);
+        if (maskPart(field, value).contains(QLatin1Char('1')))
             parts << (item < 0 ? fieldText(field)
                                : fieldText(field) + QStringLiteral(": ") + codeText(field.items[item]));
     }
