@@ -213,11 +213,12 @@ void DataSetBoxesTab::load(MaskVersion version, const QString& mask)
             continue;
         while (versionAt(field, field.count - 1) > version)
             --field.count;
+        const QString part = maskPart(field, mask);
         if (auto* list = qobject_cast<QComboBox*>(box.widget)) {
-            if (const int item = fieldItem(field, mask); item >= 0)
+            if (const int item = maskItem(field, part); item >= 0)
                 list->setCurrentIndex(item);
         } else if (auto* check = qobject_cast<QCheckBox*>(box.widget)) {
-            check->setChecked(isFieldOn(field, mask));
+            check->setChecked(isMaskOn(field, part));
         }
     }
 }

@@ -4,7 +4,6 @@
 
 #include "xml/xml_section.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace vlk {
