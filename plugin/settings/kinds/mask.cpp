@@ -10,16 +10,14 @@ QString maskPart(const MaskField& field, const QString& mask)
     return part;
 }
 
-bool isFieldOn(const MaskField& field, const QString& mask)
+bool isMaskOn(const MaskField& field, const QString& part)
 {
-    const auto isSet = [&](int position) { return digitAt(mask, position) != 0; };
-    const auto first = field.positions.begin();
-    return field.always || std::any_of(first, first + (field.anyReads ? field.count : 1), isSet);
+    const QLatin1Char on('1');
+    return field.always || (field.anyReads ? part.contains(on) : part.startsWith(on));
 }
 
-int fieldItem(const MaskField& field, const QString& mask)
+int maskItem(const MaskField& field, const QString& part)
 {
-    const QString part = maskPart(field, mask);
     const auto found = std::find_if(field.items.begin(), field.items.end(),
                                     [&](const Code& item) { return part == QLatin1String(item.code); });
     return found == field.items.end() ? -1 : static_cast<int>(found - field.items.begin());
@@ -39,14 +37,18 @@ Normalised normalised(const Mask& row, const Reading& reading)
     std::transform(text.begin(), text.begin() + std::min(text.size(), read.size()), read.begin(),
                    [](QChar sign) { return QLatin1Char(sign.digitValue() > 0 ? '1' : '0'); });
     QString held = row.fields.empty() ? read : none;
+    // There are many check boxes: their parts are not written out.
+    const auto isSet = [&read](int position) { return read[position] != QLatin1Char('0'); };
     for (const MaskField& field : row.fields) {
         const bool isList = !field.items.empty();
-        const bool isKept = isList && fieldItem(field, read) < 0;
-        const bool isOn = !isList && isFieldOn(field, read);
+        const bool isKept = isList && maskItem(field, maskPart(field, read)) < 0;
+        const auto* first = field.positions.begin();
+        const bool isOn =
+            field.always || std::any_of(first, first + (field.anyReads ? field.count : 1), isSet);
         for (std::size_t i = 0; i < field.count; ++i) {
             const int position = field.positions[i];
-            const bool isSet = isList ? digitAt(isKept ? reading.before : read, position) != 0 : isOn;
-            held[position] = QLatin1Char(isSet ? '1' : '0');
+            const bool isListed = digitAt(isKept ? reading.before : read, position) != 0;
+            held[position] = QLatin1Char((isList ? isListed : isOn) ? '1' : '0');
         }
     }
     return {held, text.size() > row.length ? Change::tooLong
@@ -58,8 +60,9 @@ QString toldText(const Mask& row, const QString& value, const char* /*unit*/)
 {
     QStringList parts;
     for (const MaskField& field : row.fields) {
-        const int item = fieldItem(field, value);
-        if (maskPart(field, value).contains(QLatin1Char('1')))
+        const QString part = maskPart(field, value);
+        const int item = maskItem(field, part);
+        if (part.contains(QLatin1Char('1')))
             parts << (item < 0 ? fieldText(field)
                                : fieldText(field) + QStringLiteral(": ") + codeText(field.items[item]));
     }

@@ -56,8 +56,8 @@ constexpr void check(const Mask& row)
 // What the positions of a field hold in a mask, "01"; one that is too short reads as 0. What that means for
 // the widget: a check box is on or not, a list has an item for it, -1 for none.
 QString maskPart(const MaskField& field, const QString& mask);
-bool isFieldOn(const MaskField& field, const QString& mask);
-int fieldItem(const MaskField& field, const QString& mask);
+bool isMaskOn(const MaskField& field, const QString& part);
+int maskItem(const MaskField& field, const QString& part);
 QString fieldText(const MaskField& field);
 
 Normalised normalised(const Mask& row, const Reading& reading);
