@@ -2,14 +2,29 @@
 
 #include <QVarLengthArray>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
+#include <numeric>
 
 namespace vlk {
 
+namespace {
+
+bool isDigit(QChar sign)
+{
+    return sign.unicode() >= '0' && sign.unicode() <= '9';
+}
+
+} // namespace
+
 qint64 leadingLong(const QString& text)
 {
+    // Most are a few digits.
+    if (text.size() <= 9 && std::all_of(text.begin(), text.end(), isDigit))
+        return std::accumulate(text.begin(), text.end(), 0,
+                               [](int read, QChar digit) { return 10 * read + (digit.unicode() - '0'); });
     // Short texts stay off the heap.
     QVarLengthArray<char, 32> bytes(text.size() + 1);
     for (int i = 0; i < text.size(); ++i)

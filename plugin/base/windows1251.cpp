@@ -2,6 +2,9 @@
 
 #include <QTextCodec>
 
+#include <algorithm>
+#include <array>
+
 namespace vlk {
 
 namespace {
@@ -20,7 +23,17 @@ QByteArray toWindows1251(const QString& text)
 
 QString fromWindows1251(const QByteArray& bytes)
 {
-    return codec()->toUnicode(bytes);
+    // Each byte is a character; asking the codec takes several times as long as looking them up.
+    static const auto characters = [] {
+        std::array<QChar, 256> all;
+        for (std::size_t byte = 0; byte < all.size(); ++byte)
+            all[byte] = codec()->toUnicode(QByteArray(1, static_cast<char>(byte)))[0];
+        return all;
+    }();
+    QString text(bytes.size(), Qt::Uninitialized);
+    std::transform(bytes.begin(), bytes.end(), text.begin(),
+                   [](char byte) { return characters[static_cast<std::uint8_t>(byte)]; });
+    return text;
 }
 
 } // namespace vlk

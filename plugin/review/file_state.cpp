@@ -32,7 +32,7 @@ Normalised normalisedAs(const Values& values, int row, const QString& text)
 {
     // The window always writes the same there, whatever it reads.
     if (const auto* constant = values.setting(row).as<Constant>())
-        return normalisedTo(QString::fromLatin1(constant->load), text, Change::notOffered);
+        return normalisedBy(QString::fromLatin1(constant->load), text, [] { return Change::notOffered; });
     const int holder = values.holder(row);
     return normalise(values.setting(holder), {text, values.value(holder), values.limits(holder)});
 }

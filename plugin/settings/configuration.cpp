@@ -1,7 +1,5 @@
 #include "settings/configuration.h"
 
-#include <algorithm>
-
 namespace vlk {
 
 Configuration::Configuration(const std::vector<const SettingsTable*>& tables)
@@ -47,26 +45,16 @@ void Configuration::reset()
         table.reset();
 }
 
-void Configuration::read(const CXmlSection& root, std::vector<ReadNote>* notes)
+void Configuration::read(const CXmlSection& root)
 {
     for (Values& table : tables_)
-        table.read(root, notes);
+        table.read(root);
 }
 
 void Configuration::write(CXmlSection& root) const
 {
     for (const Values& table : tables_)
         table.write(root);
-}
-
-std::vector<Difference> Configuration::differences(const Configuration& other) const
-{
-    std::vector<Difference> all;
-    for (std::size_t table = 0; table < std::min(tables_.size(), other.tables_.size()); ++table) {
-        const std::vector<Difference> own = tables_[table].differences(other.tables_[table]);
-        all.insert(all.end(), own.begin(), own.end());
-    }
-    return all;
 }
 
 } // namespace vlk

@@ -24,9 +24,8 @@ public:
 
     void reset();
     // `root` is the element DEVICE.
-    void read(const CXmlSection& root, std::vector<ReadNote>* notes = nullptr);
+    void read(const CXmlSection& root);
     void write(CXmlSection& root) const;
-    std::vector<Difference> differences(const Configuration& other) const;
 
 private:
     struct Place

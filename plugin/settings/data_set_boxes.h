@@ -69,7 +69,7 @@ constexpr DataSetBox box(const char* widget, int field, const char* caption)
 }
 
 // Every record has it.
-constexpr DataSetBox always(const char* widget, int field, const char* caption)
+constexpr DataSetBox alwaysOn(const char* widget, int field, const char* caption)
 {
     DataSetBox made = box(widget, field, caption);
     made.field.always = true;
@@ -107,7 +107,7 @@ constexpr std::array<DataSetBox, count> orAt(std::array<DataSetBox, count> all, 
 template <class... Boxes>
 constexpr auto in(DataSetTab tab, const char* group, const Boxes&... boxes)
 {
-    auto all = tables::join(boxes...);
+    auto all = rulesOf(boxes...);
     for (DataSetBox& made : all) {
         made.tab = tab;
         made.group = group;
@@ -184,11 +184,11 @@ inline constexpr DataSetGroup kDataSetGroups[] = {
 inline constexpr auto kDataSetBoxes = [] {
     using namespace data_set;
     using enum DataSetTab;
-    return tables::join(
+    return rulesOf(
         in(main, "groupBox_Main",
-            always("checkBox_NumPage",       field("NumPage"),      "cfgt2f_003"),
-            always("checkBox_Code",          field("Code"),         "cfgt2f_004"),
-            always("checkBox_Time",          field("Time"),         "cfgt2f_005"),
+            alwaysOn("checkBox_NumPage",     field("NumPage"),      "cfgt2f_003"),
+            alwaysOn("checkBox_Code",        field("Code"),         "cfgt2f_004"),
+            alwaysOn("checkBox_Time",        field("Time"),         "cfgt2f_005"),
             box("checkBox_State",            field("State"),        "cfgt2f_006"),   // Operating mode and power source
             box("checkBox_State_2",          field("State2"),       "cfgt2f_007"),   // Case opening and complex events
             box("checkBox_Module",           field("Module1"),      "cfgt2f_008"),   // GSM, navigation, SIM card, engine

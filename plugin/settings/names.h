@@ -27,8 +27,8 @@ struct Name
     }
 
     constexpr explicit operator bool() const { return tail; }
+    // Of a key its element.
     constexpr std::string_view form() const { return {head ? head : "", headSize}; }
-    constexpr std::string_view element() const { return form(); }
 
     const char* head = nullptr;
     const char* tail = nullptr; // the widget, the key
@@ -75,46 +75,21 @@ struct Numbers
     std::uint8_t inner = 0;
 };
 
-// Hash of a name with its numbers in.
-class NameHash
+// Hash of a name with its numbers in, behind what `hash` is that of.
+constexpr std::uint64_t hashOf(std::string_view text, Numbers numbers,
+                               std::uint64_t hash = 14695981039346656037U)
 {
-public:
-    // `begun`: the hash of what stands in front.
-    constexpr explicit NameHash(Numbers numbers, std::uint64_t begun = 14695981039346656037U)
-        : numbers_(numbers), hash_(begun)
-    {
-    }
-
-    constexpr NameHash& add(std::string_view text)
-    {
-        for (std::size_t i = 0; i < text.size(); ++i) {
-            const bool mark = text[i] == '%' && i + 1 < text.size();
-            const int number = !mark                ? 0
-                               : text[i + 1] == '1' ? numbers_.outer
-                               : text[i + 1] == '2' ? numbers_.inner
-                                                    : 0;
-            if (number > 0) {
-                addNumber(number);
-                ++i;
-            } else {
-                addSign(text[i]);
-            }
-        }
-        return *this;
-    }
-    constexpr std::uint64_t value() const { return hash_; }
-
-private:
-    constexpr void addNumber(int number)
-    {
+    const auto add = [&](char sign) { hash = (hash ^ static_cast<std::uint8_t>(sign)) * 1099511628211U; };
+    const char* const end = text.data() + text.size();
+    for (const char* at = text.data(); at != end; ++at) {
+        const char next = *at == '%' && at + 1 != end ? at[1] : '\0';
+        const int number = next == '1' ? numbers.outer : next == '2' ? numbers.inner : 0;
         if (number > 9)
-            addSign(static_cast<char>('0' + number / 10));
-        addSign(static_cast<char>('0' + number % 10));
+            add(static_cast<char>('0' + number / 10));
+        add(number > 0 ? static_cast<char>('0' + number % 10) : *at);
+        at += number > 0;
     }
-    constexpr void addSign(char sign) { hash_ = (hash_ ^ static_cast<std::uint8_t>(sign)) * 1099511628211U; }
-
-    Numbers numbers_;
-    std::uint64_t hash_;
-};
+    return hash;
+}
 
 } // namespace vlk

@@ -47,26 +47,16 @@ struct Sets
     }
 };
 
-constexpr Sets onEdit(When when, Path path, const char* to)
+template <Moment moment>
+constexpr Sets setsAt(When when, Path path, const char* to)
 {
-    return {Moment::edit, when, path, to};
+    return {moment, when, path, to};
 }
-constexpr Sets onEditOrRead(When when, Path path, const char* to)
-{
-    return {Moment::editOrRead, when, path, to};
-}
-constexpr Sets afterRead(When when, Path path, const char* to)
-{
-    return {Moment::afterRead, when, path, to};
-}
-constexpr Sets always(When when, Path path, const char* to)
-{
-    return {Moment::always, when, path, to};
-}
-constexpr Sets onSave(When when, Path path, const char* to)
-{
-    return {Moment::save, when, path, to};
-}
+inline constexpr auto onEdit = setsAt<Moment::edit>;
+inline constexpr auto onEditOrRead = setsAt<Moment::editOrRead>;
+inline constexpr auto afterRead = setsAt<Moment::afterRead>;
+inline constexpr auto always = setsAt<Moment::always>;
+inline constexpr auto onSave = setsAt<Moment::save>;
 
 // Two values of which the second is at least `gap` (in units of the widget), plus the value at `gapFrom`,
 // above the first. The one that is set last pushes the other one away, as far as the ranges go. A read takes
@@ -174,26 +164,17 @@ struct Doubt
 };
 
 // Object names with blanks between them: widgets of rows, or other parts of a form.
-struct Targets
+struct Targets : Name
 {
-    constexpr Targets() = default;
-    constexpr Targets(const char* rowWidgets) : names(rowWidgets) {} // a text names widgets
-    constexpr Targets(const char* formName, const char* rowWidgets) : form(formName), names(rowWidgets) {}
-
-    const char* form = ""; // as in Name
-    const char* names = "";
+    using Name::Name;
     bool areParts = false; // frames, labels and buttons, which no row has
 };
 
-constexpr Targets parts(Targets targets)
+constexpr Targets parts(auto... names)
 {
+    Targets targets(names...);
     targets.areParts = true;
     return targets;
-}
-
-constexpr Targets parts(const char* form, const char* names)
-{
-    return parts(Targets(form, names));
 }
 
 // Widgets that are enabled, or on show with their labels, while the conditions hold: all of them, or `any`.

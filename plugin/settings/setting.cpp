@@ -4,17 +4,20 @@ namespace vlk {
 
 Normalised normalise(const Setting& setting, const Reading& reading)
 {
-    return std::visit([&](const auto& row) { return normalised(row, reading); }, setting.kind);
+    Normalised taken = std::visit([&](const auto& row) { return normalised(row, reading); }, setting.kind);
+    if (taken.value == reading.text)
+        taken.change = Change::none;
+    return taken;
 }
 
 QString loadDefault(const Setting& setting)
 {
     return std::visit(
         [](const auto& row) {
-            if constexpr (std::is_same_v<std::remove_cvref_t<decltype(row)>, Group>)
-                return QString();
-            else
+            if constexpr (requires { row.load; })
                 return fileText(row, row.load);
+            else
+                return QString();
         },
         setting.kind);
 }

@@ -28,8 +28,7 @@
 
 namespace vlk {
 
-using Kind =
-    std::variant<Group, Constant, Link, Flag, Integer, Real, Scaled, Text, Choice, Period, Digits, Mask>;
+using Kind = std::variant<Group, Constant, Link, Flag, Integer, Real, Text, Choice, Period, Digits, Mask>;
 
 // What a row is, seen as one of its bases; null where it is none.
 template <class Part>

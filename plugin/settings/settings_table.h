@@ -13,34 +13,28 @@
 
 #include "settings/table_maker.h"
 
-#include <algorithm>
+#include <tuple>
 #include <utility>
 
 namespace vlk {
+
+template <class... Rules>
+using RuleLists = std::tuple<std::span<const Rules>...>;
 
 struct SettingsTable
 {
     const char* section = "";
     const char* title = ""; // of the page, a translation key
-    bool emptied = true;    // a save empties the section first
     std::span<const Setting> rows{};
-    std::span<const Sets> sets{};
-    std::span<const Distance> distances{};
-    std::span<const RangeWhen> ranges{};
-    std::span<const ExclusiveChoice> exclusives{};
-    std::span<const Presets> presets{};
-    std::span<const MaskPositions> masks{};
-    std::span<const Doubt> doubts{};
-    std::span<const Enable> enables{};
+    bool emptied = true; // a save empties the section first
+    RuleLists<Sets, Distance, RangeWhen, ExclusiveChoice, Presets, MaskPositions, Doubt, Enable> rules{};
 
-    constexpr void take(std::span<const Sets> rules) { sets = rules; }
-    constexpr void take(std::span<const Distance> rules) { distances = rules; }
-    constexpr void take(std::span<const RangeWhen> rules) { ranges = rules; }
-    constexpr void take(std::span<const ExclusiveChoice> rules) { exclusives = rules; }
-    constexpr void take(std::span<const Presets> rules) { presets = rules; }
-    constexpr void take(std::span<const MaskPositions> rules) { masks = rules; }
-    constexpr void take(std::span<const Doubt> rules) { doubts = rules; }
-    constexpr void take(std::span<const Enable> rules) { enables = rules; }
+    // Of one kind.
+    template <class Rule>
+    constexpr std::span<const Rule> all() const
+    {
+        return std::get<std::span<const Rule>>(rules);
+    }
 };
 
 namespace tables {
@@ -69,12 +63,6 @@ constexpr auto joined(const std::array<Item, sizes>&... lists)
     auto place = all.begin();
     ((place = std::copy(lists.begin(), lists.end(), place)), ...);
     return all;
-}
-
-// Items and arrays of them in one array.
-constexpr auto join(const auto&... items)
-{
-    return joined(listOf(items)...);
 }
 
 constexpr RowBase& baseOf(Setting& setting)
@@ -110,7 +98,7 @@ constexpr void takeHeading(const Item& item, auto& row, const Heading*& heading)
 // for rows that have one already.
 constexpr auto rowsOf(const auto&... items)
 {
-    auto all = tables::join(items...);
+    auto all = tables::joined(tables::listOf(items)...);
     auto row = all.begin();
     const Heading* heading = nullptr;
     (tables::takeHeading(items, row, heading), ...);
@@ -120,7 +108,7 @@ constexpr auto rowsOf(const auto&... items)
 // Rules of one kind and arrays of them in one array.
 constexpr auto rulesOf(const auto&... rules)
 {
-    return tables::join(rules...);
+    return tables::joined(tables::listOf(rules)...);
 }
 
 // Rows or rules that belong to repetition `number`, for repetitions that differ. What is repeated inside has
@@ -139,29 +127,29 @@ constexpr auto numbered(std::array<Item, n> items, int number)
 template <int count, class Make>
 constexpr auto repeat(Make make)
 {
-    return [&]<std::size_t... i>(std::index_sequence<i...>)
+    return [&]<int... i>(std::integer_sequence<int, i...>)
     {
-        return tables::joined(
-            numbered(tables::listOf(make(static_cast<int>(i) + 1)), static_cast<int>(i) + 1)...);
+        return tables::joined(numbered(tables::listOf(make(i + 1)), i + 1)...);
     }
-    (std::make_index_sequence<count>());
+    (std::make_integer_sequence<int, count>());
 }
 
+// A save of a table that does not empty its section leaves what else that holds.
 template <const auto& rows, const auto&... rules>
-constexpr SettingsTable tableOf(const char* section, const char* title = "")
+constexpr SettingsTable tableOf(const char* section, const char* title = "", bool emptied = true)
 {
-    SettingsTable table{.section = section, .title = title, .rows = tables::Made<rows>::rows};
-    (table.take(tables::MadeRules<rows, rules>::rules), ...);
+    SettingsTable table{section, title, tables::Made<rows>::rows, emptied};
+    [[maybe_unused]] const auto take = [&]<class Rule, std::size_t n>(const std::array<Rule, n>& list) {
+        std::get<std::span<const Rule>>(table.rules) = list;
+    };
+    (take(tables::MadeRules<rows, rules>::rules), ...);
     return table;
 }
 
-// A save leaves what else the section holds.
 template <const auto& rows, const auto&... rules>
 constexpr SettingsTable tableOver(const char* section, const char* title = "")
 {
-    SettingsTable table = tableOf<rows, rules...>(section, title);
-    table.emptied = false;
-    return table;
+    return tableOf<rows, rules...>(section, title, false);
 }
 
 } // namespace vlk

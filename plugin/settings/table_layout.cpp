@@ -1,7 +1,6 @@
 #include "settings/table_layout.h"
 
 #include <algorithm>
-#include <map>
 
 namespace vlk {
 
@@ -9,100 +8,87 @@ namespace {
 
 void addRows(TableLayout& layout)
 {
+    QString elementName;
     for (const Setting& setting : layout.table->rows) {
         const RowBase& base = setting.base();
+        const QString key = numberedName(base.key, base.numbers);
         const QString name = numberedName(base.pathName(), base.numbers);
+        const int place = static_cast<int>(layout.rows.size());
         if (const auto* group = setting.as<Group>()) {
-            TableLayout::Element element;
-            element.group = group;
-            element.path = numberedName(base.key, base.numbers).split(QLatin1Char('/'));
-            element.name = name;
-            element.firstRow = element.endRow = static_cast<int>(layout.rows.size());
-            layout.elements.push_back(element);
+            layout.elements.push_back({group, key.split(QLatin1Char('/')), false, false, place, place});
+            elementName = name + QLatin1Char('/');
             continue;
         }
         TableLayout::Element& element = layout.elements.back();
-        TableLayout::Row row;
-        row.setting = &setting;
-        row.base = &base;
-        row.key = numberedName(base.key, base.numbers);
-        row.group = static_cast<int>(layout.elements.size()) - 1;
+        element.endRow = place + 1;
+        element.stored = element.stored || base.stored;
         const auto* link = setting.as<Link>();
-        row.target = link ? link->target.row : element.endRow;
-        row.path = element.name + QLatin1Char('/') + name;
-        row.filePath = layout.prefix() + element.path.join(QLatin1Char('/')) + QLatin1Char('/') + row.key;
-        layout.byPath.insert(row.path, element.endRow++);
-        layout.rows.push_back(row);
+        layout.rows.push_back(
+            {.setting = &setting,
+             .base = &base,
+             .path = elementName + name,
+             .filePath = layout.prefix() + element.path.join(QLatin1Char('/')) + QLatin1Char('/') + key,
+             .key = key,
+             .group = static_cast<int>(layout.elements.size()) - 1,
+             .target = link ? link->target.row : place});
+        layout.byPath.insert(layout.rows.back().path, place);
     }
 }
 
-void joinElements(TableLayout& layout)
+// What is in the file with others in it, or without a row.
+void nestElements(TableLayout& layout)
 {
-    for (TableLayout::Element& element : layout.elements) {
-        const QStringList above = element.path.mid(0, element.path.size() - 1);
-        for (std::size_t other = 0; other < layout.elements.size() && !above.isEmpty(); ++other) {
-            if (layout.elements[other].path != above)
-                continue;
-            element.parent = static_cast<int>(other);
-            layout.elements[other].nested = true;
-        }
+    for (const TableLayout::Element& inner : layout.elements) {
+        const QStringList above = inner.path.mid(0, inner.path.size() - 1);
+        for (std::size_t i = 0; i < layout.elements.size() && !above.isEmpty(); ++i)
+            layout.elements[i].nested = layout.elements[i].nested || layout.elements[i].path == above;
     }
-    for (TableLayout::Element& element : layout.elements) {
-        const auto first = layout.rows.begin() + element.firstRow;
-        const auto end = layout.rows.begin() + element.endRow;
-        element.stored = element.nested || first == end ||
-                         std::any_of(first, end, [](const auto& row) { return row.base->stored; });
-    }
+    for (TableLayout::Element& element : layout.elements)
+        element.stored = element.stored || element.nested || element.firstRow == element.endRow;
     // What lives in the window alone is not in the file: beside values that are, it starts anew, and links
     // and rules fill it; an element of its own is left as it stands.
-    for (std::size_t row = 0; row < layout.rows.size(); ++row) {
-        const RowBase& base = *layout.rows[row].base;
-        if (!base.stored && base.missing == Missing::loadDefault &&
-            layout.elements[layout.rows[row].group].stored)
-            layout.anew.push_back(static_cast<int>(row));
+    for (const TableLayout::Row& row : layout.rows) {
+        if (!row.base->stored && row.base->missing == Missing::loadDefault &&
+            layout.elements[row.group].stored)
+            layout.anew.push_back(row.target);
     }
-}
-
-void addShared(TableLayout& layout, const ExclusiveChoice& rule)
-{
-    const QString name = numberedName(rule.list, rule.numbers);
-    auto& lists = layout.sharedLists;
-    auto list =
-        std::find_if(lists.begin(), lists.end(), [&](const auto& known) { return known.name == name; });
-    if (list == lists.end())
-        list = lists.insert(lists.end(), {name, {}, std::vector<bool>(layout.rows.size())});
-    for (const int row : {rule.path.row, rule.when.row, rule.also.row, rule.split.row}) {
-        if (row >= 0)
-            list->triggers[row] = true;
-    }
-    list->members.push_back({&rule, numberedName(rule.holder, rule.numbers)});
 }
 
 // A row is asked for its rules, and there are many of both.
 void addRules(TableLayout& layout)
 {
-    const auto add = [&](int row, auto TableLayout::Row::*rules, const auto& rule) {
-        if (row >= 0)
-            (layout.rows[row].*rules).push_back(&rule);
-    };
     using Row = TableLayout::Row;
-    for (const Sets& rule : layout.table->sets) {
+    const auto add = [&](auto Row::*rules, const auto* rule, auto... rows) {
+        for (const int row : {rows...}) {
+            if (row < 0)
+                continue;
+            auto& known = layout.rows[row].*rules;
+            if (std::find(known.begin(), known.end(), rule) == known.end())
+                known.push_back(rule);
+        }
+    };
+    for (const Sets& rule : layout.table->all<Sets>()) {
         if (rule.moment == Moment::edit || rule.moment == Moment::editOrRead)
-            add(rule.when.row, &Row::sets, rule);
+            add(&Row::sets, &rule, rule.when.row);
         else if (rule.moment == Moment::save)
-            add(rule.path.row, &Row::saves, rule);
+            add(&Row::saves, &rule, rule.path.row);
+        else
+            (rule.moment == Moment::always ? layout.always : layout.afterRead).push_back(&rule);
     }
-    for (const RangeWhen& rule : layout.table->ranges) {
-        add(rule.path.row, &Row::ranges, rule);
-        if (rule.startsOver)
-            add(rule.when.row, &Row::startOver, rule);
+    for (const RangeWhen& rule : layout.table->all<RangeWhen>()) {
+        add(&Row::ranges, &rule, rule.path.row);
+        add(&Row::follows, &rule, rule.when.row);
     }
-    for (const Distance& rule : layout.table->distances) {
-        for (const int row : {rule.first.row, rule.second.row, rule.gapFrom.row})
-            add(row, &Row::distances, rule);
+    for (const Distance& rule : layout.table->all<Distance>())
+        add(&Row::distances, &rule, rule.first.row, rule.second.row, rule.gapFrom.row);
+    for (const Presets& rule : layout.table->all<Presets>())
+        add(&Row::presets, &rule, rule.trigger.row);
+    for (const ExclusiveChoice& rule : layout.table->all<ExclusiveChoice>()) {
+        TableLayout::SharedList& list = layout.sharedLists[hashOf(rule.list, rule.numbers)];
+        list.push_back({&rule, hashOf(rule.holder, rule.numbers)});
+        add(&Row::lists, static_cast<const TableLayout::SharedList*>(&list), rule.path.row, rule.when.row,
+            rule.also.row, rule.split.row);
     }
-    for (const ExclusiveChoice& rule : layout.table->exclusives)
-        addShared(layout, rule);
 }
 
 } // namespace
@@ -117,11 +103,6 @@ QString numberedName(std::string_view name, Numbers numbers)
     return text;
 }
 
-QStringList targetNames(const Enable& rule)
-{
-    return numberedName(rule.targets.names, rule.numbers).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
-
 const TableLayout& layoutOf(const SettingsTable& table)
 {
     static std::map<const SettingsTable*, TableLayout> layouts;
@@ -131,7 +112,7 @@ const TableLayout& layoutOf(const SettingsTable& table)
         layout.table = &table;
         layout.section = QString::fromLatin1(table.section);
         addRows(layout);
-        joinElements(layout);
+        nestElements(layout);
         addRules(layout);
     }
     return place->second;

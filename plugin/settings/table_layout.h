@@ -6,15 +6,23 @@
 #include "settings/settings_table.h"
 
 #include <QHash>
-#include <QString>
 #include <QStringList>
 
+#include <map>
 #include <vector>
 
 namespace vlk {
 
 struct TableLayout
 {
+    // The settings that share a list.
+    struct Sharer
+    {
+        const ExclusiveChoice* rule;
+        std::uint64_t holder; // hash of its name
+    };
+    using SharedList = std::vector<Sharer>;
+
     // A value; rows of elements have none.
     struct Row
     {
@@ -23,39 +31,25 @@ struct TableLayout
         QString path;     // below the section; of its own, also where two rows share a place
         QString filePath; // where it stands in the file, from the section on
         QString key;
-        int group = -1;
-        int target = -1; // row of the value: of a link another one, else this one
-        // Rules that its edits or reads run, that a save asks, and that say what it can be.
-        std::vector<const Sets*> sets;
-        std::vector<const Sets*> saves;
-        std::vector<const RangeWhen*> ranges;
-        std::vector<const RangeWhen*> startOver; // lists that begin anew when this row changes
-        std::vector<const Distance*> distances;  // in which the row is a value or the gap
+        int group = -1;                           // its element
+        int target = -1;                          // row of the value: of a link another one, else this one
+        std::vector<const Sets*> sets{};          // that its edits or reads run
+        std::vector<const Sets*> saves{};         // that a save asks
+        std::vector<const RangeWhen*> ranges{};   // that say what it can be
+        std::vector<const RangeWhen*> follows{};  // whose ranges follow its value
+        std::vector<const Distance*> distances{}; // in which it is a value or the gap
+        std::vector<const Presets*> presets{};    // that it triggers
+        std::vector<const SharedList*> lists{};   // in which its value counts for who holds what
     };
 
     struct Element
     {
         const Group* group = nullptr;
         QStringList path;    // element names below the section
-        QString name;        // in the paths of its rows
         bool stored = true;  // false: all its rows live in the window alone, the file has no such element
         bool nested = false; // another one lies in it
-        int parent = -1;     // the one that it lies in
         int firstRow = 0;
         int endRow = 0;
-    };
-
-    // The settings that share a list.
-    struct SharedList
-    {
-        struct Member
-        {
-            const ExclusiveChoice* rule;
-            QString holder;
-        };
-        QString name;
-        std::vector<Member> members;
-        std::vector<bool> triggers; // by row: whether its value counts for who holds what
     };
 
     const SettingsTable* table = nullptr;
@@ -63,8 +57,10 @@ struct TableLayout
     std::vector<Row> rows;
     std::vector<int> anew; // rows that a read starts anew, before it comes to what the file has
     std::vector<Element> elements;
-    std::vector<SharedList> sharedLists;
-    QHash<QString, int> byPath; // below the section
+    std::vector<const Sets*> afterRead;
+    std::vector<const Sets*> always;
+    std::map<std::uint64_t, SharedList> sharedLists; // by the hashes of their names
+    QHash<QString, int> byPath;                      // below the section
 
     // What stands in front of the paths of the rules: nothing, where they begin with a section themselves.
     QString prefix() const { return section.isEmpty() ? QString() : section + QLatin1Char('/'); }
@@ -81,7 +77,5 @@ inline QString numberedName(std::string_view name, int number)
 {
     return numberedName(name, Numbers{static_cast<std::uint8_t>(number)});
 }
-// The widgets of a rule, without their form.
-QStringList targetNames(const Enable& rule);
 
 } // namespace vlk

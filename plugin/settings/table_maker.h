@@ -20,53 +20,35 @@ struct NamedRow
     constexpr bool operator==(const NamedRow& other) const { return name == other.name; }
 };
 
-// False where one stands twice.
-constexpr bool sortedNames(auto& names)
+using Names = std::span<const NamedRow>; // sorted
+
+// The row of a name; -1 where there is none.
+constexpr std::int16_t rowOf(std::uint64_t name, Names names)
 {
-    std::sort(names.begin(), names.end());
-    return std::adjacent_find(names.begin(), names.end()) == names.end();
+    const auto found = std::lower_bound(names.begin(), names.end(), NamedRow{name});
+    return found != names.end() && found->name == name ? found->row : std::int16_t{-1};
 }
 
-constexpr std::uint64_t hashOf(const Path& path, Numbers numbers)
+// Hands the path of every value to `take`. Elements are no values.
+struct Paths
 {
-    return NameHash(numbers).add(path.element()).add("/").add(path.tail).value();
-}
+    static constexpr bool requireUnique(bool unique) { return unique ? true : throw "a path stands twice"; }
 
-constexpr std::uint64_t hashOf(std::string_view form, std::string_view widget, Numbers numbers)
-{
-    // Forms of one class, one a number, have widgets of the same names.
-    return NameHash(numbers, numbers.outer).add(form).add("/").add(widget).value();
-}
-
-// Rows that hold values; those of elements have no place among them.
-template <std::size_t n>
-constexpr std::size_t valueCount(const std::array<Setting, n>& rows)
-{
-    return static_cast<std::size_t>(
-        std::count_if(rows.begin(), rows.end(), [](const Setting& row) { return !row.is<Group>(); }));
-}
-
-template <std::size_t count, std::size_t n>
-constexpr auto pathsOf(const std::array<Setting, n>& rows)
-{
-    std::array<NamedRow, count> names{};
-    std::size_t place = 0;
-    const RowBase* element = nullptr;
-    for (const Setting& row : rows) {
-        const RowBase& base = row.base();
-        if (row.is<Group>()) {
-            element = &base;
-            continue;
+    static constexpr void each(std::span<const Setting> rows, auto take)
+    {
+        const RowBase* element = nullptr;
+        for (const Setting& row : rows) {
+            const RowBase& base = row.base();
+            if (row.is<Group>())
+                element = &base;
+            else if (!element)
+                throw "a key stands in no element";
+            else
+                take(hashOf(base.pathName(), base.numbers,
+                            hashOf("/", {}, hashOf(element->pathName(), element->numbers))));
         }
-        if (!element)
-            throw "a key stands in no element";
-        const std::uint64_t above = NameHash(element->numbers).add(element->pathName()).value();
-        names[place] = {NameHash(base.numbers, above).add("/").add(base.pathName()).value(),
-                        static_cast<std::int16_t>(place)};
-        ++place;
     }
-    return sortedNames(names) ? names : throw "a path stands twice";
-}
+};
 
 // Hands every widget that a row names to `take`, as form, widget, and numbers.
 constexpr void eachWidget(const Setting& row, auto take)
@@ -90,117 +72,102 @@ constexpr void eachWidget(const Setting& row, auto take)
         row.kind);
 }
 
-template <std::size_t n>
-constexpr std::size_t widgetCount(const std::array<Setting, n>& rows)
+constexpr std::uint64_t widgetHash(std::string_view form, std::string_view widget, Numbers numbers)
 {
-    std::size_t count = 0;
-    for (const Setting& row : rows)
-        eachWidget(row, [&](auto...) { ++count; });
-    return count;
+    // Forms of one class, one a number, have widgets of the same names.
+    return hashOf(widget, numbers, hashOf("/", {}, hashOf(form, numbers, numbers.outer)));
 }
 
-template <std::size_t count, std::size_t n>
-constexpr auto widgetsOf(const std::array<Setting, n>& rows)
+struct Widgets
 {
-    std::array<std::uint64_t, count> names{};
-    std::size_t place = 0;
-    for (const Setting& row : rows)
-        eachWidget(row, [&](auto form, auto widget, Numbers numbers) {
-            names[place++] = hashOf(form, widget, numbers);
-        });
-    return sortedNames(names) ? names : throw "an object name stands twice";
-}
+    static constexpr bool requireUnique(bool unique)
+    {
+        return unique ? true : throw "an object name stands twice";
+    }
 
-template <std::size_t n>
-constexpr bool checked(const std::array<Setting, n>& rows)
+    static constexpr void each(std::span<const Setting> rows, auto take)
+    {
+        for (const Setting& row : rows)
+            eachWidget(row, [&](auto... name) { take(widgetHash(name...)); });
+    }
+};
+
+// The names of one sort in rows.
+template <const auto& rows, class Sort>
+constexpr auto namesIn()
 {
-    for (const Setting& row : rows)
-        std::visit(
-            [](const auto& kind) {
-                if constexpr (requires { check(kind); })
-                    check(kind);
-            },
-            row.kind);
-    return true;
+    constexpr std::size_t count = [] {
+        std::size_t found = 0;
+        Sort::each(rows, [&](std::uint64_t) { ++found; });
+        return found;
+    }();
+    std::array<NamedRow, count> names{};
+    std::int16_t place = 0;
+    Sort::each(rows, [&](std::uint64_t name) { names[place] = {name, place}, ++place; });
+    std::sort(names.begin(), names.end());
+    Sort::requireUnique(std::adjacent_find(names.begin(), names.end()) == names.end());
+    return names;
 }
 
 // Finds the rows of paths.
-template <std::size_t count>
-class Finder
+struct Finder
 {
-public:
-    constexpr Finder(const std::array<NamedRow, count>& names, Numbers numbers)
-        : names_(names), numbers_(numbers)
-    {
-    }
-
     constexpr void operator()(Path& path) const
     {
-        if (path)
-            path.row = find(path);
+        if (path && (path.row = find(path)) < 0)
+            throw "no row has this path";
     }
     constexpr void operator()(When& when) const
     {
         operator()(static_cast<Path&>(when));
-        if (when && when.same)
-            when.other = find(Path(when.codes, when.tail));
+        if (when && when.same && (when.other = find(Path(when.codes, when.tail))) < 0)
+            throw "no row has this path";
     }
-    template <class Item, std::size_t n>
-    constexpr void operator()(std::array<Item, n>& all) const
+    constexpr void operator()(auto& all) const
     {
-        for (Item& item : all)
+        for (auto& item : all)
             operator()(item);
     }
-
-private:
     constexpr std::int16_t find(const Path& path) const
     {
-        const NamedRow wanted{hashOf(path, numbers_)};
-        const auto found = std::lower_bound(names_.begin(), names_.end(), wanted);
-        return found != names_.end() && found->name == wanted.name ? found->row
-                                                                   : throw "no row has this path";
+        return rowOf(hashOf(path.tail, numbers, hashOf("/", {}, hashOf(path.form(), numbers))), names);
     }
 
-    const std::array<NamedRow, count>& names_;
-    Numbers numbers_;
+    Names names;
+    Numbers numbers;
 };
 
-constexpr void findIn(Setting& setting, const auto& find)
+constexpr void checkTargets(const Enable& rule, Names widgets)
 {
-    std::visit([&](auto& row) { find(row.present); }, setting.kind);
-    if (auto* group = std::get_if<Group>(&setting.kind)) {
-        find(group->presentToo);
-        find(group->readable);
-        find(group->readableToo);
-    } else if (auto* link = std::get_if<Link>(&setting.kind)) {
-        find(link->target);
-    }
-}
-
-template <std::size_t n>
-constexpr void checkTargets(const Enable& rule, const std::array<std::uint64_t, n>& widgets)
-{
-    std::string_view names(rule.targets.names);
+    std::string_view names(rule.targets.tail);
     while (!rule.targets.areParts && !names.empty()) {
         const std::size_t end = std::min(names.find(' '), names.size());
-        if (!std::binary_search(widgets.begin(), widgets.end(),
-                                hashOf(rule.targets.form, names.substr(0, end), rule.numbers)))
+        if (rowOf(widgetHash(rule.targets.form(), names.substr(0, end), rule.numbers), widgets) < 0)
             throw "no row has this widget";
         names.remove_prefix(std::min(end + 1, names.size()));
     }
 }
 
-// The rows of a table with the rows of their conditions found.
+// The rows of a table, checked, with the rows of their conditions found.
 template <const auto& source>
 struct Made
 {
-    static_assert(checked(source));
-    static constexpr auto paths = pathsOf<valueCount(source)>(source);
-    static constexpr auto widgets = widgetsOf<widgetCount(source)>(source);
+    static constexpr auto paths = namesIn<source, Paths>();
+    static constexpr auto widgets = namesIn<source, Widgets>();
     static constexpr auto rows = [] {
         auto all = source;
-        for (Setting& row : all)
-            findIn(row, Finder(paths, row.base().numbers));
+        for (Setting& setting : all) {
+            const Finder find{paths, setting.base().numbers};
+            std::visit(
+                [&](auto& row) {
+                    if constexpr (requires { check(row); })
+                        check(row);
+                    find(row.present);
+                    if constexpr (requires { row.eachPath(find); })
+                        row.eachPath(find);
+                },
+                setting.kind);
+        }
         return all;
     }();
 };
@@ -211,7 +178,7 @@ struct MadeRules
     static constexpr auto rules = [] {
         auto all = given;
         for (auto& rule : all) {
-            rule.eachPath(Finder(Made<source>::paths, rule.numbers));
+            rule.eachPath(Finder{Made<source>::paths, rule.numbers});
             if constexpr (requires { rule.targets; })
                 checkTargets(rule, Made<source>::widgets);
         }

@@ -1,7 +1,5 @@
 #include "settings/values.h"
 
-#include "settings/kinds/spelling.h"
-
 #include <algorithm>
 
 namespace vlk {
@@ -40,20 +38,8 @@ const QString& Values::value(int row) const
 bool Values::isWritten(int row) const
 {
     const TableLayout::Row& place = layout_->rows[row];
-    const Group& group = *layout_->elements[place.group].group;
-    return place.base->stored && holds(place.base->present) && holds(group.present) &&
-           holds(group.presentToo);
-}
-
-bool Values::isWritten(const TableLayout::Element& element) const
-{
-    if (!element.stored || !holds(element.group->present) || !holds(element.group->presentToo))
-        return false;
-    const auto first = layout_->rows.begin();
-    return element.group->save != ElementSave::anewIfAny ||
-           std::any_of(first + element.firstRow, first + element.endRow, [&](const TableLayout::Row& row) {
-               return row.base->stored && holds(row.base->present);
-           });
+    return place.base->stored && holds(place.base->present) &&
+           isPresent(*layout_->elements[place.group].group);
 }
 
 QString Values::written(int row, const QString& value) const
@@ -64,7 +50,7 @@ QString Values::written(int row, const QString& value) const
     }
     const Number* number = setting(row).number();
     QString text = number && number->blankIsZero && value.isEmpty() ? QStringLiteral("0") : value;
-    for (const MaskPositions& rule : table().masks) {
+    for (const MaskPositions& rule : table().all<MaskPositions>()) {
         if (rule.path.row != row || !holdsAll(rule.when))
             continue;
         for (const int position : rule.positions) {
@@ -101,18 +87,15 @@ Limits Values::limits(int row) const
 {
     row = holder(row);
     Limits limits = ownLimits(row);
-    for (const SharedList& list : layout_->sharedLists) {
-        if (!list.triggers[row])
-            continue;
-        for (const SharedList::Member& member : list.members) {
-            if (member.rule->path.row == row)
-                limits.taken = takenFrom(list, member);
+    for (const SharedList* list : layout_->rows[row].lists) {
+        for (const Sharer& sharer : *list) {
+            if (sharer.rule->path.row == row)
+                limits.taken = takenFrom(*list, sharer);
         }
     }
     return limits;
 }
 
-// Whatever other settings of a shared list hold.
 Limits Values::ownLimits(int row) const
 {
     const TableLayout::Row& place = layout_->rows[row];
@@ -154,37 +137,19 @@ QString Values::normalised(int row, const QString& text, const Limits& limits, S
 
 void Values::reset()
 {
-    for (int row = 0; row < count(); ++row)
-        resetRow(row);
-    for (const SharedList& list : layout_->sharedLists)
+    for (int row = 0; row < count(); ++row) {
+        const Setting& setting = this->setting(row);
+        if (setting.base().onReset == OnReset::keepsValue || setting.is<Link>())
+            continue;
+        values_[row] = normalised(row, resetValue(setting), ownLimits(row), Source::edit);
+    }
+    for (const auto& [name, list] : layout_->sharedLists)
         keepShared(list, -1, {}, nullptr);
-    for (const Distance& rule : table().distances) {
+    for (const Distance& rule : table().all<Distance>()) {
         if (rule.gapFrom)
             keepDistances(rule.gapFrom.row, nullptr);
     }
-    setAll(Moment::always, nullptr);
-}
-
-void Values::resetRow(int row)
-{
-    const Setting& setting = this->setting(row);
-    if (setting.base().onReset == OnReset::keepsValue || setting.is<Link>())
-        return;
-    const QString reset = resetValue(setting);
-    const Choice* choice = setting.as<Choice>();
-    values_[row] = choice && isNoItem(*choice, reset) ? reset : normalised(row, reset, ownLimits(row));
-}
-
-std::vector<Difference> Values::differences(const Values& other) const
-{
-    std::vector<Difference> all;
-    for (int row = 0; row < count(); ++row) {
-        const QString before = isWritten(row) ? written(row) : QString();
-        const QString after = other.isWritten(row) ? other.written(row) : QString();
-        if (before != after)
-            all.push_back({layout_->prefix() + layout_->rows[row].path, row, before, after});
-    }
-    return all;
+    setAll(layout_->always, nullptr);
 }
 
 } // namespace vlk

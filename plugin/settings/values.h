@@ -12,37 +12,11 @@
 // "POINTS/angle". All tables together are a Configuration (configuration.h).
 
 #include "settings/table_layout.h"
-
-#include <QString>
-#include <QStringList>
-
-#include <span>
-#include <vector>
+#include "xml/xml_element.h"
 
 struct CXmlSection;
 
 namespace vlk {
-
-// A value that a read made of something else, or something in the file that no setting reads.
-struct ReadNote
-{
-    enum class What { value, foreignKey, foreignElement, doubledElement };
-
-    What what = What::value;
-    QString path; // from the section on
-    int row = -1;
-    QString text;  // in the file
-    QString value; // taken
-    Change change = Change::none;
-};
-
-struct Difference
-{
-    QString path; // from the section on
-    int row;
-    QString before;
-    QString after;
-};
 
 class Values
 {
@@ -78,18 +52,13 @@ public:
 
     void reset();
     // `root` is the element DEVICE. A document that could not be read changes nothing.
-    // Whoever wants to know what it made of the document gives room for the notes.
-    void read(const CXmlSection& root, std::vector<ReadNote>* notes = nullptr);
+    void read(const CXmlSection& root);
     void write(CXmlSection& root) const;
 
     // Takes an edit and runs the rules. Gives the rows whose values changed, this one first where it did. An
     // edit of a row that there is not changes nothing.
     std::vector<int> edit(int row, const QString& text);
     std::vector<int> edit(const QString& path, const QString& text) { return edit(rowAt(path), text); }
-
-    // Values that these and others of the same table write differently; a key that is not written counts as
-    // empty.
-    std::vector<Difference> differences(const Values& other) const;
 
     // Whether the conditions of a rule of the table hold.
     bool holds(const Enable& rule) const { return !missing(rule); }
@@ -100,38 +69,45 @@ public:
     double gapOf(const Distance& rule) const;
 
 private:
+    using Sharer = TableLayout::Sharer;
     using SharedList = TableLayout::SharedList;
     using Changes = std::vector<int>; // rows, each once
 
     bool holds(const When& condition) const;
     bool holdsAll(std::span<const When> conditions) const;
-    bool isRead(const Group& group) const;
-    bool isWritten(const TableLayout::Element& element) const;
+    bool holdsBoth(const auto& rule) const { return holds(rule.when) && holds(rule.also); }
+    bool isPresent(const Group& group) const { return holds(group.present) && holds(group.presentToo); }
+    bool isRead(const Group& group) const
+    {
+        return group.readOtherwise ? holds(group.readable) && holds(group.readableToo) : isPresent(group);
+    }
+    // Whatever other settings of a shared list hold.
     Limits ownLimits(int row) const;
-    bool counts(const ExclusiveChoice& rule) const { return holds(rule.when) && holds(rule.also); }
-    bool takes(const SharedList::Member& other, const SharedList::Member& member) const;
-    QStringList takenFrom(const SharedList& list, const SharedList::Member& member) const;
+    // Whether what `other` holds is gone from the list of `sharer`.
+    bool takes(const Sharer& other, const Sharer& sharer) const;
+    QStringList takenFrom(const SharedList& list, const Sharer& sharer) const;
     QString normalised(int row, const QString& text, const Limits& limits,
                        Source source = Source::file) const;
-    void resetRow(int row);
-    void readElements(const CXmlSection* section, std::vector<ReadNote>* taken,
-                      std::vector<ReadNote>* strangers);
-    // `element`: null where the file has none.
-    void readRow(int row, const CXmlSection* element, std::vector<ReadNote>* notes);
-    void writeElement(const TableLayout::Element& element, CXmlSection& section) const;
+    void readElements(const XmlElement& section);
+    void readRow(int row, const XmlElement& element);
+    void writeElement(const TableLayout::Element& element, const std::vector<int>& rows,
+                      CXmlSection& section) const;
 
-    void put(int row, const QString& value, Changes* changed);
+    // Whether that is another value.
+    bool put(int row, const QString& value, Changes* changed);
+    // Moves what has to keep its distance from the value or cannot have the same one, too.
     void assign(int row, const QString& value, Changes* changed);
     void keepDistances(int row, Changes* changed);
-    void startOver(int row, Changes* changed);
     // After the row, which was worth `before`, has another value; -1: after a reset of all.
     void keepShared(const SharedList& list, int row, const QString& before, Changes* changed);
     // The code that a setting without a claim gets for one that is taken: the next one that is free now and
     // was before, else the one that has just been given back.
-    QString yielded(const SharedList& list, const SharedList::Member& member, int row, const QString& before);
-    void setAll(Moment moment, Changes* changed);
+    QString yielded(const SharedList& list, const Sharer& sharer, int row, const QString& before);
+    void setAll(const std::vector<const Sets*>& rules, Changes* changed);
+    // By the rules of the row, which was worth `before`.
     void setBy(int row, bool isRead, const QString& before, Changes* changed);
     void change(int row, const QString& text, Changes* changed);
+    // Which preset a read has come to.
     void settle(const Presets& presets);
 
     const TableLayout* layout_;

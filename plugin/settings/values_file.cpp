@@ -4,174 +4,77 @@
 
 #include "xml/xml_section.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace vlk {
 
 namespace {
 
-// What stands in `element` and is none of the known names, or twice.
-void noteStrangers(const CXmlSection& element, const QString& path, const QStringList& keys,
-                   const QStringList& elements, std::vector<ReadNote>* notes)
+XmlElement opened(XmlElement section, const QStringList& path)
 {
-    QStringList seen;
-    for (const CXmlSection::Entry& entry : element.entries()) {
-        ReadNote note;
-        note.path = path + QLatin1Char('/') + entry.name;
-        if (!keys.contains(entry.name) && !(entry.isElement && elements.contains(entry.name)))
-            note.what = entry.isElement ? ReadNote::What::foreignElement : ReadNote::What::foreignKey;
-        else if (entry.isElement && seen.contains(entry.name))
-            note.what = ReadNote::What::doubledElement;
-        else {
-            if (entry.isElement)
-                seen << entry.name;
-            continue;
-        }
-        notes->push_back(note);
-    }
+    for (const QString& name : path)
+        section = section.child(name);
+    return section;
 }
-
-void noteStrangersIn(const CXmlSection& section, const TableLayout& layout, std::vector<ReadNote>* notes)
-{
-    QStringList elements;
-    for (const TableLayout::Element& element : layout.elements) {
-        if (element.stored)
-            elements << element.path.first();
-    }
-    noteStrangers(section, layout.section, {QStringLiteral("page")}, elements, notes);
-}
-
-void noteStrangersIn(const CXmlSection& section, const TableLayout& layout,
-                     const TableLayout::Element& element, std::vector<ReadNote>* notes)
-{
-    QStringList keys;
-    for (int row = element.firstRow; row < element.endRow; ++row)
-        keys << layout.rows[row].key;
-    QStringList inside;
-    for (const TableLayout::Element& other : layout.elements) {
-        if (other.parent >= 0 && layout.elements[other.parent].path == element.path)
-            inside << other.path.last();
-    }
-    noteStrangers(section, layout.prefix() + element.path.join(QLatin1Char('/')), keys, inside, notes);
-}
-
-// The elements of a table in a document, as far as it has them.
-class Elements
-{
-public:
-    Elements(const CXmlSection* section, const TableLayout& layout)
-        : section_(section), layout_(layout), opened_(layout.elements.size())
-    {
-    }
-
-    // Null where the document has none.
-    const CXmlSection* at(int place)
-    {
-        Opened& opened = opened_[place];
-        if (std::exchange(opened.asked, true))
-            return opened.element.get();
-        const TableLayout::Element& element = layout_.elements[place];
-        if (const CXmlSection* parent = element.parent < 0 ? section_ : at(element.parent))
-            opened.element = parent->existing(element.path.last());
-        return opened.element.get();
-    }
-
-private:
-    struct Opened
-    {
-        CXmlSectionPtr element;
-        bool asked = false;
-    };
-
-    const CXmlSection* section_;
-    const TableLayout& layout_;
-    std::vector<Opened> opened_;
-};
 
 } // namespace
 
-void Values::read(const CXmlSection& root, std::vector<ReadNote>* notes)
+void Values::read(const CXmlSection& root)
 {
     if (!root.document())
         return;
-    const CXmlSectionPtr own = layout_->section.isEmpty() ? nullptr : root.existing(layout_->section);
     // A file without the section is one that lacks all keys.
-    const CXmlSection* const section = layout_->section.isEmpty() ? &root : own.get();
-    // Keys that no row knows are noted where a save drops them; elsewhere a save keeps them.
-    if (notes && section && table().emptied)
-        noteStrangersIn(*section, *layout_, notes);
+    const XmlElement section =
+        layout_->section.isEmpty() ? root.element() : root.element().child(layout_->section);
     for (const int row : layout_->anew)
         values_[row] = normalised(row, loadDefault(setting(row)), limits(row));
-    for (const Distance& rule : table().distances) {
+    for (const Distance& rule : table().all<Distance>()) {
         if (rule.gapFrom)
             values_[rule.gapFrom.row] = QStringLiteral("0");
     }
-    std::vector<ReadNote> taken;
-    readElements(section, notes ? &taken : nullptr, notes);
-    setAll(Moment::afterRead, nullptr);
-    for (const Presets& presets : table().presets) {
+    readElements(section);
+    setAll(layout_->afterRead, nullptr);
+    for (const Presets& presets : table().all<Presets>()) {
         if (presets.other || presets.settles)
             settle(presets);
     }
-    setAll(Moment::always, nullptr);
-    if (!notes)
-        return;
-    // A value may have found no room beside another, or what came later has moved it.
-    for (ReadNote& note : taken) {
-        if (const QString& held = value(note.row); held != note.value) {
-            note.value = held;
-            note.change = held == note.text && note.change != Change::missing ? Change::none : Change::byRule;
-        }
-        if (note.change != Change::none)
-            notes->push_back(note);
-    }
+    setAll(layout_->always, nullptr);
 }
 
-bool Values::isRead(const Group& group) const
+void Values::readElements(const XmlElement& section)
 {
-    return group.readOtherwise ? holds(group.readable) && holds(group.readableToo)
-                               : holds(group.present) && holds(group.presentToo);
-}
-
-void Values::readElements(const CXmlSection* section, std::vector<ReadNote>* taken,
-                          std::vector<ReadNote>* strangers)
-{
-    Elements elements(section, *layout_);
     const auto readLate = [&](std::vector<int>& rows) {
         for (const int row : rows)
-            readRow(row, elements.at(layout_->rows[row].group), taken);
+            readRow(row, opened(section, layout_->elements[layout_->rows[row].group].path));
         rows.clear();
     };
     std::vector<int> late;
     std::vector<int> lateOfNumber; // of the repetition that is being read
     int number = 0;
-    for (int place = 0; place < static_cast<int>(layout_->elements.size()); ++place) {
-        const TableLayout::Element& element = layout_->elements[place];
-        if (std::exchange(number, element.group->numbers.outer) != element.group->numbers.outer)
+    for (const TableLayout::Element& element : layout_->elements) {
+        const Group& group = *element.group;
+        if (std::exchange(number, group.numbers.outer) != group.numbers.outer)
             readLate(lateOfNumber);
-        if (!element.stored || !isRead(*element.group))
+        if (!element.stored || !isRead(group))
             continue;
-        const CXmlSection* inFile = elements.at(place);
+        const XmlElement inFile = opened(section, element.path);
         for (int row = element.firstRow; row < element.endRow; ++row) {
             if (layout_->rows[row].base->last)
                 (number > 0 ? lateOfNumber : late).push_back(row);
             else
-                readRow(row, inFile, taken);
+                readRow(row, inFile);
         }
-        if (strangers && inFile && element.group->save != ElementSave::keepsOthers)
-            noteStrangersIn(*inFile, *layout_, element, strangers);
     }
     readLate(lateOfNumber);
     readLate(late);
 }
 
-void Values::readRow(int row, const CXmlSection* element, std::vector<ReadNote>* notes)
+void Values::readRow(int row, const XmlElement& element)
 {
     const TableLayout::Row& place = layout_->rows[row];
     if (!place.base->stored || place.setting->is<Constant>() || !holds(place.base->present))
         return;
-    const QString* found = element ? element->find(place.key) : nullptr;
+    const std::optional<QString> found = element.find(place.key);
     if (!found && place.base->missing == Missing::keepsValue)
         return;
     const auto* link = place.setting->as<Link>();
@@ -184,11 +87,7 @@ void Values::readRow(int row, const CXmlSection* element, std::vector<ReadNote>*
     // A link gives its value to another row, which says what the value can be.
     const int target = place.target;
     const QString before = values_[target];
-    const Normalised taken = normalise(setting(target), {text, before, limits(target)});
-    assign(target, taken.value, nullptr);
-    if (notes)
-        notes->push_back({ReadNote::What::value, place.filePath, row, found ? text : QString(), taken.value,
-                          found ? taken.change : Change::missing});
+    assign(target, normalised(target, text, limits(target)), nullptr);
     setBy(target, true, before, nullptr);
 }
 
@@ -205,12 +104,19 @@ void Values::write(CXmlSection& root) const
         section.commit();
     }
     for (const TableLayout::Element& element : layout_->elements) {
-        if (isWritten(element))
-            writeElement(element, section);
+        std::vector<int> rows;
+        for (int row = element.firstRow; row < element.endRow; ++row) {
+            if (isWritten(row))
+                rows.push_back(row);
+        }
+        if (element.stored && isPresent(*element.group) &&
+            (!rows.empty() || element.group->save != ElementSave::anewIfAny))
+            writeElement(element, rows, section);
     }
 }
 
-void Values::writeElement(const TableLayout::Element& element, CXmlSection& section) const
+void Values::writeElement(const TableLayout::Element& element, const std::vector<int>& rows,
+                          CXmlSection& section) const
 {
     CXmlSectionPtr parent;
     for (int depth = 0; depth + 1 < element.path.size(); ++depth)
@@ -221,10 +127,8 @@ void Values::writeElement(const TableLayout::Element& element, CXmlSection& sect
             .child(element.path.last(), keepsOthers || element.nested ? CXmlNode::Element : CXmlNode::Empty);
     if (!keepsOthers)
         saved->clear();
-    for (int row = element.firstRow; row < element.endRow; ++row) {
+    for (const int row : rows) {
         const TableLayout::Row& place = layout_->rows[row];
-        if (!place.base->stored || !holds(place.base->present))
-            continue;
         const QString* before = place.base->onSave == OnSave::document ? saved->find(place.key) : nullptr;
         saved->setString(place.key, written(row, before ? *before : value(row)));
     }

@@ -23,50 +23,44 @@ const PresetRow* rowOf(const Presets& presets, const QString& code)
 std::vector<int> Values::edit(int row, const QString& text)
 {
     Changes changed;
+    changed.reserve(8); // more than most edits change
     if (row < 0 || row >= count())
         return changed;
     change(holder(row), text, &changed);
-    setAll(Moment::always, &changed);
+    setAll(layout_->always, &changed);
     return changed;
 }
 
 void Values::change(int row, const QString& text, Changes* changed)
 {
-    const Choice* choice = this->choice(row);
-    // A list without a current item is nothing that a file could ask for.
-    const QString value =
-        choice && isNoItem(*choice, text) ? text : normalised(row, text, limits(row), Source::edit);
-    const auto& presets = table().presets;
-    const bool triggers = std::any_of(presets.begin(), presets.end(),
-                                      [row](const Presets& rule) { return rule.trigger.row == row; });
-    if ((value == values_[row] && !triggers) ||
+    const TableLayout::Row& place = layout_->rows[row];
+    const QString value = normalised(row, text, limits(row), Source::edit);
+    if ((value == values_[row] && place.presets.empty()) ||
         std::find(editing_.begin(), editing_.end(), row) != editing_.end())
         return;
     editing_.push_back(row);
     const QString before = values_[row];
     assign(row, value, changed);
-    // Another range may hold now.
-    for (const RangeWhen& rule : table().ranges) {
-        const int ranged = rule.path.row;
-        if (rule.when.row == row && !rule.startsOver)
+    for (const RangeWhen* rule : place.follows) {
+        const int ranged = rule->path.row;
+        if (!rule->startsOver)
             put(ranged, normalised(ranged, values_[ranged], limits(ranged)), changed);
     }
     setBy(row, false, before, changed);
-    for (const Presets& rule : presets) {
-        const PresetRow* chosen = rule.trigger.row == row ? rowOf(rule, value) : nullptr;
-        for (std::size_t field = 0; chosen && field < rule.fields.size(); ++field) {
+    for (const Presets* rule : place.presets) {
+        const PresetRow* chosen = rowOf(*rule, value);
+        for (std::size_t field = 0; chosen && field < rule->fields.size(); ++field) {
             if (chosen->values[field])
-                change(rule.fields[field].row, QString::fromUtf8(chosen->values[field]), changed);
+                change(rule->fields[field].row, QString::fromUtf8(chosen->values[field]), changed);
         }
     }
     editing_.pop_back();
 }
 
-// By the rules of the row, which was worth `before`.
 void Values::setBy(int row, bool isRead, const QString& before, Changes* changed)
 {
     for (const Sets* rule : layout_->rows[row].sets) {
-        if ((isRead && rule->moment != Moment::editOrRead) || !holds(rule->when) || !holds(rule->also))
+        if ((isRead && rule->moment != Moment::editOrRead) || !holdsBoth(*rule))
             continue;
         const QString now = std::exchange(values_[row], before);
         const bool heldBefore = rule->isOnset && holds(rule->when);
@@ -76,120 +70,113 @@ void Values::setBy(int row, bool isRead, const QString& before, Changes* changed
     }
 }
 
-void Values::setAll(Moment moment, Changes* changed)
+void Values::setAll(const std::vector<const Sets*>& rules, Changes* changed)
 {
-    for (const Sets& rule : table().sets) {
-        if (rule.moment != moment || !holds(rule.when) || !holds(rule.also))
+    for (const Sets* rule : rules) {
+        if (!holdsBoth(*rule))
             continue;
-        const int row = rule.path.row;
-        QString held = QString::fromLatin1(rule.to);
-        for (int i = 0; setting(row).is<Digits>() && i < std::min(held.size(), values_[row].size()); ++i) {
-            if (held[i] == QLatin1Char('*'))
-                held[i] = values_[row][i];
+        const QString& held = values_[rule->path.row];
+        QString value = QString::fromLatin1(rule->to);
+        for (int i = 0; i < std::min(held.size(), value.size()); ++i) {
+            if (value[i] == QLatin1Char('*'))
+                value[i] = held[i];
         }
-        put(row, held, changed);
+        put(rule->path.row, value, changed);
     }
 }
 
-void Values::put(int row, const QString& value, Changes* changed)
+bool Values::put(int row, const QString& value, Changes* changed)
 {
     if (values_[row] == value)
-        return;
+        return false;
     values_[row] = value;
     if (changed && std::find(changed->begin(), changed->end(), row) == changed->end())
         changed->push_back(row);
+    return true;
 }
 
-// Sets a value, and moves what has to keep its distance from it or cannot have the same one.
 void Values::assign(int row, const QString& value, Changes* changed)
 {
+    const TableLayout::Row& place = layout_->rows[row];
     const QString before = values_[row];
-    put(row, value, changed);
-    keepDistances(row, changed);
-    if (before == value)
+    const bool isNew = put(row, value, changed);
+    if (!place.distances.empty())
+        keepDistances(row, changed);
+    if (!isNew)
         return;
-    startOver(row, changed);
-    for (const SharedList& list : layout_->sharedLists) {
-        if (list.triggers[row])
-            keepShared(list, row, before, changed);
+    for (const RangeWhen* rule : place.follows) {
+        const int list = rule->path.row;
+        if (rule->startsOver)
+            put(list, offeredCode(*choice(list), limits(list)), changed);
     }
+    for (const SharedList* list : place.lists)
+        keepShared(*list, row, before, changed);
 }
 
-// Lists that follow the value of the row.
-void Values::startOver(int row, Changes* changed)
+bool Values::takes(const Sharer& other, const Sharer& sharer) const
 {
-    for (const RangeWhen* rule : layout_->rows[row].startOver)
-        put(rule->path.row, firstOffered(*choice(rule->path.row), limits(rule->path.row)), changed);
+    const auto split = [&](const Sharer& of) -> const QString& { return value(of.rule->split.row); };
+    return other.holder != sharer.holder && (!sharer.rule->split || split(other) == split(sharer)) &&
+           holdsBoth(*other.rule);
 }
 
-// Whether what `other` holds is gone from the list of `member`.
-bool Values::takes(const SharedList::Member& other, const SharedList::Member& member) const
-{
-    const auto split = [&](const SharedList::Member& of) { return value(of.rule->split.row); };
-    return other.holder != member.holder && (!member.rule->split || split(other) == split(member)) &&
-           counts(*other.rule);
-}
-
-QStringList Values::takenFrom(const SharedList& list, const SharedList::Member& member) const
+QStringList Values::takenFrom(const SharedList& list, const Sharer& sharer) const
 {
     QStringList taken;
-    for (const SharedList::Member& other : list.members) {
-        if (takes(other, member))
+    for (const Sharer& other : list) {
+        if (takes(other, sharer))
             taken << values_[other.rule->path.row];
     }
     return taken;
 }
 
-QString Values::yielded(const SharedList& list, const SharedList::Member& member, int row,
-                        const QString& before)
-{
-    const int own = member.rule->path.row;
-    const Limits now = limits(own);
-    if (row < 0)
-        return nextOffered(*choice(own), values_[own], now);
-    const QString value = std::exchange(values_[row], before);
-    Limits both = now;
-    both.taken += takenFrom(list, member);
-    values_[row] = value;
-    const QString next = nextOffered(*choice(own), values_[own], both);
-    return isNoItem(*choice(own), next) ? nextOffered(*choice(own), values_[own], now) : next;
-}
-
 void Values::keepShared(const SharedList& list, int row, const QString& before, Changes* changed)
 {
-    for (const SharedList::Member& member : list.members) {
-        const int own = member.rule->path.row;
+    for (const Sharer& sharer : list) {
+        const int own = sharer.rule->path.row;
         const QString value = values_[own];
         const bool holdsNothing = isNoItem(*choice(own), value);
-        const auto isTakenBy = [&](const SharedList::Member& other) {
-            return values_[other.rule->path.row] == value && takes(other, member);
+        const auto isTakenBy = [&](const Sharer& other) {
+            return values_[other.rule->path.row] == value && takes(other, sharer);
         };
-        if (counts(*member.rule)) {
+        if (holdsBoth(*sharer.rule)) {
             if (holdsNothing)
-                put(own, firstOffered(*choice(own), limits(own)), changed);
-        } else if (!holdsNothing && std::any_of(list.members.begin(), list.members.end(), isTakenBy)) {
-            put(own, yielded(list, member, row, before), changed);
+                put(own, offeredCode(*choice(own), limits(own)), changed);
+        } else if (!holdsNothing && std::any_of(list.begin(), list.end(), isTakenBy)) {
+            put(own, yielded(list, sharer, row, before), changed);
         }
     }
+}
+
+QString Values::yielded(const SharedList& list, const Sharer& sharer, int row, const QString& before)
+{
+    const int own = sharer.rule->path.row;
+    const Limits now = limits(own);
+    Limits both = now;
+    if (row >= 0) {
+        const QString value = std::exchange(values_[row], before);
+        both.taken += takenFrom(list, sharer);
+        values_[row] = value;
+    }
+    const QString next = offeredCode(*choice(own), both, &values_[own]);
+    return isNoItem(*choice(own), next) ? offeredCode(*choice(own), now, &values_[own]) : next;
 }
 
 void Values::keepDistances(int row, Changes* changed)
 {
     for (const Distance* rule : layout_->rows[row].distances) {
-        const int low = rule->first.row;
-        const int high = rule->second.row;
-        const Number& lowest = *setting(low).number();
-        const Number& highest = *setting(high).number();
-        const double lowBefore = shownNumber(lowest, values_[low]);
-        const double highBefore = shownNumber(highest, values_[high]);
-        double first = lowBefore;
-        double second = highBefore;
+        const Number& lowest = *setting(rule->first.row).number();
+        const Number& highest = *setting(rule->second.row).number();
+        const double lowBefore = shownNumber(lowest, values_[rule->first.row]);
+        const double highBefore = shownNumber(highest, values_[rule->second.row]);
         const double gap = gapOf(*rule);
         const double tiny = 1e-9;
-        if (row == low) {
+        double first = lowBefore;
+        double second = highBefore;
+        if (row == rule->first.row) {
             first = std::min(first, highest.most - gap);
             second = std::max(second, first + gap);
-        } else if (row == high) {
+        } else if (row == rule->second.row) {
             second = std::max(second, lowest.least + gap);
             first = std::min(first, second - gap);
         } else if (second - first < gap - tiny) {
@@ -199,9 +186,9 @@ void Values::keepDistances(int row, Changes* changed)
                 second = first + gap;
         }
         if (first != lowBefore)
-            put(low, fileNumber(lowest, first), changed);
+            put(rule->first.row, fileNumber(lowest, first), changed);
         if (second != highBefore)
-            put(high, fileNumber(highest, second), changed);
+            put(rule->second.row, fileNumber(highest, second), changed);
     }
 }
 
@@ -210,7 +197,6 @@ double Values::gapOf(const Distance& rule) const
     return rule.gap + (rule.gapFrom ? values_[rule.gapFrom.row].toDouble() : 0);
 }
 
-// Which preset a read has come to.
 void Values::settle(const Presets& presets)
 {
     const int trigger = presets.trigger.row;

@@ -4,6 +4,8 @@
 
 #include <QSet>
 
+#include <algorithm>
+
 bool CXmlDefaultHandler::startDocument()
 {
     root_.reset();
@@ -30,14 +32,16 @@ bool CXmlDefaultHandler::startElement(const QString&, const QString&, const QStr
         current_->attributes.reserve(static_cast<std::size_t>(attributes.length()));
         // The reader passes a name that stands twice; the first one counts. Most elements have a handful of
         // attributes, which are sooner compared than hashed.
-        constexpr int few = 16;
+        constexpr int few = 64;
         QSet<QString> seen;
         for (int i = 0; i < attributes.length(); ++i) {
             const QString name = attributes.qName(i);
             const auto known = seen.size();
             if (attributes.length() > few)
                 seen.insert(name);
-            if (attributes.length() > few ? seen.size() > known : attributes.index(name) == i)
+            const auto isNamed = [&name](const auto& attribute) { return attribute->isNamed(name); };
+            if (attributes.length() > few ? seen.size() > known
+                                          : std::ranges::none_of(current_->attributes, isNamed))
                 current_->addAttribute(name, vlk::decodeValue(attributes.value(i)));
         }
         sawContent_ = true;

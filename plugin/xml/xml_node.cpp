@@ -10,7 +10,7 @@ CXmlNode::CXmlNode(QString nodeName, CXmlNode* parentNode) : name(std::move(node
 CXmlNode* CXmlNode::child(const QString& childName) const
 {
     const auto found = std::find_if(children.begin(), children.end(),
-                                    [&](const auto& node) { return node->name == childName; });
+                                    [&](const auto& node) { return node->isNamed(childName); });
     return found == children.end() ? nullptr : found->get();
 }
 
@@ -36,7 +36,7 @@ std::vector<CXmlNode*> CXmlNode::lastAttributes() const
     if (attributes.size() <= few) {
         for (const auto& attribute : attributes) {
             const auto known = std::find_if(unique.begin(), unique.end(), [&](const CXmlNode* node) {
-                return node->name == attribute->name;
+                return node->isNamed(attribute->name);
             });
             if (known == unique.end())
                 unique.push_back(attribute.get());

@@ -22,6 +22,8 @@ public:
 
     explicit CXmlNode(QString nodeName, CXmlNode* parentNode = nullptr);
 
+    // Names are mostly of another length.
+    bool isNamed(const QString& other) const { return name.size() == other.size() && name == other; }
     // First child of that name, or null.
     CXmlNode* child(const QString& childName) const;
     // Both add without looking for a namesake.

@@ -51,7 +51,6 @@ CXmlSection::CXmlSection(CSerialize* document, CXmlNode* node) : document_(docum
 void CXmlSection::buildTable()
 {
     const auto attributes = node_->lastAttributes();
-    attributeCount_ = attributes.size();
     table_.reserve(attributes.size() + node_->children.size());
     const auto add = [this](CXmlNode* node) {
         table_.push_back({vlk::sectionText(node->name), vlk::sectionText(node->value), node});
@@ -94,16 +93,6 @@ CXmlSection* CXmlSection::nextChild()
             return record.node ? new CXmlSection(document_, record.node) : nullptr;
     }
     return nullptr;
-}
-
-std::vector<CXmlSection::Entry> CXmlSection::entries() const
-{
-    std::vector<Entry> all;
-    for (std::size_t i = 0; i < table_.size(); ++i) {
-        if (table_[i].node)
-            all.push_back({table_[i].name, i >= attributeCount_});
-    }
-    return all;
 }
 
 std::size_t CXmlSection::position(const QString& name) const

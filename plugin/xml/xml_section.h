@@ -18,7 +18,7 @@
 // Loading:  if (auto track = root->existing("TRACK")) { ... track->getInt("mode", 2) ... }
 // Repeated: for (CXmlSectionPtr row(table->firstChild("DATA")); row; row.reset(table->nextChild())) ...
 
-#include "xml/xml_node.h"
+#include "xml/xml_element.h"
 #include "xml/xml_record.h"
 
 #include <memory>
@@ -50,13 +50,8 @@ struct CXmlSection
     CXmlSection* firstChild(const QString& name);
     CXmlSection* nextChild();
 
-    struct Entry
-    {
-        QString name;
-        bool isElement;
-    };
-    // What the table held at first, attributes before children, namesakes each on its own.
-    std::vector<Entry> entries() const;
+    // What the document holds now, whatever the table has.
+    vlk::XmlElement element() const { return vlk::XmlElement(node_); }
     // The value of an entry, null where there is none.
     const QString* find(const QString& name) const;
     // The default where there is no such entry. Numbers are read as far as they go: "12abc" is 12, "abc" is
@@ -89,7 +84,6 @@ private:
     CSerialize* document_ = nullptr;
     CXmlNode* node_ = nullptr;
     std::vector<CXmlRecord> table_;
-    std::size_t attributeCount_ = 0;
     QString scanName_;
     std::size_t scanPosition_ = 0;
 };

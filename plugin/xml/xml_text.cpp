@@ -41,16 +41,11 @@ constexpr struct
     {"&quot;", '"'}, {"&apos;", '\''}, {"_33_", '!'},
 };
 
-// Without NUL. Nearly every text is; the loop has no branch.
+// Without NUL.
 bool isAscii(const QString& text)
 {
-    unsigned above = 0;
-    unsigned nulls = 0;
-    for (const QChar character : text) {
-        above |= character.unicode();
-        nulls += character.unicode() == 0;
-    }
-    return above < 0x80 && nulls == 0;
+    return std::all_of(text.begin(), text.end(),
+                       [](QChar character) { return character.unicode() - 1U < 0x7F; });
 }
 
 const char* encoded(QChar character)
@@ -129,7 +124,7 @@ QString encodeValue(const QString& value)
 
 QString decodeValue(const QString& value)
 {
-    if (!value.contains('&') && !value.contains('_'))
+    if (std::none_of(value.begin(), value.end(), [](QChar sign) { return sign == '&' || sign == '_'; }))
         return value;
     QString text = value;
     for (const auto& [entity, character] : entities)

@@ -139,7 +139,8 @@ private Q_SLOTS:
         for (const auto& [element, count] :
              {std::pair("USRPRM1", 16), {"USRPRM2", 15}, {"USRPRM4", 15}, {"USRPRM8", 3}}) {
             const CXmlSectionPtr section = protocol->child(element);
-            slots += static_cast<int>(section->entries().size());
+            for (int i = 1; section->find(QStringLiteral("p%1").arg(i)); ++i)
+                ++slots;
             for (int i = 1; i <= count; ++i)
                 stored += section->getString(QStringLiteral("p%1").arg(i));
         }

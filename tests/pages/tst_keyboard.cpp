@@ -254,7 +254,7 @@ private:
     static void switchOn(vlk::PageSettings& settings, vlk::Values& core, const QWidget* field)
     {
         for (const QWidget* widget = field; widget; widget = widget->parentWidget()) {
-            for (const vlk::Enable& rule : settings.values().table().enables) {
+            for (const vlk::Enable& rule : settings.values().table().all<vlk::Enable>()) {
                 if (!targetNames(rule).contains(widget->objectName()))
                     continue;
                 for (const vlk::When& condition : rule.when) {

@@ -1,7 +1,6 @@
 #include "settings/kinds/choice.h"
 
 #include "base/number_text.h"
-#include "settings/kinds/spelling.h"
 
 namespace vlk {
 
@@ -43,24 +42,17 @@ bool isNoItem(const Choice& row, const QString& value)
     return row.none && value == QLatin1String(row.none);
 }
 
-QString firstOffered(const Choice& row, const Limits& limits)
-{
-    const auto found = std::find_if(row.codes.begin(), row.codes.end(),
-                                    [&](const Code& code) { return offersCode(code, limits); });
-    return QString::fromLatin1(found == row.codes.end() ? row.none : found->code);
-}
-
-QString nextOffered(const Choice& row, const QString& value, const Limits& limits)
+QString offeredCode(const Choice& row, const Limits& limits, const QString* behind)
 {
     const char* found = row.none;
-    bool behind = false;
+    bool passed = !behind;
     for (const Code& code : row.codes) {
         if (offersCode(code, limits)) {
             found = code.code;
-            if (behind)
+            if (passed)
                 break;
         }
-        behind = behind || QLatin1String(code.code) == value;
+        passed = passed || QLatin1String(code.code) == *behind;
     }
     return QString::fromLatin1(found);
 }
@@ -73,18 +65,19 @@ QString codeText(const Code& code)
 
 Normalised normalised(const Choice& row, const Reading& reading)
 {
+    // A list without a current item is nothing that a file could ask for.
+    if (reading.source == Source::edit && isNoItem(row, reading.text))
+        return {reading.text};
     const Code* code = find(row, reading.text);
     if (code && offersCode(*code, reading.limits))
-        return normalisedTo(spelled(QLatin1String(code->code), reading.text), reading.text,
-                            Change::otherForm);
+        return {spelled(QLatin1String(code->code), reading.text)};
     const QString fallback = row.fallback ? QString::fromLatin1(row.fallback) : reading.before;
     if (!code)
-        return normalisedTo(reading.limits.taken.contains(fallback) ? reading.before : fallback, reading.text,
-                            Change::unknownCode);
-    return normalisedTo(row.unoffered == Unoffered::keepsValue ? reading.before
-                        : row.none                             ? QString::fromLatin1(row.none)
-                                                               : fallback,
-                        reading.text, Change::notOffered);
+        return {reading.limits.taken.contains(fallback) ? reading.before : fallback, Change::unknownCode};
+    return {row.unoffered == Unoffered::keepsValue ? reading.before
+            : row.none                             ? QString::fromLatin1(row.none)
+                                                   : fallback,
+            Change::notOffered};
 }
 
 QString toldText(const Choice& row, const QString& value, const char* /*unit*/)

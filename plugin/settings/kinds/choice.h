@@ -47,7 +47,7 @@ struct Choice : ShownOf<Choice>
 
 constexpr Choice choice(const char* key, std::span<const Code> codes, const char* loadDefault)
 {
-    return keyed<Choice>(key).with(&Choice::codes, codes).with(&Choice::load, loadDefault);
+    return keyed<Choice>(key, loadDefault).with(&Choice::codes, codes);
 }
 
 constexpr void check(const Choice& row)
@@ -71,10 +71,9 @@ constexpr void eachBox(const Choice& row, auto take)
 // Whether a list has the code.
 bool offersCode(const Code& code, const Limits& limits);
 bool isNoItem(const Choice& row, const QString& value);
-// The first code of the list, and the one that comes next behind `value`, else the last one; what stands for
+// The first code of the list, or the one that comes next behind another, else the last one; what stands for
 // no item where the list is empty.
-QString firstOffered(const Choice& row, const Limits& limits);
-QString nextOffered(const Choice& row, const QString& value, const Limits& limits);
+QString offeredCode(const Choice& row, const Limits& limits, const QString* behind = nullptr);
 QString codeText(const Code& code);
 
 Normalised normalised(const Choice& row, const Reading& reading);

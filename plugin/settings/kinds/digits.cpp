@@ -1,7 +1,5 @@
 #include "settings/kinds/digits.h"
 
-#include "settings/kinds/spelling.h"
-
 namespace vlk {
 
 Normalised normalised(const Digits& row, const Reading& reading)
@@ -20,7 +18,7 @@ Normalised normalised(const Digits& row, const Reading& reading)
         if (position.widget && digit > 0 && held[held.size() - 1] == QLatin1Char('0'))
             change = Change::notOffered;
     }
-    return normalisedTo(held, reading.text, change);
+    return {held, change};
 }
 
 // The captions of the positions that are set, with the item where a position has several.

@@ -26,7 +26,7 @@ struct Digits : ShownOf<Digits>
 
 constexpr Digits digits(const char* key, const char* loadDefault, std::span<const Position> positions)
 {
-    return keyed<Digits>(key).with(&Digits::load, loadDefault).with(&Digits::positions, positions);
+    return keyed<Digits>(key, loadDefault).with(&Digits::positions, positions);
 }
 
 constexpr void check(const Digits& row)

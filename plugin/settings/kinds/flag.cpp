@@ -1,14 +1,8 @@
 #include "settings/kinds/flag.h"
 
 #include "base/number_text.h"
-#include "settings/kinds/spelling.h"
 
 namespace vlk {
-
-QString fileText(const Flag&, int value)
-{
-    return QString::number(value);
-}
 
 Normalised normalised(const Flag& row, const Reading& reading)
 {

@@ -20,10 +20,9 @@ struct Flag : ShownOf<Flag>
 
 constexpr Flag flag(const char* key, int loadDefault)
 {
-    return keyed<Flag>(key).with(&Flag::load, loadDefault);
+    return keyed<Flag>(key, loadDefault);
 }
 
-QString fileText(const Flag& row, int value);
 Normalised normalised(const Flag& row, const Reading& reading);
 QString toldText(const Flag& row, const QString& value, const char* unit);
 

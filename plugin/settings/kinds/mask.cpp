@@ -1,21 +1,13 @@
 #include "settings/kinds/mask.h"
 
-#include "settings/kinds/spelling.h"
-
 namespace vlk {
 
 QString maskPart(const MaskField& field, const QString& mask)
 {
-    QString part(field.count, QLatin1Char('0'));
-    std::transform(field.positions.begin(), field.positions.begin() + field.count, part.begin(),
-                   [&](int position) { return QLatin1Char(digitAt(mask, position) != 0 ? '1' : '0'); });
-    return part;
-}
-
-void setMaskPart(const MaskField& field, QString* mask, const QString& part)
-{
+    QString part;
     for (std::size_t i = 0; i < field.count; ++i)
-        (*mask)[field.positions[i]] = part[static_cast<int>(i)];
+        part += QLatin1Char(digitAt(mask, field.positions[i]) != 0 ? '1' : '0');
+    return part;
 }
 
 bool isMaskOn(const MaskField& field, const QString& part)
@@ -40,21 +32,28 @@ QString fieldText(const MaskField& field)
 Normalised normalised(const Mask& row, const Reading& reading)
 {
     const QString& text = reading.text;
-    QString read(row.length, QLatin1Char('0'));
+    const QString none(row.length, QLatin1Char('0'));
+    QString read = none;
     std::transform(text.begin(), text.begin() + std::min(text.size(), read.size()), read.begin(),
                    [](QChar sign) { return QLatin1Char(sign.digitValue() > 0 ? '1' : '0'); });
-    QString held = row.fields.empty() ? read : QString(row.length, QLatin1Char('0'));
+    QString held = row.fields.empty() ? read : none;
+    // There are many check boxes: their parts are not written out.
+    const auto isSet = [&read](int position) { return read[position] != QLatin1Char('0'); };
     for (const MaskField& field : row.fields) {
-        const QString part = maskPart(field, read);
-        if (field.items.empty())
-            setMaskPart(field, &held, QString(field.count, QLatin1Char(isMaskOn(field, part) ? '1' : '0')));
-        else
-            setMaskPart(field, &held, maskItem(field, part) < 0 ? maskPart(field, reading.before) : part);
+        const bool isList = !field.items.empty();
+        const bool isKept = isList && maskItem(field, maskPart(field, read)) < 0;
+        const auto* first = field.positions.begin();
+        const bool isOn =
+            field.always || std::any_of(first, first + (field.anyReads ? field.count : 1), isSet);
+        for (std::size_t i = 0; i < field.count; ++i) {
+            const int position = field.positions[i];
+            const bool isListed = digitAt(isKept ? reading.before : read, position) != 0;
+            held[position] = QLatin1Char((isList ? isListed : isOn) ? '1' : '0');
+        }
     }
-    return normalisedTo(held, text,
-                        text.size() > row.length ? Change::tooLong
-                        : held != read           ? Change::notOffered
-                                                 : Change::otherForm);
+    return {held, text.size() > row.length ? Change::tooLong
+                  : held != read           ? Change::notOffered
+                                           : Change::otherForm};
 }
 
 QString toldText(const Mask& row, const QString& value, const char* /*unit*/)

@@ -36,10 +36,7 @@ struct Mask : ShownOf<Mask>
 constexpr Mask mask(const char* key, const char* loadDefault, std::int16_t length,
                     std::span<const MaskField> fields = {})
 {
-    return keyed<Mask>(key)
-        .with(&Mask::load, loadDefault)
-        .with(&Mask::length, length)
-        .with(&Mask::fields, fields);
+    return keyed<Mask>(key, loadDefault).with(&Mask::length, length).with(&Mask::fields, fields);
 }
 
 constexpr void check(const Mask& row)
@@ -56,10 +53,9 @@ constexpr void check(const Mask& row)
     }
 }
 
-// What the positions of a field hold in a mask, "01", and the other way round; a mask that is too short reads
-// as 0. What that means for the widget: a check box is on or not, a list has an item for it, -1 for none.
+// What the positions of a field hold in a mask, "01"; one that is too short reads as 0. What that means for
+// the widget: a check box is on or not, a list has an item for it, -1 for none.
 QString maskPart(const MaskField& field, const QString& mask);
-void setMaskPart(const MaskField& field, QString* mask, const QString& part);
 bool isMaskOn(const MaskField& field, const QString& part);
 int maskItem(const MaskField& field, const QString& part);
 QString fieldText(const MaskField& field);

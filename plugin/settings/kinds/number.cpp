@@ -1,7 +1,6 @@
 #include "settings/kinds/number.h"
 
 #include "base/number_text.h"
-#include "settings/kinds/spelling.h"
 
 #include <algorithm>
 #include <cmath>
@@ -86,29 +85,19 @@ Normalised normalised(const Number& row, const Reading& reading)
     const QString& text = reading.text;
     if (row.blankIsZero && text.isEmpty())
         return {text};
-    double shown = 0;
-    if (row.isText) {
-        const double read = leadingDouble(text);
-        shown = rounded(row.singleRead ? static_cast<float>(read) : read, row.decimals);
-    } else {
-        const int read = row.hexadecimal                  ? text.toInt(nullptr, 16)
-                         : reading.source == Source::edit ? text.trimmed().toInt()
-                                                          : leadingInt(text);
-        if (row.zeroIsOff && (row.negativeIsOn ? read == 0 : read <= 0))
-            return normalisedBy(QStringLiteral("0"), text, [&] {
-                return !isNumber(row, text) ? Change::notANumber
-                       : read == 0          ? Change::otherForm
-                                            : Change::outOfRange;
-            });
-        const double quotient = static_cast<double>(read) / row.factor;
-        shown = row.decimals > 0 ? rounded(quotient, row.decimals) : std::trunc(quotient);
-    }
-    const double held = std::clamp(shown, reading.limits.least, reading.limits.most);
+    const double inFile = row.isText                       ? leadingDouble(text)
+                          : row.hexadecimal                ? text.toInt(nullptr, 16)
+                          : reading.source == Source::edit ? text.trimmed().toInt()
+                                                           : leadingInt(text);
+    const bool isOff = row.zeroIsOff && (row.negativeIsOn ? inFile == 0 : inFile <= 0);
+    const double read = (row.singleRead ? static_cast<float>(inFile) : inFile) / row.factor;
+    const double shown = row.isText || row.decimals > 0 ? rounded(read, row.decimals) : std::trunc(read);
+    const double held = isOff ? 0 : std::clamp(shown, reading.limits.least, reading.limits.most);
     const QString value = spelledShown(row, held, text);
     return normalisedBy(value, text, [&] {
         return !isNumber(row, text)             ? Change::notANumber
                : isSameNumber(row, text, value) ? Change::otherForm
-               : held != shown                  ? Change::outOfRange
+               : isOff || held != shown         ? Change::outOfRange
                                                 : Change::rounded;
     });
 }

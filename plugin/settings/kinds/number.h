@@ -48,7 +48,7 @@ struct NumberOf : ShownOf<Kind>, Number
     constexpr Kind switchedOnTo(std::int16_t value) const { return this->with(&Kind::switchedOnAt, value); }
 };
 
-// A whole number, in the file times `factor`.
+// A whole number in the file, `factor` times that of the widget, which may have decimals.
 struct Integer : NumberOf<Integer>
 {
     // In the line of a tree that the row's number tells.
@@ -68,16 +68,9 @@ struct Real : NumberOf<Real>
     constexpr Real readSingle() const { return with(&Real::singleRead, true); }
 };
 
-// In the widget a number with `decimals`, in the file a whole number, `factor` times as much.
-struct Scaled : NumberOf<Scaled>
-{
-};
-
 constexpr Integer integer(const char* key, int loadDefault, std::int32_t factor = 1)
 {
-    return keyed<Integer>(key)
-        .with(&Integer::load, static_cast<double>(loadDefault))
-        .with(&Integer::factor, factor);
+    return keyed<Integer>(key, loadDefault).with(&Integer::factor, factor);
 }
 
 // `loadDefault` as a number; the file holds two digits of base 16.
@@ -88,23 +81,17 @@ constexpr Integer hexadecimal(const char* key, int loadDefault)
 
 constexpr Real real(const char* key, double loadDefault, std::uint8_t decimals)
 {
-    return keyed<Real>(key)
-        .with(&Real::load, loadDefault)
-        .with(&Real::decimals, decimals)
-        .with(&Real::isText, true);
+    return keyed<Real>(key, loadDefault).with(&Real::decimals, decimals).with(&Real::isText, true);
 }
 
 // `loadDefault` is what the file holds.
-constexpr Scaled scaled(const char* key, int loadDefault, std::int32_t factor, std::uint8_t decimals)
+constexpr Integer scaled(const char* key, int loadDefault, std::int32_t factor, std::uint8_t decimals)
 {
-    return keyed<Scaled>(key)
-        .with(&Scaled::load, static_cast<double>(loadDefault))
-        .with(&Scaled::factor, factor)
-        .with(&Scaled::decimals, decimals);
+    return integer(key, loadDefault, factor).with(&Integer::decimals, decimals);
 }
 
 // Whole millivolts in the file, volts in the widget.
-constexpr Scaled volts(const char* key, int loadDefault)
+constexpr Integer volts(const char* key, int loadDefault)
 {
     return scaled(key, loadDefault, 1000, 2).stepping(0.01F).unit("abbr_011");
 }

@@ -1,16 +1,10 @@
 #include "settings/kinds/period.h"
 
 #include "base/number_text.h"
-#include "settings/kinds/spelling.h"
 
 #include <algorithm>
 
 namespace vlk {
-
-QString fileText(const Period&, int seconds)
-{
-    return QString::number(seconds);
-}
 
 Normalised normalised(const Period& row, const Reading& reading)
 {

@@ -30,7 +30,7 @@ struct Period : ShownOf<Period>
 
 constexpr Period period(const char* key, int loadDefault, std::span<const PeriodPart> parts)
 {
-    return keyed<Period>(key).with(&Period::load, loadDefault).with(&Period::parts, parts);
+    return keyed<Period>(key, loadDefault).with(&Period::parts, parts);
 }
 
 constexpr void check(const Period& row)
@@ -45,7 +45,6 @@ constexpr void eachBox(const Period& row, auto take)
         take(part.widget);
 }
 
-QString fileText(const Period& row, int seconds);
 Normalised normalised(const Period& row, const Reading& reading);
 QString toldText(const Period& row, const QString& value, const char* unit);
 

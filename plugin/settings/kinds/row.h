@@ -6,7 +6,8 @@
 
 #include "settings/names.h"
 
-#include <QString>
+#include "settings/kinds/spelling.h"
+
 #include <QStringList>
 
 namespace vlk {
@@ -94,11 +95,9 @@ protected:
 };
 
 template <class Kind>
-constexpr Kind keyed(const char* key)
+constexpr Kind keyed(const char* key, auto loadDefault)
 {
-    Kind row;
-    row.key = key;
-    return row;
+    return Kind{}.with(&Kind::key, key).with(&Kind::load, loadDefault);
 }
 
 // Why a value differs from what the file holds.
@@ -129,7 +128,7 @@ struct Limits
 };
 
 // Where a text comes from. A file is read as far as it is a number, "12abc" as 12, and its periods wrap
-// around where the row says so. An edit means what it says: a text that is no whole number is 0.
+// around where the row says so. An edit or a reset means what it says: a text that is no whole number is 0.
 enum class Source { file, edit };
 
 struct Reading
@@ -140,43 +139,30 @@ struct Reading
     Source source = Source::file;
 };
 
-// What a window would make of a text from a configuration file: limited to the range, rounded, cut, or
-// replaced where the text is none of the known codes. The result is again a text of the file.
+// What a window would make of a text of a configuration file: limited to the range, rounded, cut, or replaced
+// where the text is none of the known codes. The result is again a text of the file. `change` says why it is
+// another one, and nothing where it is the same.
 struct Normalised
 {
     QString value;
-    Change change = Change::none;
+    Change change = Change::otherForm;
 };
 
-// Most values are what the file holds; `why` finds the reason for the others.
+// With a reason that takes finding.
 template <class Why>
-Normalised normalisedBy(QString value, const QString& text, Why why)
+Normalised normalisedBy(const QString& value, const QString& text, Why why)
 {
-    if (value == text)
-        return {value, Change::none};
-    return {value, why()};
+    return {value, value == text ? Change::none : why()};
 }
 
-inline Normalised normalisedTo(const QString& value, const QString& text, Change change)
-{
-    return {value, value == text ? Change::none : change};
-}
-
+// The texts of two kinds of defaults.
 inline QString fileText(const RowBase&, const char* text)
 {
     return QString::fromUtf8(text);
 }
-
-// A caption is split at its mark "<val>": what stands before the value and what stands behind it. Its %1 is
-// the number of a repeated row.
-struct Caption
+inline QString fileText(const RowBase&, int number)
 {
-    QString before;
-    QString after;
-};
-// In the present language.
-Caption captionParts(const char* key, const char* format = "%1", int number = 0);
-// Without line breaks and mnemonics.
-QString inOneLine(QString caption);
+    return QString::number(number);
+}
 
 } // namespace vlk

@@ -5,6 +5,8 @@
 
 #include "settings/kinds/row.h"
 
+#include <type_traits>
+
 namespace vlk {
 
 // What a save does with an element: makes it anew, makes it anew unless none of its keys is written, or lays
@@ -14,10 +16,12 @@ enum class ElementSave : std::uint8_t { anew, anewIfAny, keepsOthers };
 struct Group : RowOf<Group, RowBase>
 {
     When presentToo{};
-    When readable{}; // with `readOtherwise`
+    bool readOtherwise = false; // read while both of these hold, whenever it is written
+    When readable{};
     When readableToo{};
-    bool readOtherwise = false; // read while both `readable` hold, whenever it is written
     ElementSave save = ElementSave::anew;
+
+    constexpr void eachPath(auto visit) { visit(presentToo), visit(readable), visit(readableToo); }
 
     using RowOf::onlyWhen;
     constexpr Group onlyWhen(When condition, When too) const
@@ -44,50 +48,40 @@ struct Constant : RowOf<Constant, RowBase>
 struct Link : RowOf<Link, RowBase>
 {
     Path target{};
-    double load = 0;            // where the key is missing
-    double withoutElement = -1; // where the whole element is; -1: the same
+    int load = 0;            // where the key is missing
+    int withoutElement = -1; // where the whole element is; -1: the same
 
-    constexpr Link ifNoElement(double value) const { return with(&Link::withoutElement, value); }
+    constexpr void eachPath(auto visit) { visit(target); }
+
+    constexpr Link ifNoElement(int value) const { return with(&Link::withoutElement, value); }
 };
 
 constexpr Group group(const char* path)
 {
-    return keyed<Group>(path);
+    return Group{}.with(&Group::key, path);
 }
 
 constexpr Constant constant(const char* key, const char* text)
 {
-    return keyed<Constant>(key).with(&Constant::load, text);
+    return keyed<Constant>(key, text);
 }
 
 // A missing key is worth `loadDefault`.
-constexpr Link link(const char* key, Path target, double loadDefault)
+constexpr Link link(const char* key, Path target, int loadDefault)
 {
-    return keyed<Link>(key).with(&Link::target, target).with(&Link::load, loadDefault);
-}
-
-inline QString fileText(const Link&, double loadDefault)
-{
-    return QString::number(loadDefault);
-}
-
-inline Normalised normalised(const Group&, const Reading& reading)
-{
-    return {reading.before};
-}
-inline Normalised normalised(const Link&, const Reading& reading)
-{
-    return {reading.before};
-}
-inline Normalised normalised(const Constant& row, const Reading&)
-{
-    return {QString::fromLatin1(row.load)};
+    return keyed<Link>(key, loadDefault).with(&Link::target, target);
 }
 
 template <class Row>
 concept IsStructure =
     std::is_same_v<Row, Group> || std::is_same_v<Row, Constant> || std::is_same_v<Row, Link>;
 
+// Nothing reads a value into them.
+template <IsStructure Row>
+Normalised normalised(const Row&, const Reading& reading)
+{
+    return {reading.before};
+}
 template <IsStructure Row>
 QString toldText(const Row&, const QString& value, const char* /*unit*/)
 {

@@ -1,7 +1,6 @@
 #include "settings/kinds/text.h"
 
 #include "base/model_text.h"
-#include "settings/kinds/spelling.h"
 
 namespace vlk {
 
@@ -51,11 +50,8 @@ QString fileText(const Text&, const DefaultText& text)
 Normalised normalised(const Text& row, const Reading& reading)
 {
     if (row.mask)
-        return normalisedTo(masked(QString::fromLatin1(row.mask), reading.text), reading.text,
-                            Change::otherForm);
-    return row.maxLength > 0 && reading.text.size() > row.maxLength
-               ? Normalised{reading.text.left(row.maxLength), Change::tooLong}
-               : Normalised{reading.text};
+        return {masked(QString::fromLatin1(row.mask), reading.text)};
+    return {row.maxLength > 0 ? reading.text.left(row.maxLength) : reading.text, Change::tooLong};
 }
 
 } // namespace vlk

@@ -47,7 +47,7 @@ struct Text : ShownOf<Text>
 
 constexpr Text text(const char* key, DefaultText loadDefault)
 {
-    return keyed<Text>(key).with(&Text::load, loadDefault);
+    return keyed<Text>(key, loadDefault);
 }
 
 constexpr Text text(const char* key, const char* loadDefault)

@@ -93,7 +93,7 @@ void Binder::bind()
             adapters_[row] = makeAdapter(static_cast<int>(row));
     }
     handles_.clear();
-    for (const Distance& rule : values_.table().distances) {
+    for (const Distance& rule : values_.table().all<Distance>()) {
         if (!rule.slider)
             continue;
         if (auto* slider = qobject_cast<VLK_DblSlider2*>(forms_.find(rule.slider, rule.numbers)))
@@ -102,8 +102,8 @@ void Binder::bind()
             problems_ << QStringLiteral("no slider %1").arg(QLatin1String(rule.slider.tail));
     }
     targets_.clear();
-    for (const Enable& rule : values_.table().enables) {
-        const QString form = numberedName(rule.targets.form, rule.numbers);
+    for (const Enable& rule : values_.table().all<Enable>()) {
+        const QString form = numberedName(rule.targets.form(), rule.numbers);
         for (const QString& name : targetNames(rule)) {
             if (QWidget* widget = forms_.find(form, name, rule.numbers.outer))
                 addTarget(widget, rule);
@@ -185,9 +185,9 @@ void Binder::dress()
         if (adapter)
             adapter->dress();
     }
-    for (const RangeWhen& rule : values_.table().ranges)
+    for (const RangeWhen& rule : values_.table().all<RangeWhen>())
         ranges_[rule.path.row] = rangeOf(rule.path.row);
-    for (const ExclusiveChoice& rule : values_.table().exclusives)
+    for (const ExclusiveChoice& rule : values_.table().all<ExclusiveChoice>())
         ranges_[rule.path.row] = rangeOf(rule.path.row);
 }
 
@@ -222,7 +222,7 @@ void Binder::show()
             if (!layout_.rows[row].ranges.empty())
                 dressRanged(static_cast<int>(row));
         }
-        for (const ExclusiveChoice& rule : values_.table().exclusives)
+        for (const ExclusiveChoice& rule : values_.table().all<ExclusiveChoice>())
             dressRanged(rule.path.row);
     }
     evaluateRules();
@@ -236,7 +236,7 @@ void Binder::showRow(int row)
 
 void Binder::evaluateRules()
 {
-    for (const Doubt& rule : values_.table().doubts) {
+    for (const Doubt& rule : values_.table().all<Doubt>()) {
         if (adapters_[rule.path.row])
             adapters_[rule.path.row]->doubt(
                 values_.holds(rule) ? QCoreApplication::translate("vlk", rule.complaint) : QString());
@@ -262,14 +262,13 @@ void Binder::edited(int row, const QString& value)
     {
         const Showing showing(showing_);
         // Ranges may follow another value.
-        for (const RangeWhen& rule : values_.table().ranges) {
-            if (std::find(changed.begin(), changed.end(), rule.when.row) != changed.end())
-                dressRanged(rule.path.row);
-        }
-        for (const TableLayout::SharedList& list : layout_.sharedLists) {
-            if (std::any_of(changed.begin(), changed.end(), [&](int other) { return list.triggers[other]; }))
-                for (const auto& member : list.members)
-                    dressRanged(member.rule->path.row);
+        for (const int other : changed) {
+            for (const RangeWhen* rule : layout_.rows[other].follows)
+                dressRanged(rule->path.row);
+            for (const TableLayout::SharedList* list : layout_.rows[other].lists) {
+                for (const TableLayout::Sharer& sharer : *list)
+                    dressRanged(sharer.rule->path.row);
+            }
         }
         for (const int other : changed) {
             if (other != row)

@@ -6,6 +6,11 @@
 
 namespace vlk {
 
+QStringList targetNames(const Enable& rule)
+{
+    return numberedName(rule.targets.tail, rule.numbers).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
 void BoundForms::add(QWidget* form, int number)
 {
     Form& added = forms_.emplace_back(Form{form, number, {}, {}});

@@ -2,7 +2,7 @@
 
 // The forms of a window whose widgets are joined to settings: finds widgets and their labels by name.
 
-#include "settings/names.h"
+#include "settings/rule.h"
 
 #include <QHash>
 #include <QLabel>
@@ -12,6 +12,9 @@
 #include <vector>
 
 namespace vlk {
+
+// The widgets of a rule, without their form.
+QStringList targetNames(const Enable& rule);
 
 class BoundForms
 {
