@@ -1,5 +1,6 @@
 #include "dialog/configuration_review.h"
 
+#include "review/compare_files.h"
 #include "review/take_over.h"
 #include "settings/all_settings.h"
 #include "xml/xml_document.h"
@@ -31,8 +32,8 @@ bool ConfigurationReview::compareWith(Against against, const QString& path)
     if (against == Against::defaults) {
         before = FileState::ofDefaults(configuration());
     } else if (against == Against::otherFile) {
-        XmlDocument document(path, QStringLiteral("DEVICE"));
-        if (!document.root()->document())
+        XmlDocument document(review::configurationText(path), QStringLiteral("DEVICE"));
+        if (!document.isOpen())
             return false;
         before = FileState::ofDocument(*document.root());
     }

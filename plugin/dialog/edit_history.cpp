@@ -130,16 +130,16 @@ void EditHistory::settle()
     const int row = page->rowAt(firstPath_);
     const auto first = std::ranges::find_if(
         parts, [&](const Part& part) { return part.page == pages.first() && part.row == row; });
-    if (first != parts.end())
+    // An edit that only moved others along is joined with no other.
+    const bool isPlain = first != parts.end();
+    if (isPlain)
         std::swap(parts.front(), *first);
-    const Part& edit = parts.front();
-    push(
-        std::move(parts),
-        [layout = &pages_[edit.page]->values().layout(), at = edit.row] {
-            const review::SettingWords words = review::wordsOf(*layout, at);
-            return words.group.isEmpty() ? words.caption : words.group + QStringLiteral(", ") + words.caption;
-        },
-        true);
+    const TableLayout& layout = pages_[parts.front().page]->values().layout();
+    const Words words = [&layout, at = parts.front().row] {
+        const review::SettingWords told = review::wordsOf(layout, at);
+        return told.group.isEmpty() ? told.caption : told.group + QStringLiteral(", ") + told.caption;
+    };
+    push(std::move(parts), words, isPlain);
 }
 
 void EditHistory::asOne(const Words& words, const std::function<void()>& change)

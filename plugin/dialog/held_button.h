@@ -9,7 +9,9 @@ namespace vlk {
 class HeldButton
 {
 public:
-    explicit HeldButton(QPushButton* button) : button_(button), hadFocus_(button->hasFocus())
+    // Behind a dialog that has just closed the window is not the active one yet.
+    explicit HeldButton(QPushButton* button)
+        : button_(button), hadFocus_(button->window()->focusWidget() == button)
     {
         button_->setEnabled(false);
     }

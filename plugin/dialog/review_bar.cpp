@@ -5,6 +5,7 @@
 #include "settings/value_text.h"
 #include "typing/field_mark.h"
 #include "typing/line_icon.h"
+#include "windows/named_widget.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>
@@ -26,25 +27,19 @@ constexpr int kLinesOnShow = 10;
 constexpr int kMarkSide = 10;
 const QString kDifferencesKey = QStringLiteral("Ctrl+D");
 
-template <class T>
-T* named(const char* name, QWidget* parent)
-{
-    auto* widget = new T(parent);
-    widget->setObjectName(QLatin1String(name));
-    return widget;
-}
-
 } // namespace
 
 ReviewBar::ReviewBar(ConfigurationReview& review, SettingPlaces& places, QWidget* parent)
-    : QWidget(parent), review_(review), places_(places), undo_(named<QToolButton>("toolButton_Undo", this)),
-      redo_(named<QToolButton>("toolButton_Redo", this)), find_(named<QLineEdit>("lineEdit_Find", this)),
-      changedOnly_(named<QCheckBox>("checkBox_ChangedOnly", this)),
-      differences_(named<QToolButton>("toolButton_Differences", this)),
-      list_(named<QListWidget>("listWidget_Found", parent))
+    : QWidget(parent), review_(review), places_(places),
+      undo_(namedWidget<QToolButton>("toolButton_Undo", this)),
+      redo_(namedWidget<QToolButton>("toolButton_Redo", this)),
+      find_(namedWidget<QLineEdit>("lineEdit_Find", this)),
+      changedOnly_(namedWidget<QCheckBox>("checkBox_ChangedOnly", this)),
+      differences_(namedWidget<QToolButton>("toolButton_Differences", this)),
+      list_(namedWidget<QListWidget>("listWidget_Found", parent))
 {
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(6, 6, 6, 0);
+    row->setContentsMargins({});
     row->setSpacing(8);
     for (QWidget* widget : QWidgetList{undo_, redo_, find_, changedOnly_, differences_})
         row->addWidget(widget);
@@ -53,6 +48,7 @@ ReviewBar::ReviewBar(ConfigurationReview& review, SettingPlaces& places, QWidget
     for (QToolButton* button : {undo_, redo_})
         button->setAutoRaise(true);
     differences_->setCheckable(true);
+    differences_->setIconSize({kMarkSide, kMarkSide});
     differences_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     find_->setClearButtonEnabled(true);
     find_->installEventFilter(this);
@@ -148,9 +144,10 @@ void ReviewBar::find()
         list_->addItem(tr("rev_127"));
     list_->setCurrentRow(0);
     const int line = list_->sizeHintForRow(0);
-    const QPoint below = find_->mapTo(parentWidget(), QPoint(0, find_->height()));
+    const QWidget* window = list_->parentWidget();
+    const QPoint below = find_->mapTo(window, QPoint(0, find_->height()));
     list_->setGeometry(
-        QRect(below, QSize(parentWidget()->width() - below.x() - 6,
+        QRect(below, QSize(window->width() - below.x() - 6,
                            line * std::min(list_->count(), kLinesOnShow) + 2 * list_->frameWidth())));
     list_->show();
     list_->raise();

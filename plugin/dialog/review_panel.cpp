@@ -5,6 +5,7 @@
 #include "typing/empty_note.h"
 #include "typing/line_icon.h"
 #include "typing/table_look.h"
+#include "windows/named_widget.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -27,29 +28,23 @@ using Against = ConfigurationReview::Against;
 
 constexpr int kHeight = 200;
 
-template <class T>
-T* named(const char* name, QWidget* parent)
-{
-    auto* widget = new T(parent);
-    widget->setObjectName(QLatin1String(name));
-    return widget;
-}
-
 } // namespace
 
 ReviewPanel::ReviewPanel(ConfigurationReview& review, SettingPlaces& places, QWidget* parent)
     : QWidget(parent), review_(review), places_(places), model_(review),
-      title_(named<QLabel>("label_Differences", this)), against_(named<QComboBox>("comboBox_Against", this)),
-      table_(named<QTableView>("tableView_Differences", this)),
-      takeOver_(named<QPushButton>("pushButton_TakeOver", this)),
-      copy_(named<QPushButton>("pushButton_CopyDifferences", this)),
-      csv_(named<QPushButton>("pushButton_SaveDifferences", this)),
-      close_(named<QToolButton>("toolButton_ClosePanel", this))
+      title_(namedWidget<QLabel>("label_Differences", this)),
+      against_(namedWidget<QComboBox>("comboBox_Against", this)),
+      table_(namedWidget<QTableView>("tableView_Differences", this)),
+      takeOver_(namedWidget<QPushButton>("pushButton_TakeOver", this)),
+      copy_(namedWidget<QPushButton>("pushButton_CopyDifferences", this)),
+      csv_(namedWidget<QPushButton>("pushButton_SaveDifferences", this)),
+      close_(namedWidget<QToolButton>("toolButton_ClosePanel", this))
 {
     setObjectName(QStringLiteral("widget_Review"));
     table_->setModel(&model_);
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
     dressTable(table_, TableUse::read);
+    table_->horizontalHeader()->setStretchLastSection(true);
     table_->installEventFilter(this);
     empty_ = new EmptyNote(table_);
     for (int i = 0; i < 3; ++i)
@@ -57,7 +52,7 @@ ReviewPanel::ReviewPanel(ConfigurationReview& review, SettingPlaces& places, QWi
     close_->setAutoRaise(true);
     close_->setIcon(lineIcon(LineIcon::cross));
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(6, 0, 6, 6);
+    layout->setContentsMargins({});
     layout->setSpacing(6);
     layout->addWidget(makeHead());
     layout->addWidget(table_);

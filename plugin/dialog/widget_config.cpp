@@ -52,10 +52,12 @@ void VLK_Widget_Config::addReview()
             [this](vlk::PageSettings& settings) { history_.watch(settings); });
     bar_ = new vlk::ReviewBar(review_, places_, this);
     panel_ = new vlk::ReviewPanel(review_, places_, this);
-    ui_->gridLayout->addWidget(bar_, 0, 0);
-    ui_->gridLayout->addWidget(ui_->stackedWidget, 1, 0);
-    ui_->gridLayout->addWidget(panel_, 2, 0);
-    ui_->gridLayout->setVerticalSpacing(0);
+    // Both windows share them.
+    const auto place = [this] {
+        isQuick() ? lightWindow_->addReview(bar_, panel_) : fullWindow_->addReview(bar_, panel_);
+    };
+    connect(ui_->stackedWidget, &QStackedWidget::currentChanged, this, place);
+    place();
     connect(bar_, &vlk::ReviewBar::panelRequested, this, &VLK_Widget_Config::showPanel);
     connect(panel_, &vlk::ReviewPanel::closed, this, [this] { showPanel(false); });
     connect(&history_, &vlk::EditHistory::stepped, this, [this](int page, int row) {

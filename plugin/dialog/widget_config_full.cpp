@@ -100,6 +100,12 @@ void VLK_Widget_Config_Full::saveToXml(CXmlSection* root)
     vlk::savePages(*pages_, root);
 }
 
+void VLK_Widget_Config_Full::addReview(QWidget* bar, QWidget* panel)
+{
+    ui_->verticalLayout_Tabs->insertWidget(0, bar);
+    ui_->verticalLayout_Tabs->addWidget(panel);
+}
+
 void VLK_Widget_Config_Full::setDefaults()
 {
     slot_Excess_Size(false);

@@ -30,6 +30,9 @@ public:
     void loadFromXml(CXmlSection* root, char* ussdBuffer);
     void saveToXml(CXmlSection* root);
 
+    // Above and below the tabs.
+    void addReview(QWidget* bar, QWidget* panel);
+
     void setDefaults();
     void retranslate();
     void deviceConnected();

@@ -47,6 +47,12 @@ void VLK_Widget_Config_Light::retranslate()
         form_->retranslate();
 }
 
+void VLK_Widget_Config_Light::addReview(QWidget* bar, QWidget* panel)
+{
+    ui_->verticalLayout->insertWidget(0, bar);
+    ui_->verticalLayout->insertWidget(ui_->verticalLayout->count() - 1, panel);
+}
+
 VLK_Form_Config_Light& VLK_Widget_Config_Light::form()
 {
     if (!form_) {

@@ -27,6 +27,8 @@ public:
     explicit VLK_Widget_Config_Light(QWidget* parent = nullptr);
     ~VLK_Widget_Config_Light() override;
 
+    // Above and below the form.
+    void addReview(QWidget* bar, QWidget* panel);
     void retranslate();
     void setDefaults();
     void loadFromXml(CXmlSection* root);

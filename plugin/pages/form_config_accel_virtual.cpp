@@ -7,7 +7,7 @@
 #include "settings/value_text.h"
 #include "typing/present_value.h"
 #include "windows/disabled_reason.h"
-#include "windows/numbered_widget.h"
+#include "windows/named_widget.h"
 #include "windows/page_style.h"
 #include "windows/wnd_config_full.h"
 

@@ -1,7 +1,7 @@
 #include "pages/form_config_sensors_temp.h"
 
 #include "settings/temperature_settings.h"
-#include "windows/numbered_widget.h"
+#include "windows/named_widget.h"
 #include "windows/vlk_dblslider2.h"
 #include "windows/zone_colors.h"
 

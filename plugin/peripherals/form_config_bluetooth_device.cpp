@@ -3,7 +3,7 @@
 #include "peripherals/form_config_bluetooth_device_type.h"
 #include "settings/bluetooth_sensor_types.h"
 #include "windows/binder/page_settings.h"
-#include "windows/numbered_widget.h"
+#include "windows/named_widget.h"
 #include "windows/tab_order.h"
 
 #include <QComboBox>

@@ -5,7 +5,7 @@
 #include "settings/value_text.h"
 #include "windows/binder/row_inputs.h"
 #include "windows/column_head.h"
-#include "windows/numbered_widget.h"
+#include "windows/named_widget.h"
 
 #include <QCheckBox>
 #include <QComboBox>

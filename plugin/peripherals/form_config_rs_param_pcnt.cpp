@@ -5,7 +5,7 @@
 #include "absent/params/user_param_can.h"
 #include "absent/params/user_params.h"
 #include "settings/rs_settings.h"
-#include "windows/numbered_widget.h"
+#include "windows/named_widget.h"
 #include "windows/tab_order.h"
 
 #include <QCheckBox>

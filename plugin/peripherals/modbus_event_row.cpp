@@ -1,7 +1,7 @@
 #include "peripherals/modbus_event_row.h"
 
 #include "peripherals/modbus_cells.h"
-#include "windows/numbered_widget.h"
+#include "windows/named_widget.h"
 
 #include <QCheckBox>
 #include <QComboBox>

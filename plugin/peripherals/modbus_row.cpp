@@ -3,7 +3,7 @@
 #include "peripherals/modbus_cells.h"
 #include "peripherals/modbus_register.h"
 #include "settings/element_types.h"
-#include "windows/numbered_widget.h"
+#include "windows/named_widget.h"
 #include "windows/zone_colors.h"
 
 #include <QCheckBox>

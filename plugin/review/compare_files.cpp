@@ -9,10 +9,6 @@
 
 namespace vlk::review {
 
-namespace {
-
-// Empty where the file is no configuration. A document that is opened by its path would be made where there
-// is none.
 QByteArray configurationText(const QString& path)
 {
     QFile file(path);
@@ -22,8 +18,6 @@ QByteArray configurationText(const QString& path)
     QXmlStreamReader reader(text);
     return reader.readNextStartElement() && reader.name() == QLatin1String("DEVICE") ? text : QByteArray();
 }
-
-} // namespace
 
 Comparison compareFiles(const QString& before, const QString& after, Secrets secrets,
                         const std::function<void(const Difference&, const DifferenceText&)>& take)

@@ -8,6 +8,10 @@
 
 namespace vlk::review {
 
+// What a configuration file holds, empty where it is none. A document that is opened by its path would be
+// made where there is none.
+QByteArray configurationText(const QString& path);
+
 enum class Comparison { done, beforeUnreadable, afterUnreadable };
 
 // `take` gets each difference in turn. A null path stands for the defaults: what the keys of the other file

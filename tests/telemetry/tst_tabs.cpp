@@ -252,16 +252,16 @@ private Q_SLOTS:
 
     void mileage_data()
     {
-        DataTable<double, bool, float>({"typed", "accept", "sent"})
-            .row("accepted", 1234.56, true, 1234.56F)
-            .row("beyond the highest", 2e7, true, 1e7F)
-            .row("below zero", -1., true, 0.F)
-            .row("cancelled", 5., false, -1.F);
+        DataTable<QString, Qt::Key, float>({"typed", "end", "sent"})
+            .row("accepted", "1234.56", Qt::Key_Return, 1234.56F)
+            .row("comma", "12600,5", Qt::Key_Return, 12600.5F)
+            .row("beyond the highest", "20000000", Qt::Key_Return, 1e7F)
+            .row("cancelled", "5", Qt::Key_Escape, -1.F);
     }
     void mileage()
     {
-        QFETCH(double, typed);
-        QFETCH(bool, accept);
+        QFETCH(QString, typed);
+        QFETCH(Qt::Key, end);
         kilometres_ = -1;
         ScriptedHost::whenModal([&](QWidget* open) {
             auto* dialog = qobject_cast<QInputDialog*>(open);
@@ -269,8 +269,10 @@ private Q_SLOTS:
             QCOMPARE(dialog->windowTitle(), QString("Mileage, km"));
             QCOMPARE(dialog->doubleDecimals(), 2);
             QCOMPARE(dialog->doubleValue(), 0.);
-            dialog->setDoubleValue(typed);
-            dialog->done(accept ? QDialog::Accepted : QDialog::Rejected);
+            auto* box = dialog->findChild<QDoubleSpinBox*>();
+            box->selectAll();
+            QTest::keyClicks(box, typed);
+            QTest::keyClick(box, end);
         });
         press("pushButton_Run");
         QTEST(kilometres_, "sent");

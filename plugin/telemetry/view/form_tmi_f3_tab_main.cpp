@@ -5,9 +5,13 @@
 #include "telemetry/view/dashed_value.h"
 #include "telemetry/view/item_display.h"
 #include "telemetry/view/position_rows.h"
+#include "typing/join_fields.h"
+#include "typing/typed_entry.h"
 
+#include <QAbstractSpinBox>
 #include <QHBoxLayout>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -116,6 +120,38 @@ constexpr ValueSeries kGeofences[] = {
     {"label_Geo_Value_%1", "tmizta_214", item("GeozoneInfo.0"), 10, Main::Geo},
 };
 
+// The only field of a dialog leaves the keys that end typing to the dialog.
+class OnlyField : public QObject
+{
+public:
+    explicit OnlyField(QInputDialog& dialog) : dialog_(dialog), box_(dialog.findChild<QAbstractSpinBox*>())
+    {
+        box_->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != QEvent::KeyPress)
+            return QObject::eventFilter(watched, event);
+        switch (static_cast<QKeyEvent*>(event)->key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            vlk::TypedEntry::of(box_)->finish();
+            dialog_.accept();
+            return true;
+        case Qt::Key_Escape:
+            dialog_.reject();
+            return true;
+        default:
+            return QObject::eventFilter(watched, event);
+        }
+    }
+
+private:
+    QInputDialog& dialog_;
+    QAbstractSpinBox* box_;
+};
+
 } // namespace
 
 VLK_Form_Tmi_F3_Tab_Main::VLK_Form_Tmi_F3_Tab_Main(QWidget* parent)
@@ -209,9 +245,16 @@ void VLK_Form_Tmi_F3_Tab_Main::retranslate()
 void VLK_Form_Tmi_F3_Tab_Main::slot_pressed_Btn_SetRun()
 {
     constexpr double kHighest = 10'000'000;
-    bool accepted = false;
-    const double kilometres =
-        QInputDialog::getDouble(this, tr("tmift1_036"), tr("tmift1_061"), 0, 0, kHighest, 2, &accepted);
-    if (accepted)
-        Q_EMIT signal_Set_Run(static_cast<float>(kilometres));
+    QInputDialog dialog(this);
+    dialog.setInputMode(QInputDialog::DoubleInput);
+    dialog.setWindowTitle(tr("tmift1_036"));
+    dialog.setLabelText(tr("tmift1_061"));
+    dialog.setDoubleRange(0, kHighest);
+    dialog.setDoubleDecimals(2);
+    dialog.setDoubleValue(0);
+    // Both decimal signs.
+    vlk::joinFields(&dialog);
+    OnlyField keys(dialog);
+    if (dialog.exec() == QDialog::Accepted)
+        Q_EMIT signal_Set_Run(static_cast<float>(dialog.doubleValue()));
 }

@@ -1,0 +1,203 @@
+// Undo and redo, the panel of differences and finding a setting, over the whole dialog.
+
+#include "dialog/config_pages.h"
+#include "dialog/widget_config.h"
+#include "dialog/widget_config_full.h"
+#include "link/messages.h"
+#include "support/device.h"
+#include "support/files.h"
+#include "support/setting_samples.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+#include <random>
+
+class ReviewWindowsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        device_.initialize(nullptr);
+        dialog_ = std::make_unique<VLK_Widget_Config>();
+        open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml");
+    }
+    void cleanup() { dialog_.reset(); }
+
+    // After each edit, whatever it pulls along, undo and redo bring the bytes of the file back.
+    void editsAtRandom()
+    {
+        std::mt19937 random(7106);
+        const auto below = [&](int count) {
+            return static_cast<int>(random() % static_cast<unsigned>(count));
+        };
+        const auto pages = history().pages();
+        QByteArray before = saved();
+        QPair<int, int> last;
+        for (int round = 0; round < 500; ++round) {
+            const int place = below(10);
+            vlk::PageSettings& page = *pages[place];
+            const int row = below(page.values().count());
+            // Edits of one setting in a row would be one step.
+            if (last == qMakePair(place, row))
+                continue;
+            const std::vector<QString> held = page.values().held();
+            const QStringList samples = samplesOf(page.values().setting(row));
+            page.binder().set(row, samples[below(samples.size())]);
+            history().settle();
+            if (page.values().held() != held)
+                last = {place, row};
+            const QByteArray after = saved();
+            if (after == before)
+                continue;
+            history().undo();
+            QCOMPARE(saved(), before);
+            history().redo();
+            QCOMPARE(saved(), after);
+            QCOMPARE(page.binder().disagreements(), QStringList());
+            before = after;
+        }
+        while (history().canUndo())
+            history().undo();
+        QCOMPARE(dialog_->review().edited(), 0);
+    }
+
+    // Typing into one field is one step; a field in which something is being typed takes that back alone.
+    void undoByKeys()
+    {
+        auto* port = child<QSpinBox>("GPRSSrv_spinBox_Port_Main");
+        const int was = port->value();
+        type(port, "5555");
+        type(port, "6666");
+        child<QGroupBox>("GPRSSrv_groupBox_Main")->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        QCoreApplication::processEvents();
+        QCOMPARE(child<QToolButton>("toolButton_Undo")->isEnabled(), true);
+        child<QToolButton>("toolButton_Undo")->click();
+        QCOMPARE(port->value(), 6666);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(port->value(), was);
+        QTest::keyClick(dialog_.get(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(port->value(), 6666);
+    }
+
+    void differencesAreBroughtBack()
+    {
+        const QByteArray before = saved();
+        QCOMPARE(child<QToolButton>("toolButton_Differences")->text(), QString("0"));
+        type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
+        type(child<QLineEdit>("lineEdit_Name"), "KAMAZ");
+        QTest::keyClick(dialog_.get(), Qt::Key_D, Qt::ControlModifier);
+        auto* table = child<QTableView>("tableView_Differences");
+        QVERIFY(table->isVisible());
+        QCOMPARE(table->model()->rowCount(), 2);
+        QCOMPARE(child<QToolButton>("toolButton_Differences")->text(), QString("2"));
+        // Of two lines one is left out, and is the one that stays.
+        table->setFocus();
+        table->setCurrentIndex(table->model()->index(0, 0));
+        QTest::keyClick(table, Qt::Key_Space);
+        child<QPushButton>("pushButton_TakeOver")->click();
+        QCOMPARE(table->model()->rowCount(), 1);
+        table->setCurrentIndex(table->model()->index(0, 0));
+        QTest::keyClick(table, Qt::Key_Space);
+        child<QPushButton>("pushButton_TakeOver")->click();
+        QCOMPARE(saved(), before);
+        QCOMPARE(dialog_->review().edited(), 0);
+        QTest::keyClick(table, Qt::Key_Escape);
+        QVERIFY(table->isHidden() || !table->isVisible());
+    }
+
+    void otherSides()
+    {
+        const QByteArray before = saved();
+        auto* against = child<QComboBox>("comboBox_Against");
+        child<QToolButton>("toolButton_Differences")->click();
+        const auto choose = [&](int index) {
+            against->setCurrentIndex(index);
+            Q_EMIT against->activated(index);
+        };
+        choose(1);
+        auto* table = child<QTableView>("tableView_Differences");
+        QVERIFY(table->model()->rowCount() > 10);
+        child<QPushButton>("pushButton_TakeOver")->click();
+        QCOMPARE(table->model()->rowCount(), 0);
+        QVERIFY(saved() != before);
+        history().undo();
+        QCOMPARE(saved(), before);
+        QVERIFY(!dialog_->review().compareWith(vlk::ConfigurationReview::Against::otherFile, "no such file"));
+    }
+
+    void windowsShareTheSteps()
+    {
+        type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
+        const QByteArray full = saved();
+        dialog_->switchToQuick();
+        QVERIFY(dialog_->review().edited() > 1);
+        QTRY_VERIFY(child<QToolButton>("toolButton_Undo")->isVisible());
+        history().undo();
+        QCOMPARE(saved(), full);
+        QVERIFY(dialog_->fullWindow()->isVisible());
+        history().redo();
+        QVERIFY(!dialog_->fullWindow()->isVisible());
+    }
+
+    // Without texts a caption is its key.
+    void findsASetting()
+    {
+        QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
+        auto* find = child<QLineEdit>("lineEdit_Find");
+        QVERIFY(find->hasFocus());
+        QTest::keyClicks(find, "TRACK/POINTS/maxSpeed");
+        auto* list = child<QListWidget>("listWidget_Found");
+        QVERIFY(list->isVisible() && list->count() >= 1);
+        QTest::keyClick(find, Qt::Key_Return);
+        QVERIFY(!list->isVisible());
+        QTRY_VERIFY(QApplication::focusWidget() &&
+                    QApplication::focusWidget()->objectName().contains("Speed"));
+        QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
+        QTest::keyClick(find, Qt::Key_Escape);
+        QCOMPARE(find->text(), QString());
+        QVERIFY(dialog_->isVisible());
+    }
+
+private:
+    void open(const QString& path)
+    {
+        vlk::OpenRequest request{.showFull = 1, .fromFile = 1, .path = {}};
+        qstrncpy(request.path, path.toLocal8Bit().constData(), sizeof request.path);
+        char ussd[vlk::balanceUssdSize] = {};
+        dialog_->open(request, ussd);
+        QVERIFY(QTest::qWaitForWindowActive(dialog_.get()));
+    }
+    vlk::EditHistory& history() { return dialog_->review().history(); }
+    QByteArray saved()
+    {
+        vlk::XmlDocument document(QString(), "DEVICE");
+        dialog_->fullWindow()->saveToXml(document.root());
+        return document.text();
+    }
+    template <class T>
+    T* child(const char* name) const
+    {
+        auto* found = dialog_->findChild<T*>(name);
+        if (!found)
+            qFatal("no %s", name);
+        return found;
+    }
+    static void type(QWidget* field, const QString& keys)
+    {
+        field->setFocus();
+        QMetaObject::invokeMethod(field, "selectAll");
+        QTest::keyClicks(field, keys);
+        QTest::keyClick(field, Qt::Key_Tab);
+        QCoreApplication::processEvents();
+    }
+
+    TestDevice device_;
+    std::unique_ptr<VLK_Widget_Config> dialog_;
+};
+
+QTEST_MAIN(ReviewWindowsTest)
+#include "tst_review_windows.moc"
