@@ -1177,6 +1177,12 @@
     <message id="rev_128"><translation>change to full setup</translation></message>
     <message id="rev_129"><translation>change to quick setup</translation></message>
     <message id="rev_130"><translation>change of language</translation></message>
+    <message id="rev_131"><translation>Advice</translation></message>
+    <message id="rev_132"><translation>Mend</translation></message>
+    <message id="rev_133"><translation>Nothing to advise.</translation></message>
+    <message id="rev_134"><translation>advice followed</translation></message>
+    <message id="rev_135"><translation>Advice on this configuration (%1)</translation></message>
+    <message id="rev_136"><translation>Go to</translation></message>
     <message id="tmiex_001"><translation>Navigation</translation></message>
     <message id="tmiex_002"><translation>Receiver</translation></message>
     <message id="tmiex_003"><translation>Satellites</translation></message>

@@ -1177,6 +1177,12 @@
     <message id="rev_128"><translation>переход к полной настройке</translation></message>
     <message id="rev_129"><translation>переход к быстрой настройке</translation></message>
     <message id="rev_130"><translation>смена языка</translation></message>
+    <message id="rev_131"><translation>Замечания</translation></message>
+    <message id="rev_132"><translation>Исправить</translation></message>
+    <message id="rev_133"><translation>Замечаний нет.</translation></message>
+    <message id="rev_134"><translation>исправление по замечанию</translation></message>
+    <message id="rev_135"><translation>Замечания к этой конфигурации (%1)</translation></message>
+    <message id="rev_136"><translation>Перейти</translation></message>
     <message id="tmiex_001"><translation>Навигация</translation></message>
     <message id="tmiex_002"><translation>Приёмник</translation></message>
     <message id="tmiex_003"><translation>Спутники</translation></message>

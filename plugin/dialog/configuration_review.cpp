@@ -55,13 +55,31 @@ Configuration ConfigurationReview::configuration() const
     return all;
 }
 
-const Values* ConfigurationReview::valuesOf(int table) const
+PageSettings* ConfigurationReview::pageOf(int table) const
 {
-    for (const PageSettings* page : history_.pages()) {
+    for (PageSettings* page : history_.pages()) {
         if (FileKeys::all().tableOf(page->values().table()) == table)
-            return &page->values();
+            return page;
     }
     return nullptr;
+}
+
+const Values* ConfigurationReview::valuesOf(int table) const
+{
+    const PageSettings* page = pageOf(table);
+    return page ? &page->values() : nullptr;
+}
+
+review::Hit ConfigurationReview::settingAt(const QString& path) const
+{
+    for (int table = 0; table < FileKeys::all().tables(); ++table) {
+        const TableLayout& layout = FileKeys::all().layout(table);
+        const int row =
+            path.startsWith(layout.prefix()) ? layout.rowAt(path.mid(layout.prefix().size())) : -1;
+        if (row >= 0)
+            return {.table = table, .row = row};
+    }
+    return {};
 }
 
 FileState ConfigurationReview::now() const
@@ -95,6 +113,33 @@ bool ConfigurationReview::isEdited(const SettingsTable& table, int row) const
 {
     const int at = FileKeys::all().tableOf(table);
     return at >= 0 && edited_.isDifferent(at, row);
+}
+
+std::vector<review::Finding> ConfigurationReview::advice() const
+{
+    QHash<QString, QString> unread;
+    for (const review::Stranger& stranger : asItCame_.strangers())
+        unread.insert(stranger.path, stranger.text);
+    Configuration written = configuration();
+    if (isQuick_()) {
+        XmlDocument document(QString(), QStringLiteral("DEVICE"));
+        written.write(*document.root());
+        history_.pages().back()->values().write(*document.root());
+        document.root()->commit();
+        written.read(*document.root());
+    }
+    return review::advise(written, unread);
+}
+
+void ConfigurationReview::mend(const std::vector<review::Mend>& mends, const EditHistory::Words& words)
+{
+    history_.asOne(words, [&] {
+        for (const review::Mend& mend : mends) {
+            const review::Hit setting = settingAt(mend.path);
+            if (PageSettings* page = pageOf(setting.table); page && setting.row >= 0)
+                page->binder().set(setting.row, mend.value);
+        }
+    });
 }
 
 void ConfigurationReview::takeOver(const std::vector<int>& keys, const EditHistory::Words& words)

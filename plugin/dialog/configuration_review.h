@@ -5,6 +5,7 @@
 // history, with those without which they could not be.
 
 #include "dialog/edit_history.h"
+#include "review/advice.h"
 #include "review/differences.h"
 #include "review/search.h"
 
@@ -36,10 +37,20 @@ public:
     bool isEdited(const SettingsTable& table, int row) const;
     Configuration configuration() const;
     // Null where no page has the table.
+    PageSettings* pageOf(int table) const;
     const Values* valuesOf(int table) const;
 
     // From the other side; keys of review::FileKeys.
     void takeOver(const std::vector<int>& keys, const EditHistory::Words& words);
+
+    // The setting at a path such as "TRANS/SRV1/port"; the row is -1 where there is none.
+    review::Hit settingAt(const QString& path) const;
+
+    // On what a write would bring now.
+    std::vector<review::Finding> advice() const;
+    // The quick window shows too few of the settings.
+    bool canMend() const { return !isQuick_(); }
+    void mend(const std::vector<review::Mend>& mends, const EditHistory::Words& words);
 
     EditHistory& history() { return history_; }
 

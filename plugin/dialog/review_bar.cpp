@@ -26,6 +26,7 @@ constexpr int kMostHits = 200;
 constexpr int kLinesOnShow = 10;
 constexpr int kMarkSide = 10;
 const QString kDifferencesKey = QStringLiteral("Ctrl+D");
+const QString kAdviceKey = QStringLiteral("Ctrl+Shift+D");
 
 } // namespace
 
@@ -36,20 +37,23 @@ ReviewBar::ReviewBar(ConfigurationReview& review, SettingPlaces& places, QWidget
       find_(namedWidget<QLineEdit>("lineEdit_Find", this)),
       changedOnly_(namedWidget<QCheckBox>("checkBox_ChangedOnly", this)),
       differences_(namedWidget<QToolButton>("toolButton_Differences", this)),
+      advice_(namedWidget<QToolButton>("toolButton_Advice", this)),
       list_(namedWidget<QListWidget>("listWidget_Found", parent))
 {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins({});
     row->setSpacing(8);
-    for (QWidget* widget : QWidgetList{undo_, redo_, find_, changedOnly_, differences_})
+    for (QWidget* widget : QWidgetList{undo_, redo_, find_, changedOnly_, differences_, advice_})
         row->addWidget(widget);
     undo_->setIcon(lineIcon(LineIcon::undo));
     redo_->setIcon(lineIcon(LineIcon::redo));
     for (QToolButton* button : {undo_, redo_})
         button->setAutoRaise(true);
-    differences_->setCheckable(true);
-    differences_->setIconSize({kMarkSide, kMarkSide});
-    differences_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    for (QToolButton* button : {differences_, advice_}) {
+        button->setCheckable(true);
+        button->setIconSize({kMarkSide, kMarkSide});
+        button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    }
     find_->setClearButtonEnabled(true);
     find_->installEventFilter(this);
     list_->setFocusPolicy(Qt::NoFocus);
@@ -60,13 +64,18 @@ ReviewBar::ReviewBar(ConfigurationReview& review, SettingPlaces& places, QWidget
     connect(find_, &QLineEdit::textEdited, this, &ReviewBar::find);
     connect(changedOnly_, &QCheckBox::toggled, this, &ReviewBar::find);
     connect(list_, &QListWidget::itemClicked, this, [this] { goTo(list_->currentRow()); });
-    connect(differences_, &QToolButton::toggled, this, &ReviewBar::panelRequested);
+    connect(differences_, &QToolButton::toggled, this,
+            [this](bool on) { Q_EMIT panelRequested(on ? Differences : None); });
+    connect(advice_, &QToolButton::toggled, this,
+            [this](bool on) { Q_EMIT panelRequested(on ? Advice : None); });
     connect(&review_, &ConfigurationReview::changed, this, &ReviewBar::showState);
     connect(new QShortcut(QKeySequence::Find, parent), &QShortcut::activated, this, &ReviewBar::focusFind);
     connect(new QShortcut(QKeySequence::Undo, parent), &QShortcut::activated, undo_, &QToolButton::click);
     connect(new QShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+Z")), parent), &QShortcut::activated, redo_,
             &QToolButton::click);
     connect(new QShortcut(QKeySequence(kDifferencesKey), parent), &QShortcut::activated, differences_,
+            &QToolButton::toggle);
+    connect(new QShortcut(QKeySequence(kAdviceKey), parent), &QShortcut::activated, advice_,
             &QToolButton::toggle);
     retranslate();
 }
@@ -108,10 +117,20 @@ void ReviewBar::focusFind()
     find_->selectAll();
 }
 
-void ReviewBar::setPanelOpen(bool open)
+void ReviewBar::setPanel(Panel panel)
 {
-    const QSignalBlocker blocker(differences_);
-    differences_->setChecked(open);
+    const QSignalBlocker noDifferences(differences_);
+    const QSignalBlocker noAdvice(advice_);
+    differences_->setChecked(panel == Differences);
+    advice_->setChecked(panel == Advice);
+}
+
+void ReviewBar::setAdvice(int count, bool isSerious)
+{
+    advice_->setText(QLocale().toString(count));
+    advice_->setIcon(isSerious ? QIcon(markPixmap(Mark::advice, palette(), kMarkSide, 2)) : QIcon());
+    advice_->setToolTip(tr("rev_135").arg(QKeySequence(kAdviceKey).toString()));
+    advice_->setAccessibleName(QStringLiteral("%1: %2").arg(tr("rev_131")).arg(count));
 }
 
 void ReviewBar::find()

@@ -25,10 +25,13 @@ public:
 
     void retranslate();
     void focusFind();
-    void setPanelOpen(bool open);
+    // What is on show below.
+    enum Panel { None, Differences, Advice };
+    void setPanel(Panel panel);
+    void setAdvice(int count, bool isSerious);
 
 Q_SIGNALS:
-    void panelRequested(bool open);
+    void panelRequested(vlk::ReviewBar::Panel panel);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -48,6 +51,7 @@ private:
     QLineEdit* find_;
     QCheckBox* changedOnly_;
     QToolButton* differences_;
+    QToolButton* advice_;
     QListWidget* list_; // of hits, over the pages
 };
 

@@ -2,9 +2,9 @@
 
 #include "ui_VLK_Designer_Widget_Config.h"
 
+#include "dialog/advice_panel.h"
 #include "dialog/config_pages.h"
 #include "dialog/file_names.h"
-#include "dialog/review_bar.h"
 #include "dialog/review_panel.h"
 #include "dialog/widget_config_full.h"
 #include "dialog/widget_config_light.h"
@@ -15,6 +15,7 @@
 #include "windows/fit_to_screen.h"
 #include "xml/xml_document.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 VLK_Widget_Config::VLK_Widget_Config(QWidget* parent)
@@ -52,27 +53,36 @@ void VLK_Widget_Config::addReview()
             [this](vlk::PageSettings& settings) { history_.watch(settings); });
     bar_ = new vlk::ReviewBar(review_, places_, this);
     panel_ = new vlk::ReviewPanel(review_, places_, this);
+    advice_ = new vlk::AdvicePanel(review_, places_, this);
     // Both windows share them.
     const auto place = [this] {
-        isQuick() ? lightWindow_->addReview(bar_, panel_) : fullWindow_->addReview(bar_, panel_);
+        for (QWidget* panel : QWidgetList{panel_, advice_})
+            isQuick() ? lightWindow_->addReview(bar_, panel) : fullWindow_->addReview(bar_, panel);
     };
     connect(ui_->stackedWidget, &QStackedWidget::currentChanged, this, place);
     place();
     connect(bar_, &vlk::ReviewBar::panelRequested, this, &VLK_Widget_Config::showPanel);
-    connect(panel_, &vlk::ReviewPanel::closed, this, [this] { showPanel(false); });
+    connect(panel_, &vlk::ReviewPanel::closed, this, [this] { showPanel(vlk::ReviewBar::None); });
+    connect(advice_, &vlk::AdvicePanel::closed, this, [this] { showPanel(vlk::ReviewBar::None); });
+    connect(advice_, &vlk::AdvicePanel::changed, this,
+            [this] { bar_->setAdvice(advice_->count(), advice_->isSerious()); });
     connect(&history_, &vlk::EditHistory::stepped, this, [this](int page, int row) {
         const auto& table = history_.pages()[page]->values().table();
         places_.goTo(vlk::review::FileKeys::all().tableOf(table), row);
     });
 }
 
-void VLK_Widget_Config::showPanel(bool open)
+void VLK_Widget_Config::showPanel(vlk::ReviewBar::Panel panel)
 {
-    bar_->setPanelOpen(open);
-    if (open)
-        return panel_->open();
-    panel_->hide();
-    ui_->stackedWidget->currentWidget()->setFocus(Qt::OtherFocusReason);
+    bar_->setPanel(panel);
+    panel_->setVisible(panel == vlk::ReviewBar::Differences);
+    advice_->setVisible(panel == vlk::ReviewBar::Advice);
+    if (panel == vlk::ReviewBar::Differences)
+        panel_->open();
+    else if (panel == vlk::ReviewBar::Advice)
+        advice_->open();
+    else
+        ui_->stackedWidget->currentWidget()->setFocus(Qt::OtherFocusReason);
 }
 
 bool VLK_Widget_Config::isQuick() const
@@ -197,4 +207,5 @@ void VLK_Widget_Config::retranslate()
                    });
     bar_->retranslate();
     panel_->retranslate();
+    advice_->retranslate();
 }

@@ -6,6 +6,7 @@
 // Failures of files are told to the log alone, and what could not be saved is not written to the tracker.
 
 #include "dialog/configuration_review.h"
+#include "dialog/review_bar.h"
 #include "dialog/setting_places.h"
 
 #include <QDialog>
@@ -21,7 +22,7 @@ class VLK_Designer_Widget_Config;
 }
 
 namespace vlk {
-class ReviewBar;
+class AdvicePanel;
 class ReviewPanel;
 struct OpenRequest;
 } // namespace vlk
@@ -59,7 +60,7 @@ private:
     void showFull();
     void showQuick();
     void addReview();
-    void showPanel(bool open);
+    void showPanel(vlk::ReviewBar::Panel panel);
 
     std::unique_ptr<Ui::VLK_Designer_Widget_Config> ui_;
     VLK_Widget_Config_Light* lightWindow_;
@@ -69,4 +70,5 @@ private:
     vlk::SettingPlaces places_;
     vlk::ReviewBar* bar_ = nullptr;
     vlk::ReviewPanel* panel_ = nullptr;
+    vlk::AdvicePanel* advice_ = nullptr;
 };

@@ -143,6 +143,30 @@ private Q_SLOTS:
         QVERIFY(!dialog_->fullWindow()->isVisible());
     }
 
+    // A new configuration waits for its server and the format of its record, which a button sets.
+    void adviceIsFollowed()
+    {
+        open({});
+        auto* button = child<QToolButton>("toolButton_Advice");
+        QCOMPARE(button->text(), QString("2"));
+        QTest::keyClick(dialog_.get(), Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier);
+        auto* table = child<QTableView>("tableView_Advice");
+        QVERIFY(table->isVisible() && !child<QTableView>("tableView_Differences")->isVisible());
+        QCOMPARE(table->model()->rowCount(), 2);
+        auto* mend = child<QPushButton>("pushButton_Mend");
+        QVERIFY(!mend->isEnabled());
+        QTest::keyClick(table, Qt::Key_Down);
+        QTest::keyClick(table, Qt::Key_Return);
+        QVERIFY(!table->hasFocus() && child<QTabWidget>("tabWidget")->currentIndex() == 1);
+        mend->click();
+        QCOMPARE(button->text(), QString("1"));
+        history().undo();
+        QCOMPARE(button->text(), QString("2"));
+        table->setFocus();
+        QTest::keyClick(table, Qt::Key_Escape);
+        QVERIFY(!table->isVisible());
+    }
+
     // Without texts a caption is its key.
     void findsASetting()
     {
