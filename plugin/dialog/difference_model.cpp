@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+#include <utility>
+
 namespace vlk {
 
 namespace {
@@ -38,17 +40,19 @@ QString settingOf(const review::DifferenceText& text)
 DifferenceModel::DifferenceModel(ConfigurationReview& review, QObject* parent)
     : QAbstractTableModel(parent), review_(review)
 {
-    connect(&review_, &ConfigurationReview::changed, this, &DifferenceModel::refresh);
 }
 
 void DifferenceModel::refresh()
 {
     beginResetModel();
     lines_.clear();
+    const QSet<QString> unchosen = std::exchange(unchosen_, {});
     const review::Differences& differences = review_.differences();
     for (const review::Difference& difference : differences.all()) {
         const Values* values =
             difference.key < 0 ? nullptr : review_.valuesOf(review::FileKeys::all()[difference.key].table);
+        if (unchosen.contains(difference.path))
+            unchosen_.insert(difference.path);
         lines_.push_back({difference, values ? review::textOf(differences, difference, *values)
                                              : review::textOf(difference)});
     }

@@ -1,60 +1,45 @@
 #pragma once
 
-// The panel below the pages: what differs from the file as it came, from the defaults or from another file.
-// Enter or a double click goes to the setting; the chosen lines are brought back or taken over.
+// The panel of what differs from the file as it came, from the defaults or from another file. The chosen
+// lines are brought back or taken over, as one step.
 
 #include "dialog/difference_model.h"
-
-#include <QWidget>
+#include "dialog/list_panel.h"
 
 class QComboBox;
-class QLabel;
 class QPushButton;
-class QTableView;
-class QToolButton;
 
 namespace vlk {
 
-class EmptyNote;
 class SettingPlaces;
 
-class ReviewPanel : public QWidget
+class ReviewPanel : public ListPanel
 {
     Q_OBJECT
 
 public:
     ReviewPanel(ConfigurationReview& review, SettingPlaces& places, QWidget* parent = nullptr);
 
-    void retranslate();
-    // Opens it, and gives it the focus.
-    void open();
-
-Q_SIGNALS:
-    void closed();
+    void retranslate() override;
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
+    void refresh() override { model_.refresh(); }
+    void take(int line) override;
+    void toggle(int line) override;
 
 private:
-    QWidget* makeHead();
     void showState();
     void chooseAgainst(int index);
-    void goTo(const QModelIndex& index);
     void takeOver();
     void saveCsv();
 
     ConfigurationReview& review_;
     SettingPlaces& places_;
     DifferenceModel model_;
-    QLabel* title_;
     QComboBox* against_;
-    QTableView* table_;
-    EmptyNote* empty_;
     QPushButton* takeOver_;
     QPushButton* copy_;
     QPushButton* csv_;
-    QToolButton* close_;
 };
 
 } // namespace vlk

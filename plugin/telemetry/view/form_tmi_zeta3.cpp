@@ -1,4 +1,5 @@
 #include "telemetry/view/form_tmi_zeta3.h"
+#include "base/translated.h"
 
 #include "link/requests.h"
 #include "telemetry/view/form_tmi_f3_tab_accel.h"
@@ -104,10 +105,12 @@ void VLK_Form_TMI_Zeta3::setCapabilityMask(quint64 mask)
     sensors_->setOutputCount((mask & kFourthOutput) != 0 ? kOutputCount + 1 : kOutputCount);
 }
 
-void VLK_Form_TMI_Zeta3::setCommandsEnabled(bool enabled)
+void VLK_Form_TMI_Zeta3::setCommandsBlocked(const char* reasonKey)
 {
-    main_->commands()->setEnabled(enabled);
-    sensors_->commands()->setEnabled(enabled);
+    for (QWidget* commands : {main_->commands(), sensors_->commands()}) {
+        commands->setEnabled(!reasonKey);
+        commands->setToolTip(translated(reasonKey));
+    }
 }
 
 void VLK_Form_TMI_Zeta3::setLive(bool live)

@@ -29,7 +29,7 @@ public:
     // Bit 3: the tracker has four outputs, else three.
     void setCapabilityMask(quint64 mask);
     // Off while records are requested automatically: the user cannot command the tracker then.
-    void setCommandsEnabled(bool enabled);
+    void setCommandsBlocked(const char* reasonKey);
     // A form without a tracker shows no controls for one.
     void setLive(bool live);
 

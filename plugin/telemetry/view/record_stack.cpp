@@ -126,7 +126,7 @@ void RecordStack::prepareZeta3()
     zeta3_->setLive(live_);
     zeta3_->setTitles(titles_);
     zeta3_->setCapabilityMask(capabilityMask_);
-    zeta3_->setCommandsEnabled(commandsEnabled_);
+    zeta3_->setCommandsBlocked(commandsBlockedBy_);
 }
 
 void RecordStack::setTracker(const TelemetryTitles& titles, quint64 capabilityMask)
@@ -136,9 +136,9 @@ void RecordStack::setTracker(const TelemetryTitles& titles, quint64 capabilityMa
     prepareZeta3();
 }
 
-void RecordStack::setCommandsEnabled(bool enabled)
+void RecordStack::setCommandsBlocked(const char* reasonKey)
 {
-    commandsEnabled_ = enabled;
+    commandsBlockedBy_ = reasonKey;
     prepareZeta3();
 }
 

@@ -39,7 +39,8 @@ public:
 
     void setTracker(const vlk::TelemetryTitles& titles, quint64 capabilityMask);
     // Whether the user may command the tracker from a form.
-    void setCommandsEnabled(bool enabled);
+    // `reasonKey`: why they are closed; null where they are open.
+    void setCommandsBlocked(const char* reasonKey);
     // Seconds east of UTC.
     void setUtcOffset(int seconds);
     void retranslate();
@@ -65,7 +66,7 @@ private:
     VLK_Form_TMI_Production* production_ = nullptr;
     vlk::TelemetryTitles titles_;
     quint64 capabilityMask_ = 0;
-    bool commandsEnabled_ = true;
+    const char* commandsBlockedBy_ = nullptr;
     int utcOffset_ = 0;
 };
 

@@ -114,7 +114,7 @@ void VLK_Widget_Tmi_View::setManualBlocked(const char* reasonKey)
     blockedBy_ = reasonKey;
     for (QWidget* control : manualControls(*ui_))
         control->setEnabled(reasonKey == nullptr);
-    pages_.setCommandsEnabled(reasonKey == nullptr);
+    pages_.setCommandsBlocked(reasonKey);
     setToolTips(*ui_, reasonKey);
 }
 
@@ -227,6 +227,7 @@ void VLK_Widget_Tmi_View::retranslate()
     setLocale(QLocale());
     setControlTexts(*ui_);
     setToolTips(*ui_, blockedBy_);
+    pages_.setCommandsBlocked(blockedBy_);
     slot_valueChanged_horizontalSlider_Auto_Tmi(ui_->horizontalSlider_Auto_Tmi->value());
     setTitle();
 

@@ -1,0 +1,118 @@
+#include "dialog/list_panel.h"
+
+#include "typing/empty_note.h"
+#include "typing/line_icon.h"
+#include "typing/table_look.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableView>
+#include <QToolButton>
+
+namespace vlk {
+
+namespace {
+
+constexpr int kPanelHeight = 200;
+
+} // namespace
+
+ListPanel::ListPanel(const char* name, QWidget* parent)
+    : QWidget(parent), title_(new QLabel(this)), table_(new QTableView(this)), close_(new QToolButton(this))
+{
+    const QString end = QString::fromLatin1(name);
+    setObjectName(QStringLiteral("widget_") + end);
+    title_->setObjectName(QStringLiteral("label_") + end);
+    table_->setObjectName(QStringLiteral("tableView_") + end);
+    close_->setObjectName(QStringLiteral("toolButton_Close") + end);
+    table_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table_->installEventFilter(this);
+    close_->setAutoRaise(true);
+    close_->setIcon(lineIcon(LineIcon::cross));
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(6);
+    auto* head = new QHBoxLayout;
+    head->setSpacing(8);
+    head->addWidget(title_);
+    head->addStretch();
+    head->addWidget(close_);
+    layout->addLayout(head);
+    layout->addWidget(table_);
+    setFixedHeight(kPanelHeight);
+    connect(table_, &QTableView::doubleClicked, this,
+            [this](const QModelIndex& index) { take(index.row()); });
+    connect(close_, &QToolButton::clicked, this, &ListPanel::closed);
+    hide();
+}
+
+void ListPanel::setModel(QAbstractItemModel& model)
+{
+    table_->setModel(&model);
+    dressTable(table_, TableUse::read);
+    table_->horizontalHeader()->setStretchLastSection(true);
+    empty_ = new EmptyNote(table_);
+}
+
+void ListPanel::addToHead(const QWidgetList& widgets)
+{
+    auto* head = static_cast<QHBoxLayout*>(layout()->itemAt(0)->layout());
+    for (QWidget* widget : widgets) {
+        head->insertWidget(head->count() - 2, widget);
+        if (auto* button = qobject_cast<QPushButton*>(widget))
+            button->setAutoDefault(false);
+    }
+}
+
+void ListPanel::setTitle(const QString& title, QWidget* buddy)
+{
+    title_->setText(title);
+    title_->setBuddy(buddy);
+}
+
+void ListPanel::retranslate()
+{
+    close_->setToolTip(tr("rev_116"));
+    close_->setAccessibleName(tr("rev_116"));
+}
+
+void ListPanel::open()
+{
+    show();
+    refresh();
+    if (!table_->currentIndex().isValid())
+        table_->setCurrentIndex(table_->model()->index(0, 0));
+    table_->setFocus(Qt::ShortcutFocusReason);
+}
+
+bool ListPanel::eventFilter(QObject* watched, QEvent* event)
+{
+    const int line = table_->currentIndex().row();
+    if (watched != table_ || event->type() != QEvent::KeyPress || line < 0)
+        return QWidget::eventFilter(watched, event);
+    switch (static_cast<QKeyEvent*>(event)->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        take(line);
+        return true;
+    case Qt::Key_Space:
+        toggle(line);
+        return true;
+    default:
+        return QWidget::eventFilter(watched, event);
+    }
+}
+
+void ListPanel::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Escape)
+        return QWidget::keyPressEvent(event);
+    Q_EMIT closed();
+    event->accept();
+}
+
+} // namespace vlk

@@ -1,0 +1,56 @@
+#pragma once
+
+// A panel below the pages: a line with its title, what can be done and a cross, and a table. Enter or a
+// double click takes a line, Esc closes the panel.
+
+#include <QWidget>
+
+class QAbstractItemModel;
+class QLabel;
+class QTableView;
+class QToolButton;
+
+namespace vlk {
+
+class EmptyNote;
+
+class ListPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    // `name`: the end of the names of its widgets.
+    ListPanel(const char* name, QWidget* parent);
+
+    virtual void retranslate();
+    // Shows it with what there is now, and gives it the focus.
+    void open();
+
+Q_SIGNALS:
+    void closed();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+    // Before all else.
+    void setModel(QAbstractItemModel& model);
+    // Behind the title, in their order.
+    void addToHead(const QWidgetList& widgets);
+    void setTitle(const QString& title, QWidget* buddy);
+    virtual void refresh() = 0;
+    virtual void take(int line) = 0;
+    // The space bar, on a line.
+    virtual void toggle(int /*line*/) {}
+
+    QTableView* table() const { return table_; }
+    EmptyNote* empty() const { return empty_; }
+
+private:
+    QLabel* title_;
+    QTableView* table_;
+    EmptyNote* empty_ = nullptr;
+    QToolButton* close_;
+};
+
+} // namespace vlk
