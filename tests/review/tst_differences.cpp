@@ -1,10 +1,10 @@
 // What differs between two states of a configuration file, and how it is told.
 
+#include "base/translated.h"
 #include "review/difference_text.h"
 #include "review/take_over.h"
 #include "settings/all_settings.h"
 #include "settings/quick_settings.h"
-#include "base/translated.h"
 #include "support/data_table.h"
 #include "support/files.h"
 #include "support/setting_samples.h"
