@@ -139,9 +139,9 @@ void ReviewBar::find()
     if (words.isEmpty() && !changedOnly_->isChecked())
         return closeHits();
     if (!search_) {
-        std::vector<const Values*> tables;
-        for (int table = 0; table < review::FileKeys::all().tables(); ++table)
-            tables.push_back(review_.valuesOf(table));
+        std::vector<const Values*> tables(review::FileKeys::all().tables());
+        for (std::size_t table = 0; table < tables.size(); ++table)
+            tables[table] = review_.valuesOf(static_cast<int>(table));
         search_ = std::make_unique<review::Search>(tables);
     }
     hits_ = search_->find(words);

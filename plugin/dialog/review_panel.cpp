@@ -48,9 +48,9 @@ void ReviewPanel::retranslate()
 {
     ListPanel::retranslate();
     setTitle(tr("rev_108"), against_);
-    const char* sides[] = {"rev_109", "rev_110", "rev_111"};
-    for (int i = 0; i < against_->count(); ++i)
-        against_->setItemText(i, tr(sides[i]));
+    int side = 0;
+    for (const char* key : {"rev_109", "rev_110", "rev_111"})
+        against_->setItemText(side++, tr(key));
     copy_->setText(tr("rev_114"));
     csv_->setText(tr("rev_115"));
     if (isVisible())
