@@ -38,11 +38,14 @@ void loadWalk(benchmark::State& state)
     char ussd[vlk::balanceUssdSize] = {};
     const QString path = bench::wholeConfiguration();
     VLK_Widget_Config_Full window;
+    const auto load = [&] {
+        vlk::XmlDocument document(path, QStringLiteral("DEVICE"));
+        window.loadFromXml(document.root(), ussd);
+    };
     // The form of the serial line's device is made by the first file, which belongs to the opening.
-    window.loadFile(path, ussd);
-    bench::sideBySide(
-        state, "x reader", [&] { window.loadFile(path, ussd); },
-        [&] { benchmark::DoNotOptimize(bench::readWithoutUse(path)); });
+    load();
+    bench::sideBySide(state, "x reader", load,
+                      [&] { benchmark::DoNotOptimize(bench::readWithoutUse(path)); });
 }
 
 // Up to the text of the file: how long the disk takes to hold it is not ours.
