@@ -21,7 +21,7 @@ ConfigurationReview::ConfigurationReview(EditHistory& history, std::function<boo
 
 void ConfigurationReview::begin(CXmlSection* root)
 {
-    asItCame_ = root ? FileState::ofDocument(*root) : FileState::ofConfiguration(configuration());
+    asItCame_ = root ? FileState::ofDocument(*root) : now();
     against_ = Against::file;
     history_.begin();
 }
@@ -107,12 +107,6 @@ void ConfigurationReview::refresh(const QVector<int>& pages)
         }
     }
     Q_EMIT changed();
-}
-
-bool ConfigurationReview::isEdited(const SettingsTable& table, int row) const
-{
-    const int at = FileKeys::all().tableOf(table);
-    return at >= 0 && edited_.isDifferent(at, row);
 }
 
 std::vector<review::Finding> ConfigurationReview::advice() const

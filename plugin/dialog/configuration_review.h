@@ -34,7 +34,7 @@ public:
     const review::Differences& differences() const { return differences_; }
     // To the file, whatever is compared.
     int edited() const { return edited_.count(); }
-    bool isEdited(const SettingsTable& table, int row) const;
+    bool isEdited(int table, int row) const { return edited_.isDifferent(table, row); }
     Configuration configuration() const;
     // Null where no page has the table.
     PageSettings* pageOf(int table) const;

@@ -2,7 +2,6 @@
 
 #include "review/setting_words.h"
 
-#include <QCoreApplication>
 #include <QUndoCommand>
 
 #include <algorithm>
@@ -21,7 +20,6 @@ public:
     }
 
     QString words() const { return words_(); }
-    const std::vector<Part>& parts() const { return parts_; }
 
     int id() const override { return isPlain_ ? 1 : -1; }
     // An edit of the same setting, which has not been left for another one.

@@ -64,7 +64,11 @@ ReviewBar::ReviewBar(ConfigurationReview& review, SettingPlaces& places, QWidget
     connect(undo_, &QToolButton::clicked, &review_.history(), &EditHistory::undo);
     connect(redo_, &QToolButton::clicked, &review_.history(), &EditHistory::redo);
     connect(find_, &QLineEdit::textEdited, this, &ReviewBar::find);
-    connect(changedOnly_, &QCheckBox::toggled, this, &ReviewBar::find);
+    // The list closes when the focus leaves the field.
+    connect(changedOnly_, &QCheckBox::toggled, this, [this] {
+        find_->setFocus(Qt::OtherFocusReason);
+        find();
+    });
     connect(list_, &QListWidget::itemClicked, this, [this] { goTo(list_->currentRow()); });
     connect(differences_, &QToolButton::toggled, this,
             [this](bool on) { Q_EMIT panelRequested(on ? Differences : None); });
@@ -148,9 +152,8 @@ void ReviewBar::find()
     }
     hits_ = search_->find(words);
     if (changedOnly_->isChecked())
-        std::erase_if(hits_, [this](const review::Hit& hit) {
-            return !review_.isEdited(review_.valuesOf(hit.table)->table(), hit.row);
-        });
+        std::erase_if(hits_,
+                      [this](const review::Hit& hit) { return !review_.isEdited(hit.table, hit.row); });
     hits_.resize(std::min<std::size_t>(hits_.size(), kMostHits));
     list_->clear();
     for (const review::Hit& hit : hits_) {

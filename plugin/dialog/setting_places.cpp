@@ -3,7 +3,6 @@
 #include "review/file_keys.h"
 
 #include <QFrame>
-#include <QPointer>
 #include <QScrollArea>
 #include <QTabWidget>
 #include <QTimer>

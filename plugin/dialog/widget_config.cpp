@@ -120,6 +120,8 @@ void VLK_Widget_Config::open(const vlk::OpenRequest& request, char* ussdBuffer)
     if (!isFull && !path.isEmpty())
         lightWindow_->loadFromXml(document.root());
     ui_->stackedWidget->setCurrentWidget(isFull ? ui_->page_Full : ui_->page_Light);
+    if (!isFull)
+        lightWindow_->prepare();
     review_.begin(path.isEmpty() ? nullptr : document.root());
     vlk::fitToScreen(this);
     show();

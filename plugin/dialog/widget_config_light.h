@@ -27,6 +27,8 @@ public:
     explicit VLK_Widget_Config_Light(QWidget* parent = nullptr);
     ~VLK_Widget_Config_Light() override;
 
+    // Makes the form, if it is not there yet.
+    void prepare() { form(); }
     // Above and below the form.
     void addReview(QWidget* bar, QWidget* panel);
     void retranslate();

@@ -167,6 +167,29 @@ private Q_SLOTS:
         QVERIFY(!table->isVisible());
     }
 
+    // Its form is made when it is first needed, and is compared from the beginning.
+    void newInQuickSetup()
+    {
+        open({}, 0);
+        QCOMPARE(child<QToolButton>("toolButton_Differences")->text(), QString("0"));
+        type(dialog_->findChild<QWidget*>("page_Light")->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main"),
+             "5555");
+        QCOMPARE(child<QToolButton>("toolButton_Differences")->text(), QString("1"));
+    }
+
+    // The list of what has changed goes when the focus does.
+    void changedOnly()
+    {
+        auto* port = child<QSpinBox>("GPRSSrv_spinBox_Port_Main");
+        type(port, "5555");
+        child<QCheckBox>("checkBox_ChangedOnly")->click();
+        auto* list = child<QListWidget>("listWidget_Found");
+        QVERIFY(list->isVisible());
+        QCOMPARE(list->count(), 1);
+        port->setFocus();
+        QVERIFY(!list->isVisible());
+    }
+
     // Without texts a caption is its key.
     void findsASetting()
     {
@@ -189,9 +212,9 @@ private Q_SLOTS:
     }
 
 private:
-    void open(const QString& path)
+    void open(const QString& path, int full = 1)
     {
-        vlk::OpenRequest request{.showFull = 1, .fromFile = 1, .path = {}};
+        vlk::OpenRequest request{.showFull = full, .fromFile = 1, .path = {}};
         qstrncpy(request.path, path.toLocal8Bit().constData(), sizeof request.path);
         char ussd[vlk::balanceUssdSize] = {};
         dialog_->open(request, ussd);
