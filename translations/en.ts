@@ -1147,6 +1147,10 @@
     <message id="rev_018"><translation>After</translation></message>
     <message id="rev_019"><translation>Note</translation></message>
     <message id="rev_020"><translation>Advice</translation></message>
+    <message id="rev_022"><translation>Unknown section, a write drops it</translation></message>
+    <message id="rev_023"><translation>Stands twice, one of them is dropped</translation></message>
+    <message id="rev_024"><translation>Made for the model %1; this program is for %2</translation></message>
+    <message id="rev_025"><translation>Written by version %1 of the program; this is version %2</translation></message>
     <message id="rev_101"><translation>Page</translation></message>
     <message id="rev_102"><translation>Setting</translation></message>
     <message id="rev_103"><translation>As opened</translation></message>

@@ -1147,6 +1147,10 @@
     <message id="rev_018"><translation>Стало</translation></message>
     <message id="rev_019"><translation>Примечание</translation></message>
     <message id="rev_020"><translation>Замечания</translation></message>
+    <message id="rev_022"><translation>Неизвестный раздел, запись его удалит</translation></message>
+    <message id="rev_023"><translation>Встречается дважды, один из них пропадёт</translation></message>
+    <message id="rev_024"><translation>Сделано для модели %1, программа — для %2</translation></message>
+    <message id="rev_025"><translation>Записано версией программы %1, эта версия — %2</translation></message>
     <message id="rev_101"><translation>Страница</translation></message>
     <message id="rev_102"><translation>Параметр</translation></message>
     <message id="rev_103"><translation>При открытии</translation></message>

@@ -111,9 +111,6 @@ void ConfigurationReview::refresh(const QVector<int>& pages)
 
 std::vector<review::Finding> ConfigurationReview::advice() const
 {
-    QHash<QString, QString> unread;
-    for (const review::Stranger& stranger : asItCame_.strangers())
-        unread.insert(stranger.path, stranger.text);
     Configuration written = configuration();
     if (isQuick_()) {
         XmlDocument document(QString(), QStringLiteral("DEVICE"));
@@ -122,7 +119,7 @@ std::vector<review::Finding> ConfigurationReview::advice() const
         document.root()->commit();
         written.read(*document.root());
     }
-    return review::advise(written, unread);
+    return review::advise(written, asItCame_.unread());
 }
 
 void ConfigurationReview::mend(const std::vector<review::Mend>& mends, const EditHistory::Words& words)

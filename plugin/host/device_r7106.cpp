@@ -1,5 +1,6 @@
 #include "host/device_r7106.h"
 
+#include "base/version.h"
 #include "dialog/widget_config.h"
 #include "telemetry/view/widget_tmi_page.h"
 #include "telemetry/view/widget_tmi_table.h"
@@ -10,8 +11,6 @@
 #include <cstring>
 
 namespace {
-
-constexpr std::int32_t version[] = {3, 3, 0, 2};
 
 // How a stored file is to be shown.
 enum StoredFileKind : std::int32_t { Browser = 0, Table = 1 };
@@ -47,10 +46,10 @@ VLK_Device_R7106::VLK_Device_R7106() : vendorText_(QStringLiteral("VELTRONIKA"))
     copyText(libraryInfo_.modelName, sizeof libraryInfo_.modelName, vlk::modelText().toUtf8());
     copyText(libraryInfo_.displayName, sizeof libraryInfo_.displayName,
              QStringLiteral("Aster R-7106").toLocal8Bit());
-    libraryInfo_.versionMajor = version[0];
-    libraryInfo_.versionMinor = version[1];
-    libraryInfo_.versionPatch = version[2];
-    libraryInfo_.versionFourth = version[3];
+    libraryInfo_.versionMajor = vlk::programVersion[0];
+    libraryInfo_.versionMinor = vlk::programVersion[1];
+    libraryInfo_.versionPatch = vlk::programVersion[2];
+    libraryInfo_.versionFourth = vlk::programVersion[3];
     libraryInfo_.interfaceValue = vlk::interfaceValue;
 }
 
@@ -88,7 +87,7 @@ QString VLK_Device_R7106::xmlFolder() const
 
 QString VLK_Device_R7106::fileVersion() const
 {
-    return QStringLiteral("%1.%2.%3").arg(version[0]).arg(version[1]).arg(version[2]);
+    return vlk::fileVersionText();
 }
 
 void VLK_Device_R7106::showHelp(const QString& page)

@@ -5,7 +5,7 @@
 #include "dialog/widget_config.h"
 #include "dialog/widget_config_full.h"
 #include "host/device_r7106.h"
-#include "host/file_comparison.h"
+#include "host/file_questions.h"
 #include "telemetry/view/widget_tmi_view.h"
 
 #include <algorithm>
@@ -226,13 +226,18 @@ constexpr Entry table[] = {
     {Message::GetExtensions,
      [](VLK_Device_R7106&, const Parameters& parameters) {
          vlk::Extensions extensions;
-         extensions.newest = static_cast<std::uint32_t>(Message::CompareFiles);
+         extensions.newest = static_cast<std::uint32_t>(Message::CheckFile);
          fillRecord(parameters.p1, extensions);
      }},
     {Message::CompareFiles,
      [](VLK_Device_R7106&, const Parameters& parameters) {
          if (sizeOf(parameters.p1) >= sizeof(vlk::FileComparison))
              vlk::compareFiles(*static_cast<vlk::FileComparison*>(parameters.p1));
+     }},
+    {Message::CheckFile,
+     [](VLK_Device_R7106&, const Parameters& parameters) {
+         if (sizeOf(parameters.p1) >= sizeof(vlk::FileCheck))
+             vlk::checkFile(*static_cast<vlk::FileCheck*>(parameters.p1));
      }},
 };
 

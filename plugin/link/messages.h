@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QDateTime>
 #include <QString>
+#include <QStringList>
 
 #include <bit>
 #include <cstddef>
@@ -60,6 +61,7 @@ enum class Message : std::uint32_t {
     GetRunningWork = 7106002,
     GetExtensions = 7106003,
     CompareFiles = 7106004,
+    CheckFile = 7106006,
 
     // Plug-in to host
     ShowHelp = 2007,
@@ -232,6 +234,38 @@ struct FileComparison
     void* context = nullptr;
 };
 
+// CheckFile: what a load and a save would not leave of a configuration file as it stands, and advice on it.
+struct FileRemark
+{
+    enum Kind : std::uint32_t { finding, advice };
+    // A hint is worth a look or waits for the user, a warning loses something, an error cannot work.
+    enum Severity : std::uint32_t { hint, warning, error };
+
+    std::uint32_t size = sizeof(FileRemark);
+    std::uint32_t kind = finding;
+    std::uint32_t severity = warning;
+    const QString* path = nullptr;      // where to mend it
+    const QStringList* paths = nullptr; // of all settings that take part
+    // Of the setting, in the present language; null for what is no setting.
+    const QString* page = nullptr;
+    const QString* caption = nullptr;
+    const QString* text = nullptr; // a sentence in the present language
+};
+
+// As with CompareFiles the plug-in calls `take` during the message.
+struct FileCheck
+{
+    enum Outcome : std::uint32_t { none, done, unreadable };
+
+    std::uint32_t size = sizeof(FileCheck);
+    std::uint32_t outcome = none;  // filled
+    std::uint32_t remarks = 0;     // filled: how many there were
+    std::uint32_t showSecrets = 0; // 1: passwords are told, else dots
+    const QString* file = nullptr; // path
+    void (*take)(void* context, const FileRemark* remark) = nullptr;
+    void* context = nullptr;
+};
+
 // AnalogRecord is a plain byte record of `analogRecordSize` bytes with unsigned 16-bit little-endian values:
 // the lines IN1, IN2, IN3 in millivolts from byte 15, and the fuel sensors at the bytes that name them.
 inline constexpr int analogRecordSize = 42;
@@ -384,6 +418,7 @@ inline constexpr MessageInfo messages[] = {
     detail::in(Message::GetRunningWork, "GetRunningWork", Parameter::RecordAddress, Parameter::None, true),
     detail::in(Message::GetExtensions, "GetExtensions", Parameter::RecordAddress, Parameter::None, true),
     detail::in(Message::CompareFiles, "CompareFiles", Parameter::RecordAddress, Parameter::None, true),
+    detail::in(Message::CheckFile, "CheckFile", Parameter::RecordAddress, Parameter::None, true),
 };
 
 // A plain value in the place of an address, and back. The token of a LibraryInfo becomes the handle likewise.

@@ -99,6 +99,14 @@ FileState FileState::ofDocument(CXmlSection& root)
     return state;
 }
 
+QHash<QString, QString> FileState::unread() const
+{
+    QHash<QString, QString> unread;
+    for (const Stranger& stranger : strangers_)
+        unread.insert(stranger.path, stranger.text);
+    return unread;
+}
+
 void FileState::takeText(int key, const QString& text, const Configuration& loaded)
 {
     Held& held = held_[key];

@@ -50,6 +50,8 @@ public:
 
     const Held& at(int key) const { return held_[key]; }
     const std::vector<Stranger>& strangers() const { return strangers_; }
+    // Their texts by path.
+    QHash<QString, QString> unread() const;
     bool isDocument() const { return kind_ == Kind::document; }
     bool isDefaults() const { return kind_ == Kind::defaults; }
 

@@ -128,7 +128,7 @@ private Q_SLOTS:
     {
         vlk::Extensions extensions;
         host_.send(Message::GetExtensions, &extensions);
-        QCOMPARE(extensions.newest, static_cast<quint32>(Message::CompareFiles));
+        QCOMPARE(extensions.newest, static_cast<quint32>(Message::CheckFile));
 
         const QString left = writeFile(
             folder_.filePath("left.xml"),
@@ -168,6 +168,38 @@ private Q_SLOTS:
         QCOMPARE(compare(&left, nullptr, whole), QString("0 0 "));
         host_.send(Message::CompareFiles);
         host_.send(Message::GetExtensions);
+    }
+
+    void checksFiles()
+    {
+        const QString file =
+            writeFile(folder_.filePath("checked.xml"),
+                      "<DEVICE model=\"R-1\"><TRACK><POINTS angle=\"500\"/></TRACK></DEVICE>");
+        const QString none = file + "_";
+        const auto check = [this](const QString* path, quint32 size) {
+            QStringList told;
+            vlk::FileCheck asked;
+            asked.size = size;
+            asked.file = path;
+            asked.context = &told;
+            asked.take = [](void* context, const vlk::FileRemark* row) {
+                const auto orDash = [](const QString* text) { return text ? *text : QString("-"); };
+                *static_cast<QStringList*>(context) << QString("%1%2 ").arg(row->kind).arg(row->severity) +
+                                                           *row->path + '|' + row->paths->join(',') + '|' +
+                                                           orDash(row->page) + '|' + orDash(row->caption);
+            };
+            host_.send(Message::CheckFile, &asked);
+            return QString::number(asked.outcome) + ' ' + QString::number(asked.remarks) + ' ' +
+                   told.mid(0, 2).join(' ');
+        };
+        constexpr quint32 whole = sizeof(vlk::FileCheck);
+        QCOMPARE(check(&file, whole),
+                 QString("1 4 01 TRACK/POINTS/angle|TRACK/POINTS/angle|cfgt3_001|cfgt3_010 "
+                         "11 DEVICE/model|DEVICE/model|-|-"));
+        QCOMPARE(check(&none, whole), QString("2 0 "));
+        QCOMPARE(check(&file, whole - 1), QString("0 0 "));
+        QCOMPARE(check(nullptr, whole), QString("0 0 "));
+        host_.send(Message::CheckFile);
     }
 
     void balanceCodeFollowsFileAndConnection()

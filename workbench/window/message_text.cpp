@@ -140,6 +140,11 @@ constexpr RecordRow records[] = {
          const auto& r = as<FileComparison>(p);
          return {QStringLiteral("outcome=%1 differences=%2").arg(r.outcome).arg(r.differences), {}};
      }},
+    {Message::CheckFile,
+     [](const void* p) -> MessageText {
+         const auto& r = as<FileCheck>(p);
+         return {QStringLiteral("outcome=%1 remarks=%2").arg(r.outcome).arg(r.remarks), {}};
+     }},
     {Message::TachographFileRequest,
      [](const void* p) -> MessageText {
          const auto& r = as<szQueryTaho>(p);

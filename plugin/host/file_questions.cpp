@@ -1,5 +1,6 @@
-#include "host/file_comparison.h"
+#include "host/file_questions.h"
 
+#include "review/check_file.h"
 #include "review/compare_files.h"
 
 namespace vlk {
@@ -25,6 +26,24 @@ FileDifference told(const review::Difference& difference, const review::Differen
     return told;
 }
 
+FileRemark told(const review::FileRemark& remark)
+{
+    FileRemark told;
+    told.kind = remark.kind == review::FileRemark::Kind::advice ? FileRemark::advice : FileRemark::finding;
+    told.severity = static_cast<std::uint32_t>(remark.severity);
+    told.path = &remark.path;
+    told.paths = &remark.paths;
+    told.page = orNull(remark.page);
+    told.caption = orNull(remark.caption);
+    told.text = &remark.text;
+    return told;
+}
+
+review::Secrets secretsOf(const auto& asked)
+{
+    return asked.showSecrets == 1 ? review::Secrets::shown : review::Secrets::masked;
+}
+
 FileComparison::Outcome outcomeOf(review::Comparison comparison)
 {
     switch (comparison) {
@@ -45,14 +64,27 @@ void compareFiles(FileComparison& asked)
     if (!asked.after || !asked.take)
         return;
     asked.differences = 0;
-    const auto secrets = asked.showSecrets == 1 ? review::Secrets::shown : review::Secrets::masked;
     asked.outcome = outcomeOf(
-        review::compareFiles(asked.before ? *asked.before : QString(), *asked.after, secrets,
+        review::compareFiles(asked.before ? *asked.before : QString(), *asked.after, secretsOf(asked),
                              [&](const review::Difference& difference, const review::DifferenceText& text) {
                                  const FileDifference row = told(difference, text);
                                  ++asked.differences;
                                  asked.take(asked.context, &row);
                              }));
+}
+
+void checkFile(FileCheck& asked)
+{
+    if (!asked.file || !asked.take)
+        return;
+    asked.remarks = 0;
+    const bool isRead =
+        review::checkFile(*asked.file, secretsOf(asked), [&](const review::FileRemark& remark) {
+            const FileRemark row = told(remark);
+            ++asked.remarks;
+            asked.take(asked.context, &row);
+        });
+    asked.outcome = isRead ? FileCheck::done : FileCheck::unreadable;
 }
 
 } // namespace vlk

@@ -1,0 +1,157 @@
+#include "review/check_file.h"
+
+#include "base/model_text.h"
+#include "base/translated.h"
+#include "base/version.h"
+#include "review/compare_files.h"
+#include "review/document_walk.h"
+#include "settings/all_settings.h"
+#include "xml/xml_document.h"
+#include "xml/xml_section.h"
+
+#include <QRegularExpression>
+#include <QSet>
+
+namespace vlk::review {
+
+namespace {
+
+// "TRACK[2]/POINTS" is a second "TRACK/POINTS".
+QString withoutNumbers(const QString& path)
+{
+    static const QRegularExpression number(QStringLiteral("\\[\\d+\\]"));
+    return QString(path).remove(number);
+}
+
+class FileCheck
+{
+public:
+    FileCheck(CXmlSection& root, Secrets secrets) : root_(root), secrets_(secrets)
+    {
+        loaded_.read(root);
+        differences_ = {FileState::ofDocument(root), FileState::ofConfiguration(loaded_)};
+        for (Difference& difference : differences_.all())
+            changed_.insert(difference.path, difference);
+    }
+
+    std::vector<FileRemark> run()
+    {
+        eachKey(root_, [this](const QString& path, const QString&) { lookAt(path); });
+        lookAtRoot("model", modelText(), Severity::warning, "rev_024");
+        lookAtRoot("version", fileVersionText(), Severity::hint, "rev_025");
+        addAdvice();
+        return std::move(remarks_);
+    }
+
+private:
+    void lookAt(const QString& path)
+    {
+        const FileKeys& keys = FileKeys::all();
+        const QString section = path.section(QLatin1Char('/'), 0, 0);
+        const QString known = withoutNumbers(path);
+        if (!keys.hasElement(section)) {
+            if (!seen_.contains(section))
+                add(section, keys.hasElement(withoutNumbers(section)) ? "rev_023" : "rev_022");
+            seen_.insert(section);
+            return;
+        }
+        const bool isDoubled =
+            seen_.contains(path) || (known != path && (keys.at(known) >= 0 || keys.hasElement(known)));
+        seen_.insert(path);
+        if (isDoubled)
+            add(path, "rev_023", known);
+        else if (changed_.contains(path))
+            addChanged(changed_.value(path));
+    }
+
+    // Names the setting at `known`, if there is one.
+    void add(const QString& path, const char* textKey, const QString& known = {})
+    {
+        FileRemark remark{.path = path, .paths = {path}, .text = translated(textKey)};
+        name(&remark, known);
+        remarks_.push_back(remark);
+    }
+
+    void addChanged(const Difference& difference)
+    {
+        const int table = difference.key < 0 ? 0 : FileKeys::all()[difference.key].table;
+        const DifferenceText text = textOf(differences_, difference, loaded_.tables()[table], secrets_);
+        FileRemark remark{.path = difference.path, .paths = {difference.path}, .text = text.note};
+        if (difference.key >= 0) {
+            name(&remark, difference.path);
+            remark.text =
+                difference.after.isNull()
+                    ? QStringLiteral("%1. %2").arg(text.beforeText, text.note)
+                    : QStringLiteral("%1 \u2192 %2. %3").arg(text.beforeText, text.afterText, text.note);
+        }
+        remarks_.push_back(remark);
+    }
+
+    void lookAtRoot(const char* attribute, const QString& ours, Severity severity, const char* textKey)
+    {
+        const QString name = QString::fromLatin1(attribute);
+        const QString theirs = root_.getString(name);
+        if (theirs.isEmpty() || theirs == ours)
+            return;
+        const QString path = QStringLiteral("DEVICE/") + name;
+        remarks_.push_back({.kind = FileRemark::Kind::advice,
+                            .severity = severity,
+                            .path = path,
+                            .paths = {path},
+                            .text = translated(textKey).arg(theirs, ours)});
+    }
+
+    void addAdvice()
+    {
+        for (const Finding& finding : advise(loaded_, differences_.before().unread())) {
+            FileRemark remark{.kind = FileRemark::Kind::advice,
+                              .severity = finding.severity,
+                              .path =
+                                  finding.mends.empty() ? finding.paths.value(0) : finding.mends.front().path,
+                              .paths = finding.paths,
+                              .text = adviceText(finding)};
+            if (!remark.paths.contains(remark.path))
+                remark.paths.prepend(remark.path);
+            name(&remark, remark.path);
+            remarks_.push_back(remark);
+        }
+    }
+
+    static void name(FileRemark* remark, const QString& path)
+    {
+        const int key = FileKeys::all().at(path);
+        if (key < 0)
+            return;
+        const FileKey& place = FileKeys::all()[key];
+        const SettingWords words = wordsOf(FileKeys::all().layout(place.table), place.rows.front());
+        remark->page = words.page;
+        remark->caption = words.caption;
+    }
+
+    CXmlSection& root_;
+    Secrets secrets_;
+    Configuration loaded_{allSettings()};
+    Differences differences_;
+    QHash<QString, Difference> changed_;
+    QSet<QString> seen_;
+    std::vector<FileRemark> remarks_;
+};
+
+} // namespace
+
+std::vector<FileRemark> checkDocument(CXmlSection& root, Secrets secrets)
+{
+    return FileCheck(root, secrets).run();
+}
+
+bool checkFile(const QString& path, Secrets secrets, const std::function<void(const FileRemark&)>& take)
+{
+    XmlDocument document(configurationText(path), QStringLiteral("DEVICE"));
+    if (!document.isOpen())
+        return false;
+    for (const FileRemark& remark : checkDocument(*document.root(), secrets))
+        take(remark);
+    return true;
+}
+
+} // namespace vlk::review

@@ -1,0 +1,85 @@
+// What a configuration file loses by a load and a save, and the advice on it.
+
+#include "review/check_file.h"
+#include "support/data_table.h"
+#include "support/files.h"
+#include "xml/xml_document.h"
+#include "xml/xml_section.h"
+
+#include <QtTest>
+
+using vlk::review::FileRemark;
+
+namespace {
+
+// "finding TRACK/POINTS/angle: text", one line a remark; without texts the translation keys stand in them.
+QStringList told(const QByteArray& file)
+{
+    vlk::XmlDocument document(file, "DEVICE");
+    QStringList lines;
+    for (const FileRemark& remark : vlk::review::checkDocument(*document.root())) {
+        const bool isAdvice = remark.kind == FileRemark::Kind::advice;
+        lines << QString(isAdvice ? "advice " : "") + remark.path + (remark.page.isNull() ? "" : " named") +
+                     (isAdvice ? QString() : ": " + remark.text);
+    }
+    return lines;
+}
+
+QByteArray factory()
+{
+    return readFile(VLK_SOURCE "/workbench/tracker/factory.xml");
+}
+
+} // namespace
+
+class TestCheckFile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void factoryIsQuiet() { QCOMPARE(told(factory()), QStringList()); }
+
+    void newOneGivesHints()
+    {
+        vlk::XmlDocument document(QByteArray("<DEVICE/>"), "DEVICE");
+        for (const FileRemark& remark : vlk::review::checkDocument(*document.root()))
+            QCOMPARE(remark.severity, vlk::review::Severity::hint);
+    }
+
+    void tells_data()
+    {
+        // Put in front of the sections of the factory configuration, or in place of a part of it.
+        DataTable<QByteArray, QByteArray, QString> table({"from", "to", "told"});
+        table.row("spelling", "angle=\"5\" useDist", "angle=\"05\" useDist", {});
+        table.row("limit", "angle=\"5\" useDist", "angle=\"500\" useDist",
+                  QString::fromUtf8("TRACK/POINTS/angle named: 500 abbr_016 \u2192 90 abbr_016. rev_007"));
+        table.row("key missing", "angle=\"5\" useDist", "useDist", {});
+        table.row("unknown key", "<POINTS ", "<POINTS bogus=\"1\" ", "TRACK/POINTS/bogus: rev_003");
+        table.row("unknown element", "<POINTS ", "<BOGUS a=\"1\" b=\"2\"/><POINTS ",
+                  "TRACK/BOGUS/a: rev_003; TRACK/BOGUS/b: rev_003");
+        table.row("empty unknown element", "<POINTS ", "<BOGUS/><POINTS ", "TRACK/BOGUS: rev_003");
+        table.row("doubled element", "<LIMPOINT ", "<POINTS angle=\"7\"/><LIMPOINT ",
+                  "TRACK/POINTS[2]/angle named: rev_023");
+        table.row("unknown section", "<TRACK ", "<BOGUS a=\"1\"><B c=\"2\"/></BOGUS><TRACK ",
+                  "BOGUS: rev_022");
+        table.row("doubled section", "</DEVICE>", "<TRACK><POINTS angle=\"7\" dist=\"9\"/></TRACK></DEVICE>",
+                  "TRACK[2]: rev_023");
+        table.row("secret cut", "pass=\"mts\"", "pass=\"" + QByteArray(100, 'x') + '"',
+                  "TRANS/AP1/pass named: ••• \u2192 •••. rev_010");
+        table.row("model", "model=\"R-7106\"", "model=\"R-1\"", "advice DEVICE/model");
+        table.row("version", "version=\"3.3.0\"", "version=\"3.2.0\"", "advice DEVICE/version");
+    }
+
+    void tells()
+    {
+        QFETCH(QByteArray, from);
+        QFETCH(QByteArray, to);
+        QFETCH(QString, told);
+        QByteArray file = factory();
+        QVERIFY(file.contains(from));
+        QCOMPARE(::told(file.replace(file.indexOf(from), from.size(), to)).join("; "), told);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestCheckFile)
+#include "tst_check_file.moc"
