@@ -64,8 +64,9 @@ private Q_SLOTS:
                   "BOGUS: rev_022");
         table.row("doubled section", "</DEVICE>", "<TRACK><POINTS angle=\"7\" dist=\"9\"/></TRACK></DEVICE>",
                   "TRACK[2]: rev_023");
-        table.row("secret cut", "pass=\"mts\"", "pass=\"" + QByteArray(100, 'x') + '"',
-                  "TRANS/AP1/pass named: ••• \u2192 •••. rev_010");
+        table.row("secret", "CRYPTO key=\"\"", "CRYPTO key=\"" + QByteArray(40, 'x') + '"',
+                  QString::fromUtf8(
+                      "TRANS/CRYPTO/key named: ••• \u2192 •••. rev_010; advice TRANS/CRYPTO/srv1Mode named"));
         table.row("model", "model=\"R-7106\"", "model=\"R-1\"", "advice DEVICE/model");
         table.row("version", "version=\"3.3.0\"", "version=\"3.2.0\"", "advice DEVICE/version");
     }
