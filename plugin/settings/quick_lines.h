@@ -3,6 +3,7 @@
 // The input lines of the quick window. It offers whole uses; in the file a use is the state of the line at
 // rest, the ignition flag of an element inside, and that element's fixed values.
 
+#include "catalogue/field_catalogue.h"
 #include "settings/settings_table.h"
 
 namespace vlk::quick {
@@ -94,8 +95,9 @@ inline constexpr auto kLinePresets = repeat<3>([](int) {
 });
 
 // Fields of a record: the states of the digital lines, and the voltage of each line.
-inline constexpr int kLineStates[] = {28};
-inline constexpr int kLineVoltages[][1] = {{20}, {21}, {22}};
+inline constexpr int kLineStates[] = {field("StateIn1")};
+inline constexpr int kLineVoltages[][1] = {
+    {field("StateU_Ain1")}, {field("StateU_Ain2")}, {field("StateU_Ain3")}};
 
 inline constexpr auto kLineMasks = repeat<3>([](int number) {
     return rulesOf(MaskPositions{.path = "PROTOCOL/ZETA/mask",

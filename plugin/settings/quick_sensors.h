@@ -3,6 +3,7 @@
 // The fuel level sensors of the quick window: two on RS-485, two over Bluetooth. The file keeps them as the
 // full window does; what the quick window does not show of a sensor has a fixed value.
 
+#include "catalogue/field_catalogue.h"
 #include "settings/settings_table.h"
 #include "settings/shared_rows.h"
 
@@ -130,9 +131,11 @@ inline constexpr auto kSensorSets =
             always(when("BLUETOOTH/sensors"), "BLUETOOTH/CHANNEL1/device", "SENS"));
 
 // Fields of a record: level and temperature of each sensor, and what type 2 adds.
-inline constexpr int kRsFields[][2] = {{37, 77}, {38, 78}};
-inline constexpr int kWirelessFields[][2] = {{39, 46}, {40, 47}};
-inline constexpr int kExtraFields[][1] = {{148}, {149}};
+inline constexpr int kRsFields[][2] = {{field("LevelRS485_1"), field("TempRS485_1")},
+                                       {field("LevelRS485_2"), field("TempRS485_2")}};
+inline constexpr int kWirelessFields[][2] = {{field("LevelRS485_3"), field("Temp3")},
+                                             {field("LevelRS485_4"), field("Temp4")}};
+inline constexpr int kExtraFields[][1] = {{field("RS485Freq3")}, {field("RS485Freq4")}};
 
 constexpr auto wirelessMasks(int number)
 {

@@ -4,6 +4,8 @@
 #include "settings/quick_sensors.h"
 #include "settings/shared_rows.h"
 
+#include <algorithm>
+
 namespace vlk {
 
 namespace {
@@ -32,11 +34,20 @@ constexpr PresetRow kTrackRows[] = {
     {"detailed", {"1", "5", "1", "500", "1", "20", "600"}},
 };
 
-// A mask of the first two versions of the data set, which the window begins with before it has read one.
+// Fields of the mask that the window begins with before it has read one.
+constexpr int kFirstFields[] = {
+    field("NumPage"),   field("Code"),     field("Time"),        field("State"),    field("Module1"),
+    field("Module2"),   field("GSM"),      field("StateNGauge"), field("LastTime"), field("Latitude"),
+    field("Longitude"), field("Speed"),    field("Course"),      field("Run"),      field("Power"),
+    field("Reserv"),    field("StateIn1"), field("Motochas"),
+};
+
+// A mask of the first two versions of the data set.
 constexpr auto kFirstMask = [] {
-    std::array<char, 123> mask{};
-    for (std::size_t i = 0; i + 1 < mask.size(); ++i)
-        mask[i] = i <= 10 || (i >= 12 && i <= 14) || i == 18 || i == 19 || i == 28 || i == 36 ? '1' : '0';
+    std::array<char, kEarlierFieldCount + 1> mask{};
+    std::fill_n(mask.begin(), kEarlierFieldCount, '0');
+    for (const int position : kFirstFields)
+        mask[position] = '1';
     return mask;
 }();
 
@@ -100,7 +111,13 @@ constexpr auto kPresets =
             quick::kLinePresets);
 
 // What the window decides about is cleared first, then set by what is switched on.
-constexpr int kDecided[] = {20, 21, 22, 28, 32, 33, 34, 35, 37, 38, 39, 40, 43, 77, 78, 79, 80};
+constexpr int kDecided[] = {
+    field("StateU_Ain1"),  field("StateU_Ain2"),  field("StateU_Ain3"),  field("StateIn1"),
+    field("StateIn_Imp1"), field("StateIn_Imp2"), field("Frequency1"),   field("Frequency2"),
+    field("LevelRS485_1"), field("LevelRS485_2"), field("LevelRS485_3"), field("LevelRS485_4"),
+    field("LevelRS232"),   field("TempRS485_1"),  field("TempRS485_2"),  field("TempRS485_3"),
+    field("TempRS485_4"),
+};
 
 constexpr auto kMasks = rulesOf(MaskPositions{.path = "PROTOCOL/ZETA/mask", .positions = kDecided, .to = '0'},
                                 quick::kLineMasks, quick::kSensorMasks);
