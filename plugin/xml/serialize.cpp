@@ -4,6 +4,7 @@
 #include "base/windows1251.h"
 #include "xml/xml_handler.h"
 #include "xml/xml_log.h"
+#include "xml/xml_scanner.h"
 #include "xml/xml_writer.h"
 
 #include <QFile>
@@ -65,8 +66,12 @@ bool CSerialize::parse(const QByteArray& text)
 {
     QXmlInputSource source;
     setContent(source, text);
+    const QString decoded = source.data();
+    // The reader compares each attribute of an element with all the others, and a tree has no end.
+    if (!vlk::isOfBearableSize(decoded))
+        return false;
     CXmlDefaultHandler handler;
-    DocumentTypeCheck documentType(source.data());
+    DocumentTypeCheck documentType(decoded);
     QXmlSimpleReader reader;
     reader.setFeature("http://xml.org/sax/features/namespaces", false);
     reader.setFeature("http://xml.org/sax/features/namespace-prefixes", true);

@@ -1,0 +1,167 @@
+#include "review/edit_file.h"
+
+#include "review/key_text.h"
+#include "settings/all_settings.h"
+#include "xml/xml_document.h"
+#include "xml/xml_text.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <optional>
+
+namespace vlk::review {
+
+namespace {
+
+using What = PresetProblem::What;
+
+// Of the settings that share the key the one that holds it now; -1 where the file would not have it.
+int rowOf(const Configuration& configuration, int key)
+{
+    const FileKey& place = FileKeys::all()[key];
+    const Values& values = configuration.tables()[place.table];
+    const auto found = std::ranges::find_if(place.rows, [&](int row) { return values.isWritten(row); });
+    return found == place.rows.end() ? -1 : *found;
+}
+
+// What a window's line edit would not let anybody type, or a file would not bring back.
+bool canBeTyped(const Setting& setting, const QString& text)
+{
+    if (sectionText(text) != text || decodeValue(text) != text)
+        return false;
+    const auto* line = setting.as<Text>();
+    if (!line || !line->pattern)
+        return true;
+    const auto match = QRegularExpression(QRegularExpression::anchoredPattern(QLatin1String(line->pattern)))
+                           .match(text, 0, QRegularExpression::PartialPreferCompleteMatch);
+    return match.hasMatch() || match.hasPartialMatch();
+}
+
+// Gives the value that the file has to hold then; none with a problem.
+std::optional<QString> edit(Configuration* configuration, int key, const KeyEdit& edit,
+                            PresetProblem* problem)
+{
+    const int row = rowOf(*configuration, key);
+    if (row < 0) {
+        *problem = {What::noPlace, edit.path, edit.value};
+        return std::nullopt;
+    }
+    Values& values = configuration->tables()[FileKeys::all()[key].table];
+    const int holder = values.holder(row);
+    const Normalised taken =
+        normalise(values.setting(holder), {edit.value, values.value(holder), values.limits(holder)});
+    const bool isWhole = taken.change == Change::none || taken.change == Change::otherForm;
+    if (!isWhole || !canBeTyped(values.setting(holder), edit.value)) {
+        *problem = {What::badValue, edit.path, edit.value, isWhole ? Change::unknownCode : taken.change};
+        return std::nullopt;
+    }
+    values.edit(row, taken.value);
+    return values.written(row, taken.value);
+}
+
+struct Target
+{
+    Configuration configuration;
+    std::vector<int> keys; // that are asked for
+};
+
+bool isAsIn(const FileState& state, int key, const FileState& wanted)
+{
+    return state.at(key).isSaved == wanted.at(key).isSaved && state.at(key).saved == wanted.at(key).saved;
+}
+
+// A text that a load makes the configuration of, and that holds the keys. Null where there is none.
+QByteArray brought(QByteArray text, const Target& target)
+{
+    const FileState wanted = FileState::ofConfiguration(target.configuration);
+    // Most edits need one round; what a load sets by a rule once more is laid over it in another one.
+    constexpr int rounds = 4;
+    for (int round = 0; round < rounds; ++round) {
+        XmlDocument document(text, QStringLiteral("DEVICE"));
+        const FileState now = FileState::ofDocument(*document.root());
+        std::vector<int> keys;
+        for (int key = 0; key < FileKeys::all().count(); ++key) {
+            const bool isAsked = std::ranges::find(target.keys, key) != target.keys.end();
+            if (!isAsIn(now, key, wanted) || (isAsked && !(now.at(key) == wanted.at(key))))
+                keys.push_back(key);
+        }
+        if (keys.empty())
+            return text;
+        const QByteArray before = text;
+        for (const int key : keys) {
+            const QString& path = FileKeys::all()[key].path;
+            text =
+                wanted.at(key).isSaved ? withKey(text, path, wanted.at(key).saved) : withoutKey(text, path);
+        }
+        if (text == before)
+            break;
+    }
+    return {};
+}
+
+EditedFile edited(const QByteArray& text, const Target& target, std::vector<PresetProblem> problems)
+{
+    const QByteArray changed = brought(text, target);
+    if (changed.isNull()) {
+        for (const int key : target.keys)
+            problems.push_back({What::noPlace, FileKeys::all()[key].path, {}});
+    }
+    return {true, changed.isNull() ? text : changed, std::move(problems)};
+}
+
+} // namespace
+
+EditedFile withEdits(const QByteArray& text, const std::vector<KeyEdit>& edits)
+{
+    XmlDocument document(text, QStringLiteral("DEVICE"));
+    if (!document.isOpen())
+        return {.isReadable = false, .text = text};
+    Target target{Configuration(allSettings()), {}};
+    target.configuration.read(*document.root());
+
+    std::vector<PresetProblem> problems;
+    std::vector<std::pair<KeyEdit, int>> open;
+    for (const KeyEdit& asked : edits) {
+        if (const int key = FileKeys::all().at(asked.path); key >= 0)
+            open.emplace_back(asked, key);
+        else
+            problems.push_back({What::unknownKey, asked.path, asked.value});
+    }
+    std::vector<std::pair<KeyEdit, QString>> done;
+    while (!open.empty()) {
+        // Those that have no place yet wait for the others.
+        const auto next = std::ranges::find_if(
+            open, [&](const auto& entry) { return rowOf(target.configuration, entry.second) >= 0; });
+        const auto taken = next == open.end() ? open.begin() : next;
+        PresetProblem problem{};
+        if (const auto value = edit(&target.configuration, taken->second, taken->first, &problem)) {
+            target.keys.push_back(taken->second);
+            done.emplace_back(taken->first, *value);
+        } else {
+            problems.push_back(problem);
+        }
+        open.erase(taken);
+    }
+    // An edit may have taken back one before it, or a rule the edit itself.
+    for (std::size_t i = 0; i < done.size(); ++i) {
+        const int row = rowOf(target.configuration, target.keys[i]);
+        const Values& values = target.configuration.tables()[FileKeys::all()[target.keys[i]].table];
+        if (row < 0 || values.written(row) != done[i].second)
+            problems.push_back({What::badValue, done[i].first.path, done[i].first.value, Change::byRule});
+    }
+    return problems.empty() ? edited(text, target, {}) : EditedFile{true, text, std::move(problems)};
+}
+
+EditedFile withPreset(const QByteArray& text, CXmlSection& preset)
+{
+    XmlDocument document(text, QStringLiteral("DEVICE"));
+    if (!document.isOpen())
+        return {.isReadable = false, .text = text};
+    Configuration configuration(allSettings());
+    configuration.read(*document.root());
+    AppliedPreset applied = review::applied(preset, configuration);
+    return edited(text, {std::move(applied.result), std::move(applied.keys)}, std::move(applied.problems));
+}
+
+} // namespace vlk::review
