@@ -77,6 +77,8 @@ private Q_SLOTS:
             .row("within the first line", whole.left(20), P::CutShort, 1, 0)
             .row("garbled", garbled, P::Damaged, 1, 0)
             .row("wrong end", document("<DEVICE>\n<A></B>\n</DEVICE>"), P::Damaged, 3, 7)
+            .row("a tag of half a megabyte",
+                 document("<DEVICE" + QByteArray(" a=''").repeated(100000) + "/>"), P::Damaged, 1, 1)
             .row("two roots", document("<DEVICE/><DEVICE/>"), P::Damaged, 2, 0)
             .row("declarations", document("<!DOCTYPE D [<!ENTITY a \"b\">]><DEVICE/>"), P::Damaged, 2, 0)
             .row("deep", document(QByteArray("<DEVICE>").repeated(5000)), P::Damaged, 2, 0)

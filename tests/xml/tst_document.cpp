@@ -260,6 +260,9 @@ private Q_SLOTS:
         QByteArray binary;
         for (int i = 0; i < 5000; ++i)
             binary += static_cast<char>(i * i >> 3);
+        QByteArray attributes;
+        for (int i = 0; i < 100000; ++i)
+            attributes += " a" + QByteArray::number(i) + "=''";
         DataTable<QByteArray>({"content"})
             .row("truncated", "<DEVICE a='1'><TRACK b='2'")
             .row("one blank", " ")
@@ -268,6 +271,8 @@ private Q_SLOTS:
             .row("binary", binary)
             .row("NULs", QByteArray(1000, '\0'))
             .row("100,000 levels", QByteArray("<A>").repeated(100000) + QByteArray("</A>").repeated(100000))
+            .row("100,000 attributes", "<DEVICE><A" + attributes + "/></DEVICE>")
+            .row("900,000 elements", "<DEVICE>" + QByteArray("<A/>").repeated(900000) + "</DEVICE>")
             .row("declared utf-16", "<?xml version='1.0' encoding='utf-16'?><DEVICE/>")
             .row("entities that grow",
                  "<!DOCTYPE D [<!ENTITY a 'aaaa'><!ENTITY b '&a;&a;'>]><DEVICE a='&b;'>&b;</DEVICE>")

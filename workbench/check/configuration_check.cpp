@@ -29,6 +29,20 @@ bool declarationIsPlain(const QByteArray& document)
     return plain.match(codec->toUnicode(start)).hasMatch();
 }
 
+// Readers compare each attribute of an element with all the others: a tag of megabytes would hold them for
+// minutes. Tags of a configuration have below a hundred equals signs.
+bool tagsAreShort(const QByteArray& document)
+{
+    constexpr int most = 4000;
+    int signs = 0;
+    for (const char sign : document) {
+        signs = sign == '<' ? 0 : signs + (sign == '=');
+        if (signs > most)
+            return false;
+    }
+    return true;
+}
+
 // This reader takes blanks in "&#10 ;".
 bool referencesArePlain(const QByteArray& document)
 {
@@ -131,6 +145,8 @@ std::optional<Problem> checkConfiguration(const QByteArray& document, const QStr
         return Problem{Problem::Empty, document.size(), 1, 1, {}};
     if (document.size() > largestConfiguration)
         return Problem{Problem::TooLarge, document.size(), 1, 1, {}};
+    if (!tagsAreShort(document))
+        return Problem{Problem::Damaged, document.size(), 1, 1, {}};
     auto problem = Check(document, model).run();
     if ((!problem || problem->kind == Problem::ForeignRoot || problem->kind == Problem::ForeignModel) &&
         !(declarationIsPlain(document) && referencesArePlain(document)))
