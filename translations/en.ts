@@ -1127,6 +1127,114 @@
     <message id="cfgwnd_005"><translation>Quick setup shows only a part of the settings. A write from there replaces the input lines, the serial line and the Bluetooth sensors.</translation></message>
     <message id="cfgwnd_006"><translation>Switch to quick setup?</translation></message>
     <message id="cfgwnd_007"><translation>Esc: stop waiting</translation></message>
+    <message id="cli_001"><translation>Checks, compares and edits configurations of trackers and tells what files hold.</translation></message>
+    <message id="cli_002"><translation>cannot be read: %1</translation></message>
+    <message id="cli_003"><translation>cannot be written: %1</translation></message>
+    <message id="cli_004"><translation>is empty</translation></message>
+    <message id="cli_005"><translation>is larger than a configuration can be</translation></message>
+    <message id="cli_006"><translation>is cut short in line %1</translation></message>
+    <message id="cli_007"><translation>is damaged in line %1, column %2</translation></message>
+    <message id="cli_008"><translation>is damaged or too large to be a configuration</translation></message>
+    <message id="cli_009"><translation>is telemetry, not a configuration</translation></message>
+    <message id="cli_010"><translation>is a calibration table, not a configuration</translation></message>
+    <message id="cli_011"><translation>is a tachograph file, not a configuration</translation></message>
+    <message id="cli_012"><translation>is not a configuration</translation></message>
+    <message id="cli_013"><translation>is too large a telemetry file</translation></message>
+    <message id="cli_020"><translation>%1 is not PATH=VALUE</translation></message>
+    <message id="cli_021"><translation>settings and files are needed: PATH=VALUE... FILE...</translation></message>
+    <message id="cli_022"><translation>two files are needed, or --defaults and one file</translation></message>
+    <message id="cli_023"><translation>Help: r7106 --help
+</translation></message>
+    <message id="cli_024"><translation>a report ends in .pdf or .html</translation></message>
+    <message id="cli_025"><translation>what makes PDF could not be loaded</translation></message>
+    <message id="cli_030"><translation>there is no setting %1</translation></message>
+    <message id="cli_031"><translation>%1 stands twice</translation></message>
+    <message id="cli_032"><translation>%1 has no place in this configuration</translation></message>
+    <message id="cli_033"><translation>%1 cannot be %2</translation></message>
+    <message id="cli_034"><translation>%1: %2 is not a number</translation></message>
+    <message id="cli_035"><translation>%1: %2 is out of range</translation></message>
+    <message id="cli_036"><translation>%1: %2 is too exact</translation></message>
+    <message id="cli_037"><translation>%1: %2 is too long</translation></message>
+    <message id="cli_038"><translation>%1: this tracker does not offer %2</translation></message>
+    <message id="cli_039"><translation>%1: another setting does not allow %2</translation></message>
+    <message id="cli_040"><translation>Path;Setting;File;Value</translation></message>
+    <message id="cli_041"><translation>most files, %1</translation></message>
+    <message id="cli_050"><translation>Configuration</translation></message>
+    <message id="cli_051"><translation>Configuration of %1</translation></message>
+    <message id="cli_052"><translation>File: %1</translation></message>
+    <message id="cli_053"><translation>Tracker: %1</translation></message>
+    <message id="cli_054"><translation>Version: %1</translation></message>
+    <message id="cli_055"><translation>Date: %1</translation></message>
+    <message id="cli_060"><translation>configuration</translation></message>
+    <message id="cli_061"><translation>telemetry</translation></message>
+    <message id="cli_062"><translation>calibration table</translation></message>
+    <message id="cli_063"><translation>tachograph file</translation></message>
+    <message id="cli_064"><translation>unknown</translation></message>
+    <message id="cli_065"><translation>records: %1</translation></message>
+    <message id="cli_066"><translation>from %1 to %2</translation></message>
+    <message id="cli_067"><translation>gaps: %1</translation></message>
+    <message id="cli_070"><translation>does not begin as telemetry does</translation></message>
+    <message id="cli_071"><translation>the header is not what was written</translation></message>
+    <message id="cli_072"><translation>no record</translation></message>
+    <message id="cli_073"><translation>the file ends within a record</translation></message>
+    <message id="cli_074"><translation>the records are not what was written</translation></message>
+    <message id="cli_075"><translation>the file tells another count of records</translation></message>
+    <message id="cli_076"><translation>offset %1: %2</translation></message>
+    <message id="cli_080"><translation>error</translation></message>
+    <message id="cli_081"><translation>warning</translation></message>
+    <message id="cli_082"><translation>hint</translation></message>
+    <message id="cli_100"><translation>Findings and advice: what a load would change or drop, and what contradicts itself</translation></message>
+    <message id="cli_101"><translation>Differences of two configurations in words</translation></message>
+    <message id="cli_102"><translation>A fleet side by side: settings in which files do not agree</translation></message>
+    <message id="cli_103"><translation>The value of one setting</translation></message>
+    <message id="cli_104"><translation>Sets single settings; all the rest of a file stays as it is</translation></message>
+    <message id="cli_105"><translation>Applies a preset to files</translation></message>
+    <message id="cli_106"><translation>The report of a configuration as PDF or HTML</translation></message>
+    <message id="cli_107"><translation>What files are: kind, model, records, dates</translation></message>
+    <message id="cli_108"><translation>This help</translation></message>
+    <message id="cli_109"><translation>Name and version</translation></message>
+    <message id="cli_110"><translation>Language of the texts</translation></message>
+    <message id="cli_111"><translation>Write to a file, not to standard output</translation></message>
+    <message id="cli_112"><translation>One JSON object a line</translation></message>
+    <message id="cli_113"><translation>Show passwords, PIN codes and keys</translation></message>
+    <message id="cli_114"><translation>Write nothing, tell what would change</translation></message>
+    <message id="cli_115"><translation>Compare with the default values</translation></message>
+    <message id="cli_116"><translation>Changed settings only</translation></message>
+    <message id="cli_117"><translation>As CSV</translation></message>
+    <message id="cli_118"><translation>The report: .pdf, .html or - for standard output</translation></message>
+    <message id="cli_120"><translation>Examples:
+  r7106 check fleet
+  r7106 check --json fleet &gt; findings.ndjson</translation></message>
+    <message id="cli_121"><translation>Examples:
+  r7106 diff before.xml after.xml
+  r7106 diff --defaults truck.xml</translation></message>
+    <message id="cli_122"><translation>Example:
+  r7106 compare --csv -o fleet.csv fleet</translation></message>
+    <message id="cli_123"><translation>Example:
+  r7106 get TRANS/SRV1/addr fleet</translation></message>
+    <message id="cli_124"><translation>Examples:
+  r7106 set --dry-run TRACK/POINTS/maxSpeed=90 fleet
+  r7106 set TRANS/SRV1/addr=tracking.example TRANS/SRV1/port=5000 truck.xml</translation></message>
+    <message id="cli_125"><translation>Example:
+  r7106 apply --dry-run winter.xml fleet</translation></message>
+    <message id="cli_126"><translation>Example:
+  r7106 report truck.xml -o truck.pdf</translation></message>
+    <message id="cli_127"><translation>Example:
+  r7106 info --json archive</translation></message>
+    <message id="cli_128"><translation>Examples:
+  r7106 check fleet
+  r7106 diff before.xml after.xml
+  r7106 set --help
+
+FILE may be a folder: its *.xml and *.tmi are taken. - is standard input.
+Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the call could not be handled.</translation></message>
+    <message id="cli_130"><translation>Usage</translation></message>
+    <message id="cli_131"><translation>OPTIONS</translation></message>
+    <message id="cli_132"><translation>COMMAND</translation></message>
+    <message id="cli_133"><translation>Options</translation></message>
+    <message id="cli_134"><translation>Commands</translation></message>
+    <message id="cli_135"><translation>Arguments</translation></message>
+    <message id="cli_136"><translation>(needed)</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>
     <message id="rev_003"><translation>Unknown key, a write drops it</translation></message>

@@ -1127,6 +1127,114 @@
     <message id="cfgwnd_005"><translation>В быстрой настройке видна только часть параметров. Запись оттуда заменит входные линии, последовательную линию и датчики Bluetooth.</translation></message>
     <message id="cfgwnd_006"><translation>Перейти к быстрой настройке?</translation></message>
     <message id="cfgwnd_007"><translation>Esc: не ждать</translation></message>
+    <message id="cli_001"><translation>Проверяет, сравнивает и правит конфигурации трекеров и говорит, что в файлах.</translation></message>
+    <message id="cli_002"><translation>не читается: %1</translation></message>
+    <message id="cli_003"><translation>не записывается: %1</translation></message>
+    <message id="cli_004"><translation>пуст</translation></message>
+    <message id="cli_005"><translation>больше, чем может быть конфигурация</translation></message>
+    <message id="cli_006"><translation>обрывается в строке %1</translation></message>
+    <message id="cli_007"><translation>повреждён в строке %1, позиция %2</translation></message>
+    <message id="cli_008"><translation>повреждён или слишком велик для конфигурации</translation></message>
+    <message id="cli_009"><translation>это телеметрия, а не конфигурация</translation></message>
+    <message id="cli_010"><translation>это тарировочная таблица, а не конфигурация</translation></message>
+    <message id="cli_011"><translation>это файл тахографа, а не конфигурация</translation></message>
+    <message id="cli_012"><translation>это не конфигурация</translation></message>
+    <message id="cli_013"><translation>слишком большой файл телеметрии</translation></message>
+    <message id="cli_020"><translation>%1 не имеет вида ПУТЬ=ЗНАЧЕНИЕ</translation></message>
+    <message id="cli_021"><translation>нужны параметры и файлы: ПУТЬ=ЗНАЧЕНИЕ... ФАЙЛ...</translation></message>
+    <message id="cli_022"><translation>нужны два файла или --defaults и один файл</translation></message>
+    <message id="cli_023"><translation>Справка: r7106 --help
+</translation></message>
+    <message id="cli_024"><translation>отчёт оканчивается на .pdf или .html</translation></message>
+    <message id="cli_025"><translation>не загрузилось то, что делает PDF</translation></message>
+    <message id="cli_030"><translation>нет параметра %1</translation></message>
+    <message id="cli_031"><translation>%1 стоит дважды</translation></message>
+    <message id="cli_032"><translation>для %1 в этой конфигурации нет места</translation></message>
+    <message id="cli_033"><translation>%1 не может быть %2</translation></message>
+    <message id="cli_034"><translation>%1: %2 не число</translation></message>
+    <message id="cli_035"><translation>%1: %2 вне диапазона</translation></message>
+    <message id="cli_036"><translation>%1: %2 слишком точно</translation></message>
+    <message id="cli_037"><translation>%1: %2 слишком длинно</translation></message>
+    <message id="cli_038"><translation>%1: этот трекер не предлагает %2</translation></message>
+    <message id="cli_039"><translation>%1: другой параметр не допускает %2</translation></message>
+    <message id="cli_040"><translation>Путь;Параметр;Файл;Значение</translation></message>
+    <message id="cli_041"><translation>большинство файлов, %1</translation></message>
+    <message id="cli_050"><translation>Конфигурация</translation></message>
+    <message id="cli_051"><translation>Конфигурация: %1</translation></message>
+    <message id="cli_052"><translation>Файл: %1</translation></message>
+    <message id="cli_053"><translation>Трекер: %1</translation></message>
+    <message id="cli_054"><translation>Версия: %1</translation></message>
+    <message id="cli_055"><translation>Дата: %1</translation></message>
+    <message id="cli_060"><translation>конфигурация</translation></message>
+    <message id="cli_061"><translation>телеметрия</translation></message>
+    <message id="cli_062"><translation>тарировочная таблица</translation></message>
+    <message id="cli_063"><translation>файл тахографа</translation></message>
+    <message id="cli_064"><translation>неизвестный файл</translation></message>
+    <message id="cli_065"><translation>записей: %1</translation></message>
+    <message id="cli_066"><translation>с %1 по %2</translation></message>
+    <message id="cli_067"><translation>пропусков: %1</translation></message>
+    <message id="cli_070"><translation>начинается не как телеметрия</translation></message>
+    <message id="cli_071"><translation>заголовок не тот, что был записан</translation></message>
+    <message id="cli_072"><translation>здесь нет записи</translation></message>
+    <message id="cli_073"><translation>файл обрывается внутри записи</translation></message>
+    <message id="cli_074"><translation>записи не те, что были записаны</translation></message>
+    <message id="cli_075"><translation>в файле указано другое число записей</translation></message>
+    <message id="cli_076"><translation>смещение %1: %2</translation></message>
+    <message id="cli_080"><translation>ошибка</translation></message>
+    <message id="cli_081"><translation>предупреждение</translation></message>
+    <message id="cli_082"><translation>подсказка</translation></message>
+    <message id="cli_100"><translation>Замечания: что изменит или отбросит чтение и что противоречит само себе</translation></message>
+    <message id="cli_101"><translation>Отличия двух конфигураций словами</translation></message>
+    <message id="cli_102"><translation>Парк рядом: параметры, в которых файлы расходятся</translation></message>
+    <message id="cli_103"><translation>Значение одного параметра</translation></message>
+    <message id="cli_104"><translation>Задаёт отдельные параметры; всё остальное в файле остаётся</translation></message>
+    <message id="cli_105"><translation>Применяет шаблон к файлам</translation></message>
+    <message id="cli_106"><translation>Отчёт о конфигурации: PDF или HTML</translation></message>
+    <message id="cli_107"><translation>Что это за файлы: вид, модель, записи, даты</translation></message>
+    <message id="cli_108"><translation>Эта справка</translation></message>
+    <message id="cli_109"><translation>Название и версия</translation></message>
+    <message id="cli_110"><translation>Язык текстов</translation></message>
+    <message id="cli_111"><translation>Писать в файл, а не в стандартный вывод</translation></message>
+    <message id="cli_112"><translation>По объекту JSON в строке</translation></message>
+    <message id="cli_113"><translation>Показывать пароли, PIN-коды и ключи</translation></message>
+    <message id="cli_114"><translation>Ничего не писать, сказать, что изменится</translation></message>
+    <message id="cli_115"><translation>Сравнить с начальными значениями</translation></message>
+    <message id="cli_116"><translation>Только изменённые параметры</translation></message>
+    <message id="cli_117"><translation>В виде CSV</translation></message>
+    <message id="cli_118"><translation>Отчёт: .pdf, .html или - для стандартного вывода</translation></message>
+    <message id="cli_120"><translation>Примеры:
+  r7106 check fleet
+  r7106 check --json fleet &gt; findings.ndjson</translation></message>
+    <message id="cli_121"><translation>Примеры:
+  r7106 diff before.xml after.xml
+  r7106 diff --defaults truck.xml</translation></message>
+    <message id="cli_122"><translation>Пример:
+  r7106 compare --csv -o fleet.csv fleet</translation></message>
+    <message id="cli_123"><translation>Пример:
+  r7106 get TRANS/SRV1/addr fleet</translation></message>
+    <message id="cli_124"><translation>Примеры:
+  r7106 set --dry-run TRACK/POINTS/maxSpeed=90 fleet
+  r7106 set TRANS/SRV1/addr=tracking.example TRANS/SRV1/port=5000 truck.xml</translation></message>
+    <message id="cli_125"><translation>Пример:
+  r7106 apply --dry-run winter.xml fleet</translation></message>
+    <message id="cli_126"><translation>Пример:
+  r7106 report truck.xml -o truck.pdf</translation></message>
+    <message id="cli_127"><translation>Пример:
+  r7106 info --json archive</translation></message>
+    <message id="cli_128"><translation>Примеры:
+  r7106 check fleet
+  r7106 diff before.xml after.xml
+  r7106 set --help
+
+FILE может быть папкой: берутся её *.xml и *.tmi. - это стандартный ввод.
+Код возврата: 0 сказать нечего, 1 есть замечания или отличия, 2 файл или вызов не обработан.</translation></message>
+    <message id="cli_130"><translation>Вызов</translation></message>
+    <message id="cli_131"><translation>ПАРАМЕТРЫ</translation></message>
+    <message id="cli_132"><translation>КОМАНДА</translation></message>
+    <message id="cli_133"><translation>Параметры</translation></message>
+    <message id="cli_134"><translation>Команды</translation></message>
+    <message id="cli_135"><translation>Аргументы</translation></message>
+    <message id="cli_136"><translation>(нужен)</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>

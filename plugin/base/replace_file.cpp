@@ -143,12 +143,15 @@ bool replace(const QString& path, const WriteContent& write, QString* reason)
 
 } // namespace
 
-bool replaceFile(const QString& path, const WriteContent& write)
+bool replaceFile(const QString& path, const WriteContent& write, QString* reason)
 {
-    QString reason;
-    if (replace(path, write, &reason))
+    QString fault;
+    if (replace(path, write, &fault))
         return true;
-    qCWarning(lcSave).noquote().nospace() << path << ": " << reason;
+    if (reason)
+        *reason = fault;
+    else
+        qCWarning(lcSave).noquote().nospace() << path << ": " << fault;
     return false;
 }
 
@@ -173,9 +176,10 @@ QString whyNotReplaceable(const QString& path)
     return reason;
 }
 
-bool replaceFile(const QString& path, const QByteArray& content)
+bool replaceFile(const QString& path, const QByteArray& content, QString* reason)
 {
-    return replaceFile(path, [&](QIODevice& device) { return device.write(content) == content.size(); });
+    return replaceFile(
+        path, [&](QIODevice& device) { return device.write(content) == content.size(); }, reason);
 }
 
 } // namespace vlk

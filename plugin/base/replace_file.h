@@ -22,8 +22,9 @@ using WriteContent = std::function<bool(QIODevice& device)>;
 // removed by the next save. Where no file may be made beside it, the file is written over in place, from
 // memory; while that lasts it may end in blank lines, which mean nothing in any form that we save. When even
 // the old content cannot be put back then, the log says that it is lost.
-bool replaceFile(const QString& path, const WriteContent& write);
-bool replaceFile(const QString& path, const QByteArray& content);
+// With a `reason`, that is told there in place of the log.
+bool replaceFile(const QString& path, const WriteContent& write, QString* reason = nullptr);
+bool replaceFile(const QString& path, const QByteArray& content, QString* reason = nullptr);
 
 // Why a file at `path` could not be written now, as the system words it; empty if it could. Tries it out, and
 // leaves everything as it was.

@@ -22,12 +22,16 @@ QString fromExecutable(const QString& relative)
 
 } // namespace
 
-QString pluginPath()
+QString libraryPath(const QString& file)
 {
-    const QString file = QStringLiteral("VLK_Device_R-7106.so");
     return firstExisting({fromExecutable(file),
                           fromExecutable(QStringLiteral("../lib/vlk-workbench/") + file),
                           fromExecutable(QStringLiteral("../lib/") + file)});
+}
+
+QString pluginPath()
+{
+    return libraryPath(QStringLiteral("VLK_Device_R-7106.so"));
 }
 
 QString sharedFolder(const QString& name)

@@ -7,7 +7,9 @@
 
 namespace workbench {
 
-// The plug-in library; where it is missing, the place where it should have been.
+// A library that a program loads; where it is missing, the place where it should have been.
+QString libraryPath(const QString& file);
+// That of the plug-in.
 QString pluginPath();
 
 // A folder of data such as "help" or "translations"; where it is missing, its place beside the executable.

@@ -1,0 +1,207 @@
+#include "command/arguments.h"
+
+#include "window/languages.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+
+namespace workbench::command {
+
+namespace {
+
+std::string words(const char* key)
+{
+    return text(key).toStdString();
+}
+
+// A row a command.
+struct CommandRow
+{
+    const char* name;
+    const char* description;
+    const char* example; // below its help
+    enum Takes {
+        anyFiles,
+        twoFiles, // or one with --defaults
+        oneFile,  // and writes to -o
+        pathAndFiles,
+        settingsAndFiles, // by their "="
+        presetAndFiles,
+    } takes;
+    bool printsSecrets;
+    bool edits;
+};
+
+constexpr CommandRow commands[] = {
+    {"check", "cli_100", "cli_120", CommandRow::anyFiles, false, false},
+    {"diff", "cli_101", "cli_121", CommandRow::twoFiles, true, false},
+    {"compare", "cli_102", "cli_122", CommandRow::anyFiles, true, false},
+    {"get", "cli_103", "cli_123", CommandRow::pathAndFiles, true, false},
+    {"set", "cli_104", "cli_124", CommandRow::settingsAndFiles, true, true},
+    {"apply", "cli_105", "cli_125", CommandRow::presetAndFiles, true, true},
+    {"report", "cli_106", "cli_126", CommandRow::oneFile, true, false},
+    {"info", "cli_107", "cli_127", CommandRow::anyFiles, false, false},
+};
+
+// What the options are read into.
+struct Read
+{
+    std::vector<std::string> files;
+    std::string first; // a path or a preset
+    std::string output;
+    std::string language;
+    bool isVersion = false;
+    Call call;
+};
+
+// Bytes as file names hold them (file_names.h).
+QString nameOf(const std::string& bytes)
+{
+    return QString::fromLatin1(bytes.data(), static_cast<int>(bytes.size()));
+}
+
+void addLanguage(CLI::App& app, Read& read)
+{
+    app.add_option("--language", read.language, words("cli_110"))
+        ->check(CLI::IsMember({"ru", "en"}))
+        ->option_text("ru|en");
+}
+
+void addOptions(CLI::App& app, const CommandRow& row, Read& read)
+{
+    addLanguage(app, read);
+    app.add_option("-o,--output", read.output,
+                   words(row.takes == CommandRow::oneFile ? "cli_118" : "cli_111"))
+        ->option_text("FILE");
+    if (row.takes != CommandRow::oneFile)
+        app.add_flag("--json", read.call.json, words("cli_112"));
+    if (row.printsSecrets)
+        app.add_flag("--secrets", read.call.secrets, words("cli_113"));
+    if (row.edits)
+        app.add_flag("--dry-run", read.call.dryRun, words("cli_114"));
+    if (row.takes == CommandRow::twoFiles)
+        app.add_flag("--defaults", read.call.againstDefaults, words("cli_115"));
+    if (row.takes == CommandRow::oneFile)
+        app.add_flag("--changed", read.call.changedOnly, words("cli_116"));
+    if (row.description == std::string_view("cli_102"))
+        app.add_flag("--csv", read.call.csv, words("cli_117"));
+}
+
+void addCommand(CLI::App& app, const CommandRow& row, Read& read)
+{
+    CLI::App* command = app.add_subcommand(row.name, words(row.description));
+    command->footer(words(row.example));
+    addOptions(*command, row, read);
+    if (row.takes == CommandRow::pathAndFiles || row.takes == CommandRow::presetAndFiles)
+        command->add_option(row.takes == CommandRow::pathAndFiles ? "PATH" : "PRESET", read.first)
+            ->required();
+    const char* files = row.takes == CommandRow::settingsAndFiles ? "PATH=VALUE..., FILE" : "FILE";
+    CLI::Option* option =
+        command->add_option(row.takes == CommandRow::settingsAndFiles ? "ARGUMENT" : "FILE", read.files)
+            ->required()
+            ->option_text(files);
+    if (row.takes == CommandRow::oneFile)
+        option->expected(1);
+    else if (row.takes == CommandRow::twoFiles)
+        option->expected(1, 2);
+}
+
+// Why the files of a command are not those that it takes; empty where they are.
+QString splitFiles(const CommandRow& row, const Read& read, int behindDashes, Call* call)
+{
+    QStringList files;
+    for (const std::string& file : read.files)
+        files << nameOf(file);
+    if (row.takes == CommandRow::settingsAndFiles) {
+        // Up to "--" where it stands, else up to the first without a sign.
+        const auto isFile = [](const QString& name) { return !name.contains(QLatin1Char('=')); };
+        const auto settings = behindDashes >= 0
+                                  ? files.size() - behindDashes
+                                  : std::find_if(files.begin(), files.end(), isFile) - files.begin();
+        for (int i = 0; i < settings; ++i) {
+            call->settings << QString::fromUtf8(files[i].toLatin1());
+            if (isFile(files[i]))
+                return text("cli_020").arg(call->settings.last());
+        }
+        files = files.mid(static_cast<int>(settings));
+        if (call->settings.isEmpty() || files.isEmpty())
+            return text("cli_021");
+    }
+    if (row.takes == CommandRow::pathAndFiles)
+        call->settings << QString::fromUtf8(read.first.c_str());
+    if (row.takes == CommandRow::presetAndFiles)
+        call->preset = nameOf(read.first);
+    if (row.takes == CommandRow::twoFiles && (files.size() == 2) == call->againstDefaults)
+        return text("cli_022");
+    call->files = files;
+    return {};
+}
+
+Arguments refused(const QString& reason)
+{
+    return {{}, failed, (QStringLiteral("r7106: ") + reason + QLatin1Char('\n') + text("cli_023")).toUtf8()};
+}
+
+void setUp(CLI::App& app, Read& read)
+{
+    app.require_subcommand(1);
+    app.footer(words("cli_128"));
+    app.set_help_flag("-h,--help", words("cli_108"));
+    // Told by the program before anything else, here for the help.
+    app.add_flag("--version", read.isVersion, words("cli_109"));
+    addLanguage(app, read);
+    for (const auto& [label, key] : {std::pair("Usage", "cli_130"),
+                                     {"OPTIONS", "cli_131"},
+                                     {"SUBCOMMAND", "cli_132"},
+                                     {"Options", "cli_133"},
+                                     {"Subcommands", "cli_134"},
+                                     {"Positionals", "cli_135"},
+                                     {"REQUIRED", "cli_136"}})
+        app.get_formatter()->label(label, words(key));
+    for (const CommandRow& row : commands)
+        addCommand(app, row, read);
+}
+
+} // namespace
+
+QString languageOf(const QByteArrayList& arguments)
+{
+    for (int i = 1; i < arguments.size(); ++i) {
+        if (arguments[i].startsWith("--language="))
+            return QString::fromLatin1(arguments[i].mid(11));
+        if (arguments[i] == "--language")
+            return QString::fromLatin1(arguments.value(i + 1));
+    }
+    return {};
+}
+
+Arguments readArguments(const QByteArrayList& arguments)
+{
+    Read read;
+    CLI::App app(words("cli_001"), "r7106");
+    setUp(app, read);
+    // As the parser takes them, backwards.
+    std::vector<std::string> left;
+    for (int i = arguments.size() - 1; i > 0; --i)
+        left.push_back(arguments[i].toStdString());
+    const int dashes = arguments.indexOf("--");
+    try {
+        app.parse(left);
+    } catch (const CLI::CallForHelp&) {
+        const std::vector<CLI::App*> chosen = app.get_subcommands();
+        return {{}, nothing, QByteArray::fromStdString((chosen.empty() ? &app : chosen.front())->help())};
+    } catch (const CLI::ParseError& error) {
+        return refused(QString::fromUtf8(error.what()));
+    }
+    const std::string name = app.get_subcommands().front()->get_name();
+    const auto* row = std::ranges::find(commands, name, &CommandRow::name);
+    Arguments result{read.call, {}, {}};
+    result.call.command = QString::fromStdString(name);
+    result.call.output = nameOf(read.output);
+    const QString reason =
+        splitFiles(*row, read, dashes < 0 ? -1 : arguments.size() - dashes - 1, &result.call);
+    return reason.isEmpty() ? result : refused(reason);
+}
+
+} // namespace workbench::command

@@ -1,0 +1,39 @@
+#pragma once
+
+// What a call asks for, and what it comes to.
+
+#include <QStringList>
+
+#include <functional>
+
+namespace workbench::command {
+
+struct Call
+{
+    QString command;
+    QStringList files;
+    QStringList settings; // of get and set: a path, or "PATH=VALUE"
+    QString preset;
+    QString output; // empty: standard output
+    bool json = false;
+    bool secrets = false;
+    bool againstDefaults = false;
+    bool changedOnly = false;
+    bool dryRun = false;
+    bool csv = false;
+};
+
+// The greater one counts.
+enum Status { nothing = 0, found = 1, failed = 2 };
+
+// What one file gives. Lines of `told` go to the output, those of `complaints` to standard error; `inTurn`
+// runs in the order of the files, one at a time.
+struct Outcome
+{
+    QByteArray told{};
+    QByteArray complaints{};
+    int status = nothing;
+    std::function<void()> inTurn{};
+};
+
+} // namespace workbench::command

@@ -1,0 +1,246 @@
+// A fleet side by side: the settings in which its files do not agree.
+
+#include "command/commands.h"
+
+#include "command/configuration_input.h"
+#include "command/difference_lines.h"
+#include "command/each_file.h"
+#include "command/file_names.h"
+#include "command/json_line.h"
+#include "review/difference_text.h"
+#include "settings/all_settings.h"
+#include "window/languages.h"
+#include "xml/xml_document.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <memory>
+
+namespace workbench::command {
+
+using vlk::review::FileKeys;
+using vlk::review::FileState;
+
+namespace {
+
+// What the files hold at one path: each value once, and of each file the number of its value. Files are
+// told apart only once they differ.
+class Column
+{
+public:
+    static constexpr int lacks = -1;
+
+    void take(std::size_t file, const QString& value)
+    {
+        const auto known = numbers_.constFind(value);
+        const int number = known == numbers_.constEnd() ? static_cast<int>(values_.size()) : *known;
+        if (known == numbers_.constEnd()) {
+            numbers_.insert(value, number);
+            values_ << value;
+        }
+        if (held_.empty() && number == 0 && file == same_) {
+            ++same_;
+            return;
+        }
+        fill(file);
+        held_.push_back(number);
+    }
+
+    // Of so many files.
+    bool agrees(std::size_t files) const { return held_.empty() && same_ == files; }
+    void fill(std::size_t files)
+    {
+        if (held_.empty())
+            held_.assign(same_, 0);
+        held_.resize(files, lacks);
+    }
+    const QStringList& values() const { return values_; }
+    const std::vector<int>& held() const { return held_; }
+
+private:
+    std::size_t same_ = 0; // files with the first value, before one that differs
+    QStringList values_;
+    QHash<QString, int> numbers_;
+    std::vector<int> held_;
+};
+
+struct Names
+{
+    QString caption;
+    QString words; // path and caption
+    bool isSecret;
+};
+
+Names namesOf(const QString& path)
+{
+    const int key = FileKeys::all().at(path);
+    if (key < 0)
+        return {path.section(QLatin1Char('/'), -1), path, FileKeys::all().looksSecret(path)};
+    const vlk::review::FileKey& place = FileKeys::all()[key];
+    const vlk::TableLayout& layout = FileKeys::all().layout(place.table);
+    const auto words = vlk::review::wordsOf(layout, place.rows.front());
+    return {words.caption, inWords(path, {words.page, words.group, words.caption}),
+            layout.rows[place.rows.front()].base->secret};
+}
+
+class Fleet
+{
+public:
+    void add(const QString& file, const FileState& state)
+    {
+        for (int key = 0; key < FileKeys::all().count(); ++key) {
+            if (state.at(key).isThere)
+                columns_[key].take(files_.size(), there(state.at(key).meaning));
+        }
+        for (const vlk::review::Stranger& stranger : state.strangers()) {
+            const auto known = strangers_.constFind(stranger.path);
+            std::size_t place = columns_.size();
+            if (known != strangers_.constEnd()) {
+                place = *known;
+            } else {
+                strangers_.insert(stranger.path, place);
+                strangerPaths_ << stranger.path;
+                columns_.emplace_back();
+            }
+            columns_[place].take(files_.size(), there(stranger.text));
+        }
+        files_ << file;
+    }
+
+    // Whether anything differs.
+    bool tell(const Call& call, Output& output)
+    {
+        bool differs = false;
+        const auto files = static_cast<std::size_t>(files_.size());
+        if (call.csv && !call.json)
+            output.write((text("cli_040") + QStringLiteral("\r\n")).toUtf8());
+        for (std::size_t place = 0; place < columns_.size(); ++place) {
+            Column& column = columns_[place];
+            if (column.values().isEmpty() || column.agrees(files))
+                continue;
+            differs = true;
+            column.fill(files);
+            const QString path = place < static_cast<std::size_t>(FileKeys::all().count())
+                                     ? FileKeys::all()[static_cast<int>(place)].path
+                                     : strangerPaths_[static_cast<int>(place) - FileKeys::all().count()];
+            tellColumn(call, path, column, output);
+        }
+        return differs;
+    }
+
+private:
+    static QString there(const QString& text) { return text.isNull() ? QStringLiteral("") : text; }
+
+    void tellColumn(const Call& call, const QString& path, const Column& column, Output& output) const
+    {
+        const Names names = namesOf(path);
+        QStringList values = column.values();
+        if (names.isSecret && !call.secrets) {
+            for (int i = 0; i < values.size(); ++i)
+                values[i] = values[i].isEmpty() ? QString() : QStringLiteral("••• %1").arg(i + 1);
+        }
+        std::vector<QStringList> holders(values.size());
+        QStringList lacking;
+        for (std::size_t file = 0; file < column.held().size(); ++file) {
+            const int number = column.held()[file];
+            (number == Column::lacks ? lacking : holders[number]) << files_[static_cast<int>(file)];
+        }
+        const auto most = std::max_element(holders.begin(), holders.end(),
+                                           [](const auto& a, const auto& b) { return a.size() < b.size(); });
+        const QString mostValue = values[static_cast<int>(most - holders.begin())];
+        if (call.json)
+            output.write(jsonOf(path, names, values, holders, lacking, mostValue));
+        else if (call.csv)
+            output.write(csvOf(path, names, values, holders, lacking));
+        else
+            output.write(tableOf(names, values, holders, lacking, mostValue));
+    }
+
+    static QByteArray jsonOf(const QString& path, const Names& names, const QStringList& values,
+                             const std::vector<QStringList>& holders, const QStringList& lacking,
+                             const QString& most)
+    {
+        const auto readableAll = [](QStringList files) {
+            std::transform(files.begin(), files.end(), files.begin(), readable);
+            return files;
+        };
+        JsonLine byValue;
+        for (int i = 0; i < values.size(); ++i)
+            byValue.add(values[i].toUtf8().constData(), readableAll(holders[i]));
+        return JsonLine()
+            .add("path", path)
+            .add("caption", names.caption)
+            .addRaw("values", byValue.object())
+            .add("lacking", readableAll(lacking))
+            .add("most", there(most))
+            .line();
+    }
+
+    static QByteArray csvOf(const QString& path, const Names& names, const QStringList& values,
+                            const std::vector<QStringList>& holders, const QStringList& lacking)
+    {
+        QByteArray lines;
+        const auto add = [&](const QString& file, const QString& value) {
+            QStringList cells{path, names.caption, inOneLine(file), value};
+            for (QString& cell : cells)
+                cell = QLatin1Char('"') + cell.replace(QLatin1Char('"'), QStringLiteral("\"\"")) +
+                       QLatin1Char('"');
+            lines += (cells.join(QLatin1Char(';')) + QStringLiteral("\r\n")).toUtf8();
+        };
+        for (int i = 0; i < values.size(); ++i) {
+            for (const QString& file : holders[i])
+                add(file, values[i]);
+        }
+        for (const QString& file : lacking)
+            add(file, {});
+        return lines;
+    }
+
+    // The value that most have by their number, the others by their names.
+    static QByteArray tableOf(const Names& names, const QStringList& values,
+                              const std::vector<QStringList>& holders, const QStringList& lacking,
+                              const QString& most)
+    {
+        QString lines = names.words + QLatin1Char('\n');
+        const auto add = [&](const QString& value, const QStringList& files, bool isMost) {
+            QStringList shown;
+            for (const QString& file : files)
+                shown << inOneLine(file);
+            lines += QStringLiteral("    %1: %2\n")
+                         .arg(value.isEmpty() ? QStringLiteral("\"\"") : value,
+                              isMost ? text("cli_041").arg(files.size()) : shown.join(QStringLiteral(", ")));
+        };
+        for (int i = 0; i < values.size(); ++i)
+            add(values[i], holders[i], there(values[i]) == there(most));
+        if (!lacking.isEmpty())
+            add(QStringLiteral("–"), lacking, false);
+        return lines.toUtf8();
+    }
+
+    QStringList files_;
+    // Of the keys that settings know, and behind them of others.
+    std::vector<Column> columns_ = std::vector<Column>(FileKeys::all().count());
+    QHash<QString, std::size_t> strangers_;
+    QStringList strangerPaths_;
+};
+
+} // namespace
+
+int compare(const Call& call, Output& output)
+{
+    // Files are read on all cores; they come to the fleet in their order.
+    Fleet fleet;
+    const int status = eachFile(
+        call.files,
+        [&](const File& file) {
+            return withConfiguration(call, file, [&](const QByteArray&, vlk::XmlDocument& document) {
+                auto state = std::make_shared<FileState>(FileState::ofDocument(*document.root()));
+                return Outcome{{}, {}, nothing, [&fleet, file, state] { fleet.add(file.name, *state); }};
+            });
+        },
+        output);
+    return std::max<int>(status, fleet.tell(call, output) ? found : nothing);
+}
+
+} // namespace workbench::command

@@ -1,0 +1,26 @@
+#pragma once
+
+// Reading configuration files, and saying why one cannot be handled.
+
+#include "command/call.h"
+#include "command/file_walk.h"
+
+#include <functional>
+
+namespace vlk {
+class XmlDocument;
+} // namespace vlk
+
+namespace workbench::command {
+
+// `name` may be "-". None with a reason.
+std::optional<QByteArray> contentOf(const QString& name, QString* reason);
+
+Outcome refusal(const Call& call, const QString& name, const QString& reason);
+
+// Opens the file as a configuration and hands it on. What is no configuration is a refusal; below a folder,
+// files of other kinds are passed over.
+using TakeConfiguration = std::function<Outcome(const QByteArray& text, vlk::XmlDocument& document)>;
+Outcome withConfiguration(const Call& call, const File& file, const TakeConfiguration& take);
+
+} // namespace workbench::command

@@ -1,0 +1,17 @@
+#pragma once
+
+// Differences as a command tells them.
+
+#include "command/call.h"
+#include "review/differences.h"
+
+namespace workbench::command {
+
+// A line each; with the file's name in front where one is given. `configuration` knows the units of now.
+QByteArray linesOf(const vlk::review::Differences& differences, const vlk::Configuration& configuration,
+                   const Call& call, const QString& file = {});
+
+// As a person reads one: "TRACK/POINTS/angle: Track / Angle: 5 → 7".
+QString inWords(const QString& path, const QStringList& words);
+
+} // namespace workbench::command

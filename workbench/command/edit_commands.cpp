@@ -1,0 +1,182 @@
+// Settings and presets laid into files.
+
+#include "command/commands.h"
+
+#include "command/configuration_input.h"
+#include "command/difference_lines.h"
+#include "command/each_file.h"
+#include "command/file_names.h"
+#include "plugin/base/replace_file.h"
+#include "review/edit_file.h"
+#include "settings/all_settings.h"
+#include "window/languages.h"
+#include "xml/xml_document.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <cerrno>
+
+namespace workbench::command {
+
+using vlk::Change;
+using vlk::review::Differences;
+using vlk::review::EditedFile;
+using vlk::review::FileKeys;
+using vlk::review::FileState;
+using vlk::review::KeyEdit;
+using vlk::review::PresetProblem;
+
+namespace {
+
+const char* reasonKey(Change change)
+{
+    switch (change) {
+    case Change::notANumber:
+        return "cli_034";
+    case Change::outOfRange:
+    case Change::wrapped:
+        return "cli_035";
+    case Change::rounded:
+        return "cli_036";
+    case Change::tooLong:
+        return "cli_037";
+    case Change::notOffered:
+        return "cli_038";
+    case Change::byRule:
+        return "cli_039";
+    case Change::none:
+    case Change::missing:
+    case Change::unknownCode:
+    case Change::otherForm:
+        break;
+    }
+    return "cli_033";
+}
+
+QString sentence(const PresetProblem& problem)
+{
+    using What = PresetProblem::What;
+    switch (problem.what) {
+    case What::unknownKey:
+        return text("cli_030").arg(problem.path);
+    case What::doubled:
+        return text("cli_031").arg(problem.path);
+    case What::noPlace:
+        return text("cli_032").arg(problem.path);
+    case What::badValue:
+        break;
+    }
+    const bool isSecret = FileKeys::all().looksSecret(problem.path);
+    return text(reasonKey(problem.change)).arg(problem.path, isSecret ? QStringLiteral("•••") : problem.text);
+}
+
+QString sentences(const std::vector<PresetProblem>& problems)
+{
+    QStringList told;
+    for (const PresetProblem& problem : problems)
+        told << sentence(problem);
+    return told.join(QStringLiteral("; "));
+}
+
+// Even where the system would let a privileged user write.
+bool isClosed(const QString& name)
+{
+    return !(QFile::permissions(name) & (QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther));
+}
+
+QByteArray toldOf(const Call& call, const File& file, const QByteArray& before, const QByteArray& after)
+{
+    vlk::XmlDocument left(before, QStringLiteral("DEVICE"));
+    vlk::XmlDocument right(after, QStringLiteral("DEVICE"));
+    vlk::Configuration configuration(vlk::allSettings());
+    configuration.read(*right.root());
+    return linesOf(Differences(FileState::ofDocument(*left.root()), FileState::ofDocument(*right.root())),
+                   configuration, call, file.name);
+}
+
+// Standard input goes to standard output as a document; what changed in it is told beside it.
+Outcome passedOn(const Call& call, const QByteArray& document, const QByteArray& told)
+{
+    return call.dryRun ? Outcome{told, {}, told.isEmpty() ? nothing : found} : Outcome{document, told};
+}
+
+Outcome laidInto(const Call& call, const File& file, const QByteArray& before, const EditedFile& edited)
+{
+    if (!edited.isReadable)
+        return refusal(call, file.name, text("cli_008"));
+    if (!edited.problems.empty())
+        return refusal(call, file.name, sentences(edited.problems));
+    const bool isSame = edited.text == before;
+    const QByteArray told = isSame ? QByteArray() : toldOf(call, file, before, edited.text);
+    if (file.isStandardInput())
+        return passedOn(call, edited.text, told);
+    if (isSame)
+        return {};
+    QString reason = isClosed(file.name) ? qt_error_string(EACCES) : QString();
+    if (!reason.isEmpty() || (!call.dryRun && !vlk::replaceFile(file.name, edited.text, &reason)))
+        return refusal(call, file.name, text("cli_003").arg(systemText(reason)));
+    return {told, {}, call.dryRun ? found : nothing};
+}
+
+using Edit = std::function<EditedFile(const QByteArray& text)>;
+
+int edit(const Call& call, Output& output, const Edit& edit)
+{
+    const auto work = [&](const File& file) {
+        return withConfiguration(call, file, [&](const QByteArray& text, vlk::XmlDocument&) {
+            return laidInto(call, file, text, edit(text));
+        });
+    };
+    return eachFile(call.files, work, output);
+}
+
+// Wrong whatever else a file holds: ranges and lists of some settings follow others.
+bool isAlwaysWrong(const PresetProblem& problem)
+{
+    using What = PresetProblem::What;
+    if (problem.what == What::unknownKey || problem.what == What::doubled)
+        return true;
+    const int key = FileKeys::all().at(problem.path);
+    const vlk::review::FileKey& place = FileKeys::all()[key];
+    const bool follows = std::ranges::any_of(place.rows, [&](int row) {
+        const vlk::TableLayout::Row& setting = FileKeys::all().layout(place.table).rows[row];
+        return !setting.ranges.empty() || !setting.lists.empty() || !setting.distances.empty();
+    });
+    return problem.what == What::badValue && problem.change != Change::byRule && !follows;
+}
+
+} // namespace
+
+int set(const Call& call, Output& output)
+{
+    std::vector<KeyEdit> edits;
+    for (const QString& setting : call.settings) {
+        const int sign = setting.indexOf(QLatin1Char('='));
+        edits.push_back({setting.left(sign), setting.mid(sign + 1)});
+    }
+    return edit(call, output, [&](const QByteArray& text) { return vlk::review::withEdits(text, edits); });
+}
+
+int apply(const Call& call, Output& output)
+{
+    QByteArray preset;
+    const Outcome outcome =
+        withConfiguration(call, {call.preset, true}, [&](const QByteArray& text, vlk::XmlDocument& document) {
+            preset = text;
+            std::vector<PresetProblem> problems =
+                vlk::review::applied(*document.root(), vlk::Configuration(vlk::allSettings())).problems;
+            std::erase_if(problems, std::not_fn(isAlwaysWrong));
+            return problems.empty() ? Outcome{} : refusal(call, call.preset, sentences(problems));
+        });
+    output.write(outcome.told);
+    writeError(outcome.complaints);
+    if (outcome.status == failed)
+        return failed;
+    return edit(call, output, [&](const QByteArray& text) {
+        vlk::XmlDocument document(preset, QStringLiteral("DEVICE"));
+        return vlk::review::withPreset(text, *document.root());
+    });
+}
+
+} // namespace workbench::command

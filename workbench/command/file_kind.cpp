@@ -1,0 +1,62 @@
+#include "command/file_kind.h"
+
+#include "telemetry/files/telemetry_binary_reader.h"
+#include "xml/xml_scanner.h"
+
+#include <QTextCodec>
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+namespace workbench::command {
+
+namespace {
+
+struct KindRow
+{
+    FileKind kind;
+    const char* name;
+    const char* root;
+};
+
+constexpr KindRow kinds[] = {{FileKind::configuration, "configuration", "DEVICE"},
+                             {FileKind::telemetry, "telemetry", "TMI"},
+                             {FileKind::calibration, "calibration", "FUEL"},
+                             {FileKind::tachograph, "tachograph", nullptr},
+                             {FileKind::unknown, "unknown", nullptr}};
+
+// Blocks of a driver's card begin with the tag of the chip, those of a vehicle unit with 0x76 and a number.
+bool looksLikeTachograph(const QByteArray& start)
+{
+    return start.startsWith(QByteArray("\0\2\0\0\x19", 5)) ||
+           (start.size() > 1 && start[0] == '\x76' && start[1] > 0 && start[1] < 0x40);
+}
+
+} // namespace
+
+FileKind kindOf(const QByteArray& start)
+{
+    const std::span bytes(reinterpret_cast<const std::uint8_t*>(start.constData()),
+                          static_cast<std::size_t>(start.size()));
+    if (vlk::looksBinary(bytes))
+        return FileKind::telemetry;
+    if (looksLikeTachograph(start))
+        return FileKind::tachograph;
+    const QString text =
+        QTextCodec::codecForUtfText(start, QTextCodec::codecForName("ISO-8859-1"))->toUnicode(start);
+    vlk::XmlScanner scanner(text);
+    if (scanner.next() != vlk::XmlScanner::Token::start)
+        return FileKind::unknown;
+    const auto* found = std::ranges::find_if(kinds, [&](const KindRow& row) {
+        return row.root && scanner.at(scanner.name()) == QLatin1String(row.root);
+    });
+    return found == std::end(kinds) ? FileKind::unknown : found->kind;
+}
+
+const char* nameOf(FileKind kind)
+{
+    return std::ranges::find(kinds, kind, &KindRow::kind)->name;
+}
+
+} // namespace workbench::command

@@ -1,0 +1,60 @@
+#include "command/file_walk.h"
+
+#include <QDir>
+
+#include <algorithm>
+
+namespace workbench::command {
+
+namespace {
+
+bool isWanted(const QFileInfo& entry)
+{
+    const QString suffix = entry.suffix().toLower();
+    // A link that leads nowhere is a file that cannot be read.
+    return (entry.isFile() || (entry.isSymLink() && !entry.exists())) &&
+           (suffix == QLatin1String("xml") || suffix == QLatin1String("tmi"));
+}
+
+} // namespace
+
+bool FileWalk::enter(const QString& name)
+{
+    const QDir folder(name);
+    if (!folder.isReadable())
+        return false;
+    QStringList entries =
+        folder.entryList(QDir::Dirs | QDir::Files | QDir::System | QDir::NoDotAndDotDot, QDir::Unsorted);
+    std::sort(entries.begin(), entries.end(), std::greater<>());
+    folders_.push_back({name.endsWith(QLatin1Char('/')) ? name : name + QLatin1Char('/'), entries});
+    return true;
+}
+
+std::optional<File> FileWalk::next()
+{
+    for (;;) {
+        if (folders_.empty()) {
+            if (at_ == names_.size())
+                return std::nullopt;
+            const QString name = names_[at_++];
+            if (name != QLatin1String("-") && QFileInfo(name).isDir() && enter(name))
+                continue;
+            return File{name, true};
+        }
+        Folder& folder = folders_.back();
+        if (folder.entries.isEmpty()) {
+            folders_.pop_back();
+            continue;
+        }
+        const QString name = folder.name + folder.entries.takeLast();
+        const QFileInfo entry(name);
+        if (!entry.isDir()) {
+            if (isWanted(entry))
+                return File{name, false};
+        } else if (!entry.isSymLink() && !enter(name)) {
+            return File{name, false};
+        }
+    }
+}
+
+} // namespace workbench::command

@@ -1,0 +1,142 @@
+// What files are.
+
+#include "command/commands.h"
+
+#include "command/configuration_input.h"
+#include "command/each_file.h"
+#include "command/file_kind.h"
+#include "command/file_names.h"
+#include "command/json_line.h"
+#include "command/telemetry_summary.h"
+#include "fuel/table/fuel_document.h"
+#include "window/languages.h"
+#include "xml/serialize.h"
+#include "xml/xml_document.h"
+
+#include <QBuffer>
+#include <QDateTime>
+#include <QFile>
+
+namespace workbench::command {
+
+namespace {
+
+struct Facts
+{
+    FileKind kind = FileKind::unknown;
+    QString model{};
+    std::optional<qint64> records{};
+    std::optional<qint64> gaps{};
+    QString from{};
+    QString to{};
+};
+
+QString timeText(const std::optional<quint32>& time)
+{
+    return time ? QDateTime::fromSecsSinceEpoch(*time, Qt::UTC).toString(Qt::ISODate) : QString();
+}
+
+QByteArray number(const std::optional<qint64>& count)
+{
+    return count ? QByteArray::number(*count) : QByteArrayLiteral("null");
+}
+
+QByteArray lineOf(const Call& call, const File& file, const Facts& facts)
+{
+    if (call.json)
+        return JsonLine()
+            .add("file", readable(file.name))
+            .add("what", QString::fromLatin1(nameOf(facts.kind)))
+            .add("model", facts.model)
+            .addRaw("records", number(facts.records))
+            .add("from", facts.from)
+            .add("to", facts.to)
+            .addRaw("gaps", number(facts.gaps))
+            .line();
+    static constexpr const char* words[] = {"cli_060", "cli_061", "cli_062", "cli_063", "cli_064"};
+    QStringList told{text(words[static_cast<int>(facts.kind)])};
+    if (!facts.model.isEmpty())
+        told << facts.model;
+    if (facts.records)
+        told << text("cli_065").arg(*facts.records);
+    if (!facts.from.isNull())
+        told << text("cli_066").arg(facts.from, facts.to);
+    if (facts.gaps.value_or(0) > 0)
+        told << text("cli_067").arg(*facts.gaps);
+    return complaint(file.name, told.join(QStringLiteral(", ")));
+}
+
+QByteArray damageLines(const File& file, const std::vector<vlk::FileDamage>& damages)
+{
+    // By FileDamage::Kind.
+    static constexpr const char* kinds[] = {"cli_070", "cli_071", "cli_072", "cli_073", "cli_074", "cli_075"};
+    QByteArray lines;
+    for (const vlk::FileDamage& damage : damages)
+        lines += complaint(file.name, text("cli_076").arg(damage.offset).arg(text(kinds[damage.kind])));
+    return lines;
+}
+
+Outcome telemetryFacts(const Call& call, const File& file, QIODevice& device)
+{
+    const std::optional<TelemetrySummary> summary = summaryOf(device);
+    if (!summary)
+        return refusal(call, file.name, text("cli_013"));
+    Facts facts{.kind = FileKind::telemetry, .records = summary->records, .gaps = summary->gaps};
+    facts.model = summary->model.isEmpty() ? QString() : summary->model;
+    facts.from = timeText(summary->from);
+    facts.to = timeText(summary->to);
+    return {lineOf(call, file, facts), damageLines(file, summary->damages),
+            summary->damages.empty() ? nothing : found};
+}
+
+Outcome documentFacts(const Call& call, const File& file, FileKind kind, const QByteArray& content)
+{
+    const QString root = QString::fromLatin1(kind == FileKind::calibration ? vlk::fuelRoot : "DEVICE");
+    vlk::XmlDocument document(content, root);
+    if (!document.isOpen())
+        return refusal(call, file.name, text("cli_008"));
+    Facts facts{.kind = kind};
+    if (const QString* model = document.root()->find(QStringLiteral("model")))
+        facts.model = *model;
+    if (const auto rows = kind == FileKind::calibration ? vlk::fuelTable(document.root()) : std::nullopt)
+        facts.records = static_cast<qint64>(rows->size());
+    return {lineOf(call, file, facts)};
+}
+
+Outcome factsOf(const Call& call, const File& file)
+{
+    constexpr qint64 beginning = 4096;
+    QFile plain(file.name);
+    QBuffer held;
+    QIODevice* device = &plain;
+    if (file.isStandardInput()) {
+        // It cannot be read twice.
+        QFile input;
+        if (input.open(stdin, QIODevice::ReadOnly))
+            held.setData(input.readAll());
+        device = &held;
+    }
+    if (!device->open(QIODevice::ReadOnly))
+        return refusal(call, file.name, text("cli_002").arg(systemText(device->errorString())));
+    const QByteArray start = device->peek(beginning);
+    if (start.isEmpty() && plain.isOpen() && plain.error() != QFileDevice::NoError)
+        return refusal(call, file.name, text("cli_002").arg(systemText(plain.errorString())));
+    const FileKind kind = kindOf(start);
+    if (kind == FileKind::telemetry)
+        return telemetryFacts(call, file, *device);
+    if (kind == FileKind::tachograph || kind == FileKind::unknown)
+        return {lineOf(call, file, {.kind = kind})};
+    if (device->size() > CSerialize::maxFileSize)
+        return refusal(call, file.name, text("cli_005"));
+    return documentFacts(call, file, kind, device->readAll());
+}
+
+} // namespace
+
+int info(const Call& call, Output& output)
+{
+    return eachFile(
+        call.files, [&](const File& file) { return factsOf(call, file); }, output);
+}
+
+} // namespace workbench::command

@@ -1,0 +1,140 @@
+// r7106: configurations of trackers in scripts, without a display.
+
+#include "command/arguments.h"
+#include "command/commands.h"
+#include "command/file_names.h"
+#include "command/output.h"
+#include "command/pdf/report_pdf.h"
+#include "plugin/base/replace_file.h"
+#include "window/installed_files.h"
+#include "window/languages.h"
+
+#include <QCoreApplication>
+#include <QLibrary>
+#include <QLoggingCategory>
+
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+
+namespace {
+
+using namespace workbench::command;
+using workbench::text;
+
+using Command = int (*)(const Call& call, Output& output);
+
+struct CommandFunction
+{
+    const char* name;
+    Command run;
+};
+
+// A report of its own needs an application of its own.
+constexpr CommandFunction functions[] = {{"check", check}, {"diff", diff}, {"compare", compare},
+                                         {"get", get},     {"set", set},   {"apply", apply},
+                                         {"info", info}};
+
+int run(const Call& call)
+{
+    for (const CommandFunction& function : functions) {
+        if (call.command != QLatin1String(function.name))
+            continue;
+        Output output(call.output);
+        const int status = function.run(call, output);
+        return output.close() ? status : failed;
+    }
+    return failed;
+}
+
+int writeReport(const Call& call, const QByteArray& report)
+{
+    Output output(call.output);
+    output.write(report);
+    return output.close() ? nothing : failed;
+}
+
+bool isPdf(const Call& call)
+{
+    return call.output.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive);
+}
+
+// What is left to be done once the application is gone.
+struct Pdf
+{
+    Call call;
+    QString html;
+    QString library;
+    QString complaint;
+};
+
+int writePdf(const Pdf& pdf, int argc, char** argv)
+{
+    QLibrary library(pdf.library);
+    const auto make = reinterpret_cast<ReportPdf>(library.resolve(reportPdfName));
+    const QByteArray made = make ? make(pdf.html, argc, argv) : QByteArray();
+    if (made.isEmpty()) {
+        writeError(complaint(QStringLiteral("r7106"), pdf.complaint));
+        return failed;
+    }
+    return writeReport(pdf.call, made);
+}
+
+int report(const Call& call, Pdf* pdf)
+{
+    if (!isPdf(call) && !call.output.isEmpty() && call.output != QLatin1String("-") &&
+        !call.output.endsWith(QLatin1String(".html"), Qt::CaseInsensitive)) {
+        writeError(complaint(call.output, text("cli_024")));
+        return failed;
+    }
+    int status = nothing;
+    const QString html = reportHtml(call, &status);
+    if (status == nothing && isPdf(call))
+        *pdf = {call, html, workbench::libraryPath(QStringLiteral("r7106_pdf.so")), text("cli_025")};
+    else if (status == nothing)
+        return writeReport(call, html.toUtf8());
+    return status;
+}
+
+int runWithTexts(int& argc, char** argv, Pdf* pdf)
+{
+    QByteArrayList all;
+    for (int i = 0; i < argc; ++i)
+        all << argv[i];
+    const QCoreApplication application(argc, argv);
+    workbench::Languages languages;
+    const QString language = languageOf(all);
+    languages.set(workbench::Languages::isKnown(language) ? language : workbench::Languages::ofSystem());
+    const Arguments arguments = readArguments(all);
+    if (arguments.end) {
+        if (*arguments.end == failed)
+            writeError(arguments.message);
+        else
+            std::fputs(arguments.message.constData(), stdout);
+        return *arguments.end;
+    }
+    return arguments.call.command == QLatin1String("report") ? report(arguments.call, pdf)
+                                                             : run(arguments.call);
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    // Who has read enough of the output ends the program.
+    std::signal(SIGPIPE, SIG_DFL);
+    for (int i = 1; i < argc; ++i) {
+        if (std::strcmp(argv[i], "--") == 0)
+            break;
+        if (std::strcmp(argv[i], "--version") == 0) {
+            std::puts("r7106 " VLK_VERSION);
+            return nothing;
+        }
+    }
+    // What the core logs, the commands tell.
+    QLoggingCategory::setFilterRules(QStringLiteral("vlk.*=false"));
+    prepareFileNames();
+    Pdf pdf;
+    const int status = runWithTexts(argc, argv, &pdf);
+    return pdf.html.isEmpty() ? status : writePdf(pdf, argc, argv);
+}

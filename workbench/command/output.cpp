@@ -1,0 +1,77 @@
+#include "command/output.h"
+
+#include "command/file_names.h"
+#include "command/json_line.h"
+#include "plugin/base/replace_file.h"
+#include "window/languages.h"
+
+#include <cerrno>
+#include <cstdio>
+
+namespace workbench::command {
+
+Output::Output(const QString& name) : name_(name == QLatin1String("-") ? QString() : name)
+{
+    if (isFile() && !kept_.open())
+        fault_ = kept_.errorString();
+}
+
+void Output::write(const QByteArray& bytes)
+{
+    if (bytes.isEmpty() || !fault_.isEmpty())
+        return;
+    if (isFile()) {
+        if (kept_.write(bytes) != bytes.size())
+            fault_ = kept_.errorString();
+    } else if (std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stdout) !=
+               static_cast<std::size_t>(bytes.size())) {
+        fault_ = qt_error_string(errno);
+    }
+}
+
+bool Output::close()
+{
+    if (!isFile()) {
+        if (fault_.isEmpty() && std::fflush(stdout) != 0)
+            fault_ = qt_error_string(errno);
+    } else if (fault_.isEmpty()) {
+        const auto copy = [this](QIODevice& device) {
+            kept_.seek(0);
+            while (!kept_.atEnd()) {
+                const QByteArray piece = kept_.read(1 << 20);
+                if (piece.isEmpty() || device.write(piece) != piece.size())
+                    return false;
+            }
+            return true;
+        };
+        if (!kept_.flush())
+            fault_ = kept_.errorString();
+        else
+            vlk::replaceFile(name_, copy, &fault_);
+    }
+    if (fault_.isEmpty())
+        return true;
+    writeError(complaint(isFile() ? name_ : QStringLiteral("-"), text("cli_003").arg(systemText(fault_))));
+    return false;
+}
+
+QByteArray complaint(const QString& name, const QString& text)
+{
+    return (inOneLine(name) + QStringLiteral(": ") + text + QLatin1Char('\n')).toUtf8();
+}
+
+QByteArray complaintAsJson(const QString& name, const QString& text)
+{
+    return JsonLine()
+        .add("file", readable(name))
+        .add("kind", QStringLiteral("error"))
+        .add("text", text)
+        .line();
+}
+
+void writeError(const QByteArray& lines)
+{
+    std::fwrite(lines.constData(), 1, static_cast<std::size_t>(lines.size()), stderr);
+}
+
+} // namespace workbench::command

@@ -1,0 +1,33 @@
+#pragma once
+
+// Where a command writes to: standard output, or a file that is there as a whole once the command is through.
+
+#include <QTemporaryFile>
+
+namespace workbench::command {
+
+class Output
+{
+public:
+    // Empty, or "-": standard output.
+    explicit Output(const QString& name);
+
+    void write(const QByteArray& bytes);
+    // Puts the file in its place. False with a complaint when not everything could be written.
+    bool close();
+
+    bool isFile() const { return !name_.isEmpty(); }
+
+private:
+    QString name_;
+    QTemporaryFile kept_;
+    QString fault_;
+};
+
+// A line on standard error, or on standard output for a program that reads: "NAME: TEXT".
+QByteArray complaint(const QString& name, const QString& text);
+QByteArray complaintAsJson(const QString& name, const QString& text);
+
+void writeError(const QByteArray& lines);
+
+} // namespace workbench::command

@@ -1,0 +1,14 @@
+#pragma once
+
+// The library r7106_pdf: what lays out a report, which the command line loads when it is asked for one.
+
+#include <QByteArray>
+#include <QString>
+
+namespace workbench::command {
+
+// Empty where it could not be made. Makes an application for fonts, so that there must be none.
+using ReportPdf = QByteArray (*)(const QString& html, int& argc, char** argv);
+inline constexpr auto reportPdfName = "r7106ReportPdf";
+
+} // namespace workbench::command

@@ -1,0 +1,24 @@
+#pragma once
+
+// What a telemetry file holds, counted. It is read piece by piece, so that memory does not grow with it.
+
+#include "telemetry/files/telemetry_pages.h"
+
+class QIODevice;
+
+namespace workbench::command {
+
+struct TelemetrySummary
+{
+    QString model;
+    qint64 records = 0; // and packets
+    std::optional<quint32> from;
+    std::optional<quint32> to;
+    qint64 gaps = 0; // places at which numbers are missing
+    std::vector<vlk::FileDamage> damages;
+};
+
+// From the device's beginning. None for a binary file that is too large to be held.
+std::optional<TelemetrySummary> summaryOf(QIODevice& device);
+
+} // namespace workbench::command
