@@ -1,6 +1,7 @@
 #include "settings/table_layout.h"
 
 #include <algorithm>
+#include <mutex>
 
 namespace vlk {
 
@@ -105,7 +106,10 @@ QString numberedName(std::string_view name, Numbers numbers)
 
 const TableLayout& layoutOf(const SettingsTable& table)
 {
+    // Many files are read in several threads at once.
+    static std::mutex mutex;
     static std::map<const SettingsTable*, TableLayout> layouts;
+    const std::lock_guard lock(mutex);
     const auto [place, isNew] = layouts.try_emplace(&table);
     if (isNew) {
         TableLayout& layout = place->second;

@@ -68,7 +68,7 @@ struct TableLayout
     int rowAt(const QString& pathBelowSection) const { return byPath.value(pathBelowSection, -1); }
 };
 
-// The layout of a table, made on first use.
+// The layout of a table, made on first use, in whatever thread.
 const TableLayout& layoutOf(const SettingsTable& table);
 
 // A name of a repeated row with its numbers in.

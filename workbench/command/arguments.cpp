@@ -34,7 +34,7 @@ struct CommandRow
 };
 
 constexpr CommandRow commands[] = {
-    {"check", "cli_100", "cli_120", CommandRow::anyFiles, false, false},
+    {"check", "cli_100", "cli_120", CommandRow::anyFiles, true, false},
     {"diff", "cli_101", "cli_121", CommandRow::twoFiles, true, false},
     {"compare", "cli_102", "cli_122", CommandRow::anyFiles, true, false},
     {"get", "cli_103", "cli_123", CommandRow::pathAndFiles, true, false},
@@ -91,16 +91,15 @@ void addOptions(CLI::App& app, const CommandRow& row, Read& read)
 void addCommand(CLI::App& app, const CommandRow& row, Read& read)
 {
     CLI::App* command = app.add_subcommand(row.name, words(row.description));
+    command->group(words("cli_134"));
     command->footer(words(row.example));
     addOptions(*command, row, read);
     if (row.takes == CommandRow::pathAndFiles || row.takes == CommandRow::presetAndFiles)
         command->add_option(row.takes == CommandRow::pathAndFiles ? "PATH" : "PRESET", read.first)
             ->required();
-    const char* files = row.takes == CommandRow::settingsAndFiles ? "PATH=VALUE..., FILE" : "FILE";
-    CLI::Option* option =
-        command->add_option(row.takes == CommandRow::settingsAndFiles ? "ARGUMENT" : "FILE", read.files)
-            ->required()
-            ->option_text(files);
+    const bool isSet = row.takes == CommandRow::settingsAndFiles;
+    CLI::Option* option = command->add_option(isSet ? "ARGUMENT" : "FILE", read.files)->required();
+    option->option_text(isSet ? "PATH=VALUE... FILE..." : row.takes == CommandRow::oneFile ? " " : "...");
     if (row.takes == CommandRow::oneFile)
         option->expected(1);
     else if (row.takes == CommandRow::twoFiles)
@@ -143,6 +142,15 @@ Arguments refused(const QString& reason)
     return {{}, failed, (QStringLiteral("r7106: ") + reason + QLatin1Char('\n') + text("cli_023")).toUtf8()};
 }
 
+// Their heading has no label of its own.
+void translateOptions(CLI::App& app)
+{
+    for (CLI::Option* option : app.get_options()) {
+        if (!option->get_positional())
+            option->group(words("cli_133"));
+    }
+}
+
 void setUp(CLI::App& app, Read& read)
 {
     app.require_subcommand(1);
@@ -161,6 +169,9 @@ void setUp(CLI::App& app, Read& read)
         app.get_formatter()->label(label, words(key));
     for (const CommandRow& row : commands)
         addCommand(app, row, read);
+    translateOptions(app);
+    for (CLI::App* command : app.get_subcommands({}))
+        translateOptions(*command);
 }
 
 } // namespace
@@ -190,7 +201,9 @@ Arguments readArguments(const QByteArrayList& arguments)
         app.parse(left);
     } catch (const CLI::CallForHelp&) {
         const std::vector<CLI::App*> chosen = app.get_subcommands();
-        return {{}, nothing, QByteArray::fromStdString((chosen.empty() ? &app : chosen.front())->help())};
+        return {{},
+                nothing,
+                QByteArray::fromStdString(chosen.empty() ? app.help() : chosen.front()->help("r7106"))};
     } catch (const CLI::ParseError& error) {
         return refused(QString::fromUtf8(error.what()));
     }

@@ -61,7 +61,7 @@ QString inWords(const QString& path, const QStringList& words)
         if (!word.isEmpty() && !told.contains(word))
             told << word;
     }
-    return path + QStringLiteral(": ") + told.join(QStringLiteral(" / "));
+    return told.isEmpty() ? path : path + QStringLiteral(": ") + told.join(QStringLiteral(" / "));
 }
 
 QByteArray linesOf(const Differences& differences, const vlk::Configuration& configuration, const Call& call,

@@ -11,7 +11,6 @@
 
 #include <QCoreApplication>
 #include <QLibrary>
-#include <QLoggingCategory>
 
 #include <csignal>
 #include <cstdio>
@@ -131,8 +130,11 @@ int main(int argc, char* argv[])
             return nothing;
         }
     }
-    // What the core logs, the commands tell.
-    QLoggingCategory::setFilterRules(QStringLiteral("vlk.*=false"));
+    // What is logged, the commands tell in their own words.
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& message) {
+        if (type == QtCriticalMsg || type == QtFatalMsg)
+            writeError(complaint(QStringLiteral("r7106"), message));
+    });
     prepareFileNames();
     Pdf pdf;
     const int status = runWithTexts(argc, argv, &pdf);
