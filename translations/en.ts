@@ -1147,6 +1147,7 @@
 </translation></message>
     <message id="cli_024"><translation>a report ends in .pdf or .html</translation></message>
     <message id="cli_025"><translation>what makes PDF could not be loaded</translation></message>
+    <message id="cli_026"><translation>a file is needed</translation></message>
     <message id="cli_030"><translation>there is no setting %1</translation></message>
     <message id="cli_031"><translation>%1 stands twice</translation></message>
     <message id="cli_032"><translation>%1 has no place in this configuration</translation></message>

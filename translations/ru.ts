@@ -1147,6 +1147,7 @@
 </translation></message>
     <message id="cli_024"><translation>отчёт оканчивается на .pdf или .html</translation></message>
     <message id="cli_025"><translation>не загрузилось то, что делает PDF</translation></message>
+    <message id="cli_026"><translation>нужен файл</translation></message>
     <message id="cli_030"><translation>нет параметра %1</translation></message>
     <message id="cli_031"><translation>%1 стоит дважды</translation></message>
     <message id="cli_032"><translation>для %1 в этой конфигурации нет места</translation></message>

@@ -98,7 +98,7 @@ void addCommand(CLI::App& app, const CommandRow& row, Read& read)
         command->add_option(row.takes == CommandRow::pathAndFiles ? "PATH" : "PRESET", read.first)
             ->required();
     const bool isSet = row.takes == CommandRow::settingsAndFiles;
-    CLI::Option* option = command->add_option(isSet ? "ARGUMENT" : "FILE", read.files)->required();
+    CLI::Option* option = command->add_option(isSet ? "ARGUMENT" : "FILE", read.files);
     option->option_text(isSet ? "PATH=VALUE... FILE..." : row.takes == CommandRow::oneFile ? " " : "...");
     if (row.takes == CommandRow::oneFile)
         option->expected(1);
@@ -106,18 +106,20 @@ void addCommand(CLI::App& app, const CommandRow& row, Read& read)
         option->expected(1, 2);
 }
 
-// Why the files of a command are not those that it takes; empty where they are.
-QString splitFiles(const CommandRow& row, const Read& read, int behindDashes, Call* call)
+// Why the files of a command are not those that it takes; empty where they are. `plain`: what stands behind
+// "--", if it does.
+QString splitFiles(const CommandRow& row, const Read& read, const std::optional<QStringList>& plain,
+                   Call* call)
 {
     QStringList files;
     for (const std::string& file : read.files)
         files << nameOf(file);
+    files += plain.value_or(QStringList());
     if (row.takes == CommandRow::settingsAndFiles) {
         // Up to "--" where it stands, else up to the first without a sign.
         const auto isFile = [](const QString& name) { return !name.contains(QLatin1Char('=')); };
-        const auto settings = behindDashes >= 0
-                                  ? files.size() - behindDashes
-                                  : std::find_if(files.begin(), files.end(), isFile) - files.begin();
+        const auto settings = plain ? files.size() - plain->size()
+                                    : std::find_if(files.begin(), files.end(), isFile) - files.begin();
         for (int i = 0; i < settings; ++i) {
             call->settings << QString::fromUtf8(files[i].toLatin1());
             if (isFile(files[i]))
@@ -133,6 +135,8 @@ QString splitFiles(const CommandRow& row, const Read& read, int behindDashes, Ca
         call->preset = nameOf(read.first);
     if (row.takes == CommandRow::twoFiles && (files.size() == 2) == call->againstDefaults)
         return text("cli_022");
+    if (files.isEmpty())
+        return text("cli_026");
     call->files = files;
     return {};
 }
@@ -192,11 +196,17 @@ Arguments readArguments(const QByteArrayList& arguments)
     Read read;
     CLI::App app(words("cli_001"), "r7106");
     setUp(app, read);
+    const int dashes = arguments.indexOf("--");
+    const int end = dashes < 0 ? arguments.size() : dashes;
     // As the parser takes them, backwards.
     std::vector<std::string> left;
-    for (int i = arguments.size() - 1; i > 0; --i)
+    for (int i = end - 1; i > 0; --i)
         left.push_back(arguments[i].toStdString());
-    const int dashes = arguments.indexOf("--");
+    std::optional<QStringList> plain;
+    if (dashes >= 0)
+        plain.emplace();
+    for (int i = end + 1; i < arguments.size(); ++i)
+        *plain << nameOf(arguments[i].toStdString());
     try {
         app.parse(left);
     } catch (const CLI::CallForHelp&) {
@@ -212,8 +222,7 @@ Arguments readArguments(const QByteArrayList& arguments)
     Arguments result{read.call, {}, {}};
     result.call.command = QString::fromStdString(name);
     result.call.output = nameOf(read.output);
-    const QString reason =
-        splitFiles(*row, read, dashes < 0 ? -1 : arguments.size() - dashes - 1, &result.call);
+    const QString reason = splitFiles(*row, read, plain, &result.call);
     return reason.isEmpty() ? result : refused(reason);
 }
 

@@ -27,9 +27,11 @@ public:
     {
         constexpr vlk::ElementIndex number = vlk::element("NumPage");
         for (const auto& page : contents.pages) {
-            const quint32 time = timeOf(*page);
-            summary_.from = std::min(summary_.from.value_or(time), time);
-            summary_.to = std::max(summary_.to.value_or(time), time);
+            // A record that has no time reads as the beginning of all of them.
+            if (const quint32 time = timeOf(*page); time != 0) {
+                summary_.from = std::min(summary_.from.value_or(time), time);
+                summary_.to = std::max(summary_.to.value_or(time), time);
+            }
             if (page->isExtra())
                 continue;
             const auto now = static_cast<quint32>(page->value<number>());

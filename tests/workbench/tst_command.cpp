@@ -1,0 +1,253 @@
+// The command line, run as a program in a folder of its own.
+
+#include "support/data_table.h"
+#include "support/files.h"
+#include "support/full_disk.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+
+class CommandTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        folder_ = std::make_unique<QTemporaryDir>();
+        QDir(folder_->path()).mkpath("fleet/sub");
+        const QByteArray track =
+            "<DEVICE model='R-7106'><X y='1'/><TRACK><POINTS maxSpeed='90' z='2'/></TRACK>"
+            "</DEVICE>";
+        put("a.xml", track);
+        put("b.xml", QByteArray(track).replace("'90'", "'0100'").replace("y='1'", "y='2'"));
+        put("fleet/1.xml", track);
+        put("fleet/2.xml", QByteArray(track).replace("maxSpeed='90'", "maxSpeed='500'"));
+        put("fleet/3.tmi", "\x01");
+        put("fleet/notes.txt", "no configuration");
+        put("fleet/sub/4.xml", QByteArray(track).replace("maxSpeed='90' ", ""));
+        put("factory.xml", readFile(VLK_SOURCE "/workbench/tracker/factory.xml"));
+        QByteArray telemetry = "<TMI model=\"R-7106\">\r\n";
+        for (const char* record : {"7</NumPage>\r\n<Time>1704067200", "8</NumPage>\r\n<Time>1704067201",
+                                   "10</NumPage>\r\n<Time>1704067500"})
+            telemetry += "<Page type=\"176\" ver=\"30\" format=\"1111\">\r\n<NumPage>" + QByteArray(record) +
+                         "</Time>\r\n</Page>\r\n";
+        put("telemetry.xml", telemetry + "</TMI>\r\n");
+        put("cut.xml", track.left(60));
+        put("secret.xml", "<DEVICE><TRANS><AP1 pass='geheim'/></TRANS></DEVICE>");
+        put("good.xml", "<DEVICE creator='preset'><TRACK><POINTS maxSpeed='80'/></TRACK></DEVICE>");
+        put("bad.xml", "<DEVICE creator='preset'><TRACK><POINTS maxSpeed='80' bend='1'/></TRACK></DEVICE>");
+    }
+
+    void tells_data()
+    {
+        const QByteArray words =
+            R"("path":"TRACK/POINTS/maxSpeed","page":"Track","group":"Always record a track point",)"
+            R"("caption":"Speed threshold",)";
+        const DataTable<QString, int, QByteArray, QByteArray> table({"call", "status", "told", "complaints"});
+        table.row("version", "--version", 0, "r7106 3.3.0\n", "")
+            .row("no command", "", 2, "", "r7106: A subcommand is required\nHelp: r7106 --help\n")
+            .row("nothing to tell", "check factory.xml telemetry.xml/..//factory.xml", 2, "",
+                 "telemetry.xml/..//factory.xml: cannot be read: Not a directory\n")
+            .row("a folder", "get TRACK/POINTS/maxSpeed fleet", 2,
+                 "fleet/1.xml: 90\nfleet/2.xml: 500\nfleet/sub/4.xml: 100\n",
+                 "fleet/3.tmi: is not a configuration\n")
+            .row("standard input", "get TRACK/POINTS/maxSpeed -", 0, "90\n", "")
+            .row("a default", "get --json TRACK/POINTS/maxSpeed fleet/sub/4.xml", 0,
+                 R"({"file":"fleet/sub/4.xml","path":"TRACK/POINTS/maxSpeed","value":"100",)"
+                 R"("text":"100 km/h","lacking":true})"
+                 "\n",
+                 "")
+            .row("a secret", "get TRANS/AP1/pass secret.xml", 0, "•••\n", "")
+            .row("a secret on demand", "get --secrets TRANS/AP1/pass secret.xml", 0, "geheim\n", "")
+            .row("no such path", "get TRACK/POINTS/bend a.xml", 2, "",
+                 "r7106: there is no setting TRACK/POINTS/bend\n")
+            .row("differences", "diff --json a.xml b.xml", 1,
+                 '{' + words +
+                     R"("before":"90","after":"100","beforeText":"90 km/h","afterText":"100 km/h"})"
+                     "\n"
+                     R"({"path":"X/y","page":null,"group":"X","caption":"y","before":"1","after":"2",)"
+                     R"("beforeText":"1","afterText":"2"})"
+                     "\n",
+                 "")
+            .row("no differences", "diff a.xml fleet/1.xml", 0, "", "")
+            .row(
+                "a side that lacks the key", "diff a.xml fleet/sub/4.xml", 1,
+                "TRACK/POINTS/maxSpeed: Track / Always record a track point / Speed threshold: 90 km/h → –\n",
+                "")
+            .row("differences in what is cut", "diff a.xml cut.xml", 2, "",
+                 "cut.xml: is cut short in line 1\n")
+            .row(
+                "a fleet", "compare --json a.xml b.xml fleet/1.xml fleet/sub/4.xml", 1,
+                R"({"path":"TRACK/POINTS/maxSpeed","caption":"Speed threshold","values":)"
+                R"({"90":["a.xml","fleet/1.xml"],"100":["b.xml"]},"lacking":["fleet/sub/4.xml"],"most":"90"})"
+                "\n"
+                R"({"path":"X/y","caption":"y","values":{"1":["a.xml","fleet/1.xml","fleet/sub/4.xml"],)"
+                R"("2":["b.xml"]},"lacking":[],"most":"1"})"
+                "\n",
+                "")
+            .row("kinds", "info --json a.xml telemetry.xml fleet/notes.txt", 0,
+                 R"({"file":"a.xml","what":"configuration","model":"R-7106","records":null,"from":null,)"
+                 R"("to":null,"gaps":null})"
+                 "\n"
+                 R"({"file":"telemetry.xml","what":"telemetry","model":"R-7106","records":3,)"
+                 R"("from":"2024-01-01T00:00:00Z","to":"2024-01-01T00:05:00Z","gaps":1})"
+                 "\n"
+                 R"({"file":"fleet/notes.txt","what":"unknown","model":null,"records":null,"from":null,)"
+                 R"("to":null,"gaps":null})"
+                 "\n",
+                 "")
+            .row("no report", "report a.xml -o a.doc", 2, "", "a.doc: a report ends in .pdf or .html\n");
+    }
+    void tells()
+    {
+        QFETCH(QString, call);
+        const auto [status, told, complaints] =
+            run(call.split(' ', Qt::SkipEmptyParts), readFile(path("a.xml")));
+        QTEST(told, "told");
+        QTEST(complaints, "complaints");
+        QTEST(status, "status");
+    }
+
+    // Each file is told once, the others are done, and what cannot be changed stays as it is.
+    void edits_data()
+    {
+        const QByteArray a =
+            "<DEVICE model='R-7106'><X y='1'/><TRACK><POINTS maxSpeed='90' z='2'/></TRACK></DEVICE>";
+        const QByteArray changed = QByteArray(a).replace("'90'", "'80'");
+        const QByteArray words =
+            "TRACK/POINTS/maxSpeed: Track / Always record a track point / Speed threshold: ";
+        const DataTable<QString, int, QByteArray, QByteArray, QByteArray> table(
+            {"call", "status", "told", "complaints", "after"});
+        table
+            .row("a value", "set TRACK/POINTS/maxSpeed=80 a.xml", 0,
+                 "a.xml: " + words + "90 km/h → 80 km/h\n", "", changed)
+            .row("tried out", "set --dry-run TRACK/POINTS/maxSpeed=80 a.xml", 1,
+                 "a.xml: " + words + "90 km/h → 80 km/h\n", "", a)
+            .row("the same value", "set TRACK/POINTS/maxSpeed=090 a.xml", 0, "", "", a)
+            .row("out of range, and a file that is cut", "set TRACK/POINTS/maxSpeed=800 a.xml cut.xml", 2, "",
+                 "a.xml: TRACK/POINTS/maxSpeed: 800 is out of range\ncut.xml: is cut short in line 1\n", a)
+            .row("behind dashes", "set TRACK/POINTS/maxSpeed=80 -- a.xml", 0,
+                 "a.xml: " + words + "90 km/h → 80 km/h\n", "", changed)
+            .row("no setting", "set a.xml", 2, "",
+                 "r7106: settings and files are needed: PATH=VALUE... FILE...\nHelp: r7106 --help\n", a)
+            .row("a preset", "apply good.xml a.xml fleet/1.xml", 0,
+                 "a.xml: " + words + "90 km/h → 80 km/h\nfleet/1.xml: " + words + "90 km/h → 80 km/h\n", "",
+                 changed)
+            .row("a preset that is wrong", "apply bad.xml a.xml", 2, "",
+                 "bad.xml: there is no setting TRACK/POINTS/bend\n", a)
+            .row("through a pipe", "set TRACK/POINTS/maxSpeed=80 -", 0, changed,
+                 "-: " + words + "90 km/h → 80 km/h\n", a);
+    }
+    void edits()
+    {
+        QFETCH(QString, call);
+        const auto [status, told, complaints] = run(call.split(' '), readFile(path("a.xml")));
+        QTEST(told, "told");
+        QTEST(complaints, "complaints");
+        QTEST(status, "status");
+        QTEST(readFile(path("a.xml")), "after");
+    }
+
+    void closedAndFull()
+    {
+        const QByteArray before = readFile(path("b.xml"));
+        QFile::setPermissions(path("a.xml"), QFile::ReadOwner | QFile::ReadGroup);
+        const QStringList call{"set", "TRACK/POINTS/maxSpeed=80", "a.xml", "b.xml"};
+        auto [status, told, complaints] = run(call);
+        QCOMPARE(status, 2);
+        QCOMPARE(complaints, QByteArray("a.xml: cannot be written: Permission denied\n"));
+        QVERIFY(told.startsWith("b.xml: ") && readFile(path("b.xml")) != before);
+
+        put("b.xml", before);
+        const FullDisk full(40);
+        std::tie(status, told, complaints) = run(call);
+        QCOMPARE(status, 2);
+        QVERIFY2(complaints.contains("b.xml: cannot be written: "), complaints.constData());
+        QCOMPARE(readFile(path("b.xml")), before);
+        QCOMPARE(QDir(folder_->path()).entryList(QDir::Files | QDir::Hidden).filter("b.xml"),
+                 QStringList("b.xml"));
+    }
+
+    // Names are bytes: of any encoding, and with line breaks.
+    void names()
+    {
+        const QByteArray odd = QFile::encodeName(folder_->path()) + "/fleet/sub/\xFF\n.xml";
+        FILE* file = std::fopen(odd.constData(), "w");
+        QVERIFY(file && std::fputs("<DEVICE/>", file) > 0 && std::fclose(file) == 0);
+        QCOMPARE(std::get<1>(run({"info", "fleet/sub"})),
+                 QByteArray("fleet/sub/4.xml: configuration, R-7106\nfleet/sub/%FF%0A.xml: configuration\n"));
+        const auto [status, told, complaints] =
+            run({"set", "--json", "TRACK/POINTS/maxSpeed=80", "fleet/sub"});
+        std::remove(odd.constData());
+        QVERIFY2(status == 0 && told.contains(R"("file":"fleet/sub/%FF\n.xml")"),
+                 (told + complaints).constData());
+    }
+
+    // As in the order given, whatever is ready first; the reader may have enough.
+    void manyFiles()
+    {
+        QDir(folder_->path()).mkpath("many");
+        for (int i = 1000; i < 1400; ++i) {
+            const QByteArray name = "many/" + QByteArray::number(i) + ".xml";
+            put(name, i % 7 == 0 ? QByteArray("<DEVICE>") : readFile(path("factory.xml")));
+        }
+        const auto [status, told, complaints] = run({"get", "TRACK/POINTS/maxSpeed", "many"});
+        QCOMPARE(status, 2);
+        QCOMPARE(told.count("\n"), 343);
+        QVERIFY(isSorted(told));
+        QCOMPARE(complaints.count(": is cut short in line 1\n"), 57);
+
+        QProcess shell;
+        shell.setWorkingDirectory(folder_->path());
+        shell.start("sh", {"-c", "for i in 1 2 3 4 5 6 7 8 9; do echo many; done | xargs " VLK_COMMAND
+                                 " --language en info 2>errors | head -n 1; wc -c < errors"});
+        QVERIFY(shell.waitForFinished());
+        QVERIFY(shell.readAllStandardOutput().startsWith("many/1000.xml: configuration, R-7106\n"));
+    }
+
+    void reports()
+    {
+        QCOMPARE(std::get<0>(run({"report", "factory.xml", "-o", "r.html"})), 0);
+        const QByteArray html = readFile(path("r.html"));
+        QVERIFY(html.contains("<p>File: factory.xml</p>") && html.contains("<h2>Track</h2>"));
+        QVERIFY(!std::get<1>(run({"report", "secret.xml"})).contains("geheim"));
+        QVERIFY(std::get<1>(run({"report", "--changed", "--secrets", "secret.xml"})).contains(">geheim<"));
+        QCOMPARE(std::get<0>(run({"report", "factory.xml", "-o", "r.pdf"})), 0);
+        QVERIFY(readFile(path("r.pdf")).startsWith("%PDF-"));
+    }
+
+private:
+    static bool isSorted(const QByteArray& lines)
+    {
+        const QByteArrayList list = lines.trimmed().split('\n');
+        return std::is_sorted(list.begin(), list.end());
+    }
+    QString path(const QString& name) const { return folder_->filePath(name); }
+    void put(const QString& name, const QByteArray& content) const { writeFile(path(name), content); }
+
+    std::tuple<int, QByteArray, QByteArray> run(const QStringList& arguments,
+                                                const QByteArray& input = {}) const
+    {
+        QProcess process;
+        process.setWorkingDirectory(folder_->path());
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("LC_ALL", "C.UTF-8");
+        process.setProcessEnvironment(environment);
+        process.start(VLK_COMMAND, arguments);
+        process.write(input);
+        process.closeWriteChannel();
+        if (!process.waitForFinished())
+            return {-1, {}, process.errorString().toUtf8()};
+        return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+    }
+
+    std::unique_ptr<QTemporaryDir> folder_;
+};
+
+QTEST_GUILESS_MAIN(CommandTest)
+#include "tst_command.moc"
