@@ -20,7 +20,7 @@ namespace {
 QString withoutNumbers(const QString& path)
 {
     static const QRegularExpression number(QStringLiteral("\\[\\d+\\]"));
-    return QString(path).remove(number);
+    return path.contains(QLatin1Char('[')) ? QString(path).remove(number) : path;
 }
 
 class FileCheck
@@ -29,7 +29,7 @@ public:
     FileCheck(CXmlSection& root, Secrets secrets) : root_(root), secrets_(secrets)
     {
         loaded_.read(root);
-        differences_ = {FileState::ofDocument(root), FileState::ofConfiguration(loaded_)};
+        differences_ = {FileState::ofDocument(root, loaded_), FileState::ofConfiguration(loaded_)};
         for (Difference& difference : differences_.all())
             changed_.insert(difference.path, difference);
     }

@@ -77,12 +77,16 @@ FileState FileState::ofDefaults(const Configuration& configuration)
 
 FileState FileState::ofDocument(CXmlSection& root)
 {
-    FileState state;
     if (!root.document())
-        return state;
+        return {};
     Configuration loaded(allSettings());
     loaded.read(root);
-    state = ofConfiguration(loaded);
+    return ofDocument(root, loaded);
+}
+
+FileState FileState::ofDocument(CXmlSection& root, const Configuration& loaded)
+{
+    FileState state = ofConfiguration(loaded);
     state.kind_ = Kind::document;
     for (Held& held : state.held_) {
         held.isThere = false;

@@ -43,6 +43,8 @@ public:
     // The document as it stands; `root` is its element DEVICE. Of one that could not be read nothing is
     // there.
     static FileState ofDocument(CXmlSection& root);
+    // The same where it has been loaded already.
+    static FileState ofDocument(CXmlSection& root, const Configuration& loaded);
     // What a save writes now.
     static FileState ofConfiguration(const Configuration& configuration);
     // What the keys that a save writes now would read as if they were missing.

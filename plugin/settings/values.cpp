@@ -1,6 +1,7 @@
 #include "settings/values.h"
 
 #include <algorithm>
+#include <map>
 
 namespace vlk {
 
@@ -15,9 +16,37 @@ bool isMet(const When& condition, const QString& value)
 
 } // namespace
 
-Values::Values(const SettingsTable& table) : layout_(&layoutOf(table)), values_(layout_->rows.size())
+Values::Values(const SettingsTable& table) : layout_(&layoutOf(table))
+{
+    // Making them takes longer than reading a file, and most are the same each time.
+    struct Made
+    {
+        std::vector<QString> values;
+        std::vector<int> following; // rows whose defaults follow the language or the model
+        QStringList texts;          // their defaults then
+    };
+    static thread_local std::map<const SettingsTable*, Made> tables;
+    const auto [place, isNew] = tables.try_emplace(&table);
+    Made& made = place->second;
+    for (int row = 0; isNew && row < count(); ++row) {
+        if (const auto* text = setting(row).as<Text>(); text && (text->load.key || text->load.namesModel))
+            made.following.push_back(row);
+    }
+    QStringList texts;
+    for (const int row : made.following)
+        texts << loadDefault(setting(row));
+    if (isNew || made.texts != texts) {
+        makeAll();
+        made.values = values_;
+        made.texts = texts;
+    }
+    values_ = made.values;
+}
+
+void Values::makeAll()
 {
     // A choice that keeps its value and a row that a reset leaves alone start at their load defaults.
+    values_.resize(layout_->rows.size());
     for (int row = 0; row < count(); ++row)
         values_[row] = loadDefault(setting(row));
     reset();

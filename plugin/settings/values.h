@@ -25,7 +25,7 @@ public:
 
     const SettingsTable& table() const { return *layout_->table; }
     const TableLayout& layout() const { return *layout_; }
-    int count() const { return static_cast<int>(values_.size()); }
+    int count() const { return static_cast<int>(layout_->rows.size()); }
     // -1 for a path that the table has not.
     int rowAt(const QString& path) const { return layout_->rowAt(path); }
     const TableLayout::Row& row(int row) const { return layout_->rows[row]; }
@@ -73,6 +73,7 @@ private:
     using SharedList = TableLayout::SharedList;
     using Changes = std::vector<int>; // rows, each once
 
+    void makeAll();
     bool holds(const When& condition) const;
     bool holdsAll(std::span<const When> conditions) const;
     bool holdsBoth(const auto& rule) const { return holds(rule.when) && holds(rule.also); }

@@ -33,7 +33,7 @@ Setting settingAt(int key, vlk::XmlDocument& document, const Call& call)
 {
     vlk::Configuration configuration(vlk::allSettings());
     configuration.read(*document.root());
-    const Held held = FileState::ofDocument(*document.root()).at(key);
+    const Held held = FileState::ofDocument(*document.root(), configuration).at(key);
     const Held missing = FileState::ofDefaults(configuration).at(key);
     const vlk::review::FileKey& place = FileKeys::all()[key];
     const int row = held.isThere ? held.row : missing.isThere ? missing.row : place.rows.front();

@@ -25,7 +25,7 @@ QString html(const Call& call, vlk::XmlDocument& document)
 {
     vlk::Configuration configuration(vlk::allSettings());
     configuration.read(*document.root());
-    const FileState state = FileState::ofDocument(*document.root());
+    const FileState state = FileState::ofDocument(*document.root(), configuration);
 
     vlk::review::Report report;
     const QString name = configuration.value(QStringLiteral("TRANS/OBJECT/name"));

@@ -35,9 +35,9 @@ public:
             if (page->isExtra())
                 continue;
             const auto now = static_cast<quint32>(page->value<number>());
-            if (before_ && now != *before_ && now != *before_ + 1)
-                ++summary_.gaps;
+            summary_.gaps += isBehind_ && now != before_ && now != before_ + 1;
             before_ = now;
+            isBehind_ = true;
         }
         summary_.records += static_cast<qint64>(contents.pages.size());
         for (vlk::FileDamage damage : contents.damages) {
@@ -48,7 +48,8 @@ public:
 
 private:
     TelemetrySummary& summary_;
-    std::optional<quint32> before_;
+    bool isBehind_ = false; // another record
+    quint32 before_ = 0;
 };
 
 QString modelOf(const QByteArray& start)
