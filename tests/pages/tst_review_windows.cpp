@@ -1,6 +1,7 @@
 // Undo and redo, the panel of differences and finding a setting, over the whole dialog.
 
 #include "dialog/config_pages.h"
+#include "dialog/difference_model.h"
 #include "dialog/widget_config.h"
 #include "dialog/widget_config_full.h"
 #include "link/messages.h"
@@ -211,7 +212,60 @@ private Q_SLOTS:
         QVERIFY(dialog_->isVisible());
     }
 
+    // What the panels list is what the command line tells of the same files.
+    void commandLineAgrees()
+    {
+        const QTemporaryDir folder;
+        const QString factory = QStringLiteral(VLK_SOURCE "/fuzz/corpus/settings/factory.xml");
+        const auto changed = [&](const char* name, const QByteArray& server, const QByteArray& speed) {
+            return writeFile(folder.filePath(name), readFile(factory)
+                                                        .replace("port=\"4000\"", server)
+                                                        .replace("maxSpeed=\"90\"", "maxSpeed=" + speed));
+        };
+        const QString bad = changed("bad.xml", "port=\"0\" x=\"1\"", "\"900\" maxSpeed2=\"1\"");
+        const QString good = changed("good.xml", "port=\"0\"", "\"70\"");
+        const auto shown = [&] {
+            QStringList paths;
+            auto* model =
+                qobject_cast<vlk::DifferenceModel*>(child<QTableView>("tableView_Differences")->model());
+            for (int line = 0; line < model->rowCount(); ++line)
+                paths << model->at(line).path;
+            paths.sort();
+            return paths;
+        };
+        open(bad);
+        QTest::keyClick(dialog_.get(), Qt::Key_D, Qt::ControlModifier);
+        QCOMPARE(toldPaths({"check", bad}, "finding"), shown());
+        QCOMPARE(shown().size(), 3);
+        QStringList advice;
+        for (const vlk::review::Finding& finding : dialog_->review().advice())
+            advice << (finding.mends.empty() ? finding.paths.first() : finding.mends.front().path);
+        advice.sort();
+        QCOMPARE(toldPaths({"check", bad}, "advice"), advice);
+        QVERIFY(!advice.isEmpty());
+
+        open(good);
+        QVERIFY(dialog_->review().compareWith(vlk::ConfigurationReview::Against::otherFile, factory));
+        QCOMPARE(toldPaths({"diff", factory, good}, {}), shown());
+        QCOMPARE(shown().size(), 2);
+    }
+
 private:
+    static QStringList toldPaths(const QStringList& call, const QString& kind)
+    {
+        QProcess program;
+        program.start(VLK_COMMAND, call + QStringList("--json"));
+        QStringList paths;
+        if (program.waitForFinished()) {
+            for (const QByteArray& line : program.readAllStandardOutput().split('\n')) {
+                const QJsonObject told = QJsonDocument::fromJson(line).object();
+                if (!told.isEmpty() && told["kind"].toString() == kind)
+                    paths << told["path"].toString();
+            }
+        }
+        paths.sort();
+        return paths;
+    }
     void open(const QString& path, int full = 1)
     {
         vlk::OpenRequest request{.showFull = full, .fromFile = 1, .path = {}};
