@@ -1141,13 +1141,14 @@
     <message id="cli_012"><translation>is not a configuration</translation></message>
     <message id="cli_013"><translation>is too large a telemetry file</translation></message>
     <message id="cli_020"><translation>%1 is not PATH=VALUE</translation></message>
-    <message id="cli_021"><translation>settings and files are needed: PATH=VALUE... FILE...</translation></message>
+    <message id="cli_021"><translation>settings and files are needed: PATH=VALUE… FILE…</translation></message>
     <message id="cli_022"><translation>two files are needed, or --defaults and one file</translation></message>
     <message id="cli_023"><translation>Help: r7106 --help
 </translation></message>
     <message id="cli_024"><translation>a report ends in .pdf or .html</translation></message>
     <message id="cli_025"><translation>what makes PDF could not be loaded</translation></message>
     <message id="cli_026"><translation>a file is needed</translation></message>
+    <message id="cli_027"><translation>one file is needed</translation></message>
     <message id="cli_030"><translation>there is no setting %1</translation></message>
     <message id="cli_031"><translation>%1 stands twice</translation></message>
     <message id="cli_032"><translation>%1 has no place in this configuration</translation></message>
@@ -1203,32 +1204,9 @@
     <message id="cli_116"><translation>Changed settings only</translation></message>
     <message id="cli_117"><translation>As CSV</translation></message>
     <message id="cli_118"><translation>The report: .pdf, .html or - for standard output</translation></message>
-    <message id="cli_120"><translation>Examples:
-  r7106 check fleet
-  r7106 check --json fleet &gt; findings.ndjson</translation></message>
-    <message id="cli_121"><translation>Examples:
-  r7106 diff before.xml after.xml
-  r7106 diff --defaults truck.xml</translation></message>
-    <message id="cli_122"><translation>Example:
-  r7106 compare --csv -o fleet.csv fleet</translation></message>
-    <message id="cli_123"><translation>Example:
-  r7106 get TRANS/SRV1/addr fleet</translation></message>
-    <message id="cli_124"><translation>Examples:
-  r7106 set --dry-run TRACK/POINTS/maxSpeed=90 fleet
-  r7106 set TRANS/SRV1/addr=tracking.example TRANS/SRV1/port=5000 truck.xml</translation></message>
-    <message id="cli_125"><translation>Example:
-  r7106 apply --dry-run winter.xml fleet</translation></message>
-    <message id="cli_126"><translation>Example:
-  r7106 report truck.xml -o truck.pdf</translation></message>
-    <message id="cli_127"><translation>Example:
-  r7106 info --json archive</translation></message>
-    <message id="cli_128"><translation>Examples:
-  r7106 check fleet
-  r7106 diff before.xml after.xml
-  r7106 set --help
-
-FILE may be a folder: its *.xml and *.tmi are taken. - is standard input.
-Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the call could not be handled.</translation></message>
+    <message id="cli_120"><translation>Examples:</translation></message>
+    <message id="cli_128"><translation>FILE may be a folder: its *.xml and *.tmi are taken. - is standard input.
+Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the command could not be handled.</translation></message>
     <message id="cli_130"><translation>Usage</translation></message>
     <message id="cli_131"><translation>OPTIONS</translation></message>
     <message id="cli_132"><translation>COMMAND</translation></message>

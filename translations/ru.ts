@@ -1141,13 +1141,14 @@
     <message id="cli_012"><translation>это не конфигурация</translation></message>
     <message id="cli_013"><translation>слишком большой файл телеметрии</translation></message>
     <message id="cli_020"><translation>%1 не имеет вида ПУТЬ=ЗНАЧЕНИЕ</translation></message>
-    <message id="cli_021"><translation>нужны параметры и файлы: ПУТЬ=ЗНАЧЕНИЕ... ФАЙЛ...</translation></message>
+    <message id="cli_021"><translation>нужны параметры и файлы: ПУТЬ=ЗНАЧЕНИЕ… ФАЙЛ…</translation></message>
     <message id="cli_022"><translation>нужны два файла или --defaults и один файл</translation></message>
     <message id="cli_023"><translation>Справка: r7106 --help
 </translation></message>
     <message id="cli_024"><translation>отчёт оканчивается на .pdf или .html</translation></message>
     <message id="cli_025"><translation>не загрузилось то, что делает PDF</translation></message>
     <message id="cli_026"><translation>нужен файл</translation></message>
+    <message id="cli_027"><translation>нужен один файл</translation></message>
     <message id="cli_030"><translation>нет параметра %1</translation></message>
     <message id="cli_031"><translation>%1 стоит дважды</translation></message>
     <message id="cli_032"><translation>для %1 в этой конфигурации нет места</translation></message>
@@ -1203,33 +1204,10 @@
     <message id="cli_116"><translation>Только изменённые параметры</translation></message>
     <message id="cli_117"><translation>В виде CSV</translation></message>
     <message id="cli_118"><translation>Отчёт: .pdf, .html или - для стандартного вывода</translation></message>
-    <message id="cli_120"><translation>Примеры:
-  r7106 check fleet
-  r7106 check --json fleet &gt; findings.ndjson</translation></message>
-    <message id="cli_121"><translation>Примеры:
-  r7106 diff before.xml after.xml
-  r7106 diff --defaults truck.xml</translation></message>
-    <message id="cli_122"><translation>Пример:
-  r7106 compare --csv -o fleet.csv fleet</translation></message>
-    <message id="cli_123"><translation>Пример:
-  r7106 get TRANS/SRV1/addr fleet</translation></message>
-    <message id="cli_124"><translation>Примеры:
-  r7106 set --dry-run TRACK/POINTS/maxSpeed=90 fleet
-  r7106 set TRANS/SRV1/addr=tracking.example TRANS/SRV1/port=5000 truck.xml</translation></message>
-    <message id="cli_125"><translation>Пример:
-  r7106 apply --dry-run winter.xml fleet</translation></message>
-    <message id="cli_126"><translation>Пример:
-  r7106 report truck.xml -o truck.pdf</translation></message>
-    <message id="cli_127"><translation>Пример:
-  r7106 info --json archive</translation></message>
-    <message id="cli_128"><translation>Примеры:
-  r7106 check fleet
-  r7106 diff before.xml after.xml
-  r7106 set --help
-
-FILE может быть папкой: берутся её *.xml и *.tmi. - это стандартный ввод.
-Код возврата: 0 сказать нечего, 1 есть замечания или отличия, 2 файл или вызов не обработан.</translation></message>
-    <message id="cli_130"><translation>Вызов</translation></message>
+    <message id="cli_120"><translation>Примеры:</translation></message>
+    <message id="cli_128"><translation>FILE может быть папкой: берутся её *.xml и *.tmi. - это стандартный ввод.
+Код возврата: 0 сказать нечего, 1 есть замечания или отличия, 2 файл или команда не обработаны.</translation></message>
+    <message id="cli_130"><translation>Запуск</translation></message>
     <message id="cli_131"><translation>ПАРАМЕТРЫ</translation></message>
     <message id="cli_132"><translation>КОМАНДА</translation></message>
     <message id="cli_133"><translation>Параметры</translation></message>

@@ -134,7 +134,7 @@ private Q_SLOTS:
             .row("behind dashes", "set TRACK/POINTS/maxSpeed=80 -- a.xml", 0,
                  "a.xml: " + words + "90 km/h → 80 km/h\n", "", changed)
             .row("no setting", "set a.xml", 2, "",
-                 "r7106: settings and files are needed: PATH=VALUE... FILE...\nHelp: r7106 --help\n", a)
+                 "r7106: settings and files are needed: PATH=VALUE… FILE…\nHelp: r7106 --help\n", a)
             .row("a preset", "apply good.xml a.xml fleet/1.xml", 0,
                  "a.xml: " + words + "90 km/h → 80 km/h\nfleet/1.xml: " + words + "90 km/h → 80 km/h\n", "",
                  changed)

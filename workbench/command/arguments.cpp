@@ -20,7 +20,7 @@ struct CommandRow
 {
     const char* name;
     const char* description;
-    const char* example; // below its help
+    const char* examples; // below its help
     enum Takes {
         anyFiles,
         twoFiles, // or one with --defaults
@@ -34,15 +34,26 @@ struct CommandRow
 };
 
 constexpr CommandRow commands[] = {
-    {"check", "cli_100", "cli_120", CommandRow::anyFiles, true, false},
-    {"diff", "cli_101", "cli_121", CommandRow::twoFiles, true, false},
-    {"compare", "cli_102", "cli_122", CommandRow::anyFiles, true, false},
-    {"get", "cli_103", "cli_123", CommandRow::pathAndFiles, true, false},
-    {"set", "cli_104", "cli_124", CommandRow::settingsAndFiles, true, true},
-    {"apply", "cli_105", "cli_125", CommandRow::presetAndFiles, true, true},
-    {"report", "cli_106", "cli_126", CommandRow::oneFile, true, false},
-    {"info", "cli_107", "cli_127", CommandRow::anyFiles, false, false},
+    {"check", "cli_100", "  r7106 check fleet\n  r7106 check --json fleet > findings.ndjson",
+     CommandRow::anyFiles, true, false},
+    {"diff", "cli_101", "  r7106 diff before.xml after.xml\n  r7106 diff --defaults truck.xml",
+     CommandRow::twoFiles, true, false},
+    {"compare", "cli_102", "  r7106 compare --csv -o fleet.csv fleet", CommandRow::anyFiles, true, false},
+    {"get", "cli_103", "  r7106 get TRANS/SRV1/addr fleet", CommandRow::pathAndFiles, true, false},
+    {"set", "cli_104",
+     "  r7106 set --dry-run TRACK/POINTS/maxSpeed=90 fleet\n  r7106 set TRANS/SRV1/addr=tracking.example.com "
+     "TRANS/SRV1/port=5000 truck.xml",
+     CommandRow::settingsAndFiles, true, true},
+    {"apply", "cli_105", "  r7106 apply --dry-run winter.xml fleet\n  r7106 apply winter.xml fleet",
+     CommandRow::presetAndFiles, true, true},
+    {"report", "cli_106", "  r7106 report truck.xml -o truck.pdf", CommandRow::oneFile, true, false},
+    {"info", "cli_107", "  r7106 info --json archive", CommandRow::anyFiles, false, false},
 };
+
+std::string withExamples(const char* examples)
+{
+    return words("cli_120") + '\n' + examples;
+}
 
 // What the options are read into.
 struct Read
@@ -92,18 +103,14 @@ void addCommand(CLI::App& app, const CommandRow& row, Read& read)
 {
     CLI::App* command = app.add_subcommand(row.name, words(row.description));
     command->group(words("cli_134"));
-    command->footer(words(row.example));
+    command->footer(withExamples(row.examples));
     addOptions(*command, row, read);
     if (row.takes == CommandRow::pathAndFiles || row.takes == CommandRow::presetAndFiles)
         command->add_option(row.takes == CommandRow::pathAndFiles ? "PATH" : "PRESET", read.first)
             ->required();
     const bool isSet = row.takes == CommandRow::settingsAndFiles;
     CLI::Option* option = command->add_option(isSet ? "ARGUMENT" : "FILE", read.files);
-    option->option_text(isSet ? "PATH=VALUE... FILE..." : row.takes == CommandRow::oneFile ? " " : "...");
-    if (row.takes == CommandRow::oneFile)
-        option->expected(1);
-    else if (row.takes == CommandRow::twoFiles)
-        option->expected(1, 2);
+    option->option_text(isSet ? "PATH=VALUE... FILE..." : "...");
 }
 
 // Why the files of a command are not those that it takes; empty where they are. `plain`: what stands behind
@@ -133,8 +140,10 @@ QString splitFiles(const CommandRow& row, const Read& read, const std::optional<
         call->settings << QString::fromUtf8(read.first.c_str());
     if (row.takes == CommandRow::presetAndFiles)
         call->preset = nameOf(read.first);
-    if (row.takes == CommandRow::twoFiles && (files.size() == 2) == call->againstDefaults)
+    if (row.takes == CommandRow::twoFiles && files.size() != (call->againstDefaults ? 1 : 2))
         return text("cli_022");
+    if (row.takes == CommandRow::oneFile && files.size() != 1)
+        return text("cli_027");
     if (files.isEmpty())
         return text("cli_026");
     call->files = files;
@@ -158,7 +167,9 @@ void translateOptions(CLI::App& app)
 void setUp(CLI::App& app, Read& read)
 {
     app.require_subcommand(1);
-    app.footer(words("cli_128"));
+    app.footer(
+        withExamples("  r7106 check fleet\n  r7106 diff before.xml after.xml\n  r7106 set --help\n\n") +
+        words("cli_128"));
     app.set_help_flag("-h,--help", words("cli_108"));
     // Told by the program before anything else, here for the help.
     app.add_flag("--version", read.isVersion, words("cli_109"));
