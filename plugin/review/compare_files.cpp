@@ -19,29 +19,37 @@ QByteArray configurationText(const QString& path)
     return reader.readNextStartElement() && reader.name() == QLatin1String("DEVICE") ? text : QByteArray();
 }
 
+ComparedFiles comparedFiles(const QString& before, const QString& after)
+{
+    const QString device = QStringLiteral("DEVICE");
+    ComparedFiles files{Comparison::done, Configuration(allSettings())};
+    XmlDocument right(configurationText(after), device);
+    if (!right.isOpen()) {
+        files.outcome = Comparison::afterUnreadable;
+        return files;
+    }
+    files.after.read(*right.root());
+    if (before.isNull()) {
+        files.differences = {FileState::ofDefaults(files.after), FileState::ofConfiguration(files.after)};
+        return files;
+    }
+    XmlDocument left(configurationText(before), device);
+    if (left.isOpen())
+        files.differences = {FileState::ofDocument(*left.root()), FileState::ofDocument(*right.root())};
+    else
+        files.outcome = Comparison::beforeUnreadable;
+    return files;
+}
+
 Comparison compareFiles(const QString& before, const QString& after, Secrets secrets,
                         const std::function<void(const Difference&, const DifferenceText&)>& take)
 {
-    const QString device = QStringLiteral("DEVICE");
-    XmlDocument right(configurationText(after), device);
-    if (!right.isOpen())
-        return Comparison::afterUnreadable;
-    Configuration loaded(allSettings());
-    loaded.read(*right.root());
-    Differences differences;
-    if (before.isNull()) {
-        differences = {FileState::ofDefaults(loaded), FileState::ofConfiguration(loaded)};
-    } else {
-        XmlDocument left(configurationText(before), device);
-        if (!left.isOpen())
-            return Comparison::beforeUnreadable;
-        differences = {FileState::ofDocument(*left.root()), FileState::ofDocument(*right.root())};
-    }
-    for (const Difference& difference : differences.all()) {
+    const ComparedFiles files = comparedFiles(before, after);
+    for (const Difference& difference : files.differences.all()) {
         const int table = difference.key < 0 ? 0 : FileKeys::all()[difference.key].table;
-        take(difference, textOf(differences, difference, loaded.tables()[table], secrets));
+        take(difference, textOf(files.differences, difference, files.after.tables()[table], secrets));
     }
-    return Comparison::done;
+    return files.outcome;
 }
 
 } // namespace vlk::review

@@ -14,8 +14,17 @@ QByteArray configurationText(const QString& path);
 
 enum class Comparison { done, beforeUnreadable, afterUnreadable };
 
-// `take` gets each difference in turn. A null path stands for the defaults: what the keys of the other file
-// would read as if they were missing.
+struct ComparedFiles
+{
+    Comparison outcome;
+    Configuration after; // as a load takes it
+    Differences differences{};
+};
+
+// A null path stands for the defaults: what the keys of the other file would read as if they were missing.
+ComparedFiles comparedFiles(const QString& before, const QString& after);
+
+// The same in words: `take` gets each difference in turn.
 Comparison compareFiles(const QString& before, const QString& after, Secrets secrets,
                         const std::function<void(const Difference&, const DifferenceText&)>& take);
 

@@ -59,6 +59,8 @@ public:
 
     // Takes the values of one of the tables of a configuration after an edit.
     void take(const Values& values);
+    // Takes one key as it is there.
+    void take(int key, const FileState& from) { held_[key] = from.held_[key]; }
     // Lays the quick window's values over those of the full one, as its save does.
     void lay(const Values& quick);
 

@@ -14,13 +14,32 @@ namespace {
 
 using Texts = std::vector<std::pair<int, QString>>; // by key
 
-bool isPersonal(int key)
+const char* noteKey(const PresetProblem& problem)
 {
-    const FileKey& place = FileKeys::all()[key];
-    const TableLayout& layout = FileKeys::all().layout(place.table);
-    return place.path == QLatin1String("TRANS/OBJECT/name") ||
-           std::any_of(place.rows.begin(), place.rows.end(),
-                       [&](int row) { return layout.rows[row].base->secret; });
+    using What = PresetProblem::What;
+    switch (problem.what) {
+    case What::unknownKey:
+        return "rev_184";
+    case What::doubled:
+        return "rev_185";
+    case What::noPlace:
+        return "rev_186";
+    case What::badValue:
+        break;
+    }
+    switch (problem.change) {
+    case Change::notANumber:
+        return "rev_187";
+    case Change::outOfRange:
+    case Change::wrapped:
+        return "rev_188";
+    case Change::rounded:
+        return "rev_189";
+    case Change::tooLong:
+        return "rev_190";
+    default:
+        return "rev_191";
+    }
 }
 
 Texts textsOf(CXmlSection& preset, std::vector<PresetProblem>* problems)
@@ -67,9 +86,33 @@ void writePreset(CXmlSection& root, const FileState& from, std::vector<int> keys
     }
 }
 
+bool isSecret(int key)
+{
+    const FileKey& place = FileKeys::all()[key];
+    const TableLayout& layout = FileKeys::all().layout(place.table);
+    return std::any_of(place.rows.begin(), place.rows.end(),
+                       [&](int row) { return layout.rows[row].base->secret; });
+}
+
+bool isPersonal(int key)
+{
+    return FileKeys::all()[key].path == QLatin1String("TRANS/OBJECT/name") || isSecret(key);
+}
+
 bool saysPreset(const CXmlSection& root)
 {
     return root.getString(QStringLiteral("creator")) == QLatin1String("preset");
+}
+
+DifferenceText textOf(const PresetProblem& problem, Secrets secrets)
+{
+    DifferenceText text = textOf(Difference{-1, -1, problem.path, problem.text, {}}, secrets);
+    if (const int key = FileKeys::all().at(problem.path); key >= 0) {
+        const FileKey& place = FileKeys::all()[key];
+        static_cast<SettingWords&>(text) = wordsOf(FileKeys::all().layout(place.table), place.rows.front());
+    }
+    text.note = translated(noteKey(problem));
+    return text;
 }
 
 AppliedPreset applied(CXmlSection& preset, const Configuration& configuration)

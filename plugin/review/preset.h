@@ -4,6 +4,7 @@
 // apply one is to take over what a configuration would be with its keys; what does not fit is told and left
 // out.
 
+#include "review/difference_text.h"
 #include "review/take_over.h"
 
 namespace vlk::review {
@@ -14,6 +15,9 @@ enum class Personal { leftOut, included };
 // Writes the keys as `from` has them into an empty document.
 void writePreset(CXmlSection& root, const FileState& from, std::vector<int> keys,
                  Personal personal = Personal::leftOut);
+
+bool isSecret(int key);
+bool isPersonal(int key);
 
 // Whether a document says that it is a preset; others can be applied too.
 bool saysPreset(const CXmlSection& root);
@@ -33,6 +37,9 @@ struct PresetProblem
     QString text;
     Change change = Change::none;
 };
+
+// In words: what the preset holds stands before, why it is left out is the note.
+DifferenceText textOf(const PresetProblem& problem, Secrets secrets = Secrets::masked);
 
 struct AppliedPreset
 {

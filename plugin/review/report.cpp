@@ -1,5 +1,6 @@
 #include "review/report.h"
 
+#include "base/clock.h"
 #include "settings/kinds/spelling.h"
 #include "settings/value_text.h"
 
@@ -10,63 +11,90 @@ namespace vlk::review {
 
 namespace {
 
+// On paper and on a screen alike, also beside a dark window.
+constexpr const char* kStyle =
+    "body { background-color: #ffffff; color: #000000; font-family: sans-serif; }\n"
+    "h2 { border-bottom: 1px solid #000000; }\n"
+    "td, th { text-align: left; vertical-align: top; }\n"
+    "small { color: #444444; }\n";
+
 QString element(const char* name, const QString& text)
 {
     return QStringLiteral("<%1>%2</%1>\n").arg(QLatin1String(name), text.toHtmlEscaped());
 }
 
-// Puts the rows of a page under its groups, each heading where it changes.
-class Body
+QString headOfChanges()
 {
-public:
-    void add(const SettingWords& words, const QString& value)
-    {
-        if (words.page != page_) {
-            endTable();
-            html_ += element("h2", words.page);
-        }
-        if (words.page != page_ || words.group != group_) {
-            endTable();
-            if (!words.group.isEmpty() && words.group != words.page)
-                html_ += element("h3", words.group);
-        }
-        page_ = words.page;
-        group_ = words.group;
-        if (!std::exchange(inTable_, true))
-            html_ += QStringLiteral("<table width=\"100%\" cellpadding=\"2\">\n");
-        html_ += QStringLiteral("<tr><td width=\"60%\">%1</td><td>%2</td></tr>\n")
-                     .arg(words.caption.toHtmlEscaped(), value.toHtmlEscaped());
-    }
-    QString html()
-    {
-        endTable();
-        return html_;
-    }
+    QString html = QStringLiteral("<tr>");
+    for (const char* key : {"rev_016", "rev_017", "rev_018"})
+        html += element("th", translated(key));
+    return html + QStringLiteral("</tr>\n");
+}
 
-private:
-    void endTable()
-    {
-        if (std::exchange(inTable_, false))
-            html_ += QStringLiteral("</table>\n");
-    }
-
-    QString html_;
-    QString page_;
-    QString group_;
-    bool inTable_ = false;
+struct Line
+{
+    SettingWords words;
+    QStringList values; // one, or before and after
+    QString note;
 };
 
-bool isTold(const Values& values, int row, const std::vector<int>& keys, int table)
+using Lines = std::vector<Line>;
+
+// Puts lines under their pages and groups, each heading where it changes.
+QString tables(Lines::const_iterator line, Lines::const_iterator end)
+{
+    QString html;
+    QString page;
+    QString group;
+    bool isInTable = false;
+    const auto endTable = [&] {
+        if (std::exchange(isInTable, false))
+            html += QStringLiteral("</table>\n");
+    };
+    for (; line != end; ++line) {
+        const SettingWords& words = line->words;
+        const bool isOtherPage = words.page != std::exchange(page, words.page);
+        if (isOtherPage) {
+            endTable();
+            html += element("h2", words.page);
+        }
+        if (words.group != std::exchange(group, words.group) || isOtherPage) {
+            endTable();
+            if (!words.group.isEmpty() && words.group != words.page)
+                html += element("h3", words.group);
+        }
+        const bool isPair = line->values.size() > 1;
+        if (!std::exchange(isInTable, true)) {
+            html += QStringLiteral("<table width=\"100%\" cellpadding=\"2\">\n");
+            if (isOtherPage && isPair)
+                html += headOfChanges();
+        }
+        html += QStringLiteral("<tr><td width=\"%1%\">%2%3</td>")
+                    .arg(isPair ? 50 : 60)
+                    .arg(words.caption.toHtmlEscaped(),
+                         line->note.isEmpty()
+                             ? QString()
+                             : QStringLiteral("<br><small>%1</small>").arg(line->note.toHtmlEscaped()));
+        for (const QString& value : line->values)
+            html += QLatin1String(isPair ? "<td width=\"25%\">" : "<td>") + value.toHtmlEscaped() +
+                    QLatin1String("</td>");
+        html += QStringLiteral("</tr>\n");
+    }
+    endTable();
+    return html;
+}
+
+bool isTold(const Values& values, int row, const std::optional<std::vector<int>>& keys, int table)
 {
     const int key = FileKeys::all().of(table, row);
     const Setting& holder = values.setting(values.holder(row));
     return key >= 0 && holder.shown() && (holder.shown()->captionKey || holder.is<Digits>()) &&
-           values.isWritten(row) && (keys.empty() || std::find(keys.begin(), keys.end(), key) != keys.end());
+           values.isWritten(row) && (!keys || std::find(keys->begin(), keys->end(), key) != keys->end());
 }
 
-QString bodyOf(const Configuration& configuration, const Report& report)
+Lines settingsOf(const Configuration& configuration, const Report& report)
 {
-    Body body;
+    Lines lines;
     for (std::size_t table = 0; table < configuration.tables().size(); ++table) {
         const Values& values = configuration.tables()[table];
         for (int row = 0; row < values.count(); ++row) {
@@ -76,10 +104,36 @@ QString bodyOf(const Configuration& configuration, const Report& report)
                 report.secrets == Secrets::shown
                     ? valueText(values.setting(values.holder(row)), values.written(row), values.unitKey(row))
                     : valueText(values, row, values.written(row));
-            body.add(wordsOf(values.layout(), row), text);
+            lines.push_back({wordsOf(values.layout(), row), {text}, {}});
         }
     }
-    return body.html();
+    return lines;
+}
+
+Lines changesOf(const Configuration& configuration, const Report& report)
+{
+    const QString none = QStringLiteral("–");
+    Lines lines;
+    for (const Difference& difference : report.changes->all()) {
+        const int table = difference.key < 0 ? 0 : FileKeys::all()[difference.key].table;
+        const DifferenceText text =
+            textOf(*report.changes, difference, configuration.tables()[table], report.secrets);
+        lines.push_back(
+            {text,
+             {text.before.isNull() ? none : text.beforeText, text.after.isNull() ? none : text.afterText},
+             text.note});
+    }
+    return lines;
+}
+
+QString bodyOf(const Lines& lines, bool isInColumns)
+{
+    if (!isInColumns)
+        return tables(lines.begin(), lines.end());
+    const auto middle = lines.begin() + (static_cast<int>(lines.size()) + 1) / 2;
+    return QStringLiteral("<table width=\"100%\"><tr><td width=\"50%\">%1</td>"
+                          "<td width=\"50%\" style=\"padding-left: 12px\">%2</td></tr></table>\n")
+        .arg(tables(lines.begin(), middle), tables(middle, lines.end()));
 }
 
 } // namespace
@@ -87,8 +141,9 @@ QString bodyOf(const Configuration& configuration, const Report& report)
 QString toHtml(const Configuration& configuration, const Report& report)
 {
     QString html = QStringLiteral("<!DOCTYPE html>\n<html><head><meta charset=\"utf-8\">\n") +
-                   element("title", report.title) + QStringLiteral("</head><body>\n") +
-                   element("h1", report.title);
+                   element("title", report.title) +
+                   QStringLiteral("<style>\n%1</style>").arg(QLatin1String(kStyle)) +
+                   QStringLiteral("</head><body>\n") + element("h1", report.title);
     for (const QString& line : report.about)
         html += element("p", line);
     if (!report.advice.isEmpty()) {
@@ -97,7 +152,38 @@ QString toHtml(const Configuration& configuration, const Report& report)
             html += element("li", sentence);
         html += QStringLiteral("</ul>\n");
     }
-    return html + bodyOf(configuration, report) + QStringLiteral("</body></html>\n");
+    const Lines lines = report.changes ? changesOf(configuration, report) : settingsOf(configuration, report);
+    html += bodyOf(lines, report.isOnePage);
+    if (lines.empty())
+        html += element("p", translated("rev_117"));
+    if (!report.end.isEmpty())
+        html += element("p", report.end);
+    return html + QStringLiteral("</body></html>\n");
+}
+
+Report reportOf(const Configuration& configuration, const Differences& changes,
+                const std::vector<Finding>& advice, const QStringList& about, const ReportChoice& choice)
+{
+    Report report{translated("rev_180"), {}, {}};
+    report.secrets = choice.secrets;
+    report.isOnePage = choice.isOnePage;
+    const QString object = configuration.value(QStringLiteral("TRANS/OBJECT/name"));
+    if (!object.isEmpty())
+        report.about << translated("rev_181").arg(object);
+    report.about << about << translated("rev_183").arg(now().toString(QStringLiteral("dd.MM.yyyy HH:mm")));
+    for (const Finding& finding : advice)
+        report.advice << adviceText(finding);
+    if (choice.isChangesAlone) {
+        report.changes = &changes;
+    } else if (choice.isOnePage) {
+        report.keys.emplace();
+        const Differences others(FileState::ofDefaults(configuration),
+                                 FileState::ofConfiguration(configuration));
+        for (const Difference& difference : others.all())
+            report.keys->push_back(difference.key);
+        report.end = translated("rev_182");
+    }
+    return report;
 }
 
 } // namespace vlk::review

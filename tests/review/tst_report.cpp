@@ -6,7 +6,9 @@
 #include <QDomDocument>
 #include <QtTest>
 
+using vlk::review::Differences;
 using vlk::review::FileKeys;
+using vlk::review::FileState;
 using vlk::review::Report;
 
 class ReportTest : public QObject
@@ -41,11 +43,36 @@ private Q_SLOTS:
 
     void chosenKeysAndSecretsOnDemand()
     {
-        const Report report{"", {}, {}, {FileKeys::all().at("TRANS/AP1/pass")}, vlk::review::Secrets::shown};
+        const Report report{
+            "", {}, {}, {{FileKeys::all().at("TRANS/AP1/pass")}}, vlk::review::Secrets::shown};
         const QString html = toHtml(configuration_, report);
         QCOMPARE(html.count("<tr>"), 1);
         QVERIFY(html.contains("<h2>cfgt1_001</h2>\n<h3>cfgt1_024</h3>"));
         QVERIFY(html.contains("<td>geheim</td>"));
+    }
+
+    // Only what was edited, beside what it was; on one page what is not at its default.
+    void whatTheReaderChooses()
+    {
+        vlk::Configuration edited = configuration_;
+        edited.edit("TRANS/SRV1/port", "5555");
+        edited.edit("TRANS/AP1/pass", "neu");
+        const Differences changes(FileState::ofConfiguration(configuration_),
+                                  FileState::ofConfiguration(edited));
+        const auto told = [&](const Differences& differences, const vlk::review::ReportChoice& choice) {
+            return toHtml(edited,
+                          reportOf(edited, differences, vlk::review::advise(edited), {"of this"}, choice));
+        };
+        QString html = told(changes, {true, false, {}});
+        QCOMPARE(html.count("<tr>"), 3);
+        for (const char* part : {"<td width=\"25%\">0</td><td width=\"25%\">5555</td>", "rev_181", "of this",
+                                 "<li>adv_", "<th>rev_017</th>"})
+            QVERIFY2(html.contains(part), part);
+        QVERIFY(!html.contains("neu") && !html.contains("geheim"));
+        html = told(changes, {false, true, {}});
+        QVERIFY(html.contains("<td>5555</td>") && html.contains("<p>rev_182</p>"));
+        QVERIFY(html.count("<tr>") < told(changes, {}).count("<tr>") / 2);
+        QVERIFY(told({}, {true, false, {}}).contains("<p>rev_117</p>"));
     }
 
 private:
