@@ -31,16 +31,36 @@ bool ConfigurationReview::compareWith(Against against, const QString& path)
     FileState before = asItCame_;
     if (against == Against::defaults) {
         before = FileState::ofDefaults(configuration());
-    } else if (against == Against::otherFile) {
-        XmlDocument document(review::configurationText(path), QStringLiteral("DEVICE"));
+    } else if (against == Against::otherFile || against == Against::preset) {
+        QByteArray text = review::configurationText(path);
+        XmlDocument document(text, QStringLiteral("DEVICE"));
         if (!document.isOpen())
             return false;
-        before = FileState::ofDocument(*document.root());
+        if (against == Against::preset || review::saysPreset(*document.root())) {
+            against = Against::preset;
+            preset_ = std::move(text);
+            before = withPreset();
+        } else {
+            before = FileState::ofDocument(*document.root());
+        }
     }
     against_ = against;
     differences_ = Differences(std::move(before), now());
     Q_EMIT changed();
     return true;
+}
+
+// Other keys than those that the preset moves stand as they are, also where the quick window leaves them out.
+FileState ConfigurationReview::withPreset()
+{
+    XmlDocument document(preset_, QStringLiteral("DEVICE"));
+    const Configuration base = written();
+    review::AppliedPreset applied = review::applied(*document.root(), base);
+    problems_ = std::move(applied.problems);
+    FileState state = now();
+    for (const review::Difference& moved : Differences(FileState::ofConfiguration(base), applied.state).all())
+        state.take(moved.key, applied.state);
+    return state;
 }
 
 Configuration ConfigurationReview::configuration() const
@@ -53,6 +73,19 @@ Configuration ConfigurationReview::configuration() const
         }
     }
     return all;
+}
+
+Configuration ConfigurationReview::written() const
+{
+    Configuration written = configuration();
+    if (isQuick_()) {
+        XmlDocument document(QString(), QStringLiteral("DEVICE"));
+        written.write(*document.root());
+        history_.pages().back()->values().write(*document.root());
+        document.root()->commit();
+        written.read(*document.root());
+    }
+    return written;
 }
 
 PageSettings* ConfigurationReview::pageOf(int table) const
@@ -106,20 +139,15 @@ void ConfigurationReview::refresh(const QVector<int>& pages)
             differences_.update(history_.pages()[page]->values());
         }
     }
+    // An edit moves what the preset would make of the rest.
+    if (against_ == Against::preset)
+        differences_ = Differences(withPreset(), now());
     Q_EMIT changed();
 }
 
 std::vector<review::Finding> ConfigurationReview::advice() const
 {
-    Configuration written = configuration();
-    if (isQuick_()) {
-        XmlDocument document(QString(), QStringLiteral("DEVICE"));
-        written.write(*document.root());
-        history_.pages().back()->values().write(*document.root());
-        document.root()->commit();
-        written.read(*document.root());
-    }
-    return review::advise(written, asItCame_.unread());
+    return review::advise(written(), asItCame_.unread());
 }
 
 void ConfigurationReview::mend(const std::vector<review::Mend>& mends, const EditHistory::Words& words)
@@ -136,7 +164,7 @@ void ConfigurationReview::mend(const std::vector<review::Mend>& mends, const Edi
 void ConfigurationReview::takeOver(const std::vector<int>& keys, const EditHistory::Words& words)
 {
     history_.settle();
-    Configuration changed = configuration();
+    Configuration changed = written();
     review::takeOver(changed, differences_.before(), review::withNeeded(differences_, keys));
     history_.asOne(words, [&] {
         for (PageSettings* page : history_.pages()) {

@@ -6,7 +6,7 @@
 
 #include "dialog/edit_history.h"
 #include "review/advice.h"
-#include "review/differences.h"
+#include "review/preset.h"
 #include "review/search.h"
 
 struct CXmlSection;
@@ -26,16 +26,23 @@ public:
     // begins with. Begins the history.
     void begin(CXmlSection* root);
 
-    enum class Against { file, defaults, otherFile };
+    // Of a preset: with what the configuration would be if it were applied now.
+    enum class Against { file, defaults, otherFile, preset };
     Against against() const { return against_; }
-    // False when the file could not be read, and nothing changes.
+    // False when the file could not be read, and nothing changes. Another file that says that it is a preset
+    // is taken for one.
     bool compareWith(Against against, const QString& path = {});
+    // What of the preset cannot be applied.
+    const std::vector<review::PresetProblem>& problems() const { return problems_; }
 
     const review::Differences& differences() const { return differences_; }
     // To the file, whatever is compared.
     int edited() const { return edited_.count(); }
+    const review::Differences& edits() const { return edited_; }
     bool isEdited(int table, int row) const { return edited_.isDifferent(table, row); }
+    // Of the full window; `written` is what a write would bring now.
     Configuration configuration() const;
+    Configuration written() const;
     // Null where no page has the table.
     PageSettings* pageOf(int table) const;
     const Values* valuesOf(int table) const;
@@ -59,12 +66,15 @@ Q_SIGNALS:
 
 private:
     review::FileState now() const;
+    review::FileState withPreset();
     void refresh(const QVector<int>& pages);
 
     EditHistory& history_;
     const std::function<bool()> isQuick_;
     review::FileState asItCame_;
     Against against_ = Against::file;
+    QByteArray preset_; // its document
+    std::vector<review::PresetProblem> problems_;
     bool wasQuick_ = false;
     review::Differences edited_;      // to the file as it came
     review::Differences differences_; // to what is chosen

@@ -48,6 +48,11 @@ void DifferenceModel::refresh()
     lines_.clear();
     const QSet<QString> unchosen = std::exchange(unchosen_, {});
     const review::Differences& differences = review_.differences();
+    if (review_.against() == ConfigurationReview::Against::preset) {
+        for (const review::PresetProblem& problem : review_.problems())
+            lines_.push_back(
+                {review::Difference{-1, -1, problem.path, problem.text, {}}, review::textOf(problem)});
+    }
     for (const review::Difference& difference : differences.all()) {
         const Values* values =
             difference.key < 0 ? nullptr : review_.valuesOf(review::FileKeys::all()[difference.key].table);
@@ -120,13 +125,11 @@ Qt::ItemFlags DifferenceModel::flags(const QModelIndex& index) const
 QVariant DifferenceModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     static constexpr const char* titles[] = {"rev_101", "rev_102", "rev_103", "rev_104", "rev_105"};
+    // The left side is named after what is compared, by ConfigurationReview::Against.
+    static constexpr const char* sides[] = {"rev_103", "rev_106", "rev_107", "rev_192"};
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return {};
-    // The left side is named after what is compared.
-    return section == Before ? text(review_.against() == ConfigurationReview::Against::file       ? "rev_103"
-                                    : review_.against() == ConfigurationReview::Against::defaults ? "rev_106"
-                                                                                                  : "rev_107")
-                             : text(titles[section]);
+    return text(section == Before ? sides[static_cast<int>(review_.against())] : titles[section]);
 }
 
 } // namespace vlk

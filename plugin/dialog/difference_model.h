@@ -1,7 +1,8 @@
 #pragma once
 
 // The differences of a configuration as a table: page, setting, before and now, each line with a check mark
-// that chooses it for what is done with the chosen ones. All are chosen at first.
+// that chooses it for what is done with the chosen ones. All are chosen at first. Of a preset what cannot be
+// applied comes first, with the reason and without a check mark.
 
 #include "dialog/configuration_review.h"
 #include "review/difference_text.h"

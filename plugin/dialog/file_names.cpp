@@ -2,6 +2,7 @@
 
 #include "base/clock.h"
 #include "base/file_name.h"
+#include "base/whole_file.h"
 #include "link/device.h"
 
 #include <QCoreApplication>
@@ -18,19 +19,38 @@ QString configurationPathToWrite(const QString& part)
 
 QString askConfigurationPath(QWidget* parent, const QString& objectName)
 {
+    const auto text = [](const char* key) { return QCoreApplication::translate("vlk", key); };
+    const QString name = QStringLiteral("%1(%2).xml")
+                             .arg(asFileName(objectName, QStringLiteral("_")),
+                                  now().toString(QStringLiteral("dd-MM-yy hh_mm_ss")));
+    return askPathToSave(parent,
+                         {text("cfgwnd_003"), name, QStringLiteral("%1 XML (*.xml)").arg(text("cfgwnd_004")),
+                          QStringLiteral("xml")});
+}
+
+QString askPathToSave(QWidget* parent, const PathQuestion& question)
+{
     if (!vlkDevice)
         return {};
-    const QString name = asFileName(objectName, QStringLiteral("_"));
-    const QString suggested =
-        QStringLiteral("%1/%2(%3).xml")
-            .arg(vlkDevice->xmlFolder(), name, now().toString(QStringLiteral("dd-MM-yy hh_mm_ss")));
-    const auto text = [](const char* key) { return QCoreApplication::translate("vlk", key); };
-    QFileDialog dialog(parent, text("cfgwnd_003"), suggested,
-                       QStringLiteral("%1 XML (*.xml)").arg(text("cfgwnd_004")));
+    QFileDialog dialog(parent, question.caption, vlkDevice->xmlFolder() + QLatin1Char('/') + question.name,
+                       question.filter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     // Set in the dialog, so that it asks about the file with the suffix before it is replaced.
-    dialog.setDefaultSuffix(QStringLiteral("xml"));
+    dialog.setDefaultSuffix(question.suffix);
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+QString saveAsAsked(const QString& path, const QByteArray& content, bool holdsSecrets)
+{
+    QSaveFile file(path);
+    QString reason;
+    const auto write = [&](QSaveFile& opened) {
+        return (!holdsSecrets || opened.setPermissions(QFile::ReadOwner | QFile::WriteOwner)) &&
+               opened.write(content) == content.size();
+    };
+    return saveWhole(file, write, &reason)
+               ? QString()
+               : QCoreApplication::translate("vlk", "rev_198").arg(QDir::toNativeSeparators(path), reason);
 }
 
 } // namespace vlk

@@ -16,4 +16,19 @@ QString configurationPathToWrite(const QString& part);
 // the time. A name without a suffix gets ".xml". Empty when the user cancels.
 QString askConfigurationPath(QWidget* parent, const QString& objectName);
 
+// The same with another question, name and kind: `filter` names the kind and `suffix` is what a name without
+// one gets.
+struct PathQuestion
+{
+    QString caption;
+    QString name;
+    QString filter;
+    QString suffix;
+};
+QString askPathToSave(QWidget* parent, const PathQuestion& question);
+
+// Saves a whole file; one that holds passwords is readable by its owner alone. Empty when it is saved, else
+// the sentence that says why not.
+QString saveAsAsked(const QString& path, const QByteArray& content, bool holdsSecrets);
+
 } // namespace vlk

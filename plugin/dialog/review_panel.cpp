@@ -2,7 +2,10 @@
 
 #include "base/save_log.h"
 #include "base/whole_file.h"
+#include "dialog/preset_saving.h"
 #include "dialog/setting_places.h"
+#include "fuel/question.h"
+#include "link/device.h"
 #include "typing/empty_note.h"
 #include "typing/table_look.h"
 #include "windows/named_widget.h"
@@ -20,17 +23,27 @@ namespace vlk {
 
 using Against = ConfigurationReview::Against;
 
+namespace {
+
+// By Against.
+constexpr const char* kSides[] = {"rev_109", "rev_110", "rev_111", "rev_193"};
+constexpr const char* kVerbs[] = {"rev_112", "rev_113", "rev_113", "rev_197"};
+constexpr const char* kSteps[] = {"rev_120", "rev_121", "rev_121", "rev_196"};
+
+} // namespace
+
 ReviewPanel::ReviewPanel(ConfigurationReview& review, SettingPlaces& places, QWidget* parent)
     : ListPanel("Differences", parent), review_(review), places_(places), model_(review),
       against_(namedWidget<QComboBox>("comboBox_Against", this)),
       takeOver_(namedWidget<QPushButton>("pushButton_TakeOver", this)),
+      preset_(namedWidget<QPushButton>("pushButton_SavePreset", this)),
       copy_(namedWidget<QPushButton>("pushButton_CopyDifferences", this)),
       csv_(namedWidget<QPushButton>("pushButton_SaveDifferences", this))
 {
     setModel(model_);
-    for (int i = 0; i < 3; ++i)
-        against_->addItem(QString());
-    addToHead({against_, takeOver_, copy_, csv_});
+    for (const char* key : kSides)
+        against_->addItem(QLatin1String(key));
+    addToHead({against_, takeOver_, preset_, copy_, csv_});
     connect(&review_, &ConfigurationReview::changed, this, [this] {
         if (isVisible())
             refresh();
@@ -39,6 +52,7 @@ ReviewPanel::ReviewPanel(ConfigurationReview& review, SettingPlaces& places, QWi
     connect(&model_, &QAbstractItemModel::dataChanged, this, &ReviewPanel::showState);
     connect(against_, QOverload<int>::of(&QComboBox::activated), this, &ReviewPanel::chooseAgainst);
     connect(takeOver_, &QPushButton::clicked, this, &ReviewPanel::takeOver);
+    connect(preset_, &QPushButton::clicked, this, &ReviewPanel::saveAsPreset);
     connect(copy_, &QPushButton::clicked, this,
             [this] { QApplication::clipboard()->setText(tableText(*table())); });
     connect(csv_, &QPushButton::clicked, this, &ReviewPanel::saveCsv);
@@ -49,10 +63,13 @@ void ReviewPanel::retranslate()
     ListPanel::retranslate();
     setTitle(tr("rev_108"), against_);
     int side = 0;
-    for (const char* key : {"rev_109", "rev_110", "rev_111"})
+    for (const char* key : kSides)
         against_->setItemText(side++, tr(key));
+    preset_->setText(tr("rev_194"));
+    preset_->setToolTip(tr("rev_195"));
     copy_->setText(tr("rev_114"));
-    csv_->setText(tr("rev_115"));
+    csv_->setText(QStringLiteral("CSV…"));
+    csv_->setToolTip(tr("rev_115"));
     if (isVisible())
         refresh();
     showState();
@@ -60,29 +77,37 @@ void ReviewPanel::retranslate()
 
 void ReviewPanel::showState()
 {
-    const bool isFile = review_.against() == Against::file;
-    against_->setCurrentIndex(static_cast<int>(review_.against()));
-    takeOver_->setText(tr(isFile ? "rev_112" : "rev_113"));
-    takeOver_->setEnabled(!model_.chosenKeys().empty());
+    const int against = static_cast<int>(review_.against());
+    against_->setCurrentIndex(against);
+    takeOver_->setText(tr(kVerbs[against]));
+    for (QPushButton* button : {takeOver_, preset_})
+        button->setEnabled(!model_.chosenKeys().empty());
     for (QPushButton* button : {copy_, csv_})
         button->setEnabled(model_.rowCount() > 0);
     empty()->tell(tr("rev_117"));
     table()->resizeColumnsToContents();
 }
 
-void ReviewPanel::chooseAgainst(int index)
+bool ReviewPanel::choosePreset()
+{
+    return chooseAgainst(static_cast<int>(Against::preset));
+}
+
+bool ReviewPanel::chooseAgainst(int index)
 {
     const auto against = static_cast<Against>(index);
     QString path;
-    if (against == Against::otherFile) {
-        path = QFileDialog::getOpenFileName(this, tr("rev_111"), {}, tr("rev_118"));
-        if (path.isEmpty())
-            return showState();
+    bool isRead = true;
+    if (against == Against::otherFile || against == Against::preset) {
+        path = QFileDialog::getOpenFileName(this, tr(kSides[index]),
+                                            vlkDevice ? vlkDevice->xmlFolder() : QString(), tr("rev_118"));
+        isRead = !path.isEmpty();
     }
-    if (review_.compareWith(against, path))
-        return;
+    isRead = isRead && review_.compareWith(against, path);
     showState();
-    empty()->tell(tr("rev_119").arg(path));
+    if (!isRead && !path.isEmpty())
+        warn(this, tr("rev_119").arg(path));
+    return isRead;
 }
 
 void ReviewPanel::take(int line)
@@ -101,9 +126,13 @@ void ReviewPanel::toggle(int line)
 
 void ReviewPanel::takeOver()
 {
-    const bool isFile = review_.against() == Against::file;
-    review_.takeOver(model_.chosenKeys(),
-                     [isFile] { return QCoreApplication::translate("vlk", isFile ? "rev_120" : "rev_121"); });
+    const char* step = kSteps[static_cast<int>(review_.against())];
+    review_.takeOver(model_.chosenKeys(), [step] { return QCoreApplication::translate("vlk", step); });
+}
+
+void ReviewPanel::saveAsPreset()
+{
+    savePreset(this, review_.differences().after(), model_.chosenKeys());
 }
 
 void ReviewPanel::saveCsv()

@@ -1,7 +1,8 @@
 #pragma once
 
-// The panel of what differs from the file as it came, from the defaults or from another file. The chosen
-// lines are brought back or taken over, as one step.
+// The panel of what differs from the file as it came, from the defaults, from another file or from what a
+// preset would make of it. The chosen lines are brought back or taken over, as one step, or saved as a
+// preset.
 
 #include "dialog/difference_model.h"
 #include "dialog/list_panel.h"
@@ -21,6 +22,9 @@ public:
     ReviewPanel(ConfigurationReview& review, SettingPlaces& places, QWidget* parent = nullptr);
 
     void retranslate() override;
+    // Asks for a preset and compares with it. False when none was chosen that could be read.
+    bool choosePreset();
+    void saveAsPreset();
 
 protected:
     void refresh() override { model_.refresh(); }
@@ -29,7 +33,7 @@ protected:
 
 private:
     void showState();
-    void chooseAgainst(int index);
+    bool chooseAgainst(int index);
     void takeOver();
     void saveCsv();
 
@@ -38,6 +42,7 @@ private:
     DifferenceModel model_;
     QComboBox* against_;
     QPushButton* takeOver_;
+    QPushButton* preset_;
     QPushButton* copy_;
     QPushButton* csv_;
 };

@@ -4,7 +4,9 @@
 
 #include "dialog/advice_panel.h"
 #include "dialog/config_pages.h"
+#include "dialog/document_menu.h"
 #include "dialog/file_names.h"
+#include "dialog/report_dialog.h"
 #include "dialog/review_panel.h"
 #include "dialog/widget_config_full.h"
 #include "dialog/widget_config_light.h"
@@ -17,6 +19,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QLayout>
 
 VLK_Widget_Config::VLK_Widget_Config(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
@@ -41,6 +44,7 @@ VLK_Widget_Config::VLK_Widget_Config(QWidget* parent)
     connect(fullWindow_, &VLK_Widget_Config_Full::closeRequested, this, &QDialog::close);
     connect(fullWindow_, &VLK_Widget_Config_Full::quickRequested, this, &VLK_Widget_Config::switchToQuick);
     addReview();
+    addDocuments();
     retranslate();
 }
 
@@ -70,6 +74,52 @@ void VLK_Widget_Config::addReview()
         const auto& table = history_.pages()[page]->values().table();
         places_.goTo(vlk::review::FileKeys::all().tableOf(table), row);
     });
+}
+
+void VLK_Widget_Config::addDocuments()
+{
+    documents_ = new vlk::DocumentMenu(this);
+    bar_->layout()->addWidget(documents_);
+    connect(documents_, &vlk::DocumentMenu::presetToApply, this, [this] {
+        if (panel_->choosePreset())
+            showPanel(vlk::ReviewBar::Differences);
+    });
+    connect(documents_, &vlk::DocumentMenu::presetToSave, this, [this] {
+        showPanel(vlk::ReviewBar::Differences);
+        panel_->saveAsPreset();
+    });
+    connect(documents_, &vlk::DocumentMenu::reportWanted, this, &VLK_Widget_Config::showReport);
+}
+
+bool VLK_Widget_Config::showPreset(const QString& path)
+{
+    if (!isVisible() || !review_.compareWith(vlk::ConfigurationReview::Against::preset, path))
+        return false;
+    showPanel(vlk::ReviewBar::Differences);
+    return true;
+}
+
+void VLK_Widget_Config::showReport()
+{
+    if (!report_)
+        report_ = new vlk::ReportDialog(
+            review_, [this] { return about(); }, this);
+    report_->open();
+}
+
+QStringList VLK_Widget_Config::about() const
+{
+    QStringList lines;
+    if (!file_.isEmpty())
+        lines << tr("rev_223").arg(file_);
+    // Nobody knows which tracker a file is of.
+    if (vlkDevice) {
+        QStringList unit{vlkDevice->model(), vlkDevice->trackerId1(), vlkDevice->trackerId2()};
+        unit.removeAll(QString());
+        const bool isAttached = unit.size() > 1;
+        lines << tr(isOfTracker_ || !isAttached ? "rev_224" : "rev_225").arg(unit.join(QStringLiteral(", ")));
+    }
+    return lines;
 }
 
 void VLK_Widget_Config::showPanel(vlk::ReviewBar::Panel panel)
@@ -116,6 +166,8 @@ void VLK_Widget_Config::open(const vlk::OpenRequest& request, char* ussdBuffer)
                                        : QStringLiteral(": Device");
     }
     setWindowTitle(title);
+    file_ = request.fromFile == 1 ? QFileInfo(path).fileName() : QString();
+    isOfTracker_ = request.fromFile != 1 && !path.isEmpty();
     const bool isFull = request.showFull == 1;
     if (!isFull && !path.isEmpty())
         lightWindow_->loadFromXml(document.root());
@@ -210,4 +262,7 @@ void VLK_Widget_Config::retranslate()
     bar_->retranslate();
     panel_->retranslate();
     advice_->retranslate();
+    documents_->retranslate();
+    if (report_)
+        report_->retranslate();
 }

@@ -23,6 +23,8 @@ class VLK_Designer_Widget_Config;
 
 namespace vlk {
 class AdvicePanel;
+class DocumentMenu;
+class ReportDialog;
 class ReviewPanel;
 struct OpenRequest;
 } // namespace vlk
@@ -52,6 +54,8 @@ public:
 
     VLK_Widget_Config_Full* fullWindow() const { return fullWindow_; }
     vlk::ConfigurationReview& review() { return review_; }
+    // Opens the panel with what the preset would change. False when there is nothing open or no such file.
+    bool showPreset(const QString& path);
 
 private:
     void saveToXml(CXmlSection* root);
@@ -61,6 +65,10 @@ private:
     void showQuick();
     void addReview();
     void showPanel(vlk::ReviewBar::Panel panel);
+    void addDocuments();
+    void showReport();
+    // Lines that say what the configuration is of.
+    QStringList about() const;
 
     std::unique_ptr<Ui::VLK_Designer_Widget_Config> ui_;
     VLK_Widget_Config_Light* lightWindow_;
@@ -71,4 +79,8 @@ private:
     vlk::ReviewBar* bar_ = nullptr;
     vlk::ReviewPanel* panel_ = nullptr;
     vlk::AdvicePanel* advice_ = nullptr;
+    vlk::DocumentMenu* documents_ = nullptr;
+    vlk::ReportDialog* report_ = nullptr; // made when it is first wanted
+    QString file_;                        // that the user opened, without its folder
+    bool isOfTracker_ = false;
 };

@@ -7,6 +7,7 @@
 #include "link/messages.h"
 #include "support/device.h"
 #include "support/files.h"
+#include "support/full_disk.h"
 #include "support/setting_samples.h"
 
 #include <QtTest>
@@ -19,6 +20,7 @@ class ReviewWindowsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
     void init()
     {
         device_.initialize(nullptr);
@@ -178,6 +180,116 @@ private Q_SLOTS:
         QCOMPARE(child<QToolButton>("toolButton_Differences")->text(), QString("1"));
     }
 
+    // The settings that were changed go into a preset, the object's name on demand, and come from there in
+    // one step, in either window beside what was edited there.
+    void presetIsSavedAndApplied()
+    {
+        type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
+        type(child<QLineEdit>("lineEdit_Name"), "KAMAZ");
+        for (const bool named : {true, false}) {
+            QTest::keyClick(dialog_.get(), Qt::Key_D, Qt::ControlModifier);
+            answerNext<QMessageBox>([named](QMessageBox* box) {
+                if (named)
+                    QTest::keyClick(box->checkBox(), Qt::Key_Space);
+                QTest::keyClick(box, Qt::Key_Return);
+            });
+            const QString path = folder_.filePath(named ? "named.xml" : "chosen.xml");
+            chooseNext(path);
+            child<QPushButton>("pushButton_SavePreset")->click();
+            const QByteArray preset = readFile(path);
+            QVERIFY(preset.contains("<DEVICE creator=\"preset\">") && preset.contains("port=\"5555\""));
+            QCOMPARE(preset.contains("KAMAZ"), named);
+            QCOMPARE(preset.count('='), named ? 6 : 5);
+            QTest::keyClick(dialog_.get(), Qt::Key_D, Qt::ControlModifier);
+        }
+        while (history().canUndo())
+            history().undo();
+        const QByteArray before = saved();
+        chooseNext(folder_.filePath("chosen.xml"));
+        child<QPushButton>("pushButton_Document")->menu()->actions().first()->trigger();
+        auto* table = child<QTableView>("tableView_Differences");
+        QVERIFY(table->isVisible());
+        QCOMPARE(table->model()->rowCount(), 1);
+        // An edit beside the preset is none of its differences.
+        type(child<QLineEdit>("lineEdit_Name"), "MAZ");
+        QCOMPARE(table->model()->rowCount(), 1);
+        child<QPushButton>("pushButton_TakeOver")->click();
+        QCOMPARE(table->model()->rowCount(), 0);
+        QVERIFY(saved().contains("port=\"5555\"") && saved().contains("\"MAZ\""));
+        history().undo();
+        history().undo();
+        QCOMPARE(saved(), before);
+
+        dialog_->switchToQuick();
+        auto* light = dialog_->findChild<QWidget*>("page_Light");
+        auto* address = light->findChild<QLineEdit*>("GPRSSrv_lineEdit_IP_DNS_Main");
+        type(address, "example.com");
+        QVERIFY(dialog_->showPreset(folder_.filePath("chosen.xml")));
+        QCOMPARE(table->model()->rowCount(), 1);
+        child<QPushButton>("pushButton_TakeOver")->click();
+        QCOMPARE(light->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main")->value(), 5555);
+        QCOMPARE(address->text(), QString("example.com"));
+    }
+
+    // What does not fit comes first, with its reason and without a check mark; a full disk is told.
+    void presetsInTrouble()
+    {
+        const QString path = folder_.filePath("bad.xml");
+        writeFile(path, "<DEVICE creator=\"preset\"><TRACK><POINTS angle=\"7\" dist=\"far\" bend=\"1\"/>"
+                        "<POINTS angle=\"8\"/></TRACK></DEVICE>");
+        QVERIFY(dialog_->showPreset(path));
+        auto* model = child<QTableView>("tableView_Differences")->model();
+        QStringList notes;
+        for (int line = 0; line < model->rowCount(); ++line)
+            notes << model->index(line, 4).data().toString() +
+                         (model->index(line, 0).data(Qt::CheckStateRole).isNull() ? "" : "+");
+        QCOMPARE(notes, QStringList({"rev_184", "rev_185", "rev_187", "+"}));
+        QVERIFY(!dialog_->showPreset("no such file"));
+        QVERIFY(!dialog_->showPreset(writeFile(path, "<OTHER creator=\"preset\"/>")));
+        child<QToolButton>("toolButton_Differences")->click();
+        type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
+        child<QToolButton>("toolButton_Differences")->click();
+        QString told;
+        chooseNext(folder_.filePath("full.xml"));
+        answerNext<QMessageBox>([&told](QMessageBox* box) {
+            told = box->text();
+            QTest::keyClick(box, Qt::Key_Return);
+        });
+        const FullDisk disk(10);
+        child<QPushButton>("pushButton_SavePreset")->click();
+        QCOMPARE(told, QString("rev_198"));
+        QVERIFY(!QFile::exists(folder_.filePath("full.xml")));
+    }
+
+    void reportIsKept()
+    {
+        type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
+        type(child<QLineEdit>("Transfer_lineEdit_GSM_Pin1"), "8765");
+        QTest::keyClick(dialog_.get(), Qt::Key_P, Qt::ControlModifier);
+        auto* preview = child<QTextBrowser>("textBrowser_Report");
+        QVERIFY(preview->isVisible());
+        const int all = preview->toPlainText().size();
+        child<QCheckBox>("checkBox_OnePage")->click();
+        QVERIFY(preview->toPlainText().size() < all / 2);
+        QTest::keyClick(child<QComboBox>("comboBox_ReportContents"), Qt::Key_Down);
+        QVERIFY(preview->toPlainText().contains("5555") && !preview->toPlainText().contains("8765"));
+        const auto save = [&](const char* button, const QString& path) {
+            chooseNext(path);
+            child<QPushButton>(button)->click();
+            return readFile(path);
+        };
+        QVERIFY(save("pushButton_ReportPdf", folder_.filePath("report.pdf")).startsWith("%PDF"));
+        child<QCheckBox>("checkBox_ReportSecrets")->click();
+        const QString html = folder_.filePath("report.html");
+        QVERIFY(save("pushButton_ReportHtml", html).contains("8765"));
+        QVERIFY(!(QFile::permissions(html) & (QFile::ReadGroup | QFile::ReadOther)));
+        auto* notice = child<QLabel>("label_ReportNotice");
+        QCOMPARE(notice->text(), QString("rev_218"));
+        const FullDisk disk(10);
+        QCOMPARE(save("pushButton_ReportPdf", folder_.filePath("full.pdf")), QByteArray("no file"));
+        QCOMPARE(notice->text(), QString("rev_198"));
+    }
+
     // The list of what has changed goes when the focus does.
     void changedOnly()
     {
@@ -289,6 +401,27 @@ private:
             qFatal("no %s", name);
         return found;
     }
+    // Does it to the next window of that kind that comes up in front.
+    template <class Window>
+    static void answerNext(std::function<void(Window*)> answer)
+    {
+        auto* timer = new QTimer(qApp);
+        QObject::connect(timer, &QTimer::timeout, timer, [timer, answer] {
+            if (auto* window = qobject_cast<Window*>(QApplication::activeModalWidget())) {
+                timer->deleteLater();
+                timer->stop();
+                answer(window);
+            }
+        });
+        timer->start(5);
+    }
+    static void chooseNext(const QString& path)
+    {
+        answerNext<QFileDialog>([path](QFileDialog* dialog) {
+            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
+            QMetaObject::invokeMethod(dialog, "accept");
+        });
+    }
     static void type(QWidget* field, const QString& keys)
     {
         field->setFocus();
@@ -298,6 +431,7 @@ private:
         QCoreApplication::processEvents();
     }
 
+    QTemporaryDir folder_;
     TestDevice device_;
     std::unique_ptr<VLK_Widget_Config> dialog_;
 };

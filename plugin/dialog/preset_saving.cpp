@@ -1,0 +1,72 @@
+#include "dialog/preset_saving.h"
+
+#include "dialog/file_names.h"
+#include "fuel/question.h"
+#include "review/preset.h"
+#include "windows/page_style.h"
+#include "xml/xml_document.h"
+
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include <algorithm>
+#include <optional>
+
+namespace vlk {
+
+namespace {
+
+QString word(const char* key)
+{
+    return QCoreApplication::translate("vlk", key);
+}
+
+// None when the user cancels.
+std::optional<review::Personal> askPersonal(QWidget* parent, int others)
+{
+    QMessageBox box(QMessageBox::Question, word("rev_199"), word("rev_200"), QMessageBox::NoButton, parent);
+    box.setObjectName(QStringLiteral("messageBox_Personal"));
+    auto* include = new QCheckBox(word("rev_201"));
+    box.setCheckBox(include);
+    auto* save = box.addButton(word("rev_202"), QMessageBox::AcceptRole);
+    auto* cancel = box.addButton(word("rev_203"), QMessageBox::RejectRole);
+    dressMessageBox(box);
+    box.setDefaultButton(save);
+    box.setEscapeButton(cancel);
+    // Without them there would be nothing in it.
+    if (others == 0) {
+        save->setEnabled(false);
+        QObject::connect(include, &QCheckBox::toggled, save, &QPushButton::setEnabled);
+    }
+    box.exec();
+    if (box.clickedButton() != save)
+        return {};
+    return include->isChecked() ? review::Personal::included : review::Personal::leftOut;
+}
+
+} // namespace
+
+void savePreset(QWidget* parent, const review::FileState& from, const std::vector<int>& keys)
+{
+    std::optional personal = review::Personal::leftOut;
+    const auto personals = std::ranges::count_if(keys, review::isPersonal);
+    if (personals > 0)
+        personal = askPersonal(parent, static_cast<int>(keys.size() - personals));
+    if (!personal)
+        return;
+    const QString path =
+        askPathToSave(parent, {word("rev_199"), word("rev_204"), word("rev_205"), QStringLiteral("xml")});
+    if (path.isEmpty())
+        return;
+    XmlDocument document(QString(), QStringLiteral("DEVICE"));
+    review::writePreset(*document.root(), from, keys, *personal);
+    const bool holdsSecrets =
+        personal == review::Personal::included && std::ranges::any_of(keys, review::isSecret);
+    const QString failure = saveAsAsked(path, document.text(), holdsSecrets);
+    if (!failure.isEmpty())
+        warn(parent, failure);
+}
+
+} // namespace vlk

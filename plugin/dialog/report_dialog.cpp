@@ -1,0 +1,162 @@
+#include "dialog/report_dialog.h"
+
+#include "dialog/configuration_review.h"
+#include "dialog/file_names.h"
+#include "dialog/report_sheet.h"
+#include "review/report.h"
+#include "typing/notice_bar.h"
+#include "windows/fit_to_screen.h"
+#include "windows/named_widget.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPushButton>
+#include <QShowEvent>
+#include <QTextBrowser>
+
+namespace vlk {
+
+namespace {
+
+enum Contents { All, Edited, NotDefault };
+constexpr const char* kContents[] = {"rev_207", "rev_208", "rev_209"};
+constexpr int kSaved = 1;
+constexpr QSize kUsualSize(760, 560);
+
+QPalette ofPaper(QPalette palette)
+{
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Text, Qt::black);
+    return palette;
+}
+
+QByteArray asText(const QString& html, bool /*isOnePage*/)
+{
+    return html.toUtf8();
+}
+
+} // namespace
+
+ReportDialog::ReportDialog(const ConfigurationReview& review, std::function<QStringList()> about,
+                           QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint), review_(review),
+      about_(std::move(about)), bar_(new NoticeBar(this, QStringLiteral("label_ReportNotice"))),
+      of_(new QLabel(this)), contents_(namedWidget<QComboBox>("comboBox_ReportContents", this)),
+      onePage_(namedWidget<QCheckBox>("checkBox_OnePage", this)),
+      secrets_(namedWidget<QCheckBox>("checkBox_ReportSecrets", this)),
+      preview_(namedWidget<QTextBrowser>("textBrowser_Report", this)),
+      print_(namedWidget<QPushButton>("pushButton_PrintReport", this)),
+      pdf_(namedWidget<QPushButton>("pushButton_ReportPdf", this)),
+      saveHtml_(namedWidget<QPushButton>("pushButton_ReportHtml", this)),
+      close_(namedWidget<QPushButton>("pushButton_CloseReport", this))
+{
+    setObjectName(QStringLiteral("dialog_Report"));
+    of_->setBuddy(contents_);
+    for (const char* key : kContents)
+        contents_->addItem(QLatin1String(key));
+    preview_->setOpenLinks(false);
+    preview_->setPalette(ofPaper(preview_->palette()));
+    auto* choice = new QHBoxLayout;
+    choice->setSpacing(8);
+    for (QWidget* widget : QWidgetList{of_, contents_, onePage_, secrets_})
+        choice->addWidget(widget);
+    choice->addStretch();
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(8);
+    buttons->addStretch();
+    for (QPushButton* button : {print_, pdf_, saveHtml_, close_}) {
+        button->setAutoDefault(false);
+        buttons->addWidget(button);
+    }
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6, 6, 6, 6);
+    layout->setSpacing(6);
+    layout->addWidget(bar_);
+    layout->addLayout(choice);
+    layout->addWidget(preview_, 1);
+    layout->addLayout(buttons);
+    connect(contents_, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &ReportDialog::refresh);
+    connect(onePage_, &QCheckBox::toggled, this, &ReportDialog::refresh);
+    connect(secrets_, &QCheckBox::toggled, this, &ReportDialog::refresh);
+    connect(print_, &QPushButton::clicked, this, &ReportDialog::print);
+    connect(pdf_, &QPushButton::clicked, this,
+            [this] { save("rev_214", QStringLiteral("pdf"), &reportPdf); });
+    connect(saveHtml_, &QPushButton::clicked, this,
+            [this] { save("rev_215", QStringLiteral("html"), &asText); });
+    connect(close_, &QPushButton::clicked, this, &QDialog::close);
+    resize(kUsualSize);
+    keepOnScreen(this);
+    retranslate();
+}
+
+void ReportDialog::retranslate()
+{
+    setWindowTitle(tr("rev_206"));
+    of_->setText(tr("rev_210"));
+    for (int i = 0; i < contents_->count(); ++i)
+        contents_->setItemText(i, tr(kContents[i]));
+    onePage_->setText(tr("rev_211"));
+    onePage_->setToolTip(tr("rev_212"));
+    secrets_->setText(tr("rev_213"));
+    preview_->setAccessibleName(tr("rev_206"));
+    print_->setText(tr("rev_216"));
+    pdf_->setText(tr("rev_214"));
+    saveHtml_->setText(tr("rev_215"));
+    close_->setText(tr("wrd_054"));
+    bar_->retranslate();
+    if (isVisible())
+        refresh();
+}
+
+void ReportDialog::showEvent(QShowEvent* event)
+{
+    if (!event->spontaneous()) {
+        secrets_->setChecked(false);
+        refresh();
+    }
+    QDialog::showEvent(event);
+}
+
+void ReportDialog::refresh()
+{
+    const Configuration configuration = review_.written();
+    const review::Differences notDefault(review::FileState::ofDefaults(configuration),
+                                         review::FileState::ofConfiguration(configuration));
+    const int contents = contents_->currentIndex();
+    const review::ReportChoice choice{contents != All, onePage_->isChecked(),
+                                      secrets_->isChecked() ? review::Secrets::shown
+                                                            : review::Secrets::masked};
+    html_ = toHtml(configuration, reportOf(configuration, contents == Edited ? review_.edits() : notDefault,
+                                           review_.advice(), about_(), choice));
+    preview_->setHtml(html_);
+}
+
+void ReportDialog::print()
+{
+    QPrinter printer;
+    QPrintDialog dialog(&printer, this);
+    if (dialog.exec() == QDialog::Accepted)
+        printReport(html_, onePage_->isChecked(), printer);
+}
+
+void ReportDialog::save(const char* kind, const QString& suffix,
+                        QByteArray (*content)(const QString& html, bool isOnePage))
+{
+    const QString path =
+        askPathToSave(this, {tr(kind), tr("rev_217") + QLatin1Char('.') + suffix,
+                             suffix.toUpper() + QStringLiteral(" (*.%1)").arg(suffix), suffix});
+    if (path.isEmpty())
+        return;
+    const QString failure = saveAsAsked(path, content(html_, onePage_->isChecked()), secrets_->isChecked());
+    if (failure.isEmpty())
+        bar_->tell(kSaved, {Mark::right, tr("rev_218").arg(QDir::toNativeSeparators(path)), {}});
+    else
+        bar_->tell(kSaved, {Mark::invalid, failure, {}});
+}
+
+} // namespace vlk

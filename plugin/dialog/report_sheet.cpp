@@ -1,0 +1,68 @@
+#include "dialog/report_sheet.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QBuffer>
+#include <QPdfWriter>
+#include <QTextDocument>
+#include <QTextFrame>
+
+#include <memory>
+
+namespace vlk {
+
+namespace {
+
+constexpr qreal kUsualPoints = 9;    // points
+constexpr qreal kSmallestPoints = 6; // that can be read on paper
+constexpr qreal kStep = 0.5;
+constexpr qreal kMargin = 2 / 2.54; // inches, as QTextDocument::print() leaves them
+
+void setSize(QTextDocument& document, qreal points)
+{
+    QFont font = document.defaultFont();
+    font.setPointSizeF(points);
+    document.setDefaultFont(font);
+}
+
+int pagesOn(const QPagedPaintDevice& device, const QTextDocument& document)
+{
+    const std::unique_ptr<QTextDocument> sheet(document.clone());
+    sheet->documentLayout()->setPaintDevice(const_cast<QPagedPaintDevice*>(&device));
+    QTextFrameFormat frame = sheet->rootFrame()->frameFormat();
+    frame.setMargin(kMargin * device.logicalDpiY());
+    sheet->rootFrame()->setFrameFormat(frame);
+    sheet->setPageSize(QSizeF(device.width(), device.height()));
+    return sheet->pageCount();
+}
+
+} // namespace
+
+void printReport(const QString& html, bool isOnePage, QPagedPaintDevice& device)
+{
+    QTextDocument document;
+    qreal points = kUsualPoints;
+    setSize(document, points);
+    document.setHtml(html);
+    while (isOnePage && points > kSmallestPoints && pagesOn(device, document) > 1) {
+        points -= kStep;
+        setSize(document, points);
+    }
+    document.print(&device);
+}
+
+QByteArray reportPdf(const QString& html, bool isOnePage)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter pdf(&buffer);
+        pdf.setPageSize(QPageSize(QPageSize::A4));
+        QTextDocument titled;
+        titled.setHtml(html);
+        pdf.setTitle(titled.metaInformation(QTextDocument::DocumentTitle));
+        printReport(html, isOnePage, pdf);
+    }
+    return buffer.data();
+}
+
+} // namespace vlk
