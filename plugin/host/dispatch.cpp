@@ -6,6 +6,7 @@
 #include "dialog/widget_config_full.h"
 #include "host/device_r7106.h"
 #include "host/file_questions.h"
+#include "host/preset_application.h"
 #include "telemetry/view/widget_tmi_view.h"
 
 #include <algorithm>
@@ -226,7 +227,7 @@ constexpr Entry table[] = {
     {Message::GetExtensions,
      [](VLK_Device_R7106&, const Parameters& parameters) {
          vlk::Extensions extensions;
-         extensions.newest = static_cast<std::uint32_t>(Message::CheckFile);
+         extensions.newest = static_cast<std::uint32_t>(Message::ApplyPreset);
          fillRecord(parameters.p1, extensions);
      }},
     {Message::CompareFiles,
@@ -238,6 +239,16 @@ constexpr Entry table[] = {
      [](VLK_Device_R7106&, const Parameters& parameters) {
          if (sizeOf(parameters.p1) >= sizeof(vlk::FileCheck))
              vlk::checkFile(*static_cast<vlk::FileCheck*>(parameters.p1));
+     }},
+    {Message::ReportFile,
+     [](VLK_Device_R7106&, const Parameters& parameters) {
+         if (sizeOf(parameters.p1) >= sizeof(vlk::FileReport))
+             vlk::reportFile(*static_cast<vlk::FileReport*>(parameters.p1));
+     }},
+    {Message::ApplyPreset,
+     [](VLK_Device_R7106& device, const Parameters& parameters) {
+         if (sizeOf(parameters.p1) >= sizeof(vlk::PresetApplication))
+             vlk::applyPreset(*static_cast<vlk::PresetApplication*>(parameters.p1), device.configDialog());
      }},
 };
 

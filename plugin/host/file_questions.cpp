@@ -2,6 +2,7 @@
 
 #include "review/check_file.h"
 #include "review/compare_files.h"
+#include "review/report_file.h"
 
 namespace vlk {
 
@@ -10,20 +11,6 @@ namespace {
 const QString* orNull(const QString& text)
 {
     return text.isNull() ? nullptr : &text;
-}
-
-FileDifference told(const review::Difference& difference, const review::DifferenceText& text)
-{
-    FileDifference told;
-    told.path = &difference.path;
-    told.page = &text.page;
-    told.group = &text.group;
-    told.caption = &text.caption;
-    told.before = orNull(text.before);
-    told.after = orNull(text.after);
-    told.beforeText = told.before ? &text.beforeText : nullptr;
-    told.afterText = told.after ? &text.afterText : nullptr;
-    return told;
 }
 
 FileRemark told(const review::FileRemark& remark)
@@ -59,6 +46,20 @@ FileComparison::Outcome outcomeOf(review::Comparison comparison)
 
 } // namespace
 
+FileDifference toldDifference(const review::Difference& difference, const review::DifferenceText& text)
+{
+    FileDifference told;
+    told.path = &difference.path;
+    told.page = &text.page;
+    told.group = &text.group;
+    told.caption = &text.caption;
+    told.before = orNull(text.before);
+    told.after = orNull(text.after);
+    told.beforeText = told.before ? &text.beforeText : nullptr;
+    told.afterText = told.after ? &text.afterText : nullptr;
+    return told;
+}
+
 void compareFiles(FileComparison& asked)
 {
     if (!asked.after || !asked.take)
@@ -67,7 +68,7 @@ void compareFiles(FileComparison& asked)
     asked.outcome = outcomeOf(
         review::compareFiles(asked.before ? *asked.before : QString(), *asked.after, secretsOf(asked),
                              [&](const review::Difference& difference, const review::DifferenceText& text) {
-                                 const FileDifference row = told(difference, text);
+                                 const FileDifference row = toldDifference(difference, text);
                                  ++asked.differences;
                                  asked.take(asked.context, &row);
                              }));
@@ -85,6 +86,29 @@ void checkFile(FileCheck& asked)
             asked.take(asked.context, &row);
         });
     asked.outcome = isRead ? FileCheck::done : FileCheck::unreadable;
+}
+
+void reportFile(FileReport& asked)
+{
+    if (!asked.file || !asked.html)
+        return;
+    const review::ReportChoice choice{asked.changesAlone == 1, asked.onePage == 1, secretsOf(asked)};
+    const QStringList about =
+        asked.about ? asked.about->split(QLatin1Char('\n'), Qt::SkipEmptyParts) : QStringList();
+    const review::FileReportText report =
+        review::reportOfFile(*asked.file, asked.before ? *asked.before : QString(), about, choice);
+    switch (report.outcome) {
+    case review::Comparison::afterUnreadable:
+        asked.outcome = FileReport::fileUnreadable;
+        break;
+    case review::Comparison::beforeUnreadable:
+        asked.outcome = FileReport::beforeUnreadable;
+        break;
+    case review::Comparison::done:
+        asked.outcome = FileReport::done;
+        *asked.html = report.html;
+        break;
+    }
 }
 
 } // namespace vlk

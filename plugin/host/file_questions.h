@@ -1,13 +1,19 @@
 #pragma once
 
-// The extensions that tell a host about configuration files. Each gives what it finds to the host row by row,
-// and fills what was asked for; a record without a path or a function asks for nothing.
+// The extensions that tell a host about configuration files. Each gives what it finds to the host row by row
+// or as one text, and fills what was asked for; a record without a path, a function or a text to fill asks
+// for nothing.
 
 #include "link/messages.h"
+#include "review/difference_text.h"
 
 namespace vlk {
 
 void compareFiles(FileComparison& asked);
 void checkFile(FileCheck& asked);
+void reportFile(FileReport& asked);
+
+// The record of a difference; its texts have to stay.
+FileDifference toldDifference(const review::Difference& difference, const review::DifferenceText& text);
 
 } // namespace vlk

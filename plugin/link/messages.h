@@ -62,6 +62,8 @@ enum class Message : std::uint32_t {
     GetExtensions = 7106003,
     CompareFiles = 7106004,
     CheckFile = 7106006,
+    ReportFile = 7106007,
+    ApplyPreset = 7106008,
 
     // Plug-in to host
     ShowHelp = 2007,
@@ -266,6 +268,69 @@ struct FileCheck
     void* context = nullptr;
 };
 
+// ReportFile: what a configuration file holds as a document for people, in the present language.
+struct FileReport
+{
+    enum Outcome : std::uint32_t { none, done, fileUnreadable, beforeUnreadable };
+
+    std::uint32_t size = sizeof(FileReport);
+    std::uint32_t outcome = none;    // filled
+    std::uint32_t changesAlone = 0;  // 1: what differs from `before`, else all settings
+    std::uint32_t onePage = 0;       // 1: in short, all settings being those that do not have their defaults
+    std::uint32_t showSecrets = 0;   // 1: passwords are told, else dots
+    const QString* file = nullptr;   // path
+    const QString* before = nullptr; // path; null: what the keys of the file would read as if missing
+    const QString* about = nullptr;  // lines of the host's own below the title, such as which tracker
+    QString* html = nullptr;         // filled when done
+};
+
+// ApplyPreset: the keys of a preset, a document with chosen keys alone, laid over a configuration. Of a file
+// everything else that it holds stays, unknown keys and their order too.
+struct PresetMisfit // a key of the preset that does not fit
+{
+    enum Reason : std::uint32_t { unknownKey, doubled, badValue, noPlace };
+
+    std::uint32_t size = sizeof(PresetMisfit);
+    std::uint32_t reason = unknownKey;
+    const QString* path = nullptr; // "TRACK/POINTS[2]/angle" in the second element of that name
+    const QString* page = nullptr; // as of FileDifference
+    const QString* group = nullptr;
+    const QString* caption = nullptr;
+    const QString* value = nullptr; // as the preset holds it
+    const QString* note = nullptr;  // the reason in words
+};
+
+// The plug-in calls the functions, of which either may be null, during the message; the texts are valid
+// during the call.
+struct PresetApplication
+{
+    enum Outcome : std::uint32_t {
+        none,
+        done,             // all that fits, or the dry run
+        presetUnreadable, // or the preset is no document
+        fileUnreadable,
+        refused,    // something does not fit
+        notWritten, // `reason` says why
+        shown,      // of the open configuration
+        nothingOpen
+    };
+
+    std::uint32_t size = sizeof(PresetApplication);
+    std::uint32_t outcome = none;      // filled
+    std::uint32_t changes = 0;         // filled: how many there are
+    std::uint32_t misfits = 0;         // filled
+    std::uint32_t leaveOutMisfits = 0; // 1: the rest is applied, else nothing with one that does not fit
+    std::uint32_t showSecrets = 0;     // 1: passwords are told, else dots
+    const QString* preset = nullptr;   // path
+    const QString* file = nullptr;     // path; null: the configuration that is open, which shows its user
+                                       // what would change and applies what he chooses of it
+    const QString* target = nullptr; // path of the file that is written, which may be `file`; null: a dry run
+    void (*takeChange)(void* context, const FileDifference* change) = nullptr;
+    void (*takeMisfit)(void* context, const PresetMisfit* misfit) = nullptr;
+    void* context = nullptr;
+    QString* reason = nullptr; // filled when not written; may be null
+};
+
 // AnalogRecord is a plain byte record of `analogRecordSize` bytes with unsigned 16-bit little-endian values:
 // the lines IN1, IN2, IN3 in millivolts from byte 15, and the fuel sensors at the bytes that name them.
 inline constexpr int analogRecordSize = 42;
@@ -419,6 +484,8 @@ inline constexpr MessageInfo messages[] = {
     detail::in(Message::GetExtensions, "GetExtensions", Parameter::RecordAddress, Parameter::None, true),
     detail::in(Message::CompareFiles, "CompareFiles", Parameter::RecordAddress, Parameter::None, true),
     detail::in(Message::CheckFile, "CheckFile", Parameter::RecordAddress, Parameter::None, true),
+    detail::in(Message::ReportFile, "ReportFile", Parameter::RecordAddress, Parameter::None, true),
+    detail::in(Message::ApplyPreset, "ApplyPreset", Parameter::RecordAddress, Parameter::None, true),
 };
 
 // A plain value in the place of an address, and back. The token of a LibraryInfo becomes the handle likewise.

@@ -13,13 +13,12 @@ FileReportText reportOfFile(const QString& path, const QString& before, const QS
     if (files.outcome != Comparison::done)
         return {files.outcome, {}};
     XmlDocument document(configurationText(path), QStringLiteral("DEVICE"));
-    const FileState asItStands = FileState::ofDocument(*document.root());
-    QHash<QString, QString> unread;
-    for (const Stranger& stranger : asItStands.strangers())
-        unread.insert(stranger.path, stranger.text);
     const QStringList lines = QStringList(translated("rev_223").arg(QFileInfo(path).fileName())) + about;
-    return {Comparison::done, toHtml(files.after, reportOf(files.after, files.differences,
-                                                           advise(files.after, unread), lines, choice))};
+    return {
+        Comparison::done,
+        toHtml(files.after, reportOf(files.after, files.differences,
+                                     advise(files.after, FileState::ofDocument(*document.root()).unread()),
+                                     lines, choice))};
 }
 
 } // namespace vlk::review

@@ -128,7 +128,7 @@ private Q_SLOTS:
     {
         vlk::Extensions extensions;
         host_.send(Message::GetExtensions, &extensions);
-        QCOMPARE(extensions.newest, static_cast<quint32>(Message::CheckFile));
+        QCOMPARE(extensions.newest, static_cast<quint32>(Message::ApplyPreset));
 
         const QString left = writeFile(
             folder_.filePath("left.xml"),
@@ -200,6 +200,92 @@ private Q_SLOTS:
         QCOMPARE(check(&file, whole - 1), QString("0 0 "));
         QCOMPARE(check(nullptr, whole), QString("0 0 "));
         host_.send(Message::CheckFile);
+    }
+
+    void reportsFiles()
+    {
+        const QString file = writeFile(folder_.filePath("told.xml"),
+                                       "<DEVICE><TRANS><AP1 pass=\"geheim\"/></TRANS><TRACK><POINTS "
+                                       "angle=\"7\"/></TRACK></DEVICE>");
+        const QString none = file + "_";
+        const QString about = "Tracker 1\nof a customer";
+        const auto report = [&](const QString* path, vlk::FileReport asked) {
+            QString html;
+            asked.file = path;
+            asked.about = &about;
+            asked.html = &html;
+            host_.send(Message::ReportFile, &asked);
+            return QString::number(asked.outcome) + html;
+        };
+        const QString all = report(&file, {});
+        QVERIFY(all.startsWith("1<!DOCTYPE html>") && all.contains("<p>of a customer</p>"));
+        QVERIFY(all.contains("<td>7 abbr_016</td>") && !all.contains("geheim"));
+        const QString changed = report(&file, {.changesAlone = 1, .showSecrets = 1});
+        QVERIFY(changed.contains("geheim") && changed.count("<tr>") == 4);
+        QVERIFY(report(&file, {.onePage = 1}).size() < all.size() / 2);
+        QVERIFY(!report(&file, {.changesAlone = 1, .before = &file}).contains("<tr>"));
+        QCOMPARE(report(&none, {}), QString("2"));
+        QCOMPARE(report(&file, {.before = &none}), QString("3"));
+        QCOMPARE(report(nullptr, {}), QString("0"));
+        QCOMPARE(report(&file, {.size = sizeof(vlk::FileReport) - 1}), QString("0"));
+        host_.send(Message::ReportFile);
+    }
+
+    // The file keeps what nobody knows; with something that does not fit nothing happens, or the rest does.
+    void appliesPresets()
+    {
+        const QByteArray whole =
+            "<DEVICE><X y=\"1\"/><TRACK><POINTS bend=\"2\" angle=\"7\"/></TRACK></DEVICE>";
+        const QString file = writeFile(folder_.filePath("old.xml"), whole);
+        const QString good =
+            writeFile(folder_.filePath("good.xml"),
+                      "<DEVICE creator=\"preset\"><TRACK><POINTS angle=\"9\"/></TRACK></DEVICE>");
+        const QString bad =
+            writeFile(folder_.filePath("bad.xml"),
+                      "<DEVICE><TRACK><POINTS angle=\"8\" dist=\"x\" z=\"\"/></TRACK></DEVICE>");
+        const QString none = folder_.filePath("none");
+        const QString target = folder_.filePath("new.xml");
+        const QString closed = folder_.filePath("no folder/new.xml");
+        QString reason;
+        const auto apply = [&](const QString* preset, const QString* to, vlk::PresetApplication asked = {}) {
+            QStringList told;
+            asked.preset = preset;
+            asked.file = &file;
+            asked.target = to;
+            asked.context = &told;
+            asked.reason = &reason;
+            asked.takeChange = [](void* context, const vlk::FileDifference* row) {
+                *static_cast<QStringList*>(context) << *row->path + '=' + *row->after;
+            };
+            asked.takeMisfit = [](void* context, const vlk::PresetMisfit* row) {
+                *static_cast<QStringList*>(context) << QString::number(row->reason) + *row->path + *row->note;
+            };
+            host_.send(Message::ApplyPreset, &asked);
+            told.prepend(QStringLiteral("%1 %2 %3").arg(asked.outcome).arg(asked.changes).arg(asked.misfits));
+            return told.join(' ');
+        };
+        QCOMPARE(apply(&good, nullptr), QString("1 1 0 TRACK/POINTS/angle=9"));
+        QVERIFY(!QFile::exists(target) && readFile(file) == whole);
+        QCOMPARE(apply(&good, &target), QString("1 1 0 TRACK/POINTS/angle=9"));
+        QCOMPARE(readFile(target), QByteArray(whole).replace("\"7\"", "\"9\""));
+        const QString misfits = "0TRACK/POINTS/zrev_184 2TRACK/POINTS/distrev_187";
+        QCOMPARE(apply(&bad, &file), "4 0 2 " + misfits);
+        QCOMPARE(readFile(file), whole);
+        QCOMPARE(apply(&good, &closed), QString("5 1 0 TRACK/POINTS/angle=9"));
+        QVERIFY(!reason.isEmpty());
+        QCOMPARE(apply(&bad, &file, {.leaveOutMisfits = 1}), "1 1 2 " + misfits + " TRACK/POINTS/angle=8");
+        QCOMPARE(readFile(file), QByteArray(whole).replace("\"7\"", "\"8\""));
+        QCOMPARE(apply(&none, &file), QString("2 0 0"));
+        QCOMPARE(apply(nullptr, &file), QString("0 0 0"));
+        QCOMPARE(apply(&good, &file, {.size = sizeof(vlk::PresetApplication) - 1}), QString("0 0 0"));
+        vlk::PresetApplication open;
+        open.preset = &good;
+        host_.send(Message::ApplyPreset, &open);
+        QCOMPARE(open.outcome, quint32(vlk::PresetApplication::nothingOpen));
+        host_.open(file);
+        host_.send(Message::ApplyPreset, &open);
+        QCOMPARE(open.outcome, quint32(vlk::PresetApplication::shown));
+        host_.send(Message::ApplyPreset);
     }
 
     void balanceCodeFollowsFileAndConnection()

@@ -145,6 +145,17 @@ constexpr RecordRow records[] = {
          const auto& r = as<FileCheck>(p);
          return {QStringLiteral("outcome=%1 remarks=%2").arg(r.outcome).arg(r.remarks), {}};
      }},
+    {Message::ReportFile,
+     [](const void* p) -> MessageText {
+         return {QStringLiteral("outcome=%1").arg(as<FileReport>(p).outcome), {}};
+     }},
+    {Message::ApplyPreset,
+     [](const void* p) -> MessageText {
+         const auto& r = as<PresetApplication>(p);
+         return {
+             QStringLiteral("outcome=%1 changes=%2 misfits=%3").arg(r.outcome).arg(r.changes).arg(r.misfits),
+             {}};
+     }},
     {Message::TachographFileRequest,
      [](const void* p) -> MessageText {
          const auto& r = as<szQueryTaho>(p);
