@@ -176,6 +176,60 @@ private Q_SLOTS:
         QVERIFY(bench.settings.recentFiles().isEmpty());
     }
 
+    // A preset is applied to what the user chooses, and is not opened itself.
+    void asksWhatAPresetIsFor_data()
+    {
+        DataTable<QString, QString, QString>({"verb", "chosen", "passed"})
+            .row("tracker", "Read from tracker", "", "2101 tracker.xml, 7106008 6")
+            .row("new one", "New configuration", "", "2101 , 7106008 6")
+            .row("file", "Open a file…", "whole.xml", "2101 whole.xml, 7106008 6")
+            .row("another preset", "Open a file…", "preset.xml", "")
+            .row("nothing", "Cancel", "", "");
+    }
+    void asksWhatAPresetIsFor()
+    {
+        QFETCH(QString, verb);
+        QFETCH(QString, chosen);
+        QFETCH(QString, passed);
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        OpenedWorkbench bench;
+        QVERIFY(bench.start(VLK_PLUGIN));
+        workbench::PluginLink& link = bench.window.session().link();
+        QStringList told;
+        connect(&link, &workbench::PluginLink::passed, this, [&](vlk::Direction, quint32 id, const void* p1) {
+            if (id == 2101)
+                told << "2101 " + QFileInfo(static_cast<const vlk::OpenRequest*>(p1)->path).fileName();
+            else if (id == 7106008)
+                told << QStringLiteral("7106008 %1")
+                            .arg(static_cast<const vlk::PresetApplication*>(p1)->outcome);
+        });
+        const QString preset =
+            writeFile(bench.root.filePath(QStringLiteral("preset.xml")),
+                      "<DEVICE creator=\"preset\"><TRACK><POINTS angle=\"9\"/></TRACK></DEVICE>");
+        writeFile(bench.root.filePath(QStringLiteral("whole.xml")), "<DEVICE/>");
+        QTimer press;
+        connect(&press, &QTimer::timeout, this, [&] {
+            const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box || box->objectName() != QStringLiteral("messageBox_Preset"))
+                return;
+            press.stop();
+            if (!chosen.isEmpty())
+                chooseNext(bench.root.filePath(chosen));
+            for (QAbstractButton* button : box->buttons()) {
+                if (button->text().remove(QLatin1Char('&')) == verb)
+                    QTest::keyClick(button, Qt::Key_Space);
+            }
+        });
+        press.start(5);
+        bench.window.openFile(preset);
+        QCOMPARE(told.join(QStringLiteral(", ")), passed);
+        QCOMPARE(bench.settings.recentFiles().value(0).path, passed.isEmpty() ? QString() : preset);
+        QCOMPARE(bench.text("label_Status").contains(QStringLiteral("is a preset too")),
+                 chosen == "preset.xml");
+        messageDuring([] {});
+        link.send(vlk::Message::CloseWindows);
+    }
+
     // A recent file opens in the window that it was last shown in.
     void reopensWhereItWasShown()
     {

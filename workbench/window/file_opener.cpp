@@ -3,6 +3,7 @@
 #include "check/telemetry_file_check.h"
 #include "window/host_session.h"
 #include "window/languages.h"
+#include "window/message_box.h"
 #include "window/recent_files.h"
 #include "window/stored_file.h"
 #include "window/trouble_text.h"
@@ -24,17 +25,24 @@ void FileOpener::open(const QString& path, TelemetryWindow window)
         Q_EMIT failed([path] { return text("wb_file_missing").arg(path); });
         return;
     }
-    if (storedFileKind(path) == StoredFile::Telemetry)
+    const StoredFile kind = storedFileKind(path);
+    if (kind == StoredFile::Telemetry)
         openTelemetry(path, window);
+    else if (kind == StoredFile::Preset && session_.link().appliesPresets())
+        applyPreset(path);
     else
         openConfiguration(path, window);
 }
 
+QString FileOpener::askConfiguration()
+{
+    return QFileDialog::getOpenFileName(mainWindow_, text("wb_open_caption"), settings_.configurationFolder(),
+                                        text("wb_type_configuration") + QStringLiteral(" (*.xml)"));
+}
+
 void FileOpener::chooseConfiguration()
 {
-    const QString path =
-        QFileDialog::getOpenFileName(mainWindow_, text("wb_open_caption"), settings_.configurationFolder(),
-                                     text("wb_type_configuration") + QStringLiteral(" (*.xml)"));
+    const QString path = askConfiguration();
     if (!path.isEmpty())
         open(path, TelemetryWindow::Browser);
 }
@@ -51,6 +59,7 @@ void FileOpener::chooseTelemetry(TelemetryWindow window)
         openTelemetry(path, window);
         break;
     case StoredFile::Configuration:
+    case StoredFile::Preset:
         Q_EMIT failed([path] { return text("wb_file_no_telemetry").arg(path); });
         break;
     case StoredFile::Unknown:
@@ -81,6 +90,55 @@ void FileOpener::openConfiguration(const QString& path, TelemetryWindow window)
     }
     recent_.add(path, window);
     Q_EMIT opened();
+}
+
+void FileOpener::applyPreset(const QString& preset)
+{
+    Sentence failure = session_.whyNotOpened(preset);
+    if (!failure && !openFor(preset, &failure))
+        return;
+    if (failure) {
+        Q_EMIT failed(failure);
+        return;
+    }
+    recent_.add(preset, TelemetryWindow::Browser);
+    Q_EMIT opened();
+    session_.link().showPreset(preset);
+}
+
+bool FileOpener::openFor(const QString& preset, Sentence* failure)
+{
+    enum Way { Tracker, File, New };
+    std::vector<std::pair<Way, const char*>> ways{
+        {Tracker, "wb_preset_read"}, {File, "wb_preset_open"}, {New, "wb_preset_new"}};
+    if (!session_.tracker().attached())
+        ways.erase(ways.begin());
+    QStringList verbs;
+    for (const auto& [way, key] : ways)
+        verbs << text(key);
+    const int chosen = choose(text("wb_preset_question").arg(QFileInfo(preset).fileName()), verbs,
+                              QStringLiteral("messageBox_Preset"), mainWindow_);
+    if (chosen < 0)
+        return false;
+    const bool full = settings_.fullWindow();
+    switch (ways[chosen].first) {
+    case Tracker:
+        *failure = session_.readConfiguration(full);
+        break;
+    case File: {
+        const QString path = askConfiguration();
+        if (path.isEmpty())
+            return false;
+        *failure = storedFileKind(path) == StoredFile::Preset
+                       ? [path] { return text("wb_preset_second").arg(path); }
+                       : session_.openConfiguration(path, full);
+        break;
+    }
+    case New:
+        session_.newConfiguration(full);
+        break;
+    }
+    return true;
 }
 
 } // namespace workbench

@@ -122,17 +122,31 @@ Sentence HostSession::liveTelemetry()
     return {};
 }
 
-Sentence HostSession::openConfiguration(const QString& path, bool full)
+Sentence HostSession::readFile(const QString& path, QByteArray* document) const
 {
     QFile file(path);
-    const QByteArray document = contentOf(file);
-    if (const auto problem = checkConfiguration(document, tracker_.model())) {
-        return [path, problem, error = file.isOpen() ? QString() : file.errorString()] {
-            return sentences({text("wb_open_failed").arg(path),
-                              error.isEmpty() ? reasonOf(*problem) : text("wb_problem_unreadable").arg(error),
-                              text("wb_do_file")});
-        };
-    }
+    *document = contentOf(file);
+    const auto problem = checkConfiguration(*document, tracker_.model());
+    if (!problem)
+        return {};
+    return [path, problem, error = file.isOpen() ? QString() : file.errorString()] {
+        return sentences({text("wb_open_failed").arg(path),
+                          error.isEmpty() ? reasonOf(*problem) : text("wb_problem_unreadable").arg(error),
+                          text("wb_do_file")});
+    };
+}
+
+Sentence HostSession::whyNotOpened(const QString& path) const
+{
+    QByteArray document;
+    return readFile(path, &document);
+}
+
+Sentence HostSession::openConfiguration(const QString& path, bool full)
+{
+    QByteArray document;
+    if (const Sentence failure = readFile(path, &document))
+        return failure;
     ++opened_;
     edited_.openFile(path, document);
     link_.openConfiguration(path, full, true);

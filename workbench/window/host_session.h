@@ -41,6 +41,8 @@ public:
     Sentence liveTelemetry();
     Sentence openConfiguration(const QString& path, bool full);
     void newConfiguration(bool full);
+    // Null when the file is a whole configuration of this model; else it says why it would not open.
+    Sentence whyNotOpened(const QString& path) const;
 
     // Asked before a configuration is written that sets every key and was not read from the tracker: with the
     // name of the file that it came from, empty for a new one. Without it nothing is asked.
@@ -82,6 +84,7 @@ private:
     };
 
     Fetched fetchConfiguration();
+    Sentence readFile(const QString& path, QByteArray* document) const;
     void receive(vlk::Message id, void* p1, void* p2);
     void deliver(vlk::Message id, void* p1, void* p2);
     void followSearch(vlk::Message id, const void* p1);

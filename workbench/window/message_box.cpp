@@ -38,22 +38,41 @@ void showWarning(const QString& text, QWidget* window)
     box->open();
 }
 
-bool agrees(const QString& question, const QString& verb, const QString& name, QWidget* window)
+namespace {
+
+// The place of the verb that was pressed, -1 for Cancel.
+int ask(QMessageBox::Icon icon, const QString& question, const QStringList& verbs, const QString& name,
+        QWidget* window, bool isVerbDefault)
 {
     // The window below may go while the question waits, and takes the box with it.
     const QPointer<QWidget> below = windowInFront(window);
-    const QPointer box = new QMessageBox(QMessageBox::Warning, workbench::text("wb_title"), question,
-                                         QMessageBox::Cancel, below);
+    const QPointer box =
+        new QMessageBox(icon, workbench::text("wb_title"), question, QMessageBox::Cancel, below);
     box->setObjectName(name);
     box->setTextFormat(Qt::PlainText);
-    const QPushButton* agree = box->addButton(verb, QMessageBox::AcceptRole);
-    box->setDefaultButton(QMessageBox::Cancel);
+    QList<QAbstractButton*> buttons;
+    for (const QString& verb : verbs)
+        buttons << box->addButton(verb, QMessageBox::AcceptRole);
+    box->setDefaultButton(isVerbDefault ? static_cast<QPushButton*>(buttons.first())
+                                        : static_cast<QPushButton*>(box->button(QMessageBox::Cancel)));
     box->exec();
-    const bool isAgreed = box && box->clickedButton() == agree;
+    const int pressed = box ? buttons.indexOf(box->clickedButton()) : -1;
     delete box;
     if (below)
         below->activateWindow();
-    return isAgreed;
+    return pressed;
+}
+
+} // namespace
+
+bool agrees(const QString& question, const QString& verb, const QString& name, QWidget* window)
+{
+    return ask(QMessageBox::Warning, question, {verb}, name, window, false) == 0;
+}
+
+int choose(const QString& question, const QStringList& verbs, const QString& name, QWidget* window)
+{
+    return ask(QMessageBox::Question, question, verbs, name, window, true);
 }
 
 } // namespace workbench

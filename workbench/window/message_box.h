@@ -3,7 +3,7 @@
 // Boxes of the workbench. They come up over whatever window is in front, a modal one included, and leave that
 // one active.
 
-#include <QString>
+#include <QStringList>
 
 class QWidget;
 
@@ -16,6 +16,10 @@ void showWarning(const QString& text, QWidget* window);
 // Asks before something that cannot be brought back: the verb is on the button that agrees, and Cancel is the
 // default.
 bool agrees(const QString& question, const QString& verb, const QString& name, QWidget* window);
+
+// Asks which of several things is meant, none of which loses anything; the first is the default. The place of
+// the verb that was pressed, -1 for Cancel.
+int choose(const QString& question, const QStringList& verbs, const QString& name, QWidget* window);
 
 // The window that a new one has to be a child of to be usable: the modal one in front, else the active one,
 // else the one that was active last, else the given.

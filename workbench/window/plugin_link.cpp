@@ -174,4 +174,18 @@ vlk::RunningWork PluginLink::runningWork()
     return record;
 }
 
+bool PluginLink::appliesPresets()
+{
+    vlk::Extensions record;
+    send(vlk::Message::GetExtensions, &record);
+    return record.newest >= static_cast<std::uint32_t>(vlk::Message::ApplyPreset);
+}
+
+void PluginLink::showPreset(const QString& path)
+{
+    vlk::PresetApplication record;
+    record.preset = &path;
+    send(vlk::Message::ApplyPreset, &record);
+}
+
 } // namespace workbench

@@ -48,6 +48,10 @@ public:
     // Nothing runs in a plug-in that does not know these two.
     vlk::EndedSave endSave();
     vlk::RunningWork runningWork();
+    // Whether the plug-in can apply presets.
+    bool appliesPresets();
+    // Shows what the preset would change in the configuration that is open.
+    void showPreset(const QString& path);
 
 Q_SIGNALS:
     // A message from the plug-in, to be answered or obeyed.

@@ -19,7 +19,9 @@ StoredFile storedFileKind(const QString& path)
     if (!reader.isStartElement())
         return StoredFile::Unknown;
     if (reader.name() == QLatin1String("DEVICE"))
-        return StoredFile::Configuration;
+        return reader.attributes().value(QLatin1String("creator")) == QLatin1String("preset")
+                   ? StoredFile::Preset
+                   : StoredFile::Configuration;
     return reader.name() == QLatin1String("TMI") ? StoredFile::Telemetry : StoredFile::Unknown;
 }
 

@@ -4,7 +4,8 @@
 
 #include <QString>
 
-enum class StoredFile { Configuration, Telemetry, Unknown };
+// A preset is a configuration that says so: a few settings for others to take.
+enum class StoredFile { Configuration, Preset, Telemetry, Unknown };
 
 namespace workbench {
 
