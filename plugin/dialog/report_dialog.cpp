@@ -26,6 +26,7 @@ namespace {
 enum Contents { All, Edited, NotDefault };
 constexpr const char* kContents[] = {"rev_207", "rev_208", "rev_209"};
 constexpr int kSaved = 1;
+constexpr int kNewsMs = 8000;
 constexpr QSize kUsualSize(760, 560);
 
 QPalette ofPaper(QPalette palette)
@@ -89,6 +90,13 @@ ReportDialog::ReportDialog(const ConfigurationReview& review, std::function<QStr
     connect(saveHtml_, &QPushButton::clicked, this,
             [this] { save("rev_215", QStringLiteral("html"), &asText); });
     connect(close_, &QPushButton::clicked, this, &QDialog::close);
+    news_.setInterval(kNewsMs);
+    connect(&news_, &QTimer::timeout, this, [this] {
+        if (bar_->underMouse() || bar_->isAncestorOf(focusWidget()))
+            return;
+        news_.stop();
+        bar_->end(kSaved);
+    });
     resize(kUsualSize);
     keepOnScreen(this);
     retranslate();
@@ -153,10 +161,13 @@ void ReportDialog::save(const char* kind, const QString& suffix,
     if (path.isEmpty())
         return;
     const QString failure = saveAsAsked(path, content(html_, onePage_->isChecked()), secrets_->isChecked());
-    if (failure.isEmpty())
+    news_.stop();
+    if (failure.isEmpty()) {
         bar_->tell(kSaved, {Mark::right, tr("rev_218").arg(QDir::toNativeSeparators(path)), {}});
-    else
+        news_.start();
+    } else {
         bar_->tell(kSaved, {Mark::invalid, failure, {}});
+    }
 }
 
 } // namespace vlk

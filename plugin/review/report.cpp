@@ -5,6 +5,7 @@
 #include "settings/value_text.h"
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 namespace vlk::review {
@@ -17,18 +18,14 @@ constexpr const char* kStyle =
     "h2 { border-bottom: 1px solid #000000; }\n"
     "td, th { text-align: left; vertical-align: top; }\n"
     "small { color: #444444; }\n";
+constexpr const char* kOnePageStyle = "h1 { font-size: large; margin: 0; }\n"
+                                      "h2 { font-size: medium; margin: 5px 0 1px 0; }\n"
+                                      "h3 { font-size: small; margin: 3px 0 0 0; }\n"
+                                      "p, ul { margin: 0; }\n";
 
 QString element(const char* name, const QString& text)
 {
     return QStringLiteral("<%1>%2</%1>\n").arg(QLatin1String(name), text.toHtmlEscaped());
-}
-
-QString headOfChanges()
-{
-    QString html = QStringLiteral("<tr>");
-    for (const char* key : {"rev_016", "rev_017", "rev_018"})
-        html += element("th", translated(key));
-    return html + QStringLiteral("</tr>\n");
 }
 
 struct Line
@@ -40,8 +37,40 @@ struct Line
 
 using Lines = std::vector<Line>;
 
+// Its value takes the whole width.
+bool isLong(const Line& line)
+{
+    constexpr int longest = 80;
+    return line.values.size() == 1 && line.values.first().size() > longest;
+}
+
+// The first row of a page; none where there is nothing to name.
+QString headRow(const QStringList& head)
+{
+    QString html;
+    for (const QString& title : head)
+        html += element("th", title);
+    return html.isEmpty() ? html : QStringLiteral("<tr>%1</tr>\n").arg(html);
+}
+
+QString rowOf(const Line& line)
+{
+    const QString caption = line.words.caption.toHtmlEscaped();
+    if (isLong(line))
+        return QStringLiteral("<tr><td colspan=\"2\">%1: %2</td></tr>\n")
+            .arg(caption, line.values.first().toHtmlEscaped());
+    const bool isPair = line.values.size() > 1;
+    QString html = QStringLiteral("<tr><td width=\"%1%\">").arg(isPair ? 50 : 60) + caption;
+    if (!line.note.isEmpty())
+        html += QStringLiteral("<br><small>%1</small>").arg(line.note.toHtmlEscaped());
+    for (const QString& value : line.values)
+        html += QLatin1String(isPair ? "</td><td width=\"25%\">" : "</td><td>") +
+                (value.isEmpty() ? QStringLiteral("–") : value.toHtmlEscaped());
+    return html + QStringLiteral("</td></tr>\n");
+}
+
 // Puts lines under their pages and groups, each heading where it changes.
-QString tables(Lines::const_iterator line, Lines::const_iterator end)
+QString tables(Lines::const_iterator line, Lines::const_iterator end, const QStringList& head)
 {
     QString html;
     QString page;
@@ -63,22 +92,12 @@ QString tables(Lines::const_iterator line, Lines::const_iterator end)
             if (!words.group.isEmpty() && words.group != words.page)
                 html += element("h3", words.group);
         }
-        const bool isPair = line->values.size() > 1;
         if (!std::exchange(isInTable, true)) {
             html += QStringLiteral("<table width=\"100%\" cellpadding=\"2\">\n");
-            if (isOtherPage && isPair)
-                html += headOfChanges();
+            if (isOtherPage)
+                html += headRow(head);
         }
-        html += QStringLiteral("<tr><td width=\"%1%\">%2%3</td>")
-                    .arg(isPair ? 50 : 60)
-                    .arg(words.caption.toHtmlEscaped(),
-                         line->note.isEmpty()
-                             ? QString()
-                             : QStringLiteral("<br><small>%1</small>").arg(line->note.toHtmlEscaped()));
-        for (const QString& value : line->values)
-            html += QLatin1String(isPair ? "<td width=\"25%\">" : "<td>") + value.toHtmlEscaped() +
-                    QLatin1String("</td>");
-        html += QStringLiteral("</tr>\n");
+        html += rowOf(*line);
     }
     endTable();
     return html;
@@ -112,28 +131,48 @@ Lines settingsOf(const Configuration& configuration, const Report& report)
 
 Lines changesOf(const Configuration& configuration, const Report& report)
 {
-    const QString none = QStringLiteral("–");
     Lines lines;
     for (const Difference& difference : report.changes->all()) {
         const int table = difference.key < 0 ? 0 : FileKeys::all()[difference.key].table;
         const DifferenceText text =
             textOf(*report.changes, difference, configuration.tables()[table], report.secrets);
-        lines.push_back(
-            {text,
-             {text.before.isNull() ? none : text.beforeText, text.after.isNull() ? none : text.afterText},
-             text.note});
+        lines.push_back({text, {text.beforeText, text.afterText}, text.note});
     }
     return lines;
 }
 
-QString bodyOf(const Lines& lines, bool isInColumns)
+QStringList headOf(const Differences* changes)
+{
+    if (!changes)
+        return {};
+    const bool isOfDefaults = changes->before().isDefaults();
+    return {translated("rev_016"), translated(isOfDefaults ? "rev_106" : "rev_017"),
+            translated(isOfDefaults ? "rev_104" : "rev_018")};
+}
+
+// Where the columns are about as high as each other.
+Lines::const_iterator middleOf(const Lines& lines)
+{
+    constexpr int signsOfACell = 24;
+    constexpr int signsOfARow = 60;
+    const auto height = [](int sum, const Line& line) {
+        return sum + 1 + line.values.last().size() / (isLong(line) ? signsOfARow : signsOfACell);
+    };
+    const int whole = std::accumulate(lines.begin(), lines.end(), 0, height);
+    auto middle = lines.begin();
+    for (int above = 0; middle != lines.end() && 2 * above < whole; ++middle)
+        above = height(above, *middle);
+    return middle;
+}
+
+QString bodyOf(const Lines& lines, const QStringList& head, bool isInColumns)
 {
     if (!isInColumns)
-        return tables(lines.begin(), lines.end());
-    const auto middle = lines.begin() + (static_cast<int>(lines.size()) + 1) / 2;
+        return tables(lines.begin(), lines.end(), head);
+    const auto middle = middleOf(lines);
     return QStringLiteral("<table width=\"100%\"><tr><td width=\"50%\">%1</td>"
                           "<td width=\"50%\" style=\"padding-left: 12px\">%2</td></tr></table>\n")
-        .arg(tables(lines.begin(), middle), tables(middle, lines.end()));
+        .arg(tables(lines.begin(), middle, head), tables(middle, lines.end(), head));
 }
 
 } // namespace
@@ -142,7 +181,8 @@ QString toHtml(const Configuration& configuration, const Report& report)
 {
     QString html = QStringLiteral("<!DOCTYPE html>\n<html><head><meta charset=\"utf-8\">\n") +
                    element("title", report.title) +
-                   QStringLiteral("<style>\n%1</style>").arg(QLatin1String(kStyle)) +
+                   QStringLiteral("<style>\n%1%2</style>")
+                       .arg(QLatin1String(kStyle), QLatin1String(report.isOnePage ? kOnePageStyle : "")) +
                    QStringLiteral("</head><body>\n") + element("h1", report.title);
     for (const QString& line : report.about)
         html += element("p", line);
@@ -153,7 +193,7 @@ QString toHtml(const Configuration& configuration, const Report& report)
         html += QStringLiteral("</ul>\n");
     }
     const Lines lines = report.changes ? changesOf(configuration, report) : settingsOf(configuration, report);
-    html += bodyOf(lines, report.isOnePage);
+    html += bodyOf(lines, headOf(report.changes), report.isOnePage);
     if (lines.empty())
         html += element("p", translated("rev_117"));
     if (!report.end.isEmpty())
