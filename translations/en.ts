@@ -1279,13 +1279,13 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_182"><translation>Settings that are not named have their default values.</translation></message>
     <message id="rev_183"><translation>Date: %1</translation></message>
     <message id="rev_184"><translation>Unknown key, left out</translation></message>
-    <message id="rev_185"><translation>Stands there twice, only the first one counts</translation></message>
-    <message id="rev_186"><translation>What it belongs to is not there, left out</translation></message>
+    <message id="rev_185"><translation>Twice, only the first one counts</translation></message>
+    <message id="rev_186"><translation>Has no place here, left out</translation></message>
     <message id="rev_187"><translation>Not a number, left out</translation></message>
     <message id="rev_188"><translation>Out of range, left out</translation></message>
-    <message id="rev_189"><translation>Has more decimals than the setting, left out</translation></message>
+    <message id="rev_189"><translation>Too many decimals, left out</translation></message>
     <message id="rev_190"><translation>Too long, left out</translation></message>
-    <message id="rev_191"><translation>The setting cannot have this value, left out</translation></message>
+    <message id="rev_191"><translation>No such value, left out</translation></message>
     <message id="rev_192"><translation>With the preset</translation></message>
     <message id="rev_193"><translation>from a preset…</translation></message>
     <message id="rev_194"><translation>As preset…</translation></message>
@@ -1320,6 +1320,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_223"><translation>File: %1</translation></message>
     <message id="rev_224"><translation>Tracker: %1</translation></message>
     <message id="rev_225"><translation>Attached tracker: %1</translation></message>
+    <message id="rev_226"><translation>Nothing is chosen for a preset. Compare with the default values to choose among more settings.</translation></message>
     <message id="tmiex_001"><translation>Navigation</translation></message>
     <message id="tmiex_002"><translation>Receiver</translation></message>
     <message id="tmiex_003"><translation>Satellites</translation></message>

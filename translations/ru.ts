@@ -1279,13 +1279,13 @@
     <message id="rev_182"><translation>Параметры, которые не названы, имеют начальные значения.</translation></message>
     <message id="rev_183"><translation>Дата: %1</translation></message>
     <message id="rev_184"><translation>Неизвестный ключ, пропущен</translation></message>
-    <message id="rev_185"><translation>Указан дважды, учтён только первый</translation></message>
-    <message id="rev_186"><translation>Того, к чему он относится, нет, пропущен</translation></message>
+    <message id="rev_185"><translation>Указан дважды, учтён первый</translation></message>
+    <message id="rev_186"><translation>Здесь ему нет места, пропущен</translation></message>
     <message id="rev_187"><translation>Не число, пропущен</translation></message>
-    <message id="rev_188"><translation>Вне допустимых значений, пропущен</translation></message>
-    <message id="rev_189"><translation>Слишком много знаков после запятой, пропущен</translation></message>
+    <message id="rev_188"><translation>Вне диапазона, пропущен</translation></message>
+    <message id="rev_189"><translation>Лишние знаки после запятой, пропущен</translation></message>
     <message id="rev_190"><translation>Слишком длинный, пропущен</translation></message>
-    <message id="rev_191"><translation>Параметр не может иметь такое значение, пропущен</translation></message>
+    <message id="rev_191"><translation>Такого значения нет, пропущен</translation></message>
     <message id="rev_192"><translation>С шаблоном</translation></message>
     <message id="rev_193"><translation>от шаблона…</translation></message>
     <message id="rev_194"><translation>Как шаблон…</translation></message>
@@ -1320,6 +1320,7 @@
     <message id="rev_223"><translation>Файл: %1</translation></message>
     <message id="rev_224"><translation>Трекер: %1</translation></message>
     <message id="rev_225"><translation>Подключённый трекер: %1</translation></message>
+    <message id="rev_226"><translation>Для шаблона ничего не отмечено. Сравните с начальными значениями, чтобы выбирать из большего числа параметров.</translation></message>
     <message id="tmiex_001"><translation>Навигация</translation></message>
     <message id="tmiex_002"><translation>Приёмник</translation></message>
     <message id="tmiex_003"><translation>Спутники</translation></message>

@@ -1,12 +1,17 @@
 #include "dialog/difference_model.h"
 
-#include <QCoreApplication>
+#include "typing/field_mark.h"
+
+#include <QGuiApplication>
+#include <QIcon>
 
 #include <utility>
 
 namespace vlk {
 
 namespace {
+
+constexpr int kIconRatio = 2;
 
 QString text(const char* key)
 {
@@ -46,12 +51,14 @@ void DifferenceModel::refresh()
 {
     beginResetModel();
     lines_.clear();
+    problems_ = 0;
     const QSet<QString> unchosen = std::exchange(unchosen_, {});
     const review::Differences& differences = review_.differences();
     if (review_.against() == ConfigurationReview::Against::preset) {
         for (const review::PresetProblem& problem : review_.problems())
             lines_.push_back(
                 {review::Difference{-1, -1, problem.path, problem.text, {}}, review::textOf(problem)});
+        problems_ = rowCount();
     }
     for (const review::Difference& difference : differences.all()) {
         const Values* values =
@@ -95,8 +102,15 @@ int DifferenceModel::columnCount(const QModelIndex& parent) const
 QVariant DifferenceModel::data(const QModelIndex& index, int role) const
 {
     const Line& line = lines_[index.row()];
-    if (role == Qt::DisplayRole || role == Qt::ToolTipRole)
-        return cell(line.text, settingOf(line.text), index.column());
+    const bool isProblem = index.row() < problems_;
+    if (role == Qt::DisplayRole || role == Qt::ToolTipRole) {
+        const int column = !isProblem || index.column() < Now ? index.column()
+                           : index.column() == Now            ? int(Note)
+                                                              : int(Now);
+        return cell(line.text, settingOf(line.text), column);
+    }
+    if (role == Qt::DecorationRole && index.column() == Page && isProblem)
+        return QIcon(markPixmap(Mark::advice, QGuiApplication::palette(), markSize, kIconRatio));
     if (role == Qt::CheckStateRole && index.column() == Page && line.difference.key >= 0)
         return unchosen_.contains(line.difference.path) ? Qt::Unchecked : Qt::Checked;
     return {};

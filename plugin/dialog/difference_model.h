@@ -25,6 +25,8 @@ public:
     void refresh();
 
     const review::Difference& at(int line) const { return lines_[line].difference; }
+    // How many lines there are at first of what cannot be applied; the reason stands in place of what is now.
+    int problems() const { return problems_; }
     // Keys of the chosen lines that can be taken over.
     std::vector<int> chosenKeys() const;
     // With a heading, as a spreadsheet takes it.
@@ -46,6 +48,7 @@ private:
 
     ConfigurationReview& review_;
     std::vector<Line> lines_;
+    int problems_ = 0;
     QSet<QString> unchosen_; // paths
 };
 

@@ -48,8 +48,11 @@ std::optional<review::Personal> askPersonal(QWidget* parent, int others)
 
 } // namespace
 
-void savePreset(QWidget* parent, const review::FileState& from, const std::vector<int>& keys)
+void savePreset(QWidget* parent, const review::FileState& from, std::vector<int> keys)
 {
+    std::erase_if(keys, [&](int key) { return !from.at(key).isThere; });
+    if (keys.empty())
+        return warn(parent, word("rev_226"));
     std::optional personal = review::Personal::leftOut;
     const auto personals = std::ranges::count_if(keys, review::isPersonal);
     if (personals > 0)

@@ -10,8 +10,8 @@ class QWidget;
 
 namespace vlk {
 
-// Asks whether passwords and the object's name go in where there are some among the keys, then for the file.
-// What fails is told.
-void savePreset(QWidget* parent, const review::FileState& from, const std::vector<int>& keys);
+// The keys that `from` has. Asks whether passwords and the object's name go in where there are some among the
+// keys, then for the file. What fails is told.
+void savePreset(QWidget* parent, const review::FileState& from, std::vector<int> keys);
 
 } // namespace vlk

@@ -7,6 +7,7 @@
 #include "fuel/question.h"
 #include "link/device.h"
 #include "typing/empty_note.h"
+#include "typing/field_mark.h"
 #include "typing/table_look.h"
 #include "windows/named_widget.h"
 
@@ -19,11 +20,16 @@
 #include <QSaveFile>
 #include <QTableView>
 
+#include <algorithm>
+
 namespace vlk {
 
 using Against = ConfigurationReview::Against;
 
 namespace {
+
+// Leaves room for notes where the window is small; what is cut the tool tip tells.
+constexpr int kWidestSetting = 270;
 
 // By Against.
 constexpr const char* kSides[] = {"rev_109", "rev_110", "rev_111", "rev_193"};
@@ -41,6 +47,7 @@ ReviewPanel::ReviewPanel(ConfigurationReview& review, SettingPlaces& places, QWi
       csv_(namedWidget<QPushButton>("pushButton_SaveDifferences", this))
 {
     setModel(model_);
+    table()->setIconSize({markSize, markSize});
     for (const char* key : kSides)
         against_->addItem(QLatin1String(key));
     addToHead({against_, takeOver_, preset_, copy_, csv_});
@@ -85,7 +92,12 @@ void ReviewPanel::showState()
     for (QPushButton* button : {copy_, csv_})
         button->setEnabled(model_.rowCount() > 0);
     empty()->tell(tr("rev_117"));
+    table()->clearSpans();
+    for (int line = 0; line < model_.problems(); ++line)
+        table()->setSpan(line, DifferenceModel::Now, 1, 2);
     table()->resizeColumnsToContents();
+    table()->setColumnWidth(DifferenceModel::Caption,
+                            std::min(table()->columnWidth(DifferenceModel::Caption), kWidestSetting));
 }
 
 bool ReviewPanel::choosePreset()

@@ -14,6 +14,7 @@
 #include "link/requests.h"
 #include "settings/all_settings.h"
 #include "typing/kept_palette.h"
+#include "typing/typed_entry.h"
 #include "windows/fit_to_screen.h"
 #include "xml/xml_document.h"
 
@@ -104,6 +105,9 @@ void VLK_Widget_Config::showReport()
     if (!report_)
         report_ = new vlk::ReportDialog(
             review_, [this] { return about(); }, this);
+    // What is still being typed is told too.
+    vlk::TypedEntry::finishIn(this);
+    history_.settle();
     report_->open();
 }
 

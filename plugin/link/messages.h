@@ -322,9 +322,10 @@ struct PresetApplication
     std::uint32_t leaveOutMisfits = 0; // 1: the rest is applied, else nothing with one that does not fit
     std::uint32_t showSecrets = 0;     // 1: passwords are told, else dots
     const QString* preset = nullptr;   // path
-    const QString* file = nullptr;     // path; null: the configuration that is open, which shows its user
-                                       // what would change and applies what he chooses of it
-    const QString* target = nullptr; // path of the file that is written, which may be `file`; null: a dry run
+    // Path; null: the configuration that is open, whose user is shown what would change, and chooses.
+    const QString* file = nullptr;
+    // Path of the file that is written, which may be `file`; null: a dry run.
+    const QString* target = nullptr;
     void (*takeChange)(void* context, const FileDifference* change) = nullptr;
     void (*takeMisfit)(void* context, const PresetMisfit* misfit) = nullptr;
     void* context = nullptr;

@@ -241,20 +241,26 @@ private Q_SLOTS:
         auto* model = child<QTableView>("tableView_Differences")->model();
         QStringList notes;
         for (int line = 0; line < model->rowCount(); ++line)
-            notes << model->index(line, 4).data().toString() +
+            notes << model->index(line, 3).data().toString() +
                          (model->index(line, 0).data(Qt::CheckStateRole).isNull() ? "" : "+");
-        QCOMPARE(notes, QStringList({"rev_184", "rev_185", "rev_187", "+"}));
+        QCOMPARE(notes, QStringList({"rev_184", "rev_185", "rev_187", "5 abbr_016+"}));
         QVERIFY(!dialog_->showPreset("no such file"));
         QVERIFY(!dialog_->showPreset(writeFile(path, "<OTHER creator=\"preset\"/>")));
+        QString told;
+        const auto tell = [&told](QMessageBox* box) {
+            told = box->text();
+            QTest::keyClick(box, Qt::Key_Return);
+        };
+        // Nothing has been changed that a preset could hold.
+        dialog_->review().compareWith(vlk::ConfigurationReview::Against::file);
+        answerNext<QMessageBox>(tell);
+        child<QPushButton>("pushButton_Document")->menu()->actions().at(1)->trigger();
+        QCOMPARE(told, QString("rev_226"));
         child<QToolButton>("toolButton_Differences")->click();
         type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
         child<QToolButton>("toolButton_Differences")->click();
-        QString told;
         chooseNext(folder_.filePath("full.xml"));
-        answerNext<QMessageBox>([&told](QMessageBox* box) {
-            told = box->text();
-            QTest::keyClick(box, Qt::Key_Return);
-        });
+        answerNext<QMessageBox>(tell);
         const FullDisk disk(10);
         child<QPushButton>("pushButton_SavePreset")->click();
         QCOMPARE(told, QString("rev_198"));
@@ -263,9 +269,13 @@ private Q_SLOTS:
 
     void reportIsKept()
     {
-        type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
         type(child<QLineEdit>("Transfer_lineEdit_GSM_Pin1"), "8765");
-        QTest::keyClick(dialog_.get(), Qt::Key_P, Qt::ControlModifier);
+        // Also what is still being typed.
+        auto* port = child<QSpinBox>("GPRSSrv_spinBox_Port_Main");
+        port->setFocus();
+        port->selectAll();
+        QTest::keyClicks(port, "5555");
+        QTest::keyClick(port, Qt::Key_P, Qt::ControlModifier);
         auto* preview = child<QTextBrowser>("textBrowser_Report");
         QVERIFY(preview->isVisible());
         const int all = preview->toPlainText().size();
