@@ -29,7 +29,8 @@ using Against = ConfigurationReview::Against;
 namespace {
 
 // Leaves room for notes where the window is small; what is cut the tool tip tells.
-constexpr int kWidestSetting = 270;
+constexpr std::pair<int, int> kWidest[] = {
+    {DifferenceModel::Caption, 230}, {DifferenceModel::Before, 170}, {DifferenceModel::Now, 170}};
 
 // By Against.
 constexpr const char* kSides[] = {"rev_109", "rev_110", "rev_111", "rev_193"};
@@ -96,8 +97,8 @@ void ReviewPanel::showState()
     for (int line = 0; line < model_.problems(); ++line)
         table()->setSpan(line, DifferenceModel::Now, 1, 2);
     table()->resizeColumnsToContents();
-    table()->setColumnWidth(DifferenceModel::Caption,
-                            std::min(table()->columnWidth(DifferenceModel::Caption), kWidestSetting));
+    for (const auto& [column, widest] : kWidest)
+        table()->setColumnWidth(column, std::min(table()->columnWidth(column), widest));
 }
 
 bool ReviewPanel::choosePreset()
