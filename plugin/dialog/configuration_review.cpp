@@ -23,6 +23,7 @@ void ConfigurationReview::begin(CXmlSection* root)
 {
     asItCame_ = root ? FileState::ofDocument(*root) : now();
     against_ = Against::file;
+    otherName_ = {};
     history_.begin();
 }
 
@@ -37,10 +38,21 @@ bool ConfigurationReview::compareWith(Against against, const QString& path)
             return false;
         before = FileState::ofDocument(*document.root());
     }
+    compareWith(std::move(before), against, {});
+    return true;
+}
+
+void ConfigurationReview::compareWith(FileState before, const EditHistory::Words& name)
+{
+    compareWith(std::move(before), Against::otherFile, name);
+}
+
+void ConfigurationReview::compareWith(FileState before, Against against, const EditHistory::Words& name)
+{
     against_ = against;
+    otherName_ = name;
     differences_ = Differences(std::move(before), now());
     Q_EMIT changed();
-    return true;
 }
 
 Configuration ConfigurationReview::configuration() const
@@ -51,6 +63,32 @@ Configuration ConfigurationReview::configuration() const
             if (&page->values().table() == &values.table())
                 values.putBack(page->values().held());
         }
+    }
+    return all;
+}
+
+void ConfigurationReview::write(CXmlSection& root) const
+{
+    configuration().write(root);
+    if (isQuick())
+        history_.pages().back()->values().write(root);
+    root.commit();
+}
+
+QByteArray ConfigurationReview::document() const
+{
+    XmlDocument document(QString(), QStringLiteral("DEVICE"));
+    write(*document.root());
+    return document.text();
+}
+
+Configuration ConfigurationReview::written() const
+{
+    Configuration all = configuration();
+    if (isQuick()) {
+        XmlDocument document(QString(), QStringLiteral("DEVICE"));
+        write(*document.root());
+        all.read(*document.root());
     }
     return all;
 }
@@ -85,7 +123,7 @@ review::Hit ConfigurationReview::settingAt(const QString& path) const
 FileState ConfigurationReview::now() const
 {
     FileState state = FileState::ofConfiguration(configuration());
-    if (isQuick_())
+    if (isQuick())
         state.lay(history_.pages().back()->values());
     return state;
 }
@@ -93,7 +131,7 @@ FileState ConfigurationReview::now() const
 // One table of the full window at a time; the quick window's values lie over all.
 void ConfigurationReview::refresh(const QVector<int>& pages)
 {
-    const bool isQuick = isQuick_();
+    const bool isQuick = this->isQuick();
     const bool isWhole = isQuick || isQuick != wasQuick_ || pages.size() == int(history_.pages().size());
     wasQuick_ = isQuick;
     if (isWhole) {
@@ -114,15 +152,7 @@ std::vector<review::Finding> ConfigurationReview::advice() const
     QHash<QString, QString> unread;
     for (const review::Stranger& stranger : asItCame_.strangers())
         unread.insert(stranger.path, stranger.text);
-    Configuration written = configuration();
-    if (isQuick_()) {
-        XmlDocument document(QString(), QStringLiteral("DEVICE"));
-        written.write(*document.root());
-        history_.pages().back()->values().write(*document.root());
-        document.root()->commit();
-        written.read(*document.root());
-    }
-    return review::advise(written, unread);
+    return review::advise(written(), unread);
 }
 
 void ConfigurationReview::mend(const std::vector<review::Mend>& mends, const EditHistory::Words& words)
@@ -139,8 +169,22 @@ void ConfigurationReview::mend(const std::vector<review::Mend>& mends, const Edi
 void ConfigurationReview::takeOver(const std::vector<int>& keys, const EditHistory::Words& words)
 {
     history_.settle();
-    Configuration changed = configuration();
+    Configuration changed = written();
     review::takeOver(changed, differences_.before(), review::withNeeded(differences_, keys));
+    put(changed, words);
+}
+
+void ConfigurationReview::replaceBy(const QByteArray& document, const EditHistory::Words& words)
+{
+    history_.settle();
+    XmlDocument parsed(document, QStringLiteral("DEVICE"));
+    Configuration changed = configuration();
+    changed.read(*parsed.root());
+    put(changed, words);
+}
+
+void ConfigurationReview::put(const Configuration& changed, const EditHistory::Words& words)
+{
     history_.asOne(words, [&] {
         for (PageSettings* page : history_.pages()) {
             const auto found = std::ranges::find_if(changed.tables(), [&](const Values& values) {
@@ -149,7 +193,7 @@ void ConfigurationReview::takeOver(const std::vector<int>& keys, const EditHisto
             if (found != changed.tables().end())
                 page->putBack(found->held());
         }
-        if (!isQuick_())
+        if (!isQuick())
             return;
         XmlDocument document(QString(), QStringLiteral("DEVICE"));
         changed.write(*document.root());

@@ -30,18 +30,27 @@ public:
     Against against() const { return against_; }
     // False when the file could not be read, and nothing changes.
     bool compareWith(Against against, const QString& path = {});
+    // With a state that is none of these; `name` says what it is.
+    void compareWith(review::FileState before, const EditHistory::Words& name);
+    // Empty unless a name was given.
+    QString otherName() const { return otherName_ ? otherName_() : QString(); }
 
     const review::Differences& differences() const { return differences_; }
     // To the file, whatever is compared.
     int edited() const { return edited_.count(); }
     bool isEdited(int table, int row) const { return edited_.isDifferent(table, row); }
     Configuration configuration() const;
+    // What a save would write of the settings now.
+    QByteArray document() const;
+    bool isQuick() const { return isQuick_(); }
     // Null where no page has the table.
     PageSettings* pageOf(int table) const;
     const Values* valuesOf(int table) const;
 
     // From the other side; keys of review::FileKeys.
     void takeOver(const std::vector<int>& keys, const EditHistory::Words& words);
+    // A whole document in place of what the pages hold, as one step.
+    void replaceBy(const QByteArray& document, const EditHistory::Words& words);
 
     // The setting at a path such as "TRANS/SRV1/port"; the row is -1 where there is none.
     review::Hit settingAt(const QString& path) const;
@@ -49,7 +58,7 @@ public:
     // On what a write would bring now.
     std::vector<review::Finding> advice() const;
     // The quick window shows too few of the settings.
-    bool canMend() const { return !isQuick_(); }
+    bool canMend() const { return !isQuick(); }
     void mend(const std::vector<review::Mend>& mends, const EditHistory::Words& words);
 
     EditHistory& history() { return history_; }
@@ -59,12 +68,18 @@ Q_SIGNALS:
 
 private:
     review::FileState now() const;
+    void compareWith(review::FileState before, Against against, const EditHistory::Words& name);
+    void write(CXmlSection& root) const;
+    // The configuration, and over it what the quick window would write.
+    Configuration written() const;
+    void put(const Configuration& changed, const EditHistory::Words& words);
     void refresh(const QVector<int>& pages);
 
     EditHistory& history_;
     const std::function<bool()> isQuick_;
     review::FileState asItCame_;
     Against against_ = Against::file;
+    EditHistory::Words otherName_;
     bool wasQuick_ = false;
     review::Differences edited_;      // to the file as it came
     review::Differences differences_; // to what is chosen
