@@ -1183,6 +1183,12 @@
     <message id="rev_134"><translation>advice followed</translation></message>
     <message id="rev_135"><translation>Advice on this configuration (%1)</translation></message>
     <message id="rev_136"><translation>Go to</translation></message>
+    <message id="rev_140"><translation>Unsaved changes of %1</translation></message>
+    <message id="rev_141"><translation>Show</translation></message>
+    <message id="rev_142"><translation>Bring back</translation></message>
+    <message id="rev_143"><translation>Discard</translation></message>
+    <message id="rev_144"><translation>unsaved changes brought back</translation></message>
+    <message id="rev_145"><translation>Unsaved changes cannot be kept: %1. Save them to a file before you close the window.</translation></message>
     <message id="tmiex_001"><translation>Navigation</translation></message>
     <message id="tmiex_002"><translation>Receiver</translation></message>
     <message id="tmiex_003"><translation>Satellites</translation></message>
@@ -2155,6 +2161,7 @@
     <message id="wb_told_no_document"><translation>The file %1 is no document of this program, or a damaged one.</translation></message>
     <message id="wb_told_not_made"><translation>The file %1 was not created: %2.</translation></message>
     <message id="wb_told_unreadable"><translation>%1 was not read: %2.</translation></message>
+    <message id="wb_told_unsaved"><translation>Unsaved changes cannot be kept: %1 was not written: %2.</translation></message>
     <message id="wb_toolbar"><translation>Tool bar</translation></message>
     <message id="wb_tracker_filter"><translation>Filter: key, value</translation></message>
     <message id="wb_tracker_keys"><translation>Configuration in the tracker</translation></message>

@@ -123,6 +123,8 @@ QVariant DifferenceModel::headerData(int section, Qt::Orientation orientation, i
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return {};
     // The left side is named after what is compared.
+    if (section == Before && !review_.otherName().isEmpty())
+        return review_.otherName();
     return section == Before ? text(review_.against() == ConfigurationReview::Against::file       ? "rev_103"
                                     : review_.against() == ConfigurationReview::Against::defaults ? "rev_106"
                                                                                                   : "rev_107")

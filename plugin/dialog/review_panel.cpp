@@ -61,6 +61,8 @@ void ReviewPanel::retranslate()
 void ReviewPanel::showState()
 {
     const bool isFile = review_.against() == Against::file;
+    const QString other = review_.otherName();
+    against_->setItemText(static_cast<int>(Against::otherFile), other.isEmpty() ? tr("rev_111") : other);
     against_->setCurrentIndex(static_cast<int>(review_.against()));
     takeOver_->setText(tr(isFile ? "rev_112" : "rev_113"));
     takeOver_->setEnabled(!model_.chosenKeys().empty());

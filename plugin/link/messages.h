@@ -60,6 +60,7 @@ enum class Message : std::uint32_t {
     GetRunningWork = 7106002,
     GetExtensions = 7106003,
     CompareFiles = 7106004,
+    ConfirmWrite = 7106005,
 
     // Plug-in to host
     ShowHelp = 2007,
@@ -232,6 +233,17 @@ struct FileComparison
     void* context = nullptr;
 };
 
+// ConfirmWrite: edits are kept on disk until they are written. A host that compares what it has written with
+// what the tracker holds then says so once, after SetHostMode, and then after each WriteConfiguration that
+// came out right. Of a host that says nothing WriteConfiguration itself is taken for that.
+struct WriteConfirmation
+{
+    enum Step : std::uint32_t { willConfirm, confirmed };
+
+    std::uint32_t size = sizeof(WriteConfirmation);
+    std::uint32_t step = willConfirm;
+};
+
 // AnalogRecord is a plain byte record of `analogRecordSize` bytes with unsigned 16-bit little-endian values:
 // the lines IN1, IN2, IN3 in millivolts from byte 15, and the fuel sensors at the bytes that name them.
 inline constexpr int analogRecordSize = 42;
@@ -384,6 +396,7 @@ inline constexpr MessageInfo messages[] = {
     detail::in(Message::GetRunningWork, "GetRunningWork", Parameter::RecordAddress, Parameter::None, true),
     detail::in(Message::GetExtensions, "GetExtensions", Parameter::RecordAddress, Parameter::None, true),
     detail::in(Message::CompareFiles, "CompareFiles", Parameter::RecordAddress, Parameter::None, true),
+    detail::in(Message::ConfirmWrite, "ConfirmWrite", Parameter::RecordAddress),
 };
 
 // A plain value in the place of an address, and back. The token of a LibraryInfo becomes the handle likewise.
