@@ -1189,6 +1189,8 @@
     <message id="rev_143"><translation>Discard</translation></message>
     <message id="rev_144"><translation>unsaved changes brought back</translation></message>
     <message id="rev_145"><translation>Unsaved changes cannot be kept: %1. Save them to a file before you close the window.</translation></message>
+    <message id="rev_146"><translation>%1 will be discarded when the window closes.</translation></message>
+    <message id="rev_147"><translation>Keep</translation></message>
     <message id="tmiex_001"><translation>Navigation</translation></message>
     <message id="tmiex_002"><translation>Receiver</translation></message>
     <message id="tmiex_003"><translation>Satellites</translation></message>

@@ -1189,6 +1189,8 @@
     <message id="rev_143"><translation>Удалить</translation></message>
     <message id="rev_144"><translation>возврат несохранённых изменений</translation></message>
     <message id="rev_145"><translation>Несохранённые изменения не удаётся держать на диске: %1. Сохраните их в файл, прежде чем закрыть окно.</translation></message>
+    <message id="rev_146"><translation>%1 будут удалены, когда окно закроется.</translation></message>
+    <message id="rev_147"><translation>Оставить</translation></message>
     <message id="tmiex_001"><translation>Навигация</translation></message>
     <message id="tmiex_002"><translation>Приёмник</translation></message>
     <message id="tmiex_003"><translation>Спутники</translation></message>

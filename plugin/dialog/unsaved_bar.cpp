@@ -47,10 +47,25 @@ void UnsavedBar::begin(const QString& folder, const QString& subject)
     for (review::KeptUnsaved& kept : review::keptUnsaved(folder, subject)) {
         XmlDocument after(kept.unsaved.after, QStringLiteral("DEVICE"));
         std::vector<int> keys = editedKeys(kept.unsaved);
-        offers_.push_back({std::move(kept), std::move(keys), review::FileState::ofDocument(*after.root())});
+        Offer offer{std::move(kept), std::move(keys), review::FileState::ofDocument(*after.root())};
+        if (isInNewer(offer))
+            QFile::remove(offer.kept.path);
+        else
+            offers_.push_back(std::move(offer));
     }
-    dropContained();
+    drop();
     refresh();
+}
+
+// Brought back once, and kept again with the edits that followed, when the process died.
+bool UnsavedBar::isInNewer(const Offer& offer) const
+{
+    return std::ranges::any_of(offers_, [&](const Offer& newer) {
+        return std::ranges::all_of(offer.keys, [&](int key) {
+            return std::ranges::find(newer.keys, key) != newer.keys.end() &&
+                   newer.after.at(key) == offer.after.at(key);
+        });
+    });
 }
 
 int UnsavedBar::changes(const Offer& offer) const
@@ -88,7 +103,10 @@ Notice UnsavedBar::noticeOf(int number)
         QStringLiteral("%1: %2").arg(nameOf(offer.kept.unsaved), QLocale().toString(offer.told));
     const Notice::Action show{words("rev_141"), [this, number] { showOffer(number); }};
     const Notice::Action bring{words("rev_142"), [this, number] { bringBack(number); }};
-    const Notice::Action drop{words("rev_143"), [this, number] { discard(number); }};
+    const Notice::Action drop{words("rev_143"), [this, number] { discard(number, true); }};
+    const Notice::Action keep{words("rev_147"), [this, number] { discard(number, false); }};
+    if (offer.isDiscarded)
+        return {Mark::advice, words("rev_146").arg(nameOf(offer.kept.unsaved)), {keep}};
     return {Mark::advice, text, offer.isShown ? std::vector{bring, drop} : std::vector{show, bring}};
 }
 
@@ -110,12 +128,11 @@ void UnsavedBar::bringBack(int number)
     endComparison();
 }
 
-void UnsavedBar::discard(int number)
+void UnsavedBar::discard(int number, bool isDiscarded)
 {
-    Offer& offer = offers_[number - 1];
-    offer.isClosed = QFile::remove(offer.kept.path);
+    offers_[number - 1].isDiscarded = isDiscarded;
+    tellOffer(number);
     endComparison();
-    refresh();
 }
 
 void UnsavedBar::endComparison()
@@ -124,10 +141,10 @@ void UnsavedBar::endComparison()
         review_.compareWith(ConfigurationReview::Against::file);
 }
 
-void UnsavedBar::dropContained()
+void UnsavedBar::drop()
 {
     for (Offer& offer : offers_) {
-        if (changes(offer) == 0)
+        if (offer.isDiscarded || changes(offer) == 0)
             offer.isClosed |= QFile::remove(offer.kept.path);
     }
 }

@@ -2,7 +2,8 @@
 
 // Offers what was edited earlier and has reached neither a file nor the tracker, above the pages: how many
 // settings of the configuration on show it would change. Each time of editing is a notice of its own, the
-// newest first. The cross leaves it for the next opening; once it has been shown it can be discarded.
+// newest first. The cross leaves it for the next opening; once it has been shown it can be discarded, which
+// happens when the window closes.
 
 #include "dialog/configuration_review.h"
 #include "review/recovery.h"
@@ -21,8 +22,9 @@ public:
 
     // The configuration that is known by `subject` has been opened.
     void begin(const QString& folder, const QString& subject);
-    // What there is now is kept, saved or written: offers that would change nothing go from the disk.
-    void dropContained();
+    // What there is now is kept, saved or written: offers that would change nothing go from the disk, and so
+    // do those that are discarded.
+    void drop();
     // That the disk keeps nothing; an empty reason ends it.
     void tellFailure(const QString& reason);
 
@@ -37,17 +39,19 @@ private:
         std::vector<int> keys;
         review::FileState after;
         bool isShown = false;
+        bool isDiscarded = false;
         bool isClosed = false;
         int told = 0; // how many settings it was said to change
     };
 
+    bool isInNewer(const Offer& offer) const;
     int changes(const Offer& offer) const;
     void refresh();
     void tellOffer(int number);
     Notice noticeOf(int number);
     void showOffer(int number);
     void bringBack(int number);
-    void discard(int number);
+    void discard(int number, bool isDiscarded);
     void endComparison();
 
     ConfigurationReview& review_;

@@ -112,7 +112,7 @@ void VLK_Widget_Config::addKeeper()
     };
     connect(ui_->stackedWidget, &QStackedWidget::currentChanged, this, place);
     place();
-    connect(&keeper_, &vlk::EditKeeper::safe, unsaved_, &vlk::UnsavedBar::dropContained);
+    connect(&keeper_, &vlk::EditKeeper::safe, unsaved_, &vlk::UnsavedBar::drop);
     connect(&keeper_, &vlk::EditKeeper::failureChanged, this,
             [this] { unsaved_->tellFailure(keeper_.failure()); });
     connect(unsaved_, &vlk::UnsavedBar::shown, this, [this] { showPanel(vlk::ReviewBar::Differences); });
