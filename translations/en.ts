@@ -1321,6 +1321,14 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_224"><translation>Tracker: %1</translation></message>
     <message id="rev_225"><translation>Attached tracker: %1</translation></message>
     <message id="rev_226"><translation>Nothing is chosen for a preset. Compare with the default values to choose among more settings.</translation></message>
+    <message id="rev_140"><translation>Unsaved changes of %1</translation></message>
+    <message id="rev_141"><translation>Show</translation></message>
+    <message id="rev_142"><translation>Bring back</translation></message>
+    <message id="rev_143"><translation>Discard</translation></message>
+    <message id="rev_144"><translation>unsaved changes brought back</translation></message>
+    <message id="rev_145"><translation>Unsaved changes cannot be kept: %1. Save them to a file before you close the window.</translation></message>
+    <message id="rev_146"><translation>%1 will be discarded when the window closes.</translation></message>
+    <message id="rev_147"><translation>Keep</translation></message>
     <message id="tmiex_001"><translation>Navigation</translation></message>
     <message id="tmiex_002"><translation>Receiver</translation></message>
     <message id="tmiex_003"><translation>Satellites</translation></message>
@@ -2298,6 +2306,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_told_no_document"><translation>The file %1 is no document of this program, or a damaged one.</translation></message>
     <message id="wb_told_not_made"><translation>The file %1 was not created: %2.</translation></message>
     <message id="wb_told_unreadable"><translation>%1 was not read: %2.</translation></message>
+    <message id="wb_told_unsaved"><translation>Unsaved changes cannot be kept: %1 was not written: %2.</translation></message>
     <message id="wb_toolbar"><translation>Tool bar</translation></message>
     <message id="wb_tracker_filter"><translation>Filter: key, value</translation></message>
     <message id="wb_tracker_keys"><translation>Configuration in the tracker</translation></message>

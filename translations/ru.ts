@@ -1321,6 +1321,14 @@
     <message id="rev_224"><translation>Трекер: %1</translation></message>
     <message id="rev_225"><translation>Подключённый трекер: %1</translation></message>
     <message id="rev_226"><translation>Для шаблона ничего не отмечено. Сравните с начальными значениями, чтобы выбирать из большего числа параметров.</translation></message>
+    <message id="rev_140"><translation>Несохранённые изменения от %1</translation></message>
+    <message id="rev_141"><translation>Показать</translation></message>
+    <message id="rev_142"><translation>Вернуть</translation></message>
+    <message id="rev_143"><translation>Удалить</translation></message>
+    <message id="rev_144"><translation>возврат несохранённых изменений</translation></message>
+    <message id="rev_145"><translation>Несохранённые изменения не удаётся держать на диске: %1. Сохраните их в файл, прежде чем закрыть окно.</translation></message>
+    <message id="rev_146"><translation>%1 будут удалены, когда окно закроется.</translation></message>
+    <message id="rev_147"><translation>Оставить</translation></message>
     <message id="tmiex_001"><translation>Навигация</translation></message>
     <message id="tmiex_002"><translation>Приёмник</translation></message>
     <message id="tmiex_003"><translation>Спутники</translation></message>
@@ -2298,6 +2306,7 @@
     <message id="wb_told_no_document"><translation>Файл %1 не является документом этой программы или повреждён.</translation></message>
     <message id="wb_told_not_made"><translation>Файл %1 не создан: %2.</translation></message>
     <message id="wb_told_unreadable"><translation>Файл %1 не прочитан: %2.</translation></message>
+    <message id="wb_told_unsaved"><translation>Несохранённые изменения не удаётся держать на диске: файл %1 не записан: %2.</translation></message>
     <message id="wb_toolbar"><translation>Панель инструментов</translation></message>
     <message id="wb_tracker_filter"><translation>Фильтр: ключ, значение</translation></message>
     <message id="wb_tracker_keys"><translation>Конфигурация в трекере</translation></message>

@@ -18,6 +18,7 @@ namespace vlk {
 namespace {
 
 enum class Outcome { Saved, Failed, NoRoomBeside };
+enum class Readable { asBefore, byOwner };
 
 // The hidden name beside the file under which the new one waits for its place.
 QString nameBeside(const QFileInfo& file)
@@ -39,7 +40,7 @@ void removeStrays(const QString& beside)
     }
 }
 
-Outcome putBeside(const QFileInfo& target, const WriteContent& write, QString* reason)
+Outcome putBeside(const QFileInfo& target, const WriteContent& write, Readable readable, QString* reason)
 {
     const QString beside = nameBeside(target);
     removeStrays(beside);
@@ -47,7 +48,9 @@ Outcome putBeside(const QFileInfo& target, const WriteContent& write, QString* r
     QSaveFile file(beside);
     const auto writeOpened = [&](QIODevice& device) {
         opened = true;
-        if (target.exists())
+        if (readable == Readable::byOwner)
+            file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+        else if (target.exists())
             file.setPermissions(target.permissions());
         return write(device);
     };
@@ -129,16 +132,21 @@ QString whyClosed(const QFileInfo& target)
     return target.isFile() ? qt_error_string(EACCES) : QStringLiteral("not a file");
 }
 
-bool replace(const QString& path, const WriteContent& write, QString* reason)
+bool replace(const QString& path, const WriteContent& write, Readable readable, QString* reason)
 {
     const QFileInfo target = targetOf(path);
     *reason = whyClosed(target);
     if (!reason->isEmpty())
         return false;
-    const Outcome outcome = putBeside(target, write, reason);
+    const Outcome outcome = putBeside(target, write, readable, reason);
     if (outcome == Outcome::NoRoomBeside && target.exists())
         return overwrite(target.filePath(), write, reason);
     return outcome == Outcome::Saved;
+}
+
+WriteContent writing(const QByteArray& content)
+{
+    return [&content](QIODevice& device) { return device.write(content) == content.size(); };
 }
 
 } // namespace
@@ -146,7 +154,7 @@ bool replace(const QString& path, const WriteContent& write, QString* reason)
 bool replaceFile(const QString& path, const WriteContent& write, QString* reason)
 {
     QString fault;
-    if (replace(path, write, &fault))
+    if (replace(path, write, Readable::asBefore, &fault))
         return true;
     if (reason)
         *reason = fault;
@@ -178,8 +186,12 @@ QString whyNotReplaceable(const QString& path)
 
 bool replaceFile(const QString& path, const QByteArray& content, QString* reason)
 {
-    return replaceFile(
-        path, [&](QIODevice& device) { return device.write(content) == content.size(); }, reason);
+    return replaceFile(path, writing(content), reason);
+}
+
+bool replacePrivateFile(const QString& path, const QByteArray& content, QString* reason)
+{
+    return replace(path, writing(content), Readable::byOwner, reason);
 }
 
 } // namespace vlk

@@ -23,6 +23,7 @@ void ConfigurationReview::begin(CXmlSection* root)
 {
     asItCame_ = root ? FileState::ofDocument(*root) : now();
     against_ = Against::file;
+    otherName_ = {};
     history_.begin();
 }
 
@@ -44,10 +45,21 @@ bool ConfigurationReview::compareWith(Against against, const QString& path)
             before = FileState::ofDocument(*document.root());
         }
     }
+    compareWith(std::move(before), against, {});
+    return true;
+}
+
+void ConfigurationReview::compareWith(FileState before, const EditHistory::Words& name)
+{
+    compareWith(std::move(before), Against::otherFile, name);
+}
+
+void ConfigurationReview::compareWith(FileState before, Against against, const EditHistory::Words& name)
+{
     against_ = against;
+    otherName_ = name;
     differences_ = Differences(std::move(before), now());
     Q_EMIT changed();
-    return true;
 }
 
 // Other keys than those that the preset moves stand as they are, also where the quick window leaves them out.
@@ -75,17 +87,30 @@ Configuration ConfigurationReview::configuration() const
     return all;
 }
 
+void ConfigurationReview::write(CXmlSection& root) const
+{
+    configuration().write(root);
+    if (isQuick())
+        history_.pages().back()->values().write(root);
+    root.commit();
+}
+
+QByteArray ConfigurationReview::document() const
+{
+    XmlDocument document(QString(), QStringLiteral("DEVICE"));
+    write(*document.root());
+    return document.text();
+}
+
 Configuration ConfigurationReview::written() const
 {
-    Configuration written = configuration();
-    if (isQuick_()) {
+    Configuration all = configuration();
+    if (isQuick()) {
         XmlDocument document(QString(), QStringLiteral("DEVICE"));
-        written.write(*document.root());
-        history_.pages().back()->values().write(*document.root());
-        document.root()->commit();
-        written.read(*document.root());
+        write(*document.root());
+        all.read(*document.root());
     }
-    return written;
+    return all;
 }
 
 PageSettings* ConfigurationReview::pageOf(int table) const
@@ -118,7 +143,7 @@ review::Hit ConfigurationReview::settingAt(const QString& path) const
 FileState ConfigurationReview::now() const
 {
     FileState state = FileState::ofConfiguration(configuration());
-    if (isQuick_())
+    if (isQuick())
         state.lay(history_.pages().back()->values());
     return state;
 }
@@ -126,7 +151,7 @@ FileState ConfigurationReview::now() const
 // One table of the full window at a time; the quick window's values lie over all.
 void ConfigurationReview::refresh(const QVector<int>& pages)
 {
-    const bool isQuick = isQuick_();
+    const bool isQuick = this->isQuick();
     const bool isWhole = isQuick || isQuick != wasQuick_ || pages.size() == int(history_.pages().size());
     wasQuick_ = isQuick;
     if (isWhole) {
@@ -166,6 +191,20 @@ void ConfigurationReview::takeOver(const std::vector<int>& keys, const EditHisto
     history_.settle();
     Configuration changed = written();
     review::takeOver(changed, differences_.before(), review::withNeeded(differences_, keys));
+    put(changed, words);
+}
+
+void ConfigurationReview::replaceBy(const QByteArray& document, const EditHistory::Words& words)
+{
+    history_.settle();
+    XmlDocument parsed(document, QStringLiteral("DEVICE"));
+    Configuration changed = configuration();
+    changed.read(*parsed.root());
+    put(changed, words);
+}
+
+void ConfigurationReview::put(const Configuration& changed, const EditHistory::Words& words)
+{
     history_.asOne(words, [&] {
         for (PageSettings* page : history_.pages()) {
             const auto found = std::ranges::find_if(changed.tables(), [&](const Values& values) {
@@ -174,7 +213,7 @@ void ConfigurationReview::takeOver(const std::vector<int>& keys, const EditHisto
             if (found != changed.tables().end())
                 page->putBack(found->held());
         }
-        if (!isQuick_())
+        if (!isQuick())
             return;
         XmlDocument document(QString(), QStringLiteral("DEVICE"));
         changed.write(*document.root());

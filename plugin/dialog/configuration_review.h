@@ -34,6 +34,10 @@ public:
     bool compareWith(Against against, const QString& path = {});
     // What of the preset cannot be applied.
     const std::vector<review::PresetProblem>& problems() const { return problems_; }
+    // With a state that is none of these; `name` says what it is.
+    void compareWith(review::FileState before, const EditHistory::Words& name);
+    // Empty unless a name was given.
+    QString otherName() const { return otherName_ ? otherName_() : QString(); }
 
     const review::Differences& differences() const { return differences_; }
     // To the file, whatever is compared.
@@ -43,12 +47,17 @@ public:
     // Of the full window; `written` is what a write would bring now.
     Configuration configuration() const;
     Configuration written() const;
+    // What a save would write of the settings now.
+    QByteArray document() const;
+    bool isQuick() const { return isQuick_(); }
     // Null where no page has the table.
     PageSettings* pageOf(int table) const;
     const Values* valuesOf(int table) const;
 
     // From the other side; keys of review::FileKeys.
     void takeOver(const std::vector<int>& keys, const EditHistory::Words& words);
+    // A whole document in place of what the pages hold, as one step.
+    void replaceBy(const QByteArray& document, const EditHistory::Words& words);
 
     // The setting at a path such as "TRANS/SRV1/port"; the row is -1 where there is none.
     review::Hit settingAt(const QString& path) const;
@@ -56,7 +65,7 @@ public:
     // On what a write would bring now.
     std::vector<review::Finding> advice() const;
     // The quick window shows too few of the settings.
-    bool canMend() const { return !isQuick_(); }
+    bool canMend() const { return !isQuick(); }
     void mend(const std::vector<review::Mend>& mends, const EditHistory::Words& words);
 
     EditHistory& history() { return history_; }
@@ -67,6 +76,9 @@ Q_SIGNALS:
 private:
     review::FileState now() const;
     review::FileState withPreset();
+    void compareWith(review::FileState before, Against against, const EditHistory::Words& name);
+    void write(CXmlSection& root) const;
+    void put(const Configuration& changed, const EditHistory::Words& words);
     void refresh(const QVector<int>& pages);
 
     EditHistory& history_;
@@ -75,6 +87,7 @@ private:
     Against against_ = Against::file;
     QByteArray preset_; // its document
     std::vector<review::PresetProblem> problems_;
+    EditHistory::Words otherName_;
     bool wasQuick_ = false;
     review::Differences edited_;      // to the file as it came
     review::Differences differences_; // to what is chosen

@@ -143,6 +143,8 @@ QVariant DifferenceModel::headerData(int section, Qt::Orientation orientation, i
     static constexpr const char* sides[] = {"rev_103", "rev_106", "rev_107", "rev_192"};
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return {};
+    if (section == Before && !review_.otherName().isEmpty())
+        return review_.otherName();
     return text(section == Before ? sides[static_cast<int>(review_.against())] : titles[section]);
 }
 

@@ -182,21 +182,30 @@ void EditHistory::putBack(const std::vector<Part>& parts, QString Part::*side, i
         windows_.show(window);
     knownWindow_ = window;
     isBusy_ = false;
+    moved_ = {pages, parts.empty() ? Part{-1, -1, {}, {}} : parts.front()};
+}
+
+void EditHistory::move(void (QUndoStack::*step)())
+{
+    settle();
+    moved_.reset();
+    (steps_.*step)();
+    if (!moved_)
+        return;
+    const auto [pages, first] = *moved_;
     Q_EMIT changed(pages);
-    if (!parts.empty())
-        Q_EMIT stepped(parts.front().page, parts.front().row);
+    if (first.page >= 0)
+        Q_EMIT stepped(first.page, first.row);
 }
 
 void EditHistory::undo()
 {
-    settle();
-    steps_.undo();
+    move(&QUndoStack::undo);
 }
 
 void EditHistory::redo()
 {
-    settle();
-    steps_.redo();
+    move(&QUndoStack::redo);
 }
 
 QString EditHistory::textOf(int step) const

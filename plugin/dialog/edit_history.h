@@ -10,6 +10,7 @@
 #include <QUndoStack>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace vlk {
@@ -65,6 +66,8 @@ private:
     void note(int page, const QString& path);
     std::vector<Part> partsOf(const QVector<int>& pages) const;
     void push(std::vector<Part> parts, const Words& words, bool isPlain);
+    // Tells of the step when it is over: only then the stack knows the next ones.
+    void move(void (QUndoStack::*step)());
     void putBack(const std::vector<Part>& parts, QString Part::*side, int window);
     QString textOf(int step) const;
     QVector<int> allPages() const;
@@ -77,6 +80,7 @@ private:
     QString firstPath_;   // of the edit that began it
     bool isBusy_ = false;
     QTimer over_;
+    std::optional<std::pair<QVector<int>, Part>> moved_; // pages and first part of the step just done
     QUndoStack steps_;
 };
 

@@ -86,6 +86,8 @@ void ReviewPanel::retranslate()
 void ReviewPanel::showState()
 {
     const int against = static_cast<int>(review_.against());
+    const QString other = review_.otherName();
+    against_->setItemText(static_cast<int>(Against::otherFile), other.isEmpty() ? tr("rev_111") : other);
     against_->setCurrentIndex(against);
     takeOver_->setText(tr(kVerbs[against]));
     for (QPushButton* button : {takeOver_, preset_})

@@ -8,6 +8,7 @@
 #include "dialog/file_names.h"
 #include "dialog/report_dialog.h"
 #include "dialog/review_panel.h"
+#include "dialog/unsaved_bar.h"
 #include "dialog/widget_config_full.h"
 #include "dialog/widget_config_light.h"
 #include "link/device.h"
@@ -19,15 +20,40 @@
 #include "xml/xml_document.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QFileInfo>
 #include <QLayout>
+
+namespace {
+
+// What edits of the configuration are kept by. A tracker that does not say which one it is is known by what
+// it holds.
+QString subjectOf(const QString& path, bool isFile)
+{
+    if (path.isEmpty())
+        return QStringLiteral("new");
+    if (isFile) {
+        const QFileInfo file(path);
+        return QStringLiteral("file ") + (file.exists() ? file.canonicalFilePath() : file.absoluteFilePath());
+    }
+    const QString identity = vlkDevice->trackerId1() + QLatin1Char('\n') + vlkDevice->trackerId2();
+    if (identity.size() > 1)
+        return QStringLiteral("tracker ") + identity;
+    QFile file(path);
+    file.open(QIODevice::ReadOnly);
+    return QStringLiteral("tracker with ") +
+           QString::fromLatin1(QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha256).toHex());
+}
+
+} // namespace
 
 VLK_Widget_Config::VLK_Widget_Config(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
       ui_(std::make_unique<Ui::VLK_Designer_Widget_Config>()),
       history_({[this] { return ui_->stackedWidget->currentIndex(); },
                 [this](int window) { ui_->stackedWidget->setCurrentIndex(window); }}),
-      review_(history_, [this] { return isQuick(); }), places_([this] { return pagesOnShow(); })
+      review_(history_, [this] { return isQuick(); }), places_([this] { return pagesOnShow(); }),
+      keeper_(review_, *this)
 {
     ui_->setupUi(this);
     setWindowModality(Qt::ApplicationModal);
@@ -40,12 +66,18 @@ VLK_Widget_Config::VLK_Widget_Config(QWidget* parent)
     connect(lightWindow_, &VLK_Widget_Config_Light::closeRequested, this, &QDialog::close);
     connect(lightWindow_, &VLK_Widget_Config_Light::writeRequested, this,
             &VLK_Widget_Config::writeQuickToDevice);
-    connect(lightWindow_, &VLK_Widget_Config_Light::saveRequested, this, &VLK_Widget_Config::saveQuickToFile);
+    connect(lightWindow_, &VLK_Widget_Config_Light::saveRequested, this, [this](const QString& path) {
+        if (saveQuickToFile(path))
+            keeper_.saved();
+    });
     connect(lightWindow_, &VLK_Widget_Config_Light::fullRequested, this, &VLK_Widget_Config::switchToFull);
     connect(fullWindow_, &VLK_Widget_Config_Full::closeRequested, this, &QDialog::close);
     connect(fullWindow_, &VLK_Widget_Config_Full::quickRequested, this, &VLK_Widget_Config::switchToQuick);
+    connect(fullWindow_, &VLK_Widget_Config_Full::saved, &keeper_, &vlk::EditKeeper::saved);
+    connect(fullWindow_, &VLK_Widget_Config_Full::writeRequested, this, &VLK_Widget_Config::write);
     addReview();
     addDocuments();
+    addKeeper();
     retranslate();
 }
 
@@ -126,6 +158,20 @@ QStringList VLK_Widget_Config::about() const
     return lines;
 }
 
+void VLK_Widget_Config::addKeeper()
+{
+    unsaved_ = new vlk::UnsavedBar(review_, this);
+    const auto place = [this] {
+        isQuick() ? lightWindow_->addNotice(unsaved_) : fullWindow_->addNotice(unsaved_);
+    };
+    connect(ui_->stackedWidget, &QStackedWidget::currentChanged, this, place);
+    place();
+    connect(&keeper_, &vlk::EditKeeper::safe, unsaved_, &vlk::UnsavedBar::drop);
+    connect(&keeper_, &vlk::EditKeeper::failureChanged, this,
+            [this] { unsaved_->tellFailure(keeper_.failure()); });
+    connect(unsaved_, &vlk::UnsavedBar::shown, this, [this] { showPanel(vlk::ReviewBar::Differences); });
+}
+
 void VLK_Widget_Config::showPanel(vlk::ReviewBar::Panel panel)
 {
     bar_->setPanel(panel);
@@ -157,6 +203,7 @@ std::vector<vlk::PageSettings*> VLK_Widget_Config::pagesOnShow() const
 
 void VLK_Widget_Config::open(const vlk::OpenRequest& request, char* ussdBuffer)
 {
+    keeper_.leave();
     lightWindow_->setDefaults();
     fullWindow_->setDefaults();
     const QString path = QString::fromLocal8Bit(static_cast<const char*>(request.path));
@@ -179,6 +226,12 @@ void VLK_Widget_Config::open(const vlk::OpenRequest& request, char* ussdBuffer)
     if (!isFull)
         lightWindow_->prepare();
     review_.begin(path.isEmpty() ? nullptr : document.root());
+    if (vlkDevice) {
+        const QString folder = vlkDevice->xmlFolder();
+        const QString subject = subjectOf(path, request.fromFile == 1);
+        keeper_.begin(folder, subject);
+        unsaved_->begin(folder, subject);
+    }
     vlk::fitToScreen(this);
     show();
     if (isFull)
@@ -205,7 +258,15 @@ void VLK_Widget_Config::writeQuickToDevice()
         return;
     const QString path = vlk::configurationPathToWrite(vlkDevice->model());
     if (saveQuickToFile(path))
-        vlk::requests::writeConfiguration(path);
+        write(path);
+}
+
+void VLK_Widget_Config::write(const QString& path)
+{
+    keeper_.handedOver();
+    vlk::requests::writeConfiguration(path);
+    if (!vlkDevice->confirmsWrites())
+        keeper_.confirmed();
 }
 
 bool VLK_Widget_Config::saveQuickToFile(const QString& path)
@@ -225,12 +286,16 @@ void VLK_Widget_Config::saveToXml(CXmlSection* root)
 
 void VLK_Widget_Config::switchToFull()
 {
+    keeper_.keep();
     history_.asOne([] { return QCoreApplication::translate("vlk", "rev_128"); }, [this] { showFull(); });
+    keeper_.switched();
 }
 
 void VLK_Widget_Config::switchToQuick()
 {
+    keeper_.keep();
     history_.asOne([] { return QCoreApplication::translate("vlk", "rev_129"); }, [this] { showQuick(); });
+    keeper_.switched();
 }
 
 void VLK_Widget_Config::showFull()
@@ -264,6 +329,7 @@ void VLK_Widget_Config::retranslate()
                        fullWindow_->retranslate();
                    });
     bar_->retranslate();
+    unsaved_->retranslate();
     panel_->retranslate();
     advice_->retranslate();
     documents_->retranslate();

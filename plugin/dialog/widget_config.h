@@ -6,6 +6,7 @@
 // Failures of files are told to the log alone, and what could not be saved is not written to the tracker.
 
 #include "dialog/configuration_review.h"
+#include "dialog/edit_keeper.h"
 #include "dialog/review_bar.h"
 #include "dialog/setting_places.h"
 
@@ -26,6 +27,7 @@ class AdvicePanel;
 class DocumentMenu;
 class ReportDialog;
 class ReviewPanel;
+class UnsavedBar;
 struct OpenRequest;
 } // namespace vlk
 
@@ -51,6 +53,8 @@ public:
     void switchToFull();
     void switchToQuick();
     void retranslate();
+    // The host has written what was handed over to it last, and read it back.
+    void confirmWritten() { keeper_.confirmed(); }
 
     VLK_Widget_Config_Full* fullWindow() const { return fullWindow_; }
     vlk::ConfigurationReview& review() { return review_; }
@@ -64,6 +68,8 @@ private:
     void showFull();
     void showQuick();
     void addReview();
+    void addKeeper();
+    void write(const QString& path);
     void showPanel(vlk::ReviewBar::Panel panel);
     void addDocuments();
     void showReport();
@@ -76,6 +82,8 @@ private:
     vlk::EditHistory history_;
     vlk::ConfigurationReview review_;
     vlk::SettingPlaces places_;
+    vlk::EditKeeper keeper_;
+    vlk::UnsavedBar* unsaved_ = nullptr;
     vlk::ReviewBar* bar_ = nullptr;
     vlk::ReviewPanel* panel_ = nullptr;
     vlk::AdvicePanel* advice_ = nullptr;

@@ -106,6 +106,11 @@ void VLK_Widget_Config_Full::addReview(QWidget* bar, QWidget* panel)
     ui_->verticalLayout_Tabs->addWidget(panel);
 }
 
+void VLK_Widget_Config_Full::addNotice(QWidget* bar)
+{
+    ui_->verticalLayout_Tabs->insertWidget(0, bar);
+}
+
 void VLK_Widget_Config_Full::setDefaults()
 {
     slot_Excess_Size(false);
@@ -170,8 +175,10 @@ void VLK_Widget_Config_Full::slot_pressed_Btn_SaveToFile()
     if (path.isEmpty())
         return;
     vlk::HeldButton button(ui_->pushButton_SaveToFile);
-    saveFile(path);
+    const bool isSaved = saveFile(path);
     button.release();
+    if (isSaved)
+        Q_EMIT saved();
 }
 
 void VLK_Widget_Config_Full::slot_pressed_Btn_LoadToDevice()
@@ -180,10 +187,10 @@ void VLK_Widget_Config_Full::slot_pressed_Btn_LoadToDevice()
         return;
     const QString path = vlk::configurationPathToWrite(QStringLiteral("R7106"));
     vlk::HeldButton button(ui_->pushButton_LoadToDevice);
-    const bool saved = saveFile(path);
+    const bool isSaved = saveFile(path);
     button.release(connected_);
-    if (saved)
-        vlk::requests::writeConfiguration(path);
+    if (isSaved)
+        Q_EMIT writeRequested(path);
 }
 
 void VLK_Widget_Config_Full::slot_pressed_Btn_Help()

@@ -32,6 +32,8 @@ public:
 
     // Above and below the tabs.
     void addReview(QWidget* bar, QWidget* panel);
+    // Above all.
+    void addNotice(QWidget* bar);
 
     void setDefaults();
     void retranslate();
@@ -44,6 +46,10 @@ Q_SIGNALS:
     void closeRequested();
     // The user wants the quick window instead, and has been asked whether that is meant.
     void quickRequested();
+    // A file that the user chose holds all pages.
+    void saved();
+    // The file at the path is for the tracker.
+    void writeRequested(const QString& path);
 
 public Q_SLOTS:
     void slot_timeOut_TimerAnalog();

@@ -53,6 +53,11 @@ void VLK_Widget_Config_Light::addReview(QWidget* bar, QWidget* panel)
     ui_->verticalLayout->insertWidget(ui_->verticalLayout->count() - 1, panel);
 }
 
+void VLK_Widget_Config_Light::addNotice(QWidget* bar)
+{
+    ui_->verticalLayout->insertWidget(0, bar);
+}
+
 VLK_Form_Config_Light& VLK_Widget_Config_Light::form()
 {
     if (!form_) {

@@ -31,6 +31,8 @@ public:
     void prepare() { form(); }
     // Above and below the form.
     void addReview(QWidget* bar, QWidget* panel);
+    // Above all.
+    void addNotice(QWidget* bar);
     void retranslate();
     void setDefaults();
     void loadFromXml(CXmlSection* root);

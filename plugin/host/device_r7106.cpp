@@ -164,6 +164,13 @@ void VLK_Device_R7106::openConfiguration(const vlk::OpenRequest& request)
     configDialog_->open(request, balanceUssd_);
 }
 
+void VLK_Device_R7106::confirmWrite(std::uint32_t step)
+{
+    confirmsWrites_ = true;
+    if (step == vlk::WriteConfirmation::confirmed && configDialog_)
+        configDialog_->confirmWritten();
+}
+
 void VLK_Device_R7106::openTelemetry(const QString& configurationPath)
 {
     ensureTelemetryView()->open(configurationPath);

@@ -41,6 +41,7 @@ public:
     QString trackerId2() const override { return trackerText2_; }
     quint64 capabilityMask() const override { return trackerMask_; }
     int mode() const override { return hostMode_; }
+    bool confirmsWrites() const override { return confirmsWrites_; }
     QString fileVersion() const override;
     char* balanceUssd() override { return balanceUssd_; }
     void setLiveOwner(int owner) override { liveOwner_ = owner; }
@@ -60,6 +61,7 @@ public:
     void showStoredFile(const QString& path, std::int32_t kind);
     void retranslate();
     void closeWindows();
+    void confirmWrite(std::uint32_t step);
 
     // Null until the first message that opens them.
     VLK_Widget_Config* configDialog() const { return configDialog_; }
@@ -86,5 +88,6 @@ private:
     VLK_Widget_Tmi_Page* tmiPage_ = nullptr;
     VLK_Widget_Tmi_Table* tmiTable_ = nullptr;
     int hostMode_ = 0;
+    bool confirmsWrites_ = false;
     char balanceUssd_[vlk::balanceUssdSize] = {};
 };

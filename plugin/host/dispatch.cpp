@@ -235,6 +235,11 @@ constexpr Entry table[] = {
          if (sizeOf(parameters.p1) >= sizeof(vlk::FileComparison))
              vlk::compareFiles(*static_cast<vlk::FileComparison*>(parameters.p1));
      }},
+    {Message::ConfirmWrite,
+     [](VLK_Device_R7106& device, const Parameters& parameters) {
+         if (sizeOf(parameters.p1) >= sizeof(vlk::WriteConfirmation))
+             device.confirmWrite(static_cast<const vlk::WriteConfirmation*>(parameters.p1)->step);
+     }},
     {Message::CheckFile,
      [](VLK_Device_R7106&, const Parameters& parameters) {
          if (sizeOf(parameters.p1) >= sizeof(vlk::FileCheck))

@@ -22,8 +22,9 @@
 // belong to the library and live as long as the process.
 //
 // Extensions, from number 7106001 on, are for a host that looks after a save that the tracker keeps waiting,
-// or tells what a configuration would change, reports it or applies a preset to it: messages.h tells what
-// they do and how their records survive other versions. GetExtensions says which of them are there.
+// tells what a configuration would change, reports it or applies a preset to it, or confirms what it has
+// written: messages.h tells what they do and how their records survive other versions. GetExtensions says
+// which of them are there.
 //
 // There are no error codes: a wrong handle, an unknown number, a null address or a missing window end the
 // call silently.

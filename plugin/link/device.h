@@ -25,6 +25,8 @@ public:
     virtual int mode() const = 0;
     // Modes 1 and 2; every other one is an ordinary one.
     bool isProduction() const { return mode() == 1 || mode() == 2; }
+    // Whether the host has said that it will tell of each configuration that it was written.
+    virtual bool confirmsWrites() const = 0;
     // First three version numbers, "3.3.0".
     virtual QString fileVersion() const = 0;
 

@@ -300,6 +300,20 @@ private Q_SLOTS:
         QCOMPARE(notice->text(), QString("rev_198"));
     }
 
+    // What is not chosen stays, in quick setup too.
+    void oneOfTwoInQuickSetup()
+    {
+        open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml", 0);
+        auto* page = dialog_->findChild<QWidget*>("page_Light");
+        auto* port = page->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main");
+        type(page->findChild<QLineEdit*>("GPRSSrv_lineEdit_IP_DNS_Main"), "10.0.0.1");
+        const QByteArray before = dialog_->review().document();
+        type(port, "5555");
+        dialog_->review().takeOver({vlk::review::FileKeys::all().at("TRANS/SRV1/port")},
+                                   [] { return QString(); });
+        QCOMPARE(dialog_->review().document(), before);
+    }
+
     // The list of what has changed goes when the focus does.
     void changedOnly()
     {

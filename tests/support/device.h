@@ -3,6 +3,8 @@
 #include "host/host_interface.h"
 #include "link/device.h"
 
+#include <QTemporaryDir>
+
 // The device object as windows see it, without a library around it: messages go to the given callback.
 class TestDevice : public vlk::Device
 {
@@ -19,13 +21,14 @@ public:
             callback_(this, static_cast<std::uint32_t>(id), p1, p2);
     }
     QString tmiFolder() const override { return QStringLiteral("./Data/TMI/"); }
-    QString xmlFolder() const override { return QStringLiteral("./Data/XML/"); }
+    QString xmlFolder() const override { return xmlFolder_.path(); }
     QString model() const override { return QStringLiteral("R-7106"); }
     QString vendor() const override { return QStringLiteral("VELTRONIKA"); }
     QString trackerId1() const override { return {}; }
     QString trackerId2() const override { return {}; }
     quint64 capabilityMask() const override { return capabilities; }
     int mode() const override { return 0; }
+    bool confirmsWrites() const override { return confirms; }
     QString fileVersion() const override { return QStringLiteral("3.3.0"); }
     char* balanceUssd() override { return balanceUssd_; }
     void setLiveOwner(int /*owner*/) override {}
@@ -33,9 +36,11 @@ public:
     void showText(const QString& /*title*/, const QString& /*html*/) override {}
 
     quint64 capabilities = 0;
+    bool confirms = false;
 
 private:
     vlk::HostCallback callback_ = nullptr;
+    QTemporaryDir xmlFolder_;
     char balanceUssd_[vlk::balanceUssdSize] = {};
 };
 

@@ -9,6 +9,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLibrary>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QVector>
 #include <QWidget>
@@ -48,6 +49,9 @@ public:
         libraryInfo(&info);
         handle = vlk::asParameter(info.handle);
         initialize(&ScriptedHost::callback);
+        // What is edited is kept below it, and shall not be there in the next run.
+        const vlk::Paths paths{{}, folder_.path(), {}, {}};
+        send(vlk::Message::SetPaths, &paths);
     }
 
     void send(vlk::Message number, const void* p1 = nullptr, const void* p2 = nullptr)
@@ -160,4 +164,5 @@ private:
     }
 
     QLibrary library_;
+    QTemporaryDir folder_;
 };

@@ -21,7 +21,7 @@ public:
         SavedInPart, // "PATH: N of M records, until TIME"
         Typing,      // "FIELD: what became of a number that was still being typed", for the user as it stands
         File,        // something of a file that was opened, to be told in words()
-        Damage,      // the same; the window that shows the file tells it too
+        Damage,      // the same; the window that it is about tells it too
     };
 
     explicit PluginLog(QObject* parent = nullptr);

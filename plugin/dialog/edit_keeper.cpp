@@ -1,0 +1,141 @@
+#include "dialog/edit_keeper.h"
+
+#include "base/clock.h"
+#include "review/recovery.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QFile>
+#include <QLoggingCategory>
+#include <QWidget>
+
+#include <utility>
+
+namespace vlk {
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcUnsaved, "vlk.save.unsaved")
+
+// Behind an edit. With the time that a slow disk takes it stays below a second.
+constexpr int kDelayMs = 300;
+
+} // namespace
+
+EditKeeper::EditKeeper(ConfigurationReview& review, QWidget& window) : review_(review)
+{
+    window.installEventFilter(this);
+    due_.setSingleShot(true);
+    due_.setInterval(kDelayMs);
+    connect(&due_, &QTimer::timeout, this, &EditKeeper::keep);
+    // Edits that follow each other do not put it off.
+    connect(&review_, &ConfigurationReview::changed, this, [this] {
+        if (!due_.isActive())
+            due_.start();
+    });
+    connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &EditKeeper::leave);
+}
+
+void EditKeeper::begin(const QString& folder, const QString& subject)
+{
+    due_.stop();
+    subject_ = subject;
+    path_ = review::recoveryPath(folder, subject);
+    beginWith(review_.document());
+}
+
+void EditKeeper::beginWith(const QByteArray& document)
+{
+    beginnings_.fill(document);
+    kept_.clear();
+}
+
+bool EditKeeper::keep()
+{
+    due_.stop();
+    if (subject_.isEmpty())
+        return true;
+    const QByteArray& beginning = beginnings_[review_.isQuick()];
+    const QByteArray now = review_.document();
+    QString reason;
+    isEdited_ = now != beginning;
+    if (now == kept_)
+        return true;
+    if (!isEdited_) {
+        if (QFile::exists(path_) && !QFile::remove(path_))
+            return false;
+        kept_.clear();
+    } else if (review::keepUnsaved(path_, {subject_, vlk::now(), beginning, now}, &reason)) {
+        kept_ = now;
+    } else {
+        setFailure(reason);
+        return false;
+    }
+    setFailure({});
+    return true;
+}
+
+void EditKeeper::leave()
+{
+    for (PageSettings* page : review_.history().pages())
+        page->binder().finishTyping();
+    review_.history().settle();
+    if (keep())
+        Q_EMIT safe();
+}
+
+bool EditKeeper::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Hide && !event->spontaneous())
+        leave();
+    return QObject::eventFilter(watched, event);
+}
+
+void EditKeeper::switched()
+{
+    const bool isQuick = review_.isQuick();
+    beginnings_[isQuick] = isEdited_ ? beginnings_[!isQuick] : review_.document();
+}
+
+void EditKeeper::saved()
+{
+    beginWith(review_.document());
+    keep();
+    Q_EMIT safe();
+}
+
+void EditKeeper::handedOver()
+{
+    keep();
+    handedOver_ = review_.document();
+    handedOverPath_ = path_;
+}
+
+void EditKeeper::confirmed()
+{
+    const QByteArray written = std::exchange(handedOver_, {});
+    if (written.isNull())
+        return;
+    if (handedOverPath_ == path_) {
+        beginWith(written);
+        if (keep())
+            Q_EMIT safe();
+        return;
+    }
+    // Another configuration has been opened since then. What was edited in between stays.
+    const std::optional<review::Unsaved> left = review::unsavedIn(handedOverPath_);
+    if (left && left->after == written)
+        QFile::remove(handedOverPath_);
+}
+
+void EditKeeper::setFailure(const QString& reason)
+{
+    if (reason == failure_)
+        return;
+    failure_ = reason;
+    if (!reason.isEmpty())
+        qCWarning(lcUnsaved).noquote().nospace() << path_ << ": " << reason;
+    Q_EMIT failureChanged();
+}
+
+} // namespace vlk

@@ -1,0 +1,64 @@
+#pragma once
+
+// Keeps on disk what is being edited (review/recovery.h), a third of a second behind, until it is saved to a
+// file, written to the tracker or taken back, and at once when the window closes. A change of windows alone
+// is no edit.
+
+#include "dialog/configuration_review.h"
+
+#include <QTimer>
+
+#include <array>
+
+namespace vlk {
+
+class EditKeeper : public QObject
+{
+    Q_OBJECT
+
+public:
+    EditKeeper(ConfigurationReview& review, QWidget& window);
+
+    // The configuration that is known by `subject` has been opened; what was edited before has been left.
+    void begin(const QString& folder, const QString& subject);
+    // At once. False when the disk refused.
+    bool keep();
+    // The same for edits that go out of sight: what is still being typed counts.
+    void leave();
+    // The user has put the other window on show, which was kept before.
+    void switched();
+
+    // A file holds what there is now.
+    void saved();
+    // What there is now goes to the tracker.
+    void handedOver();
+    // The tracker has what was handed over last, or nobody will say whether it has.
+    void confirmed();
+
+    // Why the disk refused; empty while it does not.
+    QString failure() const { return failure_; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+Q_SIGNALS:
+    void failureChanged();
+    // What there is now is safe: kept, saved or written.
+    void safe();
+
+private:
+    void beginWith(const QByteArray& document);
+    void setFailure(const QString& reason);
+
+    ConfigurationReview& review_;
+    QTimer due_;
+    QString subject_;
+    QString path_;
+    std::array<QByteArray, 2> beginnings_; // without an edit, in the full and in the quick window
+    QByteArray kept_;                      // what the file is known to hold
+    bool isEdited_ = false;
+    QByteArray handedOver_;
+    QString handedOverPath_;
+    QString failure_;
+};
+
+} // namespace vlk

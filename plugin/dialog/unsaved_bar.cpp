@@ -1,0 +1,160 @@
+#include "dialog/unsaved_bar.h"
+
+#include "base/clock.h"
+#include "xml/xml_document.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QLocale>
+
+#include <algorithm>
+
+namespace vlk {
+
+namespace {
+
+constexpr int kFailure = 0; // number of its notice
+
+QString words(const char* key)
+{
+    return QCoreApplication::translate("vlk", key);
+}
+
+QString nameOf(const review::Unsaved& unsaved)
+{
+    const bool isToday = unsaved.moment.date() == now().date();
+    return words("rev_140").arg(
+        unsaved.moment.toString(isToday ? QStringLiteral("HH:mm") : QStringLiteral("dd.MM.yyyy HH:mm")));
+}
+
+} // namespace
+
+UnsavedBar::UnsavedBar(ConfigurationReview& review, QWidget* parent)
+    : NoticeBar(parent, QStringLiteral("label_Unsaved")), review_(review)
+{
+    connect(&review_, &ConfigurationReview::changed, this, &UnsavedBar::refresh);
+    connect(this, &NoticeBar::closed, this, [this](int number) {
+        if (number != kFailure)
+            offers_[number - 1].isClosed = true;
+    });
+}
+
+void UnsavedBar::begin(const QString& folder, const QString& subject)
+{
+    for (std::size_t i = 0; i < offers_.size(); ++i)
+        end(static_cast<int>(i) + 1);
+    offers_.clear();
+    for (review::KeptUnsaved& kept : review::keptUnsaved(folder, subject)) {
+        XmlDocument after(kept.unsaved.after, QStringLiteral("DEVICE"));
+        std::vector<int> keys = editedKeys(kept.unsaved);
+        Offer offer{std::move(kept), std::move(keys), review::FileState::ofDocument(*after.root())};
+        if (isInNewer(offer))
+            QFile::remove(offer.kept.path);
+        else
+            offers_.push_back(std::move(offer));
+    }
+    drop();
+    refresh();
+}
+
+// Brought back once, and kept again with the edits that followed, when the process died.
+bool UnsavedBar::isInNewer(const Offer& offer) const
+{
+    return std::ranges::any_of(offers_, [&](const Offer& newer) {
+        return std::ranges::all_of(offer.keys, [&](int key) {
+            return std::ranges::find(newer.keys, key) != newer.keys.end() &&
+                   newer.after.at(key) == offer.after.at(key);
+        });
+    });
+}
+
+int UnsavedBar::changes(const Offer& offer) const
+{
+    const review::FileState& now = review_.differences().after();
+    return static_cast<int>(
+        std::ranges::count_if(offer.keys, [&](int key) { return !(offer.after.at(key) == now.at(key)); }));
+}
+
+// An offer whose changes are there is over, and comes again when they are taken back.
+void UnsavedBar::refresh()
+{
+    for (int number = 1; number <= static_cast<int>(offers_.size()); ++number) {
+        Offer& offer = offers_[number - 1];
+        const int count = offer.isClosed ? 0 : changes(offer);
+        if (count == offer.told)
+            continue;
+        offer.told = count;
+        if (count > 0)
+            tellOffer(number);
+        else
+            end(number);
+    }
+}
+
+void UnsavedBar::tellOffer(int number)
+{
+    tell(number, [this, number] { return noticeOf(number); });
+}
+
+Notice UnsavedBar::noticeOf(int number)
+{
+    const Offer& offer = offers_[number - 1];
+    const QString text =
+        QStringLiteral("%1: %2").arg(nameOf(offer.kept.unsaved), QLocale().toString(offer.told));
+    const Notice::Action show{words("rev_141"), [this, number] { showOffer(number); }};
+    const Notice::Action bring{words("rev_142"), [this, number] { bringBack(number); }};
+    const Notice::Action drop{words("rev_143"), [this, number] { discard(number, true); }};
+    const Notice::Action keep{words("rev_147"), [this, number] { discard(number, false); }};
+    if (offer.isDiscarded)
+        return {Mark::advice, words("rev_146").arg(nameOf(offer.kept.unsaved)), {keep}};
+    return {Mark::advice, text, offer.isShown ? std::vector{bring, drop} : std::vector{show, bring}};
+}
+
+void UnsavedBar::showOffer(int number)
+{
+    Offer& offer = offers_[number - 1];
+    offer.isShown = true;
+    XmlDocument edited(withEdits(review_.document(), offer.kept.unsaved), QStringLiteral("DEVICE"));
+    review_.compareWith(review::FileState::ofDocument(*edited.root()),
+                        [unsaved = offer.kept.unsaved] { return nameOf(unsaved); });
+    tellOffer(number);
+    Q_EMIT shown();
+}
+
+void UnsavedBar::bringBack(int number)
+{
+    review_.replaceBy(withEdits(review_.document(), offers_[number - 1].kept.unsaved),
+                      [] { return words("rev_144"); });
+    endComparison();
+}
+
+void UnsavedBar::discard(int number, bool isDiscarded)
+{
+    offers_[number - 1].isDiscarded = isDiscarded;
+    tellOffer(number);
+    endComparison();
+}
+
+void UnsavedBar::endComparison()
+{
+    if (!review_.otherName().isEmpty())
+        review_.compareWith(ConfigurationReview::Against::file);
+}
+
+void UnsavedBar::drop()
+{
+    for (Offer& offer : offers_) {
+        if (offer.isDiscarded || changes(offer) == 0)
+            offer.isClosed |= QFile::remove(offer.kept.path);
+    }
+}
+
+void UnsavedBar::tellFailure(const QString& reason)
+{
+    if (reason.isEmpty())
+        end(kFailure);
+    else
+        tell(kFailure, [reason] { return Notice{Mark::invalid, words("rev_145").arg(reason), {}}; });
+}
+
+} // namespace vlk

@@ -1,0 +1,61 @@
+#pragma once
+
+// Offers what was edited earlier and has reached neither a file nor the tracker, above the pages: how many
+// settings of the configuration on show it would change. Each time of editing is a notice of its own, the
+// newest first. The cross leaves it for the next opening; once it has been shown it can be discarded, which
+// happens when the window closes.
+
+#include "dialog/configuration_review.h"
+#include "review/recovery.h"
+#include "typing/notice_bar.h"
+
+#include <vector>
+
+namespace vlk {
+
+class UnsavedBar : public NoticeBar
+{
+    Q_OBJECT
+
+public:
+    UnsavedBar(ConfigurationReview& review, QWidget* parent);
+
+    // The configuration that is known by `subject` has been opened.
+    void begin(const QString& folder, const QString& subject);
+    // What there is now is kept, saved or written: offers that would change nothing go from the disk, and so
+    // do those that are discarded.
+    void drop();
+    // That the disk keeps nothing; an empty reason ends it.
+    void tellFailure(const QString& reason);
+
+Q_SIGNALS:
+    // The review compares with an offer.
+    void shown();
+
+private:
+    struct Offer
+    {
+        review::KeptUnsaved kept;
+        std::vector<int> keys;
+        review::FileState after;
+        bool isShown = false;
+        bool isDiscarded = false;
+        bool isClosed = false;
+        int told = 0; // how many settings it was said to change
+    };
+
+    bool isInNewer(const Offer& offer) const;
+    int changes(const Offer& offer) const;
+    void refresh();
+    void tellOffer(int number);
+    Notice noticeOf(int number);
+    void showOffer(int number);
+    void bringBack(int number);
+    void discard(int number, bool isDiscarded);
+    void endComparison();
+
+    ConfigurationReview& review_;
+    std::vector<Offer> offers_; // a notice has the number of its place, from 1 on
+};
+
+} // namespace vlk

@@ -1,0 +1,130 @@
+#include "review/recovery.h"
+
+#include "base/clock.h"
+#include "base/replace_file.h"
+#include "review/take_over.h"
+#include "xml/serialize.h"
+#include "xml/xml_document.h"
+
+#include <QCryptographicHash>
+#include <QDataStream>
+#include <QDir>
+#include <QFile>
+
+#include <algorithm>
+
+namespace vlk::review {
+
+namespace {
+
+// A file is the mark, the parts of an Unsaved and the checksum of both.
+constexpr char kMark[] = "VLK unsaved 1\n";
+constexpr int kMarkSize = sizeof kMark - 1;
+constexpr int kSumSize = 32;
+constexpr qint64 kMostBytes = 2 * CSerialize::maxFileSize + 100'000;
+constexpr QDataStream::Version kStreamVersion = QDataStream::Qt_5_12;
+constexpr int kStemSize = 16;
+const QString kSuffix = QStringLiteral(".unsaved");
+const QString kRoot = QStringLiteral("DEVICE");
+
+QByteArray sumOf(const QByteArray& bytes)
+{
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
+}
+
+QString keptFolder(const QString& folder)
+{
+    return folder + QStringLiteral("/unsaved");
+}
+
+// What the names of all files of a configuration begin with.
+QString stemOf(const QString& subject)
+{
+    return QString::fromLatin1(sumOf(subject.toUtf8()).toHex().left(kStemSize));
+}
+
+FileState stateOf(const QByteArray& text)
+{
+    XmlDocument document(text, kRoot);
+    return FileState::ofDocument(*document.root());
+}
+
+} // namespace
+
+QString recoveryPath(const QString& folder, const QString& subject)
+{
+    QString path;
+    for (QDateTime begun = now(); path.isEmpty() || QFile::exists(path); begun = begun.addMSecs(1))
+        path = QStringLiteral("%1/%2-%3")
+                   .arg(keptFolder(folder), stemOf(subject),
+                        begun.toString(QStringLiteral("yyyyMMdd-hhmmss-zzz"))) +
+               kSuffix;
+    return path;
+}
+
+bool keepUnsaved(const QString& path, const Unsaved& unsaved, QString* reason)
+{
+    QByteArray content(kMark);
+    QDataStream stream(&content, QIODevice::Append);
+    stream.setVersion(kStreamVersion);
+    stream << unsaved.subject << unsaved.moment << unsaved.before << unsaved.after;
+    QDir().mkpath(QFileInfo(path).path());
+    return replacePrivateFile(path, content + sumOf(content), reason);
+}
+
+std::optional<Unsaved> unsavedIn(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.size() > kMostBytes)
+        return {};
+    const QByteArray bytes = file.readAll();
+    const QByteArray content = bytes.left(bytes.size() - kSumSize);
+    if (bytes.size() < kMarkSize + kSumSize || !content.startsWith(kMark) ||
+        bytes.right(kSumSize) != sumOf(content))
+        return {};
+    QDataStream stream(content.mid(kMarkSize));
+    stream.setVersion(kStreamVersion);
+    Unsaved unsaved;
+    stream >> unsaved.subject >> unsaved.moment >> unsaved.before >> unsaved.after;
+    if (stream.status() != QDataStream::Ok)
+        return {};
+    return unsaved;
+}
+
+std::vector<KeptUnsaved> keptUnsaved(const QString& folder, const QString& subject)
+{
+    std::vector<KeptUnsaved> kept;
+    const QDir files(keptFolder(folder));
+    for (const QString& name : files.entryList({stemOf(subject) + QLatin1Char('*') + kSuffix}, QDir::Files)) {
+        const QString path = files.filePath(name);
+        if (std::optional<Unsaved> unsaved = unsavedIn(path); unsaved && unsaved->subject == subject)
+            kept.push_back({path, std::move(*unsaved)});
+    }
+    std::stable_sort(kept.begin(), kept.end(), [](const KeptUnsaved& a, const KeptUnsaved& b) {
+        return a.unsaved.moment > b.unsaved.moment;
+    });
+    return kept;
+}
+
+std::vector<int> editedKeys(const Unsaved& unsaved)
+{
+    std::vector<int> keys;
+    for (const Difference& difference : Differences(stateOf(unsaved.before), stateOf(unsaved.after)).all()) {
+        if (difference.key >= 0)
+            keys.push_back(difference.key);
+    }
+    return keys;
+}
+
+QByteArray withEdits(const QByteArray& document, const Unsaved& unsaved)
+{
+    // Then it holds the very bytes, and what no setting of the full window reads, too.
+    if (document == unsaved.before)
+        return unsaved.after;
+    const Differences differences(stateOf(unsaved.after), stateOf(document));
+    XmlDocument edited(document, kRoot);
+    layOver(*edited.root(), differences.before(), withNeeded(differences, editedKeys(unsaved)));
+    return edited.text();
+}
+
+} // namespace vlk::review

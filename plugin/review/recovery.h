@@ -1,0 +1,45 @@
+#pragma once
+
+// What was edited and has reached neither a file nor the tracker yet, kept on disk for the next time that the
+// same configuration is opened. Each time that it is edited has a file of its own, which its owner alone may
+// read, since it holds passwords. One that is damaged, or of another configuration, counts as none.
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace vlk::review {
+
+struct Unsaved
+{
+    QString subject; // which configuration: that of a tracker, of a file or a new one
+    QDateTime moment;
+    // The documents that a save would have written, before the first edit and now.
+    QByteArray before;
+    QByteArray after;
+};
+
+struct KeptUnsaved
+{
+    QString path;
+    Unsaved unsaved;
+};
+
+// Where edits that begin now are kept, below the folder of configurations.
+QString recoveryPath(const QString& folder, const QString& subject);
+// False when the disk refused; `reason` says why, and what the file held before stays.
+bool keepUnsaved(const QString& path, const Unsaved& unsaved, QString* reason);
+// Nothing where the file is not there or holds no edits.
+std::optional<Unsaved> unsavedIn(const QString& path);
+// The newest first.
+std::vector<KeptUnsaved> keptUnsaved(const QString& folder, const QString& subject);
+
+// The keys (file_keys.h) that the edits have changed.
+std::vector<int> editedKeys(const Unsaved& unsaved);
+// The document of a save with the edits laid over it. Whatever else has changed since then stays.
+QByteArray withEdits(const QByteArray& document, const Unsaved& unsaved);
+
+} // namespace vlk::review

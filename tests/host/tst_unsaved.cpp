@@ -1,0 +1,356 @@
+// What was edited and neither saved nor written when the window closed or the process died: kept on disk, and
+// offered when the same configuration is opened again.
+
+#include "review/recovery.h"
+#include "support/data_table.h"
+#include "support/files.h"
+#include "support/full_disk.h"
+#include "support/scripted_host.h"
+#include "support/typing.h"
+#include "support/window_parts.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+#include <cstdio>
+#include <random>
+
+using vlk::Message;
+
+namespace {
+
+constexpr char kFolder[] = "VLK_EDITED_FOLDER"; // in the environment of a process that is to be killed
+constexpr char kKills[] = "VLK_KILLS";
+
+void useFolder(ScriptedHost& host, const QString& folder)
+{
+    host.start();
+    const vlk::Paths paths{{}, folder, {}, {}};
+    host.send(Message::SetPaths, &paths);
+}
+
+// Edits for ever, and says after each edit which one it was, and when.
+int editUntilKilled(const QString& folder)
+{
+    ScriptedHost host;
+    useFolder(host, folder);
+    host.open({});
+    auto* name =
+        ScriptedHost::child<QLineEdit>(ScriptedHost::window("VLK_Widget_Config_Full"), "lineEdit_Name");
+    QElapsedTimer clock;
+    clock.start();
+    for (int edit = 1;; ++edit) {
+        type(name, QStringLiteral("<All>%1").arg(edit));
+        std::printf("%d %lld\n", edit, clock.elapsed());
+        std::fflush(stdout);
+        QTest::qWait(5);
+    }
+}
+
+} // namespace
+
+class UnsavedTest : public QObject, private WindowParts
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QDir::setCurrent(folder_.path());
+        host_.start();
+    }
+    void init()
+    {
+        kept_ = std::make_unique<QTemporaryDir>();
+        const vlk::Paths paths{{}, kept_->path(), {}, {}};
+        host_.send(Message::SetPaths, &paths);
+        attach("1");
+        open("file");
+        window = ScriptedHost::window("VLK_Widget_Config");
+    }
+
+    void broughtBack_data()
+    {
+        DataTable<QString, bool> table({"source", "full"});
+        for (const char* source : {"file", "tracker", "new"}) {
+            table.row(source, source, true);
+            table.row(qPrintable(source + QString(", quick")), source, false);
+        }
+    }
+    void broughtBack()
+    {
+        QFETCH(QString, source);
+        QFETCH(bool, full);
+        open(source, full);
+        edit(full);
+        const QByteArray expected = written(full);
+        open(source, full);
+        QVERIFY(offer().isEmpty());
+        const QByteArray untouched = written(full);
+
+        open(source, full);
+        edit(full);
+        QTest::keyClick(window, Qt::Key_Escape);
+        QVERIFY(!window->isVisible());
+        open(source == "new" ? "file" : "new", full);
+        QVERIFY(offer().isEmpty());
+        open(source, full);
+        QCOMPARE(offer(), QString("rev_140: 2"));
+        press("label_Unsaved_Action2");
+        QVERIFY(offer().isEmpty());
+        press("toolButton_Undo");
+        QVERIFY(!offer().isEmpty());
+        press("toolButton_Redo");
+        QVERIFY(offer().isEmpty());
+        QCOMPARE(written(full), expected);
+        open(source, full);
+        QVERIFY(offer().isEmpty());
+        QCOMPARE(written(full), untouched);
+    }
+
+    // What is taken back, saved to a file or there already is not offered, nor another tracker's.
+    void notOffered()
+    {
+        edit();
+        QTRY_COMPARE(files().size(), 1);
+        press("toolButton_Undo");
+        press("toolButton_Undo");
+        QTRY_COMPARE(files().size(), 0);
+        press("toolButton_Redo");
+        ScriptedHost::whenModal([this](QWidget* dialog) {
+            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(folder_.filePath("saved.xml"));
+            qobject_cast<QDialog*>(dialog)->accept();
+        });
+        press("pushButton_SaveToFile");
+        QCOMPARE(files().size(), 0);
+        window->close();
+        QCOMPARE(files().size(), 0);
+
+        open("tracker");
+        edit();
+        window->close();
+        attach("2");
+        open("tracker");
+        QVERIFY(offer().isEmpty());
+        attach("1");
+        open("tracker", false);
+        open("tracker");
+        QCOMPARE(offer(), QString("rev_140: 2"));
+        for (const QString& file : files())
+            writeFile(file, readFile(file).left(100));
+        open("tracker");
+        QVERIFY(offer().isEmpty());
+    }
+
+    // The cross leaves it for the next time; once it has been shown it can be discarded. New edits beside it
+    // are kept beside it.
+    void shownAndLeft()
+    {
+        edit();
+        open("file");
+        press("label_Unsaved_Close");
+        QVERIFY(offer().isEmpty());
+        auto* timer = child<QSpinBox>("spinBox_RegTimer");
+        type(timer, "<All>60"); // and is not left
+        open("file");
+        QCOMPARE(files().size(), 2);
+        QCOMPARE(offer(), QString("rev_140: 1"));
+        press("label_Unsaved_Action1");
+        auto* table = child<QTableView>("tableView_Differences");
+        QVERIFY(table->isVisible());
+        QCOMPARE(table->model()->rowCount(), 1);
+        QCOMPARE(child<QComboBox>("comboBox_Against")->currentText(), QString("rev_140"));
+        for (const char* button :
+             {"label_Unsaved_Action2", "label_Unsaved_Action1", "label_Unsaved_Action2"}) {
+            press(button); // discard, keep, discard
+            QCOMPARE(files().size(), 2);
+        }
+        QCOMPARE(offer(), QString("rev_146"));
+        QCOMPARE(child<QComboBox>("comboBox_Against")->currentIndex(), 0);
+        window->close();
+        open("file");
+        QCOMPARE(files().size(), 1);
+        QCOMPARE(offer(), QString("rev_140: 2"));
+        press("label_Unsaved_Action2");
+        type(timer, "<All>60<Tab>");
+        window->close();
+        // The same once more, as a death behind "Bring back" leaves it.
+        QFile::copy(files()[0], QString(files()[0]).replace('-', "-0"));
+        open("file");
+        QCOMPARE(files().size(), 1);
+        QCOMPARE(offer(), QString("rev_140: 3"));
+    }
+
+    // A change of windows alone is no edit.
+    void switchedWindows()
+    {
+        const auto toQuick = [this] {
+            ScriptedHost::whenModal([](QWidget* box) { box->findChildren<QAbstractButton*>()[0]->click(); });
+            press("pushButton_ConfigLight");
+        };
+        toQuick();
+        window->close();
+        QCOMPARE(files().size(), 0);
+        open("file");
+        edit();
+        toQuick();
+        press("pushButton_Light_ConfigFull");
+        window->close();
+        open("file");
+        QVERIFY(!offer().isEmpty());
+    }
+
+    void fullDisk()
+    {
+        {
+            const FullDisk disk(100);
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^/.+\\.unsaved: File too large$"));
+            edit();
+            QTRY_COMPARE(offer(), QString("rev_145"));
+        }
+        window->close();
+        open("file");
+        QCOMPARE(offer(), QString("rev_140: 2"));
+    }
+
+    void killed()
+    {
+        const int count = std::max(8, qEnvironmentVariableIntValue(kKills));
+        std::mt19937 random(7106);
+        struct Edited
+        {
+            QProcess process;
+            QTemporaryDir folder;
+            qint64 end = -1;
+        };
+        int lost = 0;
+        for (int round = 0; round < count; round += 8) {
+            std::array<Edited, 8> all;
+            for (Edited& edited : all) {
+                QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+                environment.insert(kFolder, edited.folder.path());
+                edited.process.setProcessEnvironment(environment);
+                edited.process.start(QCoreApplication::applicationFilePath(), QStringList());
+            }
+            QElapsedTimer clock;
+            clock.start();
+            const auto kill = [&](Edited& edited) {
+                if (edited.end < 0 && edited.process.bytesAvailable() > 0)
+                    edited.end = clock.elapsed() + random() % 2500;
+                if (edited.end >= 0 && clock.elapsed() > edited.end)
+                    edited.process.kill();
+                return edited.process.state() == QProcess::NotRunning;
+            };
+            QTRY_VERIFY_WITH_TIMEOUT(int(std::count_if(all.begin(), all.end(), kill)) == 8, 60000);
+            for (Edited& edited : all) {
+                QVERIFY(edited.process.exitStatus() == QProcess::CrashExit);
+                // The last sign of life is the moment of its death.
+                QList<QByteArray> lines = edited.process.readAllStandardOutput().split('\n');
+                lines.removeLast();
+                const qint64 death = lines.last().split(' ').last().toLongLong();
+                int safe = 0;
+                for (const QByteArray& line : lines) {
+                    if (line.split(' ').last().toLongLong() <= death - 1000)
+                        safe = line.split(' ').first().toInt();
+                }
+                const auto kept = vlk::review::keptUnsaved(edited.folder.path(), "new");
+                const QRegularExpression name("<OBJECT name=\"(\\d+)\"");
+                const int found = kept.empty() ? 0 : name.match(kept[0].unsaved.after).captured(1).toInt();
+                lost += found < safe;
+                QVERIFY(kept.size() <= 1);
+            }
+        }
+        QCOMPARE(lost, 0);
+    }
+
+    // From the host's word on a message that hands it over is not enough, and what was edited since stays.
+    void confirmed()
+    {
+        vlk::WriteConfirmation told;
+        host_.send(Message::ConfirmWrite);
+        for (const quint32 size : {0U, 4U}) {
+            told.size = size;
+            host_.send(Message::ConfirmWrite, &told);
+        }
+        edit();
+        written();
+        QCOMPARE(files().size(), 0);
+
+        told.size = sizeof told;
+        host_.send(Message::ConfirmWrite, &told);
+        told.step = vlk::WriteConfirmation::confirmed;
+        type(child<QLineEdit>("lineEdit_Name"), "<All>again");
+        written();
+        QCOMPARE(files().size(), 1);
+        type(child<QSpinBox>("spinBox_RegTimer"), "<All>61<Tab>");
+        host_.send(Message::ConfirmWrite, &told);
+        open("tracker");
+        host_.send(Message::ConfirmWrite, &told);
+        open("file");
+        QCOMPARE(offer(), QString("rev_140: 1"));
+        press("label_Unsaved_Action2");
+        written();
+        open("tracker");
+        host_.send(Message::ConfirmWrite, &told);
+        QCOMPARE(files().size(), 0);
+    }
+
+private:
+    void attach(const QString& number)
+    {
+        const vlk::ConnectInfo info{"R-7106", "firmware", number, {}, 0, 0};
+        host_.send(Message::TrackerAttached, &info);
+    }
+    void open(const QString& source, bool full = true)
+    {
+        const QString path = source == "new" ? QString() : VLK_SOURCE "/fuzz/corpus/settings/factory.xml";
+        host_.open(path, full, source == "file");
+    }
+    // Two settings that both windows have.
+    void edit(bool full = true)
+    {
+        window = ScriptedHost::window("VLK_Widget_Config");
+        auto* page = child<QWidget>(full ? "page_Full" : "page_Light");
+        type(page->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main"), "<All>5555<Tab>");
+        type(page->findChild<QLineEdit*>("GPRSSrv_lineEdit_IP_DNS_Main"), "<All>10.0.0.1<Tab>");
+        QCoreApplication::processEvents();
+    }
+    // What the button for the tracker hands over.
+    QByteArray written(bool full = true)
+    {
+        press(full ? "pushButton_LoadToDevice" : "pushButton_Light_LoadToDevice");
+        const QString path = host_.takeSent(Message::WriteConfiguration).value(0).text1;
+        const QByteArray content = readFile(path);
+        QFile::remove(path);
+        return content;
+    }
+    // Empty while nothing is offered.
+    QString offer() const
+    {
+        const auto* label = child<QLabel>("label_Unsaved");
+        return label->isVisible() ? label->text() : QString();
+    }
+    QStringList files() const
+    {
+        QStringList paths;
+        for (const QFileInfo& file :
+             QDir(kept_->filePath("unsaved")).entryInfoList(QDir::Files | QDir::Hidden))
+            paths << file.filePath();
+        return paths;
+    }
+
+    ScriptedHost host_;
+    QTemporaryDir folder_;
+    std::unique_ptr<QTemporaryDir> kept_;
+};
+
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    if (qEnvironmentVariableIsSet(kFolder))
+        return editUntilKilled(qEnvironmentVariable(kFolder));
+    UnsavedTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_unsaved.moc"
