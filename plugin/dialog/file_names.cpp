@@ -40,12 +40,12 @@ QString askPathToSave(QWidget* parent, const PathQuestion& question)
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
-QString saveAsAsked(const QString& path, const QByteArray& content, bool holdsSecrets)
+QString saveAsAsked(const QString& path, const QByteArray& content, bool isPrivate)
 {
     QSaveFile file(path);
     QString reason;
     const auto write = [&](QSaveFile& opened) {
-        return (!holdsSecrets || opened.setPermissions(QFile::ReadOwner | QFile::WriteOwner)) &&
+        return (!isPrivate || opened.setPermissions(QFile::ReadOwner | QFile::WriteOwner)) &&
                opened.write(content) == content.size();
     };
     return saveWhole(file, write, &reason)

@@ -27,8 +27,8 @@ struct PathQuestion
 };
 QString askPathToSave(QWidget* parent, const PathQuestion& question);
 
-// Saves a whole file; one that holds passwords is readable by its owner alone. Empty when it is saved, else
-// the sentence that says why not.
-QString saveAsAsked(const QString& path, const QByteArray& content, bool holdsSecrets);
+// Saves a whole file, readable by its owner alone where it is private. Empty when it is saved, else the
+// sentence that says why not.
+QString saveAsAsked(const QString& path, const QByteArray& content, bool isPrivate);
 
 } // namespace vlk

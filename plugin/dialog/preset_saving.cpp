@@ -65,9 +65,7 @@ void savePreset(QWidget* parent, const review::FileState& from, std::vector<int>
         return;
     XmlDocument document(QString(), QStringLiteral("DEVICE"));
     review::writePreset(*document.root(), from, keys, *personal);
-    const bool holdsSecrets =
-        personal == review::Personal::included && std::ranges::any_of(keys, review::isSecret);
-    const QString failure = saveAsAsked(path, document.text(), holdsSecrets);
+    const QString failure = saveAsAsked(path, document.text(), personal == review::Personal::included);
     if (!failure.isEmpty())
         warn(parent, failure);
 }

@@ -86,17 +86,13 @@ void writePreset(CXmlSection& root, const FileState& from, std::vector<int> keys
     }
 }
 
-bool isSecret(int key)
+bool isPersonal(int key)
 {
     const FileKey& place = FileKeys::all()[key];
     const TableLayout& layout = FileKeys::all().layout(place.table);
-    return std::any_of(place.rows.begin(), place.rows.end(),
+    return place.path == QLatin1String("TRANS/OBJECT/name") ||
+           std::any_of(place.rows.begin(), place.rows.end(),
                        [&](int row) { return layout.rows[row].base->secret; });
-}
-
-bool isPersonal(int key)
-{
-    return FileKeys::all()[key].path == QLatin1String("TRANS/OBJECT/name") || isSecret(key);
 }
 
 bool saysPreset(const CXmlSection& root)

@@ -16,7 +16,6 @@ enum class Personal { leftOut, included };
 void writePreset(CXmlSection& root, const FileState& from, std::vector<int> keys,
                  Personal personal = Personal::leftOut);
 
-bool isSecret(int key);
 bool isPersonal(int key);
 
 // Whether a document says that it is a preset; others can be applied too.

@@ -199,6 +199,7 @@ private Q_SLOTS:
             const QByteArray preset = readFile(path);
             QVERIFY(preset.contains("<DEVICE creator=\"preset\">") && preset.contains("port=\"5555\""));
             QCOMPARE(preset.contains("KAMAZ"), named);
+            QVERIFY(!named || !(QFile::permissions(path) & (QFile::ReadGroup | QFile::ReadOther)));
             QCOMPARE(preset.count('='), named ? 6 : 5);
             QTest::keyClick(dialog_.get(), Qt::Key_D, Qt::ControlModifier);
         }

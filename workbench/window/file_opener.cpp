@@ -132,6 +132,8 @@ bool FileOpener::openFor(const QString& preset, Sentence* failure)
         *failure = storedFileKind(path) == StoredFile::Preset
                        ? [path] { return text("wb_preset_second").arg(path); }
                        : session_.openConfiguration(path, full);
+        if (!*failure)
+            recent_.add(path, TelemetryWindow::Browser);
         break;
     }
     case New:
