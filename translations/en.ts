@@ -1161,12 +1161,9 @@
     <message id="cli_039"><translation>%1: another setting does not allow %2</translation></message>
     <message id="cli_040"><translation>Path;Setting;File;Value</translation></message>
     <message id="cli_041"><translation>most files, %1</translation></message>
-    <message id="cli_050"><translation>Configuration</translation></message>
-    <message id="cli_051"><translation>Configuration of %1</translation></message>
     <message id="cli_052"><translation>File: %1</translation></message>
     <message id="cli_053"><translation>Tracker: %1</translation></message>
     <message id="cli_054"><translation>Version: %1</translation></message>
-    <message id="cli_055"><translation>Date: %1</translation></message>
     <message id="cli_060"><translation>configuration</translation></message>
     <message id="cli_061"><translation>telemetry</translation></message>
     <message id="cli_062"><translation>calibration table</translation></message>

@@ -1161,12 +1161,9 @@
     <message id="cli_039"><translation>%1: другой параметр не допускает %2</translation></message>
     <message id="cli_040"><translation>Путь;Параметр;Файл;Значение</translation></message>
     <message id="cli_041"><translation>большинство файлов, %1</translation></message>
-    <message id="cli_050"><translation>Конфигурация</translation></message>
-    <message id="cli_051"><translation>Конфигурация: %1</translation></message>
     <message id="cli_052"><translation>Файл: %1</translation></message>
     <message id="cli_053"><translation>Трекер: %1</translation></message>
     <message id="cli_054"><translation>Версия: %1</translation></message>
-    <message id="cli_055"><translation>Дата: %1</translation></message>
     <message id="cli_060"><translation>конфигурация</translation></message>
     <message id="cli_061"><translation>телеметрия</translation></message>
     <message id="cli_062"><translation>тарировочная таблица</translation></message>

@@ -5,14 +5,10 @@
 #include "command/configuration_input.h"
 #include "command/file_names.h"
 #include "command/output.h"
-#include "plugin/base/clock.h"
-#include "review/advice.h"
 #include "review/report.h"
 #include "settings/all_settings.h"
 #include "window/languages.h"
 #include "xml/xml_document.h"
-
-#include <QLocale>
 
 namespace workbench::command {
 
@@ -25,34 +21,20 @@ QString html(const Call& call, vlk::XmlDocument& document)
 {
     vlk::Configuration configuration(vlk::allSettings());
     configuration.read(*document.root());
-    const FileState state = FileState::ofDocument(*document.root(), configuration);
-
-    vlk::review::Report report;
-    const QString name = configuration.value(QStringLiteral("TRANS/OBJECT/name"));
-    report.title = name.isEmpty() ? text("cli_050") : text("cli_051").arg(name);
-    report.about << text("cli_052").arg(inOneLine(call.files.first()));
+    QStringList about{text("cli_052").arg(inOneLine(call.files.first()))};
     for (const auto& [attribute, key] : {std::pair("model", "cli_053"), {"version", "cli_054"}}) {
         const QString value = document.root()->getString(QLatin1String(attribute));
         if (!value.isEmpty())
-            report.about << text(key).arg(value);
+            about << text(key).arg(value);
     }
-    report.about << text("cli_055").arg(QLocale().toString(vlk::now(), QLocale::ShortFormat));
-    QHash<QString, QString> unread;
-    for (const vlk::review::Stranger& stranger : state.strangers())
-        unread.insert(stranger.path, stranger.text);
-    for (const vlk::review::Finding& finding : vlk::review::advise(configuration, unread))
-        report.advice << adviceText(finding);
-    if (call.changedOnly) {
-        const Differences differences(FileState::ofDefaults(configuration),
-                                      FileState::ofConfiguration(configuration));
-        for (const vlk::review::Difference& difference : differences.all())
-            report.keys.push_back(difference.key);
-        // Without a key all of them would be told.
-        if (report.keys.empty())
-            report.keys.push_back(-1);
-    }
-    report.secrets = call.secrets ? vlk::review::Secrets::shown : vlk::review::Secrets::masked;
-    return toHtml(configuration, report);
+    vlk::review::ReportChoice choice{.isChangesAlone = call.changedOnly};
+    if (call.secrets)
+        choice.secrets = vlk::review::Secrets::shown;
+    const Differences changes(FileState::ofDefaults(configuration),
+                              FileState::ofConfiguration(configuration));
+    const auto advice =
+        vlk::review::advise(configuration, FileState::ofDocument(*document.root(), configuration).unread());
+    return toHtml(configuration, reportOf(configuration, changes, advice, about, choice));
 }
 
 } // namespace
