@@ -12,10 +12,12 @@
 #include "window/languages.h"
 #include "xml/xml_document.h"
 
-#include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
+#include <mutex>
 
 namespace workbench::command {
 
@@ -123,7 +125,11 @@ using Edit = std::function<EditedFile(const QByteArray& text)>;
 
 int edit(const Call& call, Output& output, const Edit& edit)
 {
+    // A file that is named twice, by its folder too, is edited by one thread after the other.
+    std::array<std::mutex, 61> mutexes;
     const auto work = [&](const File& file) {
+        const QString name = QFileInfo(file.name).canonicalFilePath();
+        const std::lock_guard lock(mutexes[qHash(name) % mutexes.size()]);
         return withConfiguration(call, file, [&](const QByteArray& text, vlk::XmlDocument&) {
             return laidInto(call, file, text, edit(text));
         });

@@ -5,7 +5,6 @@
 #include "command/configuration_input.h"
 #include "command/file_names.h"
 #include "command/output.h"
-#include "review/advice.h"
 #include "review/report.h"
 #include "settings/all_settings.h"
 #include "window/languages.h"
@@ -22,19 +21,20 @@ QString html(const Call& call, vlk::XmlDocument& document)
 {
     vlk::Configuration configuration(vlk::allSettings());
     configuration.read(*document.root());
-    const FileState state = FileState::ofDocument(*document.root(), configuration);
-    const Differences changes(FileState::ofDefaults(configuration),
-                              FileState::ofConfiguration(configuration));
     QStringList about{text("cli_052").arg(inOneLine(call.files.first()))};
     for (const auto& [attribute, key] : {std::pair("model", "cli_053"), {"version", "cli_054"}}) {
         const QString value = document.root()->getString(QLatin1String(attribute));
         if (!value.isEmpty())
             about << text(key).arg(value);
     }
-    const vlk::review::ReportChoice choice{
-        call.changedOnly, false, call.secrets ? vlk::review::Secrets::shown : vlk::review::Secrets::masked};
-    return toHtml(configuration, reportOf(configuration, changes,
-                                          vlk::review::advise(configuration, state.unread()), about, choice));
+    vlk::review::ReportChoice choice{.isChangesAlone = call.changedOnly};
+    if (call.secrets)
+        choice.secrets = vlk::review::Secrets::shown;
+    const Differences changes(FileState::ofDefaults(configuration),
+                              FileState::ofConfiguration(configuration));
+    const auto advice =
+        vlk::review::advise(configuration, FileState::ofDocument(*document.root(), configuration).unread());
+    return toHtml(configuration, reportOf(configuration, changes, advice, about, choice));
 }
 
 } // namespace
