@@ -102,6 +102,17 @@ QByteArray ConfigurationReview::document() const
     return document.text();
 }
 
+QMap<QString, QString> ConfigurationReview::quickValues() const
+{
+    QMap<QString, QString> texts;
+    if (!isQuick())
+        return texts;
+    const Values& values = history_.pages().back()->values();
+    for (int row = 0; row < values.count(); ++row)
+        texts.insert(values.row(row).path, values.held()[row]);
+    return texts;
+}
+
 Configuration ConfigurationReview::written() const
 {
     Configuration all = configuration();
@@ -191,19 +202,22 @@ void ConfigurationReview::takeOver(const std::vector<int>& keys, const EditHisto
     history_.settle();
     Configuration changed = written();
     review::takeOver(changed, differences_.before(), review::withNeeded(differences_, keys));
-    put(changed, words);
+    put(changed, {}, words);
 }
 
-void ConfigurationReview::replaceBy(const QByteArray& document, const EditHistory::Words& words)
+void ConfigurationReview::bringBack(const review::Unsaved& unsaved, const EditHistory::Words& words)
 {
     history_.settle();
-    XmlDocument parsed(document, QStringLiteral("DEVICE"));
+    const QByteArray now = document();
+    XmlDocument edited(withEdits(now, unsaved), QStringLiteral("DEVICE"));
     Configuration changed = configuration();
-    changed.read(*parsed.root());
-    put(changed, words);
+    changed.read(*edited.root());
+    // They belong to the configuration on which they were made.
+    put(changed, now == unsaved.before ? unsaved.quick : QMap<QString, QString>(), words);
 }
 
-void ConfigurationReview::put(const Configuration& changed, const EditHistory::Words& words)
+void ConfigurationReview::put(const Configuration& changed, const QMap<QString, QString>& quick,
+                              const EditHistory::Words& words)
 {
     history_.asOne(words, [&] {
         for (PageSettings* page : history_.pages()) {
@@ -218,7 +232,14 @@ void ConfigurationReview::put(const Configuration& changed, const EditHistory::W
         XmlDocument document(QString(), QStringLiteral("DEVICE"));
         changed.write(*document.root());
         document.root()->commit();
-        history_.pages().back()->load(document.root());
+        PageSettings& page = *history_.pages().back();
+        page.load(document.root());
+        std::vector<QString> held = page.values().held();
+        for (auto value = quick.begin(); value != quick.end(); ++value) {
+            if (const int row = page.rowAt(value.key()); row >= 0)
+                held[row] = value.value();
+        }
+        page.putBack(held);
     });
 }
 

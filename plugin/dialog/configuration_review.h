@@ -7,6 +7,7 @@
 #include "dialog/edit_history.h"
 #include "review/advice.h"
 #include "review/preset.h"
+#include "review/recovery.h"
 #include "review/search.h"
 
 struct CXmlSection;
@@ -50,14 +51,16 @@ public:
     // What a save would write of the settings now.
     QByteArray document() const;
     bool isQuick() const { return isQuick_(); }
+    // By path; empty unless it is on show.
+    QMap<QString, QString> quickValues() const;
     // Null where no page has the table.
     PageSettings* pageOf(int table) const;
     const Values* valuesOf(int table) const;
 
     // From the other side; keys of review::FileKeys.
     void takeOver(const std::vector<int>& keys, const EditHistory::Words& words);
-    // A whole document in place of what the pages hold, as one step.
-    void replaceBy(const QByteArray& document, const EditHistory::Words& words);
+    // What was edited earlier, as one step.
+    void bringBack(const review::Unsaved& unsaved, const EditHistory::Words& words);
 
     // The setting at a path such as "TRANS/SRV1/port"; the row is -1 where there is none.
     review::Hit settingAt(const QString& path) const;
@@ -78,7 +81,9 @@ private:
     review::FileState withPreset();
     void compareWith(review::FileState before, Against against, const EditHistory::Words& name);
     void write(CXmlSection& root) const;
-    void put(const Configuration& changed, const EditHistory::Words& words);
+    // `quick`: values of that window that stand whatever the configuration makes of them.
+    void put(const Configuration& changed, const QMap<QString, QString>& quick,
+             const EditHistory::Words& words);
     void refresh(const QVector<int>& pages);
 
     EditHistory& history_;

@@ -9,7 +9,7 @@
 #include <QLoggingCategory>
 #include <QWidget>
 
-#include <utility>
+#include <algorithm>
 
 namespace vlk {
 
@@ -18,7 +18,9 @@ namespace {
 Q_LOGGING_CATEGORY(lcUnsaved, "vlk.save.unsaved")
 
 // Behind an edit. With the time that a slow disk takes it stays below a second.
-constexpr int kDelayMs = 300;
+constexpr int kDelayMs = 500;
+// More are never in work at a time.
+constexpr std::size_t kMostHandedOver = 10;
 
 } // namespace
 
@@ -65,7 +67,8 @@ bool EditKeeper::keep()
         if (QFile::exists(path_) && !QFile::remove(path_))
             return false;
         kept_.clear();
-    } else if (review::keepUnsaved(path_, {subject_, vlk::now(), beginning, now}, &reason)) {
+    } else if (review::keepUnsaved(path_, {subject_, vlk::now(), beginning, now, review_.quickValues()},
+                                   &reason)) {
         kept_ = now;
     } else {
         setFailure(reason);
@@ -104,28 +107,33 @@ void EditKeeper::saved()
     Q_EMIT safe();
 }
 
-void EditKeeper::handedOver()
+void EditKeeper::handedOver(const QByteArray& content)
 {
     keep();
-    handedOver_ = review_.document();
-    handedOverPath_ = path_;
+    if (handedOver_.size() == kMostHandedOver)
+        handedOver_.erase(handedOver_.begin());
+    handedOver_.push_back({content, review_.document(), path_});
 }
 
-void EditKeeper::confirmed()
+void EditKeeper::confirmed(const QByteArray& content)
 {
-    const QByteArray written = std::exchange(handedOver_, {});
-    if (written.isNull())
+    const auto found = std::find_if(handedOver_.rbegin(), handedOver_.rend(), [&](const HandedOver& other) {
+        return content.isEmpty() || other.content == content;
+    });
+    if (found == handedOver_.rend())
         return;
-    if (handedOverPath_ == path_) {
-        beginWith(written);
+    const HandedOver written = *found;
+    handedOver_.erase(handedOver_.begin(), found.base());
+    if (written.path == path_) {
+        beginWith(written.document);
         if (keep())
             Q_EMIT safe();
         return;
     }
     // Another configuration has been opened since then. What was edited in between stays.
-    const std::optional<review::Unsaved> left = review::unsavedIn(handedOverPath_);
-    if (left && left->after == written)
-        QFile::remove(handedOverPath_);
+    const std::optional<review::Unsaved> left = review::unsavedIn(written.path);
+    if (left && left->after == written.document)
+        QFile::remove(written.path);
 }
 
 void EditKeeper::setFailure(const QString& reason)

@@ -1,6 +1,6 @@
 #pragma once
 
-// Keeps on disk what is being edited (review/recovery.h), a third of a second behind, until it is saved to a
+// Keeps on disk what is being edited (review/recovery.h), half a second behind, until it is saved to a
 // file, written to the tracker or taken back, and at once when the window closes. A change of windows alone
 // is no edit.
 
@@ -30,10 +30,10 @@ public:
 
     // A file holds what there is now.
     void saved();
-    // What there is now goes to the tracker.
-    void handedOver();
-    // The tracker has what was handed over last, or nobody will say whether it has.
-    void confirmed();
+    // What there is now goes to the tracker, in a file that holds the content.
+    void handedOver(const QByteArray& content);
+    // The tracker has that, or what was handed over last, or nobody will say whether it has.
+    void confirmed(const QByteArray& content);
 
     // Why the disk refused; empty while it does not.
     QString failure() const { return failure_; }
@@ -46,6 +46,13 @@ Q_SIGNALS:
     void safe();
 
 private:
+    struct HandedOver
+    {
+        QByteArray content;
+        QByteArray document;
+        QString path; // where it was kept
+    };
+
     void beginWith(const QByteArray& document);
     void setFailure(const QString& reason);
 
@@ -56,8 +63,7 @@ private:
     std::array<QByteArray, 2> beginnings_; // without an edit, in the full and in the quick window
     QByteArray kept_;                      // what the file is known to hold
     bool isEdited_ = false;
-    QByteArray handedOver_;
-    QString handedOverPath_;
+    std::vector<HandedOver> handedOver_; // that may still be confirmed, the last ones
     QString failure_;
 };
 

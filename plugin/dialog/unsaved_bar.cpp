@@ -123,8 +123,7 @@ void UnsavedBar::showOffer(int number)
 
 void UnsavedBar::bringBack(int number)
 {
-    review_.replaceBy(withEdits(review_.document(), offers_[number - 1].kept.unsaved),
-                      [] { return words("rev_144"); });
+    review_.bringBack(offers_[number - 1].kept.unsaved, [] { return words("rev_144"); });
     endComparison();
 }
 

@@ -263,10 +263,14 @@ void VLK_Widget_Config::writeQuickToDevice()
 
 void VLK_Widget_Config::write(const QString& path)
 {
-    keeper_.handedOver();
+    QFile file(path);
+    file.open(QIODevice::ReadOnly);
+    const QByteArray content = file.readAll();
+    file.close();
+    keeper_.handedOver(content);
     vlk::requests::writeConfiguration(path);
     if (!vlkDevice->confirmsWrites())
-        keeper_.confirmed();
+        keeper_.confirmed(content);
 }
 
 bool VLK_Widget_Config::saveQuickToFile(const QString& path)

@@ -53,8 +53,8 @@ public:
     void switchToFull();
     void switchToQuick();
     void retranslate();
-    // The host has written what was handed over to it last, and read it back.
-    void confirmWritten() { keeper_.confirmed(); }
+    // The host has written what a file held that was handed over to it, or the last one, and read it back.
+    void confirmWritten(const QByteArray& content) { keeper_.confirmed(content); }
 
     VLK_Widget_Config_Full* fullWindow() const { return fullWindow_; }
     vlk::ConfigurationReview& review() { return review_; }

@@ -164,11 +164,11 @@ void VLK_Device_R7106::openConfiguration(const vlk::OpenRequest& request)
     configDialog_->open(request, balanceUssd_);
 }
 
-void VLK_Device_R7106::confirmWrite(std::uint32_t step)
+void VLK_Device_R7106::confirmWrite(const vlk::WriteConfirmation& told)
 {
     confirmsWrites_ = true;
-    if (step == vlk::WriteConfirmation::confirmed && configDialog_)
-        configDialog_->confirmWritten();
+    if (told.step == vlk::WriteConfirmation::confirmed && configDialog_)
+        configDialog_->confirmWritten(told.content ? *told.content : QByteArray());
 }
 
 void VLK_Device_R7106::openTelemetry(const QString& configurationPath)

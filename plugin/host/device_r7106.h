@@ -61,7 +61,7 @@ public:
     void showStoredFile(const QString& path, std::int32_t kind);
     void retranslate();
     void closeWindows();
-    void confirmWrite(std::uint32_t step);
+    void confirmWrite(const vlk::WriteConfirmation& told);
 
     // Null until the first message that opens them.
     VLK_Widget_Config* configDialog() const { return configDialog_; }

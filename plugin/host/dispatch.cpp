@@ -237,8 +237,13 @@ constexpr Entry table[] = {
      }},
     {Message::ConfirmWrite,
      [](VLK_Device_R7106& device, const Parameters& parameters) {
-         if (sizeOf(parameters.p1) >= sizeof(vlk::WriteConfirmation))
-             device.confirmWrite(static_cast<const vlk::WriteConfirmation*>(parameters.p1)->step);
+         constexpr std::size_t withoutContent = offsetof(vlk::WriteConfirmation, content);
+         const std::size_t size = sizeOf(parameters.p1);
+         if (size < withoutContent)
+             return;
+         vlk::WriteConfirmation told;
+         std::memcpy(&told, parameters.p1, size < sizeof told ? withoutContent : sizeof told);
+         device.confirmWrite(told);
      }},
     {Message::CheckFile,
      [](VLK_Device_R7106&, const Parameters& parameters) {

@@ -238,14 +238,17 @@ struct FileComparison
 };
 
 // ConfirmWrite: edits are kept on disk until they are written. A host that compares what it has written with
-// what the tracker holds then says so once, after SetHostMode, and then after each WriteConfiguration that
-// came out right. Of a host that says nothing WriteConfiguration itself is taken for that.
+// what the tracker holds then says so once, after SetHostMode, and then of each configuration that came out
+// right. Of a host that says nothing WriteConfiguration itself is taken for that.
 struct WriteConfirmation
 {
     enum Step : std::uint32_t { willConfirm, confirmed };
 
     std::uint32_t size = sizeof(WriteConfirmation);
     std::uint32_t step = willConfirm;
+    // What the file of WriteConfiguration held; null: that of the last one. A host that refuses some of them
+    // says it, since otherwise one that was refused behind the one in work would count as written.
+    const QByteArray* content = nullptr;
 };
 
 // CheckFile: what a load and a save would not leave of a configuration file as it stands, and advice on it.

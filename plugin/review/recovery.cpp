@@ -67,7 +67,7 @@ bool keepUnsaved(const QString& path, const Unsaved& unsaved, QString* reason)
     QByteArray content(kMark);
     QDataStream stream(&content, QIODevice::Append);
     stream.setVersion(kStreamVersion);
-    stream << unsaved.subject << unsaved.moment << unsaved.before << unsaved.after;
+    stream << unsaved.subject << unsaved.moment << unsaved.before << unsaved.after << unsaved.quick;
     QDir().mkpath(QFileInfo(path).path());
     return replacePrivateFile(path, content + sumOf(content), reason);
 }
@@ -85,7 +85,7 @@ std::optional<Unsaved> unsavedIn(const QString& path)
     QDataStream stream(content.mid(kMarkSize));
     stream.setVersion(kStreamVersion);
     Unsaved unsaved;
-    stream >> unsaved.subject >> unsaved.moment >> unsaved.before >> unsaved.after;
+    stream >> unsaved.subject >> unsaved.moment >> unsaved.before >> unsaved.after >> unsaved.quick;
     if (stream.status() != QDataStream::Ok)
         return {};
     return unsaved;

@@ -6,6 +6,7 @@
 
 #include <QByteArray>
 #include <QDateTime>
+#include <QMap>
 #include <QString>
 
 #include <optional>
@@ -20,6 +21,8 @@ struct Unsaved
     // The documents that a save would have written, before the first edit and now.
     QByteArray before;
     QByteArray after;
+    // Of the quick window, where it was on show: its values by path, some of which no file holds.
+    QMap<QString, QString> quick{};
 };
 
 struct KeptUnsaved

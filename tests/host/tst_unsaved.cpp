@@ -215,7 +215,7 @@ private Q_SLOTS:
 
     void killed()
     {
-        const int count = std::max(8, qEnvironmentVariableIntValue(kKills));
+        const int count = std::max(16, qEnvironmentVariableIntValue(kKills));
         std::mt19937 random(7106);
         struct Edited
         {
@@ -280,9 +280,11 @@ private Q_SLOTS:
         host_.send(Message::ConfirmWrite, &told);
         told.step = vlk::WriteConfirmation::confirmed;
         type(child<QLineEdit>("lineEdit_Name"), "<All>again");
-        written();
+        const QByteArray first = written();
         QCOMPARE(files().size(), 1);
         type(child<QSpinBox>("spinBox_RegTimer"), "<All>61<Tab>");
+        written(); // which the host refuses
+        told.content = &first;
         host_.send(Message::ConfirmWrite, &told);
         open("tracker");
         host_.send(Message::ConfirmWrite, &told);
@@ -291,6 +293,7 @@ private Q_SLOTS:
         press("label_Unsaved_Action2");
         written();
         open("tracker");
+        told.size = offsetof(vlk::WriteConfirmation, content); // the last one
         host_.send(Message::ConfirmWrite, &told);
         QCOMPARE(files().size(), 0);
     }

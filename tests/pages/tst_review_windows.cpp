@@ -5,6 +5,7 @@
 #include "dialog/widget_config.h"
 #include "dialog/widget_config_full.h"
 #include "link/messages.h"
+#include "review/recovery.h"
 #include "support/device.h"
 #include "support/files.h"
 #include "support/full_disk.h"
@@ -62,9 +63,40 @@ private Q_SLOTS:
             QCOMPARE(page.binder().disagreements(), QStringList());
             before = after;
         }
+        vlk::review::Unsaved unsaved;
+        unsaved.after = dialog_->review().document();
         while (history().canUndo())
             history().undo();
         QCOMPARE(dialog_->review().edited(), 0);
+        // Kept and brought back they give the bytes, too.
+        unsaved.before = dialog_->review().document();
+        dialog_->review().bringBack(unsaved, [] { return QString(); });
+        QCOMPARE(saved(), before);
+    }
+
+    // Some of what the quick window shows stands in no file, and decides what it writes.
+    void quickEditsAreBroughtBack()
+    {
+        open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml", 0);
+        std::mt19937 random(7106);
+        vlk::PageSettings& page = *history().pages().back();
+        for (int round = 0; round < 30; ++round) {
+            vlk::review::Unsaved unsaved;
+            for (int edit = 0; edit < 5; ++edit) {
+                const int row = static_cast<int>(random() % static_cast<unsigned>(page.values().count()));
+                const QStringList samples = samplesOf(page.values().setting(row));
+                page.binder().set(
+                    row, samples[static_cast<int>(random() % static_cast<unsigned>(samples.size()))]);
+            }
+            unsaved.after = dialog_->review().document();
+            unsaved.quick = dialog_->review().quickValues();
+            history().settle();
+            while (history().canUndo())
+                history().undo();
+            unsaved.before = dialog_->review().document();
+            dialog_->review().bringBack(unsaved, [] { return QString(); });
+            QCOMPARE(dialog_->review().document(), unsaved.after);
+        }
     }
 
     // Typing into one field is one step; a field in which something is being typed takes that back alone.
