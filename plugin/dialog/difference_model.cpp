@@ -29,12 +29,6 @@ const QString& cell(const review::DifferenceText& text, const QString& setting, 
     }
 }
 
-QString settingOf(const review::DifferenceText& text)
-{
-    return text.group.isEmpty() || text.caption.isEmpty() ? text.group + text.caption
-                                                          : text.group + QStringLiteral(", ") + text.caption;
-}
-
 } // namespace
 
 DifferenceModel::DifferenceModel(ConfigurationReview& review, QObject* parent)
@@ -48,7 +42,7 @@ void DifferenceModel::refresh()
     lines_.clear();
     const QSet<QString> unchosen = std::exchange(unchosen_, {});
     const review::Differences& differences = review_.differences();
-    for (const review::Difference& difference : differences.all()) {
+    for (const review::Difference& difference : review_.listed()) {
         const Values* values =
             difference.key < 0 ? nullptr : review_.valuesOf(review::FileKeys::all()[difference.key].table);
         if (unchosen.contains(difference.path))
@@ -91,7 +85,7 @@ QVariant DifferenceModel::data(const QModelIndex& index, int role) const
 {
     const Line& line = lines_[index.row()];
     if (role == Qt::DisplayRole || role == Qt::ToolTipRole)
-        return cell(line.text, settingOf(line.text), index.column());
+        return cell(line.text, review::placeText(line.text), index.column());
     if (role == Qt::CheckStateRole && index.column() == Page && line.difference.key >= 0)
         return unchosen_.contains(line.difference.path) ? Qt::Unchecked : Qt::Checked;
     return {};
