@@ -1,6 +1,7 @@
 #include "dialog/review_bar.h"
 
 #include "dialog/setting_places.h"
+#include "link/device.h"
 #include "review/setting_words.h"
 #include "settings/value_text.h"
 #include "typing/field_mark.h"
@@ -93,8 +94,7 @@ void ReviewBar::retranslate()
     find_->setPlaceholderText(hint);
     find_->setAccessibleName(tr("rev_122"));
     changedOnly_->setText(tr("rev_123"));
-    if (search_)
-        search_->retranslate();
+    search_.reset();
     closeHits();
     showState();
 }
@@ -148,7 +148,9 @@ void ReviewBar::find()
         std::vector<const Values*> tables(review::FileKeys::all().tables());
         for (std::size_t table = 0; table < tables.size(); ++table)
             tables[table] = review_.valuesOf(static_cast<int>(table));
-        search_ = std::make_unique<review::Search>(tables);
+        const bool isRussian = QLocale().language() == QLocale::Russian;
+        search_ = std::make_unique<review::Search>(
+            tables, vlkDevice ? vlkDevice->textsIn(isRussian ? "en" : "ru") : TextSource());
     }
     hits_ = search_->find(words);
     if (changedOnly_->isChecked())
@@ -196,6 +198,14 @@ bool ReviewBar::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == find_ && event->type() == QEvent::FocusOut && !list_->underMouse())
         closeHits();
+    if (watched == find_ && event->type() == QEvent::ShortcutOverride) {
+        // What has been typed is taken back first.
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const bool leaves = (key->matches(QKeySequence::Undo) && !find_->isUndoAvailable()) ||
+                            (key->matches(QKeySequence::Redo) && !find_->isRedoAvailable());
+        event->setAccepted(!leaves);
+        return leaves;
+    }
     if (watched != find_ || event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
     switch (static_cast<QKeyEvent*>(event)->key()) {

@@ -226,13 +226,18 @@ constexpr Entry table[] = {
     {Message::GetExtensions,
      [](VLK_Device_R7106&, const Parameters& parameters) {
          vlk::Extensions extensions;
-         extensions.newest = static_cast<std::uint32_t>(Message::CompareFiles);
+         extensions.newest = static_cast<std::uint32_t>(Message::OfferTexts);
          fillRecord(parameters.p1, extensions);
      }},
     {Message::CompareFiles,
      [](VLK_Device_R7106&, const Parameters& parameters) {
          if (sizeOf(parameters.p1) >= sizeof(vlk::FileComparison))
              vlk::compareFiles(*static_cast<vlk::FileComparison*>(parameters.p1));
+     }},
+    {Message::OfferTexts,
+     [](VLK_Device_R7106& device, const Parameters& parameters) {
+         if (sizeOf(parameters.p1) >= sizeof(vlk::OfferedTexts))
+             device.setTexts(*static_cast<const vlk::OfferedTexts*>(parameters.p1));
      }},
 };
 

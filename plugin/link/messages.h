@@ -60,6 +60,7 @@ enum class Message : std::uint32_t {
     GetRunningWork = 7106002,
     GetExtensions = 7106003,
     CompareFiles = 7106004,
+    OfferTexts = 7106009,
 
     // Plug-in to host
     ShowHelp = 2007,
@@ -232,6 +233,16 @@ struct FileComparison
     void* context = nullptr;
 };
 
+// OfferTexts: how the plug-in gets texts of a language that is not on show, by which settings are found in
+// both. The host fills the text of a key in a language ("ru", "en"), or leaves it null where it has none. The
+// function is called until another one, or none, is offered.
+struct OfferedTexts
+{
+    std::uint32_t size = sizeof(OfferedTexts);
+    void (*fill)(void* context, const char* language, const char* key, QString* text) = nullptr;
+    void* context = nullptr;
+};
+
 // AnalogRecord is a plain byte record of `analogRecordSize` bytes with unsigned 16-bit little-endian values:
 // the lines IN1, IN2, IN3 in millivolts from byte 15, and the fuel sensors at the bytes that name them.
 inline constexpr int analogRecordSize = 42;
@@ -384,6 +395,7 @@ inline constexpr MessageInfo messages[] = {
     detail::in(Message::GetRunningWork, "GetRunningWork", Parameter::RecordAddress, Parameter::None, true),
     detail::in(Message::GetExtensions, "GetExtensions", Parameter::RecordAddress, Parameter::None, true),
     detail::in(Message::CompareFiles, "CompareFiles", Parameter::RecordAddress, Parameter::None, true),
+    detail::in(Message::OfferTexts, "OfferTexts", Parameter::RecordAddress),
 };
 
 // A plain value in the place of an address, and back. The token of a LibraryInfo becomes the handle likewise.

@@ -128,7 +128,7 @@ private Q_SLOTS:
     {
         vlk::Extensions extensions;
         host_.send(Message::GetExtensions, &extensions);
-        QCOMPARE(extensions.newest, static_cast<quint32>(Message::CompareFiles));
+        QCOMPARE(extensions.newest, static_cast<quint32>(Message::OfferTexts));
 
         const QString left = writeFile(
             folder_.filePath("left.xml"),

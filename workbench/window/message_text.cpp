@@ -140,6 +140,11 @@ constexpr RecordRow records[] = {
          const auto& r = as<FileComparison>(p);
          return {QStringLiteral("outcome=%1 differences=%2").arg(r.outcome).arg(r.differences), {}};
      }},
+    {Message::OfferTexts,
+     [](const void* p) -> MessageText {
+         const auto& r = as<OfferedTexts>(p);
+         return {QStringLiteral("offered=%1").arg(r.fill ? 1 : 0), {}};
+     }},
     {Message::TachographFileRequest,
      [](const void* p) -> MessageText {
          const auto& r = as<szQueryTaho>(p);
