@@ -1183,6 +1183,13 @@
     <message id="rev_134"><translation>advice followed</translation></message>
     <message id="rev_135"><translation>Advice on this configuration (%1)</translation></message>
     <message id="rev_136"><translation>Go to</translation></message>
+    <message id="rev_160"><translation>Changed, was</translation></message>
+    <message id="rev_161"><translation>Changed</translation></message>
+    <message id="rev_163"><translation>Bring back</translation></message>
+    <message id="rev_164"><translation>By default</translation></message>
+    <message id="rev_165"><translation>Copy key</translation></message>
+    <message id="rev_166"><translation>brought back</translation></message>
+    <message id="rev_167"><translation>by default</translation></message>
     <message id="tmiex_001"><translation>Navigation</translation></message>
     <message id="tmiex_002"><translation>Receiver</translation></message>
     <message id="tmiex_003"><translation>Satellites</translation></message>

@@ -1183,6 +1183,13 @@
     <message id="rev_134"><translation>исправление по замечанию</translation></message>
     <message id="rev_135"><translation>Замечания к этой конфигурации (%1)</translation></message>
     <message id="rev_136"><translation>Перейти</translation></message>
+    <message id="rev_160"><translation>Изменено, было</translation></message>
+    <message id="rev_161"><translation>Изменено</translation></message>
+    <message id="rev_163"><translation>Вернуть</translation></message>
+    <message id="rev_164"><translation>По умолчанию</translation></message>
+    <message id="rev_165"><translation>Копировать ключ</translation></message>
+    <message id="rev_166"><translation>возврат</translation></message>
+    <message id="rev_167"><translation>по умолчанию</translation></message>
     <message id="tmiex_001"><translation>Навигация</translation></message>
     <message id="tmiex_002"><translation>Приёмник</translation></message>
     <message id="tmiex_003"><translation>Спутники</translation></message>

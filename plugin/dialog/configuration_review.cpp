@@ -70,6 +70,16 @@ const Values* ConfigurationReview::valuesOf(int table) const
     return page ? &page->values() : nullptr;
 }
 
+std::vector<int> ConfigurationReview::keysOf(const PageSettings& page, int row)
+{
+    const FileKeys& all = FileKeys::all();
+    const int table = all.tableOf(page.values().table());
+    if (table >= 0)
+        return all.heldBy(table, row);
+    const int key = all.at(page.values().row(row).filePath);
+    return key < 0 ? std::vector<int>() : std::vector<int>{key};
+}
+
 review::Hit ConfigurationReview::settingAt(const QString& path) const
 {
     for (int table = 0; table < FileKeys::all().tables(); ++table) {
@@ -106,10 +116,18 @@ void ConfigurationReview::refresh(const QVector<int>& pages)
             differences_.update(history_.pages()[page]->values());
         }
     }
+    advice_.reset();
     Q_EMIT changed();
 }
 
-std::vector<review::Finding> ConfigurationReview::advice() const
+const std::vector<review::Finding>& ConfigurationReview::advice() const
+{
+    if (!advice_)
+        advice_ = advise();
+    return *advice_;
+}
+
+std::vector<review::Finding> ConfigurationReview::advise() const
 {
     QHash<QString, QString> unread;
     for (const review::Stranger& stranger : asItCame_.strangers())
@@ -139,8 +157,20 @@ void ConfigurationReview::mend(const std::vector<review::Mend>& mends, const Edi
 void ConfigurationReview::takeOver(const std::vector<int>& keys, const EditHistory::Words& words)
 {
     history_.settle();
+    takeOverFrom(differences_, keys, words);
+}
+
+void ConfigurationReview::bringBack(const std::vector<int>& keys, const EditHistory::Words& words)
+{
+    history_.settle();
+    takeOverFrom(edited_, keys, words);
+}
+
+void ConfigurationReview::takeOverFrom(const Differences& differences, const std::vector<int>& keys,
+                                       const EditHistory::Words& words)
+{
     Configuration changed = configuration();
-    review::takeOver(changed, differences_.before(), review::withNeeded(differences_, keys));
+    review::takeOver(changed, differences, keys);
     history_.asOne(words, [&] {
         for (PageSettings* page : history_.pages()) {
             const auto found = std::ranges::find_if(changed.tables(), [&](const Values& values) {

@@ -9,6 +9,8 @@
 #include "review/differences.h"
 #include "review/search.h"
 
+#include <optional>
+
 struct CXmlSection;
 
 namespace vlk {
@@ -32,9 +34,15 @@ public:
     bool compareWith(Against against, const QString& path = {});
 
     const review::Differences& differences() const { return differences_; }
+    // In the order of a save; with the quick window on show those of the sections first that it makes anew.
+    std::vector<review::Difference> listed() const
+    {
+        return isQuick_() ? differences_.allForQuick() : differences_.all();
+    }
     // To the file, whatever is compared.
     int edited() const { return edited_.count(); }
     bool isEdited(int table, int row) const { return edited_.isDifferent(table, row); }
+    const review::Differences& edits() const { return edited_; }
     Configuration configuration() const;
     // Null where no page has the table.
     PageSettings* pageOf(int table) const;
@@ -42,23 +50,31 @@ public:
 
     // From the other side; keys of review::FileKeys.
     void takeOver(const std::vector<int>& keys, const EditHistory::Words& words);
+    // From the file as it came, whatever is compared.
+    void bringBack(const std::vector<int>& keys, const EditHistory::Words& words);
 
+    // Those that hold the setting of a page; none for one that files do not have.
+    static std::vector<int> keysOf(const PageSettings& page, int row);
     // The setting at a path such as "TRANS/SRV1/port"; the row is -1 where there is none.
     review::Hit settingAt(const QString& path) const;
 
     // On what a write would bring now.
-    std::vector<review::Finding> advice() const;
+    const std::vector<review::Finding>& advice() const;
     // The quick window shows too few of the settings.
     bool canMend() const { return !isQuick_(); }
     void mend(const std::vector<review::Mend>& mends, const EditHistory::Words& words);
 
     EditHistory& history() { return history_; }
+    void retranslate() { advice_.reset(); }
 
 Q_SIGNALS:
     void changed();
 
 private:
     review::FileState now() const;
+    std::vector<review::Finding> advise() const;
+    void takeOverFrom(const review::Differences& differences, const std::vector<int>& keys,
+                      const EditHistory::Words& words);
     void refresh(const QVector<int>& pages);
 
     EditHistory& history_;
@@ -66,8 +82,9 @@ private:
     review::FileState asItCame_;
     Against against_ = Against::file;
     bool wasQuick_ = false;
-    review::Differences edited_;      // to the file as it came
-    review::Differences differences_; // to what is chosen
+    review::Differences edited_;                                 // to the file as it came
+    review::Differences differences_;                            // to what is chosen
+    mutable std::optional<std::vector<review::Finding>> advice_; // none until it is asked for
 };
 
 } // namespace vlk

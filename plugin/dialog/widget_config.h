@@ -6,6 +6,7 @@
 // Failures of files are told to the log alone, and what could not be saved is not written to the tracker.
 
 #include "dialog/configuration_review.h"
+#include "dialog/panel_memory.h"
 #include "dialog/review_bar.h"
 #include "dialog/setting_places.h"
 
@@ -24,6 +25,7 @@ class VLK_Designer_Widget_Config;
 namespace vlk {
 class AdvicePanel;
 class ReviewPanel;
+class SettingMarks;
 struct OpenRequest;
 } // namespace vlk
 
@@ -57,10 +59,13 @@ private:
     void saveToXml(CXmlSection* root);
     bool isQuick() const;
     std::vector<vlk::PageSettings*> pagesOnShow() const;
+    vlk::PageSettings* pageOnShow();
     void showFull();
     void showQuick();
     void addReview();
     void showPanel(vlk::ReviewBar::Panel panel);
+    // What was open the last time, without the focus.
+    void showKeptPanel();
 
     std::unique_ptr<Ui::VLK_Designer_Widget_Config> ui_;
     VLK_Widget_Config_Light* lightWindow_;
@@ -71,4 +76,6 @@ private:
     vlk::ReviewBar* bar_ = nullptr;
     vlk::ReviewPanel* panel_ = nullptr;
     vlk::AdvicePanel* advice_ = nullptr;
+    vlk::SettingMarks* marks_ = nullptr;
+    vlk::PanelMemory kept_;
 };

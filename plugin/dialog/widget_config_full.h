@@ -32,6 +32,7 @@ public:
 
     // Above and below the tabs.
     void addReview(QWidget* bar, QWidget* panel);
+    vlk::TabNavigation& navigation() { return *navigation_; }
 
     void setDefaults();
     void retranslate();
