@@ -14,13 +14,21 @@ using review::FileKeys;
 using review::FileState;
 
 ConfigurationReview::ConfigurationReview(EditHistory& history, std::function<bool()> isQuick, QObject* parent)
-    : QObject(parent), history_(history), isQuick_(std::move(isQuick))
+    : QObject(parent), history_(history), isQuick_(std::move(isQuick)), present_(allSettings())
 {
     connect(&history_, &EditHistory::changed, this, &ConfigurationReview::refresh);
 }
 
+void ConfigurationReview::hold(const PageSettings& page)
+{
+    if (const int table = FileKeys::all().tableOf(page.values().table()); table >= 0)
+        present_.tables()[table].putBack(page.values().held());
+}
+
 void ConfigurationReview::begin(CXmlSection* root)
 {
+    for (const PageSettings* page : history_.pages())
+        hold(*page);
     asItCame_ = root ? FileState::ofDocument(*root) : now();
     against_ = Against::file;
     history_.begin();
@@ -30,7 +38,7 @@ bool ConfigurationReview::compareWith(Against against, const QString& path)
 {
     FileState before = asItCame_;
     if (against == Against::defaults) {
-        before = FileState::ofDefaults(configuration());
+        before = FileState::ofDefaults(present_);
     } else if (against == Against::otherFile) {
         XmlDocument document(review::configurationText(path), QStringLiteral("DEVICE"));
         if (!document.isOpen())
@@ -94,7 +102,7 @@ review::Hit ConfigurationReview::settingAt(const QString& path) const
 
 FileState ConfigurationReview::now() const
 {
-    FileState state = FileState::ofConfiguration(configuration());
+    FileState state = FileState::ofConfiguration(present_);
     if (isQuick_())
         state.lay(history_.pages().back()->values());
     return state;
@@ -103,6 +111,8 @@ FileState ConfigurationReview::now() const
 // One table of the full window at a time; the quick window's values lie over all.
 void ConfigurationReview::refresh(const QVector<int>& pages)
 {
+    for (const int page : pages)
+        hold(*history_.pages()[page]);
     const bool isQuick = isQuick_();
     const bool isWhole = isQuick || isQuick != wasQuick_ || pages.size() == int(history_.pages().size());
     wasQuick_ = isQuick;
@@ -132,14 +142,14 @@ std::vector<review::Finding> ConfigurationReview::advise() const
     QHash<QString, QString> unread;
     for (const review::Stranger& stranger : asItCame_.strangers())
         unread.insert(stranger.path, stranger.text);
-    Configuration written = configuration();
-    if (isQuick_()) {
-        XmlDocument document(QString(), QStringLiteral("DEVICE"));
-        written.write(*document.root());
-        history_.pages().back()->values().write(*document.root());
-        document.root()->commit();
-        written.read(*document.root());
-    }
+    if (!isQuick_())
+        return review::advise(present_, unread);
+    Configuration written = present_;
+    XmlDocument document(QString(), QStringLiteral("DEVICE"));
+    written.write(*document.root());
+    history_.pages().back()->values().write(*document.root());
+    document.root()->commit();
+    written.read(*document.root());
     return review::advise(written, unread);
 }
 

@@ -76,9 +76,11 @@ private:
     void takeOverFrom(const review::Differences& differences, const std::vector<int>& keys,
                       const EditHistory::Words& words);
     void refresh(const QVector<int>& pages);
+    void hold(const PageSettings& page);
 
     EditHistory& history_;
     const std::function<bool()> isQuick_;
+    Configuration present_; // what the pages of the full window hold since the last step
     review::FileState asItCame_;
     Against against_ = Against::file;
     bool wasQuick_ = false;
