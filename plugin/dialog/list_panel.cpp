@@ -21,6 +21,7 @@ namespace {
 
 constexpr int kLeastHeight = 120;
 constexpr int kEdge = 5;
+constexpr int kRowsForWidths = 50;
 
 } // namespace
 
@@ -63,6 +64,7 @@ void ListPanel::setModel(QAbstractItemModel& model)
     table_->setModel(&model);
     dressTable(table_, TableUse::read);
     table_->horizontalHeader()->setStretchLastSection(true);
+    table_->horizontalHeader()->setResizeContentsPrecision(kRowsForWidths);
     empty_ = new EmptyNote(table_);
 }
 
@@ -99,10 +101,15 @@ void ListPanel::resizeEvent(QResizeEvent* event)
     edge_->setGeometry(0, 0, width(), kEdge);
 }
 
+void ListPanel::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    refresh();
+}
+
 void ListPanel::showNow()
 {
     show();
-    refresh();
     if (!table_->currentIndex().isValid())
         table_->setCurrentIndex(table_->model()->index(0, 0));
 }

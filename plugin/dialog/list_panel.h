@@ -39,6 +39,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    // Whatever has changed while it was not on show, as on the way from one window to the other.
+    void showEvent(QShowEvent* event) override;
 
     // Before all else.
     void setModel(QAbstractItemModel& model);

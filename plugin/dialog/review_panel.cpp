@@ -16,6 +16,8 @@
 #include <QSaveFile>
 #include <QTableView>
 
+#include <algorithm>
+
 namespace vlk {
 
 using Against = ConfigurationReview::Against;
@@ -68,6 +70,9 @@ void ReviewPanel::showState()
         button->setEnabled(model_.rowCount() > 0);
     empty()->tell(tr("rev_117"));
     table()->resizeColumnsToContents();
+    // A record of many fields would push what stands there now out of sight.
+    for (const int column : {DifferenceModel::Caption, DifferenceModel::Before, DifferenceModel::Now})
+        table()->setColumnWidth(column, std::min(table()->columnWidth(column), table()->width() * 3 / 10));
 }
 
 void ReviewPanel::chooseAgainst(int index)

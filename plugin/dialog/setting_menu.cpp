@@ -72,6 +72,16 @@ int changedKey(const SettingOfMenu& setting)
     return found == keys.end() ? -1 : *found;
 }
 
+// Where a file of this state has the setting; empty where it has none.
+QString pathNow(const SettingOfMenu& setting)
+{
+    for (const int key : ConfigurationReview::keysOf(setting.page, setting.row)) {
+        if (setting.review.edits().after().at(key).isThere)
+            return review::FileKeys::all()[key].path;
+    }
+    return {};
+}
+
 EditHistory::Words wordsOf(const char* key, const SettingOfMenu& setting)
 {
     return [key, setting] {
@@ -100,7 +110,6 @@ void bringBack(const SettingOfMenu& setting)
 void addActions(QMenu& menu, const SettingOfMenu& setting)
 {
     const Values& values = setting.page.values();
-    const QString& path = values.row(setting.row).filePath;
     const QString normal = valueWith(setting, loadDefault(values.setting(setting.row)));
     const auto add = [&](const char* key, const char* name, bool isOn, auto action) {
         QAction* entry = menu.addAction(QCoreApplication::translate("vlk", key));
@@ -111,8 +120,8 @@ void addActions(QMenu& menu, const SettingOfMenu& setting)
     add("rev_163", "action_BringBack", changedKey(setting) >= 0, [setting] { bringBack(setting); });
     add("rev_164", "action_Default", normal != values.value(setting.row),
         [setting, normal] { edit(setting, "rev_167", normal); });
-    add("rev_165", "action_CopyKey", values.row(setting.row).base->stored,
-        [path] { QApplication::clipboard()->setText(path); });
+    const QString path = pathNow(setting);
+    add("rev_165", "action_CopyKey", !path.isEmpty(), [path] { QApplication::clipboard()->setText(path); });
 }
 
 } // namespace
@@ -123,6 +132,8 @@ void openSettingMenu(const SettingOfMenu& setting, QObject* widget, QContextMenu
     {
         const OwnMenu own(add);
         widget->event(event);
+        // What stands around the widget has a menu of its own.
+        event->accept();
         if (own.isThere())
             return;
     }
