@@ -1326,6 +1326,13 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_145"><translation>Unsaved changes cannot be kept: %1. Save them to a file before you close the window.</translation></message>
     <message id="rev_146"><translation>%1 will be discarded when the window closes.</translation></message>
     <message id="rev_147"><translation>Keep</translation></message>
+    <message id="rev_160"><translation>Changed, was</translation></message>
+    <message id="rev_161"><translation>Changed</translation></message>
+    <message id="rev_163"><translation>Bring back</translation></message>
+    <message id="rev_164"><translation>By default</translation></message>
+    <message id="rev_165"><translation>Copy key</translation></message>
+    <message id="rev_166"><translation>brought back</translation></message>
+    <message id="rev_167"><translation>by default</translation></message>
     <message id="tmiex_001"><translation>Navigation</translation></message>
     <message id="tmiex_002"><translation>Receiver</translation></message>
     <message id="tmiex_003"><translation>Satellites</translation></message>

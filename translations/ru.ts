@@ -1326,6 +1326,13 @@
     <message id="rev_145"><translation>Несохранённые изменения не удаётся держать на диске: %1. Сохраните их в файл, прежде чем закрыть окно.</translation></message>
     <message id="rev_146"><translation>%1 будут удалены, когда окно закроется.</translation></message>
     <message id="rev_147"><translation>Оставить</translation></message>
+    <message id="rev_160"><translation>Изменено, было</translation></message>
+    <message id="rev_161"><translation>Изменено</translation></message>
+    <message id="rev_163"><translation>Вернуть</translation></message>
+    <message id="rev_164"><translation>По умолчанию</translation></message>
+    <message id="rev_165"><translation>Копировать ключ</translation></message>
+    <message id="rev_166"><translation>возврат</translation></message>
+    <message id="rev_167"><translation>по умолчанию</translation></message>
     <message id="tmiex_001"><translation>Навигация</translation></message>
     <message id="tmiex_002"><translation>Приёмник</translation></message>
     <message id="tmiex_003"><translation>Спутники</translation></message>

@@ -1,5 +1,6 @@
 #include "typing/field_mark.h"
 
+#include <QAbstractButton>
 #include <QEvent>
 #include <QLabel>
 #include <QPainter>
@@ -48,7 +49,7 @@ class FieldMark : public QWidget
 public:
     explicit FieldMark(QWidget* field)
         : QWidget(field->parentWidget()), field_(field), ownToolTip_(field->toolTip()),
-          ownDescription_(field->accessibleDescription()), outline_(new Outline(field))
+          ownDescription_(field->accessibleDescription())
     {
         setObjectName(QStringLiteral("mark_") + field->objectName());
         resize(markSize, markSize);
@@ -81,6 +82,12 @@ public:
         case QEvent::Hide:
         case QEvent::ZOrderChange:
             place();
+            break;
+        case QEvent::ToolTipChange:
+            if (watched == field_ && !isTelling_) {
+                ownToolTip_ = field_->toolTip();
+                tell();
+            }
             break;
         default:
             break;
@@ -120,12 +127,15 @@ private:
         field_->setAccessibleDescription(text.isEmpty() ? ownDescription_ : text);
         if (!text.isEmpty() && !ownToolTip_.isEmpty())
             texts << ownToolTip_;
+        isTelling_ = true;
         field_->setToolTip(text.isEmpty() ? ownToolTip_ : texts.join(QLatin1Char('\n')));
+        isTelling_ = false;
         place();
         update();
     }
 
-    // Left of the caption, else between the caption and its field, else in the field's corner.
+    // Left of the caption, or of a box that owns its words, else between the caption and its field, else in
+    // the field's corner.
     QPoint spot() const
     {
         const QRect field = field_->geometry();
@@ -139,6 +149,10 @@ private:
             const QPoint between(field.left() - markSize - gap, y);
             if (between.x() >= words && isFree(between))
                 return between;
+        } else if (qobject_cast<QAbstractButton*>(field_)) {
+            const QPoint before(field.left() - markSize - gap, field.center().y() - markSize / 2);
+            if (isFree(before))
+                return before;
         }
         // Over the corner rather than in it, where it would hide what the field holds.
         return {std::max(0, field.left() - markSize / 2), std::max(0, field.top() - markSize / 2)};
@@ -162,15 +176,21 @@ private:
             move(spot());
         setVisible(isShown);
         raise();
-        outline_->setVisible(isShown && worst() == Mark::invalid);
-        outline_->follow();
+        const bool isOutlined = isShown && worst() == Mark::invalid;
+        if (isOutlined && !outline_)
+            outline_ = new Outline(field_);
+        if (outline_) {
+            outline_->setVisible(isOutlined);
+            outline_->follow();
+        }
     }
 
     QWidget* field_;
     QPointer<QLabel> caption_;
-    const QString ownToolTip_;
+    QString ownToolTip_;
     const QString ownDescription_;
-    Outline* outline_;
+    bool isTelling_ = false;
+    Outline* outline_ = nullptr;
     std::map<MarkReason, Told> reasons_;
 };
 

@@ -20,7 +20,7 @@ namespace vlk {
 // From the least to the worst.
 enum class Mark { right, changed, advice, invalid };
 
-enum class MarkReason { typing, value };
+enum class MarkReason { typing, value, changed, advice };
 
 // An empty text takes the mark of that reason away.
 void markField(QWidget* field, MarkReason reason, Mark mark, const QString& text);

@@ -114,6 +114,17 @@ bool TextEntry::keyPressed(QKeyEvent* event)
     }
 }
 
+// Steps of the window are taken back once nothing is left of what has been typed since the line was entered.
+bool TextEntry::leavesToWindow(QKeyEvent* event) const
+{
+    const bool leaves = event->matches(QKeySequence::Undo)   ? line_->text() == before_
+                        : event->matches(QKeySequence::Redo) ? !line_->isRedoAvailable()
+                                                             : false;
+    if (leaves)
+        event->ignore();
+    return leaves;
+}
+
 bool TextEntry::eventFilter(QObject* watched, QEvent* event)
 {
     switch (event->type()) {
@@ -127,7 +138,7 @@ bool TextEntry::eventFilter(QObject* watched, QEvent* event)
             event->accept();
             return true;
         }
-        break;
+        return leavesToWindow(static_cast<QKeyEvent*>(event));
     case QEvent::KeyPress:
         return keyPressed(static_cast<QKeyEvent*>(event));
     default:

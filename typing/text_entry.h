@@ -38,6 +38,7 @@ private:
     explicit TextEntry(QLineEdit* line);
 
     bool keyPressed(QKeyEvent* event);
+    bool leavesToWindow(QKeyEvent* event) const;
     void rejected();
     // How many characters fit, as far as the line limits them.
     int room() const;

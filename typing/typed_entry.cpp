@@ -109,16 +109,29 @@ bool TypedEntry::ends(QEvent* event)
 
 bool TypedEntry::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::ShortcutOverride &&
-        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
-        event->accept();
-        return true;
+    if (event->type() == QEvent::ShortcutOverride) {
+        auto* const over = static_cast<QKeyEvent*>(event);
+        const bool isUndo = over->matches(QKeySequence::Undo);
+        // What is being typed is taken back here, other steps by the window.
+        if (isUndo || over->matches(QKeySequence::Redo)) {
+            event->setAccepted(isUndo && typing_);
+            return true;
+        }
+        if (over->key() == Qt::Key_Escape) {
+            event->accept();
+            return true;
+        }
     }
     if (event->type() != QEvent::KeyPress)
         return ends(event) || QObject::eventFilter(watched, event);
     auto* const key = static_cast<QKeyEvent*>(event);
     if (isMnemonic(*key))
         return true;
+    if (key->matches(QKeySequence::Undo) && typing_) {
+        giveUp();
+        box_->selectAll();
+        return true;
+    }
     switch (key->key()) {
     case Qt::Key_Escape:
         // Also where nothing was typed: pressed once more than needed it would close the window.

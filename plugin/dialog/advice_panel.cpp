@@ -1,6 +1,8 @@
 #include "dialog/advice_panel.h"
 
+#include "dialog/setting_marks.h"
 #include "dialog/setting_places.h"
+#include "review/setting_parts.h"
 #include "review/setting_words.h"
 #include "typing/empty_note.h"
 #include "typing/field_mark.h"
@@ -17,11 +19,6 @@ namespace vlk {
 namespace {
 
 constexpr int kMarkRatio = 2;
-
-Mark markOf(review::Severity severity)
-{
-    return severity == review::Severity::error ? Mark::invalid : Mark::advice;
-}
 
 } // namespace
 
@@ -70,8 +67,8 @@ void AdvicePanel::refresh()
             const Values* values = review_.valuesOf(place.table);
             auto* page =
                 new QStandardItem(values ? review::wordsOf(values->layout(), place.row).page : QString());
-            if (finding.severity != review::Severity::hint)
-                page->setIcon(QIcon(markPixmap(markOf(finding.severity), palette(), markSize, kMarkRatio)));
+            if (const std::optional<Mark> mark = markOf(finding.severity))
+                page->setIcon(QIcon(markPixmap(*mark, palette(), markSize, kMarkRatio)));
             model_.appendRow({page, new QStandardItem(review::adviceText(finding))});
         }
         table()->resizeColumnsToContents();
@@ -81,8 +78,19 @@ void AdvicePanel::refresh()
     Q_EMIT changed();
 }
 
+// Where a box is to be ticked there, else at the setting that the advice is about.
 review::Hit AdvicePanel::placeOf(const review::Finding& finding) const
 {
+    for (const review::Mend& mend : finding.mends) {
+        review::Hit box = review_.settingAt(mend.path);
+        const Values* values = review_.valuesOf(box.table);
+        if (!values || box.row < 0 || review::partCount(values->setting(box.row)) == 0)
+            continue;
+        const std::vector<int> parts =
+            review::differingParts(values->setting(box.row), values->value(box.row), mend.value);
+        box.part = parts.empty() ? -1 : parts.front();
+        return box;
+    }
     return finding.paths.isEmpty() ? review::Hit() : review_.settingAt(finding.paths.first());
 }
 
@@ -104,7 +112,7 @@ void AdvicePanel::take(int line)
     const auto at = static_cast<std::size_t>(line);
     const review::Hit place = at < findings_.size() ? placeOf(findings_[at]) : review::Hit();
     if (place.row >= 0)
-        places_.goTo(place.table, place.row);
+        places_.goTo(place.table, place.row, place.part);
 }
 
 void AdvicePanel::mend()

@@ -14,13 +14,21 @@ using review::FileKeys;
 using review::FileState;
 
 ConfigurationReview::ConfigurationReview(EditHistory& history, std::function<bool()> isQuick, QObject* parent)
-    : QObject(parent), history_(history), isQuick_(std::move(isQuick))
+    : QObject(parent), history_(history), isQuick_(std::move(isQuick)), present_(allSettings())
 {
     connect(&history_, &EditHistory::changed, this, &ConfigurationReview::refresh);
 }
 
+void ConfigurationReview::hold(const PageSettings& page)
+{
+    if (const int table = FileKeys::all().tableOf(page.values().table()); table >= 0)
+        present_.tables()[table].putBack(page.values().held());
+}
+
 void ConfigurationReview::begin(CXmlSection* root)
 {
+    for (const PageSettings* page : history_.pages())
+        hold(*page);
     asItCame_ = root ? FileState::ofDocument(*root) : now();
     against_ = Against::file;
     otherName_ = {};
@@ -31,7 +39,7 @@ bool ConfigurationReview::compareWith(Against against, const QString& path)
 {
     FileState before = asItCame_;
     if (against == Against::defaults) {
-        before = FileState::ofDefaults(configuration());
+        before = FileState::ofDefaults(present_);
     } else if (against == Against::otherFile || against == Against::preset) {
         QByteArray text = review::configurationText(path);
         XmlDocument document(text, QStringLiteral("DEVICE"));
@@ -139,6 +147,16 @@ const Values* ConfigurationReview::valuesOf(int table) const
     return page ? &page->values() : nullptr;
 }
 
+std::vector<int> ConfigurationReview::keysOf(const PageSettings& page, int row)
+{
+    const FileKeys& all = FileKeys::all();
+    const int table = all.tableOf(page.values().table());
+    if (table >= 0)
+        return all.heldBy(table, row);
+    const int key = all.at(page.values().row(row).filePath);
+    return key < 0 ? std::vector<int>() : std::vector<int>{key};
+}
+
 review::Hit ConfigurationReview::settingAt(const QString& path) const
 {
     for (int table = 0; table < FileKeys::all().tables(); ++table) {
@@ -153,7 +171,7 @@ review::Hit ConfigurationReview::settingAt(const QString& path) const
 
 FileState ConfigurationReview::now() const
 {
-    FileState state = FileState::ofConfiguration(configuration());
+    FileState state = FileState::ofConfiguration(present_);
     if (isQuick())
         state.lay(history_.pages().back()->values());
     return state;
@@ -162,6 +180,8 @@ FileState ConfigurationReview::now() const
 // One table of the full window at a time; the quick window's values lie over all.
 void ConfigurationReview::refresh(const QVector<int>& pages)
 {
+    for (const int page : pages)
+        hold(*history_.pages()[page]);
     const bool isQuick = this->isQuick();
     const bool isWhole = isQuick || isQuick != wasQuick_ || pages.size() == int(history_.pages().size());
     wasQuick_ = isQuick;
@@ -178,12 +198,20 @@ void ConfigurationReview::refresh(const QVector<int>& pages)
     // An edit moves what the preset would make of the rest.
     if (against_ == Against::preset)
         differences_ = Differences(withPreset(), now());
+    advice_.reset();
     Q_EMIT changed();
 }
 
-std::vector<review::Finding> ConfigurationReview::advice() const
+const std::vector<review::Finding>& ConfigurationReview::advice() const
 {
-    return review::advise(written(), asItCame_.unread());
+    if (!advice_)
+        advice_ = advise();
+    return *advice_;
+}
+
+std::vector<review::Finding> ConfigurationReview::advise() const
+{
+    return review::advise(isQuick() ? written() : present_, asItCame_.unread());
 }
 
 void ConfigurationReview::mend(const std::vector<review::Mend>& mends, const EditHistory::Words& words)
@@ -200,8 +228,20 @@ void ConfigurationReview::mend(const std::vector<review::Mend>& mends, const Edi
 void ConfigurationReview::takeOver(const std::vector<int>& keys, const EditHistory::Words& words)
 {
     history_.settle();
+    takeOverFrom(differences_, keys, words);
+}
+
+void ConfigurationReview::bringBack(const std::vector<int>& keys, const EditHistory::Words& words)
+{
+    history_.settle();
+    takeOverFrom(edited_, keys, words);
+}
+
+void ConfigurationReview::takeOverFrom(const Differences& differences, const std::vector<int>& keys,
+                                       const EditHistory::Words& words)
+{
     Configuration changed = written();
-    review::takeOver(changed, differences_.before(), review::withNeeded(differences_, keys));
+    review::takeOver(changed, differences, keys);
     put(changed, {}, words);
 }
 

@@ -10,6 +10,8 @@
 #include "review/recovery.h"
 #include "review/search.h"
 
+#include <optional>
+
 struct CXmlSection;
 
 namespace vlk {
@@ -41,6 +43,11 @@ public:
     QString otherName() const { return otherName_ ? otherName_() : QString(); }
 
     const review::Differences& differences() const { return differences_; }
+    // In the order of a save; with the quick window on show those of the sections first that it makes anew.
+    std::vector<review::Difference> listed() const
+    {
+        return isQuick_() ? differences_.allForQuick() : differences_.all();
+    }
     // To the file, whatever is compared.
     int edited() const { return edited_.count(); }
     const review::Differences& edits() const { return edited_; }
@@ -59,19 +66,24 @@ public:
 
     // From the other side; keys of review::FileKeys.
     void takeOver(const std::vector<int>& keys, const EditHistory::Words& words);
+    // From the file as it came, whatever is compared.
+    void bringBack(const std::vector<int>& keys, const EditHistory::Words& words);
     // What was edited earlier, as one step.
     void bringBack(const review::Unsaved& unsaved, const EditHistory::Words& words);
 
+    // Those that hold the setting of a page; none for one that files do not have.
+    static std::vector<int> keysOf(const PageSettings& page, int row);
     // The setting at a path such as "TRANS/SRV1/port"; the row is -1 where there is none.
     review::Hit settingAt(const QString& path) const;
 
     // On what a write would bring now.
-    std::vector<review::Finding> advice() const;
+    const std::vector<review::Finding>& advice() const;
     // The quick window shows too few of the settings.
     bool canMend() const { return !isQuick(); }
     void mend(const std::vector<review::Mend>& mends, const EditHistory::Words& words);
 
     EditHistory& history() { return history_; }
+    void retranslate() { advice_.reset(); }
 
 Q_SIGNALS:
     void changed();
@@ -84,18 +96,24 @@ private:
     // `quick`: values of that window that stand whatever the configuration makes of them.
     void put(const Configuration& changed, const QMap<QString, QString>& quick,
              const EditHistory::Words& words);
+    std::vector<review::Finding> advise() const;
+    void takeOverFrom(const review::Differences& differences, const std::vector<int>& keys,
+                      const EditHistory::Words& words);
     void refresh(const QVector<int>& pages);
+    void hold(const PageSettings& page);
 
     EditHistory& history_;
     const std::function<bool()> isQuick_;
+    Configuration present_; // what the pages of the full window hold since the last step
     review::FileState asItCame_;
     Against against_ = Against::file;
     QByteArray preset_; // its document
     std::vector<review::PresetProblem> problems_;
     EditHistory::Words otherName_;
     bool wasQuick_ = false;
-    review::Differences edited_;      // to the file as it came
-    review::Differences differences_; // to what is chosen
+    review::Differences edited_;                                 // to the file as it came
+    review::Differences differences_;                            // to what is chosen
+    mutable std::optional<std::vector<review::Finding>> advice_; // none until it is asked for
 };
 
 } // namespace vlk

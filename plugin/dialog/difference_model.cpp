@@ -34,12 +34,6 @@ const QString& cell(const review::DifferenceText& text, const QString& setting, 
     }
 }
 
-QString settingOf(const review::DifferenceText& text)
-{
-    return text.group.isEmpty() || text.caption.isEmpty() ? text.group + text.caption
-                                                          : text.group + QStringLiteral(", ") + text.caption;
-}
-
 } // namespace
 
 DifferenceModel::DifferenceModel(ConfigurationReview& review, QObject* parent)
@@ -60,7 +54,7 @@ void DifferenceModel::refresh()
                 {review::Difference{-1, -1, problem.path, problem.text, {}}, review::textOf(problem)});
         problems_ = rowCount();
     }
-    for (const review::Difference& difference : differences.all()) {
+    for (const review::Difference& difference : review_.listed()) {
         const Values* values =
             difference.key < 0 ? nullptr : review_.valuesOf(review::FileKeys::all()[difference.key].table);
         if (unchosen.contains(difference.path))
@@ -107,7 +101,7 @@ QVariant DifferenceModel::data(const QModelIndex& index, int role) const
         const int column = !isProblem || index.column() < Now ? index.column()
                            : index.column() == Now            ? int(Note)
                                                               : int(Now);
-        return cell(line.text, settingOf(line.text), column);
+        return cell(line.text, review::placeText(line.text), column);
     }
     if (role == Qt::DecorationRole && index.column() == Page && isProblem)
         return QIcon(markPixmap(Mark::advice, QGuiApplication::palette(), markSize, kIconRatio));

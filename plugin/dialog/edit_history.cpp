@@ -73,14 +73,21 @@ void EditHistory::watch(PageSettings& page)
     connect(&page, &PageSettings::changed, this, [this, place](const QString& path) { note(place, path); });
 }
 
-void EditHistory::begin()
+void EditHistory::close()
 {
+    isBusy_ = true;
     over_.stop();
     edited_.clear();
+    steps_.clear();
+}
+
+void EditHistory::begin()
+{
+    close();
+    isBusy_ = false;
     for (std::size_t page = 0; page < pages_.size(); ++page)
         known_[page] = pages_[page]->values().held();
     knownWindow_ = windows_.current();
-    steps_.clear();
     Q_EMIT changed(allPages());
 }
 
@@ -134,8 +141,7 @@ void EditHistory::settle()
         std::swap(parts.front(), *first);
     const TableLayout& layout = pages_[parts.front().page]->values().layout();
     const Words words = [&layout, at = parts.front().row] {
-        const review::SettingWords told = review::wordsOf(layout, at);
-        return told.group.isEmpty() ? told.caption : told.group + QStringLiteral(", ") + told.caption;
+        return review::placeText(review::wordsOf(layout, at));
     };
     push(std::move(parts), words, isPlain);
 }

@@ -34,6 +34,8 @@ public:
     void watch(PageSettings& page);
     const std::vector<PageSettings*>& pages() const { return pages_; }
 
+    // Other values are coming, up to begin(): there are no steps, and nothing is an edit.
+    void close();
     // What the pages hold now is the beginning; there are no steps yet.
     void begin();
     // What has been edited since the last step becomes one. Done by itself when an edit is over.

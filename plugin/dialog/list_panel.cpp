@@ -8,20 +8,26 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QTableView>
 #include <QToolButton>
+
+#include <algorithm>
 
 namespace vlk {
 
 namespace {
 
-constexpr int kPanelHeight = 200;
+constexpr int kLeastHeight = 120;
+constexpr int kEdge = 5;
+constexpr int kRowsForWidths = 50;
 
 } // namespace
 
 ListPanel::ListPanel(const char* name, QWidget* parent)
-    : QWidget(parent), title_(new QLabel(this)), table_(new QTableView(this)), close_(new QToolButton(this))
+    : QWidget(parent), title_(new QLabel(this)), table_(new QTableView(this)), close_(new QToolButton(this)),
+      edge_(new QWidget(this))
 {
     const QString end = QString::fromLatin1(name);
     setObjectName(QStringLiteral("widget_") + end);
@@ -36,6 +42,10 @@ ListPanel::ListPanel(const char* name, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(6);
+    edge_->setObjectName(QStringLiteral("edge_") + end);
+    edge_->setFixedHeight(kEdge);
+    edge_->setCursor(Qt::SplitVCursor);
+    edge_->installEventFilter(this);
     auto* head = new QHBoxLayout;
     head->setSpacing(8);
     head->addWidget(title_);
@@ -43,7 +53,6 @@ ListPanel::ListPanel(const char* name, QWidget* parent)
     head->addWidget(close_);
     layout->addLayout(head);
     layout->addWidget(table_);
-    setFixedHeight(kPanelHeight);
     connect(table_, &QTableView::doubleClicked, this,
             [this](const QModelIndex& index) { take(index.row()); });
     connect(close_, &QToolButton::clicked, this, &ListPanel::closed);
@@ -55,6 +64,7 @@ void ListPanel::setModel(QAbstractItemModel& model)
     table_->setModel(&model);
     dressTable(table_, TableUse::read);
     table_->horizontalHeader()->setStretchLastSection(true);
+    table_->horizontalHeader()->setResizeContentsPrecision(kRowsForWidths);
     empty_ = new EmptyNote(table_);
 }
 
@@ -80,17 +90,44 @@ void ListPanel::retranslate()
     close_->setAccessibleName(tr("rev_116"));
 }
 
-void ListPanel::open()
+void ListPanel::setPanelHeight(int height)
+{
+    setFixedHeight(std::clamp(height, kLeastHeight, std::max(kLeastHeight, window()->height() / 2)));
+}
+
+void ListPanel::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    edge_->setGeometry(0, 0, width(), kEdge);
+}
+
+void ListPanel::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    refresh();
+}
+
+void ListPanel::showNow()
 {
     show();
-    refresh();
     if (!table_->currentIndex().isValid())
         table_->setCurrentIndex(table_->model()->index(0, 0));
+}
+
+void ListPanel::open()
+{
+    showNow();
     table_->setFocus(Qt::ShortcutFocusReason);
 }
 
 bool ListPanel::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == edge_ && event->type() == QEvent::MouseMove) {
+        setPanelHeight(height() - static_cast<QMouseEvent*>(event)->pos().y());
+        return true;
+    }
+    if (watched == edge_ && event->type() == QEvent::MouseButtonRelease)
+        Q_EMIT heightChosen(height());
     const int line = table_->currentIndex().row();
     if (watched != table_ || event->type() != QEvent::KeyPress || line < 0)
         return QWidget::eventFilter(watched, event);

@@ -25,13 +25,22 @@ public:
     virtual void retranslate();
     // Shows it with what there is now, and gives it the focus.
     void open();
+    // The same and leaves the focus.
+    void showNow();
+    // As high as there is room for it, within reason.
+    void setPanelHeight(int height);
 
 Q_SIGNALS:
     void closed();
+    // The upper edge was moved.
+    void heightChosen(int height);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    // Whatever has changed while it was not on show, as on the way from one window to the other.
+    void showEvent(QShowEvent* event) override;
 
     // Before all else.
     void setModel(QAbstractItemModel& model);
@@ -51,6 +60,7 @@ private:
     QTableView* table_;
     EmptyNote* empty_ = nullptr;
     QToolButton* close_;
+    QWidget* edge_; // to be moved
 };
 
 } // namespace vlk

@@ -1,6 +1,8 @@
 #include "dialog/review_bar.h"
 
 #include "dialog/setting_places.h"
+#include "link/device.h"
+#include "review/setting_parts.h"
 #include "review/setting_words.h"
 #include "settings/value_text.h"
 #include "typing/field_mark.h"
@@ -23,11 +25,34 @@ namespace vlk {
 
 namespace {
 
-constexpr int kMostHits = 200;
+constexpr int kMostHits = 100;
 constexpr int kLinesOnShow = 10;
 constexpr int kMarkSide = 10;
 const QString kDifferencesKey = QStringLiteral("Ctrl+D");
 const QString kAdviceKey = QStringLiteral("Ctrl+Shift+D");
+
+// "Track › Reject coordinates › HDOP above:  2.5"
+QString lineOf(const review::Hit& hit, const Values& values)
+{
+    const Setting& setting = values.setting(hit.row);
+    const review::SettingWords told = review::wordsOf(values.layout(), hit.row);
+    QString value = valueText(values, hit.row);
+    QStringList place{told.page, told.group, told.caption};
+    if (hit.part >= 0) {
+        place << review::partCaption(setting, hit.part);
+        value = review::partText(setting, hit.part, review::partOf(setting, hit.part, values.value(hit.row)));
+    }
+    place.removeAll(QString());
+    place.removeDuplicates();
+    return place.join(QStringLiteral(" › ")) + QStringLiteral(":  ") + value;
+}
+
+void setMark(QToolButton* button, Mark mark, bool isMarked)
+{
+    if (isMarked != button->icon().isNull())
+        return;
+    button->setIcon(isMarked ? QIcon(markPixmap(mark, button->palette(), kMarkSide, 2)) : QIcon());
+}
 
 } // namespace
 
@@ -60,6 +85,8 @@ ReviewBar::ReviewBar(ConfigurationReview& review, SettingPlaces& places, QWidget
     find_->installEventFilter(this);
     list_->setFocusPolicy(Qt::NoFocus);
     list_->setAutoFillBackground(true);
+    list_->setUniformItemSizes(true);
+    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list_->hide();
     connect(undo_, &QToolButton::clicked, &review_.history(), &EditHistory::undo);
     connect(redo_, &QToolButton::clicked, &review_.history(), &EditHistory::redo);
@@ -93,8 +120,7 @@ void ReviewBar::retranslate()
     find_->setPlaceholderText(hint);
     find_->setAccessibleName(tr("rev_122"));
     changedOnly_->setText(tr("rev_123"));
-    if (search_)
-        search_->retranslate();
+    search_.reset();
     closeHits();
     showState();
 }
@@ -112,7 +138,7 @@ void ReviewBar::showState()
     }
     const int count = review_.edited();
     differences_->setText(QLocale().toString(count));
-    differences_->setIcon(count > 0 ? QIcon(markPixmap(Mark::changed, palette(), kMarkSide, 2)) : QIcon());
+    setMark(differences_, Mark::changed, count > 0);
     differences_->setToolTip(tr("rev_126").arg(QKeySequence(kDifferencesKey).toString()));
     differences_->setAccessibleName(QStringLiteral("%1: %2").arg(tr("rev_108")).arg(count));
 }
@@ -134,7 +160,7 @@ void ReviewBar::setPanel(Panel panel)
 void ReviewBar::setAdvice(int count, bool isSerious)
 {
     advice_->setText(QLocale().toString(count));
-    advice_->setIcon(isSerious ? QIcon(markPixmap(Mark::advice, palette(), kMarkSide, 2)) : QIcon());
+    setMark(advice_, Mark::advice, isSerious);
     advice_->setToolTip(tr("rev_135").arg(QKeySequence(kAdviceKey).toString()));
     advice_->setAccessibleName(QStringLiteral("%1: %2").arg(tr("rev_131")).arg(count));
 }
@@ -148,24 +174,22 @@ void ReviewBar::find()
         std::vector<const Values*> tables(review::FileKeys::all().tables());
         for (std::size_t table = 0; table < tables.size(); ++table)
             tables[table] = review_.valuesOf(static_cast<int>(table));
-        search_ = std::make_unique<review::Search>(tables);
+        const bool isRussian = QLocale().language() == QLocale::Russian;
+        search_ = std::make_unique<review::Search>(
+            tables, vlkDevice ? vlkDevice->textsIn(isRussian ? "en" : "ru") : TextSource());
     }
     hits_ = search_->find(words);
     if (changedOnly_->isChecked())
         std::erase_if(hits_,
                       [this](const review::Hit& hit) { return !review_.isEdited(hit.table, hit.row); });
     hits_.resize(std::min<std::size_t>(hits_.size(), kMostHits));
+    QStringList lines;
+    for (const review::Hit& hit : hits_)
+        lines << lineOf(hit, *review_.valuesOf(hit.table));
+    if (lines.isEmpty())
+        lines << tr("rev_127");
     list_->clear();
-    for (const review::Hit& hit : hits_) {
-        const Values& values = *review_.valuesOf(hit.table);
-        const review::SettingWords told = review::wordsOf(values.layout(), hit.row);
-        QStringList place{told.page, told.group, told.caption};
-        place.removeAll(QString());
-        list_->addItem(place.join(QStringLiteral(" › ")) + QStringLiteral(":  ") +
-                       valueText(values, hit.row));
-    }
-    if (hits_.empty())
-        list_->addItem(tr("rev_127"));
+    list_->addItems(lines);
     list_->setCurrentRow(0);
     const int line = list_->sizeHintForRow(0);
     const QWidget* window = list_->parentWidget();
@@ -192,10 +216,31 @@ void ReviewBar::goTo(int line)
     places_.goTo(hit.table, hit.row, hit.part);
 }
 
+// The marks have colours of their own.
+void ReviewBar::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange)
+        return;
+    for (const auto& [button, mark] : {std::pair(differences_, Mark::changed), {advice_, Mark::advice}}) {
+        const bool isMarked = !button->icon().isNull();
+        button->setIcon({});
+        setMark(button, mark, isMarked);
+    }
+}
+
 bool ReviewBar::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == find_ && event->type() == QEvent::FocusOut && !list_->underMouse())
         closeHits();
+    if (watched == find_ && event->type() == QEvent::ShortcutOverride) {
+        // What has been typed is taken back first.
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const bool leaves = (key->matches(QKeySequence::Undo) && !find_->isUndoAvailable()) ||
+                            (key->matches(QKeySequence::Redo) && !find_->isRedoAvailable());
+        event->setAccepted(!leaves);
+        return leaves;
+    }
     if (watched != find_ || event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
     switch (static_cast<QKeyEvent*>(event)->key()) {

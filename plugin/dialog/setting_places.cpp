@@ -86,8 +86,13 @@ void SettingPlaces::goTo(int table, int row, int part)
     showTabs(widget);
     scrollTo(widget);
     widget->setFocus(Qt::ShortcutFocusReason);
-    if (widget->isVisible())
+    // A page that is shown for the first time gets its layout behind this.
+    QTimer::singleShot(0, widget, [widget] {
+        if (!widget->isVisible())
+            return;
+        scrollTo(widget);
         outline(widget);
+    });
 }
 
 } // namespace vlk

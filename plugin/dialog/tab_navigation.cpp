@@ -13,6 +13,7 @@ TabNavigation::TabNavigation(QTabWidget* tabs, const Buttons& buttons) : TabMenu
     buttons_.first->hide();
     buttons_.last->hide();
     buttons_.menu->setMenu(menu());
+    tabs->setIconSize({markSize, markSize});
 }
 
 void TabNavigation::retranslate()
@@ -22,6 +23,18 @@ void TabNavigation::retranslate()
     buttons_.menu->setText(tr("wrd_053"));
     buttons_.next->setText(QStringLiteral("%1 >").arg(tr("wrd_052")));
     buttons_.last->setText(tr("wrd_050"));
+}
+
+void TabNavigation::setMark(int tab, std::optional<Mark> mark, const QString& told)
+{
+    constexpr int ratio = 2;
+    QPixmap pixmap(ratio * QSize(markSize, markSize));
+    pixmap.fill(Qt::transparent);
+    const QIcon icon(mark ? markPixmap(*mark, tabs()->palette(), markSize, ratio) : pixmap);
+    tabs()->setTabIcon(tab, icon);
+    tabs()->setTabToolTip(tab, told);
+    menu()->actions().at(tab)->setIcon(icon);
+    menu()->actions().at(tab)->setToolTip(told);
 }
 
 void TabNavigation::goToLast()

@@ -3,7 +3,10 @@
 // The tabs of the full window and the ways to them: their menu, and the buttons for the first, previous, next
 // and last tab.
 
+#include "typing/field_mark.h"
 #include "windows/tab_menu.h"
+
+#include <optional>
 
 class QPushButton;
 
@@ -34,6 +37,9 @@ public:
     void goToLast();
     // Shows the pages from their tops and gives the focus to the first input of the current tab.
     void focusFirstField();
+
+    // At a tab and its entry in the menu; without a mark it has room for one.
+    void setMark(int tab, std::optional<Mark> mark, const QString& told);
 
     // Enables the buttons that lead anywhere from this tab.
     void update(int tab);

@@ -8,6 +8,8 @@
 #include "dialog/file_names.h"
 #include "dialog/report_dialog.h"
 #include "dialog/review_panel.h"
+#include "dialog/setting_marks.h"
+#include "dialog/tab_navigation.h"
 #include "dialog/unsaved_bar.h"
 #include "dialog/widget_config_full.h"
 #include "dialog/widget_config_light.h"
@@ -99,10 +101,23 @@ void VLK_Widget_Config::addReview()
     connect(ui_->stackedWidget, &QStackedWidget::currentChanged, this, place);
     place();
     connect(bar_, &vlk::ReviewBar::panelRequested, this, &VLK_Widget_Config::showPanel);
-    connect(panel_, &vlk::ReviewPanel::closed, this, [this] { showPanel(vlk::ReviewBar::None); });
-    connect(advice_, &vlk::AdvicePanel::closed, this, [this] { showPanel(vlk::ReviewBar::None); });
+    for (vlk::ListPanel* panel : std::initializer_list<vlk::ListPanel*>{panel_, advice_}) {
+        connect(panel, &vlk::ListPanel::closed, this, [this] { showPanel(vlk::ReviewBar::None); });
+        connect(panel, &vlk::ListPanel::heightChosen, this, [this](int height) {
+            kept_.height = height;
+            kept_.save();
+            for (vlk::ListPanel* other : std::initializer_list<vlk::ListPanel*>{panel_, advice_})
+                other->setPanelHeight(height);
+        });
+    }
     connect(advice_, &vlk::AdvicePanel::changed, this,
             [this] { bar_->setAdvice(advice_->count(), advice_->isSerious()); });
+    marks_ = new vlk::SettingMarks(
+        review_, [this] { return pageOnShow(); }, this);
+    vlk::TabNavigation& tabs = fullWindow_->navigation();
+    connect(marks_, &vlk::SettingMarks::tabMarked, &tabs, &vlk::TabNavigation::setMark);
+    connect(&tabs, &vlk::TabMenu::moved, marks_, &vlk::SettingMarks::refresh);
+    connect(ui_->stackedWidget, &QStackedWidget::currentChanged, marks_, &vlk::SettingMarks::refresh);
     connect(&history_, &vlk::EditHistory::stepped, this, [this](int page, int row) {
         const auto& table = history_.pages()[page]->values().table();
         places_.goTo(vlk::review::FileKeys::all().tableOf(table), row);
@@ -172,8 +187,25 @@ void VLK_Widget_Config::addKeeper()
     connect(unsaved_, &vlk::UnsavedBar::shown, this, [this] { showPanel(vlk::ReviewBar::Differences); });
 }
 
+void VLK_Widget_Config::showKeptPanel()
+{
+    kept_ = vlk::PanelMemory::load();
+    const auto panel = static_cast<vlk::ReviewBar::Panel>(kept_.open);
+    bar_->setPanel(panel);
+    const std::pair<vlk::ListPanel*, vlk::ReviewBar::Panel> panels[] = {{panel_, vlk::ReviewBar::Differences},
+                                                                        {advice_, vlk::ReviewBar::Advice}};
+    for (const auto& [widget, which] : panels) {
+        widget->setPanelHeight(kept_.height);
+        widget->hide();
+        if (panel == which)
+            widget->showNow();
+    }
+}
+
 void VLK_Widget_Config::showPanel(vlk::ReviewBar::Panel panel)
 {
+    kept_.open = panel;
+    kept_.save();
     bar_->setPanel(panel);
     panel_->setVisible(panel == vlk::ReviewBar::Differences);
     advice_->setVisible(panel == vlk::ReviewBar::Advice);
@@ -201,9 +233,19 @@ std::vector<vlk::PageSettings*> VLK_Widget_Config::pagesOnShow() const
     return pages;
 }
 
+vlk::PageSettings* VLK_Widget_Config::pageOnShow()
+{
+    for (vlk::PageSettings* page : pagesOnShow()) {
+        if (isQuick() || page->tabIndex() == fullWindow_->navigation().current())
+            return page;
+    }
+    return nullptr;
+}
+
 void VLK_Widget_Config::open(const vlk::OpenRequest& request, char* ussdBuffer)
 {
     keeper_.leave();
+    history_.close();
     lightWindow_->setDefaults();
     fullWindow_->setDefaults();
     const QString path = QString::fromLocal8Bit(static_cast<const char*>(request.path));
@@ -234,6 +276,7 @@ void VLK_Widget_Config::open(const vlk::OpenRequest& request, char* ussdBuffer)
     }
     vlk::fitToScreen(this);
     show();
+    showKeptPanel();
     if (isFull)
         fullWindow_->focusFirstField();
     else
@@ -332,10 +375,12 @@ void VLK_Widget_Config::retranslate()
                        lightWindow_->retranslate();
                        fullWindow_->retranslate();
                    });
+    review_.retranslate();
     bar_->retranslate();
     unsaved_->retranslate();
     panel_->retranslate();
     advice_->retranslate();
+    marks_->retranslate();
     documents_->retranslate();
     if (report_)
         report_->retranslate();

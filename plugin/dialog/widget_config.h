@@ -7,6 +7,7 @@
 
 #include "dialog/configuration_review.h"
 #include "dialog/edit_keeper.h"
+#include "dialog/panel_memory.h"
 #include "dialog/review_bar.h"
 #include "dialog/setting_places.h"
 
@@ -27,6 +28,7 @@ class AdvicePanel;
 class DocumentMenu;
 class ReportDialog;
 class ReviewPanel;
+class SettingMarks;
 class UnsavedBar;
 struct OpenRequest;
 } // namespace vlk
@@ -65,6 +67,7 @@ private:
     void saveToXml(CXmlSection* root);
     bool isQuick() const;
     std::vector<vlk::PageSettings*> pagesOnShow() const;
+    vlk::PageSettings* pageOnShow();
     void showFull();
     void showQuick();
     void addReview();
@@ -75,6 +78,8 @@ private:
     void showReport();
     // Lines that say what the configuration is of.
     QStringList about() const;
+    // What was open the last time, without the focus.
+    void showKeptPanel();
 
     std::unique_ptr<Ui::VLK_Designer_Widget_Config> ui_;
     VLK_Widget_Config_Light* lightWindow_;
@@ -91,4 +96,6 @@ private:
     vlk::ReportDialog* report_ = nullptr; // made when it is first wanted
     QString file_;                        // that the user opened, without its folder
     bool isOfTracker_ = false;
+    vlk::SettingMarks* marks_ = nullptr;
+    vlk::PanelMemory kept_;
 };

@@ -32,6 +32,7 @@ public:
 
     // Above and below the tabs.
     void addReview(QWidget* bar, QWidget* panel);
+    vlk::TabNavigation& navigation() { return *navigation_; }
     // Above all.
     void addNotice(QWidget* bar);
 

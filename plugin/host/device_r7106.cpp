@@ -90,6 +90,18 @@ QString VLK_Device_R7106::fileVersion() const
     return vlk::fileVersionText();
 }
 
+vlk::TextSource VLK_Device_R7106::textsIn(const char* language) const
+{
+    if (!texts_.fill)
+        return {};
+    return [this, language](const char* key) {
+        QString text;
+        if (texts_.fill)
+            texts_.fill(texts_.context, language, key, &text);
+        return text.isNull() ? QString::fromLatin1(key) : text;
+    };
+}
+
 void VLK_Device_R7106::showHelp(const QString& page)
 {
     if (page.isEmpty())

@@ -47,6 +47,7 @@ public:
     void setLiveOwner(int owner) override { liveOwner_ = owner; }
     void showHelp(const QString& page) override;
     void showText(const QString& title, const QString& html) override;
+    vlk::TextSource textsIn(const char* language) const override;
 
     int liveOwner() const { return liveOwner_; }
 
@@ -54,6 +55,7 @@ public:
     void setMode(int mode) { hostMode_ = mode; }
     void setIdentity(const vlk::IdentityInfo& info);
     void setPaths(const vlk::Paths& paths);
+    void setTexts(const vlk::OfferedTexts& texts) { texts_ = texts; }
     void attach(const vlk::ConnectInfo& info);
     void detach();
     void openConfiguration(const vlk::OpenRequest& request);
@@ -75,6 +77,7 @@ private:
     QString pathXml_;
     QString pathThird_;
     QString pathFourth_;
+    vlk::OfferedTexts texts_;
     vlk::LibraryInfo libraryInfo_{};
     vlk::HostCallback hostCallback_ = nullptr;
     int liveOwner_ = 0;

@@ -227,7 +227,7 @@ constexpr Entry table[] = {
     {Message::GetExtensions,
      [](VLK_Device_R7106&, const Parameters& parameters) {
          vlk::Extensions extensions;
-         extensions.newest = static_cast<std::uint32_t>(Message::ApplyPreset);
+         extensions.newest = static_cast<std::uint32_t>(Message::OfferTexts);
          fillRecord(parameters.p1, extensions);
      }},
     {Message::CompareFiles,
@@ -259,6 +259,11 @@ constexpr Entry table[] = {
      [](VLK_Device_R7106& device, const Parameters& parameters) {
          if (sizeOf(parameters.p1) >= sizeof(vlk::PresetApplication))
              vlk::applyPreset(*static_cast<vlk::PresetApplication*>(parameters.p1), device.configDialog());
+     }},
+    {Message::OfferTexts,
+     [](VLK_Device_R7106& device, const Parameters& parameters) {
+         if (sizeOf(parameters.p1) >= sizeof(vlk::OfferedTexts))
+             device.setTexts(*static_cast<const vlk::OfferedTexts*>(parameters.p1));
      }},
 };
 

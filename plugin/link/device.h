@@ -4,6 +4,7 @@
 // the way out for messages (requests.h has a typed function for each). VLK_Device_R7106 is the one that
 // answers.
 
+#include "base/translated.h"
 #include "link/messages.h"
 
 namespace vlk {
@@ -39,6 +40,8 @@ public:
     virtual void showHelp(const QString& page) = 0;
     // Shows a titled text in the text dialog.
     virtual void showText(const QString& title, const QString& html) = 0;
+    // Texts in that language, "ru" or "en"; an empty function where the host offers none.
+    virtual TextSource textsIn(const char* language) const = 0;
 
 protected:
     ~Device() = default;

@@ -65,6 +65,7 @@ enum class Message : std::uint32_t {
     CheckFile = 7106006,
     ReportFile = 7106007,
     ApplyPreset = 7106008,
+    OfferTexts = 7106009,
 
     // Plug-in to host
     ShowHelp = 2007,
@@ -347,6 +348,16 @@ struct PresetApplication
     QString* reason = nullptr; // filled when not written; may be null
 };
 
+// OfferTexts: how the plug-in gets texts of a language that is not on show, by which settings are found in
+// both. The host fills the text of a key in a language ("ru", "en"), or leaves it null where it has none. The
+// function is called until another one, or none, is offered.
+struct OfferedTexts
+{
+    std::uint32_t size = sizeof(OfferedTexts);
+    void (*fill)(void* context, const char* language, const char* key, QString* text) = nullptr;
+    void* context = nullptr;
+};
+
 // AnalogRecord is a plain byte record of `analogRecordSize` bytes with unsigned 16-bit little-endian values:
 // the lines IN1, IN2, IN3 in millivolts from byte 15, and the fuel sensors at the bytes that name them.
 inline constexpr int analogRecordSize = 42;
@@ -503,6 +514,7 @@ inline constexpr MessageInfo messages[] = {
     detail::in(Message::CheckFile, "CheckFile", Parameter::RecordAddress, Parameter::None, true),
     detail::in(Message::ReportFile, "ReportFile", Parameter::RecordAddress, Parameter::None, true),
     detail::in(Message::ApplyPreset, "ApplyPreset", Parameter::RecordAddress, Parameter::None, true),
+    detail::in(Message::OfferTexts, "OfferTexts", Parameter::RecordAddress),
 };
 
 // A plain value in the place of an address, and back. The token of a LibraryInfo becomes the handle likewise.

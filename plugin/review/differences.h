@@ -34,9 +34,12 @@ public:
     const FileState& after() const { return after_; }
 
     int count() const;
+    // Of the keys of a table.
+    int count(int table) const { return static_cast<int>(keys_[table].size()); }
     bool isDifferent(int key) const { return !(before_.at(key) == after_.at(key)); }
     // Of a setting.
     bool isDifferent(int table, int row) const;
+    Difference differenceAt(int key) const;
     std::vector<Difference> all() const;
     // The same with those first whose sections the quick window builds anew.
     std::vector<Difference> allForQuick() const;
@@ -49,7 +52,6 @@ public:
 private:
     void compare(int table);
     void compareStrangers();
-    Difference differenceAt(int key) const;
 
     FileState before_;
     FileState after_;

@@ -1,5 +1,6 @@
 #include "review/search.h"
 
+#include "review/setting_parts.h"
 #include "review/setting_words.h"
 #include "settings/kinds/spelling.h"
 #include "settings/value_text.h"
@@ -44,43 +45,6 @@ bool canBeShown(const Setting& setting)
     return has;
 }
 
-// The parts that a window shows one by one.
-int partCount(const Setting& setting)
-{
-    if (const auto* mask = setting.as<Mask>())
-        return static_cast<int>(mask->fields.size());
-    const auto* digits = setting.as<Digits>();
-    return digits ? static_cast<int>(digits->positions.size()) : 0;
-}
-
-QString partCaption(const Setting& setting, int part)
-{
-    if (const auto* mask = setting.as<Mask>())
-        return fieldText(mask->fields[part]);
-    return inOneLine(translated(setting.as<Digits>()->positions[part].caption));
-}
-
-// What the part holds, in the form of the file.
-QString partOf(const Setting& setting, int part, const QString& value)
-{
-    if (const auto* mask = setting.as<Mask>())
-        return maskPart(mask->fields[part], value);
-    return value.mid(part, 1);
-}
-
-QString partText(const Setting& setting, int part, const QString& held)
-{
-    if (const auto* mask = setting.as<Mask>()) {
-        const MaskField& field = mask->fields[part];
-        const int item = maskItem(field, held);
-        return item < 0 ? yesNo(isMaskOn(field, held)) : codeText(field.items[item]);
-    }
-    const auto& items = setting.as<Digits>()->items;
-    const int digit = digitAt(held, 0);
-    const bool isListed = static_cast<std::size_t>(digit) < items.size() && *items[digit].label;
-    return isListed ? codeText(items[digit]) : yesNo(digit != 0);
-}
-
 // What else the setting could be.
 QString choiceTexts(const Setting& setting)
 {
@@ -110,7 +74,7 @@ void Search::build()
                 continue;
             const int parts = partCount(setting);
             for (int part = parts > 0 ? 0 : -1; part < parts; ++part) {
-                if (const auto* digits = setting.as<Digits>(); !digits || digits->positions[part].widget)
+                if (part < 0 || isPartShown(setting, part))
                     add(table, row, part);
             }
         }

@@ -18,4 +18,11 @@ SettingWords wordsOf(const TableLayout& layout, int row)
     return words;
 }
 
+QString placeText(const SettingWords& words)
+{
+    QStringList parts{words.group, words.caption};
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(", "));
+}
+
 } // namespace vlk::review

@@ -15,5 +15,7 @@ struct SettingWords
 
 // A setting without a caption is told by its heading, one that no window shows by its key.
 SettingWords wordsOf(const TableLayout& layout, int row);
+// Without its page: "Servers / Backup 1, Port".
+QString placeText(const SettingWords& words);
 
 } // namespace vlk::review

@@ -6,6 +6,8 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace vlk::review {
 
@@ -27,6 +29,30 @@ std::vector<int> companions(const TableLayout& layout, int row, bool isOnOneSide
     for (int other = 0; other < static_cast<int>(layout.rows.size()); ++other) {
         if (other != row && layout.rows[other].target == place.target)
             rows.push_back(other);
+    }
+    return rows;
+}
+
+// The settings that rules of a load tie to one.
+std::vector<int> tiedTo(const TableLayout& layout, int row)
+{
+    std::vector<int> rows;
+    const auto tie = [&](std::initializer_list<int> tied) {
+        if (std::find(tied.begin(), tied.end(), row) != tied.end())
+            std::copy_if(tied.begin(), tied.end(), std::back_inserter(rows),
+                         [](int one) { return one >= 0; });
+    };
+    for (const Sets& rule : layout.table->all<Sets>()) {
+        if (rule.moment != Moment::edit && rule.moment != Moment::save)
+            tie({rule.path.row, rule.when.row, rule.when.other, rule.also.row});
+    }
+    for (const Distance& rule : layout.table->all<Distance>())
+        tie({rule.first.row, rule.second.row, rule.gapFrom.row});
+    for (const RangeWhen& rule : layout.table->all<RangeWhen>())
+        tie({rule.path.row, rule.when.row});
+    for (const TableLayout::SharedList* list : layout.rows[row].lists) {
+        for (const TableLayout::Sharer& sharer : *list)
+            rows.push_back(sharer.rule->path.row);
     }
     return rows;
 }
@@ -108,6 +134,34 @@ void takeOver(Configuration& configuration, const FileState& from, const std::ve
     configuration.write(*document.root());
     layOver(*document.root(), from, keys);
     configuration.read(*document.root());
+}
+
+void takeOver(Configuration& configuration, const Differences& differences, std::vector<int> keys)
+{
+    const FileKeys& all = FileKeys::all();
+    const Configuration present = configuration;
+    keys = withNeeded(differences, std::move(keys));
+    for (std::size_t taken = 0; taken != keys.size();) {
+        taken = keys.size();
+        configuration = present;
+        takeOver(configuration, differences.before(), keys);
+        const FileState now = FileState::ofConfiguration(configuration);
+        for (std::size_t i = 0; i < taken; ++i) {
+            if (now.at(keys[i]) == differences.before().at(keys[i]))
+                continue;
+            const int table = all[keys[i]].table;
+            const TableLayout& layout = all.layout(table);
+            for (const int row : all[keys[i]].rows) {
+                for (const int tied : tiedTo(layout, layout.rows[row].target)) {
+                    for (const int key : all.heldBy(table, layout.rows[tied].target)) {
+                        if (differences.isDifferent(key) &&
+                            std::find(keys.begin(), keys.end(), key) == keys.end())
+                            keys.push_back(key);
+                    }
+                }
+            }
+        }
+    }
 }
 
 } // namespace vlk::review

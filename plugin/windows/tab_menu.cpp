@@ -17,6 +17,7 @@ TabMenu::TabMenu(QTabWidget* tabs)
         if (QAction* entry = menu_->actions().value(tab))
             entry->setChecked(true);
     });
+    connect(tabs_, &QTabWidget::currentChanged, this, &TabMenu::moved);
 }
 
 int TabMenu::add(QWidget* page, const QString& title)

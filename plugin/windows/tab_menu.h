@@ -31,6 +31,10 @@ public:
 
     QMenu* menu() const { return menu_; }
 
+Q_SIGNALS:
+    // Another tab is the current one.
+    void moved(int tab);
+
 protected:
     QTabWidget* tabs() const { return tabs_; }
 

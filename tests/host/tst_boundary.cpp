@@ -5,6 +5,7 @@
 
 #include <QTemporaryDir>
 #include <QtTest>
+#include <QtWidgets>
 
 #include <array>
 
@@ -128,7 +129,7 @@ private Q_SLOTS:
     {
         vlk::Extensions extensions;
         host_.send(Message::GetExtensions, &extensions);
-        QCOMPARE(extensions.newest, static_cast<quint32>(Message::ApplyPreset));
+        QCOMPARE(extensions.newest, static_cast<quint32>(Message::OfferTexts));
 
         const QString left = writeFile(
             folder_.filePath("left.xml"),
@@ -286,6 +287,37 @@ private Q_SLOTS:
         host_.send(Message::ApplyPreset, &open);
         QCOMPARE(open.outcome, quint32(vlk::PresetApplication::shown));
         host_.send(Message::ApplyPreset);
+    }
+
+    // Settings are found by the words that the host offers, until it offers none.
+    void offeredTexts()
+    {
+        vlk::OfferedTexts offered;
+        const auto hits = [this, &offered](quint32 size) {
+            offered.size = size;
+            host_.send(Message::OfferTexts, &offered);
+            host_.send(Message::LanguageChanged);
+            auto* find =
+                ScriptedHost::child<QLineEdit>(ScriptedHost::window("VLK_Widget_Config"), "lineEdit_Find");
+            find->clear();
+            QTest::keyClicks(find, "gauge of ru");
+            const QString first =
+                ScriptedHost::child<QListWidget>(find->window(), "listWidget_Found")->item(0)->text();
+            find->clear();
+            return first;
+        };
+        host_.open({});
+        offered.fill = [](void*, const char* language, const char* key, QString* text) {
+            if (qstrcmp(key, "cfgt3_005") == 0)
+                *text = QString("Gauge of ") + language;
+        };
+        QLocale::setDefault(QLocale("en"));
+        QCOMPARE(hits(sizeof offered - 1), QString("rev_127"));
+        QVERIFY(hits(sizeof offered).contains("cfgt3_005"));
+        offered.fill = nullptr;
+        QCOMPARE(hits(sizeof offered), QString("rev_127"));
+        host_.send(Message::OfferTexts);
+        host_.send(Message::CloseWindows);
     }
 
     void balanceCodeFollowsFileAndConnection()

@@ -6,6 +6,7 @@
 #include "dialog/widget_config_full.h"
 #include "link/messages.h"
 #include "review/recovery.h"
+#include "settings/kinds/mask.h"
 #include "support/device.h"
 #include "support/files.h"
 #include "support/full_disk.h"
@@ -30,7 +31,8 @@ private Q_SLOTS:
     }
     void cleanup() { dialog_.reset(); }
 
-    // After each edit, whatever it pulls along, undo and redo bring the bytes of the file back.
+    // VLK_EDITS: how many. After each edit, whatever it pulls along, undo and redo bring the bytes of the
+    // file back.
     void editsAtRandom()
     {
         std::mt19937 random(7106);
@@ -40,7 +42,8 @@ private Q_SLOTS:
         const auto pages = history().pages();
         QByteArray before = saved();
         QPair<int, int> last;
-        for (int round = 0; round < 500; ++round) {
+        const int rounds = qEnvironmentVariableIntValue("VLK_EDITS");
+        for (int round = 0; round < (rounds > 0 ? rounds : 500); ++round) {
             const int place = below(10);
             vlk::PageSettings& page = *pages[place];
             const int row = below(page.values().count());
@@ -99,6 +102,27 @@ private Q_SLOTS:
         }
     }
 
+    // Each difference on its own, until nothing differs.
+    void oneByOne()
+    {
+        const QByteArray before = saved();
+        std::mt19937 random(7106);
+        for (int round = 0; round < 300; ++round) {
+            vlk::PageSettings& page = *history().pages()[random() % 10];
+            const int row = static_cast<int>(random() % static_cast<unsigned>(page.values().count()));
+            const QStringList samples = samplesOf(page.values().setting(row));
+            page.binder().set(row,
+                              samples[static_cast<int>(random() % static_cast<unsigned>(samples.size()))]);
+        }
+        history().settle();
+        QVERIFY(dialog_->review().edited() > 20);
+        for (int tries = 0; dialog_->review().edited() > 0 && tries < 1000; ++tries) {
+            const vlk::review::Difference first = dialog_->review().differences().all().front();
+            dialog_->review().takeOver({first.key}, [] { return QString(); });
+        }
+        QCOMPARE(saved(), before);
+    }
+
     // Typing into one field is one step; a field in which something is being typed takes that back alone.
     void undoByKeys()
     {
@@ -116,6 +140,146 @@ private Q_SLOTS:
         QCOMPARE(port->value(), was);
         QTest::keyClick(dialog_.get(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
         QCOMPARE(port->value(), 6666);
+    }
+
+    // In a line too: first what is being typed there, then the last step, wherever it was.
+    void undoInALine()
+    {
+        auto* name = child<QLineEdit>("lineEdit_Name");
+        auto* port = child<QSpinBox>("GPRSSrv_spinBox_Port_Main");
+        const QString was = name->text();
+        type(name, "KAMAZ");
+        name->setFocus();
+        name->selectAll();
+        QTest::keyClicks(name, "MAZ");
+        QTest::keyClick(name, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(name->text(), QString("KAMAZ"));
+        QTest::keyClick(name, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(name->text(), QString("MAZ"));
+        QTest::keyClick(name, Qt::Key_Z, Qt::ControlModifier);
+        QTest::keyClick(name, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(name->text(), was);
+        const int before = port->value();
+        port->setFocus();
+        port->selectAll();
+        QTest::keyClicks(port, "55");
+        QTest::keyClick(port, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(port->text(), QString::number(before));
+        QVERIFY(!history().canUndo());
+    }
+
+    // At what differs, and gone with the difference; the tab tells how many there are.
+    void marksAndTheirMenu()
+    {
+        const QByteArray before = saved();
+        auto* port = child<QSpinBox>("GPRSSrv_spinBox_Port_Main");
+        auto* tabs = child<QTabWidget>("tabWidget");
+        QCOMPARE(tabs->tabToolTip(0), QString());
+        type(port, "5555");
+        auto* mark = child<QWidget>("mark_GPRSSrv_spinBox_Port_Main");
+        QVERIFY(mark->isVisible() && port->toolTip().contains("rev_160"));
+        QCOMPARE(port->accessibleDescription(), mark->toolTip());
+        QCOMPARE(tabs->tabToolTip(0), QString("rev_161: 1"));
+        port->setToolTip("its own");
+        QVERIFY(port->toolTip().startsWith("rev_160") && port->toolTip().endsWith("its own"));
+        auto* address = child<QLineEdit>("GPRSSrv_lineEdit_IP_DNS_Main");
+        type(address, "gps.example.com");
+        // The menu of a line and of a number box is kept.
+        QVERIFY(choose(address, "action_BringBack") > 5);
+        QVERIFY(history().undoText().startsWith("rev_166: "));
+        QVERIFY(choose(port, "action_CopyKey") > 5);
+        QCOMPARE(QApplication::clipboard()->text(), QString("TRANS/SRV1/port"));
+        auto* caption = captionOf(port);
+        QCOMPARE(choose(caption, "action_BringBack"), 3);
+        QCOMPARE(saved(), before);
+        QVERIFY(!mark->isVisible() && port->toolTip() == "its own");
+        QCOMPARE(tabs->tabToolTip(0), QString());
+        history().undo();
+        QVERIFY(mark->isVisible());
+        QVERIFY(choose(port, "action_Default") > 5);
+        QCOMPARE(saved(), before);
+        QVERIFY(history().undoText().startsWith("rev_167: "));
+    }
+
+    // Fields of a record have a mark and a menu each, and are found one by one.
+    void boxesOfTheRecord()
+    {
+        const QByteArray before = saved();
+        vlk::PageSettings& page = *history().pages()[1];
+        const int row = page.rowAt("ZETA/mask");
+        const vlk::MaskField& field = page.values().setting(row).as<vlk::Mask>()->fields[63];
+        auto* box = child<QCheckBox>(qPrintable(vlk::numberedName(field.widget, field.number)));
+        auto* find = child<QLineEdit>("lineEdit_Find");
+        find->setFocus();
+        QTest::keyClicks(find, vlk::fieldText(field));
+        const QString line = child<QListWidget>("listWidget_Found")->item(0)->text();
+        QVERIFY2(line.contains(vlk::fieldText(field) + ":  "), qPrintable(line));
+        QTest::keyClick(find, Qt::Key_Return);
+        QVERIFY(box->isVisible() && box->hasFocus());
+        QTRY_VERIFY(box->parentWidget()->findChild<QFrame*>("frame_Found"));
+        QCOMPARE(child<QFrame>("frame_Found")->geometry().center(), box->geometry().center());
+        QTest::keyClick(box, Qt::Key_Space);
+        QCoreApplication::processEvents();
+        auto* mark = box->parentWidget()->findChild<QWidget*>("mark_" + box->objectName());
+        QVERIFY(mark && mark->isVisible());
+        QCOMPARE(choose(box, "action_BringBack"), 3);
+        QCOMPARE(saved(), before);
+        QVERIFY(!mark->isVisible());
+    }
+
+    // Other values come while it is loading: a step taken back meanwhile would mix both.
+    void undoWhileLoading()
+    {
+        const QByteArray before = saved();
+        type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
+        connect(history().pages()[3], &vlk::PageSettings::shown, dialog_.get(), [this] { history().undo(); });
+        open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml");
+        QCOMPARE(saved(), before);
+        QVERIFY(!history().canUndo() && !history().canRedo());
+    }
+
+    void languageWithThePanelOpen()
+    {
+        struct Other : QTranslator
+        {
+            QString translate(const char*, const char* key, const char*, int) const override
+            {
+                return QStringLiteral("other ") + key;
+            }
+        } other;
+        type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
+        child<QToolButton>("toolButton_Differences")->click();
+        auto* table = child<QTableView>("tableView_Differences");
+        const QString page = table->model()->index(0, 0).data().toString();
+        QCoreApplication::installTranslator(&other);
+        dialog_->retranslate();
+        QVERIFY(table->isVisible());
+        QCOMPARE(table->model()->index(0, 0).data().toString(), "other " + page);
+        QVERIFY(child<QWidget>("mark_GPRSSrv_spinBox_Port_Main")->toolTip().startsWith("other "));
+        QCoreApplication::removeTranslator(&other);
+        dialog_->retranslate();
+        QCOMPARE(table->model()->index(0, 0).data().toString(), page);
+    }
+
+    // Which panel was open, and its height.
+    void panelIsKept()
+    {
+        const QTemporaryDir folder;
+        const QString here = QDir::currentPath();
+        QDir(folder.path()).mkpath("Data/XML");
+        QDir::setCurrent(folder.path());
+        child<QToolButton>("toolButton_Advice")->click();
+        auto* edge = child<QWidget>("edge_Advice");
+        QTest::mousePress(edge, Qt::LeftButton, {}, {20, 2});
+        QTest::mouseMove(edge, {20, -18});
+        QTest::mouseRelease(edge, Qt::LeftButton, {}, {20, -18});
+        const int height = child<QWidget>("widget_Advice")->height();
+        dialog_ = std::make_unique<VLK_Widget_Config>();
+        open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml");
+        QVERIFY(child<QWidget>("widget_Advice")->isVisible() &&
+                child<QToolButton>("toolButton_Advice")->isChecked());
+        QCOMPARE(child<QWidget>("widget_Advice")->height(), height);
+        QDir::setCurrent(here);
     }
 
     void differencesAreBroughtBack()
@@ -168,8 +332,12 @@ private Q_SLOTS:
     {
         type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
         const QByteArray full = saved();
+        child<QToolButton>("toolButton_Differences")->click();
         dialog_->switchToQuick();
+        QTRY_COMPARE(child<QTableView>("tableView_Differences")->model()->rowCount(),
+                     dialog_->review().edited());
         QVERIFY(dialog_->review().edited() > 1);
+        QVERIFY(!dialog_->review().listed().front().path.startsWith("TRANS"));
         QTRY_VERIFY(child<QToolButton>("toolButton_Undo")->isVisible());
         history().undo();
         QCOMPARE(saved(), full);
@@ -360,14 +528,20 @@ private Q_SLOTS:
         QVERIFY(!list->isVisible());
     }
 
-    // Without texts a caption is its key.
+    // Without texts a caption is its key; the host gives it words of the other language.
     void findsASetting()
     {
+        device_.texts = [](const QString& language, const QString& key) {
+            return key == "cfgt3_005" ? "Speed in " + language : key;
+        };
         QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
         auto* find = child<QLineEdit>("lineEdit_Find");
         QVERIFY(find->hasFocus());
-        QTest::keyClicks(find, "TRACK/POINTS/maxSpeed");
         auto* list = child<QListWidget>("listWidget_Found");
+        QTest::keyClicks(find, "speed in");
+        QVERIFY(list->count() >= 1 && list->item(0)->text().contains("cfgt3_005"));
+        find->clear();
+        QTest::keyClicks(find, "TRACK/POINTS/maxSpeed");
         QVERIFY(list->isVisible() && list->count() >= 1);
         QTest::keyClick(find, Qt::Key_Return);
         QVERIFY(!list->isVisible());
@@ -486,6 +660,36 @@ private:
         QTest::keyClicks(field, keys);
         QTest::keyClick(field, Qt::Key_Tab);
         QCoreApplication::processEvents();
+    }
+
+    QLabel* captionOf(const QWidget* field) const
+    {
+        const auto labels = dialog_->findChildren<QLabel*>();
+        const auto found = std::ranges::find(labels, field, &QLabel::buddy);
+        return found == labels.end() ? nullptr : *found;
+    }
+    // Opens the menu there and chooses one of its entries; gives their number.
+    static int choose(QWidget* widget, const char* action)
+    {
+        int count = 0;
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, [&] {
+            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            if (!menu)
+                return;
+            timer.stop();
+            count = menu->actions().size();
+            if (auto* entry = menu->findChild<QAction*>(action))
+                entry->trigger();
+            menu->close();
+        });
+        timer.start(20);
+        QContextMenuEvent event(QContextMenuEvent::Mouse, widget->rect().center(),
+                                widget->mapToGlobal(widget->rect().center()));
+        QApplication::sendEvent(widget, &event);
+        (void)QTest::qWaitFor([&] { return count > 0; });
+        QCoreApplication::processEvents();
+        return count;
     }
 
     QTemporaryDir folder_;

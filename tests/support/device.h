@@ -34,9 +34,14 @@ public:
     void setLiveOwner(int /*owner*/) override {}
     void showHelp(const QString& /*page*/) override {}
     void showText(const QString& /*title*/, const QString& /*html*/) override {}
+    vlk::TextSource textsIn(const char* language) const override
+    {
+        return texts ? [this, language](const char* key) { return texts(language, key); } : vlk::TextSource();
+    }
 
     quint64 capabilities = 0;
     bool confirms = false;
+    std::function<QString(QString language, QString key)> texts;
 
 private:
     vlk::HostCallback callback_ = nullptr;

@@ -52,6 +52,9 @@ private Q_SLOTS:
         QCOMPARE(workbench::text("wb_help_back"), QStringLiteral("Back"));
         QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Cancel"));
         QCOMPARE(workbench::text("no_such_key"), QStringLiteral("no_such_key"));
+        QCOMPARE(languages.textIn("ru", "wb_help_back"), QStringLiteral("Назад"));
+        QVERIFY(languages.textIn("ru", "no_such_key").isNull() &&
+                languages.textIn("xx", "wb_help_back").isNull());
         QVERIFY(!languages.set(QStringLiteral("xx")));
         QCOMPARE(languages.current(), QStringLiteral("en"));
     }

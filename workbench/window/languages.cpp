@@ -36,6 +36,14 @@ bool Languages::set(const QString& code)
     return true;
 }
 
+QString Languages::textIn(const QString& code, const char* key)
+{
+    const auto [texts, isNew] = others_.try_emplace(code);
+    if (isNew && isKnown(code))
+        texts->second.load(code, sharedFolder(QStringLiteral("translations")));
+    return texts->second.translate("", key);
+}
+
 QString text(const char* key)
 {
     return QCoreApplication::translate("", key);

@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <QTranslator>
 
+#include <map>
 #include <memory>
 
 namespace workbench {
@@ -28,11 +29,14 @@ public:
     QString current() const { return current_; }
     // False when the texts of that language are missing; then nothing changes.
     bool set(const QString& code);
+    // Of a key in any language, also one that is not in use; null where it has none.
+    QString textIn(const QString& code, const char* key);
 
 private:
     std::unique_ptr<KeyTranslator> texts_;
     std::unique_ptr<QTranslator> dialogs_;
     QString current_;
+    std::map<QString, KeyTranslator> others_; // made when they are asked for
 };
 
 // The text of a key in the language in use.

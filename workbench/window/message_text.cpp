@@ -160,6 +160,11 @@ constexpr RecordRow records[] = {
              QStringLiteral("outcome=%1 changes=%2 misfits=%3").arg(r.outcome).arg(r.changes).arg(r.misfits),
              {}};
      }},
+    {Message::OfferTexts,
+     [](const void* p) -> MessageText {
+         const auto& r = as<OfferedTexts>(p);
+         return {QStringLiteral("offered=%1").arg(r.fill ? 1 : 0), {}};
+     }},
     {Message::TachographFileRequest,
      [](const void* p) -> MessageText {
          const auto& r = as<szQueryTaho>(p);

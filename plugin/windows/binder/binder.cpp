@@ -176,6 +176,7 @@ void Binder::join(QWidget* form)
         }
     }
     evaluateRules();
+    Q_EMIT joined();
 }
 
 void Binder::dress()
@@ -318,25 +319,56 @@ void Binder::logNews()
     }
 }
 
-QWidget* Binder::widgetOf(int row, int part) const
+std::vector<Binder::Place> Binder::placesOf(int row) const
 {
     const Setting& setting = values_.setting(row);
     const Numbers numbers = setting.base().numbers;
-    QVector<QWidget*> boxes;
-    const auto add = [&](const Name& name) { boxes << forms_.find(name, numbers); };
+    std::vector<Place> places;
+    const auto add = [&](QWidget* widget, int part) {
+        if (widget)
+            places.push_back({widget, part});
+    };
+    const auto find = [&](const Name& name) { return forms_.find(name, numbers); };
+    const Shown* shown = setting.shown();
+    if (QWidget* whole = shown ? find(shown->widget) : nullptr) {
+        add(whole, -1);
+        QHash<QString, QWidget*> boxes;
+        const auto* mask = setting.as<Mask>();
+        for (QWidget* box : mask ? whole->findChildren<QWidget*>() : QList<QWidget*>())
+            boxes.insert(box->objectName(), box);
+        for (std::size_t part = 0; mask && part < mask->fields.size(); ++part) {
+            const MaskField& field = mask->fields[part];
+            add(boxes.value(numberedName(field.widget, field.number)), static_cast<int>(part));
+        }
+    }
     std::visit(
         [&](const auto& kind) {
-            if constexpr (requires { eachBox(kind, add); })
-                eachBox(kind, add);
+            int part = 0;
+            if constexpr (std::is_same_v<std::decay_t<decltype(kind)>, Digits>) {
+                for (const Position& position : kind.positions) {
+                    add(find(position.widget), part);
+                    add(find(position.box), part++);
+                }
+            } else if constexpr (requires { kind.companion; }) {
+                if (kind.companion)
+                    add(forms_.find(numberedName(kind.widget.form(), numbers),
+                                    numberedName(kind.companion, numbers), numbers.outer),
+                        -1);
+            } else if constexpr (requires { eachBox(kind, find); }) {
+                eachBox(kind, [&](const Name& name) { add(find(name), -1); });
+            }
         },
         setting.kind);
-    if (part >= 0 && part < boxes.size() && boxes[part])
-        return boxes[part];
-    const Shown* shown = setting.shown();
-    QWidget* widget = shown ? forms_.find(shown->widget, numbers) : nullptr;
-    for (QWidget* box : boxes)
-        widget = widget ? widget : box;
-    return widget;
+    return places;
+}
+
+QWidget* Binder::widgetOf(int row, int part) const
+{
+    const std::vector<Place> places = placesOf(row);
+    const auto found = std::ranges::find(places, part, &Place::part);
+    if (found != places.end())
+        return found->widget;
+    return places.empty() ? nullptr : places.front().widget;
 }
 
 void Binder::forget()

@@ -64,7 +64,15 @@ public:
     // Rows whose widgets hold another value than the settings.
     QStringList disagreements() const;
 
-    // Of one with many boxes that of a part. Null where its form is not there.
+    // The widgets that show a setting, each with the part of it that it shows, counted as in review::Hit; -1
+    // for the whole. Those whose forms are not there are left out.
+    struct Place
+    {
+        QWidget* widget;
+        int part;
+    };
+    std::vector<Place> placesOf(int row) const;
+    // The first one of the part, else the first one. Null where there is none.
     QWidget* widgetOf(int row, int part = -1) const;
 
     const Values& values() const override { return values_; }
@@ -77,6 +85,8 @@ public:
 Q_SIGNALS:
     // A value changed by an edit of the user or by a rule that it ran. The path is that below the section.
     void changed(const QString& path);
+    // Forms have come: settings have widgets that had none.
+    void joined();
 
 private:
     // A widget that rules enable or show; all of them have to allow it. Its label is enabled with it.
