@@ -13,6 +13,7 @@
 #include "link/device.h"
 #include "link/requests.h"
 #include "settings/all_settings.h"
+#include "typing/area_keys.h"
 #include "typing/kept_palette.h"
 #include "typing/typed_entry.h"
 #include "windows/fit_to_screen.h"
@@ -21,6 +22,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QLayout>
+#include <QPushButton>
 
 VLK_Widget_Config::VLK_Widget_Config(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
@@ -66,6 +68,7 @@ void VLK_Widget_Config::addReview()
     };
     connect(ui_->stackedWidget, &QStackedWidget::currentChanged, this, place);
     place();
+    new vlk::AreaKeys(this, [this] { return areas(); });
     connect(bar_, &vlk::ReviewBar::panelRequested, this, &VLK_Widget_Config::showPanel);
     connect(panel_, &vlk::ReviewPanel::closed, this, [this] { showPanel(vlk::ReviewBar::None); });
     connect(advice_, &vlk::AdvicePanel::closed, this, [this] { showPanel(vlk::ReviewBar::None); });
@@ -124,6 +127,23 @@ QStringList VLK_Widget_Config::about() const
         lines << tr(isOfTracker_ || !isAttached ? "rev_224" : "rev_225").arg(unit.join(QStringLiteral(", ")));
     }
     return lines;
+}
+
+std::vector<QWidgetList> VLK_Widget_Config::areas() const
+{
+    const QWidgetList panels{panel_, advice_};
+    QWidgetList content;
+    QWidgetList buttons;
+    const QWidget* window = isQuick() ? static_cast<QWidget*>(lightWindow_) : fullWindow_;
+    for (QWidget* part : window->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (part == bar_ || panels.contains(part))
+            continue;
+        // Some stand in a frame.
+        const bool isButton = qobject_cast<QPushButton*>(part) ||
+                              part->findChild<QPushButton*>(QString(), Qt::FindDirectChildrenOnly);
+        (isButton ? buttons : content).append(part);
+    }
+    return {{bar_}, content, panels, buttons};
 }
 
 void VLK_Widget_Config::showPanel(vlk::ReviewBar::Panel panel)

@@ -64,6 +64,8 @@ private:
     void showFull();
     void showQuick();
     void addReview();
+    // That F6 goes to.
+    std::vector<QWidgetList> areas() const;
     void showPanel(vlk::ReviewBar::Panel panel);
     void addDocuments();
     void showReport();
