@@ -48,6 +48,12 @@ VLK_Form_Fuel_Sensor::VLK_Form_Fuel_Sensor(int kind, const QString& name, const 
     addClipboardActions();
 
     using Form = VLK_Form_Fuel_Sensor;
+    connect(ui_->lineEdit_Name, &QLineEdit::textEdited, this, &Form::typeName);
+    connect(ui_->lineEdit_Name, &QLineEdit::editingFinished, this, [this] {
+        if (ui_->lineEdit_Name->isModified())
+            Q_EMIT signal_Edited();
+        ui_->lineEdit_Name->setModified(false);
+    });
     connect(ui_->lineEdit_Volume, &QLineEdit::textChanged, this, &Form::slot_textChanged_LineEdit_Volume);
     connect(ui_->lineEdit_Param, &QLineEdit::textChanged, this, &Form::slot_textChanged_LineEdit_Param);
     connect(ui_->tableWidget, &QTableWidget::cellChanged, this, &Form::slot_CellChanged_Table);
@@ -117,6 +123,7 @@ void VLK_Form_Fuel_Sensor::retranslate()
     paste_->setText(tr("cfgt6_402"));
     offerName(offeredName_);
     showCaptions();
+    ui_->tableWidget->markRepeats(tr("tmiw_269"), tr("tmiw_270"));
     showFallingPoints();
     if (report_)
         report_->retranslate();
@@ -159,6 +166,7 @@ void VLK_Form_Fuel_Sensor::clearLiveValue()
 void VLK_Form_Fuel_Sensor::clearAll()
 {
     ui_->lineEdit_Name->clear();
+    isNameTyped_ = false;
     clearRows();
 }
 
@@ -179,6 +187,14 @@ void VLK_Form_Fuel_Sensor::askForVolume()
     // Cleared by clear() it would count as typed, and Escape would bring the last volume back.
     ui_->lineEdit_Volume->setText({});
     ui_->lineEdit_Volume->setFocus();
+}
+
+// What is told of it waits until the name is typed.
+void VLK_Form_Fuel_Sensor::typeName(const QString& name)
+{
+    isNameTyped_ = !name.isEmpty();
+    edited_ = hasRows() || isNameTyped_;
+    Q_EMIT signal_Changed();
 }
 
 void VLK_Form_Fuel_Sensor::offerName(const QString& name)
@@ -244,7 +260,9 @@ void VLK_Form_Fuel_Sensor::rebuildPoints()
 {
     points_ = ui_->tableWidget->points();
     graph_->setPoints(points_);
+    ui_->tableWidget->markRepeats(tr("tmiw_269"), tr("tmiw_270"));
     showFallingPoints();
+    Q_EMIT signal_Changed();
 }
 
 void VLK_Form_Fuel_Sensor::showFallingPoints()
@@ -273,11 +291,13 @@ void VLK_Form_Fuel_Sensor::setEdited(bool edited)
 {
     edited_ = edited;
     Q_EMIT signal_Edited();
+    Q_EMIT signal_Changed();
 }
 
-QString VLK_Form_Fuel_Sensor::keep(const QString& folder, const QString& vehicle, const QDateTime& time) const
+QString VLK_Form_Fuel_Sensor::keep(const QString& folder, const QString& vehicle, const QDateTime& time,
+                                   const QString& path) const
 {
-    return vlk::keepTable(folder, name_, vehicle, ui_->lineEdit_Name->text(), rows(), time);
+    return vlk::keepTable(folder, name_, vehicle, ui_->lineEdit_Name->text(), rows(), time, path);
 }
 
 bool VLK_Form_Fuel_Sensor::saveCsv(const QString& path) const
@@ -287,20 +307,27 @@ bool VLK_Form_Fuel_Sensor::saveCsv(const QString& path) const
 
 void VLK_Form_Fuel_Sensor::loadCsv(const QString& path)
 {
-    const std::optional<QByteArray> content = vlk::readFuelFile(path);
-    if (!content)
-        return;
-    if (const auto rows = vlk::readFuelCsv(*content)) {
+    if (const auto rows = vlk::readFuelCsvFile(path)) {
         addRows(*rows);
         askForVolume();
-    } else {
-        qCWarning(vlk::lcFuel).noquote() << path << "holds no calibration table";
     }
+}
+
+bool VLK_Form_Fuel_Sensor::replaceByCsv(const QString& path)
+{
+    const auto rows = vlk::readFuelCsvFile(path);
+    if (!rows)
+        return false;
+    clearRows();
+    addRows(*rows);
+    setDirty(hasRows());
+    return true;
 }
 
 void VLK_Form_Fuel_Sensor::saveXml(CXmlSection* section)
 {
     vlk::putFuelTable(section, name_, ui_->lineEdit_Name->text(), rows());
+    isNameTyped_ = false;
     setDirty(false);
     setEdited(false);
 }
@@ -314,6 +341,7 @@ void VLK_Form_Fuel_Sensor::loadXml(CXmlSection* section)
     }
     clearRows();
     ui_->lineEdit_Name->setText(vlk::fuelTableName(section));
+    isNameTyped_ = false;
     offerName(vlk::fuelTableWrittenName(section));
     addRows(*rows);
 }
@@ -351,6 +379,7 @@ void VLK_Form_Fuel_Sensor::pasteRows()
     if (PastePreview(pasted, texts, this).exec() != QDialog::Accepted)
         return;
     addRows(pasted.rows);
+    ui_->tableWidget->showAdded();
     setDirty(true);
 }
 
@@ -381,6 +410,7 @@ void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Add()
     if (!vlk::isPoint(row) || vlk::isUnfit(ui_->lineEdit_Volume) || vlk::isUnfit(ui_->lineEdit_Param))
         return;
     addRows({row});
+    ui_->tableWidget->showAdded();
     askForVolume();
     setDirty(true);
 }
@@ -395,12 +425,14 @@ void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Del()
     ui_->pushButton_Clear->setEnabled(anyLeft);
     if (!anyLeft)
         setDirty(false);
-    setEdited(anyLeft);
+    setEdited(anyLeft || isNameTyped_);
     rebuildPoints();
 }
 
 void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Clear()
 {
-    if (vlk::agrees(this, tr("cfgt6_051"), "wrd_002"))
-        clearRows();
+    if (!vlk::agrees(this, tr("cfgt6_051"), "wrd_002"))
+        return;
+    clearRows();
+    setEdited(isNameTyped_);
 }
