@@ -73,6 +73,8 @@ void VLK_Widget_Tmi_View::connectControls()
     connect(ui_->checkBox_Get_Auto_TMI, &QCheckBox::stateChanged, this, &View::slot_stateChanged_GetAutoTmi);
     connect(ui_->horizontalSlider_Auto_Tmi, &QSlider::valueChanged, this,
             &View::slot_valueChanged_horizontalSlider_Auto_Tmi);
+    for (const QCheckBox* server : {ui_->checkBox_Server1, ui_->checkBox_Server2, ui_->checkBox_Server3})
+        connect(server, &QCheckBox::clicked, this, [this] { tellNoServer(false); });
     connect(this, &QDialog::finished, this, &View::slot_finished_Window);
 }
 
@@ -215,7 +217,7 @@ void VLK_Widget_Tmi_View::slot_valueChanged_horizontalSlider_Auto_Tmi(int second
 
 void VLK_Widget_Tmi_View::slot_pressed_Clear()
 {
-    clearing_.start();
+    tellNoServer(!clearing_.start());
 }
 
 void VLK_Widget_Tmi_View::slot_pressed_RFID()
