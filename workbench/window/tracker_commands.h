@@ -46,6 +46,8 @@ private:
     };
 
     void carryOutNext();
+    // With the servers of the sequence by name.
+    QString clearQuestion(int first);
     void clear(const Command& command);
     void setMileage(const Command& command);
     void switchOutput(const Command& command);
