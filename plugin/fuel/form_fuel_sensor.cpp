@@ -150,6 +150,8 @@ void VLK_Form_Fuel_Sensor::setParamEditable(bool editable)
 {
     ui_->lineEdit_Param->setReadOnly(!editable);
     vlk::showAsPresent(ui_->lineEdit_Param, !editable);
+    // While the sensor says nothing.
+    ui_->lineEdit_Param->setPlaceholderText(editable ? QString() : QStringLiteral("–"));
 }
 
 void VLK_Form_Fuel_Sensor::setLiveValue(int raw)

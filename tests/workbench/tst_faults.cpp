@@ -527,11 +527,12 @@ private Q_SLOTS:
                          isInBox || said == QLatin1String("Ready") ? QString() : bench.status());
         }
         if (step == Clear || step == Mileage) {
-            const QString question = step == Clear
-                                         ? QStringLiteral("still to send to: server 1, server 3. They")
-                                     : faults.silence || faults.shortAnswers || faults.garbledAnswers
-                                         ? QStringLiteral("could not be read from the tracker. ")
-                                         : QStringLiteral("mileage is ");
+            const QString question =
+                step == Clear ? QStringLiteral(
+                                    "still to send to: server 1 (telemetry.example.com:4000), server 3. They")
+                : faults.silence || faults.shortAnswers || faults.garbledAnswers
+                    ? QStringLiteral("could not be read from the tracker. ")
+                    : QStringLiteral("mileage is ");
             QCOMPARE(bench.boxes.filter(question).size(), step == Mileage && faults.unplug ? 0 : 1);
             QVERIFY(bench.over != &bench.window);
         }

@@ -42,6 +42,9 @@ void FaultsWindow::setTrouble(const QString& text)
     trouble_->setText(text);
     trouble_->setVisible(!text.isEmpty());
     grow();
+    // The owner's notice of it has come up over this window.
+    if (isVisible())
+        raise();
 }
 
 // The note may need room, more of it in another language.

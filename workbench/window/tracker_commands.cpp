@@ -98,8 +98,13 @@ const char* TrackerCommands::whyNotNow()
 bool TrackerCommands::isAllowed(const QString& question, const char* verb)
 {
     const char* reason = whyNotNow();
-    if (reason == nullptr && mayDestroy_)
-        reason = mayDestroy_(question, text(verb)) ? whyNotNow() : "wb_command_cancelled";
+    if (reason == nullptr && mayDestroy_) {
+        if (!mayDestroy_(question, text(verb))) {
+            Q_EMIT done(saying("wb_command_cancelled"));
+            return false;
+        }
+        reason = whyNotNow();
+    }
     if (reason != nullptr)
         Q_EMIT failed(saying(reason));
     return reason == nullptr;

@@ -73,8 +73,6 @@ void VLK_Widget_Tmi_View::connectControls()
     connect(ui_->checkBox_Get_Auto_TMI, &QCheckBox::stateChanged, this, &View::slot_stateChanged_GetAutoTmi);
     connect(ui_->horizontalSlider_Auto_Tmi, &QSlider::valueChanged, this,
             &View::slot_valueChanged_horizontalSlider_Auto_Tmi);
-    for (const QCheckBox* server : {ui_->checkBox_Server1, ui_->checkBox_Server2, ui_->checkBox_Server3})
-        connect(server, &QCheckBox::clicked, this, [this] { tellNoServer(false); });
     connect(this, &QDialog::finished, this, &View::slot_finished_Window);
 }
 
