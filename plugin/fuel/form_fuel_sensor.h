@@ -4,9 +4,10 @@
 // with the value that the sensor shows. Rows sort by volume. Texts of files and of the caller may have a
 // comma as decimal sign; cells have a point.
 //
-// "Dirty" are rows that were added or pasted and are in no XML file yet. A change of a cell does not count,
-// nor does the removal of single rows, nor a CSV file. "Edited" is a table without such rows in which cells
-// were changed, single rows removed or the name typed since it was saved or loaded.
+// "Dirty" are rows that were added, pasted or put in the place of others by a CSV file, and are in no XML
+// file yet. A change of a cell does not count, nor does the removal of single rows, nor the saving of a CSV
+// file. "Edited" is a table without such rows in which cells were changed, single rows removed or the name
+// typed since it was saved or loaded.
 
 #include "fuel/table/fuel_text.h"
 

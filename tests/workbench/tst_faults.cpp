@@ -534,7 +534,8 @@ private Q_SLOTS:
                     ? QStringLiteral("could not be read from the tracker. ")
                     : QStringLiteral("mileage is ");
             QCOMPARE(bench.boxes.filter(question).size(), step == Mileage && faults.unplug ? 0 : 1);
-            QVERIFY(bench.over != &bench.window);
+            // With the telemetry window gone the main one is in front.
+            QVERIFY(faults.unplug || bench.over != &bench.window);
         }
         if (step == Search && faults.unplug)
             QVERIFY(window->findChild<QProgressBar*>(QStringLiteral("progressBar_Find"))->isHidden());
