@@ -986,7 +986,7 @@
     <message id="cfgt6_402"><translation>Paste points</translation></message>
     <message id="cfgt6_403"><translation>The value falls while the volume rises. Check the points: %1&#160;l.</translation></message>
     <message id="cfgt6_404"><translation>Changed since it was saved</translation></message>
-    <message id="cfgt6_405"><translation>The table of %1 (%2) was changed on %3 and not saved.</translation></message>
+    <message id="cfgt6_405"><translation>The table of %1 (%2) was changed on %3 and not saved. Points: %4.</translation></message>
     <message id="cfgt6_406"><translation>Bring back</translation></message>
     <message id="cfgt6_407"><translation>Discard</translation></message>
     <message id="cfgt6_408"><translation>→ takes it</translation></message>
@@ -1619,6 +1619,19 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_263"><translation>No value</translation></message>
     <message id="tmiw_264"><translation>XML holds whole litres. Volumes that lost their fraction: %1. Excel (CSV) keeps it.</translation></message>
     <message id="tmiw_265"><translation>Row %1 holds &quot;%2&quot;, which is no number and counts as 0. Correct the cell or delete the row.</translation></message>
+    <message id="tmiw_266"><translation>The tracker was unplugged.</translation></message>
+    <message id="tmiw_267"><translation>Tick the servers whose records are to be cleared.</translation></message>
+    <message id="tmiw_268"><translation>Ctrl+S saves what was changed.</translation></message>
+    <message id="tmiw_269"><translation>The same volume as in the row above. In the tracker only the lower row counts.</translation></message>
+    <message id="tmiw_270"><translation>The same reading as in the row above, at another volume. Wait until the level settles, then measure again.</translation></message>
+    <message id="tmiw_271"><translation>you have no right to do this</translation></message>
+    <message id="tmiw_272"><translation>there is no room on the disk</translation></message>
+    <message id="tmiw_273"><translation>the disk can only be read</translation></message>
+    <message id="tmiw_274"><translation>there is no such file or folder</translation></message>
+    <message id="tmiw_275"><translation>the file is too large</translation></message>
+    <message id="tmiw_276"><translation>the disk reports an error</translation></message>
+    <message id="tmiw_277"><translation>it is a folder</translation></message>
+    <message id="tmiw_278"><translation>the name is too long</translation></message>
     <message id="tmizta_001"><translation>Test mode</translation></message>
     <message id="tmizta_002"><translation>Backup</translation></message>
     <message id="tmizta_003"><translation>Main</translation></message>
@@ -2031,7 +2044,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_cable_short"><translation>Tracker</translation></message>
     <message id="wb_clear_done"><translation>Records that were still to be sent have been cleared. Servers: %1.</translation></message>
     <message id="wb_clear_filter"><translation>Clear the filter</translation></message>
-    <message id="wb_clear_question"><translation>The tracker will forget the records that it has still to send to each server that is ticked, beginning with server %1. They cannot be brought back. Clear them?</translation></message>
+    <message id="wb_clear_question"><translation>The tracker will forget the records that it has still to send to: %1. They cannot be brought back. Clear them?</translation></message>
+    <message id="wb_clear_server"><translation>server %1</translation></message>
+    <message id="wb_clear_server_at"><translation>server %1 (%2)</translation></message>
     <message id="wb_clear_unknown"><translation>The answer to the clearing cannot be right. Servers: %1. Whether the records were cleared is not known; check the cable.</translation></message>
     <message id="wb_clear_verb"><translation>&amp;Clear</translation></message>
     <message id="wb_close_saving"><translation>A period is being saved. Closing ends the save, and the file will hold only what has come so far. Close?</translation></message>
@@ -2122,6 +2137,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_faults"><translation>Faults</translation></message>
     <message id="wb_faults_title"><translation>Simulated tracker</translation></message>
     <message id="wb_faults_window"><translation>&amp;Faults in a window of their own</translation></message>
+    <message id="wb_file_calibration"><translation>There is a calibration table in the file %1. It is loaded in the window for fuel sensors, which the telemetry window opens.</translation></message>
     <message id="wb_file_missing"><translation>There is no such file: %1</translation></message>
     <message id="wb_file_no_telemetry"><translation>There is no telemetry in the file %1: it is a configuration. Choose a telemetry file, or open it by the command for configurations.</translation></message>
     <message id="wb_file_unknown"><translation>This is neither a configuration nor a telemetry file: %1</translation></message>
@@ -2268,6 +2284,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_saved"><translation>Saved: %1</translation></message>
     <message id="wb_saved_changes"><translation>Saved: %1. Settings that differ from what was read: %2</translation></message>
     <message id="wb_saved_part"><translation>Saved in part: %1. It holds %2 of %3 records, until %4.</translation></message>
+    <message id="wb_saved_part_unplugged"><translation>The tracker was unplugged meanwhile.</translation></message>
     <message id="wb_search_bad"><translation>Message %1 from the tracker cannot be right, so how far the search has come is not known. Cancel it, check the cable and search again.</translation></message>
     <message id="wb_settings_damaged"><translation>The settings were damaged and have been put aside; the default values hold.</translation></message>
     <message id="wb_silence_again"><translation>No answer from the tracker since %1. It is asked again every %2&#160;s; check the cable.</translation></message>

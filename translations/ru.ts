@@ -986,7 +986,7 @@
     <message id="cfgt6_402"><translation>Вставить точки</translation></message>
     <message id="cfgt6_403"><translation>Показание падает с ростом объёма. Проверьте точки: %1&#160;л.</translation></message>
     <message id="cfgt6_404"><translation>Изменено после сохранения</translation></message>
-    <message id="cfgt6_405"><translation>Таблицу %1 (%2) изменили %3 и не сохранили.</translation></message>
+    <message id="cfgt6_405"><translation>Таблицу %1 (%2) изменили %3 и не сохранили. Точек: %4.</translation></message>
     <message id="cfgt6_406"><translation>Вернуть</translation></message>
     <message id="cfgt6_407"><translation>Удалить</translation></message>
     <message id="cfgt6_408"><translation>→ взять</translation></message>
@@ -1619,6 +1619,19 @@
     <message id="tmiw_263"><translation>Нет значения</translation></message>
     <message id="tmiw_264"><translation>В XML только целые литры. Объёмов, потерявших дробную часть: %1. Она сохранится в Excel (CSV).</translation></message>
     <message id="tmiw_265"><translation>В строке %1 стоит «%2»: это не число и считается нулём. Исправьте ячейку или удалите строку.</translation></message>
+    <message id="tmiw_266"><translation>Трекер отключён.</translation></message>
+    <message id="tmiw_267"><translation>Отметьте серверы, записи для которых нужно очистить.</translation></message>
+    <message id="tmiw_268"><translation>Изменённое сохранит Ctrl+S.</translation></message>
+    <message id="tmiw_269"><translation>Тот же объём, что строкой выше. В трекере считается только нижняя строка.</translation></message>
+    <message id="tmiw_270"><translation>То же показание, что строкой выше, при другом объёме. Дождитесь, пока уровень успокоится, и измерьте снова.</translation></message>
+    <message id="tmiw_271"><translation>нет прав доступа</translation></message>
+    <message id="tmiw_272"><translation>нет места на диске</translation></message>
+    <message id="tmiw_273"><translation>диск доступен только для чтения</translation></message>
+    <message id="tmiw_274"><translation>нет такого файла или папки</translation></message>
+    <message id="tmiw_275"><translation>файл слишком велик</translation></message>
+    <message id="tmiw_276"><translation>ошибка диска</translation></message>
+    <message id="tmiw_277"><translation>это папка</translation></message>
+    <message id="tmiw_278"><translation>слишком длинное имя</translation></message>
     <message id="tmizta_001"><translation>Режим тестирования</translation></message>
     <message id="tmizta_002"><translation>Резервный</translation></message>
     <message id="tmizta_003"><translation>Основной</translation></message>
@@ -2031,7 +2044,9 @@
     <message id="wb_cable_short"><translation>Трекер</translation></message>
     <message id="wb_clear_done"><translation>Неотправленные записи очищены. Серверы: %1.</translation></message>
     <message id="wb_clear_filter"><translation>Снять фильтр</translation></message>
-    <message id="wb_clear_question"><translation>Трекер забудет записи, которые ещё не отправил на каждый из отмеченных серверов, начиная с сервера %1. Вернуть их будет нельзя. Очистить?</translation></message>
+    <message id="wb_clear_question"><translation>Трекер забудет записи, которые ещё не отправил: %1. Вернуть их будет нельзя. Очистить?</translation></message>
+    <message id="wb_clear_server"><translation>сервер %1</translation></message>
+    <message id="wb_clear_server_at"><translation>сервер %1 (%2)</translation></message>
     <message id="wb_clear_unknown"><translation>Ответ на очистку неверен. Серверы: %1. Очищены ли записи, неизвестно; проверьте кабель.</translation></message>
     <message id="wb_clear_verb"><translation>О&amp;чистить</translation></message>
     <message id="wb_close_saving"><translation>Сохраняется период. Если закрыть программу, в файле будет только то, что успело прийти. Закрыть?</translation></message>
@@ -2122,6 +2137,7 @@
     <message id="wb_faults"><translation>Неисправности</translation></message>
     <message id="wb_faults_title"><translation>Имитатор трекера</translation></message>
     <message id="wb_faults_window"><translation>&amp;Неисправности в отдельном окне</translation></message>
+    <message id="wb_file_calibration"><translation>В файле %1 тарировочная таблица. Её загружают в окне датчиков топлива, которое открывается из окна телеметрии.</translation></message>
     <message id="wb_file_missing"><translation>Файла нет: %1</translation></message>
     <message id="wb_file_no_telemetry"><translation>В файле %1 нет телеметрии: это конфигурация. Выберите файл телеметрии или откройте его командой для конфигураций.</translation></message>
     <message id="wb_file_unknown"><translation>Это не файл конфигурации и не файл телеметрии: %1</translation></message>
@@ -2268,6 +2284,7 @@
     <message id="wb_saved"><translation>Сохранено: %1</translation></message>
     <message id="wb_saved_changes"><translation>Сохранено: %1. Отличий от прочитанного: %2</translation></message>
     <message id="wb_saved_part"><translation>Сохранено не целиком: %1. Записей в нём %2 из %3, до %4.</translation></message>
+    <message id="wb_saved_part_unplugged"><translation>Трекер во время сохранения отключили.</translation></message>
     <message id="wb_search_bad"><translation>Сообщение %1 от трекера неверно, поэтому неизвестно, как идёт поиск. Отмените его, проверьте кабель и начните поиск снова.</translation></message>
     <message id="wb_settings_damaged"><translation>Настройки программы были повреждены и отложены; действуют начальные значения.</translation></message>
     <message id="wb_silence_again"><translation>Ответа от трекера нет с %1. Запрос повторяется каждые %2&#160;с; проверьте кабель.</translation></message>

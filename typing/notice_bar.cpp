@@ -1,5 +1,6 @@
 #include "typing/notice_bar.h"
 
+#include "typing/area_keys.h"
 #include "typing/line_icon.h"
 
 #include <QAccessible>
@@ -47,7 +48,7 @@ NoticeBar::NoticeBar(QWidget* parent, const QString& name)
     setMinimumHeight(kHeight);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     connect(close_, &QToolButton::clicked, this, &NoticeBar::closeShown);
-    // A host's own notices on the window have the same key, and take turns with the bar.
+    // The window may have the same key for its areas.
     auto* keys = new QShortcut(Qt::Key_F6, this);
     connect(keys, &QShortcut::activated, this, &NoticeBar::toggleFocus);
     connect(keys, &QShortcut::activatedAmbiguously, this, &NoticeBar::toggleFocus);
@@ -185,11 +186,16 @@ void NoticeBar::refresh()
 
 void NoticeBar::toggleFocus()
 {
-    if (isAncestorOf(QApplication::focusWidget())) {
-        if (before_)
-            before_->setFocus();
-        return;
-    }
+    if (AreaKeys* areas = AreaKeys::of(window()))
+        areas->go(1);
+    else if (!isAncestorOf(QApplication::focusWidget()))
+        takeFocus();
+    else if (before_)
+        before_->setFocus();
+}
+
+void NoticeBar::takeFocus()
+{
     before_ = QApplication::focusWidget();
     QWidget* first = buttons_->isEmpty() ? close_ : buttons_->itemAt(0)->widget();
     first->setFocus(Qt::ShortcutFocusReason);

@@ -3,7 +3,7 @@
 // The bar at the top of a window's content in which the window tells what the user should know and may act
 // on: a mark, a sentence, at most two buttons and a cross. Of several notices the worst is on show, among
 // equals the one of the lowest number, or the newest, with "1 of 3" behind it. The bar takes the focus from
-// nobody; F6 goes to it, and back.
+// nobody; F6 goes to it, and back, or on where the window has more areas (area_keys.h).
 
 #include "typing/field_mark.h"
 
@@ -52,6 +52,8 @@ public:
     // Among equals the one that was told last is on show.
     void setNewestFirst() { isNewestFirst_ = true; }
     void retranslate();
+    // For its first button; where the bar goes, the focus goes back.
+    void takeFocus();
 
 Q_SIGNALS:
     // By the cross.

@@ -16,6 +16,7 @@
 #include "link/device.h"
 #include "link/requests.h"
 #include "settings/all_settings.h"
+#include "typing/area_keys.h"
 #include "typing/kept_palette.h"
 #include "typing/typed_entry.h"
 #include "windows/fit_to_screen.h"
@@ -25,6 +26,7 @@
 #include <QCryptographicHash>
 #include <QFileInfo>
 #include <QLayout>
+#include <QPushButton>
 
 namespace {
 
@@ -100,6 +102,7 @@ void VLK_Widget_Config::addReview()
     };
     connect(ui_->stackedWidget, &QStackedWidget::currentChanged, this, place);
     place();
+    new vlk::AreaKeys(this, [this] { return areas(); });
     connect(bar_, &vlk::ReviewBar::panelRequested, this, &VLK_Widget_Config::showPanel);
     for (vlk::ListPanel* panel : std::initializer_list<vlk::ListPanel*>{panel_, advice_}) {
         connect(panel, &vlk::ListPanel::closed, this, [this] { showPanel(vlk::ReviewBar::None); });
@@ -200,6 +203,23 @@ void VLK_Widget_Config::showKeptPanel()
         if (panel == which)
             widget->showNow();
     }
+}
+
+std::vector<QWidgetList> VLK_Widget_Config::areas() const
+{
+    const QWidgetList panels{panel_, advice_};
+    QWidgetList content;
+    QWidgetList buttons;
+    const QWidget* window = isQuick() ? static_cast<QWidget*>(lightWindow_) : fullWindow_;
+    for (QWidget* part : window->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (part == bar_ || part == unsaved_ || panels.contains(part))
+            continue;
+        // Some stand in a frame.
+        const bool isButton = qobject_cast<QPushButton*>(part) ||
+                              part->findChild<QPushButton*>(QString(), Qt::FindDirectChildrenOnly);
+        (isButton ? buttons : content).append(part);
+    }
+    return {{unsaved_}, {bar_}, content, panels, buttons};
 }
 
 void VLK_Widget_Config::showPanel(vlk::ReviewBar::Panel panel)

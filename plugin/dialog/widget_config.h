@@ -73,6 +73,8 @@ private:
     void addReview();
     void addKeeper();
     void write(const QString& path);
+    // That F6 goes to.
+    std::vector<QWidgetList> areas() const;
     void showPanel(vlk::ReviewBar::Panel panel);
     void addDocuments();
     void showReport();

@@ -1,5 +1,6 @@
 #include "fuel/calibration_table.h"
 
+#include "fuel/cell_mark.h"
 #include "fuel/fuelsensor_delegate.h"
 #include "fuel/fuelsensor_delegate_int.h"
 #include "fuel/table/fuel_sensors.h"
@@ -76,6 +77,7 @@ void CalibrationTable::addRows(const vlk::FuelRows& rows)
             auto* item = new VLK_TableWidgetItem_FuelSort(vlk::withDecimalPoint(text));
             item->setTextAlignment(Qt::AlignCenter);
             setItem(row, column, item);
+            added_ = item;
         }
         auto* mark = new QTableWidgetItem;
         mark->setFlags(Qt::ItemIsEnabled | Qt::ItemIsUserCheckable);
@@ -84,6 +86,21 @@ void CalibrationTable::addRows(const vlk::FuelRows& rows)
         ++row;
     }
     sortByVolume();
+}
+
+void CalibrationTable::markRepeats(const QString& ofVolume, const QString& ofValue)
+{
+    const QSignalBlocker quiet(this);
+    const auto repeats = [this](int row, Column column) {
+        const auto* above = row > 0 ? cell(row - 1, column) : nullptr;
+        const auto* item = cell(row, column);
+        return above && !above->isEmpty() && !item->isEmpty() && above->number() == item->number();
+    };
+    for (int row = 0; row < rowCount(); ++row) {
+        const bool isOfVolume = repeats(row, Volume);
+        markCell(cell(row, Volume), isOfVolume ? ofVolume : QString());
+        markCell(cell(row, Value), !isOfVolume && repeats(row, Value) ? ofValue : QString());
+    }
 }
 
 VLK_TableWidgetItem_FuelSort* CalibrationTable::cell(int row, Column column) const

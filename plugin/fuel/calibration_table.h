@@ -28,6 +28,10 @@ public:
     // Sorts once for all of them. cellChanged tells of no new cell.
     void addRows(const vlk::FuelRows& rows);
     void sortByVolume() { sortItems(Volume); }
+    // Scrolls to the row that was added last.
+    void showAdded() { scrollToItem(added_); }
+    // Marks a volume, or a value at another volume, that repeats the one above it, with a tool tip.
+    void markRepeats(const QString& ofVolume, const QString& ofValue);
     vlk::FuelRows rows() const;
     // Of the rows with both texts.
     vlk::FuelPoints points() const;
@@ -38,6 +42,8 @@ public:
 private:
     VLK_TableWidgetItem_FuelSort* cell(int row, Column column) const;
     bool isMarked(int row) const;
+
+    QTableWidgetItem* added_ = nullptr;
 };
 
 } // namespace vlk

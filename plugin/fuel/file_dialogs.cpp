@@ -40,10 +40,10 @@ QString askFuelFileToSave(QWidget* parent, const QString& caption, const QString
     return path;
 }
 
-QString askFuelFileToLoad(QWidget* parent, const QString& folder, const QString& suffix)
+QString askFuelFileToLoad(QWidget* parent, const QString& folder, const QStringList& suffixes)
 {
     return QFileDialog::getOpenFileName(parent, fuelWord("wrd_023"), startFolder(folder),
-                                        QLatin1String("*.") + suffix);
+                                        QLatin1String("*.") + suffixes.join(QLatin1String(";;*.")));
 }
 
 } // namespace vlk

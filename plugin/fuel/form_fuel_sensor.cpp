@@ -2,19 +2,12 @@
 
 #include "ui_VLK_Designer_Form_Fuel_Sensor.h"
 
-#include "fuel/calibration_sheet.h"
 #include "fuel/form_report_fuel.h"
 #include "fuel/fuel_number_line.h"
 #include "fuel/fuelsensor_graph.h"
-#include "fuel/paste_preview.h"
 #include "fuel/question.h"
-#include "fuel/table/fuel_document.h"
-#include "fuel/table/fuel_file.h"
-#include "fuel/table/fuel_log.h"
 #include "fuel/table/fuel_sensors.h"
-#include "fuel/table/kept_tables.h"
 #include "typing/present_value.h"
-#include "xml/xml_section.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -48,6 +41,12 @@ VLK_Form_Fuel_Sensor::VLK_Form_Fuel_Sensor(int kind, const QString& name, const 
     addClipboardActions();
 
     using Form = VLK_Form_Fuel_Sensor;
+    connect(ui_->lineEdit_Name, &QLineEdit::textEdited, this, &Form::typeName);
+    connect(ui_->lineEdit_Name, &QLineEdit::editingFinished, this, [this] {
+        if (ui_->lineEdit_Name->isModified())
+            Q_EMIT signal_Edited();
+        ui_->lineEdit_Name->setModified(false);
+    });
     connect(ui_->lineEdit_Volume, &QLineEdit::textChanged, this, &Form::slot_textChanged_LineEdit_Volume);
     connect(ui_->lineEdit_Param, &QLineEdit::textChanged, this, &Form::slot_textChanged_LineEdit_Param);
     connect(ui_->tableWidget, &QTableWidget::cellChanged, this, &Form::slot_CellChanged_Table);
@@ -117,6 +116,7 @@ void VLK_Form_Fuel_Sensor::retranslate()
     paste_->setText(tr("cfgt6_402"));
     offerName(offeredName_);
     showCaptions();
+    ui_->tableWidget->markRepeats(tr("tmiw_269"), tr("tmiw_270"));
     showFallingPoints();
     if (report_)
         report_->retranslate();
@@ -143,6 +143,8 @@ void VLK_Form_Fuel_Sensor::setParamEditable(bool editable)
 {
     ui_->lineEdit_Param->setReadOnly(!editable);
     vlk::showAsPresent(ui_->lineEdit_Param, !editable);
+    // While the sensor says nothing.
+    ui_->lineEdit_Param->setPlaceholderText(editable ? QString() : QStringLiteral("–"));
 }
 
 void VLK_Form_Fuel_Sensor::setLiveValue(int raw)
@@ -159,6 +161,7 @@ void VLK_Form_Fuel_Sensor::clearLiveValue()
 void VLK_Form_Fuel_Sensor::clearAll()
 {
     ui_->lineEdit_Name->clear();
+    isNameTyped_ = false;
     clearRows();
 }
 
@@ -179,6 +182,14 @@ void VLK_Form_Fuel_Sensor::askForVolume()
     // Cleared by clear() it would count as typed, and Escape would bring the last volume back.
     ui_->lineEdit_Volume->setText({});
     ui_->lineEdit_Volume->setFocus();
+}
+
+// What is told of it waits until the name is typed.
+void VLK_Form_Fuel_Sensor::typeName(const QString& name)
+{
+    isNameTyped_ = !name.isEmpty();
+    edited_ = hasRows() || isNameTyped_;
+    Q_EMIT signal_Changed();
 }
 
 void VLK_Form_Fuel_Sensor::offerName(const QString& name)
@@ -244,7 +255,9 @@ void VLK_Form_Fuel_Sensor::rebuildPoints()
 {
     points_ = ui_->tableWidget->points();
     graph_->setPoints(points_);
+    ui_->tableWidget->markRepeats(tr("tmiw_269"), tr("tmiw_270"));
     showFallingPoints();
+    Q_EMIT signal_Changed();
 }
 
 void VLK_Form_Fuel_Sensor::showFallingPoints()
@@ -273,49 +286,7 @@ void VLK_Form_Fuel_Sensor::setEdited(bool edited)
 {
     edited_ = edited;
     Q_EMIT signal_Edited();
-}
-
-QString VLK_Form_Fuel_Sensor::keep(const QString& folder, const QString& vehicle, const QDateTime& time) const
-{
-    return vlk::keepTable(folder, name_, vehicle, ui_->lineEdit_Name->text(), rows(), time);
-}
-
-bool VLK_Form_Fuel_Sensor::saveCsv(const QString& path) const
-{
-    return vlk::saveFuelFile(path, vlk::fuelCsv(captions(), rows()));
-}
-
-void VLK_Form_Fuel_Sensor::loadCsv(const QString& path)
-{
-    const std::optional<QByteArray> content = vlk::readFuelFile(path);
-    if (!content)
-        return;
-    if (const auto rows = vlk::readFuelCsv(*content)) {
-        addRows(*rows);
-        askForVolume();
-    } else {
-        qCWarning(vlk::lcFuel).noquote() << path << "holds no calibration table";
-    }
-}
-
-void VLK_Form_Fuel_Sensor::saveXml(CXmlSection* section)
-{
-    vlk::putFuelTable(section, name_, ui_->lineEdit_Name->text(), rows());
-    setDirty(false);
-    setEdited(false);
-}
-
-void VLK_Form_Fuel_Sensor::loadXml(CXmlSection* section)
-{
-    const auto rows = vlk::fuelTable(section);
-    if (!rows) {
-        qCWarning(vlk::lcFuel) << "the document holds more rows than a calibration table";
-        return;
-    }
-    clearRows();
-    ui_->lineEdit_Name->setText(vlk::fuelTableName(section));
-    offerName(vlk::fuelTableWrittenName(section));
-    addRows(*rows);
+    Q_EMIT signal_Changed();
 }
 
 void VLK_Form_Fuel_Sensor::printReport()
@@ -323,35 +294,6 @@ void VLK_Form_Fuel_Sensor::printReport()
     if (!report_)
         report_ = new VLK_FormReportFuel(this);
     report_->showReport(name_, ui_->lineEdit_Name->text(), points_);
-}
-
-void VLK_Form_Fuel_Sensor::fillSheet(vlk::CalibrationSheet& sheet) const
-{
-    sheet.kind = kind_;
-    sheet.sensor = name_;
-    sheet.tank = ui_->lineEdit_Name->text();
-    sheet.rows = rows();
-    sheet.points = points_;
-}
-
-void VLK_Form_Fuel_Sensor::copyTable() const
-{
-    QGuiApplication::clipboard()->setText(vlk::fuelClipboard(captions(), rows()));
-}
-
-void VLK_Form_Fuel_Sensor::pasteRows()
-{
-    const vlk::FuelCaptions texts = captions();
-    const auto pasted =
-        vlk::readFuelClipboard(QGuiApplication::clipboard()->text(), texts, vlk::fuelKind(kind_));
-    if (pasted.rows.empty()) {
-        vlk::warn(this, tr("cfgt6_411").arg(pasted.leftOut));
-        return;
-    }
-    if (PastePreview(pasted, texts, this).exec() != QDialog::Accepted)
-        return;
-    addRows(pasted.rows);
-    setDirty(true);
 }
 
 void VLK_Form_Fuel_Sensor::slot_CellChanged_Table(int /*row*/, int column)
@@ -381,6 +323,7 @@ void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Add()
     if (!vlk::isPoint(row) || vlk::isUnfit(ui_->lineEdit_Volume) || vlk::isUnfit(ui_->lineEdit_Param))
         return;
     addRows({row});
+    ui_->tableWidget->showAdded();
     askForVolume();
     setDirty(true);
 }
@@ -395,12 +338,14 @@ void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Del()
     ui_->pushButton_Clear->setEnabled(anyLeft);
     if (!anyLeft)
         setDirty(false);
-    setEdited(anyLeft);
+    setEdited(anyLeft || isNameTyped_);
     rebuildPoints();
 }
 
 void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Clear()
 {
-    if (vlk::agrees(this, tr("cfgt6_051"), "wrd_002"))
-        clearRows();
+    if (!vlk::agrees(this, tr("cfgt6_051"), "wrd_002"))
+        return;
+    clearRows();
+    setEdited(isNameTyped_);
 }

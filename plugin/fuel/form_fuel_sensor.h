@@ -4,9 +4,10 @@
 // with the value that the sensor shows. Rows sort by volume. Texts of files and of the caller may have a
 // comma as decimal sign; cells have a point.
 //
-// "Dirty" are rows that were added or pasted and are in no XML file yet. A change of a cell does not count,
-// nor does the removal of single rows, nor a CSV file. "Edited" is a table without such rows in which cells
-// were changed or single rows removed since it was saved or loaded.
+// "Dirty" are rows that were added, pasted or put in the place of others by a CSV file, and are in no XML
+// file yet. A change of a cell does not count, nor does the removal of single rows, nor the saving of a CSV
+// file. "Edited" is a table without such rows in which cells were changed, single rows removed or the name
+// typed since it was saved or loaded.
 
 #include "fuel/table/fuel_text.h"
 
@@ -73,8 +74,12 @@ public:
     void loadXml(CXmlSection* section);
     void setDirty(bool dirty);
     void setEdited(bool edited);
-    // As it stands, for the next time.
-    QString keep(const QString& folder, const QString& vehicle, const QDateTime& time) const;
+    // Puts the rows of a file in the place of those that are there; they are dirty. False when it cannot be
+    // read.
+    bool replaceByCsv(const QString& path);
+    // As it stands, for the next time: in the file of that path, or in a new one.
+    QString keep(const QString& folder, const QString& vehicle, const QDateTime& time,
+                 const QString& path) const;
 
     void printReport();
     // What the form knows of the sheet.
@@ -85,6 +90,8 @@ public:
 Q_SIGNALS:
     void signal_NeedSaved(bool dirty);
     void signal_Edited();
+    // The rows, the name, or whether they are saved.
+    void signal_Changed();
 
 private Q_SLOTS:
     void slot_CellChanged_Table(int row, int column);
@@ -103,6 +110,7 @@ private:
     void pasteRows();
     void clearRows();
     void askForVolume();
+    void typeName(const QString& name);
     // The empty field of the name shows it; the right arrow takes it.
     void offerName(const QString& name);
     // Whether the key is done with, in the field of the name and in those of the numbers.
@@ -122,5 +130,6 @@ private:
     int tabIndex_ = -1;
     bool dirty_ = false;
     bool edited_ = false;
+    bool isNameTyped_ = false; // since it was saved or loaded
     vlk::FuelPoints points_;
 };

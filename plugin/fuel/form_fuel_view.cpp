@@ -96,7 +96,7 @@ void VLK_Form_Fuel_View::getData(QMap<double, int>& table) const
 
 void VLK_Form_Fuel_View::slot_pressed_Btn_Open()
 {
-    const QString path = vlk::askFuelFileToLoad(this, {}, QStringLiteral("csv"));
+    const QString path = vlk::askFuelFileToLoad(this, {}, {QStringLiteral("csv")});
     if (!path.isEmpty())
         form_->loadCsv(path);
 }

@@ -19,6 +19,11 @@ VLK_FormReportFuel::VLK_FormReportFuel(QWidget* parent)
     font.setPointSizeF(7.5);
     font.setStyleHint(QFont::TypeWriter);
     ui_->textEdit_Report->setFont(font);
+    // It is the paper, whatever the colours of the windows.
+    QPalette paper = ui_->textEdit_Report->palette();
+    paper.setColor(QPalette::Base, Qt::white);
+    paper.setColor(QPalette::Text, Qt::black);
+    ui_->textEdit_Report->setPalette(paper);
     ui_->pushButton_Print->setAutoDefault(false);
     connect(ui_->pushButton_Print, &QPushButton::clicked, this, &VLK_FormReportFuel::slot_pressed_Btn_Print);
     resize(588, 788);

@@ -7,6 +7,7 @@
 #include "fuel/question.h"
 #include "link/device.h"
 #include "link/requests.h"
+#include "typing/area_keys.h"
 #include "typing/line_icon.h"
 #include "typing/notice_bar.h"
 #include "windows/fit_to_screen.h"
@@ -22,6 +23,7 @@ using namespace vlk;
 namespace {
 
 constexpr auto kPause = std::chrono::milliseconds(2000);
+constexpr auto kDraftsAfter = std::chrono::milliseconds(500);
 
 QString formatted(const char* format, const char* key, const QString& sensor = {})
 {
@@ -64,6 +66,11 @@ VLK_Form_TMI_Fuel_Sensors::VLK_Form_TMI_Fuel_Sensors(QWidget* parent)
     }
     connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
             &Window::slot_pressed_Btn_Help);
+    connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this, [this] {
+        const auto* form = currentForm();
+        if (form && (form->hasRows() || form->isEdited()))
+            slot_pressed_Btn_Save_Xml();
+    });
     connect(this, &QDialog::finished, this, &Window::slot_finished);
     timer_.setSingleShot(true);
     timer_.setInterval(kPause);
@@ -71,6 +78,14 @@ VLK_Form_TMI_Fuel_Sensors::VLK_Form_TMI_Fuel_Sensors(QWidget* parent)
     old_.setSingleShot(true);
     old_.setInterval(2 * kPause);
     connect(&old_, &QTimer::timeout, this, &Window::clearLiveValues);
+    new AreaKeys(this, [this]() -> std::vector<QWidgetList> {
+        return {{ui_->tabWidget, ui_->lineEdit_Title},
+                {ui_->pushButton_Load, ui_->pushButton_Save_Xml, ui_->pushButton_Save_Excel,
+                 ui_->pushButton_Print, ui_->pushButton_Pdf, ui_->pushButton_Exit}};
+    });
+    drafts_.setSingleShot(true);
+    drafts_.setInterval(kDraftsAfter);
+    connect(&drafts_, &QTimer::timeout, this, &Window::keepDrafts);
     resize(900, 540);
     keepOnScreen(this);
     retranslate();
@@ -91,6 +106,11 @@ void VLK_Form_TMI_Fuel_Sensors::buildTabs()
         connect(form, &VLK_Form_Fuel_Sensor::signal_NeedSaved, this,
                 &VLK_Form_TMI_Fuel_Sensors::slot_NeedSaved);
         connect(form, &VLK_Form_Fuel_Sensor::signal_Edited, this, &VLK_Form_TMI_Fuel_Sensors::tellOfTable);
+        connect(form, &VLK_Form_Fuel_Sensor::signal_Changed, this, [this, i] {
+            changed_[i] = true;
+            if (!drafts_.isActive())
+                drafts_.start();
+        });
         const int number = groupOf(i);
         QTabWidget* tabs = ui_->tabWidget;
         if (fuelGroups[number].title) {
@@ -151,6 +171,7 @@ void VLK_Form_TMI_Fuel_Sensors::openWindow(const QString& title)
         form->setFocus();
     requests::analog();
     unsavedCount_ = 0;
+    canKeep_ = true;
     offerKeptTables();
     slot_currentChanged_FuelType(ui_->tabWidget->currentIndex());
 }
@@ -305,6 +326,8 @@ void VLK_Form_TMI_Fuel_Sensors::reject()
 
 void VLK_Form_TMI_Fuel_Sensors::slot_finished(int /*result*/)
 {
+    drafts_.stop();
+    changed_ = {};
     forEachForm([this](const VLK_Form_Fuel_Sensor& form, int) { kept_.end(form); });
     timer_.stop();
 }

@@ -1,10 +1,11 @@
 #pragma once
 
 // The calibration window: a table for each fuel sensor of the tracker, each sensor's live value while the
-// user fills the tank, files, and the report. A table that was edited and not saved is kept at the end, and
-// offered at the next opening. While the window is open it asks for the live values: a question, its answer,
-// two seconds of pause. A value that is older than two such periods goes. Live values come as the byte record
-// of the message AnalogRecord.
+// user fills the tank, files, and the report. What is not saved is kept on the disk, at most a second behind:
+// after the end of a program that was killed it is offered at the next opening, and so is a table that was
+// edited when the window closed. While the window is open it asks for the live values: a question, its
+// answer, two seconds of pause. A value that is older than two such periods goes. Live values come as the
+// byte record of the message AnalogRecord.
 
 #include "fuel/kept_forms.h"
 #include "fuel/table/fuel_sensors.h"
@@ -93,11 +94,17 @@ private:
     void bringBack(const vlk::KeptTable& table);
     // Keeps an edited table, and asks where rows would be lost.
     bool mayReplace(const VLK_Form_Fuel_Sensor& form);
-    // Puts a document into a form, and settles what is kept of it.
-    void load(VLK_Form_Fuel_Sensor& form, CXmlSection* root);
+    // Puts a file into a form, and settles what is kept of it.
+    template <class Read>
+    void load(VLK_Form_Fuel_Sensor& form, Read read);
+    void loadXml(const QString& path);
+    void loadCsv(const QString& path);
+    // `type` is the sensor that the file names.
+    void showLoaded(const QString& type);
     // Both are false when the disk refused.
     bool keep(const VLK_Form_Fuel_Sensor& form);
     bool keepEdited();
+    void keepDrafts();
     int currentSensor() const;
     QString proposedName(const QString& sensor) const;
 
@@ -111,6 +118,10 @@ private:
     // How many volumes of a table have lost their fraction in its XML file.
     std::array<int, vlk::fuelSensorCount> cutIn_{};
     vlk::NoticeBar* bar_;
+    // Since the drafts were kept last.
+    std::array<bool, vlk::fuelSensorCount> changed_{};
+    bool canKeep_ = true; // the disk has taken the drafts so far
+    QTimer drafts_;
     int offers_ = 0;  // of kept tables, in the bar
     QString tracker_; // its number, also when it is gone
     QTimer timer_;

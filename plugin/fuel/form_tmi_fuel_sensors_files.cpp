@@ -18,6 +18,9 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+#include <utility>
+
 using namespace vlk;
 
 namespace {
@@ -69,6 +72,8 @@ void VLK_Form_TMI_Fuel_Sensors::tellOfTable()
     tell(kFlaw, flaw.row >= 0,
          {Mark::invalid, tr("tmiw_265").arg(QString::number(flaw.row + 1), flaw.text.left(kQuoted)), {}});
     tell(kEdited, form->isEdited(), {Mark::changed, tr("cfgt6_404"), {save}});
+    // Where rows were not added the button is closed.
+    ui_->pushButton_Save_Xml->setToolTip(form->isEdited() ? tr("tmiw_268") : QString());
 }
 
 void VLK_Form_TMI_Fuel_Sensors::forgetNotice(int number)
@@ -87,14 +92,16 @@ void VLK_Form_TMI_Fuel_Sensors::offerKeptTables()
     for (; offers_ > 0; --offers_)
         bar_->end(kOffers + offers_ - 1);
     for (const KeptTable& table : kept_.offered(telemetryFolder())) {
-        const QString time = table.time.toString(QStringLiteral("dd.MM.yyyy HH:mm"));
+        const QString time = table.time.toString(QStringLiteral("dd.MM.yyyy HH:mm:ss"));
         const Notice::Action back{tr("cfgt6_406"), [this, table] { bringBack(table); }};
         const Notice::Action discard{tr("cfgt6_407"), [this, path = table.path] {
                                          QFile::remove(path);
                                          offerKeptTables();
                                      }};
         bar_->tell(kOffers + offers_++,
-                   {Mark::changed, tr("cfgt6_405").arg(table.sensor, table.vehicle, time), {back, discard}});
+                   {Mark::changed,
+                    tr("cfgt6_405").arg(table.sensor, table.vehicle, time, QString::number(table.points)),
+                    {back, discard}});
     }
 }
 
@@ -108,17 +115,18 @@ void VLK_Form_TMI_Fuel_Sensors::bringBack(const KeptTable& table)
     if (!hasRows())
         ui_->lineEdit_Title->setText(table.vehicle);
     XmlDocument document(table.path, QLatin1String(fuelRoot));
-    load(*form, document.root());
-    form->setEdited(form->hasRows());
+    load(*form, [&] { form->loadXml(document.root()); });
+    form->setEdited(true);
     kept_.show(*form, table.path);
     offerKeptTables();
 }
 
-void VLK_Form_TMI_Fuel_Sensors::load(VLK_Form_Fuel_Sensor& form, CXmlSection* root)
+template <class Read>
+void VLK_Form_TMI_Fuel_Sensors::load(VLK_Form_Fuel_Sensor& form, Read read)
 {
     const bool wasEdited = form.isEdited();
     cutIn_[currentSensor()] = 0;
-    form.loadXml(root);
+    read();
     // What was edited is kept and offered; what is saved or given up is kept no longer.
     if (wasEdited && !form.isEdited())
         kept_.release(form);
@@ -148,6 +156,19 @@ bool VLK_Form_TMI_Fuel_Sensors::keepEdited()
     return allKept;
 }
 
+void VLK_Form_TMI_Fuel_Sensors::keepDrafts()
+{
+    const auto changed = std::exchange(changed_, {});
+    forEachForm([&](const VLK_Form_Fuel_Sensor& form, int sensor) {
+        if (!changed[sensor])
+            return;
+        if (!form.isDirty() && !form.isEdited())
+            kept_.end(form);
+        else if (canKeep_) // that it cannot is told once
+            canKeep_ = keep(form);
+    });
+}
+
 QString VLK_Form_TMI_Fuel_Sensors::proposedName(const QString& sensor) const
 {
     return fuelFileName(telemetryFolder(), sensor, ui_->lineEdit_Title->text(), now());
@@ -155,9 +176,16 @@ QString VLK_Form_TMI_Fuel_Sensors::proposedName(const QString& sensor) const
 
 void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Load()
 {
-    const QString path = askFuelFileToLoad(this, telemetryFolder(), QStringLiteral("xml"));
-    if (path.isEmpty())
-        return;
+    const QString path =
+        askFuelFileToLoad(this, telemetryFolder(), {QStringLiteral("xml"), QStringLiteral("csv")});
+    if (path.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive))
+        loadCsv(path);
+    else if (!path.isEmpty())
+        loadXml(path);
+}
+
+void VLK_Form_TMI_Fuel_Sensors::loadXml(const QString& path)
+{
     if (!QFileInfo::exists(path)) {
         const QStringList parts = tr("tmiw_127").split(QStringLiteral("<val>"));
         ui_->lineEdit_Title->setText(
@@ -178,9 +206,32 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Load()
     VLK_Form_Fuel_Sensor* form = currentForm();
     if (!form || !mayReplace(*form))
         return;
-    load(*form, document.root());
+    load(*form, [&] { form->loadXml(document.root()); });
+    showLoaded(type);
+}
+
+// Its rows say nothing of their sensor, but its name begins with it unless the user has chosen another.
+void VLK_Form_TMI_Fuel_Sensors::loadCsv(const QString& path)
+{
+    const QString sensor = QFileInfo(path).fileName().section(QLatin1Char('-'), 0, 0);
+    const bool isSensor =
+        std::any_of(std::begin(fuelSensors), std::end(fuelSensors),
+                    [&sensor](const FuelSensor& row) { return sensor == QLatin1String(row.name); });
+    if (isSensor)
+        select(sensor);
+    VLK_Form_Fuel_Sensor* form = currentForm();
+    if (!form || !mayReplace(*form))
+        return;
+    bool isLoaded = false;
+    load(*form, [&] { isLoaded = form->replaceByCsv(path); });
+    if (isLoaded)
+        showLoaded(isSensor ? sensor : QString());
+}
+
+void VLK_Form_TMI_Fuel_Sensors::showLoaded(const QString& type)
+{
     // A letter alone names no sensor.
-    fileOf_[currentSensor()] = type.size() > 1 && type != form->name() ? type : QString();
+    fileOf_[currentSensor()] = type.size() > 1 && type != currentForm()->name() ? type : QString();
     tellOfTable();
     offerKeptTables();
 }

@@ -1,5 +1,6 @@
 #include "fuel/fuelsensor_delegate.h"
 
+#include "fuel/cell_mark.h"
 #include "fuel/fuel_number_line.h"
 
 #include <QKeyEvent>
@@ -49,4 +50,11 @@ bool VLK_FuelSensor_Delegate::eventFilter(QObject* object, QEvent* event)
     default:
         return QItemDelegate::eventFilter(object, event);
     }
+}
+
+void VLK_FuelSensor_Delegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                                    const QModelIndex& index) const
+{
+    QItemDelegate::paint(painter, option, index);
+    vlk::paintCellMark(*painter, option, index);
 }

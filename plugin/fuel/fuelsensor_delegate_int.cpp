@@ -1,5 +1,6 @@
 #include "fuel/fuelsensor_delegate_int.h"
 
+#include "fuel/cell_mark.h"
 #include "fuel/fuel_number_line.h"
 #include "fuel/table/fuel_sensors.h"
 
@@ -18,4 +19,11 @@ void VLK_FuelSensor_Delegate_Int::setModelData(QWidget* editor, QAbstractItemMod
 {
     if (!vlk::isUnfit(qobject_cast<QLineEdit*>(editor)))
         QItemDelegate::setModelData(editor, model, index);
+}
+
+void VLK_FuelSensor_Delegate_Int::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                                        const QModelIndex& index) const
+{
+    QItemDelegate::paint(painter, option, index);
+    vlk::paintCellMark(*painter, option, index);
 }

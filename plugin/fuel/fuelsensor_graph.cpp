@@ -30,7 +30,6 @@ constexpr Qt::GlobalColor kInk = Qt::black;
 constexpr Qt::GlobalColor kAlarm = Qt::red;
 constexpr QRgb kRingColor = 0xff1f5f9e;
 constexpr QRgb kRoundLine = 0xffe2e6ea;
-constexpr QRgb kRoundLabel = 0xff6b7680;
 
 double largest(const vlk::FuelPoints& points, float FuelPoint::*coordinate)
 {
@@ -149,44 +148,23 @@ void VLK_FuelSensor_Graph::paintEvent(QPaintEvent* event)
     drawPointed(painter, axes);
 }
 
-// Behind the ticks, which stand at tenths of the largest value. The numbers are at the far ends of the lines.
+// Behind the ticks, which stand at tenths of the largest value and alone have numbers.
 void VLK_FuelSensor_Graph::drawRoundLines(QPainter& painter, const Axes& axes) const
 {
-    const QFontMetrics metrics = painter.fontMetrics();
     const QSize size = axes.step * kTicks;
-    const auto forEachRound = [](double maximum, auto draw) {
+    painter.setPen(QColor(kRoundLine));
+    const auto forEachRound = [](double maximum, int length, auto draw) {
         const double step = maximum > 0 ? roundStep(maximum) : 0;
         for (int n = 1; step > 0 && n * step <= maximum; ++n)
-            draw(n * step / maximum, QString::number(n * step));
+            draw(qRound(n * step / maximum * length));
     };
-    const auto line = [&painter](const QPoint& from, const QPoint& to) {
-        painter.setPen(QColor(kRoundLine));
-        painter.drawLine(from, to);
-        painter.setPen(QColor(kRoundLabel));
-    };
-    // A number that would touch the one before it is left out.
-    int written = 0;
-    forEachRound(axes.maxVolume, [&](double part, const QString& text) {
-        const QPoint from = axes.corner + QPoint(qRound(part * size.width()), 0);
-        const QPoint to = from - QPoint(0, size.height());
-        line(from, to);
-        const int half = metrics.horizontalAdvance(text) / 2;
-        if (to.x() - half <= written)
-            return;
-        painter.drawText(to - QPoint(half, 3), text);
-        written = to.x() + half + kTickHalf;
+    forEachRound(axes.maxVolume, size.width(), [&](int right) {
+        const QPoint from = axes.corner + QPoint(right, 0);
+        painter.drawLine(from, from - QPoint(0, size.height()));
     });
-    written = height();
-    forEachRound(axes.maxValue, [&](double part, const QString& text) {
-        const QPoint from = axes.corner - QPoint(0, qRound(part * size.height()));
-        const QPoint to = from + QPoint(size.width(), 0);
-        line(from, to);
-        const int base = to.y() + metrics.ascent() / 2 - 1;
-        // At the top stands the last number of the volumes.
-        if (base > written || base - metrics.ascent() < axes.corner.y() - size.height())
-            return;
-        painter.drawText(to.x() + 4, base, text);
-        written = base - metrics.ascent();
+    forEachRound(axes.maxValue, size.height(), [&](int up) {
+        const QPoint from = axes.corner - QPoint(0, up);
+        painter.drawLine(from, from + QPoint(size.width(), 0));
     });
 }
 

@@ -11,10 +11,11 @@ namespace vlk {
 
 bool KeptForms::keep(const VLK_Form_Fuel_Sensor& form, const QString& folder, const QString& vehicle)
 {
-    const QString path = form.keep(folder, vehicle, now());
+    const auto shown = shown_.find(&form);
+    const QString before = shown == shown_.end() ? QString() : shown->second;
+    const QString path = form.keep(folder, vehicle, now(), before);
     if (path.isEmpty())
         return false;
-    remove(form);
     show(form, path);
     return true;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-// Which tables of the calibration window are kept on the disk: those that were edited and not saved, until
-// they are saved or given up. What is kept and on show in no form is offered to the user.
+// Which tables of the calibration window are kept on the disk: those that are not saved, until they are saved
+// or given up. What is kept and on show in no form is offered to the user.
 
 #include "fuel/table/kept_tables.h"
 

@@ -64,6 +64,7 @@ private Q_SLOTS:
         fuel_.window->close();
         delete answer;
         QVERIFY(fuel_.window->isHidden());
+        QDir(folder.filePath("unsaved")).removeRecursively();
     }
 
     void opens()
@@ -218,6 +219,85 @@ private Q_SLOTS:
         QVERIFY(fuel_.child("label_NoticePlace")->isHidden());
         pressInBar("cfgt6_407");
         QVERIFY(bar()->isHidden() && QDir(folder.filePath("unsaved")).isEmpty());
+    }
+
+    // What is not saved outlives a program that is killed, be it a name alone; only its owner can read it.
+    void keepsDrafts()
+    {
+        const QDir drafts(folder.filePath("unsaved"));
+        const auto only = [&drafts] { return drafts.filePath(drafts.entryList(QDir::Files).value(0)); };
+        add("A3", "10.5", 12340);
+        QTRY_COMPARE_WITH_TIMEOUT(drafts.entryList(QDir::Files).size(), 1, 1000);
+        add("A3", "20", 12340);
+        QTRY_VERIFY_WITH_TIMEOUT(readFile(only()).contains("\"20\""), 1000);
+        const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+        QVERIFY(!(QFile::permissions(only()) & others) && !(QFile::permissions(drafts.path()) & others));
+        const QByteArray asKilled = readFile(only());
+        saveTo("pushButton_Save_Xml", folder.filePath("out.xml"));
+        QTRY_VERIFY_WITH_TIMEOUT(drafts.isEmpty(), 1000);
+        QTest::keyClicks(field("D1", "lineEdit_Name"), "left");
+        fuel_.window->close();
+        writeFile(drafts.filePath("killed.xml"), asKilled);
+        press("pushButton_FuelSensor");
+        QCOMPARE(fuel_.text("label_NoticePlace"), QString("wrd_401"));
+        for (int i = 0; i < 2; ++i) {
+            show("D2");
+            pressInBar("cfgt6_406");
+        }
+        QCOMPARE(rows("A3") + field("D1", "lineEdit_Name")->text(), QString("10.5=12.34 20=12.34left"));
+        // Whoever has closed the bar saves by the key.
+        show("A3");
+        fuel_.press("label_Notice_Close");
+        answerFile(folder.filePath("out.xml"));
+        QApplication::setActiveWindow(fuel_.window);
+        QTest::keyClick(fuel_.window, Qt::Key_S, Qt::ControlModifier);
+        QTRY_COMPARE_WITH_TIMEOUT(drafts.entryList(QDir::Files).size(), 1, 1000);
+    }
+
+    // F6 and Shift+F6 remember where the focus was.
+    void goesRoundByKeys()
+    {
+        QApplication::setActiveWindow(fuel_.window);
+        auto* name = field("A3", "lineEdit_Name");
+        name->setFocus();
+        const auto go = [this](Qt::KeyboardModifiers with = {}) {
+            QTest::keyClick(fuel_.window, Qt::Key_F6, with);
+            return QApplication::focusWidget();
+        };
+        QCOMPARE(go()->objectName(), QString("pushButton_Load"));
+        QCOMPARE(go(), name);
+        QTest::keyClicks(name, "n");
+        Q_EMIT name->editingFinished();
+        QCOMPARE(go(Qt::ShiftModifier)->objectName(), QString("label_Notice_Action1"));
+        QCOMPARE(go(Qt::ShiftModifier)->objectName(), QString("pushButton_Load"));
+    }
+
+    // Both are allowed, and seldom meant. A new row is in sight, however long the table is.
+    void marksWhatRepeats()
+    {
+        for (int litres = 1; litres < 30; ++litres)
+            add("A3", QString::number(litres), quint16(litres * 100));
+        add("A3", "3", 450);
+        add("A3", "2.5", 200);
+        const auto* shown = table("A3");
+        QVERIFY(shown->viewport()->rect().contains(shown->visualItemRect(shown->item(2, 0))));
+        QCOMPARE(shown->item(2, 1)->toolTip(), QString("tmiw_270"));
+        QCOMPARE(shown->item(4, 0)->toolTip(), QString("tmiw_269"));
+        QCOMPARE(shown->item(3, 0)->toolTip() + shown->item(4, 1)->toolTip(), QString());
+        editCell("A3", "0.21", 2, 1);
+        QCOMPARE(shown->item(2, 1)->toolTip(), QString());
+    }
+
+    // Of the sensor that begins its name; the rows wait for an XML file.
+    void loadsItsOwnCsv()
+    {
+        add("D2", "10,5", 7);
+        const QString path = folder.filePath("D4-Truck 7.csv");
+        saveTo("pushButton_Save_Excel", path);
+        load(path);
+        QVERIFY(rows("D4") == "10.5=1002" && form("D4")->isVisible() && fuel_.isOn("pushButton_Save_Xml"));
+        load(writeFile(folder.filePath("F1-.csv"), "x;y\r\n7;1\r\n"), "tmiw_129", "wrd_001");
+        QVERIFY(rows("D4") == "1=7" && fuel_.text("label_Notice") == "cfgt6_412");
     }
 
     void savesAsCsv()
@@ -386,6 +466,8 @@ private Q_SLOTS:
         QVERIFY(report.window->isVisible());
         const QString text = report.child<QTextEdit>("textEdit_Report")->toPlainText();
         QVERIFY(text.contains("Tank 1") && text.contains("12.34") && text.contains("10.0"));
+        const QPalette paper = report.child<QWidget>("textEdit_Report")->palette();
+        QVERIFY(paper.color(QPalette::Base) == Qt::white && paper.color(QPalette::Text) == Qt::black);
 
         const QString path = folder.filePath("report.pdf");
         whenOpen<QDialog>([](QDialog& dialog) { dialog.reject(); });

@@ -104,6 +104,26 @@ private Q_SLOTS:
         QCOMPARE(window->focusWidget(), name());
     }
 
+    // From the line above the pages over the fields and the panel to the buttons.
+    void f6GoesRound()
+    {
+        host_.open(configuration(QStringLiteral("One")));
+        QApplication::setActiveWindow(window);
+        QApplication::processEvents();
+        const auto round = [this] {
+            QStringList names;
+            for (int i = 0; i < 4; ++i) {
+                QTest::keyClick(window, Qt::Key_F6);
+                names << QApplication::focusWidget()->objectName();
+            }
+            return names.join(' ');
+        };
+        QCOMPARE(round(), QString("pushButton_SaveToFile lineEdit_Find lineEdit_Name pushButton_SaveToFile"));
+        QTest::keyClick(window, Qt::Key_D, Qt::ControlModifier);
+        QCOMPARE(round(), QString("pushButton_SaveToFile lineEdit_Find lineEdit_Name tableView_Differences"));
+        QTest::keyClick(window, Qt::Key_D, Qt::ControlModifier);
+    }
+
     void helpKeyOpensTheTabsPage()
     {
         QTest::keyClick(name(), Qt::Key_F1);

@@ -244,13 +244,18 @@ private Q_SLOTS:
         auto* third = child<QCheckBox>("checkBox_Server3");
         press("pushButton_Clear");
         QCOMPARE(takeSent(), Messages{});
+        QCOMPARE(text("label_SavedInPart"), QString("tmiw_267"));
         first->setChecked(true);
         third->setChecked(true);
         // Nobody pressed the button, so an answer moves nothing.
         send(Message::ClearedRecord, answer);
         QCOMPARE(takeSent(), Messages{});
         press("pushButton_Clear");
+        QCOMPARE(text("label_SavedInPart"), QString());
         QCOMPARE(host.sent.last().value, 1);
+        vlk::RunningWork work;
+        host.send(Message::GetRunningWork, &work);
+        QCOMPARE(work.clearing, 0b101U);
         send(Message::ClearedRecord, answer.left(100));
         QVERIFY(first->isChecked());
         send(Message::ClearedRecord, answer);

@@ -2,6 +2,7 @@
 
 #include "support/data_table.h"
 #include "support/typing.h"
+#include "typing/file_error.h"
 #include "typing/join_fields.h"
 #include "typing/typed_entry.h"
 
@@ -16,6 +17,8 @@
 #include <QTranslator>
 #include <QVBoxLayout>
 #include <QtTest>
+
+#include <cerrno>
 
 namespace {
 
@@ -59,6 +62,15 @@ private Q_SLOTS:
         vlk::joinFields(window_.get());
         window_->show();
         QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+    }
+
+    // Whatever stands beside them stays.
+    void errorsOfFilesAreWorded()
+    {
+        const QString told =
+            vlk::fileErrorText(qt_error_string(EACCES) + "; lost: " + qt_error_string(ENOSPC));
+        QVERIFY(told.startsWith("tmiw_271 ") && told.contains("; lost: tmiw_272 "));
+        QCOMPARE(vlk::fileErrorText("something else"), QString("something else"));
     }
 
     // "meanwhile" is what the box is worth before the last named key.

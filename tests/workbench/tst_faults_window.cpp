@@ -53,6 +53,11 @@ private Q_SLOTS:
             QCOMPARE(faults->parentWidget(), window);
             QTRY_COMPARE(QApplication::activeWindow(), faults);
             QVERIFY(screen.contains(faults->frameGeometry()));
+            // A tank can be filled over whatever window measures it.
+            auto& tracker = bench.window.session().tracker();
+            tracker.pour(0, -1000);
+            faults->findChild<QAbstractButton*>(QStringLiteral("pushButton_Pour_20"))->click();
+            QCOMPARE(tracker.fuelIn(0), 20.);
             // A number counts when its typing has ended.
             auto* delay = faults->findChild<QSpinBox*>(QStringLiteral("spinBox_Delay"));
             const auto delayMs = [&bench] { return bench.window.session().tracker().faults().delayMs; };

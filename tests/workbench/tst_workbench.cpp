@@ -199,6 +199,7 @@ private Q_SLOTS:
             .row("configuration", "a.xml", declaration + "<DEVICE model=\"\xcf\">", StoredFile::Configuration)
             .row("telemetry", "a.xml", declaration + "<TMI model=\"R\"> \r\n", StoredFile::Telemetry)
             .row("binary telemetry", "A.TMI", QByteArray(200, '\0'), StoredFile::Telemetry)
+            .row("calibration", "a.xml", "<FUEL model=\"R-7106\"/>", StoredFile::Calibration)
             .row("another document", "a.xml", "<html/>", StoredFile::Unknown)
             .row("no document", "a.xml", QByteArray(5000, '\xff'), StoredFile::Unknown)
             .row("empty", "a.xml", {}, StoredFile::Unknown);

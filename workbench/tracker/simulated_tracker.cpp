@@ -28,6 +28,11 @@ Message answerTo(Message request)
     return found == std::end(vlk::messages) ? Message{} : static_cast<Message>(found->answer);
 }
 
+bool isAddress(const QString& address)
+{
+    return !address.isEmpty() && address != QLatin1String("0.0.0.0");
+}
+
 } // namespace
 
 struct SimulatedTracker::Parts
@@ -84,7 +89,7 @@ struct SimulatedTracker::Parts
         links.usbSince = line.plugged() ? attachedSince : noTime;
         for (std::size_t i = 0; i < links.servers.size(); ++i) {
             const QString address = store.values().text(QStringLiteral("TRANS/SRV%1/addr").arg(i + 1));
-            links.servers[i] = !address.isEmpty() && address != QLatin1String("0.0.0.0");
+            links.servers[i] = isAddress(address);
         }
         const ConfigurationValues& values = store.values();
         if (values.number(QStringLiteral("TRANS/RULES/cnctType"), 1) == 0)
@@ -255,6 +260,16 @@ Reading SimulatedTracker::readConfiguration()
 const ConfigurationValues& SimulatedTracker::configuration() const
 {
     return parts_->store.values();
+}
+
+QString SimulatedTracker::serverAddress(int server) const
+{
+    const QString section = QStringLiteral("TRANS/SRV%1/").arg(server);
+    const QString address = configuration().text(section + QStringLiteral("addr"));
+    const QString port = configuration().text(section + QStringLiteral("port"));
+    if (!isAddress(address))
+        return {};
+    return port.isEmpty() ? address : address + QLatin1Char(':') + port;
 }
 
 WriteReport SimulatedTracker::writeConfiguration(const QString& path)

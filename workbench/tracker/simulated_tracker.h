@@ -84,6 +84,8 @@ public:
     Reading readConfiguration();
     // The same from behind, whatever the cable does to it.
     const ConfigurationValues& configuration() const;
+    // "fleet.example.com:4000", of servers 1 to 3; empty for none.
+    QString serverAddress(int server) const;
     // Takes a written file: checks it, keeps what was there as a backup, and applies it. Silence, a missing
     // and a pulled cable refuse it.
     WriteReport writeConfiguration(const QString& path);

@@ -29,7 +29,6 @@ bool isAnswer(quint32 id)
 AnswerWatch::AnswerWatch(const PluginLink& link)
 {
     patience_.setSingleShot(true);
-    patience_.setInterval(patienceMs);
     notice_.setSingleShot(true);
     notice_.setInterval(noticeMs);
     connect(&link, &PluginLink::passed, this, &AnswerWatch::look);
@@ -55,7 +54,9 @@ void AnswerWatch::begin(Message request)
     request_ = request;
     if (!since_.isValid()) {
         since_ = QDateTime::currentDateTime();
-        patience_.start();
+        patience_.start(patienceMs);
+    } else if (told_ && !patience_.isActive()) {
+        patience_.start(reminderMs);
     }
     notice_.start();
     Q_EMIT asked();

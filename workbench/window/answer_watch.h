@@ -17,6 +17,8 @@ class AnswerWatch : public QObject
 public:
     // An answer takes milliseconds; what takes longer than this does not come by itself.
     static constexpr int patienceMs = 3000;
+    // Who asks on in a silence that was told hears of it again after this.
+    static constexpr int reminderMs = 15'000;
     // What takes longer than this, a user notices.
     static constexpr int noticeMs = 500;
 
@@ -33,7 +35,7 @@ Q_SIGNALS:
     void asked();
     // The last request waits for longer than a user expects.
     void late();
-    // The request is the one that came last.
+    // The request is the one that came last; told again where it came after the first time.
     void silent(const QDateTime& since, vlk::Message request);
     // After silent(): an answer came, or nobody waits any more.
     void over();

@@ -1,7 +1,9 @@
 #include "window/faults_window.h"
 
+#include "typing/title_style.h"
 #include "window/faults_panel.h"
 #include "window/scrolling.h"
+#include "window/tank_panel.h"
 
 #include <QAbstractButton>
 #include <QLabel>
@@ -21,8 +23,15 @@ FaultsWindow::FaultsWindow(tracker::SimulatedTracker& tracker, QWidget* owner)
     trouble_->setObjectName(QStringLiteral("label_FaultsTrouble"));
     trouble_->setWordWrap(true);
     trouble_->hide();
+    auto* tanks = new TankPanel(tracker);
+    vlk::dressGroup(tanks);
+    auto* content = new QWidget;
+    auto* inside = new QVBoxLayout(content);
+    inside->setContentsMargins(0, 0, 0, 0);
+    inside->addWidget(panel_);
+    inside->addWidget(tanks);
     auto* column = new QVBoxLayout(this);
-    column->addWidget(scrolling(panel_), 1);
+    column->addWidget(scrolling(content), 1);
     column->addWidget(trouble_);
     retranslate();
     resizeWithin(this, sizeHint());
@@ -33,6 +42,9 @@ void FaultsWindow::setTrouble(const QString& text)
     trouble_->setText(text);
     trouble_->setVisible(!text.isEmpty());
     grow();
+    // The owner's notice of it has come up over this window.
+    if (isVisible())
+        raise();
 }
 
 // The note may need room, more of it in another language.

@@ -1,7 +1,7 @@
 #pragma once
 
-// The faults in a small window of their own. While a modal window of the plug-in is open, the main window
-// does not react; this one belongs to the modal window and so can be used beside it.
+// The faults, and the tanks, in a small window of their own. While a modal window of the plug-in is open, the
+// main window does not react; this one belongs to the modal window and so can be used beside it.
 
 #include "window/key_texts.h"
 

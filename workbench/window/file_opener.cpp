@@ -10,8 +10,42 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFileSystemModel>
+#include <QSortFilterProxyModel>
 
 namespace workbench {
+
+namespace {
+
+// Calibration tables lie in the same folder and have the same suffix.
+class WithoutCalibration : public QSortFilterProxyModel
+{
+public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+
+    void sort(int column, Qt::SortOrder order) override { sourceModel()->sort(column, order); }
+
+protected:
+    bool filterAcceptsRow(int row, const QModelIndex& parent) const override
+    {
+        const QModelIndex index = sourceModel()->index(row, 0, parent);
+        const QString path = index.data(QFileSystemModel::FilePathRole).toString();
+        return !path.endsWith(QLatin1String(".xml"), Qt::CaseInsensitive) ||
+               storedFileKind(path) != StoredFile::Calibration;
+    }
+};
+
+QString askTelemetryPath(QWidget* parent, const QString& folder)
+{
+    QFileDialog dialog(parent, text("wb_browse_caption"), folder,
+                       text("wb_type_telemetry") + QStringLiteral(" (*.xml *.tmi)"));
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setProxyModel(new WithoutCalibration(&dialog));
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+} // namespace
 
 FileOpener::FileOpener(HostSession& session, Settings& settings, RecentFiles& recent, QWidget* mainWindow)
     : QObject(mainWindow), session_(session), settings_(settings), recent_(recent), mainWindow_(mainWindow)
@@ -28,6 +62,8 @@ void FileOpener::open(const QString& path, TelemetryWindow window)
     const StoredFile kind = storedFileKind(path);
     if (kind == StoredFile::Telemetry)
         openTelemetry(path, window);
+    else if (kind == StoredFile::Calibration)
+        Q_EMIT failed([path] { return text("wb_file_calibration").arg(path); });
     else if (kind == StoredFile::Preset && session_.link().appliesPresets())
         applyPreset(path);
     else
@@ -49,9 +85,7 @@ void FileOpener::chooseConfiguration()
 
 void FileOpener::chooseTelemetry(TelemetryWindow window)
 {
-    const QString path =
-        QFileDialog::getOpenFileName(mainWindow_, text("wb_browse_caption"), settings_.telemetryFolder(),
-                                     text("wb_type_telemetry") + QStringLiteral(" (*.xml *.tmi)"));
+    const QString path = askTelemetryPath(mainWindow_, settings_.telemetryFolder());
     if (path.isEmpty())
         return;
     switch (storedFileKind(path)) {
@@ -61,6 +95,9 @@ void FileOpener::chooseTelemetry(TelemetryWindow window)
     case StoredFile::Configuration:
     case StoredFile::Preset:
         Q_EMIT failed([path] { return text("wb_file_no_telemetry").arg(path); });
+        break;
+    case StoredFile::Calibration:
+        Q_EMIT failed([path] { return text("wb_file_calibration").arg(path); });
         break;
     case StoredFile::Unknown:
         Q_EMIT failed([path] { return text("wb_file_unknown").arg(path); });

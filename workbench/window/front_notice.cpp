@@ -62,6 +62,12 @@ void FrontNotice::tell(Topic topic, const Told& notice)
         notice_->say(topic, notice);
 }
 
+void FrontNotice::recall(Topic topic)
+{
+    if (notice_)
+        notice_->recall(topic);
+}
+
 void FrontNotice::tellNews(const Told& notice)
 {
     tell(Result, notice);

@@ -31,6 +31,8 @@ public:
 
     // Stays until it is told otherwise; null takes it away.
     void tell(Topic topic, const Told& notice);
+    // That the user has closed it counts no longer.
+    void recall(Topic topic);
     // Goes by itself, but not from under the mouse.
     void tellNews(const Told& notice);
 

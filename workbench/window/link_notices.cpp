@@ -23,6 +23,7 @@ LinkNotices::LinkNotices(HostSession& session, PluginWindows& windows, MessageLo
     connect(&session_, &HostSession::writeBegan, &watch_, [this] { watch_.begin(); });
     connect(&session_, &HostSession::writeEnded, &watch_, &AnswerWatch::forget);
     connect(&watch_, &AnswerWatch::silent, this, [this](const QDateTime& since, vlk::Message request) {
+        front_.recall(FrontNotice::Trouble);
         setTrouble([this, since, request] { return silence(since, request); });
     });
     connect(&watch_, &AnswerWatch::over, this, [this] { setTrouble({}); });

@@ -3,6 +3,7 @@
 #include "base/whole_file.h"
 #include "plugin_names.h"
 #include "typing/empty_note.h"
+#include "typing/file_error.h"
 #include "typing/table_look.h"
 #include "window/find_field.h"
 #include "window/line_icon.h"
@@ -227,7 +228,7 @@ bool MessageLogView::saveTo(const QString& path, QString* error) const
     QSaveFile file(path);
     if (vlk::saveWhole(file, shownText().toUtf8()))
         return true;
-    *error = text("wb_file_unwritable").arg(path, file.errorString());
+    *error = text("wb_file_unwritable").arg(path, vlk::fileErrorText(file.errorString()));
     return false;
 }
 

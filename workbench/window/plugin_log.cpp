@@ -1,5 +1,6 @@
 #include "window/plugin_log.h"
 
+#include "typing/file_error.h"
 #include "window/languages.h"
 #include "window/trouble_text.h"
 
@@ -119,7 +120,8 @@ QString PluginLog::words(const QString& category, const QString& message)
     for (int i = found.size(); i > 0; --i) {
         bool isNumber = false;
         const qint64 value = found[i - 1].toLongLong(&isNumber);
-        said.replace(QLatin1Char('%') + QString::number(i), isNumber ? number(value) : found[i - 1]);
+        said.replace(QLatin1Char('%') + QString::number(i),
+                     isNumber ? number(value) : vlk::fileErrorText(found[i - 1]));
     }
     return said;
 }

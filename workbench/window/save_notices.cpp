@@ -1,5 +1,6 @@
 #include "window/save_notices.h"
 
+#include "typing/file_error.h"
 #include "window/host_session.h"
 #include "window/languages.h"
 #include "window/message_box.h"
@@ -47,6 +48,8 @@ SaveNotices::SaveNotices(const PluginLog& log, HostSession& session, const Plugi
     connect(&watch_, &SaveWatch::saved, this, &SaveNotices::tellSaved);
     connect(&watch_, &SaveWatch::savedInPart, this, &SaveNotices::tellSavedInPart);
     connect(&watch_, &SaveWatch::failed, this, &SaveNotices::tellFailed);
+    // What was said of an earlier file holds no longer.
+    connect(&watch_, &SaveWatch::asked, this, [this] { status_.clear(StatusLine::Command); });
     connect(&watch_, &SaveWatch::saved, this, &SaveNotices::ended);
     connect(&watch_, &SaveWatch::savedInPart, this, &SaveNotices::ended);
     connect(&watch_, &SaveWatch::failed, this, &SaveNotices::ended);
@@ -60,7 +63,7 @@ void SaveNotices::tellSaved(const QString& path)
 {
     const QString shown = QDir::toNativeSeparators(path);
     const StoredFile kind = storedFileKind(path);
-    if (kind != StoredFile::Unknown)
+    if (kind != StoredFile::Unknown && kind != StoredFile::Calibration)
         recent_.add(path, TelemetryWindow::Browser);
     if (kind == StoredFile::Configuration) {
         tellConfiguration(path);
@@ -71,12 +74,13 @@ void SaveNotices::tellSaved(const QString& path)
 
 void SaveNotices::tellSavedInPart(const QString& path, const SavedPart& part)
 {
-    if (storedFileKind(path) != StoredFile::Unknown)
+    if (storedFileKind(path) == StoredFile::Telemetry)
         recent_.add(path, TelemetryWindow::Browser);
-    warn([shown = QDir::toNativeSeparators(path), part] {
+    const bool isGone = !session_.tracker().attached();
+    warn([shown = QDir::toNativeSeparators(path), part, isGone] {
         const QString held =
             text("wb_saved_part").arg(shown, number(part.records), number(part.all), part.until);
-        return sentences({held, text("wb_do_part")});
+        return sentences({held, isGone ? text("wb_saved_part_unplugged") : QString(), text("wb_do_part")});
     });
 }
 
@@ -104,8 +108,9 @@ void SaveNotices::tellFailed(const QString& path, const QString& reason)
         return;
     }
     warn([shown = QDir::toNativeSeparators(path), reason] {
-        return sentences({reason.isEmpty() ? text("wb_save_failed").arg(shown)
-                                           : text("wb_save_failed_why").arg(shown, reason),
+        return sentences({reason.isEmpty()
+                              ? text("wb_save_failed").arg(shown)
+                              : text("wb_save_failed_why").arg(shown, vlk::fileErrorText(reason)),
                           text(isAboutRoom(reason) ? "wb_do_save" : "wb_do_save_elsewhere")});
     });
 }

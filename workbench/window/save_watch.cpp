@@ -69,10 +69,11 @@ bool SaveWatch::eventFilter(QObject* object, QEvent* event)
     if (event->type() != QEvent::Show)
         return false;
     auto* dialog = qobject_cast<QFileDialog*>(object);
-    if (dialog == nullptr || dialog->acceptMode() != QFileDialog::AcceptSave)
-        return false;
     // The workbench's own dialogs tell of themselves.
-    if (dialog->parentWidget() && dialog->parentWidget()->window() == mainWindow_)
+    if (dialog == nullptr || (dialog->parentWidget() && dialog->parentWidget()->window() == mainWindow_))
+        return false;
+    Q_EMIT asked();
+    if (dialog->acceptMode() != QFileDialog::AcceptSave)
         return false;
     connect(dialog, &QFileDialog::accepted, this, [this, dialog] { follow(*dialog); });
     return false;

@@ -38,6 +38,8 @@ public:
     SaveWatch(const PluginLog& log, const QWidget* mainWindow, SavesAtOnce savesAtOnce);
 
 Q_SIGNALS:
+    // For a file of the plug-in, to save or to load.
+    void asked();
     void saved(const QString& path);
     // These two come from the event loop, when the plug-in is done.
     void savedInPart(const QString& path, const workbench::SavedPart& part);

@@ -22,6 +22,8 @@ StoredFile storedFileKind(const QString& path)
         return reader.attributes().value(QLatin1String("creator")) == QLatin1String("preset")
                    ? StoredFile::Preset
                    : StoredFile::Configuration;
+    if (reader.name() == QLatin1String("FUEL"))
+        return StoredFile::Calibration;
     return reader.name() == QLatin1String("TMI") ? StoredFile::Telemetry : StoredFile::Unknown;
 }
 

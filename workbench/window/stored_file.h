@@ -5,7 +5,7 @@
 #include <QString>
 
 // A preset is a configuration that says so: a few settings for others to take.
-enum class StoredFile { Configuration, Preset, Telemetry, Unknown };
+enum class StoredFile { Configuration, Preset, Telemetry, Calibration, Unknown };
 
 namespace workbench {
 

@@ -49,6 +49,8 @@ TankPanel::TankPanel(tracker::SimulatedTracker& tracker, QWidget* parent)
     const auto addButton = [&](const QString& name) {
         auto* button = new QPushButton(this);
         button->setObjectName(name);
+        // Enter in a field of the faults beside it pours nothing.
+        button->setAutoDefault(false);
         grid->addWidget(button, firstButtons + place / 2, place % 2);
         ++place;
         return button;

@@ -14,6 +14,7 @@ namespace workbench {
 
 namespace {
 
+constexpr int kServers = 3;
 constexpr double sameKm = 1; // the vehicle goes on while it is asked
 
 QString servers(const std::vector<int>& numbers)
@@ -97,16 +98,40 @@ const char* TrackerCommands::whyNotNow()
 bool TrackerCommands::isAllowed(const QString& question, const char* verb)
 {
     const char* reason = whyNotNow();
-    if (reason == nullptr && mayDestroy_)
-        reason = mayDestroy_(question, text(verb)) ? whyNotNow() : "wb_command_cancelled";
+    if (reason == nullptr && mayDestroy_) {
+        if (!mayDestroy_(question, text(verb))) {
+            Q_EMIT done(saying("wb_command_cancelled"));
+            return false;
+        }
+        reason = whyNotNow();
+    }
     if (reason != nullptr)
         Q_EMIT failed(saying(reason));
     return reason == nullptr;
 }
 
+QString TrackerCommands::clearQuestion(int first)
+{
+    const unsigned told = link_.runningWork().clearing;
+    std::vector<int> wanted;
+    for (int server = 1; server <= kServers; ++server) {
+        if ((told >> (server - 1) & 1) != 0)
+            wanted.push_back(server);
+    }
+    if (wanted.empty()) // by a plug-in that does not tell
+        wanted.push_back(first);
+    QStringList named;
+    for (const int server : wanted) {
+        const QString address = tracker_.serverAddress(server);
+        named.append(address.isEmpty() ? text("wb_clear_server").arg(number(server))
+                                       : text("wb_clear_server_at").arg(number(server), address));
+    }
+    return text("wb_clear_question").arg(named.join(QLatin1String(", ")));
+}
+
 void TrackerCommands::clear(const Command& command)
 {
-    if (!isAllowed(text("wb_clear_question").arg(number(command.number)), "wb_clear_verb"))
+    if (!isAllowed(clearQuestion(command.number), "wb_clear_verb"))
         return;
     cleared_ = {command.number};
     isDoubtful_ = false;

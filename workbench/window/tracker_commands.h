@@ -33,6 +33,7 @@ public:
 Q_SIGNALS:
     // A command is on its way that the tracker answers.
     void sent(vlk::Message command);
+    // As the user wished, be it that nothing was sent.
     void done(const workbench::Sentence& sentence);
     // It was not sent, or nobody knows what became of it.
     void failed(const workbench::Sentence& sentence);
@@ -46,6 +47,8 @@ private:
     };
 
     void carryOutNext();
+    // With the servers of the sequence by name.
+    QString clearQuestion(int first);
     void clear(const Command& command);
     void setMileage(const Command& command);
     void switchOutput(const Command& command);

@@ -1,5 +1,6 @@
 #include "window/trouble_text.h"
 
+#include "typing/file_error.h"
 #include "window/languages.h"
 
 #include <QLocale>
@@ -47,7 +48,7 @@ QString reasonOf(const TelemetryFileProblem& problem)
 {
     switch (problem.kind) {
     case TelemetryFileProblem::Unreadable:
-        return text("wb_problem_unreadable").arg(problem.reason);
+        return text("wb_problem_unreadable").arg(vlk::fileErrorText(problem.reason));
     case TelemetryFileProblem::Empty:
         return text("wb_problem_empty");
     case TelemetryFileProblem::CutShort:

@@ -1,14 +1,15 @@
 #include "window/window_notice.h"
 
-#include <QEvent>
+#include <QApplication>
+#include <QKeyEvent>
 #include <QMenu>
-#include <QShortcut>
 
 namespace workbench {
 
 namespace {
 
 constexpr int margin = 6;
+constexpr int goesOnMs = 5000; // between two keys of somebody who goes round the window
 
 } // namespace
 
@@ -21,16 +22,8 @@ WindowNotice::WindowNotice(QWidget* owner, std::set<int> dismissed)
     setAttribute(Qt::WA_QuitOnClose, false);
     setFrameShape(QFrame::Box);
     setNewestFirst();
-    owner->installEventFilter(this);
-    keys_ = new QShortcut(Qt::Key_F6, owner);
-    connect(keys_, &QShortcut::activated, this, &WindowNotice::offerByKeys);
-    connect(keys_, &QShortcut::activatedAmbiguously, this, &WindowNotice::offerByKeys);
+    QCoreApplication::instance()->installEventFilter(this);
     connect(this, &NoticeBar::closed, this, [this](int number) { dismissed_.insert(number); });
-}
-
-WindowNotice::~WindowNotice()
-{
-    delete keys_;
 }
 
 void WindowNotice::offerByKeys()
@@ -61,9 +54,32 @@ void WindowNotice::say(int number, const std::function<Notice()>& notice)
     place();
 }
 
-// Of the window, and of the bars in it.
+bool WindowNotice::takesKey(const QWidget& widget, QKeyEvent& event)
+{
+    if (widget.window() != parentWidget() || !isVisible() || event.key() != Qt::Key_F6 ||
+        event.modifiers() != Qt::NoModifier)
+        return false;
+    if (event.type() == QEvent::KeyPress) {
+        offerByKeys();
+        return true;
+    }
+    // What is accepted here is no shortcut of the window.
+    const bool goesOn = round_.isValid() && !round_.hasExpired(goesOnMs);
+    round_.start();
+    event.setAccepted(!goesOn);
+    return !goesOn;
+}
+
+// Keys of all that is in the window; for its place the window, and the bars in it.
 bool WindowNotice::eventFilter(QObject* object, QEvent* event)
 {
+    const auto* widget = qobject_cast<QWidget*>(object);
+    const bool isKey = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
+    if (widget && isKey)
+        return takesKey(*widget, *static_cast<QKeyEvent*>(event));
+    const bool isBar = widget && widget->objectName() == QLatin1String("noticeBar");
+    if (!widget || (widget != parentWidget() && !(isBar && widget->window() == parentWidget())))
+        return false;
     switch (event->type()) {
     case QEvent::Move:
     case QEvent::Resize:
@@ -95,7 +111,6 @@ void WindowNotice::place()
 {
     QRect inside = parentWidget()->geometry().marginsRemoved({margin, margin, margin, margin});
     for (QFrame* bar : parentWidget()->findChildren<QFrame*>(QStringLiteral("noticeBar"))) {
-        bar->installEventFilter(this);
         if (bar->isVisible() && bar->window() == parentWidget())
             inside.setTop(qMax(inside.top(), bar->mapToGlobal(QPoint(0, bar->height())).y() + margin));
     }

@@ -2,16 +2,16 @@
 
 // The notices of the workbench on a window of the plug-in: a tool window on its upper inner edge, below a bar
 // of the window's own, that moves with it, goes with it and never takes the focus. F6 on the window shows
-// what can be done about the notice in a menu.
+// what can be done about the notice in a menu; pressed on it goes to the areas of the window.
 
 #include "plugin_names.h"
 #include "typing/notice_bar.h"
 
-#include <QPointer>
+#include <QElapsedTimer>
 
 #include <set>
 
-class QShortcut;
+class QKeyEvent;
 
 namespace workbench {
 
@@ -21,12 +21,12 @@ class WindowNotice : public NoticeBar
 
 public:
     WindowNotice(QWidget* owner, std::set<int> dismissed);
-    ~WindowNotice() override;
 
     // The numbers that were closed, for the one that takes its place on another window.
     const std::set<int>& dismissed() const { return dismissed_; }
-    // Null takes it away. One that was closed stays so until then.
+    // Null takes it away. One that was closed stays so until then, or until it is recalled.
     void say(int number, const std::function<Notice()>& notice);
+    void recall(int number) { dismissed_.erase(number); }
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -34,9 +34,10 @@ protected:
 
 private:
     void place();
+    bool takesKey(const QWidget& widget, QKeyEvent& event);
     void offerByKeys();
 
-    QPointer<QShortcut> keys_; // of the window below
+    QElapsedTimer round_; // since F6 was pressed last
     std::set<int> dismissed_;
 };
 

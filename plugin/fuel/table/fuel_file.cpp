@@ -3,6 +3,7 @@
 #include "base/file_name.h"
 #include "base/replace_file.h"
 #include "fuel/table/fuel_log.h"
+#include "fuel/table/fuel_text.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -45,6 +46,17 @@ std::optional<QByteArray> readFuelFile(const QString& path)
         return {};
     }
     return file.read(kLargestFile);
+}
+
+std::optional<FuelRows> readFuelCsvFile(const QString& path)
+{
+    const std::optional<QByteArray> content = readFuelFile(path);
+    if (!content)
+        return {};
+    std::optional<FuelRows> rows = readFuelCsv(*content);
+    if (!rows)
+        qCWarning(lcFuel).noquote() << path << "holds no calibration table";
+    return rows;
 }
 
 } // namespace vlk

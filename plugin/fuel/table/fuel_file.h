@@ -2,6 +2,8 @@
 
 // Calibration files on the disk: what they are called, and how they are read and saved.
 
+#include "fuel/table/fuel_rows.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -21,5 +23,7 @@ bool saveFuelFile(const QString& path, const QByteArray& content);
 
 // None when there is no such file or it is too large for a calibration; the log (vlk.fuel) says so.
 std::optional<QByteArray> readFuelFile(const QString& path);
+// The rows of a CSV file; none likewise when it holds no table.
+std::optional<FuelRows> readFuelCsvFile(const QString& path);
 
 } // namespace vlk

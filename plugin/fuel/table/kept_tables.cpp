@@ -22,21 +22,29 @@ QString keptFolder(const QString& folder)
     return folder + QStringLiteral("/unsaved");
 }
 
-} // namespace
-
-QString keepTable(const QString& folder, const QString& sensor, const QString& vehicle, const QString& name,
-                  const FuelRows& rows, const QDateTime& time)
+QString freePath(const QString& base)
 {
-    QDir().mkpath(keptFolder(folder));
-    const QString base = fuelFileName(keptFolder(folder), sensor, vehicle, time);
     QString path = base + kSuffix;
     for (int n = 2; QFile::exists(path); ++n)
         path = QStringLiteral("%1-%2").arg(base).arg(n) + kSuffix;
+    return path;
+}
+
+} // namespace
+
+QString keepTable(const QString& folder, const QString& sensor, const QString& vehicle, const QString& name,
+                  const FuelRows& rows, const QDateTime& time, QString path)
+{
+    constexpr auto ofOwner = QFile::ReadOwner | QFile::WriteOwner;
+    QDir().mkpath(keptFolder(folder));
+    QFile::setPermissions(keptFolder(folder), ofOwner | QFile::ExeOwner);
+    if (path.isEmpty())
+        path = freePath(fuelFileName(keptFolder(folder), sensor, vehicle, time));
     XmlDocument document(QString{}, QLatin1String(fuelRoot));
     document.root()->setString(kTime, time.toString(Qt::ISODate));
     document.root()->setChildValue(kVehicleName, vehicle);
     putKeptTable(document.root(), sensor, name, rows);
-    return document.saveAs(path) ? path : QString();
+    return document.saveAs(path) && QFile::setPermissions(path, ofOwner) ? path : QString();
 }
 
 std::vector<KeptTable> keptTables(const QString& folder)
@@ -49,7 +57,8 @@ std::vector<KeptTable> keptTables(const QString& folder)
         const QString sensor = document.root()->getString(QStringLiteral("type"));
         const QDateTime time = QDateTime::fromString(document.root()->getString(kTime), Qt::ISODate);
         if (!sensor.isEmpty() && time.isValid())
-            tables.push_back({path, sensor, document.root()->getString(kVehicleName), time});
+            tables.push_back({path, sensor, document.root()->getString(kVehicleName), time,
+                              static_cast<int>(fuelTable(document.root()).value_or(FuelRows()).size())});
     }
     std::sort(tables.begin(), tables.end(),
               [](const KeptTable& a, const KeptTable& b) { return a.time < b.time; });

@@ -1,8 +1,8 @@
 #pragma once
 
-// Calibration tables that were changed and not saved when their window closed, each in a document of its own
-// below the telemetry folder. Other than a saved document they hold volumes with their decimals, and a name
-// that is read back.
+// Calibration tables that were changed and not saved, each in a document of its own below the telemetry
+// folder that only its owner can read. Other than a saved document they hold volumes with their decimals, and
+// a name that is read back.
 
 #include "fuel/table/fuel_rows.h"
 
@@ -18,11 +18,12 @@ struct KeptTable
     QString sensor;
     QString vehicle;
     QDateTime time;
+    int points;
 };
 
-// The path; empty when the disk refused, and the log (vlk.save) says why.
+// The path, a new one where none is given; empty when the disk refused, and the log (vlk.save) says why.
 QString keepTable(const QString& folder, const QString& sensor, const QString& vehicle, const QString& name,
-                  const FuelRows& rows, const QDateTime& time);
+                  const FuelRows& rows, const QDateTime& time, QString path = {});
 // From the oldest to the latest.
 std::vector<KeptTable> keptTables(const QString& folder);
 

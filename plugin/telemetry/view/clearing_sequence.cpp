@@ -8,10 +8,11 @@
 
 namespace vlk {
 
-void ClearingSequence::start()
+bool ClearingSequence::start()
 {
     stop();
     next();
+    return step_ != kIdle;
 }
 
 void ClearingSequence::answered()
@@ -20,6 +21,14 @@ void ClearingSequence::answered()
         return;
     servers_[step_ - kIdle - 1]->setChecked(false);
     next();
+}
+
+unsigned ClearingSequence::awaited() const
+{
+    unsigned servers = 0;
+    for (int server = step_ - kIdle - 1; server >= 0 && server < static_cast<int>(servers_.size()); ++server)
+        servers |= unsigned{servers_[server]->isChecked()} << server;
+    return servers;
 }
 
 void ClearingSequence::next()

@@ -18,8 +18,11 @@ public:
     // The boxes of servers 1 to 3.
     explicit ClearingSequence(std::array<QCheckBox*, 3> servers) : servers_(servers) {}
 
-    void start();
+    // False where no server is checked.
+    bool start();
     void answered();
+    // A bit for each server from that on whose answer is awaited; 0 where none is.
+    unsigned awaited() const;
     // Forgets an answer that is still to come.
     void stop() { step_ = kIdle; }
 

@@ -7,6 +7,7 @@
 #include "link/requests.h"
 #include "telemetry/record/record_head.h"
 #include "telemetry/text/time_text.h"
+#include "typing/file_error.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -161,9 +162,12 @@ void SaveSequence::takeLast(const QByteArray& record)
         refuse(translated("tmiw_155"));
         return;
     }
+    const QDateTime asked = now();
     fileChosen_ = chooseFile();
     if (!isRunning())
         return;
+    // The user's time is none of the save's.
+    saveStart_ = saveStart_.addMSecs(asked.msecsTo(now()));
     saveTotal_ = static_cast<quint32>(*last - *first);
     if (!fileChosen_) {
         carryOutCancel();
@@ -217,7 +221,7 @@ bool SaveSequence::chooseFile()
         const QString reason = whyNotReplaceable(saveFileName_);
         if (reason.isEmpty())
             return isRunning();
-        refuse(translated("tmiw_187").arg(QDir::toNativeSeparators(saveFileName_), reason));
+        refuse(translated("tmiw_187").arg(QDir::toNativeSeparators(saveFileName_), fileErrorText(reason)));
     }
     return false;
 }

@@ -8,18 +8,22 @@
 #include "telemetry/view/absent_value.h"
 #include "telemetry/view/event_panel.h"
 #include "telemetry/view/tmi_view_texts.h"
+#include "typing/area_keys.h"
 #include "typing/notice_bar.h"
 #include "typing/present_value.h"
 #include "typing/title_style.h"
 #include "windows/fit_to_screen.h"
 
 #include <QDir>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
 
 using namespace vlk;
 
 namespace {
 
 constexpr int kFirstProductionMode = 1;
+enum NoticeNumber { kSavedInPart, kNoServer };
 
 std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_View> setUpViewUi(QDialog* window)
 {
@@ -33,12 +37,12 @@ std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_View> setUpViewUi(QDialog* window)
 VLK_Widget_Tmi_View::VLK_Widget_Tmi_View(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
       ui_(setUpViewUi(this)), eventPanel_(new vlk::EventPanel(this)),
-      partNotice_(new vlk::NoticeBar(this, QStringLiteral("label_SavedInPart"))),
+      notices_(new vlk::NoticeBar(this, QStringLiteral("label_SavedInPart"))),
       pages_(ui_->stackedWidget, eventPanel_), automatic_(this),
       clearing_({ui_->checkBox_Server1, ui_->checkBox_Server2, ui_->checkBox_Server3}), save_(this, *ui_),
       equipment_(this), times_(*ui_), functions_(*ui_, this)
 {
-    ui_->verticalLayout->insertWidget(0, partNotice_);
+    ui_->verticalLayout->insertWidget(0, notices_);
     ui_->verticalLayout_Event->addWidget(eventPanel_);
     ui_->groupBox_Btn_Guard->hide();
     save_.clearProgress();
@@ -59,6 +63,13 @@ VLK_Widget_Tmi_View::VLK_Widget_Tmi_View(QWidget* parent)
     connect(&save_, &vlk::SaveSequence::givenUp, &times_, &vlk::ZonedTimes::giveUp);
     connect(&automatic_, &vlk::AutomaticRequests::timeout, this,
             &VLK_Widget_Tmi_View::slot_timeout_m_Timer_Auto_TMI);
+    new vlk::AreaKeys(this, [this]() -> std::vector<QWidgetList> {
+        return {{ui_->stackedWidget},
+                {ui_->frame_Btn_Func},
+                {ui_->groupBox_Btn_Get, ui_->groupBox_Btn_Auto, ui_->groupBox_Btn_Guard,
+                 ui_->spinBox_TimeOffset, ui_->pushButton_Func, ui_->pushButton_Help, ui_->frame_Progress,
+                 ui_->pushButton_Close}};
+    });
     retranslate();
 }
 
@@ -73,6 +84,7 @@ void VLK_Widget_Tmi_View::open(const QString& configurationPath)
     pages_.setTracker(setup_.titles, vlkDevice != nullptr ? vlkDevice->capabilityMask() : 0);
 
     save_.clearProgress();
+    tellNoServer(false);
     highestNumber_ = 0;
     ui_->pushButton_Get_Prev->setEnabled(false);
     ui_->pushButton_Get_Next->setEnabled(false);
@@ -122,17 +134,42 @@ void VLK_Widget_Tmi_View::showSaving(bool running)
 {
     setManualBlocked(running ? "tmiw_176" : nullptr);
     if (running)
-        partNotice_->end(0);
+        notices_->end(kSavedInPart);
 }
 
 void VLK_Widget_Tmi_View::showPart(const vlk::PartOfPeriod& part)
 {
-    partNotice_->tell([part] {
+    const auto text = [part, isDetached = isDetached_] {
         const QLocale locale;
-        return tr("tmiw_186")
-            .arg(locale.toString(quint64(part.records)), locale.toString(quint64(part.all)), part.until,
-                 QDir::toNativeSeparators(part.path));
-    });
+        const QString held =
+            tr("tmiw_186")
+                .arg(locale.toString(quint64(part.records)), locale.toString(quint64(part.all)), part.until,
+                     QDir::toNativeSeparators(part.path));
+        return isDetached ? tr("tmiw_266") + QLatin1Char(' ') + held : held;
+    };
+    notices_->tell(kSavedInPart, [text] { return Notice{Mark::advice, text(), {}}; });
+}
+
+void VLK_Widget_Tmi_View::tellNoServer(bool isNone)
+{
+    if (isNone)
+        notices_->tell(kNoServer, [] { return Notice{Mark::advice, tr("tmiw_267"), {}}; });
+    else
+        notices_->end(kNoServer);
+}
+
+void VLK_Widget_Tmi_View::deviceDisconnected()
+{
+    const QScopedValueRollback going(isDetached_, true);
+    close();
+}
+
+void VLK_Widget_Tmi_View::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && save_.isRunning())
+        save_.cancel();
+    else
+        QDialog::keyPressEvent(event);
 }
 
 void VLK_Widget_Tmi_View::stopRequests()
@@ -156,7 +193,8 @@ void VLK_Widget_Tmi_View::closeEvent(QCloseEvent* event)
 vlk::RunningWork VLK_Widget_Tmi_View::runningWork() const
 {
     return {.saving = save_.isRunning() ? 1U : 0U,
-            .automatic = ui_->checkBox_Get_Auto_TMI->isChecked() ? 1U : 0U};
+            .automatic = ui_->checkBox_Get_Auto_TMI->isChecked() ? 1U : 0U,
+            .clearing = clearing_.awaited()};
 }
 
 void VLK_Widget_Tmi_View::takeRecord(const QByteArray& record)
@@ -231,7 +269,7 @@ void VLK_Widget_Tmi_View::retranslate()
     slot_valueChanged_horizontalSlider_Auto_Tmi(ui_->horizontalSlider_Auto_Tmi->value());
     setTitle();
 
-    partNotice_->retranslate();
+    notices_->retranslate();
     save_.retranslate();
     pages_.retranslate();
     times_.retranslate();

@@ -44,7 +44,7 @@ public:
     void open(const QString& configurationPath);
     void deviceConnected() { setTitle(); }
     // Ends whatever runs, also in a window that is closed already.
-    void deviceDisconnected() { close(); }
+    void deviceDisconnected();
     // As the user would close it and the calibration window, which asks where rows of it are in no file.
     void closeWindows();
     void retranslate();
@@ -66,6 +66,8 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    // Escape is the Cancel of a save that runs, before it closes the window.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private Q_SLOTS:
     void slot_pressed_GetCurrent();
@@ -105,6 +107,7 @@ private:
     void setManualBlocked(const char* reasonKey);
     void showSaving(bool running);
     void showPart(const vlk::PartOfPeriod& part);
+    void tellNoServer(bool isNone);
     void stopRequests();
     void startSave(vlk::SaveSequence::Mode mode);
     // For a record that was asked for by hand.
@@ -115,7 +118,7 @@ private:
 
     std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_View> ui_;
     vlk::EventPanel* eventPanel_;
-    vlk::NoticeBar* partNotice_;
+    vlk::NoticeBar* notices_;
     vlk::RecordStack pages_;
     vlk::AutomaticRequests automatic_;
     vlk::ClearingSequence clearing_;
@@ -124,6 +127,7 @@ private:
     vlk::ZonedTimes times_;
     vlk::FunctionsPlace functions_;
     vlk::TrackerSetup setup_;
+    bool isDetached_ = false; // the tracker is going
     quint32 highestNumber_ = 0;
     quint32 lastWalk_ = 0;
     const char* blockedBy_ = nullptr;

@@ -215,7 +215,7 @@ void VLK_Widget_Tmi_View::slot_valueChanged_horizontalSlider_Auto_Tmi(int second
 
 void VLK_Widget_Tmi_View::slot_pressed_Clear()
 {
-    clearing_.start();
+    tellNoServer(!clearing_.start());
 }
 
 void VLK_Widget_Tmi_View::slot_pressed_RFID()

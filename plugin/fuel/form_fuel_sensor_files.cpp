@@ -1,0 +1,99 @@
+// How the table of a sensor goes into files, a sheet and the clipboard, and comes from them.
+
+#include "fuel/form_fuel_sensor.h"
+
+#include "ui_VLK_Designer_Form_Fuel_Sensor.h"
+
+#include "fuel/calibration_sheet.h"
+#include "fuel/paste_preview.h"
+#include "fuel/question.h"
+#include "fuel/table/fuel_document.h"
+#include "fuel/table/fuel_file.h"
+#include "fuel/table/fuel_log.h"
+#include "fuel/table/fuel_sensors.h"
+#include "fuel/table/kept_tables.h"
+#include "xml/xml_section.h"
+
+#include <QClipboard>
+
+QString VLK_Form_Fuel_Sensor::keep(const QString& folder, const QString& vehicle, const QDateTime& time,
+                                   const QString& path) const
+{
+    return vlk::keepTable(folder, name_, vehicle, ui_->lineEdit_Name->text(), rows(), time, path);
+}
+
+bool VLK_Form_Fuel_Sensor::saveCsv(const QString& path) const
+{
+    return vlk::saveFuelFile(path, vlk::fuelCsv(captions(), rows()));
+}
+
+void VLK_Form_Fuel_Sensor::loadCsv(const QString& path)
+{
+    if (const auto rows = vlk::readFuelCsvFile(path)) {
+        addRows(*rows);
+        askForVolume();
+    }
+}
+
+bool VLK_Form_Fuel_Sensor::replaceByCsv(const QString& path)
+{
+    const auto rows = vlk::readFuelCsvFile(path);
+    if (!rows)
+        return false;
+    clearRows();
+    addRows(*rows);
+    setDirty(hasRows());
+    return true;
+}
+
+void VLK_Form_Fuel_Sensor::saveXml(CXmlSection* section)
+{
+    vlk::putFuelTable(section, name_, ui_->lineEdit_Name->text(), rows());
+    isNameTyped_ = false;
+    setDirty(false);
+    setEdited(false);
+}
+
+void VLK_Form_Fuel_Sensor::loadXml(CXmlSection* section)
+{
+    const auto rows = vlk::fuelTable(section);
+    if (!rows) {
+        qCWarning(vlk::lcFuel) << "the document holds more rows than a calibration table";
+        return;
+    }
+    clearRows();
+    ui_->lineEdit_Name->setText(vlk::fuelTableName(section));
+    isNameTyped_ = false;
+    offerName(vlk::fuelTableWrittenName(section));
+    addRows(*rows);
+}
+
+void VLK_Form_Fuel_Sensor::fillSheet(vlk::CalibrationSheet& sheet) const
+{
+    sheet.kind = kind_;
+    sheet.sensor = name_;
+    sheet.tank = ui_->lineEdit_Name->text();
+    sheet.rows = rows();
+    sheet.points = points_;
+}
+
+void VLK_Form_Fuel_Sensor::copyTable() const
+{
+    QGuiApplication::clipboard()->setText(vlk::fuelClipboard(captions(), rows()));
+}
+
+void VLK_Form_Fuel_Sensor::pasteRows()
+{
+    const vlk::FuelCaptions texts = captions();
+    const auto pasted =
+        vlk::readFuelClipboard(QGuiApplication::clipboard()->text(), texts, vlk::fuelKind(kind_));
+    if (pasted.rows.empty()) {
+        vlk::warn(this, tr("cfgt6_411").arg(pasted.leftOut));
+        return;
+    }
+    if (PastePreview(pasted, texts, this).exec() != QDialog::Accepted)
+        return;
+    addRows(pasted.rows);
+    ui_->tableWidget->showAdded();
+    setDirty(true);
+}
