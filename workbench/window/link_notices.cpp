@@ -20,8 +20,14 @@ LinkNotices::LinkNotices(HostSession& session, PluginWindows& windows, MessageLo
     using tracker::SimulatedTracker;
     connect(&session_.link(), &PluginLink::passed, this,
             [this](vlk::Direction direction, quint32 id, const void* p1) { look(direction, id, p1); });
-    connect(&session_, &HostSession::writeBegan, &watch_, [this] { watch_.begin(); });
-    connect(&session_, &HostSession::writeEnded, &watch_, &AnswerWatch::forget);
+    connect(&session_.road(), &WriteRoad::stepChanged, &watch_, [this](RoadReport::Step step) {
+        step == RoadReport::Step::review ? watch_.forget() : watch_.begin();
+    });
+    connect(&session_.road(), &WriteRoad::progressed, &watch_, [this] {
+        watch_.forget();
+        watch_.begin();
+    });
+    connect(&session_.road(), &WriteRoad::ended, &watch_, &AnswerWatch::forget);
     connect(&watch_, &AnswerWatch::silent, this, [this](const QDateTime& since, vlk::Message request) {
         setTrouble([this, since, request] { return silence(since, request); });
     });

@@ -14,6 +14,7 @@
 #include "window/message_box.h"
 #include "window/message_log_view.h"
 #include "window/recent_files.h"
+#include "window/road_windows.h"
 #include "window/save_notices.h"
 #include "window/scrolling.h"
 #include "window/status_line.h"
@@ -43,14 +44,17 @@ constexpr QSize usualSize(1024, 600);
 } // namespace
 
 WorkbenchWindow::WorkbenchWindow(const DataFolder& folder, Settings& settings, Languages& languages)
-    : folder_(folder), settings_(settings), languages_(languages), session_(folder.trackerFolder()),
-      windows_(this), commands_(this), helpPages_(sharedFolder(QStringLiteral("help"))),
+    : folder_(folder), settings_(settings), languages_(languages),
+      session_(folder.trackerFolder(), folder.backupsFolder()), windows_(this), commands_(this),
+      helpPages_(sharedFolder(QStringLiteral("help"))),
       status_(new StatusLine(statusBar(), [this] { return lasting(); })),
       device_(new DevicePanel(session_, this)), recent_(new RecentFiles(settings, this)),
       opener_(new FileOpener(session_, settings, *recent_, this)),
       bars_(new CommandBars(this, commands_, settings, languages, recent_->menu())),
       splitter_(new QSplitter(this)), tabs_(new QTabWidget(this)), logView_(new MessageLogView(&log_, this)),
-      reportView_(new WriteReportView(this)), trackerPanel_(new TrackerPanel(session_.tracker(), this))
+      reportView_(new WriteReportView(session_, this)),
+      trackerPanel_(new TrackerPanel(session_.tracker(), this)),
+      road_(new RoadWindows(session_, settings, this))
 {
     setObjectName(QStringLiteral("WorkbenchWindow"));
     setAcceptDrops(true);
@@ -135,17 +139,14 @@ void WorkbenchWindow::connectSession()
     // Before all that looks at a message: they mark it in the log.
     connect(&session_.link(), &PluginLink::passed, &log_, &MessageLogModel::append);
     connect(&session_, &HostSession::helpRequested, this, &WorkbenchWindow::showHelp);
-    connect(&session_, &HostSession::writeEnded, this, &WorkbenchWindow::showReport);
-    connect(&session_, &HostSession::writeBegan, this,
-            [this] { status_->tell(StatusLine::Command, [] { return text("wb_writing"); }); });
-    connect(&session_, &HostSession::writeCancelled, this,
-            [this] { status_->tell(StatusLine::Command, [] { return text("wb_write_cancelled"); }); });
-    connect(&session_, &HostSession::editedChanged, this, &WorkbenchWindow::showEdited);
-    session_.setReplaceQuestion([this](const QString& file) {
-        return agrees(file.isEmpty() ? text("wb_replace_question")
-                                     : text("wb_replace_question_file").arg(file),
-                      text("wb_replace_write"), QStringLiteral("messageBox_Replace"), this);
+    connect(&session_.road(), &WriteRoad::ended, this, &WorkbenchWindow::showReport);
+    connect(&session_.road(), &WriteRoad::stepChanged, this, [this](RoadReport::Step step) {
+        if (step == RoadReport::Step::writing)
+            status_->tell(StatusLine::Command, [] { return text("wb_writing"); });
     });
+    connect(&session_, &HostSession::writeRefused, this,
+            [this] { tellOpened([] { return text("wb_write_busy"); }); });
+    connect(&session_, &HostSession::editedChanged, this, &WorkbenchWindow::showEdited);
     session_.commands().setQuestion([this](const QString& text, const QString& verb) {
         return agrees(text, verb, QStringLiteral("messageBox_Command"), this);
     });
@@ -314,18 +315,23 @@ void WorkbenchWindow::showHelp(const QString& page)
     help_->showPage(page);
 }
 
-void WorkbenchWindow::showReport(const tracker::WriteReport& report)
+void WorkbenchWindow::showReport(const RoadReport& report)
 {
+    if (report.outcome == RoadReport::Outcome::cancelled) {
+        status_->tell(StatusLine::Command, [] { return text("wb_write_cancelled"); });
+        return;
+    }
     // What was refused is not written with those numbers yet.
-    const QString typed = report.accepted ? saveNotices_->typing().take() : QString();
+    const bool isWritten =
+        report.outcome == RoadReport::Outcome::confirmed || report.outcome == RoadReport::Outcome::notTaken;
+    const QString typed = isWritten ? saveNotices_->typing().take() : QString();
     reportView_->setReport(report, typed);
     tabs_->setCurrentIndex(ReportTab);
     status_->tell(StatusLine::Command, [report, typed] {
         const QString summary = workbench::summary(report).section(QLatin1Char('\n'), 0, 0);
         return typed.isEmpty() ? summary : summary + QLatin1Char('\n') + typed;
     });
-    if (QWidget* modal = QApplication::activeModalWidget())
-        WriteReportView::showDialog(report, typed, modal);
+    road_->showReport(report, typed);
 }
 
 void WorkbenchWindow::showEdited()
@@ -391,9 +397,11 @@ bool WorkbenchWindow::mayClose()
     QWidget* calibration = PluginWindows::calibration();
     if (calibration && !calibration->close())
         return false;
-    // The report of what was refused would go unseen.
-    if (!session_.finishWrites())
+    // Its report would go unseen.
+    if (session_.road().isBusy()) {
+        tellOpened([] { return text("wb_close_writing"); });
         return false;
+    }
     return !session_.link().runningWork().saving ||
            agrees(text("wb_close_saving"), text("wb_close_verb"), QStringLiteral("messageBox_Close"), this);
 }

@@ -33,6 +33,7 @@ class Languages;
 class LinkNotices;
 class MessageLogView;
 class RecentFiles;
+class RoadWindows;
 class SaveNotices;
 class StatusLine;
 class TrackerPanel;
@@ -82,7 +83,7 @@ private:
     void showBalance();
     void about();
     bool mayClose();
-    void showReport(const tracker::WriteReport& report);
+    void showReport(const RoadReport& report);
     void showEdited();
     void updateCommands();
     bool isConfigurationOpen() const;
@@ -112,6 +113,7 @@ private:
     std::unique_ptr<LinkNotices> linkNotices_;
     std::unique_ptr<SaveNotices> saveNotices_;
     std::unique_ptr<FileNotices> fileNotices_;
+    RoadWindows* road_;
 };
 
 } // namespace workbench
