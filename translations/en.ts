@@ -2164,8 +2164,17 @@
     <message id="wb_silence_command"><translation>No answer from the tracker since %1. Whether it has done what was asked is not known. Check the cable.</translation></message>
     <message id="wb_silence_mute"><translation>No answer from the tracker since %1. It may hold nothing of the kind; else check the cable and ask again.</translation></message>
     <message id="wb_silence_save"><translation>No answer from the tracker since %1. It is asked again every %2&#160;s, and the save goes on by itself when it answers.</translation></message>
+    <message id="wb_silence_write"><translation>No answer from the tracker since %1. If none comes, the write ends by itself. Check the cable.</translation></message>
+    <message id="wb_start_attached"><translation>%1 %2 is attached</translation></message>
+    <message id="wb_start_detached"><translation>No tracker is attached</translation></message>
+    <message id="wb_start_look"><translation>Look at the simulated tracker</translation></message>
+    <message id="wb_start_look_line"><translation>no hardware needed: telemetry of a moving vehicle opens</translation></message>
+    <message id="wb_start_open"><translation>Open a file</translation></message>
+    <message id="wb_start_open_line"><translation>or drop it on this window</translation></message>
+    <message id="wb_start_read"><translation>Read from tracker</translation></message>
     <message id="wb_tab_log"><translation>Message &amp;log</translation></message>
     <message id="wb_tab_report"><translation>&amp;Write report</translation></message>
+    <message id="wb_tab_start"><translation>Sta&amp;rt</translation></message>
     <message id="wb_tab_tracker"><translation>&amp;Simulated tracker</translation></message>
     <message id="wb_table"><translation>Telemetry file as t&amp;able…</translation></message>
     <message id="wb_table_short"><translation>Table</translation></message>

@@ -2164,8 +2164,17 @@
     <message id="wb_silence_command"><translation>Ответа от трекера нет с %1. Выполнил ли он команду, неизвестно. Проверьте кабель.</translation></message>
     <message id="wb_silence_mute"><translation>Ответа от трекера нет с %1. Возможно, таких данных у него нет; если они есть, проверьте кабель и запросите ещё раз.</translation></message>
     <message id="wb_silence_save"><translation>Ответа от трекера нет с %1. Запрос повторяется каждые %2&#160;с; после ответа сохранение продолжится.</translation></message>
+    <message id="wb_silence_write"><translation>Ответа от трекера нет с %1. Если его не будет, запись прекратится сама. Проверьте кабель.</translation></message>
+    <message id="wb_start_attached"><translation>Подключён %1 %2</translation></message>
+    <message id="wb_start_detached"><translation>Трекер не подключён</translation></message>
+    <message id="wb_start_look"><translation>Посмотреть на имитатор трекера</translation></message>
+    <message id="wb_start_look_line"><translation>оборудование не нужно: откроется телеметрия движущейся машины</translation></message>
+    <message id="wb_start_open"><translation>Открыть файл</translation></message>
+    <message id="wb_start_open_line"><translation>или перетащите его в это окно</translation></message>
+    <message id="wb_start_read"><translation>Прочитать из трекера</translation></message>
     <message id="wb_tab_log"><translation>&amp;Журнал сообщений</translation></message>
     <message id="wb_tab_report"><translation>От&amp;чёт о записи</translation></message>
+    <message id="wb_tab_start"><translation>&amp;Начало</translation></message>
     <message id="wb_tab_tracker"><translation>И&amp;митатор трекера</translation></message>
     <message id="wb_table"><translation>Файл телеметрии т&amp;аблицей…</translation></message>
     <message id="wb_table_short"><translation>Таблица</translation></message>

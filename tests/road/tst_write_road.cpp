@@ -25,8 +25,6 @@ using Fault = RoadReport::Fault;
 using Outcome = RoadReport::Outcome;
 using Step = RoadReport::Step;
 
-Q_DECLARE_METATYPE(workbench::WriteReview)
-
 namespace {
 
 QByteArray device(const QByteArray& content)
@@ -162,7 +160,6 @@ struct Bench
         [this](const QByteArray& a, const QByteArray& b) { return comparer.compare(a, b); },
         {},
         {20, 60}};
-    int registered = qRegisterMetaType<workbench::WriteReview>("workbench::WriteReview");
     QSignalSpy reviews{&road, &workbench::WriteRoad::reviewReady};
     QVector<RoadReport> reports;
 };

@@ -107,3 +107,4 @@ inline int RoadReport::missed() const
 } // namespace workbench
 
 Q_DECLARE_METATYPE(workbench::RoadReport)
+Q_DECLARE_METATYPE(workbench::WriteReview)

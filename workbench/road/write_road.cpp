@@ -48,6 +48,7 @@ WriteRoad::WriteRoad(TrackerPort& port, Backups& backups, Compare compare, Advis
       timing_(timing)
 {
     qRegisterMetaType<RoadReport>();
+    qRegisterMetaType<WriteReview>();
     notice_.setSingleShot(true);
     patience_.setSingleShot(true);
     connect(&notice_, &QTimer::timeout, this, [this] {

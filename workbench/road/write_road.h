@@ -23,7 +23,7 @@ public:
     struct Timing
     {
         int noticeMs = 3000;   // a silence that is worth a word
-        int patienceMs = 9000; // after which no answer is expected any more
+        int patienceMs = 6000; // after which no answer is expected any more
     };
 
     WriteRoad(TrackerPort& port, Backups& backups, Compare compare, Advise advise, Timing timing);

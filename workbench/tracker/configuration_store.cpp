@@ -59,6 +59,15 @@ QByteArray readWhole(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.read(largestDocument) : QByteArray();
 }
 
+QByteArray textOf(const QDomDocument& document)
+{
+    QByteArray text;
+    QTextStream stream(&text);
+    document.save(stream, 1, QDomNode::EncodingFromDocument);
+    stream.flush();
+    return text;
+}
+
 // The new document with those sections of the old one behind it that it lacks: a file sets what it holds and
 // leaves the rest of the tracker alone.
 QByteArray withKeptSections(const QByteArray& taken, const QByteArray& old, QStringList& kept)
@@ -77,11 +86,7 @@ QByteArray withKeptSections(const QByteArray& taken, const QByteArray& old, QStr
     }
     if (kept.isEmpty())
         return taken;
-    QByteArray merged;
-    QTextStream stream(&merged);
-    document.save(stream, 1, QDomNode::EncodingFromDocument);
-    stream.flush();
-    return merged;
+    return textOf(document);
 }
 
 // The new document with the first section that changed as it was before.
@@ -101,7 +106,7 @@ QByteArray withoutOneChange(const QByteArray& taken, const QByteArray& old)
     QDomElement root = document.documentElement();
     root.replaceChild(document.importNode(was.documentElement().firstChildElement(section), true),
                       root.firstChildElement(section));
-    return document.toByteArray(1);
+    return textOf(document);
 }
 
 void compare(const ConfigurationValues& before, const ConfigurationValues& after, WriteReport& report)

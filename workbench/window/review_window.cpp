@@ -27,6 +27,7 @@ namespace {
 // Nobody has read anything before.
 constexpr int unseenMs = 300;
 constexpr QSize usualSize(760, 420);
+constexpr int roomAround = 130; // what stands above and below the table
 
 QString titleOf(const TrackerIdentity& tracker)
 {
@@ -70,7 +71,8 @@ ReviewWindow::ReviewWindow(const WriteReview& review, Settings& settings, QWidge
     addTable(column);
     addAdvice(column);
     addButtons(column);
-    resizeWithin(this, usualSize);
+    const auto* table = findChild<QTableView*>(QStringLiteral("tableView_Review"));
+    resizeWithin(this, {usualSize.width(), qMin(usualSize.height(), roomAround + heightOfRows(*table))});
 }
 
 void ReviewWindow::addOrigin(QVBoxLayout* column)
@@ -149,8 +151,8 @@ void ReviewWindow::addTable(QVBoxLayout* column)
     auto* empty = new EmptyNote(table);
     empty->tell(text("wb_review_none"));
     table->horizontalHeader()->setStretchLastSection(true);
-    table->setColumnWidth(SettingChangeModel::Setting, usualSize.width() * 45 / 100);
-    table->setColumnWidth(SettingChangeModel::Before, usualSize.width() * 26 / 100);
+    table->setColumnWidth(SettingChangeModel::Setting, usualSize.width() * 52 / 100);
+    table->setColumnWidth(SettingChangeModel::Before, usualSize.width() * 23 / 100);
     column->addWidget(table, 1);
 }
 

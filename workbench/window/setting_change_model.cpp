@@ -4,7 +4,9 @@
 #include "typing/field_mark.h"
 
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QStringList>
+#include <QTableView>
 
 namespace workbench {
 
@@ -18,6 +20,12 @@ QString settingName(const SettingChange& change)
 QString shownValue(const QString& value, const QString& words)
 {
     return value.isNull() ? QStringLiteral("–") : words;
+}
+
+int heightOfRows(const QTableView& table)
+{
+    constexpr int atLeast = 4;
+    return table.verticalHeader()->defaultSectionSize() * (qMax(atLeast, table.model()->rowCount()) + 2);
 }
 
 SettingChangeModel::SettingChangeModel(Heads heads, bool canBeChosen, QObject* parent)

@@ -8,12 +8,17 @@
 #include <QAbstractTableModel>
 #include <QSet>
 
+class QTableView;
+
 namespace workbench {
 
 // "Data transfer, Server 1, port"; the key itself where nobody knows it.
 QString settingName(const SettingChange& change);
 // What a side holds; a dash where it lacks the key.
 QString shownValue(const QString& value, const QString& words);
+
+// Of all rows and the heads, however few there are.
+int heightOfRows(const QTableView& table);
 
 class SettingChangeModel : public QAbstractTableModel
 {

@@ -91,26 +91,33 @@ void SimulatedPort::sendBlock()
     sent_ = qMin(sent_ + blockSize, qint64(document_.size()));
     const bool isAll = sent_ == document_.size();
     // Who hears of it may drop the rest.
-    later(isAll ? blockMs + qMax(0, tracker_.faults().delayMs) : blockMs,
-          [this, isAll] { isAll ? finishWrite() : sendBlock(); });
+    later(blockMs, [this] { sendBlock(); });
     Q_EMIT sent(sent_, document_.size());
     if (isAll && run_)
-        Q_EMIT taken();
+        takeAll();
 }
 
-void SimulatedPort::finishWrite()
+// From here on it is the tracker's; only its answer may be lost.
+void SimulatedPort::takeAll()
 {
-    if (tracker_.attached() && tracker_.faults().silence) {
-        later(silenceMs, [this] { finishWrite(); });
-        return;
-    }
     const tracker::WriteReport report = tracker_.takeConfiguration(document_);
-    if (report.accepted)
-        Q_EMIT writeEnded({PortAnswer::Outcome::done, {}, {}, {}});
-    else if (!tracker_.attached())
-        Q_EMIT writeEnded({PortAnswer::Outcome::unplugged, {}, {}, {}});
+    PortAnswer answer;
+    if (!report.accepted)
+        answer = tracker_.attached()
+                     ? PortAnswer{PortAnswer::Outcome::refused, {}, report.reasonKey, report.detail}
+                     : PortAnswer{PortAnswer::Outcome::unplugged, {}, {}, {}};
+    later(blockMs + qMax(0, tracker_.faults().delayMs), [this, answer] { answerWrite(answer); });
+    Q_EMIT taken();
+}
+
+void SimulatedPort::answerWrite(const PortAnswer& answer)
+{
+    if (tracker_.attached() && tracker_.faults().silence)
+        later(silenceMs, [this, answer] { answerWrite(answer); });
+    else if (tracker_.attached())
+        Q_EMIT writeEnded(answer);
     else
-        Q_EMIT writeEnded({PortAnswer::Outcome::refused, {}, report.reasonKey, report.detail});
+        Q_EMIT writeEnded({PortAnswer::Outcome::unplugged, {}, {}, {}});
 }
 
 } // namespace workbench

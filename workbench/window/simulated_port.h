@@ -27,7 +27,8 @@ private:
     void later(int ms, const std::function<void()>& act);
     void answer(Copy copy);
     void sendBlock();
-    void finishWrite();
+    void takeAll();
+    void answerWrite(const PortAnswer& answer);
 
     tracker::SimulatedTracker& tracker_;
     std::unique_ptr<QObject> run_; // what is under way hangs on it

@@ -17,6 +17,7 @@
 #include "window/road_windows.h"
 #include "window/save_notices.h"
 #include "window/scrolling.h"
+#include "window/start_panel.h"
 #include "window/status_line.h"
 #include "window/tracker_panel.h"
 #include "window/write_report_text.h"
@@ -36,8 +37,8 @@ namespace workbench {
 
 namespace {
 
-enum Tab { LogTab, ReportTab, TrackerTab };
-constexpr const char* tabKeys[] = {"wb_tab_log", "wb_tab_report", "wb_tab_tracker"};
+enum Tab { StartTab, ReportTab, TrackerTab, LogTab };
+constexpr const char* tabKeys[] = {"wb_tab_start", "wb_tab_report", "wb_tab_tracker", "wb_tab_log"};
 constexpr int leftWidth = 290;
 constexpr QSize usualSize(1024, 600);
 
@@ -51,7 +52,8 @@ WorkbenchWindow::WorkbenchWindow(const DataFolder& folder, Settings& settings, L
       device_(new DevicePanel(session_, this)), recent_(new RecentFiles(settings, this)),
       opener_(new FileOpener(session_, settings, *recent_, this)),
       bars_(new CommandBars(this, commands_, settings, languages, recent_->menu())),
-      splitter_(new QSplitter(this)), tabs_(new QTabWidget(this)), logView_(new MessageLogView(&log_, this)),
+      splitter_(new QSplitter(this)), tabs_(new QTabWidget(this)),
+      start_(new StartPanel(session_, commands_, this)), logView_(new MessageLogView(&log_, this)),
       reportView_(new WriteReportView(session_, this)),
       trackerPanel_(new TrackerPanel(session_.tracker(), this)),
       road_(new RoadWindows(session_, settings, this))
@@ -82,11 +84,11 @@ void WorkbenchWindow::buildPanels()
     leftLayout->addWidget(recent_, 1);
 
     tabs_->setObjectName(QStringLiteral("tabWidget_Main"));
-    for (QWidget* page : {static_cast<QWidget*>(logView_), static_cast<QWidget*>(reportView_),
-                          static_cast<QWidget*>(trackerPanel_)})
+    for (QWidget* page : {static_cast<QWidget*>(start_), static_cast<QWidget*>(reportView_),
+                          static_cast<QWidget*>(trackerPanel_), static_cast<QWidget*>(logView_)})
         tabs_->addTab(scrolling(page), QString());
     texts_.bind([this] {
-        for (const Tab tab : {LogTab, ReportTab, TrackerTab})
+        for (const Tab tab : {StartTab, ReportTab, TrackerTab, LogTab})
             tabs_->setTabText(tab, text(tabKeys[tab]));
     });
 
@@ -195,6 +197,7 @@ bool WorkbenchWindow::start(const QString& pluginPath)
     }
     device_->refresh();
     updateCommands();
+    start_->takeFocus();
     return loaded;
 }
 
@@ -357,6 +360,7 @@ void WorkbenchWindow::retranslate()
     status_->refresh();
     device_->retranslate();
     recent_->retranslate();
+    start_->retranslate();
     logView_->retranslate();
     reportView_->retranslate();
     trackerPanel_->retranslate();

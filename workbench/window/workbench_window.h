@@ -1,7 +1,7 @@
 #pragma once
 
-// The main window: the device, the recent files, and beside them the message log, the last write report and
-// the simulated tracker; above them the commands.
+// The main window: the device, the recent files, and beside them what there is to do, the last write report,
+// the simulated tracker and the message log; above them the commands.
 
 #include "window/commands.h"
 #include "window/help_viewer.h"
@@ -35,6 +35,7 @@ class MessageLogView;
 class RecentFiles;
 class RoadWindows;
 class SaveNotices;
+class StartPanel;
 class StatusLine;
 class TrackerPanel;
 class WriteReportView;
@@ -106,6 +107,7 @@ private:
     CommandBars* bars_;
     QSplitter* splitter_;
     QTabWidget* tabs_;
+    StartPanel* start_;
     MessageLogView* logView_;
     WriteReportView* reportView_;
     TrackerPanel* trackerPanel_;

@@ -27,19 +27,20 @@ namespace {
 
 constexpr QSize sizeWithSettings(860, 420);
 constexpr int widthOfWords = 560;
+constexpr int roomAround = 140; // what stands above and below the table
 
 } // namespace
 
 WriteReportView::WriteReportView(HostSession& session, QWidget* parent)
     : QWidget(parent), session_(session), symbol_(new QLabel(this)), summary_(new QLabel(this)),
-      copy_(new QToolButton(this)), table_(new QTableView(this)), backup_(new QLabel(this)),
-      buttons_(new QHBoxLayout)
+      time_(new QLabel(this)), copy_(new QToolButton(this)), table_(new QTableView(this)),
+      backup_(new QLabel(this)), buttons_(new QHBoxLayout)
 {
     summary_->setObjectName(QStringLiteral("label_Report"));
     summary_->setWordWrap(true);
     summary_->setTextFormat(Qt::PlainText);
     summary_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    symbol_->setAlignment(Qt::AlignTop);
+    symbol_->setContentsMargins(0, (fontMetrics().height() - markSize) / 2, 0, 0);
     copy_->setIcon(lineIcon(QStringLiteral("copy")));
     copy_->setAutoRaise(true);
     texts_.bind([this] {
@@ -58,9 +59,10 @@ WriteReportView::WriteReportView(HostSession& session, QWidget* parent)
     back_ = addButton("pushButton_BringBack", &WriteReportView::bringBack);
 
     auto* line = new QHBoxLayout;
-    line->addWidget(symbol_);
-    line->addWidget(summary_, 1);
-    line->addWidget(copy_);
+    line->addWidget(symbol_, 0, Qt::AlignTop);
+    line->addWidget(summary_, 1, Qt::AlignTop);
+    line->addWidget(time_, 0, Qt::AlignTop);
+    line->addWidget(copy_, 0, Qt::AlignTop);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(6, 6, 6, 6);
     column->setSpacing(6);
@@ -80,8 +82,8 @@ void WriteReportView::buildTable()
     table_->setIconSize({markSize, markSize});
     table_->horizontalHeader()->setStretchLastSection(true);
     const int letter = fontMetrics().averageCharWidth();
-    table_->setColumnWidth(WriteReportModel::Setting, letter * 45);
-    table_->setColumnWidth(WriteReportModel::Key, letter * 24);
+    table_->setColumnWidth(WriteReportModel::Setting, letter * 48);
+    table_->setColumnWidth(WriteReportModel::Key, letter * 22);
     table_->setColumnWidth(WriteReportModel::Sent, letter * 22);
     auto* empty = new EmptyNote(table_);
     texts_.bind([this, empty] {
@@ -130,6 +132,7 @@ void WriteReportView::showSummary()
     copy_->setVisible(any);
     symbol_->setVisible(any);
     summary_->setVisible(any);
+    time_->setVisible(any);
     backup_->setVisible(any && report_.backup > 0);
     backup_->setText(text("wb_report_backup").arg(number(report_.backup)));
     // What was never saved for the tracker is written again from its window.
@@ -145,8 +148,8 @@ void WriteReportView::showSummary()
                       : report_.outcome == Outcome::cancelled ? Mark::advice
                                                               : Mark::invalid;
     symbol_->setPixmap(markPixmap(mark, palette(), markSize, devicePixelRatioF()));
-    summary_->setText(QStringLiteral("%1 %2").arg(report_.time.toString(QStringLiteral("HH:mm:ss")),
-                                                  summary(report_, typed_)));
+    summary_->setText(summary(report_, typed_));
+    time_->setText(timeOfDay(report_.time));
 }
 
 void WriteReportView::retranslate()
@@ -179,7 +182,10 @@ void WriteReportView::showDialog(HostSession& session, const RoadReport& report,
     column->addWidget(view, 1);
     const bool keys = !report.settings.isEmpty();
     view->table_->setVisible(keys);
-    resizeWithin(dialog, keys ? sizeWithSettings : QSize(widthOfWords, dialog->heightForWidth(widthOfWords)));
+    resizeWithin(dialog,
+                 keys ? QSize(sizeWithSettings.width(),
+                              qMin(sizeWithSettings.height(), roomAround + heightOfRows(*view->table_)))
+                      : QSize(widthOfWords, dialog->heightForWidth(widthOfWords)));
     dialog->open();
     close->setFocus();
 }

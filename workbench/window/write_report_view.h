@@ -53,6 +53,7 @@ private:
     QString typed_;
     QLabel* symbol_;
     QLabel* summary_;
+    QLabel* time_;
     QToolButton* copy_;
     QTableView* table_;
     QLabel* backup_;
