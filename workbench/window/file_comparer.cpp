@@ -47,12 +47,34 @@ QString orNull(const QString* text)
 
 } // namespace
 
+QString FileComparer::put(const char* name, const QByteArray& document) const
+{
+    QSaveFile file(folder_.filePath(QLatin1String(name)));
+    return saveWhole(file, document) ? file.fileName() : QString();
+}
+
+QVector<SettingAdvice> FileComparer::advise(const QByteArray& document) const
+{
+    const QString path = put("looked-at.xml", document);
+    QVector<SettingAdvice> advice;
+    FileCheck asked;
+    asked.file = &path;
+    asked.context = &advice;
+    asked.take = [](void* context, const FileRemark* told) {
+        const bool isError = told->severity == FileRemark::error;
+        // What a load makes of it is the plug-in's business, unless it cannot work.
+        if (told->kind == FileRemark::advice || isError)
+            static_cast<QVector<SettingAdvice>*>(context)->append(
+                {isError, orNull(told->page), orNull(told->caption), orNull(told->text)});
+    };
+    if (!path.isEmpty())
+        link_.send(vlk::Message::CheckFile, &asked);
+    QFile::remove(path);
+    return advice;
+}
+
 std::optional<SettingChanges> FileComparer::compare(const QByteArray& before, const QByteArray& after) const
 {
-    const auto put = [this](const char* name, const QByteArray& document) {
-        QSaveFile file(folder_.filePath(QLatin1String(name)));
-        return saveWhole(file, document) ? file.fileName() : QString();
-    };
     const QString first = put("before.xml", before);
     const QString second = put("after.xml", after);
     SettingChanges changes;

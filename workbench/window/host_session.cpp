@@ -43,11 +43,12 @@ QByteArray contentOf(QFile& file)
 
 HostSession::HostSession(const QString& trackerFolder, const QString& backupsFolder, QObject* parent)
     : QObject(parent), tracker_(trackerFolder), backups_(backupsFolder),
-      road_(port_, backups_,
-            [this](const QByteArray& before, const QByteArray& after) {
-                return comparer_.compare(before, after);
-            },
-            {})
+      road_(
+          port_, backups_,
+          [this](const QByteArray& before, const QByteArray& after) {
+              return comparer_.compare(before, after);
+          },
+          [this](const QByteArray& document) { return comparer_.advise(document); })
 {
     tracker_.setSender([this](vlk::Message id, void* p1, void* p2) { deliver(id, p1, p2); });
     connect(&tracker_, &tracker::SimulatedTracker::attachedChanged, this, &HostSession::tellAttached);
@@ -247,6 +248,13 @@ void HostSession::finish(const RoadReport& report)
         QFile::exists(request.file) && !QFile::remove(request.file))
         qCWarning(lcSession) << "cannot remove" << request.file;
     Q_EMIT editedChanged();
+}
+
+std::optional<QByteArray> HostSession::present()
+{
+    const Fetched fetched = fetchConfiguration();
+    QFile::remove(fetched.path);
+    return fetched.failure ? std::nullopt : std::optional(fetched.document);
 }
 
 Sentence HostSession::writeAgain(const WriteRequest& request)

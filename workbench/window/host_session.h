@@ -48,6 +48,8 @@ public:
     Sentence openConfiguration(const QString& path, bool full);
     void newConfiguration(bool full);
 
+    // What the tracker holds now; none when it does not come.
+    std::optional<QByteArray> present();
     // Put on the write road. Null, or why it is not; what becomes of it there its report tells.
     Sentence writeAgain(const WriteRequest& request);
     // Of the paths alone where there are some.

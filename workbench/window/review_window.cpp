@@ -147,6 +147,7 @@ void ReviewWindow::addTable(QVBoxLayout* column)
     table->setModel(model);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     dressTable(table, TableUse::read);
+    elideInTheMiddle(table, SettingChangeModel::Setting);
     table->setIconSize({markSize, markSize});
     auto* empty = new EmptyNote(table);
     empty->tell(text("wb_review_none"));

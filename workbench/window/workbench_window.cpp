@@ -9,6 +9,7 @@
 #include "window/file_notices.h"
 #include "window/file_opener.h"
 #include "window/folders_dialog.h"
+#include "window/history_window.h"
 #include "window/installed_files.h"
 #include "window/link_notices.h"
 #include "window/message_box.h"
@@ -64,6 +65,7 @@ WorkbenchWindow::WorkbenchWindow(const DataFolder& folder, Settings& settings, L
     connectCommands();
     connectSession();
     connectNotices();
+    session_.backups().keepFor(settings_.backupDays(), QDateTime::currentDateTimeUtc());
     showEdited();
     device_->setMode(settings_.mode());
     updateCommands();
@@ -115,6 +117,8 @@ void WorkbenchWindow::connectCommands()
         session_.newConfiguration(settings_.fullWindow());
         tellOpened({});
     });
+    on(Command::History, [this] { showHistory(); });
+    on(Command::Previous, [this] { tellOpened(session_.bringBackPrevious()); });
     on(Command::LiveTelemetry, [this] { tellOpened(session_.liveTelemetry()); });
     on(Command::BrowseFile, [this] { opener_->chooseTelemetry(TelemetryWindow::Browser); });
     on(Command::TableFile, [this] { opener_->chooseTelemetry(TelemetryWindow::Table); });
@@ -208,7 +212,7 @@ void WorkbenchWindow::updateCommands()
     for (const Command command : {Command::OpenFile, Command::NewConfiguration, Command::BrowseFile,
                                   Command::TableFile, Command::BalanceCode})
         commands_[command]->setEnabled(loaded);
-    for (const Command command : {Command::ReadTracker, Command::LiveTelemetry})
+    for (const Command command : {Command::ReadTracker, Command::Previous, Command::LiveTelemetry})
         commands_[command]->setEnabled(loaded && attached);
     commands_[Command::Cable]->setChecked(attached);
     bars_->setLanguagesOffered(!isConfigurationOpen());
@@ -335,6 +339,14 @@ void WorkbenchWindow::showReport(const RoadReport& report)
         return typed.isEmpty() ? summary : summary + QLatin1Char('\n') + typed;
     });
     road_->showReport(report, typed);
+}
+
+void WorkbenchWindow::showHistory()
+{
+    if (!history_)
+        history_ = new HistoryWindow(session_, settings_, this);
+    history_->show();
+    history_->activateWindow();
 }
 
 void WorkbenchWindow::showEdited()

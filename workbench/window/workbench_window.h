@@ -29,6 +29,7 @@ class DevicePanel;
 class FaultsAtHand;
 class FileNotices;
 class FileOpener;
+class HistoryWindow;
 class Languages;
 class LinkNotices;
 class MessageLogView;
@@ -85,6 +86,7 @@ private:
     void about();
     bool mayClose();
     void showReport(const RoadReport& report);
+    void showHistory();
     void showEdited();
     void updateCommands();
     bool isConfigurationOpen() const;
@@ -100,6 +102,7 @@ private:
     Commands commands_;
     HelpPages helpPages_;
     QPointer<HelpViewer> help_;
+    QPointer<HistoryWindow> history_;
     StatusLine* status_;
     DevicePanel* device_;
     RecentFiles* recent_;

@@ -78,6 +78,7 @@ void WriteReportView::buildTable()
     table_->setModel(&model_);
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
     dressTable(table_, TableUse::read);
+    elideInTheMiddle(table_, WriteReportModel::Setting);
     elideInTheMiddle(table_, WriteReportModel::Key);
     table_->setIconSize({markSize, markSize});
     table_->horizontalHeader()->setStretchLastSection(true);
