@@ -61,6 +61,7 @@ enum class Message : std::uint32_t {
     GetRunningWork = 7106002,
     GetExtensions = 7106003,
     CompareFiles = 7106004,
+    ConfirmWrite = 7106005,
     CheckFile = 7106006,
 
     // Plug-in to host
@@ -232,6 +233,17 @@ struct FileComparison
     const QString* after = nullptr;
     void (*take)(void* context, const FileDifference* difference) = nullptr;
     void* context = nullptr;
+};
+
+// ConfirmWrite: edits are kept on disk until they are written. A host that compares what it has written with
+// what the tracker holds then says so once, after SetHostMode, and then after each WriteConfiguration that
+// came out right. Of a host that says nothing WriteConfiguration itself is taken for that.
+struct WriteConfirmation
+{
+    enum Step : std::uint32_t { willConfirm, confirmed };
+
+    std::uint32_t size = sizeof(WriteConfirmation);
+    std::uint32_t step = willConfirm;
 };
 
 // CheckFile: what a load and a save would not leave of a configuration file as it stands, and advice on it.
@@ -418,6 +430,7 @@ inline constexpr MessageInfo messages[] = {
     detail::in(Message::GetRunningWork, "GetRunningWork", Parameter::RecordAddress, Parameter::None, true),
     detail::in(Message::GetExtensions, "GetExtensions", Parameter::RecordAddress, Parameter::None, true),
     detail::in(Message::CompareFiles, "CompareFiles", Parameter::RecordAddress, Parameter::None, true),
+    detail::in(Message::ConfirmWrite, "ConfirmWrite", Parameter::RecordAddress),
     detail::in(Message::CheckFile, "CheckFile", Parameter::RecordAddress, Parameter::None, true),
 };
 

@@ -242,6 +242,7 @@ void WriteRoad::writeCame(const PortAnswer& answer)
     if (!isBusy_ || report_.step != Step::writing)
         return;
     if (answer.outcome == PortAnswer::Outcome::done) {
+        isTaken_ = true;
         setStep(Step::readingBack);
         readPresent();
     } else {

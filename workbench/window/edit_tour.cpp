@@ -5,6 +5,7 @@
 #include "window/write_report_text.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QComboBox>
 #include <QFile>
 #include <QFileDialog>
@@ -13,6 +14,7 @@
 #include <QSet>
 #include <QSpinBox>
 #include <QTabWidget>
+#include <QTableView>
 
 #include <algorithm>
 #include <memory>
@@ -239,6 +241,18 @@ void saveReadBack(Tour& tour, const Notebook& book)
                  QStringLiteral("%1 has the tracker's values, but is not the file that it holds").arg(path));
 }
 
+// The backup that the write has left, against what the tracker holds now.
+void lookAtHistory(Tour& tour)
+{
+    tour.window().session().link().send(Message::CloseWindows);
+    tour.window().findChild<QAction*>(QStringLiteral("action_History"))->trigger();
+    const auto* table = Tour::find<QTableView>("tableView_History");
+    Tour::expect(table->model()->rowCount() >= int(std::size(kEdits)),
+                 QStringLiteral("the history shows too few differences"));
+    tour.picture(QStringLiteral("history.png"), table->window());
+    table->window()->close();
+}
+
 } // namespace
 
 std::vector<Tour::Step> editTour()
@@ -256,6 +270,8 @@ std::vector<Tour::Step> editTour()
          }},
         {QStringLiteral("save what came back, equal to what the tracker holds"),
          [book](Tour& tour) { saveReadBack(tour, *book); }},
+        {QStringLiteral("look at the backup in the history"), lookAtHistory},
+        {QStringLiteral("open the configuration again"), readTracker},
     };
 }
 

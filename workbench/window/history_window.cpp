@@ -5,7 +5,7 @@
 #include "typing/empty_note.h"
 #include "typing/field_mark.h"
 #include "typing/table_look.h"
-#include "window/find_field.h"
+#include "window/backup_list.h"
 #include "window/host_session.h"
 #include "window/message_box.h"
 #include "window/scrolling.h"
@@ -24,7 +24,6 @@
 #include <QPushButton>
 #include <QSplitter>
 #include <QTableView>
-#include <QTreeWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -35,10 +34,6 @@ namespace {
 
 constexpr QSize historySize(940, 500);
 constexpr int listWidth = 340;
-
-enum Column { Moment, Changes, Note, ColumnCount };
-constexpr const char* columnKeys[ColumnCount] = {"wb_history_time", "wb_history_changes",
-                                                 "wb_history_note_head"};
 
 // Numbers of backups, and what else can be compared with.
 enum Other { TheTracker = -1, AFile = -2 };
@@ -54,42 +49,18 @@ constexpr KeepRow keepRows[] = {{0, "wb_history_always"},
                                 {366, "wb_history_year"},
                                 {1096, "wb_history_years"}};
 
-QString momentText(const QDateTime& made)
-{
-    return made.toLocalTime().toString(QStringLiteral("dd.MM.yyyy HH:mm:ss"));
-}
-
-QString numberText(int backup)
-{
-    return text("wb_history_number").arg(number(backup));
-}
-
-int numberOf(const QTreeWidgetItem* item)
-{
-    return item ? item->data(0, Qt::UserRole).toInt() : 0;
-}
-
-// The one before it of the same tracker.
-int earlierThan(const Backups& backups, const Backup& backup)
-{
-    const auto found = std::find_if(backups.all().cbegin(), backups.all().cend(), [&](const Backup& each) {
-        return each.tracker == backup.tracker && each.number < backup.number;
-    });
-    return found == backups.all().cend() ? 0 : found->number;
-}
-
 } // namespace
 
 HistoryWindow::HistoryWindow(HostSession& session, Settings& settings, QWidget* parent)
-    : QDialog(parent), session_(session), settings_(settings), filter_(new QLineEdit(this)),
-      list_(new QTreeWidget(this)), one_(new QComboBox(this)), other_(new QComboBox(this)),
+    : QDialog(parent), session_(session), settings_(settings), list_(new BackupList(session, this)),
+      one_(new QComboBox(this)), other_(new QComboBox(this)),
       model_([this](int column) { return headOf(column); }, true), table_(new QTableView(this)),
       keep_(new QComboBox(this))
 {
     setObjectName(QStringLiteral("dialog_History"));
     texts_.bind([this] { setWindowTitle(plainText("wb_history")); });
     auto* splitter = new QSplitter(this);
-    splitter->addWidget(buildList());
+    splitter->addWidget(list_);
     splitter->addWidget(buildDifferences());
     splitter->setStretchFactor(1, 1);
     splitter->setChildrenCollapsible(false);
@@ -100,55 +71,14 @@ HistoryWindow::HistoryWindow(HostSession& session, Settings& settings, QWidget* 
     column->addWidget(splitter, 1);
     column->addWidget(buildButtons());
 
-    counting_.setInterval(0);
-    connect(&counting_, &QTimer::timeout, this, &HistoryWindow::countNext);
+    connect(list_, &BackupList::selected, this, &HistoryWindow::select);
+    // Never brings anything back.
+    connect(list_, &BackupList::entered, table_, [this] { table_->setFocus(); });
     connect(&session_.backups(), &Backups::changed, this, &HistoryWindow::fill);
     connect(&session_.tracker(), &tracker::SimulatedTracker::attachedChanged, this, &HistoryWindow::fill);
     resizeWithin(this, historySize);
     fill();
     list_->setFocus();
-}
-
-QWidget* HistoryWindow::buildList()
-{
-    filter_->setObjectName(QStringLiteral("lineEdit_HistoryFilter"));
-    filter_->setClearButtonEnabled(true);
-    list_->setObjectName(QStringLiteral("treeWidget_Backups"));
-    list_->setColumnCount(ColumnCount);
-    dressTable(list_);
-    list_->setRootIsDecorated(true);
-    list_->setColumnWidth(Moment, cellWidth(*list_, QStringLiteral("00.00.0000 00:00:00")) +
-                                      2 * list_->indentation());
-    texts_.bind([this] {
-        filter_->setPlaceholderText(text("wb_history_filter"));
-        filter_->setAccessibleName(text("wb_history_filter"));
-        list_->setAccessibleName(text("wb_history_list"));
-        QStringList heads;
-        for (const char* key : columnKeys)
-            heads.append(text(key));
-        list_->setHeaderLabels(heads);
-        list_->resizeColumnToContents(Changes);
-    });
-    joinFindField(filter_, list_);
-    auto* empty = new EmptyNote(list_);
-    texts_.bind([empty] { empty->tell(text("wb_history_none")); });
-    connect(filter_, &QLineEdit::textChanged, this, &HistoryWindow::filter);
-    connect(list_, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {
-        if (const int backup = numberOf(item))
-            select(backup);
-    });
-    // Never brings anything back.
-    connect(list_, &QTreeWidget::itemActivated, this, [this](const QTreeWidgetItem* item) {
-        if (numberOf(item) != 0)
-            table_->setFocus();
-    });
-
-    auto* side = new QWidget(this);
-    auto* column = new QVBoxLayout(side);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(filter_);
-    column->addWidget(list_, 1);
-    return side;
 }
 
 QWidget* HistoryWindow::buildDifferences()
@@ -235,77 +165,11 @@ QPushButton* HistoryWindow::addButton(QLayout* line, const char* name, const cha
 void HistoryWindow::fill()
 {
     const int before = selected();
-    const QString attached = session_.tracker().attached() ? session_.tracker().text2() : QString();
-    const QSignalBlocker quiet(list_);
-    list_->clear();
     one_->clear();
-    uncounted_.clear();
-    QHash<QString, QTreeWidgetItem*> trackers;
-    for (const Backup& backup : session_.backups().all()) {
-        QTreeWidgetItem*& tracker = trackers[backup.tracker];
-        if (!tracker) {
-            tracker = new QTreeWidgetItem({backup.tracker + QLatin1Char(' ') + backup.name});
-            list_->insertTopLevelItem(backup.tracker == attached ? 0 : list_->topLevelItemCount(), tracker);
-            tracker->setFirstColumnSpanned(true);
-            tracker->setExpanded(true);
-        }
-        auto* item = new QTreeWidgetItem(tracker, {momentText(backup.made), {}, backup.note});
-        item->setData(0, Qt::UserRole, backup.number);
-        item->setToolTip(0, numberText(backup.number));
-        item->setTextAlignment(Changes, Qt::AlignRight | Qt::AlignVCenter);
-        if (changes_.contains(backup.number))
-            item->setText(Changes, number(changes_[backup.number]));
-        else if (earlierThan(session_.backups(), backup) != 0)
-            uncounted_.append(backup.number);
-        one_->addItem(numberText(backup.number), backup.number);
-    }
-    filter();
-    if (!uncounted_.isEmpty())
-        counting_.start();
-    const QTreeWidgetItem* first =
-        list_->topLevelItemCount() > 0 ? list_->topLevelItem(0)->child(0) : nullptr;
-    select(session_.backups().find(before) ? before : numberOf(first));
-}
-
-// One at a time, so that the window answers meanwhile.
-void HistoryWindow::countNext()
-{
-    if (uncounted_.isEmpty()) {
-        counting_.stop();
-        return;
-    }
-    const int next = uncounted_.takeFirst();
-    const Backups& backups = session_.backups();
-    const auto backup = backups.find(next);
-    if (!backup)
-        return;
-    const auto changes =
-        session_.comparer().compare(backups.document(earlierThan(backups, *backup)), backups.document(next));
-    if (!changes)
-        return;
-    changes_[next] = int(changes->size());
-    for (QTreeWidgetItemIterator item(list_); *item; ++item)
-        if (numberOf(*item) == next)
-            (*item)->setText(Changes, number(changes->size()));
-}
-
-void HistoryWindow::filter()
-{
-    const QString wanted = filter_->text().trimmed();
-    for (int top = 0; top < list_->topLevelItemCount(); ++top) {
-        QTreeWidgetItem* tracker = list_->topLevelItem(top);
-        const bool isTracker = tracker->text(0).contains(wanted, Qt::CaseInsensitive);
-        bool any = false;
-        for (int i = 0; i < tracker->childCount(); ++i) {
-            QTreeWidgetItem* item = tracker->child(i);
-            const QString words = item->text(Moment) + QLatin1Char(' ') + item->text(Note) +
-                                  QLatin1Char(' ') + QString::number(numberOf(item));
-            const bool shown = isTracker || words.contains(wanted, Qt::CaseInsensitive);
-            item->setHidden(!shown);
-            any |= shown;
-        }
-        tracker->setHidden(!any);
-    }
+    for (const Backup& backup : session_.backups().all())
+        one_->addItem(backupName(backup.number), backup.number);
+    list_->fill();
+    select(session_.backups().find(before) ? before : list_->newest());
 }
 
 int HistoryWindow::selected() const
@@ -316,10 +180,7 @@ int HistoryWindow::selected() const
 void HistoryWindow::select(int backup)
 {
     one_->setCurrentIndex(one_->findData(backup));
-    const QSignalBlocker quiet(list_);
-    for (QTreeWidgetItemIterator item(list_); *item; ++item)
-        if (backup != 0 && numberOf(*item) == backup)
-            list_->setCurrentItem(*item);
+    list_->select(backup);
     offerOthers();
     compare();
 }
@@ -333,7 +194,7 @@ void HistoryWindow::offerOthers()
         return;
     for (const Backup& each : session_.backups().all())
         if (each.number != backup->number)
-            other_->addItem(numberText(each.number), each.number);
+            other_->addItem(backupName(each.number), each.number);
     if (session_.tracker().attached())
         other_->addItem(text("wb_history_now"), TheTracker);
     other_->addItem(file_.isEmpty() ? text("wb_history_file") : QFileInfo(file_).fileName(), AFile);
@@ -417,7 +278,7 @@ void HistoryWindow::note()
         return;
     bool isGiven = false;
     const QString note =
-        QInputDialog::getText(this, numberText(backup->number), text("wb_history_note_label"),
+        QInputDialog::getText(this, backupName(backup->number), text("wb_history_note_label"),
                               QLineEdit::Normal, backup->note, &isGiven);
     if (isGiven && !session_.backups().setNote(backup->number, note.trimmed()))
         tell([] { return text("wb_history_note_failed"); });
@@ -444,6 +305,7 @@ void HistoryWindow::changeEvent(QEvent* event)
     QDialog::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
         texts_.apply();
+        list_->retranslate();
         fill();
     }
 }

@@ -5,18 +5,14 @@
 // settings on the road of every write.
 
 #include "window/key_texts.h"
+#include "window/sentence.h"
 #include "window/setting_change_model.h"
 
 #include <QDialog>
-#include <QHash>
-#include <QTimer>
 
 class QComboBox;
-class QLineEdit;
 class QPushButton;
 class QTableView;
-class QTreeWidget;
-class QTreeWidgetItem;
 
 namespace vlk {
 class EmptyNote;
@@ -24,9 +20,9 @@ class EmptyNote;
 
 namespace workbench {
 
+class BackupList;
 class HostSession;
 class Settings;
-struct Backup;
 
 class HistoryWindow : public QDialog
 {
@@ -39,13 +35,10 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    QWidget* buildList();
     QWidget* buildDifferences();
     QWidget* buildButtons();
     QPushButton* addButton(QLayout* line, const char* name, const char* key, void (HistoryWindow::*act)());
     void fill();
-    void filter();
-    void countNext();
     // 0 when none is selected.
     int selected() const;
     void select(int number);
@@ -64,8 +57,7 @@ private:
     HostSession& session_;
     Settings& settings_;
     KeyTexts texts_;
-    QLineEdit* filter_;
-    QTreeWidget* list_;
+    BackupList* list_;
     QComboBox* one_;
     QComboBox* other_;
     SettingChangeModel model_;
@@ -75,10 +67,7 @@ private:
     QPushButton* note_ = nullptr;
     QPushButton* chosen_ = nullptr;
     QPushButton* whole_ = nullptr;
-    QString file_;            // that was chosen to compare with
-    QHash<int, int> changes_; // to the one before, by number
-    QVector<int> uncounted_;
-    QTimer counting_;
+    QString file_; // that was chosen to compare with
 };
 
 } // namespace workbench

@@ -140,6 +140,10 @@ constexpr RecordRow records[] = {
          const auto& r = as<FileComparison>(p);
          return {QStringLiteral("outcome=%1 differences=%2").arg(r.outcome).arg(r.differences), {}};
      }},
+    {Message::ConfirmWrite,
+     [](const void* p) -> MessageText {
+         return {QStringLiteral("step=%1").arg(as<WriteConfirmation>(p).step), {}};
+     }},
     {Message::CheckFile,
      [](const void* p) -> MessageText {
          const auto& r = as<FileCheck>(p);

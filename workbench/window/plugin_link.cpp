@@ -160,6 +160,13 @@ QString PluginLink::balanceCode()
     return QString::fromLocal8Bit(code, qstrnlen(code, sizeof code));
 }
 
+void PluginLink::confirmWrite(vlk::WriteConfirmation::Step step)
+{
+    vlk::WriteConfirmation record;
+    record.step = step;
+    send(vlk::Message::ConfirmWrite, &record);
+}
+
 vlk::EndedSave PluginLink::endSave()
 {
     vlk::EndedSave record;

@@ -45,6 +45,8 @@ public:
     // Kind 0 is the browser, kind 1 the table.
     void showStoredFile(const QString& path, int kind);
     QString balanceCode();
+    // Once that writes are confirmed, then after each that was.
+    void confirmWrite(vlk::WriteConfirmation::Step step);
     // Nothing runs in a plug-in that does not know these two.
     vlk::EndedSave endSave();
     vlk::RunningWork runningWork();

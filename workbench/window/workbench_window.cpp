@@ -195,6 +195,7 @@ bool WorkbenchWindow::start(const QString& pluginPath)
     if (loaded) {
         applyFolders();
         session_.link().setMode(settings_.mode());
+        session_.link().confirmWrite(vlk::WriteConfirmation::willConfirm);
         session_.tracker().attach();
     } else {
         tellOfRun([this] { return session_.link().error(); });

@@ -6,6 +6,7 @@
 #include "window/setting_change_model.h"
 
 #include <QGuiApplication>
+#include <QPalette>
 
 namespace workbench {
 

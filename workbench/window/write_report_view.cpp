@@ -8,6 +8,7 @@
 #include "window/line_icon.h"
 #include "window/message_box.h"
 #include "window/scrolling.h"
+#include "window/setting_change_model.h"
 #include "window/trouble_text.h"
 #include "window/write_report_text.h"
 

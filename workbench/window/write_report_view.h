@@ -6,6 +6,7 @@
 
 #include "road/road_report.h"
 #include "window/key_texts.h"
+#include "window/sentence.h"
 #include "window/write_report_model.h"
 
 #include <QWidget>
