@@ -2104,7 +2104,7 @@
     <message id="wb_problem_root"><translation>Это не конфигурация: в строке %1, столбце %2 стоит &lt;%3&gt;.</translation></message>
     <message id="wb_problem_unreadable"><translation>Он не читается: %1.</translation></message>
     <message id="wb_progress_back"><translation>Конфигурация читается из трекера для сравнения.</translation></message>
-    <message id="wb_progress_bytes"><translation>%1 из %2 байт</translation></message>
+    <message id="wb_progress_bytes"><translation>%1 из %2&#160;байт</translation></message>
     <message id="wb_progress_late"><translation>Отменять поздно: файл уже в трекере.</translation></message>
     <message id="wb_progress_reading"><translation>Читается то, что сейчас в трекере.</translation></message>
     <message id="wb_progress_silent"><translation>Нет ответа с %1</translation></message>
