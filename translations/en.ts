@@ -2202,7 +2202,7 @@
     <message id="wb_start_read"><translation>Read from tracker</translation></message>
     <message id="wb_tab_log"><translation>Message &amp;log</translation></message>
     <message id="wb_tab_report"><translation>&amp;Write report</translation></message>
-    <message id="wb_tab_start"><translation>Sta&amp;rt</translation></message>
+    <message id="wb_tab_start"><translation>Start</translation></message>
     <message id="wb_tab_tracker"><translation>&amp;Simulated tracker</translation></message>
     <message id="wb_table"><translation>Telemetry file as t&amp;able…</translation></message>
     <message id="wb_table_short"><translation>Table</translation></message>

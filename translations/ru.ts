@@ -2202,7 +2202,7 @@
     <message id="wb_start_read"><translation>Прочитать из трекера</translation></message>
     <message id="wb_tab_log"><translation>&amp;Журнал сообщений</translation></message>
     <message id="wb_tab_report"><translation>От&amp;чёт о записи</translation></message>
-    <message id="wb_tab_start"><translation>&amp;Начало</translation></message>
+    <message id="wb_tab_start"><translation>Нача&amp;ло</translation></message>
     <message id="wb_tab_tracker"><translation>И&amp;митатор трекера</translation></message>
     <message id="wb_table"><translation>Файл телеметрии т&amp;аблицей…</translation></message>
     <message id="wb_table_short"><translation>Таблица</translation></message>

@@ -7,6 +7,7 @@
 #include "window/host_session.h"
 #include "window/trouble_text.h"
 
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -16,6 +17,8 @@
 namespace workbench {
 
 namespace {
+
+constexpr int listIndent = 12;
 
 enum Column { Moment, Changes, Note, ColumnCount };
 constexpr const char* columnKeys[ColumnCount] = {"wb_history_time", "wb_history_changes",
@@ -68,6 +71,9 @@ void BackupList::buildTree()
     tree_->setColumnCount(ColumnCount);
     dressTable(tree_);
     tree_->setRootIsDecorated(true);
+    tree_->setIndentation(listIndent);
+    tree_->header()->setMinimumSectionSize(0);
+    tree_->setColumnWidth(Note, 0); // it takes what the others leave
     tree_->setColumnWidth(Moment, cellWidth(*tree_, QStringLiteral("00.00.0000 00:00:00")) +
                                       2 * tree_->indentation());
     texts_.bind([this] {

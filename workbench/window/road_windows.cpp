@@ -8,8 +8,6 @@
 #include "window/settings.h"
 #include "window/write_report_view.h"
 
-#include <QApplication>
-
 namespace workbench {
 
 namespace {
@@ -79,8 +77,9 @@ void RoadWindows::review(const WriteReview& review)
 
 void RoadWindows::showReport(const RoadReport& report, const QString& typed)
 {
-    if (QWidget* modal = QApplication::activeModalWidget())
-        WriteReportView::showDialog(session_, report, typed, modal);
+    QWidget* front = windowInFront(mainWindow_);
+    if (front != mainWindow_)
+        WriteReportView::showDialog(session_, report, typed, front);
 }
 
 } // namespace workbench
