@@ -99,9 +99,9 @@ QWidget* HistoryWindow::buildDifferences()
     dressTable(table_, TableUse::read);
     elideInTheMiddle(table_, SettingChangeModel::Setting);
     table_->setIconSize({markSize, markSize});
-    table_->horizontalHeader()->setStretchLastSection(true);
-    table_->setColumnWidth(SettingChangeModel::Setting, 290);
-    table_->setColumnWidth(SettingChangeModel::Before, 130);
+    table_->horizontalHeader()->setSectionResizeMode(SettingChangeModel::Setting, QHeaderView::Stretch);
+    for (const int column : {SettingChangeModel::Before, SettingChangeModel::After})
+        table_->setColumnWidth(column, fontMetrics().averageCharWidth() * 17);
     empty_ = new EmptyNote(table_);
     connect(&model_, &QAbstractItemModel::dataChanged, this, &HistoryWindow::updateButtons);
 

@@ -151,9 +151,9 @@ void ReviewWindow::addTable(QVBoxLayout* column)
     table->setIconSize({markSize, markSize});
     auto* empty = new EmptyNote(table);
     empty->tell(text("wb_review_none"));
-    table->horizontalHeader()->setStretchLastSection(true);
-    table->setColumnWidth(SettingChangeModel::Setting, usualSize.width() * 52 / 100);
-    table->setColumnWidth(SettingChangeModel::Before, usualSize.width() * 23 / 100);
+    table->horizontalHeader()->setSectionResizeMode(SettingChangeModel::Setting, QHeaderView::Stretch);
+    for (const int side : {SettingChangeModel::Before, SettingChangeModel::After})
+        table->setColumnWidth(side, fontMetrics().averageCharWidth() * 22);
     column->addWidget(table, 1);
 }
 

@@ -82,11 +82,11 @@ void WriteReportView::buildTable()
     elideInTheMiddle(table_, WriteReportModel::Setting);
     elideInTheMiddle(table_, WriteReportModel::Key);
     table_->setIconSize({markSize, markSize});
-    table_->horizontalHeader()->setStretchLastSection(true);
+    // The name takes what the others leave.
+    table_->horizontalHeader()->setSectionResizeMode(WriteReportModel::Setting, QHeaderView::Stretch);
     const int letter = fontMetrics().averageCharWidth();
-    table_->setColumnWidth(WriteReportModel::Setting, letter * 48);
-    table_->setColumnWidth(WriteReportModel::Key, letter * 22);
-    table_->setColumnWidth(WriteReportModel::Sent, letter * 22);
+    for (const int column : {WriteReportModel::Key, WriteReportModel::Sent, WriteReportModel::ReadBack})
+        table_->setColumnWidth(column, letter * 17);
     auto* empty = new EmptyNote(table_);
     texts_.bind([this, empty] {
         empty->tell(text(report_.time.isValid() ? "wb_report_nothing" : "wb_report_none"));
