@@ -219,7 +219,7 @@ std::vector<QWidgetList> VLK_Widget_Config::areas() const
                               part->findChild<QPushButton*>(QString(), Qt::FindDirectChildrenOnly);
         (isButton ? buttons : content).append(part);
     }
-    return {{unsaved_}, {bar_}, content, panels, buttons};
+    return {{bar_}, content, panels, buttons};
 }
 
 void VLK_Widget_Config::showPanel(vlk::ReviewBar::Panel panel)

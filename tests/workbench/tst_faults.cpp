@@ -18,7 +18,9 @@ Q_DECLARE_METATYPE(tracker::Protocol)
 
 namespace {
 
-enum Step { Read, Write, Live, Period, Search, Clear, Mileage, Output };
+// Write: what goes wrong is there before the button is pressed; Send: from the review on; Back: when the
+// tracker has the file.
+enum Step { Read, Write, Send, Back, Live, Period, Search, Clear, Mileage, Output };
 
 struct Bench : OpenedWorkbench
 {
@@ -37,6 +39,13 @@ struct Bench : OpenedWorkbench
             } else if (auto* input = qobject_cast<QInputDialog*>(modal)) {
                 input->setDoubleValue(5000.5);
                 input->accept();
+            } else if (modal && modal->objectName() == QLatin1String("dialog_Review")) {
+                auto* write = modal->findChild<QAbstractButton*>(QStringLiteral("pushButton_Write"));
+                const auto* origin = modal->findChild<QLabel*>(QStringLiteral("label_Origin"));
+                if (!write->isEnabled())
+                    return;
+                origins.append(origin ? origin->text() : QString());
+                agrees ? write->click() : void(modal->close());
             } else if (auto* dialog = qobject_cast<QFileDialog*>(modal)) {
                 dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(file());
                 QMetaObject::invokeMethod(dialog, "accept");
@@ -88,12 +97,14 @@ struct Bench : OpenedWorkbench
                                     : QStringLiteral("out of place");
     }
 
+    static bool isWrite(Step step) { return step == Write || step == Send || step == Back; }
+
     // What comes before the step, with a sound tracker.
     void prepare(Step step)
     {
-        if (step == Write || step == Search)
+        if (isWrite(step) || step == Search)
             action("action_Read")->trigger();
-        if (step == Write)
+        if (isWrite(step))
             configuration()->findChild<QLineEdit*>(QStringLiteral("lineEdit_Name"))->setText(newName);
         if (step < Live || step == Search)
             return;
@@ -108,6 +119,8 @@ struct Bench : OpenedWorkbench
         case Read:
             return action("action_Read")->trigger();
         case Write:
+        case Send:
+        case Back:
             return press(configuration(), "pushButton_LoadToDevice");
         case Live:
             return press(telemetry(), "pushButton_Get_Current");
@@ -160,6 +173,7 @@ struct Bench : OpenedWorkbench
 
     QTimer person;
     QStringList boxes;
+    QStringList origins;    // of what was reviewed
     QPointer<QWidget> over; // which window the last box came up
     bool agrees = true;     // to what is asked
 };
@@ -316,7 +330,7 @@ private Q_SLOTS:
     }
 
     // One that was not read from the tracker replaces what nobody has seen.
-    void asksBeforeAFileIsWritten()
+    void showsWhatAFileWouldReplace()
     {
         Bench bench;
         bench.agrees = false;
@@ -327,7 +341,8 @@ private Q_SLOTS:
         bench.take(Write);
         QTRY_VERIFY2(bench.status().contains(QLatin1String("The write was cancelled")),
                      qPrintable(bench.everything()));
-        QVERIFY(bench.boxes.filter(QStringLiteral("comes from the file van.xml")).size() == 1);
+        QCOMPARE(bench.origins.size(), 1);
+        QVERIFY(bench.origins.first().contains(QLatin1String("comes from the file van.xml")));
     }
 
     void refusesWhatDestroys_data()
@@ -368,7 +383,7 @@ private Q_SLOTS:
     {
         DataTable<int, QString>({"work", "said"})
             .row("a save", Period, "Closing ends the save")
-            .row("a write that is refused", Write, "not written. The tracker does not answer");
+            .row("a write", Write, "A configuration is on its way to the tracker");
     }
     void closesOverNoWork()
     {
@@ -380,14 +395,17 @@ private Q_SLOTS:
             bench.beginSave();
         } else {
             bench.prepare(Write);
-            bench.tracker().setFaults({.silence = true, .delayMs = 60'000});
+            bench.tracker().setFaults({.silence = true});
             bench.take(Write);
             Bench::configuration()->close();
-            QTRY_VERIFY(bench.status().contains(QLatin1String("is being written")));
+            QTRY_VERIFY(bench.window.session().road().isBusy());
         }
         QVERIFY(!bench.window.close() && bench.window.isVisible());
         QVERIFY2(bench.everything().contains(said), qPrintable(bench.everything()));
         QVERIFY(work != Period || Bench::telemetry());
+        if (work == Write)
+            QTRY_VERIFY_WITH_TIMEOUT(
+                bench.status().contains(QLatin1String("not written. The tracker does not")), 20'000);
         bench.agrees = true;
         QVERIFY(bench.window.close() && !Bench::telemetry());
         QCOMPARE(QFile::exists(bench.file()), work == Period);
@@ -411,9 +429,12 @@ private Q_SLOTS:
     {
         const Faults none, silence{.silence = true}, shortened{.shortAnswers = true},
             garbled{.garbledAnswers = true}, unplug{.unplug = true}, board{.badBoard = true},
-            delay{.delayMs = 20}, late{.delayMs = workbench::AnswerWatch::patienceMs + 1000};
+            delay{.delayMs = 20}, power{.powerLoss = true}, page{.skipsPage = true},
+            late{.delayMs = workbench::AnswerWatch::patienceMs + 1000};
         const QString ready = QStringLiteral("Ready");
-        const QString written = QStringLiteral("Configuration written");
+        const QString written = QStringLiteral("Written and confirmed: 1 of 1 settings");
+        const QString notConfirmedWrite =
+            QStringLiteral("sent but not confirmed: what the tracker holds is not known");
         const QString closed = QStringLiteral("so its telemetry window was closed");
         const QString silent = QStringLiteral("No answer from the tracker since ");
         const QString unknown =
@@ -433,13 +454,26 @@ private Q_SLOTS:
             .row("write", Write, none, written, true, false)
             .row("write, silence", Write, silence, "not written. The tracker does not answer. Check", true,
                  false)
-            .row("write, short", Write, shortened, written, true, false)
-            .row("write, garbled", Write, garbled, written, true, false)
+            .row("write, short", Write, shortened, "not written. The tracker's answer .* cut short", true,
+                 false)
+            .row("write, garbled", Write, garbled, "not written. The tracker's answer .* damaged one", true,
+                 false)
             .row("write, unplugged", Write, unplug, "not written. The tracker was unplugged", true, false)
             .row("write, delay", Write, delay, written, true, false)
             .row("write, late", Write, late, silent, true, false)
             .row("write, bad board", Write, board, written, true, false)
             .row("write, full disk", Write, none, "nothing was sent. ", true, true)
+            .row("send, silence", Send, silence, "not written. The tracker does not answer. Check", true,
+                 false)
+            .row("send, unplugged", Send, unplug, "not written. The tracker was unplugged during", true,
+                 false)
+            .row("send, power loss", Send, power, notConfirmedWrite, true, false)
+            .row("send, a page", Send, page, "Not taken: 1 of 1 settings", true, false)
+            .row("send, short", Send, shortened, notConfirmedWrite, true, false)
+            .row("send, full disk", Send, none, "could not be backed up, so nothing was sent", true, true)
+            .row("back, silence", Back, silence, notConfirmedWrite, true, false)
+            .row("back, garbled", Back, garbled, notConfirmedWrite, true, false)
+            .row("back, unplugged", Back, unplug, notConfirmedWrite, true, false)
             .row("live", Live, none, ready, true, false)
             .row("live, silence", Live, silence, silent, true, false)
             .row("live, short", Live, shortened, "2301 from the tracker: cut short", true, false)
@@ -500,10 +534,20 @@ private Q_SLOTS:
         bench.boxes.clear();
         connect(&bench.window.session().link(), &workbench::PluginLink::passed, this,
                 [&answered](vlk::Direction way, quint32) { answered |= way == vlk::Direction::ToPlugin; });
-        bench.tracker().setFaults(faults);
         std::optional<FullDisk> disk;
-        if (diskIsFull)
-            disk.emplace(1000);
+        const auto spoil = [&] {
+            bench.tracker().setFaults(faults);
+            if (diskIsFull)
+                disk.emplace(1000);
+        };
+        workbench::WriteRoad* road = &bench.window.session().road();
+        QObject context;
+        if (step == Send)
+            connect(road, &workbench::WriteRoad::reviewReady, &context, spoil);
+        else if (step == Back)
+            connect(road, &workbench::WriteRoad::taken, &context, spoil);
+        else
+            spoil();
         bench.take(Step(step));
         // A line that was there before says nothing until an answer has come.
         const auto isSaid = [&] {
@@ -511,7 +555,7 @@ private Q_SLOTS:
                    (answered || said != QLatin1String("Ready"));
         };
         QTRY_VERIFY2_WITH_TIMEOUT(isSaid(), qPrintable(bench.everything()), 20'000);
-        const bool ofConfiguration = step == Read || step == Write || step == Search;
+        const bool ofConfiguration = step < Live || step == Search;
         QWidget* window = ofConfiguration ? Bench::configuration() : Bench::telemetry();
         QCOMPARE(window != nullptr, open);
         const bool hasNotice = open && step >= Live && step != Period;
@@ -541,8 +585,15 @@ private Q_SLOTS:
             QVERIFY(window->findChild<QProgressBar*>(QStringLiteral("progressBar_Find"))->isHidden());
         if (said == QLatin1String("Ready"))
             QCOMPARE(bench.boxes, QStringList());
-        if (step == Write)
-            QCOMPARE(bench.nameInTracker() == Bench::newName, said == QLatin1String("Configuration written"));
+        if (step == Write || step == Send)
+            QCOMPARE(bench.nameInTracker() == Bench::newName,
+                     said.startsWith(QLatin1String("Written")) || (step == Send && faults.shortAnswers));
+        if (step == Back)
+            QCOMPARE(bench.nameInTracker(), Bench::newName);
+        QCOMPARE(bench.window.session().backups().all().size(),
+                 step == Back || (step == Send && !diskIsFull) || said.startsWith(QLatin1String("Written"))
+                     ? 1
+                     : 0);
         if (step == Period && open)
             QCOMPARE(QFile::exists(bench.file()), bench.status().startsWith(QLatin1String("Saved: ")));
         const auto* log = bench.window.findChild<QTableView*>(QStringLiteral("tableView_Log"))->model();

@@ -9,7 +9,8 @@
 #include <QSignalSpy>
 #include <QtTest>
 
-using tracker::WriteReport;
+using workbench::RoadReport;
+using Outcome = RoadReport::Outcome;
 
 Q_DECLARE_METATYPE(tracker::Faults)
 
@@ -21,20 +22,31 @@ struct Bench
     workbench::Languages languages;
     bool english = languages.set(QStringLiteral("en"));
     workbench::DataFolder folder{root.path()};
-    workbench::HostSession session{folder.trackerFolder()};
-    QSignalSpy written{&session, &workbench::HostSession::writeEnded};
+    workbench::HostSession session{folder.trackerFolder(), folder.backupsFolder()};
+    QSignalSpy written{&session.road(), &workbench::WriteRoad::ended};
+    int reviewed = 0;
+    bool mustBeSeen = false; // the last review
 
     bool start()
     {
+        QObject::connect(&session.road(), &workbench::WriteRoad::reviewReady, &session,
+                         [this](const workbench::WriteReview& review) {
+                             ++reviewed;
+                             mustBeSeen = review.mustBeSeen();
+                             agrees ? session.road().approve() : void(session.road().cancel());
+                         });
         session.tracker().attach();
         return session.start(QStringLiteral(VLK_ECHO_PLUGIN));
     }
-    WriteReport report()
+    RoadReport report()
     {
         if (written.isEmpty())
-            written.wait(5000);
-        return written.isEmpty() ? WriteReport{} : written.takeFirst().first().value<WriteReport>();
+            written.wait(15'000);
+        return written.isEmpty() ? RoadReport{} : written.takeFirst().first().value<RoadReport>();
     }
+    bool isConfirmed() { return report().outcome == Outcome::confirmed; }
+
+    bool agrees = true;
 };
 
 } // namespace
@@ -73,12 +85,12 @@ private Q_SLOTS:
                 &workbench::MessageLogModel::append);
 
         QVERIFY(!bench.session.readConfiguration(true));
-        const WriteReport report = bench.report();
-        QVERIFY(report.accepted);
-        QVERIFY(report.sameAsBefore());
-        QVERIFY(!QFile::exists(report.file));
+        const RoadReport report = bench.report();
+        QVERIFY(report.outcome == Outcome::confirmed);
+        QVERIFY(report.settings.isEmpty() && report.backup == 1);
+        QVERIFY(!QFile::exists(report.request.file));
         // The request stands in the log before what it led to, and its read file is gone.
-        QCOMPARE(log.rowCount(), 2);
+        QVERIFY(log.line(log.rowCount() - 1).contains("7106005\tConfirmWrite\tstep=1"));
         QVERIFY(
             log.line(0).contains(QStringLiteral("2101\tOpenConfiguration\tshowFull=1 fromFile=0 path=\"")));
         QVERIFY(log.line(1).contains(QStringLiteral("2151\tWriteConfiguration\t\"")));
@@ -91,10 +103,59 @@ private Q_SLOTS:
         QVERIFY(bench.start());
         QVERIFY(!bench.session.readConfiguration(true));
         bench.session.tracker().detach(); // between the plug-in's message and the tracker's turn
-        const WriteReport report = bench.report();
-        QVERIFY(!report.accepted);
-        QCOMPARE(report.reasonKey, QStringLiteral("wb_refused_detached"));
-        QVERIFY(QFile::exists(report.file));
+        RoadReport report = bench.report();
+        QVERIFY(report.outcome == Outcome::notWritten && report.fault == RoadReport::Fault::detached);
+        QVERIFY(QFile::exists(report.request.file));
+        QVERIFY(workbench::summary(report).contains(report.request.file));
+        // Once more, and the file has done its work.
+        bench.session.tracker().attach();
+        QVERIFY(!bench.session.writeAgain(report.request));
+        QVERIFY(bench.isConfirmed() && !QFile::exists(report.request.file));
+    }
+
+    // While one is on its way there is no place for another.
+    void refusesASecondWrite()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        QSignalSpy refused(&bench.session, &workbench::HostSession::writeRefused);
+        QString path =
+            writeFile(bench.root.filePath("van.xml"), "<DEVICE model=\"R-7106\"><A x=\"1\"/></DEVICE>");
+        const auto write = [&] {
+            Q_EMIT bench.session.link().received(vlk::Message::WriteConfiguration, &path, nullptr);
+        };
+        write();
+        writeFile(path, "<DEVICE model=\"R-7106\"><A x=\"2\"/></DEVICE>");
+        write();
+        QVERIFY(bench.isConfirmed() && refused.size() == 1);
+        QCOMPARE(bench.session.tracker().configuration().text("A/x"), QString("1"));
+    }
+
+    // Whole, by chosen settings, and what the tracker itself has kept.
+    void bringsBackups()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        const auto write = [&](const char* attributes) {
+            QString path = writeFile(bench.root.filePath("w.xml"),
+                                     QByteArray("<DEVICE model=\"R-7106\"><A ") + attributes + "/></DEVICE>");
+            Q_EMIT bench.session.link().received(vlk::Message::WriteConfiguration, &path, nullptr);
+            return bench.isConfirmed();
+        };
+        const auto held = [&] {
+            const auto& values = bench.session.tracker().configuration();
+            return values.text("A/x") + values.text("A/y");
+        };
+        QVERIFY(write("x=\"1\" y=\"1\"") && write("x=\"2\" y=\"2\""));
+        QVERIFY(!bench.session.bringBack(2, {"A/y"}) && bench.isConfirmed());
+        QCOMPARE(held(), QString("21"));
+        QVERIFY(!bench.session.bringBackPrevious() && bench.isConfirmed());
+        QCOMPARE(held(), QString("22"));
+        QVERIFY(!bench.session.bringBack(2) && bench.isConfirmed());
+        QCOMPARE(held(), QString("11"));
+        QVERIFY(bench.session.bringBack(99) && bench.session.backups().all().size() == 5);
+        bench.session.tracker().setFaults({.silence = true});
+        QVERIFY(bench.session.bringBack(2, {"A/y"})().contains("not brought back"));
     }
 
     // A delay slows a write as it slows every answer; what is opened meanwhile is none of its business.
@@ -109,15 +170,9 @@ private Q_SLOTS:
         Q_EMIT bench.session.link().received(vlk::Message::WriteConfiguration, &path, nullptr);
         QTest::qWait(100);
         bench.session.newConfiguration(true);
-        QVERIFY(bench.report().accepted);
+        QVERIFY(bench.isConfirmed());
         QVERIFY(timer.elapsed() >= 300);
-        QVERIFY(bench.session.edited().replacesUnseen());
-        // The new one is under way now, and goes at once where there is no time left.
-        QVERIFY(bench.written.isEmpty());
-        bench.session.finishWrites();
-        QVERIFY(bench.report().accepted && !bench.session.edited().replacesUnseen());
-        QTest::qWait(400);
-        QVERIFY(bench.written.isEmpty());
+        QVERIFY(bench.session.edited().isNew() && bench.session.edited().seenIn().isEmpty());
     }
 
     // The window would not let it be written; a file can bring it all the same.
@@ -172,37 +227,29 @@ private Q_SLOTS:
         QVERIFY(bench.session.edited().name().isEmpty());
     }
 
-    void asksBeforeItReplacesEverything()
+    void mustShowWhatReplacesEverything()
     {
         Bench bench;
         QVERIFY(bench.start());
-        bool answer = false;
-        int asked = 0;
-        QString of;
-        bench.session.setReplaceQuestion([&](const QString& file) {
-            ++asked;
-            of = file;
-            return answer;
-        });
-        QSignalSpy cancelled(&bench.session, &workbench::HostSession::writeCancelled);
+        bench.agrees = false;
         bench.session.newConfiguration(true);
         QVERIFY(QFile::exists(QStringLiteral("vlk_echo.xml")));
-        QVERIFY(cancelled.wait());
-        QVERIFY(bench.written.isEmpty() && !QFile::exists(QStringLiteral("vlk_echo.xml")));
-        answer = true;
+        QVERIFY(bench.report().outcome == Outcome::cancelled && bench.mustBeSeen);
+        QVERIFY(!QFile::exists(QStringLiteral("vlk_echo.xml")));
+        bench.agrees = true;
         bench.session.newConfiguration(true);
-        QVERIFY(bench.report().accepted);
-        QCOMPARE(asked, 2);
+        QVERIFY(bench.isConfirmed() && bench.mustBeSeen);
         // Now it is the tracker's own, as is one that was read.
-        QVERIFY(!bench.session.edited().replacesUnseen());
+        QVERIFY(!bench.session.edited().seenIn().isEmpty());
         QVERIFY(!bench.session.readConfiguration(true));
-        QVERIFY(bench.report().accepted);
-        QCOMPARE(asked, 2);
+        QVERIFY(bench.isConfirmed() && !bench.mustBeSeen);
         // One of a file has not seen the tracker either.
         const QString path = writeFile(bench.root.filePath("van.xml"), "<DEVICE model=\"R-7106\"/>");
         QVERIFY(!bench.session.openConfiguration(path, true));
-        QVERIFY(bench.report().accepted && of == QLatin1String("van.xml"));
-        QVERIFY(asked == 3 && !bench.session.edited().replacesUnseen());
+        const RoadReport report = bench.report();
+        QVERIFY(report.outcome == Outcome::confirmed && bench.mustBeSeen);
+        QVERIFY(report.request.name == "van.xml" && !bench.session.edited().seenIn().isEmpty());
+        QCOMPARE(bench.reviewed, 4);
     }
 
     void saysWhatIsEdited()
@@ -210,14 +257,14 @@ private Q_SLOTS:
         Bench bench;
         QVERIFY(bench.start());
         const auto text = [&] { return bench.session.edited().text(); };
-        QVERIFY(!bench.session.readConfiguration(true) && bench.report().accepted);
+        QVERIFY(!bench.session.readConfiguration(true) && bench.isConfirmed());
         QCOMPARE(text(), QStringLiteral("from the tracker; changes written: 0"));
         QByteArray document = bench.session.tracker().readConfiguration().document;
         document.replace("port=\"4000\"", "port=\"4001\"");
         const QString file = writeFile(bench.root.filePath(QStringLiteral("edited.xml")), document);
         QVERIFY(!bench.session.openConfiguration(file, true));
         QCOMPARE(text(), QStringLiteral("edited.xml; differences from the tracker: 1"));
-        QVERIFY(bench.report().accepted);
+        QVERIFY(bench.isConfirmed());
         QCOMPARE(text(), QStringLiteral("edited.xml; changes written: 0"));
         QCOMPARE(bench.session.edited().changesIn(document.replace("4001", "4002")).value(), 1);
         bench.session.newConfiguration(true);
@@ -238,7 +285,7 @@ private Q_SLOTS:
                                        bench.session.tracker().readConfiguration().document);
         QVERIFY(file.size() > 1024);
         QVERIFY(!bench.session.openConfiguration(file, false));
-        QVERIFY(bench.report().accepted);
+        QVERIFY(bench.isConfirmed());
     }
 
     void passesHelpAndBalance()

@@ -20,7 +20,16 @@ struct Bench : OpenedWorkbench
     // The plug-in writes whatever it is given.
     bool start()
     {
-        window.session().setReplaceQuestion({});
+        workbench::WriteRoad* road = &window.session().road();
+        QObject::connect(
+            road, &workbench::WriteRoad::reviewReady, &window,
+            [this] {
+                if (auto* button = window.findChild<QAbstractButton*>(QStringLiteral("pushButton_Write"))) {
+                    QTRY_VERIFY(button->isEnabled());
+                    button->click();
+                }
+            },
+            Qt::QueuedConnection);
         return OpenedWorkbench::start(VLK_ECHO_PLUGIN);
     }
 };
@@ -167,7 +176,7 @@ private Q_SLOTS:
         QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
         // Without a drag under way the application would not deliver it.
         static_cast<QObject&>(bench.window).event(&drop);
-        QTRY_VERIFY2(bench.text("label_Report").contains(QStringLiteral("Keys changed: ")),
+        QTRY_VERIFY2(bench.text("label_Report").contains(QStringLiteral("Written and confirmed: ")),
                      qPrintable(bench.text("label_Report")));
         QCOMPARE(bench.settings.recentFiles().value(0).path, edited);
 
@@ -422,7 +431,7 @@ private Q_SLOTS:
         QTest::ignoreMessage(QtWarningMsg, "Speed: 300 is beyond 1 to 180, 180 was written");
         bench.window.openFile(writeFile(bench.root.filePath(QStringLiteral("typed.xml")),
                                         "<DEVICE model=\"R-7106\"><TYPED/></DEVICE>"));
-        QTRY_VERIFY(bench.text("label_Report").contains(QLatin1String("not written")));
+        QTRY_VERIFY_WITH_TIMEOUT(bench.text("label_Report").contains(QLatin1String("not written")), 15'000);
         QVERIFY(!bench.text("label_Report").contains(QLatin1String("Speed")));
         QCOMPARE(logged().size(), 1);
         // The same field once more and another one; other kinds of message are of no concern, other threads
@@ -588,7 +597,7 @@ private Q_SLOTS:
             QVERIFY(fits(bench.window.size()));
             bench.window.showHelp(QStringLiteral("index.html"));
             const workbench::FoldersDialog folders({}, {}, &bench.window);
-            workbench::WriteReportView::showDialog({}, {}, &bench.window);
+            workbench::WriteReportView::showDialog(bench.window.session(), {}, {}, &bench.window);
             for (const auto* window : bench.window.findChildren<QDialog*>())
                 QVERIFY2(fits(window->size()), window->objectName().toLatin1().constData());
         }

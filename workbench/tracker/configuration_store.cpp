@@ -59,6 +59,15 @@ QByteArray readWhole(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.read(largestDocument) : QByteArray();
 }
 
+QByteArray textOf(const QDomDocument& document)
+{
+    QByteArray text;
+    QTextStream stream(&text);
+    document.save(stream, 1, QDomNode::EncodingFromDocument);
+    stream.flush();
+    return text;
+}
+
 // The new document with those sections of the old one behind it that it lacks: a file sets what it holds and
 // leaves the rest of the tracker alone.
 QByteArray withKeptSections(const QByteArray& taken, const QByteArray& old, QStringList& kept)
@@ -77,11 +86,27 @@ QByteArray withKeptSections(const QByteArray& taken, const QByteArray& old, QStr
     }
     if (kept.isEmpty())
         return taken;
-    QByteArray merged;
-    QTextStream stream(&merged);
-    document.save(stream, 1, QDomNode::EncodingFromDocument);
-    stream.flush();
-    return merged;
+    return textOf(document);
+}
+
+// The new document with the first section that changed as it was before.
+QByteArray withoutOneChange(const QByteArray& taken, const QByteArray& old)
+{
+    const ConfigurationValues before(old);
+    const ConfigurationValues after(taken);
+    const auto isChanged = [&](const QString& path) {
+        return before.contains(path) && before.text(path) != after.text(path);
+    };
+    const auto changed = std::find_if(after.paths().begin(), after.paths().end(), isChanged);
+    QDomDocument document;
+    QDomDocument was;
+    if (changed == after.paths().end() || !document.setContent(taken) || !was.setContent(old))
+        return taken;
+    const QString section = changed->section(QLatin1Char('/'), 0, 0);
+    QDomElement root = document.documentElement();
+    root.replaceChild(document.importNode(was.documentElement().firstChildElement(section), true),
+                      root.firstChildElement(section));
+    return textOf(document);
 }
 
 void compare(const ConfigurationValues& before, const ConfigurationValues& after, WriteReport& report)
@@ -119,6 +144,11 @@ ConfigurationStore::ConfigurationStore(const QString& folder) : folder_(folder)
     initTrackerResources();
     if (!QDir().mkpath(folder_))
         qCWarning(lcTrackerStore) << "cannot make the folder" << folder_;
+    load();
+}
+
+void ConfigurationStore::load()
+{
     for (const QString& path : {current(), backup(), QStringLiteral(":/tracker/factory.xml")}) {
         if (take(readWhole(path)))
             return;
@@ -129,27 +159,39 @@ ConfigurationStore::ConfigurationStore(const QString& folder) : folder_(folder)
 
 WriteReport ConfigurationStore::write(const QString& path)
 {
+    QFile file(path);
     WriteReport report;
+    if (file.open(QIODevice::ReadOnly))
+        report = write(file.read(largestDocument + 1));
+    else
+        report.reasonKey = QStringLiteral("wb_refused_unreadable");
+    if (!file.isOpen())
+        report.detail = file.errorString();
     report.file = path;
+    return report;
+}
+
+WriteReport ConfigurationStore::write(const QByteArray& taken)
+{
+    WriteReport report;
     const auto refuse = [&report](const char* reasonKey, const QString& detail) {
         report.reasonKey = QLatin1String(reasonKey);
         report.detail = detail;
         return report;
     };
 
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return refuse("wb_refused_unreadable", file.errorString());
-    if (file.size() > largestDocument)
-        return refuse("wb_refused_large", QString::number(file.size()));
-    report.document = file.read(largestDocument);
+    if (taken.size() > largestDocument)
+        return refuse("wb_refused_large", QString::number(taken.size()));
+    report.document = taken;
     const ConfigurationValues asked(report.document);
     const Refusal refusal = check(asked);
     if (refusal.reasonKey)
         return refuse(refusal.reasonKey, refusal.detail);
     if (const int size = recordSize(asked); size > vlk::kLargestRecord)
         return refuse("wb_refused_record", QString::number(size));
-    const QByteArray document = withKeptSections(report.document, document_, report.keptSections);
+    QByteArray document = withKeptSections(report.document, document_, report.keptSections);
+    if (skipsPage_)
+        document = withoutOneChange(document, document_);
     const ConfigurationValues values(document);
     if (!saveWhole(backup(), document_) || !saveWhole(current(), document))
         return refuse("wb_refused_memory", folder_);
@@ -159,6 +201,20 @@ WriteReport ConfigurationStore::write(const QString& path)
     document_ = document;
     values_ = values;
     return report;
+}
+
+void ConfigurationStore::losePower(const QByteArray& document)
+{
+    QFile file(current());
+    if (saveWhole(backup(), document_) && file.open(QIODevice::WriteOnly))
+        file.write(document.left(document.size() / 2));
+    file.close();
+    load();
+}
+
+QByteArray ConfigurationStore::previous() const
+{
+    return readWhole(backup());
 }
 
 bool ConfigurationStore::take(const QByteArray& document)

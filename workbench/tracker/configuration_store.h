@@ -14,12 +14,21 @@ class ConfigurationStore
 public:
     explicit ConfigurationStore(const QString& folder);
 
-    // Checks the file, keeps the present configuration as the backup and takes the new one.
+    // Checks the document, keeps the present configuration as the backup and takes the new one.
+    WriteReport write(const QByteArray& document);
+    // The same of a file.
     WriteReport write(const QString& path);
+    // As when the power goes in the middle of that: what was being written is damaged.
+    void losePower(const QByteArray& document);
     const ConfigurationValues& values() const { return values_; }
     const QByteArray& document() const { return document_; }
+    // What was there before the last write; empty where nothing was.
+    QByteArray previous() const;
+    // All sections are taken but the first one that changed.
+    void setSkipsPage(bool skips) { skipsPage_ = skips; }
 
 private:
+    void load();
     bool take(const QByteArray& document);
     QString current() const;
     QString backup() const;
@@ -27,6 +36,7 @@ private:
     QString folder_;
     QByteArray document_;
     ConfigurationValues values_;
+    bool skipsPage_ = false;
 };
 
 } // namespace tracker

@@ -12,6 +12,8 @@ struct Faults
     bool garbledAnswers = false; // every fifth byte is wrong
     bool badBoard = false;       // voltages out of their limits and no fix in the records from now on
     bool noBluetooth = false;    // a tracker without Bluetooth, as it says when it is attached
+    bool skipsPage = false;      // takes a written file but for one section that changed
+    bool powerLoss = false;      // goes in the middle of taking a written file; clears itself
     bool unplug = false;         // the cable goes while the next answer is under way; clears itself
 
     bool operator==(const Faults&) const = default;

@@ -101,10 +101,10 @@ struct SimulatedTracker::Parts
 
     RecordRequests::Present present() const { return {now(), dataSet()}; }
 
-    WriteReport write(const QString& path)
+    template <class Content>
+    WriteReport write(const Content& content)
     {
         WriteReport refused;
-        refused.file = path;
         if (!line.plugged())
             refused.reasonKey = QStringLiteral("wb_refused_detached");
         else if (line.faults().unplug)
@@ -112,13 +112,15 @@ struct SimulatedTracker::Parts
         else if (line.faults().silence)
             refused.reasonKey = QStringLiteral("wb_refused_silence");
         else
-            return take(path);
+            return take(content);
         return refused;
     }
 
-    WriteReport take(const QString& path)
+    template <class Content>
+    WriteReport take(const Content& content)
     {
-        WriteReport report = store.write(path);
+        store.setSkipsPage(line.faults().skipsPage);
+        WriteReport report = store.write(content);
         if (report.accepted && settings.change(now(), WorkingSettings::of(store.values())))
             archive.settingsChanged(now());
         return report;
@@ -243,7 +245,22 @@ std::optional<Present> SimulatedTracker::readPresent()
     return Present{vehicle.mileage(), vehicle.c.outputs};
 }
 
+QString SimulatedTracker::vehicleName() const
+{
+    return configuration().text(QStringLiteral("TRANS/OBJECT/name"));
+}
+
 Reading SimulatedTracker::readConfiguration()
+{
+    return read(parts_->store.document());
+}
+
+Reading SimulatedTracker::readPrevious()
+{
+    return read(parts_->store.previous());
+}
+
+Reading SimulatedTracker::read(const QByteArray& document)
 {
     AnswerLine& line = parts_->line;
     if (!attached())
@@ -254,7 +271,7 @@ Reading SimulatedTracker::readConfiguration()
     }
     if (line.faults().silence)
         return {Reading::Outcome::Silent, {}};
-    return {Reading::Outcome::Came, line.distorted(parts_->store.document())};
+    return {Reading::Outcome::Came, line.distorted(document)};
 }
 
 const ConfigurationValues& SimulatedTracker::configuration() const
@@ -272,9 +289,40 @@ QString SimulatedTracker::serverAddress(int server) const
     return port.isEmpty() ? address : address + QLatin1Char(':') + port;
 }
 
+SimulatedTracker::Block SimulatedTracker::takeBlock()
+{
+    if (!attached())
+        return Block::Gone;
+    if (parts_->line.takeUnplug()) {
+        detach();
+        return Block::Gone;
+    }
+    return faults().silence ? Block::Silent : Block::Kept;
+}
+
+WriteReport SimulatedTracker::takeConfiguration(const QByteArray& document)
+{
+    Faults rest = faults();
+    if (std::exchange(rest.powerLoss, false) && attached()) {
+        parts_->line.setFaults(rest);
+        parts_->store.losePower(document);
+        detach();
+        WriteReport report;
+        report.reasonKey = QStringLiteral("wb_refused_unplugged");
+        return report;
+    }
+    return told(parts_->write(document));
+}
+
 WriteReport SimulatedTracker::writeConfiguration(const QString& path)
 {
     WriteReport report = parts_->write(path);
+    report.file = path;
+    return told(report);
+}
+
+WriteReport SimulatedTracker::told(const WriteReport& report)
+{
     if (report.accepted && !report.sameAsBefore())
         parts_->memory.change(parts_->now(), EventCode::ConfigurationChanged);
     if (parts_->line.takeUnplug())

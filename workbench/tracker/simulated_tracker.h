@@ -73,6 +73,8 @@ public:
     QString text1() const; // firmware
     QString text2() const; // IMEI
     quint64 capabilityMask() const;
+    // Of the vehicle, as its configuration says.
+    QString vehicleName() const;
 
     // Detaching drops the answers that are under way.
     bool attached() const;
@@ -82,6 +84,8 @@ public:
     // What commands change, as it says itself; none when no answer comes that can be believed.
     std::optional<Present> readPresent();
     Reading readConfiguration();
+    // What it kept before the last write; empty where nothing was written.
+    Reading readPrevious();
     // The same from behind, whatever the cable does to it.
     const ConfigurationValues& configuration() const;
     // "fleet.example.com:4000", of servers 1 to 3; empty for none.
@@ -89,6 +93,10 @@ public:
     // Takes a written file: checks it, keeps what was there as a backup, and applies it. Silence, a missing
     // and a pulled cable refuse it.
     WriteReport writeConfiguration(const QString& path);
+    // The same when the file has come over the cable in blocks.
+    WriteReport takeConfiguration(const QByteArray& document);
+    enum class Block { Kept, Silent, Gone };
+    Block takeBlock();
 
     // What the window switches, at will between requests.
     const Faults& faults() const;
@@ -115,6 +123,9 @@ Q_SIGNALS:
     void configurationWritten(const tracker::WriteReport& report);
 
 private:
+    Reading read(const QByteArray& document);
+    WriteReport told(const WriteReport& report);
+
     struct Parts;
     std::unique_ptr<Parts> parts_;
 };

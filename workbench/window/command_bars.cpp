@@ -48,6 +48,9 @@ void CommandBars::buildMenus(QMenu* recentFiles)
                                    {Command::ReadTracker, Command::OpenFile, Command::NewConfiguration});
     configuration->addMenu(recentFiles);
     configuration->addSeparator();
+    configuration->addAction(commands_[Command::History]);
+    configuration->addAction(commands_[Command::Previous]);
+    configuration->addSeparator();
     configuration->addAction(commands_[Command::BalanceCode]);
     configuration->addSeparator();
     configuration->addAction(commands_[Command::Quit]);

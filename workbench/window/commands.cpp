@@ -23,6 +23,8 @@ constexpr CommandRow commandRows[] = {
     {Command::ReadTracker, "action_Read", "read", "wb_read", "wb_read_short", "Ctrl+R"},
     {Command::OpenFile, "action_Open", "open", "wb_open", "wb_open_short", "Ctrl+O"},
     {Command::NewConfiguration, "action_New", "new", "wb_new", "wb_new_short", "Ctrl+N"},
+    {Command::History, "action_History", "history", "wb_history_menu", "wb_history", "Ctrl+H"},
+    {Command::Previous, "action_Previous", "previous", "wb_previous", "wb_previous", ""},
     {Command::LiveTelemetry, "action_Telemetry", "telemetry", "wb_telemetry", "wb_telemetry_short", "Ctrl+T"},
     {Command::BrowseFile, "action_Browse", "browse", "wb_browse", "wb_browse_short", "Ctrl+B"},
     {Command::TableFile, "action_Table", "table", "wb_table", "wb_table_short", "Ctrl+L"},

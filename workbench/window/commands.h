@@ -13,6 +13,8 @@ enum class Command {
     ReadTracker,
     OpenFile,
     NewConfiguration,
+    History,
+    Previous,
     LiveTelemetry,
     BrowseFile,
     TableFile,

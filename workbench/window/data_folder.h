@@ -32,6 +32,7 @@ public:
     QString path() const { return path_; }
     QString settingsFile() const { return path_ + QStringLiteral("/settings/workbench.ini"); }
     QString trackerFolder() const { return path_ + QStringLiteral("/tracker"); }
+    QString backupsFolder() const { return path_ + QStringLiteral("/backups"); }
     QString telemetryFolder() const { return path_ + QStringLiteral("/Data/TMI/"); }
     QString configurationFolder() const { return path_ + QStringLiteral("/Data/XML/"); }
 

@@ -5,6 +5,7 @@
 #include "window/write_report_text.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QComboBox>
 #include <QFile>
 #include <QFileDialog>
@@ -13,6 +14,7 @@
 #include <QSet>
 #include <QSpinBox>
 #include <QTabWidget>
+#include <QTableView>
 
 #include <algorithm>
 #include <memory>
@@ -119,7 +121,7 @@ struct Notebook
 {
     ConfigurationValues before;
     QStringList values; // as set, in the order of the table
-    std::unique_ptr<tracker::WriteReport> report;
+    std::unique_ptr<RoadReport> report;
     QByteArray taken; // the tracker's document
 };
 
@@ -155,15 +157,20 @@ void editPages(Tour& tour, Notebook& book)
 void writeTracker(Tour& tour, Notebook& book)
 {
     QObject context;
-    QObject::connect(
-        &tour.window().session(), &HostSession::writeEnded, &context,
-        [&book](const tracker::WriteReport& r) { book.report = std::make_unique<tracker::WriteReport>(r); });
+    QObject::connect(&tour.window().session().road(), &WriteRoad::ended, &context,
+                     [&book](const RoadReport& r) { book.report = std::make_unique<RoadReport>(r); });
     Tour::press("pushButton_LoadToDevice");
+    tour.waitFor([] { return Tour::findVisible("dialog_Review"); }, QStringLiteral("the review"));
+    auto* write = qobject_cast<QAbstractButton*>(Tour::findVisible("pushButton_Write"));
+    tour.waitFor([write] { return write && write->isEnabled(); }, QStringLiteral("the button of the review"));
+    tour.picture(QStringLiteral("review.png"), write->window());
+    write->click();
     tour.waitFor([&book] { return book.report != nullptr; }, QStringLiteral("the tracker's report"));
     tour.save(QStringLiteral("report.txt"), plainText(*book.report).toUtf8());
-    Tour::expect(book.report->accepted, summary(*book.report));
-    Tour::expect(!QFile::exists(book.report->file),
-                 QStringLiteral("the written file was left behind: %1").arg(book.report->file));
+    Tour::expect(book.report->outcome == RoadReport::Outcome::confirmed, summary(*book.report));
+    Tour::expect(!QFile::exists(book.report->request.file),
+                 QStringLiteral("the written file was left behind: %1").arg(book.report->request.file));
+    Tour::expect(book.report->backup > 0, QStringLiteral("no backup was made"));
     if (QWidget* dialog = Tour::findVisible("dialog_Report")) {
         tour.picture(QStringLiteral("report.png"), dialog);
         dialog->close();
@@ -196,11 +203,12 @@ void checkTaken(Tour& tour, Notebook& book)
                      QStringLiteral("%1 was \"%2\" before it was edited, too").arg(path, value));
         edited.insert(path);
     }
-    for (const auto& changes : {book.report->changed, book.report->added, book.report->removed}) {
-        for (const tracker::KeyChange& change : changes)
-            Tour::expect(edited.contains(change.path) || isPulled(change.path),
-                         QStringLiteral("%1 was not edited, and changed from \"%2\" to \"%3\"")
-                             .arg(change.path, change.before, change.after));
+    Tour::expect(book.report->settings.size() >= edited.size(), QStringLiteral("the report is too short"));
+    for (const WrittenSetting& setting : std::as_const(book.report->settings)) {
+        const SettingChange& change = setting.change;
+        Tour::expect(edited.contains(change.path) || isPulled(change.path),
+                     QStringLiteral("%1 was not edited, and changed from \"%2\" to \"%3\"")
+                         .arg(change.path, change.before, change.after));
     }
 }
 
@@ -233,6 +241,18 @@ void saveReadBack(Tour& tour, const Notebook& book)
                  QStringLiteral("%1 has the tracker's values, but is not the file that it holds").arg(path));
 }
 
+// The backup that the write has left, against what the tracker holds now.
+void lookAtHistory(Tour& tour)
+{
+    tour.window().session().link().send(Message::CloseWindows);
+    tour.window().findChild<QAction*>(QStringLiteral("action_History"))->trigger();
+    const auto* table = Tour::find<QTableView>("tableView_History");
+    Tour::expect(table->model()->rowCount() >= int(std::size(kEdits)),
+                 QStringLiteral("the history shows too few differences"));
+    tour.picture(QStringLiteral("history.png"), table->window());
+    table->window()->close();
+}
+
 } // namespace
 
 std::vector<Tour::Step> editTour()
@@ -250,6 +270,8 @@ std::vector<Tour::Step> editTour()
          }},
         {QStringLiteral("save what came back, equal to what the tracker holds"),
          [book](Tour& tour) { saveReadBack(tour, *book); }},
+        {QStringLiteral("look at the backup in the history"), lookAtHistory},
+        {QStringLiteral("open the configuration again"), readTracker},
     };
 }
 

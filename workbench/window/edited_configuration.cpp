@@ -9,8 +9,9 @@ namespace workbench {
 
 using tracker::ConfigurationValues;
 
-void EditedConfiguration::readFromTracker(const QByteArray& document)
+void EditedConfiguration::readFromTracker(const QByteArray& document, const QString& number)
 {
+    seenIn_ = number;
     source_ = Source::Tracker;
     asRead_ = ConfigurationValues(document);
     tracker_ = asRead_;
@@ -20,6 +21,7 @@ void EditedConfiguration::readFromTracker(const QByteArray& document)
 void EditedConfiguration::openFile(const QString& path, const QByteArray& document)
 {
     source_ = Source::File;
+    seenIn_.clear();
     file_ = QFileInfo(path).fileName();
     asRead_ = ConfigurationValues(document);
     written_.reset();
@@ -28,16 +30,18 @@ void EditedConfiguration::openFile(const QString& path, const QByteArray& docume
 void EditedConfiguration::beginNew()
 {
     source_ = Source::New;
+    seenIn_.clear();
     asRead_ = ConfigurationValues();
     written_.reset();
 }
 
-void EditedConfiguration::written(const QByteArray& document)
+void EditedConfiguration::written(const QByteArray& document, const QString& number)
 {
     if (source_ == Source::New) {
-        readFromTracker(document);
+        readFromTracker(document, number);
         return;
     }
+    seenIn_ = number;
     written_ = changesIn(document);
     trackerHolds(document);
 }

@@ -12,11 +12,11 @@ namespace workbench {
 class EditedConfiguration
 {
 public:
-    void readFromTracker(const QByteArray& document);
+    void readFromTracker(const QByteArray& document, const QString& number);
     void openFile(const QString& path, const QByteArray& document);
     void beginNew();
-    // The tracker took it.
-    void written(const QByteArray& document);
+    // The tracker of that number took it.
+    void written(const QByteArray& document, const QString& number);
     // The tracker took one that was open before.
     void trackerHolds(const QByteArray& document);
     // The window is closed.
@@ -24,8 +24,9 @@ public:
     // The tracker is gone with what it holds.
     void forgetTracker() { tracker_.reset(); }
 
-    // Whether writing it would set every key of a tracker without having seen what it holds.
-    bool replacesUnseen() const { return source_ == Source::New || (source_ == Source::File && !written_); }
+    // The number of the tracker that it was read from or written to; empty where no tracker has seen it.
+    QString seenIn() const { return seenIn_; }
+    bool isNew() const { return source_ == Source::New; }
     // How many keys of the document differ from what was read; nothing was read of a new one.
     std::optional<int> changesIn(const QByteArray& document) const;
 
@@ -41,6 +42,7 @@ private:
 
     Source source_ = Source::None;
     QString file_; // without its folder
+    QString seenIn_;
     tracker::ConfigurationValues asRead_;
     std::optional<tracker::ConfigurationValues> tracker_; // what it held when it was heard of last
     std::optional<int> written_;                          // changes that were written

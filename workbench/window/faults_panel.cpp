@@ -33,6 +33,8 @@ constexpr FaultRow faultRows[] = {
     {"checkBox_Garbled", "wb_fault_garbled", &Faults::garbledAnswers},
     {"checkBox_BadBoard", "wb_fault_board", &Faults::badBoard},
     {"checkBox_NoBluetooth", "wb_fault_bluetooth", &Faults::noBluetooth},
+    {"checkBox_SkipsPage", "wb_fault_page", &Faults::skipsPage},
+    {"checkBox_PowerLoss", "wb_fault_power", &Faults::powerLoss},
     {"checkBox_Unplug", "wb_fault_unplug", &Faults::unplug},
 };
 

@@ -1,15 +1,13 @@
 #include "window/host_session.h"
 
 #include "base/whole_file.h"
+#include "road/chosen_settings.h"
 #include "tracker/bluetooth_search.h"
 #include "window/languages.h"
 #include "window/trouble_text.h"
 
 #include <QFile>
 #include <QLoggingCategory>
-#include <QTimer>
-
-#include <algorithm>
 
 namespace workbench {
 
@@ -43,12 +41,19 @@ QByteArray contentOf(QFile& file)
 
 } // namespace
 
-HostSession::HostSession(const QString& trackerFolder, QObject* parent)
-    : QObject(parent), tracker_(trackerFolder)
+HostSession::HostSession(const QString& trackerFolder, const QString& backupsFolder, QObject* parent)
+    : QObject(parent), tracker_(trackerFolder), backups_(backupsFolder),
+      road_(
+          port_, backups_,
+          [this](const QByteArray& before, const QByteArray& after) {
+              return comparer_.compare(before, after);
+          },
+          [this](const QByteArray& document) { return comparer_.advise(document); })
 {
     tracker_.setSender([this](vlk::Message id, void* p1, void* p2) { deliver(id, p1, p2); });
     connect(&tracker_, &tracker::SimulatedTracker::attachedChanged, this, &HostSession::tellAttached);
     connect(&link_, &PluginLink::received, this, &HostSession::receive);
+    connect(&road_, &WriteRoad::ended, this, &HostSession::finish);
 }
 
 HostSession::~HostSession() = default;
@@ -105,7 +110,7 @@ Sentence HostSession::readConfiguration(bool full)
     if (fetched.failure)
         return [why = fetched.failure] { return sentences({text("wb_read_failed"), why()}); };
     ++opened_;
-    edited_.readFromTracker(fetched.document);
+    edited_.readFromTracker(fetched.document, tracker_.text2());
     link_.openConfiguration(fetched.path, full, false);
     QFile::remove(fetched.path);
     Q_EMIT editedChanged();
@@ -174,13 +179,8 @@ void HostSession::receive(vlk::Message id, void* p1, void* p2)
         if (p2)
             Q_EMIT helpRequested(*static_cast<const QString*>(p2));
     } else if (id == vlk::Message::WriteConfiguration) {
-        // The plug-in is in the middle of its own work here; the tracker takes the file when that is done.
         if (p1)
-            QMetaObject::invokeMethod(
-                this,
-                [this, write = Write{*static_cast<const QString*>(p1), opened_, edited_.replacesUnseen(),
-                                     edited_.file()}] { handOver(write); },
-                Qt::QueuedConnection);
+            takeWritten(*static_cast<const QString*>(p1));
     } else if (!commands_.take(id, p1) && !requests_.send(id, p1, p2)) {
         qCInfo(lcSession) << "message without a receiver" << quint32(id);
     }
@@ -205,54 +205,113 @@ void HostSession::followSearch(vlk::Message id, const void* p1)
         isSearching_ = *static_cast<const char*>(p1) == tracker::searchRuns;
 }
 
-void HostSession::handOver(const Write& write)
+// It is read now: the plug-in names its files by the minute, and the next one may take the place of this one.
+void HostSession::takeWritten(const QString& path)
 {
-    if (write.isUnseen && mayReplace_ && !mayReplace_(write.file)) {
-        QFile::remove(write.path);
-        Q_EMIT writeCancelled();
+    using Origin = WriteRequest::Origin;
+    QFile file(path);
+    WriteRequest request;
+    request.origin = edited_.isNew()            ? Origin::fresh
+                     : edited_.file().isEmpty() ? Origin::tracker
+                                                : Origin::file;
+    request.document = contentOf(file);
+    request.name = edited_.file();
+    request.readFrom = edited_.seenIn();
+    request.file = path;
+    // The plug-in is in the middle of its own work here; what is to be done with it comes after that.
+    QMetaObject::invokeMethod(
+        this,
+        [this, request, opened = opened_, error = file.isOpen() ? QString() : file.errorString()] {
+            if (error.isEmpty())
+                begin(request, opened);
+            else
+                road_.reject(request, RoadReport::Fault::unsaved,
+                             request.file + QStringLiteral(": ") + error);
+        },
+        Qt::QueuedConnection);
+}
+
+void HostSession::begin(const WriteRequest& request, int opened)
+{
+    if (road_.begin(request)) {
+        onTheRoad_ = request;
+        openedThen_ = opened;
         return;
     }
-    // The plug-in names its files by the minute: a second one may have taken the place of the first.
-    std::erase_if(writes_, [&write](const Write& other) { return other.path == write.path; });
-    writes_.push_back(write);
-    Q_EMIT writeBegan();
-    // The answer to a write is as late as any other.
-    QTimer::singleShot(qMax(0, tracker_.faults().delayMs), this, [this, path = write.path] { finish(path); });
-}
-
-bool HostSession::finishWrites()
-{
-    bool areAccepted = true;
-    while (!writes_.empty())
-        areAccepted &= finish(QString(writes_.front().path));
-    return areAccepted;
-}
-
-bool HostSession::finish(const QString& path)
-{
-    const auto write = std::find_if(writes_.cbegin(), writes_.cend(),
-                                    [&path](const Write& other) { return other.path == path; });
-    if (write == writes_.cend())
-        return true;
-    const bool isOpen = write->opened == opened_;
-    writes_.erase(write);
-    const tracker::WriteReport report = tracker_.writeConfiguration(path);
-    if (report.accepted) {
-        isOpen ? edited_.written(report.document) : edited_.trackerHolds(report.document);
-        if (!QFile::remove(path))
-            qCWarning(lcSession) << "cannot remove" << path;
+    if (request.file != onTheRoad_.file) {
+        QFile::remove(request.file);
+    } else {
+        QSaveFile file(onTheRoad_.file);
+        vlk::saveWhole(file, onTheRoad_.document);
     }
-    Q_EMIT writeEnded(report);
+    Q_EMIT writeRefused();
+}
+
+void HostSession::finish(const RoadReport& report)
+{
+    using Outcome = RoadReport::Outcome;
+    const WriteRequest& request = report.request;
+    const bool isConfirmed = report.outcome == Outcome::confirmed;
+    if (isConfirmed) {
+        if (request.file.isEmpty() || openedThen_ != opened_) {
+            edited_.trackerHolds(request.document);
+        } else {
+            edited_.written(request.document, report.tracker.number);
+            link_.confirmWrite(request.document);
+        }
+    }
+    if (!request.file.isEmpty() && (isConfirmed || report.outcome == Outcome::cancelled) &&
+        QFile::exists(request.file) && !QFile::remove(request.file))
+        qCWarning(lcSession) << "cannot remove" << request.file;
     Q_EMIT editedChanged();
-    return report.accepted;
+}
+
+std::optional<QByteArray> HostSession::present()
+{
+    const Fetched fetched = fetchConfiguration();
+    QFile::remove(fetched.path);
+    return fetched.failure ? std::nullopt : std::optional(fetched.document);
+}
+
+Sentence HostSession::writeAgain(const WriteRequest& request)
+{
+    if (road_.isBusy())
+        return [] { return text("wb_write_busy"); };
+    begin(request, openedThen_);
+    return {};
+}
+
+Sentence HostSession::bringBack(int backup, const QStringList& paths)
+{
+    const auto kept = backups_.find(backup);
+    WriteRequest request;
+    request.origin = WriteRequest::Origin::backup;
+    request.document = backups_.document(backup);
+    request.name = QString::number(backup);
+    request.readFrom = kept ? kept->tracker : QString();
+    if (!paths.isEmpty() && !request.document.isEmpty()) {
+        const Fetched fetched = fetchConfiguration();
+        if (fetched.failure)
+            return [why = fetched.failure] { return sentences({text("wb_back_failed"), why()}); };
+        QFile::remove(fetched.path);
+        request.readFrom = tracker_.text2();
+        request.document = withChosen(fetched.document, request.document, paths);
+    }
+    if (request.document.isEmpty())
+        return [backup] { return text("wb_back_unreadable").arg(number(backup)); };
+    return writeAgain(request);
+}
+
+Sentence HostSession::bringBackPrevious()
+{
+    WriteRequest request;
+    request.origin = WriteRequest::Origin::previous;
+    return writeAgain(request);
 }
 
 void HostSession::writeNotSaved(const QString& path, const QString& reason)
 {
-    tracker::WriteReport report;
-    report.reasonKey = QStringLiteral("wb_refused_unsaved");
-    report.detail = QStringLiteral("%1: %2").arg(path, reason);
-    Q_EMIT writeEnded(report);
+    road_.reject({}, RoadReport::Fault::unsaved, QStringLiteral("%1: %2").arg(path, reason));
 }
 
 } // namespace workbench

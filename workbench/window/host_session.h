@@ -2,20 +2,23 @@
 
 // The host's work without its windows: the plug-in on one side, the simulated tracker on the other, and what
 // passes between them. Configurations travel as files: a read one lies in a temporary folder until the
-// plug-in has taken it, a written one is removed when the tracker has taken it and kept when it refused.
+// plug-in has taken it, a written one goes its way (road/write_road.h) and is removed when the tracker holds
+// it and kept when it does not.
 //
 // What the plug-in is given is whole: it takes a document that it cannot read for an empty one and would show
 // default values in its place.
 
+#include "road/backups.h"
+#include "road/write_road.h"
 #include "tracker/simulated_tracker.h"
 #include "window/edited_configuration.h"
+#include "window/file_comparer.h"
 #include "window/plugin_link.h"
 #include "window/repeated_requests.h"
+#include "window/simulated_port.h"
 #include "window/tracker_commands.h"
 
 #include <QTemporaryDir>
-
-#include <vector>
 
 namespace workbench {
 
@@ -24,7 +27,7 @@ class HostSession : public QObject
     Q_OBJECT
 
 public:
-    explicit HostSession(const QString& trackerFolder, QObject* parent = nullptr);
+    HostSession(const QString& trackerFolder, const QString& backupsFolder, QObject* parent = nullptr);
     ~HostSession() override;
 
     // Loads the plug-in; when that fails, link().error() says why and everything below has no effect.
@@ -34,6 +37,9 @@ public:
     tracker::SimulatedTracker& tracker() { return tracker_; }
     RepeatedRequests& requests() { return requests_; }
     TrackerCommands& commands() { return commands_; }
+    WriteRoad& road() { return road_; }
+    Backups& backups() { return backups_; }
+    const FileComparer& comparer() const { return comparer_; }
     const EditedConfiguration& edited() const { return edited_; }
 
     // Open windows of the plug-in. Null when they did; else it says to the user what happened and what to do.
@@ -44,26 +50,24 @@ public:
     // Null when the file is a whole configuration of this model; else it says why it would not open.
     Sentence whyNotOpened(const QString& path) const;
 
-    // Asked before a configuration is written that sets every key and was not read from the tracker: with the
-    // name of the file that it came from, empty for a new one. Without it nothing is asked.
-    using ReplaceQuestion = std::function<bool(const QString& file)>;
-    void setReplaceQuestion(ReplaceQuestion question) { mayReplace_ = std::move(question); }
+    // What the tracker holds now; none when it does not come.
+    std::optional<QByteArray> present();
+    // Put on the write road. Null, or why it is not; what becomes of it there its report tells.
+    Sentence writeAgain(const WriteRequest& request);
+    // Of the paths alone where there are some.
+    Sentence bringBack(int backup, const QStringList& paths = {});
+    // What the tracker kept before the last write.
+    Sentence bringBackPrevious();
 
     // The configuration window is closed.
     void configurationClosed();
-    // The tracker takes at once what it would take later. False when it refused some of it.
-    bool finishWrites();
     // The plug-in could not save the file that it wanted to be written.
     void writeNotSaved(const QString& path, const QString& reason);
 
 Q_SIGNALS:
     void helpRequested(const QString& page);
-    // A file is on its way to the tracker; writeEnded() follows.
-    void writeBegan();
-    // The tracker took a written file or refused it, or it did not come so far.
-    void writeEnded(const tracker::WriteReport& report);
-    // The user was asked and did not want it written; its file is gone.
-    void writeCancelled();
+    // A second file while one is on its way: it is not written.
+    void writeRefused();
     void editedChanged();
 
 private:
@@ -74,22 +78,14 @@ private:
         QString path; // a temporary file that holds it
     };
 
-    // A written file on its way, and which of the configurations that were opened it is of.
-    struct Write
-    {
-        QString path;
-        int opened;
-        bool isUnseen; // it replaces what nobody has looked at
-        QString file;  // that it came from
-    };
-
     Fetched fetchConfiguration();
     Sentence readFile(const QString& path, QByteArray* document) const;
     void receive(vlk::Message id, void* p1, void* p2);
     void deliver(vlk::Message id, void* p1, void* p2);
     void followSearch(vlk::Message id, const void* p1);
-    void handOver(const Write& write);
-    bool finish(const QString& path);
+    void takeWritten(const QString& path);
+    void begin(const WriteRequest& request, int opened);
+    void finish(const RoadReport& report);
     void tellAttached(bool attached);
 
     QTemporaryDir readFiles_;
@@ -100,8 +96,12 @@ private:
     bool isSearching_ = false; // for Bluetooth devices
     EditedConfiguration edited_;
     int opened_ = 0; // how many configurations so far
-    std::vector<Write> writes_;
-    ReplaceQuestion mayReplace_;
+    FileComparer comparer_{link_};
+    SimulatedPort port_{tracker_};
+    Backups backups_;
+    WriteRoad road_;
+    WriteRequest onTheRoad_;
+    int openedThen_ = 0; // of which of the opened configurations it is
 };
 
 } // namespace workbench

@@ -20,8 +20,14 @@ LinkNotices::LinkNotices(HostSession& session, PluginWindows& windows, MessageLo
     using tracker::SimulatedTracker;
     connect(&session_.link(), &PluginLink::passed, this,
             [this](vlk::Direction direction, quint32 id, const void* p1) { look(direction, id, p1); });
-    connect(&session_, &HostSession::writeBegan, &watch_, [this] { watch_.begin(); });
-    connect(&session_, &HostSession::writeEnded, &watch_, &AnswerWatch::forget);
+    connect(&session_.road(), &WriteRoad::stepChanged, &watch_, [this](RoadReport::Step step) {
+        step == RoadReport::Step::review ? watch_.forget() : watch_.begin(vlk::Message::WriteConfiguration);
+    });
+    connect(&session_.road(), &WriteRoad::progressed, &watch_, [this] {
+        watch_.forget();
+        watch_.begin(vlk::Message::WriteConfiguration);
+    });
+    connect(&session_.road(), &WriteRoad::ended, &watch_, &AnswerWatch::forget);
     connect(&watch_, &AnswerWatch::silent, this, [this](const QDateTime& since, vlk::Message request) {
         front_.recall(FrontNotice::Trouble);
         setTrouble([this, since, request] { return silence(since, request); });
@@ -144,6 +150,8 @@ void LinkNotices::setTrouble(const Sentence& trouble)
 
 QString LinkNotices::silence(const QDateTime& since, vlk::Message request)
 {
+    if (request == vlk::Message::WriteConfiguration)
+        return text("wb_silence_write").arg(timeOfDay(since));
     const char* key = "wb_silence_command";
     if (hasEffect(request, Effect::Reads))
         key = isSaving_ ? "wb_silence_save" : "wb_silence_again";

@@ -160,6 +160,20 @@ QString PluginLink::balanceCode()
     return QString::fromLocal8Bit(code, qstrnlen(code, sizeof code));
 }
 
+void PluginLink::promiseConfirmations()
+{
+    vlk::WriteConfirmation record;
+    send(vlk::Message::ConfirmWrite, &record);
+}
+
+void PluginLink::confirmWrite(const QByteArray& content)
+{
+    vlk::WriteConfirmation record;
+    record.step = vlk::WriteConfirmation::confirmed;
+    record.content = &content;
+    send(vlk::Message::ConfirmWrite, &record);
+}
+
 vlk::EndedSave PluginLink::endSave()
 {
     vlk::EndedSave record;

@@ -45,6 +45,9 @@ public:
     // Kind 0 is the browser, kind 1 the table.
     void showStoredFile(const QString& path, int kind);
     QString balanceCode();
+    // Once, then after each write with what the plug-in's file held.
+    void promiseConfirmations();
+    void confirmWrite(const QByteArray& content);
     // Nothing runs in a plug-in that does not know these two.
     vlk::EndedSave endSave();
     vlk::RunningWork runningWork();

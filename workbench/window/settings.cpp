@@ -15,6 +15,8 @@ const QString languageKey = QStringLiteral("language");
 const QString modeKey = QStringLiteral("mode");
 const QString appearanceKey = QStringLiteral("appearance");
 const QString fullWindowKey = QStringLiteral("fullWindow");
+const QString reviewKey = QStringLiteral("reviewAlways");
+const QString backupDaysKey = QStringLiteral("backupDays");
 const QString telemetryKey = QStringLiteral("folders/telemetry");
 const QString configurationKey = QStringLiteral("folders/configuration");
 const QString recentKey = QStringLiteral("recentFiles");
@@ -101,6 +103,26 @@ bool Settings::fullWindow() const
 void Settings::setFullWindow(bool full)
 {
     store_->setValue(fullWindowKey, full);
+}
+
+bool Settings::reviewAlways() const
+{
+    return store_->value(reviewKey, true).toBool();
+}
+
+void Settings::setReviewAlways(bool always)
+{
+    store_->setValue(reviewKey, always);
+}
+
+int Settings::backupDays() const
+{
+    return qMax(0, store_->value(backupDaysKey, 0).toInt());
+}
+
+void Settings::setBackupDays(int days)
+{
+    store_->setValue(backupDaysKey, days);
 }
 
 QString Settings::telemetryFolder() const

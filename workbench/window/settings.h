@@ -51,6 +51,13 @@ public:
     bool fullWindow() const;
     void setFullWindow(bool full);
 
+    // Whether what is about to be written is shown also where it may be skipped.
+    bool reviewAlways() const;
+    void setReviewAlways(bool always);
+    // For how many days backups are kept; 0: for ever.
+    int backupDays() const;
+    void setBackupDays(int days);
+
     // The data folders; empty until they are chosen.
     QString telemetryFolder() const;
     QString configurationFolder() const;

@@ -9,13 +9,16 @@
 #include "window/file_notices.h"
 #include "window/file_opener.h"
 #include "window/folders_dialog.h"
+#include "window/history_window.h"
 #include "window/installed_files.h"
 #include "window/link_notices.h"
 #include "window/message_box.h"
 #include "window/message_log_view.h"
 #include "window/recent_files.h"
+#include "window/road_windows.h"
 #include "window/save_notices.h"
 #include "window/scrolling.h"
+#include "window/start_panel.h"
 #include "window/status_line.h"
 #include "window/tracker_panel.h"
 #include "window/write_report_text.h"
@@ -35,22 +38,26 @@ namespace workbench {
 
 namespace {
 
-enum Tab { LogTab, ReportTab, TrackerTab };
-constexpr const char* tabKeys[] = {"wb_tab_log", "wb_tab_report", "wb_tab_tracker"};
+enum Tab { StartTab, ReportTab, TrackerTab, LogTab };
+constexpr const char* tabKeys[] = {"wb_tab_start", "wb_tab_report", "wb_tab_tracker", "wb_tab_log"};
 constexpr int leftWidth = 290;
 constexpr QSize usualSize(1024, 600);
 
 } // namespace
 
 WorkbenchWindow::WorkbenchWindow(const DataFolder& folder, Settings& settings, Languages& languages)
-    : folder_(folder), settings_(settings), languages_(languages), session_(folder.trackerFolder()),
-      windows_(this), commands_(this), helpPages_(sharedFolder(QStringLiteral("help"))),
+    : folder_(folder), settings_(settings), languages_(languages),
+      session_(folder.trackerFolder(), folder.backupsFolder()), windows_(this), commands_(this),
+      helpPages_(sharedFolder(QStringLiteral("help"))),
       status_(new StatusLine(statusBar(), [this] { return lasting(); })),
       device_(new DevicePanel(session_, this)), recent_(new RecentFiles(settings, this)),
       opener_(new FileOpener(session_, settings, *recent_, this)),
       bars_(new CommandBars(this, commands_, settings, languages, recent_->menu())),
-      splitter_(new QSplitter(this)), tabs_(new QTabWidget(this)), logView_(new MessageLogView(&log_, this)),
-      reportView_(new WriteReportView(this)), trackerPanel_(new TrackerPanel(session_.tracker(), this))
+      splitter_(new QSplitter(this)), tabs_(new QTabWidget(this)),
+      start_(new StartPanel(session_, commands_, this)), logView_(new MessageLogView(&log_, this)),
+      reportView_(new WriteReportView(session_, this)),
+      trackerPanel_(new TrackerPanel(session_.tracker(), this)),
+      road_(new RoadWindows(session_, settings, this))
 {
     setObjectName(QStringLiteral("WorkbenchWindow"));
     setAcceptDrops(true);
@@ -58,6 +65,7 @@ WorkbenchWindow::WorkbenchWindow(const DataFolder& folder, Settings& settings, L
     connectCommands();
     connectSession();
     connectNotices();
+    session_.backups().keepFor(settings_.backupDays(), QDateTime::currentDateTimeUtc());
     showEdited();
     device_->setMode(settings_.mode());
     updateCommands();
@@ -80,11 +88,11 @@ void WorkbenchWindow::buildPanels()
     leftLayout->addWidget(recent_, 1);
 
     tabs_->setObjectName(QStringLiteral("tabWidget_Main"));
-    for (QWidget* page : {static_cast<QWidget*>(logView_), static_cast<QWidget*>(reportView_),
-                          static_cast<QWidget*>(trackerPanel_)})
+    for (QWidget* page : {static_cast<QWidget*>(start_), static_cast<QWidget*>(reportView_),
+                          static_cast<QWidget*>(trackerPanel_), static_cast<QWidget*>(logView_)})
         tabs_->addTab(scrolling(page), QString());
     texts_.bind([this] {
-        for (const Tab tab : {LogTab, ReportTab, TrackerTab})
+        for (const Tab tab : {StartTab, ReportTab, TrackerTab, LogTab})
             tabs_->setTabText(tab, text(tabKeys[tab]));
     });
 
@@ -111,6 +119,8 @@ void WorkbenchWindow::connectCommands()
         session_.newConfiguration(settings_.fullWindow());
         tellOpened({});
     });
+    on(Command::History, [this] { showHistory(); });
+    on(Command::Previous, [this] { tellOpened(session_.bringBackPrevious()); });
     on(Command::LiveTelemetry, [this] { tellOpened(session_.liveTelemetry()); });
     on(Command::BrowseFile, [this] { opener_->chooseTelemetry(TelemetryWindow::Browser); });
     on(Command::TableFile, [this] { opener_->chooseTelemetry(TelemetryWindow::Table); });
@@ -137,17 +147,14 @@ void WorkbenchWindow::connectSession()
     // Before all that looks at a message: they mark it in the log.
     connect(&session_.link(), &PluginLink::passed, &log_, &MessageLogModel::append);
     connect(&session_, &HostSession::helpRequested, this, &WorkbenchWindow::showHelp);
-    connect(&session_, &HostSession::writeEnded, this, &WorkbenchWindow::showReport);
-    connect(&session_, &HostSession::writeBegan, this,
-            [this] { status_->tell(StatusLine::Command, [] { return text("wb_writing"); }); });
-    connect(&session_, &HostSession::writeCancelled, this,
-            [this] { status_->tell(StatusLine::Command, [] { return text("wb_write_cancelled"); }); });
-    connect(&session_, &HostSession::editedChanged, this, &WorkbenchWindow::showEdited);
-    session_.setReplaceQuestion([this](const QString& file) {
-        return agrees(file.isEmpty() ? text("wb_replace_question")
-                                     : text("wb_replace_question_file").arg(file),
-                      text("wb_replace_write"), QStringLiteral("messageBox_Replace"), this);
+    connect(&session_.road(), &WriteRoad::ended, this, &WorkbenchWindow::showReport);
+    connect(&session_.road(), &WriteRoad::stepChanged, this, [this](RoadReport::Step step) {
+        if (step == RoadReport::Step::writing)
+            status_->tell(StatusLine::Command, [] { return text("wb_writing"); });
     });
+    connect(&session_, &HostSession::writeRefused, this,
+            [this] { tellOpened([] { return text("wb_write_busy"); }); });
+    connect(&session_, &HostSession::editedChanged, this, &WorkbenchWindow::showEdited);
     session_.commands().setQuestion([this](const QString& text, const QString& verb) {
         return agrees(text, verb, QStringLiteral("messageBox_Command"), this);
     });
@@ -191,12 +198,14 @@ bool WorkbenchWindow::start(const QString& pluginPath)
         applyFolders();
         session_.link().setMode(settings_.mode());
         offerTexts();
+        session_.link().promiseConfirmations();
         session_.tracker().attach();
     } else {
         tellOfRun([this] { return session_.link().error(); });
     }
     device_->refresh();
     updateCommands();
+    start_->takeFocus();
     return loaded;
 }
 
@@ -207,7 +216,7 @@ void WorkbenchWindow::updateCommands()
     for (const Command command : {Command::OpenFile, Command::NewConfiguration, Command::BrowseFile,
                                   Command::TableFile, Command::BalanceCode})
         commands_[command]->setEnabled(loaded);
-    for (const Command command : {Command::ReadTracker, Command::LiveTelemetry})
+    for (const Command command : {Command::ReadTracker, Command::Previous, Command::LiveTelemetry})
         commands_[command]->setEnabled(loaded && attached);
     commands_[Command::Cable]->setChecked(attached);
     bars_->setLanguagesOffered(!isConfigurationOpen());
@@ -328,18 +337,31 @@ void WorkbenchWindow::showHelp(const QString& page)
     help_->showPage(page);
 }
 
-void WorkbenchWindow::showReport(const tracker::WriteReport& report)
+void WorkbenchWindow::showReport(const RoadReport& report)
 {
+    if (report.outcome == RoadReport::Outcome::cancelled) {
+        status_->tell(StatusLine::Command, [] { return text("wb_write_cancelled"); });
+        return;
+    }
     // What was refused is not written with those numbers yet.
-    const QString typed = report.accepted ? saveNotices_->typing().take() : QString();
+    const bool isWritten =
+        report.outcome == RoadReport::Outcome::confirmed || report.outcome == RoadReport::Outcome::notTaken;
+    const QString typed = isWritten ? saveNotices_->typing().take() : QString();
     reportView_->setReport(report, typed);
     tabs_->setCurrentIndex(ReportTab);
     status_->tell(StatusLine::Command, [report, typed] {
         const QString summary = workbench::summary(report).section(QLatin1Char('\n'), 0, 0);
         return typed.isEmpty() ? summary : summary + QLatin1Char('\n') + typed;
     });
-    if (QWidget* modal = QApplication::activeModalWidget())
-        WriteReportView::showDialog(report, typed, modal);
+    road_->showReport(report, typed);
+}
+
+void WorkbenchWindow::showHistory()
+{
+    if (!history_)
+        history_ = new HistoryWindow(session_, settings_, this);
+    history_->show();
+    history_->activateWindow();
 }
 
 void WorkbenchWindow::showEdited()
@@ -365,6 +387,7 @@ void WorkbenchWindow::retranslate()
     status_->refresh();
     device_->retranslate();
     recent_->retranslate();
+    start_->retranslate();
     logView_->retranslate();
     reportView_->retranslate();
     trackerPanel_->retranslate();
@@ -405,9 +428,11 @@ bool WorkbenchWindow::mayClose()
     QWidget* calibration = PluginWindows::calibration();
     if (calibration && !calibration->close())
         return false;
-    // The report of what was refused would go unseen.
-    if (!session_.finishWrites())
+    // Its report would go unseen.
+    if (session_.road().isBusy()) {
+        tellOpened([] { return text("wb_close_writing"); });
         return false;
+    }
     return !session_.link().runningWork().saving ||
            agrees(text("wb_close_saving"), text("wb_close_verb"), QStringLiteral("messageBox_Close"), this);
 }

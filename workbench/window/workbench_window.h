@@ -1,7 +1,7 @@
 #pragma once
 
-// The main window: the device, the recent files, and beside them the message log, the last write report and
-// the simulated tracker; above them the commands.
+// The main window: the device, the recent files, and beside them what there is to do, the last write report,
+// the simulated tracker and the message log; above them the commands.
 
 #include "window/commands.h"
 #include "window/help_viewer.h"
@@ -29,11 +29,14 @@ class DevicePanel;
 class FaultsAtHand;
 class FileNotices;
 class FileOpener;
+class HistoryWindow;
 class Languages;
 class LinkNotices;
 class MessageLogView;
 class RecentFiles;
+class RoadWindows;
 class SaveNotices;
+class StartPanel;
 class StatusLine;
 class TrackerPanel;
 class WriteReportView;
@@ -83,7 +86,8 @@ private:
     void showBalance();
     void about();
     bool mayClose();
-    void showReport(const tracker::WriteReport& report);
+    void showReport(const RoadReport& report);
+    void showHistory();
     void showEdited();
     void updateCommands();
     bool isConfigurationOpen() const;
@@ -99,6 +103,7 @@ private:
     Commands commands_;
     HelpPages helpPages_;
     QPointer<HelpViewer> help_;
+    QPointer<HistoryWindow> history_;
     StatusLine* status_;
     DevicePanel* device_;
     RecentFiles* recent_;
@@ -106,6 +111,7 @@ private:
     CommandBars* bars_;
     QSplitter* splitter_;
     QTabWidget* tabs_;
+    StartPanel* start_;
     MessageLogView* logView_;
     WriteReportView* reportView_;
     TrackerPanel* trackerPanel_;
@@ -113,6 +119,7 @@ private:
     std::unique_ptr<LinkNotices> linkNotices_;
     std::unique_ptr<SaveNotices> saveNotices_;
     std::unique_ptr<FileNotices> fileNotices_;
+    RoadWindows* road_;
 };
 
 } // namespace workbench

@@ -1,33 +1,30 @@
 #include "window/write_report_model.h"
 
+#include "plugin_names.h"
+#include "typing/field_mark.h"
 #include "window/languages.h"
+#include "window/setting_change_model.h"
+
+#include <QGuiApplication>
+#include <QPalette>
 
 namespace workbench {
 
-void WriteReportModel::setReport(const tracker::WriteReport& report)
+void WriteReportModel::setReport(const RoadReport& report)
 {
     beginResetModel();
-    rows_.clear();
-    const auto append = [this](const char* kindKey, const QVector<tracker::KeyChange>& changes) {
-        for (const tracker::KeyChange& change : changes)
-            rows_.append({kindKey, change});
-    };
-    append("wb_report_changed", report.changed);
-    append("wb_report_added", report.added);
-    append("wb_report_removed", report.removed);
+    settings_ = report.settings;
     endResetModel();
 }
 
 void WriteReportModel::retranslate()
 {
     Q_EMIT headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
-    if (!rows_.isEmpty())
-        Q_EMIT dataChanged(index(0, Kind), index(int(rows_.size()) - 1, Kind));
 }
 
 int WriteReportModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : int(rows_.size());
+    return parent.isValid() ? 0 : int(settings_.size());
 }
 
 int WriteReportModel::columnCount(const QModelIndex& parent) const
@@ -37,25 +34,28 @@ int WriteReportModel::columnCount(const QModelIndex& parent) const
 
 QVariant WriteReportModel::data(const QModelIndex& index, int role) const
 {
-    if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
+    const WrittenSetting& setting = settings_.at(index.row());
+    if (role == Qt::DecorationRole && index.column() == Setting)
+        return markPixmap(setting.isTaken ? Mark::right : Mark::invalid, QGuiApplication::palette(), markSize,
+                          qApp->devicePixelRatio());
+    if (role != Qt::DisplayRole)
         return {};
-    const Row& row = rows_.at(index.row());
     switch (index.column()) {
-    case Kind:
-        return text(row.kindKey);
+    case Setting:
+        return settingName(setting.change);
     case Key:
-        return row.change.path;
-    case Before:
-        return row.change.before;
+        return setting.change.path;
+    case Sent:
+        return shownValue(setting.change.after, setting.change.afterText);
     default:
-        return row.change.after;
+        return shownValue(setting.readBack, setting.readBackText);
     }
 }
 
 QVariant WriteReportModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    static constexpr const char* keys[ColumnCount] = {"wb_report_kind", "wb_report_key", "wb_report_before",
-                                                      "wb_report_after"};
+    static constexpr const char* keys[ColumnCount] = {"wb_report_setting", "wb_report_key", "wb_report_sent",
+                                                      "wb_report_back"};
     if (orientation == Qt::Horizontal && role == Qt::DisplayRole)
         return text(keys[section]);
     return {};

@@ -1,9 +1,9 @@
 #pragma once
 
-// The keys that a written configuration changed in the tracker: the changed ones first, then the added and
-// the removed ones, each with its old and new value.
+// The settings of a configuration that was written, in words and with their keys: what was sent and what the
+// tracker said when it was read back. What it did not take comes first.
 
-#include "tracker/write_report.h"
+#include "road/road_report.h"
 
 #include <QAbstractTableModel>
 
@@ -14,11 +14,11 @@ class WriteReportModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    enum Column { Kind, Key, Before, After, ColumnCount };
+    enum Column { Setting, Key, Sent, ReadBack, ColumnCount };
 
     using QAbstractTableModel::QAbstractTableModel;
 
-    void setReport(const tracker::WriteReport& report);
+    void setReport(const RoadReport& report);
     void retranslate();
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -27,13 +27,7 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    struct Row
-    {
-        const char* kindKey;
-        tracker::KeyChange change;
-    };
-
-    QVector<Row> rows_;
+    QVector<WrittenSetting> settings_;
 };
 
 } // namespace workbench

@@ -1,13 +1,39 @@
 #include "window/write_report_text.h"
 
 #include "window/languages.h"
+#include "window/trouble_text.h"
 #include "window/write_report_model.h"
 
 #include <QFile>
 
+#include <algorithm>
+#include <iterator>
+
 namespace workbench {
 
 namespace {
+
+using Fault = RoadReport::Fault;
+using Outcome = RoadReport::Outcome;
+
+struct FaultRow
+{
+    Fault fault;
+    const char* reasonKey;
+    const char* adviceKey;
+};
+
+constexpr FaultRow faultRows[] = {
+    {Fault::badRequest, "wb_road_request", nullptr},
+    {Fault::unsaved, "wb_refused_unsaved", "wb_do_disk"},
+    {Fault::incomparable, "wb_road_incomparable", nullptr},
+    {Fault::detached, "wb_refused_detached", "wb_do_attach"},
+    {Fault::otherTracker, "wb_road_other", "wb_do_attach"},
+    {Fault::unplugged, "wb_why_unplugged", "wb_do_attach"},
+    {Fault::silent, "wb_refused_silence", "wb_do_cable"},
+    {Fault::badAnswer, "wb_why_answer", "wb_do_cable"},
+    {Fault::noBackup, "wb_road_no_backup", "wb_do_disk"},
+};
 
 struct AdviceRow
 {
@@ -17,50 +43,72 @@ struct AdviceRow
 
 // What to do about a refusal that a user can mend; the others say enough.
 constexpr AdviceRow advices[] = {
-    {"wb_refused_detached", "wb_do_attach"}, {"wb_refused_unplugged", "wb_do_attach"},
-    {"wb_refused_silence", "wb_do_cable"},   {"wb_refused_unsaved", "wb_do_disk"},
-    {"wb_refused_memory", "wb_do_disk"},     {"wb_refused_record", "wb_do_data_set"},
+    {"wb_refused_memory", "wb_do_disk"},
+    {"wb_refused_record", "wb_do_data_set"},
 };
 
-QString adviceOn(const QString& reasonKey)
+QString reasonFor(const RoadReport& report)
 {
-    for (const AdviceRow& row : advices)
-        if (reasonKey == QLatin1String(row.reasonKey))
-            return text(row.adviceKey);
+    const auto* row = std::find_if(std::begin(faultRows), std::end(faultRows),
+                                   [&](const FaultRow& each) { return each.fault == report.fault; });
+    const char* advice = row == std::end(faultRows) ? nullptr : row->adviceKey;
+    QString reason = row == std::end(faultRows) ? text(report.reasonKey.toLatin1().constData())
+                     : report.fault == Fault::unplugged && report.outcome == Outcome::notWritten &&
+                             report.step == RoadReport::Step::writing
+                         ? text("wb_refused_unplugged")
+                         : text(row->reasonKey);
+    for (const AdviceRow& each : advices)
+        if (report.reasonKey == QLatin1String(each.reasonKey))
+            advice = each.adviceKey;
+    if (report.problem)
+        reason += QLatin1Char(' ') + reasonOf(*report.problem);
+    if (!report.detail.isEmpty())
+        reason += QLatin1Char(' ') + report.detail;
+    // A detail ends without a full stop.
+    if (advice)
+        reason += (report.detail.isEmpty() ? QLatin1Char(' ') : QLatin1Char('\n')) + text(advice);
+    return reason;
+}
+
+QString firstLine(const RoadReport& report)
+{
+    const int all = int(report.settings.size());
+    const int missed = report.missed();
+    switch (report.outcome) {
+    case Outcome::confirmed:
+        return all == 0 ? text("wb_report_same")
+                        : text("wb_report_confirmed").arg(number(all - missed), number(all));
+    case Outcome::notTaken:
+        return text("wb_report_missed").arg(number(missed), number(all));
+    case Outcome::unknown:
+        return text("wb_report_unknown").arg(reasonFor(report));
+    case Outcome::notWritten:
+        return text("wb_report_refused").arg(reasonFor(report));
+    case Outcome::cancelled:
+        return text("wb_write_cancelled");
+    }
     return {};
 }
 
 } // namespace
 
-QString summary(const tracker::WriteReport& report, const QString& typed)
+QString summary(const RoadReport& report, const QString& typed)
 {
-    if (!report.accepted) {
-        QString reason = text(report.reasonKey.toLatin1().constData());
-        if (!report.detail.isEmpty())
-            reason += QLatin1Char(' ') + report.detail;
-        QString refusal = text("wb_report_refused").arg(reason);
-        const QString advice = adviceOn(report.reasonKey);
-        // A detail ends without a full stop.
-        if (!advice.isEmpty())
-            refusal += (report.detail.isEmpty() ? QLatin1Char(' ') : QLatin1Char('\n')) + advice;
-        if (QFile::exists(report.file))
-            refusal += QLatin1Char('\n') + text("wb_report_kept").arg(report.file);
-        return refusal;
+    QStringList lines{firstLine(report)};
+    if (report.outcome == Outcome::unknown || report.outcome == Outcome::notTaken)
+        lines.append(text("wb_report_do"));
+    if (report.outcome == Outcome::confirmed || report.outcome == Outcome::notTaken) {
+        lines.append(typed);
+        if (!report.keptSections.isEmpty())
+            lines.append(text("wb_report_kept_sections").arg(report.keptSections.join(QStringLiteral(", "))));
     }
-    QString taken = report.sameAsBefore() ? text("wb_report_same")
-                                          : text("wb_report_taken")
-                                                .arg(report.changed.size())
-                                                .arg(report.added.size())
-                                                .arg(report.removed.size());
-    if (!typed.isEmpty())
-        taken += QLatin1Char('\n') + typed;
-    if (!report.keptSections.isEmpty())
-        taken += QLatin1Char('\n') +
-                 text("wb_report_kept_sections").arg(report.keptSections.join(QStringLiteral(", ")));
-    return taken;
+    if (!report.request.file.isEmpty() && QFile::exists(report.request.file))
+        lines.append(text("wb_report_kept").arg(report.request.file));
+    lines.removeAll(QString());
+    return lines.join(QLatin1Char('\n'));
 }
 
-QString plainText(const tracker::WriteReport& report, const QString& typed)
+QString plainText(const RoadReport& report, const QString& typed)
 {
     WriteReportModel model;
     model.setReport(report);

@@ -1,19 +1,16 @@
 #pragma once
 
-// What became of a written configuration, in words.
+// What became of a configuration on its way to the tracker, in words.
 
-#include "tracker/write_report.h"
-
-#include <QString>
+#include "road/road_report.h"
 
 namespace workbench {
 
-// One sentence: taken with so many keys changed, taken without a change, or refused and why. Behind it stands
-// what became of numbers that were still being typed, if there were any.
-QString summary(const tracker::WriteReport& report, const QString& typed = {});
+// The first line says whether it is written; what to do about it, what stays as it was and where the file
+// lies come behind it, and what became of numbers that were still being typed, if there were any.
+QString summary(const RoadReport& report, const QString& typed = {});
 
-// The summary and a line a key, for a file or the clipboard: what happened, the key, old and new value,
-// divided by tabs.
-QString plainText(const tracker::WriteReport& report, const QString& typed = {});
+// The summary and a line a setting, for a file or the clipboard, divided by tabs.
+QString plainText(const RoadReport& report, const QString& typed = {});
 
 } // namespace workbench

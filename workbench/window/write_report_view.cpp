@@ -4,30 +4,44 @@
 #include "typing/empty_note.h"
 #include "typing/field_mark.h"
 #include "typing/table_look.h"
+#include "window/host_session.h"
 #include "window/line_icon.h"
+#include "window/message_box.h"
 #include "window/scrolling.h"
+#include "window/setting_change_model.h"
+#include "window/trouble_text.h"
 #include "window/write_report_text.h"
 
 #include <QClipboard>
 #include <QDialog>
-#include <QDialogButtonBox>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPushButton>
 #include <QTableView>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 namespace workbench {
 
-WriteReportView::WriteReportView(QWidget* parent)
-    : QWidget(parent), symbol_(new QLabel(this)), summary_(new QLabel(this)), copy_(new QToolButton(this)),
-      table_(new QTableView(this))
+namespace {
+
+constexpr QSize sizeWithSettings(860, 420);
+constexpr int widthOfWords = 560;
+constexpr int roomAround = 140; // what stands above and below the table
+
+} // namespace
+
+WriteReportView::WriteReportView(HostSession& session, QWidget* parent)
+    : QWidget(parent), session_(session), symbol_(new QLabel(this)), summary_(new QLabel(this)),
+      time_(new QLabel(this)), copy_(new QToolButton(this)), table_(new QTableView(this)),
+      backup_(new QLabel(this)), buttons_(new QHBoxLayout)
 {
     summary_->setObjectName(QStringLiteral("label_Report"));
     summary_->setWordWrap(true);
     summary_->setTextFormat(Qt::PlainText);
     summary_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    symbol_->setContentsMargins(0, (fontMetrics().height() - markSize) / 2, 0, 0);
     copy_->setIcon(lineIcon(QStringLiteral("copy")));
     copy_->setAutoRaise(true);
     texts_.bind([this] {
@@ -37,53 +51,107 @@ WriteReportView::WriteReportView(QWidget* parent)
     });
     connect(copy_, &QToolButton::clicked, this,
             [this] { QGuiApplication::clipboard()->setText(plainText(report_, typed_)); });
+    buildTable();
 
-    table_->setObjectName(QStringLiteral("tableView_Report"));
-    table_->setModel(&model_);
-    table_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    vlk::dressTable(table_, TableUse::read);
-    vlk::elideInTheMiddle(table_, WriteReportModel::Key);
-    table_->horizontalHeader()->setStretchLastSection(true);
-    table_->setColumnWidth(WriteReportModel::Kind, fontMetrics().averageCharWidth() * 11);
-    table_->setColumnWidth(WriteReportModel::Key, fontMetrics().averageCharWidth() * 25);
-    table_->setColumnWidth(WriteReportModel::Before, fontMetrics().averageCharWidth() * 23);
-
-    auto* empty = new EmptyNote(table_);
-    texts_.bind([empty] { empty->tell(text("wb_report_none")); });
+    backup_->setObjectName(QStringLiteral("label_Backup"));
+    buttons_->addWidget(backup_);
+    buttons_->addStretch(1);
+    again_ = addButton("pushButton_Again", &WriteReportView::tryAgain);
+    back_ = addButton("pushButton_BringBack", &WriteReportView::bringBack);
 
     auto* line = new QHBoxLayout;
-    line->addWidget(symbol_);
-    line->addWidget(summary_, 1);
-    line->addWidget(copy_);
+    line->addWidget(symbol_, 0, Qt::AlignTop);
+    line->addWidget(summary_, 1, Qt::AlignTop);
+    line->addWidget(time_, 0, Qt::AlignTop);
+    line->addWidget(copy_, 0, Qt::AlignTop);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(6, 6, 6, 6);
+    column->setSpacing(6);
     column->addLayout(line);
     column->addWidget(table_, 1);
+    column->addLayout(buttons_);
     showSummary();
 }
 
-void WriteReportView::setReport(const tracker::WriteReport& report, const QString& typed)
+void WriteReportView::buildTable()
+{
+    table_->setObjectName(QStringLiteral("tableView_Report"));
+    table_->setModel(&model_);
+    table_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    dressTable(table_, TableUse::read);
+    elideInTheMiddle(table_, WriteReportModel::Setting);
+    elideInTheMiddle(table_, WriteReportModel::Key);
+    table_->setIconSize({markSize, markSize});
+    // The name takes what the others leave.
+    table_->horizontalHeader()->setSectionResizeMode(WriteReportModel::Setting, QHeaderView::Stretch);
+    const int letter = fontMetrics().averageCharWidth();
+    for (const int column : {WriteReportModel::Key, WriteReportModel::Sent, WriteReportModel::ReadBack})
+        table_->setColumnWidth(column, letter * 17);
+    auto* empty = new EmptyNote(table_);
+    texts_.bind([this, empty] {
+        empty->tell(text(report_.time.isValid() ? "wb_report_nothing" : "wb_report_none"));
+    });
+}
+
+QPushButton* WriteReportView::addButton(const char* name, Sentence (WriteReportView::*act)())
+{
+    auto* button = new QPushButton(this);
+    button->setObjectName(QLatin1String(name));
+    button->setMinimumWidth(80);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, [this, act] {
+        Q_EMIT leaving();
+        if (const Sentence why = (this->*act)())
+            showWarning(why(), this);
+    });
+    buttons_->addWidget(button);
+    return button;
+}
+
+Sentence WriteReportView::tryAgain()
+{
+    return session_.writeAgain(report_.request);
+}
+
+Sentence WriteReportView::bringBack()
+{
+    return session_.bringBack(report_.backup);
+}
+
+void WriteReportView::setReport(const RoadReport& report, const QString& typed)
 {
     report_ = report;
     typed_ = typed;
-    time_ = QDateTime::currentDateTime();
     model_.setReport(report);
+    texts_.apply();
     showSummary();
 }
 
 void WriteReportView::showSummary()
 {
-    const bool any = time_.isValid();
+    using Outcome = RoadReport::Outcome;
+    const bool any = report_.time.isValid();
     copy_->setVisible(any);
     symbol_->setVisible(any);
     summary_->setVisible(any);
+    time_->setVisible(any);
+    backup_->setVisible(any && report_.backup > 0);
+    backup_->setText(text("wb_report_backup").arg(number(report_.backup)));
+    // What was never saved for the tracker is written again from its window.
+    again_->setVisible(any && report_.outcome != Outcome::confirmed &&
+                       report_.fault != RoadReport::Fault::unsaved &&
+                       report_.fault != RoadReport::Fault::badRequest);
+    again_->setText(text("wb_report_again"));
+    back_->setVisible(any && report_.backup > 0 && report_.mayHaveChanged());
+    back_->setText(text("wb_report_bring_back").arg(number(report_.backup)));
     if (!any)
         return;
-    const bool asTyped = report_.accepted && typed_.isEmpty();
-    const Mark mark = asTyped ? Mark::right : Mark::advice;
-    symbol_->setPixmap(vlk::markPixmap(mark, palette(), vlk::markSize, devicePixelRatioF()));
-    summary_->setText(
-        QStringLiteral("%1 %2").arg(time_.toString(QStringLiteral("HH:mm:ss")), summary(report_, typed_)));
+    const Mark mark = report_.outcome == Outcome::confirmed ? (typed_.isEmpty() ? Mark::right : Mark::advice)
+                      : report_.outcome == Outcome::cancelled ? Mark::advice
+                                                              : Mark::invalid;
+    symbol_->setPixmap(markPixmap(mark, palette(), markSize, devicePixelRatioF()));
+    summary_->setText(summary(report_, typed_));
+    time_->setText(timeOfDay(report_.time));
 }
 
 void WriteReportView::retranslate()
@@ -93,24 +161,35 @@ void WriteReportView::retranslate()
     showSummary();
 }
 
-void WriteReportView::showDialog(const tracker::WriteReport& report, const QString& typed, QWidget* parent)
+void WriteReportView::showDialog(HostSession& session, const RoadReport& report, const QString& typed,
+                                 QWidget* parent)
 {
     auto* dialog = new QDialog(parent);
     dialog->setObjectName(QStringLiteral("dialog_Report"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowTitle(plainText("wb_tab_report"));
-    auto* view = new WriteReportView(dialog);
+    auto* view = new WriteReportView(session, dialog);
     view->setReport(report, typed);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, dialog);
-    connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+    auto* close = new QPushButton(plainText("wb_report_close"), dialog);
+    close->setObjectName(QStringLiteral("pushButton_Close"));
+    close->setMinimumWidth(80);
+    close->setDefault(true);
+    view->buttons_->addWidget(close);
+    connect(close, &QPushButton::clicked, dialog, &QDialog::reject);
+    // What comes next stands over the window below.
+    connect(view, &WriteReportView::leaving, dialog, &QWidget::hide);
+    connect(view, &WriteReportView::leaving, dialog, &QObject::deleteLater);
     auto* column = new QVBoxLayout(dialog);
+    column->setContentsMargins(3, 3, 3, 3);
     column->addWidget(view, 1);
-    column->addWidget(buttons);
-    // A refusal has no keys to show.
-    const bool keys = !report.sameAsBefore();
+    const bool keys = !report.settings.isEmpty();
     view->table_->setVisible(keys);
-    resizeWithin(dialog, keys ? QSize(860, 380) : QSize(560, dialog->heightForWidth(560)));
+    resizeWithin(dialog,
+                 keys ? QSize(sizeWithSettings.width(),
+                              qMin(sizeWithSettings.height(), roomAround + heightOfRows(*view->table_)))
+                      : QSize(widthOfWords, dialog->heightForWidth(widthOfWords)));
     dialog->open();
+    close->setFocus();
 }
 
 } // namespace workbench

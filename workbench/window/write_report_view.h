@@ -1,47 +1,66 @@
 #pragma once
 
-// Shows what the tracker made of the last written configuration: a sentence and a table of keys. The same
-// widget stands in the main window and in the dialog that comes up over the configuration window.
+// Shows what became of the last configuration on its way to the tracker: in a sentence, setting by setting,
+// and what can be done about it. The same widget stands in the main window and in the dialog that comes up
+// over the configuration window.
 
-#include "tracker/write_report.h"
+#include "road/road_report.h"
 #include "window/key_texts.h"
+#include "window/sentence.h"
 #include "window/write_report_model.h"
 
-#include <QDateTime>
 #include <QWidget>
 
+class QHBoxLayout;
 class QLabel;
+class QPushButton;
 class QTableView;
 class QToolButton;
 
 namespace workbench {
+
+class HostSession;
 
 class WriteReportView : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit WriteReportView(QWidget* parent = nullptr);
+    explicit WriteReportView(HostSession& session, QWidget* parent = nullptr);
 
     // With what became of numbers that were still being typed, or nothing.
-    void setReport(const tracker::WriteReport& report, const QString& typed);
+    void setReport(const RoadReport& report, const QString& typed);
     void retranslate();
 
     // The view in a dialog of its own that deletes itself when it is closed.
-    static void showDialog(const tracker::WriteReport& report, const QString& typed, QWidget* parent);
+    static void showDialog(HostSession& session, const RoadReport& report, const QString& typed,
+                           QWidget* parent);
+
+Q_SIGNALS:
+    // A button that puts something on the road again was pressed.
+    void leaving();
 
 private:
+    QPushButton* addButton(const char* name, Sentence (WriteReportView::*act)());
+    Sentence tryAgain();
+    Sentence bringBack();
+    void buildTable();
     void showSummary();
 
+    HostSession& session_;
     WriteReportModel model_;
     KeyTexts texts_;
-    tracker::WriteReport report_;
+    RoadReport report_;
     QString typed_;
-    QDateTime time_;
     QLabel* symbol_;
     QLabel* summary_;
+    QLabel* time_;
     QToolButton* copy_;
     QTableView* table_;
+    QLabel* backup_;
+    QHBoxLayout* buttons_;
+    QPushButton* again_;
+    QPushButton* back_;
 };
 
 } // namespace workbench

@@ -1,0 +1,438 @@
+// The way of a configuration into a tracker that does as the test says, and the backups that it leaves.
+
+#include "road/backups.h"
+#include "road/chosen_settings.h"
+#include "road/write_road.h"
+#include "support/data_table.h"
+#include "support/full_disk.h"
+#include "tracker/simulated_tracker.h"
+#include "window/file_comparer.h"
+#include "window/plugin_link.h"
+#include "window/simulated_port.h"
+
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+
+using workbench::PortAnswer;
+using workbench::RoadReport;
+using workbench::WriteRequest;
+using Fault = RoadReport::Fault;
+using Outcome = RoadReport::Outcome;
+using Step = RoadReport::Step;
+
+namespace {
+
+QByteArray device(const QByteArray& content)
+{
+    return "<?xml version=\"1.0\" encoding=\"windows-1251\"?>\n<DEVICE model=\"R-7106\">" + content +
+           "</DEVICE>\n";
+}
+
+const QByteArray kOld =
+    device("<A page=\"A\"><S x=\"1\" y=\"2\" z=\"3\"/></A><B page=\"B\"><S k=\"7\"/></B>");
+const QByteArray kNew =
+    device("<A page=\"A\"><S x=\"5\" z=\"3\" n=\"4\"/></A>"); // x changed, y removed, n added
+const QByteArray kHalf = device("<A page=\"A\"><S x=\"5\" y=\"2\" z=\"3\" n=\"4\"/></A>");
+const QByteArray kPlain = device("<A page=\"A\"><S x=\"6\" y=\"2\" z=\"3\"/></A>");
+
+// What goes wrong, at which of the tracker's answers.
+enum class Wrong {
+    Nothing,
+    Silence,
+    Garbage,
+    Unplugged,
+    Refused,
+    PowerLoss,
+    OtherTracker,
+    Gone,
+    TakesHalf,
+    LostAnswer
+};
+
+class ScriptedPort : public workbench::TrackerPort
+{
+public:
+    workbench::TrackerIdentity tracker() const override { return {"R-7106", number, "Van"}; }
+
+    void read(Copy copy) override
+    {
+        const bool isBack = written;
+        answer(isBack ? Step::readingBack : Step::reading, [this, copy](Wrong wrong) {
+            if (wrong == Wrong::Unplugged || number.isEmpty()) {
+                number.clear();
+                Q_EMIT readEnded({PortAnswer::Outcome::unplugged, {}, {}, {}});
+            } else {
+                const QByteArray document = copy == Copy::previous ? kPlain : held;
+                Q_EMIT readEnded({PortAnswer::Outcome::done,
+                                  wrong == Wrong::Garbage ? document.left(document.size() / 2) : document,
+                                  {},
+                                  {}});
+            }
+        });
+    }
+    void write(const QByteArray& document) override
+    {
+        written = true;
+        answer(Step::writing, [this, document](Wrong wrong) {
+            Q_EMIT sent(10, document.size());
+            if (wrong == Wrong::Unplugged) {
+                number.clear();
+                Q_EMIT writeEnded({PortAnswer::Outcome::unplugged, {}, {}, {}});
+                return;
+            }
+            if (isSlow)
+                return;
+            Q_EMIT sent(document.size(), document.size());
+            Q_EMIT taken();
+            if (wrong == Wrong::Refused) {
+                Q_EMIT writeEnded({PortAnswer::Outcome::refused, {}, "wb_refused_memory", "full"});
+                return;
+            }
+            if (wrong == Wrong::PowerLoss)
+                number.clear();
+            else
+                held = wrong == Wrong::TakesHalf ? kHalf : document;
+            if (wrong != Wrong::LostAnswer)
+                Q_EMIT writeEnded(
+                    {wrong == Wrong::PowerLoss ? PortAnswer::Outcome::unplugged : PortAnswer::Outcome::done,
+                     {},
+                     {},
+                     {}});
+        });
+    }
+    void drop() override { ++dropped; }
+
+    QString number = "860000000071060";
+    QByteArray held = kOld;
+    Step at = Step::review; // where it goes wrong
+    Wrong wrong = Wrong::Nothing;
+    bool written = false;
+    bool isSlow = false; // only the first block comes
+    int dropped = 0;
+
+private:
+    void answer(Step step, const std::function<void(Wrong)>& act)
+    {
+        const Wrong now = step == at ? wrong : Wrong::Nothing;
+        if (now != Wrong::Silence)
+            QMetaObject::invokeMethod(
+                this, [act, now] { act(now); }, Qt::QueuedConnection);
+    }
+};
+
+struct Bench
+{
+    Bench()
+    {
+        QObject::connect(&road, &workbench::WriteRoad::ended, &road,
+                         [this](const RoadReport& r) { reports.append(r); });
+    }
+
+    bool begin(const QByteArray& document = kNew, WriteRequest::Origin origin = WriteRequest::Origin::tracker)
+    {
+        return road.begin({origin, document, {}, port.number, {}});
+    }
+    workbench::WriteReview review()
+    {
+        return reviews.isEmpty() && !reviews.wait(2000)
+                   ? workbench::WriteReview()
+                   : reviews.takeFirst().first().value<workbench::WriteReview>();
+    }
+    RoadReport report()
+    {
+        return QTest::qWaitFor([this] { return !reports.isEmpty(); }, 3000) ? reports.takeFirst()
+                                                                            : RoadReport();
+    }
+
+    QTemporaryDir root;
+    ScriptedPort port;
+    workbench::PluginLink link; // without a plug-in keys are compared as they stand
+    workbench::FileComparer comparer{link};
+    workbench::Backups backups{root.filePath("backups")};
+    workbench::WriteRoad road{
+        port,
+        backups,
+        [this](const QByteArray& a, const QByteArray& b) { return comparer.compare(a, b); },
+        {},
+        {20, 60}};
+    QSignalSpy reviews{&road, &workbench::WriteRoad::reviewReady};
+    QVector<RoadReport> reports;
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(Wrong)
+Q_DECLARE_METATYPE(Fault)
+Q_DECLARE_METATYPE(Outcome)
+Q_DECLARE_METATYPE(Step)
+
+class WriteRoadTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void writesAndConfirms()
+    {
+        Bench bench;
+        QVERIFY(bench.begin() && !bench.begin());
+        const workbench::WriteReview review = bench.review();
+        QCOMPARE(review.changes.size(), 3);
+        QCOMPARE(review.changes.first().path, QString("A/S/y"));
+        QVERIFY(review.removed == 1 && review.added == 1 && review.changed() == 1 && review.mustBeSeen());
+        QCOMPARE(review.keptSections, QStringList("B"));
+        QVERIFY(bench.port.held == kOld && bench.backups.all().isEmpty());
+        bench.road.approve();
+        const RoadReport report = bench.report();
+        QVERIFY(report.outcome == Outcome::confirmed && report.missed() == 0);
+        QCOMPARE(report.settings.size(), 3);
+        QCOMPARE(bench.backups.document(report.backup), kOld);
+        QVERIFY(!bench.road.isBusy());
+    }
+
+    // Each fault at each step ends in a true report.
+    void everyFault_data()
+    {
+        using Table = DataTable<Step, Wrong, Outcome, Fault, bool>;
+        Table({"at", "wrong", "outcome", "fault", "holdsNew"})
+            .row("read, silence", Step::reading, Wrong::Silence, Outcome::notWritten, Fault::silent, false)
+            .row("read, garbage", Step::reading, Wrong::Garbage, Outcome::notWritten, Fault::badAnswer, false)
+            .row("read, unplugged", Step::reading, Wrong::Unplugged, Outcome::notWritten, Fault::unplugged,
+                 false)
+            .row("review, gone", Step::review, Wrong::Gone, Outcome::notWritten, Fault::detached, false)
+            .row("review, other", Step::review, Wrong::OtherTracker, Outcome::notWritten, Fault::otherTracker,
+                 false)
+            .row("write, silence", Step::writing, Wrong::Silence, Outcome::notWritten, Fault::silent, false)
+            .row("write, unplugged", Step::writing, Wrong::Unplugged, Outcome::notWritten, Fault::unplugged,
+                 false)
+            .row("write, refused", Step::writing, Wrong::Refused, Outcome::notWritten, Fault::refused, false)
+            .row("write, power loss", Step::writing, Wrong::PowerLoss, Outcome::unknown, Fault::unplugged,
+                 false)
+            .row("write, answer lost", Step::writing, Wrong::LostAnswer, Outcome::confirmed, Fault::none,
+                 true)
+            .row("write, taken by half", Step::writing, Wrong::TakesHalf, Outcome::notTaken, Fault::none,
+                 false)
+            .row("back, silence", Step::readingBack, Wrong::Silence, Outcome::unknown, Fault::silent, true)
+            .row("back, garbage", Step::readingBack, Wrong::Garbage, Outcome::unknown, Fault::badAnswer, true)
+            .row("back, unplugged", Step::readingBack, Wrong::Unplugged, Outcome::unknown, Fault::unplugged,
+                 true);
+    }
+    void everyFault()
+    {
+        QFETCH(Step, at);
+        QFETCH(Wrong, wrong);
+        QFETCH(Outcome, outcome);
+        QFETCH(Fault, fault);
+        QFETCH(bool, holdsNew);
+        Bench bench;
+        bench.port.at = at;
+        bench.port.wrong = wrong;
+        QSignalSpy silent(&bench.road, &workbench::WriteRoad::silent);
+        QVERIFY(bench.begin());
+        if (at != Step::reading) {
+            QCOMPARE(bench.review().changes.size(), 3);
+            if (wrong == Wrong::OtherTracker)
+                bench.port.number = "860000000071078";
+            if (wrong == Wrong::Gone)
+                Q_EMIT bench.port.gone();
+            bench.road.approve();
+        }
+        RoadReport report = bench.report();
+        QCOMPARE(int(report.outcome), int(outcome));
+        QCOMPARE(int(report.fault), int(fault));
+        QCOMPARE(bench.port.held == kNew, holdsNew);
+        QCOMPARE(silent.isEmpty(), wrong != Wrong::Silence && wrong != Wrong::LostAnswer);
+        // Nothing is sent without a backup of what was there.
+        QCOMPARE(report.backup > 0, bench.port.written);
+        QVERIFY(report.backup == 0 || bench.backups.document(report.backup) == kOld);
+        if (outcome == Outcome::notTaken) {
+            QCOMPARE(report.missed(), 1);
+            QCOMPARE(report.settings.first().change.path, QString("A/S/y"));
+            QVERIFY(report.settings.first().change.after.isNull() && report.settings.first().readBack == "2");
+        }
+        // Whatever it was, the next one goes through.
+        bench.port.wrong = Wrong::Nothing;
+        bench.port.number = "860000000071060";
+        bench.port.written = false;
+        QVERIFY(bench.road.begin(report.request));
+        bench.review();
+        bench.road.approve();
+        report = bench.report();
+        QVERIFY(report.outcome == Outcome::confirmed && bench.port.held == kNew);
+    }
+
+    void cancelsUntilTheTrackerHasIt()
+    {
+        Bench bench;
+        bench.begin();
+        bench.review();
+        QVERIFY(bench.road.cancel() && bench.report().outcome == Outcome::cancelled);
+        bench.port.isSlow = true;
+        bench.begin();
+        bench.review();
+        bench.road.approve();
+        QSignalSpy progress(&bench.road, &workbench::WriteRoad::progressed);
+        QVERIFY(progress.wait() && bench.road.cancel() && bench.port.held == kOld && bench.port.dropped > 0);
+        QVERIFY(bench.report().outcome == Outcome::cancelled);
+        bench.port.isSlow = false;
+        bench.port.written = false;
+        bench.begin();
+        bench.review();
+        connect(&bench.road, &workbench::WriteRoad::taken, this, [&] { QVERIFY(!bench.road.cancel()); });
+        bench.road.approve();
+        QVERIFY(bench.report().outcome == Outcome::confirmed);
+    }
+
+    // What may be skipped: it loses nothing and comes from this tracker.
+    void knowsWhatMustBeSeen()
+    {
+        Bench bench;
+        bench.begin(kPlain);
+        QVERIFY(!bench.review().mustBeSeen() && bench.road.cancel());
+        bench.road.begin({WriteRequest::Origin::file, kPlain, "van.xml", {}, {}});
+        QVERIFY(bench.review().mustBeSeen() && bench.road.cancel());
+        bench.road.begin({WriteRequest::Origin::previous, {}, {}, {}, {}});
+        const workbench::WriteReview previous = bench.review();
+        QVERIFY(previous.changes.size() == 1 && previous.request.document == kPlain &&
+                !previous.mustBeSeen());
+        bench.road.cancel();
+        bench.reports.clear();
+        bench.begin(kNew.chopped(9));
+        QVERIFY(bench.report().fault == Fault::badRequest);
+    }
+
+    void sendsNothingWithoutABackup()
+    {
+        Bench bench;
+        bench.begin();
+        bench.review();
+        {
+            const FullDisk disk(10);
+            bench.road.approve();
+        }
+        const RoadReport report = bench.report();
+        QVERIFY(report.fault == Fault::noBackup && !report.detail.isEmpty() && !bench.port.written);
+        QVERIFY(bench.backups.all().isEmpty());
+    }
+
+    void keepsBackups()
+    {
+        const QTemporaryDir root;
+        const QDateTime day(QDate(2026, 11, 25), QTime(19, 51), Qt::UTC);
+        {
+            workbench::Backups backups(root.filePath("b"));
+            const workbench::TrackerIdentity van{"R-7106", "86/1", "Фургон"}, bus{"R-7106", "862", {}};
+            QCOMPARE(backups.add(van, kOld, day.addDays(-200), nullptr), 1);
+            QCOMPARE(backups.add(van, kNew, day.addDays(-100), nullptr), 2);
+            QCOMPARE(backups.add(bus, kNew, day.addDays(-300), nullptr), 3);
+            QVERIFY(backups.setNote(1, "before the tank") && !backups.setNote(9, {}));
+        }
+        QFile foreign(root.filePath("b/0099_x_y.xml"));
+        QVERIFY(foreign.open(QIODevice::WriteOnly));
+        workbench::Backups backups(root.filePath("b"));
+        QCOMPARE(backups.all().size(), 3);
+        const workbench::Backup first = *backups.find(1);
+        QCOMPARE(first.note + first.name + first.tracker, QString("before the tankФургон86-1"));
+        QCOMPARE(first.made, day.addDays(-200));
+        const auto others = QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup | QFile::WriteOther;
+        QVERIFY(!(QFile::permissions(first.path) & others));
+        // The newest of each tracker stays however old it is.
+        backups.keepFor(90, day);
+        QCOMPARE(backups.all().size(), 2);
+        QVERIFY(!backups.find(1) && backups.document(2) == kNew && backups.document(1).isEmpty());
+        QCOMPARE(backups.add({"R-7106", "862", {}}, kOld, day, nullptr), 4);
+        QVERIFY(!backups.find(3));
+    }
+
+    void takesChosenSettings()
+    {
+        const QByteArray one = device("<A page=\"A\"><S x=\"1\" y=\"2\"/><S x=\"3\"/></A>");
+        const QByteArray other =
+            device("<A page=\"A\"><S x=\"\xD2&lt;\"/><S x=\"4\" q=\"5\"/></A><C page=\"C\"><D e=\"6\"/></C>");
+        const QByteArray text =
+            workbench::withChosen(one, other, {"A/S/x", "A/S/y", "A/S[2]/q", "C/D/e", "N/o/t"});
+        const workbench::PluginLink link;
+        const workbench::FileComparer comparer(const_cast<workbench::PluginLink&>(link));
+        const auto left = comparer.compare(text, other);
+        QVERIFY2(left && left->size() == 1, text.constData());
+        QCOMPARE(left->first().path, QString("A/S[2]/x"));
+        QVERIFY(workbench::withChosen(one, "<DEVICE", {"A/S/x"}).isEmpty());
+    }
+
+    // Whenever the workbench dies, the tracker has its old or its new configuration, and a backup of the old
+    // one.
+    void survivesKills()
+    {
+        const int kills =
+            qEnvironmentVariableIntValue("VLK_KILLS") > 0 ? qEnvironmentVariableIntValue("VLK_KILLS") : 12;
+        const QTemporaryDir root;
+        const QString factory = tracker::SimulatedTracker(root.filePath("factory")).vehicleName();
+        int written = 0;
+        for (int kill = 0; kill < kills; ++kill) {
+            QProcess child;
+            child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+            child.start(QCoreApplication::applicationFilePath(), {"--road", root.path()});
+            QVERIFY(child.waitForReadyRead(10'000));
+            QTest::qSleep(1 + QRandomGenerator::global()->bounded(700));
+            ::kill(pid_t(child.processId()), SIGKILL);
+            QVERIFY(child.waitForFinished());
+            const tracker::SimulatedTracker tracker(root.filePath("tracker"));
+            const workbench::Backups backups(root.filePath("backups"));
+            const QString now = tracker.vehicleName();
+            QVERIFY2(QStringList({factory, "one", "two"}).contains(now), qPrintable(now));
+            for (const workbench::Backup& backup : backups.all())
+                QVERIFY(!workbench::checkConfiguration(backups.document(backup.number), "R-7106"));
+            written += child.readAllStandardOutput().count("confirmed");
+            QVERIFY(now == factory || !backups.all().isEmpty());
+        }
+        QVERIFY(kills < 100 || written > 0);
+    }
+};
+
+namespace {
+
+// Writes one configuration after the other until it is killed.
+int walkTheRoad(const QString& folder)
+{
+    tracker::SimulatedTracker tracker(folder + "/tracker");
+    tracker.attach();
+    workbench::SimulatedPort port(tracker);
+    workbench::Backups backups(folder + "/backups");
+    workbench::PluginLink link;
+    workbench::FileComparer comparer(link);
+    workbench::WriteRoad road(
+        port, backups, [&](const QByteArray& a, const QByteArray& b) { return comparer.compare(a, b); }, {});
+    const auto begin = [&] {
+        QByteArray document = tracker.readConfiguration().document;
+        const QByteArray name = tracker.vehicleName() == "one" ? "two" : "one";
+        const int at = document.indexOf("name=\"", document.indexOf("<OBJECT")) + 6;
+        document.replace(at, document.indexOf('"', at) - at, name);
+        road.begin({WriteRequest::Origin::tracker, document, {}, tracker.text2(), {}});
+    };
+    QObject::connect(&road, &workbench::WriteRoad::reviewReady, &road, &workbench::WriteRoad::approve);
+    QObject::connect(&road, &workbench::WriteRoad::ended, &road, [&](const RoadReport& report) {
+        std::puts(report.outcome == Outcome::confirmed ? "confirmed" : "other");
+        std::fflush(stdout);
+        QMetaObject::invokeMethod(&road, begin, Qt::QueuedConnection);
+    });
+    std::puts("begins");
+    std::fflush(stdout);
+    begin();
+    return QCoreApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication application(argc, argv);
+    if (argc == 3 && qstrcmp(argv[1], "--road") == 0)
+        return walkTheRoad(QString::fromLocal8Bit(argv[2]));
+    WriteRoadTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_write_road.moc"

@@ -1,0 +1,212 @@
+// The windows round a write, worked with keys: what there is to do first, review, report and history.
+
+#include "opened_workbench.h"
+#include "support/files.h"
+#include "tracker/configuration_values.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+namespace {
+
+struct Bench : OpenedWorkbench
+{
+    Bench() { start(VLK_PLUGIN); }
+    ~Bench()
+    {
+        session().link().send(vlk::Message::CloseWindows);
+        window.close();
+    }
+
+    workbench::HostSession& session() { return window.session(); }
+    QString nameInTracker() { return session().tracker().configuration().text("TRANS/OBJECT/name"); }
+
+    template <class Widget = QWidget>
+    static Widget* find(const char* name)
+    {
+        // What a person can reach first of all.
+        QWidgetList tops = QApplication::topLevelWidgets();
+        if (QWidget* modal = QApplication::activeModalWidget())
+            tops.prepend(modal);
+        for (QWidget* top : tops) {
+            if (top->isVisible() && top->objectName() == QLatin1String(name))
+                return qobject_cast<Widget*>(top);
+            for (QWidget* child : top->findChildren<QWidget*>(QLatin1String(name)))
+                if (child->isVisible())
+                    return qobject_cast<Widget*>(child);
+        }
+        return nullptr;
+    }
+    static void press(const char* name)
+    {
+        auto* button = find<QAbstractButton>(name);
+        QVERIFY2(button && button->isEnabled(), name);
+        button->click();
+    }
+    // Once the review has come and may be answered.
+    static bool isReviewed()
+    {
+        const auto* write = find<QAbstractButton>("pushButton_Write");
+        return write && write->isEnabled();
+    }
+    void editName(const QString& name)
+    {
+        auto* field = find<QLineEdit>("lineEdit_Name");
+        QVERIFY(field);
+        QApplication::setActiveWindow(field->window());
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClicks(field, name);
+        QTest::keyClick(field, Qt::Key_Tab);
+        press("pushButton_LoadToDevice");
+    }
+    // By Enter on the review and on the report.
+    void write(const QString& name)
+    {
+        editName(name);
+        QTRY_VERIFY(isReviewed());
+        QTest::keyClick(find("dialog_Review"), Qt::Key_Return);
+        QTRY_VERIFY(find("dialog_Report"));
+        QTest::keyClick(find("dialog_Report"), Qt::Key_Return);
+        QTRY_VERIFY(!find("dialog_Report"));
+        QCOMPARE(nameInTracker(), name);
+    }
+};
+
+} // namespace
+
+class RoadWindowsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+
+    void offersThreeThingsToDo()
+    {
+        Bench bench;
+        QApplication::setActiveWindow(&bench.window);
+        auto* read = Bench::find<QCommandLinkButton>("commandLink_Read");
+        QCOMPARE(QApplication::focusWidget(), read);
+        QVERIFY(read->description().contains("860000000071060 is attached"));
+        bench.action("action_Cable")->trigger();
+        QVERIFY(!read->isEnabled() && Bench::find("commandLink_Open")->isEnabled());
+        QTest::keyClick(Bench::find("commandLink_Look"), Qt::Key_Return);
+        QVERIFY(bench.session().tracker().attached());
+        QTRY_VERIFY(Bench::find("pushButton_Get_Current"));
+        QTest::keyClick(read, Qt::Key_Return);
+        QTRY_VERIFY(Bench::find("lineEdit_Name"));
+    }
+
+    // Only a fresh key counts, and the box skips what loses nothing.
+    void reviewsByKeys()
+    {
+        Bench bench;
+        bench.action("action_Read")->trigger();
+        bench.editName("Van 1");
+        QTRY_VERIFY(Bench::find("dialog_Review"));
+        QWidget* review = Bench::find("dialog_Review");
+        QTest::keyClick(review, Qt::Key_Return);
+        QTRY_VERIFY(Bench::isReviewed());
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+        QApplication::sendEvent(Bench::find("pushButton_Write"), &held);
+        QVERIFY(Bench::find("dialog_Review") == review && bench.session().road().isInReview());
+        QCOMPARE(bench.text("label_Report"), QString());
+        QCOMPARE(Bench::find<QLabel>("label_Counts")->text(), QString("1 changed, 0 added"));
+        QTest::keyClick(Bench::find("checkBox_ReviewAlways"), Qt::Key_Space);
+        QTest::keyClick(review, Qt::Key_Return);
+        QTRY_VERIFY(Bench::find("dialog_Report"));
+        QCOMPARE(bench.nameInTracker(), QString("Van 1"));
+        QTest::keyClick(Bench::find("dialog_Report"), Qt::Key_Return);
+        bench.editName("Van 2");
+        QTRY_COMPARE(bench.nameInTracker(), QString("Van 2"));
+        QTRY_VERIFY(Bench::find("dialog_Report"));
+        QTest::keyClick(Bench::find("dialog_Report"), Qt::Key_Return);
+        bench.session().link().send(vlk::Message::CloseWindows);
+
+        // A file that removes what the tracker holds is shown all the same, and Enter leaves all as it is.
+        bench.window.openFile(writeFile(bench.root.filePath("bare.xml"), "<DEVICE model=\"R-7106\"/>"));
+        bench.editName("Van 3");
+        QTRY_VERIFY(Bench::isReviewed());
+        QVERIFY(Bench::find<QLabel>("label_Origin")->text().contains("bare.xml"));
+        QTest::keyClick(Bench::find("dialog_Review"), Qt::Key_Return);
+        QTRY_VERIFY(!Bench::find("dialog_Review"));
+        QTRY_VERIFY(bench.text("label_Status").contains("write was cancelled"));
+        QCOMPARE(bench.nameInTracker(), QString("Van 2"));
+    }
+
+    void triesAgainAndBringsBack()
+    {
+        Bench bench;
+        bench.action("action_Read")->trigger();
+        const QString before = bench.nameInTracker();
+        bench.session().tracker().setFaults({.skipsPage = true});
+        bench.editName("Van 1");
+        QTRY_VERIFY(Bench::isReviewed());
+        QTest::keyClick(Bench::find("dialog_Review"), Qt::Key_Return);
+        QTRY_VERIFY(Bench::find("dialog_Report"));
+        const auto* table = Bench::find<QTableView>("tableView_Report");
+        const auto cell = [&](int column) { return table->model()->index(0, column).data().toString(); };
+        QCOMPARE(cell(1) + cell(2) + cell(3), "TRANS/OBJECT/nameVan 1" + before);
+        bench.session().tracker().setFaults({});
+        Bench::press("pushButton_Again");
+        QTRY_VERIFY(Bench::isReviewed());
+        Bench::press("pushButton_Write");
+        QTRY_VERIFY(Bench::find("dialog_Report"));
+        QCOMPARE(bench.nameInTracker(), QString("Van 1"));
+        Bench::press("pushButton_BringBack");
+        QTRY_VERIFY(Bench::isReviewed());
+        QVERIFY(Bench::find<QLabel>("label_Origin")->text().contains("No.\u00A02 of this tracker"));
+        Bench::press("pushButton_Write");
+        QTRY_COMPARE(bench.nameInTracker(), before);
+    }
+
+    void looksThroughTheHistory()
+    {
+        Bench bench;
+        const QString before = bench.nameInTracker();
+        bench.action("action_Read")->trigger();
+        bench.write("Van 1");
+        bench.write("Van 2");
+        bench.session().link().send(vlk::Message::CloseWindows);
+        bench.action("action_History")->trigger();
+        auto* list = Bench::find<QTreeWidget>("treeWidget_Backups");
+        const auto* table = Bench::find<QTableView>("tableView_History");
+        const auto values = [&] {
+            return table->model()->index(0, 1).data().toString() + '>' +
+                   table->model()->index(0, 2).data().toString();
+        };
+        QCOMPARE(values(), before + ">Van 1");
+        QTRY_COMPARE(list->topLevelItem(0)->child(0)->text(1), QString("1"));
+        QApplication::setActiveWindow(list->window());
+        QTest::keyClick(list, Qt::Key_Down);
+        QCOMPARE(Bench::find<QComboBox>("comboBox_Backup")->currentText(), QString("No.\u00A01"));
+        QCOMPARE(values(), "Van 2>" + before); // against what the tracker holds now
+        QTest::keyClick(list, Qt::Key_Return);
+        QVERIFY(table->hasFocus() && !Bench::find("dialog_Review"));
+
+        QTimer::singleShot(0, [] {
+            auto* input = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+            QTest::keyClicks(input->findChild<QLineEdit*>(), "tank");
+            QTest::keyClick(input, Qt::Key_Return);
+        });
+        Bench::press("pushButton_Note");
+        QCOMPARE(bench.session().backups().find(1)->note, QString("tank"));
+        auto* filter = Bench::find<QLineEdit>("lineEdit_HistoryFilter");
+        QTest::keyClicks(filter, "TANK");
+        QVERIFY(list->topLevelItem(0)->child(0)->isHidden() && !list->topLevelItem(0)->child(1)->isHidden());
+
+        QVERIFY(!Bench::find("pushButton_BringChosen")->isEnabled());
+        table->model()->setData(table->model()->index(0, 0), Qt::Checked, Qt::CheckStateRole);
+        Bench::press("pushButton_BringChosen");
+        QTRY_VERIFY(Bench::isReviewed());
+        Bench::press("pushButton_Write");
+        QTRY_COMPARE(bench.nameInTracker(), before);
+        QTRY_COMPARE(bench.session().backups().all().size(), 3);
+        bench.window.setLanguage("ru");
+        QTRY_VERIFY(list->window()->windowTitle().startsWith(QString("История")));
+    }
+};
+
+QTEST_MAIN(RoadWindowsTest)
+#include "tst_road_windows.moc"

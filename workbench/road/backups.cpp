@@ -1,0 +1,172 @@
+#include "road/backups.h"
+
+#include "base/whole_file.h"
+#include "check/configuration_check.h"
+
+#include <QDir>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLoggingCategory>
+#include <QRegularExpression>
+#include <QSet>
+
+#include <algorithm>
+
+Q_LOGGING_CATEGORY(lcBackups, "vlk.workbench.backups")
+
+namespace workbench {
+
+namespace {
+
+const QString momentForm = QStringLiteral("yyyyMMdd'T'HHmmss'Z'");
+const QString nameKey = QStringLiteral("name");
+const QString noteKey = QStringLiteral("note");
+
+constexpr QFile::Permissions ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
+
+QString wordsOf(const QString& path)
+{
+    return path.chopped(4) + QStringLiteral(".json");
+}
+
+// Of a number that a tracker tells, what may stand in the name of a file.
+QString fileWord(QString number)
+{
+    static const QRegularExpression other(QStringLiteral("[^0-9A-Za-z.-]"));
+    return number.replace(other, QStringLiteral("-")).left(64);
+}
+
+bool saveSecret(const QString& path, const QByteArray& content, QString* reason)
+{
+    QSaveFile file(path);
+    return vlk::saveWhole(
+        file,
+        [&](QIODevice& device) {
+            file.setPermissions(ownerOnly);
+            return device.write(content) == content.size();
+        },
+        reason);
+}
+
+} // namespace
+
+Backups::Backups(const QString& folder, QObject* parent) : QObject(parent), folder_(folder)
+{
+    load();
+}
+
+void Backups::load()
+{
+    static const QRegularExpression form(
+        QStringLiteral("^(\\d{1,9})_(\\d{8}T\\d{6}Z)_([0-9A-Za-z.-]*)\\.xml$"));
+    for (const QFileInfo& file : QDir(folder_).entryInfoList({QStringLiteral("*.xml")}, QDir::Files)) {
+        const auto match = form.match(file.fileName());
+        QDateTime made = QDateTime::fromString(match.captured(2), momentForm);
+        if (!match.hasMatch() || !made.isValid())
+            continue;
+        made.setTimeSpec(Qt::UTC);
+        QFile words(wordsOf(file.filePath()));
+        constexpr qint64 longestWords = 1 << 16;
+        const QJsonObject object = words.open(QIODevice::ReadOnly)
+                                       ? QJsonDocument::fromJson(words.read(longestWords)).object()
+                                       : QJsonObject();
+        all_.append({match.captured(1).toInt(), made, match.captured(3), object[nameKey].toString(),
+                     object[noteKey].toString(), file.filePath()});
+    }
+    std::sort(all_.begin(), all_.end(), [](const Backup& a, const Backup& b) { return a.number > b.number; });
+}
+
+std::optional<Backup> Backups::find(int number) const
+{
+    const auto found = std::find_if(all_.cbegin(), all_.cend(),
+                                    [number](const Backup& backup) { return backup.number == number; });
+    return found == all_.cend() ? std::nullopt : std::optional(*found);
+}
+
+QByteArray Backups::document(int number) const
+{
+    const auto backup = find(number);
+    QFile file(backup ? backup->path : QString());
+    return backup && file.open(QIODevice::ReadOnly) ? file.read(largestConfiguration + 1) : QByteArray();
+}
+
+int Backups::add(const TrackerIdentity& tracker, const QByteArray& document, const QDateTime& now,
+                 QString* reason)
+{
+    QDir().mkpath(folder_);
+    QFile::setPermissions(folder_, ownerOnly | QFile::ExeOwner);
+    Backup backup;
+    backup.number = all_.isEmpty() ? 1 : all_.first().number + 1;
+    backup.made = now;
+    backup.tracker = fileWord(tracker.number);
+    backup.name = tracker.name;
+    backup.path = QDir(folder_).filePath(QStringLiteral("%1_%2_%3.xml")
+                                             .arg(backup.number, 4, 10, QLatin1Char('0'))
+                                             .arg(now.toString(momentForm), backup.tracker));
+    if (!saveSecret(backup.path, document, reason)) {
+        if (reason)
+            *reason = backup.path + QStringLiteral(": ") + *reason;
+        return 0;
+    }
+    if (!backup.name.isEmpty())
+        saveWords(backup);
+    all_.prepend(backup);
+    dropOld(now);
+    Q_EMIT changed();
+    return backup.number;
+}
+
+bool Backups::setNote(int number, const QString& note)
+{
+    for (Backup& backup : all_) {
+        if (backup.number != number)
+            continue;
+        Backup noted = backup;
+        noted.note = note;
+        if (!saveWords(noted))
+            return false;
+        backup = noted;
+        Q_EMIT changed();
+        return true;
+    }
+    return false;
+}
+
+bool Backups::saveWords(const Backup& backup) const
+{
+    const QJsonObject words{{nameKey, backup.name}, {noteKey, backup.note}};
+    QString reason;
+    const bool saved = saveSecret(wordsOf(backup.path), QJsonDocument(words).toJson(), &reason);
+    if (!saved)
+        qCWarning(lcBackups) << "cannot write" << wordsOf(backup.path) << reason;
+    return saved;
+}
+
+void Backups::keepFor(int days, const QDateTime& now)
+{
+    days_ = days;
+    dropOld(now);
+    Q_EMIT changed();
+}
+
+void Backups::dropOld(const QDateTime& now)
+{
+    if (days_ <= 0)
+        return;
+    QSet<QString> trackers;
+    const auto isOld = [&](const Backup& backup) {
+        const bool isNewest = !trackers.contains(backup.tracker);
+        trackers.insert(backup.tracker);
+        if (isNewest || backup.made.daysTo(now) <= days_ || !QFile::remove(backup.path))
+            return false;
+        QFile::remove(wordsOf(backup.path));
+        return true;
+    };
+    QVector<Backup> kept;
+    for (const Backup& backup : std::as_const(all_))
+        if (!isOld(backup))
+            kept.append(backup);
+    all_ = kept;
+}
+
+} // namespace workbench

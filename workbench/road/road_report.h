@@ -1,0 +1,110 @@
+#pragma once
+
+// What goes onto the write road, what is looked at before a write, and what became of it.
+
+#include "check/configuration_check.h"
+#include "road/setting_change.h"
+#include "road/tracker_port.h"
+
+#include <QDateTime>
+#include <QMetaType>
+#include <QStringList>
+
+namespace workbench {
+
+struct WriteRequest
+{
+    enum class Origin { tracker, file, fresh, backup, previous };
+
+    Origin origin = Origin::tracker;
+    QByteArray document; // of `previous` empty: the tracker is asked for it
+    QString name;        // of the file or the number of the backup
+    QString readFrom;    // number of the tracker that is known to have held what was edited
+    QString file;        // lies there until it is written
+};
+
+struct WriteReview
+{
+    TrackerIdentity tracker;
+    WriteRequest request;
+    SettingChanges changes; // what is removed comes first
+    QVector<SettingAdvice> advice;
+    QStringList keptSections; // of the tracker, which the file does not have
+    int added = 0;
+    int removed = 0;
+    int errors = 0;
+    bool isOfThisTracker = false;
+
+    int changed() const { return int(changes.size()) - added - removed; }
+    // It loses something, is known to be wrong, or replaces what nobody has seen.
+    bool mustBeSeen() const { return removed > 0 || errors > 0 || !isOfThisTracker; }
+};
+
+// A setting that was to change, or has.
+struct WrittenSetting
+{
+    SettingChange change; // from what was there to what was sent
+    QString readBack;     // null where the tracker lacks the key
+    QString readBackText;
+    bool isTaken = true;
+};
+
+struct RoadReport
+{
+    enum class Outcome {
+        confirmed,  // read back, and all is there
+        notTaken,   // read back, and something is not as it was sent
+        notWritten, // the tracker has what it had
+        unknown,    // it may have taken it; nobody has seen what it holds
+        cancelled
+    };
+    // Why it ended before its time.
+    enum class Fault {
+        none,
+        badRequest,   // what is to be written is no configuration
+        unsaved,      // the file for the tracker was not saved
+        incomparable, // nobody can tell the two apart
+        detached,
+        otherTracker,
+        unplugged,
+        silent,
+        badAnswer,
+        noBackup,
+        refused,
+    };
+    enum class Step { reading, review, backup, writing, readingBack };
+
+    Outcome outcome = Outcome::notWritten;
+    Fault fault = Fault::none;
+    Step step = Step::reading;
+    std::optional<ConfigurationProblem> problem; // of a bad request or answer
+    QString reasonKey;                           // of a refusal
+    QString detail;
+    WriteRequest request;
+    TrackerIdentity tracker;
+    int backup = 0;                   // its number; 0 where there is none
+    QVector<WrittenSetting> settings; // what was not taken comes first
+    QStringList keptSections;
+    QDateTime time;
+
+    int missed() const;
+    // The tracker holds, or may hold, something else than before.
+    bool mayHaveChanged() const
+    {
+        return outcome == Outcome::notTaken || outcome == Outcome::unknown ||
+               (outcome == Outcome::confirmed && !settings.isEmpty());
+    }
+};
+
+inline int RoadReport::missed() const
+{
+    int count = 0;
+    for (const WrittenSetting& setting : settings)
+        count += setting.isTaken ? 0 : 1;
+    return count;
+}
+
+} // namespace workbench
+
+Q_DECLARE_METATYPE(workbench::RoadReport)
+Q_DECLARE_METATYPE(workbench::WriteReview)

@@ -1,0 +1,49 @@
+#pragma once
+
+// One setting in which two configurations differ, in the words of the plug-in, which alone knows what keys
+// mean.
+
+#include <QByteArray>
+#include <QString>
+#include <QVector>
+
+#include <functional>
+#include <optional>
+
+namespace workbench {
+
+struct SettingChange
+{
+    QString path; // "TRACK/POINTS/angle"
+    QString page; // the three are empty where nobody knows the key
+    QString group;
+    QString caption;
+    // As a file holds them; null where that side lacks the key.
+    QString before;
+    QString after;
+    // The same in words and units.
+    QString beforeText;
+    QString afterText;
+
+    bool isAdded() const { return before.isNull(); }
+    bool isRemoved() const { return after.isNull(); }
+};
+
+using SettingChanges = QVector<SettingChange>;
+
+// None when one of the documents cannot be read.
+using Compare =
+    std::function<std::optional<SettingChanges>(const QByteArray& before, const QByteArray& after)>;
+
+// What is to be said of a configuration beside its changes.
+struct SettingAdvice
+{
+    bool isError = false;
+    QString page;
+    QString caption;
+    QString text;
+};
+
+using Advise = std::function<QVector<SettingAdvice>(const QByteArray& document)>;
+
+} // namespace workbench

@@ -1,0 +1,328 @@
+#include "road/write_road.h"
+
+#include "road/backups.h"
+#include "road/sections.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace workbench {
+
+namespace {
+
+// Without what only the other side has in sections that the sent document leaves alone.
+void leaveKeptSections(SettingChanges& changes, const QSet<QString>& sent, QString SettingChange::*there)
+{
+    changes.erase(std::remove_if(changes.begin(), changes.end(),
+                                 [&](const SettingChange& change) {
+                                     return (change.*there).isNull() &&
+                                            !sent.contains(sectionOf(change.path));
+                                 }),
+                  changes.end());
+}
+
+RoadReport::Fault faultOf(PortAnswer::Outcome outcome)
+{
+    switch (outcome) {
+    case PortAnswer::Outcome::done:
+        break;
+    case PortAnswer::Outcome::detached:
+        return RoadReport::Fault::detached;
+    case PortAnswer::Outcome::unplugged:
+        return RoadReport::Fault::unplugged;
+    case PortAnswer::Outcome::refused:
+        return RoadReport::Fault::refused;
+    }
+    return RoadReport::Fault::none;
+}
+
+} // namespace
+
+WriteRoad::WriteRoad(TrackerPort& port, Backups& backups, Compare compare, Advise advise)
+    : WriteRoad(port, backups, std::move(compare), std::move(advise), Timing())
+{
+}
+
+WriteRoad::WriteRoad(TrackerPort& port, Backups& backups, Compare compare, Advise advise, Timing timing)
+    : port_(port), backups_(backups), compare_(std::move(compare)), advise_(std::move(advise)),
+      timing_(timing)
+{
+    qRegisterMetaType<RoadReport>();
+    qRegisterMetaType<WriteReview>();
+    notice_.setSingleShot(true);
+    patience_.setSingleShot(true);
+    connect(&notice_, &QTimer::timeout, this, [this] {
+        isSilent_ = true;
+        Q_EMIT silent(since_);
+    });
+    connect(&patience_, &QTimer::timeout, this, &WriteRoad::giveUp);
+    connect(&port_, &TrackerPort::readEnded, this, &WriteRoad::readCame);
+    connect(&port_, &TrackerPort::writeEnded, this, &WriteRoad::writeCame);
+    connect(&port_, &TrackerPort::gone, this, [this] { wasGone_ = true; });
+    connect(&port_, &TrackerPort::sent, this, [this](qint64 bytes, qint64 all) {
+        listen();
+        Q_EMIT progressed(bytes, all);
+    });
+    connect(&port_, &TrackerPort::taken, this, [this] {
+        isTaken_ = true;
+        Q_EMIT taken();
+    });
+}
+
+bool WriteRoad::begin(const WriteRequest& request)
+{
+    if (isBusy_)
+        return false;
+    isBusy_ = true;
+    wasGone_ = false;
+    isTaken_ = false;
+    before_.clear();
+    review_ = {};
+    review_.request = request;
+    review_.tracker = port_.tracker();
+    report_ = {};
+    report_.request = request;
+    report_.tracker = review_.tracker;
+    setStep(Step::reading);
+    if (request.origin == WriteRequest::Origin::previous && request.document.isEmpty()) {
+        reading_ = TrackerPort::Copy::previous;
+        port_.read(reading_);
+    } else if ((report_.problem = checkConfiguration(request.document, review_.tracker.model))) {
+        // Told later, as everything is.
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                if (isBusy_ && report_.problem)
+                    fail(Fault::badRequest);
+            },
+            Qt::QueuedConnection);
+    } else {
+        readPresent();
+    }
+    return true;
+}
+
+void WriteRoad::reject(const WriteRequest& request, RoadReport::Fault fault, const QString& detail)
+{
+    RoadReport report;
+    report.request = request;
+    report.tracker = port_.tracker();
+    report.fault = fault;
+    report.detail = detail;
+    report.time = QDateTime::currentDateTime();
+    Q_EMIT ended(report);
+}
+
+void WriteRoad::setStep(Step step)
+{
+    report_.step = step;
+    const bool waits = step == Step::reading || step == Step::writing || step == Step::readingBack;
+    notice_.stop();
+    patience_.stop();
+    if (waits)
+        listen();
+    Q_EMIT stepChanged(step);
+}
+
+// The tracker has been heard of, or is asked from now on.
+void WriteRoad::listen()
+{
+    since_ = QDateTime::currentDateTime();
+    notice_.start(timing_.noticeMs);
+    patience_.start(timing_.patienceMs);
+    if (std::exchange(isSilent_, false))
+        Q_EMIT heard();
+}
+
+void WriteRoad::readPresent()
+{
+    reading_ = TrackerPort::Copy::present;
+    port_.read(reading_);
+}
+
+void WriteRoad::readCame(const PortAnswer& answer)
+{
+    if (!isBusy_ || (report_.step != Step::reading && report_.step != Step::readingBack))
+        return;
+    if (answer.outcome != PortAnswer::Outcome::done) {
+        fail(faultOf(answer.outcome), answer);
+        return;
+    }
+    if ((report_.problem = checkConfiguration(answer.document, review_.tracker.model))) {
+        fail(Fault::badAnswer);
+        return;
+    }
+    listen();
+    if (report_.step == Step::readingBack)
+        readBackCame(answer.document);
+    else if (reading_ == TrackerPort::Copy::previous)
+        previousCame(answer.document);
+    else
+        presentCame(answer.document);
+}
+
+void WriteRoad::previousCame(const QByteArray& document)
+{
+    review_.request.document = document;
+    review_.request.readFrom = review_.tracker.number;
+    report_.request = review_.request;
+    readPresent();
+}
+
+void WriteRoad::presentCame(const QByteArray& document)
+{
+    before_ = document;
+    const QByteArray& wanted = review_.request.document;
+    auto changes = compare_(before_, wanted);
+    if (!changes) {
+        fail(Fault::incomparable);
+        return;
+    }
+    const QSet<QString> sent = sectionsOf(wanted);
+    leaveKeptSections(*changes, sent, &SettingChange::after);
+    std::stable_partition(changes->begin(), changes->end(),
+                          [](const SettingChange& change) { return change.isRemoved(); });
+    review_.changes = *changes;
+    const auto count = [&](bool (SettingChange::*is)() const) {
+        return int(std::count_if(changes->cbegin(), changes->cend(),
+                                 [is](const SettingChange& change) { return (change.*is)(); }));
+    };
+    review_.added = count(&SettingChange::isAdded);
+    review_.removed = count(&SettingChange::isRemoved);
+    QSet<QString> kept = sectionsOf(before_);
+    review_.keptSections = kept.subtract(sent).values();
+    review_.keptSections.sort();
+    report_.keptSections = review_.keptSections;
+    if (advise_)
+        review_.advice = advise_(wanted);
+    std::stable_partition(review_.advice.begin(), review_.advice.end(),
+                          [](const SettingAdvice& advice) { return advice.isError; });
+    review_.errors = int(std::count_if(review_.advice.cbegin(), review_.advice.cend(),
+                                       [](const SettingAdvice& advice) { return advice.isError; }));
+    review_.isOfThisTracker = review_.request.readFrom == review_.tracker.number;
+    setStep(Step::review);
+    Q_EMIT reviewReady(review_);
+}
+
+void WriteRoad::approve()
+{
+    if (!isBusy_ || report_.step != Step::review)
+        return;
+    const TrackerIdentity now = port_.tracker();
+    if (now.isAttached() && now.number != review_.tracker.number) {
+        fail(Fault::otherTracker);
+        return;
+    }
+    // What was compared may be there no longer.
+    if (!now.isAttached() || wasGone_) {
+        fail(Fault::detached);
+        return;
+    }
+    setStep(Step::backup);
+    report_.backup = backups_.add(review_.tracker, before_, QDateTime::currentDateTimeUtc(), &report_.detail);
+    if (report_.backup == 0) {
+        fail(Fault::noBackup);
+        return;
+    }
+    setStep(Step::writing);
+    port_.write(review_.request.document);
+}
+
+bool WriteRoad::cancel()
+{
+    if (!isBusy_ || isTaken_)
+        return !isTaken_;
+    port_.drop();
+    end(Outcome::cancelled);
+    return true;
+}
+
+void WriteRoad::writeCame(const PortAnswer& answer)
+{
+    if (!isBusy_ || report_.step != Step::writing)
+        return;
+    if (answer.outcome == PortAnswer::Outcome::done) {
+        isTaken_ = true;
+        setStep(Step::readingBack);
+        readPresent();
+    } else {
+        fail(faultOf(answer.outcome), answer);
+    }
+}
+
+// What came back decides, whatever was said before.
+void WriteRoad::readBackCame(const QByteArray& document)
+{
+    const auto missed = compare_(review_.request.document, document);
+    auto moved = compare_(before_, document);
+    if (!missed || !moved) {
+        fail(Fault::incomparable);
+        return;
+    }
+    SettingChanges notTaken = *missed;
+    leaveKeptSections(notTaken, sectionsOf(review_.request.document), &SettingChange::before);
+    // Where nothing was to change, what came back is not what had been there.
+    for (const SettingChange& change : std::as_const(notTaken)) {
+        SettingChange sent = change;
+        std::tie(sent.after, sent.afterText) = std::tie(change.before, change.beforeText);
+        report_.settings.append({sent, change.after, change.afterText, false});
+    }
+    for (const SettingChange& change : std::as_const(review_.changes)) {
+        const auto found =
+            std::find_if(report_.settings.begin(), report_.settings.begin() + notTaken.size(),
+                         [&](const WrittenSetting& setting) { return setting.change.path == change.path; });
+        if (found == report_.settings.begin() + notTaken.size())
+            report_.settings.append({change, change.after, change.afterText, true});
+        else
+            found->change = change;
+    }
+    if (notTaken.isEmpty()) {
+        report_.fault = Fault::none;
+        end(Outcome::confirmed);
+    } else {
+        end(moved->isEmpty() && report_.fault != Fault::none ? Outcome::notWritten : Outcome::notTaken);
+    }
+}
+
+void WriteRoad::giveUp()
+{
+    port_.drop();
+    fail(Fault::silent);
+}
+
+void WriteRoad::fail(Fault fault, const PortAnswer& answer)
+{
+    // The first fault is the cause of the others.
+    if (report_.fault == Fault::none) {
+        report_.fault = fault;
+        report_.reasonKey = answer.reasonKey;
+        if (!answer.detail.isEmpty())
+            report_.detail = answer.detail;
+    }
+    // All of it is there, and only looking tells what became of it.
+    if (report_.step == Step::writing && isTaken_ && fault != Fault::refused &&
+        port_.tracker().isAttached()) {
+        setStep(Step::readingBack);
+        readPresent();
+        return;
+    }
+    const bool mayBeThere = report_.step == Step::readingBack ||
+                            (report_.step == Step::writing && isTaken_ && fault != Fault::refused);
+    end(mayBeThere ? Outcome::unknown : Outcome::notWritten);
+}
+
+void WriteRoad::end(Outcome outcome)
+{
+    notice_.stop();
+    patience_.stop();
+    if (std::exchange(isSilent_, false))
+        Q_EMIT heard();
+    isBusy_ = false;
+    report_.outcome = outcome;
+    report_.time = QDateTime::currentDateTime();
+    // Who hears of it may begin the next one.
+    const RoadReport report = report_;
+    Q_EMIT ended(report);
+}
+
+} // namespace workbench

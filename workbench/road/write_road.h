@@ -1,0 +1,88 @@
+#pragma once
+
+// The way of a configuration into the tracker: read what the tracker holds, compare, let it be looked at,
+// back up, write, read back, compare. Nothing is called written that was not read back and found equal; a
+// fault at any step ends the way with a report.
+//
+// It knows no window: who shows the review says approve() or cancel().
+
+#include "road/road_report.h"
+
+#include <QTimer>
+
+namespace workbench {
+
+class Backups;
+
+class WriteRoad : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Step = RoadReport::Step;
+    struct Timing
+    {
+        int noticeMs = 3000;   // a silence that is worth a word
+        int patienceMs = 6000; // after which no answer is expected any more
+    };
+
+    WriteRoad(TrackerPort& port, Backups& backups, Compare compare, Advise advise, Timing timing);
+    WriteRoad(TrackerPort& port, Backups& backups, Compare compare, Advise advise);
+
+    bool isBusy() const { return isBusy_; }
+    bool isInReview() const { return isBusy_ && report_.step == Step::review; }
+    // False while another one is under way.
+    bool begin(const WriteRequest& request);
+    // What is being reviewed may be written.
+    void approve();
+    // False when it is too late: the tracker has the file.
+    bool cancel();
+    // A request that came to nothing before it was on its way.
+    void reject(const WriteRequest& request, RoadReport::Fault fault, const QString& detail);
+
+Q_SIGNALS:
+    void stepChanged(workbench::RoadReport::Step step);
+    void reviewReady(const workbench::WriteReview& review);
+    void progressed(qint64 bytes, qint64 all);
+    // No more than a report can be had of it from now on.
+    void taken();
+    // Nothing was heard of the tracker since then, and then something was.
+    void silent(const QDateTime& since);
+    void heard();
+    void ended(const workbench::RoadReport& report);
+
+private:
+    using Fault = RoadReport::Fault;
+    using Outcome = RoadReport::Outcome;
+
+    void setStep(Step step);
+    void listen();
+    void readPresent();
+    void readCame(const PortAnswer& answer);
+    void previousCame(const QByteArray& document);
+    void presentCame(const QByteArray& document);
+    void readBackCame(const QByteArray& document);
+    void writeCame(const PortAnswer& answer);
+    void giveUp();
+    void fail(Fault fault, const PortAnswer& answer = {});
+    void end(Outcome outcome);
+
+    TrackerPort& port_;
+    Backups& backups_;
+    Compare compare_;
+    Advise advise_;
+    Timing timing_;
+    QTimer notice_;
+    QTimer patience_;
+    QDateTime since_; // of the silence
+    bool isSilent_ = false;
+    bool isBusy_ = false;
+    bool wasGone_ = false;
+    bool isTaken_ = false;
+    TrackerPort::Copy reading_ = TrackerPort::Copy::present;
+    QByteArray before_; // what the tracker held
+    WriteReview review_;
+    RoadReport report_;
+};
+
+} // namespace workbench

@@ -1,0 +1,99 @@
+#include "window/file_comparer.h"
+
+#include "base/whole_file.h"
+#include "tracker/configuration_values.h"
+#include "window/plugin_link.h"
+
+namespace workbench {
+
+namespace {
+
+using tracker::ConfigurationValues;
+
+// Also an empty value is one.
+QString there(const QString& text)
+{
+    return text.isNull() ? QStringLiteral("") : text;
+}
+
+std::optional<SettingChanges> compareKeys(const QByteArray& before, const QByteArray& after)
+{
+    const ConfigurationValues one(before);
+    const ConfigurationValues other(after);
+    if (!one.error().isEmpty() || !other.error().isEmpty())
+        return {};
+    SettingChanges changes;
+    const auto valueOf = [](const ConfigurationValues& values, const QString& path) {
+        return values.contains(path) ? there(values.text(path)) : QString();
+    };
+    const auto add = [&](const QString& path) {
+        const QString was = valueOf(one, path);
+        const QString is = valueOf(other, path);
+        changes.append({path, {}, {}, {}, was, is, was, is});
+    };
+    for (const QString& path : other.paths())
+        if (!one.contains(path) || one.text(path) != other.text(path))
+            add(path);
+    for (const QString& path : one.paths())
+        if (!other.contains(path))
+            add(path);
+    return changes;
+}
+
+QString orNull(const QString* text)
+{
+    return text ? there(*text) : QString();
+}
+
+} // namespace
+
+QString FileComparer::put(const char* name, const QByteArray& document) const
+{
+    QSaveFile file(folder_.filePath(QLatin1String(name)));
+    return saveWhole(file, document) ? file.fileName() : QString();
+}
+
+QVector<SettingAdvice> FileComparer::advise(const QByteArray& document) const
+{
+    const QString path = put("looked-at.xml", document);
+    QVector<SettingAdvice> advice;
+    FileCheck asked;
+    asked.file = &path;
+    asked.context = &advice;
+    asked.take = [](void* context, const FileRemark* told) {
+        const bool isError = told->severity == FileRemark::error;
+        // What a load makes of it is the plug-in's business, unless it cannot work.
+        if (told->kind == FileRemark::advice || isError)
+            static_cast<QVector<SettingAdvice>*>(context)->append(
+                {isError, orNull(told->page), orNull(told->caption), orNull(told->text)});
+    };
+    if (!path.isEmpty())
+        link_.send(vlk::Message::CheckFile, &asked);
+    QFile::remove(path);
+    return advice;
+}
+
+std::optional<SettingChanges> FileComparer::compare(const QByteArray& before, const QByteArray& after) const
+{
+    const QString first = put("before.xml", before);
+    const QString second = put("after.xml", after);
+    SettingChanges changes;
+    FileComparison asked;
+    asked.before = &first;
+    asked.after = &second;
+    asked.context = &changes;
+    asked.take = [](void* context, const FileDifference* told) {
+        static_cast<SettingChanges*>(context)->append({*told->path, *told->page, *told->group, *told->caption,
+                                                       orNull(told->before), orNull(told->after),
+                                                       orNull(told->beforeText), orNull(told->afterText)});
+    };
+    if (!first.isEmpty() && !second.isEmpty())
+        link_.send(vlk::Message::CompareFiles, &asked);
+    QFile::remove(first);
+    QFile::remove(second);
+    if (asked.outcome == FileComparison::done)
+        return changes;
+    return asked.outcome == FileComparison::none ? compareKeys(before, after) : std::nullopt;
+}
+
+} // namespace workbench

@@ -1,0 +1,313 @@
+#include "window/history_window.h"
+
+#include "check/configuration_check.h"
+#include "plugin_names.h"
+#include "typing/empty_note.h"
+#include "typing/field_mark.h"
+#include "typing/table_look.h"
+#include "window/backup_list.h"
+#include "window/host_session.h"
+#include "window/message_box.h"
+#include "window/scrolling.h"
+#include "window/settings.h"
+#include "window/trouble_text.h"
+
+#include <QComboBox>
+#include <QEvent>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace workbench {
+
+namespace {
+
+constexpr QSize historySize(940, 500);
+constexpr int listWidth = 340;
+
+// Numbers of backups, and what else can be compared with.
+enum Other { TheTracker = -1, AFile = -2 };
+
+struct KeepRow
+{
+    int days;
+    const char* key;
+};
+
+constexpr KeepRow keepRows[] = {{0, "wb_history_always"},
+                                {92, "wb_history_quarter"},
+                                {366, "wb_history_year"},
+                                {1096, "wb_history_years"}};
+
+} // namespace
+
+HistoryWindow::HistoryWindow(HostSession& session, Settings& settings, QWidget* parent)
+    : QDialog(parent), session_(session), settings_(settings), list_(new BackupList(session, this)),
+      one_(new QComboBox(this)), other_(new QComboBox(this)),
+      model_([this](int column) { return headOf(column); }, true), table_(new QTableView(this)),
+      keep_(new QComboBox(this))
+{
+    setObjectName(QStringLiteral("dialog_History"));
+    texts_.bind([this] { setWindowTitle(plainText("wb_history")); });
+    auto* splitter = new QSplitter(this);
+    splitter->addWidget(list_);
+    splitter->addWidget(buildDifferences());
+    splitter->setStretchFactor(1, 1);
+    splitter->setChildrenCollapsible(false);
+    splitter->setSizes({listWidth, historySize.width() - listWidth});
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(9, 9, 9, 9);
+    column->setSpacing(6);
+    column->addWidget(splitter, 1);
+    column->addWidget(buildButtons());
+
+    connect(list_, &BackupList::selected, this, &HistoryWindow::select);
+    // Never brings anything back.
+    connect(list_, &BackupList::entered, table_, [this] { table_->setFocus(); });
+    connect(&session_.backups(), &Backups::changed, this, &HistoryWindow::fill);
+    connect(&session_.tracker(), &tracker::SimulatedTracker::attachedChanged, this, &HistoryWindow::fill);
+    resizeWithin(this, historySize);
+    fill();
+    list_->setFocus();
+}
+
+QWidget* HistoryWindow::buildDifferences()
+{
+    one_->setObjectName(QStringLiteral("comboBox_Backup"));
+    other_->setObjectName(QStringLiteral("comboBox_Against"));
+    auto* against = texts_.bind(new QLabel(this), "wb_history_against");
+    against->setBuddy(other_);
+    texts_.bind([this] { one_->setAccessibleName(text("wb_history_one")); });
+    connect(one_, QOverload<int>::of(&QComboBox::activated), this,
+            [this] { select(one_->currentData().toInt()); });
+    connect(other_, QOverload<int>::of(&QComboBox::activated), this, &HistoryWindow::chooseOther);
+
+    table_->setObjectName(QStringLiteral("tableView_History"));
+    texts_.bind([this] { table_->setAccessibleName(text("wb_history_table")); });
+    table_->setModel(&model_);
+    table_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    dressTable(table_, TableUse::read);
+    elideInTheMiddle(table_, SettingChangeModel::Setting);
+    table_->setIconSize({markSize, markSize});
+    table_->horizontalHeader()->setSectionResizeMode(SettingChangeModel::Setting, QHeaderView::Stretch);
+    for (const int column : {SettingChangeModel::Before, SettingChangeModel::After})
+        table_->setColumnWidth(column, fontMetrics().averageCharWidth() * 17);
+    empty_ = new EmptyNote(table_);
+    connect(&model_, &QAbstractItemModel::dataChanged, this, &HistoryWindow::updateButtons);
+
+    auto* line = new QHBoxLayout;
+    line->addWidget(one_);
+    line->addWidget(against);
+    line->addWidget(other_);
+    line->addStretch(1);
+    auto* side = new QWidget(this);
+    auto* column = new QVBoxLayout(side);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addLayout(line);
+    column->addWidget(table_, 1);
+    return side;
+}
+
+QWidget* HistoryWindow::buildButtons()
+{
+    auto* foot = new QWidget(this);
+    auto* line = new QHBoxLayout(foot);
+    line->setContentsMargins(0, 0, 0, 0);
+    note_ = addButton(line, "pushButton_Note", "wb_history_note", &HistoryWindow::note);
+    keep_->setObjectName(QStringLiteral("comboBox_Keep"));
+    for (const KeepRow& row : keepRows)
+        keep_->addItem(text(row.key), row.days);
+    keep_->setCurrentIndex(qMax(0, keep_->findData(settings_.backupDays())));
+    auto* label = texts_.bind(new QLabel(this), "wb_history_keep");
+    label->setBuddy(keep_);
+    texts_.bind([this] {
+        for (int row = 0; row < keep_->count(); ++row)
+            keep_->setItemText(row, text(keepRows[row].key));
+    });
+    connect(keep_, QOverload<int>::of(&QComboBox::activated), this, [this] {
+        settings_.setBackupDays(keep_->currentData().toInt());
+        session_.backups().keepFor(settings_.backupDays(), QDateTime::currentDateTimeUtc());
+    });
+    line->addWidget(label);
+    line->addWidget(keep_);
+    line->addStretch(1);
+    chosen_ =
+        addButton(line, "pushButton_BringChosen", "wb_history_bring_chosen", &HistoryWindow::bringChosen);
+    whole_ = addButton(line, "pushButton_BringWhole", "wb_history_bring", &HistoryWindow::bringBack);
+    auto* close = addButton(line, "pushButton_Close", "wb_report_close", nullptr);
+    connect(close, &QPushButton::clicked, this, &QDialog::close);
+    return foot;
+}
+
+QPushButton* HistoryWindow::addButton(QLayout* line, const char* name, const char* key,
+                                      void (HistoryWindow::*act)())
+{
+    auto* button = texts_.bind(new QPushButton(this), key);
+    button->setObjectName(QLatin1String(name));
+    button->setMinimumWidth(80);
+    button->setAutoDefault(false);
+    if (act)
+        connect(button, &QPushButton::clicked, this, act);
+    line->addWidget(button);
+    return button;
+}
+
+void HistoryWindow::fill()
+{
+    const int before = selected();
+    one_->clear();
+    for (const Backup& backup : session_.backups().all())
+        one_->addItem(backupName(backup.number), backup.number);
+    list_->fill();
+    select(session_.backups().find(before) ? before : list_->newest());
+}
+
+int HistoryWindow::selected() const
+{
+    return one_->currentData().toInt();
+}
+
+void HistoryWindow::select(int backup)
+{
+    one_->setCurrentIndex(one_->findData(backup));
+    list_->select(backup);
+    offerOthers();
+    compare();
+}
+
+// The one before it first of all; where there is none, what the tracker holds now.
+void HistoryWindow::offerOthers()
+{
+    other_->clear();
+    const auto backup = session_.backups().find(selected());
+    if (!backup)
+        return;
+    for (const Backup& each : session_.backups().all())
+        if (each.number != backup->number)
+            other_->addItem(backupName(each.number), each.number);
+    if (session_.tracker().attached())
+        other_->addItem(text("wb_history_now"), TheTracker);
+    other_->addItem(file_.isEmpty() ? text("wb_history_file") : QFileInfo(file_).fileName(), AFile);
+    const int earlier = earlierThan(session_.backups(), *backup);
+    other_->setCurrentIndex(earlier != 0                    ? other_->findData(earlier)
+                            : session_.tracker().attached() ? other_->findData(TheTracker)
+                                                            : -1);
+}
+
+void HistoryWindow::chooseOther(int index)
+{
+    if (other_->itemData(index).toInt() == AFile) {
+        const QString chosen = QFileDialog::getOpenFileName(
+            this, text("wb_open_caption"), settings_.configurationFolder(), text("wb_history_file_filter"));
+        if (!chosen.isEmpty())
+            file_ = chosen;
+        other_->setItemText(index, file_.isEmpty() ? text("wb_history_file") : QFileInfo(file_).fileName());
+    }
+    compare();
+}
+
+std::optional<QByteArray> HistoryWindow::other()
+{
+    const int wanted = other_->currentIndex() < 0 ? 0 : other_->currentData().toInt();
+    if (wanted == TheTracker)
+        return session_.present();
+    QByteArray document;
+    if (wanted == AFile) {
+        QFile file(file_);
+        document = file.open(QIODevice::ReadOnly) ? file.read(largestConfiguration + 1) : QByteArray();
+    } else {
+        document = session_.backups().document(wanted);
+    }
+    if (checkConfiguration(document, session_.tracker().model()))
+        return {};
+    return document;
+}
+
+void HistoryWindow::compare()
+{
+    std::optional<SettingChanges> changes;
+    const int backup = selected();
+    const std::optional<QByteArray> before = backup == 0 ? std::nullopt : other();
+    if (before)
+        changes = session_.comparer().compare(*before, session_.backups().document(backup));
+    model_.setChanges(changes.value_or(SettingChanges()));
+    model_.retranslate();
+    empty_->tell(backup == 0 || other_->currentIndex() < 0 ? text("wb_history_alone")
+                 : changes                                 ? text("wb_review_none")
+                                                           : text("wb_history_unreadable"));
+    updateButtons();
+}
+
+QString HistoryWindow::headOf(int column) const
+{
+    switch (column) {
+    case SettingChangeModel::Setting:
+        return text("wb_review_setting");
+    case SettingChangeModel::Before:
+        return other_->currentText();
+    default:
+        return one_->currentText();
+    }
+}
+
+void HistoryWindow::updateButtons()
+{
+    const bool any = selected() != 0;
+    const bool attached = session_.tracker().attached();
+    note_->setEnabled(any);
+    whole_->setEnabled(any && attached);
+    chosen_->setEnabled(any && attached && !model_.chosen().isEmpty());
+    for (QPushButton* button : {whole_, chosen_})
+        button->setToolTip(attached ? QString() : text("wb_refused_detached"));
+}
+
+void HistoryWindow::note()
+{
+    const auto backup = session_.backups().find(selected());
+    if (!backup)
+        return;
+    bool isGiven = false;
+    const QString note =
+        QInputDialog::getText(this, backupName(backup->number), text("wb_history_note_label"),
+                              QLineEdit::Normal, backup->note, &isGiven);
+    if (isGiven && !session_.backups().setNote(backup->number, note.trimmed()))
+        tell([] { return text("wb_history_note_failed"); });
+}
+
+void HistoryWindow::bringBack()
+{
+    tell(session_.bringBack(selected()));
+}
+
+void HistoryWindow::bringChosen()
+{
+    tell(session_.bringBack(selected(), model_.chosen()));
+}
+
+void HistoryWindow::tell(const Sentence& failure)
+{
+    if (failure)
+        showWarning(failure(), this);
+}
+
+void HistoryWindow::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        texts_.apply();
+        list_->retranslate();
+        fill();
+    }
+}
+
+} // namespace workbench

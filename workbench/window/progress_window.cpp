@@ -1,0 +1,81 @@
+#include "window/progress_window.h"
+
+#include "plugin_names.h"
+#include "road/write_road.h"
+#include "typing/field_mark.h"
+#include "window/languages.h"
+#include "window/trouble_text.h"
+
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace workbench {
+
+ProgressWindow::ProgressWindow(WriteRoad& road, QWidget* parent)
+    : QDialog(parent), road_(road), what_(new QLabel(this)), bar_(new QProgressBar(this)),
+      trouble_(new QLabel(this)), cancel_(new QPushButton(text("wrd_031"), this))
+{
+    setObjectName(QStringLiteral("dialog_Progress"));
+    setWindowTitle(text("wb_progress_title"));
+    setWindowModality(Qt::ApplicationModal);
+    what_->setObjectName(QStringLiteral("label_Step"));
+    what_->setMinimumWidth(fontMetrics().averageCharWidth() * 54);
+    bar_->setObjectName(QStringLiteral("progressBar_Write"));
+    bar_->setAccessibleName(windowTitle());
+    trouble_->setObjectName(QStringLiteral("label_Silence"));
+    QPalette amber = trouble_->palette();
+    amber.setColor(QPalette::WindowText, markColor(Mark::advice, amber));
+    trouble_->setPalette(amber);
+    cancel_->setObjectName(QStringLiteral("pushButton_Cancel"));
+    cancel_->setMinimumWidth(80);
+    connect(cancel_, &QPushButton::clicked, this, &ProgressWindow::reject);
+
+    auto* line = new QHBoxLayout;
+    line->addWidget(trouble_, 1);
+    line->addWidget(cancel_);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(9, 9, 9, 9);
+    column->setSpacing(6);
+    column->addWidget(what_);
+    column->addWidget(bar_);
+    column->addLayout(line);
+
+    connect(&road_, &WriteRoad::stepChanged, this, &ProgressWindow::showStep);
+    connect(&road_, &WriteRoad::progressed, this, [this](qint64 bytes, qint64 all) {
+        bar_->setRange(0, int(all));
+        bar_->setValue(int(bytes));
+        bar_->setFormat(text("wb_progress_bytes").arg(number(bytes), number(all)));
+    });
+    connect(&road_, &WriteRoad::taken, this, [this] {
+        cancel_->setEnabled(false);
+        cancel_->setToolTip(text("wb_progress_late"));
+    });
+    connect(&road_, &WriteRoad::silent, this, [this](const QDateTime& since) {
+        trouble_->setText(text("wb_progress_silent").arg(timeOfDay(since)));
+    });
+    connect(&road_, &WriteRoad::heard, trouble_, &QLabel::clear);
+    showStep(RoadReport::Step::reading);
+}
+
+void ProgressWindow::showStep(RoadReport::Step step)
+{
+    what_->setText(text(step == RoadReport::Step::reading   ? "wb_progress_reading"
+                        : step == RoadReport::Step::writing ? "wb_progress_writing"
+                                                            : "wb_progress_back"));
+    bar_->setRange(0, 0);
+    bar_->setFormat({});
+    if (step == RoadReport::Step::reading) {
+        cancel_->setEnabled(true);
+        cancel_->setToolTip({});
+    }
+}
+
+void ProgressWindow::reject()
+{
+    if (!road_.cancel())
+        trouble_->setText(text("wb_progress_late"));
+}
+
+} // namespace workbench

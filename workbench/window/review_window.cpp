@@ -1,0 +1,233 @@
+#include "window/review_window.h"
+
+#include "plugin_names.h"
+#include "typing/empty_note.h"
+#include "typing/field_mark.h"
+#include "typing/table_look.h"
+#include "window/languages.h"
+#include "window/scrolling.h"
+#include "window/setting_change_model.h"
+#include "window/settings.h"
+#include "window/trouble_text.h"
+
+#include <QCheckBox>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTableView>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace workbench {
+
+namespace {
+
+// Nobody has read anything before.
+constexpr int unseenMs = 300;
+constexpr QSize usualSize(760, 420);
+constexpr int roomAround = 130; // what stands above and below the table
+
+QString titleOf(const TrackerIdentity& tracker)
+{
+    return tracker.name.isEmpty() ? text("wb_review_title").arg(tracker.number)
+                                  : text("wb_review_title_name").arg(tracker.number, tracker.name);
+}
+
+QString originOf(const WriteReview& review)
+{
+    using Origin = WriteRequest::Origin;
+    const WriteRequest& request = review.request;
+    switch (request.origin) {
+    case Origin::backup:
+        return review.isOfThisTracker ? text("wb_review_backup").arg(request.name)
+                                      : text("wb_review_backup_other").arg(request.name, request.readFrom);
+    case Origin::previous:
+        return text("wb_review_previous");
+    case Origin::fresh:
+        return review.isOfThisTracker ? QString() : text("wb_review_new");
+    case Origin::file:
+        return review.isOfThisTracker ? QString() : text("wb_review_file").arg(request.name);
+    case Origin::tracker:
+        return review.isOfThisTracker ? QString() : text("wb_review_other").arg(request.readFrom);
+    }
+    return {};
+}
+
+} // namespace
+
+ReviewWindow::ReviewWindow(const WriteReview& review, Settings& settings, QWidget* parent)
+    : QDialog(parent), review_(review), settings_(settings)
+{
+    setObjectName(QStringLiteral("dialog_Review"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(titleOf(review.tracker));
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(9, 9, 9, 9);
+    column->setSpacing(6);
+    addOrigin(column);
+    addCounts(column);
+    addTable(column);
+    addAdvice(column);
+    addButtons(column);
+    const auto* table = findChild<QTableView*>(QStringLiteral("tableView_Review"));
+    resizeWithin(this, {usualSize.width(), qMin(usualSize.height(), roomAround + heightOfRows(*table))});
+}
+
+void ReviewWindow::addOrigin(QVBoxLayout* column)
+{
+    QStringList lines{originOf(review_)};
+    if (!review_.keptSections.isEmpty())
+        lines.append(text("wb_report_kept_sections").arg(review_.keptSections.join(QStringLiteral(", "))));
+    lines.removeAll(QString());
+    if (lines.isEmpty())
+        return;
+    auto* label = new QLabel(lines.join(QLatin1Char('\n')), this);
+    label->setObjectName(QStringLiteral("label_Origin"));
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    column->addWidget(label);
+}
+
+void ReviewWindow::addCount(QHBoxLayout* line, int mark, const QString& text, const char* name)
+{
+    if (mark >= 0) {
+        auto* symbol = new QLabel(this);
+        symbol->setPixmap(markPixmap(Mark(mark), palette(), markSize, devicePixelRatioF()));
+        line->addWidget(symbol);
+    }
+    auto* label = new QLabel(text, this);
+    label->setObjectName(QLatin1String(name));
+    QFont font = label->font();
+    font.setWeight(QFont::DemiBold);
+    label->setFont(font);
+    line->addWidget(label);
+}
+
+void ReviewWindow::addCounts(QVBoxLayout* column)
+{
+    auto* line = new QHBoxLayout;
+    line->setSpacing(6);
+    addCount(line, -1,
+             review_.changes.isEmpty()
+                 ? text("wb_review_same")
+                 : text("wb_review_counts").arg(number(review_.changed()), number(review_.added)),
+             "label_Counts");
+    if (review_.removed > 0)
+        addCount(line, int(Mark::invalid), text("wb_review_removed").arg(number(review_.removed)),
+                 "label_Removed");
+    line->addStretch(1);
+    if (!review_.advice.isEmpty()) {
+        addCount(line, int(review_.errors > 0 ? Mark::invalid : Mark::advice),
+                 text("wb_review_advice").arg(number(review_.advice.size())), "label_Advice");
+        auto* show = new QPushButton(text("wb_review_show"), this);
+        show->setObjectName(QStringLiteral("pushButton_Advice"));
+        show->setCheckable(true);
+        show->setAutoDefault(false);
+        connect(show, &QPushButton::toggled, this, [this](bool on) { advice_->setVisible(on); });
+        line->addWidget(show);
+    }
+    column->addLayout(line);
+}
+
+void ReviewWindow::addTable(QVBoxLayout* column)
+{
+    auto* model = new SettingChangeModel(
+        [](int column) {
+            static constexpr const char* keys[] = {"wb_review_setting", "wb_review_before",
+                                                   "wb_review_after"};
+            return text(keys[column]);
+        },
+        false, this);
+    model->setChanges(review_.changes);
+    auto* table = new QTableView(this);
+    table->setObjectName(QStringLiteral("tableView_Review"));
+    table->setAccessibleName(text("wb_review_table"));
+    table->setModel(model);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    dressTable(table, TableUse::read);
+    elideInTheMiddle(table, SettingChangeModel::Setting);
+    table->setIconSize({markSize, markSize});
+    auto* empty = new EmptyNote(table);
+    empty->tell(text("wb_review_none"));
+    table->horizontalHeader()->setSectionResizeMode(SettingChangeModel::Setting, QHeaderView::Stretch);
+    for (const int side : {SettingChangeModel::Before, SettingChangeModel::After})
+        table->setColumnWidth(side, fontMetrics().averageCharWidth() * 22);
+    column->addWidget(table, 1);
+}
+
+void ReviewWindow::addAdvice(QVBoxLayout* column)
+{
+    auto* list = new QListWidget(this);
+    list->setObjectName(QStringLiteral("listWidget_Advice"));
+    list->setAccessibleName(text("wb_review_advice_list"));
+    list->setWordWrap(true);
+    for (const SettingAdvice& advice : review_.advice) {
+        QStringList place{advice.page, advice.caption};
+        place.removeAll(QString());
+        const Mark mark = advice.isError ? Mark::invalid : Mark::advice;
+        new QListWidgetItem(QIcon(markPixmap(mark, palette(), markSize, devicePixelRatioF())),
+                            place.isEmpty()
+                                ? advice.text
+                                : place.join(QLatin1String(", ")) + QLatin1String(": ") + advice.text,
+                            list);
+    }
+    list->hide();
+    advice_ = list;
+    column->addWidget(list, 1);
+}
+
+void ReviewWindow::addButtons(QVBoxLayout* column)
+{
+    auto* always = new QCheckBox(text("wb_review_always"), this);
+    always->setObjectName(QStringLiteral("checkBox_ReviewAlways"));
+    always->setChecked(settings_.reviewAlways());
+    always->setToolTip(text("wb_review_always_tip"));
+    connect(always, &QCheckBox::toggled, this, [this](bool on) { settings_.setReviewAlways(on); });
+
+    write_ = new QPushButton(text("wb_review_write"), this);
+    write_->setObjectName(QStringLiteral("pushButton_Write"));
+    cancel_ = new QPushButton(text("wrd_031"), this);
+    cancel_->setObjectName(QStringLiteral("pushButton_Cancel"));
+    connect(write_, &QPushButton::clicked, this, &QDialog::accept);
+    connect(cancel_, &QPushButton::clicked, this, &QDialog::reject);
+    QPushButton* first = review_.mustBeSeen() ? cancel_ : write_;
+    for (QPushButton* button : {write_, cancel_}) {
+        button->setMinimumWidth(80);
+        button->setAutoDefault(false);
+        button->installEventFilter(this);
+    }
+    first->setDefault(true);
+    write_->setEnabled(false);
+    cancel_->setFocus();
+    QTimer::singleShot(unseenMs, this, [this, first] {
+        write_->setEnabled(true);
+        if (QWidget* focus = focusWidget(); !focus || focus == cancel_)
+            first->setFocus();
+    });
+
+    auto* line = new QHBoxLayout;
+    line->addWidget(always);
+    line->addStretch(1);
+    line->addWidget(write_);
+    line->addWidget(cancel_);
+    column->addLayout(line);
+}
+
+// A key that is held down since before comes as a repetition.
+void ReviewWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (!event->isAutoRepeat())
+        QDialog::keyPressEvent(event);
+}
+
+bool ReviewWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+    if (isKey && static_cast<QKeyEvent*>(event)->isAutoRepeat())
+        return true;
+    return QDialog::eventFilter(watched, event);
+}
+
+} // namespace workbench

@@ -1,0 +1,114 @@
+#include "window/setting_change_model.h"
+
+#include "plugin_names.h"
+#include "typing/field_mark.h"
+
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QStringList>
+#include <QTableView>
+
+namespace workbench {
+
+QString settingName(const SettingChange& change)
+{
+    QStringList parts{change.page, change.group, change.caption};
+    parts.removeAll(QString());
+    return change.group.isEmpty() && change.caption.isEmpty() ? change.path : parts.join(QLatin1String(", "));
+}
+
+QString shownValue(const QString& value, const QString& words)
+{
+    return value.isNull() ? QStringLiteral("–") : words;
+}
+
+int heightOfRows(const QTableView& table)
+{
+    constexpr int atLeast = 4;
+    return table.verticalHeader()->defaultSectionSize() * (qMax(atLeast, table.model()->rowCount()) + 2);
+}
+
+SettingChangeModel::SettingChangeModel(Heads heads, bool canBeChosen, QObject* parent)
+    : QAbstractTableModel(parent), heads_(std::move(heads)), canBeChosen_(canBeChosen)
+{
+}
+
+void SettingChangeModel::setChanges(const SettingChanges& changes)
+{
+    beginResetModel();
+    changes_ = changes;
+    chosen_.clear();
+    endResetModel();
+}
+
+QStringList SettingChangeModel::chosen() const
+{
+    QStringList paths;
+    for (const SettingChange& change : changes_)
+        if (chosen_.contains(change.path))
+            paths.append(change.path);
+    return paths;
+}
+
+void SettingChangeModel::retranslate()
+{
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
+}
+
+int SettingChangeModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : int(changes_.size());
+}
+
+int SettingChangeModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant SettingChangeModel::data(const QModelIndex& index, int role) const
+{
+    const SettingChange& change = changes_.at(index.row());
+    if (role == Qt::ToolTipRole && index.column() == Setting)
+        return change.path;
+    if (role == Qt::DecorationRole && index.column() == Setting)
+        return markPixmap(change.isRemoved() ? Mark::invalid : Mark::changed, QGuiApplication::palette(),
+                          markSize, qApp->devicePixelRatio());
+    if (role == Qt::CheckStateRole && index.column() == Setting && canBeChosen_)
+        return chosen_.contains(change.path) ? Qt::Checked : Qt::Unchecked;
+    if (role != Qt::DisplayRole)
+        return {};
+    switch (index.column()) {
+    case Setting:
+        return settingName(change);
+    case Before:
+        return shownValue(change.before, change.beforeText);
+    default:
+        return shownValue(change.after, change.afterText);
+    }
+}
+
+bool SettingChangeModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    if (role != Qt::CheckStateRole || index.column() != Setting)
+        return false;
+    const QString& path = changes_.at(index.row()).path;
+    if (value.toInt() == Qt::Checked)
+        chosen_.insert(path);
+    else
+        chosen_.remove(path);
+    Q_EMIT dataChanged(index, index, {role});
+    return true;
+}
+
+Qt::ItemFlags SettingChangeModel::flags(const QModelIndex& index) const
+{
+    const Qt::ItemFlags usual = QAbstractTableModel::flags(index);
+    return canBeChosen_ && index.column() == Setting ? usual | Qt::ItemIsUserCheckable : usual;
+}
+
+QVariant SettingChangeModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    return orientation == Qt::Horizontal && role == Qt::DisplayRole ? heads_(section) : QVariant();
+}
+
+} // namespace workbench
