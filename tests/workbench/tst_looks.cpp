@@ -176,6 +176,8 @@ private Q_SLOTS:
         OpenedWorkbench bench;
         QVERIFY(bench.start(VLK_PLUGIN));
         QVERIFY(QTest::qWaitForWindowActive(&bench.window));
+        auto* tabs = bench.window.findChild<QTabWidget*>("tabWidget_Main");
+        tabs->setCurrentIndex(tabs->count() - 1);
         auto* table = bench.window.findChild<QTableView*>("tableView_Log");
         auto* words = bench.window.findChild<QLineEdit*>("lineEdit_LogFilter");
         const auto* note = table->findChild<QLabel*>("label_Empty");
