@@ -2,8 +2,9 @@
 
 #include "base/clock.h"
 #include "base/file_name.h"
-#include "base/whole_file.h"
+#include "base/replace_file.h"
 #include "link/device.h"
+#include "typing/file_error.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -42,15 +43,12 @@ QString askPathToSave(QWidget* parent, const PathQuestion& question)
 
 QString saveAsAsked(const QString& path, const QByteArray& content, bool isPrivate)
 {
-    QSaveFile file(path);
     QString reason;
-    const auto write = [&](QSaveFile& opened) {
-        return (!isPrivate || opened.setPermissions(QFile::ReadOwner | QFile::WriteOwner)) &&
-               opened.write(content) == content.size();
-    };
-    return saveWhole(file, write, &reason)
-               ? QString()
-               : QCoreApplication::translate("vlk", "rev_198").arg(QDir::toNativeSeparators(path), reason);
+    const bool isSaved =
+        isPrivate ? replacePrivateFile(path, content, &reason) : replaceFile(path, content, &reason);
+    return isSaved ? QString()
+                   : QCoreApplication::translate("vlk", "rev_198")
+                         .arg(QDir::toNativeSeparators(path), fileErrorText(reason));
 }
 
 } // namespace vlk

@@ -29,7 +29,12 @@ private Q_SLOTS:
         dialog_ = std::make_unique<VLK_Widget_Config>();
         open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml");
     }
-    void cleanup() { dialog_.reset(); }
+    void cleanup()
+    {
+        dialog_.reset();
+        // Which panel is open is remembered there.
+        QFile::remove(device_.xmlFolder() + "/review-panel.ini");
+    }
 
     // VLK_EDITS: how many. After each edit, whatever it pulls along, undo and redo bring the bytes of the
     // file back.
