@@ -1,11 +1,14 @@
 #include "dialog/edit_keeper.h"
 
 #include "base/clock.h"
+#include "link/device.h"
 #include "review/recovery.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QEvent>
 #include <QFile>
+#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QWidget>
 
@@ -23,6 +26,23 @@ constexpr int kDelayMs = 500;
 constexpr std::size_t kMostHandedOver = 10;
 
 } // namespace
+
+QString editSubject(const QString& path, bool isFile)
+{
+    if (path.isEmpty())
+        return QStringLiteral("new");
+    if (isFile) {
+        const QFileInfo file(path);
+        return QStringLiteral("file ") + (file.exists() ? file.canonicalFilePath() : file.absoluteFilePath());
+    }
+    const QString identity = vlkDevice->trackerId1() + QLatin1Char('\n') + vlkDevice->trackerId2();
+    if (identity.size() > 1)
+        return QStringLiteral("tracker ") + identity;
+    QFile file(path);
+    file.open(QIODevice::ReadOnly);
+    return QStringLiteral("tracker with ") +
+           QString::fromLatin1(QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha256).toHex());
+}
 
 EditKeeper::EditKeeper(ConfigurationReview& review, QWidget& window) : review_(review)
 {

@@ -12,6 +12,10 @@
 
 namespace vlk {
 
+// What edits of the configuration at `path` are kept by: the tracker, the file, or that it is new. A tracker
+// that does not say which one it is is known by what it holds.
+QString editSubject(const QString& path, bool isFile);
+
 class EditKeeper : public QObject
 {
     Q_OBJECT

@@ -23,33 +23,9 @@
 #include "xml/xml_document.h"
 
 #include <QCoreApplication>
-#include <QCryptographicHash>
 #include <QFileInfo>
 #include <QLayout>
 #include <QPushButton>
-
-namespace {
-
-// What edits of the configuration are kept by. A tracker that does not say which one it is is known by what
-// it holds.
-QString subjectOf(const QString& path, bool isFile)
-{
-    if (path.isEmpty())
-        return QStringLiteral("new");
-    if (isFile) {
-        const QFileInfo file(path);
-        return QStringLiteral("file ") + (file.exists() ? file.canonicalFilePath() : file.absoluteFilePath());
-    }
-    const QString identity = vlkDevice->trackerId1() + QLatin1Char('\n') + vlkDevice->trackerId2();
-    if (identity.size() > 1)
-        return QStringLiteral("tracker ") + identity;
-    QFile file(path);
-    file.open(QIODevice::ReadOnly);
-    return QStringLiteral("tracker with ") +
-           QString::fromLatin1(QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha256).toHex());
-}
-
-} // namespace
 
 VLK_Widget_Config::VLK_Widget_Config(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
@@ -290,7 +266,7 @@ void VLK_Widget_Config::open(const vlk::OpenRequest& request, char* ussdBuffer)
     review_.begin(path.isEmpty() ? nullptr : document.root());
     if (vlkDevice) {
         const QString folder = vlkDevice->xmlFolder();
-        const QString subject = subjectOf(path, request.fromFile == 1);
+        const QString subject = vlk::editSubject(path, request.fromFile == 1);
         keeper_.begin(folder, subject);
         unsaved_->begin(folder, subject);
     }
