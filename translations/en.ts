@@ -2370,7 +2370,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_start_read"><translation>Read from tracker</translation></message>
     <message id="wb_tab_log"><translation>Message &amp;log</translation></message>
     <message id="wb_tab_report"><translation>&amp;Write report</translation></message>
-    <message id="wb_tab_start"><translation>Start</translation></message>
+    <message id="wb_tab_start"><translation>F&amp;irst steps</translation></message>
     <message id="wb_tab_tracker"><translation>&amp;Simulated tracker</translation></message>
     <message id="wb_table"><translation>Telemetry file as t&amp;able…</translation></message>
     <message id="wb_table_short"><translation>Table</translation></message>

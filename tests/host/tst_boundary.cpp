@@ -114,12 +114,13 @@ private Q_SLOTS:
     void extensionsFillWhatIsThere()
     {
         host_.send(Message::PrepareTelemetry);
-        for (const Message extension : {Message::EndSave, Message::GetRunningWork}) {
-            for (const quint32 size : {0U, 3U, 4U, 7U, 8U, 11U, 12U, 4000U}) {
-                quint32 record[] = {size, 0x55, 0x55, 0x55};
+        for (const auto& [extension, words] :
+             {std::pair(Message::EndSave, 3U), {Message::GetRunningWork, 4U}}) {
+            for (const quint32 size : {0U, 3U, 4U, 7U, 8U, 11U, 12U, 15U, 16U, 4000U}) {
+                quint32 record[] = {size, 0x55, 0x55, 0x55, 0x55};
                 host_.send(extension, record);
-                for (quint32 word = 1; word < 4; ++word)
-                    QCOMPARE(record[word], word < 3 && size >= 4 * word + 4 ? 0U : 0x55U);
+                for (quint32 word = 1; word < 5; ++word)
+                    QCOMPARE(record[word], word < words && size >= 4 * word + 4 ? 0U : 0x55U);
                 QCOMPARE(record[0], size);
             }
         }
