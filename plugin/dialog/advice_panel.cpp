@@ -47,10 +47,9 @@ void AdvicePanel::retranslate()
     refresh();
 }
 
-bool AdvicePanel::isSerious() const
+std::optional<Mark> AdvicePanel::mark() const
 {
-    return std::ranges::any_of(
-        findings_, [](const review::Finding& finding) { return finding.severity != review::Severity::hint; });
+    return findings_.empty() ? std::nullopt : markOf(findings_.front().severity);
 }
 
 // The worst first.

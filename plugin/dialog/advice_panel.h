@@ -6,8 +6,11 @@
 #include "dialog/configuration_review.h"
 #include "dialog/list_panel.h"
 #include "review/advice.h"
+#include "typing/field_mark.h"
 
 #include <QStandardItemModel>
+
+#include <optional>
 
 class QPushButton;
 
@@ -24,8 +27,8 @@ public:
 
     void retranslate() override;
     int count() const { return static_cast<int>(findings_.size()); }
-    // Of the findings, whatever is worth more than a hint.
-    bool isSerious() const;
+    // That of the worst finding; hints have none.
+    std::optional<Mark> mark() const;
 
 Q_SIGNALS:
     void changed();

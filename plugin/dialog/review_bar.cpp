@@ -47,11 +47,16 @@ QString lineOf(const review::Hit& hit, const Values& values)
     return place.join(QStringLiteral(" › ")) + QStringLiteral(":  ") + value;
 }
 
-void setMark(QToolButton* button, Mark mark, bool isMarked)
+constexpr const char* kMarkProperty = "mark";
+
+// Painted anew only where it is another one.
+void setMark(QToolButton* button, std::optional<Mark> mark)
 {
-    if (isMarked != button->icon().isNull())
+    const QVariant number = mark ? QVariant(static_cast<int>(*mark)) : QVariant();
+    if (button->property(kMarkProperty) == number)
         return;
-    button->setIcon(isMarked ? QIcon(markPixmap(mark, button->palette(), kMarkSide, 2)) : QIcon());
+    button->setProperty(kMarkProperty, number);
+    button->setIcon(mark ? QIcon(markPixmap(*mark, button->palette(), kMarkSide, 2)) : QIcon());
 }
 
 } // namespace
@@ -138,7 +143,7 @@ void ReviewBar::showState()
     }
     const int count = review_.edited();
     differences_->setText(QLocale().toString(count));
-    setMark(differences_, Mark::changed, count > 0);
+    setMark(differences_, count > 0 ? std::optional(Mark::changed) : std::nullopt);
     differences_->setToolTip(tr("rev_126").arg(QKeySequence(kDifferencesKey).toString()));
     differences_->setAccessibleName(QStringLiteral("%1: %2").arg(tr("rev_108")).arg(count));
 }
@@ -157,10 +162,10 @@ void ReviewBar::setPanel(Panel panel)
     advice_->setChecked(panel == Advice);
 }
 
-void ReviewBar::setAdvice(int count, bool isSerious)
+void ReviewBar::setAdvice(int count, std::optional<Mark> worst)
 {
     advice_->setText(QLocale().toString(count));
-    setMark(advice_, Mark::advice, isSerious);
+    setMark(advice_, worst);
     advice_->setToolTip(tr("rev_135").arg(QKeySequence(kAdviceKey).toString()));
     advice_->setAccessibleName(QStringLiteral("%1: %2").arg(tr("rev_131")).arg(count));
 }
@@ -222,10 +227,11 @@ void ReviewBar::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
     if (event->type() != QEvent::PaletteChange)
         return;
-    for (const auto& [button, mark] : {std::pair(differences_, Mark::changed), {advice_, Mark::advice}}) {
-        const bool isMarked = !button->icon().isNull();
-        button->setIcon({});
-        setMark(button, mark, isMarked);
+    for (QToolButton* button : {differences_, advice_}) {
+        const QVariant mark = button->property(kMarkProperty);
+        setMark(button, std::nullopt);
+        if (mark.isValid())
+            setMark(button, static_cast<Mark>(mark.toInt()));
     }
 }
 

@@ -4,8 +4,11 @@
 // number of differences, which opens the panel of them.
 
 #include "dialog/configuration_review.h"
+#include "typing/field_mark.h"
 
 #include <QWidget>
+
+#include <optional>
 
 class QCheckBox;
 class QLineEdit;
@@ -28,7 +31,7 @@ public:
     // What is on show below.
     enum Panel { None, Differences, Advice };
     void setPanel(Panel panel);
-    void setAdvice(int count, bool isSerious);
+    void setAdvice(int count, std::optional<Mark> worst);
 
 Q_SIGNALS:
     void panelRequested(vlk::ReviewBar::Panel panel);

@@ -90,7 +90,7 @@ void VLK_Widget_Config::addReview()
         });
     }
     connect(advice_, &vlk::AdvicePanel::changed, this,
-            [this] { bar_->setAdvice(advice_->count(), advice_->isSerious()); });
+            [this] { bar_->setAdvice(advice_->count(), advice_->mark()); });
     marks_ = new vlk::SettingMarks(
         review_, [this] { return pageOnShow(); }, this);
     vlk::TabNavigation& tabs = fullWindow_->navigation();
