@@ -71,7 +71,9 @@ int writePdf(const Pdf& pdf, int argc, char** argv)
 {
     QLibrary library(pdf.library);
     const auto make = reinterpret_cast<ReportPdf>(library.resolve(reportPdfName));
-    const QByteArray made = make ? make(pdf.html, argc, argv) : QByteArray();
+    QByteArray made;
+    if (make)
+        make(pdf.html, &made, argc, argv);
     if (made.isEmpty()) {
         writeError(complaint(QStringLiteral("r7106"), pdf.complaint));
         return failed;

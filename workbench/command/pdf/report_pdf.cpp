@@ -4,12 +4,12 @@
 
 #include <QGuiApplication>
 
-extern "C" Q_DECL_EXPORT QByteArray r7106ReportPdf(const QString& html, int& argc, char** argv);
+extern "C" Q_DECL_EXPORT void r7106ReportPdf(const QString& html, QByteArray* pdf, int& argc, char** argv);
 
-QByteArray r7106ReportPdf(const QString& html, int& argc, char** argv)
+void r7106ReportPdf(const QString& html, QByteArray* pdf, int& argc, char** argv)
 {
     // Nothing is shown, and there may be no display.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
-    return vlk::reportPdf(html, false);
+    *pdf = vlk::reportPdf(html, false);
 }

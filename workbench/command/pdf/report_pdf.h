@@ -7,8 +7,8 @@
 
 namespace workbench::command {
 
-// Empty where it could not be made. Makes an application for fonts, so that there must be none.
-using ReportPdf = QByteArray (*)(const QString& html, int& argc, char** argv);
+// Fills nothing where it could not be made. Makes an application for fonts, so that there must be none.
+using ReportPdf = void (*)(const QString& html, QByteArray* pdf, int& argc, char** argv);
 inline constexpr auto reportPdfName = "r7106ReportPdf";
 
 } // namespace workbench::command
