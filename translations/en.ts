@@ -1124,7 +1124,7 @@
     <message id="cfgwnd_002"><translation>&amp;Full setup</translation></message>
     <message id="cfgwnd_003"><translation>Save the configuration</translation></message>
     <message id="cfgwnd_004"><translation>Configuration file</translation></message>
-    <message id="cfgwnd_005"><translation>Quick setup shows only a part of the settings. A write from there replaces the input lines, the serial line and the Bluetooth sensors.</translation></message>
+    <message id="cfgwnd_005"><translation>Quick setup shows only a part of the settings. A write from there, or going back to full setup, replaces the input lines, the serial line and the Bluetooth sensors.</translation></message>
     <message id="cfgwnd_006"><translation>Switch to quick setup?</translation></message>
     <message id="cfgwnd_007"><translation>Esc: stop waiting</translation></message>
     <message id="cli_001"><translation>Checks, compares and edits configurations of trackers and tells what files hold.</translation></message>

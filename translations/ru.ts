@@ -1124,7 +1124,7 @@
     <message id="cfgwnd_002"><translation>&amp;Полная настройка</translation></message>
     <message id="cfgwnd_003"><translation>Сохранить конфигурацию</translation></message>
     <message id="cfgwnd_004"><translation>Файл конфигурации</translation></message>
-    <message id="cfgwnd_005"><translation>В быстрой настройке видна только часть параметров. Запись оттуда заменит входные линии, последовательную линию и датчики Bluetooth.</translation></message>
+    <message id="cfgwnd_005"><translation>В быстрой настройке видна только часть параметров. Запись оттуда или возврат к полной настройке заменит входные линии, последовательную линию и датчики Bluetooth.</translation></message>
     <message id="cfgwnd_006"><translation>Перейти к быстрой настройке?</translation></message>
     <message id="cfgwnd_007"><translation>Esc: не ждать</translation></message>
     <message id="cli_001"><translation>Проверяет, сравнивает и правит конфигурации трекеров и говорит, что в файлах.</translation></message>

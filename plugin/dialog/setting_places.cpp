@@ -2,10 +2,12 @@
 
 #include "review/file_keys.h"
 
+#include <QCoreApplication>
 #include <QFrame>
 #include <QScrollArea>
 #include <QTabWidget>
 #include <QTimer>
+#include <QToolTip>
 
 namespace vlk {
 
@@ -23,12 +25,25 @@ void showTabs(QWidget* widget)
     }
 }
 
+// In the middle.
 void scrollTo(QWidget* widget)
 {
     for (QWidget* outer = widget->parentWidget(); outer; outer = outer->parentWidget()) {
         if (auto* area = qobject_cast<QScrollArea*>(outer))
             area->ensureWidgetVisible(widget, 0, area->viewport()->height() / 2);
     }
+}
+
+// Takes the focus from where a setting is looked for, and says why it has none.
+void explain(QWidget* closed)
+{
+    for (QWidget* outer = closed->parentWidget(); outer; outer = outer->parentWidget()) {
+        if (auto* area = qobject_cast<QScrollArea*>(outer)) {
+            area->setFocus(Qt::ShortcutFocusReason);
+            break;
+        }
+    }
+    QToolTip::showText(closed->mapToGlobal(QPoint(0, closed->height())), closed->toolTip(), closed);
 }
 
 void outline(QWidget* widget)
@@ -48,6 +63,15 @@ void outline(QWidget* widget)
 }
 
 } // namespace
+
+void SettingPlaces::keepInSight(QWidget* widget)
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    for (QWidget* outer = widget->parentWidget(); outer; outer = outer->parentWidget()) {
+        if (auto* area = qobject_cast<QScrollArea*>(outer))
+            area->ensureWidgetVisible(widget);
+    }
+}
 
 SettingPlaces::SettingPlaces(std::function<std::vector<PageSettings*>()> pages, QObject* parent)
     : QObject(parent), pages_(std::move(pages))
@@ -90,8 +114,11 @@ void SettingPlaces::goTo(int table, int row, int part)
     QTimer::singleShot(0, widget, [widget] {
         if (!widget->isVisible())
             return;
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
         scrollTo(widget);
         outline(widget);
+        if (!widget->isEnabled())
+            explain(widget);
     });
 }
 

@@ -22,6 +22,8 @@ public:
     QWidget* widgetOf(int table, int row, int part = -1) const;
     // As near as there is something to show.
     void goTo(int table, int row, int part = -1);
+    // After the page has lost some of its room.
+    static void keepInSight(QWidget* widget);
 
 private:
     std::function<std::vector<PageSettings*>()> pages_;

@@ -107,7 +107,8 @@ Notice UnsavedBar::noticeOf(int number)
     const Notice::Action keep{words("rev_147"), [this, number] { discard(number, false); }};
     if (offer.isDiscarded)
         return {Mark::advice, words("rev_146").arg(nameOf(offer.kept.unsaved)), {keep}};
-    return {Mark::advice, text, offer.isShown ? std::vector{bring, drop} : std::vector{show, bring}};
+    return {Mark::advice, text, // What gives them back stays where it is.
+            offer.isShown ? std::vector{drop, bring} : std::vector{show, bring}};
 }
 
 void UnsavedBar::showOffer(int number)

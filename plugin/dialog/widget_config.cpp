@@ -26,6 +26,7 @@
 #include <QFileInfo>
 #include <QLayout>
 #include <QPushButton>
+#include <QTimer>
 
 VLK_Widget_Config::VLK_Widget_Config(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
@@ -200,6 +201,9 @@ std::vector<QWidgetList> VLK_Widget_Config::areas() const
 
 void VLK_Widget_Config::showPanel(vlk::ReviewBar::Panel panel)
 {
+    // The panel takes room from the page: what is being edited stays in sight.
+    if (QWidget* edited = focusWidget(); edited && ui_->stackedWidget->isAncestorOf(edited))
+        QTimer::singleShot(0, edited, [edited] { vlk::SettingPlaces::keepInSight(edited); });
     kept_.open = panel;
     kept_.save();
     bar_->setPanel(panel);

@@ -5,7 +5,6 @@
 #include "peripherals/form_config_rs_param_canlog.h"
 #include "peripherals/rs_owner_forms.h"
 #include "settings/rs_settings.h"
-#include "windows/input_guard.h"
 #include "windows/wnd_config_full.h"
 #include "xml/xml_section.h"
 
@@ -177,7 +176,6 @@ const VLK_Form_Config_RS::MadeForm* VLK_Form_Config_RS::madeFor(const QString& o
         form->setSettings(&settings_);
         connectForm(form);
         made = made_.insert(owner, {entry, form});
-        vlk::guardInputs(form);
         settings_.join(form);
         // Last, as after a change of language: some forms shorten what the settings call a widget.
         form->retranslate();

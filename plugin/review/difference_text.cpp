@@ -53,7 +53,7 @@ QString rawText(const Setting& setting, const QString& text, const char* unit)
     const Number* number = setting.number();
     if (!number || number->hexadecimal || !(isWhole || number->isText))
         return text;
-    return withUnit(number->isText ? text : QString::number(shownNumber(*number, text), 'g', 10), unit);
+    return withUnit(number->isText ? text : numberText(shownNumber(*number, text), 10, 'g'), unit);
 }
 
 QString partText(const QString& caption, const QString& value)

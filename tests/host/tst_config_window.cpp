@@ -350,6 +350,16 @@ private Q_SLOTS:
                           Qt::NoModifier, Qt::NoScrollPhase, false);
         QApplication::sendEvent(port, &wheel);
         QCOMPARE(port->value(), before);
+        // Nor in a form that is made when it is chosen.
+        auto* type = child<QComboBox>("comboBox_Type_Sens_1");
+        type->setCurrentIndex(1);
+        for (auto* list : type->parentWidget()->findChildren<QComboBox*>()) {
+            const int chosen = list->currentIndex();
+            QWheelEvent down(QPointF(5, 5), list->mapToGlobal(QPoint(5, 5)), {}, QPoint(0, -120),
+                             Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(list, &down);
+            QVERIFY2(list->currentIndex() == chosen && !list->hasFocus(), qPrintable(list->objectName()));
+        }
         QTest::keyClick(name(), Qt::Key_Return);
         QCOMPARE(key->text(), QString());
         QVERIFY(window->isVisible());

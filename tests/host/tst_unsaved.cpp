@@ -161,7 +161,7 @@ private Q_SLOTS:
         QCOMPARE(table->model()->rowCount(), 1);
         QCOMPARE(child<QComboBox>("comboBox_Against")->currentText(), QString("rev_140"));
         for (const char* button :
-             {"label_Unsaved_Action2", "label_Unsaved_Action1", "label_Unsaved_Action2"}) {
+             {"label_Unsaved_Action1", "label_Unsaved_Action1", "label_Unsaved_Action1"}) {
             press(button); // discard, keep, discard
             QCOMPARE(files().size(), 2);
         }

@@ -292,9 +292,9 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, content);
         QFETCH(QStringList, said);
+        int opened = 0;
         Bench bench;
         QVERIFY(bench.start());
-        int opened = 0;
         connect(&bench.window.session().link(), &workbench::PluginLink::passed, this,
                 [&opened](vlk::Direction, quint32 id) { opened += id == 2101 || id == 2103; });
         const QString path = writeFile(bench.root.filePath(QStringLiteral("bad.xml")), content);

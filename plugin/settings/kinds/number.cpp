@@ -106,8 +106,7 @@ QString toldText(const Number& row, const QString& value, const char* unit)
 {
     if (row.zeroIsOff && value == QLatin1String("0"))
         return yesNo(false);
-    return row.hexadecimal ? value
-                           : withUnit(QString::number(shownNumber(row, value), 'f', row.decimals), unit);
+    return row.hexadecimal ? value : withUnit(numberText(shownNumber(row, value), row.decimals), unit);
 }
 
 } // namespace vlk

@@ -1,5 +1,7 @@
 #include "settings/kinds/spelling.h"
 
+#include <QLocale>
+
 #include <array>
 #include <charconv>
 
@@ -33,6 +35,13 @@ bool isWholeNumber(const QString& text)
 QString yesNo(bool yes)
 {
     return translated(yes ? "wrd_001" : "wrd_002");
+}
+
+QString numberText(double number, int decimals, char format)
+{
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale.toString(number, format, decimals);
 }
 
 QString withUnit(const QString& number, const char* unit)

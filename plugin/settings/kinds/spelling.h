@@ -33,6 +33,8 @@ bool isWholeNumber(const QString& text);
 
 // For people, in the present language.
 QString yesNo(bool yes);
+// As people of the present language write it, without separators of thousands.
+QString numberText(double number, int decimals, char format = 'f');
 QString withUnit(const QString& number, const char* unit);
 
 // A caption is split at its mark "<val>": what stands before the value and what stands behind it. Its %1 is

@@ -1,5 +1,6 @@
 #include "windows/binder/page_settings.h"
 
+#include "windows/input_guard.h"
 #include "xml/xml_section.h"
 
 #include <QCoreApplication>
@@ -26,6 +27,13 @@ void PageSettings::bind(QWidget* page, const std::vector<QWidget*>& numbered)
     for (std::size_t i = 0; i < numbered.size(); ++i)
         binder_->addForm(numbered[i], static_cast<int>(i) + 1);
     bind({page});
+}
+
+void PageSettings::join(QWidget* form)
+{
+    // The page was guarded before the form was there.
+    guardInputs(form);
+    binder_->join(form);
 }
 
 void PageSettings::showAll()

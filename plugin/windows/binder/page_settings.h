@@ -29,7 +29,7 @@ public:
     void bind(QWidget* page, const std::vector<QWidget*>& numbered);
 
     // Joins a form that comes later, and shows the values in it.
-    void join(QWidget* form) { binder_->join(form); }
+    void join(QWidget* form);
 
     QString title() const { return title_; }
     int tabIndex() const { return tabIndex_; }
