@@ -60,6 +60,38 @@ struct Bench : OpenedWorkbench
         QTest::keyClick(field, Qt::Key_Tab);
         press("pushButton_LoadToDevice");
     }
+    static void tabTo(const char* name)
+    {
+        QWidget* wanted = find(name);
+        QVERIFY2(wanted, name);
+        QApplication::setActiveWindow(wanted->window());
+        for (int tabs = 0; tabs < 20 && !wanted->hasFocus(); ++tabs)
+            QTest::keyClick(wanted->window()->focusWidget(), Qt::Key_Tab);
+        QVERIFY2(wanted->hasFocus(), name);
+    }
+    // They come over a window, take a click and go again.
+    static void asksForFaults(const char* over)
+    {
+        QWidget* window = find(over);
+        QVERIFY2(window, over);
+        QApplication::setActiveWindow(window);
+        QTest::keyClick(window, Qt::Key_F9);
+        const auto* faults = window->findChild<QDialog*>("dialog_Faults");
+        QVERIFY2(faults && faults->isVisible(), over);
+        auto* silence = faults->findChild<QCheckBox*>("checkBox_SkipsPage");
+        const QPoint at = silence->mapTo(faults, QPoint(8, silence->height() / 2));
+        QTest::mouseClick(faults->windowHandle(), Qt::LeftButton, {}, at);
+        QTRY_VERIFY2(silence->isChecked(), over);
+        QTest::mouseClick(faults->windowHandle(), Qt::LeftButton, {}, at);
+        QTRY_VERIFY2(!silence->isChecked(), over);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F9);
+        QVERIFY2(!faults->isVisible(), over);
+    }
+    static void enter(const char* name)
+    {
+        tabTo(name);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    }
     // By Enter on the review and on the report.
     void write(const QString& name)
     {
@@ -133,6 +165,62 @@ private Q_SLOTS:
         QTRY_VERIFY(!Bench::find("dialog_Review"));
         QTRY_VERIFY(bench.text("label_Status").contains("write was cancelled"));
         QCOMPARE(bench.nameInTracker(), QString("Van 2"));
+    }
+
+    // Enter presses the button that has the keyboard, whichever is the first choice.
+    void entersTheButtonInFocus()
+    {
+        Bench bench;
+        bench.action("action_Read")->trigger();
+        const QString before = bench.nameInTracker();
+        bench.editName("Van 1");
+        QTRY_VERIFY(Bench::isReviewed());
+        Bench::enter("pushButton_Cancel");
+        QTRY_VERIFY(!Bench::find("dialog_Review"));
+        QTRY_VERIFY(bench.text("label_Status").contains("write was cancelled"));
+        QCOMPARE(bench.nameInTracker(), before);
+
+        bench.editName("Van 1");
+        QTRY_VERIFY(Bench::isReviewed());
+        QTest::keyClick(Bench::find("tableView_Review"), Qt::Key_Return);
+        QTRY_VERIFY(Bench::find("dialog_Report"));
+        QCOMPARE(bench.nameInTracker(), QString("Van 1"));
+        Bench::enter("pushButton_BringBack");
+        QTRY_VERIFY(Bench::isReviewed());
+        Bench::press("pushButton_Write");
+        QTRY_VERIFY(Bench::find("dialog_Report"));
+        QCOMPARE(bench.nameInTracker(), before);
+        Bench::enter("pushButton_Close");
+
+        // What is there already is written only on demand.
+        bench.session().bringBack(1);
+        QTRY_VERIFY(Bench::isReviewed());
+        QCOMPARE(Bench::find<QLabel>("label_Counts")->text(), QString("The tracker holds the same already"));
+        QVERIFY(Bench::find("pushButton_Cancel")->hasFocus());
+        Bench::enter("pushButton_Write");
+        QTRY_VERIFY(Bench::find("dialog_Report"));
+        QCOMPARE(bench.session().backups().all().size(), 3);
+        Bench::enter("pushButton_Close");
+    }
+
+    void tellsTheStep()
+    {
+        Bench bench;
+        bench.action("action_Read")->trigger();
+        bench.editName("Van 1");
+        QTRY_VERIFY(Bench::isReviewed());
+        bench.asksForFaults("dialog_Review");
+        bench.session().tracker().setFaults({.delayMs = 800});
+        QTest::keyClick(Bench::find("dialog_Review"), Qt::Key_Return);
+        QTRY_VERIFY(Bench::find("dialog_Progress"));
+        const auto* step = Bench::find<QLabel>("label_Step");
+        QCOMPARE(step->text(), QString("The configuration is being written to the tracker."));
+        QTRY_VERIFY(!Bench::find("pushButton_Cancel")->isEnabled());
+        QTRY_VERIFY(step->text().contains("read back"));
+        bench.asksForFaults("dialog_Progress");
+        QTRY_VERIFY(Bench::find("dialog_Report"));
+        bench.asksForFaults("dialog_Report");
+        Bench::enter("pushButton_Close");
     }
 
     void triesAgainAndBringsBack()

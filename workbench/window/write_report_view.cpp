@@ -98,7 +98,7 @@ QPushButton* WriteReportView::addButton(const char* name, Sentence (WriteReportV
     auto* button = new QPushButton(this);
     button->setObjectName(QLatin1String(name));
     button->setMinimumWidth(80);
-    button->setAutoDefault(false);
+    button->setAutoDefault(true); // Enter is for the button that has the keyboard
     connect(button, &QPushButton::clicked, this, [this, act] {
         Q_EMIT leaving();
         if (const Sentence why = (this->*act)())
