@@ -291,6 +291,10 @@ private Q_SLOTS:
         Bench::press("pushButton_Write");
         QTRY_COMPARE(bench.nameInTracker(), before);
         QTRY_COMPARE(bench.session().backups().all().size(), 3);
+        // What the tracker holds now is what was brought back.
+        QTRY_VERIFY(!bench.session().road().isBusy());
+        QCOMPARE(Bench::find<QComboBox>("comboBox_Against")->currentText(), QString("In the tracker now"));
+        QCOMPARE(table->model()->rowCount(), 0);
         bench.window.setLanguage("ru");
         QTRY_VERIFY(list->window()->windowTitle().startsWith(QString("История")));
     }

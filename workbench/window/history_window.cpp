@@ -76,6 +76,11 @@ HistoryWindow::HistoryWindow(HostSession& session, Settings& settings, QWidget* 
     connect(list_, &BackupList::entered, table_, [this] { table_->setFocus(); });
     connect(&session_.backups(), &Backups::changed, this, &HistoryWindow::fill);
     connect(&session_.tracker(), &tracker::SimulatedTracker::attachedChanged, this, &HistoryWindow::fill);
+    // It may hold something else now.
+    connect(&session_.road(), &WriteRoad::ended, this, [this] {
+        if (other_->currentData() == TheTracker)
+            compare();
+    });
     resizeWithin(this, historySize);
     fill();
     list_->setFocus();
@@ -165,11 +170,22 @@ QPushButton* HistoryWindow::addButton(QLayout* line, const char* name, const cha
 void HistoryWindow::fill()
 {
     const int before = selected();
+    const QVariant against = other_->currentData();
     one_->clear();
     for (const Backup& backup : session_.backups().all())
         one_->addItem(backupName(backup.number), backup.number);
     list_->fill();
-    select(session_.backups().find(before) ? before : list_->newest());
+    if (!session_.backups().find(before)) {
+        select(list_->newest());
+        return;
+    }
+    select(before);
+    // What was chosen stays, as long as it is there.
+    const int chosen = against.isValid() ? other_->findData(against) : -1;
+    if (chosen >= 0 && chosen != other_->currentIndex()) {
+        other_->setCurrentIndex(chosen);
+        compare();
+    }
 }
 
 int HistoryWindow::selected() const
