@@ -68,6 +68,8 @@ private:
     void giveUp();
     void fail(Fault fault, const PortAnswer& answer = {});
     void end(Outcome outcome);
+    // What the report of a write tells of an earlier one.
+    void settle(RoadReport& report);
 
     TrackerPort& port_;
     Backups& backups_;
@@ -85,6 +87,7 @@ private:
     QByteArray before_; // what the tracker held
     WriteReview review_;
     RoadReport report_;
+    RoadReport unsettled_; // the last one that ended unknown, until the tracker shows what became of it
 };
 
 } // namespace workbench
