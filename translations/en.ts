@@ -2183,6 +2183,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_history_note_label"><translation>Note on the backup</translation></message>
     <message id="wb_history_now"><translation>In the tracker now</translation></message>
     <message id="wb_history_number"><translation>No.&#160;%1</translation></message>
+    <message id="wb_history_number_head"><translation>No.</translation></message>
     <message id="wb_history_one"><translation>Backup</translation></message>
     <message id="wb_history_quarter"><translation>3&#160;months</translation></message>
     <message id="wb_history_table"><translation>Differences</translation></message>

@@ -2183,6 +2183,7 @@
     <message id="wb_history_note_label"><translation>Заметка к резервной копии</translation></message>
     <message id="wb_history_now"><translation>Сейчас в трекере</translation></message>
     <message id="wb_history_number"><translation>№&#160;%1</translation></message>
+    <message id="wb_history_number_head"><translation>№</translation></message>
     <message id="wb_history_one"><translation>Резервная копия</translation></message>
     <message id="wb_history_quarter"><translation>3&#160;месяца</translation></message>
     <message id="wb_history_table"><translation>Отличия</translation></message>

@@ -265,11 +265,14 @@ private Q_SLOTS:
                    table->model()->index(0, 2).data().toString();
         };
         QCOMPARE(values(), before + ">Van 1");
-        QTRY_COMPARE(list->topLevelItem(0)->child(0)->text(1), QString("1"));
+        QTRY_COMPARE(list->topLevelItem(0)->child(0)->text(2), QString("1"));
         QApplication::setActiveWindow(list->window());
         QTest::keyClick(list, Qt::Key_Down);
         QCOMPARE(Bench::find<QComboBox>("comboBox_Backup")->currentText(), QString("No.\u00A01"));
         QCOMPARE(values(), "Van 2>" + before); // against what the tracker holds now
+        QCOMPARE(list->currentItem()->text(1), QString("1"));
+        const auto* head = table->horizontalHeader();
+        QVERIFY(head->sectionSize(1) >= head->sectionSizeHint(1));
         QTest::keyClick(list, Qt::Key_Return);
         QVERIFY(table->hasFocus() && !Bench::find("dialog_Review"));
 
@@ -283,6 +286,11 @@ private Q_SLOTS:
         auto* filter = Bench::find<QLineEdit>("lineEdit_HistoryFilter");
         QTest::keyClicks(filter, "TANK");
         QVERIFY(list->topLevelItem(0)->child(0)->isHidden() && !list->topLevelItem(0)->child(1)->isHidden());
+        QTest::keyClicks(filter, "?");
+        const auto notes = list->findChildren<QLabel*>();
+        QVERIFY(std::any_of(notes.cbegin(), notes.cend(), [](const QLabel* note) {
+            return note->isVisible() && note->text() == "Nothing matches.";
+        }));
 
         QVERIFY(!Bench::find("pushButton_BringChosen")->isEnabled());
         table->model()->setData(table->model()->index(0, 0), Qt::Checked, Qt::CheckStateRole);

@@ -32,8 +32,9 @@ namespace workbench {
 
 namespace {
 
-constexpr QSize historySize(940, 500);
-constexpr int listWidth = 340;
+constexpr QSize historySize(980, 500);
+constexpr int listWidth = 380;
+constexpr int headLetters = 30; // of a long file name no more
 
 // Numbers of backups, and what else can be compared with.
 enum Other { TheTracker = -1, AFile = -2 };
@@ -258,6 +259,11 @@ void HistoryWindow::compare()
         changes = session_.comparer().compare(*before, session_.backups().document(backup));
     model_.setChanges(changes.value_or(SettingChanges()));
     model_.retranslate();
+    for (const int column : {SettingChangeModel::Before, SettingChangeModel::After}) {
+        const int whole = table_->horizontalHeader()->sectionSizeHint(column);
+        const int most = fontMetrics().averageCharWidth() * headLetters;
+        table_->setColumnWidth(column, qMax(table_->columnWidth(column), qMin(whole, most)));
+    }
     empty_->tell(backup == 0 || other_->currentIndex() < 0 ? text("wb_history_alone")
                  : changes                                 ? text("wb_review_none")
                                                            : text("wb_history_unreadable"));
