@@ -78,6 +78,7 @@ struct Bench : OpenedWorkbench
         QTest::keyClick(window, Qt::Key_F9);
         const auto* faults = window->findChild<QDialog*>("dialog_Faults");
         QVERIFY2(faults && faults->isVisible(), over);
+        QTRY_COMPARE(QApplication::activeWindow(), faults);
         auto* silence = faults->findChild<QCheckBox*>("checkBox_SkipsPage");
         const QPoint at = silence->mapTo(faults, QPoint(8, silence->height() / 2));
         QTest::mouseClick(faults->windowHandle(), Qt::LeftButton, {}, at);
