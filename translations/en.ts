@@ -2183,6 +2183,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_history_note_label"><translation>Note on the backup</translation></message>
     <message id="wb_history_now"><translation>In the tracker now</translation></message>
     <message id="wb_history_number"><translation>No.&#160;%1</translation></message>
+    <message id="wb_history_number_head"><translation>No.</translation></message>
     <message id="wb_history_one"><translation>Backup</translation></message>
     <message id="wb_history_quarter"><translation>3&#160;months</translation></message>
     <message id="wb_history_table"><translation>Differences</translation></message>
@@ -2310,6 +2311,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_report_confirmed"><translation>Written and confirmed: %1 of %2 settings</translation></message>
     <message id="wb_report_copy"><translation>Copy the report</translation></message>
     <message id="wb_report_do"><translation>Try again, or bring the backup back.</translation></message>
+    <message id="wb_report_earlier"><translation>An earlier write was not confirmed and may have been taken. Try again, or bring back No.&#160;%1.</translation></message>
     <message id="wb_report_kept"><translation>The file is kept: %1</translation></message>
     <message id="wb_report_kept_sections"><translation>Sections that the file does not have stay as they were: %1</translation></message>
     <message id="wb_report_key"><translation>Key</translation></message>

@@ -2183,6 +2183,7 @@
     <message id="wb_history_note_label"><translation>Заметка к резервной копии</translation></message>
     <message id="wb_history_now"><translation>Сейчас в трекере</translation></message>
     <message id="wb_history_number"><translation>№&#160;%1</translation></message>
+    <message id="wb_history_number_head"><translation>№</translation></message>
     <message id="wb_history_one"><translation>Резервная копия</translation></message>
     <message id="wb_history_quarter"><translation>3&#160;месяца</translation></message>
     <message id="wb_history_table"><translation>Отличия</translation></message>
@@ -2310,6 +2311,7 @@
     <message id="wb_report_confirmed"><translation>Записано и подтверждено: %1 из %2 параметров</translation></message>
     <message id="wb_report_copy"><translation>Копировать отчёт</translation></message>
     <message id="wb_report_do"><translation>Повторите запись или верните резервную копию.</translation></message>
+    <message id="wb_report_earlier"><translation>Прежняя запись не подтверждена и могла быть принята. Повторите запись или верните №&#160;%1.</translation></message>
     <message id="wb_report_kept"><translation>Файл сохранён: %1</translation></message>
     <message id="wb_report_kept_sections"><translation>Разделы, которых нет в файле, остались как были: %1</translation></message>
     <message id="wb_report_key"><translation>Ключ</translation></message>

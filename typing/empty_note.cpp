@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTableView>
+#include <QTreeView>
 #include <QVBoxLayout>
 
 namespace vlk {
@@ -18,8 +19,11 @@ bool hasShownRow(const QAbstractItemView& view)
 {
     const int rows = view.model()->rowCount();
     const auto* table = qobject_cast<const QTableView*>(&view);
+    const auto* tree = qobject_cast<const QTreeView*>(&view);
     for (int row = 0; row < rows; ++row) {
-        if (!table || !table->isRowHidden(row))
+        const bool isHidden =
+            table ? table->isRowHidden(row) : tree && tree->isRowHidden(row, tree->rootIndex());
+        if (!isHidden)
             return true;
     }
     return false;

@@ -17,6 +17,7 @@
 #include <QtTest>
 
 #include <csignal>
+#include <tuple>
 
 using workbench::PortAnswer;
 using workbench::RoadReport;
@@ -263,6 +264,35 @@ private Q_SLOTS:
         bench.road.approve();
         report = bench.report();
         QVERIFY(report.outcome == Outcome::confirmed && bench.port.held == kNew);
+    }
+
+    // What may have been taken is told until the tracker shows what became of it.
+    void remembersWhatIsUnsettled()
+    {
+        Bench bench;
+        const auto write = [&bench](Step at, Wrong wrong) {
+            bench.port.number = "860000000071060";
+            std::tie(bench.port.at, bench.port.wrong, bench.port.written) = std::tuple(at, wrong, false);
+            bench.begin();
+            if (at != Step::reading) {
+                bench.review();
+                bench.road.approve();
+            }
+            return bench.report();
+        };
+        const RoadReport lost = write(Step::readingBack, Wrong::Unplugged);
+        QVERIFY(lost.outcome == Outcome::unknown && lost.toBringBack() == 1 && lost.earlier == 0);
+        for (const Step step : {Step::reading, Step::writing}) {
+            const RoadReport again = write(step, Wrong::Unplugged);
+            QVERIFY(again.outcome == Outcome::notWritten && again.toBringBack() == 1);
+        }
+        QVERIFY(write(Step::writing, Wrong::PowerLoss).toBringBack() == 3);
+        QVERIFY(write(Step::review, Wrong::Nothing).outcome == Outcome::confirmed);
+        QCOMPARE(write(Step::reading, Wrong::Unplugged).earlier, 0);
+        // It holds what it held before: nothing was taken.
+        bench.port.held = kOld;
+        QVERIFY(write(Step::writing, Wrong::PowerLoss).toBringBack() == 5);
+        QCOMPARE(write(Step::writing, Wrong::Unplugged).earlier, 0);
     }
 
     void cancelsUntilTheTrackerHasIt()

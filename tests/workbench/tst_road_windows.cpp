@@ -60,6 +60,39 @@ struct Bench : OpenedWorkbench
         QTest::keyClick(field, Qt::Key_Tab);
         press("pushButton_LoadToDevice");
     }
+    static void tabTo(const char* name)
+    {
+        QWidget* wanted = find(name);
+        QVERIFY2(wanted, name);
+        QApplication::setActiveWindow(wanted->window());
+        for (int tabs = 0; tabs < 20 && !wanted->hasFocus(); ++tabs)
+            QTest::keyClick(wanted->window()->focusWidget(), Qt::Key_Tab);
+        QVERIFY2(wanted->hasFocus(), name);
+    }
+    // They come over a window, take a click and go again.
+    static void asksForFaults(const char* over)
+    {
+        QWidget* window = find(over);
+        QVERIFY2(window, over);
+        QApplication::setActiveWindow(window);
+        QTest::keyClick(window, Qt::Key_F9);
+        const auto* faults = window->findChild<QDialog*>("dialog_Faults");
+        QVERIFY2(faults && faults->isVisible(), over);
+        QTRY_COMPARE(QApplication::activeWindow(), faults);
+        auto* silence = faults->findChild<QCheckBox*>("checkBox_SkipsPage");
+        const QPoint at = silence->mapTo(faults, QPoint(8, silence->height() / 2));
+        QTest::mouseClick(faults->windowHandle(), Qt::LeftButton, {}, at);
+        QTRY_VERIFY2(silence->isChecked(), over);
+        QTest::mouseClick(faults->windowHandle(), Qt::LeftButton, {}, at);
+        QTRY_VERIFY2(!silence->isChecked(), over);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F9);
+        QVERIFY2(!faults->isVisible(), over);
+    }
+    static void enter(const char* name)
+    {
+        tabTo(name);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    }
     // By Enter on the review and on the report.
     void write(const QString& name)
     {
@@ -135,6 +168,62 @@ private Q_SLOTS:
         QCOMPARE(bench.nameInTracker(), QString("Van 2"));
     }
 
+    // Enter presses the button that has the keyboard, whichever is the first choice.
+    void entersTheButtonInFocus()
+    {
+        Bench bench;
+        bench.action("action_Read")->trigger();
+        const QString before = bench.nameInTracker();
+        bench.editName("Van 1");
+        QTRY_VERIFY(Bench::isReviewed());
+        Bench::enter("pushButton_Cancel");
+        QTRY_VERIFY(!Bench::find("dialog_Review"));
+        QTRY_VERIFY(bench.text("label_Status").contains("write was cancelled"));
+        QCOMPARE(bench.nameInTracker(), before);
+
+        bench.editName("Van 1");
+        QTRY_VERIFY(Bench::isReviewed());
+        QTest::keyClick(Bench::find("tableView_Review"), Qt::Key_Return);
+        QTRY_VERIFY(Bench::find("dialog_Report"));
+        QCOMPARE(bench.nameInTracker(), QString("Van 1"));
+        Bench::enter("pushButton_BringBack");
+        QTRY_VERIFY(Bench::isReviewed());
+        Bench::press("pushButton_Write");
+        QTRY_VERIFY(Bench::find("dialog_Report"));
+        QCOMPARE(bench.nameInTracker(), before);
+        Bench::enter("pushButton_Close");
+
+        // What is there already is written only on demand.
+        bench.session().bringBack(1);
+        QTRY_VERIFY(Bench::isReviewed());
+        QCOMPARE(Bench::find<QLabel>("label_Counts")->text(), QString("The tracker holds the same already"));
+        QVERIFY(Bench::find("pushButton_Cancel")->hasFocus());
+        Bench::enter("pushButton_Write");
+        QTRY_VERIFY(Bench::find("dialog_Report"));
+        QCOMPARE(bench.session().backups().all().size(), 3);
+        Bench::enter("pushButton_Close");
+    }
+
+    void tellsTheStep()
+    {
+        Bench bench;
+        bench.action("action_Read")->trigger();
+        bench.editName("Van 1");
+        QTRY_VERIFY(Bench::isReviewed());
+        bench.asksForFaults("dialog_Review");
+        bench.session().tracker().setFaults({.delayMs = 800});
+        QTest::keyClick(Bench::find("dialog_Review"), Qt::Key_Return);
+        QTRY_VERIFY(Bench::find("dialog_Progress"));
+        const auto* step = Bench::find<QLabel>("label_Step");
+        QCOMPARE(step->text(), QString("The configuration is being written to the tracker."));
+        QTRY_VERIFY(!Bench::find("pushButton_Cancel")->isEnabled());
+        QTRY_VERIFY(step->text().contains("read back"));
+        bench.asksForFaults("dialog_Progress");
+        QTRY_VERIFY(Bench::find("dialog_Report"));
+        bench.asksForFaults("dialog_Report");
+        Bench::enter("pushButton_Close");
+    }
+
     void triesAgainAndBringsBack()
     {
         Bench bench;
@@ -177,11 +266,14 @@ private Q_SLOTS:
                    table->model()->index(0, 2).data().toString();
         };
         QCOMPARE(values(), before + ">Van 1");
-        QTRY_COMPARE(list->topLevelItem(0)->child(0)->text(1), QString("1"));
+        QTRY_COMPARE(list->topLevelItem(0)->child(0)->text(2), QString("1"));
         QApplication::setActiveWindow(list->window());
         QTest::keyClick(list, Qt::Key_Down);
         QCOMPARE(Bench::find<QComboBox>("comboBox_Backup")->currentText(), QString("No.\u00A01"));
         QCOMPARE(values(), "Van 2>" + before); // against what the tracker holds now
+        QCOMPARE(list->currentItem()->text(1), QString("1"));
+        const auto* head = table->horizontalHeader();
+        QVERIFY(head->sectionSize(1) >= head->sectionSizeHint(1));
         QTest::keyClick(list, Qt::Key_Return);
         QVERIFY(table->hasFocus() && !Bench::find("dialog_Review"));
 
@@ -195,6 +287,11 @@ private Q_SLOTS:
         auto* filter = Bench::find<QLineEdit>("lineEdit_HistoryFilter");
         QTest::keyClicks(filter, "TANK");
         QVERIFY(list->topLevelItem(0)->child(0)->isHidden() && !list->topLevelItem(0)->child(1)->isHidden());
+        QTest::keyClicks(filter, "?");
+        const auto notes = list->findChildren<QLabel*>();
+        QVERIFY(std::any_of(notes.cbegin(), notes.cend(), [](const QLabel* note) {
+            return note->isVisible() && note->text() == "Nothing matches.";
+        }));
 
         QVERIFY(!Bench::find("pushButton_BringChosen")->isEnabled());
         table->model()->setData(table->model()->index(0, 0), Qt::Checked, Qt::CheckStateRole);
@@ -203,6 +300,10 @@ private Q_SLOTS:
         Bench::press("pushButton_Write");
         QTRY_COMPARE(bench.nameInTracker(), before);
         QTRY_COMPARE(bench.session().backups().all().size(), 3);
+        // What the tracker holds now is what was brought back.
+        QTRY_VERIFY(!bench.session().road().isBusy());
+        QCOMPARE(Bench::find<QComboBox>("comboBox_Against")->currentText(), QString("In the tracker now"));
+        QCOMPARE(table->model()->rowCount(), 0);
         bench.window.setLanguage("ru");
         QTRY_VERIFY(list->window()->windowTitle().startsWith(QString("История")));
     }

@@ -82,7 +82,8 @@ struct RoadReport
     QString detail;
     WriteRequest request;
     TrackerIdentity tracker;
-    int backup = 0;                   // its number; 0 where there is none
+    int backup = 0;  // its number; 0 where there is none
+    int earlier = 0; // the backup of an earlier write that may have been taken, while nothing is known of it
     QVector<WrittenSetting> settings; // what was not taken comes first
     QStringList keptSections;
     QDateTime time;
@@ -94,6 +95,8 @@ struct RoadReport
         return outcome == Outcome::notTaken || outcome == Outcome::unknown ||
                (outcome == Outcome::confirmed && !settings.isEmpty());
     }
+    // The backup of what the tracker may hold no longer.
+    int toBringBack() const { return mayHaveChanged() ? backup : earlier; }
 };
 
 inline int RoadReport::missed() const

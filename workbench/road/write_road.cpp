@@ -110,6 +110,7 @@ void WriteRoad::reject(const WriteRequest& request, RoadReport::Fault fault, con
     report.fault = fault;
     report.detail = detail;
     report.time = QDateTime::currentDateTime();
+    settle(report);
     Q_EMIT ended(report);
 }
 
@@ -172,6 +173,9 @@ void WriteRoad::previousCame(const QByteArray& document)
 void WriteRoad::presentCame(const QByteArray& document)
 {
     before_ = document;
+    if (unsettled_.tracker.number == review_.tracker.number &&
+        backups_.document(unsettled_.backup) == document)
+        unsettled_ = {};
     const QByteArray& wanted = review_.request.document;
     auto changes = compare_(before_, wanted);
     if (!changes) {
@@ -320,9 +324,23 @@ void WriteRoad::end(Outcome outcome)
     isBusy_ = false;
     report_.outcome = outcome;
     report_.time = QDateTime::currentDateTime();
+    settle(report_);
     // Who hears of it may begin the next one.
     const RoadReport report = report_;
     Q_EMIT ended(report);
+}
+
+void WriteRoad::settle(RoadReport& report)
+{
+    // One that is not attached may be the same.
+    const bool maybeSame =
+        report.tracker.number.isEmpty() || report.tracker.number == unsettled_.tracker.number;
+    if (report.outcome == Outcome::unknown)
+        unsettled_ = report;
+    else if (report.outcome == Outcome::notWritten && maybeSame)
+        report.earlier = unsettled_.backup;
+    else if (report.outcome != Outcome::cancelled && maybeSame)
+        unsettled_ = {};
 }
 
 } // namespace workbench

@@ -31,6 +31,9 @@ public:
 
     bool isBusy() const { return isBusy_; }
     bool isInReview() const { return isBusy_ && report_.step == Step::review; }
+    Step step() const { return report_.step; }
+    // No more than a report can be had of it from now on.
+    bool isTaken() const { return isTaken_; }
     // False while another one is under way.
     bool begin(const WriteRequest& request);
     // What is being reviewed may be written.
@@ -44,7 +47,6 @@ Q_SIGNALS:
     void stepChanged(workbench::RoadReport::Step step);
     void reviewReady(const workbench::WriteReview& review);
     void progressed(qint64 bytes, qint64 all);
-    // No more than a report can be had of it from now on.
     void taken();
     // Nothing was heard of the tracker since then, and then something was.
     void silent(const QDateTime& since);
@@ -66,6 +68,8 @@ private:
     void giveUp();
     void fail(Fault fault, const PortAnswer& answer = {});
     void end(Outcome outcome);
+    // What the report of a write tells of an earlier one.
+    void settle(RoadReport& report);
 
     TrackerPort& port_;
     Backups& backups_;
@@ -83,6 +87,7 @@ private:
     QByteArray before_; // what the tracker held
     WriteReview review_;
     RoadReport report_;
+    RoadReport unsettled_; // the last one that ended unknown, until the tracker shows what became of it
 };
 
 } // namespace workbench

@@ -20,9 +20,9 @@ namespace {
 
 constexpr int listIndent = 12;
 
-enum Column { Moment, Changes, Note, ColumnCount };
-constexpr const char* columnKeys[ColumnCount] = {"wb_history_time", "wb_history_changes",
-                                                 "wb_history_note_head"};
+enum Column { Moment, Number, Changes, Note, ColumnCount };
+constexpr const char* columnKeys[ColumnCount] = {"wb_history_time", "wb_history_number_head",
+                                                 "wb_history_changes", "wb_history_note_head"};
 
 QString momentText(const QDateTime& made)
 {
@@ -84,11 +84,12 @@ void BackupList::buildTree()
         for (const char* key : columnKeys)
             heads.append(text(key));
         tree_->setHeaderLabels(heads);
-        tree_->resizeColumnToContents(Changes);
+        for (const int column : {Number, Changes})
+            tree_->resizeColumnToContents(column);
     });
     joinFindField(filter_, tree_);
-    auto* empty = new EmptyNote(tree_);
-    texts_.bind([empty] { empty->tell(text("wb_history_none")); });
+    empty_ = new EmptyNote(tree_);
+    texts_.bind([this] { tellEmpty(); });
     connect(filter_, &QLineEdit::textChanged, this, &BackupList::filter);
     connect(tree_, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {
         if (const int backup = numberOf(item))
@@ -115,15 +116,17 @@ void BackupList::fill()
             tracker->setFirstColumnSpanned(true);
             tracker->setExpanded(true);
         }
-        auto* item = new QTreeWidgetItem(tracker, {momentText(backup.made), {}, backup.note});
+        auto* item =
+            new QTreeWidgetItem(tracker, {momentText(backup.made), number(backup.number), {}, backup.note});
         item->setData(0, Qt::UserRole, backup.number);
-        item->setToolTip(0, backupName(backup.number));
-        item->setTextAlignment(Changes, Qt::AlignRight | Qt::AlignVCenter);
+        for (const int column : {Number, Changes})
+            item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
         if (changes_.contains(backup.number))
             item->setText(Changes, number(changes_[backup.number]));
         else if (earlierThan(session_.backups(), backup) != 0)
             uncounted_.append(backup.number);
     }
+    tree_->resizeColumnToContents(Number);
     filter();
     if (!uncounted_.isEmpty())
         counting_.start();
@@ -181,6 +184,13 @@ void BackupList::filter()
         }
         tracker->setHidden(!any);
     }
+    tellEmpty();
+    empty_->refresh();
+}
+
+void BackupList::tellEmpty()
+{
+    empty_->tell(text(tree_->topLevelItemCount() > 0 ? "wb_nothing_matches" : "wb_history_none"));
 }
 
 } // namespace workbench

@@ -13,6 +13,10 @@
 class QLineEdit;
 class QTreeWidget;
 
+namespace vlk {
+class EmptyNote;
+} // namespace vlk
+
 namespace workbench {
 
 class Backups;
@@ -45,12 +49,14 @@ Q_SIGNALS:
 private:
     void buildTree();
     void filter();
+    void tellEmpty();
     void countNext();
 
     HostSession& session_;
     KeyTexts texts_;
     QLineEdit* filter_;
     QTreeWidget* tree_;
+    vlk::EmptyNote* empty_ = nullptr;
     QHash<int, int> changes_; // since the one before, by number
     QVector<int> uncounted_;
     QTimer counting_;

@@ -32,8 +32,9 @@ namespace workbench {
 
 namespace {
 
-constexpr QSize historySize(940, 500);
-constexpr int listWidth = 340;
+constexpr QSize historySize(980, 500);
+constexpr int listWidth = 380;
+constexpr int headLetters = 30; // of a long file name no more
 
 // Numbers of backups, and what else can be compared with.
 enum Other { TheTracker = -1, AFile = -2 };
@@ -76,6 +77,11 @@ HistoryWindow::HistoryWindow(HostSession& session, Settings& settings, QWidget* 
     connect(list_, &BackupList::entered, table_, [this] { table_->setFocus(); });
     connect(&session_.backups(), &Backups::changed, this, &HistoryWindow::fill);
     connect(&session_.tracker(), &tracker::SimulatedTracker::attachedChanged, this, &HistoryWindow::fill);
+    // It may hold something else now.
+    connect(&session_.road(), &WriteRoad::ended, this, [this] {
+        if (other_->currentData() == TheTracker)
+            compare();
+    });
     resizeWithin(this, historySize);
     fill();
     list_->setFocus();
@@ -165,11 +171,22 @@ QPushButton* HistoryWindow::addButton(QLayout* line, const char* name, const cha
 void HistoryWindow::fill()
 {
     const int before = selected();
+    const QVariant against = other_->currentData();
     one_->clear();
     for (const Backup& backup : session_.backups().all())
         one_->addItem(backupName(backup.number), backup.number);
     list_->fill();
-    select(session_.backups().find(before) ? before : list_->newest());
+    if (!session_.backups().find(before)) {
+        select(list_->newest());
+        return;
+    }
+    select(before);
+    // What was chosen stays, as long as it is there.
+    const int chosen = against.isValid() ? other_->findData(against) : -1;
+    if (chosen >= 0 && chosen != other_->currentIndex()) {
+        other_->setCurrentIndex(chosen);
+        compare();
+    }
 }
 
 int HistoryWindow::selected() const
@@ -242,6 +259,11 @@ void HistoryWindow::compare()
         changes = session_.comparer().compare(*before, session_.backups().document(backup));
     model_.setChanges(changes.value_or(SettingChanges()));
     model_.retranslate();
+    for (const int column : {SettingChangeModel::Before, SettingChangeModel::After}) {
+        const int whole = table_->horizontalHeader()->sectionSizeHint(column);
+        const int most = fontMetrics().averageCharWidth() * headLetters;
+        table_->setColumnWidth(column, qMax(table_->columnWidth(column), qMin(whole, most)));
+    }
     empty_->tell(backup == 0 || other_->currentIndex() < 0 ? text("wb_history_alone")
                  : changes                                 ? text("wb_review_none")
                                                            : text("wb_history_unreadable"));

@@ -48,28 +48,35 @@ ProgressWindow::ProgressWindow(WriteRoad& road, QWidget* parent)
         bar_->setValue(int(bytes));
         bar_->setFormat(text("wb_progress_bytes").arg(number(bytes), number(all)));
     });
-    connect(&road_, &WriteRoad::taken, this, [this] {
-        cancel_->setEnabled(false);
-        cancel_->setToolTip(text("wb_progress_late"));
-    });
+    connect(&road_, &WriteRoad::taken, this, &ProgressWindow::showTaken);
     connect(&road_, &WriteRoad::silent, this, [this](const QDateTime& since) {
         trouble_->setText(text("wb_progress_silent").arg(timeOfDay(since)));
     });
     connect(&road_, &WriteRoad::heard, trouble_, &QLabel::clear);
-    showStep(RoadReport::Step::reading);
+    // It comes up on the way.
+    showStep(road_.step());
+    if (road_.isTaken())
+        showTaken();
 }
 
 void ProgressWindow::showStep(RoadReport::Step step)
 {
-    what_->setText(text(step == RoadReport::Step::reading   ? "wb_progress_reading"
-                        : step == RoadReport::Step::writing ? "wb_progress_writing"
-                                                            : "wb_progress_back"));
+    using Step = RoadReport::Step;
+    what_->setText(text(step == Step::reading       ? "wb_progress_reading"
+                        : step == Step::readingBack ? "wb_progress_back"
+                                                    : "wb_progress_writing"));
     bar_->setRange(0, 0);
     bar_->setFormat({});
-    if (step == RoadReport::Step::reading) {
+    if (step == Step::reading) {
         cancel_->setEnabled(true);
         cancel_->setToolTip({});
     }
+}
+
+void ProgressWindow::showTaken()
+{
+    cancel_->setEnabled(false);
+    cancel_->setToolTip(text("wb_progress_late"));
 }
 
 void ProgressWindow::reject()

@@ -28,6 +28,7 @@ protected:
 
 private:
     void showStep(RoadReport::Step step);
+    void showTaken();
 
     WriteRoad& road_;
     QLabel* what_;

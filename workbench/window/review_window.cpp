@@ -124,7 +124,7 @@ void ReviewWindow::addCounts(QVBoxLayout* column)
         auto* show = new QPushButton(text("wb_review_show"), this);
         show->setObjectName(QStringLiteral("pushButton_Advice"));
         show->setCheckable(true);
-        show->setAutoDefault(false);
+        show->installEventFilter(this);
         connect(show, &QPushButton::toggled, this, [this](bool on) { advice_->setVisible(on); });
         line->addWidget(show);
     }
@@ -192,17 +192,23 @@ void ReviewWindow::addButtons(QVBoxLayout* column)
     cancel_->setObjectName(QStringLiteral("pushButton_Cancel"));
     connect(write_, &QPushButton::clicked, this, &QDialog::accept);
     connect(cancel_, &QPushButton::clicked, this, &QDialog::reject);
-    QPushButton* first = review_.mustBeSeen() ? cancel_ : write_;
+    // There is no reason to write what is there already.
+    QPushButton* first = review_.mustBeSeen() || review_.changes.isEmpty() ? cancel_ : write_;
     for (QPushButton* button : {write_, cancel_}) {
         button->setMinimumWidth(80);
-        button->setAutoDefault(false);
         button->installEventFilter(this);
     }
+    // Enter is for the button that has the keyboard, but not yet.
+    const QList<QPushButton*> buttons = findChildren<QPushButton*>();
+    for (QPushButton* button : buttons)
+        button->setAutoDefault(false);
     first->setDefault(true);
     write_->setEnabled(false);
     cancel_->setFocus();
-    QTimer::singleShot(unseenMs, this, [this, first] {
+    QTimer::singleShot(unseenMs, this, [this, first, buttons] {
         write_->setEnabled(true);
+        for (QPushButton* button : buttons)
+            button->setAutoDefault(true);
         if (QWidget* focus = focusWidget(); !focus || focus == cancel_)
             first->setFocus();
     });

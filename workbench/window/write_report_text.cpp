@@ -97,6 +97,8 @@ QString summary(const RoadReport& report, const QString& typed)
     QStringList lines{firstLine(report)};
     if (report.outcome == Outcome::unknown || report.outcome == Outcome::notTaken)
         lines.append(text("wb_report_do"));
+    if (report.earlier > 0)
+        lines.append(text("wb_report_earlier").arg(number(report.earlier)));
     if (report.outcome == Outcome::confirmed || report.outcome == Outcome::notTaken) {
         lines.append(typed);
         if (!report.keptSections.isEmpty())

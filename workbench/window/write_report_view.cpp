@@ -98,7 +98,7 @@ QPushButton* WriteReportView::addButton(const char* name, Sentence (WriteReportV
     auto* button = new QPushButton(this);
     button->setObjectName(QLatin1String(name));
     button->setMinimumWidth(80);
-    button->setAutoDefault(false);
+    button->setAutoDefault(true); // Enter is for the button that has the keyboard
     connect(button, &QPushButton::clicked, this, [this, act] {
         Q_EMIT leaving();
         if (const Sentence why = (this->*act)())
@@ -115,7 +115,7 @@ Sentence WriteReportView::tryAgain()
 
 Sentence WriteReportView::bringBack()
 {
-    return session_.bringBack(report_.backup);
+    return session_.bringBack(report_.toBringBack());
 }
 
 void WriteReportView::setReport(const RoadReport& report, const QString& typed)
@@ -142,8 +142,8 @@ void WriteReportView::showSummary()
                        report_.fault != RoadReport::Fault::unsaved &&
                        report_.fault != RoadReport::Fault::badRequest);
     again_->setText(text("wb_report_again"));
-    back_->setVisible(any && report_.backup > 0 && report_.mayHaveChanged());
-    back_->setText(text("wb_report_bring_back").arg(number(report_.backup)));
+    back_->setVisible(any && report_.toBringBack() > 0);
+    back_->setText(text("wb_report_bring_back").arg(number(report_.toBringBack())));
     if (!any)
         return;
     const Mark mark = report_.outcome == Outcome::confirmed ? (typed_.isEmpty() ? Mark::right : Mark::advice)
