@@ -1140,6 +1140,12 @@
     <message id="cli_011"><translation>is a tachograph file, not a configuration</translation></message>
     <message id="cli_012"><translation>is not a configuration</translation></message>
     <message id="cli_013"><translation>is too large a telemetry file</translation></message>
+    <message id="cli_014"><translation>a command is needed: %1</translation></message>
+    <message id="cli_015"><translation>there is no command %1. Commands: %2</translation></message>
+    <message id="cli_016"><translation>not expected: %1</translation></message>
+    <message id="cli_017"><translation>%1 is missing</translation></message>
+    <message id="cli_018"><translation>%1 needs a value</translation></message>
+    <message id="cli_019"><translation>--language takes ru or en</translation></message>
     <message id="cli_020"><translation>%1 is not PATH=VALUE</translation></message>
     <message id="cli_021"><translation>settings and files are needed: PATH=VALUE… FILE…</translation></message>
     <message id="cli_022"><translation>two files are needed, or --defaults and one file</translation></message>
@@ -1149,6 +1155,7 @@
     <message id="cli_025"><translation>what makes PDF could not be loaded</translation></message>
     <message id="cli_026"><translation>a file is needed</translation></message>
     <message id="cli_027"><translation>one file is needed</translation></message>
+    <message id="cli_028"><translation>%1: the value is empty</translation></message>
     <message id="cli_030"><translation>there is no setting %1</translation></message>
     <message id="cli_031"><translation>%1 stands twice</translation></message>
     <message id="cli_032"><translation>%1 has no place in this configuration</translation></message>

@@ -1140,6 +1140,12 @@
     <message id="cli_011"><translation>это файл тахографа, а не конфигурация</translation></message>
     <message id="cli_012"><translation>это не конфигурация</translation></message>
     <message id="cli_013"><translation>слишком большой файл телеметрии</translation></message>
+    <message id="cli_014"><translation>нужна команда: %1</translation></message>
+    <message id="cli_015"><translation>команды %1 нет. Команды: %2</translation></message>
+    <message id="cli_016"><translation>лишнее: %1</translation></message>
+    <message id="cli_017"><translation>не хватает %1</translation></message>
+    <message id="cli_018"><translation>для %1 нужно значение</translation></message>
+    <message id="cli_019"><translation>--language принимает ru или en</translation></message>
     <message id="cli_020"><translation>%1 не имеет вида ПУТЬ=ЗНАЧЕНИЕ</translation></message>
     <message id="cli_021"><translation>нужны параметры и файлы: ПУТЬ=ЗНАЧЕНИЕ… ФАЙЛ…</translation></message>
     <message id="cli_022"><translation>нужны два файла или --defaults и один файл</translation></message>
@@ -1149,6 +1155,7 @@
     <message id="cli_025"><translation>не загрузилось то, что делает PDF</translation></message>
     <message id="cli_026"><translation>нужен файл</translation></message>
     <message id="cli_027"><translation>нужен один файл</translation></message>
+    <message id="cli_028"><translation>%1: значение пустое</translation></message>
     <message id="cli_030"><translation>нет параметра %1</translation></message>
     <message id="cli_031"><translation>%1 стоит дважды</translation></message>
     <message id="cli_032"><translation>для %1 в этой конфигурации нет места</translation></message>

@@ -19,14 +19,16 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 using namespace vlk;
 
 namespace {
 
-// Numbers in the bar; offers have those from kOffers on.
-enum NoticeNumber { kEdited, kFileOfOther, kCut, kFlaw, kOffers };
+// Numbers in the bar; offers have those from kOffers on. That a table is edited can wait until all are
+// answered.
+enum NoticeNumber { kFileOfOther, kCut, kFlaw, kOffers, kEdited = std::numeric_limits<int>::max() };
 
 constexpr int kQuoted = 40; // characters of a cell, in the bar
 

@@ -4,6 +4,7 @@
 #include "fuel/table/fuel_file.h"
 #include "fuel/table/fuel_report.h"
 #include "fuel/table/fuel_text.h"
+#include "fuel/table/kept_tables.h"
 #include "support/brackets.h"
 #include "support/data_table.h"
 #include "support/files.h"
@@ -278,6 +279,19 @@ private Q_SLOTS:
             "align=\"center\">(<cfgt6_073>)</td><td align=\"center\"><p>&nbsp;&nbsp;&nbsp;&nbsp;</p></td><td "
             "align=\"center\">(<cfgt6_074>)</td></tr></table></td></tr></table></div></body></html>";
         QCOMPARE(html.right(end.size()), end);
+    }
+
+    void orderOfKeptTables()
+    {
+        const QTemporaryDir folder;
+        const QDateTime time({2026, 5, 17}, {4, 3, 59});
+        for (const auto& [sensor, seconds, rows] :
+             {std::tuple("old", 0, 4), {"none", 10, 0}, {"few", 9, 1}, {"many", 9, 3}})
+            keepTable(folder.path(), sensor, {}, {}, FuelRows(std::size_t(rows)), time.addSecs(seconds));
+        QStringList order;
+        for (const KeptTable& table : keptTables(folder.path()))
+            order << table.sensor;
+        QCOMPARE(order, QStringList({"many", "few", "old", "none"}));
     }
 
 private:

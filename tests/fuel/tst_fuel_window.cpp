@@ -212,12 +212,11 @@ private Q_SLOTS:
         QVERIFY(bar()->isAncestorOf(QApplication::focusWidget()));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
         QVERIFY(!rows("A3").isEmpty());
+        pressInBar("cfgt6_407");
         answerFile(folder.filePath("edited.xml"));
         pressInBar("wrd_042 XML");
         fuel_.window->close();
         press("pushButton_FuelSensor");
-        QVERIFY(fuel_.child("label_NoticePlace")->isHidden());
-        pressInBar("cfgt6_407");
         QVERIFY(bar()->isHidden() && QDir(folder.filePath("unsaved")).isEmpty());
     }
 
@@ -240,10 +239,9 @@ private Q_SLOTS:
         writeFile(drafts.filePath("killed.xml"), asKilled);
         press("pushButton_FuelSensor");
         QCOMPARE(fuel_.text("label_NoticePlace"), QString("wrd_401"));
-        for (int i = 0; i < 2; ++i) {
-            show("D2");
+        // The one that is still offered stands before what can be done with the first.
+        for (int i = 0; i < 2; ++i)
             pressInBar("cfgt6_406");
-        }
         QCOMPARE(rows("A3") + field("D1", "lineEdit_Name")->text(), QString("10.5=12.34 20=12.34left"));
         // Whoever has closed the bar saves by the key.
         show("A3");

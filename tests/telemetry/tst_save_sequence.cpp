@@ -173,6 +173,23 @@ private Q_SLOTS:
         QVERIFY(text("label_SavedInPart").isEmpty());
     }
 
+    // A key that is pressed once too often switches nothing on; afterwards the focus is where it was.
+    void focusWhileSaving()
+    {
+        QApplication::setActiveWindow(window);
+        auto* button = child<QPushButton>("pushButton_SaveToFile");
+        button->setFocus();
+        giveName(file_);
+        QTest::keyClick(button, Qt::Key_Space);
+        QTest::keyClick(window->focusWidget(), Qt::Key_Space);
+        QVERIFY(!isIdle() && !child<QCheckBox>("checkBox_Get_Auto_TMI")->isChecked());
+        send(Message::RecordOfPeriod, 7, 13);
+        send(Message::RecordByTime, 9, 13);
+        QCOMPARE(window->focusWidget(), child<QWidget>("pushButton_Save_Cancel"));
+        send(Message::RecordByNumber, 8);
+        QCOMPARE(window->focusWidget(), button);
+    }
+
     void cancelBeforeTheName()
     {
         press("pushButton_SaveToFile");
@@ -240,6 +257,9 @@ private Q_SLOTS:
         QCOMPARE(text("label_Event_NumPage_Value"), QString("9"));
         host.send(Message::CloseWindows);
         QVERIFY(!QFile::exists(file_));
+        // What was said of the save goes with what the window showed.
+        openAgain();
+        QCOMPARE(text("label_SavedInPart"), QString());
     }
 
     void requestsAreKeptApart()

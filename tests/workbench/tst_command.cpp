@@ -48,9 +48,24 @@ private Q_SLOTS:
         const QByteArray words =
             R"("path":"TRACK/POINTS/maxSpeed","page":"Track","group":"Always record a track point",)"
             R"("caption":"Speed threshold",)";
+        const QByteArray commands = ": check, diff, compare, get, set, apply, report, info\n";
+        const QByteArray help = "Help: r7106 --help\n";
         const DataTable<QString, int, QByteArray, QByteArray> table({"call", "status", "told", "complaints"});
         table.row("version", "--version", 0, "r7106 3.3.0\n", "")
-            .row("no command", "", 2, "", "r7106: A subcommand is required\nHelp: r7106 --help\n")
+            .row("no command", "", 2, "", "r7106: a command is needed" + commands + help)
+            .row("another command", "chek x", 2, "",
+                 "r7106: there is no command chek. Commands" + commands + help)
+            .row("in Russian", "--language ru chek x", 2, "",
+                 "r7106: команды chek нет. Команды" + commands + "Справка: r7106 --help\n")
+            .row("more than is taken", "report a.xml -x", 2, "", "r7106: not expected: -x\n" + help)
+            .row("no path", "get", 2, "", "r7106: PATH is missing\n" + help)
+            .row("no value", "check a.xml -o", 2, "", "r7106: --output needs a value\n" + help)
+            .row("two of a kind", "check a.xml -o b -o c", 2, "", "r7106: --output stands twice\n" + help)
+            .row("another language", "--language de check a.xml", 2, "",
+                 "r7106: --language takes ru or en\n" + help)
+            .row("what was cut", "info cut.xml", 2, "", "cut.xml: is cut short in line 1\n")
+            .row("nowhere to write", "report a.xml -o none/x.pdf", 2, "",
+                 "none/x.pdf: cannot be written: No such file or directory\n")
             .row("nothing to tell", "check factory.xml telemetry.xml/..//factory.xml", 2, "",
                  "telemetry.xml/..//factory.xml: cannot be read: Not a directory\n")
             .row("a folder", "get TRACK/POINTS/maxSpeed fleet", 2,
@@ -131,6 +146,8 @@ private Q_SLOTS:
             .row("the same value", "set TRACK/POINTS/maxSpeed=090 a.xml", 0, "", "", a)
             .row("out of range, and a file that is cut", "set TRACK/POINTS/maxSpeed=800 a.xml cut.xml", 2, "",
                  "a.xml: TRACK/POINTS/maxSpeed: 800 is out of range\ncut.xml: is cut short in line 1\n", a)
+            .row("empty", "set TRACK/POINTS/maxSpeed= a.xml", 2, "",
+                 "a.xml: TRACK/POINTS/maxSpeed: the value is empty\n", a)
             .row("behind dashes", "set TRACK/POINTS/maxSpeed=80 -- a.xml", 0,
                  "a.xml: " + words + "90 km/h → 80 km/h\n", "", changed)
             .row("no setting", "set a.xml", 2, "",

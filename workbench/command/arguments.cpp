@@ -1,5 +1,6 @@
 #include "command/arguments.h"
 
+#include "command/file_names.h"
 #include "window/languages.h"
 
 #include <CLI/CLI.hpp>
@@ -155,6 +156,42 @@ Arguments refused(const QString& reason)
     return {{}, failed, (QStringLiteral("r7106: ") + reason + QLatin1Char('\n') + text("cli_023")).toUtf8()};
 }
 
+QString whyNoCommand(const QStringList& arguments)
+{
+    QStringList names;
+    for (const CommandRow& row : commands)
+        names << QString::fromLatin1(row.name);
+    const QString all = names.join(QStringLiteral(", "));
+    const auto isOption = [](const QString& argument) { return argument.startsWith(QLatin1Char('-')); };
+    const auto found = std::find_if_not(arguments.begin(), arguments.end(), isOption);
+    return found == arguments.end() ? text("cli_014").arg(all) : text("cli_015").arg(*found, all);
+}
+
+// The parser's own words are English; in front of them stands the name of the option that they are about.
+QString whyNotParsed(const CLI::App& app, const CLI::ParseError& error)
+{
+    const QString said = QString::fromUtf8(error.what());
+    QStringList left;
+    for (const std::string& argument : app.remaining(true))
+        left << readable(nameOf(argument));
+    const std::vector<CLI::App*> chosen = app.get_subcommands();
+    if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr)
+        return chosen.empty() ? whyNoCommand(left)
+                              : text("cli_017").arg(said.section(QLatin1Char(' '), 0, 0));
+    if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr)
+        return text("cli_016").arg(left.join(QLatin1Char(' ')));
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
+        const QString name = said.section(QLatin1Char(':'), 0, 0);
+        const CLI::App& of = chosen.empty() ? app : *chosen.front();
+        const CLI::Option* option = of.get_option_no_throw(name.toStdString());
+        return text(option != nullptr && option->count() > 1 ? "cli_031" : "cli_018").arg(name);
+    }
+    // Of all options that one alone has a list.
+    if (dynamic_cast<const CLI::ValidationError*>(&error) != nullptr)
+        return text("cli_019");
+    return said;
+}
+
 // Their heading has no label of its own.
 void translateOptions(CLI::App& app)
 {
@@ -226,7 +263,7 @@ Arguments readArguments(const QByteArrayList& arguments)
                 nothing,
                 QByteArray::fromStdString(chosen.empty() ? app.help() : chosen.front()->help("r7106"))};
     } catch (const CLI::ParseError& error) {
-        return refused(QString::fromUtf8(error.what()));
+        return refused(whyNotParsed(app, error));
     }
     const std::string name = app.get_subcommands().front()->get_name();
     const auto* row = std::ranges::find(commands, name, &CommandRow::name);

@@ -16,17 +16,6 @@ namespace workbench::command {
 
 namespace {
 
-QString whyDamaged(const QByteArray& bytes)
-{
-    using Problem = ConfigurationProblem;
-    const std::optional<Problem> problem = checkConfiguration(bytes, {});
-    if (problem && problem->kind == Problem::CutShort)
-        return text("cli_006").arg(problem->line);
-    if (problem && problem->kind == Problem::Damaged)
-        return text("cli_007").arg(problem->line).arg(problem->column);
-    return text("cli_008");
-}
-
 QString whyOther(FileKind kind)
 {
     switch (kind) {
@@ -75,6 +64,17 @@ std::optional<QByteArray> contentOf(const QString& name, QString* reason)
         return std::nullopt;
     }
     return bytes;
+}
+
+QString whyDamaged(const QByteArray& bytes)
+{
+    using Problem = ConfigurationProblem;
+    const std::optional<Problem> problem = checkConfiguration(bytes, {});
+    if (problem && problem->kind == Problem::CutShort)
+        return text("cli_006").arg(problem->line);
+    if (problem && problem->kind == Problem::Damaged)
+        return text("cli_007").arg(problem->line).arg(problem->column);
+    return text("cli_008");
 }
 
 Outcome refusal(const Call& call, const QString& name, const QString& reason)

@@ -16,6 +16,9 @@ namespace workbench::command {
 // `name` may be "-". None with a reason.
 std::optional<QByteArray> contentOf(const QString& name, QString* reason);
 
+// Of bytes that begin as a configuration and cannot be opened as one.
+QString whyDamaged(const QByteArray& bytes);
+
 Outcome refusal(const Call& call, const QString& name, const QString& reason);
 
 // Opens the file as a configuration and hands it on. What is no configuration is a refusal; below a folder,

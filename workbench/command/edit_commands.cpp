@@ -69,6 +69,8 @@ QString sentence(const PresetProblem& problem)
     case What::badValue:
         break;
     }
+    if (problem.text.isEmpty())
+        return text("cli_028").arg(problem.path);
     const bool isSecret = FileKeys::all().looksSecret(problem.path);
     return text(reasonKey(problem.change)).arg(problem.path, isSecret ? QStringLiteral("•••") : problem.text);
 }

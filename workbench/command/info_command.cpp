@@ -94,7 +94,8 @@ Outcome documentFacts(const Call& call, const File& file, FileKind kind, const Q
     const QString root = QString::fromLatin1(kind == FileKind::calibration ? vlk::fuelRoot : "DEVICE");
     vlk::XmlDocument document(content, root);
     if (!document.isOpen())
-        return refusal(call, file.name, text("cli_008"));
+        return refusal(call, file.name,
+                       kind == FileKind::configuration ? whyDamaged(content) : text("cli_008"));
     Facts facts{.kind = kind};
     if (const QString* model = document.root()->find(QStringLiteral("model")))
         facts.model = *model;

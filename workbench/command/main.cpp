@@ -46,9 +46,8 @@ int run(const Call& call)
     return failed;
 }
 
-int writeReport(const Call& call, const QByteArray& report)
+int writeReport(Output& output, const QByteArray& report)
 {
-    Output output(call.output);
     output.write(report);
     return output.close() ? nothing : failed;
 }
@@ -64,7 +63,8 @@ struct Pdf
     Call call;
     QString html;
     QString library;
-    QString complaint;
+    QString notLoaded;
+    QString notWritten;
 };
 
 int writePdf(const Pdf& pdf, int argc, char** argv)
@@ -75,10 +75,11 @@ int writePdf(const Pdf& pdf, int argc, char** argv)
     if (make)
         make(pdf.html, &made, argc, argv);
     if (made.isEmpty()) {
-        writeError(complaint(QStringLiteral("r7106"), pdf.complaint));
+        writeError(complaint(QStringLiteral("r7106"), pdf.notLoaded));
         return failed;
     }
-    return writeReport(pdf.call, made);
+    Output output(pdf.call.output, pdf.notWritten);
+    return writeReport(output, made);
 }
 
 int report(const Call& call, Pdf* pdf)
@@ -90,11 +91,15 @@ int report(const Call& call, Pdf* pdf)
     }
     int status = nothing;
     const QString html = reportHtml(call, &status);
-    if (status == nothing && isPdf(call))
-        *pdf = {call, html, workbench::libraryPath(QStringLiteral("r7106_pdf.so")), text("cli_025")};
-    else if (status == nothing)
-        return writeReport(call, html.toUtf8());
-    return status;
+    if (status != nothing)
+        return status;
+    if (isPdf(call)) {
+        *pdf = {call, html, workbench::libraryPath(QStringLiteral("r7106_pdf.so")), text("cli_025"),
+                text("cli_003")};
+        return nothing;
+    }
+    Output output(call.output);
+    return writeReport(output, html.toUtf8());
 }
 
 int runWithTexts(int& argc, char** argv, Pdf* pdf)

@@ -10,7 +10,10 @@
 
 namespace workbench::command {
 
-Output::Output(const QString& name) : name_(name == QLatin1String("-") ? QString() : name)
+Output::Output(const QString& name) : Output(name, text("cli_003")) {}
+
+Output::Output(const QString& name, const QString& complaint)
+    : name_(name == QLatin1String("-") ? QString() : name), complaint_(complaint)
 {
     if (isFile() && !kept_.open())
         fault_ = kept_.errorString();
@@ -51,7 +54,7 @@ bool Output::close()
     }
     if (fault_.isEmpty())
         return true;
-    writeError(complaint(isFile() ? name_ : QStringLiteral("-"), text("cli_003").arg(systemText(fault_))));
+    writeError(complaint(isFile() ? name_ : QStringLiteral("-"), complaint_.arg(systemText(fault_))));
     return false;
 }
 

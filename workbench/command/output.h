@@ -11,6 +11,8 @@ class Output
 public:
     // Empty, or "-": standard output.
     explicit Output(const QString& name);
+    // Where the texts are gone: the complaint, with a place for the reason.
+    Output(const QString& name, const QString& complaint);
 
     void write(const QByteArray& bytes);
     // Puts the file in its place. False with a complaint when not everything could be written.
@@ -20,6 +22,7 @@ public:
 
 private:
     QString name_;
+    QString complaint_;
     QTemporaryFile kept_;
     QString fault_;
 };

@@ -69,8 +69,7 @@ void LinkNotices::connectRequests()
             });
     const TrackerCommands* commands = &session_.commands();
     connect(commands, &TrackerCommands::sent, &watch_, &AnswerWatch::begin);
-    connect(commands, &TrackerCommands::done, this,
-            [this](const Sentence& sentence) { tellResult(sentence, true); });
+    connect(commands, &TrackerCommands::done, this, &LinkNotices::tellDone);
     connect(commands, &TrackerCommands::failed, this,
             [this](const Sentence& sentence) { tellResult(sentence, false); });
 }

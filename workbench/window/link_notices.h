@@ -33,6 +33,8 @@ public:
     QString trouble() const { return trouble_ ? trouble_() : QString(); }
     // What is said of a save is looked at again.
     void saveEnded();
+    // What went well: in the status line, and for a while on the window that is looked at.
+    void tellDone(const Sentence& sentence) { tellResult(sentence, true); }
 
 Q_SIGNALS:
     void troubleChanged();

@@ -28,6 +28,8 @@ public:
     TypingNotices& typing() { return typing_; }
 
 Q_SIGNALS:
+    // Of a file other than a configuration, which the window that saved it should tell too.
+    void saved(const workbench::Sentence& sentence);
     // A save is over, well or not.
     void ended();
 

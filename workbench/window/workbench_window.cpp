@@ -183,6 +183,7 @@ void WorkbenchWindow::connectNotices()
     faults_ = std::make_unique<FaultsAtHand>(session_.tracker(), linkNotices_->answers(),
                                              commands_[Command::Faults]->shortcut(), this);
     saveNotices_ = std::make_unique<SaveNotices>(pluginLog_, session_, windows_, *recent_, *status_, this);
+    connect(saveNotices_.get(), &SaveNotices::saved, linkNotices_.get(), &LinkNotices::tellDone);
     connect(saveNotices_.get(), &SaveNotices::ended, linkNotices_.get(), &LinkNotices::saveEnded);
     fileNotices_ = std::make_unique<FileNotices>(pluginLog_, *status_, this);
     connect(linkNotices_.get(), &LinkNotices::troubleChanged, this, [this] {

@@ -8,6 +8,7 @@
 #include <QFile>
 
 #include <algorithm>
+#include <tuple>
 
 namespace vlk {
 
@@ -60,8 +61,9 @@ std::vector<KeptTable> keptTables(const QString& folder)
             tables.push_back({path, sensor, document.root()->getString(kVehicleName), time,
                               static_cast<int>(fuelTable(document.root()).value_or(FuelRows()).size())});
     }
-    std::sort(tables.begin(), tables.end(),
-              [](const KeptTable& a, const KeptTable& b) { return a.time < b.time; });
+    std::ranges::sort(tables, std::ranges::greater(), [](const KeptTable& table) {
+        return std::tuple(table.points > 0, table.time, table.points);
+    });
     return tables;
 }
 

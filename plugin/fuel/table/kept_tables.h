@@ -24,7 +24,7 @@ struct KeptTable
 // The path, a new one where none is given; empty when the disk refused, and the log (vlk.save) says why.
 QString keepTable(const QString& folder, const QString& sensor, const QString& vehicle, const QString& name,
                   const FuelRows& rows, const QDateTime& time, QString path = {});
-// From the oldest to the latest.
+// From the latest to the oldest, of one time those with most points first; behind all, tables without points.
 std::vector<KeptTable> keptTables(const QString& folder);
 
 } // namespace vlk

@@ -41,7 +41,10 @@ void SaveProgress::start(quint32 total)
     ui_.progressBar_Time->setRange(0, static_cast<int>(std::min(total, kLongest)));
     resetBar();
     ui_.progressBar_Time->show();
-    ui_.pushButton_Save_Cancel->show();
+    QPushButton* cancel = ui_.pushButton_Save_Cancel;
+    cancel->show();
+    if (cancel->window()->focusWidget() == cancel->window())
+        cancel->setFocus();
     ui_.label_Packet_Separator->setText(QStringLiteral("/"));
     ui_.label_Time_Separator->setText(QStringLiteral("/"));
 }

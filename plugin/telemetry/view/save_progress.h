@@ -18,7 +18,7 @@ public:
     void clear();
     // What is being done, by the key of its text. Shown at once, also if the event loop has to wait.
     void setStatus(const char* key);
-    // Shows the bar at its start and the button.
+    // Shows the bar at its start and the button, which takes the focus where no other control has it.
     void start(quint32 total);
     void moveBar();
     void resetBar();

@@ -245,13 +245,14 @@ std::size_t SaveSequence::end()
     const bool isChosen = std::exchange(fileChosen_, false);
     const bool isSaved = isChosen && write(records);
     saveState_ = Idle;
+    // Before the button goes, which may have the focus.
+    Q_EMIT runningChanged(false);
     progress_.clear();
     // Stays until the user does something else.
     if (isChosen && !isSaved)
         progress_.setStatus("tmiw_182");
     if (isSaved && isPart)
         tellPart(records);
-    Q_EMIT runningChanged(false);
     return isSaved ? records.size() : 0;
 }
 

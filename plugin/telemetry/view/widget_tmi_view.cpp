@@ -77,6 +77,8 @@ VLK_Widget_Tmi_View::~VLK_Widget_Tmi_View() = default;
 
 void VLK_Widget_Tmi_View::open(const QString& configurationPath)
 {
+    // What is told of an earlier save; a save that this opening ends is told below.
+    notices_->end(kSavedInPart);
     stopRequests();
     readTrackerSetup(configurationPath, setup_);
     if (vlkDevice != nullptr)
@@ -132,9 +134,17 @@ void VLK_Widget_Tmi_View::setManualBlocked(const char* reasonKey)
 
 void VLK_Widget_Tmi_View::showSaving(bool running)
 {
+    QWidget* focused = focusWidget();
     setManualBlocked(running ? "tmiw_176" : nullptr);
-    if (running)
+    if (running) {
         notices_->end(kSavedInPart);
+        // A key that is pressed once more must not get to the control that comes next.
+        focusBeforeSave_ = focused != nullptr && !focused->isEnabled() ? focused : nullptr;
+        if (focusBeforeSave_)
+            setFocus();
+    } else if (focusBeforeSave_ && (focused == this || focused == ui_->pushButton_Save_Cancel)) {
+        focusBeforeSave_->setFocus();
+    }
 }
 
 void VLK_Widget_Tmi_View::showPart(const vlk::PartOfPeriod& part)

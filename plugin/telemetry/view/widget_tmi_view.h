@@ -18,6 +18,7 @@
 #include "telemetry/view/zoned_times.h"
 
 #include <QDialog>
+#include <QPointer>
 
 #include <memory>
 
@@ -131,4 +132,5 @@ private:
     quint32 highestNumber_ = 0;
     quint32 lastWalk_ = 0;
     const char* blockedBy_ = nullptr;
+    QPointer<QWidget> focusBeforeSave_; // null where the save closed no control that had it
 };
