@@ -77,8 +77,6 @@ VLK_Widget_Tmi_View::~VLK_Widget_Tmi_View() = default;
 
 void VLK_Widget_Tmi_View::open(const QString& configurationPath)
 {
-    // What is told of an earlier save; a save that this opening ends is told below.
-    notices_->end(kSavedInPart);
     stopRequests();
     readTrackerSetup(configurationPath, setup_);
     if (vlkDevice != nullptr)
