@@ -1626,7 +1626,7 @@
     <message id="tmiw_263"><translation>Нет значения</translation></message>
     <message id="tmiw_264"><translation>В XML только целые литры. Объёмов, потерявших дробную часть: %1. Она сохранится в Excel (CSV).</translation></message>
     <message id="tmiw_265"><translation>В строке %1 стоит «%2»: это не число и считается нулём. Исправьте ячейку или удалите строку.</translation></message>
-    <message id="tmiw_266"><translation>Трекер отключён.</translation></message>
+    <message id="tmiw_266"><translation>Трекер был отключён.</translation></message>
     <message id="tmiw_267"><translation>Отметьте серверы, записи для которых нужно очистить.</translation></message>
     <message id="tmiw_268"><translation>Изменённое сохранит Ctrl+S.</translation></message>
     <message id="tmiw_269"><translation>Тот же объём, что строкой выше. В трекере считается только нижняя строка.</translation></message>
