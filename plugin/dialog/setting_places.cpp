@@ -14,6 +14,9 @@ namespace vlk {
 namespace {
 
 constexpr int kOutlineMs = 1500;
+// Parts of what is in sight of a page that stay free above and below a setting.
+constexpr int kMiddle = 2;
+constexpr int kEdge = 8;
 
 void showTabs(QWidget* widget)
 {
@@ -25,12 +28,11 @@ void showTabs(QWidget* widget)
     }
 }
 
-// In the middle.
-void scrollTo(QWidget* widget)
+void scrollTo(QWidget* widget, int part)
 {
     for (QWidget* outer = widget->parentWidget(); outer; outer = outer->parentWidget()) {
         if (auto* area = qobject_cast<QScrollArea*>(outer))
-            area->ensureWidgetVisible(widget, 0, area->viewport()->height() / 2);
+            area->ensureWidgetVisible(widget, 0, area->viewport()->height() / part);
     }
 }
 
@@ -67,10 +69,7 @@ void outline(QWidget* widget)
 void SettingPlaces::keepInSight(QWidget* widget)
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-    for (QWidget* outer = widget->parentWidget(); outer; outer = outer->parentWidget()) {
-        if (auto* area = qobject_cast<QScrollArea*>(outer))
-            area->ensureWidgetVisible(widget);
-    }
+    scrollTo(widget, kEdge);
 }
 
 SettingPlaces::SettingPlaces(std::function<std::vector<PageSettings*>()> pages, QObject* parent)
@@ -108,14 +107,14 @@ void SettingPlaces::goTo(int table, int row, int part)
         return;
     }
     showTabs(widget);
-    scrollTo(widget);
+    scrollTo(widget, kMiddle);
     widget->setFocus(Qt::ShortcutFocusReason);
     // A page that is shown for the first time gets its layout behind this.
     QTimer::singleShot(0, widget, [widget] {
         if (!widget->isVisible())
             return;
         QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-        scrollTo(widget);
+        scrollTo(widget, kMiddle);
         outline(widget);
         if (!widget->isEnabled())
             explain(widget);

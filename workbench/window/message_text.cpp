@@ -53,6 +53,16 @@ MessageText describePair(const void* p)
     return {QStringLiteral("id=%1 (%2)").arg(number).arg(hexNumber(number, 16)), {}};
 }
 
+// The members in the places of the form's marks.
+template <class Record, class... Members>
+MessageText numbers(const void* p, const char* form, Members Record::*... members)
+{
+    const auto& record = as<Record>(p);
+    QString text = QString::fromLatin1(form);
+    ((text = text.arg(record.*members)), ...);
+    return {text, {}};
+}
+
 constexpr RecordRow records[] = {
     {Message::SetIdentity,
      [](const void* p) -> MessageText {
@@ -122,43 +132,27 @@ constexpr RecordRow records[] = {
              {}};
      }},
     {Message::EndSave,
-     [](const void* p) -> MessageText {
-         const auto& r = as<EndedSave>(p);
-         return {QStringLiteral("ended=%1 records=%2").arg(r.ended).arg(r.records), {}};
-     }},
+     [](const void* p) { return numbers(p, "ended=%1 records=%2", &EndedSave::ended, &EndedSave::records); }},
     {Message::GetRunningWork,
-     [](const void* p) -> MessageText {
-         const auto& r = as<RunningWork>(p);
-         return {QStringLiteral("saving=%1 automatic=%2").arg(r.saving).arg(r.automatic), {}};
+     [](const void* p) {
+         return numbers(p, "saving=%1 automatic=%2", &RunningWork::saving, &RunningWork::automatic);
      }},
-    {Message::GetExtensions,
-     [](const void* p) -> MessageText {
-         return {QStringLiteral("newest=%1").arg(as<Extensions>(p).newest), {}};
-     }},
+    {Message::GetExtensions, [](const void* p) { return numbers(p, "newest=%1", &Extensions::newest); }},
     {Message::CompareFiles,
-     [](const void* p) -> MessageText {
-         const auto& r = as<FileComparison>(p);
-         return {QStringLiteral("outcome=%1 differences=%2").arg(r.outcome).arg(r.differences), {}};
+     [](const void* p) {
+         return numbers(p, "outcome=%1 differences=%2", &FileComparison::outcome,
+                        &FileComparison::differences);
      }},
-    {Message::ConfirmWrite,
-     [](const void* p) -> MessageText {
-         return {QStringLiteral("step=%1").arg(as<WriteConfirmation>(p).step), {}};
-     }},
+    {Message::ConfirmWrite, [](const void* p) { return numbers(p, "step=%1", &WriteConfirmation::step); }},
     {Message::CheckFile,
-     [](const void* p) -> MessageText {
-         const auto& r = as<FileCheck>(p);
-         return {QStringLiteral("outcome=%1 remarks=%2").arg(r.outcome).arg(r.remarks), {}};
+     [](const void* p) {
+         return numbers(p, "outcome=%1 remarks=%2", &FileCheck::outcome, &FileCheck::remarks);
      }},
-    {Message::ReportFile,
-     [](const void* p) -> MessageText {
-         return {QStringLiteral("outcome=%1").arg(as<FileReport>(p).outcome), {}};
-     }},
+    {Message::ReportFile, [](const void* p) { return numbers(p, "outcome=%1", &FileReport::outcome); }},
     {Message::ApplyPreset,
-     [](const void* p) -> MessageText {
-         const auto& r = as<PresetApplication>(p);
-         return {
-             QStringLiteral("outcome=%1 changes=%2 misfits=%3").arg(r.outcome).arg(r.changes).arg(r.misfits),
-             {}};
+     [](const void* p) {
+         return numbers(p, "outcome=%1 changes=%2 misfits=%3", &PresetApplication::outcome,
+                        &PresetApplication::changes, &PresetApplication::misfits);
      }},
     {Message::OfferTexts,
      [](const void* p) -> MessageText {
