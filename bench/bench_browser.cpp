@@ -31,14 +31,14 @@ QString fileOf(int count, const std::string& mask)
     if (QFile::exists(path))
         return path;
     std::mt19937 random(7106);
-    TelemetryPages pages;
+    RecordStore records;
     TmiPage_Zeta3::ValueBlock block;
     for (int i = 0; i < count; ++i) {
         std::ranges::generate(block, [&] { return static_cast<std::uint8_t>(random()); });
         qToLittleEndian(quint32(i), block.data() + kElements[element("NumPage")].offset);
-        pages.push_back(std::make_unique<TmiPage_Zeta3>(176, 30, FieldMask::fromText(mask), block));
+        records.add(30, FieldMask::fromText(mask), block);
     }
-    saveTelemetryFile(path, TelemetryForm::xml, pages, {});
+    saveTelemetryFile(path, TelemetryForm::xml, records, {});
     return path;
 }
 

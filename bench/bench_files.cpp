@@ -28,15 +28,25 @@ constexpr int kAllFields = kFieldCount;
 constexpr int kUsualFields = 60;
 
 // Records with values as they are on the road; `fields` of them, evenly spread.
-TelemetryPages pagesWith(int count, int fields)
+RecordStore recordsWith(int count, int fields)
 {
     std::mt19937 random(7106);
     FieldMask mask;
     for (int i = 0; i < fields; ++i)
         mask.set(i * kFieldCount / fields);
-    TelemetryPages pages;
+    RecordStore records;
+    records.setUtcOffset(10800);
     for (int i = 0; i < count; ++i)
-        pages.push_back(std::make_unique<TmiPage_Zeta3>(176, 30, mask, plausibleBlock(random), 10800));
+        records.add(30, mask, plausibleBlock(random));
+    return records;
+}
+
+// For the baselines, which are not to decode.
+std::vector<std::shared_ptr<TmiPage_Zeta3>> decoded(const RecordStore& records)
+{
+    std::vector<std::shared_ptr<TmiPage_Zeta3>> pages;
+    for (int record = 0; record < records.size(); ++record)
+        pages.push_back(records.at(record));
     return pages;
 }
 
@@ -108,8 +118,8 @@ xmlSAXHandler copyingParser()
 
 void readXml(benchmark::State& state, int fields, bool inUtf8)
 {
-    const TelemetryPages pages = pagesWith(2000, fields);
-    QByteArray file = written([&](QIODevice& device) { writeTelemetryXml(device, pages, namedLines()); });
+    const RecordStore records = pagesWith(2000, fields);
+    QByteArray file = written([&](QIODevice& device) { writeTelemetryXml(device, records, namedLines()); });
     if (inUtf8)
         file = fromWindows1251(file).toUtf8().replace("windows-1251", "UTF-8");
     const auto parse = [&file](xmlSAXHandler handler) {
@@ -155,12 +165,12 @@ void printElement(const char* name, auto number)
 
 void writeXml(benchmark::State& state, int fields)
 {
-    const TelemetryPages pages = pagesWith(1000, fields);
+    const RecordStore records = pagesWith(1000, fields);
     const auto write = [&] {
         Sink sink;
-        writeTelemetryXml(sink, pages, {});
+        writeTelemetryXml(sink, records, {});
     };
-    const auto printAll = [&] {
+    const auto printAll = [&, pages = decoded(records)] {
         for (const auto& page : pages) {
             for (int i = 0; i < kElementCount; ++i) {
                 const auto index = static_cast<ElementIndex>(i);
@@ -182,12 +192,12 @@ double bytesInUse()
 // 1,000 full records, a tenth of a long export. The memory in use afterwards is that before.
 void writeCsv(benchmark::State& state)
 {
-    const TelemetryPages pages = pagesWith(1000, kAllFields);
+    const RecordStore records = pagesWith(1000, kAllFields);
     const auto write = [&] {
         Sink sink;
-        writeTelemetryCsv(sink, pages, {}, {});
+        writeTelemetryCsv(sink, records, {}, {});
     };
-    const auto printAll = [&] {
+    const auto printAll = [&, pages = decoded(records)] {
         for (const auto& page : pages) {
             for (const CsvColumn& column : csvColumns())
                 withNumber(*page, column.element(), [](auto number) { printCell(number); });
@@ -201,20 +211,20 @@ void writeCsv(benchmark::State& state)
 // 100,000 records of 60 fields.
 void readMany(benchmark::State& state, bool binary)
 {
-    TelemetryPages pages = pagesWith(100'000, kUsualFields);
+    RecordStore records = pagesWith(100'000, kUsualFields);
     QByteArray file = written([&](QIODevice& device) {
         if (binary)
-            writeTelemetryBinary(device, pages, {});
+            writeTelemetryBinary(device, records, {});
         else
-            writeTelemetryXml(device, pages, {});
+            writeTelemetryXml(device, records, {});
     });
-    pages.clear();
+    records.clear();
     for ([[maybe_unused]] auto _ : state) {
         const double before = bytesInUse();
         const TelemetryContents contents =
             binary ? readFrom(readTelemetryBinary, file) : readFrom(readTelemetryXml, file);
         state.counters["bytes_per_record"] =
-            (bytesInUse() - before) / static_cast<double>(std::max<std::size_t>(contents.pages.size(), 1));
+            (bytesInUse() - before) / static_cast<double>(std::max(contents.records.size(), 1));
     }
     state.counters["MB"] = file.size() / 1e6;
 }

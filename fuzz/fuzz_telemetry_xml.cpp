@@ -11,14 +11,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         vlk::roundTrip(data, size, vlk::readTelemetryXml, vlk::writeTelemetryXml);
     QBuffer table;
     table.open(QIODevice::ReadWrite);
-    if (!vlk::writeTelemetryCsv(table, contents.pages, contents.titles, {}))
+    if (!vlk::writeTelemetryCsv(table, contents.records, contents.titles, {}))
         std::abort();
     table.seek(0);
     const int columns = table.readLine().count(';');
-    for (const auto& page : contents.pages) {
+    contents.records.forEach([&](const TmiPage_Zeta3& page) {
         const int cells = table.readLine().count(';');
-        if (!page->isExtra() && cells != columns && cells + 1 != columns)
+        if (!page.isExtra() && cells != columns && cells + 1 != columns)
             std::abort();
-    }
+    });
     return 0;
 }

@@ -3,9 +3,43 @@
 // Records and packets for the tests of telemetry files.
 
 #include "support/records.h"
-#include "telemetry/files/telemetry_pages.h"
+#include "telemetry/files/telemetry_contents.h"
+#include "telemetry/record/record_head.h"
 
 namespace vlk {
+
+// Records one by one, each an object of its own.
+using TelemetryPages = std::vector<std::unique_ptr<TmiPage_Zeta3>>;
+
+inline RecordStore storeOf(const TelemetryPages& pages)
+{
+    RecordStore store;
+    for (const auto& page : pages) {
+        const QByteArray payload = page->payload();
+        if (payload.isEmpty() && page->isExtra()) {
+            store.add(page->extra());
+        } else if (payload.isEmpty()) {
+            store.add(page->ver(), page->mask(), page->valueBlock());
+        } else {
+            QByteArray record(1, static_cast<char>(page->type()));
+            if (!page->isExtra())
+                record += static_cast<char>(page->ver()) + page->maskBytes();
+            record += payload;
+            store.add(bytesAt(record.constData(), record.size()));
+        }
+        if (page->hasUtcOffset())
+            store.setUtcOffset(page->utcOffset());
+    }
+    return store;
+}
+
+inline TelemetryPages pagesIn(const RecordStore& store)
+{
+    TelemetryPages pages;
+    for (int record = 0; record < store.size(); ++record)
+        pages.push_back(store.at(record));
+    return pages;
+}
 
 inline std::unique_ptr<TmiPage_Zeta3> recordOf(const RecordParts& parts)
 {
@@ -80,9 +114,11 @@ QString difference(const ElementValues<Source>& left, const ElementValues<Source
     return {};
 }
 
-// What is different between two lists; empty if they are the same to everyone who looks at them.
-inline QString difference(const TelemetryPages& left, const TelemetryPages& right)
+// What is different between the pages and those of the store; empty if they are the same to everyone who
+// looks at them.
+inline QString difference(const TelemetryPages& left, const RecordStore& found)
 {
+    const TelemetryPages right = pagesIn(found);
     if (left.size() != right.size())
         return QStringLiteral("%1 and %2 pages").arg(left.size()).arg(right.size());
     const auto sizes = [](const ExtraPacket& packet) {
@@ -92,14 +128,14 @@ inline QString difference(const TelemetryPages& left, const TelemetryPages& righ
     for (std::size_t i = 0; i < left.size(); ++i) {
         const TmiPage_Zeta3& a = *left[i];
         const TmiPage_Zeta3& b = *right[i];
-        QString found = difference<ExtraPacket>(a.extra(), b.extra(), [](auto) { return true; });
-        found += difference<TmiPage_Zeta3::RecordValues>(a, b, [&](auto index) { return a.has(index); });
+        QString differing = difference<ExtraPacket>(a.extra(), b.extra(), [](auto) { return true; });
+        differing += difference<TmiPage_Zeta3::RecordValues>(a, b, [&](auto index) { return a.has(index); });
         if (a.type() != b.type() || a.ver() != b.ver() || a.isExtra() != b.isExtra() || a.mask() != b.mask())
-            found += QLatin1String(" head");
+            differing += QLatin1String(" head");
         if (sizes(a.extra()) != sizes(b.extra()) || !std::ranges::equal(a.extra().area(), b.extra().area()))
-            found += QLatin1String(" packet");
-        if (!found.isEmpty())
-            return QStringLiteral("page %1: ").arg(i) + found;
+            differing += QLatin1String(" packet");
+        if (!differing.isEmpty())
+            return QStringLiteral("page %1: ").arg(i) + differing;
     }
     return {};
 }

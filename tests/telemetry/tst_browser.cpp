@@ -408,7 +408,7 @@ private:
         origin.titles.inputs[0] = "Door";
         origin.titles.userTypes[0] = "s";
         QString path = folder_.filePath("telemetry.xml");
-        if (!saveTelemetryFile(path, form, pages, origin))
+        if (!saveTelemetryFile(path, form, storeOf(pages), origin))
             qFatal("the test's folder cannot be written");
         return path;
     }

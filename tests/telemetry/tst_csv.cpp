@@ -80,7 +80,7 @@ QStringList csv(const TelemetryPages& pages, const TelemetryTitles& titles = {})
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     const auto eventText = [](quint16 code) { return code == 35 ? QString::fromUtf8("Стоянка") : QString(); };
-    if (!writeTelemetryCsv(buffer, pages, titles, eventText))
+    if (!writeTelemetryCsv(buffer, storeOf(pages), titles, eventText))
         return {QStringLiteral("failed")};
     return QString::fromLocal8Bit(buffer.data()).split(QStringLiteral("\r\n"));
 }

@@ -55,7 +55,7 @@ QByteArray written(Write write, const TelemetryPages& pages, const TelemetryOrig
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    return write(buffer, pages, origin) ? buffer.data() : QByteArray("failed");
+    return write(buffer, storeOf(pages), origin) ? buffer.data() : QByteArray("failed");
 }
 
 template <class Read>
@@ -78,11 +78,10 @@ quint32 slowCrc(const QByteArray& bytes, quint32 polynomial)
     return ~state;
 }
 
-QString numbers(const TelemetryPages& pages)
+QString numbers(const RecordStore& records)
 {
     QStringList list;
-    for (const auto& page : pages)
-        list += QString::number(page->number());
+    records.forEach([&list](const TmiPage_Zeta3& page) { list += QString::number(page.number()); });
     return list.join(QLatin1Char(' '));
 }
 
@@ -152,10 +151,10 @@ private Q_SLOTS:
         // The way back: the entry of an unknown type has no line, the rest is there.
         const TelemetryContents contents = readBack(readTelemetryXml, head + pages);
         const TelemetryPages wanted = samplePages();
-        QCOMPARE(contents.pages.size(), wanted.size());
-        QCOMPARE(contents.pages[0]->raw(element("NaviHDop")), quint64{12});
-        QCOMPARE(contents.pages[0]->valueBlock(), wanted[0]->valueBlock());
-        QCOMPARE(contents.pages[1]->extra().countedBytes(), quint16{93});
+        QCOMPARE(contents.records.size(), int(wanted.size()));
+        QCOMPARE(contents.records.at(0)->raw(element("NaviHDop")), quint64{12});
+        QCOMPARE(contents.records.at(0)->valueBlock(), wanted[0]->valueBlock());
+        QCOMPARE(contents.records.at(1)->extra().countedBytes(), quint16{93});
         QCOMPARE(contents.titles.inputs[0], QString::fromUtf8("Дверь & ?"));
         QCOMPARE(contents.titles.outputs[1] + contents.titles.temperatures[3], QStringLiteral("OutT4"));
         QCOMPARE(contents.titles.userTypes[1] + contents.titles.userTypes[48], QStringLiteral("bu"));
@@ -208,7 +207,7 @@ private Q_SLOTS:
         const TelemetryPages pages = randomPages(random, 1500);
         const QByteArray xml = written(writeTelemetryXml, pages);
         const TelemetryContents fromXml = readBack(readTelemetryXml, xml);
-        QCOMPARE(difference(pages, fromXml.pages), QString());
+        QCOMPARE(difference(pages, fromXml.records), QString());
         // Another reader, which takes no "&" in a title, finds the same values.
         QXmlStreamReader reader(written(writeTelemetryXml, pages, {}));
         int page = -1;
@@ -236,12 +235,12 @@ private Q_SLOTS:
         const QByteArray binary = written(writeTelemetryBinary, pages);
         const TelemetryContents fromBinary = readBack(readTelemetryBinary, binary);
         QCOMPARE(kinds(fromBinary.damages), QString());
-        QCOMPARE(difference(pages, fromBinary.pages), QString());
-        QCOMPARE(fromBinary.pages[5]->payload(), pages[5]->payload());
+        QCOMPARE(difference(pages, fromBinary.records), QString());
+        QCOMPARE(fromBinary.records.at(5)->payload(), pages[5]->payload());
         // Through both forms: records that were read from XML are packed again.
         const TelemetryContents twice =
-            readBack(readTelemetryBinary, written(writeTelemetryBinary, fromXml.pages));
-        QCOMPARE(difference(pages, twice.pages), QString());
+            readBack(readTelemetryBinary, written(writeTelemetryBinary, pagesIn(fromXml.records)));
+        QCOMPARE(difference(pages, twice.records), QString());
     }
 
     void forgivingXml_data()
@@ -287,7 +286,7 @@ private Q_SLOTS:
     void forgivingXml()
     {
         QFETCH(QByteArray, file);
-        QTEST(numbers(readBack(readTelemetryXml, file).pages), "found");
+        QTEST(numbers(readBack(readTelemetryXml, file).records), "found");
     }
 
     // Where a page has no end, and where the pages are fewer than the file says.
@@ -316,7 +315,7 @@ private Q_SLOTS:
         for (const FileDamage& damage : contents.damages)
             damages << damage.kind << int(damage.offset) << int(damage.bytes);
         QTEST(damages, "damages");
-        QTEST(int(contents.pages.size()), "pages");
+        QTEST(contents.records.size(), "pages");
         QTEST(contents.lastIsCut, "lastIsCut");
     }
 
@@ -345,10 +344,10 @@ private Q_SLOTS:
         QFETCH(QByteArray, text);
         const auto contents = readBack(readTelemetryXml, "<Page type=\"176\">\n<" + element + '>' + text +
                                                              "</" + element + ">\n</Page>\n");
-        QCOMPARE(contents.pages.size(), std::size_t{1});
+        QCOMPARE(contents.records.size(), 1);
         const auto index = findElement(element.constData()).value();
-        QTEST(quint64{contents.pages[0]->raw(index)}, "raw");
-        QVERIFY(!contents.pages[0]->has(index));
+        QTEST(quint64{contents.records.at(0)->raw(index)}, "raw");
+        QVERIFY(!contents.records.at(0)->has(index));
     }
 
     void titles()
@@ -400,7 +399,7 @@ private Q_SLOTS:
         if (at >= 0)
             file[at] = static_cast<char>(file[at] ^ 0x40);
         const TelemetryContents contents = readBack(readTelemetryBinary, file.left(cut));
-        QTEST(numbers(contents.pages), "found");
+        QTEST(numbers(contents.records), "found");
         QTEST(kinds(contents.damages), "damages");
         for (const FileDamage& damage : contents.damages)
             QVERIFY(damage.offset >= 0 && damage.bytes >= 0 && damage.offset + damage.bytes <= file.size());
@@ -411,7 +410,7 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("records.xml"));
-        QVERIFY(saveTelemetryFile(path, TelemetryForm::xml, samplePages(), sampleOrigin()));
+        QVERIFY(saveTelemetryFile(path, TelemetryForm::xml, storeOf(samplePages()), sampleOrigin()));
         std::mt19937 random(3);
         const TelemetryPages many = randomPages(random, 100);
         for (const TelemetryForm form : {TelemetryForm::xml, TelemetryForm::csv, TelemetryForm::binary}) {
@@ -420,11 +419,11 @@ private Q_SLOTS:
                 QTest::ignoreMessage(QtWarningMsg,
                                      QRegularExpression("^" + QRegularExpression::escape(path) + ": .+"));
                 const FullDisk disk(room);
-                QVERIFY(!saveTelemetryFile(path, form, many, sampleOrigin()));
+                QVERIFY(!saveTelemetryFile(path, form, storeOf(many), sampleOrigin()));
             }
         }
         const auto contents = readTelemetryFile(path);
-        QVERIFY(contents && contents->pages.size() == 2);
+        QVERIFY(contents && contents->records.size() == 2);
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 1);
     }
 };

@@ -192,9 +192,9 @@ private Q_SLOTS:
         using vlk::TelemetryForm;
         const auto telemetry = [](TelemetryForm form) {
             return [form](const QString& path) {
-                vlk::TelemetryPages pages;
-                pages.push_back(std::make_unique<TmiPage_Zeta3>());
-                return saveTelemetryFile(path, form, pages, {});
+                vlk::RecordStore records;
+                records.add(30, {}, {});
+                return saveTelemetryFile(path, form, records, {});
             };
         };
         DataTable<Save>({"save"})

@@ -26,20 +26,20 @@ public:
     void take(const vlk::TelemetryContents& contents, qint64 offset)
     {
         constexpr vlk::ElementIndex number = vlk::element("NumPage");
-        for (const auto& page : contents.pages) {
+        contents.records.forEach([&](const TmiPage_Zeta3& page) {
             // A record that has no time reads as the beginning of all of them.
-            if (const quint32 time = timeOf(*page); time != 0) {
+            if (const quint32 time = timeOf(page); time != 0) {
                 summary_.from = std::min(summary_.from.value_or(time), time);
                 summary_.to = std::max(summary_.to.value_or(time), time);
             }
-            if (page->isExtra())
-                continue;
-            const auto now = static_cast<quint32>(page->value<number>());
+            if (page.isExtra())
+                return;
+            const auto now = static_cast<quint32>(page.value<number>());
             summary_.gaps += isBehind_ && now != before_ && now != before_ + 1;
             before_ = now;
             isBehind_ = true;
-        }
-        summary_.records += static_cast<qint64>(contents.pages.size());
+        });
+        summary_.records += contents.records.size();
         for (vlk::FileDamage damage : contents.damages) {
             damage.offset += offset;
             summary_.damages.push_back(damage);

@@ -2,7 +2,7 @@
 
 // What a telemetry file holds, counted. It is read piece by piece, so that memory does not grow with it.
 
-#include "telemetry/files/telemetry_pages.h"
+#include "telemetry/files/telemetry_contents.h"
 
 class QIODevice;
 

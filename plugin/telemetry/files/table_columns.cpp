@@ -6,23 +6,13 @@
 
 namespace vlk {
 
-std::vector<CsvColumn> columnsOf(const TelemetryPages& pages)
+std::vector<CsvColumn> columnsOf(const RecordStore& records)
 {
-    FieldMask::Bytes bytes{};
-    for (const auto& page : pages) {
-        if (!page->isExtra())
-            std::ranges::transform(bytes, page->mask().bytes(), bytes.begin(), std::bit_or<>());
-    }
-    const FieldMask mask(bytes);
+    const FieldMask mask = records.fields();
     std::vector<CsvColumn> columns;
     std::ranges::copy_if(csvColumns(), std::back_inserter(columns),
                          [&](const CsvColumn& column) { return mask.test(column.field()); });
     return columns;
-}
-
-bool hasPackets(const TelemetryPages& pages)
-{
-    return std::ranges::any_of(pages, [](const auto& page) { return page->isExtra(); });
 }
 
 const Word* entryWord(const ExtraEntry& entry)

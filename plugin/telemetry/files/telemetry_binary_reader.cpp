@@ -41,7 +41,10 @@ bool lengthAgrees(Bytes start)
 class BinaryReader
 {
 public:
-    explicit BinaryReader(QIODevice& device) : input_(device) {}
+    explicit BinaryReader(QIODevice& device) : input_(device)
+    {
+        contents_.records.setUtcOffset(localOffset());
+    }
 
     TelemetryContents read()
     {
@@ -117,8 +120,7 @@ private:
     void takeRecord(std::size_t size)
     {
         const Bytes record = behind(input_.peek(size), binary::kLengthBytes);
-        contents_.pages.push_back(std::make_unique<TmiPage_Zeta3>(
-            record.data(), static_cast<qsizetype>(record.size()), utcOffset_));
+        contents_.records.add(record);
         pass(size);
     }
 
@@ -152,7 +154,7 @@ private:
         if (crc_ != recordsCrc_)
             report(FileDamage::RecordsChecksum, behindHeader, input_.position() - behindHeader);
         contents_.announced = count_;
-        if (static_cast<quint16>(contents_.pages.size()) != count_)
+        if (static_cast<quint16>(contents_.records.size()) != count_)
             report(FileDamage::RecordCount, binary::kCountAt, sizeof(count_));
     }
 
@@ -164,12 +166,11 @@ private:
 
     void report(FileDamage::Kind kind, qint64 offset, qint64 bytes)
     {
-        contents_.damages.push_back({kind, offset, bytes, contents_.pages.size()});
+        contents_.damages.push_back({kind, offset, bytes, contents_.records.size()});
     }
 
     InputBuffer input_;
     TelemetryContents contents_;
-    qint32 utcOffset_ = localOffset();
     quint16 count_ = 0;
     quint32 recordsCrc_ = 0;
     quint32 crc_ = 0;

@@ -4,7 +4,7 @@
 // not lead on, the reader looks for the next place at which a whole record stands, one whose length agrees
 // with its mask. What it found wrong it tells.
 
-#include "telemetry/files/telemetry_pages.h"
+#include "telemetry/files/telemetry_contents.h"
 
 class QIODevice;
 

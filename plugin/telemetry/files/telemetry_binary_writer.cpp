@@ -51,16 +51,16 @@ void build(Buffer& record, const TmiPage_Zeta3& page)
 
 // Builds each record anew, so that memory does not grow with them.
 template <class Visit>
-void forEachRecord(const TelemetryPages& pages, Visit visit)
+void forEachRecord(const RecordStore& records, Visit visit)
 {
     Buffer record;
-    for (const auto& page : pages) {
-        build(record, *page);
+    records.forEach([&](const TmiPage_Zeta3& page) {
+        build(record, page);
         visit(std::span<const std::uint8_t>(record));
-    }
+    });
 }
 
-std::array<std::uint8_t, binary::kHeaderBytes> header(const TelemetryPages& pages,
+std::array<std::uint8_t, binary::kHeaderBytes> header(const RecordStore& records,
                                                       const TelemetryOrigin& origin, quint32 recordsCrc)
 {
     std::array<std::uint8_t, binary::kHeaderBytes> bytes{};
@@ -68,7 +68,7 @@ std::array<std::uint8_t, binary::kHeaderBytes> header(const TelemetryPages& page
     const auto putText = [&](int at, const QByteArray& text) {
         std::memcpy(bytes.data() + at, text.constData(), text.size());
     };
-    const quint32 firstTime = timeOf(*pages.front());
+    const quint32 firstTime = timeOf(*records.at(0));
     // Two digits a byte.
     const QByteArray identity =
         scrambled(origin.trackerId.toLocal8Bit().left(binary::kIdentityBytes / 2), identityKey(firstTime));
@@ -76,8 +76,8 @@ std::array<std::uint8_t, binary::kHeaderBytes> header(const TelemetryPages& page
     put(binary::kVersionAt, binary::kVersion);
     putText(binary::kModelAt, origin.model.toLocal8Bit().left(binary::kModelBytes));
     put(binary::kFirstTimeAt, firstTime);
-    put(binary::kLastTimeAt, timeOf(*pages.back()));
-    put(binary::kCountAt, static_cast<quint16>(pages.size()));
+    put(binary::kLastTimeAt, timeOf(*records.at(records.size() - 1)));
+    put(binary::kCountAt, static_cast<quint16>(records.size()));
     put(binary::kRecordsCrcAt, recordsCrc);
     put(binary::kIdentityLengthAt, static_cast<quint8>(identity.size()));
     putText(binary::kIdentityAt, identity);
@@ -87,16 +87,16 @@ std::array<std::uint8_t, binary::kHeaderBytes> header(const TelemetryPages& page
 
 } // namespace
 
-bool writeTelemetryBinary(QIODevice& device, const TelemetryPages& pages, const TelemetryOrigin& origin)
+bool writeTelemetryBinary(QIODevice& device, const RecordStore& records, const TelemetryOrigin& origin)
 {
-    if (pages.empty())
+    if (records.empty())
         return true;
     quint32 recordsCrc = 0;
-    forEachRecord(pages, [&](auto record) { recordsCrc = crc32(recordsCrc, record); });
+    forEachRecord(records, [&](auto record) { recordsCrc = crc32(recordsCrc, record); });
 
     OutputBuffer out(device);
-    out << std::span<const std::uint8_t>(header(pages, origin, recordsCrc));
-    forEachRecord(pages, [&](auto record) { out << record; });
+    out << std::span<const std::uint8_t>(header(records, origin, recordsCrc));
+    forEachRecord(records, [&](auto record) { out << record; });
     return out.finish();
 }
 

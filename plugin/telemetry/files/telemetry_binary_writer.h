@@ -4,13 +4,13 @@
 // with checksums. A record that was read from an XML file, of which the bytes of the tracker are not known,
 // is packed again from its values.
 
-#include "telemetry/files/telemetry_pages.h"
+#include "telemetry/files/telemetry_contents.h"
 
 class QIODevice;
 
 namespace vlk {
 
 // False if a write failed. No pages write nothing at all.
-bool writeTelemetryBinary(QIODevice& device, const TelemetryPages& pages, const TelemetryOrigin& origin);
+bool writeTelemetryBinary(QIODevice& device, const RecordStore& records, const TelemetryOrigin& origin);
 
 } // namespace vlk

@@ -12,22 +12,22 @@ namespace {
 class CsvWriter
 {
 public:
-    CsvWriter(QIODevice& device, const TelemetryPages& pages, const TelemetryTitles& titles,
+    CsvWriter(QIODevice& device, const RecordStore& records, const TelemetryTitles& titles,
               const EventText& eventText)
-        : out_(device), pages_(pages), eventText_(eventText),
-          userTypes_(typeLetters(titles).toLatin1().toStdString()), columns_(columnsOf(pages))
+        : out_(device), records_(records), eventText_(eventText),
+          userTypes_(typeLetters(titles).toLatin1().toStdString()), columns_(columnsOf(records))
     {
     }
 
     bool write()
     {
         addHeadings();
-        for (const auto& page : pages_) {
-            if (page->isExtra())
-                addPacket(*page);
+        records_.forEach([this](const TmiPage_Zeta3& page) {
+            if (page.isExtra())
+                addPacket(page);
             else
-                addRecord(*page);
-        }
+                addRecord(page);
+        });
         return out_.finish();
     }
 
@@ -36,7 +36,7 @@ private:
     {
         for (const CsvColumn& column : columns_)
             out_ << headingText(column).toLocal8Bit() << ";";
-        if (hasPackets(pages_)) {
+        if (records_.hasPackets()) {
             addWord("tmizta_359");
             out_ << ";";
         }
@@ -102,7 +102,7 @@ private:
     static constexpr std::string_view kLineEnd = "\r\n";
 
     OutputBuffer out_;
-    const TelemetryPages& pages_;
+    const RecordStore& records_;
     const EventText& eventText_;
     std::string userTypes_;
     std::vector<CsvColumn> columns_;
@@ -112,10 +112,10 @@ private:
 
 } // namespace
 
-bool writeTelemetryCsv(QIODevice& device, const TelemetryPages& pages, const TelemetryTitles& titles,
+bool writeTelemetryCsv(QIODevice& device, const RecordStore& records, const TelemetryTitles& titles,
                        const EventText& eventText)
 {
-    return CsvWriter(device, pages, titles, eventText).write();
+    return CsvWriter(device, records, titles, eventText).write();
 }
 
 } // namespace vlk

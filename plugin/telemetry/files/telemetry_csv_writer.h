@@ -4,7 +4,7 @@
 // ";", in the system's 8-bit encoding. A cell has the form ="text", so that a spreadsheet keeps the text as
 // it is. Texts are not escaped. A field that none of the records has gets no column.
 
-#include "telemetry/files/telemetry_pages.h"
+#include "telemetry/files/telemetry_contents.h"
 
 #include <functional>
 
@@ -17,7 +17,7 @@ using EventText = std::function<QString(quint16 code)>;
 
 // False if a write failed. Words are those of the installed translator; user parameters are shown by the
 // type letters of `titles`.
-bool writeTelemetryCsv(QIODevice& device, const TelemetryPages& pages, const TelemetryTitles& titles,
+bool writeTelemetryCsv(QIODevice& device, const RecordStore& records, const TelemetryTitles& titles,
                        const EventText& eventText);
 
 } // namespace vlk

@@ -26,16 +26,16 @@ const QLoggingCategory& damageLog(FileDamage::Kind kind)
     return logs[kind];
 }
 
-bool write(QIODevice& device, TelemetryForm form, const TelemetryPages& pages, const TelemetryOrigin& origin,
+bool write(QIODevice& device, TelemetryForm form, const RecordStore& records, const TelemetryOrigin& origin,
            const EventText& eventText)
 {
     switch (form) {
     case TelemetryForm::xml:
-        return writeTelemetryXml(device, pages, origin);
+        return writeTelemetryXml(device, records, origin);
     case TelemetryForm::csv:
-        return writeTelemetryCsv(device, pages, origin.titles, eventText);
+        return writeTelemetryCsv(device, records, origin.titles, eventText);
     case TelemetryForm::binary:
-        return writeTelemetryBinary(device, pages, origin);
+        return writeTelemetryBinary(device, records, origin);
     }
     return false;
 }
@@ -51,11 +51,11 @@ bool isBinary(QFile& file)
 
 } // namespace
 
-bool saveTelemetryFile(const QString& path, TelemetryForm form, const TelemetryPages& pages,
+bool saveTelemetryFile(const QString& path, TelemetryForm form, const RecordStore& records,
                        const TelemetryOrigin& origin, const EventText& eventText)
 {
     return replaceFile(path,
-                       [&](QIODevice& device) { return write(device, form, pages, origin, eventText); });
+                       [&](QIODevice& device) { return write(device, form, records, origin, eventText); });
 }
 
 std::optional<TelemetryContents> readTelemetryFile(const QString& path)

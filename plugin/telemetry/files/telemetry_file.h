@@ -10,10 +10,10 @@ namespace vlk {
 
 enum class TelemetryForm { xml, csv, binary };
 
-// True when the file at `path` now holds the pages in that form. Otherwise, on a full disk say, it holds what
-// it held before, and the log of failed saves (base/save_log.h) says why. Only the CSV form asks for the
+// True when the file at `path` now holds the records in that form. Otherwise, on a full disk say, it holds
+// what it held before, and the log of failed saves (base/save_log.h) says why. Only the CSV form asks for the
 // names of events.
-bool saveTelemetryFile(const QString& path, TelemetryForm form, const TelemetryPages& pages,
+bool saveTelemetryFile(const QString& path, TelemetryForm form, const RecordStore& records,
                        const TelemetryOrigin& origin, const EventText& eventText = {});
 
 // Reads an XML or binary file, whichever it is. Nothing if it cannot be opened. What is damaged in it is in

@@ -59,7 +59,7 @@ QString textOf(std::string_view bytes)
     return fromWindows1251(QByteArray(bytes.data(), static_cast<int>(bytes.size())));
 }
 
-std::unique_ptr<TmiPage_Zeta3> readRecord(PageLines& lines, std::string_view pageLine, qint32 utcOffset)
+void readRecord(PageLines& lines, std::string_view pageLine, RecordStore& records)
 {
     const auto ver = numberAttribute<quint8>(pageLine, "ver");
     const FieldMask mask = FieldMask::fromText(attribute(pageLine, "format"));
@@ -69,7 +69,7 @@ std::unique_ptr<TmiPage_Zeta3> readRecord(PageLines& lines, std::string_view pag
         if (const auto index = findElement(parts.tag))
             readValue(*index, parts.value, block.data() + kElements[*index].offset);
     });
-    return std::make_unique<TmiPage_Zeta3>(kTelemetryRecord, ver, mask, block, utcOffset);
+    records.add(ver, mask, block);
 }
 
 // A packet while its lines are read: the head, and of the area as much as has room. `areaSize` counts all
@@ -129,7 +129,7 @@ void readEntry(std::string_view line, PacketParts& packet)
     packet.areaSize += head.size() + size;
 }
 
-std::unique_ptr<TmiPage_Zeta3> readExtraPacket(PageLines& lines, std::string_view pageLine, qint32 utcOffset)
+void readExtraPacket(PageLines& lines, std::string_view pageLine, RecordStore& records)
 {
     PacketParts packet;
     packet.head[0] = kExtraPacket;
@@ -147,20 +147,20 @@ std::unique_ptr<TmiPage_Zeta3> readExtraPacket(PageLines& lines, std::string_vie
                              ExtraPacket::kBesideHeads + packet.areaSize;
     qToLittleEndian(static_cast<quint16>(size), packet.head.data() + ExtraPacket::kSizeAt);
     const auto area = std::span(packet.area).first(std::min(packet.areaSize, packet.area.size()));
-    return std::make_unique<TmiPage_Zeta3>(ExtraPacket::fromParts(packet.head, area), utcOffset);
+    records.add(ExtraPacket::fromParts(packet.head, area));
 }
 
-PageLines readPage(InputBuffer& input, std::string_view line, qint32 utcOffset, TelemetryPages& pages)
+PageLines readPage(InputBuffer& input, std::string_view line, RecordStore& records)
 {
     // The line lives in the buffer only until the next one is read.
     const std::string pageLine(line);
     PageLines lines(input);
     switch (numberAttribute<quint8>(pageLine, "type")) {
     case kTelemetryRecord:
-        pages.push_back(readRecord(lines, pageLine, utcOffset));
+        readRecord(lines, pageLine, records);
         break;
     case kExtraPacket:
-        pages.push_back(readExtraPacket(lines, pageLine, utcOffset));
+        readExtraPacket(lines, pageLine, records);
         break;
     default:
         lines.forEach([](std::string_view) {});
@@ -199,12 +199,12 @@ TelemetryContents readTelemetryXml(QIODevice& device)
 {
     InputBuffer input(device);
     TelemetryContents contents;
-    const qint32 utcOffset = localOffset();
+    contents.records.setUtcOffset(localOffset());
     // A page without a closing line takes the first line of the next one with it, whose lines then start
     // nothing.
     std::optional<qint64> lostAt;
     const auto report = [&contents](FileDamage::Kind kind, qint64 from, qint64 to) {
-        contents.damages.push_back({kind, from, to - from, contents.pages.size()});
+        contents.damages.push_back({kind, from, to - from, contents.records.size()});
     };
     qint64 countAt = 0;
     for (std::string_view line = input.line(kLongestLine); !line.empty(); line = input.line(kLongestLine)) {
@@ -219,18 +219,19 @@ TelemetryContents readTelemetryXml(QIODevice& device)
         }
         if (lostAt)
             report(FileDamage::Records, *std::exchange(lostAt, {}), lineAt);
-        const std::size_t before = contents.pages.size();
-        const PageLines page = readPage(input, line, utcOffset, contents.pages);
+        const int before = contents.records.size();
+        const PageLines page = readPage(input, line, contents.records);
         if (page.end() == PageLines::NextPage) {
             lostAt = page.endAt();
         } else if (page.end() == PageLines::OfFile) {
-            contents.lastIsCut = contents.pages.size() > before;
+            contents.lastIsCut = contents.records.size() > before;
             report(FileDamage::CutShort, lineAt, input.position());
         }
     }
     if (lostAt)
         report(FileDamage::Records, *lostAt, input.position());
-    if (contents.announced.value_or(contents.pages.size()) != contents.pages.size())
+    const auto count = static_cast<quint32>(contents.records.size());
+    if (contents.announced.value_or(count) != count)
         report(FileDamage::RecordCount, countAt, countAt);
     return contents;
 }

@@ -6,7 +6,7 @@
 //
 // The zone and the model that the file names are not restored: records have the local zone.
 
-#include "telemetry/files/telemetry_pages.h"
+#include "telemetry/files/telemetry_contents.h"
 
 class QIODevice;
 

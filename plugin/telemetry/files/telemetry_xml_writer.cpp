@@ -81,7 +81,7 @@ void addExtraPacket(OutputBuffer& out, const ExtraPacket& packet)
     out << "\t</Page>\r\n";
 }
 
-void addHeader(OutputBuffer& out, const TelemetryPages& pages, const TelemetryOrigin& origin)
+void addHeader(OutputBuffer& out, const RecordStore& records, const TelemetryOrigin& origin)
 {
     out << "<?xml version=\"1.0\" encoding=\"windows-1251\"?>\r\n"
         << "<TMI model=\"" << toWindows1251(origin.model) << "\" modification=\"7\" vendor=\""
@@ -93,24 +93,24 @@ void addHeader(OutputBuffer& out, const TelemetryPages& pages, const TelemetryOr
     for (const TypeLine& line : kTypeLines)
         out << "\t<" << line.tag << " type=\"" << toWindows1251(letters.mid(line.first, line.count))
             << "\"/>\r\n";
-    const auto time = [&](const auto& page) { return dateTimeText(timeOf(*page)).toLatin1(); };
-    out << "\t<INTERVAL count=\"" << pages.size() << "\" dtFirst=\""
-        << (pages.empty() ? QByteArray("0") : time(pages.front())) << "\" dtLast=\""
-        << (pages.empty() ? QByteArray("0") : time(pages.back())) << "\"/>\r\n";
+    const auto time = [&](int record) { return dateTimeText(timeOf(*records.at(record))).toLatin1(); };
+    out << "\t<INTERVAL count=\"" << records.size() << "\" dtFirst=\""
+        << (records.empty() ? QByteArray("0") : time(0)) << "\" dtLast=\""
+        << (records.empty() ? QByteArray("0") : time(records.size() - 1)) << "\"/>\r\n";
 }
 
 } // namespace
 
-bool writeTelemetryXml(QIODevice& device, const TelemetryPages& pages, const TelemetryOrigin& origin)
+bool writeTelemetryXml(QIODevice& device, const RecordStore& records, const TelemetryOrigin& origin)
 {
     OutputBuffer out(device);
-    addHeader(out, pages, origin);
-    for (const auto& page : pages) {
-        if (page->isExtra())
-            addExtraPacket(out, page->extra());
+    addHeader(out, records, origin);
+    records.forEach([&out](const TmiPage_Zeta3& page) {
+        if (page.isExtra())
+            addExtraPacket(out, page.extra());
         else
-            addRecord(out, *page);
-    }
+            addRecord(out, page);
+    });
     out << "</TMI>\r\n";
     return out.finish();
 }

@@ -4,13 +4,13 @@
 // as they are, without escapes. A record gives the elements that its mask selects, and number, code and time
 // always.
 
-#include "telemetry/files/telemetry_pages.h"
+#include "telemetry/files/telemetry_contents.h"
 
 class QIODevice;
 
 namespace vlk {
 
 // False if a write failed.
-bool writeTelemetryXml(QIODevice& device, const TelemetryPages& pages, const TelemetryOrigin& origin);
+bool writeTelemetryXml(QIODevice& device, const RecordStore& records, const TelemetryOrigin& origin);
 
 } // namespace vlk

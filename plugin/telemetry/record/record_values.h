@@ -34,6 +34,9 @@ protected:
         unpackFields(mask_, fieldCount, payload, block_.data());
     }
 
+    // The values stay.
+    void setMask(const FieldMask& mask) { mask_ = mask; }
+
 private:
     FieldMask mask_;
     ValueBlock block_{};

@@ -1,6 +1,7 @@
 #include "telemetry/record/tmi_page_zeta3.h"
 
 #include "telemetry/record/record_head.h"
+#include "telemetry/record/record_store.h"
 
 #include <cstring>
 
@@ -37,12 +38,33 @@ void TmiPage_Zeta3::setRecord(const void* record, qsizetype size)
         setExtra(ExtraPacket::fromRecord(bytes), bytes);
         return;
     }
+    setFields(head, behind(bytes, RecordHead::kBytes));
+}
+
+void TmiPage_Zeta3::setFields(const RecordHead& head, std::span<const std::uint8_t> payload)
+{
     type_ = head.type;
     ver_ = head.ver;
     isExtra_ = false;
-    const auto payload = behind(bytes, RecordHead::kBytes);
     setPayload(payload);
     unpack(head.mask, head.type == kTelemetryRecord ? payload : payload.first(0));
+}
+
+// Values that the mask does not tell of are there, but the payload of such a record is not what was stored.
+void TmiPage_Zeta3::setStored(const RecordLayout& layout, std::span<const std::uint8_t> bytes)
+{
+    if (layout.form == RecordLayout::Packet)
+        return setExtra(ExtraPacket::fromRecord(bytes), bytes);
+    if (layout.form == RecordLayout::PacketParts) {
+        constexpr std::size_t head = ExtraPacket::kHeadBytes;
+        return setExtra(
+            ExtraPacket::fromParts(bytes.first(std::min(bytes.size(), head)), behind(bytes, head)), {});
+    }
+    setFields({layout.type, layout.ver, layout.held}, bytes);
+    if (layout.held != layout.mask) {
+        setPayload({});
+        setMask(layout.mask);
+    }
 }
 
 void TmiPage_Zeta3::setKeyAnswer(const void* answer, qsizetype size)

@@ -19,6 +19,11 @@
 
 #include <optional>
 
+namespace vlk {
+struct RecordHead;
+struct RecordLayout;
+} // namespace vlk
+
 class TmiPage_Zeta3 : public QObject, public vlk::RecordValues<vlk::kFieldCount>
 {
     Q_OBJECT
@@ -37,6 +42,8 @@ public:
 
     // Decodes again, and keeps utcOffset(). The memory of the payload is used again.
     void setRecord(const void* record, qsizetype size);
+    // The same from the bytes that a store keeps (record_store.h).
+    void setStored(const vlk::RecordLayout& layout, std::span<const std::uint8_t> bytes);
     // The same for the answer to the question for the last key (message 2312), from its type byte on.
     void setKeyAnswer(const void* answer, qsizetype size);
 
@@ -58,10 +65,11 @@ public:
     // another was given.
     qint32 utcOffset() const { return hasUtcOffset() ? *utcOffset_ : vlk::localOffset(); }
     bool hasUtcOffset() const { return utcOffset_.has_value(); }
-    void setUtcOffset(qint32 seconds) { utcOffset_ = seconds; }
+    void setUtcOffset(std::optional<qint32> seconds) { utcOffset_ = seconds; }
 
 private:
     void setExtra(const vlk::ExtraPacket& extra, std::span<const std::uint8_t> packet);
+    void setFields(const vlk::RecordHead& head, std::span<const std::uint8_t> payload);
     void setPayload(std::span<const std::uint8_t> bytes);
 
     quint8 type_ = 0;

@@ -70,11 +70,15 @@ void addCoordinate(AsciiText& text, const Value& value, const Rule& rule, const 
     text.addFixed(minutes, rule.decimals) << '\'';
 }
 
-void addUserValue(AsciiText& text, const Value& value, ElementIndex element, const TextOptions& options)
+char userTypeOf(ElementIndex element, std::string_view userTypes)
 {
     const std::size_t slot = kElements[element].field - field("User1Byte_1");
-    const char letter = slot < options.userTypes.size() ? options.userTypes[slot] : 'u';
-    addUserParameter(text, value.raw, kElements[element].width, letter);
+    return slot < userTypes.size() ? userTypes[slot] : 'u';
+}
+
+void addUserValue(AsciiText& text, const Value& value, ElementIndex element, const TextOptions& options)
+{
+    addUserParameter(text, value.raw, kElements[element].width, userTypeOf(element, options.userTypes));
 }
 
 qint32 shownOffset(const TmiPage_Zeta3& page, const TextOptions& options)
@@ -122,15 +126,22 @@ void addShape(TextParts& parts, const Value& value, const Rule& rule, const Meas
     }
 }
 
+// The rule that holds for a value; null if none does.
+const Rule* ruleFor(const Item& item, const Value& whole)
+{
+    const Rule* rule = &item.rule();
+    while (rule != nullptr && rule->when.bit != Condition::kNone &&
+           whole.testBit(rule->when.bit) != rule->when.set)
+        rule = rule->otherwise;
+    return rule;
+}
+
 void addValue(TextParts& parts, const Value& whole, const Item& item, const TmiPage_Zeta3& page,
               const TextOptions& options)
 {
-    const Rule* rule = &item.rule();
-    while (rule->when.bit != Condition::kNone && whole.testBit(rule->when.bit) != rule->when.set) {
-        rule = rule->otherwise;
-        if (rule == nullptr)
-            return;
-    }
+    const Rule* const rule = ruleFor(item, whole);
+    if (rule == nullptr)
+        return;
     const Measure& measure = measureOf(item, *rule);
     if (measure.noValue == whole.integer()) {
         parts.word = &rule->none;
@@ -145,7 +156,49 @@ void addValue(TextParts& parts, const Value& whole, const Item& item, const TmiP
         parts.unit = rule->unit ? &rule->unit : &unitWord(measure.unit);
 }
 
+double userNumber(const Value& value, ElementIndex element, std::string_view userTypes)
+{
+    const int bytes = kElements[element].width;
+    const char letter = userTypeOf(element, userTypes);
+    if (letter == 'f' && bytes == 4)
+        return std::bit_cast<float>(static_cast<quint32>(value.raw));
+    if (letter == 'f' && bytes == 8)
+        return std::bit_cast<double>(value.raw);
+    const int unused = 64 - 8 * bytes;
+    return letter == 's' ? static_cast<double>(static_cast<std::int64_t>(value.raw << unused) >> unused)
+                         : value.number();
+}
+
 } // namespace
+
+double itemNumber(std::uint64_t raw, ItemIndex index, std::string_view userTypes)
+{
+    constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+    const Item& item = kItems[index];
+    const Value whole{raw, kElements[item.element].type};
+    const Rule* const rule = ruleFor(item, whole);
+    if (rule == nullptr)
+        return kNone;
+    const Measure& measure = measureOf(item, *rule);
+    if (measure.noValue == whole.integer() || (measure.belowZeroIsNone && whole.number() < 0))
+        return kNone;
+    if (rule->shape == Shape::twoState)
+        return whole.testBit(rule->bits.count == 0 ? item.bit : rule->bits.first) ? 1 : 0;
+    const Value value = rule->bits.count != 0 ? cutBits(whole, rule->bits) : whole;
+    switch (rule->shape) {
+    case Shape::fixed:
+    case Shape::general:
+        return scaled(value, *rule, measure);
+    case Shape::decimal:
+        return rule->cut ? scaled(value, *rule, measure) : value.number();
+    case Shape::coordinate:
+        return measure.of(value.number());
+    case Shape::userParameter:
+        return userNumber(value, item.element, userTypes);
+    default:
+        return value.number();
+    }
+}
 
 TextParts textParts(const TmiPage_Zeta3& page, ItemIndex index, const TextOptions& options)
 {

@@ -27,4 +27,9 @@ QString text(const TmiPage_Zeta3& page, ItemIndex item, const TextOptions& optio
 // The same in parts, for those who look the words up themselves. Not for items of Shape::special.
 TextParts textParts(const TmiPage_Zeta3& page, ItemIndex item, const TextOptions& options = {});
 
+// The number behind the text, in the unit of the text: degrees for a coordinate, seconds since 1970 for a
+// time, 1 or 0 for a state of two, the code of what has words. No number where the value is the code for
+// none. `raw`: the bytes of the element, as an unsigned number.
+double itemNumber(std::uint64_t raw, ItemIndex item, std::string_view userTypes = {});
+
 } // namespace vlk

@@ -39,7 +39,7 @@ Damage damageOf(const TelemetryContents& contents)
     const bool countDiffers = std::ranges::any_of(contents.damages, isCount);
     std::vector<FileDamage> places = contents.damages;
     std::erase_if(places, isCount);
-    const qint64 whole = std::ssize(contents.pages) - (contents.lastIsCut ? 1 : 0);
+    const qint64 whole = qint64{contents.records.size()} - (contents.lastIsCut ? 1 : 0);
     return {std::move(places), whole, countDiffers ? contents.announced.value_or(0) : whole};
 }
 
@@ -80,10 +80,9 @@ void tellDamage(NoticeBar* bar, const TelemetryContents& contents, const std::fu
     const auto place = std::ranges::find_if(contents.damages, [](const FileDamage& damage) {
         return damage.kind == FileDamage::Records || damage.kind == FileDamage::CutShort;
     });
-    const auto records = static_cast<int>(contents.pages.size());
-    const int record = place == contents.damages.end() || records == 0
-                           ? -1
-                           : std::min(static_cast<int>(place->page), records - 1);
+    const auto records = contents.records.size();
+    const int record =
+        place == contents.damages.end() || records == 0 ? -1 : std::min(place->record, records - 1);
     bar->tell(0, [bar, goTo, record, damage = damageOf(contents)] {
         Notice notice{Mark::advice, sentences(damage, kInBar).join(QLatin1Char(' ')), {}};
         if (record >= 0)

@@ -3,7 +3,7 @@
 // What a stored file does not hold as it was written, told the user: how many of its records are whole, where
 // reading stopped or went on, and why.
 
-#include "telemetry/files/telemetry_pages.h"
+#include "telemetry/files/telemetry_contents.h"
 
 #include <functional>
 

@@ -1,6 +1,7 @@
 #include "telemetry/view/period_file.h"
 
 #include "base/file_name.h"
+#include "telemetry/record/record_head.h"
 
 namespace vlk {
 
@@ -15,13 +16,11 @@ QString periodFileName(const QString& vehicle, const QDateTime& first, const QDa
 bool writePeriod(const QString& path, TelemetryForm form, const RecordBytes& records,
                  const TelemetryOrigin& origin, const EventText& eventText)
 {
-    TelemetryPages pages;
-    pages.reserve(records.size());
-    for (const QByteArray& record : records) {
-        pages.push_back(std::make_unique<TmiPage_Zeta3>(record.constData(), record.size()));
-        pages.back()->setUtcOffset(origin.timeOffset);
-    }
-    return saveTelemetryFile(path, form, pages, origin, eventText);
+    RecordStore store;
+    store.setUtcOffset(origin.timeOffset);
+    for (const QByteArray& record : records)
+        store.add(bytesAt(record.constData(), record.size()));
+    return saveTelemetryFile(path, form, store, origin, eventText);
 }
 
 } // namespace vlk

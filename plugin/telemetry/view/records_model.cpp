@@ -87,11 +87,12 @@ struct RecordsModel::SortKey
 void RecordsModel::setContents(TelemetryContents contents)
 {
     beginResetModel();
-    pages_ = std::move(contents.pages);
+    records_ = std::move(contents.records);
+    decodedPage_ = -1;
     userTypes_ = typeLetters(contents.titles).toLatin1().toStdString();
-    columns_ = columnsOf(pages_);
-    hasPackets_ = hasPackets(pages_);
-    order_.resize(pages_.size());
+    columns_ = columnsOf(records_);
+    hasPackets_ = records_.hasPackets();
+    order_.resize(records_.size());
     std::iota(order_.begin(), order_.end(), 0);
     cells_.clear();
     events_.clear();
@@ -178,15 +179,23 @@ QVariant RecordsModel::headerData(int section, Qt::Orientation orientation, int 
     return section < headings_.size() ? headings_[section] : QVariant();
 }
 
+const TmiPage_Zeta3& RecordsModel::decoded(int page) const
+{
+    if (decodedPage_ != page)
+        records_.decode(decoded_, page);
+    decodedPage_ = page;
+    return decoded_;
+}
+
 bool RecordsModel::isAbsent(int page, int column) const
 {
-    return isPacketData(column) ? !pages_[page]->isExtra()
-                                : !holds(*pages_[page], columns_[column].element());
+    return isPacketData(column) ? !decoded(page).isExtra()
+                                : !holds(decoded(page), columns_[column].element());
 }
 
 QString RecordsModel::cellText(int page, int column) const
 {
-    const TmiPage_Zeta3& record = *pages_[page];
+    const TmiPage_Zeta3& record = decoded(page);
     if (isPacketData(column)) {
         QStringList entries;
         if (record.isExtra())
@@ -217,19 +226,19 @@ QString RecordsModel::eventText(quint16 code) const
 
 std::vector<RecordsModel::SortKey> RecordsModel::sortKeys(int column) const
 {
-    std::vector<SortKey> keys(pages_.size());
+    std::vector<SortKey> keys(records_.size());
     const CsvColumn* const shown = isPacketData(column) ? nullptr : &columns_[column];
     if (shown != nullptr && sortsByValue(*shown)) {
-        for (std::size_t page = 0; page < pages_.size(); ++page) {
-            if (holds(*pages_[page], shown->element()))
-                keys[page] = {SortKey::Number, valueOf(*pages_[page], *shown)};
+        for (int page = 0; page < records_.size(); ++page) {
+            if (holds(decoded(page), shown->element()))
+                keys[page] = {SortKey::Number, valueOf(decoded(page), *shown)};
         }
         return keys;
     }
     QHash<QString, double> words;
-    std::vector<QString> texts(pages_.size());
-    for (std::size_t page = 0; page < pages_.size(); ++page) {
-        texts[page] = cellText(static_cast<int>(page), column);
+    std::vector<QString> texts(records_.size());
+    for (int page = 0; page < records_.size(); ++page) {
+        texts[page] = cellText(page, column);
         SortKey& key = keys[page];
         if (texts[page].isEmpty())
             continue;
@@ -239,7 +248,7 @@ std::vector<RecordsModel::SortKey> RecordsModel::sortKeys(int column) const
             words.insert(texts[page], 0);
     }
     words = ranksOf(words.keys());
-    for (std::size_t page = 0; page < pages_.size(); ++page) {
+    for (int page = 0; page < records_.size(); ++page) {
         if (keys[page].kind == SortKey::Word)
             keys[page].value = words.value(texts[page]);
     }

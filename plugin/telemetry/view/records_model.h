@@ -43,12 +43,15 @@ private:
     void makeHeadings();
     int alignment(int column) const;
     bool isAbsent(int page, int column) const;
+    const TmiPage_Zeta3& decoded(int page) const;
     // Of the file's page, counted from 0.
     QString cellText(int page, int column) const;
     QString eventText(quint16 code) const;
     std::vector<SortKey> sortKeys(int column) const;
 
-    vlk::TelemetryPages pages_;
+    vlk::RecordStore records_;
+    mutable TmiPage_Zeta3 decoded_;
+    mutable int decodedPage_ = -1;
     std::string userTypes_;
     std::vector<vlk::CsvColumn> columns_;
     bool hasPackets_ = false;

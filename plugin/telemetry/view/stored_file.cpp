@@ -22,7 +22,7 @@ TelemetryContents readStoredFile(const QString& path)
         return {};
     }
     TelemetryContents contents = readTelemetryFile(path).value_or(TelemetryContents());
-    if (contents.pages.empty())
+    if (contents.records.empty())
         qCWarning(lcEmpty).noquote().nospace() << path << ": no record in it";
     return contents;
 }

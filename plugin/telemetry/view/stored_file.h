@@ -2,7 +2,7 @@
 
 // How the windows for stored telemetry read a file.
 
-#include "telemetry/files/telemetry_pages.h"
+#include "telemetry/files/telemetry_contents.h"
 
 namespace vlk {
 

@@ -33,10 +33,11 @@ std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_Page> setUpPageUi(QDialog* window)
 
 // The positions span the numbers of the records, gaps included. Where numbers repeat or fall, there is a
 // position for each page at least.
-int lastPosition(const TelemetryPages& pages)
+int lastPosition(const RecordStore& records)
 {
-    const qint64 span = qint64{pages.back()->number()} - pages.front()->number();
-    const qint64 last = std::max(span, static_cast<qint64>(pages.size()) - 1);
+    const int behind = records.size() - 1;
+    const qint64 span = qint64{records.at(behind)->number()} - records.at(0)->number();
+    const qint64 last = std::max<qint64>(span, behind);
     return static_cast<int>(std::min<qint64>(last, std::numeric_limits<int>::max()));
 }
 
@@ -103,15 +104,15 @@ void VLK_Widget_Tmi_Page::open(const QString& path)
     file_->setValue(QFileInfo(path).fileName());
     file_->setToolTip(QDir::toNativeSeparators(path));
     // A file may be large: two of them need not be in memory.
-    pages_ = TelemetryPages();
+    records_.clear();
     TelemetryContents contents = readStoredFile(path);
     tellDamage(damageNotice_, contents, [this](int record) { ui_->horizontalSlider->setValue(record); });
-    pages_ = std::move(contents.pages);
+    records_ = std::move(contents.records);
     ui_->label_NoRecord->hide();
-    if (pages_.empty())
+    if (records_.empty())
         return;
     stack_.setTracker(contents.titles, 0);
-    setRange(lastPosition(pages_));
+    setRange(lastPosition(records_));
     goTo(0);
 }
 
@@ -127,31 +128,30 @@ void VLK_Widget_Tmi_Page::setRange(int last)
     ui_->spinBox_Go->setValue(0);
 }
 
-void VLK_Widget_Tmi_Page::showPage(std::size_t position)
+void VLK_Widget_Tmi_Page::showPage(int position)
 {
     currentPage_ = position;
-    stack_.showDecoded(*pages_[position]);
+    stack_.showDecoded(*records_.at(position));
 }
 
 void VLK_Widget_Tmi_Page::goTo(int position)
 {
-    if (pages_.empty())
+    if (records_.empty())
         return;
-    const auto page = static_cast<std::size_t>(position);
-    const bool isFirst = page == 0;
-    const bool isLast = page + 1 >= pages_.size();
+    const bool isFirst = position == 0;
+    const bool isLast = position + 1 >= records_.size();
     ui_->pushButton_Begin->setEnabled(!isFirst);
     ui_->pushButton_Get_Prev->setEnabled(!isFirst);
     ui_->pushButton_Get_Next->setEnabled(!isLast);
     ui_->pushButton_End->setEnabled(!isLast);
-    if (page < pages_.size())
-        showPage(page);
+    if (position < records_.size())
+        showPage(position);
     describePosition();
 }
 
 void VLK_Widget_Tmi_Page::describePosition()
 {
-    const auto pageCount = static_cast<int>(pages_.size());
+    const int pageCount = records_.size();
     ui_->label_NoRecord->setVisible(ui_->horizontalSlider->maximum() >= pageCount);
     ui_->label_NoRecord->setText(ui_->horizontalSlider->value() < pageCount ? QString() : tr("tmiw_183"));
 }
@@ -174,7 +174,7 @@ void VLK_Widget_Tmi_Page::retranslate()
     }
     damageNotice_->retranslate();
     stack_.retranslate();
-    if (pages_.empty())
+    if (records_.empty())
         return;
     showPage(currentPage_);
     describePosition();
@@ -198,7 +198,7 @@ void VLK_Widget_Tmi_Page::slot_Pressed_PushButton_Begin()
 
 void VLK_Widget_Tmi_Page::slot_Pressed_PushButton_Get_Prev()
 {
-    const auto lastPage = static_cast<int>(pages_.size()) - 1;
+    const int lastPage = records_.size() - 1;
     ui_->horizontalSlider->setValue(std::min(ui_->horizontalSlider->value() - 1, lastPage));
 }
 

@@ -3,7 +3,7 @@
 // The browser of stored telemetry: walks through the records and extra packets of a file with a slider and
 // shows each as the live view does, without a tracker. A position counts from 0.
 
-#include "telemetry/files/telemetry_pages.h"
+#include "telemetry/files/telemetry_contents.h"
 #include "telemetry/view/record_stack.h"
 
 #include <QDialog>
@@ -47,7 +47,7 @@ private Q_SLOTS:
 private:
     void connectControls();
     void setRange(int last);
-    void showPage(std::size_t position);
+    void showPage(int position);
     // The file counts more positions than it has pages where numbers are missing. Those behind the last page
     // leave on show what was, and say so.
     void goTo(int position);
@@ -58,6 +58,6 @@ private:
     vlk::EventPanel* eventPanel_;
     vlk::NoticeBar* damageNotice_;
     vlk::RecordStack stack_;
-    vlk::TelemetryPages pages_;
-    std::size_t currentPage_ = 0;
+    vlk::RecordStore records_;
+    int currentPage_ = 0;
 };

@@ -2,17 +2,13 @@
 
 // What the files of telemetry are made of and what reading them gives.
 
+#include "telemetry/record/record_store.h"
 #include "telemetry/record/telemetry_titles.h"
-#include "telemetry/record/tmi_page_zeta3.h"
 
-#include <memory>
 #include <optional>
 #include <vector>
 
 namespace vlk {
-
-// Records and extra packets, in the order in which they came.
-using TelemetryPages = std::vector<std::unique_ptr<TmiPage_Zeta3>>;
 
 // What a file tells of the tracker that its records come from.
 struct TelemetryOrigin
@@ -37,9 +33,9 @@ struct FileDamage
     };
 
     Kind kind;
-    qint64 offset;        // where in the file
-    qint64 bytes;         // how many
-    std::size_t page = 0; // the pages before it
+    qint64 offset;  // where in the file
+    qint64 bytes;   // how many
+    int record = 0; // the records before it
 };
 
 // What a file gives. The titles come from the XML form only; the damages are in the order in which they were
@@ -47,10 +43,10 @@ struct FileDamage
 struct TelemetryContents
 {
     TelemetryTitles titles;
-    TelemetryPages pages;
+    RecordStore records;
     std::vector<FileDamage> damages;
     std::optional<quint32> announced; // how many records the file says that it holds
-    bool lastIsCut = false;           // of the last page there is only the beginning
+    bool lastIsCut = false;           // of the last record there is only the beginning
 };
 
 // The time of a record, or of an extra packet's head.

@@ -1,0 +1,46 @@
+#pragma once
+
+// Columns of a store of records, each decoded once into plain numbers: what filters, sorting, curves, the
+// track and sums work on. A column has one number a record, in the order of the store, in the unit that the
+// texts of the item have (item_text.h); NaN where the record does not hold the item or holds its code for no
+// value. The store must not change as long as its columns are used.
+
+#include "telemetry/record/record_store.h"
+#include "telemetry/text/item.h"
+
+#include <map>
+#include <string>
+
+namespace vlk {
+
+using NumberColumn = std::vector<double>;
+
+class RecordColumns
+{
+public:
+    // `userTypes`: the letters of the user parameters, as of typeLetters().
+    explicit RecordColumns(const RecordStore& store, std::string userTypes = {})
+        : store_(store), userTypes_(std::move(userTypes))
+    {
+    }
+
+    const RecordStore& store() const { return store_; }
+    const std::string& userTypes() const { return userTypes_; }
+
+    const NumberColumn& numbers(ItemIndex item);
+    // Of the head of every record and packet, also where its mask does not tell it: seconds since 1970 in
+    // UTC, the code of the event, the number of the record.
+    const std::vector<quint32>& times();
+    const std::vector<quint32>& codes();
+    const std::vector<quint32>& recordNumbers();
+
+private:
+    const std::vector<quint32>& headColumn(ElementIndex element);
+
+    const RecordStore& store_;
+    std::string userTypes_;
+    std::map<ItemIndex, NumberColumn> numbers_;
+    std::map<ElementIndex, std::vector<quint32>> heads_;
+};
+
+} // namespace vlk
