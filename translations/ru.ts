@@ -2363,7 +2363,7 @@
     <message id="wb_saved"><translation>Сохранено: %1</translation></message>
     <message id="wb_saved_changes"><translation>Сохранено: %1. Отличий от прочитанного: %2</translation></message>
     <message id="wb_saved_part"><translation>Сохранено не целиком: %1. Записей в нём %2 из %3, до %4.</translation></message>
-    <message id="wb_saved_part_unplugged"><translation>Трекер во время сохранения отключили.</translation></message>
+    <message id="wb_saved_part_unplugged"><translation>Трекер во время сохранения отключили, поэтому окно его телеметрии закрыто.</translation></message>
     <message id="wb_search_bad"><translation>Сообщение %1 от трекера неверно, поэтому неизвестно, как идёт поиск. Отмените его, проверьте кабель и начните поиск снова.</translation></message>
     <message id="wb_settings_damaged"><translation>Настройки программы были повреждены и отложены; действуют начальные значения.</translation></message>
     <message id="wb_silence_again"><translation>Ответа от трекера нет с %1. Запрос повторяется каждые %2&#160;с; проверьте кабель.</translation></message>
@@ -2425,7 +2425,7 @@
     <message id="wb_typed"><translation>Проверьте эти поля:</translation></message>
     <message id="wb_unplugged"><translation>Трекер отключился во время ответа. Подключите его и повторите.</translation></message>
     <message id="wb_unplugged_open"><translation>Трекер отключился во время ответа. Окно осталось открытым, но записать его в трекер можно будет, только когда трекер снова подключат.</translation></message>
-    <message id="wb_unplugged_telemetry"><translation>Трекер отключился во время ответа, поэтому окно его телеметрии закрыто. Если сохранялся период, в файле только то, что успело прийти. Подключите трекер и откройте телеметрию снова.</translation></message>
+    <message id="wb_unplugged_telemetry"><translation>Трекер отключился во время ответа, поэтому окно его телеметрии закрыто. Подключите трекер и откройте телеметрию снова.</translation></message>
     <message id="wb_why_answer"><translation>Ответ трекера неверен.</translation></message>
     <message id="wb_why_detached"><translation>Трекер не подключён.</translation></message>
     <message id="wb_why_disk"><translation>Полученное не удалось записать во временный файл: %1.</translation></message>

@@ -236,6 +236,7 @@ private Q_SLOTS:
         const QString told = bench.status();
         bench.tracker().setFaults({});
         QVERIFY(told.startsWith(QStringLiteral("Saved in part: ") + bench.file()));
+        QCOMPARE(bench.boxes, QStringList(told));
         QCOMPARE(told.contains(QLatin1String("was unplugged meanwhile")), by == QLatin1String("unplugged"));
         QVERIFY(!bench.everything().contains(QLatin1String("Saved: ")) && QFile::exists(bench.file()));
         bench.tracker().attach();
@@ -315,19 +316,32 @@ private Q_SLOTS:
         Bench::press(Bench::telemetry(), "pushButton_FuelSensor");
         QWidget* calibration = Bench::pluginWindow("VLK_Form_TMI_Fuel_Sensors");
         QVERIFY(calibration);
+        const auto noticeOn = [](const QWidget* window) -> QWidget* {
+            auto* bar =
+                window->findChild<QFrame*>(QStringLiteral("frame_WindowNotice"), Qt::FindDirectChildrenOnly);
+            return bar && bar->isVisible() ? bar : nullptr;
+        };
         for (QWidget* window : {calibration, Bench::telemetry(), calibration}) {
             window->activateWindow();
-            const auto bar = [window] {
-                return window->findChild<QFrame*>(QStringLiteral("frame_WindowNotice"),
-                                                  Qt::FindDirectChildrenOnly);
-            };
-            QTRY_VERIFY_WITH_TIMEOUT(bar() && bar()->isVisible(), 10'000);
+            QTRY_VERIFY_WITH_TIMEOUT(noticeOn(window), 10'000);
         }
         QVERIFY2(bench.status().contains(QLatin1String("2247 from the tracker: damaged")),
                  qPrintable(bench.status()));
         QVERIFY(calibration->findChild<QLineEdit*>(QStringLiteral("lineEdit_Param"))->text().isEmpty());
         bench.tracker().setFaults({});
         QTRY_COMPARE_WITH_TIMEOUT(bench.status(), QStringLiteral("Ready"), 10'000);
+        // What became of a command stands where it was given.
+        bench.take(Output);
+        QTRY_VERIFY(bench.status().contains(QLatin1String("Output 1")));
+        QTRY_VERIFY(noticeOn(Bench::telemetry()) && !noticeOn(calibration));
+        // And beside what is typed.
+        auto* title = calibration->findChild<QLineEdit*>(QStringLiteral("lineEdit_Title"));
+        title->setFocus();
+        Bench::press(Bench::telemetry(), "pushButton_Get_Current");
+        bench.tracker().setFaults({.silence = true});
+        QTRY_VERIFY_WITH_TIMEOUT(noticeOn(calibration), 10'000);
+        const QRect field(title->mapToGlobal(QPoint()), title->size());
+        QVERIFY(!noticeOn(calibration)->geometry().intersects(field));
     }
 
     // One that was not read from the tracker replaces what nobody has seen.
