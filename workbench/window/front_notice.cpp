@@ -110,6 +110,12 @@ void FrontNotice::place()
         if (entry.on)
             entry.on->say(entry.topic, entry.told);
     }
+    // The next thing to tell often follows at once.
+    QMetaObject::invokeMethod(this, &FrontNotice::dropUnused, Qt::QueuedConnection);
+}
+
+void FrontNotice::dropUnused()
+{
     std::erase_if(notices_, [this](const QPointer<WindowNotice>& notice) {
         const bool isInUse =
             std::ranges::any_of(told_, [&notice](const Entry& entry) { return entry.on == notice; });

@@ -53,6 +53,7 @@ private:
     // Each on its window.
     void place();
     WindowNotice* noticeOn(QWidget* window);
+    void dropUnused();
     void noteTelemetry();
     void goByItself();
 
