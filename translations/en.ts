@@ -1640,6 +1640,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_277"><translation>it is a folder</translation></message>
     <message id="tmiw_278"><translation>the name is too long</translation></message>
     <message id="tmiw_279"><translation>Tick the box of the row first.</translation></message>
+    <message id="tmiw_280"><translation>Only sensors that the tracker finds by name have one.</translation></message>
     <message id="tmizta_001"><translation>Test mode</translation></message>
     <message id="tmizta_002"><translation>Backup</translation></message>
     <message id="tmizta_003"><translation>Main</translation></message>

@@ -1640,6 +1640,7 @@
     <message id="tmiw_277"><translation>это папка</translation></message>
     <message id="tmiw_278"><translation>слишком длинное имя</translation></message>
     <message id="tmiw_279"><translation>Сначала отметьте флажок строки.</translation></message>
+    <message id="tmiw_280"><translation>Имя есть только у датчиков, которые трекер находит по имени.</translation></message>
     <message id="tmizta_001"><translation>Режим тестирования</translation></message>
     <message id="tmizta_002"><translation>Резервный</translation></message>
     <message id="tmizta_003"><translation>Основной</translation></message>

@@ -145,6 +145,54 @@ private Q_SLOTS:
         }
     }
 
+    // From a field to the caption of the next one.
+    void gapOfPairs()
+    {
+        host_.open({});
+        setSize({1600, 900});
+        for (const char* pair :
+             {"Transfer_lineEdit_GSM_Login_1 label_GSM_Psw_1", "GPRSSrv_lineEdit_IP_DNS_Main label_Port_Main",
+              "comboBox_RS485_Boudrate label_RS485_Parity", "comboBox_RS485_Parity label_RS485_StopBit",
+              "Settings_Psw_lineEdit_CSD label_Psw_SMS", "lineEdit_Name_In1 label_Title_NormState_In1",
+              "comboBox_Type_Sens_1 label_MacAddr_Sens_1"}) {
+            const QStringList names = QString(pair).split(' ');
+            auto* field = tabs_->findChild<QWidget*>(names[0]);
+            for (int tab = 0; !field->isVisible(); ++tab)
+                tabs_->setCurrentIndex(tab);
+            settle();
+            const auto* caption = tabs_->findChild<QWidget*>(names[1]);
+            const int end = field->mapTo(window_, QPoint(field->width(), 0)).x();
+            QCOMPARE(caption->mapTo(window_, QPoint()).x() - end, 16);
+        }
+    }
+
+    // Where another setting, or that no tracker is there, closes a field. Some fields of a record are always
+    // in.
+    void closedFieldsSayWhy()
+    {
+        host_.open({});
+        QStringList silent;
+        for (int tab = 0; tab < tabs_->count(); ++tab) {
+            tabs_->setCurrentIndex(tab);
+            settle();
+            for (QWidget* widget : tabs_->currentWidget()->findChildren<QWidget*>()) {
+                const bool isField =
+                    (widget->focusPolicy() & Qt::TabFocus) && !widget->objectName().startsWith("qt_");
+                if (tab == 1 || !isField || !widget->isVisible() || widget->isEnabled())
+                    continue;
+                const QString nothing = QStringLiteral("nothing");
+                QToolTip::showText({1, 1}, nothing);
+                QHelpEvent ask(QEvent::ToolTip, {1, 1}, widget->mapToGlobal({1, 1}));
+                QCoreApplication::sendEvent(widget, &ask);
+                if (QToolTip::text() == nothing)
+                    silent << widget->objectName();
+            }
+        }
+        QToolTip::hideText();
+        QTRY_VERIFY(!QToolTip::isVisible());
+        QCOMPARE(silent, QStringList());
+    }
+
     void disabledTextFollowsTheColours()
     {
         host_.open({});
