@@ -166,6 +166,39 @@ private Q_SLOTS:
         }
     }
 
+    // Of the sliders whose handles stand out of them at the ends of the scale.
+    void handlesAreWhole()
+    {
+        host_.open({});
+        setSize({960, 500});
+        auto* use = tabs_->findChild<QComboBox*>("comboBox_NormState_In3");
+        use->setCurrentIndex(use->findData("NS+"));
+        for (const char* name : {"Power", "Fuel", "AIN"}) {
+            const auto onShow = [&](const QString& part) {
+                for (int tab = 0; tab < tabs_->count(); ++tab) {
+                    tabs_->setCurrentIndex(tab);
+                    settle();
+                    for (auto* found : tabs_->findChildren<QWidget*>(part.arg(name)))
+                        if (found->isVisible())
+                            return found;
+                }
+                qFatal("nowhere");
+            };
+            auto* left = static_cast<QDoubleSpinBox*>(onShow("doubleSpinBox_%1_Left"));
+            auto* right = static_cast<QDoubleSpinBox*>(onShow("doubleSpinBox_%1_Right"));
+            left->setValue(left->minimum());
+            right->setValue(right->maximum());
+            const QWidget* slider = onShow("slider_%1");
+            settle();
+            QWidget* page = static_cast<QScrollArea*>(tabs_->currentWidget())->widget();
+            const QImage image = page->grab().toImage();
+            for (const int x : {-4, slider->width() + 3}) {
+                const QPoint end = slider->mapTo(page, QPoint(x, 8));
+                QVERIFY2(image.valid(end) && image.pixelColor(end).lightness() < 100, name);
+            }
+        }
+    }
+
     // Where another setting, or that no tracker is there, closes a field. Some fields of a record are always
     // in.
     void closedFieldsSayWhy()
