@@ -6,7 +6,7 @@
 #include "xml/xml_document.h"
 
 #include <QDir>
-#include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <tuple>
@@ -46,6 +46,7 @@ QString newKeptPath(const QString& folder, const QString& sensor, const QString&
 bool keepTable(const QString& path, const QString& sensor, const QString& vehicle, const QString& name,
                const FuelRows& rows, const QDateTime& time)
 {
+    QDir().mkpath(QFileInfo(path).path()); // the user may have removed it
     XmlDocument document(QString{}, QLatin1String(fuelRoot));
     document.root()->setString(kTime, time.toString(Qt::ISODate));
     document.root()->setChildValue(kVehicleName, vehicle);
