@@ -2349,13 +2349,16 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_review_advice"><translation>Advice: %1</translation></message>
     <message id="wb_review_advice_list"><translation>Advice</translation></message>
     <message id="wb_review_after"><translation>Will be</translation></message>
+    <message id="wb_review_alongside"><translation>The chosen settings need these, which come along: %1.</translation></message>
     <message id="wb_review_always"><translation>Show before every write</translation></message>
     <message id="wb_review_always_tip"><translation>What removes settings, holds an error or was not read from this tracker is always shown.</translation></message>
     <message id="wb_review_backup"><translation>Backup No.&#160;%1 of this tracker.</translation></message>
     <message id="wb_review_backup_other"><translation>Backup No.&#160;%1 of another tracker: %2.</translation></message>
     <message id="wb_review_before"><translation>In the tracker</translation></message>
+    <message id="wb_review_chosen"><translation>Chosen settings of backup No.&#160;%1.</translation></message>
     <message id="wb_review_counts"><translation>%1 changed, %2 added</translation></message>
     <message id="wb_review_file"><translation>This configuration comes from the file %1 and was not read from this tracker.</translation></message>
+    <message id="wb_review_lost"><translation>These keys of the file are not known and are not written: %1.</translation></message>
     <message id="wb_review_new"><translation>This configuration is new and was not read from this tracker.</translation></message>
     <message id="wb_review_none"><translation>There are no differences.</translation></message>
     <message id="wb_review_other"><translation>This configuration was read from another tracker: %1.</translation></message>

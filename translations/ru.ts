@@ -2349,13 +2349,16 @@
     <message id="wb_review_advice"><translation>Замечаний: %1</translation></message>
     <message id="wb_review_advice_list"><translation>Замечания</translation></message>
     <message id="wb_review_after"><translation>Станет</translation></message>
+    <message id="wb_review_alongside"><translation>Отмеченным параметрам нужны и эти, они вернутся вместе с ними: %1.</translation></message>
     <message id="wb_review_always"><translation>Показывать перед каждой записью</translation></message>
     <message id="wb_review_always_tip"><translation>То, что удаляет параметры, содержит ошибку или прочитано не из этого трекера, показывается всегда.</translation></message>
     <message id="wb_review_backup"><translation>Резервная копия №&#160;%1 этого трекера.</translation></message>
     <message id="wb_review_backup_other"><translation>Резервная копия №&#160;%1 другого трекера: %2.</translation></message>
     <message id="wb_review_before"><translation>В трекере</translation></message>
+    <message id="wb_review_chosen"><translation>Отмеченные параметры резервной копии №&#160;%1.</translation></message>
     <message id="wb_review_counts"><translation>Изменится: %1, добавится: %2</translation></message>
     <message id="wb_review_file"><translation>Эта конфигурация из файла %1, она не прочитана из этого трекера.</translation></message>
+    <message id="wb_review_lost"><translation>Эти ключи файла неизвестны и записаны не будут: %1.</translation></message>
     <message id="wb_review_new"><translation>Эта конфигурация новая, она не прочитана из этого трекера.</translation></message>
     <message id="wb_review_none"><translation>Отличий нет.</translation></message>
     <message id="wb_review_other"><translation>Эта конфигурация прочитана из другого трекера: %1.</translation></message>
