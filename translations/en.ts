@@ -1139,13 +1139,12 @@
     <message id="cli_010"><translation>is a calibration table, not a configuration</translation></message>
     <message id="cli_011"><translation>is a tachograph file, not a configuration</translation></message>
     <message id="cli_012"><translation>is not a configuration</translation></message>
-    <message id="cli_013"><translation>is too large a telemetry file</translation></message>
     <message id="cli_014"><translation>a command is needed: %1</translation></message>
     <message id="cli_015"><translation>there is no command %1. Commands: %2</translation></message>
     <message id="cli_016"><translation>not expected: %1</translation></message>
     <message id="cli_017"><translation>%1 is missing</translation></message>
     <message id="cli_018"><translation>%1 needs a value</translation></message>
-    <message id="cli_019"><translation>--language takes ru or en</translation></message>
+    <message id="cli_019"><translation>%1 takes one of these: %2</translation></message>
     <message id="cli_020"><translation>%1 is not PATH=VALUE</translation></message>
     <message id="cli_021"><translation>settings and files are needed: PATH=VALUE… FILE…</translation></message>
     <message id="cli_022"><translation>two files are needed, or --defaults and one file</translation></message>
@@ -1218,6 +1217,23 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_134"><translation>Commands</translation></message>
     <message id="cli_135"><translation>Arguments</translation></message>
     <message id="cli_136"><translation>(needed)</translation></message>
+    <message id="cli_140"><translation>Name</translation></message>
+    <message id="cli_141"><translation>Synopsis</translation></message>
+    <message id="cli_142"><translation>Notes</translation></message>
+    <message id="cli_143"><translation>is a folder, and one file is needed</translation></message>
+    <message id="cli_144"><translation>holds no *.xml and no *.tmi</translation></message>
+    <message id="cli_150"><translation>no such file or folder</translation></message>
+    <message id="cli_151"><translation>permission denied</translation></message>
+    <message id="cli_152"><translation>no space left on the disk</translation></message>
+    <message id="cli_153"><translation>the disk is read-only</translation></message>
+    <message id="cli_154"><translation>is a folder</translation></message>
+    <message id="cli_155"><translation>not a folder</translation></message>
+    <message id="cli_156"><translation>the links lead round in a circle</translation></message>
+    <message id="cli_157"><translation>the disk does not work</translation></message>
+    <message id="cli_158"><translation>the name is too long</translation></message>
+    <message id="cli_159"><translation>too many open files</translation></message>
+    <message id="cli_160"><translation>the file would be too large</translation></message>
+    <message id="cli_161"><translation>the program is running</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>
     <message id="rev_003"><translation>Unknown key, a write drops it</translation></message>
@@ -2335,13 +2351,16 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_review_advice"><translation>Advice: %1</translation></message>
     <message id="wb_review_advice_list"><translation>Advice</translation></message>
     <message id="wb_review_after"><translation>Will be</translation></message>
+    <message id="wb_review_alongside"><translation>The chosen settings need these, which come along: %1.</translation></message>
     <message id="wb_review_always"><translation>Show before every write</translation></message>
     <message id="wb_review_always_tip"><translation>What removes settings, holds an error or was not read from this tracker is always shown.</translation></message>
     <message id="wb_review_backup"><translation>Backup No.&#160;%1 of this tracker.</translation></message>
     <message id="wb_review_backup_other"><translation>Backup No.&#160;%1 of another tracker: %2.</translation></message>
     <message id="wb_review_before"><translation>In the tracker</translation></message>
+    <message id="wb_review_chosen"><translation>Chosen settings of backup No.&#160;%1.</translation></message>
     <message id="wb_review_counts"><translation>%1 changed, %2 added</translation></message>
     <message id="wb_review_file"><translation>This configuration comes from the file %1 and was not read from this tracker.</translation></message>
+    <message id="wb_review_lost"><translation>These keys of the file are not known and are not written: %1.</translation></message>
     <message id="wb_review_new"><translation>This configuration is new and was not read from this tracker.</translation></message>
     <message id="wb_review_none"><translation>There are no differences.</translation></message>
     <message id="wb_review_other"><translation>This configuration was read from another tracker: %1.</translation></message>

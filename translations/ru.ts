@@ -1139,13 +1139,12 @@
     <message id="cli_010"><translation>это тарировочная таблица, а не конфигурация</translation></message>
     <message id="cli_011"><translation>это файл тахографа, а не конфигурация</translation></message>
     <message id="cli_012"><translation>это не конфигурация</translation></message>
-    <message id="cli_013"><translation>слишком большой файл телеметрии</translation></message>
     <message id="cli_014"><translation>нужна команда: %1</translation></message>
     <message id="cli_015"><translation>команды %1 нет. Команды: %2</translation></message>
     <message id="cli_016"><translation>лишнее: %1</translation></message>
     <message id="cli_017"><translation>не хватает %1</translation></message>
     <message id="cli_018"><translation>для %1 нужно значение</translation></message>
-    <message id="cli_019"><translation>--language принимает ru или en</translation></message>
+    <message id="cli_019"><translation>%1 принимает одно из: %2</translation></message>
     <message id="cli_020"><translation>%1 не имеет вида ПУТЬ=ЗНАЧЕНИЕ</translation></message>
     <message id="cli_021"><translation>нужны параметры и файлы: ПУТЬ=ЗНАЧЕНИЕ… ФАЙЛ…</translation></message>
     <message id="cli_022"><translation>нужны два файла или --defaults и один файл</translation></message>
@@ -1218,6 +1217,23 @@
     <message id="cli_134"><translation>Команды</translation></message>
     <message id="cli_135"><translation>Аргументы</translation></message>
     <message id="cli_136"><translation>(нужен)</translation></message>
+    <message id="cli_140"><translation>Имя</translation></message>
+    <message id="cli_141"><translation>Запуск</translation></message>
+    <message id="cli_142"><translation>Примечания</translation></message>
+    <message id="cli_143"><translation>это папка, а нужен один файл</translation></message>
+    <message id="cli_144"><translation>нет ни *.xml, ни *.tmi</translation></message>
+    <message id="cli_150"><translation>нет такого файла или папки</translation></message>
+    <message id="cli_151"><translation>нет прав доступа</translation></message>
+    <message id="cli_152"><translation>на диске нет места</translation></message>
+    <message id="cli_153"><translation>диск только для чтения</translation></message>
+    <message id="cli_154"><translation>это папка</translation></message>
+    <message id="cli_155"><translation>это не папка</translation></message>
+    <message id="cli_156"><translation>ссылки ведут по кругу</translation></message>
+    <message id="cli_157"><translation>диск не работает</translation></message>
+    <message id="cli_158"><translation>слишком длинное имя</translation></message>
+    <message id="cli_159"><translation>открыто слишком много файлов</translation></message>
+    <message id="cli_160"><translation>файл стал бы слишком большим</translation></message>
+    <message id="cli_161"><translation>программа выполняется</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>
@@ -2335,13 +2351,16 @@
     <message id="wb_review_advice"><translation>Замечаний: %1</translation></message>
     <message id="wb_review_advice_list"><translation>Замечания</translation></message>
     <message id="wb_review_after"><translation>Станет</translation></message>
+    <message id="wb_review_alongside"><translation>Отмеченным параметрам нужны и эти, они вернутся вместе с ними: %1.</translation></message>
     <message id="wb_review_always"><translation>Показывать перед каждой записью</translation></message>
     <message id="wb_review_always_tip"><translation>То, что удаляет параметры, содержит ошибку или прочитано не из этого трекера, показывается всегда.</translation></message>
     <message id="wb_review_backup"><translation>Резервная копия №&#160;%1 этого трекера.</translation></message>
     <message id="wb_review_backup_other"><translation>Резервная копия №&#160;%1 другого трекера: %2.</translation></message>
     <message id="wb_review_before"><translation>В трекере</translation></message>
+    <message id="wb_review_chosen"><translation>Отмеченные параметры резервной копии №&#160;%1.</translation></message>
     <message id="wb_review_counts"><translation>Изменится: %1, добавится: %2</translation></message>
     <message id="wb_review_file"><translation>Эта конфигурация из файла %1, она не прочитана из этого трекера.</translation></message>
+    <message id="wb_review_lost"><translation>Эти ключи файла неизвестны и записаны не будут: %1.</translation></message>
     <message id="wb_review_new"><translation>Эта конфигурация новая, она не прочитана из этого трекера.</translation></message>
     <message id="wb_review_none"><translation>Отличий нет.</translation></message>
     <message id="wb_review_other"><translation>Эта конфигурация прочитана из другого трекера: %1.</translation></message>

@@ -18,7 +18,7 @@ struct TelemetrySummary
     std::vector<vlk::FileDamage> damages;
 };
 
-// From the device's beginning. None for a binary file that is too large to be held.
-std::optional<TelemetrySummary> summaryOf(QIODevice& device);
+// From the device's beginning.
+TelemetrySummary summaryOf(QIODevice& device);
 
 } // namespace workbench::command
