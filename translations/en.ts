@@ -1340,6 +1340,13 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_165"><translation>Copy key</translation></message>
     <message id="rev_166"><translation>brought back</translation></message>
     <message id="rev_167"><translation>by default</translation></message>
+    <message id="rev_230"><translation>alarm, alarm zone, temperature threshold</translation></message>
+    <message id="rev_231"><translation>alarm, power failure</translation></message>
+    <message id="rev_232"><translation>ignition, alarm button, door</translation></message>
+    <message id="rev_233"><translation>engine blocking, relay, siren</translation></message>
+    <message id="rev_234"><translation>internet, SIM card</translation></message>
+    <message id="rev_235"><translation>host, domain</translation></message>
+    <message id="rev_236"><translation>overspeed</translation></message>
     <message id="tmiex_001"><translation>Navigation</translation></message>
     <message id="tmiex_002"><translation>Receiver</translation></message>
     <message id="tmiex_003"><translation>Satellites</translation></message>

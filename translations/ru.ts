@@ -1340,6 +1340,13 @@
     <message id="rev_165"><translation>Копировать ключ</translation></message>
     <message id="rev_166"><translation>возврат</translation></message>
     <message id="rev_167"><translation>по умолчанию</translation></message>
+    <message id="rev_230"><translation>тревога, тревожная зона, порог температуры</translation></message>
+    <message id="rev_231"><translation>тревога, пропадание питания</translation></message>
+    <message id="rev_232"><translation>зажигание, тревожная кнопка, дверь</translation></message>
+    <message id="rev_233"><translation>блокировка двигателя, реле, сирена</translation></message>
+    <message id="rev_234"><translation>интернет, SIM-карта</translation></message>
+    <message id="rev_235"><translation>хост, домен</translation></message>
+    <message id="rev_236"><translation>превышение скорости</translation></message>
     <message id="tmiex_001"><translation>Навигация</translation></message>
     <message id="tmiex_002"><translation>Приёмник</translation></message>
     <message id="tmiex_003"><translation>Спутники</translation></message>
