@@ -1347,6 +1347,12 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_234"><translation>internet, SIM card</translation></message>
     <message id="rev_235"><translation>host, domain</translation></message>
     <message id="rev_236"><translation>overspeed</translation></message>
+    <message id="rev_240"><translation>Mode</translation></message>
+    <message id="rev_241"><translation>Pull-up resistor</translation></message>
+    <message id="rev_242"><translation>Use of channel 1</translation></message>
+    <message id="rev_243"><translation>MAC address for channel 1</translation></message>
+    <message id="rev_244"><translation>Password for channel 1</translation></message>
+    <message id="rev_247"><translation>Second device on the line</translation></message>
     <message id="tmiex_001"><translation>Navigation</translation></message>
     <message id="tmiex_002"><translation>Receiver</translation></message>
     <message id="tmiex_003"><translation>Satellites</translation></message>

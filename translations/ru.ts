@@ -1347,6 +1347,12 @@
     <message id="rev_234"><translation>интернет, SIM-карта</translation></message>
     <message id="rev_235"><translation>хост, домен</translation></message>
     <message id="rev_236"><translation>превышение скорости</translation></message>
+    <message id="rev_240"><translation>Режим</translation></message>
+    <message id="rev_241"><translation>Подтягивающий резистор</translation></message>
+    <message id="rev_242"><translation>Назначение канала 1</translation></message>
+    <message id="rev_243"><translation>MAC-адрес для канала 1</translation></message>
+    <message id="rev_244"><translation>Пароль для канала 1</translation></message>
+    <message id="rev_247"><translation>Второе устройство на линии</translation></message>
     <message id="tmiex_001"><translation>Навигация</translation></message>
     <message id="tmiex_002"><translation>Приёмник</translation></message>
     <message id="tmiex_003"><translation>Спутники</translation></message>
