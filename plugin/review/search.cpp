@@ -90,7 +90,8 @@ bool isSwitch(const Setting& setting)
 
 QString otherNames(QString path)
 {
-    path.remove(QRegularExpression(QStringLiteral("\\d")));
+    static const QRegularExpression digits(QStringLiteral("\\d"));
+    path.remove(digits);
     const auto found =
         std::find_if(std::begin(kSearchWords), std::end(kSearchWords),
                      [&](const SearchWords& words) { return path == QLatin1String(words.path); });
@@ -194,7 +195,8 @@ int Search::score(const Entry& entry, const Query& query) const
         for (int language = 0; language < languages(); ++language) {
             const Words& words = entry.words[language];
             take(words[caption], isSwitch ? switchCaption : weights[caption]);
-            take(words[caption], weights[caption], whole);
+            if (isSwitch)
+                take(words[caption], weights[caption], whole);
             for (int field = caption + 1; field < fieldCount; ++field)
                 take(words[field], isSwitch && field == group ? switchCaption : weights[field]);
         }
