@@ -7,7 +7,6 @@
 #include "settings/value_text.h"
 #include "typing/field_mark.h"
 #include "typing/line_icon.h"
-#include "windows/input_guard.h"
 #include "windows/named_widget.h"
 
 #include <QCheckBox>
@@ -85,7 +84,6 @@ ReviewBar::ReviewBar(ConfigurationReview& review, SettingPlaces& places, QWidget
         button->setIconSize({kMarkSide, kMarkSide});
         button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     }
-    keepOpenOnEscape(this);
     find_->setClearButtonEnabled(true);
     find_->installEventFilter(this);
     list_->setFocusPolicy(Qt::NoFocus);

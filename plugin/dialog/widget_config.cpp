@@ -24,6 +24,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QLayout>
 #include <QPushButton>
 #include <QTimer>
@@ -199,8 +200,17 @@ std::vector<QWidgetList> VLK_Widget_Config::areas() const
     return {{bar_}, content, panels, buttons};
 }
 
+void VLK_Widget_Config::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && (panel_->isVisible() || advice_->isVisible()))
+        showPanel(vlk::ReviewBar::None);
+    else
+        QDialog::keyPressEvent(event);
+}
+
 void VLK_Widget_Config::showPanel(vlk::ReviewBar::Panel panel)
 {
+    const bool wasInPanel = panel_->isAncestorOf(focusWidget()) || advice_->isAncestorOf(focusWidget());
     // The panel takes room from the page: what is being edited stays in sight.
     if (QWidget* edited = focusWidget(); edited && ui_->stackedWidget->isAncestorOf(edited))
         QTimer::singleShot(0, edited, [edited] { vlk::SettingPlaces::keepInSight(edited); });
@@ -213,7 +223,7 @@ void VLK_Widget_Config::showPanel(vlk::ReviewBar::Panel panel)
         panel_->open();
     else if (panel == vlk::ReviewBar::Advice)
         advice_->open();
-    else
+    else if (wasInPanel)
         ui_->stackedWidget->currentWidget()->setFocus(Qt::OtherFocusReason);
 }
 
