@@ -19,6 +19,7 @@ namespace vlk {
 namespace {
 
 Q_LOGGING_CATEGORY(lcUnsaved, "vlk.save.unsaved")
+Q_LOGGING_CATEGORY(lcKept, "vlk.unsaved.kept")
 
 // Behind an edit. With the time that a slow disk takes it stays below a second.
 constexpr int kDelayMs = 500;
@@ -109,9 +110,21 @@ void EditKeeper::leave()
 
 bool EditKeeper::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Hide && !event->spontaneous())
+    if (event->type() == QEvent::Hide && !event->spontaneous()) {
         leave();
+        tellKept();
+    }
     return QObject::eventFilter(watched, event);
+}
+
+// The window is gone: whoever shows what is logged says it.
+void EditKeeper::tellKept() const
+{
+    if (kept_.isEmpty())
+        return;
+    const auto edited = review::editedKeys({subject_, {}, beginnings_[review_.isQuick()], kept_});
+    if (!edited.empty())
+        qCWarning(lcKept) << edited.size() << "changes are kept";
 }
 
 void EditKeeper::switched()

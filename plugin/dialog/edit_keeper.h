@@ -59,6 +59,7 @@ private:
 
     void beginWith(const QByteArray& document);
     void setFailure(const QString& reason);
+    void tellKept() const;
 
     ConfigurationReview& review_;
     QTimer due_;
