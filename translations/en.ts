@@ -1353,6 +1353,14 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_243"><translation>MAC address for channel 1</translation></message>
     <message id="rev_244"><translation>Password for channel 1</translation></message>
     <message id="rev_247"><translation>Second device on the line</translation></message>
+    <message id="rev_251"><translation>Is set as a whole: %1 of %2 on</translation></message>
+    <message id="rev_252"><translation>"%1" is in it as a whole, %2 of %3 on: where the preset is applied, all others go off.</translation></message>
+    <message id="rev_253"><translation>Change to full setup to mend it.</translation></message>
+    <message id="rev_254"><translation>Only you can know the right value. "Go to" leads there.</translation></message>
+    <message id="rev_255"><translation>from what was written</translation></message>
+    <message id="rev_256"><translation>As written</translation></message>
+    <message id="rev_257"><translation>Differences from what was written (%1)</translation></message>
+    <message id="rev_260"><translation>Unsaved changes: %1. They stay on this computer and are offered when this configuration is opened again.</translation></message>
     <message id="tmiex_001"><translation>Navigation</translation></message>
     <message id="tmiex_002"><translation>Receiver</translation></message>
     <message id="tmiex_003"><translation>Satellites</translation></message>

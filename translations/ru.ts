@@ -1353,6 +1353,14 @@
     <message id="rev_243"><translation>MAC-адрес для канала 1</translation></message>
     <message id="rev_244"><translation>Пароль для канала 1</translation></message>
     <message id="rev_247"><translation>Второе устройство на линии</translation></message>
+    <message id="rev_251"><translation>Задаётся целиком: включено %1 из %2</translation></message>
+    <message id="rev_252"><translation>«%1» входит в него целиком, включено %2 из %3: там, где шаблон применят, остальное выключится.</translation></message>
+    <message id="rev_253"><translation>Исправить это можно в полной настройке.</translation></message>
+    <message id="rev_254"><translation>Верное значение знаете только вы. «Перейти» ведёт к нему.</translation></message>
+    <message id="rev_255"><translation>от записанного</translation></message>
+    <message id="rev_256"><translation>Записано</translation></message>
+    <message id="rev_257"><translation>Отличия от записанного (%1)</translation></message>
+    <message id="rev_260"><translation>Несохранённые изменения: %1. Они остались на этом компьютере и будут предложены, когда эту конфигурацию откроют снова.</translation></message>
     <message id="tmiex_001"><translation>Навигация</translation></message>
     <message id="tmiex_002"><translation>Приёмник</translation></message>
     <message id="tmiex_003"><translation>Спутники</translation></message>

@@ -51,4 +51,10 @@ QString saveAsAsked(const QString& path, const QByteArray& content, bool isPriva
                          .arg(QDir::toNativeSeparators(path), fileErrorText(reason));
 }
 
+Notice savedNotice(const QString& path)
+{
+    const QString text = QCoreApplication::translate("vlk", "rev_218");
+    return {Mark::right, text.arg(QDir::toNativeSeparators(path)), {}};
+}
+
 } // namespace vlk

@@ -2,6 +2,8 @@
 
 // Names of the configuration files that the windows make.
 
+#include "typing/notice_bar.h"
+
 #include <QString>
 
 class QWidget;
@@ -30,5 +32,7 @@ QString askPathToSave(QWidget* parent, const PathQuestion& question);
 // Saves a whole file, readable by its owner alone where it is private. Empty when it is saved, else the
 // sentence that says why not.
 QString saveAsAsked(const QString& path, const QByteArray& content, bool isPrivate);
+// That it is saved.
+Notice savedNotice(const QString& path);
 
 } // namespace vlk
