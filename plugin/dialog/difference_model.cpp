@@ -149,6 +149,8 @@ QVariant DifferenceModel::headerData(int section, Qt::Orientation orientation, i
         return {};
     if (section == Before && !review_.otherName().isEmpty())
         return review_.otherName();
+    if (section == Before && review_.against() == ConfigurationReview::Against::file && review_.isWritten())
+        return text("rev_256");
     return text(section == Before ? sides[static_cast<int>(review_.against())] : titles[section]);
 }
 

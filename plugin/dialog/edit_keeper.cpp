@@ -158,6 +158,7 @@ void EditKeeper::confirmed(const QByteArray& content)
     const HandedOver written = *found;
     handedOver_.erase(handedOver_.begin(), found.base());
     if (written.path == path_) {
+        Q_EMIT this->written(written.content);
         beginWith(written.document);
         if (keep())
             Q_EMIT safe();

@@ -48,6 +48,8 @@ Q_SIGNALS:
     void failureChanged();
     // What there is now is safe: kept, saved or written.
     void safe();
+    // The tracker has what the window on show handed over: that content.
+    void written(const QByteArray& content);
 
 private:
     struct HandedOver

@@ -127,11 +127,12 @@ void ReportDialog::refresh()
     const Configuration configuration = review_.written();
     const review::Differences notDefault(review::FileState::ofDefaults(configuration),
                                          review::FileState::ofConfiguration(configuration));
+    const review::Differences sinceOpened = review_.sinceOpened();
     const int contents = contents_->currentIndex();
     const review::ReportChoice choice{contents != All, onePage_->isChecked(),
                                       secrets_->isChecked() ? review::Secrets::shown
                                                             : review::Secrets::masked};
-    html_ = toHtml(configuration, reportOf(configuration, contents == Edited ? review_.edits() : notDefault,
+    html_ = toHtml(configuration, reportOf(configuration, contents == Edited ? sinceOpened : notDefault,
                                            review_.advice(), about_(), choice));
     preview_->setHtml(html_);
 }

@@ -142,7 +142,8 @@ void ReviewBar::showState()
     const int count = review_.edited();
     differences_->setText(QLocale().toString(count));
     setMark(differences_, count > 0 ? std::optional(Mark::changed) : std::nullopt);
-    differences_->setToolTip(tr("rev_126").arg(QKeySequence(kDifferencesKey).toString()));
+    differences_->setToolTip(
+        tr(review_.isWritten() ? "rev_257" : "rev_126").arg(QKeySequence(kDifferencesKey).toString()));
     differences_->setAccessibleName(QStringLiteral("%1: %2").arg(tr("rev_108")).arg(count));
 }
 

@@ -85,6 +85,7 @@ void ReviewPanel::showState()
 {
     const int against = static_cast<int>(review_.against());
     const QString other = review_.otherName();
+    against_->setItemText(static_cast<int>(Against::file), tr(review_.isWritten() ? "rev_255" : kSides[0]));
     against_->setItemText(static_cast<int>(Against::otherFile), other.isEmpty() ? tr("rev_111") : other);
     against_->setCurrentIndex(against);
     takeOver_->setText(tr(kVerbs[against]));

@@ -162,9 +162,15 @@ void VLK_Widget_Config::addKeeper()
     };
     connect(ui_->stackedWidget, &QStackedWidget::currentChanged, this, place);
     place();
+    // A file that was opened stays as it is.
+    connect(&keeper_, &vlk::EditKeeper::written, this, [this](const QByteArray& content) {
+        if (file_.isEmpty())
+            review_.setWritten(content);
+    });
     connect(&keeper_, &vlk::EditKeeper::safe, unsaved_, &vlk::UnsavedBar::drop);
     connect(&keeper_, &vlk::EditKeeper::failureChanged, this,
             [this] { unsaved_->tellFailure(keeper_.failure()); });
+    connect(panel_, &vlk::ReviewPanel::told, unsaved_, &vlk::UnsavedBar::tellFile);
     connect(unsaved_, &vlk::UnsavedBar::shown, this, [this] { showPanel(vlk::ReviewBar::Differences); });
 }
 
