@@ -1352,7 +1352,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_242"><translation>Use of channel 1</translation></message>
     <message id="rev_243"><translation>MAC address for channel 1</translation></message>
     <message id="rev_244"><translation>Password for channel 1</translation></message>
-    <message id="rev_247"><translation>Second device on the line</translation></message>
+    <message id="rev_247"><translation>Also on the line</translation></message>
     <message id="rev_251"><translation>Is set as a whole: %1 of %2 on</translation></message>
     <message id="rev_252"><translation>"%1" is in it as a whole, %2 of %3 on: where the preset is applied, all others go off.</translation></message>
     <message id="rev_253"><translation>Change to full setup to mend it.</translation></message>

@@ -1352,7 +1352,7 @@
     <message id="rev_242"><translation>Назначение канала 1</translation></message>
     <message id="rev_243"><translation>MAC-адрес для канала 1</translation></message>
     <message id="rev_244"><translation>Пароль для канала 1</translation></message>
-    <message id="rev_247"><translation>Второе устройство на линии</translation></message>
+    <message id="rev_247"><translation>Также на линии</translation></message>
     <message id="rev_251"><translation>Задаётся целиком: включено %1 из %2</translation></message>
     <message id="rev_252"><translation>«%1» входит в него целиком, включено %2 из %3: там, где шаблон применят, остальное выключится.</translation></message>
     <message id="rev_253"><translation>Исправить это можно в полной настройке.</translation></message>
