@@ -1360,7 +1360,7 @@
     <message id="rev_255"><translation>от записанного</translation></message>
     <message id="rev_256"><translation>Записано</translation></message>
     <message id="rev_257"><translation>Отличия от записанного (%1)</translation></message>
-    <message id="rev_260"><translation>Несохранённые изменения: %1. Они остались на этом компьютере и будут предложены, когда эту конфигурацию откроют снова.</translation></message>
+    <message id="rev_260"><translation>Несохранённые изменения: %1. Их предложат, когда эту конфигурацию откроют снова.</translation></message>
     <message id="tmiex_001"><translation>Навигация</translation></message>
     <message id="tmiex_002"><translation>Приёмник</translation></message>
     <message id="tmiex_003"><translation>Спутники</translation></message>

@@ -19,7 +19,8 @@ QString configurationPathToWrite(const QString& part);
 QString askConfigurationPath(QWidget* parent, const QString& objectName);
 
 // The same with another question, name and kind: `filter` names the kind and `suffix` is what a name without
-// one gets.
+// one gets. For windows that tell themselves what became of the file: by the name of the dialog a host knows
+// that it need not.
 struct PathQuestion
 {
     QString caption;

@@ -69,7 +69,7 @@ Notice savedPresetNotice(const QString& path, const Wholes& wholes)
         const TableLayout& layout = review::FileKeys::all().layout(place.table);
         const QString caption = review::wordsOf(layout, place.rows.front()).caption;
         notice.mark = Mark::advice;
-        notice.text += QLatin1Char(' ') + word("rev_252").arg(caption).arg(parts.count).arg(parts.all);
+        notice.text += QLatin1Char('\n') + word("rev_252").arg(caption).arg(parts.count).arg(parts.all);
     }
     return notice;
 }
