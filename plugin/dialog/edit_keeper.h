@@ -50,6 +50,8 @@ Q_SIGNALS:
     void failureChanged();
     // What there is now is safe: kept, saved or written.
     void safe();
+    // The tracker has what the window on show handed over: that content.
+    void written(const QByteArray& content);
 
 private:
     struct HandedOver
@@ -61,6 +63,7 @@ private:
 
     void beginWith(const QByteArray& document);
     void setFailure(const QString& reason);
+    void tellKept() const;
 
     ConfigurationReview& review_;
     QTimer due_;

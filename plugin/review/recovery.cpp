@@ -33,9 +33,10 @@ QByteArray sumOf(const QByteArray& bytes)
     return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
 }
 
+// Dialogs that choose a configuration show no such folder.
 QString keptFolder(const QString& folder)
 {
-    return folder + QStringLiteral("/unsaved");
+    return folder + QStringLiteral("/.unsaved");
 }
 
 // What the names of all files of a configuration begin with.
