@@ -65,7 +65,7 @@ private Q_SLOTS:
         fuel_.window->close();
         delete answer;
         QVERIFY(fuel_.window->isHidden());
-        QDir(folder.filePath("unsaved")).removeRecursively();
+        QDir(folder.filePath(".unsaved")).removeRecursively();
     }
 
     void opens()
@@ -218,13 +218,13 @@ private Q_SLOTS:
         pressInBar("wrd_042 XML");
         fuel_.window->close();
         press("pushButton_FuelSensor");
-        QVERIFY(bar()->isHidden() && QDir(folder.filePath("unsaved")).isEmpty());
+        QVERIFY(bar()->isHidden() && QDir(folder.filePath(".unsaved")).isEmpty());
     }
 
     // What is not saved outlives a program that is killed, be it a name alone; only its owner can read it.
     void keepsDrafts()
     {
-        const QDir drafts(folder.filePath("unsaved"));
+        const QDir drafts(folder.filePath(".unsaved"));
         const auto only = [&drafts] { return drafts.filePath(drafts.entryList(QDir::Files).value(0)); };
         add("A3", "10.5", 12340);
         QTRY_COMPARE_WITH_TIMEOUT(drafts.entryList(QDir::Files).size(), 1, 1000);

@@ -22,7 +22,7 @@ const QString kVehicleName = QStringLiteral("objName");
 
 QString keptFolder(const QString& folder)
 {
-    return folder + QStringLiteral("/unsaved");
+    return folder + QStringLiteral("/.unsaved");
 }
 
 QString freePath(const QString& base)
