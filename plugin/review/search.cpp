@@ -26,7 +26,7 @@ QString folded(const QString& text)
 
 // Without the ending that its case or number gives it, as far as its letters tell: "температура" is
 // "температуры" too.
-QString stemOf(const QString& word)
+QString wordStem(const QString& word)
 {
     static const QString endings = QString::fromUtf8("аеиойуыьэюяs");
     constexpr int leastStem = 4;
@@ -219,7 +219,7 @@ std::vector<Hit> Search::find(const QString& query)
         build();
     Query asked{folded(query).simplified(), {}};
     for (const QString& word : asked.text.split(QLatin1Char(' '), Qt::SkipEmptyParts))
-        asked.words.push_back({word, stemOf(word).size()});
+        asked.words.push_back({word, wordStem(word).size()});
     std::vector<std::pair<int, const Entry*>> found;
     for (Entry& entry : entries_) {
         if (!asked.words.empty())
