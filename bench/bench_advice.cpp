@@ -4,7 +4,7 @@
 #include "bench/side_by_side.h"
 #include "review/advice.h"
 #include "settings/all_settings.h"
-#include "settings/configuration.h"
+#include "document/configuration.h"
 #include "xml/xml_document.h"
 
 namespace {

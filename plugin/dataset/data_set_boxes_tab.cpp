@@ -3,7 +3,7 @@
 #include "base/translated.h"
 #include "settings/kinds/mask.h"
 #include "settings/table_layout.h"
-#include "settings/value_text.h"
+#include "review/value_text.h"
 
 #include <QCheckBox>
 #include <QComboBox>

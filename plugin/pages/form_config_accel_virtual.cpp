@@ -4,7 +4,7 @@
 
 #include "link/messages.h"
 #include "settings/accel_settings.h"
-#include "settings/value_text.h"
+#include "review/value_text.h"
 #include "typing/present_value.h"
 #include "windows/disabled_reason.h"
 #include "windows/named_widget.h"

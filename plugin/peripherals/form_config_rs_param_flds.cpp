@@ -2,7 +2,7 @@
 
 #include "fuel/form_fuel_view.h"
 #include "settings/rs_settings.h"
-#include "settings/value_text.h"
+#include "review/value_text.h"
 #include "windows/binder/row_inputs.h"
 #include "windows/column_head.h"
 #include "windows/named_widget.h"

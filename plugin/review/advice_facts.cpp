@@ -2,7 +2,7 @@
 
 #include "review/advice_rules.h"
 #include "settings/data_set_boxes.h"
-#include "settings/value_text.h"
+#include "review/value_text.h"
 
 #include <algorithm>
 

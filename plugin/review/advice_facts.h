@@ -5,7 +5,7 @@
 
 #include "catalogue/field_mask.h"
 #include "review/advice_binding.h"
-#include "settings/configuration.h"
+#include "document/configuration.h"
 
 namespace vlk::review::advice {
 

@@ -1,7 +1,8 @@
 #include "review/difference_text.h"
 
-#include "settings/kinds/spelling.h"
-#include "settings/value_text.h"
+#include "base/number_text.h"
+#include "base/shown_text.h"
+#include "review/value_text.h"
 
 #include <algorithm>
 

@@ -2,8 +2,8 @@
 
 #include "review/setting_parts.h"
 #include "review/setting_words.h"
-#include "settings/kinds/spelling.h"
-#include "settings/value_text.h"
+#include "base/shown_text.h"
+#include "review/value_text.h"
 
 #include <algorithm>
 #include <optional>

@@ -44,7 +44,7 @@ std::vector<int> tiedTo(const TableLayout& layout, int row)
     };
     for (const Sets& rule : layout.table->all<Sets>()) {
         if (rule.moment != Moment::edit && rule.moment != Moment::save)
-            tie({rule.path.row, rule.when.row, rule.when.other, rule.also.row});
+            tie({rule.path.row, rule.when.row, rule.when.other, rule.also[0].row, rule.also[1].row});
     }
     for (const Distance& rule : layout.table->all<Distance>())
         tie({rule.first.row, rule.second.row, rule.gapFrom.row});

@@ -1,7 +1,7 @@
 #include "sensors/ble_sensor_form.h"
 
 #include "settings/bluetooth_settings.h"
-#include "settings/value_text.h"
+#include "review/value_text.h"
 #include "windows/binder/page_settings.h"
 #include "windows/binder/row_inputs.h"
 

@@ -2,12 +2,9 @@
 
 namespace vlk {
 
-Normalised normalise(const Setting& setting, const Reading& reading)
+QString normalise(const Setting& setting, const Reading& reading)
 {
-    Normalised taken = std::visit([&](const auto& row) { return normalised(row, reading); }, setting.kind);
-    if (taken.value == reading.text)
-        taken.change = Change::none;
-    return taken;
+    return std::visit([&](const auto& row) { return normalised(row, reading); }, setting.kind);
 }
 
 QString loadDefault(const Setting& setting)
@@ -34,11 +31,6 @@ QString resetValue(const Setting& setting)
                 return QString();
         },
         setting.kind);
-}
-
-QString valueText(const Setting& setting, const QString& value, const char* unit)
-{
-    return std::visit([&](const auto& row) { return toldText(row, value, unit); }, setting.kind);
 }
 
 } // namespace vlk

@@ -27,7 +27,7 @@ struct SettingsTable
     const char* title = ""; // of the page, a translation key
     std::span<const Setting> rows{};
     bool emptied = true; // a save empties the section first
-    RuleLists<Sets, Distance, RangeWhen, ExclusiveChoice, Presets, MaskPositions, Doubt, Enable> rules{};
+    RuleLists<Sets, Distance, RangeWhen, ExclusiveChoice, Presets, Doubt, Enable> rules{};
 
     // Of one kind.
     template <class Rule>

@@ -24,6 +24,8 @@ void addRows(TableLayout& layout)
         element.endRow = place + 1;
         element.stored = element.stored || base.stored;
         const auto* link = setting.as<Link>();
+        if (const auto* text = setting.as<Text>(); text && text->load.follows())
+            layout.following.push_back(place);
         layout.rows.push_back(
             {.setting = &setting,
              .base = &base,

@@ -55,7 +55,8 @@ struct TableLayout
     const SettingsTable* table = nullptr;
     QString section;
     std::vector<Row> rows;
-    std::vector<int> anew; // rows that a read starts anew, before it comes to what the file has
+    std::vector<int> anew;      // rows that a read starts anew, before it comes to what the file has
+    std::vector<int> following; // whose defaults follow the language or the model
     std::vector<Element> elements;
     std::vector<const Sets*> afterRead;
     std::vector<const Sets*> always;

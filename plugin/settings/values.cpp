@@ -18,29 +18,18 @@ bool isMet(const When& condition, const QString& value)
 
 Values::Values(const SettingsTable& table) : layout_(&layoutOf(table))
 {
-    // Making them takes longer than reading a file, and most are the same each time.
-    struct Made
-    {
-        std::vector<QString> values;
-        std::vector<int> following; // rows whose defaults follow the language or the model
-        QStringList texts;          // their defaults then
-    };
-    static thread_local std::map<const SettingsTable*, Made> tables;
-    const auto [place, isNew] = tables.try_emplace(&table);
-    Made& made = place->second;
-    for (int row = 0; isNew && row < count(); ++row) {
-        if (const auto* text = setting(row).as<Text>(); text && (text->load.key || text->load.namesModel))
-            made.following.push_back(row);
-    }
+    // Making them takes longer than reading a file, and they are the same until the language or the model is
+    // another one.
+    static thread_local std::map<std::pair<const SettingsTable*, QStringList>, std::vector<QString>> known;
     QStringList texts;
-    for (const int row : made.following)
+    for (const int row : layout_->following)
         texts << loadDefault(setting(row));
-    if (isNew || made.texts != texts) {
+    std::vector<QString>& made = known[{&table, texts}];
+    if (made.empty()) {
         makeAll();
-        made.values = values_;
-        made.texts = texts;
+        made = values_;
     }
-    values_ = made.values;
+    values_ = made;
 }
 
 void Values::makeAll()
@@ -73,19 +62,11 @@ bool Values::isWritten(int row) const
 
 QString Values::written(int row, const QString& value) const
 {
-    for (const Sets* rule : layout_->rows[row].saves) {
-        if (holds(rule->when))
-            return QString::fromLatin1(rule->to);
-    }
     const Number* number = setting(row).number();
     QString text = number && number->blankIsZero && value.isEmpty() ? QStringLiteral("0") : value;
-    for (const MaskPositions& rule : table().all<MaskPositions>()) {
-        if (rule.path.row != row || !holdsAll(rule.when))
-            continue;
-        for (const int position : rule.positions) {
-            if (position < text.size())
-                text[position] = QLatin1Char(rule.to);
-        }
+    for (const Sets* rule : layout_->rows[row].saves) {
+        if (holdsToo(*rule))
+            text = laidOver(text, rule->to);
     }
     return text;
 }
@@ -151,7 +132,7 @@ const char* Values::unitKey(int row) const
 {
     const TableLayout::Row& place = layout_->rows[holder(row)];
     const Number* number = place.setting->number();
-    const char* unit = number ? number->unit : nullptr;
+    const char* unit = number ? number->unitKey : nullptr;
     for (const RangeWhen* rule : place.ranges) {
         if (rule->unit && holds(rule->when))
             unit = rule->unit;
@@ -161,7 +142,7 @@ const char* Values::unitKey(int row) const
 
 QString Values::normalised(int row, const QString& text, const Limits& limits, Source source) const
 {
-    return normalise(setting(row), {text, values_[row], limits, source}).value;
+    return normalise(setting(row), {text, values_[row], limits, source});
 }
 
 void Values::reset()
@@ -177,6 +158,49 @@ void Values::reset()
     for (const Distance& rule : table().all<Distance>()) {
         if (rule.gapFrom)
             keepDistances(rule.gapFrom.row, nullptr);
+    }
+    setAll(layout_->always, nullptr);
+}
+
+bool Values::isRead(int row) const
+{
+    const TableLayout::Row& place = layout_->rows[row];
+    return place.base->stored && !place.setting->is<Constant>() && holds(place.base->present);
+}
+
+void Values::beginRead()
+{
+    for (const int row : layout_->anew)
+        values_[row] = normalised(row, loadDefault(setting(row)), limits(row));
+    for (const Distance& rule : table().all<Distance>()) {
+        if (rule.gapFrom)
+            values_[rule.gapFrom.row] = QStringLiteral("0");
+    }
+}
+
+void Values::takeKey(int row, const std::optional<QString>& text, bool hasElement)
+{
+    const TableLayout::Row& place = layout_->rows[row];
+    if (!text && place.base->missing == Missing::keepsValue)
+        return;
+    const auto* link = place.setting->as<Link>();
+    const QString missing = text ? QString()
+                            : link && !hasElement && link->withoutElement >= 0
+                                ? QString::number(link->withoutElement)
+                                : loadDefault(*place.setting);
+    // A link gives its value to another row, which says what the value can be.
+    const int target = place.target;
+    const QString before = values_[target];
+    assign(target, normalised(target, text ? *text : missing, limits(target)), nullptr);
+    setBy(target, true, before, nullptr);
+}
+
+void Values::endRead()
+{
+    setAll(layout_->afterRead, nullptr);
+    for (const Presets& presets : table().all<Presets>()) {
+        if (presets.other || presets.settles)
+            settle(presets);
     }
     setAll(layout_->always, nullptr);
 }

@@ -60,7 +60,7 @@ void Values::change(int row, const QString& text, Changes* changed)
 void Values::setBy(int row, bool isRead, const QString& before, Changes* changed)
 {
     for (const Sets* rule : layout_->rows[row].sets) {
-        if ((isRead && rule->moment != Moment::editOrRead) || !holdsBoth(*rule))
+        if ((isRead && rule->moment != Moment::editOrRead) || !holdsToo(*rule))
             continue;
         const QString now = std::exchange(values_[row], before);
         const bool heldBefore = rule->isOnset && holds(rule->when);
@@ -70,18 +70,24 @@ void Values::setBy(int row, bool isRead, const QString& before, Changes* changed
     }
 }
 
+QString Values::laidOver(const QString& value, const char* to)
+{
+    const QLatin1String pattern(to);
+    if (!pattern.contains(QLatin1Char('*')))
+        return pattern;
+    QString text = value;
+    for (int i = 0; i < std::min(text.size(), pattern.size()); ++i) {
+        if (pattern[i] != QLatin1Char('*'))
+            text[i] = pattern[i];
+    }
+    return text;
+}
+
 void Values::setAll(const std::vector<const Sets*>& rules, Changes* changed)
 {
     for (const Sets* rule : rules) {
-        if (!holdsBoth(*rule))
-            continue;
-        const QString& held = values_[rule->path.row];
-        QString value = QString::fromLatin1(rule->to);
-        for (int i = 0; i < std::min(held.size(), value.size()); ++i) {
-            if (value[i] == QLatin1Char('*'))
-                value[i] = held[i];
-        }
-        put(rule->path.row, value, changed);
+        if (holdsToo(*rule))
+            put(rule->path.row, laidOver(values_[rule->path.row], rule->to), changed);
     }
 }
 
@@ -117,7 +123,7 @@ bool Values::takes(const Sharer& other, const Sharer& sharer) const
 {
     const auto split = [&](const Sharer& of) -> const QString& { return value(of.rule->split.row); };
     return other.holder != sharer.holder && (!sharer.rule->split || split(other) == split(sharer)) &&
-           holdsBoth(*other.rule);
+           holdsToo(*other.rule);
 }
 
 QStringList Values::takenFrom(const SharedList& list, const Sharer& sharer) const
@@ -139,7 +145,7 @@ void Values::keepShared(const SharedList& list, int row, const QString& before, 
         const auto isTakenBy = [&](const Sharer& other) {
             return values_[other.rule->path.row] == value && takes(other, sharer);
         };
-        if (holdsBoth(*sharer.rule)) {
+        if (holdsToo(*sharer.rule)) {
             if (holdsNothing)
                 put(own, offeredCode(*choice(own), limits(own)), changed);
         } else if (!holdsNothing && std::any_of(list.begin(), list.end(), isTakenBy)) {

@@ -4,7 +4,7 @@
 
 #include "dialog/config_pages.h"
 #include "settings/lines_out_settings.h"
-#include "settings/value_text.h"
+#include "review/value_text.h"
 #include "support/data_table.h"
 #include "support/device.h"
 #include "support/files.h"

@@ -7,7 +7,7 @@
 #include "settings/bluetooth_sensor_types.h"
 #include "settings/quick_settings.h"
 #include "settings/rs_settings.h"
-#include "settings/value_text.h"
+#include "review/value_text.h"
 #include "support/data_table.h"
 #include "support/device.h"
 #include "support/setting_samples.h"

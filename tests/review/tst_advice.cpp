@@ -3,7 +3,7 @@
 #include "catalogue/field_mask.h"
 #include "review/advice_rules.h"
 #include "settings/all_settings.h"
-#include "settings/configuration.h"
+#include "document/configuration.h"
 #include "settings/data_set_boxes.h"
 #include "support/data_table.h"
 #include "support/files.h"

@@ -2,7 +2,7 @@
 
 #include "review/search.h"
 #include "settings/all_settings.h"
-#include "settings/configuration.h"
+#include "document/configuration.h"
 #include "support/data_table.h"
 
 #include <QTranslator>

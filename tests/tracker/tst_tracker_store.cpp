@@ -3,7 +3,7 @@
 #include "bench_tracker.h"
 #include "record_values.h"
 #include "settings/all_settings.h"
-#include "settings/configuration.h"
+#include "document/configuration.h"
 #include "support/data_table.h"
 #include "support/files.h"
 #include "tracker/configuration_values.h"

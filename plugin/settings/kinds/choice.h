@@ -68,15 +68,15 @@ constexpr void eachBox(const Choice& row, auto take)
         take(code.widget);
 }
 
+// The code that a text of a file means; null for an unknown one.
+const Code* codeOf(const Choice& row, const QString& text);
 // Whether a list has the code.
 bool offersCode(const Code& code, const Limits& limits);
 bool isNoItem(const Choice& row, const QString& value);
 // The first code of the list, or the one that comes next behind another, else the last one; what stands for
 // no item where the list is empty.
 QString offeredCode(const Choice& row, const Limits& limits, const QString* behind = nullptr);
-QString codeText(const Code& code);
 
-Normalised normalised(const Choice& row, const Reading& reading);
-QString toldText(const Choice& row, const QString& value, const char* unit);
+QString normalised(const Choice& row, const Reading& reading);
 
 } // namespace vlk

@@ -23,7 +23,6 @@ constexpr Flag flag(const char* key, int loadDefault)
     return keyed<Flag>(key, loadDefault);
 }
 
-Normalised normalised(const Flag& row, const Reading& reading);
-QString toldText(const Flag& row, const QString& value, const char* unit);
+QString normalised(const Flag& row, const Reading& reading);
 
 } // namespace vlk

@@ -1,5 +1,7 @@
 #include "settings/kinds/mask.h"
 
+#include "base/number_text.h"
+
 namespace vlk {
 
 QString maskPart(const MaskField& field, const QString& mask)
@@ -23,13 +25,7 @@ int maskItem(const MaskField& field, const QString& part)
     return found == field.items.end() ? -1 : static_cast<int>(found - field.items.begin());
 }
 
-QString fieldText(const MaskField& field)
-{
-    const QString text = QString::fromLatin1(field.format).arg(translated(field.caption));
-    return field.number > 0 ? text.arg(field.number) : text;
-}
-
-Normalised normalised(const Mask& row, const Reading& reading)
+QString normalised(const Mask& row, const Reading& reading)
 {
     const QString& text = reading.text;
     const QString none(row.length, QLatin1Char('0'));
@@ -51,22 +47,7 @@ Normalised normalised(const Mask& row, const Reading& reading)
             held[position] = QLatin1Char((isList ? isListed : isOn) ? '1' : '0');
         }
     }
-    return {held, text.size() > row.length ? Change::tooLong
-                  : held != read           ? Change::notOffered
-                                           : Change::otherForm};
-}
-
-QString toldText(const Mask& row, const QString& value, const char* /*unit*/)
-{
-    QStringList parts;
-    for (const MaskField& field : row.fields) {
-        const QString part = maskPart(field, value);
-        const int item = maskItem(field, part);
-        if (part.contains(QLatin1Char('1')))
-            parts << (item < 0 ? fieldText(field)
-                               : fieldText(field) + QStringLiteral(": ") + codeText(field.items[item]));
-    }
-    return row.fields.empty() ? value : parts.join(QStringLiteral(", "));
+    return held;
 }
 
 } // namespace vlk

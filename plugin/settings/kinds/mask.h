@@ -58,9 +58,7 @@ constexpr void check(const Mask& row)
 QString maskPart(const MaskField& field, const QString& mask);
 bool isMaskOn(const MaskField& field, const QString& part);
 int maskItem(const MaskField& field, const QString& part);
-QString fieldText(const MaskField& field);
 
-Normalised normalised(const Mask& row, const Reading& reading);
-QString toldText(const Mask& row, const QString& value, const char* unit);
+QString normalised(const Mask& row, const Reading& reading);
 
 } // namespace vlk

@@ -13,6 +13,8 @@ struct DefaultText
     const char* format = "";
     const char* key = nullptr;
     bool namesModel = false;
+
+    constexpr bool follows() const { return key || namesModel; }
 };
 
 struct Text : ShownOf<Text>
@@ -36,11 +38,6 @@ struct Text : ShownOf<Text>
     }
     constexpr Text masked(const char* form) const { return with(&Text::mask, form); }
     constexpr Text atSave(OnSave policy) const { return with(&Text::onSave, policy); }
-    // In the line of a tree that the row's number tells.
-    constexpr Text inCell(const char* tree, std::uint8_t number) const
-    {
-        return in(tree).with(&Text::column, number);
-    }
     // A password or what else is not for every eye.
     constexpr Text secretly() const { return with(&Text::secret, true); }
 };
@@ -56,10 +53,6 @@ constexpr Text text(const char* key, const char* loadDefault)
 }
 
 QString fileText(const Text& row, const DefaultText& text);
-Normalised normalised(const Text& row, const Reading& reading);
-inline QString toldText(const Text&, const QString& value, const char* /*unit*/)
-{
-    return value;
-}
+QString normalised(const Text& row, const Reading& reading);
 
 } // namespace vlk

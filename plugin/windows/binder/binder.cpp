@@ -1,6 +1,6 @@
 #include "windows/binder/binder.h"
 
-#include "settings/value_text.h"
+#include "review/value_text.h"
 #include "typing/typed_entry.h"
 #include "windows/binder/boxes_adapter.h"
 #include "windows/binder/cell_adapter.h"
