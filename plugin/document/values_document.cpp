@@ -17,8 +17,14 @@ XmlElement opened(XmlElement section, const QStringList& path)
 
 void readKey(int row, const XmlElement& element, Values& values)
 {
-    if (values.isRead(row))
-        values.takeKey(row, element.find(values.row(row).key), static_cast<bool>(element));
+    const TableLayout::Row& place = values.row(row);
+    if (place.base->stored && !place.setting->is<Constant>() && values.holds(place.base->present))
+        values.takeKey(row, element.find(place.key), static_cast<bool>(element));
+}
+
+bool isRead(const Group& group, const Values& values)
+{
+    return group.readable ? values.holdsAll(*group.readable) : values.isPresent(group);
 }
 
 void readElements(const XmlElement& section, Values& values)
@@ -36,7 +42,7 @@ void readElements(const XmlElement& section, Values& values)
         const Group& group = *element.group;
         if (std::exchange(number, group.numbers.outer) != group.numbers.outer)
             readLate(lateOfNumber);
-        if (!element.stored || !values.isRead(group))
+        if (!element.stored || !isRead(group, values))
             continue;
         const XmlElement inFile = opened(section, element.path);
         for (int row = element.firstRow; row < element.endRow; ++row) {

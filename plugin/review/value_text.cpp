@@ -87,7 +87,7 @@ QString told(const Mask& row, const QString& value, const char* /*unit*/)
             parts << (item < 0 ? fieldText(field)
                                : fieldText(field) + QStringLiteral(": ") + codeText(field.items[item]));
     }
-    return row.fields.empty() ? value : parts.join(QStringLiteral(", "));
+    return parts.join(QStringLiteral(", "));
 }
 
 } // namespace
@@ -120,12 +120,6 @@ QString codeText(const Code& code)
 {
     const QString text = QString::fromLatin1(code.format).arg(captionParts(code.label).before);
     return code.second ? text.arg(translated(code.second)) : text;
-}
-
-QString fieldText(const MaskField& field)
-{
-    const QString text = QString::fromLatin1(field.format).arg(translated(field.caption));
-    return field.number > 0 ? text.arg(field.number) : text;
 }
 
 QString valueText(const Setting& setting, const QString& value, const char* unit)

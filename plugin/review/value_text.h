@@ -3,6 +3,7 @@
 // Settings as a person reads them, in the present language.
 
 #include "base/shown_text.h"
+#include "review/mask_field.h"
 #include "settings/values.h"
 
 namespace vlk {
@@ -11,9 +12,8 @@ QString captionText(const Setting& setting);
 // The heading that the setting stands under, behind those that it stands under itself: "Sensor 1 / Values:
 // 2".
 QString headingText(const Setting& setting);
-// Of an item in a list, and of a field of a mask.
+// Of an item in a list.
 QString codeText(const Code& code);
-QString fieldText(const MaskField& field);
 
 // The value with its unit: "100 km/h", "on", "1 d 2 h", "NB+" as its label. A secret is told by dots.
 QString valueText(const Values& values, int row);

@@ -113,9 +113,8 @@ inline constexpr const char* kLineVoltages[] = {
     kWithFields<field("StateU_Ain1")>, kWithFields<field("StateU_Ain2")>, kWithFields<field("StateU_Ain3")>};
 
 inline constexpr auto kLineMasks = repeat<3>([](int number) {
-    return rulesOf(
-        onSave(when("SENSORS/IN%1/normState", kDigital), kMask, kWithFields<field("StateIn1")>),
-        onSave(when("SENSORS/IN%1/normState", "AIN"), kMask, kLineVoltages[number - 1]));
+    return rulesOf(onSave(when("SENSORS/IN%1/normState", kDigital), kMask, kWithFields<field("StateIn1")>),
+                   onSave(when("SENSORS/IN%1/normState", "AIN"), kMask, kLineVoltages[number - 1]));
 });
 
 } // namespace vlk::quick

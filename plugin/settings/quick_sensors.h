@@ -142,17 +142,15 @@ constexpr auto wirelessMasks(int number)
     const std::size_t sensor = static_cast<std::size_t>(number) - 3;
     constexpr When inUse = when("BLUETOOTH/sensors");
     constexpr When checked = when("BLUETOOTH/sensor%1", "1");
-    return numbered(rulesOf(onSave(inUse, kMask, kWirelessFields[sensor]).onlyIf(checked),
-                            onSave(inUse, kMask, kExtraFields[sensor])
-                                .onlyIf(checked, when("BLUETOOTH/FS%1/type", "2"))),
-                    number);
+    return numbered(
+        rulesOf(onSave(inUse, kMask, kWirelessFields[sensor]).onlyIf(checked),
+                onSave(inUse, kMask, kExtraFields[sensor]).onlyIf(checked, when("BLUETOOTH/FS%1/type", "2"))),
+        number);
 }
 
-inline constexpr auto kSensorMasks =
-    rulesOf(repeat<2>([](int number) {
-                return onSave(when("RS485/sensor%1"), kMask, kRsFields[number - 1]);
-            }),
-            wirelessMasks(3), wirelessMasks(4));
+inline constexpr auto kSensorMasks = rulesOf(
+    repeat<2>([](int number) { return onSave(when("RS485/sensor%1"), kMask, kRsFields[number - 1]); }),
+    wirelessMasks(3), wirelessMasks(4));
 
 constexpr auto wirelessEnables(int number)
 {

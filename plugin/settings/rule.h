@@ -26,7 +26,8 @@ struct Sets
     Moment moment;
     When when;
     Path path;
-    const char* to; // '*' leaves the position alone; then none comes, and what lies beyond the end is passed over
+    const char*
+        to; // '*' leaves the position alone; then none comes, and what lies beyond the end is passed over
     std::array<When, 2> also{}; // hold too
     bool isOnset = false;       // only where `when` did not hold before
     Numbers numbers{};
@@ -108,6 +109,8 @@ struct ExclusiveChoice
     const char* holder = "";
     Path split{};
     Numbers numbers{};
+    std::uint64_t listHash = 0; // of the two names with their numbers in, once its table is made
+    std::uint64_t holderHash = 0;
 
     constexpr void eachPath(auto visit) { visit(path), visit(when), visit(also), visit(split); }
 };

@@ -2,15 +2,16 @@
 
 namespace vlk {
 
-QString normalise(const Setting& setting, const Reading& reading)
-{
-    return std::visit([&](const auto& row) { return normalised(row, reading); }, setting.kind);
-}
+namespace {
 
-QString loadDefault(const Setting& setting)
+QString defaultOf(const Setting& setting, bool isReset)
 {
     return std::visit(
-        [](const auto& row) {
+        [isReset](const auto& row) {
+            if constexpr (requires { row.reset; }) {
+                if (isReset && row.onReset == OnReset::own)
+                    return fileText(row, row.reset);
+            }
             if constexpr (requires { row.load; })
                 return fileText(row, row.load);
             else
@@ -19,18 +20,21 @@ QString loadDefault(const Setting& setting)
         setting.kind);
 }
 
+} // namespace
+
+QString normalise(const Setting& setting, const Reading& reading)
+{
+    return std::visit([&](const auto& row) { return normalised(row, reading); }, setting.kind);
+}
+
+QString loadDefault(const Setting& setting)
+{
+    return defaultOf(setting, false);
+}
+
 QString resetValue(const Setting& setting)
 {
-    if (setting.base().onReset != OnReset::own)
-        return loadDefault(setting);
-    return std::visit(
-        [](const auto& row) {
-            if constexpr (requires { row.reset; })
-                return fileText(row, row.reset);
-            else
-                return QString();
-        },
-        setting.kind);
+    return defaultOf(setting, true);
 }
 
 } // namespace vlk

@@ -5,11 +5,6 @@
 // which widget shows it. Rows stand in one table a page (settings_table.h); Values (values.h) holds what they
 // are worth.
 //
-//     constexpr auto kRows = rowsOf(
-//         group("POINTS"),
-//         flag("useMaxSpeed", 0).in("Always_checkBox_MaxSpeed"),
-//         integer("maxSpeed", 100).range(1, 180).unit("abbr_024").in("Always_spinBox_MaxSpeed_Value"));
-//
 // A value is always the text that the file holds: "100", "2.5", "NB+". Captions, units and labels are
 // translation keys; the text of a caption may hold %1, the number of a repeated row.
 
@@ -28,16 +23,6 @@
 namespace vlk {
 
 using Kind = std::variant<Group, Constant, Link, Flag, Number, Text, Choice, Period, Digits, Mask>;
-
-// A row that no widget can show is none of the second sort.
-constexpr const Shown* shownOf(const RowBase&)
-{
-    return nullptr;
-}
-constexpr const Shown* shownOf(const Shown& row)
-{
-    return &row;
-}
 
 struct Setting
 {
@@ -61,10 +46,21 @@ struct Setting
     {
         return std::visit([](const RowBase& row) -> const RowBase& { return row; }, kind);
     }
+    constexpr RowBase& base()
+    {
+        return std::visit([](RowBase& row) -> RowBase& { return row; }, kind);
+    }
     // Null for a row that no widget can show, and for one that is no number.
     constexpr const Shown* shown() const
     {
-        return std::visit([](const auto& row) { return shownOf(row); }, kind);
+        return std::visit(
+            []<class Row>(const Row& row) -> const Shown* {
+                if constexpr (std::derived_from<Row, Shown>)
+                    return &row;
+                else
+                    return nullptr;
+            },
+            kind);
     }
     constexpr const Number* number() const { return as<Number>(); }
 

@@ -5,17 +5,6 @@
 
 namespace vlk {
 
-namespace {
-
-bool isMet(const When& condition, const QString& value)
-{
-    const bool is = !*condition.codes ? !value.isEmpty() && value != QLatin1String("0")
-                                      : isListed(condition.codes, value);
-    return is != condition.negated;
-}
-
-} // namespace
-
 Values::Values(const SettingsTable& table) : layout_(&layoutOf(table))
 {
     // Making them takes longer than reading a file, and they are the same until the language or the model is
@@ -26,23 +15,12 @@ Values::Values(const SettingsTable& table) : layout_(&layoutOf(table))
         texts << loadDefault(setting(row));
     std::vector<QString>& made = known[{&table, texts}];
     if (made.empty()) {
-        makeAll();
+        for (int row = 0; row < count(); ++row)
+            values_.push_back(loadDefault(setting(row)));
+        reset();
         made = values_;
     }
     values_ = made;
-}
-
-void Values::makeAll()
-{
-    // A choice that keeps its value and a row that a reset leaves alone start at their load defaults.
-    values_.resize(layout_->rows.size());
-    for (int row = 0; row < count(); ++row)
-        values_[row] = loadDefault(setting(row));
-    reset();
-    for (int row = 0; row < count(); ++row) {
-        if (layout_->rows[row].base->onReset == OnReset::keepsValue)
-            values_[row] = normalised(row, values_[row], limits(row));
-    }
 }
 
 const QString& Values::value(int row) const
@@ -76,7 +54,10 @@ bool Values::holds(const When& condition) const
     if (condition.row < 0)
         return true;
     const QString& value = this->value(condition.row);
-    return condition.same ? value == this->value(condition.other) : isMet(condition, value);
+    const bool is = condition.same     ? value == this->value(condition.other)
+                    : *condition.codes ? isListed(condition.codes, value)
+                                       : !value.isEmpty() && value != QLatin1String("0");
+    return is != condition.negated;
 }
 
 bool Values::holdsAll(std::span<const When> conditions) const
@@ -84,24 +65,19 @@ bool Values::holdsAll(std::span<const When> conditions) const
     return std::ranges::all_of(conditions, [this](const When& condition) { return holds(condition); });
 }
 
-const When* Values::missing(const Enable& rule) const
+bool Values::holds(const Enable& rule) const
 {
-    const auto isMet = [this](const When& condition) { return holds(condition); };
-    const auto isOneMet = [this](const When& condition) { return condition && holds(condition); };
-    if (rule.any ? std::ranges::any_of(rule.when, isOneMet) : std::ranges::all_of(rule.when, isMet))
-        return nullptr;
-    return &*std::ranges::find_if_not(rule.when, isMet);
+    const auto isMet = [this](const When& condition) { return condition && holds(condition); };
+    return rule.any ? std::ranges::any_of(rule.when, isMet) : holdsAll(rule.when);
 }
 
 Limits Values::limits(int row) const
 {
     row = holder(row);
     Limits limits = ownLimits(row);
-    for (const SharedList* list : layout_->rows[row].lists) {
-        for (const Sharer& sharer : *list) {
-            if (sharer.rule->path.row == row)
-                limits.taken = takenFrom(*list, sharer);
-        }
+    for (const ExclusiveChoice& sharer : table().all<ExclusiveChoice>()) {
+        if (sharer.path.row == row)
+            limits.taken = takenFrom(sharer);
     }
     return limits;
 }
@@ -149,23 +125,19 @@ void Values::reset()
 {
     for (int row = 0; row < count(); ++row) {
         const Setting& setting = this->setting(row);
-        if (setting.base().onReset == OnReset::keepsValue || setting.is<Link>())
+        if (setting.is<Link>())
             continue;
-        values_[row] = normalised(row, resetValue(setting), ownLimits(row), Source::edit);
+        const bool isKept = setting.base().onReset == OnReset::keepsValue;
+        const QString text = isKept ? values_[row] : resetValue(setting);
+        values_[row] = normalised(row, text, ownLimits(row), Source::edit);
     }
-    for (const auto& [name, list] : layout_->sharedLists)
-        keepShared(list, -1, {}, nullptr);
+    for (const ExclusiveChoice& sharer : table().all<ExclusiveChoice>())
+        keepShared(sharer, -1, {}, nullptr);
     for (const Distance& rule : table().all<Distance>()) {
         if (rule.gapFrom)
             keepDistances(rule.gapFrom.row, nullptr);
     }
     setAll(layout_->always, nullptr);
-}
-
-bool Values::isRead(int row) const
-{
-    const TableLayout::Row& place = layout_->rows[row];
-    return place.base->stored && !place.setting->is<Constant>() && holds(place.base->present);
 }
 
 void Values::beginRead()

@@ -50,13 +50,6 @@ public:
     const char* unitKey(int row) const;
 
     void reset();
-    // Whether a file of this state has the element, whether a read looks into it, and for the key.
-    bool isPresent(const Group& group) const { return holds(group.present) && holds(group.presentToo); }
-    bool isRead(const Group& group) const
-    {
-        return group.readable ? holdsAll(*group.readable) : isPresent(group);
-    }
-    bool isRead(int row) const;
     // A read begins, takes the keys in the order of the table, whatever the file holds there, and ends.
     void beginRead();
     void takeKey(int row, const std::optional<QString>& text, bool hasElement);
@@ -67,29 +60,26 @@ public:
     std::vector<int> edit(int row, const QString& text);
     std::vector<int> edit(const QString& path, const QString& text) { return edit(rowAt(path), text); }
 
-    // Whether the conditions of a rule of the table hold.
-    bool holds(const Enable& rule) const { return !missing(rule); }
-    // The first condition for want of which the rule does not hold; null where it does.
-    const When* missing(const Enable& rule) const;
+    // Whether a condition of the table holds, all of them, and those of a rule.
+    bool holds(const When& condition) const;
+    bool holdsAll(std::span<const When> conditions) const;
+    // Whether a file of this state has the element.
+    bool isPresent(const Group& group) const { return holds(group.present) && holds(group.presentToo); }
+    bool holds(const Enable& rule) const;
     bool holds(const Doubt& rule) const { return holdsAll(rule.when); }
     // The least distance that a rule of the table keeps now, in units of the widget.
     double gapOf(const Distance& rule) const;
 
 private:
-    using Sharer = TableLayout::Sharer;
-    using SharedList = TableLayout::SharedList;
     using Changes = std::vector<int>; // rows, each once
 
-    void makeAll();
-    bool holds(const When& condition) const;
-    bool holdsAll(std::span<const When> conditions) const;
     bool holdsToo(const Sets& rule) const { return holds(rule.when) && holdsAll(rule.also); }
     bool holdsToo(const ExclusiveChoice& rule) const { return holds(rule.when) && holds(rule.also); }
     // Whatever other settings of a shared list hold.
     Limits ownLimits(int row) const;
     // Whether what `other` holds is gone from the list of `sharer`.
-    bool takes(const Sharer& other, const Sharer& sharer) const;
-    QStringList takenFrom(const SharedList& list, const Sharer& sharer) const;
+    bool takes(const ExclusiveChoice& other, const ExclusiveChoice& sharer) const;
+    QStringList takenFrom(const ExclusiveChoice& sharer) const;
     QString normalised(int row, const QString& text, const Limits& limits,
                        Source source = Source::file) const;
 
@@ -99,10 +89,10 @@ private:
     void assign(int row, const QString& value, Changes* changed);
     void keepDistances(int row, Changes* changed);
     // After the row, which was worth `before`, has another value; -1: after a reset of all.
-    void keepShared(const SharedList& list, int row, const QString& before, Changes* changed);
+    void keepShared(const ExclusiveChoice& sharer, int row, const QString& before, Changes* changed);
     // The code that a setting without a claim gets for one that is taken: the next one that is free now and
     // was before, else the one that has just been given back.
-    QString yielded(const SharedList& list, const Sharer& sharer, int row, const QString& before);
+    QString yielded(const ExclusiveChoice& sharer, int row, const QString& before);
     // What a rule makes of a value (Sets::to).
     static QString laidOver(const QString& value, const char* to);
     void setAll(const std::vector<const Sets*>& rules, Changes* changed);

@@ -40,7 +40,6 @@ constexpr MaskField kFields[] = {
      .count = 2,
      .anyReads = true},
     {.widget = "d", .caption = "list", .positions = {6, 7}, .count = 2, .items = kPairs}};
-constexpr const char* kLong = "110";
 
 constexpr auto kRows = rowsOf(
     group("A"), constant("mode", "1"), flag("flag", 1), flag("line", 0).onValue(3),
@@ -52,12 +51,12 @@ constexpr auto kRows = rowsOf(
     choice("chosen", kNumbers, "1").byNumber().unknownIs("9").noItemIs("9"),
     choice("satellites", kPatterns, "11000"), period("period", 3600, kParts),
     period("wrapped", 3600, kWrapped).wrapping(86400), period("least", 3600, kLeast).atLeast(300),
-    digits("digits", "101", kBoxes), digits("lists", "201", kLists), mask("mask", kLong, 8),
-    mask("fields", "10010101", 8, kFields), integer("blank", 0).blankable(),
-    text("address", "none").resetTo(""), flag("server", 0).notStored(), flag("safe", 0),
-    integer("delay", 60).onlyWhen(when("A/use", "NB+")), integer("shared", 0).range(0, 20).notStored(),
-    volts("low", 5000).range(0, 31), volts("high", 6000).range(0, 31), integer("hysteresis", 5).range(0, 10),
-    integer("left", 20), integer("right", 30), integer("speed", 9600), integer("late", 0).readLast(),
+    digits("digits", "101", kBoxes), digits("lists", "201", kLists), mask("fields", "10010101", 8, kFields),
+    integer("blank", 0).blankable(), text("address", "none").resetTo(""), flag("server", 0).notStored(),
+    flag("safe", 0), integer("delay", 60).onlyWhen(when("A/use", "NB+")),
+    integer("shared", 0).range(0, 20).notStored(), volts("low", 5000).range(0, 31),
+    volts("high", 6000).range(0, 31), integer("hysteresis", 5).range(0, 10), integer("left", 20),
+    integer("right", 30), integer("speed", 9600), integer("late", 0).readLast(),
     digits("conditions", "000", kMoreBoxes), choice("preset", kNumbers, "0").byNumber().notStored(),
     text("one", ""), text("two", ""), group("A/CHILD").onlyWhen(when("A/use", "NB+|AIN")),
     link("shared", "A/shared", 7), integer("own", 3), group("W"), integer("alone", 3).notStored(), group("B"),
@@ -236,7 +235,6 @@ private Q_SLOTS:
         table.row("digits", "A/digits", "9x", "100", Change::otherForm);
         table.row("digits of lists", "A/lists", "231", "201", Change::otherForm);
         table.row("digit that a list lacks", "A/lists", "301", "001", Change::notOffered);
-        table.row("mask", "A/mask", "01x9", "01010000", Change::otherForm);
         table.row("fields of a mask", "A/fields", "01001101", "11110101", Change::notOffered);
         table.row("fields beyond the text", "A/fields", "0", "10000000", Change::notOffered);
         table.row("item that a list lacks", "A/fields", "10010110", "10010101", Change::notOffered);

@@ -15,7 +15,6 @@ struct Flag : ShownOf<Flag>
 
     constexpr Flag onValue(int value) const { return with(&Flag::on, value); }
     constexpr Flag checkedForZero() const { return with(&Flag::inverted, true); }
-    constexpr Flag resetTo(int value) const { return resetting(value); }
 };
 
 constexpr Flag flag(const char* key, int loadDefault)

@@ -32,11 +32,6 @@ QString spelledNumber(const Number& row, double inFile, const QString& text)
     return spelled(number, text);
 }
 
-QString spelledShown(const Number& row, double shown, const QString& text)
-{
-    return spelledNumber(row, row.isText ? shown : rounded(shown, row.decimals) * row.factor, text);
-}
-
 } // namespace
 
 double shownNumber(const Number& row, const QString& value)
@@ -47,9 +42,9 @@ double shownNumber(const Number& row, const QString& value)
            row.factor;
 }
 
-QString fileNumber(const Number& row, double shown)
+QString fileNumber(const Number& row, double shown, const QString& text)
 {
-    return spelledShown(row, shown, {});
+    return spelledNumber(row, row.isText ? shown : rounded(shown, row.decimals) * row.factor, text);
 }
 
 QString fileText(const Number& row, double value)
@@ -70,7 +65,7 @@ QString normalised(const Number& row, const Reading& reading)
     const double read = (row.singleRead ? static_cast<float>(inFile) : inFile) / row.factor;
     const double shown = row.isText || row.decimals > 0 ? rounded(read, row.decimals) : std::trunc(read);
     const double held = isOff ? 0 : std::clamp(shown, reading.limits.least, reading.limits.most);
-    return spelledShown(row, held, text);
+    return fileNumber(row, held, text);
 }
 
 } // namespace vlk

@@ -33,7 +33,6 @@ struct Number : ShownOf<Number>
     }
     constexpr Number stepping(float width) const { return with(&Number::step, width); }
     constexpr Number unit(const char* text) const { return with(&Number::unitKey, text); }
-    constexpr Number resetTo(double value) const { return resetting(value); }
     constexpr Number beside(const char* slider) const { return with(&Number::companion, slider); }
     constexpr Number offAtZero(const char* checkBox) const
     {
@@ -90,9 +89,10 @@ constexpr void check(const Number& row)
         throw "a default is outside its range";
 }
 
-// A number of the file in units of the widget, and back: rounded to the widget's decimals, not limited.
+// A number of the file in units of the widget, and back: rounded to the widget's decimals, not limited, and
+// `text` itself where that spells the same.
 double shownNumber(const Number& row, const QString& value);
-QString fileNumber(const Number& row, double shown);
+QString fileNumber(const Number& row, double shown, const QString& text = {});
 
 QString fileText(const Number& row, double value);
 QString normalised(const Number& row, const Reading& reading);

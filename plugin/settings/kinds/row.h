@@ -1,9 +1,10 @@
 #pragma once
 
 // What the rows of all kinds have in common. Each kind of setting is a type in a file pair of its own beside
-// this one: what only it has, the modifiers that describe it, and the functions that check it, read it and
-// tell it. setting.h lists the kinds.
+// this one: what only it has, the modifiers that describe it, and the functions that check it and read it.
+// setting.h lists the kinds.
 
+#include "base/code_list.h"
 #include "settings/names.h"
 
 #include <QStringList>
@@ -88,10 +89,7 @@ struct ShownOf : RowOf<Kind, Shown>
     constexpr Kind readLast() const { return this->with(&Kind::last, true); }
     constexpr Kind ifMissing(Missing policy) const { return this->with(&Kind::missing, policy); }
     constexpr Kind atReset(OnReset policy) const { return this->with(&Kind::onReset, policy); }
-
-protected:
-    template <class Value>
-    constexpr Kind resetting(Value value) const
+    constexpr Kind resetTo(auto value) const
     {
         return this->with(&Kind::reset, value).with(&Kind::onReset, OnReset::own);
     }
@@ -101,20 +99,6 @@ template <class Kind>
 constexpr Kind keyed(const char* key, auto loadDefault)
 {
     return Kind{}.with(&Kind::key, key).with(&Kind::load, loadDefault);
-}
-
-// Whether "NU|NS+" has the code.
-template <class Text>
-bool isListed(std::string_view codes, const Text& code)
-{
-    for (;;) {
-        const std::size_t end = std::min(codes.find('|'), codes.size());
-        if (QLatin1String(codes.data(), static_cast<int>(end)) == code)
-            return true;
-        if (end == codes.size())
-            return false;
-        codes.remove_prefix(end + 1);
-    }
 }
 
 // What a value can be at present: a range in units of the widget; of a choice and of a string of digits the
@@ -133,8 +117,8 @@ struct Limits
 // around where the row says so. An edit or a reset means what it says: a text that is no whole number is 0.
 enum class Source { file, edit };
 
-// What `normalised` of each kind makes a text of the file of, as a window would: limited to the range, rounded,
-// cut, or replaced where the text is none of the known codes.
+// What `normalised` of each kind makes a text of the file of, as a window would: limited to the range,
+// rounded, cut, or replaced where the text is none of the known codes.
 struct Reading
 {
     const QString& text;

@@ -6,8 +6,8 @@
 #include "settings/kinds/row.h"
 
 #include <array>
+#include <concepts>
 #include <optional>
-#include <type_traits>
 
 namespace vlk {
 
@@ -77,8 +77,7 @@ constexpr Link link(const char* key, Path target, int loadDefault)
 }
 
 template <class Row>
-concept IsStructure =
-    std::is_same_v<Row, Group> || std::is_same_v<Row, Constant> || std::is_same_v<Row, Link>;
+concept IsStructure = std::derived_from<Row, RowBase> && !std::derived_from<Row, Shown>;
 
 // Nothing reads a value into them.
 template <IsStructure Row>

@@ -29,7 +29,6 @@ struct Text : ShownOf<Text>
     const char* unexpectedKey = nullptr;
     std::int16_t maxLength = 0; // characters; 0: no limit
 
-    constexpr Text resetTo(const char* text) const { return resetting(text); }
     constexpr Text upTo(std::int16_t characters) const { return with(&Text::maxLength, characters); }
     constexpr Text typed(const char* expression) const { return with(&Text::pattern, expression); }
     constexpr Text expected(const char* expression, const char* complaint) const
