@@ -26,8 +26,8 @@ struct Sets
     Moment moment;
     When when;
     Path path;
-    const char*
-        to; // '*' leaves the position alone; then none comes, and what lies beyond the end is passed over
+    // '*' leaves its position alone; then no position comes, and what lies beyond the end is passed over.
+    const char* to;
     std::array<When, 2> also{}; // hold too
     bool isOnset = false;       // only where `when` did not hold before
     Numbers numbers{};

@@ -26,9 +26,7 @@ Values::Values(const SettingsTable& table) : layout_(&layoutOf(table))
 const QString& Values::value(int row) const
 {
     static const QString none;
-    if (row < 0 || row >= count())
-        return none;
-    return values_[holder(row)];
+    return row < 0 || row >= count() ? none : values_[holder(row)];
 }
 
 bool Values::isWritten(int row) const
