@@ -52,7 +52,8 @@ std::optional<QString> edit(Configuration* configuration, int key, const KeyEdit
     const Taken taken =
         takenAs(values.setting(holder), {edit.value, values.value(holder), values.limits(holder)});
     if (!isWhole(taken.change) || !canBeTyped(values.setting(holder), edit.value)) {
-        *problem = {What::badValue, edit.path, edit.value, isWhole(taken.change) ? Change::unknownCode : taken.change};
+        *problem = {What::badValue, edit.path, edit.value,
+                    isWhole(taken.change) ? Change::unknownCode : taken.change};
         return std::nullopt;
     }
     values.edit(row, taken.value);

@@ -1,7 +1,6 @@
 #include "review/preset.h"
 
 #include "base/translated.h"
-
 #include "review/document_walk.h"
 #include "xml/serialize.h"
 #include "xml/xml_document.h"

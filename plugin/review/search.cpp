@@ -1,8 +1,8 @@
 #include "review/search.h"
 
+#include "base/shown_text.h"
 #include "review/setting_parts.h"
 #include "review/setting_words.h"
-#include "base/shown_text.h"
 #include "review/value_text.h"
 
 #include <algorithm>

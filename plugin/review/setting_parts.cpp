@@ -1,8 +1,8 @@
 #include "review/setting_parts.h"
 
-#include "base/translated.h"
 #include "base/number_text.h"
 #include "base/shown_text.h"
+#include "base/translated.h"
 #include "review/value_text.h"
 
 namespace vlk::review {

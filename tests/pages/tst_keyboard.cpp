@@ -221,7 +221,7 @@ private:
                 continue;
             core.reset();
             vlk::XmlDocument in(fileFor(core, key), "DEVICE");
-            core.read(*in.root());
+            readFrom(*in.root(), core);
             if (core.isWritten(key))
                 return key;
         }
@@ -247,7 +247,7 @@ private:
         page.setDefaults();
         page.loadFromXml(in.root());
         core.reset();
-        core.read(*in.root());
+        readFrom(*in.root(), core);
     }
 
     // Edits what a person would who wants the field enabled: it, and what it stands in.
@@ -279,7 +279,7 @@ private:
     {
         vlk::XmlDocument out(QString(), "DEVICE");
         if constexpr (std::is_same_v<Page, vlk::Values>)
-            page.write(*out.root());
+            writeTo(*out.root(), page);
         else
             page.saveToXml(out.root());
         return out.text();
