@@ -73,6 +73,8 @@ Limits Values::limits(int row) const
 {
     row = holder(row);
     Limits limits = ownLimits(row);
+    if (layout_->rows[row].lists.empty())
+        return limits;
     for (const ExclusiveChoice& sharer : table().all<ExclusiveChoice>()) {
         if (sharer.path.row == row)
             limits.taken = takenFrom(sharer);

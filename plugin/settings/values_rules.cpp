@@ -104,8 +104,7 @@ void Values::assign(int row, const QString& value, Changes* changed)
     const TableLayout::Row& place = layout_->rows[row];
     const QString before = values_[row];
     const bool isNew = put(row, value, changed);
-    if (!place.distances.empty())
-        keepDistances(row, changed);
+    keepDistances(row, changed);
     if (!isNew)
         return;
     for (const RangeWhen* rule : place.follows) {
