@@ -233,8 +233,10 @@ private:
     {
         const vlk::Setting& setting = core.setting(index);
         auto values = presenceOf(core, index);
-        for (const vlk::Sets* save : core.row(index).saves)
-            values.append({core.row(save->when.row).filePath, "1"});
+        for (const vlk::Sets* save : core.row(index).saves) {
+            if (save->when)
+                values.append({core.row(save->when.row).filePath, "1"});
+        }
         if (const vlk::Number* number = setting.number(); number && number->zeroIsOff)
             values.append({core.row(index).filePath, vlk::fileNumber(*number, std::max(1.0, number->least))});
         return documentWith(values);
