@@ -2,9 +2,9 @@
 // counter "x look" is the ratio to that.
 
 #include "bench/side_by_side.h"
+#include "document/configuration.h"
 #include "review/advice.h"
 #include "settings/all_settings.h"
-#include "settings/configuration.h"
 #include "xml/xml_document.h"
 
 namespace {

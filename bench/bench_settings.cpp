@@ -3,8 +3,8 @@
 
 #include "bench/side_by_side.h"
 #include "bench/xml_reader_alone.h"
+#include "document/configuration.h"
 #include "settings/all_settings.h"
-#include "settings/configuration.h"
 #include "settings/transfer_settings.h"
 #include "xml/xml_document.h"
 

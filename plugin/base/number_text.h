@@ -13,5 +13,12 @@ qint64 leadingLong(const QString& text);
 int leadingInt(const QString& text);
 // The decimal sign is the point; what is no finite number is 0.
 double leadingDouble(const QString& text);
+bool isWholeNumber(const QString& text);
+// The digit at a position, 0 where there is none.
+int digitAt(const QString& text, std::size_t position);
+
+// `value` as a text, which is `text` itself where it spells the same.
+QString spelled(QLatin1String value, const QString& text);
+QString spelled(qint64 number, const QString& text);
 
 } // namespace vlk

@@ -1,9 +1,8 @@
 #include "dataset/data_set_boxes_tab.h"
 
 #include "base/translated.h"
-#include "settings/kinds/mask.h"
+#include "review/value_text.h"
 #include "settings/table_layout.h"
-#include "settings/value_text.h"
 
 #include <QCheckBox>
 #include <QComboBox>

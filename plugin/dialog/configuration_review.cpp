@@ -1,5 +1,6 @@
 #include "dialog/configuration_review.h"
 
+#include "document/values_document.h"
 #include "review/compare_files.h"
 #include "review/take_over.h"
 #include "settings/all_settings.h"
@@ -139,7 +140,7 @@ void ConfigurationReview::write(CXmlSection& root) const
 {
     configuration().write(root);
     if (isQuick())
-        history_.pages().back()->values().write(root);
+        writeTo(root, history_.pages().back()->values());
     root.commit();
 }
 

@@ -2,6 +2,7 @@
 
 #include "ui_VLK_Designer_Form_Config_Light.h"
 
+#include "base/shown_text.h"
 #include "dialog/quick_help.h"
 #include "link/device.h"
 #include "pages/form_auto_apn_list_new.h"

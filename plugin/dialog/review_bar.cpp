@@ -4,7 +4,7 @@
 #include "link/device.h"
 #include "review/setting_parts.h"
 #include "review/setting_words.h"
-#include "settings/value_text.h"
+#include "review/value_text.h"
 #include "typing/field_mark.h"
 #include "typing/line_icon.h"
 #include "windows/named_widget.h"

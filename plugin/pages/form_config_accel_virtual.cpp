@@ -3,8 +3,8 @@
 #include "ui_VLK_Designer_Form_Config_Accel_Virtual.h"
 
 #include "link/messages.h"
+#include "review/value_text.h"
 #include "settings/accel_settings.h"
-#include "settings/value_text.h"
 #include "typing/present_value.h"
 #include "windows/disabled_reason.h"
 #include "windows/named_widget.h"

@@ -2,8 +2,8 @@
 
 #include "ui_VLK_Designer_Form_Config_Lines_Out.h"
 
+#include "review/value_text.h"
 #include "settings/lines_out_settings.h"
-#include "settings/value_text.h"
 
 VLK_Form_Config_Lines_Out::VLK_Form_Config_Lines_Out(QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::VLK_Designer_Form_Config_Lines_Out>()),

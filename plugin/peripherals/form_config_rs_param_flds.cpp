@@ -1,8 +1,8 @@
 #include "peripherals/form_config_rs_param_flds.h"
 
 #include "fuel/form_fuel_view.h"
+#include "review/value_text.h"
 #include "settings/rs_settings.h"
-#include "settings/value_text.h"
 #include "windows/binder/row_inputs.h"
 #include "windows/column_head.h"
 #include "windows/named_widget.h"

@@ -3,10 +3,10 @@
 #include "review/advice_facts.h"
 #include "review/advice_rules.h"
 
+#include "base/number_text.h"
+#include "review/value_text.h"
 #include "settings/all_settings.h"
-#include "settings/kinds/spelling.h"
 #include "settings/quick_settings.h"
-#include "settings/value_text.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #include "review/advice_facts.h"
 
 #include "review/advice_rules.h"
+#include "review/value_text.h"
 #include "settings/data_set_boxes.h"
-#include "settings/value_text.h"
 
 #include <algorithm>
 

@@ -4,8 +4,8 @@
 // holds beside them.
 
 #include "catalogue/field_mask.h"
+#include "document/configuration.h"
 #include "review/advice_binding.h"
-#include "settings/configuration.h"
 
 namespace vlk::review::advice {
 

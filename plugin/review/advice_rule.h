@@ -10,7 +10,7 @@
 //         .telling(outerNumber())
 //
 // Paths begin with the section. In a rule over a family %1 is the number of the one, %2 that of the other. A
-// path that no table has stops a build with assertions at the first question for advice.
+// path that no setting has does not compile (advice_paths.h).
 
 #include "review/advice.h"
 

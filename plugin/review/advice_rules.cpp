@@ -1,6 +1,7 @@
 #include "review/advice_rules.h"
 
 #include "catalogue/field_catalogue.h"
+#include "review/advice_paths.h"
 #include "settings/bluetooth_sensor_types.h"
 #include "settings/rs_settings.h"
 #include "settings/shared_rows.h"
@@ -541,6 +542,8 @@ constexpr auto kBluetoothRules = rulesOf(
 
 constexpr auto kAll = rulesOf(kTransferRules, kRecordRules, kTrackRules, kSystemRules, kRsRules, kInputRules,
                               kOutputRules, kBluetoothRules);
+static_assert(arePathsKnown<kAll>);
+static_assert(isKnown(kMaskPath, {}) && isKnown(kFormatPath, {}));
 
 } // namespace
 

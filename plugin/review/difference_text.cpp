@@ -1,8 +1,9 @@
 #include "review/difference_text.h"
 
-#include "settings/kinds/spelling.h"
+#include "base/number_text.h"
+#include "base/shown_text.h"
+#include "review/value_text.h"
 #include "settings/quick_settings.h"
-#include "settings/value_text.h"
 
 #include <algorithm>
 

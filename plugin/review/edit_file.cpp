@@ -49,11 +49,11 @@ std::optional<QString> edit(Configuration* configuration, int key, const KeyEdit
     }
     Values& values = configuration->tables()[FileKeys::all()[key].table];
     const int holder = values.holder(row);
-    const Normalised taken =
-        normalise(values.setting(holder), {edit.value, values.value(holder), values.limits(holder)});
-    const bool isWhole = taken.change == Change::none || taken.change == Change::otherForm;
-    if (!isWhole || !canBeTyped(values.setting(holder), edit.value)) {
-        *problem = {What::badValue, edit.path, edit.value, isWhole ? Change::unknownCode : taken.change};
+    const Taken taken =
+        takenAs(values.setting(holder), {edit.value, values.value(holder), values.limits(holder)});
+    if (!isWhole(taken.change) || !canBeTyped(values.setting(holder), edit.value)) {
+        *problem = {What::badValue, edit.path, edit.value,
+                    isWhole(taken.change) ? Change::unknownCode : taken.change};
         return std::nullopt;
     }
     values.edit(row, taken.value);

@@ -8,12 +8,6 @@ namespace vlk::review {
 
 namespace {
 
-// Whether a load loses nothing of a text.
-bool isWhole(Change change)
-{
-    return change == Change::none || change == Change::otherForm;
-}
-
 // What settings read missing keys as, by table and row, before ranges and other rules.
 const QString& plainDefault(int table, int row)
 {
@@ -23,25 +17,22 @@ const QString& plainDefault(int table, int row)
     own.resize(layout.rows.size());
     // Some of them are texts of the present language or of the model.
     const auto* text = layout.rows[row].setting->as<Text>();
-    if (own[row].isNull() || (text && (text->load.key || text->load.namesModel)))
+    if (own[row].isNull() || (text && text->load.follows()))
         own[row] = loadDefault(*layout.rows[row].setting);
     return own[row];
 }
 
-Normalised normalisedAs(const Values& values, int row, const QString& text)
+Taken takenAs(const Values& values, int row, const QString& text)
 {
-    // The window always writes the same there, whatever it reads.
-    if (const auto* constant = values.setting(row).as<Constant>())
-        return normalisedBy(QString::fromLatin1(constant->load), text, [] { return Change::notOffered; });
     const int holder = values.holder(row);
-    return normalise(values.setting(holder), {text, values.value(holder), values.limits(holder)});
+    return takenAs(values.setting(holder), {text, values.value(holder), values.limits(holder)});
 }
 
 QString defaultOf(const Values& values, int table, int row)
 {
     const QString& text = plainDefault(table, row);
     const QString now = values.written(row);
-    return text == now ? now : normalisedAs(values, row, text).value;
+    return text == now ? now : takenAs(values, row, text).value;
 }
 
 } // namespace
@@ -124,7 +115,7 @@ void FileState::takeText(int key, const QString& text, const Configuration& load
     Held& held = held_[key];
     if (held.row < 0)
         held.row = FileKeys::all()[key].rows.front();
-    const Normalised taken = normalisedAs(loaded.tables()[FileKeys::all()[key].table], held.row, text);
+    const Taken taken = takenAs(loaded.tables()[FileKeys::all()[key].table], held.row, text);
     held.isThere = true;
     held.text = text;
     held.isWhole = isWhole(taken.change);

@@ -4,8 +4,9 @@
 // configuration would write, or what missing keys read as. Two of them are compared by `meaning`, so that
 // another spelling of a value is none.
 
+#include "document/configuration.h"
+#include "review/change.h"
 #include "review/file_keys.h"
-#include "settings/configuration.h"
 
 struct CXmlSection;
 

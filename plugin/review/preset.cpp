@@ -1,5 +1,6 @@
 #include "review/preset.h"
 
+#include "base/translated.h"
 #include "review/document_walk.h"
 #include "review/setting_parts.h"
 #include "xml/serialize.h"

@@ -1,8 +1,8 @@
 #include "review/report.h"
 
 #include "base/clock.h"
-#include "settings/kinds/spelling.h"
-#include "settings/value_text.h"
+#include "base/shown_text.h"
+#include "review/value_text.h"
 
 #include <algorithm>
 #include <map>

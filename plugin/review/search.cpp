@@ -1,10 +1,10 @@
 #include "review/search.h"
 
+#include "base/shown_text.h"
 #include "review/search_words.h"
 #include "review/setting_parts.h"
 #include "review/setting_words.h"
-#include "settings/kinds/spelling.h"
-#include "settings/value_text.h"
+#include "review/value_text.h"
 
 #include <QRegularExpression>
 

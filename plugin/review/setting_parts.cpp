@@ -1,8 +1,9 @@
 #include "review/setting_parts.h"
 
+#include "base/number_text.h"
+#include "base/shown_text.h"
 #include "base/translated.h"
-#include "settings/kinds/spelling.h"
-#include "settings/value_text.h"
+#include "review/value_text.h"
 
 namespace vlk::review {
 

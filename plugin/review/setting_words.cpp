@@ -1,7 +1,7 @@
 #include "review/setting_words.h"
 
-#include "settings/kinds/spelling.h"
-#include "settings/value_text.h"
+#include "base/shown_text.h"
+#include "review/value_text.h"
 
 #include <algorithm>
 

@@ -44,15 +44,15 @@ std::vector<int> tiedTo(const TableLayout& layout, int row)
     };
     for (const Sets& rule : layout.table->all<Sets>()) {
         if (rule.moment != Moment::edit && rule.moment != Moment::save)
-            tie({rule.path.row, rule.when.row, rule.when.other, rule.also.row});
+            tie({rule.path.row, rule.when.row, rule.when.other, rule.also[0].row, rule.also[1].row});
     }
     for (const Distance& rule : layout.table->all<Distance>())
         tie({rule.first.row, rule.second.row, rule.gapFrom.row});
     for (const RangeWhen& rule : layout.table->all<RangeWhen>())
         tie({rule.path.row, rule.when.row});
-    for (const TableLayout::SharedList* list : layout.rows[row].lists) {
-        for (const TableLayout::Sharer& sharer : *list)
-            rows.push_back(sharer.rule->path.row);
+    for (const ExclusiveChoice& rule : layout.table->all<ExclusiveChoice>()) {
+        if (layout.rows[row].isOf(rule))
+            rows.push_back(rule.path.row);
     }
     return rows;
 }

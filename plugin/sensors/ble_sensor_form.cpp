@@ -1,7 +1,8 @@
 #include "sensors/ble_sensor_form.h"
 
+#include "document/values_document.h"
+#include "review/value_text.h"
 #include "settings/bluetooth_settings.h"
-#include "settings/value_text.h"
 #include "windows/binder/page_settings.h"
 #include "windows/binder/row_inputs.h"
 
@@ -63,7 +64,7 @@ void BleSensorForm::load(CXmlSection* bluetooth)
     if (!bluetooth)
         return;
     Values read = element();
-    read.read(*bluetooth);
+    readFrom(*bluetooth, read);
     take(read);
 }
 
@@ -76,7 +77,7 @@ void BleSensorForm::save(CXmlSection* bluetooth) const
         if (saved.row(row).base->stored)
             saved.edit(row, settings_.value(saved.row(row).path));
     }
-    saved.write(*bluetooth);
+    writeTo(*bluetooth, saved);
 }
 
 void BleSensorForm::setDefaults()

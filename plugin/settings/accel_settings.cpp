@@ -1,39 +1,9 @@
 #include "settings/accel_settings.h"
 
+#include "settings/accel_rows.h"
+
 namespace vlk {
 
-namespace {
-
-constexpr Heading kSensors{"cfgt9_006"};
-
-constexpr auto percent(const char* key, double loadDefault, double most)
-{
-    return real(key, loadDefault, 1).range(0, most).stepping(0.1).unit("abbr_008");
-}
-
-constexpr auto kRows = rowsOf(group("SENSORS"), kSensors,
-                              percent("sh1", 50, 100)
-                                  .in("doubleSpinBox_Level_SH1")
-                                  .beside("horizontalSlider_Level_SH1")
-                                  .caption("cfgt9_002"),
-                              percent("sh2", 100, 100)
-                                  .in("doubleSpinBox_Level_SH2")
-                                  .beside("horizontalSlider_Level_SH2")
-                                  .caption("cfgt9_003"),
-                              percent("sh3", 2, 10)
-                                  .in("doubleSpinBox_Level_SH3")
-                                  .beside("horizontalSlider_Level_SH3")
-                                  .caption("cfgt9_004"),
-                              real("sh4", 25, 2)
-                                  .range(0, 25)
-                                  .stepping(0.5)
-                                  .unit("abbr_016")
-                                  .in("doubleSpinBox_Level_SH4")
-                                  .beside("horizontalSlider_Level_SH4")
-                                  .caption("cfgt9_005"));
-
-} // namespace
-
-constexpr SettingsTable kAccelSettings = tableOf<kRows>("ACCEL", "cfgt9_001");
+constexpr SettingsTable kAccelSettings = tableOf<accel::kRows>(accel::kSection, "cfgt9_001");
 
 } // namespace vlk

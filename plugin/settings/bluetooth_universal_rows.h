@@ -73,12 +73,12 @@ inline constexpr Heading sensor{"cfgt17_024", "%1 %2"};
 inline constexpr Heading condition{"cfgt17_057", "%1: %3", &sensor};
 inline constexpr Heading value{"cfgt17_066", "%1: %3", &sensor};
 
-constexpr Integer byte(const char* key, const char* widget, const char* caption)
+constexpr Number byte(const char* key, const char* widget, const char* caption)
 {
     return integer(key, 0).range(0, 255).in(widget).caption(caption);
 }
 
-constexpr Integer type(int loadDefault, const char* widget)
+constexpr Number type(int loadDefault, const char* widget)
 {
     return hexadecimal("type", loadDefault).range(0, 255).in(widget).caption("cfgt17_060");
 }
@@ -88,7 +88,7 @@ constexpr Text messageMask(const char* widget)
     return text("mask", "").upTo(32).in(widget).caption("cfgt17_062");
 }
 
-constexpr Integer rowGroup(const char* check, const char* widget)
+constexpr Number rowGroup(const char* check, const char* widget)
 {
     return integer("group", 0)
         .range(1, 4)

@@ -107,7 +107,7 @@ constexpr std::array<DataSetBox, count> orAt(std::array<DataSetBox, count> all, 
 template <class... Boxes>
 constexpr auto in(DataSetTab tab, const char* group, const Boxes&... boxes)
 {
-    auto all = rulesOf(boxes...);
+    auto all = joined(boxes...);
     for (DataSetBox& made : all) {
         made.tab = tab;
         made.group = group;
@@ -184,7 +184,7 @@ inline constexpr DataSetGroup kDataSetGroups[] = {
 inline constexpr auto kDataSetBoxes = [] {
     using namespace data_set;
     using enum DataSetTab;
-    return rulesOf(
+    return joined(
         in(main, "groupBox_Main",
             alwaysOn("checkBox_NumPage",     field("NumPage"),      "cfgt2f_003"),
             alwaysOn("checkBox_Code",        field("Code"),         "cfgt2f_004"),

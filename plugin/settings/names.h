@@ -1,11 +1,10 @@
 #pragma once
 
 // Names in two parts, told apart where they are written: "POINTS/angle" is the key `angle` of the element
-// POINTS, "TACH/comboBox_Type" a widget of the form TACH. In repeated rows and rules every name may hold %1,
-// the number of the repetition, and %2, the number of a repetition inside it.
+// POINTS, "TACH/comboBox_Type" a widget of the form TACH. In repeated rows and rules every name may hold
+// numbers.
 
-#include <cstdint>
-#include <string_view>
+#include "base/numbered_name.h"
 
 namespace vlk {
 
@@ -66,30 +65,6 @@ constexpr When unless(Path path, const char* codes = "")
 constexpr When whenSame(Path path, const char* element)
 {
     return {path, false, true, -1, element};
-}
-
-// The number of a repetition and of the one inside it, 0 for none.
-struct Numbers
-{
-    std::uint8_t outer = 0;
-    std::uint8_t inner = 0;
-};
-
-// Hash of a name with its numbers in, behind what `hash` is that of.
-constexpr std::uint64_t hashOf(std::string_view text, Numbers numbers,
-                               std::uint64_t hash = 14695981039346656037U)
-{
-    const auto add = [&](char sign) { hash = (hash ^ static_cast<std::uint8_t>(sign)) * 1099511628211U; };
-    const char* const end = text.data() + text.size();
-    for (const char* at = text.data(); at != end; ++at) {
-        const char next = *at == '%' && at + 1 != end ? at[1] : '\0';
-        const int number = next == '1' ? numbers.outer : next == '2' ? numbers.inner : 0;
-        if (number > 9)
-            add(static_cast<char>('0' + number / 10));
-        add(number > 0 ? static_cast<char>('0' + number % 10) : *at);
-        at += number > 0;
-    }
-    return hash;
 }
 
 } // namespace vlk

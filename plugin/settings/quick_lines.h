@@ -6,6 +6,8 @@
 #include "catalogue/field_catalogue.h"
 #include "settings/settings_table.h"
 
+#include <algorithm>
+
 namespace vlk::quick {
 
 inline constexpr Code kUses[] = {
@@ -40,6 +42,18 @@ inline constexpr Code kNoOrYes[] = {{.code = "0"}, {.code = "1"}};
 inline constexpr const char* kToSupply = "NS+|NB+";
 inline constexpr const char* kToGround = "NS-|NB-";
 inline constexpr const char* kDigital = "NS+|NB+|NS-|NB-";
+
+// For a rule: a mask with these fields of a record, which leaves the others alone.
+template <char to, int... fields>
+inline constexpr auto kFieldsAs = [] {
+    std::array<char, kFieldCount + 1> mask{};
+    std::fill_n(mask.begin(), kFieldCount, '*');
+    ((mask[fields] = to), ...);
+    return mask;
+}();
+template <int... fields>
+inline constexpr const char* kWithFields = kFieldsAs<'1', fields...>.data();
+inline constexpr const char* kMask = "PROTOCOL/ZETA/mask";
 
 inline constexpr Heading kInputLines{"cfgwl_017"};
 
@@ -95,17 +109,12 @@ inline constexpr auto kLinePresets = repeat<3>([](int) {
 });
 
 // Fields of a record: the states of the digital lines, and the voltage of each line.
-inline constexpr int kLineStates[] = {field("StateIn1")};
-inline constexpr int kLineVoltages[][1] = {
-    {field("StateU_Ain1")}, {field("StateU_Ain2")}, {field("StateU_Ain3")}};
+inline constexpr const char* kLineVoltages[] = {
+    kWithFields<field("StateU_Ain1")>, kWithFields<field("StateU_Ain2")>, kWithFields<field("StateU_Ain3")>};
 
 inline constexpr auto kLineMasks = repeat<3>([](int number) {
-    return rulesOf(MaskPositions{.path = "PROTOCOL/ZETA/mask",
-                                 .positions = kLineStates,
-                                 .when = {when("SENSORS/IN%1/normState", kDigital)}},
-                   MaskPositions{.path = "PROTOCOL/ZETA/mask",
-                                 .positions = kLineVoltages[number - 1],
-                                 .when = {when("SENSORS/IN%1/normState", "AIN")}});
+    return rulesOf(onSave(when("SENSORS/IN%1/normState", kDigital), kMask, kWithFields<field("StateIn1")>),
+                   onSave(when("SENSORS/IN%1/normState", "AIN"), kMask, kLineVoltages[number - 1]));
 });
 
 } // namespace vlk::quick

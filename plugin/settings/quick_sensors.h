@@ -3,8 +3,7 @@
 // The fuel level sensors of the quick window: two on RS-485, two over Bluetooth. The file keeps them as the
 // full window does; what the quick window does not show of a sensor has a fixed value.
 
-#include "catalogue/field_catalogue.h"
-#include "settings/settings_table.h"
+#include "settings/quick_lines.h"
 #include "settings/shared_rows.h"
 
 namespace vlk::quick {
@@ -131,32 +130,27 @@ inline constexpr auto kSensorSets =
             always(when("BLUETOOTH/sensors"), "BLUETOOTH/CHANNEL1/device", "SENS"));
 
 // Fields of a record: level and temperature of each sensor, and what type 2 adds.
-inline constexpr int kRsFields[][2] = {{field("LevelRS485_1"), field("TempRS485_1")},
-                                       {field("LevelRS485_2"), field("TempRS485_2")}};
-inline constexpr int kWirelessFields[][2] = {{field("LevelRS485_3"), field("Temp3")},
-                                             {field("LevelRS485_4"), field("Temp4")}};
-inline constexpr int kExtraFields[][1] = {{field("RS485Freq3")}, {field("RS485Freq4")}};
+inline constexpr const char* kRsFields[] = {kWithFields<field("LevelRS485_1"), field("TempRS485_1")>,
+                                            kWithFields<field("LevelRS485_2"), field("TempRS485_2")>};
+inline constexpr const char* kWirelessFields[] = {kWithFields<field("LevelRS485_3"), field("Temp3")>,
+                                                  kWithFields<field("LevelRS485_4"), field("Temp4")>};
+inline constexpr const char* kExtraFields[] = {kWithFields<field("RS485Freq3")>,
+                                               kWithFields<field("RS485Freq4")>};
 
 constexpr auto wirelessMasks(int number)
 {
     const std::size_t sensor = static_cast<std::size_t>(number) - 3;
     constexpr When inUse = when("BLUETOOTH/sensors");
     constexpr When checked = when("BLUETOOTH/sensor%1", "1");
-    return numbered(rulesOf(MaskPositions{.path = "PROTOCOL/ZETA/mask",
-                                          .positions = kWirelessFields[sensor],
-                                          .when = {inUse, checked}},
-                            MaskPositions{.path = "PROTOCOL/ZETA/mask",
-                                          .positions = kExtraFields[sensor],
-                                          .when = {inUse, checked, when("BLUETOOTH/FS%1/type", "2")}}),
-                    number);
+    return numbered(
+        rulesOf(onSave(inUse, kMask, kWirelessFields[sensor]).onlyIf(checked),
+                onSave(inUse, kMask, kExtraFields[sensor]).onlyIf(checked, when("BLUETOOTH/FS%1/type", "2"))),
+        number);
 }
 
-inline constexpr auto kSensorMasks = rulesOf(repeat<2>([](int number) {
-                                                 return MaskPositions{.path = "PROTOCOL/ZETA/mask",
-                                                                      .positions = kRsFields[number - 1],
-                                                                      .when = {when("RS485/sensor%1")}};
-                                             }),
-                                             wirelessMasks(3), wirelessMasks(4));
+inline constexpr auto kSensorMasks = rulesOf(
+    repeat<2>([](int number) { return onSave(when("RS485/sensor%1"), kMask, kRsFields[number - 1]); }),
+    wirelessMasks(3), wirelessMasks(4));
 
 constexpr auto wirelessEnables(int number)
 {

@@ -92,11 +92,16 @@ constexpr auto kRows = rowsOf(
 
     quick::kLineRows, quick::kRsRows, quick::kBluetoothRows);
 
+// Fields of a record that the window decides about.
+constexpr const char* kUndecided = quick::kFieldsAs<'0', field("StateU_Ain1"), field("StateU_Ain2"), field("StateU_Ain3"), field("StateIn1"), field("StateIn_Imp1"), field("StateIn_Imp2"), field("Frequency1"), field("Frequency2"), field("LevelRS485_1"), field("LevelRS485_2"), field("LevelRS485_3"), field("LevelRS485_4"), field("LevelRS232"), field("TempRS485_1"), field("TempRS485_2"), field("TempRS485_3"), field("TempRS485_4")>.data();
+
 // After a reset the access point is open to all; choosing an operator decides who may edit it.
 constexpr auto kSets =
     rulesOf(onEdit(when("TRANS/AP1/operator", "0|1|2|3|4|5|6"), "TRANS/AP1/untouched", "0"),
             onSave(unless("TRANS/SRV1/format", "VLKB_ZETA"), "TRANS/SRV1/format", "VLKB_ZETA"),
-            quick::kLineSets, quick::kSensorSets);
+            quick::kLineSets, quick::kSensorSets,
+            // What the window decides about is cleared first, then set by what is switched on.
+            onSave({}, quick::kMask, kUndecided), quick::kLineMasks, quick::kSensorMasks);
 
 constexpr auto kPresets =
     rulesOf(Presets{.trigger = "TRANS/AP1/operator",
@@ -109,18 +114,6 @@ constexpr auto kPresets =
                                "TRACK/POINTS/stopTimer"},
                     .rows = kTrackRows},
             quick::kLinePresets);
-
-// What the window decides about is cleared first, then set by what is switched on.
-constexpr int kDecided[] = {
-    field("StateU_Ain1"),  field("StateU_Ain2"),  field("StateU_Ain3"),  field("StateIn1"),
-    field("StateIn_Imp1"), field("StateIn_Imp2"), field("Frequency1"),   field("Frequency2"),
-    field("LevelRS485_1"), field("LevelRS485_2"), field("LevelRS485_3"), field("LevelRS485_4"),
-    field("LevelRS232"),   field("TempRS485_1"),  field("TempRS485_2"),  field("TempRS485_3"),
-    field("TempRS485_4"),
-};
-
-constexpr auto kMasks = rulesOf(MaskPositions{.path = "PROTOCOL/ZETA/mask", .positions = kDecided, .to = '0'},
-                                quick::kLineMasks, quick::kSensorMasks);
 
 constexpr auto kDoubts = rulesOf(shared::noPort("TRANS/SRV1/port", "TRANS/SRV1/addr"));
 
@@ -140,6 +133,6 @@ constexpr auto kEnables =
 } // namespace
 
 constexpr SettingsTable kQuickSettings =
-    tableOver<kRows, kSets, kPresets, kMasks, kDoubts, kEnables>("", "cfgwnd_001");
+    tableOver<kRows, kSets, kPresets, kDoubts, kEnables>("", "cfgwnd_001");
 
 } // namespace vlk

@@ -18,7 +18,7 @@ enum class Moment : std::uint8_t {
     editOrRead, // and a read, as soon as it has read the path of `when`
     afterRead,  // a read that is through
     always,     // all of these and a reset: the file cannot hold another value
-    save        // a save writes it, the value stays
+    save        // a save writes it, the value stays; of several rules each is laid over those before it
 };
 
 struct Sets
@@ -26,17 +26,18 @@ struct Sets
     Moment moment;
     When when;
     Path path;
-    const char* to;       // '*' in a string of digits leaves its position alone
-    When also{};          // holds too
-    bool isOnset = false; // only where `when` did not hold before
+    // '*' leaves its position alone; then no position comes, and what lies beyond the end is passed over.
+    const char* to;
+    std::array<When, 2> also{}; // hold too
+    bool isOnset = false;       // only where `when` did not hold before
     Numbers numbers{};
 
     constexpr void eachPath(auto visit) { visit(when), visit(path), visit(also); }
 
-    constexpr Sets onlyIf(When condition) const
+    constexpr Sets onlyIf(When first, When second = {}) const
     {
         Sets changed = *this;
-        changed.also = condition;
+        changed.also = {first, second};
         return changed;
     }
     constexpr Sets onset() const
@@ -108,6 +109,8 @@ struct ExclusiveChoice
     const char* holder = "";
     Path split{};
     Numbers numbers{};
+    std::uint64_t listHash = 0; // of the two names with their numbers in, once its table is made
+    std::uint64_t holderHash = 0;
 
     constexpr void eachPath(auto visit) { visit(path), visit(when), visit(also), visit(split); }
 };
@@ -135,20 +138,6 @@ struct Presets
     Numbers numbers{};
 
     constexpr void eachPath(auto visit) { visit(trigger), visit(fields); }
-};
-
-// Positions of a string of 0 and 1, counted from 0, that a save sets to `to` while all conditions hold,
-// whatever the value has there. What comes later in the list counts more; what lies beyond the end of the
-// string is passed over.
-struct MaskPositions
-{
-    Path path;
-    std::span<const int> positions{};
-    char to = '1';
-    std::array<When, 3> when{};
-    Numbers numbers{};
-
-    constexpr void eachPath(auto visit) { visit(path), visit(when); }
 };
 
 // A value that is taken as it stands, and marked in its widget while all conditions hold: `complaint` is the

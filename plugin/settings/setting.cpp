@@ -2,18 +2,16 @@
 
 namespace vlk {
 
-Normalised normalise(const Setting& setting, const Reading& reading)
-{
-    Normalised taken = std::visit([&](const auto& row) { return normalised(row, reading); }, setting.kind);
-    if (taken.value == reading.text)
-        taken.change = Change::none;
-    return taken;
-}
+namespace {
 
-QString loadDefault(const Setting& setting)
+QString defaultOf(const Setting& setting, bool isReset)
 {
     return std::visit(
-        [](const auto& row) {
+        [isReset](const auto& row) {
+            if constexpr (requires { row.reset; }) {
+                if (isReset && row.onReset == OnReset::own)
+                    return fileText(row, row.reset);
+            }
             if constexpr (requires { row.load; })
                 return fileText(row, row.load);
             else
@@ -22,23 +20,21 @@ QString loadDefault(const Setting& setting)
         setting.kind);
 }
 
-QString resetValue(const Setting& setting)
+} // namespace
+
+QString normalise(const Setting& setting, const Reading& reading)
 {
-    if (setting.base().onReset != OnReset::own)
-        return loadDefault(setting);
-    return std::visit(
-        [](const auto& row) {
-            if constexpr (requires { row.reset; })
-                return fileText(row, row.reset);
-            else
-                return QString();
-        },
-        setting.kind);
+    return std::visit([&](const auto& row) { return normalised(row, reading); }, setting.kind);
 }
 
-QString valueText(const Setting& setting, const QString& value, const char* unit)
+QString loadDefault(const Setting& setting)
 {
-    return std::visit([&](const auto& row) { return toldText(row, value, unit); }, setting.kind);
+    return defaultOf(setting, false);
+}
+
+QString resetValue(const Setting& setting)
+{
+    return defaultOf(setting, true);
 }
 
 } // namespace vlk

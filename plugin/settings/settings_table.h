@@ -4,13 +4,17 @@
 // table over several sections has an empty name and begins its paths with theirs ("TRACK/POINTS/angle").
 //
 //     constexpr Heading kAlways{"cfgt3_002"};
-//     constexpr auto kRows = rowsOf(group("POINTS"), kAlways, flag(...), integer(...), ...);
+//     constexpr auto kRows = rowsOf(
+//         group("POINTS"), kAlways,
+//         flag("useMaxSpeed", 0).in("Always_checkBox_MaxSpeed"),
+//         integer("maxSpeed", 100).range(1, 180).unit("abbr_024").in("Always_spinBox_MaxSpeed_Value"));
 //     constexpr auto kSets = rulesOf(onEdit(...), ...);
 //     constexpr SettingsTable kTrackSettings = tableOf<kRows, kSets>("TRACK", "cfgt3_001");
 //
 // tableOf() refuses at compile time what is wrong (table_maker.h): a default outside its range or choices, a
 // path or an object name twice, a rule whose path or widget no row has.
 
+#include "base/joined.h"
 #include "settings/table_maker.h"
 
 #include <tuple>
@@ -27,7 +31,7 @@ struct SettingsTable
     const char* title = ""; // of the page, a translation key
     std::span<const Setting> rows{};
     bool emptied = true; // a save empties the section first
-    RuleLists<Sets, Distance, RangeWhen, ExclusiveChoice, Presets, MaskPositions, Doubt, Enable> rules{};
+    RuleLists<Sets, Distance, RangeWhen, ExclusiveChoice, Presets, Doubt, Enable> rules{};
 
     // Of one kind.
     template <class Rule>
@@ -37,59 +41,24 @@ struct SettingsTable
     }
 };
 
+constexpr std::array<Setting, 1> listOf(const std::derived_from<RowBase> auto& row)
+{
+    return {row};
+}
+constexpr std::array<Setting, 0> listOf(const Heading&)
+{
+    return {};
+}
+
 namespace tables {
 
-template <class Item, std::size_t n>
-constexpr std::array<Item, n> listOf(const std::array<Item, n>& items)
-{
-    return items;
-}
-
-template <class Item>
-constexpr auto listOf(const Item& item)
-{
-    if constexpr (std::is_same_v<Heading, Item>)
-        return std::array<Setting, 0>{};
-    else if constexpr (std::is_base_of_v<RowBase, Item>)
-        return std::array<Setting, 1>{item};
-    else
-        return std::array<Item, 1>{item};
-}
-
-template <class Item, std::size_t... sizes>
-constexpr auto joined(const std::array<Item, sizes>&... lists)
-{
-    std::array<Item, (sizes + ... + 0)> all{};
-    auto place = all.begin();
-    ((place = std::copy(lists.begin(), lists.end(), place)), ...);
-    return all;
-}
-
-constexpr RowBase& baseOf(Setting& setting)
-{
-    return std::visit([](auto& row) -> RowBase& { return row; }, setting.kind);
-}
 constexpr Numbers& numbersOf(Setting& setting)
 {
-    return baseOf(setting).numbers;
+    return setting.base().numbers;
 }
 constexpr Numbers& numbersOf(auto& rule)
 {
     return rule.numbers;
-}
-
-// What an item of a list of rows is: a heading, or rows that take the one before them.
-template <class Item>
-constexpr void takeHeading(const Item& item, auto& row, const Heading*& heading)
-{
-    if constexpr (std::is_same_v<Heading, Item>) {
-        heading = &item;
-    } else {
-        for (std::size_t i = 0; i < listOf(item).size(); ++i, ++row) {
-            if (const Heading*& own = baseOf(*row).heading; !own)
-                own = heading;
-        }
-    }
 }
 
 } // namespace tables
@@ -98,17 +67,25 @@ constexpr void takeHeading(const Item& item, auto& row, const Heading*& heading)
 // for rows that have one already.
 constexpr auto rowsOf(const auto&... items)
 {
-    auto all = tables::joined(tables::listOf(items)...);
+    auto all = joinedLists(listOf(items)...);
     auto row = all.begin();
     const Heading* heading = nullptr;
-    (tables::takeHeading(items, row, heading), ...);
+    const auto take = [&]<class Item>(const Item& item) {
+        if constexpr (std::is_same_v<Heading, Item>)
+            heading = &item;
+        for (std::size_t count = listOf(item).size(); count > 0; --count, ++row) {
+            if (!row->base().heading)
+                row->base().heading = heading;
+        }
+    };
+    (take(items), ...);
     return all;
 }
 
 // Rules of one kind and arrays of them in one array.
 constexpr auto rulesOf(const auto&... rules)
 {
-    return tables::joined(tables::listOf(rules)...);
+    return joined(rules...);
 }
 
 // Rows or rules that belong to repetition `number`, for repetitions that differ. What is repeated inside has
@@ -129,7 +106,7 @@ constexpr auto repeat(Make make)
 {
     return [&]<int... i>(std::integer_sequence<int, i...>)
     {
-        return tables::joined(numbered(tables::listOf(make(i + 1)), i + 1)...);
+        return joined(numbered(listOf(make(i + 1)), i + 1)...);
     }
     (std::make_integer_sequence<int, count>());
 }

@@ -1,6 +1,7 @@
 #include "settings/table_layout.h"
 
 #include <algorithm>
+#include <map>
 #include <mutex>
 
 namespace vlk {
@@ -16,7 +17,10 @@ void addRows(TableLayout& layout)
         const QString name = numberedName(base.pathName(), base.numbers);
         const int place = static_cast<int>(layout.rows.size());
         if (const auto* group = setting.as<Group>()) {
-            layout.elements.push_back({group, key.split(QLatin1Char('/')), false, false, place, place});
+            const QStringList path = key.split(QLatin1Char('/'));
+            for (TableLayout::Element& above : layout.elements)
+                above.nested = above.nested || above.path == path.mid(0, path.size() - 1);
+            layout.elements.push_back({group, path, false, false, place, place});
             elementName = name + QLatin1Char('/');
             continue;
         }
@@ -24,6 +28,8 @@ void addRows(TableLayout& layout)
         element.endRow = place + 1;
         element.stored = element.stored || base.stored;
         const auto* link = setting.as<Link>();
+        if (const auto* text = setting.as<Text>(); text && text->load.follows())
+            layout.following.push_back(place);
         layout.rows.push_back(
             {.setting = &setting,
              .base = &base,
@@ -36,14 +42,10 @@ void addRows(TableLayout& layout)
     }
 }
 
-// What is in the file with others in it, or without a row.
-void nestElements(TableLayout& layout)
+// Once it is known what an element holds.
+void addStored(TableLayout& layout)
 {
-    for (const TableLayout::Element& inner : layout.elements) {
-        const QStringList above = inner.path.mid(0, inner.path.size() - 1);
-        for (std::size_t i = 0; i < layout.elements.size() && !above.isEmpty(); ++i)
-            layout.elements[i].nested = layout.elements[i].nested || layout.elements[i].path == above;
-    }
+    // What is in the file with others in it, or without a row.
     for (TableLayout::Element& element : layout.elements)
         element.stored = element.stored || element.nested || element.firstRow == element.endRow;
     // What lives in the window alone is not in the file: beside values that are, it starts anew, and links
@@ -59,13 +61,13 @@ void nestElements(TableLayout& layout)
 void addRules(TableLayout& layout)
 {
     using Row = TableLayout::Row;
-    const auto add = [&](auto Row::*rules, const auto* rule, auto... rows) {
+    const auto add = [&](auto Row::*list, const auto& item, auto... rows) {
         for (const int row : {rows...}) {
             if (row < 0)
                 continue;
-            auto& known = layout.rows[row].*rules;
-            if (std::find(known.begin(), known.end(), rule) == known.end())
-                known.push_back(rule);
+            auto& known = layout.rows[row].*list;
+            if (std::find(known.begin(), known.end(), item) == known.end())
+                known.push_back(item);
         }
     };
     for (const Sets& rule : layout.table->all<Sets>()) {
@@ -84,25 +86,11 @@ void addRules(TableLayout& layout)
         add(&Row::distances, &rule, rule.first.row, rule.second.row, rule.gapFrom.row);
     for (const Presets& rule : layout.table->all<Presets>())
         add(&Row::presets, &rule, rule.trigger.row);
-    for (const ExclusiveChoice& rule : layout.table->all<ExclusiveChoice>()) {
-        TableLayout::SharedList& list = layout.sharedLists[hashOf(rule.list, rule.numbers)];
-        list.push_back({&rule, hashOf(rule.holder, rule.numbers)});
-        add(&Row::lists, static_cast<const TableLayout::SharedList*>(&list), rule.path.row, rule.when.row,
-            rule.also.row, rule.split.row);
-    }
+    for (const ExclusiveChoice& rule : layout.table->all<ExclusiveChoice>())
+        add(&Row::lists, rule.listHash, rule.path.row, rule.when.row, rule.also.row, rule.split.row);
 }
 
 } // namespace
-
-QString numberedName(std::string_view name, Numbers numbers)
-{
-    QString text = QString::fromLatin1(name.data(), static_cast<int>(name.size()));
-    if (numbers.outer > 0)
-        text.replace(QLatin1String("%1"), QString::number(numbers.outer));
-    if (numbers.inner > 0)
-        text.replace(QLatin1String("%2"), QString::number(numbers.inner));
-    return text;
-}
 
 const TableLayout& layoutOf(const SettingsTable& table)
 {
@@ -116,7 +104,7 @@ const TableLayout& layoutOf(const SettingsTable& table)
         layout.table = &table;
         layout.section = QString::fromLatin1(table.section);
         addRows(layout);
-        nestElements(layout);
+        addStored(layout);
         addRules(layout);
     }
     return place->second;

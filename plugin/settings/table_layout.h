@@ -8,21 +8,12 @@
 #include <QHash>
 #include <QStringList>
 
-#include <map>
 #include <vector>
 
 namespace vlk {
 
 struct TableLayout
 {
-    // The settings that share a list.
-    struct Sharer
-    {
-        const ExclusiveChoice* rule;
-        std::uint64_t holder; // hash of its name
-    };
-    using SharedList = std::vector<Sharer>;
-
     // A value; rows of elements have none.
     struct Row
     {
@@ -39,7 +30,9 @@ struct TableLayout
         std::vector<const RangeWhen*> follows{};  // whose ranges follow its value
         std::vector<const Distance*> distances{}; // in which it is a value or the gap
         std::vector<const Presets*> presets{};    // that it triggers
-        std::vector<const SharedList*> lists{};   // in which its value counts for who holds what
+        std::vector<std::uint64_t> lists{};       // shared ones in which its value counts for who holds what
+
+        bool isOf(const ExclusiveChoice& rule) const { return std::ranges::count(lists, rule.listHash) > 0; }
     };
 
     struct Element
@@ -55,12 +48,12 @@ struct TableLayout
     const SettingsTable* table = nullptr;
     QString section;
     std::vector<Row> rows;
-    std::vector<int> anew; // rows that a read starts anew, before it comes to what the file has
+    std::vector<int> anew;      // rows that a read starts anew, before it comes to what the file has
+    std::vector<int> following; // whose defaults follow the language or the model
     std::vector<Element> elements;
     std::vector<const Sets*> afterRead;
     std::vector<const Sets*> always;
-    std::map<std::uint64_t, SharedList> sharedLists; // by the hashes of their names
-    QHash<QString, int> byPath;                      // below the section
+    QHash<QString, int> byPath; // below the section
 
     // What stands in front of the paths of the rules: nothing, where they begin with a section themselves.
     QString prefix() const { return section.isEmpty() ? QString() : section + QLatin1Char('/'); }
@@ -70,12 +63,5 @@ struct TableLayout
 
 // The layout of a table, made on first use, in whatever thread.
 const TableLayout& layoutOf(const SettingsTable& table);
-
-// A name of a repeated row with its numbers in.
-QString numberedName(std::string_view name, Numbers numbers);
-inline QString numberedName(std::string_view name, int number)
-{
-    return numberedName(name, Numbers{static_cast<std::uint8_t>(number)});
-}
 
 } // namespace vlk

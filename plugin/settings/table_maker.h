@@ -1,54 +1,24 @@
 #pragma once
 
 // How a table is made, at compile time: rows are checked, and the names in conditions and rules become rows.
-// Names are compared by their hashes, sorted once, so that the largest table stays within what compilers
-// evaluate.
 
+#include "base/name_table.h"
 #include "settings/rule.h"
 #include "settings/setting.h"
 
-#include <algorithm>
-#include <array>
-
 namespace vlk::tables {
 
-struct NamedRow
+constexpr std::uint64_t pathHash(std::string_view element, Numbers ofElement, std::string_view key,
+                                 Numbers numbers)
 {
-    std::uint64_t name = 0;
-    std::int16_t row = -1;
-    constexpr bool operator<(const NamedRow& other) const { return name < other.name; }
-    constexpr bool operator==(const NamedRow& other) const { return name == other.name; }
-};
-
-using Names = std::span<const NamedRow>; // sorted
-
-// The row of a name; -1 where there is none.
-constexpr std::int16_t rowOf(std::uint64_t name, Names names)
-{
-    const auto found = std::lower_bound(names.begin(), names.end(), NamedRow{name});
-    return found != names.end() && found->name == name ? found->row : std::int16_t{-1};
+    return hashOf(key, numbers, hashOf("/", {}, hashOf(element, ofElement)));
 }
 
-// Hands the path of every value to `take`. Elements are no values.
-struct Paths
+constexpr std::uint64_t widgetHash(std::string_view form, std::string_view widget, Numbers numbers)
 {
-    static constexpr bool requireUnique(bool unique) { return unique ? true : throw "a path stands twice"; }
-
-    static constexpr void each(std::span<const Setting> rows, auto take)
-    {
-        const RowBase* element = nullptr;
-        for (const Setting& row : rows) {
-            const RowBase& base = row.base();
-            if (row.is<Group>())
-                element = &base;
-            else if (!element)
-                throw "a key stands in no element";
-            else
-                take(hashOf(base.pathName(), base.numbers,
-                            hashOf("/", {}, hashOf(element->pathName(), element->numbers))));
-        }
-    }
-};
+    // Forms of one class, one a number, have widgets of the same names.
+    return hashOf(widget, numbers, hashOf("/", {}, hashOf(form, numbers, numbers.outer)));
+}
 
 // Hands every widget that a row names to `take`, as form, widget, and numbers.
 constexpr void eachWidget(const Setting& row, auto take)
@@ -72,19 +42,26 @@ constexpr void eachWidget(const Setting& row, auto take)
         row.kind);
 }
 
-constexpr std::uint64_t widgetHash(std::string_view form, std::string_view widget, Numbers numbers)
+// The sorts of names in rows, each with what hands them to `take`. Elements are no values.
+struct Paths
 {
-    // Forms of one class, one a number, have widgets of the same names.
-    return hashOf(widget, numbers, hashOf("/", {}, hashOf(form, numbers, numbers.outer)));
-}
+    static constexpr void each(std::span<const Setting> rows, auto take)
+    {
+        const RowBase* element = nullptr;
+        for (const Setting& row : rows) {
+            const RowBase& base = row.base();
+            if (row.is<Group>())
+                element = &base;
+            else if (!element)
+                throw "a key stands in no element";
+            else
+                take(pathHash(element->pathName(), element->numbers, base.pathName(), base.numbers));
+        }
+    }
+};
 
 struct Widgets
 {
-    static constexpr bool requireUnique(bool unique)
-    {
-        return unique ? true : throw "an object name stands twice";
-    }
-
     static constexpr void each(std::span<const Setting> rows, auto take)
     {
         for (const Setting& row : rows)
@@ -92,7 +69,6 @@ struct Widgets
     }
 };
 
-// The names of one sort in rows.
 template <const auto& rows, class Sort>
 constexpr auto namesIn()
 {
@@ -101,12 +77,8 @@ constexpr auto namesIn()
         Sort::each(rows, [&](std::uint64_t) { ++found; });
         return found;
     }();
-    std::array<NamedRow, count> names{};
-    std::int16_t place = 0;
-    Sort::each(rows, [&](std::uint64_t name) { names[place] = {name, place}, ++place; });
-    std::sort(names.begin(), names.end());
-    Sort::requireUnique(std::adjacent_find(names.begin(), names.end()) == names.end());
-    return names;
+    const auto names = nameTable<count>([](auto take) { Sort::each(rows, take); });
+    return isEachOnce(names) ? names : throw "a name stands twice";
 }
 
 // Finds the rows of paths.
@@ -114,30 +86,29 @@ struct Finder
 {
     constexpr void operator()(Path& path) const
     {
-        if (path && (path.row = find(path)) < 0)
+        if (path && (path.row = rowOf(pathHash(path.form(), numbers, path.tail, numbers), names)) < 0)
             throw "no row has this path";
     }
     constexpr void operator()(When& when) const
     {
         operator()(static_cast<Path&>(when));
-        if (when && when.same && (when.other = find(Path(when.codes, when.tail))) < 0)
-            throw "no row has this path";
+        if (!when.same)
+            return;
+        Path other(when.codes, when.tail);
+        operator()(other);
+        when.other = other.row;
     }
     constexpr void operator()(auto& all) const
     {
         for (auto& item : all)
             operator()(item);
     }
-    constexpr std::int16_t find(const Path& path) const
-    {
-        return rowOf(hashOf(path.tail, numbers, hashOf("/", {}, hashOf(path.form(), numbers))), names);
-    }
 
-    Names names;
+    NameTable names;
     Numbers numbers;
 };
 
-constexpr void checkTargets(const Enable& rule, Names widgets)
+constexpr void checkTargets(const Enable& rule, NameTable widgets)
 {
     std::string_view names(rule.targets.tail);
     while (!rule.targets.areParts && !names.empty()) {
@@ -179,6 +150,10 @@ struct MadeRules
         auto all = given;
         for (auto& rule : all) {
             rule.eachPath(Finder{Made<source>::paths, rule.numbers});
+            if constexpr (requires { rule.listHash; }) {
+                rule.listHash = hashOf(rule.list, rule.numbers);
+                rule.holderHash = hashOf(rule.holder, rule.numbers);
+            }
             if constexpr (requires { rule.targets; })
                 checkTargets(rule, Made<source>::widgets);
         }

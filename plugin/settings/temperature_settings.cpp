@@ -1,25 +1,12 @@
 #include "settings/temperature_settings.h"
 
+#include "settings/temperature_rows.h"
+
 namespace vlk {
 
 namespace {
 
-constexpr Heading kSensor{"cfgt7_007", "%1 T%2"};
-
-constexpr auto degrees(const char* key, double loadDefault)
-{
-    return real(key, loadDefault, 1).stepping(0.5).unit("abbr_017").readSingle();
-}
-
-// The bounds are read in front of the hysteresis, which then pushes them apart where they are too near for
-// it.
-constexpr auto kRows = rowsOf(repeat<4>([](int) {
-    return rowsOf(group("SENS%1"), kSensor,
-                  degrees("min", -50).range(-50, 115).in("doubleSpinBox_Left_Temp_%1").caption("cfgt7_002"),
-                  degrees("max", 120).range(-45, 120).in("doubleSpinBox_Right_Temp_%1").caption("cfgt7_003"),
-                  integer("hyst", 5).range(0, 10).unit("abbr_017").in("spinBox_Hyst_%1").caption("cfgt7_004"),
-                  flag("filterMode", 1).in("checkBox_Filtr_%1").caption("cfgt7_005"));
-}));
+using namespace temperature;
 
 constexpr auto kDistances = rulesOf(repeat<4>([](int) {
     return Distance{.first = "SENS%1/min",
@@ -31,6 +18,6 @@ constexpr auto kDistances = rulesOf(repeat<4>([](int) {
 
 } // namespace
 
-constexpr SettingsTable kTemperatureSettings = tableOf<kRows, kDistances>("TEMPSENS", "cfgt7_001");
+constexpr SettingsTable kTemperatureSettings = tableOf<kRows, kDistances>(kSection, "cfgt7_001");
 
 } // namespace vlk

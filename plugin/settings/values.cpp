@@ -5,63 +5,28 @@
 
 namespace vlk {
 
-namespace {
-
-bool isMet(const When& condition, const QString& value)
-{
-    const bool is = !*condition.codes ? !value.isEmpty() && value != QLatin1String("0")
-                                      : isListed(condition.codes, value);
-    return is != condition.negated;
-}
-
-} // namespace
-
 Values::Values(const SettingsTable& table) : layout_(&layoutOf(table))
 {
-    // Making them takes longer than reading a file, and most are the same each time.
-    struct Made
-    {
-        std::vector<QString> values;
-        std::vector<int> following; // rows whose defaults follow the language or the model
-        QStringList texts;          // their defaults then
-    };
-    static thread_local std::map<const SettingsTable*, Made> tables;
-    const auto [place, isNew] = tables.try_emplace(&table);
-    Made& made = place->second;
-    for (int row = 0; isNew && row < count(); ++row) {
-        if (const auto* text = setting(row).as<Text>(); text && (text->load.key || text->load.namesModel))
-            made.following.push_back(row);
-    }
+    // Making them takes longer than reading a file, and they are the same until the language or the model is
+    // another one.
+    static thread_local std::map<std::pair<const SettingsTable*, QStringList>, std::vector<QString>> known;
     QStringList texts;
-    for (const int row : made.following)
+    for (const int row : layout_->following)
         texts << loadDefault(setting(row));
-    if (isNew || made.texts != texts) {
-        makeAll();
-        made.values = values_;
-        made.texts = texts;
+    std::vector<QString>& made = known[{&table, texts}];
+    if (made.empty()) {
+        for (int row = 0; row < count(); ++row)
+            values_.push_back(loadDefault(setting(row)));
+        reset();
+        made = values_;
     }
-    values_ = made.values;
-}
-
-void Values::makeAll()
-{
-    // A choice that keeps its value and a row that a reset leaves alone start at their load defaults.
-    values_.resize(layout_->rows.size());
-    for (int row = 0; row < count(); ++row)
-        values_[row] = loadDefault(setting(row));
-    reset();
-    for (int row = 0; row < count(); ++row) {
-        if (layout_->rows[row].base->onReset == OnReset::keepsValue)
-            values_[row] = normalised(row, values_[row], limits(row));
-    }
+    values_ = made;
 }
 
 const QString& Values::value(int row) const
 {
     static const QString none;
-    if (row < 0 || row >= count())
-        return none;
-    return values_[holder(row)];
+    return row < 0 || row >= count() ? none : values_[holder(row)];
 }
 
 bool Values::isWritten(int row) const
@@ -73,19 +38,11 @@ bool Values::isWritten(int row) const
 
 QString Values::written(int row, const QString& value) const
 {
-    for (const Sets* rule : layout_->rows[row].saves) {
-        if (holds(rule->when))
-            return QString::fromLatin1(rule->to);
-    }
     const Number* number = setting(row).number();
     QString text = number && number->blankIsZero && value.isEmpty() ? QStringLiteral("0") : value;
-    for (const MaskPositions& rule : table().all<MaskPositions>()) {
-        if (rule.path.row != row || !holdsAll(rule.when))
-            continue;
-        for (const int position : rule.positions) {
-            if (position < text.size())
-                text[position] = QLatin1Char(rule.to);
-        }
+    for (const Sets* rule : layout_->rows[row].saves) {
+        if (holdsToo(*rule))
+            text = laidOver(text, rule->to);
     }
     return text;
 }
@@ -95,7 +52,10 @@ bool Values::holds(const When& condition) const
     if (condition.row < 0)
         return true;
     const QString& value = this->value(condition.row);
-    return condition.same ? value == this->value(condition.other) : isMet(condition, value);
+    const bool is = condition.same     ? value == this->value(condition.other)
+                    : *condition.codes ? isListed(condition.codes, value)
+                                       : !value.isEmpty() && value != QLatin1String("0");
+    return is != condition.negated;
 }
 
 bool Values::holdsAll(std::span<const When> conditions) const
@@ -103,24 +63,21 @@ bool Values::holdsAll(std::span<const When> conditions) const
     return std::ranges::all_of(conditions, [this](const When& condition) { return holds(condition); });
 }
 
-const When* Values::missing(const Enable& rule) const
+bool Values::holds(const Enable& rule) const
 {
-    const auto isMet = [this](const When& condition) { return holds(condition); };
-    const auto isOneMet = [this](const When& condition) { return condition && holds(condition); };
-    if (rule.any ? std::ranges::any_of(rule.when, isOneMet) : std::ranges::all_of(rule.when, isMet))
-        return nullptr;
-    return &*std::ranges::find_if_not(rule.when, isMet);
+    const auto isMet = [this](const When& condition) { return condition && holds(condition); };
+    return rule.any ? std::ranges::any_of(rule.when, isMet) : holdsAll(rule.when);
 }
 
 Limits Values::limits(int row) const
 {
     row = holder(row);
     Limits limits = ownLimits(row);
-    for (const SharedList* list : layout_->rows[row].lists) {
-        for (const Sharer& sharer : *list) {
-            if (sharer.rule->path.row == row)
-                limits.taken = takenFrom(*list, sharer);
-        }
+    if (layout_->rows[row].lists.empty())
+        return limits;
+    for (const ExclusiveChoice& sharer : table().all<ExclusiveChoice>()) {
+        if (sharer.path.row == row)
+            limits.taken = takenFrom(sharer);
     }
     return limits;
 }
@@ -151,7 +108,7 @@ const char* Values::unitKey(int row) const
 {
     const TableLayout::Row& place = layout_->rows[holder(row)];
     const Number* number = place.setting->number();
-    const char* unit = number ? number->unit : nullptr;
+    const char* unit = number ? number->unitKey : nullptr;
     for (const RangeWhen* rule : place.ranges) {
         if (rule->unit && holds(rule->when))
             unit = rule->unit;
@@ -161,22 +118,61 @@ const char* Values::unitKey(int row) const
 
 QString Values::normalised(int row, const QString& text, const Limits& limits, Source source) const
 {
-    return normalise(setting(row), {text, values_[row], limits, source}).value;
+    return normalise(setting(row), {text, values_[row], limits, source});
 }
 
 void Values::reset()
 {
     for (int row = 0; row < count(); ++row) {
         const Setting& setting = this->setting(row);
-        if (setting.base().onReset == OnReset::keepsValue || setting.is<Link>())
+        if (setting.is<Link>())
             continue;
-        values_[row] = normalised(row, resetValue(setting), ownLimits(row), Source::edit);
+        const bool isKept = setting.base().onReset == OnReset::keepsValue;
+        const QString text = isKept ? values_[row] : resetValue(setting);
+        values_[row] = normalised(row, text, ownLimits(row), Source::edit);
     }
-    for (const auto& [name, list] : layout_->sharedLists)
-        keepShared(list, -1, {}, nullptr);
+    for (const ExclusiveChoice& sharer : table().all<ExclusiveChoice>())
+        keepShared(sharer, -1, {}, nullptr);
     for (const Distance& rule : table().all<Distance>()) {
         if (rule.gapFrom)
             keepDistances(rule.gapFrom.row, nullptr);
+    }
+    setAll(layout_->always, nullptr);
+}
+
+void Values::beginRead()
+{
+    for (const int row : layout_->anew)
+        values_[row] = normalised(row, loadDefault(setting(row)), limits(row));
+    for (const Distance& rule : table().all<Distance>()) {
+        if (rule.gapFrom)
+            values_[rule.gapFrom.row] = QStringLiteral("0");
+    }
+}
+
+void Values::takeKey(int row, const std::optional<QString>& text, bool hasElement)
+{
+    const TableLayout::Row& place = layout_->rows[row];
+    if (!text && place.base->missing == Missing::keepsValue)
+        return;
+    const auto* link = place.setting->as<Link>();
+    const QString missing = text ? QString()
+                            : link && !hasElement && link->withoutElement >= 0
+                                ? QString::number(link->withoutElement)
+                                : loadDefault(*place.setting);
+    // A link gives its value to another row, which says what the value can be.
+    const int target = place.target;
+    const QString before = values_[target];
+    assign(target, normalised(target, text ? *text : missing, limits(target)), nullptr);
+    setBy(target, true, before, nullptr);
+}
+
+void Values::endRead()
+{
+    setAll(layout_->afterRead, nullptr);
+    for (const Presets& presets : table().all<Presets>()) {
+        if (presets.other || presets.settles)
+            settle(presets);
     }
     setAll(layout_->always, nullptr);
 }

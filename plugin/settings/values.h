@@ -3,18 +3,17 @@
 // One table of settings and what it holds, known without a window. A value is the text that the file holds. A
 // new object holds what a reset gives.
 //
-// Values come from documents (read), from the user (edit) or from a reset, and go to documents (write). A
-// read takes what it finds as the windows would: a missing key is worth its load default, a number outside
-// its range is limited, an unknown code is replaced or leaves the value as it stands. Rules between settings
-// run on edits; the few that the file cannot break run always (rule.h).
+// Values come from documents (document/values_document.h), from the user (edit) or from a reset. A read takes
+// what it finds as the windows would: a missing key is worth its load default, a number outside its range is
+// limited, an unknown code is replaced or leaves the value as it stands. Rules between settings run on edits;
+// the few that the file cannot break run always (rule.h).
 //
 // A value is known by its row, counted from 0 in the order of the table, or by its path below the section:
-// "POINTS/angle". All tables together are a Configuration (configuration.h).
+// "POINTS/angle". All tables together are a Configuration (document/configuration.h).
 
 #include "settings/table_layout.h"
-#include "xml/xml_element.h"
 
-struct CXmlSection;
+#include <optional>
 
 namespace vlk {
 
@@ -51,48 +50,38 @@ public:
     const char* unitKey(int row) const;
 
     void reset();
-    // `root` is the element DEVICE. A document that could not be read changes nothing.
-    void read(const CXmlSection& root);
-    void write(CXmlSection& root) const;
+    // A read begins, takes the keys in the order of the table, whatever the file holds there, and ends.
+    void beginRead();
+    void takeKey(int row, const std::optional<QString>& text, bool hasElement);
+    void endRead();
 
     // Takes an edit and runs the rules. Gives the rows whose values changed, this one first where it did. An
     // edit of a row that there is not changes nothing.
     std::vector<int> edit(int row, const QString& text);
     std::vector<int> edit(const QString& path, const QString& text) { return edit(rowAt(path), text); }
 
-    // Whether the conditions of a rule of the table hold.
-    bool holds(const Enable& rule) const { return !missing(rule); }
-    // The first condition for want of which the rule does not hold; null where it does.
-    const When* missing(const Enable& rule) const;
+    // Whether a condition of the table holds, all of them, and those of a rule.
+    bool holds(const When& condition) const;
+    bool holdsAll(std::span<const When> conditions) const;
+    // Whether a file of this state has the element.
+    bool isPresent(const Group& group) const { return holds(group.present) && holds(group.presentToo); }
+    bool holds(const Enable& rule) const;
     bool holds(const Doubt& rule) const { return holdsAll(rule.when); }
     // The least distance that a rule of the table keeps now, in units of the widget.
     double gapOf(const Distance& rule) const;
 
 private:
-    using Sharer = TableLayout::Sharer;
-    using SharedList = TableLayout::SharedList;
     using Changes = std::vector<int>; // rows, each once
 
-    void makeAll();
-    bool holds(const When& condition) const;
-    bool holdsAll(std::span<const When> conditions) const;
-    bool holdsBoth(const auto& rule) const { return holds(rule.when) && holds(rule.also); }
-    bool isPresent(const Group& group) const { return holds(group.present) && holds(group.presentToo); }
-    bool isRead(const Group& group) const
-    {
-        return group.readOtherwise ? holds(group.readable) && holds(group.readableToo) : isPresent(group);
-    }
+    bool holdsToo(const Sets& rule) const { return holds(rule.when) && holdsAll(rule.also); }
+    bool holdsToo(const ExclusiveChoice& rule) const { return holds(rule.when) && holds(rule.also); }
     // Whatever other settings of a shared list hold.
     Limits ownLimits(int row) const;
     // Whether what `other` holds is gone from the list of `sharer`.
-    bool takes(const Sharer& other, const Sharer& sharer) const;
-    QStringList takenFrom(const SharedList& list, const Sharer& sharer) const;
+    bool takes(const ExclusiveChoice& other, const ExclusiveChoice& sharer) const;
+    QStringList takenFrom(const ExclusiveChoice& sharer) const;
     QString normalised(int row, const QString& text, const Limits& limits,
                        Source source = Source::file) const;
-    void readElements(const XmlElement& section);
-    void readRow(int row, const XmlElement& element);
-    void writeElement(const TableLayout::Element& element, const std::vector<int>& rows,
-                      CXmlSection& section) const;
 
     // Whether that is another value.
     bool put(int row, const QString& value, Changes* changed);
@@ -100,10 +89,12 @@ private:
     void assign(int row, const QString& value, Changes* changed);
     void keepDistances(int row, Changes* changed);
     // After the row, which was worth `before`, has another value; -1: after a reset of all.
-    void keepShared(const SharedList& list, int row, const QString& before, Changes* changed);
+    void keepShared(const ExclusiveChoice& sharer, int row, const QString& before, Changes* changed);
     // The code that a setting without a claim gets for one that is taken: the next one that is free now and
     // was before, else the one that has just been given back.
-    QString yielded(const SharedList& list, const Sharer& sharer, int row, const QString& before);
+    QString yielded(const ExclusiveChoice& sharer, int row, const QString& before);
+    // What a rule makes of a value (Sets::to).
+    static QString laidOver(const QString& value, const char* to);
     void setAll(const std::vector<const Sets*>& rules, Changes* changed);
     // By the rules of the row, which was worth `before`.
     void setBy(int row, bool isRead, const QString& before, Changes* changed);

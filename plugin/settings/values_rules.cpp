@@ -10,12 +10,15 @@ namespace vlk {
 
 namespace {
 
-// The first row of this code, null where there is none.
-const PresetRow* rowOf(const Presets& presets, const QString& code)
+// Hands the values of a code to `set`, with the rows of their fields; nothing for an unknown code.
+void eachField(const Presets& presets, const QString& code, auto set)
 {
-    const auto found = std::find_if(presets.rows.begin(), presets.rows.end(),
-                                    [&](const PresetRow& row) { return code == QLatin1String(row.code); });
-    return found == presets.rows.end() ? nullptr : &*found;
+    const auto found = std::ranges::find_if(
+        presets.rows, [&](const PresetRow& row) { return code == QLatin1String(row.code); });
+    for (std::size_t field = 0; found != presets.rows.end() && field < presets.fields.size(); ++field) {
+        if (found->values[field])
+            set(presets.fields[field].row, QString::fromUtf8(found->values[field]));
+    }
 }
 
 } // namespace
@@ -47,20 +50,15 @@ void Values::change(int row, const QString& text, Changes* changed)
             put(ranged, normalised(ranged, values_[ranged], limits(ranged)), changed);
     }
     setBy(row, false, before, changed);
-    for (const Presets* rule : place.presets) {
-        const PresetRow* chosen = rowOf(*rule, value);
-        for (std::size_t field = 0; chosen && field < rule->fields.size(); ++field) {
-            if (chosen->values[field])
-                change(rule->fields[field].row, QString::fromUtf8(chosen->values[field]), changed);
-        }
-    }
+    for (const Presets* rule : place.presets)
+        eachField(*rule, value, [&](int field, const QString& ready) { change(field, ready, changed); });
     editing_.pop_back();
 }
 
 void Values::setBy(int row, bool isRead, const QString& before, Changes* changed)
 {
     for (const Sets* rule : layout_->rows[row].sets) {
-        if ((isRead && rule->moment != Moment::editOrRead) || !holdsBoth(*rule))
+        if ((isRead && rule->moment != Moment::editOrRead) || !holdsToo(*rule))
             continue;
         const QString now = std::exchange(values_[row], before);
         const bool heldBefore = rule->isOnset && holds(rule->when);
@@ -70,18 +68,24 @@ void Values::setBy(int row, bool isRead, const QString& before, Changes* changed
     }
 }
 
+QString Values::laidOver(const QString& value, const char* to)
+{
+    const QLatin1String pattern(to);
+    if (!pattern.contains(QLatin1Char('*')))
+        return pattern;
+    QString text = value;
+    for (int i = 0; i < std::min(text.size(), pattern.size()); ++i) {
+        if (pattern[i] != QLatin1Char('*'))
+            text[i] = pattern[i];
+    }
+    return text;
+}
+
 void Values::setAll(const std::vector<const Sets*>& rules, Changes* changed)
 {
     for (const Sets* rule : rules) {
-        if (!holdsBoth(*rule))
-            continue;
-        const QString& held = values_[rule->path.row];
-        QString value = QString::fromLatin1(rule->to);
-        for (int i = 0; i < std::min(held.size(), value.size()); ++i) {
-            if (value[i] == QLatin1Char('*'))
-                value[i] = held[i];
-        }
-        put(rule->path.row, value, changed);
+        if (holdsToo(*rule))
+            put(rule->path.row, laidOver(values_[rule->path.row], rule->to), changed);
     }
 }
 
@@ -100,8 +104,7 @@ void Values::assign(int row, const QString& value, Changes* changed)
     const TableLayout::Row& place = layout_->rows[row];
     const QString before = values_[row];
     const bool isNew = put(row, value, changed);
-    if (!place.distances.empty())
-        keepDistances(row, changed);
+    keepDistances(row, changed);
     if (!isNew)
         return;
     for (const RangeWhen* rule : place.follows) {
@@ -109,53 +112,48 @@ void Values::assign(int row, const QString& value, Changes* changed)
         if (rule->startsOver)
             put(list, offeredCode(*choice(list), limits(list)), changed);
     }
-    for (const SharedList* list : place.lists)
-        keepShared(*list, row, before, changed);
+    for (const ExclusiveChoice& sharer : table().all<ExclusiveChoice>()) {
+        if (place.isOf(sharer))
+            keepShared(sharer, row, before, changed);
+    }
 }
 
-bool Values::takes(const Sharer& other, const Sharer& sharer) const
+bool Values::takes(const ExclusiveChoice& other, const ExclusiveChoice& sharer) const
 {
-    const auto split = [&](const Sharer& of) -> const QString& { return value(of.rule->split.row); };
-    return other.holder != sharer.holder && (!sharer.rule->split || split(other) == split(sharer)) &&
-           holdsBoth(*other.rule);
+    return other.listHash == sharer.listHash && other.holderHash != sharer.holderHash &&
+           value(other.split.row) == value(sharer.split.row) && holdsToo(other);
 }
 
-QStringList Values::takenFrom(const SharedList& list, const Sharer& sharer) const
+QStringList Values::takenFrom(const ExclusiveChoice& sharer) const
 {
     QStringList taken;
-    for (const Sharer& other : list) {
+    for (const ExclusiveChoice& other : table().all<ExclusiveChoice>()) {
         if (takes(other, sharer))
-            taken << values_[other.rule->path.row];
+            taken << values_[other.path.row];
     }
     return taken;
 }
 
-void Values::keepShared(const SharedList& list, int row, const QString& before, Changes* changed)
+void Values::keepShared(const ExclusiveChoice& sharer, int row, const QString& before, Changes* changed)
 {
-    for (const Sharer& sharer : list) {
-        const int own = sharer.rule->path.row;
-        const QString value = values_[own];
-        const bool holdsNothing = isNoItem(*choice(own), value);
-        const auto isTakenBy = [&](const Sharer& other) {
-            return values_[other.rule->path.row] == value && takes(other, sharer);
-        };
-        if (holdsBoth(*sharer.rule)) {
-            if (holdsNothing)
-                put(own, offeredCode(*choice(own), limits(own)), changed);
-        } else if (!holdsNothing && std::any_of(list.begin(), list.end(), isTakenBy)) {
-            put(own, yielded(list, sharer, row, before), changed);
-        }
+    const int own = sharer.path.row;
+    const bool holdsNothing = isNoItem(*choice(own), values_[own]);
+    if (holdsToo(sharer)) {
+        if (holdsNothing)
+            put(own, offeredCode(*choice(own), limits(own)), changed);
+    } else if (!holdsNothing && takenFrom(sharer).contains(values_[own])) {
+        put(own, yielded(sharer, row, before), changed);
     }
 }
 
-QString Values::yielded(const SharedList& list, const Sharer& sharer, int row, const QString& before)
+QString Values::yielded(const ExclusiveChoice& sharer, int row, const QString& before)
 {
-    const int own = sharer.rule->path.row;
+    const int own = sharer.path.row;
     const Limits now = limits(own);
     Limits both = now;
     if (row >= 0) {
         const QString value = std::exchange(values_[row], before);
-        both.taken += takenFrom(list, sharer);
+        both.taken += takenFrom(sharer);
         values_[row] = value;
     }
     const QString next = offeredCode(*choice(own), both, &values_[own]);
@@ -200,27 +198,24 @@ double Values::gapOf(const Distance& rule) const
 void Values::settle(const Presets& presets)
 {
     const int trigger = presets.trigger.row;
-    const Choice& list = *choice(trigger);
+    const Limits offered = limits(trigger);
     const auto agrees = [&](const PresetRow& row) {
         for (std::size_t field = 0; field < presets.fields.size(); ++field) {
             const char* value = row.values[field];
             if (value && values_[presets.fields[field].row] != QLatin1String(value))
                 return false;
         }
-        return std::any_of(list.codes.begin(), list.codes.end(), [&](const Code& code) {
-            return std::string_view(code.code) == row.code && offersCode(code, limits(trigger));
-        });
+        const Code* code = codeOf(*choice(trigger), QString::fromLatin1(row.code));
+        return code && offersCode(*code, offered);
     };
-    const auto found = std::find_if(presets.rows.begin(), presets.rows.end(), agrees);
+    const auto found = std::ranges::find_if(presets.rows, agrees);
     if (found != presets.rows.end())
         values_[trigger] = QString::fromLatin1(found->code);
     else if (presets.other)
         values_[trigger] = QString::fromLatin1(presets.other);
-    const PresetRow* held = presets.settles ? rowOf(presets, values_[trigger]) : nullptr;
-    for (std::size_t field = 0; held && field < presets.fields.size(); ++field) {
-        if (held->values[field])
-            values_[presets.fields[field].row] = QString::fromUtf8(held->values[field]);
-    }
+    if (presets.settles)
+        eachField(presets, values_[trigger],
+                  [this](int field, const QString& ready) { values_[field] = ready; });
 }
 
 } // namespace vlk

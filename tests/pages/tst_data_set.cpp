@@ -86,6 +86,9 @@ private Q_SLOTS:
         for (; owner && !owner->inherits("VLK_Form_Config_Set_Zeta3_Tab");)
             owner = owner->parentWidget();
         QCOMPARE(QString(owner->metaObject()->className()), "VLK_Form_Config_Set_Zeta3_Tab_" + tab);
+        const QString slot = "slot_stateChanged" +
+                             QString(box).remove(QRegularExpression("^checkBox(_State(In|U)(?=_Imp|_Ain))?"));
+        QCOMPARE(owner->metaObject()->indexOfSlot(qPrintable(slot + "(int)")) >= 0, tab == "Main");
 
         load({{"ZETA/mask", QString(255, '0')}});
         QCOMPARE(size(), 44);

@@ -3,8 +3,8 @@
 // operators, are in the tests of their pages.
 
 #include "dialog/config_pages.h"
+#include "review/value_text.h"
 #include "settings/lines_out_settings.h"
-#include "settings/value_text.h"
 #include "support/data_table.h"
 #include "support/device.h"
 #include "support/files.h"

@@ -221,7 +221,7 @@ private:
                 continue;
             core.reset();
             vlk::XmlDocument in(fileFor(core, key), "DEVICE");
-            core.read(*in.root());
+            readFrom(*in.root(), core);
             if (core.isWritten(key))
                 return key;
         }
@@ -233,8 +233,10 @@ private:
     {
         const vlk::Setting& setting = core.setting(index);
         auto values = presenceOf(core, index);
-        for (const vlk::Sets* save : core.row(index).saves)
-            values.append({core.row(save->when.row).filePath, "1"});
+        for (const vlk::Sets* save : core.row(index).saves) {
+            if (save->when)
+                values.append({core.row(save->when.row).filePath, "1"});
+        }
         if (const vlk::Number* number = setting.number(); number && number->zeroIsOff)
             values.append({core.row(index).filePath, vlk::fileNumber(*number, std::max(1.0, number->least))});
         return documentWith(values);
@@ -247,7 +249,7 @@ private:
         page.setDefaults();
         page.loadFromXml(in.root());
         core.reset();
-        core.read(*in.root());
+        readFrom(*in.root(), core);
     }
 
     // Edits what a person would who wants the field enabled: it, and what it stands in.
@@ -279,7 +281,7 @@ private:
     {
         vlk::XmlDocument out(QString(), "DEVICE");
         if constexpr (std::is_same_v<Page, vlk::Values>)
-            page.write(*out.root());
+            writeTo(*out.root(), page);
         else
             page.saveToXml(out.root());
         return out.text();

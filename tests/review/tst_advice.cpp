@@ -1,9 +1,9 @@
 // Advice: each rule has a configuration that it speaks of and one beside it of which it is silent.
 
 #include "catalogue/field_mask.h"
+#include "document/configuration.h"
 #include "review/advice_rules.h"
 #include "settings/all_settings.h"
-#include "settings/configuration.h"
 #include "settings/data_set_boxes.h"
 #include "support/data_table.h"
 #include "support/files.h"

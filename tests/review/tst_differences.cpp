@@ -1,6 +1,7 @@
 // What differs between two states of a configuration file, and how it is told.
 
 #include "base/translated.h"
+#include "document/values_document.h"
 #include "review/difference_text.h"
 #include "review/take_over.h"
 #include "settings/all_settings.h"
@@ -239,7 +240,7 @@ private Q_SLOTS:
         vlk::Configuration full = loaded(factory());
         vlk::Values quick(vlk::kQuickSettings);
         vlk::XmlDocument document(factory(), "DEVICE");
-        quick.read(*document.root());
+        readFrom(*document.root(), quick);
         Differences differences(stateOf(factory()), FileState::ofConfiguration(full));
         for (int i = 0; i < 60; ++i) {
             const int row = static_cast<int>(random() % quick.count());
@@ -247,7 +248,7 @@ private Q_SLOTS:
             quick.edit(row, samples[static_cast<int>(random() % samples.size())]);
             differences.update(FileState::ofConfiguration(full), quick);
             vlk::XmlDocument written(saved(full), "DEVICE");
-            quick.write(*written.root());
+            writeTo(*written.root(), quick);
             QCOMPARE(told(Differences(stateOf(written.text()), differences.after())), QString());
         }
         QStringList sections;

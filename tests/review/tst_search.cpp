@@ -1,8 +1,8 @@
 // Settings are found by words of either language.
 
+#include "document/configuration.h"
 #include "review/search.h"
 #include "settings/all_settings.h"
-#include "settings/configuration.h"
 #include "support/data_table.h"
 
 #include <QTranslator>

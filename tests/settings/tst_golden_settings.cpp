@@ -216,8 +216,10 @@ private:
             check("values", valuesOf(holder, index, key), key.values);
         QStringList widgets = widgetsOf(holder);
         // A box that says whether the value counts at all is a setting of its own.
-        for (const vlk::Sets* save : values_.row(index).saves)
-            widgets += widgetsOf(values_.setting(save->when.row));
+        for (const vlk::Sets* save : values_.row(index).saves) {
+            if (save->when)
+                widgets += widgetsOf(values_.setting(save->when.row));
+        }
         for (const QString& widget : key.widgets) {
             if (!widgets.contains(widget))
                 *wrong << key.path + ": not in " + widget;
@@ -244,7 +246,7 @@ private:
         values_.reset();
         QVector<QPair<QString, QString>> values = presenceOf(values_, index);
         vlk::XmlDocument in(documentWith(values), "DEVICE");
-        values_.read(*in.root());
+        readFrom(*in.root(), values_);
         // The tables have the elements of every use below every line, whatever its list offers.
         return values_.isWritten(index) ? values_.written(index) : vlk::loadDefault(values_.setting(index));
     }

@@ -3,7 +3,8 @@
 // Texts that a file may hold for a setting, well formed and not, by its kind: ends of the range and what lies
 // beyond them, every code, strings too short and too long, what is no number. And documents that hold them.
 
-#include "settings/configuration.h"
+#include "document/configuration.h"
+#include "document/values_document.h"
 #include "xml/xml_document.h"
 
 inline QStringList hostileTexts()
@@ -102,14 +103,22 @@ inline QVector<QPair<QString, QString>> presenceOf(const vlk::Values& table, int
     const vlk::TableLayout::Row& row = table.row(index);
     const vlk::Group& group = *layout.elements[row.group].group;
     QVector<QPair<QString, QString>> values;
-    for (const vlk::When& condition :
-         {group.readOtherwise ? group.readable : group.present,
-          group.readOtherwise ? group.readableToo : group.presentToo, row.base->present}) {
+    const auto [first, second] = group.readable.value_or(std::array{group.present, group.presentToo});
+    for (const vlk::When& condition : {first, second, row.base->present}) {
         if (condition && !condition.negated)
             values.append(
                 {layout.rows[condition.row].filePath, *condition.codes ? codesOf(condition)[0] : "1"});
     }
     return values;
+}
+
+inline void readFrom(const CXmlSection& root, vlk::Configuration& settings)
+{
+    settings.read(root);
+}
+inline void writeTo(CXmlSection& root, const vlk::Configuration& settings)
+{
+    settings.write(root);
 }
 
 // What settings make of a file that they load after a reset.
@@ -118,9 +127,9 @@ QByteArray readAndWritten(Settings& settings, const QByteArray& text)
 {
     settings.reset();
     vlk::XmlDocument in(text, "DEVICE");
-    settings.read(*in.root());
+    readFrom(*in.root(), settings);
     vlk::XmlDocument out(QString(), "DEVICE");
-    settings.write(*out.root());
+    writeTo(*out.root(), settings);
     return out.text();
 }
 

@@ -1,9 +1,9 @@
 // The configuration in the tracker: read, written, refused, kept over restarts and crashes.
 
 #include "bench_tracker.h"
+#include "document/configuration.h"
 #include "record_values.h"
 #include "settings/all_settings.h"
-#include "settings/configuration.h"
 #include "support/data_table.h"
 #include "support/files.h"
 #include "tracker/configuration_values.h"

@@ -7,8 +7,8 @@
 #include "command/file_names.h"
 #include "command/json_line.h"
 #include "review/file_state.h"
+#include "review/value_text.h"
 #include "settings/all_settings.h"
-#include "settings/value_text.h"
 #include "window/languages.h"
 #include "xml/xml_document.h"
 

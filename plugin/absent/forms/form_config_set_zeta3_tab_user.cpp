@@ -3,6 +3,7 @@
 #include "absent/forms/param_choice_dialog.h"
 #include "absent/params/param_catalogues.h"
 #include "absent/params/user_params.h"
+#include "document/values_document.h"
 #include "settings/values.h"
 #include "windows/wnd_config_full.h"
 
@@ -158,7 +159,7 @@ void VLK_Form_Config_Set_Zeta3_Tab_User::loadUserParams(CXmlSection* root)
     if (!root)
         return;
     vlk::Values keys(vlk::kUserParamSettings);
-    keys.read(*root);
+    readFrom(*root, keys);
     // A value that stood elsewhere before is free for its slot of the file.
     afterDefaults();
     for (vlk::UserParamGroup& group : groups_) {
@@ -176,7 +177,7 @@ void VLK_Form_Config_Set_Zeta3_Tab_User::saveUserParams(CXmlSection* root)
         for (int slot = 1; slot <= group.slots().count; ++slot)
             keys.edit(pathOf(group.slots(), slot), keyOf(group.text(slot)));
     }
-    keys.write(*root);
+    writeTo(*root, keys);
 }
 
 void VLK_Form_Config_Set_Zeta3_Tab_User::slot_pressed_Set_CAN()

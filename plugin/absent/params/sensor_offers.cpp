@@ -1,6 +1,6 @@
 #include "absent/params/sensor_offers.h"
 
-#include "settings/kinds/spelling.h"
+#include "base/translated.h"
 #include "settings/values.h"
 
 namespace vlk {

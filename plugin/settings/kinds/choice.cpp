@@ -16,7 +16,9 @@ bool fits(const char* pattern, const QString& text)
     return true;
 }
 
-const Code* find(const Choice& row, const QString& text)
+} // namespace
+
+const Code* codeOf(const Choice& row, const QString& text)
 {
     const QString wanted = row.numeric ? spelled(static_cast<qint64>(leadingInt(text)), text) : text;
     const auto is = [&](const Code& code) {
@@ -25,10 +27,8 @@ const Code* find(const Choice& row, const QString& text)
     const auto found = std::find_if(row.codes.begin(), row.codes.end(), is);
     if (found == row.codes.end())
         return nullptr;
-    return found->means ? find(row, QString::fromLatin1(found->means)) : &*found;
+    return found->means ? codeOf(row, QString::fromLatin1(found->means)) : &*found;
 }
-
-} // namespace
 
 bool offersCode(const Code& code, const Limits& limits)
 {
@@ -57,36 +57,20 @@ QString offeredCode(const Choice& row, const Limits& limits, const QString* behi
     return QString::fromLatin1(found);
 }
 
-QString codeText(const Code& code)
-{
-    const QString text = QString::fromLatin1(code.format).arg(captionParts(code.label).before);
-    return code.second ? text.arg(translated(code.second)) : text;
-}
-
-Normalised normalised(const Choice& row, const Reading& reading)
+QString normalised(const Choice& row, const Reading& reading)
 {
     // A list without a current item is nothing that a file could ask for.
     if (reading.source == Source::edit && isNoItem(row, reading.text))
-        return {reading.text};
-    const Code* code = find(row, reading.text);
+        return reading.text;
+    const Code* code = codeOf(row, reading.text);
     if (code && offersCode(*code, reading.limits))
-        return {spelled(QLatin1String(code->code), reading.text)};
+        return spelled(QLatin1String(code->code), reading.text);
     const QString fallback = row.fallback ? QString::fromLatin1(row.fallback) : reading.before;
     if (!code)
-        return {reading.limits.taken.contains(fallback) ? reading.before : fallback, Change::unknownCode};
-    return {row.unoffered == Unoffered::keepsValue ? reading.before
-            : row.none                             ? QString::fromLatin1(row.none)
-                                                   : fallback,
-            Change::notOffered};
-}
-
-QString toldText(const Choice& row, const QString& value, const char* /*unit*/)
-{
-    for (const Code& code : row.codes) {
-        if (QLatin1String(code.code) == value && *code.label)
-            return codeText(code);
-    }
-    return value;
+        return reading.limits.taken.contains(fallback) ? reading.before : fallback;
+    return row.unoffered == Unoffered::keepsValue ? reading.before
+           : row.none                             ? QString::fromLatin1(row.none)
+                                                  : fallback;
 }
 
 } // namespace vlk

@@ -37,7 +37,6 @@ struct Choice : ShownOf<Choice>
     Unoffered unoffered = Unoffered::noItem;
     bool numeric = false; // codes are compared as numbers
 
-    constexpr Choice resetTo(const char* code) const { return resetting(code); }
     constexpr Choice offering(const char* list) const { return with(&Choice::offers, list); }
     constexpr Choice unknownIs(const char* code) const { return with(&Choice::fallback, code); }
     constexpr Choice noItemIs(const char* code) const { return with(&Choice::none, code); }
@@ -55,8 +54,7 @@ constexpr void check(const Choice& row)
     const auto isChoice = [&](const char* wanted) {
         const auto is = [&](const char* code) { return code && std::string_view(code) == wanted; };
         return !wanted || is(row.none) ||
-               std::any_of(row.codes.begin(), row.codes.end(),
-                           [&](const Code& known) { return is(known.code); });
+               std::ranges::any_of(row.codes, [&](const Code& known) { return is(known.code); });
     };
     if (!isChoice(row.load) || !isChoice(row.reset) || !isChoice(row.fallback))
         throw "a default is none of the choices";
@@ -68,15 +66,15 @@ constexpr void eachBox(const Choice& row, auto take)
         take(code.widget);
 }
 
+// The code that a text of a file means; null for an unknown one.
+const Code* codeOf(const Choice& row, const QString& text);
 // Whether a list has the code.
 bool offersCode(const Code& code, const Limits& limits);
 bool isNoItem(const Choice& row, const QString& value);
 // The first code of the list, or the one that comes next behind another, else the last one; what stands for
 // no item where the list is empty.
 QString offeredCode(const Choice& row, const Limits& limits, const QString* behind = nullptr);
-QString codeText(const Code& code);
 
-Normalised normalised(const Choice& row, const Reading& reading);
-QString toldText(const Choice& row, const QString& value, const char* unit);
+QString normalised(const Choice& row, const Reading& reading);
 
 } // namespace vlk

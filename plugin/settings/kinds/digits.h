@@ -41,7 +41,6 @@ constexpr void eachBox(const Digits& row, auto take)
         take(position.widget), take(position.box);
 }
 
-Normalised normalised(const Digits& row, const Reading& reading);
-QString toldText(const Digits& row, const QString& value, const char* unit);
+QString normalised(const Digits& row, const Reading& reading);
 
 } // namespace vlk

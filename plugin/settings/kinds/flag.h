@@ -15,7 +15,6 @@ struct Flag : ShownOf<Flag>
 
     constexpr Flag onValue(int value) const { return with(&Flag::on, value); }
     constexpr Flag checkedForZero() const { return with(&Flag::inverted, true); }
-    constexpr Flag resetTo(int value) const { return resetting(value); }
 };
 
 constexpr Flag flag(const char* key, int loadDefault)
@@ -23,7 +22,6 @@ constexpr Flag flag(const char* key, int loadDefault)
     return keyed<Flag>(key, loadDefault);
 }
 
-Normalised normalised(const Flag& row, const Reading& reading);
-QString toldText(const Flag& row, const QString& value, const char* unit);
+QString normalised(const Flag& row, const Reading& reading);
 
 } // namespace vlk

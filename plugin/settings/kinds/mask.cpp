@@ -1,72 +1,44 @@
 #include "settings/kinds/mask.h"
 
+#include "base/number_text.h"
+
 namespace vlk {
 
-QString maskPart(const MaskField& field, const QString& mask)
+namespace {
+
+QLatin1Char digitOf(bool on)
+{
+    return QLatin1Char(on ? '1' : '0');
+}
+
+// Whether a list has an item for what a mask holds there.
+bool isItem(const MaskField& field, const QString& mask)
 {
     QString part;
     for (std::size_t i = 0; i < field.count; ++i)
-        part += QLatin1Char(digitAt(mask, field.positions[i]) != 0 ? '1' : '0');
-    return part;
+        part += digitOf(digitAt(mask, field.positions[i]) != 0);
+    return std::any_of(field.items.begin(), field.items.end(),
+                       [&](const Code& item) { return part == QLatin1String(item.code); });
 }
 
-bool isMaskOn(const MaskField& field, const QString& part)
-{
-    const QLatin1Char on('1');
-    return field.always || (field.anyReads ? part.contains(on) : part.startsWith(on));
-}
+} // namespace
 
-int maskItem(const MaskField& field, const QString& part)
+QString normalised(const Mask& row, const Reading& reading)
 {
-    const auto found = std::find_if(field.items.begin(), field.items.end(),
-                                    [&](const Code& item) { return part == QLatin1String(item.code); });
-    return found == field.items.end() ? -1 : static_cast<int>(found - field.items.begin());
-}
-
-QString fieldText(const MaskField& field)
-{
-    const QString text = QString::fromLatin1(field.format).arg(translated(field.caption));
-    return field.number > 0 ? text.arg(field.number) : text;
-}
-
-Normalised normalised(const Mask& row, const Reading& reading)
-{
-    const QString& text = reading.text;
-    const QString none(row.length, QLatin1Char('0'));
-    QString read = none;
-    std::transform(text.begin(), text.begin() + std::min(text.size(), read.size()), read.begin(),
-                   [](QChar sign) { return QLatin1Char(sign.digitValue() > 0 ? '1' : '0'); });
-    QString held = row.fields.empty() ? read : none;
-    // There are many check boxes: their parts are not written out.
-    const auto isSet = [&read](int position) { return read[position] != QLatin1Char('0'); };
+    QString held(row.length, digitOf(false));
     for (const MaskField& field : row.fields) {
         const bool isList = !field.items.empty();
-        const bool isKept = isList && maskItem(field, maskPart(field, read)) < 0;
+        const QString& source = !isList || isItem(field, reading.text) ? reading.text : reading.before;
+        const auto isSet = [&](int position) { return digitAt(source, position) != 0; };
         const auto* first = field.positions.begin();
         const bool isOn =
             field.always || std::any_of(first, first + (field.anyReads ? field.count : 1), isSet);
         for (std::size_t i = 0; i < field.count; ++i) {
             const int position = field.positions[i];
-            const bool isListed = digitAt(isKept ? reading.before : read, position) != 0;
-            held[position] = QLatin1Char((isList ? isListed : isOn) ? '1' : '0');
+            held[position] = digitOf(isList ? isSet(position) : isOn);
         }
     }
-    return {held, text.size() > row.length ? Change::tooLong
-                  : held != read           ? Change::notOffered
-                                           : Change::otherForm};
-}
-
-QString toldText(const Mask& row, const QString& value, const char* /*unit*/)
-{
-    QStringList parts;
-    for (const MaskField& field : row.fields) {
-        const QString part = maskPart(field, value);
-        const int item = maskItem(field, part);
-        if (part.contains(QLatin1Char('1')))
-            parts << (item < 0 ? fieldText(field)
-                               : fieldText(field) + QStringLiteral(": ") + codeText(field.items[item]));
-    }
-    return row.fields.empty() ? value : parts.join(QStringLiteral(", "));
+    return held;
 }
 
 } // namespace vlk

@@ -1,6 +1,6 @@
 #pragma once
 
-// A long string of 0 and 1.
+// A long string of 0 and 1: the fields of a record.
 
 #include "settings/kinds/choice.h"
 
@@ -32,9 +32,9 @@ struct Mask : ShownOf<Mask>
     std::int16_t length = 0;
 };
 
-// Positions that no field sets are always 0; a mask without fields takes them all as they come.
+// Positions that no field sets are always 0.
 constexpr Mask mask(const char* key, const char* loadDefault, std::int16_t length,
-                    std::span<const MaskField> fields = {})
+                    std::span<const MaskField> fields)
 {
     return keyed<Mask>(key, loadDefault).with(&Mask::length, length).with(&Mask::fields, fields);
 }
@@ -53,14 +53,6 @@ constexpr void check(const Mask& row)
     }
 }
 
-// What the positions of a field hold in a mask, "01"; one that is too short reads as 0. What that means for
-// the widget: a check box is on or not, a list has an item for it, -1 for none.
-QString maskPart(const MaskField& field, const QString& mask);
-bool isMaskOn(const MaskField& field, const QString& part);
-int maskItem(const MaskField& field, const QString& part);
-QString fieldText(const MaskField& field);
-
-Normalised normalised(const Mask& row, const Reading& reading);
-QString toldText(const Mask& row, const QString& value, const char* unit);
+QString normalised(const Mask& row, const Reading& reading);
 
 } // namespace vlk

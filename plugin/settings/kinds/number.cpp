@@ -32,34 +32,6 @@ QString spelledNumber(const Number& row, double inFile, const QString& text)
     return spelled(number, text);
 }
 
-QString spelledShown(const Number& row, double shown, const QString& text)
-{
-    return spelledNumber(row, row.isText ? shown : rounded(shown, row.decimals) * row.factor, text);
-}
-
-bool isNumber(const Number& row, const QString& text)
-{
-    bool is = false;
-    if (row.isText) {
-        const double read = text.toDouble(&is);
-        return is && std::isfinite(read);
-    }
-    if (!row.hexadecimal)
-        return isWholeNumber(text);
-    text.toInt(&is, 16);
-    return is;
-}
-
-// Whether two texts mean the same number: "01" and "1", "2.50" and "2.5".
-bool isSameNumber(const Number& row, const QString& text, const QString& other)
-{
-    if (row.isText)
-        return leadingDouble(text) == leadingDouble(other);
-    if (row.hexadecimal)
-        return text.toInt(nullptr, 16) == other.toInt(nullptr, 16);
-    return leadingLong(text) == leadingLong(other);
-}
-
 } // namespace
 
 double shownNumber(const Number& row, const QString& value)
@@ -70,9 +42,9 @@ double shownNumber(const Number& row, const QString& value)
            row.factor;
 }
 
-QString fileNumber(const Number& row, double shown)
+QString fileNumber(const Number& row, double shown, const QString& text)
 {
-    return spelledShown(row, shown, {});
+    return spelledNumber(row, row.isText ? shown : rounded(shown, row.decimals) * row.factor, text);
 }
 
 QString fileText(const Number& row, double value)
@@ -80,11 +52,11 @@ QString fileText(const Number& row, double value)
     return std::isnan(value) ? QString() : spelledNumber(row, value, {});
 }
 
-Normalised normalised(const Number& row, const Reading& reading)
+QString normalised(const Number& row, const Reading& reading)
 {
     const QString& text = reading.text;
     if (row.blankIsZero && text.isEmpty())
-        return {text};
+        return text;
     const double inFile = row.isText                       ? leadingDouble(text)
                           : row.hexadecimal                ? text.toInt(nullptr, 16)
                           : reading.source == Source::edit ? text.trimmed().toInt()
@@ -93,20 +65,7 @@ Normalised normalised(const Number& row, const Reading& reading)
     const double read = (row.singleRead ? static_cast<float>(inFile) : inFile) / row.factor;
     const double shown = row.isText || row.decimals > 0 ? rounded(read, row.decimals) : std::trunc(read);
     const double held = isOff ? 0 : std::clamp(shown, reading.limits.least, reading.limits.most);
-    const QString value = spelledShown(row, held, text);
-    return normalisedBy(value, text, [&] {
-        return !isNumber(row, text)             ? Change::notANumber
-               : isSameNumber(row, text, value) ? Change::otherForm
-               : isOff || held != shown         ? Change::outOfRange
-                                                : Change::rounded;
-    });
-}
-
-QString toldText(const Number& row, const QString& value, const char* unit)
-{
-    if (row.zeroIsOff && value == QLatin1String("0"))
-        return yesNo(false);
-    return row.hexadecimal ? value : withUnit(numberText(shownNumber(row, value), row.decimals), unit);
+    return fileNumber(row, held, text);
 }
 
 } // namespace vlk

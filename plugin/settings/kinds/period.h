@@ -45,7 +45,6 @@ constexpr void eachBox(const Period& row, auto take)
         take(part.widget);
 }
 
-Normalised normalised(const Period& row, const Reading& reading);
-QString toldText(const Period& row, const QString& value, const char* unit);
+QString normalised(const Period& row, const Reading& reading);
 
 } // namespace vlk

@@ -1,12 +1,11 @@
 #pragma once
 
 // What the rows of all kinds have in common. Each kind of setting is a type in a file pair of its own beside
-// this one: what only it has, the modifiers that describe it, and the functions that check it, read it and
-// tell it. setting.h lists the kinds.
+// this one: what only it has, the modifiers that describe it, and the functions that check it and read it.
+// setting.h lists the kinds.
 
+#include "base/code_list.h"
 #include "settings/names.h"
-
-#include "settings/kinds/spelling.h"
 
 #include <QStringList>
 
@@ -76,6 +75,11 @@ template <class Kind>
 struct ShownOf : RowOf<Kind, Shown>
 {
     constexpr Kind in(Name widget) const { return this->with(&Kind::widget, widget); }
+    // In the line of a tree that the row's number tells.
+    constexpr Kind inCell(const char* tree, std::uint8_t number) const
+    {
+        return in(tree).with(&Kind::column, number);
+    }
     // The format holds %1 for the text, as in "%1 2".
     constexpr Kind caption(const char* text, const char* format = "%1") const
     {
@@ -85,10 +89,7 @@ struct ShownOf : RowOf<Kind, Shown>
     constexpr Kind readLast() const { return this->with(&Kind::last, true); }
     constexpr Kind ifMissing(Missing policy) const { return this->with(&Kind::missing, policy); }
     constexpr Kind atReset(OnReset policy) const { return this->with(&Kind::onReset, policy); }
-
-protected:
-    template <class Value>
-    constexpr Kind resetting(Value value) const
+    constexpr Kind resetTo(auto value) const
     {
         return this->with(&Kind::reset, value).with(&Kind::onReset, OnReset::own);
     }
@@ -99,21 +100,6 @@ constexpr Kind keyed(const char* key, auto loadDefault)
 {
     return Kind{}.with(&Kind::key, key).with(&Kind::load, loadDefault);
 }
-
-// Why a value differs from what the file holds.
-enum class Change {
-    none,
-    missing,     // the key is not there, the load default counts
-    notANumber,  // read as far as it is a number
-    outOfRange,  // limited
-    wrapped,     // a period without what it has beyond its day
-    rounded,     // to what the widget can show
-    tooLong,     // cut
-    unknownCode, // replaced, or the value before stays
-    notOffered,  // known, but this tracker's list lacks it
-    otherForm,   // the same value, spelled otherwise
-    byRule,      // another setting forbids it
-};
 
 // What a value can be at present: a range in units of the widget; of a choice and of a string of digits the
 // codes of the list, "NU|NS+", null for those that are `offered`; codes that others of a shared list hold.
@@ -131,6 +117,8 @@ struct Limits
 // around where the row says so. An edit or a reset means what it says: a text that is no whole number is 0.
 enum class Source { file, edit };
 
+// What `normalised` of each kind makes a text of the file of, as a window would: limited to the range,
+// rounded, cut, or replaced where the text is none of the known codes.
 struct Reading
 {
     const QString& text;
@@ -138,22 +126,6 @@ struct Reading
     const Limits& limits;
     Source source = Source::file;
 };
-
-// What a window would make of a text of a configuration file: limited to the range, rounded, cut, or replaced
-// where the text is none of the known codes. The result is again a text of the file. `change` says why it is
-// another one, and nothing where it is the same.
-struct Normalised
-{
-    QString value;
-    Change change = Change::otherForm;
-};
-
-// With a reason that takes finding.
-template <class Why>
-Normalised normalisedBy(const QString& value, const QString& text, Why why)
-{
-    return {value, value == text ? Change::none : why()};
-}
 
 // The texts of two kinds of defaults.
 inline QString fileText(const RowBase&, const char* text)

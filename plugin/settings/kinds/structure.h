@@ -5,7 +5,9 @@
 
 #include "settings/kinds/row.h"
 
-#include <type_traits>
+#include <array>
+#include <concepts>
+#include <optional>
 
 namespace vlk {
 
@@ -16,12 +18,16 @@ enum class ElementSave : std::uint8_t { anew, anewIfAny, keepsOthers };
 struct Group : RowOf<Group, RowBase>
 {
     When presentToo{};
-    bool readOtherwise = false; // read while both of these hold, whenever it is written
-    When readable{};
-    When readableToo{};
+    // Read while both hold, whenever it is written; without them while it is written.
+    std::optional<std::array<When, 2>> readable{};
     ElementSave save = ElementSave::anew;
 
-    constexpr void eachPath(auto visit) { visit(presentToo), visit(readable), visit(readableToo); }
+    constexpr void eachPath(auto visit)
+    {
+        visit(presentToo);
+        if (readable)
+            visit(*readable);
+    }
 
     using RowOf::onlyWhen;
     constexpr Group onlyWhen(When condition, When too) const
@@ -31,9 +37,7 @@ struct Group : RowOf<Group, RowBase>
     // Without a condition: always.
     constexpr Group readWhen(When condition = {}, When too = {}) const
     {
-        return with(&Group::readOtherwise, true)
-            .with(&Group::readable, condition)
-            .with(&Group::readableToo, too);
+        return with(&Group::readable, std::array{condition, too});
     }
     constexpr Group atSave(ElementSave policy) const { return with(&Group::save, policy); }
 };
@@ -73,19 +77,13 @@ constexpr Link link(const char* key, Path target, int loadDefault)
 }
 
 template <class Row>
-concept IsStructure =
-    std::is_same_v<Row, Group> || std::is_same_v<Row, Constant> || std::is_same_v<Row, Link>;
+concept IsStructure = std::derived_from<Row, RowBase> && !std::derived_from<Row, Shown>;
 
 // Nothing reads a value into them.
 template <IsStructure Row>
-Normalised normalised(const Row&, const Reading& reading)
+QString normalised(const Row&, const Reading& reading)
 {
-    return {reading.before};
-}
-template <IsStructure Row>
-QString toldText(const Row&, const QString& value, const char* /*unit*/)
-{
-    return value;
+    return reading.before;
 }
 
 } // namespace vlk

@@ -13,6 +13,8 @@ struct DefaultText
     const char* format = "";
     const char* key = nullptr;
     bool namesModel = false;
+
+    constexpr bool follows() const { return key || namesModel; }
 };
 
 struct Text : ShownOf<Text>
@@ -27,7 +29,6 @@ struct Text : ShownOf<Text>
     const char* unexpectedKey = nullptr;
     std::int16_t maxLength = 0; // characters; 0: no limit
 
-    constexpr Text resetTo(const char* text) const { return resetting(text); }
     constexpr Text upTo(std::int16_t characters) const { return with(&Text::maxLength, characters); }
     constexpr Text typed(const char* expression) const { return with(&Text::pattern, expression); }
     constexpr Text expected(const char* expression, const char* complaint) const
@@ -36,11 +37,6 @@ struct Text : ShownOf<Text>
     }
     constexpr Text masked(const char* form) const { return with(&Text::mask, form); }
     constexpr Text atSave(OnSave policy) const { return with(&Text::onSave, policy); }
-    // In the line of a tree that the row's number tells.
-    constexpr Text inCell(const char* tree, std::uint8_t number) const
-    {
-        return in(tree).with(&Text::column, number);
-    }
     // A password or what else is not for every eye.
     constexpr Text secretly() const { return with(&Text::secret, true); }
 };
@@ -56,8 +52,6 @@ constexpr Text text(const char* key, const char* loadDefault)
 }
 
 QString fileText(const Text& row, const DefaultText& text);
-Normalised normalised(const Text& row, const Reading& reading);
-// Of an address without a digit nothing is told, although its signs stand in the file.
-QString toldText(const Text& row, const QString& value, const char* unit);
+QString normalised(const Text& row, const Reading& reading);
 
 } // namespace vlk

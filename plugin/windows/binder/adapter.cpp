@@ -1,6 +1,6 @@
 #include "windows/binder/adapter.h"
 
-#include "settings/value_text.h"
+#include "review/value_text.h"
 #include "windows/binder/bound_forms.h"
 
 #include <QAbstractButton>

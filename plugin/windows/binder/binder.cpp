@@ -1,6 +1,6 @@
 #include "windows/binder/binder.h"
 
-#include "settings/value_text.h"
+#include "review/value_text.h"
 #include "typing/typed_entry.h"
 #include "windows/binder/boxes_adapter.h"
 #include "windows/binder/cell_adapter.h"
@@ -148,12 +148,14 @@ bool Binder::eventFilter(QObject* watched, QEvent* event)
 QString Binder::whyDisabled(const Target& target) const
 {
     for (const Enable* rule : target.rules) {
-        if (const When* missing = values_.missing(*rule)) {
-            const QString caption = captionText(values_.setting(missing->row));
-            const QString value = valueText(values_, missing->row);
-            return QCoreApplication::translate("vlk", "cfgt6_452")
-                .arg(caption.isEmpty() ? value : caption + QStringLiteral(": ") + value);
-        }
+        if (values_.holds(*rule))
+            continue;
+        const int missing =
+            std::ranges::find_if_not(rule->when, [&](const When& one) { return values_.holds(one); })->row;
+        const QString caption = captionText(values_.setting(missing));
+        const QString value = valueText(values_, missing);
+        return QCoreApplication::translate("vlk", "cfgt6_452")
+            .arg(caption.isEmpty() ? value : caption + QStringLiteral(": ") + value);
     }
     return {};
 }
@@ -266,9 +268,9 @@ void Binder::edited(int row, const QString& value)
         for (const int other : changed) {
             for (const RangeWhen* rule : layout_.rows[other].follows)
                 dressRanged(rule->path.row);
-            for (const TableLayout::SharedList* list : layout_.rows[other].lists) {
-                for (const TableLayout::Sharer& sharer : *list)
-                    dressRanged(sharer.rule->path.row);
+            for (const ExclusiveChoice& rule : values_.table().all<ExclusiveChoice>()) {
+                if (layout_.rows[other].isOf(rule))
+                    dressRanged(rule.path.row);
             }
         }
         for (const int other : changed) {

@@ -1,6 +1,6 @@
 #include "windows/binder/boxes_adapter.h"
 
-#include "settings/kinds/spelling.h"
+#include "base/number_text.h"
 #include "windows/binder/checkable.h"
 #include "windows/binder/code_list.h"
 

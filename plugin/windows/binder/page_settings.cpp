@@ -1,5 +1,6 @@
 #include "windows/binder/page_settings.h"
 
+#include "document/values_document.h"
 #include "windows/input_guard.h"
 #include "xml/xml_section.h"
 
@@ -58,7 +59,7 @@ void PageSettings::load(CXmlSection* root)
 {
     if (!root)
         return;
-    values_.read(*root);
+    readFrom(*root, values_);
     showOthers();
 }
 
@@ -67,7 +68,7 @@ void PageSettings::save(CXmlSection* root)
     if (!root)
         return;
     binder_->finishTyping();
-    values_.write(*root);
+    writeTo(*root, values_);
 }
 
 void PageSettings::putBack(const std::vector<QString>& held)

@@ -5,6 +5,8 @@
 
 #include "settings/values.h"
 
+struct CXmlSection;
+
 namespace vlk {
 
 class Configuration

@@ -1,4 +1,6 @@
-#include "settings/configuration.h"
+#include "document/configuration.h"
+
+#include "document/values_document.h"
 
 namespace vlk {
 
@@ -48,13 +50,13 @@ void Configuration::reset()
 void Configuration::read(const CXmlSection& root)
 {
     for (Values& table : tables_)
-        table.read(root);
+        readFrom(root, table);
 }
 
 void Configuration::write(CXmlSection& root) const
 {
     for (const Values& table : tables_)
-        table.write(root);
+        writeTo(root, table);
 }
 
 } // namespace vlk

@@ -1,36 +1,8 @@
-#include "settings/kinds/spelling.h"
+#include "base/shown_text.h"
 
 #include <QLocale>
 
-#include <array>
-#include <charconv>
-
 namespace vlk {
-
-QString spelled(QLatin1String value, const QString& text)
-{
-    return text == value ? text : QString(value);
-}
-
-QString spelled(qint64 number, const QString& text)
-{
-    std::array<char, 20> digits{}; // "-9223372036854775808"
-    const char* const end = std::to_chars(digits.begin(), digits.end(), number).ptr;
-    return spelled(QLatin1String(digits.begin(), static_cast<int>(end - digits.begin())), text);
-}
-
-int digitAt(const QString& text, std::size_t position)
-{
-    const int index = static_cast<int>(position);
-    return index < text.size() ? std::max(0, text[index].digitValue()) : 0;
-}
-
-bool isWholeNumber(const QString& text)
-{
-    bool whole = false;
-    text.trimmed().toLongLong(&whole);
-    return whole;
-}
 
 QString yesNo(bool yes)
 {

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QLatin1String>
+
+#include <algorithm>
+#include <string_view>
+
+namespace vlk {
+
+// Whether "NU|NS+" has the code.
+template <class Text>
+bool isListed(std::string_view codes, const Text& code)
+{
+    for (;;) {
+        const std::size_t end = std::min(codes.find('|'), codes.size());
+        if (QLatin1String(codes.data(), static_cast<int>(end)) == code)
+            return true;
+        if (end == codes.size())
+            return false;
+        codes.remove_prefix(end + 1);
+    }
+}
+
+} // namespace vlk

@@ -1,0 +1,44 @@
+#pragma once
+
+// Names of what is repeated: they may hold %1, the number of the repetition, and %2, the number of a
+// repetition inside it.
+
+#include <QString>
+
+#include <cstdint>
+#include <string_view>
+
+namespace vlk {
+
+// 0 for none.
+struct Numbers
+{
+    std::uint8_t outer = 0;
+    std::uint8_t inner = 0;
+};
+
+// The name with its numbers in.
+QString numberedName(std::string_view name, Numbers numbers);
+inline QString numberedName(std::string_view name, int number)
+{
+    return numberedName(name, Numbers{static_cast<std::uint8_t>(number)});
+}
+
+// Its hash, behind what `hash` is that of.
+constexpr std::uint64_t hashOf(std::string_view text, Numbers numbers,
+                               std::uint64_t hash = 14695981039346656037U)
+{
+    const auto add = [&](char sign) { hash = (hash ^ static_cast<std::uint8_t>(sign)) * 1099511628211U; };
+    const char* const end = text.data() + text.size();
+    for (const char* at = text.data(); at != end; ++at) {
+        const char next = *at == '%' && at + 1 != end ? at[1] : '\0';
+        const int number = next == '1' ? numbers.outer : next == '2' ? numbers.inner : 0;
+        if (number > 9)
+            add(static_cast<char>('0' + number / 10));
+        add(number > 0 ? static_cast<char>('0' + number % 10) : *at);
+        at += number > 0;
+    }
+    return hash;
+}
+
+} // namespace vlk

@@ -1,0 +1,130 @@
+#include "review/change.h"
+
+#include "base/number_text.h"
+
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+
+namespace vlk {
+
+namespace {
+
+bool isNumber(const Number& row, const QString& text)
+{
+    bool is = false;
+    if (row.isText) {
+        const double read = text.toDouble(&is);
+        return is && std::isfinite(read);
+    }
+    if (!row.hexadecimal)
+        return isWholeNumber(text);
+    text.toInt(&is, 16);
+    return is;
+}
+
+// Whether two texts mean the same number: "01" and "1", "2.50" and "2.5".
+bool isSameNumber(const Number& row, const QString& text, const QString& other)
+{
+    if (row.isText)
+        return leadingDouble(text) == leadingDouble(other);
+    if (row.hexadecimal)
+        return text.toInt(nullptr, 16) == other.toInt(nullptr, 16);
+    return leadingLong(text) == leadingLong(other);
+}
+
+// Why a row takes the text for `value`, which is another one: one function a kind.
+Change why(const Group&, const Reading&, const QString&)
+{
+    return Change::otherForm;
+}
+
+// A window always writes the same there, whatever it reads.
+Change why(const Constant&, const Reading&, const QString&)
+{
+    return Change::notOffered;
+}
+
+Change why(const Link&, const Reading&, const QString&)
+{
+    return Change::otherForm;
+}
+
+Change why(const Flag&, const Reading& reading, const QString&)
+{
+    return isWholeNumber(reading.text) ? Change::otherForm : Change::notANumber;
+}
+
+Change why(const Number& row, const Reading& reading, const QString& value)
+{
+    if (!isNumber(row, reading.text))
+        return Change::notANumber;
+    if (isSameNumber(row, reading.text, value))
+        return Change::otherForm;
+    constexpr double most = std::numeric_limits<double>::max();
+    const Limits none{.least = -most, .most = most};
+    const bool isOff = row.zeroIsOff && value == QLatin1String("0");
+    return isOff || normalised(row, {reading.text, reading.before, none, reading.source}) != value
+               ? Change::outOfRange
+               : Change::rounded;
+}
+
+Change why(const Text& row, const Reading&, const QString&)
+{
+    return row.mask ? Change::otherForm : Change::tooLong;
+}
+
+Change why(const Choice& row, const Reading& reading, const QString&)
+{
+    const Code* code = codeOf(row, reading.text);
+    return !code                               ? Change::unknownCode
+           : offersCode(*code, reading.limits) ? Change::otherForm
+                                               : Change::notOffered;
+}
+
+Change why(const Period& row, const Reading& reading, const QString& value)
+{
+    if (!isWholeNumber(reading.text))
+        return Change::notANumber;
+    const qint64 held = leadingLong(value);
+    if (held == leadingLong(reading.text))
+        return Change::otherForm;
+    const int read = leadingInt(reading.text);
+    if (row.wrap > 0 && reading.source == Source::file && (read < 0 || read >= row.wrap))
+        return Change::wrapped;
+    return std::abs(held - read) < row.parts.back().seconds ? Change::rounded : Change::outOfRange;
+}
+
+Change why(const Digits& row, const Reading& reading, const QString& value)
+{
+    for (std::size_t i = 0; i < row.positions.size(); ++i) {
+        if (row.positions[i].widget && digitAt(reading.text, i) > 0 && digitAt(value, i) == 0)
+            return Change::notOffered;
+    }
+    return Change::otherForm;
+}
+
+Change why(const Mask& row, const Reading& reading, const QString& value)
+{
+    if (reading.text.size() > row.length)
+        return Change::tooLong;
+    for (std::size_t i = 0; i < static_cast<std::size_t>(row.length); ++i) {
+        if ((digitAt(reading.text, i) != 0) != (digitAt(value, i) != 0))
+            return Change::notOffered;
+    }
+    return Change::otherForm;
+}
+
+} // namespace
+
+Taken takenAs(const Setting& setting, const Reading& reading)
+{
+    QString value = setting.is<Constant>() ? loadDefault(setting) : normalise(setting, reading);
+    const Change change =
+        value == reading.text
+            ? Change::none
+            : std::visit([&](const auto& row) { return why(row, reading, value); }, setting.kind);
+    return {std::move(value), change};
+}
+
+} // namespace vlk

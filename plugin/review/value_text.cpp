@@ -1,0 +1,145 @@
+#include "review/value_text.h"
+
+#include "base/number_text.h"
+
+namespace vlk {
+
+namespace {
+
+// Without the sign behind it that tells that something follows.
+QString bare(QString title)
+{
+    while (title.endsWith(QLatin1Char(':')) || title.endsWith(QChar(0x2026)))
+        title.chop(1);
+    return title;
+}
+
+// One function a kind.
+template <IsStructure Row>
+QString told(const Row&, const QString& value, const char* /*unit*/)
+{
+    return value;
+}
+
+QString told(const Flag&, const QString& value, const char* /*unit*/)
+{
+    return yesNo(value != QLatin1String("0"));
+}
+
+QString told(const Number& row, const QString& value, const char* unit)
+{
+    if (row.zeroIsOff && value == QLatin1String("0"))
+        return yesNo(false);
+    return row.hexadecimal ? value : withUnit(numberText(shownNumber(row, value), row.decimals), unit);
+}
+
+// Of an address without a digit nothing is told, although its signs stand in the file.
+QString told(const Text& row, const QString& value, const char* /*unit*/)
+{
+    const bool isEmpty = row.mask && std::none_of(value.begin(), value.end(),
+                                                  [](QChar sign) { return sign.isLetterOrNumber(); });
+    return isEmpty ? QString() : value;
+}
+
+QString told(const Choice& row, const QString& value, const char* /*unit*/)
+{
+    for (const Code& code : row.codes) {
+        if (QLatin1String(code.code) == value && *code.label)
+            return codeText(code);
+    }
+    return value;
+}
+
+QString told(const Period& row, const QString& value, const char* /*unit*/)
+{
+    QStringList parts;
+    int seconds = value.toInt();
+    for (const PeriodPart& part : row.parts) {
+        const int count = std::min(seconds / part.seconds, part.most);
+        seconds -= count * part.seconds;
+        if (count > 0)
+            parts << withUnit(QString::number(count), part.unit);
+    }
+    return parts.isEmpty() ? withUnit(QStringLiteral("0"), row.parts.back().unit)
+                           : parts.join(QLatin1Char(' '));
+}
+
+// The captions of the positions that are set, with the item where a position has several.
+QString told(const Digits& row, const QString& value, const char* /*unit*/)
+{
+    QStringList parts;
+    for (std::size_t i = 0; i < row.positions.size(); ++i) {
+        const int digit = digitAt(value, i);
+        if (digit == 0)
+            continue;
+        QString part = translated(row.positions[i].caption);
+        if (static_cast<std::size_t>(digit) < row.items.size())
+            part += QStringLiteral(": ") + codeText(row.items[digit]);
+        parts << part;
+    }
+    return parts.isEmpty() ? yesNo(false) : parts.join(QStringLiteral(", "));
+}
+
+QString told(const Mask& row, const QString& value, const char* /*unit*/)
+{
+    QStringList parts;
+    for (const MaskField& field : row.fields) {
+        const QString part = maskPart(field, value);
+        const int item = maskItem(field, part);
+        if (part.contains(QLatin1Char('1')))
+            parts << (item < 0 ? fieldText(field)
+                               : fieldText(field) + QStringLiteral(": ") + codeText(field.items[item]));
+    }
+    return parts.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+QString captionText(const Setting& setting)
+{
+    const Shown* shown = setting.shown();
+    const Caption parts = captionParts(shown ? shown->captionKey : nullptr,
+                                       shown ? shown->captionFormat : "%1", setting.base().numbers.outer);
+    return bare(
+        inOneLine(parts.after.isEmpty() ? parts.before : parts.before + QStringLiteral(" … ") + parts.after));
+}
+
+QString headingText(const Setting& setting)
+{
+    const Numbers numbers = setting.base().numbers;
+    QString text;
+    for (const Heading* heading = setting.base().heading; heading && *heading->title;
+         heading = heading->above) {
+        const QString title = QString::fromLatin1(heading->format)
+                                  .replace(QLatin1String("%3"), QString::number(numbers.inner))
+                                  .replace(QLatin1String("%2"), QString::number(numbers.outer))
+                                  .replace(QLatin1String("%1"), bare(inOneLine(translated(heading->title))));
+        text = text.isEmpty() ? title : title + QStringLiteral(" / ") + text;
+    }
+    return text;
+}
+
+QString codeText(const Code& code)
+{
+    const QString text = QString::fromLatin1(code.format).arg(captionParts(code.label).before);
+    return code.second ? text.arg(translated(code.second)) : text;
+}
+
+QString valueText(const Setting& setting, const QString& value, const char* unit)
+{
+    return std::visit([&](const auto& row) { return told(row, value, unit); }, setting.kind);
+}
+
+QString valueText(const Values& values, int row)
+{
+    return valueText(values, row, values.value(row));
+}
+
+QString valueText(const Values& values, int row, const QString& value)
+{
+    if (values.row(row).base->secret && !value.isEmpty())
+        return QStringLiteral("•••");
+    return valueText(values.setting(values.holder(row)), value, values.unitKey(row));
+}
+
+} // namespace vlk

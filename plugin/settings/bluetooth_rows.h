@@ -1,0 +1,218 @@
+#pragma once
+
+// The rows of the table that bluetooth_settings.h tells of.
+
+#include "settings/bluetooth_sensor_types.h"
+#include "settings/bluetooth_settings.h"
+#include "settings/bluetooth_universal_rows.h"
+#include "settings/shared_rows.h"
+#include <initializer_list>
+#include <utility>
+
+namespace vlk::bluetooth {
+
+inline constexpr const char* kSection = "BLUETOOTH";
+
+inline constexpr std::size_t kTypes = std::size(kBluetoothSensorTypes);
+using Text = std::array<char, 48>;
+
+constexpr Text textOf(std::initializer_list<std::string_view> parts)
+{
+    Text text{};
+    std::size_t size = 0;
+    for (const std::string_view part : parts) {
+        for (const char sign : part)
+            text[size++] = sign;
+    }
+    return text;
+}
+
+// What the rows of a type name, from its row in the table of types.
+template <std::size_t i>
+struct Names
+{
+    static constexpr const BluetoothSensorType& type = kBluetoothSensorTypes[i];
+    static constexpr bool hasIndex = type.index.list != BluetoothList::none;
+
+    static constexpr Path typePath{type.section, "type"};
+    static constexpr Path indexPath{type.index.elsewhere ? type.index.elsewhere : type.section, "idx"};
+
+    static constexpr auto vendorNumbers = [] {
+        std::array<std::array<char, 2>, type.vendors.size()> numbers{};
+        for (std::size_t n = 0; n < numbers.size(); ++n)
+            numbers[n][0] = static_cast<char>('0' + n);
+        return numbers;
+    }();
+    static constexpr auto vendors = [] {
+        std::array<Code, type.vendors.size()> codes{};
+        for (std::size_t n = 0; n < codes.size(); ++n)
+            codes[n] = {.code = vendorNumbers[n].data(),
+                        .label = type.vendors[n].name,
+                        .offered = type.vendors[n].offered};
+        return codes;
+    }();
+    // "1|2": those whose value takes a number, where not all do.
+    static constexpr Text indexedVendors = [] {
+        Text text{};
+        std::size_t size = 0;
+        for (std::size_t n = 0; n < type.vendors.size(); ++n) {
+            if (!type.vendors[n].indexed)
+                continue;
+            if (size > 0)
+                text[size++] = '|';
+            text[size++] = vendorNumbers[n][0];
+        }
+        return text;
+    }();
+    static constexpr bool allIndexed = [] {
+        for (const BluetoothVendor& vendor : type.vendors) {
+            if (!vendor.indexed)
+                return false;
+        }
+        return true;
+    }();
+    static constexpr When indexed = allIndexed ? When{} : when(typePath, indexedVendors.data());
+
+    static constexpr auto indexFormats = [] {
+        std::array<Text, type.index.known> formats{};
+        for (std::size_t n = 0; n < formats.size(); ++n) {
+            const universal::NumberText& number = universal::numberTexts[n];
+            formats[n] = textOf({"%1 ", type.index.known > 9 ? number.label : number.code});
+        }
+        return formats;
+    }();
+    // A file may ask for no number at all.
+    static constexpr auto indices = [] {
+        std::array<Code, type.index.known + 1> codes{};
+        for (std::size_t n = 0; n < indexFormats.size(); ++n)
+            codes[n] = {.code = universal::numberTexts[n].code,
+                        .label = type.index.text,
+                        .format = indexFormats[n].data(),
+                        .offered = static_cast<int>(n) < type.index.offered};
+        codes.back() = {.code = "-1", .offered = false};
+        return codes;
+    }();
+};
+
+template <std::size_t i>
+constexpr Choice indexRow()
+{
+    using Type = Names<i>;
+    return choice("idx", Type::indices, "1")
+        .byNumber()
+        .unknownIs("1")
+        .ifUnoffered(Unoffered::keepsValue)
+        .in({Type::type.section, Type::type.index.widget})
+        .caption(Type::type.index.caption);
+}
+
+// The element of a type, there while the value at `owner` is the type's code.
+template <std::size_t i>
+constexpr auto rowsOfType(Path owner)
+{
+    using Type = Names<i>;
+    const When chosen = when(owner, Type::type.code);
+    if constexpr (!Type::type.vendorWidget) {
+        return universal::rows(chosen);
+    } else {
+        const Choice vendor = choice("type", Type::vendors, "0")
+                                  .byNumber()
+                                  .unknownIs("0")
+                                  .ifUnoffered(Unoffered::keepsValue)
+                                  .in({Type::type.section, Type::type.vendorWidget})
+                                  .caption(Type::type.vendorCaption);
+        constexpr auto more = [] {
+            std::array<Setting, Type::type.more.size()> rows{};
+            std::copy(Type::type.more.begin(), Type::type.more.end(), rows.begin());
+            return rows;
+        }();
+        const Group own = group(Type::type.section).onlyWhen(chosen);
+        if constexpr (!Type::hasIndex) {
+            return rowsOf(own, vendor, more);
+        } else if constexpr (!Type::type.index.elsewhere) {
+            return rowsOf(own, vendor, indexRow<i>(), more);
+        } else {
+            const Group beside = group("TS%1")
+                                     .named(Type::type.index.elsewhere)
+                                     .atSave(ElementSave::anewIfAny)
+                                     .onlyWhen(chosen);
+            constexpr auto constants = [] {
+                std::array<Setting, Type::type.index.withType> rows{};
+                std::fill(rows.begin(), rows.end(), constant("type", "0"));
+                return rows;
+            }();
+            // Whether it counts is known when the vendor has been read.
+            return rowsOf(beside, constants, indexRow<i>().onlyWhen(Type::indexed).readLast(), own, vendor,
+                          more);
+        }
+    }
+}
+
+constexpr int numberOf(const char* code)
+{
+    int number = 0;
+    for (; *code; ++code)
+        number = number * 10 + (*code - '0');
+    return number;
+}
+
+// No type, and the others by their numbers.
+template <std::size_t count>
+constexpr auto typeCodes(bool (*isListed)(const BluetoothSensorType&))
+{
+    std::array<Code, count + 1> codes{};
+    std::size_t size = 0;
+    codes[size++] = {.code = "0", .label = "wrd_002"};
+    for (const BluetoothSensorType& type : kBluetoothSensorTypes) {
+        if (isListed(type))
+            codes[size++] = {.code = type.code, .label = type.text ? type.text : "", .offered = type.offered};
+    }
+    std::sort(codes.begin(), codes.end(),
+              [](const Code& a, const Code& b) { return numberOf(a.code) < numberOf(b.code); });
+    return codes;
+}
+
+constexpr auto hasText = [](const BluetoothSensorType& type) { return type.text != nullptr; };
+// A file may name any type that has a text; those of the list are offered.
+inline constexpr auto kTypeCodes =
+    typeCodes<std::count_if(std::begin(kBluetoothSensorTypes), std::end(kBluetoothSensorTypes), hasText)>(
+        hasText);
+inline constexpr auto kFormCodes = [] {
+    auto codes = typeCodes<kTypes>([](const BluetoothSensorType&) { return true; });
+    for (Code& code : codes)
+        code.offered = true;
+    return codes;
+}();
+
+inline constexpr Choice kForm = choice("form", kFormCodes, "0").byNumber().unknownIs("0").notStored();
+
+template <std::size_t... types>
+constexpr auto elementRows(std::index_sequence<types...>)
+{
+    return rowsOf(group("SENS%1"), kForm, rowsOfType<types>("SENS%1/form")...);
+}
+
+template <std::size_t... types>
+constexpr auto sensorRows(std::index_sequence<types...>)
+{
+    return rowsOf(
+        group("SENS%1"), universal::sensor,
+        choice("type", kTypeCodes, "0")
+            .byNumber()
+            .unknownIs("0")
+            .ifUnoffered(Unoffered::keepsValue)
+            .in("comboBox_Type_Sens_%1")
+            .caption("cfgt17_025"),
+        kForm,
+        shared::bluetoothAddress(text("macaddr", "")).in("lineEdit_Bt_MacAdr_Sens_%1").caption("cfgt17_007"),
+        text("name", "").in("lineEdit_Name_Sens_%1").caption("cfgt17_026"),
+        rowsOfType<types>("SENS%1/type")...);
+}
+
+inline constexpr auto kSensorRows = sensorRows(std::make_index_sequence<kTypes>{});
+
+inline constexpr auto kRows =
+    rowsOf(group("GLOBAL"), flag("use", 1).in("checkBox_Bt_Use").caption("cfgt17_004"), group("CHANNEL1"),
+           constant("device", "SENS"), repeat<kBluetoothSensors>([](int) { return kSensorRows; }));
+
+} // namespace vlk::bluetooth
