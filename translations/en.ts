@@ -1230,6 +1230,15 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_109"><translation>a number, since words are compared by = and != alone</translation></message>
     <message id="rec_110"><translation>and</translation></message>
     <message id="rec_111"><translation>or</translation></message>
+    <message id="rec_120"><translation>Table of numbers (CSV)</translation></message>
+    <message id="rec_121"><translation>Table of texts (CSV)</translation></message>
+    <message id="rec_122"><translation>Table of numbers with tabs (TSV)</translation></message>
+    <message id="rec_123"><translation>Track (GPX)</translation></message>
+    <message id="rec_124"><translation>Track (KML)</translation></message>
+    <message id="rec_125"><translation>Track (GeoJSON)</translation></message>
+    <message id="rec_126"><translation>Records as texts (NDJSON)</translation></message>
+    <message id="rec_127"><translation>Telemetry file (XML)</translation></message>
+    <message id="rec_128"><translation>Telemetry file (TMI)</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>
     <message id="rev_003"><translation>Unknown key, a write drops it</translation></message>

@@ -1230,6 +1230,15 @@
     <message id="rec_109"><translation>число: слова сравниваются только знаками = и !=</translation></message>
     <message id="rec_110"><translation>и</translation></message>
     <message id="rec_111"><translation>или</translation></message>
+    <message id="rec_120"><translation>Таблица чисел (CSV)</translation></message>
+    <message id="rec_121"><translation>Таблица текстов (CSV)</translation></message>
+    <message id="rec_122"><translation>Таблица чисел с табуляцией (TSV)</translation></message>
+    <message id="rec_123"><translation>Трек (GPX)</translation></message>
+    <message id="rec_124"><translation>Трек (KML)</translation></message>
+    <message id="rec_125"><translation>Трек (GeoJSON)</translation></message>
+    <message id="rec_126"><translation>Записи текстами (NDJSON)</translation></message>
+    <message id="rec_127"><translation>Файл телеметрии (XML)</translation></message>
+    <message id="rec_128"><translation>Файл ТМИ</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>
