@@ -1218,6 +1218,22 @@
     <message id="cli_134"><translation>Команды</translation></message>
     <message id="cli_135"><translation>Аргументы</translation></message>
     <message id="cli_136"><translation>(нужен)</translation></message>
+    <message id="cli_200"><translation>; продолжено с %1</translation></message>
+    <message id="cli_201"><translation>Телеметрия в другом виде: таблицы, треки, записи текстами</translation></message>
+    <message id="cli_202"><translation>Во что преобразовать</translation></message>
+    <message id="cli_203"><translation>Столбцы таблицы по названиям; archive: все, какие есть</translation></message>
+    <message id="cli_204"><translation>Начиная с этого времени</translation></message>
+    <message id="cli_205"><translation>До этого времени</translation></message>
+    <message id="cli_206"><translation>Записи, отвечающие условию: Speed &gt; 60 и IN1 = 1</translation></message>
+    <message id="cli_207"><translation>Номер или название трекера</translation></message>
+    <message id="cli_208"><translation>Значения, как в файле XML</translation></message>
+    <message id="cli_209"><translation>По порядку времени, каждая запись один раз</translation></message>
+    <message id="cli_210"><translation>Ничего не записывать, если файл повреждён</translation></message>
+    <message id="cli_211"><translation>Десятичная запятая и точки с запятой между ячейками</translation></message>
+    <message id="cli_212"><translation>не телеметрия</translation></message>
+    <message id="cli_213"><translation>временный файл не записывается</translation></message>
+    <message id="cli_214"><translation>%1: в позиции %2 ожидается %3</translation></message>
+    <message id="cli_215"><translation>--columns: столбца %1 нет</translation></message>
     <message id="rec_100"><translation>название столбца</translation></message>
     <message id="rec_101"><translation>=, !=, &lt;, &gt;, &lt;= или &gt;=</translation></message>
     <message id="rec_102"><translation>число</translation></message>
