@@ -18,7 +18,7 @@ namespace {
 using vlk::RecordStore;
 
 constexpr qint64 bytesOfRun = 24 << 20;
-constexpr int recordsOfBatch = 1024;
+constexpr int recordsOfMergedBatch = 1024;
 constexpr qint64 bytesAhead = 16 << 10; // of a run that are read at a time
 
 // What tells one record from another.
@@ -139,7 +139,7 @@ public:
     std::optional<RecordBatch> next() override
     {
         RecordBatch batch;
-        while (!heads_.empty() && batch.records.size() < recordsOfBatch) {
+        while (!heads_.empty() && batch.records.size() < recordsOfMergedBatch) {
             const Head head = heads_.top();
             Run& run = runs_[head.run];
             const auto& origin = originList_[run.entry.origin];

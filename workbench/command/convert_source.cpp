@@ -17,7 +17,7 @@ public:
 
     void rewind() override
     {
-        reader_.reset();
+        close();
         at_ = 0;
         isSilent_ = true;
     }
@@ -27,30 +27,33 @@ public:
         while (at_ < inputs_.size()) {
             if (std::optional<RecordBatch> batch = ofThisFile())
                 return batch;
-            reader_.reset();
+            close();
             ++at_;
         }
         return std::nullopt;
     }
 
 private:
+    void close()
+    {
+        reader_.reset();
+        isRead_ = false;
+    }
+
     std::optional<RecordBatch> ofThisFile()
     {
         const TelemetryInput& input = inputs_[at_];
         if (!reader_) {
             input.device->seek(0);
-            reader_ =
-                std::make_unique<vlk::TelemetryReader>(*input.device, input.file.name, vlk::Reading::salvage);
+            reader_ = std::make_unique<vlk::TelemetryReader>(*input.device, input.file.name,
+                                                             vlk::TelemetryReading::salvage);
             origin_.reset();
         }
         vlk::TelemetryContents& contents = reader_->contents();
-        bool isMore = true;
-        while (isMore && contents.records.size() < recordsOfBatch) {
-            isMore = reader_->step();
-            tellDamages(input, contents);
-        }
-        if (!isMore) {
-            reader_->finish();
+        while (!isRead_ && contents.records.size() < recordsOfBatch) {
+            isRead_ = !reader_->step();
+            if (isRead_)
+                reader_->finish();
             tellDamages(input, contents);
         }
         if (contents.records.empty())
@@ -81,6 +84,7 @@ private:
     std::size_t at_ = 0;
     bool isSilent_ = false;
     std::unique_ptr<vlk::TelemetryReader> reader_;
+    bool isRead_ = false;                                // the present file, to its end
     std::shared_ptr<const vlk::TelemetryOrigin> origin_; // of the present file
 };
 

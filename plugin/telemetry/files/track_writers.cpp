@@ -141,12 +141,13 @@ protected:
             endSegment(out);
         } else if (const double across = step.point.longitude - last_.point.longitude;
                    std::abs(across) > 180) {
-            const TrackStep end = atDateLine(step, across < 0 ? 180 : -180);
-            addPosition(out, end);
+            TrackStep there = atDateLine(step, across < 0 ? 180 : -180);
+            if (there.point.longitude != last_.point.longitude)
+                addPosition(out, there);
             endSegment(out);
-            TrackStep begin = end;
-            begin.point.longitude = -end.point.longitude;
-            addPosition(out, begin);
+            there.point.longitude = -there.point.longitude;
+            if (there.point.longitude != step.point.longitude)
+                addPosition(out, there);
         }
         addPosition(out, step);
     }
