@@ -107,6 +107,10 @@ private Q_SLOTS:
         QTEST(told, "told");
         QTEST(complaints, "complaints");
         QTEST(status, "status");
+        // A file is written as a whole, or not touched.
+        put("there.csv", "before");
+        run(arguments + QStringList{"-o", "there.csv"}, readFile(path("a.tmi")));
+        QCOMPARE(readFile(path("there.csv")), told.isEmpty() ? QByteArray("before") : told);
     }
 
     // The same bytes that a save in the windows gives, from either form.

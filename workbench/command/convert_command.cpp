@@ -18,10 +18,9 @@
 #include <QFileInfo>
 #include <QTextCodec>
 
-#include <cerrno>
+#include <algorithm>
 #include <cstdio>
-#include <fcntl.h>
-#include <numeric>
+#include <deque>
 
 namespace workbench::command {
 
@@ -45,13 +44,7 @@ private:
     QTextCodec* const before_ = QTextCodec::codecForLocale();
 };
 
-QString whyRefused(FileKind kind, const QByteArray& start)
-{
-    if (start.isEmpty())
-        return text("cli_004");
-    return kind == FileKind::calibration ? text("cli_010").section(QLatin1Char(','), 0, 0) : text("cli_212");
-}
-
+// In a temporary file, at its beginning; none where that cannot be written.
 std::unique_ptr<QFile> kept(QFile& input)
 {
     auto file = std::make_unique<QTemporaryFile>();
@@ -68,7 +61,7 @@ std::unique_ptr<QFile> kept(QFile& input)
     return file;
 }
 
-// Opens the files of the call that are telemetry, and complains of the others.
+// The files of the call that are telemetry; it complains of the others.
 class Inputs
 {
 public:
@@ -88,7 +81,8 @@ private:
         auto device = std::make_unique<QFile>(file.name);
         const bool isOpen = file.isStandardInput() ? device->open(stdin, QIODevice::ReadOnly)
                                                    : device->open(QIODevice::ReadOnly);
-        if (isOpen && device->isSequential())
+        const bool isKept = isOpen && device->isSequential();
+        if (isKept)
             device = kept(*device);
         if (!device)
             return refuse(file, text("cli_213"));
@@ -100,9 +94,9 @@ private:
         const bool isDamaged = kind == FileKind::unknown && !start.isEmpty() &&
                                file.name.endsWith(QLatin1String(".tmi"), Qt::CaseInsensitive);
         if (kind == FileKind::telemetry || isDamaged)
-            files_.push_back({file, std::move(device)});
+            files_.push_back({file, isKept || file.isStandardInput() ? std::move(device) : nullptr});
         else if (file.isNamed)
-            refuse(file, whyRefused(kind, start));
+            refuse(file, text(start.isEmpty() ? "cli_004" : "cli_212"));
     }
 
     void refuse(const File& file, const QString& reason)
@@ -133,16 +127,16 @@ FilterNames namesInBothLanguages()
 // What of the records is wanted. A reason where the call does not say it right.
 QString readFilter(const Conversion& conversion, const FilterNames& names, Filter* filter)
 {
-    struct Part
+    struct Asked
     {
         const char* option;
         QString prefix;
         const QString& condition;
     };
     std::vector<FilterNode> nodes;
-    for (const Part& part : {Part{"--from", QStringLiteral("Time >= "), conversion.from},
-                             Part{"--to-time", QStringLiteral("Time <= "), conversion.to},
-                             Part{"--where", {}, conversion.where}}) {
+    for (const Asked& part : {Asked{"--from", QStringLiteral("Time >= "), conversion.from},
+                              Asked{"--to-time", QStringLiteral("Time <= "), conversion.to},
+                              Asked{"--where", {}, conversion.where}}) {
         if (part.condition.isEmpty())
             continue;
         const vlk::ParsedFilter parsed = vlk::parseFilter(part.prefix + part.condition, names);
@@ -181,12 +175,12 @@ QString trackerOf(const File& file)
     return readable(QFileInfo(file.name).completeBaseName()).section(QLatin1Char(' '), 0, 0);
 }
 
-// A batch, and which of its records are wanted; or what was written of them.
-struct Converted
+// A batch; once they are chosen, those of its records that are wanted, and what was written of them.
+struct Part
 {
-    RecordBatch batch;
-    std::vector<int> records;
-    QByteArray bytes;
+    RecordBatch batch{};
+    std::optional<std::vector<int>> records{};
+    QByteArray bytes{};
 };
 
 class Conversions
@@ -195,7 +189,7 @@ public:
     Conversions(const Conversion& asked, Filter filter, vlk::ExportOptions options, RecordSource& source,
                 Output& output)
         : form_(vlk::rowOf(formOf(asked.form))), asked_(asked), filter_(std::move(filter)),
-          options_(std::move(options)), source_(&source), output_(output)
+          options_(std::move(options)), source_(source), output_(output)
     {
     }
 
@@ -209,35 +203,41 @@ public:
 
     void lookAhead()
     {
-        walk([this](RecordBatch batch) { return chosen(std::move(batch)); },
-             [this](const Converted& part) {
-                 ahead_.add(part.batch.records, part.records, form_.form);
-                 setOrigin(part.batch);
-             });
-        source_->rewind();
+        const auto look = [this](Part part) {
+            ahead_.add(part.batch.records, *part.records, form_.form);
+            setOrigin(part.batch);
+            hold(std::move(part));
+        };
+        holdsAll_ = true;
+        walk([this](Part part) { return chosen(std::move(part)); }, look);
+        source_.rewind();
+        isAhead_ = true;
     }
 
     void write()
     {
+        const auto format = [this](Part part) { return written(std::move(part)); };
+        const auto put = [this](Part part) {
+            begin(part.batch);
+            output_.write(part.bytes);
+        };
+        const auto choose = [this](Part part) { return chosen(std::move(part)); };
+        const auto putInTurn = [this](Part part) {
+            begin(part.batch);
+            output_.write(bytesOf(
+                [&](vlk::OutputBuffer& out) { writer_->add(out, part.batch.records, *part.records); }));
+        };
         if (form_.isIndependent)
-            walk([this](RecordBatch batch) { return written(std::move(batch)); },
-                 [this](const Converted& part) {
-                     begin(part.batch);
-                     output_.write(part.bytes);
-                 });
+            walk(format, put);
         else
-            walk([this](RecordBatch batch) { return chosen(std::move(batch)); },
-                 [this](const Converted& part) {
-                     begin(part.batch);
-                     output_.write(bytesOf([&](vlk::OutputBuffer& out) {
-                         writer_->add(out, part.batch.records, part.records);
-                     }));
-                 });
+            walk(choose, putInTurn);
         begin({});
         output_.write(bytesOf([this](vlk::OutputBuffer& out) { writer_->finish(out); }));
     }
 
 private:
+    static constexpr qint64 mostHeldBytes = 32 << 20;
+
     struct Kept
     {
         std::shared_ptr<const vlk::TelemetryOrigin> origin;
@@ -261,33 +261,55 @@ private:
         return buffer.data();
     }
 
-    void walk(std::function<Converted(RecordBatch)> work, const std::function<void(const Converted&)>& take)
+    void walk(std::function<Part(Part)> work, const std::function<void(Part)>& take)
     {
-        InOrder<RecordBatch, Converted> all([this] { return source_->next(); }, std::move(work));
-        while (const std::optional<Converted> part = all.take())
-            take(*part);
+        InOrder<Part, Part> all([this] { return next(); }, std::move(work));
+        while (std::optional<Part> part = all.take())
+            take(std::move(*part));
     }
 
-    Converted chosen(RecordBatch batch) const
+    std::optional<Part> next()
     {
-        Converted part{std::move(batch), {}, {}};
-        if (filter_.empty()) {
-            part.records.resize(part.batch.records.size());
-            std::iota(part.records.begin(), part.records.end(), 0);
-        } else {
-            vlk::RecordColumns columns(part.batch.records,
-                                       typeLetters(part.batch.origin->titles).toLatin1().toStdString());
-            part.records = passing(filter_, columns);
+        if (isAhead_ && holdsAll_) {
+            std::optional<Part> part;
+            if (!held_.empty()) {
+                part = std::move(held_.front());
+                held_.pop_front();
+            }
+            return part;
         }
+        std::optional<RecordBatch> batch = source_.next();
+        return batch ? std::optional(Part{.batch = std::move(*batch)}) : std::nullopt;
+    }
+
+    // As long as they are few; else they are read again.
+    void hold(Part part)
+    {
+        for (int record = 0; record < part.batch.records.size(); ++record)
+            heldBytes_ += std::ssize(part.batch.records.bytes(record));
+        holdsAll_ = holdsAll_ && heldBytes_ <= mostHeldBytes;
+        if (holdsAll_)
+            held_.push_back(std::move(part));
+        else
+            held_.clear();
+    }
+
+    Part chosen(Part part) const
+    {
+        if (part.records)
+            return part;
+        vlk::RecordColumns columns(part.batch.records,
+                                   typeLetters(part.batch.origin->titles).toLatin1().toStdString());
+        part.records = passing(filter_, columns);
         return part;
     }
 
-    Converted written(RecordBatch batch)
+    Part written(Part part)
     {
-        Converted part = chosen(std::move(batch));
+        part = chosen(std::move(part));
         Kept kept = borrow(part.batch.origin);
-        part.bytes =
-            bytesOf([&](vlk::OutputBuffer& out) { kept.writer->add(out, part.batch.records, part.records); });
+        part.bytes = bytesOf(
+            [&](vlk::OutputBuffer& out) { kept.writer->add(out, part.batch.records, *part.records); });
         giveBack(std::move(kept));
         part.batch.records = {};
         return part;
@@ -344,17 +366,22 @@ private:
     const Conversion& asked_;
     const Filter filter_;
     const vlk::ExportOptions options_;
-    RecordSource* source_;
+    RecordSource& source_;
     Output& output_;
     vlk::ExportAhead ahead_;
+    std::deque<Part> held_; // from looking ahead
+    qint64 heldBytes_ = 0;
+    bool holdsAll_ = false;
+    bool isAhead_ = false; // all of it was looked at
     std::shared_ptr<const vlk::TelemetryOrigin> first_;
     std::unique_ptr<ExportWriter> writer_;
     std::mutex mutex_;
     std::vector<Kept> idle_;
 };
 
-int refused(const QString& reason)
+int refused(Output& output, const QString& reason)
 {
+    output.drop();
     writeError(complaint(QStringLiteral("r7106"), reason));
     return failed;
 }
@@ -363,11 +390,16 @@ int convertFiles(const Conversion& asked, const Filter& filter, vlk::ExportOptio
                  const Inputs& inputs, Output& output)
 {
     int status = inputs.status();
-    const auto tell = [&](const File& file, const vlk::FileDamage& damage, qint64 size) {
+    SourceListener listener;
+    listener.damage = [&](const File& file, const vlk::FileDamage& damage, qint64 size) {
         writeError(damageLine(file, damage, size));
         status = std::max<int>(status, found);
     };
-    const auto complete = [&](const File& file, vlk::TelemetryOrigin& origin) {
+    listener.fault = [&](const File& file, const QString& reason) {
+        writeError(complaint(file.name, text("cli_002").arg(reason)));
+        status = failed;
+    };
+    listener.complete = [&](const File& file, vlk::TelemetryOrigin& origin) {
         if (!asked.tracker.isEmpty() || options.archive)
             origin.trackerId = asked.tracker.isEmpty() ? trackerOf(file) : asked.tracker;
     };
@@ -375,19 +407,21 @@ int convertFiles(const Conversion& asked, const Filter& filter, vlk::ExportOptio
                         ? trackerOf(inputs.files().front().file)
                         : asked.tracker;
     const TrackerTexts encoding;
-    const std::unique_ptr<RecordSource> files = recordsOf(inputs.files(), tell, complete);
+    const std::unique_ptr<RecordSource> files = recordsOf(inputs.files(), listener);
     std::unique_ptr<RecordSource> merged;
     if (asked.merge) {
         QString reason;
         merged = mergedRecords(*files, &reason);
         if (!merged)
-            return refused(text("cli_213") + QStringLiteral(": ") + reason);
+            return refused(output, text("cli_213") + QStringLiteral(": ") + reason);
     }
     Conversions conversions(asked, filter, options, merged ? *merged : *files, output);
     if (conversions.looksAhead())
         conversions.lookAhead();
-    if (asked.strict && status != nothing)
+    if (asked.strict && status != nothing) {
+        output.drop();
         return failed;
+    }
     conversions.write();
     return status;
 }
@@ -409,11 +443,13 @@ int convert(const Call& call, Output& output)
         if (reason.isEmpty() && !options.archive)
             reason = readColumns(asked.columns, names, &options.columns);
         if (!reason.isEmpty())
-            return refused(reason);
+            return refused(output, reason);
     }
     const Inputs inputs(call.files);
-    if (inputs.files().empty())
+    if (inputs.files().empty()) {
+        output.drop();
         return inputs.status();
+    }
     return convertFiles(asked, filter, options, inputs, output);
 }
 

@@ -1,5 +1,9 @@
 #include "command/convert_source.h"
 
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+
 namespace workbench::command {
 
 namespace {
@@ -9,9 +13,8 @@ constexpr int recordsOfBatch = 1024;
 class FileSource : public RecordSource
 {
 public:
-    FileSource(const std::vector<TelemetryInput>& inputs, TellDamage tellDamage,
-               std::function<void(const File&, vlk::TelemetryOrigin&)> complete)
-        : inputs_(inputs), tellDamage_(std::move(tellDamage)), complete_(std::move(complete))
+    FileSource(const std::vector<TelemetryInput>& inputs, SourceListener listener)
+        : inputs_(inputs), listener_(std::move(listener))
     {
     }
 
@@ -37,15 +40,38 @@ private:
     void close()
     {
         reader_.reset();
+        opened_.reset();
         isRead_ = false;
     }
+
+    // By the bytes of its name, whatever encoding texts have now.
+    bool open(const TelemetryInput& input)
+    {
+        if (input.device)
+            return input.device->seek(0);
+        opened_ = std::make_unique<QFile>();
+        const int file = ::open(input.file.name.toLatin1().constData(), O_RDONLY | O_CLOEXEC);
+        if (file >= 0)
+            return opened_->open(file, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
+        fault(input, errno);
+        return false;
+    }
+
+    void fault(const TelemetryInput& input, int error) const
+    {
+        if (!isSilent_)
+            listener_.fault(input.file, QString::fromUtf8(std::strerror(error)));
+    }
+
+    QFile& device(const TelemetryInput& input) const { return input.device ? *input.device : *opened_; }
 
     std::optional<RecordBatch> ofThisFile()
     {
         const TelemetryInput& input = inputs_[at_];
         if (!reader_) {
-            input.device->seek(0);
-            reader_ = std::make_unique<vlk::TelemetryReader>(*input.device, input.file.name,
+            if (!open(input))
+                return std::nullopt;
+            reader_ = std::make_unique<vlk::TelemetryReader>(device(input), input.file.name,
                                                              vlk::TelemetryReading::salvage);
             origin_.reset();
         }
@@ -53,14 +79,14 @@ private:
         while (!isRead_ && contents.records.size() < recordsOfBatch) {
             isRead_ = !reader_->step();
             if (isRead_)
-                reader_->finish();
+                finish(input);
             tellDamages(input, contents);
         }
         if (contents.records.empty())
             return std::nullopt;
         if (!origin_) {
             vlk::TelemetryOrigin origin = contents.origin;
-            complete_(input.file, origin);
+            listener_.complete(input.file, origin);
             origin_ = std::make_shared<const vlk::TelemetryOrigin>(std::move(origin));
         }
         RecordBatch batch{origin_, std::move(contents.records)};
@@ -69,20 +95,27 @@ private:
         return batch;
     }
 
+    void finish(const TelemetryInput& input)
+    {
+        reader_->finish();
+        if (device(input).error() != QFileDevice::NoError)
+            fault(input, EIO);
+    }
+
     void tellDamages(const TelemetryInput& input, vlk::TelemetryContents& contents)
     {
         for (const vlk::FileDamage& damage : contents.damages) {
             if (!isSilent_)
-                tellDamage_(input.file, damage, input.device->size());
+                listener_.damage(input.file, damage, device(input).size());
         }
         contents.damages.clear();
     }
 
     const std::vector<TelemetryInput>& inputs_;
-    TellDamage tellDamage_;
-    std::function<void(const File&, vlk::TelemetryOrigin&)> complete_;
+    SourceListener listener_;
     std::size_t at_ = 0;
     bool isSilent_ = false;
+    std::unique_ptr<QFile> opened_; // the present file
     std::unique_ptr<vlk::TelemetryReader> reader_;
     bool isRead_ = false;                                // the present file, to its end
     std::shared_ptr<const vlk::TelemetryOrigin> origin_; // of the present file
@@ -90,11 +123,9 @@ private:
 
 } // namespace
 
-std::unique_ptr<RecordSource>
-recordsOf(const std::vector<TelemetryInput>& inputs, RecordSource::TellDamage tellDamage,
-          std::function<void(const File& file, vlk::TelemetryOrigin& origin)> complete)
+std::unique_ptr<RecordSource> recordsOf(const std::vector<TelemetryInput>& inputs, SourceListener listener)
 {
-    return std::make_unique<FileSource>(inputs, std::move(tellDamage), std::move(complete));
+    return std::make_unique<FileSource>(inputs, std::move(listener));
 }
 
 } // namespace workbench::command

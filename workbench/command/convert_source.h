@@ -21,19 +21,27 @@ struct RecordBatch
     vlk::RecordStore records;
 };
 
-// A file that is open, at its beginning.
 struct TelemetryInput
 {
     File file;
-    std::unique_ptr<QFile> device;
+    std::unique_ptr<QFile>
+        device{}; // of standard input, which is kept; else the file is opened when it is read
+};
+
+// What is told while files are read for the first time.
+struct SourceListener
+{
+    // Something that was found wrong in a file of that size.
+    std::function<void(const File& file, const vlk::FileDamage& damage, qint64 size)> damage;
+    // A file could not be opened, or not read to its end.
+    std::function<void(const File& file, const QString& reason)> fault;
+    // Finishes what a file tells of its tracker.
+    std::function<void(const File& file, vlk::TelemetryOrigin& origin)> complete;
 };
 
 class RecordSource
 {
 public:
-    // What was found wrong in a file of that size.
-    using TellDamage = std::function<void(const File& file, const vlk::FileDamage& damage, qint64 size)>;
-
     virtual ~RecordSource() = default;
 
     virtual void rewind() = 0;
@@ -44,11 +52,8 @@ protected:
     Q_DISABLE_COPY_MOVE(RecordSource)
 };
 
-// One file after the other. Damages are told when their file is read for the first time. The origin of a file
-// is finished by `complete`.
-std::unique_ptr<RecordSource>
-recordsOf(const std::vector<TelemetryInput>& inputs, RecordSource::TellDamage tellDamage,
-          std::function<void(const File& file, vlk::TelemetryOrigin& origin)> complete);
+// One file after the other.
+std::unique_ptr<RecordSource> recordsOf(const std::vector<TelemetryInput>& inputs, SourceListener listener);
 
 // Sorted by time; of those with the same number and time the first. None, with a reason, where the temporary
 // file cannot be written.

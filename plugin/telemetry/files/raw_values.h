@@ -10,10 +10,16 @@ namespace vlk {
 
 inline std::uint64_t rawAt(const std::uint8_t* bytes, int width)
 {
-    std::uint64_t raw = 0;
-    for (int i = 0; i < width; ++i)
-        raw |= std::uint64_t{bytes[i]} << 8 * i;
-    return raw;
+    switch (width) {
+    case 1:
+        return *bytes;
+    case 2:
+        return qFromLittleEndian<quint16>(bytes);
+    case 4:
+        return qFromLittleEndian<quint32>(bytes);
+    default:
+        return qFromLittleEndian<quint64>(bytes);
+    }
 }
 
 // Calls visit(record, raw) for every record from `first` on, with a std::optional<std::uint64_t> that is
