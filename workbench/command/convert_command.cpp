@@ -3,9 +3,9 @@
 #include "command/commands.h"
 
 #include "base/windows1251.h"
+#include "command/convert_inputs.h"
 #include "command/convert_source.h"
 #include "command/damage_lines.h"
-#include "command/file_kind.h"
 #include "command/file_names.h"
 #include "command/in_order.h"
 #include "command/output.h"
@@ -19,7 +19,6 @@
 #include <QTextCodec>
 
 #include <algorithm>
-#include <cstdio>
 #include <deque>
 
 namespace workbench::command {
@@ -42,71 +41,6 @@ public:
 
 private:
     QTextCodec* const before_ = QTextCodec::codecForLocale();
-};
-
-// In a temporary file, at its beginning; none where that cannot be written.
-std::unique_ptr<QFile> kept(QFile& input)
-{
-    auto file = std::make_unique<QTemporaryFile>();
-    if (!file->open())
-        return nullptr;
-    for (;;) {
-        const QByteArray piece = input.read(1 << 20);
-        if (piece.isEmpty())
-            break;
-        if (file->write(piece) != piece.size())
-            return nullptr;
-    }
-    file->seek(0);
-    return file;
-}
-
-// The files of the call that are telemetry; it complains of the others.
-class Inputs
-{
-public:
-    explicit Inputs(const QStringList& names)
-    {
-        FileWalk walk(names);
-        while (const std::optional<File> file = walk.next())
-            take(*file);
-    }
-
-    const std::vector<TelemetryInput>& files() const { return files_; }
-    int status() const { return status_; }
-
-private:
-    void take(const File& file)
-    {
-        auto device = std::make_unique<QFile>(file.name);
-        const bool isOpen = file.isStandardInput() ? device->open(stdin, QIODevice::ReadOnly)
-                                                   : device->open(QIODevice::ReadOnly);
-        const bool isKept = isOpen && device->isSequential();
-        if (isKept)
-            device = kept(*device);
-        if (!device)
-            return refuse(file, text("cli_213"));
-        const QByteArray start = isOpen ? device->peek(4096) : QByteArray();
-        if (!isOpen || (start.isEmpty() && device->error() != QFileDevice::NoError))
-            return refuse(file, text("cli_002").arg(systemText(device->errorString())));
-        const FileKind kind = kindOf(start);
-        // What has lost its beginning is found by its records.
-        const bool isDamaged = kind == FileKind::unknown && !start.isEmpty() &&
-                               file.name.endsWith(QLatin1String(".tmi"), Qt::CaseInsensitive);
-        if (kind == FileKind::telemetry || isDamaged)
-            files_.push_back({file, isKept || file.isStandardInput() ? std::move(device) : nullptr});
-        else if (file.isNamed)
-            refuse(file, text(start.isEmpty() ? "cli_004" : "cli_212"));
-    }
-
-    void refuse(const File& file, const QString& reason)
-    {
-        writeError(complaint(file.name, reason));
-        status_ = failed;
-    }
-
-    std::vector<TelemetryInput> files_;
-    int status_ = nothing;
 };
 
 FilterNames namesInBothLanguages()
@@ -387,7 +321,7 @@ int refused(Output& output, const QString& reason)
 }
 
 int convertFiles(const Conversion& asked, const Filter& filter, vlk::ExportOptions options,
-                 const Inputs& inputs, Output& output)
+                 const TelemetryInputs& inputs, Output& output)
 {
     int status = inputs.status();
     SourceListener listener;
@@ -445,7 +379,7 @@ int convert(const Call& call, Output& output)
         if (!reason.isEmpty())
             return refused(output, reason);
     }
-    const Inputs inputs(call.files);
+    const TelemetryInputs inputs(call.files);
     if (inputs.files().empty()) {
         output.drop();
         return inputs.status();

@@ -6,6 +6,8 @@
 #include "telemetry/files/raw_values.h"
 #include "telemetry/files/title_lines.h"
 
+#include <QTemporaryFile>
+
 #include <algorithm>
 #include <cstring>
 #include <numeric>

@@ -4,10 +4,8 @@
 // input is kept in a temporary file, and records that are merged wait in another one, so that memory does not
 // grow with the files.
 
-#include "command/file_walk.h"
+#include "command/convert_inputs.h"
 #include "telemetry/files/telemetry_reader.h"
-
-#include <QTemporaryFile>
 
 #include <functional>
 #include <memory>
@@ -19,13 +17,6 @@ struct RecordBatch
 {
     std::shared_ptr<const vlk::TelemetryOrigin> origin;
     vlk::RecordStore records;
-};
-
-struct TelemetryInput
-{
-    File file;
-    std::unique_ptr<QFile>
-        device{}; // of standard input, which is kept; else the file is opened when it is read
 };
 
 // What is told while files are read for the first time.

@@ -1,17 +1,16 @@
 #include "telemetry/files/filter_parser.h"
 
 #include "base/translated.h"
-
-#include <QDateTime>
-#include <QRegularExpression>
+#include "telemetry/files/filter_nodes.h"
+#include "telemetry/files/filter_values.h"
 
 #include <algorithm>
-#include <charconv>
-#include <limits>
 
 namespace vlk {
 
 namespace {
+
+using namespace nodes;
 
 constexpr int kDeepest = 64;
 
@@ -72,72 +71,6 @@ const QStringList& wordsOf(FilterNode::Kind kind)
     static const QStringList any{QStringLiteral("or"), QStringLiteral("или")};
     static const QStringList negation{QStringLiteral("not"), QStringLiteral("не")};
     return kind == FilterNode::all ? all : kind == FilterNode::any ? any : negation;
-}
-
-// Seconds since 1970, from the first to the last that a moment means.
-struct Moment
-{
-    qint64 first;
-    qint64 last;
-};
-
-FilterNode condition(const FilterColumn& column, Comparison comparison, double number)
-{
-    return {.column = column, .comparison = comparison, .number = number};
-}
-
-// Parts of the same kind are parts of the whole.
-FilterNode joined(FilterNode::Kind kind, std::vector<FilterNode> parts)
-{
-    FilterNode node{.kind = kind};
-    for (FilterNode& part : parts) {
-        if (part.kind == kind)
-            std::ranges::move(part.parts, std::back_inserter(node.parts));
-        else
-            node.parts.push_back(std::move(part));
-    }
-    if (node.parts.size() > 1)
-        return node;
-    FilterNode only = std::move(node.parts.front());
-    return only;
-}
-
-FilterNode inside(const FilterColumn& column, const CodeRange& codes)
-{
-    if (codes.first == codes.last)
-        return condition(column, Comparison::equal, codes.first);
-    FilterNode from = condition(column, Comparison::greaterOrEqual, codes.first);
-    if (codes.last == std::numeric_limits<double>::infinity())
-        return from;
-    return joined(FilterNode::all, {from, condition(column, Comparison::lessOrEqual, codes.last)});
-}
-
-FilterNode outside(const FilterColumn& column, const CodeRange& codes)
-{
-    if (codes.first == codes.last)
-        return condition(column, Comparison::notEqual, codes.first);
-    FilterNode below = condition(column, Comparison::less, codes.first);
-    if (codes.last == std::numeric_limits<double>::infinity())
-        return below;
-    return joined(FilterNode::any, {below, condition(column, Comparison::greater, codes.last)});
-}
-
-FilterNode compared(const FilterColumn& column, Comparison comparison, const Moment& moment)
-{
-    const CodeRange range{static_cast<double>(moment.first), static_cast<double>(moment.last)};
-    switch (comparison) {
-    case Comparison::equal:
-        return inside(column, range);
-    case Comparison::notEqual:
-        return outside(column, range);
-    case Comparison::less:
-    case Comparison::greaterOrEqual:
-        return condition(column, comparison, range.first);
-    case Comparison::greater:
-    case Comparison::lessOrEqual:
-        break;
-    }
-    return condition(column, comparison, range.last);
 }
 
 class Parser
@@ -360,67 +293,11 @@ private:
                                          int* end) const
     {
         if (holdsTimes(column_)) {
-            if (const std::optional<Moment> moment = momentAt(text, position, end))
+            if (const std::optional<MomentSpan> moment = typedMoment(text, position, utcOffset_, end))
                 return compared(column_, comparison, *moment);
         }
-        const std::optional<double> number = numberAt(text, position, end);
+        const std::optional<double> number = typedNumber(text, position, end);
         return number ? std::optional(condition(column_, comparison, *number)) : std::nullopt;
-    }
-
-    static std::optional<double> numberAt(const QString& text, int position, int* end)
-    {
-        static const QRegularExpression form(
-            QStringLiteral("[+-]?\\d+(?:[.,]\\d+)?(?:[eE][+-]?\\d+)?(?![\\w.,:-])"),
-            QRegularExpression::UseUnicodePropertiesOption);
-        const QRegularExpressionMatch match = form.match(text, position, QRegularExpression::NormalMatch,
-                                                         QRegularExpression::AnchoredMatchOption);
-        if (!match.hasMatch())
-            return std::nullopt;
-        QByteArray digits = match.captured().toLatin1().replace(',', '.');
-        if (digits.startsWith('+'))
-            digits.remove(0, 1);
-        double number = 0;
-        const auto [last, error] = std::from_chars(digits.constBegin(), digits.constEnd(), number);
-        if (error != std::errc() || last != digits.constEnd())
-            return std::nullopt;
-        *end = match.capturedEnd();
-        return number;
-    }
-
-    std::optional<Moment> momentAt(const QString& text, int position, int* end) const
-    {
-        static const QRegularExpression form(
-            QStringLiteral("(?:(?<day>[0-9]{1,2})\\.(?<month>[0-9]{1,2})\\.(?<year>[0-9]{4})"
-                           "|(?<year2>[0-9]{4})-(?<month2>[0-9]{2})-(?<day2>[0-9]{2}))"
-                           "(?:(?: +|T)(?<hour>[0-9]{1,2}):(?<minute>[0-9]{2})(?::(?<second>[0-9]{2}))?"
-                           "(?<zone>Z|[+-][0-9]{2}:?[0-9]{2})?)?(?![0-9A-Za-z:])"));
-        const QRegularExpressionMatch match = form.match(text, position, QRegularExpression::NormalMatch,
-                                                         QRegularExpression::AnchoredMatchOption);
-        const auto part = [&](const char* name) { return match.captured(QLatin1String(name)); };
-        const auto either = [&](const char* name, const char* other) {
-            return part(part(name).isEmpty() ? other : name).toInt();
-        };
-        const QDate date(either("year", "year2"), either("month", "month2"), either("day", "day2"));
-        const QTime clock(part("hour").toInt(), part("minute").toInt(), part("second").toInt());
-        if (!match.hasMatch() || !date.isValid() || !clock.isValid())
-            return std::nullopt;
-        *end = match.capturedEnd();
-        const qint64 first = secondsOf(date, clock, part("zone"));
-        const int span = part("hour").isEmpty() ? 86'400 : part("second").isEmpty() ? 60 : 1;
-        return Moment{first, first + span - 1};
-    }
-
-    qint64 secondsOf(const QDate& date, const QTime& clock, QString zone) const
-    {
-        if (zone.isEmpty() && !utcOffset_)
-            return QDateTime(date, clock, Qt::LocalTime).toSecsSinceEpoch();
-        qint64 offset = utcOffset_.value_or(0);
-        if (!zone.isEmpty()) {
-            zone.remove(QLatin1Char(':'));
-            const int minutes = zone.midRef(1, 2).toInt() * 60 + zone.midRef(3, 2).toInt();
-            offset = zone[0] == QLatin1Char('-') ? -60 * minutes : 60 * minutes;
-        }
-        return QDateTime(date, clock, Qt::UTC).toSecsSinceEpoch() - offset;
     }
 
     const QString& text_;
