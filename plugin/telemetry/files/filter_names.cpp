@@ -83,6 +83,7 @@ void FilterNames::add(const QString& name, const FilterColumn& column)
         return;
     columns_.insert(key, column);
     names_.append(name.simplified());
+    foldedNames_.append(key);
     longest_ = std::max(longest_, key.size());
 }
 

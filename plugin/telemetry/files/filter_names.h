@@ -55,6 +55,8 @@ public:
 
     // As they were added.
     const QStringList& names() const { return names_; }
+    // The same, folded.
+    const QStringList& foldedNames() const { return foldedNames_; }
     QStringList words(const FilterColumn& column) const;
 
 private:
@@ -68,6 +70,7 @@ private:
     void addWordsOf(ItemIndex item);
 
     QStringList names_;
+    QStringList foldedNames_;
     QHash<QString, FilterColumn> columns_;
     std::map<FilterColumn, Words> words_;
     int longest_ = 0; // of names and words

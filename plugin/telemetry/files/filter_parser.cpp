@@ -314,18 +314,26 @@ private:
 };
 
 // Words of which one begins with what is typed; those that begin with it themselves come first.
-QStringList matching(const QStringList& all, const QString& typed)
+QStringList matching(const QStringList& all, const QStringList& folded, const QString& typed)
 {
+    const QString inside = QLatin1Char(' ') + typed;
     QStringList first;
     QStringList further;
-    for (const QString& text : all) {
-        const QString folded = foldedForFilter(text);
-        if (folded.startsWith(typed))
-            first << text;
-        else if (folded.contains(QLatin1Char(' ') + typed))
-            further << text;
+    for (int i = 0; i < all.size(); ++i) {
+        if (folded[i].startsWith(typed))
+            first << all[i];
+        else if (folded[i].contains(inside))
+            further << all[i];
     }
     return first + further;
+}
+
+QStringList matching(const QStringList& all, const QString& typed)
+{
+    QStringList folded;
+    for (const QString& text : all)
+        folded << foldedForFilter(text);
+    return matching(all, folded, typed);
 }
 
 QString inQuotes(const QString& word)
@@ -364,14 +372,15 @@ std::vector<FilterCompletion> completions(const QString& text, int cursor, const
     };
     switch (expected) {
     case Expected::name:
-        for (const QString& name : matching(names.names(), typed))
+        for (const QString& name : matching(names.names(), names.foldedNames(), typed))
             all.push_back({from, isQuoted ? inQuotes(name) : name});
         break;
     case Expected::sign: {
         // The name may be the beginning of a longer one.
         if (parser.nameEnd() == before.size())
-            offer(matching(names.names(), foldedForFilter(before.mid(parser.nameBegin()))),
-                  parser.nameBegin());
+            offer(
+                matching(names.names(), names.foldedNames(), foldedForFilter(before.mid(parser.nameBegin()))),
+                parser.nameBegin());
         for (const char* sign : {"=", "!=", "<", ">", "<=", ">="}) {
             if (QString::fromLatin1(sign).startsWith(typed))
                 all.push_back({from, QString::fromLatin1(sign)});
