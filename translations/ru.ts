@@ -1234,6 +1234,43 @@
     <message id="cli_159"><translation>открыто слишком много файлов</translation></message>
     <message id="cli_160"><translation>файл стал бы слишком большим</translation></message>
     <message id="cli_161"><translation>программа выполняется</translation></message>
+    <message id="cli_200"><translation>; продолжено с %1</translation></message>
+    <message id="cli_201"><translation>Телеметрия в другом виде: таблицы, треки, записи текстами</translation></message>
+    <message id="cli_202"><translation>Во что преобразовать</translation></message>
+    <message id="cli_203"><translation>Столбцы таблицы по названиям; archive: все, какие есть</translation></message>
+    <message id="cli_204"><translation>Начиная с этого времени</translation></message>
+    <message id="cli_205"><translation>До этого времени</translation></message>
+    <message id="cli_206"><translation>Записи, отвечающие условию: Speed &gt; 60 и IN1 = 1</translation></message>
+    <message id="cli_207"><translation>Номер или название трекера</translation></message>
+    <message id="cli_208"><translation>Значения, как в файле XML</translation></message>
+    <message id="cli_209"><translation>По порядку времени, каждая запись один раз</translation></message>
+    <message id="cli_210"><translation>Ничего не записывать, если файл повреждён</translation></message>
+    <message id="cli_211"><translation>Десятичная запятая и точки с запятой между ячейками</translation></message>
+    <message id="cli_212"><translation>не телеметрия</translation></message>
+    <message id="cli_213"><translation>временный файл не записывается</translation></message>
+    <message id="cli_214"><translation>%1: в позиции %2 ожидается %3</translation></message>
+    <message id="cli_215"><translation>--columns: столбца %1 нет</translation></message>
+    <message id="rec_100"><translation>название столбца</translation></message>
+    <message id="rec_101"><translation>=, !=, &lt;, &gt;, &lt;= или &gt;=</translation></message>
+    <message id="rec_102"><translation>число</translation></message>
+    <message id="rec_103"><translation>число или слово в кавычках</translation></message>
+    <message id="rec_104"><translation>время в виде 20.11.2026 08:29</translation></message>
+    <message id="rec_105"><translation>«и», «или» либо конец</translation></message>
+    <message id="rec_106"><translation>закрывающая скобка</translation></message>
+    <message id="rec_107"><translation>закрывающая кавычка</translation></message>
+    <message id="rec_108"><translation>меньше скобок одна в другой</translation></message>
+    <message id="rec_109"><translation>число: слова сравниваются только знаками = и !=</translation></message>
+    <message id="rec_110"><translation>и</translation></message>
+    <message id="rec_111"><translation>или</translation></message>
+    <message id="rec_120"><translation>Таблица чисел (CSV)</translation></message>
+    <message id="rec_121"><translation>Таблица текстов (CSV)</translation></message>
+    <message id="rec_122"><translation>Таблица чисел с табуляцией (TSV)</translation></message>
+    <message id="rec_123"><translation>Трек (GPX)</translation></message>
+    <message id="rec_124"><translation>Трек (KML)</translation></message>
+    <message id="rec_125"><translation>Трек (GeoJSON)</translation></message>
+    <message id="rec_126"><translation>Записи текстами (NDJSON)</translation></message>
+    <message id="rec_127"><translation>Файл телеметрии (XML)</translation></message>
+    <message id="rec_128"><translation>Файл ТМИ</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>

@@ -6,6 +6,7 @@
 
 #include "catalogue/field_catalogue.h"
 
+#include <bit>
 #include <string>
 
 namespace vlk {
@@ -53,8 +54,15 @@ public:
     constexpr int payloadSize(int fieldCount = kFieldCount) const
     {
         int size = 0;
-        for (int i = 0; i < fieldCount; ++i)
-            size += test(i) ? kFields[i].width : 0;
+        for (int byte = 0; byte < kBytes; ++byte) {
+            // From one set bit to the next: most are clear.
+            for (std::uint8_t rest = bytes_[byte]; rest != 0;) {
+                const int bit = std::countl_zero(rest);
+                const int field = 8 * byte + bit;
+                size += field < fieldCount ? kFields[field].width : 0;
+                rest = static_cast<std::uint8_t>(rest & ~(0x80 >> bit));
+            }
+        }
         return size;
     }
     constexpr int recordSize(int fieldCount = kFieldCount) const
@@ -64,6 +72,15 @@ public:
 
     constexpr const Bytes& bytes() const { return bytes_; }
     constexpr bool operator==(const FieldMask&) const = default;
+
+    // The fields of either.
+    constexpr FieldMask operator|(const FieldMask& other) const
+    {
+        FieldMask both;
+        for (int i = 0; i < kBytes; ++i)
+            both.bytes_[i] = static_cast<std::uint8_t>(bytes_[i] | other.bytes_[i]);
+        return both;
+    }
 
 private:
     Bytes bytes_{};

@@ -49,7 +49,7 @@ private Q_SLOTS:
         const QByteArray words =
             R"("path":"TRACK/POINTS/maxSpeed","page":"Track","group":"Always record a track point",)"
             R"("caption":"Speed threshold",)";
-        const QByteArray commands = ": check, diff, compare, get, set, apply, report, info\n";
+        const QByteArray commands = ": check, diff, compare, get, set, apply, report, info, convert\n";
         const QByteArray help = "Help: r7106 --help\n";
         const DataTable<QString, int, QByteArray, QByteArray> table({"call", "status", "told", "complaints"});
         table.row("version", "--version", 0, "r7106 3.3.0\n", "")

@@ -37,6 +37,8 @@ void Output::write(const QByteArray& bytes)
 
 bool Output::close()
 {
+    if (isDropped_)
+        return true;
     if (!isFile()) {
         if (fault_.isEmpty() && std::fflush(stdout) != 0)
             fault_ = qt_error_string(errno);

@@ -18,6 +18,9 @@ public:
     // Puts the file in its place. False with a complaint when not everything could be written.
     bool close();
 
+    // Nothing is to be written after all; a file stays as it was.
+    void drop() { isDropped_ = true; }
+
     bool isFile() const { return !name_.isEmpty(); }
 
 private:
@@ -25,6 +28,7 @@ private:
     QString complaint_;
     QTemporaryFile kept_;
     QString fault_;
+    bool isDropped_ = false;
 };
 
 // A line on standard error, or on standard output for a program that reads: "NAME: TEXT".

@@ -3,7 +3,7 @@
 // Columns of a store of records, each decoded once into plain numbers: what filters, sorting, curves, the
 // track and sums work on. A column has one number a record, in the order of the store, in the unit that the
 // texts of the item have (item_text.h); NaN where the record does not hold the item or holds its code for no
-// value. The store must not change as long as its columns are used.
+// value. As long as its columns are used the store may grow: what was asked for before is asked for again.
 
 #include "telemetry/record/record_store.h"
 #include "telemetry/text/item.h"
@@ -28,6 +28,8 @@ public:
     const std::string& userTypes() const { return userTypes_; }
 
     const NumberColumn& numbers(ItemIndex item);
+    // The whole number of an element, whatever it means.
+    const NumberColumn& numbers(ElementIndex element);
     // Of the head of every record and packet, also where its mask does not tell it: seconds since 1970 in
     // UTC, the code of the event, the number of the record.
     const std::vector<quint32>& times();
@@ -35,11 +37,14 @@ public:
     const std::vector<quint32>& recordNumbers();
 
 private:
+    template <class ToNumber>
+    const NumberColumn& filled(NumberColumn& column, ElementIndex element, ToNumber toNumber) const;
     const std::vector<quint32>& headColumn(ElementIndex element);
 
     const RecordStore& store_;
     std::string userTypes_;
     std::map<ItemIndex, NumberColumn> numbers_;
+    std::map<ElementIndex, NumberColumn> wholes_;
     std::map<ElementIndex, std::vector<quint32>> heads_;
 };
 

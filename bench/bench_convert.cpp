@@ -1,0 +1,151 @@
+// Converting on the command line and filtering, beside what they cannot do without: a table of numbers beside
+// std::to_chars of the same cells into a buffer and to a file, on one core; a filter within 100 ms.
+
+#include "bench/side_by_side.h"
+#include "telemetry/files/export_form.h"
+#include "telemetry/files/filter_parser.h"
+#include "tests/support/records.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+using namespace vlk;
+
+namespace {
+
+// With the fields of the default mask, 10 s apart, along a road.
+RecordStore drive(int count)
+{
+    std::mt19937 random(7106);
+    const FieldMask mask = FieldMask::fromText(kDefaultMaskText);
+    RecordStore records;
+    RecordParts record;
+    record.mask = mask;
+    for (int i = 0; i < count; ++i) {
+        if (i % 16 == 0)
+            record.block = plausibleBlock(random);
+        const auto number = static_cast<quint64>(i);
+        record.put(element("NumPage"), number);
+        record.put(element("Time"), 1700000000 + 10 * number);
+        record.put(element("LastTime"), 1700000000 + 10 * number);
+        record.put(element("Latitude"), 33450000 + 17 * number % 600000);
+        record.put(element("Longitude"), 22560000 + 31 * number % 600000);
+        record.put(element("Speed"), std::bit_cast<quint32>(static_cast<float>(random() % 9000) / 100));
+        records.add(30, mask, record.block);
+    }
+    return records;
+}
+
+// The cells of one record, as numbers.
+struct Cell
+{
+    enum { whole, fixed, single, moment } kind;
+    int decimals;
+    double number;
+};
+
+std::vector<Cell> cellsOf(const RecordStore& records)
+{
+    std::vector<Cell> cells;
+    records.forEach([&](const TmiPage_Zeta3& page) {
+        for (int i = 0; i < kElementCount; ++i) {
+            const auto index = static_cast<ElementIndex>(i);
+            const Measure& measure = kElements[i].measure;
+            if (!page.has(index))
+                continue;
+            if (measure.unit == Unit::unixSeconds)
+                cells.push_back({Cell::moment, 0, page.number(index)});
+            else if (kElements[i].type == ValueType::f32)
+                cells.push_back({Cell::single, 0, page.number(index)});
+            else if (measure.divisor != 1)
+                cells.push_back(
+                    {Cell::fixed, measure.unit == Unit::degree ? 7 : 3, measure.of(page.number(index))});
+            else
+                cells.push_back({Cell::whole, 0, page.number(index)});
+        }
+    });
+    return cells;
+}
+
+char* putMoment(char* to, std::int64_t seconds)
+{
+    const std::chrono::sys_seconds time{std::chrono::seconds(seconds)};
+    const auto day = std::chrono::floor<std::chrono::days>(time);
+    const std::chrono::year_month_day date(day);
+    const std::chrono::hh_mm_ss clock(time - day);
+    for (const auto part : {static_cast<std::int64_t>(static_cast<int>(date.year())),
+                            static_cast<std::int64_t>(static_cast<unsigned>(date.month())),
+                            static_cast<std::int64_t>(static_cast<unsigned>(date.day())),
+                            static_cast<std::int64_t>(clock.hours().count()),
+                            static_cast<std::int64_t>(clock.minutes().count()),
+                            static_cast<std::int64_t>(clock.seconds().count())}) {
+        to = std::to_chars(to, to + 20, part).ptr;
+        *to++ = '-';
+    }
+    return to;
+}
+
+char* put(char* to, const Cell& cell)
+{
+    switch (cell.kind) {
+    case Cell::whole:
+        return std::to_chars(to, to + 32, static_cast<std::int64_t>(cell.number)).ptr;
+    case Cell::fixed:
+        return std::to_chars(to, to + 32, cell.number, std::chars_format::fixed, cell.decimals).ptr;
+    case Cell::single:
+        return std::to_chars(to, to + 32, static_cast<float>(cell.number)).ptr;
+    case Cell::moment:
+        return putMoment(to, static_cast<std::int64_t>(cell.number));
+    }
+    return to;
+}
+
+void convertToCsv(benchmark::State& state)
+{
+    const QTemporaryDir folder;
+    const RecordStore records = drive(300'000);
+    QFile file(folder.filePath("drive.tmi"));
+    if (!file.open(QIODevice::WriteOnly) || !exportRecords(file, records, ExportForm::tmi, {}))
+        qFatal("no file");
+    file.close();
+    const auto convert = [&] {
+        QProcess process;
+        process.setStandardOutputFile(folder.filePath("converted.csv"));
+        process.start("taskset", {"-c", "0", VLK_COMMAND, "convert", file.fileName(), "--to", "csv"});
+        if (!process.waitForFinished() || process.exitCode() != 0)
+            qFatal("not converted");
+    };
+    const auto printAll = [&, cells = cellsOf(records)] {
+        QFile plain(folder.filePath("plain.csv"));
+        std::vector<char> buffer(65'536);
+        char* end = buffer.data();
+        if (!plain.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+            qFatal("no file");
+        for (const Cell& cell : cells) {
+            end = put(end, cell);
+            *end++ = ',';
+            if (end - buffer.data() > 65'000)
+                plain.write(buffer.data(), std::exchange(end, buffer.data()) - buffer.data());
+        }
+        plain.write(buffer.data(), end - buffer.data());
+    };
+    bench::sideBySide(state, "x to_chars", convert, printAll);
+}
+
+// A million records; their columns are decoded anew each time, as when a file was opened.
+void filter(benchmark::State& state)
+{
+    const RecordStore records = drive(1'000'000);
+    const Filter condition =
+        *parseFilter(QStringLiteral("Speed > 60 and Latitude < 56"), FilterNames()).filter;
+    for ([[maybe_unused]] auto _ : state) {
+        RecordColumns columns(records);
+        benchmark::DoNotOptimize(passing(condition, columns));
+    }
+}
+
+} // namespace
+
+BENCHMARK(convertToCsv)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(filter)->Unit(benchmark::kMillisecond);

@@ -1,0 +1,168 @@
+// Telemetry converted on the command line, by the program in a folder of its own.
+
+#include "base/windows1251.h"
+#include "support/data_table.h"
+#include "support/files.h"
+#include "telemetry/files/export_form.h"
+#include "telemetry/sample_pages.h"
+
+#include <QBuffer>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTextCodec>
+#include <QtTest>
+
+using namespace vlk;
+
+namespace {
+
+QByteArray fileOf(ExportForm form, const RecordStore& store, const TelemetryOrigin& origin)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    ExportOptions options;
+    options.origin = origin;
+    return exportRecords(buffer, store, form, options) ? buffer.data() : QByteArray("failed");
+}
+
+} // namespace
+
+class ConvertTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        qputenv("TZ", "Europe/Moscow");
+        tzset();
+        origin_.model = QStringLiteral("R-7107");
+        origin_.vendor = QString::fromUtf8("Завод & Ко");
+        origin_.timeOffset = 18000;
+        origin_.titles.inputs[0] = QString::fromUtf8("Дверь <1>");
+        origin_.titles.userTypes[0] = QStringLiteral("s");
+        // As the tracker's texts are.
+        QTextCodec::setCodecForLocale(QTextCodec::codecForName("windows-1251"));
+        std::mt19937 random(7106);
+        RecordStore many = storeOf(randomPages(random, 3000));
+        const QByteArray packet = packetBytes(kSecondHead + cardEntry(toWindows1251(origin_.vendor)));
+        many.add(bytesAt(packet.constData(), packet.size()));
+        put("many.xml", fileOf(ExportForm::xml, many, origin_));
+        put("many.tmi", fileOf(ExportForm::tmi, many, origin_));
+        QTextCodec::setCodecForLocale(nullptr);
+        put("a.tmi", fileOf(ExportForm::tmi, storeOf({1, 2, 4}), {}));
+        put("b.xml", fileOf(ExportForm::xml, storeOf({5, 2, 3}), {}));
+        put("c.xml", "<DEVICE/>");
+        QByteArray damaged = readFile(path("a.tmi"));
+        damaged[128 + 2] = 0; // the type of the first record
+        put("damaged.tmi", damaged);
+        put("cut.xml", readFile(path("b.xml")).left(1500));
+    }
+
+    void tells_data()
+    {
+        const DataTable<QString, int, QByteArray, QByteArray> table({"call", "status", "told", "complaints"});
+        const QByteArray head = "NumPage,Code,Time,\"Power, V\"\r\n";
+        const auto row = [](int number) {
+            const QByteArray digit = QByteArray::number(number);
+            return digit + ",35,2023-11-15T01:13:2" + digit + "+03:00,0.00" + digit + "\r\n";
+        };
+        table
+            .row("one after the other", "a.tmi b.xml --to csv", 0,
+                 head + row(1) + row(2) + row(4) + row(5) + row(2) + row(3), "")
+            .row("merged", "a.tmi b.xml --to csv --merge", 0,
+                 head + row(1) + row(2) + row(3) + row(4) + row(5), "")
+            .row("a condition", "b.xml --to csv --where Питание>0,003", 2, "",
+                 "r7106: --where: at character 1 there should be the name of a column\n")
+            .row("in the other language", "b.xml --to csv --where Напряжение_питания,_В>0,003", 0,
+                 head + row(5), "")
+            .row("a span of time", "a.tmi --to csv --from 15.11.2023_01:13:22 --to-time 2023-11-14T22:13:23Z",
+                 0, head + row(2), "")
+            .row("no time", "a.tmi --to csv --from yesterday", 2, "",
+                 "r7106: --from: at character 1 there should be a time such as 20.11.2026 08:29\n")
+            .row("columns", "a.tmi --to tsv --raw --columns Power,NumPage --where NumPage=2", 0,
+                 "Power\tNumPage\n2\t2\n", "")
+            .row("no column", "a.tmi --to tsv --columns Powr", 2, "",
+                 "r7106: --columns: there is no column Powr\n")
+            .row("standard input", "- --to ndjson --raw --where NumPage=4", 0,
+                 "{\"number\":4,\"NumPage\":4,\"Code\":35,\"Time\":1700000004,\"Power\":4}\n", "")
+            .row("what is no telemetry", "c.xml a.tmi --to csv --where NumPage=1", 2, head + row(1),
+                 "c.xml: is not telemetry\n")
+            .row("records behind a damage", "damaged.tmi --to csv", 1, head + row(2) + row(4),
+                 "damaged.tmi: offset 128: no record; went on at 176\n"
+                 "damaged.tmi: offset 128: the records are not what was written\n"
+                 "damaged.tmi: offset 19: the file tells another count of records\n")
+            .row("nothing of what is damaged", "damaged.tmi --strict --to ndjson --raw", 2, "",
+                 "damaged.tmi: offset 128: no record; went on at 176\n"
+                 "damaged.tmi: offset 128: the records are not what was written\n"
+                 "damaged.tmi: offset 19: the file tells another count of records\n");
+    }
+    void tells()
+    {
+        QFETCH(QString, call);
+        QStringList arguments{"convert"};
+        for (const QString& part : call.split(' '))
+            arguments << QString(part).replace('_', ' ');
+        const auto [status, told, complaints] = run(arguments, readFile(path("a.tmi")));
+        QTEST(told, "told");
+        QTEST(complaints, "complaints");
+        QTEST(status, "status");
+        // A file is written as a whole, or not touched.
+        put("there.csv", "before");
+        run(arguments + QStringList{"-o", "there.csv"}, readFile(path("a.tmi")));
+        QCOMPARE(readFile(path("there.csv")), told.isEmpty() ? QByteArray("before") : told);
+    }
+
+    // The same bytes that a save in the windows gives, from either form.
+    void keepsAll()
+    {
+        for (const auto& [from, to] : {std::pair("many.xml", "xml"), {"many.tmi", "tmi"}}) {
+            const auto [status, told, complaints] = run({"convert", from, "--to", to});
+            QCOMPARE(complaints, QByteArray());
+            QCOMPARE(status, 0);
+            QVERIFY2(told == readFile(path(QString("many.") + to)), to);
+        }
+        // In the order of the file, on however many cores.
+        const QByteArray one = std::get<1>(run({"convert", "many.tmi", "--to", "csv-text"}));
+        for (int i = 0; i < 3; ++i)
+            QVERIFY(std::get<1>(run({"convert", "many.tmi", "--to", "csv-text"})) == one);
+        QCOMPARE(one.count('\n'), 3002);
+        QVERIFY(one.contains(toWindows1251(origin_.vendor)));
+    }
+
+private:
+    // Of these numbers, a second apart.
+    static RecordStore storeOf(std::initializer_list<int> numbers)
+    {
+        RecordStore store;
+        for (const int number : numbers) {
+            const auto raw = static_cast<quint64>(number);
+            const RecordParts record{
+                {"NumPage", raw}, {"Code", 35}, {"Time", 1700000000 + raw}, {"Power", raw}};
+            store.add(30, record.mask, record.block);
+        }
+        return store;
+    }
+    static RecordStore storeOf(const TelemetryPages& pages) { return vlk::storeOf(pages); }
+    QString path(const QString& name) const { return folder_.filePath(name); }
+    void put(const QString& name, const QByteArray& content) const { writeFile(path(name), content); }
+
+    std::tuple<int, QByteArray, QByteArray> run(const QStringList& arguments,
+                                                const QByteArray& input = {}) const
+    {
+        QProcess process;
+        process.setWorkingDirectory(folder_.path());
+        process.start(VLK_COMMAND, QStringList{"--language", "en"} + arguments);
+        process.write(input);
+        process.closeWriteChannel();
+        if (!process.waitForFinished())
+            return {-1, {}, process.errorString().toUtf8()};
+        return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+    }
+
+    const QTemporaryDir folder_;
+    TelemetryOrigin origin_;
+};
+
+QTEST_GUILESS_MAIN(ConvertTest)
+#include "tst_convert.moc"

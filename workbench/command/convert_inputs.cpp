@@ -1,0 +1,71 @@
+#include "command/convert_inputs.h"
+
+#include "command/file_kind.h"
+#include "command/file_names.h"
+#include "command/output.h"
+#include "window/languages.h"
+
+#include <QTemporaryFile>
+
+#include <cstdio>
+
+namespace workbench::command {
+
+namespace {
+
+// In a temporary file, at its beginning; none where that cannot be written.
+std::unique_ptr<QFile> kept(QFile& input)
+{
+    auto file = std::make_unique<QTemporaryFile>();
+    if (!file->open())
+        return nullptr;
+    for (;;) {
+        const QByteArray piece = input.read(1 << 20);
+        if (piece.isEmpty())
+            break;
+        if (file->write(piece) != piece.size())
+            return nullptr;
+    }
+    file->seek(0);
+    return file;
+}
+
+} // namespace
+
+TelemetryInputs::TelemetryInputs(const QStringList& names)
+{
+    FileWalk walk(names);
+    while (const std::optional<File> file = walk.next())
+        take(*file);
+}
+
+void TelemetryInputs::take(const File& file)
+{
+    auto device = std::make_unique<QFile>(file.name);
+    const bool isOpen =
+        file.isStandardInput() ? device->open(stdin, QIODevice::ReadOnly) : device->open(QIODevice::ReadOnly);
+    const bool isKept = isOpen && device->isSequential();
+    if (isKept)
+        device = kept(*device);
+    if (!device)
+        return refuse(file, text("cli_213"));
+    const QByteArray start = isOpen ? device->peek(4096) : QByteArray();
+    if (!isOpen || (start.isEmpty() && device->error() != QFileDevice::NoError))
+        return refuse(file, text("cli_002").arg(systemText(device->errorString())));
+    const FileKind kind = kindOf(start);
+    // What has lost its beginning is found by its records.
+    const bool isDamaged = kind == FileKind::unknown && !start.isEmpty() &&
+                           file.name.endsWith(QLatin1String(".tmi"), Qt::CaseInsensitive);
+    if (kind == FileKind::telemetry || isDamaged)
+        files_.push_back({file, isKept || file.isStandardInput() ? std::move(device) : nullptr});
+    else if (file.isNamed)
+        refuse(file, text(start.isEmpty() ? "cli_004" : "cli_212"));
+}
+
+void TelemetryInputs::refuse(const File& file, const QString& reason)
+{
+    writeError(complaint(file.name, reason));
+    status_ = failed;
+}
+
+} // namespace workbench::command

@@ -1,0 +1,37 @@
+#pragma once
+
+// The files of a call that are telemetry. Of the others that are named themselves it complains.
+
+#include "command/call.h"
+#include "command/file_walk.h"
+
+#include <QFile>
+
+#include <memory>
+
+namespace workbench::command {
+
+struct TelemetryInput
+{
+    File file;
+    std::unique_ptr<QFile>
+        device{}; // of standard input, which is kept; else the file is opened when it is read
+};
+
+class TelemetryInputs
+{
+public:
+    explicit TelemetryInputs(const QStringList& names);
+
+    const std::vector<TelemetryInput>& files() const { return files_; }
+    int status() const { return status_; }
+
+private:
+    void take(const File& file);
+    void refuse(const File& file, const QString& reason);
+
+    std::vector<TelemetryInput> files_;
+    int status_ = nothing;
+};
+
+} // namespace workbench::command

@@ -1,0 +1,131 @@
+#include "command/convert_source.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+
+namespace workbench::command {
+
+namespace {
+
+constexpr int recordsOfBatch = 1024;
+
+class FileSource : public RecordSource
+{
+public:
+    FileSource(const std::vector<TelemetryInput>& inputs, SourceListener listener)
+        : inputs_(inputs), listener_(std::move(listener))
+    {
+    }
+
+    void rewind() override
+    {
+        close();
+        at_ = 0;
+        isSilent_ = true;
+    }
+
+    std::optional<RecordBatch> next() override
+    {
+        while (at_ < inputs_.size()) {
+            if (std::optional<RecordBatch> batch = ofThisFile())
+                return batch;
+            close();
+            ++at_;
+        }
+        return std::nullopt;
+    }
+
+private:
+    void close()
+    {
+        reader_.reset();
+        opened_.reset();
+        isRead_ = false;
+    }
+
+    // By the bytes of its name, whatever encoding texts have now.
+    bool open(const TelemetryInput& input)
+    {
+        if (input.device)
+            return input.device->seek(0);
+        opened_ = std::make_unique<QFile>();
+        const int file = ::open(input.file.name.toLatin1().constData(), O_RDONLY | O_CLOEXEC);
+        if (file >= 0)
+            return opened_->open(file, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
+        fault(input, errno);
+        return false;
+    }
+
+    void fault(const TelemetryInput& input, int error) const
+    {
+        if (!isSilent_)
+            listener_.fault(input.file, QString::fromUtf8(std::strerror(error)));
+    }
+
+    QFile& device(const TelemetryInput& input) const { return input.device ? *input.device : *opened_; }
+
+    std::optional<RecordBatch> ofThisFile()
+    {
+        const TelemetryInput& input = inputs_[at_];
+        if (!reader_) {
+            if (!open(input))
+                return std::nullopt;
+            reader_ = std::make_unique<vlk::TelemetryReader>(device(input), input.file.name,
+                                                             vlk::TelemetryReading::salvage);
+            origin_.reset();
+        }
+        vlk::TelemetryContents& contents = reader_->contents();
+        while (!isRead_ && contents.records.size() < recordsOfBatch) {
+            isRead_ = !reader_->step();
+            if (isRead_)
+                finish(input);
+            tellDamages(input, contents);
+        }
+        if (contents.records.empty())
+            return std::nullopt;
+        if (!origin_) {
+            vlk::TelemetryOrigin origin = contents.origin;
+            listener_.complete(input.file, origin);
+            origin_ = std::make_shared<const vlk::TelemetryOrigin>(std::move(origin));
+        }
+        RecordBatch batch{origin_, std::move(contents.records)};
+        contents.records = vlk::RecordStore();
+        contents.records.setUtcOffset(batch.records.utcOffset());
+        return batch;
+    }
+
+    void finish(const TelemetryInput& input)
+    {
+        reader_->finish();
+        if (device(input).error() != QFileDevice::NoError)
+            fault(input, EIO);
+    }
+
+    void tellDamages(const TelemetryInput& input, vlk::TelemetryContents& contents)
+    {
+        for (const vlk::FileDamage& damage : contents.damages) {
+            if (!isSilent_)
+                listener_.damage(input.file, damage, device(input).size());
+        }
+        contents.damages.clear();
+    }
+
+    const std::vector<TelemetryInput>& inputs_;
+    SourceListener listener_;
+    std::size_t at_ = 0;
+    bool isSilent_ = false;
+    std::unique_ptr<QFile> opened_; // the present file
+    std::unique_ptr<vlk::TelemetryReader> reader_;
+    bool isRead_ = false;                                // the present file, to its end
+    std::shared_ptr<const vlk::TelemetryOrigin> origin_; // of the present file
+};
+
+} // namespace
+
+std::unique_ptr<RecordSource> recordsOf(const std::vector<TelemetryInput>& inputs, SourceListener listener)
+{
+    return std::make_unique<FileSource>(inputs, std::move(listener));
+}
+
+} // namespace workbench::command
