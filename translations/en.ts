@@ -1218,6 +1218,18 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_134"><translation>Commands</translation></message>
     <message id="cli_135"><translation>Arguments</translation></message>
     <message id="cli_136"><translation>(needed)</translation></message>
+    <message id="rec_100"><translation>the name of a column</translation></message>
+    <message id="rec_101"><translation>=, !=, &lt;, &gt;, &lt;= or &gt;=</translation></message>
+    <message id="rec_102"><translation>a number</translation></message>
+    <message id="rec_103"><translation>a number, or a word in quotes</translation></message>
+    <message id="rec_104"><translation>a time such as 20.11.2026 08:29</translation></message>
+    <message id="rec_105"><translation>&quot;and&quot;, &quot;or&quot; or the end</translation></message>
+    <message id="rec_106"><translation>a closing bracket</translation></message>
+    <message id="rec_107"><translation>a closing quotation mark</translation></message>
+    <message id="rec_108"><translation>fewer brackets within each other</translation></message>
+    <message id="rec_109"><translation>a number, since words are compared by = and != alone</translation></message>
+    <message id="rec_110"><translation>and</translation></message>
+    <message id="rec_111"><translation>or</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>
     <message id="rev_003"><translation>Unknown key, a write drops it</translation></message>

@@ -1218,6 +1218,18 @@
     <message id="cli_134"><translation>Команды</translation></message>
     <message id="cli_135"><translation>Аргументы</translation></message>
     <message id="cli_136"><translation>(нужен)</translation></message>
+    <message id="rec_100"><translation>название столбца</translation></message>
+    <message id="rec_101"><translation>=, !=, &lt;, &gt;, &lt;= или &gt;=</translation></message>
+    <message id="rec_102"><translation>число</translation></message>
+    <message id="rec_103"><translation>число или слово в кавычках</translation></message>
+    <message id="rec_104"><translation>время в виде 20.11.2026 08:29</translation></message>
+    <message id="rec_105"><translation>«и», «или» либо конец</translation></message>
+    <message id="rec_106"><translation>закрывающая скобка</translation></message>
+    <message id="rec_107"><translation>закрывающая кавычка</translation></message>
+    <message id="rec_108"><translation>меньше скобок одна в другой</translation></message>
+    <message id="rec_109"><translation>число: слова сравниваются только знаками = и !=</translation></message>
+    <message id="rec_110"><translation>и</translation></message>
+    <message id="rec_111"><translation>или</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>

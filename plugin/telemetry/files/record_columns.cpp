@@ -50,15 +50,28 @@ const NumberColumn& RecordColumns::numbers(ItemIndex item)
     NumberColumn& column = place->second;
     if (!isNew)
         return column;
+    fill(column, kItems[item].element, [&](std::uint64_t raw) { return itemNumber(raw, item, userTypes_); });
+    return column;
+}
+
+const NumberColumn& RecordColumns::numbers(ElementIndex element)
+{
+    const auto [place, isNew] = wholes_.try_emplace(element);
+    if (isNew)
+        fill(place->second, element,
+             [type = kElements[element].type](std::uint64_t raw) { return numberOf(raw, type); });
+    return place->second;
+}
+
+template <class ToNumber>
+void RecordColumns::fill(NumberColumn& column, ElementIndex element, ToNumber toNumber) const
+{
     column.resize(store_.size());
-    const ElementIndex element = kItems[item].element;
     walk(
         store_, element, [element](const RecordLayout& layout) { return layout.has(element); },
         [&](int record, std::optional<std::uint64_t> raw) {
-            column[record] =
-                raw ? itemNumber(*raw, item, userTypes_) : std::numeric_limits<double>::quiet_NaN();
+            column[record] = raw ? toNumber(*raw) : std::numeric_limits<double>::quiet_NaN();
         });
-    return column;
 }
 
 const std::vector<quint32>& RecordColumns::headColumn(ElementIndex element)
