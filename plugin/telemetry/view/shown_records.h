@@ -36,7 +36,7 @@ public:
     // For other windows that show the same records.
     std::shared_ptr<const TelemetryContents> contents() const { return contents_; }
     const RecordStore& records() const { return contents_->records; }
-    const TelemetryTitles& titles() const { return contents_->titles; }
+    const TelemetryTitles& titles() const { return contents_->origin.titles; }
     RecordColumns& columns() { return *columns_; }
     // In which times are shown, in seconds east of UTC.
     qint32 utcOffset() const;
