@@ -32,7 +32,11 @@ public:
     using QObject::QObject;
 
     // All of them pass, the first one is looked at, all of their time is in sight.
-    void setContents(TelemetryContents contents);
+    void setContents(std::shared_ptr<TelemetryContents> contents);
+    void setContents(TelemetryContents contents)
+    {
+        setContents(std::make_shared<TelemetryContents>(std::move(contents)));
+    }
     // For other windows that show the same records.
     std::shared_ptr<const TelemetryContents> contents() const { return contents_; }
     const RecordStore& records() const { return contents_->records; }
