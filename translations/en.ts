@@ -1218,6 +1218,22 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_134"><translation>Commands</translation></message>
     <message id="cli_135"><translation>Arguments</translation></message>
     <message id="cli_136"><translation>(needed)</translation></message>
+    <message id="cli_200"><translation>; went on at %1</translation></message>
+    <message id="cli_201"><translation>Telemetry in another form: tables, tracks, records as texts</translation></message>
+    <message id="cli_202"><translation>What to convert into</translation></message>
+    <message id="cli_203"><translation>The columns of a table, by their names; archive: all there are</translation></message>
+    <message id="cli_204"><translation>From this time on</translation></message>
+    <message id="cli_205"><translation>Up to this time</translation></message>
+    <message id="cli_206"><translation>The records that meet a condition: Speed &gt; 60 and IN1 = 1</translation></message>
+    <message id="cli_207"><translation>The number or name of the tracker</translation></message>
+    <message id="cli_208"><translation>Values as the XML form has them</translation></message>
+    <message id="cli_209"><translation>In the order of time, each record once</translation></message>
+    <message id="cli_210"><translation>Write nothing when a file is damaged</translation></message>
+    <message id="cli_211"><translation>A decimal comma, and semicolons between cells</translation></message>
+    <message id="cli_212"><translation>is not telemetry</translation></message>
+    <message id="cli_213"><translation>a temporary file cannot be written</translation></message>
+    <message id="cli_214"><translation>%1: at character %2 there should be %3</translation></message>
+    <message id="cli_215"><translation>--columns: there is no column %1</translation></message>
     <message id="rec_001"><translation>Fi&amp;lter</translation></message>
     <message id="rec_002"><translation>For example: Speed &gt; 60 and Power &lt; 11.5</translation></message>
     <message id="rec_003"><translation>A column, a sign (= != &lt; &gt; &lt;= &gt;=) and a value; several are joined by and, or, not and brackets. Enter applies the filter, an empty field shows all records.</translation></message>
@@ -1297,6 +1313,15 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_109"><translation>a number, since words are compared by = and != alone</translation></message>
     <message id="rec_110"><translation>and</translation></message>
     <message id="rec_111"><translation>or</translation></message>
+    <message id="rec_120"><translation>Table of numbers (CSV)</translation></message>
+    <message id="rec_121"><translation>Table of texts (CSV)</translation></message>
+    <message id="rec_122"><translation>Table of numbers with tabs (TSV)</translation></message>
+    <message id="rec_123"><translation>Track (GPX)</translation></message>
+    <message id="rec_124"><translation>Track (KML)</translation></message>
+    <message id="rec_125"><translation>Track (GeoJSON)</translation></message>
+    <message id="rec_126"><translation>Records as texts (NDJSON)</translation></message>
+    <message id="rec_127"><translation>Telemetry file (XML)</translation></message>
+    <message id="rec_128"><translation>Telemetry file (TMI)</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>
     <message id="rev_003"><translation>Unknown key, a write drops it</translation></message>

@@ -1218,6 +1218,22 @@
     <message id="cli_134"><translation>Команды</translation></message>
     <message id="cli_135"><translation>Аргументы</translation></message>
     <message id="cli_136"><translation>(нужен)</translation></message>
+    <message id="cli_200"><translation>; продолжено с %1</translation></message>
+    <message id="cli_201"><translation>Телеметрия в другом виде: таблицы, треки, записи текстами</translation></message>
+    <message id="cli_202"><translation>Во что преобразовать</translation></message>
+    <message id="cli_203"><translation>Столбцы таблицы по названиям; archive: все, какие есть</translation></message>
+    <message id="cli_204"><translation>Начиная с этого времени</translation></message>
+    <message id="cli_205"><translation>До этого времени</translation></message>
+    <message id="cli_206"><translation>Записи, отвечающие условию: Speed &gt; 60 и IN1 = 1</translation></message>
+    <message id="cli_207"><translation>Номер или название трекера</translation></message>
+    <message id="cli_208"><translation>Значения, как в файле XML</translation></message>
+    <message id="cli_209"><translation>По порядку времени, каждая запись один раз</translation></message>
+    <message id="cli_210"><translation>Ничего не записывать, если файл повреждён</translation></message>
+    <message id="cli_211"><translation>Десятичная запятая и точки с запятой между ячейками</translation></message>
+    <message id="cli_212"><translation>не телеметрия</translation></message>
+    <message id="cli_213"><translation>временный файл не записывается</translation></message>
+    <message id="cli_214"><translation>%1: в позиции %2 ожидается %3</translation></message>
+    <message id="cli_215"><translation>--columns: столбца %1 нет</translation></message>
     <message id="rec_001"><translation>Фи&amp;льтр</translation></message>
     <message id="rec_002"><translation>Например: Speed &gt; 60 и Power &lt; 11,5</translation></message>
     <message id="rec_003"><translation>Столбец, знак (= != &lt; &gt; &lt;= &gt;=) и значение; несколько условий соединяются словами и, или, не и скобками. Enter применяет фильтр, пустое поле показывает все записи.</translation></message>
@@ -1297,6 +1313,15 @@
     <message id="rec_109"><translation>число: слова сравниваются только знаками = и !=</translation></message>
     <message id="rec_110"><translation>и</translation></message>
     <message id="rec_111"><translation>или</translation></message>
+    <message id="rec_120"><translation>Таблица чисел (CSV)</translation></message>
+    <message id="rec_121"><translation>Таблица текстов (CSV)</translation></message>
+    <message id="rec_122"><translation>Таблица чисел с табуляцией (TSV)</translation></message>
+    <message id="rec_123"><translation>Трек (GPX)</translation></message>
+    <message id="rec_124"><translation>Трек (KML)</translation></message>
+    <message id="rec_125"><translation>Трек (GeoJSON)</translation></message>
+    <message id="rec_126"><translation>Записи текстами (NDJSON)</translation></message>
+    <message id="rec_127"><translation>Файл телеметрии (XML)</translation></message>
+    <message id="rec_128"><translation>Файл ТМИ</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>
