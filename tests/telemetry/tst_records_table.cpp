@@ -3,8 +3,11 @@
 #include "sample_pages.h"
 #include "support/brackets.h"
 #include "support/data_table.h"
+#include "support/files.h"
+#include "support/full_disk.h"
 #include "support/scripted_host.h"
 #include "support/window_parts.h"
+#include "telemetry/files/export_form.h"
 #include "telemetry/files/telemetry_file.h"
 
 #include <QtTest>
@@ -44,6 +47,8 @@ TelemetryPages drive()
 }
 
 } // namespace
+
+Q_DECLARE_METATYPE(vlk::ExportForm)
 
 class RecordsTableTest : public QObject, private WindowParts
 {
@@ -365,6 +370,109 @@ private Q_SLOTS:
         QCOMPARE(number(), QString("1009"));
     }
 
+    void exporting_data()
+    {
+        // the whole, the rows on show, two chosen rows; lines or points in the file, or what is told
+        DataTable<int, ExportForm, int, bool, QString>({"what", "form", "count", "isDiskFull", "told"})
+            .row("whole, CSV", 2, ExportForm::csv, 41, false, "rec_096")
+            .row("on show, TSV", 0, ExportForm::tsv, 6, false, "rec_096")
+            .row("chosen, as lines", 1, ExportForm::ndjson, 2, false, "rec_096")
+            .row("track", 2, ExportForm::gpx, 40, false, "rec_096")
+            .row("full disk", 2, ExportForm::xml, 0, true, "tmiw_187");
+    }
+    void exporting()
+    {
+        QFETCH(int, what);
+        QFETCH(ExportForm, form);
+        QFETCH(int, count);
+        QFETCH(bool, isDiskFull);
+        show(drive());
+        type("lineEdit_Filter", "NumPage < 1005");
+        pressInFilter(Qt::Key_Return);
+        table_->setFocus();
+        table_->setCurrentIndex(cell(1, "NumPage"));
+        QTest::keyClick(table_, Qt::Key_Down, Qt::ShiftModifier);
+        const QString path = folder_.filePath(QStringLiteral("exported.") + rowOf(form).suffix);
+        std::optional<FullDisk> disk;
+        ScriptedHost::whenModal([&](QWidget* dialog) {
+            ScriptedHost::child<QAbstractButton>(dialog,
+                                                 qPrintable(QStringLiteral("radioButton_What%1").arg(what)))
+                ->click();
+            auto* forms = ScriptedHost::child<QComboBox>(dialog, "comboBox_Form");
+            forms->setCurrentIndex(forms->findData(static_cast<int>(form)));
+            QCOMPARE(ScriptedHost::child<QWidget>(dialog, "comboBox_Sign")->isEnabled(),
+                     rowOf(form).hasDecimalSign);
+            ScriptedHost::whenModal([&](QWidget* files) {
+                QCOMPARE(qobject_cast<QFileDialog*>(files)->selectedFiles().value(0).section('/', -1),
+                         QStringLiteral("telemetry.") + rowOf(form).suffix);
+                ScriptedHost::child<QLineEdit>(files, "fileNameEdit")->setText(path);
+                if (isDiskFull)
+                    disk.emplace(100);
+                QMetaObject::invokeMethod(files, "accept");
+            });
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        press("pushButton_Export");
+        disk.reset();
+        QTEST(text("label_Damage"), "told");
+        QCOMPARE(QFile::exists(path), !isDiskFull);
+        const QByteArray content = readFile(path);
+        if (form == ExportForm::ndjson)
+            qWarning() << content.left(3000);
+        QCOMPARE(form == ExportForm::gpx ? content.count("<trkpt") : content.count('\n'), count);
+        QFile::remove(path);
+    }
+
+    // A file that takes a while is read from the event loop: it can be cancelled, and neither another file
+    // nor a closed window is in its way.
+    void slices()
+    {
+        show(pagesOf(recordOf({{"NumPage", 1}})));
+        const QByteArray one = readFile(folder_.filePath("telemetry.xml"));
+        const int page = one.indexOf("\t<Page");
+        const int end = one.indexOf("</TMI>");
+        const int pages = 400'000;
+        const QString large = writeFile(folder_.filePath("large.xml"),
+                                        one.left(page).replace("count=\"1\"", "count=\"400000\"") +
+                                            one.mid(page, end - page).repeated(pages) + one.mid(end));
+        const auto rows = [this] { return table_->model()->rowCount(); };
+        const auto* bar = child<QWidget>("progressBar_Work");
+        open(large);
+        QCOMPARE(rows(), 0);
+        QTRY_VERIFY(bar->isVisible());
+        QTest::keyClick(table_, Qt::Key_Escape);
+        QVERIFY(window->isVisible() && !bar->isVisible());
+        QCOMPARE(text("label_Damage"), QString("rec_074"));
+        press("label_Damage_Action1");
+        QTRY_VERIFY(bar->isVisible());
+        open(folder_.filePath("telemetry.xml"));
+        QTest::qWait(100);
+        QCOMPARE(rows(), 1);
+        open(large);
+        window->close();
+        QTest::qWait(100);
+        QCOMPARE(rows(), 0);
+        open(large);
+        QTRY_COMPARE_WITH_TIMEOUT(rows(), pages, 60'000);
+        QCOMPARE(text("label_Damage"), QString());
+    }
+
+    // Two pages of which the first has no end: the second is in it, until it is brought back.
+    void hiddenRecords()
+    {
+        show(drive());
+        QByteArray content = readFile(folder_.filePath("telemetry.xml"));
+        const int end = content.indexOf("\t</Page>");
+        content.remove(end, content.indexOf('\n', end) + 1 - end);
+        open(writeFile(folder_.filePath("telemetry.xml"), content));
+        QVERIFY(text("label_Damage").contains("rec_076"));
+        const int before = table_->model()->rowCount();
+        press("label_Damage_Action1");
+        QCOMPARE(table_->model()->rowCount(), before + 1);
+        QCOMPARE(numbers().value(1), QString("1001"));
+        QVERIFY(!text("label_Damage").contains("rec_076"));
+    }
+
     void language()
     {
         show(drive());
@@ -399,6 +507,11 @@ private:
         QByteArray key_, text_;
     };
 
+    void open(const QString& path)
+    {
+        const std::int32_t table = 1;
+        host_.send(Message::ShowStoredFile, &path, &table);
+    }
     void show(const TelemetryPages& pages)
     {
         TelemetryOrigin origin;
@@ -407,8 +520,7 @@ private:
         origin.titles.userTypes[0] = "s";
         const QString path = folder_.filePath("telemetry.xml");
         QVERIFY(saveTelemetryFile(path, TelemetryForm::xml, storeOf(pages), origin));
-        const std::int32_t table = 1;
-        host_.send(Message::ShowStoredFile, &path, &table);
+        open(path);
         window = ScriptedHost::window("VLK_Widget_Tmi_Table");
         if (firstSize_.isEmpty())
             firstSize_ = window->size();

@@ -65,6 +65,7 @@ FilterField::FilterField(ShownRecords* shown, RecordsModel* model, QWidget* pare
     line_->setObjectName(QStringLiteral("lineEdit_Filter"));
     line_->setClearButtonEnabled(true);
     caption_->setBuddy(line_);
+    setFocusProxy(line_);
     fault_->setObjectName(QStringLiteral("label_FilterFault"));
     fault_->setTextFormat(Qt::PlainText);
     fault_->setWordWrap(true);

@@ -108,6 +108,7 @@ void RecordsTable::takeColumns()
         const QSignalBlocker quiet(heads);
         heads->setSortIndicator(-1, Qt::AscendingOrder);
     }
+    column_ = -1;
     frozenColumns_.clear();
     for (const ItemIndex item : {item("NumPage"), item("Time.local")}) {
         if (const int column = model_->columnOf(item); column >= 0)
@@ -198,8 +199,8 @@ bool RecordsTable::showRecord(int record)
         return false;
     if (row == currentIndex().row())
         return true;
-    const int column = currentIndex().isValid() ? currentIndex().column() : shownColumns().front();
-    setCurrentIndex(model_->index(row, column));
+    const bool isKept = column_ >= 0 && !isColumnHidden(column_);
+    setCurrentIndex(model_->index(row, isKept ? column_ : shownColumns().front()));
     scrollTo(currentIndex(), PositionAtCenter);
     return true;
 }
@@ -216,6 +217,13 @@ void RecordsTable::scrollTo(const QModelIndex& index, ScrollHint hint)
     const int hidden = frozen_->width() - visualRect(index).left();
     if (index.isValid() && hidden > 0)
         horizontalScrollBar()->setValue(horizontalScrollBar()->value() - hidden);
+}
+
+void RecordsTable::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    QTableView::currentChanged(current, previous);
+    if (current.isValid())
+        column_ = current.column();
 }
 
 void RecordsTable::updateGeometries()

@@ -39,6 +39,7 @@ Q_SIGNALS:
     void menuWanted(const QPoint& globalPlace);
 
 protected:
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void updateGeometries() override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
@@ -53,6 +54,7 @@ private:
     RecordsModel* model_;
     QTableView* frozen_;
     std::vector<int> frozenColumns_;
+    int column_ = -1;       // that was gone to last
     bool isMoving_ = false; // by the program
 };
 

@@ -9,6 +9,7 @@
 #include "telemetry/view/filter_field.h"
 #include "telemetry/view/find_bar.h"
 #include "telemetry/view/record_finder.h"
+#include "telemetry/view/records_export.h"
 #include "telemetry/view/records_menu.h"
 #include "telemetry/view/records_model.h"
 #include "telemetry/view/records_places.h"
@@ -52,9 +53,10 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
       filter_(new FilterField(shown_, model_, this)),
       findBar_(new FindBar(new RecordFinder(model_, table_), this)),
       notices_(new NoticeBar(this, QStringLiteral("label_Damage"))), progress_(new WorkProgress(this)),
-      opening_(new FileOpening(progress_)), empty_(new EmptyNote(table_)),
-      columnsButton_(new QPushButton(this)), exportButton_(new QPushButton(this)),
-      helpButton_(new QPushButton(this)), count_(new QLabel(this)), sums_(new QLabel(this))
+      opening_(new FileOpening(progress_)), export_(new RecordsExport(progress_)),
+      empty_(new EmptyNote(table_)), columnsButton_(new QPushButton(this)),
+      exportButton_(new QPushButton(this)), helpButton_(new QPushButton(this)), count_(new QLabel(this)),
+      sums_(new QLabel(this))
 {
     table_->setObjectName(QStringLiteral("tableWidget"));
     columnsButton_->setObjectName(QStringLiteral("pushButton_Columns"));
@@ -98,6 +100,8 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
     connect(this, &QDialog::finished, opening_, &FileOpening::stop);
     connect(opening_, &FileOpening::cancelled, this,
             [this] { tellCancelled(notices_, [this] { opening_->start(path_); }); });
+    connect(exportButton_, &QPushButton::clicked, this, &VLK_Widget_Tmi_Table::exportRecords);
+    connectExport();
     addKeys();
     retranslate();
 }
@@ -126,6 +130,10 @@ void VLK_Widget_Tmi_Table::layOut()
           static_cast<QWidget*>(findBar_), static_cast<QWidget*>(progress_), status})
         layout->addWidget(part, row++, 0);
     layout->setRowStretch(2, 1);
+    const QWidgetList order{filter_, columnsButton_, exportButton_, helpButton_, table_};
+    for (int place = 1; place < order.size(); ++place)
+        setTabOrder(order[place - 1], order[place]);
+    filter_->setFocus();
 }
 
 void VLK_Widget_Tmi_Table::addKeys()
@@ -241,9 +249,68 @@ void VLK_Widget_Tmi_Table::copy()
     QApplication::clipboard()->setText(selectionText(*model_, *table_));
 }
 
+void VLK_Widget_Tmi_Table::exportRecords()
+{
+    const std::vector<int> selected = table_->selectedRecords();
+    const auto all = shown_->records().size();
+    ExportDialog dialog(choice_, {model_->rowCount(), static_cast<int>(selected.size()), all}, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    choice_ = dialog.choice();
+    const QString path = ExportDialog::askPath(choice_.form, QFileInfo(name_).completeBaseName(), this);
+    if (path.isEmpty())
+        return;
+    std::vector<int> records(all);
+    if (choice_.what == ExportChoice::whole)
+        std::iota(records.begin(), records.end(), 0);
+    else
+        records = choice_.what == ExportChoice::selected ? selected : model_->records();
+    ExportOptions options;
+    options.origin = shown_->contents()->origin;
+    if (options.origin.model.isEmpty() && vlkDevice != nullptr) {
+        options.origin.model = vlkDevice->model();
+        options.origin.vendor = vlkDevice->vendor();
+    }
+    options.title = QFileInfo(name_).completeBaseName();
+    options.utcOffset = shown_->records().utcOffset();
+    options.decimalComma = choice_.decimalComma;
+    options.eventText = &requests::eventText;
+    if (choice_.onlyShownColumns && rowOf(choice_.form).hasDecimalSign) {
+        for (const int column : table_->shownColumns()) {
+            if (const CsvColumn* const known = model_->columnAt(column))
+                options.columns.emplace_back(known->item);
+        }
+    }
+    exported_ = static_cast<int>(records.size());
+    export_->start(path, shown_->contents(), std::move(records), choice_.form, options);
+}
+
+void VLK_Widget_Tmi_Table::connectExport()
+{
+    const auto tell = [this](const std::function<Notice()>& notice) { notices_->tell(kExported, notice); };
+    connect(export_, &RecordsExport::written, this, [this, tell](const QString& path) {
+        tell([path, count = exported_] {
+            return Notice{Mark::right,
+                          tr("rec_096").arg(QLocale().toString(count), QDir::toNativeSeparators(path)),
+                          {}};
+        });
+    });
+    connect(export_, &RecordsExport::failed, this, [this, tell](const QString& path, const QString& reason) {
+        tell([this, path, reason] {
+            return Notice{Mark::invalid,
+                          tr("tmiw_187").arg(QDir::toNativeSeparators(path), fileErrorText(reason)),
+                          {{tr("rec_007"), [this] { exportRecords(); }}}};
+        });
+    });
+    connect(export_, &RecordsExport::cancelled, this, [tell] {
+        tell([] { return Notice{Mark::advice, tr("rec_097"), {}}; });
+    });
+}
+
 void VLK_Widget_Tmi_Table::retranslate()
 {
     setLocale(QLocale());
+    choice_.decimalComma = QLocale().decimalPoint() == QLatin1Char(',');
     columnsButton_->setText(tr("rec_006"));
     exportButton_->setText(tr("rec_007"));
     helpButton_->setText(tr("wrd_027"));

@@ -3,6 +3,7 @@
 // The window of records: stored telemetry, or a period that was just read, as a table whose records are
 // filtered, found, copied and exported, and beside it the other views of the same records.
 
+#include "telemetry/view/export_dialog.h"
 #include "telemetry/view/shown_records.h"
 
 #include <QDialog>
@@ -56,6 +57,8 @@ private:
     void showSums();
     void showMenu(const QPoint& globalPlace);
     void copy();
+    void connectExport();
+    void exportRecords();
 
     vlk::ShownRecords* shown_;
     vlk::RecordsModel* model_;
@@ -67,6 +70,7 @@ private:
     vlk::RecordsPlaces* places_;
     vlk::WorkProgress* progress_;
     vlk::FileOpening* opening_;
+    vlk::RecordsExport* export_;
     vlk::EmptyNote* empty_;
     QPushButton* columnsButton_;
     QPushButton* exportButton_;
@@ -74,6 +78,7 @@ private:
     QLabel* count_;
     QLabel* sums_;
     QString name_;
-    QString path_;     // of the file that was opened last
+    QString path_; // of the file that was opened last
+    vlk::ExportChoice choice_;
     int exported_ = 0; // records, by the latest export
 };
