@@ -1269,7 +1269,7 @@
     <message id="rec_050"><translation>%1: наименьшее %2, наибольшее %3, среднее %4, записей: %5</translation></message>
     <message id="rec_051"><translation>Записей: %1</translation></message>
     <message id="rec_052"><translation>%1 из %2 записей</translation></message>
-    <message id="rec_054"><translation>Сбросить фильтр</translation></message>
+    <message id="rec_054"><translation>Снять фильтр</translation></message>
     <message id="rec_055"><translation>Ctrl+C берёт до %1 записей. «Экспорт…» берёт сколько угодно.</translation></message>
     <message id="rec_060"><translation>Копировать</translation></message>
     <message id="rec_061"><translation>Копировать координаты</translation></message>

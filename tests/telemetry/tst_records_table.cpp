@@ -271,8 +271,13 @@ private Q_SLOTS:
         QTest::keyClick(offered, Qt::Key_Return);
         QCOMPARE(line->text(), QString("Latitude "));
         QCOMPARE(numbers().size(), 40);
-        QTest::keyClicks(line, "> 56,4");
-        QTest::keyClick(line, Qt::Key_Return);
+        // Enter takes nothing that was not gone to.
+        QTest::keyClicks(line, "> 56,4 and Pow");
+        QVERIFY(popup());
+        pressInFilter(Qt::Key_Return);
+        QCOMPARE(text("label_FilterFault"), QString("rec_005"));
+        line->setText("Latitude > 56,4");
+        pressInFilter(Qt::Key_Return);
         QCOMPARE(text("label_FilterFault"), QString());
     }
 

@@ -5,6 +5,8 @@
 
 #include <QMenu>
 
+#include <vector>
+
 namespace vlk {
 
 class ColumnChoice;

@@ -8,7 +8,9 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -36,7 +38,7 @@ ExportDialog::ExportDialog(const ExportChoice& choice, const Counts& counts, QWi
     const auto addCaption = [&](const char* key, QWidget* field) {
         auto* caption = new QLabel(tr(key), this);
         caption->setBuddy(field);
-        grid->addWidget(caption, row, 0, Qt::AlignTop);
+        grid->addWidget(caption, row, 0);
         if (field != nullptr)
             grid->addWidget(field, row++, 1);
     };
@@ -72,6 +74,7 @@ ExportDialog::ExportDialog(const ExportChoice& choice, const Counts& counts, QWi
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(form_, qOverload<int>(&QComboBox::currentIndexChanged), this, &ExportDialog::enableOptions);
     enableOptions();
+    what_->checkedButton()->setFocus();
 }
 
 // Only tables have columns, and numbers of either sign.

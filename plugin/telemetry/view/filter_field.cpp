@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QStringListModel>
 
+#include <algorithm>
 #include <cmath>
 #include <set>
 
@@ -71,7 +72,7 @@ FilterField::FilterField(ShownRecords* shown, RecordsModel* model, QWidget* pare
     fault_->setWordWrap(true);
     fault_->hide();
     completer_->setModel(offered_);
-    completer_->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
+    completer_->setCompletionMode(QCompleter::PopupCompletion);
     completer_->setWidget(line_);
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(6, 6, 6, 6);
@@ -137,10 +138,13 @@ void FilterField::offer()
             texts << completion.text;
     }
     offered_->setStringList(texts);
-    if (texts.isEmpty())
+    if (texts.isEmpty()) {
         completer_->popup()->hide();
-    else
-        completer_->complete();
+        return;
+    }
+    completer_->complete();
+    // Enter applies what was typed until something of it is gone to.
+    completer_->popup()->setCurrentIndex({});
 }
 
 void FilterField::complete(const QString& text)

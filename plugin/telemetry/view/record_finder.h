@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include <unordered_map>
+#include <vector>
 
 namespace vlk {
 

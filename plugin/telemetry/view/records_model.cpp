@@ -6,6 +6,7 @@
 #include "telemetry/view/item_display.h"
 #include "telemetry/view/record_order.h"
 
+#include <QDateTime>
 #include <QGuiApplication>
 #include <QLocale>
 #include <QPalette>

@@ -15,7 +15,7 @@ namespace vlk {
 
 namespace {
 
-constexpr int kWidestColumn = 260;
+constexpr int kWidestColumn = 320;
 constexpr int kHeadLines = 2;
 constexpr int kHeadPadding = 12; // above and below together
 constexpr int kSamples = 32;     // rows spread over the file that a column is measured by
@@ -46,7 +46,7 @@ void dress(QTableView* table)
 } // namespace
 
 RecordsTable::RecordsTable(RecordsModel* model, QWidget* parent)
-    : QTableView(parent), model_(model), frozen_(new QTableView(this))
+    : QTableView(parent), model_(model), frozen_(new QTableView(this)), edge_(new QWidget(this))
 {
     setModel(model);
     dressTable(this, TableUse::show);
@@ -81,6 +81,8 @@ void RecordsTable::setUpFrozen()
     frozen_->setSelectionModel(selectionModel());
     dressTable(frozen_, TableUse::show);
     dress(frozen_);
+    edge_->setAutoFillBackground(true);
+    edge_->setBackgroundRole(QPalette::Mid);
     frozen_->setFocusProxy(this);
     frozen_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     frozen_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -242,6 +244,8 @@ void RecordsTable::placeFrozen()
     frozen_->horizontalHeader()->setFixedHeight(headHeight);
     frozen_->setGeometry(0, 0, width, headHeight + viewport()->height());
     frozen_->verticalScrollBar()->setValue(verticalScrollBar()->value());
+    edge_->setGeometry(width - 1, 0, width > 0 ? 1 : 0, frozen_->height());
+    edge_->raise();
 }
 
 void RecordsTable::open(const QModelIndex& index)
@@ -259,9 +263,15 @@ void RecordsTable::keyPressEvent(QKeyEvent* event)
 
 void RecordsTable::contextMenuEvent(QContextMenuEvent* event)
 {
-    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
-    Q_EMIT menuWanted(byKey ? viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft())
-                            : event->globalPos());
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        askMenu();
+    else
+        Q_EMIT menuWanted(event->globalPos());
+}
+
+void RecordsTable::askMenu()
+{
+    Q_EMIT menuWanted(viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft()));
 }
 
 bool RecordsTable::eventFilter(QObject* watched, QEvent* event)

@@ -5,6 +5,8 @@
 
 #include <QTableView>
 
+#include <vector>
+
 namespace vlk {
 
 class RecordsModel;
@@ -30,6 +32,9 @@ public:
     // Makes it the current one, in the middle of what is seen; false where it does not pass the filter.
     bool showRecord(int record);
 
+    // As the Menu key does.
+    void askMenu();
+
     void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
 
 Q_SIGNALS:
@@ -53,6 +58,7 @@ private:
 
     RecordsModel* model_;
     QTableView* frozen_;
+    QWidget* edge_; // of the frozen columns
     std::vector<int> frozenColumns_;
     int column_ = -1;       // that was gone to last
     bool isMoving_ = false; // by the program

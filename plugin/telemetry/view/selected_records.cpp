@@ -6,9 +6,12 @@
 #include "telemetry/view/records_table.h"
 
 #include <QLocale>
+#include <QStringList>
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
+#include <limits>
 
 namespace vlk {
 

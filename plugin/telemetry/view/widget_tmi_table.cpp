@@ -27,13 +27,18 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QHBoxLayout>
+#include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLocale>
+#include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
 #include <QTabWidget>
 #include <QTimer>
 
+#include <functional>
 #include <numeric>
 
 using namespace vlk;
@@ -146,8 +151,12 @@ void VLK_Widget_Tmi_Table::addKeys()
     };
     for (const auto& [sequence, act] : keys)
         connect(new QShortcut(sequence, this), &QShortcut::activated, this, act);
-    auto* copying = new QShortcut(QKeySequence::Copy, table_, nullptr, nullptr, Qt::WidgetShortcut);
-    connect(copying, &QShortcut::activated, this, &VLK_Widget_Tmi_Table::copy);
+    const auto onTable = [this](const QKeySequence& keys) {
+        return new QShortcut(keys, table_, nullptr, nullptr, Qt::WidgetShortcut);
+    };
+    connect(onTable(QKeySequence::Copy), &QShortcut::activated, this, &VLK_Widget_Tmi_Table::copy);
+    // Not every keyboard has a key for it.
+    connect(onTable(QStringLiteral("Shift+F10")), &QShortcut::activated, table_, &RecordsTable::askMenu);
     new AreaKeys(this, [this]() -> std::vector<QWidgetList> {
         return {{filter_}, {places_}, {findBar_}, {columnsButton_, exportButton_, helpButton_}};
     });
