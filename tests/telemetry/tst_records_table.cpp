@@ -437,9 +437,12 @@ private Q_SLOTS:
         const int page = one.indexOf("\t<Page");
         const int end = one.indexOf("</TMI>");
         const int pages = 400'000;
+        // What is not spelled as usual is read line by line.
+        QByteArray odd = one.mid(page, end - page);
+        odd.insert(odd.indexOf("\t\t<"), "\t\t<Other>1</Other>\r\n");
         const QString large = writeFile(folder_.filePath("large.xml"),
                                         one.left(page).replace("count=\"1\"", "count=\"400000\"") +
-                                            one.mid(page, end - page).repeated(pages) + one.mid(end));
+                                            odd.repeated(pages) + one.mid(end));
         const auto rows = [this] { return table_->model()->rowCount(); };
         const auto* bar = child<QWidget>("progressBar_Work");
         open(large);
