@@ -189,7 +189,7 @@ std::vector<int> RecordsTable::selectedRecords() const
             rows.push_back(row);
     }
     std::ranges::sort(rows);
-    rows.erase(std::ranges::unique(rows).begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
     std::ranges::transform(rows, rows.begin(), [this](int row) { return model_->recordAt(row); });
     return rows;
 }
