@@ -40,7 +40,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         static const QRegularExpression key(QStringLiteral(
-            "[\">]((?:cfgt\\d+f?|cfgwl|cfgwnd|tmizta|tmiw|tmiex|tmift\\d|wrd|abbr|typed|rev|adv|cli|wb)_["
+            "[\">]((?:cfgt\\d+f?|cfgwl|cfgwnd|tmizta|tmiw|tmiex|tmift\\d|wrd|abbr|typed|rec|rev|adv|cli|wb)_["
             "a-z0-9_]+)[\"<]"));
         for (const char* folder : {"/plugin", "/typing", "/workbench"}) {
             QDirIterator files(QStringLiteral(VLK_SOURCE) + QLatin1String(folder), {"*.cpp", "*.h", "*.ui"},
@@ -106,6 +106,7 @@ private Q_SLOTS:
             {"wrd_047", "wrd_048", "cfgwnd_001", "wrd_051", "wrd_053", "wrd_052", "wrd_027", "wrd_054"},
             {"wrd_055", "cfgwnd_002", "wrd_054"},
             {"wrd_061", "wrd_062", "wrd_027", "wrd_054"},
+            {"rec_001", "rec_006", "rec_007", "wrd_027"},
             // "Cancel" stands beside commands that are closed meanwhile, and shares a letter with one.
             {"wrd_027",  "wrd_054",  "tmiw_004", "wrd_061",  "wrd_062",    "tmiw_005",   "tmiw_008",
              "tmiw_010", "tmiw_014", "tmiw_015", "tmiw_016", "tmiw_024",   "tmiw_030",   "tmiw_195",

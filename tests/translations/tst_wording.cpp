@@ -66,7 +66,7 @@ constexpr Rule kRules[] = {
     {"quotes", "en", "[«»„“”]"},
     {"ellipsis", "", "\\.\\.\\.|\\s…"},
     {"ring", "", "[˚º∘○◦]"},
-    {"exclamation", "", "!"},
+    {"exclamation", "", "!(?!=)"},
     {"unit's dot", "ru", "\\bсек\\b|\\b(?:мин|сут|км|кг|мс)\\.(?!\\s*(?-i:[А-ЯЁA-Z])|\\s*$)"},
     {"unit's blank", "ru",
      "(?-i)(?<!\\w)(?:\\d[\\d.,]*|%\\d) "

@@ -8,11 +8,11 @@
 
 namespace vlk {
 
-void ShownRecords::setContents(TelemetryContents contents)
+void ShownRecords::setContents(std::shared_ptr<TelemetryContents> contents)
 {
     contents_ = std::move(contents);
-    columns_ = std::make_unique<RecordColumns>(contents_.records,
-                                               typeLetters(contents_.origin.titles).toLatin1().toStdString());
+    columns_ = std::make_unique<RecordColumns>(
+        contents_->records, typeLetters(contents_->origin.titles).toLatin1().toStdString());
     const std::vector<quint32>& times = columns_->times();
     passing_.resize(times.size());
     std::iota(passing_.begin(), passing_.end(), 0);
@@ -29,7 +29,7 @@ void ShownRecords::setContents(TelemetryContents contents)
 
 qint32 ShownRecords::utcOffset() const
 {
-    return contents_.records.utcOffset().value_or(localOffset());
+    return contents_->records.utcOffset().value_or(localOffset());
 }
 
 void ShownRecords::setPassing(std::vector<int> records)

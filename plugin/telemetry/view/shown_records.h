@@ -10,6 +10,8 @@
 
 #include <QObject>
 
+#include <memory>
+
 namespace vlk {
 
 // Seconds since 1970 in UTC, both ends in it.
@@ -30,9 +32,15 @@ public:
     using QObject::QObject;
 
     // All of them pass, the first one is looked at, all of their time is in sight.
-    void setContents(TelemetryContents contents);
-    const RecordStore& records() const { return contents_.records; }
-    const TelemetryTitles& titles() const { return contents_.origin.titles; }
+    void setContents(std::shared_ptr<TelemetryContents> contents);
+    void setContents(TelemetryContents contents)
+    {
+        setContents(std::make_shared<TelemetryContents>(std::move(contents)));
+    }
+    // For other windows that show the same records.
+    std::shared_ptr<const TelemetryContents> contents() const { return contents_; }
+    const RecordStore& records() const { return contents_->records; }
+    const TelemetryTitles& titles() const { return contents_->origin.titles; }
     RecordColumns& columns() { return *columns_; }
     // In which times are shown, in seconds east of UTC.
     qint32 utcOffset() const;
@@ -59,8 +67,8 @@ Q_SIGNALS:
     void inSightChanged();
 
 private:
-    TelemetryContents contents_;
-    std::unique_ptr<RecordColumns> columns_ = std::make_unique<RecordColumns>(contents_.records);
+    std::shared_ptr<TelemetryContents> contents_ = std::make_shared<TelemetryContents>();
+    std::unique_ptr<RecordColumns> columns_ = std::make_unique<RecordColumns>(contents_->records);
     TimeSpan wholeTime_;
     std::vector<int> passing_;
     // Records with a time, by it.
