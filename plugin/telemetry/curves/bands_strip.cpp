@@ -21,6 +21,8 @@ namespace {
 constexpr int kWidestName = 130;
 constexpr int kNameMargin = 6;
 constexpr int kMarkReach = 4;
+constexpr int kRowPadding = 3;
+constexpr int kFewestBands = 1;
 
 } // namespace
 
@@ -36,17 +38,25 @@ BandsStrip::BandsStrip(CurvesModel* model, CurvesPlot* plot, QWidget* parent)
 
 int BandsStrip::rowHeight() const
 {
-    return fontMetrics().height();
+    return fontMetrics().ascent() + kRowPadding;
 }
 
-int BandsStrip::rowCount() const
+int BandsStrip::bandCount() const
 {
-    return static_cast<int>(model_->bands().size() + model_->marks().size());
+    const int room = mostHeight_ / rowHeight() - static_cast<int>(model_->marks().size());
+    return std::clamp(static_cast<int>(model_->bands().size()), 0, std::max(room, kFewestBands));
+}
+
+void BandsStrip::setMostHeight(int height)
+{
+    mostHeight_ = height;
+    updateGeometry();
+    update();
 }
 
 QSize BandsStrip::sizeHint() const
 {
-    return {0, rowCount() * rowHeight()};
+    return {0, (bandCount() + static_cast<int>(model_->marks().size())) * rowHeight()};
 }
 
 QSize BandsStrip::minimumSizeHint() const
@@ -87,7 +97,7 @@ void BandsStrip::paintEvent(QPaintEvent*)
         painter.drawText(names.translated(0, row.top()), Qt::AlignRight | Qt::AlignVCenter,
                          fontMetrics().elidedText(name, Qt::ElideRight, names.width()));
     };
-    for (std::size_t band = 0; band < model_->bands().size(); ++band) {
+    for (int band = 0; band < bandCount(); ++band) {
         paintName(model_->bands()[band].title);
         paintBand(painter, row, band);
         row.translate(0, rowHeight());
@@ -101,7 +111,7 @@ void BandsStrip::paintEvent(QPaintEvent*)
 }
 
 // A pixel is on where the state was on at some moment of it, so that no short one is lost.
-void BandsStrip::paintBand(QPainter& painter, const QRect& row, std::size_t band) const
+void BandsStrip::paintBand(QPainter& painter, const QRect& row, int band) const
 {
     const StateRuns& runs = model_->bands()[band].runs;
     const QColor on = bandColor(palette());
@@ -167,7 +177,7 @@ void BandsStrip::paintCursors(QPainter& painter) const
 
 int BandsStrip::markAt(const QPoint& place) const
 {
-    const int row = place.y() / rowHeight() - static_cast<int>(model_->bands().size());
+    const int row = place.y() / rowHeight() - bandCount();
     if (row < 0 || row >= static_cast<int>(model_->marks().size()))
         return -1;
     const std::vector<quint32>& times = model_->records().columns().times();
@@ -196,13 +206,13 @@ QString BandsStrip::tipAt(const QPoint& place) const
     const qint32 offset = model_->records().utcOffset();
     const int band = place.y() / rowHeight();
     if (place.x() < plot_->canvasPlace().left())
-        return band < static_cast<int>(model_->bands().size()) ? model_->bands()[band].title : QString();
+        return band < bandCount() ? model_->bands()[band].title : QString();
     if (const int mark = markAt(place); mark >= 0) {
         const QString event =
             requests::eventText(static_cast<int>(model_->records().columns().codes()[mark]));
         return momentText(times[mark], offset) + QLatin1Char(' ') + event;
     }
-    if (band >= static_cast<int>(model_->bands().size()))
+    if (band >= bandCount())
         return {};
     const double moment = plot_->timeAtPixel(place.x());
     const std::vector<StateRuns::Run>& runs = model_->bands()[band].runs.on;

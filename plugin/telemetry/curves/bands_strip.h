@@ -18,6 +18,9 @@ class BandsStrip : public QWidget
 public:
     BandsStrip(CurvesModel* model, CurvesPlot* plot, QWidget* parent = nullptr);
 
+    // At most so high: bands that have no room are left out, the last ones first.
+    void setMostHeight(int height);
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -29,9 +32,9 @@ protected:
 
 private:
     int rowHeight() const;
-    int rowCount() const;
+    int bandCount() const;
     void refresh();
-    void paintBand(QPainter& painter, const QRect& row, std::size_t band) const;
+    void paintBand(QPainter& painter, const QRect& row, int band) const;
     void paintMarks(QPainter& painter, const QRect& row, std::size_t marks) const;
     void paintCursors(QPainter& painter) const;
     // The record of a row of marks that is drawn there; -1 for none.
@@ -40,6 +43,7 @@ private:
 
     CurvesModel* model_;
     CurvesPlot* plot_;
+    int mostHeight_ = QWIDGETSIZE_MAX;
 };
 
 } // namespace vlk

@@ -126,7 +126,9 @@ void CurvesModel::rebuild()
     }
     const std::vector<Stop> stops = stopsOf(records_->columns(), records_->byTime());
     if (!stops.empty())
-        bands_.push_back({QString(), translated("rec_165"), runsOf(*records_, stops)});
+        // Behind the engine, since those that there is no room for are left out from the end.
+        bands_.insert(bands_.begin() + std::min<std::ptrdiff_t>(std::ssize(bands_), 1),
+                      {QString(), translated("rec_165"), runsOf(*records_, stops)});
     makeMarks();
     focused_ = curves_.empty() ? -1 : std::clamp(focused_, 0, static_cast<int>(curves_.size()) - 1);
     Q_EMIT changed();

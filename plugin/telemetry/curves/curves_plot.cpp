@@ -32,6 +32,7 @@ constexpr double kPanStep = 0.1;
 constexpr double kWheelNotch = 120;
 constexpr int kShapeDistance = 90;
 constexpr int kValueTicks = 5;
+constexpr int kLeastTitleRoom = 80; // less cuts titles to nothing
 constexpr double kPointReach = 1.5;
 
 class TimeScaleDraw : public QwtScaleDraw
@@ -161,7 +162,7 @@ private:
         painter.drawLine(QPointF(at, canvas.top()), QPointF(at, canvas.bottom()));
         const QFontMetrics metrics(painter.font());
         QRectF letter(0, 0, metrics.height(), metrics.height());
-        letter.moveTopLeft({std::min(at + 1, canvas.right() - letter.width()), canvas.top()});
+        letter.moveBottomLeft({std::min(at + 1, canvas.right() - letter.width()), canvas.bottom()});
         painter.fillRect(letter, colour);
         painter.setPen(palette.color(QPalette::Base));
         painter.drawText(letter, Qt::AlignCenter, QLatin1String(which == Cursor::a ? "A" : "B"));
@@ -184,6 +185,7 @@ CurvesPlot::CurvesPlot(CurvesModel* model, QWidget* parent, std::optional<TimeSp
     setFocusPolicy(Qt::StrongFocus);
     setAutoReplot(false);
     auto* const canvas = new QwtPlotCanvas(this);
+    canvas->setObjectName(QStringLiteral("canvas_Curves"));
     canvas->setPaintAttribute(QwtPlotCanvas::BackingStore, false);
     canvas->setFrameShape(QFrame::Box);
     canvas->setFrameShadow(QFrame::Plain);
@@ -245,7 +247,7 @@ void CurvesPlot::setAxes()
     if (span.to <= span.from)
         span = {span.from - 1, span.from + 1};
     const QFontMetrics metrics(axisFont(xBottom));
-    const int labelWidth = metrics.horizontalAdvance(QStringLiteral("00.00. 00:00:00")) + 16;
+    const int labelWidth = metrics.horizontalAdvance(QStringLiteral("00.00. 00:00")) + 24;
     const TimeTicks ticks = timeTicks(span, canvas()->width() / labelWidth, model_->records().utcOffset());
     tickStep_ = ticks.step;
     QList<double> marks[QwtScaleDiv::NTickTypes];
@@ -262,7 +264,10 @@ void CurvesPlot::setValueAxis(int axis)
     const QFontMetrics metrics(font());
     const int most = std::clamp(canvas()->height() / (3 * metrics.height()), 2, 2 * kValueTicks);
     const QwtScaleDiv division = valueDivision(isUsed ? model_->extremesAt(axis, span()) : Extremes(), most);
-    QwtText title(isUsed ? model_->axes()[axis] : QString());
+    const QString name = isUsed ? model_->axes()[axis] : QString();
+    const bool hasRoom =
+        canvas()->height() >= kLeastTitleRoom || metrics.horizontalAdvance(name) <= canvas()->height();
+    QwtText title(hasRoom ? metrics.elidedText(name, Qt::ElideRight, canvas()->height()) : QString());
     title.setFont(font());
     if (axis < 2) {
         const int id = axis == 0 ? yLeft : yRight;
@@ -338,7 +343,10 @@ void CurvesPlot::dress()
         setAxisFont(axis, font());
     outerLeft_->setFont(font());
     outerRight_->setFont(font());
-    canvas()->setPalette(colours);
+    QPalette ofCanvas = colours;
+    ofCanvas.setColor(QPalette::WindowText,
+                      between(colours.color(QPalette::WindowText), colours.color(QPalette::Window)));
+    canvas()->setPalette(ofCanvas);
     for (QwtPlotItem* const item : itemList(QwtPlotItem::Rtti_PlotGrid)) {
         const QColor faint = between(between(colours.color(QPalette::Text), colours.color(QPalette::Base)),
                                      colours.color(QPalette::Base));
@@ -428,7 +436,7 @@ void CurvesPlot::step(int way)
 
 bool CurvesPlot::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched != canvas() || ownSpan_)
+    if (watched != canvas() || (ownSpan_ && event->type() != QEvent::Resize))
         return QwtPlot::eventFilter(watched, event);
     switch (event->type()) {
     case QEvent::MouseButtonPress:
@@ -437,6 +445,10 @@ bool CurvesPlot::eventFilter(QObject* watched, QEvent* event)
         return drag(static_cast<QMouseEvent&>(*event));
     case QEvent::MouseButtonRelease:
         return release(static_cast<QMouseEvent&>(*event));
+    case QEvent::Resize:
+        // More room, more ticks.
+        setAxes();
+        return QwtPlot::eventFilter(watched, event);
     case QEvent::Wheel:
         return turn(static_cast<QWheelEvent&>(*event));
     case QEvent::ToolTip: {
@@ -485,7 +497,7 @@ bool CurvesPlot::release(const QMouseEvent& event)
     ShownRecords& records = model_->records();
     if (ended == Drag::zoom && rubber_ != nullptr) {
         const auto [from, to] =
-            std::minmax(timeAtPixel(dragFrom_.x() + canvas()->x()), timeAtPixel(event.x() + canvas()->x()));
+            std::minmax({timeAtPixel(dragFrom_.x() + canvas()->x()), timeAtPixel(event.x() + canvas()->x())});
         records.setInSight(zoomed({from, to}, 1, (from + to) / 2, records.wholeTime()));
     } else if (ended == Drag::zoom) {
         records.setCurrent(records.nearestTo(timeAtPixel(event.x() + canvas()->x())));

@@ -25,6 +25,13 @@
 
 namespace vlk {
 
+namespace {
+
+constexpr int kLeastPlot = 60;
+constexpr int kStripShare = 4; // of the height, one in
+
+} // namespace
+
 CurvesView::CurvesView(ShownRecords* records, QWidget* parent)
     : QWidget(parent), records_(records), model_(new CurvesModel(records, this)),
       bar_(new NoticeBar(this, QStringLiteral("label_CurvesNotice"))), handOver_(new HandOver(this, bar_)),
@@ -33,10 +40,11 @@ CurvesView::CurvesView(ShownRecords* records, QWidget* parent)
       cursorA_(namedWidget<QToolButton>("toolButton_CursorA", this)),
       cursorB_(namedWidget<QToolButton>("toolButton_CursorB", this)),
       handOverMenu_(namedWidget<QPushButton>("pushButton_HandOverCurves", this)),
-      plot_(new CurvesPlot(model_, this)), line_(namedWidget<QLabel>("label_Cursors", this))
+      plot_(new CurvesPlot(model_, this)), strip_(new BandsStrip(model_, plot_, this)),
+      line_(namedWidget<QLabel>("label_Cursors", this))
 {
     plot_->setObjectName(QStringLiteral("plot_Curves"));
-    plot_->setMinimumHeight(90);
+    plot_->setMinimumHeight(kLeastPlot);
     line_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     presets_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     for (QPushButton* const button : {choose_, handOverMenu_})
@@ -63,11 +71,14 @@ CurvesView::CurvesView(ShownRecords* records, QWidget* parent)
     layout->addWidget(bar_);
     layout->addLayout(tools);
     layout->addWidget(plot_, 1);
-    layout->addWidget(new BandsStrip(model_, plot_, this));
+    layout->addWidget(strip_);
     layout->addWidget(line_);
     setFocusProxy(plot_);
 
-    connect(presets_, qOverload<int>(&QComboBox::activated), this, &CurvesView::showPreset);
+    connect(presets_, qOverload<int>(&QComboBox::activated), this, [this](int index) {
+        isChosen_ = true;
+        showPreset(index);
+    });
     connect(choose_, &QPushButton::clicked, this, &CurvesView::choose);
     connect(cursorA_, &QToolButton::clicked, this, [this] { model_->setMoving(Cursor::a); });
     // A second press of B takes it away.
@@ -81,7 +92,7 @@ CurvesView::CurvesView(ShownRecords* records, QWidget* parent)
     connect(model_, &CurvesModel::cursorsChanged, this, &CurvesView::refresh);
     connect(records, &ShownRecords::currentChanged, this, &CurvesView::keepInSight);
     connect(records, &ShownRecords::contentsChanged, this, [this] {
-        if (model_->curves().empty())
+        if (!isChosen_ || model_->curves().empty())
             showFirstUseful();
     });
     retranslate();
@@ -89,6 +100,11 @@ CurvesView::CurvesView(ShownRecords* records, QWidget* parent)
 }
 
 CurvesView::~CurvesView() = default;
+
+void CurvesView::resizeEvent(QResizeEvent*)
+{
+    strip_->setMostHeight(height() / kStripShare);
+}
 
 void CurvesView::setTitle(const QString& title)
 {
@@ -145,13 +161,17 @@ void CurvesView::showFirstUseful()
             return;
     }
     presets_->setCurrentIndex(0);
+    showPreset(0);
 }
 
 void CurvesView::choose()
 {
     const bool isOwn = presets_->currentIndex() >= static_cast<int>(builtInPresets().size());
     CurveChoice dialog(model_, isOwn ? presets_->currentText() : QString(), this);
-    connect(&dialog, &CurveChoice::chosen, this, [this] { presets_->setCurrentIndex(-1); });
+    connect(&dialog, &CurveChoice::chosen, this, [this] {
+        isChosen_ = true;
+        presets_->setCurrentIndex(-1);
+    });
     connect(&dialog, &CurveChoice::presetKept, this, [this](const QString& name) {
         fillPresets();
         presets_->setCurrentIndex(presets_->findText(name));

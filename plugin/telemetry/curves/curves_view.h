@@ -12,6 +12,7 @@ class QToolButton;
 
 namespace vlk {
 
+class BandsStrip;
 class CurvesModel;
 class CurvesPlot;
 class HandOver;
@@ -33,6 +34,9 @@ public:
     // What is in sight: as CSV, SVG or PNG by the suffix.
     void saveTo(const QString& path);
     void retranslate();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void fillPresets();
@@ -56,8 +60,10 @@ private:
     QToolButton* cursorB_;
     QPushButton* handOverMenu_;
     CurvesPlot* plot_;
+    BandsStrip* strip_;
     QLabel* line_;
     QString title_;
+    bool isChosen_ = false; // what is shown, by the user
 };
 
 } // namespace vlk

@@ -85,7 +85,8 @@ TimeTicks timeTicks(const TimeSpan& span, int most, qint32 utcOffset)
 QString tickText(double time, double step, qint32 utcOffset)
 {
     if (step >= kDay)
-        return text(time, utcOffset, QStringLiteral("dd.MM.yyyy"));
+        return text(time, utcOffset,
+                    step < 28 * kDay ? QStringLiteral("dd.MM.") : QStringLiteral("dd.MM.yyyy"));
     return text(time, utcOffset,
                 step < kMinute ? QStringLiteral("dd.MM. HH:mm:ss") : QStringLiteral("dd.MM. HH:mm"));
 }

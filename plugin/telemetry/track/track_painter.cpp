@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <set>
 
 namespace vlk {
 
@@ -24,6 +25,7 @@ constexpr double kLongestBar = 140;
 constexpr double kMargin = 10;
 constexpr double kStopReach = 5;
 constexpr double kEventReach = 4;
+constexpr double kMarkRoom = 8;
 constexpr double kCurrentReach = 8;
 constexpr int kBins = ValueClasses::kMost + 1; // the last for no value
 
@@ -108,6 +110,19 @@ private:
     std::array<QVector<QLineF>, kBins> lines_;
 };
 
+// Of marks that would cover each other one is drawn.
+class Crowd
+{
+public:
+    bool hasRoomAt(const QPointF& pixel)
+    {
+        return taken_.emplace(std::lround(pixel.x() / kMarkRoom), std::lround(pixel.y() / kMarkRoom)).second;
+    }
+
+private:
+    std::set<std::pair<long, long>> taken_;
+};
+
 class TrackDrawing
 {
 public:
@@ -164,9 +179,10 @@ private:
 
     void drawStops()
     {
+        Crowd crowd;
         for (const Stop& stop : model_.stops()) {
             const std::optional<QPointF> pixel = pixelOf(stop.first);
-            if (!pixel || !isSeen(*pixel))
+            if (!pixel || !isSeen(*pixel) || !crowd.hasRoomAt(*pixel))
                 continue;
             painter_.setPen(QPen(text_, 1.5));
             painter_.setBrush(base_);
@@ -177,15 +193,13 @@ private:
 
     void drawEvents()
     {
-        // Of many at one pixel one is drawn.
-        QPointF before(-1e9, -1e9);
+        Crowd crowd;
         painter_.setPen(QPen(base_, 1));
         painter_.setBrush(text_);
         for (const int record : model_.events()) {
             const std::optional<QPointF> pixel = pixelOf(record);
-            if (!pixel || !isSeen(*pixel) || (*pixel - before).manhattanLength() < 2)
+            if (!pixel || !isSeen(*pixel) || !crowd.hasRoomAt(*pixel))
                 continue;
-            before = *pixel;
             painter_.drawPolygon(
                 QPolygonF({*pixel + QPointF(0, -kEventReach), *pixel + QPointF(kEventReach, 0),
                            *pixel + QPointF(0, kEventReach), *pixel + QPointF(-kEventReach, 0)}));
@@ -273,7 +287,8 @@ private:
                              translated(isFar ? "abbr_023" : "abbr_022");
         const double length = metres / longest * kLongestBar;
         const double row = metrics_.height();
-        const QRectF frame(kMargin, size_.height() - kMargin - 1.8 * row, length + row, 1.8 * row);
+        const QRectF frame(size_.width() - kMargin - length - row, size_.height() - kMargin - 1.8 * row,
+                           length + row, 1.8 * row);
         drawFrame(frame);
         const double y = frame.bottom() - row / 3;
         const double x = frame.left() + row / 2;
