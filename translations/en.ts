@@ -1679,6 +1679,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_276"><translation>the disk reports an error</translation></message>
     <message id="tmiw_277"><translation>it is a folder</translation></message>
     <message id="tmiw_278"><translation>the name is too long</translation></message>
+    <message id="tmiw_279"><translation>Tick the box of the row first.</translation></message>
+    <message id="tmiw_280"><translation>Only sensors that the tracker finds by name have one.</translation></message>
     <message id="tmizta_001"><translation>Test mode</translation></message>
     <message id="tmizta_002"><translation>Backup</translation></message>
     <message id="tmizta_003"><translation>Main</translation></message>
@@ -2402,7 +2404,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_saved"><translation>Saved: %1</translation></message>
     <message id="wb_saved_changes"><translation>Saved: %1. Settings that differ from what was read: %2</translation></message>
     <message id="wb_saved_part"><translation>Saved in part: %1. It holds %2 of %3 records, until %4.</translation></message>
-    <message id="wb_saved_part_unplugged"><translation>The tracker was unplugged meanwhile.</translation></message>
+    <message id="wb_saved_part_unplugged"><translation>The tracker was unplugged meanwhile, so its telemetry window was closed.</translation></message>
     <message id="wb_search_bad"><translation>Message %1 from the tracker cannot be right, so how far the search has come is not known. Cancel it, check the cable and search again.</translation></message>
     <message id="wb_settings_damaged"><translation>The settings were damaged and have been put aside; the default values hold.</translation></message>
     <message id="wb_silence_again"><translation>No answer from the tracker since %1. It is asked again every %2&#160;s; check the cable.</translation></message>
@@ -2464,7 +2466,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_typed"><translation>Fields to look at again:</translation></message>
     <message id="wb_unplugged"><translation>The tracker was unplugged while it answered. Attach it and try again.</translation></message>
     <message id="wb_unplugged_open"><translation>The tracker was unplugged while it answered. The open window stays, but can be written to the tracker only when it is attached again.</translation></message>
-    <message id="wb_unplugged_telemetry"><translation>The tracker was unplugged while it answered, so its telemetry window was closed. A period that was being saved holds only what had come. Attach the tracker and open telemetry again.</translation></message>
+    <message id="wb_unplugged_telemetry"><translation>The tracker was unplugged while it answered, so its telemetry window was closed. Attach the tracker and open telemetry again.</translation></message>
     <message id="wb_why_answer"><translation>The tracker's answer cannot be right.</translation></message>
     <message id="wb_why_detached"><translation>No tracker is attached.</translation></message>
     <message id="wb_why_disk"><translation>What came cannot be put into a temporary file: %1.</translation></message>

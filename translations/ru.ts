@@ -1679,6 +1679,8 @@
     <message id="tmiw_276"><translation>ошибка диска</translation></message>
     <message id="tmiw_277"><translation>это папка</translation></message>
     <message id="tmiw_278"><translation>слишком длинное имя</translation></message>
+    <message id="tmiw_279"><translation>Сначала отметьте флажок строки.</translation></message>
+    <message id="tmiw_280"><translation>Имя есть только у датчиков, которые трекер находит по имени.</translation></message>
     <message id="tmizta_001"><translation>Режим тестирования</translation></message>
     <message id="tmizta_002"><translation>Резервный</translation></message>
     <message id="tmizta_003"><translation>Основной</translation></message>
@@ -2402,7 +2404,7 @@
     <message id="wb_saved"><translation>Сохранено: %1</translation></message>
     <message id="wb_saved_changes"><translation>Сохранено: %1. Отличий от прочитанного: %2</translation></message>
     <message id="wb_saved_part"><translation>Сохранено не целиком: %1. Записей в нём %2 из %3, до %4.</translation></message>
-    <message id="wb_saved_part_unplugged"><translation>Трекер во время сохранения отключили.</translation></message>
+    <message id="wb_saved_part_unplugged"><translation>Трекер во время сохранения отключили, поэтому окно его телеметрии закрыто.</translation></message>
     <message id="wb_search_bad"><translation>Сообщение %1 от трекера неверно, поэтому неизвестно, как идёт поиск. Отмените его, проверьте кабель и начните поиск снова.</translation></message>
     <message id="wb_settings_damaged"><translation>Настройки программы были повреждены и отложены; действуют начальные значения.</translation></message>
     <message id="wb_silence_again"><translation>Ответа от трекера нет с %1. Запрос повторяется каждые %2&#160;с; проверьте кабель.</translation></message>
@@ -2464,7 +2466,7 @@
     <message id="wb_typed"><translation>Проверьте эти поля:</translation></message>
     <message id="wb_unplugged"><translation>Трекер отключился во время ответа. Подключите его и повторите.</translation></message>
     <message id="wb_unplugged_open"><translation>Трекер отключился во время ответа. Окно осталось открытым, но записать его в трекер можно будет, только когда трекер снова подключат.</translation></message>
-    <message id="wb_unplugged_telemetry"><translation>Трекер отключился во время ответа, поэтому окно его телеметрии закрыто. Если сохранялся период, в файле только то, что успело прийти. Подключите трекер и откройте телеметрию снова.</translation></message>
+    <message id="wb_unplugged_telemetry"><translation>Трекер отключился во время ответа, поэтому окно его телеметрии закрыто. Подключите трекер и откройте телеметрию снова.</translation></message>
     <message id="wb_why_answer"><translation>Ответ трекера неверен.</translation></message>
     <message id="wb_why_detached"><translation>Трекер не подключён.</translation></message>
     <message id="wb_why_disk"><translation>Полученное не удалось записать во временный файл: %1.</translation></message>

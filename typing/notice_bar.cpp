@@ -120,6 +120,12 @@ void NoticeBar::end(int number)
     refresh();
 }
 
+bool NoticeBar::isOnShow(int number) const
+{
+    const Told* shown = worst();
+    return shown && shown->number == number;
+}
+
 void NoticeBar::retranslate()
 {
     close_->setToolTip(tr("wrd_402"));

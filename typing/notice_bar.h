@@ -49,6 +49,7 @@ public:
     // Of a bar that tells one thing: its sentence, asked for again likewise; null takes it away.
     void tell(const std::function<QString()>& sentence);
     void end(int number);
+    bool isOnShow(int number) const;
     // Among equals the one that was told last is on show.
     void setNewestFirst() { isNewestFirst_ = true; }
     void retranslate();

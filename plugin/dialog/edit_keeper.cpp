@@ -63,6 +63,7 @@ void EditKeeper::begin(const QString& folder, const QString& subject)
     due_.stop();
     subject_ = subject;
     path_ = review::recoveryPath(folder, subject);
+    claim_.reset();
     beginWith(review_.document());
 }
 
@@ -87,9 +88,12 @@ bool EditKeeper::keep()
         if (QFile::exists(path_) && !QFile::remove(path_))
             return false;
         kept_.clear();
+        claim_.reset();
     } else if (review::keepUnsaved(path_, {subject_, vlk::now(), beginning, now, review_.quickValues()},
                                    &reason)) {
         kept_ = now;
+        if (!claim_)
+            claim_.emplace(path_);
     } else {
         setFailure(reason);
         return false;
@@ -105,6 +109,7 @@ void EditKeeper::leave()
     review_.history().settle();
     if (keep())
         Q_EMIT safe();
+    claim_.reset();
 }
 
 bool EditKeeper::eventFilter(QObject* watched, QEvent* event)

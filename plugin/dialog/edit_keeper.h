@@ -4,11 +4,13 @@
 // file, written to the tracker or taken back, and at once when the window closes. A change of windows alone
 // is no edit.
 
+#include "base/file_claim.h"
 #include "dialog/configuration_review.h"
 
 #include <QTimer>
 
 #include <array>
+#include <optional>
 
 namespace vlk {
 
@@ -64,6 +66,7 @@ private:
     QTimer due_;
     QString subject_;
     QString path_;
+    std::optional<FileClaim> claim_;       // while the edits are in sight
     std::array<QByteArray, 2> beginnings_; // without an edit, in the full and in the quick window
     QByteArray kept_;                      // what the file is known to hold
     bool isEdited_ = false;

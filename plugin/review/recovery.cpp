@@ -1,6 +1,7 @@
 #include "review/recovery.h"
 
 #include "base/clock.h"
+#include "base/file_claim.h"
 #include "base/replace_file.h"
 #include "review/take_over.h"
 #include "xml/serialize.h"
@@ -97,7 +98,8 @@ std::vector<KeptUnsaved> keptUnsaved(const QString& folder, const QString& subje
     const QDir files(keptFolder(folder));
     for (const QString& name : files.entryList({stemOf(subject) + QLatin1Char('*') + kSuffix}, QDir::Files)) {
         const QString path = files.filePath(name);
-        if (std::optional<Unsaved> unsaved = unsavedIn(path); unsaved && unsaved->subject == subject)
+        std::optional<Unsaved> unsaved = isClaimed(path) ? std::nullopt : unsavedIn(path);
+        if (unsaved && unsaved->subject == subject)
             kept.push_back({path, std::move(*unsaved)});
     }
     std::stable_sort(kept.begin(), kept.end(), [](const KeptUnsaved& a, const KeptUnsaved& b) {

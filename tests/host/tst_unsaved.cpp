@@ -337,8 +337,10 @@ private:
     {
         QStringList paths;
         for (const QFileInfo& file :
-             QDir(kept_->filePath("unsaved")).entryInfoList(QDir::Files | QDir::Hidden))
-            paths << file.filePath();
+             QDir(kept_->filePath("unsaved")).entryInfoList(QDir::Files | QDir::Hidden)) {
+            if (file.suffix() != QLatin1String("lock"))
+                paths << file.filePath();
+        }
         return paths;
     }
 

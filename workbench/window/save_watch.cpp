@@ -91,6 +91,7 @@ void SaveWatch::follow(const QFileDialog& dialog)
     if (path.isEmpty())
         return;
     awaited_ = {present(path)};
+    window_ = dialog.parentWidget() ? dialog.parentWidget()->window() : nullptr;
     // A name without a suffix may get one.
     const QString suffix = suffixOf(dialog.selectedNameFilter());
     if (QFileInfo(path).suffix().isEmpty() && !suffix.isEmpty())

@@ -179,7 +179,7 @@ void WorkbenchWindow::connectNotices()
             [this](PluginLog::Topic /*topic*/, const QString& category, const QString& text) {
                 log_.appendWarning(category, text);
             });
-    linkNotices_ = std::make_unique<LinkNotices>(session_, windows_, log_, *status_, this);
+    linkNotices_ = std::make_unique<LinkNotices>(pluginLog_, session_, windows_, log_, *status_, this);
     faults_ = std::make_unique<FaultsAtHand>(session_.tracker(), linkNotices_->answers(),
                                              commands_[Command::Faults]->shortcut(), this);
     saveNotices_ = std::make_unique<SaveNotices>(pluginLog_, session_, windows_, *recent_, *status_, this);

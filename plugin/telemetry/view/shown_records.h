@@ -49,7 +49,7 @@ public:
     // All of them pass, the first one is looked at, all of their time is in sight.
     void setContents(TelemetryContents contents);
     const RecordStore& records() const { return contents_.records; }
-    const TelemetryTitles& titles() const { return contents_.titles; }
+    const TelemetryTitles& titles() const { return contents_.origin.titles; }
     RecordColumns& columns() { return *columns_; }
     // Puts one that came meanwhile behind the others, from its type byte on. It passes where all do; what
     // showed the latest time or record shows it now.
