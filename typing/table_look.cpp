@@ -112,6 +112,10 @@ void dressView(QAbstractItemView* view, QHeaderView* heads)
 void dressCells(QAbstractItemView* view)
 {
     view->setItemDelegate(new CellDelegate(Qt::ElideRight, view));
+}
+
+void addCopy(QAbstractItemView* view)
+{
     auto* copy = new QShortcut(QKeySequence::Copy, view, nullptr, nullptr, Qt::WidgetShortcut);
     QObject::connect(copy, &QShortcut::activated, view,
                      [view] { QApplication::clipboard()->setText(tableText(*view)); });
@@ -122,8 +126,10 @@ void dressCells(QAbstractItemView* view)
 void dressTable(QTableView* table, TableUse use)
 {
     dressView(table, table->horizontalHeader());
-    if (use == TableUse::read)
+    if (use != TableUse::edit)
         dressCells(table);
+    if (use == TableUse::read)
+        addCopy(table);
     table->setShowGrid(use == TableUse::edit);
     table->setWordWrap(false);
     table->setTabKeyNavigation(false);
@@ -138,6 +144,7 @@ void dressTable(QTreeView* tree)
 {
     dressView(tree, tree->header());
     dressCells(tree);
+    addCopy(tree);
     tree->setRootIsDecorated(false);
     tree->setUniformRowHeights(true);
 }

@@ -13,7 +13,11 @@ class QTreeView;
 
 namespace vlk {
 
-enum class TableUse { read, edit };
+enum class TableUse {
+    read,
+    edit,
+    show, // as read, but what Ctrl+C takes is the window's matter
+};
 
 void dressTable(QTableView* table, TableUse use);
 // A list with heads.

@@ -65,6 +65,15 @@ public:
     constexpr const Bytes& bytes() const { return bytes_; }
     constexpr bool operator==(const FieldMask&) const = default;
 
+    // The fields of either.
+    constexpr FieldMask operator|(const FieldMask& other) const
+    {
+        FieldMask both;
+        for (int i = 0; i < kBytes; ++i)
+            both.bytes_[i] = static_cast<std::uint8_t>(bytes_[i] | other.bytes_[i]);
+        return both;
+    }
+
 private:
     Bytes bytes_{};
 };

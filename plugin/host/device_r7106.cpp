@@ -16,14 +16,12 @@ namespace {
 enum StoredFileKind : std::int32_t { Browser = 0, Table = 1 };
 
 // Shows the window first, because reading a large file takes a moment.
-template <class Window>
-void showFile(Window*& window, const QString& path)
+template <class Window, class... What>
+void showIn(Window* window, const What&... what)
 {
-    if (window == nullptr)
-        window = new Window;
     window->show();
     window->raise();
-    window->open(path);
+    window->open(what...);
 }
 
 // The record's field has 4 bytes. Where pointers are wider, it holds the low half of the address.
@@ -191,15 +189,37 @@ void VLK_Device_R7106::openTelemetry(const QString& configurationPath)
 void VLK_Device_R7106::showStoredFile(const QString& path, std::int32_t kind)
 {
     if (kind == Browser)
-        showFile(tmiPage_, path);
+        showIn(browser(), path);
     else if (kind == Table)
-        showFile(tmiTable_, path);
+        showIn(recordsWindow(), path);
+}
+
+VLK_Widget_Tmi_Page* VLK_Device_R7106::browser()
+{
+    if (!tmiPage_)
+        tmiPage_ = new VLK_Widget_Tmi_Page;
+    return tmiPage_;
+}
+
+VLK_Widget_Tmi_Table* VLK_Device_R7106::recordsWindow()
+{
+    if (!tmiTable_) {
+        tmiTable_ = new VLK_Widget_Tmi_Table;
+        connect(tmiTable_, &VLK_Widget_Tmi_Table::recordOpened, this,
+                [this](const auto& contents, const QString& name, int record) {
+                    showIn(browser(), contents, name, record);
+                });
+    }
+    return tmiTable_;
 }
 
 VLK_Widget_Tmi_View* VLK_Device_R7106::ensureTelemetryView()
 {
-    if (!telemetryView_)
+    if (!telemetryView_) {
         telemetryView_ = new VLK_Widget_Tmi_View;
+        connect(telemetryView_, &VLK_Widget_Tmi_View::recordsWanted, this,
+                [this](const auto& records, const QString& name) { showIn(recordsWindow(), records, name); });
+    }
     return telemetryView_;
 }
 

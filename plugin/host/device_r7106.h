@@ -71,6 +71,8 @@ public:
     VLK_Widget_Tmi_View* ensureTelemetryView();
 
 private:
+    VLK_Widget_Tmi_Page* browser();
+    VLK_Widget_Tmi_Table* recordsWindow();
     VLK_Form_IO_Progress* progressForm_ = nullptr;
     VLK_Form_Param_About* aboutForm_ = nullptr;
     QString pathTmi_;

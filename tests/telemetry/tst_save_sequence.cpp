@@ -170,7 +170,14 @@ private Q_SLOTS:
         // A save that is whole takes down what was said of the last one.
         QVERIFY(!child<QLabel>("label_SavedInPart")->isHidden());
         startSave(7, 8);
-        QVERIFY(text("label_SavedInPart").isEmpty());
+        QCOMPARE(text("label_SavedInPart"), QString("rec_081"));
+        // Its records are looked at without being read again.
+        QFile::remove(file_);
+        press("label_SavedInPart_Action1");
+        auto* table =
+            ScriptedHost::child<QTableView>(ScriptedHost::window("VLK_Widget_Tmi_Table"), "tableWidget");
+        QVERIFY(table && table->isVisible());
+        QCOMPARE(table->model()->rowCount(), 2);
     }
 
     // A key that is pressed once too often switches nothing on; afterwards the focus is where it was.

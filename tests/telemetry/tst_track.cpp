@@ -204,8 +204,9 @@ void TestTrack::showsAndMoves()
     view.resize(500, 400);
     view.show();
     QVERIFY(QTest::qWaitForWindowExposed(&view));
-    records.setContents(
-        {{}, storeOf({{kStart, 55, 37}, {kStart + 60, 55, 37.2, 2, 60}, {kStart + 120, 0, 0}}), {}, {}});
+    TelemetryContents contents;
+    contents.records = storeOf({{kStart, 55, 37}, {kStart + 60, 55, 37.2, 2, 60}, {kStart + 120, 0, 0}});
+    records.setContents(std::move(contents));
     auto* const canvas = view.findChild<QWidget*>(QStringLiteral("canvas_Track"));
     const auto* const place = view.findChild<QLabel*>(QStringLiteral("label_TrackPlace"));
     const auto pixels = [&] { return canvas->grab().toImage(); };

@@ -1,11 +1,13 @@
 #include "command/arguments.h"
 
 #include "command/file_names.h"
+#include "telemetry/files/export_form.h"
 #include "window/languages.h"
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <set>
 
 namespace workbench::command {
 
@@ -29,6 +31,7 @@ struct CommandRow
         pathAndFiles,
         settingsAndFiles, // by their "="
         presetAndFiles,
+        recordFiles, // of telemetry, and --to
     } takes;
     bool printsSecrets;
     bool edits;
@@ -49,6 +52,11 @@ constexpr CommandRow commands[] = {
      CommandRow::presetAndFiles, true, true},
     {"report", "cli_106", "  r7106 report truck.xml -o truck.pdf", CommandRow::oneFile, true, false},
     {"info", "cli_107", "  r7106 info --json archive", CommandRow::anyFiles, false, false},
+    {"convert", "cli_201",
+     "  r7106 convert week.tmi --to csv -o week.csv\n  r7106 convert --to gpx --from 20.11.2026 --to-time "
+     "20.11.2026 week.xml > day.gpx\n  r7106 convert --to csv --where 'StateU_Ain3 < 9 and Speed > 0' "
+     "archive",
+     CommandRow::recordFiles, false, false},
 };
 
 std::string withExamples(const char* examples)
@@ -80,13 +88,39 @@ void addLanguage(CLI::App& app, Read& read)
         ->option_text("ru|en");
 }
 
+void addConversion(CLI::App& app, Conversion& conversion)
+{
+    std::string names;
+    std::set<std::string> forms;
+    for (const vlk::ExportFormRow& row : vlk::kExportForms) {
+        forms.insert(row.name);
+        names += (names.empty() ? "" : "|") + std::string(row.name);
+    }
+    const auto addText = [&app](const char* name, QString& to, const char* key) {
+        return app.add_option_function<std::string>(
+            name, [&to](const std::string& value) { to = QString::fromStdString(value); }, words(key));
+    };
+    addText("--to", conversion.form, "cli_202")->required()->check(CLI::IsMember(forms))->option_text(names);
+    addText("--columns", conversion.columns, "cli_203")->option_text("archive|NAME,NAME...");
+    addText("--from", conversion.from, "cli_204")->option_text("TIME");
+    addText("--to-time", conversion.to, "cli_205")->option_text("TIME");
+    addText("--where", conversion.where, "cli_206")->option_text("CONDITION");
+    addText("--tracker", conversion.tracker, "cli_207")->option_text("TEXT");
+    app.add_flag("--raw", conversion.raw, words("cli_208"));
+    app.add_flag("--merge", conversion.merge, words("cli_209"));
+    app.add_flag("--strict", conversion.strict, words("cli_210"));
+    app.add_flag("--decimal-comma", conversion.decimalComma, words("cli_211"));
+}
+
 void addOptions(CLI::App& app, const CommandRow& row, Read& read)
 {
     addLanguage(app, read);
     app.add_option("-o,--output", read.output,
                    words(row.takes == CommandRow::oneFile ? "cli_118" : "cli_111"))
         ->option_text("FILE");
-    if (row.takes != CommandRow::oneFile)
+    if (row.takes == CommandRow::recordFiles)
+        addConversion(app, read.call.conversion);
+    if (row.takes != CommandRow::oneFile && row.takes != CommandRow::recordFiles)
         app.add_flag("--json", read.call.json, words("cli_112"));
     if (row.printsSecrets)
         app.add_flag("--secrets", read.call.secrets, words("cli_113"));

@@ -8,6 +8,21 @@
 
 namespace workbench::command {
 
+// What telemetry is converted into.
+struct Conversion
+{
+    QString form;
+    QString columns;
+    QString from;
+    QString to;
+    QString where;
+    QString tracker;
+    bool raw = false;
+    bool merge = false;
+    bool strict = false;
+    bool decimalComma = false;
+};
+
 struct Call
 {
     QString command;
@@ -21,6 +36,7 @@ struct Call
     bool changedOnly = false;
     bool dryRun = false;
     bool csv = false;
+    Conversion conversion;
 };
 
 // The greater one counts.

@@ -3,6 +3,7 @@
 #include "command/commands.h"
 
 #include "command/configuration_input.h"
+#include "command/damage_lines.h"
 #include "command/each_file.h"
 #include "command/file_kind.h"
 #include "command/file_names.h"
@@ -68,11 +69,9 @@ QByteArray lineOf(const Call& call, const File& file, const Facts& facts)
 
 QByteArray damageLines(const File& file, const std::vector<vlk::FileDamage>& damages)
 {
-    // By FileDamage::Kind.
-    static constexpr const char* kinds[] = {"cli_070", "cli_071", "cli_072", "cli_073", "cli_074", "cli_075"};
     QByteArray lines;
     for (const vlk::FileDamage& damage : damages)
-        lines += complaint(file.name, text("cli_076").arg(damage.offset).arg(text(kinds[damage.kind])));
+        lines += damageLine(file, damage);
     return lines;
 }
 

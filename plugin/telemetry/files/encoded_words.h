@@ -1,7 +1,7 @@
 #pragma once
 
-// The words of an export as the bytes of the local 8-bit encoding. Each is looked up and encoded once, when
-// it is first needed; a change of language after that does not show.
+// The words of an export as the bytes of its encoding. Each is looked up and encoded once, when it is first
+// needed; a change of language after that does not show.
 
 #include "telemetry/text/word.h"
 
@@ -9,9 +9,14 @@
 
 namespace vlk {
 
+// Gives the bytes of a text.
+using TextEncoder = QByteArray (*)(const QString& text);
+
 class EncodedWords
 {
 public:
+    explicit EncodedWords(TextEncoder encode) : encode_(encode) {}
+
     // Without the suffix. Stays as long as this object.
     std::string_view of(const Word& word)
     {
@@ -19,7 +24,7 @@ public:
             return word.source();
         QByteArray& text = texts_[word.keyNumber()];
         if (text.isNull()) {
-            text = word.translated().toLocal8Bit();
+            text = encode_(word.translated());
             if (text.isEmpty())
                 text = ""; // not null any more
         }
@@ -27,6 +32,7 @@ public:
     }
 
 private:
+    TextEncoder encode_;
     // By the number of the key; null while it was not needed.
     std::array<QByteArray, Word::kKeyNumbers> texts_;
 };

@@ -1,6 +1,8 @@
 #pragma once
 
-// Numbers as a file holds them. What is no number, or does not fit the type, counts as 0.
+// Numbers as a file holds them, read and written. What is no number, or does not fit the type, counts as 0.
+
+#include <QLocale>
 
 #include <charconv>
 #include <string_view>
@@ -24,6 +26,12 @@ Number numberFrom(std::string_view text)
     Number number{};
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     return error == std::errc() && end == text.data() + text.size() ? number : Number{};
+}
+
+// The shortest text that reads back as the same double.
+inline QByteArray shortestText(double number)
+{
+    return QByteArray::number(number, 'g', QLocale::FloatingPointShortest);
 }
 
 } // namespace vlk

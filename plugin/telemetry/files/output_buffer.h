@@ -43,6 +43,9 @@ public:
         return *this << std::string_view(digits, static_cast<std::size_t>(end - digits));
     }
 
+    // A write before now did; what is not written yet may still fail.
+    bool hasFailed() const { return failed_; }
+
     // Writes what is left. False if any write failed; after the first that did, nothing more is written.
     bool finish();
 

@@ -10,17 +10,27 @@ namespace vlk {
 // Columns that were decoded before the store grew get the numbers that they lack.
 const NumberColumn& RecordColumns::numbers(ItemIndex item)
 {
-    NumberColumn& column = numbers_[item];
+    return filled(numbers_[item], kItems[item].element,
+                  [&](std::uint64_t raw) { return itemNumber(raw, item, userTypes_); });
+}
+
+const NumberColumn& RecordColumns::numbers(ElementIndex element)
+{
+    return filled(wholes_[element], element,
+                  [type = kElements[element].type](std::uint64_t raw) { return numberOf(raw, type); });
+}
+
+template <class ToNumber>
+const NumberColumn& RecordColumns::filled(NumberColumn& column, ElementIndex element, ToNumber toNumber) const
+{
     const auto known = static_cast<int>(column.size());
     if (known == store_.size())
         return column;
     column.resize(store_.size());
-    const ElementIndex element = kItems[item].element;
     forEachRaw(
         store_, element, [element](const RecordLayout& layout) { return layout.has(element); },
         [&](int record, std::optional<std::uint64_t> raw) {
-            column[record] =
-                raw ? itemNumber(*raw, item, userTypes_) : std::numeric_limits<double>::quiet_NaN();
+            column[record] = raw ? toNumber(*raw) : std::numeric_limits<double>::quiet_NaN();
         },
         known);
     return column;

@@ -28,6 +28,8 @@ public:
     const std::string& userTypes() const { return userTypes_; }
 
     const NumberColumn& numbers(ItemIndex item);
+    // The whole number of an element, whatever it means.
+    const NumberColumn& numbers(ElementIndex element);
     // Of the head of every record and packet, also where its mask does not tell it: seconds since 1970 in
     // UTC, the code of the event, the number of the record.
     const std::vector<quint32>& times();
@@ -35,11 +37,14 @@ public:
     const std::vector<quint32>& recordNumbers();
 
 private:
+    template <class ToNumber>
+    const NumberColumn& filled(NumberColumn& column, ElementIndex element, ToNumber toNumber) const;
     const std::vector<quint32>& headColumn(ElementIndex element);
 
     const RecordStore& store_;
     std::string userTypes_;
     std::map<ItemIndex, NumberColumn> numbers_;
+    std::map<ElementIndex, NumberColumn> wholes_;
     std::map<ElementIndex, std::vector<quint32>> heads_;
 };
 

@@ -3,7 +3,6 @@
 #include "telemetry/files/binary_layout.h"
 #include "telemetry/files/checksums.h"
 #include "telemetry/files/identity_text.h"
-#include "telemetry/files/output_buffer.h"
 #include "telemetry/record/record_head.h"
 
 #include <cstring>
@@ -27,6 +26,23 @@ void appendPacked(Buffer& record, const TmiPage_Zeta3& page)
     }
 }
 
+void putLength(Buffer& record)
+{
+    record.resize(std::min(record.size(), binary::kLengthBytes + binary::kLongestRecord));
+    qToLittleEndian(static_cast<quint16>(record.size() - binary::kLengthBytes), record.data());
+}
+
+// As the tracker sent it.
+void buildPacked(Buffer& record, const RecordLayout& layout, std::span<const std::uint8_t> payload)
+{
+    record.assign(binary::kLengthBytes, 0);
+    record.push_back(layout.type);
+    record.push_back(layout.ver);
+    append(record, layout.mask.bytes());
+    append(record, payload);
+    putLength(record);
+}
+
 // The record with its length in front; `record` lends its memory.
 void build(Buffer& record, const TmiPage_Zeta3& page)
 {
@@ -45,59 +61,94 @@ void build(Buffer& record, const TmiPage_Zeta3& page)
     } else {
         appendPacked(record, page);
     }
-    record.resize(std::min(record.size(), binary::kLengthBytes + binary::kLongestRecord));
-    qToLittleEndian(static_cast<quint16>(record.size() - binary::kLengthBytes), record.data());
+    putLength(record);
 }
 
 // Builds each record anew, so that memory does not grow with them.
 template <class Visit>
-void forEachRecord(const RecordStore& records, Visit visit)
+void forEachBuilt(const RecordStore& store, std::span<const int> records, Visit visit)
 {
-    Buffer record;
-    records.forEach([&](const TmiPage_Zeta3& page) {
-        build(record, page);
-        visit(std::span<const std::uint8_t>(record));
-    });
+    Buffer built;
+    TmiPage_Zeta3 page;
+    for (const int record : records) {
+        const RecordLayout& layout = store.layout(record);
+        const std::span<const std::uint8_t> bytes = store.bytes(record);
+        if (layout.form == RecordLayout::Record && layout.held == layout.mask && !bytes.empty()) {
+            buildPacked(built, layout, bytes);
+        } else {
+            store.decode(page, record);
+            build(built, page);
+        }
+        visit(std::span<const std::uint8_t>(built));
+    }
 }
 
-std::array<std::uint8_t, binary::kHeaderBytes> header(const RecordStore& records,
-                                                      const TelemetryOrigin& origin, quint32 recordsCrc)
+std::array<std::uint8_t, binary::kHeaderBytes> header(const ExportAhead& ahead, const TelemetryOrigin& origin)
 {
     std::array<std::uint8_t, binary::kHeaderBytes> bytes{};
     const auto put = [&](int at, auto number) { qToLittleEndian(number, bytes.data() + at); };
     const auto putText = [&](int at, const QByteArray& text) {
         std::memcpy(bytes.data() + at, text.constData(), text.size());
     };
-    const quint32 firstTime = timeOf(*records.at(0));
     // Two digits a byte.
-    const QByteArray identity =
-        scrambled(origin.trackerId.toLocal8Bit().left(binary::kIdentityBytes / 2), identityKey(firstTime));
+    const QByteArray identity = scrambled(origin.trackerId.toLocal8Bit().left(binary::kIdentityBytes / 2),
+                                          identityKey(ahead.firstTime));
     put(binary::kMagicAt, binary::kMagic);
     put(binary::kVersionAt, binary::kVersion);
     putText(binary::kModelAt, origin.model.toLocal8Bit().left(binary::kModelBytes));
-    put(binary::kFirstTimeAt, firstTime);
-    put(binary::kLastTimeAt, timeOf(*records.at(records.size() - 1)));
-    put(binary::kCountAt, static_cast<quint16>(records.size()));
-    put(binary::kRecordsCrcAt, recordsCrc);
+    put(binary::kFirstTimeAt, ahead.firstTime);
+    put(binary::kLastTimeAt, ahead.lastTime);
+    put(binary::kCountAt, static_cast<quint16>(ahead.count));
+    put(binary::kRecordsCrcAt, ahead.crc);
     put(binary::kIdentityLengthAt, static_cast<quint8>(identity.size()));
     putText(binary::kIdentityAt, identity);
     put(binary::kHeaderCrcAt, quint16{crc8(std::span(bytes).first(binary::kHeaderCrcAt))});
     return bytes;
 }
 
+class BinaryWriter : public ExportWriter
+{
+public:
+    BinaryWriter(const ExportAhead& ahead, TelemetryOrigin origin) : ahead_(ahead), origin_(std::move(origin))
+    {
+    }
+
+    void begin(OutputBuffer& out) override
+    {
+        if (ahead_.count > 0)
+            out << std::span<const std::uint8_t>(header(ahead_, origin_));
+    }
+
+    void add(OutputBuffer& out, const RecordStore& store, std::span<const int> records) override
+    {
+        forEachBuilt(store, records, [&](auto record) { out << record; });
+    }
+
+    void finish(OutputBuffer& /*out*/) override {}
+
+private:
+    ExportAhead ahead_;
+    TelemetryOrigin origin_;
+};
+
 } // namespace
+
+std::unique_ptr<ExportWriter> binaryWriter(const ExportAhead& ahead, const TelemetryOrigin& origin)
+{
+    return std::make_unique<BinaryWriter>(ahead, origin);
+}
+
+std::uint32_t binaryCrc(std::uint32_t before, const RecordStore& store, std::span<const int> records)
+{
+    forEachBuilt(store, records, [&](auto record) { before = crc32(before, record); });
+    return before;
+}
 
 bool writeTelemetryBinary(QIODevice& device, const RecordStore& records, const TelemetryOrigin& origin)
 {
-    if (records.empty())
-        return true;
-    quint32 recordsCrc = 0;
-    forEachRecord(records, [&](auto record) { recordsCrc = crc32(recordsCrc, record); });
-
-    OutputBuffer out(device);
-    out << std::span<const std::uint8_t>(header(records, origin, recordsCrc));
-    forEachRecord(records, [&](auto record) { out << record; });
-    return out.finish();
+    ExportOptions options;
+    options.origin = origin;
+    return exportRecords(device, records, ExportForm::tmi, options);
 }
 
 } // namespace vlk

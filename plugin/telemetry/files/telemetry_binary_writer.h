@@ -4,11 +4,15 @@
 // with checksums. A record that was read from an XML file, of which the bytes of the tracker are not known,
 // is packed again from its values.
 
-#include "telemetry/files/telemetry_contents.h"
-
-class QIODevice;
+#include "telemetry/files/export_form.h"
 
 namespace vlk {
+
+// With no records ahead it writes nothing at all.
+std::unique_ptr<ExportWriter> binaryWriter(const ExportAhead& ahead, const TelemetryOrigin& origin);
+
+// The checksum goes on over these records.
+std::uint32_t binaryCrc(std::uint32_t before, const RecordStore& store, std::span<const int> records);
 
 // False if a write failed. No pages write nothing at all.
 bool writeTelemetryBinary(QIODevice& device, const RecordStore& records, const TelemetryOrigin& origin);

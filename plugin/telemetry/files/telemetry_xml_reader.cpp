@@ -137,6 +137,9 @@ void TelemetryXmlReader::endPage(XmlPage& page)
     if (salvages) {
         report(FileDamage::Records, isKept ? page.endAt : page.at(), page.endAt);
         nextLine_ = page.nextLine;
+        // Within a page a line is read as far as lines of values go; that of a page is longer.
+        if (!nextLine_.ends_with('\n'))
+            nextLine_ += input_.line(kLongestLine);
         nextAt_ = page.endAt;
         return;
     }

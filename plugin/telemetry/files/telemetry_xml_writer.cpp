@@ -1,12 +1,9 @@
 #include "telemetry/files/telemetry_xml_writer.h"
 
 #include "base/windows1251.h"
-#include "telemetry/files/file_form.h"
-#include "telemetry/files/output_buffer.h"
 #include "telemetry/files/title_lines.h"
+#include "telemetry/files/value_writing.h"
 #include "telemetry/text/time_text.h"
-
-#include <QLocale>
 
 namespace vlk {
 
@@ -14,25 +11,12 @@ namespace {
 
 constexpr ElementIndex kAlwaysWritten[] = {element("NumPage"), element("Code"), element("Time")};
 
-QByteArray shortest(double number)
+void addNumber(OutputBuffer& out, auto number)
 {
-    return QByteArray::number(number, 'g', QLocale::FloatingPointShortest);
-}
-
-template <class Source>
-void addValue(OutputBuffer& out, const ElementValues<Source>& source, ElementIndex index)
-{
-    const FileForm& form = kFileForms[index];
-    if (form.divisor != 1)
-        out << shortest(source.number(index) / form.divisor);
-    else if (form.type == ValueType::f32)
-        out << shortest(source.number(index));
-    else if (form.type == ValueType::i16)
-        out << static_cast<std::int16_t>(source.raw(index));
-    else if (isSigned(form.type))
-        out << source.integer(index);
+    if constexpr (std::is_floating_point_v<decltype(number)>)
+        out << shortestText(number);
     else
-        out << source.raw(index);
+        out << number;
 }
 
 template <class Source>
@@ -40,7 +24,7 @@ void addElement(OutputBuffer& out, const ElementValues<Source>& source, ElementI
 {
     const std::string_view name = kElements[index].name;
     out << "\t\t<" << name << ">";
-    addValue(out, source, index);
+    withFileNumber(index, source.raw(index), [&out](auto number) { addNumber(out, number); });
     out << "</" << name << ">\r\n";
 }
 
@@ -81,38 +65,62 @@ void addExtraPacket(OutputBuffer& out, const ExtraPacket& packet)
     out << "\t</Page>\r\n";
 }
 
-void addHeader(OutputBuffer& out, const RecordStore& records, const TelemetryOrigin& origin)
+class XmlWriter : public ExportWriter
 {
-    out << "<?xml version=\"1.0\" encoding=\"windows-1251\"?>\r\n"
-        << "<TMI model=\"" << toWindows1251(origin.model) << "\" modification=\"7\" vendor=\""
-        << toWindows1251(origin.vendor) << "\" version=\"3.0\"> \r\n"
-        << "\t<TIMEZONE offset=\"" << origin.timeOffset << "\"/>\r\n";
-    for (const TitleLine& line : kTitleLines)
-        out << "\t<" << line.tag << " title=\"" << toWindows1251(titleOf(origin.titles, line)) << "\"/>\r\n";
-    const QString letters = typeLetters(origin.titles);
-    for (const TypeLine& line : kTypeLines)
-        out << "\t<" << line.tag << " type=\"" << toWindows1251(letters.mid(line.first, line.count))
-            << "\"/>\r\n";
-    const auto time = [&](int record) { return dateTimeText(timeOf(*records.at(record))).toLatin1(); };
-    out << "\t<INTERVAL count=\"" << records.size() << "\" dtFirst=\""
-        << (records.empty() ? QByteArray("0") : time(0)) << "\" dtLast=\""
-        << (records.empty() ? QByteArray("0") : time(records.size() - 1)) << "\"/>\r\n";
-}
+public:
+    XmlWriter(const ExportAhead& ahead, TelemetryOrigin origin) : ahead_(ahead), origin_(std::move(origin)) {}
+
+    void begin(OutputBuffer& out) override
+    {
+        out << "<?xml version=\"1.0\" encoding=\"windows-1251\"?>\r\n"
+            << "<TMI model=\"" << toWindows1251(origin_.model) << "\" modification=\"7\" vendor=\""
+            << toWindows1251(origin_.vendor) << "\" version=\"3.0\"> \r\n"
+            << "\t<TIMEZONE offset=\"" << origin_.timeOffset << "\"/>\r\n";
+        for (const TitleLine& line : kTitleLines)
+            out << "\t<" << line.tag << " title=\"" << toWindows1251(titleOf(origin_.titles, line))
+                << "\"/>\r\n";
+        const QString letters = typeLetters(origin_.titles);
+        for (const TypeLine& line : kTypeLines)
+            out << "\t<" << line.tag << " type=\"" << toWindows1251(letters.mid(line.first, line.count))
+                << "\"/>\r\n";
+        const auto time = [this](quint32 seconds) {
+            return ahead_.count == 0 ? QByteArray("0") : dateTimeText(seconds).toLatin1();
+        };
+        out << "\t<INTERVAL count=\"" << ahead_.count << "\" dtFirst=\"" << time(ahead_.firstTime)
+            << "\" dtLast=\"" << time(ahead_.lastTime) << "\"/>\r\n";
+    }
+
+    void add(OutputBuffer& out, const RecordStore& store, std::span<const int> records) override
+    {
+        for (const int record : records) {
+            store.decode(page_, record);
+            if (page_.isExtra())
+                addExtraPacket(out, page_.extra());
+            else
+                addRecord(out, page_);
+        }
+    }
+
+    void finish(OutputBuffer& out) override { out << "</TMI>\r\n"; }
+
+private:
+    ExportAhead ahead_;
+    TelemetryOrigin origin_;
+    TmiPage_Zeta3 page_;
+};
 
 } // namespace
 
+std::unique_ptr<ExportWriter> xmlWriter(const ExportAhead& ahead, const TelemetryOrigin& origin)
+{
+    return std::make_unique<XmlWriter>(ahead, origin);
+}
+
 bool writeTelemetryXml(QIODevice& device, const RecordStore& records, const TelemetryOrigin& origin)
 {
-    OutputBuffer out(device);
-    addHeader(out, records, origin);
-    records.forEach([&out](const TmiPage_Zeta3& page) {
-        if (page.isExtra())
-            addExtraPacket(out, page.extra());
-        else
-            addRecord(out, page);
-    });
-    out << "</TMI>\r\n";
-    return out.finish();
+    ExportOptions options;
+    options.origin = origin;
+    return exportRecords(device, records, ExportForm::xml, options);
 }
 
 } // namespace vlk

@@ -81,16 +81,18 @@ void addUserValue(AsciiText& text, const Value& value, ElementIndex element, con
     addUserParameter(text, value.raw, kElements[element].width, userTypeOf(element, options.userTypes));
 }
 
-qint32 shownOffset(const TmiPage_Zeta3& page, const TextOptions& options)
+qint32 shownOffset(const TextOptions& options)
 {
-    return page.hasUtcOffset() || options.zone == nullptr ? page.utcOffset() : options.zone->offsetNow();
+    if (options.utcOffset)
+        return *options.utcOffset;
+    return options.zone != nullptr ? options.zone->offsetNow() : localOffset();
 }
 
 void addShape(TextParts& parts, const Value& value, const Rule& rule, const Measure& measure,
-              const Item& item, const TmiPage_Zeta3& page, const TextOptions& options)
+              const Item& item, const TextOptions& options)
 {
     const auto seconds = static_cast<quint32>(value.raw);
-    const auto localOffset = [&] {
+    const auto offsetThen = [&] {
         return options.zone != nullptr ? options.zone->offsetAt(seconds) : LocalZone().offsetAt(seconds);
     };
     switch (rule.shape) {
@@ -112,11 +114,11 @@ void addShape(TextParts& parts, const Value& value, const Rule& rule, const Meas
     case Shape::enumeration:
         return addNamed(parts, value, rule, measure);
     case Shape::zonedTime:
-        return addZonedTime(parts.characters, seconds, shownOffset(page, options));
+        return addZonedTime(parts.characters, seconds, shownOffset(options));
     case Shape::localTime:
-        return addClockAndDate(parts.characters, seconds, localOffset());
+        return addClockAndDate(parts.characters, seconds, offsetThen());
     case Shape::dateTime:
-        return addDateAndClock(parts.characters, seconds, localOffset());
+        return addDateAndClock(parts.characters, seconds, offsetThen());
     case Shape::coordinate:
         return addCoordinate(parts.characters, value, rule, measure);
     case Shape::userParameter:
@@ -136,8 +138,7 @@ const Rule* ruleFor(const Item& item, const Value& whole)
     return rule;
 }
 
-void addValue(TextParts& parts, const Value& whole, const Item& item, const TmiPage_Zeta3& page,
-              const TextOptions& options)
+void addValue(TextParts& parts, const Value& whole, const Item& item, const TextOptions& options)
 {
     const Rule* const rule = ruleFor(item, whole);
     if (rule == nullptr)
@@ -151,7 +152,7 @@ void addValue(TextParts& parts, const Value& whole, const Item& item, const TmiP
         return;
     // A bit of two states counts from the whole value.
     const bool ranged = rule->bits.count != 0 && rule->shape != Shape::twoState;
-    addShape(parts, ranged ? cutBits(whole, rule->bits) : whole, *rule, measure, item, page, options);
+    addShape(parts, ranged ? cutBits(whole, rule->bits) : whole, *rule, measure, item, options);
     if (rule->withUnit)
         parts.unit = rule->unit ? &rule->unit : &unitWord(measure.unit);
 }
@@ -200,16 +201,23 @@ double itemNumber(std::uint64_t raw, ItemIndex index, std::string_view userTypes
     }
 }
 
-TextParts textParts(const TmiPage_Zeta3& page, ItemIndex index, const TextOptions& options)
+TextParts textParts(std::uint64_t raw, ItemIndex index, const TextOptions& options)
 {
     const Item& item = kItems[index];
-    const ValueType type = kElements[item.element].type;
     TextParts parts;
-    if (page.isExtra() && page.extra().find(item.element) != nullptr)
-        addValue(parts, {page.extra().raw(item.element), type}, item, page, options);
-    else if (page.has(item.element))
-        addValue(parts, {page.raw(item.element), type}, item, page, options);
+    addValue(parts, {raw, kElements[item.element].type}, item, options);
     return parts;
+}
+
+TextParts textParts(const TmiPage_Zeta3& page, ItemIndex index, const TextOptions& options)
+{
+    const ElementIndex element = kItems[index].element;
+    TextOptions ofPage = options;
+    if (page.hasUtcOffset())
+        ofPage.utcOffset = page.utcOffset();
+    if (page.isExtra() && page.extra().find(element) != nullptr)
+        return textParts(page.extra().raw(element), index, ofPage);
+    return page.has(element) ? textParts(page.raw(element), index, ofPage) : TextParts();
 }
 
 QString text(const TmiPage_Zeta3& page, ItemIndex index, const TextOptions& options)

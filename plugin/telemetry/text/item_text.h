@@ -17,6 +17,8 @@ struct TextOptions
     // Of local times, and of pages that have none of their own. Without it each of these looks the zone of
     // the machine up.
     const LocalZone* zone = nullptr;
+    // In which the times of a value without a page are shown, in seconds east of UTC; else the present one.
+    std::optional<qint32> utcOffset{};
 };
 
 // Empty if the record does not hold the item. Of an extra packet the items of its head have their texts.
@@ -26,6 +28,9 @@ QString text(const TmiPage_Zeta3& page, ItemIndex item, const TextOptions& optio
 
 // The same in parts, for those who look the words up themselves. Not for items of Shape::special.
 TextParts textParts(const TmiPage_Zeta3& page, ItemIndex item, const TextOptions& options = {});
+
+// The same from the bytes of the element alone, as an unsigned number.
+TextParts textParts(std::uint64_t raw, ItemIndex item, const TextOptions& options = {});
 
 // The number behind the text, in the unit of the text: degrees for a coordinate, seconds since 1970 for a
 // time, 1 or 0 for a state of two, the code of what has words. No number where the value is the code for

@@ -8,8 +8,7 @@
 //     Word("tmizta_052", " 1")  the translated text and what follows it
 //     Word("")                  an empty text; Word() is no word at all
 
-#include <QCoreApplication>
-#include <QString>
+#include "base/translated.h"
 
 #include <string_view>
 
@@ -35,10 +34,7 @@ public:
     constexpr std::string_view suffix() const { return suffix_; }
 
     // Without the suffix.
-    QString translated() const
-    {
-        return keyNumber_ >= 0 ? QCoreApplication::translate("vlk", text_.data()) : latin1(text_);
-    }
+    QString translated() const { return keyNumber_ >= 0 ? vlk::translated(text_.data()) : latin1(text_); }
 
     QString text() const { return suffix_.empty() ? translated() : translated() + latin1(suffix_); }
 

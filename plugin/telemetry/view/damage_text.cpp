@@ -20,6 +20,7 @@ namespace {
 constexpr const char* kSentences[] = {"tmiw_190", "tmiw_191", "tmiw_192", "tmiw_193", "tmiw_194", nullptr};
 constexpr std::size_t kInBar = 2;
 constexpr std::size_t kInBox = 20;
+constexpr std::size_t kMostActions = 2;
 
 QString number(qint64 value)
 {
@@ -31,6 +32,7 @@ struct Damage
     std::vector<FileDamage> places;
     qint64 whole;
     qint64 announced;
+    int hidden;
 };
 
 Damage damageOf(const TelemetryContents& contents)
@@ -40,7 +42,7 @@ Damage damageOf(const TelemetryContents& contents)
     std::vector<FileDamage> places = contents.damages;
     std::erase_if(places, isCount);
     const qint64 whole = qint64{contents.records.size()} - (contents.lastIsCut ? 1 : 0);
-    return {std::move(places), whole, countDiffers ? contents.announced.value_or(0) : whole};
+    return {std::move(places), whole, countDiffers ? contents.announced.value_or(0) : whole, contents.hidden};
 }
 
 QStringList sentences(const Damage& damage, std::size_t most)
@@ -55,6 +57,8 @@ QStringList sentences(const Damage& damage, std::size_t most)
                     .replace(QLatin1String("%2"), number(place.offset + place.bytes));
     if (damage.places.size() > told)
         said << translated("tmiw_198").arg(number(static_cast<qint64>(damage.places.size() - told)));
+    if (damage.hidden > 0)
+        said << translated("rec_076").arg(number(damage.hidden));
     return said;
 }
 
@@ -70,7 +74,7 @@ void showAll(QWidget* window, const Damage& damage)
 
 } // namespace
 
-void tellDamage(NoticeBar* bar, const TelemetryContents& contents, const std::function<void(int)>& goTo)
+void tellDamage(NoticeBar* bar, const TelemetryContents& contents, const DamageActions& actions)
 {
     if (contents.damages.empty()) {
         bar->end(0);
@@ -83,14 +87,24 @@ void tellDamage(NoticeBar* bar, const TelemetryContents& contents, const std::fu
     const auto records = contents.records.size();
     const int record =
         place == contents.damages.end() || records == 0 ? -1 : std::min(place->record, records - 1);
-    bar->tell(0, [bar, goTo, record, damage = damageOf(contents)] {
+    bar->tell(0, [bar, actions, record, damage = damageOf(contents)] {
         Notice notice{Mark::advice, sentences(damage, kInBar).join(QLatin1Char(' ')), {}};
+        if (damage.hidden > 0)
+            notice.actions.push_back({translated("rec_077"), actions.bringBack});
         if (record >= 0)
-            notice.actions.push_back({translated("tmiw_200"), [goTo, record] { goTo(record); }});
-        if (damage.places.size() > kInBar)
+            notice.actions.push_back(
+                {translated("tmiw_200"), [goTo = actions.goTo, record] { goTo(record); }});
+        if (damage.places.size() > kInBar && notice.actions.size() < kMostActions)
             notice.actions.push_back(
                 {translated("tmiw_201"), [bar, damage] { showAll(bar->window(), damage); }});
         return notice;
+    });
+}
+
+void tellCancelled(NoticeBar* bar, const std::function<void()>& again)
+{
+    bar->tell(0, [again] {
+        return Notice{Mark::advice, translated("rec_074"), {{translated("rec_075"), again}}};
     });
 }
 

@@ -11,10 +11,17 @@ namespace vlk {
 
 class NoticeBar;
 
+// What the bar offers.
+struct DamageActions
+{
+    std::function<void(int record)> goTo; // the one behind the first damaged place, counted from 0
+    std::function<void()> bringBack;      // reads the file again, with the whole records that were hidden
+};
+
 // Puts it into the bar that is at the top of the window, or takes away what is told there of another file.
-// The bar offers to go to the record behind the first damaged place, counted from 0, and shows all places
-// where it does not name them itself.
-void tellDamage(NoticeBar* bar, const TelemetryContents& contents,
-                const std::function<void(int record)>& goTo);
+// The bar shows all places where it does not name them itself.
+void tellDamage(NoticeBar* bar, const TelemetryContents& contents, const DamageActions& actions);
+// In the same place, that reading was cancelled; `again` reads anew.
+void tellCancelled(NoticeBar* bar, const std::function<void()>& again);
 
 } // namespace vlk

@@ -13,14 +13,14 @@ QString periodFileName(const QString& vehicle, const QDateTime& first, const QDa
         .trimmed();
 }
 
-bool writePeriod(const QString& path, TelemetryForm form, const RecordBytes& records,
-                 const TelemetryOrigin& origin, const EventText& eventText)
+TelemetryContents periodOf(const RecordBytes& records, const TelemetryOrigin& origin)
 {
-    RecordStore store;
-    store.setUtcOffset(origin.timeOffset);
+    TelemetryContents period;
+    period.origin = origin;
+    period.records.setUtcOffset(origin.timeOffset);
     for (const QByteArray& record : records)
-        store.add(bytesAt(record.constData(), record.size()));
-    return saveTelemetryFile(path, form, store, origin, eventText);
+        period.records.add(bytesAt(record.constData(), record.size()));
+    return period;
 }
 
 } // namespace vlk

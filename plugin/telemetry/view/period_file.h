@@ -1,8 +1,8 @@
 #pragma once
 
-// Puts the records of a period, as they came from the tracker, into a file.
+// The records of a period, as they came from the tracker, and the name of a file for them.
 
-#include "telemetry/files/telemetry_file.h"
+#include "telemetry/files/telemetry_contents.h"
 
 #include <QByteArray>
 #include <QDateTime>
@@ -18,8 +18,7 @@ using RecordBytes = std::vector<QByteArray>;
 // vehicle's period. The times are shown as they are given.
 QString periodFileName(const QString& vehicle, const QDateTime& first, const QDateTime& last);
 
-// saveTelemetryFile() for records as they came. Times are shown in the zone of `origin`.
-bool writePeriod(const QString& path, TelemetryForm form, const RecordBytes& records,
-                 const TelemetryOrigin& origin, const EventText& eventText);
+// Of records as they came. Times are shown in the zone of `origin`.
+TelemetryContents periodOf(const RecordBytes& records, const TelemetryOrigin& origin);
 
 } // namespace vlk

@@ -1,123 +1,120 @@
 #include "telemetry/view/records_model.h"
 
 #include "link/requests.h"
-#include "telemetry/files/title_lines.h"
-#include "telemetry/text/time_text.h"
+#include "telemetry/files/table_columns.h"
 #include "telemetry/view/absent_value.h"
 #include "telemetry/view/item_display.h"
+#include "telemetry/view/record_order.h"
 
 #include <QGuiApplication>
+#include <QLocale>
 #include <QPalette>
 
 #include <algorithm>
 #include <cmath>
-#include <numeric>
 
 namespace vlk {
 
-using namespace vlk;
-
 namespace {
 
-bool isTime(const CsvColumn& column)
+// What tells one record from another is there whatever the masks say, and so is what packets have.
+std::vector<CsvColumn> columnsFor(const RecordStore& records)
 {
-    const Shape shape = kItems[column.item].rule().shape;
-    return shape == Shape::zonedTime || shape == Shape::localTime || shape == Shape::dateTime;
-}
-
-// Events have words in place of their codes.
-bool isNumeric(const CsvColumn& column)
-{
-    if (column.element() == element("Code"))
-        return false;
-    const Shape shape = kItems[column.item].rule().shape;
-    return shape == Shape::decimal || shape == Shape::fixed || shape == Shape::general ||
-           shape == Shape::coordinate || shape == Shape::userParameter;
-}
-
-bool isCoordinate(const CsvColumn& column)
-{
-    return kItems[column.item].rule().shape == Shape::coordinate;
-}
-
-// In the order of the alphabet, from 0 on.
-QHash<QString, double> ranksOf(QStringList words)
-{
-    std::sort(words.begin(), words.end(),
-              [](const QString& left, const QString& right) { return left.localeAwareCompare(right) < 0; });
-    QHash<QString, double> ranks;
-    for (const QString& word : std::as_const(words))
-        ranks.insert(word, ranks.size());
-    return ranks;
-}
-
-// Times and coordinates are ordered by what is behind their texts, which would take long to make.
-bool sortsByValue(const CsvColumn& column)
-{
-    return isTime(column) || isCoordinate(column);
-}
-
-double valueOf(const TmiPage_Zeta3& page, const CsvColumn& column)
-{
-    return page.isExtra() ? page.extra().number(column.element()) : page.number(column.element());
-}
-
-// A number with or without a unit behind it. The value of a damaged record may be none, which has no place
-// among the others.
-bool readNumber(const QString& text, const CsvColumn& column, double& number)
-{
-    bool isNumber = false;
-    number = text.toDouble(&isNumber);
-    // Binary digits of a user parameter have blanks too.
-    if (!isNumber && kItems[column.item].rule().shape != Shape::userParameter)
-        number = text.leftRef(text.lastIndexOf(QLatin1Char(' '))).toDouble(&isNumber);
-    return isNumber && !std::isnan(number);
+    std::vector<CsvColumn> columns;
+    if (records.empty())
+        return columns;
+    const FieldMask fields = records.fields();
+    const bool hasPackets = records.hasPackets();
+    std::ranges::copy_if(csvColumns(), std::back_inserter(columns), [&](const CsvColumn& column) {
+        return fields.test(column.field()) || column.field() <= field("Time") ||
+               (hasPackets && isInPackets(column));
+    });
+    return columns;
 }
 
 } // namespace
 
-struct RecordsModel::SortKey
+RecordsModel::RecordsModel(ShownRecords* shown, QObject* parent) : QAbstractTableModel(parent), shown_(shown)
 {
-    enum Kind : quint8 { Number, Word, Empty };
+    connect(shown, &ShownRecords::contentsChanged, this, [this] {
+        beginResetModel();
+        setColumns();
+        order();
+        endResetModel();
+    });
+    connect(shown, &ShownRecords::passingChanged, this, &RecordsModel::setRows);
+}
 
-    Kind kind = Empty;
-    double value = 0;
-};
-
-void RecordsModel::setContents(TelemetryContents contents)
+void RecordsModel::setColumns()
 {
-    beginResetModel();
-    records_ = std::move(contents.records);
-    decodedPage_ = -1;
-    userTypes_ = typeLetters(contents.origin.titles).toLatin1().toStdString();
-    columns_ = columnsOf(records_);
-    hasPackets_ = records_.hasPackets();
-    order_.resize(records_.size());
-    std::iota(order_.begin(), order_.end(), 0);
-    cells_.clear();
-    events_.clear();
-    makeHeadings();
-    endResetModel();
+    decoded_ = -1;
+    sortColumn_ = -1;
+    texts_.clear();
+    columns_.clear();
+    for (const CsvColumn& column : columnsFor(shown_->records()))
+        columns_.push_back({column, kindOf(column), decimalsOf(column), {}});
+    hasPackets_ = shown_->records().hasPackets();
+    makeHeads();
+}
+
+void RecordsModel::makeHeads()
+{
+    const QString zone = QStringLiteral(", ") + zoneText(shown_->utcOffset());
+    for (Column& column : columns_) {
+        column.head = headText(column.shown, shown_->titles());
+        if (column.kind == CellKind::time)
+            column.head += zone;
+    }
+    packetHead_ = Word("tmizta_359").text();
 }
 
 void RecordsModel::retranslate()
 {
-    cells_.clear();
+    texts_.clear();
     events_.clear();
-    makeHeadings();
-    if (rowCount() == 0 || columnCount() == 0)
+    makeHeads();
+    if (columnCount() == 0)
         return;
     Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
-    Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+    if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
 }
 
-void RecordsModel::makeHeadings()
+void RecordsModel::setRows()
 {
-    headings_.clear();
-    for (const CsvColumn& column : columns_)
-        headings_ << headingText(column);
-    if (hasPackets_)
-        headings_ << Word("tmizta_359").text();
+    if (rowCount() > 0) {
+        beginRemoveRows({}, 0, rowCount() - 1);
+        order_.clear();
+        endRemoveRows();
+    }
+    if (shown_->passing().empty())
+        return;
+    beginInsertRows({}, 0, static_cast<int>(shown_->passing().size()) - 1);
+    order();
+    endInsertRows();
+}
+
+void RecordsModel::order()
+{
+    rows_.clear();
+    if (sortColumn_ < 0) {
+        order_ = shown_->passing();
+        return;
+    }
+    order_ = ordered(shown_->passing(), keys(sortColumn_), sortOrder_);
+    rows_.assign(shown_->records().size(), -1);
+    for (std::size_t row = 0; row < order_.size(); ++row)
+        rows_[order_[row]] = static_cast<int>(row);
+}
+
+int RecordsModel::rowOf(int record) const
+{
+    if (record < 0 || record >= shown_->records().size())
+        return -1;
+    if (!rows_.empty())
+        return rows_[record];
+    const auto row = std::ranges::lower_bound(order_, record);
+    return row != order_.end() && *row == record ? static_cast<int>(row - order_.begin()) : -1;
 }
 
 int RecordsModel::rowCount(const QModelIndex& parent) const
@@ -127,95 +124,98 @@ int RecordsModel::rowCount(const QModelIndex& parent) const
 
 int RecordsModel::columnCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : headings_.size();
+    return parent.isValid() ? 0 : static_cast<int>(columns_.size()) + (hasPackets_ ? 1 : 0);
+}
+
+const CsvColumn* RecordsModel::columnAt(int column) const
+{
+    return column >= 0 && column < static_cast<int>(columns_.size()) ? &columns_[column].shown : nullptr;
+}
+
+int RecordsModel::columnOf(ItemIndex item) const
+{
+    const auto found =
+        std::ranges::find_if(columns_, [item](const Column& column) { return column.shown.item == item; });
+    return found == columns_.end() ? -1 : static_cast<int>(found - columns_.begin());
+}
+
+CellKind RecordsModel::kind(int column) const
+{
+    return columnAt(column) != nullptr ? columns_[column].kind : CellKind::characters;
 }
 
 QVariant RecordsModel::data(const QModelIndex& index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
+    const int column = index.column();
     if (role == Qt::TextAlignmentRole)
-        return alignment(index.column());
-    const int page = order_[index.row()];
-    if (isAbsent(page, index.column())) {
-        switch (role) {
-        case Qt::DisplayRole:
-            return QString(kAbsentMark);
-        case Qt::ToolTipRole:
-            return absentTip();
-        case Qt::ForegroundRole:
-            return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
-        default:
-            return {};
-        }
-    }
-    if (role != Qt::DisplayRole)
+        return alignment(column);
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole && role != Qt::ForegroundRole)
         return {};
-    const quint64 key = static_cast<quint64>(page) << 32 | static_cast<quint32>(index.column());
-    if (const QString* known = cells_.object(key))
-        return *known;
-    const QString text = cellText(page, index.column());
-    cells_.insert(key, new QString(text));
-    return text;
+    const int record = order_[index.row()];
+    const quint64 key = static_cast<quint64>(record) << 32 | static_cast<quint32>(column);
+    const QString* const known = texts_.object(key);
+    const QString shownText = known != nullptr ? *known : text(record, column);
+    if (known == nullptr)
+        texts_.insert(key, new QString(shownText));
+    if (shownText.isEmpty())
+        return absentData(record, column, role);
+    if (role == Qt::DisplayRole)
+        return shownText;
+    const CsvColumn* const shown = columnAt(column);
+    const bool isPlace = shown != nullptr && kItems[shown->item].rule().shape == Shape::coordinate;
+    return role == Qt::ToolTipRole && isPlace ? positionText(decoded(record), shown->item) : QVariant();
 }
 
-// A heading stands as its column does.
+QVariant RecordsModel::absentData(int record, int column, int role) const
+{
+    const CsvColumn* const shown = columnAt(column);
+    const bool isHeld =
+        shown != nullptr ? holds(decoded(record), shown->element()) : decoded(record).isExtra();
+    switch (role) {
+    case Qt::DisplayRole:
+        return QString(kAbsentMark);
+    case Qt::ToolTipRole:
+        return absentTip(isHeld ? kNoValue : kNotInRecord);
+    default:
+        return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+    }
+}
+
+// A head stands as its column does.
 int RecordsModel::alignment(int column) const
 {
-    const bool toTheRight = column < static_cast<int>(columns_.size()) && isNumeric(columns_[column]);
+    const bool toTheRight = kind(column) == CellKind::number;
     return static_cast<int>(Qt::AlignVCenter | (toTheRight ? Qt::AlignRight : Qt::AlignLeft));
 }
 
 QVariant RecordsModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (role == Qt::TextAlignmentRole && orientation == Qt::Horizontal)
+    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
+        return {};
+    if (role == Qt::TextAlignmentRole)
         return alignment(section) | Qt::TextWordWrap;
-    const bool isText = role == Qt::DisplayRole || (role == Qt::ToolTipRole && orientation == Qt::Horizontal);
-    if (!isText || section < 0)
+    if (role == Qt::DisplayRole || role == Qt::ToolTipRole)
+        return columnAt(section) != nullptr ? columns_[section].head : packetHead_;
+    return {};
+}
+
+const TmiPage_Zeta3& RecordsModel::decoded(int record) const
+{
+    if (decoded_ != record)
+        shown_->records().decode(page_, record);
+    decoded_ = record;
+    return page_;
+}
+
+std::optional<quint64> RecordsModel::raw(int record, int column) const
+{
+    const CsvColumn* const shown = columnAt(column);
+    const TmiPage_Zeta3& page = decoded(record);
+    if (shown == nullptr || !holds(page, shown->element()))
         return {};
-    // The place in the file, as the browser counts it.
-    if (orientation == Qt::Vertical)
-        return section < rowCount() ? QVariant(order_[section]) : QVariant();
-    return section < headings_.size() ? headings_[section] : QVariant();
-}
-
-const TmiPage_Zeta3& RecordsModel::decoded(int page) const
-{
-    if (decodedPage_ != page)
-        records_.decode(decoded_, page);
-    decodedPage_ = page;
-    return decoded_;
-}
-
-bool RecordsModel::isAbsent(int page, int column) const
-{
-    return isPacketData(column) ? !decoded(page).isExtra()
-                                : !holds(decoded(page), columns_[column].element());
-}
-
-QString RecordsModel::cellText(int page, int column) const
-{
-    const TmiPage_Zeta3& record = decoded(page);
-    if (isPacketData(column)) {
-        QStringList entries;
-        if (record.isExtra())
-            record.extra().forEachEntry([&](const ExtraEntry& entry) { entries << entryText(entry); });
-        entries.removeAll(QString());
-        return entries.join(QLatin1String(", "));
-    }
-    const CsvColumn& shown = columns_[column];
-    if (isAbsent(page, column))
-        return {};
-    if (isTime(shown))
-        return zonedTimeText(static_cast<quint32>(valueOf(record, shown)), record.utcOffset());
-    if (isCoordinate(shown))
-        return positionText(record, shown.item);
-    if (shown.element() == element("Code")) {
-        QString event = eventText(codeOf(record));
-        if (!event.isEmpty())
-            return event;
-    }
-    return vlk::cellText(record, shown, {userTypes_});
+    return page.isExtra() ? page.extra().raw(shown->element()) : page.raw(shown->element());
 }
 
 QString RecordsModel::eventText(quint16 code) const
@@ -224,35 +224,79 @@ QString RecordsModel::eventText(quint16 code) const
     return known != events_.constEnd() ? *known : *events_.insert(code, requests::eventText(code));
 }
 
-std::vector<RecordsModel::SortKey> RecordsModel::sortKeys(int column) const
+QString RecordsModel::packetText(int record) const
 {
-    std::vector<SortKey> keys(records_.size());
-    const CsvColumn* const shown = isPacketData(column) ? nullptr : &columns_[column];
-    if (shown != nullptr && sortsByValue(*shown)) {
-        for (int page = 0; page < records_.size(); ++page) {
-            if (holds(decoded(page), shown->element()))
-                keys[page] = {SortKey::Number, valueOf(decoded(page), *shown)};
+    const TmiPage_Zeta3& page = decoded(record);
+    QStringList entries;
+    if (page.isExtra())
+        page.extra().forEachEntry([&](const ExtraEntry& entry) { entries << entryText(entry); });
+    entries.removeAll(QString());
+    return entries.join(QLatin1String(", "));
+}
+
+// The code for no value may have words.
+QString RecordsModel::numberText(int record, int column, const QLocale& locale) const
+{
+    const CsvColumn& shown = columns_[column].shown;
+    const double number = itemNumber(*raw(record, column), shown.item);
+    if (std::isnan(number)) {
+        const TextParts parts = cellParts(decoded(record), shown);
+        return parts.word != nullptr ? parts.word->text() : QString();
+    }
+    return locale.toString(number, 'f', columns_[column].decimals);
+}
+
+QString RecordsModel::text(int record, int column) const
+{
+    if (columnAt(column) == nullptr)
+        return packetText(record);
+    const std::optional<quint64> value = raw(record, column);
+    if (!value)
+        return {};
+    switch (columns_[column].kind) {
+    case CellKind::number:
+        return numberText(record, column, QLocale());
+    case CellKind::time:
+        return momentText(static_cast<quint32>(*value), shown_->utcOffset());
+    case CellKind::event:
+        if (const QString event = eventText(static_cast<quint16>(*value)); !event.isEmpty())
+            return event;
+        break;
+    default:
+        break;
+    }
+    return cellText(decoded(record), columns_[column].shown, {shown_->columns().userTypes()});
+}
+
+QString RecordsModel::textToCopy(int record, int column) const
+{
+    const bool isHeld = raw(record, column).has_value();
+    if (isHeld && kind(column) == CellKind::number) {
+        QLocale locale;
+        locale.setNumberOptions(QLocale::OmitGroupSeparator);
+        return numberText(record, column, locale);
+    }
+    // English spreadsheets know no days before months with points between them.
+    if (isHeld && kind(column) == CellKind::time && QLocale().language() != QLocale::Russian)
+        return QDateTime::fromSecsSinceEpoch(qint64(*raw(record, column)) + shown_->utcOffset(), Qt::UTC)
+            .toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+    return text(record, column).simplified();
+}
+
+std::vector<double> RecordsModel::keys(int column) const
+{
+    if (columnAt(column) == nullptr) {
+        std::vector<double> packets(shown_->records().size(), kNoKey);
+        for (int record = 0; record < shown_->records().size(); ++record) {
+            if (shown_->records().layout(record).isPacket())
+                packets[record] = record;
         }
-        return keys;
+        return alphabetical(std::move(packets), [this](int record) { return packetText(record); });
     }
-    QHash<QString, double> words;
-    std::vector<QString> texts(records_.size());
-    for (int page = 0; page < records_.size(); ++page) {
-        texts[page] = cellText(page, column);
-        SortKey& key = keys[page];
-        if (texts[page].isEmpty())
-            continue;
-        const bool isNumber = shown != nullptr && readNumber(texts[page], *shown, key.value);
-        key.kind = isNumber ? SortKey::Number : SortKey::Word;
-        if (!isNumber)
-            words.insert(texts[page], 0);
-    }
-    words = ranksOf(words.keys());
-    for (int page = 0; page < records_.size(); ++page) {
-        if (keys[page].kind == SortKey::Word)
-            keys[page].value = words.value(texts[page]);
-    }
-    return keys;
+    const std::vector<double>& numbers = shown_->columns().numbers(columns_[column].shown.item);
+    if (kind(column) != CellKind::event && kind(column) != CellKind::words)
+        return numbers;
+    return alphabetical(numbers, [this, column](int record) { return text(record, column); });
 }
 
 void RecordsModel::sort(int column, Qt::SortOrder order)
@@ -261,31 +305,15 @@ void RecordsModel::sort(int column, Qt::SortOrder order)
         return;
     Q_EMIT layoutAboutToBeChanged({}, QAbstractItemModel::VerticalSortHint);
     const QModelIndexList before = persistentIndexList();
-    std::vector<int> pagesBefore;
+    std::vector<int> records;
     for (const QModelIndex& index : before)
-        pagesBefore.push_back(order_[index.row()]);
-
-    std::iota(order_.begin(), order_.end(), 0);
-    if (column >= 0) {
-        const std::vector<SortKey> keys = sortKeys(column);
-        std::ranges::stable_sort(order_, [&](int leftPage, int rightPage) {
-            const SortKey& left = keys[leftPage];
-            const SortKey& right = keys[rightPage];
-            if (left.kind == SortKey::Empty || right.kind == SortKey::Empty)
-                return left.kind < right.kind && right.kind == SortKey::Empty;
-            const auto isLess = [](const SortKey& a, const SortKey& b) {
-                return std::pair(a.kind, a.value) < std::pair(b.kind, b.value);
-            };
-            return order == Qt::AscendingOrder ? isLess(left, right) : isLess(right, left);
-        });
-    }
-
-    std::vector<int> rowOf(order_.size());
-    for (std::size_t row = 0; row < order_.size(); ++row)
-        rowOf[order_[row]] = static_cast<int>(row);
+        records.push_back(order_[index.row()]);
+    sortColumn_ = column;
+    sortOrder_ = order;
+    this->order();
     QModelIndexList after;
     for (int i = 0; i < before.size(); ++i)
-        after << index(rowOf[pagesBefore[i]], before[i].column());
+        after << index(rowOf(records[i]), before[i].column());
     changePersistentIndexList(before, after);
     Q_EMIT layoutChanged({}, QAbstractItemModel::VerticalSortHint);
 }

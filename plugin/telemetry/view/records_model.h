@@ -1,20 +1,15 @@
 #pragma once
 
-// The records and extra packets of a file as a table: a row each, and the columns that their masks select,
-// with the headings and the texts that the CSV file has; times are written as in the browser, positions with
-// their hemisphere. What a record lacks is a dash. A text is made when a view asks for it, so the cost of a
-// file on show does not depend on its length.
-//
-// Sorting orders numbers by size, times by time and words by alphabet; empty cells stand last in both
-// directions, and equal ones in the order of the file.
+// The records on show as a table: a row for each that passes the filter, and the columns that their masks
+// select. A record is decoded, and a text made, when a view asks for it, so that a file on show costs the
+// same whatever its length is. Only sorting walks all records, over one column of numbers.
 
-#include "telemetry/files/table_columns.h"
+#include "telemetry/view/record_cell.h"
+#include "telemetry/view/shown_records.h"
 
 #include <QAbstractTableModel>
 #include <QCache>
 #include <QHash>
-
-#include <string>
 
 namespace vlk {
 
@@ -23,41 +18,67 @@ class RecordsModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    using QAbstractTableModel::QAbstractTableModel;
+    RecordsModel(ShownRecords* shown, QObject* parent);
 
-    void setContents(vlk::TelemetryContents contents);
     void retranslate();
 
-    // What the entries of extra packets hold: the last column, if the file has packets.
-    bool isPacketData(int column) const { return column == static_cast<int>(columns_.size()); }
+    // Null for the last column of a file with packets, which tells what they hold.
+    const CsvColumn* columnAt(int column) const;
+    // -1 where the table has none.
+    int columnOf(ItemIndex item) const;
+    CellKind kind(int column) const;
+    int recordAt(int row) const { return order_[row]; }
+    // As they stand.
+    const std::vector<int>& records() const { return order_; }
+    // -1 where it does not pass the filter.
+    int rowOf(int record) const;
+
+    // What the record shows in a column; empty where it shows nothing.
+    QString text(int record, int column) const;
+    // The same as spreadsheets of the language take it.
+    QString textToCopy(int record, int column) const;
+    // The bytes behind it; none where the record lacks it, and of the column of packets.
+    std::optional<quint64> raw(int record, int column) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    // No column at -1: the order of the file.
     void sort(int column, Qt::SortOrder order) override;
 
 private:
-    struct SortKey;
+    struct Column
+    {
+        CsvColumn shown;
+        CellKind kind;
+        int decimals;
+        QString head;
+    };
 
-    void makeHeadings();
+    void setColumns();
+    void makeHeads();
+    void setRows();
+    void order();
     int alignment(int column) const;
-    bool isAbsent(int page, int column) const;
-    const TmiPage_Zeta3& decoded(int page) const;
-    // Of the file's page, counted from 0.
-    QString cellText(int page, int column) const;
+    QVariant absentData(int record, int column, int role) const;
+    const TmiPage_Zeta3& decoded(int record) const;
     QString eventText(quint16 code) const;
-    std::vector<SortKey> sortKeys(int column) const;
+    QString packetText(int record) const;
+    QString numberText(int record, int column, const QLocale& locale) const;
+    std::vector<double> keys(int column) const;
 
-    vlk::RecordStore records_;
-    mutable TmiPage_Zeta3 decoded_;
-    mutable int decodedPage_ = -1;
-    std::string userTypes_;
-    std::vector<vlk::CsvColumn> columns_;
+    ShownRecords* shown_;
+    std::vector<Column> columns_;
     bool hasPackets_ = false;
-    QStringList headings_;
-    std::vector<int> order_; // the page of each row
-    mutable QCache<quint64, QString> cells_{8192};
+    QString packetHead_;
+    std::vector<int> order_; // the record of each row
+    std::vector<int> rows_;  // the row of each record, where they are sorted
+    int sortColumn_ = -1;
+    Qt::SortOrder sortOrder_ = Qt::AscendingOrder;
+    mutable TmiPage_Zeta3 page_;
+    mutable int decoded_ = -1;
+    mutable QCache<quint64, QString> texts_{8192};
     mutable QHash<quint16, QString> events_;
 };
 

@@ -5,6 +5,7 @@
 #include "base/translated.h"
 #include "link/device.h"
 #include "link/requests.h"
+#include "telemetry/files/telemetry_file.h"
 #include "telemetry/record/record_head.h"
 #include "telemetry/text/time_text.h"
 #include "typing/file_error.h"
@@ -243,7 +244,8 @@ std::size_t SaveSequence::end()
     arrived_.clear();
     const RecordBytes records = std::exchange(records_, {});
     const bool isChosen = std::exchange(fileChosen_, false);
-    const bool isSaved = isChosen && write(records);
+    const auto period = std::make_shared<TelemetryContents>(periodOf(records, origin_));
+    const bool isSaved = isChosen && write(period->records);
     saveState_ = Idle;
     // Before the button goes, which may have the focus.
     Q_EMIT runningChanged(false);
@@ -251,16 +253,19 @@ std::size_t SaveSequence::end()
     // Stays until the user does something else.
     if (isChosen && !isSaved)
         progress_.setStatus("tmiw_182");
+    if (isSaved)
+        Q_EMIT saved(period, saveFileName_);
     if (isSaved && isPart)
         tellPart(records);
     return isSaved ? records.size() : 0;
 }
 
 // What came is worth a second name.
-bool SaveSequence::write(const RecordBytes& records)
+bool SaveSequence::write(const RecordStore& records)
 {
     const auto writeOnce = [&] {
-        return writePeriod(saveFileName_, kindOf(saveMode_).form, records, origin_, &requests::eventText);
+        return saveTelemetryFile(saveFileName_, kindOf(saveMode_).form, records, origin_,
+                                 &requests::eventText);
     };
     if (writeOnce())
         return true;

@@ -20,6 +20,8 @@
 #include <QObject>
 #include <QPointer>
 
+#include <memory>
+
 class QFileDialog;
 class QWidget;
 
@@ -68,6 +70,8 @@ public:
 
 Q_SIGNALS:
     void runningChanged(bool running);
+    // What the file now holds; before what follows, if it is a part.
+    void saved(const std::shared_ptr<vlk::TelemetryContents>& period, const QString& path);
     void savedInPart(const vlk::PartOfPeriod& part);
     // The file is named, or the save was cancelled without one.
     void targetChosen();
@@ -81,7 +85,7 @@ private:
     void takeLast(const QByteArray& record);
     void takeNext(const QByteArray& record);
     bool chooseFile();
-    bool write(const vlk::RecordBytes& records);
+    bool write(const vlk::RecordStore& records);
     // Each gives how many records the file got.
     std::size_t carryOutCancel();
     std::size_t end();

@@ -8,11 +8,11 @@
 
 namespace vlk {
 
-void ShownRecords::setContents(TelemetryContents contents)
+void ShownRecords::setContents(std::shared_ptr<TelemetryContents> contents)
 {
     contents_ = std::move(contents);
-    columns_ = std::make_unique<RecordColumns>(contents_.records,
-                                               typeLetters(contents_.origin.titles).toLatin1().toStdString());
+    columns_ = std::make_unique<RecordColumns>(
+        contents_->records, typeLetters(contents_->origin.titles).toLatin1().toStdString());
     const std::vector<quint32>& times = columns_->times();
     passing_.resize(times.size());
     std::iota(passing_.begin(), passing_.end(), 0);
@@ -36,7 +36,7 @@ void ShownRecords::append(std::span<const std::uint8_t> record)
     const bool wasLast = current_ == added - 1;
     const bool showedLatest = byTime_.empty() || inSight_.to >= wholeTime_.to;
     const bool showedAll = showedLatest && inSight_.from <= wholeTime_.from;
-    contents_.records.add(record);
+    contents_->records.add(record);
     const std::vector<quint32>& times = columns_->times();
     const quint32 time = times[added];
     if (allPass)
@@ -61,7 +61,7 @@ void ShownRecords::append(std::span<const std::uint8_t> record)
 
 qint32 ShownRecords::utcOffset() const
 {
-    return contents_.records.utcOffset().value_or(localOffset());
+    return contents_->records.utcOffset().value_or(localOffset());
 }
 
 void ShownRecords::setPassing(std::vector<int> records)

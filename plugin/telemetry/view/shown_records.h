@@ -10,6 +10,8 @@
 
 #include <QObject>
 
+#include <memory>
+
 namespace vlk {
 
 // Seconds since 1970 in UTC, both ends in it.
@@ -47,9 +49,15 @@ public:
     using QObject::QObject;
 
     // All of them pass, the first one is looked at, all of their time is in sight.
-    void setContents(TelemetryContents contents);
-    const RecordStore& records() const { return contents_.records; }
-    const TelemetryTitles& titles() const { return contents_.origin.titles; }
+    void setContents(std::shared_ptr<TelemetryContents> contents);
+    void setContents(TelemetryContents contents)
+    {
+        setContents(std::make_shared<TelemetryContents>(std::move(contents)));
+    }
+    // For other windows that show the same records.
+    std::shared_ptr<const TelemetryContents> contents() const { return contents_; }
+    const RecordStore& records() const { return contents_->records; }
+    const TelemetryTitles& titles() const { return contents_->origin.titles; }
     RecordColumns& columns() { return *columns_; }
     // Puts one that came meanwhile behind the others, from its type byte on. It passes where all do; what
     // showed the latest time or record shows it now.
@@ -89,8 +97,8 @@ Q_SIGNALS:
     void foundChanged();
 
 private:
-    TelemetryContents contents_;
-    std::unique_ptr<RecordColumns> columns_ = std::make_unique<RecordColumns>(contents_.records);
+    std::shared_ptr<TelemetryContents> contents_ = std::make_shared<TelemetryContents>();
+    std::unique_ptr<RecordColumns> columns_ = std::make_unique<RecordColumns>(contents_->records);
     TimeSpan wholeTime_;
     std::vector<int> passing_;
     std::vector<int> byTime_;

@@ -5,8 +5,9 @@
 #include "link/requests.h"
 #include "telemetry/view/damage_text.h"
 #include "telemetry/view/event_panel.h"
-#include "telemetry/view/stored_file.h"
+#include "telemetry/view/file_opening.h"
 #include "telemetry/view/value_label.h"
+#include "telemetry/view/work_progress.h"
 #include "typing/join_fields.h"
 #include "typing/line_icon.h"
 #include "typing/notice_bar.h"
@@ -48,9 +49,15 @@ VLK_Widget_Tmi_Page::VLK_Widget_Tmi_Page(QWidget* parent)
       ui_(setUpPageUi(this)), file_(new vlk::ValueLabel(QStringLiteral("label_File"))),
       eventPanel_(new vlk::EventPanel(this)),
       damageNotice_(new vlk::NoticeBar(this, QStringLiteral("label_Damage"))),
-      stack_(ui_->stackedWidget, eventPanel_, false)
+      progress_(new vlk::WorkProgress(this)), opening_(new vlk::FileOpening(progress_)),
+      stack_(ui_->stackedWidget, eventPanel_, false), contents_(std::make_shared<vlk::TelemetryContents>())
 {
     ui_->verticalLayout->insertWidget(0, damageNotice_);
+    ui_->verticalLayout->insertWidget(1, progress_);
+    connect(opening_, &FileOpening::opened, this, &VLK_Widget_Tmi_Page::takeContents);
+    connect(this, &QDialog::finished, opening_, &FileOpening::stop);
+    connect(opening_, &FileOpening::cancelled, this,
+            [this] { tellCancelled(damageNotice_, [this] { opening_->start(path_); }); });
     file_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     ui_->verticalLayout_Event->addWidget(file_);
     ui_->verticalLayout_Event->addWidget(eventPanel_);
@@ -104,15 +111,33 @@ void VLK_Widget_Tmi_Page::open(const QString& path)
     file_->setValue(QFileInfo(path).fileName());
     file_->setToolTip(QDir::toNativeSeparators(path));
     // A file may be large: two of them need not be in memory.
-    records_.clear();
-    TelemetryContents contents = readStoredFile(path);
-    tellDamage(damageNotice_, contents, [this](int record) { ui_->horizontalSlider->setValue(record); });
-    records_ = std::move(contents.records);
+    contents_ = std::make_shared<TelemetryContents>();
+    path_ = path;
+    opening_->start(path);
+}
+
+void VLK_Widget_Tmi_Page::open(std::shared_ptr<const TelemetryContents> contents, const QString& name,
+                               int record)
+{
+    opening_->stop();
+    stack_.showNothing();
+    file_->setValue(name);
+    file_->setToolTip(QString());
+    takeContents(std::move(contents));
+    ui_->horizontalSlider->setValue(record);
+}
+
+void VLK_Widget_Tmi_Page::takeContents(std::shared_ptr<const TelemetryContents> contents)
+{
+    contents_ = std::move(contents);
+    tellDamage(damageNotice_, *contents_,
+               {[this](int record) { ui_->horizontalSlider->setValue(record); },
+                [this] { opening_->start(path_, TelemetryReading::salvage); }});
     ui_->label_NoRecord->hide();
-    if (records_.empty())
+    if (records().empty())
         return;
-    stack_.setTracker(contents.origin.titles, 0);
-    setRange(lastPosition(records_));
+    stack_.setTracker(contents_->origin.titles, 0);
+    setRange(lastPosition(records()));
     goTo(0);
 }
 
@@ -131,27 +156,27 @@ void VLK_Widget_Tmi_Page::setRange(int last)
 void VLK_Widget_Tmi_Page::showPage(int position)
 {
     currentPage_ = position;
-    stack_.showDecoded(*records_.at(position));
+    stack_.showDecoded(*records().at(position));
 }
 
 void VLK_Widget_Tmi_Page::goTo(int position)
 {
-    if (records_.empty())
+    if (records().empty())
         return;
     const bool isFirst = position == 0;
-    const bool isLast = position + 1 >= records_.size();
+    const bool isLast = position + 1 >= records().size();
     ui_->pushButton_Begin->setEnabled(!isFirst);
     ui_->pushButton_Get_Prev->setEnabled(!isFirst);
     ui_->pushButton_Get_Next->setEnabled(!isLast);
     ui_->pushButton_End->setEnabled(!isLast);
-    if (position < records_.size())
+    if (position < records().size())
         showPage(position);
     describePosition();
 }
 
 void VLK_Widget_Tmi_Page::describePosition()
 {
-    const int pageCount = records_.size();
+    const int pageCount = records().size();
     ui_->label_NoRecord->setVisible(ui_->horizontalSlider->maximum() >= pageCount);
     ui_->label_NoRecord->setText(ui_->horizontalSlider->value() < pageCount ? QString() : tr("tmiw_183"));
 }
@@ -173,8 +198,9 @@ void VLK_Widget_Tmi_Page::retranslate()
         button->setAccessibleName(tr(key));
     }
     damageNotice_->retranslate();
+    progress_->retranslate();
     stack_.retranslate();
-    if (records_.empty())
+    if (records().empty())
         return;
     showPage(currentPage_);
     describePosition();
@@ -198,7 +224,7 @@ void VLK_Widget_Tmi_Page::slot_Pressed_PushButton_Begin()
 
 void VLK_Widget_Tmi_Page::slot_Pressed_PushButton_Get_Prev()
 {
-    const int lastPage = records_.size() - 1;
+    const int lastPage = records().size() - 1;
     ui_->horizontalSlider->setValue(std::min(ui_->horizontalSlider->value() - 1, lastPage));
 }
 

@@ -12,8 +12,10 @@
 
 namespace vlk {
 class EventPanel;
+class FileOpening;
 class NoticeBar;
 class ValueLabel;
+class WorkProgress;
 } // namespace vlk
 
 namespace Ui {
@@ -31,6 +33,8 @@ public:
     using QDialog::open;
     // Shows the first record of an XML or binary file in place of what was on show; nothing if there is none.
     void open(const QString& path);
+    // The same with records that another window has read, beginning with the one at that place.
+    void open(std::shared_ptr<const vlk::TelemetryContents> contents, const QString& name, int record);
     void retranslate();
 
 private Q_SLOTS:
@@ -46,18 +50,23 @@ private Q_SLOTS:
 
 private:
     void connectControls();
+    void takeContents(std::shared_ptr<const vlk::TelemetryContents> contents);
     void setRange(int last);
     void showPage(int position);
     // The file counts more positions than it has pages where numbers are missing. Those behind the last page
     // leave on show what was, and say so.
     void goTo(int position);
     void describePosition();
+    const vlk::RecordStore& records() const { return contents_->records; }
 
     std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_Page> ui_;
     vlk::ValueLabel* file_;
     vlk::EventPanel* eventPanel_;
     vlk::NoticeBar* damageNotice_;
+    vlk::WorkProgress* progress_;
+    vlk::FileOpening* opening_;
     vlk::RecordStack stack_;
-    vlk::RecordStore records_;
+    std::shared_ptr<const vlk::TelemetryContents> contents_;
+    QString path_;
     int currentPage_ = 0;
 };

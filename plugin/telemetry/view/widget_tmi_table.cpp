@@ -1,134 +1,328 @@
 #include "telemetry/view/widget_tmi_table.h"
 
+#include "link/device.h"
+#include "link/requests.h"
+#include "telemetry/view/column_choice.h"
+#include "telemetry/view/columns_menu.h"
 #include "telemetry/view/damage_text.h"
+#include "telemetry/view/file_opening.h"
+#include "telemetry/view/filter_field.h"
+#include "telemetry/view/find_bar.h"
+#include "telemetry/view/record_finder.h"
+#include "telemetry/view/records_export.h"
+#include "telemetry/view/records_menu.h"
 #include "telemetry/view/records_model.h"
-#include "telemetry/view/stored_file.h"
+#include "telemetry/view/records_places.h"
+#include "telemetry/view/records_table.h"
+#include "telemetry/view/selected_records.h"
+#include "telemetry/view/work_progress.h"
+#include "typing/area_keys.h"
 #include "typing/empty_note.h"
+#include "typing/file_error.h"
 #include "typing/notice_bar.h"
-#include "typing/table_look.h"
 #include "windows/fit_to_screen.h"
 
+#include <QApplication>
+#include <QClipboard>
+#include <QDir>
 #include <QFileInfo>
 #include <QGridLayout>
-#include <QHeaderView>
-#include <QTableView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+#include <QTabWidget>
 #include <QTimer>
 
-#include <algorithm>
+#include <numeric>
+
+using namespace vlk;
 
 namespace {
 
 constexpr int kWidth = 1024;
 constexpr int kHeight = 680;
-constexpr int kWidestColumn = 260;
-constexpr int kHeadingLines = 2;
-constexpr int kHeadPadding = 12; // above and below together
-constexpr int kSamples = 8;      // rows spread over the file that a column is measured by
-
-// Of a heading that is broken at its blanks into the lines that there are.
-int headingWidth(const QString& heading, const QFontMetrics& metrics)
-{
-    int width = metrics.horizontalAdvance(heading) / kHeadingLines;
-    for (const QString& word : heading.split(QLatin1Char(' ')))
-        width = std::max(width, metrics.horizontalAdvance(word));
-    const auto lines = [&] {
-        return metrics.boundingRect(0, 0, width, 0, Qt::TextWordWrap, heading).height() /
-               metrics.lineSpacing();
-    };
-    while (width < kWidestColumn && lines() > kHeadingLines)
-        width += metrics.averageCharWidth();
-    return width;
-}
+enum RecordsNotice { kDamage, kTooMany, kExported };
 
 } // namespace
 
 VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
-      damageNotice_(new vlk::NoticeBar(this, QStringLiteral("label_Damage"))),
-      model_(new vlk::RecordsModel(this)), table_(new QTableView(this))
+      shown_(new ShownRecords(this)), model_(new RecordsModel(shown_, this)),
+      table_(new RecordsTable(model_, this)), columns_(new ColumnChoice(model_, table_)),
+      filter_(new FilterField(shown_, model_, this)),
+      findBar_(new FindBar(new RecordFinder(model_, table_), this)),
+      notices_(new NoticeBar(this, QStringLiteral("label_Damage"))), progress_(new WorkProgress(this)),
+      opening_(new FileOpening(progress_)), export_(new RecordsExport(progress_)),
+      empty_(new EmptyNote(table_)), columnsButton_(new QPushButton(this)),
+      exportButton_(new QPushButton(this)), helpButton_(new QPushButton(this)), count_(new QLabel(this)),
+      sums_(new QLabel(this))
 {
     table_->setObjectName(QStringLiteral("tableWidget"));
-    table_->setFrameShape(QFrame::NoFrame);
-    table_->setModel(model_);
-    table_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    vlk::dressTable(table_, vlk::TableUse::read);
-    // Its numbers are the places in the file.
-    table_->verticalHeader()->show();
-    table_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    QHeaderView* const headings = table_->horizontalHeader();
-    headings->setMinimumHeight(kHeadingLines * fontMetrics().lineSpacing() + kHeadPadding);
-    headings->setSortIndicator(-1, Qt::AscendingOrder);
-    table_->setSortingEnabled(true);
-    table_->verticalHeader()->setHighlightSections(false);
-    empty_ = new vlk::EmptyNote(table_);
-    empty_->tell(tr("tmiw_002"));
+    columnsButton_->setObjectName(QStringLiteral("pushButton_Columns"));
+    exportButton_->setObjectName(QStringLiteral("pushButton_Export"));
+    helpButton_->setObjectName(QStringLiteral("pushButton_Help"));
+    count_->setObjectName(QStringLiteral("label_Count"));
+    sums_->setObjectName(QStringLiteral("label_Sums"));
+    for (QPushButton* button : {columnsButton_, exportButton_, helpButton_}) {
+        button->setAutoDefault(false);
+        filter_->addWidget(button);
+    }
+    columnsButton_->setMenu(new ColumnsMenu(model_, columns_, columnsButton_));
+    layOut();
+    resize(kWidth, kHeight);
+
+    connect(shown_, &ShownRecords::contentsChanged, this, &VLK_Widget_Tmi_Table::takeContents);
+    connect(shown_, &ShownRecords::passingChanged, this, &VLK_Widget_Tmi_Table::takePassing);
+    connect(shown_, &ShownRecords::currentChanged, table_, &RecordsTable::showRecord);
+    connect(table_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex& current) {
+                if (current.isValid())
+                    shown_->setCurrent(model_->recordAt(current.row()));
+            });
+    // Of many changes in one go the last one counts.
+    auto* sums = new QTimer(this);
+    sums->setSingleShot(true);
+    sums->setInterval(0);
+    connect(sums, &QTimer::timeout, this, &VLK_Widget_Tmi_Table::showSums);
+    const auto showSoon = [sums] { sums->start(); };
+    connect(table_->selectionModel(), &QItemSelectionModel::currentChanged, sums, showSoon);
+    connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, sums, showSoon);
+    connect(table_, &RecordsTable::menuWanted, this, &VLK_Widget_Tmi_Table::showMenu);
+    connect(table_, &RecordsTable::recordOpened, this,
+            [this](int record) { Q_EMIT recordOpened(shown_->contents(), name_, record); });
+    connect(filter_, &FilterField::applied, this, &VLK_Widget_Tmi_Table::showCount);
+    connect(empty_, &EmptyNote::pressed, filter_, &FilterField::clear);
+    connect(findBar_, &FindBar::closed, table_, [this] { table_->setFocus(); });
+    connect(helpButton_, &QPushButton::clicked, this,
+            [] { requests::showHelp(QStringLiteral("r-7106records.html")); });
+    connect(opening_, &FileOpening::opened, this, &VLK_Widget_Tmi_Table::showContents);
+    connect(this, &QDialog::finished, opening_, &FileOpening::stop);
+    connect(opening_, &FileOpening::cancelled, this,
+            [this] { tellCancelled(notices_, [this] { opening_->start(path_); }); });
+    connect(exportButton_, &QPushButton::clicked, this, &VLK_Widget_Tmi_Table::exportRecords);
+    connectExport();
+    addKeys();
+    retranslate();
+}
+
+void VLK_Widget_Tmi_Table::layOut()
+{
+    auto* place = new QWidget(this);
+    auto* grid = new QGridLayout(place);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->addWidget(table_, 0, 0);
+    places_ = new RecordsPlaces(place, makeRecordsParts(shown_, this), this);
+    auto* status = new QWidget(this);
+    auto* line = new QHBoxLayout(status);
+    line->setContentsMargins(6, 3, 6, 3);
+    line->setSpacing(16);
+    line->addWidget(count_);
+    line->addStretch(1);
+    line->addWidget(sums_);
+    sums_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(damageNotice_, 0, 0);
-    layout->addWidget(table_, 1, 0);
-    resize(kWidth, kHeight);
-    showTitle();
+    int row = 0;
+    for (QWidget* part :
+         {static_cast<QWidget*>(notices_), static_cast<QWidget*>(filter_), static_cast<QWidget*>(places_),
+          static_cast<QWidget*>(findBar_), static_cast<QWidget*>(progress_), status})
+        layout->addWidget(part, row++, 0);
+    layout->setRowStretch(2, 1);
+    const QWidgetList order{filter_, columnsButton_, exportButton_, helpButton_, table_};
+    for (int place = 1; place < order.size(); ++place)
+        setTabOrder(order[place - 1], order[place]);
+    filter_->setFocus();
+}
+
+void VLK_Widget_Tmi_Table::addKeys()
+{
+    const std::pair<QKeySequence, std::function<void()>> keys[] = {
+        {QKeySequence::Find, [this] { findBar_->open(); }},
+        {QKeySequence(Qt::Key_F3), [this] { findBar_->goOn(1); }},
+        {QKeySequence(QStringLiteral("Shift+F3")), [this] { findBar_->goOn(-1); }},
+        {QKeySequence(Qt::Key_F1), [this] { helpButton_->click(); }},
+    };
+    for (const auto& [sequence, act] : keys)
+        connect(new QShortcut(sequence, this), &QShortcut::activated, this, act);
+    auto* copying = new QShortcut(QKeySequence::Copy, table_, nullptr, nullptr, Qt::WidgetShortcut);
+    connect(copying, &QShortcut::activated, this, &VLK_Widget_Tmi_Table::copy);
+    new AreaKeys(this, [this]() -> std::vector<QWidgetList> {
+        return {{filter_}, {places_}, {findBar_}, {columnsButton_, exportButton_, helpButton_}};
+    });
 }
 
 void VLK_Widget_Tmi_Table::open(const QString& path)
 {
-    fileName_ = QFileInfo(path).fileName();
-    table_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     // A file may be large: two of them need not be in memory.
-    model_->setContents({});
-    vlk::TelemetryContents contents = vlk::readStoredFile(path);
-    vlk::tellDamage(damageNotice_, contents, [this](int record) { showRecord(record); });
-    model_->setContents(std::move(contents));
-    table_->scrollToTop();
-    fitColumns();
+    open(std::make_shared<TelemetryContents>(), QFileInfo(path).fileName());
+    path_ = path;
+    opening_->start(path);
+}
+
+void VLK_Widget_Tmi_Table::open(const std::shared_ptr<TelemetryContents>& contents, const QString& name)
+{
+    opening_->stop();
+    name_ = name;
+    for (const int notice : {kTooMany, kExported})
+        notices_->end(notice);
+    showContents(contents);
     showTitle();
     // Shown before it reads, the window has a frame by then.
-    QTimer::singleShot(0, this, [this] { vlk::fitToScreen(this); });
+    QTimer::singleShot(0, this, [this] { fitToScreen(this); });
 }
 
-// The heading of a row is its place in the file, however the rows are sorted.
-void VLK_Widget_Tmi_Table::showRecord(int record)
+void VLK_Widget_Tmi_Table::showContents(const std::shared_ptr<TelemetryContents>& contents)
 {
-    int row = 0;
-    while (row < model_->rowCount() &&
-           model_->headerData(row, Qt::Vertical, Qt::DisplayRole).toInt() != record)
-        ++row;
-    table_->selectRow(row);
-    table_->scrollTo(model_->index(row, 0), QAbstractItemView::PositionAtCenter);
+    tellDamage(notices_, *contents,
+               {[this](int record) { shown_->setCurrent(record); },
+                [this] { opening_->start(path_, TelemetryReading::salvage); }});
+    shown_->setContents(contents);
 }
 
-void VLK_Widget_Tmi_Table::retranslate()
+void VLK_Widget_Tmi_Table::takeContents()
 {
-    damageNotice_->retranslate();
-    empty_->tell(tr("tmiw_002"));
-    model_->retranslate();
-    fitColumns();
-    showTitle();
+    table_->takeColumns();
+    columns_->takeColumns(shown_->records());
+    table_->scrollToTop();
+    takePassing();
+}
+
+void VLK_Widget_Tmi_Table::takePassing()
+{
+    showCount();
+    if (model_->rowCount() > 0 && !table_->showRecord(shown_->current()))
+        table_->showRecord(model_->recordAt(0));
+}
+
+void VLK_Widget_Tmi_Table::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && progress_->isRunning())
+        Q_EMIT progress_->cancelled();
+    else
+        QDialog::keyPressEvent(event);
 }
 
 void VLK_Widget_Tmi_Table::showTitle()
 {
-    setWindowTitle(fileName_.isEmpty() ? tr("tmiw_031")
-                                       : QStringLiteral("%1 - %2").arg(fileName_, tr("tmiw_031")));
+    setWindowTitle(name_.isEmpty() ? tr("tmiw_031") : QStringLiteral("%1 - %2").arg(name_, tr("tmiw_031")));
 }
 
-// By the heading and some of the rows: the view would ask all of them that it can see, in every column.
-void VLK_Widget_Tmi_Table::fitColumns()
+void VLK_Widget_Tmi_Table::showCount()
 {
-    const QFontMetrics metrics(table_->font());
-    const int margin = 4 * metrics.averageCharWidth();
-    const int rows = model_->rowCount();
-    for (int column = 0; column < model_->columnCount(); ++column) {
-        int width =
-            headingWidth(model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(), metrics);
-        for (int sample = 0; sample < std::min(rows, kSamples); ++sample) {
-            const int row = static_cast<int>(qint64{rows} * sample / kSamples);
-            const QString text = model_->index(row, column).data().toString();
-            width = std::max(width, metrics.horizontalAdvance(text));
-        }
-        // Packets are rare, and the rows that were looked at may hold none.
-        const bool isWide = model_->isPacketData(column);
-        table_->setColumnWidth(column, isWide ? kWidestColumn : std::min(width + margin, kWidestColumn));
+    const QLocale locale;
+    const QString all = locale.toString(shown_->records().size());
+    const bool areAllShown = model_->rowCount() == shown_->records().size();
+    count_->setText(areAllShown ? tr("rec_051").arg(all)
+                                : tr("rec_052").arg(locale.toString(model_->rowCount()), all));
+    exportButton_->setEnabled(!shown_->records().empty());
+    columnsButton_->setEnabled(model_->columnCount() > 0);
+    if (shown_->records().empty())
+        empty_->tell(tr("tmiw_002"));
+    else
+        empty_->tell(tr("rev_127"), tr("rec_054"));
+}
+
+void VLK_Widget_Tmi_Table::showSums()
+{
+    sums_->setText(sumsText(*model_, *table_, *shown_));
+}
+
+void VLK_Widget_Tmi_Table::showMenu(const QPoint& globalPlace)
+{
+    QMenu menu(this);
+    fillRecordsMenu(menu, {model_, table_, columns_, filter_, [this] { copy(); }});
+    if (!menu.isEmpty())
+        menu.exec(globalPlace);
+}
+
+void VLK_Widget_Tmi_Table::copy()
+{
+    if (table_->selectedRecords().size() > kMostCopied) {
+        notices_->tell(kTooMany, [] {
+            return Notice{Mark::advice, tr("rec_055").arg(QLocale().toString(qulonglong(kMostCopied))), {}};
+        });
+        return;
     }
+    notices_->end(kTooMany);
+    QApplication::clipboard()->setText(selectionText(*model_, *table_));
+}
+
+void VLK_Widget_Tmi_Table::exportRecords()
+{
+    const std::vector<int> selected = table_->selectedRecords();
+    const auto all = shown_->records().size();
+    ExportDialog dialog(choice_, {model_->rowCount(), static_cast<int>(selected.size()), all}, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    choice_ = dialog.choice();
+    const QString path = ExportDialog::askPath(choice_.form, QFileInfo(name_).completeBaseName(), this);
+    if (path.isEmpty())
+        return;
+    std::vector<int> records(all);
+    if (choice_.what == ExportChoice::whole)
+        std::iota(records.begin(), records.end(), 0);
+    else
+        records = choice_.what == ExportChoice::selected ? selected : model_->records();
+    ExportOptions options;
+    options.origin = shown_->contents()->origin;
+    if (options.origin.model.isEmpty() && vlkDevice != nullptr) {
+        options.origin.model = vlkDevice->model();
+        options.origin.vendor = vlkDevice->vendor();
+    }
+    options.title = QFileInfo(name_).completeBaseName();
+    options.utcOffset = shown_->records().utcOffset();
+    options.decimalComma = choice_.decimalComma;
+    options.eventText = &requests::eventText;
+    if (choice_.onlyShownColumns && rowOf(choice_.form).hasDecimalSign) {
+        for (const int column : table_->shownColumns()) {
+            if (const CsvColumn* const known = model_->columnAt(column))
+                options.columns.emplace_back(known->item);
+        }
+    }
+    exported_ = static_cast<int>(records.size());
+    export_->start(path, shown_->contents(), std::move(records), choice_.form, options);
+}
+
+void VLK_Widget_Tmi_Table::connectExport()
+{
+    const auto tell = [this](const std::function<Notice()>& notice) { notices_->tell(kExported, notice); };
+    connect(export_, &RecordsExport::written, this, [this, tell](const QString& path) {
+        tell([path, count = exported_] {
+            return Notice{Mark::right,
+                          tr("rec_096").arg(QLocale().toString(count), QDir::toNativeSeparators(path)),
+                          {}};
+        });
+    });
+    connect(export_, &RecordsExport::failed, this, [this, tell](const QString& path, const QString& reason) {
+        tell([this, path, reason] {
+            return Notice{Mark::invalid,
+                          tr("tmiw_187").arg(QDir::toNativeSeparators(path), fileErrorText(reason)),
+                          {{tr("rec_007"), [this] { exportRecords(); }}}};
+        });
+    });
+    connect(export_, &RecordsExport::cancelled, this, [tell] {
+        tell([] { return Notice{Mark::advice, tr("rec_097"), {}}; });
+    });
+}
+
+void VLK_Widget_Tmi_Table::retranslate()
+{
+    setLocale(QLocale());
+    choice_.decimalComma = QLocale().decimalPoint() == QLatin1Char(',');
+    columnsButton_->setText(tr("rec_006"));
+    exportButton_->setText(tr("rec_007"));
+    helpButton_->setText(tr("wrd_027"));
+    table_->setAccessibleName(tr("rec_008"));
+    notices_->retranslate();
+    model_->retranslate();
+    table_->fitWidths();
+    filter_->retranslate();
+    findBar_->retranslate();
+    progress_->retranslate();
+    places_->retranslate();
+    showCount();
+    showSums();
+    showTitle();
 }

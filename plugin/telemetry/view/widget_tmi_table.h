@@ -1,14 +1,27 @@
 #pragma once
 
-// Stored telemetry as a table: a row a record, a column a value, sorted by a click on a heading.
+// The window of records: stored telemetry, or a period that was just read, as a table whose records are
+// filtered, found, copied and exported, and beside it the other views of the same records.
+
+#include "telemetry/view/export_dialog.h"
+#include "telemetry/view/shown_records.h"
 
 #include <QDialog>
 
-class QTableView;
+class QLabel;
+class QPushButton;
 namespace vlk {
+class ColumnChoice;
 class EmptyNote;
+class FileOpening;
+class FilterField;
+class FindBar;
 class NoticeBar;
+class RecordsExport;
 class RecordsModel;
+class RecordsPlaces;
+class RecordsTable;
+class WorkProgress;
 } // namespace vlk
 
 class VLK_Widget_Tmi_Table : public QDialog
@@ -21,16 +34,51 @@ public:
     using QDialog::open;
     // Shows an XML or binary file in place of what was on show; an empty table if it holds no record.
     void open(const QString& path);
+    // The same with records that are there already, under that name.
+    void open(const std::shared_ptr<vlk::TelemetryContents>& contents, const QString& name);
     void retranslate();
 
-private:
-    void showTitle();
-    void showRecord(int record);
-    void fitColumns();
+Q_SIGNALS:
+    // A record is to be looked at closely; the contents are shared.
+    void recordOpened(const std::shared_ptr<const vlk::TelemetryContents>& contents, const QString& name,
+                      int record);
 
-    vlk::NoticeBar* damageNotice_;
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void layOut();
+    void addKeys();
+    void showContents(const std::shared_ptr<vlk::TelemetryContents>& contents);
+    void takeContents();
+    void takePassing();
+    void showTitle();
+    void showCount();
+    void showSums();
+    void showMenu(const QPoint& globalPlace);
+    void copy();
+    void connectExport();
+    void exportRecords();
+
+    vlk::ShownRecords* shown_;
     vlk::RecordsModel* model_;
-    QTableView* table_;
-    vlk::EmptyNote* empty_ = nullptr;
-    QString fileName_;
+    vlk::RecordsTable* table_;
+    vlk::ColumnChoice* columns_;
+    vlk::FilterField* filter_;
+    vlk::FindBar* findBar_;
+    vlk::NoticeBar* notices_;
+    vlk::RecordsPlaces* places_;
+    vlk::WorkProgress* progress_;
+    vlk::FileOpening* opening_;
+    vlk::RecordsExport* export_;
+    vlk::EmptyNote* empty_;
+    QPushButton* columnsButton_;
+    QPushButton* exportButton_;
+    QPushButton* helpButton_;
+    QLabel* count_;
+    QLabel* sums_;
+    QString name_;
+    QString path_; // of the file that was opened last
+    vlk::ExportChoice choice_;
+    int exported_ = 0; // records, by the latest export
 };

@@ -15,6 +15,7 @@
 #include "windows/fit_to_screen.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 
@@ -23,7 +24,7 @@ using namespace vlk;
 namespace {
 
 constexpr int kFirstProductionMode = 1;
-enum NoticeNumber { kSavedInPart, kNoServer };
+enum NoticeNumber { kSavedInPart, kNoServer, kSaved };
 
 std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_View> setUpViewUi(QDialog* window)
 {
@@ -58,6 +59,7 @@ VLK_Widget_Tmi_View::VLK_Widget_Tmi_View(QWidget* parent)
     keepOnScreen(this);
     connect(eventPanel_, &vlk::EventPanel::signal_OperatingMode, this, &VLK_Widget_Tmi_View::setGuardButtons);
     connect(&save_, &vlk::SaveSequence::runningChanged, this, &VLK_Widget_Tmi_View::showSaving);
+    connect(&save_, &vlk::SaveSequence::saved, this, &VLK_Widget_Tmi_View::showSaved);
     connect(&save_, &vlk::SaveSequence::savedInPart, this, &VLK_Widget_Tmi_View::showPart);
     connect(&save_, &vlk::SaveSequence::targetChosen, &times_, &vlk::ZonedTimes::remember);
     connect(&save_, &vlk::SaveSequence::givenUp, &times_, &vlk::ZonedTimes::giveUp);
@@ -136,6 +138,7 @@ void VLK_Widget_Tmi_View::showSaving(bool running)
     setManualBlocked(running ? "tmiw_176" : nullptr);
     if (running) {
         notices_->end(kSavedInPart);
+        notices_->end(kSaved);
         // A key that is pressed once more must not get to the control that comes next.
         focusBeforeSave_ = focused != nullptr && !focused->isEnabled() ? focused : nullptr;
         if (focusBeforeSave_)
@@ -143,6 +146,14 @@ void VLK_Widget_Tmi_View::showSaving(bool running)
     } else if (focusBeforeSave_ && (focused == this || focused == ui_->pushButton_Save_Cancel)) {
         focusBeforeSave_->setFocus();
     }
+}
+
+void VLK_Widget_Tmi_View::showSaved(const std::shared_ptr<TelemetryContents>& period, const QString& path)
+{
+    showPeriod_ = [this, period, name = QFileInfo(path).fileName()] { Q_EMIT recordsWanted(period, name); };
+    notices_->tell(kSaved, [count = period->records.size(), show = showPeriod_] {
+        return Notice{Mark::right, tr("rec_081").arg(QLocale().toString(count)), {{tr("rec_080"), show}}};
+    });
 }
 
 void VLK_Widget_Tmi_View::showPart(const vlk::PartOfPeriod& part)
@@ -155,7 +166,10 @@ void VLK_Widget_Tmi_View::showPart(const vlk::PartOfPeriod& part)
                      QDir::toNativeSeparators(part.path));
         return isDetached ? tr("tmiw_266") + QLatin1Char(' ') + held : held;
     };
-    notices_->tell(kSavedInPart, [text] { return Notice{Mark::advice, text(), {}}; });
+    notices_->end(kSaved);
+    notices_->tell(kSavedInPart, [text, show = showPeriod_] {
+        return Notice{Mark::advice, text(), {{tr("rec_080"), show}}};
+    });
 }
 
 void VLK_Widget_Tmi_View::tellNoServer(bool isNone)

@@ -20,6 +20,7 @@
 #include <QDialog>
 #include <QPointer>
 
+#include <functional>
 #include <memory>
 
 namespace vlk {
@@ -65,6 +66,10 @@ public:
     void takeTachographAnswer(const QByteArray& answer);
     void takeTachographFetched(bool done);
 
+Q_SIGNALS:
+    // The period that was just saved is to be looked at.
+    void recordsWanted(const std::shared_ptr<vlk::TelemetryContents>& records, const QString& name);
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     // Escape is the Cancel of a save that runs, before it closes the window.
@@ -107,6 +112,7 @@ private:
     // tool tips say why: the text of `reasonKey`, null when the controls are free.
     void setManualBlocked(const char* reasonKey);
     void showSaving(bool running);
+    void showSaved(const std::shared_ptr<vlk::TelemetryContents>& period, const QString& path);
     void showPart(const vlk::PartOfPeriod& part);
     void tellNoServer(bool isNone);
     void stopRequests();
@@ -132,5 +138,6 @@ private:
     quint32 highestNumber_ = 0;
     quint32 lastWalk_ = 0;
     const char* blockedBy_ = nullptr;
+    std::function<void()> showPeriod_;  // the one that was saved last
     QPointer<QWidget> focusBeforeSave_; // null where the save closed no control that had it
 };

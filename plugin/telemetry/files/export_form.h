@@ -1,0 +1,113 @@
+#pragma once
+
+// The forms in which records are handed over, and how records go out in one of them.
+//
+//     ExportAhead ahead;
+//     ahead.add(store, records);                  only where the form looks ahead
+//     auto writer = exportWriter(form, ahead, options);
+//     writer->begin(out);
+//     writer->add(out, store, records);           as often as there are more
+//     writer->finish(out);
+
+#include "telemetry/files/encoded_words.h"
+#include "telemetry/files/export_writer.h"
+#include "telemetry/files/record_filter.h"
+#include "telemetry/files/telemetry_contents.h"
+#include "telemetry/files/telemetry_csv_writer.h"
+
+namespace vlk {
+
+enum class ExportForm : std::uint8_t { csv, csvText, tsv, ndjson, gpx, kml, geojson, xml, tmi };
+
+struct ExportFormRow
+{
+    ExportForm form;
+    const char* name; // on the command line
+    const char* key;  // of its text
+    const char* suffix;
+    bool looksAhead;     // needs to know of all records before the first is written
+    bool isIndependent;  // no record depends on those before it
+    bool hasDecimalSign; // of which there are two
+};
+
+// In the order in which they are offered.
+inline constexpr ExportFormRow kExportForms[] = {
+    {ExportForm::csv, "csv", "rec_120", "csv", true, true, true},
+    {ExportForm::csvText, "csv-text", "rec_121", "csv", true, true, false},
+    {ExportForm::tsv, "tsv", "rec_122", "tsv", true, true, true},
+    {ExportForm::gpx, "gpx", "rec_123", "gpx", false, false, false},
+    {ExportForm::kml, "kml", "rec_124", "kml", false, false, false},
+    {ExportForm::geojson, "geojson", "rec_125", "geojson", false, false, false},
+    {ExportForm::ndjson, "ndjson", "rec_126", "ndjson", false, true, false},
+    {ExportForm::xml, "xml", "rec_127", "xml", true, true, false},
+    {ExportForm::tmi, "tmi", "rec_128", "tmi", true, true, false},
+};
+
+const ExportFormRow& rowOf(ExportForm form);
+
+// What is to be written, as far as a form has to know it in front.
+struct ExportAhead
+{
+    qint64 count = 0;
+    quint32 firstTime = 0;
+    quint32 lastTime = 0;
+    FieldMask fields; // that any record has
+    bool hasPackets = false;
+    quint32 crc = 0; // of the records in the binary form
+
+    void add(const RecordStore& store, std::span<const int> records, ExportForm form);
+};
+
+struct ExportOptions
+{
+    TelemetryOrigin origin;
+    QString title;                     // of a track
+    std::optional<qint32> utcOffset{}; // of the zone of times; none: that of this machine at each moment
+    bool raw = false;                  // values as the XML form has them
+    bool decimalComma = false;
+    bool archive = false; // all columns there are, with the tracker in front
+    // Those asked for, in this order; none: all that any record has. For the forms that have columns.
+    std::vector<FilterColumn> columns{};
+    EventText eventText{};
+    TextEncoder encode = [](const QString& text) { return text.toLocal8Bit(); }; // of texts in CSV
+};
+
+std::unique_ptr<ExportWriter> exportWriter(ExportForm form, const ExportAhead& ahead,
+                                           const ExportOptions& options);
+
+// Writes records of a store to a device in portions as short as its user wants.
+class RecordExport
+{
+public:
+    // What is given has to stay. Without `records` all of the store go out.
+    RecordExport(QIODevice& device, const RecordStore& store, std::vector<int> records, ExportForm form,
+                 ExportOptions options);
+    RecordExport(QIODevice& device, const RecordStore& store, ExportForm form, ExportOptions options);
+
+    // True when all is written, or nothing more can be.
+    bool writeFor(int milliseconds);
+    // How much of the work is done, from 0 to 1.
+    double share() const;
+    // Whether all that was to be written is.
+    bool succeeded() const { return isDone_ && !hasFailed_; }
+
+private:
+    bool step();
+
+    const RecordStore& store_;
+    std::vector<int> records_;
+    ExportForm form_;
+    ExportOptions options_;
+    OutputBuffer out_;
+    ExportAhead ahead_;
+    std::unique_ptr<ExportWriter> writer_; // once all is known that lies ahead
+    std::size_t at_ = 0;
+    bool isDone_ = false;
+    bool hasFailed_ = false;
+};
+
+// At once. False if a write failed.
+bool exportRecords(QIODevice& device, const RecordStore& store, ExportForm form,
+                   const ExportOptions& options);
+
+} // namespace vlk

@@ -1,0 +1,186 @@
+#include "telemetry/files/filter_names.h"
+
+#include "telemetry/files/csv_columns.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace vlk {
+
+namespace {
+
+QString latin1(std::string_view text)
+{
+    return QString::fromLatin1(text.data(), static_cast<int>(text.size()));
+}
+
+bool isInWord(QChar sign)
+{
+    return sign.isLetterOrNumber() || sign == QLatin1Char('_');
+}
+
+// Calls visit(key, end) for each beginning of the text behind the position that ends where a word does; the
+// key has single blanks and at most `longest` characters.
+template <class Visit>
+void forEachBeginning(const QString& folded, int position, int longest, Visit visit)
+{
+    QString key;
+    for (int at = position; at < folded.size() && key.size() < longest; ++at) {
+        const bool isBlank = folded[at] == QLatin1Char(' ');
+        if (isBlank && (key.isEmpty() || key.endsWith(QLatin1Char(' '))))
+            continue;
+        key += folded[at];
+        const bool isInside = at + 1 < folded.size() && isInWord(folded[at]) && isInWord(folded[at + 1]);
+        if (!isBlank && !isInside)
+            visit(key, at + 1);
+    }
+}
+
+QString keyOf(const QString& text)
+{
+    return foldedForFilter(text).simplified();
+}
+
+// The word that a code of the item shows; null where it shows none.
+const Word* wordOf(const Rule& rule, quint32 code)
+{
+    const auto covers = [code](const NamedValue& row) { return code >= row.first && code <= row.last; };
+    if (const auto row = std::ranges::find_if(rule.names, covers); row != rule.names.end())
+        return &row->word;
+    return rule.other == Other::word ? &rule.set : nullptr;
+}
+
+} // namespace
+
+QString foldedForFilter(const QString& text)
+{
+    QString folded = text;
+    for (QChar& sign : folded) {
+        sign = sign.toLower();
+        if (sign == QChar(0x451))
+            sign = QChar(0x435);
+        else if (sign.isSpace())
+            sign = QLatin1Char(' ');
+    }
+    return folded;
+}
+
+FilterNames::FilterNames()
+{
+    for (int index = 0; index < kItemCount; ++index) {
+        if (kItems[index].rule().shape != Shape::special && index != item("Time.local"))
+            add(latin1(kItems[index].name), static_cast<ItemIndex>(index));
+    }
+    // Those that an item of their name shows are there already.
+    for (int index = 0; index < kElementCount; ++index)
+        add(latin1(kElements[index].name), static_cast<ElementIndex>(index));
+}
+
+void FilterNames::add(const QString& name, const FilterColumn& column)
+{
+    const QString key = keyOf(name);
+    if (key.isEmpty() || columns_.contains(key))
+        return;
+    columns_.insert(key, column);
+    names_.append(name.simplified());
+    longest_ = std::max(longest_, key.size());
+}
+
+void FilterNames::addWord(const QString& word, const FilterColumn& column, CodeRange codes)
+{
+    const QString key = keyOf(word);
+    if (key.isEmpty())
+        return;
+    Word& entry = words_[column][key];
+    if (entry.codes.empty())
+        entry.word = word.simplified();
+    if (std::ranges::find(entry.codes, codes) == entry.codes.end())
+        entry.codes.push_back(codes);
+    longest_ = std::max(longest_, key.size());
+}
+
+void FilterNames::addTexts()
+{
+    for (const CsvColumn& column : csvColumns()) {
+        const ItemIndex shown = column.item == item("Time.local") ? item("Time") : column.item;
+        add(headingText(column), shown);
+        addWordsOf(shown);
+    }
+}
+
+void FilterNames::addWordsOf(ItemIndex item)
+{
+    const Rule& rule = kItems[item].rule();
+    if (rule.shape == Shape::twoState) {
+        addWord(rule.set.text(), item, {1, 1});
+        addWord(rule.clear.text(), item, {0, 0});
+    }
+    if (rule.shape != Shape::enumeration)
+        return;
+    // Rows name codes of one byte; whatever lies above is shown like the last of them that has no row.
+    const int bits = rule.bits.count != 0 ? rule.bits.count : 8 * kElements[kItems[item].element].width;
+    const quint32 last = bits < 9 ? (1U << bits) - 1 : 256;
+    const double highest = bits < 9 ? last : std::numeric_limits<double>::infinity();
+    for (quint32 first = 0; first <= last;) {
+        const vlk::Word* const word = wordOf(rule, first);
+        quint32 next = first + 1;
+        while (next <= last && wordOf(rule, next) == word)
+            ++next;
+        if (word != nullptr)
+            addWord(word->text(), item, {static_cast<double>(first), next > last ? highest : next - 1});
+        first = next;
+    }
+}
+
+std::optional<FilterColumn> FilterNames::columnAt(const QString& folded, int position, int* end) const
+{
+    std::optional<FilterColumn> found;
+    forEachBeginning(folded, position, longest_, [&](const QString& key, int behind) {
+        if (const auto place = columns_.find(key); place != columns_.end()) {
+            found = *place;
+            *end = behind;
+        }
+    });
+    return found;
+}
+
+std::optional<FilterColumn> FilterNames::column(const QString& name) const
+{
+    const auto place = columns_.find(keyOf(name));
+    return place == columns_.end() ? std::nullopt : std::optional(*place);
+}
+
+std::vector<CodeRange> FilterNames::codesOf(const FilterColumn& column, const QString& word) const
+{
+    const auto words = words_.find(column);
+    return words == words_.end() ? std::vector<CodeRange>() : words->second.value(keyOf(word)).codes;
+}
+
+std::vector<CodeRange> FilterNames::codesAt(const FilterColumn& column, const QString& folded, int position,
+                                            int* end) const
+{
+    std::vector<CodeRange> codes;
+    const auto words = words_.find(column);
+    if (words == words_.end())
+        return codes;
+    forEachBeginning(folded, position, longest_, [&](const QString& key, int behind) {
+        if (const auto place = words->second.find(key); place != words->second.end()) {
+            codes = place->codes;
+            *end = behind;
+        }
+    });
+    return codes;
+}
+
+QStringList FilterNames::words(const FilterColumn& column) const
+{
+    QStringList all;
+    if (const auto words = words_.find(column); words != words_.end()) {
+        for (const Word& word : words->second)
+            all << word.word;
+    }
+    all.sort(Qt::CaseInsensitive);
+    return all;
+}
+
+} // namespace vlk

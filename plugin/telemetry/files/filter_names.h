@@ -1,0 +1,76 @@
+#pragma once
+
+// What may stand in a filter: names of columns, and words of their values with the codes behind them. Case
+// and "ё" do not count, nor how many blanks stand between words.
+//
+//     FilterNames names;          elements and items by their own names
+//     names.addTexts();           headings and words of the language on show
+//     {
+//         const TextsFrom other(source);
+//         names.addTexts();       and of another one
+//     }
+//     names.addWord("Стоянка", item("Code"), {35, 35});
+
+#include "telemetry/files/record_filter.h"
+
+#include <QHash>
+#include <QStringList>
+
+#include <map>
+
+namespace vlk {
+
+// Lower case, "ё" as "е", every blank a plain one; as many characters as before.
+QString foldedForFilter(const QString& text);
+
+// Codes from `first` to `last`.
+struct CodeRange
+{
+    double first;
+    double last;
+
+    bool operator==(const CodeRange&) const = default;
+};
+
+class FilterNames
+{
+public:
+    FilterNames();
+
+    // Of two columns with one name the first keeps it.
+    void add(const QString& name, const FilterColumn& column);
+    void addWord(const QString& word, const FilterColumn& column, CodeRange codes);
+    void addTexts();
+
+    // The column whose name begins at the position of a folded text and ends where a word does; of several
+    // the one with the longest name. `end`: behind the name.
+    std::optional<FilterColumn> columnAt(const QString& folded, int position, int* end) const;
+    std::optional<FilterColumn> column(const QString& name) const;
+
+    // All codes that the word means in the column; none where it means nothing.
+    std::vector<CodeRange> codesOf(const FilterColumn& column, const QString& word) const;
+    std::vector<CodeRange> codesAt(const FilterColumn& column, const QString& folded, int position,
+                                   int* end) const;
+    bool hasWords(const FilterColumn& column) const { return words_.contains(column); }
+
+    // As they were added.
+    const QStringList& names() const { return names_; }
+    QStringList words(const FilterColumn& column) const;
+
+private:
+    struct Word
+    {
+        QString word;
+        std::vector<CodeRange> codes;
+    };
+    using Words = QHash<QString, Word>; // by what is folded
+
+    void addWordsOf(ItemIndex item);
+
+    QStringList names_;
+    QHash<QString, FilterColumn> columns_;
+    std::map<FilterColumn, Words> words_;
+    int longest_ = 0; // of names and words
+};
+
+} // namespace vlk

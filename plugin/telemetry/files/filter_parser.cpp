@@ -1,0 +1,522 @@
+#include "telemetry/files/filter_parser.h"
+
+#include "base/translated.h"
+
+#include <QDateTime>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+
+namespace vlk {
+
+namespace {
+
+constexpr int kDeepest = 64;
+
+enum class Expected : std::uint8_t {
+    name,
+    sign,
+    number,
+    word,
+    moment,
+    joint,
+    closing,
+    quote,
+    flatter,
+    equality
+};
+
+// By Expected.
+constexpr const char* kExpected[] = {"rec_100", "rec_101", "rec_102", "rec_103", "rec_104",
+                                     "rec_105", "rec_106", "rec_107", "rec_108", "rec_109"};
+
+struct SignRow
+{
+    const char* text;
+    Comparison comparison;
+};
+
+// Longer ones first.
+constexpr SignRow kSigns[] = {{"!=", Comparison::notEqual},
+                              {"<>", Comparison::notEqual},
+                              {"<=", Comparison::lessOrEqual},
+                              {">=", Comparison::greaterOrEqual},
+                              {"==", Comparison::equal},
+                              {"=", Comparison::equal},
+                              {"<", Comparison::less},
+                              {">", Comparison::greater},
+                              {"\u2264", Comparison::lessOrEqual},
+                              {"\u2265", Comparison::greaterOrEqual},
+                              {"\u2260", Comparison::notEqual}};
+
+struct QuoteRow
+{
+    ushort opening;
+    ushort closing;
+};
+constexpr QuoteRow kQuotes[] = {{'"', '"'}, {'\'', '\''}, {0xAB, 0xBB}, {0x201C, 0x201D}, {0x201E, 0x201C}};
+
+const QuoteRow* quoteAt(const QString& text, int position)
+{
+    if (position >= text.size())
+        return nullptr;
+    const auto* row = std::ranges::find(kQuotes, text[position].unicode(), &QuoteRow::opening);
+    return row == std::end(kQuotes) ? nullptr : row;
+}
+
+const QStringList& wordsOf(FilterNode::Kind kind)
+{
+    static const QStringList all{QStringLiteral("and"), QStringLiteral("и")};
+    static const QStringList any{QStringLiteral("or"), QStringLiteral("или")};
+    static const QStringList negation{QStringLiteral("not"), QStringLiteral("не")};
+    return kind == FilterNode::all ? all : kind == FilterNode::any ? any : negation;
+}
+
+// Seconds since 1970, from the first to the last that a moment means.
+struct Moment
+{
+    qint64 first;
+    qint64 last;
+};
+
+FilterNode condition(const FilterColumn& column, Comparison comparison, double number)
+{
+    return {.column = column, .comparison = comparison, .number = number};
+}
+
+// Parts of the same kind are parts of the whole.
+FilterNode joined(FilterNode::Kind kind, std::vector<FilterNode> parts)
+{
+    FilterNode node{.kind = kind};
+    for (FilterNode& part : parts) {
+        if (part.kind == kind)
+            std::ranges::move(part.parts, std::back_inserter(node.parts));
+        else
+            node.parts.push_back(std::move(part));
+    }
+    if (node.parts.size() > 1)
+        return node;
+    FilterNode only = std::move(node.parts.front());
+    return only;
+}
+
+FilterNode inside(const FilterColumn& column, const CodeRange& codes)
+{
+    if (codes.first == codes.last)
+        return condition(column, Comparison::equal, codes.first);
+    FilterNode from = condition(column, Comparison::greaterOrEqual, codes.first);
+    if (codes.last == std::numeric_limits<double>::infinity())
+        return from;
+    return joined(FilterNode::all, {from, condition(column, Comparison::lessOrEqual, codes.last)});
+}
+
+FilterNode outside(const FilterColumn& column, const CodeRange& codes)
+{
+    if (codes.first == codes.last)
+        return condition(column, Comparison::notEqual, codes.first);
+    FilterNode below = condition(column, Comparison::less, codes.first);
+    if (codes.last == std::numeric_limits<double>::infinity())
+        return below;
+    return joined(FilterNode::any, {below, condition(column, Comparison::greater, codes.last)});
+}
+
+FilterNode compared(const FilterColumn& column, Comparison comparison, const Moment& moment)
+{
+    const CodeRange range{static_cast<double>(moment.first), static_cast<double>(moment.last)};
+    switch (comparison) {
+    case Comparison::equal:
+        return inside(column, range);
+    case Comparison::notEqual:
+        return outside(column, range);
+    case Comparison::less:
+    case Comparison::greaterOrEqual:
+        return condition(column, comparison, range.first);
+    case Comparison::greater:
+    case Comparison::lessOrEqual:
+        break;
+    }
+    return condition(column, comparison, range.last);
+}
+
+class Parser
+{
+public:
+    Parser(const QString& text, const FilterNames& names, std::optional<qint32> utcOffset)
+        : text_(text), folded_(foldedForFilter(text)), names_(names), utcOffset_(utcOffset)
+    {
+    }
+
+    std::optional<Filter> parse()
+    {
+        passBlanks();
+        if (position_ == text_.size())
+            return Filter();
+        std::optional<FilterNode> root = alternatives();
+        if (root && position_ < text_.size())
+            root = fault(Expected::joint);
+        return root ? std::optional(Filter{std::move(root)}) : std::nullopt;
+    }
+
+    // Of the fault.
+    int position() const { return faultAt_; }
+    Expected expected() const { return expected_; }
+    // The last name that was read: its column, where it begins and where it ends.
+    FilterColumn column() const { return column_; }
+    int nameBegin() const { return nameBegin_; }
+    int nameEnd() const { return nameEnd_; }
+
+private:
+    std::nullopt_t fault(Expected expected) { return fault(expected, position_); }
+    std::nullopt_t fault(Expected expected, int position)
+    {
+        faultAt_ = position;
+        expected_ = expected;
+        return std::nullopt;
+    }
+
+    void passBlanks()
+    {
+        while (position_ < text_.size() && folded_[position_] == QLatin1Char(' '))
+            ++position_;
+    }
+
+    // Behind one of the words, in whole, if one stands here; else where it began.
+    int behindWord(FilterNode::Kind kind) const
+    {
+        for (const QString& word : wordsOf(kind)) {
+            const int end = position_ + word.size();
+            const bool isWhole = end >= folded_.size() ||
+                                 !(folded_[end].isLetterOrNumber() || folded_[end] == QLatin1Char('_'));
+            if (isWhole && folded_.midRef(position_, word.size()) == word)
+                return end;
+        }
+        return position_;
+    }
+
+    bool takeWord(FilterNode::Kind kind)
+    {
+        const int end = behindWord(kind);
+        if (end == position_)
+            return false;
+        position_ = end;
+        passBlanks();
+        return true;
+    }
+
+    std::optional<FilterNode> alternatives()
+    {
+        return chain(FilterNode::any,
+                     [this] { return chain(FilterNode::all, [this] { return primary(); }); });
+    }
+
+    template <class Part>
+    std::optional<FilterNode> chain(FilterNode::Kind kind, Part next)
+    {
+        std::vector<FilterNode> parts;
+        do {
+            std::optional<FilterNode> part = next();
+            if (!part)
+                return std::nullopt;
+            parts.push_back(std::move(*part));
+        } while (takeWord(kind));
+        return joined(kind, std::move(parts));
+    }
+
+    std::optional<FilterNode> primary()
+    {
+        if (position_ < text_.size() && text_[position_] == QLatin1Char('('))
+            return deeper([this] { return bracket(); });
+        int end = position_;
+        const std::optional<FilterColumn> column = nameHere(&end);
+        if (const int behind = behindWord(FilterNode::negation); behind > end) {
+            position_ = behind;
+            passBlanks();
+            return deeper([this]() -> std::optional<FilterNode> {
+                std::optional<FilterNode> part = primary();
+                if (!part)
+                    return std::nullopt;
+                return FilterNode{.kind = FilterNode::negation, .parts = {std::move(*part)}};
+            });
+        }
+        if (!column)
+            return fault(Expected::name);
+        column_ = *column;
+        nameBegin_ = position_;
+        nameEnd_ = end;
+        position_ = end;
+        passBlanks();
+        return comparison();
+    }
+
+    template <class Parse>
+    std::optional<FilterNode> deeper(Parse parse)
+    {
+        if (depth_ == kDeepest)
+            return fault(Expected::flatter);
+        ++depth_;
+        std::optional<FilterNode> node = parse();
+        --depth_;
+        return node;
+    }
+
+    std::optional<FilterNode> bracket()
+    {
+        ++position_;
+        passBlanks();
+        std::optional<FilterNode> node = alternatives();
+        if (!node)
+            return std::nullopt;
+        if (position_ == text_.size() || text_[position_] != QLatin1Char(')'))
+            return fault(position_ == text_.size() ? Expected::closing : Expected::joint);
+        ++position_;
+        passBlanks();
+        return node;
+    }
+
+    std::optional<FilterColumn> nameHere(int* end) const
+    {
+        if (!quoteAt(text_, position_))
+            return names_.columnAt(folded_, position_, end);
+        const std::optional<QString> name = quotedHere(end);
+        return name ? names_.column(*name) : std::nullopt;
+    }
+
+    // What stands in quotes here; none where they are not closed. `end`: behind them.
+    std::optional<QString> quotedHere(int* end) const
+    {
+        const QuoteRow* const row = quoteAt(text_, position_);
+        const int closing = text_.indexOf(QChar(row->closing), position_ + 1);
+        if (closing < 0)
+            return std::nullopt;
+        *end = closing + 1;
+        return text_.mid(position_ + 1, closing - position_ - 1);
+    }
+
+    std::optional<FilterNode> comparison()
+    {
+        for (const SignRow& row : kSigns) {
+            const QString sign = QString::fromUtf8(row.text);
+            if (text_.midRef(position_, sign.size()) != sign)
+                continue;
+            position_ += sign.size();
+            passBlanks();
+            std::optional<FilterNode> node = value(row.comparison);
+            passBlanks();
+            return node;
+        }
+        return fault(Expected::sign);
+    }
+
+    Expected expectedValue() const
+    {
+        if (holdsTimes(column_))
+            return Expected::moment;
+        return names_.hasWords(column_) ? Expected::word : Expected::number;
+    }
+
+    std::optional<FilterNode> value(Comparison comparison)
+    {
+        const int begin = position_;
+        int end = begin;
+        if (quoteAt(text_, begin)) {
+            const std::optional<QString> quoted = quotedHere(&end);
+            if (!quoted)
+                return fault(names_.hasWords(column_) ? Expected::word : Expected::quote, begin);
+            if (const std::vector<CodeRange> codes = names_.codesOf(column_, *quoted); !codes.empty())
+                return wordNode(comparison, codes, begin, end);
+            int used = 0;
+            std::optional<FilterNode> node = plainValue(comparison, quoted->trimmed(), 0, &used);
+            if (!node || used != quoted->trimmed().size())
+                return fault(expectedValue(), begin);
+            position_ = end;
+            return node;
+        }
+        if (std::optional<FilterNode> node = plainValue(comparison, text_, begin, &end)) {
+            position_ = end;
+            return node;
+        }
+        if (const std::vector<CodeRange> codes = names_.codesAt(column_, folded_, begin, &end);
+            !codes.empty())
+            return wordNode(comparison, codes, begin, end);
+        return fault(expectedValue(), begin);
+    }
+
+    std::optional<FilterNode> wordNode(Comparison comparison, const std::vector<CodeRange>& codes, int begin,
+                                       int end)
+    {
+        const bool isEqual = comparison == Comparison::equal;
+        if (!isEqual && comparison != Comparison::notEqual)
+            return fault(Expected::equality, begin);
+        std::vector<FilterNode> parts;
+        for (const CodeRange& range : codes)
+            parts.push_back(isEqual ? inside(column_, range) : outside(column_, range));
+        position_ = end;
+        return joined(isEqual ? FilterNode::any : FilterNode::all, std::move(parts));
+    }
+
+    std::optional<FilterNode> plainValue(Comparison comparison, const QString& text, int position,
+                                         int* end) const
+    {
+        if (holdsTimes(column_)) {
+            if (const std::optional<Moment> moment = momentAt(text, position, end))
+                return compared(column_, comparison, *moment);
+        }
+        const std::optional<double> number = numberAt(text, position, end);
+        return number ? std::optional(condition(column_, comparison, *number)) : std::nullopt;
+    }
+
+    static std::optional<double> numberAt(const QString& text, int position, int* end)
+    {
+        static const QRegularExpression form(
+            QStringLiteral("[+-]?\\d+(?:[.,]\\d+)?(?:[eE][+-]?\\d+)?(?![\\w.,:-])"),
+            QRegularExpression::UseUnicodePropertiesOption);
+        const QRegularExpressionMatch match = form.match(text, position, QRegularExpression::NormalMatch,
+                                                         QRegularExpression::AnchoredMatchOption);
+        if (!match.hasMatch())
+            return std::nullopt;
+        QByteArray digits = match.captured().toLatin1().replace(',', '.');
+        if (digits.startsWith('+'))
+            digits.remove(0, 1);
+        double number = 0;
+        const auto [last, error] = std::from_chars(digits.constBegin(), digits.constEnd(), number);
+        if (error != std::errc() || last != digits.constEnd())
+            return std::nullopt;
+        *end = match.capturedEnd();
+        return number;
+    }
+
+    std::optional<Moment> momentAt(const QString& text, int position, int* end) const
+    {
+        static const QRegularExpression form(
+            QStringLiteral("(?:(?<day>[0-9]{1,2})\\.(?<month>[0-9]{1,2})\\.(?<year>[0-9]{4})"
+                           "|(?<year2>[0-9]{4})-(?<month2>[0-9]{2})-(?<day2>[0-9]{2}))"
+                           "(?:(?: +|T)(?<hour>[0-9]{1,2}):(?<minute>[0-9]{2})(?::(?<second>[0-9]{2}))?"
+                           "(?<zone>Z|[+-][0-9]{2}:?[0-9]{2})?)?(?![0-9A-Za-z:])"));
+        const QRegularExpressionMatch match = form.match(text, position, QRegularExpression::NormalMatch,
+                                                         QRegularExpression::AnchoredMatchOption);
+        const auto part = [&](const char* name) { return match.captured(QLatin1String(name)); };
+        const auto either = [&](const char* name, const char* other) {
+            return part(part(name).isEmpty() ? other : name).toInt();
+        };
+        const QDate date(either("year", "year2"), either("month", "month2"), either("day", "day2"));
+        const QTime clock(part("hour").toInt(), part("minute").toInt(), part("second").toInt());
+        if (!match.hasMatch() || !date.isValid() || !clock.isValid())
+            return std::nullopt;
+        *end = match.capturedEnd();
+        const qint64 first = secondsOf(date, clock, part("zone"));
+        const int span = part("hour").isEmpty() ? 86'400 : part("second").isEmpty() ? 60 : 1;
+        return Moment{first, first + span - 1};
+    }
+
+    qint64 secondsOf(const QDate& date, const QTime& clock, QString zone) const
+    {
+        if (zone.isEmpty() && !utcOffset_)
+            return QDateTime(date, clock, Qt::LocalTime).toSecsSinceEpoch();
+        qint64 offset = utcOffset_.value_or(0);
+        if (!zone.isEmpty()) {
+            zone.remove(QLatin1Char(':'));
+            const int minutes = zone.midRef(1, 2).toInt() * 60 + zone.midRef(3, 2).toInt();
+            offset = zone[0] == QLatin1Char('-') ? -60 * minutes : 60 * minutes;
+        }
+        return QDateTime(date, clock, Qt::UTC).toSecsSinceEpoch() - offset;
+    }
+
+    const QString& text_;
+    const QString folded_;
+    const FilterNames& names_;
+    const std::optional<qint32> utcOffset_;
+    int position_ = 0;
+    int depth_ = 0;
+    FilterColumn column_{};
+    int nameBegin_ = 0;
+    int nameEnd_ = -1;
+    int faultAt_ = 0;
+    Expected expected_ = Expected::name;
+};
+
+// Words of which one begins with what is typed; those that begin with it themselves come first.
+QStringList matching(const QStringList& all, const QString& typed)
+{
+    QStringList first;
+    QStringList further;
+    for (const QString& text : all) {
+        const QString folded = foldedForFilter(text);
+        if (folded.startsWith(typed))
+            first << text;
+        else if (folded.contains(QLatin1Char(' ') + typed))
+            further << text;
+    }
+    return first + further;
+}
+
+QString inQuotes(const QString& word)
+{
+    const QLatin1Char quote(word.contains(QLatin1Char('"')) ? '\'' : '"');
+    return quote + word + quote;
+}
+
+} // namespace
+
+ParsedFilter parseFilter(const QString& text, const FilterNames& names, std::optional<qint32> utcOffset)
+{
+    Parser parser(text, names, utcOffset);
+    ParsedFilter parsed{parser.parse(), {}};
+    if (!parsed.filter)
+        parsed.fault = {parser.position(), translated(kExpected[static_cast<int>(parser.expected())])};
+    return parsed;
+}
+
+std::vector<FilterCompletion> completions(const QString& text, int cursor, const FilterNames& names)
+{
+    const QString before = text.left(cursor);
+    Parser parser(before, names, 0);
+    const bool isWhole = parser.parse().has_value();
+    const Expected expected = isWhole && !before.trimmed().isEmpty() ? Expected::joint : parser.expected();
+    int from = isWhole ? before.size() : parser.position();
+    QString typed = foldedForFilter(before.mid(from));
+    const bool isQuoted = quoteAt(typed, 0) != nullptr;
+    if (isQuoted)
+        typed.remove(0, 1);
+
+    std::vector<FilterCompletion> all;
+    const auto offer = [&](const QStringList& texts, int begin) {
+        for (const QString& offered : texts)
+            all.push_back({begin, offered});
+    };
+    switch (expected) {
+    case Expected::name:
+        for (const QString& name : matching(names.names(), typed))
+            all.push_back({from, isQuoted ? inQuotes(name) : name});
+        break;
+    case Expected::sign: {
+        // The name may be the beginning of a longer one.
+        if (parser.nameEnd() == before.size())
+            offer(matching(names.names(), foldedForFilter(before.mid(parser.nameBegin()))),
+                  parser.nameBegin());
+        for (const char* sign : {"=", "!=", "<", ">", "<=", ">="}) {
+            if (QString::fromLatin1(sign).startsWith(typed))
+                all.push_back({from, QString::fromLatin1(sign)});
+        }
+        break;
+    }
+    case Expected::word:
+    case Expected::moment:
+    case Expected::number:
+        for (const QString& word : matching(names.words(parser.column()), typed))
+            all.push_back({from, inQuotes(word)});
+        break;
+    case Expected::joint:
+    case Expected::closing:
+        // Only behind a blank.
+        if (before.endsWith(QLatin1Char(' ')) || !typed.isEmpty())
+            offer(matching({translated("rec_110"), translated("rec_111")}, typed), from);
+        break;
+    default:
+        break;
+    }
+    return all;
+}
+
+} // namespace vlk

@@ -1,0 +1,223 @@
+#include "telemetry/files/record_filter.h"
+
+#include <QDateTime>
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <numeric>
+
+namespace vlk {
+
+namespace {
+
+// By Comparison.
+constexpr const char* kSignTexts[] = {" = ", " != ", " < ", " > ", " <= ", " >= "};
+
+QString numberText(const FilterColumn& column, double number)
+{
+    constexpr double kBehindTimes = std::uint64_t{1} << 32;
+    if (holdsTimes(column) && number >= 0 && number < kBehindTimes && number == std::trunc(number))
+        return QDateTime::fromSecsSinceEpoch(static_cast<qint64>(number), Qt::UTC).toString(Qt::ISODate);
+    char digits[32];
+    const auto end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
+    return QString::fromLatin1(digits, static_cast<int>(end - digits));
+}
+
+void addText(QString& text, const FilterNode& node);
+
+// A part that binds less than what it stands in has brackets.
+void addPart(QString& text, const FilterNode& part, FilterNode::Kind inside)
+{
+    const bool isJoined = part.kind == FilterNode::all || part.kind == FilterNode::any;
+    const bool inBrackets = isJoined && !(inside == FilterNode::any && part.kind == FilterNode::all);
+    if (inBrackets)
+        text += QLatin1Char('(');
+    addText(text, part);
+    if (inBrackets)
+        text += QLatin1Char(')');
+}
+
+void addText(QString& text, const FilterNode& node)
+{
+    switch (node.kind) {
+    case FilterNode::condition: {
+        const std::string_view name = nameOf(node.column);
+        text += QLatin1String(name.data(), static_cast<int>(name.size())) +
+                QLatin1String(kSignTexts[static_cast<int>(node.comparison)]) +
+                numberText(node.column, node.number);
+        return;
+    }
+    case FilterNode::negation:
+        text += QLatin1String("not ");
+        addPart(text, node.parts.front(), node.kind);
+        return;
+    case FilterNode::all:
+    case FilterNode::any:
+        for (std::size_t part = 0; part < node.parts.size(); ++part) {
+            if (part > 0)
+                text += QLatin1String(node.kind == FilterNode::all ? " and " : " or ");
+            addPart(text, node.parts[part], node.kind);
+        }
+    }
+}
+
+// How far numbers of the column may lie from a number that people write and still mean it.
+double tolerance(const FilterColumn& column, double number)
+{
+    const Element& element = kElements[elementOf(column)];
+    if (element.type == ValueType::f32)
+        return std::abs(number) * 1e-7;
+    const auto* const item = std::get_if<ItemIndex>(&column);
+    const Measure* const measure = item ? &measureOf(kItems[*item], kItems[*item].rule()) : nullptr;
+    const bool isScaled = measure && (measure->multiplier != 1 || measure->divisor != 1);
+    return isScaled ? std::abs(number) * 1e-12 : 0;
+}
+
+// A node with the numbers that it looks at.
+struct Bound
+{
+    FilterNode::Kind kind;
+    Comparison comparison;
+    double low;  // numbers from here
+    double high; // to here are equal
+    std::variant<const double*, const quint32*> numbers;
+    std::vector<Bound> parts;
+};
+
+std::variant<const double*, const quint32*> numbersOf(const FilterColumn& column, RecordColumns& columns)
+{
+    if (const auto* const part = std::get_if<ElementIndex>(&column))
+        return columns.numbers(*part).data();
+    switch (const ItemIndex index = std::get<ItemIndex>(column)) {
+    case item("Time"):
+    case item("Time.local"):
+        return columns.times().data();
+    case item("Code"):
+        return columns.codes().data();
+    case item("NumPage"):
+        return columns.recordNumbers().data();
+    default:
+        return columns.numbers(index).data();
+    }
+}
+
+Bound bind(const FilterNode& node, RecordColumns& columns)
+{
+    Bound bound{node.kind, node.comparison, 0, 0, {}, {}};
+    if (node.kind == FilterNode::condition) {
+        const double slack = tolerance(node.column, node.number);
+        bound.low = node.number - slack;
+        bound.high = node.number + slack;
+        bound.numbers = numbersOf(node.column, columns);
+    }
+    for (const FilterNode& part : node.parts)
+        bound.parts.push_back(bind(part, columns));
+    return bound;
+}
+
+constexpr int kBlock = 2048;
+using Passes = std::array<std::uint8_t, kBlock>;
+
+template <class Number, class Holds>
+void fill(Passes& passes, const Number* numbers, int count, Holds holds)
+{
+    for (int i = 0; i < count; ++i)
+        passes[i] = holds(static_cast<double>(numbers[i]));
+}
+
+template <class Number>
+void compare(const Bound& bound, const Number* numbers, int count, Passes& passes)
+{
+    const double low = bound.low;
+    const double high = bound.high;
+    switch (bound.comparison) {
+    case Comparison::equal:
+        return fill(passes, numbers, count, [=](double number) { return number >= low && number <= high; });
+    case Comparison::notEqual:
+        return fill(passes, numbers, count, [=](double number) { return number < low || number > high; });
+    case Comparison::less:
+        return fill(passes, numbers, count, [=](double number) { return number < low; });
+    case Comparison::greater:
+        return fill(passes, numbers, count, [=](double number) { return number > high; });
+    case Comparison::lessOrEqual:
+        return fill(passes, numbers, count, [=](double number) { return number <= high; });
+    case Comparison::greaterOrEqual:
+        return fill(passes, numbers, count, [=](double number) { return number >= low; });
+    }
+}
+
+void evaluate(const Bound& bound, int first, int count, Passes& passes)
+{
+    if (bound.kind == FilterNode::condition) {
+        std::visit([&](const auto* numbers) { compare(bound, numbers + first, count, passes); },
+                   bound.numbers);
+        return;
+    }
+    evaluate(bound.parts.front(), first, count, passes);
+    if (bound.kind == FilterNode::negation) {
+        for (int i = 0; i < count; ++i)
+            passes[i] = !passes[i];
+        return;
+    }
+    const bool isAll = bound.kind == FilterNode::all;
+    Passes more;
+    for (std::size_t part = 1; part < bound.parts.size(); ++part) {
+        evaluate(bound.parts[part], first, count, more);
+        for (int i = 0; i < count; ++i)
+            passes[i] = isAll ? passes[i] & more[i] : passes[i] | more[i];
+    }
+}
+
+} // namespace
+
+std::string_view nameOf(const FilterColumn& column)
+{
+    if (const auto* const index = std::get_if<ItemIndex>(&column))
+        return kItems[*index].name;
+    return kElements[std::get<ElementIndex>(column)].name;
+}
+
+ElementIndex elementOf(const FilterColumn& column)
+{
+    if (const auto* const index = std::get_if<ItemIndex>(&column))
+        return kItems[*index].element;
+    return std::get<ElementIndex>(column);
+}
+
+bool holdsTimes(const FilterColumn& column)
+{
+    return kElements[elementOf(column)].measure.unit == Unit::unixSeconds;
+}
+
+QString Filter::text() const
+{
+    QString text;
+    if (root)
+        addText(text, *root);
+    return text;
+}
+
+std::vector<int> passing(const Filter& filter, RecordColumns& columns)
+{
+    const int size = columns.store().size();
+    std::vector<int> records;
+    if (filter.empty()) {
+        records.resize(size);
+        std::iota(records.begin(), records.end(), 0);
+        return records;
+    }
+    const Bound bound = bind(*filter.root, columns);
+    Passes passes;
+    for (int first = 0; first < size; first += kBlock) {
+        const int count = std::min(kBlock, size - first);
+        evaluate(bound, first, count, passes);
+        for (int i = 0; i < count; ++i) {
+            if (passes[i])
+                records.push_back(first + i);
+        }
+    }
+    return records;
+}
+
+} // namespace vlk

@@ -1,0 +1,61 @@
+#pragma once
+
+// Which records a person asks for: conditions on columns, joined by and, or, not. A filter is kept with the
+// names of elements and items and with codes, so that it means the same in every language; what people write
+// it in is read by filter_parser.h.
+//
+//     Filter filter = *parseFilter(typed, names).filter;
+//     filter.text()                        "Code = 35 and StateU_Ain3 < 9"
+//     passing(filter, columns)             the records, in their order
+
+#include "telemetry/files/record_columns.h"
+
+#include <QString>
+
+#include <variant>
+
+namespace vlk {
+
+// An item, or the whole number of an element of which the items show parts (StateIn1, Module2).
+using FilterColumn = std::variant<ItemIndex, ElementIndex>;
+
+std::string_view nameOf(const FilterColumn& column);
+ElementIndex elementOf(const FilterColumn& column);
+// Whether the column holds moments, in seconds since 1970.
+bool holdsTimes(const FilterColumn& column);
+
+enum class Comparison : std::uint8_t { equal, notEqual, less, greater, lessOrEqual, greaterOrEqual };
+
+struct FilterNode
+{
+    enum Kind : std::uint8_t {
+        condition, // of the column with the number
+        all,       // of the parts
+        any,
+        negation, // of the one part
+    };
+
+    Kind kind = condition;
+    FilterColumn column{};
+    Comparison comparison{};
+    double number = 0;
+    std::vector<FilterNode> parts{};
+
+    bool operator==(const FilterNode&) const = default;
+};
+
+struct Filter
+{
+    std::optional<FilterNode> root; // none lets everything pass
+
+    bool empty() const { return !root; }
+    QString text() const;
+
+    bool operator==(const Filter&) const = default;
+};
+
+// A record that does not hold a column, or no value in it, meets no condition on it, not even "!=". Numbers
+// are equal that are shown alike: 12.3 V is 12300 mV, and 12.1 the float next to it.
+std::vector<int> passing(const Filter& filter, RecordColumns& columns);
+
+} // namespace vlk

@@ -1,0 +1,104 @@
+#include "telemetry/view/export_dialog.h"
+
+#include "link/device.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace vlk {
+
+namespace {
+
+constexpr const char* kWhatTexts[] = {"rec_087", "rec_088", "rec_089"}; // by ExportChoice::What
+
+} // namespace
+
+ExportDialog::ExportDialog(const ExportChoice& choice, const Counts& counts, QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint), what_(new QButtonGroup(this)),
+      form_(new QComboBox(this)), sign_(new QComboBox(this)), columns_(new QCheckBox(tr("rec_098"), this))
+{
+    setWindowTitle(tr("rec_085"));
+    form_->setObjectName(QStringLiteral("comboBox_Form"));
+    sign_->setObjectName(QStringLiteral("comboBox_Sign"));
+    columns_->setObjectName(QStringLiteral("checkBox_Columns"));
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(9, 9, 9, 9);
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(6);
+    int row = 0;
+    const auto addCaption = [&](const char* key, QWidget* field) {
+        auto* caption = new QLabel(tr(key), this);
+        caption->setBuddy(field);
+        grid->addWidget(caption, row, 0, Qt::AlignTop);
+        if (field != nullptr)
+            grid->addWidget(field, row++, 1);
+    };
+    addCaption("rec_086", nullptr);
+    for (int what = 0; what < static_cast<int>(counts.size()); ++what) {
+        auto* box = new QRadioButton(tr(kWhatTexts[what]).arg(QLocale().toString(counts[what])), this);
+        box->setObjectName(QStringLiteral("radioButton_What%1").arg(what));
+        box->setEnabled(counts[what] > 0);
+        box->setChecked(counts[what] > 0 && (what == choice.what || what_->checkedId() < 0));
+        what_->addButton(box, what);
+        grid->addWidget(box, row++, 1);
+    }
+    addCaption("rec_090", form_);
+    for (const ExportFormRow& form : kExportForms)
+        form_->addItem(tr(form.key), static_cast<int>(form.form));
+    form_->setCurrentIndex(form_->findData(static_cast<int>(choice.form)));
+    addCaption("rec_091", sign_);
+    sign_->addItems({tr("rec_092"), tr("rec_093")});
+    sign_->setCurrentIndex(choice.decimalComma ? 1 : 0);
+    columns_->setChecked(choice.onlyShownColumns);
+    grid->addWidget(columns_, row++, 1);
+    auto* buttons = new QHBoxLayout;
+    auto* save = new QPushButton(tr("rec_094"), this);
+    save->setObjectName(QStringLiteral("pushButton_SaveAs"));
+    save->setDefault(true);
+    auto* cancel = new QPushButton(tr("wrd_031"), this);
+    cancel->setObjectName(QStringLiteral("pushButton_Cancel"));
+    buttons->addStretch(1);
+    buttons->addWidget(save);
+    buttons->addWidget(cancel);
+    grid->addLayout(buttons, row, 0, 1, 2);
+    connect(save, &QPushButton::clicked, this, &QDialog::accept);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(form_, qOverload<int>(&QComboBox::currentIndexChanged), this, &ExportDialog::enableOptions);
+    enableOptions();
+}
+
+// Only tables have columns, and numbers of either sign.
+void ExportDialog::enableOptions()
+{
+    const bool isTable = rowOf(choice().form).hasDecimalSign;
+    sign_->setEnabled(isTable);
+    columns_->setEnabled(isTable);
+}
+
+ExportChoice ExportDialog::choice() const
+{
+    return {static_cast<ExportChoice::What>(what_->checkedId()),
+            static_cast<ExportForm>(form_->currentData().toInt()), sign_->currentIndex() == 1,
+            columns_->isChecked()};
+}
+
+QString ExportDialog::askPath(ExportForm form, const QString& proposed, QWidget* parent)
+{
+    const ExportFormRow& row = rowOf(form);
+    const QString suffix = QLatin1String(row.suffix);
+    QFileDialog dialog(parent, tr("rec_085"), vlkDevice != nullptr ? vlkDevice->tmiFolder() : QString(),
+                       QStringLiteral("%1 (*.%2)").arg(tr(row.key), suffix));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(suffix);
+    dialog.selectFile(QStringLiteral("%1.%2").arg(proposed, suffix));
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+} // namespace vlk

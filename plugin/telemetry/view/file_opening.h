@@ -1,0 +1,41 @@
+#pragma once
+
+// Reads a stored file for a window: at once where that is quick, else in slices from the event loop, with
+// progress and Cancel.
+
+#include "telemetry/view/stored_file.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <memory>
+
+namespace vlk {
+
+class WorkProgress;
+
+class FileOpening : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit FileOpening(WorkProgress* progress);
+
+    // In place of what is being read.
+    void start(const QString& path, TelemetryReading reading = TelemetryReading::asTold);
+    // Gives it up without a word.
+    void stop();
+
+Q_SIGNALS:
+    void opened(const std::shared_ptr<vlk::TelemetryContents>& contents);
+    void cancelled();
+
+private:
+    void goOn(int milliseconds);
+
+    WorkProgress* progress_;
+    std::unique_ptr<StoredFile> file_;
+    QTimer slices_;
+};
+
+} // namespace vlk

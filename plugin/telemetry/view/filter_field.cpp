@@ -1,0 +1,218 @@
+#include "telemetry/view/filter_field.h"
+
+#include "link/device.h"
+#include "link/requests.h"
+#include "telemetry/view/records_model.h"
+#include "typing/field_mark.h"
+
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QStringListModel>
+
+#include <cmath>
+#include <set>
+
+namespace vlk {
+
+namespace {
+
+constexpr int kMostOffered = 200;
+constexpr const char* kLanguages[] = {"ru", "en"};
+
+// Enter on what is offered takes that; Esc gives back what is applied, and closes no window then.
+class FilterLine : public QLineEdit
+{
+public:
+    FilterLine(QCompleter* completer, const QString& applied, QWidget* parent)
+        : QLineEdit(parent), completer_(completer), applied_(applied)
+    {
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        const QAbstractItemView* const offered = completer_->popup();
+        const bool isOffering = offered->isVisible() && offered->currentIndex().isValid();
+        const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        if (isEnter && isOffering) {
+            event->ignore();
+        } else if (event->key() == Qt::Key_Escape && !offered->isVisible() && text() != applied_) {
+            setText(applied_);
+        } else {
+            QLineEdit::keyPressEvent(event);
+            // It presses no button of the window.
+            if (isEnter)
+                event->accept();
+        }
+    }
+
+private:
+    QCompleter* completer_;
+    const QString& applied_;
+};
+
+} // namespace
+
+FilterField::FilterField(ShownRecords* shown, RecordsModel* model, QWidget* parent)
+    : QWidget(parent), shown_(shown), model_(model), caption_(new QLabel(this)), fault_(new QLabel(this)),
+      completer_(new QCompleter(this)), offered_(new QStringListModel(this))
+{
+    line_ = new FilterLine(completer_, applied_, this);
+    line_->setObjectName(QStringLiteral("lineEdit_Filter"));
+    line_->setClearButtonEnabled(true);
+    caption_->setBuddy(line_);
+    setFocusProxy(line_);
+    fault_->setObjectName(QStringLiteral("label_FilterFault"));
+    fault_->setTextFormat(Qt::PlainText);
+    fault_->setWordWrap(true);
+    fault_->hide();
+    completer_->setModel(offered_);
+    completer_->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
+    completer_->setWidget(line_);
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(6, 6, 6, 6);
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(3);
+    grid->addWidget(caption_, 0, 0);
+    grid->addWidget(line_, 0, 1);
+    grid->addWidget(fault_, 1, 1);
+    grid->setColumnStretch(1, 1);
+    connect(line_, &QLineEdit::textEdited, this, &FilterField::offer);
+    connect(line_, &QLineEdit::returnPressed, this, &FilterField::applyTyped);
+    connect(completer_, qOverload<const QString&>(&QCompleter::activated), this, &FilterField::complete);
+    connect(shown, &ShownRecords::contentsChanged, this, [this] {
+        names_.reset();
+        applied_.clear();
+        line_->clear();
+        tell({});
+    });
+    retranslate();
+}
+
+void FilterField::addWidget(QWidget* widget)
+{
+    auto* grid = static_cast<QGridLayout*>(layout());
+    grid->addWidget(widget, 0, grid->columnCount());
+}
+
+// Headings and words of both languages, what stands in the heads of this file, and the host's words for the
+// events in it.
+const FilterNames& FilterField::names()
+{
+    if (names_)
+        return *names_;
+    names_.emplace();
+    names_->addTexts();
+    for (const char* language : kLanguages) {
+        const TextSource source = vlkDevice != nullptr ? vlkDevice->textsIn(language) : TextSource();
+        if (!source)
+            continue;
+        const TextsFrom other(source);
+        names_->addTexts();
+    }
+    for (int column = 0; column < model_->columnCount(); ++column) {
+        if (const CsvColumn* const known = model_->columnAt(column))
+            names_->add(model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(), known->item);
+    }
+    const std::vector<quint32>& codes = shown_->columns().codes();
+    for (const quint32 code : std::set<quint32>(codes.begin(), codes.end())) {
+        const QString event = requests::eventText(static_cast<int>(code));
+        if (!event.isEmpty())
+            names_->addWord(event, item("Code"), {double(code), double(code)});
+    }
+    return *names_;
+}
+
+void FilterField::offer()
+{
+    tell({});
+    completions_ = completions(line_->text(), line_->cursorPosition(), names());
+    QStringList texts;
+    for (const FilterCompletion& completion : completions_) {
+        if (texts.size() < kMostOffered)
+            texts << completion.text;
+    }
+    offered_->setStringList(texts);
+    if (texts.isEmpty())
+        completer_->popup()->hide();
+    else
+        completer_->complete();
+}
+
+void FilterField::complete(const QString& text)
+{
+    const auto chosen = std::ranges::find(completions_, text, &FilterCompletion::text);
+    if (chosen == completions_.end())
+        return;
+    const int cursor = line_->cursorPosition();
+    line_->setSelection(chosen->from, cursor - chosen->from);
+    line_->insert(text + QLatin1Char(' '));
+}
+
+void FilterField::apply(const QString& text)
+{
+    line_->setText(text);
+    applyTyped();
+}
+
+void FilterField::applyTyped()
+{
+    completer_->popup()->hide();
+    const QString text = line_->text();
+    const ParsedFilter parsed = parseFilter(text, names(), shown_->utcOffset());
+    if (!parsed.filter) {
+        line_->setCursorPosition(parsed.fault.position);
+        // In words of the language of the moment.
+        tell([this, text] {
+            const FilterFault fault = parseFilter(text, names(), shown_->utcOffset()).fault;
+            return tr("rec_005").arg(QString::number(fault.position + 1), fault.expected);
+        });
+        return;
+    }
+    tell({});
+    applied_ = text;
+    shown_->setPassing(passing(*parsed.filter, shown_->columns()));
+    Q_EMIT applied();
+}
+
+QString FilterField::conditionOf(int record, int column)
+{
+    const CsvColumn* const known = model_->columnAt(column);
+    const std::optional<quint64> raw = model_->raw(record, column);
+    if (known == nullptr || !raw)
+        return {};
+    const double number = itemNumber(*raw, known->item, shown_->columns().userTypes());
+    if (std::isnan(number))
+        return {};
+    const Filter filter{FilterNode{FilterNode::condition, known->item, Comparison::equal, number, {}}};
+    // As a person would type it, where that says the same.
+    const CellKind kind = model_->kind(column);
+    const bool isWord = kind == CellKind::words || kind == CellKind::event;
+    const QString typed = QStringLiteral("%1 = %2").arg(
+        headingText(*known), isWord ? QStringLiteral("\"%1\"").arg(model_->text(record, column))
+                                    : model_->textToCopy(record, column));
+    return parseFilter(typed, names(), shown_->utcOffset()).filter == filter ? typed : filter.text();
+}
+
+void FilterField::tell(const std::function<QString()>& fault)
+{
+    told_ = fault;
+    fault_->setText(fault ? fault() : QString());
+    fault_->setVisible(bool(fault));
+    markField(line_, MarkReason::typing, Mark::invalid, fault_->text());
+}
+
+void FilterField::retranslate()
+{
+    names_.reset();
+    caption_->setText(tr("rec_001"));
+    line_->setPlaceholderText(tr("rec_002"));
+    line_->setToolTip(tr("rec_003"));
+    tell(told_);
+}
+
+} // namespace vlk

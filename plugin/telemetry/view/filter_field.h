@@ -1,0 +1,61 @@
+#pragma once
+
+// The field above the table in which the records to be shown are asked for. Names and words are completed as
+// they are typed; Enter applies, an empty field shows all. What cannot be read is told below, with the place
+// and with what was expected there, and changes nothing.
+
+#include "telemetry/files/filter_parser.h"
+
+#include <QWidget>
+
+#include <functional>
+
+class QCompleter;
+class QLabel;
+class QLineEdit;
+class QStringListModel;
+
+namespace vlk {
+
+class RecordsModel;
+class ShownRecords;
+
+class FilterField : public QWidget
+{
+    Q_OBJECT
+
+public:
+    FilterField(ShownRecords* shown, RecordsModel* model, QWidget* parent);
+
+    // With what is beside it in its row.
+    void addWidget(QWidget* widget);
+    void apply(const QString& text);
+    void clear() { apply({}); }
+    // The cell as a condition.
+    QString conditionOf(int record, int column);
+    void retranslate();
+
+Q_SIGNALS:
+    void applied();
+
+private:
+    void offer();
+    void complete(const QString& text);
+    void applyTyped();
+    void tell(const std::function<QString()>& fault);
+    const FilterNames& names();
+
+    ShownRecords* shown_;
+    RecordsModel* model_;
+    QLabel* caption_;
+    QLineEdit* line_;
+    QLabel* fault_;
+    QCompleter* completer_;
+    QStringListModel* offered_;
+    std::vector<FilterCompletion> completions_;
+    std::optional<FilterNames> names_; // of this file, made when they are asked for
+    std::function<QString()> told_;
+    QString applied_;
+};
+
+} // namespace vlk

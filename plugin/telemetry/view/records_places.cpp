@@ -1,0 +1,48 @@
+#include "telemetry/view/records_places.h"
+
+#include <QTabWidget>
+
+namespace vlk {
+
+namespace {
+
+constexpr int kTableShare = 3; // of the width, against that of the views
+constexpr int kViewsShare = 2;
+
+} // namespace
+
+RecordsPlaces::RecordsPlaces(QWidget* table, std::vector<RecordsPart> parts, QWidget* parent)
+    : QSplitter(Qt::Vertical, parent), parts_(std::move(parts))
+{
+    setChildrenCollapsible(false);
+    auto* below = new QSplitter(Qt::Horizontal);
+    below->setChildrenCollapsible(false);
+    below->addWidget(table);
+    for (const RecordsPart& part : parts_) {
+        if (part.title == nullptr) {
+            addWidget(part.widget);
+            continue;
+        }
+        if (views_ == nullptr) {
+            views_ = new QTabWidget;
+            views_->setObjectName(QStringLiteral("tabWidget_Views"));
+            below->addWidget(views_);
+            below->setStretchFactor(0, kTableShare);
+            below->setStretchFactor(1, kViewsShare);
+        }
+        views_->addTab(part.widget, QString());
+    }
+    addWidget(below);
+    retranslate();
+}
+
+void RecordsPlaces::retranslate()
+{
+    for (const RecordsPart& part : parts_) {
+        if (part.title != nullptr)
+            views_->setTabText(views_->indexOf(part.widget), tr(part.title));
+        part.retranslate();
+    }
+}
+
+} // namespace vlk

@@ -1,0 +1,30 @@
+#pragma once
+
+// The places of the window of records: above what is seen against time, below the table and at its right the
+// other views as tabs. A place without a part takes no room.
+
+#include "telemetry/view/records_parts.h"
+
+#include <QSplitter>
+
+class QTabWidget;
+
+namespace vlk {
+
+class RecordsPlaces : public QSplitter
+{
+    Q_OBJECT
+
+public:
+    RecordsPlaces(QWidget* table, std::vector<RecordsPart> parts, QWidget* parent);
+
+    void retranslate();
+    // Null without views.
+    QTabWidget* views() const { return views_; }
+
+private:
+    std::vector<RecordsPart> parts_;
+    QTabWidget* views_ = nullptr;
+};
+
+} // namespace vlk

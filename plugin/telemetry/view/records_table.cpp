@@ -1,0 +1,276 @@
+#include "telemetry/view/records_table.h"
+
+#include "telemetry/view/records_model.h"
+#include "typing/table_look.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace vlk {
+
+namespace {
+
+constexpr int kWidestColumn = 260;
+constexpr int kHeadLines = 2;
+constexpr int kHeadPadding = 12; // above and below together
+constexpr int kSamples = 32;     // rows spread over the file that a column is measured by
+
+// Of a head that is broken at its blanks into the lines that there are.
+int headWidth(const QString& head, const QFontMetrics& metrics)
+{
+    int width = metrics.horizontalAdvance(head) / kHeadLines;
+    for (const QString& word : head.split(QLatin1Char(' ')))
+        width = std::max(width, metrics.horizontalAdvance(word));
+    const auto lines = [&] {
+        return metrics.boundingRect(0, 0, width, 0, Qt::TextWordWrap, head).height() / metrics.lineSpacing();
+    };
+    while (width < kWidestColumn && lines() > kHeadLines)
+        width += metrics.averageCharWidth();
+    return width;
+}
+
+void dress(QTableView* table)
+{
+    table->setFrameShape(QFrame::NoFrame);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    table->setSortingEnabled(true);
+}
+
+} // namespace
+
+RecordsTable::RecordsTable(RecordsModel* model, QWidget* parent)
+    : QTableView(parent), model_(model), frozen_(new QTableView(this))
+{
+    setModel(model);
+    dressTable(this, TableUse::show);
+    dress(this);
+    QHeaderView* const heads = horizontalHeader();
+    heads->setMinimumHeight(kHeadLines * fontMetrics().lineSpacing() + kHeadPadding);
+    heads->setSectionsMovable(true);
+    heads->setStretchLastSection(true);
+    heads->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(heads, &QWidget::customContextMenuRequested, this, [this, heads](const QPoint& place) {
+        const int column = heads->logicalIndexAt(place);
+        if (column >= 0 && model_->rowCount() > 0)
+            setCurrentIndex(model_->index(std::max(currentIndex().row(), 0), column));
+        Q_EMIT menuWanted(heads->viewport()->mapToGlobal(place));
+    });
+    connect(heads, &QHeaderView::sectionMoved, this, [this](int /*column*/, int from, int to) {
+        if (isMoving_)
+            return;
+        const int kept = static_cast<int>(frozenColumns_.size());
+        keepFrozenFirst();
+        if (from >= kept && to >= kept)
+            Q_EMIT columnMoved();
+    });
+    connect(this, &QTableView::doubleClicked, this, &RecordsTable::open);
+    setUpFrozen();
+}
+
+void RecordsTable::setUpFrozen()
+{
+    frozen_->setObjectName(QStringLiteral("tableWidget_Frozen"));
+    frozen_->setModel(model_);
+    frozen_->setSelectionModel(selectionModel());
+    dressTable(frozen_, TableUse::show);
+    dress(frozen_);
+    frozen_->setFocusProxy(this);
+    frozen_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    frozen_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    frozen_->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    frozen_->installEventFilter(this);
+    connect(frozen_, &QTableView::doubleClicked, this, &RecordsTable::open);
+    connect(frozen_->verticalScrollBar(), &QScrollBar::valueChanged, verticalScrollBar(),
+            &QScrollBar::setValue);
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, frozen_->verticalScrollBar(),
+            &QScrollBar::setValue);
+    // Either head sorts, both show by what.
+    for (const auto& [from, to] : {std::pair(this->horizontalHeader(), frozen_->horizontalHeader()),
+                                   std::pair(frozen_->horizontalHeader(), this->horizontalHeader())}) {
+        connect(from, &QHeaderView::sortIndicatorChanged, to, [to = to](int column, Qt::SortOrder order) {
+            const QSignalBlocker quiet(to);
+            to->setSortIndicator(column, order);
+            to->viewport()->update();
+        });
+    }
+}
+
+void RecordsTable::takeColumns()
+{
+    for (QHeaderView* heads : {horizontalHeader(), frozen_->horizontalHeader()}) {
+        const QSignalBlocker quiet(heads);
+        heads->setSortIndicator(-1, Qt::AscendingOrder);
+    }
+    column_ = -1;
+    frozenColumns_.clear();
+    for (const ItemIndex item : {item("NumPage"), item("Time.local")}) {
+        if (const int column = model_->columnOf(item); column >= 0)
+            frozenColumns_.push_back(column);
+    }
+    for (int column = 0; column < model_->columnCount(); ++column)
+        frozen_->setColumnHidden(column, !isFrozen(column));
+    keepFrozenFirst();
+    fitWidths();
+}
+
+bool RecordsTable::isFrozen(int column) const
+{
+    return std::ranges::find(frozenColumns_, column) != frozenColumns_.end();
+}
+
+void RecordsTable::keepFrozenFirst()
+{
+    const QScopedValueRollback moving(isMoving_, true);
+    for (std::size_t place = 0; place < frozenColumns_.size(); ++place) {
+        for (QHeaderView* heads : {horizontalHeader(), frozen_->horizontalHeader()})
+            heads->moveSection(heads->visualIndex(frozenColumns_[place]), static_cast<int>(place));
+    }
+}
+
+void RecordsTable::arrange(const std::vector<int>& columns)
+{
+    {
+        const QScopedValueRollback moving(isMoving_, true);
+        for (std::size_t place = 0; place < columns.size(); ++place)
+            horizontalHeader()->moveSection(horizontalHeader()->visualIndex(columns[place]),
+                                            static_cast<int>(place));
+    }
+    keepFrozenFirst();
+}
+
+// By the head and some of the rows: the view would ask all of them that it can see, in every column.
+void RecordsTable::fitWidths()
+{
+    const int margin = 4 * fontMetrics().averageCharWidth();
+    const int rows = model_->rowCount();
+    for (int column = 0; column < model_->columnCount(); ++column) {
+        const QString head = model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+        int width = headWidth(head, fontMetrics()) + margin;
+        for (int sample = 0; sample < std::min(rows, kSamples); ++sample) {
+            // The last row too, where numbers are largest.
+            const int row = static_cast<int>(qint64{rows - 1} * sample / std::max(kSamples - 1, 1));
+            width = std::max(width, cellWidth(*this, model_->index(row, column).data().toString()));
+        }
+        // Packets are rare, and the rows that were looked at may hold none.
+        const bool isWide = model_->columnAt(column) == nullptr;
+        width = isWide ? kWidestColumn : std::min(width, kWidestColumn);
+        setColumnWidth(column, width);
+        frozen_->setColumnWidth(column, width);
+    }
+    placeFrozen();
+}
+
+std::vector<int> RecordsTable::shownColumns() const
+{
+    std::vector<int> columns;
+    const QHeaderView* const heads = horizontalHeader();
+    for (int place = 0; place < heads->count(); ++place) {
+        if (!heads->isSectionHidden(heads->logicalIndex(place)))
+            columns.push_back(heads->logicalIndex(place));
+    }
+    return columns;
+}
+
+std::vector<int> RecordsTable::selectedRecords() const
+{
+    std::vector<int> rows;
+    const QItemSelection selection = selectionModel()->selection();
+    for (const QItemSelectionRange& range : selection) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.push_back(row);
+    }
+    std::ranges::sort(rows);
+    rows.erase(std::ranges::unique(rows).begin(), rows.end());
+    std::ranges::transform(rows, rows.begin(), [this](int row) { return model_->recordAt(row); });
+    return rows;
+}
+
+bool RecordsTable::showRecord(int record)
+{
+    const int row = model_->rowOf(record);
+    if (row < 0)
+        return false;
+    if (row == currentIndex().row())
+        return true;
+    const bool isKept = column_ >= 0 && !isColumnHidden(column_);
+    setCurrentIndex(model_->index(row, isKept ? column_ : shownColumns().front()));
+    scrollTo(currentIndex(), PositionAtCenter);
+    return true;
+}
+
+void RecordsTable::scrollTo(const QModelIndex& index, ScrollHint hint)
+{
+    if (isFrozen(index.column())) {
+        const int place = horizontalScrollBar()->value();
+        QTableView::scrollTo(index, hint);
+        horizontalScrollBar()->setValue(place);
+        return;
+    }
+    QTableView::scrollTo(index, hint);
+    const int hidden = frozen_->width() - visualRect(index).left();
+    if (index.isValid() && hidden > 0)
+        horizontalScrollBar()->setValue(horizontalScrollBar()->value() - hidden);
+}
+
+void RecordsTable::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    QTableView::currentChanged(current, previous);
+    if (current.isValid())
+        column_ = current.column();
+}
+
+void RecordsTable::updateGeometries()
+{
+    QTableView::updateGeometries();
+    placeFrozen();
+}
+
+void RecordsTable::placeFrozen()
+{
+    int width = 0;
+    for (const int column : frozenColumns_)
+        width += isColumnHidden(column) ? 0 : columnWidth(column);
+    frozen_->setVisible(width > 0);
+    const int headHeight = horizontalHeader()->height();
+    frozen_->horizontalHeader()->setFixedHeight(headHeight);
+    frozen_->setGeometry(0, 0, width, headHeight + viewport()->height());
+    frozen_->verticalScrollBar()->setValue(verticalScrollBar()->value());
+}
+
+void RecordsTable::open(const QModelIndex& index)
+{
+    if (index.isValid())
+        Q_EMIT recordOpened(model_->recordAt(index.row()));
+}
+
+void RecordsTable::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        return QTableView::keyPressEvent(event);
+    open(currentIndex());
+}
+
+void RecordsTable::contextMenuEvent(QContextMenuEvent* event)
+{
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    Q_EMIT menuWanted(byKey ? viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft())
+                            : event->globalPos());
+}
+
+bool RecordsTable::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == frozen_ && event->type() == QEvent::ContextMenu) {
+        contextMenuEvent(static_cast<QContextMenuEvent*>(event));
+        return true;
+    }
+    return QTableView::eventFilter(watched, event);
+}
+
+} // namespace vlk

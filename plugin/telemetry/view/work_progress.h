@@ -1,0 +1,45 @@
+#pragma once
+
+// How far work has come that goes on in slices from the event loop: what is done, a bar, the time that is
+// left and Cancel. It shows nothing in the first fifth of a second.
+
+#include <QElapsedTimer>
+#include <QWidget>
+
+class QLabel;
+class QProgressBar;
+class QPushButton;
+
+namespace vlk {
+
+// Of a slice. What takes less than kQuietMs is done at one go.
+inline constexpr int kSliceMs = 40;
+inline constexpr int kQuietMs = 200;
+
+class WorkProgress : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit WorkProgress(QWidget* parent);
+
+    // `what`: a key.
+    void start(const char* what);
+    void setShare(double share);
+    void end();
+    bool isRunning() const { return what_ != nullptr; }
+    void retranslate();
+
+Q_SIGNALS:
+    void cancelled();
+
+private:
+    const char* what_ = nullptr;
+    QElapsedTimer clock_;
+    QLabel* text_;
+    QProgressBar* bar_;
+    QLabel* left_;
+    QPushButton* cancel_;
+};
+
+} // namespace vlk

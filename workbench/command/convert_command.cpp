@@ -1,0 +1,420 @@
+// Telemetry in another form.
+
+#include "command/commands.h"
+
+#include "base/windows1251.h"
+#include "command/convert_source.h"
+#include "command/damage_lines.h"
+#include "command/file_kind.h"
+#include "command/file_names.h"
+#include "command/in_order.h"
+#include "command/output.h"
+#include "telemetry/files/export_form.h"
+#include "telemetry/files/filter_parser.h"
+#include "telemetry/files/title_lines.h"
+#include "window/languages.h"
+
+#include <QBuffer>
+#include <QFileInfo>
+#include <QTextCodec>
+
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <numeric>
+
+namespace workbench::command {
+
+using vlk::ExportForm;
+using vlk::ExportWriter;
+using vlk::Filter;
+using vlk::FilterNames;
+using vlk::FilterNode;
+
+namespace {
+
+// Texts in records have the encoding of the tracker; while they are read no file is opened by its name.
+class TrackerTexts
+{
+public:
+    TrackerTexts() { QTextCodec::setCodecForLocale(QTextCodec::codecForName("windows-1251")); }
+    ~TrackerTexts() { QTextCodec::setCodecForLocale(before_); }
+    Q_DISABLE_COPY_MOVE(TrackerTexts)
+
+private:
+    QTextCodec* const before_ = QTextCodec::codecForLocale();
+};
+
+QString whyRefused(FileKind kind, const QByteArray& start)
+{
+    if (start.isEmpty())
+        return text("cli_004");
+    return kind == FileKind::calibration ? text("cli_010").section(QLatin1Char(','), 0, 0) : text("cli_212");
+}
+
+std::unique_ptr<QFile> kept(QFile& input)
+{
+    auto file = std::make_unique<QTemporaryFile>();
+    if (!file->open())
+        return nullptr;
+    for (;;) {
+        const QByteArray piece = input.read(1 << 20);
+        if (piece.isEmpty())
+            break;
+        if (file->write(piece) != piece.size())
+            return nullptr;
+    }
+    file->seek(0);
+    return file;
+}
+
+// Opens the files of the call that are telemetry, and complains of the others.
+class Inputs
+{
+public:
+    explicit Inputs(const QStringList& names)
+    {
+        FileWalk walk(names);
+        while (const std::optional<File> file = walk.next())
+            take(*file);
+    }
+
+    const std::vector<TelemetryInput>& files() const { return files_; }
+    int status() const { return status_; }
+
+private:
+    void take(const File& file)
+    {
+        auto device = std::make_unique<QFile>(file.name);
+        const bool isOpen = file.isStandardInput() ? device->open(stdin, QIODevice::ReadOnly)
+                                                   : device->open(QIODevice::ReadOnly);
+        if (isOpen && device->isSequential())
+            device = kept(*device);
+        if (!device)
+            return refuse(file, text("cli_213"));
+        const QByteArray start = isOpen ? device->peek(4096) : QByteArray();
+        if (!isOpen || (start.isEmpty() && device->error() != QFileDevice::NoError))
+            return refuse(file, text("cli_002").arg(systemText(device->errorString())));
+        const FileKind kind = kindOf(start);
+        // What has lost its beginning is found by its records.
+        const bool isDamaged = kind == FileKind::unknown && !start.isEmpty() &&
+                               file.name.endsWith(QLatin1String(".tmi"), Qt::CaseInsensitive);
+        if (kind == FileKind::telemetry || isDamaged)
+            files_.push_back({file, std::move(device)});
+        else if (file.isNamed)
+            refuse(file, whyRefused(kind, start));
+    }
+
+    void refuse(const File& file, const QString& reason)
+    {
+        writeError(complaint(file.name, reason));
+        status_ = failed;
+    }
+
+    std::vector<TelemetryInput> files_;
+    int status_ = nothing;
+};
+
+FilterNames namesInBothLanguages()
+{
+    FilterNames names;
+    Languages languages;
+    for (const QString& code : Languages::codes()) {
+        const vlk::TextSource texts = [&](const char* key) {
+            const QString found = languages.textIn(code, key);
+            return found.isNull() ? QString::fromLatin1(key) : found;
+        };
+        const vlk::TextsFrom from(texts);
+        names.addTexts();
+    }
+    return names;
+}
+
+// What of the records is wanted. A reason where the call does not say it right.
+QString readFilter(const Conversion& conversion, const FilterNames& names, Filter* filter)
+{
+    struct Part
+    {
+        const char* option;
+        QString prefix;
+        const QString& condition;
+    };
+    std::vector<FilterNode> nodes;
+    for (const Part& part : {Part{"--from", QStringLiteral("Time >= "), conversion.from},
+                             Part{"--to-time", QStringLiteral("Time <= "), conversion.to},
+                             Part{"--where", {}, conversion.where}}) {
+        if (part.condition.isEmpty())
+            continue;
+        const vlk::ParsedFilter parsed = vlk::parseFilter(part.prefix + part.condition, names);
+        const bool isMoment =
+            parsed.filter && parsed.filter->root && parsed.filter->root->kind == FilterNode::condition;
+        if (!parsed.filter)
+            return text("cli_214")
+                .arg(QLatin1String(part.option))
+                .arg(parsed.fault.position - part.prefix.size() + 1)
+                .arg(parsed.fault.expected);
+        if (!part.prefix.isEmpty() && !isMoment)
+            return text("cli_214").arg(QLatin1String(part.option)).arg(1).arg(text("rec_104"));
+        if (parsed.filter->root)
+            nodes.push_back(*parsed.filter->root);
+    }
+    if (nodes.size() == 1)
+        filter->root = nodes.front();
+    else if (!nodes.empty())
+        filter->root = FilterNode{.kind = FilterNode::all, .parts = std::move(nodes)};
+    return {};
+}
+
+QString readColumns(const QString& list, const FilterNames& names, std::vector<vlk::FilterColumn>* columns)
+{
+    for (const QString& name : list.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
+        const std::optional<vlk::FilterColumn> column = names.column(name);
+        if (!column)
+            return text("cli_215").arg(name.trimmed());
+        columns->push_back(*column);
+    }
+    return {};
+}
+
+QString trackerOf(const File& file)
+{
+    return readable(QFileInfo(file.name).completeBaseName()).section(QLatin1Char(' '), 0, 0);
+}
+
+// A batch, and which of its records are wanted; or what was written of them.
+struct Converted
+{
+    RecordBatch batch;
+    std::vector<int> records;
+    QByteArray bytes;
+};
+
+class Conversions
+{
+public:
+    Conversions(const Conversion& asked, Filter filter, vlk::ExportOptions options, RecordSource& source,
+                Output& output)
+        : form_(vlk::rowOf(formOf(asked.form))), asked_(asked), filter_(std::move(filter)),
+          options_(std::move(options)), source_(&source), output_(output)
+    {
+    }
+
+    // A first walk over all records, where the form or the call wants one.
+    bool looksAhead() const
+    {
+        const bool isTable = form_.form == ExportForm::csv || form_.form == ExportForm::tsv;
+        const bool knowsColumns = isTable && (options_.archive || !options_.columns.empty());
+        return (form_.looksAhead && !knowsColumns) || asked_.strict;
+    }
+
+    void lookAhead()
+    {
+        walk([this](RecordBatch batch) { return chosen(std::move(batch)); },
+             [this](const Converted& part) {
+                 ahead_.add(part.batch.records, part.records, form_.form);
+                 setOrigin(part.batch);
+             });
+        source_->rewind();
+    }
+
+    void write()
+    {
+        if (form_.isIndependent)
+            walk([this](RecordBatch batch) { return written(std::move(batch)); },
+                 [this](const Converted& part) {
+                     begin(part.batch);
+                     output_.write(part.bytes);
+                 });
+        else
+            walk([this](RecordBatch batch) { return chosen(std::move(batch)); },
+                 [this](const Converted& part) {
+                     begin(part.batch);
+                     output_.write(bytesOf([&](vlk::OutputBuffer& out) {
+                         writer_->add(out, part.batch.records, part.records);
+                     }));
+                 });
+        begin({});
+        output_.write(bytesOf([this](vlk::OutputBuffer& out) { writer_->finish(out); }));
+    }
+
+private:
+    struct Kept
+    {
+        std::shared_ptr<const vlk::TelemetryOrigin> origin;
+        std::unique_ptr<ExportWriter> writer;
+    };
+
+    static ExportForm formOf(const QString& name)
+    {
+        const auto isNamed = [&](const vlk::ExportFormRow& row) { return name == QLatin1String(row.name); };
+        return std::ranges::find_if(vlk::kExportForms, isNamed)->form;
+    }
+
+    template <class Write>
+    static QByteArray bytesOf(Write write)
+    {
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        vlk::OutputBuffer out(buffer);
+        write(out);
+        out.finish();
+        return buffer.data();
+    }
+
+    void walk(std::function<Converted(RecordBatch)> work, const std::function<void(const Converted&)>& take)
+    {
+        InOrder<RecordBatch, Converted> all([this] { return source_->next(); }, std::move(work));
+        while (const std::optional<Converted> part = all.take())
+            take(*part);
+    }
+
+    Converted chosen(RecordBatch batch) const
+    {
+        Converted part{std::move(batch), {}, {}};
+        if (filter_.empty()) {
+            part.records.resize(part.batch.records.size());
+            std::iota(part.records.begin(), part.records.end(), 0);
+        } else {
+            vlk::RecordColumns columns(part.batch.records,
+                                       typeLetters(part.batch.origin->titles).toLatin1().toStdString());
+            part.records = passing(filter_, columns);
+        }
+        return part;
+    }
+
+    Converted written(RecordBatch batch)
+    {
+        Converted part = chosen(std::move(batch));
+        Kept kept = borrow(part.batch.origin);
+        part.bytes =
+            bytesOf([&](vlk::OutputBuffer& out) { kept.writer->add(out, part.batch.records, part.records); });
+        giveBack(std::move(kept));
+        part.batch.records = {};
+        return part;
+    }
+
+    // A writer for records of that origin: making one takes longer than writing some.
+    Kept borrow(const std::shared_ptr<const vlk::TelemetryOrigin>& origin)
+    {
+        {
+            const std::lock_guard lock(mutex_);
+            const auto found = std::ranges::find(idle_, origin, &Kept::origin);
+            if (found != idle_.end()) {
+                Kept kept = std::move(*found);
+                idle_.erase(found);
+                return kept;
+            }
+        }
+        return {origin, exportWriter(form_.form, ahead_, optionsFor(*origin))};
+    }
+
+    void giveBack(Kept kept)
+    {
+        const std::lock_guard lock(mutex_);
+        // Those of files that are through.
+        if (!idle_.empty() && idle_.front().origin != kept.origin)
+            idle_.clear();
+        idle_.push_back(std::move(kept));
+    }
+
+    vlk::ExportOptions optionsFor(const vlk::TelemetryOrigin& origin) const
+    {
+        vlk::ExportOptions options = options_;
+        options.origin = origin;
+        return options;
+    }
+
+    // The heading tells of the first file.
+    void setOrigin(const RecordBatch& batch)
+    {
+        if (!first_)
+            first_ = batch.origin;
+    }
+
+    void begin(const RecordBatch& batch)
+    {
+        if (writer_)
+            return;
+        setOrigin(batch);
+        writer_ = exportWriter(form_.form, ahead_, first_ ? optionsFor(*first_) : options_);
+        output_.write(bytesOf([this](vlk::OutputBuffer& out) { writer_->begin(out); }));
+    }
+
+    const vlk::ExportFormRow& form_;
+    const Conversion& asked_;
+    const Filter filter_;
+    const vlk::ExportOptions options_;
+    RecordSource* source_;
+    Output& output_;
+    vlk::ExportAhead ahead_;
+    std::shared_ptr<const vlk::TelemetryOrigin> first_;
+    std::unique_ptr<ExportWriter> writer_;
+    std::mutex mutex_;
+    std::vector<Kept> idle_;
+};
+
+int refused(const QString& reason)
+{
+    writeError(complaint(QStringLiteral("r7106"), reason));
+    return failed;
+}
+
+int convertFiles(const Conversion& asked, const Filter& filter, vlk::ExportOptions options,
+                 const Inputs& inputs, Output& output)
+{
+    int status = inputs.status();
+    const auto tell = [&](const File& file, const vlk::FileDamage& damage, qint64 size) {
+        writeError(damageLine(file, damage, size));
+        status = std::max<int>(status, found);
+    };
+    const auto complete = [&](const File& file, vlk::TelemetryOrigin& origin) {
+        if (!asked.tracker.isEmpty() || options.archive)
+            origin.trackerId = asked.tracker.isEmpty() ? trackerOf(file) : asked.tracker;
+    };
+    options.title = asked.tracker.isEmpty() && !inputs.files().empty()
+                        ? trackerOf(inputs.files().front().file)
+                        : asked.tracker;
+    const TrackerTexts encoding;
+    const std::unique_ptr<RecordSource> files = recordsOf(inputs.files(), tell, complete);
+    std::unique_ptr<RecordSource> merged;
+    if (asked.merge) {
+        QString reason;
+        merged = mergedRecords(*files, &reason);
+        if (!merged)
+            return refused(text("cli_213") + QStringLiteral(": ") + reason);
+    }
+    Conversions conversions(asked, filter, options, merged ? *merged : *files, output);
+    if (conversions.looksAhead())
+        conversions.lookAhead();
+    if (asked.strict && status != nothing)
+        return failed;
+    conversions.write();
+    return status;
+}
+
+} // namespace
+
+int convert(const Call& call, Output& output)
+{
+    const Conversion& asked = call.conversion;
+    vlk::ExportOptions options;
+    options.raw = asked.raw;
+    options.decimalComma = asked.decimalComma;
+    options.encode = vlk::toWindows1251;
+    options.archive = asked.columns == QLatin1String("archive");
+    Filter filter;
+    if (!(asked.from + asked.to + asked.where + asked.columns).isEmpty()) {
+        const FilterNames names = namesInBothLanguages();
+        QString reason = readFilter(asked, names, &filter);
+        if (reason.isEmpty() && !options.archive)
+            reason = readColumns(asked.columns, names, &options.columns);
+        if (!reason.isEmpty())
+            return refused(reason);
+    }
+    const Inputs inputs(call.files);
+    if (inputs.files().empty())
+        return inputs.status();
+    return convertFiles(asked, filter, options, inputs, output);
+}
+
+} // namespace workbench::command
