@@ -62,7 +62,7 @@ CurveColumn described(const CsvColumn& column, const TelemetryTitles& titles)
     // Bare numbers share an axis with their like alone.
     described.axis = described.unit.isEmpty() ? QStringLiteral("#%1").arg(column.row) : described.unit;
     if (const QString own = ownTitle(column, titles); !own.isEmpty())
-        described.title += QLatin1Char(' ') + own;
+        described.title = QStringLiteral("%1 (%2)").arg(own, described.title);
     return described;
 }
 

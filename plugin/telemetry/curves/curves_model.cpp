@@ -14,10 +14,15 @@ namespace vlk {
 
 namespace {
 
+int bitOf(const Item& item)
+{
+    return item.rule().bits.count == 0 ? item.bit : item.rule().bits.first;
+}
+
 StateRuns runsOf(ShownRecords& records, ItemIndex item)
 {
     const Item& row = kItems[item];
-    const int bit = row.rule().bits.count == 0 ? row.bit : row.rule().bits.first;
+    const int bit = bitOf(row);
     std::vector<std::int8_t> states(records.records().size(), -1);
     forEachRaw(
         records.records(), row.element, [&](const RecordLayout& layout) { return layout.has(row.element); },
@@ -69,7 +74,16 @@ void CurvesModel::restart()
     series_.clear();
     cursors_ = {records_->current(), -1};
     moving_ = Cursor::a;
+    look();
     rebuild();
+}
+
+// At what does not depend on what is shown.
+void CurvesModel::look()
+{
+    changingBits_.clear();
+    stops_ = runsOf(*records_, stopsOf(records_->columns(), records_->byTime()));
+    events_ = rareEvents(records_->columns(), records_->byTime());
 }
 
 void CurvesModel::grow(int first)
@@ -85,6 +99,7 @@ void CurvesModel::grow(int first)
         if (isLatest)
             addTo(*curve.series, curve.column, std::span(byTime).last(added));
     }
+    look();
     rebuild();
 }
 
@@ -124,11 +139,10 @@ void CurvesModel::rebuild()
         if (state != states.end())
             addBand(*state);
     }
-    const std::vector<Stop> stops = stopsOf(records_->columns(), records_->byTime());
-    if (!stops.empty())
+    if (!stops_.on.empty())
         // Behind the engine, since those that there is no room for are left out from the end.
         bands_.insert(bands_.begin() + std::min<std::ptrdiff_t>(std::ssize(bands_), 1),
-                      {QString(), translated("rec_165"), runsOf(*records_, stops)});
+                      {QString(), translated("rec_165"), stops_});
     makeMarks();
     focused_ = curves_.empty() ? -1 : std::clamp(focused_, 0, static_cast<int>(curves_.size()) - 1);
     Q_EMIT changed();
@@ -155,21 +169,38 @@ void CurvesModel::addCurve(CurveColumn column)
     curves_.push_back({std::move(column), std::move(series), axis});
 }
 
+bool CurvesModel::changes(const CurveColumn& state)
+{
+    const Item& item = kItems[*state.item];
+    const auto [place, isNew] = changingBits_.try_emplace(item.element);
+    if (isNew) {
+        std::uint64_t anywhere = 0;
+        std::uint64_t everywhere = ~anywhere;
+        forEachRaw(
+            records_->records(), item.element,
+            [&](const RecordLayout& layout) { return layout.has(item.element); },
+            [&](int, std::optional<std::uint64_t> raw) {
+                anywhere |= raw.value_or(0);
+                everywhere &= raw.value_or(~std::uint64_t{0});
+            });
+        place->second = anywhere & ~everywhere;
+    }
+    return (place->second >> bitOf(item) & 1) != 0;
+}
+
 void CurvesModel::addBand(const CurveColumn& column)
 {
     if (static_cast<int>(bands_.size()) == kMostBands)
         return;
-    StateRuns runs = runsOf(*records_, *column.item);
-    const bool isConstant = runs.on.empty() || runs.on == runs.known;
-    if (choice_ == Choice::chosen || !isConstant)
-        bands_.push_back({column.name, column.title, std::move(runs)});
+    if (choice_ == Choice::chosen || changes(column))
+        bands_.push_back({column.name, column.title, runsOf(*records_, *column.item)});
 }
 
 void CurvesModel::makeMarks()
 {
     marks_.clear();
-    if (std::vector<int> events = rareEvents(records_->columns(), records_->byTime()); !events.empty())
-        marks_.push_back({translated("rec_166"), std::move(events)});
+    if (!events_.empty())
+        marks_.push_back({translated("rec_166"), events_});
     const bool isFiltered = static_cast<int>(records_->passing().size()) < records_->records().size();
     if (!isFiltered)
         return;

@@ -89,7 +89,9 @@ private:
     void grow(int first);
     void rebuild();
     void addCurve(CurveColumn column);
+    bool changes(const CurveColumn& state);
     void addBand(const CurveColumn& column);
+    void look();
     void makeMarks();
     std::shared_ptr<CurveSeries> seriesOf(const CurveColumn& column);
     void addTo(CurveSeries& series, const CurveColumn& column, std::span<const int> byTime) const;
@@ -99,10 +101,14 @@ private:
     QStringList items_;
     Choice choice_ = Choice::offered;
     std::map<QString, std::shared_ptr<CurveSeries>> series_;
+    // The bits of elements that are now set, now clear.
+    std::map<ElementIndex, std::uint64_t> changingBits_;
     std::vector<Curve> curves_;
     QStringList axes_;
     std::vector<Band> bands_;
     std::vector<MarkRow> marks_;
+    StateRuns stops_;
+    std::vector<int> events_;
     int focused_ = -1;
     std::array<int, 2> cursors_{-1, -1};
     Cursor moving_ = Cursor::a;

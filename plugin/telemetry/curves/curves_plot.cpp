@@ -116,7 +116,10 @@ private:
         const QwtScaleMap y = mapOf(curve.axis, left);
         const QColor colour = curveColor(place, plot_.palette());
         const bool isFocused = place == plot_.model_->focused();
-        painter.setPen(QPen(colour, isFocused ? 2 : 1));
+        // On paper as wide as it should be. On a screen by lines of one pixel, which are drawn many times as
+        // fast, twice where the curve is the one that the cursors tell.
+        const bool isPaper = plot_.ownSpan_.has_value();
+        painter.setPen(QPen(colour, isPaper && isFocused ? 2 : 1));
         double nextShape = canvas.left() + kShapeDistance / 2.0 + place * 13;
         for (const QPolygonF& piece : curve.series->pieces(plot_.span(), static_cast<int>(canvas.width()))) {
             const QPolygonF line = onCanvas(piece, x, y);
@@ -125,6 +128,8 @@ private:
                 painter.drawEllipse(line.front(), kPointReach, kPointReach);
             } else {
                 painter.drawPolyline(line);
+                if (isFocused && !isPaper)
+                    painter.drawPolyline(line.translated(0, 1));
             }
             for (const QPointF& point : line) {
                 if (point.x() < nextShape || point.x() > canvas.right())

@@ -1,6 +1,7 @@
 #include "telemetry/curves/time_scale.h"
 
 #include "base/translated.h"
+#include "telemetry/view/record_cell.h"
 
 #include <QDateTime>
 
@@ -91,26 +92,11 @@ QString tickText(double time, double step, qint32 utcOffset)
                 step < kMinute ? QStringLiteral("dd.MM. HH:mm:ss") : QStringLiteral("dd.MM. HH:mm"));
 }
 
-QString momentText(double time, qint32 utcOffset)
-{
-    return text(time, utcOffset, QStringLiteral("dd.MM.yyyy HH:mm:ss"));
-}
-
 QString momentText(double time, double other, qint32 utcOffset)
 {
     const auto day = [&](double moment) { return std::floor((moment + utcOffset) / kDay); };
     return day(time) == day(other) ? text(time, utcOffset, QStringLiteral("HH:mm:ss"))
-                                   : momentText(time, utcOffset);
-}
-
-QString zoneText(qint32 utcOffset)
-{
-    if (utcOffset == 0)
-        return QStringLiteral("UTC");
-    const qint32 minutes = std::abs(utcOffset) / kMinute;
-    const QString hours = QLatin1String(utcOffset < 0 ? "UTC-" : "UTC+") + QString::number(minutes / 60);
-    return minutes % 60 == 0 ? hours
-                             : QStringLiteral("%1:%2").arg(hours).arg(minutes % 60, 2, 10, QLatin1Char('0'));
+                                   : momentText(static_cast<qint64>(time), utcOffset);
 }
 
 QString durationText(double seconds)

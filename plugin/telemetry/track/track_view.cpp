@@ -21,7 +21,7 @@ namespace vlk {
 
 namespace {
 
-constexpr int kDegreeDecimals = 6;
+constexpr int kPlaceDecimals = 6;
 constexpr int kTitleHeight = 30;
 
 } // namespace
@@ -115,8 +115,8 @@ void TrackView::showPlace()
     const int point = model_->path().pointOf(record);
     if (point >= 0 && model_->path().points()[point].record == record) {
         const TrackPoint& at = model_->path().points()[point];
-        text = QLocale::c().toString(at.latitude, 'f', kDegreeDecimals) + QLatin1String(", ") +
-               QLocale::c().toString(at.longitude, 'f', kDegreeDecimals);
+        text = QLocale::c().toString(at.latitude, 'f', kPlaceDecimals) + QLatin1String(", ") +
+               QLocale::c().toString(at.longitude, 'f', kPlaceDecimals);
         if (model_->column())
             text += QLatin1String("   ") + valueText(*model_->column(), model_->valueAt(record));
     } else if (record >= 0) {
