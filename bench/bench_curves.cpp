@@ -16,7 +16,7 @@ using namespace vlk;
 
 namespace {
 
-constexpr int kMillion = 1'000'000;
+constexpr int kManyPoints = 1'000'000;
 constexpr QSize kWindow(1024, 400);
 
 void open(ShownRecords& records, int count)
@@ -51,7 +51,7 @@ private:
 void openCurves(benchmark::State& state)
 {
     ShownRecords records;
-    open(records, kMillion);
+    open(records, kManyPoints);
     const NumberColumn& level = records.columns().numbers(item("LevelRS485_1"));
     const NumberColumn& speed = records.columns().numbers(item("Speed"));
     bench::sideBySide(
@@ -74,7 +74,7 @@ void openCurves(benchmark::State& state)
 void moveCurves(benchmark::State& state)
 {
     ShownRecords records;
-    open(records, kMillion);
+    open(records, kManyPoints);
     CurvesView view(&records);
     const Shown curves(view, "plot_Curves");
     ShownRecords nothing;
@@ -103,7 +103,7 @@ void moveCurves(benchmark::State& state)
 void panTrack(benchmark::State& state)
 {
     ShownRecords records;
-    open(records, kMillion);
+    open(records, kManyPoints);
     TrackView view(&records);
     const Shown track(view, "canvas_Track");
     ShownRecords nothing;
