@@ -233,6 +233,17 @@ void TestTrack::showsAndMoves()
     QTest::mouseRelease(canvas, Qt::LeftButton, {}, {240, 130});
     QTest::mouseClick(canvas, Qt::LeftButton, {}, {80, canvas->height() / 2 + 30});
     QCOMPARE(records.current(), 0);
+    // What is looked at comes into sight; once all is shown it stays so at any size.
+    for (int i = 0; i < 9; ++i)
+        QTest::keyClick(canvas, Qt::Key_Left);
+    records.setCurrent(1);
+    QTest::mouseClick(canvas, Qt::LeftButton, {}, canvas->rect().center());
+    QCOMPARE(records.current(), 1);
+    QTest::keyClick(canvas, Qt::Key_Home);
+    records.setCurrent(0);
+    view.resize(300, 300);
+    QTest::mouseClick(canvas, Qt::LeftButton, {}, {canvas->width() - 40, canvas->height() / 2});
+    QCOMPARE(records.current(), 1);
     // Alone in sight, the second place is in the middle.
     records.setInSight({kStart + 50.0, kStart + 70.0});
     QTest::keyClick(view.findChild<QCheckBox*>(), Qt::Key_Space);

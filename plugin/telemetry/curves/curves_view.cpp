@@ -28,6 +28,7 @@ namespace vlk {
 namespace {
 
 constexpr int kLeastPlot = 60;
+constexpr QSize kCurvesSize(640, 240);
 constexpr int kStripShare = 4; // of the height, one in
 
 } // namespace
@@ -66,7 +67,7 @@ CurvesView::CurvesView(ShownRecords* records, QWidget* parent)
     tools->addWidget(cursorB_);
     tools->addWidget(handOverMenu_);
     auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(6, 0, 6, 0);
     layout->setSpacing(2);
     layout->addWidget(bar_);
     layout->addLayout(tools);
@@ -100,6 +101,11 @@ CurvesView::CurvesView(ShownRecords* records, QWidget* parent)
 }
 
 CurvesView::~CurvesView() = default;
+
+QSize CurvesView::sizeHint() const
+{
+    return kCurvesSize;
+}
 
 void CurvesView::resizeEvent(QResizeEvent*)
 {

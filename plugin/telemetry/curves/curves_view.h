@@ -34,6 +34,7 @@ public:
     // What is in sight: as CSV, SVG or PNG by the suffix.
     void saveTo(const QString& path);
     void retranslate();
+    QSize sizeHint() const override;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -170,12 +170,11 @@ void TrackCanvas::step(int way)
 void TrackCanvas::keepInSight(int record)
 {
     const int point = model_->path().pointOf(record);
-    if (point >= 0) {
+    // What shows all shows this one too, or leaves it out on purpose.
+    if (point >= 0 && !isFitted_) {
         const QPointF pixel = sight_.toPixel(model_->path().place(point), size());
-        if (!rect().contains(pixel.toPoint())) {
-            isFitted_ = false;
+        if (!rect().contains(pixel.toPoint()))
             sight_.middle = model_->path().place(point);
-        }
     }
     update();
 }

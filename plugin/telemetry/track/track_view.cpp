@@ -42,7 +42,7 @@ TrackView::TrackView(ShownRecords* records, QWidget* parent)
     for (QPushButton* const button : {fit_, handOverMenu_})
         button->setAutoDefault(false);
     auto* const layout = new QGridLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(6, 6, 6, 6);
     layout->setSpacing(6);
     layout->addWidget(bar_, 0, 0, 1, 4);
     layout->addWidget(columnsLabel_, 1, 0);
