@@ -246,6 +246,14 @@ void CurvesPlot::refresh()
     Q_EMIT laidOut();
 }
 
+// The labels of an axis are kept as long as its scale: those with another decimal sign must not stay.
+void CurvesPlot::retranslate()
+{
+    for (QwtScaleWidget* const axis : {axisWidget(yLeft), axisWidget(yRight), outerLeft_, outerRight_})
+        axis->setScaleDraw(new QwtScaleDraw);
+    refresh();
+}
+
 void CurvesPlot::setAxes()
 {
     TimeSpan span = this->span();

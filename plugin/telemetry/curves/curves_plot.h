@@ -33,6 +33,7 @@ public:
     void updateLayout() override;
     // Anew, after the model or the span changed.
     void refresh();
+    void retranslate();
 
 Q_SIGNALS:
     void laidOut();

@@ -136,6 +136,7 @@ void CurvesView::retranslate()
     handOverMenu_->setMenu(menu);
     fillPresets();
     model_->retranslate();
+    plot_->retranslate();
     bar_->retranslate();
 }
 
