@@ -1,9 +1,21 @@
 // Where the vehicle was: which records are points, how far they are apart, and the track on show.
 
+#include "support/data_table.h"
+#include "support/files.h"
 #include "support/records.h"
+#include "support/truck_records.h"
+#include "telemetry/files/rare_events.h"
+#include "telemetry/files/stops.h"
 #include "telemetry/files/track_points.h"
+#include "telemetry/track/track_path.h"
+#include "telemetry/track/track_view.h"
+#include "telemetry/track/value_classes.h"
+#include "telemetry/view/shown_records.h"
 
 #include <QtTest>
+#include <QtWidgets>
+
+#include <numeric>
 
 using namespace vlk;
 
@@ -35,7 +47,21 @@ RecordStore storeOf(const std::vector<Fix>& fixes)
     return store;
 }
 
+QStringList told(const std::vector<TrackPoint>& points)
+{
+    QStringList all;
+    for (const TrackPoint& point : points)
+        all << QStringLiteral("%1%2 %3 %4")
+                   .arg(point.startsSegment ? QStringLiteral("*") : QString())
+                   .arg(point.record)
+                   .arg(point.latitude)
+                   .arg(point.longitude);
+    return all;
+}
+
 } // namespace
+
+Q_DECLARE_METATYPE(std::vector<Fix>)
 
 class TestTrack : public QObject
 {
@@ -44,6 +70,13 @@ class TestTrack : public QObject
 private Q_SLOTS:
     void findsThePoints();
     void measuresOnTheEllipsoid();
+    void findsStopsAndRareEvents();
+    void thinsOut();
+    void classifies_data();
+    void classifies();
+    void showsAndMoves();
+    void survivesOddTracks_data();
+    void survivesOddTracks();
 };
 
 void TestTrack::findsThePoints()
@@ -62,14 +95,7 @@ void TestTrack::findsThePoints()
     const RecordParts noState{{"Time", kStart}, {"Latitude", 600'000}, {"Longitude", 0}};
     store.add(30, noState.mask, noState.block);
     RecordColumns columns(store);
-    QStringList found;
-    for (const TrackPoint& point : trackPoints(columns))
-        found << QStringLiteral("%1%2 %3 %4")
-                     .arg(point.startsSegment ? QStringLiteral("*") : QString())
-                     .arg(point.record)
-                     .arg(point.latitude)
-                     .arg(point.longitude);
-    QCOMPARE(found.join(QStringLiteral(", ")),
+    QCOMPARE(told(trackPoints(columns)).join(QStringLiteral(", ")),
              QStringLiteral("*0 55.5 37.25, 5 0 180, *6 -90 -180, *7 55.5 0, 8 55.5 0, 10 1 0"));
     const TrackPoint before{5, kStart + 310, 0, 180, true};
     QVERIFY(!trackPoints(columns, 6, &before).front().startsSegment);
@@ -85,6 +111,184 @@ void TestTrack::measuresOnTheEllipsoid()
     QVERIFY(qAbs(metres(0, 0, 90, 0) - 10'001'965.729) < 0.001);
     QVERIFY(qAbs(metres(0, 179.5, 0, -179.5) - 111'319.491) < 0.001);
     QCOMPARE(metres(55, 37, 55, 37), 0.0);
+}
+
+void TestTrack::findsStopsAndRareEvents()
+{
+    RecordStore store = storeOf({{kStart, 1, 1, 2, 50},
+                                 {kStart + 60, 1, 1, 2, 2},
+                                 {kStart + 120, 1, 1, 2, 0},
+                                 {kStart + 240, 1, 1, 2, 2},
+                                 {kStart + 300, 1, 1, 2, 40},
+                                 {kStart + 360, 1, 1, 2, 0}, // too short
+                                 {kStart + 400, 1, 1, 2, 40},
+                                 {kStart + 500, 1, 1, 2, 0}, // a gap ends it
+                                 {kStart + 600, 1, 1, 2, 0},
+                                 {kStart + 9000, 1, 1, 2, 0},
+                                 {kStart + 9180, 1, 1, 2, 0}});
+    RecordColumns columns(store);
+    std::vector<int> all(store.size());
+    std::iota(all.begin(), all.end(), 0);
+    QStringList found;
+    for (const Stop& stop : stopsOf(columns, all))
+        found << QStringLiteral("%1-%2").arg(stop.first).arg(stop.last);
+    QCOMPARE(found.join(QLatin1Char(' ')), QStringLiteral("1-3 9-10"));
+
+    const RecordStore truck = truckRecords(6000);
+    RecordColumns ofTruck(truck);
+    all.resize(6000);
+    std::iota(all.begin(), all.end(), 0);
+    for (const int record : rareEvents(ofTruck, all))
+        QVERIFY(ofTruck.codes()[record] == 34 || ofTruck.codes()[record] == 40);
+    QVERIFY(!rareEvents(ofTruck, all).empty());
+}
+
+// No level is further from the track than it says, and each holds the points that begin a segment.
+void TestTrack::thinsOut()
+{
+    RecordStore store = truckRecords(5000);
+    RecordColumns columns(store);
+    TrackPath path;
+    const std::vector<TrackPoint> points = trackPoints(columns);
+    path.add({points.begin(), points.begin() + 1000});
+    path.add({points.begin() + 1000, points.end()});
+    std::size_t before = points.size() + 1;
+    for (const double scale : {0.5, 40.0, 700.0, 1e6}) {
+        const TrackPath::Level& level = path.levelFor(scale);
+        QVERIFY(level.apart <= scale && level.kept.size() < before);
+        before = level.kept.size();
+        auto kept = level.kept.begin();
+        for (int point = 0; point < static_cast<int>(points.size()); ++point) {
+            if (std::next(kept) != level.kept.end() && *std::next(kept) == point)
+                ++kept;
+            QVERIFY(QLineF(path.place(point), path.place(*kept)).length() <= level.apart);
+            QVERIFY(level.of[(kept - level.kept.begin()) / TrackPath::Level::kChunk]
+                        .adjusted(-1e-6, -1e-6, 1e-6, 1e-6)
+                        .contains(path.place(*kept)));
+        }
+    }
+    const TrackPoint back = path.at(path.place(1234));
+    QVERIFY(metresBetween(back, points[1234]) < 0.01);
+    QCOMPARE(path.pointOf(-1), -1);
+    QCOMPARE(path.pointOf(1234), 1234);
+}
+
+void TestTrack::classifies_data()
+{
+    DataTable<double, double, int, double, double>({"least", "greatest", "count", "first", "second"})
+        .row("speeds", 0, 118, 6, 0, 20)
+        .row("temperatures", -13.5, 7, 5, -15, -10)
+        .row("a limit at the end", 0, 60, 4, 0, 20)
+        .row("small", 12.1, 12.9, 5, 12, 12.2)
+        .row("one value", 7, 7, 1, 7, 8)
+        .row("endless", 0, std::numeric_limits<double>::infinity(), 1, 0, 1);
+}
+
+void TestTrack::classifies()
+{
+    QFETCH(double, least);
+    QFETCH(double, greatest);
+    const ValueClasses classes(least, greatest);
+    QTEST(classes.count(), "count");
+    QTEST(qRound64(classes.from(0) * 1000) / 1000.0, "first");
+    QTEST(qRound64(classes.from(1) * 1000) / 1000.0, "second");
+    QCOMPARE(classes.classOf(least), 0);
+    QCOMPARE(classes.classOf(greatest), classes.count() - 1);
+    QCOMPARE(classes.classOf(std::numeric_limits<double>::quiet_NaN()), -1);
+}
+
+void TestTrack::showsAndMoves()
+{
+    ShownRecords records;
+    TrackView view(&records);
+    view.resize(500, 400);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    TelemetryContents contents;
+    contents.records = storeOf({{kStart, 55, 37}, {kStart + 60, 55, 37.2, 2, 60}, {kStart + 120, 0, 0}});
+    records.setContents(std::move(contents));
+    auto* const canvas = view.findChild<QWidget*>(QStringLiteral("canvas_Track"));
+    const auto* const place = view.findChild<QLabel*>(QStringLiteral("label_TrackPlace"));
+    const auto pixels = [&] { return canvas->grab().toImage(); };
+    // The east is on the right: the margin of 40 pixels on both sides.
+    QTest::mouseClick(canvas, Qt::LeftButton, {}, {canvas->width() - 40, canvas->height() / 2});
+    QCOMPARE(records.current(), 1);
+    QVERIFY(place->text().startsWith(QLatin1String("55.000000, 37.200000   60.00")));
+    QTest::mouseClick(canvas, Qt::LeftButton, {}, {40, canvas->height() / 2});
+    QCOMPARE(records.current(), 0);
+    QTest::keyClick(canvas, Qt::Key_PageDown);
+    QTest::keyClick(canvas, Qt::Key_PageDown);
+    QCOMPARE(records.current(), 1);
+    records.setCurrent(2);
+    QCOMPARE(place->text(), QStringLiteral("rec_201"));
+    const QImage fitted = pixels();
+    QTest::keyClick(canvas, Qt::Key_Right);
+    QTest::keyClick(canvas, Qt::Key_Plus);
+    QVERIFY(pixels() != fitted);
+    QTest::keyClick(canvas, Qt::Key_Home);
+    QCOMPARE(pixels(), fitted);
+    QTest::mousePress(canvas, Qt::LeftButton, {}, {200, 100});
+    QMouseEvent move(QEvent::MouseMove, QPointF(240, 130), Qt::LeftButton, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(canvas, &move);
+    QTest::mouseRelease(canvas, Qt::LeftButton, {}, {240, 130});
+    QTest::mouseClick(canvas, Qt::LeftButton, {}, {80, canvas->height() / 2 + 30});
+    QCOMPARE(records.current(), 0);
+    // What is looked at comes into sight; once all is shown it stays so at any size.
+    for (int i = 0; i < 9; ++i)
+        QTest::keyClick(canvas, Qt::Key_Left);
+    records.setCurrent(1);
+    QTest::mouseClick(canvas, Qt::LeftButton, {}, canvas->rect().center());
+    QCOMPARE(records.current(), 1);
+    QTest::keyClick(canvas, Qt::Key_Home);
+    records.setCurrent(0);
+    view.resize(300, 300);
+    QTest::mouseClick(canvas, Qt::LeftButton, {}, {canvas->width() - 40, canvas->height() / 2});
+    QCOMPARE(records.current(), 1);
+    // Alone in sight, the second place is in the middle.
+    records.setInSight({kStart + 50.0, kStart + 70.0});
+    QTest::keyClick(view.findChild<QCheckBox*>(), Qt::Key_Space);
+    QTest::keyClick(canvas, Qt::Key_Home);
+    QTest::mouseClick(canvas, Qt::LeftButton, {}, canvas->rect().center());
+    QCOMPARE(records.current(), 1);
+    const QTemporaryDir folder;
+    view.saveTo(folder.filePath(QStringLiteral("t.svg")));
+    QVERIFY(readFile(folder.filePath(QStringLiteral("t.svg"))).contains("rec_194"));
+}
+
+void TestTrack::survivesOddTracks_data()
+{
+    DataTable<std::vector<Fix>, double>({"fixes", "width"})
+        .row("nothing", {}, 0)
+        .row("no place", {{kStart, 0, 0}}, 0)
+        .row("never moves", std::vector<Fix>(2000, {kStart, 55.75, 37.62}), 0)
+        .row("over the date line", {{kStart, 10, 179.9}, {kStart + 1, 10, -179.9}, {kStart + 2, 10, 179.9}},
+             21'889)
+        .row("at the poles", {{kStart, 90, 0}, {kStart + 1, -90, 180}}, 20'003'932);
+}
+
+void TestTrack::survivesOddTracks()
+{
+    QFETCH(std::vector<Fix>, fixes);
+    QFETCH(double, width);
+    RecordStore store = storeOf(fixes);
+    RecordColumns columns(store);
+    TrackPath path;
+    path.add(trackPoints(columns));
+    double east = 0;
+    for (int point = 0; point < static_cast<int>(path.points().size()); ++point)
+        east = std::max(east, path.place(point).x());
+    QVERIFY2(qAbs(east - width) <= width / 100, qPrintable(QString::number(east)));
+    ShownRecords records;
+    TrackView view(&records);
+    TelemetryContents contents;
+    contents.records = std::move(store);
+    records.setContents(std::move(contents));
+    auto* const canvas = view.findChild<QWidget*>(QStringLiteral("canvas_Track"));
+    for (const int key : {Qt::Key_Plus, Qt::Key_Left, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_Minus}) {
+        QTest::keyClick(canvas, Qt::Key(key));
+        view.grab();
+    }
+    QVERIFY(!view.picture(records.inSight(), {300, 200}).isNull());
 }
 
 QTEST_MAIN(TestTrack)

@@ -24,7 +24,39 @@ void ShownRecords::setContents(std::shared_ptr<TelemetryContents> contents)
                                  : TimeSpan{double(times[byTime_.front()]), double(times[byTime_.back()])};
     inSight_ = wholeTime_;
     current_ = times.empty() ? -1 : 0;
+    computed_.clear();
+    found_.clear();
     Q_EMIT contentsChanged();
+}
+
+void ShownRecords::append(std::span<const std::uint8_t> record)
+{
+    const int added = records().size();
+    const bool allPass = static_cast<int>(passing_.size()) == added;
+    const bool wasLast = current_ == added - 1;
+    const bool showedLatest = byTime_.empty() || inSight_.to >= wholeTime_.to;
+    const bool showedAll = showedLatest && inSight_.from <= wholeTime_.from;
+    contents_->records.add(record);
+    const std::vector<quint32>& times = columns_->times();
+    const quint32 time = times[added];
+    if (allPass)
+        passing_.push_back(added);
+    if (wasLast)
+        current_ = added;
+    if (time != 0) {
+        wholeTime_ = byTime_.empty() ? TimeSpan{double(time), double(time)}
+                                     : TimeSpan{std::min(wholeTime_.from, double(time)),
+                                                std::max(wholeTime_.to, double(time))};
+        const auto timeOfRecord = [&](int each) { return times[each]; };
+        byTime_.insert(std::ranges::upper_bound(byTime_, time, {}, timeOfRecord), added);
+        if (showedAll)
+            inSight_ = wholeTime_;
+        else if (showedLatest)
+            inSight_ = {inSight_.from + wholeTime_.to - inSight_.to, wholeTime_.to};
+    }
+    Q_EMIT recordsAdded(added);
+    if (wasLast)
+        Q_EMIT currentChanged(current_);
 }
 
 qint32 ShownRecords::utcOffset() const
@@ -68,6 +100,18 @@ void ShownRecords::setInSight(const TimeSpan& span)
         return;
     inSight_ = span;
     Q_EMIT inSightChanged();
+}
+
+void ShownRecords::setComputed(std::vector<ComputedColumn> columns)
+{
+    computed_ = std::move(columns);
+    Q_EMIT computedChanged();
+}
+
+void ShownRecords::setFound(std::vector<FoundEvent> events)
+{
+    found_ = std::move(events);
+    Q_EMIT foundChanged();
 }
 
 } // namespace vlk

@@ -24,6 +24,23 @@ struct TimeSpan
     bool operator==(const TimeSpan&) const = default;
 };
 
+// A column of no item, litres for one: a number a record, NaN for none.
+struct ComputedColumn
+{
+    QString name; // that stays the same in every language
+    QString title;
+    QString unit;
+    NumberColumn numbers;
+};
+
+// A rise or a fall that was found, for curves and track to mark.
+struct FoundEvent
+{
+    int record;
+    bool isRise;
+    QString text;
+};
+
 class ShownRecords : public QObject
 {
     Q_OBJECT
@@ -42,6 +59,9 @@ public:
     const RecordStore& records() const { return contents_->records; }
     const TelemetryTitles& titles() const { return contents_->origin.titles; }
     RecordColumns& columns() { return *columns_; }
+    // Puts one that came meanwhile behind the others, from its type byte on. It passes where all do; what
+    // showed the latest time or record shows it now.
+    void append(std::span<const std::uint8_t> record);
     // In which times are shown, in seconds east of UTC.
     qint32 utcOffset() const;
     // From the earliest to the latest record; times of 0 are no times.
@@ -54,27 +74,38 @@ public:
     // -1 without records.
     int current() const { return current_; }
     void setCurrent(int record);
+    // Those that have a time, by it.
+    const std::vector<int>& byTime() const { return byTime_; }
     // The one whose time is next to this one.
     int nearestTo(double time) const;
 
     TimeSpan inSight() const { return inSight_; }
     void setInSight(const TimeSpan& span);
 
+    const std::vector<ComputedColumn>& computed() const { return computed_; }
+    void setComputed(std::vector<ComputedColumn> columns);
+    const std::vector<FoundEvent>& found() const { return found_; }
+    void setFound(std::vector<FoundEvent> events);
+
 Q_SIGNALS:
     void contentsChanged();
     void passingChanged();
     void currentChanged(int record);
     void inSightChanged();
+    void recordsAdded(int first);
+    void computedChanged();
+    void foundChanged();
 
 private:
     std::shared_ptr<TelemetryContents> contents_ = std::make_shared<TelemetryContents>();
     std::unique_ptr<RecordColumns> columns_ = std::make_unique<RecordColumns>(contents_->records);
     TimeSpan wholeTime_;
     std::vector<int> passing_;
-    // Records with a time, by it.
     std::vector<int> byTime_;
     int current_ = -1;
     TimeSpan inSight_;
+    std::vector<ComputedColumn> computed_;
+    std::vector<FoundEvent> found_;
 };
 
 } // namespace vlk

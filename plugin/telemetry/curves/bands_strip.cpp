@@ -1,0 +1,237 @@
+#include "telemetry/curves/bands_strip.h"
+
+#include "link/requests.h"
+#include "telemetry/curves/curve_looks.h"
+#include "telemetry/curves/curves_model.h"
+#include "telemetry/curves/curves_plot.h"
+#include "telemetry/curves/time_scale.h"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include <algorithm>
+#include <cmath>
+
+namespace vlk {
+
+namespace {
+
+constexpr int kWidestName = 130;
+constexpr int kNameMargin = 6;
+constexpr int kMarkReach = 4;
+constexpr int kRowPadding = 3;
+constexpr int kFewestBands = 1;
+
+} // namespace
+
+BandsStrip::BandsStrip(CurvesModel* model, CurvesPlot* plot, QWidget* parent)
+    : QWidget(parent), model_(model), plot_(plot)
+{
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    connect(model, &CurvesModel::changed, this, &BandsStrip::refresh);
+    connect(model, &CurvesModel::cursorsChanged, this, qOverload<>(&QWidget::update));
+    connect(plot, &CurvesPlot::laidOut, this, qOverload<>(&QWidget::update));
+    refresh();
+}
+
+int BandsStrip::rowHeight() const
+{
+    return fontMetrics().ascent() + kRowPadding;
+}
+
+int BandsStrip::bandCount() const
+{
+    const int room = mostHeight_ / rowHeight() - static_cast<int>(model_->marks().size());
+    return std::clamp(static_cast<int>(model_->bands().size()), 0, std::max(room, kFewestBands));
+}
+
+void BandsStrip::setMostHeight(int height)
+{
+    mostHeight_ = height;
+    updateGeometry();
+    update();
+}
+
+QSize BandsStrip::sizeHint() const
+{
+    return {0, (bandCount() + static_cast<int>(model_->marks().size())) * rowHeight()};
+}
+
+QSize BandsStrip::minimumSizeHint() const
+{
+    return sizeHint();
+}
+
+void BandsStrip::refresh()
+{
+    int width = 0;
+    const auto fit = [&](const QString& name) {
+        width = std::max(width, fontMetrics().horizontalAdvance(name));
+    };
+    for (const Band& band : model_->bands())
+        fit(band.title);
+    for (const MarkRow& row : model_->marks())
+        fit(row.title);
+    plot_->setLeftWidth(width == 0 ? 0 : std::min(width, kWidestName) + kNameMargin);
+    updateGeometry();
+    update();
+}
+
+void BandsStrip::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        refresh();
+}
+
+void BandsStrip::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    const QRect canvas = plot_->canvasPlace();
+    QRect row(canvas.left(), 0, canvas.width(), rowHeight());
+    const QRect names(0, 0, canvas.left() - kNameMargin, rowHeight());
+    const auto paintName = [&](const QString& name) {
+        painter.setPen(palette().color(QPalette::WindowText));
+        painter.drawText(names.translated(0, row.top()), Qt::AlignRight | Qt::AlignVCenter,
+                         fontMetrics().elidedText(name, Qt::ElideRight, names.width()));
+    };
+    for (int band = 0; band < bandCount(); ++band) {
+        paintName(model_->bands()[band].title);
+        paintBand(painter, row, band);
+        row.translate(0, rowHeight());
+    }
+    for (std::size_t marks = 0; marks < model_->marks().size(); ++marks) {
+        paintName(model_->marks()[marks].title);
+        paintMarks(painter, row, marks);
+        row.translate(0, rowHeight());
+    }
+    paintCursors(painter);
+}
+
+// A pixel is on where the state was on at some moment of it, so that no short one is lost.
+void BandsStrip::paintBand(QPainter& painter, const QRect& row, int band) const
+{
+    const StateRuns& runs = model_->bands()[band].runs;
+    const QColor on = bandColor(palette());
+    const QRect bar = row.adjusted(0, 3, 0, -3);
+    const int middle = bar.center().y();
+    const double perPixel = (plot_->span().to - plot_->span().from) / std::max(row.width(), 1);
+    const auto isOn = [&](const std::vector<StateRuns::Run>& all, int x) {
+        const double from = plot_->span().from + (x - row.left()) * perPixel;
+        return StateRuns::isAny(all, from, from + perPixel);
+    };
+    const auto paintRuns = [&](const std::vector<StateRuns::Run>& all, int top, int height,
+                               const QColor& colour) {
+        for (int x = row.left(); x <= row.right();) {
+            const int from = x;
+            const bool state = isOn(all, x);
+            while (x <= row.right() && isOn(all, x) == state)
+                ++x;
+            if (state)
+                painter.fillRect(from, top, x - from, height, colour);
+        }
+    };
+    paintRuns(runs.known, middle, 1, on);
+    paintRuns(runs.on, bar.top(), bar.height(), on);
+}
+
+void BandsStrip::paintMarks(QPainter& painter, const QRect& row, std::size_t marks) const
+{
+    const std::vector<quint32>& times = model_->records().columns().times();
+    const std::vector<int>& records = model_->marks()[marks].records;
+    const auto timeOfRecord = [&](int record) { return double(times[record]); };
+    painter.save();
+    painter.setPen(QPen(palette().color(QPalette::WindowText), 1));
+    painter.setBrush(palette().color(marks == 0 ? QPalette::WindowText : QPalette::Base));
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double middle = row.center().y() + 0.5;
+    auto record = std::ranges::lower_bound(records, plot_->span().from, {}, timeOfRecord);
+    while (record != records.end() && timeOfRecord(*record) <= plot_->span().to) {
+        const double x = std::round(plot_->xOf(timeOfRecord(*record))) + 0.5;
+        painter.drawPolygon(QPolygonF({{x, middle - kMarkReach},
+                                       {x + kMarkReach - 1, middle},
+                                       {x, middle + kMarkReach},
+                                       {x - kMarkReach + 1, middle}}));
+        // The next one that is drawn at another pixel.
+        record =
+            std::ranges::lower_bound(record, records.end(), plot_->timeAtPixel(x + 0.5), {}, timeOfRecord);
+    }
+    painter.restore();
+}
+
+void BandsStrip::paintCursors(QPainter& painter) const
+{
+    const std::vector<quint32>& times = model_->records().columns().times();
+    for (const Cursor which : {Cursor::a, Cursor::b}) {
+        const int record = model_->cursor(which);
+        if (record < 0 || times[record] == 0 || !plot_->span().contains(times[record]))
+            continue;
+        const double x = std::round(plot_->xOf(times[record]));
+        painter.setPen(QPen(palette().color(QPalette::WindowText), which == model_->moving() ? 2 : 1,
+                            which == Cursor::a ? Qt::SolidLine : Qt::DashLine));
+        painter.drawLine(QPointF(x, 0), QPointF(x, height()));
+    }
+}
+
+int BandsStrip::markAt(const QPoint& place) const
+{
+    const int row = place.y() / rowHeight() - bandCount();
+    if (row < 0 || row >= static_cast<int>(model_->marks().size()))
+        return -1;
+    const std::vector<quint32>& times = model_->records().columns().times();
+    const std::vector<int>& records = model_->marks()[row].records;
+    const double from = plot_->timeAtPixel(place.x() - kMarkReach);
+    const auto found =
+        std::ranges::lower_bound(records, from, {}, [&](int record) { return double(times[record]); });
+    const bool isThere =
+        found != records.end() && times[*found] <= plot_->timeAtPixel(place.x() + kMarkReach);
+    return isThere ? *found : -1;
+}
+
+void BandsStrip::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton || event->x() < plot_->canvasPlace().left())
+        return QWidget::mousePressEvent(event);
+    ShownRecords& records = model_->records();
+    const int mark = markAt(event->pos());
+    records.setCurrent(mark >= 0 ? mark : records.nearestTo(plot_->timeAtPixel(event->x())));
+    plot_->setFocus(Qt::MouseFocusReason);
+}
+
+QString BandsStrip::tipAt(const QPoint& place) const
+{
+    const std::vector<quint32>& times = model_->records().columns().times();
+    const qint32 offset = model_->records().utcOffset();
+    const int band = place.y() / rowHeight();
+    if (place.x() < plot_->canvasPlace().left())
+        return band < bandCount() ? model_->bands()[band].title : QString();
+    if (const int mark = markAt(place); mark >= 0) {
+        const QString event =
+            requests::eventText(static_cast<int>(model_->records().columns().codes()[mark]));
+        return momentText(times[mark], offset) + QLatin1Char(' ') + event;
+    }
+    if (band >= bandCount())
+        return {};
+    const double moment = plot_->timeAtPixel(place.x());
+    const std::vector<StateRuns::Run>& runs = model_->bands()[band].runs.on;
+    const auto run = std::ranges::lower_bound(runs, moment, {},
+                                              [](const StateRuns::Run& each) { return double(each.to); });
+    if (run == runs.end() || run->from > moment)
+        return {};
+    return QStringLiteral("%1: %2 – %3 (%4)")
+        .arg(model_->bands()[band].title, momentText(run->from, offset),
+             momentText(run->to, run->from, offset), durationText(double(run->to) - run->from));
+}
+
+bool BandsStrip::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto& help = static_cast<QHelpEvent&>(*event);
+    QToolTip::showText(help.globalPos(), tipAt(help.pos()), this);
+    return true;
+}
+
+} // namespace vlk

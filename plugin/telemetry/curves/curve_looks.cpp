@@ -1,0 +1,105 @@
+#include "telemetry/curves/curve_looks.h"
+
+#include "typing/field_mark.h"
+#include "typing/kept_palette.h"
+
+#include <QPainter>
+#include <QPalette>
+
+#include <iterator>
+
+namespace vlk {
+
+namespace {
+
+struct CurveLook
+{
+    QRgb light;
+    QRgb dark;
+    enum Shape { disc, square, triangle, diamond, cross, plus, ring, bar } shape;
+};
+
+constexpr CurveLook kCurveLooks[] = {
+    {0x1f5f9e, 0x7ab8f5, CurveLook::disc},     {0xb3261e, 0xff9d94, CurveLook::square},
+    {0x1b6e33, 0x7fd491, CurveLook::triangle}, {0x8a5300, 0xffbd59, CurveLook::diamond},
+    {0x6a3d9a, 0xc9a6f0, CurveLook::cross},    {0x00686f, 0x5fd0da, CurveLook::plus},
+    {0xa0246e, 0xf29acb, CurveLook::ring},     {0x4a4a4a, 0xd0d0d0, CurveLook::bar},
+};
+
+constexpr double kShapeReach = 3.5;
+constexpr double kFoundWidth = 10;
+constexpr int kDarkBelow = 128;
+
+const CurveLook& lookAt(int place)
+{
+    return kCurveLooks[static_cast<std::size_t>(place) % std::size(kCurveLooks)];
+}
+
+} // namespace
+
+bool isDark(const QPalette& palette)
+{
+    return palette.color(QPalette::Window).lightness() < kDarkBelow;
+}
+
+QColor curveColor(int place, const QPalette& palette)
+{
+    return QColor(isDark(palette) ? lookAt(place).dark : lookAt(place).light);
+}
+
+QColor bandColor(const QPalette& palette)
+{
+    return between(palette.color(QPalette::WindowText), palette.color(QPalette::Base));
+}
+
+void paintCurveShape(QPainter& painter, int place, const QPointF& centre, const QColor& colour)
+{
+    constexpr double r = kShapeReach;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(centre);
+    const CurveLook::Shape shape = lookAt(place).shape;
+    painter.setPen(QPen(colour, 1.5));
+    painter.setBrush(shape == CurveLook::ring ? QBrush(Qt::NoBrush) : QBrush(colour));
+    switch (shape) {
+    case CurveLook::disc:
+    case CurveLook::ring:
+        painter.drawEllipse(QPointF(), r - 0.5, r - 0.5);
+        break;
+    case CurveLook::square:
+        painter.drawRect(QRectF(1 - r, 1 - r, 2 * r - 2, 2 * r - 2));
+        break;
+    case CurveLook::triangle:
+        painter.drawPolygon(QPolygonF({{0, -r}, {r, r - 1}, {-r, r - 1}}));
+        break;
+    case CurveLook::diamond:
+        painter.drawPolygon(QPolygonF({{0, -r}, {r, 0}, {0, r}, {-r, 0}}));
+        break;
+    case CurveLook::cross:
+        painter.drawLine(QPointF(-r, -r), QPointF(r, r));
+        painter.drawLine(QPointF(-r, r), QPointF(r, -r));
+        break;
+    case CurveLook::plus:
+        painter.drawLine(QPointF(-r, 0), QPointF(r, 0));
+        painter.drawLine(QPointF(0, -r), QPointF(0, r));
+        break;
+    case CurveLook::bar:
+        painter.drawRect(QRectF(-1, -r, 2, 2 * r));
+        break;
+    }
+    painter.restore();
+}
+
+void paintFoundEvent(QPainter& painter, bool isRise, const QPointF& tip, const QPalette& palette)
+{
+    const double height = isRise ? kFoundWidth : -kFoundWidth;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette.color(QPalette::Base), 1));
+    painter.setBrush(markColor(isRise ? Mark::right : Mark::invalid, palette));
+    painter.drawPolygon(
+        QPolygonF({tip, tip + QPointF(kFoundWidth / 2, height), tip + QPointF(-kFoundWidth / 2, height)}));
+    painter.restore();
+}
+
+} // namespace vlk

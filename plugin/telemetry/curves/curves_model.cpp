@@ -1,0 +1,318 @@
+#include "telemetry/curves/curves_model.h"
+
+#include "base/translated.h"
+#include "telemetry/curves/time_scale.h"
+#include "telemetry/files/rare_events.h"
+#include "telemetry/files/raw_values.h"
+#include "telemetry/files/stops.h"
+#include "telemetry/view/absent_value.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vlk {
+
+namespace {
+
+int bitOf(const Item& item)
+{
+    return item.rule().bits.count == 0 ? item.bit : item.rule().bits.first;
+}
+
+StateRuns runsOf(ShownRecords& records, ItemIndex item)
+{
+    const Item& row = kItems[item];
+    const int bit = bitOf(row);
+    std::vector<std::int8_t> states(records.records().size(), -1);
+    forEachRaw(
+        records.records(), row.element, [&](const RecordLayout& layout) { return layout.has(row.element); },
+        [&](int record, std::optional<std::uint64_t> raw) {
+            if (raw)
+                states[record] = static_cast<std::int8_t>(*raw >> bit & 1);
+        });
+    return StateRuns(records.byTime(), records.columns().times(),
+                     [&](int record) { return int{states[record]}; });
+}
+
+StateRuns runsOf(ShownRecords& records, const std::vector<Stop>& stops)
+{
+    const std::vector<quint32>& times = records.columns().times();
+    StateRuns runs;
+    for (const Stop& stop : stops)
+        runs.on.push_back({times[stop.first], times[stop.last]});
+    return runs;
+}
+
+} // namespace
+
+CurvesModel::CurvesModel(ShownRecords* records, QObject* parent) : QObject(parent), records_(records)
+{
+    connect(records, &ShownRecords::contentsChanged, this, &CurvesModel::restart);
+    connect(records, &ShownRecords::recordsAdded, this, &CurvesModel::grow);
+    connect(records, &ShownRecords::computedChanged, this, [this] {
+        std::erase_if(series_, [this](const auto& entry) {
+            return std::ranges::find(records_->computed(), entry.first, &ComputedColumn::name) !=
+                   records_->computed().end();
+        });
+        rebuild();
+    });
+    const auto remark = [this] {
+        makeMarks();
+        Q_EMIT changed();
+    };
+    connect(records, &ShownRecords::passingChanged, this, remark);
+    connect(records, &ShownRecords::foundChanged, this, remark);
+    connect(records, &ShownRecords::currentChanged, this, [this](int record) {
+        cursors_[static_cast<std::size_t>(moving_)] = record;
+        Q_EMIT cursorsChanged();
+    });
+    restart();
+}
+
+void CurvesModel::restart()
+{
+    series_.clear();
+    cursors_ = {records_->current(), -1};
+    moving_ = Cursor::a;
+    look();
+    rebuild();
+}
+
+// At what does not depend on what is shown.
+void CurvesModel::look()
+{
+    changingBits_.clear();
+    stops_ = runsOf(*records_, stopsOf(records_->columns(), records_->byTime()));
+    events_ = rareEvents(records_->columns(), records_->byTime());
+}
+
+void CurvesModel::grow(int first)
+{
+    const std::vector<int>& byTime = records_->byTime();
+    const auto added = static_cast<std::size_t>(records_->records().size() - first);
+    const bool isLatest =
+        byTime.size() >= added && std::ranges::all_of(byTime.end() - static_cast<int>(added), byTime.end(),
+                                                      [&](int record) { return record >= first; });
+    if (!isLatest)
+        series_.clear();
+    for (const Curve& curve : curves_) {
+        if (isLatest)
+            addTo(*curve.series, curve.column, std::span(byTime).last(added));
+    }
+    look();
+    rebuild();
+}
+
+void CurvesModel::show(const QStringList& items, Choice choice)
+{
+    items_ = items;
+    choice_ = choice;
+    focused_ = -1;
+    rebuild();
+}
+
+QStringList CurvesModel::shownNames() const
+{
+    QStringList names;
+    for (const Curve& curve : curves_)
+        names << curve.column.name;
+    for (const Band& band : bands_) {
+        if (!band.name.isEmpty())
+            names << band.name;
+    }
+    return names;
+}
+
+void CurvesModel::rebuild()
+{
+    curves_.clear();
+    axes_.clear();
+    bands_.clear();
+    const std::vector<CurveColumn> columns = curveColumns(*records_);
+    const std::vector<CurveColumn> states = stateColumns(*records_);
+    for (const QString& name : std::as_const(items_)) {
+        for (const CurveColumn& column : columns) {
+            if (column.name == name || (column.computed >= 0 && name == QLatin1String("*")))
+                addCurve(column);
+        }
+        const auto state = std::ranges::find(states, name, &CurveColumn::name);
+        if (state != states.end())
+            addBand(*state);
+    }
+    if (!stops_.on.empty())
+        // Behind the engine, since those that there is no room for are left out from the end.
+        bands_.insert(bands_.begin() + std::min<std::ptrdiff_t>(std::ssize(bands_), 1),
+                      {QString(), translated("rec_165"), stops_});
+    makeMarks();
+    focused_ = curves_.empty() ? -1 : std::clamp(focused_, 0, static_cast<int>(curves_.size()) - 1);
+    Q_EMIT changed();
+}
+
+void CurvesModel::addCurve(CurveColumn column)
+{
+    const bool isThere =
+        std::ranges::any_of(curves_, [&](const Curve& curve) { return curve.column.name == column.name; });
+    if (isThere || static_cast<int>(curves_.size()) == kMostCurves)
+        return;
+    const auto sharesAxis = [&](const Curve& curve) { return curve.column.axis == column.axis; };
+    const auto like = std::ranges::find_if(curves_, sharesAxis);
+    if (like == curves_.end() && axes_.size() == kMostAxes)
+        return;
+    std::shared_ptr<CurveSeries> series = seriesOf(column);
+    if (choice_ == Choice::offered && !series->hasValues())
+        return;
+    int axis = axes_.size();
+    if (like != curves_.end())
+        axis = like->axis;
+    else
+        axes_ << (column.unit.isEmpty() ? column.title : column.unit);
+    curves_.push_back({std::move(column), std::move(series), axis});
+}
+
+bool CurvesModel::changes(const CurveColumn& state)
+{
+    const Item& item = kItems[*state.item];
+    const auto [place, isNew] = changingBits_.try_emplace(item.element);
+    if (isNew) {
+        std::uint64_t anywhere = 0;
+        std::uint64_t everywhere = ~anywhere;
+        forEachRaw(
+            records_->records(), item.element,
+            [&](const RecordLayout& layout) { return layout.has(item.element); },
+            [&](int, std::optional<std::uint64_t> raw) {
+                anywhere |= raw.value_or(0);
+                everywhere &= raw.value_or(~std::uint64_t{0});
+            });
+        place->second = anywhere & ~everywhere;
+    }
+    return (place->second >> bitOf(item) & 1) != 0;
+}
+
+void CurvesModel::addBand(const CurveColumn& column)
+{
+    if (static_cast<int>(bands_.size()) == kMostBands)
+        return;
+    if (choice_ == Choice::chosen || changes(column))
+        bands_.push_back({column.name, column.title, runsOf(*records_, *column.item)});
+}
+
+void CurvesModel::makeMarks()
+{
+    marks_.clear();
+    if (!events_.empty())
+        marks_.push_back({translated("rec_166"), events_});
+    const bool isFiltered = static_cast<int>(records_->passing().size()) < records_->records().size();
+    if (!isFiltered)
+        return;
+    const std::vector<int>& passing = records_->passing();
+    std::vector<int> hits;
+    std::ranges::copy_if(records_->byTime(), std::back_inserter(hits),
+                         [&](int record) { return std::ranges::binary_search(passing, record); });
+    marks_.push_back({translated("rec_167"), std::move(hits)});
+}
+
+std::shared_ptr<CurveSeries> CurvesModel::seriesOf(const CurveColumn& column)
+{
+    std::shared_ptr<CurveSeries>& series = series_[column.name];
+    if (!series) {
+        series = std::make_shared<CurveSeries>();
+        addTo(*series, column, records_->byTime());
+    }
+    return series;
+}
+
+void CurvesModel::addTo(CurveSeries& series, const CurveColumn& column, std::span<const int> byTime) const
+{
+    const RecordStore& store = records_->records();
+    const NumberColumn& numbers = numbersOf(*records_, column);
+    std::vector<bool> holding;
+    for (const RecordLayout& layout : store.layouts())
+        holding.push_back(column.item ? layout.has(kItems[*column.item].element) : !layout.isPacket());
+    series.add(byTime, records_->columns().times(), numbers, [&](int record) {
+        return holding[store.layoutNumber(record)] && record < static_cast<int>(numbers.size());
+    });
+}
+
+Extremes CurvesModel::extremesAt(int axis, const TimeSpan& span) const
+{
+    Extremes extremes;
+    for (const Curve& curve : curves_) {
+        if (curve.axis == axis)
+            extremes.add(curve.series->extremesIn(span));
+    }
+    return extremes;
+}
+
+double CurvesModel::valueAt(const Curve& curve, int record) const
+{
+    return numberOf(*records_, curve.column, record);
+}
+
+void CurvesModel::setFocused(int curve)
+{
+    if (curve < 0 || curve >= static_cast<int>(curves_.size()) || curve == focused_)
+        return;
+    focused_ = curve;
+    Q_EMIT cursorsChanged();
+}
+
+void CurvesModel::setMoving(Cursor which)
+{
+    moving_ = which;
+    int& record = cursors_[static_cast<std::size_t>(which)];
+    if (record < 0)
+        record = records_->current();
+    records_->setCurrent(record);
+    Q_EMIT cursorsChanged();
+}
+
+void CurvesModel::endCursorB()
+{
+    moving_ = Cursor::a;
+    cursors_ = {records_->current(), -1};
+    Q_EMIT cursorsChanged();
+}
+
+QString CurvesModel::cursorText(Cursor which) const
+{
+    const std::vector<quint32>& times = records_->columns().times();
+    const int record = cursor(which);
+    QString moment(kAbsentMark);
+    if (times[record] != 0 && which == Cursor::b)
+        moment = momentText(times[record], times[cursor(Cursor::a)], records_->utcOffset());
+    else if (times[record] != 0)
+        moment = momentText(times[record], records_->utcOffset());
+    QString text = QLatin1String(which == Cursor::a ? "A " : "B ") + moment;
+    if (focused_ >= 0)
+        text += QLatin1Char(' ') + valueText(curves_[focused_].column, valueAt(curves_[focused_], record));
+    return text;
+}
+
+QString CurvesModel::cursorLine() const
+{
+    const int a = cursor(Cursor::a);
+    const int b = cursor(Cursor::b);
+    if (a < 0)
+        return {};
+    QString line = cursorText(Cursor::a);
+    if (b < 0)
+        return line;
+    const std::vector<quint32>& times = records_->columns().times();
+    line += QLatin1String(" | ") + cursorText(Cursor::b);
+    QStringList differences;
+    if (times[a] != 0 && times[b] != 0)
+        differences << durationText(double(times[b]) - times[a]);
+    if (focused_ >= 0) {
+        const Curve& curve = curves_[focused_];
+        differences << valueText(curve.column, valueAt(curve, b) - valueAt(curve, a), true);
+    }
+    return line + QLatin1String(" | ") + differences.join(QLatin1Char(' '));
+}
+
+void CurvesModel::retranslate()
+{
+    rebuild();
+    Q_EMIT cursorsChanged();
+}
+
+} // namespace vlk

@@ -1,0 +1,117 @@
+#pragma once
+
+// What the window of curves shows, without a widget: the curves and bands that were chosen, the events, and
+// the two cursors. The records, the moment that is looked at and the span in sight are those of ShownRecords.
+
+#include "telemetry/curves/curve_columns.h"
+#include "telemetry/curves/curve_series.h"
+#include "telemetry/curves/state_runs.h"
+
+#include <array>
+#include <map>
+
+namespace vlk {
+
+struct Curve
+{
+    CurveColumn column;
+    std::shared_ptr<CurveSeries> series;
+    int axis; // in CurvesModel::axes()
+};
+
+struct Band
+{
+    QString name; // of the item; empty for stops
+    QString title;
+    StateRuns runs;
+};
+
+// Records that are told by marks below the curves, by time.
+struct MarkRow
+{
+    QString title;
+    std::vector<int> records;
+};
+
+enum class Cursor { a, b };
+
+class CurvesModel : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr int kMostCurves = 8;
+    static constexpr int kMostAxes = 4;
+    static constexpr int kMostBands = 6;
+
+    CurvesModel(ShownRecords* records, QObject* parent);
+
+    ShownRecords& records() const { return *records_; }
+
+    // Takes the items that the records have, as many as there is room for: curves and states. A preset's are
+    // offered, and show where they have values or change; those that were chosen are shown in any case.
+    enum class Choice { offered, chosen };
+    void show(const QStringList& items, Choice choice);
+    const QStringList& items() const { return items_; }
+    // The names of the curves and bands on show.
+    QStringList shownNames() const;
+
+    const std::vector<Curve>& curves() const { return curves_; }
+    // What stands at each axis: the unit, or the title of numbers without one.
+    const QStringList& axes() const { return axes_; }
+    const std::vector<Band>& bands() const { return bands_; }
+    const std::vector<MarkRow>& marks() const { return marks_; }
+    // The least and the greatest of the curves at an axis.
+    Extremes extremesAt(int axis, const TimeSpan& span) const;
+    double valueAt(const Curve& curve, int record) const;
+
+    // The curve that the cursors tell; -1 without curves.
+    int focused() const { return focused_; }
+    void setFocused(int curve);
+
+    // The record at which a cursor stands; -1 for none. The one that moves is the record that is looked at.
+    int cursor(Cursor which) const { return cursors_[static_cast<std::size_t>(which)]; }
+    Cursor moving() const { return moving_; }
+    void setMoving(Cursor which);
+    void endCursorB();
+
+    // "A 20.11.2026 09:12:04 312 l | B 09:40:10 251 l | 28 min -61 l".
+    QString cursorLine() const;
+
+    void retranslate();
+
+Q_SIGNALS:
+    void changed();
+    void cursorsChanged();
+
+private:
+    void restart();
+    void grow(int first);
+    void rebuild();
+    void addCurve(CurveColumn column);
+    bool changes(const CurveColumn& state);
+    void addBand(const CurveColumn& column);
+    void look();
+    void makeMarks();
+    std::shared_ptr<CurveSeries> seriesOf(const CurveColumn& column);
+    void addTo(CurveSeries& series, const CurveColumn& column, std::span<const int> byTime) const;
+    QString cursorText(Cursor which) const;
+
+    ShownRecords* records_;
+    QStringList items_;
+    Choice choice_ = Choice::offered;
+    std::map<QString, std::shared_ptr<CurveSeries>> series_;
+    // The bits of elements that are now set, now clear.
+    std::map<ElementIndex, std::uint64_t> changingBits_;
+    std::vector<Curve> curves_;
+    QStringList axes_;
+    std::vector<Band> bands_;
+    std::vector<MarkRow> marks_;
+    StateRuns stops_;
+    std::vector<int> events_;
+    int focused_ = -1;
+    std::array<int, 2> cursors_{-1, -1};
+    Cursor moving_ = Cursor::a;
+};
+
+} // namespace vlk

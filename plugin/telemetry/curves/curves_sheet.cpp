@@ -1,0 +1,46 @@
+#include "telemetry/curves/curves_sheet.h"
+
+#include "telemetry/curves/bands_strip.h"
+#include "telemetry/curves/curve_legend.h"
+#include "telemetry/curves/curves_plot.h"
+#include "telemetry/curves/hand_over.h"
+#include "telemetry/curves/time_scale.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace vlk {
+
+void paintCurves(QPainter& painter, const QSize& size, CurvesModel& model, const TimeSpan& span,
+                 const QString& title)
+{
+    QWidget sheet;
+    sheet.setPalette(paperPalette());
+    sheet.setAttribute(Qt::WA_DontShowOnScreen);
+    const qint32 offset = model.records().utcOffset();
+    auto* const heading =
+        new QLabel(QStringLiteral("%1%2%3 – %4, %5")
+                       .arg(title, QLatin1String(title.isEmpty() ? "" : "   "), momentText(span.from, offset),
+                            momentText(span.to, offset), zoneText(offset)),
+                   &sheet);
+    QFont bold = heading->font();
+    bold.setWeight(QFont::DemiBold);
+    heading->setFont(bold);
+    auto* const legend = new CurveLegend(&model, true, &sheet);
+    auto* const plot = new CurvesPlot(&model, &sheet, span);
+    auto* const strip = new BandsStrip(&model, plot, &sheet);
+    auto* const layout = new QVBoxLayout(&sheet);
+    layout->setSpacing(4);
+    layout->addWidget(heading);
+    layout->addWidget(legend);
+    layout->addWidget(plot, 1);
+    layout->addWidget(strip);
+    layout->addWidget(new QLabel(model.cursorLine(), &sheet));
+    sheet.resize(size);
+    // So that all have their places before they are painted.
+    sheet.show();
+    plot->refresh();
+    sheet.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+}
+
+} // namespace vlk

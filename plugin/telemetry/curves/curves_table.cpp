@@ -1,0 +1,65 @@
+#include "telemetry/curves/curves_table.h"
+
+#include "base/translated.h"
+#include "telemetry/curves/curves_model.h"
+#include "telemetry/curves/time_scale.h"
+
+#include <QDateTime>
+#include <QIODevice>
+#include <QLocale>
+
+#include <algorithm>
+#include <cmath>
+
+namespace vlk {
+
+namespace {
+
+constexpr int kDigits = 10;
+constexpr int kChunkBytes = 1 << 16;
+
+QByteArray quoted(QString text)
+{
+    text.replace(QLatin1Char('"'), QLatin1String("\"\""));
+    return '"' + text.toUtf8() + '"';
+}
+
+} // namespace
+
+bool writeCurves(QIODevice& device, const CurvesModel& model, const TimeSpan& span)
+{
+    ShownRecords& records = model.records();
+    const bool hasComma = QLocale().decimalPoint() == QLatin1Char(',');
+    const char separator = hasComma ? ';' : ',';
+    const qint32 offset = records.utcOffset();
+    QByteArray text = quoted(translated("tmizta_123")) + separator +
+                      quoted(QStringLiteral("%1, %2").arg(translated("tmizta_125"), zoneText(offset)));
+    for (const Curve& curve : model.curves())
+        text += separator + quoted(withUnit(curve.column));
+    text += "\r\n";
+    const std::vector<quint32>& times = records.columns().times();
+    const std::vector<quint32>& numbers = records.columns().recordNumbers();
+    for (const int record : records.byTime()) {
+        if (!span.contains(times[record]))
+            continue;
+        text += QByteArray::number(numbers[record]) + separator +
+                QDateTime::fromSecsSinceEpoch(times[record], Qt::OffsetFromUTC, offset)
+                    .toString(Qt::ISODate)
+                    .toLatin1();
+        for (const Curve& curve : model.curves()) {
+            text += separator;
+            const double value = model.valueAt(curve, record);
+            if (!std::isnan(value))
+                text += QByteArray::number(value, 'g', kDigits).replace('.', hasComma ? ',' : '.');
+        }
+        text += "\r\n";
+        if (text.size() < kChunkBytes)
+            continue;
+        if (device.write(text) != text.size())
+            return false;
+        text.clear();
+    }
+    return device.write(text) == text.size();
+}
+
+} // namespace vlk

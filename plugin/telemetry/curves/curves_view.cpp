@@ -1,0 +1,248 @@
+#include "telemetry/curves/curves_view.h"
+
+#include "telemetry/curves/bands_strip.h"
+#include "telemetry/curves/curve_choice.h"
+#include "telemetry/curves/curve_legend.h"
+#include "telemetry/curves/curve_presets.h"
+#include "telemetry/curves/curves_model.h"
+#include "telemetry/curves/curves_plot.h"
+#include "telemetry/curves/curves_sheet.h"
+#include "telemetry/curves/curves_table.h"
+#include "telemetry/curves/hand_over.h"
+#include "telemetry/curves/span_moves.h"
+#include "typing/notice_bar.h"
+#include "windows/named_widget.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QImage>
+#include <QLabel>
+#include <QMenu>
+#include <QPainter>
+#include <QPushButton>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace vlk {
+
+namespace {
+
+constexpr int kLeastPlot = 60;
+constexpr QSize kCurvesSize(640, 240);
+constexpr int kStripShare = 4; // of the height, one in
+
+} // namespace
+
+CurvesView::CurvesView(ShownRecords* records, QWidget* parent)
+    : QWidget(parent), records_(records), model_(new CurvesModel(records, this)),
+      bar_(new NoticeBar(this, QStringLiteral("label_CurvesNotice"))), handOver_(new HandOver(this, bar_)),
+      presets_(namedWidget<QComboBox>("comboBox_CurvePreset", this)),
+      choose_(namedWidget<QPushButton>("pushButton_ChooseCurves", this)),
+      cursorA_(namedWidget<QToolButton>("toolButton_CursorA", this)),
+      cursorB_(namedWidget<QToolButton>("toolButton_CursorB", this)),
+      handOverMenu_(namedWidget<QPushButton>("pushButton_HandOverCurves", this)),
+      plot_(new CurvesPlot(model_, this)), strip_(new BandsStrip(model_, plot_, this)),
+      line_(namedWidget<QLabel>("label_Cursors", this))
+{
+    plot_->setObjectName(QStringLiteral("plot_Curves"));
+    plot_->setMinimumHeight(kLeastPlot);
+    line_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    presets_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    for (QPushButton* const button : {choose_, handOverMenu_})
+        button->setAutoDefault(false);
+    for (QToolButton* const button : {cursorA_, cursorB_}) {
+        button->setCheckable(true);
+        button->setFocusPolicy(Qt::TabFocus);
+    }
+    cursorA_->setText(QStringLiteral("A"));
+    cursorB_->setText(QStringLiteral("B"));
+    auto* const legend = new CurveLegend(model_, false, this);
+    legend->setObjectName(QStringLiteral("legend_Curves"));
+    auto* const tools = new QHBoxLayout;
+    tools->setSpacing(8);
+    tools->addWidget(presets_);
+    tools->addWidget(choose_);
+    tools->addWidget(legend, 1);
+    tools->addWidget(cursorA_);
+    tools->addWidget(cursorB_);
+    tools->addWidget(handOverMenu_);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6, 0, 6, 0);
+    layout->setSpacing(2);
+    layout->addWidget(bar_);
+    layout->addLayout(tools);
+    layout->addWidget(plot_, 1);
+    layout->addWidget(strip_);
+    layout->addWidget(line_);
+    setFocusProxy(plot_);
+
+    connect(presets_, qOverload<int>(&QComboBox::activated), this, [this](int index) {
+        isChosen_ = true;
+        showPreset(index);
+    });
+    connect(choose_, &QPushButton::clicked, this, &CurvesView::choose);
+    connect(cursorA_, &QToolButton::clicked, this, [this] { model_->setMoving(Cursor::a); });
+    // A second press of B takes it away.
+    connect(cursorB_, &QToolButton::clicked, this, [this] {
+        if (model_->moving() == Cursor::b)
+            model_->endCursorB();
+        else
+            model_->setMoving(Cursor::b);
+    });
+    connect(model_, &CurvesModel::changed, this, &CurvesView::refresh);
+    connect(model_, &CurvesModel::cursorsChanged, this, &CurvesView::refresh);
+    connect(records, &ShownRecords::currentChanged, this, &CurvesView::keepInSight);
+    connect(records, &ShownRecords::contentsChanged, this, [this] {
+        if (!isChosen_ || model_->curves().empty())
+            showFirstUseful();
+    });
+    retranslate();
+    showFirstUseful();
+}
+
+CurvesView::~CurvesView() = default;
+
+QSize CurvesView::sizeHint() const
+{
+    return kCurvesSize;
+}
+
+void CurvesView::resizeEvent(QResizeEvent*)
+{
+    strip_->setMostHeight(height() / kStripShare);
+}
+
+void CurvesView::setTitle(const QString& title)
+{
+    title_ = title;
+}
+
+void CurvesView::retranslate()
+{
+    presets_->setAccessibleName(tr("rec_180"));
+    choose_->setText(tr("rec_181"));
+    handOverMenu_->setText(tr("rec_182"));
+    cursorA_->setToolTip(tr("rec_183"));
+    cursorB_->setToolTip(tr("rec_184"));
+    plot_->setAccessibleName(tr("rec_185"));
+    plot_->setWhatsThis(tr("rec_186"));
+    delete handOverMenu_->menu();
+    auto* const menu = new QMenu(handOverMenu_);
+    menu->addAction(tr("rec_187"), this, &CurvesView::askPicture);
+    menu->addAction(tr("rec_188"), this, &CurvesView::askTable);
+    menu->addAction(tr("rec_189"), this, [this] {
+        handOver_->print([this](QPainter& painter, const QSize& size) { paint(painter, size); });
+    });
+    handOverMenu_->setMenu(menu);
+    fillPresets();
+    model_->retranslate();
+    plot_->retranslate();
+    bar_->retranslate();
+}
+
+void CurvesView::fillPresets()
+{
+    const int current = presets_->currentIndex();
+    presets_->clear();
+    for (const BuiltInPreset& preset : builtInPresets())
+        presets_->addItem(tr(preset.title), presetItems(preset.curves) + presetItems(preset.states));
+    for (const CurvePreset& preset : keptPresets())
+        presets_->addItem(preset.name, preset.items);
+    presets_->setPlaceholderText(tr("rec_190"));
+    presets_->setCurrentIndex(current < presets_->count() ? current : -1);
+}
+
+void CurvesView::showPreset(int index)
+{
+    const bool isBuiltIn = index < static_cast<int>(builtInPresets().size());
+    model_->show(presets_->itemData(index).toStringList(),
+                 isBuiltIn ? CurvesModel::Choice::offered : CurvesModel::Choice::chosen);
+}
+
+void CurvesView::showFirstUseful()
+{
+    for (int index = 0; index < static_cast<int>(builtInPresets().size()); ++index) {
+        presets_->setCurrentIndex(index);
+        showPreset(index);
+        if (!model_->curves().empty())
+            return;
+    }
+    presets_->setCurrentIndex(0);
+    showPreset(0);
+}
+
+void CurvesView::choose()
+{
+    const bool isOwn = presets_->currentIndex() >= static_cast<int>(builtInPresets().size());
+    CurveChoice dialog(model_, isOwn ? presets_->currentText() : QString(), this);
+    connect(&dialog, &CurveChoice::chosen, this, [this] {
+        isChosen_ = true;
+        presets_->setCurrentIndex(-1);
+    });
+    connect(&dialog, &CurveChoice::presetKept, this, [this](const QString& name) {
+        fillPresets();
+        presets_->setCurrentIndex(presets_->findText(name));
+    });
+    connect(&dialog, &CurveChoice::presetDeleted, this, [this] {
+        fillPresets();
+        presets_->setCurrentIndex(-1);
+    });
+    dialog.exec();
+}
+
+void CurvesView::refresh()
+{
+    line_->setText(model_->cursorLine());
+    plot_->setAccessibleDescription(line_->text());
+    cursorA_->setChecked(model_->moving() == Cursor::a);
+    cursorB_->setChecked(model_->moving() == Cursor::b);
+}
+
+// What the table shows is in sight here too.
+void CurvesView::keepInSight(int record)
+{
+    const quint32 time = records_->columns().times()[record];
+    if (time != 0)
+        records_->setInSight(holding(records_->inSight(), time, records_->wholeTime()));
+}
+
+void CurvesView::paint(QPainter& painter, const QSize& size) const
+{
+    paintCurves(painter, size, *model_, records_->inSight(), title_);
+}
+
+bool CurvesView::write(QIODevice& device) const
+{
+    return writeCurves(device, *model_, records_->inSight());
+}
+
+QImage CurvesView::picture(const TimeSpan& span, const QSize& size) const
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    paintCurves(painter, size, *model_, span, title_);
+    return image;
+}
+
+void CurvesView::saveTo(const QString& path)
+{
+    if (path.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive))
+        handOver_->saveTable(path, [this](QIODevice& device) { return write(device); });
+    else
+        handOver_->savePicture(path, [this](QPainter& painter, const QSize& size) { paint(painter, size); });
+}
+
+void CurvesView::askPicture()
+{
+    handOver_->askPicture(QStringLiteral("%1 %2").arg(title_, presets_->currentText()).trimmed(),
+                          [this](QPainter& painter, const QSize& size) { paint(painter, size); });
+}
+
+void CurvesView::askTable()
+{
+    handOver_->askTable(QStringLiteral("%1 %2").arg(title_, presets_->currentText()).trimmed(),
+                        [this](QIODevice& device) { return write(device); });
+}
+
+} // namespace vlk

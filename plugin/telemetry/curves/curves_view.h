@@ -1,0 +1,70 @@
+#pragma once
+
+// Curves of the records on show, with two cursors; a part of the window of records.
+
+#include <QWidget>
+
+class QComboBox;
+class QIODevice;
+class QLabel;
+class QPushButton;
+class QToolButton;
+
+namespace vlk {
+
+class BandsStrip;
+class CurvesModel;
+class CurvesPlot;
+class HandOver;
+class NoticeBar;
+class ShownRecords;
+struct TimeSpan;
+
+class CurvesView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CurvesView(ShownRecords* records, QWidget* parent = nullptr);
+    ~CurvesView() override;
+
+    // What stands above a picture, the vehicle or the file.
+    void setTitle(const QString& title);
+    QImage picture(const TimeSpan& span, const QSize& size) const;
+    // What is in sight: as CSV, SVG or PNG by the suffix.
+    void saveTo(const QString& path);
+    void retranslate();
+    QSize sizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void fillPresets();
+    void showPreset(int index);
+    void showFirstUseful();
+    void choose();
+    void refresh();
+    void keepInSight(int record);
+    void askPicture();
+    void askTable();
+    void paint(QPainter& painter, const QSize& size) const;
+    bool write(QIODevice& device) const;
+
+    ShownRecords* records_;
+    CurvesModel* model_;
+    NoticeBar* bar_;
+    HandOver* handOver_;
+    QComboBox* presets_;
+    QPushButton* choose_;
+    QToolButton* cursorA_;
+    QToolButton* cursorB_;
+    QPushButton* handOverMenu_;
+    CurvesPlot* plot_;
+    BandsStrip* strip_;
+    QLabel* line_;
+    QString title_;
+    bool isChosen_ = false; // what is shown, by the user
+};
+
+} // namespace vlk

@@ -1,0 +1,147 @@
+#include "telemetry/curves/hand_over.h"
+
+#include "base/file_name.h"
+#include "base/translated.h"
+#include "link/device.h"
+#include "typing/file_error.h"
+#include "typing/notice_bar.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QFileDialog>
+#include <QImage>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QSvgGenerator>
+
+namespace vlk {
+
+namespace {
+
+constexpr QSize kPictureSize(1200, 600);
+constexpr int kPicturePixels = 2; // a point
+constexpr int kSavedNotice = 1;
+constexpr int kSavedNewsMs = 8000;
+
+QByteArray svgOf(const PaintPicture& paint)
+{
+    QBuffer buffer;
+    QSvgGenerator svg;
+    svg.setOutputDevice(&buffer);
+    svg.setSize(kPictureSize);
+    svg.setViewBox(QRect(QPoint(), kPictureSize));
+    QPainter painter(&svg);
+    paint(painter, kPictureSize);
+    painter.end();
+    return buffer.data();
+}
+
+QByteArray pngOf(const PaintPicture& paint)
+{
+    QImage image(kPictureSize * kPicturePixels, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.scale(kPicturePixels, kPicturePixels);
+    paint(painter, kPictureSize);
+    painter.end();
+    QBuffer buffer;
+    image.save(&buffer, "PNG");
+    return buffer.data();
+}
+
+} // namespace
+
+HandOver::HandOver(QWidget* window, NoticeBar* bar) : QObject(window), window_(window), bar_(bar)
+{
+    news_.setSingleShot(true);
+    news_.setInterval(kSavedNewsMs);
+    connect(&news_, &QTimer::timeout, bar, [bar] { bar->end(kSavedNotice); });
+}
+
+void HandOver::save(const QString& path, const WriteContent& write)
+{
+    QString reason;
+    const bool isSaved = replaceFile(path, write, &reason);
+    const QString shown = QDir::toNativeSeparators(path);
+    news_.stop();
+    if (isSaved) {
+        bar_->tell(kSavedNotice, {Mark::right, translated("rec_170").arg(shown), {}});
+        news_.start();
+    } else {
+        bar_->tell(kSavedNotice,
+                   {Mark::invalid, translated("rec_171").arg(shown, fileErrorText(reason)), {}});
+    }
+}
+
+void HandOver::savePicture(const QString& path, const PaintPicture& paint)
+{
+    const bool isSvg = path.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive);
+    const QByteArray picture = isSvg ? svgOf(paint) : pngOf(paint);
+    save(path, [&](QIODevice& device) { return device.write(picture) == picture.size(); });
+}
+
+void HandOver::saveTable(const QString& path, const WriteContent& write)
+{
+    save(path, write);
+}
+
+QString HandOver::askPath(const QString& proposed, const QStringList& suffixes)
+{
+    QStringList filters;
+    for (const QString& suffix : suffixes)
+        filters << QStringLiteral("%1 (*.%2)").arg(suffix.toUpper(), suffix);
+    const QDir folder(vlkDevice ? vlkDevice->tmiFolder() : QString());
+    const QString name = asFileName(proposed, QStringLiteral("-")) + QLatin1Char('.') + suffixes.front();
+    QString filter;
+    QString path = QFileDialog::getSaveFileName(window_, translated("wrd_028"), folder.filePath(name),
+                                                filters.join(QLatin1String(";;")), &filter);
+    const int chosen = std::max(filters.indexOf(filter), 0);
+    if (!path.isEmpty() && QFileInfo(path).suffix().isEmpty())
+        path += QLatin1Char('.') + suffixes[chosen];
+    return path;
+}
+
+void HandOver::askPicture(const QString& proposed, const PaintPicture& paint)
+{
+    const QString path = askPath(proposed, {QStringLiteral("png"), QStringLiteral("svg")});
+    if (!path.isEmpty())
+        savePicture(path, paint);
+}
+
+void HandOver::askTable(const QString& proposed, const WriteContent& write)
+{
+    const QString path = askPath(proposed, {QStringLiteral("csv")});
+    if (!path.isEmpty())
+        saveTable(path, write);
+}
+
+void HandOver::print(const PaintPicture& paint)
+{
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setPageOrientation(QPageLayout::Landscape);
+    QPrintDialog dialog(&printer, window_);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    QPainter painter;
+    if (!painter.begin(&printer)) {
+        bar_->tell(kSavedNotice, {Mark::invalid, translated("rec_172"), {}});
+        return;
+    }
+    // The picture as it is on a screen, as large as the page.
+    const QRect page = painter.viewport();
+    const double scale =
+        std::min(double(page.width()) / kPictureSize.width(), double(page.height()) / kPictureSize.height());
+    painter.scale(scale, scale);
+    paint(painter, kPictureSize);
+}
+
+QPalette paperPalette()
+{
+    QPalette palette(Qt::black, QColor(0xf0f0f0), Qt::white, Qt::darkGray, Qt::gray, Qt::black, Qt::white,
+                     Qt::white, Qt::white);
+    palette.setColor(QPalette::Highlight, QColor(0x1f5f9e));
+    return palette;
+}
+
+} // namespace vlk

@@ -1,0 +1,51 @@
+#pragma once
+
+// What curves and track give to others: a picture as a file or on paper, and a table. Success and failure are
+// told on the bar of the window.
+
+#include "base/replace_file.h"
+
+#include <QObject>
+#include <QSize>
+#include <QTimer>
+
+class QPainter;
+class QWidget;
+
+namespace vlk {
+
+class NoticeBar;
+
+// Paints the picture into that many pixels from the painter's origin on.
+using PaintPicture = std::function<void(QPainter& painter, const QSize& size)>;
+
+class HandOver : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Both are the window's own.
+    HandOver(QWidget* window, NoticeBar* bar);
+
+    // By the suffix of the path: as SVG, as PNG otherwise.
+    void savePicture(const QString& path, const PaintPicture& paint);
+    void saveTable(const QString& path, const WriteContent& write);
+
+    // Ask where; the names get a suffix of their own.
+    void askPicture(const QString& proposed, const PaintPicture& paint);
+    void askTable(const QString& proposed, const WriteContent& write);
+    void print(const PaintPicture& paint);
+
+private:
+    void save(const QString& path, const WriteContent& write);
+    QString askPath(const QString& proposed, const QStringList& suffixes);
+
+    QWidget* window_;
+    NoticeBar* bar_;
+    QTimer news_;
+};
+
+// On white, whatever the windows look like.
+QPalette paperPalette();
+
+} // namespace vlk

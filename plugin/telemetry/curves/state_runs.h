@@ -1,0 +1,59 @@
+#pragma once
+
+// When a state of two was on, as a band below the curves draws it. It lasts until the next record that tells
+// it; where that is more than five minutes away, nothing is known of the time between.
+
+#include "telemetry/view/shown_records.h"
+
+namespace vlk {
+
+struct StateRuns
+{
+    struct Run
+    {
+        quint32 from;
+        quint32 to;
+        bool operator==(const Run&) const = default;
+    };
+
+    std::vector<Run> on;    // rising
+    std::vector<Run> known; // likewise
+
+    // `state(record)` gives 1 or 0, and anything else where the record does not tell.
+    template <class State>
+    StateRuns(const std::vector<int>& byTime, const std::vector<quint32>& times, State state);
+    StateRuns() = default;
+
+    // Whether it was on, or known, at some moment from `from` to `to`.
+    static bool isAny(const std::vector<Run>& runs, double from, double to);
+
+private:
+    static void addTo(std::vector<Run>& runs, quint32 from, quint32 to);
+    static bool isGap(quint32 from, quint32 to);
+};
+
+template <class State>
+StateRuns::StateRuns(const std::vector<int>& byTime, const std::vector<quint32>& times, State state)
+{
+    int before = -1;
+    quint32 since = 0;
+    for (const int record : byTime) {
+        const int now = state(record);
+        if (now != 0 && now != 1)
+            continue;
+        const quint32 time = times[record];
+        if (before >= 0 && !isGap(since, time)) {
+            addTo(known, since, time);
+            if (before == 1)
+                addTo(on, since, time);
+        }
+        // A record alone between gaps is a moment.
+        addTo(known, time, time);
+        if (now == 1)
+            addTo(on, time, time);
+        before = now;
+        since = time;
+    }
+}
+
+} // namespace vlk

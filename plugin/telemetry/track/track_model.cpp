@@ -1,0 +1,107 @@
+#include "telemetry/track/track_model.h"
+
+#include "telemetry/curves/extreme_pyramid.h"
+#include "telemetry/files/rare_events.h"
+
+#include <algorithm>
+
+namespace vlk {
+
+TrackModel::TrackModel(ShownRecords* records, QObject* parent) : QObject(parent), records_(records)
+{
+    connect(records, &ShownRecords::contentsChanged, this, &TrackModel::restart);
+    connect(records, &ShownRecords::recordsAdded, this, &TrackModel::grow);
+    connect(records, &ShownRecords::foundChanged, this, &TrackModel::changed);
+    // What was computed anew may stand at another place, or be gone.
+    connect(records, &ShownRecords::computedChanged, this, [this] {
+        describe();
+        Q_EMIT changed();
+    });
+    connect(records, &ShownRecords::inSightChanged, this, [this] {
+        if (isSpanOnly_)
+            Q_EMIT changed();
+    });
+    restart();
+}
+
+void TrackModel::restart()
+{
+    path_ = TrackPath();
+    path_.add(trackPoints(records_->columns()));
+    describe();
+    Q_EMIT restarted();
+}
+
+void TrackModel::grow(int first)
+{
+    const TrackPoint* const before = path_.isEmpty() ? nullptr : &path_.points().back();
+    const std::vector<TrackPoint> added = trackPoints(records_->columns(), first, before);
+    const bool wasEmpty = path_.isEmpty();
+    path_.add(added);
+    describe();
+    if (wasEmpty)
+        Q_EMIT restarted();
+    else
+        Q_EMIT changed();
+}
+
+void TrackModel::describe()
+{
+    const QString wanted = column_ ? column_->name : itemName(item("Speed"));
+    const std::vector<CurveColumn> columns = curveColumns(*records_);
+    const auto found = std::ranges::find(columns, wanted, &CurveColumn::name);
+    column_ = found != columns.end() ? std::optional(*found) : std::nullopt;
+    stops_ = stopsOf(records_->columns(), records_->byTime());
+    events_ = rareEvents(records_->columns(), records_->byTime());
+    std::ranges::sort(events_);
+    classify();
+}
+
+void TrackModel::classify()
+{
+    Extremes extremes;
+    if (const NumberColumn* const numbers = values()) {
+        for (const TrackPoint& point : path_.points()) {
+            if (point.record < static_cast<int>(numbers->size()))
+                extremes.add((*numbers)[point.record]);
+        }
+    }
+    classes_ = extremes.isEmpty() ? ValueClasses() : ValueClasses(extremes.least, extremes.greatest);
+}
+
+void TrackModel::setColumn(const std::optional<CurveColumn>& column)
+{
+    column_ = column;
+    classify();
+    Q_EMIT changed();
+}
+
+const NumberColumn* TrackModel::values() const
+{
+    return column_ ? &numbersOf(*records_, *column_) : nullptr;
+}
+
+double TrackModel::valueAt(int record) const
+{
+    return column_ ? numberOf(*records_, *column_, record) : std::numeric_limits<double>::quiet_NaN();
+}
+
+void TrackModel::setSpanOnly(bool only)
+{
+    isSpanOnly_ = only;
+    Q_EMIT changed();
+}
+
+QRectF TrackModel::bounds() const
+{
+    QRectF bounds;
+    bool isFirst = true;
+    for (int point = 0; point < static_cast<int>(path_.points().size()); ++point) {
+        if (!isShown(path_.points()[point]))
+            continue;
+        unite(bounds, path_.place(point), std::exchange(isFirst, false));
+    }
+    return bounds;
+}
+
+} // namespace vlk

@@ -1,0 +1,40 @@
+#pragma once
+
+// Draws a track: the path in the colours of its values, stops and events, the record that is looked at, the
+// legend, the bar of the scale, north.
+
+#include <QPointF>
+#include <QRectF>
+#include <QSizeF>
+
+class QPainter;
+class QPalette;
+
+namespace vlk {
+
+class TrackModel;
+
+// What part of the plane is seen, at what scale.
+struct TrackSight
+{
+    QPointF middle;
+    double metresPerPixel = 1;
+
+    QPointF toPixel(const QPointF& place, const QSizeF& size) const
+    {
+        return (place - middle) / metresPerPixel + QPointF(size.width() / 2, size.height() / 2);
+    }
+    QPointF toPlace(const QPointF& pixel, const QSizeF& size) const
+    {
+        return (pixel - QPointF(size.width() / 2, size.height() / 2)) * metresPerPixel + middle;
+    }
+    bool operator==(const TrackSight&) const = default;
+};
+
+// All of the bounds, with a margin; of a vehicle that never moved its surroundings.
+TrackSight sightOf(const QRectF& bounds, const QSizeF& size);
+
+void paintTrack(QPainter& painter, const QSizeF& size, const TrackModel& model, const TrackSight& sight,
+                const QPalette& palette);
+
+} // namespace vlk

@@ -1,0 +1,167 @@
+#include "telemetry/track/track_view.h"
+
+#include "telemetry/curves/hand_over.h"
+#include "telemetry/curves/time_scale.h"
+#include "telemetry/track/track_canvas.h"
+#include "telemetry/track/track_model.h"
+#include "typing/notice_bar.h"
+#include "windows/named_widget.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QImage>
+#include <QLabel>
+#include <QLocale>
+#include <QMenu>
+#include <QPainter>
+#include <QPushButton>
+
+namespace vlk {
+
+namespace {
+
+constexpr int kPlaceDecimals = 6;
+constexpr int kTitleHeight = 30;
+
+} // namespace
+
+TrackView::TrackView(ShownRecords* records, QWidget* parent)
+    : QWidget(parent), records_(records), model_(new TrackModel(records, this)),
+      bar_(new NoticeBar(this, QStringLiteral("label_TrackNotice"))), handOver_(new HandOver(this, bar_)),
+      columnsLabel_(new QLabel(this)), columns_(namedWidget<QComboBox>("comboBox_TrackValue", this)),
+      spanOnly_(namedWidget<QCheckBox>("checkBox_TrackSpanOnly", this)),
+      fit_(namedWidget<QPushButton>("pushButton_FitTrack", this)),
+      handOverMenu_(namedWidget<QPushButton>("pushButton_HandOverTrack", this)),
+      canvas_(new TrackCanvas(model_, this)), place_(namedWidget<QLabel>("label_TrackPlace", this))
+{
+    canvas_->setObjectName(QStringLiteral("canvas_Track"));
+    columnsLabel_->setBuddy(columns_);
+    columns_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    place_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    for (QPushButton* const button : {fit_, handOverMenu_})
+        button->setAutoDefault(false);
+    auto* const layout = new QGridLayout(this);
+    layout->setContentsMargins(6, 6, 6, 6);
+    layout->setSpacing(6);
+    layout->addWidget(bar_, 0, 0, 1, 4);
+    layout->addWidget(columnsLabel_, 1, 0);
+    layout->addWidget(columns_, 1, 1);
+    layout->addWidget(fit_, 1, 2);
+    layout->addWidget(handOverMenu_, 1, 3);
+    layout->addWidget(spanOnly_, 2, 0, 1, 4);
+    layout->addWidget(canvas_, 3, 0, 1, 4);
+    layout->addWidget(place_, 4, 0, 1, 4);
+    layout->setColumnStretch(1, 1);
+    layout->setRowStretch(3, 1);
+    setFocusProxy(canvas_);
+
+    connect(columns_, qOverload<int>(&QComboBox::activated), this, &TrackView::showColumn);
+    connect(spanOnly_, &QCheckBox::toggled, model_, &TrackModel::setSpanOnly);
+    connect(fit_, &QPushButton::clicked, canvas_, &TrackCanvas::fit);
+    connect(model_, &TrackModel::restarted, this, &TrackView::fillColumns);
+    connect(records, &ShownRecords::computedChanged, this, &TrackView::fillColumns);
+    connect(records, &ShownRecords::currentChanged, this, &TrackView::showPlace);
+    connect(model_, &TrackModel::restarted, this, &TrackView::showPlace);
+    connect(model_, &TrackModel::changed, this, &TrackView::showPlace);
+    retranslate();
+}
+
+void TrackView::setTitle(const QString& title)
+{
+    title_ = title;
+}
+
+void TrackView::retranslate()
+{
+    columnsLabel_->setText(tr("rec_196"));
+    spanOnly_->setText(tr("rec_197"));
+    fit_->setText(tr("rec_198"));
+    handOverMenu_->setText(tr("rec_182"));
+    canvas_->setAccessibleName(tr("rec_199"));
+    canvas_->setWhatsThis(tr("rec_200"));
+    delete handOverMenu_->menu();
+    auto* const menu = new QMenu(handOverMenu_);
+    const auto painted = [this](QPainter& painter, const QSize& size) { paint(painter, size); };
+    menu->addAction(tr("rec_187"), this, [this, painted] {
+        handOver_->askPicture(QStringLiteral("%1 %2").arg(title_, tr("rec_199")).trimmed(), painted);
+    });
+    menu->addAction(tr("rec_189"), this, [this, painted] { handOver_->print(painted); });
+    handOverMenu_->setMenu(menu);
+    bar_->retranslate();
+    fillColumns();
+    showPlace();
+    canvas_->update();
+}
+
+void TrackView::fillColumns()
+{
+    columns_->clear();
+    for (const CurveColumn& column : curveColumns(*records_))
+        columns_->addItem(withUnit(column), column.name);
+    columns_->setCurrentIndex(model_->column() ? columns_->findData(model_->column()->name) : -1);
+}
+
+void TrackView::showColumn(int index)
+{
+    model_->setColumn(curveColumns(*records_)[index]);
+}
+
+// "55.123456 37.123456  62 km/h" of the record that is looked at.
+void TrackView::showPlace()
+{
+    QString text;
+    const int record = records_->current();
+    const int point = model_->path().pointOf(record);
+    if (point >= 0 && model_->path().points()[point].record == record) {
+        const TrackPoint& at = model_->path().points()[point];
+        text = QLocale::c().toString(at.latitude, 'f', kPlaceDecimals) + QLatin1String(", ") +
+               QLocale::c().toString(at.longitude, 'f', kPlaceDecimals);
+        if (model_->column())
+            text += QLatin1String("   ") + valueText(*model_->column(), model_->valueAt(record));
+    } else if (record >= 0) {
+        text = tr("rec_201");
+    }
+    place_->setText(text);
+    canvas_->setAccessibleDescription(text);
+}
+
+void TrackView::paint(QPainter& painter, const QSize& size) const
+{
+    const TimeSpan span = model_->isSpanOnly() ? records_->inSight() : records_->wholeTime();
+    const qint32 offset = records_->utcOffset();
+    painter.setPen(Qt::black);
+    painter.drawText(
+        QRect(0, 0, size.width(), kTitleHeight), Qt::AlignCenter,
+        QStringLiteral("%1   %2 – %3, %4")
+            .arg(title_, momentText(span.from, offset), momentText(span.to, offset), zoneText(offset))
+            .trimmed());
+    painter.translate(0, kTitleHeight);
+    const QSizeF room(size.width(), size.height() - kTitleHeight);
+    // The same part, in another shape.
+    TrackSight sight = canvas_->sight();
+    sight.metresPerPixel *= std::max(canvas_->width() / room.width(), canvas_->height() / room.height());
+    paintTrack(painter, room, *model_, sight, paperPalette());
+}
+
+QImage TrackView::picture(const TimeSpan& span, const QSize& size) const
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    QRectF bounds;
+    bool isFirst = true;
+    for (int point = 0; point < static_cast<int>(model_->path().points().size()); ++point) {
+        if (span.contains(model_->path().points()[point].time))
+            unite(bounds, model_->path().place(point), std::exchange(isFirst, false));
+    }
+    paintTrack(painter, size, *model_, sightOf(bounds, size), paperPalette());
+    return image;
+}
+
+void TrackView::saveTo(const QString& path)
+{
+    handOver_->savePicture(path, [this](QPainter& painter, const QSize& size) { paint(painter, size); });
+}
+
+} // namespace vlk

@@ -1,0 +1,56 @@
+#pragma once
+
+// The track of the records on show; a part of the window of records.
+
+#include <QWidget>
+
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QPushButton;
+
+namespace vlk {
+
+class HandOver;
+class NoticeBar;
+class ShownRecords;
+class TrackCanvas;
+class TrackModel;
+struct TimeSpan;
+
+class TrackView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit TrackView(ShownRecords* records, QWidget* parent = nullptr);
+
+    // What stands above a picture, the vehicle or the file.
+    void setTitle(const QString& title);
+    // Of the part of the track in that span.
+    QImage picture(const TimeSpan& span, const QSize& size) const;
+    // What is in sight, as SVG or PNG by the suffix.
+    void saveTo(const QString& path);
+    void retranslate();
+
+private:
+    void fillColumns();
+    void showColumn(int index);
+    void showPlace();
+    void paint(QPainter& painter, const QSize& size) const;
+
+    ShownRecords* records_;
+    TrackModel* model_;
+    NoticeBar* bar_;
+    HandOver* handOver_;
+    QLabel* columnsLabel_;
+    QComboBox* columns_;
+    QCheckBox* spanOnly_;
+    QPushButton* fit_;
+    QPushButton* handOverMenu_;
+    TrackCanvas* canvas_;
+    QLabel* place_;
+    QString title_;
+};
+
+} // namespace vlk

@@ -1,0 +1,391 @@
+// Curves of records: what is drawn of a million numbers, the span in sight, the cursors, what is handed over.
+
+#include "support/data_table.h"
+#include "support/files.h"
+#include "support/records.h"
+#include "support/truck_records.h"
+#include "telemetry/curves/curve_series.h"
+#include "telemetry/curves/curves_view.h"
+#include "telemetry/curves/time_scale.h"
+#include "telemetry/record/record_head.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+using namespace vlk;
+
+namespace {
+
+constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+
+struct Sample
+{
+    quint32 time;
+    double value;
+};
+
+CurveSeries seriesOf(const std::vector<Sample>& samples)
+{
+    std::vector<quint32> times;
+    NumberColumn numbers;
+    std::vector<int> byTime;
+    for (const Sample& sample : samples) {
+        byTime.push_back(static_cast<int>(times.size()));
+        times.push_back(sample.time);
+        numbers.push_back(sample.value);
+    }
+    CurveSeries series;
+    series.add(byTime, times, numbers, [](int) { return true; });
+    return series;
+}
+
+QString told(const std::vector<QPolygonF>& pieces)
+{
+    QStringList all;
+    for (const QPolygonF& piece : pieces) {
+        QStringList points;
+        for (const QPointF& point : piece)
+            points << QStringLiteral("%1:%2").arg(point.x()).arg(point.y());
+        all << points.join(QLatin1Char(' '));
+    }
+    return all.join(QLatin1String(" / "));
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(std::vector<Sample>)
+
+class TestCurves : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        records_ = std::make_unique<ShownRecords>();
+        view_ = std::make_unique<CurvesView>(records_.get());
+        view_->resize(900, 400);
+        view_->show();
+        QVERIFY(QTest::qWaitForWindowExposed(view_.get()));
+        plot_ = view_->findChild<QWidget*>(QStringLiteral("plot_Curves"));
+    }
+    void cleanup() { view_.reset(); }
+
+    void drawsPieces_data();
+    void drawsPieces();
+    void losesNoExtreme();
+    void choosesRoundMoments_data();
+    void choosesRoundMoments();
+    void tellsTimes();
+    void movesByKeys();
+    void movesByMouse();
+    void comparesTwoMoments();
+    void showsWhatThereIs();
+    void choosesCurvesAndKeepsThem();
+    void handsOver();
+    void grows();
+    void survivesOddRecords_data();
+    void survivesOddRecords();
+
+private:
+    void open(RecordStore store)
+    {
+        TelemetryContents contents;
+        contents.records = std::move(store);
+        contents.records.setUtcOffset(3 * 3600);
+        records_->setContents(std::move(contents));
+    }
+    QString line() const { return view_->findChild<QLabel*>(QStringLiteral("label_Cursors"))->text(); }
+    void key(int key, Qt::KeyboardModifiers modifiers = {})
+    {
+        QTest::keyClick(plot_, Qt::Key(key), modifiers);
+    }
+    double length() const { return records_->inSight().to - records_->inSight().from; }
+    // The canvas, which takes the mouse.
+    QWidget* canvas() const { return plot_->findChild<QWidget*>(QStringLiteral("canvas_Curves")); }
+
+    std::unique_ptr<ShownRecords> records_;
+    std::unique_ptr<CurvesView> view_;
+    QWidget* plot_ = nullptr;
+};
+
+void TestCurves::drawsPieces_data()
+{
+    DataTable<std::vector<Sample>, double, double, int, QString>(
+        {"samples", "from", "to", "columns", "pieces"})
+        .row("nothing", {}, 0, 10, 10, "")
+        .row("one", {{5, 1}}, 0, 10, 10, "5:1")
+        .row("one beyond each end", {{0, 1}, {10, 2}, {20, 3}, {30, 4}, {40, 5}}, 15, 25, 10,
+             "10:2 20:3 30:4")
+        .row("a gap", {{0, 1}, {300, 2}, {601, 3}, {602, 4}}, 0, 999, 10, "0:1 300:2 / 601:3 602:4")
+        .row("no value", {{0, 1}, {1, kNone}, {2, 3}, {3, 4}}, 0, 9, 10, "0:1 / 2:3 3:4")
+        .row("one moment", {{7, 1}, {7, 5}, {7, 2}}, 7, 7, 10, "7:1 7:5 7:2")
+        .row("many a column",
+             {{0, 3}, {1, 9}, {2, 1}, {3, 4}, {4, 5}, {5, kNone}, {6, kNone}, {7, kNone}, {8, 6}}, 0, 8, 2,
+             "0:3 2:1 2:9 3:4 4:5 6:5 6:6 8:6");
+}
+
+void TestCurves::drawsPieces()
+{
+    QFETCH(std::vector<Sample>, samples);
+    QFETCH(double, from);
+    QFETCH(double, to);
+    QFETCH(int, columns);
+    QTEST(told(seriesOf(samples).pieces({from, to}, columns)), "pieces");
+}
+
+void TestCurves::losesNoExtreme()
+{
+    std::mt19937 random(7106);
+    NumberColumn numbers;
+    ExtremePyramid pyramid;
+    for (int step = 0; step < 40; ++step) {
+        for (unsigned more = random() % 300; more > 0; --more)
+            numbers.push_back(random() % 20 == 0 ? kNone : double(random() % 100'000));
+        pyramid.grow(numbers);
+        const std::size_t last = random() % (numbers.size() + 1);
+        const std::size_t first = random() % (last + 1);
+        Extremes expected;
+        for (std::size_t i = first; i < last; ++i)
+            expected.add(numbers[i]);
+        const Extremes found = pyramid.over(numbers, first, last);
+        QCOMPARE(found.least, expected.least);
+        QCOMPARE(found.greatest, expected.greatest);
+    }
+}
+
+void TestCurves::choosesRoundMoments_data()
+{
+    DataTable<double, int, QString, int>({"seconds", "most", "first", "count"})
+        .row("minutes", 600, 6, "18.11. 03:02", 5)
+        .row("hours", 86'400, 8, "18.11. 06:00", 8)
+        .row("days", 7 * 86'400, 8, "19.11.", 7)
+        .row("years", 5 * 365 * 86'400.0, 6, "21.10.2027", 5)
+        .row("a second", 1, 6, "18.11. 03:00:01", 2);
+}
+
+// From 03:00:01 on the clock of UTC+3.
+void TestCurves::choosesRoundMoments()
+{
+    QFETCH(double, seconds);
+    QFETCH(int, most);
+    const TimeTicks ticks = timeTicks({kTruckStart + 1.0, kTruckStart + 1 + seconds}, most, 3 * 3600);
+    QTEST(tickText(ticks.major.front(), ticks.step, 3 * 3600), "first");
+    QTEST(static_cast<int>(ticks.major.size()), "count");
+    QVERIFY(ticks.minor.size() >= ticks.major.size());
+}
+
+void TestCurves::tellsTimes()
+{
+    const auto plain = [](QString text) { return text.replace(QChar::Nbsp, QLatin1Char(' ')); };
+    QCOMPARE(plain(durationText(45)), QStringLiteral("45 abbr_003"));
+    QCOMPARE(plain(durationText(-28 * 60 - 6)), QStringLiteral("-28 abbr_002"));
+    QCOMPARE(plain(durationText(3 * 3600 + 300)), QStringLiteral("3 abbr_001 05 abbr_002"));
+    QCOMPARE(plain(durationText(2 * 86'400 + 4 * 3600)), QStringLiteral("2 abbr_004 4 abbr_001"));
+    QCOMPARE(momentText(kTruckStart, kTruckStart + 60, 10'800), QStringLiteral("03:00:00"));
+    QCOMPARE(momentText(kTruckStart, kTruckStart - 86'400, 10'800), QStringLiteral("18.11.2026 03:00:00"));
+    QCOMPARE(zoneText(10'800) + zoneText(0) + zoneText(-12'600), QStringLiteral("UTC+3UTCUTC-3:30"));
+}
+
+void TestCurves::movesByKeys()
+{
+    open(truckRecords(1000));
+    const double whole = length();
+    key(Qt::Key_Right);
+    key(Qt::Key_Right);
+    key(Qt::Key_Left);
+    QCOMPARE(records_->current(), 1);
+    key(Qt::Key_Plus);
+    QVERIFY(length() < whole * 0.8);
+    QVERIFY(records_->inSight().contains(kTruckStart + 30));
+    key(Qt::Key_End);
+    QCOMPARE(records_->current(), 999);
+    QVERIFY2(records_->inSight().contains(kTruckStart + 999 * 30), "the cursor is out of sight");
+    const TimeSpan atEnd = records_->inSight();
+    key(Qt::Key_Left, Qt::ControlModifier);
+    QCOMPARE(records_->inSight().to, atEnd.to - 0.1 * length());
+    key(Qt::Key_Minus);
+    key(Qt::Key_Minus);
+    QCOMPARE(length(), whole);
+    for (int i = 0; i < 60; ++i)
+        key(Qt::Key_Plus);
+    QCOMPARE(length(), 10.0);
+    key(Qt::Key_0, Qt::ControlModifier);
+    QCOMPARE(length(), whole);
+    key(Qt::Key_Home);
+    QCOMPARE(records_->current(), 0);
+}
+
+void TestCurves::movesByMouse()
+{
+    open(truckRecords(1000));
+    const double whole = length();
+    const int width = canvas()->width();
+    const auto drag = [&](Qt::MouseButton button, Qt::KeyboardModifiers modifiers, int from, int to) {
+        QTest::mousePress(canvas(), button, modifiers, {from, 20});
+        // QTest moves no mouse with a button held.
+        QMouseEvent move(QEvent::MouseMove, QPointF(to, 20), button, button, modifiers);
+        QCoreApplication::sendEvent(canvas(), &move);
+        QTest::mouseRelease(canvas(), button, modifiers, {to, 20});
+    };
+    QTest::mouseClick(canvas(), Qt::LeftButton, {}, {width / 2, 20});
+    QVERIFY(qAbs(records_->current() - 500) < 5);
+    drag(Qt::LeftButton, {}, width / 4, width / 2);
+    QVERIFY(qAbs(length() / whole - 0.25) < 0.01);
+    const double from = records_->inSight().from;
+    drag(Qt::LeftButton, Qt::ShiftModifier, width / 4, width / 2);
+    QVERIFY(qAbs((from - records_->inSight().from) / length() - 0.25) < 0.01);
+    drag(Qt::MiddleButton, {}, width / 2, width / 4);
+    QCOMPARE(qRound(records_->inSight().from), qRound(from));
+    const auto turn = [&](Qt::KeyboardModifiers modifiers) {
+        QWheelEvent wheel(QPointF(0, 20), canvas()->mapToGlobal({0, 20}), {}, {0, 120}, {}, modifiers,
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(canvas(), &wheel);
+    };
+    turn({});
+    QVERIFY(qAbs(length() / whole - 0.25 * 0.7) < 0.01);
+    QVERIFY2(qAbs(records_->inSight().from - from) < length() / 100, "it did not zoom at the pointer");
+    turn(Qt::ControlModifier);
+    QVERIFY(records_->inSight().from < from - length() / 20);
+}
+
+void TestCurves::comparesTwoMoments()
+{
+    open(truckRecords(3000));
+    records_->setCurrent(2220);
+    QCOMPARE(line(),
+             QStringLiteral("A 18.11.2026 21:30:00 1") + QLocale().groupSeparator() + QStringLiteral("761"));
+    key(Qt::Key_B);
+    records_->setCurrent(2223);
+    const QStringList parts = line().split(QStringLiteral(" | "));
+    QCOMPARE(parts.size(), 3);
+    QVERIFY(parts[1].startsWith(QLatin1String("B 21:31:30 ")));
+    QCOMPARE(parts[2], QStringLiteral("1%1abbr_002 -250").arg(QChar(QChar::Nbsp)));
+    key(Qt::Key_Down); // speed, which does not differ
+    QVERIFY(line().endsWith(QStringLiteral(" 0.00%1abbr_024").arg(QChar(QChar::Nbsp))));
+    key(Qt::Key_A);
+    QCOMPARE(records_->current(), 2220);
+    key(Qt::Key_Escape);
+    QCOMPARE(line().count(QLatin1Char('|')), 0);
+}
+
+void TestCurves::showsWhatThereIs()
+{
+    open(truckRecords(3000));
+    const auto* const legend = view_->findChild<QWidget*>(QStringLiteral("legend_Curves"));
+    QCOMPARE(legend->accessibleDescription().count(QLatin1Char(';')), 1);
+    auto* const presets = view_->findChild<QComboBox*>(QStringLiteral("comboBox_CurvePreset"));
+    QTest::keyClick(presets, Qt::Key_Down);
+    QVERIFY(legend->accessibleDescription().startsWith(QLatin1String("tmizta_158")));
+    QTest::keyClick(presets, Qt::Key_Down); // GSM: satellites alone
+    QCOMPARE(legend->accessibleDescription(), QStringLiteral("tmizta_147"));
+    QTest::keyClick(presets, Qt::Key_Down); // no temperature
+    QVERIFY(legend->accessibleDescription().isEmpty());
+    // Litres stand before the code.
+    records_->setComputed({{"litres", "Tank", "l", NumberColumn(3000, 250.5)}});
+    QTest::keyClick(presets, Qt::Key_Home);
+    QVERIFY(legend->accessibleDescription().startsWith(QLatin1String("Tank, l; ")));
+    QCOMPARE(line().section(QLatin1Char(' '), 3), QStringLiteral("250.5%1l").arg(QChar(QChar::Nbsp)));
+}
+
+void TestCurves::choosesCurvesAndKeepsThem()
+{
+    open(truckRecords(3000));
+    const auto* const legend = view_->findChild<QWidget*>(QStringLiteral("legend_Curves"));
+    QTimer::singleShot(0, [&] {
+        QWidget* const dialog = QApplication::activeModalWidget();
+        auto* const find = dialog->findChild<QLineEdit*>();
+        auto* const list = dialog->findChild<QListWidget*>();
+        QTest::keyClicks(find, QStringLiteral("Power"));
+        for (int row = 0; row < list->count(); ++row) {
+            if (!list->item(row)->isHidden())
+                list->setCurrentRow(row);
+        }
+        QTest::keyClick(list, Qt::Key_Space);
+        dialog->close();
+    });
+    QTest::keyClick(view_->findChild<QPushButton*>(QStringLiteral("pushButton_ChooseCurves")), Qt::Key_Space);
+    QCOMPARE(legend->accessibleDescription().count(QLatin1Char(';')), 2);
+    QCOMPARE(view_->findChild<QComboBox*>(QStringLiteral("comboBox_CurvePreset"))->currentIndex(), -1);
+}
+
+void TestCurves::handsOver()
+{
+    open(truckRecords(100));
+    records_->setInSight({kTruckStart + 60.0, kTruckStart + 90.0});
+    const QTemporaryDir folder;
+    const QString table = folder.filePath(QStringLiteral("t.csv"));
+    view_->saveTo(table);
+    const QList<QByteArray> rows = readFile(table).split('\n');
+    QCOMPARE(rows.size(), 4);
+    QCOMPARE(rows[1], QByteArray("100002,2026-11-18T03:01:00+03:00,3200,0\r"));
+    view_->setTitle(QStringLiteral("KAMAZ"));
+    view_->saveTo(folder.filePath(QStringLiteral("p.svg")));
+    const QByteArray svg = readFile(folder.filePath(QStringLiteral("p.svg")));
+    QVERIFY(svg.contains(">KAMAZ") && svg.contains("18.11.2026 03:01:00") && svg.contains("</svg>"));
+    view_->saveTo(folder.filePath(QStringLiteral("p.png")));
+    QCOMPARE(QImage(folder.filePath(QStringLiteral("p.png"))).size(), QSize(2400, 1200));
+    view_->saveTo(folder.filePath(QStringLiteral("none/p.png")));
+    QVERIFY(view_->findChild<QLabel*>(QStringLiteral("label_CurvesNotice"))->text().startsWith("rec_171"));
+}
+
+void TestCurves::grows()
+{
+    open(truckRecords(100));
+    const auto add = [&](quint32 time) {
+        const RecordParts parts{{"Time", time}, {"Speed", std::bit_cast<quint32>(99.0F)}};
+        const QByteArray bytes = parts.bytes();
+        records_->append(bytesAt(bytes.constData(), bytes.size()));
+    };
+    records_->setCurrent(99);
+    add(kTruckStart + 3000);
+    QCOMPARE(records_->current(), 100);
+    QCOMPARE(records_->inSight().to, kTruckStart + 3000.0);
+    QVERIFY(line().startsWith(QStringLiteral("A 18.11.2026 03:50:00 –")));
+    key(Qt::Key_Down);
+    QVERIFY(line().contains(QLatin1String("99.00")));
+    // An earlier one takes its place; what is looked at and its own part in sight stay.
+    records_->setInSight({kTruckStart + 0.0, kTruckStart + 60.0});
+    records_->setCurrent(1);
+    add(kTruckStart + 45);
+    QCOMPARE(records_->inSight(), (TimeSpan{kTruckStart + 0.0, kTruckStart + 60.0}));
+    key(Qt::Key_Right);
+    QCOMPARE(records_->current(), 101);
+}
+
+void TestCurves::survivesOddRecords_data()
+{
+    DataTable<std::vector<Sample>>({"records"})
+        .row("none", {})
+        .row("one", {{kTruckStart, 5}})
+        .row("no times", {{0, 5}, {0, 6}})
+        .row("back and forth", {{kTruckStart, 1}, {kTruckStart - 100, 2}, {kTruckStart + 100, 3}, {0, 7}})
+        .row("as far as it goes", {{1, 1}, {0xFFFF'FFFF, 2}})
+        .row("huge values", {{kTruckStart, 3e38}, {kTruckStart + 1, -3e38}, {kTruckStart + 2, kNone}})
+        .row("ten thousand at once", std::vector<Sample>(10'000, {kTruckStart, 5}));
+}
+
+void TestCurves::survivesOddRecords()
+{
+    QFETCH(std::vector<Sample>, records);
+    RecordStore store;
+    for (const Sample& sample : records) {
+        const RecordParts parts{{"Time", sample.time},
+                                {"Code", 34},
+                                {"Speed", std::bit_cast<quint32>(static_cast<float>(sample.value))}};
+        store.add(30, parts.mask, parts.block);
+    }
+    open(std::move(store));
+    const std::vector<int> keys{Qt::Key_Right, Qt::Key_Plus, Qt::Key_Minus, Qt::Key_End, Qt::Key_B,
+                                Qt::Key_Left,  Qt::Key_Home, Qt::Key_Down,  Qt::Key_A,   Qt::Key_PageDown};
+    for (const int each : keys) {
+        key(each);
+        view_->grab();
+    }
+    QTest::mouseClick(canvas(), Qt::LeftButton, {}, {10, 10});
+    QVERIFY(records_->current() < records_->records().size());
+    QCOMPARE(line().isEmpty(), records.empty());
+}
+
+QTEST_MAIN(TestCurves)
+#include "tst_curves.moc"
