@@ -1,78 +1,44 @@
 #include "telemetry/files/record_columns.h"
 
+#include "telemetry/files/raw_values.h"
 #include "telemetry/text/item_text.h"
 
 #include <limits>
 
 namespace vlk {
 
-namespace {
-
-constexpr int kUnknown = -2;
-constexpr int kAbsent = -1;
-
-std::uint64_t rawAt(const std::uint8_t* bytes, int width)
-{
-    std::uint64_t raw = 0;
-    for (int i = 0; i < width; ++i)
-        raw |= std::uint64_t{bytes[i]} << 8 * i;
-    return raw;
-}
-
-// Calls visit(record, raw) for every record; raw is empty where `isHeld` of its layout gives false. A value
-// that is cut by the end of its record reads as 0, as it does everywhere.
-template <class IsHeld, class Visit>
-void walk(const RecordStore& store, ElementIndex index, IsHeld isHeld, Visit visit)
-{
-    const int width = kElements[index].width;
-    std::vector<int> offsets(store.layouts().size(), kUnknown);
-    for (int record = 0; record < store.size(); ++record) {
-        int& offset = offsets[store.layoutNumber(record)];
-        if (offset == kUnknown) {
-            const RecordLayout& layout = store.layout(record);
-            offset = isHeld(layout) ? layout.offsetOf(index) : kAbsent;
-        }
-        if (offset == kAbsent) {
-            visit(record, std::optional<std::uint64_t>());
-            continue;
-        }
-        const auto bytes = store.bytes(record);
-        const bool isWhole = bytes.size() >= static_cast<std::size_t>(offset + width);
-        visit(record, std::optional(isWhole ? rawAt(bytes.data() + offset, width) : 0));
-    }
-}
-
-} // namespace
-
+// Columns that were decoded before the store grew get the numbers that they lack.
 const NumberColumn& RecordColumns::numbers(ItemIndex item)
 {
-    const auto [place, isNew] = numbers_.try_emplace(item);
-    NumberColumn& column = place->second;
-    if (!isNew)
+    NumberColumn& column = numbers_[item];
+    const auto known = static_cast<int>(column.size());
+    if (known == store_.size())
         return column;
     column.resize(store_.size());
     const ElementIndex element = kItems[item].element;
-    walk(
+    forEachRaw(
         store_, element, [element](const RecordLayout& layout) { return layout.has(element); },
         [&](int record, std::optional<std::uint64_t> raw) {
             column[record] =
                 raw ? itemNumber(*raw, item, userTypes_) : std::numeric_limits<double>::quiet_NaN();
-        });
+        },
+        known);
     return column;
 }
 
 const std::vector<quint32>& RecordColumns::headColumn(ElementIndex element)
 {
-    const auto [place, isNew] = heads_.try_emplace(element);
-    std::vector<quint32>& column = place->second;
-    if (!isNew)
+    std::vector<quint32>& column = heads_[element];
+    const auto known = static_cast<int>(column.size());
+    if (known == store_.size())
         return column;
     column.resize(store_.size());
-    walk(
+    forEachRaw(
         store_, element, [](const RecordLayout&) { return true; },
         [&](int record, std::optional<std::uint64_t> raw) {
             column[record] = static_cast<quint32>(raw.value_or(0));
-        });
+        },
+        known);
     return column;
 }
 

@@ -3,7 +3,7 @@
 // Columns of a store of records, each decoded once into plain numbers: what filters, sorting, curves, the
 // track and sums work on. A column has one number a record, in the order of the store, in the unit that the
 // texts of the item have (item_text.h); NaN where the record does not hold the item or holds its code for no
-// value. The store must not change as long as its columns are used.
+// value. As long as its columns are used the store may grow: what was asked for before is asked for again.
 
 #include "telemetry/record/record_store.h"
 #include "telemetry/text/item.h"

@@ -1,0 +1,82 @@
+#include "telemetry/files/track_points.h"
+
+#include <QLibrary>
+#include <QLoggingCategory>
+
+#include <cmath>
+#include <geodesic.h>
+#include <limits>
+#include <optional>
+
+namespace vlk {
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcTrack, "vlk.track")
+
+// PROJ brings some forty libraries with it, so that a program that only may need distances does not link it.
+class Geodesics
+{
+public:
+    Geodesics()
+    {
+        QLibrary library(QStringLiteral(VLK_PROJ_LIBRARY));
+        const auto init = reinterpret_cast<decltype(&geod_init)>(library.resolve("geod_init"));
+        inverse_ = reinterpret_cast<decltype(&geod_inverse)>(library.resolve("geod_inverse"));
+        if (init == nullptr || inverse_ == nullptr) {
+            inverse_ = nullptr;
+            qCWarning(lcTrack) << "no distances:" << library.errorString();
+            return;
+        }
+        constexpr double equator = 6378137;
+        constexpr double flattening = 1 / 298.257223563;
+        init(&earth_, equator, flattening);
+    }
+
+    double metres(const TrackPoint& one, const TrackPoint& other) const
+    {
+        double distance = std::numeric_limits<double>::quiet_NaN();
+        if (inverse_ != nullptr)
+            inverse_(&earth_, one.latitude, one.longitude, other.latitude, other.longitude, &distance,
+                     nullptr, nullptr);
+        return distance;
+    }
+
+private:
+    geod_geodesic earth_{};
+    decltype(&geod_inverse) inverse_ = nullptr;
+};
+
+} // namespace
+
+std::vector<TrackPoint> trackPoints(RecordColumns& columns, int firstRecord, const TrackPoint* before)
+{
+    const NumberColumn& latitudes = columns.numbers(item("Latitude"));
+    const NumberColumn& longitudes = columns.numbers(item("Longitude"));
+    const NumberColumn& validities = columns.numbers(item("StateNGauge.fix"));
+    const std::vector<quint32>& times = columns.times();
+    std::vector<TrackPoint> points;
+    std::optional<quint32> lastTime;
+    if (before != nullptr)
+        lastTime = before->time;
+    for (int record = firstRecord; record < columns.store().size(); ++record) {
+        const double latitude = latitudes[record];
+        const double longitude = longitudes[record];
+        // What is absent is not in range; a validity that is absent calls nothing invalid.
+        const bool isInRange = std::abs(latitude) <= 90 && std::abs(longitude) <= 180;
+        if (!isInRange || (latitude == 0 && longitude == 0) || validities[record] == 0)
+            continue;
+        const bool starts = !lastTime || isGapBetween(*lastTime, times[record]);
+        lastTime = times[record];
+        points.push_back({record, times[record], latitude, longitude, starts});
+    }
+    return points;
+}
+
+double metresBetween(const TrackPoint& one, const TrackPoint& other)
+{
+    static const Geodesics geodesics;
+    return geodesics.metres(one, other);
+}
+
+} // namespace vlk

@@ -1,0 +1,38 @@
+#pragma once
+
+// Where the vehicle was: the records that are points of its track, one rule for the track on show, its
+// exports and its sums.
+
+#include "telemetry/files/record_columns.h"
+
+#include <vector>
+
+namespace vlk {
+
+// Records further apart in time do not belong to one run of records: a gap.
+inline constexpr qint64 kGapSeconds = 5 * 60;
+
+inline bool isGapBetween(quint32 time, quint32 other)
+{
+    return qAbs(qint64{other} - time) > kGapSeconds;
+}
+
+struct TrackPoint
+{
+    int record;
+    quint32 time;    // seconds since 1970 in UTC
+    double latitude; // degrees
+    double longitude;
+    bool startsSegment; // the first one, and the first behind a gap
+};
+
+// The records that have latitude and longitude in range, not both 0, and no state that calls the fix invalid,
+// from that record on, in the order of the store. `before`: the last point of what comes before, if any.
+std::vector<TrackPoint> trackPoints(RecordColumns& columns, int firstRecord = 0,
+                                    const TrackPoint* before = nullptr);
+
+// On the ellipsoid WGS 84. NaN where PROJ, which is loaded when it is asked for the first time, is not
+// installed.
+double metresBetween(const TrackPoint& one, const TrackPoint& other);
+
+} // namespace vlk
