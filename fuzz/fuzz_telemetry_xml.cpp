@@ -11,7 +11,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         vlk::roundTrip(data, size, vlk::readTelemetryXml, vlk::writeTelemetryXml);
     QBuffer table;
     table.open(QIODevice::ReadWrite);
-    if (!vlk::writeTelemetryCsv(table, contents.records, contents.titles, {}))
+    if (!vlk::writeTelemetryCsv(table, contents.records, contents.origin.titles, {}))
         std::abort();
     table.seek(0);
     const int columns = table.readLine().count(';');

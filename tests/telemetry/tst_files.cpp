@@ -58,12 +58,12 @@ QByteArray written(Write write, const TelemetryPages& pages, const TelemetryOrig
     return write(buffer, storeOf(pages), origin) ? buffer.data() : QByteArray("failed");
 }
 
-template <class Read>
-TelemetryContents readBack(Read read, QByteArray bytes)
+template <class Read, class... Options>
+TelemetryContents readBack(Read read, QByteArray bytes, Options... options)
 {
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
-    return read(buffer);
+    return read(buffer, options...);
 }
 
 // Bit by bit, from the definition.
@@ -155,9 +155,11 @@ private Q_SLOTS:
         QCOMPARE(contents.records.at(0)->raw(element("NaviHDop")), quint64{12});
         QCOMPARE(contents.records.at(0)->valueBlock(), wanted[0]->valueBlock());
         QCOMPARE(contents.records.at(1)->extra().countedBytes(), quint16{93});
-        QCOMPARE(contents.titles.inputs[0], QString::fromUtf8("Дверь & ?"));
-        QCOMPARE(contents.titles.outputs[1] + contents.titles.temperatures[3], QStringLiteral("OutT4"));
-        QCOMPARE(contents.titles.userTypes[1] + contents.titles.userTypes[48], QStringLiteral("bu"));
+        QCOMPARE(contents.origin.titles.inputs[0], QString::fromUtf8("Дверь & ?"));
+        QCOMPARE(contents.origin.titles.outputs[1] + contents.origin.titles.temperatures[3],
+                 QStringLiteral("OutT4"));
+        QCOMPARE(contents.origin.titles.userTypes[1] + contents.origin.titles.userTypes[48],
+                 QStringLiteral("bu"));
     }
 
     void binaryBytes()
@@ -289,6 +291,58 @@ private Q_SLOTS:
         QTEST(numbers(readBack(readTelemetryXml, file).records), "found");
     }
 
+    // Pages that are spelled as they are written are read in a way of their own: every value that it takes
+    // is the one that looking line by line gives.
+    void usualPages()
+    {
+        std::mt19937 random(24);
+        for (const QByteArray value : {"0",
+                                       "-0",
+                                       "5",
+                                       "-5",
+                                       "255",
+                                       "256",
+                                       "-128",
+                                       "-129",
+                                       "007",
+                                       "+7",
+                                       " 7 ",
+                                       "1.5",
+                                       "-1.25",
+                                       "0.1",
+                                       "12345678.5",
+                                       "1e3",
+                                       "-1e-3",
+                                       "1.",
+                                       ".5",
+                                       "1.2.3",
+                                       "nan",
+                                       "inf",
+                                       "-",
+                                       "",
+                                       "4294967295",
+                                       "4294967296",
+                                       "18446744073709551615",
+                                       "99999999999999999999",
+                                       "0.10000000149011612",
+                                       "16777217",
+                                       "16777216.5",
+                                       "3.4028235e+38"}) {
+            TelemetryPages pages = randomPages(random, 2);
+            const QByteArray xml = written(writeTelemetryXml, pages);
+            QByteArrayList lines = xml.split('\n');
+            for (QByteArray& line : lines) {
+                if (line.startsWith("\t\t<") && line.endsWith(">\r"))
+                    line.replace(line.indexOf('>') + 1, line.lastIndexOf('<') - line.indexOf('>') - 1, value);
+            }
+            QByteArray twice = lines.join('\n');
+            twice += twice;
+            const TelemetryPages found = pagesIn(readBack(readTelemetryXml, twice).records);
+            QCOMPARE(difference(found, readBack(readTelemetryXml, twice.replace("\r\n", "\n")).records),
+                     QString());
+        }
+    }
+
     // Where a page has no end, and where the pages are fewer than the file says.
     void damagedXml_data()
     {
@@ -296,16 +350,22 @@ private Q_SLOTS:
         const QByteArray page = "<Page type=\"176\">\n<NumPage>1</NumPage>\n";
         const QByteArray whole = page + "</Page>\n";
         const int first = count.size();
-        DataTable<QByteArray, QVector<int>, int, bool>({"file", "damages", "pages", "lastIsCut"})
-            .row("whole", count + whole + whole + "</TMI>", {}, 2, false)
+        // The last one cell: what salvaging brings.
+        const QByteArray sparse = QByteArray("<Page type=\"176\" format=\"11\">\n<NumPage>2</NumPage>\n");
+        const QByteArray other = QByteArray(whole).replace(">1<", ">3<");
+        DataTable<QByteArray, QVector<int>, int, bool, QString>(
+            {"file", "damages", "pages", "lastIsCut", "salvaged"})
+            .row("whole", count + whole + whole + "</TMI>", {}, 2, false, "1 1")
             .row("cut", count + whole + page, {FileDamage::CutShort, first + whole.size(), page.size()}, 2,
-                 true)
-            .row("cut between pages", count + whole, {FileDamage::RecordCount, 0, 0}, 1, false)
+                 true, "1 1")
+            .row("cut between pages", count + whole, {FileDamage::RecordCount, 0, 0}, 1, false, "1")
             .row("no end, then a page", count + page + whole + whole,
-                 {FileDamage::Records, first + page.size(), whole.size()}, 2, false)
+                 {FileDamage::Records, first + page.size(), whole.size()}, 2, false, "1 1 1")
             .row("no end, then the file's", page + whole, {FileDamage::Records, page.size(), whole.size()}, 1,
-                 false)
-            .row("no count", whole, {}, 1, false);
+                 false, "1 1")
+            .row("half a page, then others", sparse + other + whole,
+                 {FileDamage::Records, sparse.size(), other.size()}, 2, false, "3 1")
+            .row("no count", whole, {}, 1, false, "1");
     }
     void damagedXml()
     {
@@ -317,6 +377,10 @@ private Q_SLOTS:
         QTEST(damages, "damages");
         QTEST(contents.records.size(), "pages");
         QTEST(contents.lastIsCut, "lastIsCut");
+        const TelemetryContents salvaged =
+            readBack(readWhole<TelemetryXmlReader, Reading>, file, Reading::salvage);
+        QTEST(numbers(salvaged.records), "salvaged");
+        QVERIFY(contents.hidden >= salvaged.records.size() - contents.records.size());
     }
 
     void values_data()
@@ -356,10 +420,11 @@ private Q_SLOTS:
             readBack(readTelemetryXml,
                      "<TEMP2 title=\"a\"b\"/>\r\n<IN4 title=\"no\"/>\r\n<USERPARAM4 type=\"fs\"/>\r\n"
                      "<USERPARAM8 type=\"bbbbbbb\"/>\r\n<OUT1 title=\"open/>\r\n");
-        QCOMPARE(contents.titles.temperatures[1], QStringLiteral("a"));
-        QCOMPARE(contents.titles.inputs[3] + contents.titles.outputs[0], QString());
+        QCOMPARE(contents.origin.titles.temperatures[1], QStringLiteral("a"));
+        QCOMPARE(contents.origin.titles.inputs[3] + contents.origin.titles.outputs[0], QString());
         QCOMPARE(
-            QStringList(contents.titles.userTypes.begin() + 31, contents.titles.userTypes.end()).join(""),
+            QStringList(contents.origin.titles.userTypes.begin() + 31, contents.origin.titles.userTypes.end())
+                .join(""),
             QStringLiteral("fsuuuuuuuuuuuuubbb"));
     }
 
@@ -369,7 +434,10 @@ private Q_SLOTS:
     {
         constexpr int head = 128;
         constexpr int all = head + 6 * 44;
+        // A cut below 0 takes so many bytes out at that place.
         DataTable<int, int, QString, QString>({"at", "cut", "found", "damages"})
+            .row("bytes lost in a record", head + 44 + 20, -20, "1 3 4 5 6", "RSM")
+            .row("bytes lost between two", head + 44 + 40, -8, "1 4 5 6", "RSM")
             .row("whole", -1, all, "1 2 3 4 5 6", "")
             .row("magic", 1, all, "1 2 3 4 5 6", "NH")
             .row("header", 6, all, "1 2 3 4 5 6", "H")
@@ -396,9 +464,12 @@ private Q_SLOTS:
             pages.push_back(recordOf({{"NumPage", number}, {"Time", kTime}}));
         QByteArray file = written(writeTelemetryBinary, pages);
         QCOMPARE(file.size(), 128 + 6 * 44);
-        if (at >= 0)
+        if (cut < 0)
+            file.remove(at, -cut);
+        else if (at >= 0)
             file[at] = static_cast<char>(file[at] ^ 0x40);
-        const TelemetryContents contents = readBack(readTelemetryBinary, file.left(cut));
+        const TelemetryContents contents =
+            readBack(readTelemetryBinary, file.left(cut < 0 ? file.size() : cut));
         QTEST(numbers(contents.records), "found");
         QTEST(kinds(contents.damages), "damages");
         for (const FileDamage& damage : contents.damages)

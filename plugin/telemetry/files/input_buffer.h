@@ -14,7 +14,7 @@ namespace vlk {
 class InputBuffer
 {
 public:
-    static constexpr std::size_t kCapacity = 131'072;
+    static constexpr std::size_t kCapacity = 262'144;
 
     explicit InputBuffer(QIODevice& device) : device_(device), bytes_(kCapacity) {}
 

@@ -6,7 +6,10 @@
 #include "telemetry/record/telemetry_titles.h"
 
 #include <optional>
+#include <utility>
 #include <vector>
+
+class QIODevice;
 
 namespace vlk {
 
@@ -38,16 +41,34 @@ struct FileDamage
     int record = 0; // the records before it
 };
 
-// What a file gives. The titles come from the XML form only; the damages are in the order in which they were
-// found.
+// What is read of a damaged file.
+enum class Reading : std::uint8_t {
+    asTold,  // a page without an end hides the next one, and gives what there is of it
+    salvage, // every whole record, and no other
+};
+
+// What a file gives. Titles, zone and vendor come from the XML form only, the tracker's number from none; the
+// damages are in the order in which they were found.
 struct TelemetryContents
 {
-    TelemetryTitles titles;
+    TelemetryOrigin origin;
     RecordStore records;
     std::vector<FileDamage> damages;
     std::optional<quint32> announced; // how many records the file says that it holds
     bool lastIsCut = false;           // of the last record there is only the beginning
+    int hidden = 0;                   // whole records that salvaging would give besides these
 };
+
+// All that a reader of one form gives.
+template <class Reader, class... Options>
+TelemetryContents readWhole(QIODevice& device, Options... options)
+{
+    Reader reader(device, options...);
+    while (reader.step()) {
+    }
+    reader.finish();
+    return std::move(reader.contents());
+}
 
 // The time of a record, or of an extra packet's head.
 inline quint32 timeOf(const TmiPage_Zeta3& page)

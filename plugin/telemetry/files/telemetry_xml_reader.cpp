@@ -1,11 +1,9 @@
 #include "telemetry/files/telemetry_xml_reader.h"
 
-#include "base/windows1251.h"
-#include "telemetry/files/input_buffer.h"
 #include "telemetry/files/line_parts.h"
 #include "telemetry/files/number_text.h"
 #include "telemetry/files/title_lines.h"
-#include "telemetry/files/value_reading.h"
+#include "telemetry/files/xml_page.h"
 #include "telemetry/record/record_head.h"
 
 namespace vlk {
@@ -15,158 +13,8 @@ namespace {
 // Longer lines are read in pieces of these lengths.
 constexpr std::size_t kLongestLine = 1023;
 constexpr std::size_t kLongestLineOfPage = 255;
-
-// The lines of one page, up to the one that ends it, which is taken too.
-class PageLines
-{
-public:
-    enum End { Closing, NextPage, OfFile };
-
-    explicit PageLines(InputBuffer& input) : input_(input) {}
-
-    template <class Visit>
-    void forEach(Visit visit)
-    {
-        for (std::string_view line = input_.line(kLongestLineOfPage); !line.empty();
-             line = input_.line(kLongestLineOfPage)) {
-            if (endsPage(line)) {
-                end_ = startsPage(line) ? NextPage : Closing;
-                endAt_ = input_.position() - std::ssize(line);
-                return;
-            }
-            visit(line);
-        }
-        end_ = OfFile;
-    }
-
-    End end() const { return end_; }
-    qint64 endAt() const { return endAt_; } // where the line begins that ended the page
-
-private:
-    InputBuffer& input_;
-    End end_ = OfFile;
-    qint64 endAt_ = 0;
-};
-
-template <class Number>
-Number numberAttribute(std::string_view line, std::string_view name)
-{
-    return numberFrom<Number>(attribute(line, name));
-}
-
-QString textOf(std::string_view bytes)
-{
-    return fromWindows1251(QByteArray(bytes.data(), static_cast<int>(bytes.size())));
-}
-
-void readRecord(PageLines& lines, std::string_view pageLine, RecordStore& records)
-{
-    const auto ver = numberAttribute<quint8>(pageLine, "ver");
-    const FieldMask mask = FieldMask::fromText(attribute(pageLine, "format"));
-    TmiPage_Zeta3::ValueBlock block{};
-    lines.forEach([&](std::string_view line) {
-        const ElementLine parts = elementLine(line);
-        if (const auto index = findElement(parts.tag))
-            readValue(*index, parts.value, block.data() + kElements[*index].offset);
-    });
-    records.add(ver, mask, block);
-}
-
-// A packet while its lines are read: the head, and of the area as much as has room. `areaSize` counts all
-// that the lines bring.
-struct PacketParts
-{
-    std::array<std::uint8_t, ExtraPacket::kHeadBytes> head{};
-    std::array<std::uint8_t, ExtraPacket::kAreaBytes> area{};
-    std::size_t areaSize = 0;
-
-    void put(std::size_t offset, std::span<const std::uint8_t> bytes)
-    {
-        const std::size_t at = areaSize + offset;
-        if (at < area.size())
-            std::ranges::copy(bytes.first(std::min(bytes.size(), area.size() - at)), area.begin() + at);
-    }
-};
-
-void readElement(std::string_view line, PacketParts& packet)
-{
-    const ElementLine parts = elementLine(line);
-    const auto named = [&](const ExtraPacket::HeadElement& row) {
-        return kElements[row.element].name == parts.tag;
-    };
-    const auto row = std::ranges::find_if(ExtraPacket::kElementsOfHead, named);
-    if (row != ExtraPacket::kElementsOfHead.end())
-        readValue(row->element, parts.value, packet.head.data() + row->offset);
-}
-
-// The text of a card has to fit its size in the local encoding too.
-QByteArray cardBytes(std::string_view value, int size)
-{
-    QString text = textOf(value).left(size);
-    QByteArray bytes = text.toLocal8Bit();
-    while (bytes.size() > size) {
-        text.chop(1);
-        bytes = text.toLocal8Bit();
-    }
-    return bytes;
-}
-
-void readEntry(std::string_view line, PacketParts& packet)
-{
-    const auto type = numberAttribute<quint8>(line, "type");
-    const auto size = numberAttribute<quint8>(line, "size");
-    const std::string_view value = attribute(line, "value");
-    const std::array<std::uint8_t, ExtraPacket::kEntryHeadBytes> head{type, size};
-    packet.put(0, head);
-    if (type == ExtraEntry::Card) {
-        const QByteArray bytes = cardBytes(value, size);
-        packet.put(head.size(), bytesAt(bytes.constData(), bytes.size()));
-    } else if (type == ExtraEntry::TouchKey || type == ExtraEntry::Rfid) {
-        std::array<std::uint8_t, sizeof(quint64)> bytes;
-        qToLittleEndian(numberFrom<quint64>(value), bytes.data());
-        packet.put(head.size(), bytes);
-    }
-    packet.areaSize += head.size() + size;
-}
-
-void readExtraPacket(PageLines& lines, std::string_view pageLine, RecordStore& records)
-{
-    PacketParts packet;
-    packet.head[0] = kExtraPacket;
-    packet.head[ExtraPacket::kStVerAt] = numberAttribute<quint8>(pageLine, "stVer");
-    packet.head[ExtraPacket::kStSizeAt] = numberAttribute<quint8>(pageLine, "stSize");
-    packet.head[ExtraPacket::kHVerAt] = numberAttribute<quint8>(pageLine, "hVer");
-    packet.head[ExtraPacket::kHSizeAt] = numberAttribute<quint8>(pageLine, "hSize");
-    lines.forEach([&](std::string_view line) {
-        if (line.find("<Dynamic") != line.npos)
-            readEntry(line, packet);
-        else
-            readElement(line, packet);
-    });
-    const std::size_t size = packet.head[ExtraPacket::kStSizeAt] + packet.head[ExtraPacket::kHSizeAt] +
-                             ExtraPacket::kBesideHeads + packet.areaSize;
-    qToLittleEndian(static_cast<quint16>(size), packet.head.data() + ExtraPacket::kSizeAt);
-    const auto area = std::span(packet.area).first(std::min(packet.areaSize, packet.area.size()));
-    records.add(ExtraPacket::fromParts(packet.head, area));
-}
-
-PageLines readPage(InputBuffer& input, std::string_view line, RecordStore& records)
-{
-    // The line lives in the buffer only until the next one is read.
-    const std::string pageLine(line);
-    PageLines lines(input);
-    switch (numberAttribute<quint8>(pageLine, "type")) {
-    case kTelemetryRecord:
-        readRecord(lines, pageLine, records);
-        break;
-    case kExtraPacket:
-        readExtraPacket(lines, pageLine, records);
-        break;
-    default:
-        lines.forEach([](std::string_view) {});
-    }
-    return lines;
-}
+// Of all elements with long values.
+constexpr std::size_t kLongestUsualPage = 32'768;
 
 void readTypes(std::string_view line, const TypeLine& row, TelemetryTitles& titles)
 {
@@ -195,45 +43,118 @@ void readTitle(std::string_view line, TelemetryTitles& titles)
 
 } // namespace
 
+TelemetryXmlReader::TelemetryXmlReader(QIODevice& device, Reading reading) : input_(device), reading_(reading)
+{
+    contents_.records.setUtcOffset(localOffset());
+}
+
+void TelemetryXmlReader::report(FileDamage::Kind kind, qint64 from, qint64 to)
+{
+    contents_.damages.push_back({kind, from, to - from, total_});
+}
+
+bool TelemetryXmlReader::step()
+{
+    if (!nextLine_.empty()) {
+        readPage(std::exchange(nextLine_, {}), nextAt_);
+        return true;
+    }
+    const auto window = input_.peek(kLongestUsualPage);
+    const std::string_view ahead(reinterpret_cast<const char*>(window.data()), window.size());
+    if (const std::size_t size = usual_.take(ahead, contents_.records); size != 0) {
+        if (lostAt_)
+            report(FileDamage::Records, *std::exchange(lostAt_, {}), input_.position());
+        input_.skip(size);
+        ++total_;
+        return true;
+    }
+    const std::string_view line = input_.line(kLongestLine);
+    if (line.empty())
+        return false;
+    const qint64 at = input_.position() - std::ssize(line);
+    if (!startsPage(line)) {
+        readBetween(line, at);
+        return true;
+    }
+    if (lostAt_)
+        report(FileDamage::Records, *std::exchange(lostAt_, {}), at);
+    readPage(std::string(line), at);
+    return true;
+}
+
+// A line that is in no page.
+void TelemetryXmlReader::readBetween(std::string_view line, qint64 at)
+{
+    if (lostAt_ && isHidden_ && endsPage(line)) {
+        ++contents_.hidden;
+        isHidden_ = false;
+    }
+    if (line.find("<INTERVAL") != line.npos) {
+        contents_.announced = numberAttribute<quint32>(line, "count");
+        countAt_ = at;
+    } else if (line.find("<TIMEZONE") != line.npos) {
+        contents_.origin.timeOffset = numberAttribute<qint32>(line, "offset");
+    } else if (line.find("<TMI") != line.npos) {
+        contents_.origin.model = textOf(attribute(line, "model"));
+        contents_.origin.vendor = textOf(attribute(line, "vendor"));
+    }
+    readTitle(line, contents_.origin.titles);
+}
+
+void TelemetryXmlReader::readPage(std::string pageLine, qint64 at)
+{
+    XmlPage page(std::move(pageLine), at);
+    for (std::string_view line = input_.line(kLongestLineOfPage); !line.empty();
+         line = input_.line(kLongestLineOfPage)) {
+        if (endsPage(line)) {
+            page.end = startsPage(line) ? XmlPage::NextPage : XmlPage::Closing;
+            page.endAt = input_.position() - std::ssize(line);
+            page.nextLine = line;
+            break;
+        }
+        page.take(line);
+    }
+    endPage(page);
+}
+
+void TelemetryXmlReader::endPage(XmlPage& page)
+{
+    const bool salvages = reading_ == Reading::salvage;
+    const bool isKept = page.isRecord() && (!salvages || page.end == XmlPage::Closing || page.isWhole());
+    if (isKept) {
+        page.addTo(contents_.records);
+        ++total_;
+    }
+    if (page.type() == kTelemetryRecord && page.end == XmlPage::Closing)
+        usual_.remember(page.line(), page.ver(), page.mask());
+    if (page.end == XmlPage::OfFile) {
+        contents_.lastIsCut = isKept && !salvages;
+        report(FileDamage::CutShort, page.at(), input_.position());
+    }
+    if (page.end != XmlPage::NextPage)
+        return;
+    if (salvages) {
+        report(FileDamage::Records, isKept ? page.endAt : page.at(), page.endAt);
+        nextLine_ = page.nextLine;
+        nextAt_ = page.endAt;
+        return;
+    }
+    lostAt_ = page.endAt;
+    isHidden_ = XmlPage(page.nextLine, page.endAt).isRecord();
+}
+
+void TelemetryXmlReader::finish()
+{
+    if (lostAt_)
+        report(FileDamage::Records, *lostAt_, input_.position());
+    const auto count = static_cast<quint32>(total_);
+    if (contents_.announced.value_or(count) != count)
+        report(FileDamage::RecordCount, countAt_, countAt_);
+}
+
 TelemetryContents readTelemetryXml(QIODevice& device)
 {
-    InputBuffer input(device);
-    TelemetryContents contents;
-    contents.records.setUtcOffset(localOffset());
-    // A page without a closing line takes the first line of the next one with it, whose lines then start
-    // nothing.
-    std::optional<qint64> lostAt;
-    const auto report = [&contents](FileDamage::Kind kind, qint64 from, qint64 to) {
-        contents.damages.push_back({kind, from, to - from, contents.records.size()});
-    };
-    qint64 countAt = 0;
-    for (std::string_view line = input.line(kLongestLine); !line.empty(); line = input.line(kLongestLine)) {
-        const qint64 lineAt = input.position() - std::ssize(line);
-        if (!startsPage(line)) {
-            if (line.find("<INTERVAL") != line.npos) {
-                contents.announced = numberAttribute<quint32>(line, "count");
-                countAt = lineAt;
-            }
-            readTitle(line, contents.titles);
-            continue;
-        }
-        if (lostAt)
-            report(FileDamage::Records, *std::exchange(lostAt, {}), lineAt);
-        const int before = contents.records.size();
-        const PageLines page = readPage(input, line, contents.records);
-        if (page.end() == PageLines::NextPage) {
-            lostAt = page.endAt();
-        } else if (page.end() == PageLines::OfFile) {
-            contents.lastIsCut = contents.records.size() > before;
-            report(FileDamage::CutShort, lineAt, input.position());
-        }
-    }
-    if (lostAt)
-        report(FileDamage::Records, *lostAt, input.position());
-    const auto count = static_cast<quint32>(contents.records.size());
-    if (contents.announced.value_or(count) != count)
-        report(FileDamage::RecordCount, countAt, countAt);
-    return contents;
+    return readWhole<TelemetryXmlReader>(device);
 }
 
 } // namespace vlk

@@ -4,14 +4,51 @@
 // that a damaged or half-written file gives all that is readable in it. A line that it does not know is
 // passed over, an unknown element too, and a number that is none counts as 0. Nothing is an error.
 //
-// The zone and the model that the file names are not restored: records have the local zone.
+// A page without a closing line takes the first line of the next page with it, whose lines then start
+// nothing; who salvages gets that page too. Records have the local zone, whatever zone the file names.
 
+#include "telemetry/files/input_buffer.h"
 #include "telemetry/files/telemetry_contents.h"
-
-class QIODevice;
+#include "telemetry/files/usual_pages.h"
 
 namespace vlk {
 
+class XmlPage;
+
+class TelemetryXmlReader
+{
+public:
+    explicit TelemetryXmlReader(QIODevice& device, Reading reading = Reading::asTold);
+
+    // A page, or a line between pages; false at the end.
+    bool step();
+    qint64 position() const { return input_.position(); }
+    // After the last step; between steps what was read so far may be taken out of the records.
+    TelemetryContents& contents() { return contents_; }
+    void finish();
+
+private:
+    void readBetween(std::string_view line, qint64 at);
+    void readPage(std::string pageLine, qint64 at);
+    void endPage(XmlPage& page);
+    void report(FileDamage::Kind kind, qint64 from, qint64 to);
+
+    InputBuffer input_;
+    Reading reading_;
+    UsualPages usual_;
+    TelemetryContents contents_;
+    int total_ = 0; // records that were read
+    qint64 countAt_ = 0;
+    // Where lines begin that start nothing, for want of the first line of their page; whether a page among
+    // them is still without its end.
+    std::optional<qint64> lostAt_;
+    bool isHidden_ = false;
+    // The first line of the next page, where it ended one that had no end.
+    std::string nextLine_;
+    qint64 nextAt_ = 0;
+};
+
+// From the present position of the device to its end.
 TelemetryContents readTelemetryXml(QIODevice& device);
 
 } // namespace vlk

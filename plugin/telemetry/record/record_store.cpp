@@ -71,10 +71,10 @@ void RecordStore::add(Bytes record)
 {
     const RecordHead head = readHead(record);
     if (head.type == kExtraPacket)
-        return append({RecordLayout::Packet, head.type, 0, {}, {}}, record);
+        return add(RecordLayout{RecordLayout::Packet, head.type, 0, {}, {}}, record);
     const RecordLayout::Form form =
         head.type == kTelemetryRecord ? RecordLayout::Record : RecordLayout::OtherRecord;
-    append({form, head.type, head.ver, head.mask, head.mask}, behind(record, RecordHead::kBytes));
+    add(RecordLayout{form, head.type, head.ver, head.mask, head.mask}, behind(record, RecordHead::kBytes));
 }
 
 void RecordStore::add(std::uint8_t ver, const FieldMask& mask, const TmiPage_Zeta3::ValueBlock& block)
@@ -86,24 +86,21 @@ void RecordStore::add(std::uint8_t ver, const FieldMask& mask, const TmiPage_Zet
         if (held.test(i))
             end = std::copy_n(block.begin() + kFields[i].offset, kFields[i].width, end);
     }
-    append({RecordLayout::Record, kTelemetryRecord, ver, mask, held}, {payload.begin(), end});
-}
-
-void RecordStore::addPacked(std::uint8_t ver, const FieldMask& mask, Bytes payload)
-{
-    append({RecordLayout::Record, kTelemetryRecord, ver, mask, mask}, payload);
+    add(RecordLayout{RecordLayout::Record, kTelemetryRecord, ver, mask, held}, {payload.begin(), end});
 }
 
 void RecordStore::add(const ExtraPacket& packet)
 {
     std::vector<std::uint8_t> parts(packet.head().begin(), packet.head().end());
     parts.insert(parts.end(), packet.area().begin(), packet.area().end());
-    append({RecordLayout::PacketParts, kExtraPacket, 0, {}, {}}, parts);
+    add(RecordLayout{RecordLayout::PacketParts, kExtraPacket, 0, {}, {}}, parts);
 }
 
 void RecordStore::clear()
 {
-    *this = RecordStore();
+    const auto zone = utcOffset_;
+    *this = {};
+    utcOffset_ = zone;
 }
 
 std::size_t RecordStore::numberOf(const RecordLayout& layout)
@@ -117,7 +114,7 @@ std::size_t RecordStore::numberOf(const RecordLayout& layout)
     return lastLayout_;
 }
 
-void RecordStore::append(const RecordLayout& layout, Bytes bytes)
+void RecordStore::add(const RecordLayout& layout, Bytes bytes)
 {
     bytes = bytes.first(std::min(bytes.size(), kLongest));
     if (pieces_.empty() || pieces_.back().size() + kLengthBytes + bytes.size() > kPieceBytes) {

@@ -48,14 +48,17 @@ struct RecordLayout
 class RecordStore
 {
 public:
+    RecordStore() = default;
+
     // From the type byte on, as it came from the tracker or stands in a binary file. Of more than 65,535
     // bytes the first are kept.
     void add(std::span<const std::uint8_t> record);
     // From the parts that a telemetry file gives: the block has every field at its place.
     void add(std::uint8_t ver, const FieldMask& mask, const TmiPage_Zeta3::ValueBlock& block);
-    // The same packed: `payload` has the fields of `mask`.
-    void addPacked(std::uint8_t ver, const FieldMask& mask, std::span<const std::uint8_t> payload);
+    // The same packed: `payload` has the fields of `layout.held`.
+    void add(const RecordLayout& layout, std::span<const std::uint8_t> payload);
     void add(const ExtraPacket& packet);
+    // The zone stays.
     void clear();
 
     int size() const { return static_cast<int>(places_.size()); }
@@ -98,7 +101,6 @@ private:
         std::size_t operator()(const RecordLayout& layout) const;
     };
 
-    void append(const RecordLayout& layout, std::span<const std::uint8_t> bytes);
     std::size_t numberOf(const RecordLayout& layout);
 
     // Pieces of memory, in which each record stands behind its length in two bytes.

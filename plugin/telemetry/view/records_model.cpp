@@ -89,7 +89,7 @@ void RecordsModel::setContents(TelemetryContents contents)
     beginResetModel();
     records_ = std::move(contents.records);
     decodedPage_ = -1;
-    userTypes_ = typeLetters(contents.titles).toLatin1().toStdString();
+    userTypes_ = typeLetters(contents.origin.titles).toLatin1().toStdString();
     columns_ = columnsOf(records_);
     hasPackets_ = records_.hasPackets();
     order_.resize(records_.size());

@@ -12,7 +12,7 @@ void ShownRecords::setContents(TelemetryContents contents)
 {
     contents_ = std::move(contents);
     columns_ = std::make_unique<RecordColumns>(contents_.records,
-                                               typeLetters(contents_.titles).toLatin1().toStdString());
+                                               typeLetters(contents_.origin.titles).toLatin1().toStdString());
     const std::vector<quint32>& times = columns_->times();
     passing_.resize(times.size());
     std::iota(passing_.begin(), passing_.end(), 0);

@@ -32,7 +32,7 @@ public:
     // All of them pass, the first one is looked at, all of their time is in sight.
     void setContents(TelemetryContents contents);
     const RecordStore& records() const { return contents_.records; }
-    const TelemetryTitles& titles() const { return contents_.titles; }
+    const TelemetryTitles& titles() const { return contents_.origin.titles; }
     RecordColumns& columns() { return *columns_; }
     // In which times are shown, in seconds east of UTC.
     qint32 utcOffset() const;

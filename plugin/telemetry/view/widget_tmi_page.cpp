@@ -111,7 +111,7 @@ void VLK_Widget_Tmi_Page::open(const QString& path)
     ui_->label_NoRecord->hide();
     if (records_.empty())
         return;
-    stack_.setTracker(contents.titles, 0);
+    stack_.setTracker(contents.origin.titles, 0);
     setRange(lastPosition(records_));
     goTo(0);
 }
