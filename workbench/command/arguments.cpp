@@ -6,6 +6,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <tuple>
 
 namespace workbench::command {
 
@@ -29,6 +30,7 @@ struct CommandRow
         pathAndFiles,
         settingsAndFiles, // by their "="
         presetAndFiles,
+        tablesAndFiles,
     } takes;
     bool printsSecrets;
     bool edits;
@@ -49,6 +51,11 @@ constexpr CommandRow commands[] = {
      CommandRow::presetAndFiles, true, true},
     {"report", "cli_106", "  r7106 report truck.xml -o truck.pdf", CommandRow::oneFile, true, false},
     {"info", "cli_107", "  r7106 info --json archive", CommandRow::anyFiles, false, false},
+    {"fuel", "cli_230",
+     "  r7106 fuel --table tank.xml week.xml\n  r7106 fuel --table left.xml --table right.xml --fall 15 "
+     "--json "
+     "archive",
+     CommandRow::tablesAndFiles, false, false},
 };
 
 std::string withExamples(const char* examples)
@@ -61,6 +68,8 @@ struct Read
 {
     std::vector<std::string> files;
     std::string first; // a path or a preset
+    std::vector<std::string> tables;
+    std::vector<std::string> sensors;
     std::string output;
     std::string language;
     bool isVersion = false;
@@ -78,6 +87,22 @@ void addLanguage(CLI::App& app, Read& read)
     app.add_option("--language", read.language, words("cli_110"))
         ->check(CLI::IsMember({"ru", "en"}))
         ->option_text("ru|en");
+}
+
+void addFuelOptions(CLI::App& app, Read& read)
+{
+    const auto several = [&](const char* name, std::vector<std::string>& values, const char* key,
+                             const char* what) {
+        app.add_option(name, values, words(key))
+            ->expected(1)
+            ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+            ->option_text(what);
+    };
+    several("--table", read.tables, "cli_231", "CALIBRATION");
+    several("--sensor", read.sensors, "cli_232", "ELEMENT");
+    for (const auto& [name, litres, key] :
+         {std::tuple("--rise", &read.call.rise, "cli_233"), {"--fall", &read.call.fall, "cli_234"}})
+        app.add_option(name, *litres, words(key))->check(CLI::Range(0.1, 1e6))->option_text("LITRES");
 }
 
 void addOptions(CLI::App& app, const CommandRow& row, Read& read)
@@ -98,6 +123,8 @@ void addOptions(CLI::App& app, const CommandRow& row, Read& read)
         app.add_flag("--changed", read.call.changedOnly, words("cli_116"));
     if (row.description == std::string_view("cli_102"))
         app.add_flag("--csv", read.call.csv, words("cli_117"));
+    if (row.takes == CommandRow::tablesAndFiles)
+        addFuelOptions(app, read);
 }
 
 void addCommand(CLI::App& app, const CommandRow& row, Read& read)
@@ -186,7 +213,11 @@ QString whyNotParsed(const CLI::App& app, const CLI::ParseError& error)
         const CLI::Option* option = of.get_option_no_throw(name.toStdString());
         return text(option != nullptr && option->count() > 1 ? "cli_031" : "cli_018").arg(name);
     }
-    // Of all options that one alone has a list.
+    const QString ofOption = said.section(QLatin1Char(':'), 0, 0);
+    const bool isLitres = ofOption == QLatin1String("--rise") || ofOption == QLatin1String("--fall");
+    if (isLitres)
+        return text("cli_235").arg(ofOption);
+    // Of all other options that one alone has a list.
     if (dynamic_cast<const CLI::ValidationError*>(&error) != nullptr)
         return text("cli_019");
     return said;
@@ -270,6 +301,10 @@ Arguments readArguments(const QByteArrayList& arguments)
     Arguments result{read.call, {}, {}};
     result.call.command = QString::fromStdString(name);
     result.call.output = nameOf(read.output);
+    for (const std::string& table : read.tables)
+        result.call.tables << nameOf(table);
+    for (const std::string& sensor : read.sensors)
+        result.call.sensors << QString::fromUtf8(sensor.c_str());
     const QString reason = splitFiles(*row, read, plain, &result.call);
     return reason.isEmpty() ? result : refused(reason);
 }

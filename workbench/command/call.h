@@ -21,6 +21,11 @@ struct Call
     bool changedOnly = false;
     bool dryRun = false;
     bool csv = false;
+    // Of fuel.
+    QStringList tables;
+    QStringList sensors;
+    double rise = 20; // litres
+    double fall = 10;
 };
 
 // The greater one counts.

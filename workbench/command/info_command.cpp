@@ -66,16 +66,6 @@ QByteArray lineOf(const Call& call, const File& file, const Facts& facts)
     return complaint(file.name, told.join(QStringLiteral(", ")));
 }
 
-QByteArray damageLines(const File& file, const std::vector<vlk::FileDamage>& damages)
-{
-    // By FileDamage::Kind.
-    static constexpr const char* kinds[] = {"cli_070", "cli_071", "cli_072", "cli_073", "cli_074", "cli_075"};
-    QByteArray lines;
-    for (const vlk::FileDamage& damage : damages)
-        lines += complaint(file.name, text("cli_076").arg(damage.offset).arg(text(kinds[damage.kind])));
-    return lines;
-}
-
 Outcome telemetryFacts(const Call& call, const File& file, QIODevice& device)
 {
     const std::optional<TelemetrySummary> summary = summaryOf(device);
@@ -85,7 +75,7 @@ Outcome telemetryFacts(const Call& call, const File& file, QIODevice& device)
     facts.model = summary->model.isEmpty() ? QString() : summary->model;
     facts.from = timeText(summary->from);
     facts.to = timeText(summary->to);
-    return {lineOf(call, file, facts), damageLines(file, summary->damages),
+    return {lineOf(call, file, facts), damageLines(file.name, summary->damages),
             summary->damages.empty() ? nothing : found};
 }
 

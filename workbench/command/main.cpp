@@ -32,7 +32,7 @@ struct CommandFunction
 // A report of its own needs an application of its own.
 constexpr CommandFunction functions[] = {{"check", check}, {"diff", diff}, {"compare", compare},
                                          {"get", get},     {"set", set},   {"apply", apply},
-                                         {"info", info}};
+                                         {"info", info},   {"fuel", fuel}};
 
 int run(const Call& call)
 {

@@ -1,9 +1,11 @@
 #include "command/telemetry_summary.h"
 
 #include "base/windows1251.h"
+#include "command/output.h"
 #include "telemetry/files/binary_layout.h"
 #include "telemetry/files/telemetry_binary_reader.h"
 #include "telemetry/files/telemetry_xml_reader.h"
+#include "window/languages.h"
 #include "xml/xml_scanner.h"
 
 #include <QBuffer>
@@ -120,6 +122,16 @@ std::optional<TelemetrySummary> summaryOf(QIODevice& device)
     if (buffer.open(QIODevice::ReadOnly))
         Counter(&summary).take(vlk::readTelemetryBinary(buffer), 0);
     return summary;
+}
+
+QByteArray damageLines(const QString& file, const std::vector<vlk::FileDamage>& damages)
+{
+    // By FileDamage::Kind.
+    static constexpr const char* kinds[] = {"cli_070", "cli_071", "cli_072", "cli_073", "cli_074", "cli_075"};
+    QByteArray lines;
+    for (const vlk::FileDamage& damage : damages)
+        lines += complaint(file, text("cli_076").arg(damage.offset).arg(text(kinds[damage.kind])));
+    return lines;
 }
 
 } // namespace workbench::command

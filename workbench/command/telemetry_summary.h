@@ -21,4 +21,7 @@ struct TelemetrySummary
 // From the device's beginning. None for a binary file that is too large to be held.
 std::optional<TelemetrySummary> summaryOf(QIODevice& device);
 
+// A complaint a damage, for standard error.
+QByteArray damageLines(const QString& file, const std::vector<vlk::FileDamage>& damages);
+
 } // namespace workbench::command

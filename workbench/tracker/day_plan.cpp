@@ -13,7 +13,7 @@ namespace {
 
 constexpr double metresPerKm = 1000;
 constexpr double kmhPerMs = 3.6;
-constexpr double acceleration = 0.9;       // m/s2 of a loaded lorry
+constexpr double acceleration = 0.9; // m/s2 of a loaded lorry
 constexpr double fillBelow = 120;
 constexpr int lastDeparture = 16 * 3600; // UTC
 
@@ -61,7 +61,8 @@ public:
         // 1970-01-01 was a Thursday.
         const auto weekday = (midnight_ / daySeconds + 3) % 7;
         const bool weekend = weekday >= 5;
-        const int trips = weekend ? random_.integer(2, 4) : random_.integer(work_.leastTrips, work_.mostTrips);
+        const int trips =
+            weekend ? random_.integer(2, 4) : random_.integer(work_.leastTrips, work_.mostTrips);
         park((weekend ? 6 : 4) * 3600 + random_.integer(0, 1800), EventCode::ParkedTimer);
         while (trip_ < trips && elapsed_ < lastDeparture)
             drive();

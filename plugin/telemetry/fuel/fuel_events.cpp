@@ -1,11 +1,13 @@
 #include "telemetry/fuel/fuel_events.h"
 
+#include "telemetry/files/track_points.h"
 #include "telemetry/fuel/level_medians.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <numeric>
+#include <functional>
+#include <limits>
 
 namespace vlk {
 
@@ -32,6 +34,7 @@ constexpr double kBarrier = 0.3;
 // From here on a pause between records may hide a drive. Seconds, degrees.
 constexpr double kLongPause = 900;
 constexpr double kSamePlace = 0.005;
+constexpr double kNowhere = std::numeric_limits<double>::quiet_NaN();
 
 constexpr int kBackwards = -1;
 constexpr int kForwards = 1;
@@ -226,9 +229,14 @@ private:
             return {};
         const LevelMedian& one = medians_[step.from];
         const LevelMedian& other = medians_[step.to];
-        return FuelEvent{
-            one.last, other.first, static_cast<quint32>(one.until), static_cast<quint32>(other.from),
-            before,   after};
+        return FuelEvent{one.last,
+                         other.first,
+                         static_cast<quint32>(one.until),
+                         static_cast<quint32>(other.from),
+                         before,
+                         after,
+                         kNowhere,
+                         kNowhere};
     }
 
     // What was burnt between the two, where that is more than the edges of the step account for.
@@ -245,13 +253,32 @@ private:
     std::vector<bool> walls_;         // between a median and the next: an event
 };
 
+void tellPlaces(RecordColumns& columns, std::vector<FuelEvent>& events)
+{
+    if (events.empty())
+        return;
+    std::vector<TrackPoint> points = trackPoints(columns);
+    std::ranges::stable_sort(points, {}, &TrackPoint::time);
+    for (FuelEvent& event : events) {
+        const auto behind = std::ranges::upper_bound(points, event.until, {}, &TrackPoint::time);
+        if (behind == points.begin())
+            continue;
+        event.latitude = behind[-1].latitude;
+        event.longitude = behind[-1].longitude;
+    }
+}
+
 } // namespace
 
 std::vector<FuelEvent> findFuelEvents(RecordColumns& columns, const NumberColumn& litres,
                                       const FuelThresholds& thresholds)
 {
     std::vector<LevelMedian> medians = levelMedians(columns, litres);
-    return medians.empty() ? std::vector<FuelEvent>() : EventFinder(std::move(medians), thresholds).find();
+    if (medians.empty())
+        return {};
+    std::vector<FuelEvent> events = EventFinder(std::move(medians), thresholds).find();
+    tellPlaces(columns, events);
+    return events;
 }
 
 } // namespace vlk

@@ -26,6 +26,8 @@ struct FuelEvent
     quint32 until;
     double before; // litres
     double after;
+    double latitude; // of the last point of the track by then; NaN where there is none
+    double longitude;
 
     bool isRefuelling() const { return after > before; }
     double litres() const { return after - before; } // with its sign
