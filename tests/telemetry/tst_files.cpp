@@ -378,7 +378,7 @@ private Q_SLOTS:
         QTEST(contents.records.size(), "pages");
         QTEST(contents.lastIsCut, "lastIsCut");
         const TelemetryContents salvaged =
-            readBack(readWhole<TelemetryXmlReader, Reading>, file, Reading::salvage);
+            readBack(readWhole<TelemetryXmlReader, TelemetryReading>, file, TelemetryReading::salvage);
         QTEST(numbers(salvaged.records), "salvaged");
         QVERIFY(contents.hidden >= salvaged.records.size() - contents.records.size());
     }

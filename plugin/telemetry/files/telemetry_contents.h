@@ -42,7 +42,7 @@ struct FileDamage
 };
 
 // What is read of a damaged file.
-enum class Reading : std::uint8_t {
+enum class TelemetryReading : std::uint8_t {
     asTold,  // a page without an end hides the next one, and gives what there is of it
     salvage, // every whole record, and no other
 };

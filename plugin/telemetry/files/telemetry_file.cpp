@@ -37,7 +37,7 @@ bool saveTelemetryFile(const QString& path, TelemetryForm form, const RecordStor
                        [&](QIODevice& device) { return write(device, form, records, origin, eventText); });
 }
 
-std::optional<TelemetryContents> readTelemetryFile(const QString& path, Reading reading)
+std::optional<TelemetryContents> readTelemetryFile(const QString& path, TelemetryReading reading)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {

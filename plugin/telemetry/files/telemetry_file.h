@@ -18,6 +18,7 @@ bool saveTelemetryFile(const QString& path, TelemetryForm form, const RecordStor
 
 // Reads an XML or binary file, whichever it is. Nothing if it cannot be opened. What is damaged in it is in
 // the contents and in the log.
-std::optional<TelemetryContents> readTelemetryFile(const QString& path, Reading reading = Reading::asTold);
+std::optional<TelemetryContents> readTelemetryFile(const QString& path,
+                                                   TelemetryReading reading = TelemetryReading::asTold);
 
 } // namespace vlk

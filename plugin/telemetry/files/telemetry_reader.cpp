@@ -33,14 +33,15 @@ bool isBinary(QIODevice& device, const QString& name)
 
 } // namespace
 
-TelemetryReader::Reader TelemetryReader::readerOf(QIODevice& device, const QString& name, Reading reading)
+TelemetryReader::Reader TelemetryReader::readerOf(QIODevice& device, const QString& name,
+                                                  TelemetryReading reading)
 {
     if (vlk::isBinary(device, name))
         return Reader(std::in_place_type<TelemetryBinaryReader>, device);
     return Reader(std::in_place_type<TelemetryXmlReader>, device, reading);
 }
 
-TelemetryReader::TelemetryReader(QIODevice& device, const QString& name, Reading reading)
+TelemetryReader::TelemetryReader(QIODevice& device, const QString& name, TelemetryReading reading)
     : name_(name), size_(device.isSequential() ? 0 : device.size()), reader_(readerOf(device, name, reading))
 {
 }

@@ -19,7 +19,8 @@ class TelemetryReader
 public:
     // The form is told by the first bytes; where they say nothing, by `name`. The device stays open as long
     // as it is read.
-    TelemetryReader(QIODevice& device, const QString& name, Reading reading = Reading::asTold);
+    TelemetryReader(QIODevice& device, const QString& name,
+                    TelemetryReading reading = TelemetryReading::asTold);
 
     // One record, damage or line; false at the end.
     bool step();
@@ -40,7 +41,7 @@ public:
 private:
     using Reader = std::variant<TelemetryXmlReader, TelemetryBinaryReader>;
 
-    static Reader readerOf(QIODevice& device, const QString& name, Reading reading);
+    static Reader readerOf(QIODevice& device, const QString& name, TelemetryReading reading);
 
     QString name_;
     qint64 size_;

@@ -43,7 +43,8 @@ void readTitle(std::string_view line, TelemetryTitles& titles)
 
 } // namespace
 
-TelemetryXmlReader::TelemetryXmlReader(QIODevice& device, Reading reading) : input_(device), reading_(reading)
+TelemetryXmlReader::TelemetryXmlReader(QIODevice& device, TelemetryReading reading)
+    : input_(device), reading_(reading)
 {
     contents_.records.setUtcOffset(localOffset());
 }
@@ -119,7 +120,7 @@ void TelemetryXmlReader::readPage(std::string pageLine, qint64 at)
 
 void TelemetryXmlReader::endPage(XmlPage& page)
 {
-    const bool salvages = reading_ == Reading::salvage;
+    const bool salvages = reading_ == TelemetryReading::salvage;
     const bool isKept = page.isRecord() && (!salvages || page.end == XmlPage::Closing || page.isWhole());
     if (isKept) {
         page.addTo(contents_.records);

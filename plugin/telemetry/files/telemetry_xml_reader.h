@@ -18,7 +18,7 @@ class XmlPage;
 class TelemetryXmlReader
 {
 public:
-    explicit TelemetryXmlReader(QIODevice& device, Reading reading = Reading::asTold);
+    explicit TelemetryXmlReader(QIODevice& device, TelemetryReading reading = TelemetryReading::asTold);
 
     // A page, or a line between pages; false at the end.
     bool step();
@@ -34,7 +34,7 @@ private:
     void report(FileDamage::Kind kind, qint64 from, qint64 to);
 
     InputBuffer input_;
-    Reading reading_;
+    TelemetryReading reading_;
     UsualPages usual_;
     TelemetryContents contents_;
     int total_ = 0; // records that were read
