@@ -49,11 +49,13 @@ inline DrivenDays drivenDays(quint64 seed, int days, const QByteArray& document)
         if (moment.kind != tracker::RecordKind::Telemetry)
             continue;
         const QByteArray bytes = recordBytes(tracker::Vehicle(moment, {}), dataSet);
-        driven.records.add({reinterpret_cast<const std::uint8_t*>(bytes.constData()), std::size_t(bytes.size())});
+        driven.records.add(
+            {reinterpret_cast<const std::uint8_t*>(bytes.constData()), std::size_t(bytes.size())});
     }
     tracker::Odometers at;
     for (int day = 0; day < days; ++day) {
-        const tracker::DayPlan plan = tracker::planDay(seed, midnight + qint64(day) * tracker::daySeconds, at);
+        const tracker::DayPlan plan =
+            tracker::planDay(seed, midnight + qint64(day) * tracker::daySeconds, at);
         for (const tracker::Segment& segment : plan.segments) {
             using enum tracker::Activity;
             if (segment.activity == Filling || segment.activity == Draining)
@@ -73,8 +75,9 @@ inline vlk::FuelRows calibrationOf(const tracker::Tank& tank)
 {
     vlk::FuelRows rows;
     for (int litres = 0; litres <= tank.litres; litres += 10)
-        rows.push_back({QString::number(litres), QString::number(std::round(tracker::sensorValue(
-                                                     tank, tracker::fuelHeight(tank, litres))))});
+        rows.push_back(
+            {QString::number(litres),
+             QString::number(std::round(tracker::sensorValue(tank, tracker::fuelHeight(tank, litres))))});
     return rows;
 }
 

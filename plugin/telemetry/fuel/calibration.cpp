@@ -15,6 +15,9 @@ std::optional<Calibration> calibrationIn(const QByteArray& content)
         std::optional<FuelRows> rows = readFuelCsv(content);
         return rows ? std::optional(Calibration{{}, {}, *std::move(rows)}) : std::nullopt;
     }
+    // A document with another root opens too.
+    if (!content.contains(QByteArray("<") + fuelRoot))
+        return {};
     XmlDocument document(content, QLatin1String(fuelRoot));
     std::optional<FuelRows> rows = document.isOpen() ? fuelTable(document.root()) : std::nullopt;
     if (!rows)

@@ -28,7 +28,7 @@ constexpr double kFar = 1200;
 constexpr int kFarMedians = 2;
 constexpr int kLeastLevels = 2;
 // What has to be left of a step over that time.
-constexpr double kHeld = 0.5;
+constexpr double kHeld = 0.6;
 // Of the lesser threshold: a step at which averages end.
 constexpr double kBarrier = 0.3;
 // From here on a pause between records may hide a drive. Seconds, degrees.
@@ -177,6 +177,10 @@ private:
     {
         double litres;
         int count = 0; // of levels
+        bool endsAtEvent = false;
+
+        // Another pouring begins from what it is.
+        bool isSure() const { return count >= kLeastLevels || endsAtEvent; }
     };
     template <class Wanted>
     Level level(int start, int direction, Wanted wanted) const
@@ -186,8 +190,9 @@ private:
         const LevelMedian& inner = medians_[start];
         const double rest = burning(inner) * (inner.until - inner.from) / 2;
         for (int i = start; i >= 0 && i < size(); i += direction) {
-            if (i != start && (walls_[std::min(i, i - direction)] ||
-                               !wanted(i, std::abs(medians_[i].middle() - inner.middle()),
+            level.endsAtEvent = i != start && walls_[std::min(i, i - direction)];
+            if (level.endsAtEvent ||
+                (i != start && !wanted(i, std::abs(medians_[i].middle() - inner.middle()),
                                        static_cast<int>(numbers.size()))))
                 break;
             numbers.push_back(medians_[i].litres + burnt_[i] - burnt_[start] + direction * rest);
@@ -224,8 +229,7 @@ private:
         const Level was = farLevel(step.from, kBackwards);
         const Level stays = farLevel(step.to, kForwards);
         const auto isHeld = [litres](double part) { return part / litres >= kHeld; };
-        if (was.count < kLeastLevels || stays.count < kLeastLevels || !isHeld(after - was.litres) ||
-            !isHeld(stays.litres - before))
+        if (!was.isSure() || !stays.isSure() || !isHeld(after - was.litres) || !isHeld(stays.litres - before))
             return {};
         const LevelMedian& one = medians_[step.from];
         const LevelMedian& other = medians_[step.to];
