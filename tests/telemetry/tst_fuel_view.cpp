@@ -39,6 +39,16 @@ TelemetryContents drained()
     return contents;
 }
 
+// Translates by key, as a host does.
+class EnglishTexts : public QTranslator
+{
+public:
+    QString translate(const char* /*context*/, const char* key, const char* /*note*/, int n) const override
+    {
+        return QTranslator::translate(nullptr, key, nullptr, n);
+    }
+};
+
 } // namespace
 
 class FuelViewTest : public QObject
@@ -46,6 +56,11 @@ class FuelViewTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
+        QVERIFY(texts_.load("en", VLK_TEXTS) && QCoreApplication::installTranslator(&texts_));
+    }
     void init()
     {
         records_ = std::make_unique<ShownRecords>();
@@ -64,18 +79,18 @@ private Q_SLOTS:
         choose(good_);
         QCOMPARE(changed.count(), 1);
         QCOMPARE(view_->litres().size(), std::size_t(40));
-        QCOMPARE(row(), QStringList({"▼ rec_241", "28.05.2026 23:45", "312", "251", "-61", "–"}));
+        QCOMPARE(row(), QStringList({"▼ Drain", "28.05.2026 23:45", "312", "251", "-61", "–"}));
         QTest::keyClick(table(), Qt::Key_Down);
         QCOMPARE(records_->current(), 19);
         QTest::keyClick(table(), Qt::Key_Return);
         QCOMPARE(records_->inSight(), (TimeSpan{kStart + 19 * 60 - 900.0, kStart + 20 * 60 + 900.0}));
-        QTest::keyClick(table(), Qt::Key_C, Qt::ControlModifier);
+        QTest::mouseClick(view_->findChild<QPushButton*>("pushButton_CopyFuel"), Qt::LeftButton);
         QVERIFY(QApplication::clipboard()->text().contains("-61"));
 
         auto* fall = view_->findChild<QDoubleSpinBox*>("doubleSpinBox_FuelFall");
         fall->setFocus();
         fall->selectAll();
-        QTest::keyClicks(fall, "61,5");
+        QTest::keyClicks(fall, "61.5");
         QTest::keyClick(fall, Qt::Key_Return);
         QCOMPARE(fall->value(), 61.5);
         QCOMPARE(table()->model()->rowCount(), 0);
@@ -90,12 +105,18 @@ private Q_SLOTS:
         QTest::addColumn<int>("rows");
         const QByteArray rows = "<TABLE><DATA param_U='0' param_V='1'/><DATA param_U='400' param_V='4000'/>";
         QTest::newRow("another sensor of the kind") << "<FUEL type='D2'>" + rows + "</TABLE></FUEL>"
-                                                    << "rec_254" << 1;
+
+                                                    << "The table is of D2, the sensor chosen is: RS-485 "
+                                                       "fuel level 1. Check that it is the right table."
+                                                    << 1;
         QTest::newRow("another kind") << "<FUEL type='A3'>" + rows + "</TABLE></FUEL>"
-                                      << "rec_255" << 0;
-        QTest::newRow("falls back") << "<FUEL type='D1'>" + rows +
-                                           "<DATA param_U='500' param_V='9'/></TABLE></FUEL>"
-                                    << "table.xml: rec_234" << 0;
+
+                                      << "The table of A3 does not suit: RS-485 Fuel level 1 measures "
+                                         "something else. Choose another table."
+                                      << 0;
+        QTest::newRow("falls back")
+            << "<FUEL type='D1'>" + rows + "<DATA param_U='500' param_V='9'/></TABLE></FUEL>"
+            << "table.xml: The readings of the calibration table fall while the volume rises" << 0;
     }
     void saysWhatIsWrongWithATable()
     {
@@ -117,7 +138,7 @@ private Q_SLOTS:
         QTest::mouseClick(view_->findChild<QPushButton*>("pushButton_SaveFuel"), Qt::LeftButton);
         const QList<QByteArray> lines = readFile(path).split('\n');
         QCOMPARE(lines.size(), 3);
-        QCOMPARE(lines[1], QByteArray("rec_241;28.05.2026 23:45:40;28.05.2026 23:46:40;312.0;251.0;-61.0;;;"
+        QCOMPARE(lines[1], QByteArray("Drain;28.05.2026 23:45:40;28.05.2026 23:46:40;312.0;251.0;-61.0;;;"
                                       "LevelRS485_1\r"));
         QTest::keyClick(table(), Qt::Key_Down);
         TimeSpan asked;
@@ -148,16 +169,16 @@ private Q_SLOTS:
                     return model->index(i, 1).data().toString();
             return QString();
         };
-        QCOMPARE(value("rec_280"), QString("0:39"));
-        QCOMPARE(value("rec_287"), QString("1: 61"));
-        QCOMPARE(value("rec_284"), QString("0.0"));
-        QCOMPARE(value("rec_289"), QString("40"));
+        QCOMPARE(value("Standing, h:min"), QString("0:39"));
+        QCOMPARE(value("Drains: count and l"), QString("1: 61"));
+        QCOMPARE(value("Used, l"), QString("0.0"));
+        QCOMPARE(value("Records"), QString("40"));
         records_->setInSight({kStart, kStart + 600.0});
-        QCOMPARE(value("rec_289"), QString("11"));
+        QCOMPARE(value("Records"), QString("11"));
         auto* over = summary.findChild<QComboBox*>("comboBox_SummaryOver");
         records_->setPassing({5, 9});
         QTest::keyClick(over, Qt::Key_Down);
-        QCOMPARE(value("rec_289"), QString("5"));
+        QCOMPARE(value("Records"), QString("5"));
         QTest::keyClick(over, Qt::Key_Down);
         QCOMPARE(model->rowCount(), 2); // midnight in between, by the zone of the records
         QCOMPARE(model->index(0, 13).data(), QVariant("34"));
@@ -187,6 +208,7 @@ private:
         return cells;
     }
 
+    EnglishTexts texts_;
     QTemporaryDir folder_;
     std::unique_ptr<ShownRecords> records_;
     std::unique_ptr<FuelView> view_;

@@ -13,11 +13,14 @@ namespace {
 
 constexpr vlk::FuelThresholds thresholds{20, 10};
 constexpr int vehicles = 50;
-constexpr int days = 8;
+constexpr int days = 2;
+
+// Of litres, which levels in whole codes cannot tell: a pour that close to its threshold may be taken or not.
+constexpr double resolution = 0.5;
 
 bool isAbove(double litres)
 {
-    return litres >= thresholds.rise || litres <= -thresholds.fall;
+    return litres >= thresholds.rise + resolution || litres <= -thresholds.fall - resolution;
 }
 
 } // namespace
@@ -43,7 +46,8 @@ private Q_SLOTS:
         QFETCH(QByteArray, document);
         QFETCH(bool, sleeps);
         int above = 0;
-        for (int seed = 1; seed <= 25; ++seed) {
+        QStringList wrong;
+        for (int seed = 1; seed <= vehicles; ++seed) {
             const DrivenDays driven = drivenDays(seed, days, document);
             vlk::RecordColumns columns(driven.records);
             std::vector<FuelEvent> events =
@@ -57,15 +61,21 @@ private Q_SLOTS:
                 for (const FuelEvent& event : events)
                     litres += isOfPour(event) ? event.litres() : 0;
                 const bool isFound = std::erase_if(events, isOfPour) > 0;
-                const QByteArray what =
-                    "vehicle " + QByteArray::number(seed) + ", at " + QByteArray::number(pour.from) + ": " +
-                    QByteArray::number(pour.litres) + " l, found " + QByteArray::number(litres);
                 above += isAbove(pour.litres);
-                QVERIFY2(isFound || !isAbove(pour.litres), what.constData());
-                QVERIFY2(!isFound || std::abs(litres - pour.litres) < 5, what.constData());
+                if (isFound ? std::abs(litres - pour.litres) > 5 : isAbove(pour.litres))
+                    wrong << QStringLiteral("vehicle %1 at %2: %3 l, found %4")
+                                 .arg(seed)
+                                 .arg(pour.from)
+                                 .arg(pour.litres)
+                                 .arg(litres);
             }
-            QVERIFY2(events.empty(), qPrintable(QStringLiteral("vehicle %1 invented").arg(seed)));
+            for (const FuelEvent& event : events)
+                wrong << QStringLiteral("vehicle %1 at %2: invented %3 l")
+                             .arg(seed)
+                             .arg(event.time)
+                             .arg(event.litres());
         }
+        QCOMPARE(wrong.join('\n'), QString());
         QVERIFY(above > vehicles);
     }
 

@@ -95,6 +95,7 @@ void addFuelOptions(CLI::App& app, Read& read)
                              const char* what) {
         app.add_option(name, values, words(key))
             ->expected(1)
+            ->allow_extra_args(false)
             ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
             ->option_text(what);
     };

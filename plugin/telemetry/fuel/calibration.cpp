@@ -5,15 +5,24 @@
 #include "fuel/table/fuel_text.h"
 #include "xml/xml_document.h"
 
+#include <QFileInfo>
+
 namespace vlk {
 
 namespace {
 
-std::optional<Calibration> calibrationIn(const QByteArray& content)
+// A CSV file has its sensor in its name alone: "D1-Left tank.csv".
+QString sensorOfName(const QString& path)
+{
+    const QString start = QFileInfo(path).fileName().section(QLatin1Char('-'), 0, 0);
+    return levelSensorOfTable(start) == nullptr ? QString() : start;
+}
+
+std::optional<Calibration> calibrationIn(const QByteArray& content, const QString& path)
 {
     if (!content.trimmed().startsWith('<')) {
         std::optional<FuelRows> rows = readFuelCsv(content);
-        return rows ? std::optional(Calibration{{}, {}, *std::move(rows)}) : std::nullopt;
+        return rows ? std::optional(Calibration{sensorOfName(path), {}, *std::move(rows)}) : std::nullopt;
     }
     // A document with another root opens too.
     if (!content.contains(QByteArray("<") + fuelRoot))
@@ -32,7 +41,7 @@ std::optional<Calibration> calibrationIn(const QByteArray& content)
 std::variant<Calibration, TableFault> readCalibration(const QString& path)
 {
     const std::optional<QByteArray> content = readFuelFile(path);
-    std::optional<Calibration> table = content ? calibrationIn(*content) : std::nullopt;
+    std::optional<Calibration> table = content ? calibrationIn(*content, path) : std::nullopt;
     if (!table)
         return TableFault::Unreadable;
     if (const std::optional<TableFault> fault = FuelCurve::faultOf(table->rows))

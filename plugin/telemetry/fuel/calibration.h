@@ -10,7 +10,7 @@ namespace vlk {
 
 struct Calibration
 {
-    QString sensor; // "D1"; a CSV file tells none
+    QString sensor; // "D1"; of a CSV file as its name begins, or empty
     QString name;   // of the tank
     FuelRows rows;
 };

@@ -222,9 +222,7 @@ private:
         const double before = nearLevel(step.from, kBackwards).litres;
         const double after = nearLevel(step.to, kForwards).litres;
         const double litres = after - before;
-        const double burnt = burnt_[step.to] - burnt_[step.from];
-        if (litres < thresholds_.rise &&
-            -litres < thresholds_.fall + (1 + kBurnSpread) * longBurnt(step, burnt))
+        if (litres < thresholds_.rise && -litres < thresholds_.fall + (1 + kBurnSpread) * longBurnt(step))
             return {};
         const Level was = farLevel(step.from, kBackwards);
         const Level stays = farLevel(step.to, kForwards);
@@ -243,11 +241,13 @@ private:
                          kNowhere};
     }
 
-    // What was burnt between the two, where that is more than the edges of the step account for.
-    double longBurnt(const Step& step, double burnt) const
+    // What was burnt in long pauses, of which nothing is known but that.
+    double longBurnt(const Step& step) const
     {
-        const double apart = medians_[step.to].from - medians_[step.from].until;
-        return apart > kLongPause ? burnt : 0;
+        double burnt = 0;
+        for (int i = step.from; i < step.to; ++i)
+            burnt += medians_[i + 1].from - medians_[i].until > kLongPause ? burntBetween(i) : 0;
+        return burnt;
     }
 
     const std::vector<LevelMedian> medians_;
