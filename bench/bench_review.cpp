@@ -33,10 +33,8 @@ private:
     int count_ = 0;
 };
 
-void editWithReview(benchmark::State& state)
+void edit(benchmark::State& state, VLK_Widget_Config& dialog)
 {
-    VLK_Widget_Config dialog;
-    bench::openConfiguration(dialog);
     VLK_Form_Config_Transfer plain(nullptr);
     Edits reviewed(*dialog.review().history().pages().front());
     Edits unseen(plain.settings());
@@ -47,6 +45,30 @@ void editWithReview(benchmark::State& state)
             dialog.review().history().settle();
         },
         [&] { unseen.next(); });
+}
+
+void editWithReview(benchmark::State& state)
+{
+    VLK_Widget_Config dialog;
+    bench::openConfiguration(dialog);
+    edit(state, dialog);
+}
+
+// With the panel open on what a preset would change.
+void editBesidePreset(benchmark::State& state)
+{
+    VLK_Widget_Config dialog;
+    bench::openConfiguration(dialog);
+    const QTemporaryDir folder;
+    QFile preset(folder.filePath(QStringLiteral("preset.xml")));
+    if (!preset.open(QIODevice::WriteOnly) ||
+        preset.write("<DEVICE creator=\"preset\"><TRANS><SRV1 addr=\"a.example.com\"/></TRANS>"
+                     "<TRACK><POINTS angle=\"7\"/></TRACK></DEVICE>") < 0)
+        qFatal("no preset");
+    preset.close();
+    if (!dialog.showPreset(preset.fileName()))
+        qFatal("no preset is shown");
+    edit(state, dialog);
 }
 
 void press(QLineEdit* line, QChar sign)
@@ -110,6 +132,7 @@ void openFullPanel(benchmark::State& state)
 }
 
 BENCHMARK(editWithReview)->UseManualTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(editBesidePreset)->UseManualTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(searchKeyStroke)->UseManualTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(openFullPanel)->UseManualTime()->Unit(benchmark::kMillisecond);
 

@@ -14,6 +14,7 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <utility>
 
 namespace vlk {
 
@@ -23,6 +24,7 @@ constexpr int kHeight = 36;
 constexpr int kMargin = 9;
 constexpr int kGap = 8;
 constexpr double kTint = 0.12;
+constexpr int kNewsMs = 8000;
 
 } // namespace
 
@@ -52,6 +54,8 @@ NoticeBar::NoticeBar(QWidget* parent, const QString& name)
     auto* keys = new QShortcut(Qt::Key_F6, this);
     connect(keys, &QShortcut::activated, this, &NoticeBar::toggleFocus);
     connect(keys, &QShortcut::activatedAmbiguously, this, &NoticeBar::toggleFocus);
+    news_.setInterval(kNewsMs);
+    connect(&news_, &QTimer::timeout, this, &NoticeBar::endNews);
     setCross();
     retranslate();
     hide();
@@ -94,12 +98,27 @@ void NoticeBar::put(Told told)
 
 void NoticeBar::tell(int number, const Notice& notice)
 {
-    put({number, notice, {}});
+    put({number, notice, {}, false});
 }
 
 void NoticeBar::tell(int number, const std::function<Notice()>& notice)
 {
-    put({number, notice(), notice});
+    put({number, notice(), notice, false});
+}
+
+void NoticeBar::tellNews(int number, const std::function<Notice()>& notice)
+{
+    put({number, notice(), notice, true});
+    news_.start();
+}
+
+void NoticeBar::endNews()
+{
+    if (underMouse() || isAncestorOf(QApplication::focusWidget()))
+        return;
+    news_.stop();
+    std::erase_if(told_, [](const Told& told) { return told.isNews; });
+    refresh();
 }
 
 void NoticeBar::tell(const std::function<QString()>& sentence)
@@ -120,6 +139,12 @@ void NoticeBar::end(int number)
     refresh();
 }
 
+bool NoticeBar::isOnShow(int number) const
+{
+    const Told* shown = worst();
+    return shown && shown->number == number;
+}
+
 void NoticeBar::retranslate()
 {
     close_->setToolTip(tr("wrd_402"));
@@ -134,6 +159,11 @@ void NoticeBar::retranslate()
 const NoticeBar::Told* NoticeBar::worst() const
 {
     const auto found = std::min_element(told_.begin(), told_.end(), [this](const Told& a, const Told& b) {
+        const auto rank = [](const Told& told) {
+            return std::pair(told.notice.mark == Mark::invalid, told.isNews);
+        };
+        if (rank(a) != rank(b))
+            return rank(a) > rank(b);
         if (a.notice.mark != b.notice.mark)
             return a.notice.mark > b.notice.mark;
         return isNewestFirst_ ? &a > &b : a.number < b.number;

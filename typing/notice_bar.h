@@ -9,6 +9,7 @@
 
 #include <QFrame>
 #include <QPointer>
+#include <QTimer>
 
 #include <functional>
 #include <vector>
@@ -46,9 +47,13 @@ public:
     void tell(int number, const Notice& notice);
     // The same with a notice that is asked for again when the language changes.
     void tell(int number, const std::function<Notice()>& notice);
+    // The same for a while: it goes by itself, unless the mouse or the focus is on the bar. As long as it is
+    // there only what is invalid comes before it.
+    void tellNews(int number, const std::function<Notice()>& notice);
     // Of a bar that tells one thing: its sentence, asked for again likewise; null takes it away.
     void tell(const std::function<QString()>& sentence);
     void end(int number);
+    bool isOnShow(int number) const;
     // Among equals the one that was told last is on show.
     void setNewestFirst() { isNewestFirst_ = true; }
     void retranslate();
@@ -74,9 +79,11 @@ private:
         int number;
         Notice notice;
         std::function<Notice()> again; // null where the teller tells again
+        bool isNews = false;
     };
 
     void put(Told told);
+    void endNews();
     // Null when there is none.
     const Told* worst() const;
     void refresh();
@@ -90,6 +97,7 @@ private:
     QToolButton* close_;
     std::vector<Told> told_; // the newest is the last
     bool isNewestFirst_ = false;
+    QTimer news_;              // at whose end there are none
     QPointer<QWidget> before_; // had the focus before F6
 };
 

@@ -97,11 +97,11 @@ bool TextEntry::keyPressed(QKeyEvent* event)
     typed_ = event->matches(QKeySequence::Paste) ? QApplication::clipboard()->text() : event->text();
     switch (event->key()) {
     case Qt::Key_Escape:
-        // Also where nothing was typed: pressed once more than needed it would close the window.
+        // Where there is nothing to give up the key is the window's.
+        event->setAccepted(!line_->isReadOnly() && line_->text() != before_);
         tell({});
-        if (!line_->isReadOnly() && line_->text() != before_)
+        if (event->isAccepted())
             line_->setText(before_);
-        event->accept();
         return true;
     case Qt::Key_Enter:
     case Qt::Key_Return:

@@ -134,10 +134,10 @@ bool TypedEntry::eventFilter(QObject* watched, QEvent* event)
     }
     switch (key->key()) {
     case Qt::Key_Escape:
-        // Also where nothing was typed: pressed once more than needed it would close the window.
+        // Where there is nothing to give up the key is the window's.
+        key->setAccepted(typing_);
         giveUp();
         box_->selectAll();
-        key->accept();
         return true;
     case Qt::Key_Enter:
     case Qt::Key_Return:

@@ -103,7 +103,9 @@ void AdvicePanel::showState()
 {
     const review::Finding* finding = current();
     goTo_->setEnabled(finding && placeOf(*finding).row >= 0);
-    mend_->setEnabled(finding && !finding->mends.empty() && review_.canMend());
+    const bool isKnown = finding && !finding->mends.empty();
+    mend_->setEnabled(isKnown && review_.canMend());
+    mend_->setToolTip(mend_->isEnabled() || !finding ? QString() : tr(isKnown ? "rev_253" : "rev_254"));
 }
 
 void AdvicePanel::take(int line)

@@ -13,9 +13,21 @@ using review::Differences;
 using review::FileKeys;
 using review::FileState;
 
+namespace {
+
+constexpr int kPresetDelayMs = 200;
+
+} // namespace
+
 ConfigurationReview::ConfigurationReview(EditHistory& history, std::function<bool()> isQuick, QObject* parent)
     : QObject(parent), history_(history), isQuick_(std::move(isQuick)), present_(allSettings())
 {
+    presetDue_.setSingleShot(true);
+    presetDue_.setInterval(kPresetDelayMs);
+    connect(&presetDue_, &QTimer::timeout, this, [this] {
+        followPreset();
+        Q_EMIT changed();
+    });
     connect(&history_, &EditHistory::changed, this, &ConfigurationReview::refresh);
 }
 
@@ -29,10 +41,27 @@ void ConfigurationReview::begin(CXmlSection* root)
 {
     for (const PageSettings* page : history_.pages())
         hold(*page);
-    asItCame_ = root ? FileState::ofDocument(*root) : now();
+    opened_ = root ? FileState::ofDocument(*root) : now();
+    asItCame_ = opened_;
+    isWritten_ = false;
+    presetDue_.stop();
     against_ = Against::file;
     otherName_ = {};
     history_.begin();
+}
+
+void ConfigurationReview::setWritten(const QByteArray& document)
+{
+    XmlDocument file(document, QStringLiteral("DEVICE"));
+    if (!file.isOpen())
+        return;
+    asItCame_ = FileState::ofDocument(*file.root());
+    isWritten_ = true;
+    edited_ = Differences(asItCame_, now());
+    if (against_ == Against::file)
+        differences_ = edited_;
+    advice_.reset();
+    Q_EMIT changed();
 }
 
 bool ConfigurationReview::compareWith(Against against, const QString& path)
@@ -64,6 +93,7 @@ void ConfigurationReview::compareWith(FileState before, const EditHistory::Words
 
 void ConfigurationReview::compareWith(FileState before, Against against, const EditHistory::Words& name)
 {
+    presetDue_.stop();
     against_ = against;
     otherName_ = name;
     differences_ = Differences(std::move(before), now());
@@ -78,9 +108,19 @@ FileState ConfigurationReview::withPreset()
     review::AppliedPreset applied = review::applied(*document.root(), base);
     problems_ = std::move(applied.problems);
     FileState state = now();
-    for (const review::Difference& moved : Differences(FileState::ofConfiguration(base), applied.state).all())
+    moved_.clear();
+    for (const review::Difference& moved :
+         Differences(FileState::ofConfiguration(base), applied.state).all()) {
         state.take(moved.key, applied.state);
+        moved_.push_back(moved.key);
+    }
     return state;
+}
+
+void ConfigurationReview::followPreset()
+{
+    presetDue_.stop();
+    differences_ = Differences(withPreset(), now());
 }
 
 Configuration ConfigurationReview::configuration() const
@@ -183,6 +223,7 @@ void ConfigurationReview::refresh(const QVector<int>& pages)
     for (const int page : pages)
         hold(*history_.pages()[page]);
     const bool isQuick = this->isQuick();
+    const bool isPreset = against_ == Against::preset;
     const bool isWhole = isQuick || isQuick != wasQuick_ || pages.size() == int(history_.pages().size());
     wasQuick_ = isQuick;
     if (isWhole) {
@@ -191,13 +232,18 @@ void ConfigurationReview::refresh(const QVector<int>& pages)
         differences_ = against_ == Against::file ? edited_ : Differences(differences_.before(), state);
     } else {
         for (const int page : pages) {
-            edited_.update(history_.pages()[page]->values());
-            differences_.update(history_.pages()[page]->values());
+            const Values& values = history_.pages()[page]->values();
+            edited_.update(values);
+            if (isPreset)
+                differences_.updateBoth(values, moved_);
+            else
+                differences_.update(values);
         }
     }
-    // An edit moves what the preset would make of the rest.
-    if (against_ == Against::preset)
-        differences_ = Differences(withPreset(), now());
+    if (isPreset && isWhole)
+        followPreset();
+    else if (isPreset)
+        presetDue_.start();
     advice_.reset();
     Q_EMIT changed();
 }
@@ -228,6 +274,8 @@ void ConfigurationReview::mend(const std::vector<review::Mend>& mends, const Edi
 void ConfigurationReview::takeOver(const std::vector<int>& keys, const EditHistory::Words& words)
 {
     history_.settle();
+    if (presetDue_.isActive())
+        followPreset();
     takeOverFrom(differences_, keys, words);
 }
 

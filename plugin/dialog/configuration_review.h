@@ -10,6 +10,8 @@
 #include "review/recovery.h"
 #include "review/search.h"
 
+#include <QTimer>
+
 #include <optional>
 
 struct CXmlSection;
@@ -28,6 +30,10 @@ public:
     // A configuration has been opened and is compared with its file; a new one, without a file, with what it
     // begins with. Begins the history.
     void begin(CXmlSection* root);
+
+    // The tracker that the configuration came from has this document now, which counts as the file from here.
+    void setWritten(const QByteArray& document);
+    bool isWritten() const { return isWritten_; }
 
     // Of a preset: with what the configuration would be if it were applied now.
     enum class Against { file, defaults, otherFile, preset };
@@ -51,6 +57,8 @@ public:
     // To the file, whatever is compared.
     int edited() const { return edited_.count(); }
     const review::Differences& edits() const { return edited_; }
+    // Also to what was there before it was written.
+    review::Differences sinceOpened() const { return {opened_, now()}; }
     bool isEdited(int table, int row) const { return edited_.isDifferent(table, row); }
     // Of the full window; `written` is what a write would bring now.
     Configuration configuration() const;
@@ -90,7 +98,10 @@ Q_SIGNALS:
 
 private:
     review::FileState now() const;
+    // The other side while a preset is compared with.
     review::FileState withPreset();
+    // An edit may move what the preset would make of the rest.
+    void followPreset();
     void compareWith(review::FileState before, Against against, const EditHistory::Words& name);
     void write(CXmlSection& root) const;
     // `quick`: values of that window that stand whatever the configuration makes of them.
@@ -105,9 +116,13 @@ private:
     EditHistory& history_;
     const std::function<bool()> isQuick_;
     Configuration present_; // what the pages of the full window hold since the last step
-    review::FileState asItCame_;
+    review::FileState opened_;
+    review::FileState asItCame_; // the same, or what has been written since then
+    bool isWritten_ = false;
     Against against_ = Against::file;
-    QByteArray preset_; // its document
+    QByteArray preset_;      // its document
+    std::vector<int> moved_; // keys that it moves
+    QTimer presetDue_;       // to be followed when edits pause
     std::vector<review::PresetProblem> problems_;
     EditHistory::Words otherName_;
     bool wasQuick_ = false;

@@ -47,8 +47,9 @@ void DifferenceModel::refresh()
     lines_.clear();
     problems_ = 0;
     const QSet<QString> unchosen = std::exchange(unchosen_, {});
+    const bool isPreset = review_.against() == ConfigurationReview::Against::preset;
     const review::Differences& differences = review_.differences();
-    if (review_.against() == ConfigurationReview::Against::preset) {
+    if (isPreset) {
         for (const review::PresetProblem& problem : review_.problems())
             lines_.push_back(
                 {review::Difference{-1, -1, problem.path, problem.text, {}}, review::textOf(problem)});
@@ -61,8 +62,17 @@ void DifferenceModel::refresh()
             unchosen_.insert(difference.path);
         lines_.push_back({difference, values ? review::textOf(differences, difference, *values)
                                              : review::textOf(difference)});
+        if (isPreset && difference.key >= 0)
+            tellWhole(&lines_.back(), differences.before().at(difference.key).meaning);
     }
     endResetModel();
+}
+
+// The texts tell what the preset moves here alone.
+void DifferenceModel::tellWhole(Line* line, const QString& value)
+{
+    if (const auto parts = review::chosenParts(line->difference.key, value))
+        line->text.note = text("rev_251").arg(parts->count).arg(parts->all);
 }
 
 std::vector<int> DifferenceModel::chosenKeys() const
@@ -139,6 +149,8 @@ QVariant DifferenceModel::headerData(int section, Qt::Orientation orientation, i
         return {};
     if (section == Before && !review_.otherName().isEmpty())
         return review_.otherName();
+    if (section == Before && review_.against() == ConfigurationReview::Against::file && review_.isWritten())
+        return text("rev_256");
     return text(section == Before ? sides[static_cast<int>(review_.against())] : titles[section]);
 }
 

@@ -46,6 +46,9 @@ private:
         review::DifferenceText text;
     };
 
+    // That a preset sets the setting as a whole, of one of many parts.
+    static void tellWhole(Line* line, const QString& value);
+
     ConfigurationReview& review_;
     std::vector<Line> lines_;
     int problems_ = 0;

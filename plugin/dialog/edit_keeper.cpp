@@ -19,6 +19,7 @@ namespace vlk {
 namespace {
 
 Q_LOGGING_CATEGORY(lcUnsaved, "vlk.save.unsaved")
+Q_LOGGING_CATEGORY(lcKept, "vlk.unsaved.kept")
 
 // Behind an edit. With the time that a slow disk takes it stays below a second.
 constexpr int kDelayMs = 500;
@@ -63,6 +64,7 @@ void EditKeeper::begin(const QString& folder, const QString& subject)
     due_.stop();
     subject_ = subject;
     path_ = review::recoveryPath(folder, subject);
+    claim_.reset();
     beginWith(review_.document());
 }
 
@@ -87,9 +89,12 @@ bool EditKeeper::keep()
         if (QFile::exists(path_) && !QFile::remove(path_))
             return false;
         kept_.clear();
+        claim_.reset();
     } else if (review::keepUnsaved(path_, {subject_, vlk::now(), beginning, now, review_.quickValues()},
                                    &reason)) {
         kept_ = now;
+        if (!claim_)
+            claim_.emplace(path_);
     } else {
         setFailure(reason);
         return false;
@@ -105,13 +110,26 @@ void EditKeeper::leave()
     review_.history().settle();
     if (keep())
         Q_EMIT safe();
+    claim_.reset();
 }
 
 bool EditKeeper::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Hide && !event->spontaneous())
+    if (event->type() == QEvent::Hide && !event->spontaneous()) {
         leave();
+        tellKept();
+    }
     return QObject::eventFilter(watched, event);
+}
+
+// The window is gone: whoever shows what is logged says it.
+void EditKeeper::tellKept() const
+{
+    if (kept_.isEmpty())
+        return;
+    const auto edited = review::editedKeys({subject_, {}, beginnings_[review_.isQuick()], kept_});
+    if (!edited.empty())
+        qCWarning(lcKept) << edited.size() << "changes are kept";
 }
 
 void EditKeeper::switched()
@@ -145,6 +163,7 @@ void EditKeeper::confirmed(const QByteArray& content)
     const HandedOver written = *found;
     handedOver_.erase(handedOver_.begin(), found.base());
     if (written.path == path_) {
+        Q_EMIT this->written(written.content);
         beginWith(written.document);
         if (keep())
             Q_EMIT safe();

@@ -4,11 +4,13 @@
 // file, written to the tracker or taken back, and at once when the window closes. A change of windows alone
 // is no edit.
 
+#include "base/file_claim.h"
 #include "dialog/configuration_review.h"
 
 #include <QTimer>
 
 #include <array>
+#include <optional>
 
 namespace vlk {
 
@@ -48,6 +50,8 @@ Q_SIGNALS:
     void failureChanged();
     // What there is now is safe: kept, saved or written.
     void safe();
+    // The tracker has what the window on show handed over: that content.
+    void written(const QByteArray& content);
 
 private:
     struct HandedOver
@@ -59,11 +63,13 @@ private:
 
     void beginWith(const QByteArray& document);
     void setFailure(const QString& reason);
+    void tellKept() const;
 
     ConfigurationReview& review_;
     QTimer due_;
     QString subject_;
     QString path_;
+    std::optional<FileClaim> claim_;       // while the edits are in sight
     std::array<QByteArray, 2> beginnings_; // without an edit, in the full and in the quick window
     QByteArray kept_;                      // what the file is known to hold
     bool isEdited_ = false;

@@ -12,6 +12,23 @@
 
 namespace vlk {
 
+namespace {
+
+QString askPath(QWidget* parent, const PathQuestion& question, const QString& dialogName)
+{
+    if (!vlkDevice)
+        return {};
+    QFileDialog dialog(parent, question.caption, vlkDevice->xmlFolder() + QLatin1Char('/') + question.name,
+                       question.filter);
+    dialog.setObjectName(dialogName);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    // Set in the dialog, so that it asks about the file with the suffix before it is replaced.
+    dialog.setDefaultSuffix(question.suffix);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+} // namespace
+
 QString configurationPathToWrite(const QString& part)
 {
     return QStringLiteral("%1/vlk_%2_%3.xml")
@@ -24,21 +41,15 @@ QString askConfigurationPath(QWidget* parent, const QString& objectName)
     const QString name = QStringLiteral("%1(%2).xml")
                              .arg(asFileName(objectName, QStringLiteral("_")),
                                   now().toString(QStringLiteral("dd-MM-yy hh_mm_ss")));
-    return askPathToSave(parent,
-                         {text("cfgwnd_003"), name, QStringLiteral("%1 XML (*.xml)").arg(text("cfgwnd_004")),
-                          QStringLiteral("xml")});
+    return askPath(parent,
+                   {text("cfgwnd_003"), name, QStringLiteral("%1 XML (*.xml)").arg(text("cfgwnd_004")),
+                    QStringLiteral("xml")},
+                   {});
 }
 
 QString askPathToSave(QWidget* parent, const PathQuestion& question)
 {
-    if (!vlkDevice)
-        return {};
-    QFileDialog dialog(parent, question.caption, vlkDevice->xmlFolder() + QLatin1Char('/') + question.name,
-                       question.filter);
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    // Set in the dialog, so that it asks about the file with the suffix before it is replaced.
-    dialog.setDefaultSuffix(question.suffix);
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    return askPath(parent, question, QStringLiteral("fileDialog_Told"));
 }
 
 QString saveAsAsked(const QString& path, const QByteArray& content, bool isPrivate)
@@ -49,6 +60,12 @@ QString saveAsAsked(const QString& path, const QByteArray& content, bool isPriva
     return isSaved ? QString()
                    : QCoreApplication::translate("vlk", "rev_198")
                          .arg(QDir::toNativeSeparators(path), fileErrorText(reason));
+}
+
+Notice savedNotice(const QString& path)
+{
+    const QString text = QCoreApplication::translate("vlk", "rev_218");
+    return {Mark::right, text.arg(QDir::toNativeSeparators(path)), {}};
 }
 
 } // namespace vlk

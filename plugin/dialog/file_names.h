@@ -2,6 +2,8 @@
 
 // Names of the configuration files that the windows make.
 
+#include "typing/notice_bar.h"
+
 #include <QString>
 
 class QWidget;
@@ -17,7 +19,8 @@ QString configurationPathToWrite(const QString& part);
 QString askConfigurationPath(QWidget* parent, const QString& objectName);
 
 // The same with another question, name and kind: `filter` names the kind and `suffix` is what a name without
-// one gets.
+// one gets. For windows that tell themselves what became of the file: by the name of the dialog a host knows
+// that it need not.
 struct PathQuestion
 {
     QString caption;
@@ -30,5 +33,7 @@ QString askPathToSave(QWidget* parent, const PathQuestion& question);
 // Saves a whole file, readable by its owner alone where it is private. Empty when it is saved, else the
 // sentence that says why not.
 QString saveAsAsked(const QString& path, const QByteArray& content, bool isPrivate);
+// That it is saved.
+Notice savedNotice(const QString& path);
 
 } // namespace vlk

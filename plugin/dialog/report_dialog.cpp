@@ -10,7 +10,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDir>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPrintDialog>
@@ -26,7 +25,6 @@ namespace {
 enum Contents { All, Edited, NotDefault };
 constexpr const char* kContents[] = {"rev_207", "rev_208", "rev_209"};
 constexpr int kSaved = 1;
-constexpr int kNewsMs = 8000;
 constexpr QSize kUsualSize(760, 560);
 
 QPalette ofPaper(QPalette palette)
@@ -77,8 +75,9 @@ ReportDialog::ReportDialog(const ConfigurationReview& review, std::function<QStr
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 6, 6, 6);
     layout->setSpacing(6);
-    layout->addWidget(bar_);
     layout->addLayout(choice);
+    // Below what is chosen, which stays where it is when the bar comes.
+    layout->addWidget(bar_);
     layout->addWidget(preview_, 1);
     layout->addLayout(buttons);
     connect(contents_, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &ReportDialog::refresh);
@@ -90,13 +89,6 @@ ReportDialog::ReportDialog(const ConfigurationReview& review, std::function<QStr
     connect(saveHtml_, &QPushButton::clicked, this,
             [this] { save("rev_215", QStringLiteral("html"), &asText); });
     connect(close_, &QPushButton::clicked, this, &QDialog::close);
-    news_.setInterval(kNewsMs);
-    connect(&news_, &QTimer::timeout, this, [this] {
-        if (bar_->underMouse() || bar_->isAncestorOf(focusWidget()))
-            return;
-        news_.stop();
-        bar_->end(kSaved);
-    });
     resize(kUsualSize);
     keepOnScreen(this);
     retranslate();
@@ -135,11 +127,12 @@ void ReportDialog::refresh()
     const Configuration configuration = review_.written();
     const review::Differences notDefault(review::FileState::ofDefaults(configuration),
                                          review::FileState::ofConfiguration(configuration));
+    const review::Differences sinceOpened = review_.sinceOpened();
     const int contents = contents_->currentIndex();
     const review::ReportChoice choice{contents != All, onePage_->isChecked(),
                                       secrets_->isChecked() ? review::Secrets::shown
                                                             : review::Secrets::masked};
-    html_ = toHtml(configuration, reportOf(configuration, contents == Edited ? review_.edits() : notDefault,
+    html_ = toHtml(configuration, reportOf(configuration, contents == Edited ? sinceOpened : notDefault,
                                            review_.advice(), about_(), choice));
     preview_->setHtml(html_);
 }
@@ -161,13 +154,10 @@ void ReportDialog::save(const char* kind, const QString& suffix,
     if (path.isEmpty())
         return;
     const QString failure = saveAsAsked(path, content(html_, onePage_->isChecked()), secrets_->isChecked());
-    news_.stop();
-    if (failure.isEmpty()) {
-        bar_->tell(kSaved, {Mark::right, tr("rev_218").arg(QDir::toNativeSeparators(path)), {}});
-        news_.start();
-    } else {
+    if (failure.isEmpty())
+        bar_->tellNews(kSaved, [path] { return savedNotice(path); });
+    else
         bar_->tell(kSaved, {Mark::invalid, failure, {}});
-    }
 }
 
 } // namespace vlk

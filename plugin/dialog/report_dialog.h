@@ -4,7 +4,6 @@
 // file.
 
 #include <QDialog>
-#include <QTimer>
 
 #include <functional>
 
@@ -43,7 +42,6 @@ private:
     const std::function<QStringList()> about_;
     QString html_;
     NoticeBar* bar_;
-    QTimer news_; // at whose end a success is told no longer
     QLabel* of_;
     QComboBox* contents_;
     QCheckBox* onePage_;

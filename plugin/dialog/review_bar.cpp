@@ -7,7 +7,6 @@
 #include "settings/value_text.h"
 #include "typing/field_mark.h"
 #include "typing/line_icon.h"
-#include "windows/input_guard.h"
 #include "windows/named_widget.h"
 
 #include <QCheckBox>
@@ -85,7 +84,6 @@ ReviewBar::ReviewBar(ConfigurationReview& review, SettingPlaces& places, QWidget
         button->setIconSize({kMarkSide, kMarkSide});
         button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     }
-    keepOpenOnEscape(this);
     find_->setClearButtonEnabled(true);
     find_->installEventFilter(this);
     list_->setFocusPolicy(Qt::NoFocus);
@@ -144,7 +142,8 @@ void ReviewBar::showState()
     const int count = review_.edited();
     differences_->setText(QLocale().toString(count));
     setMark(differences_, count > 0 ? std::optional(Mark::changed) : std::nullopt);
-    differences_->setToolTip(tr("rev_126").arg(QKeySequence(kDifferencesKey).toString()));
+    differences_->setToolTip(
+        tr(review_.isWritten() ? "rev_257" : "rev_126").arg(QKeySequence(kDifferencesKey).toString()));
     differences_->setAccessibleName(QStringLiteral("%1: %2").arg(tr("rev_108")).arg(count));
 }
 

@@ -1,7 +1,6 @@
 #include "dialog/review_panel.h"
 
-#include "base/save_log.h"
-#include "base/whole_file.h"
+#include "dialog/file_names.h"
 #include "dialog/preset_saving.h"
 #include "dialog/setting_places.h"
 #include "fuel/question.h"
@@ -17,7 +16,6 @@
 #include <QCoreApplication>
 #include <QFileDialog>
 #include <QPushButton>
-#include <QSaveFile>
 #include <QTableView>
 
 #include <algorithm>
@@ -87,6 +85,7 @@ void ReviewPanel::showState()
 {
     const int against = static_cast<int>(review_.against());
     const QString other = review_.otherName();
+    against_->setItemText(static_cast<int>(Against::file), tr(review_.isWritten() ? "rev_255" : kSides[0]));
     against_->setItemText(static_cast<int>(Against::otherFile), other.isEmpty() ? tr("rev_111") : other);
     against_->setCurrentIndex(against);
     takeOver_->setText(tr(kVerbs[against]));
@@ -147,19 +146,21 @@ void ReviewPanel::takeOver()
 
 void ReviewPanel::saveAsPreset()
 {
-    savePreset(this, review_.differences().after(), model_.chosenKeys());
+    if (const auto notice = savePreset(this, review_.differences().after(), model_.chosenKeys()))
+        Q_EMIT told(notice);
 }
 
 void ReviewPanel::saveCsv()
 {
-    const QString path = QFileDialog::getSaveFileName(this, tr("rev_115"), {}, QStringLiteral("CSV (*.csv)"));
+    const QString path = askPathToSave(this, {tr("rev_115"), tr("rev_108") + QStringLiteral(".csv"),
+                                              QStringLiteral("CSV (*.csv)"), QStringLiteral("csv")});
     if (path.isEmpty())
         return;
-    QSaveFile file(path);
-    QString reason;
     // With a mark of the encoding, by which spreadsheets know it.
-    if (!saveWhole(file, "\xEF\xBB\xBF" + model_.csv().toUtf8(), &reason))
-        qCWarning(lcSave).noquote() << path + QStringLiteral(": ") + reason;
+    const QString failure = saveAsAsked(path, "\xEF\xBB\xBF" + model_.csv().toUtf8(), false);
+    Q_EMIT told([path, failure] {
+        return failure.isEmpty() ? savedNotice(path) : Notice{Mark::invalid, failure, {}};
+    });
 }
 
 } // namespace vlk

@@ -6,6 +6,9 @@
 
 #include "dialog/difference_model.h"
 #include "dialog/list_panel.h"
+#include "typing/notice_bar.h"
+
+#include <functional>
 
 class QComboBox;
 class QPushButton;
@@ -25,6 +28,10 @@ public:
     // Asks for a preset and compares with it. False when none was chosen that could be read.
     bool choosePreset();
     void saveAsPreset();
+
+Q_SIGNALS:
+    // What became of a file; asked for again when the language changes.
+    void told(const std::function<vlk::Notice()>& notice);
 
 protected:
     void refresh() override { model_.refresh(); }

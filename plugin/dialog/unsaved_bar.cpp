@@ -13,7 +13,9 @@ namespace vlk {
 
 namespace {
 
-constexpr int kFailure = 0; // number of its notice
+// Numbers of notices that are no offers.
+constexpr int kFailure = 0;
+constexpr int kFile = -1;
 
 QString words(const char* key)
 {
@@ -34,7 +36,7 @@ UnsavedBar::UnsavedBar(ConfigurationReview& review, QWidget* parent)
 {
     connect(&review_, &ConfigurationReview::changed, this, &UnsavedBar::refresh);
     connect(this, &NoticeBar::closed, this, [this](int number) {
-        if (number != kFailure)
+        if (number > kFailure)
             offers_[number - 1].isClosed = true;
     });
 }
@@ -43,6 +45,7 @@ void UnsavedBar::begin(const QString& folder, const QString& subject)
 {
     for (std::size_t i = 0; i < offers_.size(); ++i)
         end(static_cast<int>(i) + 1);
+    end(kFile);
     offers_.clear();
     for (review::KeptUnsaved& kept : review::keptUnsaved(folder, subject)) {
         XmlDocument after(kept.unsaved.after, QStringLiteral("DEVICE"));
@@ -147,6 +150,14 @@ void UnsavedBar::drop()
         if (offer.isDiscarded || changes(offer) == 0)
             offer.isClosed |= QFile::remove(offer.kept.path);
     }
+}
+
+void UnsavedBar::tellFile(const std::function<Notice()>& notice)
+{
+    if (notice().mark == Mark::right)
+        tellNews(kFile, notice);
+    else
+        tell(kFile, notice);
 }
 
 void UnsavedBar::tellFailure(const QString& reason)

@@ -1,9 +1,9 @@
 #pragma once
 
-// Offers what was edited earlier and has reached neither a file nor the tracker, above the pages: how many
-// settings of the configuration on show it would change. Each time of editing is a notice of its own, the
-// newest first. The cross leaves it for the next opening; once it has been shown it can be discarded, which
-// happens when the window closes.
+// The bar of the configuration's window. Offers what was edited earlier and has reached neither a file nor
+// the tracker, above the pages: how many settings of the configuration on show it would change. Each time of
+// editing is a notice of its own, the newest first. The cross leaves it for the next opening; once it has
+// been shown it can be discarded, which happens when the window closes.
 
 #include "dialog/configuration_review.h"
 #include "review/recovery.h"
@@ -25,6 +25,8 @@ public:
     // What there is now is kept, saved or written: offers that would change nothing go from the disk, and so
     // do those that are discarded.
     void drop();
+    // What became of a file that the window has saved.
+    void tellFile(const std::function<Notice()>& notice);
     // That the disk keeps nothing; an empty reason ends it.
     void tellFailure(const QString& reason);
 

@@ -24,6 +24,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QLayout>
 #include <QPushButton>
 #include <QTimer>
@@ -161,9 +162,15 @@ void VLK_Widget_Config::addKeeper()
     };
     connect(ui_->stackedWidget, &QStackedWidget::currentChanged, this, place);
     place();
+    // A file that was opened stays as it is.
+    connect(&keeper_, &vlk::EditKeeper::written, this, [this](const QByteArray& content) {
+        if (file_.isEmpty())
+            review_.setWritten(content);
+    });
     connect(&keeper_, &vlk::EditKeeper::safe, unsaved_, &vlk::UnsavedBar::drop);
     connect(&keeper_, &vlk::EditKeeper::failureChanged, this,
             [this] { unsaved_->tellFailure(keeper_.failure()); });
+    connect(panel_, &vlk::ReviewPanel::told, unsaved_, &vlk::UnsavedBar::tellFile);
     connect(unsaved_, &vlk::UnsavedBar::shown, this, [this] { showPanel(vlk::ReviewBar::Differences); });
 }
 
@@ -199,8 +206,17 @@ std::vector<QWidgetList> VLK_Widget_Config::areas() const
     return {{bar_}, content, panels, buttons};
 }
 
+void VLK_Widget_Config::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && (panel_->isVisible() || advice_->isVisible()))
+        showPanel(vlk::ReviewBar::None);
+    else
+        QDialog::keyPressEvent(event);
+}
+
 void VLK_Widget_Config::showPanel(vlk::ReviewBar::Panel panel)
 {
+    const bool wasInPanel = panel_->isAncestorOf(focusWidget()) || advice_->isAncestorOf(focusWidget());
     // The panel takes room from the page: what is being edited stays in sight.
     if (QWidget* edited = focusWidget(); edited && ui_->stackedWidget->isAncestorOf(edited))
         QTimer::singleShot(0, edited, [edited] { vlk::SettingPlaces::keepInSight(edited); });
@@ -213,7 +229,7 @@ void VLK_Widget_Config::showPanel(vlk::ReviewBar::Panel panel)
         panel_->open();
     else if (panel == vlk::ReviewBar::Advice)
         advice_->open();
-    else
+    else if (wasInPanel)
         ui_->stackedWidget->currentWidget()->setFocus(Qt::OtherFocusReason);
 }
 

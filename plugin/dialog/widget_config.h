@@ -63,6 +63,10 @@ public:
     // Opens the panel with what the preset would change. False when there is nothing open or no such file.
     bool showPreset(const QString& path);
 
+protected:
+    // Esc that no field and no popup has use for closes a panel, then the window.
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     void saveToXml(CXmlSection* root);
     bool isQuick() const;

@@ -73,7 +73,6 @@ void VLK_Widget_Config_Full::buildTabs()
 {
     pages_->create([this](auto& page) {
         vlk::guardInputs(&page);
-        vlk::keepOpenOnEscape(&page);
         vlk::dressPage(&page);
         page.setTabIndex(navigation_->add(&page, page.title()));
     });

@@ -63,7 +63,6 @@ VLK_Form_Config_Light& VLK_Widget_Config_Light::form()
     if (!form_) {
         form_ = new VLK_Form_Config_Light;
         vlk::guardInputs(form_);
-        vlk::keepOpenOnEscape(form_);
         vlk::dressPage(form_);
         area_ = new QScrollArea;
         area_->setWidgetResizable(true);

@@ -77,9 +77,8 @@ public:
     // Puts the rows of a file in the place of those that are there; they are dirty. False when it cannot be
     // read.
     bool replaceByCsv(const QString& path);
-    // As it stands, for the next time: in the file of that path, or in a new one.
-    QString keep(const QString& folder, const QString& vehicle, const QDateTime& time,
-                 const QString& path) const;
+    // As it stands, for the next time. False when the disk refused.
+    bool keep(const QString& path, const QString& vehicle, const QDateTime& time) const;
 
     void printReport();
     // What the form knows of the sheet.

@@ -16,10 +16,9 @@
 
 #include <QClipboard>
 
-QString VLK_Form_Fuel_Sensor::keep(const QString& folder, const QString& vehicle, const QDateTime& time,
-                                   const QString& path) const
+bool VLK_Form_Fuel_Sensor::keep(const QString& path, const QString& vehicle, const QDateTime& time) const
 {
-    return vlk::keepTable(folder, name_, vehicle, ui_->lineEdit_Name->text(), rows(), time, path);
+    return vlk::keepTable(path, name_, vehicle, ui_->lineEdit_Name->text(), rows(), time);
 }
 
 bool VLK_Form_Fuel_Sensor::saveCsv(const QString& path) const

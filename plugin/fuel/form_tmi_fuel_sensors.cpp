@@ -265,16 +265,15 @@ void VLK_Form_TMI_Fuel_Sensors::select(const QString& type)
 
 void VLK_Form_TMI_Fuel_Sensors::slot_currentChanged_FuelType(int /*index*/)
 {
-    if (const auto* form = currentForm())
-        ui_->pushButton_Save_Xml->setEnabled(form->isDirty());
     tellOfTable();
 }
 
 void VLK_Form_TMI_Fuel_Sensors::slot_NeedSaved(bool on)
 {
-    ui_->pushButton_Save_Xml->setEnabled(on);
     unsavedCount_ += on ? 1 : -1;
     tellOfTable();
+    if (on)
+        ui_->pushButton_Save_Xml->setEnabled(true);
 }
 
 void VLK_Form_TMI_Fuel_Sensors::markTabs()

@@ -85,6 +85,9 @@ private:
     bool hasUnsaved() const { return unsavedCount_ > 0; }
     // What the bar says of the table on show, and the tabs of all.
     void tellOfTable();
+    // Opens the button for rows that were added, and for an edited table while the bar has something else to
+    // tell than that.
+    void openSave();
     // On the tab of each table that is not in a file, and on that of its group.
     void markTabs();
     // The user has closed the one of this number.

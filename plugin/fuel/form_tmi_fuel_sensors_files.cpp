@@ -74,8 +74,17 @@ void VLK_Form_TMI_Fuel_Sensors::tellOfTable()
     tell(kFlaw, flaw.row >= 0,
          {Mark::invalid, tr("tmiw_265").arg(QString::number(flaw.row + 1), flaw.text.left(kQuoted)), {}});
     tell(kEdited, form->isEdited(), {Mark::changed, tr("cfgt6_404"), {save}});
-    // Where rows were not added the button is closed.
-    ui_->pushButton_Save_Xml->setToolTip(form->isEdited() ? tr("tmiw_268") : QString());
+    openSave();
+}
+
+void VLK_Form_TMI_Fuel_Sensors::openSave()
+{
+    const VLK_Form_Fuel_Sensor* form = currentForm();
+    if (!form)
+        return;
+    const bool isInBar = form->isEdited() && bar_->isOnShow(kEdited);
+    ui_->pushButton_Save_Xml->setEnabled(form->isDirty() || (form->isEdited() && !isInBar));
+    ui_->pushButton_Save_Xml->setToolTip(isInBar ? tr("tmiw_268") : QString());
 }
 
 void VLK_Form_TMI_Fuel_Sensors::forgetNotice(int number)
@@ -87,6 +96,7 @@ void VLK_Form_TMI_Fuel_Sensors::forgetNotice(int number)
         fileOf_[sensor].clear();
     else if (number == kCut)
         cutIn_[sensor] = 0;
+    openSave();
 }
 
 void VLK_Form_TMI_Fuel_Sensors::offerKeptTables()
@@ -97,7 +107,8 @@ void VLK_Form_TMI_Fuel_Sensors::offerKeptTables()
         const QString time = table.time.toString(QStringLiteral("dd.MM.yyyy HH:mm:ss"));
         const Notice::Action back{tr("cfgt6_406"), [this, table] { bringBack(table); }};
         const Notice::Action discard{tr("cfgt6_407"), [this, path = table.path] {
-                                         QFile::remove(path);
+                                         if (!isClaimed(path))
+                                             QFile::remove(path);
                                          offerKeptTables();
                                      }};
         bar_->tell(kOffers + offers_++,
@@ -105,10 +116,16 @@ void VLK_Form_TMI_Fuel_Sensors::offerKeptTables()
                     tr("cfgt6_405").arg(table.sensor, table.vehicle, time, QString::number(table.points)),
                     {back, discard}});
     }
+    openSave();
 }
 
 void VLK_Form_TMI_Fuel_Sensors::bringBack(const KeptTable& table)
 {
+    // Another program was offered it too.
+    if (isClaimed(table.path) || !QFile::exists(table.path)) {
+        offerKeptTables();
+        return;
+    }
     select(table.sensor);
     VLK_Form_Fuel_Sensor* form = currentForm();
     if (!form || form->name() != table.sensor || !mayReplace(*form))
@@ -119,7 +136,7 @@ void VLK_Form_TMI_Fuel_Sensors::bringBack(const KeptTable& table)
     XmlDocument document(table.path, QLatin1String(fuelRoot));
     load(*form, [&] { form->loadXml(document.root()); });
     form->setEdited(true);
-    kept_.show(*form, table.path);
+    kept_.show(*form, table.path, std::make_unique<FileClaim>(table.path));
     offerKeptTables();
 }
 

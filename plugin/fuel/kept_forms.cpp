@@ -11,13 +11,21 @@ namespace vlk {
 
 bool KeptForms::keep(const VLK_Form_Fuel_Sensor& form, const QString& folder, const QString& vehicle)
 {
-    const auto shown = shown_.find(&form);
-    const QString before = shown == shown_.end() ? QString() : shown->second;
-    const QString path = form.keep(folder, vehicle, now(), before);
-    if (path.isEmpty())
+    const QDateTime time = now();
+    if (const auto shown = shown_.find(&form); shown != shown_.end())
+        return form.keep(shown->second.path, vehicle, time);
+    const QString path = newKeptPath(folder, form.name(), vehicle, time);
+    // Before there is a file that another program could offer.
+    auto claim = std::make_unique<FileClaim>(path);
+    if (!form.keep(path, vehicle, time))
         return false;
-    show(form, path);
+    show(form, path, std::move(claim));
     return true;
+}
+
+void KeptForms::show(const VLK_Form_Fuel_Sensor& form, const QString& path, std::unique_ptr<FileClaim> claim)
+{
+    shown_[&form] = {path, std::move(claim)};
 }
 
 void KeptForms::end(const VLK_Form_Fuel_Sensor& form)
@@ -31,8 +39,9 @@ std::vector<KeptTable> KeptForms::offered(const QString& folder) const
 {
     std::vector<KeptTable> tables = keptTables(folder);
     std::erase_if(tables, [this](const KeptTable& table) {
-        return std::any_of(shown_.begin(), shown_.end(),
-                           [&table](const auto& shown) { return shown.second == table.path; });
+        return isClaimed(table.path) ||
+               std::any_of(shown_.begin(), shown_.end(),
+                           [&table](const auto& shown) { return shown.second.path == table.path; });
     });
     return tables;
 }
@@ -40,7 +49,7 @@ std::vector<KeptTable> KeptForms::offered(const QString& folder) const
 void KeptForms::remove(const VLK_Form_Fuel_Sensor& form)
 {
     if (const auto shown = shown_.find(&form); shown != shown_.end())
-        QFile::remove(shown->second);
+        QFile::remove(shown->second.path);
 }
 
 } // namespace vlk

@@ -1,11 +1,14 @@
 #pragma once
 
 // Which tables of the calibration window are kept on the disk: those that are not saved, until they are saved
-// or given up. What is kept and on show in no form is offered to the user.
+// or given up. What is kept and on show in no form, of this program or of another one, is offered to the
+// user.
 
+#include "base/file_claim.h"
 #include "fuel/table/kept_tables.h"
 
 #include <map>
+#include <memory>
 
 class VLK_Form_Fuel_Sensor;
 
@@ -16,8 +19,9 @@ class KeptForms
 public:
     // Keeps the table of a form in the place of what was kept of it before. False when the disk refused.
     bool keep(const VLK_Form_Fuel_Sensor& form, const QString& folder, const QString& vehicle);
-    // The form shows a kept table from now on, or shows another one than that which is kept of it.
-    void show(const VLK_Form_Fuel_Sensor& form, const QString& path) { shown_[&form] = path; }
+    // The form shows a kept table from now on.
+    void show(const VLK_Form_Fuel_Sensor& form, const QString& path, std::unique_ptr<FileClaim> claim);
+    // The form shows another table than that which is kept of it.
     void release(const VLK_Form_Fuel_Sensor& form) { shown_.erase(&form); }
     // What is still edited stays for the next opening of the window; all else is saved or given up, and goes.
     void end(const VLK_Form_Fuel_Sensor& form);
@@ -26,7 +30,13 @@ public:
 private:
     void remove(const VLK_Form_Fuel_Sensor& form);
 
-    std::map<const VLK_Form_Fuel_Sensor*, QString> shown_; // paths
+    struct Shown
+    {
+        QString path;
+        std::unique_ptr<FileClaim> claim;
+    };
+
+    std::map<const VLK_Form_Fuel_Sensor*, Shown> shown_;
 };
 
 } // namespace vlk

@@ -227,7 +227,7 @@ constexpr Entry table[] = {
     {Message::GetExtensions,
      [](VLK_Device_R7106&, const Parameters& parameters) {
          vlk::Extensions extensions;
-         extensions.newest = static_cast<std::uint32_t>(Message::OfferTexts);
+         extensions.newest = static_cast<std::uint32_t>(Message::BringSettings);
          fillRecord(parameters.p1, extensions);
      }},
     {Message::CompareFiles,
@@ -264,6 +264,11 @@ constexpr Entry table[] = {
      [](VLK_Device_R7106& device, const Parameters& parameters) {
          if (sizeOf(parameters.p1) >= sizeof(vlk::OfferedTexts))
              device.setTexts(*static_cast<const vlk::OfferedTexts*>(parameters.p1));
+     }},
+    {Message::BringSettings,
+     [](VLK_Device_R7106&, const Parameters& parameters) {
+         if (sizeOf(parameters.p1) >= sizeof(vlk::BroughtSettings))
+             vlk::bringSettings(*static_cast<vlk::BroughtSettings*>(parameters.p1));
      }},
 };
 

@@ -1,5 +1,6 @@
 #include "host/file_questions.h"
 
+#include "review/bring_settings.h"
 #include "review/check_file.h"
 #include "review/compare_files.h"
 #include "review/report_file.h"
@@ -109,6 +110,17 @@ void reportFile(FileReport& asked)
         *asked.html = report.html;
         break;
     }
+}
+
+void bringSettings(BroughtSettings& asked)
+{
+    if (!asked.file || !asked.from || !asked.paths || !asked.content)
+        return;
+    const auto content = review::withSettings(review::configurationText(*asked.file),
+                                              review::configurationText(*asked.from), *asked.paths);
+    asked.outcome = content ? BroughtSettings::done : BroughtSettings::refused;
+    if (content)
+        *asked.content = *content;
 }
 
 } // namespace vlk

@@ -12,6 +12,7 @@ namespace vlk {
 void compareFiles(FileComparison& asked);
 void checkFile(FileCheck& asked);
 void reportFile(FileReport& asked);
+void bringSettings(BroughtSettings& asked);
 
 // The record of a difference; its texts have to stay.
 FileDifference toldDifference(const review::Difference& difference, const review::DifferenceText& text);

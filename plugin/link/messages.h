@@ -66,6 +66,7 @@ enum class Message : std::uint32_t {
     ReportFile = 7106007,
     ApplyPreset = 7106008,
     OfferTexts = 7106009,
+    BringSettings = 7106010,
 
     // Plug-in to host
     ShowHelp = 2007,
@@ -359,6 +360,24 @@ struct OfferedTexts
     void* context = nullptr;
 };
 
+// BringSettings: some settings of one configuration file laid into another. What they need there comes along,
+// such as the type of their form, the switch that closes them, the field of the record that they fill.
+struct BroughtSettings
+{
+    enum Outcome : std::uint32_t {
+        none,
+        done,
+        refused // one of the files cannot be read, or has no place for a setting
+    };
+
+    std::uint32_t size = sizeof(BroughtSettings);
+    std::uint32_t outcome = none;       // filled
+    const QString* file = nullptr;      // path; it stays as it is
+    const QString* from = nullptr;      // path
+    const QStringList* paths = nullptr; // of the settings; those that nobody knows are passed over
+    QByteArray* content = nullptr;      // filled when done: what the file would hold then
+};
+
 // AnalogRecord is a plain byte record of `analogRecordSize` bytes with unsigned 16-bit little-endian values:
 // the lines IN1, IN2, IN3 in millivolts from byte 15, and the fuel sensors at the bytes that name them.
 inline constexpr int analogRecordSize = 42;
@@ -516,6 +535,7 @@ inline constexpr MessageInfo messages[] = {
     detail::in(Message::ReportFile, "ReportFile", Parameter::RecordAddress, Parameter::None, true),
     detail::in(Message::ApplyPreset, "ApplyPreset", Parameter::RecordAddress, Parameter::None, true),
     detail::in(Message::OfferTexts, "OfferTexts", Parameter::RecordAddress),
+    detail::in(Message::BringSettings, "BringSettings", Parameter::RecordAddress, Parameter::None, true),
 };
 
 // A plain value in the place of an address, and back. The token of a LibraryInfo becomes the handle likewise.

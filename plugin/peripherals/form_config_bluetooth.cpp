@@ -5,6 +5,7 @@
 #include "link/device.h"
 #include "peripherals/form_config_bluetooth_device.h"
 #include "settings/bluetooth_settings.h"
+#include "windows/disabled_reason.h"
 #include "windows/wnd_config_full.h"
 
 #include <QHeaderView>
@@ -40,6 +41,7 @@ VLK_Form_Config_Bluetooth::VLK_Form_Config_Bluetooth(QWidget* parent)
     ui_->setupUi(this);
     ui_->gridLayout_Device->addWidget(sensors_);
     ui_->groupBox_Bt_Device->hide();
+    vlk::tellWhyDisabled(ui_->frame_Bt_Btn, "cfgt6_450");
     QHeaderView* head = ui_->treeWidget_Bt_List->header();
     head->setStretchLastSection(false);
     head->setSectionResizeMode(0, QHeaderView::Stretch);

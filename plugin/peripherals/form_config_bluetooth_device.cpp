@@ -3,6 +3,7 @@
 #include "peripherals/form_config_bluetooth_device_type.h"
 #include "settings/bluetooth_sensor_types.h"
 #include "windows/binder/page_settings.h"
+#include "windows/disabled_reason.h"
 #include "windows/named_widget.h"
 #include "windows/tab_order.h"
 
@@ -72,6 +73,7 @@ VLK_Form_Config_Bluetooth_Device::Sensor VLK_Form_Config_Bluetooth_Device::makeS
     connect(sensor.type, &Type::signalEnabledSensorName, this,
             [this, number](bool on) { enableName(number, on); });
     sensor.name->setEnabled(false);
+    vlk::tellWhyDisabled(sensor.name, "tmiw_280");
     connect(sensor.type, &Type::signal_UserParam_Add, this, &This::slot_UserParam_Add);
     connect(sensor.type, &Type::signal_UserParam_Del, this, &This::slot_UserParam_Del);
     return sensor;

@@ -54,14 +54,6 @@ QString brokenIntoLines(const QString& caption)
     return text;
 }
 
-// Lists of one column are as wide as their widest text needs, whether they are filled or not.
-void reserveWidth(QGridLayout* grid, int column, const QStringList& texts)
-{
-    QComboBox box;
-    box.addItems(texts);
-    grid->setColumnMinimumWidth(column, box.sizeHint().width());
-}
-
 } // namespace
 
 using This = VLK_Form_Config_RS_Param_Mdbs;
@@ -175,8 +167,6 @@ void VLK_Form_Config_RS_Param_Mdbs::retranslate()
     }
     for (Line& line : lines_)
         tellOf(line);
-    reserveWidth(values_.grid, 4, vlk::ModbusRow::registerTypes());
-    reserveWidth(events_.grid, 1, {QStringLiteral("MB32,  254,  ffff")});
 }
 
 void VLK_Form_Config_RS_Param_Mdbs::setDefaults()

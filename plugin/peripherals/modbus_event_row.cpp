@@ -10,8 +10,9 @@
 namespace vlk {
 
 namespace {
-constexpr int kLeastText = 14; // characters of a condition that are always in sight
-}
+constexpr int kLeastText = 14;  // characters of a condition that are always in sight
+constexpr int kLeastDigits = 7; // of a number
+} // namespace
 
 const QList<const char*>& ModbusEventRow::captions()
 {
@@ -22,7 +23,7 @@ const QList<const char*>& ModbusEventRow::captions()
 
 ModbusEventRow::ModbusEventRow(int number, QGridLayout* grid, int gridRow)
     : use(numberedWidget<QCheckBox>("checkBox_Interface_Events_Use_%1", number)),
-      param(numberedWidget<QComboBox>("comboBox_Interface_Events_Param_%1", number)),
+      param(numberedWidget<ElidingComboBox>("comboBox_Interface_Events_Param_%1", number)),
       condition(numberedWidget<ElidingComboBox>("comboBox_Interface_Events_Condition_%1", number)),
       threshold(numberedWidget<QSpinBox>("spinBox_Interface_Events_Threshold_%1", number)),
       lowerBound(numberedWidget<QSpinBox>("spinBox_Interface_Events_LowerBound_%1", number)),
@@ -34,7 +35,9 @@ ModbusEventRow::ModbusEventRow(int number, QGridLayout* grid, int gridRow)
     for (QSpinBox* box : numbers()) {
         box->setRange(-2147483647, 2147483647);
         box->setButtonSymbols(QAbstractSpinBox::NoButtons);
+        box->setMinimumWidth(kLeastDigits * box->fontMetrics().horizontalAdvance(QLatin1Char('0')));
     }
+    condition->elideInTheMiddle();
     placeCells(cells(), grid, gridRow);
     clear();
 }
@@ -73,6 +76,7 @@ void ModbusEventRow::clear()
     condition->clear();
     for (QSpinBox* box : numbers())
         box->setValue(0);
+    nameCells();
 }
 
 void ModbusEventRow::applyCondition()
@@ -82,6 +86,14 @@ void ModbusEventRow::applyCondition()
     lowerBound->setEnabled(chosen == 1 || chosen == 2);
     upperBound->setEnabled(chosen == 1 || chosen == 2);
     hysteresis->setEnabled(chosen == 2);
+    nameCells();
+}
+
+void ModbusEventRow::nameCells() const
+{
+    const QString why =
+        inUse() ? QCoreApplication::translate("vlk", "cfgt6_452").arg(condition->currentText()) : whyUnused();
+    vlk::nameCells(cells(), captions(), number_, why);
 }
 
 bool ModbusEventRow::offerNames(const QStringList& names)
@@ -105,10 +117,11 @@ TextWidths ModbusEventRow::widthsOf(const QStringList& conditions, const QFontMe
 
 void ModbusEventRow::retranslate(const QStringList& conditions, TextWidths widths)
 {
-    nameCells(cells(), captions(), number_);
+    param->reserve({QStringLiteral("MB32,  254,  ffff")}, QStringLiteral("MB32,  254…"));
     condition->reserve(widths);
     for (int i = 0; i < condition->count(); ++i)
         condition->setItemText(i, conditions[i]);
+    nameCells();
 }
 
 } // namespace vlk

@@ -39,7 +39,7 @@ public:
     bool offerNames(const QStringList& names);
 
     QCheckBox* const use;
-    QComboBox* const param;
+    ElidingComboBox* const param;
     ElidingComboBox* const condition;
     QSpinBox* const threshold;
     QSpinBox* const lowerBound;
@@ -49,6 +49,7 @@ public:
 private:
     QList<QWidget*> cells() const;
     QList<QSpinBox*> numbers() const;
+    void nameCells() const;
 
     const int number_;
 };

@@ -17,6 +17,7 @@ namespace vlk {
 namespace {
 
 constexpr int kFirstPeriod = 500; // ms
+constexpr int kLettersOfKind = 4; // with the comma and the blank before them
 
 void refill(QComboBox* box, const QStringList& texts)
 {
@@ -30,9 +31,12 @@ void refill(QComboBox* box, const QStringList& texts)
 
 void ModbusLists::measure(const QFontMetrics& metrics)
 {
+    registerTypeWidths = widthsOf(ModbusRow::registerTypes(), QStringLiteral("AO…"), metrics);
+    // Two letters behind the size tell the kinds apart.
     const auto shorter = [](const QString& a, const QString& b) { return a.size() < b.size(); };
-    dataTypeWidths =
-        widthsOf(dataTypes, *std::max_element(dataTypes.begin(), dataTypes.end(), shorter), metrics);
+    const QString longest = *std::max_element(dataTypes.begin(), dataTypes.end(), shorter);
+    dataTypeWidths = widthsOf(
+        dataTypes, longest.left(longest.indexOf(QLatin1Char(',')) + kLettersOfKind) + QChar(0x2026), metrics);
     // The letters in brackets tell the orders apart; the words behind them may be elided.
     byteOrderWidths = widthsOf(byteOrders, QStringLiteral("[ABCD]…"), metrics);
 }
@@ -57,7 +61,7 @@ ModbusRow::ModbusRow(int number, QGridLayout* grid, int gridRow)
       address(numberedWidget<QSpinBox>("spinBox_Modbus_Addr_%1", number)),
       registerNumber(numberedWidget<QSpinBox>("spinBox_Modbus_Reg_Num_%1", number)),
       registerAddress(numberedWidget<QSpinBox>("spinBox_Modbus_Reg_Addr_%1", number)),
-      registerType(numberedWidget<QComboBox>("comboBox_Modbus_Reg_Type_%1", number)),
+      registerType(numberedWidget<ElidingComboBox>("comboBox_Modbus_Reg_Type_%1", number)),
       dataType(numberedWidget<ElidingComboBox>("comboBox_Modbus_Param_%1", number)),
       byteOrder(numberedWidget<ElidingComboBox>("comboBox_Modbus_OrderByte_%1", number)),
       period(numberedWidget<QSpinBox>("spinBox_Modbus_Period_%1", number)),
@@ -69,6 +73,9 @@ ModbusRow::ModbusRow(int number, QGridLayout* grid, int gridRow)
     registerAddress->setRange(0, 0xffff);
     registerAddress->setDisplayIntegerBase(16);
     registerAddress->setPrefix(QStringLiteral("0x"));
+    // Nobody steps to a register: it is typed.
+    for (QSpinBox* box : {registerNumber, registerAddress})
+        box->setButtonSymbols(QAbstractSpinBox::NoButtons);
     period->setRange(kFirstPeriod, 60000);
     period->setSingleStep(500);
     placeCells(cells(), grid, gridRow);
@@ -130,12 +137,23 @@ void ModbusRow::setByNumber(bool byNumber)
     if (wrong)
         colors.setColor(QPalette::Text, kTriggerColor);
     registerNumber->setPalette(colors);
+    nameCells();
+}
+
+void ModbusRow::nameCells() const
+{
+    const char* way = registerNumber->isEnabled() ? "cfgt6_110" : "cfgt6_109";
+    const QString why =
+        inUse() ? QCoreApplication::translate("vlk", "cfgt6_452").arg(QCoreApplication::translate("vlk", way))
+                : whyUnused();
+    vlk::nameCells(cells(), captions(), number_, why);
 }
 
 void ModbusRow::retranslate(const ModbusLists& lists)
 {
     period->setSuffix(QLatin1Char(' ') + QCoreApplication::translate("vlk", "abbr_040"));
-    nameCells(cells(), captions(), number_);
+    nameCells();
+    registerType->reserve(lists.registerTypeWidths);
     dataType->reserve(lists.dataTypeWidths);
     byteOrder->reserve(lists.byteOrderWidths);
     if (!inUse())

@@ -20,6 +20,7 @@ struct ModbusLists
 {
     QStringList dataTypes;
     QStringList byteOrders;
+    TextWidths registerTypeWidths;
     TextWidths dataTypeWidths;
     TextWidths byteOrderWidths;
 
@@ -58,7 +59,7 @@ public:
     QSpinBox* const address;
     QSpinBox* const registerNumber;
     QSpinBox* const registerAddress;
-    QComboBox* const registerType;
+    ElidingComboBox* const registerType;
     ElidingComboBox* const dataType;
     ElidingComboBox* const byteOrder;
     QSpinBox* const period;
@@ -67,6 +68,7 @@ public:
 private:
     void setValues(int address, int registerAddress);
     void enable(bool byNumber);
+    void nameCells() const;
     QList<QWidget*> cells() const;
 
     const int number_;

@@ -139,6 +139,24 @@ void addField(int field, const Facts& facts, std::vector<Mend>* mends)
         mends->push_back({QLatin1String(kFormatPath), QLatin1String(kWholeFormat)});
 }
 
+void addFreeCode(const Rule& rule, Numbers numbers, const Facts& facts, std::vector<Mend>* mends)
+{
+    const QString path = numberedName(rule.freeChoice, numbers);
+    const Place place = placeOf(path);
+    const Values& table = facts.table(place);
+    const QStringList taken = table.limits(place.row).taken;
+    for (const Code& code : table.choice(place.row)->codes) {
+        const QString text = QString::fromLatin1(code.code);
+        if (!code.offered || taken.contains(text))
+            continue;
+        const Numbers candidate{numbers.outer, static_cast<std::uint8_t>(text.toInt())};
+        if (isZero(facts.value(placeOf(numberedName(rule.freeUnless, candidate))))) {
+            mends->push_back({path, text});
+            return;
+        }
+    }
+}
+
 Finding findingOf(const BoundRule& bound, const Facts& facts)
 {
     const Rule& rule = *bound.rule;
@@ -156,6 +174,8 @@ Finding findingOf(const BoundRule& bound, const Facts& facts)
             {numberedName(rule.mendPath, bound.numbers), QString::fromLatin1(rule.mendValue)});
     if (rule.tick)
         addField(positionOf(rule.tick, bound.numbers), facts, &finding.mends);
+    if (rule.freeChoice)
+        addFreeCode(rule, bound.numbers, facts, &finding.mends);
     return finding;
 }
 

@@ -208,6 +208,10 @@ struct Rule
     const char* mendPath = nullptr;
     const char* mendValue = nullptr;
     Position tick = nullptr; // the field that the mend brings into the record
+    // A choice that the mend sets to its first code that no other one has, and that the switch leaves free:
+    // %2 of it is the code.
+    const char* freeChoice = nullptr;
+    const char* freeUnless = nullptr;
 
     constexpr Rule each(std::uint8_t count) const
     {
@@ -242,6 +246,13 @@ struct Rule
     {
         Rule changed = *this;
         changed.tick = field;
+        return changed;
+    }
+    constexpr Rule freeing(const char* choice, const char* unless) const
+    {
+        Rule changed = *this;
+        changed.freeChoice = choice;
+        changed.freeUnless = unless;
         return changed;
     }
 

@@ -514,7 +514,8 @@ constexpr auto kBluetoothRules = rulesOf(
         .when(kBluetoothOn, is("BLUETOOTH/SENS%1/type", "1"), isNumbered("BLUETOOTH/FS%1/idx"), kFuelOnLine,
               isOn("RS485/FS%2/use"))
         .naming("BLUETOOTH/FS%1/idx", "RS485/FS%2/use")
-        .telling(outerNumber(), innerNumber()),
+        .telling(outerNumber(), innerNumber())
+        .freeing("BLUETOOTH/FS%1/idx", "RS485/FS%2/use"),
     rule("bluetooth_address", error, "adv_026")
         .each(kBluetoothSensors)
         .when(kBluetoothOn, isOn("BLUETOOTH/SENS%1/type"), unlike("BLUETOOTH/SENS%1/macaddr", kWholeAddress))

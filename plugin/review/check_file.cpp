@@ -4,7 +4,6 @@
 #include "base/translated.h"
 #include "base/version.h"
 #include "review/compare_files.h"
-#include "review/document_walk.h"
 #include "settings/all_settings.h"
 #include "xml/xml_document.h"
 #include "xml/xml_section.h"
@@ -29,14 +28,17 @@ public:
     FileCheck(CXmlSection& root, Secrets secrets) : root_(root), secrets_(secrets)
     {
         loaded_.read(root);
-        differences_ = {FileState::ofDocument(root, loaded_), FileState::ofConfiguration(loaded_)};
+        FileState saved = FileState::ofConfiguration(loaded_);
+        FileState document = FileState::ofDocument(root, loaded_, saved, &paths_);
+        differences_ = {std::move(document), std::move(saved)};
         for (Difference& difference : differences_.all())
             changed_.insert(difference.path, difference);
     }
 
     std::vector<FileRemark> run()
     {
-        eachKey(root_, [this](const QString& path, const QString&) { lookAt(path); });
+        for (const QString& path : std::as_const(paths_))
+            lookAt(path);
         lookAtRoot("model", modelText(), Severity::warning, "rev_024");
         lookAtRoot("version", fileVersionText(), Severity::hint, "rev_025");
         addAdvice();
@@ -47,7 +49,7 @@ private:
     void lookAt(const QString& path)
     {
         const FileKeys& keys = FileKeys::all();
-        const QString section = path.section(QLatin1Char('/'), 0, 0);
+        const QString section = path.left(path.indexOf(QLatin1Char('/')));
         const QString known = withoutNumbers(path);
         if (!keys.hasElement(section)) {
             if (!seen_.contains(section))
@@ -131,6 +133,7 @@ private:
     CXmlSection& root_;
     Secrets secrets_;
     Configuration loaded_{allSettings()};
+    QStringList paths_; // of the document's keys
     Differences differences_;
     QHash<QString, Difference> changed_;
     QSet<QString> seen_;

@@ -1,6 +1,7 @@
 #include "review/difference_text.h"
 
 #include "settings/kinds/spelling.h"
+#include "settings/quick_settings.h"
 #include "settings/value_text.h"
 
 #include <algorithm>
@@ -157,8 +158,16 @@ DifferenceText textOf(const Difference& difference, Secrets secrets)
         if (difference.path.startsWith(keys.layout(table).prefix()))
             text.page = inOneLine(translated(keys.layout(table).table->title));
     }
-    text.group = difference.path.section(QLatin1Char('/'), 0, -2);
-    text.caption = difference.path.section(QLatin1Char('/'), -1);
+    // The quick window writes some keys that no setting of the full one reads.
+    const TableLayout& quick = layoutOf(kQuickSettings);
+    if (const int row = quick.rowAt(difference.path); row >= 0) {
+        const SettingWords words = wordsOf(quick, row);
+        text.group = words.group;
+        text.caption = words.caption;
+    } else {
+        text.group = difference.path.section(QLatin1Char('/'), 0, -2);
+        text.caption = difference.path.section(QLatin1Char('/'), -1);
+    }
     text.before = text.beforeText = difference.before;
     text.after = text.afterText = difference.after;
     if (keys.looksSecret(difference.path) && secrets == Secrets::masked)

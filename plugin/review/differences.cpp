@@ -127,6 +127,15 @@ void Differences::update(const Values& values)
     compare(table);
 }
 
+void Differences::updateBoth(const Values& values, const std::vector<int>& fixed)
+{
+    const FileState before = before_;
+    before_.take(values);
+    for (const int key : fixed)
+        before_.take(key, before);
+    update(values);
+}
+
 void Differences::update(const FileState& full, const Values& quick)
 {
     after_ = full;

@@ -46,6 +46,8 @@ public:
 
     // An edit has changed values of one of the configuration's tables.
     void update(const Values& values);
+    // The same where the side before moves along with the other, all but some keys.
+    void updateBoth(const Values& values, const std::vector<int>& fixed);
     // The quick window's values over those of the full one.
     void update(const FileState& full, const Values& quick);
 

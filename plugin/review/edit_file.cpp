@@ -153,6 +153,12 @@ EditedFile withEdits(const QByteArray& text, const std::vector<KeyEdit>& edits)
     return problems.empty() ? edited(text, target, {}) : EditedFile{true, text, std::move(problems)};
 }
 
+EditedFile withConfiguration(const QByteArray& text, const Configuration& configuration,
+                             const std::vector<int>& keys)
+{
+    return edited(text, {configuration, keys}, {});
+}
+
 EditedFile withPreset(const QByteArray& text, CXmlSection& preset)
 {
     XmlDocument document(text, QStringLiteral("DEVICE"));

@@ -30,4 +30,8 @@ EditedFile withEdits(const QByteArray& text, const std::vector<KeyEdit>& edits);
 // problems.
 EditedFile withPreset(const QByteArray& text, CXmlSection& preset);
 
+// The file of which a load makes the configuration; `keys` are in it as a save would write them.
+EditedFile withConfiguration(const QByteArray& text, const Configuration& configuration,
+                             const std::vector<int>& keys);
+
 } // namespace vlk::review

@@ -86,7 +86,14 @@ FileState FileState::ofDocument(CXmlSection& root)
 
 FileState FileState::ofDocument(CXmlSection& root, const Configuration& loaded)
 {
-    FileState state = ofConfiguration(loaded);
+    QStringList paths;
+    return ofDocument(root, loaded, ofConfiguration(loaded), &paths);
+}
+
+FileState FileState::ofDocument(CXmlSection& root, const Configuration& loaded, const FileState& saved,
+                                QStringList* paths)
+{
+    FileState state = saved;
     state.kind_ = Kind::document;
     for (Held& held : state.held_) {
         held.isThere = false;
@@ -94,6 +101,7 @@ FileState FileState::ofDocument(CXmlSection& root, const Configuration& loaded)
         held.change = held.isSaved ? Change::missing : Change::none;
     }
     eachKey(root, [&](const QString& path, const QString& text) {
+        paths->append(path);
         const int key = FileKeys::all().at(path);
         if (key < 0)
             state.strangers_.push_back({path, text});

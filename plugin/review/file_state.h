@@ -43,8 +43,11 @@ public:
     // The document as it stands; `root` is its element DEVICE. Of one that could not be read nothing is
     // there.
     static FileState ofDocument(CXmlSection& root);
-    // The same where it has been loaded already.
+    // The same where it has been loaded already, and `saved` is what a save would write then. `paths`: of all
+    // keys, in the order of the document.
     static FileState ofDocument(CXmlSection& root, const Configuration& loaded);
+    static FileState ofDocument(CXmlSection& root, const Configuration& loaded, const FileState& saved,
+                                QStringList* paths);
     // What a save writes now.
     static FileState ofConfiguration(const Configuration& configuration);
     // What the keys that a save writes now would read as if they were missing.

@@ -169,16 +169,15 @@ KeyPlace placeIn(const QByteArray& document, const QString& path)
     return KeySearch(text, path).run();
 }
 
-} // namespace
-
-QByteArray withKey(const QByteArray& document, const QString& path, const QString& value)
+QByteArray withKeyIn(const QByteArray& document, const QString& path, const QString& value,
+                     const QTextCodec& codec)
 {
     const KeyPlace place = placeIn(document, path);
     if (place.known < 0)
         return document;
     QStringList missing = path.split(QLatin1Char('/')).mid(place.known);
     const QString name = missing.takeLast();
-    const QByteArray written = codecOf(document)->fromUnicode(encodeValue(value));
+    const QByteArray written = codec.fromUnicode(encodeValue(value));
     QByteArray text = document;
     if (place.before)
         return text.replace(place.value.begin, place.value.size(), written);
@@ -192,7 +191,7 @@ QByteArray withKey(const QByteArray& document, const QString& path, const QStrin
     return withElements(document, place, missing, attributeText(name, written));
 }
 
-QByteArray withoutKey(const QByteArray& document, const QString& path)
+QByteArray withoutKeyIn(const QByteArray& document, const QString& path)
 {
     const KeyPlace place = placeIn(document, path);
     if (!place.before && !place.child)
@@ -207,6 +206,35 @@ QByteArray withoutKey(const QByteArray& document, const QString& path)
             gone = {*line, gone.end + 1};
     }
     return text.remove(gone.begin, gone.size());
+}
+
+// Edits the document, one of two or four bytes a sign as UTF-8, so that the edit finds its ASCII.
+template <class Edit>
+QByteArray editedAsAscii(const QByteArray& document, Edit edit)
+{
+    const QTextCodec* utf8 = QTextCodec::codecForName("UTF-8");
+    const QTextCodec* own = QTextCodec::codecForUtfText(document, nullptr);
+    if (!own || own == utf8)
+        return edit(document, *codecOf(document));
+    const QByteArray before = own->toUnicode(document).toUtf8();
+    const QByteArray after = edit(before, *utf8);
+    return after == before ? document : own->fromUnicode(QString::fromUtf8(after));
+}
+
+} // namespace
+
+QByteArray withKey(const QByteArray& document, const QString& path, const QString& value)
+{
+    return editedAsAscii(document, [&](const QByteArray& text, const QTextCodec& codec) {
+        return withKeyIn(text, path, value, codec);
+    });
+}
+
+QByteArray withoutKey(const QByteArray& document, const QString& path)
+{
+    return editedAsAscii(document, [&](const QByteArray& text, const QTextCodec& /*codec*/) {
+        return withoutKeyIn(text, path);
+    });
 }
 
 } // namespace vlk::review

@@ -1,7 +1,7 @@
 #pragma once
 
 // Single keys in the text of a configuration document: all the rest of the text stays as it stands, comments,
-// white space and what nobody knows. To be found, a document needs an encoding that contains ASCII.
+// white space and what nobody knows, and its encoding.
 
 #include <QByteArray>
 #include <QString>

@@ -1,6 +1,7 @@
 #include "review/preset.h"
 
 #include "review/document_walk.h"
+#include "review/setting_parts.h"
 #include "xml/serialize.h"
 #include "xml/xml_document.h"
 
@@ -93,6 +94,21 @@ bool isPersonal(int key)
     return place.path == QLatin1String("TRANS/OBJECT/name") ||
            std::any_of(place.rows.begin(), place.rows.end(),
                        [&](int row) { return layout.rows[row].base->secret; });
+}
+
+std::optional<ChosenParts> chosenParts(int key, const QString& text)
+{
+    const FileKey& place = FileKeys::all()[key];
+    const TableLayout& layout = FileKeys::all().layout(place.table);
+    const Setting& setting = *layout.rows[layout.rows[place.rows.front()].target].setting;
+    ChosenParts chosen;
+    for (int part = 0; part < partCount(setting); ++part) {
+        if (!isPartShown(setting, part))
+            continue;
+        ++chosen.all;
+        chosen.count += isPartOn(setting, part, partOf(setting, part, text)) ? 1 : 0;
+    }
+    return chosen.all > 0 ? std::optional(chosen) : std::nullopt;
 }
 
 bool saysPreset(const CXmlSection& root)

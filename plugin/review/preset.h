@@ -7,6 +7,8 @@
 #include "review/difference_text.h"
 #include "review/take_over.h"
 
+#include <optional>
+
 namespace vlk::review {
 
 // Secrets and the name of the object.
@@ -17,6 +19,15 @@ void writePreset(CXmlSection& root, const FileState& from, std::vector<int> keys
                  Personal personal = Personal::leftOut);
 
 bool isPersonal(int key);
+
+// Of a setting of many parts, such as the fields of a record, which a preset sets as a whole: how many of
+// them the text switches on. None for another key.
+struct ChosenParts
+{
+    int count = 0;
+    int all = 0;
+};
+std::optional<ChosenParts> chosenParts(int key, const QString& text);
 
 // Whether a document says that it is a preset; others can be applied too.
 bool saysPreset(const CXmlSection& root);

@@ -1,6 +1,7 @@
 #include "review/recovery.h"
 
 #include "base/clock.h"
+#include "base/file_claim.h"
 #include "base/replace_file.h"
 #include "review/take_over.h"
 #include "xml/serialize.h"
@@ -32,13 +33,14 @@ QByteArray sumOf(const QByteArray& bytes)
     return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
 }
 
+// Dialogs that choose a configuration show no such folder.
 QString keptFolder(const QString& folder)
 {
-    return folder + QStringLiteral("/unsaved");
+    return folder + QStringLiteral("/.unsaved");
 }
 
 // What the names of all files of a configuration begin with.
-QString stemOf(const QString& subject)
+QString nameStemOf(const QString& subject)
 {
     return QString::fromLatin1(sumOf(subject.toUtf8()).toHex().left(kStemSize));
 }
@@ -56,7 +58,7 @@ QString recoveryPath(const QString& folder, const QString& subject)
     QString path;
     for (QDateTime begun = now(); path.isEmpty() || QFile::exists(path); begun = begun.addMSecs(1))
         path = QStringLiteral("%1/%2-%3")
-                   .arg(keptFolder(folder), stemOf(subject),
+                   .arg(keptFolder(folder), nameStemOf(subject),
                         begun.toString(QStringLiteral("yyyyMMdd-hhmmss-zzz"))) +
                kSuffix;
     return path;
@@ -95,9 +97,10 @@ std::vector<KeptUnsaved> keptUnsaved(const QString& folder, const QString& subje
 {
     std::vector<KeptUnsaved> kept;
     const QDir files(keptFolder(folder));
-    for (const QString& name : files.entryList({stemOf(subject) + QLatin1Char('*') + kSuffix}, QDir::Files)) {
+    for (const QString& name : files.entryList({nameStemOf(subject) + QLatin1Char('*') + kSuffix}, QDir::Files)) {
         const QString path = files.filePath(name);
-        if (std::optional<Unsaved> unsaved = unsavedIn(path); unsaved && unsaved->subject == subject)
+        std::optional<Unsaved> unsaved = isClaimed(path) ? std::nullopt : unsavedIn(path);
+        if (unsaved && unsaved->subject == subject)
             kept.push_back({path, std::move(*unsaved)});
     }
     std::stable_sort(kept.begin(), kept.end(), [](const KeptUnsaved& a, const KeptUnsaved& b) {

@@ -37,7 +37,7 @@ QString recoveryPath(const QString& folder, const QString& subject);
 bool keepUnsaved(const QString& path, const Unsaved& unsaved, QString* reason);
 // Nothing where the file is not there or holds no edits.
 std::optional<Unsaved> unsavedIn(const QString& path);
-// The newest first.
+// The newest first, without those that another program is editing.
 std::vector<KeptUnsaved> keptUnsaved(const QString& folder, const QString& subject);
 
 // The keys (file_keys.h) that the edits have changed.

@@ -5,6 +5,7 @@
 #include "settings/value_text.h"
 
 #include <algorithm>
+#include <map>
 #include <numeric>
 #include <utility>
 
@@ -33,6 +34,7 @@ struct Line
     SettingWords words;
     QStringList values; // one, or before and after
     QString note;
+    bool isWorkedOut = false; // not in the file
 };
 
 using Lines = std::vector<Line>;
@@ -111,12 +113,49 @@ bool isTold(const Values& values, int row, const std::optional<std::vector<int>>
            values.isWritten(row) && (!keys || std::find(keys->begin(), keys->end(), key) != keys->end());
 }
 
+// That a file does not have and a read works out: whether a server is used, the operator of an access point.
+bool isWorkedOut(const Values& values, int row)
+{
+    const TableLayout::Row& place = values.row(row);
+    const Shown* shown = values.setting(row).shown();
+    const auto& rules = values.layout().afterRead;
+    return !place.base->stored && shown && shown->captionKey &&
+           (!place.presets.empty() || std::any_of(rules.begin(), rules.end(),
+                                                  [row](const Sets* rule) { return rule->path.row == row; }));
+}
+
+// All lines of a title in the place of the first one. What is worked out is told beside others alone.
+Lines byTitle(Lines lines)
+{
+    struct Title
+    {
+        int place;
+        bool isInFile = false;
+    };
+    std::map<std::pair<QString, QString>, Title> titles;
+    const auto titleOf = [&](const Line& line) -> Title& {
+        const int next = static_cast<int>(titles.size());
+        return titles.try_emplace({line.words.page, line.words.group}, Title{next}).first->second;
+    };
+    for (const Line& line : lines)
+        titleOf(line).isInFile |= !line.isWorkedOut;
+    std::erase_if(lines, [&](const Line& line) { return !titleOf(line).isInFile; });
+    std::stable_sort(lines.begin(), lines.end(), [&](const Line& left, const Line& right) {
+        return titleOf(left).place < titleOf(right).place;
+    });
+    return lines;
+}
+
 Lines settingsOf(const Configuration& configuration, const Report& report)
 {
     Lines lines;
     for (std::size_t table = 0; table < configuration.tables().size(); ++table) {
         const Values& values = configuration.tables()[table];
         for (int row = 0; row < values.count(); ++row) {
+            if (isWorkedOut(values, row)) {
+                lines.push_back({wordsOf(values.layout(), row), {valueText(values, row)}, {}, true});
+                continue;
+            }
             if (!isTold(values, row, report.keys, static_cast<int>(table)))
                 continue;
             const QString text =
@@ -192,7 +231,8 @@ QString toHtml(const Configuration& configuration, const Report& report)
             html += element("li", sentence);
         html += QStringLiteral("</ul>\n");
     }
-    const Lines lines = report.changes ? changesOf(configuration, report) : settingsOf(configuration, report);
+    const Lines lines =
+        byTitle(report.changes ? changesOf(configuration, report) : settingsOf(configuration, report));
     html += bodyOf(lines, headOf(report.changes), report.isOnePage);
     if (lines.empty())
         html += element("p", translated("rev_117"));

@@ -1,9 +1,12 @@
 #include "review/search.h"
 
+#include "review/search_words.h"
 #include "review/setting_parts.h"
 #include "review/setting_words.h"
 #include "settings/kinds/spelling.h"
 #include "settings/value_text.h"
+
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <optional>
@@ -21,21 +24,43 @@ QString folded(const QString& text)
     return plain;
 }
 
-// How well a text answers a word: 0 not at all, then inside of a word, where one starts, at the start of the
-// text, as the whole text. A short word is not looked for inside of others.
-int quality(const QString& text, const QString& word)
+// Without the ending that its case or number gives it, as far as its letters tell: "температура" is
+// "температуры" too.
+QString stemOf(const QString& word)
+{
+    static const QString endings = QString::fromUtf8("аеиойуыьэюяs");
+    constexpr int leastStem = 4;
+    constexpr int longestEnding = 2;
+    int size = word.size();
+    while (size > leastStem && word.size() - size < longestEnding && endings.contains(word[size - 1]))
+        --size;
+    return word.left(size);
+}
+
+// How well a text answers a word.
+enum Quality { nowhere, inside, begun, first, whole };
+
+// A word is begun by its stem too. A short one is not looked for inside of others.
+Quality quality(const QString& text, const QString& word, int stem)
 {
     constexpr int shortWord = 2;
-    int best = 0;
+    Quality best = nowhere;
     for (int at = text.indexOf(word); at >= 0; at = text.indexOf(word, at + 1)) {
         if (at == 0)
-            return text.size() == word.size() ? 4 : 3;
+            return text.size() == word.size() ? whole : first;
         if (!text[at - 1].isLetterOrNumber())
-            return 2;
+            return begun;
         if (word.size() > shortWord)
-            best = 1;
+            best = inside;
     }
-    return best;
+    if (best != nowhere || stem == word.size())
+        return best;
+    const QStringRef start = word.leftRef(stem);
+    for (int at = text.indexOf(start); at >= 0; at = text.indexOf(start, at + 1)) {
+        if (at == 0 || !text[at - 1].isLetterOrNumber())
+            return at == 0 ? first : begun;
+    }
+    return nowhere;
 }
 
 bool canBeShown(const Setting& setting)
@@ -55,6 +80,22 @@ QString choiceTexts(const Setting& setting)
             texts << codeText(code);
     }
     return texts.join(QLatin1Char('\n'));
+}
+
+// A box to tick, one of many too.
+bool isSwitch(const Setting& setting)
+{
+    return setting.is<Flag>() || partCount(setting) > 0;
+}
+
+QString otherNames(QString path)
+{
+    static const QRegularExpression digits(QStringLiteral("\\d"));
+    path.remove(digits);
+    const auto found =
+        std::find_if(std::begin(kSearchWords), std::end(kSearchWords),
+                     [&](const SearchWords& words) { return path == QLatin1String(words.path); });
+    return found == std::end(kSearchWords) ? QString() : translated(found->text);
 }
 
 } // namespace
@@ -83,7 +124,8 @@ void Search::build()
 
 void Search::add(int table, int row, int part)
 {
-    Entry entry{{table, row, part}, folded(tables_[table]->row(row).filePath), {}, {}};
+    const QString& path = tables_[table]->row(row).filePath;
+    Entry entry{{table, row, part}, folded(path), {}, {}};
     for (int language = 0; language < languages(); ++language) {
         std::optional<TextsFrom> texts;
         if (language > 0)
@@ -99,6 +141,7 @@ void Search::add(int table, int row, int part)
         words[group] = folded(told.group);
         words[page] = folded(told.page);
         words[choices] = folded(choiceTexts(setting));
+        words[names] = folded(otherNames(path));
     }
     entries_.push_back(std::move(entry));
 }
@@ -131,44 +174,57 @@ void Search::refresh(Entry& entry) const
     }
 }
 
-// 0 where one of the words is nowhere.
-int Search::score(const Entry& entry, const QStringList& query) const
+// 0 where one of the words is nowhere. Of a switch the title above it counts as much as what it says, so that
+// the field that is looked for by the same word comes first.
+int Search::score(const Entry& entry, const Query& query) const
 {
-    constexpr std::array<int, fieldCount> weights = {50, 30, 25, 20, 5};
+    constexpr std::array<int, fieldCount> weights = {50, 45, 25, 20, 50, 5};
+    constexpr int switchCaption = 25;
     constexpr int keyWeight = 10;
     constexpr int perQuality = 10;
+    constexpr int wholeCaption = 100;
+    const Values& values = *tables_[entry.hit.table];
+    const bool isSwitch = review::isSwitch(values.setting(entry.hit.row));
     int sum = 0;
-    for (const QString& word : query) {
+    for (const Word& word : query.words) {
         int best = 0;
-        const auto take = [&](const QString& text, int weight) {
-            if (const int found = quality(text, word); found > 0)
+        const auto take = [&](const QString& text, int weight, Quality least = inside) {
+            if (const Quality found = quality(text, word.text, word.stem); found >= least)
                 best = std::max(best, weight + found * perQuality);
         };
         for (int language = 0; language < languages(); ++language) {
-            for (int field = 0; field < fieldCount; ++field)
-                take(entry.words[language][field], weights[field]);
+            const Words& words = entry.words[language];
+            take(words[caption], isSwitch ? switchCaption : weights[caption]);
+            if (isSwitch)
+                take(words[caption], weights[caption], whole);
+            for (int field = caption + 1; field < fieldCount; ++field)
+                take(words[field], isSwitch && field == group ? switchCaption : weights[field]);
         }
         take(entry.key, keyWeight);
         if (best == 0)
             return 0;
         sum += best;
     }
+    for (int language = 0; query.words.size() > 1 && language < languages(); ++language)
+        sum += entry.words[language][caption] == query.text ? wholeCaption : 0;
     // What the file does not have as things stand comes behind its like.
-    const Values& values = *tables_[entry.hit.table];
+    constexpr int absence = 15;
     const bool isThere = !values.row(entry.hit.row).base->stored || values.isWritten(entry.hit.row);
-    return 2 * sum + (isThere ? 1 : 0);
+    return std::max(1, sum - (isThere ? 0 : absence));
 }
 
 std::vector<Hit> Search::find(const QString& query)
 {
     if (entries_.empty())
         build();
-    const QStringList words = folded(query).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    Query asked{folded(query).simplified(), {}};
+    for (const QString& word : asked.text.split(QLatin1Char(' '), Qt::SkipEmptyParts))
+        asked.words.push_back({word, stemOf(word).size()});
     std::vector<std::pair<int, const Entry*>> found;
     for (Entry& entry : entries_) {
-        if (!words.isEmpty())
+        if (!asked.words.empty())
             refresh(entry);
-        if (const int points = words.isEmpty() ? 1 : score(entry, words); points > 0)
+        if (const int points = asked.words.empty() ? 1 : score(entry, asked); points > 0)
             found.emplace_back(points, &entry);
     }
     std::stable_sort(found.begin(), found.end(),

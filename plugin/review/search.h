@@ -34,8 +34,19 @@ public:
     std::vector<Hit> find(const QString& query);
 
 private:
-    enum Field { caption, value, group, page, choices, fieldCount };
+    enum Field { caption, group, page, choices, names, value, fieldCount };
     using Words = std::array<QString, fieldCount>; // folded
+
+    struct Word
+    {
+        QString text;
+        int stem; // letters of it that other endings leave
+    };
+    struct Query
+    {
+        QString text;
+        std::vector<Word> words;
+    };
 
     struct Entry
     {
@@ -49,7 +60,7 @@ private:
     void add(int table, int row, int part);
     void tell(Entry& entry, int language) const;
     void refresh(Entry& entry) const;
-    int score(const Entry& entry, const QStringList& query) const;
+    int score(const Entry& entry, const Query& query) const;
     int languages() const { return other_ ? 2 : 1; }
 
     std::vector<const Values*> tables_;

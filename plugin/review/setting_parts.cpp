@@ -47,6 +47,12 @@ QString withPart(const Setting& setting, int part, const QString& value, const Q
     return changed;
 }
 
+bool isPartOn(const Setting& setting, int part, const QString& held)
+{
+    const auto* mask = setting.as<Mask>();
+    return mask ? isMaskOn(mask->fields[part], held) : digitAt(held, 0) != 0;
+}
+
 std::vector<int> differingParts(const Setting& setting, const QString& value, const QString& other)
 {
     const int count = partCount(setting);

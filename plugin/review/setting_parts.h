@@ -17,6 +17,8 @@ QString partCaption(const Setting& setting, int part);
 // What the part holds in a value, and the value with what the part holds in another one; as a file has them.
 QString partOf(const Setting& setting, int part, const QString& value);
 QString withPart(const Setting& setting, int part, const QString& value, const QString& from);
+// Whether what the part holds switches something on, or chooses it.
+bool isPartOn(const Setting& setting, int part, const QString& held);
 // Those in which two values differ; -1 alone for a setting that is one whole.
 std::vector<int> differingParts(const Setting& setting, const QString& value, const QString& other);
 // As a person reads what the part holds, in the present language.

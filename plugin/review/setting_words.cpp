@@ -3,7 +3,34 @@
 #include "settings/kinds/spelling.h"
 #include "settings/value_text.h"
 
+#include <algorithm>
+
 namespace vlk::review {
+
+namespace {
+
+// What no window shows, by the end of its path in the file.
+struct Unshown
+{
+    const char* end;
+    const char* caption;
+};
+constexpr Unshown kUnshown[] = {
+    {"/MOVESENS/mode", "rev_240"},  {"/pullUp", "rev_241"},          {"/thld", "cfgt8_017"},
+    {"/trhldOff", "cfgt8_018"},     {"/CHANNEL1/device", "rev_242"}, {"/CHANNEL1/macaddr", "rev_243"},
+    {"/CHANNEL1/pass", "rev_244"},  {"/oper", "cfgt17_059"},         {"/type", "cfgt17_025"},
+    {"/OPTIONS/owner2", "rev_247"}, {"/lowLvl", "cfgt8_024"},        {"/highLvl", "cfgt8_025"},
+};
+
+QString captionOfUnshown(const TableLayout::Row& row)
+{
+    const auto found = std::find_if(std::begin(kUnshown), std::end(kUnshown), [&](const Unshown& unshown) {
+        return row.filePath.endsWith(QLatin1String(unshown.end));
+    });
+    return found == std::end(kUnshown) ? row.key : inOneLine(translated(found->caption));
+}
+
+} // namespace
 
 SettingWords wordsOf(const TableLayout& layout, int row)
 {
@@ -14,7 +41,7 @@ SettingWords wordsOf(const TableLayout& layout, int row)
     if (words.caption.isEmpty())
         words.caption = holder.shown() && (holder.shown()->widget || holder.is<Digits>())
                             ? words.group.section(QStringLiteral(" / "), -1)
-                            : place.key;
+                            : captionOfUnshown(place);
     return words;
 }
 

@@ -13,7 +13,7 @@ struct SettingWords
     QString caption;
 };
 
-// A setting without a caption is told by its heading, one that no window shows by its key.
+// A setting without a caption is told by its heading, one that no window shows by words of its own.
 SettingWords wordsOf(const TableLayout& layout, int row);
 // Without its page: "Servers / Backup 1, Port".
 QString placeText(const SettingWords& words);

@@ -136,7 +136,7 @@ void takeOver(Configuration& configuration, const FileState& from, const std::ve
     configuration.read(*document.root());
 }
 
-void takeOver(Configuration& configuration, const Differences& differences, std::vector<int> keys)
+std::vector<int> takeOver(Configuration& configuration, const Differences& differences, std::vector<int> keys)
 {
     const FileKeys& all = FileKeys::all();
     const Configuration present = configuration;
@@ -162,6 +162,7 @@ void takeOver(Configuration& configuration, const Differences& differences, std:
             }
         }
     }
+    return keys;
 }
 
 } // namespace vlk::review

@@ -55,7 +55,7 @@ QString ElidingComboBox::shownText(QStyleOptionComboBox* option) const
     initStyleOption(option);
     const QRect room =
         style()->subControlRect(QStyle::CC_ComboBox, option, QStyle::SC_ComboBoxEditField, this);
-    return fontMetrics().elidedText(option->currentText, Qt::ElideRight, room.width() - 2);
+    return fontMetrics().elidedText(option->currentText, elided_, room.width() - 2);
 }
 
 bool ElidingComboBox::event(QEvent* event)

@@ -1,7 +1,7 @@
 #pragma once
 
 // A combo box for narrow places: it would like to be as wide as the texts that it may come to hold, filled or
-// not, and shrinks to the beginnings of them. What does not fit ends in an ellipsis; its tool tip and the
+// not, and shrinks to the beginnings of them. What does not fit has an ellipsis; its tool tip and the
 // list below it show texts in full.
 
 #include "windows/vlk_combobox.h"
@@ -31,6 +31,9 @@ public:
     // Widths in the font of the box.
     void reserve(TextWidths widths);
 
+    // Where texts begin alike.
+    void elideInTheMiddle() { elided_ = Qt::ElideMiddle; }
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
     void showPopup() override;
@@ -44,6 +47,7 @@ private:
 
     int preferredWidth_ = 0;
     int leastWidth_ = 0;
+    Qt::TextElideMode elided_ = Qt::ElideRight;
 };
 
 } // namespace vlk

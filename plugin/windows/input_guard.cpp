@@ -6,7 +6,6 @@
 #include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QEvent>
-#include <QKeyEvent>
 #include <QPushButton>
 #include <QScrollBar>
 
@@ -24,22 +23,6 @@ public:
         const auto* input = qobject_cast<QWidget*>(watched);
         if (event->type() == QEvent::Wheel && input && !input->hasFocus()) {
             event->ignore();
-            return true;
-        }
-        return QObject::eventFilter(watched, event);
-    }
-};
-
-// A key that no field has use for comes to the page.
-class EscapeFilter : public QObject
-{
-public:
-    using QObject::QObject;
-
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
-            event->accept();
             return true;
         }
         return QObject::eventFilter(watched, event);
@@ -68,11 +51,6 @@ void guardInputs(QWidget* page)
         if (auto* button = qobject_cast<QPushButton*>(child))
             button->setAutoDefault(false);
     }
-}
-
-void keepOpenOnEscape(QWidget* page)
-{
-    page->installEventFilter(new EscapeFilter(page));
 }
 
 } // namespace vlk

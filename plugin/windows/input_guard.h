@@ -10,7 +10,4 @@ namespace vlk {
 
 void guardInputs(QWidget* page);
 
-// Esc in the page closes no window: it would take along what was edited and not saved yet.
-void keepOpenOnEscape(QWidget* page);
-
 } // namespace vlk

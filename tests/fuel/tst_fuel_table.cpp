@@ -287,7 +287,8 @@ private Q_SLOTS:
         const QDateTime time({2026, 5, 17}, {4, 3, 59});
         for (const auto& [sensor, seconds, rows] :
              {std::tuple("old", 0, 4), {"none", 10, 0}, {"few", 9, 1}, {"many", 9, 3}})
-            keepTable(folder.path(), sensor, {}, {}, FuelRows(std::size_t(rows)), time.addSecs(seconds));
+            keepTable(newKeptPath(folder.path(), sensor, {}, time), sensor, {}, {},
+                      FuelRows(std::size_t(rows)), time.addSecs(seconds));
         QStringList order;
         for (const KeptTable& table : keptTables(folder.path()))
             order << table.sensor;

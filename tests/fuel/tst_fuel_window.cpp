@@ -1,5 +1,6 @@
 // The calibration window over the telemetry view, as host and user see it.
 
+#include "base/file_claim.h"
 #include "support/answers.h"
 #include "support/data_table.h"
 #include "support/full_disk.h"
@@ -64,7 +65,7 @@ private Q_SLOTS:
         fuel_.window->close();
         delete answer;
         QVERIFY(fuel_.window->isHidden());
-        QDir(folder.filePath("unsaved")).removeRecursively();
+        QDir(folder.filePath(".unsaved")).removeRecursively();
     }
 
     void opens()
@@ -217,13 +218,13 @@ private Q_SLOTS:
         pressInBar("wrd_042 XML");
         fuel_.window->close();
         press("pushButton_FuelSensor");
-        QVERIFY(bar()->isHidden() && QDir(folder.filePath("unsaved")).isEmpty());
+        QVERIFY(bar()->isHidden() && QDir(folder.filePath(".unsaved")).isEmpty());
     }
 
     // What is not saved outlives a program that is killed, be it a name alone; only its owner can read it.
     void keepsDrafts()
     {
-        const QDir drafts(folder.filePath("unsaved"));
+        const QDir drafts(folder.filePath(".unsaved"));
         const auto only = [&drafts] { return drafts.filePath(drafts.entryList(QDir::Files).value(0)); };
         add("A3", "10.5", 12340);
         QTRY_COMPARE_WITH_TIMEOUT(drafts.entryList(QDir::Files).size(), 1, 1000);
@@ -237,15 +238,26 @@ private Q_SLOTS:
         QTest::keyClicks(field("D1", "lineEdit_Name"), "left");
         fuel_.window->close();
         writeFile(drafts.filePath("killed.xml"), asKilled);
+        {
+            const vlk::FileClaim ofOtherProgram(drafts.filePath("killed.xml"));
+            press("pushButton_FuelSensor");
+            QVERIFY(bar()->isVisible() && fuel_.child("label_NoticePlace")->isHidden());
+            fuel_.window->close();
+        }
+        const QByteArray killedOne = "2147483647\nworkbench\n" + QSysInfo::machineHostName().toUtf8() + '\n';
+        writeFile(drafts.filePath(".killed.xml.lock"), killedOne);
         press("pushButton_FuelSensor");
         QCOMPARE(fuel_.text("label_NoticePlace"), QString("wrd_401"));
         // The one that is still offered stands before what can be done with the first.
-        for (int i = 0; i < 2; ++i)
+        for (const int left : {1, 0}) {
             pressInBar("cfgt6_406");
+            QCOMPARE(fuel_.isOn("pushButton_Save_Xml"), left > 0);
+        }
         QCOMPARE(rows("A3") + field("D1", "lineEdit_Name")->text(), QString("10.5=12.34 20=12.34left"));
         // Whoever has closed the bar saves by the key.
         show("A3");
         fuel_.press("label_Notice_Close");
+        QVERIFY(fuel_.isOn("pushButton_Save_Xml"));
         answerFile(folder.filePath("out.xml"));
         QApplication::setActiveWindow(fuel_.window);
         QTest::keyClick(fuel_.window, Qt::Key_S, Qt::ControlModifier);

@@ -130,7 +130,7 @@ private Q_SLOTS:
     {
         vlk::Extensions extensions;
         host_.send(Message::GetExtensions, &extensions);
-        QCOMPARE(extensions.newest, static_cast<quint32>(Message::OfferTexts));
+        QCOMPARE(extensions.newest, static_cast<quint32>(Message::BringSettings));
 
         const QString left = writeFile(
             folder_.filePath("left.xml"),
@@ -231,6 +231,28 @@ private Q_SLOTS:
         QCOMPARE(report(nullptr, {}), QString("0"));
         QCOMPARE(report(&file, {.size = sizeof(vlk::FileReport) - 1}), QString("0"));
         host_.send(Message::ReportFile);
+    }
+
+    void bringsSettings()
+    {
+        const QString file = writeFile(folder_.filePath("there.xml"), "<DEVICE><RS485/></DEVICE>");
+        const QString from =
+            writeFile(folder_.filePath("from.xml"), "<DEVICE><RS485><OPTIONS owner1=\"TPMS\"/><TPMS "
+                                                    "holdTime=\"20\"/></RS485></DEVICE>");
+        const QStringList paths{"RS485/TPMS/holdTime", "X/unknown"};
+        QByteArray content;
+        const auto bring = [&](vlk::BroughtSettings asked) {
+            asked.file = &file;
+            asked.paths = &paths;
+            asked.content = &content;
+            host_.send(Message::BringSettings, &asked);
+            return asked.outcome;
+        };
+        QCOMPARE(bring({.from = &from}), quint32(vlk::BroughtSettings::done));
+        QVERIFY(content.contains("owner1=\"TPMS\"") && content.contains("holdTime=\"20\""));
+        QCOMPARE(bring({.from = &paths.first()}), quint32(vlk::BroughtSettings::refused));
+        QCOMPARE(bring({.from = nullptr}) + bring({.size = 8, .from = &from}), 0U);
+        host_.send(Message::BringSettings);
     }
 
     // The file keeps what nobody knows; with something that does not fit nothing happens, or the rest does.

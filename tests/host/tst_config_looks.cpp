@@ -100,8 +100,12 @@ private Q_SLOTS:
     }
 
     // Lines of all uses, and sensors of all types.
+    void choices_data() { DataTable<QString>({"language"}).row("Russian", "ru").row("English", "en"); }
     void choices()
     {
+        QFETCH(QString, language);
+        QVERIFY(languages_.set(language));
+        host_.send(vlk::Message::LanguageChanged);
         host_.open({});
         setSize({960, 500});
         for (const char* name : {"comboBox_NormState_In3", "comboBox_Type_Sens_1", "comboBox_ServerType",
@@ -110,12 +114,15 @@ private Q_SLOTS:
             for (int tab = 0; !list->isVisible(); ++tab)
                 tabs_->setCurrentIndex(tab);
             for (int item = 0; item < list->count(); ++item) {
-                // The table of registers is wider than a small screen, and scrolls.
-                if (list->itemData(item) == QLatin1String("MDBS"))
-                    continue;
+                // The table of registers has many columns: it has room with letters of an ordinary size.
+                const bool isModbus = list->itemData(item) == QLatin1String("MDBS");
+                const QFont before = QApplication::font();
+                if (isModbus)
+                    QApplication::setFont(QFont(before.family(), 10));
                 list->setCurrentIndex(item);
                 settle();
                 const QStringList found = faults();
+                QApplication::setFont(before);
                 QVERIFY2(found.isEmpty(), qPrintable(found.join(QLatin1Char('\n'))));
             }
         }
@@ -136,6 +143,87 @@ private Q_SLOTS:
             QCOMPARE(second.y() == first.y(), width == 1600);
             QCOMPARE(second.x() == first.x(), width == 960);
         }
+    }
+
+    // From a field to the caption of the next one.
+    void gapOfPairs()
+    {
+        host_.open({});
+        setSize({1600, 900});
+        for (const char* pair :
+             {"Transfer_lineEdit_GSM_Login_1 label_GSM_Psw_1", "GPRSSrv_lineEdit_IP_DNS_Main label_Port_Main",
+              "comboBox_RS485_Boudrate label_RS485_Parity", "comboBox_RS485_Parity label_RS485_StopBit",
+              "Settings_Psw_lineEdit_CSD label_Psw_SMS", "lineEdit_Name_In1 label_Title_NormState_In1",
+              "comboBox_Type_Sens_1 label_MacAddr_Sens_1"}) {
+            const QStringList names = QString(pair).split(' ');
+            auto* field = tabs_->findChild<QWidget*>(names[0]);
+            for (int tab = 0; !field->isVisible(); ++tab)
+                tabs_->setCurrentIndex(tab);
+            settle();
+            const auto* caption = tabs_->findChild<QWidget*>(names[1]);
+            const int end = field->mapTo(window_, QPoint(field->width(), 0)).x();
+            QCOMPARE(caption->mapTo(window_, QPoint()).x() - end, 16);
+        }
+    }
+
+    // Of the sliders whose handles stand out of them at the ends of the scale.
+    void handlesAreWhole()
+    {
+        host_.open({});
+        setSize({960, 500});
+        auto* use = tabs_->findChild<QComboBox*>("comboBox_NormState_In3");
+        use->setCurrentIndex(use->findData("NS+"));
+        for (const char* name : {"Power", "Fuel", "AIN"}) {
+            const auto onShow = [&](const QString& part) {
+                for (int tab = 0; tab < tabs_->count(); ++tab) {
+                    tabs_->setCurrentIndex(tab);
+                    settle();
+                    for (auto* found : tabs_->findChildren<QWidget*>(part.arg(name)))
+                        if (found->isVisible())
+                            return found;
+                }
+                qFatal("nowhere");
+            };
+            auto* left = static_cast<QDoubleSpinBox*>(onShow("doubleSpinBox_%1_Left"));
+            auto* right = static_cast<QDoubleSpinBox*>(onShow("doubleSpinBox_%1_Right"));
+            left->setValue(left->minimum());
+            right->setValue(right->maximum());
+            const QWidget* slider = onShow("slider_%1");
+            settle();
+            QWidget* page = static_cast<QScrollArea*>(tabs_->currentWidget())->widget();
+            const QImage image = page->grab().toImage();
+            for (const int x : {-4, slider->width() + 3}) {
+                const QPoint end = slider->mapTo(page, QPoint(x, 8));
+                QVERIFY2(image.valid(end) && image.pixelColor(end).lightness() < 100, name);
+            }
+        }
+    }
+
+    // Where another setting, or that no tracker is there, closes a field. Some fields of a record are always
+    // in.
+    void closedFieldsSayWhy()
+    {
+        host_.open({});
+        QStringList silent;
+        for (int tab = 0; tab < tabs_->count(); ++tab) {
+            tabs_->setCurrentIndex(tab);
+            settle();
+            for (QWidget* widget : tabs_->currentWidget()->findChildren<QWidget*>()) {
+                const bool isField =
+                    (widget->focusPolicy() & Qt::TabFocus) && !widget->objectName().startsWith("qt_");
+                if (tab == 1 || !isField || !widget->isVisible() || widget->isEnabled())
+                    continue;
+                const QString nothing = QStringLiteral("nothing");
+                QToolTip::showText({1, 1}, nothing);
+                QHelpEvent ask(QEvent::ToolTip, {1, 1}, widget->mapToGlobal({1, 1}));
+                QCoreApplication::sendEvent(widget, &ask);
+                if (QToolTip::text() == nothing)
+                    silent << widget->objectName();
+            }
+        }
+        QToolTip::hideText();
+        QTRY_VERIFY(!QToolTip::isVisible());
+        QCOMPARE(silent, QStringList());
     }
 
     void disabledTextFollowsTheColours()

@@ -374,8 +374,6 @@ private Q_SLOTS:
         const QString before = name()->text();
         type(name(), "abc<Esc>");
         QCOMPARE(name()->text(), before);
-        QTest::keyClick(child<QComboBox>("Transfer_comboBox_GSM_Operator_1"), Qt::Key_Escape);
-        QVERIFY(window->isVisible());
         type(timer, "<All>5000");
         type(full()->findChild<QLineEdit*>("GPRSSrv_lineEdit_IP_DNS_Main"), "10.0.0.1");
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(": typed_range"));

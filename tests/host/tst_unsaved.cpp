@@ -90,6 +90,7 @@ private Q_SLOTS:
 
         open(source, full);
         edit(full);
+        QTest::ignoreMessage(QtWarningMsg, "2 changes are kept"); // for the host to tell
         QTest::keyClick(window, Qt::Key_Escape);
         QVERIFY(!window->isVisible());
         open(source == "new" ? "file" : "new", full);
@@ -106,6 +107,26 @@ private Q_SLOTS:
         open(source, full);
         QVERIFY(offer().isEmpty());
         QCOMPARE(written(full), untouched);
+    }
+
+    // From then on the tracker has what was written; a file that was opened stays as it is.
+    void comparedWithWhatIsWritten()
+    {
+        for (const QString source : {"tracker", "file"}) {
+            open(source, false);
+            edit(false);
+            const auto* count = child<QToolButton>("toolButton_Differences");
+            QVERIFY(count->text() != "0");
+            written(false);
+            QCOMPARE(count->text() == "0", source == "tracker");
+            press("pushButton_Light_ConfigFull");
+            const auto* mark =
+                child<QWidget>("page_Full")->findChild<QWidget*>("mark_GPRSSrv_spinBox_Port_Main");
+            QCOMPARE(mark && mark->isVisible(), source == "file");
+            press("toolButton_Differences");
+            QCOMPARE(child<QComboBox>("comboBox_Against")->itemText(0),
+                     QString(source == "tracker" ? "rev_255" : "rev_109"));
+        }
     }
 
     // What is taken back, saved to a file or there already is not offered, nor another tracker's.
@@ -337,8 +358,10 @@ private:
     {
         QStringList paths;
         for (const QFileInfo& file :
-             QDir(kept_->filePath("unsaved")).entryInfoList(QDir::Files | QDir::Hidden))
-            paths << file.filePath();
+             QDir(kept_->filePath(".unsaved")).entryInfoList(QDir::Files | QDir::Hidden)) {
+            if (file.suffix() != QLatin1String("lock"))
+                paths << file.filePath();
+        }
         return paths;
     }
 

@@ -129,6 +129,25 @@ private Q_SLOTS:
         QCOMPARE(rulesOf(advised("")), QStringList());
     }
 
+    // A sensor moves to the first number that nobody has; where all are taken only the user can know.
+    void freeNumber()
+    {
+        const auto mendsAfter = [this](const QString& edits) {
+            vlk::Configuration configuration = factory_;
+            edit(configuration, "BLUETOOTH/FS1/idx=2" + edits);
+            const auto findings = vlk::review::advise(configuration);
+            const int at = rulesOf(findings).indexOf("fuel_numbers");
+            QString told;
+            for (const vlk::review::Mend& mend : findings.at(at).mends)
+                told += mend.path + '=' + mend.value;
+            return told;
+        };
+        QCOMPARE(mendsAfter({}), QString("BLUETOOTH/FS1/idx=3"));
+        QCOMPARE(mendsAfter("; BLUETOOTH/SENS2/type=1; BLUETOOTH/FS2/idx=3"), QString("BLUETOOTH/FS1/idx=4"));
+        QCOMPARE(mendsAfter("; RS485/FS3/use=1; RS485/FS4/use=1; RS485/FS5/use=1; RS485/FS6/use=1"),
+                 QString());
+    }
+
     void everyRuleIsTested()
     {
         QSet<QString> tested{"quick_protocol"};

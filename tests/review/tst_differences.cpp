@@ -125,7 +125,9 @@ private Q_SLOTS:
             .row("field of the record", "en", "PROTOCOL/ZETA/mask", "0",
                  "Data set||Fields of the record|Backup battery voltage: Yes|Backup battery voltage: No|")
             .row("secret", "en", "TRANS/AP1/pass", "geheim",
-                 "Data transfer|GPRS access point|Password|•••|•••|");
+                 "Data transfer|GPRS access point|Password|•••|•••|")
+            .row("address without a digit", "en", "BLUETOOTH/SENS1/macaddr", "",
+                 "Bluetooth|Sensor 1|MAC address|C4:64:E3:0B:52:10||");
     }
     void words()
     {
@@ -142,6 +144,28 @@ private Q_SLOTS:
         configuration.edit(path, value);
         const Differences differences(before, FileState::ofConfiguration(configuration));
         QCOMPARE(line(differences, configuration, 0), told);
+    }
+
+    // Also those that no window shows, and those that the quick window alone writes.
+    void everyKeyHasACaption()
+    {
+        QStringList bare;
+        const auto look = [&bare](const vlk::TableLayout& layout, int row) {
+            if (vlk::review::wordsOf(layout, row).caption == layout.rows[row].key)
+                bare << layout.rows[row].filePath;
+        };
+        const auto& keys = vlk::review::FileKeys::all();
+        for (int key = 0; key < keys.count(); ++key)
+            look(keys.layout(keys[key].table), keys[key].rows.front());
+        const vlk::TableLayout& quick = layoutOf(vlk::kQuickSettings);
+        for (int row = 0; row < static_cast<int>(quick.rows.size()); ++row) {
+            const vlk::TableLayout::Row& place = quick.rows[row];
+            if (place.base->stored && place.key != "page" && keys.at(place.filePath) < 0)
+                look(quick, row);
+        }
+        QCOMPARE(bare.join(" "), QString());
+        const auto text = textOf(vlk::review::Difference{-1, -1, "RS485/OPTIONS/owner2", {}, "", {}});
+        QCOMPARE(text.page + '|' + text.group + '|' + text.caption, QString("cfgt6_001|cfgwl_011|rev_247"));
     }
 
     void secretsAreToldOnDemandAlone()

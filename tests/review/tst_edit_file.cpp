@@ -1,11 +1,13 @@
 // Edits of configuration files: what they change in the text, what they pull along and what is refused.
 
+#include "review/bring_settings.h"
 #include "review/edit_file.h"
 #include "settings/all_settings.h"
 #include "support/data_table.h"
 #include "support/files.h"
 #include "support/setting_samples.h"
 
+#include <QTextCodec>
 #include <QtTest>
 
 using namespace vlk::review;
@@ -66,6 +68,56 @@ private Q_SLOTS:
         const EditedFile edited = withEdits(start + before + "</DEVICE>", editsOf(edits));
         QVERIFY(edited.isReadable && edited.problems.empty());
         QCOMPARE(edited.text, start + after + "</DEVICE>");
+    }
+
+    void wideLetters()
+    {
+        const auto document = [](const char* angle) {
+            const QString text =
+                QString::fromUtf8("<DEVICE y='ж'><TRACK><POINTS angle='%1'/></TRACK></DEVICE>");
+            return QTextCodec::codecForName("UTF-16BE")->fromUnicode(text.arg(angle));
+        };
+        QCOMPARE(withEdits(document("5"), editsOf("TRACK/POINTS/angle=7")).text, document("7"));
+    }
+
+    // The paths that differ then from what was there.
+    void settingsAreBrought_data()
+    {
+        const QByteArray line = "<OUTPUTS><LINE1 mode='GP' autoOff='%' autoOffDelay='%'/></OUTPUTS>";
+        const QByteArray fuel = "<PROTOCOL><ZETA mask='%'/></PROTOCOL><RS485><OPTIONS owner1='FLDS'/>"
+                                "<FS1 use='%' address='%'/></RS485>";
+        const auto of = [](QByteArray text, const QByteArrayList& values) {
+            for (const QByteArray& value : values)
+                text.replace(text.indexOf('%'), 1, value);
+            return text;
+        };
+        DataTable<QString, QByteArray, QByteArray, QString>({"paths", "there", "from", "brought"})
+            .row("the type of its form", "RS485/TPMS/holdTime", "<RS485><OPTIONS owner1=''/></RS485>",
+                 "<RS485><OPTIONS owner1='TPMS'/><TPMS type='PRESSPRO' holdTime='20'/></RS485>",
+                 "RS485/OPTIONS/owner1 RS485/TPMS/type RS485/TPMS/holdTime")
+            .row("the switch that closes it", "OUTPUTS/LINE1/autoOffDelay", of(line, {"0", "0"}),
+                 of(line, {"1", "9"}), "OUTPUTS/LINE1/autoOff OUTPUTS/LINE1/autoOffDelay")
+            .row("the field of the record", "RS485/FS1/address", of(fuel, {QByteArray(255, '0'), "0", "1"}),
+                 of(fuel, {QByteArray(255, '1'), "1", "7"}),
+                 "PROTOCOL/ZETA/mask RS485/FS1/use RS485/FS1/address");
+    }
+    void settingsAreBrought()
+    {
+        QFETCH(QString, paths);
+        QFETCH(QByteArray, there);
+        QFETCH(QByteArray, from);
+        const QByteArray text = "<DEVICE>" + there + "</DEVICE>";
+        const auto after = vlk::review::withSettings(text, "<DEVICE>" + from + "</DEVICE>", paths.split(' '));
+        QVERIFY(after);
+        vlk::XmlDocument one(text, "DEVICE");
+        vlk::XmlDocument other(*after, "DEVICE");
+        QStringList brought;
+        for (const auto& difference :
+             Differences(FileState::ofDocument(*one.root()), FileState::ofDocument(*other.root())).all())
+            brought << difference.path;
+        QTEST(brought.join(' '), "brought");
+        QVERIFY(after->count('1') < 100);
+        QVERIFY(!vlk::review::withSettings(text, "<DEVICE>", {}));
     }
 
     void refused_data()

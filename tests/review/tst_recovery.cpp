@@ -2,6 +2,7 @@
 // a configuration without what has changed there since.
 
 #include "base/clock.h"
+#include "base/file_claim.h"
 #include "review/recovery.h"
 #include "support/data_table.h"
 #include "support/files.h"
@@ -72,6 +73,10 @@ private Q_SLOTS:
         QString stem = QFileInfo(vlk::review::recoveryPath(folder.path(), "file b")).fileName();
         QFile::copy(path, QFileInfo(path).dir().filePath(stem));
         QVERIFY(vlk::review::keptUnsaved(folder.path(), "file b").empty());
+        {
+            const vlk::FileClaim byOtherProgram(path);
+            QCOMPARE(vlk::review::keptUnsaved(folder.path(), "file a").size(), std::size_t(1));
+        }
         later.moment = later.moment.addSecs(60);
         QString reason;
         QVERIFY(keepUnsaved(path, later, &reason));

@@ -39,6 +39,16 @@ private Q_SLOTS:
                                  "<h3>cfgt1_061 / cfgt1_011 2</h3>", "<td>100 abbr_024</td>"})
             QVERIFY2(html.contains(line), line);
         QVERIFY(!html.contains("geheim"));
+        // What stands under one title stands together, with whether a server is used.
+        const QDomNodeList groups = document.elementsByTagName("h3");
+        QStringList titles;
+        for (int i = 0; i < groups.size(); ++i)
+            titles << groups.at(i).toElement().text();
+        for (const char* title : {"cfgt1_061 / cfgt1_010", "cfgt1_024"})
+            QCOMPARE(titles.count(QString(title)), 1);
+        const int backup = html.indexOf("<h3>cfgt1_061 / cfgt1_011 2</h3>");
+        QVERIFY(html.indexOf("cfgt1_023</td><td>wrd_002", backup) - backup < 120);
+        QVERIFY(!html.contains("cfgt6_075")); // which no file knows
     }
 
     void chosenKeysAndSecretsOnDemand()
@@ -46,7 +56,7 @@ private Q_SLOTS:
         const Report report{
             "", {}, {}, {{FileKeys::all().at("TRANS/AP1/pass")}}, vlk::review::Secrets::shown};
         const QString html = toHtml(configuration_, report);
-        QCOMPARE(html.count("<tr>"), 1);
+        QCOMPARE(html.count("<tr>"), 2); // and the operator that it belongs to
         QVERIFY(html.contains("<h2>cfgt1_001</h2>\n<h3>cfgt1_024</h3>"));
         QVERIFY(html.contains("<td>geheim</td>"));
     }

@@ -136,7 +136,7 @@ struct Bench
 
     bool begin(const QByteArray& document = kNew, WriteRequest::Origin origin = WriteRequest::Origin::tracker)
     {
-        return road.begin({origin, document, {}, port.number, {}});
+        return road.begin({origin, document, {}, port.number, {}, {}, {}});
     }
     workbench::WriteReview review()
     {
@@ -323,9 +323,9 @@ private Q_SLOTS:
         Bench bench;
         bench.begin(kPlain);
         QVERIFY(!bench.review().mustBeSeen() && bench.road.cancel());
-        bench.road.begin({WriteRequest::Origin::file, kPlain, "van.xml", {}, {}});
+        bench.road.begin({WriteRequest::Origin::file, kPlain, "van.xml", {}, {}, {}, {}});
         QVERIFY(bench.review().mustBeSeen() && bench.road.cancel());
-        bench.road.begin({WriteRequest::Origin::previous, {}, {}, {}, {}});
+        bench.road.begin({WriteRequest::Origin::previous, {}, {}, {}, {}, {}, {}});
         const workbench::WriteReview previous = bench.review();
         QVERIFY(previous.changes.size() == 1 && previous.request.document == kPlain &&
                 !previous.mustBeSeen());
@@ -441,7 +441,7 @@ int walkTheRoad(const QString& folder)
         const QByteArray name = tracker.vehicleName() == "one" ? "two" : "one";
         const int at = document.indexOf("name=\"", document.indexOf("<OBJECT")) + 6;
         document.replace(at, document.indexOf('"', at) - at, name);
-        road.begin({WriteRequest::Origin::tracker, document, {}, tracker.text2(), {}});
+        road.begin({WriteRequest::Origin::tracker, document, {}, tracker.text2(), {}, {}, {}});
     };
     QObject::connect(&road, &workbench::WriteRoad::reviewReady, &road, &workbench::WriteRoad::approve);
     QObject::connect(&road, &workbench::WriteRoad::ended, &road, [&](const RoadReport& report) {

@@ -20,6 +20,7 @@ private Q_SLOTS:
     {
         folder_ = std::make_unique<QTemporaryDir>();
         QDir(folder_->path()).mkpath("fleet/sub");
+        QDir(folder_->path()).mkpath("bare");
         const QByteArray track =
             "<DEVICE model='R-7106'><X y='1'/><TRACK><POINTS maxSpeed='90' z='2'/></TRACK>"
             "</DEVICE>";
@@ -75,12 +76,12 @@ private Q_SLOTS:
             .row("no value", "check a.xml -o", 2, "", "r7106: --output needs a value\n" + help)
             .row("two of a kind", "check a.xml -o b -o c", 2, "", "r7106: --output stands twice\n" + help)
             .row("another language", "--language de check a.xml", 2, "",
-                 "r7106: --language takes ru or en\n" + help)
+                 "r7106: --language takes one of these: ru, en\n" + help)
             .row("what was cut", "info cut.xml", 2, "", "cut.xml: is cut short in line 1\n")
             .row("nowhere to write", "report a.xml -o none/x.pdf", 2, "",
-                 "none/x.pdf: cannot be written: No such file or directory\n")
+                 "none/x.pdf: cannot be written: no such file or folder\n")
             .row("nothing to tell", "check factory.xml telemetry.xml/..//factory.xml", 2, "",
-                 "telemetry.xml/..//factory.xml: cannot be read: Not a directory\n")
+                 "telemetry.xml/..//factory.xml: cannot be read: not a folder\n")
             .row("a folder", "get TRACK/POINTS/maxSpeed fleet", 2,
                  "fleet/1.xml: 90\nfleet/2.xml: 500\nfleet/sub/4.xml: 100\n",
                  "fleet/3.tmi: is not a configuration\n")
@@ -136,7 +137,7 @@ private Q_SLOTS:
                  "\n",
                  "")
             .row("a drain in words", "fuel --table tank.xml week.xml", 1,
-                 "week.xml: 2024-01-01T00:09:00Z to 2024-01-01T00:10:00Z: drain -61.0 l (312.0 to 251.0), "
+                 "week.xml: 2024-01-01T00:09:00Z to 2024-01-01T00:10:00Z: drain -61.0\u00a0l (312.0 to 251.0), "
                  "LevelRS485_1\n",
                  "")
             .row("no drain by that threshold", "fuel --fall 61.5 --table tank.xml week.xml", 0, "", "")
@@ -155,6 +156,20 @@ private Q_SLOTS:
             .row("no level, and no telemetry", "fuel --table other.xml week.xml a.xml fleet", 2, "",
                  "week.xml: holds no fuel level of LevelRS485_2\na.xml: is not telemetry\n"
                  "fleet/3.tmi: is not telemetry\n")
+            .row("a fleet as CSV", "compare --csv a.xml b.xml", 1,
+                 "Path;Setting;File;Value\r\n"
+                 "\"TRACK/POINTS/maxSpeed\";\"Track / Always record a track point / Speed "
+                 "threshold\";\"a.xml\";"
+                 "\"90\"\r\n"
+                 "\"TRACK/POINTS/maxSpeed\";\"Track / Always record a track point / Speed "
+                 "threshold\";\"b.xml\";"
+                 "\"100\"\r\n\"X/y\";\"X/y\";\"a.xml\";\"1\"\r\n\"X/y\";\"X/y\";\"b.xml\";\"2\"\r\n",
+                 "")
+            .row("what standard input is", "info -", 0, "-: configuration, R-7106\n", "")
+            .row("an empty folder", "check bare", 0, "", "bare: holds no *.xml and no *.tmi\n")
+            .row("a folder for a file", "report fleet", 2, "", "fleet: is a folder, and one file is needed\n")
+            .row("the system's reason in Russian", "--language ru check x.xml", 2, "",
+                 "x.xml: не читается: нет такого файла или папки\n")
             .row("no report", "report a.xml -o a.doc", 2, "", "a.doc: a report ends in .pdf or .html\n");
     }
     void tells()
@@ -216,7 +231,7 @@ private Q_SLOTS:
         const QStringList call{"set", "TRACK/POINTS/maxSpeed=80", "a.xml", "b.xml"};
         auto [status, told, complaints] = run(call);
         QCOMPARE(status, 2);
-        QCOMPARE(complaints, QByteArray("a.xml: cannot be written: Permission denied\n"));
+        QCOMPARE(complaints, QByteArray("a.xml: cannot be written: permission denied\n"));
         QVERIFY(told.startsWith("b.xml: ") && readFile(path("b.xml")) != before);
 
         put("b.xml", before);
@@ -264,6 +279,20 @@ private Q_SLOTS:
                                  " --language en info 2>errors | head -n 1; wc -c < errors"});
         QVERIFY(shell.waitForFinished());
         QVERIFY(shell.readAllStandardOutput().startsWith("many/1000.xml: configuration, R-7106\n"));
+    }
+
+    // What the shell and `man` are told of it.
+    void manual()
+    {
+        const QByteArray page = std::get<1>(run({"--print", "man"}));
+        QVERIFY(page.contains("\n.SS compare\n") && page.contains("\\-\\-csv") && !page.contains("print"));
+        QProcess shell;
+        shell.start("bash", {"-c", "source <(" VLK_COMMAND " --print bash-completion); for word in com "
+                                   "'compare --c' '--language '; do COMP_WORDS=(r7106 $word ''); "
+                                   "COMP_CWORD=$((${#COMP_WORDS[@]} - 2)); [[ $word == *' ' ]] && "
+                                   "COMP_CWORD=2; _r7106; echo ${COMPREPLY[@]}; done"});
+        QVERIFY(shell.waitForFinished());
+        QCOMPARE(shell.readAllStandardOutput(), QByteArray("compare\n--csv\nru en\n"));
     }
 
     void reports()

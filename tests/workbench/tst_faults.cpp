@@ -236,6 +236,7 @@ private Q_SLOTS:
         const QString told = bench.status();
         bench.tracker().setFaults({});
         QVERIFY(told.startsWith(QStringLiteral("Saved in part: ") + bench.file()));
+        QCOMPARE(bench.boxes, QStringList(told));
         QCOMPARE(told.contains(QLatin1String("was unplugged meanwhile")), by == QLatin1String("unplugged"));
         QVERIFY(!bench.everything().contains(QLatin1String("Saved: ")) && QFile::exists(bench.file()));
         bench.tracker().attach();
@@ -315,19 +316,33 @@ private Q_SLOTS:
         Bench::press(Bench::telemetry(), "pushButton_FuelSensor");
         QWidget* calibration = Bench::pluginWindow("VLK_Form_TMI_Fuel_Sensors");
         QVERIFY(calibration);
+        const auto noticeOn = [](const QWidget* window) -> QWidget* {
+            auto* bar =
+                window->findChild<QFrame*>(QStringLiteral("frame_WindowNotice"), Qt::FindDirectChildrenOnly);
+            return bar && bar->isVisible() ? bar : nullptr;
+        };
         for (QWidget* window : {calibration, Bench::telemetry(), calibration}) {
             window->activateWindow();
-            const auto bar = [window] {
-                return window->findChild<QFrame*>(QStringLiteral("frame_WindowNotice"),
-                                                  Qt::FindDirectChildrenOnly);
-            };
-            QTRY_VERIFY_WITH_TIMEOUT(bar() && bar()->isVisible(), 10'000);
+            QTRY_VERIFY_WITH_TIMEOUT(noticeOn(window), 10'000);
         }
         QVERIFY2(bench.status().contains(QLatin1String("2247 from the tracker: damaged")),
                  qPrintable(bench.status()));
         QVERIFY(calibration->findChild<QLineEdit*>(QStringLiteral("lineEdit_Param"))->text().isEmpty());
         bench.tracker().setFaults({});
         QTRY_COMPARE_WITH_TIMEOUT(bench.status(), QStringLiteral("Ready"), 10'000);
+        // What became of a command stands where it was given.
+        bench.take(Output);
+        QTRY_VERIFY(bench.status().contains(QLatin1String("Output 1")));
+        QTRY_VERIFY(noticeOn(Bench::telemetry()) && !noticeOn(calibration));
+        // And beside what is typed.
+        auto* title = calibration->findChild<QLineEdit*>(QStringLiteral("lineEdit_Title"));
+        title->setFocus();
+        Bench::press(Bench::telemetry(), "pushButton_Get_Current");
+        bench.tracker().setFaults({.silence = true});
+        // Where nobody manages windows, the one that goes leaves its own active.
+        QTRY_VERIFY_WITH_TIMEOUT((calibration->activateWindow(), noticeOn(calibration)), 20'000);
+        const QRect field(title->mapToGlobal(QPoint()), title->size());
+        QVERIFY(!noticeOn(calibration)->geometry().intersects(field));
     }
 
     // One that was not read from the tracker replaces what nobody has seen.
@@ -520,7 +535,28 @@ private Q_SLOTS:
             .row("output, garbled", Output, garbled, notConfirmed, true, false)
             .row("output, unplugged", Output, unplug, closed, false, false)
             .row("output, delay", Output, delay, "Output 1 is switched on", true, false)
-            .row("period, full disk", Period, none, "period.xml was not saved: ", true, true);
+            .row("period, full disk", Period, none, "period.xml was not saved: ", true, true)
+            // To whom reads Russian it is told in Russian from the beginning.
+            .row("Russian read, silence", Read, silence,
+                 "Конфигурация из трекера не прочитана. Трекер не отвечает", false, false)
+            .row("Russian read, short", Read, shortened, "Он обрывается после", false, false)
+            .row("Russian read, garbled", Read, garbled, "Это не конфигурация", false, false)
+            .row("Russian read, unplugged", Read, unplug, "Трекер отключился во время ответа", false, false)
+            .row("Russian read, full disk", Read, none, "Освободите место на диске и", false, true)
+            .row("Russian write", Write, none, "Записано и подтверждено: 1 из 1", true, false)
+            .row("Russian write, silence", Write, silence, "не записана. Трекер не отвечает", true, false)
+            .row("Russian write, full disk", Write, none, "поэтому ничего не отправлено", true, true)
+            .row("Russian send, unplugged", Send, unplug, "не записана. Трекер отключился во время записи",
+                 true, false)
+            .row("Russian send, a page", Send, page, "Не принято: 1 из 1 параметров", true, false)
+            .row("Russian period", Period, none, "Сохранено: ", true, false)
+            .row("Russian period, silence", Period, silence, "Ответа от трекера нет с .* продолжится", true,
+                 false)
+            .row("Russian period, garbled", Period, garbled, "2307 от трекера: повреждено. Такие записи",
+                 true, false)
+            .row("Russian period, unplugged", Period, unplug, "поэтому окно его телеметрии закрыто", false,
+                 false)
+            .row("Russian period, full disk", Period, none, "period.xml не сохранён: ", true, true);
     }
     void everyFaultEndsInATrueSentence()
     {
@@ -531,6 +567,9 @@ private Q_SLOTS:
         QFETCH(bool, diskIsFull);
         bool answered = false; // the window tells of messages to its very end
         Bench bench;
+        const bool isRussian = QByteArray(QTest::currentDataTag()).startsWith("Russian");
+        if (isRussian)
+            bench.window.setLanguage(QStringLiteral("ru"));
         bench.prepare(Step(step));
         bench.boxes.clear();
         connect(&bench.window.session().link(), &workbench::PluginLink::passed, this,
@@ -586,15 +625,15 @@ private Q_SLOTS:
             QVERIFY(window->findChild<QProgressBar*>(QStringLiteral("progressBar_Find"))->isHidden());
         if (said == QLatin1String("Ready"))
             QCOMPARE(bench.boxes, QStringList());
+        static const QRegularExpression confirmed(QStringLiteral("^(Written|Записано)"));
+        const bool isConfirmed = said.contains(confirmed);
         if (step == Write || step == Send)
             QCOMPARE(bench.nameInTracker() == Bench::newName,
-                     said.startsWith(QLatin1String("Written")) || (step == Send && faults.shortAnswers));
+                     isConfirmed || (step == Send && faults.shortAnswers));
         if (step == Back)
             QCOMPARE(bench.nameInTracker(), Bench::newName);
         QCOMPARE(bench.window.session().backups().all().size(),
-                 step == Back || (step == Send && !diskIsFull) || said.startsWith(QLatin1String("Written"))
-                     ? 1
-                     : 0);
+                 step == Back || (step == Send && !diskIsFull) || isConfirmed ? 1 : 0);
         if (step == Period && open)
             QCOMPARE(QFile::exists(bench.file()), bench.status().startsWith(QLatin1String("Saved: ")));
         const auto* log = bench.window.findChild<QTableView*>(QStringLiteral("tableView_Log"))->model();
@@ -603,8 +642,9 @@ private Q_SLOTS:
                        QStringLiteral("⚠"), 1, Qt::MatchStartsWith);
         const bool isDamaged = faults.shortAnswers || faults.garbledAnswers;
         QCOMPARE(!marked.isEmpty(), step == Clear && isDamaged);
-        QCOMPARE(bench.logged(QStringLiteral("It was not passed on")) > 0,
-                 (step == Live || step == Period) && isDamaged);
+        const QString notPassedOn =
+            isRussian ? QStringLiteral("Оно не передано") : QStringLiteral("It was not passed on");
+        QCOMPARE(bench.logged(notPassedOn) > 0, (step == Live || step == Period) && isDamaged);
 
         disk.reset();
         // With the cause goes what was said of it, at the latest with the next answer.

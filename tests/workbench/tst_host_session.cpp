@@ -153,7 +153,13 @@ private Q_SLOTS:
         QCOMPARE(held(), QString("22"));
         QVERIFY(!bench.session.bringBack(2) && bench.isConfirmed());
         QCOMPARE(held(), QString("11"));
-        QVERIFY(bench.session.bringBack(99) && bench.session.backups().all().size() == 5);
+        // The tracker keeps one, and what is brought back takes its place.
+        QVERIFY(!bench.session.bringBackPrevious());
+        const RoadReport report = bench.report();
+        QVERIFY(report.outcome == Outcome::confirmed && report.backup == 6 && report.settings.size() == 2);
+        QCOMPARE(held(), QString("22"));
+        QVERIFY(bench.session.backups().document(6).contains("x=\"1\""));
+        QVERIFY(bench.session.bringBack(99) && bench.session.backups().all().size() == 6);
         bench.session.tracker().setFaults({.silence = true});
         QVERIFY(bench.session.bringBack(2, {"A/y"})().contains("not brought back"));
     }

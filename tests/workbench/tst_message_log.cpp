@@ -81,7 +81,8 @@ private Q_SLOTS:
               {"vlk.fuel", "cannot open /a : 1"},
               {"vlk.fuel", "/a is too large for a calibration table"},
               {"vlk.fuel", "/a holds no calibration table"},
-              {"vlk.fuel", "the document holds more rows than a calibration table"}}) {
+              {"vlk.fuel", "the document holds more rows than a calibration table"},
+              {"vlk.unsaved.kept", "2 changes are kept"}}) {
             QString words = workbench::PluginLog::words(QLatin1String(name), QLatin1String(message));
             QVERIFY2(
                 !words.remove(QStringLiteral("/a")).contains(QRegularExpression(QStringLiteral("[a-z]"))),

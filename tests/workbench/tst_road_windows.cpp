@@ -158,10 +158,12 @@ private Q_SLOTS:
         bench.session().link().send(vlk::Message::CloseWindows);
 
         // A file that removes what the tracker holds is shown all the same, and Enter leaves all as it is.
-        bench.window.openFile(writeFile(bench.root.filePath("bare.xml"), "<DEVICE model=\"R-7106\"/>"));
+        bench.window.openFile(writeFile(bench.root.filePath("bare.xml"),
+                                        "<DEVICE model=\"R-7106\"><TRACK bend=\"1\"/><X/></DEVICE>"));
         bench.editName("Van 3");
         QTRY_VERIFY(Bench::isReviewed());
         QVERIFY(Bench::find<QLabel>("label_Origin")->text().contains("bare.xml"));
+        QVERIFY(Bench::find<QLabel>("label_Origin")->text().contains("not written: TRACK/bend; X."));
         QTest::keyClick(Bench::find("dialog_Review"), Qt::Key_Return);
         QTRY_VERIFY(!Bench::find("dialog_Review"));
         QTRY_VERIFY(bench.text("label_Status").contains("write was cancelled"));
@@ -202,6 +204,44 @@ private Q_SLOTS:
         QTRY_VERIFY(Bench::find("dialog_Report"));
         QCOMPARE(bench.session().backups().all().size(), 3);
         Bench::enter("pushButton_Close");
+    }
+
+    // Fetched from the tracker, reviewed, written, read back.
+    void bringsThePreviousBack()
+    {
+        Bench bench;
+        const QString before = bench.nameInTracker();
+        bench.action("action_Read")->trigger();
+        bench.write("Van 1");
+        bench.session().link().send(vlk::Message::CloseWindows);
+        bench.action("action_Previous")->trigger();
+        QTRY_VERIFY(Bench::isReviewed());
+        QVERIFY(Bench::find<QLabel>("label_Origin")->text().contains("kept before the last write"));
+        Bench::enter("pushButton_Write");
+        QTRY_COMPARE(bench.nameInTracker(), before);
+        QTRY_VERIFY(!bench.session().road().isBusy());
+        QVERIFY(bench.text("label_Report").startsWith("Written and confirmed: 1 of 1"));
+        QCOMPARE(bench.session().backups().all().size(), 2);
+    }
+
+    // A chosen setting takes along what it needs, and the review says so.
+    void bringsWhatIsNeeded()
+    {
+        Bench bench;
+        const QByteArray kept = "<DEVICE model=\"R-7106\"><RS485><OPTIONS owner1=\"TPMS\"/>"
+                                "<TPMS type=\"PRESSPRO\" holdTime=\"20\"/></RS485></DEVICE>";
+        const int number = bench.session().backups().add({"R-7106", "1", {}}, kept,
+                                                         QDateTime::currentDateTimeUtc(), nullptr);
+        QVERIFY(!bench.session().bringBack(number, {"RS485/TPMS/holdTime"}));
+        QTRY_VERIFY(Bench::isReviewed());
+        QVERIFY(Bench::find<QLabel>("label_Origin")->text().contains("come along"));
+        QVERIFY(Bench::find("pushButton_Cancel")->hasFocus());
+        Bench::press("pushButton_Write");
+        const auto held = [&](const char* path) {
+            return bench.session().tracker().configuration().text(path);
+        };
+        QTRY_COMPARE(held("RS485/TPMS/holdTime"), QString("20"));
+        QCOMPARE(held("RS485/OPTIONS/owner1"), QString("TPMS"));
     }
 
     void tellsTheStep()
@@ -293,6 +333,10 @@ private Q_SLOTS:
             return note->isVisible() && note->text() == "Nothing matches.";
         }));
 
+        // Enter presses the button that has the keyboard.
+        QTimer::singleShot(0, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+        Bench::enter("pushButton_Note");
+        QVERIFY(Bench::find("dialog_History") && !QApplication::activeModalWidget());
         QVERIFY(!Bench::find("pushButton_BringChosen")->isEnabled());
         table->model()->setData(table->model()->index(0, 0), Qt::Checked, Qt::CheckStateRole);
         Bench::press("pushButton_BringChosen");

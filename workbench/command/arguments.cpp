@@ -1,6 +1,7 @@
 #include "command/arguments.h"
 
 #include "command/file_names.h"
+#include "command/manual.h"
 #include "window/languages.h"
 
 #include <CLI/CLI.hpp>
@@ -214,21 +215,35 @@ QString whyNotParsed(const CLI::App& app, const CLI::ParseError& error)
         const CLI::Option* option = of.get_option_no_throw(name.toStdString());
         return text(option != nullptr && option->count() > 1 ? "cli_031" : "cli_018").arg(name);
     }
-    const QString ofOption = said.section(QLatin1Char(':'), 0, 0);
-    const bool isLitres = ofOption == QLatin1String("--rise") || ofOption == QLatin1String("--fall");
-    if (isLitres)
-        return text("cli_235").arg(ofOption);
-    // Of all other options that one alone has a list.
-    if (dynamic_cast<const CLI::ValidationError*>(&error) != nullptr)
-        return text("cli_019");
+    if (dynamic_cast<const CLI::ValidationError*>(&error) != nullptr) {
+        const QString name = said.section(QLatin1Char(':'), 0, 0);
+        if (name == QLatin1String("--rise") || name == QLatin1String("--fall"))
+            return text("cli_235").arg(name);
+        const CLI::App& of = chosen.empty() ? app : *chosen.front();
+        if (const CLI::Option* option = of.get_option_no_throw(name.toStdString()))
+            return text("cli_019").arg(name, QString::fromStdString(option->get_option_text())
+                                                 .replace(QLatin1Char('|'), QStringLiteral(", ")));
+    }
     return said;
+}
+
+// For the build, which installs what it prints.
+void addPrint(CLI::App& app)
+{
+    const auto print = [&app](const std::string& what) {
+        throw CLI::CallForVersion(what == "man" ? manualPage(app) : bashCompletion(app), nothing);
+    };
+    app.add_option_function<std::string>("--print", print)
+        ->check(CLI::IsMember({"man", "bash-completion"}))
+        ->option_text("man|bash-completion")
+        ->group("");
 }
 
 // Their heading has no label of its own.
 void translateOptions(CLI::App& app)
 {
     for (CLI::Option* option : app.get_options()) {
-        if (!option->get_positional())
+        if (!option->get_positional() && !option->get_group().empty())
             option->group(words("cli_133"));
     }
 }
@@ -243,6 +258,7 @@ void setUp(CLI::App& app, Read& read)
     // Told by the program before anything else, here for the help.
     app.add_flag("--version", read.isVersion, words("cli_109"));
     addLanguage(app, read);
+    addPrint(app);
     for (const auto& [label, key] : {std::pair("Usage", "cli_130"),
                                      {"OPTIONS", "cli_131"},
                                      {"SUBCOMMAND", "cli_132"},
@@ -294,6 +310,8 @@ Arguments readArguments(const QByteArrayList& arguments)
         return {{},
                 nothing,
                 QByteArray::fromStdString(chosen.empty() ? app.help() : chosen.front()->help("r7106"))};
+    } catch (const CLI::CallForVersion& printed) {
+        return {{}, nothing, printed.what()};
     } catch (const CLI::ParseError& error) {
         return refused(whyNotParsed(app, error));
     }

@@ -68,7 +68,8 @@ private:
 struct Names
 {
     QString caption;
-    QString words; // path and caption
+    QString place; // page, group and caption
+    QString words; // the path in front of it
     bool isSecret;
 };
 
@@ -76,12 +77,12 @@ Names namesOf(const QString& path)
 {
     const int key = FileKeys::all().at(path);
     if (key < 0)
-        return {path.section(QLatin1Char('/'), -1), path, FileKeys::all().looksSecret(path)};
+        return {path.section(QLatin1Char('/'), -1), path, path, FileKeys::all().looksSecret(path)};
     const vlk::review::FileKey& place = FileKeys::all()[key];
     const vlk::TableLayout& layout = FileKeys::all().layout(place.table);
     const auto words = vlk::review::wordsOf(layout, place.rows.front());
-    return {words.caption, inWords(path, {words.page, words.group, words.caption}),
-            layout.rows[place.rows.front()].base->secret};
+    const QStringList all{words.page, words.group, words.caption};
+    return {words.caption, inWords(all), inWords(path, all), layout.rows[place.rows.front()].base->secret};
 }
 
 class Fleet
@@ -182,7 +183,7 @@ private:
     {
         QByteArray lines;
         const auto add = [&](const QString& file, const QString& value) {
-            QStringList cells{path, names.caption, inOneLine(file), value};
+            QStringList cells{path, names.place, inOneLine(file), value};
             for (QString& cell : cells)
                 cell = QLatin1Char('"') + cell.replace(QLatin1Char('"'), QStringLiteral("\"\"")) +
                        QLatin1Char('"');

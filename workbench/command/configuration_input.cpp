@@ -4,12 +4,15 @@
 #include "command/file_kind.h"
 #include "command/file_names.h"
 #include "command/output.h"
+#include "command/system_reason.h"
 #include "window/languages.h"
 #include "xml/serialize.h"
 #include "xml/xml_document.h"
 
 #include <QFile>
+#include <QFileInfo>
 
+#include <cerrno>
 #include <cstdio>
 
 namespace workbench::command {
@@ -34,13 +37,21 @@ QString whyOther(FileKind kind)
 
 } // namespace
 
+QString whyUnreadable(const QFile& file)
+{
+    const QFileInfo name(file.fileName());
+    if (name.isDir() && name.isReadable())
+        return text("cli_143");
+    return text("cli_002").arg(systemReason(name.isDir() ? qt_error_string(EACCES) : file.errorString()));
+}
+
 std::optional<QByteArray> contentOf(const QString& name, QString* reason)
 {
     QFile file(name);
     const bool isOpen =
         name == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
     if (!isOpen) {
-        *reason = text("cli_002").arg(systemText(file.errorString()));
+        *reason = whyUnreadable(file);
         return std::nullopt;
     }
     if (file.size() > CSerialize::maxFileSize) {
@@ -56,7 +67,7 @@ std::optional<QByteArray> contentOf(const QString& name, QString* reason)
         bytes += piece;
     }
     if (file.error() != QFileDevice::NoError) {
-        *reason = text("cli_002").arg(systemText(file.errorString()));
+        *reason = whyUnreadable(file);
         return std::nullopt;
     }
     if (bytes.size() > CSerialize::maxFileSize) {

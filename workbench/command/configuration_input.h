@@ -7,11 +7,16 @@
 
 #include <functional>
 
+class QFile;
+
 namespace vlk {
 class XmlDocument;
 } // namespace vlk
 
 namespace workbench::command {
+
+// Of one that could not be opened, or read to its end.
+QString whyUnreadable(const QFile& file);
 
 // `name` may be "-". None with a reason.
 std::optional<QByteArray> contentOf(const QString& name, QString* reason);

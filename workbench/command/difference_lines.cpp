@@ -54,14 +54,20 @@ QByteArray lineOf(const Difference& difference, const DifferenceText& text, cons
 
 } // namespace
 
-QString inWords(const QString& path, const QStringList& words)
+QString inWords(const QStringList& words)
 {
     QStringList told;
     for (const QString& word : words) {
         if (!word.isEmpty() && !told.contains(word))
             told << word;
     }
-    return told.isEmpty() ? path : path + QStringLiteral(": ") + told.join(QStringLiteral(" / "));
+    return told.join(QStringLiteral(" / "));
+}
+
+QString inWords(const QString& path, const QStringList& words)
+{
+    const QString told = inWords(words);
+    return told.isEmpty() ? path : path + QStringLiteral(": ") + told;
 }
 
 QByteArray linesOf(const Differences& differences, const vlk::Configuration& configuration, const Call& call,

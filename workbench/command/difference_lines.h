@@ -11,7 +11,9 @@ namespace workbench::command {
 QByteArray linesOf(const vlk::review::Differences& differences, const vlk::Configuration& configuration,
                    const Call& call, const QString& file = {});
 
-// As a person reads one: "TRACK/POINTS/angle: Track / Angle: 5 → 7".
+// "Track / Angle", each word once.
+QString inWords(const QStringList& words);
+// As a person reads a setting: "TRACK/POINTS/angle: Track / Angle".
 QString inWords(const QString& path, const QStringList& words);
 
 } // namespace workbench::command

@@ -1,5 +1,7 @@
 #include "command/each_file.h"
 
+#include "window/languages.h"
+
 #include <algorithm>
 #include <chrono>
 #include <condition_variable>
@@ -67,6 +69,8 @@ public:
         changed_.notify_all();
         return outcome;
     }
+    // Behind the last outcome.
+    const QStringList& emptyFolders() const { return walk_.emptyFolders(); }
 
 private:
     void run()
@@ -120,6 +124,8 @@ int eachFile(const QStringList& names, const std::function<Outcome(const File&)>
         progress.show(done);
     }
     progress.clear();
+    for (const QString& folder : pipeline.emptyFolders())
+        writeError(complaint(folder, text("cli_144")));
     return status;
 }
 

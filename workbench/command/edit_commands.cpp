@@ -6,6 +6,7 @@
 #include "command/difference_lines.h"
 #include "command/each_file.h"
 #include "command/file_names.h"
+#include "command/system_reason.h"
 #include "plugin/base/replace_file.h"
 #include "review/edit_file.h"
 #include "settings/all_settings.h"
@@ -119,7 +120,7 @@ Outcome laidInto(const Call& call, const File& file, const QByteArray& before, c
         return {};
     QString reason = isClosed(file.name) ? qt_error_string(EACCES) : QString();
     if (!reason.isEmpty() || (!call.dryRun && !vlk::replaceFile(file.name, edited.text, &reason)))
-        return refusal(call, file.name, text("cli_003").arg(systemText(reason)));
+        return refusal(call, file.name, text("cli_003").arg(systemReason(reason)));
     return {told, {}, call.dryRun ? found : nothing};
 }
 

@@ -37,6 +37,7 @@ std::optional<File> FileWalk::next()
             if (at_ == names_.size())
                 return std::nullopt;
             const QString name = names_[at_++];
+            isEmpty_ = true;
             if (name != QLatin1String("-") && QFileInfo(name).isDir() && enter(name))
                 continue;
             return File{name, true};
@@ -44,16 +45,20 @@ std::optional<File> FileWalk::next()
         Folder& folder = folders_.back();
         if (folder.entries.isEmpty()) {
             folders_.pop_back();
+            if (folders_.empty() && isEmpty_)
+                emptyFolders_ << names_[at_ - 1];
             continue;
         }
         const QString name = folder.name + folder.entries.takeLast();
         const QFileInfo entry(name);
         if (!entry.isDir()) {
-            if (isWanted(entry))
-                return File{name, false};
-        } else if (!entry.isSymLink() && !enter(name)) {
-            return File{name, false};
+            if (!isWanted(entry))
+                continue;
+        } else if (entry.isSymLink() || enter(name)) {
+            continue;
         }
+        isEmpty_ = false;
+        return File{name, false};
     }
 }
 

@@ -26,6 +26,8 @@ public:
 
     // A folder that cannot be listed is given as a file.
     std::optional<File> next();
+    // Folders that were named and gave nothing, so far.
+    const QStringList& emptyFolders() const { return emptyFolders_; }
 
 private:
     struct Folder
@@ -38,6 +40,8 @@ private:
     QStringList names_;
     int at_ = 0;
     std::vector<Folder> folders_;
+    bool isEmpty_ = true; // the named one, so far
+    QStringList emptyFolders_;
 };
 
 } // namespace workbench::command

@@ -8,8 +8,7 @@
 #include "command/file_names.h"
 #include "command/json_line.h"
 #include "command/telemetry_summary.h"
-#include "telemetry/files/telemetry_binary_reader.h"
-#include "telemetry/files/telemetry_xml_reader.h"
+#include "telemetry/files/telemetry_reader.h"
 #include "telemetry/fuel/calibration.h"
 #include "telemetry/fuel/fuel_events.h"
 #include "telemetry/fuel/tank_levels.h"
@@ -115,13 +114,13 @@ Outcome takeTanks(const Call& call, std::vector<TankSensor>* tanks)
     return outcome;
 }
 
-Outcome eventsIn(const Call& call, const File& file, const std::vector<TankSensor>& tanks, QIODevice& device,
-                 const QByteArray& start)
+Outcome eventsIn(const Call& call, const File& file, const std::vector<TankSensor>& tanks, QIODevice& device)
 {
-    const std::span bytes(reinterpret_cast<const std::uint8_t*>(start.constData()),
-                          static_cast<std::size_t>(start.size()));
-    const vlk::TelemetryContents contents =
-        vlk::looksBinary(bytes) ? vlk::readTelemetryBinary(device) : vlk::readTelemetryXml(device);
+    vlk::TelemetryReader reader(device, {}, vlk::TelemetryReading::salvage);
+    while (reader.step()) {
+    }
+    reader.finish();
+    const vlk::TelemetryContents& contents = reader.contents();
     vlk::RecordColumns columns(contents.records);
     const vlk::NumberColumn litres = vlk::tankLitres(columns, tanks);
     const QString sensor = vlk::elementsOf(tanks);
@@ -155,7 +154,7 @@ Outcome eventsOf(const Call& call, const File& file, const std::vector<TankSenso
     const FileKind kind = kindOf(start);
     if (kind == FileKind::telemetry)
         return device->size() > largestInput ? refusal(call, file.name, text("cli_013"))
-                                             : eventsIn(call, file, tanks, *device, start);
+                                             : eventsIn(call, file, tanks, *device);
     if (!file.isNamed && kind != FileKind::unknown)
         return {};
     return refusal(call, file.name, text(start.isEmpty() ? "cli_004" : "cli_245"));

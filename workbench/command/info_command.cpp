@@ -13,9 +13,10 @@
 #include "xml/serialize.h"
 #include "xml/xml_document.h"
 
-#include <QBuffer>
 #include <QDateTime>
 #include <QFile>
+
+#include <cstdio>
 
 namespace workbench::command {
 
@@ -68,15 +69,13 @@ QByteArray lineOf(const Call& call, const File& file, const Facts& facts)
 
 Outcome telemetryFacts(const Call& call, const File& file, QIODevice& device)
 {
-    const std::optional<TelemetrySummary> summary = summaryOf(device);
-    if (!summary)
-        return refusal(call, file.name, text("cli_013"));
-    Facts facts{.kind = FileKind::telemetry, .records = summary->records, .gaps = summary->gaps};
-    facts.model = summary->model.isEmpty() ? QString() : summary->model;
-    facts.from = timeText(summary->from);
-    facts.to = timeText(summary->to);
-    return {lineOf(call, file, facts), damageLines(file.name, summary->damages),
-            summary->damages.empty() ? nothing : found};
+    const TelemetrySummary summary = summaryOf(device);
+    Facts facts{.kind = FileKind::telemetry, .records = summary.records, .gaps = summary.gaps};
+    facts.model = summary.model.isEmpty() ? QString() : summary.model;
+    facts.from = timeText(summary.from);
+    facts.to = timeText(summary.to);
+    return {lineOf(call, file, facts), damageLines(file.name, summary.damages),
+            summary.damages.empty() ? nothing : found};
 }
 
 Outcome documentFacts(const Call& call, const File& file, FileKind kind, const QByteArray& content)
@@ -97,29 +96,21 @@ Outcome documentFacts(const Call& call, const File& file, FileKind kind, const Q
 Outcome factsOf(const Call& call, const File& file)
 {
     constexpr qint64 beginning = 4096;
-    QFile plain(file.name);
-    QBuffer held;
-    QIODevice* device = &plain;
-    if (file.isStandardInput()) {
-        // It cannot be read twice.
-        QFile input;
-        if (input.open(stdin, QIODevice::ReadOnly))
-            held.setData(input.readAll());
-        device = &held;
-    }
-    if (!device->open(QIODevice::ReadOnly))
-        return refusal(call, file.name, text("cli_002").arg(systemText(device->errorString())));
-    const QByteArray start = device->peek(beginning);
-    if (start.isEmpty() && plain.isOpen() && plain.error() != QFileDevice::NoError)
-        return refusal(call, file.name, text("cli_002").arg(systemText(plain.errorString())));
+    QFile device(file.name);
+    const bool isOpen =
+        file.isStandardInput() ? device.open(stdin, QIODevice::ReadOnly) : device.open(QIODevice::ReadOnly);
+    const QByteArray start = isOpen ? device.peek(beginning) : QByteArray();
+    if (start.isEmpty() && device.error() != QFileDevice::NoError)
+        return refusal(call, file.name, whyUnreadable(device));
     const FileKind kind = kindOf(start);
     if (kind == FileKind::telemetry)
-        return telemetryFacts(call, file, *device);
+        return telemetryFacts(call, file, device);
     if (kind == FileKind::tachograph || kind == FileKind::unknown)
         return {lineOf(call, file, {.kind = kind})};
-    if (device->size() > CSerialize::maxFileSize)
+    const QByteArray content = device.read(CSerialize::maxFileSize + 1);
+    if (content.size() > CSerialize::maxFileSize)
         return refusal(call, file.name, text("cli_005"));
-    return documentFacts(call, file, kind, device->readAll());
+    return documentFacts(call, file, kind, content);
 }
 
 } // namespace

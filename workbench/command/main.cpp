@@ -5,6 +5,7 @@
 #include "command/file_names.h"
 #include "command/output.h"
 #include "command/pdf/report_pdf.h"
+#include "command/system_reason.h"
 #include "plugin/base/replace_file.h"
 #include "window/installed_files.h"
 #include "window/languages.h"
@@ -94,6 +95,7 @@ int report(const Call& call, Pdf* pdf)
     if (status != nothing)
         return status;
     if (isPdf(call)) {
+        keepReasons();
         *pdf = {call, html, workbench::libraryPath(QStringLiteral("r7106_pdf.so")), text("cli_025"),
                 text("cli_003")};
         return nothing;

@@ -2,8 +2,11 @@
 
 #include "command/file_names.h"
 #include "command/json_line.h"
+#include "command/system_reason.h"
 #include "plugin/base/replace_file.h"
 #include "window/languages.h"
+
+#include <QFileInfo>
 
 #include <cerrno>
 #include <cstdio>
@@ -47,14 +50,23 @@ bool Output::close()
             }
             return true;
         };
-        if (!kept_.flush())
+        const QFileInfo target(name_);
+        if (!kept_.flush()) {
             fault_ = kept_.errorString();
-        else
+        } else if (target.isDir()) {
+            fault_ = qt_error_string(EISDIR);
+        } else if (target.exists() && !target.isFile()) {
+            // A device cannot be replaced.
+            QFile device(name_);
+            if (!device.open(QIODevice::WriteOnly) || !copy(device) || !device.flush())
+                fault_ = device.errorString();
+        } else {
             vlk::replaceFile(name_, copy, &fault_);
+        }
     }
     if (fault_.isEmpty())
         return true;
-    writeError(complaint(isFile() ? name_ : QStringLiteral("-"), complaint_.arg(systemText(fault_))));
+    writeError(complaint(isFile() ? name_ : QStringLiteral("-"), complaint_.arg(systemReason(fault_))));
     return false;
 }
 

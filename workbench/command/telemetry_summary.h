@@ -18,8 +18,8 @@ struct TelemetrySummary
     std::vector<vlk::FileDamage> damages;
 };
 
-// From the device's beginning. None for a binary file that is too large to be held.
-std::optional<TelemetrySummary> summaryOf(QIODevice& device);
+// From the device's beginning.
+TelemetrySummary summaryOf(QIODevice& device);
 
 // A complaint a damage, for standard error.
 QByteArray damageLines(const QString& file, const std::vector<vlk::FileDamage>& damages);

@@ -21,6 +21,8 @@ struct WriteRequest
     QString name;        // of the file or the number of the backup
     QString readFrom;    // number of the tracker that is known to have held what was edited
     QString file;        // lies there until it is written
+    QStringList chosen;  // paths of the settings that were asked for; empty: all
+    QStringList lost;    // paths of the keys that were opened and that nobody knows: the document lacks them
 };
 
 struct WriteReview
@@ -36,8 +38,21 @@ struct WriteReview
     bool isOfThisTracker = false;
 
     int changed() const { return int(changes.size()) - added - removed; }
-    // It loses something, is known to be wrong, or replaces what nobody has seen.
-    bool mustBeSeen() const { return removed > 0 || errors > 0 || !isOfThisTracker; }
+    // What was not asked for and comes along, since the chosen settings need it.
+    SettingChanges alongside() const
+    {
+        SettingChanges along;
+        for (const SettingChange& change : changes)
+            if (!request.chosen.isEmpty() && !request.chosen.contains(change.path))
+                along.append(change);
+        return along;
+    }
+    // It loses something, brings something unasked, is known to be wrong, or replaces what nobody has seen.
+    bool mustBeSeen() const
+    {
+        return removed > 0 || errors > 0 || !isOfThisTracker || !request.lost.isEmpty() ||
+               !alongside().isEmpty();
+    }
 };
 
 // A setting that was to change, or has.

@@ -20,10 +20,15 @@ class WriteRoad : public QObject
 
 public:
     using Step = RoadReport::Step;
+    // Of a silence. A tracker answers a question, or takes a block of a file, within a second, slow ones in
+    // two.
     struct Timing
     {
-        int noticeMs = 3000;   // a silence that is worth a word
-        int patienceMs = 6000; // after which no answer is expected any more
+        // Worth a word: as long as any answer is waited for before somebody is told.
+        int noticeMs = 3000;
+        // No answer is expected any more: as long again, for whoever reads the word and sees to the cable. To
+        // wait on would help nobody: a tracker that has all of the file is read back all the same.
+        int patienceMs = 6000;
     };
 
     WriteRoad(TrackerPort& port, Backups& backups, Compare compare, Advise advise, Timing timing);

@@ -13,13 +13,16 @@ void EditedConfiguration::readFromTracker(const QByteArray& document, const QStr
 {
     seenIn_ = number;
     source_ = Source::Tracker;
+    unknown_.clear();
     asRead_ = ConfigurationValues(document);
     tracker_ = asRead_;
     written_.reset();
 }
 
-void EditedConfiguration::openFile(const QString& path, const QByteArray& document)
+void EditedConfiguration::openFile(const QString& path, const QByteArray& document,
+                                   const QStringList& unknown)
 {
+    unknown_ = unknown;
     source_ = Source::File;
     seenIn_.clear();
     file_ = QFileInfo(path).fileName();
@@ -31,6 +34,7 @@ void EditedConfiguration::beginNew()
 {
     source_ = Source::New;
     seenIn_.clear();
+    unknown_.clear();
     asRead_ = ConfigurationValues();
     written_.reset();
 }
@@ -42,6 +46,7 @@ void EditedConfiguration::written(const QByteArray& document, const QString& num
         return;
     }
     seenIn_ = number;
+    unknown_.clear();
     written_ = changesIn(document);
     trackerHolds(document);
 }

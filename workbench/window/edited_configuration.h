@@ -5,6 +5,8 @@
 
 #include "tracker/configuration_values.h"
 
+#include <QStringList>
+
 #include <optional>
 
 namespace workbench {
@@ -13,7 +15,8 @@ class EditedConfiguration
 {
 public:
     void readFromTracker(const QByteArray& document, const QString& number);
-    void openFile(const QString& path, const QByteArray& document);
+    // `unknown`: paths of the keys that the plug-in does not read.
+    void openFile(const QString& path, const QByteArray& document, const QStringList& unknown);
     void beginNew();
     // The tracker of that number took it.
     void written(const QByteArray& document, const QString& number);
@@ -26,6 +29,8 @@ public:
 
     // The number of the tracker that it was read from or written to; empty where no tracker has seen it.
     QString seenIn() const { return seenIn_; }
+    // What a write loses of the file that was opened.
+    QStringList unknown() const { return unknown_; }
     bool isNew() const { return source_ == Source::New; }
     // How many keys of the document differ from what was read; nothing was read of a new one.
     std::optional<int> changesIn(const QByteArray& document) const;
@@ -43,6 +48,7 @@ private:
     Source source_ = Source::None;
     QString file_; // without its folder
     QString seenIn_;
+    QStringList unknown_;
     tracker::ConfigurationValues asRead_;
     std::optional<tracker::ConfigurationValues> tracker_; // what it held when it was heard of last
     std::optional<int> written_;                          // changes that were written

@@ -53,12 +53,19 @@ QString FileComparer::put(const char* name, const QByteArray& document) const
     return saveWhole(file, document) ? file.fileName() : QString();
 }
 
-QVector<SettingAdvice> FileComparer::advise(const QByteArray& document) const
+void FileComparer::check(const QByteArray& document, FileCheck asked) const
 {
     const QString path = put("looked-at.xml", document);
+    asked.file = &path;
+    if (!path.isEmpty())
+        link_.send(vlk::Message::CheckFile, &asked);
+    QFile::remove(path);
+}
+
+QVector<SettingAdvice> FileComparer::advise(const QByteArray& document) const
+{
     QVector<SettingAdvice> advice;
     FileCheck asked;
-    asked.file = &path;
     asked.context = &advice;
     asked.take = [](void* context, const FileRemark* told) {
         const bool isError = told->severity == FileRemark::error;
@@ -67,10 +74,39 @@ QVector<SettingAdvice> FileComparer::advise(const QByteArray& document) const
             static_cast<QVector<SettingAdvice>*>(context)->append(
                 {isError, orNull(told->page), orNull(told->caption), orNull(told->text)});
     };
-    if (!path.isEmpty())
-        link_.send(vlk::Message::CheckFile, &asked);
-    QFile::remove(path);
+    check(document, asked);
     return advice;
+}
+
+QStringList FileComparer::unknownKeys(const QByteArray& document) const
+{
+    QStringList paths;
+    FileCheck asked;
+    asked.context = &paths;
+    asked.take = [](void* context, const FileRemark* told) {
+        if (told->kind == FileRemark::finding && !told->caption)
+            static_cast<QStringList*>(context)->append(*told->path);
+    };
+    check(document, asked);
+    return paths;
+}
+
+QByteArray FileComparer::bring(const QByteArray& document, const QByteArray& other,
+                               const QStringList& paths) const
+{
+    const QString file = put("present.xml", document);
+    const QString from = put("from.xml", other);
+    QByteArray content;
+    BroughtSettings asked;
+    asked.file = &file;
+    asked.from = &from;
+    asked.paths = &paths;
+    asked.content = &content;
+    if (!file.isEmpty() && !from.isEmpty())
+        link_.send(vlk::Message::BringSettings, &asked);
+    QFile::remove(file);
+    QFile::remove(from);
+    return asked.outcome == BroughtSettings::done ? content : document;
 }
 
 std::optional<SettingChanges> FileComparer::compare(const QByteArray& before, const QByteArray& after) const

@@ -17,10 +17,7 @@ constexpr int newsMs = 8000;
 FrontNotice::FrontNotice(const PluginLink& link, PluginWindows& windows) : windows_(windows)
 {
     news_.setInterval(newsMs);
-    connect(&news_, &QTimer::timeout, this, [this] {
-        if (!notice_ || !notice_->underMouse())
-            tell(Result, {});
-    });
+    connect(&news_, &QTimer::timeout, this, &FrontNotice::goByItself);
     connect(&link, &PluginLink::passed, this, [this](Direction, quint32 id) {
         if (id == quint32(Message::OpenTelemetry))
             noteTelemetry();
@@ -30,16 +27,14 @@ FrontNotice::FrontNotice(const PluginLink& link, PluginWindows& windows) : windo
             telemetry_ = window;
     });
     connect(&windows_, &PluginWindows::closed, this, [this] { tell(Result, {}); });
-    connect(&ActiveWindows::instance(), &ActiveWindows::activated, this, [this] {
-        if (notice_ && notice_->parentWidget() != owner())
-            move();
-    });
+    connect(&ActiveWindows::instance(), &ActiveWindows::activated, this, &FrontNotice::place);
 }
 
 FrontNotice::~FrontNotice()
 {
     // The windows of the plug-in live on.
-    delete notice_;
+    for (WindowNotice* notice : notices_)
+        delete notice;
 }
 
 // The plug-in opens its window within the message, unless it is open.
@@ -50,31 +45,47 @@ void FrontNotice::noteTelemetry()
         this, [this] { isOpeningTelemetry_ = false; }, Qt::QueuedConnection);
 }
 
-void FrontNotice::tell(Topic topic, const Told& notice)
+void FrontNotice::tell(Topic topic, const Told& notice, QWidget* window)
 {
     if (topic == Result)
         news_.stop();
-    std::erase_if(told_, [topic](const auto& told) { return told.first == topic; });
+    Entry entry{topic, notice, window, {}};
+    if (const auto known = std::ranges::find(told_, topic, &Entry::topic); known != told_.end()) {
+        entry.on = known->on;
+        // A result is another one each time.
+        entry.isClosed = known->isClosed && topic == Trouble;
+        told_.erase(known);
+    }
+    const QPointer<WindowNotice> before = entry.on;
     if (notice)
-        told_.emplace_back(topic, notice);
-    move();
-    if (notice_)
-        notice_->say(topic, notice);
+        told_.push_back(entry);
+    else if (before)
+        before->end(topic);
+    place();
+    if (notice && before && told_.back().on == before)
+        before->say(topic, notice);
 }
 
 void FrontNotice::recall(Topic topic)
 {
-    if (notice_)
-        notice_->recall(topic);
+    if (const auto known = std::ranges::find(told_, topic, &Entry::topic); known != told_.end())
+        known->isClosed = false;
 }
 
-void FrontNotice::tellNews(const Told& notice)
+void FrontNotice::tellNews(const Told& notice, QWidget* window)
 {
-    tell(Result, notice);
+    tell(Result, notice, window);
     news_.start();
 }
 
-QWidget* FrontNotice::owner() const
+void FrontNotice::goByItself()
+{
+    const auto result = std::ranges::find(told_, Result, &Entry::topic);
+    if (result == told_.end() || !result->on || !result->on->underMouse())
+        tell(Result, {});
+}
+
+QWidget* FrontNotice::lookedAt() const
 {
     if (QWidget* modal = windows_.modal())
         return modal;
@@ -85,23 +96,49 @@ QWidget* FrontNotice::owner() const
     return found == latest.end() ? telemetry_.data() : *found;
 }
 
-void FrontNotice::move()
+void FrontNotice::place()
 {
-    QWidget* owner = this->owner();
-    std::set<int> dismissed;
-    if (notice_ && (notice_->parentWidget() != owner || !owner->isVisible())) {
-        dismissed = notice_->dismissed();
-        notice_->hide();
-        notice_->deleteLater();
-        notice_.clear();
+    for (Entry& entry : told_) {
+        QWidget* window = entry.window && entry.window->isVisible() ? entry.window.data() : lookedAt();
+        if (entry.isClosed || (window && !window->isVisible()))
+            window = nullptr;
+        if (entry.on && entry.on->parentWidget() == window)
+            continue;
+        if (entry.on)
+            entry.on->end(entry.topic);
+        entry.on = window ? noticeOn(window) : nullptr;
+        if (entry.on)
+            entry.on->say(entry.topic, entry.told);
     }
-    if (!owner || !owner->isVisible())
-        return;
-    if (notice_)
-        return;
-    notice_ = new WindowNotice(owner, dismissed);
-    for (const auto& [topic, notice] : told_)
-        notice_->say(topic, notice);
+    // The next thing to tell often follows at once.
+    QMetaObject::invokeMethod(this, &FrontNotice::dropUnused, Qt::QueuedConnection);
+}
+
+void FrontNotice::dropUnused()
+{
+    std::erase_if(notices_, [this](const QPointer<WindowNotice>& notice) {
+        const bool isInUse =
+            std::ranges::any_of(told_, [&notice](const Entry& entry) { return entry.on == notice; });
+        if (notice && !isInUse)
+            notice->deleteLater();
+        return !isInUse;
+    });
+}
+
+WindowNotice* FrontNotice::noticeOn(QWidget* window)
+{
+    for (WindowNotice* notice : notices_) {
+        if (notice && notice->parentWidget() == window)
+            return notice;
+    }
+    auto* notice = new WindowNotice(window);
+    connect(notice, &NoticeBar::closed, this, [this](int topic) {
+        for (Entry& entry : told_)
+            entry.isClosed |= entry.topic == topic;
+        place();
+    });
+    notices_.emplace_back(notice);
+    return notice;
 }
 
 } // namespace workbench

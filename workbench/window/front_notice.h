@@ -1,8 +1,9 @@
 #pragma once
 
-// What the workbench has to say on the window of the plug-in that is looked at: a modal one is in front of
-// all others, else it is the one that shows the attached tracker's telemetry or the calibration over it,
-// whichever was active last.
+// What the workbench has to say on windows of the plug-in. What became of a command or of a file stands on
+// the window that it came from. What is wrong with the tracker stands on the one that is looked at: a modal
+// one is in front of all others, else it is the one that shows the attached tracker's telemetry or the
+// calibration over it, whichever was active last.
 
 #include "window/window_notice.h"
 
@@ -29,25 +30,39 @@ public:
     FrontNotice(const PluginLink& link, PluginWindows& windows);
     ~FrontNotice() override;
 
-    // Stays until it is told otherwise; null takes it away.
-    void tell(Topic topic, const Told& notice);
-    // That the user has closed it counts no longer.
+    // Stays until it is told otherwise; null takes it away. Trouble that the user has closed stays so until
+    // then, or until it is recalled. Without a window, or with one that is not on show, it stands on the one
+    // that is looked at.
+    void tell(Topic topic, const Told& notice, QWidget* window = nullptr);
     void recall(Topic topic);
-    // Goes by itself, but not from under the mouse.
-    void tellNews(const Told& notice);
+    // A result that goes by itself, but not from under the mouse.
+    void tellNews(const Told& notice, QWidget* window);
+    QWidget* telemetry() const { return telemetry_; }
 
 private:
-    QWidget* owner() const;
-    // On the window that is looked at now.
-    void move();
+    struct Entry
+    {
+        Topic topic;
+        Told told;
+        QPointer<QWidget> window;
+        QPointer<WindowNotice> on; // null while it is not on show
+        bool isClosed = false;
+    };
+
+    QWidget* lookedAt() const;
+    // Each on its window.
+    void place();
+    WindowNotice* noticeOn(QWidget* window);
+    void dropUnused();
     void noteTelemetry();
+    void goByItself();
 
     PluginWindows& windows_;
-    std::vector<std::pair<Topic, Told>> told_; // the newest is the last
+    std::vector<Entry> told_; // the newest is the last
+    std::vector<QPointer<WindowNotice>> notices_;
     QTimer news_;
     QPointer<QWidget> telemetry_;
     bool isOpeningTelemetry_ = false;
-    QPointer<WindowNotice> notice_;
 };
 
 } // namespace workbench

@@ -19,6 +19,7 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -34,7 +35,6 @@ namespace {
 
 constexpr QSize historySize(980, 500);
 constexpr int listWidth = 380;
-constexpr int headLetters = 30; // of a long file name no more
 
 // Numbers of backups, and what else can be compared with.
 enum Other { TheTracker = -1, AFile = -2 };
@@ -106,8 +106,6 @@ QWidget* HistoryWindow::buildDifferences()
     elideInTheMiddle(table_, SettingChangeModel::Setting);
     table_->setIconSize({markSize, markSize});
     table_->horizontalHeader()->setSectionResizeMode(SettingChangeModel::Setting, QHeaderView::Stretch);
-    for (const int column : {SettingChangeModel::Before, SettingChangeModel::After})
-        table_->setColumnWidth(column, fontMetrics().averageCharWidth() * 17);
     empty_ = new EmptyNote(table_);
     connect(&model_, &QAbstractItemModel::dataChanged, this, &HistoryWindow::updateButtons);
 
@@ -259,11 +257,7 @@ void HistoryWindow::compare()
         changes = session_.comparer().compare(*before, session_.backups().document(backup));
     model_.setChanges(changes.value_or(SettingChanges()));
     model_.retranslate();
-    for (const int column : {SettingChangeModel::Before, SettingChangeModel::After}) {
-        const int whole = table_->horizontalHeader()->sectionSizeHint(column);
-        const int most = fontMetrics().averageCharWidth() * headLetters;
-        table_->setColumnWidth(column, qMax(table_->columnWidth(column), qMin(whole, most)));
-    }
+    fitValues(*table_);
     empty_->tell(backup == 0 || other_->currentIndex() < 0 ? text("wb_history_alone")
                  : changes                                 ? text("wb_review_none")
                                                            : text("wb_history_unreadable"));
@@ -320,6 +314,17 @@ void HistoryWindow::tell(const Sentence& failure)
 {
     if (failure)
         showWarning(failure(), this);
+}
+
+// Enter is for the button that has the keyboard, and for nothing else.
+void HistoryWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        QDialog::keyPressEvent(event);
+        return;
+    }
+    if (auto* button = qobject_cast<QPushButton*>(focusWidget()); button && !event->isAutoRepeat())
+        button->click();
 }
 
 void HistoryWindow::changeEvent(QEvent* event)

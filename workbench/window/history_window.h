@@ -32,6 +32,7 @@ public:
     HistoryWindow(HostSession& session, Settings& settings, QWidget* parent);
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:

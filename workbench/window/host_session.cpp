@@ -153,7 +153,7 @@ Sentence HostSession::openConfiguration(const QString& path, bool full)
     if (const Sentence failure = readFile(path, &document))
         return failure;
     ++opened_;
-    edited_.openFile(path, document);
+    edited_.openFile(path, document, comparer_.unknownKeys(document));
     link_.openConfiguration(path, full, true);
     Q_EMIT editedChanged();
     return {};
@@ -218,6 +218,7 @@ void HostSession::takeWritten(const QString& path)
     request.name = edited_.file();
     request.readFrom = edited_.seenIn();
     request.file = path;
+    request.lost = edited_.unknown();
     // The plug-in is in the middle of its own work here; what is to be done with it comes after that.
     QMetaObject::invokeMethod(
         this,
@@ -295,7 +296,10 @@ Sentence HostSession::bringBack(int backup, const QStringList& paths)
             return [why = fetched.failure] { return sentences({text("wb_back_failed"), why()}); };
         QFile::remove(fetched.path);
         request.readFrom = tracker_.text2();
-        request.document = withChosen(fetched.document, request.document, paths);
+        request.chosen = paths;
+        // Keys that the plug-in does not know are brought as they stand.
+        const QByteArray brought = comparer_.bring(fetched.document, request.document, paths);
+        request.document = withChosen(brought, request.document, paths);
     }
     if (request.document.isEmpty())
         return [backup] { return text("wb_back_unreadable").arg(number(backup)); };

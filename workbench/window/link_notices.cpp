@@ -5,6 +5,7 @@
 #include "window/languages.h"
 #include "window/message_box.h"
 #include "window/message_log_model.h"
+#include "window/plugin_log.h"
 #include "window/plugin_windows.h"
 #include "window/request_table.h"
 #include "window/status_line.h"
@@ -12,8 +13,8 @@
 
 namespace workbench {
 
-LinkNotices::LinkNotices(HostSession& session, PluginWindows& windows, MessageLogModel& log,
-                         StatusLine& status, QWidget* mainWindow)
+LinkNotices::LinkNotices(const PluginLog& pluginLog, HostSession& session, PluginWindows& windows,
+                         MessageLogModel& log, StatusLine& status, QWidget* mainWindow)
     : session_(session), windows_(windows), log_(log), status_(status), mainWindow_(mainWindow),
       watch_(session.link()), front_(session.link(), windows)
 {
@@ -33,6 +34,8 @@ LinkNotices::LinkNotices(HostSession& session, PluginWindows& windows, MessageLo
         setTrouble([this, since, request] { return silence(since, request); });
     });
     connect(&watch_, &AnswerWatch::over, this, [this] { setTrouble({}); });
+    connect(&pluginLog, &PluginLog::warned, this,
+            [this](PluginLog::Topic topic) { isPartSaved_ |= topic == PluginLog::Topic::SavedInPart; });
     connect(&session_.tracker(), &SimulatedTracker::pulled, this, [this] { isPulled_ = true; });
     connect(&session_.tracker(), &SimulatedTracker::attachedChanged, this, [this] {
         watch_.forget();
@@ -69,21 +72,22 @@ void LinkNotices::connectRequests()
             });
     const TrackerCommands* commands = &session_.commands();
     connect(commands, &TrackerCommands::sent, &watch_, &AnswerWatch::begin);
-    connect(commands, &TrackerCommands::done, this, &LinkNotices::tellDone);
+    connect(commands, &TrackerCommands::done, this,
+            [this](const Sentence& sentence) { tellOfCommand(sentence, true); });
     connect(commands, &TrackerCommands::failed, this,
-            [this](const Sentence& sentence) { tellResult(sentence, false); });
+            [this](const Sentence& sentence) { tellOfCommand(sentence, false); });
 }
 
-void LinkNotices::tellResult(const Sentence& sentence, bool isNews)
+void LinkNotices::tellResult(const Sentence& sentence, bool isNews, QWidget* window)
 {
     status_.tell(StatusLine::Command, sentence);
     const auto notice = [sentence, mark = isNews ? vlk::Mark::changed : vlk::Mark::advice] {
         return vlk::Notice{mark, sentence(), {}};
     };
     if (isNews)
-        front_.tellNews(notice);
+        front_.tellNews(notice, window);
     else
-        front_.tell(FrontNotice::Result, notice);
+        front_.tell(FrontNotice::Result, notice, window);
 }
 
 void LinkNotices::look(vlk::Direction direction, quint32 id, const void* p1)
@@ -180,7 +184,7 @@ void LinkNotices::endSave()
     setTrouble({});
     // The plug-in tells of a file with a part of the period.
     if (save.records == 0)
-        tellResult([] { return text("wb_save_ended"); }, false);
+        tellOfCommand([] { return text("wb_save_ended"); }, false);
 }
 
 void LinkNotices::saveEnded()
@@ -191,7 +195,8 @@ void LinkNotices::saveEnded()
 
 void LinkNotices::tellDetached(bool isPulled)
 {
-    // The plug-in has not heard of it yet and closes its window within the message.
+    // The plug-in has not heard of it yet; it closes its window and ends a save within the message.
+    isPartSaved_ = false;
     const QVector<QWidget*> before = windows_.open();
     QMetaObject::invokeMethod(
         this,
@@ -205,7 +210,7 @@ void LinkNotices::tellDetached(bool isPulled)
                                         : "wb_unplugged_open";
             else if (isClosed)
                 key = "wb_detached_telemetry";
-            if (!key)
+            if (!key || isPartSaved_)
                 return;
             if (isPulled)
                 showWarning(text(key), mainWindow_);

@@ -3,10 +3,10 @@
 // What is wrong between the tracker and the plug-in, said where a user sees it: a record that cannot be right
 // is marked in the log, and so is an answer that is not passed on; silence and damage stand in the status
 // line and in a notice on the window that asked until a right answer comes, and a cable that went while the
-// tracker answered is told in a box that says which windows went with it. A tracker that the user detaches is
-// told in the status line where its telemetry window goes. While a period is being saved the notice offers to
-// end that. What became of a command stands in the same two places, and what is asked again or comes twice in
-// the log.
+// tracker answered is told in a box that says which windows went with it, unless that of a part that was
+// saved says so. A tracker that the user detaches is told in the status line where its telemetry window goes.
+// While a period is being saved the notice offers to end that. What became of a command stands in the same
+// two places, and what is asked again or comes twice in the log.
 
 #include "check/record_check.h"
 #include "window/answer_watch.h"
@@ -17,6 +17,7 @@ namespace workbench {
 
 class HostSession;
 class MessageLogModel;
+class PluginLog;
 class PluginWindows;
 class StatusLine;
 
@@ -25,16 +26,16 @@ class LinkNotices : public QObject
     Q_OBJECT
 
 public:
-    LinkNotices(HostSession& session, PluginWindows& windows, MessageLogModel& log, StatusLine& status,
-                QWidget* mainWindow);
+    LinkNotices(const PluginLog& pluginLog, HostSession& session, PluginWindows& windows,
+                MessageLogModel& log, StatusLine& status, QWidget* mainWindow);
 
     const AnswerWatch& answers() const { return watch_; }
     // What stands in the status line about the tracker's answers; empty while all is well.
     QString trouble() const { return trouble_ ? trouble_() : QString(); }
     // What is said of a save is looked at again.
     void saveEnded();
-    // What went well: in the status line, and for a while on the window that is looked at.
-    void tellDone(const Sentence& sentence) { tellResult(sentence, true); }
+    // What went well in a window: in the status line, and for a while on that window.
+    void tellDone(const Sentence& sentence, QWidget* window) { tellResult(sentence, true, window); }
 
 Q_SIGNALS:
     void troubleChanged();
@@ -48,7 +49,12 @@ private:
     QString silence(const QDateTime& since, vlk::Message request);
     vlk::Notice troubleNotice();
     void endSave();
-    void tellResult(const Sentence& sentence, bool isNews);
+    // Commands come from the window of telemetry.
+    void tellOfCommand(const Sentence& sentence, bool isNews)
+    {
+        tellResult(sentence, isNews, front_.telemetry());
+    }
+    void tellResult(const Sentence& sentence, bool isNews, QWidget* window);
 
     HostSession& session_;
     PluginWindows& windows_;
@@ -58,9 +64,10 @@ private:
     AnswerWatch watch_;
     FrontNotice front_;
     Sentence trouble_;
-    bool isSaving_ = false;  // a period, when the trouble came
-    bool isPulled_ = false;  // the cable went while the tracker answered
-    vlk::Message refused_{}; // the answer that was not passed on last
+    bool isSaving_ = false;    // a period, when the trouble came
+    bool isPulled_ = false;    // the cable went while the tracker answered
+    bool isPartSaved_ = false; // since the tracker was detached
+    vlk::Message refused_{};   // the answer that was not passed on last
 };
 
 } // namespace workbench

@@ -154,6 +154,8 @@ constexpr RecordRow records[] = {
          return numbers(p, "outcome=%1 changes=%2 misfits=%3", &PresetApplication::outcome,
                         &PresetApplication::changes, &PresetApplication::misfits);
      }},
+    {Message::BringSettings,
+     [](const void* p) { return numbers(p, "outcome=%1", &BroughtSettings::outcome); }},
     {Message::OfferTexts,
      [](const void* p) -> MessageText {
          const auto& r = as<OfferedTexts>(p);

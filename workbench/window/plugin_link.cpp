@@ -174,6 +174,22 @@ void PluginLink::confirmWrite(const QByteArray& content)
     send(vlk::Message::ConfirmWrite, &record);
 }
 
+void PluginLink::offerTexts(Languages& languages)
+{
+    vlk::OfferedTexts offered;
+    offered.context = &languages;
+    offered.fill = [](void* context, const char* language, const char* key, QString* filled) {
+        *filled = static_cast<Languages*>(context)->textIn(QString::fromLatin1(language), key);
+    };
+    send(vlk::Message::OfferTexts, &offered);
+}
+
+void PluginLink::withdrawTexts()
+{
+    vlk::OfferedTexts none;
+    send(vlk::Message::OfferTexts, &none);
+}
+
 vlk::EndedSave PluginLink::endSave()
 {
     vlk::EndedSave record;

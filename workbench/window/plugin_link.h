@@ -13,6 +13,8 @@
 
 namespace workbench {
 
+class Languages;
+
 class PluginLink : public QObject
 {
     Q_OBJECT
@@ -48,6 +50,9 @@ public:
     // Once, then after each write with what the plug-in's file held.
     void promiseConfirmations();
     void confirmWrite(const QByteArray& content);
+    // Of every language, until they are withdrawn; `languages` lives as long.
+    void offerTexts(Languages& languages);
+    void withdrawTexts();
     // Nothing runs in a plug-in that does not know these two.
     vlk::EndedSave endSave();
     vlk::RunningWork runningWork();

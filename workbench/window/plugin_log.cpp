@@ -37,6 +37,7 @@ constexpr CategoryRow categoryRows[] = {
     {"vlk.save", PluginLog::Topic::SaveFailed, "wb_save_failed_why", ofFile},
     {"vlk.save.part", PluginLog::Topic::SavedInPart, "wb_saved_part", ofPeriod},
     {"vlk.save.unsaved", PluginLog::Topic::Damage, "wb_told_unsaved", ofFile},
+    {"vlk.unsaved.kept", PluginLog::Topic::Damage, "rev_260", "^(\\d+) changes are kept$"},
     {"vlk.settings.typing", PluginLog::Topic::Typing, "wb_typed", whole},
     {"vlk.xml", PluginLog::Topic::File, "wb_told_not_made", notMade},
     {"vlk.xml", PluginLog::Topic::File, "wb_told_unreadable", notOpened},

@@ -27,7 +27,8 @@ namespace {
 // Nobody has read anything before.
 constexpr int unseenMs = 300;
 constexpr QSize usualSize(760, 420);
-constexpr int roomAround = 130; // what stands above and below the table
+constexpr int longestNote = 240; // signs; all of it is in the tool tip
+constexpr int roomAround = 130;  // what stands above and below the table
 
 QString titleOf(const TrackerIdentity& tracker)
 {
@@ -41,6 +42,8 @@ QString originOf(const WriteReview& review)
     const WriteRequest& request = review.request;
     switch (request.origin) {
     case Origin::backup:
+        if (!request.chosen.isEmpty())
+            return text("wb_review_chosen").arg(request.name);
         return review.isOfThisTracker ? text("wb_review_backup").arg(request.name)
                                       : text("wb_review_backup_other").arg(request.name, request.readFrom);
     case Origin::previous:
@@ -53,6 +56,24 @@ QString originOf(const WriteReview& review)
         return review.isOfThisTracker ? QString() : text("wb_review_other").arg(request.readFrom);
     }
     return {};
+}
+
+// What the numbers in the counts do not tell.
+QStringList notesOf(const WriteReview& review)
+{
+    QStringList notes{originOf(review)};
+    QStringList alongside;
+    for (const SettingChange& change : review.alongside())
+        alongside.append(settingName(change));
+    const auto add = [&notes](const char* key, const QStringList& names) {
+        if (!names.isEmpty())
+            notes.append(text(key).arg(names.join(QStringLiteral("; "))));
+    };
+    add("wb_review_alongside", alongside);
+    add("wb_review_lost", review.request.lost);
+    add("wb_report_kept_sections", review.keptSections);
+    notes.removeAll(QString());
+    return notes;
 }
 
 } // namespace
@@ -77,16 +98,24 @@ ReviewWindow::ReviewWindow(const WriteReview& review, Settings& settings, QWidge
 
 void ReviewWindow::addOrigin(QVBoxLayout* column)
 {
-    QStringList lines{originOf(review_)};
-    if (!review_.keptSections.isEmpty())
-        lines.append(text("wb_report_kept_sections").arg(review_.keptSections.join(QStringLiteral(", "))));
-    lines.removeAll(QString());
-    if (lines.isEmpty())
+    const QStringList notes = notesOf(review_);
+    if (notes.isEmpty())
         return;
-    auto* label = new QLabel(lines.join(QLatin1Char('\n')), this);
+    auto* label = new QLabel(this);
     label->setObjectName(QStringLiteral("label_Origin"));
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
+    QStringList shown = notes;
+    for (QString& note : shown) {
+        if (note.size() > longestNote)
+            note = note.left(longestNote) + QChar(0x2026);
+    }
+    label->setText(shown.join(QLatin1Char('\n')));
+    if (shown != notes)
+        label->setToolTip(
+            QStringLiteral("<p>") +
+            notes.join(QLatin1Char('\n')).toHtmlEscaped().replace(QLatin1Char('\n'), QStringLiteral("<br>")) +
+            QStringLiteral("</p>"));
     column->addWidget(label);
 }
 
@@ -152,8 +181,7 @@ void ReviewWindow::addTable(QVBoxLayout* column)
     auto* empty = new EmptyNote(table);
     empty->tell(text("wb_review_none"));
     table->horizontalHeader()->setSectionResizeMode(SettingChangeModel::Setting, QHeaderView::Stretch);
-    for (const int side : {SettingChangeModel::Before, SettingChangeModel::After})
-        table->setColumnWidth(side, fontMetrics().averageCharWidth() * 22);
+    fitValues(*table);
     column->addWidget(table, 1);
 }
 

@@ -68,7 +68,7 @@ void SaveNotices::tellSaved(const QString& path)
     if (kind == StoredFile::Configuration) {
         tellConfiguration(path);
     } else {
-        Q_EMIT saved([shown] { return text("wb_saved").arg(shown); });
+        Q_EMIT saved([shown] { return text("wb_saved").arg(shown); }, watch_.window());
     }
 }
 

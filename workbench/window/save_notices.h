@@ -29,7 +29,7 @@ public:
 
 Q_SIGNALS:
     // Of a file other than a configuration, which the window that saved it should tell too.
-    void saved(const workbench::Sentence& sentence);
+    void saved(const workbench::Sentence& sentence, QWidget* window);
     // A save is over, well or not.
     void ended();
 

@@ -69,8 +69,9 @@ bool SaveWatch::eventFilter(QObject* object, QEvent* event)
     if (event->type() != QEvent::Show)
         return false;
     auto* dialog = qobject_cast<QFileDialog*>(object);
-    // The workbench's own dialogs tell of themselves.
-    if (dialog == nullptr || (dialog->parentWidget() && dialog->parentWidget()->window() == mainWindow_))
+    // The workbench's own dialogs tell of themselves, and so do windows that give theirs this name.
+    if (dialog == nullptr || dialog->objectName() == QLatin1String("fileDialog_Told") ||
+        (dialog->parentWidget() && dialog->parentWidget()->window() == mainWindow_))
         return false;
     Q_EMIT asked();
     if (dialog->acceptMode() != QFileDialog::AcceptSave)
@@ -91,6 +92,7 @@ void SaveWatch::follow(const QFileDialog& dialog)
     if (path.isEmpty())
         return;
     awaited_ = {present(path)};
+    window_ = dialog.parentWidget() ? dialog.parentWidget()->window() : nullptr;
     // A name without a suffix may get one.
     const QString suffix = suffixOf(dialog.selectedNameFilter());
     if (QFileInfo(path).suffix().isEmpty() && !suffix.isEmpty())

@@ -9,12 +9,13 @@
 #include <QDateTime>
 #include <QFileSystemWatcher>
 #include <QObject>
+#include <QPointer>
 #include <QVector>
+#include <QWidget>
 
 #include <functional>
 
 class QFileDialog;
-class QWidget;
 
 namespace workbench {
 
@@ -36,6 +37,9 @@ public:
     using SavesAtOnce = std::function<bool()>;
 
     SaveWatch(const PluginLog& log, const QWidget* mainWindow, SavesAtOnce savesAtOnce);
+
+    // In which the file was named that is looked for; null when that window is gone.
+    QWidget* window() const { return window_; }
 
 Q_SIGNALS:
     // For a file of the plug-in, to save or to load.
@@ -68,6 +72,7 @@ private:
     const QWidget* mainWindow_;
     SavesAtOnce savesAtOnce_;
     QVector<Candidate> awaited_;
+    QPointer<QWidget> window_;
     QFileSystemWatcher folder_;
 };
 

@@ -28,6 +28,19 @@ int heightOfRows(const QTableView& table)
     return table.verticalHeader()->defaultSectionSize() * (qMax(atLeast, table.model()->rowCount()) + 2);
 }
 
+void fitValues(QTableView& table)
+{
+    constexpr int fewest = 9;
+    constexpr int most = 24; // letters
+    const QAbstractItemView& view = table;
+    const int letter = table.fontMetrics().averageCharWidth();
+    for (const int column : {SettingChangeModel::Before, SettingChangeModel::After}) {
+        const int wanted =
+            qMax(view.sizeHintForColumn(column), table.horizontalHeader()->sectionSizeHint(column));
+        table.setColumnWidth(column, qBound(fewest * letter, wanted, most * letter));
+    }
+}
+
 SettingChangeModel::SettingChangeModel(Heads heads, bool canBeChosen, QObject* parent)
     : QAbstractTableModel(parent), heads_(std::move(heads)), canBeChosen_(canBeChosen)
 {
@@ -69,7 +82,7 @@ QVariant SettingChangeModel::data(const QModelIndex& index, int role) const
 {
     const SettingChange& change = changes_.at(index.row());
     if (role == Qt::ToolTipRole && index.column() == Setting)
-        return change.path;
+        return settingName(change) + QLatin1Char('\n') + change.path;
     if (role == Qt::DecorationRole && index.column() == Setting)
         return markPixmap(change.isRemoved() ? Mark::invalid : Mark::changed, QGuiApplication::palette(),
                           markSize, qApp->devicePixelRatio());

@@ -19,6 +19,8 @@ QString shownValue(const QString& value, const QString& words);
 
 // Of all rows and the heads, however few there are.
 int heightOfRows(const QTableView& table);
+// The columns of values as wide as they need, within bounds; the rest is for the names of the settings.
+void fitValues(QTableView& table);
 
 class SettingChangeModel : public QAbstractTableModel
 {

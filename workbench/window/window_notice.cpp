@@ -13,8 +13,7 @@ constexpr int goesOnMs = 5000; // between two keys of somebody who goes round th
 
 } // namespace
 
-WindowNotice::WindowNotice(QWidget* owner, std::set<int> dismissed)
-    : NoticeBar(owner, QStringLiteral("label_WindowNotice")), dismissed_(std::move(dismissed))
+WindowNotice::WindowNotice(QWidget* owner) : NoticeBar(owner, QStringLiteral("label_WindowNotice"))
 {
     setObjectName(QStringLiteral("frame_WindowNotice"));
     setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
@@ -23,7 +22,7 @@ WindowNotice::WindowNotice(QWidget* owner, std::set<int> dismissed)
     setFrameShape(QFrame::Box);
     setNewestFirst();
     QCoreApplication::instance()->installEventFilter(this);
-    connect(this, &NoticeBar::closed, this, [this](int number) { dismissed_.insert(number); });
+    connect(qApp, &QApplication::focusChanged, this, &WindowNotice::place);
 }
 
 void WindowNotice::offerByKeys()
@@ -43,12 +42,6 @@ void WindowNotice::offerByKeys()
 
 void WindowNotice::say(int number, const std::function<Notice()>& notice)
 {
-    if (!notice) {
-        dismissed_.erase(number);
-        end(number);
-    }
-    if (!notice || dismissed_.count(number) != 0)
-        return;
     place();
     tell(number, notice);
     place();
@@ -115,6 +108,12 @@ void WindowNotice::place()
             inside.setTop(qMax(inside.top(), bar->mapToGlobal(QPoint(0, bar->height())).y() + margin));
     }
     resize(inside.width(), heightForWidth(inside.width()));
+    const QWidget* typed = parentWidget()->focusWidget();
+    if (typed && typed->isVisible() && typed->testAttribute(Qt::WA_InputMethodEnabled)) {
+        const QRect field(typed->mapToGlobal(QPoint()), typed->size());
+        if (field.intersects({inside.topLeft(), size()}))
+            inside.setTop(field.bottom() + 1 + margin);
+    }
     move(inside.topLeft());
 }
 

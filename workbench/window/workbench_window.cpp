@@ -75,8 +75,7 @@ WorkbenchWindow::WorkbenchWindow(const DataFolder& folder, Settings& settings, L
 WorkbenchWindow::~WorkbenchWindow()
 {
     delete help_;
-    vlk::OfferedTexts none;
-    session_.link().send(vlk::Message::OfferTexts, &none);
+    session_.link().withdrawTexts();
 }
 
 void WorkbenchWindow::buildPanels()
@@ -179,7 +178,7 @@ void WorkbenchWindow::connectNotices()
             [this](PluginLog::Topic /*topic*/, const QString& category, const QString& text) {
                 log_.appendWarning(category, text);
             });
-    linkNotices_ = std::make_unique<LinkNotices>(session_, windows_, log_, *status_, this);
+    linkNotices_ = std::make_unique<LinkNotices>(pluginLog_, session_, windows_, log_, *status_, this);
     faults_ = std::make_unique<FaultsAtHand>(session_.tracker(), linkNotices_->answers(),
                                              commands_[Command::Faults]->shortcut(), this);
     saveNotices_ = std::make_unique<SaveNotices>(pluginLog_, session_, windows_, *recent_, *status_, this);
@@ -198,7 +197,7 @@ bool WorkbenchWindow::start(const QString& pluginPath)
     if (loaded) {
         applyFolders();
         session_.link().setMode(settings_.mode());
-        offerTexts();
+        session_.link().offerTexts(languages_);
         session_.link().promiseConfirmations();
         session_.tracker().attach();
     } else {
@@ -274,17 +273,6 @@ void WorkbenchWindow::applyFolders()
     settings_.setFolders(orOwn(settings_.telemetryFolder(), folder_.telemetryFolder()),
                          orOwn(settings_.configurationFolder(), folder_.configurationFolder()));
     session_.link().setPaths(settings_.telemetryFolder(), settings_.configurationFolder());
-}
-
-// For as long as the window lives.
-void WorkbenchWindow::offerTexts()
-{
-    vlk::OfferedTexts offered;
-    offered.context = &languages_;
-    offered.fill = [](void* context, const char* language, const char* key, QString* filled) {
-        *filled = static_cast<Languages*>(context)->textIn(QString::fromLatin1(language), key);
-    };
-    session_.link().send(vlk::Message::OfferTexts, &offered);
 }
 
 void WorkbenchWindow::setMode(int mode)

@@ -56,7 +56,6 @@ public:
 
     void setLanguage(const QString& code);
     void setMode(int mode);
-    void offerTexts();
     // A configuration opens in the configuration window, telemetry in this one.
     void openFile(const QString& path, TelemetryWindow window = TelemetryWindow::Browser);
     void showHelp(const QString& page);

@@ -1,11 +1,12 @@
 #include "fuel/table/kept_tables.h"
 
+#include "base/file_claim.h"
 #include "fuel/table/fuel_document.h"
 #include "fuel/table/fuel_file.h"
 #include "xml/xml_document.h"
 
 #include <QDir>
-#include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <tuple>
@@ -16,36 +17,41 @@ namespace {
 
 const QString kSuffix = QStringLiteral(".xml");
 const QString kTime = QStringLiteral("kept");
+constexpr auto kOfOwner = QFile::ReadOwner | QFile::WriteOwner;
 const QString kVehicleName = QStringLiteral("objName");
 
 QString keptFolder(const QString& folder)
 {
-    return folder + QStringLiteral("/unsaved");
+    return folder + QStringLiteral("/.unsaved");
 }
 
 QString freePath(const QString& base)
 {
     QString path = base + kSuffix;
-    for (int n = 2; QFile::exists(path); ++n)
+    for (int n = 2; QFile::exists(path) || isClaimed(path); ++n)
         path = QStringLiteral("%1-%2").arg(base).arg(n) + kSuffix;
     return path;
 }
 
 } // namespace
 
-QString keepTable(const QString& folder, const QString& sensor, const QString& vehicle, const QString& name,
-                  const FuelRows& rows, const QDateTime& time, QString path)
+QString newKeptPath(const QString& folder, const QString& sensor, const QString& vehicle,
+                    const QDateTime& time)
 {
-    constexpr auto ofOwner = QFile::ReadOwner | QFile::WriteOwner;
     QDir().mkpath(keptFolder(folder));
-    QFile::setPermissions(keptFolder(folder), ofOwner | QFile::ExeOwner);
-    if (path.isEmpty())
-        path = freePath(fuelFileName(keptFolder(folder), sensor, vehicle, time));
+    QFile::setPermissions(keptFolder(folder), kOfOwner | QFile::ExeOwner);
+    return freePath(fuelFileName(keptFolder(folder), sensor, vehicle, time));
+}
+
+bool keepTable(const QString& path, const QString& sensor, const QString& vehicle, const QString& name,
+               const FuelRows& rows, const QDateTime& time)
+{
+    QDir().mkpath(QFileInfo(path).path()); // the user may have removed it
     XmlDocument document(QString{}, QLatin1String(fuelRoot));
     document.root()->setString(kTime, time.toString(Qt::ISODate));
     document.root()->setChildValue(kVehicleName, vehicle);
     putKeptTable(document.root(), sensor, name, rows);
-    return document.saveAs(path) && QFile::setPermissions(path, ofOwner) ? path : QString();
+    return document.saveAs(path) && QFile::setPermissions(path, kOfOwner);
 }
 
 std::vector<KeptTable> keptTables(const QString& folder)

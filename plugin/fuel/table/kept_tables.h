@@ -21,9 +21,12 @@ struct KeptTable
     int points;
 };
 
-// The path, a new one where none is given; empty when the disk refused, and the log (vlk.save) says why.
-QString keepTable(const QString& folder, const QString& sensor, const QString& vehicle, const QString& name,
-                  const FuelRows& rows, const QDateTime& time, QString path = {});
+// In the folder of kept tables, which is there then unless the disk refused.
+QString newKeptPath(const QString& folder, const QString& sensor, const QString& vehicle,
+                    const QDateTime& time);
+// False when the disk refused, and the log (vlk.save) says why.
+bool keepTable(const QString& path, const QString& sensor, const QString& vehicle, const QString& name,
+               const FuelRows& rows, const QDateTime& time);
 // From the latest to the oldest, of one time those with most points first; behind all, tables without points.
 std::vector<KeptTable> keptTables(const QString& folder);
 

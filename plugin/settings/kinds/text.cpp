@@ -2,6 +2,8 @@
 
 #include "base/model_text.h"
 
+#include <algorithm>
+
 namespace vlk {
 
 namespace {
@@ -52,6 +54,13 @@ Normalised normalised(const Text& row, const Reading& reading)
     if (row.mask)
         return {masked(QString::fromLatin1(row.mask), reading.text)};
     return {row.maxLength > 0 ? reading.text.left(row.maxLength) : reading.text, Change::tooLong};
+}
+
+QString toldText(const Text& row, const QString& value, const char* /*unit*/)
+{
+    const bool isEmpty = row.mask && std::none_of(value.begin(), value.end(),
+                                                  [](QChar sign) { return sign.isLetterOrNumber(); });
+    return isEmpty ? QString() : value;
 }
 
 } // namespace vlk

@@ -57,9 +57,7 @@ constexpr Text text(const char* key, const char* loadDefault)
 
 QString fileText(const Text& row, const DefaultText& text);
 Normalised normalised(const Text& row, const Reading& reading);
-inline QString toldText(const Text&, const QString& value, const char* /*unit*/)
-{
-    return value;
-}
+// Of an address without a digit nothing is told, although its signs stand in the file.
+QString toldText(const Text& row, const QString& value, const char* unit);
 
 } // namespace vlk

@@ -1,0 +1,22 @@
+#pragma once
+
+// What people call settings whose captions leave it out, as when the title of a slider's zone says it. They
+// are looked for and shown nowhere.
+
+namespace vlk::review {
+
+struct SearchWords
+{
+    const char* path; // in the file, without its digits: of all lines, sensors and servers alike
+    const char* text; // translation key
+};
+
+inline constexpr SearchWords kSearchWords[] = {
+    {"TEMPSENS/SENS/min", "rev_230"},       {"TEMPSENS/SENS/max", "rev_230"},
+    {"SYSTEM/PWRSENS/alarmLvl", "rev_231"}, {"SYSTEM/PWRSENS/restoreLvl", "rev_231"},
+    {"SENSORS/IN/normState", "rev_232"},    {"OUTPUTS/LINE/mode", "rev_233"},
+    {"TRANS/AP/name", "rev_234"},           {"TRANS/SRV/addr", "rev_235"},
+    {"TRACK/POINTS/maxSpeed", "rev_236"},
+};
+
+} // namespace vlk::review
