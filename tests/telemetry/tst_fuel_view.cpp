@@ -107,7 +107,7 @@ private Q_SLOTS:
         QTest::newRow("another sensor of the kind") << "<FUEL type='D2'>" + rows + "</TABLE></FUEL>"
 
                                                     << "The table is of D2, the sensor chosen is: RS-485 "
-                                                       "fuel level 1. Check that it is the right table."
+                                                       "Fuel level 1. Check that it is the right table."
                                                     << 1;
         QTest::newRow("another kind") << "<FUEL type='A3'>" + rows + "</TABLE></FUEL>"
 

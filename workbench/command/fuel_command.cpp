@@ -26,8 +26,6 @@ namespace workbench::command {
 namespace {
 
 constexpr qint64 beginning = 4096;
-// Records take several times the room of their bytes.
-constexpr qint64 largestInput = 1 << 30;
 
 using vlk::FuelEvent;
 using vlk::TankSensor;
@@ -153,8 +151,7 @@ Outcome eventsOf(const Call& call, const File& file, const std::vector<TankSenso
         return refusal(call, file.name, text("cli_002").arg(systemText(plain.errorString())));
     const FileKind kind = kindOf(start);
     if (kind == FileKind::telemetry)
-        return device->size() > largestInput ? refusal(call, file.name, text("cli_013"))
-                                             : eventsIn(call, file, tanks, *device);
+        return eventsIn(call, file, tanks, *device);
     if (!file.isNamed && kind != FileKind::unknown)
         return {};
     return refusal(call, file.name, text(start.isEmpty() ? "cli_004" : "cli_245"));

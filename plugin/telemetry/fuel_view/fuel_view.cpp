@@ -83,7 +83,12 @@ FuelView::FuelView(ShownRecords* records, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 6, 6, 6);
     layout->setSpacing(6);
-    layout->addLayout(rowOf({vehicleLabel_, vehicle_, tanks_}, {}));
+    auto* tanks = new QHBoxLayout;
+    tanks->setSpacing(8);
+    tanks->addWidget(vehicleLabel_);
+    tanks->addWidget(vehicle_);
+    tanks->addWidget(tanks_, 1);
+    layout->addLayout(tanks);
     layout->addLayout(rowOf({riseLabel_, rise_, fallLabel_, fall_}, {copy_, csv_, print_}));
     layout->addWidget(news_);
     layout->addWidget(table_, 1);

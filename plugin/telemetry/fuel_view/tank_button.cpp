@@ -12,12 +12,21 @@
 
 namespace vlk {
 
+namespace {
+
+constexpr int kLeastWidth = 160;
+constexpr int kTextMargin = 32; // left and right together, with the arrow of the menu
+
+} // namespace
+
 TankButton::TankButton(QWidget* parent) : QToolButton(parent)
 {
     setObjectName(QStringLiteral("toolButton_FuelTanks"));
     setPopupMode(QToolButton::InstantPopup);
     setToolButtonStyle(Qt::ToolButtonTextOnly);
     setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    setMinimumWidth(kLeastWidth);
     setMenu(new QMenu(this));
     connect(menu(), &QMenu::aboutToShow, this, &TankButton::fillMenu);
 }
@@ -179,6 +188,17 @@ QString TankButton::news() const
                                    : tr(news_.key).arg(news_.first, levelSensorCaption(*news_.sensor));
 }
 
+void TankButton::resizeEvent(QResizeEvent* event)
+{
+    QToolButton::resizeEvent(event);
+    fitText();
+}
+
+void TankButton::fitText()
+{
+    setText(fontMetrics().elidedText(caption_, Qt::ElideMiddle, width() - kTextMargin));
+}
+
 void TankButton::retranslate()
 {
     showState();
@@ -200,7 +220,8 @@ void TankButton::showState()
     QString text = sensors.join(QStringLiteral(" + "));
     if (litres > 0)
         text += QStringLiteral(", %1 %2").arg(numberText(litres), tr("abbr_026"));
-    setText(tanks_.empty() ? tr("rec_251") : text);
+    caption_ = tanks_.empty() ? tr("rec_251") : text;
+    fitText();
     setToolTip((captions() + ends).join(QLatin1Char('\n')));
     setAccessibleName(tr("rec_251"));
 }

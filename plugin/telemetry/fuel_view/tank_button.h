@@ -32,6 +32,9 @@ public:
 Q_SIGNALS:
     void chosen();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     void fillMenu();
     void toggle(const LevelSensor& sensor, bool isOn);
@@ -41,6 +44,7 @@ private:
     void drop(const LevelSensor& sensor);
     void remember();
     void showState();
+    void fitText();
     bool isChosen(const LevelSensor& sensor) const;
     bool needsTable(const LevelSensor& sensor) const;
 
@@ -58,6 +62,7 @@ private:
     std::vector<TankSensor> tanks_;
     std::vector<QString> paths_; // of the tables of tanks_
     News news_;
+    QString caption_; // whole, the button shows what it has room for
 };
 
 } // namespace vlk
