@@ -40,7 +40,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         static const QRegularExpression key(QStringLiteral(
-            "[\">]((?:cfgt\\d+f?|cfgwl|cfgwnd|tmizta|tmiw|tmiex|tmift\\d|wrd|abbr|typed|rev|adv|cli|wb)_["
+            "[\">]((?:cfgt\\d+f?|cfgwl|cfgwnd|tmizta|tmiw|tmiex|tmift\\d|wrd|abbr|typed|rec|rev|adv|cli|wb)_["
             "a-z0-9_]+)[\"<]"));
         for (const char* folder : {"/plugin", "/typing", "/workbench"}) {
             QDirIterator files(QStringLiteral(VLK_SOURCE) + QLatin1String(folder), {"*.cpp", "*.h", "*.ui"},
