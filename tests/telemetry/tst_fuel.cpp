@@ -272,7 +272,8 @@ private Q_SLOTS:
         QCOMPARE(sum.missing, 0);
         QCOMPARE(sum.withoutFix, 0.0);
         QCOMPARE(journey.days(0).size(), std::size_t(1));
-        const std::vector<JourneySummary> days = journey.days(3 * 3600); // midnight is 33 minutes behind the start
+        const std::vector<JourneySummary> days =
+            journey.days(3 * 3600); // midnight is 33 minutes behind the start
         QCOMPARE(days.size(), std::size_t(2));
         QCOMPARE(days[0].records + days[1].records, sum.records);
         QCOMPARE(days[0].records, 34);

@@ -122,7 +122,7 @@ FuelView::FuelView(ShownRecords* records, QWidget* parent)
 void FuelView::setVehicle(const QString& vehicle)
 {
     vehicle_->setText(vehicle);
-    readVehicle();
+    refreshRecords();
 }
 
 void FuelView::setPictures(Picture curve, Picture track)
@@ -133,9 +133,10 @@ void FuelView::setPictures(Picture curve, Picture track)
 
 void FuelView::readVehicle()
 {
-    if (vehicle_->isModified() || sender() == nullptr)
-        refreshRecords();
+    if (!vehicle_->isModified())
+        return;
     vehicle_->setModified(false);
+    refreshRecords();
 }
 
 void FuelView::refreshRecords()
