@@ -40,7 +40,7 @@ QString keptFolder(const QString& folder)
 }
 
 // What the names of all files of a configuration begin with.
-QString stemOf(const QString& subject)
+QString nameStemOf(const QString& subject)
 {
     return QString::fromLatin1(sumOf(subject.toUtf8()).toHex().left(kStemSize));
 }
@@ -58,7 +58,7 @@ QString recoveryPath(const QString& folder, const QString& subject)
     QString path;
     for (QDateTime begun = now(); path.isEmpty() || QFile::exists(path); begun = begun.addMSecs(1))
         path = QStringLiteral("%1/%2-%3")
-                   .arg(keptFolder(folder), stemOf(subject),
+                   .arg(keptFolder(folder), nameStemOf(subject),
                         begun.toString(QStringLiteral("yyyyMMdd-hhmmss-zzz"))) +
                kSuffix;
     return path;
@@ -97,7 +97,7 @@ std::vector<KeptUnsaved> keptUnsaved(const QString& folder, const QString& subje
 {
     std::vector<KeptUnsaved> kept;
     const QDir files(keptFolder(folder));
-    for (const QString& name : files.entryList({stemOf(subject) + QLatin1Char('*') + kSuffix}, QDir::Files)) {
+    for (const QString& name : files.entryList({nameStemOf(subject) + QLatin1Char('*') + kSuffix}, QDir::Files)) {
         const QString path = files.filePath(name);
         std::optional<Unsaved> unsaved = isClaimed(path) ? std::nullopt : unsavedIn(path);
         if (unsaved && unsaved->subject == subject)

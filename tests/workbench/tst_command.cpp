@@ -38,6 +38,19 @@ private Q_SLOTS:
             telemetry += "<Page type=\"176\" ver=\"30\" format=\"1111\">\r\n<NumPage>" + QByteArray(record) +
                          "</Time>\r\n</Page>\r\n";
         put("telemetry.xml", telemetry + "</TMI>\r\n");
+        // The litres are a tenth of the level; 61 of them are gone after the tenth minute.
+        QByteArray drained = "<TMI model=\"R-7106\">\r\n";
+        for (int i = 0; i < 20; ++i)
+            drained += "<Page type=\"176\" ver=\"30\" format=\"101" + QByteArray(34, '0') +
+                       "1\">\r\n<NumPage>" + QByteArray::number(i) + "</NumPage>\r\n<Time>" +
+                       QByteArray::number(1704067200 + 60 * i) + "</Time>\r\n<LevelRS485_1>" +
+                       (i < 10 ? "3120" : "2510") + "</LevelRS485_1>\r\n</Page>\r\n";
+        put("week.xml", drained + "</TMI>\r\n");
+        const QByteArray rows = "<TABLE><DATA param_U='0' param_V='0'/><DATA param_U='400' param_V='4000'/>";
+        put("tank.xml", "<FUEL type='D1'>" + rows + "</TABLE></FUEL>");
+        put("other.xml", "<FUEL type='D2'>" + rows + "</TABLE></FUEL>");
+        put("falls.xml", "<FUEL type='D1'>" + rows + "<DATA param_U='500' param_V='9'/></TABLE></FUEL>");
+        put("volts.xml", "<FUEL type='A3'>" + rows + "</TABLE></FUEL>");
         put("cut.xml", track.left(60));
         put("secret.xml", "<DEVICE><TRANS><AP1 pass='geheim'/></TRANS></DEVICE>");
         put("good.xml", "<DEVICE creator='preset'><TRACK><POINTS maxSpeed='80'/></TRACK></DEVICE>");
@@ -49,7 +62,7 @@ private Q_SLOTS:
         const QByteArray words =
             R"("path":"TRACK/POINTS/maxSpeed","page":"Track","group":"Always record a track point",)"
             R"("caption":"Speed threshold",)";
-        const QByteArray commands = ": check, diff, compare, get, set, apply, report, info, convert\n";
+        const QByteArray commands = ": check, diff, compare, get, set, apply, report, info, convert, fuel\n";
         const QByteArray help = "Help: r7106 --help\n";
         const DataTable<QString, int, QByteArray, QByteArray> table({"call", "status", "told", "complaints"});
         table.row("version", "--version", 0, "r7106 3.3.0\n", "")
@@ -117,6 +130,32 @@ private Q_SLOTS:
                  R"("to":null,"gaps":null})"
                  "\n",
                  "")
+            .row("a drain", "fuel --json --table tank.xml week.xml", 1,
+                 R"({"file":"week.xml","kind":"drain","time":"2024-01-01T00:09:00Z",)"
+                 R"("until":"2024-01-01T00:10:00Z","before":312.0,"after":251.0,"litres":-61.0,)"
+                 R"("latitude":null,"longitude":null,"sensor":"LevelRS485_1"})"
+                 "\n",
+                 "")
+            .row("a drain in words", "fuel --table tank.xml week.xml", 1,
+                 "week.xml: 2024-01-01T00:09:00Z to 2024-01-01T00:10:00Z: drain -61.0\u00a0l (312.0 to 251.0), "
+                 "LevelRS485_1\n",
+                 "")
+            .row("no drain by that threshold", "fuel --fall 61.5 --table tank.xml week.xml", 0, "", "")
+            .row("no litres", "fuel --fall -1 --table tank.xml week.xml", 2, "",
+                 "r7106: --fall takes a number of litres above 0\n" + help)
+            .row("no table", "fuel week.xml", 2, "", "--table: a calibration table is needed: --table FILE\n")
+            .row("a table of another sensor",
+                 "fuel --sensor LevelRS485_1 --fall 99 --table other.xml week.xml", 0, "",
+                 "other.xml: is the table of D2, not of LevelRS485_1\n")
+            .row("a table of another kind", "fuel --sensor LevelRS485_1 --table volts.xml week.xml", 2, "",
+                 "volts.xml: is the table of A3, not of LevelRS485_1\n")
+            .row("a table that falls back", "fuel --table falls.xml week.xml", 2, "",
+                 "falls.xml: The readings of the calibration table fall while the volume rises\n")
+            .row("no such sensor", "fuel --sensor Level --table tank.xml week.xml", 2, "",
+                 "Level: records have no such fuel level sensor\n")
+            .row("no level, and no telemetry", "fuel --table other.xml week.xml a.xml fleet", 2, "",
+                 "week.xml: holds no fuel level of LevelRS485_2\na.xml: is not telemetry\n"
+                 "fleet/3.tmi: is not telemetry\n")
             .row("a fleet as CSV", "compare --csv a.xml b.xml", 1,
                  "Path;Setting;File;Value\r\n"
                  "\"TRACK/POINTS/maxSpeed\";\"Track / Always record a track point / Speed "

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <set>
+#include <tuple>
 
 namespace workbench::command {
 
@@ -33,6 +34,7 @@ struct CommandRow
         settingsAndFiles, // by their "="
         presetAndFiles,
         recordFiles, // of telemetry, and --to
+        tablesAndFiles,
     } takes;
     bool printsSecrets;
     bool edits;
@@ -58,6 +60,11 @@ constexpr CommandRow commands[] = {
      "20.11.2026 week.xml > day.gpx\n  r7106 convert --to csv --where 'StateU_Ain3 < 9 and Speed > 0' "
      "archive",
      CommandRow::recordFiles, false, false},
+    {"fuel", "cli_230",
+     "  r7106 fuel --table tank.xml week.xml\n  r7106 fuel --table left.xml --table right.xml --fall 15 "
+     "--json "
+     "archive",
+     CommandRow::tablesAndFiles, false, false},
 };
 
 std::string withExamples(const char* examples)
@@ -70,6 +77,8 @@ struct Read
 {
     std::vector<std::string> files;
     std::string first; // a path or a preset
+    std::vector<std::string> tables;
+    std::vector<std::string> sensors;
     std::string output;
     std::string language;
     bool isVersion = false;
@@ -113,6 +122,23 @@ void addConversion(CLI::App& app, Conversion& conversion)
     app.add_flag("--decimal-comma", conversion.decimalComma, words("cli_211"));
 }
 
+void addFuelOptions(CLI::App& app, Read& read)
+{
+    const auto several = [&](const char* name, std::vector<std::string>& values, const char* key,
+                             const char* what) {
+        app.add_option(name, values, words(key))
+            ->expected(1)
+            ->allow_extra_args(false)
+            ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+            ->option_text(what);
+    };
+    several("--table", read.tables, "cli_231", "CALIBRATION");
+    several("--sensor", read.sensors, "cli_232", "ELEMENT");
+    for (const auto& [name, litres, key] :
+         {std::tuple("--rise", &read.call.rise, "cli_233"), {"--fall", &read.call.fall, "cli_234"}})
+        app.add_option(name, *litres, words(key))->check(CLI::Range(0.1, 1e6))->option_text("LITRES");
+}
+
 void addOptions(CLI::App& app, const CommandRow& row, Read& read)
 {
     addLanguage(app, read);
@@ -133,6 +159,8 @@ void addOptions(CLI::App& app, const CommandRow& row, Read& read)
         app.add_flag("--changed", read.call.changedOnly, words("cli_116"));
     if (row.description == std::string_view("cli_102"))
         app.add_flag("--csv", read.call.csv, words("cli_117"));
+    if (row.takes == CommandRow::tablesAndFiles)
+        addFuelOptions(app, read);
 }
 
 void addCommand(CLI::App& app, const CommandRow& row, Read& read)
@@ -223,6 +251,8 @@ QString whyNotParsed(const CLI::App& app, const CLI::ParseError& error)
     }
     if (dynamic_cast<const CLI::ValidationError*>(&error) != nullptr) {
         const QString name = said.section(QLatin1Char(':'), 0, 0);
+        if (name == QLatin1String("--rise") || name == QLatin1String("--fall"))
+            return text("cli_235").arg(name);
         const CLI::App& of = chosen.empty() ? app : *chosen.front();
         if (const CLI::Option* option = of.get_option_no_throw(name.toStdString()))
             return text("cli_019").arg(name, QString::fromStdString(option->get_option_text())
@@ -324,6 +354,10 @@ Arguments readArguments(const QByteArrayList& arguments)
     Arguments result{read.call, {}, {}};
     result.call.command = QString::fromStdString(name);
     result.call.output = nameOf(read.output);
+    for (const std::string& table : read.tables)
+        result.call.tables << nameOf(table);
+    for (const std::string& sensor : read.sensors)
+        result.call.sensors << QString::fromUtf8(sensor.c_str());
     const QString reason = splitFiles(*row, read, plain, &result.call);
     return reason.isEmpty() ? result : refused(reason);
 }

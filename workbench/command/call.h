@@ -37,6 +37,11 @@ struct Call
     bool dryRun = false;
     bool csv = false;
     Conversion conversion;
+    // Of fuel.
+    QStringList tables;
+    QStringList sensors;
+    double rise = 20; // litres
+    double fall = 10;
 };
 
 // The greater one counts.

@@ -16,6 +16,7 @@ int set(const Call& call, Output& output);
 int apply(const Call& call, Output& output);
 int info(const Call& call, Output& output);
 int convert(const Call& call, Output& output);
+int fuel(const Call& call, Output& output);
 
 // The report of the one file as HTML; null with a status where there is none.
 QString reportHtml(const Call& call, int* status);

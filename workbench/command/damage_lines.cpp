@@ -21,6 +21,14 @@ QByteArray damageLine(const File& file, const vlk::FileDamage& damage)
     return complaint(file.name, placeAndKind(damage));
 }
 
+QByteArray damageLines(const File& file, const std::vector<vlk::FileDamage>& damages)
+{
+    QByteArray lines;
+    for (const vlk::FileDamage& damage : damages)
+        lines += damageLine(file, damage);
+    return lines;
+}
+
 QByteArray damageLine(const File& file, const vlk::FileDamage& damage, qint64 size)
 {
     const qint64 end = damage.offset + damage.bytes;

@@ -14,4 +14,7 @@ QByteArray damageLine(const File& file, const vlk::FileDamage& damage);
 // The same, and where reading went on in a file of that size.
 QByteArray damageLine(const File& file, const vlk::FileDamage& damage, qint64 size);
 
+// The first form, for each.
+QByteArray damageLines(const File& file, const std::vector<vlk::FileDamage>& damages);
+
 } // namespace workbench::command

@@ -68,14 +68,6 @@ QByteArray lineOf(const Call& call, const File& file, const Facts& facts)
     return complaint(file.name, told.join(QStringLiteral(", ")));
 }
 
-QByteArray damageLines(const File& file, const std::vector<vlk::FileDamage>& damages)
-{
-    QByteArray lines;
-    for (const vlk::FileDamage& damage : damages)
-        lines += damageLine(file, damage);
-    return lines;
-}
-
 Outcome telemetryFacts(const Call& call, const File& file, QIODevice& device)
 {
     const TelemetrySummary summary = summaryOf(device);

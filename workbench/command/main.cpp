@@ -31,9 +31,9 @@ struct CommandFunction
 };
 
 // A report of its own needs an application of its own.
-constexpr CommandFunction functions[] = {{"check", check}, {"diff", diff},      {"compare", compare},
-                                         {"get", get},     {"set", set},        {"apply", apply},
-                                         {"info", info},   {"convert", convert}};
+constexpr CommandFunction functions[] = {{"check", check}, {"diff", diff},       {"compare", compare},
+                                         {"get", get},     {"set", set},         {"apply", apply},
+                                         {"info", info},   {"convert", convert}, {"fuel", fuel}};
 
 int run(const Call& call)
 {

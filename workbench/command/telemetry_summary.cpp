@@ -1,8 +1,10 @@
 #include "command/telemetry_summary.h"
 
 #include "base/windows1251.h"
+#include "command/output.h"
 #include "telemetry/files/binary_layout.h"
 #include "telemetry/files/telemetry_reader.h"
+#include "window/languages.h"
 #include "xml/xml_scanner.h"
 
 #include <algorithm>

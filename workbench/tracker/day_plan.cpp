@@ -13,17 +13,46 @@ namespace {
 
 constexpr double metresPerKm = 1000;
 constexpr double kmhPerMs = 3.6;
-constexpr double acceleration = 0.9;       // m/s2 of a loaded lorry
-constexpr double litresPerKm = 0.27;       // driving
-constexpr double litresPerSecond = 0.0006; // idling
+constexpr double acceleration = 0.9; // m/s2 of a loaded lorry
 constexpr double fillBelow = 120;
 constexpr int lastDeparture = 16 * 3600; // UTC
+
+// What a vehicle does all day.
+struct Work
+{
+    int leastTrips;
+    int mostTrips;
+    double leastKm; // of a trip
+    double mostKm;
+    double leastLeg; // km
+    double mostLeg;
+    int mostIdling; // seconds before a trip
+    double litresPerKm;
+    double litresPerSecond; // idling
+};
+
+constexpr Work works[] = {
+    {8, 10, 14, 42, 0.5, 3.8, 240, 0.27, 0.0006},    // delivers goods
+    {2, 3, 150, 290, 4, 40, 600, 0.31, 0.0007},      // hauls over long ways
+    {16, 24, 2, 9, 0.2, 1.5, 240, 0.42, 0.0009},     // collects refuse
+    {3, 5, 0.6, 5, 0.2, 1.5, 2 * 3600, 0.5, 0.0022}, // works standing
+};
+constexpr quint64 workSeed = 9;
+
+// Of a stop, and what is poured or drained then. Litres, seconds.
+constexpr double topUpChance = 0.04;
+constexpr double drainChance = 0.03;
+constexpr double leastKeptByThieves = 60;
+constexpr int longestPour = 1200;
+constexpr quint64 pourSeed = 7;
 
 class Planner
 {
 public:
     Planner(quint64 seed, qint64 midnight, const Odometers& begin)
-        : random_(mix(seed, static_cast<quint64>(midnight))), midnight_(midnight), now_(begin)
+        : work_(works[mix(seed, workSeed) % std::size(works)]),
+          random_(mix(seed, static_cast<quint64>(midnight))),
+          pours_(mix(mix(seed, pourSeed), static_cast<quint64>(midnight))), midnight_(midnight), now_(begin)
     {
     }
 
@@ -32,11 +61,12 @@ public:
         // 1970-01-01 was a Thursday.
         const auto weekday = (midnight_ / daySeconds + 3) % 7;
         const bool weekend = weekday >= 5;
-        const int trips = weekend ? random_.integer(2, 4) : random_.integer(8, 10);
-        wait(Activity::Parked, (weekend ? 6 : 4) * 3600 + random_.integer(0, 1800), EventCode::ParkedTimer);
+        const int trips =
+            weekend ? random_.integer(2, 4) : random_.integer(work_.leastTrips, work_.mostTrips);
+        park((weekend ? 6 : 4) * 3600 + random_.integer(0, 1800), EventCode::ParkedTimer);
         while (trip_ < trips && elapsed_ < lastDeparture)
             drive();
-        wait(Activity::Parked, daySeconds - elapsed_, EventCode::ParkedTimer);
+        park(daySeconds - elapsed_, EventCode::ParkedTimer);
         return {std::move(segments_), now_};
     }
 
@@ -44,17 +74,36 @@ private:
     void drive()
     {
         ++trip_;
-        wait(Activity::Idling, random_.integer(60, 240), EventCode::IgnitionOn);
-        const double target = now_.km + random_.between(14, 42);
+        wait(Activity::Idling, random_.integer(60, work_.mostIdling), EventCode::IgnitionOn);
+        const double target = now_.km + random_.between(work_.leastKm, work_.mostKm);
         while (now_.km < target) {
-            leg(std::min(random_.between(0.5, 3.8), target - now_.km + 0.1));
+            leg(std::min(random_.between(work_.leastLeg, work_.mostLeg), target - now_.km + 0.1));
             wait(Activity::Idling, random_.integer(6, 55), EventCode::MovementStop);
         }
-        wait(Activity::Parked, random_.integer(700, 1900), EventCode::IgnitionOff);
+        park(random_.integer(700, 1900), EventCode::IgnitionOff);
         if (now_.fuel < fillBelow) {
             wait(Activity::Filling, random_.integer(260, 420), EventCode::FillingStart);
             wait(Activity::Parked, random_.integer(60, 180), EventCode::FillingEnd);
         }
+    }
+
+    // Now and then somebody tops up or drains meanwhile.
+    void park(int seconds, EventCode code)
+    {
+        const double chance = pours_.between(0, 1);
+        const int length = pours_.integer(120, longestPour);
+        const int before = pours_.integer(30, 24 * 3600) % std::max(1, seconds - length);
+        const double litres = pours_.between(0, 1);
+        const double room = tankLitres * 0.97 - now_.fuel;
+        const bool drains = chance < drainChance && now_.fuel > leastKeptByThieves;
+        const bool fills = !drains && chance < drainChance + topUpChance && room > 0;
+        if (seconds <= length || (!drains && !fills))
+            return wait(Activity::Parked, seconds, code);
+        wait(Activity::Parked, std::max(before, 1), code);
+        // A little is drained oftener than much.
+        pour(length, fills ? std::min(room, 8 + 150 * litres)
+                           : -std::min(now_.fuel - leastKeptByThieves, 3 + 87 * litres * litres));
+        wait(Activity::Parked, seconds - length - std::max(before, 1), EventCode::ParkedTimer);
     }
 
     void leg(double km)
@@ -67,7 +116,7 @@ private:
         segment.cruise = std::min(wanted, std::sqrt(segment.metres * acceleration));
         segment.seconds =
             static_cast<int>(std::ceil(segment.metres / segment.cruise + segment.cruise / acceleration));
-        segment.fuelDelta = -km * litresPerKm * random_.between(0.85, 1.2);
+        segment.fuelDelta = -km * work_.litresPerKm * random_.between(0.85, 1.2);
         segment.code = static_cast<quint16>(EventCode::MovementStart);
         add(segment);
     }
@@ -81,9 +130,20 @@ private:
         segment.seconds = seconds;
         segment.code = static_cast<quint16>(code);
         if (activity == Activity::Idling)
-            segment.fuelDelta = -litresPerSecond * seconds;
+            segment.fuelDelta = -work_.litresPerSecond * seconds;
         if (activity == Activity::Filling)
             segment.fuelDelta = tankLitres * random_.between(0.9, 0.97) - now_.fuel;
+        add(segment);
+    }
+
+    // What no event tells of.
+    void pour(int seconds, double litres)
+    {
+        Segment segment;
+        segment.activity = litres > 0 ? Activity::Filling : Activity::Draining;
+        segment.seconds = seconds;
+        segment.fuelDelta = litres;
+        segment.code = static_cast<quint16>(EventCode::ParkedTimer);
         add(segment);
     }
 
@@ -100,14 +160,16 @@ private:
         const bool driving = segment.activity == Activity::Driving;
         now_.km += segment.metres / metresPerKm;
         now_.fuel += segment.fuelDelta;
-        now_.fuelUsed += std::max(0.0, -segment.fuelDelta);
+        now_.fuelUsed += ignition ? -segment.fuelDelta : 0;
         now_.engineSeconds += ignition ? segment.seconds : 0;
         now_.loadSeconds += driving ? segment.seconds : 0;
         elapsed_ += segment.seconds;
         segments_.push_back(segment);
     }
 
+    const Work& work_;
     Random random_;
+    Random pours_;
     qint64 midnight_;
     Odometers now_;
     int elapsed_ = 0;
@@ -168,9 +230,10 @@ Odometers Segment::odometersAt(double elapsed) const
     result.km += metresAt(elapsed) / 1000;
     const double fuel = fuelDelta * elapsed / seconds;
     result.fuel += fuel;
-    result.fuelUsed += std::max(0.0, -fuel);
-    if (activity == Activity::Idling || activity == Activity::Driving)
+    if (activity == Activity::Idling || activity == Activity::Driving) {
+        result.fuelUsed -= fuel;
         result.engineSeconds += elapsed;
+    }
     if (activity == Activity::Driving)
         result.loadSeconds += elapsed;
     return result;

@@ -1,7 +1,8 @@
 #pragma once
 
 // One day of the vehicle: what it does from midnight to midnight UTC, leg by leg, as the seed and the state
-// in which the day begins have it. Nothing is stored: the same arguments give the same day.
+// in which the day begins have it. Nothing is stored: the same arguments give the same day. The seed also
+// gives the vehicle its work: it delivers goods, hauls over long ways, collects refuse or stands on a site.
 
 #include <QtGlobal>
 
@@ -9,7 +10,8 @@
 
 namespace tracker {
 
-enum class Activity { Parked, Filling, Idling, Driving };
+// No event tells of what is drained.
+enum class Activity { Parked, Filling, Draining, Idling, Driving };
 
 // What goes on from day to day.
 struct Odometers
@@ -30,7 +32,7 @@ struct Segment
     Activity activity = Activity::Parked;
     double metres = 0;    // driven
     double cruise = 0;    // m/s that a leg reaches between its ramps
-    double fuelDelta = 0; // litres, falling or filled
+    double fuelDelta = 0; // litres, burnt, drained or filled
     quint16 code = 0;     // what begins with it
     quint16 trip = 0;     // of the day, from 1
     Odometers at;         // at its beginning

@@ -1,0 +1,288 @@
+#include "telemetry/fuel/fuel_events.h"
+
+#include "telemetry/files/track_points.h"
+#include "telemetry/fuel/level_medians.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <functional>
+#include <limits>
+
+namespace vlk {
+
+namespace {
+
+// Litres, below which a change between two medians tells nothing.
+constexpr double kLeastStep = 0.5;
+// Litres a second by which a level may creep while nobody takes or pours: 3 an hour.
+constexpr double kCreep = 3 / 3600.0;
+// How far what was burnt may be from the average.
+constexpr double kBurnSpread = 0.5;
+// Seconds of a pause in one pouring.
+constexpr double kPause = 600;
+// Seconds and medians from which the level before and after is taken, and over which it has to hold.
+constexpr double kNear = 900;
+constexpr int kNearMedians = 3;
+constexpr double kFar = 1200;
+constexpr int kFarMedians = 2;
+constexpr int kLeastLevels = 2;
+// What has to be left of a step over that time.
+constexpr double kHeld = 0.6;
+// Of the lesser threshold: a step at which averages end.
+constexpr double kBarrier = 0.3;
+// From here on a pause between records may hide a drive. Seconds, degrees.
+constexpr double kLongPause = 900;
+constexpr double kSamePlace = 0.005;
+constexpr double kNowhere = std::numeric_limits<double>::quiet_NaN();
+
+constexpr int kBackwards = -1;
+constexpr int kForwards = 1;
+
+class EventFinder
+{
+public:
+    EventFinder(std::vector<LevelMedian> medians, const FuelThresholds& thresholds)
+        : medians_(std::move(medians)), thresholds_(thresholds), walls_(medians_.size(), false)
+    {
+        learnBurning();
+        burnt_.assign(medians_.size(), 0);
+        for (int i = 1; i < size(); ++i)
+            burnt_[i] = burnt_[i - 1] + burntBetween(i - 1);
+    }
+
+    std::vector<FuelEvent> find()
+    {
+        std::vector<Step> steps = this->steps();
+        std::ranges::stable_sort(steps, std::ranges::greater(), [this](const Step& step) {
+            return std::abs(medians_[step.to].litres - medians_[step.from].litres);
+        });
+        std::vector<FuelEvent> events;
+        for (const Step& step : steps) {
+            if (std::any_of(walls_.begin() + step.from, walls_.begin() + step.to, std::identity()))
+                continue;
+            const std::optional<FuelEvent> event = this->event(step);
+            if (!event)
+                continue;
+            events.push_back(*event);
+            std::fill(walls_.begin() + step.from, walls_.begin() + step.to, true);
+        }
+        std::ranges::sort(events, {}, &FuelEvent::time);
+        return events;
+    }
+
+private:
+    // Medians between which the level goes one way.
+    struct Step
+    {
+        int from;
+        int to;
+    };
+
+    int size() const { return static_cast<int>(medians_.size()); }
+    double seconds(int i) const { return medians_[i + 1].middle() - medians_[i].middle(); }
+
+    // The average of what falls from one median to the next without a step, for each state of the engine.
+    void learnBurning()
+    {
+        std::array<double, 2> litres{};
+        std::array<double, 2> time{};
+        const double step = std::min(thresholds_.rise, thresholds_.fall) / 2;
+        for (int i = 0; i + 1 < size(); ++i) {
+            const LevelMedian& one = medians_[i];
+            const LevelMedian& other = medians_[i + 1];
+            const double fall = one.litres - other.litres;
+            if (!one.burns || !other.burns || one.moves != other.moves || seconds(i) > kLongPause ||
+                std::abs(fall) > step)
+                continue;
+            litres[one.moves] += fall;
+            time[one.moves] += seconds(i);
+        }
+        for (int moves = 0; moves < 2; ++moves)
+            burning_[moves] = time[moves] > 0 ? std::max(0.0, litres[moves] / time[moves]) : 0;
+    }
+
+    // Litres a second.
+    double burning(const LevelMedian& median) const
+    {
+        return median.moves ? burning_[1] : median.burns ? burning_[0] : 0;
+    }
+
+    bool isSamePlace(int i) const
+    {
+        const LevelMedian& one = medians_[i];
+        const LevelMedian& other = medians_[i + 1];
+        return std::abs(one.latitude - other.latitude) < kSamePlace &&
+               std::abs(std::remainder(one.longitude - other.longitude, 360.0)) < kSamePlace;
+    }
+
+    double burntBetween(int i) const
+    {
+        const LevelMedian& one = medians_[i];
+        const LevelMedian& other = medians_[i + 1];
+        const double least = std::min(seconds(i), kLongPause);
+        if (seconds(i) > kLongPause && isSamePlace(i))
+            return burning(one.moves ? other : one) * least;
+        if (seconds(i) > kLongPause && !one.burns && !other.burns &&
+            std::isnan(one.latitude + other.latitude))
+            return 0;
+        if (seconds(i) > kLongPause)
+            return burning_[1] * seconds(i);
+        return (burning(one) * (one.until - one.from) / 2 + burning(other) * (other.until - other.from) / 2) +
+               std::max(burning(one), burning(other)) * (other.from - one.until);
+    }
+
+    // How much more than burnt went, or came; 0 where it tells nothing.
+    double change(int i) const
+    {
+        const double burnt = burntBetween(i);
+        const double change = medians_[i + 1].litres - medians_[i].litres + burnt;
+        return std::abs(change) < std::max(kLeastStep, kBurnSpread * burnt + kCreep * seconds(i)) ? 0
+                                                                                                  : change;
+    }
+
+    std::vector<Step> steps() const
+    {
+        std::vector<Step> steps;
+        for (int i = 0; i + 1 < size(); ++i) {
+            const double first = change(i);
+            if (first == 0)
+                continue;
+            int last = i;
+            for (int next = i + 1; next + 1 < size() && !medians_[next].moves &&
+                                   medians_[next].from - medians_[last + 1].from <= kPause;
+                 ++next) {
+                const double more = change(next);
+                if (more * first < 0)
+                    break;
+                if (more != 0)
+                    last = next;
+            }
+            steps.push_back({i, last + 1});
+            i = last;
+        }
+        return steps;
+    }
+
+    // Nobody pours while the vehicle moves, though the fuel swings.
+    bool isBarrier(int i) const
+    {
+        return !(medians_[i].moves && medians_[i + 1].moves) &&
+               std::abs(change(i)) >= kBarrier * std::min(thresholds_.rise, thresholds_.fall);
+    }
+
+    // The litres at the inner end of the median at `start`, by it and those beyond: all that are `wanted`
+    // and lie close by.
+    struct Level
+    {
+        double litres;
+        int count = 0; // of levels
+        bool endsAtEvent = false;
+
+        // Another pouring begins from what it is.
+        bool isSure() const { return count >= kLeastLevels || endsAtEvent; }
+    };
+    template <class Wanted>
+    Level level(int start, int direction, Wanted wanted) const
+    {
+        std::vector<double> numbers;
+        Level level{};
+        const LevelMedian& inner = medians_[start];
+        const double rest = burning(inner) * (inner.until - inner.from) / 2;
+        for (int i = start; i >= 0 && i < size(); i += direction) {
+            level.endsAtEvent = i != start && walls_[std::min(i, i - direction)];
+            if (level.endsAtEvent ||
+                (i != start && !wanted(i, std::abs(medians_[i].middle() - inner.middle()),
+                                       static_cast<int>(numbers.size()))))
+                break;
+            numbers.push_back(medians_[i].litres + burnt_[i] - burnt_[start] + direction * rest);
+            level.count += medians_[i].count;
+        }
+        level.litres = medianOf(numbers);
+        return level;
+    }
+
+    Level nearLevel(int start, int direction) const
+    {
+        return level(start, direction, [&](int i, double distance, int taken) {
+            return taken < kNearMedians && distance <= kNear && medians_[i].moves == medians_[start].moves &&
+                   !isBarrier(std::min(i, i - direction));
+        });
+    }
+
+    Level farLevel(int start, int direction) const
+    {
+        return level(start, direction, [](int /*i*/, double distance, int taken) {
+            return taken < kFarMedians || distance <= kFar;
+        });
+    }
+
+    std::optional<FuelEvent> event(const Step& step) const
+    {
+        const double before = nearLevel(step.from, kBackwards).litres;
+        const double after = nearLevel(step.to, kForwards).litres;
+        const double litres = after - before;
+        if (litres < thresholds_.rise && -litres < thresholds_.fall + (1 + kBurnSpread) * longBurnt(step))
+            return {};
+        const Level was = farLevel(step.from, kBackwards);
+        const Level stays = farLevel(step.to, kForwards);
+        const auto isHeld = [litres](double part) { return part / litres >= kHeld; };
+        if (!was.isSure() || !stays.isSure() || !isHeld(after - was.litres) || !isHeld(stays.litres - before))
+            return {};
+        const LevelMedian& one = medians_[step.from];
+        const LevelMedian& other = medians_[step.to];
+        return FuelEvent{one.last,
+                         other.first,
+                         static_cast<quint32>(one.until),
+                         static_cast<quint32>(other.from),
+                         before,
+                         after,
+                         kNowhere,
+                         kNowhere};
+    }
+
+    // What was burnt in long pauses, of which nothing is known but that.
+    double longBurnt(const Step& step) const
+    {
+        double burnt = 0;
+        for (int i = step.from; i < step.to; ++i)
+            burnt += medians_[i + 1].from - medians_[i].until > kLongPause ? burntBetween(i) : 0;
+        return burnt;
+    }
+
+    const std::vector<LevelMedian> medians_;
+    const FuelThresholds thresholds_;
+    std::array<double, 2> burning_{}; // litres a second, standing and moving
+    std::vector<double> burnt_;       // up to the middle of each
+    std::vector<bool> walls_;         // between a median and the next: an event
+};
+
+void tellPlaces(RecordColumns& columns, std::vector<FuelEvent>& events)
+{
+    if (events.empty())
+        return;
+    std::vector<TrackPoint> points = trackPoints(columns);
+    std::ranges::stable_sort(points, {}, &TrackPoint::time);
+    for (FuelEvent& event : events) {
+        const auto behind = std::ranges::upper_bound(points, event.until, {}, &TrackPoint::time);
+        if (behind == points.begin())
+            continue;
+        event.latitude = behind[-1].latitude;
+        event.longitude = behind[-1].longitude;
+    }
+}
+
+} // namespace
+
+std::vector<FuelEvent> findFuelEvents(RecordColumns& columns, const NumberColumn& litres,
+                                      const FuelThresholds& thresholds)
+{
+    std::vector<LevelMedian> medians = levelMedians(columns, litres);
+    if (medians.empty())
+        return {};
+    std::vector<FuelEvent> events = EventFinder(std::move(medians), thresholds).find();
+    tellPlaces(columns, events);
+    return events;
+}
+
+} // namespace vlk

@@ -1,0 +1,127 @@
+#include "telemetry/fuel/journey.h"
+
+#include "telemetry/files/track_points.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace vlk {
+
+namespace {
+
+constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
+constexpr float kMovesFrom = 3; // km/h
+constexpr qint64 kDay = 24 * 3600;
+// A tracker that counts on from elsewhere has lost nothing.
+constexpr quint32 kMostMissing = 1'000'000;
+constexpr double kLeastWay = 1000; // metres, for what is burnt on a hundred kilometres
+
+} // namespace
+
+double JourneySummary::per100Km() const
+{
+    return metres >= kLeastWay ? fuelUsed() / metres * 100'000 : kNoNumber;
+}
+
+Journey::Journey(RecordColumns& columns, const NumberColumn& litres, std::vector<FuelEvent> events)
+    : events_(std::move(events))
+{
+    const std::vector<int> records = recordsByTime(columns);
+    const NumberColumn speed = speeds(columns);
+    const std::vector<Ignition> ignition = ignitions(columns, records);
+    stretches_.reserve(records.size());
+    for (std::size_t i = 0; i < records.size(); ++i) {
+        const int record = records[i];
+        const quint32 time = columns.times()[record];
+        const bool isLast = i + 1 == records.size();
+        const bool isGap = isLast || isGapBetween(time, columns.times()[records[i + 1]]);
+        const bool stands = speed[record] < kMovesFrom;
+        const bool standsNext = !isLast && speed[records[i + 1]] < kMovesFrom;
+        stretches_.push_back({time, columns.recordNumbers()[record], static_cast<float>(speed[record]), 0,
+                              speed[record] >= kMovesFrom && !isGap, stands && (!isGap || standsNext),
+                              ignition[record] == Ignition::On, true, !isGap});
+    }
+    measureWay(columns, records);
+    if (!litres.empty())
+        medians_ = levelMedians(columns, litres);
+}
+
+void Journey::measureWay(RecordColumns& columns, const std::vector<int>& records)
+{
+    std::vector<TrackPoint> points = trackPoints(columns);
+    std::vector<int> pointOf(columns.times().size(), -1);
+    for (std::size_t i = 0; i < points.size(); ++i)
+        pointOf[points[i].record] = static_cast<int>(i);
+    const NumberColumn& latitudes = columns.numbers(item("Latitude"));
+    int before = -1;
+    for (std::size_t i = 0; i < records.size(); ++i) {
+        const int point = pointOf[records[i]];
+        stretches_[i].isWithoutFix = point < 0 && !std::isnan(latitudes[records[i]]);
+        if (point < 0)
+            continue;
+        // Of a vehicle that stands the coordinates wander.
+        if (before >= 0) {
+            const Stretch& last = stretches_[before];
+            const bool isGap = isGapBetween(last.time, stretches_[i].time);
+            if (isGap || last.speed >= kMovesFrom || stretches_[i].speed >= kMovesFrom)
+                stretches_[before].metres =
+                    static_cast<float>(metresBetween(points[pointOf[records[before]]], points[point]));
+        }
+        before = static_cast<int>(i);
+    }
+}
+
+JourneySummary Journey::summary(double from, double until) const
+{
+    const auto first = std::ranges::lower_bound(stretches_, from, {}, &Stretch::time);
+    const auto end = std::ranges::upper_bound(first, stretches_.end(), until, {}, &Stretch::time);
+    JourneySummary sum;
+    sum.fuelBefore = sum.fuelAfter = sum.greatestSpeed = kNoNumber;
+    if (first == end)
+        return sum;
+    sum.from = first->time;
+    sum.until = end[-1].time;
+    sum.records = static_cast<int>(end - first);
+    for (auto stretch = first; stretch != end; ++stretch) {
+        sum.greatestSpeed = std::fmax(sum.greatestSpeed, stretch->speed);
+        if (stretch + 1 == end)
+            break;
+        const auto seconds = static_cast<double>(stretch[1].time - stretch->time);
+        sum.metres += stretch->metres;
+        sum.moving += stretch->moves ? seconds : 0;
+        sum.standing += stretch->stands ? seconds : 0;
+        sum.engine += stretch->engine && stretch->isCounted ? seconds : 0;
+        sum.withoutFix += stretch->isWithoutFix && stretch->isCounted ? seconds : 0;
+        const quint32 skipped = stretch[1].number - stretch->number - 1;
+        sum.missing += skipped < kMostMissing ? skipped : 0;
+    }
+    const auto level = std::ranges::lower_bound(medians_, from, {}, &LevelMedian::from);
+    const auto levelEnd = std::ranges::upper_bound(level, medians_.end(), until, {}, &LevelMedian::from);
+    if (level != levelEnd) {
+        sum.fuelBefore = level->litres;
+        sum.fuelAfter = levelEnd[-1].litres;
+    }
+    for (const FuelEvent& event : events_) {
+        if (event.time < from || event.until > until)
+            continue;
+        ++(event.isRefuelling() ? sum.refuellings : sum.drains);
+        (event.isRefuelling() ? sum.refuelled : sum.drained) += std::abs(event.litres());
+    }
+    return sum;
+}
+
+std::vector<JourneySummary> Journey::days(qint32 utcOffset) const
+{
+    std::vector<JourneySummary> days;
+    for (auto next = stretches_.begin(); next != stretches_.end();) {
+        const qint64 local = qint64{next->time} + utcOffset;
+        const qint64 midnight = local - ((local % kDay) + kDay) % kDay - utcOffset;
+        const auto end = static_cast<double>(midnight + kDay);
+        days.push_back(summary(static_cast<double>(midnight), end - 0.5));
+        next = std::ranges::lower_bound(next, stretches_.end(), end, {}, &Stretch::time);
+    }
+    return days;
+}
+
+} // namespace vlk

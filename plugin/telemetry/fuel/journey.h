@@ -1,0 +1,68 @@
+#pragma once
+
+// What a vehicle did in a span of time, in figures: way, times, fuel, and what is missing in its records.
+
+#include "telemetry/fuel/fuel_events.h"
+#include "telemetry/fuel/level_medians.h"
+
+namespace vlk {
+
+struct JourneySummary
+{
+    double from = 0; // seconds since 1970; the first and the last record
+    double until = 0;
+    int records = 0;
+    double metres = 0; // NaN where geodesics cannot be had
+    // Seconds. What lies in a gap counts nowhere, but for a vehicle that stands before and after it.
+    double moving = 0;
+    double standing = 0;
+    double engine = 0; // ignition on
+    double withoutFix = 0;
+    double fuelBefore; // litres, NaN for none
+    double fuelAfter;
+    int refuellings = 0;
+    int drains = 0;
+    double refuelled = 0; // litres
+    double drained = 0;
+    double greatestSpeed; // km/h, NaN for none
+    qint64 missing = 0;   // records, by their numbers
+
+    double fuelUsed() const { return fuelBefore + refuelled - drained - fuelAfter; }
+    // Litres; NaN for less than a kilometre.
+    double per100Km() const;
+};
+
+class Journey
+{
+public:
+    // Looks at all records once. `litres` may be empty: no fuel.
+    Journey(RecordColumns& columns, const NumberColumn& litres, std::vector<FuelEvent> events);
+
+    // Both ends in it. No records where there are none.
+    JourneySummary summary(double from, double until) const;
+    // Of each day with records, from midnight to midnight; seconds east of UTC.
+    std::vector<JourneySummary> days(qint32 utcOffset) const;
+
+private:
+    // A record with what came up to the next one.
+    struct Stretch
+    {
+        quint32 time;
+        quint32 number;
+        float speed;
+        float metres;
+        bool moves;
+        bool stands;
+        bool engine;
+        bool isWithoutFix;
+        bool isCounted; // the time to the next record
+    };
+
+    void measureWay(RecordColumns& columns, const std::vector<int>& records);
+
+    std::vector<Stretch> stretches_; // by time
+    std::vector<LevelMedian> medians_;
+    std::vector<FuelEvent> events_;
+};
+
+} // namespace vlk

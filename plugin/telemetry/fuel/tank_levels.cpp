@@ -1,0 +1,63 @@
+#include "telemetry/fuel/tank_levels.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace vlk {
+
+namespace {
+
+double tankLitresOf(const TankSensor& tank, double level)
+{
+    return tank.curve ? tank.curve->litres(level) : std::numeric_limits<double>::quiet_NaN();
+}
+
+bool saysAnything(const NumberColumn& column)
+{
+    return std::ranges::any_of(column, [](double number) { return number > 0; });
+}
+
+} // namespace
+
+const NumberColumn& sensorLevels(RecordColumns& columns, const LevelSensor& sensor)
+{
+    return columns.numbers(sensor.item);
+}
+
+NumberColumn tankLitres(RecordColumns& columns, const std::vector<TankSensor>& tanks)
+{
+    NumberColumn sum(columns.store().size(), tanks.empty() ? std::numeric_limits<double>::quiet_NaN() : 0);
+    for (const TankSensor& tank : tanks) {
+        const NumberColumn& levels = sensorLevels(columns, *tank.sensor);
+        const NumberColumn* const litres =
+            tank.sensor->kind == LevelKind::Can ? &columns.numbers(tank.sensor->litres) : nullptr;
+        for (std::size_t i = 0; i < sum.size(); ++i)
+            sum[i] +=
+                litres != nullptr && !std::isnan((*litres)[i]) ? (*litres)[i] : tankLitresOf(tank, levels[i]);
+    }
+    return sum;
+}
+
+QString elementsOf(const std::vector<TankSensor>& tanks)
+{
+    QStringList elements;
+    for (const TankSensor& tank : tanks)
+        elements << QString::fromStdString(std::string(tank.sensor->element()));
+    return elements.join(QLatin1Char('+'));
+}
+
+std::vector<const LevelSensor*> sensorsIn(RecordColumns& columns)
+{
+    std::vector<const LevelSensor*> sensors;
+    for (const LevelSensor& sensor : kLevelSensors) {
+        if (saysAnything(columns.numbers(sensor.item)) ||
+            (sensor.kind == LevelKind::Can && saysAnything(columns.numbers(sensor.litres))))
+            sensors.push_back(&sensor);
+    }
+    return sensors;
+}
+
+} // namespace vlk

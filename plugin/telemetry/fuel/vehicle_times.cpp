@@ -1,0 +1,94 @@
+#include "telemetry/fuel/vehicle_times.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vlk {
+
+namespace {
+
+// The events of the ignition line.
+constexpr quint32 kIgnitionOn = 10;
+constexpr quint32 kIgnitionOff = 11;
+constexpr int kInputs = 8;
+
+bool isOfIgnition(quint32 code)
+{
+    return code == kIgnitionOn || code == kIgnitionOff;
+}
+
+// The input that is on in every record of the ignition going on, and off in every other; -1 for none.
+int ignitionInput(RecordColumns& columns, const std::vector<int>& events)
+{
+    for (int input = 0; input < kInputs; ++input) {
+        const NumberColumn& states = columns.numbers(item("StateIn1.0") + input);
+        if (std::ranges::all_of(events, [&](int record) {
+                return states[record] == (columns.codes()[record] == kIgnitionOn ? 1 : 0);
+            }))
+            return input;
+    }
+    return -1;
+}
+
+Ignition ignitionOf(double state)
+{
+    return std::isnan(state) ? Ignition::Unknown : state != 0 ? Ignition::On : Ignition::Off;
+}
+
+} // namespace
+
+std::vector<int> recordsByTime(RecordColumns& columns)
+{
+    const std::vector<quint32>& times = columns.times();
+    std::vector<int> records;
+    records.reserve(times.size());
+    for (int record = 0; record < static_cast<int>(times.size()); ++record) {
+        if (times[record] != 0)
+            records.push_back(record);
+    }
+    const auto time = [&times](int record) { return times[record]; };
+    if (!std::ranges::is_sorted(records, {}, time))
+        std::ranges::stable_sort(records, {}, time);
+    return records;
+}
+
+NumberColumn speeds(RecordColumns& columns)
+{
+    NumberColumn speeds = columns.numbers(item("Speed"));
+    for (const ItemIndex further : {item("NaviSpeed"), item("CAN_Speed")}) {
+        if (std::ranges::none_of(speeds, [](double speed) { return std::isnan(speed); }))
+            break;
+        const NumberColumn& others = columns.numbers(further);
+        for (std::size_t i = 0; i < speeds.size(); ++i) {
+            if (std::isnan(speeds[i]))
+                speeds[i] = others[i];
+        }
+    }
+    return speeds;
+}
+
+std::vector<Ignition> ignitions(RecordColumns& columns, const std::vector<int>& byTime)
+{
+    const std::vector<quint32>& codes = columns.codes();
+    std::vector<Ignition> states(codes.size(), Ignition::Unknown);
+    std::vector<int> events;
+    std::ranges::copy_if(byTime, std::back_inserter(events),
+                         [&codes](int record) { return isOfIgnition(codes[record]); });
+    const int input = events.empty() ? -1 : ignitionInput(columns, events);
+    if (input >= 0 || events.empty()) {
+        const NumberColumn& column =
+            columns.numbers(input >= 0 ? item("StateIn1.0") + input : item("Module1.7"));
+        std::ranges::transform(column, states.begin(), ignitionOf);
+        return states;
+    }
+    // Before the first event it was the other way round.
+    bool isOn = codes[events.front()] != kIgnitionOn;
+    for (const int record : byTime) {
+        if (isOfIgnition(codes[record]))
+            isOn = codes[record] == kIgnitionOn;
+        states[record] = isOn ? Ignition::On : Ignition::Off;
+    }
+    return states;
+}
+
+} // namespace vlk

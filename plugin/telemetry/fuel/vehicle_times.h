@@ -1,0 +1,21 @@
+#pragma once
+
+// What the vehicle did when its records were made.
+
+#include "telemetry/files/record_columns.h"
+
+namespace vlk {
+
+// Records that have a time, by it; of one time in the order of the store. The clock of a tracker may jump.
+std::vector<int> recordsByTime(RecordColumns& columns);
+
+// km/h, of the first of the speeds that a record tells: navigation, precise navigation, CAN.
+NumberColumn speeds(RecordColumns& columns);
+
+enum class Ignition : std::uint8_t { Unknown, Off, On };
+
+// By the input that changes with the events of the ignition, or by these events alone; without them by the
+// engine, which a tracker tells by the supply voltage.
+std::vector<Ignition> ignitions(RecordColumns& columns, const std::vector<int>& byTime);
+
+} // namespace vlk

@@ -1,0 +1,79 @@
+#include "telemetry/fuel_view/fuel_texts.h"
+
+#include <QDateTime>
+#include <QLocale>
+
+#include <cmath>
+
+namespace vlk {
+
+namespace {
+
+constexpr int kPlaceDecimals = 6;
+const QString kDash = QStringLiteral("–");
+
+QString localText(double seconds, qint32 utcOffset, const char* format)
+{
+    const auto local = static_cast<qint64>(seconds) + utcOffset;
+    return QDateTime::fromSecsSinceEpoch(local, Qt::UTC).toString(QLatin1String(format));
+}
+
+} // namespace
+
+QString numberText(double number, int decimals)
+{
+    return std::isnan(number) ? kDash : QLocale().toString(number, 'f', decimals);
+}
+
+QString signedText(double number, int decimals)
+{
+    return number > 0 ? QLatin1Char('+') + numberText(number, decimals) : numberText(number, decimals);
+}
+
+QString listTime(double seconds, qint32 utcOffset, bool withSeconds)
+{
+    return localText(seconds, utcOffset, withSeconds ? "dd.MM.yyyy HH:mm:ss" : "dd.MM.yyyy HH:mm");
+}
+
+QString listDay(double seconds, qint32 utcOffset)
+{
+    return localText(seconds, utcOffset, "dd.MM.yyyy");
+}
+
+QString listZone(qint32 utcOffset)
+{
+    const int minutes = std::abs(utcOffset) / 60;
+    const QString hours =
+        QStringLiteral("UTC%1%2").arg(QLatin1Char{utcOffset < 0 ? '-' : '+'}).arg(minutes / 60);
+    return minutes % 60 == 0 ? hours
+                             : QStringLiteral("%1:%2").arg(hours).arg(minutes % 60, 2, 10, QLatin1Char('0'));
+}
+
+QString placeText(double latitude, double longitude)
+{
+    return std::isnan(latitude) ? kDash
+                                : QStringLiteral("%1, %2")
+                                      .arg(latitude, 0, 'f', kPlaceDecimals)
+                                      .arg(longitude, 0, 'f', kPlaceDecimals);
+}
+
+QString hoursText(double seconds)
+{
+    const auto minutes = static_cast<qint64>(std::lround(seconds / 60));
+    return QStringLiteral("%1:%2").arg(minutes / 60).arg(minutes % 60, 2, 10, QLatin1Char('0'));
+}
+
+QString csvLine(const QStringList& cells)
+{
+    QStringList quoted;
+    for (QString cell : cells) {
+        if (cell.contains(QLatin1Char(';')) || cell.contains(QLatin1Char('"')) ||
+            cell.contains(QLatin1Char('\n')))
+            cell =
+                QLatin1Char('"') + cell.replace(QLatin1Char('"'), QStringLiteral("\"\"")) + QLatin1Char('"');
+        quoted << cell;
+    }
+    return quoted.join(QLatin1Char(';')) + QStringLiteral("\r\n");
+}
+
+} // namespace vlk

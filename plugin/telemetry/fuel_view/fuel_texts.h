@@ -1,0 +1,24 @@
+#pragma once
+
+// Numbers and times of the lists of fuel, in the signs of the language.
+
+#include <QString>
+
+namespace vlk {
+
+// A dash for no number.
+QString numberText(double number, int decimals = 0);
+QString signedText(double number, int decimals = 0);
+// "20.11.2026 09:40", with seconds behind where they are asked for.
+QString listTime(double seconds, qint32 utcOffset, bool withSeconds = false);
+QString listDay(double seconds, qint32 utcOffset);
+// "UTC+3", "UTC-4:30".
+QString listZone(qint32 utcOffset);
+// "55.7512345, 37.6184312"; a dash where there is no place.
+QString placeText(double latitude, double longitude);
+// "4:05", hours and minutes.
+QString hoursText(double seconds);
+// A line of a CSV file, its cells quoted where they have to be.
+QString csvLine(const QStringList& cells);
+
+} // namespace vlk

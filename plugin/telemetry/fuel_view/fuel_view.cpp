@@ -1,0 +1,279 @@
+#include "telemetry/fuel_view/fuel_view.h"
+
+#include "base/replace_file.h"
+#include "telemetry/fuel_view/fuel_sheet.h"
+#include "telemetry/fuel_view/tank_button.h"
+#include "typing/empty_note.h"
+#include "typing/file_error.h"
+#include "typing/number_entry.h"
+#include "typing/table_look.h"
+#include "windows/named_widget.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDoubleSpinBox>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPushButton>
+#include <QTableView>
+#include <QTextDocument>
+
+namespace vlk {
+
+namespace {
+
+constexpr double kLeastLitres = 0.5;
+constexpr double kMostLitres = 5000;
+constexpr double kRoundEvent = 15 * 60; // seconds on either side
+constexpr QSize kCurvePicture(1240, 500);
+constexpr QSize kTrackPicture(1240, 800);
+constexpr int kWidestVehicle = 160;
+
+QDoubleSpinBox* litresBox(const char* name, QWidget* parent)
+{
+    auto* box = namedWidget<QDoubleSpinBox>(name, parent);
+    box->setRange(kLeastLitres, kMostLitres);
+    box->setDecimals(1);
+    box->setKeyboardTracking(false);
+    NumberEntry::join(box);
+    return box;
+}
+
+} // namespace
+
+FuelView::FuelView(ShownRecords* records, QWidget* parent)
+    : QWidget(parent), records_(*records), model_(new FuelListModel(this)), vehicleLabel_(new QLabel(this)),
+      vehicle_(namedWidget<QLineEdit>("lineEdit_FuelVehicle", this)), tanks_(new TankButton(this)),
+      riseLabel_(new QLabel(this)), rise_(litresBox("doubleSpinBox_FuelRise", this)),
+      fallLabel_(new QLabel(this)), fall_(litresBox("doubleSpinBox_FuelFall", this)),
+      copy_(namedWidget<QPushButton>("pushButton_CopyFuel", this)),
+      csv_(namedWidget<QPushButton>("pushButton_SaveFuel", this)),
+      print_(namedWidget<QPushButton>("pushButton_PrintFuel", this)),
+      news_(namedWidget<QLabel>("label_FuelNews", this)),
+      table_(namedWidget<QTableView>("tableView_Fuel", this)), empty_(nullptr)
+{
+    setObjectName(QStringLiteral("widget_Fuel"));
+    vehicle_->setMaximumWidth(kWidestVehicle);
+    vehicleLabel_->setBuddy(vehicle_);
+    riseLabel_->setBuddy(rise_);
+    fallLabel_->setBuddy(fall_);
+    news_->setWordWrap(true);
+    table_->setModel(model_);
+    table_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table_->installEventFilter(this);
+    dressTable(table_, TableUse::read);
+    table_->horizontalHeader()->setStretchLastSection(true);
+    empty_ = new EmptyNote(table_);
+    const auto rowOf = [](const QWidgetList& left, const QWidgetList& right) {
+        auto* row = new QHBoxLayout;
+        row->setSpacing(8);
+        for (QWidget* widget : left)
+            row->addWidget(widget);
+        row->addStretch();
+        for (QWidget* widget : right)
+            row->addWidget(widget);
+        return row;
+    };
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6, 6, 6, 6);
+    layout->setSpacing(6);
+    auto* tanks = new QHBoxLayout;
+    tanks->setSpacing(8);
+    tanks->addWidget(vehicleLabel_);
+    tanks->addWidget(vehicle_);
+    tanks->addWidget(tanks_, 1);
+    layout->addLayout(tanks);
+    layout->addLayout(rowOf({riseLabel_, rise_, fallLabel_, fall_}, {copy_, csv_, print_}));
+    layout->addWidget(news_);
+    layout->addWidget(table_, 1);
+    for (QPushButton* button : {copy_, csv_, print_})
+        button->setAutoDefault(false);
+
+    connect(records, &ShownRecords::contentsChanged, this, &FuelView::refreshRecords);
+    connect(vehicle_, &QLineEdit::editingFinished, this, &FuelView::readVehicle);
+    connect(tanks_, &TankButton::chosen, this, &FuelView::computeLitres);
+    for (QDoubleSpinBox* box : {rise_, fall_})
+        connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, [this] {
+            TankChoiceMemory choice = tanks_->memory().choice(vehicle_->text());
+            choice.thresholds = {rise_->value(), fall_->value()};
+            if (!isRefreshing_)
+                tanks_->memory().setChoice(vehicle_->text(), choice);
+            find();
+        });
+    connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex& index) { look(index.row()); });
+    connect(table_, &QTableView::doubleClicked, this,
+            [this](const QModelIndex& index) { zoom(index.row()); });
+    connect(copy_, &QPushButton::clicked, this,
+            [this] { QApplication::clipboard()->setText(tableText(*table_)); });
+    connect(csv_, &QPushButton::clicked, this, &FuelView::saveCsv);
+    connect(print_, &QPushButton::clicked, this, &FuelView::print);
+    connect(empty_, &EmptyNote::pressed, tanks_, &QToolButton::showMenu);
+    retranslate();
+    refreshRecords();
+}
+
+void FuelView::setVehicle(const QString& vehicle)
+{
+    vehicle_->setText(vehicle);
+    refreshRecords();
+}
+
+void FuelView::setPictures(Picture curve, Picture track)
+{
+    curve_ = std::move(curve);
+    track_ = std::move(track);
+}
+
+void FuelView::readVehicle()
+{
+    if (!vehicle_->isModified())
+        return;
+    vehicle_->setModified(false);
+    refreshRecords();
+}
+
+void FuelView::refreshRecords()
+{
+    isRefreshing_ = true;
+    const FuelThresholds thresholds = tanks_->memory().choice(vehicle_->text()).thresholds;
+    tanks_->setRecords(records_.columns(), vehicle_->text());
+    rise_->setValue(thresholds.rise);
+    fall_->setValue(thresholds.fall);
+    isRefreshing_ = false;
+    computeLitres();
+}
+
+void FuelView::computeLitres()
+{
+    litres_ = tanks_->tanks().empty() ? NumberColumn() : tankLitres(records_.columns(), tanks_->tanks());
+    find();
+}
+
+void FuelView::find()
+{
+    if (isRefreshing_)
+        return;
+    std::vector<FuelEvent> events;
+    if (!litres_.empty())
+        events = findFuelEvents(records_.columns(), litres_, {rise_->value(), fall_->value()});
+    model_->set(std::move(events), tanks_->tanks(), records_.utcOffset());
+    table_->resizeColumnsToContents();
+    showState();
+    Q_EMIT fuelChanged();
+}
+
+void FuelView::look(int line)
+{
+    if (line >= 0)
+        records_.setCurrent(events()[static_cast<std::size_t>(line)].record);
+}
+
+void FuelView::zoom(int line)
+{
+    const FuelEvent& event = events()[static_cast<std::size_t>(line)];
+    records_.setInSight({event.time - kRoundEvent, event.until + kRoundEvent});
+    records_.setCurrent(event.record);
+}
+
+bool FuelView::eventFilter(QObject* watched, QEvent* event)
+{
+    const int line = table_->currentIndex().row();
+    if (event->type() != QEvent::KeyPress || line < 0)
+        return QWidget::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter)
+        return QWidget::eventFilter(watched, event);
+    zoom(line);
+    return true;
+}
+
+void FuelView::saveCsv()
+{
+    const QString path = QFileDialog::getSaveFileName(this, tr("rev_115"), {}, QStringLiteral("CSV (*.csv)"));
+    if (path.isEmpty())
+        return;
+    QString reason;
+    // With a mark of the encoding, by which spreadsheets know it.
+    const bool isSaved = replaceFile(path, "\xEF\xBB\xBF" + model_->csv().toUtf8(), &reason);
+    saveFault_ = isSaved ? QString() : tr("rec_261").arg(fileErrorText(reason));
+    showState();
+}
+
+// Half an hour round the chosen event, or all that is in sight.
+TimeSpan FuelView::spanOfSheet() const
+{
+    const int line = table_->currentIndex().row();
+    if (line < 0)
+        return records_.inSight();
+    const FuelEvent& event = events()[static_cast<std::size_t>(line)];
+    return {event.time - kRoundEvent, event.until + kRoundEvent};
+}
+
+void FuelView::writeSheet(QTextDocument& document) const
+{
+    const TimeSpan span = spanOfSheet();
+    const TimeSpan whole = records_.wholeTime();
+    writeFuelSheet(document, {vehicle_->text(),
+                              tanks_->captions(),
+                              {rise_->value(), fall_->value()},
+                              events(),
+                              records_.utcOffset(),
+                              whole.from,
+                              whole.to,
+                              curve_ ? curve_(span, kCurvePicture) : QImage(),
+                              track_ ? track_(span, kTrackPicture) : QImage()});
+}
+
+void FuelView::print()
+{
+    QPrinter printer;
+    QPrintDialog dialog(&printer, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    QTextDocument document;
+    writeSheet(document);
+    document.print(&printer);
+}
+
+void FuelView::retranslate()
+{
+    vehicleLabel_->setText(tr("rec_257"));
+    riseLabel_->setText(tr("rec_247"));
+    fallLabel_->setText(tr("rec_248"));
+    for (QDoubleSpinBox* box : {rise_, fall_}) {
+        box->setLocale(QLocale());
+        box->setSuffix(QLatin1Char(' ') + tr("abbr_026"));
+    }
+    copy_->setText(tr("rev_114"));
+    csv_->setText(QStringLiteral("CSV…"));
+    csv_->setToolTip(tr("rev_115"));
+    print_->setText(tr("rec_262"));
+    table_->setAccessibleName(tr("rec_263"));
+    tanks_->retranslate();
+    model_->retranslate();
+    showState();
+}
+
+void FuelView::showState()
+{
+    const QString news = saveFault_.isEmpty() ? tanks_->news() : saveFault_;
+    news_->setText(news);
+    news_->setVisible(!news.isEmpty());
+    if (!tanks_->tanks().empty())
+        empty_->tell(tr("rec_256"));
+    else if (tanks_->hasSensors())
+        empty_->tell(tr("rec_239"), tr("rec_251"));
+    else
+        empty_->tell(tr("rec_258"));
+    for (QPushButton* button : {copy_, csv_, print_})
+        button->setEnabled(model_->rowCount() > 0);
+}
+
+} // namespace vlk

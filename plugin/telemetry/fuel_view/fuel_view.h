@@ -1,0 +1,90 @@
+#pragma once
+
+// Refuellings and drains of the records on show: which sensors and tables, from how many litres on, and the
+// list. Choosing a line looks at its record in all parts of the window, Enter brings half an hour round it in
+// sight.
+
+#include "telemetry/fuel/tank_levels.h"
+#include "telemetry/fuel_view/fuel_list_model.h"
+#include "telemetry/view/shown_records.h"
+
+#include <QImage>
+#include <QWidget>
+
+#include <functional>
+
+class QDoubleSpinBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QTableView;
+class QTextDocument;
+
+namespace vlk {
+
+class EmptyNote;
+class TankButton;
+
+class FuelView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    // A picture of what is between two moments.
+    using Picture = std::function<QImage(TimeSpan span, QSize size)>;
+
+    explicit FuelView(ShownRecords* records, QWidget* parent = nullptr);
+
+    // Under which tables are remembered: as its file names it, until the user calls it something else.
+    void setVehicle(const QString& vehicle);
+    // For the sheet on paper; null for none.
+    void setPictures(Picture curve, Picture track);
+    void retranslate();
+
+    // One a record, empty while no sensor is chosen.
+    const NumberColumn& litres() const { return litres_; }
+    const std::vector<FuelEvent>& events() const { return model_->events(); }
+    void writeSheet(QTextDocument& document) const;
+
+Q_SIGNALS:
+    // Litres or events are others.
+    void fuelChanged();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void readVehicle();
+    void refreshRecords();
+    void computeLitres();
+    void find();
+    void look(int line);
+    void zoom(int line);
+    void saveCsv();
+    void print();
+    void showState();
+    TimeSpan spanOfSheet() const;
+
+    ShownRecords& records_;
+    FuelListModel* model_;
+    QLabel* vehicleLabel_;
+    QLineEdit* vehicle_;
+    TankButton* tanks_;
+    QLabel* riseLabel_;
+    QDoubleSpinBox* rise_;
+    QLabel* fallLabel_;
+    QDoubleSpinBox* fall_;
+    QPushButton* copy_;
+    QPushButton* csv_;
+    QPushButton* print_;
+    QLabel* news_;
+    QTableView* table_;
+    EmptyNote* empty_;
+    Picture curve_;
+    Picture track_;
+    NumberColumn litres_;
+    QString saveFault_;
+    bool isRefreshing_ = false;
+};
+
+} // namespace vlk

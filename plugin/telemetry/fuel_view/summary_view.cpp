@@ -1,0 +1,153 @@
+#include "telemetry/fuel_view/summary_view.h"
+
+#include "base/replace_file.h"
+#include "telemetry/fuel_view/summary_model.h"
+#include "typing/empty_note.h"
+#include "typing/file_error.h"
+#include "typing/table_look.h"
+#include "windows/named_widget.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableView>
+
+#include <algorithm>
+
+namespace vlk {
+
+namespace {
+
+constexpr const char* kOver[] = {"rec_271", "rec_272", "rec_273"};
+
+} // namespace
+
+SummaryView::SummaryView(ShownRecords* records, QWidget* parent)
+    : QWidget(parent), records_(*records), model_(new SummaryModel(this)), overLabel_(new QLabel(this)),
+      over_(namedWidget<QComboBox>("comboBox_SummaryOver", this)),
+      copy_(namedWidget<QPushButton>("pushButton_CopySummary", this)),
+      csv_(namedWidget<QPushButton>("pushButton_SaveSummary", this)),
+      news_(namedWidget<QLabel>("label_SummaryNews", this)),
+      table_(namedWidget<QTableView>("tableView_Summary", this)), empty_(nullptr)
+{
+    setObjectName(QStringLiteral("widget_Summary"));
+    overLabel_->setBuddy(over_);
+    for (const char* key : kOver)
+        over_->addItem(QLatin1String(key));
+    news_->setWordWrap(true);
+    table_->setModel(model_);
+    table_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    dressTable(table_, TableUse::read);
+    empty_ = new EmptyNote(table_);
+    auto* head = new QHBoxLayout;
+    head->setSpacing(8);
+    head->addWidget(overLabel_);
+    head->addWidget(over_);
+    head->addStretch();
+    for (QPushButton* button : {copy_, csv_}) {
+        button->setAutoDefault(false);
+        head->addWidget(button);
+    }
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6, 6, 6, 6);
+    layout->setSpacing(6);
+    layout->addLayout(head);
+    layout->addWidget(news_);
+    layout->addWidget(table_, 1);
+    news_->hide();
+
+    connect(records, &ShownRecords::contentsChanged, this, [this] {
+        litres_.clear();
+        events_.clear();
+        forget();
+    });
+    connect(records, &ShownRecords::inSightChanged, this, &SummaryView::refresh);
+    connect(records, &ShownRecords::passingChanged, this, &SummaryView::refresh);
+    connect(over_, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &SummaryView::refresh);
+    connect(copy_, &QPushButton::clicked, this,
+            [this] { QApplication::clipboard()->setText(tableText(*table_)); });
+    connect(csv_, &QPushButton::clicked, this, &SummaryView::saveCsv);
+    retranslate();
+}
+
+void SummaryView::setFuel(const NumberColumn& litres, const std::vector<FuelEvent>& events)
+{
+    litres_ = litres;
+    events_ = events;
+    forget();
+}
+
+void SummaryView::forget()
+{
+    journey_.reset();
+    refresh();
+}
+
+void SummaryView::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    refresh();
+}
+
+TimeSpan SummaryView::passing() const
+{
+    const std::vector<quint32>& times = records_.columns().times();
+    TimeSpan span{1, 0};
+    for (const int record : records_.passing()) {
+        const double time = times[static_cast<std::size_t>(record)];
+        if (time != 0)
+            span = span.from > span.to ? TimeSpan{time, time}
+                                       : TimeSpan{std::min(span.from, time), std::max(span.to, time)};
+    }
+    return span;
+}
+
+void SummaryView::refresh()
+{
+    if (!isVisible())
+        return;
+    if (!journey_)
+        journey_ = std::make_unique<Journey>(records_.columns(), litres_, events_);
+    const int over = over_->currentIndex();
+    if (over == Days) {
+        model_->setDays(journey_->days(records_.utcOffset()), records_.utcOffset());
+    } else {
+        const TimeSpan span = over == Passing ? passing() : records_.inSight();
+        model_->setSelection(journey_->summary(span.from, span.to), records_.utcOffset());
+    }
+    table_->resizeColumnsToContents();
+    for (QPushButton* button : {copy_, csv_})
+        button->setEnabled(model_->rowCount() > 0);
+}
+
+void SummaryView::saveCsv()
+{
+    const QString path = QFileDialog::getSaveFileName(this, tr("rev_115"), {}, QStringLiteral("CSV (*.csv)"));
+    if (path.isEmpty())
+        return;
+    QString reason;
+    const bool isSaved = replaceFile(path, "\xEF\xBB\xBF" + model_->csv().toUtf8(), &reason);
+    news_->setText(tr("rec_261").arg(fileErrorText(reason)));
+    news_->setVisible(!isSaved);
+}
+
+void SummaryView::retranslate()
+{
+    overLabel_->setText(tr("rec_270"));
+    for (int i = 0; i < over_->count(); ++i)
+        over_->setItemText(i, tr(kOver[i]));
+    copy_->setText(tr("rev_114"));
+    csv_->setText(QStringLiteral("CSV…"));
+    csv_->setToolTip(tr("rev_115"));
+    table_->setAccessibleName(tr("rec_292"));
+    empty_->tell(tr("rec_293"));
+    model_->retranslate();
+    table_->resizeColumnsToContents();
+}
+
+} // namespace vlk

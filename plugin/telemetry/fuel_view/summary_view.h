@@ -1,0 +1,57 @@
+#pragma once
+
+// What the vehicle did, in figures: over the time in sight, from the first to the last record that passes the
+// filter, or on each day.
+
+#include "telemetry/fuel/journey.h"
+#include "telemetry/view/shown_records.h"
+
+#include <QWidget>
+
+class QComboBox;
+class QLabel;
+class QPushButton;
+class QTableView;
+
+namespace vlk {
+
+class EmptyNote;
+class SummaryModel;
+
+class SummaryView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit SummaryView(ShownRecords* records, QWidget* parent = nullptr);
+
+    // One of each record, none for no litres; and what was refuelled and drained.
+    void setFuel(const NumberColumn& litres, const std::vector<FuelEvent>& events);
+    void retranslate();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    enum Over { InSight, Passing, Days };
+
+    void forget();
+    void refresh();
+    void saveCsv();
+    TimeSpan passing() const;
+
+    ShownRecords& records_;
+    NumberColumn litres_;
+    std::vector<FuelEvent> events_;
+    std::unique_ptr<Journey> journey_; // made when it is looked at
+    SummaryModel* model_;
+    QLabel* overLabel_;
+    QComboBox* over_;
+    QPushButton* copy_;
+    QPushButton* csv_;
+    QLabel* news_;
+    QTableView* table_;
+    EmptyNote* empty_;
+};
+
+} // namespace vlk

@@ -1,0 +1,301 @@
+// Litres out of levels, and what is found in them: tables that cannot be right, levels that are none, steps
+// that stay and steps that do not, and the figures of a journey.
+
+#include "support/files.h"
+#include "support/records.h"
+#include "telemetry/fuel/calibration.h"
+#include "telemetry/fuel/journey.h"
+#include "telemetry/fuel/table_memory.h"
+#include "telemetry/fuel/tank_levels.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <cmath>
+
+using namespace vlk;
+
+namespace {
+
+constexpr quint32 kStart = 1'780'000'000;
+constexpr quint32 kIgnitionOn = 10;
+constexpr quint32 kIgnitionOff = 11;
+
+// What a record tells; the level is ten times the litres of `tenfold()`.
+struct Told
+{
+    quint32 second;
+    double litres;
+    float speed = 0;
+    quint32 code = 2;
+    bool ignition = true;
+    double longitude = 30;
+};
+
+RecordStore storeOf(const std::vector<Told>& records)
+{
+    RecordStore store;
+    quint64 number = 0;
+    for (const Told& told : records) {
+        const RecordParts parts{{"NumPage", ++number},
+                                {"Code", told.code},
+                                {"Time", kStart + told.second},
+                                {"StateNGauge", 3},
+                                {"Latitude", 60 * 600'000},
+                                {"Longitude", static_cast<quint32>(qRound(told.longitude * 600'000))},
+                                {"Speed", std::bit_cast<quint32>(told.speed)},
+                                {"StateIn1", told.ignition},
+                                {"LevelRS485_1", static_cast<quint64>(told.litres * 10)}};
+        store.add(parts.page().ver(), parts.mask, parts.block);
+    }
+    return store;
+}
+
+FuelRows rowsOf(const QString& text)
+{
+    FuelRows rows;
+    for (const QString& row : text.split(' ', Qt::SkipEmptyParts))
+        rows.push_back({row.section('=', 0, 0), row.section('=', 1)});
+    return rows;
+}
+
+std::vector<TankSensor> tenfold()
+{
+    return {{levelSensorOfTable(QStringLiteral("D1")), FuelCurve(rowsOf("0=0 400=4000"), LevelKind::Code)}};
+}
+
+// Minute by minute the litres of a vehicle that stands.
+std::vector<Told> standing(const std::vector<double>& litres, quint32 from = 0, quint32 step = 60)
+{
+    std::vector<Told> records;
+    for (const double each : litres)
+        records.push_back({from + step * quint32(records.size()), each});
+    return records;
+}
+
+std::vector<double> times(int count, double litres)
+{
+    return std::vector<double>(std::size_t(count), litres);
+}
+
+template <class Item>
+std::vector<Item> operator+(std::vector<Item> one, const std::vector<Item>& other)
+{
+    one.insert(one.end(), other.begin(), other.end());
+    return one;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(std::vector<Told>)
+
+class FuelTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void tables_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<int>("fault"); // -1 for none
+        const auto table = [](const QByteArray& rows) {
+            return "<FUEL type='D1'><Name>Left</Name><TABLE>" + rows + "</TABLE></FUEL>";
+        };
+        const auto fault = [](TableFault which) { return static_cast<int>(which); };
+        QTest::newRow("whole") << table("<DATA param_U='0' param_V='10'/><DATA param_U='9,5' param_V='99'/>")
+                               << -1;
+        QTest::newRow("CSV") << QByteArray("Value;Volume\r\n10;0\r\n99;9.5\r\n") << -1;
+        QTest::newRow("falls back") << table(
+                                           "<DATA param_U='0' param_V='10'/><DATA param_U='9' param_V='99'/>"
+                                           "<DATA param_U='20' param_V='98'/>")
+                                    << fault(TableFault::FallsBack);
+        QTest::newRow("one point") << table("<DATA param_U='9' param_V='99'/>")
+                                   << fault(TableFault::OnePoint);
+        QTest::newRow("one level") << table("<DATA param_U='0' param_V='9'/><DATA param_U='9' param_V='9'/>")
+                                   << fault(TableFault::OnePoint);
+        QTest::newRow("no point") << table("") << fault(TableFault::NoPoints);
+        QTest::newRow("no number") << table("<DATA param_U='x' param_V='9'/><DATA param_U='9' param_V='19'/>")
+                                   << fault(TableFault::NoNumber);
+        QTest::newRow("cut") << QByteArray("<FUEL type='D1'><TABLE><DATA") << fault(TableFault::Unreadable);
+        QTest::newRow("configuration") << QByteArray("<DEVICE/>") << fault(TableFault::Unreadable);
+    }
+    void tables()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(int, fault);
+        const QTemporaryDir folder;
+        const auto read = readCalibration(writeFile(folder.filePath("table"), content));
+        const auto* found = std::get_if<TableFault>(&read);
+        QCOMPARE(found ? static_cast<int>(*found) : -1, fault);
+        if (found)
+            return;
+        QCOMPARE(std::get<Calibration>(read).rows.size(), std::size_t(2));
+        QCOMPARE(FuelCurve(std::get<Calibration>(read).rows, LevelKind::Code).litres(99), 9.5);
+    }
+
+    void litres_data()
+    {
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<double>("level");
+        QTest::addColumn<double>("litres"); // below 0 for no level
+        const auto kind = [](LevelKind which) { return static_cast<int>(which); };
+        const int code = kind(LevelKind::Code);
+        QTest::newRow("a point") << "0=10 100=1000 300=2000" << code << 1000.0 << 100.0;
+        QTest::newRow("between") << "0=10 100=1000 300=2000" << code << 1500.0 << 200.0;
+        QTest::newRow("below") << "20=10 100=1000" << code << 5.0 << 20.0;
+        QTest::newRow("above") << "0=10 100=1000" << code << 1010.0 << 100.0;
+        QTest::newRow("silent sensor") << "0=10 100=1000" << code << 0.0 << -1.0;
+        QTest::newRow("empty tank") << "0=0 100=1000" << code << 0.0 << 0.0;
+        QTest::newRow("error of a small scale") << "0=10 100=1000" << code << 1024.0 << -1.0;
+        QTest::newRow("error of a usual scale") << "0=10 100=4000" << code << 6500.0 << -1.0;
+        QTest::newRow("large scale") << "0=10 100=60000" << code << 65000.0 << 100.0;
+        QTest::newRow("error of any scale") << "0=10 100=60000" << code << 65535.0 << -1.0;
+        QTest::newRow("blind at the bottom") << "0=10 30=10 100=1000" << code << 10.0 << 30.0;
+        QTest::newRow("blind at the top") << "0=10 80=1000 100=1000" << code << 1000.0 << 80.0;
+        QTest::newRow("volts") << "0=0.5 100=4.5" << kind(LevelKind::Volts) << 2.5 << 50.0;
+        QTest::newRow("no supply") << "0=0.5 100=4.5" << kind(LevelKind::Volts) << 0.02 << -1.0;
+        QTest::newRow("hertz") << "0=500 100=1500" << kind(LevelKind::Hertz) << 1000.0 << 50.0;
+        QTest::newRow("thousands of hertz") << "0=0.5 100=1.5" << kind(LevelKind::Hertz) << 1000.0 << 50.0;
+        QTest::newRow("percent") << "0=0 500=100" << kind(LevelKind::Can) << 20.0 << 100.0;
+    }
+    void litres()
+    {
+        QFETCH(QString, table);
+        QFETCH(int, kind);
+        QFETCH(double, level);
+        QFETCH(double, litres);
+        const double found = FuelCurve(rowsOf(table), static_cast<LevelKind>(kind)).litres(level);
+        if (litres < 0)
+            QVERIFY(std::isnan(found));
+        else
+            QVERIFY(std::abs(found - litres) < 1e-3);
+    }
+
+    void sensors()
+    {
+        for (const LevelSensor& sensor : kLevelSensors) {
+            QCOMPARE(levelSensorOfElement(QString::fromStdString(std::string(sensor.element()))), &sensor);
+            QVERIFY(sensor.letter == 0 || levelSensorOfTable(sensor.tableName()) == &sensor);
+        }
+        QVERIFY(isOfAnother({"D2", {}, {}}, *levelSensorOfTable("D1")));
+        QVERIFY(!isOfAnother({{}, {}, {}}, *levelSensorOfTable("D1")));
+        QVERIFY(suits({"D2", {}, {}}, *levelSensorOfTable("D1")));
+        QVERIFY(!suits({"A3", {}, {}}, *levelSensorOfTable("D1")));
+    }
+
+    // In words: kind, whole litres and how many seconds after the first record the level before was last
+    // seen.
+    void events_data()
+    {
+        QTest::addColumn<std::vector<Told>>("records");
+        QTest::addColumn<QString>("found");
+        const auto high = standing(times(20, 300));
+        QTest::newRow("nothing") << std::vector<Told>() << "";
+        QTest::newRow("one record") << standing({300}) << "";
+        QTest::newRow("level") << high << "";
+        QTest::newRow("drain") << standing(times(20, 300) + times(20, 285)) << "-15@1140";
+        QTest::newRow("below the threshold") << standing(times(20, 300) + times(20, 290.5)) << "";
+        QTest::newRow("refuelling") << standing(times(20, 100) + times(20, 330)) << "230@1140";
+        QTest::newRow("slow") << standing(times(20, 100) + std::vector<double>{110, 130, 150, 170, 190} +
+                                          times(20, 200))
+                              << "100@1140";
+        QTest::newRow("one wrong level") << standing(times(20, 300) + times(1, 40) + times(20, 300)) << "";
+        QTest::newRow("wrong for some minutes")
+            << standing(times(20, 300) + times(4, 40) + times(20, 300)) << "";
+        QTest::newRow("at the end, once") << standing(times(20, 300) + times(1, 250)) << "";
+        QTest::newRow("behind a gap") << high + standing(times(20, 250), 40'000) << "-50@1140";
+        QTest::newRow("once behind a gap") << high + standing(times(1, 250) + times(20, 300), 40'000) << "";
+        auto burnt = high;
+        for (Told& told : burnt)
+            told.speed = 60;
+        for (quint32 i = 0; i < 600; ++i)
+            burnt.push_back({1200 + i * 60, 300 - i * 0.5, 60, 2, true, 30 + i * 0.02});
+        QTest::newRow("burnt") << burnt << "";
+        auto jumped = standing(times(20, 300) + times(20, 285));
+        std::swap(jumped[3], jumped[35]);
+        QTest::newRow("a clock that jumped") << jumped << "-15@1140";
+        // Sensors without ignition give nothing, and wake with half of what is there.
+        std::vector<Told> waking = standing(times(20, 300));
+        waking.push_back({1200, 300, 0, kIgnitionOff, false});
+        for (quint32 i = 0; i < 10; ++i)
+            waking.push_back({1500 + i * 300, 300, 0, 5, false});
+        waking.push_back({5000, 150, 0, kIgnitionOn});
+        for (quint32 i = 1; i < 30; ++i)
+            waking.push_back({5000 + i * 20, i < 6 ? 150.0 : 300.0});
+        QTest::newRow("waking") << waking << "";
+        std::vector<Told> crowd = standing(times(20, 300));
+        for (int i = 0; i < 10'000; ++i)
+            crowd.push_back({1200, i % 2 ? 250.0 : 300.0});
+        QTest::newRow("ten thousand at one minute") << crowd + standing(times(20, 300), 1260) << "";
+    }
+    void events()
+    {
+        QFETCH(std::vector<Told>, records);
+        QFETCH(QString, found);
+        const RecordStore store = storeOf(records);
+        RecordColumns columns(store);
+        QStringList told;
+        for (const FuelEvent& event : findFuelEvents(columns, tankLitres(columns, tenfold()), {20, 10})) {
+            told << QStringLiteral("%1@%2").arg(qRound(event.litres())).arg(event.time - kStart);
+            QCOMPARE(event.latitude, 60.0);
+            QCOMPARE(columns.times()[std::size_t(event.record)], event.time);
+        }
+        QCOMPARE(told.join(' '), found);
+    }
+
+    // An hour's drive over the date line, a drain, a gap in the numbers and a time without a fix.
+    void journey()
+    {
+        std::vector<Told> records;
+        for (quint32 i = 0; i <= 60; ++i)
+            records.push_back({i * 60, 300 - i * 0.25, 60, 2, true, std::remainder(179.5 + i / 60.0, 360.0)});
+        const auto stood = standing(times(20, 285) + times(21, 225), 3660);
+        for (Told told : stood) {
+            told.longitude = -179.5;
+            told.ignition = false;
+            records.push_back(told);
+        }
+        const RecordStore store = storeOf(records);
+        RecordColumns columns(store);
+        const NumberColumn litres = tankLitres(columns, tenfold());
+        const Journey journey(columns, litres, findFuelEvents(columns, litres, {}));
+        const JourneySummary sum = journey.summary(0, 4e9);
+        QCOMPARE(sum.records, 102);
+        QVERIFY(std::isnan(sum.metres) || std::abs(sum.metres - 55'800) < 100); // a degree at 60° north
+        QCOMPARE(sum.moving, 3660.0);
+        QCOMPARE(sum.standing, 2400.0);
+        QCOMPARE(sum.drains, 1);
+        QCOMPARE(qRound(sum.drained), 60);
+        QVERIFY(std::abs(sum.fuelUsed() - 15) < 1);
+        QCOMPARE(sum.greatestSpeed, 60.0);
+        QCOMPARE(sum.missing, 0);
+        QCOMPARE(sum.withoutFix, 0.0);
+        QCOMPARE(journey.days(0).size(), std::size_t(1));
+        const std::vector<JourneySummary> days =
+            journey.days(3 * 3600); // midnight is 33 minutes behind the start
+        QCOMPARE(days.size(), std::size_t(2));
+        QCOMPARE(days[0].records + days[1].records, sum.records);
+        QCOMPARE(days[0].records, 34);
+        QCOMPARE(journey.summary(0, 1).records, 0);
+    }
+
+    void remembersByVehicle()
+    {
+        const QTemporaryDir folder;
+        TableMemory memory(folder.path());
+        QCOMPARE(memory.choice("x").thresholds.fall, 10.0);
+        memory.setTable("a/b", "LevelRS485_1", "/t.xml");
+        memory.setChoice("a/b", {{"LevelRS485_1"}, {30, 5.5}});
+        QCOMPARE(memory.table("a/b", "LevelRS485_1"), "/t.xml");
+        QCOMPARE(memory.table("a", "LevelRS485_1"), QString());
+        QCOMPARE(memory.choice("a/b").thresholds.fall, 5.5);
+        QCOMPARE(memory.choice("a/b").sensors, QStringList{"LevelRS485_1"});
+        QVERIFY(TableMemory(folder.filePath("none")).table("a/b", "LevelRS485_1").isEmpty());
+        QVERIFY(!QFile::exists(folder.filePath("none")));
+        QCOMPARE(vehicleOfFile("/f/KAMAZ-5490 week.2.xml"), "KAMAZ-5490");
+    }
+};
+
+QTEST_GUILESS_MAIN(FuelTest)
+#include "tst_fuel.moc"

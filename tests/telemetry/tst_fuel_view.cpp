@@ -1,0 +1,219 @@
+// The list of refuellings and drains and the summary beside it, as a user works them.
+
+#include "support/answers.h"
+#include "support/files.h"
+#include "support/records.h"
+#include "telemetry/fuel_view/fuel_view.h"
+#include "telemetry/fuel_view/summary_view.h"
+
+#include <QClipboard>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QMenu>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTextDocument>
+#include <QToolButton>
+#include <QtTest>
+
+using namespace vlk;
+
+namespace {
+
+constexpr quint32 kStart = 1'780'000'000;
+
+// Forty minutes of a vehicle that stands; after the twentieth 60 litres are gone.
+TelemetryContents drained()
+{
+    TelemetryContents contents;
+    for (quint32 i = 0; i < 40; ++i) {
+        const RecordParts parts{{"NumPage", i + 1},
+                                {"Code", 2},
+                                {"Time", kStart + i * 60},
+                                {"Speed", 0},
+                                {"LevelRS485_1", i < 20 ? 3120 : 2510}};
+        contents.records.add(30, parts.mask, parts.block);
+    }
+    contents.records.setUtcOffset(3 * 3600);
+    return contents;
+}
+
+// Translates by key, as a host does.
+class EnglishTexts : public QTranslator
+{
+public:
+    QString translate(const char* /*context*/, const char* key, const char* /*note*/, int n) const override
+    {
+        return QTranslator::translate(nullptr, key, nullptr, n);
+    }
+};
+
+} // namespace
+
+class FuelViewTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
+        QVERIFY(texts_.load("en", VLK_TEXTS) && QCoreApplication::installTranslator(&texts_));
+    }
+    void init()
+    {
+        records_ = std::make_unique<ShownRecords>();
+        view_ = std::make_unique<FuelView>(records_.get());
+        records_->setContents(drained());
+        view_->resize(700, 400);
+        view_->show();
+        QApplication::setActiveWindow(view_.get());
+        good_ = file("tank.xml", "<FUEL type='D1'><TABLE><DATA param_U='0' param_V='0'/>"
+                                 "<DATA param_U='400' param_V='4000'/></TABLE></FUEL>");
+    }
+
+    void listsAndLooks()
+    {
+        QSignalSpy changed(view_.get(), &FuelView::fuelChanged);
+        choose(good_);
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(view_->litres().size(), std::size_t(40));
+        QCOMPARE(row(), QStringList({"▼ Drain", "28.05.2026 23:45", "312", "251", "-61", "–"}));
+        QTest::keyClick(table(), Qt::Key_Down);
+        QCOMPARE(records_->current(), 19);
+        QTest::keyClick(table(), Qt::Key_Return);
+        QCOMPARE(records_->inSight(), (TimeSpan{kStart + 19 * 60 - 900.0, kStart + 20 * 60 + 900.0}));
+        QTest::mouseClick(view_->findChild<QPushButton*>("pushButton_CopyFuel"), Qt::LeftButton);
+        QVERIFY(QApplication::clipboard()->text().contains("-61"));
+
+        auto* fall = view_->findChild<QDoubleSpinBox*>("doubleSpinBox_FuelFall");
+        fall->setFocus();
+        fall->selectAll();
+        QTest::keyClicks(fall, "61.5");
+        QTest::keyClick(fall, Qt::Key_Return);
+        QCOMPARE(fall->value(), 61.5);
+        QCOMPARE(table()->model()->rowCount(), 0);
+        records_->setContents({});
+        QVERIFY(view_->litres().empty() && view_->events().empty());
+    }
+
+    void saysWhatIsWrongWithATable_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("news");
+        QTest::addColumn<int>("rows");
+        const QByteArray rows = "<TABLE><DATA param_U='0' param_V='1'/><DATA param_U='400' param_V='4000'/>";
+        QTest::newRow("another sensor of the kind") << "<FUEL type='D2'>" + rows + "</TABLE></FUEL>"
+
+                                                    << "The table is of D2, the sensor chosen is: RS-485 "
+                                                       "Fuel level 1. Check that it is the right table."
+                                                    << 1;
+        QTest::newRow("another kind") << "<FUEL type='A3'>" + rows + "</TABLE></FUEL>"
+
+                                      << "The table of A3 does not suit: RS-485 Fuel level 1 measures "
+                                         "something else. Choose another table."
+                                      << 0;
+        QTest::newRow("falls back")
+            << "<FUEL type='D1'>" + rows + "<DATA param_U='500' param_V='9'/></TABLE></FUEL>"
+            << "table.xml: The readings of the calibration table fall while the volume rises" << 0;
+    }
+    void saysWhatIsWrongWithATable()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, news);
+        QFETCH(int, rows);
+        choose(file("table.xml", content));
+        auto* label = view_->findChild<QLabel*>("label_FuelNews");
+        QVERIFY(label->isVisible());
+        QCOMPARE(label->text(), news);
+        QCOMPARE(table()->model()->rowCount(), rows);
+    }
+
+    void savesAndPrints()
+    {
+        choose(good_);
+        const QString path = folder_.filePath("list.csv");
+        answerFile(path);
+        QTest::mouseClick(view_->findChild<QPushButton*>("pushButton_SaveFuel"), Qt::LeftButton);
+        const QList<QByteArray> lines = readFile(path).split('\n');
+        QCOMPARE(lines.size(), 3);
+        QCOMPARE(lines[1], QByteArray("Drain;28.05.2026 23:45:40;28.05.2026 23:46:40;312.0;251.0;-61.0;;;"
+                                      "LevelRS485_1\r"));
+        QTest::keyClick(table(), Qt::Key_Down);
+        TimeSpan asked;
+        view_->setVehicle("KAMAZ");
+        view_->setPictures(
+            [&asked](TimeSpan span, QSize size) {
+                asked = span;
+                return QImage(size, QImage::Format_RGB32);
+            },
+            {});
+        choose(good_);
+        QTextDocument sheet;
+        view_->writeSheet(sheet);
+        QVERIFY(sheet.toPlainText().contains("KAMAZ") && sheet.toPlainText().contains("-61.0"));
+        QVERIFY(asked.contains(kStart + 20 * 60));
+    }
+
+    void summary()
+    {
+        choose(good_);
+        SummaryView summary(records_.get());
+        summary.setFuel(view_->litres(), view_->events());
+        summary.show();
+        const auto* model = summary.findChild<QTableView*>("tableView_Summary")->model();
+        const auto value = [model](const char* key) {
+            for (int i = 0; i < model->rowCount(); ++i)
+                if (model->index(i, 0).data() == QLatin1String(key))
+                    return model->index(i, 1).data().toString();
+            return QString();
+        };
+        QCOMPARE(value("Standing, h:min"), QString("0:39"));
+        QCOMPARE(value("Drains: count and l"), QString("1: 61"));
+        QCOMPARE(value("Used, l"), QString("0.0"));
+        QCOMPARE(value("Records"), QString("40"));
+        records_->setInSight({kStart, kStart + 600.0});
+        QCOMPARE(value("Records"), QString("11"));
+        auto* over = summary.findChild<QComboBox*>("comboBox_SummaryOver");
+        records_->setPassing({5, 9});
+        QTest::keyClick(over, Qt::Key_Down);
+        QCOMPARE(value("Records"), QString("5"));
+        QTest::keyClick(over, Qt::Key_Down);
+        QCOMPARE(model->rowCount(), 2); // midnight in between, by the zone of the records
+        QCOMPARE(model->index(0, 13).data(), QVariant("34"));
+        records_->setContents({});
+        QCOMPARE(model->rowCount(), 0);
+    }
+
+private:
+    QString file(const char* name, const QByteArray& content) const
+    {
+        return writeFile(folder_.filePath(name), content);
+    }
+    // By the menu: the sensor, then its table in the dialog.
+    void choose(const QString& table)
+    {
+        QMenu* menu = view_->findChild<QToolButton*>("toolButton_FuelTanks")->menu();
+        Q_EMIT menu->aboutToShow();
+        answerFile(table);
+        menu->actions().first()->trigger();
+    }
+    QTableView* table() const { return view_->findChild<QTableView*>("tableView_Fuel"); }
+    QStringList row() const
+    {
+        QStringList cells;
+        for (int column = 0; column < table()->model()->columnCount(); ++column)
+            cells << table()->model()->index(0, column).data().toString();
+        return cells;
+    }
+
+    EnglishTexts texts_;
+    QTemporaryDir folder_;
+    std::unique_ptr<ShownRecords> records_;
+    std::unique_ptr<FuelView> view_;
+    QString good_;
+};
+
+QTEST_MAIN(FuelViewTest)
+#include "tst_fuel_view.moc"

@@ -1,0 +1,92 @@
+#pragma once
+
+// Records of days that the simulated vehicle drives, and what was poured into its tanks and drained from them
+// meanwhile.
+
+#include "support/files.h"
+#include "telemetry/fuel/tank_levels.h"
+#include "tracker/configuration_values.h"
+#include "tracker/drive.h"
+#include "tracker/record_bytes.h"
+#include "tracker/tank.h"
+
+#include <QTemporaryDir>
+
+struct Pour
+{
+    qint64 from;
+    qint64 until;
+    double litres; // drained below 0
+    qint64 seen;   // at the latest by sensors that sleep without ignition
+};
+
+struct DrivenDays
+{
+    vlk::RecordStore records;
+    std::vector<Pour> pours;
+};
+
+// Sensors, once the ignition is on, and what a tracker records of them while it drives off.
+inline constexpr qint64 wakesWithin = 600;
+
+// A Monday.
+inline constexpr qint64 firstMidnight = 1779667200;
+
+// `document`: the configuration by which the tracker records.
+inline DrivenDays drivenDays(quint64 seed, int days, const QByteArray& document)
+{
+    const qint64 midnight = firstMidnight + qint64(seed % 7) * tracker::daySeconds;
+    const tracker::ConfigurationValues values(document);
+    const QTemporaryDir folder;
+    const tracker::SettingsHistory settings(folder.path(), tracker::WorkingSettings::of(values));
+    tracker::Drive drive(seed, midnight, settings);
+    tracker::DataSet dataSet;
+    dataSet.mask = vlk::FieldMask::fromText(values.text(QStringLiteral("PROTOCOL/ZETA/mask")).toStdString());
+    DrivenDays driven;
+    const quint32 last = drive.lastBefore(midnight + qint64(days) * tracker::daySeconds - 1);
+    for (quint32 number = 0; number <= last; ++number) {
+        const tracker::Moment moment = drive.record(number);
+        if (moment.kind != tracker::RecordKind::Telemetry)
+            continue;
+        const QByteArray bytes = recordBytes(tracker::Vehicle(moment, {}), dataSet);
+        driven.records.add(
+            {reinterpret_cast<const std::uint8_t*>(bytes.constData()), std::size_t(bytes.size())});
+    }
+    tracker::Odometers at;
+    for (int day = 0; day < days; ++day) {
+        const tracker::DayPlan plan =
+            tracker::planDay(seed, midnight + qint64(day) * tracker::daySeconds, at);
+        for (const tracker::Segment& segment : plan.segments) {
+            using enum tracker::Activity;
+            if (segment.activity == Filling || segment.activity == Draining)
+                driven.pours.push_back({segment.from, segment.from + segment.seconds, segment.fuelDelta, 0});
+            for (Pour& pour : driven.pours) {
+                if (pour.seen == 0 && segment.activity == Idling)
+                    pour.seen = segment.from + wakesWithin;
+            }
+        }
+        at = plan.end;
+    }
+    return driven;
+}
+
+// As somebody would calibrate the tank, ten litres at a time.
+inline vlk::FuelRows calibrationOf(const tracker::Tank& tank)
+{
+    vlk::FuelRows rows;
+    for (int litres = 0; litres <= tank.litres; litres += 10)
+        rows.push_back(
+            {QString::number(litres),
+             QString::number(std::round(tracker::sensorValue(tank, tracker::fuelHeight(tank, litres))))});
+    return rows;
+}
+
+// Both tanks of the vehicle.
+inline std::vector<vlk::TankSensor> bothTanks()
+{
+    std::vector<vlk::TankSensor> tanks;
+    for (const tracker::Tank& tank : {tracker::tanks[1], tracker::tanks[2]})
+        tanks.push_back({vlk::levelSensorOfTable(QLatin1String(tank.sensor)),
+                         vlk::FuelCurve(calibrationOf(tank), vlk::LevelKind::Code)});
+    return tanks;
+}

@@ -1,0 +1,105 @@
+// Refuellings and drains in the records of the simulated tracker, against what was poured: fifty vehicles, of
+// which each does other work on other days. The figures of the algorithm were chosen on the first half of
+// them.
+
+#include "driven_records.h"
+#include "telemetry/fuel/fuel_events.h"
+
+#include <QtTest>
+
+using vlk::FuelEvent;
+
+namespace {
+
+constexpr vlk::FuelThresholds thresholds{20, 10};
+constexpr int vehicles = 50;
+constexpr int days = 2;
+
+// Of litres, which levels in whole codes cannot tell: a pour that close to its threshold may be taken or not.
+constexpr double resolution = 0.5;
+
+bool isAbove(double litres)
+{
+    return litres >= thresholds.rise + resolution || litres <= -thresholds.fall - resolution;
+}
+
+} // namespace
+
+class FuelEventsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void againstWhatWasPoured_data()
+    {
+        QTest::addColumn<QByteArray>("document");
+        QTest::addColumn<bool>("sleeps");
+        const QByteArray factory = readFile(VLK_SOURCE "/workbench/tracker/factory.xml");
+        QTest::newRow("filtered by the tracker") << factory << false;
+        QTest::newRow("as it swings")
+            << QByteArray(factory).replace("filterMode=\"1\"", "filterMode=\"0\"") << false;
+        QTest::newRow("with the ignition alone")
+            << QByteArray(factory).replace("FUEL sensors=\"000\"", "FUEL sensors=\"100\"") << true;
+    }
+    void againstWhatWasPoured()
+    {
+        QFETCH(QByteArray, document);
+        QFETCH(bool, sleeps);
+        int above = 0;
+        QStringList wrong;
+        for (int seed = 1; seed <= vehicles; ++seed) {
+            const DrivenDays driven = drivenDays(seed, days, document);
+            vlk::RecordColumns columns(driven.records);
+            std::vector<FuelEvent> events =
+                vlk::findFuelEvents(columns, vlk::tankLitres(columns, bothTanks()), thresholds);
+            for (const Pour& pour : seenPours(driven.pours, sleeps)) {
+                const auto isOfPour = [&](const FuelEvent& event) {
+                    return event.time <= pour.until && event.until >= pour.from &&
+                           event.isRefuelling() == (pour.litres > 0);
+                };
+                double litres = 0;
+                for (const FuelEvent& event : events)
+                    litres += isOfPour(event) ? event.litres() : 0;
+                const bool isFound = std::erase_if(events, isOfPour) > 0;
+                above += isAbove(pour.litres);
+                if (isFound ? std::abs(litres - pour.litres) > 5 : isAbove(pour.litres))
+                    wrong << QStringLiteral("vehicle %1 at %2: %3 l, found %4")
+                                 .arg(seed)
+                                 .arg(pour.from)
+                                 .arg(pour.litres)
+                                 .arg(litres);
+            }
+            for (const FuelEvent& event : events)
+                wrong << QStringLiteral("vehicle %1 at %2: invented %3 l")
+                             .arg(seed)
+                             .arg(event.time)
+                             .arg(event.litres());
+        }
+        QCOMPARE(wrong.join('\n'), QString());
+        QVERIFY(above > vehicles);
+    }
+
+private:
+    // As sensors can tell them apart: a tank that is filled after a pause is filled on, and what happens
+    // while they sleep is one.
+    static std::vector<Pour> seenPours(const std::vector<Pour>& pours, bool sleeps)
+    {
+        constexpr int pause = 900;
+        std::vector<Pour> seen;
+        for (Pour pour : pours) {
+            pour.until = sleeps ? pour.seen : pour.until;
+            if (!seen.empty() && (sleeps ? seen.back().until == pour.until
+                                         : pour.from - seen.back().until < pause &&
+                                               (pour.litres > 0) == (seen.back().litres > 0))) {
+                seen.back().until = pour.until;
+                seen.back().litres += pour.litres;
+            } else if (pour.until != 0) {
+                seen.push_back(pour);
+            }
+        }
+        return seen;
+    }
+};
+
+QTEST_GUILESS_MAIN(FuelEventsTest)
+#include "tst_fuel_events.moc"
