@@ -1576,6 +1576,7 @@
     <message id="rec_291"><translation>Без координат, ч:мин</translation></message>
     <message id="rec_292"><translation>Сводка</translation></message>
     <message id="rec_293"><translation>За это время записей нет.</translation></message>
+    <message id="rec_295"><translation>Топливо</translation></message>
     <message id="rev_230"><translation>тревога, тревожная зона, порог температуры</translation></message>
     <message id="rev_231"><translation>тревога, пропадание питания</translation></message>
     <message id="rev_232"><translation>зажигание, тревожная кнопка, дверь</translation></message>

@@ -1,5 +1,6 @@
 #include "review/report_file.h"
 
+#include "base/translated.h"
 #include "xml/xml_document.h"
 
 #include <QFileInfo>

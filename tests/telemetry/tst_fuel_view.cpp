@@ -94,7 +94,7 @@ private Q_SLOTS:
         QTest::keyClick(fall, Qt::Key_Return);
         QCOMPARE(fall->value(), 61.5);
         QCOMPARE(table()->model()->rowCount(), 0);
-        records_->setContents({});
+        records_->setContents(TelemetryContents{});
         QVERIFY(view_->litres().empty() && view_->events().empty());
     }
 
@@ -182,7 +182,7 @@ private Q_SLOTS:
         QTest::keyClick(over, Qt::Key_Down);
         QCOMPARE(model->rowCount(), 2); // midnight in between, by the zone of the records
         QCOMPARE(model->index(0, 13).data(), QVariant("34"));
-        records_->setContents({});
+        records_->setContents(TelemetryContents{});
         QCOMPARE(model->rowCount(), 0);
     }
 

@@ -9,7 +9,7 @@ namespace vlk {
 
 namespace {
 
-constexpr int kPlaceDecimals = 6;
+constexpr int kShownPlaceDecimals = 6;
 const QString kDash = QStringLiteral("–");
 
 QString localText(double seconds, qint32 utcOffset, const char* format)
@@ -53,8 +53,8 @@ QString placeText(double latitude, double longitude)
 {
     return std::isnan(latitude) ? kDash
                                 : QStringLiteral("%1, %2")
-                                      .arg(latitude, 0, 'f', kPlaceDecimals)
-                                      .arg(longitude, 0, 'f', kPlaceDecimals);
+                                      .arg(latitude, 0, 'f', kShownPlaceDecimals)
+                                      .arg(longitude, 0, 'f', kShownPlaceDecimals);
 }
 
 QString hoursText(double seconds)

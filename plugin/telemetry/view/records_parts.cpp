@@ -1,15 +1,73 @@
 #include "telemetry/view/records_parts.h"
 
+#include "base/translated.h"
 #include "telemetry/curves/curves_view.h"
+#include "telemetry/fuel/table_memory.h"
+#include "telemetry/fuel_view/fuel_view.h"
+#include "telemetry/fuel_view/summary_view.h"
 #include "telemetry/track/track_view.h"
 
 namespace vlk {
 
+namespace {
+
+// What stands above pictures.
+template <class View>
+RecordsPart titledPart(View* view, const char* title)
+{
+    return {view, title, [view] { view->retranslate(); },
+            [view](const QString& name) { view->setTitle(name); }};
+}
+
+std::vector<FoundEvent> marksOf(const std::vector<FuelEvent>& events)
+{
+    std::vector<FoundEvent> marks;
+    for (const FuelEvent& event : events) {
+        const char* const kind = event.isRefuelling() ? "rec_240" : "rec_241";
+        marks.push_back(
+            {event.record, event.isRefuelling(),
+             QStringLiteral("%1 %2 %3")
+                 .arg(translated(kind), QString::number(qRound(event.litres())), translated("abbr_026"))});
+    }
+    return marks;
+}
+
+// What was found of the fuel, for the curves, the track and the summary.
+void tellFuel(ShownRecords* shown, const FuelView& fuel, SummaryView* summary)
+{
+    std::vector<ComputedColumn> litres;
+    if (!fuel.litres().empty())
+        litres.push_back(
+            {QStringLiteral("litres"), translated("rec_295"), translated("abbr_026"), fuel.litres()});
+    shown->setComputed(std::move(litres));
+    shown->setFound(marksOf(fuel.events()));
+    summary->setFuel(fuel.litres(), fuel.events());
+}
+
+} // namespace
+
 std::vector<RecordsPart> makeRecordsParts(ShownRecords* shown, QWidget* parent)
 {
+    auto* curves = new CurvesView(shown, parent);
+    auto* track = new TrackView(shown, parent);
+    auto* summary = new SummaryView(shown, parent);
+    auto* fuel = new FuelView(shown, parent);
+    const auto pictureOf = [](auto* view) {
+        return [view](const TimeSpan& span, const QSize& size) { return view->picture(span, size); };
+    };
+    fuel->setPictures(pictureOf(curves), pictureOf(track));
+    QObject::connect(fuel, &FuelView::fuelChanged, summary,
+                     [shown, fuel, summary] { tellFuel(shown, *fuel, summary); });
     return {
-        recordsPart<CurvesView>(nullptr, shown, parent),
-        recordsPart<TrackView>("rec_199", shown, parent),
+        titledPart(curves, nullptr),
+        titledPart(track, "rec_199"),
+        {summary, "rec_292", [summary] { summary->retranslate(); }, [](const QString&) {}},
+        {fuel, "rec_295",
+         [shown, fuel, summary] {
+             fuel->retranslate();
+             tellFuel(shown, *fuel, summary);
+         },
+         [fuel](const QString& name) { fuel->setVehicle(vehicleOfFile(name)); }},
     };
 }
 

@@ -16,14 +16,9 @@ struct RecordsPart
     QWidget* widget;
     const char* title; // of its tab, a key; null for what stands above the table
     std::function<void()> retranslate;
+    // What the records are called, by the name of their file.
+    std::function<void(const QString& name)> setName;
 };
-
-template <class View>
-RecordsPart recordsPart(const char* title, ShownRecords* shown, QWidget* parent)
-{
-    auto* view = new View(shown, parent);
-    return {view, title, [view] { view->retranslate(); }};
-}
 
 // In the order in which they stand.
 std::vector<RecordsPart> makeRecordsParts(ShownRecords* shown, QWidget* parent);

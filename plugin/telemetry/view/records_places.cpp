@@ -36,6 +36,12 @@ RecordsPlaces::RecordsPlaces(QWidget* table, std::vector<RecordsPart> parts, QWi
     retranslate();
 }
 
+void RecordsPlaces::setName(const QString& name)
+{
+    for (const RecordsPart& part : parts_)
+        part.setName(name);
+}
+
 void RecordsPlaces::retranslate()
 {
     for (const RecordsPart& part : parts_) {

@@ -18,6 +18,7 @@ class RecordsPlaces : public QSplitter
 public:
     RecordsPlaces(QWidget* table, std::vector<RecordsPart> parts, QWidget* parent);
 
+    void setName(const QString& name);
     void retranslate();
     // Null without views.
     QTabWidget* views() const { return views_; }

@@ -177,6 +177,7 @@ void VLK_Widget_Tmi_Table::open(const std::shared_ptr<TelemetryContents>& conten
     for (const int notice : {kTooMany, kExported})
         notices_->end(notice);
     showContents(contents);
+    places_->setName(name);
     showTitle();
     // Shown before it reads, the window has a frame by then.
     QTimer::singleShot(0, this, [this] { fitToScreen(this); });
