@@ -2674,6 +2674,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_told_header"><translation>The header of %1 is not what was written: its checksum is wrong.</translation></message>
     <message id="wb_told_missing"><translation>There is nothing to show: there is no file %1.</translation></message>
     <message id="wb_told_more"><translation>Further findings: %1. The message log has all of them.</translation></message>
+    <message id="wb_told_no_distances"><translation>No distances are shown: the library PROJ cannot be loaded (%1). Install it and start the program again.</translation></message>
     <message id="wb_told_no_document"><translation>The file %1 is no document of this program, or a damaged one.</translation></message>
     <message id="wb_told_not_made"><translation>The file %1 was not created: %2.</translation></message>
     <message id="wb_told_unreadable"><translation>%1 was not read: %2.</translation></message>

@@ -2674,6 +2674,7 @@
     <message id="wb_told_header"><translation>Заголовок файла %1 не такой, каким был записан: его контрольная сумма неверна.</translation></message>
     <message id="wb_told_missing"><translation>Показать нечего: файла %1 нет.</translation></message>
     <message id="wb_told_more"><translation>Ещё замечено: %1. Всё перечислено в журнале сообщений.</translation></message>
+    <message id="wb_told_no_distances"><translation>Расстояния не показываются: не загружается библиотека PROJ (%1). Установите её и запустите программу снова.</translation></message>
     <message id="wb_told_no_document"><translation>Файл %1 не является документом этой программы или повреждён.</translation></message>
     <message id="wb_told_not_made"><translation>Файл %1 не создан: %2.</translation></message>
     <message id="wb_told_unreadable"><translation>Файл %1 не прочитан: %2.</translation></message>

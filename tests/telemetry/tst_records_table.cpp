@@ -243,7 +243,7 @@ private Q_SLOTS:
         }
         QCOMPARE(this->numbers(), numbers);
         QCOMPARE(text("label_Count"), QString("rec_052"));
-        QCOMPARE(child<QWidget>("pushButton_Empty")->isVisible(), numbers.isEmpty());
+        QCOMPARE(table_->findChild<QWidget*>("pushButton_Empty")->isVisible(), numbers.isEmpty());
         // Sorting keeps to them, and Esc gives back what is applied before it closes the window.
         table_->sortByColumn(column("NumPage"), Qt::DescendingOrder);
         QCOMPARE(this->numbers().size(), numbers.size());

@@ -57,6 +57,7 @@ constexpr CategoryRow categoryRows[] = {
     {"vlk.files.cut", PluginLog::Topic::Damage, "wb_told_cut", atByte},
     {"vlk.files.checksum", PluginLog::Topic::Damage, "wb_told_checksum", atByte},
     {"vlk.files.count", PluginLog::Topic::Damage, "wb_told_count", atByte},
+    {"vlk.track", PluginLog::Topic::File, "wb_told_no_distances", "^no distances: (.*)$"},
 };
 
 QRegularExpressionMatch matched(const CategoryRow& row, const QString& message)

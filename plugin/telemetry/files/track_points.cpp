@@ -25,7 +25,7 @@ public:
         inverse_ = reinterpret_cast<decltype(&geod_inverse)>(library.resolve("geod_inverse"));
         if (init == nullptr || inverse_ == nullptr) {
             inverse_ = nullptr;
-            qCWarning(lcTrack) << "no distances:" << library.errorString();
+            qCWarning(lcTrack).noquote() << "no distances:" << library.errorString();
             return;
         }
         constexpr double equator = 6378137;
