@@ -3,6 +3,7 @@
 #include "telemetry/files/raw_values.h"
 #include "telemetry/text/item_text.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace vlk {
@@ -21,14 +22,20 @@ const NumberColumn& RecordColumns::numbers(ElementIndex element)
 }
 
 template <class ToNumber>
-const NumberColumn& RecordColumns::filled(NumberColumn& column, ElementIndex element, ToNumber toNumber) const
+const NumberColumn& RecordColumns::filled(NumberColumn& column, ElementIndex element, ToNumber toNumber)
 {
+    // Most of the elements that can be asked for are in no record: they share a column.
+    const auto has = [element](const RecordLayout& layout) { return layout.has(element); };
+    if (std::ranges::none_of(store_.layouts(), has)) {
+        absent_.resize(store_.size(), std::numeric_limits<double>::quiet_NaN());
+        return absent_;
+    }
     const auto known = static_cast<int>(column.size());
     if (known == store_.size())
         return column;
     column.resize(store_.size());
     forEachRaw(
-        store_, element, [element](const RecordLayout& layout) { return layout.has(element); },
+        store_, element, has,
         [&](int record, std::optional<std::uint64_t> raw) {
             column[record] = raw ? toNumber(*raw) : std::numeric_limits<double>::quiet_NaN();
         },

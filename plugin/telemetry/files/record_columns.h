@@ -38,13 +38,14 @@ public:
 
 private:
     template <class ToNumber>
-    const NumberColumn& filled(NumberColumn& column, ElementIndex element, ToNumber toNumber) const;
+    const NumberColumn& filled(NumberColumn& column, ElementIndex element, ToNumber toNumber);
     const std::vector<quint32>& headColumn(ElementIndex element);
 
     const RecordStore& store_;
     std::string userTypes_;
     std::map<ItemIndex, NumberColumn> numbers_;
     std::map<ElementIndex, NumberColumn> wholes_;
+    NumberColumn absent_; // of what no record holds
     std::map<ElementIndex, std::vector<quint32>> heads_;
 };
 
