@@ -97,7 +97,8 @@ std::vector<KeptUnsaved> keptUnsaved(const QString& folder, const QString& subje
 {
     std::vector<KeptUnsaved> kept;
     const QDir files(keptFolder(folder));
-    for (const QString& name : files.entryList({nameStemOf(subject) + QLatin1Char('*') + kSuffix}, QDir::Files)) {
+    for (const QString& name :
+         files.entryList({nameStemOf(subject) + QLatin1Char('*') + kSuffix}, QDir::Files)) {
         const QString path = files.filePath(name);
         std::optional<Unsaved> unsaved = isClaimed(path) ? std::nullopt : unsavedIn(path);
         if (unsaved && unsaved->subject == subject)

@@ -137,7 +137,8 @@ private Q_SLOTS:
                  "\n",
                  "")
             .row("a drain in words", "fuel --table tank.xml week.xml", 1,
-                 "week.xml: 2024-01-01T00:09:00Z to 2024-01-01T00:10:00Z: drain -61.0\u00a0l (312.0 to 251.0), "
+                 "week.xml: 2024-01-01T00:09:00Z to 2024-01-01T00:10:00Z: drain -61.0\u00a0l (312.0 to "
+                 "251.0), "
                  "LevelRS485_1\n",
                  "")
             .row("no drain by that threshold", "fuel --fall 61.5 --table tank.xml week.xml", 0, "", "")
