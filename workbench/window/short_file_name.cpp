@@ -14,10 +14,11 @@ QString shortFileName(const QString& name, const QFontMetrics& metrics, int room
     if (!match.hasMatch())
         return metrics.elidedText(name, Qt::ElideMiddle, room);
     const auto timesFrom = [&match](int dateAt) {
-        const QString date = match.captured(2).mid(dateAt) + QLatin1Char(' ');
-        const QString lastDate = match.captured(4).mid(dateAt) + QLatin1Char(' ');
-        return date + match.captured(3) + QStringLiteral(" - ") + (date == lastDate ? QString() : lastDate) +
-               match.captured(5);
+        const auto moment = [&](int group) {
+            return match.captured(group).mid(dateAt) + QLatin1Char(' ') + match.captured(group + 1);
+        };
+        const bool isOneDay = match.captured(2) == match.captured(4);
+        return moment(2) + QStringLiteral(" - ") + (isOneDay ? match.captured(5) : moment(4));
     };
     const QString times = timesFrom(0);
     const QString timesOfYear = timesFrom(5);
