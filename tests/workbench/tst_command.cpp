@@ -54,6 +54,10 @@ private Q_SLOTS:
         put("cut.xml", track.left(60));
         put("secret.xml", "<DEVICE><TRANS><AP1 pass='geheim'/></TRANS></DEVICE>");
         put("good.xml", "<DEVICE creator='preset'><TRACK><POINTS maxSpeed='80'/></TRACK></DEVICE>");
+        QDir(folder_->path()).mkpath("presets");
+        put("presets/1.xml", "<DEVICE creator='preset'><TRACK><POINTS bend='1'/></TRACK></DEVICE>");
+        put("named.xml", "<DEVICE><TRANS><OBJECT name='Truck 7'/><SRV1 objID='86007'/></TRANS></DEVICE>");
+        put("motion.xml", readFile(path("factory.xml")).replace("ign=\"1\"", "ign=\"0\""));
         put("bad.xml", "<DEVICE creator='preset'><TRACK><POINTS maxSpeed='80' bend='1'/></TRACK></DEVICE>");
     }
 
@@ -119,15 +123,16 @@ private Q_SLOTS:
                 R"("2":["b.xml"]},"lacking":[],"most":"1"})"
                 "\n",
                 "")
-            .row("kinds", "info --json a.xml telemetry.xml fleet/notes.txt", 0,
-                 R"({"file":"a.xml","what":"configuration","model":"R-7106","records":null,"from":null,)"
-                 R"("to":null,"gaps":null})"
+            .row("kinds", "info --json named.xml telemetry.xml fleet/notes.txt", 0,
+                 R"({"file":"named.xml","what":"configuration","model":null,"name":"Truck 7",)"
+                 R"("objectId":"86007","records":null,"from":null,"to":null,"gaps":null})"
                  "\n"
-                 R"({"file":"telemetry.xml","what":"telemetry","model":"R-7106","records":3,)"
+                 R"({"file":"telemetry.xml","what":"telemetry","model":"R-7106","name":null,)"
+                 R"("objectId":null,"records":3,)"
                  R"("from":"2024-01-01T00:00:00Z","to":"2024-01-01T00:05:00Z","gaps":1})"
                  "\n"
-                 R"({"file":"fleet/notes.txt","what":"unknown","model":null,"records":null,"from":null,)"
-                 R"("to":null,"gaps":null})"
+                 R"({"file":"fleet/notes.txt","what":"unknown","model":null,"name":null,)"
+                 R"("objectId":null,"records":null,"from":null,"to":null,"gaps":null})"
                  "\n",
                  "")
             .row("a drain", "fuel --json --table tank.xml week.xml", 1,
@@ -167,6 +172,16 @@ private Q_SLOTS:
                  "\"100\"\r\n\"X/y\";\"X/y\";\"a.xml\";\"1\"\r\n\"X/y\";\"X/y\";\"b.xml\";\"2\"\r\n",
                  "")
             .row("what standard input is", "info -", 0, "-: configuration, R-7106\n", "")
+            .row("whose configuration it is", "info named.xml", 0,
+                 "named.xml: configuration, Truck 7, Object ID: 86007\n", "")
+            .row("presets in a folder", "check presets", 0, "", "")
+            .row("a preset", "check good.xml bad.xml", 1,
+                 "bad.xml: warning: TRACK/POINTS/bend: Unknown key, left out\n", "")
+            .row(
+                "a setting of many parts", "check motion.xml", 1,
+                "motion.xml: warning: TRACK/POINTS/moveTimerSens: Track: Motion is also told by: ignition is "
+                "chosen, but no input line is assigned as ignition.\n",
+                "")
             .row("an empty folder", "check bare", 0, "", "bare: holds no *.xml and no *.tmi\n")
             .row("a folder for a file", "report fleet", 2, "", "fleet: is a folder, and one file is needed\n")
             .row("the system's reason in Russian", "--language ru check x.xml", 2, "",
@@ -279,7 +294,7 @@ private Q_SLOTS:
         shell.start("sh", {"-c", "for i in 1 2 3 4 5 6 7 8 9; do echo many; done | xargs " VLK_COMMAND
                                  " --language en info 2>errors | head -n 1; wc -c < errors"});
         QVERIFY(shell.waitForFinished());
-        QVERIFY(shell.readAllStandardOutput().startsWith("many/1000.xml: configuration, R-7106\n"));
+        QVERIFY(shell.readAllStandardOutput().startsWith("many/1000.xml: configuration, R-7106, "));
     }
 
     // What the shell and `man` are told of it.

@@ -76,12 +76,19 @@ private Q_SLOTS:
                  "r7106: --where: at character 1 there should be the name of a column\n")
             .row("in the other language", "b.xml --to csv --where Напряжение_питания,_В>0,003", 0,
                  head + row(5), "")
+            .row("events in both languages",
+                 "b.xml --to csv --where "
+                 "Event=\"Supply_voltage_restored\"_and_Событие=\"напряжение_питания_восстановлено\"_and_"
+                 "Power>0,003",
+                 0, head + row(5), "")
             .row("a span of time", "a.tmi --to csv --from 15.11.2023_01:13:22 --to-time 2023-11-14T22:13:23Z",
                  0, head + row(2), "")
             .row("no time", "a.tmi --to csv --from yesterday", 2, "",
                  "r7106: --from: at character 1 there should be a time such as 20.11.2026 08:29\n")
             .row("columns", "a.tmi --to tsv --raw --columns Power,NumPage --where NumPage=2", 0,
                  "Power\tNumPage\n2\t2\n", "")
+            .row("columns with words", "a.tmi --to csv-text --columns Power,NumPage --where NumPage=2", 0,
+                 "Supply voltage, V;Record number;\r\n=\"0.00\";=\"2\";\r\n", "")
             .row("no column", "a.tmi --to tsv --columns Powr", 2, "",
                  "r7106: --columns: there is no column Powr\n")
             .row("standard input", "- --to ndjson --raw --where NumPage=4", 0,

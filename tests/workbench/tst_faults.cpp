@@ -630,8 +630,11 @@ private Q_SLOTS:
         if (step == Write || step == Send)
             QCOMPARE(bench.nameInTracker() == Bench::newName,
                      isConfirmed || (step == Send && faults.shortAnswers));
-        if (step == Back)
+        if (step == Back) {
             QCOMPARE(bench.nameInTracker(), Bench::newName);
+            const auto* report = bench.window.findChild<QTableView*>(QStringLiteral("tableView_Report"));
+            QCOMPARE(report->findChild<QLabel*>(QStringLiteral("label_Empty"))->text(), QString());
+        }
         QCOMPARE(bench.window.session().backups().all().size(),
                  step == Back || (step == Send && !diskIsFull) || isConfirmed ? 1 : 0);
         if (step == Period && open)

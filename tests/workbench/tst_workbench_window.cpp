@@ -411,7 +411,10 @@ private Q_SLOTS:
         QTRY_VERIFY(bench.text("label_Status").contains(said));
         QVERIFY(bench.text("label_Status").contains(typed));
         QVERIFY2(box.contains(typed), qPrintable(box));
-        QCOMPARE(box.isEmpty(), !content.isEmpty() && typed.isEmpty());
+        const bool isGood = !content.isEmpty() && typed.isEmpty();
+        QCOMPARE(box.isEmpty(), isGood);
+        const auto* notice = window.findChild<QLabel*>(QStringLiteral("label_WindowNotice"));
+        QCOMPARE(notice ? notice->text() : QString(), isGood ? bench.text("label_Status") : QString());
         QCOMPARE(bench.settings.recentFiles().value(0).path, content.isEmpty() ? QString() : saved);
     }
 

@@ -7,6 +7,7 @@
 #include "command/each_file.h"
 #include "command/file_names.h"
 #include "command/json_line.h"
+#include "command/preset_problems.h"
 #include "review/check_file.h"
 #include "window/languages.h"
 #include "xml/xml_document.h"
@@ -14,6 +15,7 @@
 namespace workbench::command {
 
 using vlk::review::FileRemark;
+using vlk::review::PresetProblem;
 
 namespace {
 
@@ -30,9 +32,10 @@ QByteArray lineOf(const Call& call, const File& file, const FileRemark& remark)
 {
     const SeverityRow& severity = severities[static_cast<int>(remark.severity)];
     if (!call.json) {
-        const QString line = QStringLiteral("%1: ").arg(text(severity.word)) +
-                             inWords(remark.path, {remark.page, remark.caption}) + QStringLiteral(": ") +
-                             remark.text;
+        // A setting of many parts says its caption in its sentence.
+        const bool isNamed = remark.text.startsWith(remark.caption + QStringLiteral(": "));
+        const QString place = inWords(remark.path, {remark.page, isNamed ? QString() : remark.caption});
+        const QString line = QStringLiteral("%1: %2: %3").arg(text(severity.word), place, remark.text);
         return complaint(file.name, line);
     }
     const bool isFinding = remark.kind == FileRemark::Kind::finding;
@@ -48,6 +51,24 @@ QByteArray lineOf(const Call& call, const File& file, const FileRemark& remark)
         .line();
 }
 
+// Keys that it lacks are no default values, so there is no advice on them.
+std::vector<FileRemark> remarksOnPreset(CXmlSection& root, vlk::review::Secrets secrets)
+{
+    std::vector<FileRemark> remarks;
+    for (const PresetProblem& problem : problemsOfPreset(root)) {
+        const vlk::review::DifferenceText words = textOf(problem, secrets);
+        const bool isSetting = vlk::review::FileKeys::all().at(problem.path) >= 0;
+        remarks.push_back({.path = problem.path,
+                           .paths = {problem.path},
+                           .page = isSetting ? words.page : QString(),
+                           .caption = isSetting ? words.caption : QString(),
+                           .text = isSetting && !words.beforeText.isEmpty()
+                                       ? QStringLiteral("%1. %2").arg(words.beforeText, words.note)
+                                       : words.note});
+    }
+    return remarks;
+}
+
 } // namespace
 
 int check(const Call& call, Output& output)
@@ -56,7 +77,9 @@ int check(const Call& call, Output& output)
     const auto work = [&](const File& file) {
         return withConfiguration(call, file, [&](const QByteArray&, vlk::XmlDocument& document) {
             Outcome outcome;
-            for (const FileRemark& remark : checkDocument(*document.root(), secrets)) {
+            const bool isPreset = vlk::review::saysPreset(*document.root());
+            for (const FileRemark& remark : isPreset ? remarksOnPreset(*document.root(), secrets)
+                                                     : checkDocument(*document.root(), secrets)) {
                 outcome.told += lineOf(call, file, remark);
                 outcome.status = found;
             }

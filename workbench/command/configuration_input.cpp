@@ -5,6 +5,7 @@
 #include "command/file_names.h"
 #include "command/output.h"
 #include "command/system_reason.h"
+#include "review/preset.h"
 #include "window/languages.h"
 #include "xml/serialize.h"
 #include "xml/xml_document.h"
@@ -105,8 +106,10 @@ Outcome withConfiguration(const Call& call, const File& file, const TakeConfigur
     const FileKind kind = kindOf(*bytes);
     vlk::XmlDocument document(kind == FileKind::configuration ? *bytes : QByteArray(),
                               QStringLiteral("DEVICE"));
-    if (document.isOpen())
-        return take(*bytes, document);
+    if (document.isOpen()) {
+        const bool isPassedOver = !file.isNamed && vlk::review::saysPreset(*document.root());
+        return isPassedOver ? Outcome{} : take(*bytes, document);
+    }
     if (kind == FileKind::configuration)
         return refusal(call, file.name, whyDamaged(*bytes));
     if (!file.isNamed && kind != FileKind::unknown)

@@ -27,7 +27,7 @@ QString whyDamaged(const QByteArray& bytes);
 Outcome refusal(const Call& call, const QString& name, const QString& reason);
 
 // Opens the file as a configuration and hands it on. What is no configuration is a refusal; below a folder,
-// files of other kinds are passed over.
+// files of other kinds are passed over, and so are presets.
 using TakeConfiguration = std::function<Outcome(const QByteArray& text, vlk::XmlDocument& document)>;
 Outcome withConfiguration(const Call& call, const File& file, const TakeConfiguration& take);
 

@@ -12,6 +12,7 @@
 #include "telemetry/files/export_form.h"
 #include "telemetry/files/filter_parser.h"
 #include "telemetry/files/title_lines.h"
+#include "tracker/event_code.h"
 #include "window/languages.h"
 
 #include <QBuffer>
@@ -54,6 +55,9 @@ FilterNames namesInBothLanguages()
         };
         const vlk::TextsFrom from(texts);
         names.addTexts();
+        for (quint16 event = 0; event <= tracker::kHighestNamedEvent; ++event)
+            names.addWord(languages.textIn(code, tracker::eventKey(event).constData()), vlk::item("Code"),
+                          {double(event), double(event)});
     }
     return names;
 }

@@ -6,6 +6,7 @@
 #include "command/difference_lines.h"
 #include "command/each_file.h"
 #include "command/file_names.h"
+#include "command/preset_problems.h"
 #include "command/system_reason.h"
 #include "plugin/base/replace_file.h"
 #include "review/edit_file.h"
@@ -15,7 +16,6 @@
 
 #include <QFileInfo>
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <mutex>
@@ -140,21 +140,6 @@ int edit(const Call& call, Output& output, const Edit& edit)
     return eachFile(call.files, work, output);
 }
 
-// Wrong whatever else a file holds: ranges and lists of some settings follow others.
-bool isAlwaysWrong(const PresetProblem& problem)
-{
-    using What = PresetProblem::What;
-    if (problem.what == What::unknownKey || problem.what == What::doubled)
-        return true;
-    const int key = FileKeys::all().at(problem.path);
-    const vlk::review::FileKey& place = FileKeys::all()[key];
-    const bool follows = std::ranges::any_of(place.rows, [&](int row) {
-        const vlk::TableLayout::Row& setting = FileKeys::all().layout(place.table).rows[row];
-        return !setting.ranges.empty() || !setting.lists.empty() || !setting.distances.empty();
-    });
-    return problem.what == What::badValue && problem.change != Change::byRule && !follows;
-}
-
 } // namespace
 
 int set(const Call& call, Output& output)
@@ -173,9 +158,7 @@ int apply(const Call& call, Output& output)
     const Outcome outcome =
         withConfiguration(call, {call.preset, true}, [&](const QByteArray& text, vlk::XmlDocument& document) {
             preset = text;
-            std::vector<PresetProblem> problems =
-                vlk::review::applied(*document.root(), vlk::Configuration(vlk::allSettings())).problems;
-            std::erase_if(problems, std::not_fn(isAlwaysWrong));
+            const std::vector<PresetProblem> problems = problemsOfPreset(*document.root());
             return problems.empty() ? Outcome{} : refusal(call, call.preset, sentences(problems));
         });
     output.write(outcome.told);

@@ -27,6 +27,8 @@ struct Facts
 {
     FileKind kind = FileKind::unknown;
     QString model{};
+    QString name{};     // of the object
+    QString objectId{}; // at its first server
     std::optional<qint64> records{};
     std::optional<qint64> gaps{};
     QString from{};
@@ -50,6 +52,8 @@ QByteArray lineOf(const Call& call, const File& file, const Facts& facts)
             .add("file", readable(file.name))
             .add("what", QString::fromLatin1(nameOf(facts.kind)))
             .add("model", facts.model)
+            .add("name", facts.name)
+            .add("objectId", facts.objectId)
             .addRaw("records", number(facts.records))
             .add("from", facts.from)
             .add("to", facts.to)
@@ -59,6 +63,10 @@ QByteArray lineOf(const Call& call, const File& file, const Facts& facts)
     QStringList told{text(words[static_cast<int>(facts.kind)])};
     if (!facts.model.isEmpty())
         told << facts.model;
+    if (!facts.name.isEmpty())
+        told << facts.name.simplified();
+    if (!facts.objectId.isEmpty())
+        told << QStringLiteral("%1: %2").arg(text("cfgt1_032"), facts.objectId.simplified());
     if (facts.records)
         told << text("cli_065").arg(*facts.records);
     if (!facts.from.isNull())
@@ -79,6 +87,15 @@ Outcome telemetryFacts(const Call& call, const File& file, QIODevice& device)
             summary.damages.empty() ? nothing : found};
 }
 
+// Of the section TRANS; null where there is none.
+QString textAt(const CXmlSection& root, const char* group, const char* key)
+{
+    const CXmlSectionPtr transfer = root.existing(QStringLiteral("TRANS"));
+    const CXmlSectionPtr section = transfer ? transfer->existing(QString::fromLatin1(group)) : nullptr;
+    const QString* text = section ? section->find(QString::fromLatin1(key)) : nullptr;
+    return text != nullptr && !text->isEmpty() ? *text : QString();
+}
+
 Outcome documentFacts(const Call& call, const File& file, FileKind kind, const QByteArray& content)
 {
     const QString root = QString::fromLatin1(kind == FileKind::calibration ? vlk::fuelRoot : "DEVICE");
@@ -89,6 +106,11 @@ Outcome documentFacts(const Call& call, const File& file, FileKind kind, const Q
     Facts facts{.kind = kind};
     if (const QString* model = document.root()->find(QStringLiteral("model")))
         facts.model = *model;
+    if (kind == FileKind::configuration) {
+        facts.name = textAt(*document.root(), "OBJECT", "name");
+        const QString id = textAt(*document.root(), "SRV1", "objID");
+        facts.objectId = id == QLatin1String("0") ? QString() : id;
+    }
     if (const auto rows = kind == FileKind::calibration ? vlk::fuelTable(document.root()) : std::nullopt)
         facts.records = static_cast<qint64>(rows->size());
     return {lineOf(call, file, facts)};

@@ -13,9 +13,14 @@ QString translated(const QByteArray& key)
 
 } // namespace
 
+QByteArray eventKey(quint16 code)
+{
+    return "wb_event_" + QByteArray::number(code).rightJustified(3, '0');
+}
+
 QString eventText(quint16 code)
 {
-    const QByteArray key = "wb_event_" + QByteArray::number(code).rightJustified(3, '0');
+    const QByteArray key = eventKey(code);
     QString text = translated(key);
     if (text != QLatin1String(key))
         return text;

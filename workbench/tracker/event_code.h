@@ -2,6 +2,7 @@
 
 // Why a record was made. The words for a code are the text "wb_event_" and three digits.
 
+#include <QByteArray>
 #include <QString>
 #include <QtGlobal>
 
@@ -49,6 +50,10 @@ enum class EventCode : quint16 {
     TagRead = 61,
 };
 
+constexpr quint16 kHighestNamedEvent = 999;
+
+// The key of its words, whether there are such or not.
+QByteArray eventKey(quint16 code);
 // In the language of the application; an unknown code has words too, with its number.
 QString eventText(quint16 code);
 

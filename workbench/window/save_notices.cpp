@@ -96,7 +96,7 @@ void SaveNotices::tellConfiguration(const QString& path)
         return typed.isEmpty() ? saved : saved + QLatin1Char('\n') + typed;
     };
     if (typed.isEmpty())
-        status_.tell(StatusLine::Command, sentence);
+        Q_EMIT saved(sentence, watch_.window());
     else
         warn(sentence);
 }

@@ -13,18 +13,25 @@ QString shortFileName(const QString& name, const QFontMetrics& metrics, int room
     const QRegularExpressionMatch match = period.match(name);
     if (!match.hasMatch())
         return metrics.elidedText(name, Qt::ElideMiddle, room);
-    const QString first = match.captured(2) + QLatin1Char(' ') + match.captured(3);
-    const QString last = match.captured(2) == match.captured(4)
-                             ? match.captured(5)
-                             : match.captured(4) + QLatin1Char(' ') + match.captured(5);
-    const QString times = QStringLiteral("%1 - %2").arg(first, last);
-    const int leastOfVehicle = metrics.averageCharWidth() * 5;
-    for (const QString& tail : {times + match.captured(6), times}) {
-        const int left = room - metrics.horizontalAdvance(QLatin1Char(' ') + tail);
-        if (left >= leastOfVehicle)
-            return metrics.elidedText(match.captured(1), Qt::ElideRight, left) + QLatin1Char(' ') + tail;
+    const auto timesFrom = [&match](int dateAt) {
+        const auto moment = [&](int group) {
+            return match.captured(group).mid(dateAt) + QLatin1Char(' ') + match.captured(group + 1);
+        };
+        const bool isOneDay = match.captured(2) == match.captured(4);
+        return moment(2) + QStringLiteral(" - ") + (isOneDay ? match.captured(5) : moment(4));
+    };
+    const QString times = timesFrom(0);
+    const QString timesOfYear = timesFrom(5);
+    const QString vehicle = match.captured(1);
+    for (const QString& tail : {times + match.captured(6), times, timesOfYear}) {
+        const QString whole = vehicle + QLatin1Char(' ') + tail;
+        if (metrics.horizontalAdvance(whole) <= room)
+            return whole;
     }
-    return metrics.elidedText(times, Qt::ElideRight, room);
+    const int left = room - metrics.horizontalAdvance(QLatin1Char(' ') + timesOfYear);
+    if (left >= metrics.averageCharWidth() * 5)
+        return metrics.elidedText(vehicle, Qt::ElideMiddle, left) + QLatin1Char(' ') + timesOfYear;
+    return metrics.elidedText(timesOfYear, Qt::ElideRight, room);
 }
 
 } // namespace workbench

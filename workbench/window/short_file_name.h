@@ -1,7 +1,8 @@
 #pragma once
 
 // A file name where there is little room. Of a period's file, "KAMAZ 5490 2026-11-20 08-02 - 2026-11-20
-// 17-30.xml", the vehicle gives way first, so that the period can be read; of others the middle.
+// 17-30.xml", a second date that is the first gives way, then the suffix, the years, and only then the middle
+// of the vehicle; of others the middle.
 
 #include <QFontMetrics>
 #include <QString>

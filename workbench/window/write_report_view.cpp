@@ -89,7 +89,10 @@ void WriteReportView::buildTable()
         table_->setColumnWidth(column, letter * 17);
     auto* empty = new EmptyNote(table_);
     texts_.bind([this, empty] {
-        empty->tell(text(report_.time.isValid() ? "wb_report_nothing" : "wb_report_none"));
+        // What is not known is said above.
+        empty->tell(report_.time.isValid() && report_.outcome == RoadReport::Outcome::unknown
+                        ? QString()
+                        : text(report_.time.isValid() ? "wb_report_nothing" : "wb_report_none"));
     });
 }
 

@@ -17,17 +17,21 @@ constexpr std::string_view kRowEnd = "\r\n";
 constexpr std::string_view kEmptyCell = "=\"\";";
 constexpr ItemIndex kFixOfPacket = item("StateNGauge.fixOfPacket");
 
+// Those that are asked for in the order of asking, each once; an element asks for all columns of its own.
 std::vector<CsvColumn> textColumns(const ExportAhead& ahead, const ExportOptions& options)
 {
     std::vector<CsvColumn> columns;
-    std::ranges::copy_if(csvColumns(), std::back_inserter(columns), [&](const CsvColumn& column) {
-        const ItemIndex shown = column.item == item("Time.local") ? item("Time") : column.item;
-        const auto isAsked = [&](const FilterColumn& asked) {
-            return asked == FilterColumn(shown) || asked == FilterColumn(column.element());
-        };
-        return ahead.fields.test(column.field()) &&
-               (options.columns.empty() || std::ranges::any_of(options.columns, isAsked));
-    });
+    const auto isThere = [&](const CsvColumn& column) { return ahead.fields.test(column.field()); };
+    if (options.columns.empty())
+        std::ranges::copy_if(csvColumns(), std::back_inserter(columns), isThere);
+    for (const FilterColumn& asked : options.columns) {
+        std::ranges::copy_if(csvColumns(), std::back_inserter(columns), [&](const CsvColumn& column) {
+            const ItemIndex shown = column.item == item("Time.local") ? item("Time") : column.item;
+            const bool isAsked = asked == FilterColumn(shown) || asked == FilterColumn(column.element());
+            return isAsked && isThere(column) &&
+                   std::ranges::find(columns, column.item, &CsvColumn::item) == columns.end();
+        });
+    }
     return columns;
 }
 
