@@ -124,13 +124,23 @@ bool DifferenceModel::setData(const QModelIndex& index, const QVariant& value, i
 {
     if (role != Qt::CheckStateRole || index.column() != Page)
         return false;
-    const QString& path = lines_[index.row()].difference.path;
-    if (value.toInt() == Qt::Checked)
-        unchosen_.remove(path);
-    else
-        unchosen_.insert(path);
-    Q_EMIT dataChanged(index, index, {role});
+    choose({index.row()}, value.toInt() == Qt::Checked);
     return true;
+}
+
+void DifferenceModel::choose(const QVector<int>& lines, bool isChosen)
+{
+    for (const int line : lines) {
+        const review::Difference& difference = lines_[line].difference;
+        if (difference.key < 0)
+            continue;
+        if (isChosen)
+            unchosen_.remove(difference.path);
+        else
+            unchosen_.insert(difference.path);
+    }
+    if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0, Page), index(rowCount() - 1, Page), {Qt::CheckStateRole});
 }
 
 Qt::ItemFlags DifferenceModel::flags(const QModelIndex& index) const

@@ -27,6 +27,8 @@ public:
     const review::Difference& at(int line) const { return lines_[line].difference; }
     // How many lines there are at first of what cannot be applied; the reason stands in place of what is now.
     int problems() const { return problems_; }
+    // Lines that cannot be applied stay as they are.
+    void choose(const QVector<int>& lines, bool isChosen);
     // Keys of the chosen lines that can be taken over.
     std::vector<int> chosenKeys() const;
     // With a heading, as a spreadsheet takes it.

@@ -59,18 +59,19 @@ EditKeeper::EditKeeper(ConfigurationReview& review, QWidget& window) : review_(r
     connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &EditKeeper::leave);
 }
 
-void EditKeeper::begin(const QString& folder, const QString& subject)
+void EditKeeper::begin(const QString& folder, const QString& subject, bool staysAsOpened)
 {
     due_.stop();
     subject_ = subject;
     path_ = review::recoveryPath(folder, subject);
     claim_.reset();
     beginWith(review_.document());
+    inFile_ = staysAsOpened ? beginning_ : Beginning();
 }
 
 void EditKeeper::beginWith(const QByteArray& document)
 {
-    beginnings_.fill(document);
+    beginning_.fill(document);
     kept_.clear();
 }
 
@@ -79,13 +80,14 @@ bool EditKeeper::keep()
     due_.stop();
     if (subject_.isEmpty())
         return true;
-    const QByteArray& beginning = beginnings_[review_.isQuick()];
+    const QByteArray& beginning = beginning_[review_.isQuick()];
     const QByteArray now = review_.document();
     QString reason;
-    isEdited_ = now != beginning;
+    const bool isEdited = now != beginning && now != inFile_[review_.isQuick()];
+    shown_ = now;
     if (now == kept_)
         return true;
-    if (!isEdited_) {
+    if (!isEdited) {
         if (QFile::exists(path_) && !QFile::remove(path_))
             return false;
         kept_.clear();
@@ -127,7 +129,7 @@ void EditKeeper::tellKept() const
 {
     if (kept_.isEmpty())
         return;
-    const auto edited = review::editedKeys({subject_, {}, beginnings_[review_.isQuick()], kept_});
+    const auto edited = review::editedKeys({subject_, {}, beginning_[review_.isQuick()], kept_});
     if (!edited.empty())
         qCWarning(lcKept) << edited.size() << "changes are kept";
 }
@@ -135,12 +137,15 @@ void EditKeeper::tellKept() const
 void EditKeeper::switched()
 {
     const bool isQuick = review_.isQuick();
-    beginnings_[isQuick] = isEdited_ ? beginnings_[!isQuick] : review_.document();
+    // As they were kept last, before the change.
+    for (Beginning* state : {&beginning_, &inFile_})
+        (*state)[isQuick] = (*state)[!isQuick] == shown_ ? review_.document() : (*state)[!isQuick];
 }
 
 void EditKeeper::saved()
 {
     beginWith(review_.document());
+    inFile_ = {};
     keep();
     Q_EMIT safe();
 }

@@ -26,7 +26,8 @@ public:
     EditKeeper(ConfigurationReview& review, QWidget& window);
 
     // The configuration that is known by `subject` has been opened; what was edited before has been left.
-    void begin(const QString& folder, const QString& subject);
+    // `staysAsOpened`: a file that a write to the tracker does not change.
+    void begin(const QString& folder, const QString& subject, bool staysAsOpened);
     // At once. False when the disk refused.
     bool keep();
     // The same for edits that go out of sight: what is still being typed counts.
@@ -61,6 +62,8 @@ private:
         QString path; // where it was kept
     };
 
+    using Beginning = std::array<QByteArray, 2>; // without an edit, in the full and in the quick window
+
     void beginWith(const QByteArray& document);
     void setFailure(const QString& reason);
     void tellKept() const;
@@ -69,10 +72,11 @@ private:
     QTimer due_;
     QString subject_;
     QString path_;
-    std::optional<FileClaim> claim_;       // while the edits are in sight
-    std::array<QByteArray, 2> beginnings_; // without an edit, in the full and in the quick window
-    QByteArray kept_;                      // what the file is known to hold
-    bool isEdited_ = false;
+    std::optional<FileClaim> claim_;     // while the edits are in sight
+    Beginning beginning_;                // as opened, saved or written last
+    Beginning inFile_;                   // as the file still holds it; empty where none does
+    QByteArray kept_;                    // what the file of the edits is known to hold
+    QByteArray shown_;                   // what there was when it was asked to keep last
     std::vector<HandedOver> handedOver_; // that may still be confirmed, the last ones
     QString failure_;
 };

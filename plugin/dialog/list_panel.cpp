@@ -137,11 +137,21 @@ bool ListPanel::eventFilter(QObject* watched, QEvent* event)
         take(line);
         return true;
     case Qt::Key_Space:
-        toggle(line);
+        toggle(selectedLines());
         return true;
     default:
         return QWidget::eventFilter(watched, event);
     }
+}
+
+QVector<int> ListPanel::selectedLines() const
+{
+    QVector<int> lines{table_->currentIndex().row()};
+    for (const QModelIndex& index : table_->selectionModel()->selectedRows()) {
+        if (!lines.contains(index.row()))
+            lines << index.row();
+    }
+    return lines;
 }
 
 void ListPanel::keyPressEvent(QKeyEvent* event)

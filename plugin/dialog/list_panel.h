@@ -49,13 +49,15 @@ protected:
     void setTitle(const QString& title, QWidget* buddy);
     virtual void refresh() = 0;
     virtual void take(int line) = 0;
-    // The space bar, on a line.
-    virtual void toggle(int /*line*/) {}
+    // The space bar, on the lines that are selected; the first one is the current one.
+    virtual void toggle(const QVector<int>& /*lines*/) {}
 
     QTableView* table() const { return table_; }
     EmptyNote* empty() const { return empty_; }
 
 private:
+    QVector<int> selectedLines() const;
+
     QLabel* title_;
     QTableView* table_;
     EmptyNote* empty_ = nullptr;

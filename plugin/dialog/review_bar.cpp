@@ -27,6 +27,8 @@ namespace {
 constexpr int kMostHits = 100;
 constexpr int kLinesOnShow = 10;
 constexpr int kMarkSide = 10;
+const QStringList kUndoKeys{QStringLiteral("Ctrl+Z")};
+const QStringList kRedoKeys{QStringLiteral("Ctrl+Shift+Z"), QStringLiteral("Ctrl+Y")};
 const QString kDifferencesKey = QStringLiteral("Ctrl+D");
 const QString kAdviceKey = QStringLiteral("Ctrl+Shift+D");
 
@@ -106,9 +108,11 @@ ReviewBar::ReviewBar(ConfigurationReview& review, SettingPlaces& places, QWidget
             [this](bool on) { Q_EMIT panelRequested(on ? Advice : None); });
     connect(&review_, &ConfigurationReview::changed, this, &ReviewBar::showState);
     connect(new QShortcut(QKeySequence::Find, parent), &QShortcut::activated, this, &ReviewBar::focusFind);
-    connect(new QShortcut(QKeySequence::Undo, parent), &QShortcut::activated, undo_, &QToolButton::click);
-    connect(new QShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+Z")), parent), &QShortcut::activated, redo_,
-            &QToolButton::click);
+    for (const auto& [button, keys] : {std::pair(undo_, kUndoKeys), std::pair(redo_, kRedoKeys)}) {
+        for (const QString& key : keys)
+            connect(new QShortcut(QKeySequence(key), parent), &QShortcut::activated, button,
+                    &QToolButton::click);
+    }
     connect(new QShortcut(QKeySequence(kDifferencesKey), parent), &QShortcut::activated, differences_,
             &QToolButton::toggle);
     connect(new QShortcut(QKeySequence(kAdviceKey), parent), &QShortcut::activated, advice_,
@@ -131,11 +135,11 @@ void ReviewBar::retranslate()
 void ReviewBar::showState()
 {
     const EditHistory& history = review_.history();
-    const std::tuple<QToolButton*, const char*, QString> steps[] = {{undo_, "rev_124", history.undoText()},
-                                                                    {redo_, "rev_125", history.redoText()}};
-    for (const auto& [button, key, step] : steps) {
+    const std::tuple<QToolButton*, const char*, QString, QStringList> steps[] = {
+        {undo_, "rev_124", history.undoText(), kUndoKeys}, {redo_, "rev_125", history.redoText(), kRedoKeys}};
+    for (const auto& [button, key, step, keys] : steps) {
         const QString text = step.isEmpty() ? tr(key) : QStringLiteral("%1: %2").arg(tr(key), step);
-        button->setToolTip(text);
+        button->setToolTip(QStringLiteral("%1 (%2)").arg(text, keys.join(QStringLiteral(", "))));
         button->setAccessibleName(text);
         button->setEnabled(!step.isEmpty());
     }

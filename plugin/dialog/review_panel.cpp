@@ -10,6 +10,7 @@
 #include "typing/table_look.h"
 #include "windows/named_widget.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
@@ -19,6 +20,7 @@
 #include <QTableView>
 
 #include <algorithm>
+#include <numeric>
 
 namespace vlk {
 
@@ -43,12 +45,18 @@ ReviewPanel::ReviewPanel(ConfigurationReview& review, SettingPlaces& places, QWi
       takeOver_(namedWidget<QPushButton>("pushButton_TakeOver", this)),
       preset_(namedWidget<QPushButton>("pushButton_SavePreset", this)),
       copy_(namedWidget<QPushButton>("pushButton_CopyDifferences", this)),
-      csv_(namedWidget<QPushButton>("pushButton_SaveDifferences", this))
+      csv_(namedWidget<QPushButton>("pushButton_SaveDifferences", this)),
+      all_(namedWidget<QAction>("action_MarkAll", this)), none_(namedWidget<QAction>("action_MarkNone", this))
 {
     setModel(model_);
     table()->setIconSize({markSize, markSize});
     for (const char* key : kSides)
         against_->addItem(QLatin1String(key));
+    for (const auto& [action, isChosen] : {std::pair(all_, true), std::pair(none_, false)}) {
+        table()->addAction(action);
+        connect(action, &QAction::triggered, this, [this, isChosen = isChosen] { chooseAll(isChosen); });
+    }
+    table()->setContextMenuPolicy(Qt::ActionsContextMenu);
     addToHead({against_, takeOver_, preset_, copy_, csv_});
     connect(&review_, &ConfigurationReview::changed, this, [this] {
         if (isVisible())
@@ -73,6 +81,8 @@ void ReviewPanel::retranslate()
         against_->setItemText(side++, tr(key));
     preset_->setText(tr("rev_194"));
     preset_->setToolTip(tr("rev_195"));
+    all_->setText(tr("rev_248"));
+    none_->setText(tr("rev_249"));
     copy_->setText(tr("rev_114"));
     csv_->setText(QStringLiteral("CSV…"));
     csv_->setToolTip(tr("rev_115"));
@@ -91,6 +101,8 @@ void ReviewPanel::showState()
     takeOver_->setText(tr(kVerbs[against]));
     for (QPushButton* button : {takeOver_, preset_})
         button->setEnabled(!model_.chosenKeys().empty());
+    for (QAction* action : {all_, none_})
+        action->setEnabled(model_.rowCount() > 0);
     for (QPushButton* button : {copy_, csv_})
         button->setEnabled(model_.rowCount() > 0);
     empty()->tell(tr("rev_117"));
@@ -131,11 +143,18 @@ void ReviewPanel::take(int line)
         places_.goTo(review::FileKeys::all()[difference.key].table, difference.row);
 }
 
-void ReviewPanel::toggle(int line)
+// All become what the first one becomes.
+void ReviewPanel::toggle(const QVector<int>& lines)
 {
-    const QModelIndex box = model_.index(line, DifferenceModel::Page);
-    const bool isChosen = box.data(Qt::CheckStateRole).toInt() == Qt::Checked;
-    model_.setData(box, isChosen ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+    const QModelIndex box = model_.index(lines.first(), DifferenceModel::Page);
+    model_.choose(lines, box.data(Qt::CheckStateRole).toInt() != Qt::Checked);
+}
+
+void ReviewPanel::chooseAll(bool isChosen)
+{
+    QVector<int> lines(model_.rowCount());
+    std::iota(lines.begin(), lines.end(), 0);
+    model_.choose(lines, isChosen);
 }
 
 void ReviewPanel::takeOver()

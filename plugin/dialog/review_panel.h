@@ -10,6 +10,7 @@
 
 #include <functional>
 
+class QAction;
 class QComboBox;
 class QPushButton;
 
@@ -36,11 +37,12 @@ Q_SIGNALS:
 protected:
     void refresh() override { model_.refresh(); }
     void take(int line) override;
-    void toggle(int line) override;
+    void toggle(const QVector<int>& lines) override;
 
 private:
     void showState();
     bool chooseAgainst(int index);
+    void chooseAll(bool isChosen);
     void takeOver();
     void saveCsv();
 
@@ -52,6 +54,8 @@ private:
     QPushButton* preset_;
     QPushButton* copy_;
     QPushButton* csv_;
+    QAction* all_; // of the menu
+    QAction* none_;
 };
 
 } // namespace vlk

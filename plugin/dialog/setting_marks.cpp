@@ -156,6 +156,10 @@ void SettingMarks::addAdvice(const PageSettings& page, Spots* spots) const
             if (row >= 0 && review::partCount(values.setting(row)) == 0)
                 add({row, -1});
         }
+        for (const auto& [path, part] : finding.parts) {
+            if (const int row = rowOn(page, review_.settingAt(path)); row >= 0)
+                add({row, part});
+        }
         // Of a setting of many parts those that a mend would change.
         for (const review::Mend& mend : finding.mends) {
             const int row = rowOn(page, review_.settingAt(mend.path));

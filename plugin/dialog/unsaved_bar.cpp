@@ -78,12 +78,20 @@ int UnsavedBar::changes(const Offer& offer) const
         std::ranges::count_if(offer.keys, [&](int key) { return !(offer.after.at(key) == now.at(key)); }));
 }
 
+// And not taken back since, whatever else became of what it brought.
+bool UnsavedBar::isBroughtBack(const Offer& offer) const
+{
+    const review::FileState& now = review_.differences().after();
+    return offer.replaced &&
+           !std::ranges::all_of(offer.keys, [&](int key) { return now.at(key) == offer.replaced->at(key); });
+}
+
 // An offer whose changes are there is over, and comes again when they are taken back.
 void UnsavedBar::refresh()
 {
     for (int number = 1; number <= static_cast<int>(offers_.size()); ++number) {
         Offer& offer = offers_[number - 1];
-        const int count = offer.isClosed ? 0 : changes(offer);
+        const int count = offer.isClosed || isBroughtBack(offer) ? 0 : changes(offer);
         if (count == offer.told)
             continue;
         offer.told = count;
@@ -127,7 +135,9 @@ void UnsavedBar::showOffer(int number)
 
 void UnsavedBar::bringBack(int number)
 {
-    review_.bringBack(offers_[number - 1].kept.unsaved, [] { return words("rev_144"); });
+    Offer& offer = offers_[number - 1];
+    offer.replaced = review_.differences().after();
+    review_.bringBack(offer.kept.unsaved, [] { return words("rev_144"); });
     endComparison();
 }
 
@@ -147,7 +157,7 @@ void UnsavedBar::endComparison()
 void UnsavedBar::drop()
 {
     for (Offer& offer : offers_) {
-        if (offer.isDiscarded || changes(offer) == 0)
+        if (offer.isDiscarded || isBroughtBack(offer) || changes(offer) == 0)
             offer.isClosed |= QFile::remove(offer.kept.path);
     }
 }

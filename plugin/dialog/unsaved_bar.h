@@ -9,6 +9,7 @@
 #include "review/recovery.h"
 #include "typing/notice_bar.h"
 
+#include <optional>
 #include <vector>
 
 namespace vlk {
@@ -23,7 +24,7 @@ public:
     // The configuration that is known by `subject` has been opened.
     void begin(const QString& folder, const QString& subject);
     // What there is now is kept, saved or written: offers that would change nothing go from the disk, and so
-    // do those that are discarded.
+    // do those that are discarded or were brought back.
     void drop();
     // What became of a file that the window has saved.
     void tellFile(const std::function<Notice()>& notice);
@@ -43,11 +44,13 @@ private:
         bool isShown = false;
         bool isDiscarded = false;
         bool isClosed = false;
-        int told = 0; // how many settings it was said to change
+        std::optional<review::FileState> replaced{}; // by bringing it back
+        int told = 0;                                // how many settings it was said to change
     };
 
     bool isInNewer(const Offer& offer) const;
     int changes(const Offer& offer) const;
+    bool isBroughtBack(const Offer& offer) const;
     void refresh();
     void tellOffer(int number);
     Notice noticeOf(int number);

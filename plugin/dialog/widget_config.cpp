@@ -287,7 +287,7 @@ void VLK_Widget_Config::open(const vlk::OpenRequest& request, char* ussdBuffer)
     if (vlkDevice) {
         const QString folder = vlkDevice->xmlFolder();
         const QString subject = vlk::editSubject(path, request.fromFile == 1);
-        keeper_.begin(folder, subject);
+        keeper_.begin(folder, subject, !file_.isEmpty());
         unsaved_->begin(folder, subject);
     }
     vlk::fitToScreen(this);

@@ -5,6 +5,7 @@
 #include "link/device.h"
 #include "peripherals/form_config_bluetooth_device.h"
 #include "settings/bluetooth_settings.h"
+#include "typing/field_mark.h"
 #include "windows/disabled_reason.h"
 #include "windows/wnd_config_full.h"
 
@@ -55,6 +56,8 @@ VLK_Form_Config_Bluetooth::VLK_Form_Config_Bluetooth(QWidget* parent)
             &This::slot_currentIndexChanged_BtDevice);
     connect(ui_->treeWidget_Bt_List, &QTreeWidget::customContextMenuRequested, this,
             [this](const QPoint& at) { offerSensors(ui_->treeWidget_Bt_List->viewport()->mapToGlobal(at)); });
+    connect(&settings_, &vlk::PageSettings::changed, this, &This::markBound);
+    connect(&settings_, &vlk::PageSettings::shown, this, &This::markBound);
     retranslate();
     setDefaults();
 }
@@ -83,6 +86,7 @@ void VLK_Form_Config_Bluetooth::retranslate()
     }
     settings_.retranslate();
     sensors_->retranslate();
+    markBound();
 }
 
 void VLK_Form_Config_Bluetooth::setDefaults()
@@ -133,6 +137,30 @@ void VLK_Form_Config_Bluetooth::clearList()
 {
     ui_->treeWidget_Bt_List->clear();
     found_.clear();
+}
+
+// The tool tip names the sensor.
+void VLK_Form_Config_Bluetooth::markIfBound(QTreeWidgetItem* item)
+{
+    QString bound;
+    for (int sensor = VLK_Form_Config_Bluetooth_Device::kSensors; sensor > 0; --sensor) {
+        const QString address = sensors_->address(sensor);
+        if (!address.isEmpty() && address.compare(item->text(1), Qt::CaseInsensitive) == 0)
+            bound = sensors_->title(sensor);
+    }
+    if (bound == item->toolTip(0))
+        return;
+    item->setIcon(0, bound.isEmpty() ? QIcon()
+                                     : QIcon(vlk::markPixmap(vlk::Mark::right, palette(), vlk::markSize,
+                                                             devicePixelRatioF())));
+    item->setToolTip(0, bound);
+    item->setData(0, Qt::AccessibleDescriptionRole, bound);
+}
+
+void VLK_Form_Config_Bluetooth::markBound()
+{
+    for (int row = 0; row < ui_->treeWidget_Bt_List->topLevelItemCount(); ++row)
+        markIfBound(ui_->treeWidget_Bt_List->topLevelItem(row));
 }
 
 void VLK_Form_Config_Bluetooth::endSearch(bool canAdd)
@@ -201,7 +229,9 @@ void VLK_Form_Config_Bluetooth::onDeviceFound(const vlk::BtDevice& device)
     if (found_.contains({name, mac}))
         return;
     found_.insert({name, mac});
-    ui_->treeWidget_Bt_List->addTopLevelItem(new QTreeWidgetItem({name, mac}));
+    auto* item = new QTreeWidgetItem({name, mac});
+    markIfBound(item);
+    ui_->treeWidget_Bt_List->addTopLevelItem(item);
     ui_->label_Message->setText(QStringLiteral("%1: %2").arg(tr("cfgt17_016"), name.toHtmlEscaped()));
 }
 
@@ -233,9 +263,17 @@ void VLK_Form_Config_Bluetooth::offerSensors(const QPoint& where)
     menu->setObjectName(QStringLiteral("menu_Bt_Sensors"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (int sensor = 1; sensor <= VLK_Form_Config_Bluetooth_Device::kSensors; ++sensor) {
-        menu->addAction(
-            QStringLiteral("%1 %2").arg(tr("cfgt17_024")).arg(sensor), this,
-            [this, sensor, name = item->text(0), mac = item->text(1)] { sensors_->bind(sensor, mac, name); });
+        QString text = sensors_->title(sensor);
+        const QString address = sensors_->address(sensor);
+        if (!address.isEmpty()) {
+            QString bound = settings_.value(QStringLiteral("SENS%1/name").arg(sensor));
+            if (bound.isEmpty())
+                bound = address;
+            text += QStringLiteral(": ") + bound.replace(QLatin1Char('&'), QLatin1String("&&"));
+        }
+        menu->addAction(text, this, [this, sensor, name = item->text(0), mac = item->text(1)] {
+            sensors_->bind(sensor, mac, name);
+        });
     }
     menu->popup(where);
 }

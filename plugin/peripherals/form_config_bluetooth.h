@@ -13,6 +13,7 @@
 
 #include <memory>
 
+class QTreeWidgetItem;
 class VLK_Form_Config_Bluetooth_Device;
 
 namespace Ui {
@@ -64,6 +65,9 @@ private:
     void setConnected(bool connected);
     void applyConnection();
     void clearList();
+    // Devices that a sensor is bound to already have a mark.
+    void markIfBound(QTreeWidgetItem* item);
+    void markBound();
     void endSearch(bool canAdd);
     void offerSensors(const QPoint& where);
 

@@ -12,6 +12,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 static_assert(VLK_Form_Config_Bluetooth_Device::kSensors == vlk::kBluetoothSensors);
@@ -60,6 +61,7 @@ VLK_Form_Config_Bluetooth_Device::Sensor VLK_Form_Config_Bluetooth_Device::makeS
         grid->setColumnStretch(column + 1, 1);
         ++place;
     }
+    sensor.types = types;
     layout->addLayout(grid);
     sensor.more = vlk::numberedWidget<QGroupBox>("groupBox_More_Sens_%1", number);
     auto* more = new QVBoxLayout(sensor.more);
@@ -95,7 +97,7 @@ void VLK_Form_Config_Bluetooth_Device::retranslate()
 {
     for (int number = 1; number <= kSensors; ++number) {
         const Sensor& sensor = sensors_[number - 1];
-        sensor.box->setTitle(QStringLiteral("%1 %2").arg(tr("cfgt17_024")).arg(number));
+        sensor.box->setTitle(title(number));
         sensor.more->setTitle(tr("cfgt17_027"));
         sensor.type->retranslate();
     }
@@ -103,9 +105,28 @@ void VLK_Form_Config_Bluetooth_Device::retranslate()
 
 void VLK_Form_Config_Bluetooth_Device::bind(int sensor, const QString& mac, const QString& name)
 {
+    const Sensor& bound = sensors_[sensor - 1];
     settings_.edit(QStringLiteral("SENS%1/macaddr").arg(sensor), mac);
-    if (sensors_[sensor - 1].name->isEnabled())
+    // One without a type gets it later, and then may need the name.
+    if (bound.name->isEnabled() || bound.type->type() == 0)
         settings_.edit(QStringLiteral("SENS%1/name").arg(sensor), name);
+    for (QWidget* outer = parentWidget(); outer; outer = outer->parentWidget()) {
+        if (auto* area = qobject_cast<QScrollArea*>(outer))
+            area->ensureWidgetVisible(bound.box);
+    }
+    bound.types->setFocus(Qt::OtherFocusReason);
+}
+
+QString VLK_Form_Config_Bluetooth_Device::title(int sensor) const
+{
+    return QStringLiteral("%1 %2").arg(tr("cfgt17_024")).arg(sensor);
+}
+
+QString VLK_Form_Config_Bluetooth_Device::address(int sensor) const
+{
+    const QString address = settings_.value(QStringLiteral("SENS%1/macaddr").arg(sensor));
+    // An input mask leaves its colons in an empty edit.
+    return QString(address).remove(QLatin1Char(':')).isEmpty() ? QString() : address;
 }
 
 QString VLK_Form_Config_Bluetooth_Device::keyToDisplay(const QString& key) const

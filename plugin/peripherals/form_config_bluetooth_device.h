@@ -8,6 +8,7 @@
 
 #include <array>
 
+class QComboBox;
 class QGroupBox;
 class QLineEdit;
 class VLK_Form_Config_Bluetooth_Device_Type;
@@ -30,8 +31,12 @@ public:
 
     // `sensor` counts from 1.
     VLK_Form_Config_Bluetooth_Device_Type* type(int sensor) const { return sensors_[sensor - 1].type; }
-    // Binds a sensor to a device that was found.
+    // Binds a sensor to a device that was found, and goes to it.
     void bind(int sensor, const QString& mac, const QString& name);
+    // "Sensor 1"
+    QString title(int sensor) const;
+    // The address that a sensor is bound to; empty without one.
+    QString address(int sensor) const;
 
     // The first sensor that knows the user parameter.
     QString keyToDisplay(const QString& key) const;
@@ -67,6 +72,7 @@ private:
     {
         QGroupBox* box;
         QGroupBox* more;
+        QComboBox* types;
         QLineEdit* name;
         VLK_Form_Config_Bluetooth_Device_Type* type;
     };

@@ -169,6 +169,11 @@ Finding findingOf(const BoundRule& bound, const Facts& facts)
         if (path)
             finding.paths << numberedName(path, bound.numbers);
     }
+    for (const BoundCondition& condition : bound.all) {
+        if (condition.condition->test == Condition::Test::digitOn)
+            finding.parts.emplace_back(numberedName(condition.condition->path, bound.numbers),
+                                       condition.position);
+    }
     if (rule.mendPath)
         finding.mends.push_back(
             {numberedName(rule.mendPath, bound.numbers), QString::fromLatin1(rule.mendValue)});

@@ -223,7 +223,8 @@ constexpr auto kTrackRules = rulesOf(
         .naming("TRACK/POINTS/moveTimerSens"),
     withoutIgnition("stop_ignition", "TRACK/COORDAVER/sensors")
         .when(isOn("TRACK/COORDFLT/use"), isOn("TRACK/COORDAVER/mode"),
-              like("TRACK/COORDAVER/sensors", "^10"), kNoIgnition),
+              digitOn("TRACK/COORDAVER/sensors", kIgnition), like("TRACK/COORDAVER/sensors", "^.0"),
+              kNoIgnition),
     rule("motion_sensor", warning, "adv_056")
         .when(isOn("TRACK/POINTS/useMoveSens"), is("ACCEL/SENSORS/sh3", "0.0"))
         .naming("ACCEL/SENSORS/sh3", "TRACK/POINTS/useMoveSens"),

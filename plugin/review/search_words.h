@@ -12,11 +12,12 @@ struct SearchWords
 };
 
 inline constexpr SearchWords kSearchWords[] = {
-    {"TEMPSENS/SENS/min", "rev_230"},       {"TEMPSENS/SENS/max", "rev_230"},
+    {"TEMPSENS/SENS/min", "rev_230"},       {"TEMPSENS/SENS/max", "rev_239"},
     {"SYSTEM/PWRSENS/alarmLvl", "rev_231"}, {"SYSTEM/PWRSENS/restoreLvl", "rev_231"},
     {"SENSORS/IN/normState", "rev_232"},    {"OUTPUTS/LINE/mode", "rev_233"},
     {"TRANS/AP/name", "rev_234"},           {"TRANS/SRV/addr", "rev_235"},
-    {"TRACK/POINTS/maxSpeed", "rev_236"},
+    {"TRACK/POINTS/maxSpeed", "rev_236"},   {"BLUETOOTH/GLOBAL/use", "rev_237"},
+    {"BLUETOOTH/SENS/type", "rev_238"},     {"RS485/OPTIONS/owner", "rev_238"},
 };
 
 } // namespace vlk::review

@@ -163,6 +163,20 @@ private Q_SLOTS:
         QVERIFY(offer().isEmpty());
     }
 
+    // What the file still holds is kept there; what the tracker held before a write is an edit.
+    void takenBackBehindAWrite()
+    {
+        for (const QString source : {"file", "tracker"}) {
+            open(source);
+            edit();
+            written();
+            press("toolButton_Undo");
+            press("toolButton_Undo");
+            window->close();
+            QCOMPARE(files().size(), source == "tracker" ? 1 : 0);
+        }
+    }
+
     // The cross leaves it for the next time; once it has been shown it can be discarded. New edits beside it
     // are kept beside it.
     void shownAndLeft()
@@ -194,6 +208,8 @@ private Q_SLOTS:
         QCOMPARE(offer(), QString("rev_140: 2"));
         press("label_Unsaved_Action2");
         type(timer, "<All>60<Tab>");
+        type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "<All>5556<Tab>"); // of what was brought back
+        QVERIFY(offer().isEmpty());
         window->close();
         // The same once more, as a death behind "Bring back" leaves it.
         QFile::copy(files()[0], QString(files()[0]).replace('-', "-0"));

@@ -143,8 +143,14 @@ private Q_SLOTS:
         QCOMPARE(port->value(), 6666);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(port->value(), was);
-        QTest::keyClick(dialog_.get(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-        QCOMPARE(port->value(), 6666);
+        for (const auto& [key, shift] :
+             {std::pair(Qt::Key_Z, Qt::ShiftModifier), std::pair(Qt::Key_Y, Qt::NoModifier)}) {
+            QTest::keyClick(dialog_.get(), key, Qt::ControlModifier | shift);
+            QCOMPARE(port->value(), 6666);
+            QTest::keyClick(dialog_.get(), Qt::Key_Z, Qt::ControlModifier);
+            QCOMPARE(port->value(), was);
+        }
+        QVERIFY(child<QToolButton>("toolButton_Redo")->toolTip().endsWith("(Ctrl+Shift+Z, Ctrl+Y)"));
     }
 
     // In a line too: first what is being typed there, then the last step, wherever it was.
@@ -315,8 +321,20 @@ private Q_SLOTS:
         QVERIFY(table->isVisible());
         QCOMPARE(table->model()->rowCount(), 2);
         QCOMPARE(child<QToolButton>("toolButton_Differences")->text(), QString("2"));
-        // Of two lines one is left out, and is the one that stays.
+        // All at once, by keys and from the menu.
         table->setFocus();
+        const auto* takeOver = child<QPushButton>("pushButton_TakeOver");
+        QTest::keyClick(table, Qt::Key_A, Qt::ControlModifier);
+        for (const bool isChosen : {false, true}) {
+            QTest::keyClick(table, Qt::Key_Space);
+            QCOMPARE(takeOver->isEnabled(), isChosen);
+        }
+        for (const char* action : {"action_MarkNone", "action_MarkAll"}) {
+            child<QAction>(action)->trigger();
+            QCOMPARE(takeOver->isEnabled(), action == QString("action_MarkAll"));
+        }
+        table->clearSelection();
+        // Of two lines one is left out, and is the one that stays.
         table->setCurrentIndex(table->model()->index(0, 0));
         QTest::keyClick(table, Qt::Key_Space);
         child<QPushButton>("pushButton_TakeOver")->click();
@@ -417,6 +435,18 @@ private Q_SLOTS:
         table->setFocus();
         QTest::keyClick(table, Qt::Key_Escape);
         QVERIFY(!table->isVisible());
+    }
+
+    // Advice about one of many boxes marks that box.
+    void markOfOneOfManyBoxes()
+    {
+        open({});
+        child<QTabWidget>("tabWidget")->setCurrentIndex(2);
+        dialog_->review().mend(
+            {{"SENSORS/IN1/ign", "0"}, {"TRACK/POINTS/useTimer", "1"}, {"TRACK/POINTS/moveTimerSens", "110"}},
+            [] { return QString(); });
+        QVERIFY(child<QWidget>("checkBox_TmrFlag_In1")->toolTip().contains("adv_044"));
+        QVERIFY(!child<QWidget>("checkBox_TmrFlag_Engine")->toolTip().contains("adv_044"));
     }
 
     // Its form is made when it is first needed, and is compared from the beginning.

@@ -55,6 +55,10 @@ private Q_SLOTS:
         auto* edit = get<QLineEdit>("GPRSSrv_lineEdit_IP_DNS_Main");
         edit->setText(address);
         QTEST(edit->toolTip() == QString("cfgt1_125"), "marked");
+        QFETCH(bool, marked);
+        edit->setText(address + ' ');
+        QCOMPARE(edit->toolTip(), QString(marked ? "cfgt1_125" : "typed_blanks"));
+        edit->setText(address);
         QCOMPARE(saved("SRV1/addr"), address);
     }
 

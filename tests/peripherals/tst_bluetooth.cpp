@@ -157,17 +157,25 @@ private Q_SLOTS:
         page().deviceConnected();
         page().onDeviceFound(found("TD_710612", "C4:64:E3:0B:52:10"));
         page().onSearchEvent('1');
-        load({{"SENS3/type", "1"}});
+        load({{"SENS1/macaddr", "c4:64:e3:0b:52:11"}, {"SENS2/type", "2"}, {"SENS3/type", "1"}});
         page().show();
+        const QTreeWidgetItem* item = child<QTreeWidget>("treeWidget_Bt_List")->topLevelItem(0);
+        QVERIFY(item->icon(0).isNull());
         press("pushButton_Bt_Add");
         const QList<QAction*> sensors = child<QMenu>("menu_Bt_Sensors")->actions();
         QCOMPARE(sensors.size(), 4);
-        sensors[2]->trigger();
-        sensors[3]->trigger();
-        QCOMPARE(notSaved({{"SENS3/macaddr", "C4:64:E3:0B:52:10"},
+        QCOMPARE(sensors[0]->text(), QString("cfgt17_024 1: c4:64:e3:0b:52:11"));
+        QCOMPARE(sensors[3]->text(), QString("cfgt17_024 4"));
+        for (const int sensor : {1, 2, 3})
+            sensors[sensor]->trigger();
+        QCOMPARE(page().focusWidget(), get("comboBox_Type_Sens_4"));
+        QVERIFY(!item->icon(0).isNull());
+        QCOMPARE(item->toolTip(0), QString("cfgt17_024 2"));
+        QCOMPARE(notSaved({{"SENS2/name", ""},
+                           {"SENS3/macaddr", "C4:64:E3:0B:52:10"},
                            {"SENS3/name", "TD_710612"},
                            {"SENS4/macaddr", "C4:64:E3:0B:52:10"},
-                           {"SENS4/name", ""}}),
+                           {"SENS4/name", "TD_710612"}}),
                  QStringList());
     }
 

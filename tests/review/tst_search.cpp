@@ -54,6 +54,13 @@ private Q_SLOTS:
             .row("what it is also called", "тревога температура", "TEMPSENS/SENS1/min")
             .row("the same in the other language", "temperature alarms", "TEMPSENS/SENS1/min")
             .row("the whole caption of a switch", "использовать сервер", "TRANS/SRV1/use")
+            .row("SIM card in Russian", "сим карта", "TRANS/AP1/name")
+            .row("SIM card for short", "симка", "TRANS/AP1/name")
+            .row("Bluetooth in Russian", "блютуз", "BLUETOOTH/GLOBAL/use")
+            .row("fuel sensor for short", "дут", "BLUETOOTH/SENS1/type")
+            .row("an end of a range", "температура максимум", "TEMPSENS/SENS1/max")
+            .row("speed limit", "speed limit", "TRACK/POINTS/maxSpeed")
+            .row("immobilizer", "immobilizer", "OUTPUTS/LINE1/mode")
             .row("no secret by its value", "geheim", "")
             .row("nothing", "qwertz", "")
             .row("a word that is nowhere", "порт qwertz", "");

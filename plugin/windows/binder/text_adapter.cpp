@@ -36,8 +36,13 @@ void TextAdapter::expect()
         return;
     TextEntry::join(edit_)->doubt(
         [expected = QRegularExpression(QLatin1String(text_.expectedPattern)),
-         complaint = QCoreApplication::translate("vlk", text_.unexpectedKey)](const QString& text) {
-            return expected.match(text).hasMatch() ? QString() : complaint;
+         complaint = QCoreApplication::translate("vlk", text_.unexpectedKey),
+         blanks = QCoreApplication::translate("vlk", "typed_blanks")](const QString& text) {
+            if (expected.match(text).hasMatch())
+                return QString();
+            // They are hard to see.
+            const QString trimmed = text.trimmed();
+            return trimmed != text && expected.match(trimmed).hasMatch() ? blanks : complaint;
         });
 }
 
