@@ -1577,6 +1577,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_292"><translation>Summary</translation></message>
     <message id="rec_293"><translation>There are no records in this time.</translation></message>
     <message id="rec_295"><translation>Fuel</translation></message>
+    <message id="rec_296"><translation>Only the beginning of this record is in the file.</translation></message>
+    <message id="rec_297"><translation>%1, 1 of them cut</translation></message>
+    <message id="rec_298"><translation>%1, not &quot;%2&quot;</translation></message>
     <message id="rev_230"><translation>alarm, alarm zone, temperature threshold, minimum</translation></message>
     <message id="rev_231"><translation>alarm, power failure</translation></message>
     <message id="rev_232"><translation>ignition, alarm button, door</translation></message>

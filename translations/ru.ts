@@ -1577,6 +1577,9 @@
     <message id="rec_292"><translation>Сводка</translation></message>
     <message id="rec_293"><translation>За это время записей нет.</translation></message>
     <message id="rec_295"><translation>Топливо</translation></message>
+    <message id="rec_296"><translation>В файле только начало этой записи.</translation></message>
+    <message id="rec_297"><translation>%1, из них 1 обрезана</translation></message>
+    <message id="rec_298"><translation>%1, а не «%2»</translation></message>
     <message id="rev_230"><translation>тревога, тревожная зона, порог температуры, минимум</translation></message>
     <message id="rev_231"><translation>тревога, пропадание питания</translation></message>
     <message id="rev_232"><translation>зажигание, тревожная кнопка, дверь</translation></message>

@@ -14,11 +14,16 @@ namespace vlk {
 
 namespace {
 
-// The frame around a window; as long as the window system has not told it, one with the style's title bar.
+// Null as long as the window system has not told it.
+QMargins knownFrame(const QWidget* window)
+{
+    return window->windowHandle() ? window->windowHandle()->frameMargins() : QMargins();
+}
+
+// The frame around a window; one with the style's title bar as long as it is not known.
 QMargins frameOf(const QWidget* window)
 {
-    const QMargins known = window->windowHandle() ? window->windowHandle()->frameMargins() : QMargins();
-    if (!known.isNull())
+    if (const QMargins known = knownFrame(window); !known.isNull())
         return known;
     const QStyle* style = window->style();
     const int edge = style->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, window);
@@ -71,9 +76,7 @@ private:
         const QScreen* screen = window->screen();
         QSize least = pixels_ / window->devicePixelRatioF();
         if (QRect(QPoint(), screen->size()).contains(QRect(QPoint(), least))) {
-            const QMargins frame =
-                window->windowHandle() ? window->windowHandle()->frameMargins() : QMargins();
-            least = least.boundedTo(screen->availableGeometry().marginsRemoved(frame).size());
+            least = least.boundedTo(screen->availableGeometry().marginsRemoved(knownFrame(window)).size());
         }
         if (least == window->minimumSize())
             return;
@@ -93,13 +96,18 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         place_.follow(static_cast<QWidget*>(watched), event);
-        if (event->type() == QEvent::Show && !event->spontaneous())
+        const bool isShown = event->type() == QEvent::Show && !event->spontaneous();
+        const bool isFirstActive = event->type() == QEvent::WindowActivate && isJustShown_;
+        if (isShown || isFirstActive) {
+            isJustShown_ = isShown;
             fitToScreen(static_cast<QWidget*>(watched));
+        }
         return QObject::eventFilter(watched, event);
     }
 
 private:
     Place place_;
+    bool isJustShown_ = false; // its frame is not known yet
 };
 
 } // namespace
@@ -109,16 +117,16 @@ void fitToScreen(QWidget* window)
     if (window->isMaximized() || window->isFullScreen())
         return;
     const QRect room = roomFor(window);
-    QRect place = window->geometry();
-    place.setSize(place.size().boundedTo(room.size()));
+    if (const QSize size = window->size().boundedTo(room.size()); size != window->size())
+        window->resize(size);
     // A place that nobody has chosen yet is left to the window system.
-    if (!window->screen()->availableGeometry().contains(place)) {
-        place.moveBottomRight(
-            {std::min(place.right(), room.right()), std::min(place.bottom(), room.bottom())});
-        place.moveTopLeft({std::max(place.left(), room.left()), std::max(place.top(), room.top())});
-    }
-    if (place != window->geometry())
-        window->setGeometry(place);
+    QRect place = window->geometry();
+    const bool hasPlace = window->isVisible() && !knownFrame(window).isNull();
+    if ((hasPlace ? room : window->screen()->availableGeometry()).contains(place))
+        return;
+    place.moveBottomRight({std::min(place.right(), room.right()), std::min(place.bottom(), room.bottom())});
+    place.moveTopLeft({std::max(place.left(), room.left()), std::max(place.top(), room.top())});
+    window->setGeometry(place);
 }
 
 void keepOnScreen(QWidget* window)

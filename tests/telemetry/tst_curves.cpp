@@ -80,6 +80,7 @@ private Q_SLOTS:
     void movesByKeys();
     void movesByMouse();
     void comparesTwoMoments();
+    void marksWhatWasFound();
     void showsWhatThereIs();
     void choosesCurvesAndKeepsThem();
     void handsOver();
@@ -269,6 +270,22 @@ void TestCurves::comparesTwoMoments()
     QCOMPARE(line().count(QLatin1Char('|')), 0);
 }
 
+// Among the events below the curves, where a press near the mark goes to its record.
+void TestCurves::marksWhatWasFound()
+{
+    open(truckRecords(3000));
+    records_->setFound({{1500, true, "Refuelling 60 l"}});
+    QCoreApplication::processEvents();
+    const QPoint below = view_->findChild<QLabel*>(QStringLiteral("label_Cursors"))->pos() - QPoint(0, 6);
+    const TimeSpan whole = records_->inSight();
+    const double share = (records_->columns().times()[1500] - whole.from) / (whole.to - whole.from);
+    const int left = canvas()->mapTo(view_.get(), QPoint()).x();
+    const QPoint place(left + qRound(share * canvas()->width()) + 3, below.y());
+    QWidget* const strip = view_->childAt(place);
+    QTest::mouseClick(strip, Qt::LeftButton, {}, strip->mapFrom(view_.get(), place));
+    QCOMPARE(records_->current(), 1500);
+}
+
 void TestCurves::showsWhatThereIs()
 {
     open(truckRecords(3000));
@@ -323,6 +340,7 @@ void TestCurves::handsOver()
     view_->saveTo(folder.filePath(QStringLiteral("p.svg")));
     const QByteArray svg = readFile(folder.filePath(QStringLiteral("p.svg")));
     QVERIFY(svg.contains(">KAMAZ") && svg.contains("18.11.2026 03:01:00") && svg.contains("</svg>"));
+    QVERIFY(!svg.contains(">A ")); // no cursor is there
     view_->saveTo(folder.filePath(QStringLiteral("p.png")));
     QCOMPARE(QImage(folder.filePath(QStringLiteral("p.png"))).size(), QSize(2400, 1200));
     view_->saveTo(folder.filePath(QStringLiteral("none/p.png")));

@@ -17,7 +17,10 @@ private Q_SLOTS:
     void initTestCase()
     {
         const TextSource english = [](const char* key) {
-            return QByteArray(key) == "tmizta_125" ? QStringLiteral("Event time") : QLatin1String(key);
+            const QByteArray name(key);
+            return name == "tmizta_125"   ? QStringLiteral("Event time")
+                   : name == "tmizta_152" ? QStringLiteral("Rate, km/h")
+                                          : QLatin1String(key);
         };
         const TextsFrom texts(english);
         names_.addTexts();
@@ -33,6 +36,8 @@ private Q_SLOTS:
             .row("a number", "StateU_Ain3<9,5", "StateU_Ain3 < 9.5")
             .row("any case", "SPEED >= -1.5E2", "Speed >= -150")
             .row("a heading", "CAN tmizta_164,  %  = 7", "CAN_FuelLevel.percent = 7")
+            .row("one without its unit", "rate > 60 or tmizta_178. rate > 5 or Rate, km/h > 7",
+                 "Speed > 60 or NaviSpeed > 5 or Speed > 7")
             .row("the longest name", "IN10 = 1 or IN1 = 0", "StateIn2.1 = 1 or StateIn1.0 = 0")
             .row("a name in quotes", "«rear DOOR» = 1", "StateIn1.0 = 1")
             .row("a whole element", "StateIn1 != 3", "StateIn1 != 3")
@@ -68,8 +73,10 @@ private Q_SLOTS:
     void faults_data()
     {
         const DataTable<QString, int, QString> table({"typed", "position", "expected"});
-        table.row("no column", "Speed > 1 and Sped > 2", 14, "rec_100")
-            .row("a part of a name", "Spee > 1", 0, "rec_100")
+        table.row("no column", "Speed > 1 and Sped > 2", 14, "rec_100, not Sped")
+            .row("a part of a name", "Spee > 1", 0, "rec_100, not Spee")
+            .row("a name of two columns", "CAN tmizta_164 > 1", 0, "rec_100, not CAN")
+            .row("no name", "Speed > 1 and ", 14, "rec_100")
             .row("no sign", "Speed 3", 6, "rec_101")
             .row("no number", "Speed > ", 8, "rec_102")
             .row("a number and more", "Speed > 3.5.1", 8, "rec_102")
@@ -88,6 +95,10 @@ private Q_SLOTS:
     void faults()
     {
         QFETCH(QString, typed);
+        const TextSource english = [](const char* key) {
+            return QByteArray(key) == "rec_298" ? QStringLiteral("%1, not %2") : QLatin1String(key);
+        };
+        const TextsFrom texts(english);
         const ParsedFilter parsed = parseFilter(typed, names_, 0);
         QVERIFY(!parsed.filter);
         QTEST(parsed.fault.position, "position");

@@ -1,10 +1,12 @@
 // The list of refuellings and drains and the summary beside it, as a user works them.
 
 #include "support/answers.h"
+#include "support/data_table.h"
 #include "support/files.h"
 #include "support/records.h"
 #include "telemetry/fuel_view/fuel_view.h"
 #include "telemetry/fuel_view/summary_view.h"
+#include "telemetry/view/period_file.h"
 
 #include <QClipboard>
 #include <QComboBox>
@@ -71,6 +73,21 @@ private Q_SLOTS:
         QApplication::setActiveWindow(view_.get());
         good_ = file("tank.xml", "<FUEL type='D1'><TABLE><DATA param_U='0' param_V='0'/>"
                                  "<DATA param_U='400' param_V='4000'/></TABLE></FUEL>");
+    }
+
+    void namesVehicles_data()
+    {
+        const QDateTime time({2026, 11, 24}, {6, 0});
+        DataTable<QString, QString>({"file", "vehicle"})
+            .row("as it was proposed", periodFileName("Рейс 71", time, time) + ".xml", "Рейс 71")
+            .row("exported again", "/f/Van 7 2026-11-24 06-00 - 2026-11-25 06-00 (2).csv", "Van 7")
+            .row("without a vehicle", periodFileName({}, time, time) + ".xml", {})
+            .row("another name", "/f/KAMAZ-5490 2026-11-24.2.xml", "KAMAZ-5490 2026-11-24.2");
+    }
+    void namesVehicles()
+    {
+        QFETCH(QString, file);
+        QTEST(vehicleOfFile(file), "vehicle");
     }
 
     void listsAndLooks()

@@ -101,7 +101,9 @@ private Q_SLOTS:
         QCOMPARE(tip(1, "T1"), QString("tmiw_263"));
         QCOMPARE(tip(1, "Latitude"), QString("56\u00b0 30.0000' tmiw_171"));
         QVERIFY(cell(0, "Power").data(Qt::ForegroundRole).isValid());
-        QCOMPARE(firstSize_, QSize(1024, 680));
+        const QSize room = window->screen()->availableSize();
+        const int frame = window->frameGeometry().height() - window->height();
+        QCOMPARE(firstSize_.height(), qMin(680, room.height() - frame));
         QCOMPARE(window->windowTitle(), QString("telemetry.xml - tmiw_031"));
         QVERIFY(qobject_cast<QGridLayout*>(table_->parentWidget()->layout()));
     }
@@ -253,11 +255,55 @@ private Q_SLOTS:
         pressInFilter(Qt::Key_Escape);
         QCOMPARE(child<QLineEdit>("lineEdit_Filter")->text(), typed);
         QVERIFY(window->isVisible());
-        if (numbers.isEmpty())
-            QTest::mouseClick(table_->findChild<QWidget*>("pushButton_Empty"), Qt::LeftButton);
-        else
+        if (numbers.isEmpty()) {
+            table_->findChild<QPushButton*>("pushButton_Empty")->click();
+        } else {
+            table_->setCurrentIndex(cell(0, "NumPage"));
             choose("rec_063");
+        }
         QCOMPARE(this->numbers().size(), numbers.isEmpty() ? 40 : 1);
+    }
+
+    // The current record, at which a cursor stands, is there again with the filter gone.
+    void keptRecord()
+    {
+        show(drive());
+        table_->setCurrentIndex(cell(5, "NumPage"));
+        type("lineEdit_Filter", "NumPage < 1003");
+        pressInFilter(Qt::Key_Return);
+        table_->setFocus();
+        QCOMPARE(numbers().size(), 3);
+        QVERIFY(!table_->currentIndex().isValid() && !table_->selectionModel()->hasSelection());
+        // Esc takes one thing after the other back before it closes the window.
+        child<QWidget>("plot_Curves")->setFocus();
+        QTest::keyClick(child<QWidget>("plot_Curves"), Qt::Key_B);
+        QTest::keyClick(table_, Qt::Key_F, Qt::ControlModifier);
+        table_->setFocus();
+        for (const int rows : {3, 3, 40}) {
+            QVERIFY(window->isVisible());
+            QTest::keyClick(table_, Qt::Key_Escape);
+            QCOMPARE(numbers().size(), rows);
+        }
+        QCOMPARE(table_->currentIndex().row(), 5);
+        child<QLineEdit>("lineEdit_Filter")->setFocus();
+        QTest::keyClick(child<QLineEdit>("lineEdit_Filter"), Qt::Key_Escape);
+        QCOMPARE(QApplication::focusWidget(), table_);
+        QTest::keyClick(table_, Qt::Key_Escape);
+        QVERIFY(!window->isVisible());
+    }
+
+    void cutRecord()
+    {
+        show(drive());
+        const QString path = folder_.filePath("telemetry.xml");
+        QVERIFY(QFile::resize(path, readFile(path).lastIndexOf("<NumPage>") + 13));
+        open(path);
+        QTRY_VERIFY(table_->model()->rowCount() == 40);
+        const int last = 39;
+        QCOMPARE(text("label_Count"), QString("rec_297"));
+        QCOMPARE(cell(last, "NumPage").data(Qt::ToolTipRole).toString(), QString("rec_296"));
+        QVERIFY(cell(last, "NumPage").data(Qt::FontRole).value<QFont>().italic());
+        QVERIFY(!cell(last - 1, "NumPage").data(Qt::FontRole).isValid());
     }
 
     void completion()

@@ -43,9 +43,9 @@ private Q_SLOTS:
         const QRect screen = dialog.screen()->availableGeometry();
         dialog.move(screen.bottomRight() - QPoint(20, 20));
         dialog.show();
-        QCoreApplication::processEvents();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
 
-        QVERIFY(screen.contains(dialog.geometry()));
+        QVERIFY(screen.contains(dialog.frameGeometry()));
         QVERIFY(dialog.rect().contains(button->geometry()));
         QTEST(area->horizontalScrollBar()->maximum() > 0, "scrollsAcross");
         QTEST(area->verticalScrollBar()->maximum() > 0, "scrollsDown");

@@ -150,15 +150,39 @@ void BandsStrip::paintMarks(QPainter& painter, const QRect& row, std::size_t mar
     auto record = std::ranges::lower_bound(records, plot_->span().from, {}, timeOfRecord);
     while (record != records.end() && timeOfRecord(*record) <= plot_->span().to) {
         const double x = std::round(plot_->xOf(timeOfRecord(*record))) + 0.5;
-        painter.drawPolygon(QPolygonF({{x, middle - kMarkReach},
-                                       {x + kMarkReach - 1, middle},
-                                       {x, middle + kMarkReach},
-                                       {x - kMarkReach + 1, middle}}));
+        if (marks > 0 || foundAt(*record) == nullptr)
+            painter.drawPolygon(QPolygonF({{x, middle - kMarkReach},
+                                           {x + kMarkReach - 1, middle},
+                                           {x, middle + kMarkReach},
+                                           {x - kMarkReach + 1, middle}}));
         // The next one that is drawn at another pixel.
         record =
             std::ranges::lower_bound(record, records.end(), plot_->timeAtPixel(x + 0.5), {}, timeOfRecord);
     }
     painter.restore();
+    if (marks == 0)
+        paintFound(painter, row);
+}
+
+// Among the events, of which they are the first row.
+void BandsStrip::paintFound(QPainter& painter, const QRect& row) const
+{
+    const std::vector<quint32>& times = model_->records().columns().times();
+    for (const FoundEvent& event : model_->records().found()) {
+        const double time = times[event.record];
+        if (plot_->span().contains(time))
+            paintFoundEvent(
+                painter, event.isRise,
+                {std::round(plot_->xOf(time)) + 0.5, event.isRise ? row.top() + 1.0 : row.bottom()},
+                palette());
+    }
+}
+
+const FoundEvent* BandsStrip::foundAt(int record) const
+{
+    const std::vector<FoundEvent>& all = model_->records().found();
+    const auto event = std::ranges::find(all, record, &FoundEvent::record);
+    return event == all.end() ? nullptr : &*event;
 }
 
 void BandsStrip::paintCursors(QPainter& painter) const
@@ -208,8 +232,11 @@ QString BandsStrip::tipAt(const QPoint& place) const
     if (place.x() < plot_->canvasPlace().left())
         return band < bandCount() ? model_->bands()[band].title : QString();
     if (const int mark = markAt(place); mark >= 0) {
+        const FoundEvent* const found = foundAt(mark);
         const QString event =
-            requests::eventText(static_cast<int>(model_->records().columns().codes()[mark]));
+            found != nullptr
+                ? found->text
+                : requests::eventText(static_cast<int>(model_->records().columns().codes()[mark]));
         return momentText(times[mark], offset) + QLatin1Char(' ') + event;
     }
     if (band >= bandCount())

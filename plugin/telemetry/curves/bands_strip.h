@@ -10,6 +10,7 @@ namespace vlk {
 
 class CurvesModel;
 class CurvesPlot;
+struct FoundEvent;
 
 class BandsStrip : public QWidget
 {
@@ -36,7 +37,10 @@ private:
     void refresh();
     void paintBand(QPainter& painter, const QRect& row, int band) const;
     void paintMarks(QPainter& painter, const QRect& row, std::size_t marks) const;
+    void paintFound(QPainter& painter, const QRect& row) const;
     void paintCursors(QPainter& painter) const;
+    // Null where nothing was found.
+    const FoundEvent* foundAt(int record) const;
     // The record of a row of marks that is drawn there; -1 for none.
     int markAt(const QPoint& place) const;
     QString tipAt(const QPoint& place) const;

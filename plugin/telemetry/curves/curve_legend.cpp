@@ -104,8 +104,10 @@ void CurveLegend::paintEvent(QPaintEvent*)
         const QRect text = entry.adjusted(kSampleWidth + kSampleMargin, 0, -kEntryMargin / 2, 0);
         painter.setFont(fontOf(place));
         painter.setPen(palette().color(QPalette::WindowText));
-        painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter,
-                         QFontMetrics(fontOf(place)).elidedText(textOf(place), Qt::ElideRight, text.width()));
+        // Sensors of a kind differ at the end.
+        painter.drawText(
+            text, Qt::AlignLeft | Qt::AlignVCenter,
+            QFontMetrics(fontOf(place)).elidedText(textOf(place), Qt::ElideMiddle, text.width()));
     }
 }
 

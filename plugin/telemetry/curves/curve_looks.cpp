@@ -5,6 +5,8 @@
 
 #include <QPainter>
 #include <QPalette>
+#include <QPolygonF>
+#include <QTransform>
 
 #include <iterator>
 
@@ -90,15 +92,23 @@ void paintCurveShape(QPainter& painter, int place, const QPointF& centre, const 
     painter.restore();
 }
 
+QColor foundColor(bool isRise, const QPalette& palette)
+{
+    return markColor(isRise ? Mark::right : Mark::invalid, palette);
+}
+
 void paintFoundEvent(QPainter& painter, bool isRise, const QPointF& tip, const QPalette& palette)
 {
-    const double height = isRise ? kFoundWidth : -kFoundWidth;
+    constexpr double r = kFoundWidth / 2;
+    constexpr double shaft = 2;
+    QPolygonF arrow({{0, 0}, {r, r}, {shaft, r}, {shaft, 2 * r}, {-shaft, 2 * r}, {-shaft, r}, {-r, r}});
+    if (!isRise)
+        arrow = QTransform::fromScale(1, -1).map(arrow);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(palette.color(QPalette::Base), 1));
-    painter.setBrush(markColor(isRise ? Mark::right : Mark::invalid, palette));
-    painter.drawPolygon(
-        QPolygonF({tip, tip + QPointF(kFoundWidth / 2, height), tip + QPointF(-kFoundWidth / 2, height)}));
+    painter.setBrush(foundColor(isRise, palette));
+    painter.drawPolygon(arrow.translated(tip));
     painter.restore();
 }
 

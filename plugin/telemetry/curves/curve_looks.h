@@ -17,7 +17,8 @@ QColor curveColor(int place, const QPalette& palette);
 QColor bandColor(const QPalette& palette);
 void paintCurveShape(QPainter& painter, int place, const QPointF& centre, const QColor& colour);
 
-// A rise or a fall that was found: a filled triangle that points up or down, with its tip there.
+// A rise or a fall that was found: its colour, and a filled arrow up or down with its tip there.
+QColor foundColor(bool isRise, const QPalette& palette);
 void paintFoundEvent(QPainter& painter, bool isRise, const QPointF& tip, const QPalette& palette);
 
 } // namespace vlk

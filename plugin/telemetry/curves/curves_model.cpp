@@ -140,9 +140,8 @@ void CurvesModel::rebuild()
             addBand(*state);
     }
     if (!stops_.on.empty())
-        // Behind the engine, since those that there is no room for are left out from the end.
-        bands_.insert(bands_.begin() + std::min<std::ptrdiff_t>(std::ssize(bands_), 1),
-                      {QString(), translated("rec_165"), stops_});
+        // First, since those that there is no room for are left out from the end.
+        bands_.insert(bands_.begin(), {QString(), translated("rec_165"), stops_});
     makeMarks();
     focused_ = curves_.empty() ? -1 : std::clamp(focused_, 0, static_cast<int>(curves_.size()) - 1);
     Q_EMIT changed();
@@ -164,7 +163,9 @@ void CurvesModel::addCurve(CurveColumn column)
     int axis = axes_.size();
     if (like != curves_.end())
         axis = like->axis;
-    else
+    if (like != curves_.end() && column.unit.isEmpty())
+        axes_[axis] += QLatin1String(", ") + column.title;
+    else if (like == curves_.end())
         axes_ << (column.unit.isEmpty() ? column.title : column.unit);
     curves_.push_back({std::move(column), std::move(series), axis});
 }
@@ -199,8 +200,14 @@ void CurvesModel::addBand(const CurveColumn& column)
 void CurvesModel::makeMarks()
 {
     marks_.clear();
-    if (!events_.empty())
-        marks_.push_back({translated("rec_166"), events_});
+    std::vector<int> events = events_;
+    for (const FoundEvent& event : records_->found())
+        events.push_back(event.record);
+    const std::vector<quint32>& times = records_->columns().times();
+    std::ranges::sort(events, {}, [&](int record) { return std::pair(times[record], record); });
+    events.erase(std::unique(events.begin(), events.end()), events.end());
+    if (!events.empty())
+        marks_.push_back({translated("rec_166"), std::move(events)});
     const bool isFiltered = static_cast<int>(records_->passing().size()) < records_->records().size();
     if (!isFiltered)
         return;

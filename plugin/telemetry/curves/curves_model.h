@@ -57,7 +57,7 @@ public:
     QStringList shownNames() const;
 
     const std::vector<Curve>& curves() const { return curves_; }
-    // What stands at each axis: the unit, or the title of numbers without one.
+    // What stands at each axis: the unit, or the titles of numbers without one.
     const QStringList& axes() const { return axes_; }
     const std::vector<Band>& bands() const { return bands_; }
     const std::vector<MarkRow>& marks() const { return marks_; }

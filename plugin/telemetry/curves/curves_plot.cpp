@@ -146,8 +146,9 @@ private:
         for (const FoundEvent& event : plot_.model_->records().found()) {
             if (!plot_.span().contains(times[event.record]))
                 continue;
-            const double y = canvas.top() + (event.isRise ? 2 : 12);
-            paintFoundEvent(painter, event.isRise, {x.transform(times[event.record]), y}, plot_.palette());
+            const double at = std::round(x.transform(times[event.record]));
+            painter.setPen(QPen(foundColor(event.isRise, plot_.palette()), 1, Qt::DotLine));
+            painter.drawLine(QPointF(at, canvas.top()), QPointF(at, canvas.bottom()));
         }
     }
 
@@ -540,7 +541,7 @@ bool CurvesPlot::showTip(const QPoint& place, const QPoint& global)
     const QwtScaleMap x = canvasMap(xBottom);
     QStringList texts;
     for (const FoundEvent& event : model_->records().found()) {
-        if (std::abs(x.transform(times[event.record]) - place.x()) <= reach && place.y() <= 3 * reach)
+        if (std::abs(x.transform(times[event.record]) - place.x()) <= reach)
             texts << event.text;
     }
     QToolTip::showText(global, texts.join(QLatin1Char('\n')), canvas());

@@ -35,7 +35,12 @@ void paintCurves(QPainter& painter, const QSize& size, CurvesModel& model, const
     layout->addWidget(legend);
     layout->addWidget(plot, 1);
     layout->addWidget(strip);
-    layout->addWidget(new QLabel(model.cursorLine(), &sheet));
+    const auto isOnSheet = [&](Cursor which) {
+        const int record = model.cursor(which);
+        return record >= 0 && span.contains(model.records().columns().times()[record]);
+    };
+    if (isOnSheet(Cursor::a) || isOnSheet(Cursor::b))
+        layout->addWidget(new QLabel(model.cursorLine(), &sheet));
     sheet.resize(size);
     // So that all have their places before they are painted.
     sheet.show();

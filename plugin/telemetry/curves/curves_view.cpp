@@ -117,6 +117,14 @@ void CurvesView::setTitle(const QString& title)
     title_ = title;
 }
 
+bool CurvesView::endCursorB()
+{
+    const bool isThere = model_->cursor(Cursor::b) >= 0;
+    if (isThere)
+        model_->endCursorB();
+    return isThere;
+}
+
 void CurvesView::retranslate()
 {
     presets_->setAccessibleName(tr("rec_180"));

@@ -33,6 +33,8 @@ public:
     QImage picture(const TimeSpan& span, const QSize& size) const;
     // What is in sight: as CSV, SVG or PNG by the suffix.
     void saveTo(const QString& path);
+    // False where there is no cursor B.
+    bool endCursorB();
     void retranslate();
     QSize sizeHint() const override;
 

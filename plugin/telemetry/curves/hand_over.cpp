@@ -22,7 +22,6 @@ namespace {
 constexpr QSize kPictureSize(1200, 600);
 constexpr int kPicturePixels = 2; // a point
 constexpr int kSavedNotice = 1;
-constexpr int kSavedNewsMs = 8000;
 
 QByteArray svgOf(const PaintPicture& paint)
 {
@@ -52,26 +51,20 @@ QByteArray pngOf(const PaintPicture& paint)
 
 } // namespace
 
-HandOver::HandOver(QWidget* window, NoticeBar* bar) : QObject(window), window_(window), bar_(bar)
-{
-    news_.setSingleShot(true);
-    news_.setInterval(kSavedNewsMs);
-    connect(&news_, &QTimer::timeout, bar, [bar] { bar->end(kSavedNotice); });
-}
+HandOver::HandOver(QWidget* window, NoticeBar* bar) : QObject(window), window_(window), bar_(bar) {}
 
 void HandOver::save(const QString& path, const WriteContent& write)
 {
     QString reason;
     const bool isSaved = replaceFile(path, write, &reason);
     const QString shown = QDir::toNativeSeparators(path);
-    news_.stop();
-    if (isSaved) {
-        bar_->tell(kSavedNotice, {Mark::right, translated("rec_170").arg(shown), {}});
-        news_.start();
-    } else {
+    if (isSaved)
+        bar_->tellNews(kSavedNotice, [shown] {
+            return Notice{Mark::right, translated("rec_170").arg(shown), {}};
+        });
+    else
         bar_->tell(kSavedNotice,
                    {Mark::invalid, translated("rec_171").arg(shown, fileErrorText(reason)), {}});
-    }
 }
 
 void HandOver::savePicture(const QString& path, const PaintPicture& paint)

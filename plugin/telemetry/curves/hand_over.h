@@ -7,7 +7,6 @@
 
 #include <QObject>
 #include <QSize>
-#include <QTimer>
 
 class QPainter;
 class QWidget;
@@ -42,7 +41,6 @@ private:
 
     QWidget* window_;
     NoticeBar* bar_;
-    QTimer news_;
 };
 
 // On white, whatever the windows look like.

@@ -79,12 +79,19 @@ FilterNames::FilterNames()
 void FilterNames::add(const QString& name, const FilterColumn& column)
 {
     const QString key = keyOf(name);
-    if (key.isEmpty() || columns_.contains(key))
+    if (!know(key, column))
         return;
-    columns_.insert(key, column);
     names_.append(name.simplified());
     foldedNames_.append(key);
+}
+
+bool FilterNames::know(const QString& key, const FilterColumn& column)
+{
+    if (key.isEmpty() || columns_.contains(key))
+        return false;
+    columns_.insert(key, column);
     longest_ = std::max(longest_, key.size());
+    return true;
 }
 
 void FilterNames::addWord(const QString& word, const FilterColumn& column, CodeRange codes)
@@ -102,10 +109,18 @@ void FilterNames::addWord(const QString& word, const FilterColumn& column, CodeR
 
 void FilterNames::addTexts()
 {
+    QMultiHash<QString, ItemIndex> withoutUnits;
     for (const CsvColumn& column : csvColumns()) {
         const ItemIndex shown = column.item == item("Time.local") ? item("Time") : column.item;
-        add(headingText(column), shown);
+        const QString heading = headingText(column);
+        add(heading, shown);
         addWordsOf(shown);
+        if (const int unit = heading.lastIndexOf(QLatin1String(", ")); unit > 0)
+            withoutUnits.insert(keyOf(heading.left(unit)), shown);
+    }
+    for (const QString& key : withoutUnits.uniqueKeys()) {
+        if (withoutUnits.count(key) == 1)
+            know(key, withoutUnits.value(key));
     }
 }
 

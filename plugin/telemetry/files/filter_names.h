@@ -40,6 +40,7 @@ public:
     // Of two columns with one name the first keeps it.
     void add(const QString& name, const FilterColumn& column);
     void addWord(const QString& word, const FilterColumn& column, CodeRange codes);
+    // A heading names its column without the unit too, where no other heading is left the same.
     void addTexts();
 
     // The column whose name begins at the position of a folded text and ends where a word does; of several
@@ -67,6 +68,8 @@ private:
     };
     using Words = QHash<QString, Word>; // by what is folded
 
+    // False where another column has the name.
+    bool know(const QString& key, const FilterColumn& column);
     void addWordsOf(ItemIndex item);
 
     QStringList names_;

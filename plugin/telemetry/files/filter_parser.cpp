@@ -336,6 +336,16 @@ QStringList matching(const QStringList& all, const QString& typed)
     return matching(all, folded, typed);
 }
 
+// What was expected, and in place of a name the word that is none.
+QString faultText(Expected expected, const QString& text, int position)
+{
+    const QString needed = translated(kExpected[static_cast<int>(expected)]);
+    const auto isInWord = [](QChar sign) { return sign.isLetterOrNumber() || sign == QLatin1Char('_'); };
+    const auto end = std::find_if_not(text.begin() + position, text.end(), isInWord);
+    const QString word = text.mid(position, static_cast<int>(end - text.begin()) - position);
+    return expected == Expected::name && !word.isEmpty() ? translated("rec_298").arg(needed, word) : needed;
+}
+
 QString inQuotes(const QString& word)
 {
     const QLatin1Char quote(word.contains(QLatin1Char('"')) ? '\'' : '"');
@@ -349,7 +359,7 @@ ParsedFilter parseFilter(const QString& text, const FilterNames& names, std::opt
     Parser parser(text, names, utcOffset);
     ParsedFilter parsed{parser.parse(), {}};
     if (!parsed.filter)
-        parsed.fault = {parser.position(), translated(kExpected[static_cast<int>(parser.expected())])};
+        parsed.fault = {parser.position(), faultText(parser.expected(), text, parser.position())};
     return parsed;
 }
 

@@ -1,7 +1,6 @@
 #include "telemetry/fuel/table_memory.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QSettings>
 #include <QUrl>
 
@@ -67,11 +66,6 @@ void TableMemory::setChoice(const QString& vehicle, const TankChoiceMemory& choi
     file.setValue(keyOf(vehicle, kSensorsKey), choice.sensors);
     file.setValue(keyOf(vehicle, kRiseKey), choice.thresholds.rise);
     file.setValue(keyOf(vehicle, kFallKey), choice.thresholds.fall);
-}
-
-QString vehicleOfFile(const QString& path)
-{
-    return QFileInfo(path).completeBaseName().section(QLatin1Char(' '), 0, 0);
 }
 
 } // namespace vlk

@@ -31,7 +31,4 @@ private:
     QString file_;
 };
 
-// The name of a vehicle by that of its file: up to the first blank, without the ending.
-QString vehicleOfFile(const QString& path);
-
 } // namespace vlk

@@ -24,14 +24,11 @@ namespace {
 constexpr int kMostOffered = 200;
 constexpr const char* kLanguages[] = {"ru", "en"};
 
-// Enter on what is offered takes that; Esc gives back what is applied, and closes no window then.
+// Enter on what is offered takes that.
 class FilterLine : public QLineEdit
 {
 public:
-    FilterLine(QCompleter* completer, const QString& applied, QWidget* parent)
-        : QLineEdit(parent), completer_(completer), applied_(applied)
-    {
-    }
+    FilterLine(QCompleter* completer, QWidget* parent) : QLineEdit(parent), completer_(completer) {}
 
 protected:
     void keyPressEvent(QKeyEvent* event) override
@@ -41,8 +38,6 @@ protected:
         const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
         if (isEnter && isOffering) {
             event->ignore();
-        } else if (event->key() == Qt::Key_Escape && !offered->isVisible() && text() != applied_) {
-            setText(applied_);
         } else {
             QLineEdit::keyPressEvent(event);
             // It presses no button of the window.
@@ -53,7 +48,6 @@ protected:
 
 private:
     QCompleter* completer_;
-    const QString& applied_;
 };
 
 } // namespace
@@ -62,7 +56,7 @@ FilterField::FilterField(ShownRecords* shown, RecordsModel* model, QWidget* pare
     : QWidget(parent), shown_(shown), model_(model), caption_(new QLabel(this)), fault_(new QLabel(this)),
       completer_(new QCompleter(this)), offered_(new QStringListModel(this))
 {
-    line_ = new FilterLine(completer_, applied_, this);
+    line_ = new FilterLine(completer_, this);
     line_->setObjectName(QStringLiteral("lineEdit_Filter"));
     line_->setClearButtonEnabled(true);
     caption_->setBuddy(line_);
@@ -155,6 +149,15 @@ void FilterField::complete(const QString& text)
     const int cursor = line_->cursorPosition();
     line_->setSelection(chosen->from, cursor - chosen->from);
     line_->insert(text + QLatin1Char(' '));
+}
+
+bool FilterField::giveBack()
+{
+    if (line_->text() == applied_)
+        return false;
+    line_->setText(applied_);
+    tell({});
+    return true;
 }
 
 void FilterField::apply(const QString& text)

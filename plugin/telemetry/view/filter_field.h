@@ -31,6 +31,9 @@ public:
     void addWidget(QWidget* widget);
     void apply(const QString& text);
     void clear() { apply({}); }
+    bool isApplied() const { return !applied_.isEmpty(); }
+    // What is applied, in place of what was typed since; false where nothing was.
+    bool giveBack();
     // The cell as a condition.
     QString conditionOf(int record, int column);
     void retranslate();

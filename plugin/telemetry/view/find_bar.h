@@ -25,6 +25,7 @@ public:
     void open();
     // Opens it where nothing is looked for yet.
     void goOn(int step);
+    void close();
     void retranslate();
 
 Q_SIGNALS:
@@ -34,7 +35,6 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void close();
     void tell(const std::function<QString()>& sentence);
 
     RecordFinder* finder_;

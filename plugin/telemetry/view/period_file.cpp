@@ -3,6 +3,9 @@
 #include "base/file_name.h"
 #include "telemetry/record/record_head.h"
 
+#include <QFileInfo>
+#include <QRegularExpression>
+
 namespace vlk {
 
 QString periodFileName(const QString& vehicle, const QDateTime& first, const QDateTime& last)
@@ -11,6 +14,13 @@ QString periodFileName(const QString& vehicle, const QDateTime& first, const QDa
     return QStringLiteral("%1 %2 - %3")
         .arg(asFileName(vehicle, QStringLiteral("_")), text(first), text(last))
         .trimmed();
+}
+
+QString vehicleOfFile(const QString& path)
+{
+    static const QRegularExpression period(
+        QStringLiteral(R"((^|\s+)\d{4}-\d\d-\d\d \d\d-\d\d - \d{4}-\d\d-\d\d \d\d-\d\d\b.*$)"));
+    return QFileInfo(path).completeBaseName().remove(period).trimmed();
 }
 
 TelemetryContents periodOf(const RecordBytes& records, const TelemetryOrigin& origin)

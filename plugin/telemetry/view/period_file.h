@@ -18,6 +18,9 @@ using RecordBytes = std::vector<QByteArray>;
 // vehicle's period. The times are shown as they are given.
 QString periodFileName(const QString& vehicle, const QDateTime& first, const QDateTime& last);
 
+// The vehicle of such a name: what stands before the period, the whole name where there is none.
+QString vehicleOfFile(const QString& path);
+
 // Of records as they came. Times are shown in the zone of `origin`.
 TelemetryContents periodOf(const RecordBytes& records, const TelemetryOrigin& origin);
 

@@ -34,7 +34,9 @@ void RecordFinder::find(const QString& words, int step)
     if (words_.isEmpty())
         return;
     step_ = step;
-    start_ = std::max(table_->currentIndex().row(), 0);
+    // Without a current row from before the first one, or back from behind the last.
+    const QModelIndex current = table_->currentIndex();
+    start_ = current.isValid() ? current.row() : step > 0 ? -1 : model_->rowCount();
     looked_ = 0;
     columns_ = table_->shownColumns();
     known_.assign(model_->columnCount(), {});

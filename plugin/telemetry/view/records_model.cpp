@@ -7,6 +7,7 @@
 #include "telemetry/view/record_order.h"
 
 #include <QDateTime>
+#include <QFont>
 #include <QGuiApplication>
 #include <QLocale>
 #include <QPalette>
@@ -152,9 +153,11 @@ QVariant RecordsModel::data(const QModelIndex& index, int role) const
     const int column = index.column();
     if (role == Qt::TextAlignmentRole)
         return alignment(column);
+    const int record = order_[index.row()];
+    if (isCut(record) && role != Qt::DisplayRole)
+        return cutData(role);
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole && role != Qt::ForegroundRole)
         return {};
-    const int record = order_[index.row()];
     const quint64 key = static_cast<quint64>(record) << 32 | static_cast<quint32>(column);
     const QString* const known = texts_.object(key);
     const QString shownText = known != nullptr ? *known : text(record, column);
@@ -167,6 +170,24 @@ QVariant RecordsModel::data(const QModelIndex& index, int role) const
     const CsvColumn* const shown = columnAt(column);
     const bool isPlace = shown != nullptr && kItems[shown->item].rule().shape == Shape::coordinate;
     return role == Qt::ToolTipRole && isPlace ? positionText(decoded(record), shown->item) : QVariant();
+}
+
+bool RecordsModel::isCut(int record) const
+{
+    return shown_->contents()->lastIsCut && record == shown_->records().size() - 1;
+}
+
+QVariant RecordsModel::cutData(int role)
+{
+    if (role == Qt::ToolTipRole)
+        return tr("rec_296");
+    if (role == Qt::ForegroundRole)
+        return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+    if (role != Qt::FontRole)
+        return {};
+    QFont font;
+    font.setItalic(true);
+    return font;
 }
 
 QVariant RecordsModel::absentData(int record, int column, int role) const

@@ -61,6 +61,9 @@ private:
     void setRows();
     void order();
     int alignment(int column) const;
+    // Of the last record there may be only the beginning.
+    bool isCut(int record) const;
+    static QVariant cutData(int role);
     QVariant absentData(int record, int column, int role) const;
     const TmiPage_Zeta3& decoded(int record) const;
     QString eventText(quint16 code) const;

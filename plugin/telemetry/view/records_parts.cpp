@@ -2,10 +2,10 @@
 
 #include "base/translated.h"
 #include "telemetry/curves/curves_view.h"
-#include "telemetry/fuel/table_memory.h"
 #include "telemetry/fuel_view/fuel_view.h"
 #include "telemetry/fuel_view/summary_view.h"
 #include "telemetry/track/track_view.h"
+#include "telemetry/view/period_file.h"
 
 namespace vlk {
 
@@ -58,8 +58,10 @@ std::vector<RecordsPart> makeRecordsParts(ShownRecords* shown, QWidget* parent)
     fuel->setPictures(pictureOf(curves), pictureOf(track));
     QObject::connect(fuel, &FuelView::fuelChanged, summary,
                      [shown, fuel, summary] { tellFuel(shown, *fuel, summary); });
+    RecordsPart top = titledPart(curves, nullptr);
+    top.stepBack = [curves] { return curves->endCursorB(); };
     return {
-        titledPart(curves, nullptr),
+        std::move(top),
         titledPart(track, "rec_199"),
         {summary, "rec_292", [summary] { summary->retranslate(); }, [](const QString&) {}},
         {fuel, "rec_295",

@@ -18,6 +18,8 @@ struct RecordsPart
     std::function<void()> retranslate;
     // What the records are called, by the name of their file.
     std::function<void(const QString& name)> setName;
+    // What Esc takes back in it; false, or null, where there is nothing.
+    std::function<bool()> stepBack = {};
 };
 
 // In the order in which they stand.

@@ -2,6 +2,8 @@
 
 #include <QTabWidget>
 
+#include <algorithm>
+
 namespace vlk {
 
 namespace {
@@ -40,6 +42,12 @@ void RecordsPlaces::setName(const QString& name)
 {
     for (const RecordsPart& part : parts_)
         part.setName(name);
+}
+
+bool RecordsPlaces::stepBack()
+{
+    return std::ranges::any_of(parts_,
+                               [](const RecordsPart& part) { return part.stepBack && part.stepBack(); });
 }
 
 void RecordsPlaces::retranslate()

@@ -261,6 +261,15 @@ void RecordsTable::keyPressEvent(QKeyEvent* event)
     open(currentIndex());
 }
 
+// Without a current row the view would go to the first one.
+void RecordsTable::focusInEvent(QFocusEvent* event)
+{
+    if (currentIndex().isValid())
+        return QTableView::focusInEvent(event);
+    QAbstractScrollArea::focusInEvent(event);
+    viewport()->update();
+}
+
 void RecordsTable::contextMenuEvent(QContextMenuEvent* event)
 {
     if (event->reason() == QContextMenuEvent::Keyboard)

@@ -76,6 +76,7 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
     columnsButton_->setMenu(new ColumnsMenu(model_, columns_, columnsButton_));
     layOut();
     resize(kWidth, kHeight);
+    keepOnScreen(this);
 
     connect(shown_, &ShownRecords::contentsChanged, this, &VLK_Widget_Tmi_Table::takeContents);
     connect(shown_, &ShownRecords::passingChanged, this, &VLK_Widget_Tmi_Table::takePassing);
@@ -179,8 +180,6 @@ void VLK_Widget_Tmi_Table::open(const std::shared_ptr<TelemetryContents>& conten
     showContents(contents);
     places_->setName(name);
     showTitle();
-    // Shown before it reads, the window has a frame by then.
-    QTimer::singleShot(0, this, [this] { fitToScreen(this); });
 }
 
 void VLK_Widget_Tmi_Table::showContents(const std::shared_ptr<TelemetryContents>& contents)
@@ -202,16 +201,37 @@ void VLK_Widget_Tmi_Table::takeContents()
 void VLK_Widget_Tmi_Table::takePassing()
 {
     showCount();
-    if (model_->rowCount() > 0 && !table_->showRecord(shown_->current()))
-        table_->showRecord(model_->recordAt(0));
+    // A current record that does not pass stays the current one, which moves for the user alone.
+    table_->showRecord(shown_->current());
 }
 
 void VLK_Widget_Tmi_Table::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape && progress_->isRunning())
-        Q_EMIT progress_->cancelled();
-    else
+    if (event->key() != Qt::Key_Escape || !stepBack())
         QDialog::keyPressEvent(event);
+}
+
+// What was opened, typed or put on the records last goes first; false where nothing is left of it.
+bool VLK_Widget_Tmi_Table::stepBack()
+{
+    const bool isInField = qobject_cast<QLineEdit*>(focusWidget()) != nullptr ||
+                           qobject_cast<QAbstractSpinBox*>(focusWidget()) != nullptr;
+    if (progress_->isRunning()) {
+        Q_EMIT progress_->cancelled();
+    } else if (findBar_->isVisible()) {
+        findBar_->close();
+    } else if (filter_->giveBack()) {
+        return true;
+    } else if (isInField) {
+        if (focusWidget() == filter_->focusProxy())
+            table_->setFocus();
+    } else if (!places_->stepBack()) {
+        const bool isFiltered = filter_->isApplied();
+        if (isFiltered)
+            filter_->clear();
+        return isFiltered;
+    }
+    return true;
 }
 
 void VLK_Widget_Tmi_Table::showTitle()
@@ -224,8 +244,10 @@ void VLK_Widget_Tmi_Table::showCount()
     const QLocale locale;
     const QString all = locale.toString(shown_->records().size());
     const bool areAllShown = model_->rowCount() == shown_->records().size();
-    count_->setText(areAllShown ? tr("rec_051").arg(all)
-                                : tr("rec_052").arg(locale.toString(model_->rowCount()), all));
+    const QString count =
+        areAllShown ? tr("rec_051").arg(all) : tr("rec_052").arg(locale.toString(model_->rowCount()), all);
+    const bool isCutShown = shown_->contents()->lastIsCut && model_->rowOf(shown_->records().size() - 1) >= 0;
+    count_->setText(isCutShown ? tr("rec_297").arg(count) : count);
     exportButton_->setEnabled(!shown_->records().empty());
     columnsButton_->setEnabled(model_->columnCount() > 0);
     if (shown_->records().empty())
@@ -298,8 +320,8 @@ void VLK_Widget_Tmi_Table::exportRecords()
 void VLK_Widget_Tmi_Table::connectExport()
 {
     const auto tell = [this](const std::function<Notice()>& notice) { notices_->tell(kExported, notice); };
-    connect(export_, &RecordsExport::written, this, [this, tell](const QString& path) {
-        tell([path, count = exported_] {
+    connect(export_, &RecordsExport::written, this, [this](const QString& path) {
+        notices_->tellNews(kExported, [path, count = exported_] {
             return Notice{Mark::right,
                           tr("rec_096").arg(QLocale().toString(count), QDir::toNativeSeparators(path)),
                           {}};

@@ -47,6 +47,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    bool stepBack();
     void layOut();
     void addKeys();
     void showContents(const std::shared_ptr<vlk::TelemetryContents>& contents);
