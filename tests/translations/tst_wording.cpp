@@ -160,7 +160,10 @@ private Q_SLOTS:
         QStringList found;
         const Texts& texts = all_[language];
         for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
-            const bool excepted = !exceptKeys.isEmpty() && text.key().startsWith(exceptKeys);
+            // By what people call a setting it is found; no window shows those words.
+            const bool isSearchWord = text.key().startsWith(QLatin1String("rev_23"));
+            const bool excepted =
+                isSearchWord || (!exceptKeys.isEmpty() && text.key().startsWith(exceptKeys));
             const QRegularExpressionMatch match = rule.match(*text);
             if (match.hasMatch() && !excepted && !kQuoted.contains(*text))
                 found << QStringLiteral("%1: \"%2\"").arg(text.key(), match.captured());

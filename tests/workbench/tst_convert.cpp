@@ -73,7 +73,8 @@ private Q_SLOTS:
             .row("merged", "a.tmi b.xml --to csv --merge", 0,
                  head + row(1) + row(2) + row(3) + row(4) + row(5), "")
             .row("a condition", "b.xml --to csv --where Питание>0,003", 2, "",
-                 "r7106: --where: at character 1 there should be the name of a column\n")
+                 "r7106: --where: at character 1 there should be the name of a column, "
+                 "not \"Питание\"\n")
             .row("in the other language", "b.xml --to csv --where Напряжение_питания,_В>0,003", 0,
                  head + row(5), "")
             .row("events in both languages",
