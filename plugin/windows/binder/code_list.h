@@ -2,6 +2,7 @@
 
 // Lists of codes: every item has the text of a code, and the code itself as its data.
 
+#include "review/value_text.h"
 #include "settings/kinds/choice.h"
 
 #include <QComboBox>
