@@ -12,6 +12,8 @@
 
 #include <QTemporaryDir>
 
+#include <cmath>
+
 struct Pour
 {
     qint64 from;
