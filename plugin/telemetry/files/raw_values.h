@@ -8,20 +8,6 @@
 
 namespace vlk {
 
-inline std::uint64_t rawAt(const std::uint8_t* bytes, int width)
-{
-    switch (width) {
-    case 1:
-        return *bytes;
-    case 2:
-        return qFromLittleEndian<quint16>(bytes);
-    case 4:
-        return qFromLittleEndian<quint32>(bytes);
-    default:
-        return qFromLittleEndian<quint64>(bytes);
-    }
-}
-
 // Calls visit(record, raw) for every record from `first` on, with a std::optional<std::uint64_t> that is
 // empty where `isHeld` of its layout gives false. A value that is cut by the end of its record reads as 0, as
 // it does everywhere.

@@ -1,6 +1,7 @@
 #include "telemetry/fuel_view/fuel_list_model.h"
 
 #include "telemetry/fuel_view/fuel_texts.h"
+#include "telemetry/view/record_cell.h"
 
 #include <QLocale>
 
@@ -114,13 +115,13 @@ QVariant FuelListModel::headerData(int section, Qt::Orientation orientation, int
     if (role != Qt::DisplayRole)
         return {};
     const QString head = tr(kHeads[section]);
-    return section == Time ? head.arg(listZone(utcOffset_)) : head;
+    return section == Time ? head.arg(zoneText(utcOffset_)) : head;
 }
 
 QString FuelListModel::csv() const
 {
     QString csv =
-        csvLine({tr("rec_242"), tr("rec_243").arg(listZone(utcOffset_)), tr("rec_267"), tr("rec_244"),
+        csvLine({tr("rec_242"), tr("rec_243").arg(zoneText(utcOffset_)), tr("rec_267"), tr("rec_244"),
                  tr("rec_245"), tr("rec_246"), tr("rec_268"), tr("rec_249"), tr("rec_250")});
     for (const FuelEvent& event : events_)
         csv +=

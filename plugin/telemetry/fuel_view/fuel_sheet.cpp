@@ -2,6 +2,7 @@
 
 #include "base/translated.h"
 #include "telemetry/fuel_view/fuel_texts.h"
+#include "telemetry/view/record_cell.h"
 
 #include <QTextDocument>
 #include <QUrl>
@@ -48,14 +49,14 @@ void writeFuelSheet(QTextDocument& document, const FuelSheet& sheet)
         html += paragraph(QStringLiteral("%1: %2").arg(translated("rec_257"), sheet.vehicle));
     html += paragraph(QStringLiteral("%1 – %2, %3")
                           .arg(listTime(sheet.from, sheet.utcOffset), listTime(sheet.until, sheet.utcOffset),
-                               listZone(sheet.utcOffset)));
+                               zoneText(sheet.utcOffset)));
     for (const QString& tank : sheet.tanks)
         html += paragraph(tank);
     html += paragraph(translated("rec_259").arg(numberText(sheet.thresholds.rise, 1),
                                                 numberText(sheet.thresholds.fall, 1)));
     html +=
         QStringLiteral("<table width=\"100%\" cellpadding=\"3\">") +
-        cells({translated("rec_242"), translated("rec_243").arg(listZone(sheet.utcOffset)),
+        cells({translated("rec_242"), translated("rec_243").arg(zoneText(sheet.utcOffset)),
                translated("rec_244"), translated("rec_245"), translated("rec_246"), translated("rec_264")},
               "th");
     double refuelled = 0;

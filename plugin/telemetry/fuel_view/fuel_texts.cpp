@@ -40,15 +40,6 @@ QString listDay(double seconds, qint32 utcOffset)
     return localText(seconds, utcOffset, "dd.MM.yyyy");
 }
 
-QString listZone(qint32 utcOffset)
-{
-    const int minutes = std::abs(utcOffset) / 60;
-    const QString hours =
-        QStringLiteral("UTC%1%2").arg(QLatin1Char{utcOffset < 0 ? '-' : '+'}).arg(minutes / 60);
-    return minutes % 60 == 0 ? hours
-                             : QStringLiteral("%1:%2").arg(hours).arg(minutes % 60, 2, 10, QLatin1Char('0'));
-}
-
 QString placeText(double latitude, double longitude)
 {
     return std::isnan(latitude) ? kDash

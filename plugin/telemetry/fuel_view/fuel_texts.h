@@ -12,8 +12,6 @@ QString signedText(double number, int decimals = 0);
 // "20.11.2026 09:40", with seconds behind where they are asked for.
 QString listTime(double seconds, qint32 utcOffset, bool withSeconds = false);
 QString listDay(double seconds, qint32 utcOffset);
-// "UTC+3", "UTC-4:30".
-QString listZone(qint32 utcOffset);
 // "55.7512345, 37.6184312"; a dash where there is no place.
 QString placeText(double latitude, double longitude);
 // "4:05", hours and minutes.

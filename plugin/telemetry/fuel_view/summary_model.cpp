@@ -2,6 +2,7 @@
 
 #include "base/translated.h"
 #include "telemetry/fuel_view/fuel_texts.h"
+#include "telemetry/view/record_cell.h"
 
 #include <iterator>
 
@@ -109,7 +110,7 @@ QVariant SummaryModel::headerData(int section, Qt::Orientation orientation, int 
         return {};
     if (areDays_)
         return translated(kFigures[section].caption);
-    return section == 0 ? translated("rec_274") : translated("rec_275").arg(listZone(utcOffset_));
+    return section == 0 ? translated("rec_274") : translated("rec_275").arg(zoneText(utcOffset_));
 }
 
 QString SummaryModel::csv() const

@@ -22,6 +22,21 @@ using CppValue =
                          std::tuple<std::uint8_t, std::uint16_t, std::uint32_t, std::uint64_t, std::int8_t,
                                     std::int16_t, std::int32_t, std::int64_t, float>>;
 
+// So many bytes as an unsigned number.
+inline std::uint64_t rawAt(const std::uint8_t* bytes, int width)
+{
+    switch (width) {
+    case 1:
+        return *bytes;
+    case 2:
+        return qFromLittleEndian<quint16>(bytes);
+    case 4:
+        return qFromLittleEndian<quint32>(bytes);
+    default:
+        return qFromLittleEndian<quint64>(bytes);
+    }
+}
+
 // The bytes of a value, taken as an unsigned number, with the sign of its type; of a float its bits.
 constexpr std::int64_t integerOf(std::uint64_t raw, ValueType type)
 {
@@ -56,18 +71,7 @@ public:
     std::uint64_t raw(ElementIndex index) const
     {
         const std::uint8_t* bytes = static_cast<const Source*>(this)->find(index);
-        if (bytes == nullptr)
-            return 0;
-        switch (kElements[index].width) {
-        case 1:
-            return *bytes;
-        case 2:
-            return qFromLittleEndian<quint16>(bytes);
-        case 4:
-            return qFromLittleEndian<quint32>(bytes);
-        default:
-            return qFromLittleEndian<quint64>(bytes);
-        }
+        return bytes == nullptr ? 0 : rawAt(bytes, kElements[index].width);
     }
 
     std::int64_t integer(ElementIndex index) const { return integerOf(raw(index), kElements[index].type); }
