@@ -167,12 +167,15 @@ private:
         const bool isFast = lines.count() > kManyLines;
         painter_.setRenderHint(QPainter::Antialiasing, !isFast);
         for (int bin = kBins - 1, next = 0; next < kBins; bin = next++) {
+            const QVector<QLineF>& binLines = lines.of(bin);
+            if (binLines.isEmpty())
+                continue;
             const bool hasValue = bin < ValueClasses::kMost;
             const double width = isFast ? 1 : hasValue ? 2 + 0.4 * bin : 1.5;
             QPen pen(model_.classes().colour(hasValue ? bin : -1, palette_), width);
             pen.setCapStyle(Qt::RoundCap);
             painter_.setPen(pen);
-            painter_.drawLines(lines.of(bin));
+            painter_.drawLines(binLines);
         }
         painter_.setRenderHint(QPainter::Antialiasing);
     }
