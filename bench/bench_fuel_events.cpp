@@ -10,7 +10,7 @@ using namespace vlk;
 
 namespace {
 
-constexpr int kRecords = 1'000'000;
+constexpr int kYearOfRecords = 1'000'000;
 constexpr quint32 kStart = 1'735'689'600;
 constexpr quint32 kDay = 86'400;
 constexpr quint32 kStep = 31; // seconds
@@ -21,7 +21,7 @@ RecordStore yearOfRecords()
 {
     std::mt19937 random(7106);
     RecordStore records;
-    for (quint32 i = 0; i < kRecords; ++i) {
+    for (quint32 i = 0; i < kYearOfRecords; ++i) {
         const quint32 time = kStart + i * kStep;
         const quint32 second = time % kDay;
         const bool drives = second / 3600 >= 6 && second / 3600 < 18;
