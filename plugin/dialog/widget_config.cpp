@@ -60,7 +60,8 @@ VLK_Widget_Config::VLK_Widget_Config(QWidget* parent)
     addReview();
     addDocuments();
     addKeeper();
-    retranslate();
+    nameWindow();
+    retranslateReview();
 }
 
 VLK_Widget_Config::~VLK_Widget_Config() = default;
@@ -380,17 +381,27 @@ void VLK_Widget_Config::showQuick()
     ui_->stackedWidget->setCurrentWidget(ui_->page_Light);
 }
 
-void VLK_Widget_Config::retranslate()
+void VLK_Widget_Config::nameWindow()
 {
     setLocale(QLocale());
     if (vlkDevice)
         setWindowTitle(vlkDevice->model());
+}
+
+void VLK_Widget_Config::retranslate()
+{
+    nameWindow();
     // Lists can lose an item with the language.
     history_.asOne([] { return QCoreApplication::translate("vlk", "rev_130"); },
                    [this] {
                        lightWindow_->retranslate();
                        fullWindow_->retranslate();
                    });
+    retranslateReview();
+}
+
+void VLK_Widget_Config::retranslateReview()
+{
     review_.retranslate();
     bar_->retranslate();
     unsaved_->retranslate();

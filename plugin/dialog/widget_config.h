@@ -75,6 +75,8 @@ private:
     void showFull();
     void showQuick();
     void addReview();
+    void nameWindow();
+    void retranslateReview();
     void addKeeper();
     void write(const QString& path);
     // That F6 goes to.

@@ -35,7 +35,7 @@ VLK_Widget_Config_Full::VLK_Widget_Config_Full(QWidget* parent)
     connectButtons();
     buildTabs();
     slot_currentChanged_TabWidget(navigation_->current());
-    retranslate();
+    nameButtons();
     setDefaults();
 }
 
@@ -122,6 +122,11 @@ void VLK_Widget_Config_Full::retranslate()
         page.retranslate();
         navigation_->setTitle(page.tabIndex(), page.title());
     });
+    nameButtons();
+}
+
+void VLK_Widget_Config_Full::nameButtons()
+{
     navigation_->retranslate();
     ui_->pushButton_SaveToFile->setText(tr("wrd_047"));
     ui_->pushButton_LoadToDevice->setText(tr("wrd_048"));

@@ -76,6 +76,7 @@ protected:
 private:
     void connectButtons();
     void buildTabs();
+    void nameButtons();
 
     std::unique_ptr<Ui::VLK_Designer_Widget_Config_Full> ui_;
     bool connected_ = false;

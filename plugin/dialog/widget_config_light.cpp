@@ -33,6 +33,7 @@ VLK_Widget_Config_Light::VLK_Widget_Config_Light(QWidget* parent)
     }
     connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
             [] { vlk::requests::showHelp(QStringLiteral("r-7106quick.html")); });
+    retranslate();
 }
 
 VLK_Widget_Config_Light::~VLK_Widget_Config_Light() = default;

@@ -10,6 +10,33 @@
 
 namespace vlk {
 
+namespace {
+
+// The scroll area of a page. It takes the page in when it is first shown: an area that holds a page lays the
+// whole of it out at once, and of a window only one page is looked at first.
+class PageArea : public QScrollArea
+{
+public:
+    explicit PageArea(QWidget* page) : page_(page)
+    {
+        setWidgetResizable(true);
+        setFrameShape(QFrame::NoFrame);
+        page->setParent(viewport());
+    }
+
+    void setVisible(bool visible) override
+    {
+        if (visible && widget() == nullptr)
+            setWidget(page_);
+        QScrollArea::setVisible(visible);
+    }
+
+private:
+    QWidget* page_;
+};
+
+} // namespace
+
 TabMenu::TabMenu(QTabWidget* tabs)
     : QObject(tabs), tabs_(tabs), menu_(new QMenu(tabs)), entries_(new QActionGroup(menu_))
 {
@@ -22,11 +49,7 @@ TabMenu::TabMenu(QTabWidget* tabs)
 
 int TabMenu::add(QWidget* page, const QString& title)
 {
-    auto* area = new QScrollArea;
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidget(page);
-    const int tab = tabs_->addTab(area, title);
+    const int tab = tabs_->addTab(new PageArea(page), title);
     auto* entry = new VLK_MenuAction(title, tab, menu_);
     entry->setCheckable(true);
     entry->setActionGroup(entries_);

@@ -7,7 +7,24 @@
 #include <QRegularExpression>
 #include <QRegularExpressionValidator>
 
+#include <map>
+#include <string_view>
+
 namespace vlk {
+
+namespace {
+
+// Few patterns stand at many fields: each is compiled once.
+const QRegularExpression& compiled(const char* pattern)
+{
+    static std::map<std::string_view, QRegularExpression> patterns;
+    const auto [place, isNew] = patterns.try_emplace(pattern);
+    if (isNew)
+        place->second.setPattern(QLatin1String(pattern));
+    return place->second;
+}
+
+} // namespace
 
 TextAdapter::TextAdapter(const Text& text, const Joint& joint, QLineEdit* edit)
     : Adapter(joint.edits, joint.row), text_(text), edit_(edit)
@@ -35,7 +52,7 @@ void TextAdapter::expect()
     if (!text_.expectedPattern)
         return;
     TextEntry::join(edit_)->doubt(
-        [expected = QRegularExpression(QLatin1String(text_.expectedPattern)),
+        [expected = compiled(text_.expectedPattern),
          complaint = QCoreApplication::translate("vlk", text_.unexpectedKey),
          blanks = QCoreApplication::translate("vlk", "typed_blanks")](const QString& text) {
             if (expected.match(text).hasMatch())
