@@ -1394,6 +1394,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_243"><translation>is the table of %1, not of %2</translation></message>
     <message id="cli_244"><translation>holds no fuel level of %1</translation></message>
     <message id="cli_245"><translation>is not telemetry</translation></message>
+    <message id="cli_246"><translation>preset</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>
     <message id="rev_003"><translation>Unknown key, a write drops it</translation></message>
@@ -1414,6 +1415,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_018"><translation>After</translation></message>
     <message id="rev_019"><translation>Note</translation></message>
     <message id="rev_020"><translation>Advice</translation></message>
+    <message id="rev_021"><translation>Letters that a configuration cannot hold, kept as "?"</translation></message>
     <message id="rev_022"><translation>Unknown section, a write drops it</translation></message>
     <message id="rev_023"><translation>Stands twice, one of them is dropped</translation></message>
     <message id="rev_024"><translation>Made for the model %1; this program is for %2</translation></message>

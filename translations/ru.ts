@@ -1394,6 +1394,7 @@
     <message id="cli_243"><translation>таблица датчика %1, а не %2</translation></message>
     <message id="cli_244"><translation>нет уровня топлива %1</translation></message>
     <message id="cli_245"><translation>не является телеметрией</translation></message>
+    <message id="cli_246"><translation>шаблон</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>
@@ -1414,6 +1415,7 @@
     <message id="rev_018"><translation>Стало</translation></message>
     <message id="rev_019"><translation>Примечание</translation></message>
     <message id="rev_020"><translation>Замечания</translation></message>
+    <message id="rev_021"><translation>Есть буквы, которых в конфигурации быть не может, вместо них «?»</translation></message>
     <message id="rev_022"><translation>Неизвестный раздел, запись его удалит</translation></message>
     <message id="rev_023"><translation>Встречается дважды, один из них пропадёт</translation></message>
     <message id="rev_024"><translation>Сделано для модели %1, программа — для %2</translation></message>

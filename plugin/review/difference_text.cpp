@@ -38,6 +38,8 @@ const char* noteKey(const Difference& difference)
         return "rev_012";
     case Change::byRule:
         return "rev_013";
+    case Change::notCarried:
+        return "rev_021";
     case Change::none:
     case Change::missing:
     case Change::otherForm:

@@ -21,7 +21,7 @@ void walk(const CXmlNode& element, const QString& path, const Take& take)
     for (const CXmlNode* attribute : attributes) {
         if (isSection && attribute->name == QLatin1String("page"))
             continue;
-        take(path + QLatin1Char('/') + sectionText(attribute->name), sectionText(attribute->value));
+        take(path + QLatin1Char('/') + sectionText(attribute->name), attribute->value);
         ++taken;
     }
     QHash<QString, int> seen;
@@ -29,7 +29,7 @@ void walk(const CXmlNode& element, const QString& path, const Take& take)
         QString below = path + QLatin1Char('/') + child->name;
         // Settings read a key from an element of its name too.
         if (child->children.empty() && child->attributes.empty() && FileKeys::all().at(below) >= 0) {
-            take(below, sectionText(child->value));
+            take(below, child->value);
             continue;
         }
         if (const int number = ++seen[child->name]; number > 1)

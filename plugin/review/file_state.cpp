@@ -3,6 +3,7 @@
 #include "review/document_walk.h"
 #include "settings/all_settings.h"
 #include "xml/xml_section.h"
+#include "xml/xml_text.h"
 
 namespace vlk::review {
 
@@ -115,7 +116,9 @@ void FileState::takeText(int key, const QString& text, const Configuration& load
     Held& held = held_[key];
     if (held.row < 0)
         held.row = FileKeys::all()[key].rows.front();
-    const Taken taken = takenAs(loaded.tables()[FileKeys::all()[key].table], held.row, text);
+    Taken taken = takenAs(loaded.tables()[FileKeys::all()[key].table], held.row, text);
+    if (isWhole(taken.change) && sectionText(text) != text)
+        taken.change = Change::notCarried;
     held.isThere = true;
     held.text = text;
     held.isWhole = isWhole(taken.change);

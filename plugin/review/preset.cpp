@@ -5,6 +5,7 @@
 #include "review/setting_parts.h"
 #include "xml/serialize.h"
 #include "xml/xml_document.h"
+#include "xml/xml_text.h"
 
 #include <QSet>
 
@@ -57,7 +58,7 @@ Texts textsOf(CXmlSection& preset, std::vector<PresetProblem>* problems)
         else if (seen.contains(key))
             problems->push_back({What::doubled, path, text});
         else
-            texts.emplace_back(key, text);
+            texts.emplace_back(key, sectionText(text));
         seen.insert(key);
     });
     return texts;

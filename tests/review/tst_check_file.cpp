@@ -53,6 +53,9 @@ private Q_SLOTS:
         table.row("spelling", "angle=\"5\" useDist", "angle=\"05\" useDist", {});
         table.row("limit", "angle=\"5\" useDist", "angle=\"500\" useDist",
                   QString::fromUtf8("TRACK/POINTS/angle named: 500 abbr_016 \u2192 90 abbr_016. rev_007"));
+        table.row("letters of other languages", "<OBJECT name=\"", "<OBJECT name=\"&#x65E5;",
+                  QString::fromUtf8("TRANS/OBJECT/name named: \u65E5\u0420\u0435\u0439\u0441 71 \u2192 "
+                                    "?\u0420\u0435\u0439\u0441 71. rev_021"));
         table.row("key missing", "angle=\"5\" useDist", "useDist", {});
         table.row("unknown key", "<POINTS ", "<POINTS bogus=\"1\" ", "TRACK/POINTS/bogus: rev_003");
         table.row("unknown element", "<POINTS ", "<BOGUS a=\"1\" b=\"2\"/><POINTS ",

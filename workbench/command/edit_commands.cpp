@@ -51,6 +51,7 @@ const char* reasonKey(Change change)
     case Change::none:
     case Change::missing:
     case Change::unknownCode:
+    case Change::notCarried:
     case Change::otherForm:
         break;
     }
