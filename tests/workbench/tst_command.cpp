@@ -57,6 +57,11 @@ private Q_SLOTS:
         QDir(folder_->path()).mkpath("presets");
         put("presets/1.xml", "<DEVICE creator='preset'><TRACK><POINTS bend='1'/></TRACK></DEVICE>");
         put("named.xml", "<DEVICE><TRANS><OBJECT name='Truck 7'/><SRV1 objID='86007'/></TRANS></DEVICE>");
+        put("twice.xml", "<DEVICE><TRACK><POINTS maxSpeed='90' maxSpeed='80'/></TRACK></DEVICE>");
+        QDir(folder_->path()).mkpath("large");
+        const QByteArray blanks(4'000'000, ' ');
+        put("large/1.xml", readFile(path("telemetry.xml")) + blanks);
+        put("large.xml", track + blanks);
         put("motion.xml", readFile(path("factory.xml")).replace("ign=\"1\"", "ign=\"0\""));
         put("bad.xml", "<DEVICE creator='preset'><TRACK><POINTS maxSpeed='80' bend='1'/></TRACK></DEVICE>");
     }
@@ -174,6 +179,12 @@ private Q_SLOTS:
             .row("what standard input is", "info -", 0, "-: configuration, R-7106\n", "")
             .row("whose configuration it is", "info named.xml", 0,
                  "named.xml: configuration, Truck 7, Object ID: 86007\n", "")
+            .row("what is a preset, or large", "info good.xml large.xml", 0,
+                 "good.xml: preset\nlarge.xml: configuration, R-7106\n", "")
+            .row("what is larger than configurations", "check large large.xml", 2, "",
+                 "large.xml: is larger than a configuration can be\n")
+            .row("an attribute that stands twice", "check twice.xml", 2, "",
+                 "twice.xml: is damaged in line 1, column 52\n")
             .row("presets in a folder", "check presets", 0, "", "")
             .row("a preset", "check good.xml bad.xml", 1,
                  "bad.xml: warning: TRACK/POINTS/bend: Unknown key, left out\n", "")
@@ -222,6 +233,8 @@ private Q_SLOTS:
                  "a.xml: " + words + "90 km/h → 80 km/h\n", "", changed)
             .row("no setting", "set a.xml", 2, "",
                  "r7106: settings and files are needed: PATH=VALUE… FILE…\nHelp: r7106 --help\n", a)
+            .row("two values", "set TRACK/POINTS/maxSpeed=80 TRACK/POINTS/maxSpeed=81 a.xml", 2, "",
+                 "r7106: TRACK/POINTS/maxSpeed stands twice\nHelp: r7106 --help\n", a)
             .row("a preset", "apply good.xml a.xml fleet/1.xml", 0,
                  "a.xml: " + words + "90 km/h → 80 km/h\nfleet/1.xml: " + words + "90 km/h → 80 km/h\n", "",
                  changed)

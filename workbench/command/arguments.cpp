@@ -5,6 +5,8 @@
 #include "telemetry/files/export_form.h"
 #include "window/languages.h"
 
+#include <QSet>
+
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
@@ -191,10 +193,15 @@ QString splitFiles(const CommandRow& row, const Read& read, const std::optional<
         const auto isFile = [](const QString& name) { return !name.contains(QLatin1Char('=')); };
         const auto settings = plain ? files.size() - plain->size()
                                     : std::find_if(files.begin(), files.end(), isFile) - files.begin();
+        QSet<QString> paths;
         for (int i = 0; i < settings; ++i) {
             call->settings << QString::fromUtf8(files[i].toLatin1());
             if (isFile(files[i]))
                 return text("cli_020").arg(call->settings.last());
+            const QString path = call->settings.last().section(QLatin1Char('='), 0, 0);
+            if (paths.contains(path))
+                return text("cli_031").arg(path);
+            paths.insert(path);
         }
         files = files.mid(static_cast<int>(settings));
         if (call->settings.isEmpty() || files.isEmpty())

@@ -9,6 +9,7 @@
 #include "window/languages.h"
 #include "xml/serialize.h"
 #include "xml/xml_document.h"
+#include "xml/xml_scanner.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -43,50 +44,47 @@ QString whyUnreadable(const QFile& file)
     const QFileInfo name(file.fileName());
     if (name.isDir() && name.isReadable())
         return text("cli_143");
-    return text("cli_002").arg(systemReason(name.isDir() ? qt_error_string(EACCES) : file.errorString()));
+    const QString reason = name.isDir()                ? qt_error_string(EACCES)
+                           : file.fileName().isEmpty() ? qt_error_string(ENOENT)
+                                                       : file.errorString();
+    return text("cli_002").arg(systemReason(reason));
 }
 
+namespace {
+
+// No more than shows that it is larger than a configuration can be. None with a reason.
 std::optional<QByteArray> contentOf(const QString& name, QString* reason)
 {
     QFile file(name);
     const bool isOpen =
         name == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
-    if (!isOpen) {
-        *reason = whyUnreadable(file);
-        return std::nullopt;
-    }
-    if (file.size() > CSerialize::maxFileSize) {
-        *reason = text("cli_005");
-        return std::nullopt;
-    }
     // What is no plain file has no size.
     QByteArray bytes;
-    while (bytes.size() <= CSerialize::maxFileSize) {
+    while (isOpen && bytes.size() <= CSerialize::maxFileSize) {
         const QByteArray piece = file.read(CSerialize::maxFileSize + 1 - bytes.size());
         if (piece.isEmpty())
             break;
         bytes += piece;
     }
-    if (file.error() != QFileDevice::NoError) {
-        *reason = whyUnreadable(file);
-        return std::nullopt;
-    }
-    if (bytes.size() > CSerialize::maxFileSize) {
-        *reason = text("cli_005");
-        return std::nullopt;
-    }
-    return bytes;
+    if (isOpen && file.error() == QFileDevice::NoError)
+        return bytes;
+    *reason = whyUnreadable(file);
+    return std::nullopt;
 }
+
+} // namespace
 
 QString whyDamaged(const QByteArray& bytes)
 {
     using Problem = ConfigurationProblem;
+    if (!vlk::isOfBearableSize(QString::fromLatin1(bytes)))
+        return text("cli_008");
     const std::optional<Problem> problem = checkConfiguration(bytes, {});
     if (problem && problem->kind == Problem::CutShort)
         return text("cli_006").arg(problem->line);
     if (problem && problem->kind == Problem::Damaged)
         return text("cli_007").arg(problem->line).arg(problem->column);
-    return text("cli_008");
+    return {};
 }
 
 Outcome refusal(const Call& call, const QString& name, const QString& reason)
@@ -104,17 +102,18 @@ Outcome withConfiguration(const Call& call, const File& file, const TakeConfigur
     if (bytes->trimmed().isEmpty())
         return refusal(call, file.name, text("cli_004"));
     const FileKind kind = kindOf(*bytes);
-    vlk::XmlDocument document(kind == FileKind::configuration ? *bytes : QByteArray(),
-                              QStringLiteral("DEVICE"));
-    if (document.isOpen()) {
-        const bool isPassedOver = !file.isNamed && vlk::review::saysPreset(*document.root());
-        return isPassedOver ? Outcome{} : take(*bytes, document);
+    if (kind != FileKind::configuration) {
+        const bool isPassedOver = !file.isNamed && kind != FileKind::unknown;
+        return isPassedOver ? Outcome{} : refusal(call, file.name, whyOther(kind));
     }
-    if (kind == FileKind::configuration)
-        return refusal(call, file.name, whyDamaged(*bytes));
-    if (!file.isNamed && kind != FileKind::unknown)
-        return {};
-    return refusal(call, file.name, whyOther(kind));
+    reason = bytes->size() > CSerialize::maxFileSize ? text("cli_005") : whyDamaged(*bytes);
+    if (!reason.isEmpty())
+        return refusal(call, file.name, reason);
+    vlk::XmlDocument document(*bytes, QStringLiteral("DEVICE"));
+    if (!document.isOpen())
+        return refusal(call, file.name, text("cli_008"));
+    const bool isPassedOver = !file.isNamed && vlk::review::saysPreset(*document.root());
+    return isPassedOver ? Outcome{} : take(*bytes, document);
 }
 
 } // namespace workbench::command

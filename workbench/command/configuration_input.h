@@ -18,10 +18,7 @@ namespace workbench::command {
 // Of one that could not be opened, or read to its end.
 QString whyUnreadable(const QFile& file);
 
-// `name` may be "-". None with a reason.
-std::optional<QByteArray> contentOf(const QString& name, QString* reason);
-
-// Of bytes that begin as a configuration and cannot be opened as one.
+// Of bytes that begin as a configuration; empty for a whole one.
 QString whyDamaged(const QByteArray& bytes);
 
 Outcome refusal(const Call& call, const QString& name, const QString& reason);

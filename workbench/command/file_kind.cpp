@@ -33,6 +33,11 @@ bool looksLikeTachograph(const QByteArray& start)
            (start.size() > 1 && start[0] == '\x76' && start[1] > 0 && start[1] < 0x40);
 }
 
+QString textOf(const QByteArray& start)
+{
+    return QTextCodec::codecForUtfText(start, QTextCodec::codecForName("windows-1251"))->toUnicode(start);
+}
+
 } // namespace
 
 FileKind kindOf(const QByteArray& start)
@@ -43,8 +48,7 @@ FileKind kindOf(const QByteArray& start)
         return FileKind::telemetry;
     if (looksLikeTachograph(start))
         return FileKind::tachograph;
-    const QString text =
-        QTextCodec::codecForUtfText(start, QTextCodec::codecForName("ISO-8859-1"))->toUnicode(start);
+    const QString text = textOf(start);
     vlk::XmlScanner scanner(text);
     if (scanner.next() != vlk::XmlScanner::Token::start)
         return FileKind::unknown;
@@ -57,6 +61,19 @@ FileKind kindOf(const QByteArray& start)
 const char* nameOf(FileKind kind)
 {
     return std::ranges::find(kinds, kind, &KindRow::kind)->name;
+}
+
+QString modelOf(const QByteArray& start)
+{
+    const QString text = textOf(start);
+    vlk::XmlScanner scanner(text);
+    if (scanner.next() == vlk::XmlScanner::Token::start) {
+        for (const vlk::XmlScanner::Attribute& attribute : scanner.attributes()) {
+            if (scanner.at(attribute.name) == QLatin1String("model"))
+                return scanner.at(attribute.value).toString();
+        }
+    }
+    return {};
 }
 
 } // namespace workbench::command

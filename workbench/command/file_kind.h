@@ -2,7 +2,7 @@
 
 // What a file is, by its content alone.
 
-#include <QByteArray>
+#include <QString>
 
 namespace workbench::command {
 
@@ -12,5 +12,8 @@ enum class FileKind { configuration, telemetry, calibration, tachograph, unknown
 FileKind kindOf(const QByteArray& start);
 // As programs read it: "configuration".
 const char* nameOf(FileKind kind);
+
+// The attribute `model` of an XML file's root; null where it has none.
+QString modelOf(const QByteArray& start);
 
 } // namespace workbench::command

@@ -10,6 +10,7 @@
 #include "command/json_line.h"
 #include "command/telemetry_summary.h"
 #include "fuel/table/fuel_document.h"
+#include "review/preset.h"
 #include "window/languages.h"
 #include "xml/serialize.h"
 #include "xml/xml_document.h"
@@ -26,6 +27,7 @@ namespace {
 struct Facts
 {
     FileKind kind = FileKind::unknown;
+    bool isPreset = false;
     QString model{};
     QString name{};     // of the object
     QString objectId{}; // at its first server
@@ -47,9 +49,9 @@ QByteArray number(const std::optional<qint64>& count)
 
 QByteArray lineOf(const Call& call, const File& file, const Facts& facts)
 {
-    if (call.json)
-        return JsonLine()
-            .add("file", readable(file.name))
+    if (call.json) {
+        JsonLine line;
+        line.add("file", readable(file.name))
             .add("what", QString::fromLatin1(nameOf(facts.kind)))
             .add("model", facts.model)
             .add("name", facts.name)
@@ -57,10 +59,13 @@ QByteArray lineOf(const Call& call, const File& file, const Facts& facts)
             .addRaw("records", number(facts.records))
             .add("from", facts.from)
             .add("to", facts.to)
-            .addRaw("gaps", number(facts.gaps))
-            .line();
+            .addRaw("gaps", number(facts.gaps));
+        if (facts.isPreset)
+            line.addRaw("preset", "true");
+        return line.line();
+    }
     static constexpr const char* words[] = {"cli_060", "cli_061", "cli_062", "cli_063", "cli_064"};
-    QStringList told{text(words[static_cast<int>(facts.kind)])};
+    QStringList told{text(facts.isPreset ? "cli_246" : words[static_cast<int>(facts.kind)])};
     if (!facts.model.isEmpty())
         told << facts.model;
     if (!facts.name.isEmpty())
@@ -99,14 +104,15 @@ QString textAt(const CXmlSection& root, const char* group, const char* key)
 Outcome documentFacts(const Call& call, const File& file, FileKind kind, const QByteArray& content)
 {
     const QString root = QString::fromLatin1(kind == FileKind::calibration ? vlk::fuelRoot : "DEVICE");
-    vlk::XmlDocument document(content, root);
+    const QString damage = kind == FileKind::configuration ? whyDamaged(content) : QString();
+    vlk::XmlDocument document(damage.isEmpty() ? content : QByteArray(), root);
     if (!document.isOpen())
-        return refusal(call, file.name,
-                       kind == FileKind::configuration ? whyDamaged(content) : text("cli_008"));
+        return refusal(call, file.name, damage.isEmpty() ? text("cli_008") : damage);
     Facts facts{.kind = kind};
     if (const QString* model = document.root()->find(QStringLiteral("model")))
         facts.model = *model;
     if (kind == FileKind::configuration) {
+        facts.isPreset = vlk::review::saysPreset(*document.root());
         facts.name = textAt(*document.root(), "OBJECT", "name");
         const QString id = textAt(*document.root(), "SRV1", "objID");
         facts.objectId = id == QLatin1String("0") ? QString() : id;
@@ -132,7 +138,7 @@ Outcome factsOf(const Call& call, const File& file)
         return {lineOf(call, file, {.kind = kind})};
     const QByteArray content = device.read(CSerialize::maxFileSize + 1);
     if (content.size() > CSerialize::maxFileSize)
-        return refusal(call, file.name, text("cli_005"));
+        return {lineOf(call, file, {.kind = kind, .model = modelOf(start)})};
     return documentFacts(call, file, kind, content);
 }
 

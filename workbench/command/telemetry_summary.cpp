@@ -1,11 +1,10 @@
 #include "command/telemetry_summary.h"
 
-#include "base/windows1251.h"
+#include "command/file_kind.h"
 #include "command/output.h"
 #include "telemetry/files/binary_layout.h"
 #include "telemetry/files/telemetry_reader.h"
 #include "window/languages.h"
-#include "xml/xml_scanner.h"
 
 #include <algorithm>
 
@@ -43,19 +42,6 @@ private:
     bool isBehind_ = false; // another record
     quint32 before_ = 0;
 };
-
-QString modelOf(const QByteArray& start)
-{
-    const QString text = vlk::fromWindows1251(start);
-    vlk::XmlScanner scanner(text);
-    if (scanner.next() != vlk::XmlScanner::Token::start)
-        return {};
-    for (const vlk::XmlScanner::Attribute& attribute : scanner.attributes()) {
-        if (scanner.at(attribute.name) == QLatin1String("model"))
-            return scanner.at(attribute.value).toString();
-    }
-    return {};
-}
 
 } // namespace
 
