@@ -47,8 +47,9 @@ constexpr int preciseField(int sensor)
 constexpr const char* kNoAddress = "|0.0.0.0";
 
 constexpr auto kServerRules = rulesOf(
+    // A further one is not in use then.
     rule("server_empty", hint, "adv_001")
-        .each(kServers)
+        .each(1)
         .when(isOn("TRANS/SRV%1/use"), is("TRANS/SRV%1/addr", kNoAddress), is("TRANS/SRV%1/port", "0"))
         .naming("TRANS/SRV%1/addr", "TRANS/SRV%1/port")
         .telling(outerNumber()),

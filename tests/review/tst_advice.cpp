@@ -221,7 +221,7 @@ private:
         const auto row = [&](const char* rule, const QString& speaking, const QString& silent) {
             all.append({rule, speaking, silent});
         };
-        row("server_empty", "TRANS/SRV2/use=1; /port=0", "TRANS/SRV2/use=1; /addr=a.b; /port=0");
+        row("server_empty", "TRANS/SRV1/addr=; /port=0", "TRANS/SRV2/use=1; /addr=; /port=0");
         row("server_address", "TRANS/SRV2/use=1", "TRANS/SRV2/use=1; /addr=10.0.0.1");
         row("server_port", "TRANS/SRV1/port=0", "TRANS/SRV1/port=1");
         row("server_address_form", "TRANS/SRV1/addr=http://a.b", "TRANS/SRV1/addr=a.b");
