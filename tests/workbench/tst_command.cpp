@@ -155,6 +155,8 @@ private Q_SLOTS:
             .row("no litres", "fuel --fall -1 --table tank.xml week.xml", 2, "",
                  "r7106: --fall takes a number of litres above 0\n" + help)
             .row("no table", "fuel week.xml", 2, "", "--table: a calibration table is needed: --table FILE\n")
+            .row("a table that is not there", "fuel --table none.xml week.xml", 2, "",
+                 "none.xml: cannot be read: no such file or folder\n")
             .row("a table of another sensor",
                  "fuel --sensor LevelRS485_1 --fall 99 --table other.xml week.xml", 0, "",
                  "other.xml: is the table of D2, not of LevelRS485_1\n")

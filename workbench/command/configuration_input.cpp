@@ -14,8 +14,11 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+#include <cctype>
 #include <cerrno>
 #include <cstdio>
+#include <vector>
 
 namespace workbench::command {
 
@@ -58,10 +61,11 @@ std::optional<QByteArray> contentOf(const QString& name, QString* reason)
     QFile file(name);
     const bool isOpen =
         name == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
-    // What is no plain file has no size.
+    // What is no plain file has no size. Room for the largest one would cost more than to read a usual one.
+    const qint64 size = std::max<qint64>(file.size(), 1 << 16);
     QByteArray bytes;
     while (isOpen && bytes.size() <= CSerialize::maxFileSize) {
-        const QByteArray piece = file.read(CSerialize::maxFileSize + 1 - bytes.size());
+        const QByteArray piece = file.read(std::min(size, CSerialize::maxFileSize + 1 - bytes.size()));
         if (piece.isEmpty())
             break;
         bytes += piece;
@@ -70,6 +74,33 @@ std::optional<QByteArray> contentOf(const QString& name, QString* reason)
         return bytes;
     *reason = whyUnreadable(file);
     return std::nullopt;
+}
+
+// Whether there may be what the reader of documents passes although it is damage: names that stand twice,
+// references to nothing, signs that the encoding does not have. To look closely at every file would cost half
+// as much as to check it.
+bool isDoubtful(const QByteArray& bytes)
+{
+    constexpr int declaration = 100;
+    const bool isOneByte = bytes.left(declaration).contains("windows-1251");
+    const auto isOdd = [isOneByte](char sign) {
+        const auto code = static_cast<uchar>(sign);
+        return sign == '&' || (code < ' ' && !std::isspace(code)) || (code >= 0x80 && !isOneByte);
+    };
+    if (std::any_of(bytes.begin(), bytes.end(), isOdd))
+        return true;
+    const QString text = QString::fromLatin1(bytes);
+    vlk::XmlScanner scanner(text);
+    std::vector<QStringView> names;
+    while (scanner.next() != vlk::XmlScanner::Token::none) {
+        names.clear();
+        for (const vlk::XmlScanner::Attribute& attribute : scanner.attributes())
+            names.push_back(scanner.at(attribute.name));
+        std::sort(names.begin(), names.end());
+        if (std::adjacent_find(names.begin(), names.end()) != names.end())
+            return true;
+    }
+    return false;
 }
 
 } // namespace
@@ -106,12 +137,14 @@ Outcome withConfiguration(const Call& call, const File& file, const TakeConfigur
         const bool isPassedOver = !file.isNamed && kind != FileKind::unknown;
         return isPassedOver ? Outcome{} : refusal(call, file.name, whyOther(kind));
     }
-    reason = bytes->size() > CSerialize::maxFileSize ? text("cli_005") : whyDamaged(*bytes);
-    if (!reason.isEmpty())
-        return refusal(call, file.name, reason);
-    vlk::XmlDocument document(*bytes, QStringLiteral("DEVICE"));
+    if (bytes->size() > CSerialize::maxFileSize)
+        return refusal(call, file.name, text("cli_005"));
+    reason = isDoubtful(*bytes) ? whyDamaged(*bytes) : QString();
+    vlk::XmlDocument document(reason.isEmpty() ? *bytes : QByteArray(), QStringLiteral("DEVICE"));
+    if (!document.isOpen() && reason.isEmpty())
+        reason = whyDamaged(*bytes);
     if (!document.isOpen())
-        return refusal(call, file.name, text("cli_008"));
+        return refusal(call, file.name, reason.isEmpty() ? text("cli_008") : reason);
     const bool isPassedOver = !file.isNamed && vlk::review::saysPreset(*document.root());
     return isPassedOver ? Outcome{} : take(*bytes, document);
 }

@@ -11,7 +11,8 @@
 
 namespace workbench::command {
 
-// `work` runs in several threads at once, `take` in the calling one. Gives the greatest status.
+// `work` runs in several threads at once, what outcomes do in turn in the calling one. Gives the greatest
+// status.
 int eachFile(const QStringList& names, const std::function<Outcome(const File&)>& work, Output& output);
 
 } // namespace workbench::command

@@ -18,6 +18,7 @@
 
 #include <array>
 #include <cerrno>
+#include <cstdio>
 #include <mutex>
 
 namespace workbench::command {
@@ -129,6 +130,8 @@ using Edit = std::function<EditedFile(const QByteArray& text)>;
 
 int edit(const Call& call, Output& output, const Edit& edit)
 {
+    // Whoever interrupts it is told of every file that was changed.
+    std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
     // A file that is named twice, by its folder too, is edited by one thread after the other.
     std::array<std::mutex, 61> mutexes;
     const auto work = [&](const File& file) {

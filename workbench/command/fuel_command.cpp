@@ -95,6 +95,8 @@ Outcome takeTanks(const Call& call, std::vector<TankSensor>* tanks)
             tanks->push_back({sensor, {}});
             continue;
         }
+        if (QFile file(call.tables[i]); !file.open(QIODevice::ReadOnly))
+            return refuse(call.tables[i], whyUnreadable(file));
         const auto read = vlk::readCalibration(call.tables[i]);
         if (const auto* fault = std::get_if<vlk::TableFault>(&read))
             return refuse(call.tables[i], text(vlk::faultKey(*fault)));
