@@ -14,6 +14,7 @@
 #include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTextCodec>
 #include <QtTest>
 
 #include <csignal>
@@ -401,6 +402,8 @@ private Q_SLOTS:
             qEnvironmentVariableIntValue("VLK_KILLS") > 0 ? qEnvironmentVariableIntValue("VLK_KILLS") : 12;
         const QTemporaryDir root;
         const QString factory = tracker::SimulatedTracker(root.filePath("factory")).vehicleName();
+        const auto* codec = QTextCodec::codecForName("windows-1251");
+        QString before = factory;
         int written = 0;
         for (int kill = 0; kill < kills; ++kill) {
             QProcess child;
@@ -414,10 +417,16 @@ private Q_SLOTS:
             const workbench::Backups backups(root.filePath("backups"));
             const QString now = tracker.vehicleName();
             QVERIFY2(QStringList({factory, "one", "two"}).contains(now), qPrintable(now));
-            for (const workbench::Backup& backup : backups.all())
-                QVERIFY(!workbench::checkConfiguration(backups.document(backup.number), "R-7106"));
+            const QByteArray name = "<OBJECT name=\"" + codec->fromUnicode(before) + '"';
+            bool isKept = now == before;
+            for (const workbench::Backup& backup : backups.all()) {
+                const QByteArray document = backups.document(backup.number);
+                QVERIFY(!workbench::checkConfiguration(document, "R-7106"));
+                isKept |= document.contains(name);
+            }
+            QVERIFY2(isKept, qPrintable(before));
+            before = now;
             written += child.readAllStandardOutput().count("confirmed");
-            QVERIFY(now == factory || !backups.all().isEmpty());
         }
         QVERIFY(kills < 100 || written > 0);
     }
