@@ -131,6 +131,15 @@ private Q_SLOTS:
         QTRY_VERIFY(Bench::find("lineEdit_Name"));
     }
 
+    // The system may give a window the keyboard and not say so.
+    void takesKeysWhenNoneIsActive()
+    {
+        Bench bench;
+        QApplication::setActiveWindow(nullptr);
+        QTest::keyClick(bench.window.windowHandle(), Qt::Key_H, Qt::ControlModifier);
+        QTRY_VERIFY(Bench::find("dialog_History"));
+    }
+
     // Only a fresh key counts, and the box skips what loses nothing.
     void reviewsByKeys()
     {
@@ -348,6 +357,9 @@ private Q_SLOTS:
         QTRY_VERIFY(!bench.session().road().isBusy());
         QCOMPARE(Bench::find<QComboBox>("comboBox_Against")->currentText(), QString("In the tracker now"));
         QCOMPARE(table->model()->rowCount(), 0);
+        list->window()->close();
+        bench.action("action_History")->trigger();
+        QCOMPARE(Bench::find<QComboBox>("comboBox_Backup")->currentText(), QString("No.\u00A03"));
         bench.window.setLanguage("ru");
         QTRY_VERIFY(list->window()->windowTitle().startsWith(QString("История")));
     }

@@ -1,6 +1,6 @@
 #include "window/active_windows.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEvent>
 
 namespace workbench {
@@ -29,6 +29,10 @@ QVector<QWidget*> ActiveWindows::latest() const
 
 bool ActiveWindows::eventFilter(QObject* object, QEvent* event)
 {
+    // Where windows come and go within moments, one may get the keyboard back without being told: its keys
+    // come, but no shortcut works.
+    if (event->type() == QEvent::ShortcutOverride && object->isWidgetType() && !QApplication::activeWindow())
+        QApplication::setActiveWindow(static_cast<QWidget*>(object)->window());
     if (event->type() != QEvent::WindowActivate || !object->isWidgetType())
         return false;
     auto* window = static_cast<QWidget*>(object);

@@ -23,6 +23,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShowEvent>
 #include <QSplitter>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -148,6 +149,7 @@ QWidget* HistoryWindow::buildButtons()
     chosen_ =
         addButton(line, "pushButton_BringChosen", "wb_history_bring_chosen", &HistoryWindow::bringChosen);
     whole_ = addButton(line, "pushButton_BringWhole", "wb_history_bring", &HistoryWindow::bringBack);
+    setTabOrder(note_, keep_);
     auto* close = addButton(line, "pushButton_Close", "wb_report_close", nullptr);
     connect(close, &QPushButton::clicked, this, &QDialog::close);
     return foot;
@@ -325,6 +327,14 @@ void HistoryWindow::keyPressEvent(QKeyEvent* event)
     }
     if (auto* button = qobject_cast<QPushButton*>(focusWidget()); button && !event->isAutoRepeat())
         button->click();
+}
+
+// Whoever opens it again comes for what was written since.
+void HistoryWindow::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (!event->spontaneous())
+        select(list_->newest());
 }
 
 void HistoryWindow::changeEvent(QEvent* event)
