@@ -335,6 +335,8 @@ private Q_SLOTS:
         QVERIFY(std::get<1>(run({"report", "--changed", "--secrets", "secret.xml"})).contains(">geheim<"));
         QCOMPARE(std::get<0>(run({"report", "factory.xml", "-o", "r.pdf"})), 0);
         QVERIFY(readFile(path("r.pdf")).startsWith("%PDF-"));
+        QCOMPARE(std::get<0>(run({"diff", "a.xml", "none.xml", "-o", "r.html"})), 2);
+        QCOMPARE(readFile(path("r.html")), html);
     }
 
 private:

@@ -42,6 +42,9 @@ int run(const Call& call)
             continue;
         Output output(call.output);
         const int status = function.run(call, output);
+        // What came to nothing is no reason to empty a file that was there.
+        if (status == failed && output.isEmptyFile())
+            output.drop();
         return output.close() ? status : failed;
     }
     return failed;

@@ -22,6 +22,8 @@ public:
     void drop() { isDropped_ = true; }
 
     bool isFile() const { return !name_.isEmpty(); }
+    // A file that could be written, and nothing is in it.
+    bool isEmptyFile() const { return isFile() && fault_.isEmpty() && kept_.size() == 0; }
 
 private:
     QString name_;
