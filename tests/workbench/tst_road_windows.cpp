@@ -135,7 +135,12 @@ private Q_SLOTS:
     void takesKeysWhenNoneIsActive()
     {
         Bench bench;
-        QApplication::setActiveWindow(nullptr);
+        {
+            QWidget other;
+            other.show();
+            QVERIFY(QTest::qWaitForWindowActive(&other));
+        }
+        QTRY_VERIFY(!QGuiApplication::focusWindow() && !QApplication::activeWindow());
         QTest::keyClick(bench.window.windowHandle(), Qt::Key_H, Qt::ControlModifier);
         QTRY_VERIFY(Bench::find("dialog_History"));
     }
