@@ -1251,7 +1251,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_214"><translation>%1: at character %2 there should be %3</translation></message>
     <message id="cli_215"><translation>--columns: there is no column %1</translation></message>
     <message id="rec_001"><translation>Fi&amp;lter</translation></message>
-    <message id="rec_002"><translation>For example: Speed &gt; 60 and Power &lt; 11.5</translation></message>
+    <message id="rec_002"><translation>For example: Speed &gt; 60 and Supply voltage &lt; 11.5</translation></message>
     <message id="rec_003"><translation>A column, a sign (= != &lt; &gt; &lt;= &gt;=) and a value; several are joined by and, or, not and brackets. Enter applies the filter, an empty field shows all records.</translation></message>
     <message id="rec_005"><translation>Character %1: expected %2.</translation></message>
     <message id="rec_006"><translation>&amp;Columns</translation></message>
@@ -1582,6 +1582,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_296"><translation>Only the beginning of this record is in the file.</translation></message>
     <message id="rec_297"><translation>%1, 1 of them cut</translation></message>
     <message id="rec_298"><translation>%1, not &quot;%2&quot;</translation></message>
+    <message id="rec_300"><translation>Latest filters (Down)</translation></message>
+    <message id="rec_301"><translation>No filters yet</translation></message>
     <message id="rev_230"><translation>alarm, alarm zone, temperature threshold, minimum</translation></message>
     <message id="rev_231"><translation>alarm, power failure</translation></message>
     <message id="rev_232"><translation>ignition, alarm button, door</translation></message>

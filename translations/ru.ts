@@ -1251,7 +1251,7 @@
     <message id="cli_214"><translation>%1: в позиции %2 ожидается %3</translation></message>
     <message id="cli_215"><translation>--columns: столбца %1 нет</translation></message>
     <message id="rec_001"><translation>Фи&amp;льтр</translation></message>
-    <message id="rec_002"><translation>Например: Speed &gt; 60 и Power &lt; 11,5</translation></message>
+    <message id="rec_002"><translation>Например: Скорость &gt; 60 и Напряжение питания &lt; 11,5</translation></message>
     <message id="rec_003"><translation>Столбец, знак (= != &lt; &gt; &lt;= &gt;=) и значение; несколько условий соединяются словами и, или, не и скобками. Enter применяет фильтр, пустое поле показывает все записи.</translation></message>
     <message id="rec_005"><translation>Символ %1: ожидается %2.</translation></message>
     <message id="rec_006"><translation>&amp;Столбцы</translation></message>
@@ -1582,6 +1582,8 @@
     <message id="rec_296"><translation>В файле только начало этой записи.</translation></message>
     <message id="rec_297"><translation>%1, из них 1 обрезана</translation></message>
     <message id="rec_298"><translation>%1, а не «%2»</translation></message>
+    <message id="rec_300"><translation>Последние фильтры (стрелка вниз)</translation></message>
+    <message id="rec_301"><translation>Фильтров ещё не было</translation></message>
     <message id="rev_230"><translation>тревога, тревожная зона, порог температуры, минимум</translation></message>
     <message id="rev_231"><translation>тревога, пропадание питания</translation></message>
     <message id="rev_232"><translation>зажигание, тревожная кнопка, дверь</translation></message>

@@ -3,6 +3,7 @@
 #include "base/windows1251.h"
 #include "support/data_table.h"
 #include "support/files.h"
+#include "support/full_disk.h"
 #include "telemetry/files/export_form.h"
 #include "telemetry/sample_pages.h"
 
@@ -100,6 +101,11 @@ private Q_SLOTS:
                  "damaged.tmi: offset 128: no record; went on at 176\n"
                  "damaged.tmi: offset 128: the records are not what was written\n"
                  "damaged.tmi: offset 19: the file tells another count of records\n")
+            .row("a damaged file among those merged", "damaged.tmi b.xml --to csv --merge", 1,
+                 head + row(2) + row(3) + row(4) + row(5),
+                 "damaged.tmi: offset 128: no record; went on at 176\n"
+                 "damaged.tmi: offset 128: the records are not what was written\n"
+                 "damaged.tmi: offset 19: the file tells another count of records\n")
             .row("nothing of what is damaged", "damaged.tmi --strict --to ndjson --raw", 2, "",
                  "damaged.tmi: offset 128: no record; went on at 176\n"
                  "damaged.tmi: offset 128: the records are not what was written\n"
@@ -136,6 +142,47 @@ private Q_SLOTS:
             QVERIFY(std::get<1>(run({"convert", "many.tmi", "--to", "csv-text"})) == one);
         QCOMPARE(one.count('\n'), 3002);
         QVERIFY(one.contains(toWindows1251(origin_.vendor)));
+    }
+
+    // More files than a process may have open.
+    void manyFiles()
+    {
+        QDir(folder_.path()).mkdir("fleet");
+        const int files = 1200;
+        for (int i = files; i > 0; --i)
+            put(QString("fleet/%1.tmi").arg(i, 4, 10, QChar('0')),
+                fileOf(ExportForm::tmi, storeOf({i, i + 1}), {}));
+        for (const auto& [call, records] : {std::pair(QStringList{"--merge"}, files + 1), {{}, 2 * files}}) {
+            const auto [status, told, complaints] =
+                run(QStringList{"convert", "fleet", "--to", "tsv", "--raw", "--columns", "NumPage"} + call);
+            QCOMPARE(complaints, QByteArray());
+            QCOMPARE(status, 0);
+            const QList<QByteArray> lines = told.split('\n');
+            QCOMPARE(lines.size(), records + 2);
+            QCOMPARE(lines[records], QByteArray::number(files + 1));
+        }
+    }
+
+    // In the middle of what is written, to a file or where the output goes.
+    void fullDisk()
+    {
+        put("there.csv", "before");
+        const auto before = QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden);
+        std::optional<FullDisk> disk(100'000);
+        for (const char* merge : {"", "--merge"}) {
+            const auto [status, told, complaints] = run(QString("convert many.tmi --to csv -o there.csv %1")
+                                                            .arg(merge)
+                                                            .split(' ', Qt::SkipEmptyParts));
+            QCOMPARE(status, 2);
+            QCOMPARE(complaints.count('\n'), 1);
+        }
+        QCOMPARE(readFile(path("there.csv")), QByteArray("before"));
+        QCOMPARE(QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden), before);
+        disk.reset();
+        const auto [status, told, complaints] =
+            run({"convert", "many.tmi", "--to", "csv", "-o", "/dev/full"});
+        QCOMPARE(status, 2);
+        QVERIFY2(complaints.startsWith("/dev/full: "), complaints.constData());
     }
 
 private:

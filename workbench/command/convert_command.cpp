@@ -9,6 +9,7 @@
 #include "command/file_names.h"
 #include "command/in_order.h"
 #include "command/output.h"
+#include "command/progress.h"
 #include "telemetry/files/export_form.h"
 #include "telemetry/files/filter_parser.h"
 #include "telemetry/files/title_lines.h"
@@ -21,6 +22,7 @@
 
 #include <algorithm>
 #include <deque>
+#include <unistd.h>
 
 namespace workbench::command {
 
@@ -117,6 +119,7 @@ QString trackerOf(const File& file)
 struct Part
 {
     RecordBatch batch{};
+    std::size_t size = 0; // records that came with it
     std::optional<std::vector<int>> records{};
     QByteArray bytes{};
 };
@@ -125,9 +128,9 @@ class Conversions
 {
 public:
     Conversions(const Conversion& asked, Filter filter, vlk::ExportOptions options, RecordSource& source,
-                Output& output)
+                Output& output, Progress& progress)
         : form_(vlk::rowOf(formOf(asked.form))), asked_(asked), filter_(std::move(filter)),
-          options_(std::move(options)), source_(source), output_(output)
+          options_(std::move(options)), source_(source), output_(output), progress_(progress)
     {
     }
 
@@ -201,9 +204,14 @@ private:
 
     void walk(std::function<Part(Part)> work, const std::function<void(Part)>& take)
     {
+        done_ = 0;
         InOrder<Part, Part> all([this] { return next(); }, std::move(work));
-        while (std::optional<Part> part = all.take())
+        while (std::optional<Part> part = all.take()) {
+            done_ += part->size;
+            if (!isOnTerminal_)
+                progress_.show(done_);
             take(std::move(*part));
+        }
     }
 
     std::optional<Part> next()
@@ -217,7 +225,10 @@ private:
             return part;
         }
         std::optional<RecordBatch> batch = source_.next();
-        return batch ? std::optional(Part{.batch = std::move(*batch)}) : std::nullopt;
+        if (!batch)
+            return std::nullopt;
+        const auto size = static_cast<std::size_t>(batch->records.size());
+        return Part{.batch = std::move(*batch), .size = size};
     }
 
     // As long as they are few; else they are read again.
@@ -306,6 +317,10 @@ private:
     const vlk::ExportOptions options_;
     RecordSource& source_;
     Output& output_;
+    Progress& progress_;
+    const bool isOnTerminal_ =
+        !output_.isFile() && isatty(STDOUT_FILENO) != 0; // what comes is progress enough
+    std::size_t done_ = 0;                               // records of this walk
     vlk::ExportAhead ahead_;
     std::deque<Part> held_; // from looking ahead
     qint64 heldBytes_ = 0;
@@ -328,13 +343,14 @@ int convertFiles(const Conversion& asked, const Filter& filter, vlk::ExportOptio
                  const TelemetryInputs& inputs, Output& output)
 {
     int status = inputs.status();
+    Progress progress;
     SourceListener listener;
     listener.damage = [&](const File& file, const vlk::FileDamage& damage, qint64 size) {
-        writeError(damageLine(file, damage, size));
+        progress.writeError(damageLine(file, damage, size));
         status = std::max<int>(status, found);
     };
     listener.fault = [&](const File& file, const QString& reason) {
-        writeError(complaint(file.name, text("cli_002").arg(reason)));
+        progress.writeError(complaint(file.name, text("cli_002").arg(reason)));
         status = failed;
     };
     listener.complete = [&](const File& file, vlk::TelemetryOrigin& origin) {
@@ -353,7 +369,7 @@ int convertFiles(const Conversion& asked, const Filter& filter, vlk::ExportOptio
         if (!merged)
             return refused(output, text("cli_213") + QStringLiteral(": ") + reason);
     }
-    Conversions conversions(asked, filter, options, merged ? *merged : *files, output);
+    Conversions conversions(asked, filter, options, merged ? *merged : *files, output, progress);
     if (conversions.looksAhead())
         conversions.lookAhead();
     if (asked.strict && status != nothing) {

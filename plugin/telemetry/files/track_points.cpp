@@ -1,5 +1,8 @@
 #include "telemetry/files/track_points.h"
 
+#include "telemetry/files/raw_values.h"
+#include "telemetry/text/item_text.h"
+
 #include <QLibrary>
 #include <QLoggingCategory>
 
@@ -49,27 +52,38 @@ private:
 
 } // namespace
 
-std::vector<TrackPoint> trackPoints(RecordColumns& columns, int firstRecord, const TrackPoint* before)
+void forEachTrackPoint(RecordColumns& columns, int firstRecord, const TrackPoint* before,
+                       const std::function<void(const TrackPoint&)>& visit)
 {
-    const NumberColumn& latitudes = columns.numbers(item("Latitude"));
-    const NumberColumn& longitudes = columns.numbers(item("Longitude"));
-    const NumberColumn& validities = columns.numbers(item("StateNGauge.fix"));
+    constexpr ItemIndex items[] = {item("Latitude"), item("Longitude"), item("StateNGauge.fix")};
+    const RawValues latitudes(columns.store(), kItems[items[0]].element);
+    const RawValues longitudes(columns.store(), kItems[items[1]].element);
+    const RawValues validities(columns.store(), kItems[items[2]].element);
+    const auto number = [](const std::optional<std::uint64_t>& raw, ItemIndex item) {
+        return raw ? itemNumber(*raw, item) : std::numeric_limits<double>::quiet_NaN();
+    };
     const std::vector<quint32>& times = columns.times();
-    std::vector<TrackPoint> points;
     std::optional<quint32> lastTime;
     if (before != nullptr)
         lastTime = before->time;
     for (int record = firstRecord; record < columns.store().size(); ++record) {
-        const double latitude = latitudes[record];
-        const double longitude = longitudes[record];
+        const double latitude = number(latitudes.at(record), items[0]);
+        const double longitude = number(longitudes.at(record), items[1]);
         // What is absent is not in range; a validity that is absent calls nothing invalid.
         const bool isInRange = std::abs(latitude) <= 90 && std::abs(longitude) <= 180;
-        if (!isInRange || (latitude == 0 && longitude == 0) || validities[record] == 0)
+        if (!isInRange || (latitude == 0 && longitude == 0) || number(validities.at(record), items[2]) == 0)
             continue;
         const bool starts = !lastTime || isGapBetween(*lastTime, times[record]);
         lastTime = times[record];
-        points.push_back({record, times[record], latitude, longitude, starts});
+        visit({record, times[record], latitude, longitude, starts});
     }
+}
+
+std::vector<TrackPoint> trackPoints(RecordColumns& columns, int firstRecord, const TrackPoint* before)
+{
+    std::vector<TrackPoint> points;
+    forEachTrackPoint(columns, firstRecord, before,
+                      [&](const TrackPoint& point) { points.push_back(point); });
     return points;
 }
 

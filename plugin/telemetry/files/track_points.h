@@ -5,6 +5,7 @@
 
 #include "telemetry/files/record_columns.h"
 
+#include <functional>
 #include <vector>
 
 namespace vlk {
@@ -30,6 +31,9 @@ struct TrackPoint
 // from that record on, in the order of the store. `before`: the last point of what comes before, if any.
 std::vector<TrackPoint> trackPoints(RecordColumns& columns, int firstRecord = 0,
                                     const TrackPoint* before = nullptr);
+// The same one by one, without the memory for all of them and their columns.
+void forEachTrackPoint(RecordColumns& columns, int firstRecord, const TrackPoint* before,
+                       const std::function<void(const TrackPoint&)>& visit);
 
 // On the ellipsoid WGS 84. NaN where PROJ, which is loaded when it is asked for the first time, is not
 // installed.

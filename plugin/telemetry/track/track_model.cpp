@@ -27,17 +27,15 @@ TrackModel::TrackModel(ShownRecords* records, QObject* parent) : QObject(parent)
 void TrackModel::restart()
 {
     path_ = TrackPath();
-    path_.add(trackPoints(records_->columns()));
+    path_.add(records_->columns());
     describe();
     Q_EMIT restarted();
 }
 
 void TrackModel::grow(int first)
 {
-    const TrackPoint* const before = path_.isEmpty() ? nullptr : &path_.points().back();
-    const std::vector<TrackPoint> added = trackPoints(records_->columns(), first, before);
     const bool wasEmpty = path_.isEmpty();
-    path_.add(added);
+    path_.add(records_->columns(), first);
     describe();
     if (wasEmpty)
         Q_EMIT restarted();
@@ -61,9 +59,9 @@ void TrackModel::classify()
 {
     Extremes extremes;
     if (const NumberColumn* const numbers = values()) {
-        for (const TrackPoint& point : path_.points()) {
-            if (point.record < static_cast<int>(numbers->size()))
-                extremes.add((*numbers)[point.record]);
+        for (const int record : path_.records()) {
+            if (record < static_cast<int>(numbers->size()))
+                extremes.add((*numbers)[record]);
         }
     }
     classes_ = extremes.isEmpty() ? ValueClasses() : ValueClasses(extremes.least, extremes.greatest);

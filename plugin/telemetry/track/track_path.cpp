@@ -13,6 +13,7 @@ namespace {
 constexpr double kMetresPerDegree = 40'007'863.0 / 360;
 constexpr double kNarrowestDegree = 0.01; // of one at the equator, so that the poles have a width
 constexpr double kLevels[] = {0, 2, 8, 32, 128, 512, 2048, 8192, 32768};
+constexpr std::size_t kLeastThinning = 2; // times fewer points than the level before
 
 double within180(double degrees)
 {
@@ -31,46 +32,96 @@ void unite(QRectF& rect, const QPointF& point, bool isFirst)
                    std::max(rect.right(), point.x()), std::max(rect.bottom(), point.y()));
 }
 
-void TrackPath::add(const std::vector<TrackPoint>& points)
+void TrackPath::add(RecordColumns& columns, int firstRecord)
 {
-    if (points.empty())
-        return;
-    if (points_.empty()) {
-        const auto [south, north] = std::ranges::minmax(points, {}, &TrackPoint::latitude);
-        middleLatitude_ = (south.latitude + north.latitude) / 2;
-        middleLongitude_ = points.front().longitude;
-        lastLongitude_ = middleLongitude_;
-        metresPerDegreeEast_ =
-            kMetresPerDegree * std::max(std::cos(qDegreesToRadians(middleLatitude_)), kNarrowestDegree);
-        for (const double apart : kLevels)
-            levels_.push_back({apart, {}, {}});
-    }
-    for (const TrackPoint& point : points) {
-        const auto index = static_cast<int>(points_.size());
+    const bool isFirst = isEmpty();
+    if (isFirst)
+        setMiddle(columns);
+    const TrackPoint last = isFirst ? TrackPoint() : pointAt(static_cast<int>(records_.size()) - 1);
+    const auto before = static_cast<int>(records_.size());
+    forEachTrackPoint(columns, firstRecord, isFirst ? nullptr : &last, [this](const TrackPoint& point) {
         lastLongitude_ += within180(point.longitude - lastLongitude_);
-        points_.push_back(point);
+        records_.push_back(point.record);
+        times_.push_back(point.time);
+        startsSegment_.push_back(point.startsSegment);
         places_.emplace_back((lastLongitude_ - middleLongitude_) * metresPerDegreeEast_,
                              (middleLatitude_ - point.latitude) * kMetresPerDegree);
+    });
+    if (records_.size() >= 2 * levelsMadeOf_)
+        makeLevels();
+    else
         for (Level& level : levels_)
-            addTo(level, index);
+            addTo(level, before);
+}
+
+// Of the points that there are at first, which also tell how much room is needed.
+void TrackPath::setMiddle(RecordColumns& columns)
+{
+    double south = 0;
+    double north = 0;
+    std::size_t count = 0;
+    forEachTrackPoint(columns, 0, nullptr, [&](const TrackPoint& point) {
+        if (count++ == 0) {
+            south = north = point.latitude;
+            lastLongitude_ = point.longitude;
+        }
+        south = std::min(south, point.latitude);
+        north = std::max(north, point.latitude);
+    });
+    middleLatitude_ = (south + north) / 2;
+    middleLongitude_ = lastLongitude_;
+    metresPerDegreeEast_ =
+        kMetresPerDegree * std::max(std::cos(qDegreesToRadians(middleLatitude_)), kNarrowestDegree);
+    records_.reserve(count);
+    times_.reserve(count);
+    startsSegment_.reserve(count);
+    places_.reserve(count);
+}
+
+// A level that leaves out too little is none: the finer one does.
+void TrackPath::makeLevels()
+{
+    levels_.clear();
+    levelsMadeOf_ = records_.size();
+    for (const double apart : kLevels) {
+        Level level{apart, {}, {}};
+        if (apart == 0)
+            level.kept.reserve(records_.size());
+        addTo(level, 0);
+        if (!levels_.empty() && level.kept.size() > levels_.back().kept.size() / kLeastThinning)
+            continue;
+        level.kept.shrink_to_fit();
+        level.of.shrink_to_fit();
+        levels_.push_back(std::move(level));
     }
 }
 
-void TrackPath::addTo(Level& level, int point)
+void TrackPath::addTo(Level& level, int firstPoint) const
 {
-    const bool isFirst = level.kept.empty();
-    if (!isFirst && !points_[point].startsSegment) {
-        const QPointF way = places_[point] - places_[level.kept.back()];
-        if (QPointF::dotProduct(way, way) < level.apart * level.apart)
-            return;
+    for (int point = firstPoint; point < static_cast<int>(records_.size()); ++point) {
+        const bool isFirst = level.kept.empty();
+        if (!isFirst && !startsSegment_[point]) {
+            const QPointF way = places_[point] - places_[level.kept.back()];
+            if (QPointF::dotProduct(way, way) < level.apart * level.apart)
+                continue;
+        }
+        const bool startsChunk = level.kept.size() % Level::kChunk == 0;
+        if (startsChunk) {
+            level.of.emplace_back();
+            unite(level.of.back(), places_[isFirst ? point : level.kept.back()], true);
+        }
+        unite(level.of.back(), places_[point], false);
+        level.kept.push_back(point);
     }
-    const bool startsChunk = level.kept.size() % Level::kChunk == 0;
-    if (startsChunk) {
-        level.of.emplace_back();
-        unite(level.of.back(), places_[isFirst ? point : level.kept.back()], true);
-    }
-    unite(level.of.back(), places_[point], false);
-    level.kept.push_back(point);
+}
+
+TrackPoint TrackPath::pointAt(int point) const
+{
+    TrackPoint made = at(places_[point]);
+    made.record = records_[point];
+    made.time = times_[point];
+    made.startsSegment = startsSegment_[point];
+    return made;
 }
 
 TrackPoint TrackPath::at(const QPointF& place) const
@@ -82,8 +133,8 @@ TrackPoint TrackPath::at(const QPointF& place) const
 
 int TrackPath::pointOf(int record) const
 {
-    const auto behind = std::ranges::upper_bound(points_, record, {}, &TrackPoint::record);
-    return static_cast<int>(behind - points_.begin()) - 1;
+    const auto behind = std::ranges::upper_bound(records_, record);
+    return static_cast<int>(behind - records_.begin()) - 1;
 }
 
 const TrackPath::Level& TrackPath::levelFor(double metresPerPixel) const

@@ -1,7 +1,8 @@
 #pragma once
 
 // The points of a track on a plane, in metres east and south of its middle, and thinned out in levels so that
-// a drawing costs what its pixels need. North is up; the date line is no seam.
+// a drawing costs what its pixels need. North is up; the date line is no seam. A point takes some thirty
+// bytes.
 
 #include "telemetry/files/track_points.h"
 
@@ -15,11 +16,25 @@ void unite(QRectF& rect, const QPointF& point, bool isFirst);
 class TrackPath
 {
 public:
-    // Points that come after those it has.
-    void add(const std::vector<TrackPoint>& points);
+    // The points of the records from that one on, which come after those it has.
+    void add(RecordColumns& columns, int firstRecord = 0);
 
-    bool isEmpty() const { return points_.empty(); }
-    const std::vector<TrackPoint>& points() const { return points_; }
+    // Made when they are asked for.
+    class Points
+    {
+    public:
+        explicit Points(const TrackPath& path) : path_(path) {}
+        std::size_t size() const { return path_.records_.size(); }
+        TrackPoint operator[](std::size_t point) const { return path_.pointAt(static_cast<int>(point)); }
+
+    private:
+        const TrackPath& path_;
+    };
+
+    bool isEmpty() const { return records_.empty(); }
+    Points points() const { return Points(*this); }
+    // The record of each point.
+    const std::vector<int>& records() const { return records_; }
     const QPointF& place(int point) const { return places_[point]; }
     // The point that is drawn there, as latitude and longitude.
     TrackPoint at(const QPointF& place) const;
@@ -38,11 +53,17 @@ public:
     const Level& levelFor(double metresPerPixel) const;
 
 private:
-    void addTo(Level& level, int point);
+    TrackPoint pointAt(int point) const;
+    void setMiddle(RecordColumns& columns);
+    void addTo(Level& level, int firstPoint) const;
+    void makeLevels();
 
-    std::vector<TrackPoint> points_;
+    std::vector<int> records_;
+    std::vector<quint32> times_;
+    std::vector<bool> startsSegment_;
     std::vector<QPointF> places_;
     std::vector<Level> levels_;
+    std::size_t levelsMadeOf_ = 0; // points; made anew when there are twice as many
     double middleLatitude_ = 0;
     double middleLongitude_ = 0;
     double lastLongitude_ = 0; // beyond 180 where the track crossed the date line

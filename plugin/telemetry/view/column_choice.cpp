@@ -1,10 +1,10 @@
 #include "telemetry/view/column_choice.h"
 
-#include "link/device.h"
+#include "telemetry/view/records_memory.h"
 #include "telemetry/view/records_model.h"
 #include "telemetry/view/records_table.h"
 
-#include <QDir>
+#include <QFile>
 #include <QHeaderView>
 #include <QSettings>
 
@@ -20,11 +20,9 @@ const QString kHidden = QStringLiteral("hidden");
 const QString kShown = QStringLiteral("shown");
 const QString kOrder = QStringLiteral("order");
 
-// None is made for this.
 QString memoryFile()
 {
-    const QDir folder(vlkDevice ? vlkDevice->xmlFolder() : QString());
-    return vlkDevice && folder.exists() ? folder.filePath(QStringLiteral("records-columns.ini")) : QString();
+    return recordsMemory("records-columns.ini");
 }
 
 QSet<QString> setOf(const QStringList& names)

@@ -2,15 +2,19 @@
 
 #include "link/device.h"
 #include "link/requests.h"
+#include "telemetry/view/latest_filters.h"
 #include "telemetry/view/records_model.h"
 #include "typing/field_mark.h"
+#include "typing/line_icon.h"
 
 #include <QAbstractItemView>
+#include <QAction>
 #include <QCompleter>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QStringListModel>
 
 #include <algorithm>
@@ -24,11 +28,14 @@ namespace {
 constexpr int kMostOffered = 200;
 constexpr const char* kLanguages[] = {"ru", "en"};
 
-// Enter on what is offered takes that.
+// Enter on what is offered takes that; Down asks for what was applied before.
 class FilterLine : public QLineEdit
 {
 public:
-    FilterLine(QCompleter* completer, QWidget* parent) : QLineEdit(parent), completer_(completer) {}
+    FilterLine(QCompleter* completer, QAction* latest, QWidget* parent)
+        : QLineEdit(parent), completer_(completer), latest_(latest)
+    {
+    }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override
@@ -38,6 +45,8 @@ protected:
         const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
         if (isEnter && isOffering) {
             event->ignore();
+        } else if (event->key() == Qt::Key_Down && !offered->isVisible()) {
+            latest_->trigger();
         } else {
             QLineEdit::keyPressEvent(event);
             // It presses no button of the window.
@@ -48,17 +57,20 @@ protected:
 
 private:
     QCompleter* completer_;
+    QAction* latest_;
 };
 
 } // namespace
 
 FilterField::FilterField(ShownRecords* shown, RecordsModel* model, QWidget* parent)
-    : QWidget(parent), shown_(shown), model_(model), caption_(new QLabel(this)), fault_(new QLabel(this)),
-      completer_(new QCompleter(this)), offered_(new QStringListModel(this))
+    : QWidget(parent), shown_(shown), model_(model), caption_(new QLabel(this)), latest_(new QAction(this)),
+      fault_(new QLabel(this)), completer_(new QCompleter(this)), offered_(new QStringListModel(this))
 {
-    line_ = new FilterLine(completer_, this);
+    line_ = new FilterLine(completer_, latest_, this);
     line_->setObjectName(QStringLiteral("lineEdit_Filter"));
     line_->setClearButtonEnabled(true);
+    latest_->setIcon(lineIcon(LineIcon::down));
+    line_->addAction(latest_, QLineEdit::TrailingPosition);
     caption_->setBuddy(line_);
     setFocusProxy(line_);
     fault_->setObjectName(QStringLiteral("label_FilterFault"));
@@ -78,6 +90,7 @@ FilterField::FilterField(ShownRecords* shown, RecordsModel* model, QWidget* pare
     grid->setColumnStretch(1, 1);
     connect(line_, &QLineEdit::textEdited, this, &FilterField::offer);
     connect(line_, &QLineEdit::returnPressed, this, &FilterField::applyTyped);
+    connect(latest_, &QAction::triggered, this, &FilterField::offerLatest);
     connect(completer_, qOverload<const QString&>(&QCompleter::activated), this, &FilterField::complete);
     connect(shown, &ShownRecords::contentsChanged, this, [this] {
         names_.reset();
@@ -182,8 +195,22 @@ void FilterField::applyTyped()
     }
     tell({});
     applied_ = text;
+    keepFilter(parsed.filter->text());
     shown_->setPassing(passing(*parsed.filter, shown_->columns()));
     Q_EMIT applied();
+}
+
+void FilterField::offerLatest()
+{
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const QString& filter : latestFilters())
+        menu->addAction(filter, this, [this, filter] { apply(filter); });
+    if (menu->isEmpty())
+        menu->addAction(tr("rec_301"))->setEnabled(false);
+    menu->setMinimumWidth(line_->width());
+    menu->popup(line_->mapToGlobal(line_->rect().bottomLeft()));
+    menu->setActiveAction(menu->actions().front());
 }
 
 QString FilterField::conditionOf(int record, int column)
@@ -219,6 +246,7 @@ void FilterField::retranslate()
     caption_->setText(tr("rec_001"));
     line_->setPlaceholderText(tr("rec_002"));
     line_->setToolTip(tr("rec_003"));
+    latest_->setToolTip(tr("rec_300"));
     tell(told_);
 }
 

@@ -1,8 +1,9 @@
 #pragma once
 
 // The field above the table in which the records to be shown are asked for. Names and words are completed as
-// they are typed; Enter applies, an empty field shows all. What cannot be read is told below, with the place
-// and with what was expected there, and changes nothing.
+// they are typed; Enter applies, an empty field shows all, and an arrow in it, or Down, gives the filters
+// that were applied last. What cannot be read is told below, with the place and with what was expected there,
+// and changes nothing.
 
 #include "telemetry/files/filter_parser.h"
 
@@ -10,6 +11,7 @@
 
 #include <functional>
 
+class QAction;
 class QCompleter;
 class QLabel;
 class QLineEdit;
@@ -45,6 +47,7 @@ private:
     void offer();
     void complete(const QString& text);
     void applyTyped();
+    void offerLatest();
     void tell(const std::function<QString()>& fault);
     const FilterNames& names();
 
@@ -52,6 +55,7 @@ private:
     RecordsModel* model_;
     QLabel* caption_;
     QLineEdit* line_;
+    QAction* latest_;
     QLabel* fault_;
     QCompleter* completer_;
     QStringListModel* offered_;

@@ -7,6 +7,8 @@
 #include "telemetry/track/track_view.h"
 #include "telemetry/view/period_file.h"
 
+#include <QFileInfo>
+
 namespace vlk {
 
 namespace {
@@ -16,7 +18,7 @@ template <class View>
 RecordsPart titledPart(View* view, const char* title)
 {
     return {view, title, [view] { view->retranslate(); },
-            [view](const QString& name) { view->setTitle(name); }};
+            [view](const QString& name) { view->setTitle(QFileInfo(name).completeBaseName()); }};
 }
 
 std::vector<FoundEvent> marksOf(const std::vector<FuelEvent>& events)

@@ -96,11 +96,13 @@ void RecordsTable::setUpFrozen()
     // Either head sorts, both show by what.
     for (const auto& [from, to] : {std::pair(this->horizontalHeader(), frozen_->horizontalHeader()),
                                    std::pair(frozen_->horizontalHeader(), this->horizontalHeader())}) {
-        connect(from, &QHeaderView::sortIndicatorChanged, to, [to = to](int column, Qt::SortOrder order) {
-            const QSignalBlocker quiet(to);
-            to->setSortIndicator(column, order);
-            to->viewport()->update();
-        });
+        connect(from, &QHeaderView::sortIndicatorChanged, this,
+                [this, to = to](int column, Qt::SortOrder order) {
+                    const QSignalBlocker quiet(to);
+                    to->setSortIndicator(column, order);
+                    to->viewport()->update();
+                    makeRoomForArrow(column);
+                });
     }
 }
 
@@ -147,14 +149,29 @@ void RecordsTable::arrange(const std::vector<int>& columns)
     keepFrozenFirst();
 }
 
+int RecordsTable::widthOfHead(int column) const
+{
+    const QString head = model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    return headWidth(head, fontMetrics()) + 4 * fontMetrics().averageCharWidth();
+}
+
+// Which is as wide as half the head is high.
+void RecordsTable::makeRoomForArrow(int column)
+{
+    if (column < 0)
+        return;
+    const int width = std::max(columnWidth(column), widthOfHead(column) + horizontalHeader()->height() / 2);
+    setColumnWidth(column, width);
+    frozen_->setColumnWidth(column, width);
+    placeFrozen();
+}
+
 // By the head and some of the rows: the view would ask all of them that it can see, in every column.
 void RecordsTable::fitWidths()
 {
-    const int margin = 4 * fontMetrics().averageCharWidth();
     const int rows = model_->rowCount();
     for (int column = 0; column < model_->columnCount(); ++column) {
-        const QString head = model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-        int width = headWidth(head, fontMetrics()) + margin;
+        int width = widthOfHead(column);
         for (int sample = 0; sample < std::min(rows, kSamples); ++sample) {
             // The last row too, where numbers are largest.
             const int row = static_cast<int>(qint64{rows - 1} * sample / std::max(kSamples - 1, 1));

@@ -55,6 +55,8 @@ private:
     void setUpFrozen();
     void placeFrozen();
     void keepFrozenFirst();
+    int widthOfHead(int column) const;
+    void makeRoomForArrow(int column);
     void open(const QModelIndex& index);
 
     RecordsModel* model_;
