@@ -23,15 +23,11 @@ StateRuns runsOf(ShownRecords& records, ItemIndex item)
 {
     const Item& row = kItems[item];
     const int bit = bitOf(row);
-    std::vector<std::int8_t> states(records.records().size(), -1);
-    forEachRaw(
-        records.records(), row.element, [&](const RecordLayout& layout) { return layout.has(row.element); },
-        [&](int record, std::optional<std::uint64_t> raw) {
-            if (raw)
-                states[record] = static_cast<std::int8_t>(*raw >> bit & 1);
-        });
-    return StateRuns(records.byTime(), records.columns().times(),
-                     [&](int record) { return int{states[record]}; });
+    const RawValues values(records.records(), row.element);
+    return StateRuns(records.byTime(), records.columns().times(), [&](int record) {
+        const std::optional<std::uint64_t> raw = values.at(record);
+        return raw ? static_cast<int>(*raw >> bit & 1) : -1;
+    });
 }
 
 StateRuns runsOf(ShownRecords& records, const std::vector<Stop>& stops)

@@ -3,6 +3,7 @@
 // When a state of two was on, as a band below the curves draws it. It lasts until the next record that tells
 // it; where that is more than five minutes away, nothing is known of the time between.
 
+#include "telemetry/files/track_points.h"
 #include "telemetry/view/shown_records.h"
 
 namespace vlk {
@@ -28,8 +29,13 @@ struct StateRuns
     static bool isAny(const std::vector<Run>& runs, double from, double to);
 
 private:
-    static void addTo(std::vector<Run>& runs, quint32 from, quint32 to);
-    static bool isGap(quint32 from, quint32 to);
+    static void addTo(std::vector<Run>& runs, quint32 from, quint32 to)
+    {
+        if (!runs.empty() && runs.back().to == from)
+            runs.back().to = to;
+        else
+            runs.push_back({from, to});
+    }
 };
 
 template <class State>
@@ -42,7 +48,7 @@ StateRuns::StateRuns(const std::vector<int>& byTime, const std::vector<quint32>&
         if (now != 0 && now != 1)
             continue;
         const quint32 time = times[record];
-        if (before >= 0 && !isGap(since, time)) {
+        if (before >= 0 && !isGapBetween(since, time)) {
             addTo(known, since, time);
             if (before == 1)
                 addTo(on, since, time);

@@ -13,6 +13,7 @@ namespace {
 using namespace nodes;
 
 constexpr int kDeepest = 64;
+constexpr int kMostCompletions = 200; // more would not be read
 
 enum class Expected : std::uint8_t {
     name,
@@ -319,13 +320,13 @@ QStringList matching(const QStringList& all, const QStringList& folded, const QS
     const QString inside = QLatin1Char(' ') + typed;
     QStringList first;
     QStringList further;
-    for (int i = 0; i < all.size(); ++i) {
+    for (int i = 0; i < all.size() && first.size() < kMostCompletions; ++i) {
         if (folded[i].startsWith(typed))
             first << all[i];
-        else if (folded[i].contains(inside))
+        else if (further.size() < kMostCompletions && folded[i].contains(inside))
             further << all[i];
     }
-    return first + further;
+    return (first + further).mid(0, kMostCompletions);
 }
 
 QStringList matching(const QStringList& all, const QString& typed)

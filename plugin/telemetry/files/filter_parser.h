@@ -28,7 +28,8 @@ struct ParsedFilter
 // `utcOffset`: of the zone on show; none: that of this machine. Blanks alone let everything pass.
 ParsedFilter parseFilter(const QString& text, const FilterNames& names, std::optional<qint32> utcOffset = {});
 
-// What may be typed at the cursor: `text` takes the place of what stands from `from` to the cursor.
+// What may be typed at the cursor, some of it where it is much: `text` takes the place of what stands from
+// `from` to the cursor.
 struct FilterCompletion
 {
     int from = 0;

@@ -11,8 +11,7 @@ namespace vlk {
 // Columns that were decoded before the store grew get the numbers that they lack.
 const NumberColumn& RecordColumns::numbers(ItemIndex item)
 {
-    return filled(numbers_[item], kItems[item].element,
-                  [&](std::uint64_t raw) { return itemNumber(raw, item, userTypes_); });
+    return filled(numbers_[item], kItems[item].element, ItemNumbers(item, userTypes_));
 }
 
 const NumberColumn& RecordColumns::numbers(ElementIndex element)

@@ -55,23 +55,33 @@ private:
 void forEachTrackPoint(RecordColumns& columns, int firstRecord, const TrackPoint* before,
                        const std::function<void(const TrackPoint&)>& visit)
 {
-    constexpr ItemIndex items[] = {item("Latitude"), item("Longitude"), item("StateNGauge.fix")};
-    const RawValues latitudes(columns.store(), kItems[items[0]].element);
-    const RawValues longitudes(columns.store(), kItems[items[1]].element);
-    const RawValues validities(columns.store(), kItems[items[2]].element);
-    const auto number = [](const std::optional<std::uint64_t>& raw, ItemIndex item) {
-        return raw ? itemNumber(*raw, item) : std::numeric_limits<double>::quiet_NaN();
+    struct Column
+    {
+        RawValues raw;
+        ItemNumbers number;
+
+        double at(int record) const
+        {
+            const std::optional<std::uint64_t> value = raw.at(record);
+            return value ? number(*value) : std::numeric_limits<double>::quiet_NaN();
+        }
     };
+    const auto column = [&](ItemIndex item) {
+        return Column{RawValues(columns.store(), kItems[item].element), ItemNumbers(item)};
+    };
+    const Column latitudes = column(item("Latitude"));
+    const Column longitudes = column(item("Longitude"));
+    const Column validities = column(item("StateNGauge.fix"));
     const std::vector<quint32>& times = columns.times();
     std::optional<quint32> lastTime;
     if (before != nullptr)
         lastTime = before->time;
     for (int record = firstRecord; record < columns.store().size(); ++record) {
-        const double latitude = number(latitudes.at(record), items[0]);
-        const double longitude = number(longitudes.at(record), items[1]);
+        const double latitude = latitudes.at(record);
+        const double longitude = longitudes.at(record);
         // What is absent is not in range; a validity that is absent calls nothing invalid.
         const bool isInRange = std::abs(latitude) <= 90 && std::abs(longitude) <= 180;
-        if (!isInRange || (latitude == 0 && longitude == 0) || number(validities.at(record), items[2]) == 0)
+        if (!isInRange || (latitude == 0 && longitude == 0) || validities.at(record) == 0)
             continue;
         const bool starts = !lastTime || isGapBetween(*lastTime, times[record]);
         lastTime = times[record];

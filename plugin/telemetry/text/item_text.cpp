@@ -201,6 +201,17 @@ double itemNumber(std::uint64_t raw, ItemIndex index, std::string_view userTypes
     }
 }
 
+ItemNumbers::ItemNumbers(ItemIndex item, std::string_view userTypes)
+    : item_(item), userTypes_(userTypes), type_(kElements[kItems[item].element].type)
+{
+    const Rule& rule = kItems[item].rule();
+    const bool isPlain = rule.when.bit == Condition::kNone && rule.bits.count == 0 && !rule.cut;
+    if (!isPlain || rule.shape == Shape::twoState || rule.shape == Shape::userParameter)
+        return;
+    measure_ = &measureOf(kItems[item], rule);
+    isScaled_ = rule.shape == Shape::fixed || rule.shape == Shape::general || rule.shape == Shape::coordinate;
+}
+
 TextParts textParts(std::uint64_t raw, ItemIndex index, const TextOptions& options)
 {
     const Item& item = kItems[index];

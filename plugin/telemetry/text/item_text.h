@@ -7,6 +7,8 @@
 #include "telemetry/text/local_zone.h"
 #include "telemetry/text/text_parts.h"
 
+#include <limits>
+
 namespace vlk {
 
 struct TextOptions
@@ -36,5 +38,29 @@ TextParts textParts(std::uint64_t raw, ItemIndex item, const TextOptions& option
 // time, 1 or 0 for a state of two, the code of what has words. No number where the value is the code for
 // none. `raw`: the bytes of the element, as an unsigned number.
 double itemNumber(std::uint64_t raw, ItemIndex item, std::string_view userTypes = {});
+
+// The same for many values of one item: where one scale holds for all of them nothing else is looked at.
+class ItemNumbers
+{
+public:
+    explicit ItemNumbers(ItemIndex item, std::string_view userTypes = {});
+
+    double operator()(std::uint64_t raw) const
+    {
+        if (measure_ == nullptr)
+            return itemNumber(raw, item_, userTypes_);
+        const double number = numberOf(raw, type_);
+        if (measure_->noValue == integerOf(raw, type_) || (measure_->belowZeroIsNone && number < 0))
+            return std::numeric_limits<double>::quiet_NaN();
+        return isScaled_ ? measure_->of(number) : number;
+    }
+
+private:
+    ItemIndex item_;
+    std::string_view userTypes_;
+    ValueType type_;
+    const Measure* measure_ = nullptr;
+    bool isScaled_ = false;
+};
 
 } // namespace vlk

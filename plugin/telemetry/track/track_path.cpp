@@ -34,19 +34,31 @@ void unite(QRectF& rect, const QPointF& point, bool isFirst)
 
 void TrackPath::add(RecordColumns& columns, int firstRecord)
 {
-    const bool isFirst = isEmpty();
-    if (isFirst)
-        setMiddle(columns);
-    const TrackPoint last = isFirst ? TrackPoint() : pointAt(static_cast<int>(records_.size()) - 1);
     const auto before = static_cast<int>(records_.size());
-    forEachTrackPoint(columns, firstRecord, isFirst ? nullptr : &last, [this](const TrackPoint& point) {
+    const std::optional<TrackPoint> last = isEmpty() ? std::nullopt : std::optional(pointAt(before - 1));
+    if (!last) {
+        const auto most = static_cast<std::size_t>(columns.store().size() - firstRecord);
+        records_.reserve(most);
+        times_.reserve(most);
+        startsSegment_.reserve(most);
+        places_.reserve(most);
+    }
+    forEachTrackPoint(columns, firstRecord, last ? &*last : nullptr, [this](const TrackPoint& point) {
+        if (isEmpty())
+            lastLongitude_ = point.longitude;
         lastLongitude_ += within180(point.longitude - lastLongitude_);
         records_.push_back(point.record);
         times_.push_back(point.time);
         startsSegment_.push_back(point.startsSegment);
-        places_.emplace_back((lastLongitude_ - middleLongitude_) * metresPerDegreeEast_,
-                             (middleLatitude_ - point.latitude) * kMetresPerDegree);
+        places_.emplace_back(lastLongitude_, point.latitude);
     });
+    if (isEmpty())
+        return;
+    if (!last)
+        setMiddle();
+    for (auto place = places_.begin() + before; place != places_.end(); ++place)
+        *place = {(place->x() - middleLongitude_) * metresPerDegreeEast_,
+                  (middleLatitude_ - place->y()) * kMetresPerDegree};
     if (records_.size() >= 2 * levelsMadeOf_)
         makeLevels();
     else
@@ -54,28 +66,14 @@ void TrackPath::add(RecordColumns& columns, int firstRecord)
             addTo(level, before);
 }
 
-// Of the points that there are at first, which also tell how much room is needed.
-void TrackPath::setMiddle(RecordColumns& columns)
+// Of the first places, which are degrees yet.
+void TrackPath::setMiddle()
 {
-    double south = 0;
-    double north = 0;
-    std::size_t count = 0;
-    forEachTrackPoint(columns, 0, nullptr, [&](const TrackPoint& point) {
-        if (count++ == 0) {
-            south = north = point.latitude;
-            lastLongitude_ = point.longitude;
-        }
-        south = std::min(south, point.latitude);
-        north = std::max(north, point.latitude);
-    });
-    middleLatitude_ = (south + north) / 2;
-    middleLongitude_ = lastLongitude_;
+    const auto [south, north] = std::ranges::minmax(places_, {}, &QPointF::y);
+    middleLatitude_ = (south.y() + north.y()) / 2;
+    middleLongitude_ = places_.front().x();
     metresPerDegreeEast_ =
         kMetresPerDegree * std::max(std::cos(qDegreesToRadians(middleLatitude_)), kNarrowestDegree);
-    records_.reserve(count);
-    times_.reserve(count);
-    startsSegment_.reserve(count);
-    places_.reserve(count);
 }
 
 // A level that leaves out too little is none: the finer one does.

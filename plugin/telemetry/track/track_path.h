@@ -54,7 +54,7 @@ public:
 
 private:
     TrackPoint pointAt(int point) const;
-    void setMiddle(RecordColumns& columns);
+    void setMiddle();
     void addTo(Level& level, int firstPoint) const;
     void makeLevels();
 

@@ -25,7 +25,6 @@ namespace vlk {
 
 namespace {
 
-constexpr int kMostOffered = 200;
 constexpr const char* kLanguages[] = {"ru", "en"};
 
 // Enter on what is offered takes that; Down asks for what was applied before.
@@ -140,10 +139,8 @@ void FilterField::offer()
     tell({});
     completions_ = completions(line_->text(), line_->cursorPosition(), names());
     QStringList texts;
-    for (const FilterCompletion& completion : completions_) {
-        if (texts.size() < kMostOffered)
-            texts << completion.text;
-    }
+    for (const FilterCompletion& completion : completions_)
+        texts << completion.text;
     offered_->setStringList(texts);
     if (texts.isEmpty()) {
         completer_->popup()->hide();
