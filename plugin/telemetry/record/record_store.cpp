@@ -13,7 +13,6 @@ namespace {
 using Bytes = std::span<const std::uint8_t>;
 
 constexpr std::size_t kPieceBytes = 1 << 20;
-constexpr std::size_t kLengthBytes = sizeof(std::uint16_t);
 constexpr std::size_t kLongest = std::numeric_limits<std::uint16_t>::max();
 
 FieldMask fieldsOf(const FieldMask& left, const FieldMask& right)
@@ -126,13 +125,6 @@ void RecordStore::add(const RecordLayout& layout, Bytes bytes)
     piece.push_back(static_cast<std::uint8_t>(bytes.size() & 0xFF));
     piece.push_back(static_cast<std::uint8_t>(bytes.size() >> 8));
     piece.insert(piece.end(), bytes.begin(), bytes.end());
-}
-
-Bytes RecordStore::bytes(int record) const
-{
-    const Place place = places_[record];
-    const std::uint8_t* const length = pieces_[place.piece].data() + place.offset;
-    return {length + kLengthBytes, qFromLittleEndian<quint16>(length)};
 }
 
 void RecordStore::decode(TmiPage_Zeta3& page, int record) const

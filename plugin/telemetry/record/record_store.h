@@ -67,7 +67,12 @@ public:
     const RecordLayout& layout(int record) const { return layouts_[layoutNumber(record)]; }
     std::size_t layoutNumber(int record) const { return places_[record].layout; }
     const std::vector<RecordLayout>& layouts() const { return layouts_; }
-    std::span<const std::uint8_t> bytes(int record) const;
+    std::span<const std::uint8_t> bytes(int record) const
+    {
+        const Place place = places_[record];
+        const std::uint8_t* const length = pieces_[place.piece].data() + place.offset;
+        return {length + kLengthBytes, qFromLittleEndian<quint16>(length)};
+    }
 
     void decode(TmiPage_Zeta3& page, int record) const;
     std::unique_ptr<TmiPage_Zeta3> at(int record) const;
@@ -90,6 +95,8 @@ public:
     void setUtcOffset(std::optional<qint32> seconds) { utcOffset_ = seconds; }
 
 private:
+    static constexpr std::size_t kLengthBytes = sizeof(std::uint16_t);
+
     struct Place
     {
         std::uint64_t piece : 20;

@@ -17,7 +17,7 @@ constexpr std::size_t kLeastThinning = 2; // times fewer points than the level b
 
 double within180(double degrees)
 {
-    return std::remainder(degrees, 360);
+    return std::abs(degrees) <= 180 ? degrees : std::remainder(degrees, 360);
 }
 
 } // namespace
