@@ -62,6 +62,7 @@ protected:
         if (firstSize_.isEmpty())
             firstSize_ = window->size();
         table_ = child<QTableView>("tableWidget");
+        window->activateWindow();
         QApplication::setActiveWindow(window);
         QVERIFY(QTest::qWaitForWindowActive(window));
         table_->setFocus();
