@@ -15,7 +15,7 @@ int eachFile(const QStringList& names, const std::function<Outcome(const File&)>
     Progress progress;
     int status = nothing;
     for (std::size_t done = 1; const std::optional<Outcome> outcome = outcomes.take(); ++done) {
-        if (!outcome->told.isEmpty() || !outcome->complaints.isEmpty())
+        if (!outcome->told.isEmpty())
             progress.clear();
         output.write(outcome->told);
         progress.writeError(outcome->complaints);
