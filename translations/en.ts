@@ -1359,10 +1359,10 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_180"><translation>Preset of curves</translation></message>
     <message id="rec_181"><translation>Curves…</translation></message>
     <message id="rec_182"><translation>Hand over</translation></message>
-    <message id="rec_183"><translation>Move cursor A (key A)</translation></message>
-    <message id="rec_184"><translation>Set and move cursor B (key B), take it away (Esc)</translation></message>
+    <message id="rec_183"><translation>Move cursor A (key A), take it away (second press, Delete)</translation></message>
+    <message id="rec_184"><translation>Set and move cursor B (key B), take it away (second press, Delete, Esc)</translation></message>
     <message id="rec_185"><translation>Curves</translation></message>
-    <message id="rec_186"><translation>Left and right move the cursor, up and down choose the curve. Plus and minus zoom, Ctrl+0 shows all, Ctrl with left and right pans.</translation></message>
+    <message id="rec_186"><translation>Left and right move the cursor, up and down choose the curve. Plus and minus zoom, Ctrl+0 shows all, Ctrl with left and right pans. Delete takes the cursor away.</translation></message>
     <message id="rec_187"><translation>Picture…</translation></message>
     <message id="rec_188"><translation>CSV of what is in sight…</translation></message>
     <message id="rec_189"><translation>Print…</translation></message>

@@ -1359,10 +1359,10 @@
     <message id="rec_180"><translation>Шаблон графиков</translation></message>
     <message id="rec_181"><translation>Графики…</translation></message>
     <message id="rec_182"><translation>Передать</translation></message>
-    <message id="rec_183"><translation>Двигать курсор A (клавиша A)</translation></message>
-    <message id="rec_184"><translation>Поставить и двигать курсор B (клавиша B), убрать его (Esc)</translation></message>
+    <message id="rec_183"><translation>Двигать курсор A (клавиша A), убрать его (второе нажатие, Delete)</translation></message>
+    <message id="rec_184"><translation>Поставить и двигать курсор B (клавиша B), убрать его (второе нажатие, Delete, Esc)</translation></message>
     <message id="rec_185"><translation>Графики</translation></message>
-    <message id="rec_186"><translation>Стрелки влево и вправо двигают курсор, вверх и вниз выбирают график. Плюс и минус меняют масштаб, Ctrl+0 показывает всё, Ctrl со стрелками сдвигает.</translation></message>
+    <message id="rec_186"><translation>Стрелки влево и вправо двигают курсор, вверх и вниз выбирают график. Плюс и минус меняют масштаб, Ctrl+0 показывает всё, Ctrl со стрелками сдвигает. Delete убирает курсор.</translation></message>
     <message id="rec_187"><translation>Рисунок…</translation></message>
     <message id="rec_188"><translation>CSV того, что видно…</translation></message>
     <message id="rec_189"><translation>Печать…</translation></message>

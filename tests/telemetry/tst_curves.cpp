@@ -222,15 +222,27 @@ void TestCurves::movesByMouse()
     open(truckRecords(1000));
     const double whole = length();
     const int width = canvas()->width();
-    const auto drag = [&](Qt::MouseButton button, Qt::KeyboardModifiers modifiers, int from, int to) {
-        QTest::mousePress(canvas(), button, modifiers, {from, 20});
-        // QTest moves no mouse with a button held.
+    // QTest moves no mouse with a button held.
+    const auto moveTo = [&](Qt::MouseButton button, Qt::KeyboardModifiers modifiers, int to) {
         QMouseEvent move(QEvent::MouseMove, QPointF(to, 20), button, button, modifiers);
         QCoreApplication::sendEvent(canvas(), &move);
+    };
+    const auto drag = [&](Qt::MouseButton button, Qt::KeyboardModifiers modifiers, int from, int to) {
+        QTest::mousePress(canvas(), button, modifiers, {from, 20});
+        moveTo(button, modifiers, to);
         QTest::mouseRelease(canvas(), button, modifiers, {to, 20});
     };
     QTest::mouseClick(canvas(), Qt::LeftButton, {}, {width / 2, 20});
     QVERIFY(qAbs(records_->current() - 500) < 5);
+    // Out and back, or given up, it chooses nothing.
+    for (const bool isGivenUp : {false, true}) {
+        QTest::mousePress(canvas(), Qt::LeftButton, {}, {width / 4, 20});
+        moveTo(Qt::LeftButton, {}, width / 2);
+        if (isGivenUp)
+            key(Qt::Key_Escape);
+        QTest::mouseRelease(canvas(), Qt::LeftButton, {}, {isGivenUp ? width / 2 : width / 4, 20});
+        QCOMPARE(length(), whole);
+    }
     drag(Qt::LeftButton, {}, width / 4, width / 2);
     QVERIFY(qAbs(length() / whole - 0.25) < 0.01);
     const double from = records_->inSight().from;
@@ -268,6 +280,15 @@ void TestCurves::comparesTwoMoments()
     QCOMPARE(records_->current(), 2220);
     key(Qt::Key_Escape);
     QCOMPARE(line().count(QLatin1Char('|')), 0);
+    // A goes too, by key or button, and comes back where the user goes next.
+    key(Qt::Key_Delete);
+    QVERIFY(line().isEmpty());
+    key(Qt::Key_Right);
+    QVERIFY(line().startsWith(QLatin1String("A 18.11.2026 21:30:30 ")));
+    QTest::keyClick(view_->findChild<QToolButton*>(QStringLiteral("toolButton_CursorA")), Qt::Key_Space);
+    QVERIFY(line().isEmpty());
+    key(Qt::Key_B);
+    QCOMPARE(line().count(QLatin1Char('|')), 2);
 }
 
 // Among the events below the curves, where a press near the mark goes to its record.
@@ -369,6 +390,14 @@ void TestCurves::grows()
     QCOMPARE(records_->inSight(), (TimeSpan{kTruckStart + 0.0, kTruckStart + 60.0}));
     key(Qt::Key_Right);
     QCOMPARE(records_->current(), 101);
+    // What is not on show meanwhile lacks nothing when it is again.
+    auto* const presets = view_->findChild<QComboBox*>(QStringLiteral("comboBox_CurvePreset"));
+    QTest::keyClick(presets, Qt::Key_Down);
+    add(kTruckStart + 3060);
+    QTest::keyClick(presets, Qt::Key_Up);
+    CurvesView anew(records_.get());
+    const QSize size(600, 300);
+    QCOMPARE(view_->picture(records_->wholeTime(), size), anew.picture(records_->wholeTime(), size));
 }
 
 void TestCurves::survivesOddRecords_data()

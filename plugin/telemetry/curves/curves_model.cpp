@@ -89,8 +89,12 @@ void CurvesModel::grow(int first)
     const bool isLatest =
         byTime.size() >= added && std::ranges::all_of(byTime.end() - static_cast<int>(added), byTime.end(),
                                                       [&](int record) { return record >= first; });
-    if (!isLatest)
-        series_.clear();
+    // What is not shown, or gets numbers in between, is made anew when it is asked for.
+    std::erase_if(series_, [&](const auto& entry) {
+        return !isLatest || std::ranges::none_of(curves_, [&](const Curve& curve) {
+            return curve.column.name == entry.first;
+        });
+    });
     for (const Curve& curve : curves_) {
         if (isLatest)
             addTo(*curve.series, curve.column, std::span(byTime).last(added));
@@ -262,18 +266,23 @@ void CurvesModel::setFocused(int curve)
 void CurvesModel::setMoving(Cursor which)
 {
     moving_ = which;
-    int& record = cursors_[static_cast<std::size_t>(which)];
-    if (record < 0)
-        record = records_->current();
-    records_->setCurrent(record);
+    for (const Cursor each : {Cursor::a, which}) {
+        int& record = cursors_[static_cast<std::size_t>(each)];
+        if (record < 0)
+            record = records_->current();
+    }
+    records_->setCurrent(cursor(which));
     Q_EMIT cursorsChanged();
 }
 
-void CurvesModel::endCursorB()
+bool CurvesModel::endCursor(Cursor which)
 {
+    if (cursor(which) < 0)
+        return false;
     moving_ = Cursor::a;
-    cursors_ = {records_->current(), -1};
+    cursors_ = {which == Cursor::b ? records_->current() : -1, -1};
     Q_EMIT cursorsChanged();
+    return true;
 }
 
 QString CurvesModel::cursorText(Cursor which) const

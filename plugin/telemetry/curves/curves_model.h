@@ -73,7 +73,9 @@ public:
     int cursor(Cursor which) const { return cursors_[static_cast<std::size_t>(which)]; }
     Cursor moving() const { return moving_; }
     void setMoving(Cursor which);
-    void endCursorB();
+    // Takes it away, and with A also B, which is told from there; A is back at the next record that is looked
+    // at. False where there is none.
+    bool endCursor(Cursor which);
 
     // "A 20.11.2026 09:12:04 312 l | B 09:40:10 251 l | 28 min -61 l".
     QString cursorLine() const;

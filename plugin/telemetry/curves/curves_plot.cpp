@@ -1,17 +1,11 @@
 #include "telemetry/curves/curves_plot.h"
 
-#include "telemetry/curves/curve_looks.h"
-#include "telemetry/curves/span_moves.h"
+#include "telemetry/curves/curves_drawing.h"
+#include "telemetry/curves/curves_navigation.h"
 #include "telemetry/curves/time_scale.h"
 #include "typing/kept_palette.h"
 
-#include <QApplication>
-#include <QKeyEvent>
-#include <QMouseEvent>
-#include <QPainter>
-#include <QRubberBand>
-#include <QToolTip>
-#include <QWheelEvent>
+#include <QEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -27,13 +21,8 @@ namespace vlk {
 
 namespace {
 
-constexpr double kZoomStep = 0.7;
-constexpr double kPanStep = 0.1;
-constexpr double kWheelNotch = 120;
-constexpr int kShapeDistance = 90;
 constexpr int kValueTicks = 5;
 constexpr int kLeastTitleRoom = 80; // less cuts titles to nothing
-constexpr double kPointReach = 1.5;
 
 class TimeScaleDraw : public QwtScaleDraw
 {
@@ -62,126 +51,7 @@ QwtScaleDiv valueDivision(const Extremes& extremes, int most)
     return engine.divideScale(least, greatest, most, 2, step);
 }
 
-// Of a piece, as what the painter takes; the same on every axis but for its map.
-QPolygonF onCanvas(const QPolygonF& piece, const QwtScaleMap& x, const QwtScaleMap& y)
-{
-    QPolygonF mapped(piece.size());
-    std::ranges::transform(piece, mapped.begin(), [&](const QPointF& point) {
-        return QPointF(x.transform(point.x()), y.transform(point.y()));
-    });
-    return mapped;
-}
-
 } // namespace
-
-class CurvesPlot::Drawing : public QwtPlotItem
-{
-public:
-    explicit Drawing(CurvesPlot& plot) : plot_(plot) { setZ(10); }
-
-    void draw(QPainter* painter, const QwtScaleMap& x, const QwtScaleMap& y,
-              const QRectF& canvas) const override
-    {
-        const CurvesModel& model = *plot_.model_;
-        painter->setClipRect(canvas);
-        if (model.curves().empty()) {
-            painter->setPen(plot_.palette().color(QPalette::Disabled, QPalette::Text));
-            painter->drawText(canvas, Qt::AlignCenter | Qt::TextWordWrap,
-                              tr(model.records().records().empty() ? "rec_192" : "rec_191"));
-        }
-        for (int place = 0; place < static_cast<int>(model.curves().size()); ++place) {
-            if (place != model.focused())
-                drawCurve(*painter, place, x, y, canvas);
-        }
-        if (model.focused() >= 0)
-            drawCurve(*painter, model.focused(), x, y, canvas);
-        drawFound(*painter, x, canvas);
-        for (const Cursor which : {Cursor::a, Cursor::b})
-            drawCursor(*painter, which, x, y, canvas);
-    }
-
-private:
-    QwtScaleMap mapOf(int axis, const QwtScaleMap& left) const
-    {
-        const QwtScaleDiv& division = plot_.divisionOf(axis);
-        QwtScaleMap map = left;
-        map.setScaleInterval(division.lowerBound(), division.upperBound());
-        return map;
-    }
-
-    void drawCurve(QPainter& painter, int place, const QwtScaleMap& x, const QwtScaleMap& left,
-                   const QRectF& canvas) const
-    {
-        const Curve& curve = plot_.model_->curves()[place];
-        const QwtScaleMap y = mapOf(curve.axis, left);
-        const QColor colour = curveColor(place, plot_.palette());
-        const bool isFocused = place == plot_.model_->focused();
-        // On paper as wide as it should be. On a screen by lines of one pixel, which are drawn many times as
-        // fast, twice where the curve is the one that the cursors tell.
-        const bool isPaper = plot_.ownSpan_.has_value();
-        painter.setPen(QPen(colour, isPaper && isFocused ? 2 : 1));
-        double nextShape = canvas.left() + kShapeDistance / 2.0 + place * 13;
-        for (const QPolygonF& piece : curve.series->pieces(plot_.span(), static_cast<int>(canvas.width()))) {
-            const QPolygonF line = onCanvas(piece, x, y);
-            if (line.size() == 1) {
-                painter.setBrush(colour);
-                painter.drawEllipse(line.front(), kPointReach, kPointReach);
-            } else {
-                painter.drawPolyline(line);
-                if (isFocused && !isPaper)
-                    painter.drawPolyline(line.translated(0, 1));
-            }
-            for (const QPointF& point : line) {
-                if (point.x() < nextShape || point.x() > canvas.right())
-                    continue;
-                paintCurveShape(painter, place, point, colour);
-                nextShape = point.x() + kShapeDistance;
-            }
-        }
-    }
-
-    void drawFound(QPainter& painter, const QwtScaleMap& x, const QRectF& canvas) const
-    {
-        const std::vector<quint32>& times = plot_.model_->records().columns().times();
-        for (const FoundEvent& event : plot_.model_->records().found()) {
-            if (!plot_.span().contains(times[event.record]))
-                continue;
-            const double at = std::round(x.transform(times[event.record]));
-            painter.setPen(QPen(foundColor(event.isRise, plot_.palette()), 1, Qt::DotLine));
-            painter.drawLine(QPointF(at, canvas.top()), QPointF(at, canvas.bottom()));
-        }
-    }
-
-    void drawCursor(QPainter& painter, Cursor which, const QwtScaleMap& x, const QwtScaleMap& left,
-                    const QRectF& canvas) const
-    {
-        const CurvesModel& model = *plot_.model_;
-        const int record = model.cursor(which);
-        const std::vector<quint32>& times = model.records().columns().times();
-        if (record < 0 || times[record] == 0 || !plot_.span().contains(times[record]))
-            return;
-        const QPalette& palette = plot_.palette();
-        const double at = std::round(x.transform(times[record]));
-        const QColor colour = palette.color(QPalette::Text);
-        painter.setPen(
-            QPen(colour, which == model.moving() ? 2 : 1, which == Cursor::a ? Qt::SolidLine : Qt::DashLine));
-        painter.drawLine(QPointF(at, canvas.top()), QPointF(at, canvas.bottom()));
-        const QFontMetrics metrics(painter.font());
-        QRectF letter(0, 0, metrics.height(), metrics.height());
-        letter.moveBottomLeft({std::min(at + 1, canvas.right() - letter.width()), canvas.bottom()});
-        painter.fillRect(letter, colour);
-        painter.setPen(palette.color(QPalette::Base));
-        painter.drawText(letter, Qt::AlignCenter, QLatin1String(which == Cursor::a ? "A" : "B"));
-        if (model.focused() < 0)
-            return;
-        const Curve& curve = model.curves()[model.focused()];
-        const double value = model.valueAt(curve, record);
-        if (!std::isnan(value))
-            paintCurveShape(painter, model.focused(), {at, mapOf(curve.axis, left).transform(value)}, colour);
-    }
-
-    CurvesPlot& plot_;
-};
 
 CurvesPlot::CurvesPlot(CurvesModel* model, QWidget* parent, std::optional<TimeSpan> span)
     : QwtPlot(parent), model_(model), ownSpan_(span),
@@ -196,18 +66,20 @@ CurvesPlot::CurvesPlot(CurvesModel* model, QWidget* parent, std::optional<TimeSp
     canvas->setFrameShape(QFrame::Box);
     canvas->setFrameShadow(QFrame::Plain);
     canvas->setFocusPolicy(Qt::NoFocus);
-    canvas->installEventFilter(this);
     setCanvas(canvas);
+    canvas->installEventFilter(this);
+    if (!isPaper())
+        new CurvesNavigation(model, this);
     setAxisScaleDraw(xBottom, new TimeScaleDraw(&tickStep_, model->records()));
     plotLayout()->setAlignCanvasToScales(true);
     plotLayout()->setSpacing(2);
     auto* const grid = new QwtPlotGrid;
     grid->attach(this);
-    (new Drawing(*this))->attach(this);
+    (new CurvesDrawing(*this))->attach(this);
     dress();
     connect(model, &CurvesModel::changed, this, &CurvesPlot::refresh);
     connect(model, &CurvesModel::cursorsChanged, this, [this] { this->canvas()->update(); });
-    if (!ownSpan_)
+    if (!isPaper())
         connect(&model->records(), &ShownRecords::inSightChanged, this, &CurvesPlot::refresh);
     refresh();
 }
@@ -378,174 +250,12 @@ void CurvesPlot::changeEvent(QEvent* event)
     refresh();
 }
 
-void CurvesPlot::keyPressEvent(QKeyEvent* event)
-{
-    ShownRecords& records = model_->records();
-    const TimeSpan whole = records.wholeTime();
-    const int current = records.current();
-    const double moment = current >= 0 ? records.columns().times()[current] : 0;
-    const double round = span().contains(moment) ? moment : (span().from + span().to) / 2;
-    const bool isControl = event->modifiers().testFlag(Qt::ControlModifier);
-    const auto lookAt = [&](const TimeSpan& next) { records.setInSight(next); };
-    switch (event->key()) {
-    case Qt::Key_Left:
-    case Qt::Key_Right: {
-        const int way = event->key() == Qt::Key_Left ? -1 : 1;
-        return isControl ? lookAt(moved(span(), way * kPanStep, whole)) : step(way);
-    }
-    case Qt::Key_PageUp:
-        return lookAt(moved(span(), -1, whole));
-    case Qt::Key_PageDown:
-        return lookAt(moved(span(), 1, whole));
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-        return model_->setFocused(model_->focused() + (event->key() == Qt::Key_Up ? -1 : 1));
-    case Qt::Key_Plus:
-    case Qt::Key_Equal:
-        return lookAt(zoomed(span(), kZoomStep, round, whole));
-    case Qt::Key_Minus:
-        return lookAt(zoomed(span(), 1 / kZoomStep, round, whole));
-    case Qt::Key_0:
-        if (isControl)
-            return lookAt(whole);
-        break;
-    case Qt::Key_Home:
-        return goTo(0);
-    case Qt::Key_End:
-        return goTo(records.byTime().size() - 1);
-    case Qt::Key_A:
-        return model_->setMoving(Cursor::a);
-    case Qt::Key_B:
-        return model_->setMoving(Cursor::b);
-    case Qt::Key_Escape:
-        if (model_->cursor(Cursor::b) >= 0)
-            return model_->endCursorB();
-        break;
-    default:
-        break;
-    }
-    QwtPlot::keyPressEvent(event);
-}
-
-void CurvesPlot::goTo(std::size_t place)
-{
-    ShownRecords& records = model_->records();
-    if (place < records.byTime().size())
-        records.setCurrent(records.byTime()[place]);
-}
-
-// By time; records of one moment follow each other as in the file.
-void CurvesPlot::step(int way)
-{
-    ShownRecords& records = model_->records();
-    const std::vector<int>& byTime = records.byTime();
-    const std::vector<quint32>& times = records.columns().times();
-    if (byTime.empty())
-        return;
-    const auto key = [&](int record) { return std::pair(times[record], record); };
-    const auto place = std::ranges::lower_bound(byTime, key(records.current()), {}, key);
-    const auto next = place - byTime.begin() + way;
-    goTo(static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(next, 0, std::ssize(byTime) - 1)));
-}
-
+// More room, more ticks.
 bool CurvesPlot::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched != canvas() || (ownSpan_ && event->type() != QEvent::Resize))
-        return QwtPlot::eventFilter(watched, event);
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-        return press(static_cast<QMouseEvent&>(*event));
-    case QEvent::MouseMove:
-        return drag(static_cast<QMouseEvent&>(*event));
-    case QEvent::MouseButtonRelease:
-        return release(static_cast<QMouseEvent&>(*event));
-    case QEvent::Resize:
-        // More room, more ticks.
+    if (watched == canvas() && event->type() == QEvent::Resize)
         setAxes();
-        return QwtPlot::eventFilter(watched, event);
-    case QEvent::Wheel:
-        return turn(static_cast<QWheelEvent&>(*event));
-    case QEvent::ToolTip: {
-        const auto& help = static_cast<QHelpEvent&>(*event);
-        return showTip(help.pos(), help.globalPos());
-    }
-    default:
-        return QwtPlot::eventFilter(watched, event);
-    }
-}
-
-bool CurvesPlot::press(const QMouseEvent& event)
-{
-    const bool isPan = event.button() == Qt::MiddleButton ||
-                       (event.button() == Qt::LeftButton && event.modifiers() & Qt::ShiftModifier);
-    if (!isPan && event.button() != Qt::LeftButton)
-        return false;
-    setFocus(Qt::MouseFocusReason);
-    drag_ = isPan ? Drag::pan : Drag::zoom;
-    dragFrom_ = event.pos();
-    dragSpan_ = span();
-    return true;
-}
-
-bool CurvesPlot::drag(const QMouseEvent& event)
-{
-    if (drag_ == Drag::none)
-        return false;
-    const int way = event.x() - dragFrom_.x();
-    if (drag_ == Drag::pan) {
-        const double share = -double(way) / std::max(canvas()->width(), 1);
-        model_->records().setInSight(moved(dragSpan_, share, model_->records().wholeTime()));
-    } else if (rubber_ != nullptr || std::abs(way) >= QApplication::startDragDistance()) {
-        if (rubber_ == nullptr)
-            rubber_ = new QRubberBand(QRubberBand::Rectangle, canvas());
-        rubber_->setGeometry(
-            QRect(dragFrom_.x(), 0, way, canvas()->height()).normalized().intersected(canvas()->rect()));
-        rubber_->show();
-    }
-    return true;
-}
-
-bool CurvesPlot::release(const QMouseEvent& event)
-{
-    const Drag ended = std::exchange(drag_, Drag::none);
-    ShownRecords& records = model_->records();
-    if (ended == Drag::zoom && rubber_ != nullptr) {
-        const auto [from, to] =
-            std::minmax({timeAtPixel(dragFrom_.x() + canvas()->x()), timeAtPixel(event.x() + canvas()->x())});
-        records.setInSight(zoomed({from, to}, 1, (from + to) / 2, records.wholeTime()));
-    } else if (ended == Drag::zoom) {
-        records.setCurrent(records.nearestTo(timeAtPixel(event.x() + canvas()->x())));
-    }
-    delete std::exchange(rubber_, nullptr);
-    return ended != Drag::none;
-}
-
-bool CurvesPlot::turn(const QWheelEvent& event)
-{
-    ShownRecords& records = model_->records();
-    const QPoint angle = event.angleDelta();
-    const double notches = (angle.y() != 0 ? angle.y() : angle.x()) / kWheelNotch;
-    const bool isPan = event.modifiers() & (Qt::ControlModifier | Qt::ShiftModifier) || angle.y() == 0;
-    if (isPan)
-        records.setInSight(moved(span(), -notches * kPanStep, records.wholeTime()));
-    else
-        records.setInSight(zoomed(span(), std::pow(kZoomStep, notches),
-                                  timeAtPixel(event.position().x() + canvas()->x()), records.wholeTime()));
-    return true;
-}
-
-bool CurvesPlot::showTip(const QPoint& place, const QPoint& global)
-{
-    constexpr int reach = 6;
-    const std::vector<quint32>& times = model_->records().columns().times();
-    const QwtScaleMap x = canvasMap(xBottom);
-    QStringList texts;
-    for (const FoundEvent& event : model_->records().found()) {
-        if (std::abs(x.transform(times[event.record]) - place.x()) <= reach)
-            texts << event.text;
-    }
-    QToolTip::showText(global, texts.join(QLatin1Char('\n')), canvas());
-    return true;
+    return QwtPlot::eventFilter(watched, event);
 }
 
 } // namespace vlk

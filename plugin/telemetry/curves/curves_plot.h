@@ -1,13 +1,12 @@
 #pragma once
 
 // The curves of a CurvesModel on a plot: time below, up to four axes of values at the sides, fitted to what
-// is in sight. Mouse, wheel and keys move the span in sight and the cursor.
+// is in sight.
 
 #include "telemetry/curves/curves_model.h"
 
 #include <qwt_plot.h>
 
-class QRubberBand;
 class QwtScaleDiv;
 class QwtScaleWidget;
 
@@ -22,7 +21,11 @@ public:
     explicit CurvesPlot(CurvesModel* model, QWidget* parent = nullptr,
                         std::optional<TimeSpan> span = std::nullopt);
 
+    const CurvesModel& model() const { return *model_; }
     TimeSpan span() const;
+    bool isPaper() const { return ownSpan_.has_value(); }
+    // The scale at an axis of the model.
+    const QwtScaleDiv& divisionOf(int axis) const;
     // Where the canvas begins and ends, and a moment stands, in pixels of this widget.
     QRect canvasPlace() const;
     double xOf(double time) const;
@@ -39,26 +42,15 @@ Q_SIGNALS:
     void laidOut();
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
-    class Drawing;
-
     void setAxes();
     void setValueAxis(int axis);
-    const QwtScaleDiv& divisionOf(int axis) const;
     void dress();
     void fitMargins();
     void placeOuterAxes();
-    bool press(const QMouseEvent& event);
-    bool drag(const QMouseEvent& event);
-    bool release(const QMouseEvent& event);
-    bool turn(const QWheelEvent& event);
-    bool showTip(const QPoint& place, const QPoint& global);
-    void step(int way);
-    void goTo(std::size_t place);
 
     CurvesModel* model_;
     std::optional<TimeSpan> ownSpan_;
@@ -66,10 +58,6 @@ private:
     QwtScaleWidget* outerRight_;
     int leftWidth_ = 0;
     double tickStep_ = 0;
-    QRubberBand* rubber_ = nullptr;
-    enum class Drag { none, zoom, pan } drag_ = Drag::none;
-    QPoint dragFrom_;
-    TimeSpan dragSpan_;
 };
 
 } // namespace vlk

@@ -81,14 +81,12 @@ CurvesView::CurvesView(ShownRecords* records, QWidget* parent)
         showPreset(index);
     });
     connect(choose_, &QPushButton::clicked, this, &CurvesView::choose);
-    connect(cursorA_, &QToolButton::clicked, this, [this] { model_->setMoving(Cursor::a); });
-    // A second press of B takes it away.
-    connect(cursorB_, &QToolButton::clicked, this, [this] {
-        if (model_->moving() == Cursor::b)
-            model_->endCursorB();
-        else
-            model_->setMoving(Cursor::b);
-    });
+    // A second press takes it away.
+    for (const auto& [button, which] : {std::pair(cursorA_, Cursor::a), std::pair(cursorB_, Cursor::b)})
+        connect(button, &QToolButton::clicked, this, [this, which = which] {
+            if (model_->moving() != which || !model_->endCursor(which))
+                model_->setMoving(which);
+        });
     connect(model_, &CurvesModel::changed, this, &CurvesView::refresh);
     connect(model_, &CurvesModel::cursorsChanged, this, &CurvesView::refresh);
     connect(records, &ShownRecords::currentChanged, this, &CurvesView::keepInSight);
@@ -119,10 +117,7 @@ void CurvesView::setTitle(const QString& title)
 
 bool CurvesView::endCursorB()
 {
-    const bool isThere = model_->cursor(Cursor::b) >= 0;
-    if (isThere)
-        model_->endCursorB();
-    return isThere;
+    return model_->endCursor(Cursor::b);
 }
 
 void CurvesView::retranslate()
@@ -189,7 +184,11 @@ void CurvesView::choose()
     });
     connect(&dialog, &CurveChoice::presetKept, this, [this](const QString& name) {
         fillPresets();
-        presets_->setCurrentIndex(presets_->findText(name));
+        // The last one, should it be called as one of those that are always there.
+        int index = presets_->count() - 1;
+        while (index >= 0 && presets_->itemText(index) != name)
+            --index;
+        presets_->setCurrentIndex(index);
     });
     connect(&dialog, &CurveChoice::presetDeleted, this, [this] {
         fillPresets();
@@ -202,7 +201,7 @@ void CurvesView::refresh()
 {
     line_->setText(model_->cursorLine());
     plot_->setAccessibleDescription(line_->text());
-    cursorA_->setChecked(model_->moving() == Cursor::a);
+    cursorA_->setChecked(model_->moving() == Cursor::a && model_->cursor(Cursor::a) >= 0);
     cursorB_->setChecked(model_->moving() == Cursor::b);
 }
 
