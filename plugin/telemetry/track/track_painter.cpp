@@ -96,7 +96,9 @@ private:
 
     std::uint8_t* cell(const QPointF& pixel)
     {
-        if (!QRectF(QPointF(), size_).contains(pixel))
+        const bool isSeen =
+            pixel.x() >= 0 && pixel.x() <= size_.width() && pixel.y() >= 0 && pixel.y() <= size_.height();
+        if (!isSeen)
             return nullptr;
         return &drawn_[static_cast<std::size_t>(pixel.y()) * width_ + static_cast<std::size_t>(pixel.x())];
     }

@@ -12,8 +12,9 @@ namespace {
 
 constexpr double kMetresPerDegree = 40'007'863.0 / 360;
 constexpr double kNarrowestDegree = 0.01; // of one at the equator, so that the poles have a width
-constexpr double kLevels[] = {0, 2, 8, 32, 128, 512, 2048, 8192, 32768};
-constexpr std::size_t kLeastThinning = 2; // times fewer points than the level before
+// Metres. Closest where long tracks are seen whole, since most of their points share pixels there.
+constexpr double kLevels[] = {0, 2, 8, 32, 128, 512, 1024, 2048, 4096, 8192, 32768};
+constexpr double kLeastThinning = 1.5; // times fewer points than the level before
 
 double within180(double degrees)
 {
@@ -86,7 +87,8 @@ void TrackPath::makeLevels()
         if (apart == 0)
             level.kept.reserve(records_.size());
         addTo(level, 0);
-        if (!levels_.empty() && level.kept.size() > levels_.back().kept.size() / kLeastThinning)
+        if (!levels_.empty() && static_cast<double>(level.kept.size()) * kLeastThinning >
+                                    static_cast<double>(levels_.back().kept.size()))
             continue;
         level.kept.shrink_to_fit();
         level.of.shrink_to_fit();
