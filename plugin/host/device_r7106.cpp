@@ -139,6 +139,8 @@ void VLK_Device_R7106::attach(const vlk::ConnectInfo& info)
         detach();
         return;
     }
+    if (info.text1 != trackerText1_)
+        endGrowth();
     trackerText1_ = info.text1;
     trackerText2_ = info.text2;
     trackerMask_ = quint64(info.maskHigh) << 32 | info.maskLow;
@@ -161,6 +163,15 @@ void VLK_Device_R7106::detach()
         configDialog_->deviceDisconnected();
     if (telemetryView_)
         telemetryView_->deviceDisconnected();
+    endGrowth();
+}
+
+void VLK_Device_R7106::endGrowth()
+{
+    if (telemetryView_)
+        telemetryView_->endGrowth();
+    if (tmiTable_)
+        tmiTable_->endGrowth();
 }
 
 void VLK_Device_R7106::openConfiguration(const vlk::OpenRequest& request)
@@ -218,7 +229,15 @@ VLK_Widget_Tmi_View* VLK_Device_R7106::ensureTelemetryView()
     if (!telemetryView_) {
         telemetryView_ = new VLK_Widget_Tmi_View;
         connect(telemetryView_, &VLK_Widget_Tmi_View::recordsWanted, this,
-                [this](const auto& records, const QString& name) { showIn(recordsWindow(), records, name); });
+                [this](const auto& records, const QString& name, bool grows) {
+                    using Growth = VLK_Widget_Tmi_Table::Growth;
+                    showIn(recordsWindow(), records, name, grows ? Growth::live : Growth::none);
+                });
+        connect(telemetryView_, &VLK_Widget_Tmi_View::recordShown, this,
+                [this](const QByteArray& record, quint32 number) {
+                    if (tmiTable_)
+                        tmiTable_->takeLive(record, number);
+                });
     }
     return telemetryView_;
 }

@@ -71,6 +71,7 @@ public:
     VLK_Widget_Tmi_View* ensureTelemetryView();
 
 private:
+    void endGrowth();
     VLK_Widget_Tmi_Page* browser();
     VLK_Widget_Tmi_Table* recordsWindow();
     VLK_Form_IO_Progress* progressForm_ = nullptr;

@@ -237,6 +237,63 @@ private Q_SLOTS:
         }
     }
 
+    // A period that reaches up to the present grows by what the tracker sends, as long as it is there.
+    void growsByLiveRecords()
+    {
+        const auto show = [this] {
+            press("label_SavedInPart_Action1");
+            press("pushButton_Get_Current");
+            return ScriptedHost::window("VLK_Widget_Tmi_Table");
+        };
+        send(Message::RecordByNumber, 8);
+        startSave(7, 8);
+        QWidget* records = show();
+        auto* table = ScriptedHost::child<QTableView>(records, "tableWidget");
+        const auto rows = [table] { return table->model()->rowCount(); };
+        const auto number = [table](int row) {
+            QAbstractItemModel* const model = table->model();
+            int column = 0;
+            while (model->headerData(column, Qt::Horizontal).toString() != "tmizta_123")
+                ++column;
+            return model->index(row, column).data().toString();
+        };
+        for (const qint64 each : {9, 8, 9, 11})
+            send(Message::RecordByNumber, each);
+        QCOMPARE(rows(), 4);
+        QCOMPARE(number(3), QString("11"));
+        // Where the user is, what is selected and the filter stay.
+        table->selectRow(2);
+        QTest::keyClick(table, Qt::Key_Down, Qt::ShiftModifier);
+        const QModelIndexList selected = table->selectionModel()->selectedRows();
+        QVERIFY(selected.size() > 1);
+        send(Message::RecordByNumber, 12);
+        QCOMPARE(table->selectionModel()->selectedRows(), selected);
+        QCOMPARE(table->currentIndex().row(), 3);
+        send(Message::RecordByNumber, Extra + 13); // which brings a column
+        QCOMPARE(number(table->currentIndex().row()), QString("11"));
+        auto* filter = ScriptedHost::child<QLineEdit>(records, "lineEdit_Filter");
+        QTest::keyClicks(filter, "NumPage > 7 and NumPage != 15");
+        QTest::keyClick(filter, Qt::Key_Return);
+        for (const qint64 each : {14, 15})
+            send(Message::RecordByNumber, each);
+        QCOMPARE(rows(), 6);
+        QCOMPARE(number(5), QString("14"));
+        QCOMPARE(ScriptedHost::child<QLabel>(records, "label_Count")->text(), QString("rec_052"));
+        table->sortByColumn(table->horizontalHeader()->logicalIndex(0), Qt::DescendingOrder);
+        send(Message::RecordByNumber, 16);
+        QCOMPARE(number(0), QString("16"));
+        QCOMPARE(number(table->currentIndex().row()), QString("11"));
+        host.send(Message::TrackerDetached);
+        open();
+        send(Message::RecordByNumber, 17);
+        QCOMPARE(rows(), 7);
+        // It ended before what is already known.
+        startSave(7, 8);
+        show();
+        send(Message::RecordByNumber, 18);
+        QCOMPARE(rows(), 2);
+    }
+
     void endedFromOutside_data()
     {
         DataTable<Message>({"message"})

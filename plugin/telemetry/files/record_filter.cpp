@@ -198,18 +198,18 @@ QString Filter::text() const
     return text;
 }
 
-std::vector<int> passing(const Filter& filter, RecordColumns& columns)
+std::vector<int> passing(const Filter& filter, RecordColumns& columns, int first)
 {
     const int size = columns.store().size();
     std::vector<int> records;
     if (filter.empty()) {
-        records.resize(size);
-        std::iota(records.begin(), records.end(), 0);
+        records.resize(size - first);
+        std::iota(records.begin(), records.end(), first);
         return records;
     }
     const Bound bound = bind(*filter.root, columns);
     Passes passes;
-    for (int first = 0; first < size; first += kBlock) {
+    for (; first < size; first += kBlock) {
         const int count = std::min(kBlock, size - first);
         evaluate(bound, first, count, passes);
         for (int i = 0; i < count; ++i) {

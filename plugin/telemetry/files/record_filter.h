@@ -6,7 +6,7 @@
 //
 //     Filter filter = *parseFilter(typed, names).filter;
 //     filter.text()                        "Code = 35 and StateU_Ain3 < 9"
-//     passing(filter, columns)             the records, in their order
+//     passing(filter, columns)             the records, in their order, from the first or a later one on
 
 #include "telemetry/files/record_columns.h"
 
@@ -56,6 +56,6 @@ struct Filter
 
 // A record that does not hold a column, or no value in it, meets no condition on it, not even "!=". Numbers
 // are equal that are shown alike: 12.3 V is 12300 mV, and 12.1 the float next to it.
-std::vector<int> passing(const Filter& filter, RecordColumns& columns);
+std::vector<int> passing(const Filter& filter, RecordColumns& columns, int first = 0);
 
 } // namespace vlk

@@ -21,8 +21,11 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QTableView>
 #include <QTextDocument>
+
+#include <algorithm>
 
 namespace vlk {
 
@@ -95,7 +98,12 @@ FuelView::FuelView(ShownRecords* records, QWidget* parent)
     for (QPushButton* button : {copy_, csv_, print_})
         button->setAutoDefault(false);
 
-    connect(records, &ShownRecords::contentsChanged, this, &FuelView::refreshRecords);
+    connect(records, &ShownRecords::contentsChanged, this, [this] {
+        table_->setCurrentIndex({});
+        refreshRecords();
+    });
+    connect(records, &ShownRecords::recordsAdded, this,
+            [this] { tanks_->hasSensors() ? computeLitres() : refreshRecords(); });
     connect(vehicle_, &QLineEdit::editingFinished, this, &FuelView::readVehicle);
     connect(tanks_, &TankButton::chosen, this, &FuelView::computeLitres);
     for (QDoubleSpinBox* box : {rise_, fall_})
@@ -163,15 +171,27 @@ void FuelView::find()
     std::vector<FuelEvent> events;
     if (!litres_.empty())
         events = findFuelEvents(records_.columns(), litres_, {rise_->value(), fall_->value()});
-    model_->set(std::move(events), tanks_->tanks(), records_.utcOffset());
+    setEvents(std::move(events));
     table_->resizeColumnsToContents();
     showState();
     Q_EMIT fuelChanged();
 }
 
+// The line that was chosen stays so, wherever the user has gone since.
+void FuelView::setEvents(std::vector<FuelEvent> found)
+{
+    const QScopedValueRollback refreshing(isRefreshing_, true);
+    const QModelIndex chosen = table_->currentIndex();
+    const int record = chosen.isValid() ? events()[static_cast<std::size_t>(chosen.row())].record : -1;
+    model_->set(std::move(found), tanks_->tanks(), records_.utcOffset());
+    const auto line = std::ranges::find(events(), record, &FuelEvent::record);
+    if (line != events().end())
+        table_->setCurrentIndex(model_->index(static_cast<int>(line - events().begin()), chosen.column()));
+}
+
 void FuelView::look(int line)
 {
-    if (line >= 0)
+    if (line >= 0 && !isRefreshing_)
         records_.setCurrent(events()[static_cast<std::size_t>(line)].record);
 }
 

@@ -58,6 +58,7 @@ private:
     void refreshRecords();
     void computeLitres();
     void find();
+    void setEvents(std::vector<FuelEvent> found);
     void look(int line);
     void zoom(int line);
     void saveCsv();

@@ -49,11 +49,18 @@ constexpr int kFigureCount = static_cast<int>(std::size(kFigures));
 
 void SummaryModel::set(std::vector<Summary> summaries, bool areDays, qint32 utcOffset)
 {
-    beginResetModel();
+    // Of as many lines as before what is selected stays so.
+    const bool isAlike =
+        areDays == areDays_ && utcOffset == utcOffset_ && summaries.size() == summaries_.size();
+    if (!isAlike)
+        beginResetModel();
     summaries_ = std::move(summaries);
     areDays_ = areDays;
     utcOffset_ = utcOffset;
-    endResetModel();
+    if (!isAlike)
+        endResetModel();
+    else if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
 }
 
 void SummaryModel::setSelection(const Summary& summary, qint32 utcOffset)

@@ -88,10 +88,8 @@ void ColumnChoice::lookOn()
         filled_[sought_[place]] = true;
         table_->setColumnHidden(sought_[place], !isShown(sought_[place]));
     }
-    if (!isDone)
-        return;
-    goOn_.stop();
-    search_.reset();
+    if (isDone)
+        goOn_.stop();
 }
 
 bool ColumnChoice::isShown(int column) const

@@ -29,6 +29,8 @@ public:
 
     // The columns of the model are others.
     void takeColumns(const RecordStore& records);
+    // There are more records.
+    void lookFurther() { goOn_.start(); }
 
     bool isShown(int column) const;
     // In the whole file, as far as it has been looked at.

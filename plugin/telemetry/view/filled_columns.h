@@ -11,7 +11,7 @@ namespace vlk {
 class FilledColumns
 {
 public:
-    // By the places of `items`. The store must stay as it is.
+    // By the places of `items`. The store may grow.
     FilledColumns(const RecordStore& store, const std::vector<ItemIndex>& items);
 
     // Those that were found since this was asked the last time.

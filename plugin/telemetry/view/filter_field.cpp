@@ -97,6 +97,8 @@ FilterField::FilterField(ShownRecords* shown, RecordsModel* model, QWidget* pare
         line_->clear();
         tell({});
     });
+    // They may bring events of which it knows no words.
+    connect(shown, &ShownRecords::recordsAdded, this, [this] { names_.reset(); });
     retranslate();
 }
 
@@ -193,7 +195,12 @@ void FilterField::applyTyped()
     tell({});
     applied_ = text;
     keepFilter(parsed.filter->text());
-    shown_->setPassing(passing(*parsed.filter, shown_->columns()));
+    ShownRecords::Passes passes;
+    if (!parsed.filter->empty())
+        passes = [this, filter = *parsed.filter](int record) {
+            return !passing(filter, shown_->columns(), record).empty();
+        };
+    shown_->setPassing(passing(*parsed.filter, shown_->columns()), std::move(passes));
     Q_EMIT applied();
 }
 

@@ -38,13 +38,40 @@ std::vector<CsvColumn> columnsFor(const RecordStore& records)
 
 RecordsModel::RecordsModel(ShownRecords* shown, QObject* parent) : QAbstractTableModel(parent), shown_(shown)
 {
-    connect(shown, &ShownRecords::contentsChanged, this, [this] {
-        beginResetModel();
-        setColumns();
-        order();
-        endResetModel();
-    });
+    connect(shown, &ShownRecords::contentsChanged, this, &RecordsModel::restart);
+    connect(shown, &ShownRecords::recordsAdded, this, &RecordsModel::grow);
     connect(shown, &ShownRecords::passingChanged, this, &RecordsModel::setRows);
+}
+
+void RecordsModel::restart()
+{
+    beginResetModel();
+    setColumns();
+    order();
+    endResetModel();
+}
+
+void RecordsModel::grow(int first)
+{
+    // One of another kind may have more columns.
+    if (shown_->records().hasPackets() != hasPackets_ ||
+        columnsFor(shown_->records()).size() != columns_.size())
+        return restart();
+    if (!rows_.empty())
+        rows_.resize(shown_->records().size(), -1);
+    const std::vector<int>& passing = shown_->passing();
+    const auto added = std::ranges::lower_bound(passing, first);
+    if (added == passing.end())
+        return;
+    beginInsertRows({}, rowCount(), rowCount() + static_cast<int>(passing.end() - added) - 1);
+    for (auto record = added; record != passing.end(); ++record) {
+        if (!rows_.empty())
+            rows_[*record] = rowCount();
+        order_.push_back(*record);
+    }
+    endInsertRows();
+    if (sortColumn_ >= 0)
+        sort(sortColumn_, sortOrder_);
 }
 
 void RecordsModel::setColumns()

@@ -56,6 +56,8 @@ private:
         QString head;
     };
 
+    void restart();
+    void grow(int first);
     void setColumns();
     void makeHeads();
     void setRows();

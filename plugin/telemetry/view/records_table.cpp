@@ -211,6 +211,13 @@ std::vector<int> RecordsTable::selectedRecords() const
     return rows;
 }
 
+bool RecordsTable::areSeveralSelected() const
+{
+    const QItemSelection selection = selectionModel()->selection();
+    return !selection.isEmpty() &&
+           (selection.front().height() > 1 || selection.back().top() != selection.front().top());
+}
+
 bool RecordsTable::showRecord(int record)
 {
     const int row = model_->rowOf(record);

@@ -29,6 +29,8 @@ public:
 
     // The records of the selected rows, as they stand.
     std::vector<int> selectedRecords() const;
+    // Rows, by the user.
+    bool areSeveralSelected() const;
     // Makes it the current one, in the middle of what is seen; false where it does not pass the filter.
     bool showRecord(int record);
 

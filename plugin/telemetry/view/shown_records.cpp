@@ -16,6 +16,7 @@ void ShownRecords::setContents(std::shared_ptr<TelemetryContents> contents)
     const std::vector<quint32>& times = columns_->times();
     passing_.resize(times.size());
     std::iota(passing_.begin(), passing_.end(), 0);
+    passes_ = {};
     byTime_.clear();
     std::ranges::copy_if(passing_, std::back_inserter(byTime_),
                          [&](int record) { return times[record] != 0; });
@@ -29,19 +30,19 @@ void ShownRecords::setContents(std::shared_ptr<TelemetryContents> contents)
     Q_EMIT contentsChanged();
 }
 
-void ShownRecords::append(std::span<const std::uint8_t> record)
+void ShownRecords::append(std::span<const std::uint8_t> record, Current current)
 {
     const int added = records().size();
-    const bool allPass = static_cast<int>(passing_.size()) == added;
-    const bool wasLast = current_ == added - 1;
+    const bool isFollowed = current_ == added - 1 && (current == Current::follows || added == 0);
+    const TimeSpan inSight = inSight_;
     const bool showedLatest = byTime_.empty() || inSight_.to >= wholeTime_.to;
     const bool showedAll = showedLatest && inSight_.from <= wholeTime_.from;
     contents_->records.add(record);
     const std::vector<quint32>& times = columns_->times();
     const quint32 time = times[added];
-    if (allPass)
+    if (!passes_ || passes_(added))
         passing_.push_back(added);
-    if (wasLast)
+    if (isFollowed)
         current_ = added;
     if (time != 0) {
         wholeTime_ = byTime_.empty() ? TimeSpan{double(time), double(time)}
@@ -55,7 +56,9 @@ void ShownRecords::append(std::span<const std::uint8_t> record)
             inSight_ = {inSight_.from + wholeTime_.to - inSight_.to, wholeTime_.to};
     }
     Q_EMIT recordsAdded(added);
-    if (wasLast)
+    if (inSight_ != inSight)
+        Q_EMIT inSightChanged();
+    if (isFollowed)
         Q_EMIT currentChanged(current_);
 }
 
@@ -64,8 +67,9 @@ qint32 ShownRecords::utcOffset() const
     return contents_->records.utcOffset().value_or(localOffset());
 }
 
-void ShownRecords::setPassing(std::vector<int> records)
+void ShownRecords::setPassing(std::vector<int> records, Passes passes)
 {
+    passes_ = std::move(passes);
     if (passing_ == records)
         return;
     passing_ = std::move(records);
@@ -110,6 +114,8 @@ void ShownRecords::setComputed(std::vector<ComputedColumn> columns)
 
 void ShownRecords::setFound(std::vector<FoundEvent> events)
 {
+    if (found_ == events)
+        return;
     found_ = std::move(events);
     Q_EMIT foundChanged();
 }

@@ -10,6 +10,7 @@
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
 
 namespace vlk {
@@ -39,6 +40,8 @@ struct FoundEvent
     int record;
     bool isRise;
     QString text;
+
+    bool operator==(const FoundEvent&) const = default;
 };
 
 class ShownRecords : public QObject
@@ -59,9 +62,10 @@ public:
     const RecordStore& records() const { return contents_->records; }
     const TelemetryTitles& titles() const { return contents_->origin.titles; }
     RecordColumns& columns() { return *columns_; }
-    // Puts one that came meanwhile behind the others, from its type byte on. It passes where all do; what
-    // showed the latest time or record shows it now.
-    void append(std::span<const std::uint8_t> record);
+    // Puts one that came meanwhile behind the others, from its type byte on. What showed the latest time
+    // shows it now; where the last record was looked at, it is this one now if the looking follows.
+    enum class Current { stays, follows };
+    void append(std::span<const std::uint8_t> record, Current current = Current::follows);
     // In which times are shown, in seconds east of UTC.
     qint32 utcOffset() const;
     // From the earliest to the latest record; times of 0 are no times.
@@ -69,7 +73,9 @@ public:
 
     // Rising.
     const std::vector<int>& passing() const { return passing_; }
-    void setPassing(std::vector<int> records);
+    // `passes` tells it of those that are added later; null lets them pass.
+    using Passes = std::function<bool(int record)>;
+    void setPassing(std::vector<int> records, Passes passes = {});
 
     // -1 without records.
     int current() const { return current_; }
@@ -101,6 +107,7 @@ private:
     std::unique_ptr<RecordColumns> columns_ = std::make_unique<RecordColumns>(contents_->records);
     TimeSpan wholeTime_;
     std::vector<int> passing_;
+    Passes passes_;
     std::vector<int> byTime_;
     int current_ = -1;
     TimeSpan inSight_;

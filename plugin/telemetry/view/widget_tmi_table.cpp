@@ -2,6 +2,7 @@
 
 #include "link/device.h"
 #include "link/requests.h"
+#include "telemetry/record/record_head.h"
 #include "telemetry/view/column_choice.h"
 #include "telemetry/view/columns_menu.h"
 #include "telemetry/view/damage_text.h"
@@ -39,6 +40,7 @@
 #include <QTabWidget>
 #include <QTimer>
 
+#include <algorithm>
 #include <functional>
 #include <numeric>
 
@@ -79,7 +81,9 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
     resize(kWidth, kHeight);
     keepOnScreen(this);
 
+    connect(model_, &QAbstractItemModel::modelReset, this, &VLK_Widget_Tmi_Table::takeColumns);
     connect(shown_, &ShownRecords::contentsChanged, this, &VLK_Widget_Tmi_Table::takeContents);
+    connect(shown_, &ShownRecords::recordsAdded, this, &VLK_Widget_Tmi_Table::takeAdded);
     connect(shown_, &ShownRecords::passingChanged, this, &VLK_Widget_Tmi_Table::takePassing);
     connect(shown_, &ShownRecords::currentChanged, table_, &RecordsTable::showRecord);
     connect(table_->selectionModel(), &QItemSelectionModel::currentChanged, this,
@@ -172,15 +176,29 @@ void VLK_Widget_Tmi_Table::open(const QString& path)
     opening_->start(path);
 }
 
-void VLK_Widget_Tmi_Table::open(const std::shared_ptr<TelemetryContents>& contents, const QString& name)
+void VLK_Widget_Tmi_Table::open(const std::shared_ptr<TelemetryContents>& contents, const QString& name,
+                                Growth growth)
 {
     opening_->stop();
     name_ = name;
+    growth_ = growth;
     for (const int notice : {kTooMany, kExported})
         notices_->end(notice);
     showContents(contents);
     places_->setName(name);
     showTitle();
+    const std::vector<quint32>& numbers = shown_->columns().recordNumbers();
+    newest_ = numbers.empty() ? 0 : *std::ranges::max_element(numbers);
+}
+
+void VLK_Widget_Tmi_Table::takeLive(const QByteArray& record, quint32 number)
+{
+    if (growth_ == Growth::none || number <= newest_)
+        return;
+    newest_ = number;
+    shown_->append(bytesAt(record.constData(), record.size()), table_->areSeveralSelected()
+                                                                   ? ShownRecords::Current::stays
+                                                                   : ShownRecords::Current::follows);
 }
 
 void VLK_Widget_Tmi_Table::showContents(const std::shared_ptr<TelemetryContents>& contents)
@@ -191,11 +209,21 @@ void VLK_Widget_Tmi_Table::showContents(const std::shared_ptr<TelemetryContents>
     shown_->setContents(contents);
 }
 
-void VLK_Widget_Tmi_Table::takeContents()
+void VLK_Widget_Tmi_Table::takeColumns()
 {
     table_->takeColumns();
     columns_->takeColumns(shown_->records());
+}
+
+void VLK_Widget_Tmi_Table::takeContents()
+{
     table_->scrollToTop();
+    takePassing();
+}
+
+void VLK_Widget_Tmi_Table::takeAdded()
+{
+    columns_->lookFurther();
     takePassing();
 }
 

@@ -34,8 +34,14 @@ public:
     using QDialog::open;
     // Shows an XML or binary file in place of what was on show; an empty table if it holds no record.
     void open(const QString& path);
-    // The same with records that are there already, under that name.
-    void open(const std::shared_ptr<vlk::TelemetryContents>& contents, const QString& name);
+    // The same with records that are there already, under that name. Records of a tracker that are still
+    // being made grow by those that it sends.
+    enum class Growth { none, live };
+    void open(const std::shared_ptr<vlk::TelemetryContents>& contents, const QString& name,
+              Growth growth = Growth::none);
+    // From its type byte on; takes part where it is newer than all on show, until the growth ends.
+    void takeLive(const QByteArray& record, quint32 number);
+    void endGrowth() { growth_ = Growth::none; }
     void retranslate();
 
 Q_SIGNALS:
@@ -51,7 +57,9 @@ private:
     void layOut();
     void addKeys();
     void showContents(const std::shared_ptr<vlk::TelemetryContents>& contents);
+    void takeColumns();
     void takeContents();
+    void takeAdded();
     void takePassing();
     void showTitle();
     void showCount();
@@ -82,4 +90,6 @@ private:
     QString path_; // of the file that was opened last
     vlk::ExportChoice choice_;
     int exported_ = 0; // records, by the latest export
+    Growth growth_ = Growth::none;
+    quint32 newest_ = 0; // number on show
 };

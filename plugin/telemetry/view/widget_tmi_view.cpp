@@ -150,7 +150,12 @@ void VLK_Widget_Tmi_View::showSaving(bool running)
 
 void VLK_Widget_Tmi_View::showSaved(const std::shared_ptr<TelemetryContents>& period, const QString& path)
 {
-    showPeriod_ = [this, period, name = QFileInfo(path).fileName()] { Q_EMIT recordsWanted(period, name); };
+    const int last = period->records.size() - 1;
+    const bool isPresent = last >= 0 && period->records.at(last)->number() >= highestNumber_;
+    growing_ = isPresent ? period : nullptr;
+    showPeriod_ = [this, period, name = QFileInfo(path).fileName()] {
+        Q_EMIT recordsWanted(period, name, period == growing_);
+    };
     notices_->tell(kSaved, [count = period->records.size(), show = showPeriod_] {
         return Notice{Mark::right, tr("rec_081").arg(QLocale().toString(count)), {{tr("rec_080"), show}}};
     });
@@ -231,6 +236,7 @@ void VLK_Widget_Tmi_View::takeRecord(const QByteArray& record)
     highestNumber_ = std::max(highestNumber_, *number);
     ui_->pushButton_Get_Next->setEnabled(*number < highestNumber_);
     ui_->pushButton_Get_Prev->setEnabled(*number != 0);
+    Q_EMIT recordShown(record, *number);
 }
 
 void VLK_Widget_Tmi_View::takeClearedRecord(const QByteArray& record)

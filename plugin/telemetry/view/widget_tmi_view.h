@@ -47,6 +47,8 @@ public:
     void deviceConnected() { setTitle(); }
     // Ends whatever runs, also in a window that is closed already.
     void deviceDisconnected();
+    // What comes from now on belongs to no period that was saved.
+    void endGrowth() { growing_.reset(); }
     // As the user would close it and the calibration window, which asks where rows of it are in no file.
     void closeWindows();
     void retranslate();
@@ -67,8 +69,12 @@ public:
     void takeTachographFetched(bool done);
 
 Q_SIGNALS:
-    // The period that was just saved is to be looked at.
-    void recordsWanted(const std::shared_ptr<vlk::TelemetryContents>& records, const QString& name);
+    // The period that was just saved is to be looked at. It grows if its end was the tracker's present and
+    // the tracker is there still.
+    void recordsWanted(const std::shared_ptr<vlk::TelemetryContents>& records, const QString& name,
+                       bool grows);
+    // One that was not saved, from its type byte on.
+    void recordShown(const QByteArray& record, quint32 number);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -138,6 +144,7 @@ private:
     quint32 highestNumber_ = 0;
     quint32 lastWalk_ = 0;
     const char* blockedBy_ = nullptr;
-    std::function<void()> showPeriod_;  // the one that was saved last
-    QPointer<QWidget> focusBeforeSave_; // null where the save closed no control that had it
+    std::function<void()> showPeriod_;                // the one that was saved last
+    std::shared_ptr<vlk::TelemetryContents> growing_; // the same, where its end was the present; or null
+    QPointer<QWidget> focusBeforeSave_;               // null where the save closed no control that had it
 };
