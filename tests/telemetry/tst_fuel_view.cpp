@@ -6,6 +6,7 @@
 #include "support/records.h"
 #include "telemetry/fuel_view/fuel_view.h"
 #include "telemetry/fuel_view/summary_view.h"
+#include "telemetry/record/record_head.h"
 #include "telemetry/view/period_file.h"
 
 #include <QClipboard>
@@ -113,6 +114,26 @@ private Q_SLOTS:
         QCOMPARE(table()->model()->rowCount(), 0);
         records_->setContents(TelemetryContents{});
         QVERIFY(view_->litres().empty() && view_->events().empty());
+    }
+
+    // Another drain, and the line that was chosen stays so while the user looks elsewhere.
+    void grows()
+    {
+        choose(good_);
+        QTest::keyClick(table(), Qt::Key_Down);
+        records_->setCurrent(5);
+        for (quint32 i = 40; i < 60; ++i) {
+            const QByteArray record = RecordParts{
+                {"NumPage", i + 1},
+                {"Time", kStart + i * 60},
+                {"Speed", 0},
+                {"LevelRS485_1", 2000}}.bytes();
+            records_->append(bytesAt(record.constData(), record.size()));
+        }
+        QCOMPARE(table()->model()->rowCount(), 2);
+        QCOMPARE(table()->currentIndex().row(), 0);
+        QCOMPARE(records_->current(), 5);
+        QCOMPARE(int(view_->litres().size()), 60);
     }
 
     void saysWhatIsWrongWithATable_data()
