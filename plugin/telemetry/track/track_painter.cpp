@@ -25,7 +25,7 @@ constexpr double kLongestBar = 140;
 constexpr double kMargin = 10;
 constexpr double kStopReach = 5;
 constexpr double kEventReach = 4;
-constexpr double kMarkRoom = 8;
+constexpr double kMarkRoom = 22;
 constexpr double kCurrentReach = 8;
 constexpr int kBins = ValueClasses::kMost + 1; // the last for no value
 
