@@ -1,6 +1,5 @@
-// Refuellings and drains in the records of the simulated tracker, against what was poured: fifty vehicles, of
-// which each does other work on other days. The figures of the algorithm were chosen on the first half of
-// them.
+// Refuellings and drains in the records of the simulated tracker, against what was poured: vehicles of
+// which each does other work on other days. The figures of the algorithm were chosen on the first 25 of them.
 
 #include "driven_records.h"
 #include "telemetry/fuel/fuel_events.h"
@@ -12,7 +11,7 @@ using vlk::FuelEvent;
 namespace {
 
 constexpr vlk::FuelThresholds thresholds{20, 10};
-constexpr int vehicles = 50;
+constexpr int vehicles = 75;
 constexpr int days = 2;
 
 // Of litres, which levels in whole codes cannot tell: a pour that close to its threshold may be taken or not.

@@ -222,7 +222,8 @@ private:
         const double before = nearLevel(step.from, kBackwards).litres;
         const double after = nearLevel(step.to, kForwards).litres;
         const double litres = after - before;
-        if (litres < thresholds_.rise && -litres < thresholds_.fall + (1 + kBurnSpread) * longBurnt(step))
+        if (litres + burntUnseen(step) < thresholds_.rise &&
+            -litres < thresholds_.fall + (1 + kBurnSpread) * longBurnt(step))
             return {};
         const Level was = farLevel(step.from, kBackwards);
         const Level stays = farLevel(step.to, kForwards);
@@ -239,6 +240,18 @@ private:
                          after,
                          kNowhere,
                          kNowhere};
+    }
+
+    // What of a filling was burnt again before a level told it: where the engine runs behind a pause it ran
+    // in it, at least while the sensors woke.
+    double burntUnseen(const Step& step) const
+    {
+        double burnt = 0;
+        for (int i = step.from; i < step.to; ++i) {
+            const LevelMedian& next = medians_[i + 1];
+            burnt += burning(next) * std::min<double>(next.from - medians_[i].until, kWakeTime);
+        }
+        return burnt;
     }
 
     // What was burnt in long pauses, of which nothing is known but that.

@@ -8,7 +8,6 @@ namespace vlk {
 namespace {
 
 // Seconds.
-constexpr quint32 kWakeTime = 120;    // of sensors, once the ignition is on
 constexpr quint32 kSettleTime = 90;   // of the fuel, once the vehicle stands
 constexpr double kWindowMoving = 300; // of a median
 constexpr double kWindowStanding = 60;

@@ -7,6 +7,9 @@
 
 namespace vlk {
 
+// Seconds that sensors need, once the ignition is on.
+inline constexpr quint32 kWakeTime = 120;
+
 // Of neighbouring records with one state of motion.
 struct LevelMedian
 {
