@@ -1,14 +1,19 @@
 // Curves of records: what is drawn of a million numbers, the span in sight, the cursors, what is handed over.
 
+#include "support/answers.h"
 #include "support/data_table.h"
 #include "support/files.h"
 #include "support/records.h"
 #include "support/truck_records.h"
 #include "telemetry/curves/curve_series.h"
 #include "telemetry/curves/curves_view.h"
+#include "telemetry/curves/hand_over.h"
 #include "telemetry/curves/time_scale.h"
 #include "telemetry/record/record_head.h"
+#include "typing/notice_bar.h"
 
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QtTest>
 #include <QtWidgets>
 
@@ -84,6 +89,7 @@ private Q_SLOTS:
     void showsWhatThereIs();
     void choosesCurvesAndKeepsThem();
     void handsOver();
+    void printsAsItShows();
     void grows();
     void survivesOddRecords_data();
     void survivesOddRecords();
@@ -366,6 +372,21 @@ void TestCurves::handsOver()
     QCOMPARE(QImage(folder.filePath(QStringLiteral("p.png"))).size(), QSize(2400, 1200));
     view_->saveTo(folder.filePath(QStringLiteral("none/p.png")));
     QVERIFY(view_->findChild<QLabel*>(QStringLiteral("label_CurvesNotice"))->text().startsWith("rec_171"));
+}
+
+void TestCurves::printsAsItShows()
+{
+    NoticeBar bar(view_.get(), QStringLiteral("label_Printed"));
+    HandOver handOver(view_.get(), &bar);
+    const QTemporaryDir folder;
+    whenOpen<QPrintDialog>([&](QPrintDialog& dialog) {
+        dialog.printer()->setOutputFormat(QPrinter::PdfFormat);
+        dialog.printer()->setOutputFileName(folder.filePath(QStringLiteral("p.pdf")));
+        dialog.done(QDialog::Accepted);
+    });
+    int height = 0;
+    handOver.print([&](QPainter& painter, const QSize&) { height = painter.fontMetrics().height(); });
+    QVERIFY2(qAbs(height - view_->fontMetrics().height()) <= 2, qPrintable(QString::number(height)));
 }
 
 void TestCurves::grows()

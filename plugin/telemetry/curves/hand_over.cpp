@@ -6,6 +6,7 @@
 #include "typing/file_error.h"
 #include "typing/notice_bar.h"
 
+#include <QApplication>
 #include <QBuffer>
 #include <QDir>
 #include <QFileDialog>
@@ -23,6 +24,15 @@ constexpr QSize kPictureSize(1200, 600);
 constexpr int kPicturePixels = 2; // a point
 constexpr int kSavedNotice = 1;
 
+// Of the size in which it is shown: a printer would make many of its pixels of the points of a font.
+void paintInPixels(QPainter& painter, const PaintPicture& paint)
+{
+    QFont font = QApplication::font();
+    font.setPixelSize(QFontInfo(font).pixelSize());
+    painter.setFont(font);
+    paint(painter, kPictureSize);
+}
+
 QByteArray svgOf(const PaintPicture& paint)
 {
     QBuffer buffer;
@@ -31,7 +41,7 @@ QByteArray svgOf(const PaintPicture& paint)
     svg.setSize(kPictureSize);
     svg.setViewBox(QRect(QPoint(), kPictureSize));
     QPainter painter(&svg);
-    paint(painter, kPictureSize);
+    paintInPixels(painter, paint);
     painter.end();
     return buffer.data();
 }
@@ -42,7 +52,7 @@ QByteArray pngOf(const PaintPicture& paint)
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.scale(kPicturePixels, kPicturePixels);
-    paint(painter, kPictureSize);
+    paintInPixels(painter, paint);
     painter.end();
     QBuffer buffer;
     image.save(&buffer, "PNG");
@@ -126,7 +136,7 @@ void HandOver::print(const PaintPicture& paint)
     const double scale =
         std::min(double(page.width()) / kPictureSize.width(), double(page.height()) / kPictureSize.height());
     painter.scale(scale, scale);
-    paint(painter, kPictureSize);
+    paintInPixels(painter, paint);
 }
 
 QPalette paperPalette()

@@ -35,7 +35,7 @@ constexpr double kLeastLitres = 0.5;
 constexpr double kMostLitres = 5000;
 constexpr double kRoundEvent = 15 * 60; // seconds on either side
 constexpr QSize kCurvePicture(1240, 500);
-constexpr QSize kTrackPicture(1240, 800);
+constexpr QSize kTrackPicture(1240, 640); // with the curve and a short list on one page
 constexpr int kWidestVehicle = 160;
 
 QDoubleSpinBox* litresBox(const char* name, QWidget* parent)
