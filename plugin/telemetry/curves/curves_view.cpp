@@ -201,8 +201,14 @@ void CurvesView::refresh()
 {
     line_->setText(model_->cursorLine());
     plot_->setAccessibleDescription(line_->text());
-    cursorA_->setChecked(model_->moving() == Cursor::a && model_->cursor(Cursor::a) >= 0);
-    cursorB_->setChecked(model_->moving() == Cursor::b);
+    for (const auto& [button, which] : {std::pair(cursorA_, Cursor::a), std::pair(cursorB_, Cursor::b)}) {
+        const bool isMoving = model_->moving() == which && model_->cursor(which) >= 0;
+        button->setChecked(isMoving);
+        // Dark buttons look alike, pressed or not.
+        QFont font = button->font();
+        font.setBold(isMoving);
+        button->setFont(font);
+    }
 }
 
 // What the table shows is in sight here too.

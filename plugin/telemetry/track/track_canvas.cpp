@@ -55,6 +55,15 @@ void TrackCanvas::fit()
     update();
 }
 
+TrackSight TrackCanvas::sightIn(const QSizeF& room) const
+{
+    if (isFitted_)
+        return sightOf(model_->bounds(), room);
+    TrackSight sight = sight_;
+    sight.metresPerPixel *= std::max(width() / room.width(), height() / room.height());
+    return sight;
+}
+
 void TrackCanvas::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);

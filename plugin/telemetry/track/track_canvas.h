@@ -15,7 +15,8 @@ class TrackCanvas : public QWidget
 public:
     explicit TrackCanvas(TrackModel* model, QWidget* parent = nullptr);
 
-    const TrackSight& sight() const { return sight_; }
+    // What is seen here, in another shape: all where all is.
+    TrackSight sightIn(const QSizeF& room) const;
     // Shows all of it.
     void fit();
 

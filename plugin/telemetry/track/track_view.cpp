@@ -138,10 +138,7 @@ void TrackView::paint(QPainter& painter, const QSize& size) const
             .trimmed());
     painter.translate(0, kTitleHeight);
     const QSizeF room(size.width(), size.height() - kTitleHeight);
-    // The same part, in another shape.
-    TrackSight sight = canvas_->sight();
-    sight.metresPerPixel *= std::max(canvas_->width() / room.width(), canvas_->height() / room.height());
-    paintTrack(painter, room, *model_, sight, paperPalette());
+    paintTrack(painter, room, *model_, canvas_->sightIn(room), paperPalette());
 }
 
 QImage TrackView::picture(const TimeSpan& span, const QSize& size) const
