@@ -340,6 +340,9 @@ void TestCurves::choosesCurvesAndKeepsThem()
         QWidget* const dialog = QApplication::activeModalWidget();
         auto* const find = dialog->findChild<QLineEdit*>();
         auto* const list = dialog->findChild<QListWidget*>();
+        QTest::keyClicks(find, QStringLiteral("none of them"));
+        QTest::keyClick(list, Qt::Key_Space);
+        find->selectAll();
         QTest::keyClicks(find, QStringLiteral("Power"));
         for (int row = 0; row < list->count(); ++row) {
             if (!list->item(row)->isHidden())

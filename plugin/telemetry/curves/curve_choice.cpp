@@ -121,6 +121,13 @@ void CurveChoice::narrow(const QString& words)
             return text.contains(word, Qt::CaseInsensitive);
         }));
     }
+    // A key must not act on a row that nobody sees.
+    int row = std::max(list_->currentRow(), 0);
+    if (row < list_->count() && list_->item(row)->isHidden())
+        row = 0;
+    while (row < list_->count() && list_->item(row)->isHidden())
+        ++row;
+    list_->setCurrentRow(row < list_->count() ? row : -1);
 }
 
 void CurveChoice::refreshButtons()
