@@ -242,8 +242,8 @@ private:
                          kNowhere};
     }
 
-    // What of a filling was burnt again before a level told it: where the engine runs behind a pause it ran
-    // in it, at least while the sensors woke.
+    // What of a refuelling was burnt again before a level told it: where the engine runs behind a pause it
+    // ran in it, at least while the sensors woke.
     double burntUnseen(const Step& step) const
     {
         double burnt = 0;
