@@ -1911,6 +1911,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_278"><translation>the name is too long</translation></message>
     <message id="tmiw_279"><translation>Tick the box of the row first.</translation></message>
     <message id="tmiw_280"><translation>Only sensors that the tracker finds by name have one.</translation></message>
+    <message id="tmiw_290"><translation>No answer since %1</translation></message>
+    <message id="tmiw_291"><translation>Pour a known volume, type it above and press +. Points can be pasted too.</translation></message>
+    <message id="tmiw_292"><translation>Telemetry was closed, so no live values come. Attach the tracker and open telemetry to go on.</translation></message>
     <message id="tmizta_001"><translation>Test mode</translation></message>
     <message id="tmizta_002"><translation>Backup</translation></message>
     <message id="tmizta_003"><translation>Main</translation></message>

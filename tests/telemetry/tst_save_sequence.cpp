@@ -84,6 +84,19 @@ private Q_SLOTS:
         QVERIFY(isIdle());
     }
 
+    void barTellsOfSilence()
+    {
+        startSave(7, 20);
+        send(Message::RecordByNumber, 8);
+        const auto* bar = child<QProgressBar>("progressBar_Time");
+        const QColor usual = bar->palette().color(QPalette::Highlight);
+        QTRY_COMPARE(bar->format(), QString("tmiw_290"));
+        QVERIFY(bar->palette().color(QPalette::Highlight) != usual);
+        send(Message::RecordByNumber, 9);
+        QCOMPARE(bar->format(), QString("%p%"));
+        QCOMPARE(bar->palette().color(QPalette::Highlight), usual);
+    }
+
     void refused_data()
     {
         // seconds from the first editor to the last

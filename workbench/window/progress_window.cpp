@@ -3,6 +3,7 @@
 #include "plugin_names.h"
 #include "road/write_road.h"
 #include "typing/field_mark.h"
+#include "typing/progress_look.h"
 #include "window/languages.h"
 #include "window/trouble_text.h"
 
@@ -51,8 +52,12 @@ ProgressWindow::ProgressWindow(WriteRoad& road, QWidget* parent)
     connect(&road_, &WriteRoad::taken, this, &ProgressWindow::showTaken);
     connect(&road_, &WriteRoad::silent, this, [this](const QDateTime& since) {
         trouble_->setText(text("wb_progress_silent").arg(timeOfDay(since)));
+        vlk::showAsSilent(bar_, true);
     });
-    connect(&road_, &WriteRoad::heard, trouble_, &QLabel::clear);
+    connect(&road_, &WriteRoad::heard, this, [this] {
+        trouble_->clear();
+        vlk::showAsSilent(bar_, false);
+    });
     // It comes up on the way.
     showStep(road_.step());
     if (road_.isTaken())

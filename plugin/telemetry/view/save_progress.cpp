@@ -2,9 +2,15 @@
 
 #include "ui_VLK_Designer_Widget_Tmi_View.h"
 
+#include "base/clock.h"
+#include "typing/progress_look.h"
+
+#include <chrono>
 #include <limits>
 
 namespace {
+
+constexpr auto kPatience = std::chrono::seconds(3);
 
 // "hh:mm:ss", with more hours than a day has where it takes them.
 QString timeText(qint64 seconds)
@@ -18,8 +24,16 @@ QString timeText(qint64 seconds)
 
 } // namespace
 
+SaveProgress::SaveProgress(const Ui::VLK_Designer_Widget_Tmi_View& ui) : ui_(ui)
+{
+    silence_.setSingleShot(true);
+    silence_.setInterval(kPatience);
+    QObject::connect(&silence_, &QTimer::timeout, &silence_, [this] { showSilence(true); });
+}
+
 void SaveProgress::clear()
 {
+    stopWaiting();
     statusKey_ = nullptr;
     for (QLabel* label : ui_.frame_Progress->findChildren<QLabel*>())
         label->clear();
@@ -47,10 +61,34 @@ void SaveProgress::start(quint32 total)
         cancel->setFocus();
     ui_.label_Packet_Separator->setText(QStringLiteral("/"));
     ui_.label_Time_Separator->setText(QStringLiteral("/"));
+    wait();
+}
+
+void SaveProgress::wait()
+{
+    heard_ = vlk::now();
+    silence_.start();
+    if (isSilent_)
+        showSilence(false);
+}
+
+void SaveProgress::stopWaiting()
+{
+    silence_.stop();
+    if (isSilent_)
+        showSilence(false);
+}
+
+void SaveProgress::showSilence(bool silent)
+{
+    isSilent_ = silent;
+    vlk::showAsSilent(ui_.progressBar_Time, silent);
+    retranslate();
 }
 
 void SaveProgress::moveBar()
 {
+    wait();
     ui_.progressBar_Time->setValue(ui_.progressBar_Time->value() + 1);
 }
 
@@ -72,4 +110,8 @@ void SaveProgress::retranslate()
 {
     if (statusKey_ != nullptr)
         ui_.label_ProgressBar_Time->setText(QCoreApplication::translate("vlk", statusKey_));
+    ui_.progressBar_Time->setFormat(
+        isSilent_
+            ? QCoreApplication::translate("vlk", "tmiw_290").arg(heard_.toString(QStringLiteral("HH:mm:ss")))
+            : QStringLiteral("%p%"));
 }

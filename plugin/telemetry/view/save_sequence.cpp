@@ -239,6 +239,7 @@ std::size_t SaveSequence::carryOutCancel()
 
 std::size_t SaveSequence::end()
 {
+    progress_.stopWaiting();
     // Writing asks the host for words; whatever else it sends then is not part of this save any more.
     const bool isPart = std::exchange(saveState_, Writing) == Collecting;
     arrived_.clear();
