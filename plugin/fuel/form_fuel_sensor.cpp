@@ -7,6 +7,7 @@
 #include "fuel/fuelsensor_graph.h"
 #include "fuel/question.h"
 #include "fuel/table/fuel_sensors.h"
+#include "typing/empty_note.h"
 #include "typing/present_value.h"
 
 #include <QAction>
@@ -27,6 +28,7 @@ VLK_Form_Fuel_Sensor::VLK_Form_Fuel_Sensor(int kind, const QString& name, const 
       kind_(kind), name_(name)
 {
     ui_->setupUi(this);
+    empty_ = new vlk::EmptyNote(ui_->tableWidget);
     ui_->verticalLayout_Graph->addWidget(graph_);
     ui_->pushButton_Add->setIcon(addIcon);
     vlk::takeNumbers(ui_->lineEdit_Volume, kTopAddedVolume, 1);
@@ -112,6 +114,7 @@ void VLK_Form_Fuel_Sensor::retranslate()
     ui_->pushButton_Del->setToolTip(tr("cfgt6_048"));
     ui_->pushButton_Clear->setToolTip(tr("cfgt6_049"));
     ui_->tableWidget->setAccessibleName(tr("cfgt6_037"));
+    empty_->tell(tr("tmiw_291"));
     copy_->setText(tr("cfgt6_401"));
     paste_->setText(tr("cfgt6_402"));
     offerName(offeredName_);

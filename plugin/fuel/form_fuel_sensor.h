@@ -20,8 +20,9 @@
 struct CXmlSection;
 
 namespace vlk {
+class EmptyNote;
 struct CalibrationSheet;
-}
+} // namespace vlk
 
 class QKeyEvent;
 class QLineEdit;
@@ -74,9 +75,8 @@ public:
     void loadXml(CXmlSection* section);
     void setDirty(bool dirty);
     void setEdited(bool edited);
-    // Puts the rows of a file in the place of those that are there; they are dirty. False when it cannot be
-    // read.
-    bool replaceByCsv(const QString& path);
+    // Puts rows in the place of those that are there; they are dirty.
+    void replaceRows(const vlk::FuelRows& rows);
     // As it stands, for the next time. False when the disk refused.
     bool keep(const QString& path, const QString& vehicle, const QDateTime& time) const;
 
@@ -119,6 +119,7 @@ private:
     void showFallingPoints();
 
     std::unique_ptr<Ui::VLK_Designer_Form_Fuel_Sensor> ui_;
+    vlk::EmptyNote* empty_;
     VLK_FuelSensor_Graph* graph_;
     VLK_FormReportFuel* report_ = nullptr;
     QAction* copy_;

@@ -34,15 +34,11 @@ void VLK_Form_Fuel_Sensor::loadCsv(const QString& path)
     }
 }
 
-bool VLK_Form_Fuel_Sensor::replaceByCsv(const QString& path)
+void VLK_Form_Fuel_Sensor::replaceRows(const vlk::FuelRows& rows)
 {
-    const auto rows = vlk::readFuelCsvFile(path);
-    if (!rows)
-        return false;
     clearRows();
-    addRows(*rows);
+    addRows(rows);
     setDirty(hasRows());
-    return true;
 }
 
 void VLK_Form_Fuel_Sensor::saveXml(CXmlSection* section)

@@ -201,6 +201,7 @@ void VLK_Form_TMI_Fuel_Sensors::slot_timeout()
 
 void VLK_Form_TMI_Fuel_Sensors::linkFound()
 {
+    tellNoLink(false);
     if (!isHidden())
         requests::analog();
 }
@@ -213,6 +214,7 @@ void VLK_Form_TMI_Fuel_Sensors::linkLost()
         close();
     timer_.stop();
     clearLiveValues();
+    tellNoLink(isVisible());
 }
 
 bool VLK_Form_TMI_Fuel_Sensors::hasRows() const

@@ -85,6 +85,8 @@ private:
     bool hasUnsaved() const { return unsavedCount_ > 0; }
     // What the bar says of the table on show, and the tabs of all.
     void tellOfTable();
+    // That no live values come.
+    void tellNoLink(bool isLost);
     // Opens the button for rows that were added, and for an edited table while the bar has something else to
     // tell than that.
     void openSave();

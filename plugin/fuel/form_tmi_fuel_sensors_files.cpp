@@ -28,7 +28,7 @@ namespace {
 
 // Numbers in the bar; offers have those from kOffers on. That a table is edited can wait until all are
 // answered.
-enum NoticeNumber { kFileOfOther, kCut, kFlaw, kOffers, kEdited = std::numeric_limits<int>::max() };
+enum NoticeNumber { kNoLink, kFileOfOther, kCut, kFlaw, kOffers, kEdited = std::numeric_limits<int>::max() };
 
 constexpr int kQuoted = 40; // characters of a cell, in the bar
 
@@ -74,6 +74,15 @@ void VLK_Form_TMI_Fuel_Sensors::tellOfTable()
     tell(kFlaw, flaw.row >= 0,
          {Mark::invalid, tr("tmiw_265").arg(QString::number(flaw.row + 1), flaw.text.left(kQuoted)), {}});
     tell(kEdited, form->isEdited(), {Mark::changed, tr("cfgt6_404"), {save}});
+    openSave();
+}
+
+void VLK_Form_TMI_Fuel_Sensors::tellNoLink(bool isLost)
+{
+    if (isLost)
+        bar_->tell(kNoLink, [] { return Notice{Mark::advice, tr("tmiw_292"), {}}; });
+    else
+        bar_->end(kNoLink);
     openSave();
 }
 
@@ -232,6 +241,9 @@ void VLK_Form_TMI_Fuel_Sensors::loadXml(const QString& path)
 // Its rows say nothing of their sensor, but its name begins with it unless the user has chosen another.
 void VLK_Form_TMI_Fuel_Sensors::loadCsv(const QString& path)
 {
+    const std::optional<FuelRows> rows = readFuelCsvFile(path);
+    if (!rows)
+        return;
     const QString sensor = QFileInfo(path).fileName().section(QLatin1Char('-'), 0, 0);
     const bool isSensor =
         std::any_of(std::begin(fuelSensors), std::end(fuelSensors),
@@ -241,10 +253,8 @@ void VLK_Form_TMI_Fuel_Sensors::loadCsv(const QString& path)
     VLK_Form_Fuel_Sensor* form = currentForm();
     if (!form || !mayReplace(*form))
         return;
-    bool isLoaded = false;
-    load(*form, [&] { isLoaded = form->replaceByCsv(path); });
-    if (isLoaded)
-        showLoaded(isSensor ? sensor : QString());
+    load(*form, [&] { form->replaceRows(*rows); });
+    showLoaded(isSensor ? sensor : QString());
 }
 
 void VLK_Form_TMI_Fuel_Sensors::showLoaded(const QString& type)

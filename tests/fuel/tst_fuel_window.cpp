@@ -111,8 +111,11 @@ private Q_SLOTS:
 
     void savesAsXml()
     {
+        const auto* note = form("A3")->findChild<QLabel*>("label_Empty");
+        QVERIFY(note->isVisible() && note->text() == "tmiw_291");
         add("A3", "10,5", 12340);
         add("A3", "5", 900);
+        QVERIFY(!note->isVisible());
         QVERIFY(fuel_.isOn("pushButton_Save_Xml"));
         field("A3", "lineEdit_Name")->setText("left");
         QString proposed;
@@ -308,6 +311,11 @@ private Q_SLOTS:
         QVERIFY(rows("D4") == "10.5=1002" && form("D4")->isVisible() && fuel_.isOn("pushButton_Save_Xml"));
         load(writeFile(folder.filePath("F1-.csv"), "x;y\r\n7;1\r\n"), "tmiw_129", "wrd_001");
         QVERIFY(rows("D4") == "1=7" && fuel_.text("label_Notice") == "cfgt6_412");
+        // Nothing is asked for the sake of a file with nothing in it.
+        const QString none = writeFile(folder.filePath("none.csv"), QByteArray(9, '\0'));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("holds no calibration table"));
+        load(none);
+        QCOMPARE(rows("D4"), QString("1=7"));
     }
 
     void savesAsCsv()
@@ -441,6 +449,7 @@ private Q_SLOTS:
         add("A3", "1", 1000);
         host.send(Message::TrackerDetached);
         QVERIFY(window->isHidden() && fuel_.window->isVisible());
+        QCOMPARE(fuel_.text("label_Notice"), QString("tmiw_292"));
         QCOMPARE(rows("A3"), QString("1=1.00 1=1.00"));
         edit("A3", "2");
         QVERIFY(!form("A3")->findChild<QPushButton*>("pushButton_Add")->isEnabled());
@@ -450,6 +459,7 @@ private Q_SLOTS:
         host.attach();
         openAgain();
         QCOMPARE(host.takeSent(Message::RequestAnalog).size(), 1);
+        QVERIFY(bar()->isHidden());
         host.send(Message::AnalogRecord, liveRecord().constData());
         QCOMPARE(field("A3", "lineEdit_Param")->text(), QString("12.34"));
         answerBox("wrd_001", kUnsaved);
