@@ -1,5 +1,6 @@
 #include "fuel/file_dialogs.h"
 
+#include "fuel/table/fuel_file.h"
 #include "fuel/table/fuel_sensors.h"
 
 #include <QFileDialog>
@@ -7,27 +8,10 @@
 
 namespace vlk {
 
-namespace {
-
-QString& folderOfLastSave()
-{
-    static QString folder;
-    return folder;
-}
-
-QString startFolder(const QString& otherwise)
-{
-    const QString& last = folderOfLastSave();
-    return !last.isEmpty() && QFileInfo(last).isDir() ? last : otherwise;
-}
-
-} // namespace
-
 QString askFuelFileToSave(QWidget* parent, const QString& caption, const QString& proposed,
                           const QString& suffix)
 {
-    QFileDialog dialog(parent, caption, startFolder(QFileInfo(proposed).path()),
-                       QLatin1String("*.") + suffix);
+    QFileDialog dialog(parent, caption, fuelFolder(QFileInfo(proposed).path()), QLatin1String("*.") + suffix);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     // To a name with a point in it the dialog adds none by itself.
     const QString name = QFileInfo(proposed).fileName();
@@ -36,13 +20,13 @@ QString askFuelFileToSave(QWidget* parent, const QString& caption, const QString
     if (dialog.exec() != QDialog::Accepted)
         return {};
     QString path = dialog.selectedFiles().value(0);
-    folderOfLastSave() = QFileInfo(path).path();
+    rememberFuelFolder(path);
     return path;
 }
 
 QString askFuelFileToLoad(QWidget* parent, const QString& folder, const QStringList& suffixes)
 {
-    return QFileDialog::getOpenFileName(parent, fuelWord("wrd_023"), startFolder(folder),
+    return QFileDialog::getOpenFileName(parent, fuelWord("wrd_023"), fuelFolder(folder),
                                         QLatin1String("*.") + suffixes.join(QLatin1String(";;*.")));
 }
 

@@ -197,12 +197,12 @@ private Q_SLOTS:
         QCOMPARE(readFile(path), QByteArray("old"));
         for (const QString& none : {folder.path(), folder.filePath("none"), QString("/dev/zero")}) {
             QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot open"));
-            QVERIFY(!readFuelFile(none));
+            QVERIFY(!readFuelCsvFile(none));
         }
         QFile large(folder.filePath("large.csv"));
         QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(100'000'000));
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("too large"));
-        QVERIFY(!readFuelFile(large.fileName()));
+        QVERIFY(!readFuelCsvFile(large.fileName()));
         QCOMPARE(fuelFileName("/data", "D1", "a/b:*?\"<>|\\\n%1", QDateTime({2026, 5, 7}, {14, 3, 9})),
                  QString("/data/D1-ab%1(2026-05-07 14_03_09)"));
     }

@@ -50,7 +50,7 @@ inline void answerFile(const QString& path, QString* proposed = nullptr)
 {
     whenOpen<QFileDialog>([=](QFileDialog& dialog) {
         if (proposed)
-            *proposed = dialog.selectedFiles().value(0);
+            *proposed = dialog.selectedFiles().value(0, dialog.directory().path());
         dialog.setOption(QFileDialog::DontConfirmOverwrite);
         dialog.findChild<QLineEdit*>("fileNameEdit")->setText(path);
         QMetaObject::invokeMethod(&dialog, path.isEmpty() ? "reject" : "accept");

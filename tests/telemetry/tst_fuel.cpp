@@ -133,6 +133,19 @@ private Q_SLOTS:
         QCOMPARE(FuelCurve(std::get<Calibration>(read).rows, LevelKind::Code).litres(99), 9.5);
     }
 
+    // By whoever reads: a warning would be told by the host a second time.
+    void aMissingTableIsToldOnce()
+    {
+        static int warnings;
+        warnings = 0;
+        const QtMessageHandler before =
+            qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) { ++warnings; });
+        const auto read = readCalibration(QStringLiteral("/no/such/table"));
+        qInstallMessageHandler(before);
+        QVERIFY(std::get<TableFault>(read) == TableFault::Unreadable);
+        QCOMPARE(warnings, 0);
+    }
+
     void litres_data()
     {
         QTest::addColumn<QString>("table");

@@ -1,5 +1,6 @@
 // The list of refuellings and drains and the summary beside it, as a user works them.
 
+#include "fuel/table/fuel_file.h"
 #include "support/answers.h"
 #include "support/data_table.h"
 #include "support/files.h"
@@ -161,7 +162,11 @@ private Q_SLOTS:
         QFETCH(QByteArray, content);
         QFETCH(QString, news);
         QFETCH(int, rows);
-        choose(file("table.xml", content));
+        const QString path = file("table.xml", content);
+        rememberFuelFolder(path);
+        QString proposed;
+        choose(path, &proposed);
+        QCOMPARE(proposed, folder_.path());
         auto* label = view_->findChild<QLabel*>("label_FuelNews");
         QVERIFY(label->isVisible());
         QCOMPARE(label->text(), news);
@@ -230,11 +235,11 @@ private:
         return writeFile(folder_.filePath(name), content);
     }
     // By the menu: the sensor, then its table in the dialog.
-    void choose(const QString& table)
+    void choose(const QString& table, QString* proposed = nullptr)
     {
         QMenu* menu = view_->findChild<QToolButton*>("toolButton_FuelTanks")->menu();
         Q_EMIT menu->aboutToShow();
-        answerFile(table);
+        answerFile(table, proposed);
         menu->actions().first()->trigger();
     }
     QTableView* table() const { return view_->findChild<QTableView*>("tableView_Fuel"); }

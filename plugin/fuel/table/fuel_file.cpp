@@ -18,6 +18,12 @@ namespace {
 // Bytes. The largest table has a tenth of this.
 constexpr qint64 kLargestFile = 4'000'000;
 
+QString& folderOfLastSave()
+{
+    static QString folder;
+    return folder;
+}
+
 } // namespace
 
 QString fuelFileName(const QString& folder, const QString& sensor, const QString& title,
@@ -28,34 +34,45 @@ QString fuelFileName(const QString& folder, const QString& sensor, const QString
              time.toString(QStringLiteral("yyyy-MM-dd hh_mm_ss")));
 }
 
+QString fuelFolder(const QString& otherwise)
+{
+    const QString& last = folderOfLastSave();
+    return !last.isEmpty() && QFileInfo(last).isDir() ? last : otherwise;
+}
+
+void rememberFuelFolder(const QString& path)
+{
+    folderOfLastSave() = QFileInfo(path).path();
+}
+
 bool saveFuelFile(const QString& path, const QByteArray& content)
 {
     return replaceFile(path, content);
 }
 
-std::optional<QByteArray> readFuelFile(const QString& path)
+std::optional<QByteArray> readFuelFile(const QString& path, QString* fault)
 {
+    const auto refuse = [fault](const QString& reason) {
+        if (fault != nullptr)
+            *fault = reason;
+        return std::nullopt;
+    };
     QFile file(path);
     // What is no plain file may have no end, or wait for its first byte for ever.
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
-        qCWarning(lcFuel).noquote() << "cannot open" << path << ':' << file.errorString();
-        return {};
-    }
-    if (file.size() > kLargestFile) {
-        qCWarning(lcFuel).noquote() << path << "is too large for a calibration table";
-        return {};
-    }
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return refuse(QStringLiteral("cannot open %1 : %2").arg(path, file.errorString()));
+    if (file.size() > kLargestFile)
+        return refuse(QStringLiteral("%1 is too large for a calibration table").arg(path));
     return file.read(kLargestFile);
 }
 
 std::optional<FuelRows> readFuelCsvFile(const QString& path)
 {
-    const std::optional<QByteArray> content = readFuelFile(path);
-    if (!content)
-        return {};
-    std::optional<FuelRows> rows = readFuelCsv(*content);
+    QString fault = QStringLiteral("%1 holds no calibration table").arg(path);
+    const std::optional<QByteArray> content = readFuelFile(path, &fault);
+    std::optional<FuelRows> rows = content ? readFuelCsv(*content) : std::nullopt;
     if (!rows)
-        qCWarning(lcFuel).noquote() << path << "holds no calibration table";
+        qCWarning(lcFuel).noquote() << fault;
     return rows;
 }
 

@@ -17,13 +17,18 @@ namespace vlk {
 QString fuelFileName(const QString& folder, const QString& sensor, const QString& title,
                      const QDateTime& time);
 
+// Where files of tables are asked for: the folder of the one that was saved last in this run of the program,
+// and before that the other one.
+QString fuelFolder(const QString& otherwise);
+void rememberFuelFolder(const QString& path);
+
 // True when the file at `path` now holds the content. Otherwise it holds what it held before, and the log
 // (vlk.save) says why.
 bool saveFuelFile(const QString& path, const QByteArray& content);
 
-// None when there is no such file or it is too large for a calibration; the log (vlk.fuel) says so.
-std::optional<QByteArray> readFuelFile(const QString& path);
-// The rows of a CSV file; none likewise when it holds no table.
+// None when there is no such file or it is too large for a calibration, with the reason as the log words it.
+std::optional<QByteArray> readFuelFile(const QString& path, QString* fault = nullptr);
+// The rows of a CSV file; none likewise, or when it holds no table. The log (vlk.fuel) says why.
 std::optional<FuelRows> readFuelCsvFile(const QString& path);
 
 } // namespace vlk

@@ -1,5 +1,6 @@
 #include "telemetry/fuel_view/tank_button.h"
 
+#include "fuel/table/fuel_file.h"
 #include "link/device.h"
 #include "telemetry/fuel_view/fuel_texts.h"
 
@@ -112,7 +113,9 @@ bool TankButton::askTable(const LevelSensor& sensor)
 {
     const QString element = QString::fromStdString(std::string(sensor.element()));
     const QString before = memory().table(vehicle_, element);
-    const QString folder = !before.isEmpty() ? before : vlkDevice ? vlkDevice->xmlFolder() : QString();
+    // Else where the calibration window puts them.
+    const QString folder =
+        !before.isEmpty() ? before : fuelFolder(vlkDevice ? vlkDevice->tmiFolder() : QString());
     const QString path = QFileDialog::getOpenFileName(this, tr("rec_252").arg(levelSensorCaption(sensor)),
                                                       folder, tr("rec_269"));
     const bool isTaken = !path.isEmpty() && take(sensor, path);
