@@ -77,6 +77,34 @@ private Q_SLOTS:
         }
     }
 
+    // Where there is no room beside a window its buttons stay free.
+    void coversNoButtons_data()
+    {
+        QTest::addColumn<bool>("right");
+        QTest::newRow("at the right edge") << true;
+        QTest::newRow("at the left edge") << false;
+    }
+    void coversNoButtons()
+    {
+        QFETCH(bool, right);
+        Bench bench;
+        QVERIFY(bench.start());
+        QDialog configuration;
+        configuration.setModal(true);
+        configuration.setGeometry(QGuiApplication::primaryScreen()->availableGeometry());
+        const QRect inside = configuration.rect();
+        for (const int y : {0, inside.center().y(), inside.bottom() - 20})
+            (new QPushButton(&configuration))->setGeometry(right ? inside.right() - 60 : 0, y, 60, 20);
+        configuration.show();
+        QTRY_VERIFY(configuration.isActiveWindow());
+        QTest::keyClick(&configuration, Qt::Key_F9);
+        QVERIFY(visibleFaults());
+        for (const QPushButton* button : configuration.findChildren<QPushButton*>())
+            if (button->window() == &configuration)
+                QVERIFY(
+                    !visibleFaults()->geometry().intersects({button->mapToGlobal(QPoint()), button->size()}));
+    }
+
     // What is no question to the tracker does not bring them up, nor does what came up after it.
     void faultsComeUninvitedForTheTrackerAlone()
     {

@@ -7,9 +7,13 @@
 
 #include <QAbstractButton>
 #include <QLabel>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QVBoxLayout>
+
+#include <algorithm>
+#include <vector>
 
 namespace workbench {
 
@@ -101,9 +105,24 @@ void FaultsWindow::place()
     const QRect room = owner.screen() ? owner.screen()->availableGeometry() : owner.frameGeometry();
     resizeWithin(this, size());
     const QPoint beside = owner.frameGeometry().topRight() + QPoint(1, 0);
-    // Over the owner it leaves free what stands at its upper and lower edge.
-    const QPoint over(room.right(), room.center().y() - height() / 2);
-    moveWithin(this, fitsBeside(owner) ? beside : over);
+    moveWithin(this, fitsBeside(owner) ? beside : freeCorner(room));
+}
+
+QPoint FaultsWindow::freeCorner(const QRect& room) const
+{
+    std::vector<QRect> buttons;
+    for (const QPushButton* button : parentWidget()->findChildren<QPushButton*>()) {
+        if (button->isVisible() && button->window() == parentWidget())
+            buttons.emplace_back(button->mapToGlobal(QPoint()), button->size());
+    }
+    const int right = room.right() + 1 - width();
+    const int bottom = room.bottom() + 1 - height();
+    const QPoint corners[] = {{right, bottom}, {room.left(), bottom}, {right, room.top()}, room.topLeft()};
+    return *std::ranges::min_element(corners, {}, [&](const QPoint& corner) {
+        return std::ranges::count_if(buttons, [place = QRect(corner, size())](const QRect& button) {
+            return place.intersects(button);
+        });
+    });
 }
 
 } // namespace workbench

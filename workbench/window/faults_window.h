@@ -27,8 +27,8 @@ public:
     // What is wrong with the tracker's answers at present; empty while all is well.
     void setTrouble(const QString& text);
     void retranslate();
-    // Shows it beside the owner, or at the edge of the screen where there is no room; with the keyboard, or
-    // leaving it where it is until the user clicks here.
+    // Shows it beside the owner, or where there is no room in the corner of the screen in which it covers the
+    // fewest buttons of the owner; with the keyboard, or leaving it where it is until the user clicks here.
     void comeUp(bool withKeyboard);
     // Whether there is room for it beside a window.
     bool fitsBeside(const QWidget& window) const;
@@ -40,6 +40,7 @@ public Q_SLOTS:
 private:
     void grow();
     void place();
+    QPoint freeCorner(const QRect& room) const;
 
     FaultsPanel* panel_;
     QLabel* trouble_;
