@@ -3,15 +3,21 @@
 #include "typing/kept_palette.h"
 
 #include <QDoubleSpinBox>
+#include <QLabel>
 #include <QLineEdit>
 
 namespace vlk {
+
+namespace {
+constexpr auto kIsPresent = "isPresentValue";
+}
 
 void standOut(QWidget* value, bool present)
 {
     QFont font = value->font();
     font.setWeight(present ? QFont::DemiBold : QFont::Normal);
     value->setFont(font);
+    value->setProperty(kIsPresent, present);
     auto* line = qobject_cast<QLineEdit*>(value);
     auto* box = qobject_cast<QAbstractSpinBox*>(value);
     if (line)
@@ -35,8 +41,23 @@ void showAsPresent(QWidget* value, bool present)
 
 void showAsOld(QWidget* value, bool old)
 {
-    const QPalette present = ofPresentValue({});
-    value->setPalette(old ? ofOldValue(present) : present);
+    if (qobject_cast<QLabel*>(value)) {
+        // Its palette may tell something of the value.
+        value->setForegroundRole(old ? QPalette::PlaceholderText : QPalette::NoRole);
+    } else if (value->inherits("QProgressBar")) {
+        value->setDisabled(old);
+    } else {
+        const QPalette present = ofPresentValue({});
+        value->setPalette(old ? ofOldValue(present) : present);
+    }
+}
+
+void showAllAsOld(const QWidget* among, bool old)
+{
+    for (QWidget* value : among->findChildren<QWidget*>()) {
+        if (value->property(kIsPresent).toBool())
+            showAsOld(value, old);
+    }
 }
 
 void showPresentValue(QDoubleSpinBox* box, double value)

@@ -16,6 +16,8 @@ void standOut(QWidget* value, bool present = true);
 void showAsPresent(QWidget* value, bool present = true);
 // One that holds no longer is grey.
 void showAsOld(QWidget* value, bool old);
+// All that stand out within a widget.
+void showAllAsOld(const QWidget* among, bool old);
 
 // A measured value, or a dash before the first one; the box holds its least value meanwhile.
 void showPresentValue(QDoubleSpinBox* box, double value);

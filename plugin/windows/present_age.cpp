@@ -4,6 +4,8 @@
 
 #include <QLabel>
 
+#include <utility>
+
 namespace vlk {
 
 PresentAge::PresentAge()
@@ -19,7 +21,7 @@ void PresentAge::setPeriod(int periodMs)
     if (periodMs > 0)
         due_.start();
     else
-        setOld(last_.isValid());
+        setOld(true);
 }
 
 void PresentAge::answered()
@@ -38,9 +40,10 @@ void PresentAge::clear()
 
 void PresentAge::setOld(bool isOld)
 {
-    isOld_ = isOld && last_.isValid();
+    const bool before = std::exchange(isOld_, isOld && last_.isValid());
     retranslate();
-    Q_EMIT changed();
+    if (isOld_ != before)
+        Q_EMIT changed();
 }
 
 void PresentAge::retranslate()

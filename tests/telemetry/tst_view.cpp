@@ -237,6 +237,48 @@ private Q_SLOTS:
         QCOMPARE(takeSent(), Messages{});
     }
 
+    // After two records that did not come; the step between two rounds of production brings none.
+    void oldValuesAreGrey_data()
+    {
+        DataTable<int, bool>({"mode", "old"}).row("observation", 0, true).row("production", 1, false);
+    }
+    void oldValuesAreGrey()
+    {
+        QFETCH(int, mode);
+        setMode(mode);
+        openAgain();
+        auto* box = child<QCheckBox>("checkBox_Get_Auto_TMI");
+        box->setChecked(true);
+        for (int i = 0; i < 4; ++i)
+            QMetaObject::invokeMethod(window, "slot_timeout_m_Timer_Auto_TMI");
+        sendRecord(numbered(5));
+        const auto isOld = [this] {
+            const auto* number = child<QLabel>("label_Event_NumPage_Value");
+            const auto* value = child<QStackedWidget>("stackedWidget")
+                                    ->currentWidget()
+                                    ->findChild<QLabel*>("label_Navi_Alt_Value");
+            const bool old = number->foregroundRole() == QPalette::PlaceholderText;
+            return old == (value->foregroundRole() == QPalette::PlaceholderText) &&
+                   old == text("label_Event_Since").startsWith("cfgt6_451") && old;
+        };
+        QVERIFY(!isOld());
+        QTest::qWait(2500);
+        QTEST(isOld(), "old");
+        QTRY_VERIFY(isOld());
+        const QImage grey = child<QLabel>("label_Event_NumPage_Value")->grab().toImage();
+        int darkest = 255;
+        for (int x = 0; x < grey.width(); ++x)
+            for (int y = 0; y < grey.height(); ++y)
+                darkest = std::min(darkest, qGray(grey.pixel(x, y)));
+        QVERIFY2(darkest > 80 && darkest < 180, qPrintable(QString::number(darkest)));
+        sendRecord(numbered(6));
+        QVERIFY(!isOld());
+        QTRY_VERIFY(isOld());
+        // A record that is not awaited is as old as it says.
+        box->setChecked(false);
+        QVERIFY(!isOld());
+    }
+
     void clearing()
     {
         const QByteArray answer = padded(numbered(1));

@@ -32,6 +32,7 @@ EventPanel::EventPanel(QWidget* parent)
       number_(makeValue(QStringLiteral("label_Event_NumPage_Value"))),
       timeText_(makeCaption(QStringLiteral("label_Event_DateTime_Text"))),
       time_(makeValue(QStringLiteral("label_Event_DateTime_Value"))),
+      since_(new ValueLabel(QStringLiteral("label_Event_Since"))),
       eventText_(makeCaption(QStringLiteral("label_Event_Code_Text"))),
       event_(makeValue(QStringLiteral("label_Event_Code_Value"))),
       stateText_(makeCaption(QStringLiteral("label_Event_State_Text"))),
@@ -52,6 +53,7 @@ EventPanel::EventPanel(QWidget* parent)
     grid->addWidget(number_, 0, 1);
     grid->addWidget(timeText_, 0, 2);
     grid->addWidget(time_, 0, 3);
+    grid->addWidget(since_, 0, 4);
     grid->addWidget(eventText_, 1, 0);
     grid->addWidget(event_, 1, 1, 1, 4);
     grid->addWidget(stateText_, 2, 0);
@@ -62,6 +64,7 @@ EventPanel::EventPanel(QWidget* parent)
     grid->setColumnMinimumWidth(1, number_->fontMetrics().horizontalAdvance(QStringLiteral("0000000000")));
     grid->setColumnMinimumWidth(3, widthOfTime(time_));
 
+    since_->setForegroundRole(QPalette::PlaceholderText);
     QPalette alarming = alarm_->palette();
     alarming.setColor(QPalette::WindowText, Qt::red);
     alarm_->setPalette(alarming);

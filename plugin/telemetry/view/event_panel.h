@@ -34,6 +34,8 @@ public:
     // Extra packets have no modes of their own.
     void setModesVisible(bool visible);
 
+    // For the time since when the record holds no longer.
+    QLabel* since() const { return since_; }
     // The number on show, 0 without one.
     quint32 number() const;
     void retranslate();
@@ -48,6 +50,7 @@ private:
     ValueLabel* number_;
     QLabel* timeText_;
     ValueLabel* time_;
+    QLabel* since_;
     QLabel* eventText_;
     ValueLabel* event_;
     QLabel* stateText_;

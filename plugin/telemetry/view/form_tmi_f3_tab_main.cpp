@@ -6,6 +6,7 @@
 #include "telemetry/view/item_display.h"
 #include "telemetry/view/position_rows.h"
 #include "typing/join_fields.h"
+#include "typing/present_value.h"
 #include "typing/typed_entry.h"
 
 #include <QAbstractSpinBox>
@@ -178,6 +179,7 @@ void VLK_Form_Tmi_F3_Tab_Main::addGsm()
     level_->setObjectName(QStringLiteral("progressBar_GSM_Level_Value"));
     level_->setRange(0, 100);
     level_->setValue(0);
+    standOut(level_);
     level_->setFormat({});
     level_->setAlignment(Qt::AlignCenter);
     levelShown_ = group->addRow("tmift1_020", level_);

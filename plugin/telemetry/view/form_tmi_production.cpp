@@ -7,6 +7,7 @@
 #include "telemetry/view/position_rows.h"
 #include "telemetry/view/value_label.h"
 #include "telemetry/view/value_width.h"
+#include "typing/present_value.h"
 #include "typing/title_style.h"
 
 #include <QGridLayout>
@@ -91,6 +92,7 @@ VLK_Form_TMI_Production::VLK_Form_TMI_Production(vlk::EventPanel* panel, QWidget
     level_->setObjectName(QStringLiteral("progressBar_GSM_Level_Value"));
     level_->setRange(0, 100);
     level_->setValue(0);
+    standOut(level_);
     level_->setFormat(kLevelFormat);
     modem->addWidget(levelText_, modem->rowCount(), 0);
     levelShown_ = new DashedValue(level_);

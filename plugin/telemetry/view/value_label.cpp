@@ -122,10 +122,11 @@ void ValueLabel::paintEvent(QPaintEvent* event)
     const QString shown = isAbsent() ? QString(kAbsentMark)
                           : fits()   ? text()
                                      : fontMetrics().elidedText(text(), Qt::ElideRight, width());
-    if (isAbsent())
-        painter.setOpacity(0.5);
-    style()->drawItemText(&painter, rect(), static_cast<int>(alignment()), palette(), isEnabled(), shown,
-                          foregroundRole());
+    const QPalette::ColorRole role = isAbsent() ? QPalette::PlaceholderText : foregroundRole();
+    // A style may leave that colour without a brush to paint with.
+    QPalette colours = palette();
+    colours.setColor(role, colours.color(role));
+    style()->drawItemText(&painter, rect(), static_cast<int>(alignment()), colours, isEnabled(), shown, role);
 }
 
 } // namespace vlk

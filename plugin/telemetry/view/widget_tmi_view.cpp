@@ -39,7 +39,7 @@ VLK_Widget_Tmi_View::VLK_Widget_Tmi_View(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
       ui_(setUpViewUi(this)), eventPanel_(new vlk::EventPanel(this)),
       notices_(new vlk::NoticeBar(this, QStringLiteral("label_SavedInPart"))),
-      pages_(ui_->stackedWidget, eventPanel_), automatic_(this),
+      pages_(ui_->stackedWidget, eventPanel_), automatic_(age_, this),
       clearing_({ui_->checkBox_Server1, ui_->checkBox_Server2, ui_->checkBox_Server3}), save_(this, *ui_),
       equipment_(this), times_(*ui_), functions_(*ui_, this)
 {
@@ -55,6 +55,12 @@ VLK_Widget_Tmi_View::VLK_Widget_Tmi_View(QWidget* parent)
     ui_->lineEdit_TM->setPlaceholderText(kAbsentMark);
     ui_->lineEdit_RFID->setPlaceholderText(kAbsentMark);
     ui_->spinBox_RFID->setSpecialValueText(QStringLiteral(" ")); // beside the dash of the number
+    age_.tellIn(eventPanel_->since());
+    connect(&age_, &vlk::PresentAge::changed, this, [this] {
+        for (const QWidget* values :
+             {static_cast<QWidget*>(eventPanel_), static_cast<QWidget*>(ui_->stackedWidget)})
+            showAllAsOld(values, age_.isOld());
+    });
     connectControls();
     keepOnScreen(this);
     connect(eventPanel_, &vlk::EventPanel::signal_OperatingMode, this, &VLK_Widget_Tmi_View::setGuardButtons);
@@ -233,6 +239,7 @@ void VLK_Widget_Tmi_View::takeRecord(const QByteArray& record)
     const std::optional<quint32> number = pages_.showRecord(record);
     if (!number)
         return;
+    age_.answered();
     highestNumber_ = std::max(highestNumber_, *number);
     ui_->pushButton_Get_Next->setEnabled(*number < highestNumber_);
     ui_->pushButton_Get_Prev->setEnabled(*number != 0);
@@ -300,6 +307,7 @@ void VLK_Widget_Tmi_View::retranslate()
     notices_->retranslate();
     save_.retranslate();
     pages_.retranslate();
+    age_.retranslate();
     times_.retranslate();
     equipment_.retranslate();
 }

@@ -16,6 +16,7 @@
 #include "telemetry/view/save_sequence.h"
 #include "telemetry/view/tracker_setup.h"
 #include "telemetry/view/zoned_times.h"
+#include "windows/present_age.h"
 
 #include <QDialog>
 #include <QPointer>
@@ -133,6 +134,7 @@ private:
     vlk::EventPanel* eventPanel_;
     vlk::NoticeBar* notices_;
     vlk::RecordStack pages_;
+    vlk::PresentAge age_; // of the record on show, while records are requested automatically
     vlk::AutomaticRequests automatic_;
     vlk::ClearingSequence clearing_;
     vlk::SaveSequence save_;
