@@ -89,6 +89,8 @@ void TankPanel::refresh()
     litres_->setText(text("wb_tank_litres").arg(litres, 0, 'f', 0));
     reading_->setText(text(tank.analogue ? "wb_tank_volts" : "wb_tank_code")
                           .arg(tracker_.fuelReading(chosen()), 0, 'f', 0));
+    for (QLabel* label : {shape_, litres_, reading_})
+        label->setToolTip(label->text());
 }
 
 void TankPanel::changeEvent(QEvent* event)
