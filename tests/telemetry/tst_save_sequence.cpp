@@ -150,6 +150,10 @@ private Q_SLOTS:
         QCOMPARE(filter_, QString("tmiw_181 (*.tmi)"));
         QCOMPARE(readFile(file_).mid(128),
                  QByteArray("\x2c\0", 2) + record(7) + QByteArray("\x2c\0", 2) + record(8));
+        const QString noName = folder.filePath("absent.xml");
+        host.send(Message::OpenTelemetry, &noName);
+        startSave(7, 8);
+        QVERIFY2(proposed_.startsWith("text two 20"), qPrintable(proposed_));
     }
 
     void progressAndCancel()

@@ -12,6 +12,8 @@ struct TrackerSetup
     QString objectName = QStringLiteral("NONAME");
     QString balanceUssd;
     TelemetryTitles titles;
+
+    bool isNamed() const { return !objectName.isEmpty() && objectName != TrackerSetup().objectName; }
 };
 
 // Reads the file at `path` over `setup`: the vehicle and the balance request are as the file says, or none;

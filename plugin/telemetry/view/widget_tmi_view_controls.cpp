@@ -185,9 +185,12 @@ void VLK_Widget_Tmi_View::startSave(vlk::SaveSequence::Mode mode)
         origin = {vlkDevice->model(), vlkDevice->vendor(), vlkDevice->trackerId1(), 0, {}};
     origin.timeOffset = times_.offset();
     origin.titles = setup_.titles;
-    save_.start(mode, times_.utc(*ui_->dateTimeEdit_First), times_.utc(*ui_->dateTimeEdit_Last), origin,
-                periodFileName(setup_.objectName, ui_->dateTimeEdit_First->dateTime(),
-                               ui_->dateTimeEdit_Last->dateTime()));
+    // Of a vehicle without a name the tracker's number tells whose period it is.
+    const QString vehicle =
+        setup_.isNamed() || vlkDevice == nullptr ? setup_.objectName : vlkDevice->trackerId2();
+    save_.start(
+        mode, times_.utc(*ui_->dateTimeEdit_First), times_.utc(*ui_->dateTimeEdit_Last), origin,
+        periodFileName(vehicle, ui_->dateTimeEdit_First->dateTime(), ui_->dateTimeEdit_Last->dateTime()));
 }
 
 void VLK_Widget_Tmi_View::slot_stateChanged_GetAutoTmi(int state)
