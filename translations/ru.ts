@@ -1912,7 +1912,7 @@
     <message id="tmiw_279"><translation>Сначала отметьте флажок строки.</translation></message>
     <message id="tmiw_280"><translation>Имя есть только у датчиков, которые трекер находит по имени.</translation></message>
     <message id="tmiw_290"><translation>Нет ответа с %1</translation></message>
-    <message id="tmiw_291"><translation>Залейте известный объём, введите его выше и нажмите +. Точки можно и вставить.</translation></message>
+    <message id="tmiw_291"><translation>Налейте известный объём, введите его выше и нажмите +. Точки можно и вставить.</translation></message>
     <message id="tmiw_292"><translation>Телеметрия закрыта, поэтому показаний нет. Подключите трекер и откройте телеметрию, чтобы продолжить.</translation></message>
     <message id="tmizta_001"><translation>Режим тестирования</translation></message>
     <message id="tmizta_002"><translation>Резервный</translation></message>

@@ -336,6 +336,9 @@ void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Del()
     if (!vlk::agrees(this, tr("cfgt6_050"), "wrd_002"))
         return;
     ui_->tableWidget->removeMarked();
+    // Not to the button that clears all.
+    if (window()->focusWidget() == ui_->pushButton_Del)
+        ui_->tableWidget->setFocus();
     ui_->pushButton_Del->setEnabled(false);
     const bool anyLeft = ui_->tableWidget->rowCount() > 0;
     ui_->pushButton_Clear->setEnabled(anyLeft);

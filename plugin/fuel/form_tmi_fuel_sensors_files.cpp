@@ -88,11 +88,15 @@ void VLK_Form_TMI_Fuel_Sensors::tellNoLink(bool isLost)
 
 void VLK_Form_TMI_Fuel_Sensors::openSave()
 {
-    const VLK_Form_Fuel_Sensor* form = currentForm();
+    VLK_Form_Fuel_Sensor* form = currentForm();
     if (!form)
         return;
     const bool isInBar = form->isEdited() && bar_->isOnShow(kEdited);
-    ui_->pushButton_Save_Xml->setEnabled(form->isDirty() || (form->isEdited() && !isInBar));
+    const bool mayPress = form->isDirty() || (form->isEdited() && !isInBar);
+    // A key that is pressed once more must not get to the button that comes next.
+    if (!mayPress && focusWidget() == ui_->pushButton_Save_Xml)
+        form->setFocus();
+    ui_->pushButton_Save_Xml->setEnabled(mayPress);
     ui_->pushButton_Save_Xml->setToolTip(isInBar ? tr("tmiw_268") : QString());
 }
 

@@ -78,7 +78,9 @@ private Q_SLOTS:
         press("pushButton_Del");
         QCOMPARE(table->rowCount(), 3);
         answerBox("wrd_001");
+        child<QWidget>("pushButton_Del")->setFocus();
         press("pushButton_Del");
+        QVERIFY(window->focusWidget() == table);
         QCOMPARE(rows(), QString("20=200 30.5=300"));
         QVERIFY(!isOn("pushButton_Del") && isOn("pushButton_Clear"));
         answerBox("wrd_001");

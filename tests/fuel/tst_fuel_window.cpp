@@ -121,7 +121,9 @@ private Q_SLOTS:
         QString proposed;
         const QString path = folder.filePath("saved.xml");
         writeFile(path, "no document");
+        fuel_.child<QWidget>("pushButton_Save_Xml")->setFocus();
         saveTo("pushButton_Save_Xml", path, &proposed);
+        QVERIFY(fuel_.window->focusWidget() == field("A3", "lineEdit_Volume"));
         static const QRegularExpression name(
             "/A3-Truck 7\\(\\d{4}-\\d\\d-\\d\\d \\d\\d_\\d\\d_\\d\\d\\)\\.xml$");
         QVERIFY2(name.match(proposed).hasMatch() && proposed.startsWith(folder.path()), qPrintable(proposed));

@@ -177,6 +177,10 @@ private Q_SLOTS:
             QCOMPARE(isOn("pushButton_Get_Next"), next);
         }
         sendRecord(numbered(4));
+        child<QWidget>("pushButton_Get_Next")->setFocus();
+        sendRecord(numbered(6));
+        QCOMPARE(window->focusWidget(), window);
+        sendRecord(numbered(4));
         press("pushButton_Get_Prev");
         QCOMPARE(number_, 3U);
         press("pushButton_Get_Next");
@@ -265,11 +269,10 @@ private Q_SLOTS:
         QTest::qWait(2500);
         QTEST(isOld(), "old");
         QTRY_VERIFY(isOld());
-        const QImage grey = child<QLabel>("label_Event_NumPage_Value")->grab().toImage();
-        int darkest = 255;
-        for (int x = 0; x < grey.width(); ++x)
-            for (int y = 0; y < grey.height(); ++y)
-                darkest = std::min(darkest, qGray(grey.pixel(x, y)));
+        const QImage grey =
+            child("label_Event_NumPage_Value")->grab().toImage().convertToFormat(QImage::Format_RGB32);
+        const auto* pixels = reinterpret_cast<const QRgb*>(grey.constBits());
+        const int darkest = qGray(*std::min_element(pixels, pixels + grey.width() * grey.height()));
         QVERIFY2(darkest > 80 && darkest < 180, qPrintable(QString::number(darkest)));
         sendRecord(numbered(6));
         QVERIFY(!isOld());

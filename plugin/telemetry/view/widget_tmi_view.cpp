@@ -241,8 +241,13 @@ void VLK_Widget_Tmi_View::takeRecord(const QByteArray& record)
         return;
     age_.answered();
     highestNumber_ = std::max(highestNumber_, *number);
-    ui_->pushButton_Get_Next->setEnabled(*number < highestNumber_);
-    ui_->pushButton_Get_Prev->setEnabled(*number != 0);
+    for (const auto& [button, leads] : {std::pair(ui_->pushButton_Get_Next, *number < highestNumber_),
+                                        {ui_->pushButton_Get_Prev, *number != 0}}) {
+        // A key that is pressed once more must not walk back, nor get into the date.
+        if (!leads && focusWidget() == button)
+            setFocus();
+        button->setEnabled(leads);
+    }
     Q_EMIT recordShown(record, *number);
 }
 
