@@ -13,7 +13,8 @@ bool isListed(std::string_view codes, const Text& code)
 {
     for (;;) {
         const std::size_t end = std::min(codes.find('|'), codes.size());
-        if (QLatin1String(codes.data(), static_cast<int>(end)) == code)
+        const auto size = static_cast<int>(end);
+        if (size == code.size() && QLatin1String(codes.data(), size) == code)
             return true;
         if (end == codes.size())
             return false;

@@ -50,10 +50,8 @@ std::vector<int> tiedTo(const TableLayout& layout, int row)
         tie({rule.first.row, rule.second.row, rule.gapFrom.row});
     for (const RangeWhen& rule : layout.table->all<RangeWhen>())
         tie({rule.path.row, rule.when.row});
-    for (const ExclusiveChoice& rule : layout.table->all<ExclusiveChoice>()) {
-        if (layout.rows[row].isOf(rule))
-            rows.push_back(rule.path.row);
-    }
+    for (const ExclusiveChoice* sharer : layout.rows[row].sharers)
+        rows.push_back(sharer->path.row);
     return rows;
 }
 

@@ -11,10 +11,11 @@ namespace {
 void addRows(TableLayout& layout)
 {
     QString elementName;
+    QString elementPlace;
     for (const Setting& setting : layout.table->rows) {
         const RowBase& base = setting.base();
         const QString key = numberedName(base.key, base.numbers);
-        const QString name = numberedName(base.pathName(), base.numbers);
+        const QString name = base.name ? numberedName(base.name, base.numbers) : key;
         const int place = static_cast<int>(layout.rows.size());
         if (const auto* group = setting.as<Group>()) {
             const QStringList path = key.split(QLatin1Char('/'));
@@ -22,22 +23,24 @@ void addRows(TableLayout& layout)
                 above.nested = above.nested || above.path == path.mid(0, path.size() - 1);
             layout.elements.push_back({group, path, false, false, place, place});
             elementName = name + QLatin1Char('/');
+            elementPlace = layout.prefix() + key + QLatin1Char('/');
             continue;
         }
         TableLayout::Element& element = layout.elements.back();
         element.endRow = place + 1;
         element.stored = element.stored || base.stored;
         const auto* link = setting.as<Link>();
+        layout.rows.push_back({.setting = &setting,
+                               .base = &base,
+                               .path = elementName + name,
+                               .filePath = elementPlace + key,
+                               .key = key,
+                               .group = static_cast<int>(layout.elements.size()) - 1,
+                               .target = link ? link->target.row : place});
         if (const auto* text = setting.as<Text>(); text && text->load.follows())
             layout.following.push_back(place);
-        layout.rows.push_back(
-            {.setting = &setting,
-             .base = &base,
-             .path = elementName + name,
-             .filePath = layout.prefix() + element.path.join(QLatin1Char('/')) + QLatin1Char('/') + key,
-             .key = key,
-             .group = static_cast<int>(layout.elements.size()) - 1,
-             .target = link ? link->target.row : place});
+        else
+            layout.rows.back().load = loadDefault(setting);
         layout.byPath.insert(layout.rows.back().path, place);
     }
 }
@@ -86,8 +89,12 @@ void addRules(TableLayout& layout)
         add(&Row::distances, &rule, rule.first.row, rule.second.row, rule.gapFrom.row);
     for (const Presets& rule : layout.table->all<Presets>())
         add(&Row::presets, &rule, rule.trigger.row);
-    for (const ExclusiveChoice& rule : layout.table->all<ExclusiveChoice>())
-        add(&Row::lists, rule.listHash, rule.path.row, rule.when.row, rule.also.row, rule.split.row);
+    for (const ExclusiveChoice& sharer : layout.table->all<ExclusiveChoice>()) {
+        for (const ExclusiveChoice& rule : layout.table->all<ExclusiveChoice>()) {
+            if (rule.listHash == sharer.listHash)
+                add(&Row::sharers, &sharer, rule.path.row, rule.when.row, rule.also.row, rule.split.row);
+        }
+    }
 }
 
 } // namespace

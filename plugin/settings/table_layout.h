@@ -24,15 +24,16 @@ struct TableLayout
         QString key;
         int group = -1;                           // its element
         int target = -1;                          // row of the value: of a link another one, else this one
+        QString load{};                           // its load default; null where that follows the language
         std::vector<const Sets*> sets{};          // that its edits or reads run
         std::vector<const Sets*> saves{};         // that a save asks
         std::vector<const RangeWhen*> ranges{};   // that say what it can be
         std::vector<const RangeWhen*> follows{};  // whose ranges follow its value
         std::vector<const Distance*> distances{}; // in which it is a value or the gap
         std::vector<const Presets*> presets{};    // that it triggers
-        std::vector<std::uint64_t> lists{};       // shared ones in which its value counts for who holds what
+        std::vector<const ExclusiveChoice*> sharers{}; // of lists in which it counts for who holds what
 
-        bool isOf(const ExclusiveChoice& rule) const { return std::ranges::count(lists, rule.listHash) > 0; }
+        QString loadDefault() const { return load.isNull() ? vlk::loadDefault(*setting) : load; }
     };
 
     struct Element

@@ -16,7 +16,7 @@ Values::Values(const SettingsTable& table) : layout_(&layoutOf(table))
     std::vector<QString>& made = known[{&table, texts}];
     if (made.empty()) {
         for (int row = 0; row < count(); ++row)
-            values_.push_back(loadDefault(setting(row)));
+            values_.push_back(layout_->rows[row].loadDefault());
         reset();
         made = values_;
     }
@@ -73,11 +73,9 @@ Limits Values::limits(int row) const
 {
     row = holder(row);
     Limits limits = ownLimits(row);
-    if (layout_->rows[row].lists.empty())
-        return limits;
-    for (const ExclusiveChoice& sharer : table().all<ExclusiveChoice>()) {
-        if (sharer.path.row == row)
-            limits.taken = takenFrom(sharer);
+    for (const ExclusiveChoice* sharer : layout_->rows[row].sharers) {
+        if (sharer->path.row == row)
+            limits.taken = takenFrom(*sharer);
     }
     return limits;
 }
@@ -143,7 +141,7 @@ void Values::reset()
 void Values::beginRead()
 {
     for (const int row : layout_->anew)
-        values_[row] = normalised(row, loadDefault(setting(row)), limits(row));
+        values_[row] = normalised(row, layout_->rows[row].loadDefault(), limits(row));
     for (const Distance& rule : table().all<Distance>()) {
         if (rule.gapFrom)
             values_[rule.gapFrom.row] = QStringLiteral("0");
@@ -159,7 +157,7 @@ void Values::takeKey(int row, const std::optional<QString>& text, bool hasElemen
     const QString missing = text ? QString()
                             : link && !hasElement && link->withoutElement >= 0
                                 ? QString::number(link->withoutElement)
-                                : loadDefault(*place.setting);
+                                : place.loadDefault();
     // A link gives its value to another row, which says what the value can be.
     const int target = place.target;
     const QString before = values_[target];

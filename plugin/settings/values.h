@@ -77,8 +77,7 @@ private:
     bool holdsToo(const ExclusiveChoice& rule) const { return holds(rule.when) && holds(rule.also); }
     // Whatever other settings of a shared list hold.
     Limits ownLimits(int row) const;
-    // Whether what `other` holds is gone from the list of `sharer`.
-    bool takes(const ExclusiveChoice& other, const ExclusiveChoice& sharer) const;
+    // What others hold.
     QStringList takenFrom(const ExclusiveChoice& sharer) const;
     QString normalised(int row, const QString& text, const Limits& limits,
                        Source source = Source::file) const;

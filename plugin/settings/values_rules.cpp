@@ -112,24 +112,17 @@ void Values::assign(int row, const QString& value, Changes* changed)
         if (rule->startsOver)
             put(list, offeredCode(*choice(list), limits(list)), changed);
     }
-    for (const ExclusiveChoice& sharer : table().all<ExclusiveChoice>()) {
-        if (place.isOf(sharer))
-            keepShared(sharer, row, before, changed);
-    }
-}
-
-bool Values::takes(const ExclusiveChoice& other, const ExclusiveChoice& sharer) const
-{
-    return other.listHash == sharer.listHash && other.holderHash != sharer.holderHash &&
-           value(other.split.row) == value(sharer.split.row) && holdsToo(other);
+    for (const ExclusiveChoice* sharer : place.sharers)
+        keepShared(*sharer, row, before, changed);
 }
 
 QStringList Values::takenFrom(const ExclusiveChoice& sharer) const
 {
     QStringList taken;
-    for (const ExclusiveChoice& other : table().all<ExclusiveChoice>()) {
-        if (takes(other, sharer))
-            taken << values_[other.path.row];
+    for (const ExclusiveChoice* other : layout_->rows[sharer.path.row].sharers) {
+        if (other->listHash == sharer.listHash && other->holderHash != sharer.holderHash &&
+            holdsToo(*other) && value(other->split.row) == value(sharer.split.row))
+            taken << values_[other->path.row];
     }
     return taken;
 }

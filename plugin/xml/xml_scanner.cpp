@@ -1,5 +1,7 @@
 #include "xml/xml_scanner.h"
 
+#include <algorithm>
+
 namespace vlk {
 
 namespace {
@@ -17,8 +19,10 @@ bool isQuote(QChar sign)
 
 bool endsName(QChar sign)
 {
-    return isSpace(sign) || sign == QLatin1Char('=') || sign == QLatin1Char('/') ||
-           sign == QLatin1Char('>') || sign == QLatin1Char('<');
+    // Letters lie behind all of these.
+    return sign <= QLatin1Char('>') &&
+           (isSpace(sign) || sign == QLatin1Char('=') || sign == QLatin1Char('/') ||
+            sign == QLatin1Char('>') || sign == QLatin1Char('<'));
 }
 
 } // namespace
@@ -84,11 +88,9 @@ void XmlScanner::skipSpace()
 
 TextSpan XmlScanner::scanName()
 {
-    TextSpan name{at_, at_};
-    while (at_ < text_.size() && !endsName(text_[at_]))
-        ++at_;
-    name.end = at_;
-    return name;
+    const int begin = at_;
+    at_ = static_cast<int>(std::find_if(text_.begin() + begin, text_.end(), endsName) - text_.begin());
+    return {begin, at_};
 }
 
 // Up to the end of the tag, or to where the next one begins.

@@ -23,7 +23,7 @@ bool isAlwaysWrong(const PresetProblem& problem)
     const vlk::review::FileKey& place = FileKeys::all()[key];
     const bool follows = std::ranges::any_of(place.rows, [&](int row) {
         const vlk::TableLayout::Row& setting = FileKeys::all().layout(place.table).rows[row];
-        return !setting.ranges.empty() || !setting.lists.empty() || !setting.distances.empty();
+        return !setting.ranges.empty() || !setting.sharers.empty() || !setting.distances.empty();
     });
     return problem.what == What::badValue && problem.change != Change::byRule && !follows;
 }

@@ -268,10 +268,8 @@ void Binder::edited(int row, const QString& value)
         for (const int other : changed) {
             for (const RangeWhen* rule : layout_.rows[other].follows)
                 dressRanged(rule->path.row);
-            for (const ExclusiveChoice& rule : values_.table().all<ExclusiveChoice>()) {
-                if (layout_.rows[other].isOf(rule))
-                    dressRanged(rule.path.row);
-            }
+            for (const ExclusiveChoice* sharer : layout_.rows[other].sharers)
+                dressRanged(sharer->path.row);
         }
         for (const int other : changed) {
             if (other != row)
