@@ -31,64 +31,64 @@ constexpr Text textOf(std::initializer_list<std::string_view> parts)
 template <std::size_t i>
 struct Names
 {
-    static constexpr const BluetoothSensorType& type = kBluetoothSensorTypes[i];
-    static constexpr bool hasIndex = type.index.list != BluetoothList::none;
+    static constexpr const BluetoothSensorType& kType = kBluetoothSensorTypes[i];
+    static constexpr bool kHasIndex = kType.index.list != BluetoothList::none;
 
-    static constexpr Path typePath{type.section, "type"};
-    static constexpr Path indexPath{type.index.elsewhere ? type.index.elsewhere : type.section, "idx"};
+    static constexpr Path kTypePath{kType.section, "type"};
+    static constexpr Path kIndexPath{kType.index.elsewhere ? kType.index.elsewhere : kType.section, "idx"};
 
-    static constexpr auto vendorNumbers = [] {
-        std::array<std::array<char, 2>, type.vendors.size()> numbers{};
+    static constexpr auto kVendorNumbers = [] {
+        std::array<std::array<char, 2>, kType.vendors.size()> numbers{};
         for (std::size_t n = 0; n < numbers.size(); ++n)
             numbers[n][0] = static_cast<char>('0' + n);
         return numbers;
     }();
-    static constexpr auto vendors = [] {
-        std::array<Code, type.vendors.size()> codes{};
+    static constexpr auto kVendors = [] {
+        std::array<Code, kType.vendors.size()> codes{};
         for (std::size_t n = 0; n < codes.size(); ++n)
-            codes[n] = {.code = vendorNumbers[n].data(),
-                        .label = type.vendors[n].name,
-                        .offered = type.vendors[n].offered};
+            codes[n] = {.code = kVendorNumbers[n].data(),
+                        .label = kType.vendors[n].name,
+                        .offered = kType.vendors[n].offered};
         return codes;
     }();
     // "1|2": those whose value takes a number, where not all do.
-    static constexpr Text indexedVendors = [] {
+    static constexpr Text kIndexedVendors = [] {
         Text text{};
         std::size_t size = 0;
-        for (std::size_t n = 0; n < type.vendors.size(); ++n) {
-            if (!type.vendors[n].indexed)
+        for (std::size_t n = 0; n < kType.vendors.size(); ++n) {
+            if (!kType.vendors[n].indexed)
                 continue;
             if (size > 0)
                 text[size++] = '|';
-            text[size++] = vendorNumbers[n][0];
+            text[size++] = kVendorNumbers[n][0];
         }
         return text;
     }();
-    static constexpr bool allIndexed = [] {
-        for (const BluetoothVendor& vendor : type.vendors) {
+    static constexpr bool kAllIndexed = [] {
+        for (const BluetoothVendor& vendor : kType.vendors) {
             if (!vendor.indexed)
                 return false;
         }
         return true;
     }();
-    static constexpr When indexed = allIndexed ? When{} : when(typePath, indexedVendors.data());
+    static constexpr When kIndexed = kAllIndexed ? When{} : when(kTypePath, kIndexedVendors.data());
 
-    static constexpr auto indexFormats = [] {
-        std::array<Text, type.index.known> formats{};
+    static constexpr auto kIndexFormats = [] {
+        std::array<Text, kType.index.known> formats{};
         for (std::size_t n = 0; n < formats.size(); ++n) {
-            const universal::NumberText& number = universal::numberTexts[n];
-            formats[n] = textOf({"%1 ", type.index.known > 9 ? number.label : number.code});
+            const universal::NumberText& number = universal::kNumberTexts[n];
+            formats[n] = textOf({"%1 ", kType.index.known > 9 ? number.label : number.code});
         }
         return formats;
     }();
     // A file may ask for no number at all.
-    static constexpr auto indices = [] {
-        std::array<Code, type.index.known + 1> codes{};
-        for (std::size_t n = 0; n < indexFormats.size(); ++n)
-            codes[n] = {.code = universal::numberTexts[n].code,
-                        .label = type.index.text,
-                        .format = indexFormats[n].data(),
-                        .offered = static_cast<int>(n) < type.index.offered};
+    static constexpr auto kIndices = [] {
+        std::array<Code, kType.index.known + 1> codes{};
+        for (std::size_t n = 0; n < kIndexFormats.size(); ++n)
+            codes[n] = {.code = universal::kNumberTexts[n].code,
+                        .label = kType.index.text,
+                        .format = kIndexFormats[n].data(),
+                        .offered = static_cast<int>(n) < kType.index.offered};
         codes.back() = {.code = "-1", .offered = false};
         return codes;
     }();
@@ -98,12 +98,12 @@ template <std::size_t i>
 constexpr Choice indexRow()
 {
     using Type = Names<i>;
-    return choice("idx", Type::indices, "1")
+    return choice("idx", Type::kIndices, "1")
         .byNumber()
         .unknownIs("1")
         .ifUnoffered(Unoffered::keepsValue)
-        .in({Type::type.section, Type::type.index.widget})
-        .caption(Type::type.index.caption);
+        .in({Type::kType.section, Type::kType.index.widget})
+        .caption(Type::kType.index.caption);
 }
 
 // The element of a type, there while the value at `owner` is the type's code.
@@ -111,38 +111,38 @@ template <std::size_t i>
 constexpr auto rowsOfType(Path owner)
 {
     using Type = Names<i>;
-    const When chosen = when(owner, Type::type.code);
-    if constexpr (!Type::type.vendorWidget) {
+    const When chosen = when(owner, Type::kType.code);
+    if constexpr (!Type::kType.vendorWidget) {
         return universal::rows(chosen);
     } else {
-        const Choice vendor = choice("type", Type::vendors, "0")
+        const Choice vendor = choice("type", Type::kVendors, "0")
                                   .byNumber()
                                   .unknownIs("0")
                                   .ifUnoffered(Unoffered::keepsValue)
-                                  .in({Type::type.section, Type::type.vendorWidget})
-                                  .caption(Type::type.vendorCaption);
+                                  .in({Type::kType.section, Type::kType.vendorWidget})
+                                  .caption(Type::kType.vendorCaption);
         constexpr auto more = [] {
-            std::array<Setting, Type::type.more.size()> rows{};
-            std::copy(Type::type.more.begin(), Type::type.more.end(), rows.begin());
+            std::array<Setting, Type::kType.more.size()> rows{};
+            std::copy(Type::kType.more.begin(), Type::kType.more.end(), rows.begin());
             return rows;
         }();
-        const Group own = group(Type::type.section).onlyWhen(chosen);
-        if constexpr (!Type::hasIndex) {
+        const Group own = group(Type::kType.section).onlyWhen(chosen);
+        if constexpr (!Type::kHasIndex) {
             return rowsOf(own, vendor, more);
-        } else if constexpr (!Type::type.index.elsewhere) {
+        } else if constexpr (!Type::kType.index.elsewhere) {
             return rowsOf(own, vendor, indexRow<i>(), more);
         } else {
             const Group beside = group("TS%1")
-                                     .named(Type::type.index.elsewhere)
+                                     .named(Type::kType.index.elsewhere)
                                      .atSave(ElementSave::anewIfAny)
                                      .onlyWhen(chosen);
             constexpr auto constants = [] {
-                std::array<Setting, Type::type.index.withType> rows{};
+                std::array<Setting, Type::kType.index.withType> rows{};
                 std::fill(rows.begin(), rows.end(), constant("type", "0"));
                 return rows;
             }();
             // Whether it counts is known when the vendor has been read.
-            return rowsOf(beside, constants, indexRow<i>().onlyWhen(Type::indexed).readLast(), own, vendor,
+            return rowsOf(beside, constants, indexRow<i>().onlyWhen(Type::kIndexed).readLast(), own, vendor,
                           more);
         }
     }
@@ -172,7 +172,10 @@ constexpr auto typeCodes(bool (*isListed)(const BluetoothSensorType&))
     return codes;
 }
 
-constexpr auto hasText = [](const BluetoothSensorType& type) { return type.text != nullptr; };
+constexpr bool hasText(const BluetoothSensorType& type)
+{
+    return type.text;
+}
 // A file may name any type that has a text; those of the list are offered.
 inline constexpr auto kTypeCodes =
     typeCodes<std::count_if(std::begin(kBluetoothSensorTypes), std::end(kBluetoothSensorTypes), hasText)>(
@@ -196,7 +199,7 @@ template <std::size_t... types>
 constexpr auto sensorRows(std::index_sequence<types...>)
 {
     return rowsOf(
-        group("SENS%1"), universal::sensor,
+        group("SENS%1"), universal::kSensor,
         choice("type", kTypeCodes, "0")
             .byNumber()
             .unknownIs("0")

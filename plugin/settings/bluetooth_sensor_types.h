@@ -66,69 +66,72 @@ namespace bluetooth {
 using enum userParamType;
 
 template <userParamType... types>
-inline constexpr userParamType supplied[] = {types...};
+inline constexpr userParamType kSupplied[] = {types...};
 
-inline constexpr BluetoothVendor fuelLevel[] = {
-    {.name = "ESCORT TD", .supplies = supplied<link, signalLevel, battery>, .needsName = true, .named = true},
-    {.name = "GL-TV", .supplies = supplied<link, signalLevel>},
-    {.name = "TECHNOTON DUT E", .supplies = supplied<link, signalLevel, state>},
+inline constexpr BluetoothVendor kFuelLevel[] = {
+    {.name = "ESCORT TD",
+     .supplies = kSupplied<link, signalLevel, battery>,
+     .needsName = true,
+     .named = true},
+    {.name = "GL-TV", .supplies = kSupplied<link, signalLevel>},
+    {.name = "TECHNOTON DUT E", .supplies = kSupplied<link, signalLevel, state>},
     {.name = "MECHATRONICS DOMINATOR",
-     .supplies = supplied<link, signalLevel, battery>,
-     .withdraws = supplied<link, signalLevel, state, battery>},
+     .supplies = kSupplied<link, signalLevel, battery>,
+     .withdraws = kSupplied<link, signalLevel, state, battery>},
     {.name = "MIELTA FANTOM",
-     .supplies = supplied<link, signalLevel, state, battery, tilt>,
+     .supplies = kSupplied<link, signalLevel, state, battery, tilt>,
      .needsName = true,
      .named = true},
 };
 
-inline constexpr BluetoothVendor temperature[] = {
-    {.name = "ADM31/35", .supplies = supplied<light, battery, signalLevel, state, link>},
+inline constexpr BluetoothVendor kTemperature[] = {
+    {.name = "ADM31/35", .supplies = kSupplied<light, battery, signalLevel, state, link>},
     {.name = "ESCORT TL",
-     .supplies = supplied<light, battery, signalLevel, link>,
+     .supplies = kSupplied<light, battery, signalLevel, link>,
      .needsName = true,
      .named = true},
-    {.name = "TZ-BT04", .supplies = supplied<battery, signalLevel, state, link>},
-    {.name = "ELA T/RHT", .supplies = supplied<signalLevel, link>, .named = true, .offered = false},
+    {.name = "TZ-BT04", .supplies = kSupplied<battery, signalLevel, state, link>},
+    {.name = "ELA T/RHT", .supplies = kSupplied<signalLevel, link>, .named = true, .offered = false},
 };
 
-inline constexpr BluetoothVendor tiltAngle[] = {
-    {.name = "ADM32", .supplies = supplied<link, signalLevel, state, battery, tilt>, .indexed = false},
+inline constexpr BluetoothVendor kTiltAngle[] = {
+    {.name = "ADM32", .supplies = kSupplied<link, signalLevel, state, battery, tilt>, .indexed = false},
     {.name = "ESCORT DU",
-     .supplies = supplied<link, signalLevel, state, battery, tilt>,
+     .supplies = kSupplied<link, signalLevel, state, battery, tilt>,
      .needsName = true,
      .named = true},
-    {.name = "GNOM DP", .supplies = supplied<link, signalLevel, state, tilt>},
+    {.name = "GNOM DP", .supplies = kSupplied<link, signalLevel, state, tilt>},
     {.name = "MECHATRONICS DEGREE",
-     .supplies = supplied<link, signalLevel, state, tiltX, tiltY, tiltZ>,
+     .supplies = kSupplied<link, signalLevel, state, tiltX, tiltY, tiltZ>,
      .indexed = false},
     {.name = "ELA MOV(ANG)",
-     .supplies = supplied<link, signalLevel, accelerationX, accelerationY, accelerationZ>,
+     .supplies = kSupplied<link, signalLevel, accelerationX, accelerationY, accelerationZ>,
      .named = true,
      .indexed = false},
 };
 
-inline constexpr BluetoothVendor combined[] = {
+inline constexpr BluetoothVendor kCombined[] = {
     {.name = "TESLiOT",
-     .supplies = supplied<light, battery, signalLevel, state, link, accelerationX, accelerationY,
-                          accelerationZ, magnet>},
+     .supplies = kSupplied<light, battery, signalLevel, state, link, accelerationX, accelerationY,
+                           accelerationZ, magnet>},
     {.name = "ESCORT TH",
-     .supplies = supplied<light, battery, signalLevel, state, pressure, link>,
+     .supplies = kSupplied<light, battery, signalLevel, state, pressure, link>,
      .needsName = true,
      .named = true},
 };
 
-inline constexpr BluetoothVendor axleLoad[] = {
-    {.name = "TECHNOTON GNOM DDE", .supplies = supplied<link, pressure, signalLevel, state>}};
-inline constexpr BluetoothVendor fuelFlowing[] = {
-    {.name = "TECHNOTON DFM", .supplies = supplied<fuelFlow, link, signalLevel, state, battery, workTime>}};
-inline constexpr BluetoothVendor analogueInput[] = {
-    {.name = "ELA AI", .supplies = supplied<link, signalLevel>, .needsName = true, .named = true}};
-inline constexpr BluetoothVendor magnetic[] = {
-    {.name = "ELA MAG/MOV/DI/PIR", .supplies = supplied<link, signalLevel, state, magnet>}};
+inline constexpr BluetoothVendor kAxleLoad[] = {
+    {.name = "TECHNOTON GNOM DDE", .supplies = kSupplied<link, pressure, signalLevel, state>}};
+inline constexpr BluetoothVendor kFuelFlowing[] = {
+    {.name = "TECHNOTON DFM", .supplies = kSupplied<fuelFlow, link, signalLevel, state, battery, workTime>}};
+inline constexpr BluetoothVendor kAnalogueInput[] = {
+    {.name = "ELA AI", .supplies = kSupplied<link, signalLevel>, .needsName = true, .named = true}};
+inline constexpr BluetoothVendor kMagnetic[] = {
+    {.name = "ELA MAG/MOV/DI/PIR", .supplies = kSupplied<link, signalLevel, state, magnet>}};
 // Sensors of any make: the rows of the form tell what is measured.
-inline constexpr BluetoothVendor anyMaker[] = {{.name = "", .supplies = supplied<link, signalLevel>}};
+inline constexpr BluetoothVendor kAnyMaker[] = {{.name = "", .supplies = kSupplied<link, signalLevel>}};
 
-inline constexpr Setting fuelThreshold[] = {
+inline constexpr Setting kFuelThreshold[] = {
     integer("thld", 50).range(0, 4095).in("FS%1/spinBox_FS_Thld").caption("cfgt17_041"),
     flag("thldOff", 1).resetTo(0).in("FS%1/checkBox_FS_ThldOff").caption("cfgt17_042"),
 };
@@ -157,14 +160,14 @@ inline constexpr BluetoothSensorType kBluetoothSensorTypes[] = {
      .height = 100,
      .vendorWidget = "comboBox_FS_Type",
      .vendorCaption = "cfgt17_039",
-     .vendors = bluetooth::fuelLevel,
+     .vendors = bluetooth::kFuelLevel,
      .index = {.list = BluetoothList::fuel,
                .known = 16,
                .offered = 6,
                .text = "cfgt17_018",
                .widget = "comboBox_FS_Idx",
                .caption = "cfgt17_040"},
-     .more = bluetooth::fuelThreshold},
+     .more = bluetooth::kFuelThreshold},
     {.code = "2",
      .text = "cfgt17_019",
      .section = "TS%1",
@@ -173,7 +176,7 @@ inline constexpr BluetoothSensorType kBluetoothSensorTypes[] = {
      .height = 70,
      .vendorWidget = "comboBox_TS_Type",
      .vendorCaption = "cfgt17_045",
-     .vendors = bluetooth::temperature,
+     .vendors = bluetooth::kTemperature,
      .index = {.list = BluetoothList::temperature,
                .known = 4,
                .offered = 4,
@@ -188,7 +191,7 @@ inline constexpr BluetoothSensorType kBluetoothSensorTypes[] = {
      .height = 70,
      .vendorWidget = "comboBox_Type",
      .vendorCaption = "cfgt17_076",
-     .vendors = bluetooth::analogueInput,
+     .vendors = bluetooth::kAnalogueInput,
      .index = {.list = BluetoothList::own,
                .known = 6,
                .offered = 6,
@@ -203,7 +206,7 @@ inline constexpr BluetoothSensorType kBluetoothSensorTypes[] = {
      .height = 70,
      .vendorWidget = "comboBox_Type",
      .vendorCaption = "cfgt17_025",
-     .vendors = bluetooth::magnetic,
+     .vendors = bluetooth::kMagnetic,
      .naming = BluetoothSensorType::Naming::always},
     {.code = "3",
      .text = "cfgt17_020",
@@ -213,7 +216,7 @@ inline constexpr BluetoothSensorType kBluetoothSensorTypes[] = {
      .height = 70,
      .vendorWidget = "comboBox_Type",
      .vendorCaption = "cfgt17_025",
-     .vendors = bluetooth::tiltAngle,
+     .vendors = bluetooth::kTiltAngle,
      .index = bluetooth::degrees("AS%1 TS%1", false)},
     {.code = "4",
      .text = "cfgt17_021",
@@ -223,7 +226,7 @@ inline constexpr BluetoothSensorType kBluetoothSensorTypes[] = {
      .height = 70,
      .vendorWidget = "comboBox_Type",
      .vendorCaption = "cfgt17_025",
-     .vendors = bluetooth::axleLoad,
+     .vendors = bluetooth::kAxleLoad,
      .naming = BluetoothSensorType::Naming::never},
     {.code = "5",
      .text = "cfgt17_022",
@@ -233,7 +236,7 @@ inline constexpr BluetoothSensorType kBluetoothSensorTypes[] = {
      .height = 70,
      .vendorWidget = "comboBox_Type",
      .vendorCaption = "cfgt17_025",
-     .vendors = bluetooth::fuelFlowing,
+     .vendors = bluetooth::kFuelFlowing,
      .naming = BluetoothSensorType::Naming::never},
     {.code = "6",
      .text = "cfgt17_023",
@@ -243,7 +246,7 @@ inline constexpr BluetoothSensorType kBluetoothSensorTypes[] = {
      .height = 560,
      .vendorWidget = nullptr,
      .vendorCaption = nullptr,
-     .vendors = bluetooth::anyMaker,
+     .vendors = bluetooth::kAnyMaker,
      .naming = BluetoothSensorType::Naming::always},
     {.code = "7",
      .text = "cfgt17_074",
@@ -253,7 +256,7 @@ inline constexpr BluetoothSensorType kBluetoothSensorTypes[] = {
      .height = 70,
      .vendorWidget = "comboBox_Type",
      .vendorCaption = "cfgt17_025",
-     .vendors = bluetooth::combined,
+     .vendors = bluetooth::kCombined,
      .index = bluetooth::degrees("US%1 TS%1", true)},
 };
 

@@ -18,24 +18,24 @@ constexpr auto kFormSets = [] {
     return sets;
 }();
 
-constexpr auto kSets = repeat<kBluetoothSensors>([](int) { return rulesOf(kFormSets, universal::sets); });
-constexpr auto kRanges = repeat<kBluetoothSensors>([](int) { return universal::ranges; });
+constexpr auto kSets = repeat<kBluetoothSensors>([](int) { return rulesOf(kFormSets, universal::kSets); });
+constexpr auto kRanges = repeat<kBluetoothSensors>([](int) { return universal::kRanges; });
 
 // The number of a sensor is shown where its vendor's value takes one.
 template <std::size_t i>
 constexpr auto enablesOfType()
 {
     using Type = Names<i>;
-    if constexpr (Type::allIndexed)
+    if constexpr (Type::kAllIndexed)
         return std::array<Enable, 0>{};
     else
-        return std::array{show({Type::type.section, Type::type.index.widget}, Type::indexed)};
+        return std::array{show({Type::kType.section, Type::kType.index.widget}, Type::kIndexed)};
 }
 
 template <std::size_t... types>
 constexpr auto sensorEnables(std::index_sequence<types...>)
 {
-    return rulesOf(enablesOfType<types>()..., universal::enables);
+    return rulesOf(enablesOfType<types>()..., universal::kEnables);
 }
 
 constexpr auto kEnables =
@@ -46,11 +46,11 @@ template <std::size_t i>
 constexpr auto exclusivesOfType()
 {
     using Type = Names<i>;
-    constexpr BluetoothList list = Type::type.index.list;
+    constexpr BluetoothList list = Type::kType.index.list;
     if constexpr (list == BluetoothList::fuel || list == BluetoothList::temperature)
-        return std::array{ExclusiveChoice{.path = Type::indexPath,
-                                          .when = when("SENS%1/form", Type::type.code),
-                                          .also = Type::indexed,
+        return std::array{ExclusiveChoice{.path = Type::kIndexPath,
+                                          .when = when("SENS%1/form", Type::kType.code),
+                                          .also = Type::kIndexed,
                                           .list = list == BluetoothList::fuel ? "fuel" : "temperature",
                                           .holder = "SENS%1"}};
     else
@@ -60,7 +60,7 @@ constexpr auto exclusivesOfType()
 template <std::size_t... types>
 constexpr auto sensorExclusives(std::index_sequence<types...>)
 {
-    return rulesOf(exclusivesOfType<types>()..., universal::exclusives);
+    return rulesOf(exclusivesOfType<types>()..., universal::kExclusives);
 }
 
 constexpr auto kExclusives =

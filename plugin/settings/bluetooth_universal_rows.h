@@ -10,12 +10,12 @@ namespace vlk {
 
 namespace universal {
 
-inline constexpr Code operators[] = {{.code = "0", .label = "abbr_049"}, {.code = "1", .label = "abbr_048"}};
-inline constexpr Code byteOrders[] = {{.code = "0", .label = "cfgt17_047"},
-                                      {.code = "1", .label = "cfgt17_048"}};
+inline constexpr Code kOperators[] = {{.code = "0", .label = "abbr_049"}, {.code = "1", .label = "abbr_048"}};
+inline constexpr Code kByteOrders[] = {{.code = "0", .label = "cfgt17_047"},
+                                       {.code = "1", .label = "cfgt17_048"}};
 
 // How a value lies in a message: width and kind.
-inline constexpr Code elements[] = {
+inline constexpr Code kElementKinds[] = {
     {.code = "1b", .label = "wrd_016", .format = "1 %1, %2", .second = "wrd_019"},
     {.code = "1u", .label = "wrd_016", .format = "1 %1, %2", .second = "wrd_020"},
     {.code = "1s", .label = "wrd_016", .format = "1 %1, %2", .second = "wrd_021"},
@@ -33,7 +33,7 @@ inline constexpr Code elements[] = {
 };
 
 // What a value is in the tracker.
-inline constexpr Code targets[] = {
+inline constexpr Code kTargets[] = {
     {.code = "0", .label = "cfgt17_049"},
     {.code = "1", .label = "cfgt17_072"},
     {.code = "2", .label = "cfgt17_051"},
@@ -46,15 +46,15 @@ inline constexpr Code targets[] = {
     {.code = "9", .label = "cfgt17_056", .format = "%1 Z"},
 };
 
-inline constexpr int mostNumbers = 32;
+inline constexpr int kMostNumbers = 32;
 struct NumberText
 {
     char code[3];
     char label[3]; // right-justified
 };
-inline constexpr auto numberTexts = [] {
-    std::array<NumberText, mostNumbers> texts{};
-    for (int number = 1; number <= mostNumbers; ++number) {
+inline constexpr auto kNumberTexts = [] {
+    std::array<NumberText, kMostNumbers> texts{};
+    for (int number = 1; number <= kMostNumbers; ++number) {
         const char tens = static_cast<char>('0' + number / 10);
         const char ones = static_cast<char>('0' + number % 10);
         texts[number - 1] = number < 10 ? NumberText{{ones, 0, 0}, {' ', ones, 0}}
@@ -62,16 +62,16 @@ inline constexpr auto numberTexts = [] {
     }
     return texts;
 }();
-inline constexpr auto numbers = [] {
-    std::array<Code, mostNumbers> codes{};
+inline constexpr auto kNumbers = [] {
+    std::array<Code, kMostNumbers> codes{};
     for (std::size_t i = 0; i < codes.size(); ++i)
-        codes[i] = {.code = numberTexts[i].code, .label = numberTexts[i].label};
+        codes[i] = {.code = kNumberTexts[i].code, .label = kNumberTexts[i].label};
     return codes;
 }();
 
-inline constexpr Heading sensor{"cfgt17_024", "%1 %2"};
-inline constexpr Heading condition{"cfgt17_057", "%1: %3", &sensor};
-inline constexpr Heading value{"cfgt17_066", "%1: %3", &sensor};
+inline constexpr Heading kSensor{"cfgt17_024", "%1 %2"};
+inline constexpr Heading kCondition{"cfgt17_057", "%1: %3", &kSensor};
+inline constexpr Heading kValue{"cfgt17_066", "%1: %3", &kSensor};
 
 constexpr Number byte(const char* key, const char* widget, const char* caption)
 {
@@ -103,7 +103,7 @@ constexpr Number rowGroup(const char* check, const char* widget)
 constexpr auto firstCondition(When chosen)
 {
     return numbered(
-        rowsOf(group("U%1C1").onlyWhen(chosen), condition,
+        rowsOf(group("U%1C1").onlyWhen(chosen), kCondition,
                integer("group", 1).range(1, 4).in("U%1/spinBox_Condition_Group_1").caption("cfgt17_058"),
                constant("oper", "0"), type(0xFF, "U%1/spinBox_Condition_Type_1"),
                byte("offset", "U%1/spinBox_Condition_Displacement_1", "cfgt17_061"),
@@ -113,9 +113,9 @@ constexpr auto firstCondition(When chosen)
 
 constexpr auto laterCondition(int number, When chosen)
 {
-    return numbered(rowsOf(group("U%1C%2").onlyWhen(chosen), condition,
+    return numbered(rowsOf(group("U%1C%2").onlyWhen(chosen), kCondition,
                            rowGroup("checkBox_Condition_Use_%2", "U%1/spinBox_Condition_Group_%2"),
-                           choice("oper", operators, "0")
+                           choice("oper", kOperators, "0")
                                .byNumber()
                                .unknownIs("0")
                                .in("U%1/comboBox_Condition_Operator_%2")
@@ -130,27 +130,27 @@ constexpr auto valueRows(When chosen)
 {
     return repeat<kUniversalValues>([=](int) {
         return rowsOf(
-            group("U%1P%2").onlyWhen(chosen), value,
+            group("U%1P%2").onlyWhen(chosen), kValue,
             rowGroup("checkBox_Parameters_Use_%2", "U%1/spinBox_Parameters_Group_%2"),
             type(0, "U%1/spinBox_Parameters_Type_%2"),
             byte("offset", "U%1/spinBox_Parameters_Displacement_%2", "cfgt17_061"),
-            choice("prm", elements, "")
+            choice("prm", kElementKinds, "")
                 .resetTo("1b")
                 .unknownIs("")
                 .noItemIs("")
                 .in("U%1/comboBox_Parameters_Dimension_%2")
                 .caption("cfgt17_033"),
-            choice("be", byteOrders, "0")
+            choice("be", kByteOrders, "0")
                 .byNumber()
                 .unknownIs("0")
                 .in("U%1/comboBox_Parameters_ByteOrder_%2")
                 .caption("cfgt17_067"),
-            choice("stor", targets, "0")
+            choice("stor", kTargets, "0")
                 .byNumber()
                 .unknownIs("0")
                 .in("U%1/comboBox_Parameters_SensorType_%2")
                 .caption("cfgt17_040"),
-            choice("idx", numbers, "1")
+            choice("idx", kNumbers, "1")
                 .byNumber()
                 .offering("")
                 .noItemIs("0")
@@ -188,7 +188,7 @@ constexpr auto laterConditionSets(int number)
                     number);
 }
 
-constexpr auto sets = rulesOf(
+constexpr auto kSets = rulesOf(
     laterConditionSets(2), laterConditionSets(3), laterConditionSets(4), repeat<kUniversalValues>([](int) {
         constexpr When on = when("U%1P%2/group");
         constexpr When off = unless("U%1P%2/group");
@@ -205,7 +205,7 @@ constexpr RangeWhen numbersOf(const char* targets, const char* numbers)
         .when = when("U%1P%2/stor", targets), .path = "U%1P%2/idx", .offers = numbers, .startsOver = true};
 }
 
-constexpr auto ranges = repeat<kUniversalValues>([](int) {
+constexpr auto kRanges = repeat<kUniversalValues>([](int) {
     return rulesOf(numbersOf("0", ""),
                    numbersOf("1",
                              "1|2|3|4|5|6|7|8|9|10|11|12|13|14|15|16|17|18|19|20|21|22|23|24|25|26|27|28|"
@@ -215,7 +215,7 @@ constexpr auto ranges = repeat<kUniversalValues>([](int) {
 });
 
 // One number of a kind goes to one row of the form.
-constexpr auto exclusives = repeat<kUniversalValues>([](int) {
+constexpr auto kExclusives = repeat<kUniversalValues>([](int) {
     return ExclusiveChoice{.path = "U%1P%2/idx",
                            .when = when("U%1P%2/group"),
                            .also = when("U%1P%2/stor", "1|2|3|4|5|6"),
@@ -239,7 +239,7 @@ constexpr Enable joins(const char* list, When first, When second = {}, When thir
     return enableAny({"U%1", list}, first, second, third).showing();
 }
 
-constexpr auto enables = rulesOf(
+constexpr auto kEnables = rulesOf(
     laterConditionEnables(2), laterConditionEnables(3), laterConditionEnables(4),
     joins("comboBox_Condition_Operator_2", whenSame("U%1C2/group", "U%1C1")),
     joins("comboBox_Condition_Operator_3", whenSame("U%1C3/group", "U%1C1"),

@@ -115,11 +115,11 @@ constexpr auto repeat(Make make)
 template <const auto& rows, const auto&... rules>
 constexpr SettingsTable tableOf(const char* section, const char* title = "", bool emptied = true)
 {
-    SettingsTable table{section, title, tables::Made<rows>::rows, emptied};
+    SettingsTable table{section, title, tables::Made<rows>::kRows, emptied};
     [[maybe_unused]] const auto take = [&]<class Rule, std::size_t n>(const std::array<Rule, n>& list) {
         std::get<std::span<const Rule>>(table.rules) = list;
     };
-    (take(tables::MadeRules<rows, rules>::rules), ...);
+    (take(tables::MadeRules<rows, rules>::kRules), ...);
     return table;
 }
 

@@ -123,12 +123,12 @@ constexpr void checkTargets(const Enable& rule, NameTable widgets)
 template <const auto& source>
 struct Made
 {
-    static constexpr auto paths = namesIn<source, Paths>();
-    static constexpr auto widgets = namesIn<source, Widgets>();
-    static constexpr auto rows = [] {
+    static constexpr auto kPaths = namesIn<source, Paths>();
+    static constexpr auto kWidgets = namesIn<source, Widgets>();
+    static constexpr auto kRows = [] {
         auto all = source;
         for (Setting& setting : all) {
-            const Finder find{paths, setting.base().numbers};
+            const Finder find{kPaths, setting.base().numbers};
             std::visit(
                 [&](auto& row) {
                     if constexpr (requires { check(row); })
@@ -146,16 +146,16 @@ struct Made
 template <const auto& source, const auto& given>
 struct MadeRules
 {
-    static constexpr auto rules = [] {
+    static constexpr auto kRules = [] {
         auto all = given;
         for (auto& rule : all) {
-            rule.eachPath(Finder{Made<source>::paths, rule.numbers});
+            rule.eachPath(Finder{Made<source>::kPaths, rule.numbers});
             if constexpr (requires { rule.listHash; }) {
                 rule.listHash = hashOf(rule.list, rule.numbers);
                 rule.holderHash = hashOf(rule.holder, rule.numbers);
             }
             if constexpr (requires { rule.targets; })
-                checkTargets(rule, Made<source>::widgets);
+                checkTargets(rule, Made<source>::kWidgets);
         }
         return all;
     }();
