@@ -227,7 +227,7 @@ constexpr Entry table[] = {
     {Message::GetExtensions,
      [](VLK_Device_R7106&, const Parameters& parameters) {
          vlk::Extensions extensions;
-         extensions.newest = static_cast<std::uint32_t>(Message::BringSettings);
+         extensions.newest = static_cast<std::uint32_t>(std::end(vlk::messages)[-1].number);
          fillRecord(parameters.p1, extensions);
      }},
     {Message::CompareFiles,
