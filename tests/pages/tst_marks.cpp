@@ -1,0 +1,108 @@
+// Marks at settings and tabs, and the menu of a setting.
+
+#include "dialog/setting_places.h"
+#include "pages/opened_configuration.h"
+#include "review/mask_field.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+class MarksTest : public QObject, private OpenedConfiguration
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { start(); }
+    void cleanup() { end(); }
+
+    // At what differs, and gone with the difference; the tab tells how many there are.
+    void marksAndTheirMenu()
+    {
+        const QByteArray before = saved();
+        auto* port = child<QSpinBox>("GPRSSrv_spinBox_Port_Main");
+        auto* tabs = child<QTabWidget>("tabWidget");
+        QCOMPARE(tabs->tabToolTip(0), QString());
+        type(port, "5555");
+        auto* mark = child<QWidget>("mark_GPRSSrv_spinBox_Port_Main");
+        QVERIFY(mark->isVisible() && port->toolTip().contains("rev_160"));
+        QCOMPARE(port->accessibleDescription(), mark->toolTip());
+        QCOMPARE(tabs->tabToolTip(0), QString("rev_161: 1"));
+        port->setToolTip("its own");
+        QVERIFY(port->toolTip().startsWith("rev_160") && port->toolTip().endsWith("its own"));
+        auto* address = child<QLineEdit>("GPRSSrv_lineEdit_IP_DNS_Main");
+        type(address, "gps.example.com");
+        // The menu of a line and of a number box is kept.
+        QVERIFY(choose(address, "action_BringBack") > 5);
+        QVERIFY(history().undoText().startsWith("rev_166: "));
+        QVERIFY(choose(port, "action_CopyKey") > 5);
+        QCOMPARE(QApplication::clipboard()->text(), QString("TRANS/SRV1/port"));
+        auto* caption = captionOf(port);
+        QCOMPARE(choose(caption, "action_BringBack"), 3);
+        QCOMPARE(saved(), before);
+        QVERIFY(!mark->isVisible() && port->toolTip() == "its own");
+        QCOMPARE(tabs->tabToolTip(0), QString());
+        history().undo();
+        QVERIFY(mark->isVisible());
+        QVERIFY(choose(port, "action_Default") > 5);
+        QCOMPARE(saved(), before);
+        QVERIFY(history().undoText().startsWith("rev_167: "));
+    }
+
+    // A bound that a typed one pushes away comes back with it, though not when that is typed back.
+    void pushedBound()
+    {
+        child<QTabWidget>("tabWidget")->setCurrentIndex(5);
+        auto* least = child<QDoubleSpinBox>("doubleSpinBox_Left_Temp_1");
+        auto* most = child<QDoubleSpinBox>("doubleSpinBox_Right_Temp_1");
+        const QByteArray before = saved();
+        for (const char* last : {"-30", "8"}) {
+            type(most, "-30");
+            type(most, last);
+            QCOMPARE(least->value(), -36.0);
+            QVERIFY(child<QWidget>("mark_doubleSpinBox_Left_Temp_1")->toolTip().startsWith("rev_160"));
+            child<QToolButton>("toolButton_Undo")->click();
+            QCOMPARE(saved(), before);
+        }
+    }
+
+    // Fields of a record have a mark and a menu each, and are found one by one.
+    void boxesOfTheRecord()
+    {
+        const QByteArray before = saved();
+        vlk::PageSettings& page = *history().pages()[1];
+        const int row = page.rowAt("ZETA/mask");
+        const vlk::MaskField& field = page.values().setting(row).as<vlk::Mask>()->fields[63];
+        auto* box = child<QCheckBox>(qPrintable(vlk::numberedName(field.widget, field.number)));
+        auto* find = child<QLineEdit>("lineEdit_Find");
+        find->setFocus();
+        QTest::keyClicks(find, vlk::fieldText(field));
+        const QString line = child<QListWidget>("listWidget_Found")->item(0)->text();
+        QVERIFY2(line.contains(vlk::fieldText(field) + ":  "), qPrintable(line));
+        QTest::keyClick(find, Qt::Key_Return);
+        QVERIFY(box->isVisible() && box->hasFocus());
+        QTRY_VERIFY(box->parentWidget()->findChild<QFrame*>("frame_Found"));
+        QCOMPARE(child<QFrame>("frame_Found")->geometry().center(), box->geometry().center());
+        QTest::keyClick(box, Qt::Key_Space);
+        QCoreApplication::processEvents();
+        auto* mark = box->parentWidget()->findChild<QWidget*>("mark_" + box->objectName());
+        QVERIFY(mark && mark->isVisible());
+        QCOMPARE(choose(box, "action_BringBack"), 3);
+        QCOMPARE(saved(), before);
+        QVERIFY(!mark->isVisible());
+    }
+
+    // Advice about one of many boxes marks that box.
+    void markOfOneOfManyBoxes()
+    {
+        open({});
+        child<QTabWidget>("tabWidget")->setCurrentIndex(2);
+        dialog_->review().mend(
+            {{"SENSORS/IN1/ign", "0"}, {"TRACK/POINTS/useTimer", "1"}, {"TRACK/POINTS/moveTimerSens", "110"}},
+            [] { return QString(); });
+        QVERIFY(child<QWidget>("checkBox_TmrFlag_In1")->toolTip().contains("adv_044"));
+        QVERIFY(!child<QWidget>("checkBox_TmrFlag_Engine")->toolTip().contains("adv_044"));
+    }
+};
+
+QTEST_MAIN(MarksTest)
+#include "tst_marks.moc"

@@ -1,0 +1,163 @@
+// What is made of a configuration as a whole: presets, and the report.
+
+#include "dialog/difference_model.h"
+#include "pages/opened_configuration.h"
+#include "support/files.h"
+#include "support/full_disk.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+class PresetsAndReportTest : public QObject, private OpenedConfiguration
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { start(); }
+    void cleanup() { end(); }
+
+    // The settings that were changed go into a preset, the object's name on demand, and come from there in
+    // one step, in either window beside what was edited there.
+    void presetIsSavedAndApplied()
+    {
+        type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
+        type(child<QLineEdit>("lineEdit_Name"), "KAMAZ");
+        for (const bool named : {true, false}) {
+            QTest::keyClick(dialog_.get(), Qt::Key_D, Qt::ControlModifier);
+            answerNext<QMessageBox>([named](QMessageBox* box) {
+                if (named)
+                    QTest::keyClick(box->checkBox(), Qt::Key_Space);
+                QTest::keyClick(box, Qt::Key_Return);
+            });
+            const QString path = folder_.filePath(named ? "named.xml" : "chosen.xml");
+            chooseNext(path);
+            child<QPushButton>("pushButton_SavePreset")->click();
+            QCOMPARE(child<QLabel>("label_Unsaved")->text(), QString("rev_218"));
+            const QByteArray preset = readFile(path);
+            QVERIFY(preset.contains("<DEVICE creator=\"preset\">") && preset.contains("port=\"5555\""));
+            QCOMPARE(preset.contains("KAMAZ"), named);
+            QVERIFY(!named || !(QFile::permissions(path) & (QFile::ReadGroup | QFile::ReadOther)));
+            QCOMPARE(preset.count('='), named ? 6 : 5);
+            QTest::keyClick(dialog_.get(), Qt::Key_D, Qt::ControlModifier);
+        }
+        while (history().canUndo())
+            history().undo();
+        const QByteArray before = saved();
+        chooseNext(folder_.filePath("chosen.xml"));
+        child<QPushButton>("pushButton_Document")->menu()->actions().first()->trigger();
+        auto* table = child<QTableView>("tableView_Differences");
+        QVERIFY(table->isVisible());
+        QCOMPARE(table->model()->rowCount(), 1);
+        // An edit beside the preset is none of its differences.
+        type(child<QLineEdit>("lineEdit_Name"), "MAZ");
+        QCOMPARE(table->model()->rowCount(), 1);
+        child<QPushButton>("pushButton_TakeOver")->click();
+        QCOMPARE(table->model()->rowCount(), 0);
+        QVERIFY(saved().contains("port=\"5555\"") && saved().contains("\"MAZ\""));
+        history().undo();
+        history().undo();
+        QCOMPARE(saved(), before);
+
+        dialog_->switchToQuick();
+        auto* light = dialog_->findChild<QWidget*>("page_Light");
+        auto* address = light->findChild<QLineEdit*>("GPRSSrv_lineEdit_IP_DNS_Main");
+        type(address, "example.com");
+        QVERIFY(dialog_->showPreset(folder_.filePath("chosen.xml")));
+        QCOMPARE(table->model()->rowCount(), 1);
+        child<QPushButton>("pushButton_TakeOver")->click();
+        QCOMPARE(light->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main")->value(), 5555);
+        QCOMPARE(address->text(), QString("example.com"));
+    }
+
+    // It sets all fields of a record, which is told before and behind.
+    void presetOfOneField()
+    {
+        auto* box = child<QCheckBox>("checkBox_State_2");
+        box->click();
+        history().settle();
+        child<QToolButton>("toolButton_Differences")->click();
+        chooseNext(folder_.filePath("field.xml"));
+        child<QPushButton>("pushButton_SavePreset")->click();
+        QVERIFY(child<QLabel>("label_Unsaved")->text().endsWith("rev_252"));
+        history().undo();
+        QVERIFY(dialog_->showPreset(folder_.filePath("field.xml")));
+        auto* model = child<QTableView>("tableView_Differences")->model();
+        QCOMPARE(model->rowCount(), 1);
+        QCOMPARE(model->index(0, vlk::DifferenceModel::Note).data().toString(), QString("rev_251"));
+    }
+
+    // What does not fit comes first, with its reason and without a check mark; a full disk is told.
+    void presetsInTrouble()
+    {
+        const QString path = folder_.filePath("bad.xml");
+        writeFile(path, "<DEVICE creator=\"preset\"><TRACK><POINTS angle=\"7\" dist=\"far\" bend=\"1\"/>"
+                        "<POINTS angle=\"8\"/></TRACK></DEVICE>");
+        QVERIFY(dialog_->showPreset(path));
+        auto* model = child<QTableView>("tableView_Differences")->model();
+        QStringList notes;
+        for (int line = 0; line < model->rowCount(); ++line)
+            notes << model->index(line, 3).data().toString() +
+                         (model->index(line, 0).data(Qt::CheckStateRole).isNull() ? "" : "+");
+        QCOMPARE(notes, QStringList({"rev_184", "rev_185", "rev_187", "5 abbr_016+"}));
+        QVERIFY(!dialog_->showPreset("no such file"));
+        QVERIFY(!dialog_->showPreset(writeFile(path, "<OTHER creator=\"preset\"/>")));
+        QString told;
+        const auto tell = [&told](QMessageBox* box) {
+            told = box->text();
+            QTest::keyClick(box, Qt::Key_Return);
+        };
+        // Nothing has been changed that a preset could hold.
+        dialog_->review().compareWith(vlk::ConfigurationReview::Against::file);
+        answerNext<QMessageBox>(tell);
+        child<QPushButton>("pushButton_Document")->menu()->actions().at(1)->trigger();
+        QCOMPARE(told, QString("rev_226"));
+        child<QToolButton>("toolButton_Differences")->click();
+        type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
+        child<QToolButton>("toolButton_Differences")->click();
+        chooseNext(folder_.filePath("full.xml"));
+        answerNext<QMessageBox>(tell);
+        const FullDisk disk(10);
+        child<QPushButton>("pushButton_SavePreset")->click();
+        QCOMPARE(told, QString("rev_198"));
+        QVERIFY(!QFile::exists(folder_.filePath("full.xml")));
+        chooseNext(folder_.filePath("full.csv"));
+        child<QPushButton>("pushButton_SaveDifferences")->click();
+        QCOMPARE(child<QLabel>("label_Unsaved")->text(), QString("rev_198"));
+    }
+
+    void reportIsKept()
+    {
+        type(child<QLineEdit>("Transfer_lineEdit_GSM_Pin1"), "8765");
+        // Also what is still being typed.
+        auto* port = child<QSpinBox>("GPRSSrv_spinBox_Port_Main");
+        port->setFocus();
+        port->selectAll();
+        QTest::keyClicks(port, "5555");
+        QTest::keyClick(port, Qt::Key_P, Qt::ControlModifier);
+        auto* preview = child<QTextBrowser>("textBrowser_Report");
+        QVERIFY(preview->isVisible());
+        const int all = preview->toPlainText().size();
+        child<QCheckBox>("checkBox_OnePage")->click();
+        QVERIFY(preview->toPlainText().size() < all / 2);
+        QTest::keyClick(child<QComboBox>("comboBox_ReportContents"), Qt::Key_Down);
+        QVERIFY(preview->toPlainText().contains("5555") && !preview->toPlainText().contains("8765"));
+        const auto save = [&](const char* button, const QString& path) {
+            chooseNext(path);
+            child<QPushButton>(button)->click();
+            return readFile(path);
+        };
+        QVERIFY(save("pushButton_ReportPdf", folder_.filePath("report.pdf")).startsWith("%PDF"));
+        child<QCheckBox>("checkBox_ReportSecrets")->click();
+        const QString html = folder_.filePath("report.html");
+        QVERIFY(save("pushButton_ReportHtml", html).contains("8765"));
+        QVERIFY(!(QFile::permissions(html) & (QFile::ReadGroup | QFile::ReadOther)));
+        auto* notice = child<QLabel>("label_ReportNotice");
+        QCOMPARE(notice->text(), QString("rev_218"));
+        const FullDisk disk(10);
+        QCOMPARE(save("pushButton_ReportPdf", folder_.filePath("full.pdf")), QByteArray("no file"));
+        QCOMPARE(notice->text(), QString("rev_198"));
+    }
+};
+
+QTEST_MAIN(PresetsAndReportTest)
+#include "tst_presets_and_report.moc"
