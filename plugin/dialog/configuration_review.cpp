@@ -118,6 +118,13 @@ FileState ConfigurationReview::withPreset()
     return state;
 }
 
+FileState ConfigurationReview::withMoved(FileState state) const
+{
+    for (const int key : moved_)
+        state.take(key, differences_.before());
+    return state;
+}
+
 void ConfigurationReview::followPreset()
 {
     presetDue_.stop();
@@ -230,7 +237,9 @@ void ConfigurationReview::refresh(const QVector<int>& pages)
     if (isWhole) {
         const FileState state = now();
         edited_ = Differences(asItCame_, state);
-        differences_ = against_ == Against::file ? edited_ : Differences(differences_.before(), state);
+        differences_ = against_ == Against::file ? edited_
+                       : isPreset                ? Differences(withMoved(state), state)
+                                                 : Differences(differences_.before(), state);
     } else {
         for (const int page : pages) {
             const Values& values = history_.pages()[page]->values();
@@ -241,9 +250,7 @@ void ConfigurationReview::refresh(const QVector<int>& pages)
                 differences_.update(values);
         }
     }
-    if (isPreset && isWhole)
-        followPreset();
-    else if (isPreset)
+    if (isPreset)
         presetDue_.start();
     advice_.reset();
     Q_EMIT changed();

@@ -100,7 +100,9 @@ private:
     review::FileState now() const;
     // The other side while a preset is compared with.
     review::FileState withPreset();
-    // An edit may move what the preset would make of the rest.
+    // The same by the keys that it moved when it was followed last.
+    review::FileState withMoved(review::FileState state) const;
+    // An edit may move what the preset would make of the rest: applied anew, but not with each edit.
     void followPreset();
     void compareWith(review::FileState before, Against against, const EditHistory::Words& name);
     void write(CXmlSection& root) const;
