@@ -306,8 +306,10 @@ void ConfigurationReview::bringBack(const review::Unsaved& unsaved, const EditHi
     history_.settle();
     const QByteArray now = document();
     XmlDocument edited(withEdits(now, unsaved), QStringLiteral("DEVICE"));
+    XmlDocument after(unsaved.after, QStringLiteral("DEVICE"));
     Configuration changed = configuration();
     changed.read(*edited.root());
+    review::keepLongPeriods(changed, FileState::ofDocument(*after.root()), editedKeys(unsaved));
     // They belong to the configuration on which they were made.
     put(changed, now == unsaved.before ? unsaved.quick : QMap<QString, QString>(), words);
 }

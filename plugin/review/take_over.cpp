@@ -126,12 +126,21 @@ void layOver(CXmlSection& root, const FileState& from, const std::vector<int>& k
     }
 }
 
+void keepLongPeriods(Configuration& configuration, const FileState& from, const std::vector<int>& keys)
+{
+    for (const int key : keys) {
+        if (from.at(key).change == Change::wrapped)
+            configuration.edit(FileKeys::all()[key].path, from.at(key).text);
+    }
+}
+
 void takeOver(Configuration& configuration, const FileState& from, const std::vector<int>& keys)
 {
     XmlDocument document(QString(), QStringLiteral("DEVICE"));
     configuration.write(*document.root());
     layOver(*document.root(), from, keys);
     configuration.read(*document.root());
+    keepLongPeriods(configuration, from, keys);
 }
 
 std::vector<int> takeOver(Configuration& configuration, const Differences& differences, std::vector<int> keys)

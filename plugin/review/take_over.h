@@ -21,6 +21,10 @@ void setKey(CXmlSection& root, int key, const QString& text);
 // go. Sections that are open on the document lose their sight of it, but for the root.
 void layOver(CXmlSection& root, const FileState& from, const std::vector<int>& keys);
 
+// Periods of a day or more, of which a load drops whole days: as they stand in `from`, since a window can
+// hold and save them.
+void keepLongPeriods(Configuration& configuration, const FileState& from, const std::vector<int>& keys);
+
 void takeOver(Configuration& configuration, const FileState& from, const std::vector<int>& keys);
 
 // The same from the side before, with those that are needed; where a rule of a load stands against one of the

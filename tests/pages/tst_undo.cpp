@@ -2,7 +2,6 @@
 
 #include "pages/opened_configuration.h"
 #include "review/recovery.h"
-#include "support/files.h"
 #include "support/setting_samples.h"
 
 #include <QtTest>
@@ -86,6 +85,24 @@ private Q_SLOTS:
             unsaved.before = dialog_->review().document();
             dialog_->review().bringBack(unsaved, [] { return QString(); });
             QCOMPARE(dialog_->review().document(), unsaved.after);
+        }
+    }
+
+    // Of a period a load drops whole days, which can be typed all the same.
+    void longPeriodIsBroughtBack()
+    {
+        vlk::review::Unsaved unsaved;
+        unsaved.before = dialog_->review().document();
+        type(child<QSpinBox>("Srv_Operation_spinBox_Block_H"), "24");
+        unsaved.after = dialog_->review().document();
+        QVERIFY(unsaved.after.contains("blockTimer=\"86700\""));
+        history().undo();
+        for (const bool isEdited : {false, true}) {
+            if (isEdited)
+                type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
+            dialog_->review().bringBack(unsaved, [] { return QString(); });
+            QCOMPARE(dialog_->review().document().contains("blockTimer=\"86700\""), true);
+            history().undo();
         }
     }
 

@@ -299,6 +299,18 @@ private Q_SLOTS:
         QCOMPARE(saved(configuration), first);
     }
 
+    // A load drops its whole days; taken back it is what the file holds.
+    void longPeriodIsTakenBack()
+    {
+        const QByteArray file = factory().replace("cnctTimer=\"3600\" useCmd", "cnctTimer=\"90060\" useCmd");
+        vlk::Configuration configuration = loaded(file);
+        const QString path = "TRANS/RULES/cnctTimer";
+        QCOMPARE(configuration.value(path), QString("3660"));
+        takeOver(configuration, Differences(stateOf(file), FileState::ofConfiguration(configuration)),
+                 {vlk::review::FileKeys::all().at(path)});
+        QCOMPARE(configuration.value(path), QString("90060"));
+    }
+
 private:
     static vlk::TextSource textsOf(const QString& language)
     {
