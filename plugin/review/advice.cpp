@@ -174,9 +174,11 @@ Finding findingOf(const BoundRule& bound, const Facts& facts)
             finding.parts.emplace_back(numberedName(condition.condition->path, bound.numbers),
                                        condition.position);
     }
-    if (rule.mendPath)
-        finding.mends.push_back(
-            {numberedName(rule.mendPath, bound.numbers), QString::fromLatin1(rule.mendValue)});
+    for (const Mending& mending : rule.mendings) {
+        if (mending.path)
+            finding.mends.push_back(
+                {numberedName(mending.path, bound.numbers), QString::fromLatin1(mending.value)});
+    }
     if (rule.tick)
         addField(positionOf(rule.tick, bound.numbers), facts, &finding.mends);
     if (rule.freeChoice)

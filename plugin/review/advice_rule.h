@@ -193,6 +193,13 @@ constexpr Argument mostBytes()
     return {Argument::Kind::mostBytes};
 }
 
+// A setting to be edited, and the value that it gets.
+struct Mending
+{
+    const char* path = nullptr;
+    const char* value = nullptr;
+};
+
 struct Rule
 {
     const char* id = "";
@@ -205,9 +212,8 @@ struct Rule
     std::array<Condition, 4> any{}; // of which one holds, if there are any
     std::array<const char*, 4> names{};
     std::array<Argument, 4> arguments{};
-    const char* mendPath = nullptr;
-    const char* mendValue = nullptr;
-    Position tick = nullptr; // the field that the mend brings into the record
+    std::array<Mending, 2> mendings{}; // one after the other
+    Position tick = nullptr;           // the field that the mend brings into the record
     // A choice that the mend sets to its first code that no other one has, and that the switch leaves free:
     // %2 of it is the code.
     const char* freeChoice = nullptr;
@@ -238,8 +244,7 @@ struct Rule
     constexpr Rule mending(const char* path, const char* value) const
     {
         Rule changed = *this;
-        changed.mendPath = path;
-        changed.mendValue = value;
+        (mendings[0].path ? changed.mendings[1] : changed.mendings[0]) = {path, value};
         return changed;
     }
     constexpr Rule ticking(Position field) const

@@ -173,12 +173,19 @@ constexpr Position kIgnition = at<0>;
 constexpr Position kEngine = at<1>;
 constexpr Position kTachometer = at<2>;
 
+constexpr const char* kUnused = "NU|N/A"; // of a line
 constexpr Condition kNoIgnition = every(kLines, isOff("SENSORS/IN%2/ign"));
 constexpr Condition kNoSupplyLine = isOff("SYSTEM/PWRSENS/line");
 
-constexpr Rule withoutIgnition(const char* id, const char* path)
+// The mend is what a new configuration has: line 1 is the ignition, in its own use if it has one.
+constexpr auto withoutIgnition(const char* id, const char* path, auto... conditions)
 {
-    return rule(id, warning, "adv_044").naming(path, "SENSORS/IN1/ign").telling(captionOf(path));
+    constexpr const char* use = "SENSORS/IN1/normState";
+    constexpr const char* ignition = "SENSORS/IN1/IN1ADIN/ign";
+    const Rule told = rule(id, warning, "adv_044").naming(path, "SENSORS/IN1/ign").telling(captionOf(path));
+    return rulesOf(
+        told.when(conditions..., kNoIgnition, isNot(use, kUnused)).mending(ignition, "1"),
+        told.when(conditions..., kNoIgnition, is(use, kUnused)).mending(use, "NB+").mending(ignition, "1"));
 }
 
 // A point is asked for more often than a pause lets it come.
@@ -213,8 +220,8 @@ constexpr auto kTrackRules = rulesOf(
               notBelow("TRACK/POINTS/maxSpeed", "TRACK/COORDFLT/maxSpeed"))
         .naming("TRACK/COORDFLT/maxSpeed", "TRACK/POINTS/maxSpeed")
         .telling(valueOf("TRACK/COORDFLT/maxSpeed"), valueOf("TRACK/POINTS/maxSpeed")),
-    withoutIgnition("motion_ignition", "TRACK/POINTS/moveTimerSens")
-        .when(isOn("TRACK/POINTS/useTimer"), digitOn("TRACK/POINTS/moveTimerSens", kIgnition), kNoIgnition),
+    withoutIgnition("motion_ignition", "TRACK/POINTS/moveTimerSens", isOn("TRACK/POINTS/useTimer"),
+                    digitOn("TRACK/POINTS/moveTimerSens", kIgnition)),
     rule("motion_engine", warning, "adv_045")
         .when(isOn("TRACK/POINTS/useTimer"), digitOn("TRACK/POINTS/moveTimerSens", kEngine), kNoSupplyLine)
         .naming("SYSTEM/PWRSENS/line", "TRACK/POINTS/moveTimerSens"),
@@ -222,10 +229,9 @@ constexpr auto kTrackRules = rulesOf(
         .when(isOn("TRACK/POINTS/useTimer"), digitOn("TRACK/POINTS/moveTimerSens", kTachometer),
               every(kLines, isNot("SENSORS/IN%2/normState", "TAHO")))
         .naming("TRACK/POINTS/moveTimerSens"),
-    withoutIgnition("stop_ignition", "TRACK/COORDAVER/sensors")
-        .when(isOn("TRACK/COORDFLT/use"), isOn("TRACK/COORDAVER/mode"),
-              digitOn("TRACK/COORDAVER/sensors", kIgnition), like("TRACK/COORDAVER/sensors", "^.0"),
-              kNoIgnition),
+    withoutIgnition("stop_ignition", "TRACK/COORDAVER/sensors", isOn("TRACK/COORDFLT/use"),
+                    isOn("TRACK/COORDAVER/mode"), digitOn("TRACK/COORDAVER/sensors", kIgnition),
+                    like("TRACK/COORDAVER/sensors", "^.0")),
     rule("motion_sensor", warning, "adv_056")
         .when(isOn("TRACK/POINTS/useMoveSens"), is("ACCEL/SENSORS/sh3", "0.0"))
         .naming("ACCEL/SENSORS/sh3", "TRACK/POINTS/useMoveSens"),
@@ -244,35 +250,34 @@ constexpr Rule never(const char* id, Severity severity, const char* text, const 
 
 constexpr Condition kFuelBySupply = digitOn("SYSTEM/FUEL/sensors", at<2>);
 
-constexpr auto kSystemRules =
-    rulesOf(withoutIgnition("fuel_ignition", "SYSTEM/FUEL/sensors")
-                .when(digitOn("SYSTEM/FUEL/sensors", kIgnition), kNoIgnition),
-            never("fuel_never_off", warning, "adv_037", "SYSTEM/FUEL/blockVolt")
-                .when(kFuelBySupply, is("SYSTEM/FUEL/blockVolt", "0")),
-            never("fuel_never_on", error, "adv_038", "SYSTEM/FUEL/unblockVolt")
-                .when(kFuelBySupply, notBelow("SYSTEM/FUEL/unblockVolt", 31000)),
-            never("supply_never_restores", warning, "adv_039", "SYSTEM/PWRSENS/restoreLvl")
-                .when(isOn("SYSTEM/PWRSENS/line"), notBelow("SYSTEM/PWRSENS/restoreLvl", 32000)),
-            never("engine_never_runs", warning, "adv_040", "SYSTEM/ENGSENS/voltageLvl")
-                .when(isOn("SYSTEM/PWRSENS/line"), isOn("SYSTEM/ENGSENS/useCustom"),
-                      notBelow("SYSTEM/ENGSENS/voltageLvl", 32000)),
-            rule("engine_below_alarm", warning, "adv_047")
-                .when(isOn("SYSTEM/PWRSENS/line"), isOn("SYSTEM/ENGSENS/useCustom"),
-                      notBelow("SYSTEM/PWRSENS/alarmLvl", "SYSTEM/ENGSENS/voltageLvl"))
-                .naming("SYSTEM/ENGSENS/voltageLvl", "SYSTEM/PWRSENS/alarmLvl")
-                .telling(valueOf("SYSTEM/ENGSENS/voltageLvl"), valueOf("SYSTEM/PWRSENS/alarmLvl")),
-            rule("ntp_no_server", warning, "adv_062")
-                .when(isOn("SYSTEM/NTP/use"), every(kTimeServers, is("SYSTEM/NTP/ntpSrv%2", "")))
-                .naming("SYSTEM/NTP/ntpSrv1", "SYSTEM/NTP/use"),
-            rule("ntp_server_form", warning, "adv_064")
-                .each(kTimeServers)
-                .when(isOn("SYSTEM/NTP/use"), unlike("SYSTEM/NTP/ntpSrv%1", shared::kHostPattern))
-                .naming("SYSTEM/NTP/ntpSrv%1")
-                .telling(captionOf("SYSTEM/NTP/ntpSrv%1"), valueOf("SYSTEM/NTP/ntpSrv%1")),
-            rule("ntp_periods", hint, "adv_063")
-                .when(isOn("SYSTEM/NTP/use"), below("SYSTEM/NTP/usualPeriod", "SYSTEM/NTP/faultPeriod"))
-                .naming("SYSTEM/NTP/faultPeriod", "SYSTEM/NTP/usualPeriod")
-                .telling(valueOf("SYSTEM/NTP/faultPeriod"), valueOf("SYSTEM/NTP/usualPeriod")));
+constexpr auto kSystemRules = rulesOf(
+    withoutIgnition("fuel_ignition", "SYSTEM/FUEL/sensors", digitOn("SYSTEM/FUEL/sensors", kIgnition)),
+    never("fuel_never_off", warning, "adv_037", "SYSTEM/FUEL/blockVolt")
+        .when(kFuelBySupply, is("SYSTEM/FUEL/blockVolt", "0")),
+    never("fuel_never_on", error, "adv_038", "SYSTEM/FUEL/unblockVolt")
+        .when(kFuelBySupply, notBelow("SYSTEM/FUEL/unblockVolt", 31000)),
+    never("supply_never_restores", warning, "adv_039", "SYSTEM/PWRSENS/restoreLvl")
+        .when(isOn("SYSTEM/PWRSENS/line"), notBelow("SYSTEM/PWRSENS/restoreLvl", 32000)),
+    never("engine_never_runs", warning, "adv_040", "SYSTEM/ENGSENS/voltageLvl")
+        .when(isOn("SYSTEM/PWRSENS/line"), isOn("SYSTEM/ENGSENS/useCustom"),
+              notBelow("SYSTEM/ENGSENS/voltageLvl", 32000)),
+    rule("engine_below_alarm", warning, "adv_047")
+        .when(isOn("SYSTEM/PWRSENS/line"), isOn("SYSTEM/ENGSENS/useCustom"),
+              notBelow("SYSTEM/PWRSENS/alarmLvl", "SYSTEM/ENGSENS/voltageLvl"))
+        .naming("SYSTEM/ENGSENS/voltageLvl", "SYSTEM/PWRSENS/alarmLvl")
+        .telling(valueOf("SYSTEM/ENGSENS/voltageLvl"), valueOf("SYSTEM/PWRSENS/alarmLvl")),
+    rule("ntp_no_server", warning, "adv_062")
+        .when(isOn("SYSTEM/NTP/use"), every(kTimeServers, is("SYSTEM/NTP/ntpSrv%2", "")))
+        .naming("SYSTEM/NTP/ntpSrv1", "SYSTEM/NTP/use"),
+    rule("ntp_server_form", warning, "adv_064")
+        .each(kTimeServers)
+        .when(isOn("SYSTEM/NTP/use"), unlike("SYSTEM/NTP/ntpSrv%1", shared::kHostPattern))
+        .naming("SYSTEM/NTP/ntpSrv%1")
+        .telling(captionOf("SYSTEM/NTP/ntpSrv%1"), valueOf("SYSTEM/NTP/ntpSrv%1")),
+    rule("ntp_periods", hint, "adv_063")
+        .when(isOn("SYSTEM/NTP/use"), below("SYSTEM/NTP/usualPeriod", "SYSTEM/NTP/faultPeriod"))
+        .naming("SYSTEM/NTP/faultPeriod", "SYSTEM/NTP/usualPeriod")
+        .telling(valueOf("SYSTEM/NTP/faultPeriod"), valueOf("SYSTEM/NTP/usualPeriod")));
 
 constexpr const char* kOwner = "RS485/OPTIONS/owner1";
 constexpr Condition kFuelOnLine = is(kOwner, "FLDS");
@@ -309,7 +314,6 @@ constexpr auto kRsRules =
 
 constexpr const char* kColdest = "-50.0";
 constexpr const char* kHottest = "120.0";
-constexpr const char* kUnused = "NU|N/A";
 constexpr const char* kDiscrete = "NS-|NB-|NS+|NB+";
 
 // A use of the third line that waits for one of its two thresholds.

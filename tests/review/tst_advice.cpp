@@ -129,23 +129,33 @@ private Q_SLOTS:
         QCOMPARE(rulesOf(advised("")), QStringList());
     }
 
-    // A sensor moves to the first number that nobody has; where all are taken only the user can know.
-    void freeNumber()
+    // A sensor moves to the first number that nobody has; where all are taken only the user can know. The
+    // ignition is where a new configuration has it, in the use that the line has.
+    void mends_data()
     {
-        const auto mendsAfter = [this](const QString& edits) {
-            vlk::Configuration configuration = factory_;
-            edit(configuration, "BLUETOOTH/FS1/idx=2" + edits);
-            const auto findings = vlk::review::advise(configuration);
-            const int at = rulesOf(findings).indexOf("fuel_numbers");
-            QString told;
-            for (const vlk::review::Mend& mend : findings.at(at).mends)
-                told += mend.path + '=' + mend.value;
-            return told;
-        };
-        QCOMPARE(mendsAfter({}), QString("BLUETOOTH/FS1/idx=3"));
-        QCOMPARE(mendsAfter("; BLUETOOTH/SENS2/type=1; BLUETOOTH/FS2/idx=3"), QString("BLUETOOTH/FS1/idx=4"));
-        QCOMPARE(mendsAfter("; RS485/FS3/use=1; RS485/FS4/use=1; RS485/FS5/use=1; RS485/FS6/use=1"),
-                 QString());
+        const DataTable<QString, QString, QString> table({"rule", "edits", "mends"});
+        const QString second = "BLUETOOTH/FS1/idx=2";
+        table.row("free number", "fuel_numbers", second, "BLUETOOTH/FS1/idx=3 ");
+        table.row("next number", "fuel_numbers", second + "; BLUETOOTH/SENS2/type=1; BLUETOOTH/FS2/idx=3",
+                  "BLUETOOTH/FS1/idx=4 ");
+        table.row("no number", "fuel_numbers",
+                  second + "; RS485/FS3/use=1; RS485/FS4/use=1; RS485/FS5/use=1; RS485/FS6/use=1", "");
+        const QString ignition = "SENSORS/IN1/IN1ADIN/ign=1 ";
+        table.row("ignition", "motion_ignition", "SENSORS/IN1/ign=0", ignition);
+        table.row("unused line", "motion_ignition", "SENSORS/IN1/normState=NU",
+                  "SENSORS/IN1/normState=NB+ " + ignition);
+    }
+    void mends()
+    {
+        QFETCH(QString, rule);
+        QFETCH(QString, edits);
+        vlk::Configuration configuration = factory_;
+        edit(configuration, edits);
+        const auto findings = vlk::review::advise(configuration);
+        QString told;
+        for (const vlk::review::Mend& mend : findings.at(rulesOf(findings).indexOf(rule)).mends)
+            told += mend.path + '=' + mend.value + ' ';
+        QTEST(told, "mends");
     }
 
     void everyRuleIsTested()

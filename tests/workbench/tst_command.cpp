@@ -190,11 +190,11 @@ private Q_SLOTS:
             .row("presets in a folder", "check presets", 0, "", "")
             .row("a preset", "check good.xml bad.xml", 1,
                  "bad.xml: warning: TRACK/POINTS/bend: Unknown key, left out\n", "")
-            .row(
-                "a setting of many parts", "check motion.xml", 1,
-                "motion.xml: warning: TRACK/POINTS/moveTimerSens: Track: Motion is also told by: ignition is "
-                "chosen, but no input line is assigned as ignition.\n",
-                "")
+            .row("a setting of many parts", "check motion.xml", 1,
+                 "motion.xml: warning: SENSORS/IN1/IN1ADIN/ign: Input lines / Assign as ignition: Motion is "
+                 "also "
+                 "told by: ignition is chosen, but no input line is assigned as ignition.\n",
+                 "")
             .row("an empty folder", "check bare", 0, "", "bare: holds no *.xml and no *.tmi\n")
             .row("a folder for a file", "report fleet", 2, "", "fleet: is a folder, and one file is needed\n")
             .row("the system's reason in Russian", "--language ru check x.xml", 2, "",
