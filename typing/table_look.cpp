@@ -46,8 +46,12 @@ public:
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
         const int padding = option.rect.width() - content(option).width();
-        return {QStyledItemDelegate::sizeHint(option, index).width() + padding,
-                option.fontMetrics.height() + kRowPadding};
+        if (!option.features.testFlag(QStyleOptionViewItem::WrapText))
+            return {QStyledItemDelegate::sizeHint(option, index).width() + padding,
+                    option.fontMetrics.height() + kRowPadding};
+        QStyleOptionViewItem cell = option;
+        cell.rect = content(option);
+        return QStyledItemDelegate::sizeHint(cell, index) + QSize(padding, kRowPadding);
     }
 
     bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,

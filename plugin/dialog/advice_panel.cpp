@@ -30,6 +30,7 @@ AdvicePanel::AdvicePanel(ConfigurationReview& review, SettingPlaces& places, QWi
     setModel(model_);
     table()->setSelectionMode(QAbstractItemView::SingleSelection);
     table()->setIconSize({markSize, markSize});
+    table()->setWordWrap(true);
     addToHead({goTo_, mend_});
     connect(&review_, &ConfigurationReview::changed, this, &AdvicePanel::refresh);
     connect(table()->selectionModel(), &QItemSelectionModel::currentChanged, this, &AdvicePanel::showState);
@@ -52,6 +53,18 @@ std::optional<Mark> AdvicePanel::mark() const
     return findings_.empty() ? std::nullopt : markOf(findings_.front().severity);
 }
 
+void AdvicePanel::changeEvent(QEvent* event)
+{
+    ListPanel::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        refresh();
+}
+
+void AdvicePanel::fitTable()
+{
+    table()->resizeRowsToContents();
+}
+
 // The worst first.
 void AdvicePanel::refresh()
 {
@@ -70,7 +83,8 @@ void AdvicePanel::refresh()
                 page->setIcon(QIcon(markPixmap(*mark, palette(), markSize, kMarkRatio)));
             model_.appendRow({page, new QStandardItem(review::adviceText(finding))});
         }
-        table()->resizeColumnsToContents();
+        table()->resizeColumnToContents(0);
+        fitTable();
         table()->setCurrentIndex(model_.index(std::min(std::max(line, 0), model_.rowCount() - 1), 0));
     }
     showState();

@@ -36,6 +36,10 @@ Q_SIGNALS:
 protected:
     void refresh() override;
     void take(int line) override;
+    // Sentences take the lines that they need.
+    void fitTable() override;
+    // The marks have colours of their own.
+    void changeEvent(QEvent* event) override;
 
 private:
     void showState();

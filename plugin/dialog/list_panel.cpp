@@ -11,6 +11,7 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QTableView>
+#include <QTimer>
 #include <QToolButton>
 
 #include <algorithm>
@@ -37,6 +38,7 @@ ListPanel::ListPanel(const char* name, QWidget* parent)
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
     table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table_->installEventFilter(this);
+    table_->viewport()->installEventFilter(this);
     close_->setAutoRaise(true);
     close_->setIcon(lineIcon(LineIcon::cross));
     auto* layout = new QVBoxLayout(this);
@@ -128,6 +130,9 @@ bool ListPanel::eventFilter(QObject* watched, QEvent* event)
     }
     if (watched == edge_ && event->type() == QEvent::MouseButtonRelease)
         Q_EMIT heightChosen(height());
+    // When the table has seen it itself.
+    if (watched == table_->viewport() && event->type() == QEvent::Resize)
+        QTimer::singleShot(0, this, [this] { fitTable(); });
     const int line = table_->currentIndex().row();
     if (watched != table_ || event->type() != QEvent::KeyPress || line < 0)
         return QWidget::eventFilter(watched, event);

@@ -49,6 +49,8 @@ protected:
     void setTitle(const QString& title, QWidget* buddy);
     virtual void refresh() = 0;
     virtual void take(int line) = 0;
+    // The table has another width.
+    virtual void fitTable() {}
     // The space bar, on the lines that are selected; the first one is the current one.
     virtual void toggle(const QVector<int>& /*lines*/) {}
 

@@ -16,6 +16,7 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QPushButton>
 #include <QTableView>
 
@@ -28,9 +29,12 @@ using Against = ConfigurationReview::Against;
 
 namespace {
 
-// Leaves room for notes where the window is small; what is cut the tool tip tells.
-constexpr std::pair<int, int> kWidest[] = {
-    {DifferenceModel::Caption, 230}, {DifferenceModel::Before, 170}, {DifferenceModel::Now, 170}};
+// The least that columns are cut to, one after the other, where the window is small; the tool tip tells what
+// is cut.
+constexpr std::pair<int, int> kNarrowest[] = {{DifferenceModel::Caption, 230},
+                                              {DifferenceModel::Before, 110},
+                                              {DifferenceModel::Now, 110},
+                                              {DifferenceModel::Page, 90}};
 
 // By Against.
 constexpr const char* kSides[] = {"rev_109", "rev_110", "rev_111", "rev_193"};
@@ -50,6 +54,7 @@ ReviewPanel::ReviewPanel(ConfigurationReview& review, SettingPlaces& places, QWi
 {
     setModel(model_);
     table()->setIconSize({markSize, markSize});
+    elideInTheMiddle(table(), DifferenceModel::Caption);
     for (const char* key : kSides)
         against_->addItem(QLatin1String(key));
     for (const auto& [action, isChosen] : {std::pair(all_, true), std::pair(none_, false)}) {
@@ -109,9 +114,24 @@ void ReviewPanel::showState()
     table()->clearSpans();
     for (int line = 0; line < model_.problems(); ++line)
         table()->setSpan(line, DifferenceModel::Now, 1, 2);
+    fitTable();
+}
+
+void ReviewPanel::fitTable()
+{
     table()->resizeColumnsToContents();
-    for (const auto& [column, widest] : kWidest)
-        table()->setColumnWidth(column, std::min(table()->columnWidth(column), widest));
+    QAbstractItemView* view = table();
+    const QHeaderView* heads = table()->horizontalHeader();
+    int excess = std::max(view->sizeHintForColumn(DifferenceModel::Note),
+                          heads->sectionSizeHint(DifferenceModel::Note)) -
+                 view->viewport()->width();
+    for (const auto& [column, least] : kNarrowest)
+        excess += table()->columnWidth(column);
+    for (const auto& [column, least] : kNarrowest) {
+        const int width = table()->columnWidth(column);
+        table()->setColumnWidth(column, std::clamp(width - excess, std::min(least, width), width));
+        excess -= width - table()->columnWidth(column);
+    }
 }
 
 bool ReviewPanel::choosePreset()

@@ -38,6 +38,8 @@ protected:
     void refresh() override { model_.refresh(); }
     void take(int line) override;
     void toggle(const QVector<int>& lines) override;
+    // By what they hold, and narrower where they would not fit beside each other.
+    void fitTable() override;
 
 private:
     void showState();
