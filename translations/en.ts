@@ -1610,6 +1610,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_256"><translation>As written</translation></message>
     <message id="rev_257"><translation>Differences from what was written (%1)</translation></message>
     <message id="rev_260"><translation>Unsaved changes: %1. They are offered when this configuration is opened again.</translation></message>
+    <message id="rev_270"><translation>Compare with another file</translation></message>
+    <message id="rev_271"><translation>Apply a preset</translation></message>
+    <message id="rev_272"><translation>Pushed by</translation></message>
     <message id="tmiex_001"><translation>Navigation</translation></message>
     <message id="tmiex_002"><translation>Receiver</translation></message>
     <message id="tmiex_003"><translation>Satellites</translation></message>

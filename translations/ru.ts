@@ -1610,6 +1610,9 @@
     <message id="rev_256"><translation>Записано</translation></message>
     <message id="rev_257"><translation>Отличия от записанного (%1)</translation></message>
     <message id="rev_260"><translation>Несохранённые изменения: %1. Их предложат, когда эту конфигурацию откроют снова.</translation></message>
+    <message id="rev_270"><translation>Сравнение с другим файлом</translation></message>
+    <message id="rev_271"><translation>Применение шаблона</translation></message>
+    <message id="rev_272"><translation>Сдвинуто параметром</translation></message>
     <message id="tmiex_001"><translation>Навигация</translation></message>
     <message id="tmiex_002"><translation>Приёмник</translation></message>
     <message id="tmiex_003"><translation>Спутники</translation></message>

@@ -14,12 +14,24 @@ namespace vlk {
 
 namespace {
 
+// Files may be carried to a system that does not tell the case of letters.
+QString freeName(const PathQuestion& question)
+{
+    const QStringList taken = vlkDevice ? QDir(vlkDevice->xmlFolder()).entryList() : QStringList();
+    QString free = question.name;
+    for (int number = 2; taken.contains(free + QLatin1Char('.') + question.suffix, Qt::CaseInsensitive);
+         ++number)
+        free = QStringLiteral("%1 (%2)").arg(question.name, QString::number(number));
+    return free;
+}
+
 QString askPath(QWidget* parent, const PathQuestion& question, const QString& dialogName)
 {
     if (!vlkDevice)
         return {};
-    QFileDialog dialog(parent, question.caption, vlkDevice->xmlFolder() + QLatin1Char('/') + question.name,
-                       question.filter);
+    const QString path =
+        QStringLiteral("%1/%2.%3").arg(vlkDevice->xmlFolder(), question.name, question.suffix);
+    QFileDialog dialog(parent, question.caption, path, question.filter);
     dialog.setObjectName(dialogName);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     // Set in the dialog, so that it asks about the file with the suffix before it is replaced.
@@ -38,9 +50,8 @@ QString configurationPathToWrite(const QString& part)
 QString askConfigurationPath(QWidget* parent, const QString& objectName)
 {
     const auto text = [](const char* key) { return QCoreApplication::translate("vlk", key); };
-    const QString name = QStringLiteral("%1(%2).xml")
-                             .arg(asFileName(objectName, QStringLiteral("_")),
-                                  now().toString(QStringLiteral("dd-MM-yy hh_mm_ss")));
+    const QString name = QStringLiteral("%1(%2)").arg(asFileName(objectName, QStringLiteral("_")),
+                                                      now().toString(QStringLiteral("dd-MM-yy hh_mm_ss")));
     return askPath(parent,
                    {text("cfgwnd_003"), name, QStringLiteral("%1 XML (*.xml)").arg(text("cfgwnd_004")),
                     QStringLiteral("xml")},
@@ -49,7 +60,9 @@ QString askConfigurationPath(QWidget* parent, const QString& objectName)
 
 QString askPathToSave(QWidget* parent, const PathQuestion& question)
 {
-    return askPath(parent, question, QStringLiteral("fileDialog_Told"));
+    PathQuestion free = question;
+    free.name = freeName(question);
+    return askPath(parent, free, QStringLiteral("fileDialog_Told"));
 }
 
 QString saveAsAsked(const QString& path, const QByteArray& content, bool isPrivate)

@@ -1,5 +1,6 @@
 #include "dialog/report_dialog.h"
 
+#include "base/file_name.h"
 #include "dialog/configuration_review.h"
 #include "dialog/file_names.h"
 #include "dialog/report_sheet.h"
@@ -148,9 +149,11 @@ void ReportDialog::print()
 void ReportDialog::save(const char* kind, const QString& suffix,
                         QByteArray (*content)(const QString& html, bool isOnePage))
 {
-    const QString path =
-        askPathToSave(this, {tr(kind), tr("rev_217") + QLatin1Char('.') + suffix,
-                             suffix.toUpper() + QStringLiteral(" (*.%1)").arg(suffix), suffix});
+    const QString object = asFileName(review_.written().value(QStringLiteral("TRANS/OBJECT/name")).trimmed(),
+                                      QStringLiteral("_"));
+    const QString name = QStringLiteral("%1 %2").arg(tr("rev_217"), object).trimmed();
+    const QString path = askPathToSave(
+        this, {tr(kind), name, suffix.toUpper() + QStringLiteral(" (*.%1)").arg(suffix), suffix});
     if (path.isEmpty())
         return;
     const QString failure = saveAsAsked(path, content(html_, onePage_->isChecked()), secrets_->isChecked());

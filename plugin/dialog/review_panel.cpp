@@ -38,6 +38,8 @@ constexpr std::pair<int, int> kNarrowest[] = {{DifferenceModel::Caption, 230},
 
 // By Against.
 constexpr const char* kSides[] = {"rev_109", "rev_110", "rev_111", "rev_193"};
+constexpr const char* kQuestions[] = {nullptr, nullptr, "rev_270", "rev_271"}; // for its file
+constexpr const char* kFilters[] = {nullptr, nullptr, "rev_118", "rev_205"};
 constexpr const char* kVerbs[] = {"rev_112", "rev_113", "rev_113", "rev_197"};
 constexpr const char* kSteps[] = {"rev_120", "rev_121", "rev_121", "rev_196"};
 
@@ -145,8 +147,8 @@ bool ReviewPanel::chooseAgainst(int index)
     QString path;
     bool isRead = true;
     if (against == Against::otherFile || against == Against::preset) {
-        path = QFileDialog::getOpenFileName(this, tr(kSides[index]),
-                                            vlkDevice ? vlkDevice->xmlFolder() : QString(), tr("rev_118"));
+        path = QFileDialog::getOpenFileName(
+            this, tr(kQuestions[index]), vlkDevice ? vlkDevice->xmlFolder() : QString(), tr(kFilters[index]));
         isRead = !path.isEmpty();
     }
     isRead = isRead && review_.compareWith(against, path);
@@ -191,8 +193,8 @@ void ReviewPanel::saveAsPreset()
 
 void ReviewPanel::saveCsv()
 {
-    const QString path = askPathToSave(this, {tr("rev_115"), tr("rev_108") + QStringLiteral(".csv"),
-                                              QStringLiteral("CSV (*.csv)"), QStringLiteral("csv")});
+    const QString path = askPathToSave(
+        this, {tr("rev_115"), tr("rev_108"), QStringLiteral("CSV (*.csv)"), QStringLiteral("csv")});
     if (path.isEmpty())
         return;
     // With a mark of the encoding, by which spreadsheets know it.

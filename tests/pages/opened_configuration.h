@@ -69,6 +69,7 @@ protected:
     static void chooseNext(const QString& path)
     {
         answerNext<QFileDialog>([path](QFileDialog* dialog) {
+            suggested_ = QFileInfo(dialog->selectedFiles().value(0)).fileName();
             dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
             QMetaObject::invokeMethod(dialog, "accept");
         });
@@ -112,6 +113,7 @@ protected:
         return count;
     }
 
+    static inline QString suggested_; // the name of the last file that was asked for
     QTemporaryDir folder_;
     TestDevice device_;
     std::unique_ptr<VLK_Widget_Config> dialog_;

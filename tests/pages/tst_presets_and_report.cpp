@@ -61,23 +61,29 @@ private Q_SLOTS:
         dialog_->switchToQuick();
         auto* light = dialog_->findChild<QWidget*>("page_Light");
         auto* address = light->findChild<QLineEdit*>("GPRSSrv_lineEdit_IP_DNS_Main");
-        type(address, "example.com");
         QVERIFY(dialog_->showPreset(folder_.filePath("chosen.xml")));
+        type(address, "example.com");
         QCOMPARE(table->model()->rowCount(), 1);
         child<QPushButton>("pushButton_TakeOver")->click();
         QCOMPARE(light->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main")->value(), 5555);
         QCOMPARE(address->text(), QString("example.com"));
     }
 
-    // It sets all fields of a record, which is told before and behind.
+    // It sets all fields of a record, which is told before and behind. What is there keeps its name.
     void presetOfOneField()
     {
+        const QString here = QDir::currentPath();
+        QDir::setCurrent(folder_.path());
+        QDir().mkpath(device_.xmlFolder());
+        writeFile(device_.xmlFolder() + "/Rev_204.XML", {});
         auto* box = child<QCheckBox>("checkBox_State_2");
         box->click();
         history().settle();
         child<QToolButton>("toolButton_Differences")->click();
         chooseNext(folder_.filePath("field.xml"));
         child<QPushButton>("pushButton_SavePreset")->click();
+        QCOMPARE(suggested_, QString("rev_204 (2).xml"));
+        QDir::setCurrent(here);
         QVERIFY(child<QLabel>("label_Unsaved")->text().endsWith("rev_252"));
         history().undo();
         QVERIFY(dialog_->showPreset(folder_.filePath("field.xml")));
@@ -128,6 +134,7 @@ private Q_SLOTS:
     void reportIsKept()
     {
         type(child<QLineEdit>("Transfer_lineEdit_GSM_Pin1"), "8765");
+        type(child<QLineEdit>("lineEdit_Name"), "MAZ/5440");
         // Also what is still being typed.
         auto* port = child<QSpinBox>("GPRSSrv_spinBox_Port_Main");
         port->setFocus();
@@ -147,6 +154,7 @@ private Q_SLOTS:
             return readFile(path);
         };
         QVERIFY(save("pushButton_ReportPdf", folder_.filePath("report.pdf")).startsWith("%PDF"));
+        QCOMPARE(suggested_, QString("rev_217 MAZ_5440.pdf"));
         child<QCheckBox>("checkBox_ReportSecrets")->click();
         const QString html = folder_.filePath("report.html");
         QVERIFY(save("pushButton_ReportHtml", html).contains("8765"));
