@@ -21,6 +21,15 @@ public:
 
     QString words() const { return words_(); }
 
+    // The row of the page that the step began with; none where it left this one as it was.
+    std::optional<int> moverOf(int page, int row) const
+    {
+        const auto is = [&](const Part& part) { return part.page == page && part.row == row; };
+        if (std::ranges::none_of(parts_, is))
+            return {};
+        return isPlain_ && parts_.front().page == page ? parts_.front().row : -1;
+    }
+
     int id() const override { return isPlain_ ? 1 : -1; }
     // An edit of the same setting, which has not been left for another one.
     bool mergeWith(const QUndoCommand* command) override
@@ -228,6 +237,15 @@ QString EditHistory::undoText() const
 QString EditHistory::redoText() const
 {
     return textOf(steps_.index());
+}
+
+int EditHistory::moverOf(int page, int row) const
+{
+    for (int step = steps_.index() - 1; step >= 0; --step) {
+        if (const auto mover = static_cast<const Step*>(steps_.command(step))->moverOf(page, row))
+            return *mover;
+    }
+    return -1;
 }
 
 } // namespace vlk

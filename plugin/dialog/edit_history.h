@@ -50,6 +50,9 @@ public:
     // What they would do, empty without a step.
     QString undoText() const;
     QString redoText() const;
+    // The row of the page by whose edit this row was moved last; its own where that was edited itself, and -1
+    // where it was moved by none or by a step that no single edit began.
+    int moverOf(int page, int row) const;
 
 Q_SIGNALS:
     // Pages, by their place, hold other values than before; steps can be other ones, too.

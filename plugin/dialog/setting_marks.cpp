@@ -3,6 +3,8 @@
 #include "dialog/setting_menu.h"
 #include "review/difference_text.h"
 #include "review/setting_parts.h"
+#include "review/setting_words.h"
+#include "review/value_text.h"
 #include "typing/field_mark.h"
 #include "windows/cell_marks.h"
 
@@ -131,6 +133,7 @@ SettingMarks::Spots SettingMarks::spotsOf(const PageSettings& page) const
                 Told& told = spots[{row, part}];
                 told.isChanged = true;
                 told.before = before;
+                told.mover = moverText(page, row);
             }
             break;
         }
@@ -215,8 +218,11 @@ void SettingMarks::mark(const PageSettings& settings, QWidget* widget)
         }
         if (!isTold)
             continue;
-        if (told->second.isChanged)
+        if (told->second.isChanged) {
             changes << changeText(settings, spot);
+            if (!told->second.mover.isEmpty())
+                changes << told->second.mover;
+        }
         severity = std::max(severity, told->second.severity);
         advice << told->second.advice;
     }
@@ -224,6 +230,32 @@ void SettingMarks::mark(const PageSettings& settings, QWidget* widget)
         return;
     markField(widget, MarkReason::changed, Mark::changed, changes.join(QLatin1Char('\n')));
     markField(widget, MarkReason::advice, severity, advice.join(QLatin1Char('\n')));
+}
+
+// Of two values that keep their distance the one pushes the other, which may lie far from what was typed.
+QString SettingMarks::moverText(const PageSettings& page, int row) const
+{
+    const Values& values = page.values();
+    const std::vector<const Distance*>& distances = values.row(row).distances;
+    if (distances.empty())
+        return {};
+    const std::vector<PageSettings*>& pages = review_.history().pages();
+    const int place = static_cast<int>(std::ranges::find(pages, &page) - pages.begin());
+    const int mover = review_.history().moverOf(place, row);
+    const auto rule = std::ranges::find_if(distances, [mover](const Distance* one) {
+        return mover == one->first.row || mover == one->second.row || mover == one->gapFrom.row;
+    });
+    if (mover < 0 || mover == row || rule == distances.end())
+        return {};
+    QString told = review::wordsOf(values.layout(), mover).caption;
+    const auto shown = [&](const Path& path) {
+        return shownNumber(*values.setting(path.row).number(), values.value(path.row));
+    };
+    // What it is worth now explains nothing once it has moved away again.
+    constexpr double tiny = 1e-6;
+    if (shown((*rule)->second) - shown((*rule)->first) <= values.gapOf(**rule) + tiny)
+        told += QLatin1Char(' ') + valueText(values, mover);
+    return withColon("rev_272", told);
 }
 
 QString SettingMarks::changeText(const PageSettings& page, Spot spot) const

@@ -47,6 +47,7 @@ private:
     {
         bool isChanged = false;
         QString before; // of a changed one, as a file holds it
+        QString mover;  // what moved it, in words, where it keeps a distance
         Mark severity{};
         QStringList advice;
 
@@ -67,6 +68,7 @@ private:
     bool learn(PageSettings& page);
     Spots spotsOf(const PageSettings& page) const;
     void addAdvice(const PageSettings& page, Spots* spots) const;
+    QString moverText(const PageSettings& page, int row) const;
     void mark(const PageSettings& page, QWidget* widget);
     QString changeText(const PageSettings& page, Spot spot) const;
     void markTabs();
