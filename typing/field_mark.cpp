@@ -1,6 +1,7 @@
 #include "typing/field_mark.h"
 
 #include <QAbstractButton>
+#include <QAbstractScrollArea>
 #include <QEvent>
 #include <QLabel>
 #include <QPainter>
@@ -10,6 +11,7 @@
 
 #include <algorithm>
 #include <map>
+#include <optional>
 
 namespace vlk {
 
@@ -134,46 +136,78 @@ private:
         update();
     }
 
+    // Where the shape stands, and in which of the widgets around the field.
+    struct Spot
+    {
+        QWidget* host;
+        QPoint corner;
+    };
+
     // Left of the caption, or of a box that owns its words, else between the caption and its field, else in
     // the field's corner.
-    QPoint spot() const
+    Spot spot() const
     {
+        QWidget* form = field_->parentWidget();
         const QRect field = field_->geometry();
         if (caption_ && !caption_->isHidden()) {
-            const QRect caption(caption_->mapTo(parentWidget(), QPoint(0, 0)), caption_->size());
-            const int y = caption.center().y() - markSize / 2;
-            const QPoint before(caption.left() - markSize - gap, y);
-            if (isFree(before))
-                return before;
+            const QRect caption(caption_->mapTo(form, QPoint(0, 0)), caption_->size());
+            if (const auto before = leftOf(caption))
+                return *before;
             const int words = caption.left() + std::min(caption.width(), caption_->sizeHint().width());
-            const QPoint between(field.left() - markSize - gap, y);
-            if (between.x() >= words && isFree(between))
-                return between;
+            const QPoint between(field.left() - markSize - gap, caption.center().y() - markSize / 2);
+            if (between.x() >= words && isFree(*form, between, nullptr))
+                return {form, between};
         } else if (qobject_cast<QAbstractButton*>(field_)) {
-            const QPoint before(field.left() - markSize - gap, field.center().y() - markSize / 2);
-            if (isFree(before))
-                return before;
+            if (const auto before = leftOf(field))
+                return *before;
         }
         // Over the corner rather than in it, where it would hide what the field holds.
-        return {std::max(0, field.left() - markSize / 2), std::max(0, field.top() - markSize / 2)};
+        return {form, {std::max(0, field.left() - markSize / 2), std::max(0, field.top() - markSize / 2)}};
     }
 
-    bool isFree(QPoint corner) const
+    // Beside a part of the form; where that begins at its edge, in the margin of what stands around it.
+    std::optional<Spot> leftOf(const QRect& part) const
+    {
+        QPoint corner(part.left() - markSize - gap, part.center().y() - markSize / 2);
+        const QWidget* inner = nullptr;
+        for (QWidget* host = field_->parentWidget();; host = host->parentWidget()) {
+            // A margin may be as narrow as the shape.
+            const QPoint close(std::max(corner.x(), std::min(corner.x() + gap, 0)), corner.y());
+            if (close.x() >= -1)
+                return isFree(*host, close, inner) ? std::optional(Spot{host, close}) : std::nullopt;
+            const QWidget* outer = host->parentWidget();
+            if (host->isWindow() || qobject_cast<const QAbstractScrollArea*>(outer->parentWidget()))
+                return std::nullopt;
+            corner = host->mapToParent(corner);
+            inner = host;
+        }
+    }
+
+    // `inner`: the part of the host that holds the field.
+    bool isFree(const QWidget& host, QPoint corner, const QWidget* inner) const
     {
         const QRect shape(corner, size());
-        const auto siblings = parentWidget()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-        return parentWidget()->rect().contains(shape) &&
+        const auto siblings = host.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+        return host.rect().adjusted(-1, 0, 0, 0).contains(shape) &&
                std::none_of(siblings.begin(), siblings.end(), [&](const QWidget* other) {
-                   return other != this && other != caption_ && !other->isHidden() &&
+                   return other != this && other != caption_ && other != inner && !other->isHidden() &&
                           other->geometry().intersects(shape);
                });
     }
 
     void place()
     {
-        const bool isShown = !reasons_.empty() && !field_->isHidden();
-        if (isShown)
-            move(spot());
+        bool isShown = !reasons_.empty();
+        if (isShown) {
+            const auto [host, corner] = spot();
+            if (host != parentWidget())
+                setParent(host);
+            // Whose place is the field's, too.
+            for (QWidget* inner = field_->parentWidget(); inner != host; inner = inner->parentWidget())
+                inner->installEventFilter(this);
+            move(corner);
+            isShown = field_->isVisibleTo(host);
+        }
         setVisible(isShown);
         raise();
         const bool isOutlined = isShown && worst() == Mark::invalid;

@@ -2,7 +2,8 @@
 
 // Marks on the fields of a window. A mark is a shape of 10 pixels at the field's caption, in a colour that
 // follows the lightness of the window; an invalid field is outlined too. Where there is no room beside a
-// caption the shape stands in the field's upper left corner, so that nothing moves.
+// caption, nor in the margin of what stands around it, the shape stands in the field's upper left corner, so
+// that nothing moves.
 //
 // What a mark says stands in the tool tip and in the accessible description of its field. A field may be
 // marked for several reasons at a time: the worst one gives the shape, the texts are all told.

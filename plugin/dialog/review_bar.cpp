@@ -50,14 +50,14 @@ QString lineOf(const review::Hit& hit, const Values& values)
 
 constexpr const char* kMarkProperty = "mark";
 
-// Painted anew only where it is another one.
+// Painted anew only where it is another one, in the colours of the window, which has new ones first.
 void setMark(QToolButton* button, std::optional<Mark> mark)
 {
     const QVariant number = mark ? QVariant(static_cast<int>(*mark)) : QVariant();
     if (button->property(kMarkProperty) == number)
         return;
     button->setProperty(kMarkProperty, number);
-    button->setIcon(mark ? QIcon(markPixmap(*mark, button->palette(), kMarkSide, 2)) : QIcon());
+    button->setIcon(mark ? QIcon(markPixmap(*mark, button->window()->palette(), kMarkSide, 2)) : QIcon());
 }
 
 } // namespace

@@ -30,7 +30,7 @@ void TabNavigation::setMark(int tab, std::optional<Mark> mark, const QString& to
     constexpr int ratio = 2;
     QPixmap pixmap(ratio * QSize(markSize, markSize));
     pixmap.fill(Qt::transparent);
-    const QIcon icon(mark ? markPixmap(*mark, tabs()->palette(), markSize, ratio) : pixmap);
+    const QIcon icon(mark ? markPixmap(*mark, tabs()->window()->palette(), markSize, ratio) : pixmap);
     tabs()->setTabIcon(tab, icon);
     tabs()->setTabToolTip(tab, told);
     menu()->actions().at(tab)->setIcon(icon);

@@ -150,11 +150,26 @@ void VLK_Form_Config_Bluetooth::markIfBound(QTreeWidgetItem* item)
     }
     if (bound == item->toolTip(0))
         return;
-    item->setIcon(0, bound.isEmpty() ? QIcon()
-                                     : QIcon(vlk::markPixmap(vlk::Mark::right, palette(), vlk::markSize,
-                                                             devicePixelRatioF())));
     item->setToolTip(0, bound);
     item->setData(0, Qt::AccessibleDescriptionRole, bound);
+    showMark(item);
+}
+
+void VLK_Form_Config_Bluetooth::showMark(QTreeWidgetItem* item)
+{
+    item->setIcon(0, item->toolTip(0).isEmpty() ? QIcon()
+                                                : QIcon(vlk::markPixmap(vlk::Mark::right, palette(),
+                                                                        vlk::markSize, devicePixelRatioF())));
+}
+
+// The mark has colours of its own.
+void VLK_Form_Config_Bluetooth::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange)
+        return;
+    for (int row = 0; row < ui_->treeWidget_Bt_List->topLevelItemCount(); ++row)
+        showMark(ui_->treeWidget_Bt_List->topLevelItem(row));
 }
 
 void VLK_Form_Config_Bluetooth::markBound()

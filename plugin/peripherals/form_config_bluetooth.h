@@ -61,12 +61,16 @@ public Q_SLOTS:
     void slot_pressed_Btn_Bt_Cancel();
     void slot_currentIndexChanged_BtDevice(const QString& text);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void setConnected(bool connected);
     void applyConnection();
     void clearList();
     // Devices that a sensor is bound to already have a mark.
     void markIfBound(QTreeWidgetItem* item);
+    void showMark(QTreeWidgetItem* item);
     void markBound();
     void endSearch(bool canAdd);
     void offerSensors(const QPoint& where);

@@ -1,8 +1,8 @@
 // Marks at settings and tabs, and the menu of a setting.
 
-#include "dialog/setting_places.h"
 #include "pages/opened_configuration.h"
 #include "review/mask_field.h"
+#include "typing/field_mark.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -90,6 +90,33 @@ private Q_SLOTS:
         QCOMPARE(choose(box, "action_BringBack"), 3);
         QCOMPARE(saved(), before);
         QVERIFY(!mark->isVisible());
+    }
+
+    // The window has the palette before its parts have it.
+    void otherColours()
+    {
+        type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
+        const QPalette before = QApplication::palette();
+        QApplication::setPalette(QPalette(QColor(0x35, 0x37, 0x3a)));
+        const QColor colour = vlk::markColor(vlk::Mark::changed, QApplication::palette());
+        for (const QIcon& icon : {child<QToolButton>("toolButton_Differences")->icon(),
+                                  child<QTabWidget>("tabWidget")->tabIcon(0)})
+            QCOMPARE(icon.pixmap(vlk::markSize).toImage().pixelColor(4, 4), colour);
+        QApplication::setPalette(before);
+    }
+
+    // A box in a frame of its own has its mark in the margin of the group, beside it.
+    void markBesideABox()
+    {
+        child<QTabWidget>("tabWidget")->setCurrentIndex(6);
+        auto* box = child<QCheckBox>("checkBox_Ignition_In1");
+        QTest::keyClick(box, Qt::Key_Space);
+        QCoreApplication::processEvents();
+        const auto* mark = child<QWidget>("mark_checkBox_Ignition_In1");
+        const QRect shape(mark->mapTo(dialog_.get(), QPoint(0, 0)), mark->size());
+        const QRect owner(box->mapTo(dialog_.get(), QPoint(0, 0)), box->size());
+        QVERIFY(mark->isVisible() && !shape.intersects(owner));
+        QVERIFY(std::abs(shape.center().y() - owner.center().y()) <= 1);
     }
 
     // Advice about one of many boxes marks that box.
