@@ -21,8 +21,8 @@ namespace {
 Q_LOGGING_CATEGORY(lcUnsaved, "vlk.save.unsaved")
 Q_LOGGING_CATEGORY(lcKept, "vlk.unsaved.kept")
 
-// Behind an edit. With the time that a slow disk takes it stays below a second.
-constexpr int kDelayMs = 500;
+// Behind an edit. With the time that a slow disk or a busy machine takes it stays below a second.
+constexpr int kDelayMs = 300;
 // More are never in work at a time.
 constexpr std::size_t kMostHandedOver = 10;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// Keeps on disk what is being edited (review/recovery.h), half a second behind, until it is saved to a
+// Keeps on disk what is being edited (review/recovery.h), a third of a second behind, until it is saved to a
 // file, written to the tracker or taken back, and at once when the window closes. A change of windows alone
 // is no edit.
 
