@@ -119,7 +119,7 @@ private Q_SLOTS:
         QVERIFY(std::abs(shape.center().y() - owner.center().y()) <= 1);
     }
 
-    // Advice about one of many boxes marks that box.
+    // Advice about one of many boxes marks that box, until it is followed.
     void markOfOneOfManyBoxes()
     {
         open({});
@@ -129,6 +129,12 @@ private Q_SLOTS:
             [] { return QString(); });
         QVERIFY(child<QWidget>("checkBox_TmrFlag_In1")->toolTip().contains("adv_044"));
         QVERIFY(!child<QWidget>("checkBox_TmrFlag_Engine")->toolTip().contains("adv_044"));
+        for (const vlk::review::Finding& finding : std::vector(dialog_->review().advice())) {
+            if (finding.rule == QString("motion_ignition"))
+                dialog_->review().mend(finding.mends, [] { return QString(); });
+        }
+        QVERIFY(!child<QWidget>("checkBox_TmrFlag_In1")->toolTip().contains("adv_044"));
+        QVERIFY(child<QCheckBox>("checkBox_Ignition_In1")->isChecked());
     }
 };
 
