@@ -13,9 +13,9 @@
 
 namespace {
 
-constexpr int sections = 10;
-constexpr int groups = 6;
-constexpr int keys = 12;
+constexpr int kSections = 10;
+constexpr int kGroups = 6;
+constexpr int kKeys = 12;
 
 QString numbered(const char* stem, int number)
 {
@@ -27,12 +27,12 @@ void saveConfiguration(const QString& path)
     vlk::XmlDocument document(path, "DEVICE");
     document.root()->clear();
     document.root()->setString("model", "R-7106");
-    for (int s = 0; s < sections; ++s) {
+    for (int s = 0; s < kSections; ++s) {
         const auto section = document.root()->child(numbered("SECTION", s));
         section->clear();
-        for (int g = 0; g < groups; ++g) {
+        for (int g = 0; g < kGroups; ++g) {
             const auto group = section->child(numbered("GROUP", g), CXmlNode::Empty);
-            for (int k = 0; k < keys; k += 2) {
+            for (int k = 0; k < kKeys; k += 2) {
                 group->setInt(numbered("number", k), 1000 * k + g);
                 group->setString(numbered("text", k), QString::fromUtf8("Датчик & бак"));
             }
@@ -47,11 +47,11 @@ int loadConfiguration(const QString& path)
 {
     vlk::XmlDocument document(path, "DEVICE");
     int sum = 0;
-    for (int s = 0; s < sections; ++s) {
+    for (int s = 0; s < kSections; ++s) {
         const auto section = document.root()->existing(numbered("SECTION", s));
-        for (int g = 0; g < groups; ++g) {
+        for (int g = 0; g < kGroups; ++g) {
             const auto group = section->existing(numbered("GROUP", g));
-            for (int k = 0; k < keys; k += 2) {
+            for (int k = 0; k < kKeys; k += 2) {
                 sum += group->getInt(numbered("number", k), 0);
                 sum += group->getString(numbered("text", k)).size();
             }

@@ -35,7 +35,7 @@ void openConfigurationAgain(benchmark::State& state)
 
 void loadWalk(benchmark::State& state)
 {
-    char ussd[vlk::balanceUssdSize] = {};
+    char ussd[vlk::kBalanceUssdSize] = {};
     const QString path = bench::wholeConfiguration();
     VLK_Widget_Config_Full window;
     const auto load = [&] {

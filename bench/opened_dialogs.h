@@ -25,7 +25,7 @@ inline QString wholeConfiguration()
 
 inline void openConfiguration(VLK_Widget_Config& dialog)
 {
-    char ussd[vlk::balanceUssdSize] = {};
+    char ussd[vlk::kBalanceUssdSize] = {};
     vlk::OpenRequest request{};
     request.showFull = 1;
     qstrncpy(request.path, wholeConfiguration().toLocal8Bit().constData(), sizeof request.path);

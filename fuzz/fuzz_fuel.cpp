@@ -21,7 +21,7 @@ FuelRows pointsOf(const FuelRows& rows)
 {
     FuelRows points;
     for (const FuelRow& row : rows) {
-        if (isPoint(row) && row.volume.size() + row.value.size() < maxFuelLine)
+        if (isPoint(row) && row.volume.size() + row.value.size() < kMaxFuelLine)
             points.push_back(row);
     }
     return points;
@@ -38,7 +38,7 @@ void csv(const QByteArray& bytes)
     const auto read = readFuelCsv(bytes);
     const FuelRows pasted = readFuelClipboard(QString::fromUtf8(bytes), kCaptions, fuelKind(0)).rows;
     for (const FuelRows& rows : {read.value_or(FuelRows()), pasted}) {
-        expect(rows.size() <= maxFuelRows);
+        expect(rows.size() <= kMaxFuelRows);
         const FuelRows points = pointsOf(rows);
         expect(readFuelCsv(fuelCsv(kCaptions, points)) == points);
     }
@@ -49,14 +49,14 @@ void csv(const QByteArray& bytes)
 
 void document(const QByteArray& bytes)
 {
-    XmlDocument read(bytes, fuelRoot);
+    XmlDocument read(bytes, kFuelRoot);
     const auto rows = read.isOpen() ? fuelTable(read.root()) : FuelRows();
     if (!rows)
         return;
-    expect(rows->size() <= maxFuelRows);
-    XmlDocument written(QString{}, fuelRoot);
+    expect(rows->size() <= kMaxFuelRows);
+    XmlDocument written(QString{}, kFuelRoot);
     putFuelTable(written.root(), "D1", fuelTableName(read.root()), *rows);
-    XmlDocument again(written.text(), fuelRoot);
+    XmlDocument again(written.text(), kFuelRoot);
     expect(fuelTable(again.root())->size() == rows->size());
     FuelPoints points;
     for (const FuelRow& row : *rows)

@@ -17,8 +17,8 @@ namespace vlk {
 
 namespace {
 
-constexpr int gap = 3; // between the shape and the caption
-constexpr const char* propertyName = "fieldMark";
+constexpr int kMarkGap = 3; // between the shape and the caption
+constexpr const char* kPropertyName = "fieldMark";
 
 // The frame round an invalid field.
 class Outline : public QWidget
@@ -54,7 +54,7 @@ public:
           ownDescription_(field->accessibleDescription())
     {
         setObjectName(QStringLiteral("mark_") + field->objectName());
-        resize(markSize, markSize);
+        resize(kMarkSize, kMarkSize);
         const auto labels = parentWidget()->findChildren<QLabel*>();
         const auto caption = std::find_if(labels.begin(), labels.end(),
                                           [field](const QLabel* label) { return label->buddy() == field; });
@@ -154,7 +154,7 @@ private:
             if (const auto before = leftOf(caption))
                 return *before;
             const int words = caption.left() + std::min(caption.width(), caption_->sizeHint().width());
-            const QPoint between(field.left() - markSize - gap, caption.center().y() - markSize / 2);
+            const QPoint between(field.left() - kMarkSize - kMarkGap, caption.center().y() - kMarkSize / 2);
             if (between.x() >= words && isFree(*form, between, nullptr))
                 return {form, between};
         } else if (qobject_cast<QAbstractButton*>(field_)) {
@@ -162,17 +162,17 @@ private:
                 return *before;
         }
         // Over the corner rather than in it, where it would hide what the field holds.
-        return {form, {std::max(0, field.left() - markSize / 2), std::max(0, field.top() - markSize / 2)}};
+        return {form, {std::max(0, field.left() - kMarkSize / 2), std::max(0, field.top() - kMarkSize / 2)}};
     }
 
     // Beside a part of the form; where that begins at its edge, in the margin of what stands around it.
     std::optional<Spot> leftOf(const QRect& part) const
     {
-        QPoint corner(part.left() - markSize - gap, part.center().y() - markSize / 2);
+        QPoint corner(part.left() - kMarkSize - kMarkGap, part.center().y() - kMarkSize / 2);
         const QWidget* inner = nullptr;
         for (QWidget* host = field_->parentWidget();; host = host->parentWidget()) {
             // A margin may be as narrow as the shape.
-            const QPoint close(std::max(corner.x(), std::min(corner.x() + gap, 0)), corner.y());
+            const QPoint close(std::max(corner.x(), std::min(corner.x() + kMarkGap, 0)), corner.y());
             if (close.x() >= -1)
                 return isFree(*host, close, inner) ? std::optional(Spot{host, close}) : std::nullopt;
             const QWidget* outer = host->parentWidget();
@@ -265,7 +265,7 @@ void paintMark(QPainter& painter, Mark mark, const QPalette& palette)
         painter.drawPoint(QPointF(5, 8.4));
         return;
     }
-    painter.drawEllipse(QRectF(0, 0, markSize, markSize));
+    painter.drawEllipse(QRectF(0, 0, kMarkSize, kMarkSize));
     if (mark == Mark::changed)
         return;
     painter.setPen(QPen(inside, 1.6, Qt::SolidLine, Qt::RoundCap));
@@ -279,17 +279,17 @@ QPixmap markPixmap(Mark mark, const QPalette& palette, int side, qreal ratio)
     pixmap.setDevicePixelRatio(ratio);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
-    painter.scale(qreal(side) / markSize, qreal(side) / markSize);
+    painter.scale(qreal(side) / kMarkSize, qreal(side) / kMarkSize);
     paintMark(painter, mark, palette);
     return pixmap;
 }
 
 void markField(QWidget* field, MarkReason reason, Mark mark, const QString& text)
 {
-    auto* shape = static_cast<FieldMark*>(field->property(propertyName).value<QWidget*>());
+    auto* shape = static_cast<FieldMark*>(field->property(kPropertyName).value<QWidget*>());
     if (!shape && !text.isEmpty() && field->parentWidget()) {
         shape = new FieldMark(field);
-        field->setProperty(propertyName, QVariant::fromValue<QWidget*>(shape));
+        field->setProperty(kPropertyName, QVariant::fromValue<QWidget*>(shape));
     }
     if (shape)
         shape->set(reason, mark, text);

@@ -27,7 +27,7 @@ enum class MarkReason { typing, value, changed, advice };
 void markField(QWidget* field, MarkReason reason, Mark mark, const QString& text);
 
 // For marks that stand elsewhere: the colour, and the shape at the painter's origin.
-inline constexpr int markSize = 10;
+inline constexpr int kMarkSize = 10;
 QColor markColor(Mark mark, const QPalette& palette);
 void paintMark(QPainter& painter, Mark mark, const QPalette& palette);
 // Of that many pixels, for a screen of that ratio.

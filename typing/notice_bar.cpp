@@ -41,7 +41,7 @@ NoticeBar::NoticeBar(QWidget* parent, const QString& name)
     close_->setAutoRaise(true);
     close_->setFocusPolicy(Qt::TabFocus);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(kMargin + markSize + kGap, 2, 2, 2);
+    row->setContentsMargins(kMargin + kMarkSize + kGap, 2, 2, 2);
     row->setSpacing(kGap);
     row->addWidget(text_, 1);
     row->addLayout(buttons_);
@@ -240,7 +240,7 @@ void NoticeBar::paintEvent(QPaintEvent* /*event*/)
     QColor tint = markColor(shown->notice.mark, palette());
     tint.setAlphaF(kTint);
     painter.fillRect(rect(), tint);
-    painter.translate(QPoint(kMargin, (height() - markSize) / 2));
+    painter.translate(QPoint(kMargin, (height() - kMarkSize) / 2));
     paintMark(painter, shown->notice.mark, palette());
 }
 

@@ -15,7 +15,7 @@ namespace vlk {
 
 namespace {
 // Longer texts than this are limited by no line.
-constexpr int longest = 1024;
+constexpr int kLongest = 1024;
 } // namespace
 
 TextEntry* TextEntry::join(QLineEdit* line)
@@ -70,7 +70,7 @@ int TextEntry::room() const
 {
     QString probe;
     int place = 0;
-    const int most = std::min(line_->maxLength(), longest);
+    const int most = std::min(line_->maxLength(), kLongest);
     while (probe.size() < most) {
         QString longer = probe + QLatin1Char('0');
         if (line_->validator() && line_->validator()->validate(longer, place) == QValidator::Invalid)

@@ -22,7 +22,7 @@
 
 namespace {
 
-constexpr int failed = 1;
+constexpr int kFailed = 1;
 
 void nameApplication()
 {
@@ -66,12 +66,12 @@ int complain(const workbench::DataFolder& folder, bool withBox)
     std::fprintf(stderr, "%s\n", qPrintable(sentence));
     if (withBox)
         QMessageBox::warning(nullptr, workbench::text("wb_title"), sentence);
-    return failed;
+    return kFailed;
 }
 
 std::unique_ptr<QApplication> makeApplication(int& argc, char* argv[], const QString& noDisplay)
 {
-    const workbench::DisplayGuard guard(noDisplay, failed);
+    const workbench::DisplayGuard guard(noDisplay, kFailed);
     return std::make_unique<QApplication>(argc, argv);
 }
 
@@ -129,7 +129,7 @@ int main(int argc, char* argv[])
         QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         const bool good = runTour(window, line.tour);
         window.close();
-        return good ? 0 : failed;
+        return good ? 0 : kFailed;
     }
     if (!line.open.isEmpty() && started)
         QTimer::singleShot(0, &window, [&] { window.openFile(line.open); });

@@ -8,11 +8,11 @@
 
 namespace vlk {
 
-inline constexpr std::int32_t programVersion[] = {3, 3, 0, 2};
+inline constexpr std::int32_t kProgramVersion[] = {3, 3, 0, 2};
 
 inline QString fileVersionText()
 {
-    return QStringLiteral("%1.%2.%3").arg(programVersion[0]).arg(programVersion[1]).arg(programVersion[2]);
+    return QStringLiteral("%1.%2.%3").arg(kProgramVersion[0]).arg(kProgramVersion[1]).arg(kProgramVersion[2]);
 }
 
 } // namespace vlk

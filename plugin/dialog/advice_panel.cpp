@@ -29,7 +29,7 @@ AdvicePanel::AdvicePanel(ConfigurationReview& review, SettingPlaces& places, QWi
 {
     setModel(model_);
     table()->setSelectionMode(QAbstractItemView::SingleSelection);
-    table()->setIconSize({markSize, markSize});
+    table()->setIconSize({kMarkSize, kMarkSize});
     table()->setWordWrap(true);
     addToHead({goTo_, mend_});
     connect(&review_, &ConfigurationReview::changed, this, &AdvicePanel::refresh);
@@ -80,7 +80,7 @@ void AdvicePanel::refresh()
             auto* page =
                 new QStandardItem(values ? review::wordsOf(values->layout(), place.row).page : QString());
             if (const std::optional<Mark> mark = markOf(finding.severity))
-                page->setIcon(QIcon(markPixmap(*mark, palette(), markSize, kMarkRatio)));
+                page->setIcon(QIcon(markPixmap(*mark, palette(), kMarkSize, kMarkRatio)));
             model_.appendRow({page, new QStandardItem(review::adviceText(finding))});
         }
         table()->resizeColumnToContents(0);

@@ -9,17 +9,17 @@ namespace vlk {
 
 namespace {
 // Status bytes of a command that was carried out.
-constexpr int commandDone = 1;
-constexpr int commandDoneAlso = 49;
+constexpr int kCommandDone = 1;
+constexpr int kCommandDoneAlso = 49;
 // How long a command waits that was refused before its request returned, in milliseconds.
-constexpr int pauseMs = 100;
+constexpr int kPauseMs = 100;
 } // namespace
 
 ConfigMonitor::ConfigMonitor(Window window, QObject* parent)
     : QObject(parent), window_(std::move(window)), timerAnalog_(this)
 {
     repeat_.setSingleShot(true);
-    repeat_.setInterval(pauseMs);
+    repeat_.setInterval(kPauseMs);
     connect(&repeat_, &QTimer::timeout, this, [this] {
         if (repeatsCommand())
             sendCommand();
@@ -191,7 +191,7 @@ void ConfigMonitor::accelCommandAnswered(int status)
 {
     awaitingAnswer_ = 0;
     monitorStep_ = Idle;
-    if (status == commandDone || status == commandDoneAlso) {
+    if (status == kCommandDone || status == kCommandDoneAlso) {
         commandsOnTheWay_ = 0;
         repeat_.stop();
         window_.clearAccelDisplay();

@@ -12,7 +12,7 @@ void loadPages(const ConfigPages& pages, CXmlSection* root, char* ussdBuffer)
     const CXmlSectionPtr balance = system ? system->existing(QStringLiteral("BALANCE")) : nullptr;
     if (root->document()) {
         const QString ussd = balance ? balance->getString(QStringLiteral("USSD")) : QString();
-        qstrncpy(ussdBuffer, ussd.toLocal8Bit().constData(), balanceUssdSize);
+        qstrncpy(ussdBuffer, ussd.toLocal8Bit().constData(), kBalanceUssdSize);
     }
     pages.forEach([root](auto& page) { page.loadFromXml(root); });
     // User parameters come last: they ask other pages for the names of what they hold.

@@ -114,7 +114,7 @@ QVariant DifferenceModel::data(const QModelIndex& index, int role) const
         return cell(line.text, review::placeText(line.text), column);
     }
     if (role == Qt::DecorationRole && index.column() == Page && isProblem)
-        return QIcon(markPixmap(Mark::advice, QGuiApplication::palette(), markSize, kIconRatio));
+        return QIcon(markPixmap(Mark::advice, QGuiApplication::palette(), kMarkSize, kIconRatio));
     if (role == Qt::CheckStateRole && index.column() == Page && line.difference.key >= 0)
         return unchosen_.contains(line.difference.path) ? Qt::Unchecked : Qt::Checked;
     return {};

@@ -55,7 +55,7 @@ ReviewPanel::ReviewPanel(ConfigurationReview& review, SettingPlaces& places, QWi
       all_(namedWidget<QAction>("action_MarkAll", this)), none_(namedWidget<QAction>("action_MarkNone", this))
 {
     setModel(model_);
-    table()->setIconSize({markSize, markSize});
+    table()->setIconSize({kMarkSize, kMarkSize});
     elideInTheMiddle(table(), DifferenceModel::Caption);
     for (const char* key : kSides)
         against_->addItem(QLatin1String(key));

@@ -13,7 +13,7 @@ TabNavigation::TabNavigation(QTabWidget* tabs, const Buttons& buttons) : TabMenu
     buttons_.first->hide();
     buttons_.last->hide();
     buttons_.menu->setMenu(menu());
-    tabs->setIconSize({markSize, markSize});
+    tabs->setIconSize({kMarkSize, kMarkSize});
 }
 
 void TabNavigation::retranslate()
@@ -28,9 +28,9 @@ void TabNavigation::retranslate()
 void TabNavigation::setMark(int tab, std::optional<Mark> mark, const QString& told)
 {
     constexpr int ratio = 2;
-    QPixmap pixmap(ratio * QSize(markSize, markSize));
+    QPixmap pixmap(ratio * QSize(kMarkSize, kMarkSize));
     pixmap.fill(Qt::transparent);
-    const QIcon icon(mark ? markPixmap(*mark, tabs()->window()->palette(), markSize, ratio) : pixmap);
+    const QIcon icon(mark ? markPixmap(*mark, tabs()->window()->palette(), kMarkSize, ratio) : pixmap);
     tabs()->setTabIcon(tab, icon);
     tabs()->setTabToolTip(tab, told);
     menu()->actions().at(tab)->setIcon(icon);

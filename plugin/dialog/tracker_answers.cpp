@@ -48,7 +48,7 @@ void TrackerAnswers::takeSupply(const uchar* record)
     if (!record || liveTab() != ConfigMonitor::Tab::System)
         return;
     const auto* supply = reinterpret_cast<const SupplyRecord*>(record);
-    pages_.forEach([&](ShowsSupply auto& page) { page.setCurrentSupply(supply->values[supplyElement]); });
+    pages_.forEach([&](ShowsSupply auto& page) { page.setCurrentSupply(supply->values[kSupplyElement]); });
 }
 
 void TrackerAnswers::takeAnalog(const uchar* record)
@@ -70,7 +70,7 @@ void TrackerAnswers::takeAccel(const uchar* record)
 void TrackerAnswers::takeAccelResult(const uchar* record)
 {
     if (record)
-        monitor_.accelCommandAnswered(record[accelStatusByte]);
+        monitor_.accelCommandAnswered(record[kAccelStatusByte]);
 }
 
 void TrackerAnswers::takeBtSearchStopped(const uchar& event)

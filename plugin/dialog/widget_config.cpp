@@ -367,7 +367,7 @@ void VLK_Widget_Config::showFull()
     vlk::XmlDocument state(QString(), QStringLiteral("DEVICE"));
     saveToXml(state.root());
     state.root()->commit();
-    char unusedUssd[vlk::balanceUssdSize] = {};
+    char unusedUssd[vlk::kBalanceUssdSize] = {};
     fullWindow_->loadFromXml(state.root(), unusedUssd);
     ui_->stackedWidget->setCurrentWidget(ui_->page_Full);
 }

@@ -45,7 +45,7 @@ CalibrationTable::CalibrationTable(QWidget* parent) : QTableWidget(0, ColumnCoun
     setSelectionMode(NoSelection);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setItemDelegateForColumn(Volume,
-                             new VLK_FuelSensor_Delegate(volumeLimit.top, volumeLimit.decimals, this));
+                             new VLK_FuelSensor_Delegate(kVolumeLimit.top, kVolumeLimit.decimals, this));
 }
 
 void CalibrationTable::setKind(int kind)
@@ -55,7 +55,7 @@ void CalibrationTable::setKind(int kind)
     delete itemDelegateForColumn(Value);
     QAbstractItemDelegate* delegate = nullptr;
     if (editor == Editor::Decimal)
-        delegate = new VLK_FuelSensor_Delegate(voltsLimit.top, voltsLimit.decimals, this);
+        delegate = new VLK_FuelSensor_Delegate(kVoltsLimit.top, kVoltsLimit.decimals, this);
     else if (editor == Editor::Integer)
         delegate = new VLK_FuelSensor_Delegate_Int(this);
     setItemDelegateForColumn(Value, delegate);

@@ -34,7 +34,7 @@ QString formatted(const char* format, const char* key, const QString& sensor = {
 
 int groupOf(int sensor)
 {
-    return fuelGroupOf(fuelSensors[sensor].name[0]);
+    return fuelGroupOf(kFuelSensors[sensor].name[0]);
 }
 
 } // namespace
@@ -96,11 +96,11 @@ VLK_Form_TMI_Fuel_Sensors::~VLK_Form_TMI_Fuel_Sensors() = default;
 void VLK_Form_TMI_Fuel_Sensors::buildTabs()
 {
     const QIcon icon = lineIcon(LineIcon::plus);
-    for (int i = 0; i < fuelSensorCount; ++i) {
-        if (!fuelSensors[i].fitted)
+    for (int i = 0; i < kFuelSensorCount; ++i) {
+        if (!kFuelSensors[i].fitted)
             continue;
-        const QString name = QLatin1String(fuelSensors[i].name);
-        auto* form = new VLK_Form_Fuel_Sensor(fuelSensors[i].kind, name, icon, this);
+        const QString name = QLatin1String(kFuelSensors[i].name);
+        auto* form = new VLK_Form_Fuel_Sensor(kFuelSensors[i].kind, name, icon, this);
         form->setObjectName(name);
         forms_[i] = form;
         connect(form, &VLK_Form_Fuel_Sensor::signal_NeedSaved, this,
@@ -113,7 +113,7 @@ void VLK_Form_TMI_Fuel_Sensors::buildTabs()
         });
         const int number = groupOf(i);
         QTabWidget* tabs = ui_->tabWidget;
-        if (fuelGroups[number].title) {
+        if (kFuelGroups[number].title) {
             VLK_TabWidget*& group = groups_[number];
             if (!group) {
                 group = new VLK_TabWidget(this);
@@ -146,14 +146,14 @@ void VLK_Form_TMI_Fuel_Sensors::retranslate()
     tellOfTable();
     if (isVisible())
         offerKeptTables();
-    for (int i = 0; i < fuelGroupCount; ++i) {
+    for (int i = 0; i < kFuelGroupCount; ++i) {
         if (groups_[i])
             ui_->tabWidget->setTabText(groups_[i]->tabIndex(),
-                                       formatted(fuelGroups[i].format, fuelGroups[i].title));
+                                       formatted(kFuelGroups[i].format, kFuelGroups[i].title));
     }
     forEachForm([this](VLK_Form_Fuel_Sensor& form, int sensor) {
         form.retranslate();
-        const FuelGroup& group = fuelGroups[groupOf(sensor)];
+        const FuelGroup& group = kFuelGroups[groupOf(sensor)];
         tabsOf(sensor)->setTabText(form.tabIndex(), formatted(group.tabFormat, group.tabTitle, form.name()));
     });
 }
@@ -181,7 +181,7 @@ void VLK_Form_TMI_Fuel_Sensors::onLiveRecord(const uchar* record)
     if (!record || isHidden())
         return;
     forEachForm([record](VLK_Form_Fuel_Sensor& form, int sensor) {
-        form.setLiveValue(qFromLittleEndian<quint16>(record + fuelSensors[sensor].liveAt));
+        form.setLiveValue(qFromLittleEndian<quint16>(record + kFuelSensors[sensor].liveAt));
     });
     timer_.start();
     old_.start();
@@ -280,18 +280,18 @@ void VLK_Form_TMI_Fuel_Sensors::slot_NeedSaved(bool on)
 
 void VLK_Form_TMI_Fuel_Sensors::markTabs()
 {
-    const QIcon mark(markPixmap(Mark::changed, palette(), markSize, devicePixelRatioF()));
+    const QIcon mark(markPixmap(Mark::changed, palette(), kMarkSize, devicePixelRatioF()));
     const auto show = [&](QTabWidget* tabs, int index, bool isUnsaved) {
         tabs->setTabIcon(index, isUnsaved ? mark : QIcon());
         tabs->setTabToolTip(index, isUnsaved ? tr("tmiw_262") : QString());
     };
-    std::array<bool, fuelGroupCount> isInGroup{};
+    std::array<bool, kFuelGroupCount> isInGroup{};
     forEachForm([&](const VLK_Form_Fuel_Sensor& form, int sensor) {
         const bool isUnsaved = form.isDirty() || form.isEdited();
         isInGroup[groupOf(sensor)] |= isUnsaved;
         show(tabsOf(sensor), form.tabIndex(), isUnsaved);
     });
-    for (int i = 0; i < fuelGroupCount; ++i) {
+    for (int i = 0; i < kFuelGroupCount; ++i) {
         if (groups_[i])
             show(ui_->tabWidget, groups_[i]->tabIndex(), isInGroup[i]);
     }

@@ -72,7 +72,7 @@ private:
     template <class Act>
     void forEachForm(Act act) const
     {
-        for (int i = 0; i < vlk::fuelSensorCount; ++i) {
+        for (int i = 0; i < vlk::kFuelSensorCount; ++i) {
             if (forms_[i])
                 act(*forms_[i], i);
         }
@@ -115,16 +115,16 @@ private:
 
     std::unique_ptr<Ui::VLK_Designer_Form_TMI_Fuel_Sensors> ui_;
     // By the rows of vlk::fuelGroups and vlk::fuelSensors; null for what this model lacks.
-    std::array<VLK_TabWidget*, vlk::fuelGroupCount> groups_{};
-    std::array<VLK_Form_Fuel_Sensor*, vlk::fuelSensorCount> forms_{};
+    std::array<VLK_TabWidget*, vlk::kFuelGroupCount> groups_{};
+    std::array<VLK_Form_Fuel_Sensor*, vlk::kFuelSensorCount> forms_{};
     vlk::KeptForms kept_;
     // The sensor whose file a form shows, where that has no form of its own.
-    std::array<QString, vlk::fuelSensorCount> fileOf_;
+    std::array<QString, vlk::kFuelSensorCount> fileOf_;
     // How many volumes of a table have lost their fraction in its XML file.
-    std::array<int, vlk::fuelSensorCount> cutIn_{};
+    std::array<int, vlk::kFuelSensorCount> cutIn_{};
     vlk::NoticeBar* bar_;
     // Since the drafts were kept last.
-    std::array<bool, vlk::fuelSensorCount> changed_{};
+    std::array<bool, vlk::kFuelSensorCount> changed_{};
     bool canKeep_ = true; // the disk has taken the drafts so far
     QTimer drafts_;
     int offers_ = 0;  // of kept tables, in the bar

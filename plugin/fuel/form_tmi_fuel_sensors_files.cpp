@@ -146,7 +146,7 @@ void VLK_Form_TMI_Fuel_Sensors::bringBack(const KeptTable& table)
     // With tables of another vehicle on show the title is theirs.
     if (!hasRows())
         ui_->lineEdit_Title->setText(table.vehicle);
-    XmlDocument document(table.path, QLatin1String(fuelRoot));
+    XmlDocument document(table.path, QLatin1String(kFuelRoot));
     load(*form, [&] { form->loadXml(document.root()); });
     form->setEdited(true);
     kept_.show(*form, table.path, std::make_unique<FileClaim>(table.path));
@@ -226,7 +226,7 @@ void VLK_Form_TMI_Fuel_Sensors::loadXml(const QString& path)
         warn(this, tr("tmiw_128"));
         return;
     }
-    XmlDocument document(path, QLatin1String(fuelRoot));
+    XmlDocument document(path, QLatin1String(kFuelRoot));
     if (!document.isOpen())
         return;
     if (document.root()->getString(QStringLiteral("model")) != modelText()) {
@@ -250,7 +250,7 @@ void VLK_Form_TMI_Fuel_Sensors::loadCsv(const QString& path)
         return;
     const QString sensor = QFileInfo(path).fileName().section(QLatin1Char('-'), 0, 0);
     const bool isSensor =
-        std::any_of(std::begin(fuelSensors), std::end(fuelSensors),
+        std::any_of(std::begin(kFuelSensors), std::end(kFuelSensors),
                     [&sensor](const FuelSensor& row) { return sensor == QLatin1String(row.name); });
     if (isSensor)
         select(sensor);
@@ -277,7 +277,7 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Xml()
     if (path.isEmpty())
         return;
     // Made in memory, so that nothing of what the file held before counts.
-    XmlDocument document(QString{}, QLatin1String(fuelRoot));
+    XmlDocument document(QString{}, QLatin1String(kFuelRoot));
     CXmlSection* root = document.root();
     root->setString(QStringLiteral("model"), modelText());
     root->setChildValue(QStringLiteral("objName"), ui_->lineEdit_Title->text());

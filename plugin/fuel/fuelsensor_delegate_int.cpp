@@ -10,7 +10,7 @@ QWidget* VLK_FuelSensor_Delegate_Int::createEditor(QWidget* parent, const QStyle
                                                    const QModelIndex& /*index*/) const
 {
     auto* edit = new QLineEdit(parent);
-    vlk::takeNumbers(edit, vlk::codeLimit.top, vlk::codeLimit.decimals);
+    vlk::takeNumbers(edit, vlk::kCodeLimit.top, vlk::kCodeLimit.decimals);
     return edit;
 }
 

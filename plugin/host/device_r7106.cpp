@@ -44,11 +44,11 @@ VLK_Device_R7106::VLK_Device_R7106() : vendorText_(QStringLiteral("VELTRONIKA"))
     copyText(libraryInfo_.modelName, sizeof libraryInfo_.modelName, vlk::modelText().toUtf8());
     copyText(libraryInfo_.displayName, sizeof libraryInfo_.displayName,
              QStringLiteral("Aster R-7106").toLocal8Bit());
-    libraryInfo_.versionMajor = vlk::programVersion[0];
-    libraryInfo_.versionMinor = vlk::programVersion[1];
-    libraryInfo_.versionPatch = vlk::programVersion[2];
-    libraryInfo_.versionFourth = vlk::programVersion[3];
-    libraryInfo_.interfaceValue = vlk::interfaceValue;
+    libraryInfo_.versionMajor = vlk::kProgramVersion[0];
+    libraryInfo_.versionMinor = vlk::kProgramVersion[1];
+    libraryInfo_.versionPatch = vlk::kProgramVersion[2];
+    libraryInfo_.versionFourth = vlk::kProgramVersion[3];
+    libraryInfo_.interfaceValue = vlk::kInterfaceValue;
 }
 
 void VLK_Device_R7106::initialize(vlk::HostCallback callback)

@@ -95,5 +95,5 @@ private:
     VLK_Widget_Tmi_Table* tmiTable_ = nullptr;
     int hostMode_ = 0;
     bool confirmsWrites_ = false;
-    char balanceUssd_[vlk::balanceUssdSize] = {};
+    char balanceUssd_[vlk::kBalanceUssdSize] = {};
 };

@@ -122,10 +122,10 @@ void fillRecord(void* address, const Record& filled)
 using Answers = vlk::TrackerAnswers;
 using View = VLK_Widget_Tmi_View;
 
-constexpr Entry table[] = {
+constexpr Entry kTable[] = {
     {Message::GetLibraryFlag, &answer<std::int32_t, 1>},
-    {Message::GetInterfaceValue, &answer<std::int32_t, vlk::interfaceValue>},
-    {Message::GetFamilyValue, &answer<std::int32_t, vlk::familyValue>},
+    {Message::GetInterfaceValue, &answer<std::int32_t, vlk::kInterfaceValue>},
+    {Message::GetFamilyValue, &answer<std::int32_t, vlk::kFamilyValue>},
     {Message::SetHostMode,
      [](VLK_Device_R7106& device, const Parameters& parameters) {
          if (parameters.p1)
@@ -188,13 +188,13 @@ constexpr Entry table[] = {
      }},
     {Message::CanLogProgram, &toConfig<&Answers::takeCanLogProgram, std::int32_t>},
     {Message::CurrentRecord,
-     &bytesToView<&View::takeRecord, vlk::currentRecordHeader, vlk::shortestCurrentRecord>},
-    {Message::RecordByNumber, &bytesToView<&View::takeRecord, vlk::recordByNumberHeader>},
-    {Message::RecordByTime, &bytesToView<&View::takeRecord, vlk::recordByTimeHeader>},
-    {Message::RecordOfPeriod, &bytesToView<&View::takeRecord, vlk::recordByTimeHeader>},
-    {Message::ExtraPacket, &bytesToView<&View::takeKeyAnswer, vlk::extraPacketHeader>},
+     &bytesToView<&View::takeRecord, vlk::kCurrentRecordHeader, vlk::kShortestCurrentRecord>},
+    {Message::RecordByNumber, &bytesToView<&View::takeRecord, vlk::kRecordByNumberHeader>},
+    {Message::RecordByTime, &bytesToView<&View::takeRecord, vlk::kRecordByTimeHeader>},
+    {Message::RecordOfPeriod, &bytesToView<&View::takeRecord, vlk::kRecordByTimeHeader>},
+    {Message::ExtraPacket, &bytesToView<&View::takeKeyAnswer, vlk::kExtraPacketHeader>},
     {Message::ClearedRecord,
-     &bytesToView<&View::takeClearedRecord, vlk::currentRecordHeader, vlk::shortestCurrentRecord>},
+     &bytesToView<&View::takeClearedRecord, vlk::kCurrentRecordHeader, vlk::kShortestCurrentRecord>},
     {Message::TachographAnswer, &bytesToView<&View::takeTachographAnswer>},
     {Message::TachographFileAnswer, &bytesToView<&View::takeTachographAnswer>},
     {Message::TachographFileReady,
@@ -227,7 +227,7 @@ constexpr Entry table[] = {
     {Message::GetExtensions,
      [](VLK_Device_R7106&, const Parameters& parameters) {
          vlk::Extensions extensions;
-         extensions.newest = static_cast<std::uint32_t>(std::end(vlk::messages)[-1].number);
+         extensions.newest = static_cast<std::uint32_t>(std::end(vlk::kMessages)[-1].number);
          fillRecord(parameters.p1, extensions);
      }},
     {Message::CompareFiles,
@@ -272,7 +272,7 @@ constexpr Entry table[] = {
      }},
 };
 
-static_assert(std::is_sorted(std::begin(table), std::end(table), [](const Entry& left, const Entry& right) {
+static_assert(std::is_sorted(std::begin(kTable), std::end(kTable), [](const Entry& left, const Entry& right) {
     return left.number < right.number;
 }));
 
@@ -282,8 +282,8 @@ void VLK_Device_R7106::receive(std::uint32_t id, void* p1, void* p2)
 {
     const auto number = static_cast<Message>(id);
     const auto* found =
-        std::lower_bound(std::begin(table), std::end(table), number,
+        std::lower_bound(std::begin(kTable), std::end(kTable), number,
                          [](const Entry& entry, Message wanted) { return entry.number < wanted; });
-    if (found != std::end(table) && found->number == number)
+    if (found != std::end(kTable) && found->number == number)
         found->handle(*this, Parameters{p1, p2});
 }

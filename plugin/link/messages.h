@@ -163,7 +163,7 @@ struct IdPair
 };
 
 // SupplyValues: unsigned 16-bit values of which element `supplyElement` is the supply voltage in millivolts.
-inline constexpr int supplyElement = 7;
+inline constexpr int kSupplyElement = 7;
 struct SupplyRecord
 {
     std::uint16_t values[8];
@@ -380,28 +380,28 @@ struct BroughtSettings
 
 // AnalogRecord is a plain byte record of `analogRecordSize` bytes with unsigned 16-bit little-endian values:
 // the lines IN1, IN2, IN3 in millivolts from byte 15, and the fuel sensors at the bytes that name them.
-inline constexpr int analogRecordSize = 42;
-inline constexpr int analogRecordLine1 = 15;
+inline constexpr int kAnalogRecordSize = 42;
+inline constexpr int kAnalogRecordLine1 = 15;
 
 // AccelCommandResult is a byte record; this byte is the status: 1 and 49 mean done.
-inline constexpr int accelStatusByte = 11;
-inline constexpr int accelResultSize = 12;
+inline constexpr int kAccelStatusByte = 11;
+inline constexpr int kAccelResultSize = 12;
 
 // What GetInterfaceValue and the library information record give.
-inline constexpr int interfaceValue = 1;
+inline constexpr int kInterfaceValue = 1;
 // What GetFamilyValue gives.
-inline constexpr int familyValue = 196;
+inline constexpr int kFamilyValue = 196;
 
 // Size of the buffer that GetBalanceUssd fills.
-inline constexpr int balanceUssdSize = 255;
+inline constexpr int kBalanceUssdSize = 255;
 
 // Bytes in front of the record in the answers that carry one.
-inline constexpr int currentRecordHeader = 3;
-inline constexpr int recordByNumberHeader = 3;
-inline constexpr int recordByTimeHeader = 13;
-inline constexpr int extraPacketHeader = 2;
+inline constexpr int kCurrentRecordHeader = 3;
+inline constexpr int kRecordByNumberHeader = 3;
+inline constexpr int kRecordByTimeHeader = 13;
+inline constexpr int kExtraPacketHeader = 2;
 // A CurrentRecord or ClearedRecord shorter than this, header included, is ignored.
-inline constexpr int shortestCurrentRecord = 101;
+inline constexpr int kShortestCurrentRecord = 101;
 
 #if QT_POINTER_SIZE == 4
 static_assert(offsetof(ConnectInfo, text1) == 4 && offsetof(ConnectInfo, text2) == 8 &&
@@ -455,7 +455,7 @@ constexpr MessageInfo out(Message number, const char* name, std::uint32_t answer
 } // namespace detail
 
 // Every message once, by number.
-inline constexpr MessageInfo messages[] = {
+inline constexpr MessageInfo kMessages[] = {
     detail::in(Message::GetLibraryFlag, "GetLibraryFlag", Parameter::Int32Address, Parameter::None, true),
     detail::in(Message::GetInterfaceValue, "GetInterfaceValue", Parameter::Int32Address, Parameter::None,
                true),

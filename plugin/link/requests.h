@@ -39,6 +39,7 @@ QString eventText(int code);
 // With owner 1 the answer goes to the telemetry view, with 0 nowhere.
 void liveKey(int owner);
 
+// NOLINTBEGIN(readability-identifier-naming): functions under names of their own
 // Path of a configuration file; the file is the host's from then on.
 inline constexpr auto writeConfiguration = &detail::withAddress<Message::WriteConfiguration, QString>;
 inline constexpr auto lines = &detail::withAddress<Message::RequestLines, QByteArray>; // "21,22,23"
@@ -67,5 +68,6 @@ inline constexpr auto tachographQuestion = &detail::withValue<Message::Tachograp
 inline constexpr auto tachographFile = &detail::withAddress<Message::TachographFileRequest, szQueryTaho>;
 inline constexpr auto tachographRead =
     &detail::withAddress<Message::TachographFileRead, QString>; // path to fill
+// NOLINTEND(readability-identifier-naming)
 
 } // namespace vlk::requests

@@ -97,7 +97,7 @@ void VLK_Form_Config_Lines_In::showAnalogRecord(const uchar* record)
         return;
     for (std::size_t line = 0; line < lines_.size(); ++line)
         lines_[line]->setPresentAinValue(
-            volts(qFromLittleEndian<quint16>(record + vlk::analogRecordLine1 + 2 * line)));
+            volts(qFromLittleEndian<quint16>(record + vlk::kAnalogRecordLine1 + 2 * line)));
     age_.answered();
 }
 

@@ -157,9 +157,10 @@ void VLK_Form_Config_Bluetooth::markIfBound(QTreeWidgetItem* item)
 
 void VLK_Form_Config_Bluetooth::showMark(QTreeWidgetItem* item)
 {
-    item->setIcon(0, item->toolTip(0).isEmpty() ? QIcon()
-                                                : QIcon(vlk::markPixmap(vlk::Mark::right, palette(),
-                                                                        vlk::markSize, devicePixelRatioF())));
+    item->setIcon(
+        0, item->toolTip(0).isEmpty()
+               ? QIcon()
+               : QIcon(vlk::markPixmap(vlk::Mark::right, palette(), vlk::kMarkSize, devicePixelRatioF())));
 }
 
 // The mark has colours of its own.

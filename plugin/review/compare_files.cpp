@@ -12,7 +12,7 @@ namespace vlk::review {
 QByteArray configurationText(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || file.size() > CSerialize::maxFileSize)
+    if (!file.open(QIODevice::ReadOnly) || file.size() > CSerialize::kMaxFileSize)
         return {};
     const QByteArray text = file.readAll();
     QXmlStreamReader reader(text);

@@ -22,7 +22,7 @@ namespace {
 constexpr char kMark[] = "VLK unsaved 1\n";
 constexpr int kMarkSize = sizeof kMark - 1;
 constexpr int kSumSize = 32;
-constexpr qint64 kMostBytes = 2 * CSerialize::maxFileSize + 100'000;
+constexpr qint64 kMostBytes = 2 * CSerialize::kMaxFileSize + 100'000;
 constexpr QDataStream::Version kStreamVersion = QDataStream::Qt_5_12;
 constexpr int kStemSize = 16;
 const QString kSuffix = QStringLiteral(".unsaved");

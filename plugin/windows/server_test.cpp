@@ -75,7 +75,7 @@ void vlk_Socket::printResults(const QHostInfo& info)
     // An answer that was already on its way when its lookup was dropped still arrives.
     if (info.lookupId() != lookup_)
         return;
-    lookup_ = noLookup;
+    lookup_ = kNoLookup;
     hostName_ = info.hostName();
     if (ok_ && !peerIp_.isEmpty() && !hostName_.isEmpty())
         finish();
@@ -128,9 +128,9 @@ void vlk_Socket::showElapsed()
 
 void vlk_Socket::dropLookup()
 {
-    if (lookup_ != noLookup)
+    if (lookup_ != kNoLookup)
         QHostInfo::abortHostLookup(lookup_);
-    lookup_ = noLookup;
+    lookup_ = kNoLookup;
 }
 
 void vlk_Socket::finish()

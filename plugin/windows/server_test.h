@@ -57,7 +57,7 @@ private:
     void dropLookup();
     void finish();
 
-    static constexpr int noLookup = -1;
+    static constexpr int kNoLookup = -1;
 
     const vlk::ServerTestLimits limits_;
     QTcpSocket socket_;
@@ -68,6 +68,6 @@ private:
     QString hostName_;
     bool ok_ = false;
     bool testing_ = false;
-    int lookup_ = noLookup;
+    int lookup_ = kNoLookup;
     int elapsed_ = 0; // steps of the counter
 };

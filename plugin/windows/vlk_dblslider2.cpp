@@ -8,14 +8,14 @@
 
 namespace {
 
-constexpr int sliderHeight = 20;
-constexpr int lowestLine = sliderHeight - 1;
-constexpr int trackTop = 9;
-constexpr int trackHeight = 3;
-constexpr int handleHalf = 4;
+constexpr int kSliderHeight = 20;
+constexpr int kLowestLine = kSliderHeight - 1;
+constexpr int kTrackTop = 9;
+constexpr int kTrackHeight = 3;
+constexpr int kHandleHalf = 4;
 
 // A handle that points down, around its pixel; turned by half a turn it points up.
-constexpr QPoint handleShape[] = {{0, 19}, {-4, 15}, {-4, 1}, {4, 1}, {4, 15}, {0, 19}};
+constexpr QPoint kHandleShape[] = {{0, 19}, {-4, 15}, {-4, 1}, {4, 1}, {4, 15}, {0, 19}};
 
 } // namespace
 
@@ -23,7 +23,7 @@ constexpr QPoint handleShape[] = {{0, 19}, {-4, 15}, {-4, 1}, {4, 1}, {4, 15}, {
 class VLK_DblSlider2::Ends : public QWidget
 {
 public:
-    static constexpr int room = handleHalf + 1;
+    static constexpr int room = kHandleHalf + 1;
 
     explicit Ends(const VLK_DblSlider2* slider) : QWidget(slider->parentWidget()), slider_(slider)
     {
@@ -151,7 +151,7 @@ void VLK_DblSlider2::setTickPosition(int position)
 
 QSize VLK_DblSlider2::minimumSizeHint() const
 {
-    return {128, sliderHeight};
+    return {128, kSliderHeight};
 }
 
 void VLK_DblSlider2::mousePressEvent(QMouseEvent* event)
@@ -258,8 +258,8 @@ void VLK_DblSlider2::paintEvent(QPaintEvent* /*event*/)
 {
     paintedWidth_ = width();
     const auto [pixel1, pixel2] = handlePixels();
-    handle1_ = QRect(pixel1 - handleHalf, 0, 2 * handleHalf, sliderHeight);
-    handle2_ = QRect(pixel2 - handleHalf, 0, 2 * handleHalf, sliderHeight);
+    handle1_ = QRect(pixel1 - kHandleHalf, 0, 2 * kHandleHalf, kSliderHeight);
+    handle2_ = QRect(pixel2 - kHandleHalf, 0, 2 * kHandleHalf, kSliderHeight);
 
     QPainter painter(this);
     paintTrack(painter, pixel1, pixel2);
@@ -280,7 +280,7 @@ std::pair<int, int> VLK_DblSlider2::handlePixels() const
 {
     const int last = width() - 1;
     const int pixel1 = pixelOf(value1_);
-    return {pixel1 + handleHalf > last ? last - 5 : pixel1, qMin(qMax(pixelOf(value2_), handleHalf), last)};
+    return {pixel1 + kHandleHalf > last ? last - 5 : pixel1, qMin(qMax(pixelOf(value2_), kHandleHalf), last)};
 }
 
 int VLK_DblSlider2::pixelOf(double value) const
@@ -304,7 +304,7 @@ void VLK_DblSlider2::paintTrack(QPainter& painter, int pixel1, int pixel2) const
                             palette().color(QPalette::Disabled, QPalette::WindowText)));
     painter.setBrush(palette().color(QPalette::Window));
     for (const auto& bar : bars) {
-        const QRect area(bar.left, trackTop, bar.right - bar.left, trackHeight);
+        const QRect area(bar.left, kTrackTop, bar.right - bar.left, kTrackHeight);
         if (area.isEmpty())
             continue;
         if (isEnabled() && bar.color)
@@ -322,14 +322,14 @@ void VLK_DblSlider2::paintTicks(QPainter& painter) const
     if (above)
         painter.drawLine(0, 0, right, 0);
     if (below)
-        painter.drawLine(0, lowestLine, right, lowestLine);
+        painter.drawLine(0, kLowestLine, right, kLowestLine);
     for (int i = 0; i <= 10; ++i) {
         const int x = static_cast<int>(i * right / 10.0);
         const int last = i % 5 == 0 ? 3 : 1; // 4 pixels long, or 2
         if (above)
             painter.drawLine(x, 0, x, last);
         if (below)
-            painter.drawLine(x, lowestLine - last, x, lowestLine);
+            painter.drawLine(x, kLowestLine - last, x, kLowestLine);
     }
 }
 
@@ -337,8 +337,8 @@ void VLK_DblSlider2::paintHandle(QPainter& painter, int pixel) const
 {
     const bool up = tickPosition_ == 1;
     QPolygon shape;
-    for (const QPoint& point : handleShape)
-        shape << (up ? QPoint(pixel - point.x(), lowestLine - point.y()) : point + QPoint(pixel, 0));
+    for (const QPoint& point : kHandleShape)
+        shape << (up ? QPoint(pixel - point.x(), kLowestLine - point.y()) : point + QPoint(pixel, 0));
 
     if (isEnabled()) {
         painter.save();

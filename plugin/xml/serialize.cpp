@@ -103,7 +103,7 @@ bool CSerialize::load()
     }
     if (file.size() == 0)
         return true;
-    if (file.size() <= maxFileSize && parse(file.read(file.size())))
+    if (file.size() <= kMaxFileSize && parse(file.read(file.size())))
         return true;
     qCWarning(vlk::lcXml).noquote() << fileName_ << "is not a document";
     return false;

@@ -17,7 +17,7 @@ class CSerialize : public QObject
 
 public:
     // Bytes. A longer file is refused unread; the largest configuration has less than a fortieth of this.
-    static constexpr qint64 maxFileSize = 4'000'000;
+    static constexpr qint64 kMaxFileSize = 4'000'000;
 
     explicit CSerialize(QString fileName);
 

@@ -17,7 +17,7 @@ bool CXmlDefaultHandler::startDocument()
 bool CXmlDefaultHandler::startElement(const QString&, const QString&, const QString& qualifiedName,
                                       const QXmlAttributes& attributes)
 {
-    if (++depth_ > maxDepth)
+    if (++depth_ > kMaxDepth)
         return false;
     const QString name = vlk::unescapeName(qualifiedName);
     sawContent_ = false;

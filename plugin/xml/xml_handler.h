@@ -15,7 +15,7 @@ QT_WARNING_DISABLE_DEPRECATED
 class CXmlDefaultHandler : public QXmlDefaultHandler
 {
 public:
-    static constexpr int maxDepth = 100;
+    static constexpr int kMaxDepth = 100;
 
     bool startDocument() override;
     bool startElement(const QString& uri, const QString& localName, const QString& qualifiedName,

@@ -12,8 +12,8 @@ namespace vlk {
 namespace {
 
 // In the order in which they are replaced, in both directions.
-constexpr char16_t escapedInNames[] = u" &><\"'!:;%`~@#$^*()-+=|\\\u00F7\u00D7,/";
-constexpr int escapedCount = std::size(escapedInNames) - 1;
+constexpr char16_t kEscapedInNames[] = u" &><\"'!:;%`~@#$^*()-+=|\\\u00F7\u00D7,/";
+constexpr int kEscapedCount = std::size(kEscapedInNames) - 1;
 
 // The code is that of a signed byte, so U+00F7 and U+00D7 have negative ones.
 QString escapeOf(char16_t character)
@@ -24,8 +24,8 @@ QString escapeOf(char16_t character)
 const QString* escapes()
 {
     static const auto table = [] {
-        std::array<QString, escapedCount> made;
-        std::transform(escapedInNames, escapedInNames + escapedCount, made.begin(), escapeOf);
+        std::array<QString, kEscapedCount> made;
+        std::transform(kEscapedInNames, kEscapedInNames + kEscapedCount, made.begin(), escapeOf);
         return made;
     }();
     return table.data();
@@ -36,7 +36,7 @@ constexpr struct
 {
     const char* entity;
     char character;
-} entities[] = {
+} kEntities[] = {
     {"&amp;", '&'},  {"&nbsp;", ' '},  {"&gt;", '>'}, {"&lt;", '<'},
     {"&quot;", '"'}, {"&apos;", '\''}, {"_33_", '!'},
 };
@@ -92,8 +92,8 @@ const std::bitset<0x10000>& carriedCharacters()
 QString escapeName(const QString& name)
 {
     QString escaped = name;
-    for (int i = 0; i < escapedCount; ++i)
-        escaped.replace(QChar(escapedInNames[i]), escapes()[i]);
+    for (int i = 0; i < kEscapedCount; ++i)
+        escaped.replace(QChar(kEscapedInNames[i]), escapes()[i]);
     return escaped;
 }
 
@@ -102,8 +102,8 @@ QString unescapeName(const QString& name)
     if (!name.contains('_'))
         return name;
     QString plain = name;
-    for (int i = 0; i < escapedCount; ++i)
-        plain.replace(escapes()[i], QString(QChar(escapedInNames[i])));
+    for (int i = 0; i < kEscapedCount; ++i)
+        plain.replace(escapes()[i], QString(QChar(kEscapedInNames[i])));
     return plain;
 }
 
@@ -127,23 +127,23 @@ QString decodeValue(const QString& value)
     if (std::none_of(value.begin(), value.end(), [](QChar sign) { return sign == '&' || sign == '_'; }))
         return value;
     QString text = value;
-    for (const auto& [entity, character] : entities)
+    for (const auto& [entity, character] : kEntities)
         text.replace(QLatin1String(entity), QLatin1String(&character, 1));
     return text;
 }
 
 QString sectionText(const QString& text)
 {
-    if (text.size() <= sectionTextLimit && isAscii(text))
+    if (text.size() <= kSectionTextLimit && isAscii(text))
         return text;
     const auto& carriedOnes = carriedCharacters();
     const auto stands = [&carriedOnes](QChar character) {
         return !character.isNull() && carriedOnes[character.unicode()];
     };
-    if (text.size() <= sectionTextLimit && std::all_of(text.begin(), text.end(), stands))
+    if (text.size() <= kSectionTextLimit && std::all_of(text.begin(), text.end(), stands))
         return text;
     QString carried;
-    for (int i = 0; i < text.size() && !text[i].isNull() && carried.size() < sectionTextLimit; ++i) {
+    for (int i = 0; i < text.size() && !text[i].isNull() && carried.size() < kSectionTextLimit; ++i) {
         if (text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate())
             ++i;
         carried += stands(text[i]) ? text[i] : QChar('?');

@@ -8,7 +8,7 @@
 namespace vlk {
 
 // Bytes of a name or value, counted in windows-1251, that a section carries; the rest is cut off.
-inline constexpr int sectionTextLimit = 255;
+inline constexpr int kSectionTextLimit = 255;
 
 // Element names: a character that XML forbids there stands in the file as "_code_" ("A B" as "A_32_B").
 QString escapeName(const QString& name);

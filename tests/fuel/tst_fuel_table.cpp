@@ -80,12 +80,12 @@ private Q_SLOTS:
     void csvThatIsNone()
     {
         QVERIFY(!readFuelCsv(QByteArray("h\n1;\0\n", 6)));
-        QVERIFY(!readFuelCsv("h\n" + QByteArray("1;2\n").repeated(int(maxFuelRows) + 1)));
-        QCOMPARE(readFuelCsv("h\n" + QByteArray("1;2\n").repeated(int(maxFuelRows)))->size(), maxFuelRows);
+        QVERIFY(!readFuelCsv("h\n" + QByteArray("1;2\n").repeated(int(kMaxFuelRows) + 1)));
+        QCOMPARE(readFuelCsv("h\n" + QByteArray("1;2\n").repeated(int(kMaxFuelRows)))->size(), kMaxFuelRows);
         // Of a long line the beginning counts, and the next line is the next row.
         const auto cut = readFuelCsv("h\n12;" + QByteArray(1'000'000, '7') + "\n3;4");
         QCOMPARE(cut->size(), std::size_t(2));
-        QCOMPARE(cut->front().volume.size(), maxFuelLine - 3);
+        QCOMPARE(cut->front().volume.size(), kMaxFuelLine - 3);
         QCOMPARE(readFuelCsv(QByteArray(100'000, 'h'))->size(), std::size_t(0));
     }
 
@@ -101,10 +101,10 @@ private Q_SLOTS:
             .row("more digits than needed", "10.00\t2.500\n1e1\t2\n", "10.0=2.50 10.0=2", 0)
             .row("nothing holds them", "10\t2\n10\t36\n5001\t1\n-1\t1\n1.25\t1\n1\t1.234\nnan\t1\n", "10=2",
                  6)
-            .row("too many", QString("1\t2\n").repeated(int(maxFuelRows) + 1), "", int(maxFuelRows) + 1)
+            .row("too many", QString("1\t2\n").repeated(int(kMaxFuelRows) + 1), "", int(kMaxFuelRows) + 1)
             .row("other text", "Dear sir,\n10 l\n\n10\t\n", "", 2);
         for (const QString& language : kLanguages)
-            QVERIFY(std::count(std::begin(volumeHeadings), std::end(volumeHeadings),
+            QVERIFY(std::count(std::begin(kVolumeHeadings), std::end(kVolumeHeadings),
                                readTexts(language).value("cfgt6_040")) == 1);
     }
     void clipboard()
@@ -133,7 +133,7 @@ private Q_SLOTS:
 
     void document()
     {
-        XmlDocument document(QString{}, fuelRoot);
+        XmlDocument document(QString{}, kFuelRoot);
         document.root()->setString("model", "R-7106");
         document.root()->setChildValue("objName", "Камаз <1>");
         putFuelTable(document.root(), "D1", "Бак", {{"10.9", "12.34"}, {"1e99", "x"}, {"", ""}});
@@ -149,7 +149,7 @@ private Q_SLOTS:
                                           "\t\t<DATA param_U=\"0\" param_V=\"\"/>\n"
                                           "\t</TABLE>\n"
                                           "</FUEL>\n"));
-        XmlDocument again(bytes, fuelRoot);
+        XmlDocument again(bytes, kFuelRoot);
         QCOMPARE(shown(*fuelTable(again.root())), QString("10=12.34 2147483647=x 0="));
         QCOMPARE(fuelTableName(again.root()), QString());
     }
@@ -162,17 +162,17 @@ private Q_SLOTS:
                  "<TABLE><DATA param_U=\"1,5\" param_V=\"2,5\"/><X/><DATA/></TABLE>", "1.5=2.5 0=0")
             .row("no table", "<DATA param_U=\"1\"/>", "")
             .row("as children", "<TABLE><DATA><param_U>7</param_U></DATA></TABLE>", "7=0")
-            .row("most", "<TABLE>" + QByteArray("<DATA/>").repeated(int(maxFuelRows)) + "</TABLE>", "many")
-            .row("too many", "<TABLE>" + QByteArray("<DATA/>").repeated(int(maxFuelRows) + 1) + "</TABLE>",
+            .row("most", "<TABLE>" + QByteArray("<DATA/>").repeated(int(kMaxFuelRows)) + "</TABLE>", "many")
+            .row("too many", "<TABLE>" + QByteArray("<DATA/>").repeated(int(kMaxFuelRows) + 1) + "</TABLE>",
                  "none");
     }
     void documentsFromElsewhere()
     {
         QFETCH(QByteArray, inside);
         QFETCH(QString, rows);
-        XmlDocument document("<FUEL>" + inside + "</FUEL>", fuelRoot);
+        XmlDocument document("<FUEL>" + inside + "</FUEL>", kFuelRoot);
         const auto read = fuelTable(document.root());
-        const QString found = !read ? "none" : read->size() == maxFuelRows ? "many" : shown(*read);
+        const QString found = !read ? "none" : read->size() == kMaxFuelRows ? "many" : shown(*read);
         QCOMPARE(found, rows);
     }
 

@@ -18,7 +18,7 @@ const QString kUnsaved = QStringLiteral("wrd_005!<br>tmiw_130 tmiw_131<br>tmiw_1
 // The record of the live values, each sensor with a value of its own: D1 1001, D2 1002...
 QByteArray liveRecord()
 {
-    QByteArray record(vlk::analogRecordSize, '\x7f');
+    QByteArray record(vlk::kAnalogRecordSize, '\x7f');
     const auto put = [&record](int at, quint16 value) { qToLittleEndian(value, record.data() + at); };
     put(19, 12340);
     for (int i = 0; i < 6; ++i)

@@ -102,12 +102,12 @@ private Q_SLOTS:
     {
         QSet<std::uint32_t> numbers;
         QSet<QByteArray> names;
-        for (const vlk::MessageInfo& info : vlk::messages) {
+        for (const vlk::MessageInfo& info : vlk::kMessages) {
             numbers << static_cast<std::uint32_t>(info.number);
             names << info.name;
         }
-        QCOMPARE(numbers.size(), int(std::size(vlk::messages)));
-        QCOMPARE(names.size(), int(std::size(vlk::messages)));
+        QCOMPARE(numbers.size(), int(std::size(vlk::kMessages)));
+        QCOMPARE(names.size(), int(std::size(vlk::kMessages)));
     }
 
     // The record says how long it is; a word that does not lie in it whole stays as it was.
@@ -412,7 +412,7 @@ private:
 
     QByteArray balance()
     {
-        QByteArray buffer(vlk::balanceUssdSize, 'x');
+        QByteArray buffer(vlk::kBalanceUssdSize, 'x');
         host_.send(Message::GetBalanceUssd, buffer.data());
         return QByteArray(buffer.constData());
     }

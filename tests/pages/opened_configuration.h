@@ -33,7 +33,7 @@ protected:
     {
         vlk::OpenRequest request{.showFull = full, .fromFile = 1, .path = {}};
         qstrncpy(request.path, path.toLocal8Bit().constData(), sizeof request.path);
-        char ussd[vlk::balanceUssdSize] = {};
+        char ussd[vlk::kBalanceUssdSize] = {};
         dialog_->open(request, ussd);
         QVERIFY(QTest::qWaitForWindowActive(dialog_.get()));
     }

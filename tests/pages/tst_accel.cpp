@@ -109,8 +109,8 @@ private Q_SLOTS:
         QCOMPARE(seen(1), QString("50.0 % 500"));
         press("pushButton_Reset");
         QCOMPARE(take(), QVector<Message>{Message::RequestAccelCommand});
-        uchar done[vlk::accelResultSize] = {};
-        done[vlk::accelStatusByte] = 1;
+        uchar done[vlk::kAccelResultSize] = {};
+        done[vlk::kAccelStatusByte] = 1;
         full.answers().takeAccelResult(done);
         QCOMPARE(seen(1), QString("0 % 0"));
         full.deviceDisconnected();

@@ -129,7 +129,7 @@ private Q_SLOTS:
 
     void analogRecord()
     {
-        QByteArray bytes(vlk::analogRecordSize, '\0');
+        QByteArray bytes(vlk::kAnalogRecordSize, '\0');
         bytes.replace(15, 6, QByteArray::fromHex("e803d4300000"));
         page().showAnalogRecord(reinterpret_cast<const uchar*>(bytes.constData()));
         page().showAnalogRecord(nullptr);

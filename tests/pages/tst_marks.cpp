@@ -101,7 +101,7 @@ private Q_SLOTS:
         const QColor colour = vlk::markColor(vlk::Mark::changed, QApplication::palette());
         for (const QIcon& icon : {child<QToolButton>("toolButton_Differences")->icon(),
                                   child<QTabWidget>("tabWidget")->tabIcon(0)})
-            QCOMPARE(icon.pixmap(vlk::markSize).toImage().pixelColor(4, 4), colour);
+            QCOMPARE(icon.pixmap(vlk::kMarkSize).toImage().pixelColor(4, 4), colour);
         QApplication::setPalette(before);
     }
 

@@ -148,7 +148,7 @@ private Q_SLOTS:
         full.deviceConnected();
         QCOMPARE(ask(), QVector<vlk::Message>{vlk::Message::RequestSupply});
         vlk::SupplyRecord answer{};
-        answer.values[vlk::supplyElement] = 40870;
+        answer.values[vlk::kSupplyElement] = 40870;
         full.answers().takeSupply(reinterpret_cast<const uchar*>(&answer));
         const auto* present = get<QDoubleSpinBox>("doubleSpinBox_TuningCur");
         QCOMPARE(present->value(), 40.87);

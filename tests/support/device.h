@@ -46,7 +46,7 @@ public:
 private:
     vlk::HostCallback callback_ = nullptr;
     QTemporaryDir xmlFolder_;
-    char balanceUssd_[vlk::balanceUssdSize] = {};
+    char balanceUssd_[vlk::kBalanceUssdSize] = {};
 };
 
 inline TestDevice& device()

@@ -148,7 +148,7 @@ private:
     {
         using vlk::Parameter;
         Sent sent{static_cast<vlk::Message>(id), {}, {}, vlk::asValue(p1)};
-        for (const vlk::MessageInfo& info : vlk::messages) {
+        for (const vlk::MessageInfo& info : vlk::kMessages) {
             if (info.number != sent.number)
                 continue;
             if (info.p1 == Parameter::StringAddress)

@@ -88,7 +88,7 @@ private Q_SLOTS:
         QVERIFY(!isOn("pushButton_Get_Prev") && !isOn("pushButton_Get_Next"));
         const auto time = [this](const char* name) { return child<QDateTimeEdit>(name)->dateTime(); };
         QCOMPARE(time("dateTimeEdit_First").secsTo(time("dateTimeEdit_Last")), 3600LL);
-        char ussd[vlk::balanceUssdSize];
+        char ussd[vlk::kBalanceUssdSize];
         host.send(Message::GetBalanceUssd, ussd);
         QCOMPARE(QByteArray(ussd), QByteArray("*100#"));
         const QString absent = folder.filePath("absent.xml");
@@ -556,7 +556,7 @@ private:
     }
     void sendBadParameters()
     {
-        for (const vlk::MessageInfo& info : vlk::messages) {
+        for (const vlk::MessageInfo& info : vlk::kMessages) {
             if (info.direction != vlk::Direction::ToPlugin || info.number == Message::PrepareTelemetry)
                 continue;
             if (info.p1 != vlk::Parameter::None)

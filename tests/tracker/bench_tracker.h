@@ -23,11 +23,11 @@ inline int recordSize(vlk::Message id)
     case vlk::Message::SupplyValues:
         return sizeof(vlk::SupplyRecord);
     case vlk::Message::AnalogRecord:
-        return vlk::analogRecordSize;
+        return vlk::kAnalogRecordSize;
     case vlk::Message::AccelRecord:
         return sizeof(vlk::AccelValues);
     case vlk::Message::AccelCommandResult:
-        return vlk::accelResultSize;
+        return vlk::kAccelResultSize;
     case vlk::Message::LiveKey:
     case vlk::Message::RfidNumber:
         return sizeof(vlk::IdPair);
@@ -85,11 +85,11 @@ public:
     // Records without the headers of their answers.
     QByteArray currentRecord()
     {
-        return ask(vlk::Message::RequestCurrentRecord).first.mid(vlk::currentRecordHeader);
+        return ask(vlk::Message::RequestCurrentRecord).first.mid(vlk::kCurrentRecordHeader);
     }
     QByteArray recordByNumber(quint32 number)
     {
-        return ask(vlk::Message::RequestRecordByNumber, &number).first.mid(vlk::recordByNumberHeader);
+        return ask(vlk::Message::RequestRecordByNumber, &number).first.mid(vlk::kRecordByNumberHeader);
     }
     // All asked for at once, since every answer takes its time.
     QVector<QByteArray> records(quint32 first, quint32 count)
@@ -100,7 +100,7 @@ public:
         QVector<QByteArray> records;
         if (QTest::qWaitFor([&] { return told.size() == int(count); }, 60000))
             for (const Told& each : qAsConst(told))
-                records += each.first.mid(vlk::recordByNumberHeader);
+                records += each.first.mid(vlk::kRecordByNumberHeader);
         return records;
     }
 

@@ -29,15 +29,15 @@ struct DrivenDays
 };
 
 // Sensors, once the ignition is on, and what a tracker records of them while it drives off.
-inline constexpr qint64 wakesWithin = 600;
+inline constexpr qint64 kWakesWithin = 600;
 
 // A Monday.
-inline constexpr qint64 firstMidnight = 1779667200;
+inline constexpr qint64 kFirstMidnight = 1779667200;
 
 // `document`: the configuration by which the tracker records.
 inline DrivenDays drivenDays(quint64 seed, int days, const QByteArray& document)
 {
-    const qint64 midnight = firstMidnight + qint64(seed % 7) * tracker::daySeconds;
+    const qint64 midnight = kFirstMidnight + qint64(seed % 7) * tracker::kDaySeconds;
     const tracker::ConfigurationValues values(document);
     const QTemporaryDir folder;
     const tracker::SettingsHistory settings(folder.path(), tracker::WorkingSettings::of(values));
@@ -45,7 +45,7 @@ inline DrivenDays drivenDays(quint64 seed, int days, const QByteArray& document)
     tracker::DataSet dataSet;
     dataSet.mask = vlk::FieldMask::fromText(values.text(QStringLiteral("PROTOCOL/ZETA/mask")).toStdString());
     DrivenDays driven;
-    const quint32 last = drive.lastBefore(midnight + qint64(days) * tracker::daySeconds - 1);
+    const quint32 last = drive.lastBefore(midnight + qint64(days) * tracker::kDaySeconds - 1);
     for (quint32 number = 0; number <= last; ++number) {
         const tracker::Moment moment = drive.record(number);
         if (moment.kind != tracker::RecordKind::Telemetry)
@@ -57,14 +57,14 @@ inline DrivenDays drivenDays(quint64 seed, int days, const QByteArray& document)
     tracker::Odometers at;
     for (int day = 0; day < days; ++day) {
         const tracker::DayPlan plan =
-            tracker::planDay(seed, midnight + qint64(day) * tracker::daySeconds, at);
+            tracker::planDay(seed, midnight + qint64(day) * tracker::kDaySeconds, at);
         for (const tracker::Segment& segment : plan.segments) {
             using enum tracker::Activity;
             if (segment.activity == Filling || segment.activity == Draining)
                 driven.pours.push_back({segment.from, segment.from + segment.seconds, segment.fuelDelta, 0});
             for (Pour& pour : driven.pours) {
                 if (pour.seen == 0 && segment.activity == Idling)
-                    pour.seen = segment.from + wakesWithin;
+                    pour.seen = segment.from + kWakesWithin;
             }
         }
         at = plan.end;
@@ -86,9 +86,9 @@ inline vlk::FuelRows calibrationOf(const tracker::Tank& tank)
 // Both tanks of the vehicle.
 inline std::vector<vlk::TankSensor> bothTanks()
 {
-    std::vector<vlk::TankSensor> tanks;
-    for (const tracker::Tank& tank : {tracker::tanks[1], tracker::tanks[2]})
-        tanks.push_back({vlk::levelSensorOfTable(QLatin1String(tank.sensor)),
-                         vlk::FuelCurve(calibrationOf(tank), vlk::LevelKind::Code)});
-    return tanks;
+    std::vector<vlk::TankSensor> kTanks;
+    for (const tracker::Tank& tank : {tracker::kTanks[1], tracker::kTanks[2]})
+        kTanks.push_back({vlk::levelSensorOfTable(QLatin1String(tank.sensor)),
+                          vlk::FuelCurve(calibrationOf(tank), vlk::LevelKind::Code)});
+    return kTanks;
 }

@@ -9,7 +9,7 @@
 #include <cstring>
 
 // Bytes in front of a record's fields.
-inline constexpr int head = 34;
+inline constexpr int kHead = 34;
 
 template <typename T>
 T at(const QByteArray& bytes, int offset)
@@ -24,12 +24,12 @@ T at(const QByteArray& bytes, int offset)
 template <typename T>
 T value(const QByteArray& record, vlk::ElementIndex index)
 {
-    return at<T>(record, head + vlk::kElements[index].offset);
+    return at<T>(record, kHead + vlk::kElements[index].offset);
 }
 
 inline quint32 numberOf(const QByteArray& record)
 {
-    return at<quint32>(record, quint8(record.at(0)) == 177 ? 5 : head);
+    return at<quint32>(record, quint8(record.at(0)) == 177 ? 5 : kHead);
 }
 
 inline QByteArray dataSet(const QByteArray& format, const std::string& mask)

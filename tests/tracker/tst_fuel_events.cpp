@@ -10,16 +10,16 @@ using vlk::FuelEvent;
 
 namespace {
 
-constexpr vlk::FuelThresholds thresholds{20, 10};
-constexpr int vehicles = 75;
-constexpr int days = 2;
+constexpr vlk::FuelThresholds kThresholds{20, 10};
+constexpr int kVehicles = 75;
+constexpr int kDays = 2;
 
 // Of litres, which levels in whole codes cannot tell: a pour that close to its threshold may be taken or not.
-constexpr double resolution = 0.5;
+constexpr double kResolution = 0.5;
 
 bool isAbove(double litres)
 {
-    return litres >= thresholds.rise + resolution || litres <= -thresholds.fall - resolution;
+    return litres >= kThresholds.rise + kResolution || litres <= -kThresholds.fall - kResolution;
 }
 
 } // namespace
@@ -46,11 +46,11 @@ private Q_SLOTS:
         QFETCH(bool, sleeps);
         int above = 0;
         QStringList wrong;
-        for (int seed = 1; seed <= vehicles; ++seed) {
-            const DrivenDays driven = drivenDays(seed, days, document);
+        for (int seed = 1; seed <= kVehicles; ++seed) {
+            const DrivenDays driven = drivenDays(seed, kDays, document);
             vlk::RecordColumns columns(driven.records);
             std::vector<FuelEvent> events =
-                vlk::findFuelEvents(columns, vlk::tankLitres(columns, bothTanks()), thresholds);
+                vlk::findFuelEvents(columns, vlk::tankLitres(columns, bothTanks()), kThresholds);
             for (const Pour& pour : seenPours(driven.pours, sleeps)) {
                 const auto isOfPour = [&](const FuelEvent& event) {
                     return event.time <= pour.until && event.until >= pour.from &&
@@ -75,7 +75,7 @@ private Q_SLOTS:
                              .arg(event.litres());
         }
         QCOMPARE(wrong.join('\n'), QString());
-        QVERIFY(above > vehicles);
+        QVERIFY(above > kVehicles);
     }
 
 private:

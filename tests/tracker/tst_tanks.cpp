@@ -6,7 +6,7 @@
 
 #include <QtTest>
 
-using tracker::tanks;
+using tracker::kTanks;
 using vlk::Message;
 
 class TanksTest : public QObject
@@ -16,7 +16,7 @@ class TanksTest : public QObject
 private Q_SLOTS:
     void shapes()
     {
-        for (const tracker::Tank& tank : tanks) {
+        for (const tracker::Tank& tank : kTanks) {
             QVERIFY(tracker::fuelHeight(tank, -1) < 1e-6);
             QVERIFY(std::abs(tracker::fuelHeight(tank, tank.litres * 2) - 1) < 1e-6);
             const double half = tracker::fuelHeight(tank, tank.litres / 2);
@@ -26,7 +26,7 @@ private Q_SLOTS:
                 QVERIFY(tracker::fuelHeight(tank, tank.litres * percent / 100) >
                         tracker::fuelHeight(tank, tank.litres * (percent - 1) / 100));
         }
-        const double tenth = tracker::fuelHeight(tanks[4], 60);
+        const double tenth = tracker::fuelHeight(kTanks[4], 60);
         QVERIFY(std::abs(tenth - 0.1565) < 0.001); // of a lying cylinder, from a table of segments
     }
 
@@ -35,15 +35,15 @@ private Q_SLOTS:
     {
         BenchTracker bench;
         const auto reading = [&bench](std::size_t tank) { return qRound(bench.tracker->fuelReading(tank)); };
-        for (std::size_t i = 0; i < tanks.size(); ++i) {
+        for (std::size_t i = 0; i < kTanks.size(); ++i) {
             bench.tracker->pour(i, -1000);
             bench.now += 60;
-            QVERIFY(std::abs(reading(i) - tracker::sensorValue(tanks[i], 0)) <= 5);
+            QVERIFY(std::abs(reading(i) - tracker::sensorValue(kTanks[i], 0)) <= 5);
             QCOMPARE(bench.tracker->fuelIn(i), 0.0);
             bench.tracker->pour(i, 10);
             bench.tracker->pour(i, 20);
-            const double wanted = tracker::sensorValue(tanks[i], tracker::fuelHeight(tanks[i], 30));
-            const double empty = tracker::sensorValue(tanks[i], 0);
+            const double wanted = tracker::sensorValue(kTanks[i], tracker::fuelHeight(kTanks[i], 30));
+            const double empty = tracker::sensorValue(kTanks[i], 0);
             QVERIFY(reading(i) < empty + (wanted - empty) / 3);
             bench.now += 2;
             QVERIFY(reading(i) > empty + (wanted - empty) / 2);
@@ -60,7 +60,7 @@ private Q_SLOTS:
             QCOMPARE(recorded(bench, i), i <= 3 ? reading(i) : 0);
         }
         bench.tracker->pour(6, 1000);
-        QCOMPARE(bench.tracker->fuelIn(6), tanks[6].litres);
+        QCOMPARE(bench.tracker->fuelIn(6), kTanks[6].litres);
     }
 
     void staysInTheFolder()
@@ -90,7 +90,7 @@ private:
         const QByteArray frame = bench.ask(Message::RequestCurrentRecord).first;
         const auto element = vlk::findElement(tank == 0 ? "StateU_Ain3" : "LevelRS485_1").value();
         const auto index = tank == 0 ? element : static_cast<vlk::ElementIndex>(element + tank - 1);
-        return qFromLittleEndian<quint16>(frame.constData() + vlk::currentRecordHeader + 34 +
+        return qFromLittleEndian<quint16>(frame.constData() + vlk::kCurrentRecordHeader + 34 +
                                           vlk::kElements[index].offset);
     }
 };

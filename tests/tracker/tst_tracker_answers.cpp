@@ -50,7 +50,7 @@ private Q_SLOTS:
         }
         QVERIFY(word(analog, 25) > 0 && word(analog, 25) <= 4095);
         const auto supply = record<vlk::SupplyRecord>(bench.ask(Message::RequestSupply).first);
-        QVERIFY(supply.values[vlk::supplyElement] > 12000 && supply.values[vlk::supplyElement] < 14200);
+        QVERIFY(supply.values[vlk::kSupplyElement] > 12000 && supply.values[vlk::kSupplyElement] < 14200);
         const auto accel = record<vlk::AccelValues>(bench.ask(Message::RequestAccel).first);
         QVERIFY(std::sqrt(accel.movement) * 100 / 1800 < 10);
         QVERIFY(accel.tilt >= 0 && accel.tilt < 0.1);
@@ -235,7 +235,7 @@ private Q_SLOTS:
     void requestsWithoutParameters()
     {
         BenchTracker bench;
-        for (const vlk::MessageInfo& info : vlk::messages) {
+        for (const vlk::MessageInfo& info : vlk::kMessages) {
             const bool own = bench.tracker->handle(info.number, nullptr, nullptr);
             QCOMPARE(own, info.direction == vlk::Direction::ToHost && info.number != Message::ShowHelp);
         }

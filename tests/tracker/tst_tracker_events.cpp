@@ -187,7 +187,7 @@ private Q_SLOTS:
             const QByteArray record = bench.currentRecord();
             QByteArray list("21,22,23");
             const auto line = [&record](int i) {
-                return at<quint16>(record, head + vlk::kElements[element("StateU_Ain1")].offset + 2 * i);
+                return at<quint16>(record, kHead + vlk::kElements[element("StateU_Ain1")].offset + 2 * i);
             };
             QCOMPARE(bench.ask(Message::RequestLines, &list).first,
                      QString::asprintf("LINES: 21:%X,22:%X,23:%X", line(0), line(1), line(2)).toLatin1());

@@ -43,7 +43,7 @@ private Q_SLOTS:
             QVERIFY(bench.write(dataSet(format, text)).accepted);
             const QByteArray record = bench.recordByNumber(70000);
             const auto asked = vlk::FieldMask::fromText(text.substr(0, fields));
-            QCOMPARE(record.size(), head + asked.payloadSize());
+            QCOMPARE(record.size(), kHead + asked.payloadSize());
             QCOMPARE(quint8(record.at(0)), quint8(176));
             QCOMPARE(int(record.at(1)), fields == 69 ? 10 : fields == 122 ? 20 : 30);
             QVERIFY(memcmp(record.constData() + 2, asked.bytes().data(), vlk::FieldMask::kBytes) == 0);
@@ -57,9 +57,9 @@ private Q_SLOTS:
         const QByteArray record = bench.recordByNumber(70000);
         QCOMPARE(int(record.at(1)), 10);
         const auto mask = vlk::FieldMask::fromText(vlk::kDefaultMaskText);
-        QCOMPARE(record.size(), head + mask.payloadSize(69));
+        QCOMPARE(record.size(), kHead + mask.payloadSize(69));
         // The present record is filled up to the shortest frame.
-        QCOMPARE(bench.ask(Message::RequestCurrentRecord).first.size(), vlk::shortestCurrentRecord);
+        QCOMPARE(bench.ask(Message::RequestCurrentRecord).first.size(), vlk::kShortestCurrentRecord);
     }
 
     // What the serial line's owner and the Bluetooth sensors put into the fields of their devices.
@@ -221,7 +221,7 @@ private Q_SLOTS:
                 QVERIFY(record.at(58) == 1 || record.at(58) == 3);
                 continue;
             }
-            QCOMPARE(record.size(), head + vlk::kBlockBytes);
+            QCOMPARE(record.size(), kHead + vlk::kBlockBytes);
             codes += value<quint16>(record, element("Code"));
             const double speed = value<float>(record, element("Speed"));
             const bool engine = value<quint8>(record, element("Module1")) & 0x80;

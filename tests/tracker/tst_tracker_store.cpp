@@ -128,8 +128,8 @@ private Q_SLOTS:
         QFETCH(bool, taken);
         vlk::FieldMask mask;
         for (int field = 0; field < vlk::kFieldCount; ++field)
-            mask.set(field, head + mask.payloadSize() + vlk::kFields[field].width <= bytes);
-        QCOMPARE(head + mask.payloadSize(), bytes);
+            mask.set(field, kHead + mask.payloadSize() + vlk::kFields[field].width <= bytes);
+        QCOMPARE(kHead + mask.payloadSize(), bytes);
         BenchTracker bench;
         const QByteArray before = bench.configuration();
         const WriteReport report = bench.write(dataSet(format, mask.text()));

@@ -80,7 +80,7 @@ Q_DECL_EXPORT void ReceiveMessage(void* handle, std::uint32_t id, void* p1, void
         break;
     }
     case vlk::Message::GetBalanceUssd:
-        std::memset(p1, 'x', vlk::balanceUssdSize);
+        std::memset(p1, 'x', vlk::kBalanceUssdSize);
         break;
     default:
         break;

@@ -22,12 +22,12 @@ Q_DECLARE_METATYPE(Message)
 
 namespace {
 
-constexpr int fine = -1;
+constexpr int kFine = -1;
 
 template <class Problem>
 int kindOf(const std::optional<Problem>& problem)
 {
-    return problem ? int(problem->kind) : fine;
+    return problem ? int(problem->kind) : kFine;
 }
 
 QByteArray document(const QByteArray& content)
@@ -47,8 +47,8 @@ QByteArray answer(const QByteArray& record, int declared = -1)
     return QByteArray(1, char(2300 & 0xff)) + char(size & 0xff) + char(size >> 8) + record;
 }
 
-constexpr qint64 present = 1720000000;
-constexpr qint64 year = 366LL * 86400;
+constexpr qint64 kPresent = 1720000000;
+constexpr qint64 kYear = 366LL * 86400;
 
 } // namespace
 
@@ -67,9 +67,9 @@ private Q_SLOTS:
         for (int i = 0; i < garbled.size(); i += 5)
             garbled[i] = char(garbled[i] ^ 0x5a);
         using P = ConfigurationProblem;
-        table.row("whole", whole, fine, 0, 0)
-            .row("no model", document("<DEVICE/>"), fine, 0, 0)
-            .row("names with colons", document("<DEVICE a:b=\"1\"><c:d/></DEVICE>"), fine, 0, 0)
+        table.row("whole", whole, kFine, 0, 0)
+            .row("no model", document("<DEVICE/>"), kFine, 0, 0)
+            .row("names with colons", document("<DEVICE a:b=\"1\"><c:d/></DEVICE>"), kFine, 0, 0)
             .row("nothing", "", P::Empty, 1, 1)
             .row("blanks", " \n\t", P::Empty, 1, 1)
             .row("half", whole.left(whole.size() / 2), P::CutShort, 2, 0)
@@ -107,7 +107,7 @@ private Q_SLOTS:
         tracker::SimulatedTracker tracker(folder.path());
         tracker.attach();
         const QByteArray whole = tracker.readConfiguration().document;
-        QCOMPARE(kindOf(workbench::checkConfiguration(whole, tracker.model())), fine);
+        QCOMPARE(kindOf(workbench::checkConfiguration(whole, tracker.model())), kFine);
         const int end = whole.lastIndexOf('>');
         for (int size = 1; size <= end; size += size < end - 100 ? 97 : 1)
             QVERIFY2(workbench::checkConfiguration(whole.left(size), tracker.model()),
@@ -119,19 +119,19 @@ private Q_SLOTS:
         const DataTable<QByteArray, int> table({"bytes", "kind"});
         const QByteArray head = document("<TMI model=\"R-7106\">\n");
         const QByteArray page = "\t<Page type=\"176\" ver=\"30\" format=\"111\">\n\t\t<NumPage>1</NumPage>\n";
-        QByteArray record = recordAt(present);
+        QByteArray record = recordAt(kPresent);
         const QByteArray stored = QByteArray(1, char(record.size())) + '\0' + record;
         const QByteArray header = QByteArray::fromHex("0100800003").leftJustified(128, '\0');
         using P = TelemetryFileProblem;
-        table.row("a page", head + page + "\t</Page>\n</TMI>\n", fine)
-            .row("a page and a half", head + page + "\t</Page>\n" + page, fine)
+        table.row("a page", head + page + "\t</Page>\n</TMI>\n", kFine)
+            .row("a page and a half", head + page + "\t</Page>\n" + page, kFine)
             .row("half a page", head + page, P::CutShort)
             .row("pages without ends", head + page + page, P::Damaged)
             .row("another type", head + "\t<Page type=\"9\">\n\t</Page>\n</TMI>\n", P::NoRecord)
             .row("no page", head + "</TMI>\n", P::NoRecord)
             .row("nothing", "", P::Empty)
-            .row("a record", header + stored, fine)
-            .row("a record behind damage", header + "damage" + stored, fine)
+            .row("a record", header + stored, kFine)
+            .row("a record behind damage", header + "damage" + stored, kFine)
             .row("half a record", header + stored.chopped(5), P::CutShort)
             .row("no record behind the header", header, P::NoRecord)
             .row("a cut header", header.left(60), P::NoRecord)
@@ -152,18 +152,18 @@ private Q_SLOTS:
     void record_data()
     {
         const DataTable<QByteArray, int> table({"bytes", "kind"});
-        const QByteArray good = recordAt(present);
+        const QByteArray good = recordAt(kPresent);
         QByteArray garbled = answer(good);
         for (int i = 0; i < garbled.size(); i += 5)
             garbled[i] = char(garbled[i] ^ 0x5a);
         QByteArray foreign = good;
         foreign[0] = 9;
         using P = AnswerProblem;
-        table.row("right", answer(good), fine)
-            .row("filled up", answer(good) + QByteArray(60, '\0'), fine)
-            .row("without a time", answer(vlk::RecordParts({{"Power", 1}}).bytes()), fine)
-            .row("of version 2.0", answer(vlk::RecordParts({{"Power", 1}}).bytes(20)), fine)
-            .row("a packet", answer(vlk::packetBytes(vlk::kSecondHead)), fine)
+        table.row("right", answer(good), kFine)
+            .row("filled up", answer(good) + QByteArray(60, '\0'), kFine)
+            .row("without a time", answer(vlk::RecordParts({{"Power", 1}}).bytes()), kFine)
+            .row("of version 2.0", answer(vlk::RecordParts({{"Power", 1}}).bytes(20)), kFine)
+            .row("a packet", answer(vlk::packetBytes(vlk::kSecondHead)), kFine)
             .row("nothing", "", P::CutShort)
             .row("half", answer(good).left(30), P::CutShort)
             .row("garbled", garbled, P::Damaged)
@@ -172,36 +172,36 @@ private Q_SLOTS:
             .row("of version 4.0", answer(vlk::RecordParts({{"Power", 1}}).bytes(40)), P::Damaged)
             .row("before 2000", answer(recordAt(900000000)), P::TimeOutside)
             .row("behind 2100", answer(recordAt(4200000000)), P::TimeOutside)
-            .row("years later", answer(recordAt(present + 30 * year)), P::TimeJumps)
-            .row("years before", answer(recordAt(present - 3 * year)), P::TimeJumps)
-            .row("months before", answer(recordAt(present - year / 2)), fine);
+            .row("years later", answer(recordAt(kPresent + 30 * kYear)), P::TimeJumps)
+            .row("years before", answer(recordAt(kPresent - 3 * kYear)), P::TimeJumps)
+            .row("months before", answer(recordAt(kPresent - kYear / 2)), kFine);
     }
     void record()
     {
         QFETCH(QByteArray, bytes);
         workbench::RecordCheck check;
-        QCOMPARE(kindOf(check.look(Message::CurrentRecord, answer(recordAt(present)))), fine);
+        QCOMPARE(kindOf(check.look(Message::CurrentRecord, answer(recordAt(kPresent)))), kFine);
         QTEST(kindOf(check.look(Message::CurrentRecord, bytes)), "kind");
         // A record by its number has a header of another request.
         QVERIFY(bytes.size() < 3 || check.look(Message::RecordByNumber, bytes));
-        QCOMPARE(kindOf(check.look(Message::LiveKey, bytes)), fine);
+        QCOMPARE(kindOf(check.look(Message::LiveKey, bytes)), kFine);
     }
 
     void liveValues_data()
     {
         DataTable<Message, QByteArray, int> table({"answer", "bytes", "kind"});
-        QByteArray analog(vlk::analogRecordSize, '\7'), supply(sizeof(vlk::SupplyRecord), '\7');
+        QByteArray analog(vlk::kAnalogRecordSize, '\7'), supply(sizeof(vlk::SupplyRecord), '\7');
         tracker::seal(analog, Message::RequestAnalog);
         tracker::seal(supply, Message::RequestSupply);
         const int damaged = AnswerProblem::Damaged;
-        table.row("analogue", Message::AnalogRecord, analog, fine)
+        table.row("analogue", Message::AnalogRecord, analog, kFine)
             .row("analogue, a wrong byte", Message::AnalogRecord, QByteArray(analog).replace(30, 1, "x"),
                  damaged)
-            .row("supply", Message::SupplyValues, supply, fine)
+            .row("supply", Message::SupplyValues, supply, kFine)
             .row("supply, half", Message::SupplyValues, QByteArray(supply).replace(8, 8, QByteArray(8, 0)),
                  damaged)
-            .row("lines", Message::LineValues, "LINES: 21:2EE0,23:0", fine)
-            .row("no line", Message::LineValues, "LINES: ", fine)
+            .row("lines", Message::LineValues, "LINES: 21:2EE0,23:0", kFine)
+            .row("no line", Message::LineValues, "LINES: ", kFine)
             .row("lines, cut", Message::LineValues, "LINE", AnswerProblem::CutShort)
             .row("lines, cut behind a comma", Message::LineValues, "LINES: 21:2EE0,", damaged)
             .row("lines, no number", Message::LineValues, "LINES: 21:2xE0", damaged)
@@ -221,11 +221,11 @@ private Q_SLOTS:
     {
         using P = AnswerProblem;
         DataTable<int, qint64, bool, int>({"number", "time", "isSaving", "kind"})
-            .row("right", 7, present, true, fine)
-            .row("another number", 8, present, true, P::OtherNumber)
-            .row("the nearest", 8, present, false, fine)
-            .row("early", 7, present - 100, true, P::OutsidePeriod)
-            .row("late", 7, present + 100, true, P::OutsidePeriod);
+            .row("right", 7, kPresent, true, kFine)
+            .row("another number", 8, kPresent, true, P::OtherNumber)
+            .row("the nearest", 8, kPresent, false, kFine)
+            .row("early", 7, kPresent - 100, true, P::OutsidePeriod)
+            .row("late", 7, kPresent + 100, true, P::OutsidePeriod);
     }
     void recordOfAPeriod()
     {
@@ -233,8 +233,8 @@ private Q_SLOTS:
         QFETCH(qint64, time);
         QFETCH(bool, isSaving);
         workbench::AnswerCheck check([isSaving] { return isSaving; });
-        check.note({Message::RequestRecordOfPeriod, {}, present - 50, {}});
-        check.note({Message::RequestRecordByTime, {}, present + 50, {}});
+        check.note({Message::RequestRecordOfPeriod, {}, kPresent - 50, {}});
+        check.note({Message::RequestRecordByTime, {}, kPresent + 50, {}});
         QByteArray bytes = answer(recordAt(time));
         bytes[0] = char(Message::RequestRecordByNumber);
         QTEST(kindOf(check.look(Message::RecordByNumber, &bytes,
@@ -249,17 +249,17 @@ private Q_SLOTS:
         const auto look = [&check](qint64 time) {
             return kindOf(check.look(Message::CurrentRecord, answer(recordAt(time))));
         };
-        const qint64 other = present + 30 * year;
-        for (const auto& [time, kind] : {std::pair(present, fine),
+        const qint64 other = kPresent + 30 * kYear;
+        for (const auto& [time, kind] : {std::pair(kPresent, kFine),
                                          {other, int(AnswerProblem::TimeJumps)},
-                                         {present, fine},
+                                         {kPresent, kFine},
                                          {other, int(AnswerProblem::TimeJumps)},
-                                         {other, fine},
-                                         {other, fine},
-                                         {present, int(AnswerProblem::TimeJumps)}})
+                                         {other, kFine},
+                                         {other, kFine},
+                                         {kPresent, int(AnswerProblem::TimeJumps)}})
             QCOMPARE(look(time), kind);
         check.forget();
-        QCOMPARE(look(present), fine);
+        QCOMPARE(look(kPresent), kFine);
     }
 };
 

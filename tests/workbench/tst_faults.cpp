@@ -262,7 +262,7 @@ private Q_SLOTS:
         bench.tracker().setFaults({.silence = true});
         const QString again = QStringLiteral("request 2302 was sent to the tracker again");
         QTRY_VERIFY_WITH_TIMEOUT(bench.logged(again) > 1, 10'000);
-        bench.tracker().setFaults({.delayMs = workbench::AnswerWatch::patienceMs + 500});
+        bench.tracker().setFaults({.delayMs = workbench::AnswerWatch::kPatienceMs + 500});
         QTRY_VERIFY_WITH_TIMEOUT(bench.logged(QStringLiteral("Message 2303 came twice")) > 0, 20'000);
         // What cannot be right is not saved.
         bench.tracker().setFaults({.garbledAnswers = true});
@@ -446,7 +446,7 @@ private Q_SLOTS:
         const Faults none, silence{.silence = true}, shortened{.shortAnswers = true},
             garbled{.garbledAnswers = true}, unplug{.unplug = true}, board{.badBoard = true},
             delay{.delayMs = 20}, power{.powerLoss = true}, page{.skipsPage = true},
-            late{.delayMs = workbench::AnswerWatch::patienceMs + 1000};
+            late{.delayMs = workbench::AnswerWatch::kPatienceMs + 1000};
         const QString ready = QStringLiteral("Ready");
         const QString written = QStringLiteral("Written and confirmed: 1 of 1 settings");
         const QString notConfirmedWrite =

@@ -303,7 +303,7 @@ private Q_SLOTS:
         QCOMPARE(help.size(), 1);
         QCOMPARE(help.first().first().toString(), QStringLiteral("r-7106p1.html"));
         // A buffer without its NUL ends at its size.
-        QCOMPARE(bench.session.link().balanceCode(), QString(vlk::balanceUssdSize, QLatin1Char('x')));
+        QCOMPARE(bench.session.link().balanceCode(), QString(vlk::kBalanceUssdSize, QLatin1Char('x')));
     }
 };
 

@@ -98,14 +98,14 @@ private Q_SLOTS:
         static const QString page = QStringLiteral("Страница");
         static const QDateTime time({2026, 3, 1}, {10, 0}, Qt::UTC);
         static const QByteArray bytes("\x01\xff", 2);
-        static const QByteArray code(vlk::balanceUssdSize, '*');
+        static const QByteArray code(vlk::kBalanceUssdSize, '*');
         static const vlk::OpenRequest request{1, 0, "/a b.xml"};
         static const vlk::ConnectInfo info{QStringLiteral("M"), QStringLiteral("1"), {}, {}, 0xA, 0xB};
         static const vlk::IdPair pair{1, 1};
         static const std::uint8_t kind = 7;
-        static const QByteArray result = QByteArray(vlk::accelResultSize - 1, '\0') + char(49);
+        static const QByteArray result = QByteArray(vlk::kAccelResultSize - 1, '\0') + char(49);
         static const QByteArray names(sizeof(vlk::BtDevice), 'n');
-        static_assert(vlk::accelStatusByte == vlk::accelResultSize - 1);
+        static_assert(vlk::kAccelStatusByte == vlk::kAccelResultSize - 1);
         using enum Direction;
         const DataTable<bool, Message, void*, void*, QString, QByteArray> table(
             {"toHost", "number", "first", "second", "words", "bytes"});
@@ -157,7 +157,7 @@ private Q_SLOTS:
         {
             QString texts[8];
         } const strings;
-        for (const vlk::MessageInfo& info : vlk::messages) {
+        for (const vlk::MessageInfo& info : vlk::kMessages) {
             if (info.p1 != vlk::Parameter::RecordAddress)
                 continue;
             const bool ofStrings = info.number == Message::SetPaths || info.number == Message::SetIdentity ||

@@ -19,7 +19,7 @@ Q_DECLARE_METATYPE(StoredFile)
 
 namespace {
 
-constexpr char help[] = VLK_SOURCE "/help";
+constexpr char kHelp[] = VLK_SOURCE "/help";
 
 // Exit code and all that it said; -1 when it crashed or did not end.
 std::pair<int, QString> run(const QStringList& arguments,
@@ -64,7 +64,7 @@ private Q_SLOTS:
         const DataTable<QString, QString> table({"language", "page"});
         QSet<QString> pages;
         for (const QString& language : workbench::Languages::codes())
-            for (const QString& page : QDir(QDir(help).filePath(language)).entryList(QDir::Files))
+            for (const QString& page : QDir(QDir(kHelp).filePath(language)).entryList(QDir::Files))
                 pages << page;
         // A page of one language stands in the others too.
         for (const QString& language : workbench::Languages::codes())
@@ -75,7 +75,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, language);
         QFETCH(QString, page);
-        const workbench::HelpPages pages(help);
+        const workbench::HelpPages pages(kHelp);
         QVERIFY(pages.exists(language, page));
         static const QRegularExpression link(QStringLiteral("href=\"([^\"#]*)(?:#([^\"]*))?\""));
         for (auto found = link.globalMatch(pages.html(language, page)); found.hasNext();) {
@@ -93,7 +93,7 @@ private Q_SLOTS:
     {
         workbench::Languages languages;
         QVERIFY(languages.set(QStringLiteral("en")));
-        const workbench::HelpPages pages(help);
+        const workbench::HelpPages pages(kHelp);
         QVERIFY(pages.html(QStringLiteral("en"), QStringLiteral("r-7106p99.html"))
                     .contains(QStringLiteral("r-7106p99.html")));
         // Only the file name counts, so that no page leads out of the help.
@@ -121,7 +121,7 @@ private Q_SLOTS:
         QCOMPARE(settings.mode(), 2);
         QVERIFY(!settings.fullWindow());
         QCOMPARE(settings.telemetryFolder(), QStringLiteral("/а/"));
-        QCOMPARE(settings.recentFiles().size(), workbench::Settings::recentLimit - 1);
+        QCOMPARE(settings.recentFiles().size(), workbench::Settings::kRecentLimit - 1);
         const workbench::RecentFile first = settings.recentFiles().value(0);
         QVERIFY(first.path == QLatin1String("/f9") && first.window == workbench::TelemetryWindow::Table);
         const workbench::RecentFile second = settings.recentFiles().value(1);
@@ -277,7 +277,7 @@ private Q_SLOTS:
         QPalette palette;
         palette.setColor(QPalette::Base, base);
         palette.setColor(QPalette::Link, link);
-        workbench::HelpViewer viewer(workbench::HelpPages(help), QStringLiteral("en"), nullptr);
+        workbench::HelpViewer viewer(workbench::HelpPages(kHelp), QStringLiteral("en"), nullptr);
         viewer.showPage(workbench::HelpPages::indexPage());
         // The theme may change while the page is on show.
         viewer.setPalette(palette);
@@ -299,7 +299,7 @@ private Q_SLOTS:
     {
         workbench::Languages languages;
         QVERIFY(languages.set(QStringLiteral("en")));
-        workbench::HelpViewer viewer(workbench::HelpPages(help), QStringLiteral("en"), nullptr);
+        workbench::HelpViewer viewer(workbench::HelpPages(kHelp), QStringLiteral("en"), nullptr);
         viewer.showPage("r-7106p5.html");
         QVERIFY(QTest::qWaitForWindowActive(&viewer));
         const auto* browser = viewer.findChild<QTextBrowser*>("textBrowser_Help");

@@ -79,8 +79,8 @@ void chooseNext(const QString& path)
     timer->start(5);
 }
 
-const QByteArray telemetry = "<TMI model=\"R-7106\" >\n<Page type=\"176\" ver=\"30\" format=\"1\">\n"
-                             "<NumPage>1</NumPage>\n</Page>\n</TMI>\n";
+const QByteArray kTelemetry = "<TMI model=\"R-7106\" >\n<Page type=\"176\" ver=\"30\" format=\"1\">\n"
+                              "<NumPage>1</NumPage>\n</Page>\n</TMI>\n";
 
 // The letters behind "&" of what is on show.
 QStringList mnemonics(const QWidget& window)
@@ -243,7 +243,7 @@ private Q_SLOTS:
     void reopensWhereItWasShown()
     {
         Bench bench;
-        const QString path = writeFile(bench.root.filePath(QStringLiteral("period.xml")), telemetry);
+        const QString path = writeFile(bench.root.filePath(QStringLiteral("period.xml")), kTelemetry);
         QVERIFY(bench.start());
         QVector<int> windows;
         connect(&bench.window.session().link(), &workbench::PluginLink::passed, this,
@@ -286,7 +286,7 @@ private Q_SLOTS:
             .row("no document", "\x89PNG", {"no configuration", "line 1"})
             .row("empty", "", {"holds nothing"})
             .row("no record", "<TMI>\n</TMI>\n", {"no record"})
-            .row("half a record", telemetry.left(60), {"within its first record, after 60"});
+            .row("half a record", kTelemetry.left(60), {"within its first record, after 60"});
     }
     void namesABadFile()
     {
@@ -305,7 +305,7 @@ private Q_SLOTS:
         QCOMPARE(opened, 0);
         QVERIFY(bench.settings.recentFiles().isEmpty());
         // The line clears with its cause.
-        bench.window.openFile(writeFile(path, telemetry));
+        bench.window.openFile(writeFile(path, kTelemetry));
         QCOMPARE(bench.text("label_Status"), QStringLiteral("Ready"));
         QCOMPARE(opened, 1);
     }
@@ -380,7 +380,7 @@ private Q_SLOTS:
             .row("configuration", configuration, true, "Saved: ", "")
             .row("configuration with another number than was typed", configuration, true,
                  "Saved: ", "Speed: 300 is beyond 1 to 180, 180 was written")
-            .row("period, later", telemetry, false, "Saved: ", "")
+            .row("period, later", kTelemetry, false, "Saved: ", "")
             .row("nothing on the disk", "", true, "was not saved", "");
     }
     void tellsOfASavedFile()

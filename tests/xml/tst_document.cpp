@@ -15,7 +15,7 @@ using vlk::XmlDocument;
 
 namespace {
 
-const QByteArray declaration = "<?xml version=\"1.0\" encoding=\"windows-1251\"?>\n";
+const QByteArray kDeclaration = "<?xml version=\"1.0\" encoding=\"windows-1251\"?>\n";
 
 class TestDocument : public QObject
 {
@@ -64,7 +64,7 @@ private Q_SLOTS:
         track->commit();
         document.save();
 
-        QByteArray golden = declaration;
+        QByteArray golden = kDeclaration;
         golden +=
             "<DEVICE vendor=\"\xC7\xE0\xE2\xEE\xE4 &quot;&lt;&amp;&apos;&gt;&quot; \x88\" model=\"-7\">\n"
             "\t<TR_32_CK page=\"last\" zone=\"2\">\n"
@@ -113,7 +113,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, body);
         QFETCH(QByteArray, written);
         QCOMPARE(resaved("<DEVICE>" + body + "</DEVICE>"),
-                 declaration + "<DEVICE>\n" + written + "</DEVICE>\n");
+                 kDeclaration + "<DEVICE>\n" + written + "</DEVICE>\n");
     }
 
     void escapesNames()
@@ -203,7 +203,7 @@ private Q_SLOTS:
 
     void commitTakesTheTableBack()
     {
-        const QString path = put(declaration + "<DEVICE a='1'>\n<b>old</b>\n<c>\xE6</c>\n</DEVICE>");
+        const QString path = put(kDeclaration + "<DEVICE a='1'>\n<b>old</b>\n<c>\xE6</c>\n</DEVICE>");
         XmlDocument document(path, "DEVICE");
         CXmlSection* const root = document.root();
         root->setInt("b", 5);
@@ -217,7 +217,7 @@ private Q_SLOTS:
         QCOMPARE(after.getString("d"), QString("second"));
         document.save();
         QCOMPARE(readFile(path),
-                 declaration + "<DEVICE a=\"1\" d=\"second\">\n\t<b>5</b>\n\t<c>?</c>\n</DEVICE>\n");
+                 kDeclaration + "<DEVICE a=\"1\" d=\"second\">\n\t<b>5</b>\n\t<c>?</c>\n</DEVICE>\n");
     }
 
     void clearReachesOneLevel()
@@ -235,7 +235,7 @@ private Q_SLOTS:
         QCOMPARE(document.root()->child("A")->getInt("a", 9), 9);
         document.root()->clear();
         document.save();
-        QCOMPARE(readFile(path), declaration + "<DEVICE>\n</DEVICE>\n");
+        QCOMPARE(readFile(path), kDeclaration + "<DEVICE>\n</DEVICE>\n");
     }
 
     void findsEntriesInOrder()
@@ -266,7 +266,7 @@ private Q_SLOTS:
         DataTable<QByteArray>({"content"})
             .row("truncated", "<DEVICE a='1'><TRACK b='2'")
             .row("one blank", " ")
-            .row("no element", declaration)
+            .row("no element", kDeclaration)
             .row("two roots", "<DEVICE/><DEVICE/>")
             .row("binary", binary)
             .row("NULs", QByteArray(1000, '\0'))
@@ -282,7 +282,7 @@ private Q_SLOTS:
                  "<!-- <!DOCTYPE DEVICE> --><!DOCTYPE DEVICE [<!ENTITY a 'b'>]><DEVICE a='&a;'/>")
             .row("declarations that nest",
                  "<!DOCTYPE D [<!ELEMENT D " + QByteArray("(").repeated(1000000) + ">]><DEVICE/>")
-            .row("too long", "<DEVICE>" + QByteArray(CSerialize::maxFileSize, ' ') + "</DEVICE>");
+            .row("too long", "<DEVICE>" + QByteArray(CSerialize::kMaxFileSize, ' ') + "</DEVICE>");
     }
     void survivesBadFiles()
     {
@@ -305,7 +305,7 @@ private Q_SLOTS:
         for (const char* type :
              {"<!DOCTYPE DEVICE>", "<!DOCTYPE DEVICE SYSTEM \"a[b>.dtd\">",
               "<!DOCTYPE DEVICE PUBLIC 'x' 'y'\n>", "<!-- <!DOCTYPE D [ --><?note [?>\n<!DOCTYPE DEVICE >"}) {
-            XmlDocument document(put(declaration + type + "\n<DEVICE a='1'/>"), "DEVICE");
+            XmlDocument document(put(kDeclaration + type + "\n<DEVICE a='1'/>"), "DEVICE");
             QVERIFY2(document.root()->getInt("a", 9) == 1, type);
         }
     }
@@ -325,7 +325,7 @@ private Q_SLOTS:
         XmlDocument document(other, "DEVICE");
         QCOMPARE(document.root()->getInt("a", 9), 9);
         document.save();
-        QCOMPARE(readFile(other), declaration + "<DEVICE>\n</DEVICE>\n");
+        QCOMPARE(readFile(other), kDeclaration + "<DEVICE>\n</DEVICE>\n");
     }
 };
 

@@ -47,9 +47,9 @@ void listen(QtMsgType /*type*/, const QMessageLogContext& context, const QString
         told = text.contains("lost") ? Lost : Kept;
 }
 
-constexpr int nobody = 65534;
-constexpr mode_t openFolder = 0777;
-constexpr mode_t closedFolder = 0555;
+constexpr int kNobody = 65534;
+constexpr mode_t kOpenFolder = 0777;
+constexpr mode_t kClosedFolder = 0555;
 
 QByteArray documentWith(int groups)
 {
@@ -76,7 +76,8 @@ bool saveWith(const QString& path, int groups)
 // Root may write everywhere, so the tests of rights give them up first.
 void becomeNobody()
 {
-    if (geteuid() == 0 && (setresgid(nobody, nobody, nobody) != 0 || setresuid(nobody, nobody, nobody) != 0))
+    if (geteuid() == 0 &&
+        (setresgid(kNobody, kNobody, kNobody) != 0 || setresuid(kNobody, kNobody, kNobody) != 0))
         _exit(2);
     prctl(PR_SET_DUMPABLE, 1);
 }
@@ -86,7 +87,7 @@ class TestSaving : public QObject
     Q_OBJECT
 
 private:
-    void prepare(int groups, mode_t folderRights = openFolder, mode_t fileRights = 0666)
+    void prepare(int groups, mode_t folderRights = kOpenFolder, mode_t fileRights = 0666)
     {
         // In memory where the system has such a folder: every save waits for the disk, and there are
         // hundreds.
@@ -137,8 +138,8 @@ private:
 private Q_SLOTS:
     void savesWhatItMay_data()
     {
-        const int open = openFolder;
-        const int closed = closedFolder;
+        const int open = kOpenFolder;
+        const int closed = kClosedFolder;
         const Disk good;
         const Disk full{.room = 600};
         const Disk unflushed{.syncs = true};
@@ -211,7 +212,7 @@ private Q_SLOTS:
         const QByteArray expected = content();
         QVERIFY(!expected.isEmpty());
         for (const int old : {1, 3000}) {
-            prepare(old, closedFolder);
+            prepare(old, kClosedFolder);
             QCOMPARE(saveAsNobody([&] { return save(path_); }), Saved);
             QCOMPARE(content(), expected);
         }
@@ -220,11 +221,11 @@ private Q_SLOTS:
     void survivesAKill_data()
     {
         DataTable<int, int>({"folderRights", "old"})
-            .row("over an old file", int(openFolder), 9)
-            .row("over an empty file", int(openFolder), 0)
-            .row("in place, longer", int(closedFolder), 9)
-            .row("in place, shorter", int(closedFolder), 40)
-            .row("in place, empty file", int(closedFolder), 0);
+            .row("over an old file", int(kOpenFolder), 9)
+            .row("over an empty file", int(kOpenFolder), 0)
+            .row("in place, longer", int(kClosedFolder), 9)
+            .row("in place, shorter", int(kClosedFolder), 40)
+            .row("in place, empty file", int(kClosedFolder), 0);
     }
     // The process is killed before its first call of the system, after its first, after its second...
     void survivesAKill()
@@ -268,7 +269,7 @@ private Q_SLOTS:
             // Only between taking its name beside the old file and taking the old file's name can the new one
             // be seen, and then it is whole.
             const QStringList left = strays();
-            QVERIFY(left.isEmpty() || (folderRights == openFolder && isOld));
+            QVERIFY(left.isEmpty() || (folderRights == kOpenFolder && isOld));
             for (const QString& name : left)
                 QCOMPARE(content(name), documentWith(now));
             QVERIFY(saveWith(path_, now));
@@ -280,7 +281,7 @@ private Q_SLOTS:
 
     void keepsLinkAndRights()
     {
-        prepare(3, openFolder, 0640);
+        prepare(3, kOpenFolder, 0640);
         const QString link = folder_->filePath("link.xml");
         QVERIFY(QFile::link("file.xml", link));
         saveWith(link, 5);

@@ -16,12 +16,12 @@ struct SealedRow
     int size;
 };
 
-constexpr SealedRow sealedRows[] = {
+constexpr SealedRow kSealedRows[] = {
     {Message::SupplyValues, Message::RequestSupply, sizeof(vlk::SupplyRecord)},
-    {Message::AnalogRecord, Message::RequestAnalog, vlk::analogRecordSize},
+    {Message::AnalogRecord, Message::RequestAnalog, vlk::kAnalogRecordSize},
 };
 
-constexpr int linesHeader = 7;
+constexpr int kLinesHeader = 7;
 
 // "21:2EE0,22:0": lines that were asked for, each with its millivolts.
 bool areLines(const QByteArray& text, const QByteArray& asked)
@@ -56,12 +56,12 @@ std::optional<AnswerProblem> AnswerCheck::look(Message answer, const void* p1, c
         return lookAtRecord(answer, *static_cast<const QByteArray*>(p1), asked);
     if (answer == Message::LineValues) {
         const auto& text = *static_cast<const QByteArray*>(p1);
-        if (text.size() < linesHeader)
+        if (text.size() < kLinesHeader)
             return AnswerProblem{AnswerProblem::CutShort, text.size(), 0};
-        if (!areLines(text.mid(linesHeader), asked.lines))
+        if (!areLines(text.mid(kLinesHeader), asked.lines))
             return AnswerProblem{AnswerProblem::Damaged, text.size(), 0};
     }
-    for (const SealedRow& row : sealedRows)
+    for (const SealedRow& row : kSealedRows)
         if (row.answer == answer &&
             !tracker::isSealed(QByteArray::fromRawData(static_cast<const char*>(p1), row.size), row.request))
             return AnswerProblem{AnswerProblem::Damaged, row.size, 0};

@@ -14,7 +14,7 @@ namespace {
 using Problem = ConfigurationProblem;
 
 // Deeper than any configuration goes.
-constexpr int deepest = 32;
+constexpr int kDeepest = 32;
 
 // This reader takes declarations that the plug-in's does not, such as one with two encodings.
 bool declarationIsPlain(const QByteArray& document)
@@ -81,7 +81,7 @@ public:
         while (!xml_.atEnd()) {
             switch (xml_.readNext()) {
             case QXmlStreamReader::StartElement:
-                if (++depth_ > deepest || !namesArePlain())
+                if (++depth_ > kDeepest || !namesArePlain())
                     return at(Problem::Damaged);
                 if (depth_ == 1)
                     lookAtRoot();
@@ -143,7 +143,7 @@ std::optional<Problem> checkConfiguration(const QByteArray& document, const QStr
 {
     if (document.trimmed().isEmpty())
         return Problem{Problem::Empty, document.size(), 1, 1, {}};
-    if (document.size() > largestConfiguration)
+    if (document.size() > kLargestConfiguration)
         return Problem{Problem::TooLarge, document.size(), 1, 1, {}};
     if (!tagsAreShort(document))
         return Problem{Problem::Damaged, document.size(), 1, 1, {}};

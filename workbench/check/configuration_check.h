@@ -33,7 +33,7 @@ struct ConfigurationProblem
 };
 
 // Bytes; the plug-in reads no more.
-inline constexpr qint64 largestConfiguration = 4'000'000;
+inline constexpr qint64 kLargestConfiguration = 4'000'000;
 
 // None for a whole configuration.
 std::optional<ConfigurationProblem> checkConfiguration(const QByteArray& document, const QString& model);

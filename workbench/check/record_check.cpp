@@ -21,31 +21,31 @@ struct HeaderRow
     int size;
 };
 
-constexpr HeaderRow headers[] = {
-    {Message::CurrentRecord, Message::RequestCurrentRecord, currentRecordHeader},
-    {Message::ClearedRecord, Message::ClearServerData, currentRecordHeader},
-    {Message::RecordByNumber, Message::RequestRecordByNumber, recordByNumberHeader},
-    {Message::RecordByTime, Message::RequestRecordByTime, recordByTimeHeader},
-    {Message::RecordOfPeriod, Message::RequestRecordOfPeriod, recordByTimeHeader},
-    {Message::ExtraPacket, Message::RequestExtraPacket, extraPacketHeader},
+constexpr HeaderRow kHeaders[] = {
+    {Message::CurrentRecord, Message::RequestCurrentRecord, kCurrentRecordHeader},
+    {Message::ClearedRecord, Message::ClearServerData, kCurrentRecordHeader},
+    {Message::RecordByNumber, Message::RequestRecordByNumber, kRecordByNumberHeader},
+    {Message::RecordByTime, Message::RequestRecordByTime, kRecordByTimeHeader},
+    {Message::RecordOfPeriod, Message::RequestRecordOfPeriod, kRecordByTimeHeader},
+    {Message::ExtraPacket, Message::RequestExtraPacket, kExtraPacketHeader},
 };
 
-constexpr int headerNumber = 3;
-constexpr int headerTime = 7;
+constexpr int kHeaderNumber = 3;
+constexpr int kHeaderTime = 7;
 
 const HeaderRow* headerOf(Message answer)
 {
-    const auto* row = std::find_if(std::begin(headers), std::end(headers),
+    const auto* row = std::find_if(std::begin(kHeaders), std::end(kHeaders),
                                    [answer](const HeaderRow& r) { return r.answer == answer; });
-    return row == std::end(headers) ? nullptr : row;
+    return row == std::end(kHeaders) ? nullptr : row;
 }
 
-constexpr int packetNumber = 5;
-constexpr int packetTime = 11;
+constexpr int kPacketNumber = 5;
+constexpr int kPacketTime = 11;
 
-constexpr qint64 year2000 = 946684800;
-constexpr qint64 year2100 = 4102444800;
-constexpr qint64 twoYears = qint64(2) * 366 * 86400;
+constexpr qint64 kYear2000 = 946684800;
+constexpr qint64 kYear2100 = 4102444800;
+constexpr qint64 kTwoYears = qint64(2) * 366 * 86400;
 
 template <class Number>
 Number numberAt(const QByteArray& bytes, int offset)
@@ -63,7 +63,7 @@ int fieldsOf(quint8 version)
 RecordContent lookAtRecord(const QByteArray& record)
 {
     const int fields = fieldsOf(static_cast<quint8>(record.at(1)));
-    if (fields == 0 || record.size() < recordHead)
+    if (fields == 0 || record.size() < kRecordHead)
         return {};
     FieldMask::Bytes bits;
     std::memcpy(bits.data(), record.constData() + 2, bits.size());
@@ -80,10 +80,10 @@ RecordContent lookAtRecord(const QByteArray& record)
 
 RecordContent lookAtPacket(const QByteArray& packet)
 {
-    constexpr int leastSize = packetTime + static_cast<int>(sizeof(quint32));
-    if (packet.size() < leastSize || packet.size() != packetCounted + numberAt<quint16>(packet, 1))
+    constexpr int leastSize = kPacketTime + static_cast<int>(sizeof(quint32));
+    if (packet.size() < leastSize || packet.size() != kPacketCounted + numberAt<quint16>(packet, 1))
         return {};
-    return {true, numberAt<quint32>(packet, packetNumber), numberAt<quint32>(packet, packetTime)};
+    return {true, numberAt<quint32>(packet, kPacketNumber), numberAt<quint32>(packet, kPacketTime)};
 }
 
 RecordContent lookAt(const QByteArray& record)
@@ -91,9 +91,9 @@ RecordContent lookAt(const QByteArray& record)
     if (record.size() < 2)
         return {};
     switch (static_cast<quint8>(record.at(0))) {
-    case recordType:
+    case kRecordType:
         return lookAtRecord(record);
-    case packetType:
+    case kPacketType:
         return lookAtPacket(record);
     default:
         return {};
@@ -102,8 +102,8 @@ RecordContent lookAt(const QByteArray& record)
 
 bool agreesWithHeader(const RecordContent& content, const QByteArray& bytes)
 {
-    return (!content.number || *content.number == numberAt<quint32>(bytes, headerNumber)) &&
-           (!content.time || *content.time == numberAt<quint32>(bytes, headerTime));
+    return (!content.number || *content.number == numberAt<quint32>(bytes, kHeaderNumber)) &&
+           (!content.time || *content.time == numberAt<quint32>(bytes, kHeaderTime));
 }
 
 } // namespace
@@ -117,7 +117,7 @@ int RecordCheck::versionOf(Message answer, const QByteArray& bytes)
 {
     const HeaderRow* header = headerOf(answer);
     const bool isRecord = header != nullptr && bytes.size() >= header->size + 2 &&
-                          static_cast<quint8>(bytes.at(header->size)) == recordType;
+                          static_cast<quint8>(bytes.at(header->size)) == kRecordType;
     return isRecord ? static_cast<quint8>(bytes.at(header->size + 1)) : 0;
 }
 
@@ -127,7 +127,7 @@ RecordContent RecordCheck::contentOf(Message answer, const QByteArray& bytes)
     if (header == nullptr || bytes.size() < header->size)
         return {};
     // Behind a short record the frame is filled up.
-    const int length = numberAt<quint16>(bytes, header->size == extraPacketHeader ? 0 : 1);
+    const int length = numberAt<quint16>(bytes, header->size == kExtraPacketHeader ? 0 : 1);
     return lookAt(bytes.mid(header->size, length));
 }
 
@@ -139,22 +139,22 @@ std::optional<AnswerProblem> RecordCheck::look(Message answer, const QByteArray&
     const qint64 came = bytes.size();
     if (came < header->size)
         return AnswerProblem{AnswerProblem::CutShort, came, 0};
-    const bool namesRequest = header->size != extraPacketHeader;
+    const bool namesRequest = header->size != kExtraPacketHeader;
     if (namesRequest && static_cast<quint8>(bytes.at(0)) != static_cast<quint8>(header->request))
         return AnswerProblem{AnswerProblem::Damaged, came, 0};
     const int length = numberAt<quint16>(bytes, namesRequest ? 1 : 0);
     if (came < header->size + length)
         return AnswerProblem{AnswerProblem::CutShort, came, header->size + length};
     const RecordContent content = contentOf(answer, bytes);
-    if (!content.agrees || (header->size == recordByTimeHeader && !agreesWithHeader(content, bytes)))
+    if (!content.agrees || (header->size == kRecordByTimeHeader && !agreesWithHeader(content, bytes)))
         return AnswerProblem{AnswerProblem::Damaged, came, 0};
     if (!content.time)
         return {};
     const qint64 time = *content.time;
-    if (time < year2000 || time >= year2100)
+    if (time < kYear2000 || time >= kYear2100)
         return AnswerProblem{AnswerProblem::TimeOutside, came, 0, time};
     const auto isFarFrom = [time](std::optional<qint64> other) {
-        return other && std::abs(time - *other) > twoYears;
+        return other && std::abs(time - *other) > kTwoYears;
     };
     const std::optional<qint64> doubted = std::exchange(doubted_, {});
     if (isFarFrom(lastTime_) && (!doubted || isFarFrom(doubted))) {

@@ -10,9 +10,9 @@
 
 namespace workbench {
 
-inline constexpr quint8 recordType = 176;
-inline constexpr quint8 packetType = 177;
-inline constexpr int recordHead = FieldMask::kHeadBytes;
-inline constexpr int packetCounted = 3; // type and length, which do not count themselves
+inline constexpr quint8 kRecordType = 176;
+inline constexpr quint8 kPacketType = 177;
+inline constexpr int kRecordHead = FieldMask::kHeadBytes;
+inline constexpr int kPacketCounted = 3; // type and length, which do not count themselves
 
 } // namespace workbench

@@ -37,7 +37,7 @@ Seen lookAtXml(QFile& file)
 
 using Bytes = std::span<const uchar>;
 
-constexpr uchar version = 30;
+constexpr uchar kVersion = 30;
 
 // The record that begins here with its length in front; empty when it is none or not all there.
 Bytes recordAt(Bytes start)
@@ -46,20 +46,20 @@ Bytes recordAt(Bytes start)
         return {};
     const std::size_t length = qFromLittleEndian<quint16>(start.data());
     const Bytes rest = start.subspan(binary::kLengthBytes);
-    const std::size_t least = rest[0] == recordType   ? recordHead
-                              : rest[0] == packetType ? packetCounted
-                                                      : rest.size() + 1;
+    const std::size_t least = rest[0] == kRecordType   ? kRecordHead
+                              : rest[0] == kPacketType ? kPacketCounted
+                                                       : rest.size() + 1;
     return length >= least && length <= rest.size() ? rest.first(length) : Bytes();
 }
 
 // Whether its length is the one that its mask or its head asks for, so that it is no record by chance.
 bool lengthAgrees(Bytes record)
 {
-    if (record[0] == packetType)
-        return record.size() == std::size_t{packetCounted} + qFromLittleEndian<quint16>(&record[1]);
+    if (record[0] == kPacketType)
+        return record.size() == std::size_t{kPacketCounted} + qFromLittleEndian<quint16>(&record[1]);
     FieldMask::Bytes mask;
     std::memcpy(mask.data(), &record[2], mask.size());
-    return record[1] == version && record.size() == static_cast<std::size_t>(FieldMask(mask).recordSize());
+    return record[1] == kVersion && record.size() == static_cast<std::size_t>(FieldMask(mask).recordSize());
 }
 
 Seen lookAtBinary(Bytes file)
@@ -77,7 +77,7 @@ Seen lookAtBinary(Bytes file)
     }
     const bool isRecord =
         records.size() > binary::kLengthBytes &&
-        (records[binary::kLengthBytes] == recordType || records[binary::kLengthBytes] == packetType);
+        (records[binary::kLengthBytes] == kRecordType || records[binary::kLengthBytes] == kPacketType);
     return isRecord || records.size() <= binary::kLengthBytes ? Seen::Beginning : Seen::Pieces;
 }
 

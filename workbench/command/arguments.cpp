@@ -42,7 +42,7 @@ struct CommandRow
     bool edits;
 };
 
-constexpr CommandRow commands[] = {
+constexpr CommandRow kCommands[] = {
     {"check", "cli_100", "  r7106 check fleet\n  r7106 check --json fleet > findings.ndjson",
      CommandRow::anyFiles, true, false},
     {"diff", "cli_101", "  r7106 diff before.xml after.xml\n  r7106 diff --defaults truck.xml",
@@ -229,7 +229,7 @@ Arguments refused(const QString& reason)
 QString whyNoCommand(const QStringList& arguments)
 {
     QStringList names;
-    for (const CommandRow& row : commands)
+    for (const CommandRow& row : kCommands)
         names << QString::fromLatin1(row.name);
     const QString all = names.join(QStringLiteral(", "));
     const auto isOption = [](const QString& argument) { return argument.startsWith(QLatin1Char('-')); };
@@ -308,7 +308,7 @@ void setUp(CLI::App& app, Read& read)
                                      {"Positionals", "cli_135"},
                                      {"REQUIRED", "cli_136"}})
         app.get_formatter()->label(label, words(key));
-    for (const CommandRow& row : commands)
+    for (const CommandRow& row : kCommands)
         addCommand(app, row, read);
     translateOptions(app);
     for (CLI::App* command : app.get_subcommands({}))
@@ -357,7 +357,7 @@ Arguments readArguments(const QByteArrayList& arguments)
         return refused(whyNotParsed(app, error));
     }
     const std::string name = app.get_subcommands().front()->get_name();
-    const auto* row = std::ranges::find(commands, name, &CommandRow::name);
+    const auto* row = std::ranges::find(kCommands, name, &CommandRow::name);
     Arguments result{read.call, {}, {}};
     result.call.command = QString::fromStdString(name);
     result.call.output = nameOf(read.output);

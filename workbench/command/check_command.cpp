@@ -26,11 +26,11 @@ struct SeverityRow
 };
 
 // By Severity.
-constexpr SeverityRow severities[] = {{"hint", "cli_082"}, {"warning", "cli_081"}, {"error", "cli_080"}};
+constexpr SeverityRow kSeverities[] = {{"hint", "cli_082"}, {"warning", "cli_081"}, {"error", "cli_080"}};
 
 QByteArray lineOf(const Call& call, const File& file, const FileRemark& remark)
 {
-    const SeverityRow& severity = severities[static_cast<int>(remark.severity)];
+    const SeverityRow& severity = kSeverities[static_cast<int>(remark.severity)];
     if (!call.json) {
         // A setting of many parts says its caption in its sentence.
         const bool isNamed = remark.text.startsWith(remark.caption + QStringLiteral(": "));

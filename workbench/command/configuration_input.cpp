@@ -64,8 +64,8 @@ std::optional<QByteArray> contentOf(const QString& name, QString* reason)
     // What is no plain file has no size. Room for the largest one would cost more than to read a usual one.
     const qint64 size = std::max<qint64>(file.size(), 1 << 16);
     QByteArray bytes;
-    while (isOpen && bytes.size() <= CSerialize::maxFileSize) {
-        const QByteArray piece = file.read(std::min(size, CSerialize::maxFileSize + 1 - bytes.size()));
+    while (isOpen && bytes.size() <= CSerialize::kMaxFileSize) {
+        const QByteArray piece = file.read(std::min(size, CSerialize::kMaxFileSize + 1 - bytes.size()));
         if (piece.isEmpty())
             break;
         bytes += piece;
@@ -137,7 +137,7 @@ Outcome withConfiguration(const Call& call, const File& file, const TakeConfigur
         const bool isPassedOver = !file.isNamed && kind != FileKind::unknown;
         return isPassedOver ? Outcome{} : refusal(call, file.name, whyOther(kind));
     }
-    if (bytes->size() > CSerialize::maxFileSize)
+    if (bytes->size() > CSerialize::kMaxFileSize)
         return refusal(call, file.name, text("cli_005"));
     reason = isDoubtful(*bytes) ? whyDamaged(*bytes) : QString();
     vlk::XmlDocument document(reason.isEmpty() ? *bytes : QByteArray(), QStringLiteral("DEVICE"));

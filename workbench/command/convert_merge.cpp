@@ -19,9 +19,9 @@ namespace {
 
 using vlk::RecordStore;
 
-constexpr qint64 bytesOfRun = 24 << 20;
-constexpr int recordsOfMergedBatch = 1024;
-constexpr qint64 bytesAhead = 16 << 10; // of a run that are read at a time
+constexpr qint64 kBytesOfRun = 24 << 20;
+constexpr int kRecordsOfMergedBatch = 1024;
+constexpr qint64 kBytesAhead = 16 << 10; // of a run that are read at a time
 
 // What tells one record from another.
 struct Key
@@ -87,7 +87,7 @@ private:
         ahead_.remove(0, used_);
         used_ = 0;
         file_.seek(at_);
-        const QByteArray more = file_.read(std::min(std::max(bytesAhead, count), end_ - at_));
+        const QByteArray more = file_.read(std::min(std::max(kBytesAhead, count), end_ - at_));
         at_ += more.size();
         ahead_ += more;
         return ahead_.size() >= count;
@@ -115,7 +115,7 @@ public:
                 origins_.push_back(origin);
                 heldBytes_ += std::ssize(store.bytes(record)) + qint64{sizeof(Entry)};
             }
-            if (heldBytes_ >= bytesOfRun)
+            if (heldBytes_ >= kBytesOfRun)
                 isWritten = writeRun();
         }
         isWritten = isWritten && writeRun() && file_.flush();
@@ -141,7 +141,7 @@ public:
     std::optional<RecordBatch> next() override
     {
         RecordBatch batch;
-        while (!heads_.empty() && batch.records.size() < recordsOfMergedBatch) {
+        while (!heads_.empty() && batch.records.size() < kRecordsOfMergedBatch) {
             const Head head = heads_.top();
             Run& run = runs_[head.run];
             const auto& origin = originList_[run.entry.origin];

@@ -8,7 +8,7 @@ namespace workbench::command {
 
 namespace {
 
-constexpr int recordsOfBatch = 1024;
+constexpr int kRecordsOfBatch = 1024;
 
 class FileSource : public RecordSource
 {
@@ -76,7 +76,7 @@ private:
             origin_.reset();
         }
         vlk::TelemetryContents& contents = reader_->contents();
-        while (!isRead_ && contents.records.size() < recordsOfBatch) {
+        while (!isRead_ && contents.records.size() < kRecordsOfBatch) {
             isRead_ = !reader_->step();
             if (isRead_)
                 finish(input);

@@ -20,11 +20,11 @@ struct KindRow
     const char* root;
 };
 
-constexpr KindRow kinds[] = {{FileKind::configuration, "configuration", "DEVICE"},
-                             {FileKind::telemetry, "telemetry", "TMI"},
-                             {FileKind::calibration, "calibration", "FUEL"},
-                             {FileKind::tachograph, "tachograph", nullptr},
-                             {FileKind::unknown, "unknown", nullptr}};
+constexpr KindRow kKinds[] = {{FileKind::configuration, "configuration", "DEVICE"},
+                              {FileKind::telemetry, "telemetry", "TMI"},
+                              {FileKind::calibration, "calibration", "FUEL"},
+                              {FileKind::tachograph, "tachograph", nullptr},
+                              {FileKind::unknown, "unknown", nullptr}};
 
 // Blocks of a driver's card begin with the tag of the chip, those of a vehicle unit with 0x76 and a number.
 bool looksLikeTachograph(const QByteArray& start)
@@ -52,15 +52,15 @@ FileKind kindOf(const QByteArray& start)
     vlk::XmlScanner scanner(text);
     if (scanner.next() != vlk::XmlScanner::Token::start)
         return FileKind::unknown;
-    const auto* found = std::ranges::find_if(kinds, [&](const KindRow& row) {
+    const auto* found = std::ranges::find_if(kKinds, [&](const KindRow& row) {
         return row.root && scanner.at(scanner.name()) == QLatin1String(row.root);
     });
-    return found == std::end(kinds) ? FileKind::unknown : found->kind;
+    return found == std::end(kKinds) ? FileKind::unknown : found->kind;
 }
 
 const char* nameOf(FileKind kind)
 {
-    return std::ranges::find(kinds, kind, &KindRow::kind)->name;
+    return std::ranges::find(kKinds, kind, &KindRow::kind)->name;
 }
 
 QString modelOf(const QByteArray& start)

@@ -26,7 +26,7 @@ namespace workbench::command {
 
 namespace {
 
-constexpr qint64 beginning = 4096;
+constexpr qint64 kBeginning = 4096;
 
 using vlk::FuelEvent;
 using vlk::TankSensor;
@@ -149,7 +149,7 @@ Outcome eventsOf(const Call& call, const File& file, const std::vector<TankSenso
     }
     if (!device->open(QIODevice::ReadOnly))
         return refusal(call, file.name, text("cli_002").arg(systemText(device->errorString())));
-    const QByteArray start = device->peek(beginning);
+    const QByteArray start = device->peek(kBeginning);
     if (start.isEmpty() && plain.isOpen() && plain.error() != QFileDevice::NoError)
         return refusal(call, file.name, text("cli_002").arg(systemText(plain.errorString())));
     const FileKind kind = kindOf(start);

@@ -103,7 +103,7 @@ QString textAt(const CXmlSection& root, const char* group, const char* key)
 
 Outcome documentFacts(const Call& call, const File& file, FileKind kind, const QByteArray& content)
 {
-    const QString root = QString::fromLatin1(kind == FileKind::calibration ? vlk::fuelRoot : "DEVICE");
+    const QString root = QString::fromLatin1(kind == FileKind::calibration ? vlk::kFuelRoot : "DEVICE");
     const QString damage = kind == FileKind::configuration ? whyDamaged(content) : QString();
     vlk::XmlDocument document(damage.isEmpty() ? content : QByteArray(), root);
     if (!document.isOpen())
@@ -136,8 +136,8 @@ Outcome factsOf(const Call& call, const File& file)
         return telemetryFacts(call, file, device);
     if (kind == FileKind::tachograph || kind == FileKind::unknown)
         return {lineOf(call, file, {.kind = kind})};
-    const QByteArray content = device.read(CSerialize::maxFileSize + 1);
-    if (content.size() > CSerialize::maxFileSize)
+    const QByteArray content = device.read(CSerialize::kMaxFileSize + 1);
+    if (content.size() > CSerialize::kMaxFileSize)
         return {lineOf(call, file, {.kind = kind, .model = modelOf(start)})};
     return documentFacts(call, file, kind, content);
 }

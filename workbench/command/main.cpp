@@ -31,13 +31,13 @@ struct CommandFunction
 };
 
 // A report of its own needs an application of its own.
-constexpr CommandFunction functions[] = {{"check", check}, {"diff", diff},       {"compare", compare},
-                                         {"get", get},     {"set", set},         {"apply", apply},
-                                         {"info", info},   {"convert", convert}, {"fuel", fuel}};
+constexpr CommandFunction kFunctions[] = {{"check", check}, {"diff", diff},       {"compare", compare},
+                                          {"get", get},     {"set", set},         {"apply", apply},
+                                          {"info", info},   {"convert", convert}, {"fuel", fuel}};
 
 int run(const Call& call)
 {
-    for (const CommandFunction& function : functions) {
+    for (const CommandFunction& function : kFunctions) {
         if (call.command != QLatin1String(function.name))
             continue;
         Output output(call.output);
@@ -74,7 +74,7 @@ struct Pdf
 int writePdf(const Pdf& pdf, int argc, char** argv)
 {
     QLibrary library(pdf.library);
-    const auto make = reinterpret_cast<ReportPdf>(library.resolve(reportPdfName));
+    const auto make = reinterpret_cast<ReportPdf>(library.resolve(kReportPdfName));
     QByteArray made;
     if (make)
         make(pdf.html, &made, argc, argv);

@@ -17,7 +17,7 @@ struct ReasonRow
     const char* key;
 };
 
-constexpr ReasonRow reasons[] = {
+constexpr ReasonRow kReasons[] = {
     {ENOENT, "cli_150"}, {EACCES, "cli_151"},  {EPERM, "cli_151"},        {ENOSPC, "cli_152"},
     {EDQUOT, "cli_152"}, {EROFS, "cli_153"},   {EISDIR, "cli_154"},       {ENOTDIR, "cli_155"},
     {ELOOP, "cli_156"},  {EIO, "cli_157"},     {ENAMETOOLONG, "cli_158"}, {EMFILE, "cli_159"},
@@ -28,7 +28,7 @@ const QHash<QString, QString>& texts()
 {
     static const QHash<QString, QString> texts = [] {
         QHash<QString, QString> made;
-        for (const ReasonRow& row : reasons)
+        for (const ReasonRow& row : kReasons)
             made.insert(qt_error_string(row.code), text(row.key));
         return made;
     }();

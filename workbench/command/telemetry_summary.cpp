@@ -13,7 +13,7 @@ namespace workbench::command {
 namespace {
 
 // Records that are held at a time.
-constexpr int heldRecords = 1000;
+constexpr int kHeldRecords = 1000;
 
 class Counter
 {
@@ -58,7 +58,7 @@ TelemetrySummary summaryOf(QIODevice& device)
     for (bool isMore = true; isMore;) {
         isMore = reader.step();
         vlk::RecordStore& records = reader.contents().records;
-        if (isMore && records.size() < heldRecords)
+        if (isMore && records.size() < kHeldRecords)
             continue;
         records.forEach([&counter](const TmiPage_Zeta3& page) { counter.take(page); });
         records.clear();

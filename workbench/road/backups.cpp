@@ -18,11 +18,11 @@ namespace workbench {
 
 namespace {
 
-const QString momentForm = QStringLiteral("yyyyMMdd'T'HHmmss'Z'");
-const QString nameKey = QStringLiteral("name");
-const QString noteKey = QStringLiteral("note");
+const QString kMomentForm = QStringLiteral("yyyyMMdd'T'HHmmss'Z'");
+const QString kNameKey = QStringLiteral("name");
+const QString kNoteKey = QStringLiteral("note");
 
-constexpr QFile::Permissions ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
+constexpr QFile::Permissions kOwnerOnly = QFile::ReadOwner | QFile::WriteOwner;
 
 QString wordsOf(const QString& path)
 {
@@ -42,7 +42,7 @@ bool saveSecret(const QString& path, const QByteArray& content, QString* reason)
     return vlk::saveWhole(
         file,
         [&](QIODevice& device) {
-            file.setPermissions(ownerOnly);
+            file.setPermissions(kOwnerOnly);
             return device.write(content) == content.size();
         },
         reason);
@@ -61,7 +61,7 @@ void Backups::load()
         QStringLiteral("^(\\d{1,9})_(\\d{8}T\\d{6}Z)_([0-9A-Za-z.-]*)\\.xml$"));
     for (const QFileInfo& file : QDir(folder_).entryInfoList({QStringLiteral("*.xml")}, QDir::Files)) {
         const auto match = form.match(file.fileName());
-        QDateTime made = QDateTime::fromString(match.captured(2), momentForm);
+        QDateTime made = QDateTime::fromString(match.captured(2), kMomentForm);
         if (!match.hasMatch() || !made.isValid())
             continue;
         made.setTimeSpec(Qt::UTC);
@@ -70,8 +70,8 @@ void Backups::load()
         const QJsonObject object = words.open(QIODevice::ReadOnly)
                                        ? QJsonDocument::fromJson(words.read(longestWords)).object()
                                        : QJsonObject();
-        all_.append({match.captured(1).toInt(), made, match.captured(3), object[nameKey].toString(),
-                     object[noteKey].toString(), file.filePath()});
+        all_.append({match.captured(1).toInt(), made, match.captured(3), object[kNameKey].toString(),
+                     object[kNoteKey].toString(), file.filePath()});
     }
     std::sort(all_.begin(), all_.end(), [](const Backup& a, const Backup& b) { return a.number > b.number; });
 }
@@ -87,14 +87,14 @@ QByteArray Backups::document(int number) const
 {
     const auto backup = find(number);
     QFile file(backup ? backup->path : QString());
-    return backup && file.open(QIODevice::ReadOnly) ? file.read(largestConfiguration + 1) : QByteArray();
+    return backup && file.open(QIODevice::ReadOnly) ? file.read(kLargestConfiguration + 1) : QByteArray();
 }
 
 int Backups::add(const TrackerIdentity& tracker, const QByteArray& document, const QDateTime& now,
                  QString* reason)
 {
     QDir().mkpath(folder_);
-    QFile::setPermissions(folder_, ownerOnly | QFile::ExeOwner);
+    QFile::setPermissions(folder_, kOwnerOnly | QFile::ExeOwner);
     Backup backup;
     backup.number = all_.isEmpty() ? 1 : all_.first().number + 1;
     backup.made = now;
@@ -102,7 +102,7 @@ int Backups::add(const TrackerIdentity& tracker, const QByteArray& document, con
     backup.name = tracker.name;
     backup.path = QDir(folder_).filePath(QStringLiteral("%1_%2_%3.xml")
                                              .arg(backup.number, 4, 10, QLatin1Char('0'))
-                                             .arg(now.toString(momentForm), backup.tracker));
+                                             .arg(now.toString(kMomentForm), backup.tracker));
     if (!saveSecret(backup.path, document, reason)) {
         if (reason)
             *reason = backup.path + QStringLiteral(": ") + *reason;
@@ -134,7 +134,7 @@ bool Backups::setNote(int number, const QString& note)
 
 bool Backups::saveWords(const Backup& backup) const
 {
-    const QJsonObject words{{nameKey, backup.name}, {noteKey, backup.note}};
+    const QJsonObject words{{kNameKey, backup.name}, {kNoteKey, backup.note}};
     QString reason;
     const bool saved = saveSecret(wordsOf(backup.path), QJsonDocument(words).toJson(), &reason);
     if (!saved)

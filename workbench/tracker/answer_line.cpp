@@ -7,8 +7,8 @@ namespace tracker {
 
 namespace {
 
-constexpr int answerMs = 20;
-constexpr int garbledStep = 5;
+constexpr int kAnswerMs = 20;
+constexpr int kGarbledStep = 5;
 
 } // namespace
 
@@ -37,14 +37,14 @@ void AnswerLine::post(const Answer& answer)
     if (!plugged())
         return;
     if (takeUnplug()) {
-        QTimer::singleShot(answerMs / 2, cable_.get(), [this] { Q_EMIT pulled(); });
+        QTimer::singleShot(kAnswerMs / 2, cable_.get(), [this] { Q_EMIT pulled(); });
         return;
     }
     if (faults_.silence)
         return;
     Answer sent = answer;
     sent.data = distorted(answer.data, answer.form);
-    const int ms = answerMs + answer.afterMs + qMax(0, faults_.delayMs);
+    const int ms = kAnswerMs + answer.afterMs + qMax(0, faults_.delayMs);
     QTimer::singleShot(ms, answer.ofSearch ? search_.get() : cable_.get(), [this, sent] { deliver(sent); });
 }
 
@@ -58,7 +58,7 @@ QByteArray AnswerLine::distorted(const QByteArray& bytes, Answer::Form form) con
 {
     QByteArray result = bytes;
     if (faults_.garbledAnswers)
-        for (int i = 0; i < result.size(); i += garbledStep)
+        for (int i = 0; i < result.size(); i += kGarbledStep)
             result[i] = static_cast<char>(result.at(i) ^ 0x5A);
     if (faults_.shortAnswers) {
         const int kept = result.size() / 2;

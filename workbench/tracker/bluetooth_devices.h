@@ -17,7 +17,7 @@ struct BluetoothDevice
     bool tellsHumidity = false;
 };
 
-inline constexpr std::array bluetoothDevices{
+inline constexpr std::array kBluetoothDevices{
     BluetoothDevice{.name = "TD_710612", .mac = "C4:64:E3:0B:52:10", .heardAfterMs = 700, .tankSensor = 2},
     BluetoothDevice{.name = "TL_022417", .mac = "C4:64:E3:0B:77:A1", .heardAfterMs = 1100, .climate = 0},
     BluetoothDevice{.name = "TZ-BT04",

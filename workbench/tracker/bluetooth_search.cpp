@@ -10,7 +10,7 @@ namespace {
 
 using vlk::Message;
 
-constexpr int searchMs = 5600;
+constexpr int kSearchMs = 5600;
 
 Answer event(Message message, char value, int afterMs)
 {
@@ -26,9 +26,9 @@ Answer event(Message message, char value, int afterMs)
 Answers searchBluetooth(bool switchedOn)
 {
     if (!switchedOn)
-        return {event(Message::BtSearchEvent, searchFailed, 0)};
-    Answers answers{event(Message::BtSearchEvent, searchRuns, 0)};
-    for (const BluetoothDevice& device : bluetoothDevices) {
+        return {event(Message::BtSearchEvent, kSearchFailed, 0)};
+    Answers answers{event(Message::BtSearchEvent, kSearchRuns, 0)};
+    for (const BluetoothDevice& device : kBluetoothDevices) {
         vlk::BtDevice record{};
         qstrncpy(record.name, device.name, sizeof record.name);
         qstrncpy(record.mac, device.mac, sizeof record.mac);
@@ -38,13 +38,13 @@ Answers searchBluetooth(bool switchedOn)
         answer.ofSearch = true;
         answers.push_back(answer);
     }
-    answers.push_back(event(Message::BtSearchEvent, searchEnded, searchMs));
+    answers.push_back(event(Message::BtSearchEvent, kSearchEnded, kSearchMs));
     return answers;
 }
 
 Answers stopBluetoothSearch()
 {
-    return {event(Message::BtSearchStopped, searchStopped, 0)};
+    return {event(Message::BtSearchStopped, kSearchStopped, 0)};
 }
 
 } // namespace tracker

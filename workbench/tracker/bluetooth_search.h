@@ -9,14 +9,14 @@
 namespace tracker {
 
 // How a search goes, as BtSearchEvent and BtSearchStopped carry it: a character.
-inline constexpr char searchRuns = '0';
-inline constexpr char searchEnded = '1';
-inline constexpr char searchFailed = '2';
-inline constexpr char searchStopped = '3';
+inline constexpr char kSearchRuns = '0';
+inline constexpr char kSearchEnded = '1';
+inline constexpr char kSearchFailed = '2';
+inline constexpr char kSearchStopped = '3';
 
 constexpr bool isSearchState(char state)
 {
-    return state >= searchRuns && state <= searchStopped;
+    return state >= kSearchRuns && state <= kSearchStopped;
 }
 
 Answers searchBluetooth(bool switchedOn);

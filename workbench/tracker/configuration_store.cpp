@@ -23,9 +23,9 @@ namespace tracker {
 
 namespace {
 
-const QString ownModel = QStringLiteral("R-7106");
+const QString kOwnModel = QStringLiteral("R-7106");
 // A configuration is some tens of kilobytes; the device has no room for more than this.
-constexpr qint64 largestDocument = qint64(1) << 20;
+constexpr qint64 kLargestDocument = qint64(1) << 20;
 
 struct Refusal
 {
@@ -40,7 +40,7 @@ Refusal check(const ConfigurationValues& values)
     if (values.root() != QLatin1String("DEVICE"))
         return {"wb_refused_root", values.root()};
     const QString model = values.rootAttribute(QStringLiteral("model"));
-    if (model != ownModel)
+    if (model != kOwnModel)
         return {"wb_refused_model", model};
     return {};
 }
@@ -56,7 +56,7 @@ int recordSize(const ConfigurationValues& values)
 QByteArray readWhole(const QString& path)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.read(largestDocument) : QByteArray();
+    return file.open(QIODevice::ReadOnly) ? file.read(kLargestDocument) : QByteArray();
 }
 
 QByteArray textOf(const QDomDocument& document)
@@ -162,7 +162,7 @@ WriteReport ConfigurationStore::write(const QString& path)
     QFile file(path);
     WriteReport report;
     if (file.open(QIODevice::ReadOnly))
-        report = write(file.read(largestDocument + 1));
+        report = write(file.read(kLargestDocument + 1));
     else
         report.reasonKey = QStringLiteral("wb_refused_unreadable");
     if (!file.isOpen())
@@ -180,7 +180,7 @@ WriteReport ConfigurationStore::write(const QByteArray& taken)
         return report;
     };
 
-    if (taken.size() > largestDocument)
+    if (taken.size() > kLargestDocument)
         return refuse("wb_refused_large", QString::number(taken.size()));
     report.document = taken;
     const ConfigurationValues asked(report.document);

@@ -8,7 +8,7 @@ namespace tracker {
 namespace {
 
 // Deeper than any configuration goes; a hostile file ends here.
-constexpr int deepest = 32;
+constexpr int kDeepest = 32;
 
 struct Level
 {
@@ -34,7 +34,7 @@ ConfigurationValues::ConfigurationValues(const QByteArray& document)
                 levels.append(Level{});
                 break;
             }
-            if (levels.size() > deepest) {
+            if (levels.size() > kDeepest) {
                 xml.raiseError(QStringLiteral("nested too deeply"));
                 break;
             }

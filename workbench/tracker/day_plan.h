@@ -55,9 +55,9 @@ struct DayPlan
     Odometers end;
 };
 
-inline constexpr int daySeconds = 86400;
+inline constexpr int kDaySeconds = 86400;
 // Litres that both tanks hold.
-inline constexpr double tankLitres = 400;
+inline constexpr double kTankLitres = 400;
 
 DayPlan planDay(quint64 seed, qint64 midnight, const Odometers& begin);
 

@@ -10,11 +10,11 @@ namespace tracker {
 
 namespace {
 
-constexpr int cardCode = 5;
-constexpr int dayCode = 1;
-constexpr int lastCode = 5;
-constexpr int signatureBytes = 128;
-constexpr int days = 28;
+constexpr int kCardCode = 5;
+constexpr int kDayCode = 1;
+constexpr int kLastCode = 5;
+constexpr int kSignatureBytes = 128;
+constexpr int kDays = 28;
 
 template <typename T>
 void appendBig(QByteArray& bytes, T value)
@@ -35,7 +35,7 @@ void appendSigned(QByteArray& file, quint16 tag, const QByteArray& data)
 {
     Random random(mix(tag, static_cast<quint64>(data.size())));
     QByteArray signature;
-    for (int i = 0; i < signatureBytes; ++i)
+    for (int i = 0; i < kSignatureBytes; ++i)
         signature.append(static_cast<char>(random.integer(0, 255)));
     appendBlock(file, tag, 0, data);
     appendBlock(file, tag, 1, signature);
@@ -57,7 +57,7 @@ QByteArray activity(qint64 lastDay, int count, quint64 seed)
         const qint64 day = lastDay - back;
         Random random(mix(seed, static_cast<quint64>(day)));
         const int changes = random.integer(6, 18);
-        appendBig(records, static_cast<quint32>(day * daySeconds));
+        appendBig(records, static_cast<quint32>(day * kDaySeconds));
         appendBig(records, static_cast<quint16>(random.integer(140, 360)));
         appendBig(records, static_cast<quint16>(changes));
         int minute = workFrom;
@@ -79,17 +79,17 @@ QByteArray cardContent(const Vehicle& vehicle)
     appendSigned(file, 0x0520,
                  padded(driver.card, 16) + padded("ROSAVTOTRANS", 36) + padded(driver.surname, 36) +
                      padded(driver.firstName, 36));
-    appendSigned(file, 0x0504, activity(vehicle.m.time / daySeconds, days, vehicle.m.seed));
+    appendSigned(file, 0x0504, activity(vehicle.m.time / kDaySeconds, kDays, vehicle.m.seed));
     return file;
 }
 
 QByteArray vehicleContent(int code, quint32 parameter, const Vehicle& vehicle)
 {
-    const qint64 lastDay = (code == dayCode ? qint64(parameter) : vehicle.m.time) / daySeconds;
+    const qint64 lastDay = (code == kDayCode ? qint64(parameter) : vehicle.m.time) / kDaySeconds;
     QByteArray file;
     appendSigned(file, 0x7601, padded("XTC652001N1710601", 17) + padded("A710BC76", 14));
     appendSigned(file, static_cast<quint16>(0x7602 + code),
-                 activity(lastDay, code == dayCode ? 1 : days, vehicle.m.seed));
+                 activity(lastDay, code == kDayCode ? 1 : kDays, vehicle.m.seed));
     return file;
 }
 
@@ -100,14 +100,14 @@ DddFile makeDddFile(int code, quint32 parameter, const Vehicle& vehicle)
     const QByteArray stamp = QDateTime::fromSecsSinceEpoch(vehicle.m.time, Qt::UTC)
                                  .toString(QStringLiteral("yyyyMMdd_HHmm"))
                                  .toLatin1();
-    if (code == cardCode) {
+    if (code == kCardCode) {
         constexpr quint32 slotByte = 0xFF;
         if ((parameter & slotByte) != 1)
             return {};
         const Driver& driver = driverOf(vehicle.m);
         return {"C_" + stamp + "_" + driver.surname + "_" + driver.card + ".ddd", cardContent(vehicle)};
     }
-    if (code < 0 || code > lastCode)
+    if (code < 0 || code > kLastCode)
         return {};
     return {"V_" + stamp + "_A710BC76.ddd", vehicleContent(code, parameter, vehicle)};
 }

@@ -7,10 +7,10 @@ namespace tracker {
 namespace {
 
 // Two years; a clock that is wrong by more gets the last of these days, since each day before it is planned.
-constexpr int longestDays = 731;
+constexpr int kLongestDays = 731;
 
 // The day of the newest record, that of the one asked for, and the one before it.
-constexpr std::size_t keptDays = 4;
+constexpr std::size_t kKeptDays = 4;
 
 } // namespace
 
@@ -21,7 +21,7 @@ Drive::Drive(quint64 seed, qint64 midnight, const SettingsHistory& settings)
 
 void Drive::settingsChanged(qint64 time)
 {
-    const qint64 days = std::clamp<qint64>((time - midnight_) / daySeconds, 0, longestDays);
+    const qint64 days = std::clamp<qint64>((time - midnight_) / kDaySeconds, 0, kLongestDays);
     if (static_cast<qint64>(begins_.size()) > days + 1)
         begins_.resize(static_cast<std::size_t>(days) + 1);
     days_.clear();
@@ -67,7 +67,7 @@ quint32 Drive::lastBefore(qint64 time)
     if (time < midnight_)
         return 0;
     const Day& day = dayAt(time);
-    const qint64 second = time - midnight_ - qint64(day.index) * daySeconds;
+    const qint64 second = time - midnight_ - qint64(day.index) * kDaySeconds;
     const auto& points = day.tracked.points;
     const auto after = std::upper_bound(points.begin(), points.end(), second,
                                         [](qint64 t, const TrackPoint& point) { return t < point.second; });
@@ -86,7 +86,7 @@ quint32 Drive::firstAfter(qint64 time)
 Drive::Day Drive::make(int index) const
 {
     const Begin& begin = begins_[index];
-    const qint64 midnight = midnight_ + qint64(index) * daySeconds;
+    const qint64 midnight = midnight_ + qint64(index) * kDaySeconds;
     Day day{index, planDay(seed_, midnight, begin.at), {}};
     day.tracked = trackDay(seed_, midnight, day.plan, begin.trace, settings_);
     return day;
@@ -94,7 +94,7 @@ Drive::Day Drive::make(int index) const
 
 const Drive::Day& Drive::day(int index)
 {
-    index = std::clamp(index, 0, longestDays);
+    index = std::clamp(index, 0, kLongestDays);
     const auto kept =
         std::find_if(days_.begin(), days_.end(), [index](const Day& day) { return day.index == index; });
     if (kept != days_.end()) {
@@ -107,21 +107,21 @@ const Drive::Day& Drive::day(int index)
         begins_.push_back({made.plan.end, made.tracked.end});
     }
     days_.push_front(made.index == index ? std::move(made) : make(index));
-    if (days_.size() > keptDays)
+    if (days_.size() > kKeptDays)
         days_.pop_back();
     return days_.front();
 }
 
 const Drive::Day& Drive::dayAt(qint64 time)
 {
-    const qint64 days = (std::max(time, midnight_) - midnight_) / daySeconds;
-    return day(static_cast<int>(std::min<qint64>(days, longestDays)));
+    const qint64 days = (std::max(time, midnight_) - midnight_) / kDaySeconds;
+    return day(static_cast<int>(std::min<qint64>(days, kLongestDays)));
 }
 
 // A number that is not made yet is one of the newest day that can be.
 const Drive::Day& Drive::dayOf(quint32 number)
 {
-    while (begins_.back().trace.records <= number && static_cast<int>(begins_.size()) <= longestDays)
+    while (begins_.back().trace.records <= number && static_cast<int>(begins_.size()) <= kLongestDays)
         day(static_cast<int>(begins_.size()) - 1);
     const auto dayAfter =
         std::upper_bound(begins_.begin() + 1, begins_.end() - 1, number,
@@ -136,7 +136,7 @@ const TrackPoint& Drive::pointOf(quint32 number, qint64& time)
     const auto& points = day.tracked.points;
     const std::size_t index = number - begins_[day.index].trace.records;
     const TrackPoint& point = points.empty() ? none : points[std::min<std::size_t>(index, points.size() - 1)];
-    time = midnight_ + qint64(day.index) * daySeconds + point.second;
+    time = midnight_ + qint64(day.index) * kDaySeconds + point.second;
     return point;
 }
 
@@ -157,7 +157,7 @@ Moment Drive::moment(const Day& day, qint64 time) const
 
     result.at = segment.odometersAt(elapsed);
     result.speedLimit = speedLimitAt(result.at.km);
-    const qint64 second = time - midnight_ - qint64(day.index) * daySeconds;
+    const qint64 second = time - midnight_ - qint64(day.index) * kDaySeconds;
     result.sensed = day.tracked.sensed.at(second);
     result.settings = settings_.at(time).settings;
     result.outside = outsideTemperature(seed_, time);

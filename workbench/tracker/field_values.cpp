@@ -58,21 +58,21 @@ double constant(const Vehicle& /*v*/, int /*index*/)
 {
     return value;
 }
-constexpr auto zero = constant<0>;
+constexpr auto kZero = constant<0>;
 
-constexpr double noValue16 = 0xFFFF;
-constexpr double noValue32 = 0xFFFF'FFFF;
-constexpr double coordinate = 600000;
-constexpr double fineCoordinate = 600000000;
-constexpr double hour = 3600;
-constexpr double gravity = 9.81;
-constexpr double milliG = 1000 / gravity;
+constexpr double kNoValue16 = 0xFFFF;
+constexpr double kNoValue32 = 0xFFFF'FFFF;
+constexpr double kCoordinate = 600000;
+constexpr double kFineCoordinate = 600000000;
+constexpr double kHour = 3600;
+constexpr double kGravity = 9.81;
+constexpr double kMilliG = 1000 / kGravity;
 // Fuel flow state: a nibble each for the chambers and the engine, then the power.
-constexpr double flowRuns = 0x1211;
-constexpr double flowStands = 0x1000;
+constexpr double kFlowRuns = 0x1211;
+constexpr double kFlowStands = 0x1000;
 
 // clang-format off
-constexpr FieldRow fieldRows[] = {
+constexpr FieldRow kFieldRows[] = {
     {element("NumPage"), [](const Vehicle& v, int) { return double(v.m.number); }},
     {element("Code"), [](const Vehicle& v, int) { return double(v.m.code); }},
     {element("Time"), [](const Vehicle& v, int) { return double(v.m.time); }},
@@ -82,8 +82,8 @@ constexpr FieldRow fieldRows[] = {
     {element("GSM"), [](const Vehicle& v, int) { return gsmLevel(v); }},
     {element("StateNGauge"), [](const Vehicle& v, int) { return navigationState(v); }},
     {element("LastTime"), [](const Vehicle& v, int) { return double(v.m.fixTime); }},
-    {element("Latitude"), [](const Vehicle& v, int) { return v.m.road.latitude * coordinate; }},
-    {element("Longitude"), [](const Vehicle& v, int) { return v.m.road.longitude * coordinate; }},
+    {element("Latitude"), [](const Vehicle& v, int) { return v.m.road.latitude * kCoordinate; }},
+    {element("Longitude"), [](const Vehicle& v, int) { return v.m.road.longitude * kCoordinate; }},
     {element("Altitude"), [](const Vehicle& v, int) { return v.m.road.altitude * 10; }},
     {element("Speed"), [](const Vehicle& v, int) { return v.m.speed; }},
     {element("Course"), [](const Vehicle& v, int) { return std::fmod(std::round(v.m.road.course), 360); }},
@@ -99,9 +99,9 @@ constexpr FieldRow fieldRows[] = {
     {element("StateOut1"), [](const Vehicle& v, int i) { return outputs(v, i); }, 2},
     {element("StateIn_Imp1"), [](const Vehicle& v, int i) { return i == 0 ? v.m.at.km * 10 : 0; }, 2},
     {element("Frequency1"), [](const Vehicle& v, int i) { return frequency(v, i); }, 2},
-    {element("Motochas"), [](const Vehicle& v, int) { return std::floor(v.m.at.engineSeconds / hour); }},
+    {element("Motochas"), [](const Vehicle& v, int) { return std::floor(v.m.at.engineSeconds / kHour); }},
     {element("LevelRS485_1"), fuelOf, 6},
-    {element("LevelRS232"), zero},
+    {element("LevelRS232"), kZero},
     {element("Temp1"), [](const Vehicle& v, int i) { return temperature(v, i); }, 8},
 
     {element("CAN_FuelLevel"), [](const Vehicle& v, int) { return fuelPercent(v); }},
@@ -121,8 +121,8 @@ constexpr FieldRow fieldRows[] = {
     {element("NaviInfoGlonass"), [](const Vehicle& v, int i) { return satellites(v, i); }, 8},
     {element("NaviHDop"), [](const Vehicle& v, int i) { return dilution(v, i); }, 2},
     {element("NaviState"), [](const Vehicle& v, int) { return navigationState(v); }},
-    {element("NaviLatitude"), [](const Vehicle& v, int) { return v.m.road.latitude * fineCoordinate; }},
-    {element("NaviLongitude"), [](const Vehicle& v, int) { return v.m.road.longitude * fineCoordinate; }},
+    {element("NaviLatitude"), [](const Vehicle& v, int) { return v.m.road.latitude * kFineCoordinate; }},
+    {element("NaviLongitude"), [](const Vehicle& v, int) { return v.m.road.longitude * kFineCoordinate; }},
     {element("NaviAltitude"), [](const Vehicle& v, int) { return v.m.road.altitude * 1000; }},
     {element("NaviCourse"), [](const Vehicle& v, int) { return v.m.road.course * 100; }},
     {element("NaviSpeed"), [](const Vehicle& v, int) { return v.m.speed; }},
@@ -145,47 +145,47 @@ constexpr FieldRow fieldRows[] = {
     {element("TahoMode"), constant<1>, 1, 1, LineOwner::Tachograph},
     {element("TahoFlags"), [](const Vehicle& v, int) { return v.driving() ? 3.0 : 1.0; }, 1, 1, LineOwner::Tachograph},
     {element("TahoSpeed"), [](const Vehicle& v, int) { return v.m.speed; }, 1, 1, LineOwner::Tachograph},
-    {element("TahoOdometer"), [](const Vehicle& v, int) { return (68000 + v.m.at.km) * 10; }, 1, 1, LineOwner::Tachograph, noValue32},
+    {element("TahoOdometer"), [](const Vehicle& v, int) { return (68000 + v.m.at.km) * 10; }, 1, 1, LineOwner::Tachograph, kNoValue32},
     {element("TahoTime"), [](const Vehicle& v, int) { return double(v.m.time); }, 1, 1, LineOwner::Tachograph},
     {element("DispCur"), [](const Vehicle& v, int) { return v.driving() ? 2.0 : 1.0; }},
     {element("DispLastIndex"), constant<41>},
 
     {element("AccelDelta"), [](const Vehicle& v, int) { return v.m.segmentSeconds * 100.0; }},
-    {element("AccelLinearX"), [](const Vehicle& v, int) { return v.m.acceleration * milliG; }},
+    {element("AccelLinearX"), [](const Vehicle& v, int) { return v.m.acceleration * kMilliG; }},
     {element("AccelLinearY"), [](const Vehicle& v, int) { return lateral(v) * 1000; }},
     {element("AccelLinearZ"), [](const Vehicle& v, int) { return 1000 + shock(v) * 4; }},
     {element("AccelModule"), [](const Vehicle& v, int) { return shock(v) > 20 ? shock(v) : 0; }},
-    {element("AccelAngularPlus"), [](const Vehicle& v, int) { return std::max(0.0, v.m.acceleration) * milliG; }},
-    {element("AccelAngularMinus"), [](const Vehicle& v, int) { return std::min(0.0, v.m.acceleration) * milliG; }},
+    {element("AccelAngularPlus"), [](const Vehicle& v, int) { return std::max(0.0, v.m.acceleration) * kMilliG; }},
+    {element("AccelAngularMinus"), [](const Vehicle& v, int) { return std::min(0.0, v.m.acceleration) * kMilliG; }},
     {element("AccelAngularCorner"), [](const Vehicle& v, int) { return lateral(v) * 1000; }},
     {element("Passager_1"), [](const Vehicle& v, int i) { return passengers(v, i); }, 16},
-    {element("AinfState"), zero},
-    {element("AinfGeozoneID"), zero, 3},
-    {element("CameraState"), zero},
+    {element("AinfState"), kZero},
+    {element("AinfGeozoneID"), kZero, 3},
+    {element("CameraState"), kZero},
 
-    {element("State2"), zero},
+    {element("State2"), kZero},
     {element("Module3"), constant<1>},
     {element("StateCnct"), [](const Vehicle& v, int) { return connection(v); }},
-    {element("StateIn3"), zero},
-    {element("StateIn_Imp3"), zero, 6},
-    {element("Frequency3"), zero, 6},
+    {element("StateIn3"), kZero},
+    {element("StateIn_Imp3"), kZero, 6},
+    {element("Frequency3"), kZero, 6},
     {element("VAccelState"), [](const Vehicle& v, int) { return shockState(v); }},
     {element("VAccelVertical"), [](const Vehicle& v, int) { return tilt(v) * 4; }},
     {element("VAccelLineTang"), [](const Vehicle& v, int) { return tilt(v) / 2; }},
     {element("VAccelLineRoll"), [](const Vehicle& v, int) { return lateral(v) * 20; }},
-    {element("VAccelAxelsX"), zero, 3},
+    {element("VAccelAxelsX"), kZero, 3},
     {element("EcoDrvAccelMax"), [](const Vehicle& v, int) { return 1000 + shock(v) * 6; }},
     {element("EcoDrvSpeedMax"), [](const Vehicle& v, int) { return v.m.speed; }},
     {element("EcoDrvSpeedState"), [](const Vehicle& v, int) { return speedThresholds(v); }},
-    {element("EcoDrvAccel1"), [](const Vehicle& v, int) { return thresholds(v.m.acceleration / gravity) + 16 * thresholds(-v.m.acceleration / gravity); }},
+    {element("EcoDrvAccel1"), [](const Vehicle& v, int) { return thresholds(v.m.acceleration / kGravity) + 16 * thresholds(-v.m.acceleration / kGravity); }},
     {element("EcoDrvAccel2"), [](const Vehicle& v, int) { return thresholds(-lateral(v)) + 16 * thresholds(lateral(v)); }},
     {element("EcoDrvAccel3"), [](const Vehicle& v, int) { return thresholds(shock(v) / 200); }},
     {element("RS485Freq1"), fuelFrequencyOf, 16},
     {element("HPrecisionTemp1"), [](const Vehicle& v, int i) { return fineTemperature(v, i); }, 4},
     {element("HPrecisionHumidity1"), [](const Vehicle& v, int i) { return humidity(v, i); }, 4},
 
-    {element("FfsState"), [](const Vehicle& v, int) { return v.running() ? flowRuns : flowStands; }},
-    {element("FfsError"), zero},
+    {element("FfsState"), [](const Vehicle& v, int) { return v.running() ? kFlowRuns : kFlowStands; }},
+    {element("FfsError"), kZero},
     {element("FfsFuel"), [](const Vehicle& v, int) { return v.m.at.fuelUsed * 100; }},
     {element("FfsFuelTrip"), [](const Vehicle& v, int) { return std::fmod(v.m.at.fuelUsed, 1000) * 100; }},
     {element("FfsSpeed"), [](const Vehicle& v, int) { return flow(v); }},
@@ -202,22 +202,22 @@ constexpr FieldRow fieldRows[] = {
     {element("RefrSetTemp1"), constant<300>, 3, 1, LineOwner::Refrigerator},
     {element("RefrTempAir"), [](const Vehicle& v, int) { return v.m.outside * 100; }, 1, 1, LineOwner::Refrigerator},
     {element("RefrTempWater"), [](const Vehicle& v, int) { return coolant(v) * 80; }, 1, 1, LineOwner::Refrigerator},
-    {element("RefrTension"), [](const Vehicle& v, int) { return supplyVoltage(v); }, 1, 1, LineOwner::Refrigerator, noValue16},
-    {element("RefrIntensity"), [](const Vehicle& v, int) { return refrigeratorRuns(v) * 18; }, 1, 1, LineOwner::Refrigerator, noValue16},
-    {element("RefrPowerEngine"), [](const Vehicle& v, int) { return v.m.at.loadSeconds / 36; }, 1, 1, LineOwner::Refrigerator, noValue32},
-    {element("RefrPowerNetwork"), zero, 1, 1, LineOwner::Refrigerator, noValue32},
-    {element("RefrErrorCount"), zero, 7, 1, LineOwner::Refrigerator},
+    {element("RefrTension"), [](const Vehicle& v, int) { return supplyVoltage(v); }, 1, 1, LineOwner::Refrigerator, kNoValue16},
+    {element("RefrIntensity"), [](const Vehicle& v, int) { return refrigeratorRuns(v) * 18; }, 1, 1, LineOwner::Refrigerator, kNoValue16},
+    {element("RefrPowerEngine"), [](const Vehicle& v, int) { return v.m.at.loadSeconds / 36; }, 1, 1, LineOwner::Refrigerator, kNoValue32},
+    {element("RefrPowerNetwork"), kZero, 1, 1, LineOwner::Refrigerator, kNoValue32},
+    {element("RefrErrorCount"), kZero, 7, 1, LineOwner::Refrigerator},
     {element("RefrEngineMode"), [](const Vehicle& v, int) { return refrigeratorRuns(v); }, 1, 1, LineOwner::Refrigerator},
-    {element("RefrEngineTurns"), [](const Vehicle& v, int) { return refrigeratorRuns(v) * 1450; }, 1, 1, LineOwner::Refrigerator, noValue16},
+    {element("RefrEngineTurns"), [](const Vehicle& v, int) { return refrigeratorRuns(v) * 1450; }, 1, 1, LineOwner::Refrigerator, kNoValue16},
     {element("RefrCompressor"), [](const Vehicle& v, int) { return refrigeratorRuns(v) + 1; }, 1, 1, LineOwner::Refrigerator},
 
     {element("GeozoneInfo"), [](const Vehicle& v, int) { return v.m.activity == Activity::Parked ? 1.0 : 0.0; }},
     {element("CAN3State"), [](const Vehicle& v, int) { return v.running() ? 3.0 : 0.0; }},
-    {element("CAN3Event"), zero},
-    {element("CAN3Crash"), zero},
-    {element("CAN3FailureLamp"), zero, 2},
-    {element("MotochasLoadOn"), [](const Vehicle& v, int) { return std::floor(v.m.at.loadSeconds / hour); }},
-    {element("MotochasLoadOff"), [](const Vehicle& v, int) { return std::floor((v.m.at.engineSeconds - v.m.at.loadSeconds) / hour); }},
+    {element("CAN3Event"), kZero},
+    {element("CAN3Crash"), kZero},
+    {element("CAN3FailureLamp"), kZero, 2},
+    {element("MotochasLoadOn"), [](const Vehicle& v, int) { return std::floor(v.m.at.loadSeconds / kHour); }},
+    {element("MotochasLoadOff"), [](const Vehicle& v, int) { return std::floor((v.m.at.engineSeconds - v.m.at.loadSeconds) / kHour); }},
     {element("User1Byte_1"), [](const Vehicle& v, int i) { return v.drift(200 + i, 0, 255, 600); }, 16},
     {element("User2Byte_1"), [](const Vehicle& v, int i) { return v.drift(220 + i, 0, 65535, 600); }, 15},
     {element("User4Byte_1"), [](const Vehicle& v, int i) { return v.drift(240 + i, 0, 1e6, 600); }, 15},
@@ -228,7 +228,7 @@ constexpr FieldRow fieldRows[] = {
 constexpr bool everyElementHasOneRow()
 {
     std::array<int, vlk::kElementCount> uses{};
-    for (const FieldRow& row : fieldRows)
+    for (const FieldRow& row : kFieldRows)
         for (int i = 0; i < row.count; ++i)
             ++uses[row.first + i * row.stride];
     return std::all_of(uses.begin(), uses.end(), [](int count) { return count == 1; });
@@ -279,7 +279,7 @@ std::uint64_t bitsOf(vlk::ValueType type, double value)
 ValueBlock valueBlock(const Vehicle& vehicle)
 {
     ValueBlock block{};
-    for (const FieldRow& row : fieldRows) {
+    for (const FieldRow& row : kFieldRows) {
         const bool told = row.device == LineOwner::Other || vehicle.isOnLine(row.device);
         for (int i = 0; i < row.count; ++i) {
             const vlk::Element& element = vlk::kElements[row.first + i * row.stride];

@@ -15,8 +15,8 @@ namespace {
 
 using vlk::Message;
 
-constexpr int firstLine = 21; // id of IN1 in the line list
-constexpr int lineCount = 3;
+constexpr int kFirstLine = 21; // id of IN1 in the line list
+constexpr int kLineCount = 3;
 
 vlk::IdPair idPair(quint64 number)
 {
@@ -49,7 +49,7 @@ void LiveRequests::addTo(Handlers& handlers)
     handlers[Message::RequestAnalog] = [this](void*) { return analog(); };
     handlers[Message::RequestSupply] = [this](void*) -> Answers {
         vlk::SupplyRecord record{};
-        record.values[vlk::supplyElement] =
+        record.values[vlk::kSupplyElement] =
             static_cast<std::uint16_t>(std::lround(supplyVoltage(present_())));
         Answer answer = Answer::record(record);
         seal(answer.data, Message::RequestSupply);
@@ -63,8 +63,8 @@ void LiveRequests::addTo(Handlers& handlers)
     };
     handlers[Message::RequestAccelCommand] = [](void*) -> Answers {
         constexpr char done = 49;
-        QByteArray record(vlk::accelResultSize, '\0');
-        record[vlk::accelStatusByte] = done;
+        QByteArray record(vlk::kAccelResultSize, '\0');
+        record[vlk::kAccelStatusByte] = done;
         return {{Answer::Form::Record, record, {}}};
     };
     handlers[Message::WaitStepEnd] = [](void*) -> Answers { return {Answer{}}; };
@@ -96,8 +96,8 @@ Answers LiveRequests::lines(const QByteArray* list) const
     const Vehicle vehicle = present_();
     QByteArray pairs;
     for (const QByteArray& id : list->split(',')) {
-        const int index = id.trimmed().toInt() - firstLine;
-        if (index < 0 || index >= lineCount)
+        const int index = id.trimmed().toInt() - kFirstLine;
+        if (index < 0 || index >= kLineCount)
             continue;
         if (!pairs.isEmpty())
             pairs += ',';
@@ -112,11 +112,11 @@ Answers LiveRequests::analog() const
     constexpr int fuelSensors = 25; // D1, three bytes each
     constexpr int fuelSensorCount = 6;
     const Vehicle vehicle = present_();
-    QByteArray record(vlk::analogRecordSize, '\0');
+    QByteArray record(vlk::kAnalogRecordSize, '\0');
     for (int i = 0; i < 2; ++i)
         putWord(record, frequencies + 2 * i, frequency(vehicle, i));
-    for (int i = 0; i < lineCount; ++i)
-        putWord(record, vlk::analogRecordLine1 + 2 * i, lineVoltage(vehicle, i));
+    for (int i = 0; i < kLineCount; ++i)
+        putWord(record, vlk::kAnalogRecordLine1 + 2 * i, lineVoltage(vehicle, i));
     for (int i = 0; i < fuelSensorCount; ++i)
         putWord(record, fuelSensors + 3 * i, fuelSensor(vehicle, i));
     seal(record, Message::RequestAnalog);

@@ -59,12 +59,12 @@ struct Controls
 };
 
 // Later than any record.
-inline constexpr qint64 noTime = std::numeric_limits<qint64>::max();
+inline constexpr qint64 kNoTime = std::numeric_limits<qint64>::max();
 
 // What the tracker is connected to.
 struct Links
 {
-    qint64 usbSince = noTime; // Unix seconds
+    qint64 usbSince = kNoTime; // Unix seconds
     std::array<bool, 3> servers{};
     int connectsEvery = 0; // seconds, to the servers; 0 for always
     bool service = true;   // of the manufacturer

@@ -11,8 +11,8 @@ namespace {
 
 enum NavigationSeed : quint64 { SatelliteSeed = 1, NorthSeed = 5, EastSeed = 6 };
 
-constexpr int leastForFix = 4;
-constexpr double metresPerDegree = 111195;
+constexpr int kLeastForFix = 4;
+constexpr double kMetresPerDegree = 111195;
 
 bool isHidden(double km)
 {
@@ -60,7 +60,7 @@ void navigate(Fix& fix, quint64 seed, const Segment& segment, int second, const 
     const qint64 time = segment.from + second;
     const double km = segment.at.km + segment.metresAt(second) / 1000;
     const Satellites satellites = satellitesAt(seed, time, km, rules);
-    fix.valid = !isHidden(km) && satellites.all() >= leastForFix;
+    fix.valid = !isHidden(km) && satellites.all() >= kLeastForFix;
     if (fix.valid && rules.filtered) {
         fix.valid = satellites.all() >= rules.leastSatellites && satellites.hdop() * 100 <= rules.mostHdop &&
                     segment.speedAt(second) <= rules.mostSpeed && time > fix.rejectedUntil;
@@ -96,7 +96,7 @@ RoadPoint wandered(RoadPoint point, quint64 seed, qint64 time, double metres)
     constexpr double period = 60; // seconds
     const auto away = [&](NavigationSeed direction) {
         const double swing = wave(mix(seed, direction), static_cast<double>(time) / period) * 2 - 1;
-        return swing * metres / std::sqrt(2) / metresPerDegree;
+        return swing * metres / std::sqrt(2) / kMetresPerDegree;
     };
     constexpr double radian = 3.14159265358979323846 / 180;
     point.longitude += away(EastSeed) / std::cos(point.latitude * radian);

@@ -6,22 +6,22 @@ namespace tracker {
 
 namespace {
 
-constexpr quint64 vehicleSeed = 7106;
-constexpr quint32 capacity = 131072;
+constexpr quint64 kVehicleSeed = 7106;
+constexpr quint32 kCapacity = 131072;
 // Some three days of records.
-constexpr quint32 searchedBack = 8000;
+constexpr quint32 kSearchedBack = 8000;
 
 } // namespace
 
 RecordArchive::RecordArchive(const TrackerMemory& memory, const SettingsHistory& settings)
-    : memory_(memory), drive_(vehicleSeed, memory.firstMidnight(), settings)
+    : memory_(memory), drive_(kVehicleSeed, memory.firstMidnight(), settings)
 {
 }
 
 RecordArchive::Found RecordArchive::byNumber(quint32 number, qint64 now, const DataSet& dataSet)
 {
     const quint32 newest = drive_.lastBefore(now);
-    const quint32 oldest = newest < capacity ? 0 : newest - capacity + 1;
+    const quint32 oldest = newest < kCapacity ? 0 : newest - kCapacity + 1;
     const Moment moment = record(std::clamp(number, oldest, newest));
     const Controls controls = memory_.controlsAt(moment.time);
     const Vehicle vehicle(moment, controls, dataSet.links);
@@ -50,7 +50,7 @@ QByteArray RecordArchive::current(qint64 now, const DataSet& dataSet)
 QByteArray RecordArchive::lastPacket(RecordKind kind, qint64 now)
 {
     const quint32 newest = drive_.lastBefore(now);
-    for (quint32 back = 0; back <= std::min(newest, searchedBack); ++back) {
+    for (quint32 back = 0; back <= std::min(newest, kSearchedBack); ++back) {
         const Moment moment = record(newest - back);
         if (moment.kind == kind) {
             const Controls controls = memory_.controlsAt(moment.time);

@@ -8,8 +8,8 @@ namespace tracker {
 
 namespace {
 
-constexpr quint8 recordType = 176;
-constexpr quint8 packetType = 177;
+constexpr quint8 kRecordType = 176;
+constexpr quint8 kPacketType = 177;
 
 // A backup battery and an input Ain3 outside of their limits, mV; a receiver that is on and has no fix.
 constexpr std::pair<vlk::ElementIndex, std::uint64_t> kBadBoard[] = {
@@ -19,7 +19,7 @@ constexpr std::pair<vlk::ElementIndex, std::uint64_t> kBadBoard[] = {
 };
 
 enum Entry : quint8 { KeyEntry = 1, CardEntry = 2, TagEntry = 3 };
-constexpr int cardWidth = 16;
+constexpr int kCardWidth = 16;
 
 class Block
 {
@@ -83,7 +83,7 @@ QByteArray recordBytes(const Vehicle& vehicle, const DataSet& dataSet)
         block.appendField(payload, field);
     }
     QByteArray record;
-    append(record, recordType);
+    append(record, kRecordType);
     append(record, static_cast<quint8>(dataSet.version));
     record.append(reinterpret_cast<const char*>(mask.bytes().data()), vlk::FieldMask::kBytes);
     return record.append(payload);
@@ -112,12 +112,12 @@ QByteArray packetBytes(const Vehicle& vehicle, PacketRoad road)
         append(number, driverOf(vehicle.m).key);
         appendEntry(content, KeyEntry, number);
         QByteArray card;
-        appendText(card, driverOf(vehicle.m).surname, cardWidth);
+        appendText(card, driverOf(vehicle.m).surname, kCardWidth);
         appendEntry(content, CardEntry, card);
     }
 
     QByteArray packet;
-    append(packet, packetType);
+    append(packet, kPacketType);
     append(packet, static_cast<quint16>(content.size()));
     return packet.append(content);
 }

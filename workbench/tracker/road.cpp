@@ -18,7 +18,7 @@ struct Waypoint
 };
 
 // The depot, the embankment, the bridge, the ring road and the villages behind it, and back.
-constexpr Waypoint waypoints[] = {
+constexpr Waypoint kWaypoints[] = {
     {57.6012, 39.8510, 104, 20}, {57.6048, 39.8563, 105, 40}, {57.6105, 39.8602, 108, 60},
     {57.6187, 39.8671, 110, 60}, {57.6251, 39.8790, 107, 60}, {57.6263, 39.8925, 99, 40},
     {57.6318, 39.9012, 96, 40},  {57.6402, 39.8968, 98, 60},  {57.6489, 39.9053, 94, 60},
@@ -29,12 +29,12 @@ constexpr Waypoint waypoints[] = {
     {57.6242, 39.7829, 124, 90}, {57.6075, 39.7786, 129, 90}, {57.5921, 39.7894, 127, 90},
     {57.5833, 39.8118, 118, 60}, {57.5858, 39.8307, 112, 60}, {57.5921, 39.8432, 107, 40},
 };
-constexpr int spanCount = static_cast<int>(std::size(waypoints));
-constexpr int stepsPerSpan = 16;
+constexpr int kSpanCount = static_cast<int>(std::size(kWaypoints));
+constexpr int kStepsPerSpan = 16;
 
 // The underpass, kilometres of the tour.
-constexpr double underpassFrom = 8.2;
-constexpr double underpassTo = 8.45;
+constexpr double kUnderpassFrom = 8.2;
+constexpr double kUnderpassTo = 8.45;
 
 struct Step
 {
@@ -46,17 +46,17 @@ struct Step
     double course; // to the next step
 };
 
-constexpr double kmPerDegree = 111.195;
-constexpr double degree = 3.14159265358979323846 / 180;
+constexpr double kKmPerDegree = 111.195;
+constexpr double kDegree = 3.14159265358979323846 / 180;
 
 double east(const Step& from, const Step& to)
 {
-    return (to.longitude - from.longitude) * kmPerDegree * std::cos(from.latitude * degree);
+    return (to.longitude - from.longitude) * kKmPerDegree * std::cos(from.latitude * kDegree);
 }
 
 double north(const Step& from, const Step& to)
 {
-    return (to.latitude - from.latitude) * kmPerDegree;
+    return (to.latitude - from.latitude) * kKmPerDegree;
 }
 
 // A smooth curve through four values in a row, between the middle two.
@@ -70,15 +70,15 @@ double curve(const std::array<double, 4>& p, double t)
 std::vector<Step> makeSteps()
 {
     std::vector<Step> steps;
-    for (int span = 0; span < spanCount; ++span) {
+    for (int span = 0; span < kSpanCount; ++span) {
         std::array<Waypoint, 4> around{};
         for (int i = 0; i < 4; ++i)
-            around[i] = waypoints[(span + i + spanCount - 1) % spanCount];
+            around[i] = kWaypoints[(span + i + kSpanCount - 1) % kSpanCount];
         const auto along = [&around](double Waypoint::*value, double t) {
             return curve({around[0].*value, around[1].*value, around[2].*value, around[3].*value}, t);
         };
-        for (int i = 0; i < stepsPerSpan; ++i) {
-            const double t = static_cast<double>(i) / stepsPerSpan;
+        for (int i = 0; i < kStepsPerSpan; ++i) {
+            const double t = static_cast<double>(i) / kStepsPerSpan;
             steps.push_back({0, along(&Waypoint::latitude, t), along(&Waypoint::longitude, t),
                              along(&Waypoint::altitude, t), around[1].limit, 0});
         }
@@ -89,7 +89,7 @@ std::vector<Step> makeSteps()
         const double eastward = east(from, steps[i]);
         const double northward = north(from, steps[i]);
         steps[i].km = from.km + std::hypot(eastward, northward);
-        const double course = std::atan2(eastward, northward) / degree;
+        const double course = std::atan2(eastward, northward) / kDegree;
         from.course = course < 0 ? course + 360 : course;
     }
     return steps;
@@ -137,7 +137,7 @@ int speedLimitAt(double km)
 double lastOpenKm(double km)
 {
     const double kmOfTour = withinTour(km);
-    return kmOfTour > underpassFrom && kmOfTour < underpassTo ? km - (kmOfTour - underpassFrom) : km;
+    return kmOfTour > kUnderpassFrom && kmOfTour < kUnderpassTo ? km - (kmOfTour - kUnderpassFrom) : km;
 }
 
 } // namespace tracker

@@ -9,7 +9,7 @@
 
 namespace tracker {
 
-inline constexpr int sealSize = 4;
+inline constexpr int kSealSize = 4;
 
 inline quint8 sumOf(const QByteArray& record)
 {
@@ -29,7 +29,7 @@ inline void seal(QByteArray& record, vlk::Message request)
 
 inline bool isSealed(const QByteArray& record, vlk::Message request)
 {
-    return record.size() >= sealSize && record.at(0) == static_cast<char>(request) &&
+    return record.size() >= kSealSize && record.at(0) == static_cast<char>(request) &&
            (quint8(record.at(1)) | quint8(record.at(2)) << 8) == record.size() && sumOf(record) == 0;
 }
 

@@ -19,7 +19,7 @@ struct Action
     int position;
 };
 
-constexpr Action actions[] = {
+constexpr Action kActions[] = {
     {EventCode::WeakShock, 5},
     {EventCode::StrongShock, 6},
     {EventCode::Movement, 7},
@@ -33,10 +33,10 @@ constexpr Action actions[] = {
 
 // And what switches it without a record of its own: the trigger of a line, from the first on, the engine, and
 // the restore of any line or shock sensor.
-constexpr int lineAction = 0;
-constexpr int engineStartAction = 14;
-constexpr int engineStopAction = 15;
-constexpr int restoreAction = 16;
+constexpr int kLineAction = 0;
+constexpr int kEngineStartAction = 14;
+constexpr int kEngineStopAction = 15;
+constexpr int kRestoreAction = 16;
 
 class Sensing
 {
@@ -95,7 +95,7 @@ private:
             events_.push_back(after(EventCode::Line1Triggered, 2 * index));
         else if (line.restores)
             events_.push_back(after(EventCode::Line1Restored, 2 * index));
-        switchOutput(triggered ? lineAction + index : restoreAction);
+        switchOutput(triggered ? kLineAction + index : kRestoreAction);
     }
 
     void analogue()
@@ -125,7 +125,7 @@ private:
         if (rules.used() && now_.engine != before_.engine) {
             if (!rules.engineSilent)
                 events_.push_back(now_.engine ? EventCode::EngineStarted : EventCode::EngineStopped);
-            switchOutput(now_.engine ? engineStartAction : engineStopAction);
+            switchOutput(now_.engine ? kEngineStartAction : kEngineStopAction);
         }
     }
 
@@ -203,7 +203,7 @@ private:
                 now_.shocks &= static_cast<quint8>(~bit);
         }
         if (before_.shocks & ~now_.shocks)
-            switchOutput(restoreAction);
+            switchOutput(kRestoreAction);
         // A strong shock is not told as a weak one too.
         const int news = now_.shocks & ~before_.shocks;
         for (int i = 0; i < 4; ++i)
@@ -213,7 +213,7 @@ private:
 
     void eventSwitches(EventCode event)
     {
-        for (const Action& action : actions)
+        for (const Action& action : kActions)
             if (action.event == event)
                 switchOutput(action.position);
     }

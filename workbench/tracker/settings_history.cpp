@@ -9,9 +9,9 @@ namespace tracker {
 
 namespace {
 
-constexpr qint64 always = std::numeric_limits<qint64>::min();
-const QString arrayKey = QStringLiteral("settings");
-const QString timeKey = QStringLiteral("since");
+constexpr qint64 kAlways = std::numeric_limits<qint64>::min();
+const QString kArrayKey = QStringLiteral("settings");
+const QString kTimeKey = QStringLiteral("since");
 
 } // namespace
 
@@ -20,13 +20,13 @@ SettingsHistory::SettingsHistory(const QString& folder, const WorkingSettings& p
 {
     load();
     if (entries_.empty() || !(*latest() == present)) {
-        const qint64 since = entries_.empty() ? always : entries_.back().time;
+        const qint64 since = entries_.empty() ? kAlways : entries_.back().time;
         if (!entries_.empty())
             entries_.pop_back();
         entries_.push_back({since, std::make_shared<WorkingSettings>(present)});
         save();
     }
-    entries_.front().time = always;
+    entries_.front().time = kAlways;
 }
 
 bool SettingsHistory::change(qint64 time, const WorkingSettings& settings)
@@ -53,10 +53,10 @@ SettingsHistory::Period SettingsHistory::at(qint64 time) const
 void SettingsHistory::load()
 {
     QSettings file(file_, QSettings::IniFormat);
-    const int count = file.beginReadArray(arrayKey);
+    const int count = file.beginReadArray(kArrayKey);
     for (int i = 0; i < count; ++i) {
         file.setArrayIndex(i);
-        entries_.push_back({file.value(timeKey).toLongLong(),
+        entries_.push_back({file.value(kTimeKey).toLongLong(),
                             std::make_shared<WorkingSettings>(WorkingSettings::load(file))});
     }
     std::stable_sort(entries_.begin(), entries_.end(),
@@ -67,11 +67,11 @@ void SettingsHistory::save() const
 {
     QSettings file(file_, QSettings::IniFormat);
     file.clear();
-    file.beginWriteArray(arrayKey);
+    file.beginWriteArray(kArrayKey);
     int index = 0;
     for (const Entry& entry : entries_) {
         file.setArrayIndex(index++);
-        file.setValue(timeKey, entry.time);
+        file.setValue(kTimeKey, entry.time);
         entry.settings->save(file);
     }
     file.endArray();

@@ -17,15 +17,15 @@ namespace {
 
 using vlk::Message;
 
-constexpr quint64 bluetoothCapability = 0x800;
+constexpr quint64 kBluetoothCapability = 0x800;
 
 // The number that answers a request by the table of messages.
 Message answerTo(Message request)
 {
     const auto found =
-        std::find_if(std::begin(vlk::messages), std::end(vlk::messages),
+        std::find_if(std::begin(vlk::kMessages), std::end(vlk::kMessages),
                      [request](const vlk::MessageInfo& info) { return info.number == request; });
-    return found == std::end(vlk::messages) ? Message{} : static_cast<Message>(found->answer);
+    return found == std::end(vlk::kMessages) ? Message{} : static_cast<Message>(found->answer);
 }
 
 bool isAddress(const QString& address)
@@ -86,7 +86,7 @@ struct SimulatedTracker::Parts
     Links links() const
     {
         Links links;
-        links.usbSince = line.plugged() ? attachedSince : noTime;
+        links.usbSince = line.plugged() ? attachedSince : kNoTime;
         for (std::size_t i = 0; i < links.servers.size(); ++i) {
             const QString address = store.values().text(QStringLiteral("TRANS/SRV%1/addr").arg(i + 1));
             links.servers[i] = isAddress(address);
@@ -136,7 +136,7 @@ struct SimulatedTracker::Parts
     Tachograph tachograph;
     Handlers handlers;
     AnswerLine line;
-    qint64 attachedSince = noTime;
+    qint64 attachedSince = kNoTime;
     Protocol protocol = Protocol::AsConfigured;
     bool full = false;
 };
@@ -205,7 +205,7 @@ QString SimulatedTracker::text2() const
 
 quint64 SimulatedTracker::capabilityMask() const
 {
-    return faults().noBluetooth ? 0 : bluetoothCapability;
+    return faults().noBluetooth ? 0 : kBluetoothCapability;
 }
 
 bool SimulatedTracker::attached() const
@@ -384,7 +384,7 @@ void SimulatedTracker::pour(std::size_t tank, double litres)
 {
     const double before = fuelIn(tank);
     parts_->memory.pours().set(tank, parts_->now(), before,
-                               std::clamp(before + litres, 0.0, tanks[tank].litres));
+                               std::clamp(before + litres, 0.0, kTanks[tank].litres));
 }
 
 } // namespace tracker

@@ -19,22 +19,22 @@ using vlk::Message;
 enum FrameKind : int { FileState = 0, State = 1, Card1 = 3, Card2 = 4, VehicleUnit = 5 };
 enum FileCode : char { FileReady = 0, FileBeingMade = 0x10, FileRefused = 0x30 };
 
-constexpr int kindOffset = 6;
-constexpr int statusOffset = 7;
-constexpr char statusOk = 0;
-constexpr char statusAbsent = 0x20;
+constexpr int kKindOffset = 6;
+constexpr int kStatusOffset = 7;
+constexpr char kStatusOk = 0;
+constexpr char kStatusAbsent = 0x20;
 
 // An answer of a kind: `size` bytes behind the header, fields at offsets counted from the header's start.
 class Frame
 {
 public:
-    Frame(FrameKind kind, int size, char status) : bytes_(kindOffset + size, '\0')
+    Frame(FrameKind kind, int size, char status) : bytes_(kKindOffset + size, '\0')
     {
         constexpr char header = 0x54;
         bytes_[0] = header;
         put(1, static_cast<quint16>(size));
-        bytes_[kindOffset] = static_cast<char>(kind);
-        bytes_[statusOffset] = status;
+        bytes_[kKindOffset] = static_cast<char>(kind);
+        bytes_[kStatusOffset] = status;
     }
 
     template <typename T>
@@ -65,7 +65,7 @@ int doing(const Vehicle& vehicle)
     return static_cast<int>(tachographState(vehicle)) & 3;
 }
 
-constexpr int cardInside = 1;
+constexpr int kCardInside = 1;
 
 Answers stateAnswer(const Vehicle& vehicle)
 {
@@ -74,11 +74,11 @@ Answers stateAnswer(const Vehicle& vehicle)
     const double driven = vehicle.m.at.loadSeconds / 60;
     const double minutes[] = {std::fmod(driven, 270), 15 + std::fmod(driven, 30), std::fmod(driven, 90),
                               2400 + std::fmod(driven, 3000)};
-    Frame frame(State, 31, statusOk);
+    Frame frame(State, 31, kStatusOk);
     frame.put(8, static_cast<quint32>(vehicle.m.time));
     frame.put(12, nibbles(vehicle.driving(), vehicle.m.speed > vehicle.m.speedLimit));
     frame.put(13, nibbles(doing(vehicle), 0));
-    frame.put(14, nibbles(0, cardInside));
+    frame.put(14, nibbles(0, kCardInside));
     frame.put(15, nibbles(0, 0));
     frame.put(16, static_cast<quint32>(68000 + vehicle.m.at.km));
     frame.put(20, static_cast<quint8>(std::lround(vehicle.m.speed)));
@@ -91,14 +91,14 @@ Answers cardAnswer(const Vehicle& vehicle, FrameKind kind)
 {
     constexpr int size = 169;
     if (kind == Card2)
-        return Frame(kind, size, statusAbsent).answers();
+        return Frame(kind, size, kStatusAbsent).answers();
     constexpr int nationRussia = 43;
     constexpr int nameStep = 36;
     constexpr char latin = 1;
     const Driver& driver = driverOf(vehicle.m);
     const QByteArray names[] = {driver.surname, driver.firstName, "FBU ROSAVTOTRANS", "YAROSLAVL"};
-    Frame frame(kind, size, statusOk);
-    frame.put(8, nibbles(doing(vehicle), cardInside));
+    Frame frame(kind, size, kStatusOk);
+    frame.put(8, nibbles(doing(vehicle), kCardInside));
     frame.put(10, quint8(nationRussia));
     frame.text(11, 16, driver.card);
     frame.put(27, static_cast<quint32>(vehicle.m.at.km));
@@ -113,7 +113,7 @@ Answers vehicleAnswer(const Vehicle& vehicle)
 {
     constexpr quint32 year = 31536000;
     const auto now = static_cast<quint32>(vehicle.m.time);
-    Frame frame(VehicleUnit, 113, statusOk);
+    Frame frame(VehicleUnit, 113, kStatusOk);
     frame.text(8, 32, "TACHOGRAPH DT-20M");
     frame.text(40, 17, "XTC652001N1710601");
     frame.put(57, quint8(43));

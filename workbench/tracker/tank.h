@@ -17,7 +17,7 @@ struct Tank
     bool analogue; // its sensor gives a voltage, the others a code
 };
 
-inline constexpr std::array tanks{
+inline constexpr std::array kTanks{
     Tank{"A3", TankShape::Box, 120, true},       Tank{"D1", TankShape::Cylinder, 200, false},
     Tank{"D2", TankShape::Saddle, 200, false},   Tank{"D3", TankShape::Box, 400, false},
     Tank{"D4", TankShape::Cylinder, 600, false}, Tank{"D5", TankShape::Saddle, 90, false},

@@ -13,15 +13,15 @@ namespace tracker {
 namespace {
 
 // The oldest are forgotten.
-constexpr std::size_t mostPours = 500;
-constexpr double settlingSeconds = 1.2;
-constexpr double swingSeconds = 2;
-constexpr qint64 restAfterSeconds = 60;
+constexpr std::size_t kMostPours = 500;
+constexpr double kSettlingSeconds = 1.2;
+constexpr double kSwingSeconds = 2;
+constexpr qint64 kRestAfterSeconds = 60;
 // Of the height.
-constexpr double noise = 0.0005;
-constexpr double swing = 0.02;
+constexpr double kNoise = 0.0005;
+constexpr double kSwing = 0.02;
 
-const QString poursKey = QStringLiteral("pours");
+const QString kPoursKey = QStringLiteral("pours");
 
 } // namespace
 
@@ -36,7 +36,7 @@ void TankPours::set(std::size_t tank, qint64 time, double before, double after)
     while (!pours_.empty() && pours_.back().time > time)
         pours_.pop_back();
     pours_.push_back({time, tank, before, after});
-    if (pours_.size() > mostPours)
+    if (pours_.size() > kMostPours)
         pours_.erase(pours_.begin());
     save();
 }
@@ -54,25 +54,25 @@ TankValues TankPours::litresAt(qint64 time) const
 TankValues TankPours::heightsAt(qint64 time) const
 {
     TankValues heights = litresAt(time);
-    std::array<double, tanks.size()> unrest{};
-    for (std::size_t i = 0; i < tanks.size(); ++i) {
+    std::array<double, kTanks.size()> unrest{};
+    for (std::size_t i = 0; i < kTanks.size(); ++i) {
         if (heights[i])
-            heights[i] = fuelHeight(tanks[i], *heights[i]);
+            heights[i] = fuelHeight(kTanks[i], *heights[i]);
     }
     // Every pour is followed by an approach of its own; the fuel swings meanwhile.
     for (const Pour& pour : pours_) {
-        if (pour.time > time || time - pour.time > restAfterSeconds)
+        if (pour.time > time || time - pour.time > kRestAfterSeconds)
             continue;
-        const Tank& tank = tanks[pour.tank];
+        const Tank& tank = kTanks[pour.tank];
         const double rise = fuelHeight(tank, pour.after) - fuelHeight(tank, pour.before);
         const auto seconds = static_cast<double>(time - pour.time);
-        *heights[pour.tank] -= rise * std::exp(-seconds / settlingSeconds);
-        unrest[pour.tank] = swing * std::abs(rise) * std::exp(-seconds / swingSeconds);
+        *heights[pour.tank] -= rise * std::exp(-seconds / kSettlingSeconds);
+        unrest[pour.tank] = kSwing * std::abs(rise) * std::exp(-seconds / kSwingSeconds);
     }
-    for (std::size_t i = 0; i < tanks.size(); ++i) {
+    for (std::size_t i = 0; i < kTanks.size(); ++i) {
         const double chance = fraction(mix(i, static_cast<std::uint64_t>(time))) * 2 - 1;
         if (heights[i])
-            heights[i] = std::clamp(*heights[i] + chance * (noise + unrest[i]), 0.0, 1.0);
+            heights[i] = std::clamp(*heights[i] + chance * (kNoise + unrest[i]), 0.0, 1.0);
     }
     return heights;
 }
@@ -80,7 +80,7 @@ TankValues TankPours::heightsAt(qint64 time) const
 void TankPours::load()
 {
     QSettings file(file_, QSettings::IniFormat);
-    const int count = file.beginReadArray(poursKey);
+    const int count = file.beginReadArray(kPoursKey);
     for (int i = 0; i < count; ++i) {
         file.setArrayIndex(i);
         const auto litres = [&file](const char* key, const Tank& tank) {
@@ -88,9 +88,9 @@ void TankPours::load()
             return std::isfinite(value) ? std::clamp(value, 0.0, tank.litres) : 0;
         };
         const std::size_t tank = file.value(QStringLiteral("tank")).toUInt();
-        if (tank < tanks.size())
+        if (tank < kTanks.size())
             pours_.push_back({file.value(QStringLiteral("time")).toLongLong(), tank,
-                              litres("before", tanks[tank]), litres("after", tanks[tank])});
+                              litres("before", kTanks[tank]), litres("after", kTanks[tank])});
     }
     std::stable_sort(pours_.begin(), pours_.end(),
                      [](const Pour& a, const Pour& b) { return a.time < b.time; });
@@ -100,7 +100,7 @@ void TankPours::save() const
 {
     QSettings file(file_, QSettings::IniFormat);
     file.clear();
-    file.beginWriteArray(poursKey);
+    file.beginWriteArray(kPoursKey);
     int index = 0;
     for (const Pour& pour : pours_) {
         file.setArrayIndex(index++);

@@ -13,7 +13,7 @@
 namespace tracker {
 
 // A value a tank, none for the tanks that nobody has touched by then.
-using TankValues = std::array<std::optional<double>, tanks.size()>;
+using TankValues = std::array<std::optional<double>, kTanks.size()>;
 
 class TankPours
 {

@@ -14,11 +14,11 @@ namespace {
 enum PointSeed : quint64 { WeatherSeed = 2, TagSeed = 4 };
 
 // Between two looks at lines and sensors.
-constexpr int lookWhileDriving = 10;
-constexpr int lookWhileStanding = 30;
+constexpr int kLookWhileDriving = 10;
+constexpr int kLookWhileStanding = 30;
 // A driver's key is touched after the ignition, a tag is read after it went off.
-constexpr int keyAfter = 20;
-constexpr int tagAfter = 40;
+constexpr int kKeyAfter = 20;
+constexpr int kTagAfter = 40;
 
 bool begins(const Segment& segment, EventCode code)
 {
@@ -48,7 +48,7 @@ public:
             const qint64 time = segment.from + second;
             if (time > settings_.until || !settings_.settings)
                 settings_ = history_.at(time);
-            const int look = driving ? lookWhileDriving : lookWhileStanding;
+            const int look = driving ? kLookWhileDriving : kLookWhileStanding;
             if (second % look == 0)
                 measure(second);
             locate(second);
@@ -75,7 +75,7 @@ private:
     {
         const qint64 at = std::max(time, now_.time + 1);
         const qint64 second = at - midnight_;
-        if (second >= daySeconds)
+        if (second >= kDaySeconds)
             return;
         day_.points.push_back({static_cast<int>(second), code, kind});
         ++now_.records;
@@ -141,10 +141,10 @@ private:
     void packets(int second)
     {
         const qint64 time = segment_->from + second;
-        if (begins(*segment_, EventCode::IgnitionOn) && second == keyAfter)
+        if (begins(*segment_, EventCode::IgnitionOn) && second == kKeyAfter)
             record(time, EventCode::KeyTouched, RecordKind::Key);
         const auto chance = mix(mix(seed_, TagSeed), static_cast<quint64>(segment_->from));
-        if (begins(*segment_, EventCode::IgnitionOff) && second == tagAfter && chance % 3 == 0)
+        if (begins(*segment_, EventCode::IgnitionOff) && second == kTagAfter && chance % 3 == 0)
             record(time, EventCode::TagRead, RecordKind::Tag);
     }
 
@@ -191,7 +191,7 @@ private:
     // The next second in which something can happen to a vehicle that stands.
     int nextStanding(int second) const
     {
-        int next = (second / lookWhileStanding + 1) * lookWhileStanding;
+        int next = (second / kLookWhileStanding + 1) * kLookWhileStanding;
         const auto stop = [&](qint64 at) {
             if (at > second && at < next)
                 next = static_cast<int>(at);
@@ -200,7 +200,7 @@ private:
             stop(now_.time + period() - segment_->from);
         if (!now_.stopTold)
             stop(now_.standsSince + track().stopAfter - segment_->from);
-        stop(begins(*segment_, EventCode::IgnitionOn) ? keyAfter : tagAfter);
+        stop(begins(*segment_, EventCode::IgnitionOn) ? kKeyAfter : kTagAfter);
         return next;
     }
 

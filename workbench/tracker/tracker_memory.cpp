@@ -11,13 +11,13 @@ namespace tracker {
 namespace {
 
 // The vehicle has been on the road for two months when the tracker is seen first.
-constexpr qint64 daysBefore = 60;
+constexpr qint64 kDaysBefore = 60;
 // The oldest are forgotten.
-constexpr std::size_t mostChanges = 200;
+constexpr std::size_t kMostChanges = 200;
 
-const QString firstDayKey = QStringLiteral("firstDay");
-const QString programKey = QStringLiteral("canLogProgram");
-const QString changesKey = QStringLiteral("changes");
+const QString kFirstDayKey = QStringLiteral("firstDay");
+const QString kProgramKey = QStringLiteral("canLogProgram");
+const QString kChangesKey = QStringLiteral("changes");
 
 } // namespace
 
@@ -26,7 +26,7 @@ TrackerMemory::TrackerMemory(const QString& folder, qint64 now)
 {
     load();
     if (firstMidnight_ <= 0 || firstMidnight_ > now) {
-        firstMidnight_ = std::max<qint64>(0, now / daySeconds - daysBefore) * daySeconds;
+        firstMidnight_ = std::max<qint64>(0, now / kDaySeconds - kDaysBefore) * kDaySeconds;
         save();
     }
 }
@@ -58,7 +58,7 @@ void TrackerMemory::change(qint64 time, EventCode code, const std::function<void
     while (!changes_.empty() && changes_.back().time > time)
         changes_.pop_back();
     changes_.push_back(change);
-    if (changes_.size() > mostChanges)
+    if (changes_.size() > kMostChanges)
         changes_.erase(changes_.begin());
     save();
 }
@@ -72,9 +72,9 @@ void TrackerMemory::setCanLogProgram(int program)
 void TrackerMemory::load()
 {
     QSettings file(file_, QSettings::IniFormat);
-    firstMidnight_ = file.value(firstDayKey).toInt() * qint64(daySeconds);
-    canLogProgram_ = file.value(programKey).toInt();
-    const int count = file.beginReadArray(changesKey);
+    firstMidnight_ = file.value(kFirstDayKey).toInt() * qint64(kDaySeconds);
+    canLogProgram_ = file.value(kProgramKey).toInt();
+    const int count = file.beginReadArray(kChangesKey);
     for (int i = 0; i < count; ++i) {
         file.setArrayIndex(i);
         Change change{};
@@ -94,9 +94,9 @@ void TrackerMemory::save() const
 {
     QSettings file(file_, QSettings::IniFormat);
     file.clear();
-    file.setValue(firstDayKey, static_cast<int>(firstMidnight_ / daySeconds));
-    file.setValue(programKey, canLogProgram_);
-    file.beginWriteArray(changesKey);
+    file.setValue(kFirstDayKey, static_cast<int>(firstMidnight_ / kDaySeconds));
+    file.setValue(kProgramKey, canLogProgram_);
+    file.beginWriteArray(kChangesKey);
     int index = 0;
     for (const Change& change : changes_) {
         file.setArrayIndex(index++);

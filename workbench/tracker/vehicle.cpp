@@ -22,7 +22,7 @@ bool Vehicle::isOnLine(LineOwner device) const
 const BluetoothDevice* Vehicle::heard(BluetoothRules::Type type, int place) const
 {
     const int device = m.settings ? m.settings->bluetooth.deviceFor(type, place) : -1;
-    return device < 0 ? nullptr : &bluetoothDevices[device];
+    return device < 0 ? nullptr : &kBluetoothDevices[device];
 }
 
 } // namespace tracker

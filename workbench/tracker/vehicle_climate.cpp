@@ -6,9 +6,9 @@ namespace tracker {
 
 namespace {
 
-constexpr double noI8 = -128;
-constexpr double noI16 = -32768;
-constexpr double noU8 = 255;
+constexpr double kNoI8 = -128;
+constexpr double kNoI16 = -32768;
+constexpr double kNoU8 = 255;
 
 double steadyTemperature(const Vehicle& v, int sensor)
 {
@@ -22,7 +22,7 @@ double steadyTemperature(const Vehicle& v, int sensor)
     case 3:
         return v.m.outside;
     default:
-        return noI8;
+        return kNoI8;
     }
 }
 
@@ -41,13 +41,13 @@ double fineTemperature(const Vehicle& v, int place)
     constexpr double unitsToADegree = 20;
     const BluetoothDevice* device = v.heard(BluetoothRules::Temperature, place);
     return device && device->climate >= 0 ? v.drift(430 + device->climate, 1.5, 6, 900) * unitsToADegree
-                                          : noI16;
+                                          : kNoI16;
 }
 
 double humidity(const Vehicle& v, int place)
 {
     const BluetoothDevice* device = v.heard(BluetoothRules::Temperature, place);
-    return device && device->tellsHumidity ? v.drift(440 + device->climate, 110, 170, 1200) : noU8;
+    return device && device->tellsHumidity ? v.drift(440 + device->climate, 110, 170, 1200) : kNoU8;
 }
 
 double coolant(const Vehicle& v)

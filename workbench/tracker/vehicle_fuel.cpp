@@ -7,10 +7,10 @@ namespace tracker {
 
 double fuelLeft(const Vehicle& v, std::size_t tank)
 {
-    constexpr double half = tankLitres / 2;
+    constexpr double half = kTankLitres / 2;
     switch (tank) {
     case 0:
-        return tanks[0].litres;
+        return kTanks[0].litres;
     case 1:
         return std::min(v.m.at.fuel, half);
     case 2:
@@ -25,7 +25,7 @@ double fuelLeft(const Vehicle& v, std::size_t tank)
 double fuelSensor(const Vehicle& v, int sensor)
 {
     const std::size_t index = 1 + static_cast<std::size_t>(sensor);
-    const Tank& tank = tanks[index];
+    const Tank& tank = kTanks[index];
     if (v.c.fuelHeights[index])
         return sensorValue(tank, *v.c.fuelHeights[index]);
     const double litres = fuelLeft(v, index);
@@ -67,7 +67,7 @@ FuelSource fuelSource(const Vehicle& v, int row)
 double fuelPercent(const Vehicle& v)
 {
     constexpr double percentFlag = 0x8000;
-    return percentFlag + std::round(v.m.at.fuel / tankLitres * 100);
+    return percentFlag + std::round(v.m.at.fuel / kTankLitres * 100);
 }
 
 double flow(const Vehicle& v)

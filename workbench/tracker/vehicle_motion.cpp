@@ -9,8 +9,8 @@ namespace tracker {
 
 namespace {
 
-constexpr double noU16 = 0xFFFF;
-constexpr int wheels = 10;
+constexpr double kNoU16 = 0xFFFF;
+constexpr int kWheels = 10;
 
 // A hole in the road now and then, over ten seconds.
 double hit(const Vehicle& v)
@@ -48,19 +48,19 @@ double axleLoad(const Vehicle& v, int axle)
 {
     constexpr double empty[] = {4900, 6100};
     constexpr double perTrip[] = {60, 430};
-    return axle < 2 ? empty[axle] + std::max(0, 10 - v.m.trip) * perTrip[axle] : noU16;
+    return axle < 2 ? empty[axle] + std::max(0, 10 - v.m.trip) * perTrip[axle] : kNoU16;
 }
 
 double tyrePressure(const Vehicle& v, int wheel)
 {
-    return wheel < wheels ? v.drift(60 + wheel, 82, 86, 3600) : 0;
+    return wheel < kWheels ? v.drift(60 + wheel, 82, 86, 3600) : 0;
 }
 
 double tyreTemperature(const Vehicle& v, int wheel)
 {
     constexpr double noTemperature = -127;
-    return wheel < wheels ? v.m.outside + (v.driving() ? 22 : 8) + v.drift(80 + wheel, 0, 3, 900)
-                          : noTemperature;
+    return wheel < kWheels ? v.m.outside + (v.driving() ? 22 : 8) + v.drift(80 + wheel, 0, 3, 900)
+                           : noTemperature;
 }
 
 double lateral(const Vehicle& v)

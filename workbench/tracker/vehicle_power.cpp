@@ -10,7 +10,7 @@ namespace {
 double tankAtLine(const Vehicle& v)
 {
     if (v.c.fuelHeights[0])
-        return sensorValue(tanks[0], *v.c.fuelHeights[0]);
+        return sensorValue(kTanks[0], *v.c.fuelHeights[0]);
     constexpr int longest = 30;
     constexpr double full = 5000;
     constexpr double averaged = 150;

@@ -8,13 +8,13 @@ namespace tracker {
 
 namespace {
 
-constexpr double halfHour = 1800;
+constexpr double kHalfHour = 1800;
 
 } // namespace
 
 double state(const Vehicle& v)
 {
-    return bit(3, v.c.guard) + bit(6, v.parkedSeconds() > halfHour);
+    return bit(3, v.c.guard) + bit(6, v.parkedSeconds() > kHalfHour);
 }
 
 double module1(const Vehicle& v)
@@ -38,7 +38,7 @@ double connection(const Vehicle& v)
     double servers = 0;
     for (std::size_t i = 0; i < v.links.servers.size(); ++i)
         servers += bit(firstServer + static_cast<int>(i), v.links.servers[i] && connected);
-    return (v.drift(1, 0, 1, halfHour) < 0.25 ? gprs : lte) + servers + bit(6, v.links.service) +
+    return (v.drift(1, 0, 1, kHalfHour) < 0.25 ? gprs : lte) + servers + bit(6, v.links.service) +
            bit(7, v.links.bluetooth);
 }
 

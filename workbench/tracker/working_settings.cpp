@@ -18,10 +18,10 @@ struct UseCode
     const char* element; // with the settings of the use, behind the line's name
 };
 
-constexpr UseCode lineUses[] = {{"NU", ""},      {"NS-", "DIN"},  {"NB-", "DIN"},
-                                {"NS+", "ADIN"}, {"NB+", "ADIN"}, {"AIN", "AIN"}};
+constexpr UseCode kLineUses[] = {{"NU", ""},      {"NS-", "DIN"},  {"NB-", "DIN"},
+                                 {"NS+", "ADIN"}, {"NB+", "ADIN"}, {"AIN", "AIN"}};
 
-constexpr const char* lineOwners[] = {"", "FLDS", "TPMS", "REFR", "TACH", "PCNT"};
+constexpr const char* kLineOwners[] = {"", "FLDS", "TPMS", "REFR", "TACH", "PCNT"};
 
 enum class Kind {
     Number,
@@ -60,7 +60,7 @@ struct SettingRow
 
 // A use has to be read before the keys of its element.
 // clang-format off
-constexpr SettingRow settingRows[] = {
+constexpr SettingRow kSettingRows[] = {
     {"TRACK/POINTS/useMoveSens",            1, [](auto& s, int) -> auto& { return s.track.startAndStop; }},
     {"TRACK/POINTS/useMaxSpeed",            0, [](auto& s, int) -> auto& { return s.track.speeding; }},
     {"TRACK/POINTS/maxSpeed",             100, [](auto& s, int) -> auto& { return s.track.maxSpeed; }},
@@ -158,30 +158,30 @@ int hundredths(const QString& text, int absent)
 
 const char* elementOf(LineUse use)
 {
-    return lineUses[static_cast<std::size_t>(use)].element;
+    return kLineUses[static_cast<std::size_t>(use)].element;
 }
 
 int useOf(const QString& code)
 {
-    const auto found = std::find_if(std::begin(lineUses), std::end(lineUses),
+    const auto found = std::find_if(std::begin(kLineUses), std::end(kLineUses),
                                     [&](const UseCode& use) { return code == QLatin1String(use.code); });
-    return found == std::end(lineUses) ? 0 : static_cast<int>(found - lineUses);
+    return found == std::end(kLineUses) ? 0 : static_cast<int>(found - kLineUses);
 }
 
 int deviceOf(const QString& address)
 {
     const auto found =
-        std::find_if(bluetoothDevices.begin(), bluetoothDevices.end(), [&](const BluetoothDevice& device) {
+        std::find_if(kBluetoothDevices.begin(), kBluetoothDevices.end(), [&](const BluetoothDevice& device) {
             return address.compare(QLatin1String(device.mac), Qt::CaseInsensitive) == 0;
         });
-    return found == bluetoothDevices.end() ? -1 : static_cast<int>(found - bluetoothDevices.begin());
+    return found == kBluetoothDevices.end() ? -1 : static_cast<int>(found - kBluetoothDevices.begin());
 }
 
 int ownerOf(const QString& code)
 {
-    const auto* found = std::find_if(std::begin(lineOwners), std::end(lineOwners),
+    const auto* found = std::find_if(std::begin(kLineOwners), std::end(kLineOwners),
                                      [&](const char* owner) { return code == QLatin1String(owner); });
-    return found == std::end(lineOwners) ? 0 : static_cast<int>(found - lineOwners);
+    return found == std::end(kLineOwners) ? 0 : static_cast<int>(found - kLineOwners);
 }
 
 int valueOf(const SettingRow& row, const QString& path, int index, const ConfigurationValues& values)
@@ -209,7 +209,7 @@ int valueOf(const SettingRow& row, const QString& path, int index, const Configu
 template <typename Do>
 void walk(const Do& each)
 {
-    for (const SettingRow& row : settingRows)
+    for (const SettingRow& row : kSettingRows)
         for (int i = 0; i < row.count; ++i)
             each(row, i);
 }
@@ -283,9 +283,9 @@ WorkingSettings WorkingSettings::load(const QSettings& file)
     walk([&](const SettingRow& row, int i) {
         int value = file.value(keptName(row, i), row.absent).toInt();
         if (row.kind == Kind::Device)
-            value = std::clamp(value, -1, static_cast<int>(bluetoothDevices.size()) - 1);
+            value = std::clamp(value, -1, static_cast<int>(kBluetoothDevices.size()) - 1);
         if (row.kind == Kind::Use)
-            value = std::clamp(value, 0, static_cast<int>(std::size(lineUses)) - 1);
+            value = std::clamp(value, 0, static_cast<int>(std::size(kLineUses)) - 1);
         row.put(result, i, value);
     });
     return result;

@@ -13,14 +13,14 @@ bool asksForAnswer(quint32 id)
 {
     if (hasEffect(static_cast<Message>(id), Effect::Destroys))
         return false;
-    return std::any_of(std::begin(vlk::messages), std::end(vlk::messages), [id](const vlk::MessageInfo& row) {
-        return quint32(row.number) == id && row.answer != 0;
-    });
+    return std::any_of(
+        std::begin(vlk::kMessages), std::end(vlk::kMessages),
+        [id](const vlk::MessageInfo& row) { return quint32(row.number) == id && row.answer != 0; });
 }
 
 bool isAnswer(quint32 id)
 {
-    return std::any_of(std::begin(vlk::messages), std::end(vlk::messages),
+    return std::any_of(std::begin(vlk::kMessages), std::end(vlk::kMessages),
                        [id](const vlk::MessageInfo& row) { return row.answer == id; });
 }
 
@@ -30,7 +30,7 @@ AnswerWatch::AnswerWatch(const PluginLink& link)
 {
     patience_.setSingleShot(true);
     notice_.setSingleShot(true);
-    notice_.setInterval(noticeMs);
+    notice_.setInterval(kNoticeMs);
     connect(&link, &PluginLink::passed, this, &AnswerWatch::look);
     connect(&notice_, &QTimer::timeout, this, &AnswerWatch::late);
     connect(&patience_, &QTimer::timeout, this, [this] {
@@ -54,9 +54,9 @@ void AnswerWatch::begin(Message request)
     request_ = request;
     if (!since_.isValid()) {
         since_ = QDateTime::currentDateTime();
-        patience_.start(patienceMs);
+        patience_.start(kPatienceMs);
     } else if (told_ && !patience_.isActive()) {
-        patience_.start(reminderMs);
+        patience_.start(kReminderMs);
     }
     notice_.start();
     Q_EMIT asked();

@@ -16,11 +16,11 @@ class AnswerWatch : public QObject
 
 public:
     // An answer takes milliseconds; what takes longer than this does not come by itself.
-    static constexpr int patienceMs = 3000;
+    static constexpr int kPatienceMs = 3000;
     // Who asks on in a silence that was told hears of it again after this.
-    static constexpr int reminderMs = 15'000;
+    static constexpr int kReminderMs = 15'000;
     // What takes longer than this, a user notices.
-    static constexpr int noticeMs = 500;
+    static constexpr int kNoticeMs = 500;
 
     explicit AnswerWatch(const PluginLink& link);
 

@@ -18,11 +18,11 @@ namespace workbench {
 
 namespace {
 
-constexpr int listIndent = 12;
+constexpr int kListIndent = 12;
 
 enum Column { Moment, Number, Changes, Note, ColumnCount };
-constexpr const char* columnKeys[ColumnCount] = {"wb_history_time", "wb_history_number_head",
-                                                 "wb_history_changes", "wb_history_note_head"};
+constexpr const char* kColumnKeys[ColumnCount] = {"wb_history_time", "wb_history_number_head",
+                                                  "wb_history_changes", "wb_history_note_head"};
 
 QString momentText(const QDateTime& made)
 {
@@ -71,7 +71,7 @@ void BackupList::buildTree()
     tree_->setColumnCount(ColumnCount);
     dressTable(tree_);
     tree_->setRootIsDecorated(true);
-    tree_->setIndentation(listIndent);
+    tree_->setIndentation(kListIndent);
     tree_->header()->setMinimumSectionSize(0);
     tree_->setColumnWidth(Note, 0); // it takes what the others leave
     tree_->setColumnWidth(Moment, cellWidth(*tree_, QStringLiteral("00.00.0000 00:00:00")) +
@@ -81,7 +81,7 @@ void BackupList::buildTree()
         filter_->setAccessibleName(text("wb_history_filter"));
         tree_->setAccessibleName(text("wb_history_list"));
         QStringList heads;
-        for (const char* key : columnKeys)
+        for (const char* key : kColumnKeys)
             heads.append(text(key));
         tree_->setHeaderLabels(heads);
         for (const int column : {Number, Changes})

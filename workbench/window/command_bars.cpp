@@ -20,10 +20,10 @@ struct LanguageRow
     const char* name; // in the language itself
 };
 
-constexpr LanguageRow languageRows[] = {{"ru", "Русский"}, {"en", "English"}};
+constexpr LanguageRow kLanguageRows[] = {{"ru", "Русский"}, {"en", "English"}};
 
-constexpr const char* appearanceKeys[] = {"wb_appearance_system", "wb_appearance_light",
-                                          "wb_appearance_dark"};
+constexpr const char* kAppearanceKeys[] = {"wb_appearance_system", "wb_appearance_light",
+                                           "wb_appearance_dark"};
 
 } // namespace
 
@@ -70,7 +70,7 @@ void CommandBars::buildLanguages(QMenu* menu)
     row->setContentsMargins(0, 0, 6, 0);
     row->setSpacing(0);
     window_->menuBar()->setCornerWidget(corner);
-    for (const LanguageRow& language : languageRows) {
+    for (const LanguageRow& language : kLanguageRows) {
         QAction* action = menu->addAction(QString::fromUtf8(language.name));
         action->setCheckable(true);
         action->setActionGroup(languageChoice_);
@@ -91,7 +91,7 @@ void CommandBars::buildAppearances(QMenu* menu)
 {
     auto* choice = new QActionGroup(menu);
     for (const Appearance appearance : {Appearance::System, Appearance::Light, Appearance::Dark}) {
-        QAction* action = texts_.bind(menu->addAction(QString()), appearanceKeys[int(appearance)]);
+        QAction* action = texts_.bind(menu->addAction(QString()), kAppearanceKeys[int(appearance)]);
         action->setObjectName(QStringLiteral("action_Appearance_%1").arg(int(appearance)));
         action->setCheckable(true);
         action->setActionGroup(choice);

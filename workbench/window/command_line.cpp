@@ -16,7 +16,7 @@ struct OptionRow
     const char* value;
 };
 
-constexpr OptionRow options[] = {
+constexpr OptionRow kOptions[] = {
     {"language", "wb_option_language", "ru|en"},
     {"mode", "wb_option_mode", "0|1|2"},
     {"open", "wb_option_open", "FILE"},
@@ -35,7 +35,7 @@ void addOptions(QCommandLineParser& parser)
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, text("wb_option_help")});
     parser.addOption({{QStringLiteral("v"), QStringLiteral("version")}, text("wb_option_version")});
-    for (const OptionRow& row : options) {
+    for (const OptionRow& row : kOptions) {
         QCommandLineOption option(QLatin1String(row.name), row.key ? text(row.key) : QString(),
                                   QLatin1String(row.value));
         if (!row.key)

@@ -19,7 +19,7 @@ struct CommandRow
     const char* shortcut;
 };
 
-constexpr CommandRow commandRows[] = {
+constexpr CommandRow kCommandRows[] = {
     {Command::ReadTracker, "action_Read", "read", "wb_read", "wb_read_short", "Ctrl+R"},
     {Command::OpenFile, "action_Open", "open", "wb_open", "wb_open_short", "Ctrl+O"},
     {Command::NewConfiguration, "action_New", "new", "wb_new", "wb_new_short", "Ctrl+N"},
@@ -36,13 +36,13 @@ constexpr CommandRow commandRows[] = {
     {Command::About, "action_About", "about", "wb_about", "wb_about", ""},
     {Command::Quit, "action_Quit", "quit", "wb_quit", "wb_quit", "Ctrl+Q"},
 };
-static_assert(std::size(commandRows) == std::size_t(Command::Count));
+static_assert(std::size(kCommandRows) == std::size_t(Command::Count));
 
 } // namespace
 
 Commands::Commands(QWidget* parent)
 {
-    for (const CommandRow& row : commandRows) {
+    for (const CommandRow& row : kCommandRows) {
         auto* action = new QAction(lineIcon(QLatin1String(row.icon)), {}, parent);
         action->setObjectName(QLatin1String(row.name));
         action->setShortcut(QKeySequence(QLatin1String(row.shortcut)));
@@ -56,7 +56,7 @@ Commands::Commands(QWidget* parent)
 
 void Commands::retranslate()
 {
-    for (const CommandRow& row : commandRows) {
+    for (const CommandRow& row : kCommandRows) {
         QAction* action = (*this)[row.command];
         action->setText(text(row.key));
         action->setIconText(plainText(row.shortKey));

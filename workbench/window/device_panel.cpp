@@ -16,7 +16,7 @@ namespace workbench {
 
 namespace {
 
-constexpr const char* modeKeys[] = {"wb_mode_0", "wb_mode_1", "wb_mode_2"};
+constexpr const char* kModeKeys[] = {"wb_mode_0", "wb_mode_1", "wb_mode_2"};
 
 } // namespace
 
@@ -48,7 +48,7 @@ DevicePanel::DevicePanel(HostSession& session, QWidget* parent)
     mode_->setObjectName(QStringLiteral("comboBox_Mode"));
     mode_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     mode_->setMinimumContentsLength(12);
-    for (const char* key : modeKeys)
+    for (const char* key : kModeKeys)
         mode_->addItem(text(key));
     auto* modeLabel = texts_.bind(new QLabel(this), "wb_mode");
     modeLabel->setBuddy(mode_);
@@ -71,7 +71,7 @@ QLabel* DevicePanel::addRow(QFormLayout* form, const char* name, const char* key
 
 const char* DevicePanel::modeKey(int mode)
 {
-    return modeKeys[std::clamp(mode, 0, int(std::size(modeKeys)) - 1)];
+    return kModeKeys[std::clamp(mode, 0, int(std::size(kModeKeys)) - 1)];
 }
 
 void DevicePanel::setMode(int mode)
@@ -96,7 +96,7 @@ void DevicePanel::refresh()
     const tracker::SimulatedTracker& tracker = session_.tracker();
     const bool attached = tracker.attached();
     const Mark mark = !attached ? Mark::invalid : trouble_->text().isEmpty() ? Mark::right : Mark::advice;
-    symbol_->setPixmap(vlk::markPixmap(mark, palette(), vlk::markSize, devicePixelRatioF()));
+    symbol_->setPixmap(vlk::markPixmap(mark, palette(), vlk::kMarkSize, devicePixelRatioF()));
     state_->setText(text(attached ? "wb_device_attached" : "wb_device_detached"));
     const QString none = QStringLiteral("–");
     model_->setText(attached ? tracker.model() : none);
@@ -121,7 +121,7 @@ void DevicePanel::retranslate()
 {
     texts_.apply();
     int mode = 0;
-    for (const char* key : modeKeys)
+    for (const char* key : kModeKeys)
         mode_->setItemText(mode++, text(key));
     refresh();
 }

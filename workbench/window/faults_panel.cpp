@@ -27,7 +27,7 @@ struct FaultRow
     bool Faults::*fault;
 };
 
-constexpr FaultRow faultRows[] = {
+constexpr FaultRow kFaultRows[] = {
     {"checkBox_Silence", "wb_fault_silence", &Faults::silence},
     {"checkBox_Short", "wb_fault_short", &Faults::shortAnswers},
     {"checkBox_Garbled", "wb_fault_garbled", &Faults::garbledAnswers},
@@ -38,7 +38,7 @@ constexpr FaultRow faultRows[] = {
     {"checkBox_Unplug", "wb_fault_unplug", &Faults::unplug},
 };
 
-constexpr int longestDelayMs = 60'000;
+constexpr int kLongestDelayMs = 60'000;
 
 } // namespace
 
@@ -53,7 +53,7 @@ FaultsPanel::FaultsPanel(SimulatedTracker& tracker, QWidget* parent)
     auto* faults = texts_.bind(new QGroupBox(this), "wb_faults");
     vlk::dressGroup(faults);
     auto* list = new QVBoxLayout(faults);
-    for (const FaultRow& row : faultRows)
+    for (const FaultRow& row : kFaultRows)
         addFault(list, row.name, row.key, row.fault);
     addDelay(list);
 
@@ -87,7 +87,7 @@ void FaultsPanel::addDelay(QVBoxLayout* column)
 {
     auto* delay = new QSpinBox(this);
     delay->setObjectName(QStringLiteral("spinBox_Delay"));
-    delay->setRange(0, longestDelayMs);
+    delay->setRange(0, kLongestDelayMs);
     delay->setSingleStep(100);
     vlk::NumberEntry::join(delay);
     texts_.bind([delay] { delay->setSuffix(QLatin1Char(' ') + text("abbr_040")); });

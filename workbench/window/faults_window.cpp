@@ -27,13 +27,13 @@ FaultsWindow::FaultsWindow(tracker::SimulatedTracker& tracker, QWidget* owner)
     trouble_->setObjectName(QStringLiteral("label_FaultsTrouble"));
     trouble_->setWordWrap(true);
     trouble_->hide();
-    auto* tanks = new TankPanel(tracker);
-    vlk::dressGroup(tanks);
+    auto* kTanks = new TankPanel(tracker);
+    vlk::dressGroup(kTanks);
     auto* content = new QWidget;
     auto* inside = new QVBoxLayout(content);
     inside->setContentsMargins(0, 0, 0, 0);
     inside->addWidget(panel_);
-    inside->addWidget(tanks);
+    inside->addWidget(kTanks);
     auto* column = new QVBoxLayout(this);
     column->addWidget(scrolling(content), 1);
     column->addWidget(trouble_);

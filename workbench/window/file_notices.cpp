@@ -14,7 +14,7 @@ namespace workbench {
 namespace {
 
 // What a file with damage everywhere has more of is counted.
-constexpr int mostLines = 5;
+constexpr int kMostLines = 5;
 
 } // namespace
 
@@ -41,10 +41,10 @@ void FileNotices::tell()
 {
     const auto sentence = [noted = std::exchange(noted_, {})] {
         QStringList lines;
-        for (const auto& [category, message] : noted.mid(0, mostLines))
+        for (const auto& [category, message] : noted.mid(0, kMostLines))
             lines.append(PluginLog::words(category, message));
-        if (noted.size() > mostLines)
-            lines.append(text("wb_told_more").arg(number(noted.size() - mostLines)));
+        if (noted.size() > kMostLines)
+            lines.append(text("wb_told_more").arg(number(noted.size() - kMostLines)));
         return lines.join(QLatin1Char('\n'));
     };
     status_.tell(StatusLine::Command, sentence);

@@ -10,13 +10,13 @@ namespace workbench {
 
 namespace {
 
-constexpr int newsMs = 8000;
+constexpr int kNewsMs = 8000;
 
 } // namespace
 
 FrontNotice::FrontNotice(const PluginLink& link, PluginWindows& windows) : windows_(windows)
 {
-    news_.setInterval(newsMs);
+    news_.setInterval(kNewsMs);
     connect(&news_, &QTimer::timeout, this, &FrontNotice::goByItself);
     connect(&link, &PluginLink::passed, this, [this](Direction, quint32 id) {
         if (id == quint32(Message::OpenTelemetry))

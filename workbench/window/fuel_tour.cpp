@@ -33,7 +33,7 @@ QWidget* window()
 template <class Widget>
 Widget* inForm(const char* name)
 {
-    const QString sensor = QLatin1String(tracker::tanks[kTank].sensor);
+    const QString sensor = QLatin1String(tracker::kTanks[kTank].sensor);
     auto* form = window()->findChild<QWidget*>(sensor);
     auto* widget = form ? form->findChild<Widget*>(QLatin1String(name)) : nullptr;
     Tour::expect(widget != nullptr, QStringLiteral("no %1 for %2").arg(QLatin1String(name), sensor));
@@ -63,7 +63,7 @@ void openCalibration(Tour& tour)
 // A pour, a value that has come to rest, a point.
 void calibrate(Tour& tour)
 {
-    const tracker::Tank& tank = tracker::tanks[kTank];
+    const tracker::Tank& tank = tracker::kTanks[kTank];
     const auto* value = inForm<QLineEdit>("lineEdit_Param");
     int litres = 0;
     for (const int pour : kPours) {

@@ -35,7 +35,7 @@ namespace workbench {
 namespace {
 
 constexpr QSize historySize(980, 500);
-constexpr int listWidth = 380;
+constexpr int kListWidth = 380;
 
 // Numbers of backups, and what else can be compared with.
 enum Other { TheTracker = -1, AFile = -2 };
@@ -46,10 +46,10 @@ struct KeepRow
     const char* key;
 };
 
-constexpr KeepRow keepRows[] = {{0, "wb_history_always"},
-                                {92, "wb_history_quarter"},
-                                {366, "wb_history_year"},
-                                {1096, "wb_history_years"}};
+constexpr KeepRow kKeepRows[] = {{0, "wb_history_always"},
+                                 {92, "wb_history_quarter"},
+                                 {366, "wb_history_year"},
+                                 {1096, "wb_history_years"}};
 
 } // namespace
 
@@ -66,7 +66,7 @@ HistoryWindow::HistoryWindow(HostSession& session, Settings& settings, QWidget* 
     splitter->addWidget(buildDifferences());
     splitter->setStretchFactor(1, 1);
     splitter->setChildrenCollapsible(false);
-    splitter->setSizes({listWidth, historySize.width() - listWidth});
+    splitter->setSizes({kListWidth, historySize.width() - kListWidth});
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(9, 9, 9, 9);
     column->setSpacing(6);
@@ -105,7 +105,7 @@ QWidget* HistoryWindow::buildDifferences()
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
     dressTable(table_, TableUse::read);
     elideInTheMiddle(table_, SettingChangeModel::Setting);
-    table_->setIconSize({markSize, markSize});
+    table_->setIconSize({kMarkSize, kMarkSize});
     table_->horizontalHeader()->setSectionResizeMode(SettingChangeModel::Setting, QHeaderView::Stretch);
     empty_ = new EmptyNote(table_);
     connect(&model_, &QAbstractItemModel::dataChanged, this, &HistoryWindow::updateButtons);
@@ -130,14 +130,14 @@ QWidget* HistoryWindow::buildButtons()
     line->setContentsMargins(0, 0, 0, 0);
     note_ = addButton(line, "pushButton_Note", "wb_history_note", &HistoryWindow::note);
     keep_->setObjectName(QStringLiteral("comboBox_Keep"));
-    for (const KeepRow& row : keepRows)
+    for (const KeepRow& row : kKeepRows)
         keep_->addItem(text(row.key), row.days);
     keep_->setCurrentIndex(qMax(0, keep_->findData(settings_.backupDays())));
     auto* label = texts_.bind(new QLabel(this), "wb_history_keep");
     label->setBuddy(keep_);
     texts_.bind([this] {
         for (int row = 0; row < keep_->count(); ++row)
-            keep_->setItemText(row, text(keepRows[row].key));
+            keep_->setItemText(row, text(kKeepRows[row].key));
     });
     connect(keep_, QOverload<int>::of(&QComboBox::activated), this, [this] {
         settings_.setBackupDays(keep_->currentData().toInt());
@@ -241,7 +241,7 @@ std::optional<QByteArray> HistoryWindow::other()
     QByteArray document;
     if (wanted == AFile) {
         QFile file(file_);
-        document = file.open(QIODevice::ReadOnly) ? file.read(largestConfiguration + 1) : QByteArray();
+        document = file.open(QIODevice::ReadOnly) ? file.read(kLargestConfiguration + 1) : QByteArray();
     } else {
         document = session_.backups().document(wanted);
     }

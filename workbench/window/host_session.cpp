@@ -36,7 +36,7 @@ QString whyNothingCame(Reading::Outcome outcome)
 // One byte more than there may be, by which a file that is too large is known.
 QByteArray contentOf(QFile& file)
 {
-    return file.open(QIODevice::ReadOnly) ? file.read(largestConfiguration + 1) : QByteArray();
+    return file.open(QIODevice::ReadOnly) ? file.read(kLargestConfiguration + 1) : QByteArray();
 }
 
 } // namespace
@@ -75,7 +75,7 @@ void HostSession::tellAttached(bool attached)
     }
     edited_.forgetTracker();
     // A search has no end without an answer.
-    char stopped = tracker::searchStopped;
+    char stopped = tracker::kSearchStopped;
     if (std::exchange(isSearching_, false))
         link_.send(vlk::Message::BtSearchStopped, &stopped);
     link_.send(vlk::Message::TrackerDetached);
@@ -202,7 +202,7 @@ void HostSession::followSearch(vlk::Message id, const void* p1)
     else if (id == vlk::Message::BtSearchStopped)
         isSearching_ = false;
     else if (id == vlk::Message::BtSearchEvent && p1 != nullptr)
-        isSearching_ = *static_cast<const char*>(p1) == tracker::searchRuns;
+        isSearching_ = *static_cast<const char*>(p1) == tracker::kSearchRuns;
 }
 
 // It is read now: the plug-in names its files by the minute, and the next one may take the place of this one.

@@ -160,7 +160,7 @@ QString LinkNotices::silence(const QDateTime& since, vlk::Message request)
         key = isSaving_ ? "wb_silence_save" : "wb_silence_again";
     else if (hasEffect(request, Effect::MayBeMute))
         key = "wb_silence_mute";
-    const qint64 seconds = AnswerWatch::patienceMs / 1000;
+    const qint64 seconds = AnswerWatch::kPatienceMs / 1000;
     return text(key).arg(timeOfDay(since), number(seconds));
 }
 

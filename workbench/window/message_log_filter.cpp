@@ -24,7 +24,7 @@ bool MessageLogFilter::filterAcceptsRow(int row, const QModelIndex& parent) cons
         return sourceModel()->data(sourceModel()->index(row, column, parent), role);
     };
     if (directions_ != Directions::Both) {
-        const auto direction = vlk::Direction(at(0, MessageLogModel::directionRole).toInt());
+        const auto direction = vlk::Direction(at(0, MessageLogModel::kDirectionRole).toInt());
         if ((direction == vlk::Direction::ToPlugin) != (directions_ == Directions::ToPlugin))
             return false;
     }

@@ -63,7 +63,7 @@ QVariant MessageLogModel::data(const QModelIndex& index, int role) const
     const LoggedMessage& message = messages_[std::size_t(index.row())];
     if (role == Qt::DisplayRole || (role == Qt::ToolTipRole && index.column() == Parameters))
         return cell(message, index.column());
-    if (role == directionRole)
+    if (role == kDirectionRole)
         return int(message.direction);
     return role == Qt::TextAlignmentRole ? alignment(index.column()) : QVariant();
 }

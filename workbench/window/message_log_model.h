@@ -31,10 +31,10 @@ class MessageLogModel : public QAbstractTableModel
 public:
     enum Column { Time, Way, Number, Name, Parameters, ColumnCount };
     // Of a row: its vlk::Direction as an integer.
-    static constexpr int directionRole = Qt::UserRole;
-    static constexpr int defaultCapacity = 100'000;
+    static constexpr int kDirectionRole = Qt::UserRole;
+    static constexpr int kDefaultCapacity = 100'000;
 
-    explicit MessageLogModel(int capacity = defaultCapacity, QObject* parent = nullptr);
+    explicit MessageLogModel(int capacity = kDefaultCapacity, QObject* parent = nullptr);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;

@@ -31,7 +31,7 @@ namespace workbench {
 
 namespace {
 
-constexpr const char* directionKeys[] = {"wb_log_both", "wb_log_to_plugin", "wb_log_to_host"};
+constexpr const char* kDirectionKeys[] = {"wb_log_both", "wb_log_to_plugin", "wb_log_to_host"};
 
 } // namespace
 
@@ -74,12 +74,12 @@ void MessageLogView::buildBar()
     connect(words_, &QLineEdit::textChanged, this, &MessageLogView::applyFilter);
 
     directions_->setObjectName(QStringLiteral("comboBox_LogDirection"));
-    for (const char* key : directionKeys)
+    for (const char* key : kDirectionKeys)
         directions_->addItem(text(key));
     texts_.bind([this] {
         directions_->setAccessibleName(text("wb_log_direction"));
         for (int i = 0; i < directions_->count(); ++i)
-            directions_->setItemText(i, text(directionKeys[i]));
+            directions_->setItemText(i, text(kDirectionKeys[i]));
     });
     directions_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     connect(directions_, QOverload<int>::of(&QComboBox::currentIndexChanged), this,

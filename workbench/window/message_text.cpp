@@ -8,7 +8,7 @@ namespace workbench {
 namespace {
 
 // What findMessage relies on.
-static_assert(std::is_sorted(std::begin(messages), std::end(messages),
+static_assert(std::is_sorted(std::begin(kMessages), std::end(kMessages),
                              [](const MessageInfo& a, const MessageInfo& b) { return a.number < b.number; }));
 
 template <class Record>
@@ -63,7 +63,7 @@ MessageText numbers(const void* p, const char* form, Members Record::*... member
     return {text, {}};
 }
 
-constexpr RecordRow records[] = {
+constexpr RecordRow kRecords[] = {
     {Message::SetIdentity,
      [](const void* p) -> MessageText {
          const auto& r = as<IdentityInfo>(p);
@@ -103,12 +103,12 @@ constexpr RecordRow records[] = {
              values.append(QString::number(value));
          return {QStringLiteral("values={%1} supply=%2 mV")
                      .arg(values.join(QLatin1String(", ")))
-                     .arg(r.values[supplyElement]),
+                     .arg(r.values[kSupplyElement]),
                  {}};
      }},
     {Message::AnalogRecord,
      [](const void* p) -> MessageText {
-         return {{}, rawBytes(p, analogRecordSize)};
+         return {{}, rawBytes(p, kAnalogRecordSize)};
      }},
     {Message::AccelRecord,
      [](const void* p) -> MessageText {
@@ -121,8 +121,8 @@ constexpr RecordRow records[] = {
      }},
     {Message::AccelCommandResult,
      [](const void* p) -> MessageText {
-         return {QStringLiteral("status=%1").arg(static_cast<const std::uint8_t*>(p)[accelStatusByte]),
-                 rawBytes(p, accelResultSize)};
+         return {QStringLiteral("status=%1").arg(static_cast<const std::uint8_t*>(p)[kAccelStatusByte]),
+                 rawBytes(p, kAccelResultSize)};
      }},
     {Message::BtDeviceFound,
      [](const void* p) -> MessageText {
@@ -171,7 +171,7 @@ constexpr RecordRow records[] = {
 
 constexpr Describe describeOf(Message message)
 {
-    for (const RecordRow& row : records) {
+    for (const RecordRow& row : kRecords) {
         if (row.message == message)
             return row.describe;
     }
@@ -179,7 +179,7 @@ constexpr Describe describeOf(Message message)
 }
 
 // A message that brings a record and has no row would be told without its content.
-static_assert(std::ranges::all_of(messages, [](const MessageInfo& info) {
+static_assert(std::ranges::all_of(kMessages, [](const MessageInfo& info) {
     return (info.p1 != Parameter::RecordAddress && info.p2 != Parameter::RecordAddress) ||
            describeOf(info.number) != nullptr;
 }));
@@ -206,7 +206,7 @@ MessageText describeParameter(Message message, Parameter kind, const void* p)
     case Parameter::DateTimeAddress:
         return {as<QDateTime>(p).toUTC().toString(Qt::ISODate), {}};
     case Parameter::TextBuffer:
-        return {quoted(static_cast<const char*>(p), balanceUssdSize), {}};
+        return {quoted(static_cast<const char*>(p), kBalanceUssdSize), {}};
     case Parameter::RecordAddress:
         return describeOf(message)(p);
     case Parameter::None:
@@ -220,9 +220,10 @@ MessageText describeParameter(Message message, Parameter kind, const void* p)
 
 const MessageInfo* findMessage(Direction direction, quint32 id)
 {
-    const auto* row = std::lower_bound(std::begin(messages), std::end(messages), id,
+    const auto* row = std::lower_bound(std::begin(kMessages), std::end(kMessages), id,
                                        [](const MessageInfo& m, quint32 n) { return quint32(m.number) < n; });
-    const bool found = row != std::end(messages) && quint32(row->number) == id && row->direction == direction;
+    const bool found =
+        row != std::end(kMessages) && quint32(row->number) == id && row->direction == direction;
     return found ? row : nullptr;
 }
 

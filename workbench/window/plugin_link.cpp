@@ -155,7 +155,7 @@ void PluginLink::showStoredFile(const QString& path, int kind)
 
 QString PluginLink::balanceCode()
 {
-    char code[vlk::balanceUssdSize] = {};
+    char code[vlk::kBalanceUssdSize] = {};
     send(vlk::Message::GetBalanceUssd, code);
     return QString::fromLocal8Bit(code, qstrnlen(code, sizeof code));
 }

@@ -17,12 +17,12 @@ namespace workbench {
 namespace {
 
 // How a message is written: what it captures goes into the text in this order.
-constexpr const char* whole = "^(.*)$";
-constexpr const char* notMade = "^cannot make (.*) : (.*)$";
-constexpr const char* notOpened = "^cannot open (.*) : (.*)$";
-constexpr const char* ofFile = "^(.*?): (.*)$";
-constexpr const char* atByte = "^(.*): .* at byte (\\d+), (\\d+) bytes$";
-constexpr const char* ofPeriod = "^(.*): (\\d+) of (\\d+) records, until (.*)$";
+constexpr const char* kWhole = "^(.*)$";
+constexpr const char* kNotMade = "^cannot make (.*) : (.*)$";
+constexpr const char* kNotOpened = "^cannot open (.*) : (.*)$";
+constexpr const char* kOfFile = "^(.*?): (.*)$";
+constexpr const char* kAtByte = "^(.*): .* at byte (\\d+), (\\d+) bytes$";
+constexpr const char* kOfPeriod = "^(.*): (\\d+) of (\\d+) records, until (.*)$";
 
 struct CategoryRow
 {
@@ -33,30 +33,30 @@ struct CategoryRow
 };
 
 // Where a category has several, the first whose form the message has.
-constexpr CategoryRow categoryRows[] = {
-    {"vlk.save", PluginLog::Topic::SaveFailed, "wb_save_failed_why", ofFile},
-    {"vlk.save.part", PluginLog::Topic::SavedInPart, "wb_saved_part", ofPeriod},
-    {"vlk.save.unsaved", PluginLog::Topic::Damage, "wb_told_unsaved", ofFile},
+constexpr CategoryRow kCategoryRows[] = {
+    {"vlk.save", PluginLog::Topic::SaveFailed, "wb_save_failed_why", kOfFile},
+    {"vlk.save.part", PluginLog::Topic::SavedInPart, "wb_saved_part", kOfPeriod},
+    {"vlk.save.unsaved", PluginLog::Topic::Damage, "wb_told_unsaved", kOfFile},
     {"vlk.unsaved.kept", PluginLog::Topic::Damage, "rev_260", "^(\\d+) changes are kept$"},
-    {"vlk.settings.typing", PluginLog::Topic::Typing, "wb_typed", whole},
-    {"vlk.xml", PluginLog::Topic::File, "wb_told_not_made", notMade},
-    {"vlk.xml", PluginLog::Topic::File, "wb_told_unreadable", notOpened},
+    {"vlk.settings.typing", PluginLog::Topic::Typing, "wb_typed", kWhole},
+    {"vlk.xml", PluginLog::Topic::File, "wb_told_not_made", kNotMade},
+    {"vlk.xml", PluginLog::Topic::File, "wb_told_unreadable", kNotOpened},
     {"vlk.xml", PluginLog::Topic::File, "wb_told_no_document", "^(.*) is not a document$"},
-    {"vlk.xml", PluginLog::Topic::File, "wb_told_document", whole},
-    {"vlk.fuel", PluginLog::Topic::File, "wb_told_unreadable", notOpened},
+    {"vlk.xml", PluginLog::Topic::File, "wb_told_document", kWhole},
+    {"vlk.fuel", PluginLog::Topic::File, "wb_told_unreadable", kNotOpened},
     {"vlk.fuel", PluginLog::Topic::File, "wb_told_fuel_large", "^(.*) is too large for a calibration table$"},
     {"vlk.fuel", PluginLog::Topic::File, "wb_told_fuel_none", "^(.*) holds no calibration table$"},
     {"vlk.fuel", PluginLog::Topic::File, "wb_told_fuel_rows", "^the document holds more rows"},
-    {"vlk.fuel", PluginLog::Topic::File, "wb_told_fuel", whole},
-    {"vlk.files.unreadable", PluginLog::Topic::File, "wb_told_unreadable", ofFile},
-    {"vlk.files.missing", PluginLog::Topic::File, "wb_told_missing", ofFile},
-    {"vlk.files.empty", PluginLog::Topic::File, "wb_told_empty", ofFile},
-    {"vlk.files.form", PluginLog::Topic::Damage, "wb_told_form", atByte},
-    {"vlk.files.header", PluginLog::Topic::Damage, "wb_told_header", atByte},
-    {"vlk.files.damage", PluginLog::Topic::Damage, "wb_told_damage", atByte},
-    {"vlk.files.cut", PluginLog::Topic::Damage, "wb_told_cut", atByte},
-    {"vlk.files.checksum", PluginLog::Topic::Damage, "wb_told_checksum", atByte},
-    {"vlk.files.count", PluginLog::Topic::Damage, "wb_told_count", atByte},
+    {"vlk.fuel", PluginLog::Topic::File, "wb_told_fuel", kWhole},
+    {"vlk.files.unreadable", PluginLog::Topic::File, "wb_told_unreadable", kOfFile},
+    {"vlk.files.missing", PluginLog::Topic::File, "wb_told_missing", kOfFile},
+    {"vlk.files.empty", PluginLog::Topic::File, "wb_told_empty", kOfFile},
+    {"vlk.files.form", PluginLog::Topic::Damage, "wb_told_form", kAtByte},
+    {"vlk.files.header", PluginLog::Topic::Damage, "wb_told_header", kAtByte},
+    {"vlk.files.damage", PluginLog::Topic::Damage, "wb_told_damage", kAtByte},
+    {"vlk.files.cut", PluginLog::Topic::Damage, "wb_told_cut", kAtByte},
+    {"vlk.files.checksum", PluginLog::Topic::Damage, "wb_told_checksum", kAtByte},
+    {"vlk.files.count", PluginLog::Topic::Damage, "wb_told_count", kAtByte},
     {"vlk.track", PluginLog::Topic::File, "wb_told_no_distances", "^no distances: (.*)$"},
 };
 
@@ -70,7 +70,7 @@ QRegularExpressionMatch matched(const CategoryRow& row, const QString& message)
 const CategoryRow* rowOf(const char* category, const QString& message)
 {
     const CategoryRow* found = nullptr;
-    for (const CategoryRow& row : categoryRows) {
+    for (const CategoryRow& row : kCategoryRows) {
         if (std::strcmp(row.category, category) != 0)
             continue;
         found = &row;

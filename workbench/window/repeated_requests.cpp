@@ -12,13 +12,13 @@ namespace {
 
 Parameter parameterOf(Message request)
 {
-    const auto* info = std::find_if(std::begin(messages), std::end(messages),
+    const auto* info = std::find_if(std::begin(kMessages), std::end(kMessages),
                                     [request](const MessageInfo& row) { return row.number == request; });
-    return info == std::end(messages) ? Parameter::None : info->p1;
+    return info == std::end(kMessages) ? Parameter::None : info->p1;
 }
 
 // Of an answer that is there the tracker is asked sooner than of one that does not come.
-constexpr int refusedMs = 1000;
+constexpr int kRefusedMs = 1000;
 
 Asked askedBy(Message request, const void* p1)
 {
@@ -36,7 +36,7 @@ Asked askedBy(Message request, const void* p1)
 
 bool answersReading(Message answer)
 {
-    return std::any_of(std::begin(messages), std::end(messages), [answer](const MessageInfo& row) {
+    return std::any_of(std::begin(kMessages), std::end(kMessages), [answer](const MessageInfo& row) {
         return row.answer == quint32(answer) &&
                (hasEffect(row.number, Effect::Reads) || hasEffect(row.number, Effect::MayBeMute));
     });
@@ -64,7 +64,7 @@ bool RepeatedRequests::send(Message request, void* p1, void* p2)
         connect(timer.get(), &QTimer::timeout, this,
                 [this, request, again = sending(request, p1, ticket)] { repeat(request, again); });
         if (isReading)
-            timer->start(AnswerWatch::patienceMs);
+            timer->start(AnswerWatch::kPatienceMs);
         const Asked asked = askedBy(request, p1);
         check_.note(asked);
         waiting_[request] = {ticket, asked, std::move(timer), {}};
@@ -100,7 +100,7 @@ void RepeatedRequests::repeat(Message request, const std::function<void()>& send
 {
     const Waiting& waiting = waiting_.at(request);
     if (hasEffect(request, Effect::Reads))
-        waiting.timer->start(AnswerWatch::patienceMs);
+        waiting.timer->start(AnswerWatch::kPatienceMs);
     else
         waiting.timer->stop();
     repeated_.emplace(waiting.ticket, false);
@@ -144,7 +144,7 @@ void RepeatedRequests::refuse(Message answer, Waiting* waiting)
         return;
     }
     waiting->refused = problem_->kind;
-    waiting->timer->start(refusedMs);
+    waiting->timer->start(kRefusedMs);
     Q_EMIT refused(answer, *problem_, waiting->asked.request);
 }
 

@@ -23,7 +23,7 @@ struct RequestRow
 };
 
 // All that goes to the tracker but a configuration, which travels as a file (host_session.h).
-inline constexpr RequestRow requestRows[] = {
+inline constexpr RequestRow kRequestRows[] = {
     {Message::RequestLines, Effect::Reads},
     {Message::RequestLiveKey, Effect::Reads},
     {Message::RequestSupply, Effect::Reads},
@@ -54,7 +54,7 @@ inline constexpr RequestRow requestRows[] = {
 
 constexpr const RequestRow* findRequest(Message request)
 {
-    for (const RequestRow& row : requestRows) {
+    for (const RequestRow& row : kRequestRows) {
         if (row.request == request)
             return &row;
     }
@@ -63,7 +63,7 @@ constexpr const RequestRow* findRequest(Message request)
 
 // A request without a row would be taken for one that may be repeated, or not, by accident.
 static_assert([] {
-    for (const MessageInfo& info : messages) {
+    for (const MessageInfo& info : kMessages) {
         if (info.direction == Direction::ToHost && info.answer != 0 && findRequest(info.number) == nullptr)
             return false;
     }

@@ -25,10 +25,10 @@ namespace workbench {
 namespace {
 
 // Nobody has read anything before.
-constexpr int unseenMs = 300;
+constexpr int kUnseenMs = 300;
 constexpr QSize usualSize(760, 420);
-constexpr int longestNote = 240; // signs; all of it is in the tool tip
-constexpr int roomAround = 130;  // what stands above and below the table
+constexpr int kLongestNote = 240; // signs; all of it is in the tool tip
+constexpr int kRoomAround = 130;  // what stands above and below the table
 
 QString titleOf(const TrackerIdentity& tracker)
 {
@@ -93,7 +93,7 @@ ReviewWindow::ReviewWindow(const WriteReview& review, Settings& settings, QWidge
     addAdvice(column);
     addButtons(column);
     const auto* table = findChild<QTableView*>(QStringLiteral("tableView_Review"));
-    resizeWithin(this, {usualSize.width(), qMin(usualSize.height(), roomAround + heightOfRows(*table))});
+    resizeWithin(this, {usualSize.width(), qMin(usualSize.height(), kRoomAround + heightOfRows(*table))});
 }
 
 void ReviewWindow::addOrigin(QVBoxLayout* column)
@@ -107,8 +107,8 @@ void ReviewWindow::addOrigin(QVBoxLayout* column)
     label->setWordWrap(true);
     QStringList shown = notes;
     for (QString& note : shown) {
-        if (note.size() > longestNote)
-            note = note.left(longestNote) + QChar(0x2026);
+        if (note.size() > kLongestNote)
+            note = note.left(kLongestNote) + QChar(0x2026);
     }
     label->setText(shown.join(QLatin1Char('\n')));
     if (shown != notes)
@@ -123,7 +123,7 @@ void ReviewWindow::addCount(QHBoxLayout* line, int mark, const QString& text, co
 {
     if (mark >= 0) {
         auto* symbol = new QLabel(this);
-        symbol->setPixmap(markPixmap(Mark(mark), palette(), markSize, devicePixelRatioF()));
+        symbol->setPixmap(markPixmap(Mark(mark), palette(), kMarkSize, devicePixelRatioF()));
         line->addWidget(symbol);
     }
     auto* label = new QLabel(text, this);
@@ -177,7 +177,7 @@ void ReviewWindow::addTable(QVBoxLayout* column)
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     dressTable(table, TableUse::read);
     elideInTheMiddle(table, SettingChangeModel::Setting);
-    table->setIconSize({markSize, markSize});
+    table->setIconSize({kMarkSize, kMarkSize});
     auto* empty = new EmptyNote(table);
     empty->tell(text("wb_review_none"));
     table->horizontalHeader()->setSectionResizeMode(SettingChangeModel::Setting, QHeaderView::Stretch);
@@ -195,7 +195,7 @@ void ReviewWindow::addAdvice(QVBoxLayout* column)
         QStringList place{advice.page, advice.caption};
         place.removeAll(QString());
         const Mark mark = advice.isError ? Mark::invalid : Mark::advice;
-        new QListWidgetItem(QIcon(markPixmap(mark, palette(), markSize, devicePixelRatioF())),
+        new QListWidgetItem(QIcon(markPixmap(mark, palette(), kMarkSize, devicePixelRatioF())),
                             place.isEmpty()
                                 ? advice.text
                                 : place.join(QLatin1String(", ")) + QLatin1String(": ") + advice.text,
@@ -233,7 +233,7 @@ void ReviewWindow::addButtons(QVBoxLayout* column)
     first->setDefault(true);
     write_->setEnabled(false);
     cancel_->setFocus();
-    QTimer::singleShot(unseenMs, this, [this, first, buttons] {
+    QTimer::singleShot(kUnseenMs, this, [this, first, buttons] {
         write_->setEnabled(true);
         for (QPushButton* button : buttons)
             button->setAutoDefault(true);

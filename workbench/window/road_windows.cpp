@@ -12,7 +12,7 @@ namespace workbench {
 
 namespace {
 
-constexpr int noticeMs = 200;
+constexpr int kNoticeMs = 200;
 
 } // namespace
 
@@ -20,7 +20,7 @@ RoadWindows::RoadWindows(HostSession& session, Settings& settings, QWidget* main
     : QObject(mainWindow), session_(session), settings_(settings), mainWindow_(mainWindow)
 {
     notice_.setSingleShot(true);
-    notice_.setInterval(noticeMs);
+    notice_.setInterval(kNoticeMs);
     connect(&notice_, &QTimer::timeout, this, &RoadWindows::showProgress);
     connect(&session_.road(), &WriteRoad::stepChanged, this, &RoadWindows::follow);
     connect(&session_.road(), &WriteRoad::reviewReady, this, &RoadWindows::review);

@@ -85,7 +85,7 @@ QVariant SettingChangeModel::data(const QModelIndex& index, int role) const
         return settingName(change) + QLatin1Char('\n') + change.path;
     if (role == Qt::DecorationRole && index.column() == Setting)
         return markPixmap(change.isRemoved() ? Mark::invalid : Mark::changed, QGuiApplication::palette(),
-                          markSize, qApp->devicePixelRatio());
+                          kMarkSize, qApp->devicePixelRatio());
     if (role == Qt::CheckStateRole && index.column() == Setting && canBeChosen_)
         return chosen_.contains(change.path) ? Qt::Checked : Qt::Unchecked;
     if (role != Qt::DisplayRole)

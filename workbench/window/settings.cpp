@@ -11,16 +11,16 @@ namespace workbench {
 
 namespace {
 
-const QString languageKey = QStringLiteral("language");
-const QString modeKey = QStringLiteral("mode");
-const QString appearanceKey = QStringLiteral("appearance");
-const QString fullWindowKey = QStringLiteral("fullWindow");
-const QString reviewKey = QStringLiteral("reviewAlways");
-const QString backupDaysKey = QStringLiteral("backupDays");
-const QString telemetryKey = QStringLiteral("folders/telemetry");
-const QString configurationKey = QStringLiteral("folders/configuration");
-const QString recentKey = QStringLiteral("recentFiles");
-const QString tableKey = QStringLiteral("recentFilesInTable");
+const QString kLanguageKey = QStringLiteral("language");
+const QString kModeKey = QStringLiteral("mode");
+const QString kAppearanceKey = QStringLiteral("appearance");
+const QString kFullWindowKey = QStringLiteral("fullWindow");
+const QString kReviewKey = QStringLiteral("reviewAlways");
+const QString kBackupDaysKey = QStringLiteral("backupDays");
+const QString kTelemetryKey = QStringLiteral("folders/telemetry");
+const QString kConfigurationKey = QStringLiteral("folders/configuration");
+const QString kRecentKey = QStringLiteral("recentFiles");
+const QString kTableKey = QStringLiteral("recentFilesInTable");
 
 QString layoutKey(const QString& name)
 {
@@ -60,91 +60,91 @@ QString Settings::language() const
 {
     if (runLanguage_)
         return *runLanguage_;
-    const QString code = store_->value(languageKey).toString();
+    const QString code = store_->value(kLanguageKey).toString();
     return Languages::isKnown(code) ? code : Languages::ofSystem();
 }
 
 void Settings::setLanguage(const QString& code)
 {
     runLanguage_.reset();
-    store_->setValue(languageKey, code);
+    store_->setValue(kLanguageKey, code);
 }
 
 int Settings::mode() const
 {
     if (runMode_)
         return *runMode_;
-    const int mode = store_->value(modeKey, 0).toInt();
+    const int mode = store_->value(kModeKey, 0).toInt();
     return mode >= 0 && mode <= 2 ? mode : 0;
 }
 
 void Settings::setMode(int mode)
 {
     runMode_.reset();
-    store_->setValue(modeKey, mode);
+    store_->setValue(kModeKey, mode);
 }
 
 Appearance Settings::appearance() const
 {
-    const int value = store_->value(appearanceKey, 0).toInt();
+    const int value = store_->value(kAppearanceKey, 0).toInt();
     return value >= 0 && value <= int(Appearance::Dark) ? Appearance(value) : Appearance::System;
 }
 
 void Settings::setAppearance(Appearance appearance)
 {
-    store_->setValue(appearanceKey, int(appearance));
+    store_->setValue(kAppearanceKey, int(appearance));
 }
 
 bool Settings::fullWindow() const
 {
-    return store_->value(fullWindowKey, true).toBool();
+    return store_->value(kFullWindowKey, true).toBool();
 }
 
 void Settings::setFullWindow(bool full)
 {
-    store_->setValue(fullWindowKey, full);
+    store_->setValue(kFullWindowKey, full);
 }
 
 bool Settings::reviewAlways() const
 {
-    return store_->value(reviewKey, true).toBool();
+    return store_->value(kReviewKey, true).toBool();
 }
 
 void Settings::setReviewAlways(bool always)
 {
-    store_->setValue(reviewKey, always);
+    store_->setValue(kReviewKey, always);
 }
 
 int Settings::backupDays() const
 {
-    return qMax(0, store_->value(backupDaysKey, 0).toInt());
+    return qMax(0, store_->value(kBackupDaysKey, 0).toInt());
 }
 
 void Settings::setBackupDays(int days)
 {
-    store_->setValue(backupDaysKey, days);
+    store_->setValue(kBackupDaysKey, days);
 }
 
 QString Settings::telemetryFolder() const
 {
-    return store_->value(telemetryKey).toString();
+    return store_->value(kTelemetryKey).toString();
 }
 
 QString Settings::configurationFolder() const
 {
-    return store_->value(configurationKey).toString();
+    return store_->value(kConfigurationKey).toString();
 }
 
 void Settings::setFolders(const QString& telemetry, const QString& configuration)
 {
-    store_->setValue(telemetryKey, telemetry);
-    store_->setValue(configurationKey, configuration);
+    store_->setValue(kTelemetryKey, telemetry);
+    store_->setValue(kConfigurationKey, configuration);
 }
 
 QVector<RecentFile> Settings::recentFiles() const
 {
-    const QStringList paths = store_->value(recentKey).toStringList().mid(0, recentLimit);
-    const QStringList inTable = store_->value(tableKey).toStringList();
+    const QStringList paths = store_->value(kRecentKey).toStringList().mid(0, kRecentLimit);
+    const QStringList inTable = store_->value(kTableKey).toStringList();
     QVector<RecentFile> files;
     for (const QString& path : paths)
         files.append({path, inTable.contains(path) ? TelemetryWindow::Table : TelemetryWindow::Browser});
@@ -155,13 +155,13 @@ void Settings::setRecentFiles(const QVector<RecentFile>& files)
 {
     QStringList paths;
     QStringList inTable;
-    for (const RecentFile& file : files.mid(0, recentLimit)) {
+    for (const RecentFile& file : files.mid(0, kRecentLimit)) {
         paths.append(file.path);
         if (file.window == TelemetryWindow::Table)
             inTable.append(file.path);
     }
-    store_->setValue(recentKey, paths);
-    store_->setValue(tableKey, inTable);
+    store_->setValue(kRecentKey, paths);
+    store_->setValue(kTableKey, inTable);
 }
 
 void Settings::addRecentFile(const QString& path, TelemetryWindow window)

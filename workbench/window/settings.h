@@ -26,7 +26,7 @@ struct RecentFile
 class Settings
 {
 public:
-    static constexpr int recentLimit = 10;
+    static constexpr int kRecentLimit = 10;
 
     explicit Settings(const QString& file);
 

@@ -8,9 +8,9 @@ namespace workbench {
 
 namespace {
 
-constexpr qint64 blockSize = 2048; // bytes
-constexpr int blockMs = 15;
-constexpr int silenceMs = 100; // until it is looked whether the silence is over
+constexpr qint64 kBlockSize = 2048; // bytes
+constexpr int kBlockMs = 15;
+constexpr int kSilenceMs = 100; // until it is looked whether the silence is over
 
 } // namespace
 
@@ -40,7 +40,7 @@ void SimulatedPort::later(int ms, const std::function<void()>& act)
 
 void SimulatedPort::read(Copy copy)
 {
-    later(blockMs + qMax(0, tracker_.faults().delayMs), [this, copy] { answer(copy); });
+    later(kBlockMs + qMax(0, tracker_.faults().delayMs), [this, copy] { answer(copy); });
 }
 
 void SimulatedPort::answer(Copy copy)
@@ -50,7 +50,7 @@ void SimulatedPort::answer(Copy copy)
         copy == Copy::present ? tracker_.readConfiguration() : tracker_.readPrevious();
     switch (reading.outcome) {
     case Outcome::Silent:
-        later(silenceMs, [this, copy] { answer(copy); });
+        later(kSilenceMs, [this, copy] { answer(copy); });
         break;
     case Outcome::Detached:
         Q_EMIT readEnded({PortAnswer::Outcome::detached, {}, {}, {}});
@@ -72,7 +72,7 @@ void SimulatedPort::write(const QByteArray& document)
 {
     document_ = document;
     sent_ = 0;
-    later(blockMs, [this] { sendBlock(); });
+    later(kBlockMs, [this] { sendBlock(); });
 }
 
 void SimulatedPort::sendBlock()
@@ -83,15 +83,15 @@ void SimulatedPort::sendBlock()
         Q_EMIT writeEnded({PortAnswer::Outcome::unplugged, {}, {}, {}});
         return;
     case Block::Silent:
-        later(silenceMs, [this] { sendBlock(); });
+        later(kSilenceMs, [this] { sendBlock(); });
         return;
     case Block::Kept:
         break;
     }
-    sent_ = qMin(sent_ + blockSize, qint64(document_.size()));
+    sent_ = qMin(sent_ + kBlockSize, qint64(document_.size()));
     const bool isAll = sent_ == document_.size();
     // Who hears of it may drop the rest.
-    later(blockMs, [this] { sendBlock(); });
+    later(kBlockMs, [this] { sendBlock(); });
     Q_EMIT sent(sent_, document_.size());
     if (isAll && run_)
         takeAll();
@@ -106,14 +106,14 @@ void SimulatedPort::takeAll()
         answer = tracker_.attached()
                      ? PortAnswer{PortAnswer::Outcome::refused, {}, report.reasonKey, report.detail}
                      : PortAnswer{PortAnswer::Outcome::unplugged, {}, {}, {}};
-    later(blockMs + qMax(0, tracker_.faults().delayMs), [this, answer] { answerWrite(answer); });
+    later(kBlockMs + qMax(0, tracker_.faults().delayMs), [this, answer] { answerWrite(answer); });
     Q_EMIT taken();
 }
 
 void SimulatedPort::answerWrite(const PortAnswer& answer)
 {
     if (tracker_.attached() && tracker_.faults().silence)
-        later(silenceMs, [this, answer] { answerWrite(answer); });
+        later(kSilenceMs, [this, answer] { answerWrite(answer); });
     else if (tracker_.attached())
         Q_EMIT writeEnded(answer);
     else

@@ -10,7 +10,7 @@ namespace workbench {
 
 namespace {
 
-constexpr int widest = 480;
+constexpr int kWidest = 480;
 
 } // namespace
 
@@ -45,7 +45,7 @@ QCommandLinkButton* StartPanel::addLine(const char* name, const char* icon, cons
     line->setObjectName(QLatin1String(name));
     line->setIcon(lineIcon(QLatin1String(icon)));
     line->setIconSize({24, 24});
-    line->setMaximumWidth(widest);
+    line->setMaximumWidth(kWidest);
     // Enter does what it says.
     line->setAutoDefault(true);
     texts_.bind(line, key);

@@ -14,11 +14,11 @@ namespace workbench {
 
 namespace {
 
-constexpr int refreshMs = 500;
-constexpr int pours[] = {10, 20, 50};
+constexpr int kRefreshMs = 500;
+constexpr int kPourLitres[] = {10, 20, 50};
 
 // By TankShape.
-constexpr const char* shapes[] = {"wb_tank_box", "wb_tank_cylinder", "wb_tank_saddle"};
+constexpr const char* kShapes[] = {"wb_tank_box", "wb_tank_cylinder", "wb_tank_saddle"};
 
 } // namespace
 
@@ -29,7 +29,7 @@ TankPanel::TankPanel(tracker::SimulatedTracker& tracker, QWidget* parent)
     texts_.bind(static_cast<QGroupBox*>(this), "wb_tanks");
     auto* grid = new QGridLayout(this);
     tank_->setObjectName(QStringLiteral("comboBox_Tank"));
-    for (const tracker::Tank& tank : tracker::tanks)
+    for (const tracker::Tank& tank : tracker::kTanks)
         tank_->addItem(QLatin1String(tank.sensor));
     texts_.bind([this] { tank_->setAccessibleName(text("wb_tank_choice")); });
     filling_->setTextVisible(false);
@@ -55,13 +55,13 @@ TankPanel::TankPanel(tracker::SimulatedTracker& tracker, QWidget* parent)
         ++place;
         return button;
     };
-    for (const int litres : pours) {
+    for (const int litres : kPourLitres) {
         auto* button = addButton(QStringLiteral("pushButton_Pour_%1").arg(litres));
         texts_.bind([button, litres] { button->setText(text("wb_tank_pour").arg(litres)); });
         connect(button, &QPushButton::clicked, this, [this, litres] { pour(litres); });
     }
     auto* drain = texts_.bind(addButton(QStringLiteral("pushButton_Drain")), "wb_tank_drain");
-    connect(drain, &QPushButton::clicked, this, [this] { pour(-tracker::tanks[chosen()].litres); });
+    connect(drain, &QPushButton::clicked, this, [this] { pour(-tracker::kTanks[chosen()].litres); });
 
     connect(tank_, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &TankPanel::refresh);
     connect(&timer_, &QTimer::timeout, this, &TankPanel::refresh);
@@ -81,9 +81,9 @@ void TankPanel::pour(double litres)
 
 void TankPanel::refresh()
 {
-    const tracker::Tank& tank = tracker::tanks[chosen()];
+    const tracker::Tank& tank = tracker::kTanks[chosen()];
     const double litres = tracker_.fuelIn(chosen());
-    shape_->setText(text("wb_tank_shape").arg(text(shapes[static_cast<int>(tank.shape)])).arg(tank.litres));
+    shape_->setText(text("wb_tank_shape").arg(text(kShapes[static_cast<int>(tank.shape)])).arg(tank.litres));
     filling_->setMaximum(qRound(tank.litres));
     filling_->setValue(qRound(litres));
     litres_->setText(text("wb_tank_litres").arg(litres, 0, 'f', 0));
@@ -106,7 +106,7 @@ void TankPanel::showEvent(QShowEvent* event)
 {
     QGroupBox::showEvent(event);
     refresh();
-    timer_.start(refreshMs);
+    timer_.start(kRefreshMs);
 }
 
 void TankPanel::hideEvent(QHideEvent* event)

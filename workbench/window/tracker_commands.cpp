@@ -15,7 +15,7 @@ namespace workbench {
 namespace {
 
 constexpr int kServers = 3;
-constexpr double sameKm = 1; // the vehicle goes on while it is asked
+constexpr double kSameKm = 1; // the vehicle goes on while it is asked
 
 QString servers(const std::vector<int>& numbers)
 {
@@ -170,7 +170,7 @@ void TrackerCommands::setMileage(const Command& command)
     float mileage = command.mileage;
     requests_.send(command.message, &mileage, nullptr);
     look([this, before, mileage, told](const std::optional<tracker::Present>& present) {
-        if (!present || std::abs(present->mileage - mileage) > sameKm)
+        if (!present || std::abs(present->mileage - mileage) > kSameKm)
             Q_EMIT failed(told("wb_mileage_unknown"));
         else if (before)
             Q_EMIT done(

@@ -30,10 +30,10 @@ struct ProtocolRow
     const char* key;
 };
 
-constexpr ProtocolRow protocols[] = {{Protocol::AsConfigured, "wb_protocol_0"},
-                                     {Protocol::Protocol3, "wb_protocol_3"},
-                                     {Protocol::Protocol2, "wb_protocol_2"},
-                                     {Protocol::Protocol1, "wb_protocol_1"}};
+constexpr ProtocolRow kProtocols[] = {{Protocol::AsConfigured, "wb_protocol_0"},
+                                      {Protocol::Protocol3, "wb_protocol_3"},
+                                      {Protocol::Protocol2, "wb_protocol_2"},
+                                      {Protocol::Protocol1, "wb_protocol_1"}};
 
 } // namespace
 
@@ -58,14 +58,14 @@ QWidget* TrackerPanel::buildControls()
     auto* column = new QVBoxLayout(controls);
     column->setContentsMargins(0, 0, 0, 0);
     protocol_->setObjectName(QStringLiteral("comboBox_Protocol"));
-    for (const ProtocolRow& row : protocols)
+    for (const ProtocolRow& row : kProtocols)
         protocol_->addItem(text(row.key));
     texts_.bind([this] {
         for (int i = 0; i < protocol_->count(); ++i)
-            protocol_->setItemText(i, text(protocols[i].key));
+            protocol_->setItemText(i, text(kProtocols[i].key));
     });
     connect(protocol_, QOverload<int>::of(&QComboBox::activated), this,
-            [this](int index) { tracker_.setProtocol(protocols[index].protocol); });
+            [this](int index) { tracker_.setProtocol(kProtocols[index].protocol); });
     auto* protocolLabel = texts_.bind(new QLabel(this), "wb_protocol");
     protocolLabel->setBuddy(protocol_);
     column->addWidget(protocolLabel);

@@ -8,8 +8,8 @@ namespace workbench {
 
 namespace {
 
-constexpr int margin = 6;
-constexpr int goesOnMs = 5000; // between two keys of somebody who goes round the window
+constexpr int kMargin = 6;
+constexpr int kGoesOnMs = 5000; // between two keys of somebody who goes round the window
 
 } // namespace
 
@@ -57,7 +57,7 @@ bool WindowNotice::takesKey(const QWidget& widget, QKeyEvent& event)
         return true;
     }
     // What is accepted here is no shortcut of the window.
-    const bool goesOn = round_.isValid() && !round_.hasExpired(goesOnMs);
+    const bool goesOn = round_.isValid() && !round_.hasExpired(kGoesOnMs);
     round_.start();
     event.setAccepted(!goesOn);
     return !goesOn;
@@ -102,17 +102,17 @@ void WindowNotice::changeEvent(QEvent* event)
 
 void WindowNotice::place()
 {
-    QRect inside = parentWidget()->geometry().marginsRemoved({margin, margin, margin, margin});
+    QRect inside = parentWidget()->geometry().marginsRemoved({kMargin, kMargin, kMargin, kMargin});
     for (QFrame* bar : parentWidget()->findChildren<QFrame*>(QStringLiteral("noticeBar"))) {
         if (bar->isVisible() && bar->window() == parentWidget())
-            inside.setTop(qMax(inside.top(), bar->mapToGlobal(QPoint(0, bar->height())).y() + margin));
+            inside.setTop(qMax(inside.top(), bar->mapToGlobal(QPoint(0, bar->height())).y() + kMargin));
     }
     resize(inside.width(), heightForWidth(inside.width()));
     const QWidget* typed = parentWidget()->focusWidget();
     if (typed && typed->isVisible() && typed->testAttribute(Qt::WA_InputMethodEnabled)) {
         const QRect field(typed->mapToGlobal(QPoint()), typed->size());
         if (field.intersects({inside.topLeft(), size()}))
-            inside.setTop(field.bottom() + 1 + margin);
+            inside.setTop(field.bottom() + 1 + kMargin);
     }
     move(inside.topLeft());
 }

@@ -39,8 +39,8 @@ namespace workbench {
 namespace {
 
 enum Tab { StartTab, ReportTab, TrackerTab, LogTab };
-constexpr const char* tabKeys[] = {"wb_tab_start", "wb_tab_report", "wb_tab_tracker", "wb_tab_log"};
-constexpr int leftWidth = 290;
+constexpr const char* kTabKeys[] = {"wb_tab_start", "wb_tab_report", "wb_tab_tracker", "wb_tab_log"};
+constexpr int kLeftWidth = 290;
 constexpr QSize usualSize(1024, 600);
 
 } // namespace
@@ -92,7 +92,7 @@ void WorkbenchWindow::buildPanels()
         tabs_->addTab(scrolling(page), QString());
     texts_.bind([this] {
         for (const Tab tab : {StartTab, ReportTab, TrackerTab, LogTab})
-            tabs_->setTabText(tab, text(tabKeys[tab]));
+            tabs_->setTabText(tab, text(kTabKeys[tab]));
     });
 
     splitter_->setObjectName(QStringLiteral("splitter_Main"));
@@ -394,7 +394,7 @@ void WorkbenchWindow::restoreLayout()
     restoreGeometry(settings_.layout(objectName()));
     if (!isMaximized())
         resizeWithin(this, size());
-    splitter_->setSizes({leftWidth, width() - leftWidth});
+    splitter_->setSizes({kLeftWidth, width() - kLeftWidth});
     splitter_->restoreState(settings_.layout(splitter_->objectName()));
 }
 

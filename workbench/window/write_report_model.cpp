@@ -36,8 +36,8 @@ QVariant WriteReportModel::data(const QModelIndex& index, int role) const
 {
     const WrittenSetting& setting = settings_.at(index.row());
     if (role == Qt::DecorationRole && index.column() == Setting)
-        return markPixmap(setting.isTaken ? Mark::right : Mark::invalid, QGuiApplication::palette(), markSize,
-                          qApp->devicePixelRatio());
+        return markPixmap(setting.isTaken ? Mark::right : Mark::invalid, QGuiApplication::palette(),
+                          kMarkSize, qApp->devicePixelRatio());
     if (role != Qt::DisplayRole)
         return {};
     switch (index.column()) {

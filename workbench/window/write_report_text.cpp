@@ -23,7 +23,7 @@ struct FaultRow
     const char* adviceKey;
 };
 
-constexpr FaultRow faultRows[] = {
+constexpr FaultRow kFaultRows[] = {
     {Fault::badRequest, "wb_road_request", nullptr},
     {Fault::unsaved, "wb_refused_unsaved", "wb_do_disk"},
     {Fault::incomparable, "wb_road_incomparable", nullptr},
@@ -42,22 +42,22 @@ struct AdviceRow
 };
 
 // What to do about a refusal that a user can mend; the others say enough.
-constexpr AdviceRow advices[] = {
+constexpr AdviceRow kAdvices[] = {
     {"wb_refused_memory", "wb_do_disk"},
     {"wb_refused_record", "wb_do_data_set"},
 };
 
 QString reasonFor(const RoadReport& report)
 {
-    const auto* row = std::find_if(std::begin(faultRows), std::end(faultRows),
+    const auto* row = std::find_if(std::begin(kFaultRows), std::end(kFaultRows),
                                    [&](const FaultRow& each) { return each.fault == report.fault; });
-    const char* advice = row == std::end(faultRows) ? nullptr : row->adviceKey;
-    QString reason = row == std::end(faultRows) ? text(report.reasonKey.toLatin1().constData())
+    const char* advice = row == std::end(kFaultRows) ? nullptr : row->adviceKey;
+    QString reason = row == std::end(kFaultRows) ? text(report.reasonKey.toLatin1().constData())
                      : report.fault == Fault::unplugged && report.outcome == Outcome::notWritten &&
                              report.step == RoadReport::Step::writing
                          ? text("wb_refused_unplugged")
                          : text(row->reasonKey);
-    for (const AdviceRow& each : advices)
+    for (const AdviceRow& each : kAdvices)
         if (report.reasonKey == QLatin1String(each.reasonKey))
             advice = each.adviceKey;
     if (report.problem)

@@ -27,8 +27,8 @@ namespace workbench {
 namespace {
 
 constexpr QSize sizeWithSettings(860, 420);
-constexpr int widthOfWords = 560;
-constexpr int roomAround = 140; // what stands above and below the table
+constexpr int kWidthOfWords = 560;
+constexpr int kRoomAround = 140; // what stands above and below the table
 
 } // namespace
 
@@ -41,7 +41,7 @@ WriteReportView::WriteReportView(HostSession& session, QWidget* parent)
     summary_->setWordWrap(true);
     summary_->setTextFormat(Qt::PlainText);
     summary_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    symbol_->setContentsMargins(0, (fontMetrics().height() - markSize) / 2, 0, 0);
+    symbol_->setContentsMargins(0, (fontMetrics().height() - kMarkSize) / 2, 0, 0);
     copy_->setIcon(lineIcon(QStringLiteral("copy")));
     copy_->setAutoRaise(true);
     texts_.bind([this] {
@@ -81,7 +81,7 @@ void WriteReportView::buildTable()
     dressTable(table_, TableUse::read);
     elideInTheMiddle(table_, WriteReportModel::Setting);
     elideInTheMiddle(table_, WriteReportModel::Key);
-    table_->setIconSize({markSize, markSize});
+    table_->setIconSize({kMarkSize, kMarkSize});
     // The name takes what the others leave.
     table_->horizontalHeader()->setSectionResizeMode(WriteReportModel::Setting, QHeaderView::Stretch);
     const int letter = fontMetrics().averageCharWidth();
@@ -152,7 +152,7 @@ void WriteReportView::showSummary()
     const Mark mark = report_.outcome == Outcome::confirmed ? (typed_.isEmpty() ? Mark::right : Mark::advice)
                       : report_.outcome == Outcome::cancelled ? Mark::advice
                                                               : Mark::invalid;
-    symbol_->setPixmap(markPixmap(mark, palette(), markSize, devicePixelRatioF()));
+    symbol_->setPixmap(markPixmap(mark, palette(), kMarkSize, devicePixelRatioF()));
     summary_->setText(summary(report_, typed_));
     time_->setText(timeOfDay(report_.time));
 }
@@ -189,8 +189,8 @@ void WriteReportView::showDialog(HostSession& session, const RoadReport& report,
     view->table_->setVisible(keys);
     resizeWithin(dialog,
                  keys ? QSize(sizeWithSettings.width(),
-                              qMin(sizeWithSettings.height(), roomAround + heightOfRows(*view->table_)))
-                      : QSize(widthOfWords, dialog->heightForWidth(widthOfWords)));
+                              qMin(sizeWithSettings.height(), kRoomAround + heightOfRows(*view->table_)))
+                      : QSize(kWidthOfWords, dialog->heightForWidth(kWidthOfWords)));
     dialog->open();
     close->setFocus();
 }

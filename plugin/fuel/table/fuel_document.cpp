@@ -70,7 +70,7 @@ std::optional<FuelRows> fuelTable(CXmlSection* root)
     if (!table)
         return rows;
     for (CXmlSectionPtr row(table->firstChild(kData)); row; row.reset(table->nextChild())) {
-        if (rows.size() == maxFuelRows)
+        if (rows.size() == kMaxFuelRows)
             return {};
         const auto text = [&row](const QString& key) {
             return withDecimalPoint(row->getString(key, QStringLiteral("0")));

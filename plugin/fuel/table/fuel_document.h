@@ -19,7 +19,7 @@ struct CXmlSection;
 
 namespace vlk {
 
-inline constexpr auto fuelRoot = "FUEL";
+inline constexpr auto kFuelRoot = "FUEL";
 
 // How many volumes the document keeps without their fraction.
 int cutVolumes(const FuelRows& rows);

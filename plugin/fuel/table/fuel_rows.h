@@ -31,7 +31,7 @@ struct FuelPoint
 using FuelPoints = std::vector<FuelPoint>;
 
 // A file or a clipboard with more rows holds no calibration, and is refused.
-inline constexpr std::size_t maxFuelRows = 20'000;
+inline constexpr std::size_t kMaxFuelRows = 20'000;
 
 // Every comma becomes a point.
 QString withDecimalPoint(QString text);

@@ -24,9 +24,9 @@ struct FuelLimit
     int decimals;
 };
 
-inline constexpr FuelLimit volumeLimit{5000, 1};
-inline constexpr FuelLimit voltsLimit{35, 2};
-inline constexpr FuelLimit codeLimit{65535, 0};
+inline constexpr FuelLimit kVolumeLimit{5000, 1};
+inline constexpr FuelLimit kVoltsLimit{35, 2};
+inline constexpr FuelLimit kCodeLimit{65535, 0};
 
 struct FuelKind
 {
@@ -40,7 +40,7 @@ struct FuelKind
     bool millivolts;   // what the tracker says is in millivolts, and is shown in volts
 };
 
-inline constexpr FuelKind fuelKinds[] = {
+inline constexpr FuelKind kFuelKinds[] = {
     {"cfgt6_042", "cfgt6_043", FuelKind::Editor::Decimal, 60, 2, true},
     {"cfgt6_044", "cfgt6_044", FuelKind::Editor::Integer, 80, 0, false},
     {"cfgt6_045", "cfgt6_045", FuelKind::Editor::Integer, 80, 0, false},
@@ -49,13 +49,13 @@ inline constexpr FuelKind fuelKinds[] = {
 
 constexpr const FuelKind& fuelKind(int kind)
 {
-    constexpr int last = static_cast<int>(std::size(fuelKinds)) - 1;
-    return fuelKinds[kind >= 0 && kind < last ? kind : last];
+    constexpr int last = static_cast<int>(std::size(kFuelKinds)) - 1;
+    return kFuelKinds[kind >= 0 && kind < last ? kind : last];
 }
 
 constexpr const FuelLimit& valueLimit(const FuelKind& kind)
 {
-    return kind.editor == FuelKind::Editor::Decimal ? voltsLimit : codeLimit;
+    return kind.editor == FuelKind::Editor::Decimal ? kVoltsLimit : kCodeLimit;
 }
 
 // A tab of the window: a tab widget of its own for the sensors of the group, or the one sensor itself.
@@ -68,7 +68,7 @@ struct FuelGroup
     const char* tabFormat; // of that title and the sensor's name
 };
 
-inline constexpr FuelGroup fuelGroups[] = {
+inline constexpr FuelGroup kFuelGroups[] = {
     {'A', "tmiw_121", "%1", "tmiw_122", "%1 %2"},
     {'R', nullptr, "", "tmiw_124", "%1 RS-232"},
     {'D', "tmiw_123", "%1 RS-485", "tmiw_124", "%1 RS-485 %2"},
@@ -83,21 +83,21 @@ struct FuelSensor
     bool fitted; // on this model
 };
 
-inline constexpr FuelSensor fuelSensors[] = {
+inline constexpr FuelSensor kFuelSensors[] = {
     {"A1", 0, 15, false}, {"A2", 0, 17, false}, {"A3", 0, 19, true},  {"R", 1, 22, false},
     {"D1", 1, 25, true},  {"D2", 1, 28, true},  {"D3", 1, 31, true},  {"D4", 1, 34, true},
     {"D5", 1, 37, true},  {"D6", 1, 40, true},  {"F1", 0, 11, false}, {"F2", 0, 13, false},
 };
 
-constexpr int fuelSensorCount = static_cast<int>(std::size(fuelSensors));
-constexpr int fuelGroupCount = static_cast<int>(std::size(fuelGroups));
+constexpr int kFuelSensorCount = static_cast<int>(std::size(kFuelSensors));
+constexpr int kFuelGroupCount = static_cast<int>(std::size(kFuelGroups));
 
 // Index of the group that a letter names, -1 for none.
 constexpr int fuelGroupOf(char letter)
 {
-    const auto* found = std::find_if(std::begin(fuelGroups), std::end(fuelGroups),
+    const auto* found = std::find_if(std::begin(kFuelGroups), std::end(kFuelGroups),
                                      [letter](const FuelGroup& group) { return group.letter == letter; });
-    return found == std::end(fuelGroups) ? -1 : static_cast<int>(found - std::begin(fuelGroups));
+    return found == std::end(kFuelGroups) ? -1 : static_cast<int>(found - std::begin(kFuelGroups));
 }
 
 } // namespace vlk

@@ -90,7 +90,7 @@ void forEachLine(const QString& text, Take take)
     for (int from = 0; from < text.size();) {
         const int end = text.indexOf(QLatin1Char('\n'), from);
         const int length = (end < 0 ? text.size() : end) - from;
-        QString line = text.mid(from, std::min(length, maxFuelLine));
+        QString line = text.mid(from, std::min(length, kMaxFuelLine));
         while (line.endsWith(QLatin1Char('\r')))
             line.chop(1);
         if (!take(line))
@@ -104,7 +104,7 @@ bool isValueFirst(const QString& line, const FuelCaptions& captions)
 {
     if (line.startsWith(captions.value))
         return true;
-    return std::any_of(std::begin(volumeHeadings), std::end(volumeHeadings),
+    return std::any_of(std::begin(kVolumeHeadings), std::end(kVolumeHeadings),
                        [&line](const QString& heading) { return line.indexOf(heading) > 0; });
 }
 
@@ -156,9 +156,9 @@ std::optional<FuelRows> readFuelCsv(const QByteArray& content)
         FuelRow row = rowOf(cellsOf(line), true);
         if (!row.value.isEmpty() || !row.volume.isEmpty())
             rows.push_back(std::move(row));
-        return rows.size() <= maxFuelRows;
+        return rows.size() <= kMaxFuelRows;
     });
-    if (rows.size() > maxFuelRows)
+    if (rows.size() > kMaxFuelRows)
         return {};
     return rows;
 }
@@ -187,13 +187,13 @@ PastedRows readFuelClipboard(const QString& text, const FuelCaptions& captions, 
             return true;
         }
         FuelRow row = rowOf(cells, valueFirst);
-        if (fit(row.volume, volumeLimit) && fit(row.value, valueLimit(kind)))
+        if (fit(row.volume, kVolumeLimit) && fit(row.value, valueLimit(kind)))
             pasted.rows.push_back(std::move(row));
         else
             ++pasted.leftOut;
         return true;
     });
-    if (pasted.rows.size() > maxFuelRows)
+    if (pasted.rows.size() > kMaxFuelRows)
         return {{}, static_cast<int>(pasted.rows.size()) + pasted.leftOut};
     return pasted;
 }

@@ -28,7 +28,7 @@ struct FuelCaptions
 };
 
 // Of a line no more than this is looked at. Characters.
-inline constexpr int maxFuelLine = 1024;
+inline constexpr int kMaxFuelLine = 1024;
 
 QByteArray fuelCsv(const FuelCaptions& captions, const FuelRows& rows);
 // The first line is dropped, whatever it says, and so are blank ones. None for what is no text or has more
@@ -49,6 +49,6 @@ struct PastedRows
 PastedRows readFuelClipboard(const QString& text, const FuelCaptions& captions, const FuelKind& kind);
 
 // The caption of the volume in each language of the texts.
-inline const QString volumeHeadings[] = {QStringLiteral("Volume, l"), QStringLiteral("Объём, л")};
+inline const QString kVolumeHeadings[] = {QStringLiteral("Volume, l"), QStringLiteral("Объём, л")};
 
 } // namespace vlk

@@ -47,7 +47,7 @@ bool keepTable(const QString& path, const QString& sensor, const QString& vehicl
                const FuelRows& rows, const QDateTime& time)
 {
     QDir().mkpath(QFileInfo(path).path()); // the user may have removed it
-    XmlDocument document(QString{}, QLatin1String(fuelRoot));
+    XmlDocument document(QString{}, QLatin1String(kFuelRoot));
     document.root()->setString(kTime, time.toString(Qt::ISODate));
     document.root()->setChildValue(kVehicleName, vehicle);
     putKeptTable(document.root(), sensor, name, rows);
@@ -60,7 +60,7 @@ std::vector<KeptTable> keptTables(const QString& folder)
     const QDir kept(keptFolder(folder));
     for (const QString& file : kept.entryList({QStringLiteral("*.xml")}, QDir::Files)) {
         const QString path = kept.filePath(file);
-        XmlDocument document(path, QLatin1String(fuelRoot));
+        XmlDocument document(path, QLatin1String(kFuelRoot));
         const QString sensor = document.root()->getString(QStringLiteral("type"));
         const QDateTime time = QDateTime::fromString(document.root()->getString(kTime), Qt::ISODate);
         if (!sensor.isEmpty() && time.isValid())

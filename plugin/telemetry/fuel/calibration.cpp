@@ -25,9 +25,9 @@ std::optional<Calibration> calibrationIn(const QByteArray& content, const QStrin
         return rows ? std::optional(Calibration{sensorOfName(path), {}, *std::move(rows)}) : std::nullopt;
     }
     // A document with another root opens too.
-    if (!content.contains(QByteArray("<") + fuelRoot))
+    if (!content.contains(QByteArray("<") + kFuelRoot))
         return {};
-    XmlDocument document(content, QLatin1String(fuelRoot));
+    XmlDocument document(content, QLatin1String(kFuelRoot));
     std::optional<FuelRows> rows = document.isOpen() ? fuelTable(document.root()) : std::nullopt;
     if (!rows)
         return {};

@@ -88,7 +88,7 @@ void VLK_Widget_Tmi_View::open(const QString& configurationPath)
     stopRequests();
     readTrackerSetup(configurationPath, setup_);
     if (vlkDevice != nullptr)
-        qstrncpy(vlkDevice->balanceUssd(), setup_.balanceUssd.toLocal8Bit().constData(), balanceUssdSize);
+        qstrncpy(vlkDevice->balanceUssd(), setup_.balanceUssd.toLocal8Bit().constData(), kBalanceUssdSize);
     pages_.setTracker(setup_.titles, vlkDevice != nullptr ? vlkDevice->capabilityMask() : 0);
 
     save_.clearProgress();

@@ -9,6 +9,6 @@ namespace workbench::command {
 
 // Fills nothing where it could not be made. Makes an application for fonts, so that there must be none.
 using ReportPdf = void (*)(const QString& html, QByteArray* pdf, int& argc, char** argv);
-inline constexpr auto reportPdfName = "r7106ReportPdf";
+inline constexpr auto kReportPdfName = "r7106ReportPdf";
 
 } // namespace workbench::command
