@@ -246,6 +246,12 @@ QColor markColor(Mark mark, const QPalette& palette)
     return QColor(isDark ? 0xff9d94 : 0xb3261e);
 }
 
+QPalette withInvalidText(QPalette palette)
+{
+    palette.setColor(QPalette::WindowText, markColor(Mark::invalid, palette));
+    return palette;
+}
+
 void paintMark(QPainter& painter, Mark mark, const QPalette& palette)
 {
     painter.setRenderHint(QPainter::Antialiasing);

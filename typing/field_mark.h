@@ -29,6 +29,8 @@ void markField(QWidget* field, MarkReason reason, Mark mark, const QString& text
 // For marks that stand elsewhere: the colour, and the shape at the painter's origin.
 inline constexpr int kMarkSize = 10;
 QColor markColor(Mark mark, const QPalette& palette);
+// For words that say what is wrong (kept_palette.h).
+QPalette withInvalidText(QPalette palette);
 void paintMark(QPainter& painter, Mark mark, const QPalette& palette);
 // Of that many pixels, for a screen of that ratio.
 QPixmap markPixmap(Mark mark, const QPalette& palette, int side, qreal ratio);

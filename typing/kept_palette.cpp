@@ -17,8 +17,10 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::ApplicationPaletteChange)
-            set(static_cast<QWidget*>(watched));
+        auto* widget = static_cast<QWidget*>(watched);
+        // Of the application only windows are told.
+        if (event->type() == (widget->isWindow() ? QEvent::ApplicationPaletteChange : QEvent::PaletteChange))
+            set(widget);
         return QObject::eventFilter(watched, event);
     }
 

@@ -8,6 +8,8 @@
 #include "fuel/question.h"
 #include "fuel/table/fuel_sensors.h"
 #include "typing/empty_note.h"
+#include "typing/field_mark.h"
+#include "typing/kept_palette.h"
 #include "typing/present_value.h"
 
 #include <QAction>
@@ -33,9 +35,7 @@ VLK_Form_Fuel_Sensor::VLK_Form_Fuel_Sensor(int kind, const QString& name, const 
     ui_->pushButton_Add->setIcon(addIcon);
     vlk::takeNumbers(ui_->lineEdit_Volume, kTopAddedVolume, 1);
     vlk::takeNumbers(ui_->lineEdit_Param, kTopAddedValue, 0);
-    QPalette alarm = ui_->label_Falling->palette();
-    alarm.setColor(QPalette::WindowText, Qt::red);
-    ui_->label_Falling->setPalette(alarm);
+    vlk::keepPalette(ui_->label_Falling, vlk::withInvalidText);
     setParamEditable(false);
     setFocusProxy(ui_->lineEdit_Volume);
     for (QLineEdit* line : {ui_->lineEdit_Name, ui_->lineEdit_Volume, ui_->lineEdit_Param})

@@ -231,6 +231,15 @@ private Q_SLOTS:
     {
         form()->addRows({{"0", "0"}, {"10", "50"}, {"20", "40"}, {"30", "100"}});
         QVERIFY(text("label_Falling").startsWith("cfgt6_403"));
+        // In colours of the window, dark ones too.
+        const auto isLight = [this] {
+            return child("label_Falling")->palette().color(QPalette::WindowText).lightness() > 160;
+        };
+        QVERIFY(!isLight());
+        QApplication::setPalette(QPalette(Qt::white, Qt::black));
+        const bool wasLight = isLight();
+        QApplication::setPalette(QPalette());
+        QVERIFY(wasLight);
         const QPoint last(80 + (graph_->width() - 120) / 10 * 10,
                           graph_->height() - 50 - (graph_->height() - 90) / 10 * 10);
         QTest::mouseMove(graph_, last + QPoint(-4, 4));

@@ -116,7 +116,7 @@ private Q_SLOTS:
             serverTest.setModal(true);
             serverTest.setGeometry(0, 40, 200, 100);
             serverTest.show();
-            QTest::qWait(workbench::AnswerWatch::noticeMs + 100);
+            QTest::qWait(workbench::AnswerWatch::kNoticeMs + 100);
             QVERIFY(!visibleFaults());
         }
         ask();

@@ -5,6 +5,8 @@
 #include "telemetry/view/item_display.h"
 #include "telemetry/view/value_label.h"
 #include "telemetry/view/value_rows.h"
+#include "typing/field_mark.h"
+#include "typing/kept_palette.h"
 #include "typing/title_style.h"
 
 #include <QGridLayout>
@@ -65,9 +67,7 @@ EventPanel::EventPanel(QWidget* parent)
     grid->setColumnMinimumWidth(3, widthOfTime(time_));
 
     since_->setForegroundRole(QPalette::PlaceholderText);
-    QPalette alarming = alarm_->palette();
-    alarming.setColor(QPalette::WindowText, Qt::red);
-    alarm_->setPalette(alarming);
+    keepPalette(alarm_, withInvalidText);
     retranslate();
 }
 
