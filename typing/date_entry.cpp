@@ -52,7 +52,14 @@ QDateTime DateEntry::momentOf(const QString& typed) const
         if (QDateTime read = moment(format); read.isValid())
             return read;
     }
-    for (const QString& format : {shown.section(QLatin1Char(' '), 0, 0), QStringLiteral("yyyy-MM-dd")}) {
+    // Figures alone, as the keypad gives them.
+    QString figures = edit_->displayFormat().remove(QRegularExpression(QStringLiteral("[^A-Za-z]")));
+    for (; figures.size() > 8; figures.chop(2)) {
+        if (QDateTime read = moment(figures); text.size() == figures.size() && read.isValid())
+            return read;
+    }
+    for (const QString& format :
+         {shown.section(QLatin1Char(' '), 0, 0), figures, QStringLiteral("yyyy-MM-dd")}) {
         if (QDateTime read = moment(format); read.isValid()) {
             read.setTime(edit_->time());
             return read;

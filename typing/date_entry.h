@@ -2,7 +2,7 @@
 
 // Typing a moment into a QDateTimeEdit of figures alone, over all of it or section by section. The line is
 // read as a whole when typing ends: as the box shows its moments, without seconds, without the time (which
-// stays), or in the form of ISO 8601. A paste ends typing at once.
+// stays), either of figures alone too, or in the form of ISO 8601. A paste ends typing at once.
 
 #include "typing/typed_entry.h"
 

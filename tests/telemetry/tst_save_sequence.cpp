@@ -128,6 +128,21 @@ private Q_SLOTS:
         QVERIFY(isIdle() && asked_.isEmpty());
     }
 
+    // A period that is another one than was typed is not read for minutes without a word.
+    void notTaken()
+    {
+        auto* first = child<QDateTimeEdit>("dateTimeEdit_First");
+        first->setFocus();
+        first->selectAll();
+        QTest::keyClicks(first, "31.02.2026");
+        press("pushButton_SaveToFile");
+        QVERIFY(times_.isEmpty() && first->window()->focusWidget() == first);
+        QVERIFY(child<QLabel>("label_SavedInPart")->text().startsWith("typed_date"));
+        startSave(7, 8);
+        QCOMPARE(times_.size(), 2);
+        QVERIFY(child<QLabel>("label_SavedInPart")->text() != "typed_date");
+    }
+
     // The editors show the zone, the host is asked in UTC; each button has its filter and its form.
     void boundsAndForms()
     {

@@ -24,7 +24,7 @@ using namespace vlk;
 namespace {
 
 constexpr int kFirstProductionMode = 1;
-enum NoticeNumber { kSavedInPart, kNoServer, kSaved };
+enum NoticeNumber { kSavedInPart, kNoServer, kSaved, kNotTaken };
 
 std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_View> setUpViewUi(QDialog* window)
 {
@@ -191,6 +191,14 @@ void VLK_Widget_Tmi_View::tellNoServer(bool isNone)
         notices_->end(kNoServer);
 }
 
+void VLK_Widget_Tmi_View::tellNotTaken(const QString& news)
+{
+    if (news.isEmpty())
+        notices_->end(kNotTaken);
+    else
+        notices_->tell(kNotTaken, [news] { return Notice{Mark::invalid, news, {}}; });
+}
+
 void VLK_Widget_Tmi_View::deviceDisconnected()
 {
     const QScopedValueRollback going(isDetached_, true);
@@ -303,6 +311,7 @@ void VLK_Widget_Tmi_View::setGuardButtons(int operatingMode)
 void VLK_Widget_Tmi_View::retranslate()
 {
     setLocale(QLocale());
+    tellNotTaken({});
     setControlTexts(*ui_);
     setToolTips(*ui_, blockedBy_);
     pages_.setCommandsBlocked(blockedBy_);

@@ -124,6 +124,8 @@ private:
     void tellNoServer(bool isNone);
     void stopRequests();
     void startSave(vlk::SaveSequence::Mode mode);
+    bool tookPeriod();
+    void tellNotTaken(const QString& news);
     // For a record that was asked for by hand.
     void lookAtRecords();
     // Asks for a record by number; a walking button that is held down waits for each answer.

@@ -70,6 +70,8 @@ void VLK_Widget_Tmi_View::connectControls()
     joinFields(this);
     connect(ui_->spinBox_TimeOffset, qOverload<int>(&QSpinBox::valueChanged), this,
             &View::slot_valueChanged_TimeOffset);
+    for (const QDateTimeEdit* field : {ui_->dateTimeEdit_First, ui_->dateTimeEdit_Last})
+        connect(field, &QDateTimeEdit::dateTimeChanged, this, [this] { tellNotTaken({}); });
     connect(ui_->checkBox_Get_Auto_TMI, &QCheckBox::stateChanged, this, &View::slot_stateChanged_GetAutoTmi);
     connect(ui_->horizontalSlider_Auto_Tmi, &QSlider::valueChanged, this,
             &View::slot_valueChanged_horizontalSlider_Auto_Tmi);
@@ -176,10 +178,28 @@ void VLK_Widget_Tmi_View::slot_pressed_SaveCancel()
     save_.cancel();
 }
 
+// False once where the fields show other times than were typed: five minutes of reading want the right ones.
+bool VLK_Widget_Tmi_View::tookPeriod()
+{
+    QStringList news;
+    for (QDateTimeEdit* field : {ui_->dateTimeEdit_Last, ui_->dateTimeEdit_First}) {
+        const QString told = TypedEntry::of(field)->takeNews();
+        if (told.isEmpty())
+            continue;
+        news.prepend(told);
+        field->setFocus();
+        field->selectAll();
+    }
+    tellNotTaken(news.join(QLatin1Char(' ')));
+    return news.isEmpty();
+}
+
 // What the file tells of the tracker is taken now, since a detached one tells nothing any more.
 void VLK_Widget_Tmi_View::startSave(vlk::SaveSequence::Mode mode)
 {
     TypedEntry::finishIn(this);
+    if (!tookPeriod())
+        return;
     TelemetryOrigin origin;
     if (vlkDevice != nullptr)
         origin = {vlkDevice->model(), vlkDevice->vendor(), vlkDevice->trackerId1(), 0, {}};
