@@ -1917,6 +1917,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_290"><translation>No answer since %1</translation></message>
     <message id="tmiw_291"><translation>Pour a known volume, type it above and press +. Points can be pasted too.</translation></message>
     <message id="tmiw_292"><translation>Telemetry was closed, so no live values come. Attach the tracker and open telemetry to go on.</translation></message>
+    <message id="tmiw_293"><translation>earlier</translation></message>
+    <message id="tmiw_294"><translation>The file that was there before is kept as &quot;%1&quot;.</translation></message>
     <message id="tmizta_001"><translation>Test mode</translation></message>
     <message id="tmizta_002"><translation>Backup</translation></message>
     <message id="tmizta_003"><translation>Main</translation></message>

@@ -1917,6 +1917,8 @@
     <message id="tmiw_290"><translation>Нет ответа с %1</translation></message>
     <message id="tmiw_291"><translation>Налейте известный объём, введите его выше и нажмите +. Точки можно и вставить.</translation></message>
     <message id="tmiw_292"><translation>Телеметрия закрыта, поэтому показаний нет. Подключите трекер и откройте телеметрию, чтобы продолжить.</translation></message>
+    <message id="tmiw_293"><translation>прежний</translation></message>
+    <message id="tmiw_294"><translation>Прежний файл сохранён под именем «%1».</translation></message>
     <message id="tmizta_001"><translation>Режим тестирования</translation></message>
     <message id="tmizta_002"><translation>Резервный</translation></message>
     <message id="tmizta_003"><translation>Основной</translation></message>

@@ -30,6 +30,7 @@ struct Told
     quint32 code = 2;
     bool ignition = true;
     double longitude = 30;
+    quint64 missing = 0; // records before it
 };
 
 RecordStore storeOf(const std::vector<Told>& records)
@@ -37,7 +38,7 @@ RecordStore storeOf(const std::vector<Told>& records)
     RecordStore store;
     quint64 number = 0;
     for (const Told& told : records) {
-        const RecordParts parts{{"NumPage", ++number},
+        const RecordParts parts{{"NumPage", number += 1 + told.missing},
                                 {"Code", told.code},
                                 {"Time", kStart + told.second},
                                 {"StateNGauge", 3},
@@ -291,6 +292,19 @@ private Q_SLOTS:
         QCOMPARE(days[0].records + days[1].records, sum.records);
         QCOMPARE(days[0].records, 34);
         QCOMPARE(journey.summary(0, 1).records, 0);
+    }
+
+    // A straight line over records that are missing is no way, one over a time without records is the least.
+    void wayOverAGap()
+    {
+        for (const quint64 missing : {0, 100}) {
+            const RecordStore store =
+                storeOf({{0, 9, 60}, {60, 9, 60, 2, true, 30.01}, {9000, 9, 60, 2, true, 31, missing}});
+            RecordColumns columns(store);
+            const JourneySummary sum = Journey(columns, {}, {}).summary(0, 4e9);
+            QCOMPARE(sum.missing, qint64(missing));
+            QVERIFY(std::isnan(sum.metres) || (sum.metres < 600) == (missing > 0));
+        }
     }
 
     void remembersByVehicle()

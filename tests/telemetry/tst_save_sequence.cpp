@@ -212,6 +212,20 @@ private Q_SLOTS:
         QCOMPARE(table->model()->rowCount(), 2);
     }
 
+    // Five minutes that were read whole are not lost to a part of them.
+    void partKeepsTheFileBefore()
+    {
+        startSave(7, 8);
+        const QByteArray whole = readFile(file_);
+        startSave(7, 20);
+        send(Message::RecordByNumber, 8);
+        press("pushButton_Save_Cancel");
+        send(Message::RecordByNumber, 9);
+        QCOMPARE(readFile(folder.filePath("period (tmiw_293).xml")), whole);
+        QCOMPARE(saved(), (Numbers{7, 8, 20}));
+        QVERIFY(text("label_SavedInPart").contains("tmiw_294"));
+    }
+
     // A key that is pressed once too often switches nothing on; afterwards the focus is where it was.
     void focusWhileSaving()
     {
@@ -221,11 +235,14 @@ private Q_SLOTS:
         giveName(file_);
         QTest::keyClick(button, Qt::Key_Space);
         QTest::keyClick(window->focusWidget(), Qt::Key_Space);
-        QVERIFY(!isIdle() && !child<QCheckBox>("checkBox_Get_Auto_TMI")->isChecked());
+        const auto* automatic = child<QCheckBox>("checkBox_Get_Auto_TMI");
+        QVERIFY(!isIdle() && !automatic->isChecked() && !automatic->isEnabled());
+        QCOMPARE(automatic->toolTip(), QString("tmiw_176"));
         send(Message::RecordOfPeriod, 7, 13);
         send(Message::RecordByTime, 9, 13);
         QCOMPARE(window->focusWidget(), child<QWidget>("pushButton_Save_Cancel"));
         send(Message::RecordByNumber, 8);
+        QVERIFY(automatic->isEnabled() && automatic->toolTip().isEmpty());
         QCOMPARE(window->focusWidget(), button);
     }
 

@@ -560,6 +560,16 @@ private Q_SLOTS:
     }
 
     // A place that was kept on a larger screen.
+    // A window that stays would keep the program without one to work in.
+    void takesAllWindowsAlong()
+    {
+        Bench bench;
+        QWidget other;
+        other.show();
+        QVERIFY(bench.window.close());
+        QVERIFY(other.isHidden());
+    }
+
     void comesUpOnTheScreen_data()
     {
         DataTable<QRect>({"kept"})

@@ -226,6 +226,10 @@ void HistoryWindow::chooseOther(int index)
     if (other_->itemData(index).toInt() == AFile) {
         const QString chosen = QFileDialog::getOpenFileName(
             this, text("wb_open_caption"), settings_.configurationFolder(), text("wb_history_file_filter"));
+        if (chosen.isEmpty() && file_.isEmpty()) {
+            other_->setCurrentIndex(other_->findData(compared_.other));
+            return;
+        }
         if (!chosen.isEmpty())
             file_ = chosen;
         other_->setItemText(index, file_.isEmpty() ? text("wb_history_file") : QFileInfo(file_).fileName());
@@ -257,7 +261,11 @@ void HistoryWindow::compare()
     const std::optional<QByteArray> before = backup == 0 ? std::nullopt : other();
     if (before)
         changes = session_.comparer().compare(*before, session_.backups().document(backup));
-    model_.setChanges(changes.value_or(SettingChanges()));
+    // What was chosen stays while the same two are looked at.
+    const Sides sides{backup, other_->currentIndex() < 0 ? 0 : other_->currentData().toInt(), file_};
+    const QStringList chosen = sides == compared_ ? model_.chosen() : QStringList();
+    compared_ = sides;
+    model_.setChanges(changes.value_or(SettingChanges()), chosen);
     model_.retranslate();
     fitValues(*table_);
     empty_->tell(backup == 0 || other_->currentIndex() < 0 ? text("wb_history_alone")

@@ -37,6 +37,16 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    // What is compared.
+    struct Sides
+    {
+        int backup = 0;
+        int other = 0; // as in the list of others; 0 for none
+        QString file;
+
+        bool operator==(const Sides&) const = default;
+    };
+
     QWidget* buildDifferences();
     QWidget* buildButtons();
     QPushButton* addButton(QLayout* line, const char* name, const char* key, void (HistoryWindow::*act)());
@@ -70,6 +80,7 @@ private:
     QPushButton* chosen_ = nullptr;
     QPushButton* whole_ = nullptr;
     QString file_; // that was chosen to compare with
+    Sides compared_;
 };
 
 } // namespace workbench

@@ -46,11 +46,11 @@ SettingChangeModel::SettingChangeModel(Heads heads, bool canBeChosen, QObject* p
 {
 }
 
-void SettingChangeModel::setChanges(const SettingChanges& changes)
+void SettingChangeModel::setChanges(const SettingChanges& changes, const QStringList& chosen)
 {
     beginResetModel();
     changes_ = changes;
-    chosen_.clear();
+    chosen_ = {chosen.begin(), chosen.end()};
     endResetModel();
 }
 

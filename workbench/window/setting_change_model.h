@@ -32,7 +32,7 @@ public:
 
     SettingChangeModel(Heads heads, bool canBeChosen, QObject* parent = nullptr);
 
-    void setChanges(const SettingChanges& changes);
+    void setChanges(const SettingChanges& changes, const QStringList& chosen = {});
     const SettingChanges& changes() const { return changes_; }
     QStringList chosen() const;
     void retranslate();

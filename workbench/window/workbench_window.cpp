@@ -407,6 +407,11 @@ void WorkbenchWindow::closeEvent(QCloseEvent* event)
     settings_.setLayout(objectName(), saveGeometry());
     settings_.setLayout(splitter_->objectName(), splitter_->saveState());
     session_.link().send(vlk::Message::CloseWindows);
+    // One that stays would keep the program, and with it the folder of data, for nobody.
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window != this && window->isVisible())
+            window->close();
+    }
     event->accept();
 }
 

@@ -64,7 +64,9 @@ void Journey::measureWay(RecordColumns& columns, const std::vector<int>& records
         if (before >= 0) {
             const Stretch& last = stretches_[before];
             const bool isGap = isGapBetween(last.time, stretches_[i].time);
-            if (isGap || last.speed >= kMovesFrom || stretches_[i].speed >= kMovesFrom)
+            // Where records are missing nobody knows the way, but that it is not the straight one.
+            const bool isKnown = !isGap || stretches_[i].number - last.number == i - before;
+            if (isKnown && (isGap || last.speed >= kMovesFrom || stretches_[i].speed >= kMovesFrom))
                 stretches_[before].metres =
                     static_cast<float>(metresBetween(points[pointOf[records[before]]], points[point]));
         }

@@ -13,7 +13,8 @@ struct JourneySummary
     double until = 0;
     int records = 0;
     double metres = 0; // NaN where geodesics cannot be had
-    // Seconds. What lies in a gap counts nowhere, but for a vehicle that stands before and after it.
+    // Seconds. What lies in a gap counts nowhere, but for a vehicle that stands before and after it. The way
+    // over a gap is the straight one, and none where its records are missing.
     double moving = 0;
     double standing = 0;
     double engine = 0; // ignition on

@@ -12,6 +12,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QMessageBox>
 #include <QPushButton>
@@ -55,6 +56,23 @@ std::optional<qint64> numberOf(const QByteArray& record)
     if (record.size() < at + qsizetype{sizeof(quint32)})
         return {};
     return qFromLittleEndian<quint32>(record.constData() + at);
+}
+
+// A file under this name goes on under another one: "week (earlier).xml".
+QString keptEarlier(const QString& path)
+{
+    constexpr int most = 1000;
+    const QFileInfo info(path);
+    for (int number = 1; info.exists() && number < most; ++number) {
+        QString mark = translated("tmiw_293");
+        if (number > 1)
+            mark += QLatin1Char(' ') + QString::number(number);
+        const QString kept = info.dir().filePath(
+            QStringLiteral("%1 (%2).%3").arg(info.completeBaseName(), mark, info.suffix()));
+        if (QFile::rename(path, kept))
+            return kept;
+    }
+    return {};
 }
 
 } // namespace
@@ -246,7 +264,7 @@ std::size_t SaveSequence::end()
     const RecordBytes records = std::exchange(records_, {});
     const bool isChosen = std::exchange(fileChosen_, false);
     const auto period = std::make_shared<TelemetryContents>(periodOf(records, origin_));
-    const bool isSaved = isChosen && write(period->records);
+    const bool isSaved = isChosen && write(period->records, isPart);
     saveState_ = Idle;
     // Before the button goes, which may have the focus.
     Q_EMIT runningChanged(false);
@@ -262,11 +280,15 @@ std::size_t SaveSequence::end()
 }
 
 // What came is worth a second name.
-bool SaveSequence::write(const RecordStore& records)
+bool SaveSequence::write(const RecordStore& records, bool isPart)
 {
     const auto writeOnce = [&] {
-        return saveTelemetryFile(saveFileName_, kindOf(saveMode_).form, records, origin_,
-                                 &requests::eventText);
+        earlier_ = isPart ? keptEarlier(saveFileName_) : QString();
+        const bool isWritten =
+            saveTelemetryFile(saveFileName_, kindOf(saveMode_).form, records, origin_, &requests::eventText);
+        if (!isWritten && !earlier_.isEmpty())
+            QFile::rename(earlier_, saveFileName_);
+        return isWritten;
     };
     if (writeOnce())
         return true;
@@ -279,7 +301,7 @@ void SaveSequence::tellPart(const RecordBytes& records)
     const QByteArray& latest = records.end()[-2];
     const quint32 time = timeOf(TmiPage_Zeta3(latest.constData(), latest.size()));
     const PartOfPeriod part{saveFileName_, records.size(), std::size_t{saveTotal_} + 1,
-                            zonedTimeText(time, origin_.timeOffset)};
+                            zonedTimeText(time, origin_.timeOffset), earlier_};
     qCWarning(lcPart).noquote().nospace()
         << part.path << ": " << part.records << " of " << part.all << " records, until " << part.until;
     Q_EMIT savedInPart(part);

@@ -10,7 +10,7 @@
 // file is written with what was collected, and it is told how much of the period that is. A name that no file
 // can be written under is refused as soon as it is given. When the writing fails all the same, the name is
 // asked for once more; that the file could not be written then stands in the progress area until the user
-// goes on.
+// goes on. A whole period alone replaces a file that was there: from a part it is kept beside it.
 
 #include "link/messages.h"
 #include "telemetry/view/period_file.h"
@@ -33,7 +33,8 @@ struct PartOfPeriod
     QString path;
     std::size_t records;
     std::size_t all;
-    QString until; // the time of the last record of the beginning, in the zone of the file
+    QString until;   // the time of the last record of the beginning, in the zone of the file
+    QString earlier; // the path under which a file that was there is kept; empty without one
 };
 
 class SaveSequence : public QObject
@@ -85,7 +86,7 @@ private:
     void takeLast(const QByteArray& record);
     void takeNext(const QByteArray& record);
     bool chooseFile();
-    bool write(const vlk::RecordStore& records);
+    bool write(const vlk::RecordStore& records, bool isPart);
     // Each gives how many records the file got.
     std::size_t carryOutCancel();
     std::size_t end();
@@ -103,6 +104,7 @@ private:
     State saveState_ = Idle;
     QString proposedName_;
     QString saveFileName_;
+    QString earlier_; // see PartOfPeriod
     QPointer<QFileDialog> fileDialog_;
     QDateTime saveStart_;
     QDateTime periodEnd_;

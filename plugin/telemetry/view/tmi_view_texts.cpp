@@ -73,6 +73,7 @@ void setToolTips(const Ui::VLK_Designer_Widget_Tmi_View& ui, const char* reasonK
     const QString reason = reasonKey != nullptr ? vlk::translated(reasonKey) : QString();
     for (QWidget* control : manualControls(ui))
         control->setToolTip(reason);
+    ui.checkBox_Get_Auto_TMI->setToolTip(ui.checkBox_Get_Auto_TMI->isEnabled() ? QString() : reason);
     // Without a tool tip of its own a control shows that of its group.
     for (const auto& [widget, key] : tips)
         widget->setToolTip(widget->isEnabled() ? vlk::translated(key) : QString());

@@ -141,6 +141,8 @@ void VLK_Widget_Tmi_View::setManualBlocked(const char* reasonKey)
 void VLK_Widget_Tmi_View::showSaving(bool running)
 {
     QWidget* focused = focusWidget();
+    // They would end it.
+    ui_->checkBox_Get_Auto_TMI->setEnabled(!running);
     setManualBlocked(running ? "tmiw_176" : nullptr);
     if (running) {
         notices_->end(kSavedInPart);
@@ -171,10 +173,11 @@ void VLK_Widget_Tmi_View::showPart(const vlk::PartOfPeriod& part)
 {
     const auto text = [part, isDetached = isDetached_] {
         const QLocale locale;
-        const QString held =
-            tr("tmiw_186")
-                .arg(locale.toString(quint64(part.records)), locale.toString(quint64(part.all)), part.until,
-                     QDir::toNativeSeparators(part.path));
+        QString held = tr("tmiw_186")
+                           .arg(locale.toString(quint64(part.records)), locale.toString(quint64(part.all)),
+                                part.until, QDir::toNativeSeparators(part.path));
+        if (!part.earlier.isEmpty())
+            held += QLatin1Char(' ') + tr("tmiw_294").arg(QFileInfo(part.earlier).fileName());
         return isDetached ? tr("tmiw_266") + QLatin1Char(' ') + held : held;
     };
     notices_->end(kSaved);
