@@ -1,11 +1,9 @@
 #include "review/edit_file.h"
 
 #include "review/key_text.h"
+#include "review/settable.h"
 #include "settings/all_settings.h"
 #include "xml/xml_document.h"
-#include "xml/xml_text.h"
-
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <optional>
@@ -25,19 +23,6 @@ int rowOf(const Configuration& configuration, int key)
     return found == place.rows.end() ? -1 : *found;
 }
 
-// What a window's line edit would not let anybody type, or a file would not bring back.
-bool canBeTyped(const Setting& setting, const QString& text)
-{
-    if (sectionText(text) != text || decodeValue(text) != text)
-        return false;
-    const auto* line = setting.as<Text>();
-    if (!line || !line->pattern)
-        return true;
-    const auto match = QRegularExpression(QRegularExpression::anchoredPattern(QLatin1String(line->pattern)))
-                           .match(text, 0, QRegularExpression::PartialPreferCompleteMatch);
-    return match.hasMatch() || match.hasPartialMatch();
-}
-
 // Gives the value that the file has to hold then; none with a problem.
 std::optional<QString> edit(Configuration* configuration, int key, const KeyEdit& edit,
                             PresetProblem* problem)
@@ -49,11 +34,11 @@ std::optional<QString> edit(Configuration* configuration, int key, const KeyEdit
     }
     Values& values = configuration->tables()[FileKeys::all()[key].table];
     const int holder = values.holder(row);
-    const Taken taken =
-        takenAs(values.setting(holder), {edit.value, values.value(holder), values.limits(holder)});
-    if (!isWhole(taken.change) || !canBeTyped(values.setting(holder), edit.value)) {
+    const Limits limits = values.limits(holder);
+    const Taken taken = takenAs(values.setting(holder), {edit.value, values.value(holder), limits});
+    if (!isWhole(taken.change) || !isSettable(values.setting(holder), edit.value)) {
         *problem = {What::badValue, edit.path, edit.value,
-                    isWhole(taken.change) ? Change::unknownCode : taken.change};
+                    isWhole(taken.change) ? Change::unknownCode : taken.change, limits};
         return std::nullopt;
     }
     values.edit(row, taken.value);

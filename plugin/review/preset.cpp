@@ -2,6 +2,7 @@
 
 #include "base/translated.h"
 #include "review/document_walk.h"
+#include "review/settable.h"
 #include "review/setting_parts.h"
 #include "xml/serialize.h"
 #include "xml/xml_document.h"
@@ -136,12 +137,19 @@ AppliedPreset applied(CXmlSection& preset, const Configuration& configuration)
     Texts texts = textsOf(preset, &applied.problems);
     const FileState tried = stateWith(texts, configuration, &applied.result);
     const auto isUnfit = [&](const auto& entry) {
+        const FileKey& place = FileKeys::all()[entry.first];
         const Held& held = tried.at(entry.first);
-        const bool isUnfit = !held.isSaved || !(held.saved == held.meaning);
-        if (isUnfit)
+        const Values& values = applied.result.tables()[place.table];
+        const int holder = values.holder(held.row < 0 ? place.rows.front() : held.row);
+        const bool isLost = !held.isSaved || !(held.saved == held.meaning);
+        const bool isSettable = review::isSettable(values.setting(holder), entry.second);
+        if (isLost)
             applied.problems.push_back({held.isSaved || !held.isWhole ? What::badValue : What::noPlace,
-                                        FileKeys::all()[entry.first].path, entry.second, held.change});
-        return isUnfit;
+                                        place.path, entry.second, held.change, values.limits(holder)});
+        else if (!isSettable)
+            applied.problems.push_back(
+                {What::badValue, place.path, entry.second, Change::unknownCode, values.limits(holder)});
+        return isLost || !isSettable;
     };
     texts.erase(std::remove_if(texts.begin(), texts.end(), isUnfit), texts.end());
     stateWith(texts, configuration, &applied.result);

@@ -38,7 +38,7 @@ struct PresetProblem
     enum class What {
         unknownKey,
         doubled,
-        badValue, // a load would make something else of it: `change`
+        badValue, // a load would make something else of it, or a window not take it: `change`
         noPlace,  // neither the configuration nor the preset has what it belongs to
     };
 
@@ -46,6 +46,7 @@ struct PresetProblem
     QString path;
     QString text;
     Change change = Change::none;
+    Limits limits{}; // of a bad value: what it can be
 };
 
 // In words: what the preset holds stands before, why it is left out is the note.

@@ -69,6 +69,9 @@ private Q_SLOTS:
                  "<TRACK><POINTS angle=\"900\" angleMode=\"9\" dist=\"far\" maxSpeed=\"70\"/></TRACK>",
                  "TRACK/POINTS/maxSpeed=70",
                  "2 TRACK/POINTS/angle 2 TRACK/POINTS/angleMode 2 TRACK/POINTS/dist")
+            .row("what a window would not take",
+                 "<TRANS><SRV1 addr=\"a b\"/></TRANS><TRACK><POINTS useDist=\"7\"/></TRACK>", "",
+                 "2 TRANS/SRV1/addr 2 TRACK/POINTS/useDist")
             .row("nothing", "", "", "");
     }
     void applied()

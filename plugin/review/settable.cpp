@@ -1,0 +1,95 @@
+#include "review/settable.h"
+
+#include "base/masked_text.h"
+#include "base/number_text.h"
+#include "xml/xml_text.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace vlk::review {
+
+namespace {
+
+// One function a kind whose loads take more than its windows do.
+bool isProper(const auto&, const QString&)
+{
+    return true;
+}
+
+bool isProper(const Flag& row, const QString& text)
+{
+    const int number = leadingInt(text);
+    return isWholeNumber(text) && (number == 0 || number == row.on);
+}
+
+bool isProper(const Choice& row, const QString& text)
+{
+    const auto isPlain = [](QChar sign) { return sign == QLatin1Char('0') || sign == QLatin1Char('1'); };
+    const Code* code = codeOf(row, text);
+    if (code && code->pattern)
+        return text.size() == QLatin1String(code->pattern).size() && std::ranges::all_of(text, isPlain);
+    return !row.numeric || isWholeNumber(text);
+}
+
+bool isProper(const Digits& row, const QString& text)
+{
+    if (text.size() != static_cast<int>(row.positions.size()))
+        return false;
+    return std::ranges::equal(text, row.positions, [](QChar sign, const Position& position) {
+        return sign >= QLatin1Char('0') && sign <= QLatin1Char(static_cast<char>('0' + position.top));
+    });
+}
+
+bool isProper(const Mask& row, const QString& text)
+{
+    return text.size() == row.length && std::ranges::all_of(text, [](QChar sign) {
+               return sign == QLatin1Char('0') || sign == QLatin1Char('1');
+           });
+}
+
+bool fits(const char* pattern, const QString& text)
+{
+    return QRegularExpression(QLatin1String(pattern)).match(text).hasMatch();
+}
+
+// Whether the form of a line edit takes all of the text: it may leave out the signs of the form.
+bool isTakenWhole(const char* mask, const QString& text)
+{
+    const QString form = QString::fromLatin1(mask);
+    const auto places = [&form](QString filled) {
+        for (const QChar sign : form) {
+            if (sign != QLatin1Char('H'))
+                filled.remove(sign);
+        }
+        return filled;
+    };
+    return places(maskedText(form, text)) == places(text);
+}
+
+bool isProper(const Text& row, const QString& text)
+{
+    if (text.isEmpty())
+        return true;
+    if (row.pattern) {
+        const QRegularExpression typed(QRegularExpression::anchoredPattern(QLatin1String(row.pattern)));
+        const auto match = typed.match(text, 0, QRegularExpression::PartialPreferCompleteMatch);
+        if (!match.hasMatch() && !match.hasPartialMatch())
+            return false;
+    }
+    const QString held = row.mask ? maskedText(QString::fromLatin1(row.mask), text) : text;
+    return (!row.mask || isTakenWhole(row.mask, text)) &&
+           (!row.expectedPattern || fits(row.expectedPattern, held));
+}
+
+} // namespace
+
+bool isSettable(const Setting& setting, const QString& text)
+{
+    // What a file would not bring back is none either.
+    return sectionText(text) == text && decodeValue(text) == text &&
+           std::visit([&](const auto& row) { return isProper(row, text); }, setting.kind);
+}
+
+} // namespace vlk::review
