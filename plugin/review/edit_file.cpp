@@ -34,11 +34,13 @@ std::optional<QString> edit(Configuration* configuration, int key, const KeyEdit
     }
     Values& values = configuration->tables()[FileKeys::all()[key].table];
     const int holder = values.holder(row);
+    const Setting& setting = values.setting(holder);
     const Limits limits = values.limits(holder);
-    const Taken taken = takenAs(values.setting(holder), {edit.value, values.value(holder), limits});
-    if (!isWhole(taken.change) || !isSettable(values.setting(holder), edit.value)) {
-        *problem = {What::badValue, edit.path, edit.value,
-                    isWhole(taken.change) ? Change::unknownCode : taken.change, limits};
+    const Taken taken = takenAs(setting, {edit.value, values.value(holder), limits});
+    const Change change =
+        isWhole(taken.change) && !isSettable(setting, edit.value) ? Change::unknownCode : taken.change;
+    if (!isWhole(change)) {
+        *problem = {What::badValue, edit.path, edit.value, change, &setting, limits};
         return std::nullopt;
     }
     values.edit(row, taken.value);

@@ -141,15 +141,14 @@ AppliedPreset applied(CXmlSection& preset, const Configuration& configuration)
         const Held& held = tried.at(entry.first);
         const Values& values = applied.result.tables()[place.table];
         const int holder = values.holder(held.row < 0 ? place.rows.front() : held.row);
+        const Setting& setting = values.setting(holder);
         const bool isLost = !held.isSaved || !(held.saved == held.meaning);
-        const bool isSettable = review::isSettable(values.setting(holder), entry.second);
-        if (isLost)
-            applied.problems.push_back({held.isSaved || !held.isWhole ? What::badValue : What::noPlace,
-                                        place.path, entry.second, held.change, values.limits(holder)});
-        else if (!isSettable)
-            applied.problems.push_back(
-                {What::badValue, place.path, entry.second, Change::unknownCode, values.limits(holder)});
-        return isLost || !isSettable;
+        const bool isUnfit = isLost || !isSettable(setting, entry.second);
+        if (isUnfit)
+            applied.problems.push_back({!held.isSaved && held.isWhole ? What::noPlace : What::badValue,
+                                        place.path, entry.second, isLost ? held.change : Change::unknownCode,
+                                        &setting, values.limits(holder)});
+        return isUnfit;
     };
     texts.erase(std::remove_if(texts.begin(), texts.end(), isUnfit), texts.end());
     stateWith(texts, configuration, &applied.result);

@@ -46,7 +46,9 @@ struct PresetProblem
     QString path;
     QString text;
     Change change = Change::none;
-    Limits limits{}; // of a bad value: what it can be
+    // Of a bad value: whose it is, and what it can be.
+    const Setting* setting = nullptr;
+    Limits limits{};
 };
 
 // In words: what the preset holds stands before, why it is left out is the note.
