@@ -5,6 +5,7 @@
 #include "command/configuration_input.h"
 #include "command/difference_lines.h"
 #include "command/each_file.h"
+#include "command/expected_value.h"
 #include "command/file_names.h"
 #include "command/preset_problems.h"
 #include "command/system_reason.h"
@@ -73,9 +74,11 @@ QString sentence(const PresetProblem& problem)
         break;
     }
     if (problem.text.isEmpty())
-        return text("cli_028").arg(problem.path);
+        return withExpected(text("cli_028").arg(problem.path), problem);
     const bool isSecret = FileKeys::all().looksSecret(problem.path);
-    return text(reasonKey(problem.change)).arg(problem.path, isSecret ? QStringLiteral("•••") : problem.text);
+    return withExpected(
+        text(reasonKey(problem.change)).arg(problem.path, isSecret ? QStringLiteral("•••") : problem.text),
+        problem);
 }
 
 QString sentences(const std::vector<PresetProblem>& problems)
