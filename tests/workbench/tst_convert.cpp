@@ -54,6 +54,7 @@ private Q_SLOTS:
         put("a.tmi", fileOf(ExportForm::tmi, storeOf({1, 2, 4}), {}));
         put("b.xml", fileOf(ExportForm::xml, storeOf({5, 2, 3}), {}));
         put("c.xml", "<DEVICE/>");
+        QDir(folder_.path()).mkdir("bare");
         QByteArray damaged = readFile(path("a.tmi"));
         damaged[128 + 2] = 0; // the type of the first record
         put("damaged.tmi", damaged);
@@ -87,6 +88,15 @@ private Q_SLOTS:
                  0, head + row(2), "")
             .row("no time", "a.tmi --to csv --from yesterday", 2, "",
                  "r7106: --from: at character 1 there should be a time such as 20.11.2026 08:29\n")
+            .row("no span", "a.tmi --to csv --from 16.11.2023 --to-time 15.11.2023", 2, "",
+                 "r7106: --from is after --to-time\n")
+            .row("one day", "a.tmi --to csv --from 15.11.2023 --to-time 15.11.2023 --where NumPage=1", 0,
+                 head + row(1), "")
+            .row("a comma that the form has not", "a.tmi --to csv-text --decimal-comma", 2, "",
+                 "r7106: --decimal-comma is for csv and tsv\n")
+            .row("a file that is not there", "none.tmi --to csv", 2, "",
+                 "none.tmi: cannot be read: no such file or folder\n")
+            .row("an empty folder", "bare --to csv", 0, "", "bare: holds no *.xml and no *.tmi\n")
             .row("columns", "a.tmi --to tsv --raw --columns Power,NumPage --where NumPage=2", 0,
                  "Power\tNumPage\n2\t2\n", "")
             .row("columns with words", "a.tmi --to csv-text --columns Power,NumPage --where NumPage=2", 0,

@@ -22,6 +22,7 @@
 
 #include <algorithm>
 #include <deque>
+#include <limits>
 #include <unistd.h>
 
 namespace workbench::command {
@@ -64,6 +65,13 @@ FilterNames namesInBothLanguages()
     return names;
 }
 
+const vlk::ExportFormRow& formOf(const Conversion& asked)
+{
+    return *std::ranges::find_if(vlk::kExportForms, [&](const vlk::ExportFormRow& row) {
+        return asked.form == QLatin1String(row.name);
+    });
+}
+
 // What of the records is wanted. A reason where the call does not say it right.
 QString readFilter(const Conversion& conversion, const FilterNames& names, Filter* filter)
 {
@@ -74,6 +82,7 @@ QString readFilter(const Conversion& conversion, const FilterNames& names, Filte
         const QString& condition;
     };
     std::vector<FilterNode> nodes;
+    double from = -std::numeric_limits<double>::infinity();
     for (const Asked& part : {Asked{"--from", QStringLiteral("Time >= "), conversion.from},
                               Asked{"--to-time", QStringLiteral("Time <= "), conversion.to},
                               Asked{"--where", {}, conversion.where}}) {
@@ -89,6 +98,10 @@ QString readFilter(const Conversion& conversion, const FilterNames& names, Filte
                 .arg(parsed.fault.expected);
         if (!part.prefix.isEmpty() && !isMoment)
             return text("cli_214").arg(QLatin1String(part.option)).arg(1).arg(text("rec_104"));
+        if (!part.prefix.isEmpty() && parsed.filter->root->number < from)
+            return text("cli_264");
+        if (&part.condition == &conversion.from)
+            from = parsed.filter->root->number;
         if (parsed.filter->root)
             nodes.push_back(*parsed.filter->root);
     }
@@ -129,8 +142,8 @@ class Conversions
 public:
     Conversions(const Conversion& asked, Filter filter, vlk::ExportOptions options, RecordSource& source,
                 Output& output, Progress& progress)
-        : form_(vlk::rowOf(formOf(asked.form))), asked_(asked), filter_(std::move(filter)),
-          options_(std::move(options)), source_(source), output_(output), progress_(progress)
+        : form_(formOf(asked)), asked_(asked), filter_(std::move(filter)), options_(std::move(options)),
+          source_(source), output_(output), progress_(progress)
     {
     }
 
@@ -184,12 +197,6 @@ private:
         std::shared_ptr<const vlk::TelemetryOrigin> origin;
         std::unique_ptr<ExportWriter> writer;
     };
-
-    static ExportForm formOf(const QString& name)
-    {
-        const auto isNamed = [&](const vlk::ExportFormRow& row) { return name == QLatin1String(row.name); };
-        return std::ranges::find_if(vlk::kExportForms, isNamed)->form;
-    }
 
     template <class Write>
     static QByteArray bytesOf(Write write)
@@ -390,6 +397,8 @@ int convert(const Call& call, Output& output)
     options.decimalComma = asked.decimalComma;
     options.encode = vlk::toWindows1251;
     options.archive = asked.columns == QLatin1String("archive");
+    if (asked.decimalComma && !formOf(asked).hasDecimalSign)
+        return refused(output, text("cli_265"));
     Filter filter;
     if (!(asked.from + asked.to + asked.where + asked.columns).isEmpty()) {
         const FilterNames names = namesInBothLanguages();

@@ -1,7 +1,7 @@
 #include "command/convert_inputs.h"
 
+#include "command/configuration_input.h"
 #include "command/file_kind.h"
-#include "command/file_names.h"
 #include "command/output.h"
 #include "window/languages.h"
 
@@ -37,6 +37,8 @@ TelemetryInputs::TelemetryInputs(const QStringList& names)
     FileWalk walk(names);
     while (const std::optional<File> file = walk.next())
         take(*file);
+    for (const QString& folder : walk.emptyFolders())
+        writeError(complaint(folder, text("cli_144")));
 }
 
 void TelemetryInputs::take(const File& file)
@@ -51,7 +53,7 @@ void TelemetryInputs::take(const File& file)
         return refuse(file, text("cli_213"));
     const QByteArray start = isOpen ? device->peek(4096) : QByteArray();
     if (!isOpen || (start.isEmpty() && device->error() != QFileDevice::NoError))
-        return refuse(file, text("cli_002").arg(systemText(device->errorString())));
+        return refuse(file, whyUnreadable(*device));
     const FileKind kind = kindOf(start);
     // What has lost its beginning is found by its records.
     const bool isDamaged = kind == FileKind::unknown && !start.isEmpty() &&

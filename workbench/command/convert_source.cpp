@@ -1,7 +1,8 @@
 #include "command/convert_source.h"
 
+#include "command/system_reason.h"
+
 #include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 
 namespace workbench::command {
@@ -60,7 +61,7 @@ private:
     void fault(const TelemetryInput& input, int error) const
     {
         if (!isSilent_)
-            listener_.fault(input.file, QString::fromUtf8(std::strerror(error)));
+            listener_.fault(input.file, systemReason(error));
     }
 
     QFile& device(const TelemetryInput& input) const { return input.device ? *input.device : *opened_; }

@@ -80,6 +80,10 @@ Outcome takeTanks(const Call& call, std::vector<TankSensor>* tanks)
         outcome = refusal(call, name, reason);
         return outcome;
     };
+    // The litres of one that stands twice would count twice.
+    const auto isTaken = [&](const vlk::LevelSensor* sensor) {
+        return std::ranges::find(*tanks, sensor, &TankSensor::sensor) != tanks->end();
+    };
     if (call.tables.isEmpty() && call.sensors.isEmpty())
         return refuse(QStringLiteral("--table"), text("cli_239"));
     if (!call.tables.isEmpty() && !call.sensors.isEmpty() && call.tables.size() != call.sensors.size())
@@ -90,6 +94,8 @@ Outcome takeTanks(const Call& call, std::vector<TankSensor>* tanks)
         if (!element.isEmpty() && sensor == nullptr)
             return refuse(element, text("cli_241"));
         if (call.tables.isEmpty()) {
+            if (isTaken(sensor))
+                return refuse(QStringLiteral("--sensor"), text("cli_031").arg(element));
             if (sensor->kind != vlk::LevelKind::Can)
                 return refuse(element, text("cli_239"));
             tanks->push_back({sensor, {}});
@@ -105,6 +111,8 @@ Outcome takeTanks(const Call& call, std::vector<TankSensor>* tanks)
             sensor = vlk::levelSensorOfTable(table.sensor);
         if (sensor == nullptr)
             return refuse(call.tables[i], text("cli_242"));
+        if (isTaken(sensor))
+            return refuse(call.tables[i], text("cli_031").arg(QLatin1String(sensor->element().data())));
         const QString other = text("cli_243").arg(table.sensor, QLatin1String(sensor->element().data()));
         if (!vlk::suits(table, *sensor))
             return refuse(call.tables[i], other);
@@ -148,10 +156,10 @@ Outcome eventsOf(const Call& call, const File& file, const std::vector<TankSenso
         device = &held;
     }
     if (!device->open(QIODevice::ReadOnly))
-        return refusal(call, file.name, text("cli_002").arg(systemText(device->errorString())));
+        return refusal(call, file.name, whyUnreadable(plain));
     const QByteArray start = device->peek(kBeginning);
     if (start.isEmpty() && plain.isOpen() && plain.error() != QFileDevice::NoError)
-        return refusal(call, file.name, text("cli_002").arg(systemText(plain.errorString())));
+        return refusal(call, file.name, whyUnreadable(plain));
     const FileKind kind = kindOf(start);
     if (kind == FileKind::telemetry)
         return eventsIn(call, file, tanks, *device);

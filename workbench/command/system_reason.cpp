@@ -5,7 +5,9 @@
 
 #include <QHash>
 
+#include <algorithm>
 #include <cerrno>
+#include <iterator>
 
 namespace workbench::command {
 
@@ -41,6 +43,12 @@ QString systemReason(const QString& said)
 {
     const auto known = texts().constFind(said);
     return known == texts().constEnd() ? systemText(said) : *known;
+}
+
+QString systemReason(int error)
+{
+    const auto* row = std::ranges::find(kReasons, error, &ReasonRow::code);
+    return row == std::end(kReasons) ? systemText(qt_error_string(error)) : text(row->key);
 }
 
 void keepReasons()
