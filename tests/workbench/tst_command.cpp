@@ -25,6 +25,7 @@ private Q_SLOTS:
             "<DEVICE model='R-7106'><X y='1'/><TRACK><POINTS maxSpeed='90' z='2'/></TRACK>"
             "</DEVICE>";
         put("a.xml", track);
+        QFile::link("a.xml", path("link.xml"));
         put("b.xml", QByteArray(track).replace("'90'", "'0100'").replace("y='1'", "y='2'"));
         put("fleet/1.xml", track);
         put("fleet/2.xml", QByteArray(track).replace("maxSpeed='90'", "maxSpeed='500'"));
@@ -51,6 +52,7 @@ private Q_SLOTS:
         put("other.xml", "<FUEL type='D2'>" + rows + "</TABLE></FUEL>");
         put("falls.xml", "<FUEL type='D1'>" + rows + "<DATA param_U='500' param_V='9'/></TABLE></FUEL>");
         put("volts.xml", "<FUEL type='A3'>" + rows + "</TABLE></FUEL>");
+        put("empty.xml", "");
         put("cut.xml", track.left(60));
         put("secret.xml", "<DEVICE><TRANS><AP1 pass='geheim'/></TRANS></DEVICE>");
         put("good.xml", "<DEVICE creator='preset'><TRACK><POINTS maxSpeed='80'/></TRACK></DEVICE>");
@@ -154,6 +156,14 @@ private Q_SLOTS:
             .row("no drain by that threshold", "fuel --fall 61.5 --table tank.xml week.xml", 0, "", "")
             .row("no litres", "fuel --fall -1 --table tank.xml week.xml", 2, "",
                  "r7106: --fall takes a number of litres above 0\n" + help)
+            .row("a decimal comma", "fuel --fall 61,5 --table tank.xml week.xml", 0, "", "")
+            .row("a sensor twice", "fuel --table tank.xml --table ./tank.xml week.xml", 2, "",
+                 "./tank.xml: LevelRS485_1 stands twice\n")
+            .row("a table that would be replaced", "fuel --table tank.xml week.xml -o tank.xml", 2, "",
+                 "tank.xml: is read by the same call: -o would replace it\n")
+            .row("a value that is none", "--language ru check --json=x a.xml", 2, "",
+                 "r7106: --json не принимает значения\nСправка: r7106 --help\n")
+            .row("nothing at all", "info empty.xml", 0, "empty.xml: is empty\n", "")
             .row("no table", "fuel week.xml", 2, "", "--table: a calibration table is needed: --table FILE\n")
             .row("a table that is not there", "fuel --table none.xml week.xml", 2, "",
                  "none.xml: cannot be read: no such file or folder\n")
@@ -228,9 +238,35 @@ private Q_SLOTS:
                  "a.xml: " + words + "90 km/h → 80 km/h\n", "", a)
             .row("the same value", "set TRACK/POINTS/maxSpeed=090 a.xml", 0, "", "", a)
             .row("out of range, and a file that is cut", "set TRACK/POINTS/maxSpeed=800 a.xml cut.xml", 2, "",
-                 "a.xml: TRACK/POINTS/maxSpeed: 800 is out of range\ncut.xml: is cut short in line 1\n", a)
+                 "a.xml: TRACK/POINTS/maxSpeed: 800 is out of range; expected: a whole number, 1 to "
+                 "180\ncut.xml: is cut short in line 1\n",
+                 a)
             .row("empty", "set TRACK/POINTS/maxSpeed= a.xml", 2, "",
-                 "a.xml: TRACK/POINTS/maxSpeed: the value is empty\n", a)
+                 "a.xml: TRACK/POINTS/maxSpeed: the value is empty; expected: a whole number, 1 to 180\n", a)
+            .row("in another decimal sign", "set TRACK/POINTS/maxSpeed=80,5 a.xml", 2, "",
+                 "a.xml: TRACK/POINTS/maxSpeed: 80,5 is not a number; expected: a whole number, 1 to 180\n",
+                 a)
+            .row("neither 0 nor 1, and other digits",
+                 "set TRACK/POINTS/useDist=7 TRACK/COORDAVER/sensors=2 a.xml", 2, "",
+                 "a.xml: TRACK/POINTS/useDist cannot be 7; expected: 0 or 1; TRACK/COORDAVER/sensors cannot "
+                 "be 2; expected: 4 digits, each from 0 to 1\n",
+                 a)
+            .row("a file instead of its copy", "set TRACK/POINTS/maxSpeed=80 a.xml -o new.xml", 2, "",
+                 "r7106: files are changed in place: -o is for standard input (FILE -)\nHelp: r7106 "
+                 "--help\n",
+                 a)
+            .row("a file of nothing", "apply --dry-run good.xml - -o new.xml", 2, "",
+                 "r7106: with --dry-run nothing is written: -o is not expected\nHelp: r7106 --help\n", a)
+            .row("what it reads", "check a.xml b.xml -o ./a.xml", 2, "",
+                 "./a.xml: is read by the same call: -o would replace it\n", a)
+            .row("the first of a pattern", "check -o a.xml b.xml", 2, "",
+                 "a.xml: configuration that -o would replace by something else\n", a)
+            .row("through a link", "get TRACK/POINTS/maxSpeed bare/../a.xml -o link.xml", 2, "",
+                 "link.xml: is read by the same call: -o would replace it\n", a)
+            .row("in a folder", "info . -o a.xml", 2, "",
+                 "a.xml: is read by the same call: -o would replace it\n", a)
+            .row("the preset", "apply a.xml - -o a.xml", 2, "",
+                 "a.xml: is read by the same call: -o would replace it\n", a)
             .row("behind dashes", "set TRACK/POINTS/maxSpeed=80 -- a.xml", 0,
                  "a.xml: " + words + "90 km/h → 80 km/h\n", "", changed)
             .row("no setting", "set a.xml", 2, "",
@@ -312,6 +348,13 @@ private Q_SLOTS:
         QVERIFY(shell.readAllStandardOutput().startsWith("many/1000.xml: configuration, R-7106, "));
     }
 
+    void fullOutput()
+    {
+        for (const char* call : {"--version", "--help", "set --help"})
+            QCOMPARE(QProcess::execute("sh", {"-c", QString(VLK_COMMAND " %1 >/dev/full 2>&1").arg(call)}),
+                     2);
+    }
+
     // What the shell and `man` are told of it.
     void manual()
     {
@@ -335,6 +378,12 @@ private Q_SLOTS:
         QVERIFY(std::get<1>(run({"report", "--changed", "--secrets", "secret.xml"})).contains(">geheim<"));
         QCOMPARE(std::get<0>(run({"report", "factory.xml", "-o", "r.pdf"})), 0);
         QVERIFY(readFile(path("r.pdf")).startsWith("%PDF-"));
+        for (const QString name : {"open.html", "closed.html", "closed.pdf"}) {
+            const QStringList call{"report", "secret.xml", "-o", name};
+            QCOMPARE(std::get<0>(run(name[0] == 'c' ? call + QStringList("--secrets") : call)), 0);
+            const auto readers = QFile::permissions(path(name)) & (QFile::ReadGroup | QFile::ReadOther);
+            QCOMPARE(!readers, name[0] == 'c');
+        }
         QCOMPARE(std::get<0>(run({"diff", "a.xml", "none.xml", "-o", "r.html"})), 2);
         QCOMPARE(readFile(path("r.html")), html);
     }

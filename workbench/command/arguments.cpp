@@ -136,17 +136,24 @@ void addFuelOptions(CLI::App& app, Read& read)
     };
     several("--table", read.tables, "cli_231", "CALIBRATION");
     several("--sensor", read.sensors, "cli_232", "ELEMENT");
+    // In either decimal sign.
+    const auto withPoint = [](std::string number) {
+        std::ranges::replace(number, ',', '.');
+        return number;
+    };
     for (const auto& [name, litres, key] :
          {std::tuple("--rise", &read.call.rise, "cli_233"), {"--fall", &read.call.fall, "cli_234"}})
-        app.add_option(name, *litres, words(key))->check(CLI::Range(0.1, 1e6))->option_text("LITRES");
+        app.add_option(name, *litres, words(key))
+            ->check(CLI::Range(0.1, 1e6))
+            ->transform(withPoint)
+            ->option_text("LITRES");
 }
 
 void addOptions(CLI::App& app, const CommandRow& row, Read& read)
 {
     addLanguage(app, read);
-    app.add_option("-o,--output", read.output,
-                   words(row.takes == CommandRow::oneFile ? "cli_118" : "cli_111"))
-        ->option_text("FILE");
+    const char* output = row.edits ? "cli_262" : row.takes == CommandRow::oneFile ? "cli_118" : "cli_111";
+    app.add_option("-o,--output", read.output, words(output))->option_text("FILE");
     if (row.takes == CommandRow::recordFiles)
         addConversion(app, read.call.conversion);
     if (row.takes != CommandRow::oneFile && row.takes != CommandRow::recordFiles)
@@ -217,6 +224,11 @@ QString splitFiles(const CommandRow& row, const Read& read, const std::optional<
         return text("cli_027");
     if (files.isEmpty())
         return text("cli_026");
+    const bool isToFile = !read.output.empty() && read.output != "-";
+    if (row.edits && isToFile && files != QStringList(QStringLiteral("-")))
+        return text("cli_251");
+    if (row.edits && isToFile && call->dryRun)
+        return text("cli_252");
     call->files = files;
     return {};
 }
@@ -255,6 +267,11 @@ QString whyNotParsed(const CLI::App& app, const CLI::ParseError& error)
         const CLI::App& of = chosen.empty() ? app : *chosen.front();
         const CLI::Option* option = of.get_option_no_throw(name.toStdString());
         return text(option != nullptr && option->count() > 1 ? "cli_031" : "cli_018").arg(name);
+    }
+    if (dynamic_cast<const CLI::ConversionError*>(&error) != nullptr) {
+        // "Could not convert: --json = x"
+        const QString name = said.section(QStringLiteral(": "), 1).section(QStringLiteral(" = "), 0, 0);
+        return name.isEmpty() ? said : text("cli_263").arg(name);
     }
     if (dynamic_cast<const CLI::ValidationError*>(&error) != nullptr) {
         const QString name = said.section(QLatin1Char(':'), 0, 0);

@@ -17,14 +17,15 @@ struct KindRow
 {
     FileKind kind;
     const char* name;
+    const char* word;
     const char* root;
 };
 
-constexpr KindRow kKinds[] = {{FileKind::configuration, "configuration", "DEVICE"},
-                              {FileKind::telemetry, "telemetry", "TMI"},
-                              {FileKind::calibration, "calibration", "FUEL"},
-                              {FileKind::tachograph, "tachograph", nullptr},
-                              {FileKind::unknown, "unknown", nullptr}};
+constexpr KindRow kKinds[] = {{FileKind::configuration, "configuration", "cli_060", "DEVICE"},
+                              {FileKind::telemetry, "telemetry", "cli_061", "TMI"},
+                              {FileKind::calibration, "calibration", "cli_062", "FUEL"},
+                              {FileKind::tachograph, "tachograph", "cli_063", nullptr},
+                              {FileKind::unknown, "unknown", "cli_064", nullptr}};
 
 // Blocks of a driver's card begin with the tag of the chip, those of a vehicle unit with 0x76 and a number.
 bool looksLikeTachograph(const QByteArray& start)
@@ -61,6 +62,11 @@ FileKind kindOf(const QByteArray& start)
 const char* nameOf(FileKind kind)
 {
     return std::ranges::find(kKinds, kind, &KindRow::kind)->name;
+}
+
+const char* wordOf(FileKind kind)
+{
+    return std::ranges::find(kKinds, kind, &KindRow::kind)->word;
 }
 
 QString modelOf(const QByteArray& start)

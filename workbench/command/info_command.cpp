@@ -64,8 +64,7 @@ QByteArray lineOf(const Call& call, const File& file, const Facts& facts)
             line.addRaw("preset", "true");
         return line.line();
     }
-    static constexpr const char* words[] = {"cli_060", "cli_061", "cli_062", "cli_063", "cli_064"};
-    QStringList told{text(facts.isPreset ? "cli_246" : words[static_cast<int>(facts.kind)])};
+    QStringList told{text(facts.isPreset ? "cli_246" : wordOf(facts.kind))};
     if (!facts.model.isEmpty())
         told << facts.model;
     if (!facts.name.isEmpty())
@@ -134,6 +133,8 @@ Outcome factsOf(const Call& call, const File& file)
     const FileKind kind = kindOf(start);
     if (kind == FileKind::telemetry)
         return telemetryFacts(call, file, device);
+    if (start.isEmpty() && !call.json)
+        return {complaint(file.name, text("cli_004"))};
     if (kind == FileKind::tachograph || kind == FileKind::unknown)
         return {lineOf(call, file, {.kind = kind})};
     const QByteArray content = device.read(CSerialize::kMaxFileSize + 1);

@@ -4,6 +4,7 @@
 #include "command/commands.h"
 #include "command/file_names.h"
 #include "command/output.h"
+#include "command/output_guard.h"
 #include "command/pdf/report_pdf.h"
 #include "command/system_reason.h"
 #include "plugin/base/replace_file.h"
@@ -35,12 +36,17 @@ constexpr CommandFunction kFunctions[] = {{"check", check}, {"diff", diff},     
                                           {"get", get},     {"set", set},         {"apply", apply},
                                           {"info", info},   {"convert", convert}, {"fuel", fuel}};
 
+Output::Readers readersOf(const Call& call)
+{
+    return call.secrets ? Output::Readers::owner : Output::Readers::usual;
+}
+
 int run(const Call& call)
 {
     for (const CommandFunction& function : kFunctions) {
         if (call.command != QLatin1String(function.name))
             continue;
-        Output output(call.output);
+        Output output(call.output, readersOf(call));
         const int status = function.run(call, output);
         // What came to nothing is no reason to empty a file that was there.
         if (status == failed && output.isEmptyFile())
@@ -82,7 +88,7 @@ int writePdf(const Pdf& pdf, int argc, char** argv)
         writeError(complaint(QStringLiteral("r7106"), pdf.notLoaded));
         return failed;
     }
-    Output output(pdf.call.output, pdf.notWritten);
+    Output output(pdf.call.output, readersOf(pdf.call), pdf.notWritten);
     return writeReport(output, made);
 }
 
@@ -103,7 +109,7 @@ int report(const Call& call, Pdf* pdf)
                 text("cli_003")};
         return nothing;
     }
-    Output output(call.output);
+    Output output(call.output, readersOf(call));
     return writeReport(output, html.toUtf8());
 }
 
@@ -118,11 +124,17 @@ int runWithTexts(int& argc, char** argv, Pdf* pdf)
     languages.set(workbench::Languages::isKnown(language) ? language : workbench::Languages::ofSystem());
     const Arguments arguments = readArguments(all);
     if (arguments.end) {
-        if (*arguments.end == failed)
+        if (*arguments.end == failed) {
             writeError(arguments.message);
-        else
-            std::fputs(arguments.message.constData(), stdout);
-        return *arguments.end;
+            return failed;
+        }
+        Output output({}, Output::Readers::usual);
+        output.write(arguments.message);
+        return output.close() ? nothing : failed;
+    }
+    if (const QString reason = whyNotReplaced(arguments.call); !reason.isEmpty()) {
+        writeError(complaint(arguments.call.output, reason));
+        return failed;
     }
     return arguments.call.command == QLatin1String("report") ? report(arguments.call, pdf)
                                                              : run(arguments.call);
@@ -138,8 +150,10 @@ int main(int argc, char* argv[])
         if (std::strcmp(argv[i], "--") == 0)
             break;
         if (std::strcmp(argv[i], "--version") == 0) {
-            std::puts("r7106 " VLK_VERSION);
-            return nothing;
+            if (std::puts("r7106 " VLK_VERSION) >= 0 && std::fflush(stdout) == 0)
+                return nothing;
+            std::perror("r7106");
+            return failed;
         }
     }
     // What is logged, the commands tell in their own words.

@@ -13,10 +13,10 @@
 
 namespace workbench::command {
 
-Output::Output(const QString& name) : Output(name, text("cli_003")) {}
+Output::Output(const QString& name, Readers readers) : Output(name, readers, text("cli_003")) {}
 
-Output::Output(const QString& name, const QString& complaint)
-    : name_(name == QLatin1String("-") ? QString() : name), complaint_(complaint)
+Output::Output(const QString& name, Readers readers, const QString& complaint)
+    : name_(name == QLatin1String("-") ? QString() : name), readers_(readers), complaint_(complaint)
 {
     if (isFile() && !kept_.open())
         fault_ = kept_.errorString();
@@ -62,6 +62,9 @@ bool Output::close()
             QFile device(name_);
             if (!device.open(QIODevice::WriteOnly) || !copy(device) || !device.flush())
                 fault_ = device.errorString();
+        } else if (readers_ == Readers::owner) {
+            kept_.seek(0);
+            vlk::replacePrivateFile(name_, kept_.readAll(), &fault_);
         } else {
             vlk::replaceFile(name_, copy, &fault_);
         }

@@ -9,10 +9,13 @@ namespace workbench::command {
 class Output
 {
 public:
+    // Who may read the file: others as far as its folder and the system say, or its owner alone.
+    enum class Readers { usual, owner };
+
     // Empty, or "-": standard output.
-    explicit Output(const QString& name);
+    Output(const QString& name, Readers readers);
     // Where the texts are gone: the complaint, with a place for the reason.
-    Output(const QString& name, const QString& complaint);
+    Output(const QString& name, Readers readers, const QString& complaint);
 
     void write(const QByteArray& bytes);
     // Puts the file in its place. False with a complaint when not everything could be written.
@@ -27,6 +30,7 @@ public:
 
 private:
     QString name_;
+    Readers readers_;
     QString complaint_;
     QTemporaryFile kept_;
     QString fault_;
