@@ -347,12 +347,19 @@ private Q_SLOTS:
     void damagedXml_data()
     {
         const QByteArray count = "<INTERVAL count=\"2\"/>\n";
-        const QByteArray page = "<Page type=\"176\">\n<NumPage>1</NumPage>\n";
+        const QByteArray page = "<Page type=\"176\" ver=\"30\" format=\"1\">\n<NumPage>1</NumPage>\n";
         const QByteArray whole = page + "</Page>\n";
         const int first = count.size();
         // The last one cell: what salvaging brings.
-        const QByteArray sparse = QByteArray("<Page type=\"176\" format=\"11\">\n<NumPage>2</NumPage>\n");
+        const QByteArray sparse = QByteArray(page).replace("\"1\"", "\"11\"").replace(">1<", ">2<");
         const QByteArray other = QByteArray(whole).replace(">1<", ">3<");
+        // Of the one in the middle, and what of it is spoilt.
+        const auto spoilt = [&](const char* part, const QByteArray& by) {
+            return other + QByteArray(whole).replace(part, by) + other;
+        };
+        const auto lost = [&](int difference) {
+            return QVector<int>{FileDamage::Records, other.size(), whole.size() + difference};
+        };
         DataTable<QByteArray, QVector<int>, int, bool, QString>(
             {"file", "damages", "pages", "lastIsCut", "salvaged"})
             .row("whole", count + whole + whole + "</TMI>", {}, 2, false, "1 1")
@@ -365,6 +372,25 @@ private Q_SLOTS:
                  false, "1 1")
             .row("half a page, then others", sparse + other + whole,
                  {FileDamage::Records, sparse.size(), other.size()}, 2, false, "3 1")
+            .row("zeros in a line", spoilt("1</Num", QByteArray("1\0</Num", 7)), lost(1), 3, false, "3 3")
+            .row("zeros across lines", spoilt("/NumPage>\n</Page>", QByteArray(300, '\0')),
+                 {FileDamage::Records, other.size(), whole.size() + other.size() + 283}, 2, false, "3 3")
+            .row("zeros for a first line", spoilt("<Page type", QByteArray(1000, '\0')), lost(990), 2, false,
+                 "3 3")
+            .row("no number", spoilt(">1<", ">X<"), lost(0), 3, false, "3 3")
+            .row("too high a number", spoilt(">1<", ">4294967296<"), lost(9), 3, false, "3 3")
+            .row("no name any more", spoilt("<Num", "<XXX"), lost(0), 3, false, "3 3")
+            .row("no end of an element", spoilt("</NumPage>", ""), lost(-10), 3, false, "3 3")
+            .row("an element twice", spoilt("</Page>", "<NumPage>1</NumPage>\n</Page>"), lost(21), 3, false,
+                 "3 3")
+            .row("no mask", spoilt("\"1\">", "\"x\">"), lost(0), 3, false, "3 3")
+            .row("bytes between pages", other + "XXXX\n" + other, {FileDamage::Records, other.size(), 5}, 2,
+                 false, "3 3")
+            .row("lines that the form does not know",
+                 count + "<New a=\"<\"/>\n<!-- x -->\n" + page +
+                     "<New>x</New>\n\n<New/>\n<New>\n</New>\n<New>" + QByteArray(3000, 'x') +
+                     "</New>\n</Page>\n" + other + "</TMI>\n",
+                 {}, 2, false, "1 3")
             .row("no count", whole, {}, 1, false, "1");
     }
     void damagedXml()

@@ -49,7 +49,7 @@ TelemetrySummary summaryOf(QIODevice& device)
 {
     TelemetrySummary summary;
     const QByteArray start = device.peek(4096);
-    vlk::TelemetryReader reader(device, {});
+    vlk::TelemetryReader reader(device, {}, vlk::TelemetryReading::salvage);
     summary.model = reader.isBinary()
                         ? QString::fromLatin1(
                               start.mid(vlk::binary::kModelAt, vlk::binary::kModelBytes).split('\0').first())

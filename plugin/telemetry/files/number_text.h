@@ -5,6 +5,7 @@
 #include <QLocale>
 
 #include <charconv>
+#include <optional>
 #include <string_view>
 
 namespace vlk {
@@ -17,15 +18,23 @@ constexpr std::string_view trimmed(std::string_view text)
                               : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
+// None where it is no number or does not fit the type.
 template <class Number>
-Number numberFrom(std::string_view text)
+std::optional<Number> numberIn(std::string_view text)
 {
     text = trimmed(text);
     if (text.size() > 1 && text[0] == '+' && text[1] != '-')
         text.remove_prefix(1);
     Number number{};
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    return error == std::errc() && end == text.data() + text.size() ? number : Number{};
+    const bool isRead = error == std::errc() && end == text.data() + text.size();
+    return isRead ? std::optional(number) : std::nullopt;
+}
+
+template <class Number>
+Number numberFrom(std::string_view text)
+{
+    return numberIn<Number>(text).value_or(Number{});
 }
 
 // The shortest text that reads back as the same double.

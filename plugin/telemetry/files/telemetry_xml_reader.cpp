@@ -54,6 +54,20 @@ void TelemetryXmlReader::report(FileDamage::Kind kind, qint64 from, qint64 to)
     contents_.damages.push_back({kind, from, to - from, total_});
 }
 
+void TelemetryXmlReader::loseFrom(qint64 at)
+{
+    if (!lost_)
+        lost_ = FileDamage{FileDamage::Records, at, 0, total_};
+}
+
+void TelemetryXmlReader::goOnAt(qint64 at)
+{
+    if (!lost_)
+        return;
+    lost_->bytes = at - lost_->offset;
+    contents_.damages.push_back(*std::exchange(lost_, {}));
+}
+
 bool TelemetryXmlReader::step()
 {
     if (!nextLine_.empty()) {
@@ -63,8 +77,8 @@ bool TelemetryXmlReader::step()
     const auto window = input_.peek(kLongestUsualPage);
     const std::string_view ahead(reinterpret_cast<const char*>(window.data()), window.size());
     if (const std::size_t size = usual_.take(ahead, contents_.records); size != 0) {
-        if (lostAt_)
-            report(FileDamage::Records, *std::exchange(lostAt_, {}), input_.position());
+        endBetween({}, input_.position());
+        goOnAt(input_.position());
         input_.skip(size);
         ++total_;
         return true;
@@ -77,19 +91,32 @@ bool TelemetryXmlReader::step()
         readBetween(line, at);
         return true;
     }
-    if (lostAt_)
-        report(FileDamage::Records, *std::exchange(lostAt_, {}), at);
+    endBetween(line.substr(0, line.find("<Page")), at);
     readPage(std::string(line), at);
     return true;
+}
+
+// What stands on the line of a page, in front of it.
+void TelemetryXmlReader::endBetween(std::string_view front, qint64 at)
+{
+    const std::string rest = between_.takeRest();
+    if (!trimmed(front).empty() || !trimmed(rest).empty())
+        loseFrom(at - std::ssize(rest));
+    isHidden_ = false;
 }
 
 // A line that is in no page.
 void TelemetryXmlReader::readBetween(std::string_view line, qint64 at)
 {
-    if (lostAt_ && isHidden_ && endsPage(line)) {
+    if (isHidden_ && endsPage(line)) {
         ++contents_.hidden;
         isHidden_ = false;
     }
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    if (at == 0 && line.starts_with(byteOrderMark))
+        line.remove_prefix(byteOrderMark.size());
+    if (const auto whole = between_.add(line); whole && !isSoundBetweenPages(*whole))
+        loseFrom(input_.position() - std::ssize(*whole));
     if (line.find("<INTERVAL") != line.npos) {
         contents_.announced = numberAttribute<quint32>(line, "count");
         countAt_ = at;
@@ -108,9 +135,8 @@ void TelemetryXmlReader::readPage(std::string pageLine, qint64 at)
     for (std::string_view line = input_.line(kLongestLineOfPage); !line.empty();
          line = input_.line(kLongestLineOfPage)) {
         if (endsPage(line)) {
-            page.end = startsPage(line) ? XmlPage::NextPage : XmlPage::Closing;
-            page.endAt = input_.position() - std::ssize(line);
-            page.nextLine = line;
+            page.finish(startsPage(line) ? XmlPage::NextPage : XmlPage::Closing, line,
+                        input_.position() - std::ssize(line));
             break;
         }
         page.take(line);
@@ -118,39 +144,53 @@ void TelemetryXmlReader::readPage(std::string pageLine, qint64 at)
     endPage(page);
 }
 
-void TelemetryXmlReader::endPage(XmlPage& page)
+void TelemetryXmlReader::endPage(const XmlPage& page)
 {
     const bool salvages = reading_ == TelemetryReading::salvage;
-    const bool isKept = page.isRecord() && (!salvages || page.end == XmlPage::Closing || page.isWhole());
+    const bool isIntact = page.isSound() && (!page.isRecord() || page.isWhole());
+    const bool isKept = page.isRecord() && (!salvages || isIntact);
+    if (page.end == XmlPage::OfFile)
+        goOnAt(page.at());
+    else if (page.end == XmlPage::Closing ? !isIntact : !page.isSound())
+        loseFrom(page.at());
+    else if (isIntact || !salvages)
+        goOnAt(page.at());
     if (isKept) {
         page.addTo(contents_.records);
         ++total_;
+        contents_.damaged += page.end == XmlPage::OfFile || isIntact ? 0 : 1;
     }
-    if (page.type() == kTelemetryRecord && page.end == XmlPage::Closing)
+    if (page.type() == kTelemetryRecord && page.end == XmlPage::Closing && isIntact)
         usual_.remember(page.line(), page.ver(), page.mask());
     if (page.end == XmlPage::OfFile) {
         contents_.lastIsCut = isKept && !salvages;
         report(FileDamage::CutShort, page.at(), input_.position());
+    } else if (page.end == XmlPage::NextPage) {
+        endWithNext(page, isKept);
     }
-    if (page.end != XmlPage::NextPage)
-        return;
-    if (salvages) {
-        report(FileDamage::Records, isKept ? page.endAt : page.at(), page.endAt);
-        nextLine_ = page.nextLine;
-        // Within a page a line is read as far as lines of values go; that of a page is longer.
-        if (!nextLine_.ends_with('\n'))
-            nextLine_ += input_.line(kLongestLine);
-        nextAt_ = page.endAt;
+}
+
+// The first line of the next page was taken for its end.
+void TelemetryXmlReader::endWithNext(const XmlPage& page, bool isKept)
+{
+    if (reading_ != TelemetryReading::salvage) {
+        loseFrom(page.endAt);
+        isHidden_ = XmlPage(page.nextLine, page.endAt).isRecord();
         return;
     }
-    lostAt_ = page.endAt;
-    isHidden_ = XmlPage(page.nextLine, page.endAt).isRecord();
+    loseFrom(isKept ? page.endAt : page.at());
+    nextLine_ = page.nextLine;
+    // Within a page a line is read as far as lines of values go; that of a page is longer.
+    if (!nextLine_.ends_with('\n'))
+        nextLine_ += input_.line(kLongestLine);
+    nextAt_ = page.endAt;
 }
 
 void TelemetryXmlReader::finish()
 {
-    if (lostAt_)
-        report(FileDamage::Records, *lostAt_, input_.position());
+    if (const std::string rest = between_.takeRest(); !isSoundBetweenPages(rest))
+        loseFrom(input_.position() - std::ssize(rest));
+    goOnAt(input_.position());
     const auto count = static_cast<quint32>(total_);
     if (contents_.announced.value_or(count) != count)
         report(FileDamage::RecordCount, countAt_, countAt_);

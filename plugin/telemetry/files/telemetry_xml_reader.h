@@ -2,12 +2,14 @@
 
 // Reads telemetry in the XML form. It is no XML parser: it goes line by line and looks for what it knows, so
 // that a damaged or half-written file gives all that is readable in it. A line that it does not know is
-// passed over, an unknown element too, and a number that is none counts as 0. Nothing is an error.
+// passed over, an unknown element too, and a number that is none counts as 0. Nothing is an error; what is no
+// well-formed line, or no number where one belongs, is told as damage, and salvaging leaves its record out.
 //
 // A page without a closing line takes the first line of the next page with it, whose lines then start
 // nothing; who salvages gets that page too. Records have the local zone, whatever zone the file names.
 
 #include "telemetry/files/input_buffer.h"
+#include "telemetry/files/sound_lines.h"
 #include "telemetry/files/telemetry_contents.h"
 #include "telemetry/files/usual_pages.h"
 
@@ -29,9 +31,14 @@ public:
 
 private:
     void readBetween(std::string_view line, qint64 at);
+    void endBetween(std::string_view front, qint64 at);
     void readPage(std::string pageLine, qint64 at);
-    void endPage(XmlPage& page);
+    void endPage(const XmlPage& page);
+    void endWithNext(const XmlPage& page, bool isKept);
     void report(FileDamage::Kind kind, qint64 from, qint64 to);
+    // Bytes that hold no whole record begin there; they go on to where the next one is.
+    void loseFrom(qint64 at);
+    void goOnAt(qint64 at);
 
     InputBuffer input_;
     TelemetryReading reading_;
@@ -39,9 +46,9 @@ private:
     TelemetryContents contents_;
     int total_ = 0; // records that were read
     qint64 countAt_ = 0;
-    // Where lines begin that start nothing, for want of the first line of their page; whether a page among
-    // them is still without its end.
-    std::optional<qint64> lostAt_;
+    std::optional<FileDamage> lost_;
+    JoinedLines between_; // pages
+    // Whether a page among the lines that start nothing, for want of its first one, is still without its end.
     bool isHidden_ = false;
     // The first line of the next page, where it ended one that had no end.
     std::string nextLine_;

@@ -84,14 +84,14 @@ bool takeFraction(std::string_view text, std::uint8_t* to)
     return true;
 }
 
-void take(std::string_view text, ElementIndex index, std::uint8_t* to)
+// False where it is no number.
+bool take(std::string_view text, ElementIndex index, std::uint8_t* to)
 {
     const FileForm& form = kFileForms[index];
     const bool isTaken = !text.empty() && form.divisor == 1 &&
                          (form.type == ValueType::f32 ? takeFraction(text, to)
                                                       : takeWhole(text, form, kElements[index].width, to));
-    if (!isTaken)
-        readValue(index, text, to);
+    return isTaken || readValue(index, text, to);
 }
 
 } // namespace
@@ -114,9 +114,8 @@ std::size_t UsualPages::take(std::string_view text, RecordStore& records)
         if (next == nullptr || !isNext(next, end, line.closing))
             return 0;
         const std::string_view value(at, static_cast<std::size_t>(next - at));
-        if (value.find('\n') != value.npos)
+        if (value.find('\n') != value.npos || !vlk::take(value, line.element, to))
             return 0;
-        vlk::take(value, line.element, to);
         to += kElements[line.element].width;
         at = next + line.closing.size();
     }

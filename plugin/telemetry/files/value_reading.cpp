@@ -13,32 +13,34 @@ namespace vlk {
 namespace {
 
 template <class Number>
-void put(std::string_view text, std::uint8_t* to)
+bool put(std::string_view text, std::uint8_t* to)
 {
-    qToLittleEndian(numberFrom<Number>(text), to);
+    const std::optional<Number> number = numberIn<Number>(text);
+    qToLittleEndian(number.value_or(Number{}), to);
+    return number.has_value();
 }
 
 // The whole number next to the display value times its divisor, so that 1.2 is 12 again.
 template <class Number>
-void putScaled(std::string_view text, int divisor, std::uint8_t* to)
+bool putScaled(std::string_view text, int divisor, std::uint8_t* to)
 {
-    const double scaled = std::round(numberFrom<double>(text) * divisor);
+    const std::optional<double> number = numberIn<double>(text);
+    const double scaled = std::round(number.value_or(0) * divisor);
     const bool fits =
         scaled >= std::numeric_limits<Number>::min() && scaled <= std::numeric_limits<Number>::max();
     qToLittleEndian(fits ? static_cast<Number>(scaled) : Number{}, to);
+    return number && fits;
 }
 
 } // namespace
 
-void readValue(ElementIndex index, std::string_view text, std::uint8_t* to)
+bool readValue(ElementIndex index, std::string_view text, std::uint8_t* to)
 {
     const FileForm& form = kFileForms[index];
     if (form.divisor != 1) {
         if (form.type == ValueType::u8)
-            putScaled<quint8>(text, form.divisor, to);
-        else
-            putScaled<qint32>(text, form.divisor, to);
-        return;
+            return putScaled<quint8>(text, form.divisor, to);
+        return putScaled<qint32>(text, form.divisor, to);
     }
     switch (form.type) {
     case ValueType::u8:
@@ -60,6 +62,7 @@ void readValue(ElementIndex index, std::string_view text, std::uint8_t* to)
     case ValueType::f32:
         return put<float>(text, to);
     }
+    return false;
 }
 
 } // namespace vlk

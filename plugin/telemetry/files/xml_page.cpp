@@ -30,7 +30,8 @@ QString textOf(std::string_view bytes)
 }
 
 XmlPage::XmlPage(std::string line, qint64 at)
-    : line_(std::move(line)), at_(at), type_(numberAttribute<quint8>(line_, "type"))
+    : line_(std::move(line)), at_(at), type_(numberAttribute<quint8>(line_, "type")),
+      isSound_(isSoundPageLine(line_))
 {
 }
 
@@ -41,47 +42,64 @@ bool XmlPage::isRecord() const
 
 void XmlPage::take(std::string_view line)
 {
-    std::optional<ElementIndex> read;
-    if (type_ == kTelemetryRecord) {
-        const ElementLine parts = elementLine(line);
-        read = findElement(parts.tag);
-        if (read)
-            readValue(*read, parts.value, block_.data() + kElements[*read].offset);
-    } else if (type_ == kExtraPacket && line.find("<Dynamic") != line.npos) {
+    if (!isRecord())
+        return;
+    if (type_ == kExtraPacket && line.find("<Dynamic") != line.npos)
         readEntry(line);
-    } else if (type_ == kExtraPacket) {
-        read = readPacketElement(line);
-    }
-    if (read)
-        seen_.set(*read);
+    else
+        readElement(line);
+    if (const std::optional<std::string_view> whole = lines_.add(line))
+        isSound_ = isSound_ && (isSoundInPage(*whole) || (type_ == kExtraPacket && isSoundEntry(*whole)));
 }
 
-std::optional<ElementIndex> XmlPage::readPacketElement(std::string_view line)
+void XmlPage::finish(End how, std::string_view line, qint64 lineAt)
+{
+    end = how;
+    endAt = lineAt;
+    nextLine = line;
+    const bool isAlone = how == NextPage || trimmed(line) == "</Page>";
+    isSound_ = isSound_ && isAlone && trimmed(lines_.takeRest()).empty();
+}
+
+void XmlPage::readElement(std::string_view line)
 {
     const ElementLine parts = elementLine(line);
-    const auto named = [&](const ExtraPacket::HeadElement& row) {
-        return kElements[row.element].name == parts.tag;
-    };
-    const auto row = std::ranges::find_if(ExtraPacket::kElementsOfHead, named);
-    if (row == ExtraPacket::kElementsOfHead.end())
-        return std::nullopt;
-    readValue(row->element, parts.value, head_.data() + row->offset);
-    return row->element;
+    const std::optional<ElementIndex> index = findElement(parts.tag);
+    std::uint8_t* const place = index ? placeOf(*index) : nullptr;
+    if (place == nullptr)
+        return;
+    isSound_ = readValue(*index, parts.value, place) && isSound_ && !seen_.test(*index);
+    seen_.set(*index);
+}
+
+// None in a packet where its head has no such element.
+std::uint8_t* XmlPage::placeOf(ElementIndex index)
+{
+    if (type_ == kTelemetryRecord)
+        return block_.data() + kElements[index].offset;
+    const auto row =
+        std::ranges::find(ExtraPacket::kElementsOfHead, index, &ExtraPacket::HeadElement::element);
+    return row == ExtraPacket::kElementsOfHead.end() ? nullptr : head_.data() + row->offset;
 }
 
 void XmlPage::readEntry(std::string_view line)
 {
-    const auto type = numberAttribute<quint8>(line, "type");
-    const auto size = numberAttribute<quint8>(line, "size");
+    const std::optional<quint8> typeRead = numberIn<quint8>(attribute(line, "type"));
+    const std::optional<quint8> sizeRead = numberIn<quint8>(attribute(line, "size"));
+    const quint8 type = typeRead.value_or(0);
+    const quint8 size = sizeRead.value_or(0);
     const std::string_view value = attribute(line, "value");
     const std::array<std::uint8_t, ExtraPacket::kEntryHeadBytes> head{type, size};
+    isSound_ = isSound_ && typeRead && sizeRead;
     putInArea(0, head);
     if (type == ExtraEntry::Card) {
         const QByteArray bytes = cardBytes(value, size);
         putInArea(head.size(), bytesAt(bytes.constData(), bytes.size()));
     } else if (type == ExtraEntry::TouchKey || type == ExtraEntry::Rfid) {
         std::array<std::uint8_t, sizeof(quint64)> bytes;
-        qToLittleEndian(numberFrom<quint64>(value), bytes.data());
+        const std::optional<quint64> number = numberIn<quint64>(value);
+        isSound_ = isSound_ && number;
+        qToLittleEndian(number.value_or(0), bytes.data());
         putInArea(head.size(), bytes);
     }
     areaSize_ += head.size() + size;

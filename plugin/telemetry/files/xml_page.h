@@ -4,6 +4,7 @@
 
 #include "telemetry/files/line_parts.h"
 #include "telemetry/files/number_text.h"
+#include "telemetry/files/sound_lines.h"
 #include "telemetry/record/record_store.h"
 
 #include <bitset>
@@ -31,6 +32,8 @@ public:
 
     // A line between the first and the last.
     void take(std::string_view line);
+    // The line that ended it.
+    void finish(End how, std::string_view line, qint64 lineAt);
 
     quint8 type() const { return type_; }
     quint8 ver() const { return numberAttribute<quint8>(line_, "ver"); }
@@ -38,6 +41,8 @@ public:
     bool isRecord() const;
     // Whether all came that a page of its kind has.
     bool isWhole() const;
+    // Whether every line of it is one, with a number where a number belongs, and none came twice.
+    bool isSound() const { return isSound_; }
     const std::string& line() const { return line_; }
     qint64 at() const { return at_; }
 
@@ -49,7 +54,8 @@ public:
     std::string nextLine; // that line
 
 private:
-    std::optional<ElementIndex> readPacketElement(std::string_view line);
+    void readElement(std::string_view line);
+    std::uint8_t* placeOf(ElementIndex index);
     void readEntry(std::string_view line);
     void putInArea(std::size_t offset, std::span<const std::uint8_t> bytes);
     ExtraPacket packet() const;
@@ -63,6 +69,8 @@ private:
     std::array<std::uint8_t, ExtraPacket::kAreaBytes> area_{};
     std::size_t areaSize_ = 0;
     std::bitset<kElementCount> seen_;
+    JoinedLines lines_;
+    bool isSound_;
 };
 
 } // namespace vlk
