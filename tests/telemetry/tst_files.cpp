@@ -383,6 +383,9 @@ private Q_SLOTS:
             .row("no end of an element", spoilt("</NumPage>", ""), lost(-10), 3, false, "3 3")
             .row("an element twice", spoilt("</Page>", "<NumPage>1</NumPage>\n</Page>"), lost(21), 3, false,
                  "3 3")
+            .row("a line left out", spoilt("<NumPage>1</NumPage>\n", ""), lost(-21), 3, false, "3 3")
+            .row("lines left out everywhere", sparse + "</Page>\n" + sparse + "</Page>\n", {}, 2, false,
+                 "2 2")
             .row("no mask", spoilt("\"1\">", "\"x\">"), lost(0), 3, false, "3 3")
             .row("bytes between pages", other + "XXXX\n" + other, {FileDamage::Records, other.size(), 5}, 2,
                  false, "3 3")

@@ -58,6 +58,18 @@ bool isSoundInPage(std::string_view line)
     return beginsName(tag) && !findElement(tag);
 }
 
+bool closesItself(std::string_view line)
+{
+    const std::size_t opening = line.find('<');
+    const std::size_t closing = line.rfind("</");
+    if (closing == line.npos || opening == closing)
+        return true;
+    const auto nameBehind = [line](std::size_t at) {
+        return line.substr(at, line.find_first_of(" \t>", at) - at);
+    };
+    return nameBehind(opening + 1) == nameBehind(closing + 2);
+}
+
 bool isSoundEntry(std::string_view line)
 {
     line = trimmed(line);

@@ -12,6 +12,8 @@ namespace vlk {
 
 // Within a page: nothing, an element with its value, or a tag of something unknown.
 bool isSoundInPage(std::string_view line);
+// Whether an element ends with its own name, if it has an end.
+bool closesItself(std::string_view line);
 // A packet's entry, whose text may hold anything.
 bool isSoundEntry(std::string_view line);
 // Outside: nothing or a tag, whatever text its attributes hold; what belongs into a page does not stand

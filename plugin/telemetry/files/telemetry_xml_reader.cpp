@@ -144,10 +144,16 @@ void TelemetryXmlReader::readPage(std::string pageLine, qint64 at)
     endPage(page);
 }
 
+// Who writes pages without some of their elements does so in all of them.
+bool TelemetryXmlReader::mayLackElements(const XmlPage& page) const
+{
+    return page.end == XmlPage::Closing && !page.mixesElements() && !usual_.knows(page.line());
+}
+
 void TelemetryXmlReader::endPage(const XmlPage& page)
 {
     const bool salvages = reading_ == TelemetryReading::salvage;
-    const bool isIntact = page.isSound() && (!page.isRecord() || page.isWhole());
+    const bool isIntact = page.isSound() && (page.isWhole() || mayLackElements(page));
     const bool isKept = page.isRecord() && (!salvages || isIntact);
     if (page.end == XmlPage::OfFile)
         goOnAt(page.at());
@@ -160,7 +166,7 @@ void TelemetryXmlReader::endPage(const XmlPage& page)
         ++total_;
         contents_.damaged += page.end == XmlPage::OfFile || isIntact ? 0 : 1;
     }
-    if (page.type() == kTelemetryRecord && page.end == XmlPage::Closing && isIntact)
+    if (page.type() == kTelemetryRecord && page.end == XmlPage::Closing && isIntact && page.isWhole())
         usual_.remember(page.line(), page.ver(), page.mask());
     if (page.end == XmlPage::OfFile) {
         contents_.lastIsCut = isKept && !salvages;

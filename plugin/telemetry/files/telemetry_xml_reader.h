@@ -33,6 +33,7 @@ private:
     void readBetween(std::string_view line, qint64 at);
     void endBetween(std::string_view front, qint64 at);
     void readPage(std::string pageLine, qint64 at);
+    bool mayLackElements(const XmlPage& page) const;
     void endPage(const XmlPage& page);
     void endWithNext(const XmlPage& page, bool isKept);
     void report(FileDamage::Kind kind, qint64 from, qint64 to);

@@ -48,8 +48,11 @@ void XmlPage::take(std::string_view line)
         readEntry(line);
     else
         readElement(line);
-    if (const std::optional<std::string_view> whole = lines_.add(line))
-        isSound_ = isSound_ && (isSoundInPage(*whole) || (type_ == kExtraPacket && isSoundEntry(*whole)));
+    const std::optional<std::string_view> whole = lines_.add(line);
+    if (!whole || (type_ == kExtraPacket && isSoundEntry(*whole)))
+        return;
+    isSound_ = isSound_ && isSoundInPage(*whole);
+    mixesElements_ = mixesElements_ || !closesItself(*whole);
 }
 
 void XmlPage::finish(End how, std::string_view line, qint64 lineAt)

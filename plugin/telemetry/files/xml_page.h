@@ -41,6 +41,8 @@ public:
     bool isRecord() const;
     // Whether all came that a page of its kind has.
     bool isWhole() const;
+    // Whether one of its elements ends as another one.
+    bool mixesElements() const { return mixesElements_; }
     // Whether every line of it is one, with a number where a number belongs, and none came twice.
     bool isSound() const { return isSound_; }
     const std::string& line() const { return line_; }
@@ -71,6 +73,7 @@ private:
     std::bitset<kElementCount> seen_;
     JoinedLines lines_;
     bool isSound_;
+    bool mixesElements_ = false;
 };
 
 } // namespace vlk
