@@ -1238,8 +1238,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_201"><translation>Telemetry in another form: tables, tracks, records as texts</translation></message>
     <message id="cli_202"><translation>What to convert into</translation></message>
     <message id="cli_203"><translation>The columns of a table, by their names; archive: all there are</translation></message>
-    <message id="cli_204"><translation>From this time on</translation></message>
-    <message id="cli_205"><translation>Up to this time</translation></message>
+    <message id="cli_204"><translation>From this time on, in the time zone of this computer unless it names one: 2026-11-20T08:00Z, 2026-11-20T08:00+03:00</translation></message>
+    <message id="cli_205"><translation>Up to this time, likewise</translation></message>
     <message id="cli_206"><translation>The records that meet a condition: Speed &gt; 60 and IN1 = 1</translation></message>
     <message id="cli_207"><translation>The number or name of the tracker</translation></message>
     <message id="cli_208"><translation>Values as the XML form has them</translation></message>
@@ -1412,6 +1412,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_264"><translation>--from is after --to-time</translation></message>
     <message id="cli_265"><translation>--decimal-comma is for csv and tsv</translation></message>
     <message id="cli_266"><translation>%1 that -o would replace by something else</translation></message>
+    <message id="cli_270"><translation>All files are of one vehicle: their records are judged together, each once. Without it this goes for TMI files that tell the same tracker, any other file is judged alone</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>
     <message id="rev_003"><translation>Unknown key, a write drops it</translation></message>
@@ -1599,6 +1600,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_296"><translation>Only the beginning of this record is in the file.</translation></message>
     <message id="rec_297"><translation>%1, 1 of them cut</translation></message>
     <message id="rec_298"><translation>%1, not &quot;%2&quot;</translation></message>
+    <message id="rec_360"><translation>a known value of %1, not &quot;%2&quot;</translation></message>
+    <message id="rec_361"><translation>%1 (perhaps %2)</translation></message>
     <message id="rec_300"><translation>Latest filters (Down)</translation></message>
     <message id="rec_301"><translation>No filters yet</translation></message>
     <message id="rev_230"><translation>alarm, alarm zone, temperature threshold, minimum</translation></message>
@@ -1900,7 +1903,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_189"><translation>Whole records: %1, the file should hold %2.</translation></message>
     <message id="tmiw_190"><translation>The file does not begin as a TMI file does.</translation></message>
     <message id="tmiw_191"><translation>Its header is not what was written: the checksum is wrong.</translation></message>
-    <message id="tmiw_192"><translation>Byte %1: no record there, reading went on at byte %2.</translation></message>
+    <message id="tmiw_192"><translation>Byte %1: no whole record there, reading went on at byte %2.</translation></message>
     <message id="tmiw_193"><translation>Byte %1: the file ends within the record that begins there, so reading stopped.</translation></message>
     <message id="tmiw_194"><translation>Its records are not what was written: the checksum is wrong.</translation></message>
     <message id="tmiw_195"><translation>Re&amp;ad</translation></message>

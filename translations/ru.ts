@@ -1238,8 +1238,8 @@
     <message id="cli_201"><translation>Телеметрия в другом виде: таблицы, треки, записи текстами</translation></message>
     <message id="cli_202"><translation>Во что преобразовать</translation></message>
     <message id="cli_203"><translation>Столбцы таблицы по названиям; archive: все, какие есть</translation></message>
-    <message id="cli_204"><translation>Начиная с этого времени</translation></message>
-    <message id="cli_205"><translation>До этого времени</translation></message>
+    <message id="cli_204"><translation>Начиная с этого времени, по часовому поясу этого компьютера, если пояс не указан: 2026-11-20T08:00Z, 2026-11-20T08:00+03:00</translation></message>
+    <message id="cli_205"><translation>До этого времени, так же</translation></message>
     <message id="cli_206"><translation>Записи, отвечающие условию: Speed &gt; 60 и IN1 = 1</translation></message>
     <message id="cli_207"><translation>Номер или название трекера</translation></message>
     <message id="cli_208"><translation>Значения, как в файле XML</translation></message>
@@ -1412,6 +1412,7 @@
     <message id="cli_264"><translation>--from позже --to-time</translation></message>
     <message id="cli_265"><translation>--decimal-comma только для csv и tsv</translation></message>
     <message id="cli_266"><translation>в файле %1, -o заменит содержимое другим</translation></message>
+    <message id="cli_270"><translation>Все файлы с одной машины: записи оцениваются вместе, каждая один раз. Без этого так оцениваются файлы TMI, в которых указан один и тот же трекер, любой другой файл — отдельно</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>
@@ -1599,6 +1600,8 @@
     <message id="rec_296"><translation>В файле только начало этой записи.</translation></message>
     <message id="rec_297"><translation>%1, из них 1 обрезана</translation></message>
     <message id="rec_298"><translation>%1, а не «%2»</translation></message>
+    <message id="rec_360"><translation>известное значение «%1», а не «%2»</translation></message>
+    <message id="rec_361"><translation>%1 (возможно, %2)</translation></message>
     <message id="rec_300"><translation>Последние фильтры (стрелка вниз)</translation></message>
     <message id="rec_301"><translation>Фильтров ещё не было</translation></message>
     <message id="rev_230"><translation>тревога, тревожная зона, порог температуры, минимум</translation></message>
@@ -1900,7 +1903,7 @@
     <message id="tmiw_189"><translation>Целых записей: %1, в файле должно быть %2.</translation></message>
     <message id="tmiw_190"><translation>Файл начинается не так, как файл TMI.</translation></message>
     <message id="tmiw_191"><translation>Заголовок не такой, каким был записан: контрольная сумма неверна.</translation></message>
-    <message id="tmiw_192"><translation>Байт %1: записи там нет, чтение продолжено с байта %2.</translation></message>
+    <message id="tmiw_192"><translation>Байт %1: целой записи там нет, чтение продолжено с байта %2.</translation></message>
     <message id="tmiw_193"><translation>Байт %1: файл кончается внутри записи, которая там начинается, и чтение на этом закончено.</translation></message>
     <message id="tmiw_194"><translation>Записи не такие, какими были записаны: контрольная сумма неверна.</translation></message>
     <message id="tmiw_195"><translation>Прочит&amp;ать</translation></message>

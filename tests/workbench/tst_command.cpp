@@ -21,6 +21,7 @@ private Q_SLOTS:
         folder_ = std::make_unique<QTemporaryDir>();
         QDir(folder_->path()).mkpath("fleet/sub");
         QDir(folder_->path()).mkpath("bare");
+        QDir(folder_->path()).mkpath("days");
         const QByteArray track =
             "<DEVICE model='R-7106'><X y='1'/><TRACK><POINTS maxSpeed='90' z='2'/></TRACK>"
             "</DEVICE>";
@@ -47,6 +48,13 @@ private Q_SLOTS:
                        QByteArray::number(1704067200 + 60 * i) + "</Time>\r\n<LevelRS485_1>" +
                        (i < 10 ? "3120" : "2510") + "</LevelRS485_1>\r\n</Page>\r\n";
         put("week.xml", drained + "</TMI>\r\n");
+        // The same in two files that share a record; the drain is where they part.
+        const auto page = [&](int number) {
+            return drained.indexOf("<Page",
+                                   drained.indexOf(">" + QByteArray::number(number) + "</Num") - 100);
+        };
+        put("days/1.xml", drained.left(page(11)) + "</TMI>\r\n");
+        put("days/2.xml", "<TMI model=\"R-7106\">\r\n" + drained.mid(page(10)) + "</TMI>\r\n");
         const QByteArray rows = "<TABLE><DATA param_U='0' param_V='0'/><DATA param_U='400' param_V='4000'/>";
         put("tank.xml", "<FUEL type='D1'>" + rows + "</TABLE></FUEL>");
         put("other.xml", "<FUEL type='D2'>" + rows + "</TABLE></FUEL>");
@@ -148,6 +156,11 @@ private Q_SLOTS:
                  R"("latitude":null,"longitude":null,"sensor":"LevelRS485_1"})"
                  "\n",
                  "")
+            .row("a drain between files of one vehicle", "fuel --merge --table tank.xml days days/2.xml", 1,
+                 "days/1.xml: 2024-01-01T00:09:00Z to 2024-01-01T00:10:00Z: drain -61.0\u00a0l (312.0 to "
+                 "251.0), LevelRS485_1\n",
+                 "")
+            .row("files that tell no vehicle", "fuel --table tank.xml days", 0, "", "")
             .row("a drain in words", "fuel --table tank.xml week.xml", 1,
                  "week.xml: 2024-01-01T00:09:00Z to 2024-01-01T00:10:00Z: drain -61.0\u00a0l (312.0 to "
                  "251.0), "

@@ -58,12 +58,19 @@ private Q_SLOTS:
         QByteArray damaged = readFile(path("a.tmi"));
         damaged[128 + 2] = 0; // the type of the first record
         put("damaged.tmi", damaged);
+        put("spoilt.xml", readFile(path("b.xml")).replace("<Time>1700000002<", "<Time>17000x0002<"));
         put("cut.xml", readFile(path("b.xml")).left(1500));
     }
 
     void tells_data()
     {
         const DataTable<QString, int, QByteArray, QByteArray> table({"call", "status", "told", "complaints"});
+        const QByteArray xml = readFile(path("b.xml"));
+        const int second = xml.indexOf("\t<Page", xml.indexOf("<Page"));
+        const QByteArray lost = "spoilt.xml: offset " + QByteArray::number(second) +
+                                ": no record; went on at " + QByteArray::number(xml.lastIndexOf("\t<Page")) +
+                                "\nspoilt.xml: offset " + QByteArray::number(xml.indexOf("\t<INTERVAL")) +
+                                ": the file tells another count of records\n";
         const QByteArray head = "NumPage,Code,Time,\"Power, V\"\r\n";
         const auto row = [](int number) {
             const QByteArray digit = QByteArray::number(number);
@@ -116,6 +123,17 @@ private Q_SLOTS:
                  "damaged.tmi: offset 128: no record; went on at 176\n"
                  "damaged.tmi: offset 128: the records are not what was written\n"
                  "damaged.tmi: offset 19: the file tells another count of records\n")
+            .row("lines that are none", "spoilt.xml --to csv --columns NumPage", 1, "NumPage\r\n5\r\n3\r\n",
+                 lost)
+            .row("nothing where lines are none", "spoilt.xml --strict --to csv", 2, "", lost)
+            .row("words", "a.tmi --to ndjson --where NumPage=4", 0,
+                 "{\"number\":4,\"NumPage\":\"4\",\"Code\":\"Supply voltage restored\","
+                 "\"Time\":\"01:13:24 15.11.2023 (UTC +3)\",\"Power\":\"0.00\"}\n",
+                 "")
+            .row(
+                "no such event", "a.tmi --to csv --where Event=\"Supply_voltage_back\"", 2, "",
+                "r7106: --where: at character 7 there should be a known value of Event, not \"Supply voltage "
+                "back\" (perhaps \"Supply voltage low\", \"Supply voltage restored\")\n")
             .row("nothing of what is damaged", "damaged.tmi --strict --to ndjson --raw", 2, "",
                  "damaged.tmi: offset 128: no record; went on at 176\n"
                  "damaged.tmi: offset 128: the records are not what was written\n"
@@ -152,6 +170,32 @@ private Q_SLOTS:
             QVERIFY(std::get<1>(run({"convert", "many.tmi", "--to", "csv-text"})) == one);
         QCOMPARE(one.count('\n'), 3002);
         QVERIFY(one.contains(toWindows1251(origin_.vendor)));
+    }
+
+    // A tank is emptied where two files of one tracker part; they share a record.
+    void fuelOfOneTracker()
+    {
+        put("tank.xml", "<FUEL type='D1'><TABLE><DATA param_U='0' param_V='0'/>"
+                        "<DATA param_U='400' param_V='4000'/></TABLE></FUEL>");
+        for (const auto& [tracker, status] : {std::pair("7", 1), {"", 0}}) {
+            TelemetryOrigin origin;
+            origin.trackerId = QString(tracker);
+            for (const int first : {0, 10}) {
+                RecordStore store;
+                for (quint64 i = first; i < quint64(first) + 11; ++i) {
+                    const RecordParts record{{"NumPage", i},
+                                             {"Time", 1700000000 + 60 * i},
+                                             {"LevelRS485_1", i < 10 ? 3120 : 2510}};
+                    store.add(30, record.mask, record.block);
+                }
+                put(QString("days%1.tmi").arg(first), fileOf(ExportForm::tmi, store, origin));
+            }
+            const auto [found, told, complaints] =
+                run({"fuel", "--table", "tank.xml", "days0.tmi", "days10.tmi"});
+            QCOMPARE(complaints, QByteArray());
+            QCOMPARE(told.count('\n'), status);
+            QCOMPARE(found, status);
+        }
     }
 
     // More files than a process may have open.

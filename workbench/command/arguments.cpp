@@ -65,7 +65,7 @@ constexpr CommandRow kCommands[] = {
     {"fuel", "cli_230",
      "  r7106 fuel --table tank.xml week.xml\n  r7106 fuel --table left.xml --table right.xml --fall 15 "
      "--json "
-     "archive",
+     "archive\n  r7106 fuel --table tank.xml --merge monday.xml tuesday.xml",
      CommandRow::tablesAndFiles, false, false},
 };
 
@@ -147,6 +147,7 @@ void addFuelOptions(CLI::App& app, Read& read)
             ->check(CLI::Range(0.1, 1e6))
             ->transform(withPoint)
             ->option_text("LITRES");
+    app.add_flag("--merge", read.call.isOneVehicle, words("cli_270"));
 }
 
 void addOptions(CLI::App& app, const CommandRow& row, Read& read)

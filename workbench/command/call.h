@@ -42,6 +42,7 @@ struct Call
     QStringList sensors;
     double rise = 20; // litres
     double fall = 10;
+    bool isOneVehicle = false;
 };
 
 // The greater one counts.

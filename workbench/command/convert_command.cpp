@@ -394,6 +394,8 @@ int convert(const Call& call, Output& output)
     const Conversion& asked = call.conversion;
     vlk::ExportOptions options;
     options.raw = asked.raw;
+    if (asked.form == QLatin1String("ndjson"))
+        options.eventText = tracker::eventText;
     options.decimalComma = asked.decimalComma;
     options.encode = vlk::toWindows1251;
     options.archive = asked.columns == QLatin1String("archive");

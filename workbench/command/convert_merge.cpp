@@ -3,7 +3,7 @@
 
 #include "command/convert_source.h"
 
-#include "telemetry/files/raw_values.h"
+#include "command/record_key.h"
 #include "telemetry/files/title_lines.h"
 
 #include <QTemporaryFile>
@@ -23,38 +23,14 @@ constexpr qint64 kBytesOfRun = 24 << 20;
 constexpr int kRecordsOfMergedBatch = 1024;
 constexpr qint64 kBytesAhead = 16 << 10; // of a run that are read at a time
 
-// What tells one record from another.
-struct Key
-{
-    quint32 time = 0;
-    quint32 number = 0;
-    bool isPacket = false;
-
-    auto operator<=>(const Key&) const = default;
-};
-
 // As a record lies in the file, in front of its bytes.
 struct Entry
 {
-    Key key;
+    RecordKey key;
     quint32 layout = 0;
     quint32 origin = 0;
     quint32 size = 0;
 };
-
-quint32 wordOf(const RecordStore& store, int record, vlk::ElementIndex index)
-{
-    const int offset = store.layout(record).offsetOf(index);
-    const auto bytes = store.bytes(record);
-    const bool isThere = offset >= 0 && bytes.size() >= offset + sizeof(quint32);
-    return isThere ? static_cast<quint32>(vlk::rawAt(bytes.data() + offset, sizeof(quint32))) : 0;
-}
-
-Key keyOf(const RecordStore& store, int record)
-{
-    return {wordOf(store, record, vlk::element("Time")), wordOf(store, record, vlk::element("NumPage")),
-            store.layout(record).isPacket()};
-}
 
 // A sorted part of the file while it is read.
 class Run
@@ -163,7 +139,7 @@ private:
     // The next record of a run. Of equal ones that of the earlier run comes first.
     struct Head
     {
-        Key key;
+        RecordKey key;
         std::size_t run;
 
         auto operator<=>(const Head&) const = default;
@@ -185,7 +161,7 @@ private:
 
     bool writeRun()
     {
-        std::vector<Key> keys(held_.size());
+        std::vector<RecordKey> keys(held_.size());
         for (int record = 0; record < held_.size(); ++record)
             keys[record] = keyOf(held_, record);
         std::vector<int> order(held_.size());
@@ -222,7 +198,7 @@ private:
 
     std::vector<Run> runs_;
     std::priority_queue<Head, std::vector<Head>, std::greater<>> heads_;
-    std::optional<Key> last_;
+    std::optional<RecordKey> last_;
 };
 
 } // namespace

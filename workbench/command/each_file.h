@@ -5,14 +5,40 @@
 
 #include "command/call.h"
 #include "command/file_walk.h"
+#include "command/in_order.h"
 #include "command/output.h"
+#include "command/progress.h"
 
 #include <functional>
 
 namespace workbench::command {
 
-// `work` runs in several threads at once, what outcomes do in turn in the calling one. Gives the greatest
-// status.
+// Works on what `next` gives, in several threads at once; what outcomes do in turn they do in the calling
+// one. Gives the greatest status.
+template <class Item>
+int workInTurn(std::function<std::optional<Item>()> next, std::function<Outcome(Item)> work, Output& output)
+{
+    InOrder<Item, Outcome> outcomes(std::move(next), std::move(work));
+    Progress progress;
+    int status = nothing;
+    for (std::size_t done = 1; const std::optional<Outcome> outcome = outcomes.take(); ++done) {
+        if (!outcome->told.isEmpty())
+            progress.clear();
+        output.write(outcome->told);
+        progress.writeError(outcome->complaints);
+        if (outcome->inTurn)
+            outcome->inTurn();
+        status = std::max(status, outcome->status);
+        progress.show(done);
+    }
+    progress.clear();
+    return status;
+}
+
+// Of the folders that held nothing.
+void tellEmpty(const FileWalk& walk);
+
+// The same for the files of a call.
 int eachFile(const QStringList& names, const std::function<Outcome(const File&)>& work, Output& output);
 
 } // namespace workbench::command

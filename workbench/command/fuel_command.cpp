@@ -8,11 +8,14 @@
 #include "command/file_kind.h"
 #include "command/file_names.h"
 #include "command/json_line.h"
-#include "command/telemetry_summary.h"
+#include "command/record_key.h"
+#include "telemetry/files/binary_layout.h"
+#include "telemetry/files/identity_text.h"
 #include "telemetry/files/telemetry_reader.h"
 #include "telemetry/fuel/calibration.h"
 #include "telemetry/fuel/fuel_events.h"
 #include "telemetry/fuel/tank_levels.h"
+#include "telemetry/record/record_head.h"
 #include "window/languages.h"
 
 #include <QBuffer>
@@ -21,6 +24,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
+#include <set>
 
 namespace workbench::command {
 
@@ -123,50 +128,149 @@ Outcome takeTanks(const Call& call, std::vector<TankSensor>* tanks)
     return outcome;
 }
 
-Outcome eventsIn(const Call& call, const File& file, const std::vector<TankSensor>& tanks, QIODevice& device)
+// Files whose records are judged together.
+using Vehicle = std::vector<File>;
+
+std::optional<QByteArray> identityOf(const File& file)
 {
-    vlk::TelemetryReader reader(device, {}, vlk::TelemetryReading::salvage);
-    while (reader.step()) {
-    }
-    reader.finish();
-    const vlk::TelemetryContents& contents = reader.contents();
-    vlk::RecordColumns columns(contents.records);
-    const vlk::NumberColumn litres = vlk::tankLitres(columns, tanks);
-    const QString sensor = vlk::elementsOf(tanks);
-    if (std::ranges::all_of(litres, [](double level) { return std::isnan(level); }))
-        return refusal(call, file.name, text("cli_244").arg(sensor));
-    Outcome outcome{{}, damageLines(file, contents.damages), contents.damages.empty() ? nothing : found};
-    for (const FuelEvent& event : vlk::findFuelEvents(columns, litres, {call.rise, call.fall})) {
-        outcome.told += eventLine(call, file, sensor, event);
-        outcome.status = found;
-    }
-    return outcome;
+    QFile device(file.name);
+    if (file.isStandardInput() || !device.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    const QByteArray header = device.read(vlk::binary::kHeaderBytes);
+    const QByteArray identity = vlk::identityIn(vlk::bytesAt(header.constData(), header.size()));
+    return identity.isEmpty() ? std::nullopt : std::optional(identity);
 }
 
-Outcome eventsOf(const Call& call, const File& file, const std::vector<TankSensor>& tanks)
+// Files that tell the same identity are of one vehicle, those that tell none are each of their own.
+std::vector<Vehicle> vehiclesOf(FileWalk& walk, bool isOne)
 {
-    QFile plain(file.name);
-    QBuffer held;
-    QIODevice* device = &plain;
-    if (file.isStandardInput()) {
-        // It cannot be read twice.
-        QFile input;
-        if (input.open(stdin, QIODevice::ReadOnly))
-            held.setData(input.readAll());
-        device = &held;
+    std::vector<Vehicle> vehicles;
+    std::map<QByteArray, std::size_t> known;
+    while (const std::optional<File> file = walk.next()) {
+        const std::optional<QByteArray> identity = isOne ? QByteArray() : identityOf(*file);
+        const auto place = identity ? known.find(*identity) : known.end();
+        if (place != known.end()) {
+            vehicles[place->second].push_back(*file);
+            continue;
+        }
+        if (identity)
+            known.emplace(*identity, vehicles.size());
+        vehicles.push_back({*file});
     }
-    if (!device->open(QIODevice::ReadOnly))
-        return refusal(call, file.name, whyUnreadable(plain));
-    const QByteArray start = device->peek(kBeginning);
-    if (start.isEmpty() && plain.isOpen() && plain.error() != QFileDevice::NoError)
-        return refusal(call, file.name, whyUnreadable(plain));
-    const FileKind kind = kindOf(start);
-    if (kind == FileKind::telemetry)
-        return eventsIn(call, file, tanks, *device);
-    if (!file.isNamed && kind != FileKind::unknown)
-        return {};
-    return refusal(call, file.name, text(start.isEmpty() ? "cli_004" : "cli_245"));
+    return vehicles;
 }
+
+class FuelSearch
+{
+public:
+    FuelSearch(const Call& call, const std::vector<TankSensor>& tanks) : call_(call), tanks_(tanks) {}
+
+    Outcome eventsOf(const Vehicle& files)
+    {
+        for (const File& file : files)
+            read(file, files.size() > 1);
+        vlk::RecordColumns columns(records_);
+        const vlk::NumberColumn litres = vlk::tankLitres(columns, tanks_);
+        const QString sensor = vlk::elementsOf(tanks_);
+        refuseWithoutLevels(litres, sensor);
+        for (const FuelEvent& event : vlk::findFuelEvents(columns, litres, {call_.rise, call_.fall})) {
+            outcome_.told += eventLine(call_, partOf(event.record).file, sensor, event);
+            outcome_.status = std::max<int>(outcome_.status, found);
+        }
+        return std::move(outcome_);
+    }
+
+private:
+    // The records of a file, without those that others had before.
+    struct Part
+    {
+        File file;
+        int begin;
+        int end;
+        bool hadRecords;
+    };
+
+    const Part& partOf(int record) const
+    {
+        return *std::ranges::find_if(parts_, [record](const Part& part) { return record < part.end; });
+    }
+
+    void refuse(const File& file, const QString& reason)
+    {
+        const Outcome refused = refusal(call_, file.name, reason);
+        outcome_.told += refused.told;
+        outcome_.complaints += refused.complaints;
+        outcome_.status = failed;
+    }
+
+    void read(const File& file, bool isOneOfSeveral)
+    {
+        QFile plain(file.name);
+        QBuffer held;
+        QIODevice* device = &plain;
+        if (file.isStandardInput()) {
+            // It cannot be read twice.
+            QFile input;
+            if (input.open(stdin, QIODevice::ReadOnly))
+                held.setData(input.readAll());
+            device = &held;
+        }
+        if (!device->open(QIODevice::ReadOnly))
+            return refuse(file, whyUnreadable(plain));
+        const QByteArray start = device->peek(kBeginning);
+        if (start.isEmpty() && plain.isOpen() && plain.error() != QFileDevice::NoError)
+            return refuse(file, whyUnreadable(plain));
+        const FileKind kind = kindOf(start);
+        if (kind == FileKind::telemetry)
+            return readRecords(file, *device, isOneOfSeveral);
+        if (file.isNamed || kind == FileKind::unknown)
+            refuse(file, text(start.isEmpty() ? "cli_004" : "cli_245"));
+    }
+
+    void readRecords(const File& file, QIODevice& device, bool isOneOfSeveral)
+    {
+        vlk::TelemetryReader reader(device, {}, vlk::TelemetryReading::salvage);
+        Part part{file, records_.size(), 0, false};
+        for (bool isMore = true; isMore;) {
+            isMore = reader.step();
+            vlk::RecordStore& ahead = reader.contents().records;
+            if (isMore && ahead.size() < kRecordsAhead)
+                continue;
+            part.hadRecords = part.hadRecords || !ahead.empty();
+            for (int record = 0; record < ahead.size(); ++record) {
+                if (!isOneOfSeveral || seen_.insert(keyOf(ahead, record)).second)
+                    records_.add(ahead.layout(record), ahead.bytes(record));
+            }
+            ahead.clear();
+        }
+        reader.finish();
+        const std::vector<vlk::FileDamage>& damages = reader.contents().damages;
+        outcome_.complaints += damageLines(file, damages);
+        if (!damages.empty())
+            outcome_.status = std::max<int>(outcome_.status, found);
+        part.end = records_.size();
+        parts_.push_back(std::move(part));
+    }
+
+    void refuseWithoutLevels(const vlk::NumberColumn& litres, const QString& sensor)
+    {
+        for (const Part& part : parts_) {
+            const auto levels = std::span(litres).subspan(part.begin, part.end - part.begin);
+            const bool isKnown = part.hadRecords && levels.empty();
+            if (!isKnown && std::ranges::all_of(levels, [](double level) { return std::isnan(level); }))
+                refuse(part.file, text("cli_244").arg(sensor));
+        }
+    }
+
+    static constexpr int kRecordsAhead = 1000;
+
+    const Call& call_;
+    const std::vector<TankSensor>& tanks_;
+    Outcome outcome_;
+    vlk::RecordStore records_;
+    std::set<RecordKey> seen_; // of several files
+    std::vector<Part> parts_;
+};
 
 } // namespace
 
@@ -178,8 +282,15 @@ int fuel(const Call& call, Output& output)
     writeError(outcome.complaints);
     if (outcome.status == failed)
         return failed;
-    return eachFile(
-        call.files, [&](const File& file) { return eventsOf(call, file, tanks); }, output);
+    FileWalk walk(call.files);
+    const std::vector<Vehicle> vehicles = vehiclesOf(walk, call.isOneVehicle);
+    const int status = workInTurn<Vehicle>(
+        [&, at = std::size_t{0}]() mutable {
+            return at < vehicles.size() ? std::optional(vehicles[at++]) : std::nullopt;
+        },
+        [&](const Vehicle& files) { return FuelSearch(call, tanks).eventsOf(files); }, output);
+    tellEmpty(walk);
+    return status;
 }
 
 } // namespace workbench::command

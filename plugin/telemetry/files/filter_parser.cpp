@@ -14,6 +14,8 @@ using namespace nodes;
 
 constexpr int kDeepest = 64;
 constexpr int kMostCompletions = 200; // more would not be read
+constexpr int kMostNearWords = 3;
+constexpr int kLeastAlike = 3; // characters at the beginning of a word
 
 enum class Expected : std::uint8_t {
     name,
@@ -96,6 +98,8 @@ public:
     // Of the fault.
     int position() const { return faultAt_; }
     Expected expected() const { return expected_; }
+    // What stands in quotes and is none of the words of its column; else null.
+    const QString& unknownWord() const { return unknownWord_; }
     // The last name that was read: its column, where it begins and where it ends.
     FilterColumn column() const { return column_; }
     int nameBegin() const { return nameBegin_; }
@@ -262,8 +266,11 @@ private:
                 return wordNode(comparison, codes, begin, end);
             int used = 0;
             std::optional<FilterNode> node = plainValue(comparison, quoted->trimmed(), 0, &used);
-            if (!node || used != quoted->trimmed().size())
+            if (!node || used != quoted->trimmed().size()) {
+                if (expectedValue() == Expected::word)
+                    unknownWord_ = quoted->trimmed();
                 return fault(expectedValue(), begin);
+            }
             position_ = end;
             return node;
         }
@@ -311,6 +318,7 @@ private:
     int nameBegin_ = 0;
     int nameEnd_ = -1;
     int faultAt_ = 0;
+    QString unknownWord_;
     Expected expected_ = Expected::name;
 };
 
@@ -353,6 +361,21 @@ QString inQuotes(const QString& word)
     return quote + word + quote;
 }
 
+// With the words of the column that begin as the unknown one does.
+QString unknownWordText(const QString& column, const QString& word, const QStringList& known)
+{
+    const QString needed = translated("rec_360").arg(column, word);
+    const QString typed = foldedForFilter(word);
+    for (int length = typed.size(); length >= kLeastAlike; --length) {
+        QStringList near = matching(known, typed.left(length)).mid(0, kMostNearWords);
+        if (near.isEmpty())
+            continue;
+        std::ranges::transform(near, near.begin(), inQuotes);
+        return translated("rec_361").arg(needed, near.join(QStringLiteral(", ")));
+    }
+    return needed;
+}
+
 } // namespace
 
 ParsedFilter parseFilter(const QString& text, const FilterNames& names, std::optional<qint32> utcOffset)
@@ -361,6 +384,10 @@ ParsedFilter parseFilter(const QString& text, const FilterNames& names, std::opt
     ParsedFilter parsed{parser.parse(), {}};
     if (!parsed.filter)
         parsed.fault = {parser.position(), faultText(parser.expected(), text, parser.position())};
+    if (!parsed.filter && !parser.unknownWord().isNull())
+        parsed.fault.expected =
+            unknownWordText(text.mid(parser.nameBegin(), parser.nameEnd() - parser.nameBegin()),
+                            parser.unknownWord(), names.words(parser.column()));
     return parsed;
 }
 

@@ -1,5 +1,12 @@
 #include "telemetry/files/identity_text.h"
 
+#include "telemetry/files/binary_layout.h"
+#include "telemetry/files/checksums.h"
+
+#include <QtEndian>
+
+#include <algorithm>
+
 namespace vlk {
 
 QByteArray scrambled(const QByteArray& identity, const QByteArray& key)
@@ -19,6 +26,19 @@ QByteArray scrambled(const QByteArray& identity, const QByteArray& key)
 QByteArray identityKey(quint32 time)
 {
     return QByteArray::number(time).left(8);
+}
+
+QByteArray identityIn(std::span<const std::uint8_t> header)
+{
+    if (header.size() < binary::kHeaderBytes ||
+        qFromLittleEndian<quint32>(&header[binary::kMagicAt]) != binary::kMagic ||
+        qFromLittleEndian<quint16>(&header[binary::kHeaderCrcAt]) != crc8(header.first(binary::kHeaderCrcAt)))
+        return {};
+    const int length = std::min<int>(header[binary::kIdentityLengthAt], binary::kIdentityBytes);
+    const QByteArray text(reinterpret_cast<const char*>(&header[binary::kIdentityAt]), length);
+    const auto firstTime = qFromLittleEndian<quint32>(&header[binary::kFirstTimeAt]);
+    // Doing it twice undoes it.
+    return QByteArray::fromHex(scrambled(QByteArray::fromHex(text), identityKey(firstTime)));
 }
 
 } // namespace vlk

@@ -4,6 +4,8 @@
 
 #include <QByteArray>
 
+#include <span>
+
 namespace vlk {
 
 // Twice as many hexadecimal digits as the identity has bytes: each byte XORed with the key, whose bytes are
@@ -12,5 +14,8 @@ QByteArray scrambled(const QByteArray& identity, const QByteArray& key);
 
 // The key of a file, from the time of its first record: the first eight digits of it.
 QByteArray identityKey(quint32 time);
+
+// The identity that the header of a file tells; empty where it tells none, or is damaged.
+QByteArray identityIn(std::span<const std::uint8_t> header);
 
 } // namespace vlk
