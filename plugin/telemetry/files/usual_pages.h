@@ -20,8 +20,9 @@ public:
     std::size_t take(std::string_view text, RecordStore& records);
 
     // The line with which a record began that was read in another way: the next ones may be like it.
-    bool knows(std::string_view pageLine) const { return pageLine == pageLine_; }
     void remember(std::string_view pageLine, std::uint8_t ver, const FieldMask& mask);
+    // Whether it is the one that was remembered.
+    bool knows(std::string_view pageLine) const { return pageLine == pageLine_; }
 
 private:
     struct Line
