@@ -251,6 +251,8 @@ private Q_SLOTS:
         DataTable<QByteArray, QStringList, QString>({"content", "numbers", "bar"})
             .row("cut in a number", xml.left(xml.indexOf("<NumPage>11112") + 11), {"11111", "0"},
                  "tmiw_189 tmiw_193")
+            .row("no number", QByteArray(xml).replace(">11112<", ">1111x<"), {"11111", "0", "11113"},
+                 "tmiw_188 tmiw_192")
             .row("binary", wholeBinary, all, "")
             .row("a type changed", binary, {"11111", "11113"}, "tmiw_189 tmiw_192 tmiw_194");
     }
