@@ -1396,8 +1396,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_245"><translation>is not telemetry</translation></message>
     <message id="cli_246"><translation>preset</translation></message>
     <message id="cli_250"><translation>is read by the same call: -o would replace it</translation></message>
-    <message id="cli_251"><translation>files are changed in place: -o is for standard input (FILE -)</translation></message>
-    <message id="cli_252"><translation>with --dry-run nothing is written: -o is not expected</translation></message>
+    <message id="cli_251"><translation>files are changed in place and -o gets what is told: a changed copy comes from standard input (FILE -)</translation></message>
     <message id="cli_253"><translation>%1; expected: %2</translation></message>
     <message id="cli_254"><translation>0 or %1</translation></message>
     <message id="cli_255"><translation>a whole number, %1 to %2</translation></message>
@@ -1407,7 +1406,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_259"><translation>%1 digits, each from 0 to %2</translation></message>
     <message id="cli_260"><translation>one of %1</translation></message>
     <message id="cli_261"><translation>up to %1 characters</translation></message>
-    <message id="cli_262"><translation>Where the configuration from standard input goes</translation></message>
+    <message id="cli_262"><translation>What is told, or the changed configuration from standard input, into a file</translation></message>
     <message id="cli_263"><translation>%1 takes no value</translation></message>
     <message id="cli_264"><translation>--from is after --to-time</translation></message>
     <message id="cli_265"><translation>--decimal-comma is for csv and tsv</translation></message>

@@ -1396,8 +1396,7 @@
     <message id="cli_245"><translation>не является телеметрией</translation></message>
     <message id="cli_246"><translation>шаблон</translation></message>
     <message id="cli_250"><translation>читается этой же командой: -o заменит его</translation></message>
-    <message id="cli_251"><translation>файлы меняются на месте: -o служит для стандартного ввода (ФАЙЛ -)</translation></message>
-    <message id="cli_252"><translation>с --dry-run ничего не записывается: -o лишнее</translation></message>
+    <message id="cli_251"><translation>файлы меняются на месте, а в -o идут сообщения: изменённая копия получается со стандартного ввода (ФАЙЛ -)</translation></message>
     <message id="cli_253"><translation>%1; нужно: %2</translation></message>
     <message id="cli_254"><translation>0 или %1</translation></message>
     <message id="cli_255"><translation>целое число от %1 до %2</translation></message>
@@ -1407,7 +1406,7 @@
     <message id="cli_259"><translation>цифры от 0 до %2, числом %1</translation></message>
     <message id="cli_260"><translation>одно из %1</translation></message>
     <message id="cli_261"><translation>не больше %1 символов</translation></message>
-    <message id="cli_262"><translation>Куда записать конфигурацию со стандартного ввода</translation></message>
+    <message id="cli_262"><translation>Сообщения, а из стандартного ввода изменённую конфигурацию — в файл</translation></message>
     <message id="cli_263"><translation>%1 не принимает значения</translation></message>
     <message id="cli_264"><translation>--from позже --to-time</translation></message>
     <message id="cli_265"><translation>--decimal-comma только для csv и tsv</translation></message>

@@ -265,11 +265,15 @@ private Q_SLOTS:
                  "be 2; expected: 4 digits, each from 0 to 1\n",
                  a)
             .row("a file instead of its copy", "set TRACK/POINTS/maxSpeed=80 a.xml -o new.xml", 2, "",
-                 "r7106: files are changed in place: -o is for standard input (FILE -)\nHelp: r7106 "
-                 "--help\n",
+                 "r7106: files are changed in place and -o gets what is told: a changed copy comes from "
+                 "standard input (FILE -)\nHelp: r7106 --help\n",
                  a)
+            .row("what is told, in a file", "set TRACK/POINTS/maxSpeed=80 a.xml -o told.txt", 0, "", "",
+                 changed)
             .row("a file of nothing", "apply --dry-run good.xml - -o new.xml", 2, "",
-                 "r7106: with --dry-run nothing is written: -o is not expected\nHelp: r7106 --help\n", a)
+                 "r7106: files are changed in place and -o gets what is told: a changed copy comes from "
+                 "standard input (FILE -)\nHelp: r7106 --help\n",
+                 a)
             .row("what it reads", "check a.xml b.xml -o ./a.xml", 2, "",
                  "./a.xml: is read by the same call: -o would replace it\n", a)
             .row("the first of a pattern", "check -o a.xml b.xml", 2, "",

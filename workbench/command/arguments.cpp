@@ -225,11 +225,10 @@ QString splitFiles(const CommandRow& row, const Read& read, const std::optional<
         return text("cli_027");
     if (files.isEmpty())
         return text("cli_026");
-    const bool isToFile = !read.output.empty() && read.output != "-";
-    if (row.edits && isToFile && files != QStringList(QStringLiteral("-")))
+    // What is told would stand in it, not the configuration that is looked for there.
+    const bool isCopyWanted = nameOf(read.output).endsWith(QLatin1String(".xml"), Qt::CaseInsensitive);
+    if (row.edits && isCopyWanted && (call->dryRun || files != QStringList(QStringLiteral("-"))))
         return text("cli_251");
-    if (row.edits && isToFile && call->dryRun)
-        return text("cli_252");
     call->files = files;
     return {};
 }
