@@ -16,6 +16,11 @@ namespace vlk {
 namespace {
 // Longer texts than this are limited by no line.
 constexpr int kLongest = 1024;
+
+bool isFilled(QChar sign)
+{
+    return sign.isLetterOrNumber();
+}
 } // namespace
 
 TextEntry* TextEntry::join(QLineEdit* line)
@@ -28,6 +33,7 @@ TextEntry::TextEntry(QLineEdit* line) : QObject(line), line_(line), before_(line
 {
     line->installEventFilter(this);
     connect(line, &QLineEdit::inputRejected, this, &TextEntry::rejected);
+    connect(line, &QLineEdit::cursorPositionChanged, this, &TextEntry::keepInMask);
     connect(line, &QLineEdit::textChanged, this, [this] {
         // A text that was set is no one's typing. What was left out stays told while more is typed.
         if (!line_->isModified())
@@ -36,7 +42,22 @@ TextEntry::TextEntry(QLineEdit* line) : QObject(line), line_(line), before_(line
             tell({});
         shown_ = line_->text();
         mark();
+        keepInMask();
     });
+}
+
+// Behind the last place of a mask a line drops what is typed or pasted without a word, and a click leads
+// there.
+void TextEntry::keepInMask()
+{
+    if (line_->inputMask().isEmpty())
+        return;
+    const QString shown = line_->displayText();
+    const int free = shown.indexOf(QLatin1Char(' '));
+    const int place = line_->cursorPosition();
+    const bool isChosen = line_->hasSelectedText() && std::ranges::any_of(shown, isFilled);
+    if (free >= 0 && place > free && !isChosen && std::none_of(shown.begin() + place, shown.end(), isFilled))
+        line_->setCursorPosition(free);
 }
 
 void TextEntry::doubt(std::function<QString(const QString&)> complaint)

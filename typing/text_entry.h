@@ -2,7 +2,7 @@
 
 // Typing a text into a line. Signs that do not fit, or are more than fit, are told at the field; Esc gives
 // back the text that stood there when the field was entered and closes no window, and Enter presses no
-// button.
+// button. In an input mask the caret stays where the next sign is missing unless more stands behind it.
 
 #include <QObject>
 #include <QString>
@@ -40,6 +40,7 @@ private:
     bool keyPressed(QKeyEvent* event);
     bool leavesToWindow(QKeyEvent* event) const;
     void rejected();
+    void keepInMask();
     // How many characters fit, as far as the line limits them.
     int room() const;
     void mark();

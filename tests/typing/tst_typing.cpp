@@ -280,6 +280,32 @@ private Q_SLOTS:
         QVERIFY(!window_->isVisible());
     }
 
+    // Wherever it is clicked.
+    void masks_data()
+    {
+        DataTable<QString, QString, QString>({"there", "keys", "text"})
+            .row("typed", "", "c464E30B5210", "c4:64:E3:0B:52:10")
+            .row("behind a key", "", "<End>c464", "c4:64::::")
+            .row("more", "c4:6", "4E3", "c4:64:E3:::")
+            .row("full", "c4:64:E3:0B:52:10", "1", "c4:64:E3:0B:52:10")
+            .row("all chosen", "c4:64:E3:0B:52:10", "<All>1", "1:::::")
+            .row("pasted", "", "<Paste>", "C4:64:E3:0B:52:10");
+    }
+    void masks()
+    {
+        QFETCH(QString, keys);
+        line_->setInputMask("HH:HH:HH:HH:HH:HH");
+        for (const QString address : {"C464E30B5210", "C4:64:E3:0B:52:10"}) {
+            QFETCH(QString, there);
+            line_->setText(there);
+            whole_->setFocus();
+            QApplication::clipboard()->setText(address);
+            QTest::mouseClick(line_, Qt::LeftButton, {}, {line_->width() - 5, line_->height() / 2});
+            type(line_, keys);
+            QTEST(line_->text(), "text");
+        }
+    }
+
 private:
     template <class Field>
     Field* add(QVBoxLayout* column)
