@@ -137,9 +137,41 @@ SettingMarks::Spots SettingMarks::spotsOf(const PageSettings& page) const
             }
             break;
         }
+        if (const QString before = choiceBefore(page, row); !before.isNull()) {
+            Told& told = spots[{row, -1}];
+            told.isChanged = true;
+            told.before = before;
+        }
     }
     addAdvice(page, &spots);
     return spots;
+}
+
+// The settings that it fills may be closed: the change is told where it was made, too.
+QString SettingMarks::choiceBefore(const PageSettings& page, int row) const
+{
+    const Values& values = page.values();
+    const review::Differences& edits = review_.edits();
+    const auto keyOf = [&page](int field) {
+        const std::vector<int> keys =
+            field < 0 ? std::vector<int>() : ConfigurationReview::keysOf(page, field);
+        return keys.empty() ? -1 : keys.front();
+    };
+    const auto isChanged = [&](const Path& field) {
+        const int key = keyOf(field.row);
+        return key >= 0 && edits.isDifferent(key);
+    };
+    for (const Presets* presets : values.row(row).presets) {
+        if (!presets->other || keyOf(row) >= 0 || std::ranges::none_of(presets->fields, isChanged))
+            continue;
+        const QString before = values.presetFor(*presets, [&](int field) {
+            const int key = keyOf(field);
+            return key < 0 ? values.value(field) : edits.before().at(key).meaning;
+        });
+        if (before != values.value(row))
+            return before;
+    }
+    return {};
 }
 
 void SettingMarks::addAdvice(const PageSettings& page, Spots* spots) const
@@ -263,9 +295,11 @@ QString SettingMarks::changeText(const PageSettings& page, Spot spot) const
     const std::vector<int> keys = ConfigurationReview::keysOf(page, spot.first);
     const review::Differences& edits = review_.edits();
     const auto key = std::ranges::find_if(keys, [&](int one) { return edits.isDifferent(one); });
-    if (key == keys.end())
-        return {};
     const Setting& setting = page.values().setting(spot.first);
+    if (key == keys.end()) {
+        const QString before = choiceBefore(page, spot.first);
+        return before.isNull() ? QString() : withColon("rev_160", valueText(setting, before, nullptr));
+    }
     const review::DifferenceText text =
         review::textOf(edits, edits.differenceAt(*key), *review_.valuesOf(FileKeys::all()[*key].table));
     QStringList told;

@@ -68,6 +68,8 @@ private:
     bool learn(PageSettings& page);
     Spots spotsOf(const PageSettings& page) const;
     void addAdvice(const PageSettings& page, Spots* spots) const;
+    // What a list stood at whose choice is worked out from other settings; null where it stands there still.
+    QString choiceBefore(const PageSettings& page, int row) const;
     QString moverText(const PageSettings& page, int row) const;
     void mark(const PageSettings& page, QWidget* widget);
     QString changeText(const PageSettings& page, Spot spot) const;

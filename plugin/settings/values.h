@@ -13,6 +13,7 @@
 
 #include "settings/table_layout.h"
 
+#include <functional>
 #include <optional>
 
 namespace vlk {
@@ -69,6 +70,9 @@ public:
     bool holds(const Doubt& rule) const { return holdsAll(rule.when); }
     // The least distance that a rule of the table keeps now, in units of the widget.
     double gapOf(const Distance& rule) const;
+    // The code of the first preset that agrees with values of its fields, by row, and is offered; where there
+    // is none the one that stands for others, null without one.
+    QString presetFor(const Presets& presets, const std::function<QString(int)>& valueAt) const;
 
 private:
     using Changes = std::vector<int>; // rows, each once

@@ -188,27 +188,30 @@ double Values::gapOf(const Distance& rule) const
     return rule.gap + (rule.gapFrom ? values_[rule.gapFrom.row].toDouble() : 0);
 }
 
-void Values::settle(const Presets& presets)
+QString Values::presetFor(const Presets& presets, const std::function<QString(int)>& valueAt) const
 {
     const int trigger = presets.trigger.row;
     const Limits offered = limits(trigger);
     const auto agrees = [&](const PresetRow& row) {
         for (std::size_t field = 0; field < presets.fields.size(); ++field) {
             const char* value = row.values[field];
-            if (value && values_[presets.fields[field].row] != QLatin1String(value))
+            if (value && valueAt(presets.fields[field].row) != QLatin1String(value))
                 return false;
         }
         const Code* code = codeOf(*choice(trigger), QString::fromLatin1(row.code));
         return code && offersCode(*code, offered);
     };
     const auto found = std::ranges::find_if(presets.rows, agrees);
-    if (found != presets.rows.end())
-        values_[trigger] = QString::fromLatin1(found->code);
-    else if (presets.other)
-        values_[trigger] = QString::fromLatin1(presets.other);
+    return QString::fromLatin1(found != presets.rows.end() ? found->code : presets.other);
+}
+
+void Values::settle(const Presets& presets)
+{
+    QString& trigger = values_[presets.trigger.row];
+    if (const QString code = presetFor(presets, [this](int row) { return values_[row]; }); !code.isNull())
+        trigger = code;
     if (presets.settles)
-        eachField(presets, values_[trigger],
-                  [this](int field, const QString& ready) { values_[field] = ready; });
+        eachField(presets, trigger, [this](int field, const QString& ready) { values_[field] = ready; });
 }
 
 } // namespace vlk

@@ -48,6 +48,22 @@ private Q_SLOTS:
         QVERIFY(history().undoText().startsWith("rev_167: "));
     }
 
+    // What an operator fills stands in closed fields.
+    void operatorIsMarked()
+    {
+        child<QTabWidget>("tabWidget")->setCurrentIndex(0);
+        auto* list = child<QComboBox>("Transfer_comboBox_GSM_Operator_1");
+        const QString before = list->currentText();
+        QVERIFY(list->currentIndex() == 0 && list->toolTip().isEmpty());
+        QTest::keyClick(list, Qt::Key_PageDown);
+        QCoreApplication::processEvents();
+        QVERIFY(!child<QWidget>("Transfer_lineEdit_GSM_APN_1")->toolTip().isEmpty());
+        QCOMPARE(list->toolTip(), "rev_160: " + before);
+        list->setCurrentIndex(0);
+        QCoreApplication::processEvents();
+        QCOMPARE(list->toolTip(), QString());
+    }
+
     // A bound that a typed one pushes away comes back with it, though not when that is typed back.
     void pushedBound()
     {
