@@ -40,6 +40,7 @@ NoticeBar::NoticeBar(QWidget* parent, const QString& name)
     close_->setObjectName(name + QStringLiteral("_Close"));
     close_->setAutoRaise(true);
     close_->setFocusPolicy(Qt::TabFocus);
+    close_->installEventFilter(this);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(kMargin + kMarkSize + kGap, 2, 2, 2);
     row->setSpacing(kGap);
@@ -87,6 +88,12 @@ void NoticeBar::changeEvent(QEvent* event)
     QFrame::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         setCross();
+}
+
+// The first click of a double click may have put another button, or another notice, under the mouse.
+bool NoticeBar::eventFilter(QObject* watched, QEvent* event)
+{
+    return watched->parent() == this && event->type() == QEvent::MouseButtonDblClick;
 }
 
 void NoticeBar::put(Told told)
@@ -195,6 +202,7 @@ void NoticeBar::refresh()
             QStringLiteral("%1_Action%2").arg(text_->objectName()).arg(buttons_->count() + 1));
         button->setAutoDefault(false);
         button->setFocusPolicy(Qt::TabFocus);
+        button->installEventFilter(this);
         connect(button, &QPushButton::clicked, this, [act = action.act] { act(); });
         buttons_->addWidget(button);
         button->show();

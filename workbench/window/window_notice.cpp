@@ -66,6 +66,8 @@ bool WindowNotice::takesKey(const QWidget& widget, QKeyEvent& event)
 // Keys of all that is in the window; for its place the window, and the bars in it.
 bool WindowNotice::eventFilter(QObject* object, QEvent* event)
 {
+    if (NoticeBar::eventFilter(object, event))
+        return true;
     const auto* widget = qobject_cast<QWidget*>(object);
     const bool isKey = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
     if (widget && isKey)
