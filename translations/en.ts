@@ -1632,6 +1632,13 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_270"><translation>Compare with another file</translation></message>
     <message id="rev_271"><translation>Apply a preset</translation></message>
     <message id="rev_272"><translation>Pushed by</translation></message>
+    <message id="rev_280"><translation>Missing here</translation></message>
+    <message id="rev_281"><translation>Only here</translation></message>
+    <message id="rev_282"><translation>Will be added</translation></message>
+    <message id="rev_283"><translation>Will be taken out</translation></message>
+    <message id="rev_284"><translation>Cannot be changed in quick setup: %1. These settings are in full setup.</translation></message>
+    <message id="rev_285"><translation>Not available with "%1", left out</translation></message>
+    <message id="rev_286"><translation>Not available with the other settings, left out</translation></message>
     <message id="tmiex_001"><translation>Navigation</translation></message>
     <message id="tmiex_002"><translation>Receiver</translation></message>
     <message id="tmiex_003"><translation>Satellites</translation></message>

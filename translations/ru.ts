@@ -1632,6 +1632,13 @@
     <message id="rev_270"><translation>Сравнение с другим файлом</translation></message>
     <message id="rev_271"><translation>Применение шаблона</translation></message>
     <message id="rev_272"><translation>Сдвинуто параметром</translation></message>
+    <message id="rev_280"><translation>Здесь этого нет</translation></message>
+    <message id="rev_281"><translation>Есть только здесь</translation></message>
+    <message id="rev_282"><translation>Будет добавлено</translation></message>
+    <message id="rev_283"><translation>Будет убрано</translation></message>
+    <message id="rev_284"><translation>В быстрой настройке не меняется: %1. Эти параметры есть в полной настройке.</translation></message>
+    <message id="rev_285"><translation>Недоступно при «%1», пропущен</translation></message>
+    <message id="rev_286"><translation>Недоступно при других параметрах, пропущен</translation></message>
     <message id="tmiex_001"><translation>Навигация</translation></message>
     <message id="tmiex_002"><translation>Приёмник</translation></message>
     <message id="tmiex_003"><translation>Спутники</translation></message>

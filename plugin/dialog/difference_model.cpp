@@ -13,6 +13,11 @@ namespace {
 
 constexpr int kIconRatio = 2;
 
+// Where the other side is neither what was opened nor the defaults, by ConfigurationReview::Against: what is
+// missing now, and what the other side lacks.
+constexpr std::pair<const char*, const char*> kOnOneSide[] = {
+    {}, {}, {"rev_280", "rev_281"}, {"rev_282", "rev_283"}};
+
 QString text(const char* key)
 {
     return QCoreApplication::translate("vlk", key);
@@ -62,6 +67,9 @@ void DifferenceModel::refresh()
             unchosen_.insert(difference.path);
         lines_.push_back({difference, values ? review::textOf(differences, difference, *values)
                                              : review::textOf(difference)});
+        const auto& [missing, surplus] = kOnOneSide[static_cast<int>(review_.against())];
+        if (missing && !difference.byLoad && (difference.before.isNull() || difference.after.isNull()))
+            lines_.back().text.note = text(difference.after.isNull() ? missing : surplus);
         if (isPreset && difference.key >= 0)
             tellWhole(&lines_.back(), differences.before().at(difference.key).meaning);
     }
@@ -155,7 +163,7 @@ QVariant DifferenceModel::headerData(int section, Qt::Orientation orientation, i
     static constexpr const char* titles[] = {"rev_101", "rev_102", "rev_103", "rev_104", "rev_105"};
     // The left side is named after what is compared, by ConfigurationReview::Against.
     static constexpr const char* sides[] = {"rev_103", "rev_106", "rev_107", "rev_192"};
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+    if (orientation != Qt::Horizontal || (role != Qt::DisplayRole && role != Qt::ToolTipRole))
         return {};
     if (section == Before && !review_.otherName().isEmpty())
         return review_.otherName();

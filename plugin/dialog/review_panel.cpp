@@ -8,6 +8,7 @@
 #include "typing/empty_note.h"
 #include "typing/field_mark.h"
 #include "typing/table_look.h"
+#include "windows/eliding_combobox.h"
 #include "windows/named_widget.h"
 
 #include <QAction>
@@ -47,7 +48,7 @@ constexpr const char* kSteps[] = {"rev_120", "rev_121", "rev_121", "rev_196"};
 
 ReviewPanel::ReviewPanel(ConfigurationReview& review, SettingPlaces& places, QWidget* parent)
     : ListPanel("Differences", parent), review_(review), places_(places), model_(review),
-      against_(namedWidget<QComboBox>("comboBox_Against", this)),
+      against_(namedWidget<ElidingComboBox>("comboBox_Against", this)),
       takeOver_(namedWidget<QPushButton>("pushButton_TakeOver", this)),
       preset_(namedWidget<QPushButton>("pushButton_SavePreset", this)),
       copy_(namedWidget<QPushButton>("pushButton_CopyDifferences", this)),
@@ -105,6 +106,10 @@ void ReviewPanel::showState()
     against_->setItemText(static_cast<int>(Against::file), tr(review_.isWritten() ? "rev_255" : kSides[0]));
     against_->setItemText(static_cast<int>(Against::otherFile), other.isEmpty() ? tr("rev_111") : other);
     against_->setCurrentIndex(against);
+    QStringList sides;
+    for (int side = 0; side < against_->count(); ++side)
+        sides << against_->itemText(side);
+    against_->reserve(sides, sides[0]);
     takeOver_->setText(tr(kVerbs[against]));
     for (QPushButton* button : {takeOver_, preset_})
         button->setEnabled(!model_.chosenKeys().empty());
@@ -182,7 +187,15 @@ void ReviewPanel::chooseAll(bool isChosen)
 void ReviewPanel::takeOver()
 {
     const char* step = kSteps[static_cast<int>(review_.against())];
-    review_.takeOver(model_.chosenKeys(), [step] { return QCoreApplication::translate("vlk", step); });
+    const std::vector<int> chosen = model_.chosenKeys();
+    review_.takeOver(chosen, [step] { return QCoreApplication::translate("vlk", step); });
+    const auto left =
+        std::ranges::count_if(chosen, [this](int key) { return review_.differences().isDifferent(key); });
+    if (review_.isQuick() && left > 0) {
+        Q_EMIT told([left] {
+            return Notice{Mark::advice, QCoreApplication::translate("vlk", "rev_284").arg(left), {}};
+        });
+    }
 }
 
 void ReviewPanel::saveAsPreset()

@@ -11,11 +11,11 @@
 #include <functional>
 
 class QAction;
-class QComboBox;
 class QPushButton;
 
 namespace vlk {
 
+class ElidingComboBox;
 class SettingPlaces;
 
 class ReviewPanel : public ListPanel
@@ -51,7 +51,7 @@ private:
     ConfigurationReview& review_;
     SettingPlaces& places_;
     DifferenceModel model_;
-    QComboBox* against_;
+    ElidingComboBox* against_;
     QPushButton* takeOver_;
     QPushButton* preset_;
     QPushButton* copy_;

@@ -4,6 +4,7 @@
 #include "review/document_walk.h"
 #include "review/settable.h"
 #include "review/setting_parts.h"
+#include "review/value_text.h"
 #include "xml/serialize.h"
 #include "xml/xml_document.h"
 #include "xml/xml_text.h"
@@ -41,6 +42,8 @@ const char* noteKey(const PresetProblem& problem)
         return "rev_189";
     case Change::tooLong:
         return "rev_190";
+    case Change::byRule:
+        return problem.cause < 0 ? "rev_286" : "rev_285";
     default:
         return "rev_191";
     }
@@ -63,6 +66,36 @@ Texts textsOf(CXmlSection& preset, std::vector<PresetProblem>* problems)
         seen.insert(key);
     });
     return texts;
+}
+
+void addCause(PresetProblem* problem, int key, const Configuration& tried)
+{
+    const std::vector<int>& rows = FileKeys::all()[key].rows;
+    const Values& values = tried.tables()[FileKeys::all()[key].table];
+    for (const Sets& rule : values.table().all<Sets>()) {
+        if (rule.moment == Moment::edit || rule.when.row < 0 || !values.holds(rule.when) ||
+            std::find(rows.begin(), rows.end(), rule.path.row) == rows.end())
+            continue;
+        problem->cause = rule.when.row;
+        problem->causeValue = values.value(rule.when.row);
+        return;
+    }
+}
+
+// A value that is right in itself stands there as its field would show it.
+void tellCause(const PresetProblem& problem, DifferenceText* text)
+{
+    const int key = FileKeys::all().at(problem.path);
+    if (key < 0 || problem.change != Change::byRule)
+        return;
+    const TableLayout& layout = FileKeys::all().layout(FileKeys::all()[key].table);
+    const TableLayout::Row& row = layout.rows[FileKeys::all()[key].rows.front()];
+    if (!row.base->secret)
+        text->beforeText = valueText(*row.setting, problem.text, nullptr);
+    if (problem.cause >= 0)
+        text->note = text->note.arg(QStringLiteral("%1: %2").arg(
+            wordsOf(layout, problem.cause).caption,
+            valueText(*layout.rows[problem.cause].setting, problem.causeValue, nullptr)));
 }
 
 // The document that the configuration would be saved as, with the texts laid over it.
@@ -127,6 +160,7 @@ DifferenceText textOf(const PresetProblem& problem, Secrets secrets)
         static_cast<SettingWords&>(text) = wordsOf(FileKeys::all().layout(place.table), place.rows.front());
     }
     text.note = translated(noteKey(problem));
+    tellCause(problem, &text);
     return text;
 }
 
@@ -148,6 +182,8 @@ AppliedPreset applied(CXmlSection& preset, const Configuration& configuration)
             applied.problems.push_back({!held.isSaved && held.isWhole ? What::noPlace : What::badValue,
                                         place.path, entry.second, isLost ? held.change : Change::unknownCode,
                                         &setting, values.limits(holder)});
+        if (isUnfit && held.change == Change::byRule)
+            addCause(&applied.problems.back(), entry.first, applied.result);
         return isUnfit;
     };
     texts.erase(std::remove_if(texts.begin(), texts.end(), isUnfit), texts.end());

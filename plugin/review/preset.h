@@ -49,6 +49,9 @@ struct PresetProblem
     // Of a bad value: whose it is, and what it can be.
     const Setting* setting = nullptr;
     Limits limits{};
+    // Of a value that another setting forbids: the row of that one in the same table, and what it is worth.
+    int cause = -1;
+    QString causeValue{};
 };
 
 // In words: what the preset holds stands before, why it is left out is the note.

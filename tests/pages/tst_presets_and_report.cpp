@@ -92,6 +92,36 @@ private Q_SLOTS:
         QCOMPARE(model->index(0, vlk::DifferenceModel::Note).data().toString(), QString("rev_251"));
     }
 
+    // What it has beyond quick setup is told, the rest is done. What another file has alone is told likewise.
+    void presetBeyondQuickSetup()
+    {
+        const QString path = folder_.filePath("more.xml");
+        const QByteArray preset =
+            readFile(VLK_SOURCE "/fuzz/corpus/settings/factory.xml").replace("4000", "5555");
+        writeFile(path, preset);
+        open({}, 0);
+        auto* model = child<QTableView>("tableView_Differences")->model();
+        const auto notes = [model] {
+            QStringList notes;
+            for (int line = 0; line < model->rowCount(); ++line)
+                notes << model->index(line, vlk::DifferenceModel::Note).data().toString();
+            return notes;
+        };
+        child<QToolButton>("toolButton_Differences")->click();
+        QVERIFY(dialog_->review().compareWith(vlk::ConfigurationReview::Against::otherFile, path));
+        QVERIFY(notes().contains("rev_280") && !notes().contains("rev_005"));
+        QVERIFY(dialog_->showPreset(path));
+        QVERIFY(notes().contains("rev_282") && !notes().contains("rev_005"));
+        child<QPushButton>("pushButton_TakeOver")->click();
+        QCOMPARE(child<QLabel>("label_Unsaved")->text(), QString("rev_284"));
+        QCOMPARE(dialog_->findChild<QWidget*>("page_Light")
+                     ->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main")
+                     ->value(),
+                 5555);
+        QVERIFY(notes().contains("rev_282"));
+        QVERIFY(model->headerData(2, Qt::Horizontal, Qt::ToolTipRole) == "rev_192");
+    }
+
     // What does not fit comes first, with its reason and without a check mark; a full disk is told.
     void presetsInTrouble()
     {
@@ -105,6 +135,11 @@ private Q_SLOTS:
             notes << model->index(line, 3).data().toString() +
                          (model->index(line, 0).data(Qt::CheckStateRole).isNull() ? "" : "+");
         QCOMPARE(notes, QStringList({"rev_184", "rev_185", "rev_187", "5 abbr_016+"}));
+        QVERIFY(dialog_->showPreset(writeFile(
+            path,
+            "<DEVICE creator=\"preset\"><OUTPUTS><LINE1 mode=\"ZUM\" safeBlock=\"1\"/></OUTPUTS></DEVICE>")));
+        QVERIFY(model->index(0, 2).data().toString() != "1");
+        QCOMPARE(model->index(0, 3).data().toString(), QString("rev_285"));
         QVERIFY(!dialog_->showPreset("no such file"));
         QVERIFY(!dialog_->showPreset(writeFile(path, "<OTHER creator=\"preset\"/>")));
         QString told;
