@@ -75,7 +75,8 @@ private:
     Qt::TextElideMode elide_;
 };
 
-// Heads begin where the texts of their cells do.
+// Heads begin where the texts of their cells do, and end in an ellipsis where they are cut. Header views
+// would cut texts that fit.
 class HeadStyle : public QProxyStyle
 {
 public:
@@ -88,6 +89,18 @@ public:
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override
     {
         return metric == PM_HeaderMargin ? kCellPadding : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override
+    {
+        const auto* head = qstyleoption_cast<const QStyleOptionHeader*>(option);
+        if (element != CE_HeaderLabel || !head || head->textAlignment & Qt::TextWordWrap ||
+            head->text.contains(QLatin1Char('\n')))
+            return QProxyStyle::drawControl(element, option, painter, widget);
+        QStyleOptionHeader cut = *head;
+        cut.text = head->fontMetrics.elidedText(head->text, Qt::ElideRight, head->rect.width());
+        QProxyStyle::drawControl(element, &cut, painter, widget);
     }
 };
 

@@ -66,7 +66,6 @@ void ListPanel::setModel(QAbstractItemModel& model)
     table_->setModel(&model);
     dressTable(table_, TableUse::read);
     table_->horizontalHeader()->setStretchLastSection(true);
-    table_->horizontalHeader()->setTextElideMode(Qt::ElideRight);
     table_->horizontalHeader()->setResizeContentsPrecision(kRowsForWidths);
     empty_ = new EmptyNote(table_);
 }
