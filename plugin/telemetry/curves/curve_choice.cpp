@@ -7,6 +7,7 @@
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -26,7 +27,8 @@ constexpr QSize kChoiceSize(420, 460);
 } // namespace
 
 CurveChoice::CurveChoice(CurvesModel* model, const QString& preset, QWidget* parent)
-    : QDialog(parent), model_(model), find_(namedWidget<QLineEdit>("lineEdit_FindCurve", this)),
+    : QDialog(parent), model_(model), preset_(preset),
+      find_(namedWidget<QLineEdit>("lineEdit_FindCurve", this)),
       list_(namedWidget<QListWidget>("listWidget_Curves", this)),
       note_(namedWidget<QLabel>("label_CurveChoice", this)),
       name_(namedWidget<QLineEdit>("lineEdit_PresetName", this)),
@@ -70,9 +72,19 @@ CurveChoice::CurveChoice(CurvesModel* model, const QString& preset, QWidget* par
     connect(list_, &QListWidget::itemChanged, this, &CurveChoice::tick);
     connect(name_, &QLineEdit::textChanged, this, &CurveChoice::refreshButtons);
     connect(keep_, &QPushButton::clicked, this, &CurveChoice::keep);
+    connect(name_, &QLineEdit::returnPressed, keep_, &QPushButton::click);
     connect(delete_, &QPushButton::clicked, this, &CurveChoice::remove);
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
     refreshButtons();
+}
+
+// The first one ends the typing of a name, the next one the dialog.
+void CurveChoice::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Escape || focusWidget() != name_)
+        return QDialog::keyPressEvent(event);
+    name_->setText(preset_);
+    list_->setFocus();
 }
 
 void CurveChoice::fill()
@@ -145,6 +157,7 @@ void CurveChoice::keep()
     std::erase_if(kept, [&](const CurvePreset& preset) { return preset.name == name; });
     kept.push_back({name, model_->shownNames()});
     keepPresets(kept);
+    preset_ = name;
     refreshButtons();
     Q_EMIT presetKept(name);
 }
@@ -155,6 +168,7 @@ void CurveChoice::remove()
     std::vector<CurvePreset> kept = keptPresets();
     std::erase_if(kept, [&](const CurvePreset& preset) { return preset.name == name; });
     keepPresets(kept);
+    preset_.clear();
     refreshButtons();
     Q_EMIT presetDeleted(name);
 }

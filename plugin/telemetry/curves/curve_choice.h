@@ -28,6 +28,9 @@ Q_SIGNALS:
     void presetKept(const QString& name);
     void presetDeleted(const QString& name);
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     void fill();
     void tick(QListWidgetItem* item);
@@ -37,6 +40,7 @@ private:
     void refreshButtons();
 
     CurvesModel* model_;
+    QString preset_; // whose name stands there until another is typed
     QLineEdit* find_;
     QListWidget* list_;
     QLabel* note_;

@@ -139,9 +139,15 @@ void CurvesModel::rebuild()
         if (state != states.end())
             addBand(*state);
     }
+    // Those that there is no room for are left out from the end: the engine last of all, before it the stops.
+    const auto engine = std::ranges::find(bands_, itemName(item("Module1.7")), &Band::name);
+    auto behindEngine = bands_.begin();
+    if (engine != bands_.end()) {
+        std::rotate(bands_.begin(), engine, engine + 1);
+        ++behindEngine;
+    }
     if (!stops_.on.empty())
-        // First, since those that there is no room for are left out from the end.
-        bands_.insert(bands_.begin(), {QString(), translated("rec_165"), stops_});
+        bands_.insert(behindEngine, {QString(), translated("rec_165"), stops_});
     makeMarks();
     focused_ = curves_.empty() ? -1 : std::clamp(focused_, 0, static_cast<int>(curves_.size()) - 1);
     Q_EMIT changed();
@@ -280,7 +286,9 @@ bool CurvesModel::endCursor(Cursor which)
     if (cursor(which) < 0)
         return false;
     moving_ = Cursor::a;
-    cursors_ = {which == Cursor::b ? records_->current() : -1, -1};
+    cursors_ = {which == Cursor::b ? cursor(Cursor::a) : -1, -1};
+    // A stays where it is, and is again what is looked at.
+    records_->setCurrent(cursor(Cursor::a));
     Q_EMIT cursorsChanged();
     return true;
 }

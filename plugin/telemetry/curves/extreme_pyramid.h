@@ -3,6 +3,7 @@
 // The least and the greatest of any run of a million numbers in a few steps: levels over the numbers, each a
 // sixteenth of the one below. NaN is no number and takes no part.
 
+#include <algorithm>
 #include <cstddef>
 #include <limits>
 #include <span>
@@ -23,8 +24,8 @@ struct Extremes
     }
     void add(const Extremes& other)
     {
-        add(other.least);
-        add(other.greatest);
+        least = std::min(least, other.least);
+        greatest = std::max(greatest, other.greatest);
     }
 };
 
