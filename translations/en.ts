@@ -1603,6 +1603,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_361"><translation>%1 (perhaps %2)</translation></message>
     <message id="rec_300"><translation>Latest filters (Down)</translation></message>
     <message id="rec_301"><translation>No filters yet</translation></message>
+    <message id="rec_370"><translation>The headings of the calibration table do not tell which column is the volume. Call it Volume, l</translation></message>
+    <message id="rec_371"><translation>The file is being read.</translation></message>
+    <message id="rec_372"><translation>No volume can be computed with this calibration table: it gives none for any level of these records.</translation></message>
     <message id="rev_230"><translation>alarm, alarm zone, temperature threshold, minimum</translation></message>
     <message id="rev_231"><translation>alarm, power failure</translation></message>
     <message id="rev_232"><translation>ignition, alarm button, door</translation></message>

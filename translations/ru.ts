@@ -1603,6 +1603,9 @@
     <message id="rec_361"><translation>%1 (возможно, %2)</translation></message>
     <message id="rec_300"><translation>Последние фильтры (стрелка вниз)</translation></message>
     <message id="rec_301"><translation>Фильтров ещё не было</translation></message>
+    <message id="rec_370"><translation>Заголовки тарировочной таблицы не говорят, в каком столбце объём. Назовите его «Объём, л»</translation></message>
+    <message id="rec_371"><translation>Файл читается.</translation></message>
+    <message id="rec_372"><translation>По этой тарировочной таблице объём не вычислить: в ней нет объёма ни для одного уровня из этих записей.</translation></message>
     <message id="rev_230"><translation>тревога, тревожная зона, порог температуры, минимум</translation></message>
     <message id="rev_231"><translation>тревога, пропадание питания</translation></message>
     <message id="rev_232"><translation>зажигание, тревожная кнопка, дверь</translation></message>

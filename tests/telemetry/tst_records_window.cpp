@@ -45,6 +45,8 @@ private Q_SLOTS:
         QCOMPARE(this->numbers(), numbers);
         QCOMPARE(text("label_Count"), QString("rec_052"));
         QCOMPARE(table_->findChild<QWidget*>("pushButton_Empty")->isVisible(), numbers.isEmpty());
+        const auto* frozen = child<QTableView>("tableWidget_Frozen");
+        QTRY_COMPARE(frozen->height() > frozen->horizontalHeader()->height(), !numbers.isEmpty());
         // Sorting keeps to them, and Esc gives back what is applied before it closes the window.
         table_->sortByColumn(column("NumPage"), Qt::DescendingOrder);
         QCOMPARE(this->numbers().size(), numbers.size());
@@ -110,6 +112,25 @@ private Q_SLOTS:
         QCOMPARE(QApplication::focusWidget(), table_);
         QTest::keyClick(table_, Qt::Key_Escape);
         QVERIFY(!window->isVisible());
+    }
+
+    // What passes is in sight where it is, else the first of what does.
+    void placeInFiltered()
+    {
+        show(drive());
+        table_->setCurrentIndex(cell(39, "NumPage"));
+        const auto isInSight = [this](int row) {
+            const QRect place = table_->visualRect(cell(row, "NumPage"));
+            return place.top() >= 0 && place.bottom() <= table_->viewport()->height();
+        };
+        const std::pair<const char*, int> filters[] = {
+            {"NumPage > 1004", 34}, {"NumPage < 1035", 0}, {"NumPage < 1002", 0}, {"", 39}};
+        for (const auto& [filter, row] : filters) {
+            type("lineEdit_Filter", filter);
+            pressInFilter(Qt::Key_Return);
+            QCoreApplication::processEvents();
+            QVERIFY2(isInSight(row), filter);
+        }
     }
 
     void completion()
@@ -259,7 +280,13 @@ private Q_SLOTS:
         open(large);
         QCOMPARE(rows(), 0);
         QTRY_VERIFY(bar->isVisible());
+        const auto told = [this](const char* table) {
+            return child<QTableView>(table)->findChild<QLabel*>("label_Empty")->text();
+        };
+        QCOMPARE(told("tableWidget"), QString("rec_371"));
+        QCOMPARE(told("tableView_Fuel"), QString("rec_371"));
         QTest::keyClick(table_, Qt::Key_Escape);
+        QCOMPARE(told("tableView_Fuel"), QString("rec_258"));
         QVERIFY(window->isVisible() && !bar->isVisible());
         QCOMPARE(text("label_Damage"), QString("rec_074"));
         press("label_Damage_Action1");

@@ -42,8 +42,10 @@ void CurvesDrawing::draw(QPainter* painter, const QwtScaleMap& x, const QwtScale
     painter->setClipRect(canvas);
     if (model.curves().empty()) {
         painter->setPen(plot_.palette().color(QPalette::Disabled, QPalette::Text));
-        painter->drawText(canvas, Qt::AlignCenter | Qt::TextWordWrap,
-                          translated(model.records().records().empty() ? "rec_192" : "rec_191"));
+        const char* const reason = model.records().isBeingRead()       ? "rec_371"
+                                   : model.records().records().empty() ? "rec_192"
+                                                                       : "rec_191";
+        painter->drawText(canvas, Qt::AlignCenter | Qt::TextWordWrap, translated(reason));
     }
     for (int place = 0; place < static_cast<int>(model.curves().size()); ++place) {
         if (place != model.focused())

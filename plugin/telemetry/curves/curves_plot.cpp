@@ -134,7 +134,10 @@ void CurvesPlot::setAxes()
         span = {span.from - 1, span.from + 1};
     const QFontMetrics metrics(axisFont(xBottom));
     const int labelWidth = metrics.horizontalAdvance(QStringLiteral("00.00. 00:00")) + 24;
-    const TimeTicks ticks = timeTicks(span, canvas()->width() / labelWidth, model_->records().utcOffset());
+    TimeTicks ticks;
+    // Without a moment there is no time to tell.
+    if (!model_->records().byTime().empty())
+        ticks = timeTicks(span, canvas()->width() / labelWidth, model_->records().utcOffset());
     tickStep_ = ticks.step;
     QList<double> marks[QwtScaleDiv::NTickTypes];
     marks[QwtScaleDiv::MinorTick] = QList<double>(ticks.minor.begin(), ticks.minor.end());

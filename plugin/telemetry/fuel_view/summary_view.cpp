@@ -107,10 +107,16 @@ TimeSpan SummaryView::passing() const
     return span;
 }
 
+void SummaryView::tellEmpty()
+{
+    empty_->tell(tr(records_.isBeingRead() ? "rec_371" : "rec_293"));
+}
+
 void SummaryView::refresh()
 {
     if (!isVisible())
         return;
+    tellEmpty();
     if (!journey_)
         journey_ = std::make_unique<Journey>(records_.columns(), litres_, events_);
     const int over = over_->currentIndex();
@@ -145,7 +151,7 @@ void SummaryView::retranslate()
     csv_->setText(QStringLiteral("CSV…"));
     csv_->setToolTip(tr("rev_115"));
     table_->setAccessibleName(tr("rec_292"));
-    empty_->tell(tr("rec_293"));
+    tellEmpty();
     model_->retranslate();
     table_->resizeColumnsToContents();
 }

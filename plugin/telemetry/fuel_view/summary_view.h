@@ -37,6 +37,7 @@ private:
 
     void forget();
     void refresh();
+    void tellEmpty();
     void saveCsv();
     TimeSpan passing() const;
 

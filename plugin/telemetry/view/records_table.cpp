@@ -266,7 +266,8 @@ void RecordsTable::placeFrozen()
     frozen_->setVisible(width > 0);
     const int headHeight = horizontalHeader()->height();
     frozen_->horizontalHeader()->setFixedHeight(headHeight);
-    frozen_->setGeometry(0, 0, width, headHeight + viewport()->height());
+    // Without rows its head alone: below it stands the note that there are none.
+    frozen_->setGeometry(0, 0, width, headHeight + (model_->rowCount() > 0 ? viewport()->height() : 0));
     frozen_->verticalScrollBar()->setValue(verticalScrollBar()->value());
     edge_->setGeometry(width - 1, 0, width > 0 ? 1 : 0, frozen_->height());
     edge_->raise();

@@ -8,8 +8,9 @@
 
 namespace vlk {
 
-void ShownRecords::setContents(std::shared_ptr<TelemetryContents> contents)
+void ShownRecords::setContents(std::shared_ptr<TelemetryContents> contents, Reading reading)
 {
+    reading_ = reading;
     contents_ = std::move(contents);
     columns_ = std::make_unique<RecordColumns>(
         contents_->records, typeLetters(contents_->origin.titles).toLatin1().toStdString());

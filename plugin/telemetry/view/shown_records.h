@@ -52,11 +52,14 @@ public:
     using QObject::QObject;
 
     // All of them pass, the first one is looked at, all of their time is in sight.
-    void setContents(std::shared_ptr<TelemetryContents> contents);
+    // While a file is read there are none yet.
+    enum class Reading { done, underway };
+    void setContents(std::shared_ptr<TelemetryContents> contents, Reading reading = Reading::done);
     void setContents(TelemetryContents contents)
     {
         setContents(std::make_shared<TelemetryContents>(std::move(contents)));
     }
+    bool isBeingRead() const { return reading_ == Reading::underway; }
     // For other windows that show the same records.
     std::shared_ptr<const TelemetryContents> contents() const { return contents_; }
     const RecordStore& records() const { return contents_->records; }
@@ -105,6 +108,7 @@ Q_SIGNALS:
 private:
     std::shared_ptr<TelemetryContents> contents_ = std::make_shared<TelemetryContents>();
     std::unique_ptr<RecordColumns> columns_ = std::make_unique<RecordColumns>(contents_->records);
+    Reading reading_ = Reading::done;
     TimeSpan wholeTime_;
     std::vector<int> passing_;
     Passes passes_;

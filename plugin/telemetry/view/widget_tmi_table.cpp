@@ -109,8 +109,11 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
             [] { requests::showHelp(QStringLiteral("r-7106records.html")); });
     connect(opening_, &FileOpening::opened, this, &VLK_Widget_Tmi_Table::showContents);
     connect(this, &QDialog::finished, opening_, &FileOpening::stop);
-    connect(opening_, &FileOpening::cancelled, this,
-            [this] { tellCancelled(notices_, [this] { opening_->start(path_); }); });
+    connect(opening_, &FileOpening::cancelled, this, [this] {
+        if (shown_->isBeingRead())
+            shown_->setContents(std::make_shared<TelemetryContents>());
+        tellCancelled(notices_, [this] { read(); });
+    });
     connect(exportButton_, &QPushButton::clicked, this, &VLK_Widget_Tmi_Table::exportRecords);
     connectExport();
     addKeys();
@@ -173,7 +176,15 @@ void VLK_Widget_Tmi_Table::open(const QString& path)
     // A file may be large: two of them need not be in memory.
     open(std::make_shared<TelemetryContents>(), QFileInfo(path).fileName());
     path_ = path;
-    opening_->start(path);
+    read();
+}
+
+// What is on show stays until it has been read anew.
+void VLK_Widget_Tmi_Table::read()
+{
+    if (shown_->records().empty())
+        shown_->setContents(std::make_shared<TelemetryContents>(), ShownRecords::Reading::underway);
+    opening_->start(path_);
 }
 
 void VLK_Widget_Tmi_Table::open(const std::shared_ptr<TelemetryContents>& contents, const QString& name,
@@ -224,14 +235,16 @@ void VLK_Widget_Tmi_Table::takeContents()
 void VLK_Widget_Tmi_Table::takeAdded()
 {
     columns_->lookFurther();
-    takePassing();
+    showCount();
+    table_->showRecord(shown_->current());
 }
 
 void VLK_Widget_Tmi_Table::takePassing()
 {
     showCount();
     // A current record that does not pass stays the current one, which moves for the user alone.
-    table_->showRecord(shown_->current());
+    if (!table_->showRecord(shown_->current()))
+        table_->scrollToTop();
 }
 
 void VLK_Widget_Tmi_Table::keyPressEvent(QKeyEvent* event)
@@ -277,10 +290,11 @@ void VLK_Widget_Tmi_Table::showCount()
         areAllShown ? tr("rec_051").arg(all) : tr("rec_052").arg(locale.toString(model_->rowCount()), all);
     const bool isCutShown = shown_->contents()->lastIsCut && model_->rowOf(shown_->records().size() - 1) >= 0;
     count_->setText(isCutShown ? tr("rec_297").arg(count) : count);
+    count_->setHidden(shown_->isBeingRead());
     exportButton_->setEnabled(!shown_->records().empty());
     columnsButton_->setEnabled(model_->columnCount() > 0);
     if (shown_->records().empty())
-        empty_->tell(tr("tmiw_002"));
+        empty_->tell(tr(shown_->isBeingRead() ? "rec_371" : "tmiw_002"));
     else
         empty_->tell(tr("rev_127"), tr("rec_054"));
 }

@@ -56,6 +56,7 @@ private:
     bool stepBack();
     void layOut();
     void addKeys();
+    void read();
     void showContents(const std::shared_ptr<vlk::TelemetryContents>& contents);
     void takeColumns();
     void takeContents();
