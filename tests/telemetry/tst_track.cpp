@@ -255,6 +255,19 @@ void TestTrack::showsAndMoves()
     QTest::keyClick(canvas, Qt::Key_Home);
     QTest::mouseClick(canvas, Qt::LeftButton, {}, canvas->rect().center());
     QCOMPARE(records.current(), 1);
+    // A picture of a part is of that part alone, though the track came that way another time.
+    const auto pictured = [](const std::vector<Fix>& fixes) {
+        ShownRecords shown;
+        TrackView part(&shown);
+        TelemetryContents all;
+        all.records = storeOf(fixes);
+        shown.setContents(std::move(all));
+        return part.picture({kStart, kStart + 60.0}, {300, 200});
+    };
+    const std::vector<Fix> first{{kStart, 55, 37}, {kStart + 60, 55, 37.2}};
+    std::vector<Fix> again = first;
+    again.push_back({kStart + 90, 55.05, 37.1});
+    QCOMPARE(pictured(again), pictured(first));
     const QTemporaryDir folder;
     view.saveTo(folder.filePath(QStringLiteral("t.svg")));
     QVERIFY(readFile(folder.filePath(QStringLiteral("t.svg"))).contains("rec_194"));

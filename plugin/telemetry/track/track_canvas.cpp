@@ -67,7 +67,7 @@ TrackSight TrackCanvas::sightIn(const QSizeF& room) const
 void TrackCanvas::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    paintTrack(painter, size(), *model_, sight_, palette());
+    paintTrack(painter, size(), *model_, sight_, model_->shownTime(), palette());
     if (hasFocus()) {
         painter.setPen(palette().color(QPalette::Highlight));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));

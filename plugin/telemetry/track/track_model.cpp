@@ -4,6 +4,7 @@
 #include "telemetry/files/rare_events.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace vlk {
 
@@ -88,6 +89,12 @@ void TrackModel::setSpanOnly(bool only)
 {
     isSpanOnly_ = only;
     Q_EMIT changed();
+}
+
+TimeSpan TrackModel::shownTime() const
+{
+    constexpr double endless = std::numeric_limits<double>::infinity();
+    return isSpanOnly_ ? records_->inSight() : TimeSpan{-endless, endless};
 }
 
 QRectF TrackModel::bounds() const

@@ -35,10 +35,9 @@ public:
     // Only what is in sight of the curves.
     bool isSpanOnly() const { return isSpanOnly_; }
     void setSpanOnly(bool only);
-    bool isShown(const TrackPoint& point) const
-    {
-        return !isSpanOnly_ || records_->inSight().contains(point.time);
-    }
+    // Of which moments points are shown.
+    TimeSpan shownTime() const;
+    bool isShown(const TrackPoint& point) const { return shownTime().contains(point.time); }
     // Of what is shown; a place where nothing is.
     QRectF bounds() const;
 

@@ -34,8 +34,8 @@ constexpr int kBins = ValueClasses::kMost + 1; // the last for no value
 class PathLines
 {
 public:
-    PathLines(const TrackModel& model, const TrackSight& sight, const QSizeF& size)
-        : model_(model), sight_(sight), size_(size), width_(static_cast<int>(size.width()) + 1),
+    PathLines(const TrackModel& model, const TrackSight& sight, const TimeSpan& span, const QSizeF& size)
+        : model_(model), sight_(sight), span_(span), size_(size), width_(static_cast<int>(size.width()) + 1),
           drawn_(static_cast<std::size_t>(width_) * (static_cast<std::size_t>(size.height()) + 1))
     {
         const TrackPath& path = model.path();
@@ -70,10 +70,10 @@ private:
     {
         const TrackPath& path = model_.path();
         const TrackPoint& point = path.points()[to];
-        if (!model_.isShown(point))
+        if (!span_.contains(point.time))
             return;
         const QPointF end = sight_.toPixel(path.place(to), size_);
-        const bool isAlone = from < 0 || point.startsSegment || !model_.isShown(path.points()[from]);
+        const bool isAlone = from < 0 || point.startsSegment || !span_.contains(path.points()[from].time);
         // A place alone is a point of its own.
         const QPointF start = isAlone ? end : sight_.toPixel(path.place(from), size_);
         const int bin = binOf(point.record);
@@ -105,6 +105,7 @@ private:
 
     const TrackModel& model_;
     const TrackSight sight_;
+    const TimeSpan span_;
     const QSizeF size_;
     const NumberColumn* const values_ = model_.values();
     std::size_t width_;
@@ -129,8 +130,8 @@ class TrackDrawing
 {
 public:
     TrackDrawing(QPainter& painter, const QSizeF& size, const TrackModel& model, const TrackSight& sight,
-                 const QPalette& palette)
-        : painter_(painter), size_(size), model_(model), sight_(sight), palette_(palette),
+                 const TimeSpan& span, const QPalette& palette)
+        : painter_(painter), size_(size), model_(model), sight_(sight), span_(span), palette_(palette),
           text_(palette.color(QPalette::Text)), base_(palette.color(QPalette::Base)), metrics_(painter.font())
     {
     }
@@ -141,7 +142,7 @@ public:
         if (model_.path().isEmpty()) {
             painter_.setPen(palette_.color(QPalette::Disabled, QPalette::Text));
             painter_.drawText(QRectF(QPointF(), size_), Qt::AlignCenter | Qt::TextWordWrap,
-                              translated("rec_193"));
+                              translated(model_.records().isBeingRead() ? "rec_371" : "rec_193"));
             return;
         }
         drawPath();
@@ -158,14 +159,14 @@ private:
     std::optional<QPointF> pixelOf(int record) const
     {
         const int point = model_.path().pointOf(record);
-        if (point < 0 || !model_.isShown(model_.path().points()[point]))
+        if (point < 0 || !span_.contains(model_.path().points()[point].time))
             return std::nullopt;
         return sight_.toPixel(model_.path().place(point), size_);
     }
 
     void drawPath()
     {
-        const PathLines lines(model_, sight_, size_);
+        const PathLines lines(model_, sight_, span_, size_);
         const bool isFast = lines.count() > kManyLines;
         painter_.setRenderHint(QPainter::Antialiasing, !isFast);
         for (int bin = kBins - 1, next = 0; next < kBins; bin = next++) {
@@ -333,6 +334,7 @@ private:
     const QSizeF size_;
     const TrackModel& model_;
     const TrackSight sight_;
+    const TimeSpan span_;
     const QPalette& palette_;
     const QColor text_;
     const QColor base_;
@@ -351,11 +353,11 @@ TrackSight sightOf(const QRectF& bounds, const QSizeF& size)
 }
 
 void paintTrack(QPainter& painter, const QSizeF& size, const TrackModel& model, const TrackSight& sight,
-                const QPalette& palette)
+                const TimeSpan& span, const QPalette& palette)
 {
     painter.save();
     painter.setClipRect(QRectF(QPointF(), size));
-    TrackDrawing(painter, size, model, sight, palette).draw();
+    TrackDrawing(painter, size, model, sight, span, palette).draw();
     painter.restore();
 }
 

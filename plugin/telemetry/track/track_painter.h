@@ -13,6 +13,7 @@ class QPalette;
 namespace vlk {
 
 class TrackModel;
+struct TimeSpan;
 
 // What part of the plane is seen, at what scale.
 struct TrackSight
@@ -34,7 +35,8 @@ struct TrackSight
 // All of the bounds, with a margin; of a vehicle that never moved its surroundings.
 TrackSight sightOf(const QRectF& bounds, const QSizeF& size);
 
+// The part of the track in that time.
 void paintTrack(QPainter& painter, const QSizeF& size, const TrackModel& model, const TrackSight& sight,
-                const QPalette& palette);
+                const TimeSpan& span, const QPalette& palette);
 
 } // namespace vlk

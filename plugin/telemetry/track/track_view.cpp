@@ -138,7 +138,7 @@ void TrackView::paint(QPainter& painter, const QSize& size) const
             .trimmed());
     painter.translate(0, kTitleHeight);
     const QSizeF room(size.width(), size.height() - kTitleHeight);
-    paintTrack(painter, room, *model_, canvas_->sightIn(room), paperPalette());
+    paintTrack(painter, room, *model_, canvas_->sightIn(room), model_->shownTime(), paperPalette());
 }
 
 QImage TrackView::picture(const TimeSpan& span, const QSize& size) const
@@ -152,7 +152,7 @@ QImage TrackView::picture(const TimeSpan& span, const QSize& size) const
         if (span.contains(model_->path().points()[point].time))
             unite(bounds, model_->path().place(point), std::exchange(isFirst, false));
     }
-    paintTrack(painter, size, *model_, sightOf(bounds, size), paperPalette());
+    paintTrack(painter, size, *model_, sightOf(bounds, size), span, paperPalette());
     return image;
 }
 
