@@ -178,7 +178,7 @@ int cellWidth(const QAbstractItemView& table, const QString& text)
     return table.fontMetrics().horizontalAdvance(text) + kLean + 2 * kCellPadding;
 }
 
-QString tableText(const QAbstractItemView& table)
+QString tableText(const QAbstractItemView& table, CopiedRows rows)
 {
     const QAbstractItemModel& model = *table.model();
     const QHeaderView* heads = headsOf(table);
@@ -195,7 +195,7 @@ QString tableText(const QAbstractItemView& table)
         text += cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
     };
     addLine([&](int column) { return model.headerData(column, Qt::Horizontal).toString(); });
-    const bool all = table.selectionMode() == QAbstractItemView::NoSelection;
+    const bool all = rows == CopiedRows::all || table.selectionMode() == QAbstractItemView::NoSelection;
     for (int row = 0; row < model.rowCount(); ++row) {
         if (!isHidden(table, row) && (all || table.selectionModel()->rowIntersectsSelection(row, {})))
             addLine([&](int column) { return model.index(row, column).data().toString(); });

@@ -29,7 +29,9 @@ void elideInTheMiddle(QAbstractItemView* table, int column);
 // How wide a cell of a text is.
 int cellWidth(const QAbstractItemView& table, const QString& text);
 
-// What Where nothing is edited Ctrl+C takes: cells with a tab between them, each row on a line.
-QString tableText(const QAbstractItemView& table);
+// What Ctrl+C takes where nothing is edited: cells with a tab between them, each row on a line; the heads
+// first.
+enum class CopiedRows : std::uint8_t { chosen, all };
+QString tableText(const QAbstractItemView& table, CopiedRows rows = CopiedRows::chosen);
 
 } // namespace vlk

@@ -103,9 +103,13 @@ private Q_SLOTS:
                  6)
             .row("too many", QString("1\t2\n").repeated(int(kMaxFuelRows) + 1), "", int(kMaxFuelRows) + 1)
             .row("other text", "Dear sir,\n10 l\n\n10\t\n", "", 2);
-        for (const QString& language : kLanguages)
-            QVERIFY(std::count(std::begin(kVolumeHeadings), std::end(kVolumeHeadings),
-                               readTexts(language).value("cfgt6_040")) == 1);
+        for (const QString& language : kLanguages) {
+            const auto texts = readTexts(language);
+            for (const char* value : {"cfgt6_041", "cfgt6_042", "cfgt6_043", "cfgt6_044", "cfgt6_045"}) {
+                const QString heads = texts.value("cfgt6_040") + "\t" + texts.value(value) + "\n";
+                QVERIFY2(fuelCsvOrder(heads.toUtf8()) == FuelOrder::VolumeFirst, qPrintable(heads));
+            }
+        }
     }
     void clipboard()
     {

@@ -1,6 +1,7 @@
 // Litres out of levels, and what is found in them: tables that cannot be right, levels that are none, steps
 // that stay and steps that do not, and the figures of a journey.
 
+#include "base/windows1251.h"
 #include "support/files.h"
 #include "support/records.h"
 #include "telemetry/fuel/calibration.h"
@@ -106,6 +107,11 @@ private Q_SLOTS:
         QTest::newRow("whole") << table("<DATA param_U='0' param_V='10'/><DATA param_U='9,5' param_V='99'/>")
                                << -1;
         QTest::newRow("CSV") << QByteArray("Value;Volume\r\n10;0\r\n99;9.5\r\n") << -1;
+        const QByteArray volumeFirst = "\r\n0;10\r\n9.5;99\r\n";
+        QTest::newRow("CSV as the screen") << "Volume, l;Level" + volumeFirst << -1;
+        QTest::newRow("CSV in other words") << "Litres;Code" + volumeFirst << -1;
+        QTest::newRow("CSV from elsewhere") << toWindows1251("Объём, л;Уровень") + volumeFirst << -1;
+        QTest::newRow("CSV of no order") << "x;y" + volumeFirst << fault(TableFault::NoOrder);
         QTest::newRow("falls back") << table(
                                            "<DATA param_U='0' param_V='10'/><DATA param_U='9' param_V='99'/>"
                                            "<DATA param_U='20' param_V='98'/>")

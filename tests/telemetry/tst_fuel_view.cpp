@@ -98,13 +98,16 @@ private Q_SLOTS:
         choose(good_);
         QCOMPARE(changed.count(), 1);
         QCOMPARE(view_->litres().size(), std::size_t(40));
+        const auto copied = [this] {
+            QTest::mouseClick(view_->findChild<QPushButton*>("pushButton_CopyFuel"), Qt::LeftButton);
+            return QApplication::clipboard()->text();
+        };
+        QVERIFY(copied().contains("-61"));
         QCOMPARE(row(), QStringList({"▼ Drain", "28.05.2026 23:45", "312", "251", "-61", "–"}));
         QTest::keyClick(table(), Qt::Key_Down);
         QCOMPARE(records_->current(), 19);
         QTest::keyClick(table(), Qt::Key_Return);
         QCOMPARE(records_->inSight(), (TimeSpan{kStart + 19 * 60 - 900.0, kStart + 20 * 60 + 900.0}));
-        QTest::mouseClick(view_->findChild<QPushButton*>("pushButton_CopyFuel"), Qt::LeftButton);
-        QVERIFY(QApplication::clipboard()->text().contains("-61"));
 
         auto* fall = view_->findChild<QDoubleSpinBox*>("doubleSpinBox_FuelFall");
         fall->setFocus();
@@ -133,6 +136,8 @@ private Q_SLOTS:
         }
         QCOMPARE(table()->model()->rowCount(), 2);
         QCOMPARE(table()->currentIndex().row(), 0);
+        QTest::mouseClick(view_->findChild<QPushButton*>("pushButton_CopyFuel"), Qt::LeftButton);
+        QCOMPARE(QApplication::clipboard()->text().count('\n'), 3);
         QCOMPARE(records_->current(), 5);
         QCOMPARE(int(view_->litres().size()), 60);
     }
@@ -156,6 +161,10 @@ private Q_SLOTS:
         QTest::newRow("falls back")
             << "<FUEL type='D1'>" + rows + "<DATA param_U='500' param_V='9'/></TABLE></FUEL>"
             << "table.xml: The readings of the calibration table fall while the volume rises" << 0;
+        QTest::newRow("no order") << QByteArray("x;y\n0;1\n400;4000\n")
+                                  << "table.xml: The headings of the calibration table do not tell which "
+                                     "column is the volume. Call it Volume, l"
+                                  << 0;
     }
     void saysWhatIsWrongWithATable()
     {
@@ -173,16 +182,26 @@ private Q_SLOTS:
         QCOMPARE(table()->model()->rowCount(), rows);
     }
 
+    // Its scale ends at 1023, all that is above it is an error.
+    void saysThatATableGivesNoVolume()
+    {
+        choose(file("small.csv", "Level;Volume, l\n1;0\n1000;400\n"));
+        QVERIFY(table()->findChild<QLabel*>("label_Empty")->text().startsWith("No volume can be computed"));
+    }
+
     void savesAndPrints()
     {
         choose(good_);
         const QString path = folder_.filePath("list.csv");
-        answerFile(path);
+        view_->setTitle("Van 7");
+        QString proposed;
+        answerFile(folder_.filePath("list"), &proposed);
         QTest::mouseClick(view_->findChild<QPushButton*>("pushButton_SaveFuel"), Qt::LeftButton);
         const QList<QByteArray> lines = readFile(path).split('\n');
+        QVERIFY(proposed.endsWith("/Van 7 Refuellings and drains.csv"));
         QCOMPARE(lines.size(), 3);
         QCOMPARE(lines[1], QByteArray("Drain;28.05.2026 23:45:40;28.05.2026 23:46:40;312.0;251.0;-61.0;;;"
-                                      "LevelRS485_1\r"));
+                                      "RS-485 Fuel level 1\r"));
         QTest::keyClick(table(), Qt::Key_Down);
         TimeSpan asked;
         view_->setVehicle("KAMAZ");

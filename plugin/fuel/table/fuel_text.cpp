@@ -1,5 +1,7 @@
 #include "fuel/table/fuel_text.h"
 
+#include "base/windows1251.h"
+
 #include <QLocale>
 #include <QRegularExpression>
 #include <QTextCodec>
@@ -76,11 +78,26 @@ Cells cellsOf(const QString& line)
     return {number(cells.value(0)), number(cells.value(1))};
 }
 
-FuelRow rowOf(Cells cells, bool valueFirst)
+FuelRow rowOf(Cells cells, FuelOrder order)
 {
-    if (valueFirst)
+    if (order == FuelOrder::ValueFirst)
         std::swap(cells.first, cells.second);
     return {std::move(cells.first), std::move(cells.second)};
+}
+
+// Small, without what stands between them.
+QStringList wordsOf(const QString& heading)
+{
+    static const QRegularExpression between(QStringLiteral("\\W+"),
+                                            QRegularExpression::UseUnicodePropertiesOption);
+    return heading.toLower().split(between, Qt::SkipEmptyParts);
+}
+
+template <std::size_t Count>
+bool beginsWithAny(const QString& word, const QString (&beginnings)[Count])
+{
+    return std::any_of(std::begin(beginnings), std::end(beginnings),
+                       [&word](const QString& beginning) { return word.startsWith(beginning); });
 }
 
 // Hands over line by line; stops when `take` gives false.
@@ -99,13 +116,40 @@ void forEachLine(const QString& text, Take take)
     }
 }
 
-// A line of headings: of a CSV file, or of the screen.
-bool isValueFirst(const QString& line, const FuelCaptions& captions)
+// With which the words of a heading begin, in each language of the texts; a unit is the whole word.
+const QString kVolumeWords[] = {QStringLiteral("volume"), QStringLiteral("litre"), QStringLiteral("liter"),
+                                QStringLiteral("объём"),  QStringLiteral("объем"), QStringLiteral("литр")};
+const QString kVolumeUnits[] = {QStringLiteral("l"), QStringLiteral("л")};
+const QString kValueWords[] = {QStringLiteral("value"),   QStringLiteral("level"), QStringLiteral("code"),
+                               QStringLiteral("reading"), QStringLiteral("volt"),  QStringLiteral("значени"),
+                               QStringLiteral("уров"),    QStringLiteral("код"),   QStringLiteral("показани"),
+                               QStringLiteral("напряж")};
+
+bool namesVolume(const QStringList& words)
 {
-    if (line.startsWith(captions.value))
-        return true;
-    return std::any_of(std::begin(kVolumeHeadings), std::end(kVolumeHeadings),
-                       [&line](const QString& heading) { return line.indexOf(heading) > 0; });
+    return std::any_of(words.begin(), words.end(), [](const QString& word) {
+        return beginsWithAny(word, kVolumeWords) ||
+               std::find(std::begin(kVolumeUnits), std::end(kVolumeUnits), word) != std::end(kVolumeUnits);
+    });
+}
+
+bool namesValue(const QStringList& words)
+{
+    return std::any_of(words.begin(), words.end(),
+                       [](const QString& word) { return beginsWithAny(word, kValueWords); });
+}
+
+// A line of headings: of a CSV file, of the screen, or of whatever a spreadsheet has them called.
+std::optional<FuelOrder> orderOf(const QString& line)
+{
+    const Cells heads = cellsOf(line);
+    const QStringList first = wordsOf(heads.first);
+    const QStringList second = wordsOf(heads.second);
+    if (namesVolume(first) != namesVolume(second))
+        return namesVolume(first) ? FuelOrder::VolumeFirst : FuelOrder::ValueFirst;
+    if (namesValue(first) != namesValue(second))
+        return namesValue(first) ? FuelOrder::ValueFirst : FuelOrder::VolumeFirst;
+    return {};
 }
 
 // Whether a cell can hold the number. One that is written with more digits than it has loses them.
@@ -143,7 +187,23 @@ QByteArray fuelCsv(const FuelCaptions& captions, const FuelRows& rows)
     return text.toLocal8Bit();
 }
 
-std::optional<FuelRows> readFuelCsv(const QByteArray& content)
+std::optional<FuelOrder> fuelCsvOrder(const QByteArray& content)
+{
+    // Of another system's encoding figures can be read, headings cannot: then they are tried in each of them.
+    const QByteArray start = content.left(kMaxFuelLine);
+    std::optional<FuelOrder> order;
+    for (const QString& text : {decoded(start), QString::fromUtf8(start), fromWindows1251(start)}) {
+        forEachLine(text, [&order](const QString& line) {
+            order = orderOf(line);
+            return false;
+        });
+        if (order)
+            break;
+    }
+    return order;
+}
+
+std::optional<FuelRows> readFuelCsv(const QByteArray& content, FuelOrder order)
 {
     const QString text = decoded(content);
     if (text.contains(QChar(QChar::Null)))
@@ -153,7 +213,7 @@ std::optional<FuelRows> readFuelCsv(const QByteArray& content)
     forEachLine(text, [&](const QString& line) {
         if (std::exchange(isHeading, false))
             return true;
-        FuelRow row = rowOf(cellsOf(line), true);
+        FuelRow row = rowOf(cellsOf(line), order);
         if (!row.value.isEmpty() || !row.volume.isEmpty())
             rows.push_back(std::move(row));
         return rows.size() <= kMaxFuelRows;
@@ -175,18 +235,21 @@ QString fuelClipboard(const FuelCaptions& captions, const FuelRows& rows)
 PastedRows readFuelClipboard(const QString& text, const FuelCaptions& captions, const FuelKind& kind)
 {
     PastedRows pasted;
-    bool valueFirst = false;
+    FuelOrder order = FuelOrder::VolumeFirst;
     bool isFirst = true;
     forEachLine(text, [&](const QString& line) {
         const Cells cells = cellsOf(line);
         if (cells.first.isEmpty() && cells.second.isEmpty())
             return true;
-        const bool mayBeHeading = std::exchange(isFirst, false) && !isPoint(rowOf(cells, false));
+        const bool mayBeHeading = std::exchange(isFirst, false) && !isPoint(rowOf(cells, order));
         if (mayBeHeading) {
-            valueFirst = isValueFirst(line, captions);
+            if (line.startsWith(captions.value))
+                order = FuelOrder::ValueFirst;
+            else
+                order = orderOf(line).value_or(order);
             return true;
         }
-        FuelRow row = rowOf(cells, valueFirst);
+        FuelRow row = rowOf(cells, order);
         if (fit(row.volume, kVolumeLimit) && fit(row.value, valueLimit(kind)))
             pasted.rows.push_back(std::move(row));
         else

@@ -16,6 +16,7 @@
 
 #include <QByteArray>
 
+#include <cstdint>
 #include <optional>
 
 namespace vlk {
@@ -30,10 +31,16 @@ struct FuelCaptions
 // Of a line no more than this is looked at. Characters.
 inline constexpr int kMaxFuelLine = 1024;
 
+// The order of the columns.
+enum class FuelOrder : std::uint8_t { ValueFirst, VolumeFirst };
+
 QByteArray fuelCsv(const FuelCaptions& captions, const FuelRows& rows);
+// What the headings in the first line say of it, in the words of any language of the texts; none where they
+// do not tell.
+std::optional<FuelOrder> fuelCsvOrder(const QByteArray& content);
 // The first line is dropped, whatever it says, and so are blank ones. None for what is no text or has more
 // than maxFuelRows rows.
-std::optional<FuelRows> readFuelCsv(const QByteArray& content);
+std::optional<FuelRows> readFuelCsv(const QByteArray& content, FuelOrder order = FuelOrder::ValueFirst);
 
 QString fuelClipboard(const FuelCaptions& captions, const FuelRows& rows);
 
@@ -44,11 +51,8 @@ struct PastedRows
     int leftOut = 0; // lines with something that no cell could hold
 };
 
-// Headings may be there; when they are those of a CSV file, in whatever language it was saved, its order
-// counts. With more than maxFuelRows rows all is left out.
+// Headings may be there; what they say of the order counts, in whatever language it was saved. With more than
+// maxFuelRows rows all is left out.
 PastedRows readFuelClipboard(const QString& text, const FuelCaptions& captions, const FuelKind& kind);
-
-// The caption of the volume in each language of the texts.
-inline const QString kVolumeHeadings[] = {QStringLiteral("Volume, l"), QStringLiteral("Объём, л")};
 
 } // namespace vlk

@@ -18,19 +18,29 @@ QString sensorOfName(const QString& path)
     return levelSensorOfTable(start) == nullptr ? QString() : start;
 }
 
-std::optional<Calibration> calibrationIn(const QByteArray& content, const QString& path)
+// Litres that are read as levels give wrong litres which nobody notices, so headings have to tell them apart.
+std::variant<Calibration, TableFault> calibrationInCsv(const QByteArray& content, const QString& path)
 {
-    if (!content.trimmed().startsWith('<')) {
-        std::optional<FuelRows> rows = readFuelCsv(content);
-        return rows ? std::optional(Calibration{sensorOfName(path), {}, *std::move(rows)}) : std::nullopt;
-    }
+    const std::optional<FuelOrder> order = fuelCsvOrder(content);
+    std::optional<FuelRows> rows = readFuelCsv(content, order.value_or(FuelOrder::ValueFirst));
+    if (!rows)
+        return TableFault::Unreadable;
+    if (!order && !rows->empty())
+        return TableFault::NoOrder;
+    return Calibration{sensorOfName(path), {}, *std::move(rows)};
+}
+
+std::variant<Calibration, TableFault> calibrationIn(const QByteArray& content, const QString& path)
+{
+    if (!content.trimmed().startsWith('<'))
+        return calibrationInCsv(content, path);
     // A document with another root opens too.
     if (!content.contains(QByteArray("<") + kFuelRoot))
-        return {};
+        return TableFault::Unreadable;
     XmlDocument document(content, QLatin1String(kFuelRoot));
     std::optional<FuelRows> rows = document.isOpen() ? fuelTable(document.root()) : std::nullopt;
     if (!rows)
-        return {};
+        return TableFault::Unreadable;
     const QString name = fuelTableName(document.root());
     return Calibration{document.root()->getString(QStringLiteral("type")),
                        name.isEmpty() ? fuelTableWrittenName(document.root()) : name, *std::move(rows)};
@@ -41,12 +51,13 @@ std::optional<Calibration> calibrationIn(const QByteArray& content, const QStrin
 std::variant<Calibration, TableFault> readCalibration(const QString& path)
 {
     const std::optional<QByteArray> content = readFuelFile(path);
-    std::optional<Calibration> table = content ? calibrationIn(*content, path) : std::nullopt;
-    if (!table)
+    if (!content)
         return TableFault::Unreadable;
-    if (const std::optional<TableFault> fault = FuelCurve::faultOf(table->rows))
+    std::variant<Calibration, TableFault> read = calibrationIn(*content, path);
+    const auto* const table = std::get_if<Calibration>(&read);
+    if (const auto fault = table != nullptr ? FuelCurve::faultOf(table->rows) : std::nullopt)
         return *fault;
-    return *std::move(table);
+    return read;
 }
 
 bool suits(const Calibration& table, const LevelSensor& sensor)

@@ -40,7 +40,7 @@ FuelPoints pointsOf(const FuelRows& rows)
 
 const char* faultKey(TableFault fault)
 {
-    static constexpr const char* keys[] = {"rec_230", "rec_231", "rec_232", "rec_233", "rec_234"};
+    static constexpr const char* keys[] = {"rec_230", "rec_231", "rec_232", "rec_233", "rec_234", "rec_370"};
     return keys[static_cast<int>(fault)];
 }
 

@@ -8,7 +8,7 @@
 namespace vlk {
 
 // Why a table makes no curve.
-enum class TableFault : std::uint8_t { Unreadable, NoPoints, OnePoint, NoNumber, FallsBack };
+enum class TableFault : std::uint8_t { Unreadable, NoPoints, OnePoint, NoNumber, FallsBack, NoOrder };
 
 // What the user reads of it.
 const char* faultKey(TableFault fault);

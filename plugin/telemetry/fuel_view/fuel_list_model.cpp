@@ -30,10 +30,11 @@ void FuelListModel::set(std::vector<FuelEvent> events, const std::vector<TankSen
 {
     beginResetModel();
     events_ = std::move(events);
-    elements_ = elementsOf(tanks);
+    sensors_.clear();
     utcOffset_ = utcOffset;
     least_ = greatest_ = 0;
     for (const TankSensor& tank : tanks) {
+        sensors_.push_back(tank.sensor);
         least_ += tank.curve ? tank.curve->leastLitres() : -kInfinite;
         greatest_ += tank.curve ? tank.curve->greatestLitres() : kInfinite;
     }
@@ -120,15 +121,18 @@ QVariant FuelListModel::headerData(int section, Qt::Orientation orientation, int
 
 QString FuelListModel::csv() const
 {
+    QStringList sensors;
+    for (const LevelSensor* sensor : sensors_)
+        sensors << levelSensorCaption(*sensor);
     QString csv =
         csvLine({tr("rec_242"), tr("rec_243").arg(zoneText(utcOffset_)), tr("rec_267"), tr("rec_244"),
                  tr("rec_245"), tr("rec_246"), tr("rec_268"), tr("rec_249"), tr("rec_250")});
     for (const FuelEvent& event : events_)
-        csv +=
-            csvLine({tr(event.isRefuelling() ? "rec_240" : "rec_241"), listTime(event.time, utcOffset_, true),
-                     listTime(event.until, utcOffset_, true), sheetNumber(event.before, 1),
-                     sheetNumber(event.after, 1), sheetNumber(event.litres(), 1),
-                     sheetNumber(event.latitude, 7), sheetNumber(event.longitude, 7), elements_});
+        csv += csvLine({tr(event.isRefuelling() ? "rec_240" : "rec_241"),
+                        listTime(event.time, utcOffset_, true), listTime(event.until, utcOffset_, true),
+                        sheetNumber(event.before, 1), sheetNumber(event.after, 1),
+                        sheetNumber(event.litres(), 1), sheetNumber(event.latitude, 7),
+                        sheetNumber(event.longitude, 7), sensors.join(QStringLiteral(" + "))});
     return csv;
 }
 

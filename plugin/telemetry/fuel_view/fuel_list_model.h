@@ -35,7 +35,7 @@ private:
     QString beyondText(double litres) const;
 
     std::vector<FuelEvent> events_;
-    QString elements_;
+    std::vector<const LevelSensor*> sensors_;
     double least_ = 0; // litres of the tables
     double greatest_ = 0;
     qint32 utcOffset_ = 0;

@@ -1,10 +1,10 @@
 #include "telemetry/fuel_view/fuel_view.h"
 
-#include "base/replace_file.h"
+#include "telemetry/curves/hand_over.h"
 #include "telemetry/fuel_view/fuel_sheet.h"
 #include "telemetry/fuel_view/tank_button.h"
 #include "typing/empty_note.h"
-#include "typing/file_error.h"
+#include "typing/notice_bar.h"
 #include "typing/number_entry.h"
 #include "typing/table_look.h"
 #include "windows/named_widget.h"
@@ -12,7 +12,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDoubleSpinBox>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -26,6 +25,7 @@
 #include <QTextDocument>
 
 #include <algorithm>
+#include <cmath>
 
 namespace vlk {
 
@@ -51,10 +51,12 @@ QDoubleSpinBox* litresBox(const char* name, QWidget* parent)
 } // namespace
 
 FuelView::FuelView(ShownRecords* records, QWidget* parent)
-    : QWidget(parent), records_(*records), model_(new FuelListModel(this)), vehicleLabel_(new QLabel(this)),
-      vehicle_(namedWidget<QLineEdit>("lineEdit_FuelVehicle", this)), tanks_(new TankButton(this)),
-      riseLabel_(new QLabel(this)), rise_(litresBox("doubleSpinBox_FuelRise", this)),
-      fallLabel_(new QLabel(this)), fall_(litresBox("doubleSpinBox_FuelFall", this)),
+    : QWidget(parent), records_(*records), model_(new FuelListModel(this)),
+      bar_(new NoticeBar(this, QStringLiteral("label_FuelNotice"))), handOver_(new HandOver(this, bar_)),
+      vehicleLabel_(new QLabel(this)), vehicle_(namedWidget<QLineEdit>("lineEdit_FuelVehicle", this)),
+      tanks_(new TankButton(this)), riseLabel_(new QLabel(this)),
+      rise_(litresBox("doubleSpinBox_FuelRise", this)), fallLabel_(new QLabel(this)),
+      fall_(litresBox("doubleSpinBox_FuelFall", this)),
       copy_(namedWidget<QPushButton>("pushButton_CopyFuel", this)),
       csv_(namedWidget<QPushButton>("pushButton_SaveFuel", this)),
       print_(namedWidget<QPushButton>("pushButton_PrintFuel", this)),
@@ -86,6 +88,7 @@ FuelView::FuelView(ShownRecords* records, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 6, 6, 6);
     layout->setSpacing(6);
+    layout->addWidget(bar_);
     auto* tanks = new QHBoxLayout;
     tanks->setSpacing(8);
     tanks->addWidget(vehicleLabel_);
@@ -118,8 +121,7 @@ FuelView::FuelView(ShownRecords* records, QWidget* parent)
             [this](const QModelIndex& index) { look(index.row()); });
     connect(table_, &QTableView::doubleClicked, this,
             [this](const QModelIndex& index) { zoom(index.row()); });
-    connect(copy_, &QPushButton::clicked, this,
-            [this] { QApplication::clipboard()->setText(tableText(*table_)); });
+    connect(copy_, &QPushButton::clicked, this, &FuelView::copy);
     connect(csv_, &QPushButton::clicked, this, &FuelView::saveCsv);
     connect(print_, &QPushButton::clicked, this, &FuelView::print);
     connect(empty_, &EmptyNote::pressed, tanks_, &QToolButton::showMenu);
@@ -131,6 +133,11 @@ void FuelView::setVehicle(const QString& vehicle)
 {
     vehicle_->setText(vehicle);
     refreshRecords();
+}
+
+void FuelView::setTitle(const QString& title)
+{
+    title_ = title;
 }
 
 void FuelView::setPictures(Picture curve, Picture track)
@@ -214,16 +221,19 @@ bool FuelView::eventFilter(QObject* watched, QEvent* event)
     return true;
 }
 
+// The list, of which several lines may be chosen; one is chosen to look at its record.
+void FuelView::copy()
+{
+    const bool areSeveral = table_->selectionModel()->selectedRows().size() > 1;
+    QApplication::clipboard()->setText(tableText(*table_, areSeveral ? CopiedRows::chosen : CopiedRows::all));
+}
+
 void FuelView::saveCsv()
 {
-    const QString path = QFileDialog::getSaveFileName(this, tr("rev_115"), {}, QStringLiteral("CSV (*.csv)"));
-    if (path.isEmpty())
-        return;
-    QString reason;
     // With a mark of the encoding, by which spreadsheets know it.
-    const bool isSaved = replaceFile(path, "\xEF\xBB\xBF" + model_->csv().toUtf8(), &reason);
-    saveFault_ = isSaved ? QString() : tr("rec_261").arg(fileErrorText(reason));
-    showState();
+    const QByteArray csv = "\xEF\xBB\xBF" + model_->csv().toUtf8();
+    handOver_->askTable(QStringLiteral("%1 %2").arg(title_, tr("rec_263")).trimmed(),
+                        [&csv](QIODevice& device) { return device.write(csv) == csv.size(); });
 }
 
 // Half an hour round the chosen event, or all that is in sight.
@@ -276,6 +286,7 @@ void FuelView::retranslate()
     csv_->setToolTip(tr("rev_115"));
     print_->setText(tr("rec_262"));
     table_->setAccessibleName(tr("rec_263"));
+    bar_->retranslate();
     tanks_->retranslate();
     model_->retranslate();
     showState();
@@ -283,15 +294,16 @@ void FuelView::retranslate()
 
 void FuelView::showState()
 {
-    const QString news = saveFault_.isEmpty() ? tanks_->news() : saveFault_;
+    const QString news = tanks_->news();
     news_->setText(news);
     news_->setVisible(!news.isEmpty());
+    const bool isAnyVolume = std::ranges::any_of(litres_, [](double each) { return !std::isnan(each); });
     if (!tanks_->tanks().empty())
-        empty_->tell(tr("rec_256"));
+        empty_->tell(tr(isAnyVolume ? "rec_256" : "rec_372"));
     else if (tanks_->hasSensors())
         empty_->tell(tr("rec_239"), tr("rec_251"));
     else
-        empty_->tell(tr("rec_258"));
+        empty_->tell(tr(records_.isBeingRead() ? "rec_371" : "rec_258"));
     for (QPushButton* button : {copy_, csv_, print_})
         button->setEnabled(model_->rowCount() > 0);
 }

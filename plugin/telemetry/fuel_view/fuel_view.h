@@ -23,6 +23,8 @@ class QTextDocument;
 namespace vlk {
 
 class EmptyNote;
+class HandOver;
+class NoticeBar;
 class TankButton;
 
 class FuelView : public QWidget
@@ -37,6 +39,8 @@ public:
 
     // Under which tables are remembered: as its file names it, until the user calls it something else.
     void setVehicle(const QString& vehicle);
+    // What a file of the list is called by.
+    void setTitle(const QString& title);
     // For the sheet on paper; null for none.
     void setPictures(Picture curve, Picture track);
     void retranslate();
@@ -61,6 +65,7 @@ private:
     void setEvents(std::vector<FuelEvent> found);
     void look(int line);
     void zoom(int line);
+    void copy();
     void saveCsv();
     void print();
     void showState();
@@ -68,6 +73,8 @@ private:
 
     ShownRecords& records_;
     FuelListModel* model_;
+    NoticeBar* bar_;
+    HandOver* handOver_;
     QLabel* vehicleLabel_;
     QLineEdit* vehicle_;
     TankButton* tanks_;
@@ -84,7 +91,7 @@ private:
     Picture curve_;
     Picture track_;
     NumberColumn litres_;
-    QString saveFault_;
+    QString title_;
     bool isRefreshing_ = false;
 };
 

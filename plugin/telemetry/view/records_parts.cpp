@@ -71,7 +71,10 @@ std::vector<RecordsPart> makeRecordsParts(ShownRecords* shown, QWidget* parent)
              fuel->retranslate();
              tellFuel(shown, *fuel, summary);
          },
-         [fuel](const QString& name) { fuel->setVehicle(vehicleOfFile(name)); }},
+         [fuel](const QString& name) {
+             fuel->setTitle(QFileInfo(name).completeBaseName());
+             fuel->setVehicle(vehicleOfFile(name));
+         }},
     };
 }
 
