@@ -278,6 +278,19 @@ private Q_SLOTS:
         Bench::enter("pushButton_Close");
     }
 
+    // Nobody is there who could cancel.
+    void takesItsProgressAlong()
+    {
+        auto bench = std::make_unique<Bench>();
+        bench->action("action_Read")->trigger();
+        bench->session().tracker().setFaults({.delayMs = 5000});
+        bench->editName("Van 1");
+        QTRY_VERIFY(Bench::find("dialog_Progress"));
+        const QPointer<QWidget> progress = Bench::find("dialog_Progress");
+        bench.reset();
+        QVERIFY(!progress);
+    }
+
     void triesAgainAndBringsBack()
     {
         Bench bench;

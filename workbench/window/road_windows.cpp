@@ -27,6 +27,12 @@ RoadWindows::RoadWindows(HostSession& session, Settings& settings, QWidget* main
     connect(&session_.road(), &WriteRoad::ended, this, &RoadWindows::hideProgress);
 }
 
+// The window that it lies over may outlive the road that it would cancel.
+RoadWindows::~RoadWindows()
+{
+    delete progress_;
+}
+
 void RoadWindows::follow(RoadReport::Step step)
 {
     if (step == RoadReport::Step::review) {

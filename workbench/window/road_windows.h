@@ -22,6 +22,7 @@ class RoadWindows : public QObject
 
 public:
     RoadWindows(HostSession& session, Settings& settings, QWidget* mainWindow);
+    ~RoadWindows() override;
 
     // The report as a dialog, where the one in the main window would not be seen.
     void showReport(const RoadReport& report, const QString& typed);
