@@ -162,6 +162,22 @@ private Q_SLOTS:
                  QStringLiteral("bu"));
     }
 
+    // Of a text on two lines neither would be one of the form.
+    void keepsTextsOnTheirLines()
+    {
+        TelemetryOrigin origin = sampleOrigin();
+        origin.titles.inputs[0] = QStringLiteral("Door\r\nleft");
+        const TelemetryPages pages =
+            pagesOf(packetOf(kNavigation, kSecondHead.mid(2), cardEntry("A\nB\x01")));
+        const TelemetryContents contents =
+            readBack(readTelemetryXml, written(writeTelemetryXml, pages, origin));
+        QVERIFY(contents.damages.empty());
+        QStringList texts;
+        contents.records.at(0)->extra().forEachEntry([&](const ExtraEntry& entry) { texts += entry.text(); });
+        QCOMPARE(texts, QStringList("A B "));
+        QCOMPARE(contents.origin.titles.inputs[0], QStringLiteral("Door  left"));
+    }
+
     void binaryBytes()
     {
         QCOMPARE(written(writeTelemetryBinary, {}), QByteArray());

@@ -5,11 +5,22 @@
 #include "telemetry/files/value_writing.h"
 #include "telemetry/text/time_text.h"
 
+#include <algorithm>
+
 namespace vlk {
 
 namespace {
 
 constexpr ElementIndex kAlwaysWritten[] = {element("NumPage"), element("Code"), element("Time")};
+
+// A text ends with its line: what would break it, or hide in it, becomes a blank.
+QByteArray onOneLine(const QString& text)
+{
+    QByteArray bytes = toWindows1251(text);
+    std::ranges::replace_if(
+        bytes, [](char sign) { return static_cast<unsigned char>(sign) < ' ' && sign != '\t'; }, ' ');
+    return bytes;
+}
 
 void addNumber(OutputBuffer& out, auto number)
 {
@@ -48,7 +59,7 @@ void addEntry(OutputBuffer& out, const ExtraEntry& entry)
         return;
     out << "\t\t<Dynamic type=\"" << entry.type << "\" size=\"" << entry.size << "\" value=\"";
     if (entry.type == ExtraEntry::Card)
-        out << toWindows1251(entry.text());
+        out << onOneLine(entry.text());
     else
         out << entry.number();
     out << "\"/>\r\n";
@@ -73,15 +84,14 @@ public:
     void begin(OutputBuffer& out) override
     {
         out << "<?xml version=\"1.0\" encoding=\"windows-1251\"?>\r\n"
-            << "<TMI model=\"" << toWindows1251(origin_.model) << "\" modification=\"7\" vendor=\""
-            << toWindows1251(origin_.vendor) << "\" version=\"3.0\"> \r\n"
+            << "<TMI model=\"" << onOneLine(origin_.model) << "\" modification=\"7\" vendor=\""
+            << onOneLine(origin_.vendor) << "\" version=\"3.0\"> \r\n"
             << "\t<TIMEZONE offset=\"" << origin_.timeOffset << "\"/>\r\n";
         for (const TitleLine& line : kTitleLines)
-            out << "\t<" << line.tag << " title=\"" << toWindows1251(titleOf(origin_.titles, line))
-                << "\"/>\r\n";
+            out << "\t<" << line.tag << " title=\"" << onOneLine(titleOf(origin_.titles, line)) << "\"/>\r\n";
         const QString letters = typeLetters(origin_.titles);
         for (const TypeLine& line : kTypeLines)
-            out << "\t<" << line.tag << " type=\"" << toWindows1251(letters.mid(line.first, line.count))
+            out << "\t<" << line.tag << " type=\"" << onOneLine(letters.mid(line.first, line.count))
                 << "\"/>\r\n";
         const auto time = [this](quint32 seconds) {
             return ahead_.count == 0 ? QByteArray("0") : dateTimeText(seconds).toLatin1();
