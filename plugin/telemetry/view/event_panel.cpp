@@ -15,8 +15,6 @@
 
 namespace vlk {
 
-using namespace vlk;
-
 namespace {
 
 template <ElementIndex index>

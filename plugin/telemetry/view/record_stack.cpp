@@ -13,8 +13,6 @@
 
 namespace vlk {
 
-using namespace vlk;
-
 RecordStack::RecordStack(QStackedWidget* stack, EventPanel* panel, bool live)
     : stack_(stack), panel_(panel), live_(live)
 {

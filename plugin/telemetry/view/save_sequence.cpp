@@ -23,8 +23,6 @@
 
 namespace vlk {
 
-using namespace vlk;
-
 namespace {
 
 Q_LOGGING_CATEGORY(lcPart, "vlk.save.part")
