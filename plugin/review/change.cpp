@@ -2,8 +2,10 @@
 
 #include "base/number_text.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <iterator>
 #include <limits>
 
 namespace vlk {
@@ -69,9 +71,21 @@ Change why(const Number& row, const Reading& reading, const QString& value)
                : Change::rounded;
 }
 
-Change why(const Text& row, const Reading&, const QString&)
+// A line with a mask takes its signs from the mask, and drops what has no place in it.
+Change why(const Text& row, const Reading& reading, const QString& value)
 {
-    return row.mask ? Change::otherForm : Change::tooLong;
+    if (!row.mask)
+        return Change::tooLong;
+    const auto filled = [](const QString& text) {
+        QString places;
+        std::copy_if(text.begin(), text.end(), std::back_inserter(places),
+                     [](QChar sign) { return sign.isLetterOrNumber(); });
+        return places;
+    };
+    if (filled(value) == filled(reading.text))
+        return Change::otherForm;
+    const bool isFull = value.size() == QLatin1String(row.mask).size();
+    return isFull && filled(reading.text).startsWith(filled(value)) ? Change::tooLong : Change::unknownCode;
 }
 
 Change why(const Choice& row, const Reading& reading, const QString&)

@@ -70,6 +70,13 @@ private Q_SLOTS:
         table.row("secret", "CRYPTO key=\"\"", "CRYPTO key=\"" + QByteArray(40, 'x') + '"',
                   QString::fromUtf8(
                       "TRANS/CRYPTO/key named: ••• \u2192 •••. rev_010; advice TRANS/CRYPTO/srv1Mode named"));
+        table.row("address in another form", "C4:64:E3:0B:52:10", "C4-64-E3-0B-52-10", {});
+        table.row("address with too many digits", "C4:64:E3:0B:52:10", "C4:64:E3:0B:52:10:77",
+                  QString::fromUtf8("BLUETOOTH/SENS1/macaddr named: C4:64:E3:0B:52:10:77 \u2192 "
+                                    "C4:64:E3:0B:52:10. rev_010"));
+        table.row("no address", "\":::::\" name", "\"hello\" name",
+                  QString::fromUtf8("BLUETOOTH/SENS3/macaddr named: hello \u2192 e:::::. rev_011; "
+                                    "advice BLUETOOTH/SENS3/type named"));
         table.row("model", "model=\"R-7106\"", "model=\"R-1\"", "advice DEVICE/model");
         table.row("version", "version=\"3.3.0\"", "version=\"3.2.0\"", "advice DEVICE/version");
     }
