@@ -7,6 +7,7 @@
 #include "command/each_file.h"
 #include "command/expected_value.h"
 #include "command/file_names.h"
+#include "command/file_turn.h"
 #include "command/preset_problems.h"
 #include "command/system_reason.h"
 #include "plugin/base/replace_file.h"
@@ -15,12 +16,10 @@
 #include "window/languages.h"
 #include "xml/xml_document.h"
 
-#include <QFileInfo>
+#include <QFile>
 
-#include <array>
 #include <cerrno>
 #include <cstdio>
-#include <mutex>
 
 namespace workbench::command {
 
@@ -105,6 +104,13 @@ QByteArray toldOf(const Call& call, const File& file, const QByteArray& before, 
                    configuration, call, file.name);
 }
 
+// What was read is there no longer: another program has saved the file since.
+bool isOvertaken(const QString& name, const QByteArray& read)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) && file.read(read.size() + 1) != read;
+}
+
 // Standard input goes to standard output as a document; what changed in it is told beside it.
 Outcome passedOn(const Call& call, const QByteArray& document, const QByteArray& told)
 {
@@ -123,6 +129,8 @@ Outcome laidInto(const Call& call, const File& file, const QByteArray& before, c
         return passedOn(call, edited.text, told);
     if (isSame)
         return {};
+    if (isOvertaken(file.name, before))
+        return refusal(call, file.name, text("cli_280"));
     QString reason = isClosed(file.name) ? qt_error_string(EACCES) : QString();
     if (!reason.isEmpty() || (!call.dryRun && !vlk::replaceFile(file.name, edited.text, &reason)))
         return refusal(call, file.name, text("cli_003").arg(systemReason(reason)));
@@ -135,11 +143,10 @@ int edit(const Call& call, Output& output, const Edit& edit)
 {
     // Whoever interrupts it is told of every file that was changed.
     std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
-    // A file that is named twice, by its folder too, is edited by one thread after the other.
-    std::array<std::mutex, 61> mutexes;
     const auto work = [&](const File& file) {
-        const QString name = QFileInfo(file.name).canonicalFilePath();
-        const std::lock_guard lock(mutexes[qHash(name) % mutexes.size()]);
+        const FileTurn turn(file.isStandardInput() ? QString() : file.name);
+        if (!turn.has())
+            return refusal(call, file.name, text("cli_280"));
         return withConfiguration(call, file, [&](const QByteArray& text, vlk::XmlDocument&) {
             return laidInto(call, file, text, edit(text));
         });
