@@ -1412,6 +1412,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_265"><translation>--decimal-comma is for csv and tsv</translation></message>
     <message id="cli_266"><translation>%1 that -o would replace by something else</translation></message>
     <message id="cli_270"><translation>All files are of one vehicle: their records are judged together, each once. Without it this goes for TMI files that tell the same tracker, any other file is judged alone</translation></message>
+    <message id="cli_280"><translation>is being changed by another program: try again</translation></message>
+    <message id="cli_281"><translation>(in the file: %1. %2)</translation></message>
+    <message id="cli_282"><translation>holds telemetry, and several files are named: -o would replace it. Remove it first, or name another file</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>
     <message id="rev_003"><translation>Unknown key, a write drops it</translation></message>

@@ -1412,6 +1412,9 @@
     <message id="cli_265"><translation>--decimal-comma только для csv и tsv</translation></message>
     <message id="cli_266"><translation>в файле %1, -o заменит содержимое другим</translation></message>
     <message id="cli_270"><translation>Все файлы с одной машины: записи оцениваются вместе, каждая один раз. Без этого так оцениваются файлы TMI, в которых указан один и тот же трекер, любой другой файл — отдельно</translation></message>
+    <message id="cli_280"><translation>его меняет другая программа: повторите</translation></message>
+    <message id="cli_281"><translation>(в файле: %1. %2)</translation></message>
+    <message id="cli_282"><translation>содержит телеметрию, а файлов указано несколько: -o заменил бы её. Сначала удалите его или укажите другой файл</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>

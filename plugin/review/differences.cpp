@@ -19,10 +19,7 @@ QString there(const QString& text)
 // Of the section that the path begins with; behind all of them where no table has it.
 int tableOfSection(const QString& path)
 {
-    int table = 0;
-    while (table < FileKeys::all().tables() && !path.startsWith(FileKeys::all().layout(table).prefix()))
-        ++table;
-    return table;
+    return FileKeys::all().tableOfSection(path);
 }
 
 } // namespace

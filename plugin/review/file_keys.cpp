@@ -47,6 +47,14 @@ bool FileKeys::looksSecret(const QString& path) const
     return secretNames_.contains(path.section(QLatin1Char('/'), -1));
 }
 
+int FileKeys::tableOfSection(const QString& path) const
+{
+    int table = 0;
+    while (table < tables() && !path.startsWith(layout(table).prefix()))
+        ++table;
+    return table;
+}
+
 int FileKeys::tableOf(const SettingsTable& table) const
 {
     const auto found = std::find_if(layouts_.begin(), layouts_.end(),

@@ -42,6 +42,8 @@ public:
     int tables() const { return static_cast<int>(layouts_.size()); }
     // The place of a table among all; -1 for another one.
     int tableOf(const SettingsTable& table) const;
+    // That of the section that a path begins with, known or not; tables() where no table has it.
+    int tableOfSection(const QString& path) const;
     // The keys of a table, from here on up to those of the next one.
     int firstOf(int table) const { return first_[table]; }
 

@@ -60,6 +60,7 @@ private Q_SLOTS:
         put("other.xml", "<FUEL type='D2'>" + rows + "</TABLE></FUEL>");
         put("falls.xml", "<FUEL type='D1'>" + rows + "<DATA param_U='500' param_V='9'/></TABLE></FUEL>");
         put("volts.xml", "<FUEL type='A3'>" + rows + "</TABLE></FUEL>");
+        put("lines.xml", "<DEVICE><X y='a&#10;b'/></DEVICE>");
         put("empty.xml", "");
         put("cut.xml", track.left(60));
         put("secret.xml", "<DEVICE><TRANS><AP1 pass='geheim'/></TRANS></DEVICE>");
@@ -174,8 +175,30 @@ private Q_SLOTS:
                  "./tank.xml: LevelRS485_1 stands twice\n")
             .row("a table that would be replaced", "fuel --table tank.xml week.xml -o tank.xml", 2, "",
                  "tank.xml: is read by the same call: -o would replace it\n")
+            .row(
+                "the first file of a pattern", "convert --to xml -o telemetry.xml days/1.xml days/2.xml", 2,
+                "",
+                "telemetry.xml: holds telemetry, and several files are named: -o would replace it. Remove it "
+                "first, or name another file\n")
             .row("a value that is none", "--language ru check --json=x a.xml", 2, "",
                  "r7106: --json не принимает значения\nСправка: r7106 --help\n")
+            .row("a number is none either", "convert --merge=2 --to csv week.xml", 2, "",
+                 "r7106: --merge takes no value\n" + help)
+            .row("a value that a load limits", "diff --defaults fleet/2.xml", 1,
+                 "TRACK/POINTS/maxSpeed: Track / Always record a track point / Speed threshold: 100 km/h → "
+                 "180 km/h (in the file: 500 km/h. Out of range, limited)\n",
+                 "")
+            .row("a fleet of ones", "compare fleet/1.xml fleet/2.xml lines.xml", 1,
+                 "TRACK/POINTS/maxSpeed: Track / Always record a track point / Speed threshold\n"
+                 "    90: fleet/1.xml\n    500: fleet/2.xml\n    –: lines.xml\n"
+                 "TRACK/POINTS/z\n    2: most files, 2\n    –: lines.xml\n"
+                 "X/y\n    1: most files, 2\n    a%0Ab: lines.xml\n",
+                 "")
+            .row("most lack it", "compare lines.xml secret.xml secret.xml", 1,
+                 "TRANS/AP1/pass: Data transfer / GPRS access point / Password\n"
+                 "    ••• 1: most files, 2\n    –: lines.xml\n"
+                 "X/y\n    a%0Ab: lines.xml\n    –: most files, 2\n",
+                 "")
             .row("nothing at all", "info empty.xml", 0, "empty.xml: is empty\n", "")
             .row("no table", "fuel week.xml", 2, "", "--table: a calibration table is needed: --table FILE\n")
             .row("a table that is not there", "fuel --table none.xml week.xml", 2, "",
@@ -306,6 +329,21 @@ private Q_SLOTS:
         QTEST(complaints, "complaints");
         QTEST(status, "status");
         QTEST(readFile(path("a.xml")), "after");
+    }
+
+    // Calls at once, each with a setting of its own.
+    void editsAtOnce()
+    {
+        std::vector<std::unique_ptr<QProcess>> calls;
+        for (int i = 1; i <= 16; ++i) {
+            calls.push_back(std::make_unique<QProcess>());
+            calls.back()->setWorkingDirectory(folder_->path());
+            calls.back()->start(VLK_COMMAND,
+                                {"set", QString("RS485/FS%1/filterLength=7").arg(i), "factory.xml"});
+        }
+        for (const auto& call : calls)
+            QVERIFY(call->waitForFinished() && call->exitCode() == 0);
+        QCOMPARE(readFile(path("factory.xml")).count("filterLength=\"7\""), 16);
     }
 
     void closedAndFull()

@@ -263,15 +263,12 @@ QString whyNotParsed(const CLI::App& app, const CLI::ParseError& error)
     if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr)
         return text("cli_016").arg(left.join(QLatin1Char(' ')));
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
+        if (said.endsWith(QLatin1String("flag override")))
+            return text("cli_263").arg(QStringLiteral("--") + said.section(QLatin1Char(' '), 0, 0));
         const QString name = said.section(QLatin1Char(':'), 0, 0);
         const CLI::App& of = chosen.empty() ? app : *chosen.front();
         const CLI::Option* option = of.get_option_no_throw(name.toStdString());
         return text(option != nullptr && option->count() > 1 ? "cli_031" : "cli_018").arg(name);
-    }
-    if (dynamic_cast<const CLI::ConversionError*>(&error) != nullptr) {
-        // "Could not convert: --json = x"
-        const QString name = said.section(QStringLiteral(": "), 1).section(QStringLiteral(" = "), 0, 0);
-        return name.isEmpty() ? said : text("cli_263").arg(name);
     }
     if (dynamic_cast<const CLI::ValidationError*>(&error) != nullptr) {
         const QString name = said.section(QLatin1Char(':'), 0, 0);
@@ -312,6 +309,8 @@ void setUp(CLI::App& app, Read& read)
     app.footer(
         withExamples("  r7106 check fleet\n  r7106 diff before.xml after.xml\n  r7106 set --help\n\n") +
         words("cli_128"));
+    // A flag is there or not: "--json=0" would be read as a value of it.
+    app.option_defaults()->disable_flag_override();
     app.set_help_flag("-h,--help", words("cli_108"));
     // Told by the program before anything else, here for the help.
     app.add_flag("--version", read.isVersion, words("cli_109"));

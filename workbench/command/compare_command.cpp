@@ -115,22 +115,40 @@ public:
         bool differs = false;
         const auto files = static_cast<std::size_t>(files_.size());
         if (call.csv && !call.json)
-            output.write((text("cli_040") + QStringLiteral("\r\n")).toUtf8());
-        for (std::size_t place = 0; place < columns_.size(); ++place) {
+            output.write((output.isFile() ? "\xEF\xBB\xBF" : "") +
+                         (text("cli_040") + QStringLiteral("\r\n")).toUtf8());
+        for (const std::size_t place : inOrder()) {
             Column& column = columns_[place];
             if (column.values().isEmpty() || column.agrees(files))
                 continue;
             differs = true;
             column.fill(files);
-            const QString path = place < static_cast<std::size_t>(FileKeys::all().count())
-                                     ? FileKeys::all()[static_cast<int>(place)].path
-                                     : strangerPaths_[static_cast<int>(place) - FileKeys::all().count()];
-            tellColumn(call, path, column, output);
+            tellColumn(call, pathOf(place), column, output);
         }
         return differs;
     }
 
 private:
+    QString pathOf(std::size_t place) const
+    {
+        const int key = static_cast<int>(place);
+        const int known = FileKeys::all().count();
+        return key < known ? FileKeys::all()[key].path : strangerPaths_[key - known];
+    }
+
+    // Section by section: keys that no setting knows stand behind those of theirs.
+    std::vector<std::size_t> inOrder() const
+    {
+        std::vector<std::pair<int, std::size_t>> places;
+        for (std::size_t place = 0; place < columns_.size(); ++place)
+            places.emplace_back(FileKeys::all().tableOfSection(pathOf(place)), place);
+        std::sort(places.begin(), places.end());
+        std::vector<std::size_t> order;
+        for (const auto& [table, place] : places)
+            order.push_back(place);
+        return order;
+    }
+
     static QString there(const QString& text) { return text.isNull() ? QStringLiteral("") : text; }
 
     void tellColumn(const Call& call, const QString& path, const Column& column, Output& output) const
@@ -155,7 +173,7 @@ private:
         else if (call.csv)
             output.write(csvOf(path, names, values, holders, lacking));
         else
-            output.write(tableOf(names, values, holders, lacking, mostValue));
+            output.write(tableOf(names, values, holders, lacking));
     }
 
     static QByteArray jsonOf(const QString& path, const Names& names, const QStringList& values,
@@ -198,24 +216,32 @@ private:
         return lines;
     }
 
-    // The value that most have by their number, the others by their names.
-    static QByteArray tableOf(const Names& names, const QStringList& values,
-                              const std::vector<QStringList>& holders, const QStringList& lacking,
-                              const QString& most)
+    // Of the value that more files have than any other their number, of the others their names.
+    static QByteArray tableOf(const Names& names, QStringList values, std::vector<QStringList> holders,
+                              const QStringList& lacking)
     {
+        for (QString& value : values)
+            value = value.isEmpty() ? QStringLiteral("\"\"") : valueInOneLine(value);
+        if (!lacking.isEmpty()) {
+            values << QStringLiteral("–");
+            holders.push_back(lacking);
+        }
+        qsizetype most = 1;
+        int havingMost = 0;
+        for (const QStringList& files : holders) {
+            havingMost = files.size() > most ? 1 : havingMost + (files.size() == most ? 1 : 0);
+            most = std::max<qsizetype>(most, files.size());
+        }
         QString lines = names.words + QLatin1Char('\n');
-        const auto add = [&](const QString& value, const QStringList& files, bool isMost) {
+        for (int i = 0; i < values.size(); ++i) {
             QStringList shown;
-            for (const QString& file : files)
+            for (const QString& file : holders[i])
                 shown << inOneLine(file);
-            lines += QStringLiteral("    %1: %2\n")
-                         .arg(value.isEmpty() ? QStringLiteral("\"\"") : value,
-                              isMost ? text("cli_041").arg(files.size()) : shown.join(QStringLiteral(", ")));
-        };
-        for (int i = 0; i < values.size(); ++i)
-            add(values[i], holders[i], there(values[i]) == there(most));
-        if (!lacking.isEmpty())
-            add(QStringLiteral("–"), lacking, false);
+            const bool isMost = havingMost == 1 && shown.size() == most && most > 1;
+            lines +=
+                QStringLiteral("    %1: %2\n")
+                    .arg(values[i], isMost ? text("cli_041").arg(most) : shown.join(QStringLiteral(", ")));
+        }
         return lines.toUtf8();
     }
 

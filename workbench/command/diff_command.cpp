@@ -9,6 +9,7 @@
 #include "xml/xml_document.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace workbench::command {
 
@@ -19,6 +20,7 @@ int diff(const Call& call, Output& output)
 {
     vlk::Configuration configuration(vlk::allSettings());
     std::vector<FileState> states;
+    std::optional<Differences> load;
     int status = nothing;
     for (const QString& name : call.files) {
         const Outcome outcome =
@@ -26,6 +28,8 @@ int diff(const Call& call, Output& output)
                 configuration.read(*document.root());
                 states.push_back(call.againstDefaults ? FileState::ofConfiguration(configuration)
                                                       : FileState::ofDocument(*document.root()));
+                if (call.againstDefaults)
+                    load.emplace(FileState::ofDocument(*document.root(), configuration), states.back());
                 return Outcome{};
             });
         output.write(outcome.told);
@@ -37,7 +41,7 @@ int diff(const Call& call, Output& output)
     if (call.againstDefaults)
         states.insert(states.begin(), FileState::ofDefaults(configuration));
     const Differences differences(std::move(states.front()), std::move(states.back()));
-    output.write(linesOf(differences, configuration, call));
+    output.write(linesOf(differences, configuration, call, {}, load ? &*load : nullptr));
     return differences.count() > 0 ? found : nothing;
 }
 

@@ -3,6 +3,7 @@
 #include "command/file_names.h"
 #include "command/json_line.h"
 #include "review/difference_text.h"
+#include "window/languages.h"
 
 namespace workbench::command {
 
@@ -24,30 +25,39 @@ QString orNull(const QString& text)
     return text.isEmpty() ? QString() : text;
 }
 
-QByteArray jsonOf(const Difference& difference, const DifferenceText& text, const QString& file)
+// `inFile`: what the load has changed in the value after, if it has.
+QByteArray jsonOf(const Difference& difference, const DifferenceText& text, const DifferenceText& inFile,
+                  const QString& file)
 {
     JsonLine line;
     if (!file.isNull())
         line.add("file", readable(file));
-    return line.add("path", difference.path)
+    line.add("path", difference.path)
         .add("page", orNull(text.page))
         .add("group", orNull(text.group))
         .add("caption", text.caption)
         .add("before", text.before)
         .add("after", text.after)
         .add("beforeText", text.before.isNull() ? QString() : text.beforeText)
-        .add("afterText", text.after.isNull() ? QString() : text.afterText)
-        .line();
+        .add("afterText", text.after.isNull() ? QString() : text.afterText);
+    if (!inFile.note.isEmpty())
+        line.add("inFile", inFile.before).add("note", inFile.note);
+    return line.line();
 }
 
-QByteArray lineOf(const Difference& difference, const DifferenceText& text, const QString& file)
+QByteArray lineOf(const Difference& difference, const DifferenceText& words, const DifferenceText& inFile,
+                  const QString& file)
 {
     const auto side = [](const QString& value, const QString& words) {
-        return value.isNull() ? QStringLiteral("–") : words.isEmpty() ? QStringLiteral("\"\"") : words;
+        return value.isNull()    ? QStringLiteral("–")
+               : words.isEmpty() ? QStringLiteral("\"\"")
+                                 : valueInOneLine(words);
     };
-    const QString line = inWords(difference.path, {text.page, text.group, text.caption}) +
-                         QStringLiteral(": ") + side(text.before, text.beforeText) + QStringLiteral(" → ") +
-                         side(text.after, text.afterText);
+    QString line = inWords(difference.path, {words.page, words.group, words.caption}) + QStringLiteral(": ") +
+                   side(words.before, words.beforeText) + QStringLiteral(" → ") +
+                   side(words.after, words.afterText);
+    if (!inFile.note.isEmpty())
+        line += QLatin1Char(' ') + text("cli_281").arg(valueInOneLine(inFile.beforeText), inFile.note);
     const QString start = file.isNull() ? QString() : inOneLine(file) + QStringLiteral(": ");
     return (start + line + QLatin1Char('\n')).toUtf8();
 }
@@ -71,7 +81,7 @@ QString inWords(const QString& path, const QStringList& words)
 }
 
 QByteArray linesOf(const Differences& differences, const vlk::Configuration& configuration, const Call& call,
-                   const QString& file)
+                   const QString& file, const Differences* load)
 {
     QByteArray lines;
     const Secrets secrets = call.secrets ? Secrets::shown : Secrets::masked;
@@ -83,7 +93,11 @@ QByteArray linesOf(const Differences& differences, const vlk::Configuration& con
             text.before = spelled(differences.before().at(difference.key));
             text.after = spelled(differences.after().at(difference.key));
         }
-        lines += call.json ? jsonOf(difference, text, file) : lineOf(difference, text, file);
+        DifferenceText inFile;
+        if (load && difference.key >= 0 && load->isDifferent(difference.key) &&
+            load->before().at(difference.key).isThere)
+            inFile = textOf(*load, load->differenceAt(difference.key), values, secrets);
+        lines += call.json ? jsonOf(difference, text, inFile, file) : lineOf(difference, text, inFile, file);
     }
     return lines;
 }

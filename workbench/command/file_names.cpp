@@ -41,10 +41,10 @@ QString readable(const QString& name)
     return text;
 }
 
-QString inOneLine(const QString& name)
+QString valueInOneLine(const QString& value)
 {
     QString line;
-    for (const QChar sign : readable(name)) {
+    for (const QChar sign : value) {
         if (sign.category() == QChar::Other_Control && sign.unicode() < 0x80)
             line += escaped(static_cast<uchar>(sign.unicode()));
         else if (sign.category() == QChar::Other_Control || sign == QChar::LineSeparator ||
@@ -54,6 +54,11 @@ QString inOneLine(const QString& name)
             line += sign;
     }
     return line;
+}
+
+QString inOneLine(const QString& name)
+{
+    return valueInOneLine(readable(name));
 }
 
 QString systemText(const QString& text)

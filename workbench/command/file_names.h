@@ -14,6 +14,8 @@ void prepareFileNames();
 QString readable(const QString& name);
 // The same in one line: control characters as "%NN" too.
 QString inOneLine(const QString& name);
+// Of what is no name: a value, words.
+QString valueInOneLine(const QString& value);
 
 // What the system says of a fault comes in its bytes too.
 QString systemText(const QString& text);

@@ -74,8 +74,10 @@ int get(const Call& call, Output& output)
                 .add("text", setting.words)
                 .addRaw("lacking", setting.isLacking ? "true" : "false")
                 .line();
-        const QString start = isAlone ? QString() : inOneLine(file.name) + QStringLiteral(": ");
-        return (start + setting.value + QLatin1Char('\n')).toUtf8();
+        const QString line =
+            isAlone ? setting.value
+                    : inOneLine(file.name) + QStringLiteral(": ") + valueInOneLine(setting.value);
+        return (line + QLatin1Char('\n')).toUtf8();
     };
     return eachFile(
         call.files,

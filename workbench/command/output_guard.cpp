@@ -69,7 +69,10 @@ QString whyNotReplaced(const Call& call)
     // Lines of text may begin as tachograph files do.
     const bool isPrecious =
         kind == FileKind::configuration || kind == FileKind::telemetry || kind == FileKind::calibration;
-    return isPrecious && kind != writtenBy(call) ? text("cli_266").arg(text(wordOf(kind))) : QString();
+    if (isPrecious && kind != writtenBy(call))
+        return text("cli_266").arg(text(wordOf(kind)));
+    // "-o *.tmi" takes the first file for the output, and the others would take its place.
+    return kind == FileKind::telemetry && call.files.size() > 1 ? text("cli_282") : QString();
 }
 
 } // namespace workbench::command
