@@ -1,0 +1,170 @@
+#pragma once
+
+// The workbench as it is with the plug-in as it is, over a tracker with faults, and a person who answers what
+// is asked.
+
+#include "opened_workbench.h"
+#include "tracker/configuration_values.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+// Write: what goes wrong is there before the button is pressed; Send: from the review on; Back: when the
+// tracker has the file.
+enum Step { Read, Write, Send, Back, Live, Period, Search, Clear, Mileage, Output };
+
+struct Bench : OpenedWorkbench
+{
+    Bench()
+    {
+        // Boxes are read and closed; who asks for a file name gets one.
+        QObject::connect(&person, &QTimer::timeout, &window, [this] {
+            QWidget* modal = QApplication::activeModalWidget();
+            if (auto* box = qobject_cast<QMessageBox*>(modal)) {
+                boxes.append(box->text());
+                over = box->parentWidget();
+                QAbstractButton* verb = box->buttons().constFirst();
+                for (QAbstractButton* button : box->buttons())
+                    verb = box->buttonRole(button) == QMessageBox::AcceptRole ? button : verb;
+                agrees ? verb->click() : box->reject();
+            } else if (auto* input = qobject_cast<QInputDialog*>(modal)) {
+                input->setDoubleValue(5000.5);
+                input->accept();
+            } else if (modal && modal->objectName() == QLatin1String("dialog_Review")) {
+                auto* write = modal->findChild<QAbstractButton*>(QStringLiteral("pushButton_Write"));
+                const auto* origin = modal->findChild<QLabel*>(QStringLiteral("label_Origin"));
+                if (!write->isEnabled())
+                    return;
+                origins.append(origin ? origin->text() : QString());
+                agrees ? write->click() : void(modal->close());
+            } else if (auto* dialog = qobject_cast<QFileDialog*>(modal)) {
+                dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(file());
+                QMetaObject::invokeMethod(dialog, "accept");
+            }
+        });
+        person.start(5);
+        start(VLK_PLUGIN);
+    }
+    ~Bench() { window.close(); }
+
+    QString file() const { return root.filePath(QStringLiteral("period.xml")); }
+    QString status() { return text("label_Status"); }
+    QString everything() { return status() + QLatin1Char('\n') + boxes.join(QLatin1Char('\n')); }
+    tracker::SimulatedTracker& tracker() { return window.session().tracker(); }
+
+    static inline const QString newName = QStringLiteral("KAMAZ 5490");
+    QString nameInTracker() { return tracker().configuration().text(QStringLiteral("TRANS/OBJECT/name")); }
+
+    static QWidget* pluginWindow(const char* name)
+    {
+        for (QWidget* candidate : QApplication::topLevelWidgets()) {
+            if (candidate->isVisible() && qstrcmp(candidate->metaObject()->className(), name) == 0)
+                return candidate;
+        }
+        return nullptr;
+    }
+    static QWidget* configuration() { return pluginWindow("VLK_Widget_Config"); }
+    static QWidget* telemetry() { return pluginWindow("VLK_Widget_Tmi_View"); }
+
+    static void press(QWidget* in, const char* button)
+    {
+        auto* found = in ? in->findChild<QAbstractButton*>(QLatin1String(button)) : nullptr;
+        if (!found)
+            qFatal("no button %s", button);
+        found->click();
+    }
+
+    // What stands on the window that is looked at, at its upper inner edge, below a bar of its own.
+    static QString notice()
+    {
+        QWidget* window = configuration() ? configuration() : telemetry();
+        const auto* bar = window->findChild<QFrame*>(QStringLiteral("frame_WindowNotice"));
+        if (!bar || !bar->isVisible())
+            return {};
+        const auto* own = window->findChild<QFrame*>(QStringLiteral("noticeBar"));
+        const int top = own && own->isVisible() ? own->geometry().bottom() + 1 : 0;
+        const QPoint corner = window->geometry().topLeft() + QPoint(6, top + 6);
+        return bar->pos() == corner ? bar->findChild<QLabel*>(QStringLiteral("label_WindowNotice"))->text()
+                                    : QStringLiteral("out of place");
+    }
+
+    static bool isWrite(Step step) { return step == Write || step == Send || step == Back; }
+
+    // What comes before the step, with a sound tracker.
+    void prepare(Step step)
+    {
+        if (isWrite(step) || step == Search)
+            action("action_Read")->trigger();
+        if (isWrite(step))
+            configuration()->findChild<QLineEdit*>(QStringLiteral("lineEdit_Name"))->setText(newName);
+        if (step < Live || step == Search)
+            return;
+        action("action_Telemetry")->trigger();
+        auto* number = telemetry()->findChild<QLabel*>(QStringLiteral("label_Event_NumPage_Value"));
+        QTRY_VERIFY(!number->text().isEmpty() && number->isVisible());
+    }
+
+    void take(Step step)
+    {
+        switch (step) {
+        case Read:
+            return action("action_Read")->trigger();
+        case Write:
+        case Send:
+        case Back:
+            return press(configuration(), "pushButton_LoadToDevice");
+        case Live:
+            return press(telemetry(), "pushButton_Get_Current");
+        case Period:
+            return press(telemetry(), "pushButton_SaveToFile");
+        case Search:
+            return press(configuration(), "pushButton_Bt_Find");
+        case Clear:
+            for (const char* server : {"checkBox_Server1", "checkBox_Server3"})
+                telemetry()->findChild<QCheckBox*>(QLatin1String(server))->setChecked(true);
+            return press(telemetry(), "pushButton_Clear");
+        case Mileage:
+            return press(telemetry(), "pushButton_Run");
+        case Output:
+            return press(telemetry(), "pushButton_Out_On");
+        }
+    }
+
+    // A period of which some records have come and the others are slow.
+    void beginSave()
+    {
+        prepare(Period);
+        tracker().setFaults({.delayMs = 20});
+        take(Period);
+        const auto* bar = telemetry()->findChild<QProgressBar*>(QStringLiteral("progressBar_Time"));
+        QTRY_VERIFY(bar->value() > 2);
+    }
+    // By the offer of the notice, which comes with silence.
+    void endSave()
+    {
+        tracker().setFaults({.silence = true});
+        QTRY_VERIFY_WITH_TIMEOUT(notice().contains(QLatin1String("the save goes on by itself")), 10'000);
+        // By keys: the notice itself takes no focus.
+        QApplication::setActiveWindow(telemetry());
+        QTest::keyClick(telemetry(), Qt::Key_F6);
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+        QCOMPARE(notice().contains(QLatin1String("since")), false);
+    }
+
+    // Lines of the log with this in them.
+    int logged(const QString& text)
+    {
+        const auto* log = window.findChild<QTableView*>(QStringLiteral("tableView_Log"))->model();
+        return log
+            ->match(log->index(0, workbench::MessageLogModel::Parameters), Qt::DisplayRole, text, -1,
+                    Qt::MatchContains)
+            .size();
+    }
+
+    QTimer person;
+    QStringList boxes;
+    QStringList origins;    // of what was reviewed
+    QPointer<QWidget> over; // which window the last box came up
+    bool agrees = true;     // to what is asked
+};

@@ -1,0 +1,101 @@
+// Saving a period of records from a tracker with faults.
+
+#include "faulty_tracker.h"
+#include "support/data_table.h"
+#include "window/answer_watch.h"
+
+class SavedPeriodTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+
+    // How much there is of the period stands in the window of telemetry, in a box and in the status line.
+    void savedInPart_data()
+    {
+        DataTable<QString> table({"by"});
+        for (const char* by : {"unplugged", "cancelled", "closed", "ended"})
+            table.row(by, QLatin1String(by));
+    }
+    void savedInPart()
+    {
+        QFETCH(QString, by);
+        Bench bench;
+        bench.beginSave();
+        QWidget* view = Bench::telemetry();
+        if (by == QLatin1String("unplugged"))
+            bench.tracker().setFaults({.unplug = true});
+        else if (by == QLatin1String("cancelled"))
+            Bench::press(view, "pushButton_Save_Cancel");
+        else if (by == QLatin1String("closed"))
+            view->close();
+        else
+            bench.endSave();
+        static const QRegularExpression held(
+            QStringLiteral("\\d+ of [\\d,]+ records, until \\d\\d:\\d\\d:\\d\\d \\d\\d\\.\\d\\d\\.\\d{4} "));
+        QTRY_VERIFY2(bench.status().contains(held), qPrintable(bench.everything()));
+        QTRY_VERIFY2(bench.boxes.contains(bench.status()), qPrintable(bench.everything()));
+        const QString told = bench.status();
+        bench.tracker().setFaults({});
+        QVERIFY(told.startsWith(QStringLiteral("Saved in part: ") + bench.file()));
+        QCOMPARE(bench.boxes, QStringList(told));
+        QCOMPARE(told.contains(QLatin1String("was unplugged meanwhile")), by == QLatin1String("unplugged"));
+        QVERIFY(!bench.everything().contains(QLatin1String("Saved: ")) && QFile::exists(bench.file()));
+        bench.tracker().attach();
+        bench.action("action_Telemetry")->trigger();
+        auto* line = view->findChild<QLabel*>(QStringLiteral("label_SavedInPart"));
+        QVERIFY(line->isVisible() && line->text().endsWith(bench.file()));
+        bench.tracker().setFaults({.shortAnswers = true});
+        bench.take(Live);
+        QTRY_COMPARE(Bench::notice(), bench.status());
+        QVERIFY(bench.status().contains(QLatin1String("cut short")));
+        QCOMPARE(held.match(line->text()).captured(), held.match(told).captured());
+        bench.window.setLanguage(QStringLiteral("ru"));
+        QVERIFY(line->text().contains(QStringLiteral("Период сохранён не целиком")));
+        Bench::press(view, "label_SavedInPart_Close");
+        QVERIFY(!line->isVisible());
+    }
+
+    // What was asked in silence is asked again, and its answer counts once however often it comes.
+    void goesOnByItself()
+    {
+        Bench bench;
+        bench.beginSave();
+        bench.tracker().setFaults({.silence = true});
+        const QString again = QStringLiteral("request 2302 was sent to the tracker again");
+        QTRY_VERIFY_WITH_TIMEOUT(bench.logged(again) > 1, 10'000);
+        bench.tracker().setFaults({.delayMs = workbench::AnswerWatch::kPatienceMs + 500});
+        QTRY_VERIFY_WITH_TIMEOUT(bench.logged(QStringLiteral("Message 2303 came twice")) > 0, 20'000);
+        // What cannot be right is not saved.
+        bench.tracker().setFaults({.garbledAnswers = true});
+        QTRY_VERIFY(Bench::notice().contains(QLatin1String("2303 from the tracker: damaged. Such records")));
+        const int records =
+            Bench::telemetry()->findChild<QProgressBar*>(QStringLiteral("progressBar_Time"))->maximum() + 1;
+        QVERIFY(Bench::telemetry()->findChild<QWidget*>(QStringLiteral("label_WindowNotice_Action1")));
+        bench.tracker().setFaults({});
+        QTRY_VERIFY2_WITH_TIMEOUT(bench.status().startsWith(QLatin1String("Saved: ")),
+                                  qPrintable(bench.everything()), 20'000);
+        QFile file(bench.file());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll().count("<Page "), records);
+        QCOMPARE(Bench::notice(), bench.status());
+        QTRY_COMPARE_WITH_TIMEOUT(Bench::notice(), QString(), 10'000);
+    }
+
+    // Before there is a file there is nothing to be saved.
+    void endsASaveThatNeverBegan()
+    {
+        Bench bench;
+        bench.prepare(Period);
+        bench.tracker().setFaults({.silence = true});
+        bench.take(Period);
+        bench.endSave();
+        QVERIFY(bench.status().contains(QLatin1String("No record was saved")));
+        QCOMPARE(Bench::notice(), bench.status());
+        QVERIFY(Bench::telemetry()->findChild<QWidget*>(QStringLiteral("groupBox_Btn_Save"))->isEnabled());
+    }
+};
+
+QTEST_MAIN(SavedPeriodTest)
+#include "tst_saved_period.moc"

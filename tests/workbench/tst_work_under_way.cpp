@@ -1,0 +1,147 @@
+// Notices of faults over the windows that are worked in, and what comes in between while work is under way.
+
+#include "faulty_tracker.h"
+#include "support/data_table.h"
+
+class WorkUnderWayTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+
+    // A notice that was closed is not the last word of a silence in which the user asks on.
+    void comesBackInTheSameSilence()
+    {
+        Bench bench;
+        bench.prepare(Live);
+        bench.tracker().setFaults({.silence = true});
+        bench.take(Live);
+        QTRY_VERIFY_WITH_TIMEOUT(Bench::notice().contains(QLatin1String("No answer")), 10'000);
+        Bench::press(Bench::telemetry(), "label_WindowNotice_Close");
+        QCOMPARE(Bench::notice(), QString());
+        bench.take(Live);
+        QTRY_VERIFY_WITH_TIMEOUT(Bench::notice().contains(QLatin1String("No answer")), 20'000);
+    }
+
+    // The notice stands on the window that is worked in.
+    void followsTheActiveWindow()
+    {
+        Bench bench;
+        bench.prepare(Live);
+        bench.tracker().setFaults({.garbledAnswers = true});
+        Bench::press(Bench::telemetry(), "pushButton_FuelSensor");
+        QWidget* calibration = Bench::pluginWindow("VLK_Form_TMI_Fuel_Sensors");
+        QVERIFY(calibration);
+        const auto noticeOn = [](const QWidget* window) -> QWidget* {
+            auto* bar =
+                window->findChild<QFrame*>(QStringLiteral("frame_WindowNotice"), Qt::FindDirectChildrenOnly);
+            return bar && bar->isVisible() ? bar : nullptr;
+        };
+        for (QWidget* window : {calibration, Bench::telemetry(), calibration}) {
+            window->activateWindow();
+            QTRY_VERIFY_WITH_TIMEOUT(noticeOn(window), 10'000);
+        }
+        QVERIFY2(bench.status().contains(QLatin1String("2247 from the tracker: damaged")),
+                 qPrintable(bench.status()));
+        QVERIFY(calibration->findChild<QLineEdit*>(QStringLiteral("lineEdit_Param"))->text().isEmpty());
+        bench.tracker().setFaults({});
+        QTRY_COMPARE_WITH_TIMEOUT(bench.status(), QStringLiteral("Ready"), 10'000);
+        // What became of a command stands where it was given.
+        bench.take(Output);
+        QTRY_VERIFY(bench.status().contains(QLatin1String("Output 1")));
+        QTRY_VERIFY(noticeOn(Bench::telemetry()) && !noticeOn(calibration));
+        // And beside what is typed.
+        auto* title = calibration->findChild<QLineEdit*>(QStringLiteral("lineEdit_Title"));
+        title->setFocus();
+        Bench::press(Bench::telemetry(), "pushButton_Get_Current");
+        bench.tracker().setFaults({.silence = true});
+        // Where nobody manages windows, the one that goes leaves its own active.
+        QTRY_VERIFY_WITH_TIMEOUT((calibration->activateWindow(), noticeOn(calibration)), 20'000);
+        const QRect field(title->mapToGlobal(QPoint()), title->size());
+        QVERIFY(!noticeOn(calibration)->geometry().intersects(field));
+    }
+
+    void refusesWhatDestroys_data()
+    {
+        DataTable<int, QString>({"during", "said"})
+            .row("a save", Period, "not sent: a period is being saved")
+            .row("automatic requests", Live, "not sent: records are requested automatically")
+            .row("a second thought", Output, "nothing was sent to the tracker");
+    }
+    void refusesWhatDestroys()
+    {
+        QFETCH(int, during);
+        QFETCH(QString, said);
+        Bench bench;
+        bench.agrees = false;
+        if (during == Period)
+            bench.beginSave();
+        else
+            bench.prepare(Live);
+        auto* automatic = Bench::telemetry()->findChild<QCheckBox*>(QStringLiteral("checkBox_Get_Auto_TMI"));
+        automatic->setChecked(during == Live);
+        bench.take(Clear);
+        QTRY_VERIFY2(bench.status().contains(said), qPrintable(bench.everything()));
+        QCOMPARE(Bench::notice(), bench.status());
+        QCOMPARE(bench.boxes.size(), during == Output ? 1 : 0);
+        // What is newer stands before it.
+        bench.tracker().setFaults({.silence = true});
+        bench.take(Live);
+        QTRY_VERIFY_WITH_TIMEOUT(Bench::notice().contains(QLatin1String("No answer")), 10'000);
+        bench.tracker().setFaults({});
+        QTest::qWait(200);
+        QCOMPARE(bench.logged(QStringLiteral("ClearedRecord")), 0);
+        bench.agrees = true; // to the end of the save
+    }
+
+    // The main window, with work undone.
+    void closesOverNoWork_data()
+    {
+        DataTable<int, QString>({"work", "said"})
+            .row("a save", Period, "Closing ends the save")
+            .row("a write", Write, "A configuration is on its way to the tracker");
+    }
+    void closesOverNoWork()
+    {
+        QFETCH(int, work);
+        QFETCH(QString, said);
+        Bench bench;
+        bench.agrees = false;
+        if (work == Period) {
+            bench.beginSave();
+        } else {
+            bench.prepare(Write);
+            bench.tracker().setFaults({.silence = true});
+            bench.take(Write);
+            Bench::configuration()->close();
+            QTRY_VERIFY(bench.window.session().road().isBusy());
+        }
+        QVERIFY(!bench.window.close() && bench.window.isVisible());
+        QVERIFY2(bench.everything().contains(said), qPrintable(bench.everything()));
+        QVERIFY(work != Period || Bench::telemetry());
+        if (work == Write)
+            QTRY_VERIFY_WITH_TIMEOUT(
+                bench.status().contains(QLatin1String("not written. The tracker does not")), 20'000);
+        bench.agrees = true;
+        QVERIFY(bench.window.close() && !Bench::telemetry());
+        QCOMPARE(QFile::exists(bench.file()), work == Period);
+    }
+
+    void detachedByTheUser()
+    {
+        Bench bench;
+        bench.prepare(Live);
+        bench.action("action_Cable")->trigger();
+        QVERIFY(!Bench::telemetry());
+        QTRY_VERIFY2(bench.status().contains("detached, so its telemetry window was closed"),
+                     qPrintable(bench.status()));
+        QCOMPARE(bench.boxes, QStringList());
+        bench.action("action_Cable")->trigger();
+        bench.action("action_Telemetry")->trigger();
+        QTRY_COMPARE(bench.status(), QStringLiteral("Ready"));
+    }
+};
+
+QTEST_MAIN(WorkUnderWayTest)
+#include "tst_work_under_way.moc"
