@@ -84,9 +84,7 @@ void WriteReportView::buildTable()
     table_->setIconSize({kMarkSize, kMarkSize});
     // The name takes what the others leave.
     table_->horizontalHeader()->setSectionResizeMode(WriteReportModel::Setting, QHeaderView::Stretch);
-    const int letter = fontMetrics().averageCharWidth();
-    for (const int column : {WriteReportModel::Key, WriteReportModel::Sent, WriteReportModel::ReadBack})
-        table_->setColumnWidth(column, letter * 17);
+    fitColumns();
     auto* empty = new EmptyNote(table_);
     texts_.bind([this, empty] {
         // What is not known is said above.
@@ -94,6 +92,15 @@ void WriteReportView::buildTable()
                         ? QString()
                         : text(report_.time.isValid() ? "wb_report_nothing" : "wb_report_none"));
     });
+}
+
+// A key is whole: people look for it in the file.
+void WriteReportView::fitColumns()
+{
+    constexpr int mostOfKey = 34;
+    fitColumn(*table_, WriteReportModel::Key, mostOfKey);
+    for (const int column : {WriteReportModel::Sent, WriteReportModel::ReadBack})
+        fitColumn(*table_, column, kMostOfValue);
 }
 
 QPushButton* WriteReportView::addButton(const char* name, Sentence (WriteReportView::*act)())
@@ -126,6 +133,7 @@ void WriteReportView::setReport(const RoadReport& report, const QString& typed)
     report_ = report;
     typed_ = typed;
     model_.setReport(report);
+    fitColumns();
     texts_.apply();
     showSummary();
 }
@@ -161,6 +169,7 @@ void WriteReportView::retranslate()
 {
     texts_.apply();
     model_.retranslate();
+    fitColumns();
     showSummary();
 }
 

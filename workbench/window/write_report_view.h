@@ -45,6 +45,7 @@ private:
     Sentence tryAgain();
     Sentence bringBack();
     void buildTable();
+    void fitColumns();
     void showSummary();
 
     HostSession& session_;
