@@ -144,6 +144,7 @@ private:
             places.emplace_back(FileKeys::all().tableOfSection(pathOf(place)), place);
         std::sort(places.begin(), places.end());
         std::vector<std::size_t> order;
+        order.reserve(places.size());
         for (const auto& [table, place] : places)
             order.push_back(place);
         return order;

@@ -48,10 +48,10 @@ QByteArray jsonOf(const Difference& difference, const DifferenceText& text, cons
 QByteArray lineOf(const Difference& difference, const DifferenceText& words, const DifferenceText& inFile,
                   const QString& file)
 {
-    const auto side = [](const QString& value, const QString& words) {
+    const auto side = [](const QString& value, const QString& shown) {
         return value.isNull()    ? QStringLiteral("–")
-               : words.isEmpty() ? QStringLiteral("\"\"")
-                                 : valueInOneLine(words);
+               : shown.isEmpty() ? QStringLiteral("\"\"")
+                                 : valueInOneLine(shown);
     };
     QString line = inWords(difference.path, {words.page, words.group, words.caption}) + QStringLiteral(": ") +
                    side(words.before, words.beforeText) + QStringLiteral(" → ") +

@@ -108,7 +108,7 @@ QByteArray toldOf(const Call& call, const File& file, const QByteArray& before, 
 bool isOvertaken(const QString& name, const QByteArray& read)
 {
     QFile file(name);
-    return file.open(QIODevice::ReadOnly) && file.read(read.size() + 1) != read;
+    return !file.open(QIODevice::ReadOnly) || file.read(read.size() + 1) != read;
 }
 
 // Standard input goes to standard output as a document; what changed in it is told beside it.
