@@ -17,6 +17,10 @@ namespace {
 constexpr double kLeastStep = 0.5;
 // Litres a second by which a level may creep while nobody takes or pours: 3 an hour.
 constexpr double kCreep = 3 / 3600.0;
+// Of what is burnt while the vehicle moves, an engine burns so much while it stands. It weighs as much as
+// levels over so many seconds, for there may be a few minutes of them only.
+constexpr double kIdlingShare = 0.25;
+constexpr double kSureTime = 1800;
 // How far what was burnt may be from the average.
 constexpr double kBurnSpread = 0.5;
 // Seconds of a pause in one pouring.
@@ -98,8 +102,14 @@ private:
             litres[one.moves] += fall;
             time[one.moves] += seconds(i);
         }
-        for (int moves = 0; moves < 2; ++moves)
-            burning_[moves] = time[moves] > 0 ? std::max(0.0, litres[moves] / time[moves]) : 0;
+        const auto average = [](double fell, double seconds) {
+            return seconds > 0 ? std::max(0.0, fell / seconds) : 0;
+        };
+        burning_[1] = average(litres[1], time[1]);
+        burning_[0] = average(litres[0], time[0]);
+        if (time[1] > 0)
+            burning_[0] = std::min(burning_[1], average(litres[0] + kIdlingShare * burning_[1] * kSureTime,
+                                                        time[0] + kSureTime));
     }
 
     // Litres a second.
@@ -128,8 +138,11 @@ private:
             return 0;
         if (seconds(i) > kLongPause)
             return burning_[1] * seconds(i);
+        // An engine that was started in between ran while the sensors woke.
+        const double between = other.from - one.until;
+        const double ran = one.burns == other.burns ? between : std::min<double>(between, kWakeTime);
         return (burning(one) * (one.until - one.from) / 2 + burning(other) * (other.until - other.from) / 2) +
-               std::max(burning(one), burning(other)) * (other.from - one.until);
+               std::max(burning(one), burning(other)) * ran;
     }
 
     // How much more than burnt went, or came; 0 where it tells nothing.
@@ -155,7 +168,8 @@ private:
                 const double more = change(next);
                 if (more * first < 0)
                     break;
-                if (more != 0)
+                // What swings as the vehicle drives off is no more of it.
+                if (more != 0 && (!medians_[next + 1].moves || isBarrier(next)))
                     last = next;
             }
             steps.push_back({i, last + 1});

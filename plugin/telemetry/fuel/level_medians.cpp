@@ -9,6 +9,7 @@ namespace {
 
 // Seconds.
 constexpr quint32 kSettleTime = 90;   // of the fuel, once the vehicle stands
+constexpr quint32 kSetOffTime = 5;    // in which it swings before the vehicle moves as told below
 constexpr double kWindowMoving = 300; // of a median
 constexpr double kWindowStanding = 60;
 constexpr double kStandstill = 3; // km/h
@@ -40,7 +41,8 @@ std::vector<LevelMedian> levelMedians(RecordColumns& columns, const NumberColumn
     Ignition before = Ignition::Unknown;
     quint32 wokeAt = 0;
     quint32 movedAt = 0;
-    for (const int record : records) {
+    for (std::size_t i = 0; i < records.size(); ++i) {
+        const int record = records[i];
         const quint32 time = times[record];
         if (ignition[record] == Ignition::On && before == Ignition::Off)
             wokeAt = time;
@@ -49,7 +51,9 @@ std::vector<LevelMedian> levelMedians(RecordColumns& columns, const NumberColumn
             movedAt = time;
         if (std::isnan(litres[record]) || (wokeAt != 0 && time - wokeAt < kWakeTime))
             continue;
-        const bool moves = movedAt != 0 && time - movedAt < kSettleTime;
+        const bool setsOff = i + 1 < records.size() && speed[records[i + 1]] > kStandstill &&
+                             times[records[i + 1]] - time <= kSetOffTime;
+        const bool moves = setsOff || (movedAt != 0 && time - movedAt < kSettleTime);
         const bool burns = ignition[record] != Ignition::Off;
         if (window.empty() || medians.back().moves != moves || medians.back().burns != burns ||
             time - medians.back().from > (moves ? kWindowMoving : kWindowStanding)) {
