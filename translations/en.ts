@@ -1565,7 +1565,6 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_258"><translation>These records hold no fuel level.</translation></message>
     <message id="rec_259"><translation>Thresholds: rise from %1&#160;l, fall from %2&#160;l</translation></message>
     <message id="rec_260"><translation>Refuelled in all: %1&#160;l, drained: %2&#160;l</translation></message>
-    <message id="rec_261"><translation>The file was not saved: %1</translation></message>
     <message id="rec_262"><translation>Print…</translation></message>
     <message id="rec_263"><translation>Refuellings and drains</translation></message>
     <message id="rec_264"><translation>Place</translation></message>
@@ -1609,6 +1608,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_370"><translation>The headings of the calibration table do not tell which column is the volume. Call it Volume, l</translation></message>
     <message id="rec_371"><translation>The file is being read.</translation></message>
     <message id="rec_372"><translation>No volume can be computed with this calibration table: it gives none for any level of these records.</translation></message>
+    <message id="rec_400"><translation>%1 %2&#160;l is below the noise of the level, %3&#160;l: expect false ones.</translation></message>
     <message id="rev_230"><translation>alarm, alarm zone, temperature threshold, minimum</translation></message>
     <message id="rev_231"><translation>alarm, power failure</translation></message>
     <message id="rev_232"><translation>ignition, alarm button, door</translation></message>

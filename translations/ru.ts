@@ -1565,7 +1565,6 @@
     <message id="rec_258"><translation>В этих записях нет уровня топлива.</translation></message>
     <message id="rec_259"><translation>Пороги: заправка от %1&#160;л, слив от %2&#160;л</translation></message>
     <message id="rec_260"><translation>Всего заправлено: %1&#160;л, слито: %2&#160;л</translation></message>
-    <message id="rec_261"><translation>Файл не сохранён: %1</translation></message>
     <message id="rec_262"><translation>Печать…</translation></message>
     <message id="rec_263"><translation>Заправки и сливы</translation></message>
     <message id="rec_264"><translation>Место</translation></message>
@@ -1609,6 +1608,7 @@
     <message id="rec_370"><translation>Заголовки тарировочной таблицы не говорят, в каком столбце объём. Назовите его «Объём, л»</translation></message>
     <message id="rec_371"><translation>Файл читается.</translation></message>
     <message id="rec_372"><translation>По этой тарировочной таблице объём не вычислить: в ней нет объёма ни для одного уровня из этих записей.</translation></message>
+    <message id="rec_400"><translation>%1 %2&#160;л ниже шума уровня, %3&#160;л: возможны ложные.</translation></message>
     <message id="rev_230"><translation>тревога, тревожная зона, порог температуры, минимум</translation></message>
     <message id="rev_231"><translation>тревога, пропадание питания</translation></message>
     <message id="rev_232"><translation>зажигание, тревожная кнопка, дверь</translation></message>

@@ -28,15 +28,15 @@ namespace {
 constexpr quint32 kStart = 1'780'000'000;
 
 // Forty minutes of a vehicle that stands; after the twentieth 60 litres are gone.
-TelemetryContents drained()
+TelemetryContents drained(quint32 minutes = 40, quint32 noise = 1)
 {
     TelemetryContents contents;
-    for (quint32 i = 0; i < 40; ++i) {
+    for (quint32 i = 0; i < minutes; ++i) {
         const RecordParts parts{{"NumPage", i + 1},
                                 {"Code", 2},
                                 {"Time", kStart + i * 60},
                                 {"Speed", 0},
-                                {"LevelRS485_1", i < 20 ? 3120 : 2510}};
+                                {"LevelRS485_1", (i < 20 ? 3120 : 2510) + i * 7919 % noise}};
         contents.records.add(30, parts.mask, parts.block);
     }
     contents.records.setUtcOffset(3 * 3600);
@@ -189,6 +189,16 @@ private Q_SLOTS:
         QVERIFY(table()->findChild<QLabel*>("label_Empty")->text().startsWith("No volume can be computed"));
     }
 
+    void saysThatAThresholdIsBelowTheNoise()
+    {
+        records_->setContents(drained(200, 300));
+        choose(good_);
+        const QString news = view_->findChild<QLabel*>("label_FuelNews")->text();
+        QVERIFY2(news.startsWith("Fall from 10.0\u00a0l is below the noise of the level, "), qPrintable(news));
+        const auto* fall = view_->findChild<QDoubleSpinBox*>("doubleSpinBox_FuelFall");
+        QVERIFY(fall->toolTip().contains("expect false ones"));
+    }
+
     void savesAndPrints()
     {
         choose(good_);
@@ -222,6 +232,7 @@ private Q_SLOTS:
     {
         choose(good_);
         SummaryView summary(records_.get());
+        summary.setTitle("Van 7");
         summary.setFuel(view_->litres(), view_->events());
         summary.show();
         const auto* model = summary.findChild<QTableView*>("tableView_Summary")->model();
@@ -235,6 +246,13 @@ private Q_SLOTS:
         QCOMPARE(value("Drains: count and l"), QString("1: 61"));
         QCOMPARE(value("Used, l"), QString("0.0"));
         QCOMPARE(value("Records"), QString("40"));
+        QTest::mouseClick(summary.findChild<QPushButton*>("pushButton_CopySummary"), Qt::LeftButton);
+        QVERIFY(QApplication::clipboard()->text().contains("Standing, h:min\t0:39"));
+        QString proposed;
+        answerFile(folder_.filePath("summary"), &proposed);
+        QTest::mouseClick(summary.findChild<QPushButton*>("pushButton_SaveSummary"), Qt::LeftButton);
+        QVERIFY(proposed.endsWith("/Van 7 Summary.csv"));
+        QVERIFY(readFile(folder_.filePath("summary.csv")).contains("Standing, h:min;0:39"));
         records_->setInSight({kStart, kStart + 600.0});
         QCOMPARE(value("Records"), QString("11"));
         auto* over = summary.findChild<QComboBox*>("comboBox_SummaryOver");

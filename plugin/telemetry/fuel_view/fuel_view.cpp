@@ -1,16 +1,18 @@
 #include "telemetry/fuel_view/fuel_view.h"
 
 #include "telemetry/curves/hand_over.h"
+#include "telemetry/fuel/level_noise.h"
 #include "telemetry/fuel_view/fuel_sheet.h"
+#include "telemetry/fuel_view/fuel_texts.h"
+#include "telemetry/fuel_view/list_buttons.h"
 #include "telemetry/fuel_view/tank_button.h"
 #include "typing/empty_note.h"
+#include "typing/field_mark.h"
 #include "typing/notice_bar.h"
 #include "typing/number_entry.h"
 #include "typing/table_look.h"
 #include "windows/named_widget.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QDoubleSpinBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -56,9 +58,7 @@ FuelView::FuelView(ShownRecords* records, QWidget* parent)
       vehicleLabel_(new QLabel(this)), vehicle_(namedWidget<QLineEdit>("lineEdit_FuelVehicle", this)),
       tanks_(new TankButton(this)), riseLabel_(new QLabel(this)),
       rise_(litresBox("doubleSpinBox_FuelRise", this)), fallLabel_(new QLabel(this)),
-      fall_(litresBox("doubleSpinBox_FuelFall", this)),
-      copy_(namedWidget<QPushButton>("pushButton_CopyFuel", this)),
-      csv_(namedWidget<QPushButton>("pushButton_SaveFuel", this)),
+      fall_(litresBox("doubleSpinBox_FuelFall", this)), buttons_(new ListButtons("Fuel", handOver_, this)),
       print_(namedWidget<QPushButton>("pushButton_PrintFuel", this)),
       news_(namedWidget<QLabel>("label_FuelNews", this)),
       table_(namedWidget<QTableView>("tableView_Fuel", this)), empty_(nullptr)
@@ -95,11 +95,11 @@ FuelView::FuelView(ShownRecords* records, QWidget* parent)
     tanks->addWidget(vehicle_);
     tanks->addWidget(tanks_, 1);
     layout->addLayout(tanks);
-    layout->addLayout(rowOf({riseLabel_, rise_, fallLabel_, fall_}, {copy_, csv_, print_}));
+    layout->addLayout(rowOf({riseLabel_, rise_, fallLabel_, fall_}, {buttons_, print_}));
     layout->addWidget(news_);
     layout->addWidget(table_, 1);
-    for (QPushButton* button : {copy_, csv_, print_})
-        button->setAutoDefault(false);
+    print_->setAutoDefault(false);
+    buttons_->setList(table_, [this] { return model_->csv(); });
 
     connect(records, &ShownRecords::contentsChanged, this, [this] {
         table_->setCurrentIndex({});
@@ -121,8 +121,6 @@ FuelView::FuelView(ShownRecords* records, QWidget* parent)
             [this](const QModelIndex& index) { look(index.row()); });
     connect(table_, &QTableView::doubleClicked, this,
             [this](const QModelIndex& index) { zoom(index.row()); });
-    connect(copy_, &QPushButton::clicked, this, &FuelView::copy);
-    connect(csv_, &QPushButton::clicked, this, &FuelView::saveCsv);
     connect(print_, &QPushButton::clicked, this, &FuelView::print);
     connect(empty_, &EmptyNote::pressed, tanks_, &QToolButton::showMenu);
     retranslate();
@@ -137,7 +135,7 @@ void FuelView::setVehicle(const QString& vehicle)
 
 void FuelView::setTitle(const QString& title)
 {
-    title_ = title;
+    buttons_->setTitle(title);
 }
 
 void FuelView::setPictures(Picture curve, Picture track)
@@ -158,7 +156,7 @@ void FuelView::refreshRecords()
 {
     isRefreshing_ = true;
     const FuelThresholds thresholds = tanks_->memory().choice(vehicle_->text()).thresholds;
-    tanks_->setRecords(records_.columns(), vehicle_->text());
+    tanks_->setRecords(records_, vehicle_->text());
     rise_->setValue(thresholds.rise);
     fall_->setValue(thresholds.fall);
     isRefreshing_ = false;
@@ -168,6 +166,7 @@ void FuelView::refreshRecords()
 void FuelView::computeLitres()
 {
     litres_ = tanks_->tanks().empty() ? NumberColumn() : tankLitres(records_.columns(), tanks_->tanks());
+    noise_ = litres_.empty() ? 0 : levelNoise(records_.columns(), litres_);
     find();
 }
 
@@ -221,21 +220,6 @@ bool FuelView::eventFilter(QObject* watched, QEvent* event)
     return true;
 }
 
-// The list, of which several lines may be chosen; one is chosen to look at its record.
-void FuelView::copy()
-{
-    const bool areSeveral = table_->selectionModel()->selectedRows().size() > 1;
-    QApplication::clipboard()->setText(tableText(*table_, areSeveral ? CopiedRows::chosen : CopiedRows::all));
-}
-
-void FuelView::saveCsv()
-{
-    // With a mark of the encoding, by which spreadsheets know it.
-    const QByteArray csv = "\xEF\xBB\xBF" + model_->csv().toUtf8();
-    handOver_->askTable(QStringLiteral("%1 %2").arg(title_, tr("rec_263")).trimmed(),
-                        [&csv](QIODevice& device) { return device.write(csv) == csv.size(); });
-}
-
 // Half an hour round the chosen event, or all that is in sight.
 TimeSpan FuelView::spanOfSheet() const
 {
@@ -281,9 +265,7 @@ void FuelView::retranslate()
         box->setLocale(QLocale());
         box->setSuffix(QLatin1Char(' ') + tr("abbr_026"));
     }
-    copy_->setText(tr("rev_114"));
-    csv_->setText(QStringLiteral("CSV…"));
-    csv_->setToolTip(tr("rev_115"));
+    buttons_->retranslate(tr("rec_263"));
     print_->setText(tr("rec_262"));
     table_->setAccessibleName(tr("rec_263"));
     bar_->retranslate();
@@ -292,10 +274,26 @@ void FuelView::retranslate()
     showState();
 }
 
+QStringList FuelView::markLowThresholds() const
+{
+    QStringList texts;
+    for (const auto& [label, box] : {std::pair(riseLabel_, rise_), std::pair(fallLabel_, fall_)}) {
+        QString text;
+        if (box->value() < noise_)
+            text = tr("rec_400").arg(label->text(), numberText(box->value(), 1), numberText(noise_, 1));
+        markField(box, MarkReason::advice, Mark::advice, text);
+        if (!text.isEmpty())
+            texts << text;
+    }
+    return texts;
+}
+
 void FuelView::showState()
 {
-    const QString news = tanks_->news();
-    news_->setText(news);
+    QStringList news = markLowThresholds();
+    if (const QString ofTable = tanks_->news(); !ofTable.isEmpty())
+        news.prepend(ofTable);
+    news_->setText(news.join(QLatin1Char('\n')));
     news_->setVisible(!news.isEmpty());
     const bool isAnyVolume = std::ranges::any_of(litres_, [](double each) { return !std::isnan(each); });
     if (!tanks_->tanks().empty())
@@ -304,8 +302,8 @@ void FuelView::showState()
         empty_->tell(tr("rec_239"), tr("rec_251"));
     else
         empty_->tell(tr(records_.isBeingRead() ? "rec_371" : "rec_258"));
-    for (QPushButton* button : {copy_, csv_, print_})
-        button->setEnabled(model_->rowCount() > 0);
+    buttons_->refresh();
+    print_->setEnabled(model_->rowCount() > 0);
 }
 
 } // namespace vlk

@@ -24,6 +24,7 @@ namespace vlk {
 
 class EmptyNote;
 class HandOver;
+class ListButtons;
 class NoticeBar;
 class TankButton;
 
@@ -65,10 +66,10 @@ private:
     void setEvents(std::vector<FuelEvent> found);
     void look(int line);
     void zoom(int line);
-    void copy();
-    void saveCsv();
     void print();
     void showState();
+    // Thresholds that are too low for the sensor, with a mark on their fields.
+    QStringList markLowThresholds() const;
     TimeSpan spanOfSheet() const;
 
     ShownRecords& records_;
@@ -82,8 +83,7 @@ private:
     QDoubleSpinBox* rise_;
     QLabel* fallLabel_;
     QDoubleSpinBox* fall_;
-    QPushButton* copy_;
-    QPushButton* csv_;
+    ListButtons* buttons_;
     QPushButton* print_;
     QLabel* news_;
     QTableView* table_;
@@ -91,7 +91,7 @@ private:
     Picture curve_;
     Picture track_;
     NumberColumn litres_;
-    QString title_;
+    double noise_ = 0; // of them
     bool isRefreshing_ = false;
 };
 

@@ -1,20 +1,17 @@
 #include "telemetry/fuel_view/summary_view.h"
 
-#include "base/replace_file.h"
+#include "telemetry/curves/hand_over.h"
+#include "telemetry/fuel_view/list_buttons.h"
 #include "telemetry/fuel_view/summary_model.h"
 #include "typing/empty_note.h"
-#include "typing/file_error.h"
+#include "typing/notice_bar.h"
 #include "typing/table_look.h"
 #include "windows/named_widget.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QComboBox>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QPushButton>
 #include <QTableView>
 
 #include <algorithm>
@@ -28,18 +25,16 @@ constexpr const char* kOver[] = {"rec_271", "rec_272", "rec_273"};
 } // namespace
 
 SummaryView::SummaryView(ShownRecords* records, QWidget* parent)
-    : QWidget(parent), records_(*records), model_(new SummaryModel(this)), overLabel_(new QLabel(this)),
+    : QWidget(parent), records_(*records), model_(new SummaryModel(this)),
+      bar_(new NoticeBar(this, QStringLiteral("label_SummaryNotice"))), overLabel_(new QLabel(this)),
       over_(namedWidget<QComboBox>("comboBox_SummaryOver", this)),
-      copy_(namedWidget<QPushButton>("pushButton_CopySummary", this)),
-      csv_(namedWidget<QPushButton>("pushButton_SaveSummary", this)),
-      news_(namedWidget<QLabel>("label_SummaryNews", this)),
+      buttons_(new ListButtons("Summary", new HandOver(this, bar_), this)),
       table_(namedWidget<QTableView>("tableView_Summary", this)), empty_(nullptr)
 {
     setObjectName(QStringLiteral("widget_Summary"));
     overLabel_->setBuddy(over_);
     for (const char* key : kOver)
         over_->addItem(QLatin1String(key));
-    news_->setWordWrap(true);
     table_->setModel(model_);
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
     dressTable(table_, TableUse::read);
@@ -49,17 +44,14 @@ SummaryView::SummaryView(ShownRecords* records, QWidget* parent)
     head->addWidget(overLabel_);
     head->addWidget(over_);
     head->addStretch();
-    for (QPushButton* button : {copy_, csv_}) {
-        button->setAutoDefault(false);
-        head->addWidget(button);
-    }
+    head->addWidget(buttons_);
+    buttons_->setList(table_, [this] { return model_->csv(); });
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 6, 6, 6);
     layout->setSpacing(6);
+    layout->addWidget(bar_);
     layout->addLayout(head);
-    layout->addWidget(news_);
     layout->addWidget(table_, 1);
-    news_->hide();
 
     connect(records, &ShownRecords::contentsChanged, this, [this] {
         litres_.clear();
@@ -69,9 +61,6 @@ SummaryView::SummaryView(ShownRecords* records, QWidget* parent)
     connect(records, &ShownRecords::inSightChanged, this, &SummaryView::refresh);
     connect(records, &ShownRecords::passingChanged, this, &SummaryView::refresh);
     connect(over_, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &SummaryView::refresh);
-    connect(copy_, &QPushButton::clicked, this,
-            [this] { QApplication::clipboard()->setText(tableText(*table_)); });
-    connect(csv_, &QPushButton::clicked, this, &SummaryView::saveCsv);
     retranslate();
 }
 
@@ -127,19 +116,12 @@ void SummaryView::refresh()
         model_->setSelection(journey_->summary(span.from, span.to), records_.utcOffset());
     }
     table_->resizeColumnsToContents();
-    for (QPushButton* button : {copy_, csv_})
-        button->setEnabled(model_->rowCount() > 0);
+    buttons_->refresh();
 }
 
-void SummaryView::saveCsv()
+void SummaryView::setTitle(const QString& title)
 {
-    const QString path = QFileDialog::getSaveFileName(this, tr("rev_115"), {}, QStringLiteral("CSV (*.csv)"));
-    if (path.isEmpty())
-        return;
-    QString reason;
-    const bool isSaved = replaceFile(path, "\xEF\xBB\xBF" + model_->csv().toUtf8(), &reason);
-    news_->setText(tr("rec_261").arg(fileErrorText(reason)));
-    news_->setVisible(!isSaved);
+    buttons_->setTitle(title);
 }
 
 void SummaryView::retranslate()
@@ -147,9 +129,8 @@ void SummaryView::retranslate()
     overLabel_->setText(tr("rec_270"));
     for (int i = 0; i < over_->count(); ++i)
         over_->setItemText(i, tr(kOver[i]));
-    copy_->setText(tr("rev_114"));
-    csv_->setText(QStringLiteral("CSV…"));
-    csv_->setToolTip(tr("rev_115"));
+    buttons_->retranslate(tr("rec_292"));
+    bar_->retranslate();
     table_->setAccessibleName(tr("rec_292"));
     tellEmpty();
     model_->retranslate();

@@ -10,12 +10,13 @@
 
 class QComboBox;
 class QLabel;
-class QPushButton;
 class QTableView;
 
 namespace vlk {
 
 class EmptyNote;
+class ListButtons;
+class NoticeBar;
 class SummaryModel;
 
 class SummaryView : public QWidget
@@ -27,6 +28,8 @@ public:
 
     // One of each record, none for no litres; and what was refuelled and drained.
     void setFuel(const NumberColumn& litres, const std::vector<FuelEvent>& events);
+    // What a file of it is called by.
+    void setTitle(const QString& title);
     void retranslate();
 
 protected:
@@ -38,7 +41,6 @@ private:
     void forget();
     void refresh();
     void tellEmpty();
-    void saveCsv();
     TimeSpan passing() const;
 
     ShownRecords& records_;
@@ -46,11 +48,10 @@ private:
     std::vector<FuelEvent> events_;
     std::unique_ptr<Journey> journey_; // made when it is looked at
     SummaryModel* model_;
+    NoticeBar* bar_;
     QLabel* overLabel_;
     QComboBox* over_;
-    QPushButton* copy_;
-    QPushButton* csv_;
-    QLabel* news_;
+    ListButtons* buttons_;
     QTableView* table_;
     EmptyNote* empty_;
 };

@@ -3,6 +3,7 @@
 #include "fuel/table/fuel_file.h"
 #include "link/device.h"
 #include "telemetry/fuel_view/fuel_texts.h"
+#include "telemetry/view/shown_records.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -37,9 +38,11 @@ TableMemory TankButton::memory() const
     return TableMemory(vlkDevice ? vlkDevice->xmlFolder() : QString());
 }
 
-void TankButton::setRecords(RecordColumns& columns, const QString& vehicle)
+void TankButton::setRecords(ShownRecords& records, const QString& vehicle)
 {
+    RecordColumns& columns = records.columns();
     vehicle_ = vehicle;
+    isBeingRead_ = records.isBeingRead();
     present_ = sensorsIn(columns);
     inLitres_.clear();
     for (const LevelSensor* sensor : present_) {
@@ -92,7 +95,7 @@ void TankButton::fillMenu()
                 });
     }
     if (menu()->isEmpty())
-        menu()->addAction(tr("rec_258"))->setEnabled(false);
+        menu()->addAction(tr(isBeingRead_ ? "rec_371" : "rec_258"))->setEnabled(false);
 }
 
 void TankButton::toggle(const LevelSensor& sensor, bool isOn)

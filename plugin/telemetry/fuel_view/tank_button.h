@@ -11,6 +11,8 @@
 
 namespace vlk {
 
+class ShownRecords;
+
 class TankButton : public QToolButton
 {
     Q_OBJECT
@@ -19,7 +21,7 @@ public:
     explicit TankButton(QWidget* parent);
 
     // The sensors that the records have, and what was chosen for the vehicle before.
-    void setRecords(RecordColumns& columns, const QString& vehicle);
+    void setRecords(ShownRecords& records, const QString& vehicle);
     bool hasSensors() const { return !present_.empty(); }
     const std::vector<TankSensor>& tanks() const { return tanks_; }
     // "RS-485 fuel level 1: tank.xml", a line a sensor.
@@ -57,6 +59,7 @@ private:
     };
 
     QString vehicle_;
+    bool isBeingRead_ = false;
     std::vector<const LevelSensor*> present_;
     std::vector<const LevelSensor*> inLitres_; // by themselves, from the CAN bus
     std::vector<TankSensor> tanks_;

@@ -13,7 +13,7 @@ namespace vlk {
 
 namespace {
 
-// What stands above pictures.
+// What stands above pictures, and in the names of files.
 template <class View>
 RecordsPart titledPart(View* view, const char* title)
 {
@@ -65,7 +65,7 @@ std::vector<RecordsPart> makeRecordsParts(ShownRecords* shown, QWidget* parent)
     return {
         std::move(top),
         titledPart(track, "rec_199"),
-        {summary, "rec_292", [summary] { summary->retranslate(); }, [](const QString&) {}},
+        titledPart(summary, "rec_292"),
         {fuel, "rec_295",
          [shown, fuel, summary] {
              fuel->retranslate();
