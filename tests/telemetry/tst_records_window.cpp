@@ -18,6 +18,25 @@ class RecordsWindowTest : public QObject, private RecordsWindow
 private Q_SLOTS:
     void initTestCase() { start(); }
 
+    // By the next start too, whatever file it is.
+    void keepsWhichCurvesAreShown()
+    {
+        const vlk::Paths paths{{}, folder_.path(), {}, {}};
+        host_.send(Message::SetPaths, &paths);
+        const QString kept =
+            writeFile(folder_.filePath("curves.ini"),
+                      "[presets]\n1\\items=Power\n1\\name=Mine\nsize=1\n[chosen]\nname=Mine\n");
+        show(drive());
+        auto* presets = child<QComboBox>("comboBox_CurvePreset");
+        QCOMPARE(presets->currentText(), QString("Mine"));
+        QTest::keyClick(presets, Qt::Key_Home);
+        QTest::keyClick(presets, Qt::Key_Down);
+        QCOMPARE(presets->currentText(), QString("rec_161"));
+        show(drive());
+        QCOMPARE(presets->currentText(), QString("rec_161"));
+        QVERIFY(readFile(kept).contains("name=rec_161"));
+    }
+
     void filter_data()
     {
         DataTable<QString, QStringList, QString>({"typed", "numbers", "told"})
@@ -285,6 +304,9 @@ private Q_SLOTS:
         };
         QCOMPARE(told("tableWidget"), QString("rec_371"));
         QCOMPARE(told("tableView_Fuel"), QString("rec_371"));
+        auto* sensors = child<QToolButton>("toolButton_FuelTanks")->menu();
+        Q_EMIT sensors->aboutToShow();
+        QCOMPARE(sensors->actions().last()->text(), QString("rec_371"));
         QTest::keyClick(table_, Qt::Key_Escape);
         QCOMPARE(told("tableView_Fuel"), QString("rec_258"));
         QVERIFY(window->isVisible() && !bar->isVisible());

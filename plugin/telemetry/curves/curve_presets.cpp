@@ -1,9 +1,9 @@
 #include "telemetry/curves/curve_presets.h"
 
-#include "link/device.h"
 #include "telemetry/text/item_names.h"
+#include "telemetry/view/records_memory.h"
 
-#include <QDir>
+#include <QFile>
 #include <QSettings>
 
 namespace vlk {
@@ -13,11 +13,12 @@ namespace {
 const QString kPresetArray = QStringLiteral("presets");
 const QString kPresetName = QStringLiteral("name");
 const QString kPresetItems = QStringLiteral("items");
+const QString kChosenName = QStringLiteral("chosen/name");
+const QString kChosenItems = QStringLiteral("chosen/items");
 
 QString presetsFile()
 {
-    const QDir folder(vlkDevice ? vlkDevice->xmlFolder() : QString());
-    return vlkDevice && folder.exists() ? folder.filePath(QStringLiteral("curves.ini")) : QString();
+    return recordsMemory("curves.ini");
 }
 
 } // namespace
@@ -77,6 +78,25 @@ void keepPresets(const std::vector<CurvePreset>& presets)
         store.setValue(kPresetName, presets[i].name);
         store.setValue(kPresetItems, presets[i].items);
     }
+}
+
+CurvePreset chosenCurves()
+{
+    const QString file = presetsFile();
+    if (file.isEmpty() || !QFile::exists(file))
+        return {};
+    const QSettings store(file, QSettings::IniFormat);
+    return {store.value(kChosenName).toString(), store.value(kChosenItems).toStringList()};
+}
+
+void keepChosenCurves(const CurvePreset& chosen)
+{
+    const QString file = presetsFile();
+    if (file.isEmpty())
+        return;
+    QSettings store(file, QSettings::IniFormat);
+    store.setValue(kChosenName, chosen.name);
+    store.setValue(kChosenItems, chosen.items);
 }
 
 } // namespace vlk

@@ -30,4 +30,8 @@ QStringList presetItems(const char* list);
 std::vector<CurvePreset> keptPresets();
 void keepPresets(const std::vector<CurvePreset>& presets);
 
+// What the user chose last: the title of a built-in preset, the name of an own one, or items alone.
+CurvePreset chosenCurves();
+void keepChosenCurves(const CurvePreset& chosen);
+
 } // namespace vlk

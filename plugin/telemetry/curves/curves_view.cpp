@@ -3,7 +3,6 @@
 #include "telemetry/curves/bands_strip.h"
 #include "telemetry/curves/curve_choice.h"
 #include "telemetry/curves/curve_legend.h"
-#include "telemetry/curves/curve_presets.h"
 #include "telemetry/curves/curves_model.h"
 #include "telemetry/curves/curves_plot.h"
 #include "telemetry/curves/curves_sheet.h"
@@ -42,7 +41,7 @@ CurvesView::CurvesView(ShownRecords* records, QWidget* parent)
       cursorB_(namedWidget<QToolButton>("toolButton_CursorB", this)),
       handOverMenu_(namedWidget<QPushButton>("pushButton_HandOverCurves", this)),
       plot_(new CurvesPlot(model_, this)), strip_(new BandsStrip(model_, plot_, this)),
-      line_(namedWidget<QLabel>("label_Cursors", this))
+      line_(namedWidget<QLabel>("label_Cursors", this)), chosen_(chosenCurves())
 {
     plot_->setObjectName(QStringLiteral("plot_Curves"));
     plot_->setMinimumHeight(kLeastPlot);
@@ -77,8 +76,8 @@ CurvesView::CurvesView(ShownRecords* records, QWidget* parent)
     setFocusProxy(plot_);
 
     connect(presets_, qOverload<int>(&QComboBox::activated), this, [this](int index) {
-        isChosen_ = true;
         showPreset(index);
+        keepChosen(index);
     });
     connect(choose_, &QPushButton::clicked, this, &CurvesView::choose);
     // A second press takes it away.
@@ -91,11 +90,12 @@ CurvesView::CurvesView(ShownRecords* records, QWidget* parent)
     connect(model_, &CurvesModel::cursorsChanged, this, &CurvesView::refresh);
     connect(records, &ShownRecords::currentChanged, this, &CurvesView::keepInSight);
     connect(records, &ShownRecords::contentsChanged, this, [this] {
-        if (!isChosen_ || model_->curves().empty())
+        if (!records_->isBeingRead() && !showChosen())
             showFirstUseful();
     });
     retranslate();
-    showFirstUseful();
+    if (!showChosen())
+        showFirstUseful();
 }
 
 CurvesView::~CurvesView() = default;
@@ -174,13 +174,41 @@ void CurvesView::showFirstUseful()
     showPreset(0);
 }
 
+void CurvesView::keepChosen(int preset)
+{
+    const auto builtIn = static_cast<int>(builtInPresets().size());
+    chosen_ = {};
+    if (preset >= builtIn)
+        chosen_.name = presets_->itemText(preset);
+    else if (preset >= 0)
+        chosen_.name = QLatin1String(builtInPresets()[static_cast<std::size_t>(preset)].title);
+    else
+        chosen_.items = model_->shownNames();
+    keepChosenCurves(chosen_);
+}
+
+bool CurvesView::showChosen()
+{
+    const auto builtIn = static_cast<int>(builtInPresets().size());
+    int preset = presets_->count() - 1;
+    while (preset >= 0 && chosen_.name != (preset < builtIn ? QLatin1String(builtInPresets()[preset].title)
+                                                            : presets_->itemText(preset)))
+        --preset;
+    presets_->setCurrentIndex(preset);
+    if (preset >= 0)
+        showPreset(preset);
+    else
+        model_->show(chosen_.items, CurvesModel::Choice::chosen);
+    return !model_->curves().empty();
+}
+
 void CurvesView::choose()
 {
     const bool isOwn = presets_->currentIndex() >= static_cast<int>(builtInPresets().size());
     CurveChoice dialog(model_, isOwn ? presets_->currentText() : QString(), this);
     connect(&dialog, &CurveChoice::chosen, this, [this] {
-        isChosen_ = true;
         presets_->setCurrentIndex(-1);
+        keepChosen(-1);
     });
     connect(&dialog, &CurveChoice::presetKept, this, [this](const QString& name) {
         fillPresets();
@@ -189,10 +217,12 @@ void CurvesView::choose()
         while (index >= 0 && presets_->itemText(index) != name)
             --index;
         presets_->setCurrentIndex(index);
+        keepChosen(index);
     });
     connect(&dialog, &CurveChoice::presetDeleted, this, [this] {
         fillPresets();
         presets_->setCurrentIndex(-1);
+        keepChosen(-1);
     });
     dialog.exec();
 }

@@ -2,6 +2,8 @@
 
 // Curves of the records on show, with two cursors; a part of the window of records.
 
+#include "telemetry/curves/curve_presets.h"
+
 #include <QWidget>
 
 class QComboBox;
@@ -45,6 +47,10 @@ private:
     void fillPresets();
     void showPreset(int index);
     void showFirstUseful();
+    // Keeps what is shown now as what the user chose: a preset, or -1.
+    void keepChosen(int preset);
+    // False where nothing of it can be shown.
+    bool showChosen();
     void choose();
     void refresh();
     void keepInSight(int record);
@@ -66,7 +72,7 @@ private:
     BandsStrip* strip_;
     QLabel* line_;
     QString title_;
-    bool isChosen_ = false; // what is shown, by the user
+    CurvePreset chosen_; // by the user; empty for none
 };
 
 } // namespace vlk
