@@ -1,0 +1,298 @@
+// Calibration tables to files and from them, and what is kept of them unsaved.
+
+#include "base/file_claim.h"
+#include "fuel_window.h"
+#include "support/data_table.h"
+#include "support/full_disk.h"
+
+namespace {
+
+QByteArray fuelFile(const QByteArray& type, const QByteArray& model = "R-7106",
+                    const QByteArray& root = "FUEL")
+{
+    return '<' + root + " model=\"" + model + "\" type=\"" + type +
+           "\"><Name_A1>rear</Name_A1><TABLE><DATA param_U=\"20\" param_V=\"8\"/>"
+           "<DATA param_U=\"10\" param_V=\"7,5\"/></TABLE></" +
+           root + '>';
+}
+
+} // namespace
+
+class FuelWindowFilesTest : public QObject, private FuelWindow
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { startFuel(); }
+    void init() { openFuel(); }
+    void cleanup() { closeFuel(); }
+
+    void savesAsXml()
+    {
+        const auto* note = form("A3")->findChild<QLabel*>("label_Empty");
+        QVERIFY(note->isVisible() && note->text() == "tmiw_291");
+        add("A3", "10,5", 12340);
+        add("A3", "5", 900);
+        QVERIFY(!note->isVisible());
+        QVERIFY(fuel_.isOn("pushButton_Save_Xml"));
+        field("A3", "lineEdit_Name")->setText("left");
+        QString proposed;
+        const QString path = folder.filePath("saved.xml");
+        writeFile(path, "no document");
+        fuel_.child<QWidget>("pushButton_Save_Xml")->setFocus();
+        saveTo("pushButton_Save_Xml", path, &proposed);
+        QVERIFY(fuel_.window->focusWidget() == field("A3", "lineEdit_Volume"));
+        static const QRegularExpression name(
+            "/A3-Truck 7\\(\\d{4}-\\d\\d-\\d\\d \\d\\d_\\d\\d_\\d\\d\\)\\.xml$");
+        QVERIFY2(name.match(proposed).hasMatch() && proposed.startsWith(folder.path()), qPrintable(proposed));
+        QCOMPARE(readFile(path), QByteArray("<?xml version=\"1.0\" encoding=\"windows-1251\"?>\n"
+                                            "<FUEL model=\"R-7106\" type=\"A3\">\n"
+                                            "\t<objName>Truck: 7</objName>\n"
+                                            "\t<Name>left</Name>\n"
+                                            "\t<TABLE>\n"
+                                            "\t\t<DATA param_U=\"5\" param_V=\"0.90\"/>\n"
+                                            "\t\t<DATA param_U=\"10\" param_V=\"12.34\"/>\n"
+                                            "\t</TABLE>\n"
+                                            "</FUEL>\n"));
+        QVERIFY(!fuel_.isOn("pushButton_Save_Xml"));
+        load(path);
+        QCOMPARE(rows("A3"), QString("5=0.90 10=12.34"));
+        // The name of the file waits in the field for one key.
+        auto* tank = field("A3", "lineEdit_Name");
+        QCOMPARE(tank->text(), QString());
+        QVERIFY(tank->placeholderText().startsWith("left ("));
+        QTest::keyClick(tank, Qt::Key_Right);
+        QCOMPARE(tank->text(), QString("left"));
+        load(writeFile(path, fuelFile("A3")));
+        QVERIFY(tank->placeholderText().isEmpty());
+    }
+
+    // What could not be saved stays unsaved, and the file stays as it was.
+    void keepsWhatADiskRefuses()
+    {
+        add("A3", "10", 1000);
+        const QString path = writeFile(folder.filePath("full.xml"), "as it was");
+        {
+            const FullDisk full(16);
+            QTest::ignoreMessage(QtWarningMsg,
+                                 QRegularExpression("^" + QRegularExpression::escape(path) + ": "));
+            saveTo("pushButton_Save_Xml", path);
+        }
+        QCOMPARE(readFile(path), QByteArray("as it was"));
+        QVERIFY(fuel_.isOn("pushButton_Save_Xml"));
+        answerBox("wrd_031", kUnsaved);
+        fuel_.window->close();
+        QVERIFY(fuel_.window->isVisible());
+    }
+
+    // What sets no flag is told in the bar, and offered anew when the window was closed over it.
+    void keepsWhatWasEdited()
+    {
+        const QString path = writeFile(folder.filePath("load.xml"), fuelFile("A3"));
+        load(path);
+        QVERIFY(bar()->isHidden());
+        editCell("A3", "10.5");
+        QCOMPARE(fuel_.text("label_Notice"), QString("cfgt6_404"));
+        show("D1");
+        QVERIFY(bar()->isHidden());
+        show("A3");
+        answerFile(folder.filePath("edited.xml"));
+        pressInBar("wrd_042 XML");
+        // The file has whole litres, which is told until a file has all.
+        QVERIFY(readFile(folder.filePath("edited.xml")).contains("param_U=\"10\""));
+        QCOMPARE(fuel_.text("label_Notice"), QString("tmiw_264"));
+        answerFile(folder.filePath("edited.csv"));
+        pressInBar("wrd_042 Excel");
+        QVERIFY(bar()->isHidden() && readFile(folder.filePath("edited.csv")).contains(";10.5"));
+        {
+            const FullDisk full(16);
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression("unsaved"));
+            editCell("A3", "11.5");
+            answerBox("wrd_031", kUnsaved);
+            fuel_.window->close();
+            QVERIFY(fuel_.window->isVisible());
+        }
+        fuel_.window->close();
+        QVERIFY(fuel_.window->isHidden());
+        press("pushButton_FuelSensor");
+        QVERIFY(rows("A3").isEmpty());
+        QCOMPARE(fuel_.text("label_Notice"), QString("cfgt6_405"));
+        show("D1");
+        pressInBar("cfgt6_406");
+        QCOMPARE(rows("A3"), QString("11.5=7.5 20=8"));
+        QCOMPARE(field("A3", "lineEdit_Name")->text(), QString("rear"));
+        // The last edit is offered beside the one that it replaced on the screen.
+        load(path);
+        QCOMPARE(rows("A3"), QString("10=7.5 20=8"));
+        mark("A3", 0);
+        answerBox("wrd_001");
+        form("A3")->findChild<QPushButton*>("pushButton_Del")->click();
+        QVERIFY(rows("A3") == "20=8" && fuel_.text("label_NoticePlace") == "wrd_401");
+        fuel_.window->close();
+        press("pushButton_FuelSensor");
+        // One is brought back and saved, the other given up.
+        QApplication::setActiveWindow(fuel_.window);
+        QTest::keyClick(fuel_.window, Qt::Key_F6);
+        QVERIFY(bar()->isAncestorOf(QApplication::focusWidget()));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        QVERIFY(!rows("A3").isEmpty());
+        pressInBar("cfgt6_407");
+        answerFile(folder.filePath("edited.xml"));
+        pressInBar("wrd_042 XML");
+        fuel_.window->close();
+        press("pushButton_FuelSensor");
+        QVERIFY(bar()->isHidden() && QDir(folder.filePath(".unsaved")).isEmpty());
+    }
+
+    // What is not saved outlives a program that is killed, be it a name alone; only its owner can read it.
+    void keepsDrafts()
+    {
+        const QDir drafts(folder.filePath(".unsaved"));
+        const auto only = [&drafts] { return drafts.filePath(drafts.entryList(QDir::Files).value(0)); };
+        add("A3", "10.5", 12340);
+        QTRY_COMPARE_WITH_TIMEOUT(drafts.entryList(QDir::Files).size(), 1, 1000);
+        add("A3", "20", 12340);
+        QTRY_VERIFY_WITH_TIMEOUT(readFile(only()).contains("\"20\""), 1000);
+        const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+        QVERIFY(!(QFile::permissions(only()) & others) && !(QFile::permissions(drafts.path()) & others));
+        const QByteArray asKilled = readFile(only());
+        saveTo("pushButton_Save_Xml", folder.filePath("out.xml"));
+        QTRY_VERIFY_WITH_TIMEOUT(drafts.isEmpty(), 1000);
+        QTest::keyClicks(field("D1", "lineEdit_Name"), "left");
+        fuel_.window->close();
+        writeFile(drafts.filePath("killed.xml"), asKilled);
+        {
+            const vlk::FileClaim ofOtherProgram(drafts.filePath("killed.xml"));
+            press("pushButton_FuelSensor");
+            QVERIFY(bar()->isVisible() && fuel_.child("label_NoticePlace")->isHidden());
+            fuel_.window->close();
+        }
+        const QByteArray killedOne = "2147483647\nworkbench\n" + QSysInfo::machineHostName().toUtf8() + '\n';
+        writeFile(drafts.filePath(".killed.xml.lock"), killedOne);
+        press("pushButton_FuelSensor");
+        QCOMPARE(fuel_.text("label_NoticePlace"), QString("wrd_401"));
+        // The one that is still offered stands before what can be done with the first.
+        for (const int left : {1, 0}) {
+            pressInBar("cfgt6_406");
+            QCOMPARE(fuel_.isOn("pushButton_Save_Xml"), left > 0);
+        }
+        QCOMPARE(rows("A3") + field("D1", "lineEdit_Name")->text(), QString("10.5=12.34 20=12.34left"));
+        // Whoever has closed the bar saves by the key.
+        show("A3");
+        fuel_.press("label_Notice_Close");
+        QVERIFY(fuel_.isOn("pushButton_Save_Xml"));
+        answerFile(folder.filePath("out.xml"));
+        QApplication::setActiveWindow(fuel_.window);
+        QTest::keyClick(fuel_.window, Qt::Key_S, Qt::ControlModifier);
+        QTRY_COMPARE_WITH_TIMEOUT(drafts.entryList(QDir::Files).size(), 1, 1000);
+    }
+
+    // Of the sensor that begins its name; the rows wait for an XML file.
+    void loadsItsOwnCsv()
+    {
+        add("D2", "10,5", 7);
+        const QString path = folder.filePath("D4-Truck 7.csv");
+        saveTo("pushButton_Save_Excel", path);
+        load(path);
+        QVERIFY(rows("D4") == "10.5=1002" && form("D4")->isVisible() && fuel_.isOn("pushButton_Save_Xml"));
+        load(writeFile(folder.filePath("F1-.csv"), "x;y\r\n7;1\r\n"), "tmiw_129", "wrd_001");
+        QVERIFY(rows("D4") == "1=7" && fuel_.text("label_Notice") == "cfgt6_412");
+        // Nothing is asked for the sake of a file with nothing in it.
+        const QString none = writeFile(folder.filePath("none.csv"), QByteArray(9, '\0'));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("holds no calibration table"));
+        load(none);
+        QCOMPARE(rows("D4"), QString("1=7"));
+    }
+
+    void savesAsCsv()
+    {
+        add("D2", "10,5", 7);
+        QString proposed;
+        QVERIFY(QDir(folder.path()).mkpath("elsewhere"));
+        const QString path = folder.filePath("elsewhere/saved.csv");
+        saveTo("pushButton_Save_Excel", path, &proposed);
+        QVERIFY(proposed.contains("/D2-Truck 7(") && proposed.endsWith(".csv"));
+        // Files begin where the last one went; a sheet is named as they are.
+        saveTo("pushButton_Pdf", folder.filePath("sheet.pdf"), &proposed);
+        QVERIFY(proposed.contains("/elsewhere/D2-Truck 7(") && proposed.endsWith(".pdf"));
+        const QByteArray sheet = readFile(folder.filePath("sheet.pdf"));
+        QVERIFY(sheet.startsWith("%PDF") && sheet.contains("/Image"));
+        QCOMPARE(readFile(path), QByteArray("cfgt6_044;cfgt6_040\r\n1002;10.5\r\n"));
+        QVERIFY(fuel_.isOn("pushButton_Save_Xml"));
+    }
+
+    void loads_data()
+    {
+        DataTable<QByteArray, QString, QString>({"content", "sensor", "box"})
+            .row("A3", fuelFile("A3"), "A3", "")
+            .row("D4", fuelFile("D4"), "D4", "")
+            .row("no such sensor", fuelFile("D9"), "D2", "")
+            .row("group", fuelFile("D"), "D2", "")
+            .row("group that is not here", fuelFile("F1"), "A3", "")
+            .row("no type", fuelFile(""), "A3", "")
+            .row("no letter", fuelFile("\xc3\x84"), "A3", "")
+            .row("other model", fuelFile("A3", "R-1"), "", "tmiw_128")
+            .row("other root", fuelFile("A3", "R-7106", "DEVICE"), "", "tmiw_128")
+            .row("empty", "", "", "tmiw_128")
+            .row("malformed", fuelFile("A3").chopped(9), "", "")
+            .row("too long",
+                 "<FUEL model=\"R-7106\"><TABLE>" + QByteArray("<DATA/>").repeated(20'001) +
+                     "</TABLE></FUEL>",
+                 "", "")
+            .row("too large",
+                 "<FUEL model=\"R-7106\"><TABLE>" + QByteArray("<DATA/>").repeated(1'000'000) +
+                     "</TABLE></FUEL>",
+                 "", "");
+    }
+    void loads()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, sensor);
+        QFETCH(QString, box);
+        show("D2");
+        show("A3");
+        add("A3", "1", 1000);
+        saveTo("pushButton_Save_Xml", folder.filePath("out.xml"));
+        const QString path = writeFile(folder.filePath("load.xml"), content);
+        load(path, box);
+        if (sensor.isEmpty()) {
+            QCOMPARE(rows("A3"), QString("1=1.00"));
+        } else {
+            QCOMPARE(rows(sensor), QString("10=7.5 20=8"));
+            QCOMPARE(field(sensor, "lineEdit_Name")->text(), QString("rear"));
+            QVERIFY(form(sensor)->isVisible());
+            // A file of another sensor is told, until the table is gone.
+            const bool isOther = content.contains("\"D9\"") || content.contains("\"F1\"");
+            QCOMPARE(!bar()->isHidden() && fuel_.text("label_Notice") == "cfgt6_412", isOther);
+            answerBox("wrd_001");
+            form(sensor)->findChild<QPushButton*>("pushButton_Clear")->click();
+            QVERIFY(bar()->isHidden());
+        }
+        QCOMPARE(readFile(path), content);
+    }
+
+    void asksBeforeRowsAreReplaced()
+    {
+        add("A3", "1", 1000);
+        const QString path = writeFile(folder.filePath("load.xml"), fuelFile("A3"));
+        load(path, "tmiw_129", "wrd_031");
+        QCOMPARE(rows("A3"), QString("1=1.00"));
+        load(path, "tmiw_129", "wrd_001");
+        QCOMPARE(rows("A3"), QString("10=7.5 20=8"));
+        QVERIFY(!fuel_.isOn("pushButton_Save_Xml"));
+    }
+
+    // What is no number is told until the cell has one.
+    void tellsWhatIsNoNumber()
+    {
+        load(writeFile(folder.filePath("load.xml"), fuelFile("A3").replace("\"8\"", "\"abc\"")));
+        QCOMPARE(rows("A3"), QString("10=7.5 20=abc"));
+        QCOMPARE(fuel_.text("label_Notice"), QString("tmiw_265"));
+        editCell("A3", "8", 1, 1);
+        QCOMPARE(fuel_.text("label_Notice"), QString("cfgt6_404"));
+        load(writeFile(folder.filePath("load.xml"), fuelFile("A3")));
+    }
+};
+
+QTEST_MAIN(FuelWindowFilesTest)
+#include "tst_fuel_window_files.moc"
