@@ -1,8 +1,9 @@
-// Refuellings and drains of a year, a million records of a lorry that drives by day, beside decoding one
-// column of as many records. The time to keep: half a second.
+// Refuellings and drains of a year, a million records of a lorry that drives by day, and how far the level
+// swings, beside decoding one column of as many records. The time to keep: half a second.
 
 #include "bench/side_by_side.h"
 #include "telemetry/fuel/fuel_events.h"
+#include "telemetry/fuel/level_noise.h"
 #include "telemetry/fuel/tank_levels.h"
 #include "tests/support/records.h"
 
@@ -51,7 +52,12 @@ void fuelEventsOfAYear(benchmark::State& state)
         {levelSensorOfTable(QStringLiteral("D1")), FuelCurve(table, LevelKind::Code)}};
     std::size_t found = 0;
     bench::sideBySide(
-        state, "x column", [&] { found = findFuelEvents(columns, tankLitres(columns, tanks), {}).size(); },
+        state, "x column",
+        [&] {
+            const NumberColumn litres = tankLitres(columns, tanks);
+            benchmark::DoNotOptimize(levelNoise(columns, litres));
+            found = findFuelEvents(columns, litres, {}).size();
+        },
         [&] { benchmark::DoNotOptimize(RecordColumns(records).numbers(item("LevelRS485_1")).data()); });
     state.counters["events"] = static_cast<double>(found);
 }

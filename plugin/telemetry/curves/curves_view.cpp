@@ -261,9 +261,10 @@ bool CurvesView::write(QIODevice& device) const
 
 QImage CurvesView::picture(const TimeSpan& span, const QSize& size) const
 {
-    QImage image(size, QImage::Format_RGB32);
+    QImage image(size * kPicturePixels, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
+    painter.scale(kPicturePixels, kPicturePixels);
     paintCurves(painter, size, *model_, span, title_);
     return image;
 }

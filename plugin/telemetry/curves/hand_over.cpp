@@ -21,7 +21,6 @@ namespace vlk {
 namespace {
 
 constexpr QSize kPictureSize(1200, 600);
-constexpr int kPicturePixels = 2; // a point
 constexpr int kSavedNotice = 1;
 
 // Of the size in which it is shown: a printer would make many of its pixels of the points of a font.

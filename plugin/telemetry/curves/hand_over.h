@@ -18,6 +18,9 @@ class NoticeBar;
 // Paints the picture into that many pixels from the painter's origin on.
 using PaintPicture = std::function<void(QPainter& painter, const QSize& size)>;
 
+// Of an image, along each side of a point of the picture in it.
+inline constexpr int kPicturePixels = 2;
+
 class HandOver : public QObject
 {
     Q_OBJECT

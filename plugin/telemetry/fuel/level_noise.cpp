@@ -17,11 +17,13 @@ constexpr std::size_t kLeastCount = 20;
 // Of the median of distances: three standard deviations, if they are spread normally.
 constexpr double kSpread = 3 * 1.4826;
 
+// At most kSide of them.
 double litresOf(std::span<const LevelMedian> medians)
 {
-    std::vector<double> litres;
-    std::ranges::transform(medians, std::back_inserter(litres), &LevelMedian::litres);
-    return medianOf(litres);
+    std::array<double, kSide> litres{};
+    const auto end = std::ranges::transform(medians, litres.begin(), &LevelMedian::litres).out;
+    std::sort(litres.begin(), end);
+    return (litres[(medians.size() - 1) / 2] + litres[medians.size() / 2]) / 2;
 }
 
 bool isOtherState(const LevelMedian& one, const LevelMedian& other)

@@ -36,8 +36,9 @@ namespace {
 constexpr double kLeastLitres = 0.5;
 constexpr double kMostLitres = 5000;
 constexpr double kRoundEvent = 15 * 60; // seconds on either side
-constexpr QSize kCurvePicture(1240, 500);
-constexpr QSize kTrackPicture(1240, 640); // with the curve and a short list on one page
+// A third more than they take on paper, where their words are so much smaller than those around them.
+constexpr QSize kCurvePicture(820, 360);
+constexpr QSize kTrackPicture(820, 430); // with the curve and a short list on one page
 constexpr int kWidestVehicle = 160;
 
 QDoubleSpinBox* litresBox(const char* name, QWidget* parent)

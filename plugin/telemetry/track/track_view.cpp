@@ -143,9 +143,10 @@ void TrackView::paint(QPainter& painter, const QSize& size) const
 
 QImage TrackView::picture(const TimeSpan& span, const QSize& size) const
 {
-    QImage image(size, QImage::Format_RGB32);
+    QImage image(size * kPicturePixels, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
+    painter.scale(kPicturePixels, kPicturePixels);
     QRectF bounds;
     bool isFirst = true;
     for (int point = 0; point < static_cast<int>(model_->path().points().size()); ++point) {
