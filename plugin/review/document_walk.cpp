@@ -16,12 +16,11 @@ using Take = std::function<void(const QString& path, const QString& text)>;
 void walk(const CXmlNode& element, const QString& path, const Take& take)
 {
     const bool isSection = !path.contains(QLatin1Char('/'));
-    const auto attributes = element.lastAttributes();
     int taken = 0;
-    for (const CXmlNode* attribute : attributes) {
-        if (isSection && attribute->name == QLatin1String("page"))
+    for (const CXmlAttribute& attribute : element.attributes) {
+        if (isSection && attribute.name == QLatin1String("page"))
             continue;
-        take(path + QLatin1Char('/') + sectionText(attribute->name), attribute->value);
+        take(path + QLatin1Char('/') + sectionText(attribute.name), attribute.value);
         ++taken;
     }
     QHash<QString, int> seen;

@@ -70,9 +70,7 @@ void removeKey(CXmlNode& root, const QString& path)
         if (!element)
             return;
     }
-    auto& keys = element->attributes;
-    keys.erase(std::remove_if(keys.begin(), keys.end(), [&](const auto& key) { return key->name == name; }),
-               keys.end());
+    std::erase_if(element->attributes, [&](const CXmlAttribute& key) { return key.name == name; });
 }
 
 } // namespace
@@ -106,11 +104,11 @@ void setKey(CXmlSection& root, int key, const QString& text)
         if (!found) {
             found = element->addChild(child);
             if (element == &device)
-                found->addAttribute(QStringLiteral("page"), child);
+                found->setAttribute(QStringLiteral("page"), child);
         }
         element = found;
     }
-    element->addAttribute(name, text);
+    element->setAttribute(name, text);
 }
 
 void layOver(CXmlSection& root, const FileState& from, const std::vector<int>& keys)

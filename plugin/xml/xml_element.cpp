@@ -2,8 +2,6 @@
 
 #include "xml/xml_text.h"
 
-#include <algorithm>
-
 namespace vlk {
 
 XmlElement XmlElement::child(const QString& name) const
@@ -15,10 +13,14 @@ std::optional<QString> XmlElement::find(const QString& name) const
 {
     if (!node_)
         return std::nullopt;
-    // Of namesakes the value set last counts.
-    const auto attribute = std::find_if(node_->attributes.rbegin(), node_->attributes.rend(),
-                                        [&](const auto& node) { return node->isNamed(name); });
-    const CXmlNode* found = attribute != node_->attributes.rend() ? attribute->get() : node_->child(name);
+    const std::size_t count = node_->attributes.size();
+    for (std::size_t passed = 0; passed < count; ++passed) {
+        const CXmlAttribute& attribute = node_->attributes[next_];
+        next_ = next_ + 1 == count ? 0 : next_ + 1;
+        if (attribute.isNamed(name))
+            return sectionText(attribute.value);
+    }
+    const CXmlNode* found = node_->child(name);
     return found ? std::optional(sectionText(found->value)) : std::nullopt;
 }
 

@@ -17,11 +17,13 @@ public:
     explicit operator bool() const { return node_; }
     // The first one of that name; none where there is none.
     XmlElement child(const QString& name) const;
-    // The text of the attribute, else of the child of that name.
+    // The text of the attribute, else of the child of that name. Names are mostly asked for in the order in
+    // which they stand.
     std::optional<QString> find(const QString& name) const;
 
 private:
     const CXmlNode* node_;
+    mutable std::size_t next_ = 0; // attribute that is looked at first
 };
 
 } // namespace vlk

@@ -27,22 +27,21 @@ bool CXmlDefaultHandler::startElement(const QString&, const QString&, const QStr
         root_ = std::make_unique<CXmlNode>(name);
         current_ = root_.get();
     }
-    if (attributes.length() > 0) {
+    if (const int count = attributes.length(); count > 0) {
         current_->kind = CXmlNode::Attributed;
-        current_->attributes.reserve(static_cast<std::size_t>(attributes.length()));
+        current_->attributes.reserve(static_cast<std::size_t>(count));
         // The reader passes a name that stands twice; the first one counts. Most elements have a handful of
         // attributes, which are sooner compared than hashed.
         constexpr int few = 64;
         QSet<QString> seen;
-        for (int i = 0; i < attributes.length(); ++i) {
+        for (int i = 0; i < count; ++i) {
             const QString name = attributes.qName(i);
             const auto known = seen.size();
-            if (attributes.length() > few)
+            if (count > few)
                 seen.insert(name);
-            const auto isNamed = [&name](const auto& attribute) { return attribute->isNamed(name); };
-            if (attributes.length() > few ? seen.size() > known
-                                          : std::ranges::none_of(current_->attributes, isNamed))
-                current_->addAttribute(name, vlk::decodeValue(attributes.value(i)));
+            const auto isNamed = [&name](const CXmlAttribute& other) { return other.isNamed(name); };
+            if (count > few ? seen.size() > known : std::ranges::none_of(current_->attributes, isNamed))
+                current_->attributes.push_back({name, vlk::decodeValue(attributes.value(i))});
         }
         sawContent_ = true;
     }

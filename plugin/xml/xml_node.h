@@ -1,14 +1,24 @@
 #pragma once
 
-// One element of a configuration document, or one attribute of an element. A node owns its children and its
-// attributes; the document (CSerialize) owns the root.
+// One element of a configuration document. A node owns its children and its attributes; the document
+// (CSerialize) owns the root.
 
 #include <QString>
 
 #include <memory>
 #include <vector>
 
-class CXmlNode
+// What has a name and a text: an attribute, or an element with what it holds.
+struct CXmlAttribute
+{
+    // Names are mostly of another length.
+    bool isNamed(const QString& other) const { return name.size() == other.size() && name == other; }
+
+    QString name;
+    QString value{};
+};
+
+class CXmlNode : public CXmlAttribute
 {
 public:
     // How an element is written.
@@ -22,21 +32,15 @@ public:
 
     explicit CXmlNode(QString nodeName, CXmlNode* parentNode = nullptr);
 
-    // Names are mostly of another length.
-    bool isNamed(const QString& other) const { return name.size() == other.size() && name == other; }
     // First child of that name, or null.
     CXmlNode* child(const QString& childName) const;
-    // Both add without looking for a namesake.
+    // Adds one without looking for a namesake.
     CXmlNode* addChild(const QString& childName, Kind childKind = Element);
-    void addAttribute(const QString& attributeName, const QString& attributeValue);
+    // An attribute stays where it was first set, with the value set last.
+    void setAttribute(const QString& attributeName, const QString& attributeValue);
 
-    // The attributes that count: every name once, where it was first set, with the value set last.
-    std::vector<CXmlNode*> lastAttributes() const;
-
-    QString name;
-    QString value;
     Kind kind = Element;
     List children;
-    List attributes;
+    std::vector<CXmlAttribute> attributes; // each name once
     CXmlNode* parent = nullptr;
 };

@@ -1,8 +1,8 @@
 #pragma once
 
 // One entry of a section's table: an attribute or a child element of the section's node, by name and value.
-// Both texts have been through vlk::sectionText, so they hold at most 255 bytes of windows-1251. An entry
-// that was set and not read has no node.
+// Both texts have been through vlk::sectionText, so they hold at most 255 bytes of windows-1251. An
+// attribute has no node, nor has an entry that was set and not read.
 
 #include <QString>
 
@@ -13,4 +13,5 @@ struct CXmlRecord
     QString name;
     QString value;
     CXmlNode* node = nullptr;
+    bool isAttribute = false;
 };

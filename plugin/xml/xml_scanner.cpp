@@ -127,14 +127,18 @@ void XmlScanner::scanAttributes()
 
 bool isOfBearableSize(const QString& text)
 {
-    constexpr std::size_t mostAttributes = 1000;
+    constexpr int mostAttributes = 1000;
     constexpr int mostElements = 100'000;
+    // Each attribute has an equals sign, and most documents have no more of these in all.
+    if (text.size() <= mostElements &&
+        std::count(text.begin(), text.end(), QLatin1Char('=')) <= mostAttributes)
+        return true;
     XmlScanner scanner(text);
     int elements = 0;
     for (auto token = scanner.next(); token != XmlScanner::Token::none; token = scanner.next()) {
         if (token == XmlScanner::Token::start)
             ++elements;
-        if (elements > mostElements || scanner.attributes().size() > mostAttributes)
+        if (elements > mostElements || static_cast<int>(scanner.attributes().size()) > mostAttributes)
             return false;
     }
     return true;

@@ -50,14 +50,16 @@ CXmlSection::CXmlSection(CSerialize* document, CXmlNode* node) : document_(docum
 
 void CXmlSection::buildTable()
 {
-    const auto attributes = node_->lastAttributes();
-    table_.reserve(attributes.size() + node_->children.size());
-    const auto add = [this](CXmlNode* node) {
-        table_.push_back({vlk::sectionText(node->name), vlk::sectionText(node->value), node});
+    if (!node_)
+        return;
+    table_.reserve(node_->attributes.size() + node_->children.size());
+    const auto add = [this](const CXmlAttribute& read, CXmlNode* node) {
+        table_.push_back({vlk::sectionText(read.name), vlk::sectionText(read.value), node, !node});
     };
-    std::for_each(attributes.begin(), attributes.end(), add);
+    for (const CXmlAttribute& attribute : node_->attributes)
+        add(attribute, nullptr);
     for (const auto& child : node_->children)
-        add(child.get());
+        add(*child, child.get());
 }
 
 CXmlSection* CXmlSection::section(const QString& name, CXmlNode::Kind kind) const
@@ -89,8 +91,12 @@ CXmlSection* CXmlSection::nextChild()
 {
     while (scanPosition_ < table_.size()) {
         const CXmlRecord& record = table_[scanPosition_++];
-        if (record.name == scanName_)
-            return record.node ? new CXmlSection(document_, record.node) : nullptr;
+        if (record.name != scanName_)
+            continue;
+        if (record.node)
+            return new CXmlSection(document_, record.node);
+        // An attribute is passed as an entry that holds nothing.
+        return record.isAttribute ? new CXmlSection(nullptr, nullptr) : nullptr;
     }
     return nullptr;
 }
@@ -177,12 +183,11 @@ void CXmlSection::commit()
         if (!firstChildren.contains(child->name))
             firstChildren.insert(child->name, child.get());
     }
-    node_->attributes.reserve(node_->attributes.size() + table_.size());
     for (const CXmlRecord& record : table_) {
         if (CXmlNode* const child = firstChildren.value(record.name))
             child->value = asciiOnly(record.value);
         else
-            node_->addAttribute(record.name, record.value);
+            node_->setAttribute(record.name, record.value);
     }
 }
 

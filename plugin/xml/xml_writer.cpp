@@ -61,6 +61,6 @@ void CXmlWriter::writeText(const CXmlNode& element)
 
 void CXmlWriter::writeAttributes(const CXmlNode& element)
 {
-    for (const CXmlNode* attribute : element.lastAttributes())
-        *this << ' ' << attribute->name << "=\"" << vlk::encodeValue(attribute->value) << '"';
+    for (const CXmlAttribute& attribute : element.attributes)
+        *this << ' ' << attribute.name << "=\"" << vlk::encodeValue(attribute.value) << '"';
 }

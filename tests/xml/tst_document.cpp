@@ -244,12 +244,12 @@ private Q_SLOTS:
         QCOMPARE(named.root()->getString("a"), QString("attribute"));
         QCOMPARE(named.root()->getInt("b", 0), 1);
 
-        XmlDocument document(put("<DEVICE><T v='0'/><D v='1'/><D v='2'/><T/><D v='3'/></DEVICE>"), "DEVICE");
+        XmlDocument document(put("<DEVICE D='0'><T/><D v='1'/><D v='2'/><T/><D v='3'/></DEVICE>"), "DEVICE");
         QStringList seen;
         for (CXmlSectionPtr row(document.root()->firstChild("D")); row;
              row.reset(document.root()->nextChild()))
             seen += row->getString("v");
-        QCOMPARE(seen.join(' '), QString("1 2 3"));
+        QCOMPARE(seen.join(' '), QString(" 1 2 3"));
         document.root()->setInt("new", 1);
         QVERIFY(!CXmlSectionPtr(document.root()->firstChild("new")));
         QVERIFY(!CXmlSectionPtr(document.root()->firstChild("none")));
@@ -271,6 +271,8 @@ private Q_SLOTS:
             .row("binary", binary)
             .row("NULs", QByteArray(1000, '\0'))
             .row("100,000 levels", QByteArray("<A>").repeated(100000) + QByteArray("</A>").repeated(100000))
+            .row("1,001 attributes",
+                 "<DEVICE><A" + attributes.left(attributes.indexOf(" a1001=")) + "/></DEVICE>")
             .row("100,000 attributes", "<DEVICE><A" + attributes + "/></DEVICE>")
             .row("900,000 elements", "<DEVICE>" + QByteArray("<A/>").repeated(900000) + "</DEVICE>")
             .row("declared utf-16", "<?xml version='1.0' encoding='utf-16'?><DEVICE/>")
