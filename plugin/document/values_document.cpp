@@ -24,7 +24,7 @@ void readKey(int row, const XmlElement& element, Values& values)
 
 bool isRead(const Group& group, const Values& values)
 {
-    return group.readable ? values.holdsAll(*group.readable) : values.isPresent(group);
+    return group.readable ? values.holds(*group.readable) : values.isPresent(group);
 }
 
 void readElements(const XmlElement& section, Values& values)

@@ -54,13 +54,11 @@ constexpr Sets setsAt(When when, Path path, const char* to)
     return {moment, when, path, to};
 }
 // NOLINTBEGIN(readability-identifier-naming): functions under names of their own
-// NOLINTBEGIN(readability-identifier-naming): functions under names of their own
 inline constexpr auto onEdit = setsAt<Moment::edit>;
 inline constexpr auto onEditOrRead = setsAt<Moment::editOrRead>;
 inline constexpr auto afterRead = setsAt<Moment::afterRead>;
 inline constexpr auto always = setsAt<Moment::always>;
 inline constexpr auto onSave = setsAt<Moment::save>;
-// NOLINTEND(readability-identifier-naming)
 // NOLINTEND(readability-identifier-naming)
 
 // Two values of which the second is at least `gap` (in units of the widget), plus the value at `gapFrom`,

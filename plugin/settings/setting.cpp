@@ -2,16 +2,15 @@
 
 namespace vlk {
 
-namespace {
+QString normalise(const Setting& setting, const Reading& reading)
+{
+    return std::visit([&](const auto& row) { return normalised(row, reading); }, setting.kind);
+}
 
-QString defaultOf(const Setting& setting, bool isReset)
+QString loadDefault(const Setting& setting)
 {
     return std::visit(
-        [isReset](const auto& row) {
-            if constexpr (requires { row.reset; }) {
-                if (isReset && row.onReset == OnReset::own)
-                    return fileText(row, row.reset);
-            }
+        [](const auto& row) {
             if constexpr (requires { row.load; })
                 return fileText(row, row.load);
             else
@@ -20,21 +19,17 @@ QString defaultOf(const Setting& setting, bool isReset)
         setting.kind);
 }
 
-} // namespace
-
-QString normalise(const Setting& setting, const Reading& reading)
-{
-    return std::visit([&](const auto& row) { return normalised(row, reading); }, setting.kind);
-}
-
-QString loadDefault(const Setting& setting)
-{
-    return defaultOf(setting, false);
-}
-
 QString resetValue(const Setting& setting)
 {
-    return defaultOf(setting, true);
+    return std::visit(
+        [&](const auto& row) {
+            if constexpr (requires { row.reset; }) {
+                if (row.onReset == OnReset::own)
+                    return fileText(row, row.reset);
+            }
+            return loadDefault(setting);
+        },
+        setting.kind);
 }
 
 } // namespace vlk

@@ -69,7 +69,7 @@ void addRules(TableLayout& layout)
             if (row < 0)
                 continue;
             auto& known = layout.rows[row].*list;
-            if (std::find(known.begin(), known.end(), item) == known.end())
+            if (std::ranges::find(known, item) == known.end())
                 known.push_back(item);
         }
     };

@@ -58,7 +58,7 @@ bool Values::holds(const When& condition) const
     return is != condition.negated;
 }
 
-bool Values::holdsAll(std::span<const When> conditions) const
+bool Values::holds(std::span<const When> conditions) const
 {
     return std::ranges::all_of(conditions, [this](const When& condition) { return holds(condition); });
 }
@@ -66,7 +66,7 @@ bool Values::holdsAll(std::span<const When> conditions) const
 bool Values::holds(const Enable& rule) const
 {
     const auto isMet = [this](const When& condition) { return condition && holds(condition); };
-    return rule.any ? std::ranges::any_of(rule.when, isMet) : holdsAll(rule.when);
+    return rule.any ? std::ranges::any_of(rule.when, isMet) : holds(rule.when);
 }
 
 Limits Values::limits(int row) const
@@ -154,14 +154,18 @@ void Values::takeKey(int row, const std::optional<QString>& text, bool hasElemen
     if (!text && place.base->missing == Missing::keepsValue)
         return;
     const auto* link = place.setting->as<Link>();
-    const QString missing = text ? QString()
-                            : link && !hasElement && link->withoutElement >= 0
-                                ? QString::number(link->withoutElement)
-                                : place.loadDefault();
+    const QString read = text ? *text
+                         : link && !hasElement && link->withoutElement >= 0
+                             ? QString::number(link->withoutElement)
+                             : place.loadDefault();
     // A link gives its value to another row, which says what the value can be.
     const int target = place.target;
     const QString before = values_[target];
-    assign(target, normalised(target, text ? *text : missing, limits(target)), nullptr);
+    // What is held already can be what it is, unless a list or a rule says otherwise or a period wraps.
+    const TableLayout::Row& held = layout_->rows[target];
+    if (read != before || held.setting->is<Choice>() || held.setting->is<Period>() ||
+        !(held.ranges.empty() && held.distances.empty() && held.sharers.empty()))
+        assign(target, normalised(target, read, limits(target)), nullptr);
     setBy(target, true, before, nullptr);
 }
 

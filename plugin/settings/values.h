@@ -61,13 +61,12 @@ public:
     std::vector<int> edit(int row, const QString& text);
     std::vector<int> edit(const QString& path, const QString& text) { return edit(rowAt(path), text); }
 
-    // Whether a condition of the table holds, all of them, and those of a rule.
+    // Whether a condition of the table holds, all of several, and what a rule says of its own.
     bool holds(const When& condition) const;
-    bool holdsAll(std::span<const When> conditions) const;
+    bool holds(std::span<const When> conditions) const;
     // Whether a file of this state has the element.
     bool isPresent(const Group& group) const { return holds(group.present) && holds(group.presentToo); }
     bool holds(const Enable& rule) const;
-    bool holds(const Doubt& rule) const { return holdsAll(rule.when); }
     // The least distance that a rule of the table keeps now, in units of the widget.
     double gapOf(const Distance& rule) const;
     // The code of the first preset that agrees with values of its fields, by row, and is offered; where there
@@ -77,8 +76,7 @@ public:
 private:
     using Changes = std::vector<int>; // rows, each once
 
-    bool holdsToo(const Sets& rule) const { return holds(rule.when) && holdsAll(rule.also); }
-    bool holdsToo(const ExclusiveChoice& rule) const { return holds(rule.when) && holds(rule.also); }
+    bool holdsToo(const auto& rule) const { return holds(rule.when) && holds(rule.also); }
     // Whatever other settings of a shared list hold.
     Limits ownLimits(int row) const;
     // What others hold.

@@ -38,8 +38,7 @@ void Values::change(int row, const QString& text, Changes* changed)
 {
     const TableLayout::Row& place = layout_->rows[row];
     const QString value = normalised(row, text, limits(row), Source::edit);
-    if ((value == values_[row] && place.presets.empty()) ||
-        std::find(editing_.begin(), editing_.end(), row) != editing_.end())
+    if ((value == values_[row] && place.presets.empty()) || std::ranges::count(editing_, row) > 0)
         return;
     editing_.push_back(row);
     const QString before = values_[row];
@@ -94,7 +93,7 @@ bool Values::put(int row, const QString& value, Changes* changed)
     if (values_[row] == value)
         return false;
     values_[row] = value;
-    if (changed && std::find(changed->begin(), changed->end(), row) == changed->end())
+    if (changed && std::ranges::find(*changed, row) == changed->end())
         changed->push_back(row);
     return true;
 }

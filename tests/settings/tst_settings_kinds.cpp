@@ -421,6 +421,11 @@ private Q_SLOTS:
         // Two values of the file that are too near to each other: the first one gives way.
         read({{"S/A/low", "5700"}, {"S/A/high", "5900"}});
         QCOMPARE(values_.value("A/low"), QString("5400"));
+        // A read wraps what an edit left.
+        values_.edit("A/wrapped", "255600");
+        XmlDocument in(documentWith({{"S/A/wrapped", "255600"}}), "DEVICE");
+        readFrom(*in.root(), values_);
+        QCOMPARE(values_.value("A/wrapped"), QString("82800"));
     }
 
     // What a document holds already stays where a group keeps it, and goes where one does not.

@@ -8,9 +8,8 @@ namespace {
 
 bool fits(const char* pattern, const QString& text)
 {
-    const std::string_view positions(pattern);
-    for (std::size_t i = 0; i < positions.size(); ++i) {
-        if (positions[i] != '*' && (positions[i] == '1') != (digitAt(text, i) != 0))
+    for (std::size_t i = 0; pattern[i] != '\0'; ++i) {
+        if (pattern[i] != '*' && (pattern[i] == '1') != (digitAt(text, i) != 0))
             return false;
     }
     return true;
@@ -24,7 +23,7 @@ const Code* codeOf(const Choice& row, const QString& text)
     const auto is = [&](const Code& code) {
         return code.pattern ? fits(code.pattern, text) : QLatin1String(code.code) == wanted;
     };
-    const auto found = std::find_if(row.codes.begin(), row.codes.end(), is);
+    const auto found = std::ranges::find_if(row.codes, is);
     if (found == row.codes.end())
         return nullptr;
     return found->means ? codeOf(row, QString::fromLatin1(found->means)) : &*found;

@@ -17,8 +17,7 @@ bool isItem(const MaskField& field, const QString& mask)
     QString part;
     for (std::size_t i = 0; i < field.count; ++i)
         part += digitOf(digitAt(mask, field.positions[i]) != 0);
-    return std::any_of(field.items.begin(), field.items.end(),
-                       [&](const Code& item) { return part == QLatin1String(item.code); });
+    return std::ranges::any_of(field.items, [&](auto& item) { return part == QLatin1String(item.code); });
 }
 
 } // namespace
@@ -30,9 +29,8 @@ QString normalised(const Mask& row, const Reading& reading)
         const bool isList = !field.items.empty();
         const QString& source = !isList || isItem(field, reading.text) ? reading.text : reading.before;
         const auto isSet = [&](int position) { return digitAt(source, position) != 0; };
-        const auto* first = field.positions.begin();
-        const bool isOn =
-            field.always || std::any_of(first, first + (field.anyReads ? field.count : 1), isSet);
+        const auto read = std::span(field.positions).first(field.anyReads ? field.count : 1);
+        const bool isOn = field.always || std::ranges::any_of(read, isSet);
         for (std::size_t i = 0; i < field.count; ++i) {
             const int position = field.positions[i];
             held[position] = digitOf(isList ? isSet(position) : isOn);

@@ -242,7 +242,7 @@ void Binder::evaluateRules()
     for (const Doubt& rule : values_.table().all<Doubt>()) {
         if (adapters_[rule.path.row])
             adapters_[rule.path.row]->doubt(
-                values_.holds(rule) ? QCoreApplication::translate("vlk", rule.complaint) : QString());
+                values_.holds(rule.when) ? QCoreApplication::translate("vlk", rule.complaint) : QString());
     }
     for (const Target& target : targets_) {
         if (!target.widget)
