@@ -1,8 +1,9 @@
 #include "dialog/panel_memory.h"
 
+#include "base/settings_file.h"
 #include "link/device.h"
 
-#include <QDir>
+#include <QFile>
 #include <QSettings>
 
 namespace vlk {
@@ -14,8 +15,7 @@ const QString kHeight = QStringLiteral("height");
 
 QString memory()
 {
-    const QDir folder(vlkDevice ? vlkDevice->xmlFolder() : QString());
-    return vlkDevice && folder.exists() ? folder.filePath(QStringLiteral("review-panel.ini")) : QString();
+    return settingsFile(vlkDevice ? vlkDevice->xmlFolder() : QString(), "review-panel.ini");
 }
 
 } // namespace

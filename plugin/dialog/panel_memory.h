@@ -1,7 +1,7 @@
 #pragma once
 
-// Which panel below the pages was open the last time, and how high; kept in the host's folder of
-// configurations. Without such a folder nothing is kept: none is made for this.
+// Which panel below the pages was open the last time, and how high; kept with the host's configurations
+// (base/settings_file.h).
 
 namespace vlk {
 

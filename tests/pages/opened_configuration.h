@@ -26,7 +26,7 @@ protected:
     {
         dialog_.reset();
         // Which panel is open is remembered there.
-        QFile::remove(device_.xmlFolder() + "/review-panel.ini");
+        QFile::remove(device_.xmlFolder() + "/.settings/review-panel.ini");
     }
 
     void open(const QString& path, int full = 1)

@@ -1,6 +1,7 @@
 #include "telemetry/fuel/table_memory.h"
 
-#include <QDir>
+#include "base/settings_file.h"
+
 #include <QSettings>
 #include <QUrl>
 
@@ -28,11 +29,7 @@ double positive(const QVariant& value, double otherwise)
 
 } // namespace
 
-TableMemory::TableMemory(const QString& folder)
-{
-    if (!folder.isEmpty() && QDir(folder).exists())
-        file_ = QDir(folder).filePath(QStringLiteral("fuel-tables.ini"));
-}
+TableMemory::TableMemory(const QString& folder) : file_(settingsFile(folder, "fuel-tables.ini")) {}
 
 QString TableMemory::table(const QString& vehicle, const QString& sensor) const
 {

@@ -6,7 +6,7 @@
 
 namespace vlk {
 
-// A file of the host's folder of configurations; empty where there is no such folder: none is made for this.
+// Beside the host's configurations (base/settings_file.h).
 QString recordsMemory(const char* name);
 
 } // namespace vlk

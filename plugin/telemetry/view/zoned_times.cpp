@@ -3,10 +3,11 @@
 #include "ui_VLK_Designer_Widget_Tmi_View.h"
 
 #include "base/clock.h"
+#include "base/settings_file.h"
 #include "link/device.h"
 #include "typing/line_icon.h"
 
-#include <QDir>
+#include <QFile>
 #include <QSettings>
 
 namespace vlk {
@@ -19,12 +20,9 @@ const QString kZone = QStringLiteral("zone");
 const QString kFirst = QStringLiteral("first");
 const QString kLast = QStringLiteral("last");
 
-// Null where the host has no folder for telemetry files: none is made for this.
 QString memory()
 {
-    const QDir folder(vlkDevice != nullptr ? vlkDevice->tmiFolder() : QString());
-    return vlkDevice != nullptr && folder.exists() ? folder.filePath(QStringLiteral("last-period.ini"))
-                                                   : QString();
+    return settingsFile(vlkDevice ? vlkDevice->tmiFolder() : QString(), "last-period.ini");
 }
 
 } // namespace
