@@ -1645,6 +1645,13 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_284"><translation>Cannot be changed in quick setup: %1. These settings are in full setup.</translation></message>
     <message id="rev_285"><translation>Not available with "%1", left out</translation></message>
     <message id="rev_286"><translation>Not available with the other settings, left out</translation></message>
+    <message id="rev_290"><translation>Come along with other settings: %1</translation></message>
+    <message id="rev_291"><translation>Quick setup removes or sets anew: %1</translation></message>
+    <message id="rev_292"><translation>Quick setup removes settings: %1 (%2), sets anew: %3. Other changes: %4.</translation></message>
+    <message id="rev_293"><translation>Quick setup writes input lines, the serial line and Bluetooth anew</translation></message>
+    <message id="rev_294"><translation>Unsaved changes of %1: %2. Open it again to bring them back.</translation></message>
+    <message id="rev_295"><translation>Unsaved changes of %1: a new configuration. Open a new one to bring them back.</translation></message>
+    <message id="rev_296"><translation>Not filled in</translation></message>
     <message id="tmiex_001"><translation>Navigation</translation></message>
     <message id="tmiex_002"><translation>Receiver</translation></message>
     <message id="tmiex_003"><translation>Satellites</translation></message>

@@ -1645,6 +1645,13 @@
     <message id="rev_284"><translation>В быстрой настройке не меняется: %1. Эти параметры есть в полной настройке.</translation></message>
     <message id="rev_285"><translation>Недоступно при «%1», пропущен</translation></message>
     <message id="rev_286"><translation>Недоступно при других параметрах, пропущен</translation></message>
+    <message id="rev_290"><translation>Меняются вместе с другими параметрами: %1</translation></message>
+    <message id="rev_291"><translation>Быстрая настройка удаляет или задаёт заново: %1</translation></message>
+    <message id="rev_292"><translation>Быстрая настройка удаляет параметры: %1 (%2), задаёт заново: %3. Другие изменения: %4.</translation></message>
+    <message id="rev_293"><translation>Быстрая настройка записывает входные линии, последовательную линию и Bluetooth заново</translation></message>
+    <message id="rev_294"><translation>Несохранённые изменения от %1: %2. Откройте снова, чтобы вернуть их.</translation></message>
+    <message id="rev_295"><translation>Несохранённые изменения от %1: новая конфигурация. Откройте новую, чтобы вернуть их.</translation></message>
+    <message id="rev_296"><translation>Не заполнено</translation></message>
     <message id="tmiex_001"><translation>Навигация</translation></message>
     <message id="tmiex_002"><translation>Приёмник</translation></message>
     <message id="tmiex_003"><translation>Спутники</translation></message>

@@ -4,6 +4,7 @@
 #include "review/compare_files.h"
 #include "review/take_over.h"
 #include "settings/all_settings.h"
+#include "settings/quick_settings.h"
 #include "xml/xml_document.h"
 
 #include <algorithm>
@@ -21,7 +22,8 @@ constexpr int kPresetDelayMs = 200;
 } // namespace
 
 ConfigurationReview::ConfigurationReview(EditHistory& history, std::function<bool()> isQuick, QObject* parent)
-    : QObject(parent), history_(history), isQuick_(std::move(isQuick)), present_(allSettings())
+    : QObject(parent), history_(history), isQuick_(std::move(isQuick)), present_(allSettings()),
+      quickAsItCame_(kQuickSettings)
 {
     presetDue_.setSingleShot(true);
     presetDue_.setInterval(kPresetDelayMs);
@@ -45,10 +47,29 @@ void ConfigurationReview::begin(CXmlSection* root)
     opened_ = root ? FileState::ofDocument(*root) : now();
     asItCame_ = opened_;
     isWritten_ = false;
+    keepQuick(root, present_);
     presetDue_.stop();
     against_ = Against::file;
     otherName_ = {};
     history_.begin();
+}
+
+void ConfigurationReview::keepQuick(CXmlSection* root, const Configuration& asItCame)
+{
+    quickAsItCame_ = Values(kQuickSettings);
+    if (root) {
+        readFrom(*root, quickAsItCame_);
+    } else if (isQuick()) {
+        quickAsItCame_.putBack(history_.pages().back()->values().held());
+    } else {
+        XmlDocument document(QString(), QStringLiteral("DEVICE"));
+        asItCame.write(*document.root());
+        document.root()->commit();
+        readFrom(*document.root(), quickAsItCame_);
+    }
+    quickState_ = FileState::ofConfiguration(asItCame);
+    quickState_.lay(quickAsItCame_);
+    quickStrangers_ = quickState_.unread();
 }
 
 void ConfigurationReview::setWritten(const QByteArray& document)
@@ -58,6 +79,9 @@ void ConfigurationReview::setWritten(const QByteArray& document)
         return;
     asItCame_ = FileState::ofDocument(*file.root());
     isWritten_ = true;
+    Configuration loaded(allSettings());
+    loaded.read(*file.root());
+    keepQuick(file.root(), loaded);
     edited_ = Differences(asItCame_, now());
     if (against_ == Against::file)
         differences_ = edited_;
@@ -131,6 +155,52 @@ void ConfigurationReview::followPreset()
     differences_ = Differences(withPreset(), now());
 }
 
+bool ConfigurationReview::isAnew(const review::Difference& difference) const
+{
+    if (difference.key < 0)
+        return isQuick() && !difference.after.isNull() &&
+               quickStrangers_.value(difference.path) == difference.after;
+    return isAnew(difference.key);
+}
+
+bool ConfigurationReview::isAnew(int key) const
+{
+    return isQuick() && quickState_.at(key) == edited_.after().at(key);
+}
+
+QString ConfigurationReview::quickBefore(const PageSettings& page, int row) const
+{
+    const Values& values = page.values();
+    if (&values.table() != &kQuickSettings || values.row(row).base->stored)
+        return {};
+    const QString& before = quickAsItCame_.value(row);
+    return before == values.value(row) ? QString() : before;
+}
+
+bool ConfigurationReview::isOwn(int key) const
+{
+    return edited_.isDifferent(key) && !edited_.isAlong(key) && !isAnew(key);
+}
+
+bool ConfigurationReview::isEdited(int table, int row) const
+{
+    return std::ranges::any_of(FileKeys::all().heldBy(table, row), [this](int key) { return isOwn(key); });
+}
+
+bool ConfigurationReview::setsAnew() const
+{
+    return std::ranges::any_of(edited_.ownKeys(), [this](int key) { return isAnew(key); });
+}
+
+int ConfigurationReview::edited() const
+{
+    const std::vector<int> keys = edited_.ownKeys();
+    const std::vector<review::Difference> strangers = edited_.strangers();
+    return static_cast<int>(
+        std::ranges::count_if(keys, [this](int key) { return !isAnew(key); }) +
+        std::ranges::count_if(strangers, [this](const auto& stranger) { return !isAnew(stranger); }));
+}
+
 Configuration ConfigurationReview::configuration() const
 {
     Configuration all(allSettings());
@@ -175,7 +245,7 @@ Configuration ConfigurationReview::written() const
     if (isQuick()) {
         XmlDocument document(QString(), QStringLiteral("DEVICE"));
         write(*document.root());
-        all.read(*document.root());
+        review::readAsEdited(all, *document.root());
     }
     return all;
 }
@@ -306,10 +376,8 @@ void ConfigurationReview::bringBack(const review::Unsaved& unsaved, const EditHi
     history_.settle();
     const QByteArray now = document();
     XmlDocument edited(withEdits(now, unsaved), QStringLiteral("DEVICE"));
-    XmlDocument after(unsaved.after, QStringLiteral("DEVICE"));
     Configuration changed = configuration();
-    changed.read(*edited.root());
-    review::keepLongPeriods(changed, FileState::ofDocument(*after.root()), editedKeys(unsaved));
+    review::readAsEdited(changed, *edited.root());
     // They belong to the configuration on which they were made.
     put(changed, now == unsaved.before ? unsaved.quick : QMap<QString, QString>(), words);
 }

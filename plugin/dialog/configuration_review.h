@@ -54,12 +54,22 @@ public:
     {
         return isQuick_() ? differences_.allForQuick() : differences_.all();
     }
-    // To the file, whatever is compared.
-    int edited() const { return edited_.count(); }
+    // To the file, whatever is compared: what a person would count, without that which comes along with
+    // another setting and that which quick setup makes of any file.
+    int edited() const;
+    // Whether a write from the quick window would change what nobody has edited.
+    bool setsAnew() const;
     const review::Differences& edits() const { return edited_; }
+    bool isOwn(int key) const;
+    // Whether the quick window, which is on show, would write it so without any edit.
+    bool isAnew(int key) const;
+    bool isAnew(const review::Difference& difference) const;
+    // What the quick window made of the file as it came, of a setting that it shows and no file holds; null
+    // where that is what it shows now, and for every other setting.
+    QString quickBefore(const PageSettings& page, int row) const;
     // Also to what was there before it was written.
     review::Differences sinceOpened() const { return {opened_, now()}; }
-    bool isEdited(int table, int row) const { return edited_.isDifferent(table, row); }
+    bool isEdited(int table, int row) const;
     // Of the full window; `written` is what a write would bring now.
     Configuration configuration() const;
     Configuration written() const;
@@ -97,6 +107,8 @@ Q_SIGNALS:
     void changed();
 
 private:
+    // Without a root the configuration, which is new, is what it came as.
+    void keepQuick(CXmlSection* root, const Configuration& asItCame);
     review::FileState now() const;
     // The other side while a preset is compared with.
     review::FileState withPreset();
@@ -121,6 +133,9 @@ private:
     review::FileState opened_;
     review::FileState asItCame_; // the same, or what has been written since then
     bool isWritten_ = false;
+    Values quickAsItCame_;
+    review::FileState quickState_; // with that over what the full window makes of it
+    QHash<QString, QString> quickStrangers_;
     Against against_ = Against::file;
     QByteArray preset_;      // its document
     std::vector<int> moved_; // keys that it moves

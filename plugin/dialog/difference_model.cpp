@@ -4,7 +4,10 @@
 
 #include <QGuiApplication>
 #include <QIcon>
+#include <QLocale>
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace vlk {
@@ -46,34 +49,139 @@ DifferenceModel::DifferenceModel(ConfigurationReview& review, QObject* parent)
 {
 }
 
+DifferenceModel::Kind DifferenceModel::kindOf(const review::Difference& difference) const
+{
+    const bool isOfFile = review_.against() == ConfigurationReview::Against::file;
+    if (isOfFile && review_.isAnew(difference))
+        return Kind::anew;
+    // Of another file or a preset each key is a choice of its own.
+    return difference.isAlong && (isOfFile || !review_.otherName().isEmpty()) ? Kind::along : Kind::own;
+}
+
+DifferenceModel::Line DifferenceModel::lineOf(const review::Difference& difference) const
+{
+    const review::Differences& differences = review_.differences();
+    const Values* values =
+        difference.key < 0 ? nullptr : review_.valuesOf(review::FileKeys::all()[difference.key].table);
+    Line line{difference,
+              values ? review::textOf(differences, difference, *values) : review::textOf(difference)};
+    const auto& [missing, surplus] = kOnOneSide[static_cast<int>(review_.against())];
+    if (missing && !difference.byLoad && (difference.before.isNull() || difference.after.isNull()))
+        line.text.note = text(difference.after.isNull() ? missing : surplus);
+    if (review_.against() == ConfigurationReview::Against::preset && difference.key >= 0)
+        tellWhole(&line, differences.before().at(difference.key).meaning);
+    return line;
+}
+
+void DifferenceModel::addBehindHead(const char* key, std::vector<Line>* lines)
+{
+    if (lines->empty())
+        return;
+    Line head;
+    head.members = static_cast<int>(lines->size());
+    head.difference.path = QString::fromLatin1(key) + lines->front().text.page;
+    head.text.page = lines->front().text.page;
+    head.text.caption = text(key).arg(QLocale().toString(head.members));
+    const int place = static_cast<int>(lines_.size());
+    lines_.push_back(head);
+    for (Line& line : *lines) {
+        line.head = place;
+        lines_.push_back(std::move(line));
+    }
+    lines->clear();
+}
+
 void DifferenceModel::refresh()
 {
     beginResetModel();
     lines_.clear();
-    problems_ = 0;
-    const QSet<QString> unchosen = std::exchange(unchosen_, {});
-    const bool isPreset = review_.against() == ConfigurationReview::Against::preset;
-    const review::Differences& differences = review_.differences();
-    if (isPreset) {
+    if (review_.against() == ConfigurationReview::Against::preset) {
         for (const review::PresetProblem& problem : review_.problems())
             lines_.push_back(
                 {review::Difference{-1, -1, problem.path, problem.text, {}}, review::textOf(problem)});
-        problems_ = rowCount();
     }
+    problems_ = static_cast<int>(lines_.size());
+    std::vector<Line> anew;
+    std::vector<Line> along;
+    std::vector<Line> own;
     for (const review::Difference& difference : review_.listed()) {
-        const Values* values =
-            difference.key < 0 ? nullptr : review_.valuesOf(review::FileKeys::all()[difference.key].table);
-        if (unchosen.contains(difference.path))
-            unchosen_.insert(difference.path);
-        lines_.push_back({difference, values ? review::textOf(differences, difference, *values)
-                                             : review::textOf(difference)});
-        const auto& [missing, surplus] = kOnOneSide[static_cast<int>(review_.against())];
-        if (missing && !difference.byLoad && (difference.before.isNull() || difference.after.isNull()))
-            lines_.back().text.note = text(difference.after.isNull() ? missing : surplus);
-        if (isPreset && difference.key >= 0)
-            tellWhole(&lines_.back(), differences.before().at(difference.key).meaning);
+        const Kind kind = kindOf(difference);
+        std::vector<Line>& lines = kind == Kind::anew ? anew : kind == Kind::along ? along : own;
+        lines.push_back(lineOf(difference));
     }
+    // They are in the order of their pages.
+    const auto samePage = [](std::vector<Line>* lines, const QString& page) {
+        const auto end =
+            std::ranges::find_if(*lines, [&](const Line& line) { return line.text.page != page; });
+        std::vector<Line> taken(std::make_move_iterator(lines->begin()), std::make_move_iterator(end));
+        lines->erase(lines->begin(), end);
+        return taken;
+    };
+    const auto addHeads = [&](const char* key, std::vector<Line>* lines) {
+        while (!lines->empty()) {
+            std::vector<Line> page = samePage(lines, lines->front().text.page);
+            addBehindHead(key, &page);
+        }
+    };
+    addHeads("rev_291", &anew);
+    while (!own.empty()) {
+        const QString page = own.front().text.page;
+        for (Line& line : samePage(&own, page))
+            lines_.push_back(std::move(line));
+        std::vector<Line> lines = samePage(&along, page);
+        addBehindHead("rev_290", &lines);
+    }
+    addHeads("rev_290", &along);
+    const QSet<QString> unchosen = std::exchange(unchosen_, {});
+    for (const Line& line : lines_) {
+        if (unchosen.contains(line.difference.path))
+            unchosen_.insert(line.difference.path);
+    }
+    showLines();
     endResetModel();
+}
+
+void DifferenceModel::showLines()
+{
+    shown_.clear();
+    for (int place = 0; place < static_cast<int>(lines_.size()); ++place) {
+        const int head = lines_[place].head;
+        if (head < 0 || open_.contains(lines_[head].difference.path))
+            shown_.push_back(place);
+    }
+}
+
+void DifferenceModel::toggleHead(int line)
+{
+    const QString path = lineAt(line).difference.path;
+    beginResetModel();
+    if (!open_.remove(path))
+        open_.insert(path);
+    showLines();
+    endResetModel();
+}
+
+QString DifferenceModel::quickSummary() const
+{
+    int removed = 0;
+    int set = 0;
+    int own = 0;
+    QStringList pages;
+    for (const Line& line : lines_) {
+        if (line.members > 0)
+            continue;
+        const Kind kind = kindOf(line.difference);
+        own += kind == Kind::own ? 1 : 0;
+        if (kind != Kind::anew)
+            continue;
+        (line.difference.after.isNull() ? removed : set) += 1;
+        if (!pages.contains(line.text.page))
+            pages << line.text.page;
+    }
+    return pages.isEmpty()
+               ? QString()
+               : text("rev_292").arg(QLocale().toString(removed), pages.join(QStringLiteral(", ")),
+                                     QLocale().toString(set), QLocale().toString(own));
 }
 
 // The texts tell what the preset moves here alone.
@@ -83,12 +191,33 @@ void DifferenceModel::tellWhole(Line* line, const QString& value)
         line->text.note = text("rev_251").arg(parts->count).arg(parts->all);
 }
 
+bool DifferenceModel::hasCheckMark(const Line& line) const
+{
+    return line.difference.key >= 0 && line.head < 0;
+}
+
+bool DifferenceModel::isChosen(const Line& line) const
+{
+    return hasCheckMark(line) && !unchosen_.contains(line.difference.path);
+}
+
 std::vector<int> DifferenceModel::chosenKeys() const
 {
     std::vector<int> keys;
     for (const Line& line : lines_) {
-        if (line.difference.key >= 0 && !unchosen_.contains(line.difference.path))
+        if (isChosen(line))
             keys.push_back(line.difference.key);
+    }
+    // A setting decides about others that decide in their turn.
+    const review::Differences& differences = review_.differences();
+    for (std::size_t known = SIZE_MAX; known != keys.size();) {
+        known = keys.size();
+        for (const Line& line : lines_) {
+            const int key = line.difference.key;
+            if (key >= 0 && kindOf(line.difference) == Kind::along &&
+                std::ranges::find(keys, key) == keys.end() && differences.isWith(key, keys))
+                keys.push_back(key);
+        }
     }
     return keys;
 }
@@ -96,14 +225,16 @@ std::vector<int> DifferenceModel::chosenKeys() const
 QString DifferenceModel::csv() const
 {
     std::vector<review::DifferenceText> texts;
-    for (const Line& line : lines_)
-        texts.push_back(line.text);
+    for (const Line& line : lines_) {
+        if (line.members == 0)
+            texts.push_back(line.text);
+    }
     return review::toCsv(texts);
 }
 
 int DifferenceModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(lines_.size());
+    return parent.isValid() ? 0 : static_cast<int>(shown_.size());
 }
 
 int DifferenceModel::columnCount(const QModelIndex& parent) const
@@ -113,18 +244,21 @@ int DifferenceModel::columnCount(const QModelIndex& parent) const
 
 QVariant DifferenceModel::data(const QModelIndex& index, int role) const
 {
-    const Line& line = lines_[index.row()];
+    const Line& line = lineAt(index.row());
     const bool isProblem = index.row() < problems_;
     if (role == Qt::DisplayRole || role == Qt::ToolTipRole) {
         const int column = !isProblem || index.column() < Now ? index.column()
                            : index.column() == Now            ? int(Note)
                                                               : int(Now);
-        return cell(line.text, review::placeText(line.text), column);
+        const bool isSign = line.members > 0 && column == Caption && role == Qt::DisplayRole;
+        const char* sign = open_.contains(line.difference.path) ? "▾ " : "▸ ";
+        return (isSign ? QString::fromUtf8(sign) : QString()) +
+               cell(line.text, review::placeText(line.text), column);
     }
     if (role == Qt::DecorationRole && index.column() == Page && isProblem)
         return QIcon(markPixmap(Mark::advice, QGuiApplication::palette(), kMarkSize, kIconRatio));
-    if (role == Qt::CheckStateRole && index.column() == Page && line.difference.key >= 0)
-        return unchosen_.contains(line.difference.path) ? Qt::Unchecked : Qt::Checked;
+    if (role == Qt::CheckStateRole && index.column() == Page && hasCheckMark(line))
+        return isChosen(line) ? Qt::Checked : Qt::Unchecked;
     return {};
 }
 
@@ -139,13 +273,12 @@ bool DifferenceModel::setData(const QModelIndex& index, const QVariant& value, i
 void DifferenceModel::choose(const QVector<int>& lines, bool isChosen)
 {
     for (const int line : lines) {
-        const review::Difference& difference = lines_[line].difference;
-        if (difference.key < 0)
+        if (!hasCheckMark(lineAt(line)))
             continue;
         if (isChosen)
-            unchosen_.remove(difference.path);
+            unchosen_.remove(at(line).path);
         else
-            unchosen_.insert(difference.path);
+            unchosen_.insert(at(line).path);
     }
     if (rowCount() > 0)
         Q_EMIT dataChanged(index(0, Page), index(rowCount() - 1, Page), {Qt::CheckStateRole});
@@ -154,7 +287,7 @@ void DifferenceModel::choose(const QVector<int>& lines, bool isChosen)
 Qt::ItemFlags DifferenceModel::flags(const QModelIndex& index) const
 {
     const Qt::ItemFlags usual = QAbstractTableModel::flags(index);
-    const bool canBeChosen = index.column() == Page && lines_[index.row()].difference.key >= 0;
+    const bool canBeChosen = index.column() == Page && hasCheckMark(lineAt(index.row()));
     return canBeChosen ? usual | Qt::ItemIsUserCheckable : usual;
 }
 

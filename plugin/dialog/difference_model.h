@@ -3,6 +3,10 @@
 // The differences of a configuration as a table: page, setting, before and now, each line with a check mark
 // that chooses it for what is done with the chosen ones. All are chosen at first. Of a preset what cannot be
 // applied comes first, with the reason and without a check mark.
+//
+// What nobody has edited stands behind one line a page, which opens, and has no check marks: what quick setup
+// makes of any file, which cannot be taken back in it, and what comes along with other settings, and goes
+// with them.
 
 #include "dialog/configuration_review.h"
 #include "review/difference_text.h"
@@ -24,7 +28,12 @@ public:
     // What the review tells now, with the marks as they were.
     void refresh();
 
-    const review::Difference& at(int line) const { return lines_[line].difference; }
+    const review::Difference& at(int line) const { return lineAt(line).difference; }
+    bool isHead(int line) const { return lineAt(line).members > 0; }
+    // Shows what stands behind a head, or hides it.
+    void toggleHead(int line);
+    // What quick setup would do that nobody has asked for; empty where it does nothing.
+    QString quickSummary() const;
     // How many lines there are at first of what cannot be applied; the reason stands in place of what is now.
     int problems() const { return problems_; }
     // Lines that cannot be applied stay as they are.
@@ -46,15 +55,28 @@ private:
     {
         review::Difference difference;
         review::DifferenceText text;
+        int head = -1;   // the line that it stands behind
+        int members = 0; // of a head
     };
+    enum class Kind { own, anew, along };
 
+    Kind kindOf(const review::Difference& difference) const;
+    Line lineOf(const review::Difference& difference) const;
+    // Adds the lines and in front of them their head.
+    void addBehindHead(const char* key, std::vector<Line>* lines);
+    void showLines();
+    const Line& lineAt(int line) const { return lines_[shown_[line]]; }
+    bool hasCheckMark(const Line& line) const;
+    bool isChosen(const Line& line) const;
     // That a preset sets the setting as a whole, of one of many parts.
     static void tellWhole(Line* line, const QString& value);
 
     ConfigurationReview& review_;
     std::vector<Line> lines_;
+    std::vector<int> shown_; // of the lines
     int problems_ = 0;
     QSet<QString> unchosen_; // paths
+    QSet<QString> open_;     // of heads
 };
 
 } // namespace vlk

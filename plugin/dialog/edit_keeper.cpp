@@ -1,6 +1,7 @@
 #include "dialog/edit_keeper.h"
 
 #include "base/clock.h"
+#include "base/model_text.h"
 #include "link/device.h"
 #include "review/recovery.h"
 
@@ -20,6 +21,26 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcUnsaved, "vlk.save.unsaved")
 Q_LOGGING_CATEGORY(lcKept, "vlk.unsaved.kept")
+Q_LOGGING_CATEGORY(lcFound, "vlk.unsaved.found")
+
+const QString kNew = QStringLiteral("new");
+const QString kFile = QStringLiteral("file ");
+const QString kTracker = QStringLiteral("tracker ");
+const QString kUnknownTracker = QStringLiteral("tracker with ");
+
+// What a person calls it; empty for a new one.
+QString nameOfSubject(const QString& subject)
+{
+    if (subject.startsWith(kFile))
+        return QFileInfo(subject.mid(kFile.size())).fileName();
+    if (subject == kNew)
+        return {};
+    if (subject.startsWith(kUnknownTracker))
+        return modelText();
+    QStringList texts = subject.mid(kTracker.size()).split(QLatin1Char('\n'));
+    texts.removeAll(QString());
+    return texts.join(QStringLiteral(", "));
+}
 
 // Behind an edit. With the time that a slow disk or a busy machine takes it stays below a second.
 constexpr int kDelayMs = 300;
@@ -31,18 +52,31 @@ constexpr std::size_t kMostHandedOver = 10;
 QString editSubject(const QString& path, bool isFile)
 {
     if (path.isEmpty())
-        return QStringLiteral("new");
+        return kNew;
     if (isFile) {
         const QFileInfo file(path);
-        return QStringLiteral("file ") + (file.exists() ? file.canonicalFilePath() : file.absoluteFilePath());
+        return kFile + (file.exists() ? file.canonicalFilePath() : file.absoluteFilePath());
     }
     const QString identity = vlkDevice->trackerId1() + QLatin1Char('\n') + vlkDevice->trackerId2();
     if (identity.size() > 1)
-        return QStringLiteral("tracker ") + identity;
+        return kTracker + identity;
     QFile file(path);
     file.open(QIODevice::ReadOnly);
-    return QStringLiteral("tracker with ") +
+    return kUnknownTracker +
            QString::fromLatin1(QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha256).toHex());
+}
+
+void tellKeptEdits(const QString& folder)
+{
+    QStringList subjects;
+    for (const review::KeptUnsaved& kept : review::keptUnsaved(folder)) {
+        if (subjects.contains(kept.unsaved.subject))
+            continue;
+        subjects << kept.unsaved.subject;
+        qCWarning(lcFound).noquote().nospace()
+            << "changes of " << kept.unsaved.moment.toString(QStringLiteral("dd.MM.yyyy HH:mm")) << ": "
+            << nameOfSubject(kept.unsaved.subject);
+    }
 }
 
 EditKeeper::EditKeeper(ConfigurationReview& review, QWidget& window) : review_(review)
@@ -129,9 +163,9 @@ void EditKeeper::tellKept() const
 {
     if (kept_.isEmpty())
         return;
-    const auto edited = review::editedKeys({subject_, {}, beginning_[review_.isQuick()], kept_});
-    if (!edited.empty())
-        qCWarning(lcKept) << edited.size() << "changes are kept";
+    const auto own = review::ownKeys({subject_, {}, beginning_[review_.isQuick()], kept_});
+    if (!own.empty())
+        qCWarning(lcKept) << own.size() << "changes are kept";
 }
 
 void EditKeeper::switched()

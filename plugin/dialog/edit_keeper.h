@@ -18,6 +18,10 @@ namespace vlk {
 // that does not say which one it is is known by what it holds.
 QString editSubject(const QString& path, bool isFile);
 
+// Logs which configurations edits of are kept in the host's folder, for whoever shows what is logged: they
+// are offered only when one of these is opened.
+void tellKeptEdits(const QString& folder);
+
 class EditKeeper : public QObject
 {
     Q_OBJECT

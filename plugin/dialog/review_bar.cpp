@@ -145,9 +145,13 @@ void ReviewBar::showState()
     }
     const int count = review_.edited();
     differences_->setText(QLocale().toString(count));
-    setMark(differences_, count > 0 ? std::optional(Mark::changed) : std::nullopt);
-    differences_->setToolTip(
-        tr(review_.isWritten() ? "rev_257" : "rev_126").arg(QKeySequence(kDifferencesKey).toString()));
+    const bool setsAnew = review_.setsAnew();
+    setMark(differences_, setsAnew    ? std::optional(Mark::advice)
+                          : count > 0 ? std::optional(Mark::changed)
+                                      : std::nullopt);
+    const QString told =
+        tr(review_.isWritten() ? "rev_257" : "rev_126").arg(QKeySequence(kDifferencesKey).toString());
+    differences_->setToolTip(setsAnew ? told + QLatin1Char('\n') + tr("rev_293") : told);
     differences_->setAccessibleName(QStringLiteral("%1: %2").arg(tr("rev_108")).arg(count));
 }
 

@@ -18,6 +18,8 @@
 #include <QCoreApplication>
 #include <QFileDialog>
 #include <QHeaderView>
+#include <QLabel>
+#include <QLayout>
 #include <QPushButton>
 #include <QTableView>
 
@@ -53,10 +55,13 @@ ReviewPanel::ReviewPanel(ConfigurationReview& review, SettingPlaces& places, QWi
       preset_(namedWidget<QPushButton>("pushButton_SavePreset", this)),
       copy_(namedWidget<QPushButton>("pushButton_CopyDifferences", this)),
       csv_(namedWidget<QPushButton>("pushButton_SaveDifferences", this)),
-      all_(namedWidget<QAction>("action_MarkAll", this)), none_(namedWidget<QAction>("action_MarkNone", this))
+      all_(namedWidget<QAction>("action_MarkAll", this)),
+      none_(namedWidget<QAction>("action_MarkNone", this)),
+      summary_(namedWidget<QLabel>("label_QuickSummary", this))
 {
     setModel(model_);
     table()->setIconSize({kMarkSize, kMarkSize});
+    table()->horizontalHeader()->setTextElideMode(Qt::ElideRight);
     elideInTheMiddle(table(), DifferenceModel::Caption);
     for (const char* key : kSides)
         against_->addItem(QLatin1String(key));
@@ -66,6 +71,8 @@ ReviewPanel::ReviewPanel(ConfigurationReview& review, SettingPlaces& places, QWi
     }
     table()->setContextMenuPolicy(Qt::ActionsContextMenu);
     addToHead({against_, takeOver_, preset_, copy_, csv_});
+    summary_->setWordWrap(true);
+    static_cast<QBoxLayout*>(layout())->insertWidget(1, summary_);
     connect(&review_, &ConfigurationReview::changed, this, [this] {
         if (isVisible())
             refresh();
@@ -118,6 +125,9 @@ void ReviewPanel::showState()
     for (QPushButton* button : {copy_, csv_})
         button->setEnabled(model_.rowCount() > 0);
     empty()->tell(tr("rev_117"));
+    const QString summary = model_.quickSummary();
+    summary_->setText(summary);
+    summary_->setVisible(!summary.isEmpty());
     table()->clearSpans();
     for (int line = 0; line < model_.problems(); ++line)
         table()->setSpan(line, DifferenceModel::Now, 1, 2);
@@ -139,6 +149,9 @@ void ReviewPanel::fitTable()
         table()->setColumnWidth(column, std::clamp(width - excess, std::min(least, width), width));
         excess -= width - table()->columnWidth(column);
     }
+    // What the columns leave belongs to the last one.
+    table()->horizontalHeader()->setStretchLastSection(false);
+    table()->horizontalHeader()->setStretchLastSection(true);
 }
 
 bool ReviewPanel::choosePreset()
@@ -165,6 +178,11 @@ bool ReviewPanel::chooseAgainst(int index)
 
 void ReviewPanel::take(int line)
 {
+    if (model_.isHead(line)) {
+        model_.toggleHead(line);
+        table()->setCurrentIndex(model_.index(line, DifferenceModel::Page));
+        return;
+    }
     const review::Difference& difference = model_.at(line);
     if (difference.key >= 0)
         places_.goTo(review::FileKeys::all()[difference.key].table, difference.row);

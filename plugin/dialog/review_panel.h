@@ -11,6 +11,7 @@
 #include <functional>
 
 class QAction;
+class QLabel;
 class QPushButton;
 
 namespace vlk {
@@ -58,6 +59,7 @@ private:
     QPushButton* csv_;
     QAction* all_; // of the menu
     QAction* none_;
+    QLabel* summary_; // of what quick setup does to any file
 };
 
 } // namespace vlk

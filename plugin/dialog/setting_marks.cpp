@@ -125,7 +125,7 @@ SettingMarks::Spots SettingMarks::spotsOf(const PageSettings& page) const
     const review::Differences& edits = review_.edits();
     for (int row = 0; row < page.values().count(); ++row) {
         for (const int key : ConfigurationReview::keysOf(page, row)) {
-            if (!edits.isDifferent(key))
+            if (!review_.isOwn(key))
                 continue;
             const QString& before = edits.before().at(key).meaning;
             for (const int part :
@@ -150,6 +150,8 @@ SettingMarks::Spots SettingMarks::spotsOf(const PageSettings& page) const
 // The settings that it fills may be closed: the change is told where it was made, too.
 QString SettingMarks::choiceBefore(const PageSettings& page, int row) const
 {
+    if (const QString before = review_.quickBefore(page, row); !before.isNull())
+        return before;
     const Values& values = page.values();
     const review::Differences& edits = review_.edits();
     const auto keyOf = [&page](int field) {
@@ -335,8 +337,8 @@ void SettingMarks::markTabs()
             worst = std::max(worst, mark);
         }
         QStringList told;
-        if (const int changed = review_.edits().count(table); changed > 0) {
-            told << withColon("rev_161", QLocale().toString(changed));
+        if (const std::size_t changed = review_.edits().ownKeys(table).size(); changed > 0) {
+            told << withColon("rev_161", QLocale().toString(static_cast<int>(changed)));
             worst = worst ? worst : Mark::changed;
         }
         if (advice > 0)

@@ -98,6 +98,9 @@ void edit(const SettingOfMenu& setting, const char* words, const QString& value)
 void bringBack(const SettingOfMenu& setting)
 {
     constexpr const char* words = "rev_166";
+    const QString quickBefore = setting.review.quickBefore(setting.page, setting.row);
+    if (!quickBefore.isNull())
+        return edit(setting, words, quickBefore);
     const int key = changedKey(setting);
     if (key < 0)
         return;
@@ -117,7 +120,9 @@ void addActions(QMenu& menu, const SettingOfMenu& setting)
         entry->setEnabled(isOn);
         QObject::connect(entry, &QAction::triggered, action);
     };
-    add("rev_163", "action_BringBack", changedKey(setting) >= 0, [setting] { bringBack(setting); });
+    const bool isChanged =
+        changedKey(setting) >= 0 || !setting.review.quickBefore(setting.page, setting.row).isNull();
+    add("rev_163", "action_BringBack", isChanged, [setting] { bringBack(setting); });
     add("rev_164", "action_Default", normal != values.value(setting.row),
         [setting, normal] { edit(setting, "rev_167", normal); });
     const QString path = pathNow(setting);

@@ -50,7 +50,9 @@ void UnsavedBar::begin(const QString& folder, const QString& subject)
     for (review::KeptUnsaved& kept : review::keptUnsaved(folder, subject)) {
         XmlDocument after(kept.unsaved.after, QStringLiteral("DEVICE"));
         std::vector<int> keys = editedKeys(kept.unsaved);
-        Offer offer{std::move(kept), std::move(keys), review::FileState::ofDocument(*after.root())};
+        std::vector<int> own = ownKeys(kept.unsaved);
+        Offer offer{std::move(kept), std::move(keys), std::move(own),
+                    review::FileState::ofDocument(*after.root())};
         if (isInNewer(offer))
             QFile::remove(offer.kept.path);
         else
@@ -71,11 +73,11 @@ bool UnsavedBar::isInNewer(const Offer& offer) const
     });
 }
 
-int UnsavedBar::changes(const Offer& offer) const
+int UnsavedBar::changes(const Offer& offer, const std::vector<int>& keys) const
 {
     const review::FileState& now = review_.differences().after();
     return static_cast<int>(
-        std::ranges::count_if(offer.keys, [&](int key) { return !(offer.after.at(key) == now.at(key)); }));
+        std::ranges::count_if(keys, [&](int key) { return !(offer.after.at(key) == now.at(key)); }));
 }
 
 // And not taken back since, whatever else became of what it brought.
@@ -91,7 +93,8 @@ void UnsavedBar::refresh()
 {
     for (int number = 1; number <= static_cast<int>(offers_.size()); ++number) {
         Offer& offer = offers_[number - 1];
-        const int count = offer.isClosed || isBroughtBack(offer) ? 0 : changes(offer);
+        const bool isOver = offer.isClosed || isBroughtBack(offer) || changes(offer, offer.keys) == 0;
+        const int count = isOver ? 0 : std::max(changes(offer, offer.own), 1);
         if (count == offer.told)
             continue;
         offer.told = count;
@@ -157,7 +160,7 @@ void UnsavedBar::endComparison()
 void UnsavedBar::drop()
 {
     for (Offer& offer : offers_) {
-        if (offer.isDiscarded || isBroughtBack(offer) || changes(offer) == 0)
+        if (offer.isDiscarded || isBroughtBack(offer) || changes(offer, offer.keys) == 0)
             offer.isClosed |= QFile::remove(offer.kept.path);
     }
 }

@@ -40,6 +40,7 @@ private:
     {
         review::KeptUnsaved kept;
         std::vector<int> keys;
+        std::vector<int> own; // of the keys, those that are counted
         review::FileState after;
         bool isShown = false;
         bool isDiscarded = false;
@@ -49,7 +50,8 @@ private:
     };
 
     bool isInNewer(const Offer& offer) const;
-    int changes(const Offer& offer) const;
+    // Of keys of an offer, how many it would change.
+    int changes(const Offer& offer, const std::vector<int>& keys) const;
     bool isBroughtBack(const Offer& offer) const;
     void refresh();
     void tellOffer(int number);

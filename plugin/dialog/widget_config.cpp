@@ -209,7 +209,11 @@ std::vector<QWidgetList> VLK_Widget_Config::areas() const
 
 void VLK_Widget_Config::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape && (panel_->isVisible() || advice_->isVisible()))
+    if (event->key() != Qt::Key_Escape)
+        QDialog::keyPressEvent(event);
+    else if (bar_->isAncestorOf(focusWidget()))
+        ui_->stackedWidget->currentWidget()->setFocus(Qt::OtherFocusReason);
+    else if (panel_->isVisible() || advice_->isVisible())
         showPanel(vlk::ReviewBar::None);
     else
         QDialog::keyPressEvent(event);

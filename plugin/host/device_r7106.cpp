@@ -1,6 +1,7 @@
 #include "host/device_r7106.h"
 
 #include "base/version.h"
+#include "dialog/edit_keeper.h"
 #include "dialog/widget_config.h"
 #include "telemetry/view/widget_tmi_page.h"
 #include "telemetry/view/widget_tmi_table.h"
@@ -128,6 +129,8 @@ void VLK_Device_R7106::setIdentity(const vlk::IdentityInfo& info)
 void VLK_Device_R7106::setPaths(const vlk::Paths& paths)
 {
     pathTmi_ = paths.pathTmi;
+    if (paths.pathXml != pathXml_)
+        vlk::tellKeptEdits(paths.pathXml);
     pathXml_ = paths.pathXml;
     pathThird_ = paths.pathThird;
     pathFourth_ = paths.pathFourth;

@@ -1,11 +1,14 @@
 #include "review/differences.h"
 
+#include "review/take_over.h"
 #include "settings/quick_settings.h"
 
 #include <QHash>
 
 #include <algorithm>
+#include <iterator>
 #include <numeric>
+#include <optional>
 
 namespace vlk::review {
 
@@ -22,10 +25,26 @@ int tableOfSection(const QString& path)
     return FileKeys::all().tableOfSection(path);
 }
 
+int sizeOf(const auto& lists)
+{
+    const auto add = [](std::size_t sum, const auto& list) { return sum + list.size(); };
+    return static_cast<int>(std::accumulate(lists.begin(), lists.end(), std::size_t(0), add));
+}
+
+// As a new configuration holds it, or a missing key reads.
+bool isFresh(int table, int row, const QString& text)
+{
+    static thread_local std::vector<std::optional<Values>> fresh(FileKeys::all().tables());
+    if (!fresh[table])
+        fresh[table].emplace(*FileKeys::all().layout(table).table);
+    return text == fresh[table]->written(row) || text == fresh[table]->row(row).loadDefault();
+}
+
 } // namespace
 
 Differences::Differences(FileState before, FileState after)
-    : before_(std::move(before)), after_(std::move(after)), keys_(FileKeys::all().tables())
+    : before_(std::move(before)), after_(std::move(after)), keys_(FileKeys::all().tables()),
+      ownKeys_(FileKeys::all().tables())
 {
     for (int table = 0; table < FileKeys::all().tables(); ++table)
         compare(table);
@@ -39,6 +58,9 @@ void Differences::compare(int table)
         if (isDifferent(key))
             keys_[table].push_back(key);
     }
+    ownKeys_[table].clear();
+    std::ranges::copy_if(keys_[table], std::back_inserter(ownKeys_[table]),
+                         [this](int key) { return !isAlong(key); });
 }
 
 void Differences::compareStrangers()
@@ -61,18 +83,60 @@ void Differences::compareStrangers()
     }
 }
 
+std::vector<Difference> Differences::strangers() const
+{
+    std::vector<Difference> all;
+    for (const std::vector<Difference>& strangers : strangers_)
+        all.insert(all.end(), strangers.begin(), strangers.end());
+    return all;
+}
+
 int Differences::count() const
 {
-    const auto add = [](std::size_t sum, const auto& list) { return sum + list.size(); };
-    return static_cast<int>(std::accumulate(strangers_.begin(), strangers_.end(),
-                                            std::accumulate(keys_.begin(), keys_.end(), std::size_t(0), add),
-                                            add));
+    return sizeOf(keys_) + sizeOf(strangers_);
 }
 
 bool Differences::isDifferent(int table, int row) const
 {
     const std::vector<int>& held = FileKeys::all().heldBy(table, row);
     return std::any_of(held.begin(), held.end(), [this](int key) { return isDifferent(key); });
+}
+
+bool Differences::isAlong(int key) const
+{
+    const Held& before = before_.at(key);
+    const Held& after = after_.at(key);
+    if (before.isThere == after.isThere)
+        return false;
+    const int table = FileKeys::all()[key].table;
+    const std::vector<int> deciders = decidersOf(key);
+    const Held& held = before.isThere ? before : after;
+    return std::ranges::any_of(deciders, [&](int decider) { return isDifferent(table, decider); }) &&
+           isFresh(table, held.row, held.text);
+}
+
+bool Differences::isWith(int key, const std::vector<int>& keys) const
+{
+    const std::vector<int> deciders = decidersOf(key);
+    return std::ranges::any_of(deciders, [&](int decider) {
+        return std::ranges::any_of(FileKeys::all().heldBy(FileKeys::all()[key].table, decider),
+                                   [&](int held) { return std::ranges::find(keys, held) != keys.end(); });
+    });
+}
+
+std::vector<int> Differences::decidersOf(int key) const
+{
+    const Held& after = after_.at(key);
+    return review::decidersOf(FileKeys::all().layout(FileKeys::all()[key].table),
+                              after.isThere ? after.row : before_.at(key).row);
+}
+
+std::vector<int> Differences::ownKeys() const
+{
+    std::vector<int> all;
+    for (const std::vector<int>& keys : ownKeys_)
+        all.insert(all.end(), keys.begin(), keys.end());
+    return all;
 }
 
 Difference Differences::differenceAt(int key) const
@@ -86,7 +150,8 @@ Difference Differences::differenceAt(int key) const
             before.isThere ? there(before.text) : QString(),
             after.isThere ? there(after.text) : QString(),
             byLoad,
-            byLoad && before.isSaved ? before.change : Change::none};
+            byLoad && before.isSaved ? before.change : Change::none,
+            isAlong(key)};
 }
 
 std::vector<Difference> Differences::all() const

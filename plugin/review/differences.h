@@ -22,6 +22,7 @@ struct Difference
     // load has no place for the key.
     bool byLoad = false;
     Change change = Change::none;
+    bool isAlong = false; // Differences::isAlong()
 };
 
 class Differences
@@ -34,9 +35,17 @@ public:
     const FileState& after() const { return after_; }
 
     int count() const;
-    // Of the keys of a table.
-    int count(int table) const { return static_cast<int>(keys_[table].size()); }
     bool isDifferent(int key) const { return !(before_.at(key) == after_.at(key)); }
+    // Goes or comes with another setting that differs and decides whether the file has the key, as it stands
+    // in a new configuration: nobody has edited this one.
+    bool isAlong(int key) const;
+    // Whether it would come along with some of these keys.
+    bool isWith(int key, const std::vector<int>& keys) const;
+    // What a person would count: keys of a table, or of all, that differ and do not come along.
+    const std::vector<int>& ownKeys(int table) const { return ownKeys_[table]; }
+    std::vector<int> ownKeys() const;
+    // What no setting reads, and differs.
+    std::vector<Difference> strangers() const;
     // Of a setting.
     bool isDifferent(int table, int row) const;
     Difference differenceAt(int key) const;
@@ -52,12 +61,15 @@ public:
     void update(const FileState& full, const Values& quick);
 
 private:
+    // The settings on which it depends that a file has the key.
+    std::vector<int> decidersOf(int key) const;
     void compare(int table);
     void compareStrangers();
 
     FileState before_;
     FileState after_;
-    std::vector<std::vector<int>> keys_;             // that differ, by table
+    std::vector<std::vector<int>> keys_; // that differ, by table
+    std::vector<std::vector<int>> ownKeys_;
     std::vector<std::vector<Difference>> strangers_; // by the table of their section, others last
 };
 

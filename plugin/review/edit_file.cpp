@@ -55,7 +55,10 @@ struct Target
 
 bool isAsIn(const FileState& state, int key, const FileState& wanted)
 {
-    return state.at(key).isSaved == wanted.at(key).isSaved && state.at(key).saved == wanted.at(key).saved;
+    const Held& held = state.at(key);
+    const QString& saved = wanted.at(key).saved;
+    return held.isSaved == wanted.at(key).isSaved &&
+           (held.saved == saved || (held.isOfEdit && held.text == saved));
 }
 
 // A text that a load makes the configuration of, and that holds the keys. Null where there is none.

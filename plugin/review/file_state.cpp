@@ -23,10 +23,10 @@ const QString& plainDefault(int table, int row)
     return own[row];
 }
 
-Taken takenAs(const Values& values, int row, const QString& text)
+Taken takenAs(const Values& values, int row, const QString& text, Source source = Source::file)
 {
     const int holder = values.holder(row);
-    return takenAs(values.setting(holder), {text, values.value(holder), values.limits(holder)});
+    return takenAs(values.setting(holder), {text, values.value(holder), values.limits(holder), source});
 }
 
 QString defaultOf(const Values& values, int table, int row)
@@ -116,12 +116,14 @@ void FileState::takeText(int key, const QString& text, const Configuration& load
     Held& held = held_[key];
     if (held.row < 0)
         held.row = FileKeys::all()[key].rows.front();
-    Taken taken = takenAs(loaded.tables()[FileKeys::all()[key].table], held.row, text);
+    const Values& values = loaded.tables()[FileKeys::all()[key].table];
+    Taken taken = takenAs(values, held.row, text);
     if (isWhole(taken.change) && sectionText(text) != text)
         taken.change = Change::notCarried;
     held.isThere = true;
     held.text = text;
     held.isWhole = isWhole(taken.change);
+    held.isOfEdit = !held.isWhole && takenAs(values, held.row, text, Source::edit).value == text;
     held.meaning = held.isWhole ? taken.value : text;
     held.change = !held.isWhole                                ? taken.change
                   : held.isSaved && held.saved != held.meaning ? Change::byRule

@@ -18,6 +18,9 @@ struct Held
     QString text;
     QString meaning;     // the text in the spelling of a save; as it stands where a load loses some of it
     bool isWhole = true; // it loses nothing
+    // An edit takes the text as it stands and a load does not: of a period it drops whole days, and no item
+    // of a list it takes for one. Windows save it all the same.
+    bool isOfEdit = false;
     // What a save writes after a load, if it writes the key, and why that is not what stands here.
     bool isSaved = false;
     QString saved;

@@ -106,7 +106,7 @@ FileState stateWith(const Texts& texts, const Configuration& configuration, Conf
     for (const auto& [key, text] : texts)
         setKey(*document.root(), key, text);
     *result = configuration;
-    result->read(*document.root());
+    readAsEdited(*result, *document.root());
     return FileState::ofDocument(*document.root());
 }
 
@@ -176,7 +176,9 @@ AppliedPreset applied(CXmlSection& preset, const Configuration& configuration)
         const Values& values = applied.result.tables()[place.table];
         const int holder = values.holder(held.row < 0 ? place.rows.front() : held.row);
         const Setting& setting = values.setting(holder);
-        const bool isLost = !held.isSaved || !(held.saved == held.meaning);
+        // A long period is lost by the next load alone, which advice tells.
+        const bool isLong = held.isOfEdit && held.change == Change::wrapped;
+        const bool isLost = !held.isSaved || (!isLong && held.saved != held.meaning);
         const bool isUnfit = isLost || !isSettable(setting, entry.second);
         if (isUnfit)
             applied.problems.push_back({!held.isSaved && held.isWhole ? What::noPlace : What::badValue,

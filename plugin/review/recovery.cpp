@@ -45,6 +45,22 @@ QString nameStemOf(const QString& subject)
     return QString::fromLatin1(sumOf(subject.toUtf8()).toHex().left(kStemSize));
 }
 
+std::vector<KeptUnsaved> keptAs(const QString& folder, const QString& stem)
+{
+    std::vector<KeptUnsaved> kept;
+    const QDir files(keptFolder(folder));
+    for (const QString& name : files.entryList({stem + QLatin1Char('*') + kSuffix}, QDir::Files)) {
+        const QString path = files.filePath(name);
+        std::optional<Unsaved> unsaved = isClaimed(path) ? std::nullopt : unsavedIn(path);
+        if (unsaved)
+            kept.push_back({path, std::move(*unsaved)});
+    }
+    std::stable_sort(kept.begin(), kept.end(), [](const KeptUnsaved& a, const KeptUnsaved& b) {
+        return a.unsaved.moment > b.unsaved.moment;
+    });
+    return kept;
+}
+
 FileState stateOf(const QByteArray& text)
 {
     XmlDocument document(text, kRoot);
@@ -95,19 +111,14 @@ std::optional<Unsaved> unsavedIn(const QString& path)
 
 std::vector<KeptUnsaved> keptUnsaved(const QString& folder, const QString& subject)
 {
-    std::vector<KeptUnsaved> kept;
-    const QDir files(keptFolder(folder));
-    for (const QString& name :
-         files.entryList({nameStemOf(subject) + QLatin1Char('*') + kSuffix}, QDir::Files)) {
-        const QString path = files.filePath(name);
-        std::optional<Unsaved> unsaved = isClaimed(path) ? std::nullopt : unsavedIn(path);
-        if (unsaved && unsaved->subject == subject)
-            kept.push_back({path, std::move(*unsaved)});
-    }
-    std::stable_sort(kept.begin(), kept.end(), [](const KeptUnsaved& a, const KeptUnsaved& b) {
-        return a.unsaved.moment > b.unsaved.moment;
-    });
+    std::vector<KeptUnsaved> kept = keptAs(folder, nameStemOf(subject));
+    std::erase_if(kept, [&](const KeptUnsaved& one) { return one.unsaved.subject != subject; });
     return kept;
+}
+
+std::vector<KeptUnsaved> keptUnsaved(const QString& folder)
+{
+    return keptAs(folder, {});
 }
 
 std::vector<int> editedKeys(const Unsaved& unsaved)
@@ -118,6 +129,11 @@ std::vector<int> editedKeys(const Unsaved& unsaved)
             keys.push_back(difference.key);
     }
     return keys;
+}
+
+std::vector<int> ownKeys(const Unsaved& unsaved)
+{
+    return Differences(stateOf(unsaved.before), stateOf(unsaved.after)).ownKeys();
 }
 
 QByteArray withEdits(const QByteArray& document, const Unsaved& unsaved)

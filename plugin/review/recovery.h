@@ -37,11 +37,13 @@ QString recoveryPath(const QString& folder, const QString& subject);
 bool keepUnsaved(const QString& path, const Unsaved& unsaved, QString* reason);
 // Nothing where the file is not there or holds no edits.
 std::optional<Unsaved> unsavedIn(const QString& path);
-// The newest first, without those that another program is editing.
+// The newest first, without those that another program is editing; of one configuration, or of all.
 std::vector<KeptUnsaved> keptUnsaved(const QString& folder, const QString& subject);
+std::vector<KeptUnsaved> keptUnsaved(const QString& folder);
 
-// The keys (file_keys.h) that the edits have changed.
+// The keys (file_keys.h) that the edits have changed, and of these the ones that a person would count.
 std::vector<int> editedKeys(const Unsaved& unsaved);
+std::vector<int> ownKeys(const Unsaved& unsaved);
 // The document of a save with the edits laid over it. Whatever else has changed since then stays.
 QByteArray withEdits(const QByteArray& document, const Unsaved& unsaved);
 

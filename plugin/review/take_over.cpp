@@ -18,14 +18,7 @@ namespace {
 std::vector<int> companions(const TableLayout& layout, int row, bool isOnOneSide)
 {
     const TableLayout::Row& place = layout.rows[row];
-    const Group& group = *layout.elements[place.group].group;
-    std::vector<int> rows;
-    for (const When& condition : {place.base->present, group.present, group.presentToo}) {
-        for (const int decider : {condition.row, condition.other}) {
-            if (decider >= 0 && isOnOneSide)
-                rows.push_back(layout.rows[decider].target);
-        }
-    }
+    std::vector<int> rows = isOnOneSide ? decidersOf(layout, row) : std::vector<int>();
     for (int other = 0; other < static_cast<int>(layout.rows.size()); ++other) {
         if (other != row && layout.rows[other].target == place.target)
             rows.push_back(other);
@@ -75,6 +68,20 @@ void removeKey(CXmlNode& root, const QString& path)
 
 } // namespace
 
+std::vector<int> decidersOf(const TableLayout& layout, int row)
+{
+    const TableLayout::Row& place = layout.rows[row];
+    const Group& group = *layout.elements[place.group].group;
+    std::vector<int> rows;
+    for (const When& condition : {place.base->present, group.present, group.presentToo}) {
+        for (const int decider : {condition.row, condition.other}) {
+            if (decider >= 0)
+                rows.push_back(layout.rows[decider].target);
+        }
+    }
+    return rows;
+}
+
 std::vector<int> withNeeded(const Differences& differences, std::vector<int> keys)
 {
     const FileKeys& all = FileKeys::all();
@@ -117,18 +124,20 @@ void layOver(CXmlSection& root, const FileState& from, const std::vector<int>& k
         return;
     root.commit();
     for (const int key : keys) {
-        if (from.at(key).isSaved)
-            setKey(root, key, from.at(key).saved);
+        if (const Held& held = from.at(key); held.isSaved)
+            setKey(root, key, held.isOfEdit ? held.text : held.saved);
         else
             removeKey(nodeOf(root), FileKeys::all()[key].path);
     }
 }
 
-void keepLongPeriods(Configuration& configuration, const FileState& from, const std::vector<int>& keys)
+void readAsEdited(Configuration& configuration, CXmlSection& root)
 {
-    for (const int key : keys) {
-        if (from.at(key).change == Change::wrapped)
-            configuration.edit(FileKeys::all()[key].path, from.at(key).text);
+    configuration.read(root);
+    const FileState read = FileState::ofDocument(root, configuration);
+    for (int key = 0; key < FileKeys::all().count(); ++key) {
+        if (read.at(key).isOfEdit)
+            configuration.edit(FileKeys::all()[key].path, read.at(key).text);
     }
 }
 
@@ -137,8 +146,7 @@ void takeOver(Configuration& configuration, const FileState& from, const std::ve
     XmlDocument document(QString(), QStringLiteral("DEVICE"));
     configuration.write(*document.root());
     layOver(*document.root(), from, keys);
-    configuration.read(*document.root());
-    keepLongPeriods(configuration, from, keys);
+    readAsEdited(configuration, *document.root());
 }
 
 std::vector<int> takeOver(Configuration& configuration, const Differences& differences, std::vector<int> keys)

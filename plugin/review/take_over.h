@@ -14,16 +14,19 @@ namespace vlk::review {
 // back in all of them.
 std::vector<int> withNeeded(const Differences& differences, std::vector<int> keys);
 
+// The settings that decide whether a file has the one.
+std::vector<int> decidersOf(const TableLayout& layout, int row);
+
 // Gives a key of a document a text, an element made for it where there is none.
 void setKey(CXmlSection& root, int key, const QString& text);
 
-// Lays what a load of `from` makes of the keys over a document that a save has written; keys that it lacks
-// go. Sections that are open on the document lose their sight of it, but for the root.
+// Lays what a load of `from` makes of the keys, or an edit alone would (Held::isOfEdit), over a document that
+// a save has written; keys that it lacks go. Sections that are open on the document lose their sight of it,
+// but for the root.
 void layOver(CXmlSection& root, const FileState& from, const std::vector<int>& keys);
 
-// Periods of a day or more, of which a load drops whole days: as they stand in `from`, since a window can
-// hold and save them.
-void keepLongPeriods(Configuration& configuration, const FileState& from, const std::vector<int>& keys);
+// Reads what windows would save, with that which edits alone can give them.
+void readAsEdited(Configuration& configuration, CXmlSection& root);
 
 void takeOver(Configuration& configuration, const FileState& from, const std::vector<int>& keys);
 

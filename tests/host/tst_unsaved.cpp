@@ -179,6 +179,25 @@ private Q_SLOTS:
         }
     }
 
+    // In the button, at the end and in the offer. Whoever shows what is logged tells of it at the next start.
+    void countedAlike()
+    {
+        open("new");
+        child<QComboBox>("comboBox_RS485_Owner_1")->setCurrentIndex(1);
+        edit();
+        QCOMPARE(child<QToolButton>("toolButton_Differences")->text(), QString("3"));
+        QTest::ignoreMessage(QtWarningMsg, "3 changes are kept");
+        window->close();
+        for (const QString& folder : {QString(), kept_->path()}) {
+            if (!folder.isEmpty())
+                QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^changes of .{16}: $"));
+            const vlk::Paths paths{{}, folder, {}, {}};
+            host_.send(Message::SetPaths, &paths);
+        }
+        open("new");
+        QCOMPARE(offer(), QString("rev_140: 3"));
+    }
+
     // The cross leaves it for the next time; once it has been shown it can be discarded. New edits beside it
     // are kept beside it.
     void shownAndLeft()

@@ -64,6 +64,39 @@ private Q_SLOTS:
         QCOMPARE(list->toolTip(), QString());
     }
 
+    // What another device on the line brings along counts and is marked as one change, behind which the rest
+    // opens. Quick setup marks what only its window has, too.
+    void whatComesAlong()
+    {
+        open({});
+        child<QComboBox>("comboBox_RS485_Owner_1")->setCurrentIndex(1);
+        QCoreApplication::processEvents();
+        child<QTabWidget>("tabWidget")->setCurrentIndex(4);
+        QCOMPARE(child<QToolButton>("toolButton_Differences")->text(), QString("1"));
+        QVERIFY(!dialog_->findChild<QWidget*>("mark_spinBox_Addres_1"));
+        child<QToolButton>("toolButton_Differences")->click();
+        auto* table = child<QTableView>("tableView_Differences");
+        QCOMPARE(table->model()->rowCount(), 2);
+        table->setCurrentIndex(table->model()->index(1, 0));
+        QTest::keyClick(table, Qt::Key_Return);
+        QVERIFY(table->model()->rowCount() > 20);
+        child<QPushButton>("pushButton_TakeOver")->click();
+        QCOMPARE(table->model()->rowCount(), 0);
+
+        open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml", 0);
+        const auto count = [this] { return child<QToolButton>("toolButton_Differences")->text(); };
+        QCOMPARE(count(), QString("0"));
+        for (const char* name : {"comboBox_NormState_In_1", "checkBox_Fuel_RS485_Use"}) {
+            auto* widget = child<QWidget>(name);
+            const QByteArray before = dialog_->review().document();
+            QTest::keyClick(widget, qobject_cast<QCheckBox*>(widget) ? Qt::Key_Space : Qt::Key_Down);
+            QCoreApplication::processEvents();
+            QVERIFY2(widget->toolTip().startsWith("rev_160") && count() != "0", name);
+            QCOMPARE(choose(widget, "action_BringBack"), 3);
+            QVERIFY(widget->toolTip().isEmpty() && dialog_->review().document() == before);
+        }
+    }
+
     // A bound that a typed one pushes away comes back with it, though not when that is typed back.
     void pushedBound()
     {

@@ -56,6 +56,8 @@ private Q_SLOTS:
         QVERIFY(child<QWidget>("widget_Advice")->isVisible() &&
                 child<QToolButton>("toolButton_Advice")->isChecked());
         QCOMPARE(child<QWidget>("widget_Advice")->height(), height);
+        // Among the user's files stands none of it.
+        QVERIFY(QDir("Data/XML").entryList(QDir::Files).isEmpty());
         QDir::setCurrent(here);
     }
 
@@ -119,6 +121,9 @@ private Q_SLOTS:
         QVERIFY(!list->view()->isVisible() && child<QWidget>("widget_Advice")->isVisible());
         QTest::keyClick(list, Qt::Key_Escape);
         QVERIFY(!child<QWidget>("widget_Advice")->isVisible() && dialog_->isVisible());
+        QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
+        QTest::keyClick(child<QLineEdit>("lineEdit_Find"), Qt::Key_Escape);
+        QVERIFY(dialog_->isVisible() && !child<QLineEdit>("lineEdit_Find")->hasFocus());
         QTest::keyClick(list, Qt::Key_Escape);
         QVERIFY(!dialog_->isVisible());
     }

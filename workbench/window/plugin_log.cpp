@@ -38,6 +38,8 @@ constexpr CategoryRow kCategoryRows[] = {
     {"vlk.save.part", PluginLog::Topic::SavedInPart, "wb_saved_part", kOfPeriod},
     {"vlk.save.unsaved", PluginLog::Topic::Damage, "wb_told_unsaved", kOfFile},
     {"vlk.unsaved.kept", PluginLog::Topic::Damage, "rev_260", "^(\\d+) changes are kept$"},
+    {"vlk.unsaved.found", PluginLog::Topic::Damage, "rev_295", "^changes of (.*): $"},
+    {"vlk.unsaved.found", PluginLog::Topic::Damage, "rev_294", "^changes of (.{16}): (.+)$"},
     {"vlk.settings.typing", PluginLog::Topic::Typing, "wb_typed", kWhole},
     {"vlk.xml", PluginLog::Topic::File, "wb_told_not_made", kNotMade},
     {"vlk.xml", PluginLog::Topic::File, "wb_told_unreadable", kNotOpened},
