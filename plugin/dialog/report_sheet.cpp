@@ -13,6 +13,7 @@ namespace vlk {
 namespace {
 
 constexpr qreal kUsualPoints = 9;    // points
+constexpr qreal kLargestPoints = 12; // of the one page, which is filled
 constexpr qreal kSmallestPoints = 6; // that can be read on paper
 constexpr qreal kStep = 0.5;
 constexpr qreal kMargin = 2 / 2.54; // inches, as QTextDocument::print() leaves them
@@ -40,7 +41,7 @@ int pagesOn(const QPagedPaintDevice& device, const QTextDocument& document)
 void printReport(const QString& html, bool isOnePage, QPagedPaintDevice& device)
 {
     QTextDocument document;
-    qreal points = kUsualPoints;
+    qreal points = isOnePage ? kLargestPoints : kUsualPoints;
     setSize(document, points);
     document.setHtml(html);
     while (isOnePage && points > kSmallestPoints && pagesOn(device, document) > 1) {

@@ -5,6 +5,7 @@
 #include "review/value_text.h"
 
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <numeric>
 #include <utility>
@@ -35,6 +36,7 @@ struct Line
     QStringList values; // one, or before and after
     QString note;
     bool isWorkedOut = false; // not in the file
+    bool isUnfilled = false;  // a place of a list that holds nothing
 };
 
 using Lines = std::vector<Line>;
@@ -146,6 +148,44 @@ Lines byTitle(Lines lines)
     return lines;
 }
 
+bool isUnfilled(const Values& values, int row)
+{
+    const Setting& setting = values.setting(row);
+    const Number* number = setting.number();
+    const QString& value = values.value(row);
+    return setting.base().numbers.outer > 0 &&
+           (value.isEmpty() || (number && number->blankIsZero && value == QLatin1String("0")));
+}
+
+// Titles that hold nothing are named together, where the first one of a page stood.
+Lines withoutUnfilled(Lines lines)
+{
+    Lines kept;
+    QString page; // of the line of those, which is the `last` one
+    std::size_t last = 0;
+    for (auto line = lines.begin(); line != lines.end();) {
+        const auto end = std::find_if(line, lines.end(), [&](const Line& other) {
+            return other.words.page != line->words.page || other.words.group != line->words.group;
+        });
+        if (!std::all_of(line, end, std::mem_fn(&Line::isUnfilled))) {
+            kept.insert(kept.end(), line, end);
+        } else {
+            const QString title = line->words.group.section(QStringLiteral(" / "), -1);
+            if (std::exchange(page, line->words.page) == line->words.page) {
+                kept[last].words.caption += QStringLiteral("; ") + title;
+            } else {
+                last = kept.size();
+                kept.push_back({{}, {QString()}, {}});
+                kept.back().words.page = page;
+                kept.back().words.group = translated("rev_296");
+                kept.back().words.caption = title;
+            }
+        }
+        line = end;
+    }
+    return kept;
+}
+
 Lines settingsOf(const Configuration& configuration, const Report& report)
 {
     Lines lines;
@@ -162,7 +202,8 @@ Lines settingsOf(const Configuration& configuration, const Report& report)
                 report.secrets == Secrets::shown
                     ? valueText(values.setting(values.holder(row)), values.written(row), values.unitKey(row))
                     : valueText(values, row, values.written(row));
-            lines.push_back({wordsOf(values.layout(), row), {text}, {}});
+            lines.push_back(
+                {wordsOf(values.layout(), row), {text}, {}, false, isUnfilled(values, values.holder(row))});
         }
     }
     return lines;
@@ -231,8 +272,8 @@ QString toHtml(const Configuration& configuration, const Report& report)
             html += element("li", sentence);
         html += QStringLiteral("</ul>\n");
     }
-    const Lines lines =
-        byTitle(report.changes ? changesOf(configuration, report) : settingsOf(configuration, report));
+    const Lines lines = report.changes ? byTitle(changesOf(configuration, report))
+                                       : withoutUnfilled(byTitle(settingsOf(configuration, report)));
     html += bodyOf(lines, headOf(report.changes), report.isOnePage);
     if (lines.empty())
         html += element("p", translated("rev_117"));

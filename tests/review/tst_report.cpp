@@ -49,6 +49,9 @@ private Q_SLOTS:
         const int backup = html.indexOf("<h3>cfgt1_061 / cfgt1_011 2</h3>");
         QVERIFY(html.indexOf("cfgt1_023</td><td>wrd_002", backup) - backup < 120);
         QVERIFY(!html.contains("cfgt6_075")); // which no file knows
+        // Places of a list that hold nothing are named once.
+        QCOMPARE(titles.count("rev_296"), 1);
+        QVERIFY(html.contains("cfgt1_122: 9; cfgt1_122: 10") && !html.contains("/ cfgt1_122: 9<"));
     }
 
     void chosenKeysAndSecretsOnDemand()
