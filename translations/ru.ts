@@ -1649,8 +1649,8 @@
     <message id="rev_291"><translation>Быстрая настройка удаляет или задаёт заново: %1</translation></message>
     <message id="rev_292"><translation>Быстрая настройка удаляет параметры: %1 (%2), задаёт заново: %3. Другие изменения: %4.</translation></message>
     <message id="rev_293"><translation>Быстрая настройка записывает входные линии, последовательную линию и Bluetooth заново</translation></message>
-    <message id="rev_294"><translation>Несохранённые изменения от %1: %2. Откройте снова, чтобы вернуть их.</translation></message>
-    <message id="rev_295"><translation>Несохранённые изменения от %1: новая конфигурация. Откройте новую, чтобы вернуть их.</translation></message>
+    <message id="rev_294"><translation>Несохранённые изменения от %1: %2. Откройте, чтобы вернуть.</translation></message>
+    <message id="rev_295"><translation>Несохранённые изменения от %1: новая конфигурация. Откройте её, чтобы вернуть.</translation></message>
     <message id="rev_296"><translation>Не заполнено</translation></message>
     <message id="tmiex_001"><translation>Навигация</translation></message>
     <message id="tmiex_002"><translation>Приёмник</translation></message>

@@ -47,6 +47,13 @@ void ConfigurationReview::begin(CXmlSection* root)
     opened_ = root ? FileState::ofDocument(*root) : now();
     asItCame_ = opened_;
     isWritten_ = false;
+    newInFull_.reset();
+    if (!root && isQuick()) {
+        XmlDocument document(this->document(), QStringLiteral("DEVICE"));
+        Configuration loaded = configuration();
+        loaded.read(*document.root());
+        newInFull_ = FileState::ofConfiguration(loaded);
+    }
     keepQuick(root, present_);
     presetDue_.stop();
     against_ = Against::file;
@@ -79,6 +86,7 @@ void ConfigurationReview::setWritten(const QByteArray& document)
         return;
     asItCame_ = FileState::ofDocument(*file.root());
     isWritten_ = true;
+    newInFull_.reset();
     Configuration loaded(allSettings());
     loaded.read(*file.root());
     keepQuick(file.root(), loaded);
@@ -91,7 +99,7 @@ void ConfigurationReview::setWritten(const QByteArray& document)
 
 bool ConfigurationReview::compareWith(Against against, const QString& path)
 {
-    FileState before = asItCame_;
+    FileState before = asItCame();
     if (against == Against::defaults) {
         before = FileState::ofDefaults(present_);
     } else if (against == Against::otherFile || against == Against::preset) {
@@ -295,6 +303,12 @@ FileState ConfigurationReview::now() const
     return state;
 }
 
+// What one window makes of a new configuration is no edit in the other one.
+const FileState& ConfigurationReview::asItCame() const
+{
+    return newInFull_ && !isQuick() ? *newInFull_ : asItCame_;
+}
+
 // One table of the full window at a time; the quick window's values lie over all.
 void ConfigurationReview::refresh(const QVector<int>& pages)
 {
@@ -306,7 +320,7 @@ void ConfigurationReview::refresh(const QVector<int>& pages)
     wasQuick_ = isQuick;
     if (isWhole) {
         const FileState state = now();
-        edited_ = Differences(asItCame_, state);
+        edited_ = Differences(asItCame(), state);
         differences_ = against_ == Against::file ? edited_
                        : isPreset                ? Differences(withMoved(state), state)
                                                  : Differences(differences_.before(), state);

@@ -110,6 +110,7 @@ private:
     // Without a root the configuration, which is new, is what it came as.
     void keepQuick(CXmlSection* root, const Configuration& asItCame);
     review::FileState now() const;
+    const review::FileState& asItCame() const;
     // The other side while a preset is compared with.
     review::FileState withPreset();
     // The same by the keys that it moved when it was followed last.
@@ -131,7 +132,8 @@ private:
     const std::function<bool()> isQuick_;
     Configuration present_; // what the pages of the full window hold since the last step
     review::FileState opened_;
-    review::FileState asItCame_; // the same, or what has been written since then
+    review::FileState asItCame_;                 // the same, or what has been written since then
+    std::optional<review::FileState> newInFull_; // of a new one that began in the quick window
     bool isWritten_ = false;
     Values quickAsItCame_;
     review::FileState quickState_; // with that over what the full window makes of it

@@ -39,7 +39,7 @@ QString nameOfSubject(const QString& subject)
         return modelText();
     QStringList texts = subject.mid(kTracker.size()).split(QLatin1Char('\n'));
     texts.removeAll(QString());
-    return texts.join(QStringLiteral(", "));
+    return modelText() + QLatin1Char(' ') + texts.last(); // its number, where it has one
 }
 
 // Behind an edit. With the time that a slow disk or a busy machine takes it stays below a second.
@@ -74,8 +74,7 @@ void tellKeptEdits(const QString& folder)
             continue;
         subjects << kept.unsaved.subject;
         qCWarning(lcFound).noquote().nospace()
-            << "changes of " << kept.unsaved.moment.toString(QStringLiteral("dd.MM.yyyy HH:mm")) << ": "
-            << nameOfSubject(kept.unsaved.subject);
+            << "changes of " << momentOf(kept.unsaved) << ": " << nameOfSubject(kept.unsaved.subject);
     }
 }
 

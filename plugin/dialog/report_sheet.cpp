@@ -2,7 +2,9 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QBuffer>
+#include <QGuiApplication>
 #include <QPdfWriter>
+#include <QScreen>
 #include <QTextDocument>
 #include <QTextFrame>
 
@@ -30,7 +32,8 @@ int pagesOn(const QPagedPaintDevice& device, const QTextDocument& document)
     const std::unique_ptr<QTextDocument> sheet(document.clone());
     sheet->documentLayout()->setPaintDevice(const_cast<QPagedPaintDevice*>(&device));
     QTextFrameFormat frame = sheet->rootFrame()->frameFormat();
-    frame.setMargin(kMargin * device.logicalDpiY());
+    // The layout brings it from the screen to the device.
+    frame.setMargin(kMargin * QGuiApplication::primaryScreen()->logicalDotsPerInchY());
     sheet->rootFrame()->setFrameFormat(frame);
     sheet->setPageSize(QSizeF(device.width(), device.height()));
     return sheet->pageCount();
@@ -38,16 +41,24 @@ int pagesOn(const QPagedPaintDevice& device, const QTextDocument& document)
 
 } // namespace
 
-void printReport(const QString& html, bool isOnePage, QPagedPaintDevice& device)
+qreal pointsOnOnePage(const QString& html, const QPagedPaintDevice& device)
 {
     QTextDocument document;
-    qreal points = isOnePage ? kLargestPoints : kUsualPoints;
+    qreal points = kLargestPoints;
     setSize(document, points);
     document.setHtml(html);
-    while (isOnePage && points > kSmallestPoints && pagesOn(device, document) > 1) {
+    while (points > kSmallestPoints && pagesOn(device, document) > 1) {
         points -= kStep;
         setSize(document, points);
     }
+    return points;
+}
+
+void printReport(const QString& html, bool isOnePage, QPagedPaintDevice& device)
+{
+    QTextDocument document;
+    setSize(document, isOnePage ? pointsOnOnePage(html, device) : kUsualPoints);
+    document.setHtml(html);
     document.print(&device);
 }
 

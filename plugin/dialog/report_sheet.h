@@ -9,8 +9,9 @@ class QPagedPaintDevice;
 
 namespace vlk {
 
-// What is meant for one page gets letters as small as it needs, down to what can be read; more than that
-// goes on over other pages.
+// What is meant for one page gets letters as large as it has room for, down to what can be read; more than
+// that goes on over other pages. In points.
+qreal pointsOnOnePage(const QString& html, const QPagedPaintDevice& device);
 void printReport(const QString& html, bool isOnePage, QPagedPaintDevice& device);
 // A4.
 QByteArray reportPdf(const QString& html, bool isOnePage);

@@ -61,7 +61,6 @@ ReviewPanel::ReviewPanel(ConfigurationReview& review, SettingPlaces& places, QWi
 {
     setModel(model_);
     table()->setIconSize({kMarkSize, kMarkSize});
-    table()->horizontalHeader()->setTextElideMode(Qt::ElideRight);
     elideInTheMiddle(table(), DifferenceModel::Caption);
     for (const char* key : kSides)
         against_->addItem(QLatin1String(key));
@@ -131,6 +130,11 @@ void ReviewPanel::showState()
     table()->clearSpans();
     for (int line = 0; line < model_.problems(); ++line)
         table()->setSpan(line, DifferenceModel::Now, 1, 2);
+    for (int line = 0; line < model_.rowCount(); ++line) {
+        if (model_.isHead(line))
+            table()->setSpan(line, DifferenceModel::Caption, 1,
+                             DifferenceModel::ColumnCount - DifferenceModel::Caption);
+    }
     fitTable();
 }
 

@@ -1,6 +1,5 @@
 #include "dialog/unsaved_bar.h"
 
-#include "base/clock.h"
 #include "xml/xml_document.h"
 
 #include <QCoreApplication>
@@ -24,9 +23,7 @@ QString words(const char* key)
 
 QString nameOf(const review::Unsaved& unsaved)
 {
-    const bool isToday = unsaved.moment.date() == now().date();
-    return words("rev_140").arg(
-        unsaved.moment.toString(isToday ? QStringLiteral("HH:mm") : QStringLiteral("dd.MM.yyyy HH:mm")));
+    return words("rev_140").arg(momentOf(unsaved));
 }
 
 } // namespace

@@ -121,6 +121,12 @@ std::vector<KeptUnsaved> keptUnsaved(const QString& folder)
     return keptAs(folder, {});
 }
 
+QString momentOf(const Unsaved& unsaved)
+{
+    const bool isToday = unsaved.moment.date() == now().date();
+    return unsaved.moment.toString(isToday ? QStringLiteral("HH:mm") : QStringLiteral("dd.MM.yyyy HH:mm"));
+}
+
 std::vector<int> editedKeys(const Unsaved& unsaved)
 {
     std::vector<int> keys;

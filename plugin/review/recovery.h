@@ -41,6 +41,9 @@ std::optional<Unsaved> unsavedIn(const QString& path);
 std::vector<KeptUnsaved> keptUnsaved(const QString& folder, const QString& subject);
 std::vector<KeptUnsaved> keptUnsaved(const QString& folder);
 
+// When edits were made: the time, on another day its date too.
+QString momentOf(const Unsaved& unsaved);
+
 // The keys (file_keys.h) that the edits have changed, and of these the ones that a person would count.
 std::vector<int> editedKeys(const Unsaved& unsaved);
 std::vector<int> ownKeys(const Unsaved& unsaved);

@@ -153,7 +153,7 @@ bool isUnfilled(const Values& values, int row)
     const Setting& setting = values.setting(row);
     const Number* number = setting.number();
     const QString& value = values.value(row);
-    return setting.base().numbers.outer > 0 &&
+    return setting.shown() && setting.shown()->column > 0 &&
            (value.isEmpty() || (number && number->blankIsZero && value == QLatin1String("0")));
 }
 

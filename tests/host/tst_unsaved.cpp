@@ -190,7 +190,7 @@ private Q_SLOTS:
         window->close();
         for (const QString& folder : {QString(), kept_->path()}) {
             if (!folder.isEmpty())
-                QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^changes of .{16}: $"));
+                QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^changes of \\d\\d:\\d\\d: $"));
             const vlk::Paths paths{{}, folder, {}, {}};
             host_.send(Message::SetPaths, &paths);
         }

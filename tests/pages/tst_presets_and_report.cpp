@@ -1,6 +1,7 @@
 // What is made of a configuration as a whole: presets, and the report.
 
 #include "dialog/difference_model.h"
+#include "dialog/report_sheet.h"
 #include "pages/opened_configuration.h"
 #include "support/files.h"
 #include "support/full_disk.h"
@@ -199,6 +200,18 @@ private Q_SLOTS:
         const FullDisk disk(10);
         QCOMPARE(save("pushButton_ReportPdf", folder_.filePath("full.pdf")), QByteArray("no file"));
         QCOMPARE(notice->text(), QString("rev_198"));
+    }
+
+    // One page is filled, with letters that can be read.
+    void onePageIsFilled()
+    {
+        QBuffer file;
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        const QPdfWriter pdf(&file);
+        const QString line = "<p>A setting and its value</p>";
+        QCOMPARE(vlk::pointsOnOnePage(line.repeated(5), pdf), 12.0);
+        const qreal points = vlk::pointsOnOnePage(line.repeated(35), pdf);
+        QVERIFY2(points > 6 && points < 12, qPrintable(QString::number(points)));
     }
 };
 

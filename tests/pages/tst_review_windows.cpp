@@ -181,6 +181,9 @@ private Q_SLOTS:
         type(dialog_->findChild<QWidget*>("page_Light")->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main"),
              "5555");
         QCOMPARE(child<QToolButton>("toolButton_Differences")->text(), QString("1"));
+        // What full setup makes of it is no edit.
+        dialog_->switchToFull();
+        QCOMPARE(child<QToolButton>("toolButton_Differences")->text(), QString("1"));
     }
 
     // What is not chosen stays, in quick setup too.
