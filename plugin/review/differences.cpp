@@ -19,12 +19,6 @@ QString there(const QString& text)
     return text.isNull() ? QStringLiteral("") : text;
 }
 
-// Of the section that the path begins with; behind all of them where no table has it.
-int tableOfSection(const QString& path)
-{
-    return FileKeys::all().tableOfSection(path);
-}
-
 int sizeOf(const auto& lists)
 {
     const auto add = [](std::size_t sum, const auto& list) { return sum + list.size(); };
@@ -70,7 +64,7 @@ void Differences::compareStrangers()
     for (const Stranger& stranger : after_.strangers())
         after.insert(stranger.path, there(stranger.text));
     const auto add = [&](const Difference& difference) {
-        strangers_[tableOfSection(difference.path)].push_back(difference);
+        strangers_[FileKeys::all().tableOfSection(difference.path)].push_back(difference);
     };
     for (const Stranger& stranger : before_.strangers()) {
         const QString now = after.take(stranger.path);
