@@ -1,5 +1,6 @@
 // Converting on the command line and filtering, beside what they cannot do without: a table of numbers beside
-// std::to_chars of the same cells into a buffer and to a file, on one core; a filter within 100 ms.
+// std::to_chars of the same cells into a buffer and to a file, by the time that a core works on either; the
+// same on all cores beside one; a filter within 100 ms.
 
 #include "bench/side_by_side.h"
 #include "telemetry/files/export_form.h"
@@ -9,6 +10,8 @@
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
+
+#include <sys/resource.h>
 
 using namespace vlk;
 
@@ -101,23 +104,55 @@ char* put(char* to, const Cell& cell)
     return to;
 }
 
-void convertToCsv(benchmark::State& state)
+// Of a core, whatever else the machine does meanwhile.
+template <class Work>
+double workingSeconds(int who, Work work)
 {
-    const QTemporaryDir folder;
-    const RecordStore records = drive(300'000);
-    QFile file(folder.filePath("drive.tmi"));
-    if (!file.open(QIODevice::WriteOnly) || !exportRecords(file, records, ExportForm::tmi, {}))
-        qFatal("no file");
-    file.close();
-    const auto convert = [&] {
+    const auto worked = [who] {
+        rusage usage{};
+        getrusage(who, &usage);
+        const auto seconds = [](const timeval& time) {
+            return double(time.tv_sec) + 1e-6 * double(time.tv_usec);
+        };
+        return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+    };
+    const double before = worked();
+    work();
+    return worked() - before;
+}
+
+class StoredDrive
+{
+public:
+    explicit StoredDrive(const RecordStore& records)
+    {
+        QFile file(path("drive.tmi"));
+        if (!file.open(QIODevice::WriteOnly) || !exportRecords(file, records, ExportForm::tmi, {}))
+            qFatal("no file");
+    }
+
+    QString path(const char* name) const { return folder_.filePath(QLatin1String(name)); }
+
+    void convert(const QString& cores) const
+    {
         QProcess process;
-        process.setStandardOutputFile(folder.filePath("converted.csv"));
-        process.start("taskset", {"-c", "0", VLK_COMMAND, "convert", file.fileName(), "--to", "csv"});
+        process.setStandardOutputFile(path("converted.csv"));
+        process.start("taskset", {"-c", cores, VLK_COMMAND, "convert", path("drive.tmi"), "--to", "csv"});
         if (!process.waitForFinished() || process.exitCode() != 0)
             qFatal("not converted");
-    };
-    const auto printAll = [&, cells = cellsOf(records)] {
-        QFile plain(folder.filePath("plain.csv"));
+    }
+
+private:
+    const QTemporaryDir folder_;
+};
+
+void convertToCsv(benchmark::State& state)
+{
+    const RecordStore records = drive(300'000);
+    const StoredDrive stored(records);
+    const auto convert = [&] { return workingSeconds(RUSAGE_CHILDREN, [&] { stored.convert("0"); }); };
+    const auto print = [&, cells = cellsOf(records)] {
+        QFile plain(stored.path("plain.csv"));
         std::vector<char> buffer(65'536);
         char* end = buffer.data();
         if (!plain.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
@@ -130,7 +165,15 @@ void convertToCsv(benchmark::State& state)
         }
         plain.write(buffer.data(), end - buffer.data());
     };
+    const auto printAll = [&] { return workingSeconds(RUSAGE_SELF, print); };
     bench::sideBySide(state, "x to_chars", convert, printAll);
+}
+
+void convertOnTwoCores(benchmark::State& state)
+{
+    const StoredDrive stored(drive(300'000));
+    bench::sideBySide(
+        state, "x one core", [&] { stored.convert("0,1"); }, [&] { stored.convert("0"); });
 }
 
 // A million records; their columns are decoded anew each time, as when a file was opened.
@@ -148,4 +191,5 @@ void filter(benchmark::State& state)
 } // namespace
 
 BENCHMARK(convertToCsv)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(convertOnTwoCores)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(filter)->Unit(benchmark::kMillisecond);

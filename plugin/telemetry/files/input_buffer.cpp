@@ -1,5 +1,7 @@
 #include "telemetry/files/input_buffer.h"
 
+#include "telemetry/files/checksums.h"
+
 #include <algorithm>
 #include <cstring>
 
@@ -31,13 +33,30 @@ void InputBuffer::skip(std::size_t count)
     position_ += static_cast<qint64>(skipped);
 }
 
+void InputBuffer::startSum()
+{
+    isSummed_ = true;
+    summed_ = begin_;
+}
+
+std::uint32_t InputBuffer::sum()
+{
+    if (isSummed_)
+        sum_ =
+            crc32(sum_, {reinterpret_cast<const std::uint8_t*>(bytes_.data()) + summed_, begin_ - summed_});
+    summed_ = begin_;
+    return sum_;
+}
+
 void InputBuffer::fill(std::size_t count)
 {
     if (atEnd_)
         return;
+    sum();
     std::memmove(bytes_.data(), bytes_.data() + begin_, end_ - begin_);
     end_ -= begin_;
     begin_ = 0;
+    summed_ = 0;
     while (end_ < std::min(count, kCapacity) && !atEnd_) {
         const qint64 got = device_.read(bytes_.data() + end_, static_cast<qint64>(kCapacity - end_));
         atEnd_ = got <= 0;

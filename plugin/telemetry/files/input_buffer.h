@@ -30,6 +30,10 @@ public:
     // How many bytes were given out or skipped.
     qint64 position() const { return position_; }
 
+    // From here on their CRC-32 is kept, taken over large pieces.
+    void startSum();
+    std::uint32_t sum();
+
 private:
     void fill(std::size_t count);
 
@@ -39,6 +43,9 @@ private:
     std::size_t end_ = 0;
     qint64 position_ = 0;
     bool atEnd_ = false;
+    bool isSummed_ = false;
+    std::size_t summed_ = 0; // up to here, of those in the buffer
+    std::uint32_t sum_ = 0;
 };
 
 } // namespace vlk

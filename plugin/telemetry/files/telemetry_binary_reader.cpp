@@ -2,7 +2,8 @@
 
 #include "telemetry/files/binary_layout.h"
 #include "telemetry/files/checksums.h"
-#include "telemetry/record/record_head.h"
+
+#include <algorithm>
 
 namespace vlk {
 
@@ -28,17 +29,6 @@ bool looksLikeRecord(Bytes start)
     return record[0] == kExtraPacket || (record[0] == kTelemetryRecord && record[1] == kProtocol3);
 }
 
-// Whether the length is the one that the mask, or the size of an extra packet, asks for.
-bool lengthAgrees(Bytes start)
-{
-    const Bytes record = behind(start, binary::kLengthBytes);
-    if (record[0] == kExtraPacket)
-        return record.size() >= 3 && lengthAt(start) == std::size_t{ExtraPacket::kUncountedBytes} +
-                                                            qFromLittleEndian<quint16>(&record[1]);
-    return start.size() >= kHeadWithLength &&
-           lengthAt(start) == static_cast<std::size_t>(readHead(record).mask.recordSize());
-}
-
 } // namespace
 
 TelemetryBinaryReader::TelemetryBinaryReader(QIODevice& device) : input_(device)
@@ -60,7 +50,7 @@ bool TelemetryBinaryReader::step()
     } else {
         damageAt_ = input_.position();
         isCut_ = recordIsCutHere();
-        pass(1);
+        input_.skip(1);
         passDamage();
     }
     return true;
@@ -84,6 +74,7 @@ void TelemetryBinaryReader::readHeader()
         report(FileDamage::CutShort, 0, std::ssize(header));
     }
     input_.skip(header.size());
+    input_.startSum();
 }
 
 // The size of the record that stands here whole, with its length; 0 if none does.
@@ -103,6 +94,22 @@ std::size_t TelemetryBinaryReader::soundRecordHere()
     // Asking for more may move what `start` looks at.
     const std::size_t size = binary::kLengthBytes + lengthAt(start);
     return input_.peek(size).size() == size ? size : 0;
+}
+
+// Whether the length is the one that the mask, or the size of an extra packet, asks for.
+bool TelemetryBinaryReader::lengthAgrees(Bytes start)
+{
+    const Bytes record = behind(start, binary::kLengthBytes);
+    if (record[0] == kExtraPacket)
+        return record.size() >= 3 && lengthAt(start) == std::size_t{ExtraPacket::kUncountedBytes} +
+                                                            qFromLittleEndian<quint16>(&record[1]);
+    if (start.size() < kHeadWithLength)
+        return false;
+    if (!std::equal(head_.begin(), head_.end(), record.begin())) {
+        std::copy_n(record.begin(), head_.size(), head_.begin());
+        lengthOfHead_ = static_cast<std::size_t>(readHead(record).mask.recordSize());
+    }
+    return lengthAt(start) == lengthOfHead_;
 }
 
 // Whether a record begins, or the file ends, that many bytes ahead; it may end in the head of a record.
@@ -146,7 +153,7 @@ void TelemetryBinaryReader::takeRecord(std::size_t size)
 {
     contents_.records.add(behind(input_.peek(size), binary::kLengthBytes));
     ++total_;
-    pass(size);
+    input_.skip(size);
 }
 
 // To the next record, or to the end; a long way in several steps.
@@ -161,7 +168,7 @@ void TelemetryBinaryReader::passDamage()
                    input_.position() - begin);
             return;
         }
-        pass(1);
+        input_.skip(1);
     }
 }
 
@@ -181,17 +188,11 @@ void TelemetryBinaryReader::finish()
     if (!headerHolds_)
         return;
     const qint64 behindHeader = binary::kHeaderBytes;
-    if (crc_ != recordsCrc_)
+    if (input_.sum() != recordsCrc_)
         report(FileDamage::RecordsChecksum, behindHeader, input_.position() - behindHeader);
     contents_.announced = count_;
     if (static_cast<quint16>(total_) != count_)
         report(FileDamage::RecordCount, binary::kCountAt, sizeof(count_));
-}
-
-void TelemetryBinaryReader::pass(std::size_t size)
-{
-    crc_ = crc32(crc_, input_.peek(size));
-    input_.skip(size);
 }
 
 void TelemetryBinaryReader::report(FileDamage::Kind kind, qint64 offset, qint64 bytes)

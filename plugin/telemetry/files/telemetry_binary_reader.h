@@ -7,6 +7,7 @@
 
 #include "telemetry/files/input_buffer.h"
 #include "telemetry/files/telemetry_contents.h"
+#include "telemetry/record/record_head.h"
 
 namespace vlk {
 
@@ -28,13 +29,13 @@ private:
     void readHeader();
     std::size_t recordHere();
     std::size_t soundRecordHere();
+    bool lengthAgrees(std::span<const std::uint8_t> start);
     bool leadsOn(std::size_t ahead);
     bool leadsOnSoon(std::size_t size);
     std::size_t oddRecordHere();
     void takeRecord(std::size_t size);
     void passDamage();
     bool recordIsCutHere();
-    void pass(std::size_t size);
     void report(FileDamage::Kind kind, qint64 offset, qint64 bytes);
 
     InputBuffer input_;
@@ -46,7 +47,9 @@ private:
     bool headerHolds_ = false;
     quint16 count_ = 0;
     quint32 recordsCrc_ = 0;
-    quint32 crc_ = 0;
+    // The head that was looked at last, and the length that its mask asks for: mostly the next one's too.
+    std::array<std::uint8_t, RecordHead::kBytes> head_{};
+    std::size_t lengthOfHead_ = RecordHead::kBytes;
 };
 
 TelemetryContents readTelemetryBinary(QIODevice& device);

@@ -68,12 +68,20 @@ std::size_t RecordStore::LayoutHash::operator()(const RecordLayout& layout) cons
 
 void RecordStore::add(Bytes record)
 {
+    const bool hasHead = record.size() >= head_.size();
+    const bool isKnown = head_[0] == kTelemetryRecord;
+    if (isKnown && hasHead && std::equal(head_.begin(), head_.end(), record.begin()))
+        return put(layoutOfHead_, behind(record, RecordHead::kBytes));
     const RecordHead head = readHead(record);
     if (head.type == kExtraPacket)
         return add(RecordLayout{RecordLayout::Packet, head.type, 0, {}, {}}, record);
     const RecordLayout::Form form =
         head.type == kTelemetryRecord ? RecordLayout::Record : RecordLayout::OtherRecord;
     add(RecordLayout{form, head.type, head.ver, head.mask, head.mask}, behind(record, RecordHead::kBytes));
+    if (!hasHead)
+        return;
+    std::copy_n(record.begin(), head_.size(), head_.begin());
+    layoutOfHead_ = lastLayout_;
 }
 
 void RecordStore::add(std::uint8_t ver, const FieldMask& mask, const TmiPage_Zeta3::ValueBlock& block)
@@ -115,13 +123,18 @@ std::size_t RecordStore::numberOf(const RecordLayout& layout)
 
 void RecordStore::add(const RecordLayout& layout, Bytes bytes)
 {
+    put(numberOf(layout), bytes);
+}
+
+void RecordStore::put(std::size_t layout, Bytes bytes)
+{
     bytes = bytes.first(std::min(bytes.size(), kLongest));
     if (pieces_.empty() || pieces_.back().size() + kLengthBytes + bytes.size() > kPieceBytes) {
         pieces_.emplace_back();
         pieces_.back().reserve(kPieceBytes);
     }
     std::vector<std::uint8_t>& piece = pieces_.back();
-    places_.push_back({pieces_.size() - 1, piece.size(), numberOf(layout)});
+    places_.push_back({pieces_.size() - 1, piece.size(), layout});
     piece.push_back(static_cast<std::uint8_t>(bytes.size() & 0xFF));
     piece.push_back(static_cast<std::uint8_t>(bytes.size() >> 8));
     piece.insert(piece.end(), bytes.begin(), bytes.end());

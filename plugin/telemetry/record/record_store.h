@@ -109,6 +109,7 @@ private:
     };
 
     std::size_t numberOf(const RecordLayout& layout);
+    void put(std::size_t layout, std::span<const std::uint8_t> bytes);
 
     // Pieces of memory, in which each record stands behind its length in two bytes.
     std::vector<std::vector<std::uint8_t>> pieces_;
@@ -116,6 +117,9 @@ private:
     std::vector<RecordLayout> layouts_;
     std::unordered_map<RecordLayout, std::size_t, LayoutHash> numbers_;
     std::size_t lastLayout_ = 0;
+    // Of the record that came whole last: mostly the next one has the same.
+    std::array<std::uint8_t, FieldMask::kHeadBytes> head_{};
+    std::size_t layoutOfHead_ = 0;
     std::optional<qint32> utcOffset_;
 };
 
