@@ -3,8 +3,6 @@
 #include "base/translated.h"
 #include "telemetry/view/record_cell.h"
 
-#include <QDateTime>
-
 #include <algorithm>
 #include <cmath>
 
@@ -59,12 +57,6 @@ std::vector<double> roundMoments(const TimeSpan& span, qint64 step, qint32 utcOf
     return moments;
 }
 
-QString text(double time, qint32 utcOffset, const QString& form)
-{
-    return QDateTime::fromSecsSinceEpoch(static_cast<qint64>(time), Qt::OffsetFromUTC, utcOffset)
-        .toString(form);
-}
-
 QString counted(qint64 count, const char* unit)
 {
     return QString::number(count) + QChar::Nbsp + translated(unit);
@@ -85,18 +77,22 @@ TimeTicks timeTicks(const TimeSpan& span, int most, qint32 utcOffset)
 
 QString tickText(double time, double step, qint32 utcOffset)
 {
-    if (step >= kDay)
-        return text(time, utcOffset,
-                    step < 28 * kDay ? QStringLiteral("dd.MM.") : QStringLiteral("dd.MM.yyyy"));
-    return text(time, utcOffset,
-                step < kMinute ? QStringLiteral("dd.MM. HH:mm:ss") : QStringLiteral("dd.MM. HH:mm"));
+    const char* form = "dd.MM.yyyy";
+    if (step < kMinute)
+        form = "dd.MM. HH:mm:ss";
+    else if (step < kDay)
+        form = "dd.MM. HH:mm";
+    else if (step < 28 * kDay)
+        form = "dd.MM.";
+    return momentText(static_cast<qint64>(time), utcOffset, form);
 }
 
 QString momentText(double time, double other, qint32 utcOffset)
 {
     const auto day = [&](double moment) { return std::floor((moment + utcOffset) / kDay); };
-    return day(time) == day(other) ? text(time, utcOffset, QStringLiteral("HH:mm:ss"))
-                                   : momentText(static_cast<qint64>(time), utcOffset);
+    const auto seconds = static_cast<qint64>(time);
+    return day(time) == day(other) ? momentText(seconds, utcOffset, "HH:mm:ss")
+                                   : momentText(seconds, utcOffset);
 }
 
 QString durationText(double seconds)

@@ -1,6 +1,7 @@
 #include "telemetry/fuel_view/fuel_texts.h"
 
-#include <QDateTime>
+#include "telemetry/view/record_cell.h"
+
 #include <QLocale>
 
 #include <cmath>
@@ -11,12 +12,6 @@ namespace {
 
 constexpr int kShownPlaceDecimals = 6;
 const QString kDash = QStringLiteral("–");
-
-QString localText(double seconds, qint32 utcOffset, const char* format)
-{
-    const auto local = static_cast<qint64>(seconds) + utcOffset;
-    return QDateTime::fromSecsSinceEpoch(local, Qt::UTC).toString(QLatin1String(format));
-}
 
 } // namespace
 
@@ -32,12 +27,13 @@ QString signedText(double number, int decimals)
 
 QString listTime(double seconds, qint32 utcOffset, bool withSeconds)
 {
-    return localText(seconds, utcOffset, withSeconds ? "dd.MM.yyyy HH:mm:ss" : "dd.MM.yyyy HH:mm");
+    return momentText(static_cast<qint64>(seconds), utcOffset,
+                      withSeconds ? "dd.MM.yyyy HH:mm:ss" : "dd.MM.yyyy HH:mm");
 }
 
 QString listDay(double seconds, qint32 utcOffset)
 {
-    return localText(seconds, utcOffset, "dd.MM.yyyy");
+    return momentText(static_cast<qint64>(seconds), utcOffset, "dd.MM.yyyy");
 }
 
 QString placeText(double latitude, double longitude)

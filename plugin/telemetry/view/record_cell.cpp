@@ -109,10 +109,9 @@ QString zoneText(qint32 utcOffset)
     return text;
 }
 
-QString momentText(qint64 seconds, qint32 utcOffset)
+QString momentText(qint64 seconds, qint32 utcOffset, const char* form)
 {
-    return QDateTime::fromSecsSinceEpoch(seconds + utcOffset, Qt::UTC)
-        .toString(QStringLiteral("dd.MM.yyyy HH:mm:ss"));
+    return QDateTime::fromSecsSinceEpoch(seconds + utcOffset, Qt::UTC).toString(QLatin1String(form));
 }
 
 } // namespace vlk

@@ -25,7 +25,7 @@ int decimalsOf(const CsvColumn& column);
 QString headText(const CsvColumn& column, const TelemetryTitles& titles);
 // "UTC+3", "UTC-4:30".
 QString zoneText(qint32 utcOffset);
-// "20.11.2026 08:29:44".
-QString momentText(qint64 seconds, qint32 utcOffset);
+// "20.11.2026 08:29:44", or in another form of QDateTime's.
+QString momentText(qint64 seconds, qint32 utcOffset, const char* form = "dd.MM.yyyy HH:mm:ss");
 
 } // namespace vlk

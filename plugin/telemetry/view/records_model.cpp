@@ -6,7 +6,6 @@
 #include "telemetry/view/item_display.h"
 #include "telemetry/view/record_order.h"
 
-#include <QDateTime>
 #include <QFont>
 #include <QGuiApplication>
 #include <QLocale>
@@ -327,8 +326,8 @@ QString RecordsModel::textToCopy(int record, int column) const
     }
     // English spreadsheets know no days before months with points between them.
     if (isHeld && kind(column) == CellKind::time && QLocale().language() != QLocale::Russian)
-        return QDateTime::fromSecsSinceEpoch(qint64(*raw(record, column)) + shown_->utcOffset(), Qt::UTC)
-            .toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+        return momentText(static_cast<quint32>(*raw(record, column)), shown_->utcOffset(),
+                          "yyyy-MM-dd HH:mm:ss");
     return text(record, column).simplified();
 }
 
