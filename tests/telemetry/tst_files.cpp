@@ -369,6 +369,8 @@ private Q_SLOTS:
         // The last one cell: what salvaging brings.
         const QByteArray sparse = QByteArray(page).replace("\"1\"", "\"11\"").replace(">1<", ">2<");
         const QByteArray other = QByteArray(whole).replace(">1<", ">3<");
+        const QByteArray full = sparse + "<Code>7</Code>\n</Page>\n";
+        const QByteArray lacking = sparse + "</Page>\n";
         // Of the one in the middle, and what of it is spoilt.
         const auto spoilt = [&](const char* part, const QByteArray& by) {
             return other + QByteArray(whole).replace(part, by) + other;
@@ -402,6 +404,14 @@ private Q_SLOTS:
             .row("a line left out", spoilt("<NumPage>1</NumPage>\n", ""), lost(-21), 3, false, "3 3")
             .row("lines left out everywhere", sparse + "</Page>\n" + sparse + "</Page>\n", {}, 2, false,
                  "2 2")
+            .row("lacks what the page before has", full + lacking + full,
+                 {FileDamage::Records, full.size(), lacking.size()}, 3, false, "2 2")
+            .row("lacks what the page behind has", lacking + full, {}, 2, false, "2 2")
+            .row("lacks what other masks ask for", other + lacking + other, {}, 3, false, "3 2 3")
+            .row("lacks one, the other ends as it", QByteArray(lacking).replace("/NumPage", "/Code"),
+                 {FileDamage::Records, 0, lacking.size() - 3}, 1, false, "")
+            .row("lacks one and its end", full + sparse, {FileDamage::CutShort, full.size(), sparse.size()},
+                 2, true, "2")
             .row("no mask", spoilt("\"1\">", "\"x\">"), lost(0), 3, false, "3 3")
             .row("bytes between pages", other + "XXXX\n" + other, {FileDamage::Records, other.size(), 5}, 2,
                  false, "3 3")
