@@ -1608,6 +1608,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_370"><translation>The headings of the calibration table do not tell which column is the volume. Call it Volume, l</translation></message>
     <message id="rec_371"><translation>The file is being read.</translation></message>
     <message id="rec_372"><translation>No volume can be computed with this calibration table: it gives none for any level of these records.</translation></message>
+    <message id="rec_380"><translation>Byte %1: the record before it has no end. Nothing is lost.</translation></message>
     <message id="rec_400"><translation>%1 %2&#160;l is below the noise of the level, %3&#160;l: expect false ones.</translation></message>
     <message id="rev_230"><translation>alarm, alarm zone, temperature threshold, minimum</translation></message>
     <message id="rev_231"><translation>alarm, power failure</translation></message>

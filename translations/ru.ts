@@ -1608,6 +1608,7 @@
     <message id="rec_370"><translation>Заголовки тарировочной таблицы не говорят, в каком столбце объём. Назовите его «Объём, л»</translation></message>
     <message id="rec_371"><translation>Файл читается.</translation></message>
     <message id="rec_372"><translation>По этой тарировочной таблице объём не вычислить: в ней нет объёма ни для одного уровня из этих записей.</translation></message>
+    <message id="rec_380"><translation>Байт %1: у записи перед ним нет конца. Ничего не потеряно.</translation></message>
     <message id="rec_400"><translation>%1 %2&#160;л ниже шума уровня, %3&#160;л: возможны ложные.</translation></message>
     <message id="rev_230"><translation>тревога, тревожная зона, порог температуры, минимум</translation></message>
     <message id="rev_231"><translation>тревога, пропадание питания</translation></message>

@@ -338,7 +338,9 @@ private Q_SLOTS:
         press("label_Damage_Action1");
         QCOMPARE(table_->model()->rowCount(), before + 1);
         QCOMPARE(numbers().value(1), QString("1001"));
-        QVERIFY(!text("label_Damage").contains("rec_076"));
+        QCOMPARE(text("label_Damage"), QString("tmiw_188 rec_380"));
+        // Curves, track and fuel tell there too.
+        QCOMPARE(window->findChildren<QWidget*>("noticeBar").size(), 1);
     }
 };
 

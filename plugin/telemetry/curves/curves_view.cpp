@@ -9,7 +9,6 @@
 #include "telemetry/curves/curves_table.h"
 #include "telemetry/curves/hand_over.h"
 #include "telemetry/curves/span_moves.h"
-#include "typing/notice_bar.h"
 #include "windows/named_widget.h"
 
 #include <QComboBox>
@@ -32,10 +31,9 @@ constexpr int kStripShare = 4; // of the height, one in
 
 } // namespace
 
-CurvesView::CurvesView(ShownRecords* records, QWidget* parent)
+CurvesView::CurvesView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
     : QWidget(parent), records_(records), model_(new CurvesModel(records, this)),
-      bar_(new NoticeBar(this, QStringLiteral("label_CurvesNotice"))), handOver_(new HandOver(this, bar_)),
-      presets_(namedWidget<QComboBox>("comboBox_CurvePreset", this)),
+      handOver_(new HandOver(this, bar)), presets_(namedWidget<QComboBox>("comboBox_CurvePreset", this)),
       choose_(namedWidget<QPushButton>("pushButton_ChooseCurves", this)),
       cursorA_(namedWidget<QToolButton>("toolButton_CursorA", this)),
       cursorB_(namedWidget<QToolButton>("toolButton_CursorB", this)),
@@ -68,7 +66,6 @@ CurvesView::CurvesView(ShownRecords* records, QWidget* parent)
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 0, 6, 0);
     layout->setSpacing(2);
-    layout->addWidget(bar_);
     layout->addLayout(tools);
     layout->addWidget(plot_, 1);
     layout->addWidget(strip_);
@@ -140,7 +137,6 @@ void CurvesView::retranslate()
     fillPresets();
     model_->retranslate();
     plot_->retranslate();
-    bar_->retranslate();
 }
 
 void CurvesView::fillPresets()

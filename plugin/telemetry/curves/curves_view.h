@@ -27,7 +27,8 @@ class CurvesView : public QWidget
     Q_OBJECT
 
 public:
-    explicit CurvesView(ShownRecords* records, QWidget* parent = nullptr);
+    // `bar`: the window's, which tells what was handed over; null tells nothing.
+    explicit CurvesView(ShownRecords* records, QWidget* parent = nullptr, NoticeBar* bar = nullptr);
     ~CurvesView() override;
 
     // What stands above a picture, the vehicle or the file.
@@ -62,7 +63,6 @@ private:
 
     ShownRecords* records_;
     CurvesModel* model_;
-    NoticeBar* bar_;
     HandOver* handOver_;
     QComboBox* presets_;
     QPushButton* choose_;

@@ -3,6 +3,7 @@
 #include "base/file_name.h"
 #include "base/translated.h"
 #include "link/device.h"
+#include "telemetry/view/records_notices.h"
 #include "typing/file_error.h"
 #include "typing/notice_bar.h"
 
@@ -21,7 +22,6 @@ namespace vlk {
 namespace {
 
 constexpr QSize kPictureSize(1200, 600);
-constexpr int kSavedNotice = 1;
 
 // Of the size in which it is shown: a printer would make many of its pixels of the points of a font.
 void paintInPixels(QPainter& painter, const PaintPicture& paint)
@@ -67,13 +67,16 @@ void HandOver::save(const QString& path, const WriteContent& write)
     QString reason;
     const bool isSaved = replaceFile(path, write, &reason);
     const QString shown = QDir::toNativeSeparators(path);
+    if (bar_ == nullptr)
+        return;
     if (isSaved)
-        bar_->tellNews(kSavedNotice, [shown] {
+        bar_->tellNews(kHandedOver, [shown] {
             return Notice{Mark::right, translated("rec_170").arg(shown), {}};
         });
     else
-        bar_->tell(kSavedNotice,
-                   {Mark::invalid, translated("rec_171").arg(shown, fileErrorText(reason)), {}});
+        bar_->tell(kHandedOver, [shown, reason] {
+            return Notice{Mark::invalid, translated("rec_171").arg(shown, fileErrorText(reason)), {}};
+        });
 }
 
 void HandOver::savePicture(const QString& path, const PaintPicture& paint)
@@ -127,7 +130,8 @@ void HandOver::print(const PaintPicture& paint)
         return;
     QPainter painter;
     if (!painter.begin(&printer)) {
-        bar_->tell(kSavedNotice, {Mark::invalid, translated("rec_172"), {}});
+        if (bar_ != nullptr)
+            bar_->tell(kHandedOver, [] { return Notice{Mark::invalid, translated("rec_172"), {}}; });
         return;
     }
     // The picture as it is on a screen, as large as the page.

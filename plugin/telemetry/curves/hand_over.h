@@ -26,7 +26,7 @@ class HandOver : public QObject
     Q_OBJECT
 
 public:
-    // Both are the window's own.
+    // Without a bar nothing is told.
     HandOver(QWidget* window, NoticeBar* bar);
 
     // By the suffix of the path: as SVG, as PNG otherwise.

@@ -8,7 +8,6 @@
 #include "telemetry/fuel_view/tank_button.h"
 #include "typing/empty_note.h"
 #include "typing/field_mark.h"
-#include "typing/notice_bar.h"
 #include "typing/number_entry.h"
 #include "typing/table_look.h"
 #include "windows/named_widget.h"
@@ -53,13 +52,13 @@ QDoubleSpinBox* litresBox(const char* name, QWidget* parent)
 
 } // namespace
 
-FuelView::FuelView(ShownRecords* records, QWidget* parent)
+FuelView::FuelView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
     : QWidget(parent), records_(*records), model_(new FuelListModel(this)),
-      bar_(new NoticeBar(this, QStringLiteral("label_FuelNotice"))), handOver_(new HandOver(this, bar_)),
-      vehicleLabel_(new QLabel(this)), vehicle_(namedWidget<QLineEdit>("lineEdit_FuelVehicle", this)),
-      tanks_(new TankButton(this)), riseLabel_(new QLabel(this)),
-      rise_(litresBox("doubleSpinBox_FuelRise", this)), fallLabel_(new QLabel(this)),
-      fall_(litresBox("doubleSpinBox_FuelFall", this)), buttons_(new ListButtons("Fuel", handOver_, this)),
+      handOver_(new HandOver(this, bar)), vehicleLabel_(new QLabel(this)),
+      vehicle_(namedWidget<QLineEdit>("lineEdit_FuelVehicle", this)), tanks_(new TankButton(this)),
+      riseLabel_(new QLabel(this)), rise_(litresBox("doubleSpinBox_FuelRise", this)),
+      fallLabel_(new QLabel(this)), fall_(litresBox("doubleSpinBox_FuelFall", this)),
+      buttons_(new ListButtons("Fuel", handOver_, this)),
       print_(namedWidget<QPushButton>("pushButton_PrintFuel", this)),
       news_(namedWidget<QLabel>("label_FuelNews", this)),
       table_(namedWidget<QTableView>("tableView_Fuel", this)), empty_(nullptr)
@@ -89,7 +88,6 @@ FuelView::FuelView(ShownRecords* records, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 6, 6, 6);
     layout->setSpacing(6);
-    layout->addWidget(bar_);
     auto* tanks = new QHBoxLayout;
     tanks->setSpacing(8);
     tanks->addWidget(vehicleLabel_);
@@ -269,7 +267,6 @@ void FuelView::retranslate()
     buttons_->retranslate(tr("rec_263"));
     print_->setText(tr("rec_262"));
     table_->setAccessibleName(tr("rec_263"));
-    bar_->retranslate();
     tanks_->retranslate();
     model_->retranslate();
     showState();

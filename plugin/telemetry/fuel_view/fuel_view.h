@@ -36,7 +36,8 @@ public:
     // A picture of what is between two moments.
     using Picture = std::function<QImage(TimeSpan span, QSize size)>;
 
-    explicit FuelView(ShownRecords* records, QWidget* parent = nullptr);
+    // `bar`: the window's, which tells what was handed over; null tells nothing.
+    explicit FuelView(ShownRecords* records, QWidget* parent = nullptr, NoticeBar* bar = nullptr);
 
     // Under which tables are remembered: as its file names it, until the user calls it something else.
     void setVehicle(const QString& vehicle);
@@ -74,7 +75,6 @@ private:
 
     ShownRecords& records_;
     FuelListModel* model_;
-    NoticeBar* bar_;
     HandOver* handOver_;
     QLabel* vehicleLabel_;
     QLineEdit* vehicle_;

@@ -4,7 +4,6 @@
 #include "telemetry/fuel_view/list_buttons.h"
 #include "telemetry/fuel_view/summary_model.h"
 #include "typing/empty_note.h"
-#include "typing/notice_bar.h"
 #include "typing/table_look.h"
 #include "windows/named_widget.h"
 
@@ -24,11 +23,10 @@ constexpr const char* kOver[] = {"rec_271", "rec_272", "rec_273"};
 
 } // namespace
 
-SummaryView::SummaryView(ShownRecords* records, QWidget* parent)
-    : QWidget(parent), records_(*records), model_(new SummaryModel(this)),
-      bar_(new NoticeBar(this, QStringLiteral("label_SummaryNotice"))), overLabel_(new QLabel(this)),
+SummaryView::SummaryView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
+    : QWidget(parent), records_(*records), model_(new SummaryModel(this)), overLabel_(new QLabel(this)),
       over_(namedWidget<QComboBox>("comboBox_SummaryOver", this)),
-      buttons_(new ListButtons("Summary", new HandOver(this, bar_), this)),
+      buttons_(new ListButtons("Summary", new HandOver(this, bar), this)),
       table_(namedWidget<QTableView>("tableView_Summary", this)), empty_(nullptr)
 {
     setObjectName(QStringLiteral("widget_Summary"));
@@ -49,7 +47,6 @@ SummaryView::SummaryView(ShownRecords* records, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 6, 6, 6);
     layout->setSpacing(6);
-    layout->addWidget(bar_);
     layout->addLayout(head);
     layout->addWidget(table_, 1);
 
@@ -130,7 +127,6 @@ void SummaryView::retranslate()
     for (int i = 0; i < over_->count(); ++i)
         over_->setItemText(i, tr(kOver[i]));
     buttons_->retranslate(tr("rec_292"));
-    bar_->retranslate();
     table_->setAccessibleName(tr("rec_292"));
     tellEmpty();
     model_->retranslate();

@@ -24,7 +24,8 @@ class SummaryView : public QWidget
     Q_OBJECT
 
 public:
-    explicit SummaryView(ShownRecords* records, QWidget* parent = nullptr);
+    // `bar`: the window's, which tells what was handed over; null tells nothing.
+    explicit SummaryView(ShownRecords* records, QWidget* parent = nullptr, NoticeBar* bar = nullptr);
 
     // One of each record, none for no litres; and what was refuelled and drained.
     void setFuel(const NumberColumn& litres, const std::vector<FuelEvent>& events);
@@ -48,7 +49,6 @@ private:
     std::vector<FuelEvent> events_;
     std::unique_ptr<Journey> journey_; // made when it is looked at
     SummaryModel* model_;
-    NoticeBar* bar_;
     QLabel* overLabel_;
     QComboBox* over_;
     ListButtons* buttons_;

@@ -4,7 +4,6 @@
 #include "telemetry/curves/time_scale.h"
 #include "telemetry/track/track_canvas.h"
 #include "telemetry/track/track_model.h"
-#include "typing/notice_bar.h"
 #include "windows/named_widget.h"
 
 #include <QCheckBox>
@@ -26,10 +25,10 @@ constexpr int kTitleHeight = 30;
 
 } // namespace
 
-TrackView::TrackView(ShownRecords* records, QWidget* parent)
+TrackView::TrackView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
     : QWidget(parent), records_(records), model_(new TrackModel(records, this)),
-      bar_(new NoticeBar(this, QStringLiteral("label_TrackNotice"))), handOver_(new HandOver(this, bar_)),
-      columnsLabel_(new QLabel(this)), columns_(namedWidget<QComboBox>("comboBox_TrackValue", this)),
+      handOver_(new HandOver(this, bar)), columnsLabel_(new QLabel(this)),
+      columns_(namedWidget<QComboBox>("comboBox_TrackValue", this)),
       spanOnly_(namedWidget<QCheckBox>("checkBox_TrackSpanOnly", this)),
       fit_(namedWidget<QPushButton>("pushButton_FitTrack", this)),
       handOverMenu_(namedWidget<QPushButton>("pushButton_HandOverTrack", this)),
@@ -44,16 +43,15 @@ TrackView::TrackView(ShownRecords* records, QWidget* parent)
     auto* const layout = new QGridLayout(this);
     layout->setContentsMargins(6, 6, 6, 6);
     layout->setSpacing(6);
-    layout->addWidget(bar_, 0, 0, 1, 4);
-    layout->addWidget(columnsLabel_, 1, 0);
-    layout->addWidget(columns_, 1, 1);
-    layout->addWidget(fit_, 1, 2);
-    layout->addWidget(handOverMenu_, 1, 3);
-    layout->addWidget(spanOnly_, 2, 0, 1, 4);
-    layout->addWidget(canvas_, 3, 0, 1, 4);
-    layout->addWidget(place_, 4, 0, 1, 4);
+    layout->addWidget(columnsLabel_, 0, 0);
+    layout->addWidget(columns_, 0, 1);
+    layout->addWidget(fit_, 0, 2);
+    layout->addWidget(handOverMenu_, 0, 3);
+    layout->addWidget(spanOnly_, 1, 0, 1, 4);
+    layout->addWidget(canvas_, 2, 0, 1, 4);
+    layout->addWidget(place_, 3, 0, 1, 4);
     layout->setColumnStretch(1, 1);
-    layout->setRowStretch(3, 1);
+    layout->setRowStretch(2, 1);
     setFocusProxy(canvas_);
 
     connect(columns_, qOverload<int>(&QComboBox::activated), this, &TrackView::showColumn);
@@ -88,7 +86,6 @@ void TrackView::retranslate()
     });
     menu->addAction(tr("rec_189"), this, [this, painted] { handOver_->print(painted); });
     handOverMenu_->setMenu(menu);
-    bar_->retranslate();
     fillColumns();
     showPlace();
     canvas_->update();

@@ -23,7 +23,8 @@ class TrackView : public QWidget
     Q_OBJECT
 
 public:
-    explicit TrackView(ShownRecords* records, QWidget* parent = nullptr);
+    // `bar`: the window's, which tells what was handed over; null tells nothing.
+    explicit TrackView(ShownRecords* records, QWidget* parent = nullptr, NoticeBar* bar = nullptr);
 
     // What stands above a picture, the vehicle or the file.
     void setTitle(const QString& title);
@@ -41,7 +42,6 @@ private:
 
     ShownRecords* records_;
     TrackModel* model_;
-    NoticeBar* bar_;
     HandOver* handOver_;
     QLabel* columnsLabel_;
     QComboBox* columns_;

@@ -1,6 +1,7 @@
 #include "telemetry/view/damage_text.h"
 
 #include "base/translated.h"
+#include "telemetry/view/records_notices.h"
 #include "typing/notice_bar.h"
 
 #include <QLocale>
@@ -25,6 +26,12 @@ constexpr std::size_t kMostActions = 2;
 QString number(qint64 value)
 {
     return QLocale().toString(value);
+}
+
+// Where no byte is lost a record lacks its end alone.
+const char* sentenceOf(const FileDamage& place)
+{
+    return place.kind == FileDamage::Records && place.bytes == 0 ? "rec_380" : kSentences[place.kind];
 }
 
 struct Damage
@@ -52,7 +59,7 @@ QStringList sentences(const Damage& damage, std::size_t most)
                          : translated("tmiw_189").arg(number(damage.whole), number(damage.announced))};
     const std::size_t told = std::min(damage.places.size(), most);
     for (const FileDamage& place : std::span(damage.places).first(told))
-        said << QString(translated(kSentences[place.kind]))
+        said << QString(translated(sentenceOf(place)))
                     .replace(QLatin1String("%1"), number(place.offset))
                     .replace(QLatin1String("%2"), number(place.offset + place.bytes));
     if (damage.places.size() > told)
@@ -77,7 +84,7 @@ void showAll(QWidget* window, const Damage& damage)
 void tellDamage(NoticeBar* bar, const TelemetryContents& contents, const DamageActions& actions)
 {
     if (contents.damages.empty()) {
-        bar->end(0);
+        bar->end(kDamage);
         return;
     }
     // Damage of the header, or somewhere among the records, has no place to go to.
@@ -87,7 +94,7 @@ void tellDamage(NoticeBar* bar, const TelemetryContents& contents, const DamageA
     const auto records = contents.records.size();
     const int record =
         place == contents.damages.end() || records == 0 ? -1 : std::min(place->record, records - 1);
-    bar->tell(0, [bar, actions, record, damage = damageOf(contents)] {
+    bar->tell(kDamage, [bar, actions, record, damage = damageOf(contents)] {
         Notice notice{Mark::advice, sentences(damage, kInBar).join(QLatin1Char(' ')), {}};
         if (damage.hidden > 0)
             notice.actions.push_back({translated("rec_077"), actions.bringBack});
@@ -103,7 +110,7 @@ void tellDamage(NoticeBar* bar, const TelemetryContents& contents, const DamageA
 
 void tellCancelled(NoticeBar* bar, const std::function<void()>& again)
 {
-    bar->tell(0, [again] {
+    bar->tell(kDamage, [again] {
         return Notice{Mark::advice, translated("rec_074"), {{translated("rec_075"), again}}};
     });
 }

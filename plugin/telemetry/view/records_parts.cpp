@@ -48,12 +48,12 @@ void tellFuel(ShownRecords* shown, const FuelView& fuel, SummaryView* summary)
 
 } // namespace
 
-std::vector<RecordsPart> makeRecordsParts(ShownRecords* shown, QWidget* parent)
+std::vector<RecordsPart> makeRecordsParts(ShownRecords* shown, NoticeBar* bar, QWidget* parent)
 {
-    auto* curves = new CurvesView(shown, parent);
-    auto* track = new TrackView(shown, parent);
-    auto* summary = new SummaryView(shown, parent);
-    auto* fuel = new FuelView(shown, parent);
+    auto* curves = new CurvesView(shown, parent, bar);
+    auto* track = new TrackView(shown, parent, bar);
+    auto* summary = new SummaryView(shown, parent, bar);
+    auto* fuel = new FuelView(shown, parent, bar);
     const auto pictureOf = [](auto* view) {
         return [view](const TimeSpan& span, const QSize& size) { return view->picture(span, size); };
     };

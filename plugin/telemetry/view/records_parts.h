@@ -9,6 +9,7 @@
 
 namespace vlk {
 
+class NoticeBar;
 class ShownRecords;
 
 struct RecordsPart
@@ -22,7 +23,7 @@ struct RecordsPart
     std::function<bool()> stepBack = {};
 };
 
-// In the order in which they stand.
-std::vector<RecordsPart> makeRecordsParts(ShownRecords* shown, QWidget* parent);
+// In the order in which they stand. `bar`: of the window.
+std::vector<RecordsPart> makeRecordsParts(ShownRecords* shown, NoticeBar* bar, QWidget* parent);
 
 } // namespace vlk

@@ -13,6 +13,7 @@
 #include "telemetry/view/records_export.h"
 #include "telemetry/view/records_menu.h"
 #include "telemetry/view/records_model.h"
+#include "telemetry/view/records_notices.h"
 #include "telemetry/view/records_places.h"
 #include "telemetry/view/records_table.h"
 #include "telemetry/view/selected_records.h"
@@ -50,7 +51,6 @@ namespace {
 
 constexpr int kWidth = 1024;
 constexpr int kHeight = 680;
-enum RecordsNotice { kDamage, kTooMany, kExported };
 
 } // namespace
 
@@ -126,7 +126,7 @@ void VLK_Widget_Tmi_Table::layOut()
     auto* grid = new QGridLayout(place);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->addWidget(table_, 0, 0);
-    places_ = new RecordsPlaces(place, makeRecordsParts(shown_, this), this);
+    places_ = new RecordsPlaces(place, makeRecordsParts(shown_, notices_, this), this);
     auto* status = new QWidget(this);
     auto* line = new QHBoxLayout(status);
     line->setContentsMargins(6, 3, 6, 3);
@@ -193,7 +193,7 @@ void VLK_Widget_Tmi_Table::open(const std::shared_ptr<TelemetryContents>& conten
     opening_->stop();
     name_ = name;
     growth_ = growth;
-    for (const int notice : {kTooMany, kExported})
+    for (const int notice : {kTooMany, kHandedOver})
         notices_->end(notice);
     showContents(contents);
     places_->setName(name);
@@ -362,9 +362,9 @@ void VLK_Widget_Tmi_Table::exportRecords()
 
 void VLK_Widget_Tmi_Table::connectExport()
 {
-    const auto tell = [this](const std::function<Notice()>& notice) { notices_->tell(kExported, notice); };
+    const auto tell = [this](const std::function<Notice()>& notice) { notices_->tell(kHandedOver, notice); };
     connect(export_, &RecordsExport::written, this, [this](const QString& path) {
-        notices_->tellNews(kExported, [path, count = exported_] {
+        notices_->tellNews(kHandedOver, [path, count = exported_] {
             return Notice{Mark::right,
                           tr("rec_096").arg(QLocale().toString(count), QDir::toNativeSeparators(path)),
                           {}};

@@ -1,0 +1,13 @@
+#pragma once
+
+// The notices of the window of records, by their numbers in its bar.
+
+namespace vlk {
+
+enum RecordsNotice {
+    kDamage, // or that reading was cancelled
+    kTooMany,
+    kHandedOver, // what was exported, saved or printed last
+};
+
+} // namespace vlk
