@@ -261,6 +261,7 @@ private Q_SLOTS:
             QCOMPARE(ScriptedHost::child<QWidget>(dialog, "comboBox_Sign")->isEnabled(),
                      rowOf(form).hasDecimalSign);
             ScriptedHost::whenModal([&](QWidget* files) {
+                QCOMPARE(files->objectName(), QString("fileDialog_Told"));
                 QCOMPARE(qobject_cast<QFileDialog*>(files)->selectedFiles().value(0).section('/', -1),
                          QStringLiteral("telemetry.") + rowOf(form).suffix);
                 ScriptedHost::child<QLineEdit>(files, "fileNameEdit")->setText(path);

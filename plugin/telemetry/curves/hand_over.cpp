@@ -98,10 +98,13 @@ QString HandOver::askPath(const QString& proposed, const QStringList& suffixes)
         filters << QStringLiteral("%1 (*.%2)").arg(suffix.toUpper(), suffix);
     const QDir folder(vlkDevice ? vlkDevice->tmiFolder() : QString());
     const QString name = asFileName(proposed, QStringLiteral("-")) + QLatin1Char('.') + suffixes.front();
-    QString filter;
-    QString path = QFileDialog::getSaveFileName(window_, translated("wrd_028"), folder.filePath(name),
-                                                filters.join(QLatin1String(";;")), &filter);
-    const int chosen = std::max(filters.indexOf(filter), 0);
+    QFileDialog dialog(window_, translated("wrd_028"), folder.path());
+    dialog.setObjectName(QStringLiteral("fileDialog_Told")); // by the bar: the host need not
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilters(filters);
+    dialog.selectFile(name);
+    QString path = dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    const int chosen = std::max(filters.indexOf(dialog.selectedNameFilter()), 0);
     if (!path.isEmpty() && QFileInfo(path).suffix().isEmpty())
         path += QLatin1Char('.') + suffixes[chosen];
     return path;

@@ -98,6 +98,7 @@ QString ExportDialog::askPath(ExportForm form, const QString& proposed, QWidget*
     const QString suffix = QLatin1String(row.suffix);
     QFileDialog dialog(parent, tr("rec_085"), vlkDevice != nullptr ? vlkDevice->tmiFolder() : QString(),
                        QStringLiteral("%1 (*.%2)").arg(tr(row.key), suffix));
+    dialog.setObjectName(QStringLiteral("fileDialog_Told")); // by the bar: the host need not
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(suffix);
     dialog.selectFile(QStringLiteral("%1.%2").arg(proposed, suffix));
