@@ -23,8 +23,9 @@ private Q_SLOTS:
     {
         const vlk::Paths paths{{}, folder_.path(), {}, {}};
         host_.send(Message::SetPaths, &paths);
+        QVERIFY(QDir(folder_.path()).mkdir(".settings"));
         const QString kept =
-            writeFile(folder_.filePath("curves.ini"),
+            writeFile(folder_.filePath(".settings/curves.ini"),
                       "[presets]\n1\\items=Power\n1\\name=Mine\nsize=1\n[chosen]\nname=Mine\n");
         show(drive());
         auto* presets = child<QComboBox>("comboBox_CurvePreset");
