@@ -62,6 +62,16 @@ NoticeBar::NoticeBar(QWidget* parent, const QString& name)
     hide();
 }
 
+void NoticeBar::keepPlace()
+{
+    constexpr int kLines = 2;
+    const int margins = layout()->contentsMargins().top() + layout()->contentsMargins().bottom();
+    setMinimumHeight(std::max(kHeight, kLines * text_->fontMetrics().lineSpacing() + margins));
+    QSizePolicy policy = sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    setSizePolicy(policy);
+}
+
 const Notice* NoticeBar::shown() const
 {
     const Told* told = worst();

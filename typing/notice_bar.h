@@ -56,6 +56,9 @@ public:
     bool isOnShow(int number) const;
     // Among equals the one that was told last is on show.
     void setNewestFirst() { isNewestFirst_ = true; }
+    // Two lines of the window are the bar's, whether there is something to tell or not: where notices come
+    // and go while the user presses buttons, nothing may move under the mouse.
+    void keepPlace();
     void retranslate();
     // For its first button; where the bar goes, the focus goes back.
     void takeFocus();

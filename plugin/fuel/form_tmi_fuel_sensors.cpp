@@ -45,6 +45,7 @@ VLK_Form_TMI_Fuel_Sensors::VLK_Form_TMI_Fuel_Sensors(QWidget* parent)
 {
     ui_->setupUi(this);
     ui_->verticalLayout_Window->insertWidget(0, bar_);
+    bar_->keepPlace();
     connect(bar_, &NoticeBar::closed, this, &VLK_Form_TMI_Fuel_Sensors::forgetNotice);
     ui_->pushButton_Help->hide();
     buildTabs();

@@ -57,10 +57,17 @@ private Q_SLOTS:
         const QByteArray answer = padded(numbered(1));
         auto* first = child<QCheckBox>("checkBox_Server1");
         auto* third = child<QCheckBox>("checkBox_Server3");
+        // Nothing moves under the mouse for the notice, which goes with its cause.
+        QCoreApplication::processEvents();
+        const auto* content = window->findChild<QWidget*>("stackedWidget");
+        const QPoint before = content->pos();
         press("pushButton_Clear");
         QCOMPARE(takeSent(), Messages{});
         QCOMPARE(text("label_SavedInPart"), QString("tmiw_267"));
+        QCoreApplication::processEvents();
+        QCOMPARE(content->pos(), before);
         first->setChecked(true);
+        QCOMPARE(text("label_SavedInPart"), QString());
         third->setChecked(true);
         // Nobody pressed the button, so an answer moves nothing.
         send(Message::ClearedRecord, answer);

@@ -44,6 +44,7 @@ VLK_Widget_Tmi_View::VLK_Widget_Tmi_View(QWidget* parent)
       equipment_(this), times_(*ui_), functions_(*ui_, this)
 {
     ui_->verticalLayout->insertWidget(0, notices_);
+    notices_->keepPlace();
     ui_->verticalLayout_Event->addWidget(eventPanel_);
     ui_->groupBox_Btn_Guard->hide();
     save_.clearProgress();

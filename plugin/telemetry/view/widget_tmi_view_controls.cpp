@@ -72,6 +72,8 @@ void VLK_Widget_Tmi_View::connectControls()
             &View::slot_valueChanged_TimeOffset);
     for (const QDateTimeEdit* field : {ui_->dateTimeEdit_First, ui_->dateTimeEdit_Last})
         connect(field, &QDateTimeEdit::dateTimeChanged, this, [this] { tellNotTaken({}); });
+    for (const QCheckBox* server : {ui_->checkBox_Server1, ui_->checkBox_Server2, ui_->checkBox_Server3})
+        connect(server, &QCheckBox::toggled, this, [this] { tellNoServer(false); });
     connect(ui_->checkBox_Get_Auto_TMI, &QCheckBox::stateChanged, this, &View::slot_stateChanged_GetAutoTmi);
     connect(ui_->horizontalSlider_Auto_Tmi, &QSlider::valueChanged, this,
             &View::slot_valueChanged_horizontalSlider_Auto_Tmi);
