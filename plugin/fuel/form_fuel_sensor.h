@@ -46,9 +46,11 @@ public:
     // Of the tab that holds the form, -1 for none.
     int tabIndex() const { return tabIndex_; }
     void setTabIndex(int index) { tabIndex_ = index; }
+    int kind() const { return kind_; }
     bool isDirty() const { return dirty_; }
     bool hasRows() const;
     vlk::FuelRows rows() const;
+    vlk::FuelCaptions captions() const;
     bool isEdited() const { return edited_ && !dirty_; }
     void setKindAndName(int kind, const QString& name);
     void setParamEditable(bool editable);
@@ -70,9 +72,9 @@ public:
     // Adds the rows of the file to those that are there.
     void loadCsv(const QString& path);
     // Into and from the root of a calibration document. What was put into one counts as saved; where its file
-    // could not be written, setDirty and setEdited take that back.
+    // could not be written, setDirty and setEdited take that back. False when the document holds no table.
     void saveXml(CXmlSection* section);
-    void loadXml(CXmlSection* section);
+    bool loadXml(CXmlSection* section);
     void setDirty(bool dirty);
     void setEdited(bool edited);
     // Puts rows in the place of those that are there; they are dirty.
@@ -104,7 +106,6 @@ private:
     void addClipboardActions();
     void setKind(int kind);
     void showCaptions();
-    vlk::FuelCaptions captions() const;
     void copyTable() const;
     void pasteRows();
     void clearRows();

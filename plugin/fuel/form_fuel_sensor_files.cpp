@@ -49,18 +49,19 @@ void VLK_Form_Fuel_Sensor::saveXml(CXmlSection* section)
     setEdited(false);
 }
 
-void VLK_Form_Fuel_Sensor::loadXml(CXmlSection* section)
+bool VLK_Form_Fuel_Sensor::loadXml(CXmlSection* section)
 {
     const auto rows = vlk::fuelTable(section);
     if (!rows) {
         qCWarning(vlk::lcFuel) << "the document holds more rows than a calibration table";
-        return;
+        return false;
     }
     clearRows();
     ui_->lineEdit_Name->setText(vlk::fuelTableName(section));
     isNameTyped_ = false;
     offerName(vlk::fuelTableWrittenName(section));
     addRows(*rows);
+    return true;
 }
 
 void VLK_Form_Fuel_Sensor::fillSheet(vlk::CalibrationSheet& sheet) const

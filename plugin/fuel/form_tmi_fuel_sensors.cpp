@@ -107,11 +107,7 @@ void VLK_Form_TMI_Fuel_Sensors::buildTabs()
         connect(form, &VLK_Form_Fuel_Sensor::signal_NeedSaved, this,
                 &VLK_Form_TMI_Fuel_Sensors::slot_NeedSaved);
         connect(form, &VLK_Form_Fuel_Sensor::signal_Edited, this, &VLK_Form_TMI_Fuel_Sensors::tellOfTable);
-        connect(form, &VLK_Form_Fuel_Sensor::signal_Changed, this, [this, i] {
-            changed_[i] = true;
-            if (!drafts_.isActive())
-                drafts_.start();
-        });
+        connect(form, &VLK_Form_Fuel_Sensor::signal_Changed, this, [this, i] { noteChange(i); });
         const int number = groupOf(i);
         QTabWidget* tabs = ui_->tabWidget;
         if (kFuelGroups[number].title) {
@@ -164,6 +160,8 @@ void VLK_Form_TMI_Fuel_Sensors::openWindow(const QString& title)
     ui_->lineEdit_Title->setText(title);
     tracker_ = vlkDevice ? vlkDevice->trackerId2() : QString();
     forEachForm([](VLK_Form_Fuel_Sensor& form, int) { form.clearAll(); });
+    otherFile_ = {};
+    cutIn_ = {};
     clearLiveValues();
     show();
     raise();
@@ -288,7 +286,7 @@ void VLK_Form_TMI_Fuel_Sensors::markTabs()
     };
     std::array<bool, kFuelGroupCount> isInGroup{};
     forEachForm([&](const VLK_Form_Fuel_Sensor& form, int sensor) {
-        const bool isUnsaved = form.isDirty() || form.isEdited();
+        const bool isUnsaved = form.isDirty() || isToBeKept(form, sensor);
         isInGroup[groupOf(sensor)] |= isUnsaved;
         show(tabsOf(sensor), form.tabIndex(), isUnsaved);
     });
@@ -330,6 +328,8 @@ void VLK_Form_TMI_Fuel_Sensors::slot_finished(int /*result*/)
 {
     drafts_.stop();
     changed_ = {};
-    forEachForm([this](const VLK_Form_Fuel_Sensor& form, int) { kept_.end(form); });
+    forEachForm([this](const VLK_Form_Fuel_Sensor& form, int sensor) {
+        isToBeKept(form, sensor) ? kept_.release(form) : kept_.end(form);
+    });
     timer_.stop();
 }

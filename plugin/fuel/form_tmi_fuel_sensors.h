@@ -14,6 +14,7 @@
 #include <QTimer>
 
 #include <array>
+#include <functional>
 #include <memory>
 
 struct CXmlSection;
@@ -99,13 +100,17 @@ private:
     void bringBack(const vlk::KeptTable& table);
     // Keeps an edited table, and asks where rows would be lost.
     bool mayReplace(const VLK_Form_Fuel_Sensor& form);
-    // Puts a file into a form, and settles what is kept of it.
+    // Puts a file into a form, and settles what is kept of it. False when the file holds no table.
     template <class Read>
-    void load(VLK_Form_Fuel_Sensor& form, Read read);
+    bool load(const VLK_Form_Fuel_Sensor& form, Read read);
     void loadXml(const QString& path);
     void loadCsv(const QString& path);
-    // `type` is the sensor that the file names.
-    void showLoaded(const QString& type);
+    // `type` is the sensor that the file names, `otherColumn` the heading of values that are none of this
+    // sensor.
+    void showLoaded(const QString& type, const QString& otherColumn = {});
+    // A table without new rows that is as it stands in no file, be it for the fractions of its volumes alone.
+    bool isToBeKept(const VLK_Form_Fuel_Sensor& form, int sensor) const;
+    void noteChange(int sensor);
     // Both are false when the disk refused.
     bool keep(const VLK_Form_Fuel_Sensor& form);
     bool keepEdited();
@@ -118,10 +123,12 @@ private:
     std::array<VLK_TabWidget*, vlk::kFuelGroupCount> groups_{};
     std::array<VLK_Form_Fuel_Sensor*, vlk::kFuelSensorCount> forms_{};
     vlk::KeptForms kept_;
-    // The sensor whose file a form shows, where that has no form of its own.
-    std::array<QString, vlk::kFuelSensorCount> fileOf_;
-    // How many volumes of a table have lost their fraction in its XML file.
+    // What is told of a file of another sensor that a form shows; null where it is its own.
+    std::array<std::function<QString()>, vlk::kFuelSensorCount> otherFile_;
+    // How many volumes of a table have lost their fraction in its XML file, and stand in no other; and
+    // whether the user has closed what is told of it.
     std::array<int, vlk::kFuelSensorCount> cutIn_{};
+    std::array<bool, vlk::kFuelSensorCount> isCutClosed_{};
     vlk::NoticeBar* bar_;
     // Since the drafts were kept last.
     std::array<bool, vlk::kFuelSensorCount> changed_{};

@@ -50,7 +50,7 @@ void VLK_Form_TMI_Fuel_Sensors::tellOfTable()
     const int sensor = currentSensor();
     const VLK_Form_Fuel_Sensor* form = currentForm();
     if (form && !form->hasRows()) {
-        fileOf_[sensor].clear();
+        otherFile_[sensor] = nullptr;
         cutIn_[sensor] = 0;
     }
     if (!form) {
@@ -68,9 +68,10 @@ void VLK_Form_TMI_Fuel_Sensors::tellOfTable()
         else
             bar_->end(number);
     };
-    tell(kFileOfOther, !fileOf_[sensor].isEmpty(),
-         {Mark::advice, tr("cfgt6_412").arg(fileOf_[sensor], form->name()), {}});
-    tell(kCut, cutIn_[sensor] > 0, {Mark::advice, tr("tmiw_264").arg(cutIn_[sensor]), {saveAll}});
+    const auto& otherFile = otherFile_[sensor];
+    tell(kFileOfOther, otherFile != nullptr, {Mark::advice, otherFile ? otherFile() : QString(), {}});
+    tell(kCut, cutIn_[sensor] > 0 && !isCutClosed_[sensor],
+         {Mark::advice, tr("tmiw_264").arg(cutIn_[sensor]), {saveAll}});
     tell(kFlaw, flaw.row >= 0,
          {Mark::invalid, tr("tmiw_265").arg(QString::number(flaw.row + 1), flaw.text.left(kQuoted)), {}});
     tell(kEdited, form->isEdited(), {Mark::changed, tr("cfgt6_404"), {save}});
@@ -106,9 +107,9 @@ void VLK_Form_TMI_Fuel_Sensors::forgetNotice(int number)
     if (sensor < 0)
         return;
     if (number == kFileOfOther)
-        fileOf_[sensor].clear();
+        otherFile_[sensor] = nullptr;
     else if (number == kCut)
-        cutIn_[sensor] = 0;
+        isCutClosed_[sensor] = true; // the table is as unsaved as before
     openSave();
 }
 
@@ -147,30 +148,31 @@ void VLK_Form_TMI_Fuel_Sensors::bringBack(const KeptTable& table)
     if (!hasRows())
         ui_->lineEdit_Title->setText(table.vehicle);
     XmlDocument document(table.path, QLatin1String(kFuelRoot));
-    load(*form, [&] { form->loadXml(document.root()); });
+    if (!load(*form, [&] { return form->loadXml(document.root()); }))
+        return;
     form->setEdited(true);
     kept_.show(*form, table.path, std::make_unique<FileClaim>(table.path));
     offerKeptTables();
 }
 
 template <class Read>
-void VLK_Form_TMI_Fuel_Sensors::load(VLK_Form_Fuel_Sensor& form, Read read)
+bool VLK_Form_TMI_Fuel_Sensors::load(const VLK_Form_Fuel_Sensor& form, Read read)
 {
-    const bool wasEdited = form.isEdited();
+    const bool staysKept = isToBeKept(form, currentSensor());
+    if (!read())
+        return false;
     cutIn_[currentSensor()] = 0;
-    read();
     // What was edited is kept and offered; what is saved or given up is kept no longer.
-    if (wasEdited && !form.isEdited())
-        kept_.release(form);
-    else if (!wasEdited)
-        kept_.end(form);
+    staysKept ? kept_.release(form) : kept_.end(form);
+    return true;
 }
 
 bool VLK_Form_TMI_Fuel_Sensors::mayReplace(const VLK_Form_Fuel_Sensor& form)
 {
-    if (form.isEdited() && keep(form))
+    const bool isKept = isToBeKept(form, currentSensor());
+    if (isKept && keep(form))
         return true;
-    return !(form.isDirty() || form.isEdited()) || agrees(this, tr("tmiw_129"), "wrd_031");
+    return !(form.isDirty() || isKept) || agrees(this, tr("tmiw_129"), "wrd_031");
 }
 
 bool VLK_Form_TMI_Fuel_Sensors::keep(const VLK_Form_Fuel_Sensor& form)
@@ -181,11 +183,23 @@ bool VLK_Form_TMI_Fuel_Sensors::keep(const VLK_Form_Fuel_Sensor& form)
 bool VLK_Form_TMI_Fuel_Sensors::keepEdited()
 {
     bool allKept = true;
-    forEachForm([&](const VLK_Form_Fuel_Sensor& form, int) {
-        if (form.isEdited() && !keep(form))
+    forEachForm([&](const VLK_Form_Fuel_Sensor& form, int sensor) {
+        if (isToBeKept(form, sensor) && !keep(form))
             allKept = false;
     });
     return allKept;
+}
+
+bool VLK_Form_TMI_Fuel_Sensors::isToBeKept(const VLK_Form_Fuel_Sensor& form, int sensor) const
+{
+    return form.isEdited() || (cutIn_[sensor] > 0 && !form.isDirty());
+}
+
+void VLK_Form_TMI_Fuel_Sensors::noteChange(int sensor)
+{
+    changed_[sensor] = true;
+    if (!drafts_.isActive())
+        drafts_.start();
 }
 
 void VLK_Form_TMI_Fuel_Sensors::keepDrafts()
@@ -194,7 +208,7 @@ void VLK_Form_TMI_Fuel_Sensors::keepDrafts()
     forEachForm([&](const VLK_Form_Fuel_Sensor& form, int sensor) {
         if (!changed[sensor])
             return;
-        if (!form.isDirty() && !form.isEdited())
+        if (!form.isDirty() && !isToBeKept(form, sensor))
             kept_.end(form);
         else if (canKeep_) // that it cannot is told once
             canKeep_ = keep(form);
@@ -238,33 +252,54 @@ void VLK_Form_TMI_Fuel_Sensors::loadXml(const QString& path)
     VLK_Form_Fuel_Sensor* form = currentForm();
     if (!form || !mayReplace(*form))
         return;
-    load(*form, [&] { form->loadXml(document.root()); });
-    showLoaded(type);
+    if (load(*form, [&] { return form->loadXml(document.root()); }))
+        showLoaded(type);
 }
 
-// Its rows say nothing of their sensor, but its name begins with it unless the user has chosen another.
+// Its rows say nothing of their sensor, but its name begins with it unless the user has chosen another, and
+// its headings tell volts from levels.
 void VLK_Form_TMI_Fuel_Sensors::loadCsv(const QString& path)
 {
-    const std::optional<FuelRows> rows = readFuelCsvFile(path);
-    if (!rows)
+    const QString start = QFileInfo(path).fileName().section(QLatin1Char('-'), 0, 0);
+    const auto isStart = [&start](const FuelSensor& row) { return start == QLatin1String(row.name); };
+    const int named =
+        static_cast<int>(std::ranges::find_if(kFuelSensors, isStart) - std::begin(kFuelSensors));
+    const bool isNamed = named < kFuelSensorCount;
+    const VLK_Form_Fuel_Sensor* target = isNamed && forms_[named] ? forms_[named] : currentForm();
+    if (!target)
         return;
-    const QString sensor = QFileInfo(path).fileName().section(QLatin1Char('-'), 0, 0);
-    const bool isSensor =
-        std::any_of(std::begin(kFuelSensors), std::end(kFuelSensors),
-                    [&sensor](const FuelSensor& row) { return sensor == QLatin1String(row.name); });
-    if (isSensor)
-        select(sensor);
+    const auto read = readFuelCsvFileByHeadings(path, target->captions());
+    if (const auto* const fault = std::get_if<FuelCsvFault>(&read)) {
+        if (*fault == FuelCsvFault::NoOrder)
+            warn(this, tr("rec_370"));
+        return;
+    }
+    if (isNamed)
+        select(start);
     VLK_Form_Fuel_Sensor* form = currentForm();
     if (!form || !mayReplace(*form))
         return;
-    load(*form, [&] { form->replaceRows(*rows); });
-    showLoaded(isSensor ? sensor : QString());
+    const auto& csv = std::get<FuelCsv>(read);
+    load(*form, [&] {
+        form->replaceRows(csv.rows);
+        return true;
+    });
+    const FuelMeasure other = fuelKind(form->kind()).millivolts ? FuelMeasure::Level : FuelMeasure::Voltage;
+    showLoaded(isNamed ? start : QString(), csv.measure == other ? csv.value : QString());
 }
 
-void VLK_Form_TMI_Fuel_Sensors::showLoaded(const QString& type)
+void VLK_Form_TMI_Fuel_Sensors::showLoaded(const QString& type, const QString& otherColumn)
 {
+    const VLK_Form_Fuel_Sensor* form = currentForm();
+    auto& otherFile = otherFile_[currentSensor()];
+    otherFile = nullptr;
     // A letter alone names no sensor.
-    fileOf_[currentSensor()] = type.size() > 1 && type != currentForm()->name() ? type : QString();
+    if (type.size() > 1 && type != form->name())
+        otherFile = [type, form] { return tr("cfgt6_412").arg(type, form->name()); };
+    else if (!otherColumn.isEmpty())
+        otherFile = [column = otherColumn.left(kQuoted), form] {
+            return tr("tmiw_301").arg(column, form->name(), form->captions().value);
+        };
     tellOfTable();
     offerKeptTables();
 }
@@ -286,8 +321,10 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Xml()
     if (form)
         form->saveXml(root);
     if (document.saveAs(path)) {
-        if (form)
+        if (form) {
             cutIn_[currentSensor()] = cutVolumes(form->rows());
+            isCutClosed_[currentSensor()] = false;
+        }
         tellOfTable();
         return;
     }
@@ -307,6 +344,7 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Excel()
     if (path.isEmpty() || !form->saveCsv(path))
         return;
     cutIn_[currentSensor()] = 0;
+    noteChange(currentSensor());
     tellOfTable();
 }
 

@@ -30,8 +30,8 @@ void KeptForms::show(const VLK_Form_Fuel_Sensor& form, const QString& path, std:
 
 void KeptForms::end(const VLK_Form_Fuel_Sensor& form)
 {
-    if (!form.isEdited())
-        remove(form);
+    if (const auto shown = shown_.find(&form); shown != shown_.end())
+        QFile::remove(shown->second.path);
     release(form);
 }
 
@@ -44,12 +44,6 @@ std::vector<KeptTable> KeptForms::offered(const QString& folder) const
                            [&table](const auto& shown) { return shown.second.path == table.path; });
     });
     return tables;
-}
-
-void KeptForms::remove(const VLK_Form_Fuel_Sensor& form)
-{
-    if (const auto shown = shown_.find(&form); shown != shown_.end())
-        QFile::remove(shown->second.path);
 }
 
 } // namespace vlk

@@ -21,15 +21,13 @@ public:
     bool keep(const VLK_Form_Fuel_Sensor& form, const QString& folder, const QString& vehicle);
     // The form shows a kept table from now on.
     void show(const VLK_Form_Fuel_Sensor& form, const QString& path, std::unique_ptr<FileClaim> claim);
-    // The form shows another table than that which is kept of it.
+    // The form shows another table than that which is kept of it, and which is offered from now on.
     void release(const VLK_Form_Fuel_Sensor& form) { shown_.erase(&form); }
-    // What is still edited stays for the next opening of the window; all else is saved or given up, and goes.
+    // The form's table is saved or given up: what was kept of it goes.
     void end(const VLK_Form_Fuel_Sensor& form);
     std::vector<KeptTable> offered(const QString& folder) const;
 
 private:
-    void remove(const VLK_Form_Fuel_Sensor& form);
-
     struct Shown
     {
         QString path;

@@ -107,7 +107,8 @@ private Q_SLOTS:
             const auto texts = readTexts(language);
             for (const char* value : {"cfgt6_041", "cfgt6_042", "cfgt6_043", "cfgt6_044", "cfgt6_045"}) {
                 const QString heads = texts.value("cfgt6_040") + "\t" + texts.value(value) + "\n";
-                QVERIFY2(fuelCsvOrder(heads.toUtf8()) == FuelOrder::VolumeFirst, qPrintable(heads));
+                const auto headings = fuelCsvHeadings(heads.toUtf8());
+                QVERIFY2(headings && headings->order == FuelOrder::VolumeFirst, qPrintable(heads));
             }
         }
     }

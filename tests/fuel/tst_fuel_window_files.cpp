@@ -91,8 +91,10 @@ private Q_SLOTS:
         const QString path = writeFile(folder.filePath("load.xml"), fuelFile("A3"));
         load(path);
         QVERIFY(bar()->isHidden());
+        const QRect before = fuel_.child<QWidget>("scrollArea_Content")->geometry();
         editCell("A3", "10.5");
         QCOMPARE(fuel_.text("label_Notice"), QString("cfgt6_404"));
+        QCOMPARE(fuel_.child<QWidget>("scrollArea_Content")->geometry(), before);
         show("D1");
         QVERIFY(bar()->isHidden());
         show("A3");
@@ -101,8 +103,10 @@ private Q_SLOTS:
         // The file has whole litres, which is told until a file has all.
         QVERIFY(readFile(folder.filePath("edited.xml")).contains("param_U=\"10\""));
         QCOMPARE(fuel_.text("label_Notice"), QString("tmiw_264"));
+        QCOMPARE(markedTabs(), QString("A3"));
         answerFile(folder.filePath("edited.csv"));
         pressInBar("wrd_042 Excel");
+        QCOMPARE(markedTabs(), QString());
         QVERIFY(bar()->isHidden() && readFile(folder.filePath("edited.csv")).contains(";10.5"));
         {
             const FullDisk full(16);
@@ -139,6 +143,7 @@ private Q_SLOTS:
         pressInBar("cfgt6_407");
         answerFile(folder.filePath("edited.xml"));
         pressInBar("wrd_042 XML");
+        saveTo("pushButton_Save_Excel", folder.filePath("edited.csv"));
         fuel_.window->close();
         press("pushButton_FuelSensor");
         QVERIFY(bar()->isHidden() && QDir(folder.filePath(".unsaved")).isEmpty());
@@ -156,7 +161,12 @@ private Q_SLOTS:
         const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
         QVERIFY(!(QFile::permissions(only()) & others) && !(QFile::permissions(drafts.path()) & others));
         const QByteArray asKilled = readFile(only());
+        // Fractions are in no XML file, whether the user goes on to read of them or not.
         saveTo("pushButton_Save_Xml", folder.filePath("out.xml"));
+        fuel_.press("label_Notice_Close");
+        QTest::qWait(600);
+        QVERIFY(readFile(only()).contains("\"10.5\"") && markedTabs() == "A3");
+        saveTo("pushButton_Save_Excel", folder.filePath("out.csv"));
         QTRY_VERIFY_WITH_TIMEOUT(drafts.isEmpty(), 1000);
         QTest::keyClicks(field("D1", "lineEdit_Name"), "left");
         fuel_.window->close();
@@ -184,6 +194,7 @@ private Q_SLOTS:
         answerFile(folder.filePath("out.xml"));
         QApplication::setActiveWindow(fuel_.window);
         QTest::keyClick(fuel_.window, Qt::Key_S, Qt::ControlModifier);
+        saveTo("pushButton_Save_Excel", folder.filePath("out.csv"));
         QTRY_COMPARE_WITH_TIMEOUT(drafts.entryList(QDir::Files).size(), 1, 1000);
     }
 
@@ -195,8 +206,11 @@ private Q_SLOTS:
         saveTo("pushButton_Save_Excel", path);
         load(path);
         QVERIFY(rows("D4") == "10.5=1002" && form("D4")->isVisible() && fuel_.isOn("pushButton_Save_Xml"));
-        load(writeFile(folder.filePath("F1-.csv"), "x;y\r\n7;1\r\n"), "tmiw_129", "wrd_001");
+        load(writeFile(folder.filePath("F1-.csv"), "Volume, l;level\n1;7\n"), "tmiw_129", "wrd_001");
         QVERIFY(rows("D4") == "1=7" && fuel_.text("label_Notice") == "cfgt6_412");
+        load(writeFile(folder.filePath("x.csv"), "Voltage, V;litres\n7;1\n"), "tmiw_129", "wrd_001");
+        QVERIFY(rows("D4") == "1=7" && fuel_.text("label_Notice") == "tmiw_301");
+        load(writeFile(folder.filePath("x.csv"), "7;1\n8;2\n"), "rec_370");
         // Nothing is asked for the sake of a file with nothing in it.
         const QString none = writeFile(folder.filePath("none.csv"), QByteArray(9, '\0'));
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("holds no calibration table"));

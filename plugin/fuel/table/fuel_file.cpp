@@ -3,7 +3,6 @@
 #include "base/file_name.h"
 #include "base/replace_file.h"
 #include "fuel/table/fuel_log.h"
-#include "fuel/table/fuel_text.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -22,6 +21,11 @@ QString& folderOfLastSave()
 {
     static QString folder;
     return folder;
+}
+
+QString noTable(const QString& path)
+{
+    return QStringLiteral("%1 holds no calibration table").arg(path);
 }
 
 } // namespace
@@ -68,12 +72,25 @@ std::optional<QByteArray> readFuelFile(const QString& path, QString* fault)
 
 std::optional<FuelRows> readFuelCsvFile(const QString& path)
 {
-    QString fault = QStringLiteral("%1 holds no calibration table").arg(path);
+    QString fault = noTable(path);
     const std::optional<QByteArray> content = readFuelFile(path, &fault);
     std::optional<FuelRows> rows = content ? readFuelCsv(*content) : std::nullopt;
     if (!rows)
         qCWarning(lcFuel).noquote() << fault;
     return rows;
+}
+
+std::variant<FuelCsv, FuelCsvFault> readFuelCsvFileByHeadings(const QString& path,
+                                                              const FuelCaptions& captions)
+{
+    QString fault = noTable(path);
+    std::variant<FuelCsv, FuelCsvFault> read = FuelCsvFault::NoTable;
+    if (const std::optional<QByteArray> content = readFuelFile(path, &fault))
+        read = readFuelCsvByHeadings(*content, captions);
+    const auto* const found = std::get_if<FuelCsvFault>(&read);
+    if (found != nullptr && *found == FuelCsvFault::NoTable)
+        qCWarning(lcFuel).noquote() << fault;
+    return read;
 }
 
 } // namespace vlk

@@ -2,7 +2,7 @@
 
 // Calibration files on the disk: what they are called, and how they are read and saved.
 
-#include "fuel/table/fuel_rows.h"
+#include "fuel/table/fuel_text.h"
 
 #include <QByteArray>
 #include <QString>
@@ -30,5 +30,8 @@ bool saveFuelFile(const QString& path, const QByteArray& content);
 std::optional<QByteArray> readFuelFile(const QString& path, QString* fault = nullptr);
 // The rows of a CSV file; none likewise, or when it holds no table. The log (vlk.fuel) says why.
 std::optional<FuelRows> readFuelCsvFile(const QString& path);
+// The same by its headings. A file whose headings do not tell has its rows, so the log says nothing of it.
+std::variant<FuelCsv, FuelCsvFault> readFuelCsvFileByHeadings(const QString& path,
+                                                              const FuelCaptions& captions);
 
 } // namespace vlk

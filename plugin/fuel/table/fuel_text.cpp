@@ -66,7 +66,8 @@ QStringList splitAtCommas(const QString& line)
     return cells;
 }
 
-Cells cellsOf(const QString& line)
+// As they stand.
+Cells headsOf(const QString& line)
 {
     QStringList cells;
     if (line.contains(kSemicolon))
@@ -75,7 +76,13 @@ Cells cellsOf(const QString& line)
         cells = split(line, kTab);
     else
         cells = splitAtCommas(line);
-    return {number(cells.value(0)), number(cells.value(1))};
+    return {cells.value(0).trimmed(), cells.value(1).trimmed()};
+}
+
+Cells cellsOf(const QString& line)
+{
+    const auto [first, second] = headsOf(line);
+    return {number(first), number(second)};
 }
 
 FuelRow rowOf(Cells cells, FuelOrder order)
@@ -120,29 +127,38 @@ void forEachLine(const QString& text, Take take)
 const QString kVolumeWords[] = {QStringLiteral("volume"), QStringLiteral("litre"), QStringLiteral("liter"),
                                 QStringLiteral("объём"),  QStringLiteral("объем"), QStringLiteral("литр")};
 const QString kVolumeUnits[] = {QStringLiteral("l"), QStringLiteral("л")};
-const QString kValueWords[] = {QStringLiteral("value"),   QStringLiteral("level"), QStringLiteral("code"),
-                               QStringLiteral("reading"), QStringLiteral("volt"),  QStringLiteral("значени"),
-                               QStringLiteral("уров"),    QStringLiteral("код"),   QStringLiteral("показани"),
-                               QStringLiteral("напряж")};
+const QString kVoltageWords[] = {QStringLiteral("volt"), QStringLiteral("напряж")};
+const QString kLevelWords[] = {QStringLiteral("level"), QStringLiteral("code"), QStringLiteral("уров"),
+                               QStringLiteral("код")};
+const QString kReadingWords[] = {QStringLiteral("value"), QStringLiteral("reading"),
+                                 QStringLiteral("значени"), QStringLiteral("показани")};
+
+template <std::size_t Count>
+bool names(const QStringList& words, const QString (&beginnings)[Count])
+{
+    return std::any_of(words.begin(), words.end(),
+                       [&beginnings](const QString& word) { return beginsWithAny(word, beginnings); });
+}
 
 bool namesVolume(const QStringList& words)
 {
-    return std::any_of(words.begin(), words.end(), [](const QString& word) {
-        return beginsWithAny(word, kVolumeWords) ||
-               std::find(std::begin(kVolumeUnits), std::end(kVolumeUnits), word) != std::end(kVolumeUnits);
-    });
+    return names(words, kVolumeWords) || std::any_of(words.begin(), words.end(), [](const QString& word) {
+               return std::find(std::begin(kVolumeUnits), std::end(kVolumeUnits), word) !=
+                      std::end(kVolumeUnits);
+           });
 }
 
 bool namesValue(const QStringList& words)
 {
-    return std::any_of(words.begin(), words.end(),
-                       [](const QString& word) { return beginsWithAny(word, kValueWords); });
+    return names(words, kVoltageWords) || names(words, kLevelWords) || names(words, kReadingWords);
 }
 
-// A line of headings: of a CSV file, of the screen, or of whatever a spreadsheet has them called.
-std::optional<FuelOrder> orderOf(const QString& line)
+std::optional<FuelOrder> orderOf(const Cells& heads, const FuelCaptions& captions)
 {
-    const Cells heads = cellsOf(line);
+    if (!captions.value.isEmpty() && heads == Cells(captions.value, captions.volume))
+        return FuelOrder::ValueFirst;
+    if (!captions.value.isEmpty() && heads == Cells(captions.volume, captions.value))
+        return FuelOrder::VolumeFirst;
     const QStringList first = wordsOf(heads.first);
     const QStringList second = wordsOf(heads.second);
     if (namesVolume(first) != namesVolume(second))
@@ -150,6 +166,21 @@ std::optional<FuelOrder> orderOf(const QString& line)
     if (namesValue(first) != namesValue(second))
         return namesValue(first) ? FuelOrder::ValueFirst : FuelOrder::VolumeFirst;
     return {};
+}
+
+// A line of headings: of a CSV file, of the screen, or of whatever a spreadsheet has them called.
+std::optional<FuelHeadings> headingsOf(const QString& line, const FuelCaptions& captions)
+{
+    const auto [first, second] = headsOf(line);
+    const std::optional<FuelOrder> order = orderOf({first, second}, captions);
+    if (!order)
+        return {};
+    const QString value = *order == FuelOrder::ValueFirst ? first : second;
+    const QStringList words = wordsOf(value);
+    const bool isVoltage = names(words, kVoltageWords);
+    if (isVoltage == names(words, kLevelWords))
+        return FuelHeadings{*order, value, FuelMeasure::Unknown};
+    return FuelHeadings{*order, value, isVoltage ? FuelMeasure::Voltage : FuelMeasure::Level};
 }
 
 // Whether a cell can hold the number. One that is written with more digits than it has loses them.
@@ -187,20 +218,34 @@ QByteArray fuelCsv(const FuelCaptions& captions, const FuelRows& rows)
     return text.toLocal8Bit();
 }
 
-std::optional<FuelOrder> fuelCsvOrder(const QByteArray& content)
+std::optional<FuelHeadings> fuelCsvHeadings(const QByteArray& content, const FuelCaptions& captions)
 {
     // Of another system's encoding figures can be read, headings cannot: then they are tried in each of them.
     const QByteArray start = content.left(kMaxFuelLine);
-    std::optional<FuelOrder> order;
+    std::optional<FuelHeadings> headings;
     for (const QString& text : {decoded(start), QString::fromUtf8(start), fromWindows1251(start)}) {
-        forEachLine(text, [&order](const QString& line) {
-            order = orderOf(line);
+        forEachLine(text, [&](const QString& line) {
+            headings = headingsOf(line, captions);
             return false;
         });
-        if (order)
+        if (headings)
             break;
     }
-    return order;
+    return headings;
+}
+
+std::variant<FuelCsv, FuelCsvFault> readFuelCsvByHeadings(const QByteArray& content,
+                                                          const FuelCaptions& captions)
+{
+    const std::optional<FuelHeadings> headings = fuelCsvHeadings(content, captions);
+    std::optional<FuelRows> rows = readFuelCsv(content, headings ? headings->order : FuelOrder::ValueFirst);
+    if (!rows)
+        return FuelCsvFault::NoTable;
+    if (headings)
+        return FuelCsv{*std::move(rows), headings->value, headings->measure};
+    if (!rows->empty())
+        return FuelCsvFault::NoOrder;
+    return FuelCsv{};
 }
 
 std::optional<FuelRows> readFuelCsv(const QByteArray& content, FuelOrder order)
@@ -243,10 +288,8 @@ PastedRows readFuelClipboard(const QString& text, const FuelCaptions& captions, 
             return true;
         const bool mayBeHeading = std::exchange(isFirst, false) && !isPoint(rowOf(cells, order));
         if (mayBeHeading) {
-            if (line.startsWith(captions.value))
-                order = FuelOrder::ValueFirst;
-            else
-                order = orderOf(line).value_or(order);
+            if (const auto headings = headingsOf(line, captions))
+                order = headings->order;
             return true;
         }
         FuelRow row = rowOf(cells, order);

@@ -18,6 +18,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <variant>
 
 namespace vlk {
 
@@ -34,13 +35,39 @@ inline constexpr int kMaxFuelLine = 1024;
 // The order of the columns.
 enum class FuelOrder : std::uint8_t { ValueFirst, VolumeFirst };
 
+// What the values of a table are, as far as its headings tell.
+enum class FuelMeasure : std::uint8_t { Unknown, Voltage, Level };
+
+// Headings of two columns.
+struct FuelHeadings
+{
+    FuelOrder order;
+    QString value; // the one of the values
+    FuelMeasure measure;
+};
+
+// A CSV file that was read by its headings.
+struct FuelCsv
+{
+    FuelRows rows;
+    QString value; // the heading of the values
+    FuelMeasure measure = FuelMeasure::Unknown;
+};
+
+// Why there is none.
+enum class FuelCsvFault : std::uint8_t { NoTable, NoOrder };
+
 QByteArray fuelCsv(const FuelCaptions& captions, const FuelRows& rows);
-// What the headings in the first line say of it, in the words of any language of the texts; none where they
-// do not tell.
-std::optional<FuelOrder> fuelCsvOrder(const QByteArray& content);
 // The first line is dropped, whatever it says, and so are blank ones. None for what is no text or has more
 // than maxFuelRows rows.
 std::optional<FuelRows> readFuelCsv(const QByteArray& content, FuelOrder order = FuelOrder::ValueFirst);
+// What the first line says of a file: the captions of the screen, if there are any, or words of any language
+// of the texts. None where it does not tell.
+std::optional<FuelHeadings> fuelCsvHeadings(const QByteArray& content, const FuelCaptions& captions = {});
+// In the order that the headings tell. Litres that are read as levels give wrong litres which nobody notices,
+// so rows whose headings do not tell are refused.
+std::variant<FuelCsv, FuelCsvFault> readFuelCsvByHeadings(const QByteArray& content,
+                                                          const FuelCaptions& captions = {});
 
 QString fuelClipboard(const FuelCaptions& captions, const FuelRows& rows);
 

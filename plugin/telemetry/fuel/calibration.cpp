@@ -18,16 +18,12 @@ QString sensorOfName(const QString& path)
     return levelSensorOfTable(start) == nullptr ? QString() : start;
 }
 
-// Litres that are read as levels give wrong litres which nobody notices, so headings have to tell them apart.
 std::variant<Calibration, TableFault> calibrationInCsv(const QByteArray& content, const QString& path)
 {
-    const std::optional<FuelOrder> order = fuelCsvOrder(content);
-    std::optional<FuelRows> rows = readFuelCsv(content, order.value_or(FuelOrder::ValueFirst));
-    if (!rows)
-        return TableFault::Unreadable;
-    if (!order && !rows->empty())
-        return TableFault::NoOrder;
-    return Calibration{sensorOfName(path), {}, *std::move(rows)};
+    auto read = readFuelCsvByHeadings(content);
+    if (const auto* const fault = std::get_if<FuelCsvFault>(&read))
+        return *fault == FuelCsvFault::NoOrder ? TableFault::NoOrder : TableFault::Unreadable;
+    return Calibration{sensorOfName(path), {}, std::get<FuelCsv>(std::move(read)).rows};
 }
 
 std::variant<Calibration, TableFault> calibrationIn(const QByteArray& content, const QString& path)
