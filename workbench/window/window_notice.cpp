@@ -106,8 +106,13 @@ void WindowNotice::place()
 {
     QRect inside = parentWidget()->geometry().marginsRemoved({kMargin, kMargin, kMargin, kMargin});
     for (QFrame* bar : parentWidget()->findChildren<QFrame*>(QStringLiteral("noticeBar"))) {
-        if (bar->isVisible() && bar->window() == parentWidget())
-            inside.setTop(qMax(inside.top(), bar->mapToGlobal(QPoint(0, bar->height())).y() + kMargin));
+        if (bar->window() != parentWidget())
+            continue;
+        const QRect place(bar->mapToGlobal(QPoint()), bar->size());
+        if (bar->sizePolicy().retainSizeWhenHidden())
+            inside = {place.topLeft(), QPoint(place.right(), inside.bottom())};
+        if (bar->isVisible())
+            inside.setTop(qMax(inside.top(), place.bottom() + 1 + kMargin));
     }
     resize(inside.width(), heightForWidth(inside.width()));
     const QWidget* typed = parentWidget()->focusWidget();

@@ -43,7 +43,8 @@ VLK_Widget_Tmi_View::VLK_Widget_Tmi_View(QWidget* parent)
       clearing_({ui_->checkBox_Server1, ui_->checkBox_Server2, ui_->checkBox_Server3}), save_(this, *ui_),
       equipment_(this), times_(*ui_), functions_(*ui_, this)
 {
-    ui_->verticalLayout->insertWidget(0, notices_);
+    // Above the record: the column beside it needs all the height that a small screen has.
+    ui_->verticalLayout_Record->insertWidget(0, notices_);
     notices_->keepPlace();
     ui_->verticalLayout_Event->addWidget(eventPanel_);
     ui_->groupBox_Btn_Guard->hide();
