@@ -176,12 +176,13 @@ private Q_SLOTS:
         const QString night("KAMAZ 5490 2026-11-20 08-02 - 2026-11-21 08-02.xml");
         DataTable<QString, QString, QString>({"name", "room", "shown"})
             .row("room enough", day, day, day)
-            .row("one day", day, "KAMAZ 5… 2026-11-20 08-02 - 17-30.xml",
-                 "KAMAZ 5490 2026-11-20 08-02 - 17-30")
-            .row("two days", night, "KAMAZ… 2026-11-20 08-02 - 2026-11-21 08-02",
-                 "KAMAZ 5490 11-20 08-02 - 11-21 08-02")
-            .row("less", night, "2026-11-20 08-02 - 2026-11-21 08-02", "KAM…490 11-20 08-02 - 11-21 08-02")
-            .row("no vehicle", night, "11-20 08-02 - 11-21 08-02", "11-20 08-02 - 11-21 08-02")
+            .row("one day", day, "KAMAZ 5490 2026-11-20 08-02 - 17-30.xml+",
+                 "KAMAZ 5490 2026-11-20 08-02 - 17-30.xml")
+            .row("two days", night, "KAMAZ 5490 11-20 08-02 - 11-21 08-02.xml",
+                 "KAMAZ 5490 11-20 08-02 - 11-21 08-02.xml")
+            .row("less", night, "2026-11-20 08-02 - 2026-11-21 08-02.x",
+                 "KA…90 11-20 08-02 - 11-21 08-02.xml")
+            .row("no vehicle", night, "11-20 08-02 - 11-21 08-02.xml+", "11-20 08-02 - 11-21 08-02.xml")
             .row("another name", "configuration of KAMAZ.xml", "configur…AMAZ.xml", "configur…AMAZ.xml");
     }
     void shortensFileNames()

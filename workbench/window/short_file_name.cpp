@@ -20,10 +20,11 @@ QString shortFileName(const QString& name, const QFontMetrics& metrics, int room
         const bool isOneDay = match.captured(2) == match.captured(4);
         return moment(2) + QStringLiteral(" - ") + (isOneDay ? match.captured(5) : moment(4));
     };
-    const QString times = timesFrom(0);
-    const QString timesOfYear = timesFrom(5);
+    const QString ending = match.captured(6);
+    const QString times = timesFrom(0) + ending;
+    const QString timesOfYear = timesFrom(5) + ending;
     const QString vehicle = match.captured(1);
-    for (const QString& tail : {times + match.captured(6), times, timesOfYear}) {
+    for (const QString& tail : {times, timesOfYear}) {
         const QString whole = vehicle + QLatin1Char(' ') + tail;
         if (metrics.horizontalAdvance(whole) <= room)
             return whole;
@@ -31,7 +32,7 @@ QString shortFileName(const QString& name, const QFontMetrics& metrics, int room
     const int left = room - metrics.horizontalAdvance(QLatin1Char(' ') + timesOfYear);
     if (left >= metrics.averageCharWidth() * 5)
         return metrics.elidedText(vehicle, Qt::ElideMiddle, left) + QLatin1Char(' ') + timesOfYear;
-    return metrics.elidedText(timesOfYear, Qt::ElideRight, room);
+    return metrics.elidedText(timesOfYear, Qt::ElideMiddle, room);
 }
 
 } // namespace workbench
