@@ -1959,7 +1959,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_292"><translation>Telemetry was closed, so no live values come. Attach the tracker and open telemetry to go on.</translation></message>
     <message id="tmiw_293"><translation>earlier</translation></message>
     <message id="tmiw_294"><translation>The file that was there before is kept as &quot;%1&quot;.</translation></message>
-    <message id="tmiw_300"><translation>Now: %1&#160;km</translation></message>
+    <message id="tmiw_300"><translation>In this record: %1&#160;km</translation></message>
     <message id="tmiw_301"><translation>The column of the file is &quot;%1&quot;, that of %2 is &quot;%3&quot;. Check whether it is the right file.</translation></message>
     <message id="tmizta_001"><translation>Test mode</translation></message>
     <message id="tmizta_002"><translation>Backup</translation></message>

@@ -1959,7 +1959,7 @@
     <message id="tmiw_292"><translation>Телеметрия закрыта, поэтому показаний нет. Подключите трекер и откройте телеметрию, чтобы продолжить.</translation></message>
     <message id="tmiw_293"><translation>прежний</translation></message>
     <message id="tmiw_294"><translation>Прежний файл сохранён под именем «%1».</translation></message>
-    <message id="tmiw_300"><translation>Сейчас: %1&#160;км</translation></message>
+    <message id="tmiw_300"><translation>В этой записи: %1&#160;км</translation></message>
     <message id="tmiw_301"><translation>Столбец файла — «%1», а столбец %2 — «%3». Проверьте, тот ли это файл.</translation></message>
     <message id="tmizta_001"><translation>Режим тестирования</translation></message>
     <message id="tmizta_002"><translation>Резервный</translation></message>

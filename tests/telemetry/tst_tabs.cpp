@@ -263,12 +263,15 @@ private Q_SLOTS:
         QFETCH(QString, typed);
         QFETCH(Qt::Key, end);
         kilometres_ = -1;
+        show(Record{{"Run", 0x42f6cccd}}); // as a float
         ScriptedHost::whenModal([&](QWidget* open) {
             auto* dialog = qobject_cast<QInputDialog*>(open);
             QVERIFY(dialog);
             QCOMPARE(dialog->windowTitle(), QString("Mileage, km"));
             QCOMPARE(dialog->doubleDecimals(), 2);
             QCOMPARE(dialog->doubleValue(), 0.);
+            QCOMPARE(dialog->findChild<QLabel*>("label_Run_Shown")->text(),
+                     QString("In this record: 123.40\u00a0km"));
             auto* box = dialog->findChild<QDoubleSpinBox*>();
             box->selectAll();
             QTest::keyClicks(box, typed);

@@ -153,6 +153,21 @@ private:
     QAbstractSpinBox* box_;
 };
 
+const QString kMileage = QStringLiteral("label_Navi_Way_Value");
+
+// Under the label of the field: that of the record on show, where it has one.
+void showMileageOnShow(QInputDialog& dialog, const QString& mileage)
+{
+    dialog.sizeHint(); // by which it arranges itself
+    auto* column = qobject_cast<QVBoxLayout*>(dialog.layout());
+    if (column == nullptr || mileage.isEmpty())
+        return;
+    auto* shown = new QLabel(VLK_Form_Tmi_F3_Tab_Main::tr("tmiw_300").arg(mileage));
+    shown->setObjectName(QStringLiteral("label_Run_Shown"));
+    shown->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    column->insertWidget(1, shown);
+}
+
 } // namespace
 
 VLK_Form_Tmi_F3_Tab_Main::VLK_Form_Tmi_F3_Tab_Main(QWidget* parent)
@@ -254,6 +269,7 @@ void VLK_Form_Tmi_F3_Tab_Main::slot_pressed_Btn_SetRun()
     dialog.setDoubleRange(0, kHighest);
     dialog.setDoubleDecimals(2);
     dialog.setDoubleValue(0);
+    showMileageOnShow(dialog, findChild<QLabel*>(kMileage)->text());
     // Both decimal signs.
     vlk::joinFields(&dialog);
     OnlyField keys(dialog);
