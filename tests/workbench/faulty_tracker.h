@@ -82,7 +82,7 @@ struct Bench : OpenedWorkbench
         if (!bar || !bar->isVisible())
             return {};
         const auto* own = window->findChild<QFrame*>(QStringLiteral("noticeBar"));
-        const int top = own && own->isVisible() ? own->geometry().bottom() + 1 : 0;
+        const int top = own && own->isVisible() ? own->mapTo(window, own->rect().bottomLeft()).y() + 1 : 0;
         const QPoint corner = window->geometry().topLeft() + QPoint(6, top + 6);
         return bar->pos() == corner ? bar->findChild<QLabel*>(QStringLiteral("label_WindowNotice"))->text()
                                     : QStringLiteral("out of place");

@@ -236,6 +236,10 @@ private Q_SLOTS:
             // With the telemetry window gone the main one is in front.
             QVERIFY(faults.unplug || bench.over != &bench.window);
         }
+        // What was confirmed is on show.
+        if (step == Output && said.startsWith(QLatin1String("Output 1 is")))
+            QTRY_COMPARE(Bench::telemetry()->findChild<QLabel*>(QStringLiteral("label_Out_Value_1"))->text(),
+                         QStringLiteral("On"));
         if (step == Search && faults.unplug)
             QVERIFY(window->findChild<QProgressBar*>(QStringLiteral("progressBar_Find"))->isHidden());
         if (said == QLatin1String("Ready"))

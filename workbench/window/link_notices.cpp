@@ -8,10 +8,15 @@
 #include "window/plugin_log.h"
 #include "window/plugin_windows.h"
 #include "window/request_table.h"
-#include "window/status_line.h"
 #include "window/trouble_text.h"
 
 namespace workbench {
+
+namespace {
+
+constexpr int kReasonMs = 300;
+
+} // namespace
 
 LinkNotices::LinkNotices(const PluginLog& pluginLog, HostSession& session, PluginWindows& windows,
                          MessageLogModel& log, StatusLine& status, QWidget* mainWindow)
@@ -50,6 +55,13 @@ LinkNotices::LinkNotices(const PluginLog& pluginLog, HostSession& session, Plugi
         if (!watch_.isSilent())
             setTrouble({});
     });
+    reason_.setInterval(kReasonMs);
+    connect(&reason_, &QTimer::timeout, this, [this] {
+        if (reasonHolds_())
+            return;
+        endReason();
+        front_.tell(FrontNotice::Result, {});
+    });
     connectRequests();
 }
 
@@ -76,11 +88,26 @@ void LinkNotices::connectRequests()
             [this](const Sentence& sentence) { tellOfCommand(sentence, true); });
     connect(commands, &TrackerCommands::failed, this,
             [this](const Sentence& sentence) { tellOfCommand(sentence, false); });
+    connect(commands, &TrackerCommands::refused, this, &LinkNotices::tellNotSent);
 }
 
-void LinkNotices::tellResult(const Sentence& sentence, bool isNews, QWidget* window)
+void LinkNotices::tellNotSent(const Sentence& sentence, const std::function<bool()>& holds)
 {
-    status_.tell(StatusLine::Command, sentence);
+    tellResult(StatusLine::Refused, sentence, false, front_.telemetry());
+    reasonHolds_ = holds;
+    reason_.start();
+}
+
+void LinkNotices::endReason()
+{
+    reason_.stop();
+    status_.clear(StatusLine::Refused);
+}
+
+void LinkNotices::tellResult(StatusLine::Topic topic, const Sentence& sentence, bool isNews, QWidget* window)
+{
+    endReason();
+    status_.tell(topic, sentence);
     const auto notice = [sentence, mark = isNews ? vlk::Mark::changed : vlk::Mark::advice] {
         return vlk::Notice{mark, sentence(), {}};
     };

@@ -11,7 +11,7 @@
 #include "check/record_check.h"
 #include "window/answer_watch.h"
 #include "window/front_notice.h"
-#include "window/sentence.h"
+#include "window/status_line.h"
 
 namespace workbench {
 
@@ -19,7 +19,6 @@ class HostSession;
 class MessageLogModel;
 class PluginLog;
 class PluginWindows;
-class StatusLine;
 
 class LinkNotices : public QObject
 {
@@ -35,7 +34,10 @@ public:
     // What is said of a save is looked at again.
     void saveEnded();
     // What went well in a window: in the status line, and for a while on that window.
-    void tellDone(const Sentence& sentence, QWidget* window) { tellResult(sentence, true, window); }
+    void tellDone(const Sentence& sentence, QWidget* window)
+    {
+        tellResult(StatusLine::Command, sentence, true, window);
+    }
 
 Q_SIGNALS:
     void troubleChanged();
@@ -52,9 +54,12 @@ private:
     // Commands come from the window of telemetry.
     void tellOfCommand(const Sentence& sentence, bool isNews)
     {
-        tellResult(sentence, isNews, front_.telemetry());
+        tellResult(StatusLine::Command, sentence, isNews, front_.telemetry());
     }
-    void tellResult(const Sentence& sentence, bool isNews, QWidget* window);
+    void tellResult(StatusLine::Topic topic, const Sentence& sentence, bool isNews, QWidget* window);
+    void endReason();
+    // Goes with its reason.
+    void tellNotSent(const Sentence& sentence, const std::function<bool()>& holds);
 
     HostSession& session_;
     PluginWindows& windows_;
@@ -68,6 +73,9 @@ private:
     bool isPulled_ = false;    // the cable went while the tracker answered
     bool isPartSaved_ = false; // since the tracker was detached
     vlk::Message refused_{};   // the answer that was not passed on last
+    // Why the last command was not sent is looked at while it is told: no message tells of its end.
+    QTimer reason_;
+    std::function<bool()> reasonHolds_;
 };
 
 } // namespace workbench

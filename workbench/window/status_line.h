@@ -24,6 +24,7 @@ public:
     enum Topic {
         Program, // what holds for the whole run
         Command, // what became of the last command
+        Refused, // why the last command was not sent, while that lasts
         Link,    // what the tracker's answers are like
     };
 

@@ -42,7 +42,10 @@ TrackerCommands::TrackerCommands(tracker::SimulatedTracker& tracker, RepeatedReq
                                  PluginLink& link)
     : tracker_(tracker), requests_(requests), link_(link)
 {
-    connect(&tracker_, &tracker::SimulatedTracker::attachedChanged, this, [this] { cleared_.clear(); });
+    connect(&tracker_, &tracker::SimulatedTracker::attachedChanged, this, [this] {
+        cleared_.clear();
+        isAskedAnew_ = false;
+    });
 }
 
 bool TrackerCommands::take(Message message, void* p1)
@@ -106,7 +109,7 @@ bool TrackerCommands::isAllowed(const QString& question, const char* verb)
         reason = whyNotNow();
     }
     if (reason != nullptr)
-        Q_EMIT failed(saying(reason));
+        Q_EMIT refused(saying(reason), [this, reason] { return whyNotNow() == reason; });
     return reason == nullptr;
 }
 
@@ -141,6 +144,12 @@ void TrackerCommands::clear(const Command& command)
 
 void TrackerCommands::handOver(Message answer, void* p1, void* p2)
 {
+    // A save that has begun meanwhile would take it for one of its own.
+    if (answer == Message::CurrentRecord && std::exchange(isAskedAnew_, false) &&
+        link_.runningWork().saving != 0)
+        return;
+    if (RecordCheck::carriesRecord(answer))
+        isPresentShown_ = answer == Message::CurrentRecord || answer == Message::ClearedRecord;
     isAnswered_ = answer == Message::ClearedRecord && !cleared_.empty();
     if (isAnswered_)
         isDoubtful_ |= p1 == nullptr || RecordCheck().look(answer, *static_cast<const QByteArray*>(p1));
@@ -173,10 +182,10 @@ void TrackerCommands::setMileage(const Command& command)
         if (!present || std::abs(present->mileage - mileage) > kSameKm)
             Q_EMIT failed(told("wb_mileage_unknown"));
         else if (before)
-            Q_EMIT done(
+            confirm(
                 [sentence = told("wb_mileage_done"), before] { return sentence().arg(km(before->mileage)); });
         else
-            Q_EMIT done(told("wb_mileage_done_blind"));
+            confirm(told("wb_mileage_done_blind"));
     });
 }
 
@@ -192,8 +201,20 @@ void TrackerCommands::switchOutput(const Command& command)
         if (!present || isOn != on)
             Q_EMIT failed(told(on ? "wb_output_on_unknown" : "wb_output_off_unknown"));
         else
-            Q_EMIT done(told(on ? "wb_output_on" : "wb_output_off"));
+            confirm(told(on ? "wb_output_on" : "wb_output_off"));
     });
+}
+
+// A record that comes unasked would be in the way of somebody who walks through old ones.
+void TrackerCommands::confirm(const Sentence& sentence)
+{
+    Q_EMIT done(sentence);
+    const RunningWork running = link_.runningWork();
+    if (!isPresentShown_ || running.saving != 0 || running.automatic != 0)
+        return;
+    isAskedAnew_ = true;
+    Q_EMIT sent(Message::RequestCurrentRecord);
+    requests_.send(Message::RequestCurrentRecord, nullptr, nullptr);
 }
 
 void TrackerCommands::look(const std::function<void(const std::optional<tracker::Present>&)>& tell)

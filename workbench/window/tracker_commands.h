@@ -2,7 +2,8 @@
 
 // The commands of the plug-in that change the tracker: one that destroys is asked of the user before it is
 // sent, and refused while records are on their way by themselves; what became of it, and of an output that
-// was switched, is told. Clearing the data of several servers is one sequence, which is asked for once.
+// was switched, is told. Clearing the data of several servers is one sequence, which is asked for once. Where
+// the tracker's present is on show, it is asked for anew after a command that changed it.
 //
 // Nothing is asked within the call of the plug-in, which is in the middle of its own work there.
 
@@ -35,8 +36,10 @@ Q_SIGNALS:
     void sent(vlk::Message command);
     // As the user wished, be it that nothing was sent.
     void done(const workbench::Sentence& sentence);
-    // It was not sent, or nobody knows what became of it.
+    // Nobody knows what became of it.
     void failed(const workbench::Sentence& sentence);
+    // It was not sent, for a reason that is gone when `holds` says so.
+    void refused(const workbench::Sentence& sentence, const std::function<bool()>& holds);
 
 private:
     struct Command
@@ -58,6 +61,7 @@ private:
     bool isAllowed(const QString& question, const char* verb);
     // When the tracker had as much time as it takes for an answer.
     void look(const std::function<void(const std::optional<tracker::Present>& present)>& tell);
+    void confirm(const Sentence& sentence);
 
     tracker::SimulatedTracker& tracker_;
     RepeatedRequests& requests_;
@@ -67,6 +71,8 @@ private:
     bool isAnswered_ = false;       // the answer to a clearing is being handed over
     std::vector<int> cleared_;      // servers of the sequence
     bool isDoubtful_ = false;       // an answer of the sequence cannot be right
+    bool isPresentShown_ = false;   // the record that was handed over last is the tracker's present
+    bool isAskedAnew_ = false;      // for it, by nobody but these commands
 };
 
 } // namespace workbench
