@@ -249,7 +249,7 @@ private Q_SLOTS:
         table.row("empty mask", "B/address", "", ":", Change::otherForm);
         table.row("mask, filled", "B/address", "0a:Bc", "0a:Bc", Change::none);
         table.row("mask, without its signs", "B/address", "0aBc", "0a:Bc", Change::otherForm);
-        table.row("mask, partly", "B/address", "x1:b y7:", "1:b7", Change::otherForm);
+        table.row("mask, partly", "B/address", "x1:b y7:", "1:b7", Change::unknownCode);
         table.row("any number but 0 is on", "B/row", "-4", "1", Change::outOfRange);
         table.row("0 is off", "B/row", "0", "0", Change::none);
         table.row("not offered, stays", "B/kept", "PLS", "NU", Change::notOffered);
