@@ -194,7 +194,8 @@ private Q_SLOTS:
         records_->setContents(drained(200, 300));
         choose(good_);
         const QString news = view_->findChild<QLabel*>("label_FuelNews")->text();
-        QVERIFY2(news.startsWith("Fall from 10.0\u00a0l is below the noise of the level, "), qPrintable(news));
+        QVERIFY2(news.startsWith("Fall from 10.0\u00a0l is below the noise of the level, "),
+                 qPrintable(news));
         const auto* fall = view_->findChild<QDoubleSpinBox*>("doubleSpinBox_FuelFall");
         QVERIFY(fall->toolTip().contains("expect false ones"));
     }
