@@ -42,6 +42,13 @@ QString nameOfSubject(const QString& subject)
     return modelText() + QLatin1Char(' ') + texts.last(); // its number, where it has one
 }
 
+// Of the tracker that is attached; empty where its numbers are not known.
+QString trackerSubject()
+{
+    const QString identity = vlkDevice->trackerId1() + QLatin1Char('\n') + vlkDevice->trackerId2();
+    return identity.size() > 1 ? kTracker + identity : QString();
+}
+
 // Behind an edit. With the time that a slow disk or a busy machine takes it stays below a second.
 constexpr int kDelayMs = 300;
 // More are never in work at a time.
@@ -57,9 +64,8 @@ QString editSubject(const QString& path, bool isFile)
         const QFileInfo file(path);
         return kFile + (file.exists() ? file.canonicalFilePath() : file.absoluteFilePath());
     }
-    const QString identity = vlkDevice->trackerId1() + QLatin1Char('\n') + vlkDevice->trackerId2();
-    if (identity.size() > 1)
-        return kTracker + identity;
+    if (const QString subject = trackerSubject(); !subject.isEmpty())
+        return subject;
     QFile file(path);
     file.open(QIODevice::ReadOnly);
     return kUnknownTracker +
@@ -95,11 +101,17 @@ EditKeeper::EditKeeper(ConfigurationReview& review, QWidget& window) : review_(r
 void EditKeeper::begin(const QString& folder, const QString& subject, bool staysAsOpened)
 {
     due_.stop();
-    subject_ = subject;
-    path_ = review::recoveryPath(folder, subject);
-    claim_.reset();
+    folder_ = folder;
+    setSubject(subject);
     beginWith(review_.document());
     inFile_ = staysAsOpened ? beginning_ : Beginning();
+}
+
+void EditKeeper::setSubject(const QString& subject)
+{
+    subject_ = subject;
+    path_ = review::recoveryPath(folder_, subject);
+    claim_.reset();
 }
 
 void EditKeeper::beginWith(const QByteArray& document)
@@ -202,9 +214,15 @@ void EditKeeper::confirmed(const QByteArray& content)
     handedOver_.erase(handedOver_.begin(), found.base());
     if (written.path == path_) {
         Q_EMIT this->written(written.content);
+        // What was new is the tracker's now, and its next reading offers what is edited from here on.
+        if (const QString tracker = trackerSubject(); subject_ == kNew && !tracker.isEmpty())
+            setSubject(tracker);
         beginWith(written.document);
-        if (keep())
-            Q_EMIT safe();
+        if (!keep())
+            return;
+        if (path_ != written.path)
+            QFile::remove(written.path);
+        Q_EMIT safe();
         return;
     }
     // Another configuration has been opened since then. What was edited in between stays.

@@ -68,12 +68,14 @@ private:
 
     using Beginning = std::array<QByteArray, 2>; // without an edit, in the full and in the quick window
 
+    void setSubject(const QString& subject);
     void beginWith(const QByteArray& document);
     void setFailure(const QString& reason);
     void tellKept() const;
 
     ConfigurationReview& review_;
     QTimer due_;
+    QString folder_;
     QString subject_;
     QString path_;
     std::optional<FileClaim> claim_;     // while the edits are in sight

@@ -179,6 +179,21 @@ private Q_SLOTS:
         }
     }
 
+    // A new configuration is the tracker's once it is written, and so is what is edited from then on.
+    void goesOnInTheTracker()
+    {
+        open("new");
+        edit();
+        written();
+        type(child<QSpinBox>("spinBox_RegTimer"), "<All>61<Tab>");
+        window->close();
+        open("new");
+        QVERIFY(offer().isEmpty());
+        open("tracker");
+        QCOMPARE(offer(), QString("rev_140: 1"));
+        QCOMPARE(files().size(), 1);
+    }
+
     // In the button, at the end and in the offer. Whoever shows what is logged tells of it at the next start.
     void countedAlike()
     {
