@@ -83,6 +83,14 @@ private Q_SLOTS:
             choose("rec_063");
         }
         QCOMPARE(this->numbers().size(), numbers.isEmpty() ? 40 : 1);
+        // The button in the field empties it for good.
+        type("lineEdit_Filter", "NumPage < 1003");
+        pressInFilter(Qt::Key_Return);
+        QCOMPARE(this->numbers().size(), 3);
+        for (auto* button : child<QLineEdit>("lineEdit_Filter")->findChildren<QToolButton*>())
+            if (button->defaultAction()->objectName() == "_q_qlineeditclearaction")
+                button->click();
+        QTRY_COMPARE(this->numbers().size(), 40);
     }
 
     // The latest one first, as they are kept: for all files, in words of no language.

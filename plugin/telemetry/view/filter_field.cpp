@@ -68,6 +68,9 @@ FilterField::FilterField(ShownRecords* shown, RecordsModel* model, QWidget* pare
     line_ = new FilterLine(completer_, latest_, this);
     line_->setObjectName(QStringLiteral("lineEdit_Filter"));
     line_->setClearButtonEnabled(true);
+    // By the button in the line, which empties it behind the action.
+    if (const auto* emptied = line_->findChild<QAction*>(QStringLiteral("_q_qlineeditclearaction")))
+        connect(emptied, &QAction::triggered, this, &FilterField::applyTyped, Qt::QueuedConnection);
     latest_->setIcon(lineIcon(LineIcon::down));
     line_->addAction(latest_, QLineEdit::TrailingPosition);
     caption_->setBuddy(line_);

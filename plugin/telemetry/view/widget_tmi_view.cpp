@@ -182,6 +182,8 @@ void VLK_Widget_Tmi_View::showPart(const vlk::PartOfPeriod& part)
             held += QLatin1Char(' ') + tr("tmiw_294").arg(QFileInfo(part.earlier).fileName());
         return isDetached ? tr("tmiw_266") + QLatin1Char(' ') + held : held;
     };
+    // Some are missing in front of its last record already.
+    growing_.reset();
     notices_->end(kSaved);
     notices_->tell(kSavedInPart, [text, show = showPeriod_] {
         return Notice{Mark::advice, text(), {{tr("rec_080"), show}}};
