@@ -318,6 +318,13 @@ private Q_SLOTS:
                  changed)
             .row("a preset that is wrong", "apply bad.xml a.xml", 2, "",
                  "bad.xml: there is no setting TRACK/POINTS/bend\n", a)
+            .row("no preset", "apply b.xml a.xml", 2, "",
+                 "b.xml: is a configuration, not a preset: save one from the workbench\n", a)
+            .row("a preset among the files", "apply good.xml good.xml a.xml", 2,
+                 "a.xml: " + words + "90 km/h → 80 km/h\n",
+                 "good.xml: is a preset: it stands first, the files to change behind it\n", changed)
+            .row("nowhere to tell it", "set TRACK/POINTS/maxSpeed=80 a.xml -o none/told.txt", 2, "",
+                 "none/told.txt: cannot be written: no such file or folder\n", a)
             .row("through a pipe", "set TRACK/POINTS/maxSpeed=80 -", 0, changed,
                  "-: " + words + "90 km/h → 80 km/h\n", a);
     }

@@ -147,8 +147,11 @@ int edit(const Call& call, Output& output, const Edit& edit)
         const FileTurn turn(file.isStandardInput() ? QString() : file.name);
         if (!turn.has())
             return refusal(call, file.name, text("cli_280"));
-        return withConfiguration(call, file, [&](const QByteArray& text, vlk::XmlDocument&) {
-            return laidInto(call, file, text, edit(text));
+        return withConfiguration(call, file, [&](const QByteArray& content, vlk::XmlDocument& document) {
+            // Presets get settings, but none of another preset: whoever names one there has turned the order.
+            if (!call.preset.isEmpty() && vlk::review::saysPreset(*document.root()))
+                return refusal(call, file.name, text("cli_291"));
+            return laidInto(call, file, content, edit(content));
         });
     };
     return eachFile(call.files, work, output);
@@ -169,9 +172,11 @@ int set(const Call& call, Output& output)
 int apply(const Call& call, Output& output)
 {
     QByteArray preset;
-    const Outcome outcome =
-        withConfiguration(call, {call.preset, true}, [&](const QByteArray& text, vlk::XmlDocument& document) {
-            preset = text;
+    const Outcome outcome = withConfiguration(
+        call, {call.preset, true}, [&](const QByteArray& content, vlk::XmlDocument& document) {
+            preset = content;
+            if (!vlk::review::saysPreset(*document.root()))
+                return refusal(call, call.preset, text("cli_290"));
             const std::vector<PresetProblem> problems = problemsOfPreset(*document.root());
             return problems.empty() ? Outcome{} : refusal(call, call.preset, sentences(problems));
         });
