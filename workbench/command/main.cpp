@@ -47,6 +47,9 @@ int run(const Call& call)
         if (call.command != QLatin1String(function.name))
             continue;
         Output output(call.output, readersOf(call));
+        // Before anything is changed, or worked on for long.
+        if (!output.isReachable())
+            return output.close() ? nothing : failed;
         const int status = function.run(call, output);
         // What came to nothing is no reason to empty a file that was there.
         if (status == failed && output.isEmptyFile())

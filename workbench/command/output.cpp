@@ -22,6 +22,19 @@ Output::Output(const QString& name, Readers readers, const QString& complaint)
         fault_ = kept_.errorString();
 }
 
+bool Output::isReachable()
+{
+    const QFileInfo target(name_);
+    if (isFile() && fault_.isEmpty()) {
+        // A device is written to as it is.
+        if (target.isDir())
+            fault_ = qt_error_string(EISDIR);
+        else if (target.isFile() || !target.exists())
+            fault_ = vlk::whyNotReplaceable(name_);
+    }
+    return fault_.isEmpty();
+}
+
 void Output::write(const QByteArray& bytes)
 {
     if (bytes.isEmpty() || !fault_.isEmpty())

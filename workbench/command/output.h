@@ -17,6 +17,8 @@ public:
     // Where the texts are gone: the complaint, with a place for the reason.
     Output(const QString& name, Readers readers, const QString& complaint);
 
+    // Whether a file could be put in its place now; if not, close() tells why.
+    bool isReachable();
     void write(const QByteArray& bytes);
     // Puts the file in its place. False with a complaint when not everything could be written.
     bool close();
