@@ -65,7 +65,7 @@ constexpr auto kServerRules = rulesOf(
         .telling(outerNumber()),
     rule("server_port_large", error, "adv_065")
         .each(kServers)
-        .when(isOn("TRANS/SRV%1/use"), notBelow("TRANS/SRV%1/port", 65536))
+        .when(isOn("TRANS/SRV%1/use"), notBelow("TRANS/SRV%1/port", kHighestPort + 1))
         .naming("TRANS/SRV%1/port")
         .telling(outerNumber(), valueOf("TRANS/SRV%1/port")),
     rule("server_address_form", error, "adv_004")

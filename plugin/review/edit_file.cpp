@@ -140,7 +140,22 @@ EditedFile withEdits(const QByteArray& text, const std::vector<KeyEdit>& edits)
         if (row < 0 || values.written(row) != done[i].second)
             problems.push_back({What::badValue, done[i].first.path, done[i].first.value, Change::byRule});
     }
-    return problems.empty() ? edited(text, target, {}) : EditedFile{true, text, std::move(problems)};
+    if (!problems.empty())
+        return {true, text, std::move(problems)};
+    EditedFile result = edited(text, target, {});
+    // As a load has it: what is switched on follows from the file.
+    XmlDocument after(result.text, QStringLiteral("DEVICE"));
+    Configuration loaded(allSettings());
+    loaded.read(*after.root());
+    for (std::size_t i = 0; i < done.size(); ++i) {
+        const FileKey& place = FileKeys::all()[target.keys[i]];
+        const Values& values = loaded.tables()[place.table];
+        const int holder = values.holder(place.rows.front());
+        if (isDoubted(loaded, target.keys[i]))
+            problems.push_back({What::badValue, done[i].first.path, done[i].first.value, Change::unknownCode,
+                                &values.setting(holder), values.limits(holder)});
+    }
+    return problems.empty() ? result : EditedFile{true, text, std::move(problems)};
 }
 
 EditedFile withConfiguration(const QByteArray& text, const Configuration& configuration,

@@ -2,6 +2,7 @@
 
 #include "base/masked_text.h"
 #include "base/number_text.h"
+#include "review/file_keys.h"
 #include "xml/xml_text.h"
 
 #include <QRegularExpression>
@@ -22,6 +23,11 @@ bool isProper(const Flag& row, const QString& text)
 {
     const int number = leadingInt(text);
     return isWholeNumber(text) && (number == 0 || number == row.on);
+}
+
+bool isProper(const Number& row, const QString& text)
+{
+    return !row.isPort || leadingLong(text) <= kHighestPort;
 }
 
 bool isProper(const Choice& row, const QString& text)
@@ -90,6 +96,15 @@ bool isSettable(const Setting& setting, const QString& text)
     // What a file would not bring back is none either.
     return sectionText(text) == text && decodeValue(text) == text &&
            std::visit([&](const auto& row) { return isProper(row, text); }, setting.kind);
+}
+
+bool isDoubted(const Configuration& configuration, int key)
+{
+    const FileKey& place = FileKeys::all()[key];
+    const Values& values = configuration.tables()[place.table];
+    return std::ranges::any_of(values.table().all<Doubt>(), [&](const Doubt& rule) {
+        return std::ranges::find(place.rows, rule.path.row) != place.rows.end() && values.holds(rule.when);
+    });
 }
 
 } // namespace vlk::review

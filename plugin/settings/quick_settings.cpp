@@ -68,7 +68,12 @@ constexpr auto kRows = rowsOf(
     flag("untouched", 0).resetTo(1).notStored(), group("TRANS/SRV1").atSave(ElementSave::keepsOthers),
     kServer,
     shared::host(text("addr", shared::kNoServer)).in("GPRSSrv_lineEdit_IP_DNS_Main").caption("cfgt1_026"),
-    integer("port", 4000).range(0, 65536).resetTo(5000).in("GPRSSrv_spinBox_Port_Main").caption("cfgt1_027"),
+    integer("port", 4000)
+        .range(0, 65536)
+        .port()
+        .resetTo(5000)
+        .in("GPRSSrv_spinBox_Port_Main")
+        .caption("cfgt1_027"),
     choice("format", kProtocols, "VLKB_ZETA")
         .offering("VLKB_ZETA")
         .unknownIs("VLKB_ZETA")

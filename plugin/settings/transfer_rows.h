@@ -87,7 +87,7 @@ inline constexpr auto kServerRows = repeat<3>([](int number) {
         group("SRV%1"), kServer[number - 1],
         flag("use", 0).resetTo(server.usedAfterReset ? 1 : 0).notStored().in(server.use).caption("cfgt1_023"),
         shared::host(text("addr", kNoServer)).resetTo("").in(server.address).caption("cfgt1_026"),
-        integer("port", 4000).range(0, 65536).resetTo(0).in(server.port).caption("cfgt1_027"),
+        integer("port", 4000).range(0, 65536).port().resetTo(0).in(server.port).caption("cfgt1_027"),
         choice("protocol", kProtocols, "ZETA")
             .unknownIs("ZETA")
             .noItemIs("VLKB_ZETA")

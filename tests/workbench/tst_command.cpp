@@ -67,6 +67,8 @@ private Q_SLOTS:
         put("good.xml", "<DEVICE creator='preset'><TRACK><POINTS maxSpeed='80'/></TRACK></DEVICE>");
         QDir(folder_->path()).mkpath("presets");
         put("presets/1.xml", "<DEVICE creator='preset'><TRACK><POINTS bend='1'/></TRACK></DEVICE>");
+        put("ports.xml",
+            "<DEVICE creator='preset'><TRANS><SRV1 port='65536'/><SRV2 port='0'/></TRANS></DEVICE>");
         put("named.xml", "<DEVICE><TRANS><OBJECT name='Truck 7'/><SRV1 objID='86007'/></TRANS></DEVICE>");
         put("twice.xml", "<DEVICE><TRACK><POINTS maxSpeed='90' maxSpeed='80'/></TRACK></DEVICE>");
         QDir(folder_->path()).mkpath("large");
@@ -236,6 +238,10 @@ private Q_SLOTS:
             .row("presets in a folder", "check presets", 0, "", "")
             .row("a preset", "check good.xml bad.xml", 1,
                  "bad.xml: warning: TRACK/POINTS/bend: Unknown key, left out\n", "")
+            .row("ports in a preset", "check ports.xml", 1,
+                 "ports.xml: warning: TRANS/SRV1/port: Data transfer / Port: 65536. No such "
+                 "value, left out\n",
+                 "")
             .row("a setting of many parts", "check motion.xml", 1,
                  "motion.xml: warning: SENSORS/IN1/IN1ADIN/ign: Input lines / Assign as ignition: Motion is "
                  "also "
@@ -318,6 +324,11 @@ private Q_SLOTS:
                  changed)
             .row("a preset that is wrong", "apply bad.xml a.xml", 2, "",
                  "bad.xml: there is no setting TRACK/POINTS/bend\n", a)
+            .row("ports that are marked",
+                 "set TRANS/SRV1/port=65536 TRANS/SRV2/port=0 TRANS/SRV2/addr=a.b a.xml", 2, "",
+                 "a.xml: TRANS/SRV1/port cannot be 65536; expected: a whole number, 1 to 65535\n", a)
+            .row("no port beside an address", "set TRANS/SRV1/port=0 factory.xml", 2, "",
+                 "factory.xml: TRANS/SRV1/port cannot be 0; expected: a whole number, 1 to 65535\n", a)
             .row("no preset", "apply b.xml a.xml", 2, "",
                  "b.xml: is a configuration, not a preset: save one from the workbench\n", a)
             .row("a preset among the files", "apply good.xml good.xml a.xml", 2,

@@ -24,6 +24,8 @@ QString expected(const vlk::Flag& row, const Limits&)
 
 QString expected(const vlk::Number& row, const Limits& limits)
 {
+    if (row.isPort)
+        return text("cli_255").arg(vlk::kLowestPort).arg(vlk::kHighestPort);
     const char* key = row.hexadecimal ? "cli_257" : row.isText ? "cli_256" : "cli_255";
     const QString range = text(key).arg(fileNumber(row, limits.least), fileNumber(row, limits.most));
     const bool isZeroApart = row.zeroIsOff && (limits.least > 0 || limits.most < 0);

@@ -8,6 +8,10 @@
 
 namespace vlk {
 
+// Of servers in use.
+inline constexpr int kLowestPort = 1;
+inline constexpr int kHighestPort = 65535;
+
 struct Number : ShownOf<Number>
 {
     double load = 0; // in the file, as is `reset`
@@ -26,6 +30,7 @@ struct Number : ShownOf<Number>
     bool zeroIsOff = false;    // 0 for off, or a number of the range
     bool negativeIsOn = false; // and a number below 0 is not off but the least
     bool blankIsZero = false;  // an empty value, as after a reset, stays empty on show and is 0 in the file
+    bool isPort = false;       // its widget takes 0 and 65536 too
 
     constexpr Number range(double from, double to) const
     {
@@ -41,6 +46,7 @@ struct Number : ShownOf<Number>
     constexpr Number onUnlessZero() const { return with(&Number::negativeIsOn, true); }
     constexpr Number switchedOnTo(std::int16_t value) const { return with(&Number::switchedOnAt, value); }
     constexpr Number readSingle() const { return with(&Number::singleRead, true); }
+    constexpr Number port() const { return with(&Number::isPort, true); }
     constexpr Number blankable() const
     {
         return with(&Number::blankIsZero, true).resetTo(std::numeric_limits<double>::quiet_NaN());
