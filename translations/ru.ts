@@ -1417,6 +1417,8 @@
     <message id="cli_282"><translation>содержит телеметрию, а файлов указано несколько: -o заменил бы её. Сначала удалите его или укажите другой файл</translation></message>
     <message id="cli_290"><translation>это конфигурация, а не шаблон: сохраните шаблон в программе настройки</translation></message>
     <message id="cli_291"><translation>это шаблон: он указывается первым, изменяемые файлы — после него</translation></message>
+    <message id="cli_292"><translation>условиям не отвечает ни одна запись</translation></message>
+    <message id="cli_293"><translation>преобразовывать нечего: записей нет</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>

@@ -58,6 +58,11 @@ private Q_SLOTS:
         QByteArray damaged = readFile(path("a.tmi"));
         damaged[128 + 2] = 0; // the type of the first record
         put("damaged.tmi", damaged);
+        put("headless.tmi", QByteArray(64, '\xA5') + readFile(path("a.tmi")).mid(64));
+        QDir(folder_.path()).mkdir("foreign");
+        for (const char* page : {"page.tmi", "foreign/page.tmi"})
+            put(page, "<html><body><p>Not found</p></body></html>");
+        put("program.tmi", readFile(VLK_COMMAND));
         put("spoilt.xml", readFile(path("b.xml")).replace("<Time>1700000002<", "<Time>17000x0002<"));
         put("cut.xml", readFile(path("b.xml")).left(1500));
     }
@@ -104,6 +109,16 @@ private Q_SLOTS:
             .row("a file that is not there", "none.tmi --to csv", 2, "",
                  "none.tmi: cannot be read: no such file or folder\n")
             .row("an empty folder", "bare --to csv", 0, "", "bare: holds no *.xml and no *.tmi\n")
+            .row("no record of that time", "a.tmi --to ndjson --from 2030-01-01", 1, "",
+                 "r7106: no record meets the conditions\n")
+            .row("what is foreign", "page.tmi program.tmi a.tmi --to csv --merge --where NumPage=1", 2,
+                 head + row(1), "page.tmi: is not telemetry\nprogram.tmi: is not telemetry\n")
+            .row("what is foreign in a folder", "foreign --strict --to csv", 2, "",
+                 "foreign/page.tmi: is not telemetry\n")
+            .row("records behind a damaged header", "headless.tmi --to csv --columns NumPage", 1,
+                 "NumPage\r\n1\r\n2\r\n4\r\n",
+                 "headless.tmi: offset 0: does not begin as telemetry does\n"
+                 "headless.tmi: offset 0: the header is not what was written\n")
             .row("columns", "a.tmi --to tsv --raw --columns Power,NumPage --where NumPage=2", 0,
                  "Power\tNumPage\n2\t2\n", "")
             .row("columns with words", "a.tmi --to csv-text --columns Power,NumPage --where NumPage=2", 0,

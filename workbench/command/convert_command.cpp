@@ -172,11 +172,13 @@ public:
     {
         const auto format = [this](Part part) { return written(std::move(part)); };
         const auto put = [this](Part part) {
+            written_ += part.records->size();
             begin(part.batch);
             output_.write(part.bytes);
         };
         const auto choose = [this](Part part) { return chosen(std::move(part)); };
         const auto putInTurn = [this](Part part) {
+            written_ += part.records->size();
             begin(part.batch);
             output_.write(bytesOf(
                 [&](vlk::OutputBuffer& out) { writer_->add(out, part.batch.records, *part.records); }));
@@ -188,6 +190,9 @@ public:
         begin({});
         output_.write(bytesOf([this](vlk::OutputBuffer& out) { writer_->finish(out); }));
     }
+
+    // No record was wanted, or there was none.
+    bool isEmpty() const { return written_ == 0; }
 
 private:
     static constexpr qint64 mostHeldBytes = 32 << 20;
@@ -328,6 +333,7 @@ private:
     const bool isOnTerminal_ =
         !output_.isFile() && isatty(STDOUT_FILENO) != 0; // what comes is progress enough
     std::size_t done_ = 0;                               // records of this walk
+    std::size_t written_ = 0;
     vlk::ExportAhead ahead_;
     std::deque<Part> held_; // from looking ahead
     qint64 heldBytes_ = 0;
@@ -384,6 +390,12 @@ int convertFiles(const Conversion& asked, const Filter& filter, vlk::ExportOptio
         return failed;
     }
     conversions.write();
+    if (conversions.isEmpty()) {
+        // A file that is there has more to tell.
+        output.drop();
+        writeError(complaint(QStringLiteral("r7106"), text(filter.root ? "cli_292" : "cli_293")));
+        status = std::max<int>(status, found);
+    }
     return status;
 }
 

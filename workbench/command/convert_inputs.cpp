@@ -3,8 +3,11 @@
 #include "command/configuration_input.h"
 #include "command/file_kind.h"
 #include "command/output.h"
+#include "telemetry/files/binary_layout.h"
+#include "telemetry/files/telemetry_reader.h"
 #include "window/languages.h"
 
+#include <QBuffer>
 #include <QTemporaryFile>
 
 #include <cstdio>
@@ -28,6 +31,25 @@ std::unique_ptr<QFile> kept(QFile& input)
     }
     file->seek(0);
     return file;
+}
+
+// Whether sound records stand in its first megabytes, and more of them than a program has by chance. To
+// search all of a large file that is something else would take too long.
+bool beginsWithRecords(QFile& file)
+{
+    constexpr qint64 searched = 4 << 20;
+    QBuffer start;
+    start.setData(file.peek(searched));
+    start.open(QIODevice::ReadOnly);
+    vlk::TelemetryReader reader(start, file.fileName(), vlk::TelemetryReading::salvage);
+    while (reader.step()) {
+    }
+    constexpr qint64 leastShare = 4; // of the bytes behind the header one in four
+    const vlk::RecordStore& records = reader.contents().records;
+    qint64 bytes = 0;
+    for (int record = 0; record < records.size(); ++record)
+        bytes += std::ssize(records.bytes(record));
+    return bytes > 0 && bytes * leastShare >= start.size() - qint64{vlk::binary::kHeaderBytes};
 }
 
 } // namespace
@@ -56,11 +78,12 @@ void TelemetryInputs::take(const File& file)
         return refuse(file, whyUnreadable(*device));
     const FileKind kind = kindOf(start);
     // What has lost its beginning is found by its records.
-    const bool isDamaged = kind == FileKind::unknown && !start.isEmpty() &&
-                           file.name.endsWith(QLatin1String(".tmi"), Qt::CaseInsensitive);
+    const bool isDamaged = kind == FileKind::unknown &&
+                           file.name.endsWith(QLatin1String(".tmi"), Qt::CaseInsensitive) &&
+                           beginsWithRecords(*device);
     if (kind == FileKind::telemetry || isDamaged)
         files_.push_back({file, isKept || file.isStandardInput() ? std::move(device) : nullptr});
-    else if (file.isNamed)
+    else if (file.isNamed || kind == FileKind::unknown)
         refuse(file, text(start.isEmpty() ? "cli_004" : "cli_212"));
 }
 
