@@ -1419,6 +1419,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_291"><translation>is a preset: it stands first, the files to change behind it</translation></message>
     <message id="cli_292"><translation>no record meets the conditions</translation></message>
     <message id="cli_293"><translation>there is no record to convert</translation></message>
+    <message id="cli_294"><translation>holds no configuration</translation></message>
+    <message id="cli_295"><translation>holds no telemetry</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>
     <message id="rev_003"><translation>Unknown key, a write drops it</translation></message>

@@ -1419,6 +1419,8 @@
     <message id="cli_291"><translation>это шаблон: он указывается первым, изменяемые файлы — после него</translation></message>
     <message id="cli_292"><translation>условиям не отвечает ни одна запись</translation></message>
     <message id="cli_293"><translation>преобразовывать нечего: записей нет</translation></message>
+    <message id="cli_294"><translation>не содержит конфигураций</translation></message>
+    <message id="cli_295"><translation>не содержит телеметрии</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>

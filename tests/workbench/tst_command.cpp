@@ -232,10 +232,10 @@ private Q_SLOTS:
             .row("what is a preset, or large", "info good.xml large.xml", 0,
                  "good.xml: preset\nlarge.xml: configuration, R-7106\n", "")
             .row("what is larger than configurations", "check large large.xml", 2, "",
-                 "large.xml: is larger than a configuration can be\n")
+                 "large.xml: is larger than a configuration can be\nlarge: holds no configuration\n")
             .row("an attribute that stands twice", "check twice.xml", 2, "",
                  "twice.xml: is damaged in line 1, column 52\n")
-            .row("presets in a folder", "check presets", 0, "", "")
+            .row("presets in a folder", "check presets", 2, "", "presets: holds no configuration\n")
             .row("a preset", "check good.xml bad.xml", 1,
                  "bad.xml: warning: TRACK/POINTS/bend: Unknown key, left out\n", "")
             .row("ports in a preset", "check ports.xml", 1,
@@ -247,7 +247,9 @@ private Q_SLOTS:
                  "also "
                  "told by: ignition is chosen, but no input line is assigned as ignition.\n",
                  "")
-            .row("an empty folder", "check bare", 0, "", "bare: holds no *.xml and no *.tmi\n")
+            .row("an empty folder", "check bare", 2, "", "bare: holds no *.xml and no *.tmi\n")
+            .row("folders of other things", "fuel --table tank.xml presets days", 2, "",
+                 "presets: holds no telemetry\n")
             .row("a folder for a file", "report fleet", 2, "", "fleet: is a folder, and one file is needed\n")
             .row("the system's reason in Russian", "--language ru check x.xml", 2, "",
                  "x.xml: не читается: нет такого файла или папки\n")

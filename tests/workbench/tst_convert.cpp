@@ -54,7 +54,9 @@ private Q_SLOTS:
         put("a.tmi", fileOf(ExportForm::tmi, storeOf({1, 2, 4}), {}));
         put("b.xml", fileOf(ExportForm::xml, storeOf({5, 2, 3}), {}));
         put("c.xml", "<DEVICE/>");
-        QDir(folder_.path()).mkdir("bare");
+        for (const char* folder : {"bare", "fleet of one"})
+            QDir(folder_.path()).mkdir(folder);
+        put("fleet of one/c.xml", "<DEVICE/>");
         QByteArray damaged = readFile(path("a.tmi"));
         damaged[128 + 2] = 0; // the type of the first record
         put("damaged.tmi", damaged);
@@ -108,7 +110,9 @@ private Q_SLOTS:
                  "r7106: --decimal-comma is for csv and tsv\n")
             .row("a file that is not there", "none.tmi --to csv", 2, "",
                  "none.tmi: cannot be read: no such file or folder\n")
-            .row("an empty folder", "bare --to csv", 0, "", "bare: holds no *.xml and no *.tmi\n")
+            .row("an empty folder", "bare --to csv", 2, "", "bare: holds no *.xml and no *.tmi\n")
+            .row("a folder of configurations", "fleet_of_one --to csv", 2, "",
+                 "fleet of one: holds no telemetry\n")
             .row("no record of that time", "a.tmi --to ndjson --from 2030-01-01", 1, "",
                  "r7106: no record meets the conditions\n")
             .row("what is foreign", "page.tmi program.tmi a.tmi --to csv --merge --where NumPage=1", 2,

@@ -56,6 +56,7 @@ struct Outcome
     QByteArray complaints{};
     int status = nothing;
     std::function<void()> inTurn{};
+    bool isPassedOver = false; // it is not what the command is for
 };
 
 } // namespace workbench::command

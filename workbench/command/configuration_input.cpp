@@ -135,7 +135,7 @@ Outcome withConfiguration(const Call& call, const File& file, const TakeConfigur
     const FileKind kind = kindOf(*bytes);
     if (kind != FileKind::configuration) {
         const bool isPassedOver = !file.isNamed && kind != FileKind::unknown;
-        return isPassedOver ? Outcome{} : refusal(call, file.name, whyOther(kind));
+        return isPassedOver ? Outcome{.isPassedOver = true} : refusal(call, file.name, whyOther(kind));
     }
     if (bytes->size() > CSerialize::kMaxFileSize)
         return refusal(call, file.name, text("cli_005"));
@@ -146,7 +146,7 @@ Outcome withConfiguration(const Call& call, const File& file, const TakeConfigur
     if (!document.isOpen())
         return refusal(call, file.name, reason.isEmpty() ? text("cli_008") : reason);
     const bool isPassedOver = !file.isNamed && vlk::review::saysPreset(*document.root());
-    return isPassedOver ? Outcome{} : take(*bytes, document);
+    return isPassedOver ? Outcome{.isPassedOver = true} : take(*bytes, document);
 }
 
 } // namespace workbench::command

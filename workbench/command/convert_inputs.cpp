@@ -10,6 +10,7 @@
 #include <QBuffer>
 #include <QTemporaryFile>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace workbench::command {
@@ -59,8 +60,7 @@ TelemetryInputs::TelemetryInputs(const QStringList& names)
     FileWalk walk(names);
     while (const std::optional<File> file = walk.next())
         take(*file);
-    for (const QString& folder : walk.emptyFolders())
-        writeError(complaint(folder, text("cli_144")));
+    status_ = std::max(status_, folders_.tell(walk, "cli_295"));
 }
 
 void TelemetryInputs::take(const File& file)
@@ -82,13 +82,20 @@ void TelemetryInputs::take(const File& file)
                            file.name.endsWith(QLatin1String(".tmi"), Qt::CaseInsensitive) &&
                            beginsWithRecords(*device);
     if (kind == FileKind::telemetry || isDamaged)
-        files_.push_back({file, isKept || file.isStandardInput() ? std::move(device) : nullptr});
+        add(file, isKept || file.isStandardInput() ? std::move(device) : nullptr);
     else if (file.isNamed || kind == FileKind::unknown)
         refuse(file, text(start.isEmpty() ? "cli_004" : "cli_212"));
 }
 
+void TelemetryInputs::add(const File& file, std::unique_ptr<QFile> device)
+{
+    folders_.found(file);
+    files_.push_back({file, std::move(device)});
+}
+
 void TelemetryInputs::refuse(const File& file, const QString& reason)
 {
+    folders_.found(file);
     writeError(complaint(file.name, reason));
     status_ = failed;
 }

@@ -2,8 +2,7 @@
 
 // The files of a call that are telemetry. Of the others that are named themselves it complains.
 
-#include "command/call.h"
-#include "command/file_walk.h"
+#include "command/each_file.h"
 
 #include <QFile>
 
@@ -28,8 +27,10 @@ public:
 
 private:
     void take(const File& file);
+    void add(const File& file, std::unique_ptr<QFile> device);
     void refuse(const File& file, const QString& reason);
 
+    FolderTally folders_;
     std::vector<TelemetryInput> files_;
     int status_ = nothing;
 };

@@ -4,18 +4,38 @@
 
 namespace workbench::command {
 
-int eachFile(const QStringList& names, const std::function<Outcome(const File&)>& work, Output& output)
+void FolderTally::found(const File& file)
 {
-    FileWalk walk(names);
-    const int status = workInTurn<File>([&walk] { return walk.next(); }, work, output);
-    tellEmpty(walk);
+    if (file.isNamed)
+        return;
+    const std::lock_guard lock(mutex_);
+    found_.insert(file.folder);
+}
+
+int FolderTally::tell(const FileWalk& walk, const char* key) const
+{
+    int status = nothing;
+    for (const QString& folder : walk.folders()) {
+        if (found_.contains(folder))
+            continue;
+        writeError(complaint(folder, text(walk.emptyFolders().contains(folder) ? "cli_144" : key)));
+        status = failed;
+    }
     return status;
 }
 
-void tellEmpty(const FileWalk& walk)
+int eachFile(const QStringList& names, const std::function<Outcome(const File&)>& work, Output& output)
 {
-    for (const QString& folder : walk.emptyFolders())
-        writeError(complaint(folder, text("cli_144")));
+    FileWalk walk(names);
+    FolderTally folders;
+    const auto workAndTell = [&](const File& file) {
+        Outcome outcome = work(file);
+        if (!outcome.isPassedOver)
+            folders.found(file);
+        return outcome;
+    };
+    const int status = workInTurn<File>([&walk] { return walk.next(); }, workAndTell, output);
+    return std::max(status, folders.tell(walk, "cli_294"));
 }
 
 } // namespace workbench::command

@@ -9,7 +9,10 @@
 #include "command/output.h"
 #include "command/progress.h"
 
+#include <QSet>
+
 #include <functional>
+#include <mutex>
 
 namespace workbench::command {
 
@@ -35,10 +38,20 @@ int workInTurn(std::function<std::optional<Item>()> next, std::function<Outcome(
     return status;
 }
 
-// Of the folders that held nothing.
-void tellEmpty(const FileWalk& walk);
+// The folders of a call in which there was something for its command. Several threads may tell of files.
+class FolderTally
+{
+public:
+    void found(const File& file);
+    // Complains of the others; `key` says what they lack. Gives failed where there is one.
+    int tell(const FileWalk& walk, const char* key) const;
 
-// The same for the files of a call.
+private:
+    std::mutex mutex_;
+    QSet<QString> found_;
+};
+
+// The same for the files of a call that are configurations, or whatever they are.
 int eachFile(const QStringList& names, const std::function<Outcome(const File&)>& work, Output& output);
 
 } // namespace workbench::command

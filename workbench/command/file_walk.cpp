@@ -38,8 +38,10 @@ std::optional<File> FileWalk::next()
                 return std::nullopt;
             const QString name = names_[at_++];
             isEmpty_ = true;
-            if (name != QLatin1String("-") && QFileInfo(name).isDir() && enter(name))
+            if (name != QLatin1String("-") && QFileInfo(name).isDir() && enter(name)) {
+                allFolders_ << name;
                 continue;
+            }
             return File{name, true};
         }
         Folder& folder = folders_.back();
@@ -58,7 +60,7 @@ std::optional<File> FileWalk::next()
             continue;
         }
         isEmpty_ = false;
-        return File{name, false};
+        return File{name, false, names_[at_ - 1]};
     }
 }
 

@@ -13,8 +13,9 @@ namespace workbench::command {
 
 struct File
 {
-    QString name; // as it is given; below a folder "FOLDER/NAME"
-    bool isNamed; // itself, not its folder
+    QString name;     // as it is given; below a folder "FOLDER/NAME"
+    bool isNamed;     // itself, not its folder
+    QString folder{}; // that is named, where it lies in one
 
     bool isStandardInput() const { return isNamed && name == QLatin1String("-"); }
 };
@@ -26,7 +27,8 @@ public:
 
     // A folder that cannot be listed is given as a file.
     std::optional<File> next();
-    // Folders that were named and gave nothing, so far.
+    // Folders that were named, so far, and those of them that gave nothing.
+    const QStringList& folders() const { return allFolders_; }
     const QStringList& emptyFolders() const { return emptyFolders_; }
 
 private:
@@ -41,6 +43,7 @@ private:
     int at_ = 0;
     std::vector<Folder> folders_;
     bool isEmpty_ = true; // the named one, so far
+    QStringList allFolders_;
     QStringList emptyFolders_;
 };
 

@@ -163,7 +163,10 @@ std::vector<Vehicle> vehiclesOf(FileWalk& walk, bool isOne)
 class FuelSearch
 {
 public:
-    FuelSearch(const Call& call, const std::vector<TankSensor>& tanks) : call_(call), tanks_(tanks) {}
+    FuelSearch(const Call& call, const std::vector<TankSensor>& tanks, FolderTally& folders)
+        : call_(call), tanks_(tanks), folders_(folders)
+    {
+    }
 
     Outcome eventsOf(const Vehicle& files)
     {
@@ -197,6 +200,7 @@ private:
 
     void refuse(const File& file, const QString& reason)
     {
+        folders_.found(file);
         const Outcome refused = refusal(call_, file.name, reason);
         outcome_.told += refused.told;
         outcome_.complaints += refused.complaints;
@@ -229,6 +233,7 @@ private:
 
     void readRecords(const File& file, QIODevice& device, bool isOneOfSeveral)
     {
+        folders_.found(file);
         vlk::TelemetryReader reader(device, {}, vlk::TelemetryReading::salvage);
         Part part{file, records_.size(), 0, false};
         for (bool isMore = true; isMore;) {
@@ -266,6 +271,7 @@ private:
 
     const Call& call_;
     const std::vector<TankSensor>& tanks_;
+    FolderTally& folders_;
     Outcome outcome_;
     vlk::RecordStore records_;
     std::set<RecordKey> seen_; // of several files
@@ -284,13 +290,13 @@ int fuel(const Call& call, Output& output)
         return failed;
     FileWalk walk(call.files);
     const std::vector<Vehicle> vehicles = vehiclesOf(walk, call.isOneVehicle);
+    FolderTally folders;
     const int status = workInTurn<Vehicle>(
         [&, at = std::size_t{0}]() mutable {
             return at < vehicles.size() ? std::optional(vehicles[at++]) : std::nullopt;
         },
-        [&](const Vehicle& files) { return FuelSearch(call, tanks).eventsOf(files); }, output);
-    tellEmpty(walk);
-    return status;
+        [&](const Vehicle& files) { return FuelSearch(call, tanks, folders).eventsOf(files); }, output);
+    return std::max(status, folders.tell(walk, "cli_295"));
 }
 
 } // namespace workbench::command
