@@ -1421,6 +1421,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_293"><translation>there is no record to convert</translation></message>
     <message id="cli_294"><translation>holds no configuration</translation></message>
     <message id="cli_295"><translation>holds no telemetry</translation></message>
+    <message id="cli_296"><translation>--merge: records of several trackers follow each other by time: %1</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>
     <message id="rev_003"><translation>Unknown key, a write drops it</translation></message>

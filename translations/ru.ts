@@ -1421,6 +1421,7 @@
     <message id="cli_293"><translation>преобразовывать нечего: записей нет</translation></message>
     <message id="cli_294"><translation>не содержит конфигураций</translation></message>
     <message id="cli_295"><translation>не содержит телеметрии</translation></message>
+    <message id="cli_296"><translation>--merge: записи нескольких трекеров следуют друг за другом по времени: %1</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>

@@ -52,6 +52,11 @@ private Q_SLOTS:
         put("many.tmi", fileOf(ExportForm::tmi, many, origin_));
         QTextCodec::setCodecForLocale(nullptr);
         put("a.tmi", fileOf(ExportForm::tmi, storeOf({1, 2, 4}), {}));
+        for (const auto& [tracker, store] : {std::pair("7", storeOf({1, 2})), {"8", storeOf({2, 4})}}) {
+            TelemetryOrigin origin;
+            origin.trackerId = QString(tracker);
+            put(QString(tracker) + ".tmi", fileOf(ExportForm::tmi, store, origin));
+        }
         put("b.xml", fileOf(ExportForm::xml, storeOf({5, 2, 3}), {}));
         put("c.xml", "<DEVICE/>");
         for (const char* folder : {"bare", "fleet of one"})
@@ -88,6 +93,11 @@ private Q_SLOTS:
                  head + row(1) + row(2) + row(4) + row(5) + row(2) + row(3), "")
             .row("merged", "a.tmi b.xml --to csv --merge", 0,
                  head + row(1) + row(2) + row(3) + row(4) + row(5), "")
+            .row("merged, of two trackers", "7.tmi 8.tmi b.xml --to csv --columns NumPage --merge", 1,
+                 "NumPage\r\n1\r\n2\r\n2\r\n3\r\n4\r\n5\r\n",
+                 "r7106: --merge: records of several trackers follow each other by time: 7, 8\n")
+            .row("merged, said to be of one", "7.tmi 8.tmi --to csv --columns NumPage --merge --tracker 7", 0,
+                 "NumPage\r\n1\r\n2\r\n4\r\n", "")
             .row("a condition", "b.xml --to csv --where Питание>0,003", 2, "",
                  "r7106: --where: at character 1 there should be the name of a column, "
                  "not \"Питание\"\n")

@@ -376,9 +376,10 @@ int convertFiles(const Conversion& asked, const Filter& filter, vlk::ExportOptio
     const TrackerTexts encoding;
     const std::unique_ptr<RecordSource> files = recordsOf(inputs.files(), listener);
     std::unique_ptr<RecordSource> merged;
+    QStringList trackers;
     if (asked.merge) {
         QString reason;
-        merged = mergedRecords(*files, &reason);
+        merged = mergedRecords(*files, asked.tracker.isEmpty() ? &trackers : nullptr, &reason);
         if (!merged)
             return refused(output, text("cli_213") + QStringLiteral(": ") + reason);
     }
@@ -390,6 +391,11 @@ int convertFiles(const Conversion& asked, const Filter& filter, vlk::ExportOptio
         return failed;
     }
     conversions.write();
+    if (trackers.size() > 1) {
+        writeError(complaint(QStringLiteral("r7106"),
+                             text("cli_296").arg(valueInOneLine(trackers.join(QStringLiteral(", "))))));
+        status = std::max<int>(status, found);
+    }
     if (conversions.isEmpty()) {
         // A file that is there has more to tell.
         output.drop();

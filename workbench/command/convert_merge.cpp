@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
 #include <numeric>
 #include <queue>
 
@@ -19,14 +20,29 @@ namespace {
 
 using vlk::RecordStore;
 
+constexpr quint32 kNoTracker = std::numeric_limits<quint32>::max();
 constexpr qint64 kBytesOfRun = 24 << 20;
 constexpr int kRecordsOfMergedBatch = 1024;
 constexpr qint64 kBytesAhead = 16 << 10; // of a run that are read at a time
 
+// The order of records. Those of a file that tells no tracker come behind equal ones of any that does.
+struct Place
+{
+    RecordKey key;
+    quint32 tracker = 0;
+
+    bool isSameAs(const Place& other) const
+    {
+        const bool isKnown = tracker != kNoTracker && other.tracker != kNoTracker;
+        return key == other.key && (tracker == other.tracker || !isKnown);
+    }
+    auto operator<=>(const Place&) const = default;
+};
+
 // As a record lies in the file, in front of its bytes.
 struct Entry
 {
-    RecordKey key;
+    Place place;
     quint32 layout = 0;
     quint32 origin = 0;
     quint32 size = 0;
@@ -80,15 +96,17 @@ class MergedSource : public RecordSource
 {
 public:
     // False with a reason where the file cannot be written.
-    bool take(RecordSource& records, QString* reason)
+    bool take(RecordSource& records, QStringList* trackers, QString* reason)
     {
         bool isWritten = file_.open();
         while (std::optional<RecordBatch> batch = isWritten ? records.next() : std::nullopt) {
             const quint32 origin = numberOf(batch->origin);
+            const quint32 tracker = trackers == nullptr ? kNoTracker : numberOf(batch->tracker, trackers);
             const RecordStore& store = batch->records;
             for (int record = 0; record < store.size(); ++record) {
                 held_.add(store.layout(record), store.bytes(record));
                 origins_.push_back(origin);
+                trackers_.push_back(tracker);
                 heldBytes_ += std::ssize(store.bytes(record)) + qint64{sizeof(Entry)};
             }
             if (heldBytes_ >= kBytesOfRun)
@@ -110,7 +128,7 @@ public:
             runs_.emplace_back(file_, bounds_[i], bounds_[i + 1]);
         for (std::size_t i = 0; i < runs_.size(); ++i) {
             if (runs_[i].next())
-                heads_.push({runs_[i].entry.key, i});
+                heads_.push({runs_[i].entry.place, i});
         }
     }
 
@@ -123,14 +141,14 @@ public:
             const auto& origin = originList_[run.entry.origin];
             if (batch.origin && batch.origin != origin)
                 break;
-            if (!last_ || *last_ != head.key) {
+            if (!last_ || !last_->isSameAs(head.place)) {
                 batch.origin = origin;
                 batch.records.add(layouts_[head.run][run.entry.layout], run.bytes);
             }
-            last_ = head.key;
+            last_ = head.place;
             heads_.pop();
             if (run.next())
-                heads_.push({run.entry.key, head.run});
+                heads_.push({run.entry.place, head.run});
         }
         return batch.records.empty() ? std::nullopt : std::optional(std::move(batch));
     }
@@ -139,7 +157,7 @@ private:
     // The next record of a run. Of equal ones that of the earlier run comes first.
     struct Head
     {
-        RecordKey key;
+        Place place;
         std::size_t run;
 
         auto operator<=>(const Head&) const = default;
@@ -159,25 +177,35 @@ private:
         return number;
     }
 
+    static quint32 numberOf(const QString& tracker, QStringList* trackers)
+    {
+        if (tracker.isEmpty())
+            return kNoTracker;
+        if (!trackers->contains(tracker))
+            trackers->append(tracker);
+        return static_cast<quint32>(trackers->indexOf(tracker));
+    }
+
     bool writeRun()
     {
-        std::vector<RecordKey> keys(held_.size());
+        std::vector<Place> places(held_.size());
         for (int record = 0; record < held_.size(); ++record)
-            keys[record] = keyOf(held_, record);
+            places[record] = {keyOf(held_, record), trackers_[record]};
         std::vector<int> order(held_.size());
         std::iota(order.begin(), order.end(), 0);
-        std::ranges::stable_sort(order, {}, [&keys](int record) { return keys[record]; });
+        std::ranges::stable_sort(order, {}, [&places](int record) { return places[record]; });
         layouts_.push_back(held_.layouts());
         bool isWritten = true;
         for (const int record : order) {
             const auto bytes = held_.bytes(record);
-            const Entry entry{keys[record], static_cast<quint32>(held_.layoutNumber(record)),
+            const Entry entry{places[record], static_cast<quint32>(held_.layoutNumber(record)),
                               origins_[record], static_cast<quint32>(bytes.size())};
             isWritten = isWritten && put(&entry, sizeof entry) && put(bytes.data(), std::ssize(bytes));
         }
         bounds_.push_back(file_.pos());
         held_.clear();
         origins_.clear();
+        trackers_.clear();
         heldBytes_ = 0;
         return isWritten;
     }
@@ -194,19 +222,20 @@ private:
 
     RecordStore held_; // of the run that is being made
     std::vector<quint32> origins_;
+    std::vector<quint32> trackers_;
     qint64 heldBytes_ = 0;
 
     std::vector<Run> runs_;
     std::priority_queue<Head, std::vector<Head>, std::greater<>> heads_;
-    std::optional<RecordKey> last_;
+    std::optional<Place> last_;
 };
 
 } // namespace
 
-std::unique_ptr<RecordSource> mergedRecords(RecordSource& records, QString* reason)
+std::unique_ptr<RecordSource> mergedRecords(RecordSource& records, QStringList* trackers, QString* reason)
 {
     auto merged = std::make_unique<MergedSource>();
-    return merged->take(records, reason) ? std::move(merged) : nullptr;
+    return merged->take(records, trackers, reason) ? std::move(merged) : nullptr;
 }
 
 } // namespace workbench::command

@@ -1,6 +1,8 @@
 #include "command/convert_source.h"
 
 #include "command/system_reason.h"
+#include "telemetry/files/binary_layout.h"
+#include "telemetry/files/identity_text.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -72,6 +74,9 @@ private:
         if (!reader_) {
             if (!open(input))
                 return std::nullopt;
+            const QByteArray header = device(input).peek(vlk::binary::kHeaderBytes);
+            tracker_ =
+                QString::fromLocal8Bit(vlk::identityIn(vlk::bytesAt(header.constData(), header.size())));
             reader_ = std::make_unique<vlk::TelemetryReader>(device(input), input.file.name,
                                                              vlk::TelemetryReading::salvage);
             origin_.reset();
@@ -90,7 +95,7 @@ private:
             listener_.complete(input.file, origin);
             origin_ = std::make_shared<const vlk::TelemetryOrigin>(std::move(origin));
         }
-        RecordBatch batch{origin_, std::move(contents.records)};
+        RecordBatch batch{origin_, std::move(contents.records), tracker_};
         contents.records = vlk::RecordStore();
         contents.records.setUtcOffset(batch.records.utcOffset());
         return batch;
@@ -120,6 +125,7 @@ private:
     std::unique_ptr<vlk::TelemetryReader> reader_;
     bool isRead_ = false;                                // the present file, to its end
     std::shared_ptr<const vlk::TelemetryOrigin> origin_; // of the present file
+    QString tracker_;                                    // that it tells
 };
 
 } // namespace

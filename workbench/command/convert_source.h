@@ -17,6 +17,7 @@ struct RecordBatch
 {
     std::shared_ptr<const vlk::TelemetryOrigin> origin;
     vlk::RecordStore records;
+    QString tracker{}; // as their file itself tells it
 };
 
 // What is told while files are read for the first time.
@@ -46,8 +47,9 @@ protected:
 // One file after the other.
 std::unique_ptr<RecordSource> recordsOf(const std::vector<TelemetryInput>& inputs, SourceListener listener);
 
-// Sorted by time; of those with the same number and time the first. None, with a reason, where the temporary
-// file cannot be written.
-std::unique_ptr<RecordSource> mergedRecords(RecordSource& records, QString* reason);
+// Sorted by time; of those with the same number and time the first. Records of files that tell different
+// trackers are all kept, and `trackers` gets those; null where all are of one, whatever files tell. None,
+// with a reason, where the temporary file cannot be written.
+std::unique_ptr<RecordSource> mergedRecords(RecordSource& records, QStringList* trackers, QString* reason);
 
 } // namespace workbench::command
