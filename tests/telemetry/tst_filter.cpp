@@ -36,6 +36,8 @@ private Q_SLOTS:
             .row("a number", "StateU_Ain3<9,5", "StateU_Ain3 < 9.5")
             .row("any case", "SPEED >= -1.5E2", "Speed >= -150")
             .row("a heading", "CAN tmizta_164,  %  = 7", "CAN_FuelLevel.percent = 7")
+            .row("letters that look alike", "T8 > 1 or \u0421\u0410N tmizta_164, % = 7",
+                 "Temp8 > 1 or CAN_FuelLevel.percent = 7")
             .row("one without its unit", "rate > 60 or tmizta_178. rate > 5 or Rate, km/h > 7",
                  "Speed > 60 or NaviSpeed > 5 or Speed > 7")
             .row("the longest name", "IN10 = 1 or IN1 = 0", "StateIn2.1 = 1 or StateIn1.0 = 0")

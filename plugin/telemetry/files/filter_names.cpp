@@ -54,11 +54,14 @@ const Word* wordOf(const Rule& rule, quint32 code)
 
 QString foldedForFilter(const QString& text)
 {
+    // Cyrillic letters that look like Latin ones, which some headings have in their place, and those.
+    static const QString cyrillic = QStringLiteral("авекмнорстхё");
+    static const QString latin = QStringLiteral("abekmhopctxe");
     QString folded = text;
     for (QChar& sign : folded) {
         sign = sign.toLower();
-        if (sign == QChar(0x451))
-            sign = QChar(0x435);
+        if (const int alike = cyrillic.indexOf(sign); alike >= 0)
+            sign = latin[alike];
         else if (sign.isSpace())
             sign = QLatin1Char(' ');
     }

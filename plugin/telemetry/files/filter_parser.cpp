@@ -72,7 +72,7 @@ const QStringList& wordsOf(FilterNode::Kind kind)
 {
     static const QStringList all{QStringLiteral("and"), QStringLiteral("и")};
     static const QStringList any{QStringLiteral("or"), QStringLiteral("или")};
-    static const QStringList negation{QStringLiteral("not"), QStringLiteral("не")};
+    static const QStringList negation{QStringLiteral("not"), foldedForFilter(QStringLiteral("не"))};
     return kind == FilterNode::all ? all : kind == FilterNode::any ? any : negation;
 }
 
