@@ -143,7 +143,8 @@ public:
     Conversions(const Conversion& asked, Filter filter, vlk::ExportOptions options, RecordSource& source,
                 Output& output, Progress& progress)
         : form_(formOf(asked)), asked_(asked), filter_(std::move(filter)), options_(std::move(options)),
-          source_(source), output_(output), progress_(progress)
+          source_(source), output_(output), progress_(progress),
+          isMarked_(form_.form == ExportForm::csv && output.isSpreadsheet())
     {
     }
 
@@ -319,6 +320,8 @@ private:
         if (writer_)
             return;
         setOrigin(batch);
+        if (isMarked_)
+            output_.write("\xEF\xBB\xBF");
         writer_ = exportWriter(form_.form, ahead_, first_ ? optionsFor(*first_) : options_);
         output_.write(bytesOf([this](vlk::OutputBuffer& out) { writer_->begin(out); }));
     }
@@ -330,6 +333,7 @@ private:
     RecordSource& source_;
     Output& output_;
     Progress& progress_;
+    const bool isMarked_; // as UTF-8, for spreadsheets
     const bool isOnTerminal_ =
         !output_.isFile() && isatty(STDOUT_FILENO) != 0; // what comes is progress enough
     std::size_t done_ = 0;                               // records of this walk

@@ -27,6 +27,8 @@ public:
     void drop() { isDropped_ = true; }
 
     bool isFile() const { return !name_.isEmpty(); }
+    // A file that spreadsheets open: they look for a mark in front of UTF-8.
+    bool isSpreadsheet() const { return name_.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive); }
     // A file that could be written, and nothing is in it.
     bool isEmptyFile() const { return isFile() && fault_.isEmpty() && kept_.size() == 0; }
 
