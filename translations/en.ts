@@ -1422,6 +1422,12 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_294"><translation>holds no configuration</translation></message>
     <message id="cli_295"><translation>holds no telemetry</translation></message>
     <message id="cli_296"><translation>--merge: records of several trackers follow each other by time: %1</translation></message>
+    <message id="cli_297"><translation>%1: %2 is not a whole number</translation></message>
+    <message id="cli_298"><translation>%1 (digits behind the point: %2 at most)</translation></message>
+    <message id="cli_299"><translation>%1 is empty</translation></message>
+    <message id="cli_300"><translation>%1 stands where PATH=VALUE is needed: settings first, then files</translation></message>
+    <message id="cli_301"><translation>%1 is a file, and its name reads as PATH=VALUE: put -- in front of the files</translation></message>
+    <message id="cli_302"><translation>is the table of %1, and is used for %2 as --sensor says</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>
     <message id="rev_003"><translation>Unknown key, a write drops it</translation></message>

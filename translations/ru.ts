@@ -1422,6 +1422,12 @@
     <message id="cli_294"><translation>не содержит конфигураций</translation></message>
     <message id="cli_295"><translation>не содержит телеметрии</translation></message>
     <message id="cli_296"><translation>--merge: записи нескольких трекеров следуют друг за другом по времени: %1</translation></message>
+    <message id="cli_297"><translation>%1: %2 — не целое число</translation></message>
+    <message id="cli_298"><translation>%1 (знаков после точки: не больше %2)</translation></message>
+    <message id="cli_299"><translation>%1: пустое значение</translation></message>
+    <message id="cli_300"><translation>%1 указан там, где нужно ПУТЬ=ЗНАЧЕНИЕ: сначала параметры, затем файлы</translation></message>
+    <message id="cli_301"><translation>%1 — файл, а имя читается как ПУТЬ=ЗНАЧЕНИЕ: поставьте перед файлами --</translation></message>
+    <message id="cli_302"><translation>это таблица %1, по --sensor применена к %2</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>

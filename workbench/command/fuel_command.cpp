@@ -118,11 +118,11 @@ Outcome takeTanks(const Call& call, std::vector<TankSensor>* tanks)
             return refuse(call.tables[i], text("cli_242"));
         if (isTaken(sensor))
             return refuse(call.tables[i], text("cli_031").arg(QLatin1String(sensor->element().data())));
-        const QString other = text("cli_243").arg(table.sensor, QLatin1String(sensor->element().data()));
+        const QString field = QLatin1String(sensor->element().data());
         if (!vlk::suits(table, *sensor))
-            return refuse(call.tables[i], other);
+            return refuse(call.tables[i], text("cli_243").arg(table.sensor, field));
         if (vlk::isOfAnother(table, *sensor))
-            outcome.complaints += complaint(call.tables[i], other);
+            outcome.complaints += complaint(call.tables[i], text("cli_302").arg(table.sensor, field));
         tanks->push_back({sensor, vlk::FuelCurve(table.rows, sensor->kind)});
     }
     return outcome;
