@@ -65,8 +65,12 @@ Change why(const Number& row, const Reading& reading, const QString& value)
         return Change::otherForm;
     constexpr double most = std::numeric_limits<double>::max();
     const Limits none{.least = -most, .most = most};
+    // Digits that the widget has no place for, or more than those.
+    const double place = (row.isText ? 1 : row.factor) * std::pow(10, -row.decimals);
+    const double lost = row.hexadecimal ? 0 : reading.text.toDouble() - value.toDouble();
     const bool isOff = row.zeroIsOff && value == QLatin1String("0");
-    return isOff || normalised(row, {reading.text, reading.before, none, reading.source}) != value
+    return isOff || std::abs(lost) >= place ||
+                   normalised(row, {reading.text, reading.before, none, reading.source}) != value
                ? Change::outOfRange
                : Change::rounded;
 }

@@ -33,11 +33,20 @@ using vlk::review::PresetProblem;
 
 namespace {
 
-const char* reasonKey(Change change)
+// Whether it is a number, in either decimal sign, of a setting of whole ones.
+bool isFraction(const PresetProblem& problem)
 {
-    switch (change) {
+    bool isNumber = false;
+    QString(problem.text).replace(QLatin1Char(','), QLatin1Char('.')).toDouble(&isNumber);
+    const vlk::Number* number = problem.setting != nullptr ? problem.setting->number() : nullptr;
+    return isNumber && number != nullptr && !number->isText && !number->hexadecimal;
+}
+
+const char* reasonKey(const PresetProblem& problem)
+{
+    switch (problem.change) {
     case Change::notANumber:
-        return "cli_034";
+        return isFraction(problem) ? "cli_297" : "cli_034";
     case Change::outOfRange:
     case Change::wrapped:
         return "cli_035";
@@ -62,21 +71,22 @@ const char* reasonKey(Change change)
 QString sentence(const PresetProblem& problem)
 {
     using What = PresetProblem::What;
+    const QString path = valueInOneLine(problem.path);
     switch (problem.what) {
     case What::unknownKey:
-        return text("cli_030").arg(problem.path);
+        return text("cli_030").arg(path);
     case What::doubled:
-        return text("cli_031").arg(problem.path);
+        return text("cli_031").arg(path);
     case What::noPlace:
-        return text("cli_032").arg(problem.path);
+        return text("cli_032").arg(path);
     case What::badValue:
         break;
     }
     if (problem.text.isEmpty())
-        return withExpected(text("cli_028").arg(problem.path), problem);
+        return withExpected(text("cli_028").arg(path), problem);
     const bool isSecret = FileKeys::all().looksSecret(problem.path);
     return withExpected(
-        text(reasonKey(problem.change)).arg(problem.path, isSecret ? QStringLiteral("•••") : problem.text),
+        text(reasonKey(problem)).arg(path, isSecret ? QStringLiteral("•••") : valueInOneLine(problem.text)),
         problem);
 }
 

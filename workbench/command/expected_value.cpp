@@ -27,7 +27,9 @@ QString expected(const vlk::Number& row, const Limits& limits)
     if (row.isPort)
         return text("cli_255").arg(vlk::kLowestPort).arg(vlk::kHighestPort);
     const char* key = row.hexadecimal ? "cli_257" : row.isText ? "cli_256" : "cli_255";
-    const QString range = text(key).arg(fileNumber(row, limits.least), fileNumber(row, limits.most));
+    QString range = text(key).arg(fileNumber(row, limits.least), fileNumber(row, limits.most));
+    if (row.isText && row.decimals > 0)
+        range = text("cli_298").arg(range).arg(row.decimals);
     const bool isZeroApart = row.zeroIsOff && (limits.least > 0 || limits.most < 0);
     return isZeroApart ? text("cli_258").arg(range) : range;
 }
