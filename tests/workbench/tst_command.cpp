@@ -67,6 +67,7 @@ private Q_SLOTS:
         put("good.xml", "<DEVICE creator='preset'><TRACK><POINTS maxSpeed='80'/></TRACK></DEVICE>");
         QDir(folder_->path()).mkpath("presets");
         put("presets/1.xml", "<DEVICE creator='preset'><TRACK><POINTS bend='1'/></TRACK></DEVICE>");
+        put("a=1.xml", track);
         put("ports.xml",
             "<DEVICE creator='preset'><TRANS><SRV1 port='65536'/><SRV2 port='0'/></TRANS></DEVICE>");
         put("named.xml", "<DEVICE><TRANS><OBJECT name='Truck 7'/><SRV1 objID='86007'/></TRANS></DEVICE>");
@@ -207,7 +208,7 @@ private Q_SLOTS:
                  "none.xml: cannot be read: no such file or folder\n")
             .row("a table of another sensor",
                  "fuel --sensor LevelRS485_1 --fall 99 --table other.xml week.xml", 0, "",
-                 "other.xml: is the table of D2, not of LevelRS485_1\n")
+                 "other.xml: is the table of D2, and is used for LevelRS485_1 as --sensor says\n")
             .row("a table of another kind", "fuel --sensor LevelRS485_1 --table volts.xml week.xml", 2, "",
                  "volts.xml: is the table of A3, not of LevelRS485_1\n")
             .row("a table that falls back", "fuel --table falls.xml week.xml", 2, "",
@@ -288,7 +289,8 @@ private Q_SLOTS:
             .row("empty", "set TRACK/POINTS/maxSpeed= a.xml", 2, "",
                  "a.xml: TRACK/POINTS/maxSpeed: the value is empty; expected: a whole number, 1 to 180\n", a)
             .row("in another decimal sign", "set TRACK/POINTS/maxSpeed=80,5 a.xml", 2, "",
-                 "a.xml: TRACK/POINTS/maxSpeed: 80,5 is not a number; expected: a whole number, 1 to 180\n",
+                 "a.xml: TRACK/POINTS/maxSpeed: 80,5 is not a whole number; expected: a whole number, 1 to "
+                 "180\n",
                  a)
             .row("neither 0 nor 1, and other digits",
                  "set TRACK/POINTS/useDist=7 TRACK/COORDAVER/sensors=2 a.xml", 2, "",
@@ -331,6 +333,27 @@ private Q_SLOTS:
                  "a.xml: TRANS/SRV1/port cannot be 65536; expected: a whole number, 1 to 65535\n", a)
             .row("no port beside an address", "set TRANS/SRV1/port=0 factory.xml", 2, "",
                  "factory.xml: TRANS/SRV1/port cannot be 0; expected: a whole number, 1 to 65535\n", a)
+            .row("out of all ranges, and too exact",
+                 "set TRACK/POINTS/maxSpeed=99999999999 TRACK/COORDFLT/maxHDOP=2.55 a.xml", 2, "",
+                 "a.xml: TRACK/POINTS/maxSpeed: 99999999999 is out of range; expected: a whole number, 1 to "
+                 "180; "
+                 "TRACK/COORDFLT/maxHDOP: 2.55 is too exact; expected: a number with a decimal point, 0.1 to "
+                 "100.0 (digits behind the point: 1 at most)\n",
+                 a)
+            .row("a line break", "set TRACK/POINTS/maxSpeed=8\n0 a.xml", 2, "",
+                 "a.xml: TRACK/POINTS/maxSpeed: 8%0A0 is not a number; expected: a whole number, 1 to 180\n",
+                 a)
+            .row("in another order", "set a.xml TRACK/POINTS/maxSpeed=80", 2, "",
+                 "r7106: a.xml stands where PATH=VALUE is needed: settings first, then files\nHelp: r7106 "
+                 "--help\n",
+                 a)
+            .row("a file that reads as a setting", "set TRACK/POINTS/maxSpeed=80 a=1.xml a.xml", 2, "",
+                 "r7106: a=1.xml is a file, and its name reads as PATH=VALUE: put -- in front of the "
+                 "files\nHelp: "
+                 "r7106 --help\n",
+                 a)
+            .row("nothing for an option", "check a.xml -o ", 2, "",
+                 "r7106: --output is empty\nHelp: r7106 --help\n", a)
             .row("no preset", "apply b.xml a.xml", 2, "",
                  "b.xml: is a configuration, not a preset: save one from the workbench\n", a)
             .row("a preset among the files", "apply good.xml good.xml a.xml", 2,

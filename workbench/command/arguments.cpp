@@ -5,6 +5,7 @@
 #include "telemetry/files/export_form.h"
 #include "window/languages.h"
 
+#include <QFileInfo>
 #include <QSet>
 
 #include <CLI/CLI.hpp>
@@ -211,7 +212,15 @@ QString splitFiles(const CommandRow& row, const Read& read, const std::optional<
                 return text("cli_031").arg(path);
             paths.insert(path);
         }
+        // The shell gives whatever name matches, with a sign in it too.
+        const auto taken = std::find_if(files.begin(), files.begin() + settings,
+                                        [](const QString& name) { return QFileInfo::exists(name); });
+        const QString fileTaken = taken != files.begin() + settings ? inOneLine(*taken) : QString();
         files = files.mid(static_cast<int>(settings));
+        if (!plain && !fileTaken.isNull())
+            return text("cli_301").arg(fileTaken);
+        if (call->settings.isEmpty() && files.size() > 1)
+            return text("cli_300").arg(inOneLine(files.front()));
         if (call->settings.isEmpty() || files.isEmpty())
             return text("cli_021");
     }
@@ -230,6 +239,17 @@ QString splitFiles(const CommandRow& row, const Read& read, const std::optional<
     if (row.edits && isCopyWanted && (call->dryRun || files != QStringList(QStringLiteral("-"))))
         return text("cli_251");
     call->files = files;
+    return {};
+}
+
+// An option that was given nothing, such as a variable of a script that was never set; null if there is none.
+QString emptyOption(const CLI::App& command)
+{
+    for (const CLI::Option* option : command.get_options()) {
+        const std::vector<std::string>& results = option->results();
+        if (!option->get_positional() && std::ranges::find(results, std::string()) != results.end())
+            return QString::fromStdString("--" + option->get_lnames().front());
+    }
     return {};
 }
 
@@ -372,6 +392,8 @@ Arguments readArguments(const QByteArrayList& arguments)
     } catch (const CLI::ParseError& error) {
         return refused(whyNotParsed(app, error));
     }
+    if (const QString empty = emptyOption(*app.get_subcommands().front()); !empty.isNull())
+        return refused(text("cli_299").arg(empty));
     const std::string name = app.get_subcommands().front()->get_name();
     const auto* row = std::ranges::find(kCommands, name, &CommandRow::name);
     Arguments result{read.call, {}, {}};
