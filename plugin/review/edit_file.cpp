@@ -23,6 +23,22 @@ int rowOf(const Configuration& configuration, int key)
     return found == place.rows.end() ? -1 : *found;
 }
 
+// A file says by an address that a server is in use; only then the address is saved.
+void switchOn(Configuration* configuration, int key, const QString& value)
+{
+    const int row = rowOf(*configuration, key);
+    if (row < 0 || value.isEmpty())
+        return;
+    Values& values = configuration->tables()[FileKeys::all()[key].table];
+    Values after = values;
+    after.edit(row, value);
+    for (const Sets& rule : values.table().all<Sets>()) {
+        const bool isSwitch = rule.moment == Moment::afterRead && !values.row(rule.path.row).base->stored;
+        if (isSwitch && rule.when.row == row && after.holds(rule.when))
+            values.edit(rule.path.row, QString::fromLatin1(rule.to));
+    }
+}
+
 // Gives the value that the file has to hold then; none with a problem.
 std::optional<QString> edit(Configuration* configuration, int key, const KeyEdit& edit,
                             PresetProblem* problem)
@@ -118,6 +134,8 @@ EditedFile withEdits(const QByteArray& text, const std::vector<KeyEdit>& edits)
         else
             problems.push_back({What::unknownKey, asked.path, asked.value});
     }
+    for (const auto& [asked, key] : open)
+        switchOn(&target.configuration, key, asked.value);
     std::vector<std::pair<KeyEdit, QString>> done;
     while (!open.empty()) {
         // Those that have no place yet wait for the others.

@@ -55,6 +55,9 @@ private Q_SLOTS:
                  "<RS485><OPTIONS owner1='' boudrate='9600'/></RS485>",
                  "<RS485><OPTIONS owner1='TPMS' boudrate='38400'/><TPMS type=\"PRESSPRO\" "
                  "holdTime=\"20\"/></RS485>")
+            .row("a server that comes into use", "TRANS/SRV2/port=5000 TRANS/SRV2/addr=a.b",
+                 "<TRANS><SRV2 addr='0.0.0.0' port='0'/></TRANS>",
+                 "<TRANS><SRV2 addr='a.b' port='5000'/></TRANS>")
             .row("a device that goes", "RS485/OPTIONS/owner1=",
                  "<RS485>\n<OPTIONS owner1='TPMS'/>\n<TPMS type='PRESSPRO' holdTime='20'/>\n</RS485>",
                  "<RS485>\n<OPTIONS owner1=''/>\n</RS485>");
@@ -172,6 +175,9 @@ private Q_SLOTS:
                 if (!edited.problems.empty())
                     continue;
                 vlk::Configuration windows = loaded(factory);
+                // The address of a server can be typed once it is switched on.
+                if (keys[key].path.endsWith("/addr") && !QStringList{"", "0.0.0.0"}.contains(sample))
+                    windows.edit(QString(keys[key].path).replace("/addr", "/use"), "1");
                 windows.edit(keys[key].path, sample);
                 const Differences differences(FileState::ofConfiguration(windows),
                                               FileState::ofConfiguration(loaded(edited.text)));
