@@ -20,8 +20,8 @@
 
 namespace vlk {
 
-// Lower case, "ё" as "е", Cyrillic letters that look like Latin ones as those, every blank a plain one; as many
-// characters as before.
+// Lower case, "ё" as "е", Cyrillic letters that look like Latin ones as those, every blank a plain one; as
+// many characters as before.
 QString foldedForFilter(const QString& text);
 
 // Codes from `first` to `last`.
