@@ -19,6 +19,10 @@ namespace {
 
 using Texts = std::vector<std::pair<int, QString>>; // by key
 
+// What a document says of itself at its root.
+const QString kCreator = QStringLiteral("creator");
+const QString kPresetCreator = QStringLiteral("preset");
+
 const char* noteKey(const PresetProblem& problem)
 {
     using What = PresetProblem::What;
@@ -115,7 +119,7 @@ FileState stateWith(const Texts& texts, const Configuration& configuration, Conf
 void writePreset(CXmlSection& root, const FileState& from, std::vector<int> keys, Personal personal)
 {
     std::sort(keys.begin(), keys.end());
-    root.setString(QStringLiteral("creator"), QStringLiteral("preset"));
+    root.setString(kCreator, kPresetCreator);
     root.commit();
     for (const int key : keys) {
         if (from.at(key).isThere && (personal == Personal::included || !isPersonal(key)))
@@ -149,7 +153,13 @@ std::optional<ChosenParts> chosenParts(int key, const QString& text)
 
 bool saysPreset(const CXmlSection& root)
 {
-    return root.getString(QStringLiteral("creator")) == QLatin1String("preset");
+    return root.getString(kCreator) == kPresetCreator;
+}
+
+bool saysConfiguration(const CXmlSection& root)
+{
+    const QString creator = root.getString(kCreator);
+    return !creator.isEmpty() && creator != kPresetCreator;
 }
 
 DifferenceText textOf(const PresetProblem& problem, Secrets secrets)

@@ -31,6 +31,8 @@ std::optional<ChosenParts> chosenParts(int key, const QString& text);
 
 // Whether a document says that it is a preset; others can be applied too.
 bool saysPreset(const CXmlSection& root);
+// Or a whole configuration, which gives whatever it is applied to every value that it has.
+bool saysConfiguration(const CXmlSection& root);
 
 // A key of a preset that cannot be applied.
 struct PresetProblem

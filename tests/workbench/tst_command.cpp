@@ -68,6 +68,7 @@ private Q_SLOTS:
         QDir(folder_->path()).mkpath("presets");
         put("presets/1.xml", "<DEVICE creator='preset'><TRACK><POINTS bend='1'/></TRACK></DEVICE>");
         put("a=1.xml", track);
+        put("unmarked.xml", "<DEVICE><TRACK><POINTS maxSpeed='80'/></TRACK></DEVICE>");
         put("ports.xml",
             "<DEVICE creator='preset'><TRANS><SRV1 port='65536'/><SRV2 port='0'/></TRANS></DEVICE>");
         put("named.xml", "<DEVICE><TRANS><OBJECT name='Truck 7'/><SRV1 objID='86007'/></TRANS></DEVICE>");
@@ -354,8 +355,10 @@ private Q_SLOTS:
                  a)
             .row("nothing for an option", "check a.xml -o ", 2, "",
                  "r7106: --output is empty\nHelp: r7106 --help\n", a)
-            .row("no preset", "apply b.xml a.xml", 2, "",
-                 "b.xml: is a configuration, not a preset: save one from the workbench\n", a)
+            .row("a preset without the mark", "apply unmarked.xml a.xml", 0,
+                 "a.xml: " + words + "90 km/h → 80 km/h\n", "", changed)
+            .row("no preset", "apply factory.xml a.xml", 2, "",
+                 "factory.xml: is a configuration, not a preset: save one from the workbench\n", a)
             .row("a preset among the files", "apply good.xml good.xml a.xml", 2,
                  "a.xml: " + words + "90 km/h → 80 km/h\n",
                  "good.xml: is a preset: it stands first, the files to change behind it\n", changed)

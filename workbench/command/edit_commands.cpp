@@ -185,7 +185,7 @@ int apply(const Call& call, Output& output)
     const Outcome outcome = withConfiguration(
         call, {call.preset, true}, [&](const QByteArray& content, vlk::XmlDocument& document) {
             preset = content;
-            if (!vlk::review::saysPreset(*document.root()))
+            if (vlk::review::saysConfiguration(*document.root()))
                 return refusal(call, call.preset, text("cli_290"));
             const std::vector<PresetProblem> problems = problemsOfPreset(*document.root());
             return problems.empty() ? Outcome{} : refusal(call, call.preset, sentences(problems));
