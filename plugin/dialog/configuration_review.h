@@ -101,7 +101,11 @@ public:
     void mend(const std::vector<review::Mend>& mends, const EditHistory::Words& words);
 
     EditHistory& history() { return history_; }
-    void retranslate() { advice_.reset(); }
+    void retranslate()
+    {
+        if (advice_ && !advice_->empty())
+            advice_.reset();
+    }
 
 Q_SIGNALS:
     void changed();
@@ -145,9 +149,10 @@ private:
     std::vector<review::PresetProblem> problems_;
     EditHistory::Words otherName_;
     bool wasQuick_ = false;
-    review::Differences edited_;                                 // to the file as it came
-    review::Differences differences_;                            // to what is chosen
-    mutable std::optional<std::vector<review::Finding>> advice_; // none until it is asked for
+    review::Differences edited_;      // to the file as it came
+    review::Differences differences_; // to what is chosen
+    // None after a change until it is asked for; of what is not open there is nothing to say.
+    mutable std::optional<std::vector<review::Finding>> advice_{std::in_place};
 };
 
 } // namespace vlk

@@ -2,6 +2,7 @@
 
 #include "catalogue/field_catalogue.h"
 #include "review/advice_paths.h"
+#include "review/settable.h"
 #include "settings/bluetooth_sensor_types.h"
 #include "settings/rs_settings.h"
 #include "settings/shared_rows.h"

@@ -6,6 +6,10 @@
 
 namespace vlk::review {
 
+// Ports of servers in use; the widgets take the numbers beside them too.
+inline constexpr int kLowestPort = 1;
+inline constexpr int kHighestPort = 65535;
+
 // Whether the text is one that the window of the setting lets be typed and does not mark as wrong. Ranges,
 // codes and lengths are told by takenAs (change.h).
 bool isSettable(const Setting& setting, const QString& text);

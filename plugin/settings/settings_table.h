@@ -50,18 +50,14 @@ constexpr std::array<Setting, 0> listOf(const Heading&)
     return {};
 }
 
-namespace tables {
-
-constexpr Numbers& numbersOf(Setting& setting)
+// Of a row or a rule.
+constexpr Numbers& numbersOf(auto& item)
 {
-    return setting.base().numbers;
+    if constexpr (requires { item.base(); })
+        return item.base().numbers;
+    else
+        return item.numbers;
 }
-constexpr Numbers& numbersOf(auto& rule)
-{
-    return rule.numbers;
-}
-
-} // namespace tables
 
 // Rows and arrays of rows in one array. A heading counts for what stands behind it up to the next one, save
 // for rows that have one already.
@@ -94,7 +90,7 @@ template <class Item, std::size_t n>
 constexpr auto numbered(std::array<Item, n> items, int number)
 {
     for (Item& item : items) {
-        Numbers& numbers = tables::numbersOf(item);
+        Numbers& numbers = numbersOf(item);
         numbers = {static_cast<std::uint8_t>(number), numbers.outer};
     }
     return items;

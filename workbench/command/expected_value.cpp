@@ -1,5 +1,6 @@
 #include "command/expected_value.h"
 
+#include "review/settable.h"
 #include "window/languages.h"
 
 #include <algorithm>
@@ -25,7 +26,7 @@ QString expected(const vlk::Flag& row, const Limits&)
 QString expected(const vlk::Number& row, const Limits& limits)
 {
     if (row.isPort)
-        return text("cli_255").arg(vlk::kLowestPort).arg(vlk::kHighestPort);
+        return text("cli_255").arg(vlk::review::kLowestPort).arg(vlk::review::kHighestPort);
     const char* key = row.hexadecimal ? "cli_257" : row.isText ? "cli_256" : "cli_255";
     QString range = text(key).arg(fileNumber(row, limits.least), fileNumber(row, limits.most));
     if (row.isText && row.decimals > 0)

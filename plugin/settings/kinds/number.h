@@ -8,10 +8,6 @@
 
 namespace vlk {
 
-// Of servers in use.
-inline constexpr int kLowestPort = 1;
-inline constexpr int kHighestPort = 65535;
-
 struct Number : ShownOf<Number>
 {
     double load = 0; // in the file, as is `reset`

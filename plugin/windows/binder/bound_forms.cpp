@@ -14,12 +14,26 @@ QStringList targetNames(const Enable& rule)
 void BoundForms::add(QWidget* form, int number)
 {
     Form& added = forms_.emplace_back(Form{form, number, {}, {}});
-    for (QLabel* label : form->findChildren<QLabel*>()) {
-        if (label->buddy() && !added.ofBuddy.contains(label->buddy()))
+    for (QWidget* child : form->findChildren<QWidget*>()) {
+        const QString name = child->objectName();
+        if (!name.isEmpty() && !added.named.contains(name))
+            added.named.insert(name, child);
+        auto* label = qobject_cast<QLabel*>(child);
+        if (label && label->buddy() && !added.ofBuddy.contains(label->buddy()))
             added.ofBuddy.insert(label->buddy(), label);
-        if (!added.named.contains(label->objectName()))
-            added.named.insert(label->objectName(), label);
     }
+}
+
+// What was made since is looked for.
+QWidget* BoundForms::Form::find(const QString& name) const
+{
+    QWidget* known = named.value(name);
+    return known ? known : widget->findChild<QWidget*>(name);
+}
+
+QLabel* BoundForms::Form::label(const QString& name) const
+{
+    return qobject_cast<QLabel*>(named.value(name));
 }
 
 const BoundForms::Form* BoundForms::formNamed(const QString& name) const
@@ -45,13 +59,13 @@ QWidget* BoundForms::find(const QString& form, const QString& widget, int number
 {
     if (!form.isEmpty()) {
         const Form* named = formNamed(form);
-        return named ? named->widget->findChild<QWidget*>(widget) : nullptr;
+        return named ? named->find(widget) : nullptr;
     }
     for (const bool numbered : {true, false}) {
         for (const Form& each : forms_) {
             if (!each.widget || (each.number != 0) != numbered || (numbered && each.number != number))
                 continue;
-            if (auto* found = each.widget->findChild<QWidget*>(widget))
+            if (QWidget* found = each.find(widget))
                 return found;
         }
     }
@@ -76,7 +90,7 @@ QLabel* BoundForms::labelOf(QWidget* widget) const
         return nullptr;
     if (QLabel* label = form->ofBuddy.value(widget); label && label->buddy() == widget)
         return label;
-    QLabel* label = form->named.value(QStringLiteral("label_") + widget->objectName());
+    QLabel* label = form->label(QStringLiteral("label_") + widget->objectName());
     if (label)
         label->setBuddy(widget);
     return label;
@@ -84,8 +98,8 @@ QLabel* BoundForms::labelOf(QWidget* widget) const
 
 QLabel* BoundForms::labelBehind(QWidget* widget) const
 {
-    QWidget* parent = widget->parentWidget();
-    return parent ? parent->findChild<QLabel*>(widget->objectName() + QStringLiteral("_After")) : nullptr;
+    const Form* form = formAround(widget);
+    return form ? form->label(widget->objectName() + QStringLiteral("_After")) : nullptr;
 }
 
 } // namespace vlk

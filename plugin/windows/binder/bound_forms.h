@@ -33,7 +33,7 @@ public:
     bool isLate(const Name& name, Numbers numbers) const;
     // The label whose buddy the widget is, else the one named label_<widget>, whose buddy it becomes.
     QLabel* labelOf(QWidget* widget) const;
-    // The one named <widget>_After.
+    // The one of its form named <widget>_After.
     QLabel* labelBehind(QWidget* widget) const;
 
 private:
@@ -41,10 +41,13 @@ private:
     {
         QPointer<QWidget> widget;
         int number;
-        // Its labels by their buddies and by their names: looking through a form of many rows for the label
-        // of each of its widgets takes longer than all the rest.
+        // Its labels by their buddies, and all that had a name when it was added: looking through a form of
+        // many rows for each of them takes longer than all the rest.
         QHash<const QWidget*, QPointer<QLabel>> ofBuddy;
-        QHash<QString, QPointer<QLabel>> named;
+        QHash<QString, QPointer<QWidget>> named;
+
+        QWidget* find(const QString& name) const;
+        QLabel* label(const QString& name) const;
     };
 
     const Form* formNamed(const QString& name) const;
