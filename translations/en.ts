@@ -991,7 +991,7 @@
     <message id="cfgt6_407"><translation>Discard</translation></message>
     <message id="cfgt6_408"><translation>→ takes it</translation></message>
     <message id="cfgt6_409"><translation>Points to add: %1</translation></message>
-    <message id="cfgt6_410"><translation>Lines left out, since no cell could hold them: %1</translation></message>
+    <message id="cfgt6_410"><translation>Lines left out, since no cell could hold them: %1 (No.&#160;%2)</translation></message>
     <message id="cfgt6_411"><translation>The clipboard holds no points for this table. Lines left out: %1.</translation></message>
     <message id="cfgt6_412"><translation>File of %1, shown at %2</translation></message>
     <message id="cfgt6_413"><translation>Save a sheet with the table and the curve as PDF</translation></message>

@@ -991,7 +991,7 @@
     <message id="cfgt6_407"><translation>Удалить</translation></message>
     <message id="cfgt6_408"><translation>→ взять</translation></message>
     <message id="cfgt6_409"><translation>Будет добавлено точек: %1</translation></message>
-    <message id="cfgt6_410"><translation>Пропущено строк, которые не вместит ни одна ячейка: %1</translation></message>
+    <message id="cfgt6_410"><translation>Пропущено строк, которые не вместит ни одна ячейка: %1 (№&#160;%2)</translation></message>
     <message id="cfgt6_411"><translation>В буфере обмена нет точек для этой таблицы. Пропущено строк: %1.</translation></message>
     <message id="cfgt6_412"><translation>Файл датчика %1 показан на %2</translation></message>
     <message id="cfgt6_413"><translation>Сохранить лист с таблицей и кривой в PDF</translation></message>

@@ -84,7 +84,7 @@ void VLK_Form_Fuel_Sensor::pasteRows()
     const auto pasted =
         vlk::readFuelClipboard(QGuiApplication::clipboard()->text(), texts, vlk::fuelKind(kind_));
     if (pasted.rows.empty()) {
-        vlk::warn(this, tr("cfgt6_411").arg(pasted.leftOut));
+        vlk::warn(this, tr("cfgt6_411").arg(pasted.leftOut.size()));
         return;
     }
     if (PastePreview(pasted, texts, this).exec() != QDialog::Accepted)

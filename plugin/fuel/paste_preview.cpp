@@ -9,6 +9,24 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
+namespace {
+
+// The numbers of the first lines.
+QString named(const std::vector<int>& lines)
+{
+    constexpr std::size_t kNamed = 8;
+    QStringList numbers;
+    for (std::size_t i = 0; i < std::min(lines.size(), kNamed); ++i)
+        numbers << QString::number(lines[i]);
+    if (lines.size() > kNamed)
+        numbers << QStringLiteral("…");
+    return numbers.join(QStringLiteral(", "));
+}
+
+} // namespace
+
 PastePreview::PastePreview(const vlk::PastedRows& pasted, const vlk::FuelCaptions& captions, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint)
 {
@@ -37,8 +55,9 @@ PastePreview::PastePreview(const vlk::PastedRows& pasted, const vlk::FuelCaption
     }
     column->addWidget(table);
 
-    if (pasted.leftOut > 0) {
-        auto* leftOut = new QLabel(tr("cfgt6_410").arg(pasted.leftOut));
+    if (!pasted.leftOut.empty()) {
+        auto* leftOut =
+            new QLabel(tr("cfgt6_410").arg(QString::number(pasted.leftOut.size()), named(pasted.leftOut)));
         leftOut->setObjectName(QStringLiteral("label_LeftOut"));
         leftOut->setWordWrap(true);
         column->addWidget(leftOut);

@@ -91,18 +91,20 @@ private Q_SLOTS:
 
     void clipboard_data()
     {
-        const DataTable<QString, QString, int> table({"text", "rows", "leftOut"});
-        table.row("of the screen", "10\t2.5\n20,5\t3\n", "10=2.5 20.5=3", 0)
-            .row("with headings", "Volume\tValue\n10\t2\n", "10=2", 0)
-            .row("with headings of a file", "Value;Volume\r\n2;10\r\n", "10=2", 0)
-            .row("with headings of an English file", "Voltage;Volume, l\r\n2;10\r\n", "10=2", 0)
-            .row("with headings of a Russian file", "Напряжение\tОбъём, л\n2\t10\n", "10=2", 0)
-            .row("with Russian headings", "Объём, л\tНапряжение\n10\t2\n", "10=2", 0)
-            .row("more digits than needed", "10.00\t2.500\n1e1\t2\n", "10.0=2.50 10.0=2", 0)
+        const DataTable<QString, QString, QString> table({"text", "rows", "leftOut"});
+        table.row("of the screen", "10\t2.5\n20,5\t3\n", "10=2.5 20.5=3", "")
+            .row("with headings", "Volume\tValue\n10\t2\n", "10=2", "")
+            .row("with headings of a file", "Value;Volume\r\n2;10\r\n", "10=2", "")
+            .row("with headings of an English file", "Voltage;Volume, l\r\n2;10\r\n", "10=2", "")
+            .row("with headings of a Russian file", "Напряжение\tОбъём, л\n2\t10\n", "10=2", "")
+            .row("with Russian headings", "Объём, л\tНапряжение\n10\t2\n", "10=2", "")
+            .row("more digits than needed", "10.00\t2.500\n1e1\t2\n", "10.0=2.50 10.0=2", "")
             .row("nothing holds them", "10\t2\n10\t36\n5001\t1\n-1\t1\n1.25\t1\n1\t1.234\nnan\t1\n", "10=2",
-                 6)
-            .row("too many", QString("1\t2\n").repeated(int(kMaxFuelRows) + 1), "", int(kMaxFuelRows) + 1)
-            .row("other text", "Dear sir,\n10 l\n\n10\t\n", "", 2);
+                 "2 3 4 5 6 7")
+            .row("blanks between thousands", "1 000\t2,5\n1\u00A0100,5\t3\n1 00\t4\n", "1000=2.5 1100.5=3",
+                 "3")
+            .row("blanks between cells", "1 200\n1 000 2 000\n10\t2\n", "10=2", "2")
+            .row("other text", "Dear sir,\n10 l\n\n10\t\n", "", "2 4");
         for (const QString& language : kLanguages) {
             const auto texts = readTexts(language);
             for (const char* value : {"cfgt6_041", "cfgt6_042", "cfgt6_043", "cfgt6_044", "cfgt6_045"}) {
@@ -116,10 +118,16 @@ private Q_SLOTS:
     {
         QFETCH(QString, text);
         QFETCH(QString, rows);
-        QFETCH(int, leftOut);
+        QFETCH(QString, leftOut);
         const PastedRows pasted = readFuelClipboard(text, kCaptions, fuelKind(0));
         QCOMPARE(shown(pasted.rows), rows);
-        QCOMPARE(pasted.leftOut, leftOut);
+        QStringList lines;
+        for (const int line : pasted.leftOut)
+            lines << QString::number(line);
+        QCOMPARE(lines.join(' '), leftOut);
+        const auto tooMany =
+            readFuelClipboard(QString("1\t2\n").repeated(int(kMaxFuelRows) + 1), kCaptions, fuelKind(0));
+        QVERIFY(tooMany.rows.empty() && tooMany.leftOut.size() == kMaxFuelRows + 1);
     }
 
     // Spreadsheets read numbers in the way of the user's country only.

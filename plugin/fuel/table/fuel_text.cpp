@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <utility>
 
 namespace vlk {
@@ -79,10 +80,18 @@ Cells headsOf(const QString& line)
     return {cells.value(0).trimmed(), cells.value(1).trimmed()};
 }
 
+// Two cells say where one number ends: blanks within it stand between its thousands too.
+QString withoutBlanks(const QString& number)
+{
+    static const QRegularExpression groups(QStringLiteral("^\\d{1,3}( \\d{3})+(\\.\\d*)?$"));
+    return groups.match(number).hasMatch() ? QString(number).remove(QLatin1Char(' ')) : number;
+}
+
 Cells cellsOf(const QString& line)
 {
     const auto [first, second] = headsOf(line);
-    return {number(first), number(second)};
+    const Cells cells(number(first), number(second));
+    return second.isEmpty() ? cells : Cells(withoutBlanks(cells.first), withoutBlanks(cells.second));
 }
 
 FuelRow rowOf(Cells cells, FuelOrder order)
@@ -282,7 +291,9 @@ PastedRows readFuelClipboard(const QString& text, const FuelCaptions& captions, 
     PastedRows pasted;
     FuelOrder order = FuelOrder::VolumeFirst;
     bool isFirst = true;
+    int lineNumber = 0;
     forEachLine(text, [&](const QString& line) {
+        ++lineNumber;
         const Cells cells = cellsOf(line);
         if (cells.first.isEmpty() && cells.second.isEmpty())
             return true;
@@ -296,11 +307,14 @@ PastedRows readFuelClipboard(const QString& text, const FuelCaptions& captions, 
         if (fit(row.volume, kVolumeLimit) && fit(row.value, valueLimit(kind)))
             pasted.rows.push_back(std::move(row));
         else
-            ++pasted.leftOut;
+            pasted.leftOut.push_back(lineNumber);
         return true;
     });
-    if (pasted.rows.size() > kMaxFuelRows)
-        return {{}, static_cast<int>(pasted.rows.size()) + pasted.leftOut};
+    if (pasted.rows.size() > kMaxFuelRows) {
+        pasted.rows.clear();
+        pasted.leftOut.resize(static_cast<std::size_t>(lineNumber));
+        std::iota(pasted.leftOut.begin(), pasted.leftOut.end(), 1);
+    }
     return pasted;
 }
 

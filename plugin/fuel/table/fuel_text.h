@@ -19,6 +19,7 @@
 #include <cstdint>
 #include <optional>
 #include <variant>
+#include <vector>
 
 namespace vlk {
 
@@ -75,7 +76,7 @@ QString fuelClipboard(const FuelCaptions& captions, const FuelRows& rows);
 struct PastedRows
 {
     FuelRows rows;
-    int leftOut = 0; // lines with something that no cell could hold
+    std::vector<int> leftOut; // lines with something that no cell could hold, from 1
 };
 
 // Headings may be there; what they say of the order counts, in whatever language it was saved. With more than
