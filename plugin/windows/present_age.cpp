@@ -8,15 +8,23 @@
 
 namespace vlk {
 
+namespace {
+constexpr int kPatienceMs = 3000;
+}
+
 PresentAge::PresentAge()
 {
-    due_.setSingleShot(true);
-    connect(&due_, &QTimer::timeout, this, [this] { setOld(true); });
+    awaited_.setInterval(kPatienceMs);
+    for (QTimer* timer : {&due_, &awaited_}) {
+        timer->setSingleShot(true);
+        connect(timer, &QTimer::timeout, this, [this] { setOld(true); });
+    }
 }
 
 void PresentAge::setPeriod(int periodMs)
 {
     due_.stop();
+    awaited_.stop();
     due_.setInterval(2 * periodMs);
     if (periodMs > 0)
         due_.start();
@@ -24,16 +32,34 @@ void PresentAge::setPeriod(int periodMs)
         setOld(true);
 }
 
+void PresentAge::await(bool isAwaited)
+{
+    if (!isAwaited)
+        awaited_.stop();
+    else if (due_.interval() == 0 && !awaited_.isActive())
+        awaited_.start();
+}
+
 void PresentAge::answered()
 {
+    awaited_.stop();
     last_ = now().time();
     if (due_.interval() > 0)
         due_.start();
     setOld(false);
 }
 
+void PresentAge::letBe()
+{
+    due_.stop();
+    due_.setInterval(0);
+    awaited_.stop();
+    setOld(false);
+}
+
 void PresentAge::clear()
 {
+    awaited_.stop();
     last_ = {};
     setOld(false);
 }

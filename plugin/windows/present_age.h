@@ -1,7 +1,8 @@
 #pragma once
 
 // How old the present values of a page are. Where answers follow one another in a period, what is on show is
-// old when two have been missed, or when no more are asked for; a label then says since when it holds.
+// old when two have been missed, or when no more are asked for; where one is asked for by hand, when it does
+// not come. A label then says since when it holds.
 
 #include <QObject>
 #include <QTime>
@@ -22,7 +23,11 @@ public:
     void tellIn(QLabel* since) { since_ = since; }
     // In milliseconds; 0 when no more answers are asked for.
     void setPeriod(int periodMs);
+    // One answer is asked for, or not waited for any more. Where they come in a period, that counts.
+    void await(bool isAwaited);
     void answered();
+    // No more answers are asked for, and what is on show is as old as it says itself.
+    void letBe();
     // Nothing is on show.
     void clear();
     bool isOld() const { return isOld_; }
@@ -37,7 +42,8 @@ private:
 
     QLabel* since_ = nullptr;
     QTimer due_;
-    QTime last_; // null when nothing is on show
+    QTimer awaited_; // the one that was asked for by hand
+    QTime last_;     // null when nothing is on show
     bool isOld_ = false;
 };
 

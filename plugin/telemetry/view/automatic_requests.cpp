@@ -46,8 +46,7 @@ void AutomaticRequests::next(int seconds)
 void AutomaticRequests::stop()
 {
     autoTimer_.stop();
-    age_.setPeriod(0);
-    age_.clear();
+    age_.letBe();
 }
 
 void AutomaticRequests::expectIn(int seconds)

@@ -103,6 +103,7 @@ void VLK_Widget_Tmi_View::open(const QString& configurationPath)
     pages_.setUtcOffset(times_.offset());
 
     pages_.showNothing();
+    age_.clear();
     ui_->lineEdit_TM->clear();
     ui_->lineEdit_RFID->clear();
     ui_->spinBox_RFID->setValue(ui_->spinBox_RFID->minimum());
@@ -147,6 +148,7 @@ void VLK_Widget_Tmi_View::showSaving(bool running)
     ui_->checkBox_Get_Auto_TMI->setEnabled(!running);
     setManualBlocked(running ? "tmiw_176" : nullptr);
     if (running) {
+        age_.await(false);
         notices_->end(kSavedInPart);
         notices_->end(kSaved);
         // A key that is pressed once more must not get to the control that comes next.
@@ -277,6 +279,7 @@ void VLK_Widget_Tmi_View::takeClearedRecord(const QByteArray& record)
 void VLK_Widget_Tmi_View::takeKeyAnswer(const QByteArray& answer)
 {
     pages_.showKeyAnswer(answer);
+    age_.answered();
 }
 
 void VLK_Widget_Tmi_View::takeLiveKey(quint64 key)

@@ -136,7 +136,7 @@ private:
     vlk::EventPanel* eventPanel_;
     vlk::NoticeBar* notices_;
     vlk::RecordStack pages_;
-    vlk::PresentAge age_; // of the record on show, while records are requested automatically
+    vlk::PresentAge age_; // of the record on show, while others are requested
     vlk::AutomaticRequests automatic_;
     vlk::ClearingSequence clearing_;
     vlk::SaveSequence save_;

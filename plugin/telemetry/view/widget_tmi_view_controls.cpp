@@ -93,6 +93,7 @@ void VLK_Widget_Tmi_View::lookAtRecords()
 {
     save_.stop();
     functions_.showRecord();
+    age_.await(true);
 }
 
 void VLK_Widget_Tmi_View::slot_pressed_GetCurrent()
