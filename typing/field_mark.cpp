@@ -290,6 +290,16 @@ QPixmap markPixmap(Mark mark, const QPalette& palette, int side, qreal ratio)
     return pixmap;
 }
 
+QIcon tabMark(std::optional<Mark> mark, const QPalette& palette)
+{
+    constexpr int kRatio = 2;
+    if (mark)
+        return QIcon(markPixmap(*mark, palette, kMarkSize, kRatio));
+    QPixmap none(kRatio * QSize(kMarkSize, kMarkSize));
+    none.fill(Qt::transparent);
+    return QIcon(none);
+}
+
 void markField(QWidget* field, MarkReason reason, Mark mark, const QString& text)
 {
     auto* shape = static_cast<FieldMark*>(field->property(kPropertyName).value<QWidget*>());

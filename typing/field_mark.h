@@ -9,8 +9,11 @@
 // marked for several reasons at a time: the worst one gives the shape, the texts are all told.
 
 #include <QColor>
+#include <QIcon>
 #include <QPixmap>
 #include <QString>
+
+#include <optional>
 
 class QPainter;
 class QPalette;
@@ -34,5 +37,7 @@ QPalette withInvalidText(QPalette palette);
 void paintMark(QPainter& painter, Mark mark, const QPalette& palette);
 // Of that many pixels, for a screen of that ratio.
 QPixmap markPixmap(Mark mark, const QPalette& palette, int side, qreal ratio);
+// For the tab of a page, whose bar has icons of kMarkSize; without a mark it keeps the place of one.
+QIcon tabMark(std::optional<Mark> mark, const QPalette& palette);
 
 } // namespace vlk

@@ -27,10 +27,7 @@ void TabNavigation::retranslate()
 
 void TabNavigation::setMark(int tab, std::optional<Mark> mark, const QString& told)
 {
-    constexpr int ratio = 2;
-    QPixmap pixmap(ratio * QSize(kMarkSize, kMarkSize));
-    pixmap.fill(Qt::transparent);
-    const QIcon icon(mark ? markPixmap(*mark, tabs()->window()->palette(), kMarkSize, ratio) : pixmap);
+    const QIcon icon = tabMark(mark, tabs()->window()->palette());
     tabs()->setTabIcon(tab, icon);
     tabs()->setTabToolTip(tab, told);
     menu()->actions().at(tab)->setIcon(icon);

@@ -279,9 +279,11 @@ void VLK_Form_TMI_Fuel_Sensors::slot_NeedSaved(bool on)
 
 void VLK_Form_TMI_Fuel_Sensors::markTabs()
 {
-    const QIcon mark(markPixmap(Mark::changed, palette(), kMarkSize, devicePixelRatioF()));
+    const QIcon mark = tabMark(Mark::changed, palette());
+    const QIcon none = tabMark({}, palette());
     const auto show = [&](QTabWidget* tabs, int index, bool isUnsaved) {
-        tabs->setTabIcon(index, isUnsaved ? mark : QIcon());
+        tabs->setIconSize({kMarkSize, kMarkSize});
+        tabs->setTabIcon(index, isUnsaved ? mark : none);
         tabs->setTabToolTip(index, isUnsaved ? tr("tmiw_262") : QString());
     };
     std::array<bool, kFuelGroupCount> isInGroup{};

@@ -4,6 +4,7 @@
 
 #include "support/answers.h"
 #include "telemetry/opened_view.h"
+#include "typing/field_mark.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -87,10 +88,17 @@ protected:
         for (int i = 0; i < groups->count(); ++i) {
             auto* group = qobject_cast<QTabWidget*>(groups->widget(i));
             for (int at = 0; at < group->count(); ++at)
-                if (!group->tabIcon(at).isNull() && !groups->tabIcon(i).isNull())
+                if (isMarked(*group, at) && isMarked(*groups, i))
                     names << group->widget(at)->objectName();
         }
         return names.join(' ');
+    }
+    // The middle of the shape has its colour.
+    static bool isMarked(const QTabWidget& tabs, int at)
+    {
+        const QImage icon = tabs.tabIcon(at).pixmap(tabs.iconSize()).toImage();
+        return icon.width() == vlk::kMarkSize && tabs.iconSize() == icon.size() &&
+               icon.pixelColor(icon.rect().center()).alpha() > 0 && !tabs.tabToolTip(at).isEmpty();
     }
     QWidget* bar() { return fuel_.child<QWidget>("noticeBar"); }
     void pressInBar(const QString& caption)
