@@ -27,13 +27,18 @@ FaultsWindow::FaultsWindow(tracker::SimulatedTracker& tracker, QWidget* owner)
     trouble_->setObjectName(QStringLiteral("label_FaultsTrouble"));
     trouble_->setWordWrap(true);
     trouble_->hide();
-    auto* kTanks = new TankPanel(tracker);
-    vlk::dressGroup(kTanks);
+    auto* tanks = new TankPanel(tracker);
+    vlk::dressGroup(tanks);
     auto* content = new QWidget;
-    auto* inside = new QVBoxLayout(content);
+    auto* inside = new QBoxLayout(QBoxLayout::TopToBottom, content);
     inside->setContentsMargins(0, 0, 0, 0);
     inside->addWidget(panel_);
-    inside->addWidget(kTanks);
+    inside->addWidget(tanks);
+    // Beside each other where the screen is low.
+    if (within(content->sizeHint(), screen()->availableSize()).height() < content->sizeHint().height()) {
+        inside->setDirection(QBoxLayout::LeftToRight);
+        inside->setAlignment(tanks, Qt::AlignTop);
+    }
     auto* column = new QVBoxLayout(this);
     column->addWidget(scrolling(content), 1);
     column->addWidget(trouble_);

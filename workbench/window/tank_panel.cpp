@@ -41,10 +41,10 @@ TankPanel::TankPanel(tracker::SimulatedTracker& tracker, QWidget* parent)
     grid->addWidget(tank_, 0, 0);
     grid->addWidget(shape_, 0, 1);
     grid->addWidget(filling_, 1, 0, 1, 2);
-    grid->addWidget(litres_, 2, 0);
-    grid->addWidget(reading_, 2, 1);
+    grid->addWidget(litres_, 2, 0, 1, 2);
+    grid->addWidget(reading_, 3, 0, 1, 2);
 
-    constexpr int firstButtons = 3;
+    constexpr int firstButtons = 4;
     int place = 0;
     const auto addButton = [&](const QString& name) {
         auto* button = new QPushButton(this);
