@@ -101,6 +101,19 @@ private Q_SLOTS:
         QCOMPARE(bench.logged(QStringLiteral("ClearedRecord")), 0);
     }
 
+    // Who presses on in a silence is told of it again, with the offer to end the save.
+    void refusalGivesWayToSilence()
+    {
+        Bench bench;
+        bench.beginSave();
+        bench.tracker().setFaults({.silence = true});
+        const QString silent = QStringLiteral("the save goes on by itself");
+        QTRY_VERIFY_WITH_TIMEOUT(Bench::notice().contains(silent), 10'000);
+        bench.take(Clear);
+        QTRY_VERIFY(Bench::notice().contains(QLatin1String("not sent: a period is being saved")));
+        QTRY_VERIFY_WITH_TIMEOUT(Bench::notice().contains(silent), 12'000);
+    }
+
     // The main window, with work undone.
     void closesOverNoWork_data()
     {

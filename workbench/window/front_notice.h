@@ -37,6 +37,8 @@ public:
     void recall(Topic topic);
     // A result that goes by itself, but not from under the mouse.
     void tellNews(const Told& notice, QWidget* window);
+    // The result that is told goes likewise: what it stands before lasts longer.
+    void letResultGo() { news_.start(); }
     QWidget* telemetry() const { return telemetry_; }
 
 private:

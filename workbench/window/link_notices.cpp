@@ -94,6 +94,8 @@ void LinkNotices::connectRequests()
 void LinkNotices::tellNotSent(const Sentence& sentence, const std::function<bool()>& holds)
 {
     tellResult(StatusLine::Refused, sentence, false, front_.telemetry());
+    if (trouble_)
+        front_.letResultGo();
     reasonHolds_ = holds;
     reason_.start();
 }
