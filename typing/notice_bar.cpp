@@ -48,7 +48,6 @@ NoticeBar::NoticeBar(QWidget* parent, const QString& name)
     row->addLayout(buttons_);
     row->addWidget(place_);
     row->addWidget(close_);
-    setMinimumHeight(kHeight);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     connect(close_, &QToolButton::clicked, this, &NoticeBar::closeShown);
     // The window may have the same key for its areas.
@@ -66,10 +65,45 @@ void NoticeBar::keepPlace()
 {
     constexpr int kLines = 2;
     const int margins = layout()->contentsMargins().top() + layout()->contentsMargins().bottom();
-    setMinimumHeight(std::max(kHeight, kLines * text_->fontMetrics().lineSpacing() + margins));
+    keptHeight_ = std::max(kHeight, kLines * text_->fontMetrics().lineSpacing() + margins);
     QSizePolicy policy = sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     setSizePolicy(policy);
+    claimHeight();
+}
+
+// A layout that asks what height goes with a width asks all its widgets, and a scroll area then takes what
+// they like to have for what they need.
+bool NoticeBar::hasHeightForWidth() const
+{
+    return keptHeight_ == 0 && QFrame::hasHeightForWidth();
+}
+
+void NoticeBar::claimHeight()
+{
+    const bool isOnShow = worst() != nullptr;
+    roomBelow_ = isOnShow ? property(kRoomBelow).toInt() : 0;
+    QMargins margins = layout()->contentsMargins();
+    margins.setBottom(margins.top() + roomBelow_);
+    layout()->setContentsMargins(margins);
+    const int least = std::max(kHeight, keptHeight_) + roomBelow_;
+    if (keptHeight_ == 0)
+        setMinimumHeight(least);
+    else
+        setFixedHeight(std::max(least, isOnShow ? layout()->heightForWidth(width()) : 0));
+}
+
+bool NoticeBar::event(QEvent* event)
+{
+    if (event->type() == QEvent::DynamicPropertyChange)
+        claimHeight();
+    return QFrame::event(event);
+}
+
+void NoticeBar::resizeEvent(QResizeEvent* event)
+{
+    QFrame::resizeEvent(event);
+    claimHeight();
 }
 
 const Notice* NoticeBar::shown() const
@@ -204,6 +238,7 @@ void NoticeBar::refresh()
             before_->setFocus();
         text_->clear();
         hide();
+        claimHeight();
         return;
     }
     for (const Notice::Action& action : shown->notice.actions) {
@@ -223,6 +258,7 @@ void NoticeBar::refresh()
     text_->setText(shown->notice.text);
     setAccessibleName(shown->notice.text);
     show();
+    claimHeight();
     update();
     if (hadFocus)
         close_->setFocus();
@@ -257,8 +293,9 @@ void NoticeBar::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     QColor tint = markColor(shown->notice.mark, palette());
     tint.setAlphaF(kTint);
-    painter.fillRect(rect(), tint);
-    painter.translate(QPoint(kMargin, (height() - kMarkSize) / 2));
+    const QRect own = rect().adjusted(0, 0, 0, -roomBelow_);
+    painter.fillRect(own, tint);
+    painter.translate(QPoint(kMargin, (own.height() - kMarkSize) / 2));
     paintMark(painter, shown->notice.mark, palette());
 }
 

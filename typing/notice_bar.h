@@ -59,6 +59,8 @@ public:
     // Two lines of the window are the bar's, whether there is something to tell or not: where notices come
     // and go while the user presses buttons, nothing may move under the mouse.
     void keepPlace();
+    // The property in which the host says how many pixels below what is on show its own notice wants.
+    static constexpr const char* kRoomBelow = "roomBelow";
     void retranslate();
     // For its first button; where the bar goes, the focus goes back.
     void takeFocus();
@@ -73,6 +75,9 @@ protected:
     // As the cross does.
     void closeShown();
 
+    bool hasHeightForWidth() const override;
+    bool event(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -91,6 +96,8 @@ private:
     // Null when there is none.
     const Told* worst() const;
     void refresh();
+    // With the room below; that of a kept place, and more where the text has more lines.
+    void claimHeight();
     // In the colour of the palette.
     void setCross();
     void toggleFocus();
@@ -101,6 +108,8 @@ private:
     QToolButton* close_;
     std::vector<Told> told_; // the newest is the last
     bool isNewestFirst_ = false;
+    int keptHeight_ = 0;       // 0 where no place is kept
+    int roomBelow_ = 0;        // what of the height is another's
     QTimer news_;              // at whose end there are none
     QPointer<QWidget> before_; // had the focus before F6
 };

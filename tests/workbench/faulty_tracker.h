@@ -74,7 +74,8 @@ struct Bench : OpenedWorkbench
         found->click();
     }
 
-    // What stands on the window that is looked at, at its upper inner edge, below a bar of its own.
+    // What stands on the window that is looked at, at its upper inner edge, in the room that a bar of its own
+    // makes below itself.
     static QString notice()
     {
         QWidget* window = configuration() ? configuration() : telemetry();
@@ -82,7 +83,8 @@ struct Bench : OpenedWorkbench
         if (!bar || !bar->isVisible())
             return {};
         const auto* own = window->findChild<QFrame*>(QStringLiteral("noticeBar"));
-        const int top = own && own->isVisible() ? own->mapTo(window, own->rect().bottomLeft()).y() + 1 : 0;
+        const int end = own && own->isVisible() ? own->mapTo(window, own->rect().bottomLeft()).y() + 1 : 0;
+        const int top = end > 0 ? end - 6 - bar->height() : 0;
         const QPoint corner = window->geometry().topLeft() + QPoint(6, top + 6);
         return bar->pos() == corner ? bar->findChild<QLabel*>(QStringLiteral("label_WindowNotice"))->text()
                                     : QStringLiteral("out of place");

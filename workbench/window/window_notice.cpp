@@ -4,12 +4,24 @@
 #include <QKeyEvent>
 #include <QMenu>
 
+#include <algorithm>
+
 namespace workbench {
 
 namespace {
 
 constexpr int kMargin = 6;
 constexpr int kGoesOnMs = 5000; // between two keys of somebody who goes round the window
+
+// Those of the window itself.
+QList<QFrame*> barsIn(const QWidget* window)
+{
+    auto bars = window->findChildren<QFrame*>(QStringLiteral("noticeBar"));
+    bars.erase(std::remove_if(bars.begin(), bars.end(),
+                              [window](const QFrame* bar) { return bar->window() != window; }),
+               bars.end());
+    return bars;
+}
 
 } // namespace
 
@@ -102,13 +114,18 @@ void WindowNotice::changeEvent(QEvent* event)
     }
 }
 
+void WindowNotice::hideEvent(QHideEvent* event)
+{
+    NoticeBar::hideEvent(event);
+    askForRoom(0);
+}
+
 void WindowNotice::place()
 {
     QRect inside = parentWidget()->geometry().marginsRemoved({kMargin, kMargin, kMargin, kMargin});
-    for (QFrame* bar : parentWidget()->findChildren<QFrame*>(QStringLiteral("noticeBar"))) {
-        if (bar->window() != parentWidget())
-            continue;
-        const QRect place(bar->mapToGlobal(QPoint()), bar->size());
+    for (const QFrame* bar : barsIn(parentWidget())) {
+        QRect place(bar->mapToGlobal(QPoint()), bar->size());
+        place.setBottom(place.bottom() - bar->property(kRoomBelow).toInt());
         if (bar->sizePolicy().retainSizeWhenHidden())
             inside = {place.topLeft(), QPoint(place.right(), inside.bottom())};
         if (bar->isVisible())
@@ -122,6 +139,15 @@ void WindowNotice::place()
             inside.setTop(field.bottom() + 1 + kMargin);
     }
     move(inside.topLeft());
+    askForRoom(isHidden() ? 0 : height() + kMargin);
+}
+
+void WindowNotice::askForRoom(int pixels)
+{
+    for (QFrame* bar : barsIn(parentWidget())) {
+        if (bar->property(kRoomBelow).toInt() != pixels)
+            bar->setProperty(kRoomBelow, pixels);
+    }
 }
 
 } // namespace workbench
