@@ -2661,6 +2661,7 @@
     <message id="wb_report_missed"><translation>Не принято: %1 из %2 параметров</translation></message>
     <message id="wb_report_none"><translation>Здесь появится отчёт, когда конфигурация будет записана в трекер.</translation></message>
     <message id="wb_report_nothing"><translation>Ни один параметр не изменён.</translation></message>
+    <message id="wb_report_of_backup"><translation>Возвращалась резервная копия №&#160;%1.</translation></message>
     <message id="wb_report_refused"><translation>Конфигурация не записана. %1</translation></message>
     <message id="wb_report_same"><translation>Записано и подтверждено: в трекере то же, что и было.</translation></message>
     <message id="wb_report_sent"><translation>Отправлено</translation></message>

@@ -162,6 +162,11 @@ private Q_SLOTS:
         QVERIFY(bench.session.bringBack(99) && bench.session.backups().all().size() == 6);
         bench.session.tracker().setFaults({.silence = true});
         QVERIFY(bench.session.bringBack(2, {"A/y"})().contains("not brought back"));
+        // Which one it was, where the report says that it failed.
+        bench.session.tracker().detach();
+        QVERIFY(!bench.session.bringBack(2));
+        QCOMPARE(workbench::summary(bench.report()).split('\n').value(1),
+                 QString("It was backup No.\u00A02 that was to be brought back."));
     }
 
     // A delay slows a write as it slows every answer; what is opened meanwhile is none of its business.

@@ -388,6 +388,13 @@ private Q_SLOTS:
         list->window()->close();
         bench.action("action_History")->trigger();
         QCOMPARE(Bench::find<QComboBox>("comboBox_Backup")->currentText(), QString("No.\u00A03"));
+        // Why there is nothing to compare with.
+        bench.session().tracker().setFaults({.silence = true});
+        QTest::keyClick(against, Qt::Key_I);
+        QCOMPARE(against->currentText(), QString("In the tracker now"));
+        QCOMPARE(table->findChild<QLabel*>("label_Empty")->text(),
+                 QString("What it is compared with cannot be read. The tracker does not answer. Check the "
+                         "cable and try again."));
         bench.window.setLanguage("ru");
         QTRY_VERIFY(list->window()->windowTitle().startsWith(QString("История")));
     }

@@ -237,11 +237,11 @@ void HistoryWindow::chooseOther(int index)
     compare();
 }
 
-std::optional<QByteArray> HistoryWindow::other()
+std::optional<QByteArray> HistoryWindow::other(Sentence& why)
 {
     const int wanted = other_->currentIndex() < 0 ? 0 : other_->currentData().toInt();
     if (wanted == TheTracker)
-        return session_.present();
+        return session_.present(why);
     QByteArray document;
     if (wanted == AFile) {
         QFile file(file_);
@@ -249,8 +249,10 @@ std::optional<QByteArray> HistoryWindow::other()
     } else {
         document = session_.backups().document(wanted);
     }
-    if (checkConfiguration(document, session_.tracker().model()))
+    if (const auto problem = checkConfiguration(document, session_.tracker().model())) {
+        why = [problem] { return reasonOf(*problem); };
         return {};
+    }
     return document;
 }
 
@@ -258,7 +260,8 @@ void HistoryWindow::compare()
 {
     std::optional<SettingChanges> changes;
     const int backup = selected();
-    const std::optional<QByteArray> before = backup == 0 ? std::nullopt : other();
+    Sentence why;
+    const std::optional<QByteArray> before = backup == 0 ? std::nullopt : other(why);
     if (before)
         changes = session_.comparer().compare(*before, session_.backups().document(backup));
     // What was chosen stays while the same two are looked at.
@@ -270,6 +273,7 @@ void HistoryWindow::compare()
     fitValues(*table_);
     empty_->tell(backup == 0 || other_->currentIndex() < 0 ? text("wb_history_alone")
                  : changes                                 ? text("wb_review_none")
+                 : why                                     ? sentences({text("wb_history_unreadable"), why()})
                                                            : text("wb_history_unreadable"));
     updateButtons();
 }

@@ -63,7 +63,8 @@ private:
     void bringChosen();
     void tell(const Sentence& failure);
     // What stands on the other side; none when it does not come.
-    std::optional<QByteArray> other();
+    // With why there is none.
+    std::optional<QByteArray> other(Sentence& why);
     QString headOf(int column) const;
 
     HostSession& session_;

@@ -267,10 +267,11 @@ void HostSession::finish(const RoadReport& report)
     Q_EMIT editedChanged();
 }
 
-std::optional<QByteArray> HostSession::present()
+std::optional<QByteArray> HostSession::present(Sentence& why)
 {
     const Fetched fetched = fetchConfiguration();
     QFile::remove(fetched.path);
+    why = fetched.failure;
     return fetched.failure ? std::nullopt : std::optional(fetched.document);
 }
 

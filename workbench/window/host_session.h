@@ -50,8 +50,8 @@ public:
     // Null when the file is a whole configuration of this model; else it says why it would not open.
     Sentence whyNotOpened(const QString& path) const;
 
-    // What the tracker holds now; none when it does not come.
-    std::optional<QByteArray> present();
+    // What the tracker holds now; none, with why, when it does not come.
+    std::optional<QByteArray> present(Sentence& why);
     // Put on the write road. Null, or why it is not; what becomes of it there its report tells.
     Sentence writeAgain(const WriteRequest& request);
     // Of the paths alone where there are some.

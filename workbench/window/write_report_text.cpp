@@ -95,6 +95,8 @@ QString firstLine(const RoadReport& report)
 QString summary(const RoadReport& report, const QString& typed)
 {
     QStringList lines{firstLine(report)};
+    if (report.outcome != Outcome::confirmed && report.request.origin == WriteRequest::Origin::backup)
+        lines.append(text("wb_report_of_backup").arg(report.request.name));
     if (report.outcome == Outcome::unknown || report.outcome == Outcome::notTaken)
         lines.append(text("wb_report_do"));
     if (report.earlier > 0)
