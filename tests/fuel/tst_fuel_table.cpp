@@ -140,6 +140,9 @@ private Q_SLOTS:
             QLocale::setDefault(QLocale(locale));
             QCOMPARE(fuelClipboard(kCaptions, rows), QString("Volume\tValue\n") + text);
             QVERIFY(readFuelClipboard(fuelClipboard(kCaptions, rows), kCaptions, fuelKind(0)).rows == rows);
+            const PastedRows thousands = readFuelClipboard("1,000\t2\n1,250.5\t3\n", kCaptions, fuelKind(0));
+            const bool isPoint = QLocale().decimalPoint() == '.';
+            QCOMPARE(shown(thousands.rows), QString(isPoint ? "1000=2 1250.5=3" : "1.0=2"));
         }
         QLocale::setDefault(before);
     }

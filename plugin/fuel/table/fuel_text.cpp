@@ -87,11 +87,32 @@ QString withoutBlanks(const QString& number)
     return groups.match(number).hasMatch() ? QString(number).remove(QLatin1Char(' ')) : number;
 }
 
+Cells numbersOf(const Cells& texts)
+{
+    const Cells cells(number(texts.first), number(texts.second));
+    return cells.second.isEmpty() ? cells : Cells(withoutBlanks(cells.first), withoutBlanks(cells.second));
+}
+
 Cells cellsOf(const QString& line)
 {
+    return numbersOf(headsOf(line));
+}
+
+// A comma before three digits stands between thousands where the user's decimal sign is the point.
+QString withoutGroups(const QString& cell)
+{
+    static const QRegularExpression groups(QStringLiteral("^\\d{1,3}(,\\d{3})+(\\.\\d*)?$"));
+    const bool mayBeGroups = QLocale().decimalPoint() == kPoint;
+    return mayBeGroups && groups.match(cell).hasMatch() ? QString(cell).remove(kComma) : cell;
+}
+
+Cells pastedCellsOf(const QString& line)
+{
+    // With commas alone nobody can tell them from those between cells.
+    if (!line.contains(kTab) && !line.contains(kSemicolon))
+        return cellsOf(line);
     const auto [first, second] = headsOf(line);
-    const Cells cells(number(first), number(second));
-    return second.isEmpty() ? cells : Cells(withoutBlanks(cells.first), withoutBlanks(cells.second));
+    return numbersOf({withoutGroups(first), withoutGroups(second)});
 }
 
 FuelRow rowOf(Cells cells, FuelOrder order)
@@ -294,7 +315,7 @@ PastedRows readFuelClipboard(const QString& text, const FuelCaptions& captions, 
     int lineNumber = 0;
     forEachLine(text, [&](const QString& line) {
         ++lineNumber;
-        const Cells cells = cellsOf(line);
+        const Cells cells = pastedCellsOf(line);
         if (cells.first.isEmpty() && cells.second.isEmpty())
             return true;
         const bool mayBeHeading = std::exchange(isFirst, false) && !isPoint(rowOf(cells, order));

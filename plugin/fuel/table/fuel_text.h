@@ -7,9 +7,10 @@
 // the screen, volume first, with tabs between them and the decimal sign of the user's locale.
 //
 // Reading takes what spreadsheets make of such a table too: a tab or a comma between the cells, a comma as
-// decimal sign, cells in quotes, a byte order mark. Only the first two cells of a line count. A line with
-// commas alone is two numbers where that can be told; where it cannot, its text stands in the first cell
-// whole, for the user to see.
+// decimal sign, blanks between thousands, cells in quotes, a byte order mark; from the clipboard also commas
+// between thousands, where the user's decimal sign is the point. Only the first two cells of a line count. A
+// line with commas alone is two numbers where that can be told; where it cannot, its text stands in the first
+// cell whole, for the user to see.
 
 #include "fuel/table/fuel_rows.h"
 #include "fuel/table/fuel_sensors.h"
