@@ -224,6 +224,11 @@ private Q_SLOTS:
         QCOMPARE(readFile(folder.filePath("period (tmiw_293).xml")), whole);
         QCOMPARE(saved(), (Numbers{7, 8, 20}));
         QVERIFY(text("label_SavedInPart").contains("tmiw_294"));
+        // What is pressed next is answered in front of it, and it stays behind.
+        press("pushButton_Clear");
+        QCOMPARE(text("label_SavedInPart"), QString("tmiw_267"));
+        press("label_SavedInPart_Close");
+        QVERIFY(text("label_SavedInPart").contains("tmiw_294"));
     }
 
     // A key that is pressed once too often switches nothing on; afterwards the focus is where it was.

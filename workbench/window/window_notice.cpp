@@ -126,7 +126,7 @@ void WindowNotice::place()
     for (const QFrame* bar : barsIn(parentWidget())) {
         QRect place(bar->mapToGlobal(QPoint()), bar->size());
         place.setBottom(place.bottom() - bar->property(kRoomBelow).toInt());
-        if (bar->sizePolicy().retainSizeWhenHidden())
+        if (bar->isVisible() || bar->sizePolicy().retainSizeWhenHidden())
             inside = {place.topLeft(), QPoint(place.right(), inside.bottom())};
         if (bar->isVisible())
             inside.setTop(qMax(inside.top(), place.bottom() + 1 + kMargin));

@@ -46,6 +46,7 @@ VLK_Widget_Tmi_View::VLK_Widget_Tmi_View(QWidget* parent)
     // Above the record: the column beside it needs all the height that a small screen has.
     ui_->verticalLayout_Record->insertWidget(0, notices_);
     notices_->keepPlace();
+    notices_->setNewestFirst();
     ui_->verticalLayout_Event->addWidget(eventPanel_);
     ui_->groupBox_Btn_Guard->hide();
     save_.clearProgress();
