@@ -35,7 +35,7 @@ AdvicePanel::AdvicePanel(ConfigurationReview& review, SettingPlaces& places, QWi
     connect(&review_, &ConfigurationReview::changed, this, &AdvicePanel::refresh);
     connect(table()->selectionModel(), &QItemSelectionModel::currentChanged, this, &AdvicePanel::showState);
     connect(goTo_, &QPushButton::clicked, this, [this] { take(table()->currentIndex().row()); });
-    connect(mend_, &QPushButton::clicked, this, &AdvicePanel::mend);
+    connect(mend_, &QPushButton::clicked, this, [this] { press(mend_, [this] { mend(); }); });
 }
 
 void AdvicePanel::retranslate()

@@ -80,6 +80,14 @@ void ListPanel::addToHead(const QWidgetList& widgets)
     }
 }
 
+void ListPanel::press(const QPushButton* button, const std::function<void()>& act)
+{
+    const bool hadFocus = button->hasFocus();
+    act();
+    if (hadFocus && !button->isEnabled())
+        table_->setFocus(Qt::OtherFocusReason);
+}
+
 void ListPanel::setTitle(const QString& title, QWidget* buddy)
 {
     title_->setText(title);

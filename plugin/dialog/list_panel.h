@@ -5,8 +5,11 @@
 
 #include <QWidget>
 
+#include <functional>
+
 class QAbstractItemModel;
 class QLabel;
+class QPushButton;
 class QTableView;
 class QToolButton;
 
@@ -46,6 +49,8 @@ protected:
     void setModel(QAbstractItemModel& model);
     // Behind the title, in their order.
     void addToHead(const QWidgetList& widgets);
+    // What a button of the head does. One that is disabled by it leaves the focus to the list.
+    void press(const QPushButton* button, const std::function<void()>& act);
     void setTitle(const QString& title, QWidget* buddy);
     virtual void refresh() = 0;
     virtual void take(int line) = 0;

@@ -32,20 +32,24 @@ const QStringList kRedoKeys{QStringLiteral("Ctrl+Shift+Z"), QStringLiteral("Ctrl
 const QString kDifferencesKey = QStringLiteral("Ctrl+D");
 const QString kAdviceKey = QStringLiteral("Ctrl+Shift+D");
 
-// "Track › Reject coordinates › HDOP above:  2.5"
-QString lineOf(const review::Hit& hit, const Values& values)
+// "Track › Reject coordinates › HDOP above:  2.5"; of what is not on show why instead of its value.
+QString lineOf(const review::Hit& hit, const Values& values, const QString& whyHidden)
 {
     const Setting& setting = values.setting(hit.row);
     const review::SettingWords told = review::wordsOf(values.layout(), hit.row);
-    QString value = valueText(values, hit.row);
     QStringList place{told.page, told.group, told.caption};
-    if (hit.part >= 0) {
+    if (hit.part >= 0)
         place << review::partCaption(setting, hit.part);
-        value = review::partText(setting, hit.part, review::partOf(setting, hit.part, values.value(hit.row)));
-    }
     place.removeAll(QString());
     place.removeDuplicates();
-    return place.join(QStringLiteral(" › ")) + QStringLiteral(":  ") + value;
+    const QString path = place.join(QStringLiteral(" › "));
+    if (!whyHidden.isEmpty())
+        return QStringLiteral("%1  (%2)").arg(path, whyHidden);
+    const QString value =
+        hit.part < 0
+            ? valueText(values, hit.row)
+            : review::partText(setting, hit.part, review::partOf(setting, hit.part, values.value(hit.row)));
+    return path + QStringLiteral(":  ") + value;
 }
 
 constexpr const char* kMarkProperty = "mark";
@@ -195,13 +199,11 @@ void ReviewBar::find()
         std::erase_if(hits_,
                       [this](const review::Hit& hit) { return !review_.isEdited(hit.table, hit.row); });
     hits_.resize(std::min<std::size_t>(hits_.size(), kMostHits));
-    QStringList lines;
-    for (const review::Hit& hit : hits_)
-        lines << lineOf(hit, *review_.valuesOf(hit.table));
-    if (lines.isEmpty())
-        lines << tr("rev_127");
     list_->clear();
-    list_->addItems(lines);
+    for (const review::Hit& hit : hits_)
+        addLine(hit);
+    if (hits_.empty())
+        list_->addItem(tr("rev_127"));
     list_->setCurrentRow(0);
     const int line = list_->sizeHintForRow(0);
     const QWidget* window = list_->parentWidget();
@@ -211,6 +213,16 @@ void ReviewBar::find()
                            line * std::min(list_->count(), kLinesOnShow) + 2 * list_->frameWidth())));
     list_->show();
     list_->raise();
+}
+
+// What is not on show is pale.
+void ReviewBar::addLine(const review::Hit& hit)
+{
+    const QString whyHidden = places_.whyHidden(hit.table, hit.row);
+    auto* item = new QListWidgetItem(lineOf(hit, *review_.valuesOf(hit.table), whyHidden), list_);
+    item->setToolTip(item->text());
+    if (!whyHidden.isEmpty())
+        item->setForeground(palette().color(QPalette::Disabled, QPalette::Text));
 }
 
 void ReviewBar::closeHits()

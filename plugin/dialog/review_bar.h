@@ -43,6 +43,7 @@ protected:
 private:
     void showState();
     void find();
+    void addLine(const review::Hit& hit);
     void goTo(int line);
     void closeHits();
 

@@ -79,7 +79,7 @@ ReviewPanel::ReviewPanel(ConfigurationReview& review, SettingPlaces& places, QWi
     connect(&model_, &QAbstractItemModel::modelReset, this, &ReviewPanel::showState);
     connect(&model_, &QAbstractItemModel::dataChanged, this, &ReviewPanel::showState);
     connect(against_, QOverload<int>::of(&QComboBox::activated), this, &ReviewPanel::chooseAgainst);
-    connect(takeOver_, &QPushButton::clicked, this, &ReviewPanel::takeOver);
+    connect(takeOver_, &QPushButton::clicked, this, [this] { press(takeOver_, [this] { takeOver(); }); });
     connect(preset_, &QPushButton::clicked, this, &ReviewPanel::saveAsPreset);
     connect(copy_, &QPushButton::clicked, this,
             [this] { QApplication::clipboard()->setText(tableText(*table())); });

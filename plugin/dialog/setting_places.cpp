@@ -1,13 +1,19 @@
 #include "dialog/setting_places.h"
 
 #include "review/file_keys.h"
+#include "review/needed_setting.h"
+#include "windows/way_to.h"
 
 #include <QCoreApplication>
 #include <QFrame>
+#include <QPointer>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QTabWidget>
 #include <QTimer>
 #include <QToolTip>
+
+#include <algorithm>
 
 namespace vlk {
 
@@ -36,16 +42,25 @@ void scrollTo(QWidget* widget, int part)
     }
 }
 
-// Takes the focus from where a setting is looked for, and says why it has none.
-void explain(QWidget* closed)
+// Takes the focus from where a setting is looked for.
+void leave(QWidget* closed)
 {
     for (QWidget* outer = closed->parentWidget(); outer; outer = outer->parentWidget()) {
-        if (auto* area = qobject_cast<QScrollArea*>(outer)) {
-            area->setFocus(Qt::ShortcutFocusReason);
-            break;
-        }
+        if (auto* area = qobject_cast<QScrollArea*>(outer))
+            return area->setFocus(Qt::ShortcutFocusReason);
     }
-    QToolTip::showText(closed->mapToGlobal(QPoint(0, closed->height())), closed->toolTip(), closed);
+}
+
+void tellBelow(QWidget* widget, const QString& text)
+{
+    QToolTip::showText(widget->mapToGlobal(QPoint(0, widget->height())), text, widget);
+}
+
+constexpr int kMostNeeded = 4; // that wait for each other
+
+QString sentenceOf(const char* key)
+{
+    return QCoreApplication::translate("vlk", key);
 }
 
 void outline(QWidget* widget)
@@ -56,7 +71,7 @@ void outline(QWidget* widget)
     frame->setFrameShape(QFrame::Box);
     frame->setLineWidth(2);
     QPalette palette = frame->palette();
-    palette.setColor(QPalette::WindowText, palette.color(QPalette::Highlight));
+    palette.setColor(QPalette::WindowText, palette.color(QPalette::Active, QPalette::Highlight));
     frame->setPalette(palette);
     frame->setGeometry(widget->geometry().adjusted(-3, -3, 3, 3));
     frame->show();
@@ -77,47 +92,89 @@ SettingPlaces::SettingPlaces(std::function<std::vector<PageSettings*>()> pages, 
 {
 }
 
-QWidget* SettingPlaces::widgetOf(int table, int row, int part) const
+PageSettings* SettingPlaces::pageOf(int table) const
+{
+    const std::vector<PageSettings*> pages = pages_();
+    const auto found = std::ranges::find_if(pages, [table](const PageSettings* page) {
+        return review::FileKeys::all().tableOf(page->values().table()) == table;
+    });
+    return found == pages.end() ? nullptr : *found;
+}
+
+// The quick window has some of the keys, in a table of its own.
+std::pair<PageSettings*, int> SettingPlaces::placeOf(int table, int row) const
 {
     const review::FileKeys& keys = review::FileKeys::all();
+    if (PageSettings* page = pageOf(table))
+        return {page, row};
+    const int key = table < 0 ? -1 : keys.of(table, row);
     for (PageSettings* page : pages_()) {
-        const int own = keys.tableOf(page->values().table());
-        if (own == table)
-            return page->binder().widgetOf(row, part);
-        if (own >= 0)
+        if (keys.tableOf(page->values().table()) >= 0)
             continue;
-        // The quick window has some of the keys, in a table of its own.
-        const int key = keys.of(table, row);
         for (int quick = 0; key >= 0 && quick < page->values().count(); ++quick) {
             if (page->values().row(quick).filePath == keys[key].path)
-                return page->binder().widgetOf(quick, part);
+                return {page, quick};
         }
     }
-    return nullptr;
+    return {};
+}
+
+QWidget* SettingPlaces::widgetOf(int table, int row, int part) const
+{
+    const auto [page, own] = placeOf(table, row);
+    return page ? page->binder().widgetOf(own, part) : nullptr;
+}
+
+QString SettingPlaces::whyHidden(int table, int row) const
+{
+    const auto [page, own] = placeOf(table, row);
+    if (!page)
+        return sentenceOf("rev_259");
+    const auto needed = review::neededToShow(page->values(), own);
+    return needed ? needed->text : QString();
 }
 
 void SettingPlaces::goTo(int table, int row, int part)
 {
-    QWidget* widget = widgetOf(table, row, part);
-    if (!widget) {
-        for (PageSettings* page : pages_()) {
-            if (review::FileKeys::all().tableOf(page->values().table()) == table)
-                showTabs(page->binder().forms().first());
-        }
+    auto [page, own] = placeOf(table, row);
+    if (!page && table < 0)
+        return; // of the quick window, which has gone
+    if (!page) {
+        const std::vector<PageSettings*> pages = pages_();
+        if (QWidget* form = pages.empty() ? nullptr : pages.front()->binder().forms().first())
+            QToolTip::showText(form->mapToGlobal(QPoint()), sentenceOf("rev_259"), form);
         return;
     }
+    QString told;
+    for (int step = 0; step < kMostNeeded; ++step) {
+        const auto needed = review::neededToShow(page->values(), own);
+        if (!needed)
+            break;
+        told = sentenceOf("rev_258").arg(needed->text);
+        own = needed->row;
+        part = -1;
+    }
+    QWidget* widget = page->binder().widgetOf(own, part);
+    if (!widget)
+        return showTabs(page->binder().forms().first());
     showTabs(widget);
+    goWaysTo(widget);
+    if (QPushButton* opener = openerOf(widget); opener && !widget->window()->isVisible())
+        widget = opener;
     scrollTo(widget, kMiddle);
     widget->setFocus(Qt::ShortcutFocusReason);
     // A page that is shown for the first time gets its layout behind this.
-    QTimer::singleShot(0, widget, [widget] {
-        if (!widget->isVisible())
+    QTimer::singleShot(0, widget, [widget, told, binder = QPointer(&page->binder())] {
+        if (!widget->isVisible() || !binder)
             return;
         QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
         scrollTo(widget, kMiddle);
         outline(widget);
         if (!widget->isEnabled())
-            explain(widget);
+            leave(widget);
+        const QString text = !told.isEmpty() || widget->isEnabled() ? told : binder->whyDisabled(widget);
+        if (!text.isEmpty())
+            tellBelow(widget, text);
     });
 }
 

@@ -6,6 +6,8 @@
 #include "windows/binder/page_settings.h"
 
 #include <functional>
+#include <utility>
+#include <vector>
 
 namespace vlk {
 
@@ -20,12 +22,19 @@ public:
     // The setting of review::FileKeys; `part` as in review::Hit. Null where no form on show has it: it
     // stands in one that the present values do not call for, or in the other window.
     QWidget* widgetOf(int table, int row, int part = -1) const;
-    // As near as there is something to show.
+    // What has to be set to show it, "Device: Fuel level sensors", or that the other window has it. Empty
+    // where it is on show.
+    QString whyHidden(int table, int row) const;
+    // To what has to be set first, where the setting is not on show, saying so.
     void goTo(int table, int row, int part = -1);
     // After the page has lost some of its room.
     static void keepInSight(QWidget* widget);
 
 private:
+    PageSettings* pageOf(int table) const;
+    // The page of the window on show that has it, and its row there.
+    std::pair<PageSettings*, int> placeOf(int table, int row) const;
+
     std::function<std::vector<PageSettings*>()> pages_;
 };
 

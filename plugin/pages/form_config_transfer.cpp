@@ -6,6 +6,7 @@
 #include "pages/form_list_oper_roaming.h"
 #include "settings/transfer_settings.h"
 #include "windows/server_test.h"
+#include "windows/way_to.h"
 
 #include <QRandomGenerator>
 #include <QSignalBlocker>
@@ -30,6 +31,9 @@ VLK_Form_Config_Transfer::VLK_Form_Config_Transfer(QWidget* parent)
     roamingList_ = new VLK_Form_List_Oper_Roaming(this);
     settings_.bind({this, apnList_, roamingList_});
     connectWidgets();
+    vlk::leadsTo(ui_->stackedWidget_Server, ui_->comboBox_ServerType);
+    vlk::leadsTo(apnList_, ui_->pushButton_AutoAPN_1);
+    vlk::leadsTo(roamingList_, ui_->pushButton_RListOperSim_1);
     retranslate();
     setDefaults();
 }

@@ -7,7 +7,7 @@ namespace vlk::review {
 
 struct SearchWords
 {
-    const char* path; // in the file, without its digits: of all lines, sensors and servers alike
+    const char* path; // in the file, without all digits: of all lines, sensors and servers alike
     const char* text; // translation key
 };
 
@@ -17,7 +17,9 @@ inline constexpr SearchWords kSearchWords[] = {
     {"SENSORS/IN/normState", "rev_232"},    {"OUTPUTS/LINE/mode", "rev_233"},
     {"TRANS/AP/name", "rev_234"},           {"TRANS/SRV/addr", "rev_235"},
     {"TRACK/POINTS/maxSpeed", "rev_236"},   {"BLUETOOTH/GLOBAL/use", "rev_237"},
-    {"BLUETOOTH/SENS/type", "rev_238"},     {"RS485/OPTIONS/owner", "rev_238"},
+    {"BLUETOOTH/SENS/type", "rev_238"},     {"RS/OPTIONS/owner", "rev_302"},
+    {"TRACK/POINTS/moveTimer", "rev_301"},  {"SYSTEM/TIME/zone", "rev_303"},
+    {"TRANS/SRV/objID", "rev_304"},
 };
 
 } // namespace vlk::review

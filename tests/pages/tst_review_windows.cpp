@@ -2,6 +2,7 @@
 
 #include "dialog/difference_model.h"
 #include "pages/opened_configuration.h"
+#include "support/data_table.h"
 #include "support/files.h"
 
 #include <QtTest>
@@ -164,8 +165,10 @@ private Q_SLOTS:
         QTest::keyClick(table, Qt::Key_Return);
         QVERIFY(!table->hasFocus() && child<QTabWidget>("tabWidget")->currentIndex() == 1);
         QVERIFY(mend->isEnabled() && mend->toolTip().isEmpty());
-        mend->click();
+        mend->setFocus();
+        QTest::keyClick(mend, Qt::Key_Space);
         QCOMPARE(button->text(), QString("1"));
+        QVERIFY(!mend->isEnabled() && table->hasFocus());
         history().undo();
         QCOMPARE(button->text(), QString("2"));
         table->setFocus();
@@ -235,6 +238,53 @@ private Q_SLOTS:
         QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
         QTest::keyClick(find, Qt::Key_Escape);
         QCOMPARE(find->text(), QString());
+    }
+
+    // What is out of sight is led to as far as there is something to show, and told.
+    void findsWhatIsNotOnShow_data()
+    {
+        DataTable<QString, bool, QString, QString>({"path", "isHidden", "focus", "tip"})
+            .row("of a device that is not chosen", "RS485/TPMS/holdTime", true, "comboBox_RS485_Owner_1",
+                 "rev_258")
+            .row("of a use that a line has not", "SENSORS/IN3/IN3FRQ/filterLen", true,
+                 "comboBox_NormState_In3", "rev_258")
+            .row("of a type of Bluetooth sensor", "BLUETOOTH/HS1/type", true, "comboBox_Type_Sens_1",
+                 "rev_258")
+            .row("another server", "TRANS/SRV2/use", false, "GPRSSrv_groupBox_Reserv_1", "")
+            .row("of a server that is not in use", "TRANS/SRV3/port", false, "", "cfgt6_452")
+            .row("one that a choice disables", "TRANS/AP1/login", false, "", "cfgt6_452");
+    }
+    void findsWhatIsNotOnShow()
+    {
+        QFETCH(QString, path);
+        QFETCH(bool, isHidden);
+        QFETCH(QString, focus);
+        QFETCH(QString, tip);
+        QToolTip::hideText();
+        QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
+        auto* find = child<QLineEdit>("lineEdit_Find");
+        auto* list = child<QListWidget>("listWidget_Found");
+        QTest::keyClicks(find, path);
+        QVERIFY(list->count() >= 1);
+        QCOMPARE(list->item(0)->text().endsWith(')'), isHidden);
+        QTest::keyClick(find, Qt::Key_Return);
+        QTRY_VERIFY(dialog_->findChild<QWidget*>("frame_Found"));
+        QCOMPARE(QToolTip::text(), tip);
+        QVERIFY(!find->hasFocus());
+        if (!focus.isEmpty())
+            QTRY_COMPARE(QApplication::focusWidget()->objectName(), focus);
+    }
+
+    // Quick setup has fewer.
+    void findsInQuickSetup()
+    {
+        open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml", 0);
+        QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
+        auto* find = child<QLineEdit>("lineEdit_Find");
+        QTest::keyClicks(find, "TRACK/COORDFLT/maxHDOP");
+        QVERIFY(child<QListWidget>("listWidget_Found")->item(0)->text().endsWith("(rev_259)"));
+        QTest::keyClick(find, Qt::Key_Return);
+        QTRY_COMPARE(QToolTip::text(), QString("rev_259"));
     }
 
     // What the panels list is what the command line tells of the same files.

@@ -2,6 +2,7 @@
 
 #include "document/configuration.h"
 #include "review/search.h"
+#include "review/search_words.h"
 #include "settings/all_settings.h"
 #include "support/data_table.h"
 
@@ -57,10 +58,18 @@ private Q_SLOTS:
             .row("SIM card in Russian", "сим карта", "TRANS/AP1/name")
             .row("SIM card for short", "симка", "TRANS/AP1/name")
             .row("Bluetooth in Russian", "блютуз", "BLUETOOTH/GLOBAL/use")
-            .row("fuel sensor for short", "дут", "BLUETOOTH/SENS1/type")
+            .row("fuel sensor for short", "дут", "RS485/OPTIONS/owner1")
             .row("an end of a range", "температура максимум", "TEMPSENS/SENS1/max")
             .row("speed limit", "speed limit", "TRACK/POINTS/maxSpeed")
             .row("immobilizer", "immobilizer", "OUTPUTS/LINE1/mode")
+            .row("engine blocking", "engine blocking", "OUTPUTS/LINE1/mode")
+            .row("engine blocking in Russian", "блокировка двигателя", "OUTPUTS/LINE1/mode")
+            .row("an adjective", "температурная тревога", "TEMPSENS/SENS1/min")
+            .row("battery of the vehicle", "аккумулятор", "SYSTEM/PWRSENS/alarmLvl")
+            .row("button for help", "кнопка sos", "SENSORS/IN1/normState")
+            .row("reefer", "холодильник", "RS485/OPTIONS/owner1")
+            .row("how often", "reporting interval", "TRACK/POINTS/moveTimer")
+            .row("object by its login", "логин объекта", "TRANS/SRV1/objID")
             .row("no secret by its value", "geheim", "")
             .row("nothing", "qwertz", "")
             .row("a word that is nowhere", "порт qwertz", "");
@@ -73,6 +82,18 @@ private Q_SLOTS:
         Search search(tables(), texts_[1]);
         const std::vector<Hit> hits = search.find(query);
         QCOMPARE(hits.empty() ? QString() : told(hits.front()), first);
+    }
+
+    // A path that no setting has would be found by nobody.
+    void otherNamesHaveSettings()
+    {
+        QSet<QString> paths;
+        for (const vlk::Values* values : tables()) {
+            for (int row = 0; row < values->count(); ++row)
+                paths << QString(values->row(row).filePath).remove(QRegularExpression("\\d"));
+        }
+        for (const vlk::review::SearchWords& words : vlk::review::kSearchWords)
+            QVERIFY2(paths.contains(words.path), words.path);
     }
 
     void followsValuesAndLanguage()

@@ -16,6 +16,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QGroupBox>
 #include <QHash>
 #include <QHelpEvent>
 #include <QLabel>
@@ -45,6 +46,11 @@ public:
 private:
     int& depth_;
 };
+
+QString notAvailableWith(const QString& setting)
+{
+    return QCoreApplication::translate("vlk", "cfgt6_452").arg(setting);
+}
 
 } // namespace
 
@@ -154,10 +160,23 @@ QString Binder::whyDisabled(const Target& target) const
             std::ranges::find_if_not(rule->when, [&](const When& one) { return values_.holds(one); })->row;
         const QString caption = captionText(values_.setting(missing));
         const QString value = valueText(values_, missing);
-        return QCoreApplication::translate("vlk", "cfgt6_452")
-            .arg(caption.isEmpty() ? value : caption + QStringLiteral(": ") + value);
+        return notAvailableWith(caption.isEmpty() ? value : caption + QStringLiteral(": ") + value);
     }
     return {};
+}
+
+QString Binder::whyDisabled(const QWidget* widget) const
+{
+    for (const QWidget* outer = widget; outer && !outer->isWindow(); outer = outer->parentWidget()) {
+        for (const Target& target : targets_) {
+            if (target.widget == outer && target.effect == Enable::Effect::enabled && !outer->isEnabled())
+                return whyDisabled(target);
+        }
+        const auto* box = qobject_cast<const QGroupBox*>(outer);
+        if (box && outer != widget && box->isCheckable() && !box->isChecked())
+            return notAvailableWith(box->title() + QStringLiteral(": ") + yesNo(false));
+    }
+    return widget->toolTip();
 }
 
 void Binder::join(QWidget* form)

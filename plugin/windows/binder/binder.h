@@ -74,6 +74,8 @@ public:
     std::vector<Place> placesOf(int row) const;
     // The first one of the part, else the first one. Null where there is none.
     QWidget* widgetOf(int row, int part = -1) const;
+    // Of a disabled one the rule that does it, in words; else its tool tip.
+    QString whyDisabled(const QWidget* widget) const;
 
     const Values& values() const override { return values_; }
     const BoundForms& forms() const override { return forms_; }
