@@ -52,7 +52,10 @@ std::optional<QString> edit(Configuration* configuration, int key, const KeyEdit
     const int holder = values.holder(row);
     const Setting& setting = values.setting(holder);
     const Limits limits = values.limits(holder);
-    const Taken taken = takenAs(setting, {edit.value, values.value(holder), limits});
+    Taken taken = takenAs(setting, {edit.value, values.value(holder), limits});
+    // A long period is lost by the next load alone, which advice tells.
+    if (taken.change == Change::wrapped)
+        taken = takenAs(setting, {edit.value, values.value(holder), limits, Source::edit});
     const Change change =
         isWhole(taken.change) && !isSettable(setting, edit.value) ? Change::unknownCode : taken.change;
     if (!isWhole(change)) {

@@ -51,6 +51,8 @@ private Q_SLOTS:
                  "<TRANS><OBJECT name='\xE6&lt;&amp;&quot;'/></TRANS>")
             .row("a value that a load would limit", "TRACK/POINTS/maxSpeed=180",
                  "<TRACK><POINTS maxSpeed='900'/></TRACK>", "<TRACK><POINTS maxSpeed='180'/></TRACK>")
+            .row("a period that the next load cuts", "TRANS/RULES/cnctTimer=86400",
+                 "<TRANS><RULES cnctTimer='3600'/></TRANS>", "<TRANS><RULES cnctTimer='86400'/></TRANS>")
             .row("a device behind its value", "RS485/TPMS/holdTime=20 RS485/OPTIONS/owner1=TPMS",
                  "<RS485><OPTIONS owner1='' boudrate='9600'/></RS485>",
                  "<RS485><OPTIONS owner1='TPMS' boudrate='38400'/><TPMS type=\"PRESSPRO\" "
