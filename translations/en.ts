@@ -1667,7 +1667,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_293"><translation>Quick setup writes input lines, the serial line and Bluetooth anew</translation></message>
     <message id="rev_294"><translation>Unsaved changes of %1: %2. Open it again to bring them back.</translation></message>
     <message id="rev_295"><translation>Unsaved changes of %1: a new configuration. Open a new one to bring them back.</translation></message>
-    <message id="rev_296"><translation>Not filled in</translation></message>
+    <message id="rev_296"><translation>Not in use or not filled in</translation></message>
     <message id="rev_301"><translation>frequency of points, reporting interval</translation></message>
     <message id="rev_302"><translation>FLS, fuel level sensor, fuel gauge, refrigerator, reefer</translation></message>
     <message id="rev_303"><translation>UTC, GMT, clock</translation></message>

@@ -1667,7 +1667,7 @@
     <message id="rev_293"><translation>Быстрая настройка записывает входные линии, последовательную линию и Bluetooth заново</translation></message>
     <message id="rev_294"><translation>Несохранённые изменения от %1: %2. Откройте, чтобы вернуть.</translation></message>
     <message id="rev_295"><translation>Несохранённые изменения от %1: новая конфигурация. Откройте её, чтобы вернуть.</translation></message>
-    <message id="rev_296"><translation>Не заполнено</translation></message>
+    <message id="rev_296"><translation>Не используется или не заполнено</translation></message>
     <message id="rev_301"><translation>частота точек, частота записи, интервал</translation></message>
     <message id="rev_302"><translation>ДУТ, датчик уровня топлива, топливный датчик, рефрижератор, холодильник</translation></message>
     <message id="rev_303"><translation>UTC, GMT, МСК, часы</translation></message>

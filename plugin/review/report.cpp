@@ -36,7 +36,7 @@ struct Line
     QStringList values; // one, or before and after
     QString note;
     bool isWorkedOut = false; // not in the file
-    bool isUnfilled = false;  // a place of a list that holds nothing
+    bool isUnfilled = false;  // a place of a list that holds nothing, one of many that is not in use
 };
 
 using Lines = std::vector<Line>;
@@ -148,6 +148,21 @@ Lines byTitle(Lines lines)
     return lines;
 }
 
+// Stands in one of many elements that a key of theirs puts to use, and that is not in use.
+bool isUnused(const Values& values, int row)
+{
+    const std::vector<TableLayout::Row>& rows = values.layout().rows;
+    const TableLayout::Row& place = rows[row];
+    const TableLayout::Element& element = values.layout().elements[place.group];
+    if (place.base->numbers.outer == 0)
+        return false;
+    for (int other = element.firstRow; other < element.endRow; ++other) {
+        if (rows[other].key == QLatin1String("use") && rows[other].base->stored)
+            return values.value(other) == QLatin1String("0");
+    }
+    return false;
+}
+
 bool isUnfilled(const Values& values, int row)
 {
     const Setting& setting = values.setting(row);
@@ -202,8 +217,11 @@ Lines settingsOf(const Configuration& configuration, const Report& report)
                 report.secrets == Secrets::shown
                     ? valueText(values.setting(values.holder(row)), values.written(row), values.unitKey(row))
                     : valueText(values, row, values.written(row));
-            lines.push_back(
-                {wordsOf(values.layout(), row), {text}, {}, false, isUnfilled(values, values.holder(row))});
+            lines.push_back({wordsOf(values.layout(), row),
+                             {text},
+                             {},
+                             false,
+                             isUnused(values, row) || isUnfilled(values, values.holder(row))});
         }
     }
     return lines;

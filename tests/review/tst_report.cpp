@@ -54,6 +54,19 @@ private Q_SLOTS:
         QVERIFY(html.contains("cfgt1_122: 9; cfgt1_122: 10") && !html.contains("/ cfgt1_122: 9<"));
     }
 
+    // Of many sensors those that are in use have lines of their own, the others are named.
+    void sensorsInUse()
+    {
+        vlk::Configuration fuel = configuration_;
+        fuel.edit("RS485/OPTIONS/owner1", "FLDS");
+        fuel.edit("RS485/FS1/use", "1");
+        fuel.edit("RS485/FS2/use", "0");
+        const QString html = toHtml(fuel, Report{"title", {}, {}, {}, {}});
+        QVERIFY(html.contains("<h3>cfgt6_007 / cfgwl_032 1</h3>"));
+        QVERIFY(!html.contains("<h3>cfgt6_007 / cfgwl_032 2</h3>"));
+        QVERIFY(html.contains("cfgwl_032 2; "));
+    }
+
     void chosenKeysAndSecretsOnDemand()
     {
         const Report report{
