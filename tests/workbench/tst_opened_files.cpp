@@ -233,6 +233,29 @@ private Q_SLOTS:
             bench.text("label_Status").startsWith(QStringLiteral("Показать нечего: файла /a/0.tmi нет.")));
     }
 
+    // They are offered by opening their configuration: until then the window says so.
+    void tellsOfEditsThatWait()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        const QLoggingCategory found("vlk.unsaved.found");
+        qCWarning(found, "changes of 18:44: truck.xml");
+        const auto* bar = bench.window.findChild<QLabel*>(QStringLiteral("label_Notice"));
+        QTRY_VERIFY(bar->isVisible());
+        QCOMPARE(bar->text(), QStringLiteral("Unsaved changes of 18:44: truck.xml. Open it again to bring "
+                                             "them back."));
+        QCOMPARE(bench.text("label_Status"), bar->text());
+        bench.window.setLanguage(QStringLiteral("ru"));
+        QTRY_VERIFY(bar->text().startsWith(QStringLiteral("Несохранённые изменения")));
+        QDialog telemetry;
+        telemetry.show();
+        QVERIFY(bar->isVisible());
+        QDialog configuration;
+        configuration.setModal(true);
+        configuration.show();
+        QVERIFY(!bar->isVisible());
+    }
+
     // The plug-in's file dialog and what comes of it, at once or later.
     void tellsOfASavedFile_data()
     {

@@ -1,5 +1,6 @@
 #include "window/file_notices.h"
 
+#include "typing/notice_bar.h"
 #include "window/languages.h"
 #include "window/message_box.h"
 #include "window/status_line.h"
@@ -7,6 +8,8 @@
 
 #include <QStringList>
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace workbench {
@@ -15,11 +18,27 @@ namespace {
 
 // What a file with damage everywhere has more of is counted.
 constexpr int kMostLines = 5;
+constexpr int kMostInBar = 2;
+
+const QString kUnsaved = QStringLiteral("vlk.unsaved.");
+constexpr int kWaiting = 1; // number of the notice
+
+using Noted = QVector<QPair<QString, QString>>;
+
+QString told(const Noted& noted, int most)
+{
+    QStringList lines;
+    for (const auto& [category, message] : noted.mid(0, most))
+        lines.append(PluginLog::words(category, message));
+    if (noted.size() > most)
+        lines.append(text("wb_told_more").arg(number(noted.size() - most)));
+    return lines.join(QLatin1Char('\n'));
+}
 
 } // namespace
 
-FileNotices::FileNotices(const PluginLog& log, StatusLine& status, QWidget* mainWindow)
-    : status_(status), mainWindow_(mainWindow)
+FileNotices::FileNotices(const PluginLog& log, StatusLine& status, vlk::NoticeBar& bar, QWidget* mainWindow)
+    : status_(status), bar_(bar), mainWindow_(mainWindow)
 {
     connect(&log, &PluginLog::warned, this,
             [this](PluginLog::Topic topic, const QString& category, const QString& text) {
@@ -39,17 +58,24 @@ void FileNotices::note(PluginLog::Topic topic, const QString& category, const QS
 
 void FileNotices::tell()
 {
-    const auto sentence = [noted = std::exchange(noted_, {})] {
-        QStringList lines;
-        for (const auto& [category, message] : noted.mid(0, kMostLines))
-            lines.append(PluginLog::words(category, message));
-        if (noted.size() > kMostLines)
-            lines.append(text("wb_told_more").arg(number(noted.size() - kMostLines)));
-        return lines.join(QLatin1Char('\n'));
-    };
+    const Noted noted = std::exchange(noted_, {});
+    const auto sentence = [noted] { return told(noted, kMostLines); };
     status_.tell(StatusLine::Command, sentence);
     if (std::exchange(needsBox_, false))
         showWarning(sentence(), mainWindow_);
+    Noted waiting;
+    std::ranges::copy_if(noted, std::back_inserter(waiting),
+                         [](const auto& entry) { return entry.first.startsWith(kUnsaved); });
+    if (!waiting.isEmpty()) {
+        bar_.tell(kWaiting, [waiting] {
+            return vlk::Notice{vlk::Mark::advice, told(waiting, kMostInBar), {}};
+        });
+    }
+}
+
+void FileNotices::configurationOpened()
+{
+    bar_.end(kWaiting);
 }
 
 } // namespace workbench

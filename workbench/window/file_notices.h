@@ -1,7 +1,8 @@
 #pragma once
 
 // Tells what the plug-in finds out about a file that was opened, as it tells its log: in the status line and,
-// where no window of the plug-in shows it, in a box, all that comes of one command together.
+// where no window of the plug-in shows it, in a box, all that comes of one command together. Edits that wait
+// for their configuration stand in the main window's bar, until one is opened or the user closes it.
 
 #include "window/plugin_log.h"
 
@@ -9,6 +10,10 @@
 #include <QVector>
 
 class QWidget;
+
+namespace vlk {
+class NoticeBar;
+} // namespace vlk
 
 namespace workbench {
 
@@ -19,13 +24,17 @@ class FileNotices : public QObject
     Q_OBJECT
 
 public:
-    FileNotices(const PluginLog& log, StatusLine& status, QWidget* mainWindow);
+    FileNotices(const PluginLog& log, StatusLine& status, vlk::NoticeBar& bar, QWidget* mainWindow);
+
+    // Whatever waits is offered there.
+    void configurationOpened();
 
 private:
     void note(PluginLog::Topic topic, const QString& category, const QString& message);
     void tell();
 
     StatusLine& status_;
+    vlk::NoticeBar& bar_;
     QWidget* mainWindow_;
     QVector<QPair<QString, QString>> noted_; // category and message
     bool needsBox_ = false;

@@ -1,6 +1,7 @@
 #include "window/workbench_window.h"
 
 #include "plugin_names.h"
+#include "typing/notice_bar.h"
 #include "typing/title_style.h"
 #include "window/command_bars.h"
 #include "window/data_folder.h"
@@ -53,7 +54,7 @@ WorkbenchWindow::WorkbenchWindow(const DataFolder& folder, Settings& settings, L
       device_(new DevicePanel(session_, this)), recent_(new RecentFiles(settings, this)),
       opener_(new FileOpener(session_, settings, *recent_, this)),
       bars_(new CommandBars(this, commands_, settings, languages, recent_->menu())),
-      splitter_(new QSplitter(this)), tabs_(new QTabWidget(this)),
+      bar_(new vlk::NoticeBar(this)), splitter_(new QSplitter(this)), tabs_(new QTabWidget(this)),
       start_(new StartPanel(session_, commands_, this)), logView_(new MessageLogView(&log_, this)),
       reportView_(new WriteReportView(session_, this)),
       trackerPanel_(new TrackerPanel(session_.tracker(), this)),
@@ -102,7 +103,9 @@ void WorkbenchWindow::buildPanels()
     splitter_->setChildrenCollapsible(false);
     auto* frame = new QWidget(this);
     auto* frameLayout = new QVBoxLayout(frame);
+    frameLayout->addWidget(bar_);
     frameLayout->addWidget(splitter_);
+    texts_.bind([this] { bar_->retranslate(); });
     setCentralWidget(frame);
     vlk::dressGroups(frame);
 }
@@ -184,7 +187,11 @@ void WorkbenchWindow::connectNotices()
     saveNotices_ = std::make_unique<SaveNotices>(pluginLog_, session_, windows_, *recent_, *status_, this);
     connect(saveNotices_.get(), &SaveNotices::saved, linkNotices_.get(), &LinkNotices::tellDone);
     connect(saveNotices_.get(), &SaveNotices::ended, linkNotices_.get(), &LinkNotices::saveEnded);
-    fileNotices_ = std::make_unique<FileNotices>(pluginLog_, *status_, this);
+    fileNotices_ = std::make_unique<FileNotices>(pluginLog_, *status_, *bar_, this);
+    connect(&windows_, &PluginWindows::opened, fileNotices_.get(), [this](const QWidget* window) {
+        if (window->isModal())
+            fileNotices_->configurationOpened();
+    });
     connect(linkNotices_.get(), &LinkNotices::troubleChanged, this, [this] {
         device_->setTrouble(linkNotices_->trouble());
         faults_->setTrouble(linkNotices_->trouble());

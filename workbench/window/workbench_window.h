@@ -21,6 +21,10 @@
 class QSplitter;
 class QTabWidget;
 
+namespace vlk {
+class NoticeBar;
+} // namespace vlk
+
 namespace workbench {
 
 class CommandBars;
@@ -108,6 +112,7 @@ private:
     RecentFiles* recent_;
     FileOpener* opener_;
     CommandBars* bars_;
+    vlk::NoticeBar* bar_;
     QSplitter* splitter_;
     QTabWidget* tabs_;
     StartPanel* start_;
