@@ -10,8 +10,11 @@
 #include <QStyleFactory>
 #include <QStyledItemDelegate>
 #include <QTableView>
+#include <QTimer>
 #include <QToolTip>
 #include <QTreeView>
+
+#include <algorithm>
 
 namespace vlk {
 
@@ -169,6 +172,25 @@ void dressTable(QTreeView* tree)
 void elideInTheMiddle(QAbstractItemView* table, int column)
 {
     table->setItemDelegateForColumn(column, new CellDelegate(Qt::ElideMiddle, table));
+}
+
+void wrapTexts(QTableView* table)
+{
+    constexpr int mostLines = 3;
+    table->setWordWrap(true);
+    auto* due = new QTimer(table);
+    due->setSingleShot(true);
+    const QAbstractItemView* view = table;
+    QObject::connect(due, &QTimer::timeout, table, [table, view] {
+        const int line = table->fontMetrics().height();
+        for (int row = 0; row < table->model()->rowCount(); ++row)
+            table->setRowHeight(row, std::clamp(view->sizeHintForRow(row), line + kRowPadding,
+                                                mostLines * line + kRowPadding));
+    });
+    const auto wrap = [due] { due->start(0); };
+    QObject::connect(table->horizontalHeader(), &QHeaderView::sectionResized, due, wrap);
+    QObject::connect(table->model(), &QAbstractItemModel::modelReset, due, wrap);
+    wrap();
 }
 
 int cellWidth(const QAbstractItemView& table, const QString& text)

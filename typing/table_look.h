@@ -26,6 +26,9 @@ void dressTable(QTreeView* tree);
 // For a column of paths, which differ most at their ends.
 void elideInTheMiddle(QAbstractItemView* table, int column);
 
+// Texts that have no room in one line take up to three, as the columns are now.
+void wrapTexts(QTableView* table);
+
 // How wide a cell of a text is.
 int cellWidth(const QAbstractItemView& table, const QString& text);
 

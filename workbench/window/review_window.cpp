@@ -182,6 +182,7 @@ void ReviewWindow::addTable(QVBoxLayout* column)
     empty->tell(text("wb_review_none"));
     table->horizontalHeader()->setSectionResizeMode(SettingChangeModel::Setting, QHeaderView::Stretch);
     fitValues(*table);
+    wrapTexts(table);
     column->addWidget(table, 1);
 }
 

@@ -85,6 +85,7 @@ void WriteReportView::buildTable()
     // The name takes what the others leave.
     table_->horizontalHeader()->setSectionResizeMode(WriteReportModel::Setting, QHeaderView::Stretch);
     fitColumns();
+    wrapTexts(table_);
     auto* empty = new EmptyNote(table_);
     texts_.bind([this, empty] {
         // What is not known is said above.
