@@ -112,14 +112,25 @@ void openFullPanel(benchmark::State& state)
     bench::openConfiguration(dialog);
     const QTemporaryDir folder;
     QFile other(folder.filePath(QStringLiteral("other.xml")));
-    QByteArray text = "<DEVICE><OTHER";
-    for (int key = 0; key < 1150; ++key)
-        text += " key" + QByteArray::number(key) + "=\"1\"";
-    if (!other.open(QIODevice::WriteOnly) || other.write(text + "/></DEVICE>") < 0)
+    // An element with more keys is taken for damage.
+    constexpr int keysOfSection = 575;
+    constexpr int leastDifferences = 1500;
+    QByteArray text = "<DEVICE>";
+    for (const char* section : {"OTHER", "MORE"}) {
+        text += QByteArray("<") + section;
+        for (int key = 0; key < keysOfSection; ++key)
+            text += " key" + QByteArray::number(key) + "=\"1\"";
+        text += "/>";
+    }
+    if (!other.open(QIODevice::WriteOnly) || other.write(text + "</DEVICE>") < 0)
         qFatal("no file to compare with");
     other.close();
-    dialog.review().compareWith(vlk::ConfigurationReview::Against::otherFile, other.fileName());
-    state.counters["differences"] = dialog.review().differences().count();
+    const bool isRead =
+        dialog.review().compareWith(vlk::ConfigurationReview::Against::otherFile, other.fileName());
+    const int differences = dialog.review().differences().count();
+    if (!isRead || differences < leastDifferences)
+        qFatal("the panel is not full: %d differences", differences);
+    state.counters["differences"] = differences;
     auto* button = dialog.findChild<QToolButton*>(QStringLiteral("toolButton_Differences"));
     bench::sideBySide(
         state, "x empty dialog",
