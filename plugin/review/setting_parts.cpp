@@ -4,6 +4,10 @@
 #include "base/shown_text.h"
 #include "base/translated.h"
 #include "review/value_text.h"
+#include "settings/data_set_boxes.h"
+
+#include <algorithm>
+#include <string_view>
 
 namespace vlk::review {
 
@@ -17,6 +21,13 @@ int partCount(const Setting& setting)
 
 bool isPartShown(const Setting& setting, int part)
 {
+    if (const auto* mask = setting.as<Mask>()) {
+        const MaskField& field = mask->fields[part];
+        return std::ranges::any_of(kDataSetBoxes, [&](const DataSetBox& box) {
+            return box.shown && box.field.number == field.number &&
+                   std::string_view(box.field.widget) == field.widget;
+        });
+    }
     const auto* digits = setting.as<Digits>();
     return !digits || digits->positions[part].widget;
 }

@@ -67,6 +67,7 @@ private Q_SLOTS:
             .row("an adjective", "температурная тревога", "TEMPSENS/SENS1/min")
             .row("battery of the vehicle", "аккумулятор", "SYSTEM/PWRSENS/alarmLvl")
             .row("button for help", "кнопка sos", "SENSORS/IN1/normState")
+            .row("no field that no tab shows", "tyre pressure", "RS485/TPMS/type")
             .row("reefer", "холодильник", "RS485/OPTIONS/owner1")
             .row("how often", "reporting interval", "TRACK/POINTS/moveTimer")
             .row("object by its login", "логин объекта", "TRANS/SRV1/objID")
