@@ -136,6 +136,23 @@ private Q_SLOTS:
         QCOMPARE(saved(), before);
     }
 
+    // A record that is too large locks all but its page. What takes edits back is not locked.
+    void undoDuringTheLock()
+    {
+        const QByteArray before = saved();
+        type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
+        const QByteArray edited = saved();
+        QVERIFY(QMetaObject::invokeMethod(dialog_->fullWindow(), "slot_Excess_Size", Q_ARG(bool, true)));
+        QVERIFY(!child<QFrame>("frame_Excess")->isEnabled());
+        child<QToolButton>("toolButton_Undo")->click();
+        QCOMPARE(saved(), before);
+        child<QToolButton>("toolButton_Redo")->click();
+        QCOMPARE(saved(), edited);
+        child<QToolButton>("toolButton_Differences")->click();
+        QTest::mouseClick(child<QPushButton>("pushButton_TakeOver"), Qt::LeftButton);
+        QCOMPARE(saved(), before);
+    }
+
     // Typing into one field is one step; a field in which something is being typed takes that back alone.
     void undoByKeys()
     {
