@@ -251,6 +251,7 @@ private Q_SLOTS:
             .row("of a type of Bluetooth sensor", "BLUETOOTH/HS1/type", true, "comboBox_Type_Sens_1",
                  "rev_258")
             .row("another server", "TRANS/SRV2/use", false, "GPRSSrv_groupBox_Reserv_1", "")
+            .row("in a list behind a button", "TRANS/ROAMSIM1/opCode1", false, "treeWidget_List", "")
             .row("of a server that is not in use", "TRANS/SRV3/port", false, "", "cfgt6_452")
             .row("one that a choice disables", "TRANS/AP1/login", false, "", "cfgt6_452");
     }
