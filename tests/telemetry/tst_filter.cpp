@@ -129,6 +129,16 @@ private Q_SLOTS:
         QTEST(offered, "offered");
     }
 
+    void offersFirst()
+    {
+        FilterNames names = names_;
+        names.offerFirst({"rate,  KM/H", "no column", "Rear door"});
+        QCOMPARE(names.names().mid(0, 3), QStringList({"Rate, km/h", "Rear door", names_.names().first()}));
+        QCOMPARE(names.names().size(), names_.names().size());
+        const std::vector<FilterCompletion> offered = completions("door", 4, names);
+        QCOMPARE(offered.front().text, QString("Rear door"));
+    }
+
     void passes_data()
     {
         const DataTable<QString, QString> table({"typed", "records"});

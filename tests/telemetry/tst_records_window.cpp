@@ -93,7 +93,45 @@ private Q_SLOTS:
         QTRY_COMPARE(this->numbers().size(), 40);
     }
 
-    // The latest one first, as they are kept: for all files, in words of no language.
+    // Of any column; of all of them an hour around the record.
+    void filterByCell_data()
+    {
+        DataTable<QString, QString, int>({"column", "choice", "count"})
+            .row("a number", "Power", "rec_063", 1)
+            .row("a time", "Time", "rec_063", 1)
+            .row("an event", "Code", "rec_063", 2)
+            .row("a state", "IN1", "rec_063", 20)
+            .row("a place", "Longitude", "rec_063", 40)
+            .row("an hour", "Power", "rec_425", 38);
+    }
+    void filterByCell()
+    {
+        QFETCH(QString, column);
+        QFETCH(QString, choice);
+        show(drive());
+        table_->setCurrentIndex(cell(7, column));
+        choose(qPrintable(choice));
+        QCOMPARE(text("label_FilterFault"), QString());
+        QTEST(numbers().size(), "count");
+        QVERIFY(numbers().contains("1007"));
+    }
+
+    // F6 goes from what was asked to what was found.
+    void areas()
+    {
+        show(drive());
+        child<QLineEdit>("lineEdit_Filter")->setFocus();
+        QTest::keyClick(window, Qt::Key_F6);
+        QCOMPARE(QApplication::focusWidget(), table_);
+        for (int i = 0; i < 2; ++i)
+            QTest::keyClick(window, Qt::Key_F6);
+        QCOMPARE(QApplication::focusWidget(), child<QWidget>("plot_Curves"));
+        for (int i = 0; i < 3; ++i)
+            QTest::keyClick(window, Qt::Key_F6, Qt::ShiftModifier);
+        QCOMPARE(QApplication::focusWidget(), child<QLineEdit>("lineEdit_Filter"));
+    }
+
+    // The latest one first, for all files, in words of the language of the moment.
     void latestFilters()
     {
         show(drive());
@@ -110,7 +148,7 @@ private Q_SLOTS:
         QVERIFY(menu);
         QTest::keyClick(menu, Qt::Key_Down);
         QTest::keyClick(menu, Qt::Key_Return);
-        QCOMPARE(line->text(), QString("StateIn1.0 = 1"));
+        QCOMPARE(line->text(), QString("Door (IN1) = \"tmizta_033\""));
         QCOMPARE(numbers().size(), 20);
     }
 
@@ -165,6 +203,13 @@ private Q_SLOTS:
     {
         show(drive());
         auto* line = child<QLineEdit>("lineEdit_Filter");
+        // Before all others what the file has, as it stands in the heads.
+        type("lineEdit_Filter", "x");
+        pressInFilter(Qt::Key_Backspace);
+        QVERIFY(popup());
+        const char* const heads[] = {"tmizta_123", "tmizta_124", "tmizta_125"};
+        for (int row = 0; row < 3; ++row)
+            QCOMPARE(popup()->model()->index(row, 0).data().toString(), QString(heads[row]));
         type("lineEdit_Filter", "Lati");
         QAbstractItemView* offered = popup();
         QVERIFY(offered);

@@ -44,6 +44,10 @@ QString keyOf(const QString& text)
 // The word that a code of the item shows; null where it shows none.
 const Word* wordOf(const Rule& rule, quint32 code)
 {
+    if (rule.shape == Shape::twoState)
+        return code > 1 ? nullptr : code == 1 ? &rule.set : &rule.clear;
+    if (rule.shape != Shape::enumeration)
+        return nullptr;
     const auto covers = [code](const NamedValue& row) { return code >= row.first && code <= row.last; };
     if (const auto row = std::ranges::find_if(rule.names, covers); row != rule.names.end())
         return &row->word;
@@ -68,6 +72,12 @@ QString foldedForFilter(const QString& text)
     return folded;
 }
 
+QString wordOfCode(ItemIndex item, quint32 code)
+{
+    const Word* const word = wordOf(kItems[item].rule(), code);
+    return word != nullptr ? word->text() : QString();
+}
+
 FilterNames::FilterNames()
 {
     for (int index = 0; index < kItemCount; ++index) {
@@ -86,6 +96,18 @@ void FilterNames::add(const QString& name, const FilterColumn& column)
         return;
     names_.append(name.simplified());
     foldedNames_.append(key);
+}
+
+void FilterNames::offerFirst(const QStringList& names)
+{
+    int place = 0;
+    for (const QString& name : names) {
+        const int known = foldedNames_.indexOf(keyOf(name), place);
+        if (known < 0)
+            continue;
+        names_.move(known, place);
+        foldedNames_.move(known, place++);
+    }
 }
 
 bool FilterNames::know(const QString& key, const FilterColumn& column)

@@ -33,6 +33,9 @@ struct CodeRange
     bool operator==(const CodeRange&) const = default;
 };
 
+// What the item shows for the code, in the language of the installed translator; empty without words for it.
+QString wordOfCode(ItemIndex item, quint32 code);
+
 class FilterNames
 {
 public:
@@ -55,7 +58,10 @@ public:
                                    int* end) const;
     bool hasWords(const FilterColumn& column) const { return words_.contains(column); }
 
-    // As they were added.
+    // Of those that are known: in this order before all others where names are offered.
+    void offerFirst(const QStringList& names);
+
+    // As they are offered.
     const QStringList& names() const { return names_; }
     // The same, folded.
     const QStringList& foldedNames() const { return foldedNames_; }

@@ -14,7 +14,7 @@ namespace {
 // By Comparison.
 constexpr const char* kSignTexts[] = {" = ", " != ", " < ", " > ", " <= ", " >= "};
 
-QString numberText(const FilterColumn& column, double number)
+QString keptNumber(const FilterColumn& column, double number)
 {
     constexpr double kBehindTimes = std::uint64_t{1} << 32;
     if (holdsTimes(column) && number >= 0 && number < kBehindTimes && number == std::trunc(number))
@@ -24,40 +24,38 @@ QString numberText(const FilterColumn& column, double number)
     return QString::fromLatin1(digits, static_cast<int>(end - digits));
 }
 
-void addText(QString& text, const FilterNode& node);
+void addText(QString& text, const FilterNode& node, const FilterWording& wording);
 
 // A part that binds less than what it stands in has brackets.
-void addPart(QString& text, const FilterNode& part, FilterNode::Kind inside)
+void addPart(QString& text, const FilterNode& part, FilterNode::Kind inside, const FilterWording& wording)
 {
     const bool isJoined = part.kind == FilterNode::all || part.kind == FilterNode::any;
     const bool inBrackets = isJoined && !(inside == FilterNode::any && part.kind == FilterNode::all);
     if (inBrackets)
         text += QLatin1Char('(');
-    addText(text, part);
+    addText(text, part, wording);
     if (inBrackets)
         text += QLatin1Char(')');
 }
 
-void addText(QString& text, const FilterNode& node)
+void addText(QString& text, const FilterNode& node, const FilterWording& wording)
 {
     switch (node.kind) {
-    case FilterNode::condition: {
-        const std::string_view name = nameOf(node.column);
-        text += QLatin1String(name.data(), static_cast<int>(name.size())) +
-                QLatin1String(kSignTexts[static_cast<int>(node.comparison)]) +
-                numberText(node.column, node.number);
+    case FilterNode::condition:
+        text += wording.name(node.column) + QLatin1String(kSignTexts[static_cast<int>(node.comparison)]) +
+                wording.number(node.column, node.number);
         return;
-    }
     case FilterNode::negation:
-        text += QLatin1String("not ");
-        addPart(text, node.parts.front(), node.kind);
+        text += wording.negation + QLatin1Char(' ');
+        addPart(text, node.parts.front(), node.kind, wording);
         return;
     case FilterNode::all:
     case FilterNode::any:
         for (std::size_t part = 0; part < node.parts.size(); ++part) {
             if (part > 0)
-                text += QLatin1String(node.kind == FilterNode::all ? " and " : " or ");
-            addPart(text, node.parts[part], node.kind);
+                text += QLatin1Char(' ') + (node.kind == FilterNode::all ? wording.all : wording.any) +
+                        QLatin1Char(' ');
+            addPart(text, node.parts[part], node.kind, wording);
         }
     }
 }
@@ -192,9 +190,18 @@ bool holdsTimes(const FilterColumn& column)
 
 QString Filter::text() const
 {
+    const auto nameText = [](const FilterColumn& column) {
+        const std::string_view name = nameOf(column);
+        return QString::fromLatin1(name.data(), static_cast<int>(name.size()));
+    };
+    return text({nameText, keptNumber, QStringLiteral("and"), QStringLiteral("or"), QStringLiteral("not")});
+}
+
+QString Filter::text(const FilterWording& wording) const
+{
     QString text;
     if (root)
-        addText(text, *root);
+        addText(text, *root, wording);
     return text;
 }
 

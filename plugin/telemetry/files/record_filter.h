@@ -6,12 +6,14 @@
 //
 //     Filter filter = *parseFilter(typed, names).filter;
 //     filter.text()                        "Code = 35 and StateU_Ain3 < 9"
+//     filter.text(wording)                 the same in other words
 //     passing(filter, columns)             the records, in their order, from the first or a later one on
 
 #include "telemetry/files/record_columns.h"
 
 #include <QString>
 
+#include <functional>
 #include <variant>
 
 namespace vlk {
@@ -44,12 +46,24 @@ struct FilterNode
     bool operator==(const FilterNode&) const = default;
 };
 
+// How a filter is written.
+struct FilterWording
+{
+    std::function<QString(const FilterColumn&)> name;
+    std::function<QString(const FilterColumn&, double)> number;
+    QString all; // what stands between conditions that have to be met together
+    QString any;
+    QString negation;
+};
+
 struct Filter
 {
     std::optional<FilterNode> root; // none lets everything pass
 
     bool empty() const { return !root; }
+    // As it is kept.
     QString text() const;
+    QString text(const FilterWording& wording) const;
 
     bool operator==(const Filter&) const = default;
 };

@@ -2,6 +2,8 @@
 
 #include "link/device.h"
 #include "link/requests.h"
+#include "telemetry/files/filter_nodes.h"
+#include "telemetry/view/filter_in_words.h"
 #include "telemetry/view/latest_filters.h"
 #include "telemetry/view/records_model.h"
 #include "typing/field_mark.h"
@@ -26,6 +28,7 @@ namespace vlk {
 namespace {
 
 constexpr const char* kLanguages[] = {"ru", "en"};
+constexpr double kHalfAnHour = 1800; // seconds
 
 // Enter on what is offered takes that; Down asks for what was applied before.
 class FilterLine : public QLineEdit
@@ -126,10 +129,17 @@ const FilterNames& FilterField::names()
         const TextsFrom other(source);
         names_->addTexts();
     }
+    QStringList heads;
     for (int column = 0; column < model_->columnCount(); ++column) {
-        if (const CsvColumn* const known = model_->columnAt(column))
-            names_->add(model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(), known->item);
+        const CsvColumn* const known = model_->columnAt(column);
+        if (known == nullptr)
+            continue;
+        heads << (model_->kind(column) == CellKind::time
+                      ? headingText(*known)
+                      : model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
+        names_->add(heads.last(), known->item);
     }
+    names_->offerFirst(heads);
     const std::vector<quint32>& codes = shown_->columns().codes();
     for (const quint32 code : std::set<quint32>(codes.begin(), codes.end())) {
         const QString event = requests::eventText(static_cast<int>(code));
@@ -211,13 +221,22 @@ void FilterField::offerLatest()
 {
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    for (const QString& filter : latestFilters())
-        menu->addAction(filter, this, [this, filter] { apply(filter); });
+    for (const QString& kept : latestFilters()) {
+        const ParsedFilter parsed = parseFilter(kept, names(), shown_->utcOffset());
+        const QString filter = parsed.filter ? inWords(*parsed.filter) : kept;
+        menu->addAction(QString(filter).replace(QLatin1Char('&'), QLatin1String("&&")), this,
+                        [this, filter] { apply(filter); });
+    }
     if (menu->isEmpty())
         menu->addAction(tr("rec_301"))->setEnabled(false);
     menu->setMinimumWidth(line_->width());
     menu->popup(line_->mapToGlobal(line_->rect().bottomLeft()));
     menu->setActiveAction(menu->actions().front());
+}
+
+QString FilterField::inWords(const Filter& filter)
+{
+    return filterInWords(filter, names(), *model_, shown_->utcOffset());
 }
 
 QString FilterField::conditionOf(int record, int column)
@@ -229,14 +248,16 @@ QString FilterField::conditionOf(int record, int column)
     const double number = itemNumber(*raw, known->item, shown_->columns().userTypes());
     if (std::isnan(number))
         return {};
-    const Filter filter{FilterNode{FilterNode::condition, known->item, Comparison::equal, number, {}}};
-    // As a person would type it, where that says the same.
-    const CellKind kind = model_->kind(column);
-    const bool isWord = kind == CellKind::words || kind == CellKind::event;
-    const QString typed = QStringLiteral("%1 = %2").arg(
-        headingText(*known), isWord ? QStringLiteral("\"%1\"").arg(model_->text(record, column))
-                                    : model_->textToCopy(record, column));
-    return parseFilter(typed, names(), shown_->utcOffset()).filter == filter ? typed : filter.text();
+    const ItemIndex item = model_->kind(column) == CellKind::time ? vlk::item("Time") : known->item;
+    return inWords({nodes::condition(item, Comparison::equal, number)});
+}
+
+QString FilterField::hourAround(int record)
+{
+    const double time = shown_->columns().times()[record];
+    if (time < kHalfAnHour)
+        return {};
+    return inWords({nodes::inside(item("Time"), {time - kHalfAnHour, time + kHalfAnHour})});
 }
 
 void FilterField::tell(const std::function<QString()>& fault)

@@ -38,6 +38,8 @@ public:
     bool giveBack();
     // The cell as a condition.
     QString conditionOf(int record, int column);
+    // From half an hour before the record to half an hour behind it; empty where it has no time.
+    QString hourAround(int record);
     void retranslate();
 
 Q_SIGNALS:
@@ -50,6 +52,7 @@ private:
     void offerLatest();
     void tell(const std::function<QString()>& fault);
     const FilterNames& names();
+    QString inWords(const Filter& filter);
 
     ShownRecords* shown_;
     RecordsModel* model_;

@@ -43,6 +43,8 @@ void fillRecordsMenu(QMenu& menu, const RecordsMenuParts& parts)
     const QString condition = parts.filter->conditionOf(record, column);
     add(menu, "rec_063", "", !condition.isEmpty(),
         [filter = parts.filter, condition] { filter->apply(condition); });
+    const QString hour = parts.filter->hourAround(record);
+    add(menu, "rec_425", "", !hour.isEmpty(), [filter = parts.filter, hour] { filter->apply(hour); });
     add(menu, "rec_064", "Return", true,
         [table = parts.table, record] { Q_EMIT table->recordOpened(record); });
     menu.addSeparator();

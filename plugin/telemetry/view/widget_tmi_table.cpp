@@ -167,7 +167,9 @@ void VLK_Widget_Tmi_Table::addKeys()
     // Not every keyboard has a key for it.
     connect(onTable(QStringLiteral("Shift+F10")), &QShortcut::activated, table_, &RecordsTable::askMenu);
     new AreaKeys(this, [this]() -> std::vector<QWidgetList> {
-        return {{filter_}, {places_}, {findBar_}, {columnsButton_, exportButton_, helpButton_}};
+        QWidget* const curves = places_->widget(0);
+        return {{filter_->focusProxy()},        {table_},   {places_->views()},
+                {curves->focusProxy(), curves}, {findBar_}, {columnsButton_, exportButton_, helpButton_}};
     });
 }
 
