@@ -311,6 +311,8 @@ private Q_SLOTS:
                                                  qPrintable(QStringLiteral("radioButton_What%1").arg(what)))
                 ->click();
             auto* forms = ScriptedHost::child<QComboBox>(dialog, "comboBox_Form");
+            QTest::keyClick(dialog->focusWidget(), Qt::Key_Tab);
+            QCOMPARE(dialog->focusWidget(), forms);
             forms->setCurrentIndex(forms->findData(static_cast<int>(form)));
             QCOMPARE(ScriptedHost::child<QWidget>(dialog, "comboBox_Sign")->isEnabled(),
                      rowOf(form).hasDecimalSign);
