@@ -88,6 +88,7 @@ private Q_SLOTS:
     void comparesTwoMoments();
     void marksWhatWasFound();
     void showsWhatThereIs();
+    void tellsStatesWithoutRoom();
     void choosesCurvesAndKeepsThem();
     void handsOver();
     void printsAsItShows();
@@ -290,6 +291,21 @@ void TestCurves::comparesTwoMoments()
     key(Qt::Key_Escape);
     QCOMPARE(line().count(QLatin1Char('|')), 0);
     QCOMPARE(records_->current(), 2220);
+    // Of two A can go alone, and B tells its whole moment then.
+    key(Qt::Key_B);
+    records_->setCurrent(2223);
+    key(Qt::Key_A);
+    key(Qt::Key_Delete);
+    QVERIFY2(line().startsWith(QLatin1String("B 18.11.2026 21:31:30 ")), qPrintable(line()));
+    QCOMPARE(records_->current(), 2223);
+    key(Qt::Key_Left);
+    QVERIFY2(line().startsWith(QLatin1String("B 18.11.2026 21:31:00 ")), qPrintable(line()));
+    key(Qt::Key_A);
+    key(Qt::Key_Left);
+    QCOMPARE(line().count(QLatin1Char('|')), 2);
+    key(Qt::Key_Escape);
+    QCOMPARE(line().count(QLatin1Char('|')), 0);
+    records_->setCurrent(2220);
     // A goes too, by key or button, and comes back where the user goes next.
     key(Qt::Key_Delete);
     QVERIFY(line().isEmpty());
@@ -298,6 +314,8 @@ void TestCurves::comparesTwoMoments()
     QTest::keyClick(view_->findChild<QToolButton*>(QStringLiteral("toolButton_CursorA")), Qt::Key_Space);
     QVERIFY(line().isEmpty());
     key(Qt::Key_B);
+    QVERIFY(line().startsWith(QLatin1String("B ")));
+    key(Qt::Key_A);
     QCOMPARE(line().count(QLatin1Char('|')), 2);
 }
 
@@ -339,6 +357,28 @@ void TestCurves::showsWhatThereIs()
     QTest::keyClick(presets, Qt::Key_Home);
     QVERIFY(legend->accessibleDescription().startsWith(QLatin1String("Tank, l; ")));
     QCOMPARE(line().section(QLatin1Char(' '), 3), QStringLiteral("250.5%1l").arg(QChar(QChar::Nbsp)));
+}
+
+void TestCurves::tellsStatesWithoutRoom()
+{
+    open(truckRecords(3000));
+    auto* const all = view_->findChild<QToolButton*>(QStringLiteral("toolButton_AllStates"));
+    QVERIFY(!all->isVisible());
+    // Nor do their names where the window is narrow: they go below the buttons.
+    const auto* const legend = view_->findChild<QWidget*>(QStringLiteral("legend_Curves"));
+    QVERIFY(legend->isVisible());
+    view_->resize(340, 400);
+    QCoreApplication::processEvents();
+    QVERIFY(!legend->isVisible());
+    view_->resize(900, 120);
+    QCoreApplication::processEvents();
+    QVERIFY(all->isVisible());
+    QVERIFY(!all->toolTip().isEmpty());
+    const int few = plot_->height();
+    QTest::keyClick(all, Qt::Key_Space);
+    QCoreApplication::processEvents();
+    QCOMPARE(all->text(), QStringLiteral("rec_413"));
+    QVERIFY2(plot_->height() < few, "no room was made for them");
 }
 
 void TestCurves::choosesCurvesAndKeepsThem()

@@ -47,6 +47,14 @@ int BandsStrip::bandCount() const
     return std::clamp(static_cast<int>(model_->bands().size()), 0, std::max(room, kFewestBands));
 }
 
+QStringList BandsStrip::leftOut() const
+{
+    QStringList titles;
+    for (std::size_t band = static_cast<std::size_t>(bandCount()); band < model_->bands().size(); ++band)
+        titles << model_->bands()[band].title;
+    return titles;
+}
+
 void BandsStrip::setMostHeight(int height)
 {
     mostHeight_ = height;

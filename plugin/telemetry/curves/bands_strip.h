@@ -21,6 +21,8 @@ public:
 
     // At most so high: bands that have no room are left out, the last ones first.
     void setMostHeight(int height);
+    // The titles of those.
+    QStringList leftOut() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -79,6 +79,18 @@ std::vector<QRect> CurveLegend::places(int width) const
     return places;
 }
 
+// Whichever of the curves is the focused one.
+int CurveLegend::widthOfAll() const
+{
+    QFont font = this->font();
+    font.setWeight(QFont::DemiBold);
+    const QFontMetrics metrics(font);
+    int width = 0;
+    for (int place = 0; place < static_cast<int>(model_->curves().size()); ++place)
+        width += kSampleWidth + kSampleMargin + metrics.horizontalAdvance(textOf(place)) + kEntryMargin;
+    return width;
+}
+
 QSize CurveLegend::sizeHint() const
 {
     return {0, fontMetrics().height() + kLegendPadding};

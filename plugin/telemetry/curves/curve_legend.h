@@ -17,6 +17,8 @@ public:
     // Wrapped, the entries take as many lines as they need at the width that it was given.
     CurveLegend(CurvesModel* model, bool isWrapped, QWidget* parent = nullptr);
 
+    // That the entries need on one line.
+    int widthOfAll() const;
     QSize sizeHint() const override;
     int heightForWidth(int width) const override;
 

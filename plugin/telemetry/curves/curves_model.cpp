@@ -272,11 +272,8 @@ void CurvesModel::setFocused(int curve)
 void CurvesModel::setMoving(Cursor which)
 {
     moving_ = which;
-    for (const Cursor each : {Cursor::a, which}) {
-        int& record = cursors_[static_cast<std::size_t>(each)];
-        if (record < 0)
-            record = records_->current();
-    }
+    if (int& record = cursors_[static_cast<std::size_t>(which)]; record < 0)
+        record = records_->current();
     records_->setCurrent(cursor(which));
     Q_EMIT cursorsChanged();
 }
@@ -285,10 +282,11 @@ bool CurvesModel::endCursor(Cursor which)
 {
     if (cursor(which) < 0)
         return false;
-    moving_ = Cursor::a;
-    cursors_ = {which == Cursor::b ? cursor(Cursor::a) : -1, -1};
-    // A stays where it is, and is again what is looked at.
-    records_->setCurrent(cursor(Cursor::a));
+    const Cursor other = which == Cursor::a ? Cursor::b : Cursor::a;
+    cursors_[static_cast<std::size_t>(which)] = -1;
+    moving_ = cursor(other) >= 0 ? other : Cursor::a;
+    // The other one stays where it is, and is again what is looked at.
+    records_->setCurrent(cursor(moving_));
     Q_EMIT cursorsChanged();
     return true;
 }
@@ -298,7 +296,7 @@ QString CurvesModel::cursorText(Cursor which) const
     const std::vector<quint32>& times = records_->columns().times();
     const int record = cursor(which);
     QString moment(kAbsentMark);
-    if (times[record] != 0 && which == Cursor::b)
+    if (times[record] != 0 && which == Cursor::b && cursor(Cursor::a) >= 0)
         moment = momentText(times[record], times[cursor(Cursor::a)], records_->utcOffset());
     else if (times[record] != 0)
         moment = momentText(times[record], records_->utcOffset());
@@ -312,11 +310,9 @@ QString CurvesModel::cursorLine() const
 {
     const int a = cursor(Cursor::a);
     const int b = cursor(Cursor::b);
-    if (a < 0)
-        return {};
+    if (a < 0 || b < 0)
+        return a >= 0 ? cursorText(Cursor::a) : b >= 0 ? cursorText(Cursor::b) : QString();
     QString line = cursorText(Cursor::a);
-    if (b < 0)
-        return line;
     const std::vector<quint32>& times = records_->columns().times();
     line += QLatin1String(" | ") + cursorText(Cursor::b);
     QStringList differences;

@@ -73,7 +73,7 @@ public:
     int cursor(Cursor which) const { return cursors_[static_cast<std::size_t>(which)]; }
     Cursor moving() const { return moving_; }
     void setMoving(Cursor which);
-    // Takes it away, and with A also B, which is told from there; A is back at the next record that is looked
+    // Takes it away; the other one moves then. Without either, A is back at the next record that is looked
     // at. False where there is none.
     bool endCursor(Cursor which);
 

@@ -15,6 +15,7 @@
 #include <QHBoxLayout>
 #include <QImage>
 #include <QLabel>
+#include <QLocale>
 #include <QMenu>
 #include <QPainter>
 #include <QPushButton>
@@ -26,6 +27,8 @@ namespace vlk {
 namespace {
 
 constexpr int kLeastPlot = 60;
+constexpr int kToolSpacing = 8;
+constexpr int kSideMargin = 6;
 constexpr QSize kCurvesSize(640, 240);
 constexpr int kStripShare = 4; // of the height, one in
 
@@ -38,8 +41,10 @@ CurvesView::CurvesView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
       cursorA_(namedWidget<QToolButton>("toolButton_CursorA", this)),
       cursorB_(namedWidget<QToolButton>("toolButton_CursorB", this)),
       handOverMenu_(namedWidget<QPushButton>("pushButton_HandOverCurves", this)),
+      legend_(new CurveLegend(model_, false, this)), longLegend_(new CurveLegend(model_, true, this)),
       plot_(new CurvesPlot(model_, this)), strip_(new BandsStrip(model_, plot_, this)),
-      line_(namedWidget<QLabel>("label_Cursors", this)), chosen_(chosenCurves())
+      line_(namedWidget<QLabel>("label_Cursors", this)),
+      allStates_(namedWidget<QToolButton>("toolButton_AllStates", this)), chosen_(chosenCurves())
 {
     plot_->setObjectName(QStringLiteral("plot_Curves"));
     plot_->setMinimumHeight(kLeastPlot);
@@ -53,23 +58,33 @@ CurvesView::CurvesView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
     }
     cursorA_->setText(QStringLiteral("A"));
     cursorB_->setText(QStringLiteral("B"));
-    auto* const legend = new CurveLegend(model_, false, this);
-    legend->setObjectName(QStringLiteral("legend_Curves"));
+    legend_->setObjectName(QStringLiteral("legend_Curves"));
+    QSizePolicy kept = legend_->sizePolicy();
+    kept.setRetainSizeWhenHidden(true);
+    legend_->setSizePolicy(kept);
     auto* const tools = new QHBoxLayout;
-    tools->setSpacing(8);
+    tools->setSpacing(kToolSpacing);
     tools->addWidget(presets_);
     tools->addWidget(choose_);
-    tools->addWidget(legend, 1);
+    tools->addWidget(legend_, 1);
     tools->addWidget(cursorA_);
     tools->addWidget(cursorB_);
     tools->addWidget(handOverMenu_);
     auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(6, 0, 6, 0);
+    layout->setContentsMargins(kSideMargin, 0, kSideMargin, 0);
     layout->setSpacing(2);
     layout->addLayout(tools);
+    layout->addWidget(longLegend_);
     layout->addWidget(plot_, 1);
     layout->addWidget(strip_);
-    layout->addWidget(line_);
+    auto* const told = new QHBoxLayout;
+    told->setSpacing(kToolSpacing);
+    told->addWidget(line_, 1);
+    told->addWidget(allStates_);
+    layout->addLayout(told);
+    allStates_->setCheckable(true);
+    allStates_->setAutoRaise(true);
+    allStates_->setFocusPolicy(Qt::TabFocus);
     setFocusProxy(plot_);
 
     connect(presets_, qOverload<int>(&QComboBox::activated), this, [this](int index) {
@@ -77,6 +92,7 @@ CurvesView::CurvesView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
         keepChosen(index);
     });
     connect(choose_, &QPushButton::clicked, this, &CurvesView::choose);
+    connect(allStates_, &QToolButton::toggled, this, &CurvesView::fitStates);
     // A second press takes it away.
     for (const auto& [button, which] : {std::pair(cursorA_, Cursor::a), std::pair(cursorB_, Cursor::b)})
         connect(button, &QToolButton::clicked, this, [this, which = which] {
@@ -104,7 +120,34 @@ QSize CurvesView::sizeHint() const
 
 void CurvesView::resizeEvent(QResizeEvent*)
 {
+    fitStates();
+    fitLegend();
+}
+
+// Names that have no room beside the buttons stand below them, whole.
+void CurvesView::fitLegend()
+{
+    const int taken = presets_->sizeHint().width() + choose_->sizeHint().width() +
+                      cursorA_->sizeHint().width() + cursorB_->sizeHint().width() +
+                      handOverMenu_->sizeHint().width() + 5 * kToolSpacing;
+    const bool hasRoom = legend_->widthOfAll() <= contentsRect().width() - taken - 2 * kSideMargin;
+    legend_->setVisible(hasRoom);
+    longLegend_->setHidden(hasRoom);
+}
+
+// Low curves have no room for all states: what is missing is told, and comes where the user wants it.
+void CurvesView::fitStates()
+{
     strip_->setMostHeight(height() / kStripShare);
+    const QStringList leftOut = strip_->leftOut();
+    if (allStates_->isChecked())
+        strip_->setMostHeight(QWIDGETSIZE_MAX);
+    allStates_->setHidden(leftOut.isEmpty());
+    if (leftOut.isEmpty())
+        return;
+    allStates_->setText(allStates_->isChecked() ? tr("rec_413")
+                                                : tr("rec_412").arg(QLocale().toString(leftOut.size())));
+    allStates_->setToolTip(leftOut.join(QLatin1String(", ")));
 }
 
 void CurvesView::setTitle(const QString& title)
@@ -225,6 +268,8 @@ void CurvesView::choose()
 
 void CurvesView::refresh()
 {
+    fitStates();
+    fitLegend();
     line_->setText(model_->cursorLine());
     plot_->setAccessibleDescription(line_->text());
     for (const auto& [button, which] : {std::pair(cursorA_, Cursor::a), std::pair(cursorB_, Cursor::b)}) {

@@ -15,6 +15,7 @@ class QToolButton;
 namespace vlk {
 
 class BandsStrip;
+class CurveLegend;
 class CurvesModel;
 class CurvesPlot;
 class HandOver;
@@ -55,6 +56,8 @@ private:
     bool showChosen();
     void choose();
     void refresh();
+    void fitStates();
+    void fitLegend();
     void keepInSight(int record);
     void askPicture();
     void askTable();
@@ -69,9 +72,12 @@ private:
     QToolButton* cursorA_;
     QToolButton* cursorB_;
     QPushButton* handOverMenu_;
+    CurveLegend* legend_;
+    CurveLegend* longLegend_; // in its place where it is too narrow
     CurvesPlot* plot_;
     BandsStrip* strip_;
     QLabel* line_;
+    QToolButton* allStates_;
     QString title_;
     CurvePreset chosen_; // by the user; empty for none
 };
