@@ -1623,6 +1623,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_372"><translation>No volume can be computed with this calibration table: it gives none for any level of these records.</translation></message>
     <message id="rec_380"><translation>Byte %1: the record before it has no end. Nothing is lost.</translation></message>
     <message id="rec_400"><translation>%1 %2&#160;l is below the noise of the level, %3&#160;l: expect false ones.</translation></message>
+    <message id="rec_410"><translation>first to last chosen row</translation></message>
+    <message id="rec_411"><translation>Choose several rows in the table: with Shift and the arrow keys, or with the mouse.</translation></message>
     <message id="rec_412"><translation>States without room: %1</translation></message>
     <message id="rec_413"><translation>Fewer states</translation></message>
     <message id="rec_424"><translation>not</translation></message>

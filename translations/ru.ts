@@ -1623,6 +1623,8 @@
     <message id="rec_372"><translation>По этой тарировочной таблице объём не вычислить: в ней нет объёма ни для одного уровня из этих записей.</translation></message>
     <message id="rec_380"><translation>Байт %1: у записи перед ним нет конца. Ничего не потеряно.</translation></message>
     <message id="rec_400"><translation>%1 %2&#160;л ниже шума уровня, %3&#160;л: возможны ложные.</translation></message>
+    <message id="rec_410"><translation>от первой до последней выбранной строки</translation></message>
+    <message id="rec_411"><translation>Выберите в таблице несколько строк: стрелками с Shift или мышью.</translation></message>
     <message id="rec_412"><translation>Не поместилось состояний: %1</translation></message>
     <message id="rec_413"><translation>Меньше состояний</translation></message>
     <message id="rec_424"><translation>не</translation></message>

@@ -238,6 +238,18 @@ private Q_SLOTS:
         const Texts texts("rec_050", "%1 %2 %3 %4 %5");
         host_.send(Message::LanguageChanged);
         QCOMPARE(text("label_Sums"), QString("tmizta_158, abbr_011 12.00 15.90 13.950 40"));
+        // The summary is made of the same rows, and of none behind another filter.
+        child<QTabWidget>("tabWidget_Views")->setCurrentWidget(child<QWidget>("widget_Summary"));
+        child<QComboBox>("comboBox_SummaryOver")->setCurrentIndex(2);
+        const auto* summary = child<QTableView>("tableView_Summary")->model();
+        QCOMPARE(summary->index(13, 1).data().toString(), QString("40"));
+        table_->selectRow(1);
+        QTRY_COMPARE(summary->rowCount(), 0);
+        table_->selectAll();
+        QTRY_COMPARE(summary->rowCount(), 16);
+        type("lineEdit_Filter", "Code = 35");
+        pressInFilter(Qt::Key_Return);
+        QTRY_COMPARE(summary->rowCount(), 0);
     }
 
     void language()

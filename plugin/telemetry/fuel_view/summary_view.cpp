@@ -19,7 +19,7 @@ namespace vlk {
 
 namespace {
 
-constexpr const char* kOver[] = {"rec_271", "rec_272", "rec_273"};
+constexpr const char* kOver[] = {"rec_271", "rec_272", "rec_410", "rec_273"};
 
 } // namespace
 
@@ -57,6 +57,7 @@ SummaryView::SummaryView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
     });
     connect(records, &ShownRecords::inSightChanged, this, &SummaryView::refresh);
     connect(records, &ShownRecords::passingChanged, this, &SummaryView::refresh);
+    connect(records, &ShownRecords::chosenChanged, this, &SummaryView::refresh);
     connect(over_, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &SummaryView::refresh);
     retranslate();
 }
@@ -80,11 +81,12 @@ void SummaryView::showEvent(QShowEvent* event)
     refresh();
 }
 
-TimeSpan SummaryView::passing() const
+// From the earliest to the latest of them.
+TimeSpan SummaryView::spanOf(const std::vector<int>& records) const
 {
     const std::vector<quint32>& times = records_.columns().times();
     TimeSpan span{1, 0};
-    for (const int record : records_.passing()) {
+    for (const int record : records) {
         const double time = times[static_cast<std::size_t>(record)];
         if (time != 0)
             span = span.from > span.to ? TimeSpan{time, time}
@@ -95,7 +97,8 @@ TimeSpan SummaryView::passing() const
 
 void SummaryView::tellEmpty()
 {
-    empty_->tell(tr(records_.isBeingRead() ? "rec_371" : "rec_293"));
+    const bool isToBeChosen = over_->currentIndex() == Chosen && records_.chosen().empty();
+    empty_->tell(tr(records_.isBeingRead() ? "rec_371" : isToBeChosen ? "rec_411" : "rec_293"));
 }
 
 void SummaryView::refresh()
@@ -109,7 +112,9 @@ void SummaryView::refresh()
     if (over == Days) {
         model_->setDays(journey_->days(records_.utcOffset()), records_.utcOffset());
     } else {
-        const TimeSpan span = over == Passing ? passing() : records_.inSight();
+        const TimeSpan span = over == Passing  ? spanOf(records_.passing())
+                              : over == Chosen ? spanOf(records_.chosen())
+                                               : records_.inSight();
         model_->setSelection(journey_->summary(span.from, span.to), records_.utcOffset());
     }
     table_->resizeColumnsToContents();

@@ -1,7 +1,7 @@
 #pragma once
 
 // What the vehicle did, in figures: over the time in sight, from the first to the last record that passes the
-// filter, or on each day.
+// filter or that is chosen in the table, or on each day.
 
 #include "telemetry/fuel/journey.h"
 #include "telemetry/view/shown_records.h"
@@ -37,12 +37,12 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    enum Over { InSight, Passing, Days };
+    enum Over { InSight, Passing, Chosen, Days };
 
     void forget();
     void refresh();
     void tellEmpty();
-    TimeSpan passing() const;
+    TimeSpan spanOf(const std::vector<int>& records) const;
 
     ShownRecords& records_;
     NumberColumn litres_;

@@ -46,20 +46,16 @@ QString selectionText(const RecordsModel& model, const RecordsTable& table)
     return text;
 }
 
-QString sumsText(const RecordsModel& model, const RecordsTable& table, ShownRecords& shown)
+QString sumsText(const RecordsModel& model, int column, ShownRecords& shown)
 {
-    const int column = table.currentIndex().column();
     if (model.columnAt(column) == nullptr || model.kind(column) != CellKind::number)
-        return {};
-    const std::vector<int> records = table.selectedRecords();
-    if (records.size() < 2)
         return {};
     const NumberColumn& numbers = shown.columns().numbers(model.columnAt(column)->item);
     double least = std::numeric_limits<double>::infinity();
     double greatest = -least;
     double sum = 0;
     int count = 0;
-    for (const int record : records) {
+    for (const int record : shown.chosen()) {
         if (!std::isfinite(numbers[record]))
             continue;
         least = std::min(least, numbers[record]);

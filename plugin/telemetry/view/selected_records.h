@@ -18,9 +18,8 @@ inline constexpr std::size_t kMostCopied = 100'000;
 // Heads and cells of the columns on show, with a tab between them, each row on a line.
 QString selectionText(const RecordsModel& model, const RecordsTable& table);
 
-// Of the column with the current cell over the selected rows: least, greatest and mean. Empty where there
-// are no numbers, or less than two rows.
-QString sumsText(const RecordsModel& model, const RecordsTable& table, ShownRecords& shown);
+// Of a column over the chosen rows: least, greatest and mean. Empty where there are no numbers.
+QString sumsText(const RecordsModel& model, int column, ShownRecords& shown);
 
 // "56.500000, 37.250000"; with `link` "geo:56.500000,37.250000". Empty where the record tells no place.
 QString placeText(const RecordsModel& model, int record, bool link);

@@ -18,6 +18,7 @@ void ShownRecords::setContents(std::shared_ptr<TelemetryContents> contents, Read
     passing_.resize(times.size());
     std::iota(passing_.begin(), passing_.end(), 0);
     passes_ = {};
+    chosen_.clear();
     byTime_.clear();
     std::ranges::copy_if(passing_, std::back_inserter(byTime_),
                          [&](int record) { return times[record] != 0; });
@@ -78,6 +79,14 @@ void ShownRecords::setPassing(std::vector<int> records, Passes passes)
         return;
     passing_ = std::move(records);
     Q_EMIT passingChanged();
+}
+
+void ShownRecords::setChosen(std::vector<int> records)
+{
+    if (chosen_ == records)
+        return;
+    chosen_ = std::move(records);
+    Q_EMIT chosenChanged();
 }
 
 void ShownRecords::setCurrent(int record)

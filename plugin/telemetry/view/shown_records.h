@@ -80,6 +80,10 @@ public:
     using Passes = std::function<bool(int record)>;
     void setPassing(std::vector<int> records, Passes passes = {});
 
+    // Several rows of the table that the user chose; empty for one or none.
+    const std::vector<int>& chosen() const { return chosen_; }
+    void setChosen(std::vector<int> records);
+
     // -1 without records.
     int current() const { return current_; }
     void setCurrent(int record);
@@ -99,6 +103,7 @@ public:
 Q_SIGNALS:
     void contentsChanged();
     void passingChanged();
+    void chosenChanged();
     void currentChanged(int record);
     void inSightChanged();
     void recordsAdded(int first);
@@ -112,6 +117,7 @@ private:
     TimeSpan wholeTime_;
     std::vector<int> passing_;
     Passes passes_;
+    std::vector<int> chosen_;
     std::vector<int> byTime_;
     int current_ = -1;
     TimeSpan inSight_;

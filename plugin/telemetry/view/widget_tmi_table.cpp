@@ -97,6 +97,7 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
     sums->setInterval(0);
     connect(sums, &QTimer::timeout, this, &VLK_Widget_Tmi_Table::showSums);
     const auto showSoon = [sums] { sums->start(); };
+    connect(model_, &QAbstractItemModel::modelReset, sums, showSoon);
     connect(table_->selectionModel(), &QItemSelectionModel::currentChanged, sums, showSoon);
     connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, sums, showSoon);
     connect(table_, &RecordsTable::menuWanted, this, &VLK_Widget_Tmi_Table::showMenu);
@@ -303,7 +304,8 @@ void VLK_Widget_Tmi_Table::showCount()
 
 void VLK_Widget_Tmi_Table::showSums()
 {
-    sums_->setText(sumsText(*model_, *table_, *shown_));
+    shown_->setChosen(table_->areSeveralSelected() ? table_->selectedRecords() : std::vector<int>());
+    sums_->setText(sumsText(*model_, table_->currentIndex().column(), *shown_));
 }
 
 void VLK_Widget_Tmi_Table::showMenu(const QPoint& globalPlace)

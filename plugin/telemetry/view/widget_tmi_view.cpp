@@ -167,6 +167,8 @@ void VLK_Widget_Tmi_View::showSaved(const std::shared_ptr<TelemetryContents>& pe
     const bool isPresent = last >= 0 && period->records.at(last)->number() >= highestNumber_;
     growing_ = isPresent ? period : nullptr;
     showPeriod_ = [this, period, name = QFileInfo(path).fileName()] {
+        // The zone may have been chosen anew since.
+        period->records.setUtcOffset(times_.offset());
         Q_EMIT recordsWanted(period, name, period == growing_);
     };
     notices_->tell(kSaved, [count = period->records.size(), show = showPeriod_] {
