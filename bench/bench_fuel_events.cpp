@@ -55,8 +55,9 @@ void fuelEventsOfAYear(benchmark::State& state)
         state, "x column",
         [&] {
             const NumberColumn litres = tankLitres(columns, tanks);
-            benchmark::DoNotOptimize(levelNoise(columns, litres));
-            found = findFuelEvents(columns, litres, {}).size();
+            const std::vector<LevelMedian> medians = levelMedians(columns, litres);
+            benchmark::DoNotOptimize(levelNoise(medians));
+            found = findFuelEvents(columns, medians, {}).size();
         },
         [&] { benchmark::DoNotOptimize(RecordColumns(records).numbers(item("LevelRS485_1")).data()); });
     state.counters["events"] = static_cast<double>(found);

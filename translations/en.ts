@@ -1428,6 +1428,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_300"><translation>%1 stands where PATH=VALUE is needed: settings first, then files</translation></message>
     <message id="cli_301"><translation>%1 is a file, and its name reads as PATH=VALUE: put -- in front of the files</translation></message>
     <message id="cli_302"><translation>is the table of %1, and is used for %2 as --sensor says</translation></message>
+    <message id="cli_310"><translation>%1 of %2&#160;l is below the noise of the level, %3&#160;l: expect false ones</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>
     <message id="rev_003"><translation>Unknown key, a write drops it</translation></message>
@@ -1556,7 +1557,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_232"><translation>The calibration table has one reading only</translation></message>
     <message id="rec_233"><translation>A row of the calibration table is not a number</translation></message>
     <message id="rec_234"><translation>The readings of the calibration table fall while the volume rises</translation></message>
-    <message id="rec_239"><translation>Choose a fuel level sensor and its calibration table.</translation></message>
+    <message id="rec_239"><translation>Choose a fuel level sensor and its calibration table. The calibration window saves such tables; one can be typed here too.</translation></message>
     <message id="rec_240"><translation>Refuelling</translation></message>
     <message id="rec_241"><translation>Drain</translation></message>
     <message id="rec_242"><translation>What</translation></message>
@@ -1627,6 +1628,10 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_411"><translation>Choose several rows in the table: with Shift and the arrow keys, or with the mouse.</translation></message>
     <message id="rec_412"><translation>States without room: %1</translation></message>
     <message id="rec_413"><translation>Fewer states</translation></message>
+    <message id="rec_414"><translation>Type the calibration table: %1…</translation></message>
+    <message id="rec_415"><translation>%1 has no calibration table, and without one there are no litres. If there is no file of it, type it: the menu of sensors has a line for that.</translation></message>
+    <message id="rec_416"><translation>Save and use</translation></message>
+    <message id="rec_417"><translation>The table cannot be saved as %1.</translation></message>
     <message id="rec_424"><translation>not</translation></message>
     <message id="rec_425"><translation>The hour around this record</translation></message>
     <message id="rev_230"><translation>alarm, alarm zone, temperature threshold, minimum, cold</translation></message>

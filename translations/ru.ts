@@ -1428,6 +1428,7 @@
     <message id="cli_300"><translation>%1 указан там, где нужно ПУТЬ=ЗНАЧЕНИЕ: сначала параметры, затем файлы</translation></message>
     <message id="cli_301"><translation>%1 — файл, а имя читается как ПУТЬ=ЗНАЧЕНИЕ: поставьте перед файлами --</translation></message>
     <message id="cli_302"><translation>это таблица %1, по --sensor применена к %2</translation></message>
+    <message id="cli_310"><translation>%1 %2&#160;л ниже шума уровня, %3&#160;л: возможны ложные</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>
@@ -1556,7 +1557,7 @@
     <message id="rec_232"><translation>В тарировочной таблице только одно показание</translation></message>
     <message id="rec_233"><translation>В тарировочной таблице есть строка без числа</translation></message>
     <message id="rec_234"><translation>Показания в тарировочной таблице падают при росте объёма</translation></message>
-    <message id="rec_239"><translation>Выберите датчик уровня топлива и его тарировочную таблицу.</translation></message>
+    <message id="rec_239"><translation>Выберите датчик уровня топлива и его тарировочную таблицу. Таблицы сохраняет окно тарировки; ввести её можно и здесь.</translation></message>
     <message id="rec_240"><translation>Заправка</translation></message>
     <message id="rec_241"><translation>Слив</translation></message>
     <message id="rec_242"><translation>Что</translation></message>
@@ -1627,6 +1628,10 @@
     <message id="rec_411"><translation>Выберите в таблице несколько строк: стрелками с Shift или мышью.</translation></message>
     <message id="rec_412"><translation>Не поместилось состояний: %1</translation></message>
     <message id="rec_413"><translation>Меньше состояний</translation></message>
+    <message id="rec_414"><translation>Ввести тарировочную таблицу: %1…</translation></message>
+    <message id="rec_415"><translation>Нет тарировочной таблицы: %1. Без неё нет литров. Если нет файла, введите её: в меню датчиков есть для этого строка.</translation></message>
+    <message id="rec_416"><translation>Сохранить и применить</translation></message>
+    <message id="rec_417"><translation>Таблицу не удалось сохранить как %1.</translation></message>
     <message id="rec_424"><translation>не</translation></message>
     <message id="rec_425"><translation>Час вокруг этой записи</translation></message>
     <message id="rev_230"><translation>тревога, температурная тревога, тревожная зона, порог температуры, температурный порог, минимум</translation></message>

@@ -145,6 +145,9 @@ void VLK_Form_Fuel_Sensor::setKindAndName(int kind, const QString& name)
 void VLK_Form_Fuel_Sensor::setParamEditable(bool editable)
 {
     ui_->lineEdit_Param->setReadOnly(!editable);
+    // A level is typed as it is measured: volts have a fraction.
+    if (editable && vlk::fuelKind(kind_).editor == vlk::FuelKind::Editor::Decimal)
+        vlk::takeNumbers(ui_->lineEdit_Param, vlk::kVoltsLimit.top, vlk::kVoltsLimit.decimals);
     vlk::showAsPresent(ui_->lineEdit_Param, !editable);
     // While the sensor says nothing.
     ui_->lineEdit_Param->setPlaceholderText(editable ? QString() : QStringLiteral("–"));

@@ -256,7 +256,8 @@ private Q_SLOTS:
         const RecordStore store = storeOf(records);
         RecordColumns columns(store);
         QStringList told;
-        for (const FuelEvent& event : findFuelEvents(columns, tankLitres(columns, tenfold()), {20, 10})) {
+        for (const FuelEvent& event :
+             findFuelEvents(columns, levelMedians(columns, tankLitres(columns, tenfold())), {20, 10})) {
             told << QStringLiteral("%1@%2").arg(qRound(event.litres())).arg(event.time - kStart);
             QCOMPARE(event.latitude, 60.0);
             QCOMPARE(columns.times()[std::size_t(event.record)], event.time);
@@ -279,7 +280,7 @@ private Q_SLOTS:
         const RecordStore store = storeOf(records);
         RecordColumns columns(store);
         const NumberColumn litres = tankLitres(columns, tenfold());
-        const Journey journey(columns, litres, findFuelEvents(columns, litres, {}));
+        const Journey journey(columns, litres, findFuelEvents(columns, levelMedians(columns, litres), {}));
         const JourneySummary sum = journey.summary(0, 4e9);
         QCOMPARE(sum.records, 102);
         QVERIFY(std::isnan(sum.metres) || std::abs(sum.metres - 55'800) < 100); // a degree at 60° north

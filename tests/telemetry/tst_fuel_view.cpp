@@ -126,6 +126,7 @@ private Q_SLOTS:
         choose(good_);
         QTest::keyClick(table(), Qt::Key_Down);
         records_->setCurrent(5);
+        table()->selectAll();
         for (quint32 i = 40; i < 60; ++i) {
             const QByteArray record = RecordParts{
                 {"NumPage", i + 1},
@@ -136,6 +137,7 @@ private Q_SLOTS:
         }
         QCOMPARE(table()->model()->rowCount(), 2);
         QCOMPARE(table()->currentIndex().row(), 0);
+        QCOMPARE(table()->selectionModel()->selectedRows().size(), 1);
         QTest::mouseClick(view_->findChild<QPushButton*>("pushButton_CopyFuel"), Qt::LeftButton);
         QCOMPARE(QApplication::clipboard()->text().count('\n'), 3);
         QCOMPARE(records_->current(), 5);
@@ -180,6 +182,39 @@ private Q_SLOTS:
         QVERIFY(label->isVisible());
         QCOMPARE(label->text(), news);
         QCOMPARE(table()->model()->rowCount(), rows);
+    }
+
+    // A dialog that is given up leaves no dead end: a table can be typed, with either decimal sign.
+    void typesATable()
+    {
+        rememberFuelFolder(good_);
+        choose({});
+        const auto* news = view_->findChild<QLabel*>("label_FuelNews");
+        QVERIFY(news->isVisible() && news->text().contains("type"));
+        whenOpen<QDialog>([](QDialog& dialog) {
+            const auto press = [&dialog](const char* button) {
+                QTest::keyClick(dialog.findChild<QPushButton*>(button), Qt::Key_Space);
+            };
+            press("pushButton_TakeTable");
+            QVERIFY(dialog.isVisible());
+            QCOMPARE(dialog.findChild<QLabel*>("label_TypedTable")->text(),
+                     QString("The calibration table has no rows"));
+            for (const auto& [volume, level] : {std::pair("0", "0"), {"200,5", "2005"}, {"400", "4000"}}) {
+                QTest::keyClicks(dialog.findChild<QLineEdit*>("lineEdit_Param"), level);
+                auto* line = dialog.findChild<QLineEdit*>("lineEdit_Volume");
+                QTest::keyClicks(line, volume);
+                QTest::keyClick(line, Qt::Key_Return);
+                dialog.findChild<QLineEdit*>("lineEdit_Param")->clear();
+            }
+            press("pushButton_TakeTable");
+            QVERIFY(!dialog.isVisible());
+        });
+        QMenu* menu = view_->findChild<QToolButton*>("toolButton_FuelTanks")->menu();
+        Q_EMIT menu->aboutToShow();
+        menu->actions().last()->trigger();
+        QVERIFY(!news->isVisible());
+        QCOMPARE(view_->litres().front(), 200.5 + (3120 - 2005) / 1995.0 * 199.5);
+        QCOMPARE(table()->model()->rowCount(), 1);
     }
 
     // Its scale ends at 1023, all that is above it is an error.
@@ -260,6 +295,12 @@ private Q_SLOTS:
         records_->setPassing({5, 9});
         QTest::keyClick(over, Qt::Key_Down);
         QCOMPARE(value("Records"), QString("5"));
+        QTest::keyClick(over, Qt::Key_Down);
+        const auto* note = summary.findChild<QLabel*>("label_Empty");
+        QVERIFY(note->isVisible() && note->text().startsWith("Choose several rows"));
+        records_->setChosen({19, 7, 21});
+        QCOMPARE(value("Records"), QString("15"));
+        QCOMPARE(value("Drains: count and l"), QString("1: 61"));
         QTest::keyClick(over, Qt::Key_Down);
         QCOMPARE(model->rowCount(), 2); // midnight in between, by the zone of the records
         QCOMPARE(model->index(0, 13).data(), QVariant("34"));

@@ -51,8 +51,8 @@ private Q_SLOTS:
         for (int seed = kFirstVehicle; seed < kFirstVehicle + kVehicles; ++seed) {
             const DrivenDays driven = drivenDays(seed, kDays, document);
             vlk::RecordColumns columns(driven.records);
-            std::vector<FuelEvent> events =
-                vlk::findFuelEvents(columns, vlk::tankLitres(columns, bothTanks()), kThresholds);
+            std::vector<FuelEvent> events = vlk::findFuelEvents(
+                columns, vlk::levelMedians(columns, vlk::tankLitres(columns, bothTanks())), kThresholds);
             for (const Pour& pour : seenPours(driven.pours, sleeps)) {
                 const auto isOfPour = [&](const FuelEvent& event) {
                     return event.time <= pour.until && event.until >= pour.from &&
@@ -86,10 +86,11 @@ private Q_SLOTS:
         const DrivenDays driven =
             drivenDays(77, kDays, readFile(VLK_SOURCE "/workbench/tracker/factory.xml"));
         vlk::RecordColumns columns(driven.records);
-        const vlk::NumberColumn litres = vlk::tankLitres(columns, bothTanks());
-        const double noise = vlk::levelNoise(columns, litres);
+        const std::vector<vlk::LevelMedian> medians =
+            vlk::levelMedians(columns, vlk::tankLitres(columns, bothTanks()));
+        const double noise = vlk::levelNoise(medians);
         const auto found = [&](double threshold) {
-            return vlk::findFuelEvents(columns, litres, {threshold, threshold}).size();
+            return vlk::findFuelEvents(columns, medians, {threshold, threshold}).size();
         };
         QVERIFY(found(noise) < driven.pours.size() + 5);
         QVERIFY(found(noise / 2) > driven.pours.size() + 50);

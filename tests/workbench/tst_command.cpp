@@ -48,6 +48,13 @@ private Q_SLOTS:
                        QByteArray::number(1704067200 + 60 * i) + "</Time>\r\n<LevelRS485_1>" +
                        (i < 10 ? "3120" : "2510") + "</LevelRS485_1>\r\n</Page>\r\n";
         put("week.xml", drained + "</TMI>\r\n");
+        QByteArray noisy = drained.left(drained.indexOf("<Page"));
+        for (int i = 0; i < 200; ++i)
+            noisy += "<Page type=\"176\" ver=\"30\" format=\"101" + QByteArray(34, '0') +
+                     "1\">\r\n<NumPage>" + QByteArray::number(i) + "</NumPage>\r\n<Time>" +
+                     QByteArray::number(1704067200 + 60 * i) + "</Time>\r\n<LevelRS485_1>" +
+                     QByteArray::number(2510 + i * 7919 % 100) + "</LevelRS485_1>\r\n</Page>\r\n";
+        put("noisy.xml", noisy + "</TMI>\r\n");
         // The same in two files that share a record; the drain is where they part.
         const auto page = [&](int number) {
             return drained.indexOf("<Page",
@@ -172,6 +179,10 @@ private Q_SLOTS:
                  "LevelRS485_1\n",
                  "")
             .row("no drain by that threshold", "fuel --fall 61.5 --table tank.xml week.xml", 0, "", "")
+            .row("a threshold below the noise", "fuel --fall 5 --table tank.xml noisy.xml", 0, "",
+                 "noisy.xml: --fall of 5.0\u00a0l is below the noise of the level, 5.3\u00a0l: expect false "
+                 "ones\n")
+            .row("a threshold above it", "fuel --fall 8 --table tank.xml noisy.xml", 0, "", "")
             .row("no litres", "fuel --fall -1 --table tank.xml week.xml", 2, "",
                  "r7106: --fall takes a number of litres above 0\n" + help)
             .row("a decimal comma", "fuel --fall 61,5 --table tank.xml week.xml", 0, "", "")

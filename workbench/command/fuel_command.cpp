@@ -14,6 +14,7 @@
 #include "telemetry/files/telemetry_reader.h"
 #include "telemetry/fuel/calibration.h"
 #include "telemetry/fuel/fuel_events.h"
+#include "telemetry/fuel/level_noise.h"
 #include "telemetry/fuel/tank_levels.h"
 #include "telemetry/record/record_head.h"
 #include "window/languages.h"
@@ -176,7 +177,9 @@ public:
         const vlk::NumberColumn litres = vlk::tankLitres(columns, tanks_);
         const QString sensor = vlk::elementsOf(tanks_);
         refuseWithoutLevels(litres, sensor);
-        for (const FuelEvent& event : vlk::findFuelEvents(columns, litres, {call_.rise, call_.fall})) {
+        const std::vector<vlk::LevelMedian> medians = vlk::levelMedians(columns, litres);
+        warnOfNoise(files.front(), vlk::levelNoise(medians));
+        for (const FuelEvent& event : vlk::findFuelEvents(columns, medians, {call_.rise, call_.fall})) {
             outcome_.told += eventLine(call_, partOf(event.record).file, sensor, event);
             outcome_.status = std::max<int>(outcome_.status, found);
         }
@@ -255,6 +258,18 @@ private:
             outcome_.status = std::max<int>(outcome_.status, found);
         part.end = records_.size();
         parts_.push_back(std::move(part));
+    }
+
+    // Of thresholds from which false ones come.
+    void warnOfNoise(const File& file, double noise)
+    {
+        for (const auto& [option, litres] :
+             {std::pair("--rise", call_.rise), std::pair("--fall", call_.fall)}) {
+            if (litres < noise)
+                outcome_.complaints +=
+                    complaint(file.name, text("cli_310").arg(QLatin1String(option), fixedNumber(litres, 1),
+                                                             fixedNumber(noise, 1)));
+        }
     }
 
     void refuseWithoutLevels(const vlk::NumberColumn& litres, const QString& sensor)

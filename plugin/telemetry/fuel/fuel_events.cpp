@@ -1,7 +1,6 @@
 #include "telemetry/fuel/fuel_events.h"
 
 #include "telemetry/files/track_points.h"
-#include "telemetry/fuel/level_medians.h"
 
 #include <algorithm>
 #include <array>
@@ -46,8 +45,8 @@ constexpr int kForwards = 1;
 class EventFinder
 {
 public:
-    EventFinder(std::vector<LevelMedian> medians, const FuelThresholds& thresholds)
-        : medians_(std::move(medians)), thresholds_(thresholds), walls_(medians_.size(), false)
+    EventFinder(const std::vector<LevelMedian>& medians, const FuelThresholds& thresholds)
+        : medians_(medians), thresholds_(thresholds), walls_(medians_.size(), false)
     {
         learnBurning();
         burnt_.assign(medians_.size(), 0);
@@ -277,7 +276,7 @@ private:
         return burnt;
     }
 
-    const std::vector<LevelMedian> medians_;
+    const std::vector<LevelMedian>& medians_;
     const FuelThresholds thresholds_;
     std::array<double, 2> burning_{}; // litres a second, standing and moving
     std::vector<double> burnt_;       // up to the middle of each
@@ -301,13 +300,12 @@ void tellPlaces(RecordColumns& columns, std::vector<FuelEvent>& events)
 
 } // namespace
 
-std::vector<FuelEvent> findFuelEvents(RecordColumns& columns, const NumberColumn& litres,
+std::vector<FuelEvent> findFuelEvents(RecordColumns& columns, const std::vector<LevelMedian>& medians,
                                       const FuelThresholds& thresholds)
 {
-    std::vector<LevelMedian> medians = levelMedians(columns, litres);
     if (medians.empty())
         return {};
-    std::vector<FuelEvent> events = EventFinder(std::move(medians), thresholds).find();
+    std::vector<FuelEvent> events = EventFinder(medians, thresholds).find();
     tellPlaces(columns, events);
     return events;
 }

@@ -8,7 +8,7 @@
 // first levels after the ignition went on count nothing, since sensors wake then. Across a gap the fall is
 // what the vehicle can not have burnt.
 
-#include "telemetry/fuel/vehicle_times.h"
+#include "telemetry/fuel/level_medians.h"
 
 namespace vlk {
 
@@ -33,8 +33,8 @@ struct FuelEvent
     double litres() const { return after - before; } // with its sign
 };
 
-// By time. `litres`: one a record.
-std::vector<FuelEvent> findFuelEvents(RecordColumns& columns, const NumberColumn& litres,
+// By time. `medians`: of these records.
+std::vector<FuelEvent> findFuelEvents(RecordColumns& columns, const std::vector<LevelMedian>& medians,
                                       const FuelThresholds& thresholds);
 
 } // namespace vlk

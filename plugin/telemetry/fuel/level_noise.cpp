@@ -1,7 +1,5 @@
 #include "telemetry/fuel/level_noise.h"
 
-#include "telemetry/fuel/level_medians.h"
-
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -33,9 +31,8 @@ bool isOtherState(const LevelMedian& one, const LevelMedian& other)
 
 } // namespace
 
-double levelNoise(RecordColumns& columns, const NumberColumn& litres)
+double levelNoise(const std::vector<LevelMedian>& medians)
 {
-    const std::vector<LevelMedian> medians = levelMedians(columns, litres);
     std::array<std::vector<double>, 2> differences; // standing and moving
     for (auto begin = medians.begin(); begin != medians.end();) {
         const auto last = std::adjacent_find(begin, medians.end(), isOtherState);

@@ -5,8 +5,10 @@
 
 #include <QLocale>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
+#include <ranges>
 
 namespace vlk {
 
@@ -28,7 +30,16 @@ QString sheetNumber(double number, int decimals)
 
 void FuelListModel::set(std::vector<FuelEvent> events, const std::vector<TankSensor>& tanks, qint32 utcOffset)
 {
-    beginResetModel();
+    const auto isSame = [](const FuelEvent& one, const FuelEvent& other) {
+        return one.record == other.record;
+    };
+    const auto known = static_cast<int>(events_.size());
+    const auto found = static_cast<int>(events.size());
+    const bool isLonger = known > 0 && std::ranges::equal(events_, events | std::views::take(known), isSame);
+    if (!isLonger)
+        beginResetModel();
+    else if (found > known)
+        beginInsertRows({}, known, found - 1);
     events_ = std::move(events);
     sensors_.clear();
     utcOffset_ = utcOffset;
@@ -38,7 +49,12 @@ void FuelListModel::set(std::vector<FuelEvent> events, const std::vector<TankSen
         least_ += tank.curve ? tank.curve->leastLitres() : -kInfinite;
         greatest_ += tank.curve ? tank.curve->greatestLitres() : kInfinite;
     }
-    endResetModel();
+    if (!isLonger)
+        return endResetModel();
+    if (found > known)
+        endInsertRows();
+    Q_EMIT dataChanged(index(0, 0), index(known - 1, ColumnCount - 1));
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
 }
 
 void FuelListModel::retranslate()

@@ -18,6 +18,7 @@ public:
 
     using QAbstractTableModel::QAbstractTableModel;
 
+    // Those that are on show already stay where they are if all others come behind them.
     void set(std::vector<FuelEvent> events, const std::vector<TankSensor>& tanks, qint32 utcOffset);
     void retranslate();
     const std::vector<FuelEvent>& events() const { return events_; }

@@ -165,7 +165,8 @@ void FuelView::refreshRecords()
 void FuelView::computeLitres()
 {
     litres_ = tanks_->tanks().empty() ? NumberColumn() : tankLitres(records_.columns(), tanks_->tanks());
-    noise_ = litres_.empty() ? 0 : levelNoise(records_.columns(), litres_);
+    medians_ = litres_.empty() ? std::vector<LevelMedian>() : levelMedians(records_.columns(), litres_);
+    noise_ = levelNoise(medians_);
     find();
 }
 
@@ -175,7 +176,7 @@ void FuelView::find()
         return;
     std::vector<FuelEvent> events;
     if (!litres_.empty())
-        events = findFuelEvents(records_.columns(), litres_, {rise_->value(), fall_->value()});
+        events = findFuelEvents(records_.columns(), medians_, {rise_->value(), fall_->value()});
     setEvents(std::move(events));
     table_->resizeColumnsToContents();
     showState();
@@ -190,7 +191,8 @@ void FuelView::setEvents(std::vector<FuelEvent> found)
     const int record = chosen.isValid() ? events()[static_cast<std::size_t>(chosen.row())].record : -1;
     model_->set(std::move(found), tanks_->tanks(), records_.utcOffset());
     const auto line = std::ranges::find(events(), record, &FuelEvent::record);
-    if (line != events().end())
+    const bool isMoved = line != events().end() && line - events().begin() != table_->currentIndex().row();
+    if (isMoved)
         table_->setCurrentIndex(model_->index(static_cast<int>(line - events().begin()), chosen.column()));
 }
 

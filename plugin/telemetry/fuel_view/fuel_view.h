@@ -91,7 +91,8 @@ private:
     Picture curve_;
     Picture track_;
     NumberColumn litres_;
-    double noise_ = 0; // of them
+    std::vector<LevelMedian> medians_; // of them
+    double noise_ = 0;                 // of them
     bool isRefreshing_ = false;
 };
 

@@ -3,6 +3,7 @@
 #include "fuel/table/fuel_file.h"
 #include "link/device.h"
 #include "telemetry/fuel_view/fuel_texts.h"
+#include "telemetry/fuel_view/typed_table.h"
 #include "telemetry/view/shown_records.h"
 
 #include <QFileDialog>
@@ -94,6 +95,11 @@ void TankButton::fillMenu()
                         Q_EMIT chosen();
                 });
     }
+    for (const LevelSensor* sensor : present_) {
+        if (needsTable(*sensor))
+            connect(menu()->addAction(tr("rec_414").arg(levelSensorCaption(*sensor))), &QAction::triggered,
+                    this, [this, sensor] { typeTable(*sensor); });
+    }
     if (menu()->isEmpty())
         menu()->addAction(tr(isBeingRead_ ? "rec_371" : "rec_258"))->setEnabled(false);
 }
@@ -121,15 +127,38 @@ bool TankButton::askTable(const LevelSensor& sensor)
         !before.isEmpty() ? before : fuelFolder(vlkDevice ? vlkDevice->tmiFolder() : QString());
     const QString path = QFileDialog::getOpenFileName(this, tr("rec_252").arg(levelSensorCaption(sensor)),
                                                       folder, tr("rec_269"));
-    const bool isTaken = !path.isEmpty() && take(sensor, path);
-    if (isTaken) {
-        memory().setTable(vehicle_, element, path);
-        remember();
-    }
+    // Who has no file is told what else there is.
+    if (path.isEmpty() && !isChosen(sensor))
+        news_ = {"rec_415", {}, &sensor};
+    const bool isTaken = !path.isEmpty() && takeFile(sensor, path);
     showState();
-    if (!isTaken && !path.isEmpty())
+    if (!isTaken)
         Q_EMIT chosen();
     return isTaken;
+}
+
+void TankButton::typeTable(const LevelSensor& sensor)
+{
+    FuelRows rows;
+    const auto known =
+        readCalibration(memory().table(vehicle_, QString::fromStdString(std::string(sensor.element()))));
+    if (const auto* const table = std::get_if<Calibration>(&known); table != nullptr && suits(*table, sensor))
+        rows = table->rows;
+    TypedTable dialog(sensor, rows, vehicle_, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    takeFile(sensor, dialog.path());
+    showState();
+    Q_EMIT chosen();
+}
+
+bool TankButton::takeFile(const LevelSensor& sensor, const QString& path)
+{
+    if (!take(sensor, path))
+        return false;
+    memory().setTable(vehicle_, QString::fromStdString(std::string(sensor.element())), path);
+    remember();
+    return true;
 }
 
 bool TankButton::take(const LevelSensor& sensor, const QString& path)
@@ -190,6 +219,8 @@ QString TankButton::news() const
 {
     if (news_.key == nullptr)
         return {};
+    if (news_.sensor != nullptr && news_.first.isEmpty())
+        return tr(news_.key).arg(levelSensorCaption(*news_.sensor));
     return news_.sensor == nullptr ? QStringLiteral("%1: %2").arg(news_.first, tr(news_.key))
                                    : tr(news_.key).arg(news_.first, levelSensorCaption(*news_.sensor));
 }

@@ -42,6 +42,9 @@ private:
     void toggle(const LevelSensor& sensor, bool isOn);
     // False where no table came of it.
     bool askTable(const LevelSensor& sensor);
+    void typeTable(const LevelSensor& sensor);
+    // Takes it and remembers it.
+    bool takeFile(const LevelSensor& sensor, const QString& path);
     bool take(const LevelSensor& sensor, const QString& path);
     void drop(const LevelSensor& sensor);
     void remember();
