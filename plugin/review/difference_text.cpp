@@ -1,5 +1,6 @@
 #include "review/difference_text.h"
 
+#include "base/csv_line.h"
 #include "base/number_text.h"
 #include "base/shown_text.h"
 #include "review/value_text.h"
@@ -96,22 +97,6 @@ QStringList parts(const Digits& row, const QString& text, const QString& other)
     return told;
 }
 
-QString textOf(const Setting& setting, const Held& held, const Held& other, const char* unit)
-{
-    if (!held.isThere)
-        return {};
-    if (!held.isWhole)
-        return rawText(setting, held.text, unit);
-    QStringList told;
-    if (other.isThere) {
-        if (const auto* mask = setting.as<Mask>())
-            told = parts(*mask, held.meaning, other.meaning);
-        else if (const auto* digits = setting.as<Digits>())
-            told = parts(*digits, held.meaning, other.meaning);
-    }
-    return told.isEmpty() ? valueText(setting, held.meaning, unit) : told.join(QStringLiteral(", "));
-}
-
 void mask(DifferenceText* text)
 {
     for (QString* shown : {&text->before, &text->after, &text->beforeText, &text->afterText}) {
@@ -120,17 +105,27 @@ void mask(DifferenceText* text)
     }
 }
 
-QString quoted(QString cell)
-{
-    const bool isPlain = std::none_of(cell.begin(), cell.end(), [](QChar sign) {
-        return sign == QLatin1Char(';') || sign == QLatin1Char('"') || sign < QLatin1Char(' ');
-    });
-    if (isPlain)
-        return cell;
-    return QLatin1Char('"') + cell.replace(QLatin1Char('"'), QLatin1String("\"\"")) + QLatin1Char('"');
-}
-
 } // namespace
+
+QString textBeside(const Setting& setting, const Held& held, const std::vector<Held>& others,
+                   const char* unit)
+{
+    if (!held.isThere)
+        return {};
+    if (!held.isWhole)
+        return rawText(setting, held.text, unit);
+    QStringList told;
+    for (const Held& other : others) {
+        if (!other.isThere)
+            continue;
+        if (const auto* mask = setting.as<Mask>())
+            told += parts(*mask, held.meaning, other.meaning);
+        else if (const auto* digits = setting.as<Digits>())
+            told += parts(*digits, held.meaning, other.meaning);
+    }
+    told.removeDuplicates();
+    return told.isEmpty() ? valueText(setting, held.meaning, unit) : told.join(QStringLiteral(", "));
+}
 
 DifferenceText textOf(const Differences& differences, const Difference& difference, const Values& values,
                       Secrets secrets)
@@ -145,8 +140,8 @@ DifferenceText textOf(const Differences& differences, const Difference& differen
     const char* unit = values.unitKey(difference.row);
     const Held& before = differences.before().at(difference.key);
     const Held& after = differences.after().at(difference.key);
-    text.beforeText = textOf(setting, before, after, unit);
-    text.afterText = textOf(setting, after, before, unit);
+    text.beforeText = textBeside(setting, before, {after}, unit);
+    text.afterText = textBeside(setting, after, {before}, unit);
     if (values.row(difference.row).base->secret && secrets == Secrets::masked)
         mask(&text);
     text.note = translated(noteKey(difference));
@@ -184,14 +179,9 @@ QString toCsv(const std::vector<DifferenceText>& texts)
     QStringList heading;
     for (const char* key : {"rev_014", "rev_015", "rev_016", "rev_017", "rev_018", "rev_019"})
         heading << translated(key);
-    QString csv = heading.join(QLatin1Char(';')) + QStringLiteral("\r\n");
-    for (const DifferenceText& text : texts) {
-        QStringList line;
-        for (const QString* cell :
-             {&text.page, &text.group, &text.caption, &text.beforeText, &text.afterText, &text.note})
-            line << quoted(*cell);
-        csv += line.join(QLatin1Char(';')) + QStringLiteral("\r\n");
-    }
+    QString csv = csvLine(heading);
+    for (const DifferenceText& text : texts)
+        csv += csvLine({text.page, text.group, text.caption, text.beforeText, text.afterText, text.note});
     return csv;
 }
 

@@ -26,6 +26,10 @@ DifferenceText textOf(const Differences& differences, const Difference& differen
 // Of one whose key is -1.
 DifferenceText textOf(const Difference& difference, Secrets secrets = Secrets::masked);
 
+// What a side holds, beside what others do: of a setting of many parts those that differ from any of them.
+QString textBeside(const Setting& setting, const Held& held, const std::vector<Held>& others,
+                   const char* unit);
+
 // One line a difference below a heading; separated by semicolons, quoted where it has to be.
 QString toCsv(const std::vector<DifferenceText>& texts);
 

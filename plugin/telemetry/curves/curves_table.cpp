@@ -1,5 +1,6 @@
 #include "telemetry/curves/curves_table.h"
 
+#include "base/csv_line.h"
 #include "base/translated.h"
 #include "telemetry/curves/curves_model.h"
 #include "telemetry/curves/time_scale.h"
@@ -18,12 +19,6 @@ namespace {
 constexpr int kDigits = 10;
 constexpr int kChunkBytes = 1 << 16;
 
-QByteArray quoted(QString text)
-{
-    text.replace(QLatin1Char('"'), QLatin1String("\"\""));
-    return '"' + text.toUtf8() + '"';
-}
-
 } // namespace
 
 bool writeCurves(QIODevice& device, const CurvesModel& model, const TimeSpan& span)
@@ -32,11 +27,11 @@ bool writeCurves(QIODevice& device, const CurvesModel& model, const TimeSpan& sp
     const bool hasComma = QLocale().decimalPoint() == QLatin1Char(',');
     const char separator = hasComma ? ';' : ',';
     const qint32 offset = records.utcOffset();
-    QByteArray text = quoted(translated("tmizta_123")) + separator +
-                      quoted(QStringLiteral("%1, %2").arg(translated("tmizta_125"), zoneText(offset)));
+    QStringList headings{translated("tmizta_123"),
+                         QStringLiteral("%1, %2").arg(translated("tmizta_125"), zoneText(offset))};
     for (const Curve& curve : model.curves())
-        text += separator + quoted(withUnit(curve.column));
-    text += "\r\n";
+        headings << withUnit(curve.column);
+    QByteArray text = csvLine(headings, separator).toUtf8();
     const std::vector<quint32>& times = records.columns().times();
     const std::vector<quint32>& numbers = records.columns().recordNumbers();
     for (const int record : records.byTime()) {

@@ -1,5 +1,6 @@
 #include "telemetry/files/number_table_writer.h"
 
+#include "base/csv_line.h"
 #include "telemetry/files/column_offsets.h"
 #include "telemetry/files/json_writer.h"
 #include "telemetry/files/number_cells.h"
@@ -121,12 +122,8 @@ private:
     // A text as a cell; tabs and ends of lines have no place in text with tabs.
     QByteArray field(QByteArray text) const
     {
-        if (isCsv_) {
-            const bool isPlain = std::ranges::none_of(text, [this](char sign) {
-                return sign == separator_ || sign == '"' || sign == '\n' || sign == '\r';
-            });
-            return isPlain ? text : '"' + text.replace('"', "\"\"") + '"';
-        }
+        if (isCsv_)
+            return csvCell(text, separator_);
         return text.replace('\\', "\\\\").replace('\t', "\\t").replace('\n', "\\n").replace('\r', "\\r");
     }
 

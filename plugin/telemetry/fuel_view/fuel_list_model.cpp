@@ -1,5 +1,6 @@
 #include "telemetry/fuel_view/fuel_list_model.h"
 
+#include "base/csv_line.h"
 #include "telemetry/fuel_view/fuel_texts.h"
 #include "telemetry/view/record_cell.h"
 

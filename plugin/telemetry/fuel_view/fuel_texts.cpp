@@ -50,17 +50,4 @@ QString hoursText(double seconds)
     return QStringLiteral("%1:%2").arg(minutes / 60).arg(minutes % 60, 2, 10, QLatin1Char('0'));
 }
 
-QString csvLine(const QStringList& cells)
-{
-    QStringList quoted;
-    for (QString cell : cells) {
-        if (cell.contains(QLatin1Char(';')) || cell.contains(QLatin1Char('"')) ||
-            cell.contains(QLatin1Char('\n')))
-            cell =
-                QLatin1Char('"') + cell.replace(QLatin1Char('"'), QStringLiteral("\"\"")) + QLatin1Char('"');
-        quoted << cell;
-    }
-    return quoted.join(QLatin1Char(';')) + QStringLiteral("\r\n");
-}
-
 } // namespace vlk

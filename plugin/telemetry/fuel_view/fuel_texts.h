@@ -16,7 +16,5 @@ QString listDay(double seconds, qint32 utcOffset);
 QString placeText(double latitude, double longitude);
 // "4:05", hours and minutes.
 QString hoursText(double seconds);
-// A line of a CSV file, its cells quoted where they have to be.
-QString csvLine(const QStringList& cells);
 
 } // namespace vlk

@@ -1,5 +1,6 @@
 #include "telemetry/fuel_view/summary_model.h"
 
+#include "base/csv_line.h"
 #include "base/translated.h"
 #include "telemetry/fuel_view/fuel_texts.h"
 #include "telemetry/view/record_cell.h"
