@@ -1165,7 +1165,7 @@
     <message id="cli_037"><translation>%1: %2 is too long</translation></message>
     <message id="cli_038"><translation>%1: this tracker does not offer %2</translation></message>
     <message id="cli_039"><translation>%1: another setting does not allow %2</translation></message>
-    <message id="cli_040"><translation>Path;Setting;File;Value</translation></message>
+    <message id="cli_040"><translation>Path;Setting;File;Value;In words</translation></message>
     <message id="cli_041"><translation>most files, %1</translation></message>
     <message id="cli_052"><translation>File: %1</translation></message>
     <message id="cli_053"><translation>Tracker: %1</translation></message>
@@ -1178,13 +1178,14 @@
     <message id="cli_065"><translation>records: %1</translation></message>
     <message id="cli_066"><translation>from %1 to %2</translation></message>
     <message id="cli_067"><translation>gaps: %1</translation></message>
-    <message id="cli_070"><translation>does not begin as telemetry does</translation></message>
-    <message id="cli_071"><translation>the header is not what was written</translation></message>
-    <message id="cli_072"><translation>no record</translation></message>
-    <message id="cli_073"><translation>the file ends within a record</translation></message>
-    <message id="cli_074"><translation>the records are not what was written</translation></message>
-    <message id="cli_075"><translation>the file tells another count of records</translation></message>
+    <message id="cli_070"><translation>the file does not begin as telemetry does</translation></message>
+    <message id="cli_071"><translation>the header is damaged: its checksum does not fit</translation></message>
+    <message id="cli_072"><translation>no whole record here, bytes passed over: %1</translation></message>
+    <message id="cli_073"><translation>the file is cut short: what begins here has no end</translation></message>
+    <message id="cli_074"><translation>the checksum of the records does not fit: something behind this place is not as it was saved</translation></message>
+    <message id="cli_075"><translation>another number of records is written here than the file holds</translation></message>
     <message id="cli_076"><translation>offset %1: %2</translation></message>
+    <message id="cli_077"><translation>the record before this place has no end, nothing is lost</translation></message>
     <message id="cli_080"><translation>error</translation></message>
     <message id="cli_081"><translation>warning</translation></message>
     <message id="cli_082"><translation>hint</translation></message>
@@ -1428,6 +1429,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_300"><translation>%1 stands where PATH=VALUE is needed: settings first, then files</translation></message>
     <message id="cli_301"><translation>%1 is a file, and its name reads as PATH=VALUE: put -- in front of the files</translation></message>
     <message id="cli_302"><translation>is the table of %1, and is used for %2 as --sensor says</translation></message>
+    <message id="cli_303"><translation>no record has coordinates for a track</translation></message>
     <message id="cli_310"><translation>%1 of %2&#160;l is below the noise of the level, %3&#160;l: expect false ones</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>

@@ -1165,7 +1165,7 @@
     <message id="cli_037"><translation>%1: %2 слишком длинно</translation></message>
     <message id="cli_038"><translation>%1: этот трекер не предлагает %2</translation></message>
     <message id="cli_039"><translation>%1: другой параметр не допускает %2</translation></message>
-    <message id="cli_040"><translation>Путь;Параметр;Файл;Значение</translation></message>
+    <message id="cli_040"><translation>Путь;Параметр;Файл;Значение;Словами</translation></message>
     <message id="cli_041"><translation>большинство файлов, %1</translation></message>
     <message id="cli_052"><translation>Файл: %1</translation></message>
     <message id="cli_053"><translation>Трекер: %1</translation></message>
@@ -1178,13 +1178,14 @@
     <message id="cli_065"><translation>записей: %1</translation></message>
     <message id="cli_066"><translation>с %1 по %2</translation></message>
     <message id="cli_067"><translation>пропусков: %1</translation></message>
-    <message id="cli_070"><translation>начинается не как телеметрия</translation></message>
-    <message id="cli_071"><translation>заголовок не тот, что был записан</translation></message>
-    <message id="cli_072"><translation>здесь нет записи</translation></message>
-    <message id="cli_073"><translation>файл обрывается внутри записи</translation></message>
-    <message id="cli_074"><translation>записи не те, что были записаны</translation></message>
-    <message id="cli_075"><translation>в файле указано другое число записей</translation></message>
+    <message id="cli_070"><translation>файл начинается не так, как файл телеметрии</translation></message>
+    <message id="cli_071"><translation>заголовок повреждён: его контрольная сумма не сходится</translation></message>
+    <message id="cli_072"><translation>целой записи здесь нет, пропущено байт: %1</translation></message>
+    <message id="cli_073"><translation>файл обрывается: у того, что здесь начинается, нет конца</translation></message>
+    <message id="cli_074"><translation>контрольная сумма записей не сходится: что-то после этого места не такое, каким было сохранено</translation></message>
+    <message id="cli_075"><translation>здесь записано другое число записей, чем есть в файле</translation></message>
     <message id="cli_076"><translation>смещение %1: %2</translation></message>
+    <message id="cli_077"><translation>у записи перед этим местом нет конца, ничего не потеряно</translation></message>
     <message id="cli_080"><translation>ошибка</translation></message>
     <message id="cli_081"><translation>предупреждение</translation></message>
     <message id="cli_082"><translation>подсказка</translation></message>
@@ -1428,6 +1429,7 @@
     <message id="cli_300"><translation>%1 указан там, где нужно ПУТЬ=ЗНАЧЕНИЕ: сначала параметры, затем файлы</translation></message>
     <message id="cli_301"><translation>%1 — файл, а имя читается как ПУТЬ=ЗНАЧЕНИЕ: поставьте перед файлами --</translation></message>
     <message id="cli_302"><translation>это таблица %1, по --sensor применена к %2</translation></message>
+    <message id="cli_303"><translation>ни в одной записи нет координат для трека</translation></message>
     <message id="cli_310"><translation>%1 %2&#160;л ниже шума уровня, %3&#160;л: возможны ложные</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>

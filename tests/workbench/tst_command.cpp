@@ -68,6 +68,7 @@ private Q_SLOTS:
         put("falls.xml", "<FUEL type='D1'>" + rows + "<DATA param_U='500' param_V='9'/></TABLE></FUEL>");
         put("volts.xml", "<FUEL type='A3'>" + rows + "</TABLE></FUEL>");
         put("lines.xml", "<DEVICE><X y='a&#10;b'/></DEVICE>");
+        put("spoilt.xml", readFile(path("telemetry.xml")).replace(">1704067201<", ">17x<"));
         put("empty.xml", "");
         put("cut.xml", track.left(60));
         put("secret.xml", "<DEVICE><TRANS><AP1 pass='geheim'/></TRANS></DEVICE>");
@@ -162,6 +163,12 @@ private Q_SLOTS:
                  R"("objectId":null,"records":null,"from":null,"to":null,"gaps":null})"
                  "\n",
                  "")
+            .row("what is damaged", "info --json spoilt.xml", 1,
+                 R"({"file":"spoilt.xml","what":"telemetry","model":"R-7106","name":null,"objectId":null,)"
+                 R"("records":2,"from":"2024-01-01T00:00:00Z","to":"2024-01-01T00:05:00Z","gaps":1,)"
+                 R"("damage":["offset 120: no whole record here, bytes passed over: 91; went on at 211"]})"
+                 "\n",
+                 "spoilt.xml: offset 120: no whole record here, bytes passed over: 91; went on at 211\n")
             .row("a drain", "fuel --json --table tank.xml week.xml", 1,
                  R"({"file":"week.xml","kind":"drain","time":"2024-01-01T00:09:00Z",)"
                  R"("until":"2024-01-01T00:10:00Z","before":312.0,"after":251.0,"litres":-61.0,)"
@@ -205,9 +212,13 @@ private Q_SLOTS:
                  "")
             .row("a fleet of ones", "compare fleet/1.xml fleet/2.xml lines.xml", 1,
                  "TRACK/POINTS/maxSpeed: Track / Always record a track point / Speed threshold\n"
-                 "    90: fleet/1.xml\n    500: fleet/2.xml\n    –: lines.xml\n"
+                 "    90 km/h: fleet/1.xml\n    500 km/h: fleet/2.xml\n    –: lines.xml\n"
                  "TRACK/POINTS/z\n    2: most files, 2\n    –: lines.xml\n"
                  "X/y\n    1: most files, 2\n    a%0Ab: lines.xml\n",
+                 "")
+            .row("a fleet in words", "compare factory.xml motion.xml motion.xml", 1,
+                 "SENSORS/IN1/IN1ADIN/ign: Input lines / Line IN1 / Assign as ignition\n"
+                 "    Yes (1): factory.xml\n    No (0): most files, 2\n",
                  "")
             .row("most lack it", "compare lines.xml secret.xml secret.xml", 1,
                  "TRANS/AP1/pass: Data transfer / GPRS access point / Password\n"
@@ -231,13 +242,11 @@ private Q_SLOTS:
                  "week.xml: holds no fuel level of LevelRS485_2\na.xml: is not telemetry\n"
                  "fleet/3.tmi: is not telemetry\n")
             .row("a fleet as CSV", "compare --csv a.xml b.xml", 1,
-                 "Path;Setting;File;Value\r\n"
-                 "\"TRACK/POINTS/maxSpeed\";\"Track / Always record a track point / Speed "
-                 "threshold\";\"a.xml\";"
-                 "\"90\"\r\n"
-                 "\"TRACK/POINTS/maxSpeed\";\"Track / Always record a track point / Speed "
-                 "threshold\";\"b.xml\";"
-                 "\"100\"\r\n\"X/y\";\"X/y\";\"a.xml\";\"1\"\r\n\"X/y\";\"X/y\";\"b.xml\";\"2\"\r\n",
+                 "Path;Setting;File;Value;In words\r\n"
+                 "TRACK/POINTS/maxSpeed;Track / Always record a track point / Speed threshold;a.xml;90;90 "
+                 "km/h\r\n"
+                 "TRACK/POINTS/maxSpeed;Track / Always record a track point / Speed threshold;b.xml;100;"
+                 "100 km/h\r\nX/y;X/y;a.xml;1;\r\nX/y;X/y;b.xml;2;\r\n",
                  "")
             .row("what standard input is", "info -", 0, "-: configuration, R-7106\n", "")
             .row("whose configuration it is", "info named.xml", 0,
@@ -436,6 +445,22 @@ private Q_SLOTS:
         std::remove(odd.constData());
         QVERIFY2(status == 0 && told.contains(R"("file":"fleet/sub/%FF\n.xml")"),
                  (told + complaints).constData());
+    }
+
+    // All are changed, although nobody reads on what becomes of them.
+    void editsUnread()
+    {
+        QDir(folder_->path()).mkpath("many");
+        for (int i = 0; i < 60; ++i)
+            put(QString("many/%1.xml").arg(i), readFile(path("a.xml")));
+        QProcess shell;
+        shell.setWorkingDirectory(folder_->path());
+        shell.start("bash",
+                    {"-c", "{ " VLK_COMMAND " set TRACK/POINTS/maxSpeed=80 many; echo $? >&2; } | true"});
+        QVERIFY(shell.waitForFinished());
+        QCOMPARE(shell.readAllStandardError(), QByteArray("0\n"));
+        for (int i = 0; i < 60; ++i)
+            QVERIFY(readFile(path(QString("many/%1.xml").arg(i))).contains("maxSpeed='80'"));
     }
 
     // As in the order given, whatever is ready first; the reader may have enough.

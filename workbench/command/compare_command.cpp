@@ -2,6 +2,7 @@
 
 #include "command/commands.h"
 
+#include "base/csv_line.h"
 #include "command/configuration_input.h"
 #include "command/difference_lines.h"
 #include "command/each_file.h"
@@ -21,6 +22,7 @@ namespace workbench::command {
 
 using vlk::review::FileKeys;
 using vlk::review::FileState;
+using vlk::review::Held;
 
 namespace {
 
@@ -31,13 +33,14 @@ class Column
 public:
     static constexpr int lacks = -1;
 
-    void take(std::size_t file, const QString& value)
+    // By its meaning, which is not null.
+    void take(std::size_t file, const Held& value)
     {
-        const auto known = numbers_.constFind(value);
+        const auto known = numbers_.constFind(value.meaning);
         const int number = known == numbers_.constEnd() ? static_cast<int>(values_.size()) : *known;
         if (known == numbers_.constEnd()) {
-            numbers_.insert(value, number);
-            values_ << value;
+            numbers_.insert(value.meaning, number);
+            values_.push_back(value);
         }
         if (held_.empty() && number == 0 && file == same_) {
             ++same_;
@@ -55,12 +58,12 @@ public:
             held_.assign(same_, 0);
         held_.resize(files, lacks);
     }
-    const QStringList& values() const { return values_; }
+    const std::vector<Held>& values() const { return values_; }
     const std::vector<int>& held() const { return held_; }
 
 private:
     std::size_t same_ = 0; // files with the first value, before one that differs
-    QStringList values_;
+    std::vector<Held> values_;
     QHash<QString, int> numbers_;
     std::vector<int> held_;
 };
@@ -85,6 +88,35 @@ Names namesOf(const QString& path)
     return {words.caption, inWords(all), inWords(path, all), layout.rows[place.rows.front()].base->secret};
 }
 
+// A value of the fleet, as a file spells it and as a person reads it.
+struct Told
+{
+    QString value;
+    QString words;
+    QStringList files;
+
+    // With the code behind words that do not tell it, unless it is one of very many digits.
+    QString both() const
+    {
+        constexpr int mostDigits = 32;
+        if (words.isEmpty())
+            return value.isEmpty() ? QStringLiteral("\"\"") : valueInOneLine(value);
+        // In either decimal sign.
+        const bool isTold = words.contains(value) ||
+                            words.contains(QString(value).replace(QLatin1Char('.'), QLatin1Char(',')));
+        const bool tellsValue = value.isEmpty() || isTold || value.size() > mostDigits;
+        return valueInOneLine(tellsValue ? words : QStringLiteral("%1 (%2)").arg(words, value));
+    }
+};
+
+// The unit of the setting; none where it is another one by another setting, which files may hold differently.
+const char* unitOf(const vlk::TableLayout::Row& row)
+{
+    const bool isFixed = std::ranges::all_of(row.ranges, [](const auto* rule) { return !rule->unit; });
+    const vlk::Number* number = row.setting->number();
+    return isFixed && number ? number->unitKey : nullptr;
+}
+
 class Fleet
 {
 public:
@@ -92,7 +124,7 @@ public:
     {
         for (int key = 0; key < FileKeys::all().count(); ++key) {
             if (state.at(key).isThere)
-                columns_[key].take(files_.size(), there(state.at(key).meaning));
+                columns_[key].take(files_.size(), there(state.at(key)));
         }
         for (const vlk::review::Stranger& stranger : state.strangers()) {
             const auto known = strangers_.constFind(stranger.path);
@@ -104,7 +136,9 @@ public:
                 strangerPaths_ << stranger.path;
                 columns_.emplace_back();
             }
-            columns_[place].take(files_.size(), there(stranger.text));
+            Held held;
+            held.meaning = stranger.text;
+            columns_[place].take(files_.size(), there(held));
         }
         files_ << file;
     }
@@ -119,11 +153,11 @@ public:
                          (text("cli_040") + QStringLiteral("\r\n")).toUtf8());
         for (const std::size_t place : inOrder()) {
             Column& column = columns_[place];
-            if (column.values().isEmpty() || column.agrees(files))
+            if (column.values().empty() || column.agrees(files))
                 continue;
             differs = true;
             column.fill(files);
-            tellColumn(call, pathOf(place), column, output);
+            tellColumn(call, place, column, output);
         }
         return differs;
     }
@@ -150,98 +184,112 @@ private:
         return order;
     }
 
-    static QString there(const QString& text) { return text.isNull() ? QStringLiteral("") : text; }
-
-    void tellColumn(const Call& call, const QString& path, const Column& column, Output& output) const
+    static Held there(Held held)
     {
+        if (held.meaning.isNull())
+            held.meaning = QStringLiteral("");
+        return held;
+    }
+
+    void tellColumn(const Call& call, std::size_t place, const Column& column, Output& output) const
+    {
+        const QString path = pathOf(place);
         const Names names = namesOf(path);
-        QStringList values = column.values();
-        if (names.isSecret && !call.secrets) {
-            for (int i = 0; i < values.size(); ++i)
-                values[i] = values[i].isEmpty() ? QString() : QStringLiteral("••• %1").arg(i + 1);
-        }
-        std::vector<QStringList> holders(values.size());
+        std::vector<Told> values(column.values().size());
         QStringList lacking;
         for (std::size_t file = 0; file < column.held().size(); ++file) {
             const int number = column.held()[file];
-            (number == Column::lacks ? lacking : holders[number]) << files_[static_cast<int>(file)];
+            (number == Column::lacks ? lacking : values[number].files) << files_[static_cast<int>(file)];
         }
-        const auto most = std::max_element(holders.begin(), holders.end(),
-                                           [](const auto& a, const auto& b) { return a.size() < b.size(); });
-        const QString mostValue = values[static_cast<int>(most - holders.begin())];
+        const auto most =
+            std::ranges::max_element(values, {}, [](const Told& told) { return told.files.size(); });
+        const bool isMasked = names.isSecret && !call.secrets;
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            const QString& value = column.values()[i].meaning;
+            values[i].value = !isMasked || value.isEmpty() ? value : QStringLiteral("••• %1").arg(i + 1);
+            if (!call.json && !isMasked)
+                values[i].words = wordsAt(place, column.values(), i, most - values.begin());
+        }
         if (call.json)
-            output.write(jsonOf(path, names, values, holders, lacking, mostValue));
+            output.write(jsonOf(path, names, values, lacking, most->value));
         else if (call.csv)
-            output.write(csvOf(path, names, values, holders, lacking));
+            output.write(csvOf(path, names, values, lacking));
         else
-            output.write(tableOf(names, values, holders, lacking));
+            output.write(tableOf(names, std::move(values), lacking));
     }
 
-    static QByteArray jsonOf(const QString& path, const Names& names, const QStringList& values,
-                             const std::vector<QStringList>& holders, const QStringList& lacking,
-                             const QString& most)
+    // Beside the one that most files have, and of that one beside all others.
+    static QString wordsAt(std::size_t place, const std::vector<Held>& values, std::size_t at,
+                           std::ptrdiff_t most)
+    {
+        const int key = static_cast<int>(place);
+        if (key >= FileKeys::all().count())
+            return {};
+        const vlk::review::FileKey& known = FileKeys::all()[key];
+        const vlk::TableLayout& layout = FileKeys::all().layout(known.table);
+        const int row = values[at].row < 0 ? known.rows.front() : values[at].row;
+        const vlk::TableLayout::Row& holder = layout.rows[layout.rows[row].target];
+        const bool isOfMost = static_cast<std::ptrdiff_t>(at) == most;
+        return textBeside(*holder.setting, values[at], isOfMost ? values : std::vector{values[most]},
+                          unitOf(holder));
+    }
+
+    static QByteArray jsonOf(const QString& path, const Names& names, const std::vector<Told>& values,
+                             const QStringList& lacking, const QString& most)
     {
         const auto readableAll = [](QStringList files) {
             std::transform(files.begin(), files.end(), files.begin(), readable);
             return files;
         };
         JsonLine byValue;
-        for (int i = 0; i < values.size(); ++i)
-            byValue.add(values[i].toUtf8().constData(), readableAll(holders[i]));
+        for (const Told& told : values)
+            byValue.add(told.value.toUtf8().constData(), readableAll(told.files));
         return JsonLine()
             .add("path", path)
             .add("caption", names.caption)
             .addRaw("values", byValue.object())
             .add("lacking", readableAll(lacking))
-            .add("most", there(most))
+            .add("most", most)
             .line();
     }
 
-    static QByteArray csvOf(const QString& path, const Names& names, const QStringList& values,
-                            const std::vector<QStringList>& holders, const QStringList& lacking)
+    static QByteArray csvOf(const QString& path, const Names& names, const std::vector<Told>& values,
+                            const QStringList& lacking)
     {
-        QByteArray lines;
-        const auto add = [&](const QString& file, const QString& value) {
-            QStringList cells{path, names.place, inOneLine(file), value};
-            for (QString& cell : cells)
-                cell = QLatin1Char('"') + cell.replace(QLatin1Char('"'), QStringLiteral("\"\"")) +
-                       QLatin1Char('"');
-            lines += (cells.join(QLatin1Char(';')) + QStringLiteral("\r\n")).toUtf8();
+        QString lines;
+        const auto add = [&](const QString& file, const QString& value, const QString& words) {
+            lines += vlk::csvLine({path, names.place, inOneLine(file), value, words});
         };
-        for (int i = 0; i < values.size(); ++i) {
-            for (const QString& file : holders[i])
-                add(file, values[i]);
+        for (const Told& told : values) {
+            for (const QString& file : told.files)
+                add(file, told.value, told.words);
         }
         for (const QString& file : lacking)
-            add(file, {});
-        return lines;
+            add(file, {}, {});
+        return lines.toUtf8();
     }
 
     // Of the value that more files have than any other their number, of the others their names.
-    static QByteArray tableOf(const Names& names, QStringList values, std::vector<QStringList> holders,
-                              const QStringList& lacking)
+    static QByteArray tableOf(const Names& names, std::vector<Told> values, const QStringList& lacking)
     {
-        for (QString& value : values)
-            value = value.isEmpty() ? QStringLiteral("\"\"") : valueInOneLine(value);
-        if (!lacking.isEmpty()) {
-            values << QStringLiteral("–");
-            holders.push_back(lacking);
-        }
+        if (!lacking.isEmpty())
+            values.push_back({QStringLiteral("–"), {}, lacking});
         qsizetype most = 1;
         int havingMost = 0;
-        for (const QStringList& files : holders) {
-            havingMost = files.size() > most ? 1 : havingMost + (files.size() == most ? 1 : 0);
-            most = std::max<qsizetype>(most, files.size());
+        for (const Told& told : values) {
+            const qsizetype files = told.files.size();
+            havingMost = files > most ? 1 : havingMost + (files == most ? 1 : 0);
+            most = std::max(most, files);
         }
         QString lines = names.words + QLatin1Char('\n');
-        for (int i = 0; i < values.size(); ++i) {
+        for (const Told& told : values) {
             QStringList shown;
-            for (const QString& file : holders[i])
+            for (const QString& file : told.files)
                 shown << inOneLine(file);
             const bool isMost = havingMost == 1 && shown.size() == most && most > 1;
             lines +=
                 QStringLiteral("    %1: %2\n")
-                    .arg(values[i], isMost ? text("cli_041").arg(most) : shown.join(QStringLiteral(", ")));
+                    .arg(told.both(), isMost ? text("cli_041").arg(most) : shown.join(QStringLiteral(", ")));
         }
         return lines.toUtf8();
     }

@@ -194,6 +194,8 @@ public:
 
     // No record was wanted, or there was none.
     bool isEmpty() const { return written_ == 0; }
+    // There is none that the form has a place for.
+    bool lacksContent() const { return !writer_->hasContent(); }
 
 private:
     static constexpr qint64 mostHeldBytes = 32 << 20;
@@ -400,10 +402,11 @@ int convertFiles(const Conversion& asked, const Filter& filter, vlk::ExportOptio
                              text("cli_296").arg(valueInOneLine(trackers.join(QStringLiteral(", "))))));
         status = std::max<int>(status, found);
     }
-    if (conversions.isEmpty()) {
+    if (conversions.isEmpty() || conversions.lacksContent()) {
         // A file that is there has more to tell.
         output.drop();
-        writeError(complaint(QStringLiteral("r7106"), text(filter.root ? "cli_292" : "cli_293")));
+        const char* reason = !conversions.isEmpty() ? "cli_303" : filter.root ? "cli_292" : "cli_293";
+        writeError(complaint(QStringLiteral("r7106"), text(reason)));
         status = std::max<int>(status, found);
     }
     return status;

@@ -7,34 +7,28 @@ namespace workbench::command {
 
 namespace {
 
-QString placeAndKind(const vlk::FileDamage& damage)
+QString reasonOf(const vlk::FileDamage& damage)
 {
     // By FileDamage::Kind.
     static constexpr const char* kinds[] = {"cli_070", "cli_071", "cli_072", "cli_073", "cli_074", "cli_075"};
-    return text("cli_076").arg(damage.offset).arg(text(kinds[damage.kind]));
+    if (damage.kind != vlk::FileDamage::Records)
+        return text(kinds[damage.kind]);
+    return damage.bytes == 0 ? text("cli_077") : text(kinds[damage.kind]).arg(damage.bytes);
 }
 
 } // namespace
 
-QByteArray damageLine(const File& file, const vlk::FileDamage& damage)
+QString damageText(const vlk::FileDamage& damage, qint64 size)
 {
-    return complaint(file.name, placeAndKind(damage));
-}
-
-QByteArray damageLines(const File& file, const std::vector<vlk::FileDamage>& damages)
-{
-    QByteArray lines;
-    for (const vlk::FileDamage& damage : damages)
-        lines += damageLine(file, damage);
-    return lines;
+    const QString told = text("cli_076").arg(damage.offset).arg(reasonOf(damage));
+    const qint64 end = damage.offset + damage.bytes;
+    const bool wentOn = damage.kind == vlk::FileDamage::Records && damage.bytes > 0 && end < size;
+    return wentOn ? told + text("cli_200").arg(end) : told;
 }
 
 QByteArray damageLine(const File& file, const vlk::FileDamage& damage, qint64 size)
 {
-    const qint64 end = damage.offset + damage.bytes;
-    if (damage.kind != vlk::FileDamage::Records || end >= size)
-        return damageLine(file, damage);
-    return complaint(file.name, placeAndKind(damage) + text("cli_200").arg(end));
+    return complaint(file.name, damageText(damage, size));
 }
 
 } // namespace workbench::command

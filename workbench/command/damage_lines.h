@@ -9,12 +9,9 @@
 
 namespace workbench::command {
 
-// Where it is and what; a line that begins with the file's name.
-QByteArray damageLine(const File& file, const vlk::FileDamage& damage);
-// The same, and where reading went on in a file of that size.
+// Where it is, what, and where reading went on in a file of that size.
+QString damageText(const vlk::FileDamage& damage, qint64 size);
+// The same as a line that begins with the file's name.
 QByteArray damageLine(const File& file, const vlk::FileDamage& damage, qint64 size);
-
-// The first form, for each.
-QByteArray damageLines(const File& file, const std::vector<vlk::FileDamage>& damages);
 
 } // namespace workbench::command

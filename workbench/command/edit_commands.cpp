@@ -19,6 +19,7 @@
 #include <QFile>
 
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 
 namespace workbench::command {
@@ -153,6 +154,9 @@ int edit(const Call& call, Output& output, const Edit& edit)
 {
     // Whoever interrupts it is told of every file that was changed.
     std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
+    // All files are changed, although nobody reads on what became of them.
+    if (!call.dryRun && !call.files.contains(QStringLiteral("-")))
+        std::signal(SIGPIPE, SIG_IGN);
     const auto work = [&](const File& file) {
         const FileTurn turn(file.isStandardInput() ? QString() : file.name);
         if (!turn.has())

@@ -252,10 +252,10 @@ private:
             ahead.clear();
         }
         reader.finish();
-        const std::vector<vlk::FileDamage>& damages = reader.contents().damages;
-        outcome_.complaints += damageLines(file, damages);
-        if (!damages.empty())
+        for (const vlk::FileDamage& damage : reader.contents().damages) {
+            outcome_.complaints += damageLine(file, damage, device.size());
             outcome_.status = std::max<int>(outcome_.status, found);
+        }
         part.end = records_.size();
         parts_.push_back(std::move(part));
     }

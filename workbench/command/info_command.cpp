@@ -35,6 +35,7 @@ struct Facts
     std::optional<qint64> gaps{};
     QString from{};
     QString to{};
+    QStringList damages{};
 };
 
 QString timeText(const std::optional<quint32>& time)
@@ -62,6 +63,8 @@ QByteArray lineOf(const Call& call, const File& file, const Facts& facts)
             .addRaw("gaps", number(facts.gaps));
         if (facts.isPreset)
             line.addRaw("preset", "true");
+        if (!facts.damages.isEmpty())
+            line.add("damage", facts.damages);
         return line.line();
     }
     QStringList told{text(facts.isPreset ? "cli_246" : wordOf(facts.kind))};
@@ -87,8 +90,12 @@ Outcome telemetryFacts(const Call& call, const File& file, QIODevice& device)
     facts.model = summary.model.isEmpty() ? QString() : summary.model;
     facts.from = timeText(summary.from);
     facts.to = timeText(summary.to);
-    return {lineOf(call, file, facts), damageLines(file, summary.damages),
-            summary.damages.empty() ? nothing : found};
+    QByteArray complaints;
+    for (const vlk::FileDamage& damage : summary.damages) {
+        facts.damages << damageText(damage, device.size());
+        complaints += damageLine(file, damage, device.size());
+    }
+    return {lineOf(call, file, facts), complaints, summary.damages.empty() ? nothing : found};
 }
 
 // Of the section TRANS; null where there is none.

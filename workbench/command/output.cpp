@@ -37,15 +37,24 @@ bool Output::isReachable()
 
 void Output::write(const QByteArray& bytes)
 {
-    if (bytes.isEmpty() || !fault_.isEmpty())
+    if (bytes.isEmpty() || isDropped_ || !fault_.isEmpty())
         return;
     if (isFile()) {
         if (kept_.write(bytes) != bytes.size())
             fault_ = kept_.errorString();
     } else if (std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stdout) !=
                static_cast<std::size_t>(bytes.size())) {
-        fault_ = qt_error_string(errno);
+        takeError();
     }
+}
+
+// Whoever has read enough needs no complaint.
+void Output::takeError()
+{
+    if (errno == EPIPE)
+        isDropped_ = true;
+    else
+        fault_ = qt_error_string(errno);
 }
 
 bool Output::close()
@@ -54,7 +63,7 @@ bool Output::close()
         return true;
     if (!isFile()) {
         if (fault_.isEmpty() && std::fflush(stdout) != 0)
-            fault_ = qt_error_string(errno);
+            takeError();
     } else if (fault_.isEmpty()) {
         const auto copy = [this](QIODevice& device) {
             kept_.seek(0);

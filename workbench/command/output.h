@@ -33,6 +33,8 @@ public:
     bool isEmptyFile() const { return isFile() && fault_.isEmpty() && kept_.size() == 0; }
 
 private:
+    void takeError();
+
     QString name_;
     Readers readers_;
     QString complaint_;

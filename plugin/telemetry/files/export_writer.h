@@ -20,6 +20,8 @@ public:
     virtual void add(OutputBuffer& out, const RecordStore& store, std::span<const int> records) = 0;
     // What stands behind them.
     virtual void finish(OutputBuffer& out) = 0;
+    // Whether any of the records that were added has a place in the form.
+    virtual bool hasContent() const { return true; }
 
 protected:
     ExportWriter() = default;

@@ -24,6 +24,7 @@ public:
     explicit TrackWriter(const ExportOptions& options) : title_(options.title) {}
 
     void add(OutputBuffer& out, const RecordStore& store, std::span<const int> records) override;
+    bool hasContent() const override { return last_.has_value(); }
 
 protected:
     virtual void addStep(OutputBuffer& out, const TrackStep& step) = 0;
