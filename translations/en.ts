@@ -2773,6 +2773,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_told_no_distances"><translation>No distances are shown: the library PROJ cannot be loaded (%1). Install it and start the program again.</translation></message>
     <message id="wb_told_no_document"><translation>The file %1 is no document of this program, or a damaged one.</translation></message>
     <message id="wb_told_not_made"><translation>The file %1 was not created: %2.</translation></message>
+    <message id="wb_told_retyped"><translation>%1: what was told of this setting holds no longer.</translation></message>
     <message id="wb_told_unreadable"><translation>%1 was not read: %2.</translation></message>
     <message id="wb_told_unsaved"><translation>Unsaved changes cannot be kept: %1 was not written: %2.</translation></message>
     <message id="wb_toolbar"><translation>Tool bar</translation></message>

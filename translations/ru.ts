@@ -2773,6 +2773,7 @@
     <message id="wb_told_no_distances"><translation>Расстояния не показываются: не загружается библиотека PROJ (%1). Установите её и запустите программу снова.</translation></message>
     <message id="wb_told_no_document"><translation>Файл %1 не является документом этой программы или повреждён.</translation></message>
     <message id="wb_told_not_made"><translation>Файл %1 не создан: %2.</translation></message>
+    <message id="wb_told_retyped"><translation>%1: сказанное об этом параметре больше не верно.</translation></message>
     <message id="wb_told_unreadable"><translation>Файл %1 не прочитан: %2.</translation></message>
     <message id="wb_told_unsaved"><translation>Несохранённые изменения не удаётся держать на диске: файл %1 не записан: %2.</translation></message>
     <message id="wb_toolbar"><translation>Панель инструментов</translation></message>

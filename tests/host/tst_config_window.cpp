@@ -382,6 +382,12 @@ private Q_SLOTS:
         const QString written = host_.takeSent(Message::WriteConfiguration).value(0).text1;
         QVERIFY(readFile(written).contains("regTimer=\"900\""));
         QVERIFY(QFile::remove(written));
+        // Once another value is typed it is told that this holds no longer; the port is as it was.
+        type(timer, "<All>80<Tab>");
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^[^:]+$"));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(": typed_port"));
+        press("pushButton_LoadToDevice");
+        QVERIFY(QFile::remove(host_.takeSent(Message::WriteConfiguration).value(0).text1));
     }
 
     // The dialog lives as long as the process, so what an opening leaves behind is never given back.

@@ -20,6 +20,7 @@ public:
         SaveFailed,  // "PATH: REASON"
         SavedInPart, // "PATH: N of M records, until TIME"
         Typing,      // "FIELD: what became of a number that was still being typed", for the user as it stands
+        Retyped,     // "FIELD", of which that holds no longer
         File,        // something of a file that was opened, to be told in words()
         Damage,      // the same; the window that it is about tells it too
     };

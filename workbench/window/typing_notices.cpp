@@ -11,17 +11,25 @@ TypingNotices::TypingNotices(const PluginLog& log)
 {
     connect(&log, &PluginLog::warned, this,
             [this](PluginLog::Topic topic, const QString& /*category*/, const QString& text) {
+                if (topic == PluginLog::Topic::Retyped)
+                    forget(text);
                 if (topic == PluginLog::Topic::Typing)
                     note(text);
             });
 }
 
+void TypingNotices::forget(const QString& field)
+{
+    lines_.erase(std::remove_if(lines_.begin(), lines_.end(),
+                                [&field](const QString& earlier) {
+                                    return earlier.startsWith(field + QStringLiteral(": "));
+                                }),
+                 lines_.end());
+}
+
 void TypingNotices::note(const QString& line)
 {
-    const QString field = line.section(QStringLiteral(": "), 0, 0) + QStringLiteral(": ");
-    lines_.erase(std::remove_if(lines_.begin(), lines_.end(),
-                                [&field](const QString& earlier) { return earlier.startsWith(field); }),
-                 lines_.end());
+    forget(line.section(QStringLiteral(": "), 0, 0));
     lines_.append(line);
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 // What became of numbers that were still being typed when a save or a write came, as the plug-in tells its
-// log: kept for the user until the file that they went into is saved or written. One line a field, the last
-// one counts.
+// log: kept for the user until the file that they went into is saved or written, or another value is typed.
+// One line a field, the last one counts.
 
 #include "window/plugin_log.h"
 
@@ -24,6 +24,7 @@ public:
 
 private:
     void note(const QString& line);
+    void forget(const QString& field);
 
     QStringList lines_;
 };

@@ -34,6 +34,8 @@ namespace {
 
 // What was typed and not taken as it was, and values that are doubtful, at a save: "CAPTION: WHY".
 Q_LOGGING_CATEGORY(lcTyping, "vlk.settings.typing")
+// The captions of fields of which that holds no longer.
+Q_LOGGING_CATEGORY(lcRetyped, "vlk.settings.retyped")
 
 // Counts what is being shown, so that the widgets' signals are no edits meanwhile.
 class Showing
@@ -329,11 +331,18 @@ void Binder::logNews()
     for (const auto& adapter : adapters_) {
         if (!adapter)
             continue;
-        const QStringList allNews = adapter->takeNews();
-        for (const QString& news : allNews) {
-            if (!news.isEmpty())
-                qCWarning(lcTyping).noquote()
-                    << captionText(values_.setting(adapter->row())) + QStringLiteral(": ") + news;
+        const int row = adapter->row();
+        const QString caption = captionText(values_.setting(row));
+        QStringList allNews = adapter->takeNews();
+        allNews.removeAll(QString());
+        for (const QString& news : std::as_const(allNews))
+            qCWarning(lcTyping).noquote() << caption + QStringLiteral(": ") + news;
+        const auto told = told_.find(row);
+        if (!allNews.isEmpty()) {
+            told_[row] = values_.value(row);
+        } else if (told != told_.end() && told->second != values_.value(row)) {
+            told_.erase(told);
+            qCWarning(lcRetyped).noquote() << caption;
         }
     }
 }
@@ -392,6 +401,7 @@ QWidget* Binder::widgetOf(int row, int part) const
 
 void Binder::forget()
 {
+    told_.clear();
     for (const auto& adapter : adapters_) {
         if (adapter)
             adapter->forget();

@@ -49,7 +49,8 @@ public:
     void evaluateRules();
     // Takes what is being typed.
     void finishTyping();
-    // Logs what could not be taken as it was typed since the last time, and values that are doubtful.
+    // Logs what could not be taken as it was typed since the last time, and values that are doubtful; and of
+    // which fields that holds no longer, since they have another value.
     void logNews();
     // Other values come: what the widgets remember of those before goes.
     void forget();
@@ -128,6 +129,7 @@ private:
     std::vector<Target> targets_;
     std::map<int, Range> ranges_; // of the rows that rules give ranges
     QStringList problems_;
+    std::map<int, QString> told_; // rows of which something was logged, with the value that they had
     int showing_ = 0;
 };
 
