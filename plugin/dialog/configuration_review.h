@@ -35,7 +35,7 @@ public:
     void setWritten(const QByteArray& document);
     bool isWritten() const { return isWritten_; }
 
-    // Of a preset: with what the configuration would be if it were applied now.
+    // A preset is compared as the configuration that it would make if it were applied now.
     enum class Against { file, defaults, otherFile, preset };
     Against against() const { return against_; }
     // False when the file could not be read, and nothing changes. Another file that says that it is a preset
@@ -70,7 +70,7 @@ public:
     // Also to what was there before it was written.
     review::Differences sinceOpened() const { return {opened_, now()}; }
     bool isEdited(int table, int row) const;
-    // Of the full window; `written` is what a write would bring now.
+    // What the full window holds; `written` is what a write would bring now.
     Configuration configuration() const;
     Configuration written() const;
     // What a save would write of the settings now.
@@ -117,7 +117,7 @@ private:
     const review::FileState& asItCame() const;
     // The other side while a preset is compared with.
     review::FileState withPreset();
-    // The same by the keys that it moved when it was followed last.
+    // A state with the keys that the preset moved when it was followed last.
     review::FileState withMoved(review::FileState state) const;
     // An edit may move what the preset would make of the rest: applied anew, but not with each edit.
     void followPreset();

@@ -54,7 +54,7 @@ DifferenceModel::Kind DifferenceModel::kindOf(const review::Difference& differen
     const bool isOfFile = review_.against() == ConfigurationReview::Against::file;
     if (isOfFile && review_.isAnew(difference))
         return Kind::anew;
-    // Of another file or a preset each key is a choice of its own.
+    // Each key of another file or a preset is a choice of its own.
     return difference.isAlong && (isOfFile || !review_.otherName().isEmpty()) ? Kind::along : Kind::own;
 }
 

@@ -42,7 +42,7 @@ QString nameOfSubject(const QString& subject)
     return modelText() + QLatin1Char(' ') + texts.last(); // its number, where it has one
 }
 
-// Of the tracker that is attached; empty where its numbers are not known.
+// Names the tracker that is attached; empty where its numbers are not known.
 QString trackerSubject()
 {
     const QString identity = vlkDevice->trackerId1() + QLatin1Char('\n') + vlkDevice->trackerId2();
@@ -182,7 +182,7 @@ void EditKeeper::tellKept() const
 void EditKeeper::switched()
 {
     const bool isQuick = review_.isQuick();
-    // As they were kept last, before the change.
+    // shown_ is what was kept last, before the change.
     for (Beginning* state : {&beginning_, &inFile_})
         (*state)[isQuick] = (*state)[!isQuick] == shown_ ? review_.document() : (*state)[!isQuick];
 }

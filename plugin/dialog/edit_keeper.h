@@ -34,7 +34,7 @@ public:
     void begin(const QString& folder, const QString& subject, bool staysAsOpened);
     // At once. False when the disk refused.
     bool keep();
-    // The same for edits that go out of sight: what is still being typed counts.
+    // Keeps edits that go out of sight: what is still being typed counts.
     void leave();
     // The user has put the other window on show, which was kept before.
     void switched();

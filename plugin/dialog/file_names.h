@@ -18,10 +18,10 @@ QString configurationPathToWrite(const QString& part);
 // the time. A name without a suffix gets ".xml". Empty when the user cancels.
 QString askConfigurationPath(QWidget* parent, const QString& objectName);
 
-// The same with another question, name and kind: `filter` names the kind and `suffix` is what a name without
-// one gets, as the one that is suggested. A name that is taken gets a number, so that what is there is not
-// replaced by a press of Enter. For windows that tell themselves what became of the file: by the name of the
-// dialog a host knows that it need not.
+// Asks like askConfigurationPath with another question, name and kind: `filter` names the kind and `suffix`
+// is what a name without one gets, as the one that is suggested. A name that is taken gets a number, so that
+// what is there is not replaced by a press of Enter. For windows that tell themselves what became of the
+// file: by the name of the dialog a host knows that it need not.
 struct PathQuestion
 {
     QString caption;

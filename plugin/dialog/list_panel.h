@@ -28,7 +28,7 @@ public:
     virtual void retranslate();
     // Shows it with what there is now, and gives it the focus.
     void open();
-    // The same and leaves the focus.
+    // Shows it and leaves the focus where it is.
     void showNow();
     // As high as there is room for it, within reason.
     void setPanelHeight(int height);

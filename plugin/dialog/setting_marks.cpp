@@ -197,7 +197,7 @@ void SettingMarks::addAdvice(const PageSettings& page, Spots* spots) const
             if (const int row = rowOn(page, review_.settingAt(path)); row >= 0)
                 add({row, part});
         }
-        // Of a setting of many parts those that a mend would change.
+        // Marks those parts of a setting of many that a mend would change.
         for (const review::Mend& mend : finding.mends) {
             const int row = rowOn(page, review_.settingAt(mend.path));
             if (row < 0 || review::partCount(values.setting(row)) == 0)
@@ -266,7 +266,7 @@ void SettingMarks::mark(const PageSettings& settings, QWidget* widget)
     markField(widget, MarkReason::advice, severity, advice.join(QLatin1Char('\n')));
 }
 
-// Of two values that keep their distance the one pushes the other, which may lie far from what was typed.
+// One of two values that keep their distance pushes the other, which may lie far from what was typed.
 QString SettingMarks::moverText(const PageSettings& page, int row) const
 {
     const Values& values = page.values();
@@ -362,7 +362,7 @@ bool SettingMarks::eventFilter(QObject* watched, QEvent* event)
         }
         return false;
     case QEvent::MouseButtonPress:
-        // Else the page would open its own menu, too.
+        // Keeps the page from opening its own menu, too.
         return watched != parent() && static_cast<QMouseEvent*>(event)->button() == Qt::RightButton;
     case QEvent::ContextMenu:
         return watched != parent() && openMenu(watched, static_cast<QContextMenuEvent*>(event));

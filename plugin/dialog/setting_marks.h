@@ -37,7 +37,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    // Of a page of the full window: its worst mark, if it has one, and what it says.
+    // The worst mark of a page of the full window, if it has one, and what it says.
     void tabMarked(int tab, std::optional<vlk::Mark> mark, const QString& told);
 
 private:
@@ -62,7 +62,7 @@ private:
         Spots told;
     };
 
-    // Of a setting of any table the row of the page that shows it; -1 for none.
+    // The row in which the page shows a setting of any table; -1 for none.
     int rowOn(const PageSettings& page, const review::Hit& setting) const;
     // False when its widgets were known.
     bool learn(PageSettings& page);

@@ -77,7 +77,7 @@ int UnsavedBar::changes(const Offer& offer, const std::vector<int>& keys) const
         std::ranges::count_if(keys, [&](int key) { return !(offer.after.at(key) == now.at(key)); }));
 }
 
-// And not taken back since, whatever else became of what it brought.
+// It was brought back and has not been taken back since, whatever else became of its keys.
 bool UnsavedBar::isBroughtBack(const Offer& offer) const
 {
     const review::FileState& now = review_.differences().after();

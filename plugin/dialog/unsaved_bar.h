@@ -50,7 +50,7 @@ private:
     };
 
     bool isInNewer(const Offer& offer) const;
-    // Of keys of an offer, how many it would change.
+    // How many of these keys the offer would change.
     int changes(const Offer& offer, const std::vector<int>& keys) const;
     bool isBroughtBack(const Offer& offer) const;
     void refresh();
