@@ -205,9 +205,10 @@ void EditKeeper::handedOver(const QByteArray& content)
 
 void EditKeeper::confirmed(const QByteArray& content)
 {
-    const auto found = std::find_if(handedOver_.rbegin(), handedOver_.rend(), [&](const HandedOver& other) {
-        return content.isEmpty() || other.content == content;
-    });
+    const auto found =
+        std::ranges::find_if(handedOver_.rbegin(), handedOver_.rend(), [&](const HandedOver& other) {
+            return content.isEmpty() || other.content == content;
+        });
     if (found == handedOver_.rend())
         return;
     const HandedOver written = *found;
