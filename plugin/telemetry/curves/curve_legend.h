@@ -30,7 +30,7 @@ protected:
 private:
     QString textOf(int place) const;
     QFont fontOf(int place) const;
-    // Of the entries at that width.
+    // Where the entries stand at that width.
     std::vector<QRect> places(int width) const;
     int entryAt(const QPoint& place) const;
     void refresh();

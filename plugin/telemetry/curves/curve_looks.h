@@ -12,7 +12,7 @@ class QPalette;
 namespace vlk {
 
 bool isDark(const QPalette& palette);
-// Of the curve in that place, and of the band or row of marks in one.
+// The colour of the curve in that place, and of the band or row of marks in one.
 QColor curveColor(int place, const QPalette& palette);
 QColor bandColor(const QPalette& palette);
 void paintCurveShape(QPainter& painter, int place, const QPointF& centre, const QColor& colour);

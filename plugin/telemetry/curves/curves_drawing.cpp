@@ -18,7 +18,7 @@ namespace {
 constexpr int kShapeDistance = 90;
 constexpr double kPointReach = 1.5;
 
-// Of a piece, as what the painter takes; the same on every axis but for its map.
+// A piece as the painter takes it; the same on every axis but for its map.
 QPolygonF onCanvas(const QPolygonF& piece, const QwtScaleMap& x, const QwtScaleMap& y)
 {
     QPolygonF mapped(piece.size());

@@ -203,7 +203,7 @@ void CurvesPlot::updateLayout()
     Q_EMIT laidOut();
 }
 
-// As the axes of the plot itself, but further out.
+// Lays these axes out like those of the plot itself, but further out.
 void CurvesPlot::placeOuterAxes()
 {
     const QRect canvas = this->canvas()->geometry();

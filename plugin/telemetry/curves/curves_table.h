@@ -10,7 +10,7 @@ namespace vlk {
 class CurvesModel;
 struct TimeSpan;
 
-// Of the records of that span, by time. False when the device did not take it.
+// Writes the records of that span, by time. False when the device did not take it.
 bool writeCurves(QIODevice& device, const CurvesModel& model, const TimeSpan& span);
 
 } // namespace vlk

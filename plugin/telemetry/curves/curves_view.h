@@ -34,7 +34,7 @@ public:
 
     // What stands above a picture, the vehicle or the file.
     void setTitle(const QString& title);
-    // Of that size in points, in kPicturePixels.
+    // A picture of a span; `size` in points, each of kPicturePixels.
     QImage picture(const TimeSpan& span, const QSize& size) const;
     // What is in sight: as CSV, SVG or PNG by the suffix.
     void saveTo(const QString& path);

@@ -32,7 +32,7 @@ struct Extremes
 class ExtremePyramid
 {
 public:
-    // Of numbers of which those that it had before are still the first.
+    // Takes in more numbers; those that it had before are still the first of them.
     void grow(std::span<const double> numbers);
 
     // From `first` to before `last`, of the numbers that it grew by.

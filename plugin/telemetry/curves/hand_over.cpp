@@ -23,7 +23,7 @@ namespace {
 
 constexpr QSize kPictureSize(1200, 600);
 
-// Of the size in which it is shown: a printer would make many of its pixels of the points of a font.
+// With a font in pixels, as on screen: a printer would make many of its pixels of the points of a font.
 void paintInPixels(QPainter& painter, const PaintPicture& paint)
 {
     QFont font = QApplication::font();

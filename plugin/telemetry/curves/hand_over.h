@@ -18,7 +18,7 @@ class NoticeBar;
 // Paints the picture into that many pixels from the painter's origin on.
 using PaintPicture = std::function<void(QPainter& painter, const QSize& size)>;
 
-// Of an image, along each side of a point of the picture in it.
+// Pixels of an image to each point of the picture, across and down.
 inline constexpr int kPicturePixels = 2;
 
 class HandOver : public QObject

@@ -41,7 +41,7 @@ class FilterNames
 public:
     FilterNames();
 
-    // Of two columns with one name the first keeps it.
+    // The first of two columns with one name keeps it.
     void add(const QString& name, const FilterColumn& column);
     void addWord(const QString& word, const FilterColumn& column, CodeRange codes);
     // A heading names its column without the unit too, where no other heading is left the same.
@@ -63,7 +63,7 @@ public:
 
     // As they are offered.
     const QStringList& names() const { return names_; }
-    // The same, folded.
+    // The names, folded.
     const QStringList& foldedNames() const { return foldedNames_; }
     QStringList words(const FilterColumn& column) const;
 

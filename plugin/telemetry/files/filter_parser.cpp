@@ -95,7 +95,7 @@ public:
         return root ? std::optional(Filter{std::move(root)}) : std::nullopt;
     }
 
-    // Of the fault.
+    // Where the fault is, and what is expected there.
     int position() const { return faultAt_; }
     Expected expected() const { return expected_; }
     // What stands in quotes and is none of the words of its column; else null.

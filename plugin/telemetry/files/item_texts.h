@@ -19,7 +19,7 @@ public:
     ItemTexts(const std::vector<ItemIndex>& items, std::string userTypes, std::optional<qint32> utcOffset,
               TextEncoder encode, std::string before = {}, std::string behind = {});
 
-    // Of the n-th item. Stays until the next text of that item is asked for.
+    // The text of the n-th item. Stays until the next text of that item is asked for.
     std::string_view of(std::size_t n, std::uint64_t raw)
     {
         Column& column = columns_[n];

@@ -14,7 +14,7 @@ namespace vlk {
 
 namespace {
 
-// Of what is no number the name.
+// What is no number, such as NaN, is written as its name in quotes.
 void addJson(OutputBuffer& out, auto number)
 {
     if constexpr (!std::is_floating_point_v<decltype(number)>)

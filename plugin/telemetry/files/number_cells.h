@@ -36,7 +36,7 @@ struct NumberCell
 
 // `userTypes`: the letters of the user parameters.
 NumberCell numberCell(ElementIndex element, std::string_view userTypes);
-// Of an item that is part of an element.
+// The cell of an item that is part of an element.
 NumberCell numberCell(ItemIndex item);
 NumberCell rawCell(ElementIndex element);
 

@@ -6,7 +6,7 @@
 
 namespace vlk {
 
-// Of these records, in their order. A code of 0 is none.
+// Those of these records with a rare event, in their order. A code of 0 is none.
 std::vector<int> rareEvents(RecordColumns& columns, const std::vector<int>& records);
 
 } // namespace vlk

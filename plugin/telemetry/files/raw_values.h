@@ -8,7 +8,7 @@
 
 namespace vlk {
 
-// Of the records that are asked for, in any order. The store stays as it is meanwhile.
+// The raw values of the records that are asked for, in any order. The store stays as it is meanwhile.
 class RawValues
 {
 public:

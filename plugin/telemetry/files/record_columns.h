@@ -30,7 +30,7 @@ public:
     const NumberColumn& numbers(ItemIndex item);
     // The whole number of an element, whatever it means.
     const NumberColumn& numbers(ElementIndex element);
-    // Of the head of every record and packet, also where its mask does not tell it: seconds since 1970 in
+    // From the head of every record and packet, also where its mask does not tell it: seconds since 1970 in
     // UTC, the code of the event, the number of the record.
     const std::vector<quint32>& times();
     const std::vector<quint32>& codes();

@@ -28,7 +28,7 @@ class JoinedLines
 public:
     // The line that ends with this piece; valid until the next call.
     std::optional<std::string_view> add(std::string_view piece);
-    // Of a line without its end; empties it.
+    // The line without an end that is left over; empties it.
     std::string takeRest() { return std::exchange(rest_, {}); }
 
 private:

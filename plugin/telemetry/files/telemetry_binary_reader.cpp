@@ -122,8 +122,8 @@ bool TelemetryBinaryReader::leadsOn(std::size_t ahead)
     return there.size() < kLeastToTell || looksLikeRecord(there);
 }
 
-// The same a few records of that size further on, as where the damage is in the next ones. A record that
-// lost bytes leads nowhere.
+// Looks a few records of that size further on, as where the damage is in the next ones. A record that lost
+// bytes leads nowhere.
 bool TelemetryBinaryReader::leadsOnSoon(std::size_t size)
 {
     constexpr std::size_t kRecords = 8;

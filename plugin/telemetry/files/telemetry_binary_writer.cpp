@@ -32,7 +32,7 @@ void putLength(Buffer& record)
     qToLittleEndian(static_cast<quint16>(record.size() - binary::kLengthBytes), record.data());
 }
 
-// As the tracker sent it.
+// Builds a record as the tracker sent it.
 void buildPacked(Buffer& record, const RecordLayout& layout, std::span<const std::uint8_t> payload)
 {
     record.assign(binary::kLengthBytes, 0);

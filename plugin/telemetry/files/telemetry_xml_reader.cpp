@@ -13,7 +13,7 @@ namespace {
 // Longer lines are read in pieces of these lengths.
 constexpr std::size_t kLongestLine = 1023;
 constexpr std::size_t kLongestLineOfPage = 255;
-// Of all elements with long values.
+// Bytes of a page with all elements, each with a long value.
 constexpr std::size_t kLongestUsualPage = 32'768;
 
 void readTypes(std::string_view line, const TypeLine& row, TelemetryTitles& titles)

@@ -105,7 +105,7 @@ private:
         }
     }
 
-    // Of an event without a name its code.
+    // An event without a name shows its code.
     const QByteArray& eventCell(std::size_t column, quint16 code)
     {
         QByteArray& cell = events_[code];

@@ -31,7 +31,7 @@ struct TrackPoint
 // from that record on, in the order of the store. `before`: the last point of what comes before, if any.
 std::vector<TrackPoint> trackPoints(RecordColumns& columns, int firstRecord = 0,
                                     const TrackPoint* before = nullptr);
-// The same one by one, without the memory for all of them and their columns.
+// The points one by one, without the memory for all of them and their columns.
 void forEachTrackPoint(RecordColumns& columns, int firstRecord, const TrackPoint* before,
                        const std::function<void(const TrackPoint&)>& visit);
 

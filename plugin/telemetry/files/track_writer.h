@@ -42,7 +42,7 @@ private:
     std::optional<TrackPoint> last_;
 };
 
-// As it stands between two tags, or in an attribute; what XML cannot hold is left out.
+// The text as it stands between two tags, or in an attribute; what XML cannot hold is left out.
 QByteArray xmlEscaped(const QString& text);
 
 } // namespace vlk

@@ -78,7 +78,7 @@ FuelCurve::Reading FuelCurve::read(double level) const
 {
     if (!isLevel(level))
         return {std::numeric_limits<double>::quiet_NaN(), NoLevel};
-    // Of points that share a level at an end of the curve the one towards its middle counts.
+    // Where points share a level at an end of the curve, the one towards its middle counts.
     const auto above = std::ranges::upper_bound(points_, level, {}, &Point::level);
     if (above == points_.begin())
         return {std::ranges::upper_bound(points_, leastLevel(), {}, &Point::level)[-1].litres, Below};

@@ -26,7 +26,7 @@ public:
     };
 
     static std::optional<TableFault> faultOf(const FuelRows& rows);
-    // Of a table without a fault.
+    // Takes a table without a fault.
     FuelCurve(const FuelRows& rows, LevelKind kind);
 
     Reading read(double level) const;

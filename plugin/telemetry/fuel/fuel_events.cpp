@@ -16,7 +16,7 @@ namespace {
 constexpr double kLeastStep = 0.5;
 // Litres a second by which a level may creep while nobody takes or pours: 3 an hour.
 constexpr double kCreep = 3 / 3600.0;
-// Of what is burnt while the vehicle moves, an engine burns so much while it stands. It weighs as much as
+// An engine that idles burns this share of what it burns while the vehicle moves. The guess weighs as much as
 // levels over so many seconds, for there may be a few minutes of them only.
 constexpr double kIdlingShare = 0.25;
 constexpr double kSureTime = 1800;
@@ -32,7 +32,7 @@ constexpr int kFarMedians = 2;
 constexpr int kLeastLevels = 2;
 // What has to be left of a step over that time.
 constexpr double kHeld = 0.6;
-// Of the lesser threshold: a step at which averages end.
+// A step of this share of the lesser threshold ends averages.
 constexpr double kBarrier = 0.3;
 // From here on a pause between records may hide a drive. Seconds, degrees.
 constexpr double kLongPause = 900;

@@ -60,7 +60,7 @@ void Journey::measureWay(RecordColumns& columns, const std::vector<int>& records
         stretches_[i].isWithoutFix = point < 0 && !std::isnan(latitudes[records[i]]);
         if (point < 0)
             continue;
-        // Of a vehicle that stands the coordinates wander.
+        // The coordinates of a vehicle that stands wander.
         if (before >= 0) {
             const Stretch& last = stretches_[before];
             const bool isGap = isGapBetween(last.time, stretches_[i].time);

@@ -41,7 +41,7 @@ public:
 
     // Both ends in it. No records where there are none.
     JourneySummary summary(double from, double until) const;
-    // Of each day with records, from midnight to midnight; seconds east of UTC.
+    // A summary of each day with records, from midnight to midnight; seconds east of UTC.
     std::vector<JourneySummary> days(qint32 utcOffset) const;
 
 private:

@@ -10,7 +10,7 @@ namespace vlk {
 // Seconds that sensors need, once the ignition is on.
 inline constexpr quint32 kWakeTime = 120;
 
-// Of neighbouring records with one state of motion.
+// The median of neighbouring records with one state of motion.
 struct LevelMedian
 {
     double from; // seconds since 1970

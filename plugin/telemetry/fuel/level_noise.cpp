@@ -12,7 +12,7 @@ namespace {
 constexpr std::size_t kSide = 3;    // medians before and after, at most
 constexpr double kLongestGap = 900; // seconds between two of them
 constexpr std::size_t kLeastCount = 20;
-// Of the median of distances: three standard deviations, if they are spread normally.
+// Times the median of distances: three standard deviations of normally spread ones.
 constexpr double kSpread = 3 * 1.4826;
 
 // At most kSide of them.

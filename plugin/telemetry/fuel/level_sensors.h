@@ -19,7 +19,7 @@ struct LevelSensor
     LevelKind kind;
     char letter;         // with which calibration tables name such sensors, 0 for none
     std::uint8_t number; // behind that letter, 0 for none
-    // Of Can: where litres stand in place of percent.
+    // Where litres stand in place of percent, for Can.
     ItemIndex litres;
 
     std::string_view element() const { return kElements[kItems[item].element].name; }

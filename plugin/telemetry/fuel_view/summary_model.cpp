@@ -50,7 +50,7 @@ constexpr int kFigureCount = static_cast<int>(std::size(kFigures));
 
 void SummaryModel::set(std::vector<Summary> summaries, bool areDays, qint32 utcOffset)
 {
-    // Of as many lines as before what is selected stays so.
+    // With as many lines as before what is selected stays so.
     const bool isAlike =
         areDays == areDays_ && utcOffset == utcOffset_ && summaries.size() == summaries_.size();
     if (!isAlike)

@@ -122,7 +122,7 @@ bool TankButton::askTable(const LevelSensor& sensor)
 {
     const QString element = QString::fromStdString(std::string(sensor.element()));
     const QString before = memory().table(vehicle_, element);
-    // Else where the calibration window puts them.
+    // The folder of its last table, or where the calibration window puts them.
     const QString folder =
         !before.isEmpty() ? before : fuelFolder(vlkDevice ? vlkDevice->tmiFolder() : QString());
     const QString path = QFileDialog::getOpenFileName(this, tr("rec_252").arg(levelSensorCaption(sensor)),

@@ -55,7 +55,7 @@ public:
     void add(std::span<const std::uint8_t> record);
     // From the parts that a telemetry file gives: the block has every field at its place.
     void add(std::uint8_t ver, const FieldMask& mask, const TmiPage_Zeta3::ValueBlock& block);
-    // The same packed: `payload` has the fields of `layout.held`.
+    // A packed record: `payload` has the fields of `layout.held`.
     void add(const RecordLayout& layout, std::span<const std::uint8_t> payload);
     void add(const ExtraPacket& packet);
     // The zone stays.
@@ -117,7 +117,7 @@ private:
     std::vector<RecordLayout> layouts_;
     std::unordered_map<RecordLayout, std::size_t, LayoutHash> numbers_;
     std::size_t lastLayout_ = 0;
-    // Of the record that came whole last: mostly the next one has the same.
+    // The head and layout of the record that came whole last: mostly the next one has the same.
     std::array<std::uint8_t, FieldMask::kHeadBytes> head_{};
     std::size_t layoutOfHead_ = 0;
     std::optional<qint32> utcOffset_;

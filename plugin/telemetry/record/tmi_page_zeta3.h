@@ -42,12 +42,12 @@ public:
 
     // Decodes again, and keeps utcOffset(). The memory of the payload is used again.
     void setRecord(const void* record, qsizetype size);
-    // The same from the bytes that a store keeps (record_store.h).
+    // Takes the bytes that a store keeps (record_store.h).
     void setStored(const vlk::RecordLayout& layout, std::span<const std::uint8_t> bytes);
-    // The same for the answer to the question for the last key (message 2312), from its type byte on.
+    // Takes the answer to the question for the last key (message 2312), from its type byte on.
     void setKeyAnswer(const void* answer, qsizetype size);
 
-    // Of an extra packet these three come from its head.
+    // For an extra packet these three come from its head.
     quint8 type() const;
     quint8 ver() const;
     quint32 number() const; // the record's number

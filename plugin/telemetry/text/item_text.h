@@ -16,8 +16,8 @@ struct TextOptions
     // The type letters of the user parameters, in their order: 16 of one byte, 15 of two, 15 of four and 3 of
     // eight. "u" unsigned, "s" signed, "b" binary digits, "f" floating; a slot without a letter is unsigned.
     std::string_view userTypes;
-    // Of local times, and of pages that have none of their own. Without it each of these looks the zone of
-    // the machine up.
+    // The zone of local times, and of pages that have none of their own. Without it each of these looks the
+    // zone of the machine up.
     const LocalZone* zone = nullptr;
     // In which the times of a value without a page are shown, in seconds east of UTC; else the present one.
     std::optional<qint32> utcOffset{};
@@ -28,10 +28,10 @@ struct TextOptions
 // translator; times are in the zone of the page.
 QString text(const TmiPage_Zeta3& page, ItemIndex item, const TextOptions& options = {});
 
-// The same in parts, for those who look the words up themselves. Not for items of Shape::special.
+// The text in parts, for those who look the words up themselves. Not for items of Shape::special.
 TextParts textParts(const TmiPage_Zeta3& page, ItemIndex item, const TextOptions& options = {});
 
-// The same from the bytes of the element alone, as an unsigned number.
+// The parts from the bytes of the element alone, as an unsigned number.
 TextParts textParts(std::uint64_t raw, ItemIndex item, const TextOptions& options = {});
 
 // The number behind the text, in the unit of the text: degrees for a coordinate, seconds since 1970 for a
@@ -39,7 +39,7 @@ TextParts textParts(std::uint64_t raw, ItemIndex item, const TextOptions& option
 // none. `raw`: the bytes of the element, as an unsigned number.
 double itemNumber(std::uint64_t raw, ItemIndex item, std::string_view userTypes = {});
 
-// The same for many values of one item: where one scale holds for all of them nothing else is looked at.
+// itemNumber for many values of one item: where one scale holds for all of them nothing else is looked at.
 class ItemNumbers
 {
 public:

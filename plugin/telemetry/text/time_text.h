@@ -18,7 +18,7 @@ void addDateAndClock(AsciiText& text, quint32 seconds, qint32 offset);
 // "15:00:00 01.02.2025 (UTC +3)", with the whole hours of the offset towards zero.
 void addZonedTime(AsciiText& text, quint32 seconds, qint32 offset);
 
-// The same as texts of their own, the first two in the zone of this machine.
+// These times as texts of their own, the first two in the zone of this machine.
 QString localTimeText(quint32 seconds);
 QString dateTimeText(quint32 seconds);
 QString zonedTimeText(quint32 seconds, qint32 offset);

@@ -35,10 +35,10 @@ public:
     // Only what is in sight of the curves.
     bool isSpanOnly() const { return isSpanOnly_; }
     void setSpanOnly(bool only);
-    // Of which moments points are shown.
+    // The time whose points are shown.
     TimeSpan shownTime() const;
     bool isShown(const TrackPoint& point) const { return shownTime().contains(point.time); }
-    // Of what is shown; a place where nothing is.
+    // The bounds of what is shown; a place where nothing is.
     QRectF bounds() const;
 
 Q_SIGNALS:

@@ -113,7 +113,7 @@ private:
     std::array<QVector<QLineF>, kBins> lines_;
 };
 
-// Of marks that would cover each other one is drawn.
+// Finds room for marks: one is drawn of those that would cover each other.
 class Crowd
 {
 public:

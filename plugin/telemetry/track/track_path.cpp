@@ -67,7 +67,7 @@ void TrackPath::add(RecordColumns& columns, int firstRecord)
             addTo(level, before);
 }
 
-// Of the first places, which are degrees yet.
+// Takes the middle of the first places, which are degrees yet.
 void TrackPath::setMiddle()
 {
     const auto [south, north] = std::ranges::minmax(places_, {}, &QPointF::y);

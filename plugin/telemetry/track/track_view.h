@@ -28,7 +28,7 @@ public:
 
     // What stands above a picture, the vehicle or the file.
     void setTitle(const QString& title);
-    // Of the part of the track in that span.
+    // A picture of the part of the track in that span.
     QImage picture(const TimeSpan& span, const QSize& size) const;
     // What is in sight, as SVG or PNG by the suffix.
     void saveTo(const QString& path);

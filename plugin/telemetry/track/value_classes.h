@@ -16,7 +16,7 @@ class ValueClasses
 public:
     static constexpr int kMost = 6;
 
-    // Of values between these; one class where they are the same.
+    // Divides the values between these; one class where they are the same.
     ValueClasses(double least, double greatest);
     ValueClasses() = default; // of no values
 
@@ -25,7 +25,7 @@ public:
     int classOf(double value) const;
     double from(int place) const { return first_ + place * step_; }
 
-    // Of -1 likewise.
+    // The colour of a class, and of -1 for no value.
     QColor colour(int place, const QPalette& palette) const;
 
 private:

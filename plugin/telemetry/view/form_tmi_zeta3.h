@@ -40,7 +40,7 @@ public:
 
     // Seconds east of UTC.
     void setUtcOffset(int seconds);
-    // Of the records that the form took; -1 before the first one.
+    // The number of the last record that the form took; -1 before the first one.
     qint64 number() const { return record_.number(); }
     const TmiPage_Zeta3* page() const { return record_.page(); }
     void retranslate();

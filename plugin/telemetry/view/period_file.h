@@ -21,7 +21,7 @@ QString periodFileName(const QString& vehicle, const QDateTime& first, const QDa
 // The vehicle of such a name: what stands before the period, the whole name where there is none.
 QString vehicleOfFile(const QString& path);
 
-// Of records as they came. Times are shown in the zone of `origin`.
+// A period of records as they came. Times are shown in the zone of `origin`.
 TelemetryContents periodOf(const RecordBytes& records, const TelemetryOrigin& origin);
 
 } // namespace vlk

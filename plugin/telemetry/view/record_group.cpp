@@ -14,7 +14,7 @@ namespace vlk {
 
 namespace {
 
-// Of a name that the user gave.
+// Bounds in characters for a name that the user gave.
 constexpr int kLeastCharacters = 12;
 constexpr int kMostCharacters = 24;
 constexpr int kListSpacing = 8;

@@ -85,7 +85,7 @@ public:
     // The first rows only.
     void setRowsVisible(int count);
 
-    // Of the captions and the values of a plain list, else 0. Lists below each other share the widest.
+    // Widths of captions and values in a plain list, else 0. Lists below each other share the widest.
     struct Widths
     {
         int captions = 0;

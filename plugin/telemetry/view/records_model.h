@@ -28,14 +28,14 @@ public:
     int columnOf(ItemIndex item) const;
     CellKind kind(int column) const;
     int recordAt(int row) const { return order_[row]; }
-    // As they stand.
+    // The records in the order of the rows.
     const std::vector<int>& records() const { return order_; }
     // -1 where it does not pass the filter.
     int rowOf(int record) const;
 
     // What the record shows in a column; empty where it shows nothing.
     QString text(int record, int column) const;
-    // The same as spreadsheets of the language take it.
+    // The text as spreadsheets of the language take it.
     QString textToCopy(int record, int column) const;
     // The bytes behind it; none where the record lacks it, and of the column of packets.
     std::optional<quint64> raw(int record, int column) const;
@@ -63,7 +63,7 @@ private:
     void setRows();
     void order();
     int alignment(int column) const;
-    // Of the last record there may be only the beginning.
+    // Whether there is only the beginning of the record, as there may be of the last one.
     bool isCut(int record) const;
     static QVariant cutData(int role);
     QVariant absentData(int record, int column, int role) const;

@@ -20,7 +20,7 @@ public:
 
     void setName(const QString& name);
     void retranslate();
-    // Of the first part that has something to take back; false where none has.
+    // Steps back in the first part that has something to take back; false where none has.
     bool stepBack();
     // Null without views.
     QTabWidget* views() const { return views_; }

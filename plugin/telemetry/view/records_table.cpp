@@ -20,7 +20,7 @@ constexpr int kHeadLines = 2;
 constexpr int kHeadPadding = 12; // above and below together
 constexpr int kSamples = 32;     // rows spread over the file that a column is measured by
 
-// Of a head that is broken at its blanks into the lines that there are.
+// The width of a head that is broken at its blanks into the lines that there are.
 int headWidth(const QString& head, const QFontMetrics& metrics)
 {
     int width = metrics.horizontalAdvance(head) / kHeadLines;

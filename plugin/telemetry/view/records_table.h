@@ -34,7 +34,7 @@ public:
     // Makes it the current one, in the middle of what is seen; false where it does not pass the filter.
     bool showRecord(int record);
 
-    // As the Menu key does.
+    // Opens the menu like the Menu key.
     void askMenu();
 
     void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;

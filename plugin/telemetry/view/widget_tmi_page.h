@@ -33,7 +33,7 @@ public:
     using QDialog::open;
     // Shows the first record of an XML or binary file in place of what was on show; nothing if there is none.
     void open(const QString& path);
-    // The same with records that another window has read, beginning with the one at that place.
+    // Shows records that another window has read, beginning with the one at that place.
     void open(std::shared_ptr<const vlk::TelemetryContents> contents, const QString& name, int record);
     void retranslate();
 

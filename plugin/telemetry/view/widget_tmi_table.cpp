@@ -91,7 +91,7 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
                 if (current.isValid())
                     shown_->setCurrent(model_->recordAt(current.row()));
             });
-    // Of many changes in one go the last one counts.
+    // Only the last of many changes in one go counts.
     auto* sums = new QTimer(this);
     sums->setSingleShot(true);
     sums->setInterval(0);

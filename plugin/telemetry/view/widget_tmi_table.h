@@ -34,8 +34,8 @@ public:
     using QDialog::open;
     // Shows an XML or binary file in place of what was on show; an empty table if it holds no record.
     void open(const QString& path);
-    // The same with records that are there already, under that name. Records of a tracker that are still
-    // being made grow by those that it sends.
+    // Shows records that are there already, under that name. Records of a tracker that are still being made
+    // grow by those that it sends.
     enum class Growth { none, live };
     void open(const std::shared_ptr<vlk::TelemetryContents>& contents, const QString& name,
               Growth growth = Growth::none);

@@ -50,7 +50,7 @@ public:
     void deviceDisconnected();
     // What comes from now on belongs to no period that was saved.
     void endGrowth() { growing_.reset(); }
-    // As the user would close it and the calibration window, which asks where rows of it are in no file.
+    // Closes it and the calibration window, which asks where rows of it are in no file, as the user would.
     void closeWindows();
     void retranslate();
 

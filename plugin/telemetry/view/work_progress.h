@@ -12,7 +12,7 @@ class QPushButton;
 
 namespace vlk {
 
-// Of a slice. What takes less than kQuietMs is done at one go.
+// How long a slice of work lasts. What takes less than kQuietMs is done at one go.
 inline constexpr int kSliceMs = 40;
 inline constexpr int kQuietMs = 200;
 

@@ -52,7 +52,7 @@ private:
     static std::optional<Choice> remembered();
     void callBack();
     void describe();
-    // As the field shows it.
+    // The time as the field shows it.
     QDateTime local(const QDateTime& utc) const { return utc.addSecs(offset_); }
 
     const Ui::VLK_Designer_Widget_Tmi_View& ui_;
