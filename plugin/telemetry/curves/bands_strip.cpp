@@ -158,7 +158,7 @@ void BandsStrip::paintMarks(QPainter& painter, const QRect& row, std::size_t mar
     auto record = std::ranges::lower_bound(records, plot_->span().from, {}, timeOfRecord);
     while (record != records.end() && timeOfRecord(*record) <= plot_->span().to) {
         const double x = std::round(plot_->xOf(timeOfRecord(*record))) + 0.5;
-        if (marks > 0 || foundAt(*record) == nullptr)
+        if (marks > 0 || !foundAt(*record))
             painter.drawPolygon(QPolygonF({{x, middle - kMarkReach},
                                            {x + kMarkReach - 1, middle},
                                            {x, middle + kMarkReach},
@@ -242,9 +242,8 @@ QString BandsStrip::tipAt(const QPoint& place) const
     if (const int mark = markAt(place); mark >= 0) {
         const FoundEvent* const found = foundAt(mark);
         const QString event =
-            found != nullptr
-                ? found->text
-                : requests::eventText(static_cast<int>(model_->records().columns().codes()[mark]));
+            found ? found->text
+                  : requests::eventText(static_cast<int>(model_->records().columns().codes()[mark]));
         return momentText(times[mark], offset) + QLatin1Char(' ') + event;
     }
     if (band >= bandCount())

@@ -129,9 +129,8 @@ void CurveChoice::narrow(const QString& words)
     for (int row = 0; row < list_->count(); ++row) {
         QListWidgetItem* const item = list_->item(row);
         const QString text = item->text() + QLatin1Char(' ') + item->data(kNameOfColumn).toString();
-        item->setHidden(!std::all_of(all.begin(), all.end(), [&](const QString& word) {
-            return text.contains(word, Qt::CaseInsensitive);
-        }));
+        item->setHidden(!std::ranges::all_of(
+            all, [&](const QString& word) { return text.contains(word, Qt::CaseInsensitive); }));
     }
     // A key must not act on a row that nobody sees.
     int row = std::max(list_->currentRow(), 0);

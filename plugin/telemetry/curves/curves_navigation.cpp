@@ -161,8 +161,8 @@ bool CurvesNavigation::drag(const QMouseEvent& event)
     if (drag_ == Drag::pan) {
         const double share = -double(way) / std::max(canvas->width(), 1);
         records_.setInSight(moved(dragSpan_, share, records_.wholeTime()));
-    } else if (rubber_ != nullptr || std::abs(way) >= QApplication::startDragDistance()) {
-        if (rubber_ == nullptr)
+    } else if (rubber_ || std::abs(way) >= QApplication::startDragDistance()) {
+        if (!rubber_)
             rubber_ = new QRubberBand(QRubberBand::Rectangle, canvas);
         rubber_->setGeometry(
             QRect(dragFrom_.x(), 0, way, canvas->height()).normalized().intersected(canvas->rect()));

@@ -247,7 +247,7 @@ void CurvesPlot::changeEvent(QEvent* event)
 {
     QwtPlot::changeEvent(event);
     const bool changesLook = event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange;
-    if (!changesLook || canvas() == nullptr)
+    if (!changesLook || !canvas())
         return;
     dress();
     refresh();

@@ -67,7 +67,7 @@ void HandOver::save(const QString& path, const WriteContent& write)
     QString reason;
     const bool isSaved = replaceFile(path, write, &reason);
     const QString shown = QDir::toNativeSeparators(path);
-    if (bar_ == nullptr)
+    if (!bar_)
         return;
     if (isSaved)
         bar_->tellNews(kHandedOver, [shown] {
@@ -133,7 +133,7 @@ void HandOver::print(const PaintPicture& paint)
         return;
     QPainter painter;
     if (!painter.begin(&printer)) {
-        if (bar_ != nullptr)
+        if (bar_)
             bar_->tell(kHandedOver, [] { return Notice{Mark::invalid, translated("rec_172"), {}}; });
         return;
     }

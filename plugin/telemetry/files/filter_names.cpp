@@ -167,7 +167,7 @@ void FilterNames::addWordsOf(ItemIndex item)
         quint32 next = first + 1;
         while (next <= last && wordOf(rule, next) == word)
             ++next;
-        if (word != nullptr)
+        if (word)
             addWord(word->text(), item, {static_cast<double>(first), next > last ? highest : next - 1});
         first = next;
     }

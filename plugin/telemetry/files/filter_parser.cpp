@@ -350,7 +350,7 @@ QString faultText(Expected expected, const QString& text, int position)
 {
     const QString needed = translated(kExpected[static_cast<int>(expected)]);
     const auto isInWord = [](QChar sign) { return sign.isLetterOrNumber() || sign == QLatin1Char('_'); };
-    const auto end = std::find_if_not(text.begin() + position, text.end(), isInWord);
+    const auto end = std::ranges::find_if_not(text.begin() + position, text.end(), isInWord);
     const QString word = text.mid(position, static_cast<int>(end - text.begin()) - position);
     return expected == Expected::name && !word.isEmpty() ? translated("rec_298").arg(needed, word) : needed;
 }

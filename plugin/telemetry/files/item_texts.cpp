@@ -21,10 +21,10 @@ std::string ItemTexts::made(ItemIndex item, std::uint64_t raw)
     const TextParts parts = textParts(raw, item, {userTypes_, &zone_, utcOffset_});
     std::string text = before_;
     const auto add = [&](const Word& word) { text.append(words_.of(word)).append(word.suffix()); };
-    if (parts.word != nullptr)
+    if (parts.word)
         add(*parts.word);
     text += parts.characters.view();
-    if (parts.unit != nullptr) {
+    if (parts.unit) {
         text += ' ';
         add(*parts.unit);
     }

@@ -143,7 +143,7 @@ protected:
         out << "[";
         bool isFirst = true;
         packet.forEachEntry([&](const ExtraEntry& entry) {
-            if (entryWord(entry) == nullptr)
+            if (!entryWord(entry))
                 return;
             out << (std::exchange(isFirst, false) ? "\"" : ",\"") << jsonEscaped(entryText(entry)) << "\"";
         });
@@ -170,7 +170,7 @@ QByteArray entriesAsJson(const ExtraPacket& packet)
 {
     QByteArray list;
     packet.forEachEntry([&](const ExtraEntry& entry) {
-        if (entryWord(entry) == nullptr)
+        if (!entryWord(entry))
             return;
         const QByteArray value = entry.type == ExtraEntry::Card ? '"' + jsonEscaped(entry.text()) + '"'
                                                                 : QByteArray::number(quint64{entry.number()});

@@ -40,7 +40,7 @@ QString entryValue(const ExtraEntry& entry)
 QString entryText(const ExtraEntry& entry)
 {
     const Word* const word = entryWord(entry);
-    return word == nullptr ? QString() : word->text() + entryValue(entry);
+    return word ? word->text() + entryValue(entry) : QString();
 }
 
 } // namespace vlk

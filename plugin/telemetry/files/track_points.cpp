@@ -26,7 +26,7 @@ public:
         QLibrary library(QStringLiteral(VLK_PROJ_LIBRARY));
         const auto init = reinterpret_cast<decltype(&geod_init)>(library.resolve("geod_init"));
         inverse_ = reinterpret_cast<decltype(&geod_inverse)>(library.resolve("geod_inverse"));
-        if (init == nullptr || inverse_ == nullptr) {
+        if (!init || !inverse_) {
             inverse_ = nullptr;
             qCWarning(lcTrack).noquote() << "no distances:" << library.errorString();
             return;
@@ -39,7 +39,7 @@ public:
     double metres(const TrackPoint& one, const TrackPoint& other) const
     {
         double distance = std::numeric_limits<double>::quiet_NaN();
-        if (inverse_ != nullptr)
+        if (inverse_)
             inverse_(&earth_, one.latitude, one.longitude, other.latitude, other.longitude, &distance,
                      nullptr, nullptr);
         return distance;
@@ -74,7 +74,7 @@ void forEachTrackPoint(RecordColumns& columns, int firstRecord, const TrackPoint
     const Column validities = column(item("StateNGauge.fix"));
     const std::vector<quint32>& times = columns.times();
     std::optional<quint32> lastTime;
-    if (before != nullptr)
+    if (before)
         lastTime = before->time;
     for (int record = firstRecord; record < columns.store().size(); ++record) {
         const double latitude = latitudes.at(record);

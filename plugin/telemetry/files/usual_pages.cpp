@@ -111,7 +111,7 @@ std::size_t UsualPages::take(std::string_view text, RecordStore& records)
         at += line.opening.size();
         const auto room = std::min<std::size_t>(end - at, kLongestValue);
         const auto* const next = static_cast<const char*>(std::memchr(at, '<', room));
-        if (next == nullptr || !isNext(next, end, line.closing))
+        if (!next || !isNext(next, end, line.closing))
             return 0;
         const std::string_view value(at, static_cast<std::size_t>(next - at));
         if (value.find('\n') != value.npos || !vlk::take(value, line.element, to))

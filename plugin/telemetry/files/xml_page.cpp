@@ -69,7 +69,7 @@ void XmlPage::readElement(std::string_view line)
     const ElementLine parts = elementLine(line);
     const std::optional<ElementIndex> index = findElement(parts.tag);
     std::uint8_t* const place = index ? placeOf(*index) : nullptr;
-    if (place == nullptr)
+    if (!place)
         return;
     isSound_ = readValue(*index, parts.value, place) && isSound_ && !seen_.test(*index);
     seen_.set(*index);

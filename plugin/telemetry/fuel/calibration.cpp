@@ -15,7 +15,7 @@ namespace {
 QString sensorOfName(const QString& path)
 {
     const QString start = QFileInfo(path).fileName().section(QLatin1Char('-'), 0, 0);
-    return levelSensorOfTable(start) == nullptr ? QString() : start;
+    return levelSensorOfTable(start) ? start : QString();
 }
 
 std::variant<Calibration, TableFault> calibrationInCsv(const QByteArray& content, const QString& path)
@@ -51,7 +51,7 @@ std::variant<Calibration, TableFault> readCalibration(const QString& path)
         return TableFault::Unreadable;
     std::variant<Calibration, TableFault> read = calibrationIn(*content, path);
     const auto* const table = std::get_if<Calibration>(&read);
-    if (const auto fault = table != nullptr ? FuelCurve::faultOf(table->rows) : std::nullopt)
+    if (const auto fault = table ? FuelCurve::faultOf(table->rows) : std::nullopt)
         return *fault;
     return read;
 }
@@ -59,7 +59,7 @@ std::variant<Calibration, TableFault> readCalibration(const QString& path)
 bool suits(const Calibration& table, const LevelSensor& sensor)
 {
     const LevelSensor* const own = levelSensorOfTable(table.sensor);
-    return own == nullptr || own->kind == sensor.kind;
+    return !own || own->kind == sensor.kind;
 }
 
 bool isOfAnother(const Calibration& table, const LevelSensor& sensor)

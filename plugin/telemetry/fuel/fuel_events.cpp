@@ -62,7 +62,7 @@ public:
         });
         std::vector<FuelEvent> events;
         for (const Step& step : steps) {
-            if (std::any_of(walls_.begin() + step.from, walls_.begin() + step.to, std::identity()))
+            if (std::ranges::any_of(walls_.begin() + step.from, walls_.begin() + step.to, std::identity()))
                 continue;
             const std::optional<FuelEvent> event = this->event(step);
             if (!event)

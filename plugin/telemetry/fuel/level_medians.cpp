@@ -19,8 +19,9 @@ constexpr double kStandstill = 3; // km/h
 double medianOf(std::vector<double>& numbers)
 {
     const auto middle = numbers.begin() + static_cast<std::ptrdiff_t>(numbers.size() / 2);
-    std::nth_element(numbers.begin(), middle, numbers.end());
-    return numbers.size() % 2 != 0 ? *middle : (*middle + *std::max_element(numbers.begin(), middle)) / 2;
+    std::ranges::nth_element(numbers, middle);
+    return numbers.size() % 2 != 0 ? *middle
+                                   : (*middle + *std::ranges::max_element(numbers.begin(), middle)) / 2;
 }
 
 std::vector<LevelMedian> levelMedians(RecordColumns& columns, const NumberColumn& litres)

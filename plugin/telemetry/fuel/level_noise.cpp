@@ -20,7 +20,7 @@ double litresOf(std::span<const LevelMedian> medians)
 {
     std::array<double, kSide> litres{};
     const auto end = std::ranges::transform(medians, litres.begin(), &LevelMedian::litres).out;
-    std::sort(litres.begin(), end);
+    std::ranges::sort(litres.begin(), end);
     return (litres[(medians.size() - 1) / 2] + litres[medians.size() / 2]) / 2;
 }
 

@@ -35,8 +35,7 @@ NumberColumn tankLitres(RecordColumns& columns, const std::vector<TankSensor>& t
         const NumberColumn* const litres =
             tank.sensor->kind == LevelKind::Can ? &columns.numbers(tank.sensor->litres) : nullptr;
         for (std::size_t i = 0; i < sum.size(); ++i)
-            sum[i] +=
-                litres != nullptr && !std::isnan((*litres)[i]) ? (*litres)[i] : tankLitresOf(tank, levels[i]);
+            sum[i] += litres && !std::isnan((*litres)[i]) ? (*litres)[i] : tankLitresOf(tank, levels[i]);
     }
     return sum;
 }

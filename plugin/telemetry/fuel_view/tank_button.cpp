@@ -56,7 +56,7 @@ void TankButton::setRecords(ShownRecords& records, const QString& vehicle)
     news_ = {};
     for (const QString& element : memory().choice(vehicle).sensors) {
         const LevelSensor* const sensor = levelSensorOfElement(element);
-        if (sensor == nullptr || std::ranges::find(present_, sensor) == present_.end())
+        if (!sensor || std::ranges::find(present_, sensor) == present_.end())
             continue;
         const QString path = memory().table(vehicle, element);
         if (!path.isEmpty())
@@ -217,7 +217,7 @@ QStringList TankButton::captions() const
 
 QString TankButton::news() const
 {
-    if (news_.key == nullptr)
+    if (!news_.key)
         return {};
     if (news_.sensor != nullptr && news_.first.isEmpty())
         return tr(news_.key).arg(levelSensorCaption(*news_.sensor));

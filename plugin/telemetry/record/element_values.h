@@ -71,7 +71,7 @@ public:
     std::uint64_t raw(ElementIndex index) const
     {
         const std::uint8_t* bytes = static_cast<const Source*>(this)->find(index);
-        return bytes == nullptr ? 0 : rawAt(bytes, kElements[index].width);
+        return bytes ? rawAt(bytes, kElements[index].width) : 0;
     }
 
     std::int64_t integer(ElementIndex index) const { return integerOf(raw(index), kElements[index].type); }

@@ -58,7 +58,7 @@ ExtraPacket ExtraPacket::fromKeyAnswer(std::span<const std::uint8_t> packet)
         std::max<std::ptrdiff_t>(std::ssize(packet), kUncountedBytes + extra.countedBytes());
     extra.takeArea(packet, end, areaSize);
     if (end >= areaSize && end - areaSize < kHVerAt)
-        std::fill(extra.head_.begin() + (end - areaSize), extra.head_.end(), 0);
+        std::ranges::fill(extra.head_.begin() + (end - areaSize), extra.head_.end(), 0);
     return extra;
 }
 

@@ -52,7 +52,7 @@ inline std::span<const std::uint8_t> behind(std::span<const std::uint8_t> record
 // The bytes that a message brought; a null pointer or a negative size brings none.
 inline std::span<const std::uint8_t> bytesAt(const void* data, std::ptrdiff_t size)
 {
-    if (data == nullptr || size <= 0)
+    if (!data || size <= 0)
         return {};
     return {static_cast<const std::uint8_t*>(data), static_cast<std::size_t>(size)};
 }

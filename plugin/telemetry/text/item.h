@@ -34,7 +34,7 @@ struct Item
 // What the number of the item measures under that rule, one of the item's.
 constexpr const Measure& measureOf(const Item& item, const Rule& rule)
 {
-    return rule.measure != nullptr ? *rule.measure : kElements[item.element].measure;
+    return rule.measure ? *rule.measure : kElements[item.element].measure;
 }
 
 inline constexpr int kItemCount = [] {

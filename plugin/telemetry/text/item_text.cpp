@@ -85,7 +85,7 @@ qint32 shownOffset(const TextOptions& options)
 {
     if (options.utcOffset)
         return *options.utcOffset;
-    return options.zone != nullptr ? options.zone->offsetNow() : localOffset();
+    return options.zone ? options.zone->offsetNow() : localOffset();
 }
 
 void addShape(TextParts& parts, const Value& value, const Rule& rule, const Measure& measure,
@@ -93,7 +93,7 @@ void addShape(TextParts& parts, const Value& value, const Rule& rule, const Meas
 {
     const auto seconds = static_cast<quint32>(value.raw);
     const auto offsetThen = [&] {
-        return options.zone != nullptr ? options.zone->offsetAt(seconds) : LocalZone().offsetAt(seconds);
+        return options.zone ? options.zone->offsetAt(seconds) : LocalZone().offsetAt(seconds);
     };
     switch (rule.shape) {
     case Shape::decimal:
@@ -132,8 +132,7 @@ void addShape(TextParts& parts, const Value& value, const Rule& rule, const Meas
 const Rule* ruleFor(const Item& item, const Value& whole)
 {
     const Rule* rule = &item.rule();
-    while (rule != nullptr && rule->when.bit != Condition::kNone &&
-           whole.testBit(rule->when.bit) != rule->when.set)
+    while (rule && rule->when.bit != Condition::kNone && whole.testBit(rule->when.bit) != rule->when.set)
         rule = rule->otherwise;
     return rule;
 }
@@ -141,7 +140,7 @@ const Rule* ruleFor(const Item& item, const Value& whole)
 void addValue(TextParts& parts, const Value& whole, const Item& item, const TextOptions& options)
 {
     const Rule* const rule = ruleFor(item, whole);
-    if (rule == nullptr)
+    if (!rule)
         return;
     const Measure& measure = measureOf(item, *rule);
     if (measure.noValue == whole.integer()) {
@@ -178,7 +177,7 @@ double itemNumber(std::uint64_t raw, ItemIndex index, std::string_view userTypes
     const Item& item = kItems[index];
     const Value whole{raw, kElements[item.element].type};
     const Rule* const rule = ruleFor(item, whole);
-    if (rule == nullptr)
+    if (!rule)
         return kNone;
     const Measure& measure = measureOf(item, *rule);
     if (measure.noValue == whole.integer() || (measure.belowZeroIsNone && whole.number() < 0))
@@ -226,7 +225,7 @@ TextParts textParts(const TmiPage_Zeta3& page, ItemIndex index, const TextOption
     TextOptions ofPage = options;
     if (page.hasUtcOffset())
         ofPage.utcOffset = page.utcOffset();
-    if (page.isExtra() && page.extra().find(element) != nullptr)
+    if (page.isExtra() && page.extra().find(element))
         return textParts(page.extra().raw(element), index, ofPage);
     return page.has(element) ? textParts(page.raw(element), index, ofPage) : TextParts();
 }
@@ -238,10 +237,10 @@ QString text(const TmiPage_Zeta3& page, ItemIndex index, const TextOptions& opti
     if (rule.shape == Shape::special)
         return rule.always || page.has(item.element) ? rule.special(page) : QString();
     const TextParts parts = textParts(page, index, options);
-    QString text = parts.word != nullptr ? parts.word->text() : QString();
+    QString text = parts.word ? parts.word->text() : QString();
     if (!parts.characters.view().empty())
         text += parts.characters.string();
-    if (parts.unit != nullptr)
+    if (parts.unit)
         text += QLatin1Char(' ') + parts.unit->text();
     return text;
 }

@@ -47,7 +47,7 @@ public:
 
     double operator()(std::uint64_t raw) const
     {
-        if (measure_ == nullptr)
+        if (!measure_)
             return itemNumber(raw, item_, userTypes_);
         const double number = numberOf(raw, type_);
         if (measure_->noValue == integerOf(raw, type_) || (measure_->belowZeroIsNone && number < 0))

@@ -56,7 +56,7 @@ QString valueText(const Field& field, const QByteArray& bytes)
 
 QString fieldLine(const Field& field, const QByteArray& bytes)
 {
-    QString caption = translated(field.states != nullptr ? field.states->title : field.key);
+    QString caption = translated(field.states ? field.states->title : field.key);
     if (field.numbered == Numbered::WithSign)
         caption += QLatin1Char(' ') + translated("abbr_047");
     if (field.numbered != Numbered::No)
@@ -100,7 +100,7 @@ QString fileStateText(quint8 code)
     if (row == std::end(kFileStates))
         return QStringLiteral("<b>(0x%1)</b>").arg(hex);
     QString text = translated(row->key) + QLatin1String(row->stop);
-    if (row->addition != nullptr)
+    if (row->addition)
         text += QLatin1Char(' ') + translated(row->addition) + QLatin1String(row->stop);
     return QStringLiteral("<b>(0x%1) %2</b>").arg(hex, text);
 }

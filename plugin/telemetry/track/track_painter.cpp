@@ -80,16 +80,16 @@ private:
         std::uint8_t* const here = cell(end);
         const std::uint8_t* const there = cell(start);
         const auto mark = static_cast<std::uint8_t>(bin + 1);
-        if (here != nullptr && there != nullptr && *here == mark && *there == mark)
+        if (here && there && *here == mark && *there == mark)
             return;
-        if (here != nullptr)
+        if (here)
             *here = mark;
         lines_[bin] << QLineF(start, end);
     }
 
     int binOf(int record) const
     {
-        const bool hasValue = values_ != nullptr && record < static_cast<int>(values_->size());
+        const bool hasValue = values_ && record < static_cast<int>(values_->size());
         const int place = hasValue ? model_.classes().classOf((*values_)[record]) : -1;
         return place < 0 ? kBins - 1 : place;
     }

@@ -28,7 +28,7 @@ void AutomaticRequests::start(int seconds)
 
 void AutomaticRequests::next(int seconds)
 {
-    const bool production = vlkDevice != nullptr && vlkDevice->isProduction();
+    const bool production = vlkDevice && vlkDevice->isProduction();
     const bool waitStep = production && autoCount_ == kRecordsBeforeWaitStep;
     if (production)
         autoCount_ = waitStep ? 1 : autoCount_ + 1;

@@ -33,8 +33,8 @@ unsigned ClearingSequence::awaited() const
 
 void ClearingSequence::next()
 {
-    const auto checked = std::find_if(servers_.begin() + (step_ - kIdle), servers_.end(),
-                                      [](const QCheckBox* server) { return server->isChecked(); });
+    const auto checked = std::ranges::find_if(servers_.begin() + (step_ - kIdle), servers_.end(),
+                                              [](const QCheckBox* server) { return server->isChecked(); });
     if (checked == servers_.end()) {
         step_ = kIdle;
         return;

@@ -43,7 +43,7 @@ ColumnChoice::ColumnChoice(RecordsModel* model, RecordsTable* table)
 QString ColumnChoice::nameOf(int column) const
 {
     const CsvColumn* const shown = model_->columnAt(column);
-    if (shown == nullptr)
+    if (!shown)
         return QStringLiteral("packets");
     const std::string_view name = kItems[shown->item].name;
     return QString::fromLatin1(name.data(), static_cast<int>(name.size()));
@@ -57,7 +57,7 @@ bool ColumnChoice::isFixed(int column) const
 ColumnGroup ColumnChoice::groupOf(int column) const
 {
     const CsvColumn* const shown = model_->columnAt(column);
-    return shown != nullptr ? groupOfField(shown->field()) : ColumnGroup::record;
+    return shown ? groupOfField(shown->field()) : ColumnGroup::record;
 }
 
 void ColumnChoice::takeColumns(const RecordStore& records)

@@ -32,7 +32,7 @@ private:
     bool toggle()
     {
         QAction* const action = activeAction();
-        const bool isToggled = action != nullptr && action->isCheckable() && action->isEnabled();
+        const bool isToggled = action && action->isCheckable() && action->isEnabled();
         if (isToggled)
             action->trigger();
         return isToggled;

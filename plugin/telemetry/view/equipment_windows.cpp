@@ -7,7 +7,7 @@ namespace vlk {
 
 bool EquipmentWindows::openTachograph()
 {
-    const bool isNew = tachograph_ == nullptr;
+    const bool isNew = !tachograph_;
     if (isNew)
         tachograph_ = new VLK_Form_TMI_Taho(view_);
     tachograph_->open();
@@ -16,7 +16,7 @@ bool EquipmentWindows::openTachograph()
 
 void EquipmentWindows::openFuelSensors(const QString& vehicle)
 {
-    if (fuelSensors_ == nullptr)
+    if (!fuelSensors_)
         fuelSensors_ = new VLK_Form_TMI_Fuel_Sensors(view_);
     if (fuelSensors_->isVisible() && fuelSensors_->hasRows()) {
         fuelSensors_->raise();
@@ -28,47 +28,47 @@ void EquipmentWindows::openFuelSensors(const QString& vehicle)
 
 void EquipmentWindows::linkFound()
 {
-    if (fuelSensors_ != nullptr)
+    if (fuelSensors_)
         fuelSensors_->linkFound();
 }
 
 void EquipmentWindows::linkLost()
 {
-    if (tachograph_ != nullptr)
+    if (tachograph_)
         tachograph_->close();
-    if (fuelSensors_ != nullptr)
+    if (fuelSensors_)
         fuelSensors_->linkLost();
 }
 
 void EquipmentWindows::closeFuelSensors()
 {
-    if (fuelSensors_ != nullptr)
+    if (fuelSensors_)
         fuelSensors_->close();
 }
 
 void EquipmentWindows::retranslate()
 {
-    if (tachograph_ != nullptr)
+    if (tachograph_)
         tachograph_->retranslate();
-    if (fuelSensors_ != nullptr)
+    if (fuelSensors_)
         fuelSensors_->retranslate();
 }
 
 void EquipmentWindows::takeTachographAnswer(const QByteArray& answer)
 {
-    if (tachograph_ != nullptr)
+    if (tachograph_)
         tachograph_->takeAnswer(answer);
 }
 
 void EquipmentWindows::takeTachographFetched(bool done)
 {
-    if (tachograph_ != nullptr)
+    if (tachograph_)
         tachograph_->takeFetched(done);
 }
 
 void EquipmentWindows::takeAnalog(const uchar* record)
 {
-    if (fuelSensors_ != nullptr)
+    if (fuelSensors_)
         fuelSensors_->onLiveRecord(record);
 }
 

@@ -39,7 +39,7 @@ ExportDialog::ExportDialog(const ExportChoice& choice, const Counts& counts, QWi
         auto* caption = new QLabel(tr(key), this);
         caption->setBuddy(field);
         grid->addWidget(caption, row, 0);
-        if (field != nullptr)
+        if (field)
             grid->addWidget(field, row++, 1);
     };
     addCaption("rec_086", nullptr);
@@ -100,7 +100,7 @@ QString ExportDialog::askPath(ExportForm form, const QString& proposed, QWidget*
 {
     const ExportFormRow& row = rowOf(form);
     const QString suffix = QLatin1String(row.suffix);
-    QFileDialog dialog(parent, tr("rec_085"), vlkDevice != nullptr ? vlkDevice->tmiFolder() : QString(),
+    QFileDialog dialog(parent, tr("rec_085"), vlkDevice ? vlkDevice->tmiFolder() : QString(),
                        QStringLiteral("%1 (*.%2)").arg(tr(row.key), suffix));
     dialog.setObjectName(QStringLiteral("fileDialog_Told")); // by the bar: the host need not
     dialog.setAcceptMode(QFileDialog::AcceptSave);

@@ -123,7 +123,7 @@ const FilterNames& FilterField::names()
     names_.emplace();
     names_->addTexts();
     for (const char* language : kLanguages) {
-        const TextSource source = vlkDevice != nullptr ? vlkDevice->textsIn(language) : TextSource();
+        const TextSource source = vlkDevice ? vlkDevice->textsIn(language) : TextSource();
         if (!source)
             continue;
         const TextsFrom other(source);
@@ -243,7 +243,7 @@ QString FilterField::conditionOf(int record, int column)
 {
     const CsvColumn* const known = model_->columnAt(column);
     const std::optional<quint64> raw = model_->raw(record, column);
-    if (known == nullptr || !raw)
+    if (!known || !raw)
         return {};
     const double number = itemNumber(*raw, known->item, shown_->columns().userTypes());
     if (std::isnan(number))

@@ -160,7 +160,7 @@ void showMileageOnShow(QInputDialog& dialog, const QString& mileage)
 {
     dialog.sizeHint(); // by which it arranges itself
     auto* column = qobject_cast<QVBoxLayout*>(dialog.layout());
-    if (column == nullptr || mileage.isEmpty())
+    if (!column || mileage.isEmpty())
         return;
     auto* shown = new QLabel(VLK_Form_Tmi_F3_Tab_Main::tr("tmiw_300").arg(mileage));
     shown->setObjectName(QStringLiteral("label_Run_Shown"));

@@ -185,7 +185,7 @@ void VLK_Form_TMI_Production::markLimits(const TmiPage_Zeta3& page)
     const QPalette normal = findChild<QLabel*>(QStringLiteral("label_GSM_State_Text"))->palette();
     QPalette failed = normal;
     failed.setColor(QPalette::WindowText, Qt::red);
-    const int mode = vlkDevice != nullptr ? vlkDevice->mode() : 0;
+    const int mode = vlkDevice ? vlkDevice->mode() : 0;
     for (const Limit& limit : kLimits) {
         const bool applies = mode >= 1 && mode <= limit.lastMode;
         findChild<QLabel*>(QLatin1String(limit.label))
@@ -245,6 +245,6 @@ void VLK_Form_TMI_Production::retranslate()
         segmentCaptions_[i]->setText(parts.value(static_cast<int>(i)));
     alignValues();
     arrange();
-    if (record_.page() != nullptr)
+    if (record_.page())
         fill(*record_.page());
 }

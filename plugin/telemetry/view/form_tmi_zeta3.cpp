@@ -138,7 +138,7 @@ void VLK_Form_TMI_Zeta3::retranslate()
         tabWidget_->setTabText(i, tabs_[i]->title());
         menu_->actions().at(i)->setText(tabs_[i]->title());
     }
-    if (record_.page() != nullptr)
+    if (record_.page())
         fill(*record_.page());
 }
 

@@ -97,6 +97,6 @@ void VLK_Form_TMI_ZetaExt::retranslate()
     groupBox_NaviMain_->setTitle(tr("tmiex_001"));
     treeWidget_->setHeaderLabels({tr("tmiex_011"), tr("tmiex_012")});
     rows_.retranslate();
-    if (record_.page() != nullptr)
+    if (record_.page())
         rows_.fill(*record_.page());
 }

@@ -37,7 +37,7 @@ const QString* titleOf(const CsvColumn& column, const TelemetryTitles& titles)
     for (const QString* title :
          {among(titles.inputs, item("StateIn1.0")), among(titles.outputs, item("StateOut1.0")),
           among(titles.temperatures, item("Temp1"))}) {
-        if (title != nullptr)
+        if (title)
             return title;
     }
     return nullptr;
@@ -89,7 +89,7 @@ QString headText(const CsvColumn& column, const TelemetryTitles& titles)
 {
     QString text = headingText(column);
     const QString* const title = titleOf(column, titles);
-    if (title != nullptr && !title->isEmpty())
+    if (title && !title->isEmpty())
         text = QStringLiteral("%1 (%2)").arg(*title, text);
     if (kindOf(column) != CellKind::number)
         return text;

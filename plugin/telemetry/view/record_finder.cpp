@@ -81,7 +81,7 @@ bool RecordFinder::matches(int record, int column)
     const auto isIn = [&] { return model_->text(record, column).contains(words_, Qt::CaseInsensitive); };
     const std::optional<quint64> raw = model_->raw(record, column);
     if (!raw)
-        return model_->columnAt(column) == nullptr && isIn();
+        return !model_->columnAt(column) && isIn();
     auto& known = known_[column];
     if (const auto value = known.find(*raw); value != known.end())
         return value->second;

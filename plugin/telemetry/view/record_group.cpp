@@ -94,7 +94,7 @@ void RecordGroup::addListRow(const ValueSeries& series, int index, int row, int 
     Row& pair = addPair(series, number);
     grid_->addWidget(pair.widgets[0], row, column);
     grid_->addWidget(pair.widgets[1], row, column + 2);
-    if (series.title != nullptr) {
+    if (series.title) {
         auto* title = new ValueLabel(numberedName(series.title, number), this);
         title->setTextWidths(kLeastCharacters, kMostCharacters);
         titles_.push_back(title);

@@ -11,7 +11,7 @@ const TmiPage_Zeta3& RecordOnShow::take(const QByteArray& record)
 {
     TmiPage_Zeta3& page = pageToFill();
     page.setRecord(record.constData(), record.size());
-    if (panel_ != nullptr)
+    if (panel_)
         panel_->setRecord(page);
     return page;
 }
@@ -20,7 +20,7 @@ const TmiPage_Zeta3& RecordOnShow::takeKeyAnswer(const QByteArray& answer)
 {
     TmiPage_Zeta3& page = pageToFill();
     page.setKeyAnswer(answer.constData(), answer.size());
-    if (panel_ != nullptr)
+    if (panel_)
         panel_->setRecord(page);
     return page;
 }
@@ -30,22 +30,22 @@ bool RecordOnShow::setUtcOffset(int seconds)
     if (seconds == utcOffset_)
         return false;
     utcOffset_ = seconds;
-    if (page_ == nullptr)
+    if (!page_)
         return false;
     page_->setUtcOffset(seconds);
-    if (panel_ != nullptr)
+    if (panel_)
         panel_->setTime(*page_);
     return true;
 }
 
 qint64 RecordOnShow::number() const
 {
-    return page_ == nullptr ? -1 : qint64{page_->number()};
+    return page_ ? qint64{page_->number()} : -1;
 }
 
 TmiPage_Zeta3& RecordOnShow::pageToFill()
 {
-    if (page_ == nullptr) {
+    if (!page_) {
         page_ = std::make_unique<TmiPage_Zeta3>();
         page_->setUtcOffset(utcOffset_);
     }

@@ -50,7 +50,7 @@ OrderKeys alphabetical(OrderKeys codes, const std::function<QString(int record)>
     const QString* before = nullptr;
     for (const auto& [code, text] : byAlphabet) {
         // Codes with the same words are equal.
-        if (before != nullptr && *before != text)
+        if (before && *before != text)
             ++place;
         before = &text;
         places[code] = text.isEmpty() ? kNoKey : place;

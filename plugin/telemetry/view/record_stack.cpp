@@ -39,7 +39,7 @@ std::optional<quint32> RecordStack::showRecord(const QByteArray& record)
     case kProtocol2:
         return showNumber(Zeta2, TmiPage_Zeta2(record.constData(), record.size()).number());
     case kProtocol3:
-        if (vlkDevice != nullptr && vlkDevice->isProduction())
+        if (vlkDevice && vlkDevice->isProduction())
             return showIn(production_, Production, record);
         return showIn(zeta3_, Zeta3, record);
     default:
@@ -93,7 +93,7 @@ quint32 RecordStack::showIn(Form*& form, Page page, const QByteArray& record)
 template <class Form>
 Form& RecordStack::formIn(Form*& form, Page page)
 {
-    if (form == nullptr) {
+    if (!form) {
         form = new Form(panel_);
         auto* layout = new QVBoxLayout(stack_->widget(page));
         layout->setContentsMargins(0, 0, 0, 0);
@@ -109,17 +109,17 @@ template <class Act>
 void RecordStack::withShownForm(Act act)
 {
     const int page = stack_->currentIndex();
-    if (page == Zeta3 && zeta3_ != nullptr)
+    if (page == Zeta3 && zeta3_)
         act(*zeta3_);
-    else if (page == ZetaExt && zetaExt_ != nullptr)
+    else if (page == ZetaExt && zetaExt_)
         act(*zetaExt_);
-    else if (page == Production && production_ != nullptr)
+    else if (page == Production && production_)
         act(*production_);
 }
 
 void RecordStack::prepareZeta3()
 {
-    if (zeta3_ == nullptr)
+    if (!zeta3_)
         return;
     zeta3_->setLive(live_);
     zeta3_->setTitles(titles_);
@@ -150,14 +150,14 @@ void RecordStack::setUtcOffset(int seconds)
 void RecordStack::retranslate()
 {
     panel_->retranslate();
-    if (zeta3_ != nullptr)
+    if (zeta3_)
         zeta3_->retranslate();
-    if (zetaExt_ != nullptr)
+    if (zetaExt_)
         zetaExt_->retranslate();
-    if (production_ != nullptr)
+    if (production_)
         production_->retranslate();
     withShownForm([this](const auto& form) {
-        if (form.page() != nullptr)
+        if (form.page())
             panel_->setRecord(*form.page());
     });
 }

@@ -169,7 +169,7 @@ int RecordsModel::columnOf(ItemIndex item) const
 
 CellKind RecordsModel::kind(int column) const
 {
-    return columnAt(column) != nullptr ? columns_[column].kind : CellKind::characters;
+    return columnAt(column) ? columns_[column].kind : CellKind::characters;
 }
 
 QVariant RecordsModel::data(const QModelIndex& index, int role) const
@@ -186,15 +186,15 @@ QVariant RecordsModel::data(const QModelIndex& index, int role) const
         return {};
     const quint64 key = static_cast<quint64>(record) << 32 | static_cast<quint32>(column);
     const QString* const known = texts_.object(key);
-    const QString shownText = known != nullptr ? *known : text(record, column);
-    if (known == nullptr)
+    const QString shownText = known ? *known : text(record, column);
+    if (!known)
         texts_.insert(key, new QString(shownText));
     if (shownText.isEmpty())
         return absentData(record, column, role);
     if (role == Qt::DisplayRole)
         return shownText;
     const CsvColumn* const shown = columnAt(column);
-    const bool isPlace = shown != nullptr && kItems[shown->item].rule().shape == Shape::coordinate;
+    const bool isPlace = shown && kItems[shown->item].rule().shape == Shape::coordinate;
     return role == Qt::ToolTipRole && isPlace ? positionText(decoded(record), shown->item) : QVariant();
 }
 
@@ -219,8 +219,7 @@ QVariant RecordsModel::cutData(int role)
 QVariant RecordsModel::absentData(int record, int column, int role) const
 {
     const CsvColumn* const shown = columnAt(column);
-    const bool isHeld =
-        shown != nullptr ? holds(decoded(record), shown->element()) : decoded(record).isExtra();
+    const bool isHeld = shown ? holds(decoded(record), shown->element()) : decoded(record).isExtra();
     switch (role) {
     case Qt::DisplayRole:
         return QString(kAbsentMark);
@@ -245,7 +244,7 @@ QVariant RecordsModel::headerData(int section, Qt::Orientation orientation, int 
     if (role == Qt::TextAlignmentRole)
         return alignment(section) | Qt::TextWordWrap;
     if (role == Qt::DisplayRole || role == Qt::ToolTipRole)
-        return columnAt(section) != nullptr ? columns_[section].head : packetHead_;
+        return columnAt(section) ? columns_[section].head : packetHead_;
     return {};
 }
 
@@ -261,7 +260,7 @@ std::optional<quint64> RecordsModel::raw(int record, int column) const
 {
     const CsvColumn* const shown = columnAt(column);
     const TmiPage_Zeta3& page = decoded(record);
-    if (shown == nullptr || !holds(page, shown->element()))
+    if (!shown || !holds(page, shown->element()))
         return {};
     return page.isExtra() ? page.extra().raw(shown->element()) : page.raw(shown->element());
 }
@@ -289,14 +288,14 @@ QString RecordsModel::numberText(int record, int column, const QLocale& locale) 
     const double number = itemNumber(*raw(record, column), shown.item);
     if (std::isnan(number)) {
         const TextParts parts = cellParts(decoded(record), shown);
-        return parts.word != nullptr ? parts.word->text() : QString();
+        return parts.word ? parts.word->text() : QString();
     }
     return locale.toString(number, 'f', columns_[column].decimals);
 }
 
 QString RecordsModel::text(int record, int column) const
 {
-    if (columnAt(column) == nullptr)
+    if (!columnAt(column))
         return packetText(record);
     const std::optional<quint64> value = raw(record, column);
     if (!value)
@@ -333,7 +332,7 @@ QString RecordsModel::textToCopy(int record, int column) const
 
 std::vector<double> RecordsModel::keys(int column) const
 {
-    if (columnAt(column) == nullptr) {
+    if (!columnAt(column)) {
         std::vector<double> packets(shown_->records().size(), kNoKey);
         for (int record = 0; record < shown_->records().size(); ++record) {
             if (shown_->records().layout(record).isPacket())

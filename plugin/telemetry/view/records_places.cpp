@@ -21,11 +21,11 @@ RecordsPlaces::RecordsPlaces(QWidget* table, std::vector<RecordsPart> parts, QWi
     below->setChildrenCollapsible(false);
     below->addWidget(table);
     for (const RecordsPart& part : parts_) {
-        if (part.title == nullptr) {
+        if (!part.title) {
             addWidget(part.widget);
             continue;
         }
-        if (views_ == nullptr) {
+        if (!views_) {
             views_ = new QTabWidget;
             views_->setObjectName(QStringLiteral("tabWidget_Views"));
             below->addWidget(views_);
@@ -53,7 +53,7 @@ bool RecordsPlaces::stepBack()
 void RecordsPlaces::retranslate()
 {
     for (const RecordsPart& part : parts_) {
-        if (part.title != nullptr)
+        if (part.title)
             views_->setTabText(views_->indexOf(part.widget), tr(part.title));
         part.retranslate();
     }

@@ -178,7 +178,7 @@ void RecordsTable::fitWidths()
             width = std::max(width, cellWidth(*this, model_->index(row, column).data().toString()));
         }
         // Packets are rare, and the rows that were looked at may hold none.
-        const bool isWide = model_->columnAt(column) == nullptr;
+        const bool isWide = !model_->columnAt(column);
         width = isWide ? kWidestColumn : std::min(width, kWidestColumn);
         setColumnWidth(column, width);
         frozen_->setColumnWidth(column, width);

@@ -108,7 +108,7 @@ void SaveProgress::setFetched(quint32 done, quint32 total, qint64 seconds)
 
 void SaveProgress::retranslate()
 {
-    if (statusKey_ != nullptr)
+    if (statusKey_)
         ui_.label_ProgressBar_Time->setText(QCoreApplication::translate("vlk", statusKey_));
     ui_.progressBar_Time->setFormat(
         isSilent_

@@ -103,7 +103,7 @@ void SaveSequence::start(Mode mode, const QDateTime& first, const QDateTime& las
 void SaveSequence::take(const QByteArray& record)
 {
     // Nothing is asked of the tracker while the user looks for a file name.
-    if (fileDialog_ != nullptr)
+    if (fileDialog_)
         return;
     arrived_.push_back(record);
     if (stepping_)
@@ -127,7 +127,7 @@ void SaveSequence::stop()
         progress_.clear();
         return;
     }
-    if (fileDialog_ != nullptr)
+    if (fileDialog_)
         fileDialog_->reject();
     end();
 }
@@ -135,7 +135,7 @@ void SaveSequence::stop()
 EndedSave SaveSequence::endNow()
 {
     // Where a file name is asked for, or the file is written, the user is told already.
-    if (!isRunning() || saveState_ == Writing || fileDialog_ != nullptr)
+    if (!isRunning() || saveState_ == Writing || fileDialog_)
         return {};
     return {.ended = 1, .records = static_cast<std::uint32_t>(carryOutCancel())};
 }
@@ -226,8 +226,7 @@ bool SaveSequence::chooseFile()
 {
     const SavedFileKind& kind = kindOf(saveMode_);
     const QString suffix = QLatin1String(kind.suffix);
-    QFileDialog dialog(window_, translated("wrd_028"),
-                       vlkDevice != nullptr ? vlkDevice->tmiFolder() : QString(),
+    QFileDialog dialog(window_, translated("wrd_028"), vlkDevice ? vlkDevice->tmiFolder() : QString(),
                        QStringLiteral("%1 (*.%2)").arg(translated(kind.name), suffix));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(suffix);

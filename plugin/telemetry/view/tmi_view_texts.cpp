@@ -70,7 +70,7 @@ void setToolTips(const Ui::VLK_Designer_Widget_Tmi_View& ui, const char* reasonK
         {ui.spinBox_RFID, "tmiw_147"},
         {ui.label_Capability, "tmiw_178"},
     };
-    const QString reason = reasonKey != nullptr ? vlk::translated(reasonKey) : QString();
+    const QString reason = reasonKey ? vlk::translated(reasonKey) : QString();
     for (QWidget* control : manualControls(ui))
         control->setToolTip(reason);
     ui.checkBox_Get_Auto_TMI->setToolTip(ui.checkBox_Get_Auto_TMI->isEnabled() ? QString() : reason);

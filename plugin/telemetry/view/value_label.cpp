@@ -32,7 +32,7 @@ void ValueLabel::setTextWidths(int leastCharacters, int mostCharacters)
 
 void ValueLabel::setValue(const QString& value)
 {
-    if (std::exchange(absentTip_, nullptr) != nullptr) {
+    if (std::exchange(absentTip_, nullptr)) {
         updateGeometry();
         update();
     }
@@ -42,7 +42,7 @@ void ValueLabel::setValue(const QString& value)
 void ValueLabel::setAbsent(const char* tipKey)
 {
     setText({});
-    if (std::exchange(absentTip_, tipKey) == nullptr) {
+    if (!std::exchange(absentTip_, tipKey)) {
         updateGeometry();
         update();
     }

@@ -57,15 +57,15 @@ QStringList partsAroundValues(const QString& text)
 void ValueRows::add(QGridLayout* grid, std::span<const ValueRow> rows, int column)
 {
     int at = 0;
-    while (grid->itemAtPosition(at, column) != nullptr)
+    while (grid->itemAtPosition(at, column))
         ++at;
     for (const ValueRow& row : rows) {
         const QString name = QString::fromLatin1(row.value);
         QLabel* caption = makeCaption(QString(name).replace(QLatin1String("_Value"), QLatin1String("_Text")));
         ValueLabel* value = makeValue(name);
         grid->addWidget(caption, at, column);
-        QLabel* unit = row.unit == nullptr ? nullptr : makeCaption(QString::fromLatin1(row.unit));
-        if (unit == nullptr)
+        QLabel* unit = row.unit ? makeCaption(QString::fromLatin1(row.unit)) : nullptr;
+        if (!unit)
             grid->addWidget(value, at, column + 1);
         else
             grid->addLayout(besideEachOther({value, unit}), at, column + 1);
@@ -80,7 +80,7 @@ void ValueRows::retranslate()
     for (const Shown& shown : shown_) {
         const QStringList parts = partsAroundValues(QCoreApplication::translate("vlk", shown.row.key));
         shown.caption->setText(parts.value(0));
-        if (shown.unit == nullptr)
+        if (!shown.unit)
             shown.value->setMinimumWidth(widestText(shown.value->fontMetrics(), shown.row.item));
         else
             shown.unit->setText(shown.row.unitKey != nullptr

@@ -63,7 +63,7 @@ QStringList longTexts(const Item& item, const Rule& rule)
             text += QLatin1Char(' ') + unit.text();
     }
     texts << rule.none.text();
-    return rule.otherwise == nullptr ? texts : texts + longTexts(item, *rule.otherwise);
+    return rule.otherwise ? texts + longTexts(item, *rule.otherwise) : texts;
 }
 
 } // namespace

@@ -259,8 +259,8 @@ void VLK_Widget_Tmi_Table::keyPressEvent(QKeyEvent* event)
 // What was opened, typed or put on the records last goes first; false where nothing is left of it.
 bool VLK_Widget_Tmi_Table::stepBack()
 {
-    const bool isInField = qobject_cast<QLineEdit*>(focusWidget()) != nullptr ||
-                           qobject_cast<QAbstractSpinBox*>(focusWidget()) != nullptr;
+    const bool isInField =
+        qobject_cast<QLineEdit*>(focusWidget()) || qobject_cast<QAbstractSpinBox*>(focusWidget());
     if (progress_->isRunning()) {
         Q_EMIT progress_->cancelled();
     } else if (findBar_->isVisible()) {
@@ -346,7 +346,7 @@ void VLK_Widget_Tmi_Table::exportRecords()
         records = choice_.what == ExportChoice::selected ? selected : model_->records();
     ExportOptions options;
     options.origin = shown_->contents()->origin;
-    if (options.origin.model.isEmpty() && vlkDevice != nullptr) {
+    if (options.origin.model.isEmpty() && vlkDevice) {
         options.origin.model = vlkDevice->model();
         options.origin.vendor = vlkDevice->vendor();
     }

@@ -90,9 +90,9 @@ void VLK_Widget_Tmi_View::open(const QString& configurationPath)
 {
     stopRequests();
     readTrackerSetup(configurationPath, setup_);
-    if (vlkDevice != nullptr)
+    if (vlkDevice)
         qstrncpy(vlkDevice->balanceUssd(), setup_.balanceUssd.toLocal8Bit().constData(), kBalanceUssdSize);
-    pages_.setTracker(setup_.titles, vlkDevice != nullptr ? vlkDevice->capabilityMask() : 0);
+    pages_.setTracker(setup_.titles, vlkDevice ? vlkDevice->capabilityMask() : 0);
 
     save_.clearProgress();
     tellNoServer(false);
@@ -114,7 +114,7 @@ void VLK_Widget_Tmi_View::open(const QString& configurationPath)
     raise();
     equipment_.linkFound();
 
-    if (vlkDevice != nullptr && vlkDevice->isProduction()) {
+    if (vlkDevice && vlkDevice->isProduction()) {
         ui_->horizontalSlider_Auto_Tmi->setValue(1);
         ui_->checkBox_Get_Auto_TMI->setChecked(true);
     } else {
@@ -124,7 +124,7 @@ void VLK_Widget_Tmi_View::open(const QString& configurationPath)
 
 void VLK_Widget_Tmi_View::setTitle()
 {
-    if (vlkDevice == nullptr)
+    if (!vlkDevice)
         return;
     const QString mask = QString::number(vlkDevice->capabilityMask(), 16).toUpper();
     setWindowTitle(
@@ -137,7 +137,7 @@ void VLK_Widget_Tmi_View::setManualBlocked(const char* reasonKey)
 {
     blockedBy_ = reasonKey;
     for (QWidget* control : manualControls(*ui_))
-        control->setEnabled(reasonKey == nullptr);
+        control->setEnabled(!reasonKey);
     pages_.setCommandsBlocked(reasonKey);
     setToolTips(*ui_, reasonKey);
 }
@@ -153,7 +153,7 @@ void VLK_Widget_Tmi_View::showSaving(bool running)
         notices_->end(kSavedInPart);
         notices_->end(kSaved);
         // A key that is pressed once more must not get to the control that comes next.
-        focusBeforeSave_ = focused != nullptr && !focused->isEnabled() ? focused : nullptr;
+        focusBeforeSave_ = focused && !focused->isEnabled() ? focused : nullptr;
         if (focusBeforeSave_)
             setFocus();
     } else if (focusBeforeSave_ && (focused == this || focused == ui_->pushButton_Save_Cancel)) {
@@ -287,7 +287,7 @@ void VLK_Widget_Tmi_View::takeKeyAnswer(const QByteArray& answer)
 
 void VLK_Widget_Tmi_View::takeLiveKey(quint64 key)
 {
-    if (vlkDevice == nullptr || vlkDevice->mode() != kFirstProductionMode)
+    if (!vlkDevice || vlkDevice->mode() != kFirstProductionMode)
         ui_->lineEdit_TM->setText(keyHexText(key));
     else if (isVisible()) // the answer may come after the window was closed
         ui_->checkBox_Get_Auto_TMI->setChecked(true);

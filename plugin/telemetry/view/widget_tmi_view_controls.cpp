@@ -204,13 +204,12 @@ void VLK_Widget_Tmi_View::startSave(vlk::SaveSequence::Mode mode)
     if (!tookPeriod())
         return;
     TelemetryOrigin origin;
-    if (vlkDevice != nullptr)
+    if (vlkDevice)
         origin = {vlkDevice->model(), vlkDevice->vendor(), vlkDevice->trackerId1(), 0, {}};
     origin.timeOffset = times_.offset();
     origin.titles = setup_.titles;
-    // Of a vehicle without a name the tracker's number tells whose period it is.
-    const QString vehicle =
-        setup_.isNamed() || vlkDevice == nullptr ? setup_.objectName : vlkDevice->trackerId2();
+    // Where the vehicle has no name the tracker's number tells whose period it is.
+    const QString vehicle = setup_.isNamed() || !vlkDevice ? setup_.objectName : vlkDevice->trackerId2();
     save_.start(
         mode, times_.utc(*ui_->dateTimeEdit_First), times_.utc(*ui_->dateTimeEdit_Last), origin,
         periodFileName(vehicle, ui_->dateTimeEdit_First->dateTime(), ui_->dateTimeEdit_Last->dateTime()));
@@ -293,7 +292,7 @@ void VLK_Widget_Tmi_View::slot_GetTahoFile(szQueryTaho* request)
 
 void VLK_Widget_Tmi_View::slot_GetTahoFile_Read(const QString& name)
 {
-    if (vlkDevice == nullptr)
+    if (!vlkDevice)
         return;
     // The name comes from the tracker: only its last part may say where the file goes.
     const QString proposed =

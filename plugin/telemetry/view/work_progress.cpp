@@ -67,7 +67,7 @@ void WorkProgress::end()
 
 void WorkProgress::retranslate()
 {
-    text_->setText(what_ != nullptr ? tr(what_) : QString());
+    text_->setText(what_ ? tr(what_) : QString());
     cancel_->setText(tr("wrd_031"));
 }
 
