@@ -33,7 +33,7 @@ struct Finding
     const char* text = "";   // translation key
     QStringList arguments{}; // of the text, in the language of the moment
     QStringList paths{};     // of the settings that it names; the first one is where to go
-    // Of named settings of many parts (setting_parts.h) those that it speaks of.
+    // Which parts it speaks of where it names settings of many parts (setting_parts.h).
     std::vector<std::pair<QString, int>> parts{};
     std::vector<Mend> mends{}; // edits after which it is gone; none where only the user can know
 };

@@ -38,7 +38,7 @@ struct BoundRule
 
 const std::vector<BoundRule>& boundRules();
 
-// Of a path with the numbers of a rule in.
+// The place of a path in which the numbers of a rule stand.
 Place placeOf(const QString& path);
 int positionOf(Position position, Numbers numbers);
 

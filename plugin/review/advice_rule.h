@@ -126,7 +126,7 @@ constexpr Condition isUnread(const char* path, const char* codes)
     return {.test = Condition::Test::unread, .path = path, .text = codes};
 }
 
-// Of a condition whose path holds %2.
+// A condition on the numbers from 1 to `count`, which take the place of %2 in its path.
 constexpr Condition every(std::uint8_t count, Condition condition)
 {
     condition.over = Condition::Over::every;

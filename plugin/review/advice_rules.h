@@ -6,7 +6,7 @@
 
 namespace vlk::review::advice {
 
-// Of a record: the bytes in front of its fields, and those that it may have with them.
+// The bytes of a record in front of its fields, and those that it may have with them.
 inline constexpr int kRecordHead = 34;
 inline constexpr int kMostRecordBytes = 512;
 

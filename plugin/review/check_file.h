@@ -20,7 +20,7 @@ struct FileRemark
     Severity severity = Severity::warning;
     QString path;        // where to mend it
     QStringList paths{}; // of all settings that take part
-    // Of the setting, in the present language; null for what is no setting.
+    // Where the setting stands, in the present language; null for what is no setting.
     QString page{};
     QString caption{};
     QString text{}; // a sentence

@@ -24,7 +24,7 @@ struct ComparedFiles
 // A null path stands for the defaults: what the keys of the other file would read as if they were missing.
 ComparedFiles comparedFiles(const QString& before, const QString& after);
 
-// The same in words: `take` gets each difference in turn.
+// Compares two files in words: `take` gets each difference in turn.
 Comparison compareFiles(const QString& before, const QString& after, Secrets secrets,
                         const std::function<void(const Difference&, const DifferenceText&)>& take);
 

@@ -23,7 +23,7 @@ struct DifferenceText : SettingWords
 // `values`: those of the difference's table, which know the units of now.
 DifferenceText textOf(const Differences& differences, const Difference& difference, const Values& values,
                       Secrets secrets = Secrets::masked);
-// Of one whose key is -1.
+// The text of a difference whose key is -1.
 DifferenceText textOf(const Difference& difference, Secrets secrets = Secrets::masked);
 
 // What a side holds, beside what others do: of a setting of many parts those that differ from any of them.

@@ -46,16 +46,16 @@ public:
     std::vector<int> ownKeys() const;
     // What no setting reads, and differs.
     std::vector<Difference> strangers() const;
-    // Of a setting.
+    // Whether the sides differ in that setting.
     bool isDifferent(int table, int row) const;
     Difference differenceAt(int key) const;
     std::vector<Difference> all() const;
-    // The same with those first whose sections the quick window builds anew.
+    // All differences, those first whose sections the quick window builds anew.
     std::vector<Difference> allForQuick() const;
 
     // An edit has changed values of one of the configuration's tables.
     void update(const Values& values);
-    // The same where the side before moves along with the other, all but some keys.
+    // An edit has changed values, and the side before moves along with the other, all but some keys.
     void updateBoth(const Values& values, const std::vector<int>& fixed);
     // The quick window's values over those of the full one.
     void update(const FileState& full, const Values& quick);

@@ -14,7 +14,7 @@ namespace {
 
 using What = PresetProblem::What;
 
-// Of the settings that share the key the one that holds it now; -1 where the file would not have it.
+// The setting that holds the key now, of those that share it; -1 where the file would not have it.
 int rowOf(const Configuration& configuration, int key)
 {
     const FileKey& place = FileKeys::all()[key];

@@ -34,7 +34,7 @@ public:
     bool hasElement(const QString& path) const { return elements_.contains(path); }
     // Whether the path ends in a name that secrets have.
     bool looksSecret(const QString& path) const;
-    // Of a setting; -1 for one that files do not hold.
+    // The key of a setting; -1 for one that files do not hold.
     int of(int table, int row) const { return byRow_[table][row]; }
     // Those that hold the value of a setting: its own, and of one that several elements repeat all of them.
     const std::vector<int>& heldBy(int table, int row) const { return byHolder_[table][row]; }

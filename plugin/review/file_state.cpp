@@ -145,7 +145,7 @@ void FileState::take(const Values& values)
     }
 }
 
-// As it stands, and a load and a save leave it so.
+// Holds the text as it stands, as a load and a save would leave it.
 void FileState::hold(int key, int row, const QString& text)
 {
     Held& held = held_[key];

@@ -47,8 +47,8 @@ public:
     // The document as it stands; `root` is its element DEVICE. Of one that could not be read nothing is
     // there.
     static FileState ofDocument(CXmlSection& root);
-    // The same where it has been loaded already, and `saved` is what a save would write then. `paths`: of all
-    // keys, in the order of the document.
+    // The state of a document that has been loaded already; `saved` is what a save would write then. `paths`:
+    // of all keys, in the order of the document.
     static FileState ofDocument(CXmlSection& root, const Configuration& loaded);
     static FileState ofDocument(CXmlSection& root, const Configuration& loaded, const FileState& saved,
                                 QStringList* paths);

@@ -20,8 +20,8 @@ void writePreset(CXmlSection& root, const FileState& from, std::vector<int> keys
 
 bool isPersonal(int key);
 
-// Of a setting of many parts, such as the fields of a record, which a preset sets as a whole: how many of
-// them the text switches on. None for another key.
+// How many parts, such as the fields of a record, the text switches on in a setting that a preset sets as a
+// whole. None for another key.
 struct ChosenParts
 {
     int count = 0;
@@ -31,7 +31,7 @@ std::optional<ChosenParts> chosenParts(int key, const QString& text);
 
 // Whether a document says that it is a preset; others can be applied too.
 bool saysPreset(const CXmlSection& root);
-// Or a whole configuration, which gives whatever it is applied to every value that it has.
+// Whether a document says that it is a whole configuration; applied, it sets every value that it has.
 bool saysConfiguration(const CXmlSection& root);
 
 // A key of a preset that cannot be applied.
@@ -48,10 +48,10 @@ struct PresetProblem
     QString path;
     QString text;
     Change change = Change::none;
-    // Of a bad value: whose it is, and what it can be.
+    // Whose a bad value is, and what it can be.
     const Setting* setting = nullptr;
     Limits limits{};
-    // Of a value that another setting forbids: the row of that one in the same table, and what it is worth.
+    // The row in the same table of the setting that forbids the value, and what that one is worth.
     int cause = -1;
     QString causeValue{};
 };

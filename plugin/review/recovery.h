@@ -21,7 +21,7 @@ struct Unsaved
     // The documents that a save would have written, before the first edit and now.
     QByteArray before;
     QByteArray after;
-    // Of the quick window, where it was on show: its values by path, some of which no file holds.
+    // The values of the quick window by path, where it was on show; some of them no file holds.
     QMap<QString, QString> quick{};
 };
 

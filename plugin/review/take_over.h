@@ -30,8 +30,8 @@ void readAsEdited(Configuration& configuration, CXmlSection& root);
 
 void takeOver(Configuration& configuration, const FileState& from, const std::vector<int>& keys);
 
-// The same from the side before, with those that are needed; where a rule of a load stands against one of the
-// keys, what the rule ties to it comes along: of two lines that both claim the ignition the other one.
+// Takes keys over from the side before, with those that are needed; where a rule of a load stands against one
+// of the keys, what the rule ties to it comes along: of two lines that both claim the ignition the other one.
 // Gives all keys that were taken over.
 std::vector<int> takeOver(Configuration& configuration, const Differences& differences,
                           std::vector<int> keys);

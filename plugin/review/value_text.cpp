@@ -33,7 +33,7 @@ QString told(const Number& row, const QString& value, const char* unit)
     return row.hexadecimal ? value : withUnit(numberText(shownNumber(row, value), row.decimals), unit);
 }
 
-// Of an address without a digit nothing is told, although its signs stand in the file.
+// Nothing is told of an address without a digit, although its signs stand in the file.
 QString told(const Text& row, const QString& value, const char* /*unit*/)
 {
     const bool isEmpty = row.mask && std::none_of(value.begin(), value.end(),

@@ -12,14 +12,14 @@ QString captionText(const Setting& setting);
 // The heading that the setting stands under, behind those that it stands under itself: "Sensor 1 / Values:
 // 2".
 QString headingText(const Setting& setting);
-// Of an item in a list.
+// The text of an item in a list.
 QString codeText(const Code& code);
 
 // The value with its unit: "100 km/h", "on", "1 d 2 h", "NB+" as its label. A secret is told by dots.
 QString valueText(const Values& values, int row);
-// The same for another value of that setting, as a file holds it.
+// The text of another value of that setting, as a file holds it.
 QString valueText(const Values& values, int row, const QString& value);
-// Of a secret too; `unit` is that of now.
+// The text of a value, also of a secret; `unit` is that of now.
 QString valueText(const Setting& setting, const QString& value, const char* unit);
 
 } // namespace vlk
